@@ -1,0 +1,9 @@
+#include "App/UpdateChecker/AbstractUpdaterImpl.h"
+
+namespace Pelnar::App
+{
+
+AbstractUpdaterImpl::AbstractUpdaterImpl() = default;
+AbstractUpdaterImpl::~AbstractUpdaterImpl() = default;
+
+} // namespace Pelnar::App

@@ -1,0 +1,27 @@
+// IUpdateManagerObserver.h: what the host's observers of a check are told.
+// Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it dies.
+#pragma once
+
+#include "HostFramework/Version.h"
+#include "common/Export.h"
+
+namespace Pelnar::App
+{
+
+class PELNAR_EXPORT IUpdateManagerObserver
+{
+public:
+    /// The update dialog is about to be proposed; also in a silent check, and also when a check that the user asked for
+    /// found nothing newer. \a current is the running application's version, \a remote the one that the check reports.
+    virtual void OnUpdateFound(Core::Version const& current, Core::Version const& remote) = 0;
+    /// The user accepted the update in the dialog.
+    virtual void OnUpdateAccepted(Core::Version const& current, Core::Version const& remote) = 0;
+    /// The update dialog is about to be executed.
+    virtual void OnUpdateDialogOpening() = 0;
+    /// The update dialog has returned.
+    virtual void OnUpdateDialogClosed() = 0;
+
+    virtual ~IUpdateManagerObserver() = default;
+};
+
+} // namespace Pelnar::App

@@ -1,0 +1,17 @@
+// UpdateCheckResult.h: the outcome of a check.
+#pragma once
+
+#include <cstdint>
+
+namespace Pelnar::App
+{
+
+enum class UpdateCheckResult : std::int32_t
+{
+    None = 0,                 ///< no result; treated as NoUpdate
+    NoUpdate = 1,             ///< nothing newer, or the check could not be started
+    UpdateAvailable = 2,      ///< newer, with a major version that is not greater
+    MajorUpdateAvailable = 3, ///< newer, with a greater major version
+};
+
+} // namespace Pelnar::App

@@ -1,0 +1,31 @@
+// SUErrors.h: the domain and codes of every error that the engine reports.
+// The error's localizedDescription is one sentence that says what happened and what to do; NSUnderlyingErrorKey holds
+// the cause, with a domain of its own, where there is one.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#import <Sparkle/SUExport.h>
+
+SU_EXPORT extern NSString* const SUSparkleErrorDomain;
+
+enum
+{
+    SUAppcastParseError = 1000,
+    SUNoUpdateError = 1001,
+    SUAppcastError = 1002,
+
+    SUTemporaryDirectoryError = 2000,
+    SUDownloadError = 2001,
+
+    SUUnarchivingError = 3000,
+    SUSignatureError = 3001,
+    SUValidationError = 3002,
+
+    SUFileCopyFailure = 4000,
+    SURelaunchError = 4004,
+    SUInstallationError = 4005,
+    SUDowngradeError = 4006,
+    SUInstallationCancelledError = 4007,
+    SUNotWritableError = 4012,
+};

@@ -1,0 +1,51 @@
+#include "Foundation/FoundationText.h"
+
+namespace Pelnar::Foundation
+{
+
+QString ToQString(NSString* text)
+{
+    if (!text)
+    {
+        return {};
+    }
+    // getCharacters:range: copies straight into the string; UTF8String would convert twice and leave an autoreleased
+    // buffer behind.
+    static_assert(sizeof(unichar) == sizeof(QChar), "both are UTF-16 code units");
+    NSUInteger const length = [text length];
+    QString result(static_cast<int>(length), Qt::Uninitialized);
+    [text getCharacters:reinterpret_cast<unichar*>(result.data()) range:NSMakeRange(0, length)];
+    return result;
+}
+
+NSString* ToNSString(QString const& text)
+{
+    if (!text.isValidUtf16())
+    {
+        // Foundation makes no string of unpaired surrogates; the round trip replaces them.
+        return ToNSString(QString::fromUtf8(text.toUtf8()));
+    }
+    return [NSString stringWithCharacters:reinterpret_cast<unichar const*>(text.utf16())
+                                   length:static_cast<NSUInteger>(text.length())];
+}
+
+std::string ToUtf8(NSString* text)
+{
+    return ToQString(text).toStdString();
+}
+
+QUrl ToQUrl(NSURL* url)
+{
+    return url ? QUrl(ToQString([url absoluteString])) : QUrl();
+}
+
+NSURL* ToNSURL(QUrl const& url)
+{
+    if (url.isEmpty() || !url.isValid())
+    {
+        return nil;
+    }
+    return [NSURL URLWithString:ToNSString(QString::fromLatin1(url.toEncoded()))];
+}
+
+} // namespace Pelnar::Foundation

@@ -1,0 +1,57 @@
+// Retained.h: the owner of a reference to a Foundation object, given back on every way out of a scope.
+// Thread: the object's. Objective-C++ only.
+// Pools are the language's @autoreleasepool: on a raised exception, which stands in the pool itself, it leaves the
+// objects to the pool around it. A scope object would free the exception while it is under way.
+#pragma once
+
+#if !defined(__OBJC__)
+#error "Retained.h is for Objective-C++ sources."
+#endif
+
+#import <Foundation/Foundation.h>
+
+#include <utility>
+
+namespace Pelnar::Foundation
+{
+
+/// Holds one reference to an object, or nil.
+template <class T>
+class Retained
+{
+public:
+    Retained() = default;
+    /// Takes over a reference that the caller owns (from alloc, copy or retain).
+    static Retained Adopt(T* object)
+    {
+        Retained result;
+        result.m_object = object;
+        return result;
+    }
+    /// Takes a reference of its own.
+    static Retained Share(T* object) { return Adopt([object retain]); }
+
+    Retained(Retained const& other)
+        : m_object([other.m_object retain])
+    {
+    }
+    Retained(Retained&& other) noexcept
+        : m_object(std::exchange(other.m_object, nil))
+    {
+    }
+    Retained& operator=(Retained other) noexcept
+    {
+        std::swap(m_object, other.m_object);
+        return *this;
+    }
+    ~Retained() { [m_object release]; }
+
+    T* Get() const { return m_object; }
+    explicit operator bool() const { return m_object != nil; }
+    void Reset() { *this = Retained(); }
+
+private:
+    T* m_object = nil;
+};
+
+} // namespace Pelnar::Foundation

@@ -1,0 +1,44 @@
+// Application.h: the host's application object, the one QCoreApplication of the process.
+// Thread: the Qt main thread. Ownership: made by the host's main function; it owns the services it lends.
+#pragma once
+
+#include "common/Export.h"
+
+#include <QApplication>
+
+#include <memory>
+
+namespace Pelnar::App
+{
+
+class ICustomizationManager;
+class ILinksManager;
+namespace NagScreen
+{
+class Manager;
+}
+
+class PELNAR_EXPORT Application : public QApplication
+{
+    Q_OBJECT
+
+public:
+    /// As for QApplication: \a argc and \a argv must stay valid as long as the object.
+    Application(int& argc, char** argv);
+    ~Application() override;
+
+    /// The process's application object. REQUIRES: it is a Pelnar::App::Application.
+    static Application* Instance();
+
+    /// The three services of a check; the updater takes them once for each check, in this order. The updater does not
+    /// test the first two against null.
+    virtual std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const = 0;
+    virtual std::shared_ptr<ICustomizationManager> GetCustomizationManager() const = 0;
+    virtual std::shared_ptr<ILinksManager> GetLinksManager() const = 0;
+
+    /// Asks the application to quit so that an update can be installed; false when something (unsaved work, say) holds
+    /// it back.
+    virtual bool TryToQuit() = 0;
+};
+
+} // namespace Pelnar::App

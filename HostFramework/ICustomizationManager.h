@@ -1,0 +1,29 @@
+// ICustomizationManager.h: what the running application calls itself, and its version.
+// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
+// host to implement.
+#pragma once
+
+#include "HostFramework/Version.h"
+#include "common/Export.h"
+
+#include <string>
+
+namespace Pelnar::App
+{
+
+class PELNAR_EXPORT ICustomizationManager
+{
+public:
+    virtual ~ICustomizationManager() = default;
+
+    /// The name shown to the user, in UTF-8.
+    virtual std::string GetDisplayName() const = 0;
+    /// The version of the running application.
+    virtual Core::Version GetApplicationVersion() const = 0;
+    /// The two words of the application bundle's name: "First Second.app", or "First Second N.app" from
+    /// major version N = 2 on.
+    virtual std::string GetBundleNameFirstPart() const = 0;
+    virtual std::string GetBundleNameSecondPart() const = 0;
+};
+
+} // namespace Pelnar::App

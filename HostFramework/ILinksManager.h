@@ -1,0 +1,23 @@
+// ILinksManager.h: the addresses behind the link keys.
+// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
+// host to implement.
+#pragma once
+
+#include "common/Export.h"
+#include "common/LinkKeys.h"
+
+#include <QString>
+
+namespace Pelnar::App
+{
+
+class PELNAR_EXPORT ILinksManager
+{
+public:
+    virtual ~ILinksManager() = default;
+
+    /// The address for \a key, or an empty string. The updater asks for URLKeys::SPARKLE_APPCAST_URL only.
+    virtual QString GetLink(URLKeys key) const = 0;
+};
+
+} // namespace Pelnar::App

@@ -1,0 +1,90 @@
+// Version.h: the version value that the host framework, the updater and the session share.
+// Thread: a plain value. Ownership: none. The interface is part of what a host framework provides.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace Pelnar::Core
+{
+
+/// Four signed 32-bit components, most significant first; -1 marks an absent one. The default value has no component
+/// at all and is the invalid version.
+class Version
+{
+public:
+    static constexpr int COMPONENT_COUNT = 4;
+    static constexpr std::int32_t ABSENT = -1;
+
+    constexpr Version() = default;
+    explicit constexpr Version(std::int32_t majorNumber, std::int32_t minorNumber = ABSENT,
+                               std::int32_t patchNumber = ABSENT, std::int32_t buildNumber = ABSENT)
+        : m_components{majorNumber, minorNumber, patchNumber, buildNumber}
+    {
+    }
+
+    constexpr std::int32_t Major() const { return m_components[0]; }
+    constexpr std::int32_t Minor() const { return m_components[1]; }
+    constexpr std::int32_t Patch() const { return m_components[2]; }
+    constexpr std::int32_t Build() const { return m_components[3]; }
+
+    /// All four, absent ones included.
+    constexpr std::array<std::int32_t, COMPONENT_COUNT> const& Components() const { return m_components; }
+
+    /// True when the first component is not -1 and no other one is below -1. Deliberate: absent components after the
+    /// first, wherever they stand, do not make a version invalid, and neither does a first component below -1.
+    constexpr bool IsValid() const
+    {
+        return m_components[0] != ABSENT && m_components[1] >= ABSENT && m_components[2] >= ABSENT &&
+               m_components[3] >= ABSENT;
+    }
+
+private:
+    std::array<std::int32_t, COMPONENT_COUNT> m_components{ABSENT, ABSENT, ABSENT, ABSENT};
+};
+
+/// The comparisons look at the raw components, first to last: 5.1 is less than 5.1.0. Compare versions of unlike length
+/// after ShrinkVersion.
+constexpr bool operator<(Version const& a, Version const& b)
+{
+    for (int i = 0; i < Version::COMPONENT_COUNT; ++i)
+    {
+        if (a.Components()[i] != b.Components()[i])
+        {
+            return a.Components()[i] < b.Components()[i];
+        }
+    }
+    return false;
+}
+constexpr bool operator==(Version const& a, Version const& b)
+{
+    return a.Components()[0] == b.Components()[0] && a.Components()[1] == b.Components()[1] &&
+           a.Components()[2] == b.Components()[2] && a.Components()[3] == b.Components()[3];
+}
+constexpr bool operator!=(Version const& a, Version const& b) { return !(a == b); }
+constexpr bool operator>(Version const& a, Version const& b) { return b < a; }
+constexpr bool operator<=(Version const& a, Version const& b) { return !(b < a); }
+constexpr bool operator>=(Version const& a, Version const& b) { return !(a < b); }
+
+namespace Util
+{
+
+/// The first \a componentCount components of \a version (1 to 4), absent ones read as 0; the rest is absent. An invalid
+/// version stays as it is. 5.1 and 5.1.0 are equal once both are shrunk to four components.
+constexpr Version ShrinkVersion(Version const& version, int componentCount)
+{
+    if (!version.IsValid())
+    {
+        return version;
+    }
+    std::array<std::int32_t, Version::COMPONENT_COUNT> shrunk{Version::ABSENT, Version::ABSENT, Version::ABSENT,
+                                                              Version::ABSENT};
+    for (int i = 0; i < Version::COMPONENT_COUNT && i < componentCount; ++i)
+    {
+        shrunk[i] = version.Components()[i] == Version::ABSENT ? 0 : version.Components()[i];
+    }
+    return Version(shrunk[0], shrunk[1], shrunk[2], shrunk[3]);
+}
+
+} // namespace Util
+} // namespace Pelnar::Core

@@ -1,0 +1,36 @@
+# Everything the project takes from outside, found in one place. The matching Debian packages stand in scripts/packages.
+
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network)
+find_package(glog REQUIRED)
+find_package(Boost REQUIRED)
+
+if(APPLE)
+    find_library(PELNAR_FOUNDATION Foundation REQUIRED)
+    find_library(PELNAR_SPARKLE Sparkle REQUIRED)
+    add_library(pelnar_objc_runtime INTERFACE)
+    target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_FOUNDATION})
+else()
+    # GNUstep's Foundation over GCC's Objective-C runtime, compiled by clang. The runtime's headers and library belong
+    # to GCC, so GCC is asked where they are.
+    execute_process(COMMAND gcc -print-file-name=include
+        OUTPUT_VARIABLE PELNAR_GCC_INCLUDE OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    execute_process(COMMAND gcc -print-file-name=libobjc.so
+        OUTPUT_VARIABLE PELNAR_LIBOBJC OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    find_library(PELNAR_GNUSTEP_BASE gnustep-base REQUIRED)
+
+    add_library(pelnar_objc_runtime INTERFACE)
+    target_compile_options(pelnar_objc_runtime INTERFACE
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gcc;-fexceptions;-fobjc-exceptions;-fconstant-string-class=NSConstantString>"
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-idirafter ${PELNAR_GCC_INCLUDE}>"
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-isystem /usr/include/GNUstep>")
+    target_compile_definitions(pelnar_objc_runtime INTERFACE
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:GNUSTEP;GNUSTEP_BASE_LIBRARY=1;GNU_RUNTIME=1;_NATIVE_OBJC_EXCEPTIONS>")
+    target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_GNUSTEP_BASE} ${PELNAR_LIBOBJC})
+endif()
+
+if(PELNAR_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+endif()
+if(PELNAR_BUILD_BENCHMARKS)
+    find_package(benchmark REQUIRED)
+endif()

@@ -1,0 +1,12 @@
+# pelnar_target(<name>): what every target of ours is compiled with.
+function(pelnar_target name)
+    target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
+    target_compile_definitions(${name} PRIVATE
+        QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY QT_NO_URL_CAST_FROM_STRING
+        QT_NO_KEYWORDS QT_NO_FOREACH QT_NO_NARROWING_CONVERSIONS_IN_CONNECT QT_DISABLE_DEPRECATED_BEFORE=0x050F00)
+    target_compile_options(${name} PRIVATE -Wall -Wextra -Wshadow)
+    if(PELNAR_WARNINGS_AS_ERRORS)
+        target_compile_options(${name} PRIVATE -Werror)
+    endif()
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+endfunction()

@@ -1,0 +1,30 @@
+// IGateway.h: the seam through which the update manager asks the host to run something that the user will see.
+// Thread: the Qt main thread. Ownership: held by std::shared_ptr; an action's callback may outlive the one who
+// proposed it and guards itself against that.
+#pragma once
+
+#include "common/Export.h"
+
+#include <functional>
+#include <string>
+
+namespace Pelnar::ExternalStimulus
+{
+
+struct Action
+{
+    std::string id;                 ///< names the kind of request
+    std::function<void()> callback; ///< what to run when the host grants the request; may be empty
+};
+
+class PELNAR_EXPORT IGateway
+{
+public:
+    virtual ~IGateway() = default;
+    /// Runs \a action's callback now, later or never, at the host's choice; at most once.
+    virtual void ProposeAction(Action const& action) = 0;
+    /// Forgets every action named \a id that has not been run yet.
+    virtual void CancelActions(std::string const& id) = 0;
+};
+
+} // namespace Pelnar::ExternalStimulus

@@ -1,0 +1,52 @@
+// NotNull.h: a pointer, plain or shared, that is never null.
+// Thread: as the pointer it wraps. Ownership: as the pointer it wraps; moving out of one copies, so that the source
+// keeps its promise.
+#pragma once
+
+#include <memory>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+
+namespace Pelnar
+{
+
+template <class T>
+class NotNull
+{
+public:
+    using element_type = typename std::pointer_traits<T>::element_type;
+
+    /// Throws std::logic_error with the text "NotNull can not initialized by null" when \a pointer is null.
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U, T>>>
+    NotNull(U pointer)
+        : m_pointer(std::move(pointer))
+    {
+        if (!m_pointer)
+        {
+            throw std::logic_error("NotNull can not initialized by null");
+        }
+    }
+
+    template <class U, class = std::enable_if_t<std::is_convertible_v<U, T>>>
+    NotNull(NotNull<U> const& other)
+        : m_pointer(other.Get())
+    {
+    }
+
+    NotNull(NotNull const&) = default;
+    NotNull& operator=(NotNull const&) = default;
+
+    T const& Get() const { return m_pointer; }
+    operator T const&() const { return m_pointer; }
+    element_type& operator*() const { return *m_pointer; }
+    element_type* operator->() const { return std::addressof(*m_pointer); }
+
+private:
+    T m_pointer;
+};
+
+template <class T>
+using SharedNotNullPtr = NotNull<std::shared_ptr<T>>;
+
+} // namespace Pelnar

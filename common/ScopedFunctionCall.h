@@ -1,0 +1,39 @@
+// ScopedFunctionCall.h: runs one function on entering a scope and another on every way out of it.
+// Thread: the scope's. Ownership: the guard owns copies of both functions.
+#pragma once
+
+#include <functional>
+
+namespace Pelnar::Core
+{
+
+class ScopedFunctionCall
+{
+public:
+    /// Runs \a onEnter at once, unless it is empty. \a active says whether the pair is called at all.
+    ScopedFunctionCall(std::function<void()> const& onEnter, std::function<void()> const& onExit, bool active)
+        : m_onExit(active ? onExit : std::function<void()>())
+    {
+        if (active && onEnter)
+        {
+            onEnter();
+        }
+    }
+
+    /// Runs the exit function, unless it is empty; it must not throw.
+    ~ScopedFunctionCall()
+    {
+        if (m_onExit)
+        {
+            m_onExit();
+        }
+    }
+
+    ScopedFunctionCall(ScopedFunctionCall const&) = delete;
+    ScopedFunctionCall& operator=(ScopedFunctionCall const&) = delete;
+
+private:
+    std::function<void()> m_onExit;
+};
+
+} // namespace Pelnar::Core

@@ -1,0 +1,84 @@
+// SparkleManager_p.h: the session's implementation record, for the session's own sources. Objective-C++ only.
+// Thread: the Qt main thread; `locked` alone is atomic, so that a lock attempt cannot slip between test and set.
+// Ownership: the session owns the framework's objects below; the delegate and the comparator point back without owning.
+#pragma once
+
+#if !defined(__OBJC__)
+#error "SparkleManager_p.h is for the session's Objective-C++ sources."
+#endif
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+
+#import <Sparkle/Sparkle.h>
+
+#include <QVariantMap>
+
+#include <atomic>
+#include <functional>
+#include <memory>
+#include <string>
+
+@class PelnarSparkleUpdaterDelegate;
+@class PelnarSparkleVersionComparator;
+
+namespace Pelnar::App
+{
+
+struct SparkleUpdateContext;
+
+class SparkleManager::Impl
+{
+public:
+    Impl();
+    ~Impl();
+    Impl(Impl const&) = delete;
+    Impl& operator=(Impl const&) = delete;
+
+    // Lock, context and state.
+    [[nodiscard]] bool Lock();
+    void SetContext(SharedNotNullPtr<SparkleUpdateContext> const& newContext);
+    void Unlock();
+    void UnlockIfRequested();
+    void SetState(Session::State newState);
+    void NotifyCheckFinished();
+
+    // Guards: true silently, or one error record and false. All but the first REQUIRE a context.
+    [[nodiscard]] bool EnsureContext() const;
+    [[nodiscard]] bool EnsureCheckFinishedCallback() const;
+    [[nodiscard]] bool EnsureLocalVersion() const;
+    [[nodiscard]] bool EnsureRemoteVersion() const;
+    [[nodiscard]] bool EnsureVersionOperators() const;
+    /// Throws std::bad_function_call when an operator that it needs is missing.
+    [[nodiscard]] bool EnsureRemoteVersionIsGreaterThanLocal() const;
+
+    // The framework's objects.
+    void CreateUpdater();
+    void DestroyUpdater();
+
+    // The appcast selection.
+    Session::UpdateType DetectUpdateType(SUAppcastItem* item) const;
+    QVariantMap DetectExtensions(SUAppcastItem* item) const;
+    [[nodiscard]] bool ValidateAppcastItem(SUAppcastItem* item) const;
+    /// Either may be nil; nil when neither is valid.
+    SUAppcastItem* SelectBestValidAppcastItem(SUAppcastItem* a, SUAppcastItem* b) const;
+    /// The delegate's whole answer; writes its records and bestItemIsDelta.
+    SUAppcastItem* SelectBestOfAppcast(SUAppcast* appcast);
+    void PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const;
+
+    // In the order in which they are made; see CreateUpdater for the order of the first three.
+    SUUpdater* updater = nil;
+    PelnarSparkleUpdaterDelegate* delegate = nil;
+    PelnarSparkleVersionComparator* comparator = nil;
+    std::shared_ptr<SparkleUpdateContext> context; ///< of the updater that last took the lock; unlocking keeps it
+    std::atomic<bool> locked{false};
+    bool unlockRequested = false; ///< unlock when a callback next returns the state to WAITING
+    Session::State state = Session::State::WAITING;
+    Session::UpdateType updateType = Session::UpdateType::UNKNOWN; ///< of the update last reported
+    QVariantMap extensions;                                        ///< of the update last reported
+    bool bestItemIsDelta = false;
+    std::function<void()> closeDialog; ///< set while the session shows a dialog
+};
+
+} // namespace Pelnar::App

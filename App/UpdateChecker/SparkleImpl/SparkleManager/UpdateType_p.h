@@ -1,0 +1,46 @@
+// UpdateType_p.h: the kinds of update package, their names and the order in which they are wanted. Plain C++, private
+// to the session. Thread: values and constants.
+#pragma once
+
+#include <QList>
+#include <QString>
+
+#include <cstdint>
+
+namespace Pelnar::App::Session
+{
+
+enum class UpdateType : std::int32_t
+{
+    UNKNOWN = 0,   ///< not classified; detection never answers it
+    INSTALLER = 1, ///< the download's file name marks a guided or interactive installation
+    BUNDLE = 2,    ///< any other full download
+    DELTA = 3,     ///< a delta update
+};
+
+/// The name that every record prints; "Unknown UpdateType" for a value outside the four.
+constexpr char const* UpdateTypeName(UpdateType type)
+{
+    switch (type)
+    {
+    case UpdateType::UNKNOWN:
+        return "UNKNOWN";
+    case UpdateType::INSTALLER:
+        return "INSTALLER";
+    case UpdateType::BUNDLE:
+        return "BUNDLE";
+    case UpdateType::DELTA:
+        return "DELTA";
+    }
+    return "Unknown UpdateType";
+}
+
+/// Most wanted first. Deliberate: the two differ; a major update wants its installer before a delta.
+extern QList<UpdateType> const UPDATE_TYPE_PRIORITIES_FOR_MAJOR_UPDATE;
+extern QList<UpdateType> const UPDATE_TYPE_PRIORITIES_FOR_MINOR_UPDATE;
+
+/// The kind of a download: a delta before anything else is looked at, else by its fully decoded file name, in which
+/// the markers are searched anywhere and with their case.
+UpdateType DetectUpdateType(bool isDelta, QString const& fileName);
+
+} // namespace Pelnar::App::Session

@@ -1,0 +1,274 @@
+#!/usr/bin/env python3
+"""Checks the rules of the project that no compiler checks.
+
+Usage: check_rules.py ROOT          check the tree below ROOT; every finding is a line FILE:LINE: RULE: what
+       check_rules.py --self-test   prove that each rule finds what it forbids and lets the rest pass
+"""
+
+import pathlib
+import re
+import sys
+
+SOURCE_ENDINGS = {".cpp", ".h", ".mm"}
+
+# What a folder may include from the project, besides itself. A longer path wins over a shorter one.
+LAYERS = {
+    "common": set(),
+    "HostFramework": {"common"},
+    "HostFramework/Reference": {"HostFramework", "common"},
+    "Foundation": set(),
+    "Engine/include": set(),
+    "Engine/core": set(),
+    "Engine/objc": {"Engine/core", "Engine/include", "Foundation"},
+    "Engine/ui": {"Engine/core"},
+    "Installer": {"Engine/core"},
+    "App/UpdateChecker": {"App/UpdateChecker/SparkleImpl/UpdaterSparkle", "HostFramework", "common"},
+    "App/UpdateChecker/SparkleImpl/UpdaterSparkle": {
+        "App/UpdateChecker",
+        "App/UpdateChecker/SparkleImpl/SparkleManager",
+        "HostFramework",
+        "common",
+    },
+    "App/UpdateChecker/SparkleImpl/SparkleManager": {
+        "App/UpdateChecker/SparkleImpl/UpdaterSparkle",
+        "Foundation",
+        "HostFramework",
+        "common",
+    },
+}
+# The record lent to the session is the one header of its neighbour that the session may know.
+SESSION = "App/UpdateChecker/SparkleImpl/SparkleManager"
+LENT_RECORD = "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
+# Of the front, the back end knows the interface that it implements.
+BACK_END = "App/UpdateChecker/SparkleImpl/UpdaterSparkle"
+BACK_END_INTERFACE = {
+    "App/UpdateChecker/AbstractUpdaterImpl.h",
+    "App/UpdateChecker/UpdateCheckResult.h",
+}
+FRAMEWORK_READERS = (SESSION, "Engine/")
+PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/")
+
+INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+["<]([^">]+)[">]')
+
+
+def layer_of(path):
+    """The longest entry of LAYERS that holds the path, or None."""
+    holders = [layer for layer in LAYERS if path == layer or path.startswith(layer + "/")]
+    return max(holders, key=len, default=None)
+
+
+def check_include(path, header, root):
+    layer = layer_of(path)
+    if header.startswith("Sparkle/"):
+        reads_framework = path.startswith(FRAMEWORK_READERS) and (path.endswith(".mm") or path.endswith(".h"))
+        if not reads_framework and not path.startswith("tests/") and not path.startswith("bench/"):
+            return "the framework is known to the session's Objective-C++ and to the engine only"
+        return None
+    if layer is None or not (root / header).exists():
+        return None
+    target = layer_of(header)
+    if target is None:
+        return f"{layer} may not include {header}"
+    if target == layer:
+        return None
+    if target not in LAYERS[layer]:
+        return f"{layer} may not include {header}"
+    if layer == SESSION and target == BACK_END and header != LENT_RECORD:
+        return f"of the back end, the session may include {LENT_RECORD} only"
+    if layer == BACK_END and target == "App/UpdateChecker" and header not in BACK_END_INTERFACE:
+        return "of the front, the back end may include the updater interface only"
+    return None
+
+
+LINE_RULES = [
+    # name, paths it applies to, pattern, what to say
+    (
+        "catch-in-objective-c++",
+        lambda p: p.endswith(".mm"),
+        re.compile(r"(?<!@)\bcatch\s*\("),
+        "a C++ catch in Objective-C++ ends the process; move it to a .cpp file",
+    ),
+    (
+        "try-outside-helper",
+        lambda p: p.endswith((".mm", ".h")) and p != "Foundation/RaisedException.mm",
+        re.compile(r"@try\b|@catch\b|@finally\b"),
+        "raised exceptions are caught in Foundation/RaisedException.mm only",
+    ),
+    (
+        "compiler-made-log-site",
+        lambda p: p.startswith("App/"),
+        re.compile(r"__LINE__|__PRETTY_FUNCTION__|\b(?:LOG|VLOG)\s*\("),
+        "records of the update checker come from named log sites",
+    ),
+    (
+        "tls-errors-ignored",
+        lambda p: True,
+        re.compile(r"\bignoreSslErrors\b|\bVerifyNone\b|\bQueryPeer\b"),
+        "no TLS error is ever ignored",
+    ),
+    (
+        "mixed-language-header",
+        lambda p: p.endswith(".h"),
+        re.compile(r"#\s*(?:ifdef\s+__OBJC__|if\s+defined\s*\(?\s*__OBJC__)"),
+        "a header is C++ or Objective-C++, never both",
+    ),
+    (
+        "manual-dealloc",
+        lambda p: p.endswith(".mm") and p.startswith(PRODUCT_FOLDERS),
+        re.compile(r"\[super dealloc\]"),
+        "ownership is held by C++ members",
+    ),
+    (
+        "switch-default",
+        lambda p: p.startswith(PRODUCT_FOLDERS),
+        re.compile(r"^\s*default\s*:"),
+        "a switch over an enumeration names every value; the rest follows the switch",
+    ),
+    (
+        "shell",
+        lambda p: p.startswith(PRODUCT_FOLDERS),
+        re.compile(r"\b(?:std::)?system\s*\(|\bpopen\s*\(|/bin/sh\b"),
+        "no product code runs a shell",
+    ),
+    (
+        "sleep-in-test",
+        lambda p: p.startswith("tests/"),
+        re.compile(r"\bsleep_for\b|\busleep\s*\(|\bQThread::m?sleep\b|\bQTest::qSleep\b"),
+        "tests wait for a condition, never for a time",
+    ),
+    (
+        "left-over",
+        lambda p: p.startswith(PRODUCT_FOLDERS),
+        re.compile(r"\b(?:TODO|FIXME|XXX|HACK)\b"),
+        "finish it or leave it out",
+    ),
+]
+
+
+def strip_comment(line):
+    """The line without a trailing // comment; text in quotes keeps its slashes."""
+    out, quote, i = [], None, 0
+    while i < len(line):
+        c = line[i]
+        if quote:
+            if c == "\\":
+                out.append(line[i : i + 2])
+                i += 2
+                continue
+            if c == quote:
+                quote = None
+        elif c in "\"'":
+            quote = c
+        elif line.startswith("//", i):
+            break
+        out.append(c)
+        i += 1
+    return "".join(out)
+
+
+def check_text(path, text, root):
+    findings = []
+    lines = text.splitlines()
+    if not path.startswith(("tests/", "fuzz/", "bench/")) and path.endswith(".h"):
+        if not lines or not lines[0].startswith("// " + pathlib.PurePosixPath(path).name + ": "):
+            findings.append((1, "header-opening", "a header opens with its name and what it is"))
+    for number, line in enumerate(lines, 1):
+        include = INCLUDE.match(line)
+        if include:
+            said = check_include(path, include.group(1), root)
+            if said:
+                findings.append((number, "layers", said))
+            continue
+        code = strip_comment(line)
+        for name, applies, pattern, said in LINE_RULES:
+            subject = line if name == "left-over" else code
+            if applies(path) and pattern.search(subject):
+                findings.append((number, name, said))
+    return findings
+
+
+def check_tree(root):
+    findings = []
+    for file in sorted(root.rglob("*")):
+        path = file.relative_to(root).as_posix()
+        if path.startswith(("build/", ".git/")) or file.suffix not in SOURCE_ENDINGS:
+            continue
+        for number, rule, said in check_text(path, file.read_text(encoding="utf-8"), root):
+            findings.append(f"{path}:{number}: {rule}: {said}")
+    return findings
+
+
+class EveryHeaderExists:
+    """Stands for a tree in which whatever is included exists."""
+
+    def __truediv__(self, _):
+        return self
+
+    def exists(self):
+        return True
+
+
+def self_test():
+    opening = "// X.h: a thing.\n"
+    forbidden = [
+        ("layers", "common/X.cpp", '#include "HostFramework/Version.h"'),
+        ("layers", "HostFramework/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("layers", "Engine/core/X.cpp", '#include "Foundation/Retained.h"'),
+        ("layers", "Engine/objc/X.mm", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("layers", "Engine/objc/X.mm", '#include "HostFramework/Version.h"'),
+        ("layers", "App/UpdateChecker/X.cpp", '#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"'),
+        ("layers", SESSION + "/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("layers", SESSION + "/X.cpp", '#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"'),
+        ("layers", BACK_END + "/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("layers", "App/UpdateChecker/X.cpp", "#import <Sparkle/Sparkle.h>"),
+        ("layers", SESSION + "/X.cpp", "#import <Sparkle/Sparkle.h>"),
+        ("layers", "Engine/core/X.cpp", '#include "tests/support/LogCapture.h"'),
+        ("catch-in-objective-c++", SESSION + "/X.mm", "    catch (...)"),
+        ("try-outside-helper", "Engine/objc/X.mm", "    @try"),
+        ("compiler-made-log-site", "App/UpdateChecker/X.cpp", 'LOG(ERROR) << "x";'),
+        ("tls-errors-ignored", "Engine/core/X.cpp", "reply->ignoreSslErrors();"),
+        ("mixed-language-header", "Foundation/X.h", "#ifdef __OBJC__"),
+        ("manual-dealloc", "Engine/objc/X.mm", "    [super dealloc];"),
+        ("switch-default", "Engine/core/X.cpp", "    default:"),
+        ("shell", "Installer/X.cpp", 'system("ls");'),
+        ("sleep-in-test", "tests/app/X.cpp", "QThread::msleep(5);"),
+        ("left-over", "common/X.cpp", "// TODO later"),
+        ("header-opening", "common/X.h", "#pragma once"),
+    ]
+    allowed = [
+        ("common/X.cpp", '#include "common/NotNull.h"'),
+        ("App/UpdateChecker/X.cpp", '#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"'),
+        (SESSION + "/X.mm", "#import <Sparkle/Sparkle.h>"),
+        (SESSION + "/X.mm", f'#include "{LENT_RECORD}"'),
+        (BACK_END + "/X.cpp", '#include "App/UpdateChecker/AbstractUpdaterImpl.h"'),
+        ("tests/app/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("Foundation/RaisedException.mm", "    @catch (NSException* exception)"),
+        (SESSION + "/X.mm", "    // a catch (here) would end the process"),
+        ("common/X.cpp", 'char const* text = "// no comment, and no default:";'),
+        ("common/X.h", opening),
+    ]
+    failures = []
+    tree = EveryHeaderExists()
+    for rule, path, line in forbidden:
+        text = line if rule == "header-opening" else (opening if path.endswith(".h") else "") + line
+        if rule not in [found[1] for found in check_text(path, text, tree)]:
+            failures.append(f"{rule} does not find: {path}: {line}")
+    for path, line in allowed:
+        for _, rule, said in check_text(path, line, tree):
+            failures.append(f"{rule} finds wrongly: {path}: {line}: {said}")
+    return failures
+
+
+def main(arguments):
+    if len(arguments) != 1:
+        print(__doc__, file=sys.stderr)
+        return 2
+    findings = self_test() if arguments[0] == "--self-test" else check_tree(pathlib.Path(arguments[0]))
+    for finding in findings:
+        print(finding)
+    print(f"{len(findings)} finding(s)")
+    return 1 if findings else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))

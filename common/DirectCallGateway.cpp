@@ -11,8 +11,6 @@ void DirectCallGateway::ProposeAction(Action const& action)
     }
 }
 
-void DirectCallGateway::CancelActions(std::string const&)
-{
-}
+void DirectCallGateway::CancelActions(std::string const&) {}
 
 } // namespace Pelnar::ExternalStimulus

@@ -3,6 +3,7 @@
 // The numbers are part of the interface with the host framework; those missing here are its own.
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <string>
 #include <utility>
@@ -56,55 +57,12 @@ enum class URLKeys : int
     CHANGELOG_URL = 66,
 };
 
-/// Builds the table below; every pair goes to the end of the map, since the list is in the order of the keys.
-inline std::map<URLKeys, std::string> MakeLinkKeyNames()
+/// Puts every pair at the end of the map, since \a pairs is in the order of the keys; the first of two for one key
+/// stays.
+inline std::map<URLKeys, std::string> MakeLinkKeyNames(std::initializer_list<std::pair<URLKeys, char const*>> pairs)
 {
-    static constexpr std::pair<URLKeys, char const*> PAIRS[] = {
-        {URLKeys::FEEDBACK_URL, "FEEDBACK_URL"},
-        {URLKeys::MULTIPLE_AUDIO_MORE_URL_other, "MULTIPLE_AUDIO_MORE_URL_other"},
-        {URLKeys::REVIEW_FOR_APPSTORE_URL, "REVIEW_FOR_APPSTORE_URL"},
-        {URLKeys::SPARKLE_APPCAST_URL, "SPARKLE_APPCAST_URL"},
-        {URLKeys::DEVICE_DETECT_MORE_URL, "DEVICE_DETECT_MORE_URL"},
-        {URLKeys::FORUM_URL_socialtab, "FORUM_URL_socialtab"},
-        {URLKeys::FORUM_URL_menu, "FORUM_URL_menu"},
-        {URLKeys::INSTAGRAM_URL_socialtab, "INSTAGRAM_URL_socialtab"},
-        {URLKeys::INSTAGRAM_URL_menu, "INSTAGRAM_URL_menu"},
-        {URLKeys::FACEBOOK_URL_socialtab, "FACEBOOK_URL_socialtab"},
-        {URLKeys::FACEBOOK_URL_menu, "FACEBOOK_URL_menu"},
-        {URLKeys::ODNOKLASSNIKI_URL_socialtab, "ODNOKLASSNIKI_URL_socialtab"},
-        {URLKeys::ODNOKLASSNIKI_URL_menu, "ODNOKLASSNIKI_URL_menu"},
-        {URLKeys::GOOGLE_PLUS_URL_socialtab, "GOOGLE_PLUS_URL_socialtab"},
-        {URLKeys::GOOGLE_PLUS_URL_menu, "GOOGLE_PLUS_URL_menu"},
-        {URLKeys::VKONTAKTE_URL_socialtab, "VKONTAKTE_URL_socialtab"},
-        {URLKeys::VKONTAKTE_URL_menu, "VKONTAKTE_URL_menu"},
-        {URLKeys::YOU_TUBE_URL_socialtab, "YOU_TUBE_URL_socialtab"},
-        {URLKeys::YOU_TUBE_URL_menu, "YOU_TUBE_URL_menu"},
-        {URLKeys::LOSSLESS_ENCODING_MORE_URL_settings, "LOSSLESS_ENCODING_MORE_URL_settings"},
-        {URLKeys::FAQ_URL_menu, "FAQ_URL_menu"},
-        {URLKeys::HOMEPAGE_URL_menu, "HOMEPAGE_URL_menu"},
-        {URLKeys::HOMEPAGE_URL_menuabout, "HOMEPAGE_URL_menuabout"},
-        {URLKeys::HOMEPAGE_URL_socialtab, "HOMEPAGE_URL_socialtab"},
-        {URLKeys::HOMEPAGE_URL, "HOMEPAGE_URL"},
-        {URLKeys::DOWNLOAD_URL_checkupdatest, "DOWNLOAD_URL_checkupdatest"},
-        {URLKeys::UPGRADE_URL_checkupdatest, "UPGRADE_URL_checkupdatest"},
-        {URLKeys::HELP_URL_menu, "HELP_URL_menu"},
-        {URLKeys::LIVECHAT_URL_menu, "LIVECHAT_URL_menu"},
-        {URLKeys::LIVECHAT_URL_other, "LIVECHAT_URL_other"},
-        {URLKeys::BAD_CODECS_PAGE_other, "BAD_CODECS_PAGE_other"},
-        {URLKeys::CONTACT_SUPPORT_menu, "CONTACT_SUPPORT_menu"},
-        {URLKeys::GET_MORE_SOFTWARE_URL_menu, "GET_MORE_SOFTWARE_URL_menu"},
-        {URLKeys::UPLOAD_ITUNES_URL_other, "UPLOAD_ITUNES_URL_other"},
-        {URLKeys::CUSTOM_ABOUT_URL, "CUSTOM_ABOUT_URL"},
-        {URLKeys::CUSTOM_ABOUT_CAPTION_URL, "CUSTOM_ABOUT_CAPTION_URL"},
-        {URLKeys::THANK_FOR_INSTALL_URL, "THANK_FOR_INSTALL_URL"},
-        {URLKeys::THANK_FOR_REINSTALL_URL, "THANK_FOR_REINSTALL_URL"},
-        {URLKeys::ALL_PATENTS_URL, "ALL_PATENTS_URL"},
-        {URLKeys::DRIVER_UPDATE_GUIDE_URL_other, "DRIVER_UPDATE_GUIDE_URL_other"},
-        {URLKeys::CHECK_FOR_UPDATES_URL, "CHECK_FOR_UPDATES_URL"},
-        {URLKeys::CHANGELOG_URL, "CHANGELOG_URL"},
-    };
     std::map<URLKeys, std::string> names;
-    for (auto const& [key, name] : PAIRS)
+    for (auto const& [key, name] : pairs)
     {
         names.emplace_hint(names.end(), key, name);
     }
@@ -112,6 +70,49 @@ inline std::map<URLKeys, std::string> MakeLinkKeyNames()
 }
 
 /// The name of each link key, in the order of the numbers.
-static std::map<URLKeys, std::string> const LINK_KEY_NAMES = MakeLinkKeyNames();
+static std::map<URLKeys, std::string> const LINK_KEY_NAMES = MakeLinkKeyNames({
+    {URLKeys::FEEDBACK_URL, "FEEDBACK_URL"},
+    {URLKeys::MULTIPLE_AUDIO_MORE_URL_other, "MULTIPLE_AUDIO_MORE_URL_other"},
+    {URLKeys::REVIEW_FOR_APPSTORE_URL, "REVIEW_FOR_APPSTORE_URL"},
+    {URLKeys::SPARKLE_APPCAST_URL, "SPARKLE_APPCAST_URL"},
+    {URLKeys::DEVICE_DETECT_MORE_URL, "DEVICE_DETECT_MORE_URL"},
+    {URLKeys::FORUM_URL_socialtab, "FORUM_URL_socialtab"},
+    {URLKeys::FORUM_URL_menu, "FORUM_URL_menu"},
+    {URLKeys::INSTAGRAM_URL_socialtab, "INSTAGRAM_URL_socialtab"},
+    {URLKeys::INSTAGRAM_URL_menu, "INSTAGRAM_URL_menu"},
+    {URLKeys::FACEBOOK_URL_socialtab, "FACEBOOK_URL_socialtab"},
+    {URLKeys::FACEBOOK_URL_menu, "FACEBOOK_URL_menu"},
+    {URLKeys::ODNOKLASSNIKI_URL_socialtab, "ODNOKLASSNIKI_URL_socialtab"},
+    {URLKeys::ODNOKLASSNIKI_URL_menu, "ODNOKLASSNIKI_URL_menu"},
+    {URLKeys::GOOGLE_PLUS_URL_socialtab, "GOOGLE_PLUS_URL_socialtab"},
+    {URLKeys::GOOGLE_PLUS_URL_menu, "GOOGLE_PLUS_URL_menu"},
+    {URLKeys::VKONTAKTE_URL_socialtab, "VKONTAKTE_URL_socialtab"},
+    {URLKeys::VKONTAKTE_URL_menu, "VKONTAKTE_URL_menu"},
+    {URLKeys::YOU_TUBE_URL_socialtab, "YOU_TUBE_URL_socialtab"},
+    {URLKeys::YOU_TUBE_URL_menu, "YOU_TUBE_URL_menu"},
+    {URLKeys::LOSSLESS_ENCODING_MORE_URL_settings, "LOSSLESS_ENCODING_MORE_URL_settings"},
+    {URLKeys::FAQ_URL_menu, "FAQ_URL_menu"},
+    {URLKeys::HOMEPAGE_URL_menu, "HOMEPAGE_URL_menu"},
+    {URLKeys::HOMEPAGE_URL_menuabout, "HOMEPAGE_URL_menuabout"},
+    {URLKeys::HOMEPAGE_URL_socialtab, "HOMEPAGE_URL_socialtab"},
+    {URLKeys::HOMEPAGE_URL, "HOMEPAGE_URL"},
+    {URLKeys::DOWNLOAD_URL_checkupdatest, "DOWNLOAD_URL_checkupdatest"},
+    {URLKeys::UPGRADE_URL_checkupdatest, "UPGRADE_URL_checkupdatest"},
+    {URLKeys::HELP_URL_menu, "HELP_URL_menu"},
+    {URLKeys::LIVECHAT_URL_menu, "LIVECHAT_URL_menu"},
+    {URLKeys::LIVECHAT_URL_other, "LIVECHAT_URL_other"},
+    {URLKeys::BAD_CODECS_PAGE_other, "BAD_CODECS_PAGE_other"},
+    {URLKeys::CONTACT_SUPPORT_menu, "CONTACT_SUPPORT_menu"},
+    {URLKeys::GET_MORE_SOFTWARE_URL_menu, "GET_MORE_SOFTWARE_URL_menu"},
+    {URLKeys::UPLOAD_ITUNES_URL_other, "UPLOAD_ITUNES_URL_other"},
+    {URLKeys::CUSTOM_ABOUT_URL, "CUSTOM_ABOUT_URL"},
+    {URLKeys::CUSTOM_ABOUT_CAPTION_URL, "CUSTOM_ABOUT_CAPTION_URL"},
+    {URLKeys::THANK_FOR_INSTALL_URL, "THANK_FOR_INSTALL_URL"},
+    {URLKeys::THANK_FOR_REINSTALL_URL, "THANK_FOR_REINSTALL_URL"},
+    {URLKeys::ALL_PATENTS_URL, "ALL_PATENTS_URL"},
+    {URLKeys::DRIVER_UPDATE_GUIDE_URL_other, "DRIVER_UPDATE_GUIDE_URL_other"},
+    {URLKeys::CHECK_FOR_UPDATES_URL, "CHECK_FOR_UPDATES_URL"},
+    {URLKeys::CHANGELOG_URL, "CHANGELOG_URL"},
+});
 
 } // namespace Pelnar

@@ -16,10 +16,7 @@ class LogFile
 {
 public:
     /// \a path without extension, as it stands in the record; must outlive the process' last record.
-    explicit constexpr LogFile(char const* path)
-        : m_path(path)
-    {
-    }
+    explicit constexpr LogFile(char const* path) : m_path(path) {}
 
     char const* Path() const { return m_path; }
     /// True when glog's verbosity for this file is 30 or more: `--v=30`, or `--vmodule=` with the path's last part.

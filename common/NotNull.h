@@ -19,8 +19,7 @@ public:
 
     /// Throws std::logic_error with the text "NotNull can not initialized by null" when \a pointer is null.
     template <class U, class = std::enable_if_t<std::is_convertible_v<U, T>>>
-    NotNull(U pointer)
-        : m_pointer(std::move(pointer))
+    NotNull(U pointer) : m_pointer(std::move(pointer))
     {
         if (!m_pointer)
         {
@@ -29,8 +28,7 @@ public:
     }
 
     template <class U, class = std::enable_if_t<std::is_convertible_v<U, T>>>
-    NotNull(NotNull<U> const& other)
-        : m_pointer(other.Get())
+    NotNull(NotNull<U> const& other) : m_pointer(other.Get())
     {
     }
 

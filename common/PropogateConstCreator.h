@@ -15,10 +15,7 @@ class PropogateConst
 public:
     using element_type = typename Pointer::element_type;
 
-    explicit PropogateConst(Pointer pointer)
-        : m_pointer(std::move(pointer))
-    {
-    }
+    explicit PropogateConst(Pointer pointer) : m_pointer(std::move(pointer)) {}
 
     element_type* operator->() { return m_pointer.get(); }
     element_type const* operator->() const { return m_pointer.get(); }

@@ -1,5 +1,6 @@
 // IUpdateManagerObserver.h: what the host's observers of a check are told.
-// Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it dies.
+// Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it
+// dies.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -8,6 +9,8 @@
 namespace Pelnar::App
 {
 
+/// In each of these the observer may register and unregister observers, call the manager and start dialogs of its own,
+/// but must not destroy the manager's Qt parent before it returns. What it throws ends the notification, and the check.
 class PELNAR_EXPORT IUpdateManagerObserver
 {
 public:

@@ -30,13 +30,13 @@ public:
     /// What a check is started with.
     struct PELNAR_EXPORT Initializer
     {
-        /// Everything but \a parent at its default.
-        explicit Initializer(QObject* parent);
+        /// Everything but the parent at its default.
+        explicit Initializer(QObject* parentOfManager);
 
         QObject* parent; ///< Qt parent of the manager; may be null
         UpdateCheckMode checkMode = UpdateCheckMode::UserInitiated;
-        std::function<QWidget*()> parentWidgetGetter; ///< parent of the update dialog; empty: the host's choice
-        QList<IUpdateManagerObserver*> observers;     ///< registered before the check starts; nulls are skipped
+        std::function<QWidget*()> parentWidgetGetter;        ///< parent of the update dialog; empty: the host's choice
+        QList<IUpdateManagerObserver*> observers;            ///< registered before the check starts; nulls are skipped
         std::shared_ptr<ExternalStimulus::IGateway> gateway; ///< where the dialog is proposed; a DirectCallGateway
     };
 

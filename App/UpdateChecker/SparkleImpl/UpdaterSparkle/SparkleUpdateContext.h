@@ -1,5 +1,6 @@
 // SparkleUpdateContext.h: the record through which an updater lends its policy and data to the process-wide session.
-// Thread: the Qt main thread; no lock. Ownership: shared by the updater that made it and the session that it is lent to.
+// Thread: the Qt main thread; no lock. Ownership: shared by the updater that made it and the session that it is lent
+// to.
 #pragma once
 
 #include "HostFramework/IoPath.h"
@@ -19,11 +20,11 @@ namespace Pelnar::App
 
 struct SparkleUpdateContext
 {
-    bool inBackground = false;    ///< started by the application, not by the user
-    QString applicationName;      ///< as shown in update dialogs
-    QUrl feedUrl;                 ///< the feed's address
-    Core::Version localVersion;   ///< the running application's
-    Core::Version remoteVersion;  ///< the offered one; default until the session has chosen; written by the session
+    bool inBackground = false;   ///< started by the application, not by the user
+    QString applicationName;     ///< as shown in update dialogs
+    QUrl feedUrl;                ///< the feed's address
+    Core::Version localVersion;  ///< the running application's
+    Core::Version remoteVersion; ///< the offered one; default until the session has chosen; written by the session
     std::function<bool(Core::Version const&, Core::Version const&)> versionLess;  ///< strict order
     std::function<bool(Core::Version const&, Core::Version const&)> versionEqual; ///< equality
     std::function<QWidget*()> parentWidgetGetter; ///< parent of the session's dialogs; may be empty; written at each

@@ -1,0 +1,169 @@
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
+#include "HostFramework/AlertBox.h"
+#include "HostFramework/ICustomizationManager.h"
+#include "HostFramework/ILinksManager.h"
+#include "common/LogSite.h"
+#include "common/ScopedFunctionCall.h"
+#include "common/ValueGuard.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QTimer>
+
+namespace Pelnar::App
+{
+namespace
+{
+
+constexpr int COMPARED_COMPONENTS = 4;
+
+Core::LogFile const LOG_FILE("App/UpdateChecker/SparkleImpl/UpdaterSparkle");
+Core::LogSite const CALLBACK_WITHOUT_UPDATER{Core::LogSeverity::Error, LOG_FILE, 49, ""};
+
+bool IsLess(Core::Version const& a, Core::Version const& b)
+{
+    return Core::Util::ShrinkVersion(a, COMPARED_COMPONENTS) < Core::Util::ShrinkVersion(b, COMPARED_COMPONENTS);
+}
+
+bool IsEqual(Core::Version const& a, Core::Version const& b)
+{
+    return Core::Util::ShrinkVersion(a, COMPARED_COMPONENTS) == Core::Util::ShrinkVersion(b, COMPARED_COMPONENTS);
+}
+
+} // namespace
+
+class UpdaterSparkle::Impl
+{
+public:
+    Impl(NotNull<std::shared_ptr<ICustomizationManager>> const& customization,
+         NotNull<std::shared_ptr<ILinksManager>> const& links, AbstractUpdaterImpl* owner, bool inBackground);
+    ~Impl();
+    Impl(Impl const&) = delete;
+    Impl& operator=(Impl const&) = delete;
+
+    std::shared_ptr<SparkleUpdateContext> context;
+    bool locked = false;              ///< the session is this updater's, for the whole of its life
+    std::function<void()> hideDialog; ///< set while the alert is open
+};
+
+UpdaterSparkle::Impl::Impl(NotNull<std::shared_ptr<ICustomizationManager>> const& customization,
+                           NotNull<std::shared_ptr<ILinksManager>> const& links, AbstractUpdaterImpl* owner,
+                           bool inBackground)
+    : context(std::make_shared<SparkleUpdateContext>())
+{
+    context->inBackground = inBackground;
+    context->applicationName = QString::fromStdString(customization->GetDisplayName());
+    context->feedUrl = QUrl(links->GetLink(URLKeys::SPARKLE_APPCAST_URL));
+    context->localVersion = customization->GetApplicationVersion();
+    context->versionLess = IsLess;
+    context->versionEqual = IsEqual;
+    context->checkFinishedCallback = [guarded = QPointer<AbstractUpdaterImpl>(owner), this]
+    {
+        if (!guarded)
+        {
+            Core::Write(CALLBACK_WITHOUT_UPDATER,
+                        "Call SparkleUpdateContext::checkFinishedCallback without live AbstractUpdaterImpl!");
+            return;
+        }
+        // The updater is the timer's context: Qt drops the call when it dies first, and this object with it.
+        QTimer::singleShot(0, Qt::PreciseTimer, guarded.data(),
+                           [updater = guarded.data(), this]
+                           {
+                               std::shared_ptr<SparkleUpdateContext> const current = context;
+                               UpdateCheckResult const result = OutcomeOf(*current);
+                               Q_EMIT updater->NotifyCheckFinished(result);
+                           });
+    };
+    context->relaunchPathGetter = [service = customization.Get()](Core::Version const& version)
+    { return RelaunchPathFor(service->GetBundleNameFirstPart(), service->GetBundleNameSecondPart(), version); };
+    locked = SparkleManager::GetInstance().LockUpdater(context);
+}
+
+UpdaterSparkle::Impl::~Impl()
+{
+    if (locked)
+    {
+        SparkleManager::GetInstance().UnlockUpdaterWhenPossible();
+    }
+    // After the unlocking, and also without the lock: a session that keeps the context must not call into this object.
+    context->checkFinishedCallback = nullptr;
+}
+
+UpdaterSparkle::UpdaterSparkle(std::shared_ptr<ICustomizationManager> const& customization,
+                               NotNull<std::shared_ptr<ILinksManager>> const& links, bool inBackground)
+    : m_impl(std::make_unique<Impl>(customization, links, this, inBackground))
+{
+}
+
+UpdaterSparkle::~UpdaterSparkle() = default;
+
+void UpdaterSparkle::CheckForUpdates()
+{
+    if (!m_impl->locked)
+    {
+        Q_EMIT NotifyCheckFinished(UpdateCheckResult::NoUpdate);
+        return;
+    }
+    SparkleManager::GetInstance().CheckForUpdates();
+}
+
+Core::Version UpdaterSparkle::GetRemoteVersion() const
+{
+    return m_impl->context->remoteVersion;
+}
+
+void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGetter)
+{
+    m_impl->context->parentWidgetGetter = parentGetter;
+    if (m_impl->locked)
+    {
+        SparkleManager::GetInstance().ShowUpdateDialog();
+        return;
+    }
+
+    // The alert's event loop may see this updater deleted, by the Qt parent of its manager, and the alert deleted with
+    // its own parent. Nothing below may then touch either.
+    QPointer<UpdaterSparkle> const self(this);
+    QPointer<Util::AlertBox> const alert(new Util::AlertBox(
+        Util::AlertBox::Information, QString(),
+        QCoreApplication::translate("SparkleUpdater", "Update is already running. Please try later."), QMessageBox::Ok,
+        parentGetter ? parentGetter() : nullptr, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
+    Core::ScopedFunctionCall const deleteAlert(
+        nullptr, [alert] { delete alert.data(); }, true);
+    alert->setObjectName(QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
+    Core::ValueGuard<std::function<void()>> hideGuard(m_impl->hideDialog,
+                                                      [alert]
+                                                      {
+                                                          if (alert)
+                                                          {
+                                                              alert->close();
+                                                          }
+                                                      });
+    Core::ScopedFunctionCall const forgetDeadUpdater(
+        nullptr,
+        [self, &hideGuard]
+        {
+            if (!self)
+            {
+                hideGuard.Forget();
+            }
+        },
+        true);
+    alert->Exec();
+}
+
+void UpdaterSparkle::RejectUpdateAndHideDialog()
+{
+    if (m_impl->hideDialog)
+    {
+        m_impl->hideDialog();
+    }
+    SparkleManager::GetInstance().RejectUpdateAndHideDialog();
+}
+
+} // namespace Pelnar::App

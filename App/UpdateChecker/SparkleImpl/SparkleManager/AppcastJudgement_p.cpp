@@ -1,0 +1,84 @@
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
+
+namespace Pelnar::App::Session
+{
+
+Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
+{
+    if (subject.systemVersion.IsValid())
+    {
+        // Bounds that are missing or do not parse impose nothing.
+        if (item.MinimumSystem().IsValid() && subject.versionLess(subject.systemVersion, item.MinimumSystem()))
+        {
+            return Judgement::SYSTEM_TOO_OLD;
+        }
+        if (item.MaximumSystem().IsValid() && subject.versionLess(item.MaximumSystem(), subject.systemVersion))
+        {
+            return Judgement::SYSTEM_TOO_NEW;
+        }
+    }
+    if (!item.Version().IsValid())
+    {
+        return Judgement::VERSION_UNREADABLE;
+    }
+    if (subject.versionLess(item.Version(), subject.localVersion))
+    {
+        return Judgement::VERSION_OLDER;
+    }
+    if (subject.versionEqual(item.Version(), subject.localVersion))
+    {
+        return Judgement::VERSION_EQUAL;
+    }
+    if (!item.HasValidAddress())
+    {
+        return Judgement::URL_INVALID;
+    }
+    // Deliberate: a date that can be read in this form is refused. The dates that feeds normally carry cannot.
+    if (item.Date().isValid())
+    {
+        return Judgement::DATE_REFUSED;
+    }
+    return item.Length() == 0 ? Judgement::LENGTH_ZERO : Judgement::VALID;
+}
+
+std::optional<Preference> PreferByVersionAndType(ItemRecord& a, ItemRecord& b, SelectionSubject const& subject)
+{
+    if (subject.versionLess(a.Version(), b.Version()))
+    {
+        return Preference{b, PreferenceRule::NEWER_VERSION};
+    }
+    if (subject.versionLess(b.Version(), a.Version()))
+    {
+        return Preference{a, PreferenceRule::NEWER_VERSION};
+    }
+    QList<UpdateType> const& priorities = a.Version().Major() > subject.localVersion.Major()
+                                              ? UPDATE_TYPE_PRIORITIES_FOR_MAJOR_UPDATE
+                                              : UPDATE_TYPE_PRIORITIES_FOR_MINOR_UPDATE;
+    int const priorityOfA = priorities.indexOf(a.Type());
+    int const priorityOfB = priorities.indexOf(b.Type());
+    if (priorityOfA == priorityOfB)
+    {
+        return std::nullopt;
+    }
+    return Preference{priorityOfA < priorityOfB ? a : b, PreferenceRule::WANTED_TYPE};
+}
+
+Preference PreferByDownload(ItemRecord& a, ItemRecord& b)
+{
+    if (a.Address() == b.Address())
+    {
+        return {a, PreferenceRule::SAME_ADDRESS};
+    }
+    // Dates that do not parse are equal to each other, so for the usual dates this decides nothing.
+    if (a.Date() < b.Date())
+    {
+        return {b, PreferenceRule::LATER_DATE};
+    }
+    if (b.Date() < a.Date())
+    {
+        return {a, PreferenceRule::LATER_DATE};
+    }
+    return {a.Length() <= b.Length() ? a : b, PreferenceRule::SMALLER_LENGTH};
+}
+
+} // namespace Pelnar::App::Session

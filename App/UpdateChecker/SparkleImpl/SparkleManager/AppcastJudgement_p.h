@@ -1,0 +1,109 @@
+// AppcastJudgement_p.h: the rules by which a feed item is judged and one of two is preferred. Plain C++, private to the
+// session; a publisher's tool may ask them too. Thread: the caller's. Ownership: none.
+// Nothing here logs: the answers say which rule gave them.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/ItemRecord_p.h"
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+
+namespace Pelnar::App::Session
+{
+
+/// What items are judged against. REQUIRES: both operators are set; what is missing throws std::bad_function_call.
+struct SelectionSubject
+{
+    Core::Version const& systemVersion; ///< of the running system; the invalid version switches its bounds off
+    Core::Version const& localVersion;  ///< of the running application
+    std::function<bool(Core::Version const&, Core::Version const&)> const& versionLess;
+    std::function<bool(Core::Version const&, Core::Version const&)> const& versionEqual;
+};
+
+/// The first test that an item fails, in the order of the tests.
+enum class Judgement : std::int32_t
+{
+    SYSTEM_TOO_OLD = 0,     ///< the running system is older than the item's minimum
+    SYSTEM_TOO_NEW = 1,     ///< the running system is newer than the item's maximum
+    VERSION_UNREADABLE = 2, ///< the item's version is absent or does not parse
+    VERSION_OLDER = 3,      ///< older than the running application
+    VERSION_EQUAL = 4,      ///< the running application's version
+    URL_INVALID = 5,        ///< the download has no valid address
+    DATE_REFUSED = 6,       ///< the date is in Qt's text form
+    LENGTH_ZERO = 7,        ///< the download has no length
+    VALID = 8,              ///< none
+};
+
+/// A name for tools and test messages, such as "system-too-old"; "unknown" for a value outside the nine.
+constexpr char const* JudgementName(Judgement judgement)
+{
+    switch (judgement)
+    {
+    case Judgement::SYSTEM_TOO_OLD:
+        return "system-too-old";
+    case Judgement::SYSTEM_TOO_NEW:
+        return "system-too-new";
+    case Judgement::VERSION_UNREADABLE:
+        return "version-unreadable";
+    case Judgement::VERSION_OLDER:
+        return "version-older";
+    case Judgement::VERSION_EQUAL:
+        return "version-equal";
+    case Judgement::URL_INVALID:
+        return "url-invalid";
+    case Judgement::DATE_REFUSED:
+        return "date-refused";
+    case Judgement::LENGTH_ZERO:
+        return "length-zero";
+    case Judgement::VALID:
+        return "valid";
+    }
+    return "unknown";
+}
+
+/// Stops at the first test that \a item fails; later properties stay unread.
+Judgement Judge(ItemRecord& item, SelectionSubject const& subject);
+
+enum class PreferenceRule : std::int32_t
+{
+    NEWER_VERSION = 0,
+    WANTED_TYPE = 1,  ///< the kind of package that the priority list names first
+    SAME_ADDRESS = 2, ///< the same download: the first of the two
+    LATER_DATE = 3,
+    SMALLER_LENGTH = 4, ///< the first of the two when the lengths are equal
+};
+
+/// A name for tools and test messages, such as "newer-version"; "unknown" for a value outside the five.
+constexpr char const* PreferenceRuleName(PreferenceRule rule)
+{
+    switch (rule)
+    {
+    case PreferenceRule::NEWER_VERSION:
+        return "newer-version";
+    case PreferenceRule::WANTED_TYPE:
+        return "wanted-type";
+    case PreferenceRule::SAME_ADDRESS:
+        return "same-address";
+    case PreferenceRule::LATER_DATE:
+        return "later-date";
+    case PreferenceRule::SMALLER_LENGTH:
+        return "smaller-length";
+    }
+    return "unknown";
+}
+
+struct Preference
+{
+    ItemRecord& item; ///< one of the two that were given
+    PreferenceRule rule;
+};
+
+/// The newer of two valid items or, of one version, the one whose kind of package is wanted more; nothing when both are
+/// equal in this.
+std::optional<Preference> PreferByVersionAndType(ItemRecord& a, ItemRecord& b, SelectionSubject const& subject);
+
+/// Decides between two valid items that PreferByVersionAndType does not tell apart.
+Preference PreferByDownload(ItemRecord& a, ItemRecord& b);
+
+} // namespace Pelnar::App::Session

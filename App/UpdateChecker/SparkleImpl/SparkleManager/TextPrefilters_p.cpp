@@ -1,0 +1,136 @@
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
+
+#include <QStringView>
+#include <QUrl>
+
+namespace Pelnar::App::Session
+{
+namespace
+{
+
+constexpr char16_t SPACE = u' ';
+/// A host that is shorter is within every limit of host names and of their labels.
+constexpr int PLAIN_HOST_LENGTH_LIMIT = 62;
+
+constexpr bool IsLowerLetter(char16_t unit)
+{
+    return unit >= u'a' && unit <= u'z';
+}
+
+constexpr bool IsDigit(char16_t unit)
+{
+    return unit >= u'0' && unit <= u'9';
+}
+
+constexpr bool IsPlainInPath(char16_t unit)
+{
+    return IsLowerLetter(unit) || IsDigit(unit) || (unit >= u'A' && unit <= u'Z') || unit == u'/' || unit == u'.' ||
+           unit == u'-' || unit == u'_' || unit == u'~';
+}
+
+/// True when \a host can be nothing but a valid name: labels of lower-case letters, single inner hyphens and digits, of
+/// which the last has letters only (else it might be read as a number). Two hyphens might begin an encoded label.
+bool IsPlainHost(QStringView host)
+{
+    if (host.isEmpty() || host.size() >= PLAIN_HOST_LENGTH_LIMIT)
+    {
+        return false;
+    }
+    bool hasOnlyLetters = true; // the label that is being read
+    char16_t previous = u'.';
+    for (QChar const character : host)
+    {
+        char16_t const unit = character.unicode();
+        if (unit == u'.' || unit == u'-')
+        {
+            if (previous == u'.' || previous == u'-')
+            {
+                return false;
+            }
+            hasOnlyLetters = unit == u'.';
+        }
+        else if (IsDigit(unit))
+        {
+            hasOnlyLetters = false;
+        }
+        else if (!IsLowerLetter(unit))
+        {
+            return false;
+        }
+        previous = unit;
+    }
+    return hasOnlyLetters && previous != u'.';
+}
+
+bool IsCertainlyValidAddress(QStringView text)
+{
+    QStringView const scheme = u"https://";
+    if (!text.startsWith(scheme))
+    {
+        return false;
+    }
+    QStringView const rest = text.mid(scheme.size());
+    qsizetype hostLength = 0;
+    while (hostLength < rest.size() && rest[hostLength].unicode() != u'/')
+    {
+        ++hostLength;
+    }
+    if (!IsPlainHost(rest.left(hostLength)))
+    {
+        return false;
+    }
+    for (QChar const character : rest.mid(hostLength))
+    {
+        if (!IsPlainInPath(character.unicode()))
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+/// Qt takes the last but one of the parts between blanks as the day of the month. A printable ASCII character in it
+/// that no number has rules the date out; so does the lack of such a part. Every date of the form that feeds carry
+/// ends in a time of day and a zone, and so falls here.
+bool IsCertainlyNoTextDate(QStringView text)
+{
+    qsizetype position = text.size();
+    auto const skip = [&](bool blanks)
+    {
+        while (position > 0 && (text[position - 1].unicode() == SPACE) == blanks)
+        {
+            --position;
+        }
+    };
+    skip(true);
+    skip(false);
+    skip(true);
+    if (position == 0)
+    {
+        return true;
+    }
+    for (; position > 0 && text[position - 1].unicode() != SPACE; --position)
+    {
+        char16_t const unit = text[position - 1].unicode();
+        bool const isPrintable = unit > SPACE && unit < 0x7f;
+        if (isPrintable && !IsDigit(unit) && unit != u'+' && unit != u'-')
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool IsValidAddress(QString const& text)
+{
+    return IsCertainlyValidAddress(text) || QUrl(text).isValid();
+}
+
+QDate TextDate(QString const& text)
+{
+    return IsCertainlyNoTextDate(text) ? QDate() : QDate::fromString(text, Qt::TextDate);
+}
+
+} // namespace Pelnar::App::Session

@@ -1,0 +1,22 @@
+// ScriptedSparkleObjects.h: the Objective-C objects behind the scripted framework, for fixtures that call the session's
+// Objective-C++ members. Objective-C++ only.
+#pragma once
+
+#if !defined(__OBJC__)
+#error "ScriptedSparkleObjects.h is for Objective-C++ fixtures."
+#endif
+
+#include "tests/session/ScriptedSparkle.h"
+
+#import <Sparkle/Sparkle.h>
+
+namespace Pelnar::Testing
+{
+
+SUAppcastItem* ObjectOf(ScriptedItem const& item);
+/// The item behind \a object; nothing for nil. REQUIRES: \a object came from a ScriptedItem.
+std::optional<ScriptedItem> ItemOf(SUAppcastItem* object);
+/// Autoreleased.
+SUAppcast* MakeAppcast(ScriptedAppcast const& items);
+
+} // namespace Pelnar::Testing

@@ -19,9 +19,9 @@ struct FeedItem
     QString descriptionFormat; ///< as written; empty when the feed says nothing
     QString minimumSystemVersion;
     QString maximumSystemVersion;
-    QUrl releaseNotesUrl; ///< absolute; empty when absent
-    QUrl infoUrl;         ///< absolute; empty when absent
-    QUrl fileUrl;         ///< absolute; empty when absent
+    QUrl releaseNotesUrl;      ///< absolute; empty when absent
+    QUrl infoUrl;              ///< absolute; empty when absent
+    QUrl fileUrl;              ///< absolute; empty when absent
     quint64 contentLength = 0; ///< bytes; 0 when missing, zero, negative, too large or not decimal
     QString versionString;
     QString displayVersionString; ///< empty when the feed gives none
@@ -30,13 +30,33 @@ struct FeedItem
     QString deltaFrom;        ///< the version text that this delta starts from; deltas only
     bool isDelta = false;
     bool isCritical = false;
-    /// Every child element by its qualified name (feed namespace names under "sparkle:"), then attributes of the item
-    /// where the name is free. Text is a QString, an element with attributes or children a QVariantMap or QVariantList.
-    /// A delta has its parent's entries overlaid by its own.
+    /// Every child element by its qualified name (feed namespace names under "sparkle:", whatever prefix the feed uses;
+    /// a foreign name that is written with the prefix "sparkle" as "{namespace}name"), then attributes of the item
+    /// where the name is free. Text is a QString; an element with attributes or children is a QVariantMap of both, with
+    /// its text, if any, under "#text"; a name that stands more than once holds a QVariantList. A delta has here what
+    /// its own tag says.
     QVariantMap properties;
+    /// Deltas only: the parent's properties, shared with it. Kept apart so that many deltas of an item with many
+    /// properties cost no copy each; AllProperties() overlays the two.
+    QVariantMap inheritedProperties;
     std::vector<FeedItem> deltas;
     int line = 0;   ///< where the item's (or the delta's) start tag ends, from 1
     int column = 0; ///< from 1
+
+    /// What a reader of the item is shown: of a delta, its parent's entries overlaid by its own.
+    [[nodiscard]] QVariantMap AllProperties() const
+    {
+        if (inheritedProperties.isEmpty())
+        {
+            return properties;
+        }
+        QVariantMap overlaid = inheritedProperties;
+        for (auto entry = properties.cbegin(); entry != properties.cend(); ++entry)
+        {
+            overlaid.insert(entry.key(), entry.value());
+        }
+        return overlaid;
+    }
 };
 
 } // namespace Pelnar::Engine

@@ -1,0 +1,150 @@
+// FeedEncoding_p.cpp: which text a feed's bytes stand for.
+#include "Engine/core/FeedEncoding_p.h"
+
+#include <QTextCodec>
+#include <QXmlStreamReader>
+
+#include <cstring>
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+constexpr int LONGEST_DECLARATION = 1024;
+
+/// The name of a Unicode encoding that shows in the first bytes, else an empty one.
+QByteArray EncodingByFirstBytes(QByteArray const& bytes)
+{
+    auto startsWith = [&](char const* first, int size)
+    { return bytes.size() >= size && std::memcmp(bytes.constData(), first, static_cast<size_t>(size)) == 0; };
+    if (startsWith("\x00\x00\xFE\xFF", 4) || startsWith("\xFF\xFE\x00\x00", 4))
+    {
+        return "UTF-32";
+    }
+    if (startsWith("\x00\x00\x00<", 4))
+    {
+        return "UTF-32BE";
+    }
+    if (startsWith("<\x00\x00\x00", 4))
+    {
+        return "UTF-32LE";
+    }
+    if (startsWith("\xFE\xFF", 2) || startsWith("\xFF\xFE", 2))
+    {
+        return "UTF-16";
+    }
+    if (startsWith("\x00<", 2))
+    {
+        return "UTF-16BE";
+    }
+    if (startsWith("<\x00", 2))
+    {
+        return "UTF-16LE";
+    }
+    return {};
+}
+
+QByteArray DeclaredEncoding(QByteArray const& bytes)
+{
+    void const* const end =
+        std::memchr(bytes.constData(), '>', static_cast<size_t>(qMin(bytes.size(), LONGEST_DECLARATION)));
+    if (end == nullptr)
+    {
+        return {};
+    }
+    QXmlStreamReader reader(bytes.left(static_cast<int>(static_cast<char const*>(end) - bytes.constData()) + 1));
+    reader.readNext();
+    return reader.documentEncoding().toString().toLatin1();
+}
+
+bool IsContinuation(uchar byte)
+{
+    return (byte & 0xC0) == 0x80;
+}
+
+/// The length of the sequence that starts at \a at, of which \a left bytes are there; 0 when it is not UTF-8.
+int SequenceLength(uchar const* at, int left)
+{
+    uchar const lead = at[0];
+    if (lead < 0x80)
+    {
+        return 1;
+    }
+    if (lead >= 0xC2 && lead <= 0xDF)
+    {
+        return left >= 2 && IsContinuation(at[1]) ? 2 : 0;
+    }
+    if ((lead & 0xF0) == 0xE0)
+    {
+        uchar const least = lead == 0xE0 ? 0xA0 : 0x80;
+        uchar const most = lead == 0xED ? 0x9F : 0xBF;
+        return left >= 3 && at[1] >= least && at[1] <= most && IsContinuation(at[2]) ? 3 : 0;
+    }
+    if (lead >= 0xF0 && lead <= 0xF4)
+    {
+        uchar const least = lead == 0xF0 ? 0x90 : 0x80;
+        uchar const most = lead == 0xF4 ? 0x8F : 0xBF;
+        return left >= 4 && at[1] >= least && at[1] <= most && IsContinuation(at[2]) && IsContinuation(at[3]) ? 4 : 0;
+    }
+    return 0;
+}
+
+} // namespace
+
+int FirstBadUtf8(QByteArray const& bytes)
+{
+    auto const* const data = reinterpret_cast<uchar const*>(bytes.constData());
+    int const size = bytes.size();
+    int at = 0;
+    while (at < size)
+    {
+        quint64 block = 0;
+        if (size - at >= int(sizeof block))
+        {
+            std::memcpy(&block, data + at, sizeof block);
+            if ((block & Q_UINT64_C(0x8080808080808080)) == 0)
+            {
+                at += int(sizeof block);
+                continue;
+            }
+        }
+        int const length = SequenceLength(data + at, size - at);
+        if (length == 0)
+        {
+            return at;
+        }
+        at += length;
+    }
+    return size;
+}
+
+FeedDocument DecodeFeed(QByteArray const& bytes)
+{
+    FeedDocument document;
+    QByteArray encoding = EncodingByFirstBytes(bytes);
+    if (encoding.isEmpty())
+    {
+        encoding = DeclaredEncoding(bytes);
+    }
+    if (encoding.isEmpty() || encoding.compare("UTF-8", Qt::CaseInsensitive) == 0)
+    {
+        document.badOffset = FirstBadUtf8(bytes);
+        document.isDecodable = document.badOffset == bytes.size();
+        document.utf8 = bytes;
+        return document;
+    }
+    QTextCodec* const codec = QTextCodec::codecForName(encoding);
+    if (codec == nullptr)
+    {
+        return document;
+    }
+    QTextCodec::ConverterState state;
+    document.text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
+    document.isDecodable = state.invalidChars == 0 && state.remainingChars == 0;
+    document.utf8 = document.text.toUtf8();
+    return document;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,44 @@
+// FeedFixture.h: feeds written in a test, parsed with the engine's own limits.
+// Thread: any. Ownership: values only.
+#pragma once
+
+#include "Engine/core/FeedParser.h"
+
+#include <QByteArray>
+#include <QUrl>
+
+#include <string>
+
+namespace Pelnar::Engine::Tests
+{
+
+inline QUrl FeedUrl()
+{
+    return QUrl(QStringLiteral("https://feeds.example.com/app/appcast.xml"));
+}
+
+/// A whole feed around \a items, with the feed's namespace under its usual prefix.
+inline QByteArray Feed(QByteArray const& items)
+{
+    return "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n"
+           "<rss version=\"2.0\" xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">\n"
+           "<channel>\n<title>App</title>\n" +
+           items + "</channel>\n</rss>\n";
+}
+
+inline FeedParseResult Parse(QByteArray const& bytes, FeedPlatform platform = FeedPlatform::MacOS,
+                             FeedLimits const& limits = {}, QStringList const& languages = {})
+{
+    return ParseFeed(bytes, FeedUrl(), platform, limits, languages);
+}
+
+/// The only item of a feed around \a content; an empty item, and a failure, when it has another number of items.
+FeedItem OnlyItem(QByteArray const& content, FeedPlatform platform = FeedPlatform::MacOS,
+                  QStringList const& languages = {});
+
+inline std::string Text(QString const& text)
+{
+    return text.toStdString();
+}
+
+} // namespace Pelnar::Engine::Tests

@@ -3,10 +3,7 @@
 namespace Pelnar::App
 {
 
-Application::Application(int& argc, char** argv)
-    : QApplication(argc, argv)
-{
-}
+Application::Application(int& argc, char** argv) : QApplication(argc, argv) {}
 
 Application::~Application() = default;
 

@@ -3,10 +3,7 @@
 namespace Pelnar::App::NagScreen
 {
 
-Manager::Manager(QObject* parent)
-    : QObject(parent)
-{
-}
+Manager::Manager(QObject* parent) : QObject(parent) {}
 
 Manager::~Manager() = default;
 

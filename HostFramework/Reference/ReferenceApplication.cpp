@@ -1,0 +1,86 @@
+#include "HostFramework/Reference/ReferenceApplication.h"
+
+#include "HostFramework/ICustomizationManager.h"
+#include "HostFramework/ILinksManager.h"
+#include "HostFramework/NagScreenManager.h"
+#include "common/ValueGuard.h"
+
+#include <QCloseEvent>
+#include <QPointer>
+#include <QWidget>
+
+#include <algorithm>
+#include <vector>
+
+namespace Pelnar::App
+{
+namespace
+{
+
+bool IsWindowToAsk(QWidget const& widget)
+{
+    Qt::WindowType const type = widget.windowType();
+    return widget.isVisible() && type != Qt::Popup && type != Qt::ToolTip && type != Qt::Desktop;
+}
+
+/// Guarded, because a window that is asked may delete others.
+std::vector<QPointer<QWidget>> WindowsToAsk()
+{
+    QWidgetList widgets = QApplication::topLevelWidgets();
+    std::stable_partition(widgets.begin(), widgets.end(), [](QWidget const* widget) { return widget->isModal(); });
+    return {widgets.begin(), widgets.end()};
+}
+
+} // namespace
+
+ReferenceApplication::ReferenceApplication(int& argc, char** argv) : Application(argc, argv) {}
+
+ReferenceApplication::~ReferenceApplication() = default;
+
+void ReferenceApplication::SetServices(ReferenceServices const& services)
+{
+    m_services = services;
+}
+
+std::shared_ptr<NagScreen::Manager> ReferenceApplication::GetNagScreenManager() const
+{
+    return m_services.nagScreenManager;
+}
+
+std::shared_ptr<ICustomizationManager> ReferenceApplication::GetCustomizationManager() const
+{
+    return m_services.customizationManager;
+}
+
+std::shared_ptr<ILinksManager> ReferenceApplication::GetLinksManager() const
+{
+    return m_services.linksManager;
+}
+
+bool ReferenceApplication::TryToQuit()
+{
+    if (m_isAskingWindows)
+    {
+        return false;
+    }
+    Core::ValueGuard<bool> const asking(m_isAskingWindows, true);
+    for (QPointer<QWidget> const& window : WindowsToAsk())
+    {
+        if (!window || !IsWindowToAsk(*window))
+        {
+            continue;
+        }
+        // Deliberate: the event alone, not QWidget::close. A window that accepts stays open, so that a refusal by a
+        // later one leaves the user's windows as they were.
+        QCloseEvent event;
+        QCoreApplication::sendEvent(window, &event);
+        if (!event.isAccepted())
+        {
+            return false;
+        }
+    }
+    QCoreApplication::quit();
+    return true;
+}
+
+} // namespace Pelnar::App

@@ -1,0 +1,44 @@
+// ReferenceCustomizationManager.h: the customization service of the reference host framework, over a plain record that
+// a host fills itself or reads from a settings file.
+// Thread: the Qt main thread. Ownership: holds its own copy of the record.
+#pragma once
+
+#include "HostFramework/ICustomizationManager.h"
+
+#include <QString>
+
+#include <string>
+
+namespace Pelnar::App
+{
+
+struct Customization
+{
+    std::string displayName;          ///< UTF-8
+    Core::Version applicationVersion; ///< of the running application
+    std::string bundleNameFirstPart;
+    std::string bundleNameSecondPart;
+};
+
+/// Reads the record from the section [Application] of an ini file in UTF-8 with the keys DisplayName, Version,
+/// BundleNameFirstPart and BundleNameSecondPart. Text that holds a comma, a semicolon or a backslash stands in double
+/// quotes. Throws std::runtime_error, whose text names the file and the key, when the file cannot be read, a key is
+/// missing or empty, or Version is not a version.
+PELNAR_EXPORT Customization ReadCustomization(QString const& iniPath);
+
+class PELNAR_EXPORT ReferenceCustomizationManager : public ICustomizationManager
+{
+public:
+    explicit ReferenceCustomizationManager(Customization const& customization);
+    ~ReferenceCustomizationManager() override;
+
+    std::string GetDisplayName() const override;
+    Core::Version GetApplicationVersion() const override;
+    std::string GetBundleNameFirstPart() const override;
+    std::string GetBundleNameSecondPart() const override;
+
+private:
+    Customization m_customization;
+};
+
+} // namespace Pelnar::App

@@ -1,0 +1,31 @@
+// SettingsFile_p.h: reads text from an ini file and says what is wrong with it. Private to the reference framework.
+// Thread: one at a time. Ownership: a scope object; the file is read when it is made.
+#pragma once
+
+#include <QSettings>
+#include <QString>
+
+#include <string>
+
+namespace Pelnar::App
+{
+
+class SettingsFile
+{
+public:
+    /// Throws std::runtime_error when \a iniPath cannot be read or is not an ini file.
+    explicit SettingsFile(QString const& iniPath);
+
+    /// The value without surrounding blanks; empty when there is none.
+    QString Text(QString const& section, QString const& key) const;
+    /// The same, but throws std::runtime_error when there is none.
+    QString RequiredText(QString const& section, QString const& key) const;
+    /// How messages name a key: the file, the section and the key.
+    std::string Describe(QString const& section, QString const& key) const;
+
+private:
+    QString m_path;
+    QSettings m_settings;
+};
+
+} // namespace Pelnar::App

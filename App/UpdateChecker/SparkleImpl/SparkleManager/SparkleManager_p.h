@@ -10,6 +10,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "Foundation/Retained.h"
 
 #import <Sparkle/Sparkle.h>
 
@@ -19,6 +20,10 @@
 #include <functional>
 #include <memory>
 #include <string>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
 
 @class PelnarSparkleUpdaterDelegate;
 @class PelnarSparkleVersionComparator;
@@ -44,6 +49,11 @@ public:
     void SetState(Session::State newState);
     void NotifyCheckFinished();
 
+    /// Ends a request that nobody waits for.
+    void SwitchToIdle();
+    /// Ends a request whose holder waits: no newer version was found. REQUIRES: a context.
+    void ReportNoNewerVersion();
+
     // Guards: true silently, or one error record and false. All but the first REQUIRE a context.
     [[nodiscard]] bool EnsureContext() const;
     [[nodiscard]] bool EnsureCheckFinishedCallback() const;
@@ -57,6 +67,16 @@ public:
     void CreateUpdater();
     void DestroyUpdater();
 
+    // The framework's callbacks, one each; the delegate only forwards.
+    void DidFindValidUpdate(SUAppcastItem* item);
+    void DidNotFindUpdate();
+    void DidAbort(NSError* error);
+    void WillInstallOnQuit(SUAppcastItem* item, NSInvocation* invocation);
+    bool ShouldRelaunch();
+    void WillRelaunch();
+    void DidCancelInstallOnQuit();
+    NSString* PathToRelaunch(); ///< autoreleased
+
     // The appcast selection.
     Session::UpdateType DetectUpdateType(SUAppcastItem* item) const;
     QVariantMap DetectExtensions(SUAppcastItem* item) const;
@@ -68,9 +88,9 @@ public:
     void PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const;
 
     // In the order in which they are made; see CreateUpdater for the order of the first three.
-    SUUpdater* updater = nil;
-    PelnarSparkleUpdaterDelegate* delegate = nil;
-    PelnarSparkleVersionComparator* comparator = nil;
+    Foundation::Retained<SUUpdater> updater;
+    Foundation::Retained<PelnarSparkleUpdaterDelegate> delegate;
+    Foundation::Retained<PelnarSparkleVersionComparator> comparator;
     std::shared_ptr<SparkleUpdateContext> context; ///< of the updater that last took the lock; unlocking keeps it
     std::atomic<bool> locked{false};
     bool unlockRequested = false; ///< unlock when a callback next returns the state to WAITING
@@ -79,6 +99,12 @@ public:
     QVariantMap extensions;                                        ///< of the update last reported
     bool bestItemIsDelta = false;
     std::function<void()> closeDialog; ///< set while the session shows a dialog
+
+private:
+    void ReportFoundVersion(SUAppcastItem* item);
+    void WriteExtensions() const;
+    QWidget* DialogParent() const;
+    QString InstalledApplicationName() const;
 };
 
 } // namespace Pelnar::App

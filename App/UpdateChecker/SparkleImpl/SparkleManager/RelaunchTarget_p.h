@@ -1,0 +1,25 @@
+// RelaunchTarget_p.h: which bundle is started after an installation. Plain C++, private to the session.
+// Thread: the Qt main thread.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "HostFramework/IoPath.h"
+#include "HostFramework/Version.h"
+
+#include <QString>
+#include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+namespace Pelnar::App::Session
+{
+
+/// The path to start after \a remoteVersion has been installed by an installer: the feed's own when it is absolute,
+/// else \a rule's. Nothing, when the running bundle is to be started: for every other kind of update, or without a
+/// rule. Writes the records of its findings; looks at no file.
+std::optional<QString> RelaunchPathAfter(UpdateType type, QVariantMap const& extensions,
+                                         std::function<ioPath(Core::Version const&)> const& rule,
+                                         Core::Version const& remoteVersion);
+
+} // namespace Pelnar::App::Session

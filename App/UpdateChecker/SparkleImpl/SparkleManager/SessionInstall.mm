@@ -1,0 +1,134 @@
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/CallbackRules_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/HostQuit_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/RelaunchTarget_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionDialogs_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionRecords_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
+#include "Foundation/FoundationText.h"
+
+namespace Pelnar::App
+{
+namespace
+{
+
+using Session::ReadyToInstallAnswer;
+using Session::RelaunchReaction;
+using Session::State;
+
+// Where the framework's immediate installation takes "relaunch" and "show user interface".
+constexpr NSInteger RELAUNCH_ARGUMENT = 2;
+constexpr NSInteger USER_INTERFACE_ARGUMENT = 3;
+
+/// Runs \a invocation with that one argument replaced; the other stays as the framework preset it.
+void InvokeWith(NSInvocation* invocation, NSInteger argument, BOOL value)
+{
+    [invocation setArgument:&value atIndex:argument];
+    [invocation invoke];
+}
+
+void StoreSkippedVersion(NSString* version)
+{
+    NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
+    [defaults setObject:version forKey:@"SUSkippedVersion"];
+    [defaults synchronize];
+}
+
+} // namespace
+
+void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* invocation)
+{
+    Session::WriteCurrentState(Session::Sites::WILL_INSTALL, state);
+    if (!EnsureContext() || !EnsureLocalVersion() || !EnsureRemoteVersion() || !EnsureVersionOperators() ||
+        !EnsureRemoteVersionIsGreaterThanLocal())
+    {
+        SetState(State::SILENT_ABORTING);
+        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
+        return;
+    }
+    switch (Session::AskReadyToInstall(InstalledApplicationName(), context->remoteVersion, DialogParent(), closeDialog))
+    {
+    case ReadyToInstallAnswer::SkipThisVersion:
+        SetState(State::SILENT_ABORTING);
+        // Before the invocation: it may end the process.
+        StoreSkippedVersion([item versionString]);
+        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
+        return;
+    case ReadyToInstallAnswer::InstallAndRelaunch:
+        SetState(State::SILENT_INSTALLING);
+        InvokeWith(invocation, USER_INTERFACE_ARGUMENT, YES);
+        return;
+    case ReadyToInstallAnswer::RemindLater:
+        SetState(State::SILENT_ABORTING);
+        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
+        return;
+    }
+}
+
+QString SparkleManager::Impl::InstalledApplicationName() const
+{
+    id const name = [[[NSBundle mainBundle] infoDictionary] objectForKey:@"SUBundleName"];
+    QString const bundleName = [name isKindOfClass:[NSString class]] ? Foundation::ToQString(name) : QString();
+    return bundleName.isEmpty() ? context->applicationName : bundleName;
+}
+
+bool SparkleManager::Impl::ShouldRelaunch()
+{
+    Session::WriteCurrentState(Session::Sites::SHOULD_RELAUNCH, state);
+    switch (Session::ReactionToRelaunch(state))
+    {
+    case RelaunchReaction::Allowed:
+        return true;
+    case RelaunchReaction::Refused:
+        return false;
+    case RelaunchReaction::Unspecified:
+        break;
+    }
+    Session::WriteUnspecifiedState(Session::Sites::SHOULD_RELAUNCH_UNSPECIFIED, state);
+    return true;
+}
+
+void SparkleManager::Impl::WillRelaunch()
+{
+    Session::WriteCurrentState(Session::Sites::WILL_RELAUNCH, state);
+    switch (Session::ReactionToRelaunch(state))
+    {
+    case RelaunchReaction::Allowed:
+        Session::PostTryToQuit();
+        return;
+    case RelaunchReaction::Refused:
+        return;
+    case RelaunchReaction::Unspecified:
+        break;
+    }
+    Session::WriteUnspecifiedState(Session::Sites::WILL_RELAUNCH_UNSPECIFIED, state);
+}
+
+void SparkleManager::Impl::DidCancelInstallOnQuit()
+{
+    Session::WriteCurrentState(Session::Sites::DID_CANCEL, state);
+    if (!Session::IsCancelledInstallExpected(state))
+    {
+        Session::WriteUnspecifiedState(Session::Sites::DID_CANCEL_UNSPECIFIED, state);
+        return;
+    }
+    SwitchToIdle();
+}
+
+NSString* SparkleManager::Impl::PathToRelaunch()
+{
+    Session::WriteCurrentState(Session::Sites::RELAUNCH_PATH, state);
+    if (EnsureContext() && EnsureRemoteVersion())
+    {
+        std::optional<QString> const path =
+            Session::RelaunchPathAfter(updateType, extensions, context->relaunchPathGetter, context->remoteVersion);
+        if (path)
+        {
+            return Foundation::ToNSString(*path);
+        }
+    }
+    return [[NSBundle mainBundle] bundlePath];
+}
+
+} // namespace Pelnar::App

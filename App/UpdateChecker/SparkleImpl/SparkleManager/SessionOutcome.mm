@@ -1,0 +1,138 @@
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/CallbackRules_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/GuardedCall_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionDialogs_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionRecords_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
+#include "Foundation/FoundationText.h"
+#include "HostFramework/VersionText.h"
+
+namespace Pelnar::App
+{
+
+using Session::OutcomeReaction;
+using Session::State;
+
+void SparkleManager::Impl::DidFindValidUpdate(SUAppcastItem* item)
+{
+    Session::WriteCurrentState(Session::Sites::FOUND, state);
+    updateType = DetectUpdateType(item);
+    Core::Write(Session::Sites::FOUND_UPDATE_TYPE,
+                std::string("SUAppcastItem contains update with UpdateType = ") + Session::UpdateTypeName(updateType));
+    extensions = DetectExtensions(item);
+    WriteExtensions();
+
+    switch (Session::ReactionToFound(state))
+    {
+    case OutcomeReaction::Nothing:
+        return;
+    case OutcomeReaction::Idle:
+        SwitchToIdle();
+        return;
+    case OutcomeReaction::ReportAndIdle:
+        if (EnsureContext() && EnsureCheckFinishedCallback())
+        {
+            ReportFoundVersion(item);
+        }
+        return;
+    case OutcomeReaction::ShowErrorAndIdle:
+    case OutcomeReaction::Unspecified:
+        break;
+    }
+    Session::WriteUnspecifiedState(Session::Sites::FOUND_UNSPECIFIED, state);
+}
+
+void SparkleManager::Impl::WriteExtensions() const
+{
+    if (extensions.isEmpty() || !Core::IsEnabled(Session::Sites::FOUND_EXTENSIONS))
+    {
+        return;
+    }
+    Core::Write(Session::Sites::FOUND_EXTENSIONS, "Extensions:");
+    for (auto entry = extensions.cbegin(); entry != extensions.cend(); ++entry)
+    {
+        QString const value = entry->canConvert<QString>() ? entry->toString() : QStringLiteral("<NOT A STRING>");
+        Core::Write(Session::Sites::FOUND_EXTENSION,
+                    QStringLiteral("  * %1 = \"%2\"").arg(entry.key(), value).toStdString());
+    }
+}
+
+void SparkleManager::Impl::ReportFoundVersion(SUAppcastItem* item)
+{
+    QString versionText;
+    std::optional<std::string> const failure = Session::DiagnosticOf(
+        [this, item, &versionText]
+        {
+            versionText = Foundation::ToQString([item versionString]);
+            context->remoteVersion = Util::VersionFromString(versionText, QStringLiteral("."));
+            if (!EnsureVersionOperators() || !EnsureRemoteVersionIsGreaterThanLocal())
+            {
+                context->remoteVersion = context->localVersion;
+            }
+        });
+    if (failure)
+    {
+        Core::Write(Session::Sites::FOUND_DIAGNOSTIC, *failure);
+        Core::Write(Session::Sites::FOUND_BAD_VERSION, "item version=\"" + versionText.toStdString() + "\"");
+        context->remoteVersion = context->localVersion;
+    }
+    SetState(State::WAITING);
+    NotifyCheckFinished();
+    UnlockIfRequested();
+}
+
+void SparkleManager::Impl::DidNotFindUpdate()
+{
+    Session::WriteCurrentState(Session::Sites::NOT_FOUND, state);
+    switch (Session::ReactionToNotFound(state))
+    {
+    case OutcomeReaction::Nothing:
+        return;
+    case OutcomeReaction::Idle:
+        SwitchToIdle();
+        return;
+    case OutcomeReaction::ReportAndIdle:
+        if (EnsureContext() && EnsureCheckFinishedCallback())
+        {
+            ReportNoNewerVersion();
+        }
+        return;
+    case OutcomeReaction::ShowErrorAndIdle:
+    case OutcomeReaction::Unspecified:
+        break;
+    }
+    Session::WriteUnspecifiedState(Session::Sites::NOT_FOUND_UNSPECIFIED, state);
+}
+
+void SparkleManager::Impl::DidAbort(NSError* error)
+{
+    Session::WriteCurrentState(Session::Sites::ABORTED, state);
+    Core::Write(Session::Sites::ABORTED_ERROR, Foundation::ToUtf8([error description]));
+    switch (Session::ReactionToAbort(state))
+    {
+    case OutcomeReaction::Nothing:
+        return;
+    case OutcomeReaction::ReportAndIdle:
+        // No guard: CheckForUpdates enters this state with a context only, and a context is never taken away.
+        ReportNoNewerVersion();
+        return;
+    case OutcomeReaction::ShowErrorAndIdle:
+        Session::ShowUpdateError(Foundation::ToQString([error localizedDescription]), DialogParent(), closeDialog);
+        SwitchToIdle();
+        return;
+    case OutcomeReaction::Idle:
+        SwitchToIdle();
+        return;
+    case OutcomeReaction::Unspecified:
+        break;
+    }
+    Session::WriteUnspecifiedState(Session::Sites::ABORTED_UNSPECIFIED, state);
+}
+
+QWidget* SparkleManager::Impl::DialogParent() const
+{
+    return context && context->parentWidgetGetter ? context->parentWidgetGetter() : nullptr;
+}
+
+} // namespace Pelnar::App

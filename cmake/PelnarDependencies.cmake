@@ -3,6 +3,7 @@
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network)
 find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
+find_package(PkgConfig REQUIRED)
 
 if(APPLE)
     find_library(PELNAR_FOUNDATION Foundation REQUIRED)

@@ -25,7 +25,8 @@ ByteBuffer FromText(char const* text)
 /// Reads a buffer from its beginning, and refuses to read past its end.
 ByteSource Reader(ByteBuffer const& buffer)
 {
-    return [&buffer, position = std::size_t(0)](std::uint8_t* target, std::size_t size) mutable {
+    return [&buffer, position = std::size_t(0)](std::uint8_t* target, std::size_t size) mutable
+    {
         if (size > buffer.size() - position)
         {
             return false;
@@ -39,7 +40,9 @@ ByteSource Reader(ByteBuffer const& buffer)
 PatchVerdict Apply(ByteBuffer const& oldBytes, BinaryPatch const& patch, std::uint64_t newSize, ByteBuffer& result)
 {
     return ApplyBinaryPatch(View(oldBytes), patch.control.size(), Reader(patch.control), Reader(patch.difference),
-                            Reader(patch.extra), newSize, [&result](Bytes bytes) {
+                            Reader(patch.extra), newSize,
+                            [&result](Bytes bytes)
+                            {
                                 result.insert(result.end(), bytes.begin(), bytes.end());
                                 return true;
                             });
@@ -173,21 +176,20 @@ constexpr std::int64_t HIGHEST = std::numeric_limits<std::int64_t>::max();
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, HostilePatch,
-    testing::Values(
-        HostileRow{"NoStepAtAll", {}, 0, 0, 1, PatchVerdict::WrongSize},
-        HostileRow{"HalfAStep", ByteBuffer(23, 0), 0, 0, 0, PatchVerdict::WrongSize},
-        HostileRow{"TooFewBytes", Control({4, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
-        HostileRow{"TooManyDifferenceBytes", Control({6, 0, 0}), 6, 0, 5, PatchVerdict::WrongSize},
-        HostileRow{"TooManyExtraBytes", Control({4, 2, 0}), 4, 2, 5, PatchVerdict::WrongSize},
-        HostileRow{"SizesThatOverflow", Control({4, -1, 0}), 4, 2, 5, PatchVerdict::WrongSize},
-        HostileRow{"NegativeDifference", Control({-1, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
-        HostileRow{"DifferencePastTheOldEnd", Control({11, 0, 0}), 11, 0, 20, PatchVerdict::OutOfRange},
-        HostileRow{"MovePastTheOldEnd", Control({4, 0, 7}), 4, 0, 4, PatchVerdict::OutOfRange},
-        HostileRow{"MoveBeforeTheOldBeginning", Control({4, 0, -5}), 4, 0, 4, PatchVerdict::OutOfRange},
-        HostileRow{"LowestMove", Control({4, 0, LOWEST}), 4, 0, 4, PatchVerdict::OutOfRange},
-        HostileRow{"HighestMove", Control({4, 0, HIGHEST}), 4, 0, 4, PatchVerdict::OutOfRange},
-        HostileRow{"DifferenceStreamEnds", Control({4, 0, 0}), 3, 0, 4, PatchVerdict::SourceEnded},
-        HostileRow{"ExtraStreamEnds", Control({0, 4, 0}), 0, 3, 4, PatchVerdict::SourceEnded}),
+    testing::Values(HostileRow{"NoStepAtAll", {}, 0, 0, 1, PatchVerdict::WrongSize},
+                    HostileRow{"HalfAStep", ByteBuffer(23, 0), 0, 0, 0, PatchVerdict::WrongSize},
+                    HostileRow{"TooFewBytes", Control({4, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
+                    HostileRow{"TooManyDifferenceBytes", Control({6, 0, 0}), 6, 0, 5, PatchVerdict::WrongSize},
+                    HostileRow{"TooManyExtraBytes", Control({4, 2, 0}), 4, 2, 5, PatchVerdict::WrongSize},
+                    HostileRow{"SizesThatOverflow", Control({4, -1, 0}), 4, 2, 5, PatchVerdict::WrongSize},
+                    HostileRow{"NegativeDifference", Control({-1, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
+                    HostileRow{"DifferencePastTheOldEnd", Control({11, 0, 0}), 11, 0, 20, PatchVerdict::OutOfRange},
+                    HostileRow{"MovePastTheOldEnd", Control({4, 0, 7}), 4, 0, 4, PatchVerdict::OutOfRange},
+                    HostileRow{"MoveBeforeTheOldBeginning", Control({4, 0, -5}), 4, 0, 4, PatchVerdict::OutOfRange},
+                    HostileRow{"LowestMove", Control({4, 0, LOWEST}), 4, 0, 4, PatchVerdict::OutOfRange},
+                    HostileRow{"HighestMove", Control({4, 0, HIGHEST}), 4, 0, 4, PatchVerdict::OutOfRange},
+                    HostileRow{"DifferenceStreamEnds", Control({4, 0, 0}), 3, 0, 4, PatchVerdict::SourceEnded},
+                    HostileRow{"ExtraStreamEnds", Control({0, 4, 0}), 0, 3, 4, PatchVerdict::SourceEnded}),
     [](testing::TestParamInfo<HostileRow> const& row) { return row.param.name; });
 
 TEST(BinaryPatch, ControlStreamThatEndsEarlyIsRefused)
@@ -208,7 +210,8 @@ TEST(BinaryPatch, SinkThatRefusesEndsTheWork)
         ByteBuffer const stream(4, 0);
         int calls = 0;
         EXPECT_EQ(ApplyBinaryPatch(View(oldBytes), 24, Reader(control), Reader(stream), Reader(stream), 4,
-                                   [&calls](Bytes) {
+                                   [&calls](Bytes)
+                                   {
                                        ++calls;
                                        return false;
                                    }),

@@ -1,0 +1,276 @@
+#include "Engine/core/delta/DeltaApplier.h"
+
+#include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <numeric>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::size_t PIECE_BYTES = 64 * 1024;
+
+class Applier
+{
+public:
+    Applier(int containerFd, int oldBundleFd, int stagingFd, std::uint64_t dataOffset)
+        : m_containerFd(containerFd), m_old(oldBundleFd), m_staging(stagingFd), m_dataOffset(dataOffset)
+    {
+    }
+
+    DeltaOutcome Make(DeltaEntry const& entry)
+    {
+        DeltaOutcome outcome;
+        switch (entry.kind)
+        {
+        case DeltaEntryKind::Directory:
+            outcome = m_staging.MakeFolder(entry.path) ? DeltaOutcome{} : WriteFailure();
+            break;
+        case DeltaEntryKind::SymbolicLink:
+            outcome = m_staging.MakeLink(entry.path, entry.linkTarget) ? DeltaOutcome{} : WriteFailure();
+            break;
+        case DeltaEntryKind::Kept:
+            outcome = Keep(entry);
+            break;
+        case DeltaEntryKind::Patched:
+            outcome = Patch(entry);
+            break;
+        case DeltaEntryKind::Whole:
+            outcome = TakeWhole(entry);
+            break;
+        }
+        m_dataOffset += entry.StoredBytes();
+        if (!outcome.HasSucceeded())
+        {
+            outcome.path = entry.path;
+        }
+        return outcome;
+    }
+
+private:
+    static DeltaOutcome WriteFailure() { return {DeltaError::CannotWrite, {}, errno}; }
+
+    /// The old version's file \a path, if it is a plain file of \a size bytes.
+    DeltaOutcome OpenSource(std::string const& path, std::uint64_t size, UniqueFd& source)
+    {
+        source = m_old.OpenFile(path);
+        if (!source)
+        {
+            bool const isMissing = errno == ENOENT || errno == ELOOP || errno == ENOTDIR;
+            return {isMissing ? DeltaError::BaseDiffers : DeltaError::CannotRead, {}, errno};
+        }
+        struct stat status;
+        if (fstat(source.Get(), &status) != 0)
+        {
+            return {DeltaError::CannotRead, {}, errno};
+        }
+        bool const isExpected = S_ISREG(status.st_mode) && static_cast<std::uint64_t>(status.st_size) == size;
+        return isExpected ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+    }
+
+    DeltaOutcome Keep(DeltaEntry const& entry)
+    {
+        UniqueFd source;
+        if (DeltaOutcome const outcome = OpenSource(entry.sourcePath, entry.size, source); !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        UniqueFd const target = m_staging.MakeFile(entry.path, entry.isExecutable);
+        if (!target)
+        {
+            return WriteFailure();
+        }
+        // A clone shares the blocks and costs no copy; file systems without it answer at once.
+        bool const isCloned = ioctl(target.Get(), FICLONE, source.Get()) == 0;
+        Sha256Hasher hasher;
+        if (DeltaOutcome const outcome =
+                isCloned ? Hash(target.Get(), hasher) : Copy(source.Get(), target.Get(), hasher);
+            !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+    }
+
+    DeltaOutcome Hash(int fd, Sha256Hasher& hasher)
+    {
+        for (std::uint64_t offset = 0;;)
+        {
+            ssize_t const got = pread(fd, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));
+            if (got < 0 && errno == EINTR)
+            {
+                continue;
+            }
+            if (got <= 0)
+            {
+                return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+            }
+            hasher.Add(Bytes(m_piece.data(), static_cast<std::size_t>(got)));
+            offset += static_cast<std::uint64_t>(got);
+        }
+    }
+
+    DeltaOutcome Copy(int source, int target, Sha256Hasher& hasher)
+    {
+        for (;;)
+        {
+            ssize_t const got = read(source, m_piece.data(), m_piece.size());
+            if (got < 0 && errno == EINTR)
+            {
+                continue;
+            }
+            if (got <= 0)
+            {
+                return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+            }
+            Bytes const bytes(m_piece.data(), static_cast<std::size_t>(got));
+            hasher.Add(bytes);
+            if (!WriteAll(target, bytes))
+            {
+                return WriteFailure();
+            }
+        }
+    }
+
+    DeltaOutcome Patch(DeltaEntry const& entry)
+    {
+        UniqueFd source;
+        if (DeltaOutcome const outcome = OpenSource(entry.sourcePath, entry.sourceSize, source);
+            !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        FileMapping const old(source.Get(), static_cast<std::size_t>(entry.sourceSize));
+        if (!old.IsValid())
+        {
+            return {DeltaError::CannotRead, {}, errno};
+        }
+        if (HashOf(old.Content()) != entry.sourceHash)
+        {
+            return {DeltaError::BaseDiffers, {}, 0};
+        }
+        UniqueFd const target = m_staging.MakeFile(entry.path, entry.isExecutable);
+        if (!target)
+        {
+            return WriteFailure();
+        }
+        std::uint64_t const differenceOffset = m_dataOffset + entry.controlStored;
+        std::uint64_t const extraOffset = differenceOffset + entry.differenceStored;
+        DeltaStream control(m_containerFd, m_dataOffset, entry.controlStored);
+        DeltaStream difference(m_containerFd, differenceOffset, entry.differenceStored);
+        DeltaStream extra(m_containerFd, extraOffset, entry.extraStored);
+        Sha256Hasher hasher;
+        errno = 0;
+        PatchVerdict const verdict = ApplyBinaryPatch(
+            old.Content(), entry.controlSize, [&control](auto* to, auto size) { return control.Read(to, size); },
+            [&difference](auto* to, auto size) { return difference.Read(to, size); },
+            [&extra](auto* to, auto size) { return extra.Read(to, size); }, entry.size,
+            [&hasher, &target](Bytes bytes)
+            {
+                hasher.Add(bytes);
+                return WriteAll(target.Get(), bytes);
+            });
+        switch (verdict)
+        {
+        case PatchVerdict::Applied:
+            break;
+        case PatchVerdict::SinkRefused:
+            return WriteFailure();
+        case PatchVerdict::SourceEnded:
+            return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0}
+                              : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+        case PatchVerdict::OutOfRange:
+        case PatchVerdict::WrongSize:
+            return {DeltaError::Damaged, {}, 0};
+        }
+        if (!control.IsAtEnd() || !difference.IsAtEnd() || !extra.IsAtEnd())
+        {
+            return {DeltaError::Damaged, {}, 0};
+        }
+        return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::ResultDiffers, {}, 0};
+    }
+
+    DeltaOutcome TakeWhole(DeltaEntry const& entry)
+    {
+        UniqueFd const target = m_staging.MakeFile(entry.path, entry.isExecutable);
+        if (!target)
+        {
+            return WriteFailure();
+        }
+        DeltaStream whole(m_containerFd, m_dataOffset, entry.wholeStored);
+        Sha256Hasher hasher;
+        errno = 0;
+        for (std::uint64_t missing = entry.size; missing > 0;)
+        {
+            auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(missing, m_piece.size()));
+            if (!whole.Read(m_piece.data(), piece))
+            {
+                return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0}
+                                  : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+            }
+            Bytes const bytes(m_piece.data(), piece);
+            hasher.Add(bytes);
+            if (!WriteAll(target.Get(), bytes))
+            {
+                return WriteFailure();
+            }
+            missing -= piece;
+        }
+        if (!whole.IsAtEnd())
+        {
+            return {DeltaError::Damaged, {}, 0};
+        }
+        return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::ResultDiffers, {}, 0};
+    }
+
+    int m_containerFd;
+    TreeAccess m_old;
+    TreeAccess m_staging;
+    std::uint64_t m_dataOffset; ///< of the next entry's data
+    std::array<std::uint8_t, PIECE_BYTES> m_piece;
+};
+
+} // namespace
+
+DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLimits const& limits,
+                        DeltaProgress const& progress)
+{
+    DeltaManifest manifest;
+    std::uint64_t dataOffset = 0;
+    if (DeltaOutcome outcome = ReadDeltaManifest(containerFd, limits, manifest, dataOffset); !outcome.HasSucceeded())
+    {
+        return outcome;
+    }
+    std::uint64_t const total =
+        std::accumulate(manifest.entries.begin(), manifest.entries.end(), std::uint64_t(0),
+                        [](std::uint64_t sum, DeltaEntry const& entry) { return sum + entry.size; });
+    std::uint64_t done = 0;
+    Applier applier(containerFd, oldBundleFd, stagingFd, dataOffset);
+    for (DeltaEntry const& entry : manifest.entries)
+    {
+        if (DeltaOutcome outcome = applier.Make(entry); !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        done += entry.size;
+        if (progress)
+        {
+            progress(done, total);
+        }
+    }
+    return {};
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,70 @@
+// DeltaContainer.h: the file that carries a delta: a fixed header, the manifest, the data of its entries in order.
+// Thread: any; no state. Ownership: descriptors stay the caller's. The format is described in docs/formats/delta.md.
+#pragma once
+
+#include "Engine/core/delta/DeltaManifest.h"
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace Pelnar::Engine
+{
+
+enum class DeltaError
+{
+    None,
+    NotADelta,     ///< another file, or another version of the format
+    Damaged,       ///< the container contradicts itself or ends early
+    OverLimits,    ///< asks for more than the limits allow
+    BaseDiffers,   ///< a file of the old version is missing or is not the one that the delta starts from
+    ResultDiffers, ///< a file came out with another hash than the manifest's
+    CannotRead,    ///< the container or the old version cannot be read
+    CannotWrite,   ///< the new version or the container cannot be written
+};
+
+struct DeltaOutcome
+{
+    DeltaError error = DeltaError::None;
+    std::string path;    ///< the entry concerned, where there is one
+    int systemError = 0; ///< errno, where there is one
+
+    [[nodiscard]] bool HasSucceeded() const { return error == DeltaError::None; }
+};
+
+constexpr std::size_t DELTA_HEADER_BYTES = 32;
+/// No stream of a container needs more than this to be decompressed.
+constexpr int DELTA_WINDOW_LOG = 27;
+
+/// Reads the header and the manifest of the container open at \a containerFd. \a dataOffset is where the data of the
+/// first entry begins; the data ends exactly where the file does.
+[[nodiscard]] DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, DeltaManifest& manifest,
+                                             std::uint64_t& dataOffset);
+
+/// The header and the compressed manifest that open a container.
+[[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
+
+/// One compressed stream of a container, decompressed piece by piece.
+class DeltaStream
+{
+public:
+    /// \a size bytes from \a offset of the file open at \a containerFd, which stays open as long as this object.
+    DeltaStream(int containerFd, std::uint64_t offset, std::uint64_t size);
+    ~DeltaStream();
+    DeltaStream(DeltaStream&&) noexcept;
+
+    /// The next \a size bytes; false when the stream ends early, is damaged or cannot be read.
+    [[nodiscard]] bool Read(std::uint8_t* target, std::size_t size);
+    /// True when every byte has been read and the stream ends there.
+    [[nodiscard]] bool IsAtEnd();
+
+private:
+    struct State;
+    std::unique_ptr<State> m_state;
+};
+
+/// zstd's answer at the level that containers are made with.
+[[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,29 @@
+// DeltaMaker.h: compares two versions of a bundle and writes the delta from the first to the second.
+// Thread: any. Ownership: values only. A publisher's work: it reads trees that the publisher trusts.
+#pragma once
+
+#include "Engine/core/delta/DeltaContainer.h"
+
+#include <filesystem>
+#include <string>
+
+namespace Pelnar::Engine
+{
+
+struct DeltaReport
+{
+    DeltaOutcome outcome;
+    std::uint64_t keptFiles = 0;
+    std::uint64_t patchedFiles = 0;
+    std::uint64_t wholeFiles = 0;
+    std::uint64_t containerBytes = 0;
+};
+
+/// Writes the delta from the folder \a oldBundle to the folder \a newBundle into the file open at \a containerFd, which
+/// must be empty. For each file that changed, the smaller of a patch and the whole file is taken. The same two folders
+/// always make the same bytes.
+[[nodiscard]] DeltaReport MakeDelta(std::filesystem::path const& oldBundle, std::string const& baseVersion,
+                                    std::filesystem::path const& newBundle, std::string const& targetVersion,
+                                    int containerFd, DeltaLimits const& limits = {});
+
+} // namespace Pelnar::Engine

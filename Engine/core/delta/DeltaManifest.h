@@ -1,0 +1,96 @@
+// DeltaManifest.h: what a delta container says of the new version's tree, as plain values, and its bytes.
+// Thread: any; no state. Ownership: values only. The format is described in docs/formats/delta.md.
+#pragma once
+
+#include "Engine/core/delta/BinaryPatch.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+using Sha256 = std::array<std::uint8_t, 32>;
+
+enum class DeltaEntryKind : std::uint8_t
+{
+    Directory = 0,
+    SymbolicLink = 1,
+    Kept = 2,    ///< a file that the old version has, here or under another path
+    Patched = 3, ///< a file made from one of the old version by a binary patch
+    Whole = 4,   ///< a file that the container brings whole
+};
+
+struct DeltaEntry
+{
+    std::string path; ///< below the bundle's folder, "/" between components
+    DeltaEntryKind kind = DeltaEntryKind::Directory;
+    std::string linkTarget; ///< SymbolicLink
+
+    // Kept, Patched and Whole: the file in the new version.
+    bool isExecutable = false;
+    std::uint64_t size = 0;
+    Sha256 hash{};
+
+    // Kept and Patched: the file of the old version. A kept file has the new one's size and hash.
+    std::string sourcePath;
+    std::uint64_t sourceSize = 0;
+    Sha256 sourceHash{};
+
+    // Patched: bytes that each stream takes in the container, and of the control stream once decompressed.
+    std::uint64_t controlStored = 0;
+    std::uint64_t differenceStored = 0;
+    std::uint64_t extraStored = 0;
+    std::uint64_t controlSize = 0;
+
+    // Whole: bytes that the file takes in the container.
+    std::uint64_t wholeStored = 0;
+
+    /// Bytes that the entry takes of the container's data.
+    std::uint64_t StoredBytes() const { return controlStored + differenceStored + extraStored + wholeStored; }
+};
+
+bool operator==(DeltaEntry const& a, DeltaEntry const& b);
+
+struct DeltaManifest
+{
+    std::string baseVersion;         ///< the version text of the bundle that the delta starts from
+    std::string targetVersion;       ///< and of the one that it makes
+    std::vector<DeltaEntry> entries; ///< in ascending order of the paths' bytes; a folder stands before what it holds
+};
+
+/// What a manifest may ask for.
+struct DeltaLimits
+{
+    std::uint64_t maxManifestBytes = 64u << 20;
+    std::uint64_t maxEntries = 200000;
+    std::uint64_t maxPathBytes = 4096;
+    std::uint64_t maxDepth = 64;
+    std::uint64_t maxTotalBytes = std::uint64_t(4) << 30; ///< of all files of the new version
+};
+
+enum class DeltaManifestError
+{
+    None,
+    Truncated,     ///< ends inside a value
+    TrailingBytes, ///< goes on after the last entry
+    BadNumber,     ///< longer than needed, or over 64 bits
+    UnknownKind,
+    BadFlag,
+    BadPath,    ///< empty, absolute, with an empty, "." or ".." component, a NUL or control byte, too long or deep
+    NotInOrder, ///< not after the entry before it, or in a folder that is no entry before it
+    BadLink,    ///< a link target that is absolute or leaves the bundle
+    TooManyEntries,
+    TooManyBytes, ///< sizes that pass the limits or overflow
+};
+
+/// REQUIRES: a manifest that CheckDeltaManifest accepts.
+ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
+/// Reads \a bytes, whole, and holds them to every rule; \a manifest is complete only when the answer is None.
+[[nodiscard]] DeltaManifestError DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
+/// The rules that a decoded manifest keeps, for one that is being made.
+[[nodiscard]] DeltaManifestError CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,121 @@
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <fcntl.h>
+#include <linux/openat2.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr mode_t PLAIN_MODE = 0644;
+constexpr mode_t EXECUTABLE_MODE = 0755;
+
+} // namespace
+
+UniqueFd::~UniqueFd()
+{
+    if (m_fd >= 0)
+    {
+        close(m_fd);
+    }
+}
+
+FileMapping::FileMapping(int fd, std::size_t size)
+{
+    if (size == 0)
+    {
+        // The system maps no empty range.
+        m_isValid = true;
+        return;
+    }
+    void* const address = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
+    if (address != MAP_FAILED)
+    {
+        m_isValid = true;
+        m_content = Bytes(static_cast<std::uint8_t const*>(address), size);
+    }
+}
+
+FileMapping::~FileMapping()
+{
+    if (!m_content.empty())
+    {
+        munmap(const_cast<std::uint8_t*>(m_content.data()), m_content.size());
+    }
+}
+
+bool WriteAll(int fd, Bytes bytes)
+{
+    while (!bytes.empty())
+    {
+        ssize_t const written = write(fd, bytes.data(), bytes.size());
+        if (written < 0 && errno != EINTR)
+        {
+            return false;
+        }
+        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+UniqueFd TreeAccess::OpenBeneath(std::string const& path, int flags, unsigned mode) const
+{
+    open_how how{};
+    how.flags = static_cast<std::uint64_t>(flags) | O_CLOEXEC;
+    how.mode = mode;
+    how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
+    long answer = 0;
+    do
+    {
+        answer = syscall(SYS_openat2, m_folderFd, path.c_str(), &how, sizeof how);
+    } while (answer < 0 && (errno == EINTR || errno == EAGAIN));
+    return UniqueFd(static_cast<int>(answer));
+}
+
+UniqueFd TreeAccess::OpenParent(std::string const& path, std::string& name) const
+{
+    std::size_t const slash = path.rfind('/');
+    name = slash == std::string::npos ? path : path.substr(slash + 1);
+    return OpenBeneath(slash == std::string::npos ? std::string(".") : path.substr(0, slash), O_PATH | O_DIRECTORY, 0);
+}
+
+UniqueFd TreeAccess::OpenFile(std::string const& path) const
+{
+    // A FIFO in the file's place must not hold the process up.
+    return OpenBeneath(path, O_RDONLY | O_NONBLOCK, 0);
+}
+
+UniqueFd TreeAccess::MakeFile(std::string const& path, bool isExecutable)
+{
+    mode_t const mode = isExecutable ? EXECUTABLE_MODE : PLAIN_MODE;
+    UniqueFd file = OpenBeneath(path, O_RDWR | O_CREAT | O_EXCL, mode);
+    if (file && fchmod(file.Get(), mode) != 0)
+    {
+        return {};
+    }
+    return file;
+}
+
+bool TreeAccess::MakeFolder(std::string const& path)
+{
+    std::string name;
+    UniqueFd const parent = OpenParent(path, name);
+    return parent && mkdirat(parent.Get(), name.c_str(), EXECUTABLE_MODE) == 0 &&
+           fchmodat(parent.Get(), name.c_str(), EXECUTABLE_MODE, 0) == 0;
+}
+
+bool TreeAccess::MakeLink(std::string const& path, std::string const& target)
+{
+    std::string name;
+    UniqueFd const parent = OpenParent(path, name);
+    return parent && symlinkat(target.c_str(), parent.Get(), name.c_str()) == 0;
+}
+
+} // namespace Pelnar::Engine

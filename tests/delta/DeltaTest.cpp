@@ -1,0 +1,428 @@
+#include "Engine/core/delta/DeltaApplier.h"
+#include "Engine/core/delta/DeltaMaker.h"
+#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+namespace fs = std::filesystem;
+
+std::string ReadFile(fs::path const& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void WriteFile(fs::path const& path, std::string const& content, bool isExecutable = false)
+{
+    fs::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+    fs::permissions(path, fs::perms(isExecutable ? 0755 : 0644));
+}
+
+/// Path to kind, mode and content: two equal descriptions are equal trees.
+std::map<std::string, std::string> Describe(fs::path const& folder)
+{
+    std::map<std::string, std::string> tree;
+    for (fs::directory_entry const& entry : fs::recursive_directory_iterator(folder))
+    {
+        std::string const path = entry.path().lexically_relative(folder).string();
+        fs::file_status const status = entry.symlink_status();
+        std::string const mode = std::to_string(static_cast<unsigned>(status.permissions()));
+        tree[path] = fs::is_symlink(status)     ? "link " + fs::read_symlink(entry.path()).string()
+                     : fs::is_directory(status) ? "folder " + mode
+                                                : "file " + mode + " " + ReadFile(entry.path());
+    }
+    return tree;
+}
+
+std::string Noise(std::mt19937& random, std::size_t size)
+{
+    std::string text(size, '\0');
+    for (char& character : text)
+    {
+        character = static_cast<char>(random());
+    }
+    return text;
+}
+
+class Delta : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_dir.isValid());
+        for (char const* name : {"old", "new", "staging"})
+        {
+            fs::create_directories(Root() / name);
+        }
+        std::mt19937 random(42);
+        std::string const program = Noise(random, 200000);
+        std::string changed = program;
+        changed.replace(5000, 40, Noise(random, 60));
+        WriteFile(Old() / "Program", program, true);
+        WriteFile(New() / "Program", changed, true);
+        WriteFile(Old() / "Resources/same.dat", "unchanged");
+        WriteFile(New() / "Resources/same.dat", "unchanged");
+        WriteFile(Old() / "Resources/gone.dat", "gone");
+        WriteFile(Old() / "Resources/moved-from.dat", "moved content");
+        WriteFile(New() / "Resources/deep/moved-to.dat", "moved content");
+        WriteFile(New() / "Resources/new.dat", Noise(random, 3000));
+        WriteFile(New() / "Resources/empty.dat", "");
+        fs::create_symlink("Resources/same.dat", New() / "link");
+        fs::create_directory(New() / "Resources-2");
+    }
+
+    fs::path Root() const { return m_dir.path().toStdString(); }
+    fs::path Old() const { return Root() / "old"; }
+    fs::path New() const { return Root() / "new"; }
+    fs::path Staging() const { return Root() / "staging"; }
+    fs::path Container() const { return Root() / "update.delta"; }
+
+    DeltaReport Make()
+    {
+        UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+        return MakeDelta(Old(), "1.0", New(), "1.1", container.Get());
+    }
+
+    DeltaOutcome Apply(DeltaLimits const& limits = {})
+    {
+        fs::remove_all(Staging());
+        fs::create_directory(Staging());
+        UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
+        UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits,
+                          [this](std::uint64_t done, std::uint64_t total) { m_progress.emplace_back(done, total); });
+    }
+
+    void MakeOrFail() { ASSERT_TRUE(Make().outcome.HasSucceeded()); }
+
+    std::vector<std::pair<std::uint64_t, std::uint64_t>> m_progress;
+
+private:
+    QTemporaryDir m_dir;
+};
+
+TEST_F(Delta, MakesExactlyTheNewVersion)
+{
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.keptFiles, 2u) << "the unchanged and the moved one";
+    EXPECT_EQ(report.patchedFiles, 1u);
+    EXPECT_EQ(report.wholeFiles, 2u);
+    EXPECT_EQ(report.containerBytes, fs::file_size(Container()));
+    EXPECT_LT(report.containerBytes, 5000u) << "3000 of them are noise";
+    DeltaOutcome const outcome = Apply();
+    EXPECT_EQ(outcome.error, DeltaError::None) << outcome.path;
+    EXPECT_EQ(Describe(Staging()), Describe(New()));
+}
+
+TEST_F(Delta, SameFoldersMakeTheSameBytes)
+{
+    MakeOrFail();
+    std::string const first = ReadFile(Container());
+    MakeOrFail();
+    EXPECT_EQ(ReadFile(Container()), first);
+}
+
+TEST_F(Delta, ProgressEndsAtTheTotal)
+{
+    MakeOrFail();
+    ASSERT_TRUE(Apply().HasSucceeded());
+    ASSERT_FALSE(m_progress.empty());
+    EXPECT_EQ(m_progress.back().first, m_progress.back().second);
+    for (std::size_t i = 1; i < m_progress.size(); ++i)
+    {
+        EXPECT_LE(m_progress[i - 1].first, m_progress[i].first);
+    }
+}
+
+TEST_F(Delta, MaskOfTheProcessDoesNotChangeModes)
+{
+    MakeOrFail();
+    mode_t const previous = umask(0077);
+    DeltaOutcome const outcome = Apply();
+    umask(previous);
+    ASSERT_TRUE(outcome.HasSucceeded());
+    EXPECT_EQ(Describe(Staging()), Describe(New()));
+}
+
+TEST_F(Delta, EditedBaseFileIsFoundForPatchAndForKeep)
+{
+    MakeOrFail();
+    for (char const* name : {"Program", "Resources/same.dat", "Resources/moved-from.dat"})
+    {
+        SCOPED_TRACE(name);
+        std::string const content = ReadFile(Old() / name);
+        std::string edited = content;
+        edited.back() = static_cast<char>(edited.back() + 1);
+        WriteFile(Old() / name, edited);
+        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+        WriteFile(Old() / name, content + "x");
+        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers) << "another size";
+        fs::remove(Old() / name);
+        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers) << "missing";
+        WriteFile(Old() / name, content);
+    }
+    EXPECT_TRUE(Apply().HasSucceeded());
+}
+
+TEST_F(Delta, LinkInTheBasesPlaceIsNotFollowed)
+{
+    MakeOrFail();
+    WriteFile(Root() / "outside.dat", "unchanged");
+    fs::remove(Old() / "Resources/same.dat");
+    fs::create_symlink(Root() / "outside.dat", Old() / "Resources/same.dat");
+    EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+
+    fs::rename(Old() / "Resources", Root() / "elsewhere");
+    fs::remove(Root() / "elsewhere/same.dat");
+    WriteFile(Root() / "elsewhere/same.dat", "unchanged");
+    fs::create_symlink(Root() / "elsewhere", Old() / "Resources");
+    EXPECT_EQ(Apply().error, DeltaError::BaseDiffers) << "a link as a folder on the way";
+}
+
+TEST_F(Delta, FifoInTheBasesPlaceDoesNotHoldTheWorkUp)
+{
+    MakeOrFail();
+    fs::remove(Old() / "Resources/same.dat");
+    ASSERT_EQ(mkfifo((Old() / "Resources/same.dat").c_str(), 0644), 0);
+    EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+}
+
+TEST_F(Delta, LinkInTheStagingFolderIsNotFollowed)
+{
+    MakeOrFail();
+    UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
+    UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    fs::create_directory(Root() / "outside");
+    fs::create_symlink(Root() / "outside", Staging() / "Resources");
+    DeltaOutcome const outcome = ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {});
+    EXPECT_EQ(outcome.error, DeltaError::CannotWrite);
+    EXPECT_EQ(outcome.path, "Resources");
+    EXPECT_TRUE(fs::is_empty(Root() / "outside"));
+}
+
+TEST_F(Delta, EveryTruncationIsRefused)
+{
+    MakeOrFail();
+    std::string const whole = ReadFile(Container());
+    for (std::size_t size = 0; size < whole.size(); size += size < 400 ? 1 : 61)
+    {
+        WriteFile(Container(), whole.substr(0, size));
+        EXPECT_FALSE(Apply().HasSucceeded()) << size;
+    }
+    WriteFile(Container(), whole + "x");
+    EXPECT_EQ(Apply().error, DeltaError::Damaged) << "bytes after the end";
+}
+
+TEST_F(Delta, NoFlippedByteMakesAnotherVersion)
+{
+    MakeOrFail();
+    std::string const whole = ReadFile(Container());
+    std::map<std::string, std::string> const wanted = Describe(New());
+    for (std::size_t at = 0; at < whole.size(); at += at < 300 ? 1 : 97)
+    {
+        std::string flipped = whole;
+        flipped[at] = static_cast<char>(flipped[at] ^ 0x10);
+        WriteFile(Container(), flipped);
+        EXPECT_TRUE(!Apply().HasSucceeded() || Describe(Staging()) == wanted) << at;
+    }
+}
+
+TEST_F(Delta, OtherFilesAreNotDeltas)
+{
+    WriteFile(Container(), "PK\x03\x04 and so on, longer than the header is");
+    EXPECT_EQ(Apply().error, DeltaError::NotADelta);
+    WriteFile(Container(), "short");
+    EXPECT_EQ(Apply().error, DeltaError::NotADelta);
+}
+
+TEST_F(Delta, LimitsHold)
+{
+    MakeOrFail();
+    DeltaLimits few;
+    few.maxEntries = 3;
+    EXPECT_EQ(Apply(few).error, DeltaError::OverLimits);
+    DeltaLimits small;
+    small.maxTotalBytes = 100;
+    EXPECT_EQ(Apply(small).error, DeltaError::OverLimits);
+    DeltaLimits tight;
+    tight.maxManifestBytes = 10;
+    EXPECT_EQ(Apply(tight).error, DeltaError::OverLimits);
+}
+
+TEST_F(Delta, MakerRefusesWhatIsNoFileFolderOrLink)
+{
+    ASSERT_EQ(mkfifo((New() / "pipe").c_str(), 0644), 0);
+    DeltaReport const report = Make();
+    EXPECT_EQ(report.outcome.error, DeltaError::CannotRead);
+    EXPECT_EQ(report.outcome.path, "pipe");
+}
+
+TEST_F(Delta, MakerRefusesALinkThatLeavesTheBundle)
+{
+    fs::create_symlink("../../etc", New() / "out");
+    EXPECT_EQ(Make().outcome.error, DeltaError::OverLimits);
+}
+
+TEST_F(Delta, MakerNamesAMissingFolder)
+{
+    fs::remove_all(Old());
+    DeltaReport const report = Make();
+    EXPECT_EQ(report.outcome.error, DeltaError::CannotRead);
+    EXPECT_EQ(report.outcome.path, Old().string());
+}
+
+// The manifest's rules.
+
+DeltaEntry Folder(std::string path)
+{
+    DeltaEntry entry;
+    entry.path = std::move(path);
+    return entry;
+}
+
+DeltaEntry Link(std::string path, std::string target)
+{
+    DeltaEntry entry = Folder(std::move(path));
+    entry.kind = DeltaEntryKind::SymbolicLink;
+    entry.linkTarget = std::move(target);
+    return entry;
+}
+
+DeltaEntry Kept(std::string path, std::string source, std::uint64_t size = 1)
+{
+    DeltaEntry entry = Folder(std::move(path));
+    entry.kind = DeltaEntryKind::Kept;
+    entry.size = entry.sourceSize = size;
+    entry.sourcePath = std::move(source);
+    return entry;
+}
+
+struct ManifestRow
+{
+    char const* name;
+    std::vector<DeltaEntry> entries;
+    DeltaManifestError error;
+};
+
+class ManifestRule : public testing::TestWithParam<ManifestRow>
+{
+};
+
+TEST_P(ManifestRule, Holds)
+{
+    DeltaManifest const manifest{"1", "2", GetParam().entries};
+    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
+    DeltaManifest decoded;
+    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded), GetParam().error);
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}), GetParam().error);
+    if (GetParam().error == DeltaManifestError::None)
+    {
+        EXPECT_EQ(decoded.entries, manifest.entries);
+        EXPECT_EQ(decoded.baseVersion, "1");
+        EXPECT_EQ(decoded.targetVersion, "2");
+    }
+}
+
+using Error = DeltaManifestError;
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ManifestRule,
+    testing::Values(
+        ManifestRow{"Empty", {}, Error::None},
+        ManifestRow{"FolderThenFile", {Folder("a"), Kept("a/b", "c")}, Error::None},
+        ManifestRow{"SiblingBetweenFolderAndContent", {Folder("a"), Kept("a-b", "c"), Kept("a/b", "c")}, Error::None},
+        ManifestRow{"LinkInside", {Folder("a"), Link("a/l", "../b/./c")}, Error::None},
+        ManifestRow{"LinkOut", {Folder("a"), Link("a/l", "../../b")}, Error::BadLink},
+        ManifestRow{"LinkOutAndBack", {Link("l", "../old/b")}, Error::BadLink},
+        ManifestRow{"AbsoluteLink", {Link("l", "/etc/passwd")}, Error::BadLink},
+        ManifestRow{"EmptyLink", {Link("l", "")}, Error::BadLink},
+        ManifestRow{"EmptyPath", {Folder("")}, Error::BadPath},
+        ManifestRow{"AbsolutePath", {Folder("/a")}, Error::BadPath},
+        ManifestRow{"ParentComponent", {Folder("a"), Folder("a/..")}, Error::BadPath},
+        ManifestRow{"DotComponent", {Folder("./a")}, Error::BadPath},
+        ManifestRow{"DoubledSlash", {Folder("a"), Folder("a//b")}, Error::BadPath},
+        ManifestRow{"TrailingSlash", {Folder("a/")}, Error::BadPath},
+        ManifestRow{"NulInPath", {Folder(std::string("a\0b", 3))}, Error::BadPath},
+        ManifestRow{"LineFeedInPath", {Folder("a\nb")}, Error::BadPath},
+        ManifestRow{"LongComponent", {Folder(std::string(256, 'a'))}, Error::BadPath},
+        ManifestRow{"LongPath", {Folder(std::string(5000, 'a'))}, Error::BadPath},
+        ManifestRow{"SourceThatLeaves", {Kept("a", "../b")}, Error::BadPath},
+        ManifestRow{"Twice", {Folder("a"), Folder("a")}, Error::NotInOrder},
+        ManifestRow{"Backwards", {Folder("b"), Folder("a")}, Error::NotInOrder},
+        ManifestRow{"WithoutItsFolder", {Kept("a/b", "c")}, Error::NotInOrder},
+        ManifestRow{"BelowALink", {Link("a", "b"), Kept("a/b", "c")}, Error::NotInOrder},
+        ManifestRow{"BelowAFile", {Kept("a", "c"), Kept("a/b", "c")}, Error::NotInOrder},
+        ManifestRow{"OneHugeFile", {Kept("a", "c", ~std::uint64_t(0))}, Error::TooManyBytes},
+        ManifestRow{"SumOverTheLimit", {Kept("a", "c", 3ull << 30), Kept("b", "c", 3ull << 30)}, Error::TooManyBytes}),
+    [](testing::TestParamInfo<ManifestRow> const& row) { return row.param.name; });
+
+TEST(ManifestRule, DepthIsLimited)
+{
+    DeltaManifest manifest;
+    std::string path;
+    for (int depth = 0; depth < 65; ++depth)
+    {
+        path += path.empty() ? "a" : "/a";
+        manifest.entries.push_back(Folder(path));
+    }
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}), Error::BadPath);
+    manifest.entries.pop_back();
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}), Error::None);
+}
+
+struct BytesRow
+{
+    char const* name;
+    ByteBuffer bytes;
+    DeltaManifestError error;
+};
+
+class ManifestBytes : public testing::TestWithParam<BytesRow>
+{
+};
+
+TEST_P(ManifestBytes, AreRefused)
+{
+    DeltaManifest decoded;
+    EXPECT_EQ(DecodeDeltaManifest(Bytes(GetParam().bytes.data(), GetParam().bytes.size()), {}, decoded),
+              GetParam().error);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ManifestBytes,
+                         testing::Values(BytesRow{"Nothing", {}, Error::Truncated},
+                                         BytesRow{"HalfAText", {5, 'a'}, Error::Truncated},
+                                         BytesRow{"NoCount", {0, 0}, Error::Truncated},
+                                         BytesRow{"MissingEntry", {0, 0, 1}, Error::Truncated},
+                                         BytesRow{"TrailingByte", {0, 0, 0, 0}, Error::TrailingBytes},
+                                         BytesRow{"OverlongNumber", {0x80, 0}, Error::BadNumber},
+                                         BytesRow{"SixtyFiveBits",
+                                                  {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 2},
+                                                  Error::BadNumber},
+                                         BytesRow{"TooManyEntries", {0, 0, 0xC1, 0x9A, 0x0C}, Error::TooManyEntries},
+                                         BytesRow{"LongVersionText", {0x81, 2}, Error::BadPath},
+                                         BytesRow{"UnknownKind", {0, 0, 1, 1, 'a', 5}, Error::UnknownKind},
+                                         BytesRow{"UnknownFlag", {0, 0, 1, 1, 'a', 2, 2}, Error::BadFlag},
+                                         BytesRow{"HalfAHash", {0, 0, 1, 1, 'a', 2, 0, 1, 9, 9}, Error::Truncated}),
+                         [](testing::TestParamInfo<BytesRow> const& row) { return row.param.name; });
+
+} // namespace

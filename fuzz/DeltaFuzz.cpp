@@ -1,0 +1,67 @@
+// DeltaFuzz.cpp: any bytes as a delta's manifest and as a patch's streams: an accepted manifest is the one form of what
+// it says, and no patch makes more bytes than it may.
+
+#include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/DeltaManifest.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+void CheckManifest(Bytes bytes)
+{
+    DeltaManifest manifest;
+    if (DecodeDeltaManifest(bytes, {}, manifest) != DeltaManifestError::None)
+    {
+        return;
+    }
+    ByteBuffer const again = EncodeDeltaManifest(manifest);
+    if (Bytes(again.data(), again.size()) != bytes)
+    {
+        std::abort();
+    }
+}
+
+void CheckPatch(Bytes bytes)
+{
+    constexpr std::uint64_t NEW_BYTES = 100000;
+    ByteBuffer const oldBytes(1000, 7);
+    ByteSource const control = [rest = bytes](std::uint8_t* target, std::size_t size) mutable {
+        if (size > rest.size())
+        {
+            return false;
+        }
+        std::copy_n(rest.begin(), size, target);
+        rest.remove_prefix(size);
+        return true;
+    };
+    ByteSource const endless = [](std::uint8_t* target, std::size_t size) {
+        std::fill_n(target, size, std::uint8_t(1));
+        return true;
+    };
+    std::uint64_t made = 0;
+    PatchVerdict const verdict = ApplyBinaryPatch(Bytes(oldBytes.data(), oldBytes.size()), bytes.size() / 24 * 24,
+                                                  control, endless, endless, NEW_BYTES, [&made](Bytes piece) {
+                                                      made += piece.size();
+                                                      return true;
+                                                  });
+    if (made > NEW_BYTES || (verdict == PatchVerdict::Applied && made != NEW_BYTES))
+    {
+        std::abort();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+{
+    CheckManifest(Bytes(data, size));
+    CheckPatch(Bytes(data, size));
+    return 0;
+}

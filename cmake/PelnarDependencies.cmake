@@ -19,6 +19,11 @@ else()
         OUTPUT_VARIABLE PELNAR_LIBOBJC OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     find_library(PELNAR_GNUSTEP_BASE gnustep-base REQUIRED)
 
+    find_package(PkgConfig REQUIRED)
+    pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium>=1.0.18)
+    pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive>=3.6)
+    find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file
+
     add_library(pelnar_objc_runtime INTERFACE)
     target_compile_options(pelnar_objc_runtime INTERFACE
         "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gcc;-fexceptions;-fobjc-exceptions;-fconstant-string-class=NSConstantString>"

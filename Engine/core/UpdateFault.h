@@ -1,0 +1,109 @@
+// UpdateFault.h: every reason for which an update is not prepared or not installed, and the exception that carries one.
+// Thread: any; plain values. The names are part of the helper's report format: a name is never given a second meaning.
+#pragma once
+
+#include <optional>
+#include <stdexcept>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+
+enum class UpdateFault
+{
+    None,
+
+    JobMalformed,
+    DescriptorUnusable,
+    ConfinementFailed,
+
+    KeyMissing,
+    KeyMalformed,
+    SignatureMissing,
+    SignatureMalformed,
+    SignatureMismatch,
+    CryptographyUnavailable,
+    ArchiveEmpty,
+    ArchiveUnreadable,
+    ArchiveLengthDiffers,
+    ArchiveInUse,
+
+    ContainerUnknown,
+    ContainerDamaged,
+    ContainerAmbiguous,
+    ContainerEncrypted,
+    ContainerMethodUnknown,
+
+    EntryNameInvalid,
+    EntryNameTooLong,
+    EntryEscapes,
+    EntryTooDeep,
+    EntryTypeRefused,
+    EntryIsHardLink,
+    EntryIsSparse,
+    EntrySizeUnknown,
+    EntryDuplicate,
+    EntryNameClash,
+    EntryUnderNoFolder,
+    LinkTargetInvalid,
+    LinkEscapes,
+    LinkDangles,
+    LinkLoops,
+    TooManyEntries,
+    TooManyLinks,
+    TooManyBytes,
+
+    BundleMissing,
+    BundleNotAlone,
+    BundleNotAFolder,
+    InformationMissing,
+    InformationTooLarge,
+    InformationMalformed,
+    IdentifierDiffers,
+    VersionDiffers,
+    VersionNotNewer,
+    BundleKeyMissing,
+    ExecutableMissing,
+    ExecutableNotRunnable,
+    ExecutableForeign,
+
+    NoSpace,
+    NotPermitted,
+    DiskError,
+
+    HostStillRunning,
+    LockTimedOut,
+    TargetMissing,
+    TargetChanged,
+    StagedTreeChanged,
+    OtherFileSystem,
+    SwapFailed,
+    SyncFailed,
+
+    RelaunchPathUnsafe,
+    RelaunchFailed,
+};
+
+/// The fault's stable name: its enumerator's.
+std::string_view FaultName(UpdateFault fault);
+/// The fault of that name; nothing for any other text.
+std::optional<UpdateFault> FaultFromName(std::string_view name);
+
+/// Thrown where an update must stop; caught once, in the helper's main function.
+class UpdateRefusal : public std::runtime_error
+{
+public:
+    explicit UpdateRefusal(UpdateFault fault, int errorNumber = 0);
+
+    UpdateFault Fault() const { return m_fault; }
+    int ErrorNumber() const { return m_errorNumber; } ///< errno of the call that failed; 0 when none did
+
+private:
+    UpdateFault m_fault;
+    int m_errorNumber;
+};
+
+/// Throws the fault that \a errorNumber stands for: NoSpace, NotPermitted, or else \a otherwise.
+[[noreturn]] void ThrowErrno(int errorNumber, UpdateFault otherwise = UpdateFault::DiskError);
+
+} // namespace Pelnar::Engine

@@ -14,8 +14,8 @@ using Pelnar::Testing::ThroughFoundation;
 
 TEST(FoundationText, TextSurvivesTheRoundTrip)
 {
-    for (QString const& text : {QStringLiteral(""), QStringLiteral("5.1"), QStringLiteral("\u00e9\u4e2d\U0001F600"),
-                                QStringLiteral("a\0b")})
+    for (QString const& text :
+         {QStringLiteral(""), QStringLiteral("5.1"), QStringLiteral("\u00e9\u4e2d\U0001F600"), QStringLiteral("a\0b")})
     {
         EXPECT_EQ(ThroughFoundation(text), text);
     }
@@ -28,7 +28,8 @@ TEST(FoundationText, UnpairedSurrogateIsReplaced)
 
 TEST(FoundationText, AddressesSurviveTheRoundTrip)
 {
-    for (char const* text : {"https://a.example/x%20y.zip?q=1#f", "http://127.0.0.1:8080/feed.xml", "file:///tmp/a%20b"})
+    for (char const* text :
+         {"https://a.example/x%20y.zip?q=1#f", "http://127.0.0.1:8080/feed.xml", "file:///tmp/a%20b"})
     {
         QUrl const url(QString::fromLatin1(text));
         EXPECT_EQ(ThroughFoundation(url), url) << text;

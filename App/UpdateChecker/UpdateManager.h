@@ -62,6 +62,8 @@ public:
     void RejectUpdateAndHideDialog() override;
 
 private:
+    friend class UpdateManagerTestAccess;
+
     explicit UpdateManager(Initializer const& initializer);
     ~UpdateManager() override;
 

@@ -24,7 +24,14 @@ UpdateManager::Impl::Impl(UpdateManager& owner, std::shared_ptr<ExternalStimulus
 {
 }
 
-UpdateManager::Impl::~Impl() = default;
+UpdateManager::Impl::~Impl()
+{
+    // The back end is destroyed after the services below it: what it emits on its way out must find nobody here.
+    if (updater)
+    {
+        updater->disconnect(this);
+    }
+}
 
 void UpdateManager::Impl::InitializeUpdater()
 {

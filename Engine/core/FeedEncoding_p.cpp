@@ -142,7 +142,8 @@ FeedDocument DecodeFeed(QByteArray const& bytes)
     }
     QTextCodec::ConverterState state;
     document.text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    document.isDecodable = state.invalidChars == 0 && state.remainingChars == 0;
+    // The codecs let a lone half of a surrogate pair pass.
+    document.isDecodable = state.invalidChars == 0 && state.remainingChars == 0 && document.text.isValidUtf16();
     document.utf8 = document.text.toUtf8();
     return document;
 }

@@ -45,7 +45,7 @@ enum class FeedErrorKind
     TagTooLong,
     TooManyItems,
     TooManyNamespaces,
-    NotAFeed, ///< a well-formed web page, such as a login page that a network serves in the feed's place
+    NotAFeed, ///< a web page, such as a login page that a network serves in the feed's place
 };
 
 struct FeedParseError

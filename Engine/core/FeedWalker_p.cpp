@@ -1,6 +1,8 @@
 // FeedWalker_p.cpp: the XML reader behind the feed's limits.
 #include "Engine/core/FeedWalker_p.h"
 
+#include "Engine/core/FeedText_p.h"
+
 namespace Pelnar::Engine
 {
 
@@ -95,7 +97,9 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
         if (reader.hasError())
         {
             Refuse(FeedErrorKind::Malformed);
-            error.detail = reader.errorString();
+            // The reader quotes the character that it met.
+            QString const words = reader.errorString();
+            error.detail = CleanFeedText(QStringRef(&words), FeedTextKind::SingleLine);
         }
         break;
     case QXmlStreamReader::DTD:

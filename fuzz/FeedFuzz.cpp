@@ -1,0 +1,152 @@
+// FeedFuzz.cpp: the bytes of a feed, its items and the choice among them: the limits hold, and the same bytes give the
+// same answer.
+
+#include "Engine/core/FeedParser.h"
+#include "fuzz/FeedChoice.h"
+
+#include <QByteArray>
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+using namespace Pelnar;
+using Engine::FeedErrorKind;
+using Engine::FeedItem;
+using Engine::FeedParseResult;
+
+void Require(bool holds, char const* promise)
+{
+    if (!holds)
+    {
+        std::fprintf(stderr, "broken: %s\n", promise);
+        std::abort();
+    }
+}
+
+bool IsSafe(QString const& text)
+{
+    for (QChar const character : text)
+    {
+        ushort const unit = character.unicode();
+        bool const isControl = unit < 0x20 || (unit >= 0x7F && unit <= 0x9F);
+        if (isControl || (unit >= 0x2028 && unit <= 0x202E) || (unit >= 0x2066 && unit <= 0x2069))
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+void RequireSafe(QVariant const& value)
+{
+    if (value.type() == QVariant::Map)
+    {
+        for (QVariant const& entry : value.toMap())
+        {
+            RequireSafe(entry);
+        }
+    }
+    else if (value.type() == QVariant::List)
+    {
+        for (QVariant const& entry : value.toList())
+        {
+            RequireSafe(entry);
+        }
+    }
+    else
+    {
+        Require(value.type() == QVariant::String, "a property is a text, a map or a list");
+        Require(IsSafe(value.toString()), "no property can forge a line");
+    }
+}
+
+void RequirePromises(FeedItem const& item, Engine::FeedLimits const& limits)
+{
+    for (QString const& text :
+         {item.title, item.dateString, item.descriptionFormat, item.minimumSystemVersion, item.maximumSystemVersion,
+          item.versionString, item.displayVersionString, item.edSignature, item.installationType, item.deltaFrom})
+    {
+        Require(IsSafe(text), "no text can forge a line");
+    }
+    Require(item.contentLength <= limits.maxContentLength, "a length is within its limit");
+    for (QUrl const& url : {item.fileUrl, item.infoUrl, item.releaseNotesUrl})
+    {
+        Require(url.isEmpty() || (url.isValid() && !url.isRelative()), "an address is absolute");
+    }
+    Require(item.line >= 1 && item.column >= 1, "an item has a place");
+    QVariantMap properties = item.AllProperties();
+    properties.remove(QStringLiteral("description"));
+    RequireSafe(properties);
+    for (FeedItem const& delta : item.deltas)
+    {
+        Require(delta.isDelta && delta.deltas.empty() && !item.isDelta, "deltas stand one level deep");
+        RequirePromises(delta, limits);
+    }
+}
+
+bool IsSame(FeedItem const& a, FeedItem const& b)
+{
+    return a.title == b.title && a.versionString == b.versionString && a.fileUrl == b.fileUrl &&
+           a.contentLength == b.contentLength && a.properties == b.properties && a.deltas.size() == b.deltas.size();
+}
+
+void RequireSame(FeedParseResult const& a, FeedParseResult const& b)
+{
+    Require(a.error.kind == b.error.kind && a.error.line == b.error.line && a.error.column == b.error.column &&
+                a.error.sentence == b.error.sentence && a.error.detail == b.error.detail,
+            "the same bytes give the same error");
+    Require(a.items.size() == b.items.size(), "the same bytes give as many items");
+    for (std::size_t i = 0; i < a.items.size(); ++i)
+    {
+        Require(IsSame(a.items[i], b.items[i]), "the same bytes give the same items");
+    }
+}
+
+void RequireHonestChoice(std::vector<FeedItem> const& items)
+{
+    Core::Version const localVersion(1, 2);
+    FeedItem const* const choice = Fuzz::ChooseItem(items, localVersion, Core::Version(12));
+    Require(choice == Fuzz::ChooseItem(items, localVersion, Core::Version(12)), "the same items give the same choice");
+    Require(choice == nullptr || (choice->contentLength > 0 && choice->fileUrl.isValid()), "a choice can be fetched");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+{
+    QByteArray const bytes(reinterpret_cast<char const*>(data), static_cast<int>(size));
+    QUrl const feedUrl(QStringLiteral("https://feeds.example.com/app/appcast.xml"));
+    // Small limits, so that short inputs reach them.
+    Engine::FeedLimits limits;
+    limits.maxDepth = 8;
+    limits.maxAttributes = 8;
+    limits.maxTagBytes = 512;
+    limits.maxItems = 6;
+    limits.maxNamespaces = 4;
+    FeedParseResult const result = Engine::ParseFeed(bytes, feedUrl, Engine::FeedPlatform::MacOS, limits);
+    RequireSame(result, Engine::ParseFeed(bytes, feedUrl, Engine::FeedPlatform::MacOS, limits));
+    if (!result.HasSucceeded())
+    {
+        Require(result.items.empty(), "an error has no items");
+        Require(result.error.line >= 1 && result.error.column >= 1, "an error has a place");
+        Require(IsSafe(result.error.sentence) && IsSafe(result.error.detail), "no error can forge a line");
+        return 0;
+    }
+    Require(result.error.sentence.isEmpty() && result.error.detail.isEmpty(), "success has no error");
+    Require(result.items.size() <= static_cast<std::size_t>(limits.maxItems),
+            "the number of items is within its limit");
+    Require(!bytes.contains("<!DOCTYPE") || bytes.contains("<!--") || bytes.contains("<![CDATA[") ||
+                bytes.contains("<?"),
+            "a document type is refused");
+    for (FeedItem const& item : result.items)
+    {
+        RequirePromises(item, limits);
+    }
+    RequireHonestChoice(result.items);
+    return 0;
+}

@@ -1,0 +1,54 @@
+// SelectionFixture.h: a session of a test's own, asked for its appcast selection; by its own way, and by the plain
+// rules. Plain C++.
+// Thread: the Qt main thread. Ownership: the fixture owns its session and shares the context.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
+#include "tests/session/ScriptedSparkle.h"
+
+#include <QStringList>
+#include <QVariantMap>
+
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace Pelnar::Testing
+{
+
+class SelectionFixture
+{
+public:
+    using Item = std::optional<ScriptedItem>; ///< nothing stands for nil
+
+    SelectionFixture();
+    ~SelectionFixture();
+    SelectionFixture(SelectionFixture const&) = delete;
+    SelectionFixture& operator=(SelectionFixture const&) = delete;
+
+    void SetContext(std::shared_ptr<App::SparkleUpdateContext> context);
+    void SetState(App::Session::State state);
+    bool& BestItemIsDelta();
+
+    /// The names of the item's attributes in the order of its dictionary.
+    static QStringList PropertyNamesInOrder(ScriptedItem const& item);
+
+    App::Session::UpdateType DetectUpdateType(ScriptedItem const& item) const;
+    QVariantMap DetectExtensions(ScriptedItem const& item) const;
+    void PrintDebugInfo(ScriptedItem const& item, std::string const& prefix) const;
+    bool Validate(Item const& item) const;
+    Item SelectBest(Item const& a, Item const& b) const;
+    Item SelectBestOfAppcast(ScriptedAppcast const& appcast);
+
+    bool ValidatePlainly(Item const& item) const;
+    Item SelectBestPlainly(Item const& a, Item const& b) const;
+    Item SelectBestOfAppcastPlainly(ScriptedAppcast const& appcast);
+
+private:
+    struct Session;
+    std::unique_ptr<Session> m_session;
+};
+
+} // namespace Pelnar::Testing

@@ -5,6 +5,17 @@
 namespace Pelnar::Foundation
 {
 
+namespace
+{
+
+/// GNUstep answers a placeholder for a nil reason, always the same object.
+bool IsPlaceholder(NSString* reason)
+{
+    return reason == [[NSException exceptionWithName:NSGenericException reason:nil userInfo:nil] reason];
+}
+
+} // namespace
+
 std::optional<std::string> ReasonRaisedBy(std::function<void()> const& call)
 {
     @try
@@ -13,7 +24,8 @@ std::optional<std::string> ReasonRaisedBy(std::function<void()> const& call)
     }
     @catch (NSException* exception)
     {
-        return ToUtf8([exception reason]);
+        NSString* const reason = [exception reason];
+        return IsPlaceholder(reason) ? std::string() : ToUtf8(reason);
     }
     return std::nullopt;
 }

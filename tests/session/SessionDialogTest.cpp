@@ -1,0 +1,365 @@
+// The session's two dialogs: what they show, what each way out of them does, and how they are closed from elsewhere.
+
+#include "tests/session/SessionFixture.h"
+#include "tests/support/DialogDriver.h"
+
+#include <QDir>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <QTranslator>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+using Records = std::vector<LogRecord>;
+using Calls = std::vector<std::pair<bool, bool>>;
+
+QString const READY = QStringLiteral("SparkleUpdater_updateIsReadyToInstallDialog");
+QString const FAILED = QStringLiteral("SparkleUpdater_updateErrorDialog");
+QString const SKIPPED_KEY = QStringLiteral("SUSkippedVersion");
+
+/// Keeps a picture of \a box in the folder that PELNAR_PICTURES names, if any.
+void Picture(QWidget* box, QString const& name)
+{
+    QString const folder = qEnvironmentVariable("PELNAR_PICTURES");
+    if (!folder.isEmpty())
+    {
+        EXPECT_TRUE(box->grab().save(QDir(folder).filePath(name + QStringLiteral(".png"))));
+    }
+}
+
+class SessionDialog : public SessionTest
+{
+protected:
+    /// Offers version 6.1.2 and lets \a act deal with the dialog.
+    void OfferAnd(std::function<void(QMessageBox*)> act)
+    {
+        LendWithRemote(State::SILENT_DOWNLOADING, Version(6, 1, 2));
+        DialogDriver driver(READY,
+                            [act](QWidget* widget)
+                            {
+                                auto* const box = qobject_cast<QMessageBox*>(widget);
+                                ASSERT_TRUE(box);
+                                act(box);
+                            });
+        Callbacks::WillInstallOnQuit(MakeItem(QStringLiteral("6.1.2")), m_invocation);
+        EXPECT_FALSE(IsDialogClosable()) << "the function for closing went with the dialog";
+    }
+    void OfferAndClick(char const* button)
+    {
+        OfferAnd([button](QMessageBox* box) { ClickButton(box, QString::fromLatin1(button)); });
+    }
+    void FailAnd(std::function<void(QMessageBox*)> act)
+    {
+        LendIn(State::SILENT_INSTALLING);
+        DialogDriver driver(FAILED, [act](QWidget* widget) { act(qobject_cast<QMessageBox*>(widget)); });
+        Callbacks::DidAbort({QStringLiteral("D"), 4005, QStringLiteral("The <b>disk</b> is full & \u00e9.")});
+        EXPECT_FALSE(IsDialogClosable());
+        EXPECT_EQ(GetFields().state, State::WAITING);
+    }
+    void ExpectRemindedLater()
+    {
+        EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
+        EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
+        EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
+    }
+
+    ScriptedInvocation m_invocation{true, false};
+};
+
+TEST_F(SessionDialog, ReadyToInstallShowsItsTextsAndButtons)
+{
+    OfferAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->text(), QStringLiteral("A new version of Pelnar Studio 6 is ready to install"));
+            EXPECT_EQ(box->informativeText(),
+                      QStringLiteral("The Pelnar Studio 6.1.2 update has been downloaded and is waiting for your "
+                                     "approval. Would you like to install the update and relaunch Pelnar Studio "
+                                     "now?<br>"));
+            EXPECT_TRUE(box->windowTitle().isEmpty());
+            EXPECT_EQ(box->icon(), QMessageBox::Question) << "level 2";
+            EXPECT_EQ(box->windowFlags() & Qt::Dialog, Qt::Dialog);
+            EXPECT_TRUE(box->windowFlags() & Qt::MSWindowsFixedSizeDialogHint);
+            EXPECT_EQ(box->standardButtons(), QMessageBox::NoButton);
+            EXPECT_TRUE(box->isModal());
+            EXPECT_TRUE(IsDialogClosable());
+            QStringList added;
+            for (QAbstractButton* const button : box->buttons())
+            {
+                added << button->text().remove(QLatin1Char('&')) + QString::number(box->buttonRole(button));
+            }
+            added.sort();
+            EXPECT_EQ(added, (QStringList{QStringLiteral("Install and Relaunch%1").arg(QMessageBox::AcceptRole),
+                                          QStringLiteral("Remind Me Later%1").arg(QMessageBox::RejectRole),
+                                          QStringLiteral("Skip This Version%1").arg(QMessageBox::DestructiveRole)}));
+            // The order in which they were added: the order of the children.
+            QStringList order;
+            for (QPushButton* const button : box->findChildren<QPushButton*>())
+            {
+                order << button->text().remove(QLatin1Char('&'));
+            }
+            EXPECT_EQ(order, (QStringList{QStringLiteral("Skip This Version"), QStringLiteral("Remind Me Later"),
+                                          QStringLiteral("Install and Relaunch")}));
+            Picture(box, QStringLiteral("ready-to-install"));
+            box->close();
+        });
+}
+
+TEST_F(SessionDialog, ReadyToInstallEscapesNamesInMarkupOnly)
+{
+    Context().applicationName = QStringLiteral("A<b>%2</b> & %1");
+    OfferAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->text(), QStringLiteral("A new version of A<b>%2</b> & %1 6 is ready to install"));
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_EQ(box->informativeText(),
+                      QStringLiteral("The A&lt;b&gt;%2&lt;/b&gt; &amp; %1 6.1.2 update has been downloaded and is "
+                                     "waiting for your approval. Would you like to install the update and relaunch "
+                                     "A&lt;b&gt;%2&lt;/b&gt; &amp; %1 now?<br>"));
+            box->close();
+        });
+}
+
+class UpperCaseTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(char const* context, char const* text, char const*, int) const override
+    {
+        return qstrcmp(context, "SparkleUpdater") == 0 ? QString::fromLatin1(text).toUpper() : QString();
+    }
+};
+
+TEST_F(SessionDialog, ReadyToInstallIsTranslated)
+{
+    UpperCaseTranslator translator;
+    QCoreApplication::installTranslator(&translator);
+    OfferAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->text(), QStringLiteral("A NEW VERSION OF Pelnar Studio 6 IS READY TO INSTALL"));
+            EXPECT_EQ(box->informativeText(),
+                      QStringLiteral("THE Pelnar Studio 6.1.2 UPDATE HAS BEEN DOWNLOADED AND IS WAITING FOR YOUR "
+                                     "APPROVAL. WOULD YOU LIKE TO INSTALL THE UPDATE AND RELAUNCH Pelnar Studio "
+                                     "NOW?<br>"));
+            ClickButton(box, QStringLiteral("INSTALL AND RELAUNCH"));
+        });
+    QCoreApplication::removeTranslator(&translator);
+    EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING);
+}
+
+TEST_F(SessionDialog, InstallAndRelaunchSetsArgumentThree)
+{
+    m_invocation.OnInvoke([] { EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING) << "set before"; });
+    OfferAndClick("Install and Relaunch");
+    EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING);
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{true, true}}));
+    EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
+}
+
+TEST_F(SessionDialog, InstallAndRelaunchLeavesArgumentTwoAsItIs)
+{
+    m_invocation = ScriptedInvocation(false, false);
+    OfferAndClick("Install and Relaunch");
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, true}}));
+}
+
+TEST_F(SessionDialog, SkipStoresTheVersionBeforeTheInvocationRuns)
+{
+    std::optional<QString> storedAtInvocation;
+    m_invocation.OnInvoke(
+        [&storedAtInvocation]
+        {
+            storedAtInvocation = StoredUserDefault(SKIPPED_KEY);
+            EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
+        });
+    OfferAndClick("Skip This Version");
+    EXPECT_EQ(storedAtInvocation, QStringLiteral("6.1.2")) << "synchronized";
+    EXPECT_EQ(UserDefault(SKIPPED_KEY), QStringLiteral("6.1.2"));
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
+    EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
+}
+
+TEST_F(SessionDialog, SkipLeavesArgumentThreeAsItIs)
+{
+    m_invocation = ScriptedInvocation(true, true);
+    OfferAndClick("Skip This Version");
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, true}}));
+}
+
+TEST_F(SessionDialog, SkipOfAnItemWithoutVersionStoresNothing)
+{
+    LendWithRemote(State::SILENT_DOWNLOADING);
+    DialogDriver driver(READY, [](QWidget* box) { ClickButton(box, QStringLiteral("Skip This Version")); });
+    Callbacks::WillInstallOnQuit(MakeItem(QString()), m_invocation);
+    EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
+}
+
+TEST_F(SessionDialog, RemindMeLaterDeclines)
+{
+    OfferAndClick("Remind Me Later");
+    ExpectRemindedLater();
+}
+
+TEST_F(SessionDialog, ClosingTheWindowDeclines)
+{
+    OfferAnd([](QMessageBox* box) { box->close(); });
+    ExpectRemindedLater();
+}
+
+TEST_F(SessionDialog, RejectClosesReadyToInstall)
+{
+    OfferAnd([this](QMessageBox*) { Session().RejectUpdateAndHideDialog(); });
+    ExpectRemindedLater();
+    EXPECT_TRUE(Log().Has(Progress(665, "void Pelnar::App::SparkleManager::RejectUpdateAndHideDialog(): Current state "
+                                        "= SILENT_DOWNLOADING")));
+}
+
+TEST_F(SessionDialog, RejectTwiceClosesReadyToInstallOnce)
+{
+    OfferAnd(
+        [this](QMessageBox*)
+        {
+            Session().RejectUpdateAndHideDialog();
+            Session().RejectUpdateAndHideDialog();
+        });
+    ExpectRemindedLater();
+    Session().RejectUpdateAndHideDialog();
+    EXPECT_EQ(m_invocation.Calls().size(), 1U);
+}
+
+TEST_F(SessionDialog, RejectAfterTheHolderLeftClosesReadyToInstall)
+{
+    OfferAnd(
+        [this](QMessageBox*)
+        {
+            Session().UnlockUpdaterWhenPossible();
+            Context().checkFinishedCallback = nullptr;
+            Session().RejectUpdateAndHideDialog();
+        });
+    ExpectRemindedLater();
+    EXPECT_TRUE(GetFields().locked);
+    Callbacks::DidCancelInstall(MakeItem(QStringLiteral("6.1.2")));
+    EXPECT_FALSE(GetFields().locked) << "the deferred unlock";
+    EXPECT_EQ(GetFields().state, State::WAITING);
+}
+
+TEST_F(SessionDialog, ReadyToInstallSurvivesTheDeathOfItsParent)
+{
+    auto parent = std::make_unique<QWidget>();
+    Context().parentWidgetGetter = [&parent] { return parent.get(); };
+    OfferAnd([&parent](QMessageBox*) { parent.reset(); });
+    ExpectRemindedLater();
+}
+
+TEST_F(SessionDialog, DialogsHaveTheContextsParent)
+{
+    QWidget parent;
+    Context().parentWidgetGetter = [&parent] { return &parent; };
+    OfferAnd(
+        [&parent](QMessageBox* box)
+        {
+            EXPECT_EQ(box->parentWidget(), &parent);
+            box->close();
+        });
+    FailAnd(
+        [&parent](QMessageBox* box)
+        {
+            EXPECT_EQ(box->parentWidget(), &parent);
+            box->close();
+        });
+    EXPECT_TRUE(parent.children().isEmpty()) << "the dialogs are gone";
+}
+
+TEST_F(SessionDialog, DialogsWithoutGetterHaveNoParent)
+{
+    OfferAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->parentWidget(), nullptr);
+            box->close();
+        });
+}
+
+TEST_F(SessionDialog, ErrorShowsItsTextAndOneButton)
+{
+    FailAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->text(), QStringLiteral("The <b>disk</b> is full & \u00e9."));
+            EXPECT_EQ(box->textFormat(), Qt::PlainText);
+            EXPECT_TRUE(box->informativeText().isEmpty());
+            EXPECT_TRUE(box->windowTitle().isEmpty());
+            EXPECT_EQ(box->icon(), QMessageBox::Critical) << "level 1";
+            EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
+            EXPECT_EQ(box->buttons().size(), 1);
+            EXPECT_EQ(box->windowFlags() & Qt::Dialog, Qt::Dialog);
+            EXPECT_TRUE(box->windowFlags() & Qt::MSWindowsFixedSizeDialogHint);
+            EXPECT_EQ(box->parentWidget(), nullptr);
+            EXPECT_TRUE(IsDialogClosable());
+            EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING) << "until the dialog is closed";
+            Picture(box, QStringLiteral("update-error"));
+            ClickButton(box, QStringLiteral("OK"));
+        });
+    EXPECT_TRUE(GetFields().locked);
+}
+
+TEST_F(SessionDialog, RejectClosesTheError)
+{
+    FailAnd([this](QMessageBox*) { Session().RejectUpdateAndHideDialog(); });
+}
+
+TEST_F(SessionDialog, RejectTwiceClosesTheErrorOnce)
+{
+    FailAnd(
+        [this](QMessageBox*)
+        {
+            Session().RejectUpdateAndHideDialog();
+            Session().RejectUpdateAndHideDialog();
+        });
+    Session().RejectUpdateAndHideDialog();
+}
+
+TEST_F(SessionDialog, RejectAfterTheHolderLeftClosesTheErrorAndUnlocks)
+{
+    FailAnd(
+        [this](QMessageBox*)
+        {
+            Session().UnlockUpdaterWhenPossible();
+            Session().RejectUpdateAndHideDialog();
+        });
+    EXPECT_FALSE(GetFields().locked);
+}
+
+TEST_F(SessionDialog, ErrorSurvivesTheDeathOfItsParent)
+{
+    auto parent = std::make_unique<QWidget>();
+    Context().parentWidgetGetter = [&parent] { return parent.get(); };
+    FailAnd([&parent](QMessageBox*) { parent.reset(); });
+}
+
+TEST_F(SessionDialog, ErrorOverReadyToInstallGivesTheFirstDialogItsClosingBack)
+{
+    OfferAnd(
+        [this](QMessageBox* ready)
+        {
+            SetState(State::SILENT_INSTALLING);
+            DialogDriver driver(FAILED,
+                                [this, ready](QWidget*)
+                                {
+                                    Session().RejectUpdateAndHideDialog();
+                                    EXPECT_TRUE(ready->isVisible()) << "only the dialog on top";
+                                });
+            Callbacks::DidAbort({QStringLiteral("D"), 1, QStringLiteral("e")});
+            EXPECT_TRUE(IsDialogClosable());
+            Session().RejectUpdateAndHideDialog();
+        });
+    ExpectRemindedLater();
+}
+
+} // namespace

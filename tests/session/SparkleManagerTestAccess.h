@@ -1,0 +1,21 @@
+// SparkleManagerTestAccess.h: the session's implementation record for fixtures. Objective-C++ only.
+// Thread: the Qt main thread. Ownership: the session's.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
+
+namespace Pelnar::App
+{
+
+class SparkleManagerTestAccess
+{
+public:
+    /// The process's session; made, and GetInstance recorded, by the first call only.
+    static SparkleManager::Impl& GetImpl()
+    {
+        static SparkleManager& session = SparkleManager::GetInstance();
+        return *session.m_impl;
+    }
+};
+
+} // namespace Pelnar::App

@@ -3,8 +3,43 @@
 #include <QByteArray>
 #include <QFile>
 
+#include <dlfcn.h>
+#include <unistd.h>
+
+#include <vector>
+
 namespace Pelnar::Foundation
 {
+namespace
+{
+
+/// GNUstep copies the environment when it is loaded, which a linked library is before main: where it is there already,
+/// it is made to copy again. Looked up by name, because this file is also of use to programs without Foundation.
+void RefreshFoundationsEnvironment()
+{
+    using Initialize = void (*)(int, char**, char**);
+    auto const initialize = reinterpret_cast<Initialize>(dlsym(RTLD_DEFAULT, "GSInitializeProcess"));
+    if (!initialize)
+    {
+        return;
+    }
+    QFile commandLine(QStringLiteral("/proc/self/cmdline"));
+    if (!commandLine.open(QIODevice::ReadOnly))
+    {
+        qFatal("cannot read %s", qPrintable(commandLine.fileName()));
+    }
+    QByteArray words = commandLine.readAll();
+    std::vector<char*> arguments;
+    for (int start = 0; start < words.size(); start += static_cast<int>(qstrlen(words.data() + start)) + 1)
+    {
+        arguments.push_back(words.data() + start);
+    }
+    int const count = static_cast<int>(arguments.size());
+    arguments.push_back(nullptr);
+    initialize(count, arguments.data(), environ);
+}
+
+} // namespace
 
 IsolatedUserDefaults::IsolatedUserDefaults()
 {
@@ -18,6 +53,7 @@ IsolatedUserDefaults::IsolatedUserDefaults()
     }
     config.close();
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
+    RefreshFoundationsEnvironment();
 }
 
 } // namespace Pelnar::Foundation

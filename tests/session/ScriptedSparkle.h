@@ -138,6 +138,7 @@ QString MainBundlePath();
 std::optional<QString> UserDefault(QString const& key);
 /// The value that another process would read: from the file, not from memory.
 std::optional<QString> StoredUserDefault(QString const& key);
-void SetUserDefault(QString const& key, QString const& value);
+/// Where Foundation keeps the user defaults of this process.
+QString UserDefaultsFolder();
 
 } // namespace Pelnar::Testing

@@ -290,12 +290,11 @@ std::optional<QString> StoredUserDefault(QString const& key)
     }
 }
 
-void SetUserDefault(QString const& key, QString const& value)
+QString UserDefaultsFolder()
 {
     @autoreleasepool
     {
-        [[NSUserDefaults standardUserDefaults] setObject:ToNSString(value) forKey:ToNSString(key)];
-        [[NSUserDefaults standardUserDefaults] synchronize];
+        return ToQString(GSDefaultsRootForUser(NSUserName()));
     }
 }
 

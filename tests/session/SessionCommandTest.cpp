@@ -140,6 +140,11 @@ struct DialogRow
     char const* call;
 };
 
+void PrintTo(DialogRow const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
 class UpdateDialog : public SessionCommand, public ::testing::WithParamInterface<DialogRow>
 {
 };

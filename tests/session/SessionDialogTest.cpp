@@ -184,6 +184,11 @@ TEST_F(SessionDialog, SkipStoresTheVersionBeforeTheInvocationRuns)
     EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
 }
 
+TEST_F(SessionDialog, SkippedVersionIsStoredInTheTestsOwnDefaults)
+{
+    EXPECT_TRUE(UserDefaultsFolder().startsWith(QDir::tempPath())) << qPrintable(UserDefaultsFolder());
+}
+
 TEST_F(SessionDialog, SkipLeavesArgumentThreeAsItIs)
 {
     m_invocation = ScriptedInvocation(true, true);

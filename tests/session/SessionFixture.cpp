@@ -26,6 +26,11 @@ std::string NameOf(State state)
     return found == ALL_STATES.end() ? "no such state" : found->name;
 }
 
+void PrintTo(NamedState const& named, std::ostream* out)
+{
+    *out << named.name;
+}
+
 std::string TestNameOf(State state)
 {
     std::string name = NameOf(state);

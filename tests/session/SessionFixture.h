@@ -36,6 +36,8 @@ constexpr std::array<NamedState, 7> ALL_STATES{{
     {static_cast<State>(17), "Unknown State"},
 }};
 std::string NameOf(State state);
+/// How test listings print a parameter.
+void PrintTo(NamedState const& named, std::ostream* out);
 /// The name as it may stand in a test's own name.
 std::string TestNameOf(State state);
 

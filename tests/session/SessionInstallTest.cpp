@@ -105,6 +105,11 @@ struct PathRow
     char const* path; ///< null: the running bundle's
 };
 
+void PrintTo(PathRow const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
 class RelaunchPath : public SessionInstall, public ::testing::WithParamInterface<PathRow>
 {
 };

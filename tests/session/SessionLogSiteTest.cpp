@@ -22,6 +22,11 @@ struct Row
     void (SessionLogSite::*provoke)();
 };
 
+void PrintTo(Row const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
 class SessionLogSite : public SessionTest, public ::testing::WithParamInterface<Row>
 {
 public:

@@ -33,6 +33,11 @@ struct Row
     Ends ends;
 };
 
+void PrintTo(Row const& row, std::ostream* out)
+{
+    *out << row.callback;
+}
+
 std::string const FOUND = "-[PelnarSparkleUpdaterDelegate updater:didFindValidUpdate:]: ";
 std::string const NOT_FOUND = "-[PelnarSparkleUpdaterDelegate updaterDidNotFindUpdate:]: ";
 std::string const ABORTED = "-[PelnarSparkleUpdaterDelegate updater:didAbortWithError:]: ";

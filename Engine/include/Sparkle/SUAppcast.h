@@ -4,11 +4,22 @@
 
 #import <Foundation/Foundation.h>
 
+#include <memory>
+
 #import <Sparkle/SUAppcastItem.h>
 #import <Sparkle/SUExport.h>
 
+namespace Pelnar::Engine
+{
+class AppcastContents;
+}
+
 SU_EXPORT
 @interface SUAppcast : NSObject
+{
+@private
+    std::shared_ptr<Pelnar::Engine::AppcastContents> m_contents;
+}
 
 @property (nonatomic, readonly) NSArray* items;
 

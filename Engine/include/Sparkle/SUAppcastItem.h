@@ -5,12 +5,22 @@
 
 #import <Foundation/Foundation.h>
 
-#include <stdint.h>
+#include <cstdint>
+#include <memory>
 
 #import <Sparkle/SUExport.h>
 
+namespace Pelnar::Engine
+{
+class AppcastItemContents;
+}
+
 SU_EXPORT
 @interface SUAppcastItem : NSObject
+{
+@private
+    std::shared_ptr<Pelnar::Engine::AppcastItemContents> m_contents;
+}
 
 /// Texts are as the feed gives them, nil when it gives none.
 @property (nonatomic, readonly) NSString* title;

@@ -5,12 +5,23 @@
 
 #import <Foundation/Foundation.h>
 
+#include <memory>
+
 #import <Sparkle/SUExport.h>
+
+namespace Pelnar::Engine
+{
+class Updater;
+}
 
 @protocol SUUpdaterDelegate;
 
 SU_EXPORT
 @interface SUUpdater : NSObject
+{
+@private
+    std::shared_ptr<Pelnar::Engine::Updater> m_updater;
+}
 
 /// The updater of the main bundle, the same object at every call.
 + (SUUpdater*)sharedUpdater;

@@ -1,0 +1,226 @@
+#include "Engine/core/EngineError.h"
+
+#include <algorithm>
+#include <array>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+char const* SentenceOf(ErrorCause cause)
+{
+    switch (cause)
+    {
+    case ErrorCause::NoUpdate:
+        return "You are running the newest version.";
+
+    case ErrorCause::NoFeedAddress:
+        return "This application does not say where its updates are published: install it anew from its publisher.";
+    case ErrorCause::InvalidAddress:
+        return "The address of the update feed is not a valid address: install the application anew.";
+    case ErrorCause::SchemeRefused:
+        return "The address of the update feed is of a kind that is not allowed: it must begin with https.";
+    case ErrorCause::InsecureAddress:
+        return "The address of the update feed is not secure: it must begin with https.";
+
+    case ErrorCause::HostNotFound:
+        return "The update server was not found: check the connection to the internet and try again.";
+    case ErrorCause::ConnectionRefused:
+        return "The update server refused the connection: try again later.";
+    case ErrorCause::NetworkUnreachable:
+        return "The update server cannot be reached from this network: check the connection and try again.";
+    case ErrorCause::ConnectTimeout:
+        return "The update server did not accept the connection in time: check the connection and try again.";
+    case ErrorCause::ConnectionFailed:
+        return "The connection to the update server failed: try again later.";
+    case ErrorCause::ProxyFailed:
+        return "The network proxy did not let the connection through: check the proxy's settings.";
+    case ErrorCause::TotalTimeout:
+        return "The update server took too long to answer: try again later.";
+    case ErrorCause::TooSlow:
+        return "The update server answers too slowly: try again later.";
+
+    case ErrorCause::CertificateSelfSigned:
+        return "The update server's certificate is signed by itself only, so its identity is unproved: try another "
+               "network, and tell the publisher if it stays so.";
+    case ErrorCause::CertificateAuthorityUnknown:
+        return "The update server's certificate comes from an authority that this computer does not know: try another "
+               "network, and tell the publisher if it stays so.";
+    case ErrorCause::CertificateExpired:
+        return "The update server's certificate has expired: check the clock of this computer, and tell the publisher "
+               "if it is right.";
+    case ErrorCause::CertificateNotYetValid:
+        return "The update server's certificate is not valid yet: check the clock of this computer, and tell the "
+               "publisher if it is right.";
+    case ErrorCause::CertificateWrongName:
+        return "The update server's certificate was made for another server: try another network, and tell the "
+               "publisher if it stays so.";
+    case ErrorCause::CertificateInvalid:
+        return "The update server's certificate is not acceptable: try another network, and tell the publisher if it "
+               "stays so.";
+    case ErrorCause::HandshakeRefused:
+        return "No secure connection to the update server came about, since it offers none that is strong enough: tell "
+               "the publisher.";
+    case ErrorCause::SecureConnectionUnavailable:
+        return "This computer cannot make secure connections: install its OpenSSL library.";
+
+    case ErrorCause::IncompleteHead:
+        return "The update server closed the connection before it answered: try again later.";
+    case ErrorCause::IncompleteBody:
+        return "The update feed arrived incomplete: try again.";
+    case ErrorCause::HeadTooLarge:
+        return "The update server's answer has too many headers: tell the publisher.";
+    case ErrorCause::BodyTooLarge:
+        return "The update feed is too large: tell the publisher.";
+    case ErrorCause::MalformedHead:
+        return "The update server's answer is not proper HTTP: try another network.";
+    case ErrorCause::ContradictoryLength:
+        return "The update server states the feed's length in contradictory ways: tell the publisher.";
+    case ErrorCause::SurplusBody:
+        return "The update server sent more than it announced: tell the publisher.";
+    case ErrorCause::MalformedChunk:
+        return "The update server's answer is broken in its parts: try again.";
+    case ErrorCause::TransferEncodingRefused:
+        return "The update server transfers the feed in a way that was not asked for: tell the publisher.";
+    case ErrorCause::ContentEncodingRefused:
+        return "The update server sent the feed compressed, which was not asked for: tell the publisher.";
+    case ErrorCause::HttpStatus:
+        return "The update server answered with status %1: try again later.";
+
+    case ErrorCause::RedirectDowngrade:
+        return "The update server points to an address that is less secure: tell the publisher.";
+    case ErrorCause::RedirectScheme:
+        return "The update server points to an address of a kind that is not allowed: tell the publisher.";
+    case ErrorCause::RedirectInvalid:
+        return "The update server points to something that is not an address: tell the publisher.";
+    case ErrorCause::RedirectWithoutLocation:
+        return "The update server points to another address without naming it: tell the publisher.";
+    case ErrorCause::TooManyRedirects:
+        return "The update server points from address to address without end: tell the publisher.";
+
+    case ErrorCause::FileNotFound:
+        return "The file with the update feed does not exist: check its address.";
+    case ErrorCause::FileNotRegular:
+        return "The address of the update feed names a folder or a device: it must name a file.";
+    case ErrorCause::FileTooLarge:
+        return "The file with the update feed is too large: check its address.";
+    case ErrorCause::FileUnreadable:
+        return "The file with the update feed cannot be read: check its permissions.";
+    case ErrorCause::FileOnOtherHost:
+        return "The update feed is a file of another computer: copy it to this one.";
+
+    case ErrorCause::FeedMalformed:
+    case ErrorCause::FeedDocumentType:
+    case ErrorCause::FeedTooDeep:
+    case ErrorCause::FeedTooManyAttributes:
+    case ErrorCause::FeedTagTooLong:
+    case ErrorCause::FeedTooManyItems:
+    case ErrorCause::FeedTooManyNamespaces:
+    case ErrorCause::FeedIsWebPage:
+        return "The update feed cannot be read: tell the publisher."; // replaced by the parser's, which names the line
+
+    case ErrorCause::ForeignItem:
+        return "The application chose an update that is not in the feed: install the application anew.";
+    case ErrorCause::DelegateRaised:
+        return "The application failed while it looked at the updates: restart it and try again.";
+    }
+    return "The check for updates failed: try again later.";
+}
+
+ErrorCode CodeOf(ErrorCause cause)
+{
+    int const number = static_cast<int>(cause);
+    if (cause == ErrorCause::NoUpdate)
+    {
+        return ErrorCode::NoUpdate;
+    }
+    return number >= 700 && number < 800 ? ErrorCode::AppcastParse : ErrorCode::Appcast;
+}
+
+ErrorCause CauseOf(FeedErrorKind kind)
+{
+    switch (kind)
+    {
+    case FeedErrorKind::None:
+    case FeedErrorKind::Malformed:
+        return ErrorCause::FeedMalformed;
+    case FeedErrorKind::DocumentType:
+        return ErrorCause::FeedDocumentType;
+    case FeedErrorKind::TooDeep:
+        return ErrorCause::FeedTooDeep;
+    case FeedErrorKind::TooManyAttributes:
+        return ErrorCause::FeedTooManyAttributes;
+    case FeedErrorKind::TagTooLong:
+        return ErrorCause::FeedTagTooLong;
+    case FeedErrorKind::TooManyItems:
+        return ErrorCause::FeedTooManyItems;
+    case FeedErrorKind::TooManyNamespaces:
+        return ErrorCause::FeedTooManyNamespaces;
+    case FeedErrorKind::NotAFeed:
+        return ErrorCause::FeedIsWebPage;
+    }
+    return ErrorCause::FeedMalformed;
+}
+
+bool IsUnprintable(QChar character)
+{
+    // Format characters are direction marks and other invisible ones.
+    constexpr std::array UNPRINTABLE = {QChar::Other_Control,     QChar::Other_Format,   QChar::Other_PrivateUse,
+                                        QChar::Other_NotAssigned, QChar::Separator_Line, QChar::Separator_Paragraph};
+    return std::find(UNPRINTABLE.begin(), UNPRINTABLE.end(), character.category()) != UNPRINTABLE.end();
+}
+
+} // namespace
+
+QString EngineError::UnderlyingDomain() const
+{
+    return cause == ErrorCause::HttpStatus ? QStringLiteral("PelnarHTTPStatusErrorDomain")
+                                           : QStringLiteral("PelnarUpdateCheckErrorDomain");
+}
+
+int EngineError::UnderlyingCode() const
+{
+    return cause == ErrorCause::HttpStatus ? httpStatus : static_cast<int>(cause);
+}
+
+QString EscapedRemoteText(QString const& text)
+{
+    QString escaped;
+    for (QChar const character : text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8()))
+    {
+        QString const piece = IsUnprintable(character) ? QString(QLatin1Char('?')) : QString(character).toHtmlEscaped();
+        if (escaped.size() + piece.size() > MAX_REMOTE_TEXT)
+        {
+            break;
+        }
+        escaped += piece;
+    }
+    if (!escaped.isEmpty() && escaped.at(escaped.size() - 1).isHighSurrogate())
+    {
+        escaped.chop(1); // its other half did not fit
+    }
+    return escaped;
+}
+
+EngineError MakeError(ErrorCause cause, QString const& remoteDetail)
+{
+    return {CodeOf(cause), cause, 0, QString::fromLatin1(SentenceOf(cause)), EscapedRemoteText(remoteDetail)};
+}
+
+EngineError MakeHttpStatusError(int status)
+{
+    EngineError error = MakeError(ErrorCause::HttpStatus);
+    error.httpStatus = status;
+    error.sentence = error.sentence.arg(status);
+    return error;
+}
+
+EngineError MakeFeedError(FeedParseError const& error)
+{
+    EngineError result = MakeError(CauseOf(error.kind), error.detail);
+    result.sentence = error.sentence;
+    return result;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,120 @@
+// EngineError.h: every way in which a check fails, as plain values: the published code, the cause beneath it with a
+// number of its own, one sentence for a person.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include "Engine/core/FeedParser.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace Pelnar::Engine
+{
+
+/// The published codes of the engine's error domain that a check reports.
+enum class ErrorCode
+{
+    AppcastParse = 1000,
+    NoUpdate = 1001,
+    Appcast = 1002,
+};
+
+/// What happened. The numbers are published: they are the codes of the underlying errors and never change.
+enum class ErrorCause
+{
+    NoUpdate = 0,
+
+    // The feed's address.
+    NoFeedAddress = 100,
+    InvalidAddress = 101,
+    SchemeRefused = 102,
+    InsecureAddress = 103,
+
+    // The way to the server.
+    HostNotFound = 200,
+    ConnectionRefused = 201,
+    NetworkUnreachable = 202,
+    ConnectTimeout = 203,
+    ConnectionFailed = 204,
+    ProxyFailed = 205,
+    TotalTimeout = 206,
+    TooSlow = 207,
+
+    // The server's certificate and the secure connection.
+    CertificateSelfSigned = 300,
+    CertificateAuthorityUnknown = 301,
+    CertificateExpired = 302,
+    CertificateNotYetValid = 303,
+    CertificateWrongName = 304,
+    CertificateInvalid = 305,
+    HandshakeRefused = 306,
+    SecureConnectionUnavailable = 307,
+
+    // The answer.
+    IncompleteHead = 400,
+    IncompleteBody = 401,
+    HeadTooLarge = 402,
+    BodyTooLarge = 403,
+    MalformedHead = 404,
+    ContradictoryLength = 405,
+    SurplusBody = 406,
+    MalformedChunk = 407,
+    TransferEncodingRefused = 408,
+    ContentEncodingRefused = 409,
+    HttpStatus = 410, ///< the underlying error has the status as its code, in a domain of its own
+
+    // Redirects.
+    RedirectDowngrade = 500,
+    RedirectScheme = 501,
+    RedirectInvalid = 502,
+    RedirectWithoutLocation = 503,
+    TooManyRedirects = 504,
+
+    // A feed that is a file.
+    FileNotFound = 600,
+    FileNotRegular = 601,
+    FileTooLarge = 602,
+    FileUnreadable = 603,
+    FileOnOtherHost = 604,
+
+    // The feed's bytes.
+    FeedMalformed = 700,
+    FeedDocumentType = 701,
+    FeedTooDeep = 702,
+    FeedTooManyAttributes = 703,
+    FeedTagTooLong = 704,
+    FeedTooManyItems = 705,
+    FeedTooManyNamespaces = 706,
+    FeedIsWebPage = 707,
+
+    // The application's own answers.
+    ForeignItem = 800,
+    DelegateRaised = 801,
+};
+
+struct EngineError
+{
+    ErrorCode code = ErrorCode::Appcast;
+    ErrorCause cause = ErrorCause::NoUpdate;
+    int httpStatus = 0; ///< for HttpStatus only
+    QString sentence;   ///< our own words only: what happened and what to do
+    QString detail;     ///< may quote others; escaped and at most MAX_REMOTE_TEXT characters; may be empty
+
+    /// The domain and code of the underlying error. No two failures share both.
+    QString UnderlyingDomain() const;
+    int UnderlyingCode() const;
+};
+
+constexpr int MAX_REMOTE_TEXT = 200;
+
+/// Text of others made fit for a log line or a label: markup escaped, control and direction characters replaced, cut at
+/// MAX_REMOTE_TEXT characters, never inside an escape.
+QString EscapedRemoteText(QString const& text);
+
+/// \a remoteDetail is escaped here.
+EngineError MakeError(ErrorCause cause, QString const& remoteDetail = {});
+EngineError MakeHttpStatusError(int status);
+/// REQUIRES: error.kind is not None.
+EngineError MakeFeedError(FeedParseError const& error);
+
+} // namespace Pelnar::Engine

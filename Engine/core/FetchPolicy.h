@@ -1,0 +1,71 @@
+// FetchPolicy.h: what may be fetched, where a redirect may lead, and what goes along. Pure decisions.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include "Engine/core/EngineError.h"
+
+#include <QByteArray>
+#include <QUrl>
+
+#include <chrono>
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// How much a server may cost us. The defaults are what the engine ships with; tests scale them.
+struct FetchLimits
+{
+    qint64 maxBodyBytes = 4 * 1024 * 1024;
+    int maxHeadBytes = 64 * 1024; ///< status line and header fields, of informational answers too
+    int maxRedirects = 10;
+    std::chrono::milliseconds connectTimeout = std::chrono::seconds(15); ///< of each connection, its handshake included
+    std::chrono::milliseconds totalTimeout = std::chrono::seconds(60);   ///< of all connections together
+    std::chrono::milliseconds rateWindow = std::chrono::seconds(20);     ///< once connected
+    int minBytesPerSecond = 1024;                                        ///< over every rateWindow
+};
+
+/// Whether plain http is allowed: to this computer always, elsewhere only when the host's bundle opts in.
+enum class InsecureHttp
+{
+    LoopbackOnly,
+    Anywhere,
+};
+
+/// A header field of a request that is meant for one origin only.
+struct HeaderField
+{
+    QByteArray name;
+    QByteArray value;
+};
+
+/// One request: the address without user name and password, and what they became.
+struct FetchRequest
+{
+    QUrl url;
+    std::vector<HeaderField> fields;
+};
+
+[[nodiscard]] bool IsLoopback(QUrl const& url);
+/// Same scheme, host and port, default ports counted.
+[[nodiscard]] bool IsSameOrigin(QUrl const& a, QUrl const& b);
+
+/// Why a feed must not be fetched from \a url; nothing when it may.
+[[nodiscard]] std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp);
+
+/// The first request for \a url: user name and password of the address become an authorization field.
+FetchRequest RequestFor(QUrl const& url);
+
+/// Where the answer \a location to \a request leads, by hop number \a hop (from 1), or why it is not followed. The
+/// fields go along while the origin stays the same; user name and password in \a location are dropped.
+[[nodiscard]] std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request,
+                                                                   std::vector<QByteArray> const& locations, int hop,
+                                                                   InsecureHttp insecureHttp,
+                                                                   FetchLimits const& limits);
+
+/// The bytes of \a request for a server: one GET over a connection that closes after it.
+QByteArray SerializedRequest(FetchRequest const& request);
+
+} // namespace Pelnar::Engine

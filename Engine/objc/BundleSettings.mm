@@ -1,0 +1,171 @@
+#include "Engine/objc/BundleSettings_p.h"
+
+#include "Foundation/FoundationText.h"
+#include "Foundation/RaisedException.h"
+
+#include <QLocale>
+
+#include <glog/logging.h>
+
+#include <optional>
+
+using namespace Pelnar::Foundation;
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr long long MAX_FEED_BYTES = 1LL << 30;
+
+enum class Source
+{
+    Bundle,
+    Defaults,
+    DefaultsThenBundle,
+};
+
+id ObjectOf(NSString* key, Source source)
+{
+    id object = nil;
+    if (source != Source::Bundle)
+    {
+        object = [[NSUserDefaults standardUserDefaults] objectForKey:key];
+    }
+    if (!object && source != Source::Defaults)
+    {
+        object = [[[NSBundle mainBundle] infoDictionary] objectForKey:key];
+    }
+    return object;
+}
+
+void WarnOfType(NSString* key, char const* wanted)
+{
+    LOG(WARNING) << "The setting " << ToUtf8(key) << " is not " << wanted << " and is ignored";
+}
+
+/// Empty when the key is absent or its value is not text.
+QString TextOf(NSString* key, Source source)
+{
+    id const object = ObjectOf(key, source);
+    if (!object)
+    {
+        return {};
+    }
+    if (![object isKindOfClass:[NSString class]])
+    {
+        WarnOfType(key, "text");
+        return {};
+    }
+    return ToQString(object);
+}
+
+bool IsTrue(NSString* key, Source source)
+{
+    // A property list of the old style has no booleans, only text.
+    id const object = ObjectOf(key, source);
+    if (!object)
+    {
+        return false;
+    }
+    if (![object isKindOfClass:[NSNumber class]] && ![object isKindOfClass:[NSString class]])
+    {
+        WarnOfType(key, "a boolean");
+        return false;
+    }
+    return [object boolValue];
+}
+
+FeedPlatform ReadPlatform()
+{
+    QString const name = TextOf(@"PelnarFeedPlatform", Source::Bundle);
+    if (name == QLatin1String("macos"))
+    {
+        return FeedPlatform::MacOS;
+    }
+    if (!name.isEmpty() && name != QLatin1String("linux"))
+    {
+        WarnOfType(@"PelnarFeedPlatform", "\"macos\" or \"linux\"");
+    }
+    return FeedPlatform::Linux;
+}
+
+QString ReadSkippedVersion()
+{
+    QString const version = TextOf(@"SUSkippedVersion", Source::Defaults);
+    // A comparator may call a text that is no version equal to every version; it would hide all updates for ever.
+    bool const hasDigit =
+        std::any_of(version.begin(), version.end(), [](QChar character) { return character.isDigit(); });
+    if (!version.isEmpty() && !hasDigit)
+    {
+        WarnOfType(@"SUSkippedVersion", "a version");
+        return {};
+    }
+    return version;
+}
+
+qint64 ReadMaxFeedBytes()
+{
+    NSString* const key = @"PelnarMaximumFeedBytes";
+    id const object = ObjectOf(key, Source::Bundle);
+    if (!object)
+    {
+        return FetchLimits().maxBodyBytes;
+    }
+    bool const isNumber = [object isKindOfClass:[NSNumber class]] || [object isKindOfClass:[NSString class]];
+    long long const bytes = isNumber ? [object longLongValue] : 0;
+    if (bytes < 1 || bytes > MAX_FEED_BYTES)
+    {
+        WarnOfType(key, "a number from 1 to 1073741824");
+        return FetchLimits().maxBodyBytes;
+    }
+    return bytes;
+}
+
+/// Stores \a value and puts the defaults on disk; what fails is a warning, since a check must not depend on it.
+void WriteDefault(NSString* key, id value)
+{
+    bool isWritten = false;
+    std::optional<std::string> const reason = ReasonRaisedBy(
+        [key, value, &isWritten]
+        {
+            NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
+            [defaults setObject:value forKey:key];
+            isWritten = [defaults synchronize];
+        });
+    LOG_IF(WARNING, !isWritten) << "The user default " << ToUtf8(key)
+                                << " could not be saved: " << reason.value_or("the defaults cannot be written");
+}
+
+} // namespace
+
+CheckSettings ReadCheckSettings(QUrl const& feedUrl)
+{
+    CheckSettings settings;
+    settings.feedUrl = feedUrl;
+    settings.bundleVersion = TextOf(@"CFBundleVersion", Source::Bundle);
+    settings.skippedVersion = ReadSkippedVersion();
+    settings.languages = QLocale().uiLanguages();
+    settings.platform = ReadPlatform();
+    settings.insecureHttp =
+        IsTrue(@"PelnarAllowsInsecureFeeds", Source::Bundle) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
+    settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
+    return settings;
+}
+
+QUrl ReadFeedUrl() { return QUrl(TextOf(@"SUFeedURL", Source::DefaultsThenBundle)); }
+
+AutomaticDownload ReadAutomaticDownload()
+{
+    return IsTrue(@"SUAutomaticallyUpdate", Source::DefaultsThenBundle) ? AutomaticDownload::On
+                                                                        : AutomaticDownload::Off;
+}
+
+void WriteAutomaticDownload(AutomaticDownload value)
+{
+    WriteDefault(@"SUAutomaticallyUpdate", [NSNumber numberWithBool:value == AutomaticDownload::On]);
+}
+
+void WriteLastCheckTime() { WriteDefault(@"SULastCheckTime", [NSDate date]); }
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,3 @@
+#import <Sparkle/SUErrors.h>
+
+NSString* const SUSparkleErrorDomain = @"SUSparkleErrorDomain";

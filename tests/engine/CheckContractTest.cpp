@@ -1,0 +1,243 @@
+// CheckContractTest.cpp: what the session may rely on when it uses the engine's updater: how a check is started, how an
+// item is chosen, which outcome is told in which order, when the updater is idle.
+#include "tests/engine/FeedText.h"
+#include "tests/engine/ScriptedDelegate.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/LogCapture.h"
+#include "tests/support/LoopbackServer.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <stdexcept>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+using Events = std::vector<std::string>;
+using Start = void (UpdaterDriver::*)();
+
+int compareNumbers(QString const& a, QString const& b)
+{
+    double const difference = a.toDouble() - b.toDouble();
+    return difference < 0 ? -1 : difference > 0 ? 1 : 0;
+}
+
+ScriptedChoice chooseFirst(int, std::vector<QString> const&)
+{
+    return {ScriptedChoice::Kind::Item, 0, {}};
+}
+
+ScriptedChoice chooseNone(int, std::vector<QString> const&)
+{
+    return {};
+}
+
+bool hasLog(LogCapture const& log, google::LogSeverity severity, std::string const& part)
+{
+    std::vector<LogRecord> const records = log.Of(severity);
+    return std::any_of(records.begin(), records.end(),
+                       [&part](LogRecord const& record) { return record.text.find(part) != std::string::npos; });
+}
+
+class CheckContract : public ::testing::Test
+{
+protected:
+    int argc = 1;
+    char name[5] = "test";
+    char* argv[2] = {name, nullptr};
+    QCoreApplication application{argc, argv};
+};
+
+struct Kind
+{
+    char const* name;
+    Start start;
+    Events notFound; ///< what is told when the choice is nil
+};
+
+void PrintTo(Kind const& kind, std::ostream* out)
+{
+    *out << kind.name;
+}
+
+class EveryCheck : public CheckContract, public ::testing::WithParamInterface<Kind>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, EveryCheck,
+    ::testing::Values(Kind{"Probe", &UpdaterDriver::Probe, {"asked", "not found"}},
+                      Kind{"Background", &UpdaterDriver::CheckInBackground, {"asked", "not found", "aborted 1001"}},
+                      Kind{"Interactive", &UpdaterDriver::CheckInteractively, {"asked", "not found", "aborted 1001"}}),
+    [](auto const& row) { return row.param.name; });
+
+TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    EXPECT_TRUE(driver.IsInProgress());
+    EXPECT_EQ(driver.Events(), Events{});
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
+    EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
+}
+
+TEST_P(EveryCheck, NilIsNoUpdate)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&chooseNone, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), GetParam().notFound);
+    if (!driver.Errors().empty())
+    {
+        ToldError const& error = driver.Errors().front();
+        EXPECT_EQ(error.domain, "SUSparkleErrorDomain");
+        EXPECT_EQ(error.sentence, "You are running the newest version.");
+        EXPECT_EQ(error.underlyingDomain, "");
+    }
+}
+
+TEST_P(EveryCheck, NoUpdateIsToldWholeInOneTurnOfTheLoop)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    Events seen;
+    DelegateScript script{&chooseNone, &compareNumbers, {}, {}};
+    QObject context;
+    script.onEvent = [&seen, &context](std::string const& event)
+    {
+        seen.push_back(event);
+        if (event == "not found")
+        {
+            QTimer::singleShot(0, &context, [&seen] { seen.push_back("next turn"); });
+        }
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(WaitFor([&seen] { return !seen.empty() && seen.back() == "next turn"; }));
+    Events expected = GetParam().notFound;
+    expected.push_back("next turn");
+    EXPECT_EQ(seen, expected);
+}
+
+TEST_P(EveryCheck, CheckStartedFromATimerOfTheLastCallbackIsAccepted)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    DelegateScript script{&chooseNone, &compareNumbers, {}, {}};
+    QObject context;
+    UpdaterDriver* started = nullptr;
+    std::optional<bool> wasIdle;
+    std::string const last = GetParam().notFound.back();
+    script.onEvent = [&](std::string const& event)
+    {
+        if (event == last && !wasIdle)
+        {
+            QTimer::singleShot(0, &context,
+                               [&]
+                               {
+                                   wasIdle = !started->IsInProgress();
+                                   (started->*GetParam().start)();
+                               });
+        }
+    };
+    UpdaterDriver driver(script);
+    started = &driver;
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    Events twice = GetParam().notFound;
+    twice.insert(twice.end(), GetParam().notFound.begin(), GetParam().notFound.end());
+    ASSERT_TRUE(WaitFor([&] { return driver.Events().size() == twice.size(); }));
+    EXPECT_EQ(wasIdle, true);
+    EXPECT_EQ(driver.Events(), twice);
+}
+
+TEST_P(EveryCheck, SecondCheckWhileOneRunsIsIgnoredWithALogLine)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    LogCapture log;
+    (driver.*GetParam().start)();
+    EXPECT_TRUE(hasLog(log, google::GLOG_WARNING, "A check for updates is running already; the new one is ignored"));
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
+    EXPECT_EQ(server.Requests().size(), 1u);
+}
+
+TEST_P(EveryCheck, FoundEndsIdleWithALogLineUnlessItIsAProbe)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    LogCapture log;
+    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(hasLog(log, google::GLOG_INFO, "An update was found; the check ends with this report"),
+              GetParam().start != &UpdaterDriver::Probe);
+    EXPECT_EQ(server.Requests().size(), 1u) << "nothing but the feed is fetched";
+}
+
+TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1", DeltaOf("5.1", "5.0"))))));
+    std::vector<int> questions;
+    DelegateScript script;
+    script.compare = &compareNumbers;
+    script.choose = [&questions](int question, std::vector<QString> const&)
+    {
+        questions.push_back(question);
+        return question == 0 ? ScriptedChoice{ScriptedChoice::Kind::Delta, 0, QStringLiteral("5.0")}
+                             : ScriptedChoice{ScriptedChoice::Kind::Item, 0, {}};
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(questions, (std::vector<int>{0, 1}));
+    EXPECT_EQ(driver.Events(), (Events{"asked", "asked", "found 5.1"}));
+    ASSERT_TRUE(driver.Found());
+    EXPECT_TRUE(driver.Found()->isDelta);
+    EXPECT_EQ(driver.Found()->length, 100);
+}
+
+TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
+{
+    LoopbackServer server(Answering("HTTP/1.1 500 Broken\r\n\r\n"));
+    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{"aborted 1002"});
+    ASSERT_EQ(driver.Errors().size(), 1u);
+    EXPECT_EQ(driver.Errors()[0].domain, "SUSparkleErrorDomain");
+    EXPECT_EQ(driver.Errors()[0].sentence, "The update server answered with status 500: try again later.");
+    EXPECT_EQ(driver.Errors()[0].underlyingDomain, "PelnarHTTPStatusErrorDomain");
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 500);
+    EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
+}
+
+TEST_P(EveryCheck, MalformedFeedIsAnErrorAndNeverNoUpdate)
+{
+    LoopbackServer server(Answering(OkAnswer("<rss><channel><item>")));
+    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{"aborted 1000"});
+    EXPECT_EQ(driver.Errors()[0].underlyingDomain, "PelnarUpdateCheckErrorDomain");
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 700);
+}
+
+} // namespace

@@ -1,0 +1,118 @@
+// ScriptedDelegate.h: drives the engine's updater with a delegate whose answers a test scripts. Plain C++.
+// Thread: main. Ownership: a scope object; the updater is the process's own.
+#pragma once
+
+#include "Engine/core/FetchPolicy.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+/// What the delegate answers when it is asked for the best item.
+struct ScriptedChoice
+{
+    enum class Kind
+    {
+        None,
+        Item,    ///< by its position in the appcast
+        Delta,   ///< of the item, by the version that it starts from
+        Foreign, ///< an item object of an appcast that the engine did not load in this check
+        Dangling ///< an address where no object is
+    };
+    Kind kind = Kind::None;
+    int item = 0;
+    QString deltaFrom;
+};
+
+struct ToldError
+{
+    std::string domain;
+    int code = 0;
+    std::string sentence;
+    std::string underlyingDomain;
+    int underlyingCode = 0;
+    std::string underlyingText;
+};
+
+struct DelegateScript
+{
+    /// Answers question number \a question (from 0) about an appcast with these item versions.
+    std::function<ScriptedChoice(int question, std::vector<QString> const& versions)> choose;
+    /// As a version comparator; empty: the delegate hands out none (nil).
+    std::function<int(QString const&, QString const&)> compare;
+    /// Called after each event has been noted.
+    std::function<void(std::string const& event)> onEvent;
+    /// Names of the delegate's methods that it does not implement. Calling one is noted as "hidden <name>".
+    std::vector<std::string> hidden;
+};
+
+/// The methods that a check may call.
+extern std::vector<std::string> const CHECK_METHODS;
+
+class UpdaterDriver
+{
+public:
+    explicit UpdaterDriver(DelegateScript script);
+    ~UpdaterDriver();
+    UpdaterDriver(UpdaterDriver const&) = delete;
+    UpdaterDriver& operator=(UpdaterDriver const&) = delete;
+
+    void SetFeed(QUrl const& url);
+    QUrl Feed() const;
+    void SetLimits(Engine::FetchLimits const& limits);
+    void RemoveDelegate();
+
+    void Probe();
+    void CheckInBackground();
+    void CheckInteractively();
+    [[nodiscard]] bool IsInProgress() const;
+
+    [[nodiscard]] bool DownloadsAutomatically() const;
+    void SetDownloadsAutomatically(bool value);
+
+    /// "asked", "found <version>", "not found", "aborted <code>", in order.
+    std::vector<std::string> const& Events() const;
+    std::vector<ToldError> const& Errors() const;
+    /// What the found item said of itself.
+    struct FoundItem
+    {
+        QString title;
+        QString version;
+        QUrl file;
+        qint64 length = 0;
+        bool isDelta = false;
+        std::vector<QString> deltaVersions;
+    };
+    std::optional<FoundItem> const& Found() const;
+
+    /// Runs the event loop until no check is in progress; false when that takes too long.
+    [[nodiscard]] bool WaitForEnd();
+
+    struct Impl;
+
+private:
+    std::unique_ptr<Impl> m_impl;
+};
+
+/// Raises an NSException with this reason.
+void RaiseInFoundation(char const* reason);
+
+/// Sets a user default to a value of the given kind, in memory.
+void SetTextDefault(char const* key, char const* value);
+void SetNumberDefault(char const* key, int value);
+void RemoveDefault(char const* key);
+/// True when the default is a date between a minute ago and now.
+[[nodiscard]] bool IsRecentDateDefault(char const* key);
+
+/// The engine's own comparator: -1, 0 or 1.
+int CompareByStandard(QString const& a, QString const& b);
+
+} // namespace Pelnar::Testing

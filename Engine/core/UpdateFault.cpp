@@ -100,6 +100,10 @@ std::string_view FaultName(UpdateFault fault)
         return "TooManyLinks";
     case UpdateFault::TooManyBytes:
         return "TooManyBytes";
+    case UpdateFault::DeltaBaseDiffers:
+        return "DeltaBaseDiffers";
+    case UpdateFault::DeltaResultDiffers:
+        return "DeltaResultDiffers";
     case UpdateFault::BundleMissing:
         return "BundleMissing";
     case UpdateFault::BundleNotAlone:

@@ -53,6 +53,9 @@ enum class UpdateFault
     TooManyLinks,
     TooManyBytes,
 
+    DeltaBaseDiffers,
+    DeltaResultDiffers,
+
     BundleMissing,
     BundleNotAlone,
     BundleNotAFolder,

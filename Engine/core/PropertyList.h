@@ -1,0 +1,40 @@
+// PropertyList.h: a small strict reader of property lists as text, in the old style of braces and in XML.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+struct PropertyListValue
+{
+    enum class Kind
+    {
+        Text, ///< strings, numbers, dates, truth values, data: as they are written
+        List,
+        Dictionary,
+    };
+
+    Kind kind = Kind::Text;
+    std::string text;
+    std::vector<PropertyListValue> items;                              ///< List
+    std::vector<std::pair<std::string, PropertyListValue>> properties; ///< Dictionary, in the file's order
+
+    /// The text under \a key; nothing when there is none, or no text.
+    std::optional<std::string> TextOf(std::string_view key) const;
+};
+
+constexpr std::size_t PROPERTY_LIST_MAX_BYTES = std::size_t{1} << 20;
+constexpr int PROPERTY_LIST_MAX_DEPTH = 32;
+constexpr std::size_t PROPERTY_LIST_MAX_KEYS = 4096; ///< in one dictionary
+
+/// The value of \a text; nothing when it is over one of the limits, names a key twice, or is not
+/// a property list from its first byte to its last.
+std::optional<PropertyListValue> ParsePropertyList(std::string_view text);
+
+} // namespace Pelnar::Engine

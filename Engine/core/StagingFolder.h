@@ -1,0 +1,40 @@
+// StagingFolder.h: the fresh folder beside an installed bundle in which its next version is made.
+// Thread: one at a time. Ownership: the object holds the folder's descriptor, and with it the kernel's lock that tells
+// everybody else that the folder is in use; a process that inherits the descriptor shares the lock. The folder itself
+// stays when the object goes: it is the helper that removes it.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <string>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+
+class StagingFolder
+{
+public:
+    /// Makes a folder of mode 0700 in \a parentFd for the bundle named \a targetName there. Throws UpdateRefusal.
+    static StagingFolder Create(int parentFd, std::string_view targetName);
+
+    int Descriptor() const { return m_folder.Get(); }
+    std::string const& Name() const { return m_name; }
+
+private:
+    StagingFolder(UniqueFd folder, std::string name);
+
+    UniqueFd m_folder;
+    std::string m_name;
+};
+
+/// What the names of every file that updating \a targetName makes beside it begin with.
+std::string UpdateFilePrefix(std::string_view targetName);
+/// The name of the journal of a swap of \a targetName; it does not begin like a staging folder's.
+std::string SwapJournalName(std::string_view targetName);
+
+/// True when everybody but the system's administrator and this user is kept from changing what stands in the open
+/// folder or on its way up: each folder belongs to one of the two, and nobody else may write there unless it is sticky.
+[[nodiscard]] bool IsSafeUpToTheRoot(int folderFd);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,57 @@
+// TreeManifest.h: a folder's tree as one hash, the way to compute it from a folder on disk, and the way to remove one.
+// Thread: one at a time. Ownership: values only; descriptors stay the caller's.
+// The hash covers names, kinds, modes, link targets, sizes and contents: two trees with one hash install the same.
+#pragma once
+
+#include "Engine/core/delta/Sha256Hasher.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace Pelnar::Engine
+{
+
+class TreeManifest
+{
+public:
+    void AddFolder(std::string path, std::uint32_t mode);
+    void AddFile(std::string path, std::uint32_t mode, std::uint64_t size, Sha256 const& content);
+    void AddLink(std::string path, std::string target);
+
+    /// The hash of what was added, in whatever order.
+    [[nodiscard]] Sha256 Digest() const;
+
+private:
+    struct Entry
+    {
+        char kind;
+        std::string path;
+        std::uint32_t mode;
+        std::uint64_t size;
+        Sha256 content;
+        std::string linkTarget;
+    };
+
+    std::vector<Entry> m_entries;
+};
+
+/// The hash of the tree below \a folderFd, its own folder left out. Throws UpdateRefusal: StagedTreeChanged for what an
+/// update never makes (other kinds of file, another owner), DiskError and its kin for what cannot be read.
+[[nodiscard]] Sha256 DigestTree(int folderFd);
+
+/// Removes the entry \a name of the folder \a parentFd with all that is in it, and follows no link; what lies on
+/// another file system stays. True when nothing of that name is left.
+[[nodiscard]] bool RemoveTree(int parentFd, std::string const& name);
+
+/// Calls \a visit for each entry below \a folderFd, folders before what they hold: the path from there, the folder that
+/// holds the entry, the entry's name and status. Constant number of open files, any depth. False, with errno, when a
+/// folder cannot be read.
+using TreeVisit =
+    std::function<void(std::string const& path, int parentFd, std::string const& name, struct stat const& status)>;
+[[nodiscard]] bool WalkTree(int folderFd, TreeVisit const& visit);
+
+} // namespace Pelnar::Engine

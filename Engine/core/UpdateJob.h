@@ -1,0 +1,81 @@
+// UpdateJob.h: what the host asks of the installer's helper, and the bytes in which it does.
+// Thread: any; plain values. The format and the descriptors that go with it are described in
+// docs/formats/update-job.md.
+#pragma once
+
+#include "Engine/core/delta/DeltaManifest.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// The numbers under which the helper finds what it inherits.
+struct HelperDescriptors
+{
+    static constexpr int JOB = 3;
+    static constexpr int REPORT = 4;
+    static constexpr int STAGING = 5; ///< prepare, install
+    static constexpr int ARCHIVE = 6; ///< prepare
+    static constexpr int TARGET = 7;  ///< prepare, a delta: the installed bundle's folder
+    static constexpr int PARENT = 6;  ///< install, recover: the folder that holds the installed bundle
+    static constexpr int HOST = 7;    ///< install: a pidfd of the host
+    static constexpr int COUNT = 8;
+};
+
+enum class PayloadKind : std::uint8_t
+{
+    WholeBundle = 0,
+    Delta = 1,
+};
+
+/// Verify the archive, unpack it into the staging folder, check the bundle.
+struct PrepareJob
+{
+    PayloadKind kind = PayloadKind::WholeBundle;
+    std::uint64_t archiveBytes = 0;      ///< as the feed declared them
+    std::string signature;               ///< base64
+    std::vector<std::string> publicKeys; ///< base64; of the running bundle, one or two
+    std::string bundleName;              ///< the installed bundle's folder name; what a delta's result is named
+    std::string bundleIdentifier;        ///< the running bundle's
+    std::string expectedVersion;         ///< the item's
+    std::string installedVersion;        ///< the running bundle's
+};
+
+/// Once the host has ended, put the staged bundle in the installed one's place, then start what is asked for.
+struct InstallJob
+{
+    std::string targetName;  ///< of the installed bundle's folder
+    std::string stagingName; ///< of the staging folder, beside it
+    std::string stagedName;  ///< of the new bundle's folder, in the staging folder
+    Sha256 digest{};         ///< of the new bundle's tree
+    std::string bundleIdentifier;
+    std::string expectedVersion;
+    std::string installedVersion;
+    std::uint64_t waitSeconds = 0;        ///< for the host to end; 0: as long as it takes
+    std::string targetPath;               ///< absolute; to be started afterwards; empty: start nothing
+    std::string relaunchPath;             ///< absolute; started instead of targetPath if it is safe; may be empty
+    std::vector<std::string> environment; ///< of what is started, "NAME=value"
+};
+
+/// Finish or undo what an interrupted helper left beside the bundle.
+struct RecoverJob
+{
+    std::string targetName;
+    std::string runningVersion; ///< of the bundle that asks, and so has started
+};
+
+using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob>;
+
+constexpr std::size_t UPDATE_JOB_MAX_BYTES = std::size_t{4} << 20;
+
+std::string EncodeUpdateJob(UpdateJob const& job);
+/// The job of \a bytes; nothing unless they are one, whole, with every name a single component, every path absolute.
+std::optional<UpdateJob> DecodeUpdateJob(std::string_view bytes);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,210 @@
+#include "Installer/BundleInformation.h"
+
+#include "Engine/core/PropertyList.h"
+#include "Engine/core/UpdateFault.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include <elf.h>
+#include <link.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+/// The running program's own header, as the linker placed it.
+extern "C" ElfW(Ehdr) const __ehdr_start __attribute__((visibility("hidden")));
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr char INFORMATION_PATH[] = "Resources/Info-gnustep.plist";
+constexpr std::string_view BUNDLE_SUFFIX = ".app";
+
+/// The components of "1.20.3"; nothing for any other kind of text.
+std::optional<std::vector<std::string>> DottedNumbers(std::string const& text)
+{
+    std::vector<std::string> numbers(1);
+    for (char const character : text)
+    {
+        if (character == '.')
+        {
+            numbers.emplace_back();
+        }
+        else if (character >= '0' && character <= '9')
+        {
+            numbers.back() += character;
+        }
+        else
+        {
+            return std::nullopt;
+        }
+    }
+    for (std::string& number : numbers)
+    {
+        if (number.empty())
+        {
+            return std::nullopt;
+        }
+        number.erase(0, std::min(number.find_first_not_of('0'), number.size()));
+    }
+    while (!numbers.empty() && numbers.back().empty())
+    {
+        numbers.pop_back();
+    }
+    return numbers;
+}
+
+/// The order of two versions is the application's own matter, decided before the download. What no order may allow is
+/// checked here: the same version again, or a lower one where both are plain numbers.
+bool IsNotNewer(std::string const& version, std::string const& installedVersion)
+{
+    auto const offered = DottedNumbers(version);
+    auto const installed = DottedNumbers(installedVersion);
+    if (!offered || !installed)
+    {
+        return version == installedVersion;
+    }
+    return !std::lexicographical_compare(installed->begin(), installed->end(), offered->begin(), offered->end(),
+                                         [](std::string const& a, std::string const& b)
+                                         { return a.size() != b.size() ? a.size() < b.size() : a < b; });
+}
+
+std::string ReadInformation(int bundleFd)
+{
+    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(INFORMATION_PATH);
+    struct stat status;
+    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
+    {
+        throw UpdateRefusal(UpdateFault::InformationMissing, file ? 0 : errno);
+    }
+    std::string text(Engine::PROPERTY_LIST_MAX_BYTES + 1, '\0');
+    std::size_t size = 0;
+    while (size < text.size())
+    {
+        ssize_t const count = ::read(file.Get(), text.data() + size, text.size() - size);
+        if (count < 0 && errno != EINTR)
+        {
+            Engine::ThrowErrno(errno);
+        }
+        if (count == 0)
+        {
+            break;
+        }
+        size += count < 0 ? 0 : static_cast<std::size_t>(count);
+    }
+    if (size > Engine::PROPERTY_LIST_MAX_BYTES)
+    {
+        throw UpdateRefusal(UpdateFault::InformationTooLarge);
+    }
+    text.resize(size);
+    return text;
+}
+
+bool IsRunnableHere(char const* bytes, std::size_t size)
+{
+    if (size >= 2 && bytes[0] == '#' && bytes[1] == '!')
+    {
+        return true;
+    }
+    ElfW(Ehdr) header;
+    if (size < sizeof header)
+    {
+        return false;
+    }
+    std::memcpy(&header, bytes, sizeof header);
+    return std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 &&
+           header.e_ident[EI_CLASS] == __ehdr_start.e_ident[EI_CLASS] &&
+           header.e_ident[EI_DATA] == __ehdr_start.e_ident[EI_DATA] && header.e_machine == __ehdr_start.e_machine &&
+           (header.e_type == ET_EXEC || header.e_type == ET_DYN);
+}
+
+} // namespace
+
+BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName)
+{
+    auto const list = Engine::ParsePropertyList(ReadInformation(bundleFd));
+    if (!list || list->kind != Engine::PropertyListValue::Kind::Dictionary)
+    {
+        throw UpdateRefusal(UpdateFault::InformationMalformed);
+    }
+    BundleInformation information;
+    information.identifier = list->TextOf("CFBundleIdentifier").value_or("");
+    information.version = list->TextOf("CFBundleVersion").value_or("");
+    information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
+    auto executable = list->TextOf("NSExecutable");
+    if (!executable)
+    {
+        executable = list->TextOf("CFBundleExecutable");
+    }
+    if (!executable)
+    {
+        bool const hasSuffix = bundleName.size() > BUNDLE_SUFFIX.size() &&
+                               std::equal(BUNDLE_SUFFIX.rbegin(), BUNDLE_SUFFIX.rend(), bundleName.rbegin());
+        executable = hasSuffix ? bundleName.substr(0, bundleName.size() - BUNDLE_SUFFIX.size()) : bundleName;
+    }
+    if (executable->empty() || *executable == "." || *executable == ".." || executable->find('/') != std::string::npos)
+    {
+        throw UpdateRefusal(UpdateFault::InformationMalformed);
+    }
+    information.executable = *executable;
+    return information;
+}
+
+void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation)
+{
+    BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
+    if (information.identifier != expectation.identifier)
+    {
+        throw UpdateRefusal(UpdateFault::IdentifierDiffers);
+    }
+    if (information.version != expectation.version)
+    {
+        throw UpdateRefusal(UpdateFault::VersionDiffers);
+    }
+    if (IsNotNewer(information.version, expectation.installedVersion))
+    {
+        throw UpdateRefusal(UpdateFault::VersionNotNewer);
+    }
+    if (information.publicKey.empty())
+    {
+        throw UpdateRefusal(UpdateFault::BundleKeyMissing); // it could never be updated again
+    }
+    CheckExecutable(bundleFd, information.executable);
+}
+
+void CheckExecutable(int bundleFd, std::string const& executable)
+{
+    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(executable);
+    struct stat status;
+    if (!file || ::fstat(file.Get(), &status) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::ExecutableMissing, errno);
+    }
+    if (!S_ISREG(status.st_mode) || (status.st_mode & S_IXUSR) == 0)
+    {
+        throw UpdateRefusal(UpdateFault::ExecutableNotRunnable);
+    }
+    char bytes[sizeof(ElfW(Ehdr))];
+    ssize_t const count = ::pread(file.Get(), bytes, sizeof bytes, 0);
+    if (count < 0)
+    {
+        Engine::ThrowErrno(errno);
+    }
+    if (!IsRunnableHere(bytes, static_cast<std::size_t>(count)))
+    {
+        throw UpdateRefusal(UpdateFault::ExecutableForeign);
+    }
+}
+
+} // namespace Pelnar::Installer

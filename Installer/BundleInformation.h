@@ -1,0 +1,37 @@
+// BundleInformation.h: what a bundle says of itself, and whether it is the one that an update must bring.
+// Thread: any. Ownership: descriptors stay the caller's.
+#pragma once
+
+#include <string>
+
+namespace Pelnar::Installer
+{
+
+struct BundleInformation
+{
+    std::string identifier;
+    std::string version;
+    std::string publicKey;  ///< empty when the bundle trusts no key
+    std::string executable; ///< the file's name in the bundle's folder
+};
+
+/// Reads Resources/Info-gnustep.plist of the bundle open at \a bundleFd; \a bundleName is its folder's name, after
+/// which an executable without a name of its own is named. Throws UpdateRefusal: InformationMissing,
+/// InformationTooLarge, InformationMalformed.
+BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName);
+
+struct BundleExpectation
+{
+    std::string identifier;
+    std::string version;
+    std::string installedVersion;
+};
+
+/// Throws UpdateRefusal unless the bundle is of that identifier and version, newer than the installed one, trusts some
+/// key, and begins with something that this machine can run.
+void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation);
+
+/// Throws UpdateRefusal: ExecutableMissing, ExecutableNotRunnable, ExecutableForeign.
+void CheckExecutable(int bundleFd, std::string const& executable);
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,240 @@
+#include "Installer/InstallUpdate.h"
+
+#include "Engine/core/TreeManifest.h"
+#include "Installer/BundleInformation.h"
+#include "Installer/RecoverSwap.h"
+#include "Installer/Relaunch.h"
+#include "Installer/SwapBundle.h"
+
+#include <cerrno>
+#include <climits>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::HelperPhase;
+using Engine::InstallJob;
+using Engine::RelaunchedBundle;
+using Engine::UniqueFd;
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int EXIT_REFUSED = 1;
+
+/// A signal must not end the process while it waits for nothing any more.
+void BlockSignals()
+{
+    sigset_t signals;
+    ::sigemptyset(&signals);
+    for (int const signal : {SIGTERM, SIGHUP, SIGINT, SIGQUIT})
+    {
+        ::sigaddset(&signals, signal);
+    }
+    ::sigprocmask(SIG_BLOCK, &signals, nullptr);
+}
+
+std::int64_t NowInMilliseconds()
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return static_cast<std::int64_t>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
+}
+
+void WaitForHost(int hostFd, std::uint64_t waitSeconds)
+{
+    // Any other file would look like a host that has ended.
+    bool const isProcess = ::syscall(SYS_pidfd_send_signal, hostFd, 0, nullptr, 0) == 0 || errno == ESRCH;
+    if (!isProcess)
+    {
+        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+    }
+    std::int64_t const end = NowInMilliseconds() + static_cast<std::int64_t>(waitSeconds) * 1000;
+    for (;;)
+    {
+        pollfd ended{hostFd, POLLIN, 0};
+        std::int64_t const left = end - NowInMilliseconds();
+        int const timeout = waitSeconds == 0 ? -1 : static_cast<int>(left < 0 ? 0 : left);
+        int const count = ::poll(&ended, 1, timeout);
+        if (count > 0 && (ended.revents & POLLIN) != 0)
+        {
+            return;
+        }
+        if (count == 0)
+        {
+            throw UpdateRefusal(UpdateFault::HostStillRunning);
+        }
+        if (count > 0 || errno != EINTR)
+        {
+            throw UpdateRefusal(UpdateFault::DescriptorUnusable, count > 0 ? 0 : errno);
+        }
+    }
+}
+
+bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
+{
+    struct stat open;
+    struct stat named;
+    return ::fstat(folderFd, &open) == 0 && ::fstatat(parentFd, name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
+}
+
+/// The installed bundle must still be the one that the update was prepared for.
+void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
+{
+    UniqueFd const target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
+    if (!target)
+    {
+        throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
+    }
+    BundleInformation const information = ReadBundleInformation(target.Get(), job.targetName);
+    if (information.identifier != job.bundleIdentifier || information.version != job.installedVersion)
+    {
+        throw UpdateRefusal(UpdateFault::TargetChanged);
+    }
+}
+
+/// The staged bundle must still be the one that was checked.
+void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors)
+{
+    UniqueFd const staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
+    bool const isInPlace = staged && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
+    if (!isInPlace || Engine::DigestTree(staged.Get()) != job.digest)
+    {
+        throw UpdateRefusal(UpdateFault::StagedTreeChanged);
+    }
+    CheckNewBundle(staged.Get(), job.stagedName, {job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+}
+
+/// Everything between the host's end and the relaunch.
+void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+{
+    SwapLock const lock(descriptors.parent);
+    // The version that asked for this has run: what an earlier update kept for it is not needed any more.
+    static_cast<void>(RecoverSwap(descriptors.parent, job.targetName, job.installedVersion));
+    CheckTarget(job, descriptors);
+    CheckStaged(job, descriptors);
+    Engine::SwapJournal const journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
+    WriteSwapJournal(descriptors.parent, job.targetName, journal);
+    report.SendProgress(HelperPhase::Installing, 0, 0);
+    SwapBundle(descriptors.parent, job.targetName, descriptors.staging, journal);
+    report.Send(Engine::InstalledReport{});
+}
+
+/// The child's whole life; its exit status.
+int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+{
+    try
+    {
+        InstallLocked(job, descriptors, report);
+        return 0;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+        return EXIT_REFUSED;
+    }
+}
+
+/// True when the child ended well.
+bool WaitForChild(pid_t child)
+{
+    int status = 0;
+    while (::waitpid(child, &status, 0) < 0)
+    {
+        if (errno != EINTR)
+        {
+            return false;
+        }
+    }
+    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+/// After a failure: the target is made whole, and what was prepared is removed unless the target came from it.
+void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+{
+    try
+    {
+        SwapLock const lock(descriptors.parent);
+        Engine::RecoveryAction const action = RecoverSwap(descriptors.parent, job.targetName, {});
+        if (action != Engine::RecoveryAction::Nothing)
+        {
+            report.Send(Engine::RecoveredReport{action});
+        }
+        // A journal that still stands keeps one folder: this update's, or that of one that came first.
+        auto const journal = ReadSwapJournal(descriptors.parent, job.targetName);
+        bool const isKept = journal && journal->stagingName == job.stagingName;
+        if (!isKept && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName))
+        {
+            static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
+        }
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+    }
+}
+
+/// Starts the answered path if that can be done, else the installed bundle; false when neither starts.
+bool StartAgain(InstallJob const& job, ReportChannel& report)
+{
+    struct Choice
+    {
+        std::string const& path;
+        RelaunchedBundle name;
+    };
+    bool const isAnswered = !job.relaunchPath.empty();
+    for (Choice const& choice :
+         {Choice{job.relaunchPath, RelaunchedBundle::Answered},
+          Choice{job.targetPath, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target}})
+    {
+        if (choice.path.empty())
+        {
+            continue;
+        }
+        try
+        {
+            Relaunch(FindRelaunchTarget(choice.path), job.environment);
+            report.Send(Engine::RelaunchedReport{choice.name});
+            return true;
+        }
+        catch (UpdateRefusal const& refusal)
+        {
+            report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+{
+    report.SendProgress(HelperPhase::Waiting, 0, 0);
+    WaitForHost(descriptors.host, job.waitSeconds);
+    BlockSignals();
+    pid_t const child = ::fork();
+    if (child == 0)
+    {
+        ::_exit(RunInstallation(job, descriptors, report));
+    }
+    bool const isInstalled = child > 0 && WaitForChild(child);
+    if (!isInstalled)
+    {
+        TidyUp(job, descriptors, report);
+    }
+    return (job.targetPath.empty() || StartAgain(job, report)) && isInstalled;
+}
+
+} // namespace Pelnar::Installer

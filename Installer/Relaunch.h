@@ -1,0 +1,26 @@
+// Relaunch.h: starts a bundle's program after an update.
+// Thread: any. Ownership: values only; the started process is nobody's child to wait for.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Installer
+{
+
+/// A program to start: its real path, which no link can turn elsewhere any more.
+struct RelaunchTarget
+{
+    std::string executablePath;
+};
+
+/// The program of the bundle at \a bundlePath. Throws UpdateRefusal: RelaunchPathUnsafe unless it is an absolute path
+/// without ".." to a real folder which only the administrator and this user can change, up to the root, and which is a
+/// bundle whose program this machine can run.
+RelaunchTarget FindRelaunchTarget(std::string const& bundlePath);
+
+/// Starts the program with itself as the one argument, the given environment, its own session and no signal blocked.
+/// Throws UpdateRefusal: RelaunchFailed.
+void Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment);
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,31 @@
+#include "Installer/ReportChannel.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+constexpr std::uint64_t PROGRESS_STEP_BYTES = std::uint64_t{4} << 20;
+
+} // namespace
+
+void ReportChannel::Send(Engine::HelperReport const& report) const
+{
+    std::string const line = Engine::EncodeHelperReport(report);
+    static_cast<void>(
+        Engine::WriteAll(m_descriptor, Engine::Bytes(reinterpret_cast<std::uint8_t const*>(line.data()), line.size())));
+}
+
+void ReportChannel::SendProgress(Engine::HelperPhase phase, std::uint64_t doneBytes, std::uint64_t totalBytes)
+{
+    bool const isEnd = doneBytes == 0 || doneBytes == totalBytes;
+    if (isEnd || doneBytes - m_toldBytes >= PROGRESS_STEP_BYTES)
+    {
+        m_toldBytes = doneBytes;
+        Send(Engine::ProgressReport{phase, doneBytes, totalBytes});
+    }
+}
+
+} // namespace Pelnar::Installer

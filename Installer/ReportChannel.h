@@ -1,0 +1,25 @@
+// ReportChannel.h: the helper's side of the report pipe.
+// Thread: the helper's only one. Ownership: the descriptor is inherited and stays open to the end.
+#pragma once
+
+#include "Engine/core/HelperReport.h"
+
+namespace Pelnar::Installer
+{
+
+class ReportChannel
+{
+public:
+    explicit ReportChannel(int descriptor) : m_descriptor(descriptor) {}
+
+    /// Writes one line, whole. A reader that has gone is no failure: what to do then is the signal SIGPIPE's matter.
+    void Send(Engine::HelperReport const& report) const;
+    /// A progress line at the start, at the end and at most every 4 MiB in between.
+    void SendProgress(Engine::HelperPhase phase, std::uint64_t doneBytes, std::uint64_t totalBytes);
+
+private:
+    int m_descriptor;
+    std::uint64_t m_toldBytes = 0;
+};
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,40 @@
+// SwapBundle.h: the steps of putting one bundle in another's place, each durable before the next begins.
+// Thread: the process' only one. Ownership: descriptors stay the caller's.
+#pragma once
+
+#include "Engine/core/SwapJournal.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <optional>
+#include <string>
+
+namespace Pelnar::Installer
+{
+
+/// The kernel's lock on everything that is swapped in one folder; it goes with the object, or with the process.
+class SwapLock
+{
+public:
+    /// Waits for the lock on the folder open at \a parentFd. Throws UpdateRefusal: LockTimedOut.
+    explicit SwapLock(int parentFd);
+
+private:
+    Engine::UniqueFd m_folder;
+};
+
+/// The version of the bundle \a name in the folder; nothing when it cannot be told.
+std::optional<std::string> VersionOf(int folderFd, std::string const& name);
+
+/// What is written in the journal of \a targetName; nothing when there is none, or none that can be understood.
+std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string const& targetName);
+/// Throws UpdateRefusal. REQUIRES: the swap lock.
+void WriteSwapJournal(int parentFd, std::string const& targetName, Engine::SwapJournal const& journal);
+/// Throws UpdateRefusal. REQUIRES: the swap lock.
+void RemoveSwapJournal(int parentFd, std::string const& targetName);
+
+/// Puts journal.stagedName of the staging folder in the target's place and the target in the staging folder, and
+/// answers when both folders are on the disk; or puts everything back and throws UpdateRefusal: OtherFileSystem,
+/// SwapFailed, SyncFailed. REQUIRES: the swap lock; the journal is written.
+void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engine::SwapJournal const& journal);
+
+} // namespace Pelnar::Installer

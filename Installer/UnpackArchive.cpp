@@ -1,0 +1,203 @@
+#include "Installer/UnpackArchive.h"
+
+#include "Engine/core/TreeManifest.h"
+#include "Engine/core/ZipStructure.h"
+#include "Engine/core/delta/TreeAccess.h"
+#include "Installer/Archive.h"
+
+#include <cerrno>
+#include <unordered_set>
+#include <vector>
+
+#include <sys/stat.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::ArchiveEntry;
+using Engine::ArchiveEntryPolicy;
+using Engine::ArchiveEntryType;
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+void RefuseUnlessNone(UpdateFault fault)
+{
+    if (fault != UpdateFault::None)
+    {
+        throw UpdateRefusal(fault);
+    }
+}
+
+std::uint64_t SizeOf(int descriptor)
+{
+    struct stat status;
+    if (::fstat(descriptor, &status) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+    }
+    return static_cast<std::uint64_t>(status.st_size);
+}
+
+void CheckStructure(int archiveFd)
+{
+    if (DetectContainer(archiveFd) != ContainerKind::Zip)
+    {
+        return;
+    }
+    Engine::FileMapping const mapping(archiveFd, SizeOf(archiveFd));
+    if (!mapping.IsValid())
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+    }
+    RefuseUnlessNone(Engine::CheckZipStructure(mapping.Content()));
+}
+
+/// The first pass: how many bytes there will be.
+std::uint64_t JudgeEntries(int archiveFd)
+{
+    ArchiveEntryPolicy policy(Engine::ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
+    Archive archive(archiveFd);
+    std::uint64_t total = 0;
+    while (auto const entry = archive.Next())
+    {
+        RefuseUnlessNone(policy.Admit(*entry).fault);
+        total += entry->type == ArchiveEntryType::File ? entry->size : 0;
+    }
+    RefuseUnlessNone(policy.Finish());
+    return total;
+}
+
+/// The second pass.
+class BundleWriter
+{
+public:
+    BundleWriter(int stagingFd, std::uint64_t totalBytes, UnpackProgress const& progress)
+        : m_tree(stagingFd), m_totalBytes(totalBytes), m_progress(progress)
+    {
+    }
+
+    void Write(Archive& archive, ArchiveEntry const& entry, std::string const& path, std::uint32_t mode)
+    {
+        std::size_t const slash = path.rfind('/');
+        if (slash != std::string::npos)
+        {
+            MakeFolder(path.substr(0, slash));
+        }
+        switch (entry.type)
+        {
+        case ArchiveEntryType::Folder:
+            MakeFolder(path);
+            return;
+        case ArchiveEntryType::File:
+            WriteFile(archive, entry, path, mode);
+            return;
+        case ArchiveEntryType::SymbolicLink:
+            if (!m_tree.MakeLink(path, entry.linkTarget))
+            {
+                Engine::ThrowErrno(errno);
+            }
+            m_manifest.AddLink(Below(path), entry.linkTarget);
+            return;
+        case ArchiveEntryType::HardLink:
+        case ArchiveEntryType::Other:
+            break;
+        }
+        throw UpdateRefusal(UpdateFault::EntryTypeRefused);
+    }
+
+    Engine::Sha256 Digest() const { return m_manifest.Digest(); }
+
+private:
+    /// The path below the bundle's folder.
+    static std::string Below(std::string const& path) { return path.substr(path.find('/') + 1); }
+
+    void MakeFolder(std::string const& path)
+    {
+        if (path == m_lastFolder || m_folders.count(path) != 0)
+        {
+            return;
+        }
+        std::size_t const slash = path.rfind('/');
+        if (slash != std::string::npos)
+        {
+            MakeFolder(path.substr(0, slash));
+        }
+        if (!m_tree.MakeFolder(path))
+        {
+            Engine::ThrowErrno(errno);
+        }
+        if (slash != std::string::npos)
+        {
+            m_manifest.AddFolder(Below(path), 0755);
+        }
+        m_folders.insert(path);
+        m_lastFolder = path;
+    }
+
+    void WriteFile(Archive& archive, ArchiveEntry const& entry, std::string const& path, std::uint32_t mode)
+    {
+        Engine::UniqueFd const file = m_tree.MakeFile(path, mode == 0755);
+        if (!file)
+        {
+            Engine::ThrowErrno(errno);
+        }
+        Engine::Sha256Hasher hasher;
+        archive.ReadContents(entry.size,
+                             [&](Engine::Bytes piece)
+                             {
+                                 if (!Engine::WriteAll(file.Get(), piece))
+                                 {
+                                     Engine::ThrowErrno(errno);
+                                 }
+                                 hasher.Add(piece);
+                                 m_doneBytes += piece.size();
+                                 m_progress(m_doneBytes, m_totalBytes);
+                             });
+        if (auto const time = archive.ModificationTime())
+        {
+            timespec const times[] = {{0, UTIME_OMIT}, *time};
+            if (::futimens(file.Get(), times) != 0)
+            {
+                Engine::ThrowErrno(errno);
+            }
+        }
+        m_manifest.AddFile(Below(path), mode, entry.size, hasher.Finish());
+    }
+
+    Engine::TreeAccess m_tree;
+    Engine::TreeManifest m_manifest;
+    std::uint64_t m_totalBytes;
+    std::uint64_t m_doneBytes = 0;
+    UnpackProgress const& m_progress;
+    std::unordered_set<std::string> m_folders;
+    std::string m_lastFolder;
+};
+
+} // namespace
+
+UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const& progress)
+{
+    CheckStructure(archiveFd);
+    std::uint64_t const total = JudgeEntries(archiveFd);
+    progress(0, total);
+
+    // Judged again as it is read again: nothing is taken over from the first pass but that there was one.
+    ArchiveEntryPolicy policy(Engine::ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
+    Archive archive(archiveFd);
+    BundleWriter writer(stagingFd, total, progress);
+    while (auto const entry = archive.Next())
+    {
+        Engine::EntryAdmission const admission = policy.Admit(*entry);
+        RefuseUnlessNone(admission.fault);
+        if (!admission.path.empty())
+        {
+            writer.Write(archive, *entry, admission.path, admission.mode);
+        }
+    }
+    RefuseUnlessNone(policy.Finish());
+    return {policy.BundleName(), writer.Digest()};
+}
+
+} // namespace Pelnar::Installer

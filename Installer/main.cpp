@@ -1,0 +1,182 @@
+// The installer's helper. It takes one word, "prepare", "install" or "recover", and everything else from inherited
+// descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other argument.
+
+#include "Engine/core/UpdateJob.h"
+#include "Installer/InstallUpdate.h"
+#include "Installer/PrepareUpdate.h"
+#include "Installer/RecoverSwap.h"
+#include "Installer/ReportChannel.h"
+#include "Installer/SwapBundle.h"
+
+#include <cerrno>
+#include <exception>
+#include <string>
+#include <string_view>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar;
+using Engine::HelperDescriptors;
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr int EXIT_REFUSED = 1;
+constexpr int EXIT_USAGE = 2;
+constexpr mode_t CREATION_MASK = 022;
+
+/// Starts this program again without environment: nothing that was set for the host, above all nothing that its
+/// dynamic loader obeys, goes with it.
+void DropEnvironment(char** arguments)
+{
+    if (*environ)
+    {
+        char* const none[] = {nullptr};
+        ::execve("/proc/self/exe", arguments, none);
+        ::_exit(EXIT_USAGE);
+    }
+}
+
+/// The standard streams exist, nothing inherited goes on to a program started from here, and what was not announced is
+/// closed.
+void SettleDescriptors()
+{
+    for (int descriptor = 0; descriptor < HelperDescriptors::JOB; ++descriptor)
+    {
+        if (::fcntl(descriptor, F_GETFD) < 0 && ::open("/dev/null", O_RDWR) != descriptor)
+        {
+            ::_exit(EXIT_USAGE);
+        }
+    }
+    for (int descriptor = HelperDescriptors::JOB; descriptor < HelperDescriptors::COUNT; ++descriptor)
+    {
+        ::fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+    }
+    ::syscall(SYS_close_range, HelperDescriptors::COUNT, ~0u, 0);
+}
+
+void RequireFolder(int descriptor)
+{
+    struct stat status;
+    if (::fstat(descriptor, &status) != 0 || !S_ISDIR(status.st_mode))
+    {
+        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+    }
+}
+
+Engine::UpdateJob ReadJob()
+{
+    std::string bytes(Engine::UPDATE_JOB_MAX_BYTES + 1, '\0');
+    std::size_t size = 0;
+    while (size < bytes.size())
+    {
+        ssize_t const count = ::read(HelperDescriptors::JOB, bytes.data() + size, bytes.size() - size);
+        if (count < 0 && errno != EINTR)
+        {
+            throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+        }
+        if (count == 0)
+        {
+            break;
+        }
+        size += count < 0 ? 0 : static_cast<std::size_t>(count);
+    }
+    auto job = Engine::DecodeUpdateJob(std::string_view(bytes).substr(0, size));
+    if (!job)
+    {
+        throw UpdateRefusal(UpdateFault::JobMalformed);
+    }
+    return *std::move(job);
+}
+
+template <typename Job>
+Job ReadJobOfKind()
+{
+    Engine::UpdateJob const job = ReadJob();
+    if (!std::holds_alternative<Job>(job))
+    {
+        throw UpdateRefusal(UpdateFault::JobMalformed);
+    }
+    return std::get<Job>(job);
+}
+
+bool Prepare(Installer::ReportChannel& report)
+{
+    // Nobody reads the report any more when the host has gone: then SIGPIPE ends this process, which is right.
+    auto const job = ReadJobOfKind<Engine::PrepareJob>();
+    RequireFolder(HelperDescriptors::STAGING);
+    bool const isDelta = job.kind == Engine::PayloadKind::Delta;
+    if (isDelta)
+    {
+        RequireFolder(HelperDescriptors::TARGET);
+    }
+    Installer::PrepareUpdate(
+        job, {HelperDescriptors::ARCHIVE, HelperDescriptors::STAGING, isDelta ? HelperDescriptors::TARGET : -1},
+        report);
+    return true;
+}
+
+bool Install(Installer::ReportChannel& report)
+{
+    // The host is expected to go, and its session with it.
+    ::signal(SIGPIPE, SIG_IGN);
+    ::setsid();
+    auto const job = ReadJobOfKind<Engine::InstallJob>();
+    RequireFolder(HelperDescriptors::PARENT);
+    RequireFolder(HelperDescriptors::STAGING);
+    return Installer::InstallUpdate(
+        job, {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST}, report);
+}
+
+bool Recover(Installer::ReportChannel& report)
+{
+    ::signal(SIGPIPE, SIG_IGN);
+    auto const job = ReadJobOfKind<Engine::RecoverJob>();
+    RequireFolder(HelperDescriptors::PARENT);
+    Installer::SwapLock const lock(HelperDescriptors::PARENT);
+    report.Send(
+        Engine::RecoveredReport{Installer::RecoverSwap(HelperDescriptors::PARENT, job.targetName, job.runningVersion)});
+    return true;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    std::string_view const mode = count == 2 ? arguments[1] : "";
+    bool (*const run)(Installer::ReportChannel&) = mode == "prepare"   ? &Prepare
+                                                   : mode == "install" ? &Install
+                                                   : mode == "recover" ? &Recover
+                                                                       : nullptr;
+    if (!run)
+    {
+        return EXIT_USAGE;
+    }
+    DropEnvironment(arguments);
+    SettleDescriptors();
+    ::umask(CREATION_MASK);
+    if (::chdir("/") != 0)
+    {
+        return EXIT_USAGE;
+    }
+    Installer::ReportChannel report(HelperDescriptors::REPORT);
+    try
+    {
+        return run(report) ? 0 : EXIT_REFUSED;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+    }
+    catch (std::exception const&) // memory ran out
+    {
+        report.Send(Engine::RefusedReport{UpdateFault::DiskError, ENOMEM});
+    }
+    return EXIT_REFUSED;
+}

@@ -1,0 +1,280 @@
+#include "tests/installer/InstallerFixture.h"
+
+#include "Engine/core/SwapJournal.h"
+
+#include <gtest/gtest.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+using namespace std::string_literals;
+
+PrepareJob SomePrepareJob()
+{
+    return {PayloadKind::Delta, 123456789012, "c2ln", {"a2V5", "a2V6"}, "A b.app", "org.x", "2.0", "1.0"};
+}
+
+InstallJob SomeInstallJob()
+{
+    InstallJob job;
+    job.targetName = "A \"b\"\n\xff.app";
+    job.stagingName = ".pelnar-x";
+    job.stagedName = "A.app";
+    job.digest.fill(0xab);
+    job.bundleIdentifier = "org.x";
+    job.expectedVersion = "2.0";
+    job.installedVersion = "1.0";
+    job.waitSeconds = 300;
+    job.targetPath = "/opt/A.app";
+    job.relaunchPath = "/opt/B.app";
+    job.environment = {"HOME=/root", "EMPTY="};
+    return job;
+}
+
+/// Every way to write one job is the one way.
+void ExpectRoundTrip(UpdateJob const& job)
+{
+    std::string const bytes = EncodeUpdateJob(job);
+    auto const decoded = DecodeUpdateJob(bytes);
+    ASSERT_TRUE(decoded.has_value());
+    EXPECT_EQ(decoded->index(), job.index());
+    EXPECT_EQ(EncodeUpdateJob(*decoded), bytes);
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+    {
+        EXPECT_FALSE(DecodeUpdateJob(bytes.substr(0, size)).has_value()) << size;
+    }
+    EXPECT_FALSE(DecodeUpdateJob(bytes + '\0').has_value());
+}
+
+TEST(UpdateJob, EachKindComesBackAndNoPieceOfItDoes)
+{
+    ExpectRoundTrip(SomePrepareJob());
+    ExpectRoundTrip(SomeInstallJob());
+    ExpectRoundTrip(RecoverJob{"A.app", "1.0"});
+    auto const job = std::get<InstallJob>(*DecodeUpdateJob(EncodeUpdateJob(SomeInstallJob())));
+    EXPECT_EQ(job.targetName, "A \"b\"\n\xff.app");
+    EXPECT_EQ(job.digest, SomeInstallJob().digest);
+    EXPECT_EQ(job.waitSeconds, 300u);
+    EXPECT_EQ(job.environment, SomeInstallJob().environment);
+}
+
+template <typename Job>
+bool IsTaken(Job job, void (*change)(Job&))
+{
+    change(job);
+    return DecodeUpdateJob(EncodeUpdateJob(job)).has_value();
+}
+
+TEST(UpdateJob, HostilePrepareJobsAreRefused)
+{
+    using Change = void (*)(PrepareJob&);
+    for (Change const change :
+         std::initializer_list<Change>{
+             [](PrepareJob& job) { job.bundleName = ""; },
+             [](PrepareJob& job) { job.bundleName = ".."; },
+             [](PrepareJob& job) { job.bundleName = "a/b"; },
+             [](PrepareJob& job) { job.bundleIdentifier = ""; },
+             [](PrepareJob& job) { job.expectedVersion = ""; },
+             [](PrepareJob& job) { job.installedVersion = ""; },
+             [](PrepareJob& job) { job.signature = "a\0b"s; },
+             [](PrepareJob& job) {
+                 job.publicKeys = {"a", "b", "c"};
+             },
+             [](PrepareJob& job) { job.kind = static_cast<PayloadKind>(2); },
+         })
+    {
+        EXPECT_FALSE(IsTaken(SomePrepareJob(), change));
+    }
+    // No key and no signature are for the verification to refuse, by their own names.
+    EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.publicKeys.clear(); }));
+    EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.signature.clear(); }));
+}
+
+TEST(UpdateJob, HostileInstallJobsAreRefused)
+{
+    using Change = void (*)(InstallJob&);
+    for (Change const change :
+         std::initializer_list<Change>{
+             [](InstallJob& job) { job.targetName = "a/b"; },
+             [](InstallJob& job) { job.targetName = "."; },
+             [](InstallJob& job) { job.stagingName = ".."; },
+             [](InstallJob& job) { job.stagingName = ""; },
+             [](InstallJob& job) { job.stagedName = "/a"; },
+             [](InstallJob& job) { job.stagedName = "a\0"s; },
+             [](InstallJob& job) { job.targetPath = "A.app"; },
+             [](InstallJob& job) { job.relaunchPath = "~/x"; },
+             [](InstallJob& job) { job.relaunchPath = "file:///x"; },
+             [](InstallJob& job) { job.targetPath = ""; },
+             [](InstallJob& job) { job.waitSeconds = 24 * 60 * 60 + 1; },
+             [](InstallJob& job) { job.environment = {"NOVALUE"}; },
+             [](InstallJob& job) { job.environment = {"=x"}; },
+             [](InstallJob& job) { job.environment = {"A=b\0c"s}; },
+             [](InstallJob& job) { job.environment = {"A=" + std::string(UPDATE_JOB_MAX_BYTES, 'x')}; },
+         })
+    {
+        EXPECT_FALSE(IsTaken(SomeInstallJob(), change));
+    }
+}
+
+TEST(UpdateJob, ForeignBytesAreRefused)
+{
+    std::string const right = EncodeUpdateJob(RecoverJob{"A.app", "1.0"});
+    for (std::string const& bytes : {""s, "PELNARJ1"s, "PELNARJ2" + right.substr(8), "{\"mode\":\"install\"}"s,
+                                     "PELNARJ1"s + std::string(100, '\xff')})
+    {
+        EXPECT_FALSE(DecodeUpdateJob(bytes).has_value());
+    }
+    for (std::size_t place = 0; place < right.size(); ++place)
+    {
+        for (int bit = 0; bit < 8; ++bit)
+        {
+            std::string changed = right;
+            changed[place] = static_cast<char>(changed[place] ^ (1 << bit));
+            auto const job = DecodeUpdateJob(changed);
+            EXPECT_TRUE(!job || EncodeUpdateJob(*job) == changed) << place;
+        }
+    }
+    EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A/b", "1.0"})).has_value());
+    EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A.app", ""})).has_value());
+}
+
+TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
+{
+    Sha256 digest{};
+    digest.fill(0x1f);
+    std::string digestText;
+    for (int i = 0; i < 32; ++i)
+    {
+        digestText += "1f";
+    }
+    struct Row
+    {
+        HelperReport report;
+        std::string line;
+    };
+    for (Row const& row : {
+             Row{ProgressReport{HelperPhase::Verifying, 0, 10}, "progress verifying 0 10"},
+             Row{ProgressReport{HelperPhase::Unpacking, 10, 10}, "progress unpacking 10 10"},
+             Row{ProgressReport{HelperPhase::Waiting, 0, 0}, "progress waiting 0 0"},
+             Row{ProgressReport{HelperPhase::Installing, 0, UINT64_MAX}, "progress installing 0 18446744073709551615"},
+             Row{PreparedReport{digest, "A b"}, "prepared " + digestText + " 412062"},
+             Row{InstalledReport{}, "installed"},
+             Row{RecoveredReport{RecoveryAction::Nothing}, "recovered nothing"},
+             Row{RecoveredReport{RecoveryAction::KeptPrevious}, "recovered kept-previous"},
+             Row{RecoveredReport{RecoveryAction::ConfirmedNew}, "recovered confirmed-new"},
+             Row{RecoveredReport{RecoveryAction::DroppedStaged}, "recovered dropped-staged"},
+             Row{RecoveredReport{RecoveryAction::RestoredPrevious}, "recovered restored-previous"},
+             Row{RelaunchedReport{RelaunchedBundle::Answered}, "relaunched answered"},
+             Row{RelaunchedReport{RelaunchedBundle::Target}, "relaunched target"},
+             Row{RelaunchedReport{RelaunchedBundle::TargetInstead}, "relaunched target-instead"},
+             Row{RefusedReport{UpdateFault::NoSpace, 28}, "refused NoSpace 28"},
+         })
+    {
+        EXPECT_EQ(EncodeHelperReport(row.report), row.line + "\n");
+        auto const decoded = DecodeHelperReport(row.line);
+        ASSERT_TRUE(decoded.has_value()) << row.line;
+        EXPECT_EQ(EncodeHelperReport(*decoded), row.line + "\n");
+    }
+}
+
+TEST(HelperReport, OtherLinesAreNone)
+{
+    std::string const digest(64, 'a');
+    for (std::string const& line : {
+             ""s,
+             " "s,
+             "installed "s,
+             "installed x"s,
+             "Installed"s,
+             "progress"s,
+             "progress verifying 1"s,
+             "progress verifying 2 1"s,
+             "progress verifying -1 1"s,
+             "progress verifying 01 1"s,
+             "progress verifying 1 18446744073709551616"s,
+             "progress cooking 1 1"s,
+             "progress verifying 1 1 1"s,
+             "prepared "s + digest,
+             "prepared "s + digest + " ",
+             "prepared "s + digest + " 4",
+             "prepared " + digest + " 2f",
+             "prepared " + digest + " 2e2e",
+             "prepared " + digest + " 00",
+             "prepared " + digest + " 4A4a",
+             "prepared " + digest.substr(2) + " 41",
+             "prepared " + digest + " " + std::string(512, '4'),
+             "recovered"s,
+             "recovered all"s,
+             "relaunched"s,
+             "relaunched it"s,
+             "refused"s,
+             "refused NoSpace"s,
+             "refused Nonsense 1"s,
+             "refused None 0"s,
+             "refused NoSpace -1"s,
+             "refused NoSpace x"s,
+             "refused NoSpace 1 "s,
+             std::string(5000, 'x'),
+         })
+    {
+        EXPECT_FALSE(DecodeHelperReport(line).has_value()) << line;
+    }
+}
+
+TEST(SwapJournal, ComesBackAndNoPieceOfItDoes)
+{
+    std::string const bytes = EncodeSwapJournal({".pelnar-x", "A.app", "1.0", "2.0"});
+    auto const journal = DecodeSwapJournal(bytes);
+    ASSERT_TRUE(journal.has_value());
+    EXPECT_EQ(EncodeSwapJournal(*journal), bytes);
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+    {
+        EXPECT_FALSE(DecodeSwapJournal(bytes.substr(0, size)).has_value());
+    }
+    EXPECT_FALSE(DecodeSwapJournal(bytes + "x").has_value());
+    EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"../x", "A.app", "1.0", "2.0"})).has_value());
+    EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "..", "1.0", "2.0"})).has_value());
+    EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "A.app", "1.0", "1.0"})).has_value());
+    EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "A.app", "", "1.0"})).has_value());
+}
+
+TEST(SwapJournal, EverySightHasItsAction)
+{
+    struct Row
+    {
+        TargetState target;
+        bool isPreviousAtHand;
+        bool hasNewStarted;
+        RecoveryAction action;
+    };
+    for (Row const& row : {
+             Row{TargetState::Missing, false, false, RecoveryAction::DroppedStaged},
+             Row{TargetState::Missing, false, true, RecoveryAction::DroppedStaged},
+             Row{TargetState::Missing, true, false, RecoveryAction::RestoredPrevious},
+             Row{TargetState::Missing, true, true, RecoveryAction::RestoredPrevious},
+             Row{TargetState::Unreadable, false, false, RecoveryAction::KeptPrevious},
+             Row{TargetState::Unreadable, false, true, RecoveryAction::KeptPrevious},
+             Row{TargetState::Unreadable, true, false, RecoveryAction::KeptPrevious},
+             Row{TargetState::Unreadable, true, true, RecoveryAction::KeptPrevious},
+             Row{TargetState::Previous, false, false, RecoveryAction::DroppedStaged},
+             Row{TargetState::Previous, false, true, RecoveryAction::DroppedStaged},
+             Row{TargetState::Previous, true, false, RecoveryAction::DroppedStaged},
+             Row{TargetState::Previous, true, true, RecoveryAction::DroppedStaged},
+             Row{TargetState::New, false, false, RecoveryAction::KeptPrevious},
+             Row{TargetState::New, false, true, RecoveryAction::ConfirmedNew},
+             Row{TargetState::New, true, false, RecoveryAction::KeptPrevious},
+             Row{TargetState::New, true, true, RecoveryAction::ConfirmedNew},
+             Row{TargetState::Foreign, false, false, RecoveryAction::DroppedStaged},
+             Row{TargetState::Foreign, false, true, RecoveryAction::DroppedStaged},
+             Row{TargetState::Foreign, true, false, RecoveryAction::DroppedStaged},
+             Row{TargetState::Foreign, true, true, RecoveryAction::DroppedStaged},
+         })
+    {
+        EXPECT_EQ(DecideRecovery({row.target, row.isPreviousAtHand, row.hasNewStarted}), row.action)
+            << static_cast<int>(row.target) << row.isPreviousAtHand << row.hasNewStarted;
+    }
+}
+
+} // namespace

@@ -1,0 +1,150 @@
+// InstallerFixture.h: a folder with an installed bundle, bundles to update it to, and the helper's real process.
+// Thread: one. Ownership: scope objects; folders and processes end with them.
+#pragma once
+
+#include "Engine/core/HelperReport.h"
+#include "Engine/core/StagingFolder.h"
+#include "Engine/core/UpdateJob.h"
+#include "tests/installer/ArchiveForge.h"
+#include "tests/installer/Ed25519Vectors.h"
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+constexpr char IDENTIFIER[] = "org.pelnar.test";
+constexpr char APP[] = "My App.app";
+
+/// A bundle whose program prints its version, its path and the number of its arguments.
+std::vector<ForgedEntry> MakeBundle(std::string const& version, std::string const& name = APP);
+/// The bundle's information file.
+std::string InformationText(std::string const& version, std::string const& identifier = IDENTIFIER);
+
+/// A new folder of this user's only, removed at the end with all that is in it.
+class Workspace
+{
+public:
+    Workspace();
+    ~Workspace();
+    Workspace(Workspace const&) = delete;
+    Workspace& operator=(Workspace const&) = delete;
+
+    std::string const& Path() const { return m_path; }
+    int Descriptor() const { return m_folder.Get(); }
+    /// Writes the entries as they are below the folder.
+    void Put(std::vector<ForgedEntry> const& entries, std::string const& below = {}) const;
+    /// The names in the folder, sorted.
+    std::vector<std::string> Names(std::string const& below = {}) const;
+    /// What the program of the bundle in the folder prints; empty when it does not start.
+    std::string StartBundle(std::string const& name = APP) const;
+    /// The version that the bundle's program prints; empty when it does not start.
+    std::string StartedVersion(std::string const& name = APP) const;
+
+private:
+    std::string m_path;
+    Engine::UniqueFd m_folder;
+};
+
+/// A file below \a path, open for reading only.
+Engine::UniqueFd WriteFile(std::string const& path, std::string const& bytes);
+
+struct HelperOutcome
+{
+    int exitStatus = -1; ///< -1 when a signal ended it
+    int signal = 0;
+    std::vector<Engine::HelperReport> reports; ///< without progress
+    std::vector<Engine::ProgressReport> progress;
+    std::string output; ///< of whatever was started from it, to its end
+
+    /// The fault of the first refusal; None when there was none.
+    Engine::UpdateFault Fault() const;
+    template <typename Report>
+    Report const* Find() const
+    {
+        for (Engine::HelperReport const& report : reports)
+        {
+            if (auto const* found = std::get_if<Report>(&report))
+            {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+};
+
+/// How the helper is started.
+struct HelperStart
+{
+    std::vector<std::string> before = {};      ///< a program, with its arguments, that runs the helper
+    std::vector<std::string> environment = {}; ///< none, as a host does it
+};
+
+/// Runs the helper to its end. \a descriptors are given under their numbers, besides job and report.
+HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::map<int, int> const& descriptors,
+                        HelperStart const& start = {});
+
+/// A process that lives until it is told to end.
+class StubHost
+{
+public:
+    StubHost();
+    ~StubHost();
+    StubHost(StubHost const&) = delete;
+    StubHost& operator=(StubHost const&) = delete;
+
+    int ProcessDescriptor() const { return m_process.Get(); }
+    void End();
+
+private:
+    int m_pid = -1;
+    Engine::UniqueFd m_process;
+    Engine::UniqueFd m_lifeline;
+};
+
+/// An installed version 1.0 and an archive of 2.0 that is ready to be prepared.
+class UpdateScene
+{
+public:
+    explicit UpdateScene(std::string const& archive = MakeArchive(Container::Zip, MakeBundle("2.0")));
+
+    Engine::PrepareJob MakePrepareJob() const;
+    HelperOutcome Prepare(Engine::PrepareJob const& job, HelperStart const& start = {});
+    /// Prepares the update by the helper, and fails the test when that fails.
+    Engine::InstallJob PrepareForInstall();
+    HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
+    HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
+
+    Workspace const& Place() const { return m_place; }
+    Workspace const& Downloads() const { return m_downloads; }
+    int StagingDescriptor() const { return m_staging->Descriptor(); }
+    std::string const& StagingName() const { return m_staging->Name(); }
+    std::string StagingPath() const { return m_place.Path() + '/' + m_staging->Name(); }
+    /// The host's hold on the staging folder ends, as when the host does.
+    void ReleaseStaging() { m_staging.reset(); }
+    StubHost& Host() { return m_host; }
+    KeyPair const& Keys() const { return m_keys; }
+
+private:
+    Workspace m_place;
+    Workspace m_downloads;
+    KeyPair m_keys;
+    std::string m_archive;
+    Engine::UniqueFd m_archiveFile;
+    std::optional<Engine::StagingFolder> m_staging;
+    StubHost m_host;
+};
+
+} // namespace Pelnar::Testing
+
+namespace Pelnar::Engine
+{
+
+inline void PrintTo(UpdateFault fault, std::ostream* out)
+{
+    *out << FaultName(fault);
+}
+
+} // namespace Pelnar::Engine

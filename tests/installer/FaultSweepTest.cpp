@@ -1,0 +1,446 @@
+// FaultSweepTest.cpp: kills and failing system calls at every place of the helper's life. The default run takes every
+// seventh place; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+
+#include "Engine/core/SwapJournal.h"
+#include "Engine/core/TreeManifest.h"
+#include "tests/installer/InstallerFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+#include <fcntl.h>
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define PELNAR_UNDER_ADDRESS_SANITIZER
+#endif
+#endif
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+constexpr char STRACE[] = "/usr/bin/strace";
+constexpr int DEFAULT_STRIDE = 7;
+std::vector<std::string> const NO_EXCHANGE{"-e", "inject=renameat2:error=EINVAL"};
+
+class Faults : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+#ifdef PELNAR_UNDER_ADDRESS_SANITIZER
+        GTEST_SKIP() << "the leak sanitizer does not work in a traced process";
+#endif
+    }
+};
+
+/// A place in the helper's life: the nth call of one name in any of its processes.
+struct Place
+{
+    std::string call;
+    int nth;
+};
+
+std::ostream& operator<<(std::ostream& out, Place const& place)
+{
+    return out << place.call << " number " << place.nth;
+}
+
+HelperStart Traced(std::vector<std::string> const& options)
+{
+    HelperStart start;
+    start.before = {STRACE, "-f", "-qq", "-o", "/dev/null"};
+    start.before.insert(start.before.end(), options.begin(), options.end());
+    return start;
+}
+
+std::vector<std::string> Join(std::vector<std::string> options, std::string const& injection)
+{
+    options.push_back("-e");
+    options.push_back("inject=" + injection);
+    return options;
+}
+
+std::vector<std::string> KillAt(Place const& place, std::vector<std::string> const& options = {})
+{
+    return Join(options, place.call + ":signal=KILL:when=" + std::to_string(place.nth));
+}
+
+/// Every place that a run under \a run passes, read from a trace of it; all of them or every seventh.
+template <typename Run>
+std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& run)
+{
+    Workspace const traces;
+    std::string const file = traces.Path() + "/trace";
+    HelperStart start;
+    start.before = {STRACE, "-f", "-qq", "-o", file};
+    start.before.insert(start.before.end(), options.begin(), options.end());
+    run(start);
+    std::map<std::string, std::map<std::string, int>> counts; // by call, then by process
+    std::ifstream lines(file);
+    for (std::string line; std::getline(lines, line);)
+    {
+        std::istringstream words(line);
+        std::string process;
+        std::string call;
+        words >> process >> call;
+        std::size_t const end = call.find('(');
+        if (end != std::string::npos && call[0] >= 'a' && call[0] <= 'z')
+        {
+            ++counts[call.substr(0, end)][process];
+        }
+    }
+    bool const isEvery = std::getenv("PELNAR_EVERY_PLACE") != nullptr;
+    std::vector<Place> places;
+    int index = 0;
+    for (auto const& [call, processes] : counts)
+    {
+        int most = 0;
+        for (auto const& [process, count] : processes)
+        {
+            most = std::max(most, count);
+        }
+        for (int nth = 1; nth <= most; ++nth)
+        {
+            if (isEvery || index++ % DEFAULT_STRIDE == 0)
+            {
+                places.push_back({call, nth});
+            }
+        }
+    }
+    EXPECT_FALSE(places.empty());
+    return places;
+}
+
+Sha256 TreeOf(std::string const& path)
+{
+    UniqueFd const folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return folder ? DigestTree(folder.Get()) : Sha256{};
+}
+
+/// The trees of both versions, as they are when whole.
+struct Versions
+{
+    Versions()
+    {
+        Workspace const place;
+        place.Put(MakeBundle("1.0"));
+        previous = TreeOf(place.Path() + '/' + APP);
+        UpdateScene scene;
+        scene.PrepareForInstall();
+        next = TreeOf(scene.StagingPath() + '/' + APP);
+    }
+    Sha256 previous;
+    Sha256 next;
+};
+
+/// Fails unless the bundle is exactly one of the versions and starts as it; that version.
+std::string ExpectWhole(UpdateScene const& scene, Versions const& versions)
+{
+    Sha256 const tree = TreeOf(scene.Place().Path() + '/' + APP);
+    EXPECT_TRUE(tree == versions.previous || tree == versions.next);
+    std::string const version = tree == versions.next ? "2.0" : "1.0";
+    EXPECT_EQ(scene.Place().StartedVersion(), version);
+    return version;
+}
+
+/// The next start, and the one after it, leave a whole bundle and nothing else.
+void ExpectRecovered(UpdateScene& scene, Versions const& versions)
+{
+    scene.Host().End();
+    scene.ReleaseStaging();
+    bool const isThere = !scene.Place().StartedVersion().empty();
+    HelperOutcome const first = scene.Recover(isThere ? ExpectWhole(scene, versions) : "1.0");
+    EXPECT_EQ(first.exitStatus, 0);
+    std::string const version = ExpectWhole(scene, versions);
+    EXPECT_EQ(scene.Recover(version).exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+    EXPECT_EQ(ExpectWhole(scene, versions), version);
+}
+
+TEST_F(Faults, PreparationKilledAnywhereHarmsNothing)
+{
+    Versions const versions;
+    UpdateScene traced;
+    std::vector<Place> const places =
+        PlacesOf({}, [&](HelperStart const& start) { traced.Prepare(traced.MakePrepareJob(), start); });
+    for (Place const& place : places)
+    {
+        SCOPED_TRACE(testing::Message() << place);
+        UpdateScene scene;
+        HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), Traced(KillAt(place)));
+        EXPECT_EQ(outcome.signal, SIGKILL);
+        EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+        ExpectRecovered(scene, versions);
+    }
+}
+
+void SweepInstallation(std::vector<std::string> const& options)
+{
+    Versions const versions;
+    UpdateScene traced;
+    InstallJob const tracedJob = traced.PrepareForInstall();
+    traced.Host().End();
+    std::vector<Place> const places =
+        PlacesOf(options, [&](HelperStart const& start) { EXPECT_EQ(traced.Install(tracedJob, start).exitStatus, 0); });
+    for (Place const& place : places)
+    {
+        if (!options.empty() && place.call == "renameat2")
+        {
+            continue; // the call that fails cannot be the one that is killed too
+        }
+        SCOPED_TRACE(testing::Message() << place);
+        UpdateScene scene;
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        scene.Install(job, Traced(KillAt(place, options)));
+        if (options.empty())
+        {
+            ExpectWhole(scene, versions); // with an exchange, even before any recovery
+        }
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST_F(Faults, InstallationKilledAnywhereLeavesOneOfTheVersions)
+{
+    SweepInstallation({});
+}
+
+TEST_F(Faults, InstallationWithoutExchangeKilledAnywhereLeavesOneOfTheVersions)
+{
+    SweepInstallation(NO_EXCHANGE);
+}
+
+/// What a helper leaves of which both processes are killed at once, made by hand: a killed child alone is healed by its
+/// parent.
+void LeaveJournal(UpdateScene const& scene)
+{
+    std::ofstream(scene.Place().Path() + '/' + SwapJournalName(APP))
+        << EncodeSwapJournal({scene.StagingName(), APP, "1.0", "2.0"});
+}
+
+void StopBeforeTheExchange(UpdateScene& scene)
+{
+    scene.PrepareForInstall();
+    LeaveJournal(scene);
+}
+
+void StopAfterTheExchange(UpdateScene& scene)
+{
+    InstallJob job = scene.PrepareForInstall();
+    job.targetPath.clear();
+    scene.Host().End();
+    EXPECT_EQ(scene.Install(job).exitStatus, 0);
+}
+
+void StopBetweenTwoRenames(UpdateScene& scene)
+{
+    scene.PrepareForInstall();
+    LeaveJournal(scene);
+    std::filesystem::rename(scene.Place().Path() + '/' + APP, scene.StagingPath() + '/' + PREVIOUS_BUNDLE_NAME);
+}
+
+/// The recovery that the \a running version asks for ends with the \a left one, wherever it was killed before.
+void SweepRecovery(void (*interruptInstallation)(UpdateScene&), std::string const& running, std::string const& left)
+{
+    Versions const versions;
+    auto const interrupt = [&](UpdateScene& scene)
+    {
+        interruptInstallation(scene);
+        scene.Host().End();
+        scene.ReleaseStaging();
+    };
+    UpdateScene traced;
+    interrupt(traced);
+    std::vector<Place> const places =
+        PlacesOf({}, [&](HelperStart const& start) { EXPECT_EQ(traced.Recover(running, start).exitStatus, 0); });
+    EXPECT_EQ(traced.Place().Names(), std::vector<std::string>{APP});
+    for (Place const& place : places)
+    {
+        SCOPED_TRACE(testing::Message() << place);
+        UpdateScene scene;
+        interrupt(scene);
+        EXPECT_EQ(scene.Recover(running, Traced(KillAt(place))).signal, SIGKILL);
+        ExpectRecovered(scene, versions);
+        EXPECT_EQ(ExpectWhole(scene, versions), left);
+    }
+}
+
+TEST_F(Faults, RecoveryFromBeforeTheExchangeKilledAnywhereConverges)
+{
+    SweepRecovery(&StopBeforeTheExchange, "1.0", "1.0");
+}
+
+TEST_F(Faults, RecoveryFromAfterTheExchangeKilledAnywhereConverges)
+{
+    SweepRecovery(&StopAfterTheExchange, "2.0", "2.0");
+}
+
+TEST_F(Faults, RecoveryFromBetweenTwoRenamesKilledAnywhereConverges)
+{
+    SweepRecovery(&StopBetweenTwoRenames, "1.0", "1.0");
+}
+
+struct FailingCall
+{
+    char const* call;
+    char const* error;
+    int most; ///< as many of them as are tried
+};
+
+TEST_F(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
+{
+    Versions const versions;
+    struct Row
+    {
+        FailingCall failing;
+        UpdateFault fault;
+    };
+    for (Row const& row :
+         {Row{{"write", "ENOSPC", 9}, UpdateFault::NoSpace}, Row{{"write", "EIO", 9}, UpdateFault::DiskError},
+          Row{{"write", "EDQUOT", 9}, UpdateFault::NoSpace}, Row{{"openat2", "ENOSPC", 5}, UpdateFault::NoSpace},
+          Row{{"openat2", "EMFILE", 5}, UpdateFault::DiskError}, Row{{"mkdirat", "ENOSPC", 2}, UpdateFault::NoSpace},
+          Row{{"symlinkat", "EIO", 1}, UpdateFault::DiskError}, Row{{"utimensat", "EIO", 2}, UpdateFault::DiskError},
+          Row{{"syncfs", "EIO", 1}, UpdateFault::SyncFailed}, Row{{"syncfs", "ENOSPC", 1}, UpdateFault::NoSpace},
+          Row{{"landlock_restrict_self", "E2BIG", 1}, UpdateFault::ConfinementFailed}})
+    {
+        int refused = 0;
+        for (int nth = 1; nth <= row.failing.most; ++nth)
+        {
+            SCOPED_TRACE(testing::Message() << row.failing.call << " " << row.failing.error << " " << nth);
+            UpdateScene scene;
+            HelperOutcome const outcome = scene.Prepare(
+                scene.MakePrepareJob(), Traced(Join({}, std::string(row.failing.call) + ":error=" + row.failing.error +
+                                                            ":when=" + std::to_string(nth))));
+            // Some writes are reports, whose loss is the reader's.
+            EXPECT_TRUE(outcome.Fault() == row.fault || outcome.exitStatus == 0) << FaultName(outcome.Fault());
+            refused += outcome.Fault() == row.fault ? 1 : 0;
+            ExpectRecovered(scene, versions);
+        }
+        EXPECT_GT(refused, 0) << row.failing.call;
+    }
+}
+
+TEST_F(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
+{
+    Versions const versions;
+    struct Row
+    {
+        std::string injection;
+        UpdateFault fault;
+    };
+    for (Row const& row : {
+             Row{"renameat2:error=EXDEV", UpdateFault::OtherFileSystem},
+             Row{"renameat2:error=EACCES", UpdateFault::NotPermitted},
+             Row{"renameat2:error=EIO", UpdateFault::SwapFailed},
+             Row{"fsync:error=EIO:when=1", UpdateFault::SyncFailed}, // the journal
+             Row{"fsync:error=EIO:when=2", UpdateFault::SyncFailed}, // its folder
+             Row{"fsync:error=EIO:when=3", UpdateFault::SyncFailed}, // the staging folder, after the exchange
+             Row{"fsync:error=EIO:when=4", UpdateFault::SyncFailed}, // the bundle's folder, after the exchange
+             Row{"fsync:error=ENOSPC:when=1", UpdateFault::NoSpace},
+             Row{"flock:error=ENOLCK:when=1", UpdateFault::LockTimedOut},
+         })
+    {
+        SCOPED_TRACE(row.injection);
+        UpdateScene scene;
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        HelperOutcome const outcome = scene.Install(job, Traced(Join({}, row.injection)));
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_EQ(outcome.Fault(), row.fault);
+        EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
+        EXPECT_EQ(outcome.output.substr(0, 3), "1.0");
+        EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST_F(Faults, FileSystemsWithoutExchangeGetTwoRenames)
+{
+    Versions const versions;
+    for (char const* const error : {"EINVAL", "ENOSYS", "EOPNOTSUPP"})
+    {
+        UpdateScene scene;
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        HelperOutcome const outcome =
+            scene.Install(job, Traced({"-e", std::string("inject=renameat2:error=") + error}));
+        EXPECT_EQ(outcome.exitStatus, 0);
+        EXPECT_EQ(outcome.output.substr(0, 3), "2.0");
+        EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+        EXPECT_EQ(scene.Place().StartedVersion(scene.StagingName() + "/previous"), "1.0");
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST_F(Faults, FailingRenamesAreUndone)
+{
+    Versions const versions;
+    // Of the plain renames the first is the journal's, the next two are the swap's.
+    for (int nth = 1; nth <= 3; ++nth)
+    {
+        SCOPED_TRACE(nth);
+        UpdateScene scene;
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        HelperOutcome const outcome =
+            scene.Install(job, Traced(Join(NO_EXCHANGE, "renameat:error=EIO:when=" + std::to_string(nth))));
+        EXPECT_EQ(outcome.exitStatus, 1);
+        EXPECT_EQ(outcome.output.substr(0, 3), "1.0");
+        EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST_F(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    HelperOutcome const outcome = scene.Install(job, Traced(KillAt({"renameat", 3}, NO_EXCHANGE)));
+    EXPECT_EQ(outcome.exitStatus, 1);
+    auto const* recovered = outcome.Find<RecoveredReport>();
+    ASSERT_NE(recovered, nullptr);
+    EXPECT_EQ(recovered->action, RecoveryAction::RestoredPrevious);
+    EXPECT_EQ(outcome.output.substr(0, 3), "1.0");
+    EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+}
+
+TEST_F(Faults, SwapIsToldOnlyWhenBothFoldersAreOnTheDisk)
+{
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    std::string const file = scene.Downloads().Path() + "/trace";
+    HelperStart start;
+    start.before = {STRACE, "-f", "-qq", "-e", "trace=fsync,renameat,renameat2,write", "-o", file};
+    EXPECT_EQ(scene.Install(job, start).exitStatus, 0);
+    std::vector<std::string> order;
+    std::ifstream lines(file);
+    for (std::string line; std::getline(lines, line);)
+    {
+        for (char const* const mark : {"fsync(", "renameat(", "renameat2(", "\"installed\\n\""})
+        {
+            if (line.find(mark) != std::string::npos)
+            {
+                order.push_back(mark);
+            }
+        }
+    }
+    EXPECT_EQ(order, (std::vector<std::string>{"fsync(", "renameat(", "fsync(", "renameat2(", "fsync(", "fsync(",
+                                               "\"installed\\n\""}));
+}
+
+} // namespace

@@ -19,6 +19,8 @@ namespace Pelnar::Foundation
 
 /// nil gives a null string.
 QString ToQString(NSString* text);
+/// Puts \a text in the place of what \a result held, into the same memory where that suffices; nil makes it empty.
+void CopyText(NSString* text, QString& result);
 /// Never nil; an unpaired surrogate becomes "?".
 NSString* ToNSString(QString const& text);
 

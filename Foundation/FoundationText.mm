@@ -5,17 +5,22 @@ namespace Pelnar::Foundation
 
 QString ToQString(NSString* text)
 {
-    if (!text)
+    QString result;
+    if (text)
     {
-        return {};
+        CopyText(text, result);
     }
+    return result;
+}
+
+void CopyText(NSString* text, QString& result)
+{
     // getCharacters:range: copies straight into the string; UTF8String would convert twice and leave an autoreleased
     // buffer behind.
     static_assert(sizeof(unichar) == sizeof(QChar), "both are UTF-16 code units");
     NSUInteger const length = [text length];
-    QString result(static_cast<int>(length), Qt::Uninitialized);
+    result.resize(static_cast<int>(length));
     [text getCharacters:reinterpret_cast<unichar*>(result.data()) range:NSMakeRange(0, length)];
-    return result;
 }
 
 NSString* ToNSString(QString const& text)
@@ -29,15 +34,9 @@ NSString* ToNSString(QString const& text)
                                    length:static_cast<NSUInteger>(text.length())];
 }
 
-std::string ToUtf8(NSString* text)
-{
-    return ToQString(text).toStdString();
-}
+std::string ToUtf8(NSString* text) { return ToQString(text).toStdString(); }
 
-QUrl ToQUrl(NSURL* url)
-{
-    return url ? QUrl(ToQString([url absoluteString])) : QUrl();
-}
+QUrl ToQUrl(NSURL* url) { return url ? QUrl(ToQString([url absoluteString])) : QUrl(); }
 
 NSURL* ToNSURL(QUrl const& url)
 {

@@ -17,15 +17,16 @@ Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
             return Judgement::SYSTEM_TOO_NEW;
         }
     }
-    if (!item.Version().IsValid())
+    Core::Version const& version = item.Version();
+    if (!version.IsValid())
     {
         return Judgement::VERSION_UNREADABLE;
     }
-    if (subject.versionLess(item.Version(), subject.localVersion))
+    if (subject.versionLess(version, subject.localVersion))
     {
         return Judgement::VERSION_OLDER;
     }
-    if (subject.versionEqual(item.Version(), subject.localVersion))
+    if (subject.versionEqual(version, subject.localVersion))
     {
         return Judgement::VERSION_EQUAL;
     }
@@ -43,15 +44,17 @@ Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
 
 std::optional<Preference> PreferByVersionAndType(ItemRecord& a, ItemRecord& b, SelectionSubject const& subject)
 {
-    if (subject.versionLess(a.Version(), b.Version()))
+    Core::Version const& versionOfA = a.Version();
+    Core::Version const& versionOfB = b.Version();
+    if (subject.versionLess(versionOfA, versionOfB))
     {
         return Preference{b, PreferenceRule::NEWER_VERSION};
     }
-    if (subject.versionLess(b.Version(), a.Version()))
+    if (subject.versionLess(versionOfB, versionOfA))
     {
         return Preference{a, PreferenceRule::NEWER_VERSION};
     }
-    QList<UpdateType> const& priorities = a.Version().Major() > subject.localVersion.Major()
+    QList<UpdateType> const& priorities = versionOfA.Major() > subject.localVersion.Major()
                                               ? UPDATE_TYPE_PRIORITIES_FOR_MAJOR_UPDATE
                                               : UPDATE_TYPE_PRIORITIES_FOR_MINOR_UPDATE;
     int const priorityOfA = priorities.indexOf(a.Type());

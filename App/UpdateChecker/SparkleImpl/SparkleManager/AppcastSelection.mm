@@ -14,7 +14,6 @@
 #include "Foundation/FoundationText.h"
 #include "HostFramework/OSVersion.h"
 
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -31,27 +30,35 @@ using Foundation::ToUtf8;
 namespace
 {
 
+/// Every text goes through \a text, which the items of one answer share: most are parsed and forgotten.
 class FoundationItem final : public Session::IItemSource
 {
   public:
-    explicit FoundationItem(SUAppcastItem* item) : m_item(item) {}
+    FoundationItem(SUAppcastItem* item, QString& text) : m_item(item), m_text(text) {}
 
-    QString MinimumSystemVersion() const override { return ToQString([m_item minimumSystemVersion]); }
-    QString MaximumSystemVersion() const override { return ToQString([m_item maximumSystemVersion]); }
-    QString VersionString() const override { return ToQString([m_item versionString]); }
-    QString FileAddress() const override { return ToQString([[m_item fileURL] absoluteString]); }
-    QString DateString() const override { return ToQString([m_item dateString]); }
+    QString const& MinimumSystemVersion() const override { return Copy([m_item minimumSystemVersion]); }
+    QString const& MaximumSystemVersion() const override { return Copy([m_item maximumSystemVersion]); }
+    QString const& VersionString() const override { return Copy([m_item versionString]); }
+    QString const& FileAddress() const override { return Copy([[m_item fileURL] absoluteString]); }
+    QString const& DateString() const override { return Copy([m_item dateString]); }
     std::uint64_t ContentLength() const override { return [m_item contentLength]; }
     bool IsDelta() const override { return [m_item isDeltaUpdate]; }
 
   private:
+    QString const& Copy(NSString* text) const
+    {
+        Foundation::CopyText(text, m_text);
+        return m_text;
+    }
+
     SUAppcastItem* const m_item;
+    QString& m_text;
 };
 
 /// An item for the length of one answer: read and judged once, however often the rules ask.
 struct Candidate
 {
-    explicit Candidate(SUAppcastItem* feedItem) : item(feedItem), source(feedItem), record(source) {}
+    Candidate(SUAppcastItem* feedItem, QString& text) : item(feedItem), source(feedItem, text), record(source) {}
     Candidate(Candidate const&) = delete;
     Candidate& operator=(Candidate const&) = delete;
 
@@ -124,26 +131,18 @@ class Contest
     /// nil when no offer was valid.
     SUAppcastItem* Best() const { return m_best ? m_best->item : nil; }
 
+    /// Brings no pool of its own, which would cost as much as the rest: the answer's pool takes what the getters leave.
     void Offer(SUAppcastItem* item)
     {
-        @autoreleasepool
-        {
-            auto challenger = std::make_unique<Candidate>(item);
-            Candidate const* const winner = SelectBest(m_session, m_best.get(), challenger.get());
-            if (winner == challenger.get())
-            {
-                m_best = std::move(challenger);
-            }
-            else if (!winner)
-            {
-                m_best.reset();
-            }
-        }
+        std::optional<Candidate>& place = m_best && m_best == &*m_places[0] ? m_places[1] : m_places[0];
+        m_best = SelectBest(m_session, m_best, &place.emplace(item, m_text));
     }
 
   private:
     SparkleManager::Impl const& m_session;
-    std::unique_ptr<Candidate> m_best;
+    QString m_text;
+    std::optional<Candidate> m_places[2]; ///< of the best and of its challenger
+    Candidate* m_best = nullptr;
 };
 
 void OfferItems(SparkleManager::Impl const& session, NSArray* items, Contest& contest)
@@ -176,7 +175,8 @@ Session::UpdateType SparkleManager::Impl::DetectUpdateType(SUAppcastItem* item) 
 {
     @autoreleasepool
     {
-        return Candidate(item).record.Type();
+        QString text;
+        return Candidate(item, text).record.Type();
     }
 }
 
@@ -214,7 +214,8 @@ bool SparkleManager::Impl::ValidateAppcastItem(SUAppcastItem* item) const
 {
     @autoreleasepool
     {
-        Candidate candidate(item);
+        QString text;
+        Candidate candidate(item, text);
         return Validate(*this, item ? &candidate : nullptr);
     }
 }
@@ -223,8 +224,9 @@ SUAppcastItem* SparkleManager::Impl::SelectBestValidAppcastItem(SUAppcastItem* a
 {
     @autoreleasepool
     {
-        Candidate candidateA(a);
-        Candidate candidateB(b);
+        QString text;
+        Candidate candidateA(a, text);
+        Candidate candidateB(b, text);
         Candidate const* const best = SelectBest(*this, a ? &candidateA : nullptr, b ? &candidateB : nullptr);
         return best ? best->item : nil;
     }

@@ -17,16 +17,17 @@
 namespace Pelnar::App::Session
 {
 
-/// Where the properties of an item come from, as the feed gives them; an absent text is empty.
+/// Where the properties of an item come from, as the feed gives them; an absent text is empty. A text is good until the
+/// next one is asked for.
 class IItemSource
 {
 public:
-    virtual QString MinimumSystemVersion() const = 0;
-    virtual QString MaximumSystemVersion() const = 0;
-    virtual QString VersionString() const = 0;
+    virtual QString const& MinimumSystemVersion() const = 0;
+    virtual QString const& MaximumSystemVersion() const = 0;
+    virtual QString const& VersionString() const = 0;
     /// The download's address.
-    virtual QString FileAddress() const = 0;
-    virtual QString DateString() const = 0;
+    virtual QString const& FileAddress() const = 0;
+    virtual QString const& DateString() const = 0;
     virtual std::uint64_t ContentLength() const = 0;
     virtual bool IsDelta() const = 0;
 

@@ -22,10 +22,25 @@ constexpr bool IsDigit(char16_t unit)
     return unit >= u'0' && unit <= u'9';
 }
 
+/// Letters, digits, "/", ".", "-", "_" and "~", by their code; a table, because addresses are long.
+struct PlainInPath
+{
+    bool isPlain[128] = {};
+
+    constexpr PlainInPath()
+    {
+        for (char16_t unit = 0; unit < 128; ++unit)
+        {
+            isPlain[unit] = IsLowerLetter(unit) || IsDigit(unit) || (unit >= u'A' && unit <= u'Z') || unit == u'/' ||
+                            unit == u'.' || unit == u'-' || unit == u'_' || unit == u'~';
+        }
+    }
+};
+constexpr PlainInPath PLAIN_IN_PATH;
+
 constexpr bool IsPlainInPath(char16_t unit)
 {
-    return IsLowerLetter(unit) || IsDigit(unit) || (unit >= u'A' && unit <= u'Z') || unit == u'/' || unit == u'.' ||
-           unit == u'-' || unit == u'_' || unit == u'~';
+    return unit < 128 && PLAIN_IN_PATH.isPlain[unit];
 }
 
 /// True when \a host can be nothing but a valid name: labels of lower-case letters, single inner hyphens and digits, of
@@ -79,14 +94,12 @@ bool IsCertainlyValidAddress(QStringView text)
     {
         return false;
     }
-    for (QChar const character : rest.mid(hostLength))
+    bool isPlain = true; // looked at once at the end: nearly every address is plain
+    for (qsizetype i = hostLength; i < rest.size(); ++i)
     {
-        if (!IsPlainInPath(character.unicode()))
-        {
-            return false;
-        }
+        isPlain &= IsPlainInPath(rest[i].unicode());
     }
-    return true;
+    return isPlain;
 }
 
 /// Qt takes the last but one of the parts between blanks as the day of the month. A printable ASCII character in it

@@ -1,0 +1,155 @@
+#include "Demo/DemoOptions.h"
+
+#include "Demo/CheckRun.h"
+#include "HostFramework/VersionText.h"
+
+#include <QCommandLineParser>
+
+#include <cstdio>
+#include <cstdlib>
+#include <map>
+#include <stdexcept>
+
+namespace Pelnar::Demo
+{
+namespace
+{
+
+App::Customization const DEFAULT_CUSTOMIZATION{"Pelnar Demo", Core::Version(5, 9), "Pelnar", "Demo"};
+
+struct Options
+{
+    QCommandLineOption settings{QStringLiteral("settings"),
+                                QStringLiteral("Settings file with the sections [Application] and [Links]."),
+                                QStringLiteral("file")};
+    QCommandLineOption feed{QStringLiteral("feed"), QStringLiteral("Address or path of the feed."),
+                            QStringLiteral("URL-or-path")};
+    QCommandLineOption local{QStringLiteral("local-version"),
+                             QStringLiteral("Version that this application pretends to have; default: 5.9."),
+                             QStringLiteral("V")};
+    QCommandLineOption system{QStringLiteral("system-version"),
+                              QStringLiteral("Version of the operating system; default: the running one's."),
+                              QStringLiteral("V")};
+    QCommandLineOption platform{QStringLiteral("platform"),
+                                QStringLiteral("Whose items of the feed count; default: this system's."),
+                                QStringLiteral("macos|linux")};
+    QCommandLineOption mode{QStringLiteral("mode"), QStringLiteral("How checks are started; default: user."),
+                            QStringLiteral("user|automatic|silent"), QStringLiteral("user")};
+    QCommandLineOption nag{QStringLiteral("nag"), QStringLiteral("Content of the nag screen; default: available."),
+                           QStringLiteral("available|none|later"), QStringLiteral("available")};
+    QCommandLineOption scenario{
+        QStringLiteral("scenario"),
+        QStringLiteral("Runs by itself and quits: \"check\" makes one check, \"dialogs\" shows every dialog."),
+        QStringLiteral("check|dialogs")};
+    QCommandLineOption screenshots{QStringLiteral("screenshot-dir"),
+                                   QStringLiteral("Leaves a picture of every window that opens in this folder."),
+                                   QStringLiteral("folder")};
+};
+
+[[noreturn]] void Fail(QCommandLineOption const& option, QString const& value)
+{
+    throw std::runtime_error("--" + option.names().constFirst().toStdString() + ": \"" + value.toStdString() +
+                             "\" is not " +
+                             (option.valueName() == QLatin1String("V") ? "a version such as 5.10"
+                                                                       : "one of " + option.valueName().toStdString()));
+}
+
+template <class T>
+T Choose(QCommandLineParser const& parser, QCommandLineOption const& option, std::map<QString, T> const& choices)
+{
+    auto const found = choices.find(parser.value(option));
+    if (found == choices.end())
+    {
+        Fail(option, parser.value(option));
+    }
+    return found->second;
+}
+
+Core::Version ParseVersion(QCommandLineParser const& parser, QCommandLineOption const& option)
+{
+    auto const version = Util::TryVersionFromString(parser.value(option), QStringLiteral("."));
+    if (!version)
+    {
+        Fail(option, parser.value(option));
+    }
+    return *version;
+}
+
+void ReadHost(QCommandLineParser const& parser, Options const& options, DemoOptions& result)
+{
+    result.customization = DEFAULT_CUSTOMIZATION;
+    if (parser.isSet(options.settings))
+    {
+        result.customization = App::ReadCustomization(parser.value(options.settings));
+        result.links = App::ReadLinks(parser.value(options.settings));
+    }
+    if (parser.isSet(options.local))
+    {
+        result.customization.applicationVersion = ParseVersion(parser, options.local);
+    }
+    if (parser.isSet(options.feed))
+    {
+        result.links[URLKeys::SPARKLE_APPCAST_URL] =
+            FeedAddress(parser.value(options.feed)).toString(QUrl::FullyEncoded);
+    }
+    if (parser.isSet(options.system))
+    {
+        (void)ParseVersion(parser, options.system);
+        result.systemVersion = parser.value(options.system);
+    }
+    if (parser.isSet(options.platform))
+    {
+        QString const macOS = QStringLiteral("macos");
+        QString const linuxName = QStringLiteral("linux");
+        result.platform = Choose<QString>(parser, options.platform, {{macOS, macOS}, {linuxName, linuxName}});
+    }
+}
+
+} // namespace
+
+DemoOptions ParseDemoOptions(QStringList const& arguments)
+{
+    Options const options;
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QStringLiteral("A small host application of the update checker."));
+    parser.addOptions({options.settings, options.feed, options.local, options.system, options.platform, options.mode,
+                       options.nag, options.scenario, options.screenshots});
+    QCommandLineOption const help = parser.addHelpOption();
+    if (!parser.parse(arguments))
+    {
+        throw std::runtime_error(parser.errorText().toStdString());
+    }
+    if (parser.isSet(help))
+    {
+        std::printf("%s\n", parser.helpText().trimmed().toUtf8().constData());
+        std::exit(EXIT_SUCCESS);
+    }
+    if (!parser.positionalArguments().isEmpty())
+    {
+        throw std::runtime_error("unexpected argument \"" + parser.positionalArguments().constFirst().toStdString() +
+                                 "\"");
+    }
+
+    DemoOptions result;
+    ReadHost(parser, options, result);
+    auto const mode = ModeFromText(parser.value(options.mode));
+    if (!mode)
+    {
+        Fail(options.mode, parser.value(options.mode));
+    }
+    result.mode = *mode;
+    result.nagContent = Choose<NagContent>(parser, options.nag,
+                                           {{QStringLiteral("available"), NagContent::Available},
+                                            {QStringLiteral("none"), NagContent::None},
+                                            {QStringLiteral("later"), NagContent::Later}});
+    if (parser.isSet(options.scenario))
+    {
+        result.script = Choose<Script>(
+            parser, options.scenario,
+            {{QStringLiteral("check"), Script::CheckOnce}, {QStringLiteral("dialogs"), Script::ShowDialogs}});
+    }
+    result.screenshotFolder = parser.value(options.screenshots);
+    return result;
+}
+
+} // namespace Pelnar::Demo

@@ -1,0 +1,45 @@
+// DemoOptions.h: the command line of pelnar-demo.
+// Thread: any. Ownership: plain values.
+#pragma once
+
+#include "App/UpdateChecker/UpdateCheckMode.h"
+#include "HostFramework/Reference/ReferenceCustomizationManager.h"
+#include "HostFramework/Reference/ReferenceLinksManager.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace Pelnar::Demo
+{
+
+enum class NagContent
+{
+    Available, ///< a major update shows the nag screen
+    None,      ///< a major update takes the way of any other
+    Later,     ///< not known until the content arrives, some seconds after the start
+};
+
+enum class Script
+{
+    None,        ///< a person uses the window
+    CheckOnce,   ///< one check, every dialog dismissed, then quit
+    ShowDialogs, ///< every dialog and the nag screen, dismissed at once, then quit
+};
+
+struct DemoOptions
+{
+    App::Customization customization;
+    App::Links links;
+    QString systemVersion; ///< null: the system's own
+    QString platform;      ///< null: the engine's own
+    App::UpdateCheckMode mode = App::UpdateCheckMode::UserInitiated;
+    NagContent nagContent = NagContent::Available;
+    Script script = Script::None;
+    QString screenshotFolder; ///< null: no pictures
+};
+
+/// \a arguments begin with the program's name. Throws std::runtime_error whose text says what is wrong with them.
+/// Prints the help and ends the process when it is asked for.
+DemoOptions ParseDemoOptions(QStringList const& arguments);
+
+} // namespace Pelnar::Demo

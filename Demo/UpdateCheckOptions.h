@@ -1,0 +1,44 @@
+// UpdateCheckOptions.h: the command line of pelnar-update-check.
+// Thread: any. Ownership: plain values.
+#pragma once
+
+#include "App/UpdateChecker/UpdateCheckMode.h"
+#include "HostFramework/Version.h"
+
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <chrono>
+#include <variant>
+
+namespace Pelnar::Demo
+{
+
+struct UpdateCheckOptions
+{
+    QUrl feed;
+    Core::Version localVersion;
+    QString systemVersion; ///< null: the system's own
+    QString platform;      ///< null: the engine's own
+    App::UpdateCheckMode mode = App::UpdateCheckMode::UserInitiated;
+    std::chrono::seconds timeout{0};
+    bool json = false;
+    bool verbose = false;
+    bool outcomeInExitStatus = false;
+};
+
+struct UsageError
+{
+    QString text; ///< one sentence
+};
+
+struct UsageHelp
+{
+    QString text;
+};
+
+/// \a arguments begin with the program's name.
+std::variant<UpdateCheckOptions, UsageError, UsageHelp> ParseUpdateCheckOptions(QStringList const& arguments);
+
+} // namespace Pelnar::Demo

@@ -1,0 +1,20 @@
+// DemoProgram.h: runs one of the demo programs to its end.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace Pelnar::Testing
+{
+
+struct ProgramResult
+{
+    int status = -1; ///< -1 when the program did not start, crashed or did not end
+    QStringList lines;
+    QString errors;
+};
+
+/// Runs the program \a path without a display of its own choice.
+ProgramResult RunProgram(QString const& path, QStringList const& arguments);
+
+} // namespace Pelnar::Testing

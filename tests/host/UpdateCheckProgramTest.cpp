@@ -1,0 +1,289 @@
+// UpdateCheckProgramTest.cpp: pelnar-update-check as a whole: real checks of feeds in files and on a loopback server.
+
+#include "tests/host/DemoFeeds.h"
+#include "tests/host/DemoProgram.h"
+
+#include <gtest/gtest.h>
+#include <httplib.h>
+
+#include <QCoreApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <future>
+#include <thread>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+QString const PROGRAM = QStringLiteral(PELNAR_UPDATE_CHECK_PROGRAM);
+
+enum class Feed
+{
+    Same,
+    Older,
+    Empty,
+    Newer,
+    NewMajor,
+    Malformed,
+    Absent,
+};
+
+QString Write(FeedFolder const& folder, Feed feed)
+{
+    switch (feed)
+    {
+    case Feed::Same:
+        return folder.Write(FeedOf({{"5.9.0", "", ""}}));
+    case Feed::Older:
+        return folder.Write(FeedOf({{"5.8", "", ""}, {"4.0", "", ""}}));
+    case Feed::Empty:
+        return folder.Write(FeedOf({}));
+    case Feed::Newer:
+        return folder.Write(FeedOf({{"5.10", "", ""}, {"5.9", "", ""}}));
+    case Feed::NewMajor:
+        return folder.Write(FeedOf({{"5.10", "", ""}, {"6.0.1", "", ""}}));
+    case Feed::Malformed:
+        return folder.Write("<rss><channel><item>");
+    case Feed::Absent:
+        break;
+    }
+    return folder.Path(QStringLiteral("absent.xml"));
+}
+
+ProgramResult Check(QString const& feed, QStringList const& more = {})
+{
+    return RunProgram(
+        PROGRAM,
+        QStringList{QStringLiteral("--feed"), feed, QStringLiteral("--local-version"), QStringLiteral("5.9")} + more);
+}
+
+QStringList Lines(std::initializer_list<char const*> lines)
+{
+    QStringList result;
+    for (char const* const line : lines)
+    {
+        result.append(QString::fromLatin1(line));
+    }
+    return result;
+}
+
+// --- modes and outcomes ---
+
+struct CheckRow
+{
+    char const* name;
+    Feed feed;
+    char const* mode;
+    std::initializer_list<char const*> lines;
+    int status;          ///< without --exit-code
+    int statusByOutcome; ///< with it
+};
+
+constexpr char const* FOUND_NOTHING = "OnUpdateFound current=5.9 remote=5.9";
+constexpr char const* FOUND_NEWER = "OnUpdateFound current=5.9 remote=5.10";
+constexpr char const* FOUND_MAJOR = "OnUpdateFound current=5.9 remote=6.0.1";
+constexpr char const* OPENING = "OnUpdateDialogOpening";
+constexpr char const* CLOSED = "OnUpdateDialogClosed";
+constexpr char const* NO_UPDATE = "no update: 5.9";
+constexpr char const* UPDATE = "update available: 5.9 -> 5.10";
+constexpr char const* MAJOR = "major update available: 5.9 -> 6.0.1";
+
+class CheckProgram : public testing::TestWithParam<CheckRow>
+{
+};
+
+TEST_P(CheckProgram, PrintsTheNotificationsAndTheOutcome)
+{
+    FeedFolder const folder;
+    CheckRow const& row = GetParam();
+    QStringList const mode{QStringLiteral("--mode"), QString::fromLatin1(row.mode)};
+    ProgramResult const result = Check(Write(folder, row.feed), mode);
+    EXPECT_EQ(result.lines, Lines(row.lines)) << qPrintable(result.lines.join(QLatin1Char('\n')));
+    EXPECT_EQ(result.status, row.status);
+    if (row.status == 0)
+    {
+        EXPECT_EQ(result.errors, QString());
+    }
+    else
+    {
+        EXPECT_TRUE(result.errors.startsWith(QLatin1String("pelnar-update-check: the check could not be completed: ")))
+            << qPrintable(result.errors);
+        EXPECT_EQ(result.errors.count(QLatin1Char('\n')), 1) << qPrintable(result.errors);
+    }
+    ProgramResult const byOutcome = Check(Write(folder, row.feed), mode + QStringList{QStringLiteral("--exit-code")});
+    EXPECT_EQ(byOutcome.status, row.statusByOutcome);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, CheckProgram,
+    testing::Values(CheckRow{"UserSame", Feed::Same, "user", {FOUND_NOTHING, OPENING, CLOSED, NO_UPDATE}, 0, 0},
+                    CheckRow{"UserOlder", Feed::Older, "user", {FOUND_NOTHING, OPENING, CLOSED, NO_UPDATE}, 0, 0},
+                    CheckRow{"UserEmpty", Feed::Empty, "user", {FOUND_NOTHING, OPENING, CLOSED, NO_UPDATE}, 0, 0},
+                    CheckRow{"UserNewer", Feed::Newer, "user", {FOUND_NEWER, OPENING, CLOSED, UPDATE}, 0, 10},
+                    CheckRow{"UserMajor", Feed::NewMajor, "user", {FOUND_MAJOR, OPENING, CLOSED, MAJOR}, 0, 11},
+                    CheckRow{"UserMalformed", Feed::Malformed, "user", {FOUND_NOTHING, OPENING, CLOSED}, 1, 1},
+                    CheckRow{"UserAbsent", Feed::Absent, "user", {FOUND_NOTHING, OPENING, CLOSED}, 1, 1},
+                    CheckRow{"AutomaticSame", Feed::Same, "automatic", {NO_UPDATE}, 0, 0},
+                    CheckRow{"AutomaticNewer", Feed::Newer, "automatic", {FOUND_NEWER, OPENING, CLOSED, UPDATE}, 0, 10},
+                    CheckRow{
+                        "AutomaticMajor", Feed::NewMajor, "automatic", {FOUND_MAJOR, OPENING, CLOSED, MAJOR}, 0, 11},
+                    CheckRow{"AutomaticMalformed", Feed::Malformed, "automatic", {}, 1, 1},
+                    CheckRow{"AutomaticAbsent", Feed::Absent, "automatic", {}, 1, 1},
+                    CheckRow{"SilentSame", Feed::Same, "silent", {NO_UPDATE}, 0, 0},
+                    CheckRow{"SilentNewer", Feed::Newer, "silent", {FOUND_NEWER, UPDATE}, 0, 10},
+                    CheckRow{"SilentMajor", Feed::NewMajor, "silent", {FOUND_MAJOR, MAJOR}, 0, 11},
+                    CheckRow{"SilentMalformed", Feed::Malformed, "silent", {}, 1, 1},
+                    CheckRow{"SilentAbsent", Feed::Absent, "silent", {}, 1, 1}),
+    [](auto const& info) { return std::string(info.param.name); });
+
+// --- options ---
+
+TEST(CheckProgramOptions, JsonIsOneObjectWithTheNotifications)
+{
+    FeedFolder const folder;
+    ProgramResult const result = Check(Write(folder, Feed::Newer), {QStringLiteral("--json")});
+    EXPECT_EQ(result.status, 0);
+    ASSERT_EQ(result.lines.size(), 1);
+    QJsonObject const object = QJsonDocument::fromJson(result.lines[0].toUtf8()).object();
+    EXPECT_EQ(object[QStringLiteral("outcome")].toString(), QStringLiteral("update"));
+    EXPECT_EQ(object[QStringLiteral("current")].toString(), QStringLiteral("5.9"));
+    EXPECT_EQ(object[QStringLiteral("remote")].toString(), QStringLiteral("5.10"));
+    EXPECT_EQ(object[QStringLiteral("notifications")].toArray().size(), 3);
+}
+
+TEST(CheckProgramOptions, JsonCarriesTheSentenceOfAFailure)
+{
+    FeedFolder const folder;
+    ProgramResult const result = Check(Write(folder, Feed::Malformed),
+                                       {QStringLiteral("--json"), QStringLiteral("--mode"), QStringLiteral("silent")});
+    EXPECT_EQ(result.status, 1);
+    ASSERT_EQ(result.lines.size(), 1);
+    QJsonObject const object = QJsonDocument::fromJson(result.lines[0].toUtf8()).object();
+    EXPECT_EQ(object[QStringLiteral("outcome")].toString(), QStringLiteral("failed"));
+    EXPECT_FALSE(object[QStringLiteral("error")].toString().isEmpty());
+    EXPECT_TRUE(result.errors.contains(object[QStringLiteral("error")].toString()));
+}
+
+TEST(CheckProgramOptions, VerboseWritesTheLogAtLevel30)
+{
+    FeedFolder const folder;
+    ProgramResult const result = Check(Write(folder, Feed::Newer), {QStringLiteral("--verbose")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_TRUE(result.errors.contains(QLatin1String("SparkleManager:597]"))) << qPrintable(result.errors);
+    EXPECT_TRUE(result.errors.contains(QLatin1String("SetState"))) << qPrintable(result.errors);
+}
+
+TEST(CheckProgramOptions, PlatformChoosesTheItems)
+{
+    FeedFolder const folder;
+    QString const feed = folder.Write(FeedOf({{"5.10", "linux", ""}, {"5.11", "macos", ""}}));
+    QString const platform = QStringLiteral("--platform");
+    QString const silent = QStringLiteral("--mode=silent");
+    EXPECT_EQ(Check(feed, {platform, QStringLiteral("linux"), silent}).lines.value(1),
+              QStringLiteral("update available: 5.9 -> 5.10"));
+    EXPECT_EQ(Check(feed, {platform, QStringLiteral("macos"), silent}).lines.value(1),
+              QStringLiteral("update available: 5.9 -> 5.11"));
+}
+
+TEST(CheckProgramOptions, SystemVersionBoundsTheItems)
+{
+    FeedFolder const folder;
+    QString const feed = folder.Write(FeedOf({{"5.10", "", "11.0"}, {"5.11", "", "12.0"}}));
+    QString const system = QStringLiteral("--system-version");
+    QString const silent = QStringLiteral("--mode=silent");
+    EXPECT_EQ(Check(feed, {system, QStringLiteral("12.0"), silent}).lines.value(1),
+              QStringLiteral("update available: 5.9 -> 5.11"));
+    EXPECT_EQ(Check(feed, {system, QStringLiteral("11.7"), silent}).lines.value(1),
+              QStringLiteral("update available: 5.9 -> 5.10"));
+    EXPECT_EQ(Check(feed, {system, QStringLiteral("10.15"), silent}).lines, Lines({NO_UPDATE}));
+}
+
+TEST(CheckProgramOptions, BadOnesEndWith2AndASentence)
+{
+    for (QStringList const& arguments :
+         {QStringList{}, QStringList{QStringLiteral("--feed"), QStringLiteral("x.xml")},
+          QStringList{QStringLiteral("--feed"), QStringLiteral("x.xml"), QStringLiteral("--local-version"),
+                      QStringLiteral("1"), QStringLiteral("--mode"), QStringLiteral("loud")},
+          QStringList{QStringLiteral("--unknown")}})
+    {
+        ProgramResult const result = RunProgram(PROGRAM, arguments);
+        EXPECT_EQ(result.status, 2);
+        EXPECT_TRUE(result.lines.isEmpty());
+        EXPECT_TRUE(result.errors.startsWith(QLatin1String("pelnar-update-check: "))) << qPrintable(result.errors);
+        EXPECT_TRUE(result.errors.endsWith(QLatin1String("; see --help\n"))) << qPrintable(result.errors);
+    }
+}
+
+TEST(CheckProgramOptions, HelpIsNoError)
+{
+    ProgramResult const result = RunProgram(PROGRAM, {QStringLiteral("--help")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.errors, QString());
+    EXPECT_TRUE(result.lines.join(QLatin1Char('\n')).contains(QLatin1String("--local-version")));
+}
+
+// --- over the network ---
+
+/// Serves on a free port of the loopback interface while it lives.
+class LoopbackServer
+{
+public:
+    explicit LoopbackServer(httplib::Server::Handler handler)
+    {
+        m_server.Get("/feed.xml", std::move(handler));
+        m_port = m_server.bind_to_any_port("127.0.0.1");
+        m_thread = std::thread([this] { m_server.listen_after_bind(); });
+    }
+    ~LoopbackServer()
+    {
+        m_server.stop();
+        m_thread.join();
+    }
+
+    QString FeedAddress() const { return QStringLiteral("http://127.0.0.1:%1/feed.xml").arg(m_port); }
+
+private:
+    httplib::Server m_server;
+    int m_port = 0;
+    std::thread m_thread;
+};
+
+TEST(CheckProgramOverTheNetwork, ReadsTheFeedOfALoopbackServer)
+{
+    LoopbackServer const server(
+        [](httplib::Request const&, httplib::Response& response) {
+            response.set_content(FeedOf({{"6.0.1", "", ""}}).toStdString(), "application/rss+xml");
+        });
+    ProgramResult const result = Check(server.FeedAddress(), {QStringLiteral("--exit-code")});
+    EXPECT_EQ(result.lines, Lines({FOUND_MAJOR, OPENING, CLOSED, MAJOR})) << qPrintable(result.errors);
+    EXPECT_EQ(result.status, 11);
+}
+
+TEST(CheckProgramOverTheNetwork, AnErrorOfTheServerIsAFailure)
+{
+    LoopbackServer const server([](httplib::Request const&, httplib::Response& response) { response.status = 503; });
+    ProgramResult const result = Check(server.FeedAddress(), {QStringLiteral("--mode=silent")});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.lines, QStringList());
+    EXPECT_TRUE(result.errors.contains(QLatin1String("503"))) << qPrintable(result.errors);
+}
+
+TEST(CheckProgramOverTheNetwork, AServerThatDoesNotAnswerEndsWithTheTimeout)
+{
+    std::promise<void> programHasEnded;
+    std::shared_future<void> const ended = programHasEnded.get_future().share();
+    LoopbackServer const server([ended](httplib::Request const&, httplib::Response&) { ended.wait(); });
+    ProgramResult const result =
+        Check(server.FeedAddress(), {QStringLiteral("--mode=silent"), QStringLiteral("--timeout=1")});
+    programHasEnded.set_value();
+    EXPECT_EQ(result.status, 1);
+    EXPECT_EQ(result.errors,
+              QStringLiteral("pelnar-update-check: the check could not be completed: no answer within 1 seconds\n"));
+}
+
+} // namespace
+} // namespace Pelnar::Testing

@@ -90,7 +90,7 @@ int RunCheck(App::ReferenceApplication& application, UpdateCheckOptions const& o
     QObject::connect(&timeout, &QTimer::timeout, &application,
                      [&]
                      {
-                         report.failure = "no answer within " + std::to_string(options.timeout.count()) + " seconds";
+                         report.failure = "no answer within " + std::to_string(options.timeout.count()) + " s";
                          QCoreApplication::exit();
                      });
     timeout.start(options.timeout);
@@ -125,20 +125,36 @@ int RunCheck(App::ReferenceApplication& application, UpdateCheckOptions const& o
     return ExitStatusOf(outcome, options.outcomeInExitStatus);
 }
 
-void StartLogging(char const* programName, bool isVerbose)
+/// What Qt has to say goes to the log, which is quiet unless it is asked for: the program's own lines stand alone.
+void WriteQtMessage(QtMsgType type, QMessageLogContext const&, QString const& message)
+{
+    google::LogSeverity const severity = type == QtFatalMsg      ? google::GLOG_FATAL
+                                         : type == QtCriticalMsg ? google::GLOG_ERROR
+                                         : type == QtWarningMsg  ? google::GLOG_WARNING
+                                                                 : google::GLOG_INFO;
+    google::LogMessage("Qt", 0, severity).stream() << message.toStdString();
+}
+
+void StartQuietLogging(char const* programName)
 {
     google::InitGoogleLogging(programName);
     for (google::LogSeverity severity = google::GLOG_INFO; severity < google::NUM_SEVERITIES; ++severity)
     {
         google::SetLogDestination(severity, ""); // no files
     }
-    FLAGS_logtostderr = isVerbose;
     FLAGS_stderrthreshold = google::GLOG_FATAL;
-    FLAGS_v = isVerbose ? 30 : 0;
+    qInstallMessageHandler(WriteQtMessage);
+}
+
+void SpeakUp()
+{
+    FLAGS_logtostderr = true;
+    FLAGS_v = 30;
 }
 
 int Main(int argc, char** argv)
 {
+    StartQuietLogging(argv[0]);
     Foundation::IsolatedUserDefaults const defaults;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt gets the program's name only: it would take --platform for an option of its own.
@@ -163,7 +179,10 @@ int Main(int argc, char** argv)
         return 0;
     }
     auto const& options = std::get<UpdateCheckOptions>(parsed);
-    StartLogging(argv[0], options.verbose);
+    if (options.verbose)
+    {
+        SpeakUp();
+    }
     return RunCheck(application, options);
 }
 

@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QTemporaryDir>
 
+#include <ostream>
 #include <stdexcept>
 
 namespace Pelnar::Demo
@@ -37,6 +38,11 @@ struct BadLine
     char const* arguments;
     char const* message;
 };
+
+std::ostream& operator<<(std::ostream& out, BadLine const& row)
+{
+    return out << row.name;
+}
 
 class BadUpdateCheckLine : public testing::TestWithParam<BadLine>
 {
@@ -149,6 +155,11 @@ struct OutcomeRow
     char const* summary;
 };
 
+std::ostream& operator<<(std::ostream& out, OutcomeRow const& row)
+{
+    return out << row.name;
+}
+
 UpdateCheckReport ReportOf(OutcomeRow const& row)
 {
     return {row.current, {{QStringLiteral("OnUpdateFound"), Versions{row.current, row.remote}}}, row.failure};
@@ -228,8 +239,8 @@ TEST(Recorder, PassesEveryNotificationOn)
 
 // --- what the log tells ---
 
-constinit Core::LogFile const SESSION("App/UpdateChecker/SparkleImpl/SparkleManager");
-constinit Core::LogFile const OTHER("App/UpdateChecker/SparkleImpl/UpdaterSparkle");
+Core::LogFile const SESSION("App/UpdateChecker/SparkleImpl/SparkleManager");
+Core::LogFile const OTHER("App/UpdateChecker/SparkleImpl/UpdaterSparkle");
 
 void WriteRecord(Core::LogFile const& file, Core::LogSeverity severity, int line, char const* prefix, char const* text)
 {

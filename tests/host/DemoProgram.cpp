@@ -19,13 +19,19 @@ ProgramResult RunProgram(QString const& path, QStringList const& arguments)
     process.start(path, arguments);
     bool const hasEnded = process.waitForFinished(PATIENCE_MS);
     ProgramResult result;
-    result.errors = QString::fromUtf8(process.readAllStandardError());
-    result.lines = QString::fromUtf8(process.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    result.errors = process.readAllStandardError().toStdString();
+    for (QByteArray const& line : process.readAllStandardOutput().split('\n'))
+    {
+        if (!line.isEmpty())
+        {
+            result.lines.push_back(line.toStdString());
+        }
+    }
     if (hasEnded && process.exitStatus() == QProcess::NormalExit)
     {
         result.status = process.exitCode();
     }
-    EXPECT_NE(result.status, -1) << qPrintable(result.errors);
+    EXPECT_NE(result.status, -1) << result.errors;
     return result;
 }
 

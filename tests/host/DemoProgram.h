@@ -4,14 +4,17 @@
 #include <QString>
 #include <QStringList>
 
+#include <string>
+#include <vector>
+
 namespace Pelnar::Testing
 {
 
 struct ProgramResult
 {
-    int status = -1; ///< -1 when the program did not start, crashed or did not end
-    QStringList lines;
-    QString errors;
+    int status = -1;                ///< -1 when the program did not start, crashed or did not end
+    std::vector<std::string> lines; ///< of standard output, empty ones left out
+    std::string errors;
 };
 
 /// Runs the program \a path without a display of its own choice.

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <ostream>
+
 namespace Pelnar::Util
 {
 namespace
@@ -19,6 +21,11 @@ struct OsReleaseRow
     char const* content;
     char const* expected;
 };
+
+std::ostream& operator<<(std::ostream& out, OsReleaseRow const& row)
+{
+    return out << row.name;
+}
 
 class OsRelease : public testing::TestWithParam<OsReleaseRow>
 {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <stdexcept>
 
 namespace Pelnar::Util
@@ -20,6 +21,11 @@ struct TextRow
     QString separator;
     Version expected;
 };
+
+std::ostream& operator<<(std::ostream& out, TextRow const& row)
+{
+    return out << row.name;
+}
 
 std::string RowName(testing::TestParamInfo<TextRow> const& info)
 {

@@ -6,9 +6,13 @@
 #include <gtest/gtest.h>
 #include <httplib.h>
 
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+
+#include <pwd.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <future>
@@ -222,6 +226,24 @@ TEST(CheckProgramOptions, HelpIsNoError)
     EXPECT_TRUE(std::any_of(result.lines.begin(), result.lines.end(),
                             [](std::string const& line) { return line.find("--local-version") != std::string::npos; }));
 }
+
+#if defined(Q_OS_LINUX)
+/// What the program would leave in the user defaults of the person who runs it; null when there is nothing.
+QByteArray PersonalDefaults()
+{
+    QFile file(QString::fromLocal8Bit(getpwuid(getuid())->pw_dir) +
+               QStringLiteral("/GNUstep/Defaults/pelnar-update-check.plist"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(CheckProgramOptions, APersonsUserDefaultsAreNotTouched)
+{
+    FeedFolder const folder;
+    QByteArray const before = PersonalDefaults();
+    EXPECT_EQ(Check(Write(folder, Feed::Newer)).status, 0);
+    EXPECT_EQ(PersonalDefaults(), before);
+}
+#endif
 
 // --- over the network ---
 

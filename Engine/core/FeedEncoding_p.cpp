@@ -2,7 +2,6 @@
 #include "Engine/core/FeedEncoding_p.h"
 
 #include <QTextCodec>
-#include <QXmlStreamReader>
 
 #include <cstring>
 
@@ -46,17 +45,42 @@ QByteArray EncodingByFirstBytes(QByteArray const& bytes)
     return {};
 }
 
+/// The value of encoding="…" in the XML declaration, as written; empty when there is none. An odd declaration may be
+/// read otherwise here than by the reader, so the reader's own answer is compared later.
 QByteArray DeclaredEncoding(QByteArray const& bytes)
 {
-    void const* const end =
-        std::memchr(bytes.constData(), '>', static_cast<size_t>(qMin(bytes.size(), LONGEST_DECLARATION)));
-    if (end == nullptr)
+    int const start = bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
+    int const end = bytes.mid(start, LONGEST_DECLARATION).indexOf("?>");
+    if (end < 0 || std::memcmp(bytes.constData() + start, "<?xml", 5) != 0)
     {
         return {};
     }
-    QXmlStreamReader reader(bytes.left(static_cast<int>(static_cast<char const*>(end) - bytes.constData()) + 1));
-    reader.readNext();
-    return reader.documentEncoding().toString().toLatin1();
+    QByteArray const declaration = bytes.mid(start, end);
+    int const name = declaration.indexOf("encoding");
+    int const equals = name < 0 ? -1 : declaration.indexOf('=', name);
+    QByteArray const value = equals < 0 ? QByteArray() : declaration.mid(equals + 1).trimmed();
+    int const closing = value.isEmpty() ? -1 : value.indexOf(value.front(), 1);
+    return closing < 0 ? QByteArray() : value.mid(1, closing - 1);
+}
+
+/// The offset of the next byte that is not ASCII; \a size when there is none.
+int SkipAscii(uchar const* data, int at, int size)
+{
+    quint64 blocks[4];
+    while (size - at >= int(sizeof blocks))
+    {
+        std::memcpy(blocks, data + at, sizeof blocks);
+        if (((blocks[0] | blocks[1] | blocks[2] | blocks[3]) & Q_UINT64_C(0x8080808080808080)) != 0)
+        {
+            break;
+        }
+        at += int(sizeof blocks);
+    }
+    while (at < size && data[at] < 0x80)
+    {
+        ++at;
+    }
+    return at;
 }
 
 bool IsContinuation(uchar byte)
@@ -64,14 +88,11 @@ bool IsContinuation(uchar byte)
     return (byte & 0xC0) == 0x80;
 }
 
-/// The length of the sequence that starts at \a at, of which \a left bytes are there; 0 when it is not UTF-8.
+/// The length of the sequence of two bytes or more that starts at \a at, of which \a left bytes are there; 0 when it is
+/// not UTF-8.
 int SequenceLength(uchar const* at, int left)
 {
     uchar const lead = at[0];
-    if (lead < 0x80)
-    {
-        return 1;
-    }
     if (lead >= 0xC2 && lead <= 0xDF)
     {
         return left >= 2 && IsContinuation(at[1]) ? 2 : 0;
@@ -100,15 +121,10 @@ int FirstBadUtf8(QByteArray const& bytes)
     int at = 0;
     while (at < size)
     {
-        quint64 block = 0;
-        if (size - at >= int(sizeof block))
+        at = SkipAscii(data, at, size);
+        if (at == size)
         {
-            std::memcpy(&block, data + at, sizeof block);
-            if ((block & Q_UINT64_C(0x8080808080808080)) == 0)
-            {
-                at += int(sizeof block);
-                continue;
-            }
+            break;
         }
         int const length = SequenceLength(data + at, size - at);
         if (length == 0)

@@ -94,6 +94,18 @@ QStringRef LanguageOf(QXmlStreamAttributes const& attributes)
     return attributes.value(QLatin1String("http://www.w3.org/XML/1998/namespace"), QLatin1String("lang"));
 }
 
+QString FormatOf(QXmlStreamAttributes const& attributes)
+{
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        if (IsFeedNamespace(attribute.namespaceUri()) && attribute.name() == QLatin1String("format"))
+        {
+            return CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
+        }
+    }
+    return {};
+}
+
 /// The member of \a enclosure that an attribute fills, or null.
 QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
 {
@@ -126,16 +138,13 @@ QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
     return nullptr;
 }
 
-/// Reads the <enclosure> just entered, to its end.
-Enclosure ReadEnclosure(FeedWalker& walker)
+/// A function of its own: attributes that are held over the reader's next step are copied by it.
+void TakeAttributes(FeedWalker& walker, Enclosure& enclosure)
 {
-    Enclosure enclosure;
-    enclosure.line = walker.Line();
-    enclosure.column = walker.Column();
     QXmlStreamAttributes const attributes = walker.Reader().attributes();
     for (QXmlStreamAttribute const& attribute : attributes)
     {
-        QString const text = CleanFeedText(attribute.value(), FeedTextKind::SingleLine);
+        QString const text = CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
         enclosure.attributes.insert(
             walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName()), text);
         if (QString* const member = MemberFor(enclosure, attribute))
@@ -143,6 +152,15 @@ Enclosure ReadEnclosure(FeedWalker& walker)
             *member = text.isNull() ? QStringLiteral("") : text;
         }
     }
+}
+
+/// Reads the <enclosure> just entered, to its end.
+Enclosure ReadEnclosure(FeedWalker& walker)
+{
+    Enclosure enclosure;
+    enclosure.line = walker.Line();
+    enclosure.column = walker.Column();
+    TakeAttributes(walker, enclosure);
     while (walker.EnterChild())
     {
         // An enclosure has no content of its own; what a feed puts there is kept like any property.
@@ -245,16 +263,8 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
 
 QVariant ReadDescription(FeedWalker& walker, FeedItemContext const& context, LocalizedText& description)
 {
-    QXmlStreamAttributes const attributes = walker.Reader().attributes();
-    int const rank = LanguageRank(LanguageOf(attributes), context.languages);
-    QString format;
-    for (QXmlStreamAttribute const& attribute : attributes)
-    {
-        if (IsFeedNamespace(attribute.namespaceUri()) && attribute.name() == QLatin1String("format"))
-        {
-            format = CleanFeedText(attribute.value(), FeedTextKind::SingleLine);
-        }
-    }
+    int const rank = LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages);
+    QString const format = FormatOf(walker.Reader().attributes());
     FeedElement element = ReadFeedElement(walker, FeedTextKind::Block);
     if (rank < description.rank)
     {
@@ -381,11 +391,11 @@ std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& 
     {
         QXmlStreamReader const& reader = walker.Reader();
         QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
-        QVariant const value = reader.namespaceUri().isEmpty() ? ReadPlainChild(walker, context, draft)
-                               : IsFeedNamespace(reader.namespaceUri())
-                                   ? ReadFeedChild(walker, context, draft)
-                                   : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
-        AddFeedProperty(draft.item.properties, name, value);
+        QVariant value = reader.namespaceUri().isEmpty() ? ReadPlainChild(walker, context, draft)
+                         : IsFeedNamespace(reader.namespaceUri())
+                             ? ReadFeedChild(walker, context, draft)
+                             : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
+        AddFeedProperty(draft.item.properties, name, std::move(value));
     }
     for (auto attribute = attributes.cbegin(); attribute != attributes.cend(); ++attribute)
     {

@@ -1,6 +1,7 @@
 // FeedPrescan_p.cpp: one pass over the tags of a feed.
 #include "Engine/core/FeedPrescan_p.h"
 
+#include <array>
 #include <cstring>
 #include <string_view>
 
@@ -45,38 +46,64 @@ struct Tag
     bool isTooLong = false;
 };
 
+constexpr std::array<bool, 256> MakeTagMarks()
+{
+    std::array<bool, 256> marks{};
+    for (char const mark : {'"', '\'', '=', '>'})
+    {
+        marks[static_cast<unsigned char>(mark)] = true;
+    }
+    return marks;
+}
+
+/// The bytes of a tag that mean something outside of quotes.
+constexpr std::array<bool, 256> TAG_MARKS = MakeTagMarks();
+
+/// The offset of the next mark, or \a last.
+size_t NextMark(std::string_view text, size_t at, size_t last)
+{
+    while (at < last && !TAG_MARKS[static_cast<unsigned char>(text[at])])
+    {
+        ++at;
+    }
+    return at;
+}
+
 /// A well-formed tag has one "=" outside quotes for each attribute.
 Tag ScanTag(std::string_view text, size_t start, FeedLimits const& limits)
 {
     Tag tag;
     size_t const longest = static_cast<size_t>(limits.maxTagBytes);
     size_t const last = text.size() - start > longest ? start + longest : text.size();
-    char quote = '\0';
-    for (size_t at = start + 1; at < last; ++at)
+    // Quotes mean nothing in an end tag.
+    bool const isEndTag = start + 1 < last && text[start + 1] == '/';
+    if (isEndTag)
     {
-        char const byte = text[at];
-        if (quote != '\0')
-        {
-            void const* const found = std::memchr(text.data() + at, quote, last - at);
-            if (found == nullptr)
-            {
-                break;
-            }
-            at = static_cast<size_t>(static_cast<char const*>(found) - text.data());
-            quote = '\0';
-        }
-        else if (byte == '"' || byte == '\'')
-        {
-            quote = byte;
-        }
-        else if (byte == '=')
+        void const* const end = std::memchr(text.data() + start, '>', last - start);
+        tag.end = end == nullptr ? last : static_cast<size_t>(static_cast<char const*>(end) - text.data()) + 1;
+        tag.isTooLong = end == nullptr && last < text.size();
+        return tag;
+    }
+    for (size_t at = NextMark(text, start + 1, last); at < last; at = NextMark(text, at + 1, last))
+    {
+        char const mark = text[at];
+        if (mark == '=')
         {
             ++tag.attributes;
         }
-        else if (byte == '>')
+        else if (mark == '>')
         {
             tag.end = at + 1;
             return tag;
+        }
+        else
+        {
+            void const* const closing = std::memchr(text.data() + at + 1, mark, last - at - 1);
+            if (closing == nullptr)
+            {
+                break;
+            }
+            at = static_cast<size_t>(static_cast<char const*>(closing) - text.data());
         }
     }
     tag.end = last;

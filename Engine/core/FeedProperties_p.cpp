@@ -22,33 +22,33 @@ QVariantMap ReadFeedAttributes(FeedWalker& walker)
     for (QXmlStreamAttribute const& attribute : attributes)
     {
         properties.insert(walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName()),
-                          CleanFeedText(attribute.value(), FeedTextKind::SingleLine));
+                          CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine));
     }
     return properties;
 }
 
-void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant const& value)
+void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant value)
 {
-    auto const place = properties.find(name);
-    if (place == properties.end())
+    QVariant& place = properties[name];
+    if (!place.isValid())
     {
-        properties.insert(name, value);
+        place = std::move(value);
         return;
     }
     // A value of the feed is a text or a map, so a list is one that was begun here. It leaves the map while it grows:
     // a shared list would be copied at every step.
     QVariantList list;
-    if (place->type() == QVariant::List)
+    if (place.type() == QVariant::List)
     {
-        list = place->toList();
-        *place = QVariant();
+        list = place.toList();
+        place = QVariant();
     }
     else
     {
-        list.append(*place);
+        list.append(place);
     }
-    list.append(value);
-    *place = list;
+    list.append(std::move(value));
+    place = list;
 }
 
 FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind)
@@ -65,7 +65,7 @@ FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind)
         }
         AddFeedProperty(properties, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
     }
-    element.text = CleanFeedText(QStringRef(&text), kind);
+    element.text = CleanFeedText(std::move(text), kind);
     if (properties.isEmpty())
     {
         element.value = element.text;

@@ -25,6 +25,6 @@ struct FeedElement
 [[nodiscard]] QVariantMap ReadFeedAttributes(FeedWalker& walker);
 
 /// Adds \a value under \a name; values of one name become a list.
-void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant const& value);
+void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant value);
 
 } // namespace Pelnar::Engine

@@ -1,34 +1,59 @@
 // FeedText_p.cpp: single values of a feed.
 #include "Engine/core/FeedText_p.h"
 
+#include <cstring>
+#include <utility>
+
 namespace Pelnar::Engine
 {
 
 namespace
 {
 
-bool IsLineBreakOrTab(ushort unit)
+/// A control character, a line or paragraph separator, or one that embeds, overrides or isolates a writing direction.
+constexpr bool IsUnsafe(ushort unit)
 {
-    return unit == '\n' || unit == '\r' || unit == '\t';
+    return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F) || (unit >= 0x2028 && unit <= 0x202E) ||
+           (unit >= 0x2066 && unit <= 0x2069);
 }
 
-/// A control character, a line or paragraph separator, or one that embeds, overrides or isolates a writing direction.
-bool IsUnsafe(ushort unit)
+constexpr bool IsLineBreakOrTab(ushort unit)
 {
-    if (unit < 0x20)
-    {
-        return true;
-    }
-    if (unit < 0x7F)
-    {
-        return false;
-    }
-    return unit <= 0x9F || (unit >= 0x2028 && unit <= 0x202E) || (unit >= 0x2066 && unit <= 0x2069);
+    return unit == '\n' || unit == '\r' || unit == '\t';
 }
 
 bool IsUnsafe(ushort unit, FeedTextKind kind)
 {
     return IsUnsafe(unit) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(unit));
+}
+
+/// The index of the first unsafe character at or behind \a from; the size of \a text when there is none.
+int NextUnsafe(QString const& text, int from, FeedTextKind kind)
+{
+    constexpr int UNITS = sizeof(quint64) / sizeof(ushort);
+    constexpr quint64 ONES = Q_UINT64_C(0x0001000100010001);
+    ushort const* const units = text.utf16();
+    int const size = text.size();
+    for (int i = from; i < size; ++i)
+    {
+        // Four at a time while all of them are ordinary ASCII: below 0x80, and neither below 0x20 nor 0x7F.
+        for (quint64 four = 0; size - i >= UNITS; i += UNITS)
+        {
+            std::memcpy(&four, units + i, sizeof four);
+            quint64 const isHigh = four & (ONES * 0xFF80);
+            quint64 const isLow = (four - ONES * 0x20) & (ONES * 0x8000);
+            quint64 const isDelete = (four + ONES) & (ONES * 0x80);
+            if ((isHigh | isLow | isDelete) != 0)
+            {
+                break;
+            }
+        }
+        if (i < size && IsUnsafe(units[i], kind))
+        {
+            return i;
+        }
+    }
+    return size;
 }
 
 /// "zip", "dmg" and "gz", but not the "1" of "App_1.1" nor the "0b2" of "App_1.0b2".
@@ -39,21 +64,17 @@ bool IsExtension(QStringRef text)
 
 } // namespace
 
-QString CleanFeedText(QStringRef text, FeedTextKind kind)
+QString CleanFeedText(QString text, FeedTextKind kind)
 {
     if (kind == FeedTextKind::SingleLine)
     {
-        text = text.trimmed();
+        text = std::move(text).trimmed();
     }
-    QString cleaned = text.toString();
-    for (int i = 0; i < text.size(); ++i)
+    for (int i = NextUnsafe(text, 0, kind); i < text.size(); i = NextUnsafe(text, i + 1, kind))
     {
-        if (IsUnsafe(text.at(i).unicode(), kind))
-        {
-            cleaned[i] = QLatin1Char(' ');
-        }
+        text[i] = QLatin1Char(' ');
     }
-    return cleaned;
+    return text;
 }
 
 quint64 FeedLength(QStringRef text, quint64 most)
@@ -90,7 +111,7 @@ QString VersionInFileName(QUrl const& url)
         version.truncate(dot);
     }
     // A percent-encoded control character passed the cleaning of the address.
-    return CleanFeedText(version, FeedTextKind::SingleLine);
+    return CleanFeedText(version.toString(), FeedTextKind::SingleLine);
 }
 
 QUrl FeedAddress(QString const& text, QUrl const& base)

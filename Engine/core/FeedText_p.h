@@ -17,7 +17,7 @@ enum class FeedTextKind
 
 /// \a text without a character that could forge a log line, drive a terminal or turn the writing direction: each of
 /// them becomes a blank, so that no two parts of a version grow together.
-[[nodiscard]] QString CleanFeedText(QStringRef text, FeedTextKind kind);
+[[nodiscard]] QString CleanFeedText(QString text, FeedTextKind kind);
 
 /// The number of bytes that \a text gives; 0 for anything but decimal digits and for more than \a most.
 [[nodiscard]] quint64 FeedLength(QStringRef text, quint64 most);

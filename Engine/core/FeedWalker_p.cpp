@@ -3,15 +3,24 @@
 
 #include "Engine/core/FeedText_p.h"
 
+#include <cstring>
+
 namespace Pelnar::Engine
 {
 
 namespace
 {
 
-QLatin1String const FEED_NAMESPACE("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
 QLatin1String const FEED_PREFIX("sparkle:");
 constexpr size_t MOST_KNOWN_NAMES = 32;
+
+/// Inline, as this runs for every name of a feed.
+bool IsEqual(QString const& a, QStringRef b)
+{
+    return a.size() == b.size() &&
+           std::memcmp(a.constData(), b.constData(), static_cast<size_t>(a.size()) * sizeof(QChar)) == 0;
+}
 
 QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
 {
@@ -72,9 +81,9 @@ FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimit
 }
 
 FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits const& documentLimits)
-    : limits(documentLimits)
+    : limits(documentLimits), isUtf8(text.isNull())
 {
-    if (text.isNull())
+    if (isUtf8)
     {
         reader.addData(utf8);
     }
@@ -98,8 +107,7 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
         {
             Refuse(FeedErrorKind::Malformed);
             // The reader quotes the character that it met.
-            QString const words = reader.errorString();
-            error.detail = CleanFeedText(QStringRef(&words), FeedTextKind::SingleLine);
+            error.detail = CleanFeedText(reader.errorString(), FeedTextKind::SingleLine);
         }
         break;
     case QXmlStreamReader::DTD:
@@ -117,8 +125,16 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
         }
         --depth;
         break;
-    case QXmlStreamReader::NoToken:
     case QXmlStreamReader::StartDocument:
+        if (isUtf8 && !reader.documentEncoding().isEmpty() &&
+            reader.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) != 0)
+        {
+            // What the reader would see from here on is not what was scanned.
+            Refuse(FeedErrorKind::Malformed);
+            error.detail = QStringLiteral("The XML declaration is ambiguous.");
+        }
+        break;
+    case QXmlStreamReader::NoToken:
     case QXmlStreamReader::EndDocument:
     case QXmlStreamReader::Characters:
     case QXmlStreamReader::Comment:
@@ -161,7 +177,12 @@ bool FeedWalker::EnterChild(QString* text)
         case QXmlStreamReader::Invalid:
             return false;
         case QXmlStreamReader::Characters:
-            if (text != nullptr)
+            if (text != nullptr && text->isNull())
+            {
+                // Appending would reserve room for more, which seldom comes.
+                *text = reader.text().toString();
+            }
+            else if (text != nullptr)
             {
                 text->append(reader.text());
             }
@@ -186,7 +207,7 @@ QString FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStri
 {
     for (KnownName const& known : knownNames)
     {
-        if (known.qualifiedName == qualifiedName && known.namespaceUri == namespaceUri)
+        if (IsEqual(known.qualifiedName, qualifiedName) && IsEqual(known.namespaceUri, namespaceUri))
         {
             return known.propertyName;
         }

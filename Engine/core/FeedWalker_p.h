@@ -47,6 +47,7 @@ private:
 
     QXmlStreamReader reader;
     FeedLimits const& limits;
+    bool isUtf8; ///< what was scanned and what is read are the same bytes
     FeedParseError error;
     int depth = 0;
     int namespacesInScope = 0;

@@ -206,6 +206,12 @@ TEST(FeedEncoding, OneThatIsWrongOrUnknownIsAnError)
     };
     Row const rows[] = {
         {"unknown", "<?xml version='1.0' encoding='x-none'?><rss/>"},
+        {"two encodings", "<?xml version='1.0' encoding='UTF-8' encoding='UTF-7'?><rss/>"},
+        {"an encoding in the version", "<?xml version='1.0 encoding=\"UTF-8\"' encoding='UTF-7'?><rss/>"},
+        {"unfinished encoding", "<?xml version='1.0' encoding='UTF-7?><rss/>"},
+        {"encoding without a value", "<?xml version='1.0' encoding?><rss/>"},
+        {"a declaration longer than is looked at",
+         "<?xml version='1.0'" + QByteArray(2000, ' ') + "encoding='windows-1251'?><rss>\xD0\x9E</rss>"},
         {"declared UTF-16, is ASCII", "<?xml version='1.0' encoding='UTF-16'?><rss/>"},
         {"declared UTF-8, is Latin-1", "<?xml version='1.0' encoding='utf-8'?><rss>\xE9</rss>"},
         {"undeclared Latin-1", "<rss>\xE9</rss>"},

@@ -1,0 +1,217 @@
+// FeedParsing.cpp: parsing a feed against a bare QXmlStreamReader loop that keeps the same fields and checks nothing:
+// no limits, no namespaces by address, no clean-up of texts. Both run in turns in one process; the ratio is that of the
+// medians of their rounds.
+
+#include "Engine/core/FeedParser.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <limits>
+
+#include <time.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+QByteArray MakeFeed(int items)
+{
+    QByteArray feed = "<?xml version=\"1.0\" encoding=\"utf-8\"?>\n<rss version=\"2.0\" "
+                      "xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">\n<channel>\n"
+                      "<title>App</title>\n";
+    QByteArray const notes = QByteArray("<li>One more thing that works better than before</li>\n").repeated(6);
+    for (int i = 0; i < items; ++i)
+    {
+        QByteArray const number = QByteArray::number(i);
+        feed += "    <item>\n      <title>Version 5." + number +
+                "</title>\n"
+                "      <sparkle:minimumSystemVersion>10.13</sparkle:minimumSystemVersion>\n"
+                "      <sparkle:releaseNotesLink>https://www.example.com/notes/5." +
+                number +
+                ".html</sparkle:releaseNotesLink>\n"
+                "      <description><![CDATA[<ul>\n" +
+                notes +
+                "</ul>]]></description>\n"
+                "      <pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>\n"
+                "      <enclosure url=\"https://files.example.com/downloads/App-5." +
+                number +
+                ".zip\"\n"
+                "        sparkle:version=\"5." +
+                number + "\" sparkle:shortVersionString=\"5." + number +
+                "\"\n"
+                "        length=\"10485760\" type=\"application/octet-stream\" sparkle:os=\"macos\"\n"
+                "        "
+                "sparkle:edSignature="
+                "\"7cLALFUHSwvEJWSkV8aMreoBe4fhRa4FncC5NoThKxwThL6FDR7hTiPJh1fo2uagnPogisnQsgFgq6mGkt2RBw==\" />\n"
+                "    </item>\n";
+    }
+    return feed + "</channel>\n</rss>\n";
+}
+
+void BareEnclosure(QXmlStreamReader& reader, FeedItem& item)
+{
+    QVariantMap properties;
+    QXmlStreamAttributes const attributes = reader.attributes();
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        QString const value = attribute.value().toString();
+        properties.insert(attribute.qualifiedName().toString(), value);
+        if (attribute.qualifiedName() == QLatin1String("url"))
+        {
+            item.fileUrl = QUrl(value);
+        }
+        else if (attribute.qualifiedName() == QLatin1String("length"))
+        {
+            item.contentLength = value.toULongLong();
+        }
+        else if (attribute.qualifiedName() == QLatin1String("sparkle:version"))
+        {
+            item.versionString = value;
+        }
+        else if (attribute.qualifiedName() == QLatin1String("sparkle:shortVersionString"))
+        {
+            item.displayVersionString = value;
+        }
+        else if (attribute.qualifiedName() == QLatin1String("sparkle:edSignature"))
+        {
+            item.edSignature = value;
+        }
+    }
+    item.properties.insert(QStringLiteral("enclosure"), properties);
+}
+
+FeedItem BareItem(QXmlStreamReader& reader)
+{
+    FeedItem item;
+    item.line = static_cast<int>(reader.lineNumber());
+    item.column = static_cast<int>(reader.columnNumber());
+    while (reader.readNextStartElement())
+    {
+        QString const name = reader.qualifiedName().toString();
+        if (name == QLatin1String("enclosure"))
+        {
+            BareEnclosure(reader, item);
+            reader.skipCurrentElement();
+            continue;
+        }
+        QString const text = reader.readElementText(QXmlStreamReader::IncludeChildElements);
+        if (name == QLatin1String("title"))
+        {
+            item.title = text;
+        }
+        else if (name == QLatin1String("pubDate"))
+        {
+            item.dateString = text;
+        }
+        else if (name == QLatin1String("description"))
+        {
+            item.description = text;
+        }
+        else if (name == QLatin1String("sparkle:minimumSystemVersion"))
+        {
+            item.minimumSystemVersion = text;
+        }
+        else if (name == QLatin1String("sparkle:releaseNotesLink"))
+        {
+            item.releaseNotesUrl = QUrl(text);
+        }
+        item.properties.insert(name, text);
+    }
+    return item;
+}
+
+std::vector<FeedItem> ParseBare(QByteArray const& feed)
+{
+    std::vector<FeedItem> items;
+    QXmlStreamReader reader(feed);
+    while (!reader.atEnd())
+    {
+        if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == QLatin1String("item"))
+        {
+            items.push_back(BareItem(reader));
+        }
+    }
+    return items;
+}
+
+std::vector<FeedItem> ParseOurs(QByteArray const& feed)
+{
+    FeedLimits limits;
+    limits.maxItems = std::numeric_limits<int>::max();
+    return ParseFeed(feed, QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")), FeedPlatform::MacOS, limits)
+        .items;
+}
+
+bool IsSame(std::vector<FeedItem> const& a, std::vector<FeedItem> const& b)
+{
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                      [](FeedItem const& x, FeedItem const& y)
+                      {
+                          return x.title == y.title && x.dateString == y.dateString && x.description == y.description &&
+                                 x.minimumSystemVersion == y.minimumSystemVersion &&
+                                 x.releaseNotesUrl == y.releaseNotesUrl && x.fileUrl == y.fileUrl &&
+                                 x.contentLength == y.contentLength && x.versionString == y.versionString &&
+                                 x.displayVersionString == y.displayVersionString && x.edSignature == y.edSignature &&
+                                 x.properties == y.properties;
+                      });
+}
+
+/// Of this thread, so that other programs of the machine do not count.
+double CpuSeconds()
+{
+    timespec now{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+template <typename Parse>
+double Seconds(Parse parse, QByteArray const& feed)
+{
+    double const start = CpuSeconds();
+    {
+        std::vector<FeedItem> const items = parse(feed);
+        benchmark::DoNotOptimize(items.data());
+    }
+    return CpuSeconds() - start;
+}
+
+double Median(std::vector<double> values)
+{
+    std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
+    return values[values.size() / 2];
+}
+
+void FeedParsing(benchmark::State& state)
+{
+    QByteArray const feed = MakeFeed(static_cast<int>(state.range(0)));
+    if (!IsSame(ParseOurs(feed), ParseBare(feed)))
+    {
+        state.SkipWithError("the two parsers keep different fields");
+        return;
+    }
+    std::vector<double> ours;
+    std::vector<double> bare;
+    for (auto _ : state)
+    {
+        (void)_;
+        ours.push_back(Seconds(ParseOurs, feed));
+        bare.push_back(Seconds(ParseBare, feed));
+        state.SetIterationTime(ours.back());
+    }
+    double const megabytes = feed.size() / 1e6;
+    state.counters["MB/s"] = megabytes / Median(ours);
+    state.counters["bare_MB/s"] = megabytes / Median(bare);
+    state.counters["speed_ratio"] = Median(bare) / Median(ours);
+}
+
+} // namespace
+
+BENCHMARK(FeedParsing)->Arg(10)->Iterations(2000)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(FeedParsing)->Arg(1000)->Iterations(101)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(FeedParsing)->Arg(100000)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
+
+BENCHMARK_MAIN();

@@ -17,18 +17,22 @@ using App::Session::SelectionSubject;
 class FeedItemSource final : public App::Session::IItemSource
 {
 public:
-    explicit FeedItemSource(Engine::FeedItem const& feedItem) : item(feedItem) {}
+    explicit FeedItemSource(Engine::FeedItem const& feedItem)
+        : item(feedItem), fileAddress(feedItem.fileUrl.toString(QUrl::FullyEncoded))
+    {
+    }
 
-    QString MinimumSystemVersion() const override { return item.minimumSystemVersion; }
-    QString MaximumSystemVersion() const override { return item.maximumSystemVersion; }
-    QString VersionString() const override { return item.versionString; }
-    QString FileAddress() const override { return item.fileUrl.toString(QUrl::FullyEncoded); }
-    QString DateString() const override { return item.dateString; }
+    QString const& MinimumSystemVersion() const override { return item.minimumSystemVersion; }
+    QString const& MaximumSystemVersion() const override { return item.maximumSystemVersion; }
+    QString const& VersionString() const override { return item.versionString; }
+    QString const& FileAddress() const override { return fileAddress; }
+    QString const& DateString() const override { return item.dateString; }
     std::uint64_t ContentLength() const override { return item.contentLength; }
     bool IsDelta() const override { return item.isDelta; }
 
 private:
     Engine::FeedItem const& item;
+    QString fileAddress;
 };
 
 bool Less(Core::Version const& a, Core::Version const& b)

@@ -24,39 +24,91 @@ UsageError BadValue(QCommandLineOption const& option, QString const& value, QStr
     return {QStringLiteral("--%1: \"%2\" is not %3").arg(option.names().constFirst(), value, expected)};
 }
 
-} // namespace
+struct Options
+{
+    QCommandLineOption feed{QStringLiteral("feed"), QStringLiteral("Address or path of the feed; required."),
+                            QStringLiteral("URL-or-path")};
+    QCommandLineOption local{QStringLiteral("local-version"),
+                             QStringLiteral("Version of the application that asks; required."), QStringLiteral("V")};
+    QCommandLineOption runningSystem{QStringLiteral("system-version"),
+                                     QStringLiteral("Version of the operating system; default: the running one's."),
+                                     QStringLiteral("V")};
+    QCommandLineOption platform{QStringLiteral("platform"),
+                                QStringLiteral("Whose items of the feed count; default: this system's."),
+                                QStringLiteral("macos|linux")};
+    QCommandLineOption mode{QStringLiteral("mode"), QStringLiteral("How the check is started; default: user."),
+                            QStringLiteral("user|automatic|silent"), QStringLiteral("user")};
+    QCommandLineOption timeout{QStringLiteral("timeout"),
+                               QStringLiteral("Give up after so many seconds; default: 120."),
+                               QStringLiteral("seconds"), QStringLiteral("120")};
+    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print one JSON object at the end.")};
+    QCommandLineOption verbose{QStringLiteral("verbose"),
+                               QStringLiteral("Write the log, at level 30, to standard error.")};
+    QCommandLineOption exitCode{QStringLiteral("exit-code"),
+                                QStringLiteral("Exit with 10 for an update and with 11 for a major update.")};
+};
 
-std::variant<UpdateCheckOptions, UsageError, UsageHelp> ParseUpdateCheckOptions(QStringList const& arguments)
+using Parsed = std::variant<UpdateCheckOptions, UsageError, UsageHelp>;
+
+/// The values of a line whose required options are there.
+Parsed ReadValues(QCommandLineParser const& parser, Options const& options)
 {
     QString const version = QStringLiteral("a version such as 5.10");
-    QCommandLineOption const feed(QStringLiteral("feed"), QStringLiteral("Address or path of the feed; required."),
-                                  QStringLiteral("URL-or-path"));
-    QCommandLineOption const local(QStringLiteral("local-version"),
-                                   QStringLiteral("Version of the application that asks; required."),
-                                   QStringLiteral("V"));
-    QCommandLineOption const system(QStringLiteral("system-version"),
-                                    QStringLiteral("Version of the operating system; default: the running one's."),
-                                    QStringLiteral("V"));
-    QCommandLineOption const platform(QStringLiteral("platform"),
-                                      QStringLiteral("Whose items of the feed count; default: this system's."),
-                                      QStringLiteral("macos|linux"));
-    QCommandLineOption const mode(QStringLiteral("mode"), QStringLiteral("How the check is started; default: user."),
-                                  QStringLiteral("user|automatic|silent"), QStringLiteral("user"));
-    QCommandLineOption const timeout(QStringLiteral("timeout"),
-                                     QStringLiteral("Give up after so many seconds; default: 120."),
-                                     QStringLiteral("seconds"), QStringLiteral("120"));
-    QCommandLineOption const json(QStringLiteral("json"), QStringLiteral("Print one JSON object at the end."));
-    QCommandLineOption const verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("Write the log, at level 30, to standard error."));
-    QCommandLineOption const exitCode(QStringLiteral("exit-code"),
-                                      QStringLiteral("Exit with 10 for an update and with 11 for a major update."));
+    UpdateCheckOptions result;
+    result.feed = FeedAddress(parser.value(options.feed));
+    if (!result.feed.isValid())
+    {
+        return BadValue(options.feed, parser.value(options.feed), QStringLiteral("an address or a path"));
+    }
+    std::optional<Core::Version> const localVersion = ParseVersion(parser.value(options.local));
+    if (!localVersion)
+    {
+        return BadValue(options.local, parser.value(options.local), version);
+    }
+    result.localVersion = *localVersion;
+    result.systemVersion = parser.value(options.runningSystem);
+    if (parser.isSet(options.runningSystem) && !ParseVersion(result.systemVersion))
+    {
+        return BadValue(options.runningSystem, result.systemVersion, version);
+    }
+    result.platform = parser.value(options.platform);
+    if (parser.isSet(options.platform) && result.platform != QLatin1String("macos") &&
+        result.platform != QLatin1String("linux"))
+    {
+        return BadValue(options.platform, result.platform, QStringLiteral("macos or linux"));
+    }
+    std::optional<App::UpdateCheckMode> const mode = ModeFromText(parser.value(options.mode));
+    if (!mode)
+    {
+        return BadValue(options.mode, parser.value(options.mode), QStringLiteral("user, automatic or silent"));
+    }
+    result.mode = *mode;
+    bool isNumber = false;
+    int const seconds = parser.value(options.timeout).toInt(&isNumber);
+    if (!isNumber || seconds < 1 || seconds > MAX_TIMEOUT_SECONDS)
+    {
+        return BadValue(options.timeout, parser.value(options.timeout),
+                        QStringLiteral("a number of seconds from 1 to 3600"));
+    }
+    result.timeout = std::chrono::seconds(seconds);
+    result.json = parser.isSet(options.json);
+    result.verbose = parser.isSet(options.verbose);
+    result.outcomeInExitStatus = parser.isSet(options.exitCode);
+    return result;
+}
+
+} // namespace
+
+Parsed ParseUpdateCheckOptions(QStringList const& arguments)
+{
+    Options const options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
         QStringLiteral("Runs one check for updates and prints what its observers are told.\n"
                        "Exit status: 0 the check was completed, 1 it could not be, 2 bad arguments."));
-    parser.addOptions({feed, local, system, platform, mode, timeout, json, verbose, exitCode});
+    parser.addOptions({options.feed, options.local, options.runningSystem, options.platform, options.mode,
+                       options.timeout, options.json, options.verbose, options.exitCode});
     QCommandLineOption const help = parser.addHelpOption();
-
     if (!parser.parse(arguments))
     {
         return UsageError{parser.errorText()};
@@ -69,55 +121,15 @@ std::variant<UpdateCheckOptions, UsageError, UsageHelp> ParseUpdateCheckOptions(
     {
         return UsageError{QStringLiteral("unexpected argument \"%1\"").arg(parser.positionalArguments().constFirst())};
     }
-    if (parser.value(feed).isEmpty())
+    if (parser.value(options.feed).isEmpty())
     {
         return UsageError{QStringLiteral("--feed is required")};
     }
-    if (!parser.isSet(local))
+    if (!parser.isSet(options.local))
     {
         return UsageError{QStringLiteral("--local-version is required")};
     }
-
-    UpdateCheckOptions options;
-    options.feed = FeedAddress(parser.value(feed));
-    if (!options.feed.isValid())
-    {
-        return BadValue(feed, parser.value(feed), QStringLiteral("an address or a path"));
-    }
-    std::optional<Core::Version> const localVersion = ParseVersion(parser.value(local));
-    if (!localVersion)
-    {
-        return BadValue(local, parser.value(local), version);
-    }
-    options.localVersion = *localVersion;
-    if (parser.isSet(system) && !ParseVersion(parser.value(system)))
-    {
-        return BadValue(system, parser.value(system), version);
-    }
-    options.systemVersion = parser.value(system);
-    QString const platformText = parser.value(platform);
-    if (parser.isSet(platform) && platformText != QLatin1String("macos") && platformText != QLatin1String("linux"))
-    {
-        return BadValue(platform, platformText, QStringLiteral("macos or linux"));
-    }
-    options.platform = platformText;
-    std::optional<App::UpdateCheckMode> const checkMode = ModeFromText(parser.value(mode));
-    if (!checkMode)
-    {
-        return BadValue(mode, parser.value(mode), QStringLiteral("user, automatic or silent"));
-    }
-    options.mode = *checkMode;
-    bool isNumber = false;
-    int const seconds = parser.value(timeout).toInt(&isNumber);
-    if (!isNumber || seconds < 1 || seconds > MAX_TIMEOUT_SECONDS)
-    {
-        return BadValue(timeout, parser.value(timeout), QStringLiteral("a number of seconds from 1 to 3600"));
-    }
-    options.timeout = std::chrono::seconds(seconds);
-    options.json = parser.isSet(json);
-    options.verbose = parser.isSet(verbose);
-    options.outcomeInExitStatus = parser.isSet(exitCode);
-    return options;
+    return ReadValues(parser, options);
 }
 
 } // namespace Pelnar::Demo

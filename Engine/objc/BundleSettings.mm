@@ -78,7 +78,7 @@ bool IsTrue(NSString* key, Source source)
 
 FeedPlatform ReadPlatform()
 {
-    QString const name = TextOf(@"PelnarFeedPlatform", Source::Bundle);
+    QString const name = TextOf(@"PelnarFeedPlatform", Source::DefaultsThenBundle);
     if (name == QLatin1String("macos"))
     {
         return FeedPlatform::MacOS;

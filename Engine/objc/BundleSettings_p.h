@@ -6,7 +6,7 @@
 //   SUSkippedVersion            text; the version that the user skipped                  defaults
 //   SULastCheckTime             date; written at the end of every check                  defaults
 //   CFBundleVersion             text; the running version                                bundle
-//   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   bundle
+//   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
 //   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once

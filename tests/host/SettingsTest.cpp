@@ -19,15 +19,17 @@ namespace
 class Settings : public testing::Test
 {
 protected:
+    /// A new file each time: QSettings takes a file of the same size and time for the one that it has read.
     QString Write(QByteArray const& content)
     {
-        QFile file(m_folder.filePath(QStringLiteral("host.ini")));
+        QFile file(m_folder.filePath(QStringLiteral("host%1.ini").arg(++m_files)));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         EXPECT_EQ(file.write(content), content.size());
         return file.fileName();
     }
 
     QTemporaryDir m_folder;
+    int m_files = 0;
 };
 
 std::string FailureOf(std::function<void()> const& call)

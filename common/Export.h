@@ -5,4 +5,6 @@
 #error "The update checker is built on macOS and Linux only."
 #else
 #define PELNAR_EXPORT __attribute__((visibility("default")))
+/// For a private class within an exported one, which would otherwise be shown with it.
+#define PELNAR_PRIVATE __attribute__((visibility("hidden")))
 #endif

@@ -67,7 +67,7 @@ private:
     explicit UpdateManager(Initializer const& initializer);
     ~UpdateManager() override;
 
-    class Impl;
+    class PELNAR_PRIVATE Impl;
     std::unique_ptr<Impl> impl;
 };
 

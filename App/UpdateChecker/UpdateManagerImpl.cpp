@@ -44,10 +44,8 @@ void UpdateManager::Impl::InitializeUpdater()
 
 void UpdateManager::Impl::CheckFinished(UpdateCheckResult result)
 {
-    switch (result)
+    if (result < UpdateCheckResult::UpdateAvailable)
     {
-    case UpdateCheckResult::None:
-    case UpdateCheckResult::NoUpdate:
         // A check that the user asked for always leads to the dialog, which then tells that nothing is newer.
         if (checkMode == UpdateCheckMode::UserInitiated)
         {
@@ -58,14 +56,16 @@ void UpdateManager::Impl::CheckFinished(UpdateCheckResult result)
             DeleteManager();
         }
         return;
-    case UpdateCheckResult::UpdateAvailable:
-        ProposeDialog();
-        return;
-    case UpdateCheckResult::MajorUpdateAvailable:
-        ProposeNagOrDialog();
-        return;
     }
-    // Deliberate: any other value ends nothing; the manager stays current until its Qt parent destroys it.
+    if (result == UpdateCheckResult::UpdateAvailable)
+    {
+        ProposeDialog();
+    }
+    else if (result == UpdateCheckResult::MajorUpdateAvailable)
+    {
+        ProposeNagOrDialog();
+    }
+    // Deliberate: any greater value ends nothing; the manager stays current until its Qt parent destroys it.
 }
 
 void UpdateManager::Impl::ProposeNagOrDialog()

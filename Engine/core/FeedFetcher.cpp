@@ -23,9 +23,8 @@ bool IsRedirect(int status)
     case 307:
     case 308:
         return true;
-    default:
-        return false;
     }
+    return false;
 }
 
 } // namespace

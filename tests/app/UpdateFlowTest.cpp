@@ -22,6 +22,7 @@ constexpr auto NO_UPDATE = UpdateCheckResult::NoUpdate;
 constexpr auto UPDATE = UpdateCheckResult::UpdateAvailable;
 constexpr auto MAJOR = UpdateCheckResult::MajorUpdateAvailable;
 constexpr auto FOREIGN = static_cast<UpdateCheckResult>(4);
+constexpr auto BELOW_NONE = static_cast<UpdateCheckResult>(-1);
 
 constexpr int UNKNOWN = NagScreen::CONTENT_UNKNOWN;
 constexpr int UNAVAILABLE = NagScreen::CONTENT_UNAVAILABLE;
@@ -58,6 +59,7 @@ std::ostream& operator<<(std::ostream& out, Row const& row)
 }
 
 Row const ROWS[] = {
+    {"UserBelowNone", USER, BELOW_NONE, AVAILABLE, &DIALOG, ENDS},
     {"UserNone", USER, NONE, AVAILABLE, &DIALOG, ENDS},
     {"UserNoUpdate", USER, NO_UPDATE, AVAILABLE, &DIALOG, ENDS},
     {"UserUpdate", USER, UPDATE, AVAILABLE, &DIALOG, ENDS},
@@ -66,6 +68,7 @@ Row const ROWS[] = {
     {"UserMajorNagAvailable", USER, MAJOR, AVAILABLE, &NAG, ENDS},
     {"UserMajorNagOther", USER, MAJOR, HOSTS_OWN, &ASKED, STAYS},
     {"UserForeignResult", USER, FOREIGN, AVAILABLE, &NOTHING, STAYS},
+    {"AutomaticBelowNone", AUTOMATIC, BELOW_NONE, AVAILABLE, &NOTHING, ENDS},
     {"AutomaticNone", AUTOMATIC, NONE, AVAILABLE, &NOTHING, ENDS},
     {"AutomaticNoUpdate", AUTOMATIC, NO_UPDATE, AVAILABLE, &NOTHING, ENDS},
     {"AutomaticUpdate", AUTOMATIC, UPDATE, AVAILABLE, &DIALOG, ENDS},
@@ -74,6 +77,7 @@ Row const ROWS[] = {
     {"AutomaticMajorNagAvailable", AUTOMATIC, MAJOR, AVAILABLE, &NAG, ENDS},
     {"AutomaticMajorNagOther", AUTOMATIC, MAJOR, HOSTS_OWN, &ASKED, STAYS},
     {"AutomaticForeignResult", AUTOMATIC, FOREIGN, AVAILABLE, &NOTHING, STAYS},
+    {"SilentBelowNone", SILENT, BELOW_NONE, AVAILABLE, &NOTHING, ENDS},
     {"SilentNone", SILENT, NONE, AVAILABLE, &NOTHING, ENDS},
     {"SilentNoUpdate", SILENT, NO_UPDATE, AVAILABLE, &NOTHING, ENDS},
     {"SilentUpdate", SILENT, UPDATE, AVAILABLE, &FOUND_ONLY, ENDS},

@@ -127,7 +127,7 @@ LINE_RULES = [
     (
         "shell",
         lambda p: p.startswith(PRODUCT_FOLDERS),
-        re.compile(r"\b(?:std::)?system\s*\(|\bpopen\s*\(|/bin/sh\b"),
+        re.compile(r"(?:^\s*|[=(!;&|]\s*|\bstd::|(?<!:)::)system\s*\(|\bpopen\s*\(|/bin/sh\b"),
         "no product code runs a shell",
     ),
     (
@@ -231,6 +231,8 @@ def self_test():
         ("manual-dealloc", "Engine/objc/X.mm", "    [super dealloc];"),
         ("switch-default", "Engine/core/X.cpp", "    default:"),
         ("shell", "Installer/X.cpp", 'system("ls");'),
+        ("shell", "Installer/X.cpp", 'int const answer = ::system("ls");'),
+        ("shell", "Installer/X.cpp", 'if (std::system("ls"))'),
         ("sleep-in-test", "tests/app/X.cpp", "QThread::msleep(5);"),
         ("left-over", "common/X.cpp", "// TODO later"),
         ("header-opening", "common/X.h", "#pragma once"),
@@ -245,6 +247,7 @@ def self_test():
         ("Foundation/RaisedException.mm", "    @catch (NSException* exception)"),
         (SESSION + "/X.mm", "    // a catch (here) would end the process"),
         ("common/X.cpp", 'char const* text = "// no comment, and no default:";'),
+        ("Demo/X.cpp", "    QCommandLineOption const system(name, text);"),
         ("common/X.h", opening),
     ]
     failures = []

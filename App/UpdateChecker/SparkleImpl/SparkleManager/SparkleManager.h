@@ -38,7 +38,7 @@ public:
     bool AutomaticallyDownloadsUpdates() const;
     void SetAutomaticallyDownloadsUpdates(bool enabled);
 
-    class Impl;
+    class PELNAR_PRIVATE Impl;
 
 private:
     friend class SparkleManagerTestAccess;

@@ -32,7 +32,7 @@ public:
     void RejectUpdateAndHideDialog() override;
 
 private:
-    class Impl;
+    class PELNAR_PRIVATE Impl;
     std::unique_ptr<Impl> m_impl;
 };
 

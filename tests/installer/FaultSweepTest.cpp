@@ -16,12 +16,6 @@
 
 #include <fcntl.h>
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define PELNAR_UNDER_ADDRESS_SANITIZER
-#endif
-#endif
-
 namespace
 {
 
@@ -31,17 +25,6 @@ using namespace Pelnar::Testing;
 constexpr char STRACE[] = "/usr/bin/strace";
 constexpr int DEFAULT_STRIDE = 7;
 std::vector<std::string> const NO_EXCHANGE{"-e", "inject=renameat2:error=EINVAL"};
-
-class Faults : public testing::Test
-{
-protected:
-    void SetUp() override
-    {
-#ifdef PELNAR_UNDER_ADDRESS_SANITIZER
-        GTEST_SKIP() << "the leak sanitizer does not work in a traced process";
-#endif
-    }
-};
 
 /// A place in the helper's life: the nth call of one name in any of its processes.
 struct Place
@@ -100,6 +83,7 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
         }
     }
     bool const isEvery = std::getenv("PELNAR_EVERY_PLACE") != nullptr;
+    counts.erase("execve"); // the tracer's own: nothing of the helper has run yet
     std::vector<Place> places;
     int index = 0;
     for (auto const& [call, processes] : counts)
@@ -118,6 +102,7 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
         }
     }
     EXPECT_FALSE(places.empty());
+    testing::Test::RecordProperty("places", static_cast<int>(places.size()));
     return places;
 }
 
@@ -167,7 +152,7 @@ void ExpectRecovered(UpdateScene& scene, Versions const& versions)
     EXPECT_EQ(ExpectWhole(scene, versions), version);
 }
 
-TEST_F(Faults, PreparationKilledAnywhereHarmsNothing)
+TEST(Faults, PreparationKilledAnywhereHarmsNothing)
 {
     Versions const versions;
     UpdateScene traced;
@@ -211,12 +196,12 @@ void SweepInstallation(std::vector<std::string> const& options)
     }
 }
 
-TEST_F(Faults, InstallationKilledAnywhereLeavesOneOfTheVersions)
+TEST(Faults, InstallationKilledAnywhereLeavesOneOfTheVersions)
 {
     SweepInstallation({});
 }
 
-TEST_F(Faults, InstallationWithoutExchangeKilledAnywhereLeavesOneOfTheVersions)
+TEST(Faults, InstallationWithoutExchangeKilledAnywhereLeavesOneOfTheVersions)
 {
     SweepInstallation(NO_EXCHANGE);
 }
@@ -276,17 +261,17 @@ void SweepRecovery(void (*interruptInstallation)(UpdateScene&), std::string cons
     }
 }
 
-TEST_F(Faults, RecoveryFromBeforeTheExchangeKilledAnywhereConverges)
+TEST(Faults, RecoveryFromBeforeTheExchangeKilledAnywhereConverges)
 {
     SweepRecovery(&StopBeforeTheExchange, "1.0", "1.0");
 }
 
-TEST_F(Faults, RecoveryFromAfterTheExchangeKilledAnywhereConverges)
+TEST(Faults, RecoveryFromAfterTheExchangeKilledAnywhereConverges)
 {
     SweepRecovery(&StopAfterTheExchange, "2.0", "2.0");
 }
 
-TEST_F(Faults, RecoveryFromBetweenTwoRenamesKilledAnywhereConverges)
+TEST(Faults, RecoveryFromBetweenTwoRenamesKilledAnywhereConverges)
 {
     SweepRecovery(&StopBetweenTwoRenames, "1.0", "1.0");
 }
@@ -298,7 +283,7 @@ struct FailingCall
     int most; ///< as many of them as are tried
 };
 
-TEST_F(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
+TEST(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
 {
     Versions const versions;
     struct Row
@@ -331,7 +316,7 @@ TEST_F(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
     }
 }
 
-TEST_F(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
+TEST(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
 {
     Versions const versions;
     struct Row
@@ -365,7 +350,7 @@ TEST_F(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
     }
 }
 
-TEST_F(Faults, FileSystemsWithoutExchangeGetTwoRenames)
+TEST(Faults, FileSystemsWithoutExchangeGetTwoRenames)
 {
     Versions const versions;
     for (char const* const error : {"EINVAL", "ENOSYS", "EOPNOTSUPP"})
@@ -383,7 +368,7 @@ TEST_F(Faults, FileSystemsWithoutExchangeGetTwoRenames)
     }
 }
 
-TEST_F(Faults, FailingRenamesAreUndone)
+TEST(Faults, FailingRenamesAreUndone)
 {
     Versions const versions;
     // Of the plain renames the first is the journal's, the next two are the swap's.
@@ -402,7 +387,7 @@ TEST_F(Faults, FailingRenamesAreUndone)
     }
 }
 
-TEST_F(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
+TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
 {
     Versions const versions;
     UpdateScene scene;
@@ -418,7 +403,7 @@ TEST_F(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
     EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
 }
 
-TEST_F(Faults, SwapIsToldOnlyWhenBothFoldersAreOnTheDisk)
+TEST(Faults, SwapIsToldOnlyWhenBothFoldersAreOnTheDisk)
 {
     UpdateScene scene;
     InstallJob const job = scene.PrepareForInstall();

@@ -37,7 +37,11 @@ Core::Version const& ItemRecord::Version()
 
 QString const& ItemRecord::AddressText()
 {
-    return Once(m_addressText, [this] { return m_source.FileAddress(); });
+    return Once(m_addressText, [this] {
+        // A copy of its own: a text that is shared would make the source allocate for the next one.
+        QString const& text = m_source.FileAddress();
+        return QString(text.constData(), text.size());
+    });
 }
 
 bool ItemRecord::HasValidAddress()

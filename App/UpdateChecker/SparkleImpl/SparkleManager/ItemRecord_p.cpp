@@ -37,11 +37,13 @@ Core::Version const& ItemRecord::Version()
 
 QString const& ItemRecord::AddressText()
 {
-    return Once(m_addressText, [this] {
-        // A copy of its own: a text that is shared would make the source allocate for the next one.
-        QString const& text = m_source.FileAddress();
-        return QString(text.constData(), text.size());
-    });
+    return Once(m_addressText,
+                [this]
+                {
+                    // A copy of its own: a text that is shared would make the source allocate for the next one.
+                    QString const& text = m_source.FileAddress();
+                    return QString(text.constData(), text.size());
+                });
 }
 
 bool ItemRecord::HasValidAddress()

@@ -74,7 +74,8 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
         ParseFeed(outcome.bytes, outcome.url, m_settings.platform, m_settings.feedLimits, m_settings.languages);
     if (!result.HasSucceeded())
     {
-        Abort(MakeFeedError(result.error));
+        // The declaration that many pages begin with would count as an error of its own.
+        Abort(BeginsAsWebPage(outcome.bytes) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error));
         m_host.CheckEnded();
         return;
     }

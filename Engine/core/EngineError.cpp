@@ -117,8 +117,9 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::FeedTagTooLong:
     case ErrorCause::FeedTooManyItems:
     case ErrorCause::FeedTooManyNamespaces:
-    case ErrorCause::FeedIsWebPage:
         return "The update feed cannot be read: tell the publisher."; // replaced by the parser's, which names the line
+    case ErrorCause::FeedIsWebPage:
+        return "A web page came in place of the update feed: sign in to this network if it asks for it, and try again.";
 
     case ErrorCause::ForeignItem:
         return "The application chose an update that is not in the feed: install the application anew.";
@@ -219,7 +220,10 @@ EngineError MakeHttpStatusError(int status)
 EngineError MakeFeedError(FeedParseError const& error)
 {
     EngineError result = MakeError(CauseOf(error.kind), error.detail);
-    result.sentence = error.sentence;
+    if (result.cause != ErrorCause::FeedIsWebPage)
+    {
+        result.sentence = error.sentence; // it names the line
+    }
     return result;
 }
 

@@ -10,6 +10,7 @@ namespace
 {
 
 constexpr int MAX_LOCATION_BYTES = 8 * 1024;
+constexpr int MAX_PAGE_START_BYTES = 256;
 
 bool IsHttp(QUrl const& url)
 {
@@ -124,6 +125,18 @@ std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request
         return ErrorCause::RedirectDowngrade;
     }
     return FetchRequest{url, IsSameOrigin(request.url, url) ? request.fields : std::vector<HeaderField>()};
+}
+
+bool BeginsAsWebPage(QByteArray const& bytes)
+{
+    constexpr char BYTE_ORDER_MARK[] = "\xef\xbb\xbf";
+    QByteArray begin = bytes.left(MAX_PAGE_START_BYTES);
+    if (begin.startsWith(BYTE_ORDER_MARK))
+    {
+        begin.remove(0, 3);
+    }
+    begin = begin.trimmed().toLower();
+    return begin.startsWith("<!doctype html") || begin.startsWith("<html");
 }
 
 QByteArray SerializedRequest(FetchRequest const& request)

@@ -65,6 +65,9 @@ FetchRequest RequestFor(QUrl const& url);
                                                                    InsecureHttp insecureHttp,
                                                                    FetchLimits const& limits);
 
+/// True for bytes that begin as a web page does, whatever XML would make of them: a network's login page, say.
+[[nodiscard]] bool BeginsAsWebPage(QByteArray const& bytes);
+
 /// The bytes of \a request for a server: one GET over a connection that closes after it.
 QByteArray SerializedRequest(FetchRequest const& request);
 

@@ -1,59 +1,16 @@
 // CheckContractTest.cpp: what the session may rely on when it uses the engine's updater: how a check is started, how an
 // item is chosen, which outcome is told in which order, when the updater is idle.
-#include "tests/engine/FeedText.h"
-#include "tests/engine/ScriptedDelegate.h"
-#include "tests/support/DialogDriver.h"
-#include "tests/support/LogCapture.h"
-#include "tests/support/LoopbackServer.h"
+#include "tests/engine/CheckFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <QCoreApplication>
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTimer>
 
-#include <algorithm>
-#include <stdexcept>
+#include <optional>
 
 namespace
 {
 
 using namespace Pelnar::Testing;
-using Events = std::vector<std::string>;
 using Start = void (UpdaterDriver::*)();
-
-int compareNumbers(QString const& a, QString const& b)
-{
-    double const difference = a.toDouble() - b.toDouble();
-    return difference < 0 ? -1 : difference > 0 ? 1 : 0;
-}
-
-ScriptedChoice chooseFirst(int, std::vector<QString> const&)
-{
-    return {ScriptedChoice::Kind::Item, 0, {}};
-}
-
-ScriptedChoice chooseNone(int, std::vector<QString> const&)
-{
-    return {};
-}
-
-bool hasLog(LogCapture const& log, google::LogSeverity severity, std::string const& part)
-{
-    std::vector<LogRecord> const records = log.Of(severity);
-    return std::any_of(records.begin(), records.end(),
-                       [&part](LogRecord const& record) { return record.text.find(part) != std::string::npos; });
-}
-
-class CheckContract : public ::testing::Test
-{
-protected:
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
-};
 
 struct Kind
 {
@@ -81,7 +38,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     EXPECT_TRUE(driver.IsInProgress());
@@ -94,7 +51,7 @@ TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
 TEST_P(EveryCheck, NilIsNoUpdate)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    UpdaterDriver driver({&chooseNone, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseNone, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
@@ -112,7 +69,7 @@ TEST_P(EveryCheck, NoUpdateIsToldWholeInOneTurnOfTheLoop)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
     Events seen;
-    DelegateScript script{&chooseNone, &compareNumbers, {}, {}};
+    DelegateScript script{&ChooseNone, &CompareNumbers, {}, {}};
     QObject context;
     script.onEvent = [&seen, &context](std::string const& event)
     {
@@ -134,7 +91,7 @@ TEST_P(EveryCheck, NoUpdateIsToldWholeInOneTurnOfTheLoop)
 TEST_P(EveryCheck, CheckStartedFromATimerOfTheLastCallbackIsAccepted)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    DelegateScript script{&chooseNone, &compareNumbers, {}, {}};
+    DelegateScript script{&ChooseNone, &CompareNumbers, {}, {}};
     QObject context;
     UpdaterDriver* started = nullptr;
     std::optional<bool> wasIdle;
@@ -165,12 +122,12 @@ TEST_P(EveryCheck, CheckStartedFromATimerOfTheLastCallbackIsAccepted)
 TEST_P(EveryCheck, SecondCheckWhileOneRunsIsIgnoredWithALogLine)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     driver.Probe();
     LogCapture log;
     (driver.*GetParam().start)();
-    EXPECT_TRUE(hasLog(log, google::GLOG_WARNING, "A check for updates is running already; the new one is ignored"));
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "A check for updates is running already; the new one is ignored"));
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
     EXPECT_EQ(server.Requests().size(), 1u);
@@ -180,11 +137,11 @@ TEST_P(EveryCheck, FoundEndsIdleWithALogLineUnlessItIsAProbe)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
     LogCapture log;
-    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
-    EXPECT_EQ(hasLog(log, google::GLOG_INFO, "An update was found; the check ends with this report"),
+    EXPECT_EQ(HasLog(log, google::GLOG_INFO, "An update was found; the check ends with this report"),
               GetParam().start != &UpdaterDriver::Probe);
     EXPECT_EQ(server.Requests().size(), 1u) << "nothing but the feed is fetched";
 }
@@ -194,7 +151,7 @@ TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1", DeltaOf("5.1", "5.0"))))));
     std::vector<int> questions;
     DelegateScript script;
-    script.compare = &compareNumbers;
+    script.compare = &CompareNumbers;
     script.choose = [&questions](int question, std::vector<QString> const&)
     {
         questions.push_back(question);
@@ -215,7 +172,7 @@ TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
 TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
 {
     LoopbackServer server(Answering("HTTP/1.1 500 Broken\r\n\r\n"));
-    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
@@ -231,7 +188,7 @@ TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
 TEST_P(EveryCheck, MalformedFeedIsAnErrorAndNeverNoUpdate)
 {
     LoopbackServer server(Answering(OkAnswer("<rss><channel><item>")));
-    UpdaterDriver driver({&chooseFirst, &compareNumbers, {}, {}});
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());

@@ -108,7 +108,9 @@ void RaiseInFoundation(char const* reason);
 /// Sets a user default to a value of the given kind, in memory.
 void SetTextDefault(char const* key, char const* value);
 void SetNumberDefault(char const* key, int value);
-void RemoveDefault(char const* key);
+void SetDateDefault(char const* key);
+/// Where the process keeps its user defaults; empty when nobody set that.
+QString DefaultsFolder();
 /// True when the default is a date between a minute ago and now.
 [[nodiscard]] bool IsRecentDateDefault(char const* key);
 

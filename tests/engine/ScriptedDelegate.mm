@@ -233,11 +233,19 @@ void SetNumberDefault(char const* key, int value)
     }
 }
 
-void RemoveDefault(char const* key)
+void SetDateDefault(char const* key)
 {
     @autoreleasepool
     {
-        [[NSUserDefaults standardUserDefaults] removeObjectForKey:ToNSString(QString::fromUtf8(key))];
+        [[NSUserDefaults standardUserDefaults] setObject:[NSDate date] forKey:ToNSString(QString::fromUtf8(key))];
+    }
+}
+
+QString DefaultsFolder()
+{
+    @autoreleasepool
+    {
+        return ToQString(GSDefaultsRootForUser(NSUserName()));
     }
 }
 

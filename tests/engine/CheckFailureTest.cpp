@@ -1,0 +1,473 @@
+// CheckFailureTest.cpp: what a check does about a delegate that misbehaves, goes away or answers little, about settings
+// of the wrong kind, and about hostile text.
+#include "tests/engine/CheckFixture.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <functional>
+#include <stdexcept>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+
+// Row 28.
+TEST_F(CheckContract, ItemOfAnotherFeedIsRefused)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    int checks = 0;
+    DelegateScript script;
+    script.compare = &CompareNumbers;
+    script.choose = [&checks](int, std::vector<QString> const&) {
+        return ScriptedChoice{checks == 0 ? ScriptedChoice::Kind::Item : ScriptedChoice::Kind::Foreign, 0, {}};
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    ++checks; // now the delegate answers with what it kept of the first feed
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1", "asked", "aborted 1002"}));
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 800);
+}
+
+TEST_F(CheckContract, AddressWithoutAnObjectIsRefusedUntouched)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    DelegateScript script;
+    script.compare = &CompareNumbers;
+    script.choose = [](int, std::vector<QString> const&) {
+        return ScriptedChoice{ScriptedChoice::Kind::Dangling, 0, {}};
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "aborted 1002"}));
+}
+
+struct Fallback
+{
+    char const* name;
+    ScriptedChoice second;
+    Events expected;
+};
+
+void PrintTo(Fallback const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class DeltaFallback : public CheckContract, public ::testing::WithParamInterface<Fallback>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Second, DeltaFallback,
+    ::testing::Values(
+        Fallback{"None", {}, {"asked", "asked", "found 5.1"}},
+        Fallback{"SameDelta", {ScriptedChoice::Kind::Delta, 0, QStringLiteral("5.0")}, {"asked", "asked", "found 5.1"}},
+        Fallback{"Nothing", {ScriptedChoice::Kind::Dangling, 0, {}}, {"asked", "asked", "aborted 1002"}}),
+    [](auto const& row) { return row.param.name; });
+
+TEST_P(DeltaFallback, IsAskedForOnceWhateverTheAnswer)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1", DeltaOf("5.1", "5.0"))))));
+    DelegateScript script;
+    script.compare = &CompareNumbers;
+    script.choose = [](int question, std::vector<QString> const&) {
+        return question == 0 ? ScriptedChoice{ScriptedChoice::Kind::Delta, 0, QStringLiteral("5.0")}
+                             : GetParam().second;
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), GetParam().expected);
+}
+
+struct Failure
+{
+    char const* name;
+    std::function<void()> fail;
+    char const* reason;
+};
+
+void PrintTo(Failure const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class FailingDelegate : public CheckContract, public ::testing::WithParamInterface<Failure>
+{
+protected:
+    void ExpectReason(UpdaterDriver const& driver)
+    {
+        ASSERT_FALSE(driver.Errors().empty());
+        EXPECT_EQ(driver.Errors()[0].underlyingDomain, "PelnarUpdateCheckErrorDomain");
+        EXPECT_EQ(driver.Errors()[0].underlyingCode, 801);
+        EXPECT_EQ(driver.Errors()[0].underlyingText, GetParam().reason);
+        EXPECT_FALSE(driver.IsInProgress());
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, FailingDelegate,
+    ::testing::Values(Failure{"FoundationException", [] { RaiseInFoundation("no <disk>"); }, "no &lt;disk&gt;"},
+                      Failure{"StandardException", [] { throw std::invalid_argument("bad version"); }, "bad version"},
+                      Failure{"OtherException", [] { throw 42; }, "an exception of an unknown type"}),
+    [](auto const& row) { return row.param.name; });
+
+TEST_P(FailingDelegate, ChoiceThatFailsAbortsAndTheNextCheckRuns)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    bool fails = true;
+    DelegateScript script;
+    script.compare = &CompareNumbers;
+    script.choose = [&fails](int, std::vector<QString> const&)
+    {
+        if (fails)
+        {
+            GetParam().fail();
+        }
+        return ScriptedChoice{ScriptedChoice::Kind::Item, 0, {}};
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    LogCapture log;
+    driver.CheckInteractively();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "aborted 1002"}));
+    ExpectReason(driver);
+    EXPECT_TRUE(HasLog(log, google::GLOG_ERROR, std::string("in the choice of an update: ") + GetParam().reason));
+    fails = false;
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "aborted 1002", "asked", "found 5.1"}));
+}
+
+TEST_P(FailingDelegate, ComparatorThatFailsAborts)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    SetTextDefault("SUSkippedVersion", "5.0");
+    DelegateScript script;
+    script.choose = &ChooseFirst;
+    script.compare = [](QString const&, QString const&)
+    {
+        GetParam().fail();
+        return 0;
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "aborted 1002"}));
+    ExpectReason(driver);
+}
+
+TEST_P(FailingDelegate, ReportOfAnUpdateThatFailsEndsAsAnAbort)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    DelegateScript script;
+    script.choose = &ChooseFirst;
+    script.onEvent = [](std::string const& event)
+    {
+        if (event == "found 5.1")
+        {
+            GetParam().fail();
+        }
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.CheckInBackground();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1", "aborted 1002"}));
+    ExpectReason(driver);
+}
+
+TEST_P(FailingDelegate, ReportOfNoUpdateThatFailsEndsAsAnAbort)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith({}))));
+    DelegateScript script;
+    script.onEvent = [](std::string const& event)
+    {
+        if (event == "not found")
+        {
+            GetParam().fail();
+        }
+    };
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.CheckInBackground();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "not found", "aborted 1002"})) << "one abort, not two";
+    ExpectReason(driver);
+}
+
+TEST_P(FailingDelegate, AbortThatFailsIsLoggedAndTheUpdaterIsIdle)
+{
+    LoopbackServer server(Answering("HTTP/1.1 404 Not Found\r\n\r\n"));
+    DelegateScript script;
+    script.onEvent = [](std::string const&) { GetParam().fail(); };
+    LogCapture log;
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{"aborted 1002"});
+    EXPECT_TRUE(HasLog(log, google::GLOG_ERROR, "in updater:didAbortWithError:"));
+}
+
+TEST_F(CheckContract, MethodsThatTheDelegateLacksAreNotCalled)
+{
+    LoopbackServer found(Answering(OkAnswer(FeedWith(ItemOf("5.1") + ItemOf("5.2") + ItemOf("5.0")))));
+    LoopbackServer empty(Answering(OkAnswer(FeedWith({}))));
+    LoopbackServer broken(Answering("HTTP/1.1 404 Not Found\r\n\r\n"));
+    DelegateScript script;
+    script.hidden = CHECK_METHODS;
+    UpdaterDriver driver(script);
+    for (LoopbackServer* const server : {&found, &empty, &broken})
+    {
+        driver.SetFeed(server->Url());
+        for (void (UpdaterDriver::*start)() : {&UpdaterDriver::Probe, &UpdaterDriver::CheckInBackground})
+        {
+            (driver.*start)();
+            ASSERT_TRUE(driver.WaitForEnd());
+        }
+        EXPECT_EQ(server->Requests().size(), 2u);
+    }
+    EXPECT_EQ(driver.Events(), Events{});
+}
+
+TEST_F(CheckContract, DelegateThatDoesNotChooseGetsTheNewestItem)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1") + ItemOf("5.10") + ItemOf("5.2")))));
+    DelegateScript script;
+    script.hidden = {"bestValidUpdateInAppcast:forUpdater:", "versionComparatorForUpdater:"};
+    UpdaterDriver driver(script);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{"found 5.10"});
+}
+
+TEST_F(CheckContract, WithoutADelegateACheckEndsInSilence)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    driver.CheckInteractively();
+    driver.RemoveDelegate();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{});
+}
+
+TEST_F(CheckContract, NothingIsToldWhenTheApplicationEndsMeanwhile)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    application.reset();
+    EXPECT_FALSE(driver.IsInProgress());
+    LogCapture log;
+    driver.Probe();
+    EXPECT_TRUE(
+        HasLog(log, google::GLOG_ERROR, "A check for updates needs Qt's application object; it is not started"));
+    EXPECT_FALSE(driver.IsInProgress());
+    EXPECT_EQ(driver.Events(), Events{});
+}
+
+// Row 29, as far as the process has a version; the bundle's tests have the rest.
+TEST_F(CheckContract, WithoutABundleVersionTheChoiceStands)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("0.1")))));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 0.1"}));
+}
+
+struct Skipping
+{
+    char const* name;
+    void (UpdaterDriver::*start)();
+    char const* skipped;
+    Events expected;
+};
+
+void PrintTo(Skipping const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class SkippedVersion : public CheckContract, public ::testing::WithParamInterface<Skipping>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Kinds, SkippedVersion,
+    ::testing::Values(
+        Skipping{"ProbeSame", &UpdaterDriver::Probe, "5.1", {"asked", "not found"}},
+        Skipping{"BackgroundSame", &UpdaterDriver::CheckInBackground, "5.1", {"asked", "not found", "aborted 1001"}},
+        Skipping{"InteractiveSame", &UpdaterDriver::CheckInteractively, "5.1", {"asked", "found 5.1"}},
+        Skipping{"ProbeNewer", &UpdaterDriver::Probe, "5.2", {"asked", "not found"}},
+        Skipping{"ProbeOlder", &UpdaterDriver::Probe, "5.0", {"asked", "found 5.1"}}),
+    [](auto const& row) { return row.param.name; });
+
+TEST_P(SkippedVersion, IsNotOfferedUnlessTheUserAsks)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    SetTextDefault("SUSkippedVersion", GetParam().skipped);
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), GetParam().expected);
+}
+
+// Row 94.
+TEST_F(CheckContract, NoByteOfTheServerReachesTheSentence)
+{
+    QByteArray const hostile = "<img src='file:///etc/passwd'>" + QByteArray(30000, '&');
+    for (QByteArray const& answer :
+         {"HTTP/1.1 500 " + hostile + "\r\n\r\n", "HTTP/1.1 200 OK\r\n\r\n" + hostile,
+          QByteArray("HTTP/1.1 302 Found\r\nLocation: ") + hostile + "\r\n\r\n", hostile + "\r\n\r\n",
+          OkAnswer("<rss><" + hostile + "></rss>"), OkAnswer("<html><body>" + hostile + "</body></html>")})
+    {
+        LoopbackServer server(Answering(answer));
+        UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+        driver.SetFeed(server.Url());
+        driver.Probe();
+        ASSERT_TRUE(driver.WaitForEnd());
+        ASSERT_EQ(driver.Errors().size(), 1u);
+        ToldError const& error = driver.Errors()[0];
+        EXPECT_EQ(error.sentence.find_first_of("<>&"), std::string::npos) << error.sentence;
+        EXPECT_LE(error.sentence.size(), 250u);
+        EXPECT_EQ(error.underlyingText.find('<'), std::string::npos);
+        EXPECT_LE(error.underlyingText.size(), 200u);
+    }
+}
+
+// Row 15, the portal of a hotel.
+TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
+{
+    LoopbackServer server(Answering(OkAnswer("<!DOCTYPE html><html><head><title>Login</title></head><body/></html>")));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), Events{"aborted 1000"});
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 707);
+}
+
+// Row 98.
+TEST_F(CheckContract, SkippedVersionOfTheWrongTypeIsIgnoredWithAWarning)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    SetNumberDefault("SUSkippedVersion", 7);
+    {
+        LogCapture log;
+        driver.Probe();
+        ASSERT_TRUE(driver.WaitForEnd());
+        EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The setting SUSkippedVersion is not text and is ignored"));
+    }
+    SetTextDefault("SUSkippedVersion", "none");
+    {
+        LogCapture log;
+        driver.Probe();
+        ASSERT_TRUE(driver.WaitForEnd());
+        EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The setting SUSkippedVersion is not a version and is ignored"));
+    }
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1", "asked", "found 5.1"}));
+}
+
+TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
+{
+    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    QString const defaults = DefaultsFolder();
+    ASSERT_FALSE(defaults.isEmpty());
+    // A file where the folder has to be stops root as well.
+    ASSERT_TRUE(QDir(defaults).removeRecursively());
+    QFile inTheWay(defaults);
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    LogCapture log;
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The user default SULastCheckTime could not be saved"));
+}
+
+TEST_F(CheckContract, AutomaticDownloadIsAUserDefault)
+{
+    UpdaterDriver driver({});
+    EXPECT_FALSE(driver.DownloadsAutomatically());
+    driver.SetDownloadsAutomatically(true);
+    EXPECT_TRUE(driver.DownloadsAutomatically());
+    SetTextDefault("SUAutomaticallyUpdate", "NO");
+    EXPECT_FALSE(driver.DownloadsAutomatically());
+    SetDateDefault("SUAutomaticallyUpdate");
+    LogCapture log;
+    EXPECT_FALSE(driver.DownloadsAutomatically());
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The setting SUAutomaticallyUpdate is not a boolean and is ignored"));
+}
+
+TEST_F(CheckContract, FeedAddressOfTheUserDefaultsIsUsedUntilOneIsSet)
+{
+    UpdaterDriver driver({});
+    EXPECT_TRUE(driver.Feed().isEmpty());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 100);
+    SetTextDefault("SUFeedURL", "https://a.example/defaults.xml");
+    EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://a.example/defaults.xml")));
+    driver.SetFeed(QUrl(QStringLiteral("https://a.example/set.xml")));
+    EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://a.example/set.xml")));
+    driver.SetFeed(QUrl());
+    EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://a.example/defaults.xml")));
+}
+
+TEST_F(CheckContract, FeedOfAFileIsChecked)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("feed.xml")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(FeedWith(ItemOf("5.1")));
+    file.close();
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(QUrl::fromLocalFile(file.fileName()));
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
+    EXPECT_EQ(driver.Found()->file, QUrl::fromLocalFile(folder.filePath(QStringLiteral("Pelnar-5.1.zip"))));
+}
+
+TEST_F(CheckContract, LimitsHoldForTheUpdatersChecks)
+{
+    Pelnar::Engine::FetchLimits limits;
+    limits.rateWindow = std::chrono::milliseconds(200);
+    LoopbackServer server(Silent());
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetLimits(limits);
+    driver.SetFeed(server.Url());
+    driver.Probe();
+    ASSERT_TRUE(driver.WaitForEnd());
+    EXPECT_EQ(driver.Errors()[0].underlyingCode, 207);
+}
+
+TEST(StandardComparator, OrdersVersionTexts)
+{
+    EXPECT_EQ(CompareByStandard(QStringLiteral("1.2"), QStringLiteral("1.10")), -1);
+    EXPECT_EQ(CompareByStandard(QStringLiteral("1.10"), QStringLiteral("1.2")), 1);
+    EXPECT_EQ(CompareByStandard(QStringLiteral("1.2"), QStringLiteral("1.2")), 0);
+}
+
+} // namespace

@@ -1,0 +1,48 @@
+// FetchProbe.cpp: fetches one address and prints what came of it, for tests that look at a process from outside.
+// Usage: fetch_probe URL [AUTHORITY-FILE]
+#include "Engine/core/FeedFetcher.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+
+#include <cstdio>
+
+#include <sys/resource.h>
+
+namespace
+{
+
+long peakKibibytes()
+{
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    return usage.ru_maxrss;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    using namespace Pelnar::Engine;
+    QCoreApplication application(argc, argv);
+    QStringList const arguments = QCoreApplication::arguments();
+    if (arguments.size() > 2)
+    {
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setCaCertificates(QSslCertificate::fromPath(arguments.at(2)));
+        QSslConfiguration::setDefaultConfiguration(configuration);
+    }
+    long const before = peakKibibytes();
+    FeedFetcher fetcher(FetchLimits(), InsecureHttp::LoopbackOnly);
+    fetcher.Start(QUrl(arguments.value(1)),
+                  [before](FetchOutcome const& outcome)
+                  {
+                      std::printf("cause=%d bytes=%d grown=%ld sentence=%s\n",
+                                  outcome.error ? static_cast<int>(outcome.error->cause) : 0, outcome.bytes.size(),
+                                  peakKibibytes() - before, outcome.error ? qPrintable(outcome.error->sentence) : "");
+                      QCoreApplication::quit();
+                  });
+    return QCoreApplication::exec();
+}

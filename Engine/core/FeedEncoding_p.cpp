@@ -4,6 +4,7 @@
 #include <QTextCodec>
 
 #include <cstring>
+#include <string_view>
 
 namespace Pelnar::Engine
 {
@@ -49,18 +50,27 @@ QByteArray EncodingByFirstBytes(QByteArray const& bytes)
 /// read otherwise here than by the reader, so the reader's own answer is compared later.
 QByteArray DeclaredEncoding(QByteArray const& bytes)
 {
-    int const start = bytes.startsWith("\xEF\xBB\xBF") ? 3 : 0;
-    int const end = bytes.mid(start, LONGEST_DECLARATION).indexOf("?>");
-    if (end < 0 || std::memcmp(bytes.constData() + start, "<?xml", 5) != 0)
+    std::string_view declaration(bytes.constData(), static_cast<size_t>(qMin(bytes.size(), LONGEST_DECLARATION)));
+    if (declaration.substr(0, 3) == "\xEF\xBB\xBF")
+    {
+        declaration.remove_prefix(3);
+    }
+    size_t const end = declaration.find("?>");
+    if (end == std::string_view::npos || declaration.substr(0, 5) != "<?xml")
     {
         return {};
     }
-    QByteArray const declaration = bytes.mid(start, end);
-    int const name = declaration.indexOf("encoding");
-    int const equals = name < 0 ? -1 : declaration.indexOf('=', name);
-    QByteArray const value = equals < 0 ? QByteArray() : declaration.mid(equals + 1).trimmed();
-    int const closing = value.isEmpty() ? -1 : value.indexOf(value.front(), 1);
-    return closing < 0 ? QByteArray() : value.mid(1, closing - 1);
+    declaration = declaration.substr(0, end);
+    size_t const name = declaration.find("encoding");
+    size_t const equals = name == std::string_view::npos ? name : declaration.find('=', name);
+    size_t const opening = equals == std::string_view::npos ? equals : declaration.find_first_of("\"'", equals);
+    size_t const closing =
+        opening == std::string_view::npos ? opening : declaration.find(declaration[opening], opening + 1);
+    if (closing == std::string_view::npos)
+    {
+        return {};
+    }
+    return QByteArray(declaration.data() + opening + 1, static_cast<int>(closing - opening - 1));
 }
 
 /// The offset of the next byte that is not ASCII; \a size when there is none.

@@ -83,6 +83,7 @@ FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimit
 FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits const& documentLimits)
     : limits(documentLimits), isUtf8(text.isNull())
 {
+    knownNames.reserve(MOST_KNOWN_NAMES);
     if (isUtf8)
     {
         reader.addData(utf8);
@@ -179,8 +180,9 @@ bool FeedWalker::EnterChild(QString* text)
         case QXmlStreamReader::Characters:
             if (text != nullptr && text->isNull())
             {
-                // Appending would reserve room for more, which seldom comes.
-                *text = reader.text().toString();
+                // A copy of just this text. Appending would reserve room for more, which seldom comes, and toString()
+                // may share the reader's own buffer with all the room that it has.
+                *text = QString(reader.text().constData(), reader.text().size());
             }
             else if (text != nullptr)
             {

@@ -11,6 +11,20 @@
 namespace Pelnar::Engine
 {
 
+/// The entries of \a inherited and those of \a own, which win.
+[[nodiscard]] inline QVariantMap OverlaidProperties(QVariantMap inherited, QVariantMap const& own)
+{
+    if (inherited.isEmpty())
+    {
+        return own;
+    }
+    for (auto entry = own.cbegin(); entry != own.cend(); ++entry)
+    {
+        inherited.insert(entry.key(), entry.value());
+    }
+    return inherited;
+}
+
 struct FeedItem
 {
     QString title;
@@ -44,19 +58,7 @@ struct FeedItem
     int column = 0; ///< from 1
 
     /// What a reader of the item is shown: of a delta, its parent's entries overlaid by its own.
-    [[nodiscard]] QVariantMap AllProperties() const
-    {
-        if (inheritedProperties.isEmpty())
-        {
-            return properties;
-        }
-        QVariantMap overlaid = inheritedProperties;
-        for (auto entry = properties.cbegin(); entry != properties.cend(); ++entry)
-        {
-            overlaid.insert(entry.key(), entry.value());
-        }
-        return overlaid;
-    }
+    [[nodiscard]] QVariantMap AllProperties() const { return OverlaidProperties(inheritedProperties, properties); }
 };
 
 } // namespace Pelnar::Engine

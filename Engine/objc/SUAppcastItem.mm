@@ -4,6 +4,7 @@
 #include "Foundation/Retained.h"
 
 #include <memory>
+#include <mutex>
 #include <vector>
 
 using namespace Pelnar::Foundation;
@@ -63,7 +64,7 @@ class AppcastItemContents
           edSignature(Retained<NSString>::Share(TextOrNil(item.edSignature))), isDelta(item.isDelta),
           isCritical(item.isCritical),
           installationType(Retained<NSString>::Share(TextOr(item.installationType, @"application"))),
-          properties(Retained<NSDictionary>::Share(ToFoundation(item.properties)))
+          ownProperties(item.properties), inheritedProperties(item.inheritedProperties)
     {
         NSMutableDictionary* const byVersion = [NSMutableDictionary dictionary];
         for (FeedItem const& delta : item.deltas)
@@ -90,6 +91,22 @@ class AppcastItemContents
     bool isDelta;
     bool isCritical;
     Retained<NSString> installationType;
+    /// Made when they are first asked for, which is seldom: a delta repeats all those of its item, and a feed may have
+    /// many of both.
+    NSDictionary* Properties()
+    {
+        std::call_once(propertiesMade,
+                       [this]
+                       {
+                           properties = Retained<NSDictionary>::Share(
+                               ToFoundation(OverlaidProperties(inheritedProperties, ownProperties)));
+                       });
+        return properties.Get();
+    }
+
+    std::once_flag propertiesMade;
+    QVariantMap ownProperties;
+    QVariantMap inheritedProperties;
     Retained<NSDictionary> properties;
     std::vector<Retained<SUAppcastItem>> deltas;
     Retained<NSDictionary> deltaUpdates;
@@ -186,7 +203,7 @@ class AppcastItemContents
 
 - (NSDictionary*)propertiesDictionary
 {
-    return m_contents->properties.Get();
+    return m_contents->Properties();
 }
 
 @end

@@ -1,0 +1,29 @@
+// ShippedChoice.h: what the shipped updater offers out of a feed: the engine's parser, its appcast objects and the
+// session's delegate. Plain C++.
+// Thread: the Qt main thread. Ownership: values only.
+#pragma once
+
+#include "Engine/core/FeedItem.h"
+#include "HostFramework/Version.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+struct ShippedChoice
+{
+    QString version;
+    QString deltaFrom; ///< empty for a full item
+    quint64 length = 0;
+    QString url;
+};
+
+/// The first answer of a check by a client of \a localVersion; nothing stands for no update.
+std::optional<ShippedChoice> ChooseFromFeed(std::vector<Engine::FeedItem> const& items,
+                                            Core::Version const& localVersion);
+
+} // namespace Pelnar::Testing

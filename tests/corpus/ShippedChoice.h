@@ -7,6 +7,7 @@
 #include "HostFramework/Version.h"
 
 #include <QString>
+#include <QVariantMap>
 
 #include <optional>
 #include <vector>
@@ -20,6 +21,7 @@ struct ShippedChoice
     QString deltaFrom; ///< empty for a full item
     quint64 length = 0;
     QString url;
+    QVariantMap extensions; ///< as the session would report them with the update
 };
 
 /// The first answer of a check by a client of \a localVersion; nothing stands for no update.

@@ -62,6 +62,7 @@ std::optional<ShippedChoice> ChooseFromFeed(std::vector<Engine::FeedItem> const&
         choice.deltaFrom = Foundation::ToQString(StartOfDelta(appcast.Get(), best));
         choice.length = [best contentLength];
         choice.url = Foundation::ToQString([[best fileURL] absoluteString]);
+        choice.extensions = session.DetectExtensions(best);
         return choice;
     }
 }

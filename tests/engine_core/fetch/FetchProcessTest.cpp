@@ -17,6 +17,17 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define PELNAR_ADDRESS_SANITIZER
+#endif
+#endif
+#if defined(PELNAR_ADDRESS_SANITIZER)
+constexpr bool IS_SANITIZED = true;
+#else
+constexpr bool IS_SANITIZED = false;
+#endif
+
 struct Report
 {
     int cause = -1;
@@ -30,8 +41,8 @@ Report probe(QStringList wrapper, QStringList const& arguments)
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // A wrapper that preloads a library comes before the sanitizer's.
-    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("verify_asan_link_order=0:detect_leaks=0"));
+    // A leak check does not work in a process that is traced.
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
     process.setProcessEnvironment(environment);
     wrapper.append(QStringLiteral(PELNAR_FETCH_PROBE));
     wrapper.append(arguments);
@@ -118,6 +129,14 @@ TEST_F(FetchProcessTest, RedirectToAFileOpensNothing)
 class WrongClock : public FetchProcessTest
 {
 protected:
+    void SetUp() override
+    {
+        if (IS_SANITIZED)
+        {
+            GTEST_SKIP() << "the preloaded clock and the sanitizer's start wait for one another for ever";
+        }
+    }
+
     Report ProbeAt(QString const& shift)
     {
         TestCertificates certificates;
@@ -164,32 +183,35 @@ TEST_F(FetchProcessTest, NoRouteIsAnErrorOfItsOwn)
 class EndlessAnswer : public FetchProcessTest
 {
 protected:
-    static constexpr long MAX_GROWTH_KIBIBYTES = 16 * 1024;
+    /// The cause is judged always, the memory where no sanitizer keeps freed blocks.
+    void ExpectCheap(Report const& report, ErrorCause cause)
+    {
+        EXPECT_EQ(report.cause, static_cast<int>(cause)) << report.all.toStdString();
+        if (!IS_SANITIZED)
+        {
+            EXPECT_GE(report.grownKibibytes, 0);
+            EXPECT_LT(report.grownKibibytes, 16 * 1024);
+        }
+    }
 };
 
 TEST_F(EndlessAnswer, BodyCostsLittleMemory)
 {
     LoopbackServer server(AnsweringWithoutEnd("HTTP/1.1 200 OK\r\n\r\n", QByteArray(64 * 1024, 'x')));
-    Report const report = probe({}, {server.Url().toString()});
-    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::BodyTooLarge)) << report.all.toStdString();
-    EXPECT_LT(report.grownKibibytes, MAX_GROWTH_KIBIBYTES);
+    ExpectCheap(probe({}, {server.Url().toString()}), ErrorCause::BodyTooLarge);
 }
 
 TEST_F(EndlessAnswer, HeadersCostLittleMemory)
 {
     LoopbackServer server(AnsweringWithoutEnd("HTTP/1.1 200 OK\r\n", "X: " + QByteArray(64 * 1024, 'x') + "\r\n"));
-    Report const report = probe({}, {server.Url().toString()});
-    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::HeadTooLarge)) << report.all.toStdString();
-    EXPECT_LT(report.grownKibibytes, MAX_GROWTH_KIBIBYTES);
+    ExpectCheap(probe({}, {server.Url().toString()}), ErrorCause::HeadTooLarge);
 }
 
 TEST_F(EndlessAnswer, CompressedBombIsNotInflated)
 {
     LoopbackServer server(
         AnsweringWithoutEnd("HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\n\r\n", QByteArray(64 * 1024, 'x')));
-    Report const report = probe({}, {server.Url().toString()});
-    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::ContentEncodingRefused)) << report.all.toStdString();
-    EXPECT_LT(report.grownKibibytes, MAX_GROWTH_KIBIBYTES);
+    ExpectCheap(probe({}, {server.Url().toString()}), ErrorCause::ContentEncodingRefused);
 }
 
 } // namespace

@@ -1,0 +1,50 @@
+// ReleaseNotesText_p.h: the text level of the release-notes filter: clean UTF-8, entities, escaping, plain text.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+
+[[nodiscard]] bool IsAsciiSpace(char c);
+[[nodiscard]] bool IsAsciiDigit(char c);
+[[nodiscard]] bool IsAsciiHexDigit(char c);
+[[nodiscard]] bool IsAsciiLetter(char c);
+[[nodiscard]] bool IsAsciiAlphanumeric(char c);
+[[nodiscard]] std::string ToLowerAscii(std::string_view text);
+[[nodiscard]] std::string_view TrimmedAscii(std::string_view text);
+[[nodiscard]] bool IsBlank(std::string_view text);
+
+/// The first bytes of \a text, at most \a maxBytes, that do not end within a character.
+[[nodiscard]] std::string_view PrefixOfWholeCharacters(std::string_view text, std::size_t maxBytes);
+
+/// The first character of \a text, which is clean and not empty.
+[[nodiscard]] std::string_view FirstCharacter(std::string_view text);
+
+/// True for an accent that belongs to no one script and can be heaped on a letter.
+[[nodiscard]] bool IsCombiningMark(std::string_view character);
+
+/// Valid UTF-8 with "\n" for every kind of line end. Left out are control characters, the marks that reorder text, and
+/// the code points that a rich-text document keeps for its own structure.
+[[nodiscard]] std::string CleanText(std::string_view text);
+
+/// Replaces the numeric entities and the well-known named ones; anything else that starts with "&" stays as it is.
+/// What CleanText leaves out does not come in again this way.
+[[nodiscard]] std::string DecodeEntities(std::string_view text);
+
+void AppendEscaped(std::string& out, std::string_view text);
+[[nodiscard]] std::string Escaped(std::string_view text);
+
+enum class BareLinks
+{
+    MadeClickable,
+    LeftAsText,
+};
+
+/// Paragraphs at blank lines, a break at every other line end, indentation kept.
+[[nodiscard]] std::string PlainTextToHtml(std::string_view cleanText, BareLinks bareLinks);
+
+} // namespace Pelnar::Engine

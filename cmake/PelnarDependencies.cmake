@@ -1,6 +1,6 @@
 # Everything the project takes from outside, found in one place. The matching Debian packages stand in scripts/packages.
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network LinguistTools)
 find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
 find_package(PkgConfig REQUIRED)

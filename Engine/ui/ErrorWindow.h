@@ -1,0 +1,21 @@
+// ErrorWindow.h: an update that a person asked for could not be completed, in one clear sentence.
+// Thread: the Qt main thread. Ownership: whoever made it.
+#pragma once
+
+#include "Engine/ui/EngineWindow.h"
+
+namespace Pelnar::Engine
+{
+
+class ErrorWindow : public EngineWindow
+{
+    Q_OBJECT
+
+public:
+    explicit ErrorWindow(QString const& sentence);
+
+Q_SIGNALS:
+    void Closed();
+};
+
+} // namespace Pelnar::Engine

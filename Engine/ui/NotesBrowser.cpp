@@ -1,0 +1,46 @@
+#include "Engine/ui/NotesBrowser.h"
+
+#include "Engine/ui/SafeUrl.h"
+
+#include <QVariant>
+
+namespace Pelnar::Engine
+{
+
+NotesBrowser::NotesBrowser(QWidget* parent) : QTextBrowser(parent)
+{
+    setOpenLinks(false);
+    setOpenExternalLinks(false);
+    setUndoRedoEnabled(false);
+    setTabChangesFocus(true);
+    connect(this, &QTextBrowser::anchorClicked, this, &NotesBrowser::ActivateIfSafe);
+    connect(this, qOverload<QUrl const&>(&QTextBrowser::highlighted), this, &NotesBrowser::TellAddress);
+}
+
+void NotesBrowser::ShowNotes(QString const& text, ReleaseNotesFormat format)
+{
+    std::string const html = FilterReleaseNotes(text.toStdString(), format).html;
+    setHtml(QString::fromStdString(html));
+}
+
+QVariant NotesBrowser::loadResource(int, QUrl const&)
+{
+    return {};
+}
+
+void NotesBrowser::ActivateIfSafe(QUrl const& address)
+{
+    QUrl const safe = SafeUrl(address);
+    if (!safe.isEmpty())
+    {
+        Q_EMIT LinkActivated(safe);
+    }
+}
+
+/// A person sees where a link leads before clicking it. An encoded address holds no markup.
+void NotesBrowser::TellAddress(QUrl const& address)
+{
+    setToolTip(QString::fromLatin1(SafeUrl(address).toEncoded()));
+}
+
+} // namespace Pelnar::Engine

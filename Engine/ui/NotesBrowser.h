@@ -1,0 +1,33 @@
+// NotesBrowser.h: shows release notes. It loads nothing, from nowhere, and follows no link by itself: a clicked http,
+// https or mailto link is told by a signal. Thread: the Qt main thread. Ownership: by its parent.
+#pragma once
+
+#include "Engine/core/ReleaseNotesFilter.h"
+
+#include <QTextBrowser>
+#include <QUrl>
+
+namespace Pelnar::Engine
+{
+
+class NotesBrowser : public QTextBrowser
+{
+    Q_OBJECT
+
+public:
+    explicit NotesBrowser(QWidget* parent);
+
+    /// \a text is filtered before it is shown.
+    void ShowNotes(QString const& text, ReleaseNotesFormat format);
+
+    QVariant loadResource(int type, QUrl const& name) override;
+
+Q_SIGNALS:
+    void LinkActivated(QUrl const& address);
+
+private:
+    void ActivateIfSafe(QUrl const& address);
+    void TellAddress(QUrl const& address);
+};
+
+} // namespace Pelnar::Engine

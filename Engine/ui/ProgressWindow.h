@@ -1,0 +1,31 @@
+// ProgressWindow.h: an update is downloaded, then verified and unpacked; both can be cancelled.
+// Thread: the Qt main thread. Ownership: whoever made it.
+#pragma once
+
+#include "Engine/ui/EngineWindow.h"
+
+namespace Pelnar::Engine
+{
+
+class ProgressWindow : public EngineWindow
+{
+    Q_OBJECT
+
+public:
+    explicit ProgressWindow(NamedVersion const& update);
+
+    void SetProgress(UpdateProgress const& progress);
+
+Q_SIGNALS:
+    void Cancelled();
+
+private:
+    QString m_downloadingText;
+    QString m_preparingText;
+    QLabel* m_heading;
+    QProgressBar* m_bar;
+    QLabel* m_amount;
+    QLabel* m_speed;
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,21 @@
+// ReadyWindow.h: an update is downloaded, verified and unpacked; installing it relaunches the application.
+// Thread: the Qt main thread. Ownership: whoever made it.
+#pragma once
+
+#include "Engine/ui/EngineWindow.h"
+
+namespace Pelnar::Engine
+{
+
+class ReadyWindow : public EngineWindow
+{
+    Q_OBJECT
+
+public:
+    ReadyWindow(NamedVersion const& update, CheckOrigin origin);
+
+Q_SIGNALS:
+    void Chosen(Pelnar::Engine::ReadyChoice choice);
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,23 @@
+// Translations.h: the languages of the engine's windows and of the update dialogs (contexts "PelnarEngine_…" and
+// "SparkleUpdater"). The translations are compiled into the library.
+// Thread: the Qt main thread, with an application object. Ownership: the application object owns what is installed.
+#pragma once
+
+#include <QLocale>
+#include <QString>
+#include <QStringList>
+
+namespace Pelnar::Engine
+{
+
+/// The names of all translations, like "de" or "pt_BR"; "en" is among them.
+[[nodiscard]] QStringList TranslationNames();
+
+/// The translation for the first language of \a locale's preferred ones that there is one for; "en" when there is none.
+[[nodiscard]] QString TranslationNameFor(QLocale const& locale);
+
+/// Installs the translation for \a locale in place of the one installed before. Windows that are shown already keep
+/// their texts. The layout direction of the application stays as it is: the engine's windows follow their own texts.
+void InstallTranslations(QLocale const& locale);
+
+} // namespace Pelnar::Engine

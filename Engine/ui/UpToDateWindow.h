@@ -1,0 +1,21 @@
+// UpToDateWindow.h: the answer to a check that a person asked for, when there is no update.
+// Thread: the Qt main thread. Ownership: whoever made it.
+#pragma once
+
+#include "Engine/ui/EngineWindow.h"
+
+namespace Pelnar::Engine
+{
+
+class UpToDateWindow : public EngineWindow
+{
+    Q_OBJECT
+
+public:
+    explicit UpToDateWindow(NamedVersion const& installed);
+
+Q_SIGNALS:
+    void Closed();
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,111 @@
+#include "Engine/ui/UpdateWindow.h"
+
+#include "Engine/ui/NotesBrowser.h"
+#include "Engine/ui/ProgressText.h"
+#include "Engine/ui/SafeUrl.h"
+#include "Engine/ui/ServerText.h"
+
+#include <QCoreApplication>
+#include <QLabel>
+#include <QPushButton>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int NOTES_WIDTH = 480;
+constexpr int NOTES_HEIGHT = 240;
+
+} // namespace
+
+UpdateWindow::UpdateWindow(UpdateOffer const& offer, CheckOrigin origin)
+    : EngineWindow(QStringLiteral("PelnarEngine_updateWindow"), origin)
+{
+    AddTexts(offer);
+    AddNotes(offer.notes);
+    AddAnswers();
+}
+
+void UpdateWindow::AddTexts(UpdateOffer const& offer)
+{
+    QString const name = ShownName(offer.applicationName);
+    AddHeading(QStringLiteral("PelnarEngine_heading"),
+               QCoreApplication::translate("PelnarEngine_UpdateWindow", "A new version of %1 is available!",
+                                           "%1 is the application's name")
+                   .arg(name));
+    AddText(QStringLiteral("PelnarEngine_detail"),
+            QCoreApplication::translate("PelnarEngine_UpdateWindow",
+                                        "%1 %2 is now available; you have %3. Would you like to download it now?",
+                                        "%1 is the application's name, %2 the new version, %3 the installed version")
+                .arg(name, ShownVersion(offer.version), ShownVersion(offer.currentVersion)));
+    if (offer.importance == UpdateImportance::Critical)
+    {
+        AddText(QStringLiteral("PelnarEngine_importance"),
+                QCoreApplication::translate("PelnarEngine_UpdateWindow",
+                                            "This update is important: it should be installed soon."));
+    }
+    if (offer.sizeBytes > 0)
+    {
+        AddText(QStringLiteral("PelnarEngine_size"),
+                QCoreApplication::translate("PelnarEngine_UpdateWindow", "Download size: %1", "%1 is a size like 40 MB")
+                    .arg(SizeText(offer.sizeBytes)));
+    }
+    QString const title = ShownName(offer.title);
+    if (!title.isEmpty())
+    {
+        QLabel* const label = AddGivenText(QStringLiteral("PelnarEngine_title"), title);
+        QFont font = label->font();
+        font.setBold(true);
+        label->setFont(font);
+    }
+}
+
+void UpdateWindow::AddNotes(ReleaseNotes const& notes)
+{
+    QString const name = QCoreApplication::translate("PelnarEngine_UpdateWindow", "Release notes");
+    m_notes = new NotesBrowser(this);
+    m_notes->setObjectName(QStringLiteral("PelnarEngine_releaseNotes"));
+    m_notes->setAccessibleName(name);
+    m_notes->setMinimumSize(NOTES_WIDTH, NOTES_HEIGHT);
+    connect(m_notes, &NotesBrowser::LinkActivated, this, &UpdateWindow::LinkActivated);
+    AddContent(m_notes);
+    m_linkButton = new QPushButton(
+        QCoreApplication::translate("PelnarEngine_UpdateWindow", "Show Release &Notes in Browser"), this);
+    m_linkButton->setObjectName(QStringLiteral("PelnarEngine_showNotesButton"));
+    m_linkButton->setAutoDefault(false);
+    connect(m_linkButton, &QPushButton::clicked, this, [this] { Q_EMIT LinkActivated(m_notesAddress); });
+    AddContent(m_linkButton);
+    SetReleaseNotes(notes);
+}
+
+void UpdateWindow::AddAnswers()
+{
+    auto const choose = [this](UpdateChoice choice) { return [this, choice] { Q_EMIT Chosen(choice); }; };
+    AddAnswer(QStringLiteral("PelnarEngine_skipButton"),
+              QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Skip This Version"), ButtonPlace::Start,
+              choose(UpdateChoice::SkipThisVersion));
+    QPushButton* const remindButton =
+        AddAnswer(QStringLiteral("PelnarEngine_remindButton"),
+                  QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Remind Me Later"), ButtonPlace::End,
+                  choose(UpdateChoice::RemindMeLater));
+    QPushButton* const installButton =
+        AddAnswer(QStringLiteral("PelnarEngine_installButton"),
+                  QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Install Update"), ButtonPlace::End,
+                  choose(UpdateChoice::InstallUpdate));
+    SetDefaultAnswer(installButton, remindButton);
+    SetDismissal(choose(UpdateChoice::RemindMeLater));
+}
+
+void UpdateWindow::SetReleaseNotes(ReleaseNotes const& notes)
+{
+    m_notesAddress = SafeUrl(notes.address);
+    m_notes->ShowNotes(notes.text, notes.format);
+    bool const hasText = !m_notes->document()->isEmpty();
+    m_notes->setVisible(hasText);
+    m_linkButton->setVisible(!hasText && !m_notesAddress.isEmpty());
+    m_linkButton->setToolTip(QString::fromLatin1(m_notesAddress.toEncoded()));
+    GrowToContent();
+}
+
+} // namespace Pelnar::Engine

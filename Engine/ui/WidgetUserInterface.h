@@ -1,0 +1,53 @@
+// WidgetUserInterface.h: the user interface of windows.
+// Thread: the Qt main thread. Ownership: owns the window that is shown; a window that has gone is deleted by the event
+// loop, because it may still be in the middle of telling its answer.
+#pragma once
+
+#include "Engine/ui/IUserInterface.h"
+
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+namespace Pelnar::Engine
+{
+
+class EngineWindow;
+class ProgressWindow;
+class UpdateWindow;
+
+class WidgetUserInterface final : public IUserInterface
+{
+public:
+    /// \a openLink hands an address that a person clicked to the desktop; http, https and mailto only.
+    explicit WidgetUserInterface(std::function<void(QUrl const&)> openLink);
+    ~WidgetUserInterface() override;
+
+    void ShowChecking(std::function<void()> onCancelled) override;
+    void ShowUpToDate(NamedVersion const& installed, std::function<void()> onClosed) override;
+    void ShowUpdate(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen) override;
+    void ReplaceReleaseNotes(ReleaseNotes const& notes) override;
+    void ShowDownload(NamedVersion const& update, std::function<void()> onCancelled) override;
+    void SetProgress(UpdateProgress const& progress) override;
+    void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
+                            std::function<void(ReadyChoice)> onChosen) override;
+    void ShowError(QString const& sentence, std::function<void()> onClosed) override;
+    void BringToFront() override;
+    void Close() override;
+
+private:
+    struct DeleteLater
+    {
+        void operator()(EngineWindow* window) const;
+    };
+
+    /// Puts \a window in the place of the one before; its signal \a answered ends it and calls \a callback.
+    template <typename Window, typename Signal, typename Callback>
+    void Show(Window* window, Signal answered, Callback callback);
+
+    std::function<void(QUrl const&)> m_openLink;
+    std::unique_ptr<EngineWindow, DeleteLater> m_window;
+};
+
+} // namespace Pelnar::Engine

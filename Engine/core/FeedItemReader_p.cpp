@@ -98,7 +98,7 @@ QString FormatOf(QXmlStreamAttributes const& attributes)
 {
     for (QXmlStreamAttribute const& attribute : attributes)
     {
-        if (IsFeedNamespace(attribute.namespaceUri()) && attribute.name() == QLatin1String("format"))
+        if (IsFeedNamespace(attribute.namespaceUri()) && IsNamed(attribute.name(), QLatin1String("format")))
         {
             return CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
         }
@@ -112,9 +112,9 @@ QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
     QStringRef const name = attribute.name();
     if (attribute.namespaceUri().isEmpty())
     {
-        return name == QLatin1String("url")      ? &enclosure.url
-               : name == QLatin1String("length") ? &enclosure.length
-                                                 : nullptr;
+        return IsNamed(name, QLatin1String("url"))      ? &enclosure.url
+               : IsNamed(name, QLatin1String("length")) ? &enclosure.length
+                                                        : nullptr;
     }
     if (!IsFeedNamespace(attribute.namespaceUri()))
     {
@@ -130,7 +130,7 @@ QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
     };
     for (auto const& [text, member] : MEMBERS)
     {
-        if (name == text)
+        if (IsNamed(name, text))
         {
             return &(enclosure.*member);
         }
@@ -173,7 +173,7 @@ Enclosure ReadEnclosure(FeedWalker& walker)
 
 bool IsPlainElement(QXmlStreamReader const& reader, QLatin1String name)
 {
-    return reader.namespaceUri().isEmpty() && reader.name() == name;
+    return reader.namespaceUri().isEmpty() && IsNamed(reader.name(), name);
 }
 
 QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclosure>& deltas)
@@ -220,33 +220,33 @@ void TakeIfFirst(QString& value, QString const& text)
 /// Where the text of the feed's own element \a name goes, or null.
 QString* FeedTextPlace(ItemDraft& draft, QStringRef name)
 {
-    if (name == QLatin1String("version"))
+    if (IsNamed(name, QLatin1String("version")))
     {
         return &draft.versionElement;
     }
-    if (name == QLatin1String("shortVersionString"))
+    if (IsNamed(name, QLatin1String("shortVersionString")))
     {
         return &draft.displayVersionElement;
     }
-    if (name == QLatin1String("minimumSystemVersion"))
+    if (IsNamed(name, QLatin1String("minimumSystemVersion")))
     {
         return &draft.item.minimumSystemVersion;
     }
-    return name == QLatin1String("maximumSystemVersion") ? &draft.item.maximumSystemVersion : nullptr;
+    return IsNamed(name, QLatin1String("maximumSystemVersion")) ? &draft.item.maximumSystemVersion : nullptr;
 }
 
 QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
 {
     QStringRef const name = walker.Reader().name();
-    if (name == QLatin1String("deltas"))
+    if (IsNamed(name, QLatin1String("deltas")))
     {
         return ReadDeltas(walker, context.platform, draft.deltas);
     }
     // Decided before the element is read: the name does not outlive the reader's next step.
     QString* const place = FeedTextPlace(draft, name);
-    bool const isTags = name == QLatin1String("tags");
-    bool const isCritical = name == QLatin1String("criticalUpdate");
-    bool const isReleaseNotes = name == QLatin1String("releaseNotesLink");
+    bool const isTags = IsNamed(name, QLatin1String("tags"));
+    bool const isCritical = IsNamed(name, QLatin1String("criticalUpdate"));
+    bool const isReleaseNotes = IsNamed(name, QLatin1String("releaseNotesLink"));
     int const rank = isReleaseNotes ? LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages) : 0;
     FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
     if (place != nullptr)
@@ -276,7 +276,7 @@ QVariant ReadDescription(FeedWalker& walker, FeedItemContext const& context, Loc
 QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
 {
     QXmlStreamReader const& reader = walker.Reader();
-    if (reader.name() == QLatin1String("enclosure"))
+    if (IsNamed(reader.name(), QLatin1String("enclosure")))
     {
         Enclosure enclosure = ReadEnclosure(walker);
         QVariant const value = enclosure.attributes;
@@ -290,14 +290,14 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
         }
         return value;
     }
-    if (reader.name() == QLatin1String("description"))
+    if (IsNamed(reader.name(), QLatin1String("description")))
     {
         return ReadDescription(walker, context, draft.description);
     }
-    bool const isTitle = reader.name() == QLatin1String("title");
-    QString* const place = reader.name() == QLatin1String("pubDate") ? &draft.item.dateString
-                           : reader.name() == QLatin1String("link")  ? &draft.link
-                                                                     : nullptr;
+    bool const isTitle = IsNamed(reader.name(), QLatin1String("title"));
+    QString* const place = IsNamed(reader.name(), QLatin1String("pubDate")) ? &draft.item.dateString
+                           : IsNamed(reader.name(), QLatin1String("link"))  ? &draft.link
+                                                                            : nullptr;
     int const rank = isTitle ? LanguageRank(LanguageOf(reader.attributes()), context.languages) : 0;
     FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
     if (isTitle)

@@ -1,6 +1,7 @@
 // FeedPrescan_p.cpp: one pass over the tags of a feed.
 #include "Engine/core/FeedPrescan_p.h"
 
+#include <algorithm>
 #include <array>
 #include <cstring>
 #include <string_view>
@@ -17,6 +18,8 @@ bool StartsWith(std::string_view text, std::string_view start)
 {
     return text.substr(0, start.size()) == start;
 }
+
+constexpr int SHORTEST_ATTRIBUTE = 4; ///< bytes: a name, "=" and two quotes
 
 /// The offset behind \a end, searched from \a from on; the size of \a text when it is missing.
 size_t Behind(std::string_view text, size_t from, std::string_view end)
@@ -37,6 +40,12 @@ size_t Behind(std::string_view text, size_t from, std::string_view end)
         ++from;
     }
     return text.size();
+}
+
+size_t NextOpening(std::string_view text, size_t from)
+{
+    void const* const found = std::memchr(text.data() + from, '<', text.size() - from);
+    return found == nullptr ? text.size() : static_cast<size_t>(static_cast<char const*>(found) - text.data());
 }
 
 struct Tag
@@ -116,15 +125,13 @@ Tag ScanTag(std::string_view text, size_t start, FeedLimits const& limits)
 FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
 {
     std::string_view const text(utf8.constData(), static_cast<size_t>(utf8.size()));
-    size_t at = 0;
-    while (at < text.size())
+    // No "<" stands inside a well-formed tag, so a tag ends before the next one; and what is shorter
+    // than its attributes would be cannot have too many of them.
+    size_t const harmless =
+        static_cast<size_t>(std::min(std::max(limits.maxAttributes, 0), limits.maxTagBytes / SHORTEST_ATTRIBUTE)) *
+        SHORTEST_ATTRIBUTE;
+    for (size_t at = NextOpening(text, 0); at < text.size(); at = NextOpening(text, at))
     {
-        void const* const found = std::memchr(text.data() + at, '<', text.size() - at);
-        if (found == nullptr)
-        {
-            break;
-        }
-        at = static_cast<size_t>(static_cast<char const*>(found) - text.data());
         std::string_view const rest = text.substr(at);
         if (StartsWith(rest, "<!--"sv))
         {
@@ -146,6 +153,12 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
         }
         else
         {
+            size_t const next = NextOpening(text, at + 1);
+            if (next - at <= harmless)
+            {
+                at = next;
+                continue;
+            }
             Tag const tag = ScanTag(text, at, limits);
             if (tag.attributes > limits.maxAttributes)
             {

@@ -59,7 +59,7 @@ FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind)
     while (walker.EnterChild(&text))
     {
         QString const name = CurrentName(walker);
-        if (name == QLatin1String("sparkle:criticalUpdate"))
+        if (IsNamed(QStringRef(&name), QLatin1String("sparkle:criticalUpdate")))
         {
             element.hasFeedCriticalUpdate = true;
         }

@@ -1,6 +1,7 @@
 // FeedText_p.cpp: single values of a feed.
 #include "Engine/core/FeedText_p.h"
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -27,30 +28,46 @@ bool IsUnsafe(ushort unit, FeedTextKind kind)
     return IsUnsafe(unit) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(unit));
 }
 
-/// The index of the first unsafe character at or behind \a from; the size of \a text when there is none.
-int NextUnsafe(QString const& text, int from, FeedTextKind kind)
+constexpr int UNITS_AT_ONCE = sizeof(quint64) / sizeof(ushort);
+
+/// True when all of four characters are ordinary ASCII: below 0x80, and neither below 0x20 nor 0x7F.
+inline bool AreOrdinary(ushort const* units)
 {
-    constexpr int UNITS = sizeof(quint64) / sizeof(ushort);
     constexpr quint64 ONES = Q_UINT64_C(0x0001000100010001);
-    ushort const* const units = text.utf16();
-    int const size = text.size();
-    for (int i = from; i < size; ++i)
+    quint64 four;
+    std::memcpy(&four, units, sizeof four);
+    quint64 const isHigh = four & (ONES * 0xFF80);
+    quint64 const isLow = (four - ONES * 0x20) & (ONES * 0x8000);
+    quint64 const isDelete = (four + ONES) & (ONES * 0x80);
+    return (isHigh | isLow | isDelete) == 0;
+}
+
+/// The index of the first unsafe character at or behind \a from; \a size when there is none.
+int NextUnsafe(ushort const* units, int from, int size, FeedTextKind kind)
+{
+    int i = from;
+    while (i < size)
     {
-        // Four at a time while all of them are ordinary ASCII: below 0x80, and neither below 0x20 nor 0x7F.
-        for (quint64 four = 0; size - i >= UNITS; i += UNITS)
+        int const left = size - i;
+        if (left >= UNITS_AT_ONCE && AreOrdinary(units + i))
         {
-            std::memcpy(&four, units + i, sizeof four);
-            quint64 const isHigh = four & (ONES * 0xFF80);
-            quint64 const isLow = (four - ONES * 0x20) & (ONES * 0x8000);
-            quint64 const isDelete = (four + ONES) & (ONES * 0x80);
-            if ((isHigh | isLow | isDelete) != 0)
-            {
-                break;
-            }
+            i += UNITS_AT_ONCE;
         }
-        if (i < size && IsUnsafe(units[i], kind))
+        // The last few are looked at together with the ones before them.
+        else if (left < UNITS_AT_ONCE && size >= UNITS_AT_ONCE && AreOrdinary(units + size - UNITS_AT_ONCE))
         {
-            return i;
+            return size;
+        }
+        else
+        {
+            int const end = i + std::min(left, UNITS_AT_ONCE);
+            for (; i < end; ++i)
+            {
+                if (IsUnsafe(units[i], kind))
+                {
+                    return i;
+                }
+            }
         }
     }
     return size;
@@ -66,11 +83,13 @@ bool IsExtension(QStringRef text)
 
 QString CleanFeedText(QString text, FeedTextKind kind)
 {
-    if (kind == FeedTextKind::SingleLine)
+    if (kind == FeedTextKind::SingleLine && !text.isEmpty() &&
+        (text.at(0).isSpace() || text.at(text.size() - 1).isSpace()))
     {
         text = std::move(text).trimmed();
     }
-    for (int i = NextUnsafe(text, 0, kind); i < text.size(); i = NextUnsafe(text, i + 1, kind))
+    int const size = text.size();
+    for (int i = NextUnsafe(text.utf16(), 0, size, kind); i < size; i = NextUnsafe(text.utf16(), i + 1, size, kind))
     {
         text[i] = QLatin1Char(' ');
     }

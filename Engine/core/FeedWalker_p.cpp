@@ -207,17 +207,22 @@ void FeedWalker::Refuse(FeedErrorKind kind)
 
 QString FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
 {
-    for (KnownName const& known : knownNames)
+    // Items are alike: the name that came next last time most often comes next again.
+    for (size_t tried = 0; tried < knownNames.size(); ++tried)
     {
+        expectedName = expectedName + 1 < knownNames.size() ? expectedName + 1 : 0;
+        KnownName const& known = knownNames[expectedName];
         if (IsEqual(known.qualifiedName, qualifiedName) && IsEqual(known.namespaceUri, namespaceUri))
         {
             return known.propertyName;
         }
     }
-    QString propertyName = MakePropertyName(namespaceUri, name, qualifiedName);
+    QString const propertyName = MakePropertyName(namespaceUri, name, qualifiedName);
     if (knownNames.size() < MOST_KNOWN_NAMES)
     {
-        knownNames.push_back({qualifiedName.toString(), namespaceUri.toString(), propertyName});
+        // Most names need one text only: they are shown as written, in no namespace or in the feed's.
+        knownNames.push_back({IsEqual(propertyName, qualifiedName) ? propertyName : qualifiedName.toString(),
+                              IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), propertyName});
     }
     return propertyName;
 }

@@ -53,6 +53,7 @@ private:
     int namespacesInScope = 0;
     std::vector<std::pair<int, int>> namespacesByDepth; ///< only the depths that declare some, with their number
     std::vector<KnownName> knownNames;
+    size_t expectedName = 0; ///< where the last name was found
 };
 
 /// An error of \a kind at a place, with its sentence.
@@ -60,5 +61,11 @@ private:
 
 /// Whether \a namespaceUri is the feed's own.
 [[nodiscard]] bool IsFeedNamespace(QStringRef namespaceUri);
+
+/// Equality, decided by the length most of the time and then without a call.
+inline bool IsNamed(QStringRef name, QLatin1String text)
+{
+    return name.size() == text.size() && name == text;
+}
 
 } // namespace Pelnar::Engine

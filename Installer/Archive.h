@@ -2,8 +2,8 @@
 // Thread: one at a time. Ownership: the archive's descriptor stays the caller's; its read position is not used.
 #pragma once
 
-#include "Engine/core/ArchiveEntryPolicy.h"
 #include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
 
 #include <cstdint>
 #include <functional>

@@ -1,8 +1,8 @@
 #include "Installer/BundleInformation.h"
 
-#include "Engine/core/PropertyList.h"
-#include "Engine/core/UpdateFault.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/PropertyList.h"
+#include "Engine/core/payload/UpdateFault.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "Installer/InstallUpdate.h"
 
-#include "Engine/core/TreeManifest.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/Relaunch.h"

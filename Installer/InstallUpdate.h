@@ -3,7 +3,7 @@
 // killed child leaves. Ownership: descriptors stay the caller's.
 #pragma once
 
-#include "Engine/core/UpdateJob.h"
+#include "Engine/core/payload/UpdateJob.h"
 #include "Installer/ReportChannel.h"
 
 namespace Pelnar::Installer

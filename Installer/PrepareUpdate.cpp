@@ -1,9 +1,9 @@
 #include "Installer/PrepareUpdate.h"
 
-#include "Engine/core/Ed25519Signature.h"
-#include "Engine/core/TreeManifest.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
 #include "Installer/Confinement.h"
 #include "Installer/UnpackArchive.h"

@@ -2,7 +2,7 @@
 // Thread: the process' only one; the process is confined for good. Ownership: descriptors stay the caller's.
 #pragma once
 
-#include "Engine/core/UpdateJob.h"
+#include "Engine/core/payload/UpdateJob.h"
 #include "Installer/ReportChannel.h"
 
 namespace Pelnar::Installer

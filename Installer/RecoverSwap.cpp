@@ -1,8 +1,8 @@
 #include "Installer/RecoverSwap.h"
 
-#include "Engine/core/StagingFolder.h"
-#include "Engine/core/SwapJournal.h"
-#include "Engine/core/TreeManifest.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>

@@ -2,7 +2,7 @@
 // Thread: the process' only one. Ownership: descriptors stay the caller's.
 #pragma once
 
-#include "Engine/core/HelperReport.h"
+#include "Engine/core/payload/HelperReport.h"
 
 #include <string>
 

@@ -1,7 +1,7 @@
 #include "Installer/Relaunch.h"
 
-#include "Engine/core/StagingFolder.h"
-#include "Engine/core/UpdateFault.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/UpdateFault.h"
 #include "Installer/BundleInformation.h"
 
 #include <cerrno>

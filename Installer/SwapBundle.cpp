@@ -1,6 +1,6 @@
 #include "Installer/SwapBundle.h"
 
-#include "Engine/core/StagingFolder.h"
+#include "Engine/core/payload/StagingFolder.h"
 #include "Installer/BundleInformation.h"
 
 #include <cerrno>

@@ -2,8 +2,8 @@
 // Thread: the process' only one. Ownership: descriptors stay the caller's.
 #pragma once
 
-#include "Engine/core/SwapJournal.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/SwapJournal.h"
 
 #include <optional>
 #include <string>

@@ -1,8 +1,8 @@
 #include "Installer/UnpackArchive.h"
 
-#include "Engine/core/TreeManifest.h"
-#include "Engine/core/ZipStructure.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/payload/ZipStructure.h"
 #include "Installer/Archive.h"
 
 #include <cerrno>

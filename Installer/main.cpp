@@ -1,7 +1,7 @@
 // The installer's helper. It takes one word, "prepare", "install" or "recover", and everything else from inherited
 // descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other argument.
 
-#include "Engine/core/UpdateJob.h"
+#include "Engine/core/payload/UpdateJob.h"
 #include "Installer/InstallUpdate.h"
 #include "Installer/PrepareUpdate.h"
 #include "Installer/RecoverSwap.h"

@@ -1,7 +1,7 @@
 // FeedParsingBench.cpp: parsing a feed beside a bare QXmlStreamReader loop that keeps the same fields and checks
 // nothing: no limits, no namespaces by address, no clean-up of texts.
 
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 #include "bench/Ratios.h"
 
 #include <benchmark/benchmark.h>

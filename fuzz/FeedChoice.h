@@ -2,7 +2,7 @@
 // Thread: any. Ownership: the choice points into the items it was made from.
 #pragma once
 
-#include "Engine/core/FeedItem.h"
+#include "Engine/core/feed/FeedItem.h"
 #include "HostFramework/Version.h"
 
 #include <vector>

@@ -1,7 +1,7 @@
 // FeedFuzz.cpp: the bytes of a feed, its items and the choice among them: the limits hold, and the same bytes give the
 // same answer.
 
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 #include "fuzz/FeedChoice.h"
 
 #include <QByteArray>

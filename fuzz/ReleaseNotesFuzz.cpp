@@ -1,7 +1,7 @@
 // ReleaseNotesFuzz.cpp: the first byte names the format, the rest are release notes: what the filter puts out keeps its
 // promises and comes out of it unchanged.
 
-#include "Engine/core/ReleaseNotesFilter.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "tests/engine_ui/SafeMarkup.h"
 
 #include <cstddef>

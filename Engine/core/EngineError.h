@@ -3,7 +3,7 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 
 #include <QByteArray>
 #include <QString>
@@ -11,12 +11,26 @@
 namespace Pelnar::Engine
 {
 
-/// The published codes of the engine's error domain that a check reports.
+/// The published codes of the engine's error domain.
 enum class ErrorCode
 {
     AppcastParse = 1000,
     NoUpdate = 1001,
     Appcast = 1002,
+
+    TemporaryFolder = 2000,
+    Download = 2001,
+
+    Unarchiving = 3000,
+    Signature = 3001,
+    Validation = 3002,
+
+    FileCopy = 4000,
+    Relaunch = 4004,
+    Installation = 4005,
+    Downgrade = 4006,
+    Cancelled = 4007,
+    NotWritable = 4012,
 };
 
 /// What happened. The numbers are published: they are the codes of the underlying errors and never change.

@@ -11,7 +11,7 @@
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
-#include "Engine/core/CheckRun.h"
+#include "Engine/core/check/CheckRun.h"
 
 namespace Pelnar::Engine
 {

@@ -4,7 +4,7 @@
 
 #import <Sparkle/SUAppcastItem.h>
 
-#include "Engine/core/FeedItem.h"
+#include "Engine/core/feed/FeedItem.h"
 
 @interface SUAppcastItem (Engine)
 

@@ -4,7 +4,7 @@
 
 #import <Sparkle/SUAppcast.h>
 
-#include "Engine/core/CheckRun.h"
+#include "Engine/core/check/CheckRun.h"
 
 #include <optional>
 #include <vector>

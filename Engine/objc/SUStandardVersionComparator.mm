@@ -1,6 +1,6 @@
 #import <Sparkle/SUStandardVersionComparator.h>
 
-#include "Engine/core/StandardVersionComparison.h"
+#include "Engine/core/check/StandardVersionComparison.h"
 #include "Foundation/FoundationText.h"
 
 using Pelnar::Foundation::ToQString;

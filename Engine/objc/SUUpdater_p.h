@@ -4,7 +4,7 @@
 
 #import <Sparkle/SUUpdater.h>
 
-#include "Engine/core/FetchPolicy.h"
+#include "Engine/core/fetch/FetchPolicy.h"
 
 @interface SUUpdater (Engine)
 

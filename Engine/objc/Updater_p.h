@@ -5,7 +5,7 @@
 
 #import <Sparkle/Sparkle.h>
 
-#include "Engine/core/CheckRun.h"
+#include "Engine/core/check/CheckRun.h"
 #include "Foundation/Retained.h"
 
 #include <memory>

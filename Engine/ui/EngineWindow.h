@@ -3,7 +3,7 @@
 // Thread: the Qt main thread. Ownership: whoever made it; its texts are those of the language at that time.
 #pragma once
 
-#include "Engine/ui/WindowContent.h"
+#include "Engine/core/update/WindowContent.h"
 
 #include <QDialog>
 

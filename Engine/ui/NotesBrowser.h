@@ -2,7 +2,7 @@
 // https or mailto link is told by a signal. Thread: the Qt main thread. Ownership: by its parent.
 #pragma once
 
-#include "Engine/core/ReleaseNotesFilter.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
 
 #include <QTextBrowser>
 #include <QUrl>

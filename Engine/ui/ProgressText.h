@@ -2,7 +2,7 @@
 // Thread: the Qt main thread (translations). Ownership: values only.
 #pragma once
 
-#include "Engine/ui/WindowContent.h"
+#include "Engine/core/update/WindowContent.h"
 
 #include <QString>
 

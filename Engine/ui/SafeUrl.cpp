@@ -1,6 +1,6 @@
 #include "Engine/ui/SafeUrl.h"
 
-#include "Engine/core/ReleaseNotesLink.h"
+#include "Engine/core/notes/ReleaseNotesLink.h"
 
 namespace Pelnar::Engine
 {

@@ -1,4 +1,4 @@
-// SafeUrl.h: the rule for links (Engine/core/ReleaseNotesLink.h) on Qt's addresses.
+// SafeUrl.h: the rule for links (Engine/core/notes/ReleaseNotesLink.h) on Qt's addresses.
 // Thread: any; no state. Ownership: values only.
 #pragma once
 

@@ -3,7 +3,7 @@
 // loop, because it may still be in the middle of telling its answer.
 #pragma once
 
-#include "Engine/ui/IUserInterface.h"
+#include "Engine/core/update/IUserInterface.h"
 
 #include <QUrl>
 

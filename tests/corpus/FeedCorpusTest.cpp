@@ -4,7 +4,7 @@
 // columns file, local, system, outcome, version, delta_from, length, url. The updater asks for the system's version
 // once in a process, so the choices for one system version are made by one child process.
 
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
 #include "HostFramework/VersionText.h"
 #include "tests/corpus/ShippedChoice.h"

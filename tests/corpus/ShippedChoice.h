@@ -3,7 +3,7 @@
 // Thread: the Qt main thread. Ownership: values only.
 #pragma once
 
-#include "Engine/core/FeedItem.h"
+#include "Engine/core/feed/FeedItem.h"
 #include "HostFramework/Version.h"
 
 #include <QString>

@@ -1,7 +1,7 @@
 // ShippedChoiceTest.cpp: from the bytes of a feed to the session's answer, through the engine's own objects.
 
 #include "tests/corpus/ShippedChoice.h"
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 // Thread: main. Ownership: a scope object; the updater is the process's own.
 #pragma once
 
-#include "Engine/core/FetchPolicy.h"
+#include "Engine/core/fetch/FetchPolicy.h"
 
 #include <QString>
 #include <QUrl>

@@ -2,7 +2,7 @@
 // Thread: any. Ownership: values only.
 #pragma once
 
-#include "Engine/core/FeedParser.h"
+#include "Engine/core/feed/FeedParser.h"
 
 #include <QByteArray>
 #include <QUrl>

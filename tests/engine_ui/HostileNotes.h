@@ -2,7 +2,7 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
-#include "Engine/core/ReleaseNotesFilter.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
 
 #include <string>
 #include <vector>

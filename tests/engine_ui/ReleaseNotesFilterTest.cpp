@@ -1,5 +1,5 @@
-#include "Engine/core/ReleaseNotesFilter.h"
-#include "Engine/core/ReleaseNotesLink.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
+#include "Engine/core/notes/ReleaseNotesLink.h"
 #include "tests/engine_ui/HostileNotes.h"
 #include "tests/engine_ui/SafeMarkup.h"
 

@@ -1,4 +1,4 @@
-#include "Engine/core/ArchiveEntryPolicy.h"
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Engine/core/Ed25519Signature.h"
+#include "Engine/core/payload/Ed25519Signature.h"
 #include "tests/installer/Ed25519Vectors.h"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // FaultSweepTest.cpp: kills and failing system calls at every place of the helper's life. The default run takes every
 // seventh place; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
-#include "Engine/core/SwapJournal.h"
-#include "Engine/core/TreeManifest.h"
+#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

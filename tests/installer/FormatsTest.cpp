@@ -1,6 +1,6 @@
 #include "tests/installer/InstallerFixture.h"
 
-#include "Engine/core/SwapJournal.h"
+#include "Engine/core/payload/SwapJournal.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "Engine/core/SwapJournal.h"
-#include "Engine/core/TreeManifest.h"
+#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "Installer/Relaunch.h"
 #include "tests/installer/InstallerFixture.h"
 

@@ -2,9 +2,9 @@
 // Thread: one. Ownership: scope objects; folders and processes end with them.
 #pragma once
 
-#include "Engine/core/HelperReport.h"
-#include "Engine/core/StagingFolder.h"
-#include "Engine/core/UpdateJob.h"
+#include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/UpdateJob.h"
 #include "tests/installer/ArchiveForge.h"
 #include "tests/installer/Ed25519Vectors.h"
 

@@ -1,4 +1,4 @@
-#include "Engine/core/PropertyList.h"
+#include "Engine/core/payload/PropertyList.h"
 
 #include <gtest/gtest.h>
 

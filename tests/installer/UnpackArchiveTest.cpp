@@ -1,6 +1,6 @@
 #include "Installer/UnpackArchive.h"
 
-#include "Engine/core/TreeManifest.h"
+#include "Engine/core/payload/TreeManifest.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

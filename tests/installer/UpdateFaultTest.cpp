@@ -1,4 +1,4 @@
-#include "Engine/core/UpdateFault.h"
+#include "Engine/core/payload/UpdateFault.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Engine/core/ZipStructure.h"
+#include "Engine/core/payload/ZipStructure.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // Thread: main, with an application object. Ownership: values.
 #pragma once
 
-#include "Engine/core/FeedFetcher.h"
+#include "Engine/core/fetch/FeedFetcher.h"
 #include "tests/support/DialogDriver.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // FetchPolicyTest.cpp: the decisions about addresses, redirects and requests on plain values.
-#include "Engine/core/FetchPolicy.h"
+#include "Engine/core/fetch/FetchPolicy.h"
 
 #include <gtest/gtest.h>
 

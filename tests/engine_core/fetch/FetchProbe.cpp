@@ -1,6 +1,6 @@
 // FetchProbe.cpp: fetches one address and prints what came of it, for tests that look at a process from outside.
 // Usage: fetch_probe URL [AUTHORITY-FILE]
-#include "Engine/core/FeedFetcher.h"
+#include "Engine/core/fetch/FeedFetcher.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,8 +1,8 @@
 // PolicyTest.cpp: offering an item, ordering version texts, wording errors: the engine's other decisions on plain
 // values.
-#include "Engine/core/CheckPolicy.h"
 #include "Engine/core/EngineError.h"
-#include "Engine/core/StandardVersionComparison.h"
+#include "Engine/core/check/CheckPolicy.h"
+#include "Engine/core/check/StandardVersionComparison.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/TestCertificates.h"
 
-#include "Engine/core/HttpConnection.h"
+#include "Engine/core/fetch/HttpConnection.h"
 
 #include <QProcess>
 #include <QRegularExpression>

@@ -1,0 +1,38 @@
+#include "Engine/core/check/CheckPolicy.h"
+
+namespace Pelnar::Engine
+{
+
+OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order)
+{
+    if (!question.bundleVersion.isEmpty() && order(question.bundleVersion, question.itemVersion) >= 0)
+    {
+        return OfferVerdict::NotNewer;
+    }
+    if (question.kind != CheckKind::Interactive && !question.skippedVersion.isEmpty() &&
+        (question.itemVersion == question.skippedVersion || order(question.skippedVersion, question.itemVersion) >= 0))
+    {
+        return OfferVerdict::Skipped;
+    }
+    return OfferVerdict::Offered;
+}
+
+std::optional<int> NewestItem(std::vector<FeedItem> const& items, VersionOrder const& order)
+{
+    std::optional<int> newest;
+    for (int position = 0; position < static_cast<int>(items.size()); ++position)
+    {
+        FeedItem const& item = items[static_cast<size_t>(position)];
+        if (item.fileUrl.isEmpty() || item.versionString.isEmpty())
+        {
+            continue;
+        }
+        if (!newest || order(items[static_cast<size_t>(*newest)].versionString, item.versionString) < 0)
+        {
+            newest = position;
+        }
+    }
+    return newest;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,97 @@
+// CheckRun.h: one check, from the feed's address to the outcome: fetch, parse, ask, judge, tell.
+// Thread: the one that made it, with Qt's event loop. Ownership: the updater owns the run and is its host; the run owns
+// the fetch and the items.
+#pragma once
+
+#include "Engine/core/EngineError.h"
+#include "Engine/core/check/CheckPolicy.h"
+#include "Engine/core/feed/FeedParser.h"
+#include "Engine/core/fetch/FeedFetcher.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QUrl>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+struct CheckSettings
+{
+    QUrl feedUrl;
+    QString bundleVersion;
+    QString skippedVersion;
+    QStringList languages;
+    FeedPlatform platform = FeedPlatform::Linux;
+    InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
+    FetchLimits fetchLimits;
+    FeedLimits feedLimits;
+};
+
+/// An item of the loaded feed, or a delta of one.
+struct ItemPlace
+{
+    int item = 0;
+    std::optional<int> delta;
+};
+
+/// What the application answered when it was asked for the best item.
+struct BestItemAnswer
+{
+    enum class Kind
+    {
+        None,
+        Place,
+        Foreign,  ///< something that is not of this feed
+        NotAsked, ///< the application leaves the choice to the engine
+    };
+    Kind kind = Kind::None;
+    ItemPlace place;
+};
+
+/// The updater as a check sees it. Whatever an operation throws is taken for a failure of the application.
+class ICheckHost
+{
+public:
+    virtual ~ICheckHost() = default;
+
+    /// \a items live as long as the run.
+    virtual void FeedLoaded(std::vector<FeedItem> const& items) = 0;
+    virtual BestItemAnswer AskForBestItem() = 0;
+    /// As VersionOrder.
+    virtual int CompareVersions(QString const& a, QString const& b) = 0;
+    virtual void TellFound(ItemPlace const& place) = 0;
+    virtual void TellNotFound() = 0;
+    virtual void TellAborted(EngineError const& error) = 0;
+    /// The last call. The run may be deleted later (deleteLater) from here on.
+    virtual void CheckEnded() = 0;
+};
+
+class CheckRun : public QObject
+{
+    Q_OBJECT
+public:
+    CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host);
+
+    /// Everything that the host hears comes later, from the event loop.
+    void Start();
+
+private:
+    void TakeFeed(FetchOutcome const& outcome);
+    /// Asks the host and judges its answer: the place to offer, or nothing; an error when the answer is of no use.
+    std::optional<ItemPlace> Choose(std::optional<EngineError>& error);
+    FeedItem const& At(ItemPlace const& place) const;
+    void Tell(std::optional<ItemPlace> const& place);
+    void Abort(EngineError const& error);
+
+    CheckKind m_kind;
+    CheckSettings m_settings;
+    ICheckHost& m_host;
+    FeedFetcher m_fetcher;
+    std::vector<FeedItem> m_items;
+};
+
+} // namespace Pelnar::Engine

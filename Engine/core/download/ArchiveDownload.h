@@ -1,0 +1,65 @@
+// ArchiveDownload.h: brings one archive from a server to a file, in constant memory, and goes on where an interrupted
+// download of the same archive stopped, even one of a process that was killed.
+// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it cancels the download,
+// keeps what is on the disk for the next one, and nothing is called any more.
+#pragma once
+
+#include "Engine/core/EngineError.h"
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/fetch/FetchPolicy.h"
+
+#include <QString>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Pelnar::Engine
+{
+
+struct DownloadRequest
+{
+    QUrl url;
+    quint64 declaredBytes = 0; ///< the length that the feed gives; a body of any other length is refused
+    QString signature;         ///< as the feed gives it; with address and length it tells one archive from another
+    QString folder;            ///< absolute; made if missing; this user's alone; where the file grows
+    InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
+    FetchLimits limits; ///< maxBodyBytes and totalTimeout do not apply to an archive
+};
+
+struct DownloadProgress
+{
+    quint64 doneBytes = 0; ///< with what was there before
+    quint64 totalBytes = 0;
+    quint64 bytesPerSecond = 0; ///< over the last seconds; 0 while unknown
+};
+
+struct DownloadOutcome
+{
+    std::optional<EngineError> error;
+    UniqueFd archive; ///< opened for reading only, at its start; nobody has it open for writing; not set on error
+};
+
+class ArchiveDownload
+{
+public:
+    explicit ArchiveDownload(DownloadRequest request);
+    ~ArchiveDownload();
+    ArchiveDownload(ArchiveDownload const&) = delete;
+    ArchiveDownload& operator=(ArchiveDownload const&) = delete;
+
+    /// Both callbacks come from the event loop, \a progress at most some ten times a second, \a finished once and last;
+    /// either may destroy this object. REQUIRES: called once.
+    void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
+
+    /// Removes the file of \a request, whole or partial, and what is known of it: for an archive that was refused, or is
+    /// not needed any more. Nothing happens when there is none.
+    static void Discard(DownloadRequest const& request);
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,414 @@
+// FeedItemReader_p.cpp: one <item> of a feed with its deltas.
+#include "Engine/core/feed/FeedItemReader_p.h"
+
+#include "Engine/core/feed/FeedProperties_p.h"
+
+#include <limits>
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+/// What one <enclosure> says; its texts are null when the attribute is absent.
+struct Enclosure
+{
+    QVariantMap attributes;
+    QString url;
+    QString length;
+    QString version;
+    QString displayVersion;
+    QString edSignature;
+    QString installationType;
+    QString operatingSystem;
+    QString deltaFrom;
+    int line = 0;
+    int column = 0;
+};
+
+/// The best so far of a text that may stand in several languages.
+struct LocalizedText
+{
+    QString text;
+    QString format;
+    int rank = std::numeric_limits<int>::max(); ///< lower is better; the first of equals stays
+};
+
+struct ItemDraft
+{
+    FeedItem item;
+    LocalizedText title;
+    LocalizedText description;
+    LocalizedText releaseNotes;
+    QString link;
+    QString versionElement;
+    QString displayVersionElement;
+    std::optional<Enclosure> enclosure; ///< the first for the platform
+    bool hasForeignEnclosure = false;
+    std::vector<Enclosure> deltas;
+};
+
+bool IsFor(FeedPlatform platform, QString const& operatingSystem)
+{
+    if (operatingSystem.isNull())
+    {
+        return true;
+    }
+    switch (platform)
+    {
+    case FeedPlatform::MacOS:
+        return operatingSystem.compare(QLatin1String("macos"), Qt::CaseInsensitive) == 0;
+    case FeedPlatform::Linux:
+        return operatingSystem.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
+    }
+    return false;
+}
+
+/// 0 for the most wanted language; behind the wanted ones a text without a language, then one in another.
+int LanguageRank(QStringRef language, QStringList const& wanted)
+{
+    if (language.isEmpty())
+    {
+        return wanted.size();
+    }
+    for (int i = 0; i < wanted.size(); ++i)
+    {
+        QString const tag = QString(wanted.at(i)).replace(QLatin1Char('_'), QLatin1Char('-'));
+        // "de" serves one who wants "de-AT", and "de-AT" one who wants "de".
+        bool const isPrefix =
+            tag.startsWith(language, Qt::CaseInsensitive) || language.startsWith(tag, Qt::CaseInsensitive);
+        int const shorter = qMin(tag.size(), language.size());
+        bool const endsThere = (tag.size() == shorter || tag.at(shorter) == QLatin1Char('-')) &&
+                               (language.size() == shorter || language.at(shorter) == QLatin1Char('-'));
+        if (isPrefix && endsThere)
+        {
+            return i;
+        }
+    }
+    return wanted.size() + 1;
+}
+
+QStringRef LanguageOf(QXmlStreamAttributes const& attributes)
+{
+    return attributes.value(QLatin1String("http://www.w3.org/XML/1998/namespace"), QLatin1String("lang"));
+}
+
+QString FormatOf(QXmlStreamAttributes const& attributes)
+{
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        if (IsFeedNamespace(attribute.namespaceUri()) && IsNamed(attribute.name(), QLatin1String("format")))
+        {
+            return CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
+        }
+    }
+    return {};
+}
+
+/// The member of \a enclosure that an attribute fills, or null.
+QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
+{
+    QStringRef const name = attribute.name();
+    if (attribute.namespaceUri().isEmpty())
+    {
+        return IsNamed(name, QLatin1String("url"))      ? &enclosure.url
+               : IsNamed(name, QLatin1String("length")) ? &enclosure.length
+                                                        : nullptr;
+    }
+    if (!IsFeedNamespace(attribute.namespaceUri()))
+    {
+        return nullptr;
+    }
+    static std::pair<QLatin1String, QString Enclosure::*> const MEMBERS[] = {
+        {QLatin1String("version"), &Enclosure::version},
+        {QLatin1String("shortVersionString"), &Enclosure::displayVersion},
+        {QLatin1String("edSignature"), &Enclosure::edSignature},
+        {QLatin1String("installationType"), &Enclosure::installationType},
+        {QLatin1String("os"), &Enclosure::operatingSystem},
+        {QLatin1String("deltaFrom"), &Enclosure::deltaFrom},
+    };
+    for (auto const& [text, member] : MEMBERS)
+    {
+        if (IsNamed(name, text))
+        {
+            return &(enclosure.*member);
+        }
+    }
+    return nullptr;
+}
+
+/// A function of its own: attributes that are held over the reader's next step are copied by it.
+void TakeAttributes(FeedWalker& walker, Enclosure& enclosure)
+{
+    QXmlStreamAttributes const attributes = walker.Reader().attributes();
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        QString const text = CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
+        enclosure.attributes.insert(
+            walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName()), text);
+        if (QString* const member = MemberFor(enclosure, attribute))
+        {
+            *member = text.isNull() ? QStringLiteral("") : text;
+        }
+    }
+}
+
+/// Reads the <enclosure> just entered, to its end.
+Enclosure ReadEnclosure(FeedWalker& walker)
+{
+    Enclosure enclosure;
+    enclosure.line = walker.Line();
+    enclosure.column = walker.Column();
+    TakeAttributes(walker, enclosure);
+    while (walker.EnterChild())
+    {
+        // An enclosure has no content of its own; what a feed puts there is kept like any property.
+        QXmlStreamReader const& reader = walker.Reader();
+        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        AddFeedProperty(enclosure.attributes, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
+    }
+    return enclosure;
+}
+
+bool IsPlainElement(QXmlStreamReader const& reader, QLatin1String name)
+{
+    return reader.namespaceUri().isEmpty() && IsNamed(reader.name(), name);
+}
+
+QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclosure>& deltas)
+{
+    QVariantMap properties = ReadFeedAttributes(walker);
+    while (walker.EnterChild())
+    {
+        QXmlStreamReader const& reader = walker.Reader();
+        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        if (!IsPlainElement(reader, QLatin1String("enclosure")))
+        {
+            AddFeedProperty(properties, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
+            continue;
+        }
+        Enclosure enclosure = ReadEnclosure(walker);
+        AddFeedProperty(properties, name, enclosure.attributes);
+        // Without the version that it starts from a delta serves nobody.
+        if (!enclosure.deltaFrom.isNull() && IsFor(platform, enclosure.operatingSystem))
+        {
+            deltas.push_back(std::move(enclosure));
+        }
+    }
+    return properties;
+}
+
+void TakeIfBetter(LocalizedText& best, int rank, QString const& text)
+{
+    if (rank < best.rank)
+    {
+        best.rank = rank;
+        best.text = text;
+    }
+}
+
+/// The first of several stays.
+void TakeIfFirst(QString& value, QString const& text)
+{
+    if (value.isNull())
+    {
+        value = text.isNull() ? QStringLiteral("") : text;
+    }
+}
+
+/// Where the text of the feed's own element \a name goes, or null.
+QString* FeedTextPlace(ItemDraft& draft, QStringRef name)
+{
+    if (IsNamed(name, QLatin1String("version")))
+    {
+        return &draft.versionElement;
+    }
+    if (IsNamed(name, QLatin1String("shortVersionString")))
+    {
+        return &draft.displayVersionElement;
+    }
+    if (IsNamed(name, QLatin1String("minimumSystemVersion")))
+    {
+        return &draft.item.minimumSystemVersion;
+    }
+    return IsNamed(name, QLatin1String("maximumSystemVersion")) ? &draft.item.maximumSystemVersion : nullptr;
+}
+
+QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
+{
+    QStringRef const name = walker.Reader().name();
+    if (IsNamed(name, QLatin1String("deltas")))
+    {
+        return ReadDeltas(walker, context.platform, draft.deltas);
+    }
+    // Decided before the element is read: the name does not outlive the reader's next step.
+    QString* const place = FeedTextPlace(draft, name);
+    bool const isTags = IsNamed(name, QLatin1String("tags"));
+    bool const isCritical = IsNamed(name, QLatin1String("criticalUpdate"));
+    bool const isReleaseNotes = IsNamed(name, QLatin1String("releaseNotesLink"));
+    int const rank = isReleaseNotes ? LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages) : 0;
+    FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
+    if (place != nullptr)
+    {
+        TakeIfFirst(*place, element.text);
+    }
+    else if (isReleaseNotes)
+    {
+        TakeIfBetter(draft.releaseNotes, rank, element.text);
+    }
+    draft.item.isCritical = draft.item.isCritical || isCritical || (isTags && element.hasFeedCriticalUpdate);
+    return element.value;
+}
+
+QVariant ReadDescription(FeedWalker& walker, FeedItemContext const& context, LocalizedText& description)
+{
+    int const rank = LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages);
+    QString const format = FormatOf(walker.Reader().attributes());
+    FeedElement element = ReadFeedElement(walker, FeedTextKind::Block);
+    if (rank < description.rank)
+    {
+        description = {element.text, format, rank};
+    }
+    return element.value;
+}
+
+QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
+{
+    QXmlStreamReader const& reader = walker.Reader();
+    if (IsNamed(reader.name(), QLatin1String("enclosure")))
+    {
+        Enclosure enclosure = ReadEnclosure(walker);
+        QVariant const value = enclosure.attributes;
+        if (!IsFor(context.platform, enclosure.operatingSystem))
+        {
+            draft.hasForeignEnclosure = true;
+        }
+        else if (!draft.enclosure)
+        {
+            draft.enclosure = std::move(enclosure);
+        }
+        return value;
+    }
+    if (IsNamed(reader.name(), QLatin1String("description")))
+    {
+        return ReadDescription(walker, context, draft.description);
+    }
+    bool const isTitle = IsNamed(reader.name(), QLatin1String("title"));
+    QString* const place = IsNamed(reader.name(), QLatin1String("pubDate")) ? &draft.item.dateString
+                           : IsNamed(reader.name(), QLatin1String("link"))  ? &draft.link
+                                                                            : nullptr;
+    int const rank = isTitle ? LanguageRank(LanguageOf(reader.attributes()), context.languages) : 0;
+    FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
+    if (isTitle)
+    {
+        TakeIfBetter(draft.title, rank, element.text);
+    }
+    else if (place != nullptr)
+    {
+        TakeIfFirst(*place, element.text);
+    }
+    return element.value;
+}
+
+void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext const& context)
+{
+    item.fileUrl = FeedAddress(enclosure.url, context.feedUrl);
+    item.contentLength = FeedLength(QStringRef(&enclosure.length), context.limits.maxContentLength);
+    item.edSignature = enclosure.edSignature;
+    item.installationType = enclosure.installationType;
+}
+
+FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemContext const& context)
+{
+    FeedItem delta;
+    delta.title = parent.title;
+    delta.dateString = parent.dateString;
+    delta.description = parent.description;
+    delta.descriptionFormat = parent.descriptionFormat;
+    delta.minimumSystemVersion = parent.minimumSystemVersion;
+    delta.maximumSystemVersion = parent.maximumSystemVersion;
+    delta.releaseNotesUrl = parent.releaseNotesUrl;
+    delta.infoUrl = parent.infoUrl;
+    delta.isCritical = parent.isCritical;
+    delta.versionString = enclosure.version.isNull() ? parent.versionString : enclosure.version;
+    delta.displayVersionString =
+        enclosure.displayVersion.isNull() ? parent.displayVersionString : enclosure.displayVersion;
+    delta.deltaFrom = enclosure.deltaFrom;
+    delta.isDelta = true;
+    delta.line = enclosure.line;
+    delta.column = enclosure.column;
+    ApplyEnclosure(delta, enclosure, context);
+    delta.inheritedProperties = parent.properties;
+    delta.properties = enclosure.attributes;
+    delta.properties.insert(QStringLiteral("enclosure"), enclosure.attributes);
+    return delta;
+}
+
+FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
+{
+    FeedItem& item = draft.item;
+    item.title = draft.title.text;
+    item.description = draft.description.text;
+    item.descriptionFormat = draft.description.format;
+    item.releaseNotesUrl = FeedAddress(draft.releaseNotes.text, context.feedUrl);
+    item.infoUrl = FeedAddress(draft.link, context.feedUrl);
+    item.versionString = draft.versionElement;
+    item.displayVersionString = draft.displayVersionElement;
+    if (draft.enclosure)
+    {
+        ApplyEnclosure(item, *draft.enclosure, context);
+        if (!draft.enclosure->version.isNull())
+        {
+            item.versionString = draft.enclosure->version;
+        }
+        if (!draft.enclosure->displayVersion.isNull())
+        {
+            item.displayVersionString = draft.enclosure->displayVersion;
+        }
+    }
+    if (item.versionString.isNull())
+    {
+        item.versionString = VersionInFileName(item.fileUrl);
+    }
+    item.deltas.reserve(draft.deltas.size());
+    for (Enclosure const& delta : draft.deltas)
+    {
+        item.deltas.push_back(MakeDelta(item, delta, context));
+    }
+    return std::move(item);
+}
+
+} // namespace
+
+std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& context)
+{
+    ItemDraft draft;
+    draft.item.line = walker.Line();
+    draft.item.column = walker.Column();
+    QVariantMap const attributes = ReadFeedAttributes(walker);
+    while (walker.EnterChild())
+    {
+        QXmlStreamReader const& reader = walker.Reader();
+        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+        QVariant value = reader.namespaceUri().isEmpty() ? ReadPlainChild(walker, context, draft)
+                         : IsFeedNamespace(reader.namespaceUri())
+                             ? ReadFeedChild(walker, context, draft)
+                             : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
+        AddFeedProperty(draft.item.properties, name, std::move(value));
+    }
+    for (auto attribute = attributes.cbegin(); attribute != attributes.cend(); ++attribute)
+    {
+        if (!draft.item.properties.contains(attribute.key()))
+        {
+            draft.item.properties.insert(attribute.key(), attribute.value());
+        }
+    }
+    if (draft.hasForeignEnclosure && !draft.enclosure)
+    {
+        return std::nullopt;
+    }
+    return Finish(std::move(draft), context);
+}
+
+} // namespace Pelnar::Engine

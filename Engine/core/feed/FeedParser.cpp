@@ -1,0 +1,106 @@
+// FeedParser.cpp: from the bytes of a feed to its items: decode, scan the tags, read.
+#include "Engine/core/feed/FeedParser.h"
+
+#include "Engine/core/feed/FeedEncoding_p.h"
+#include "Engine/core/feed/FeedItemReader_p.h"
+#include "Engine/core/feed/FeedPrescan_p.h"
+#include "Engine/core/feed/FeedWalker_p.h"
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+/// An error at a byte of \a utf8. Lines end as XML says: at a line feed, or at a carriage return without one.
+FeedParseError ErrorAt(FeedErrorKind kind, QByteArray const& utf8, int offset, FeedLimits const& limits)
+{
+    int line = 1;
+    int lineStart = 0;
+    for (int i = 0; i < offset; ++i)
+    {
+        bool const isLoneReturn = utf8.at(i) == '\r' && (i + 1 == utf8.size() || utf8.at(i + 1) != '\n');
+        if (utf8.at(i) == '\n' || isLoneReturn)
+        {
+            ++line;
+            lineStart = i + 1;
+        }
+    }
+    int const column = QString::fromUtf8(utf8.constData() + lineStart, offset - lineStart).size() + 1;
+    return MakeFeedError(kind, line, column, limits);
+}
+
+bool IsWebPage(QXmlStreamReader const& reader)
+{
+    return reader.name().compare(QLatin1String("html"), Qt::CaseInsensitive) == 0;
+}
+
+bool IsItem(QXmlStreamReader const& reader)
+{
+    return reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("item");
+}
+
+std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& context)
+{
+    std::vector<FeedItem> items;
+    int met = 0;
+    for (;;)
+    {
+        QXmlStreamReader::TokenType const token = walker.Advance();
+        if (token == QXmlStreamReader::Invalid || token == QXmlStreamReader::EndDocument)
+        {
+            return items;
+        }
+        if (token != QXmlStreamReader::StartElement)
+        {
+            continue;
+        }
+        if (walker.Depth() == 1 && IsWebPage(walker.Reader()))
+        {
+            walker.Refuse(FeedErrorKind::NotAFeed);
+        }
+        // Deliberate: an item counts wherever it stands; published feeds leave the channel out.
+        else if (IsItem(walker.Reader()))
+        {
+            if (++met > context.limits.maxItems)
+            {
+                walker.Refuse(FeedErrorKind::TooManyItems);
+            }
+            else if (std::optional<FeedItem> item = ReadFeedItem(walker, context))
+            {
+                items.push_back(std::move(*item));
+            }
+        }
+    }
+}
+
+} // namespace
+
+FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlatform platform, FeedLimits const& limits,
+                          QStringList const& languages)
+{
+    FeedParseResult result;
+    FeedDocument const document = DecodeFeed(bytes);
+    if (!document.isDecodable)
+    {
+        result.error = ErrorAt(FeedErrorKind::Malformed, bytes, document.badOffset, limits);
+        result.error.detail = QStringLiteral("The bytes are not text of the encoding that the feed is in.");
+        return result;
+    }
+    FeedPrescanFinding const finding = PrescanFeed(document.utf8, limits);
+    if (finding.kind != FeedErrorKind::None)
+    {
+        result.error = ErrorAt(finding.kind, document.utf8, finding.offset, limits);
+        return result;
+    }
+    FeedWalker walker(document.utf8, document.text, limits);
+    std::vector<FeedItem> items = ReadItems(walker, {feedUrl, platform, limits, languages});
+    result.error = walker.Error();
+    if (result.HasSucceeded())
+    {
+        result.items = std::move(items);
+    }
+    return result;
+}
+
+} // namespace Pelnar::Engine

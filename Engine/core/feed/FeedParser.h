@@ -1,0 +1,75 @@
+// FeedParser.h: from the bytes of a feed to its items, behind limits.
+// Thread: any; no state. Ownership: values only.
+// Texts: outer blanks of an element's text are dropped. Control characters, line breaks and characters that turn the
+// writing direction become blanks in every text but the description (which keeps its line breaks and tabs), so that no
+// title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
+#pragma once
+
+#include "Engine/core/feed/FeedItem.h"
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// Whose enclosures are taken: one without sparkle:os belongs to every platform.
+enum class FeedPlatform
+{
+    MacOS,
+    Linux,
+};
+
+/// What a feed may ask of the parser. The defaults are what the engine ships with.
+struct FeedLimits
+{
+    int maxDepth = 64;
+    int maxAttributes = 256;     ///< in one start tag
+    int maxTagBytes = 64 * 1024; ///< one tag, from "<" to ">"
+    int maxItems = 2000;         ///< items, those left out included; deltas are not counted
+    int maxNamespaces = 64;      ///< declared and in scope at one place, since each name is looked up among them
+    quint64 maxContentLength = quint64(16) << 30; ///< bytes; a longer download counts as a length that is too large
+};
+
+enum class FeedErrorKind
+{
+    None,
+    Malformed,    ///< not well-formed XML, bytes that are not of its encoding, or text after the root element
+    DocumentType, ///< a document type declaration
+    TooDeep,
+    TooManyAttributes,
+    TagTooLong,
+    TooManyItems,
+    TooManyNamespaces,
+    NotAFeed, ///< a web page, such as a login page that a network serves in the feed's place
+};
+
+struct FeedParseError
+{
+    FeedErrorKind kind = FeedErrorKind::None;
+    int line = 0;     ///< from 1
+    int column = 0;   ///< from 1
+    QString sentence; ///< one sentence that names the line and says what is wrong; no byte of the feed stands in it
+    QString detail;   ///< the XML reader's own words for Malformed, else empty
+};
+
+struct FeedParseResult
+{
+    FeedParseError error;        ///< kind is None on success
+    std::vector<FeedItem> items; ///< in the order of the feed; empty on error
+
+    [[nodiscard]] bool HasSucceeded() const { return error.kind == FeedErrorKind::None; }
+};
+
+/// Parses \a bytes, whole, in time linear in their number. Relative addresses resolve against \a feedUrl. An item whose
+/// enclosures all name other platforms is left out; a document without items is a feed without items. Of a text given
+/// in several languages (xml:lang) the one for the first of \a languages (most wanted first, as of
+/// QLocale::uiLanguages()) is taken, else the one that names no language, else the first.
+[[nodiscard]] FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlatform platform,
+                                        FeedLimits const& limits = {}, QStringList const& languages = {});
+
+} // namespace Pelnar::Engine

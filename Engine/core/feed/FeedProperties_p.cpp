@@ -1,0 +1,82 @@
+// FeedProperties_p.cpp: any element of a feed as a value.
+#include "Engine/core/feed/FeedProperties_p.h"
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+QString CurrentName(FeedWalker& walker)
+{
+    QXmlStreamReader const& reader = walker.Reader();
+    return walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
+}
+
+} // namespace
+
+QVariantMap ReadFeedAttributes(FeedWalker& walker)
+{
+    QVariantMap properties;
+    QXmlStreamAttributes const attributes = walker.Reader().attributes();
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        properties.insert(walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName()),
+                          CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine));
+    }
+    return properties;
+}
+
+void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant value)
+{
+    QVariant& place = properties[name];
+    if (!place.isValid())
+    {
+        place = std::move(value);
+        return;
+    }
+    // A value of the feed is a text or a map, so a list is one that was begun here. It leaves the map while it grows:
+    // a shared list would be copied at every step.
+    QVariantList list;
+    if (place.type() == QVariant::List)
+    {
+        list = place.toList();
+        place = QVariant();
+    }
+    else
+    {
+        list.append(place);
+    }
+    list.append(std::move(value));
+    place = list;
+}
+
+FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind)
+{
+    FeedElement element;
+    QVariantMap properties = ReadFeedAttributes(walker);
+    QString text;
+    while (walker.EnterChild(&text))
+    {
+        QString const name = CurrentName(walker);
+        if (IsNamed(QStringRef(&name), QLatin1String("sparkle:criticalUpdate")))
+        {
+            element.hasFeedCriticalUpdate = true;
+        }
+        AddFeedProperty(properties, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
+    }
+    element.text = CleanFeedText(std::move(text), kind);
+    if (properties.isEmpty())
+    {
+        element.value = element.text;
+        return element;
+    }
+    if (!element.text.trimmed().isEmpty())
+    {
+        properties.insert(QStringLiteral("#text"), element.text);
+    }
+    element.value = properties;
+    return element;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,150 @@
+// FeedText_p.cpp: single values of a feed.
+#include "Engine/core/feed/FeedText_p.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+/// A control character, a line or paragraph separator, or one that embeds, overrides or isolates a writing direction.
+constexpr bool IsUnsafe(ushort unit)
+{
+    return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F) || (unit >= 0x2028 && unit <= 0x202E) ||
+           (unit >= 0x2066 && unit <= 0x2069);
+}
+
+constexpr bool IsLineBreakOrTab(ushort unit)
+{
+    return unit == '\n' || unit == '\r' || unit == '\t';
+}
+
+bool IsUnsafe(ushort unit, FeedTextKind kind)
+{
+    return IsUnsafe(unit) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(unit));
+}
+
+constexpr int UNITS_AT_ONCE = sizeof(quint64) / sizeof(ushort);
+
+/// True when all of four characters are ordinary ASCII: below 0x80, and neither below 0x20 nor 0x7F.
+inline bool AreOrdinary(ushort const* units)
+{
+    constexpr quint64 ONES = Q_UINT64_C(0x0001000100010001);
+    quint64 four;
+    std::memcpy(&four, units, sizeof four);
+    quint64 const isHigh = four & (ONES * 0xFF80);
+    quint64 const isLow = (four - ONES * 0x20) & (ONES * 0x8000);
+    quint64 const isDelete = (four + ONES) & (ONES * 0x80);
+    return (isHigh | isLow | isDelete) == 0;
+}
+
+/// The index of the first unsafe character at or behind \a from; \a size when there is none.
+int NextUnsafe(ushort const* units, int from, int size, FeedTextKind kind)
+{
+    int i = from;
+    while (i < size)
+    {
+        int const left = size - i;
+        if (left >= UNITS_AT_ONCE && AreOrdinary(units + i))
+        {
+            i += UNITS_AT_ONCE;
+        }
+        // The last few are looked at together with the ones before them.
+        else if (left < UNITS_AT_ONCE && size >= UNITS_AT_ONCE && AreOrdinary(units + size - UNITS_AT_ONCE))
+        {
+            return size;
+        }
+        else
+        {
+            int const end = i + std::min(left, UNITS_AT_ONCE);
+            for (; i < end; ++i)
+            {
+                if (IsUnsafe(units[i], kind))
+                {
+                    return i;
+                }
+            }
+        }
+    }
+    return size;
+}
+
+/// "zip", "dmg" and "gz", but not the "1" of "App_1.1" nor the "0b2" of "App_1.0b2".
+bool IsExtension(QStringRef text)
+{
+    return !text.isEmpty() && (!text.front().isDigit() || text.compare(QLatin1String("7z"), Qt::CaseInsensitive) == 0);
+}
+
+} // namespace
+
+QString CleanFeedText(QString text, FeedTextKind kind)
+{
+    if (kind == FeedTextKind::SingleLine && !text.isEmpty() &&
+        (text.at(0).isSpace() || text.at(text.size() - 1).isSpace()))
+    {
+        text = std::move(text).trimmed();
+    }
+    int const size = text.size();
+    for (int i = NextUnsafe(text.utf16(), 0, size, kind); i < size; i = NextUnsafe(text.utf16(), i + 1, size, kind))
+    {
+        text[i] = QLatin1Char(' ');
+    }
+    return text;
+}
+
+quint64 FeedLength(QStringRef text, quint64 most)
+{
+    quint64 length = 0;
+    for (QChar const character : text)
+    {
+        if (character < QLatin1Char('0') || character > QLatin1Char('9'))
+        {
+            return 0;
+        }
+        quint64 const digit = character.unicode() - '0';
+        if (digit > most || length > (most - digit) / 10)
+        {
+            return 0;
+        }
+        length = length * 10 + digit;
+    }
+    return length;
+}
+
+QString VersionInFileName(QUrl const& url)
+{
+    QString const fileName = url.fileName(QUrl::FullyDecoded);
+    int const underscore = fileName.lastIndexOf(QLatin1Char('_'));
+    if (underscore < 0)
+    {
+        return {};
+    }
+    QStringRef version = fileName.midRef(underscore + 1);
+    for (int dot = version.lastIndexOf(QLatin1Char('.')); dot >= 0 && IsExtension(version.mid(dot + 1));
+         dot = version.lastIndexOf(QLatin1Char('.')))
+    {
+        version.truncate(dot);
+    }
+    // A percent-encoded control character passed the cleaning of the address.
+    return CleanFeedText(version.toString(), FeedTextKind::SingleLine);
+}
+
+QUrl FeedAddress(QString const& text, QUrl const& base)
+{
+    if (text.isEmpty())
+    {
+        return {};
+    }
+    QUrl address(text);
+    if (!address.isValid() || !address.isRelative())
+    {
+        return address.isValid() ? address : QUrl();
+    }
+    return base.resolved(address);
+}
+
+} // namespace Pelnar::Engine

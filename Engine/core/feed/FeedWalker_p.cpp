@@ -1,0 +1,230 @@
+// FeedWalker_p.cpp: the XML reader behind the feed's limits.
+#include "Engine/core/feed/FeedWalker_p.h"
+
+#include "Engine/core/feed/FeedText_p.h"
+
+#include <cstring>
+
+namespace Pelnar::Engine
+{
+
+namespace
+{
+
+QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QLatin1String const FEED_PREFIX("sparkle:");
+constexpr size_t MOST_KNOWN_NAMES = 32;
+
+/// Inline, as this runs for every name of a feed.
+bool IsEqual(QString const& a, QStringRef b)
+{
+    return a.size() == b.size() &&
+           std::memcmp(a.constData(), b.constData(), static_cast<size_t>(a.size()) * sizeof(QChar)) == 0;
+}
+
+QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
+{
+    if (IsFeedNamespace(namespaceUri))
+    {
+        return FEED_PREFIX + name;
+    }
+    if (qualifiedName.startsWith(FEED_PREFIX))
+    {
+        return QLatin1Char('{') + namespaceUri + QLatin1Char('}') + name;
+    }
+    return qualifiedName.toString();
+}
+
+QString SentencePart(FeedErrorKind kind, FeedLimits const& limits)
+{
+    switch (kind)
+    {
+    case FeedErrorKind::None:
+        return {};
+    case FeedErrorKind::Malformed:
+        return QStringLiteral("is not well-formed XML");
+    case FeedErrorKind::DocumentType:
+        return QStringLiteral("has a document type declaration, which a feed may not have");
+    case FeedErrorKind::TooDeep:
+        return QStringLiteral("nests elements more than %1 levels deep").arg(limits.maxDepth);
+    case FeedErrorKind::TooManyAttributes:
+        return QStringLiteral("has a tag with more than %1 attributes").arg(limits.maxAttributes);
+    case FeedErrorKind::TagTooLong:
+        return QStringLiteral("has a tag of more than %1 bytes").arg(limits.maxTagBytes);
+    case FeedErrorKind::TooManyItems:
+        return QStringLiteral("has item number %1, but only %2 are allowed")
+            .arg(limits.maxItems + 1)
+            .arg(limits.maxItems);
+    case FeedErrorKind::TooManyNamespaces:
+        return QStringLiteral("has more than %1 namespaces declared").arg(limits.maxNamespaces);
+    case FeedErrorKind::NotAFeed:
+        return QStringLiteral("begins a web page where a feed was expected");
+    }
+    return QStringLiteral("has an unknown error");
+}
+
+} // namespace
+
+bool IsFeedNamespace(QStringRef namespaceUri)
+{
+    return namespaceUri == FEED_NAMESPACE;
+}
+
+FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimits const& limits)
+{
+    FeedParseError error;
+    error.kind = kind;
+    error.line = line;
+    error.column = column;
+    error.sentence = QStringLiteral("Line %1 of the feed %2.").arg(line).arg(SentencePart(kind, limits));
+    return error;
+}
+
+FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits const& documentLimits)
+    : limits(documentLimits), isUtf8(text.isNull())
+{
+    knownNames.reserve(MOST_KNOWN_NAMES);
+    if (isUtf8)
+    {
+        reader.addData(utf8);
+    }
+    else
+    {
+        reader.addData(text);
+    }
+}
+
+QXmlStreamReader::TokenType FeedWalker::Advance()
+{
+    if (error.kind != FeedErrorKind::None)
+    {
+        return QXmlStreamReader::Invalid;
+    }
+    QXmlStreamReader::TokenType const token = reader.readNext();
+    switch (token)
+    {
+    case QXmlStreamReader::Invalid:
+        if (reader.hasError())
+        {
+            Refuse(FeedErrorKind::Malformed);
+            // The reader quotes the character that it met.
+            error.detail = CleanFeedText(reader.errorString(), FeedTextKind::SingleLine);
+        }
+        break;
+    case QXmlStreamReader::DTD:
+        Refuse(FeedErrorKind::DocumentType);
+        break;
+    case QXmlStreamReader::StartElement:
+        ++depth;
+        CheckStart();
+        break;
+    case QXmlStreamReader::EndElement:
+        if (!namespacesByDepth.empty() && namespacesByDepth.back().first == depth)
+        {
+            namespacesInScope -= namespacesByDepth.back().second;
+            namespacesByDepth.pop_back();
+        }
+        --depth;
+        break;
+    case QXmlStreamReader::StartDocument:
+        if (isUtf8 && !reader.documentEncoding().isEmpty() &&
+            reader.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) != 0)
+        {
+            // What the reader would see from here on is not what was scanned.
+            Refuse(FeedErrorKind::Malformed);
+            error.detail = QStringLiteral("The XML declaration is ambiguous.");
+        }
+        break;
+    case QXmlStreamReader::NoToken:
+    case QXmlStreamReader::EndDocument:
+    case QXmlStreamReader::Characters:
+    case QXmlStreamReader::Comment:
+    case QXmlStreamReader::EntityReference:
+    case QXmlStreamReader::ProcessingInstruction:
+        break;
+    }
+    return error.kind == FeedErrorKind::None ? token : QXmlStreamReader::Invalid;
+}
+
+void FeedWalker::CheckStart()
+{
+    if (depth > limits.maxDepth)
+    {
+        Refuse(FeedErrorKind::TooDeep);
+        return;
+    }
+    int const declared = reader.namespaceDeclarations().size();
+    if (declared > 0)
+    {
+        namespacesInScope += declared;
+        namespacesByDepth.emplace_back(depth, declared);
+        if (namespacesInScope > limits.maxNamespaces)
+        {
+            Refuse(FeedErrorKind::TooManyNamespaces);
+        }
+    }
+}
+
+bool FeedWalker::EnterChild(QString* text)
+{
+    for (;;)
+    {
+        switch (Advance())
+        {
+        case QXmlStreamReader::StartElement:
+            return true;
+        case QXmlStreamReader::EndElement:
+        case QXmlStreamReader::EndDocument:
+        case QXmlStreamReader::Invalid:
+            return false;
+        case QXmlStreamReader::Characters:
+            if (text != nullptr && text->isNull())
+            {
+                // A copy of just this text. Appending would reserve room for more, which seldom comes, and toString()
+                // may share the reader's own buffer with all the room that it has.
+                *text = QString(reader.text().constData(), reader.text().size());
+            }
+            else if (text != nullptr)
+            {
+                text->append(reader.text());
+            }
+            break;
+        case QXmlStreamReader::NoToken:
+        case QXmlStreamReader::StartDocument:
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            break;
+        }
+    }
+}
+
+void FeedWalker::Refuse(FeedErrorKind kind)
+{
+    error = MakeFeedError(kind, Line(), Column(), limits);
+}
+
+QString FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
+{
+    // Items are alike: the name that came next last time most often comes next again.
+    for (size_t tried = 0; tried < knownNames.size(); ++tried)
+    {
+        expectedName = expectedName + 1 < knownNames.size() ? expectedName + 1 : 0;
+        KnownName const& known = knownNames[expectedName];
+        if (IsEqual(known.qualifiedName, qualifiedName) && IsEqual(known.namespaceUri, namespaceUri))
+        {
+            return known.propertyName;
+        }
+    }
+    QString const propertyName = MakePropertyName(namespaceUri, name, qualifiedName);
+    if (knownNames.size() < MOST_KNOWN_NAMES)
+    {
+        // Most names need one text only: they are shown as written, in no namespace or in the feed's.
+        knownNames.push_back({IsEqual(propertyName, qualifiedName) ? propertyName : qualifiedName.toString(),
+                              IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), propertyName});
+    }
+    return propertyName;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,57 @@
+// FeedFetcher.h: brings the bytes of a feed from a server or a file, behind the rules and limits of FetchPolicy.h.
+// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it drops the fetch and
+// nothing is called any more. It speaks HTTP/1.1 over Qt's sockets itself; docs/decisions/feed-transport.md says why.
+#pragma once
+
+#include "Engine/core/EngineError.h"
+#include "Engine/core/fetch/FetchPolicy.h"
+
+#include <QByteArray>
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+namespace Pelnar::Engine
+{
+
+class HttpConnection;
+
+struct FetchOutcome
+{
+    std::optional<EngineError> error;
+    QUrl url;         ///< where the feed came from, after redirects, without user name and password
+    QByteArray bytes; ///< whole; empty on error
+};
+
+class FeedFetcher : public QObject
+{
+    Q_OBJECT
+public:
+    FeedFetcher(FetchLimits const& limits, InsecureHttp insecureHttp);
+    ~FeedFetcher() override;
+
+    /// Fetches \a url and calls \a finished once, later, from the event loop. REQUIRES: called once.
+    void Start(QUrl const& url, std::function<void(FetchOutcome)> finished);
+
+private:
+    void Begin(QUrl const& url);
+    void ReadFile(QUrl const& url);
+    void Send(FetchRequest const& request);
+    void TakeAnswer();
+    void Fail(EngineError const& error);
+    void Finish(FetchOutcome outcome);
+
+    FetchLimits m_limits;
+    InsecureHttp m_insecureHttp;
+    std::function<void(FetchOutcome)> m_finished;
+    QTimer m_totalTimer;
+    FetchRequest m_request;
+    int m_redirects = 0;
+    std::unique_ptr<HttpConnection> m_connection;
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,385 @@
+#include "Engine/core/notes/ReleaseNotesText_p.h"
+
+#include "Engine/core/notes/ReleaseNotesLink.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::uint32_t REPLACEMENT = 0xFFFD;
+constexpr std::uint32_t NO_CHARACTER = 0;
+constexpr std::string_view NO_BREAK_SPACE = "\xC2\xA0";
+
+struct NamedEntity
+{
+    std::string_view name;
+    std::uint32_t codePoint;
+};
+
+constexpr std::array NAMED_ENTITIES = {
+    NamedEntity{"amp", '&'},       NamedEntity{"apos", '\''},    NamedEntity{"bull", 0x2022},
+    NamedEntity{"copy", 0xA9},     NamedEntity{"euro", 0x20AC},  NamedEntity{"gt", '>'},
+    NamedEntity{"hellip", 0x2026}, NamedEntity{"laquo", 0xAB},   NamedEntity{"larr", 0x2190},
+    NamedEntity{"ldquo", 0x201C},  NamedEntity{"lsquo", 0x2018}, NamedEntity{"lt", '<'},
+    NamedEntity{"mdash", 0x2014},  NamedEntity{"middot", 0xB7},  NamedEntity{"nbsp", 0xA0},
+    NamedEntity{"ndash", 0x2013},  NamedEntity{"quot", '"'},     NamedEntity{"raquo", 0xBB},
+    NamedEntity{"rarr", 0x2192},   NamedEntity{"rdquo", 0x201D}, NamedEntity{"reg", 0xAE},
+    NamedEntity{"rsquo", 0x2019},  NamedEntity{"times", 0xD7},   NamedEntity{"trade", 0x2122},
+};
+constexpr std::size_t MAX_ENTITY_BYTES = 10; // "&#x10FFFF;" and every name above
+
+void AppendUtf8(std::string& out, std::uint32_t codePoint)
+{
+    auto const push = [&out](std::uint32_t byte) { out.push_back(static_cast<char>(byte)); };
+    if (codePoint < 0x80)
+    {
+        push(codePoint);
+    }
+    else if (codePoint < 0x800)
+    {
+        push(0xC0 | (codePoint >> 6));
+        push(0x80 | (codePoint & 0x3F));
+    }
+    else if (codePoint < 0x10000)
+    {
+        push(0xE0 | (codePoint >> 12));
+        push(0x80 | ((codePoint >> 6) & 0x3F));
+        push(0x80 | (codePoint & 0x3F));
+    }
+    else
+    {
+        push(0xF0 | (codePoint >> 18));
+        push(0x80 | ((codePoint >> 12) & 0x3F));
+        push(0x80 | ((codePoint >> 6) & 0x3F));
+        push(0x80 | (codePoint & 0x3F));
+    }
+}
+
+struct Decoded
+{
+    std::uint32_t codePoint;
+    std::size_t length;
+};
+
+bool IsContinuation(char c)
+{
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+/// The character at the start of \a text, which is not empty; one wrong byte is one U+FFFD.
+Decoded DecodeUtf8(std::string_view text)
+{
+    auto const first = static_cast<unsigned char>(text.front());
+    if (first < 0x80)
+    {
+        return {first, 1};
+    }
+    std::size_t const length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+    bool const isLead = first >= 0xC2 && first <= 0xF4;
+    if (!isLead || text.size() < length ||
+        !std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length), IsContinuation))
+    {
+        return {REPLACEMENT, 1};
+    }
+    std::uint32_t codePoint = first & (0xFFU >> (length + 1));
+    for (std::size_t i = 1; i < length; ++i)
+    {
+        codePoint = (codePoint << 6) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+    }
+    constexpr std::array<std::uint32_t, 5> SMALLEST = {0, 0, 0x80, 0x800, 0x10000};
+    bool const isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    if (codePoint < SMALLEST[length] || codePoint > 0x10FFFF || isSurrogate)
+    {
+        return {REPLACEMENT, 1};
+    }
+    return {codePoint, length};
+}
+
+/// The code point to show for \a codePoint, or NO_CHARACTER to leave it out.
+std::uint32_t ShownCodePoint(std::uint32_t codePoint)
+{
+    if (codePoint == 0x2028 || codePoint == 0x2029)
+    {
+        return '\n';
+    }
+    bool const isControl =
+        (codePoint < 0x20 && codePoint != '\n' && codePoint != '\t') || (codePoint >= 0x7F && codePoint < 0xA0);
+    // They make text read as another than it is.
+    bool const isReordering =
+        (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
+    // QTextDocument marks frames with U+FDD0 and U+FDD1, and objects with U+FFFC.
+    bool const isStructure = (codePoint >= 0xFDD0 && codePoint <= 0xFDEF) || codePoint == 0xFFFC ||
+                             codePoint == 0xFEFF || (codePoint & 0xFFFE) == 0xFFFE;
+    return isControl || isReordering || isStructure ? NO_CHARACTER : codePoint;
+}
+
+void AppendShown(std::string& out, std::uint32_t codePoint)
+{
+    std::uint32_t const shown = ShownCodePoint(codePoint);
+    if (shown != NO_CHARACTER)
+    {
+        AppendUtf8(out, shown);
+    }
+}
+
+/// What \a digits name, U+FFFD for no code point at all.
+std::uint32_t CodePointOfDigits(std::string_view digits, std::uint32_t base)
+{
+    std::uint32_t codePoint = 0;
+    for (char const c : digits)
+    {
+        auto const letter = static_cast<unsigned char>(c | 0x20);
+        std::uint32_t const digit = IsAsciiDigit(c) ? static_cast<unsigned char>(c) - '0' : letter - 'a' + 10U;
+        codePoint = codePoint * base + digit; // at most seven digits: no overflow
+    }
+    bool const isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
+    return codePoint > 0x10FFFF || isSurrogate ? REPLACEMENT : codePoint;
+}
+
+/// Appends what the entity between "&" and ";" stands for; false when it is none that is known.
+[[nodiscard]] bool AppendEntity(std::string& out, std::string_view name)
+{
+    if (name.size() > 1 && name.front() == '#')
+    {
+        bool const isHex = (name[1] | 0x20) == 'x';
+        std::string_view const digits = name.substr(isHex ? 2 : 1);
+        if (digits.empty() || digits.size() > 7 ||
+            !std::all_of(digits.begin(), digits.end(), isHex ? IsAsciiHexDigit : IsAsciiDigit))
+        {
+            return false;
+        }
+        AppendShown(out, CodePointOfDigits(digits, isHex ? 16 : 10));
+        return true;
+    }
+    auto const* const entity = std::find_if(NAMED_ENTITIES.begin(), NAMED_ENTITIES.end(),
+                                            [name](NamedEntity const& known) { return known.name == name; });
+    if (entity == NAMED_ENTITIES.end())
+    {
+        return false;
+    }
+    AppendUtf8(out, entity->codePoint);
+    return true;
+}
+
+void AppendLine(std::string& out, std::string_view line, BareLinks bareLinks)
+{
+    std::size_t const indentation = std::min(line.find_first_not_of(" \t"), line.size());
+    for (char const c : line.substr(0, indentation))
+    {
+        for (int i = 0; i < (c == '\t' ? 4 : 1); ++i)
+        {
+            out += NO_BREAK_SPACE;
+        }
+    }
+    line.remove_prefix(indentation);
+    if (bareLinks == BareLinks::LeftAsText)
+    {
+        AppendEscaped(out, line);
+        return;
+    }
+    bool isAtWordStart = true;
+    while (!line.empty())
+    {
+        std::size_t const linkLength = isAtWordStart ? BareLinkLength(line) : 0;
+        std::string_view const part = line.substr(0, std::max<std::size_t>(linkLength, 1));
+        if (linkLength > 0)
+        {
+            out += "<a href=\"" + Escaped(part) + "\">" + Escaped(part) + "</a>";
+        }
+        else
+        {
+            AppendEscaped(out, part);
+        }
+        isAtWordStart = !IsAsciiAlphanumeric(part.back());
+        line.remove_prefix(part.size());
+    }
+}
+
+} // namespace
+
+bool IsAsciiSpace(char c)
+{
+    return c == ' ' || c == '\n' || c == '\t' || c == '\r' || c == '\f';
+}
+
+bool IsAsciiDigit(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+bool IsAsciiHexDigit(char c)
+{
+    return IsAsciiDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
+}
+
+bool IsAsciiLetter(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
+}
+
+bool IsAsciiAlphanumeric(char c)
+{
+    return IsAsciiLetter(c) || IsAsciiDigit(c);
+}
+
+std::string ToLowerAscii(std::string_view text)
+{
+    std::string lower(text);
+    for (char& c : lower)
+    {
+        c = c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c;
+    }
+    return lower;
+}
+
+std::string_view TrimmedAscii(std::string_view text)
+{
+    while (!text.empty() && IsAsciiSpace(text.front()))
+    {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && IsAsciiSpace(text.back()))
+    {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+bool IsBlank(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(), IsAsciiSpace);
+}
+
+std::string_view PrefixOfWholeCharacters(std::string_view text, std::size_t maxBytes)
+{
+    if (text.size() <= maxBytes)
+    {
+        return text;
+    }
+    std::size_t length = maxBytes;
+    // A character has at most three more bytes; what looks longer is no text anyway.
+    for (int i = 0; i < 3 && length > 0 && IsContinuation(text[length]); ++i)
+    {
+        --length;
+    }
+    return text.substr(0, length);
+}
+
+std::string_view FirstCharacter(std::string_view text)
+{
+    return text.substr(0, DecodeUtf8(text).length);
+}
+
+bool IsCombiningMark(std::string_view character)
+{
+    std::uint32_t const codePoint = DecodeUtf8(character).codePoint;
+    return (codePoint >= 0x300 && codePoint <= 0x36F) || (codePoint >= 0x483 && codePoint <= 0x489) ||
+           (codePoint >= 0x1AB0 && codePoint <= 0x1AFF) || (codePoint >= 0x1DC0 && codePoint <= 0x1DFF) ||
+           (codePoint >= 0x20D0 && codePoint <= 0x20FF) || (codePoint >= 0xFE20 && codePoint <= 0xFE2F);
+}
+
+std::string CleanText(std::string_view text)
+{
+    std::string clean;
+    clean.reserve(text.size());
+    while (!text.empty())
+    {
+        if (text.front() == '\r')
+        {
+            text.remove_prefix(text.substr(0, 2) == "\r\n" ? 2 : 1);
+            clean.push_back('\n');
+            continue;
+        }
+        Decoded const decoded = DecodeUtf8(text);
+        text.remove_prefix(decoded.length);
+        AppendShown(clean, decoded.codePoint);
+    }
+    return clean;
+}
+
+std::string DecodeEntities(std::string_view text)
+{
+    std::string decoded;
+    decoded.reserve(text.size());
+    while (!text.empty())
+    {
+        std::size_t const ampersand = std::min(text.find('&'), text.size());
+        decoded.append(text.substr(0, ampersand));
+        text.remove_prefix(ampersand);
+        if (text.empty())
+        {
+            break;
+        }
+        std::size_t const semicolon = text.substr(0, MAX_ENTITY_BYTES).find(';');
+        if (semicolon != std::string_view::npos && AppendEntity(decoded, text.substr(1, semicolon - 1)))
+        {
+            text.remove_prefix(semicolon + 1);
+            continue;
+        }
+        decoded.push_back('&');
+        text.remove_prefix(1);
+    }
+    return decoded;
+}
+
+void AppendEscaped(std::string& out, std::string_view text)
+{
+    for (char const c : text)
+    {
+        switch (c)
+        {
+        case '&':
+            out += "&amp;";
+            continue;
+        case '<':
+            out += "&lt;";
+            continue;
+        case '>':
+            out += "&gt;";
+            continue;
+        case '"':
+            out += "&quot;";
+            continue;
+        }
+        out.push_back(c);
+    }
+}
+
+std::string Escaped(std::string_view text)
+{
+    std::string escaped;
+    escaped.reserve(text.size());
+    AppendEscaped(escaped, text);
+    return escaped;
+}
+
+std::string PlainTextToHtml(std::string_view cleanText, BareLinks bareLinks)
+{
+    std::string html;
+    html.reserve(cleanText.size() + cleanText.size() / 8);
+    bool isParagraphOpen = false;
+    while (!cleanText.empty())
+    {
+        std::size_t const end = std::min(cleanText.find('\n'), cleanText.size());
+        std::string_view const line = cleanText.substr(0, end);
+        cleanText.remove_prefix(std::min(end + 1, cleanText.size()));
+        if (IsBlank(line))
+        {
+            html += isParagraphOpen ? "</p>" : "";
+            isParagraphOpen = false;
+            continue;
+        }
+        html += isParagraphOpen ? "<br>" : "<p>";
+        isParagraphOpen = true;
+        AppendLine(html, line, bareLinks);
+    }
+    html += isParagraphOpen ? "</p>" : "";
+    return html;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,37 @@
+// Ed25519Signature.h: the verdict on a downloaded archive: is it signed by a key that the running bundle trusts?
+// Thread: any; no state beyond the cryptography library's one-time start. Ownership: descriptors stay the caller's.
+// The archive is mapped: in a process where a truncated file must not end it with SIGBUS, do not call this.
+#pragma once
+
+#include "Engine/core/payload/UpdateFault.h"
+
+#include <array>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+constexpr std::size_t ED25519_KEY_BYTES = 32;
+constexpr std::size_t ED25519_SIGNATURE_BYTES = 64;
+
+using Ed25519Key = std::array<std::uint8_t, ED25519_KEY_BYTES>;
+using Ed25519SignatureBytes = std::array<std::uint8_t, ED25519_SIGNATURE_BYTES>;
+
+/// Strict base64 of RFC 4648 section 4: the usual alphabet, padding, no blanks, no stray bits; else nothing.
+std::optional<std::vector<std::uint8_t>> DecodeBase64(std::string_view text);
+
+/// Writes the key of \a text to \a key: 32 bytes that are a point of the prime-order group.
+[[nodiscard]] UpdateFault ParsePublicKey(std::string_view text, Ed25519Key& key);
+/// Writes the signature of \a text to \a signature: 64 bytes. Whether they mean anything is the verification's matter.
+[[nodiscard]] UpdateFault ParseSignature(std::string_view text, Ed25519SignatureBytes& signature);
+
+/// None when the whole file behind \a descriptor bears a valid \a signature of one of the keys; every key must be
+/// usable, whichever signed. The file's read position is not touched.
+[[nodiscard]] UpdateFault VerifyFileSignature(int descriptor, std::string_view signature,
+                                              std::vector<std::string> const& publicKeys);
+
+} // namespace Pelnar::Engine

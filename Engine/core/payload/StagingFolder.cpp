@@ -1,0 +1,116 @@
+#include "Engine/core/payload/StagingFolder.h"
+
+#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/payload/UpdateFault.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/random.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::size_t TARGET_HASH_BYTES = 8;
+constexpr std::size_t RANDOM_BYTES = 8;
+constexpr mode_t PRIVATE_MODE = 0700;
+constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+
+std::string Hexadecimal(Bytes bytes)
+{
+    constexpr char DIGITS[] = "0123456789abcdef";
+    std::string text;
+    for (std::uint8_t const byte : bytes)
+    {
+        text += DIGITS[byte >> 4];
+        text += DIGITS[byte & 15];
+    }
+    return text;
+}
+
+std::string NameFor(std::string_view targetName)
+{
+    Sha256 const hash = HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()));
+    return ".pelnar-" + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
+}
+
+} // namespace
+
+std::string UpdateFilePrefix(std::string_view targetName)
+{
+    return NameFor(targetName) + "-";
+}
+
+std::string SwapJournalName(std::string_view targetName)
+{
+    return NameFor(targetName) + ".journal";
+}
+
+StagingFolder::StagingFolder(UniqueFd folder, std::string name) : m_folder(std::move(folder)), m_name(std::move(name))
+{
+}
+
+StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
+{
+    for (;;)
+    {
+        std::uint8_t random[RANDOM_BYTES];
+        if (::getrandom(random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
+        {
+            ThrowErrno(errno);
+        }
+        std::string name = UpdateFilePrefix(targetName) + Hexadecimal(Bytes(random, sizeof random));
+        if (::mkdirat(parentFd, name.c_str(), PRIVATE_MODE) != 0)
+        {
+            if (errno == EEXIST)
+            {
+                continue;
+            }
+            ThrowErrno(errno);
+        }
+        UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
+        if (!folder)
+        {
+            ThrowErrno(errno);
+        }
+        // Between its making and its locking a folder looks abandoned, and may be tidied away: then make another.
+        struct stat status;
+        if (::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0 && ::fstat(folder.Get(), &status) == 0 && status.st_nlink > 0)
+        {
+            return StagingFolder(std::move(folder), std::move(name));
+        }
+    }
+}
+
+bool IsSafeUpToTheRoot(int folderFd)
+{
+    UniqueFd folder(::openat(folderFd, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    for (struct stat below{}; folder;)
+    {
+        struct stat status;
+        if (::fstat(folder.Get(), &status) != 0)
+        {
+            return false;
+        }
+        bool const isOwnerTrusted = status.st_uid == 0 || status.st_uid == ::geteuid();
+        bool const isOpenToOthers = (status.st_mode & (S_IWGRP | S_IWOTH)) != 0 && (status.st_mode & S_ISVTX) == 0;
+        if (!isOwnerTrusted || isOpenToOthers)
+        {
+            return false;
+        }
+        if (status.st_dev == below.st_dev && status.st_ino == below.st_ino)
+        {
+            return true; // only the root is its own parent
+        }
+        below = status;
+        folder = UniqueFd(::openat(folder.Get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    }
+    return false;
+}
+
+} // namespace Pelnar::Engine

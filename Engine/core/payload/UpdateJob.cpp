@@ -1,0 +1,166 @@
+#include "Engine/core/payload/UpdateJob.h"
+
+#include "Engine/core/payload/FieldCodec_p.h"
+
+#include <algorithm>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::string_view MAGIC = "PELNARJ1";
+constexpr std::size_t MAX_KEYS = 2;
+constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
+
+enum class JobKind : std::uint64_t
+{
+    Prepare = 1,
+    Install = 2,
+    Recover = 3,
+};
+
+void Write(FieldWriter& writer, PrepareJob const& job)
+{
+    writer.Number(static_cast<std::uint64_t>(JobKind::Prepare));
+    writer.Number(static_cast<std::uint64_t>(job.kind));
+    writer.Number(job.archiveBytes);
+    writer.Text(job.signature);
+    writer.Texts(job.publicKeys);
+    writer.Text(job.bundleName);
+    writer.Text(job.bundleIdentifier);
+    writer.Text(job.expectedVersion);
+    writer.Text(job.installedVersion);
+}
+
+void Write(FieldWriter& writer, InstallJob const& job)
+{
+    writer.Number(static_cast<std::uint64_t>(JobKind::Install));
+    writer.Text(job.targetName);
+    writer.Text(job.stagingName);
+    writer.Text(job.stagedName);
+    writer.Text(std::string_view(reinterpret_cast<char const*>(job.digest.data()), job.digest.size()));
+    writer.Text(job.bundleIdentifier);
+    writer.Text(job.expectedVersion);
+    writer.Text(job.installedVersion);
+    writer.Number(job.waitSeconds);
+    writer.Text(job.targetPath);
+    writer.Text(job.relaunchPath);
+    writer.Texts(job.environment);
+}
+
+void Write(FieldWriter& writer, RecoverJob const& job)
+{
+    writer.Number(static_cast<std::uint64_t>(JobKind::Recover));
+    writer.Text(job.targetName);
+    writer.Text(job.runningVersion);
+}
+
+bool IsName(std::string const& text)
+{
+    return !text.empty() && text != "." && text != ".." && text.find('/') == std::string::npos;
+}
+
+bool IsAbsoluteOrEmpty(std::string const& path)
+{
+    return path.empty() || path.front() == '/';
+}
+
+PrepareJob ReadPrepare(FieldReader& reader)
+{
+    PrepareJob job;
+    std::uint64_t const kind = reader.Number();
+    job.kind = static_cast<PayloadKind>(kind);
+    job.archiveBytes = reader.Number();
+    job.signature = reader.Text();
+    job.publicKeys = reader.Texts();
+    job.bundleName = reader.Text();
+    job.bundleIdentifier = reader.Text();
+    job.expectedVersion = reader.Text();
+    job.installedVersion = reader.Text();
+    if (kind > static_cast<std::uint64_t>(PayloadKind::Delta) || job.publicKeys.size() > MAX_KEYS ||
+        !IsName(job.bundleName) || job.bundleIdentifier.empty() || job.expectedVersion.empty() ||
+        job.installedVersion.empty())
+    {
+        reader.Refuse();
+    }
+    return job;
+}
+
+InstallJob ReadInstall(FieldReader& reader)
+{
+    InstallJob job;
+    job.targetName = reader.Text();
+    job.stagingName = reader.Text();
+    job.stagedName = reader.Text();
+    std::string const digest = reader.Blob();
+    job.bundleIdentifier = reader.Text();
+    job.expectedVersion = reader.Text();
+    job.installedVersion = reader.Text();
+    job.waitSeconds = reader.Number();
+    job.targetPath = reader.Text();
+    job.relaunchPath = reader.Text();
+    job.environment = reader.Texts();
+    bool const isVariable = std::all_of(job.environment.begin(), job.environment.end(),
+                                        [](std::string const& text)
+                                        {
+                                            std::size_t const place = text.find('=');
+                                            return place != std::string::npos && place != 0;
+                                        });
+    if (digest.size() != job.digest.size() || !IsName(job.targetName) || !IsName(job.stagingName) ||
+        !IsName(job.stagedName) || job.bundleIdentifier.empty() || job.expectedVersion.empty() ||
+        job.installedVersion.empty() || job.waitSeconds > MAX_WAIT_SECONDS || !IsAbsoluteOrEmpty(job.targetPath) ||
+        !IsAbsoluteOrEmpty(job.relaunchPath) || (job.targetPath.empty() && !job.relaunchPath.empty()) || !isVariable)
+    {
+        reader.Refuse();
+        return job;
+    }
+    std::copy(digest.begin(), digest.end(), job.digest.begin());
+    return job;
+}
+
+RecoverJob ReadRecover(FieldReader& reader)
+{
+    RecoverJob job;
+    job.targetName = reader.Text();
+    job.runningVersion = reader.Text();
+    if (!IsName(job.targetName) || job.runningVersion.empty())
+    {
+        reader.Refuse();
+    }
+    return job;
+}
+
+} // namespace
+
+std::string EncodeUpdateJob(UpdateJob const& job)
+{
+    FieldWriter writer(MAGIC);
+    std::visit([&writer](auto const& kind) { Write(writer, kind); }, job);
+    return writer.Finish();
+}
+
+std::optional<UpdateJob> DecodeUpdateJob(std::string_view bytes)
+{
+    if (bytes.size() > UPDATE_JOB_MAX_BYTES)
+    {
+        return std::nullopt;
+    }
+    FieldReader reader(bytes, MAGIC);
+    std::optional<UpdateJob> job;
+    switch (static_cast<JobKind>(reader.Number()))
+    {
+    case JobKind::Prepare:
+        job = ReadPrepare(reader);
+        break;
+    case JobKind::Install:
+        job = ReadInstall(reader);
+        break;
+    case JobKind::Recover:
+        job = ReadRecover(reader);
+        break;
+    }
+    return job && reader.IsWhole() ? job : std::nullopt;
+}
+
+} // namespace Pelnar::Engine

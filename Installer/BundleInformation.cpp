@@ -9,7 +9,6 @@
 #include <cstdint>
 #include <cstring>
 #include <optional>
-#include <string_view>
 #include <vector>
 
 #include <elf.h>
@@ -27,9 +26,6 @@ namespace
 
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
-
-constexpr char INFORMATION_PATH[] = "Resources/Info-gnustep.plist";
-constexpr std::string_view BUNDLE_SUFFIX = ".app";
 
 /// The components of "1.20.3"; nothing for any other kind of text.
 std::optional<std::vector<std::string>> DottedNumbers(std::string const& text)
@@ -82,7 +78,7 @@ bool IsNotNewer(std::string const& version, std::string const& installedVersion)
 
 std::string ReadInformation(int bundleFd)
 {
-    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(INFORMATION_PATH);
+    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(Engine::INFORMATION_PATH);
     struct stat status;
     if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     {
@@ -102,10 +98,6 @@ std::string ReadInformation(int bundleFd)
             break;
         }
         size += count < 0 ? 0 : static_cast<std::size_t>(count);
-    }
-    if (size > Engine::PROPERTY_LIST_MAX_BYTES)
-    {
-        throw UpdateRefusal(UpdateFault::InformationTooLarge);
     }
     text.resize(size);
     return text;
@@ -131,39 +123,14 @@ bool IsRunnableHere(char const* bytes, std::size_t size)
 
 } // namespace
 
-BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName)
+Engine::BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName)
 {
-    auto const list = Engine::ParsePropertyList(ReadInformation(bundleFd));
-    if (!list || list->kind != Engine::PropertyListValue::Kind::Dictionary)
-    {
-        throw UpdateRefusal(UpdateFault::InformationMalformed);
-    }
-    BundleInformation information;
-    information.identifier = list->TextOf("CFBundleIdentifier").value_or("");
-    information.version = list->TextOf("CFBundleVersion").value_or("");
-    information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
-    auto executable = list->TextOf("NSExecutable");
-    if (!executable)
-    {
-        executable = list->TextOf("CFBundleExecutable");
-    }
-    if (!executable)
-    {
-        bool const hasSuffix = bundleName.size() > BUNDLE_SUFFIX.size() &&
-                               std::equal(BUNDLE_SUFFIX.rbegin(), BUNDLE_SUFFIX.rend(), bundleName.rbegin());
-        executable = hasSuffix ? bundleName.substr(0, bundleName.size() - BUNDLE_SUFFIX.size()) : bundleName;
-    }
-    if (executable->empty() || *executable == "." || *executable == ".." || executable->find('/') != std::string::npos)
-    {
-        throw UpdateRefusal(UpdateFault::InformationMalformed);
-    }
-    information.executable = *executable;
-    return information;
+    return Engine::ParseBundleInformation(ReadInformation(bundleFd), bundleName);
 }
 
 void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation)
 {
-    BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
+    Engine::BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
     if (information.identifier != expectation.identifier)
     {
         throw UpdateRefusal(UpdateFault::IdentifierDiffers);

@@ -2,23 +2,17 @@
 // Thread: any. Ownership: descriptors stay the caller's.
 #pragma once
 
+#include "Engine/core/payload/BundleInformation.h"
+
 #include <string>
 
 namespace Pelnar::Installer
 {
 
-struct BundleInformation
-{
-    std::string identifier;
-    std::string version;
-    std::string publicKey;  ///< empty when the bundle trusts no key
-    std::string executable; ///< the file's name in the bundle's folder
-};
-
 /// Reads Resources/Info-gnustep.plist of the bundle open at \a bundleFd; \a bundleName is its folder's name, after
 /// which an executable without a name of its own is named. Throws UpdateRefusal: InformationMissing,
 /// InformationTooLarge, InformationMalformed.
-BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName);
+Engine::BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName);
 
 struct BundleExpectation
 {

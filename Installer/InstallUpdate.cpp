@@ -98,7 +98,7 @@ void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
     {
         throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
     }
-    BundleInformation const information = ReadBundleInformation(target.Get(), job.targetName);
+    Engine::BundleInformation const information = ReadBundleInformation(target.Get(), job.targetName);
     if (information.identifier != job.bundleIdentifier || information.version != job.installedVersion)
     {
         throw UpdateRefusal(UpdateFault::TargetChanged);

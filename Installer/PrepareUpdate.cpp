@@ -4,9 +4,9 @@
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/Ed25519Signature.h"
 #include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/unpack/UnpackArchive.h"
 #include "Installer/BundleInformation.h"
 #include "Installer/Confinement.h"
-#include "Installer/UnpackArchive.h"
 
 #include <cerrno>
 
@@ -84,8 +84,8 @@ Engine::UniqueFd OpenBundle(int stagingFd, std::string const& name)
     return bundle;
 }
 
-UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
-                                 Engine::DeltaProgress const& progress)
+Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
+                                         Engine::DeltaProgress const& progress)
 {
     if (!Engine::TreeAccess(descriptors.staging).MakeFolder(job.bundleName))
     {
@@ -128,8 +128,9 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
 
     auto const progress = [&report](std::uint64_t done, std::uint64_t total)
     { report.SendProgress(HelperPhase::Unpacking, done, total); };
-    UnpackedBundle const bundle = isDelta ? ApplyDeltaArchive(job, descriptors, progress)
-                                          : UnpackArchive(descriptors.archive, descriptors.staging, progress);
+    Engine::UnpackedBundle const bundle =
+        isDelta ? ApplyDeltaArchive(job, descriptors, progress)
+                : Engine::UnpackArchive(descriptors.archive, descriptors.staging, progress);
     if (!IsSameFile(before, StatusOf(descriptors.archive)))
     {
         throw UpdateRefusal(UpdateFault::ArchiveInUse);

@@ -1,4 +1,4 @@
-#include "Installer/UnpackArchive.h"
+#include "Engine/core/unpack/UnpackArchive.h"
 
 #include "Engine/core/payload/TreeManifest.h"
 #include "tests/installer/InstallerFixture.h"
@@ -16,8 +16,6 @@ namespace
 
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
-using Pelnar::Installer::UnpackArchive;
-using Pelnar::Installer::UnpackedBundle;
 
 constexpr Container CONTAINERS[] = {Container::Zip, Container::TarGzip, Container::TarBzip2, Container::TarXz,
                                     Container::TarZstandard};

@@ -1,4 +1,4 @@
-#include "Installer/Archive.h"
+#include "Engine/core/unpack/Archive.h"
 
 #include <archive.h>
 #include <archive_entry.h>
@@ -12,14 +12,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 namespace
 {
-
-using Engine::ArchiveEntryType;
-using Engine::UpdateFault;
-using Engine::UpdateRefusal;
 
 constexpr std::size_t READ_BYTES = std::size_t{256} << 10;
 
@@ -223,7 +219,7 @@ Archive::Archive(int descriptor) : m_source(std::make_unique<Source>(descriptor)
 
 Archive::~Archive() = default;
 
-std::optional<Engine::ArchiveEntry> Archive::Next()
+std::optional<ArchiveEntry> Archive::Next()
 {
     int const result = archive_read_next_header(m_reader->handle, &m_entry);
     if (result == ARCHIVE_EOF)
@@ -235,7 +231,7 @@ std::optional<Engine::ArchiveEntry> Archive::Next()
         throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,
                             m_source->readError);
     }
-    Engine::ArchiveEntry entry;
+    ArchiveEntry entry;
     entry.path = TextOf(archive_entry_pathname(m_entry));
     entry.type = TypeOf(m_entry);
     entry.linkTarget = TextOf(archive_entry_symlink(m_entry));
@@ -259,7 +255,7 @@ std::optional<timespec> Archive::ModificationTime() const
     return time;
 }
 
-void Archive::ReadContents(std::uint64_t size, std::function<void(Engine::Bytes)> const& sink)
+void Archive::ReadContents(std::uint64_t size, std::function<void(Bytes)> const& sink)
 {
     std::uint64_t done = 0;
     for (;;)
@@ -280,7 +276,7 @@ void Archive::ReadContents(std::uint64_t size, std::function<void(Engine::Bytes)
         }
         if (count > 0)
         {
-            sink(Engine::Bytes(static_cast<std::uint8_t const*>(data), count));
+            sink(Bytes(static_cast<std::uint8_t const*>(data), count));
             done += count;
         }
         if (result == ARCHIVE_EOF)
@@ -294,4 +290,4 @@ void Archive::ReadContents(std::uint64_t size, std::function<void(Engine::Bytes)
     }
 }
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

@@ -1,9 +1,9 @@
-#include "Installer/UnpackArchive.h"
+#include "Engine/core/unpack/UnpackArchive.h"
 
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Engine/core/payload/ZipStructure.h"
-#include "Installer/Archive.h"
+#include "Engine/core/unpack/Archive.h"
 
 #include <cerrno>
 #include <unordered_set>
@@ -11,16 +11,10 @@
 
 #include <sys/stat.h>
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 namespace
 {
-
-using Engine::ArchiveEntry;
-using Engine::ArchiveEntryPolicy;
-using Engine::ArchiveEntryType;
-using Engine::UpdateFault;
-using Engine::UpdateRefusal;
 
 void RefuseUnlessNone(UpdateFault fault)
 {
@@ -46,18 +40,18 @@ void CheckStructure(int archiveFd)
     {
         return;
     }
-    Engine::FileMapping const mapping(archiveFd, SizeOf(archiveFd));
+    FileMapping const mapping(archiveFd, SizeOf(archiveFd));
     if (!mapping.IsValid())
     {
         throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
     }
-    RefuseUnlessNone(Engine::CheckZipStructure(mapping.Content()));
+    RefuseUnlessNone(CheckZipStructure(mapping.Content()));
 }
 
 /// The first pass: how many bytes there will be.
 std::uint64_t JudgeEntries(int archiveFd)
 {
-    ArchiveEntryPolicy policy(Engine::ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
+    ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
     Archive archive(archiveFd);
     std::uint64_t total = 0;
     while (auto const entry = archive.Next())
@@ -96,7 +90,7 @@ public:
         case ArchiveEntryType::SymbolicLink:
             if (!m_tree.MakeLink(path, entry.linkTarget))
             {
-                Engine::ThrowErrno(errno);
+                ThrowErrno(errno);
             }
             m_manifest.AddLink(Below(path), entry.linkTarget);
             return;
@@ -107,7 +101,7 @@ public:
         throw UpdateRefusal(UpdateFault::EntryTypeRefused);
     }
 
-    Engine::Sha256 Digest() const { return m_manifest.Digest(); }
+    Sha256 Digest() const { return m_manifest.Digest(); }
 
 private:
     /// The path below the bundle's folder.
@@ -126,7 +120,7 @@ private:
         }
         if (!m_tree.MakeFolder(path))
         {
-            Engine::ThrowErrno(errno);
+            ThrowErrno(errno);
         }
         if (slash != std::string::npos)
         {
@@ -138,18 +132,18 @@ private:
 
     void WriteFile(Archive& archive, ArchiveEntry const& entry, std::string const& path, std::uint32_t mode)
     {
-        Engine::UniqueFd const file = m_tree.MakeFile(path, mode == 0755);
+        UniqueFd const file = m_tree.MakeFile(path, mode == 0755);
         if (!file)
         {
-            Engine::ThrowErrno(errno);
+            ThrowErrno(errno);
         }
-        Engine::Sha256Hasher hasher;
+        Sha256Hasher hasher;
         archive.ReadContents(entry.size,
-                             [&](Engine::Bytes piece)
+                             [&](Bytes piece)
                              {
-                                 if (!Engine::WriteAll(file.Get(), piece))
+                                 if (!WriteAll(file.Get(), piece))
                                  {
-                                     Engine::ThrowErrno(errno);
+                                     ThrowErrno(errno);
                                  }
                                  hasher.Add(piece);
                                  m_doneBytes += piece.size();
@@ -160,14 +154,14 @@ private:
             timespec const times[] = {{0, UTIME_OMIT}, *time};
             if (::futimens(file.Get(), times) != 0)
             {
-                Engine::ThrowErrno(errno);
+                ThrowErrno(errno);
             }
         }
         m_manifest.AddFile(Below(path), mode, entry.size, hasher.Finish());
     }
 
-    Engine::TreeAccess m_tree;
-    Engine::TreeManifest m_manifest;
+    TreeAccess m_tree;
+    TreeManifest m_manifest;
     std::uint64_t m_totalBytes;
     std::uint64_t m_doneBytes = 0;
     UnpackProgress const& m_progress;
@@ -184,12 +178,12 @@ UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const&
     progress(0, total);
 
     // Judged again as it is read again: nothing is taken over from the first pass but that there was one.
-    ArchiveEntryPolicy policy(Engine::ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
+    ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
     Archive archive(archiveFd);
     BundleWriter writer(stagingFd, total, progress);
     while (auto const entry = archive.Next())
     {
-        Engine::EntryAdmission const admission = policy.Admit(*entry);
+        EntryAdmission const admission = policy.Admit(*entry);
         RefuseUnlessNone(admission.fault);
         if (!admission.path.empty())
         {
@@ -200,4 +194,4 @@ UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const&
     return {policy.BundleName(), writer.Digest()};
 }
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

@@ -10,13 +10,13 @@
 #include <functional>
 #include <string>
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 
 struct UnpackedBundle
 {
-    std::string name;      ///< of its folder in the staging folder
-    Engine::Sha256 digest; ///< of the tree as it was written
+    std::string name; ///< of its folder in the staging folder
+    Sha256 digest;    ///< of the tree as it was written
 };
 
 /// Told after each piece: bytes written so far, and in all.
@@ -26,4 +26,4 @@ using UnpackProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t
 /// folder then holds whatever was made and is for the caller to remove.
 UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const& progress);
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

@@ -16,7 +16,7 @@
 struct archive;
 struct archive_entry;
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 
 /// What an archive's first bytes say that it is.
@@ -43,12 +43,12 @@ public:
 
     /// The next entry; nothing after the last. Throws UpdateRefusal: ContainerDamaged for whatever the reader finds
     /// wrong or only odd.
-    std::optional<Engine::ArchiveEntry> Next();
+    std::optional<ArchiveEntry> Next();
     /// The entry's time of last change, if it has one.
     std::optional<timespec> ModificationTime() const;
     /// Hands the contents of the entry to \a sink in pieces, in order. Throws UpdateRefusal: ContainerDamaged when they
     /// are not exactly \a size bytes.
-    void ReadContents(std::uint64_t size, std::function<void(Engine::Bytes)> const& sink);
+    void ReadContents(std::uint64_t size, std::function<void(Bytes)> const& sink);
 
 private:
     struct Source;
@@ -59,4 +59,4 @@ private:
     archive_entry* m_entry = nullptr; // the reader's
 };
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

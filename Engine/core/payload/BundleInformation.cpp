@@ -1,0 +1,58 @@
+#include "Engine/core/payload/BundleInformation.h"
+
+#include "Engine/core/payload/PropertyList.h"
+#include "Engine/core/payload/UpdateFault.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::string_view BUNDLE_SUFFIX = ".app";
+
+std::string ExecutableName(PropertyListValue const& list, std::string const& bundleName)
+{
+    for (char const* const key : {"NSExecutable", "CFBundleExecutable"})
+    {
+        if (std::optional<std::string> name = list.TextOf(key))
+        {
+            return *name;
+        }
+    }
+    bool const hasSuffix = bundleName.size() > BUNDLE_SUFFIX.size() &&
+                           std::equal(BUNDLE_SUFFIX.rbegin(), BUNDLE_SUFFIX.rend(), bundleName.rbegin());
+    return hasSuffix ? bundleName.substr(0, bundleName.size() - BUNDLE_SUFFIX.size()) : bundleName;
+}
+
+} // namespace
+
+BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName)
+{
+    if (text.size() > PROPERTY_LIST_MAX_BYTES)
+    {
+        throw UpdateRefusal(UpdateFault::InformationTooLarge);
+    }
+    auto const list = ParsePropertyList(text);
+    if (!list || list->kind != PropertyListValue::Kind::Dictionary)
+    {
+        throw UpdateRefusal(UpdateFault::InformationMalformed);
+    }
+    BundleInformation information;
+    information.identifier = list->TextOf("CFBundleIdentifier").value_or("");
+    information.version = list->TextOf("CFBundleVersion").value_or("");
+    information.displayVersion = list->TextOf("CFBundleShortVersionString").value_or("");
+    information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
+    information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
+    information.executable = ExecutableName(*list, bundleName);
+    std::string const& executable = information.executable;
+    if (executable.empty() || executable == "." || executable == ".." || executable.find('/') != std::string::npos)
+    {
+        throw UpdateRefusal(UpdateFault::InformationMalformed);
+    }
+    return information;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,28 @@
+// BundleInformation.h: what a bundle says of itself in its information file.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+
+/// Where bundles of this system have the file, below the bundle's folder.
+constexpr char INFORMATION_PATH[] = "Resources/Info-gnustep.plist";
+
+struct BundleInformation
+{
+    std::string identifier;
+    std::string version;
+    std::string displayVersion;       ///< empty when the bundle gives none
+    std::string minimumSystemVersion; ///< empty when the bundle gives none
+    std::string publicKey;            ///< empty when the bundle trusts no key
+    std::string executable;           ///< the file's name in the bundle's folder
+};
+
+/// Reads \a text, the whole information file; \a bundleName is the name of the bundle's folder, after which an
+/// executable without a name of its own is named. Throws UpdateRefusal: InformationTooLarge, InformationMalformed.
+BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName);
+
+} // namespace Pelnar::Engine

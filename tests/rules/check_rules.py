@@ -22,6 +22,12 @@ LAYERS = {
     "Engine/objc": {"Engine/core", "Engine/include", "Foundation"},
     "Engine/ui": {"Engine/core"},
     "Installer": {"Engine/core"},
+    "Publisher": {
+        "App/UpdateChecker/SparkleImpl/SparkleManager",
+        "Engine/core",
+        "HostFramework",
+        "common",
+    },
     "App/UpdateChecker": {"App/UpdateChecker/SparkleImpl/UpdaterSparkle", "HostFramework", "common"},
     "App/UpdateChecker/SparkleImpl/UpdaterSparkle": {
         "App/UpdateChecker",
@@ -44,6 +50,20 @@ BACK_END = "App/UpdateChecker/SparkleImpl/UpdaterSparkle"
 BACK_END_INTERFACE = {
     "App/UpdateChecker/AbstractUpdaterImpl.h",
     "App/UpdateChecker/UpdateCheckResult.h",
+}
+# Of the session, the publisher's tool knows the decisions, which ask nobody and change nothing.
+SESSION_DECISIONS = {
+    f"{SESSION}/{name}_p.h"
+    for name in (
+        "AppcastJudgement",
+        "Extensions",
+        "ItemRecord",
+        "LogSites",
+        "SessionState",
+        "TextPrefilters",
+        "UpdateType",
+        "VersionText",
+    )
 }
 FRAMEWORK_READERS = (SESSION, "Engine/")
 PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/")
@@ -75,6 +95,8 @@ def check_include(path, header, root):
         return f"{layer} may not include {header}"
     if layer == SESSION and target == BACK_END and header != LENT_RECORD:
         return f"of the back end, the session may include {LENT_RECORD} only"
+    if layer == "Publisher" and target == SESSION and header not in SESSION_DECISIONS:
+        return "of the session, the publisher's tool may include its pure decisions only"
     if layer == BACK_END and target == "App/UpdateChecker" and header not in BACK_END_INTERFACE:
         return "of the front, the back end may include the updater interface only"
     return None
@@ -222,6 +244,9 @@ def self_test():
         ("layers", BACK_END + "/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "App/UpdateChecker/X.cpp", "#import <Sparkle/Sparkle.h>"),
         ("layers", SESSION + "/X.cpp", "#import <Sparkle/Sparkle.h>"),
+        ("layers", "Publisher/X.cpp", f'#include "{SESSION}/SparkleManager.h"'),
+        ("layers", "Publisher/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
+        ("layers", "Publisher/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),
         ("layers", "Engine/core/X.cpp", '#include "tests/support/LogCapture.h"'),
         ("catch-in-objective-c++", SESSION + "/X.mm", "    catch (...)"),
         ("try-outside-helper", "Engine/objc/X.mm", "    @try"),
@@ -243,6 +268,7 @@ def self_test():
         (SESSION + "/X.mm", "#import <Sparkle/Sparkle.h>"),
         (SESSION + "/X.mm", f'#include "{LENT_RECORD}"'),
         (BACK_END + "/X.cpp", '#include "App/UpdateChecker/AbstractUpdaterImpl.h"'),
+        ("Publisher/X.cpp", f'#include "{SESSION}/AppcastJudgement_p.h"'),
         ("tests/app/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("Foundation/RaisedException.mm", "    @catch (NSException* exception)"),
         (SESSION + "/X.mm", "    // a catch (here) would end the process"),

@@ -1,0 +1,128 @@
+#include "Publisher/Console.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <array>
+#include <iostream>
+
+#include <unistd.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+char const* CodeOf(Emphasis emphasis)
+{
+    switch (emphasis)
+    {
+    case Emphasis::None:
+        return "";
+    case Emphasis::Bold:
+        return "\033[1m";
+    case Emphasis::Dim:
+        return "\033[2m";
+    case Emphasis::Good:
+        return "\033[32m";
+    case Emphasis::Warning:
+        return "\033[33m";
+    case Emphasis::Bad:
+        return "\033[31m";
+    }
+    return "";
+}
+
+bool TurnsDirection(QChar character)
+{
+    ushort const code = character.unicode();
+    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E) ||
+           (code >= 0x2066 && code <= 0x2069);
+}
+
+} // namespace
+
+QString TextOf(Problem const& problem)
+{
+    QString text;
+    if (!problem.file.isEmpty())
+    {
+        text += problem.file + QLatin1Char(':');
+        if (problem.line > 0)
+        {
+            text += QString::number(problem.line) + QLatin1Char(':');
+            if (problem.column > 0)
+            {
+                text += QString::number(problem.column) + QLatin1Char(':');
+            }
+        }
+        text += QLatin1Char(' ');
+    }
+    text += problem.what;
+    if (!problem.mend.isEmpty())
+    {
+        text += QStringLiteral("; ") + problem.mend;
+    }
+    return Printable(text);
+}
+
+std::string Output::Styled(Emphasis emphasis, QString const& text) const
+{
+    std::string const plain = text.toStdString();
+    return hasColour && emphasis != Emphasis::None ? CodeOf(emphasis) + plain + "\033[0m" : plain;
+}
+
+ExitStatus Console::Refuse(Problem const& problem) const
+{
+    err.stream << err.Styled(Emphasis::Bad, QStringLiteral("error: ")) << TextOf(problem).toStdString() << '\n';
+    return ExitStatus::Unusable;
+}
+
+void Console::Print(QString const& line) const
+{
+    out.stream << line.toStdString() << '\n';
+}
+
+void Console::PrintJson(QJsonObject const& object) const
+{
+    out.stream << QJsonDocument(object).toJson(QJsonDocument::Indented).toStdString();
+}
+
+bool ShowsColour(int fileDescriptor)
+{
+    QByteArray const terminal = qgetenv("TERM");
+    return ::isatty(fileDescriptor) == 1 && qEnvironmentVariableIsEmpty("NO_COLOR") && !terminal.isEmpty() &&
+           terminal != "dumb";
+}
+
+QString Printable(QString const& text)
+{
+    QString result = text;
+    for (QChar& character : result)
+    {
+        if (character.category() == QChar::Other_Control || TurnsDirection(character) ||
+            character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
+        {
+            character = QLatin1Char('?');
+        }
+    }
+    return result;
+}
+
+std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes)
+{
+    QByteArray bytes;
+    std::array<char, 64 * 1024> block;
+    while (stream)
+    {
+        stream.read(block.data(), block.size());
+        bytes.append(block.data(), int(stream.gcount()));
+        if (bytes.size() > maxBytes)
+        {
+            return std::nullopt;
+        }
+    }
+    return bytes;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,86 @@
+// Console.h: what a verb of the publisher's tool reads, prints and answers with.
+// Thread: the main thread. Ownership: streams belong to the caller, which outlives the verb.
+#pragma once
+
+#include <QByteArray>
+#include <QJsonObject>
+#include <QString>
+
+#include <cstdint>
+#include <iosfwd>
+#include <optional>
+#include <string>
+
+namespace Pelnar::Publisher
+{
+
+/// The program's exit status, and what a script may conclude from it.
+enum class ExitStatus : std::int32_t
+{
+    Clean = 0,    ///< done, and nothing to object to
+    Findings = 1, ///< done, and something is wrong with what was looked at
+    Unusable = 2, ///< not done: bad arguments, or input that cannot be read
+};
+
+/// Why a verb cannot do what it was asked. Printed as "FILE:LINE:COLUMN: what; mend"; parts that are empty or 0 are
+/// left out.
+struct Problem
+{
+    QString file; ///< as the person typed it
+    int line = 0; ///< from 1
+    int column = 0;
+    QString what; ///< what is wrong, without a full stop
+    QString mend; ///< what to do about it, without a full stop
+};
+
+/// One line, without the line's end and without colour.
+QString TextOf(Problem const& problem);
+
+/// How a piece of text stands out on a terminal that shows colours.
+enum class Emphasis
+{
+    None,
+    Bold,
+    Dim,
+    Good,    ///< green
+    Warning, ///< yellow
+    Bad,     ///< red
+};
+
+/// A stream that a person or a program reads.
+struct Output
+{
+    std::ostream& stream;
+    bool isTerminal = false;
+    bool hasColour = false;
+
+    /// \a text for this stream: as it is, or between the codes of \a emphasis.
+    std::string Styled(Emphasis emphasis, QString const& text) const;
+};
+
+/// Everything that a verb may touch besides files and servers.
+struct Console
+{
+    std::istream& in;
+    Output out;
+    Output err;
+
+    /// Prints \a problem for a person.
+    /// \return ExitStatus::Unusable
+    ExitStatus Refuse(Problem const& problem) const;
+    /// Prints \a line and ends it.
+    void Print(QString const& line) const;
+    void PrintJson(QJsonObject const& object) const;
+};
+
+/// Whether text on the file descriptor \a fileDescriptor is coloured: it is a terminal that shows colours, and NO_COLOR
+/// is unset or empty.
+[[nodiscard]] bool ShowsColour(int fileDescriptor);
+
+/// \a text on one line: control characters and characters that turn the writing direction become "?".
+QString Printable(QString const& text);
+
+/// At most \a maxBytes of \a stream, to its end; nothing when there is more.
+std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,44 @@
+#include "Publisher/Progress.h"
+
+#include <algorithm>
+#include <ostream>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr int BAR_WIDTH = 30;
+constexpr qint64 REDRAW_MILLISECONDS = 100;
+
+} // namespace
+
+Progress::Progress(Output const& output, QString label) : m_output(output), m_label(std::move(label)) {}
+
+Progress::~Progress()
+{
+    if (m_drawnWidth > 0)
+    {
+        m_output.stream << '\r' << std::string(std::size_t(m_drawnWidth), ' ') << '\r' << std::flush;
+    }
+}
+
+void Progress::Show(qint64 done, qint64 total)
+{
+    bool const isRecent = m_sinceDrawn.isValid() && m_sinceDrawn.elapsed() < REDRAW_MILLISECONDS;
+    if (!m_output.isTerminal || total <= 0 || (isRecent && done < total))
+    {
+        return;
+    }
+    m_sinceDrawn.start();
+    qint64 const share = std::clamp<qint64>(done, 0, total);
+    int const filled = int(double(share) / double(total) * BAR_WIDTH);
+    QString const bar =
+        QStringLiteral("%1 [%2%3] %4 %")
+            .arg(m_label, QString(filled, QLatin1Char('#')), QString(BAR_WIDTH - filled, QLatin1Char('.')))
+            .arg(int(double(share) / double(total) * 100));
+    m_drawnWidth = std::max(m_drawnWidth, bar.size());
+    m_output.stream << '\r' << bar.toStdString() << std::flush;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,41 @@
+// main.cpp: pelnar-appcast, the publisher's tool, on the streams of its process.
+
+#include "Publisher/Verb.h"
+
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+
+#include <iostream>
+
+#include <unistd.h>
+
+namespace
+{
+
+/// What the libraries have to say is for their developers: the program's own lines stand alone.
+void KeepLibrariesQuiet(char const* programName)
+{
+    google::InitGoogleLogging(programName);
+    for (google::LogSeverity severity = google::GLOG_INFO; severity < google::NUM_SEVERITIES; ++severity)
+    {
+        google::SetLogDestination(severity, ""); // no files
+    }
+    FLAGS_stderrthreshold = google::GLOG_FATAL;
+    qInstallMessageHandler([](QtMsgType, QMessageLogContext const&, QString const&) {});
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    KeepLibrariesQuiet(argv[0]);
+    // Qt gets the program's name only: it would take some options for its own.
+    int qtArgumentCount = 1;
+    QCoreApplication const application(qtArgumentCount, argv);
+    Pelnar::Publisher::Console console{
+        std::cin,
+        {std::cout, ::isatty(STDOUT_FILENO) == 1, Pelnar::Publisher::ShowsColour(STDOUT_FILENO)},
+        {std::cerr, ::isatty(STDERR_FILENO) == 1, Pelnar::Publisher::ShowsColour(STDERR_FILENO)}};
+    return int(Pelnar::Publisher::RunProgram(std::vector<std::string>(argv + 1, argv + argc), console));
+}

@@ -1,0 +1,99 @@
+// FeedSourceTest.cpp: a feed by path, by address and from standard input.
+
+#include "Publisher/FeedSource.h"
+#include "tests/support/LoopbackServer.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <sstream>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+class FeedSource : public ::testing::Test
+{
+protected:
+    std::variant<FeedBytes, Problem> Read(QString const& name, QString const& publishedAt = {})
+    {
+        return ReadFeed(name, publishedAt, Console{m_in, {m_out}, {m_out}});
+    }
+    FeedBytes ReadGood(QString const& name, QString const& publishedAt = {})
+    {
+        auto result = Read(name, publishedAt);
+        auto const* const problem = std::get_if<Problem>(&result);
+        EXPECT_FALSE(problem) << TextOf(*problem).toStdString();
+        return problem ? FeedBytes() : std::get<FeedBytes>(std::move(result));
+    }
+    std::string ReadBad(QString const& name, QString const& publishedAt = {})
+    {
+        auto const result = Read(name, publishedAt);
+        auto const* const problem = std::get_if<Problem>(&result);
+        return problem ? TextOf(*problem).toStdString() : "no problem";
+    }
+    QString Write(QByteArray const& bytes)
+    {
+        QFile file(m_folder.filePath(QStringLiteral("appcast.xml")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+
+    std::istringstream m_in;
+
+private:
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
+    QTemporaryDir m_folder;
+    std::ostringstream m_out;
+};
+
+} // namespace
+
+TEST_F(FeedSource, APathIsItsOwnAddress)
+{
+    QString const path = Write("<rss/>");
+    FeedBytes const feed = ReadGood(path);
+    EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
+    EXPECT_EQ(feed.name.toStdString(), path.toStdString());
+    EXPECT_EQ(feed.address.toString().toStdString(), "file://" + path.toStdString());
+}
+
+TEST_F(FeedSource, ADashIsStandardInput)
+{
+    m_in.str("<rss/>");
+    FeedBytes const feed = ReadGood(QStringLiteral("-"));
+    EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
+    EXPECT_EQ(feed.name.toStdString(), "<stdin>");
+    EXPECT_EQ(feed.address.toString().toStdString(), "file://" + QDir::currentPath().toStdString() + "/");
+}
+
+TEST_F(FeedSource, AnAddressIsFetched)
+{
+    Testing::LoopbackServer server(Testing::Answering(Testing::OkAnswer("<rss/>")));
+    FeedBytes const feed = ReadGood(server.Url().toString());
+    EXPECT_EQ(feed.bytes.toStdString(), "<rss/>");
+    EXPECT_EQ(feed.address, server.Url());
+}
+
+TEST_F(FeedSource, AFeedMayBeReadBeforeItIsPublished)
+{
+    FeedBytes const feed = ReadGood(Write("<rss/>"), QStringLiteral("https://updates.example.com/app/appcast.xml"));
+    EXPECT_EQ(feed.address.toString().toStdString(), "https://updates.example.com/app/appcast.xml");
+}
+
+TEST_F(FeedSource, WhatAClientWouldNotFetchIsRefused)
+{
+    m_in.str(std::string(4 * 1024 * 1024 + 1, ' '));
+    EXPECT_NE(ReadBad(QStringLiteral("-")).find("<stdin>: the feed is larger"), std::string::npos);
+    EXPECT_EQ(ReadBad(QStringLiteral("/nowhere/appcast.xml")).find("/nowhere/appcast.xml: "), 0u);
+    EXPECT_EQ(ReadBad(Write("<rss/>"), QStringLiteral("appcast.xml")).find("--published-at: \"appcast.xml\""), 0u);
+}
+
+} // namespace Pelnar::Publisher

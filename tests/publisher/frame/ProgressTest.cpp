@@ -1,0 +1,32 @@
+// ProgressTest.cpp: the bar of long work.
+
+#include "Publisher/Progress.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace Pelnar::Publisher
+{
+
+TEST(Progress, IsDrawnOnATerminalAndWipedAtTheEnd)
+{
+    std::ostringstream stream;
+    Output const terminal{stream, true, false};
+    {
+        Progress progress(terminal, QStringLiteral("app.zip"));
+        progress.Show(1, 2);
+        EXPECT_EQ(stream.str(), "\rapp.zip [###############...............] 50 %");
+    }
+    EXPECT_EQ(stream.str().substr(46), "\r" + std::string(45, ' ') + "\r");
+}
+
+TEST(Progress, WritesNothingToAFile)
+{
+    std::ostringstream stream;
+    Output const file{stream, false, false};
+    Progress(file, QStringLiteral("app.zip")).Show(1, 2);
+    EXPECT_EQ(stream.str(), "");
+}
+
+} // namespace Pelnar::Publisher

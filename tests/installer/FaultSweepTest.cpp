@@ -2,19 +2,15 @@
 // seventh place; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
 #include "Engine/core/payload/SwapJournal.h"
-#include "Engine/core/payload/TreeManifest.h"
-#include "tests/installer/InstallerFixture.h"
+#include "tests/installer/FaultChecks.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <map>
 #include <sstream>
-
-#include <fcntl.h>
 
 namespace
 {
@@ -82,7 +78,6 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
             ++counts[call.substr(0, end)][process];
         }
     }
-    bool const isEvery = std::getenv("PELNAR_EVERY_PLACE") != nullptr;
     counts.erase("execve"); // the tracer's own: nothing of the helper has run yet
     std::vector<Place> places;
     int index = 0;
@@ -95,7 +90,7 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
         }
         for (int nth = 1; nth <= most; ++nth)
         {
-            if (isEvery || index++ % DEFAULT_STRIDE == 0)
+            if (IsEveryPlaceWanted() || index++ % DEFAULT_STRIDE == 0)
             {
                 places.push_back({call, nth});
             }
@@ -104,52 +99,6 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
     EXPECT_FALSE(places.empty());
     testing::Test::RecordProperty("places", static_cast<int>(places.size()));
     return places;
-}
-
-Sha256 TreeOf(std::string const& path)
-{
-    UniqueFd const folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return folder ? DigestTree(folder.Get()) : Sha256{};
-}
-
-/// The trees of both versions, as they are when whole.
-struct Versions
-{
-    Versions()
-    {
-        Workspace const place;
-        place.Put(MakeBundle("1.0"));
-        previous = TreeOf(place.Path() + '/' + APP);
-        UpdateScene scene;
-        scene.PrepareForInstall();
-        next = TreeOf(scene.StagingPath() + '/' + APP);
-    }
-    Sha256 previous;
-    Sha256 next;
-};
-
-/// Fails unless the bundle is exactly one of the versions and starts as it; that version.
-std::string ExpectWhole(UpdateScene const& scene, Versions const& versions)
-{
-    Sha256 const tree = TreeOf(scene.Place().Path() + '/' + APP);
-    EXPECT_TRUE(tree == versions.previous || tree == versions.next);
-    std::string const version = tree == versions.next ? "2.0" : "1.0";
-    EXPECT_EQ(scene.Place().StartedVersion(), version);
-    return version;
-}
-
-/// The next start, and the one after it, leave a whole bundle and nothing else.
-void ExpectRecovered(UpdateScene& scene, Versions const& versions)
-{
-    scene.Host().End();
-    scene.ReleaseStaging();
-    bool const isThere = !scene.Place().StartedVersion().empty();
-    HelperOutcome const first = scene.Recover(isThere ? ExpectWhole(scene, versions) : "1.0");
-    EXPECT_EQ(first.exitStatus, 0);
-    std::string const version = ExpectWhole(scene, versions);
-    EXPECT_EQ(scene.Recover(version).exitStatus, 0);
-    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
-    EXPECT_EQ(ExpectWhole(scene, versions), version);
 }
 
 TEST(Faults, PreparationKilledAnywhereHarmsNothing)

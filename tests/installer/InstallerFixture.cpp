@@ -156,10 +156,10 @@ std::vector<ForgedEntry> MakeBundle(std::string const& version, std::string cons
     };
 }
 
-Workspace::Workspace()
+Workspace::Workspace(std::string const& parent)
 {
-    char pattern[] = "/tmp/pelnar-installer-XXXXXX";
-    m_path = ::mkdtemp(pattern);
+    m_path = parent + "/pelnar-installer-XXXXXX";
+    EXPECT_NE(::mkdtemp(m_path.data()), nullptr) << m_path;
     m_folder = UniqueFd(::open(m_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
@@ -251,15 +251,24 @@ HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::ma
     all[Engine::HelperDescriptors::JOB] = jobFile.Get();
     all[Engine::HelperDescriptors::REPORT] = report.writer.Get();
     std::vector<std::string> words = start.before;
+    if (start.atEveryCall)
+    {
+        words = StartStopped();
+        words.insert(words.end(), start.before.begin(), start.before.end());
+    }
     words.insert(words.end(), {PELNAR_INSTALLER_PROGRAM, mode});
     pid_t const process = Spawn(words, all, start.environment);
     report.writer = UniqueFd();
     output.writer = UniqueFd();
     HelperOutcome outcome;
     std::string lines;
+    // A traced helper writes less than its pipes hold.
+    int status = start.atEveryCall ? TraceToTheEnd(process, start.atEveryCall) : 0;
     ReadBoth(report.reader, lines, output.reader, outcome.output);
-    int status = 0;
-    ::waitpid(process, &status, 0);
+    if (!start.atEveryCall)
+    {
+        ::waitpid(process, &status, 0);
+    }
     outcome.exitStatus = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     outcome.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     if (outcome.signal != 0)
@@ -301,8 +310,11 @@ void StubHost::End()
     }
 }
 
-UpdateScene::UpdateScene(std::string const& archive)
-    : m_keys(MakeKeyPair(7)), m_archive(archive), m_archiveFile(WriteFile(m_downloads.Path() + "/update", archive))
+UpdateScene::UpdateScene(std::string const& archive, std::string const& parent)
+    : m_place(parent)
+    , m_keys(MakeKeyPair(7))
+    , m_archive(archive)
+    , m_archiveFile(WriteFile(m_downloads.Path() + "/update", archive))
 {
     m_place.Put(MakeBundle("1.0"));
     m_staging = Engine::StagingFolder::Create(m_place.Descriptor(), APP);

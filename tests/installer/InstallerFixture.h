@@ -6,6 +6,7 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "tests/installer/ArchiveForge.h"
+#include "tests/installer/CallTracer.h"
 #include "tests/installer/Ed25519Vectors.h"
 
 #include <map>
@@ -27,7 +28,7 @@ std::string InformationText(std::string const& version, std::string const& ident
 class Workspace
 {
 public:
-    Workspace();
+    explicit Workspace(std::string const& parent = "/tmp");
     ~Workspace();
     Workspace(Workspace const&) = delete;
     Workspace& operator=(Workspace const&) = delete;
@@ -80,6 +81,7 @@ struct HelperStart
 {
     std::vector<std::string> before = {};      ///< a program, with its arguments, that runs the helper
     std::vector<std::string> environment = {}; ///< none, as a host does it
+    CallVisitor atEveryCall = {};              ///< asked before each of the helper's system calls
 };
 
 /// Runs the helper to its end. \a descriptors are given under their numbers, besides job and report.
@@ -108,7 +110,9 @@ private:
 class UpdateScene
 {
 public:
-    explicit UpdateScene(std::string const& archive = MakeArchive(Container::Zip, MakeBundle("2.0")));
+    /// The bundle stands in a new folder of \a parent.
+    explicit UpdateScene(std::string const& archive = MakeArchive(Container::Zip, MakeBundle("2.0")),
+                         std::string const& parent = "/tmp");
 
     Engine::PrepareJob MakePrepareJob() const;
     HelperOutcome Prepare(Engine::PrepareJob const& job, HelperStart const& start = {});

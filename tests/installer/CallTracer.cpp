@@ -1,0 +1,251 @@
+#include "tests/installer/CallTracer.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <climits>
+#include <csignal>
+#include <map>
+#include <set>
+
+#include <linux/ptrace.h>
+#include <sys/syscall.h>
+#include <sys/uio.h>
+#include <sys/user.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+constexpr int SYSCALL_STOP = SIGTRAP | 0x80;
+constexpr long OPTIONS = PTRACE_O_TRACESYSGOOD | PTRACE_O_TRACEFORK | PTRACE_O_TRACEVFORK | PTRACE_O_TRACECLONE |
+                         PTRACE_O_TRACEEXEC | PTRACE_O_EXITKILL;
+
+long Trace(long request, pid_t process, unsigned long address, unsigned long data)
+{
+    return ::syscall(SYS_ptrace, request, process, address, data);
+}
+
+template <typename Value>
+unsigned long AddressOf(Value& value)
+{
+    return reinterpret_cast<unsigned long>(&value);
+}
+
+class Tracer
+{
+public:
+    Tracer(pid_t root, CallVisitor const& visitor) : m_root(root), m_visitor(visitor) {}
+
+    int Run()
+    {
+        int status = 0;
+        EXPECT_EQ(::waitpid(m_root, &status, WUNTRACED), m_root);
+        EXPECT_EQ(Trace(PTRACE_SEIZE, m_root, 0, OPTIONS), 0) << errno;
+        ::kill(m_root, SIGCONT);
+        m_processes.insert(m_root);
+        while (!m_processes.empty())
+        {
+            pid_t const process = ::waitpid(-1, &status, __WALL);
+            if (process < 0)
+            {
+                ADD_FAILURE() << "lost the traced process: " << errno;
+                break;
+            }
+            if (WIFSTOPPED(status))
+            {
+                m_processes.insert(process);
+                OnStop(process, status);
+            }
+            else
+            {
+                m_processes.erase(process);
+                m_rootStatus = process == m_root ? status : m_rootStatus;
+            }
+        }
+        return m_rootStatus;
+    }
+
+private:
+    void OnStop(pid_t process, int status)
+    {
+        int const signal = WSTOPSIG(status);
+        int const event = status >> 16;
+        if (event == PTRACE_EVENT_EXEC && (process != m_root || m_isOwnCode))
+        {
+            m_processes.erase(process); // a program that the helper starts
+            Trace(PTRACE_DETACH, process, 0, 0);
+            return;
+        }
+        if (signal == SYSCALL_STOP)
+        {
+            OnCall(process);
+        }
+        bool const isSignal = event == 0 && signal != SYSCALL_STOP;
+        // Fails when the process has just been killed, which the next wait tells.
+        Trace(PTRACE_SYSCALL, process, 0, isSignal ? static_cast<unsigned long>(signal) : 0);
+    }
+
+    void OnCall(pid_t process)
+    {
+        ptrace_syscall_info info{};
+        if (Trace(PTRACE_GET_SYSCALL_INFO, process, sizeof info, AddressOf(info)) <= 0)
+        {
+            return;
+        }
+        if (info.op == PTRACE_SYSCALL_INFO_EXIT)
+        {
+            Finish(process);
+            return;
+        }
+        CallStop stop{m_count, static_cast<long>(info.entry.nr), process, {}};
+        std::copy(std::begin(info.entry.args), std::end(info.entry.args), stop.arguments.begin());
+        m_isOwnCode = m_isOwnCode || stop.call == SYS_chdir;
+        if (m_isOwnCode)
+        {
+            ++m_count;
+            CarryOut(stop, m_visitor(stop));
+        }
+    }
+
+    void CarryOut(CallStop const& stop, CallVerdict const& verdict)
+    {
+        switch (verdict.kind)
+        {
+        case CallVerdict::Kind::GoOn:
+            return;
+        case CallVerdict::Kind::Fail:
+            m_answers[stop.process] = -verdict.number;
+            ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.orig_rax = ~0ull; });
+            return;
+        case CallVerdict::Kind::Shorten:
+            ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdx = 1; });
+            return;
+        case CallVerdict::Kind::KillAll:
+            SignalAll(SIGKILL);
+            return;
+        case CallVerdict::Kind::SignalAll:
+            SignalAll(verdict.number);
+            return;
+        }
+    }
+
+    void SignalAll(int signal)
+    {
+        for (pid_t const process : m_processes)
+        {
+            ::kill(process, signal);
+        }
+    }
+
+    void Finish(pid_t process)
+    {
+        auto const answer = m_answers.find(process);
+        if (answer == m_answers.end())
+        {
+            return;
+        }
+        auto const value = static_cast<unsigned long long>(static_cast<long long>(answer->second));
+        ChangeRegisters(process, [value](user_regs_struct& registers) { registers.rax = value; });
+        m_answers.erase(answer);
+    }
+
+    template <typename Change>
+    void ChangeRegisters(pid_t process, Change const& change)
+    {
+        user_regs_struct registers{};
+        if (Trace(PTRACE_GETREGS, process, 0, AddressOf(registers)) == 0)
+        {
+            change(registers);
+            Trace(PTRACE_SETREGS, process, 0, AddressOf(registers));
+        }
+    }
+
+    pid_t m_root;
+    CallVisitor const& m_visitor;
+    std::set<pid_t> m_processes;
+    std::map<pid_t, int> m_answers;
+    int m_rootStatus = 0;
+    int m_count = 0;
+    bool m_isOwnCode = false;
+};
+
+} // namespace
+
+std::vector<std::string> StartStopped()
+{
+    return {"/bin/sh", "-c", "kill -STOP $$; exec \"$@\"", "sh"};
+}
+
+int TraceToTheEnd(pid_t process, CallVisitor const& visitor)
+{
+    return Tracer(process, visitor).Run();
+}
+
+std::string CallName(long call)
+{
+    static std::map<long, char const*> const names{
+        {SYS_read, "read"},
+        {SYS_write, "write"},
+        {SYS_openat, "openat"},
+        {SYS_openat2, "openat2"},
+        {SYS_close, "close"},
+        {SYS_fsync, "fsync"},
+        {SYS_syncfs, "syncfs"},
+        {SYS_renameat, "renameat"},
+        {SYS_renameat2, "renameat2"},
+        {SYS_mkdirat, "mkdirat"},
+        {SYS_symlinkat, "symlinkat"},
+        {SYS_unlinkat, "unlinkat"},
+        {SYS_fchmod, "fchmod"},
+        {SYS_fchmodat, "fchmodat"},
+        {SYS_utimensat, "utimensat"},
+        {SYS_flock, "flock"},
+        {SYS_mmap, "mmap"},
+        {SYS_munmap, "munmap"},
+        {SYS_brk, "brk"},
+        {SYS_pread64, "pread64"},
+        {SYS_fstat, "fstat"},
+        {SYS_newfstatat, "fstatat"},
+        {SYS_getdents64, "getdents"},
+        {SYS_readlinkat, "readlinkat"},
+        {SYS_fcntl, "fcntl"},
+        {SYS_poll, "poll"},
+        {SYS_wait4, "wait4"},
+        {SYS_exit_group, "exit"},
+        {SYS_clone, "clone"},
+        {SYS_lseek, "lseek"},
+        {SYS_faccessat, "faccessat"},
+        {SYS_setsid, "setsid"},
+        {SYS_chdir, "chdir"},
+    };
+    auto const name = names.find(call);
+    return name == names.end() ? "call " + std::to_string(call) : name->second;
+}
+
+std::string PathArgument(CallStop const& stop, std::size_t argument)
+{
+    std::string text(PATH_MAX, '\0');
+    iovec local{text.data(), text.size()};
+    iovec remote{reinterpret_cast<void*>(stop.arguments.at(argument)), text.size()};
+    // Less comes back where the process' memory ends behind the path.
+    ssize_t const count = ::process_vm_readv(stop.process, &local, 1, &remote, 1, 0);
+    text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+    return text.substr(0, text.find('\0'));
+}
+
+std::string DescriptorPath(CallStop const& stop)
+{
+    std::string const link =
+        "/proc/" + std::to_string(stop.process) + "/fd/" + std::to_string(static_cast<int>(stop.arguments[0]));
+    std::string path(PATH_MAX, '\0');
+    ssize_t const size = ::readlink(link.c_str(), path.data(), path.size());
+    path.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
+    return path;
+}
+
+} // namespace Pelnar::Testing

@@ -1,0 +1,64 @@
+// CallTracer.h: runs a process and all that it forks one system call at a time, and lets a test decide at each of them.
+// Thread: the one that starts the process; it is the tracer. Ownership: values only. Linux on x86-64.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include <sys/types.h>
+
+namespace Pelnar::Testing
+{
+
+/// A system call that is about to be made; the process stands still until the answer.
+struct CallStop
+{
+    int index; ///< of the calls of all processes of the helper, from the first of its own on; from 0
+    long call; ///< the kernel's number
+    pid_t process;
+    std::array<std::uint64_t, 6> arguments;
+};
+
+/// What becomes of a call.
+struct CallVerdict
+{
+    enum class Kind
+    {
+        GoOn,
+        Fail,      ///< it is not made, and answers with an error
+        Shorten,   ///< it is made with one byte for its third argument
+        KillAll,   ///< it is not made: every process ends there and then
+        SignalAll, ///< every process gets a signal, then it is made
+    };
+
+    Kind kind = Kind::GoOn;
+    int number = 0; ///< errno, or the signal
+
+    static CallVerdict GoOn() { return {}; }
+    static CallVerdict Fail(int errorNumber) { return {Kind::Fail, errorNumber}; }
+    /// It is not made, and answers as if all had gone well.
+    static CallVerdict Pretend() { return Fail(0); }
+    static CallVerdict Shorten() { return {Kind::Shorten, 0}; }
+    static CallVerdict KillAll() { return {Kind::KillAll, 0}; }
+    static CallVerdict SignalAll(int signal) { return {Kind::SignalAll, signal}; }
+};
+
+using CallVisitor = std::function<CallVerdict(CallStop const&)>;
+
+/// The words that start a program stopped, for TraceToTheEnd to let go.
+std::vector<std::string> StartStopped();
+/// Traces \a process, which StartStopped() has stopped, to its end; its wait status. What it starts by execve is left
+/// alone. Calls of the program's loader, before its main function changes to the root folder, are not told.
+int TraceToTheEnd(pid_t process, CallVisitor const& visitor);
+
+/// The call's name, for the calls that the helper makes.
+std::string CallName(long call);
+/// The path that a call names by its \a argument-th argument, as the process wrote it.
+std::string PathArgument(CallStop const& stop, std::size_t argument);
+/// What the descriptor in the call's first argument stands for.
+std::string DescriptorPath(CallStop const& stop);
+
+} // namespace Pelnar::Testing

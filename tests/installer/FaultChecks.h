@@ -1,0 +1,33 @@
+// FaultChecks.h: what holds after every fault: the bundle is exactly one of the two versions, and starts.
+// Thread: the test's. Ownership: values only.
+#pragma once
+
+#include "tests/installer/InstallerFixture.h"
+
+#include <string>
+
+namespace Pelnar::Testing
+{
+
+/// True when the environment asks for faults at every place, instead of a sample of the places.
+bool IsEveryPlaceWanted();
+
+/// The hash of the tree of the folder at \a path; of nothing when there is none.
+Engine::Sha256 TreeOf(std::string const& path);
+
+/// The trees of both versions, as they are when whole.
+struct Versions
+{
+    Versions();
+    Engine::Sha256 previous;
+    Engine::Sha256 next;
+};
+
+/// Fails unless the bundle is exactly one of the versions and starts as it; that version.
+std::string ExpectWhole(Workspace const& place, Versions const& versions);
+std::string ExpectWhole(UpdateScene const& scene, Versions const& versions);
+
+/// The next start, and the one after it, leave a whole bundle and nothing else.
+void ExpectRecovered(UpdateScene& scene, Versions const& versions);
+
+} // namespace Pelnar::Testing

@@ -1,0 +1,300 @@
+// PowerCutTest.cpp: the power goes at any call by which the helper changes the disk. The disk is an image's file; its
+// copy, taken while the helper stands still, is mounted as after the next start of the machine. The default run takes a
+// sample of the places; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+
+#include "tests/installer/FaultChecks.h"
+#include "tests/installer/faults/LoopImage.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <functional>
+#include <optional>
+#include <random>
+#include <set>
+
+#include <fcntl.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+std::set<long> const DISK_CALLS{SYS_write,    SYS_openat,    SYS_openat2,   SYS_mkdirat,   SYS_symlinkat,
+                                SYS_fchmod,   SYS_fchmodat,  SYS_utimensat, SYS_fsync,     SYS_syncfs,
+                                SYS_renameat, SYS_renameat2, SYS_unlinkat,  SYS_exit_group};
+constexpr unsigned SAMPLE_OF = 8; ///< one place in so many
+
+/// The kernel writes to the disk when it is asked to, and at any other time it likes.
+enum class Writeback
+{
+    AsLateAsAllowed,
+    AtAnyTime,
+};
+
+struct Cut
+{
+    FileSystemKind kind;
+    Writeback writeback;
+};
+
+void PrintTo(Cut const& cut, std::ostream* out)
+{
+    *out << cut.kind.name;
+}
+
+class PowerCut : public testing::TestWithParam<Cut>
+{
+protected:
+    void SetUp() override
+    {
+        std::string const reason = WhyImagesCannotBeMounted();
+        if (!reason.empty())
+        {
+            GTEST_SKIP() << reason;
+        }
+        ASSERT_TRUE(MakeImage(GetParam().kind, m_files.Path() + "/empty")) << GetParam().kind.makeCommand;
+    }
+
+    /// Runs \a act, which calls the helper with what it is given, on a new file system, and cuts the power at places of
+    /// it. \a prepareScene comes before, and is not cut.
+    template <typename Prepare, typename Act>
+    void CutEverywhere(Prepare const& prepareScene, Act const& act)
+    {
+        RunOnce(prepareScene, act, [&] { return IsEveryPlaceWanted() || m_random() % SAMPLE_OF == 0; });
+        EXPECT_GT(m_cuts, 0);
+        RecordProperty("cuts", m_cuts);
+        RecordProperty("missing_until_recovered", m_missing);
+    }
+
+    /// The tree of the bundle on the disk as it is when the helper says that the new version is installed.
+    Sha256 TreeWhenToldInstalled(bool areSyncsDone)
+    {
+        Sha256 tree{};
+        m_areSyncsDone = areSyncsDone;
+        m_onInstalled = [&](std::string const& placeBelow)
+        {
+            CopyImage(m_files.Path() + "/disk", m_files.Path() + "/cut");
+            MountedImage const disk(GetParam().kind, m_files.Path() + "/cut", m_files.Path() + "/after");
+            tree = TreeOf(disk.Point() + placeBelow + '/' + APP);
+        };
+        InstallJob job;
+        RunOnce(
+            [&job](UpdateScene& scene)
+            {
+                job = scene.PrepareForInstall();
+                scene.Host().End();
+            },
+            [&job](UpdateScene& scene, HelperStart const& start)
+            { EXPECT_EQ(scene.Install(job, start).exitStatus, 0); },
+            [] { return false; });
+        return tree;
+    }
+    Versions const versions;
+
+    /// The bundle may be missing until the helper has recovered it.
+    void AllowMissing() { m_isMissingAllowed = true; }
+    bool isExchangeRefused = false;
+
+private:
+    template <typename Prepare, typename Act, typename IsWanted>
+    void RunOnce(Prepare const& prepareScene, Act const& act, IsWanted const& isWanted)
+    {
+        std::string const image = m_files.Path() + "/disk";
+        CopyImage(m_files.Path() + "/empty", image);
+        MountedImage const disk(GetParam().kind, image, m_files.Path() + "/mount");
+        ASSERT_TRUE(disk.IsMounted());
+        m_isNewCertain = false;
+        std::optional<UpdateScene> scene;
+        scene.emplace(MakeArchive(Container::Zip, MakeBundle("2.0")), disk.Point());
+        prepareScene(*scene);
+        ::syncfs(scene->Place().Descriptor());
+        std::string const placeBelow = scene->Place().Path().substr(disk.Point().size());
+        HelperStart start;
+        start.atEveryCall = [&](CallStop const& stop)
+        {
+            if (DISK_CALLS.count(stop.call) != 0 && isWanted())
+            {
+                SCOPED_TRACE(testing::Message()
+                             << "power cut before " << CallName(stop.call) << ", call " << stop.index);
+                CopyImage(image, m_files.Path() + "/cut");
+                ExpectWholeOnTheCut(placeBelow);
+            }
+            if (GetParam().writeback == Writeback::AtAnyTime && m_random() % 3 == 0)
+            {
+                ::syncfs(scene->Place().Descriptor());
+            }
+            bool const isReport = stop.call == SYS_write && stop.arguments[0] == HelperDescriptors::REPORT;
+            if (isReport && PathArgument(stop, 1).substr(0, 9) == "installed")
+            {
+                m_isNewCertain = true;
+                m_onInstalled(placeBelow);
+            }
+            bool const isSync = stop.call == SYS_fsync || stop.call == SYS_syncfs;
+            if (isSync && !m_areSyncsDone)
+            {
+                return CallVerdict::Pretend();
+            }
+            bool const isRefused = isExchangeRefused && stop.call == SYS_renameat2;
+            return isRefused ? CallVerdict::Fail(EINVAL) : CallVerdict::GoOn();
+        };
+        act(*scene, start);
+    }
+
+    void ExpectWholeOnTheCut(std::string const& placeBelow)
+    {
+        ++m_cuts;
+        MountedImage const disk(GetParam().kind, m_files.Path() + "/cut", m_files.Path() + "/after");
+        ASSERT_TRUE(disk.IsMounted());
+        std::string const place = disk.Point() + placeBelow;
+        std::string const app = place + '/' + APP;
+        bool const isThere = std::filesystem::exists(app);
+        m_missing += isThere ? 0 : 1;
+        EXPECT_TRUE(isThere || m_isMissingAllowed);
+        std::string const found = isThere ? ExpectOneOfTheVersions(place) : "1.0";
+        UniqueFd const folder(::open(place.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        for (int i = 0; i < 2; ++i)
+        {
+            EXPECT_EQ(RunHelper("recover", EncodeUpdateJob(RecoverJob{APP, found}),
+                                {{HelperDescriptors::PARENT, folder.Get()}})
+                          .exitStatus,
+                      0);
+            EXPECT_EQ(ExpectOneOfTheVersions(place), found);
+        }
+        std::vector<std::string> names;
+        for (auto const& entry : std::filesystem::directory_iterator(place))
+        {
+            names.push_back(entry.path().filename().string());
+        }
+        EXPECT_EQ(names, std::vector<std::string>{APP});
+    }
+
+    std::string ExpectOneOfTheVersions(std::string const& place)
+    {
+        Sha256 const tree = TreeOf(place + '/' + APP);
+        EXPECT_TRUE(tree == versions.next || (tree == versions.previous && !m_isNewCertain));
+        std::string const version = tree == versions.next ? "2.0" : "1.0";
+        EXPECT_EQ(m_files.StartedVersion(place.substr(m_files.Path().size() + 1) + '/' + APP), version);
+        return version;
+    }
+
+    Workspace const m_files{::access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp"};
+    std::mt19937 m_random{static_cast<unsigned>(GetParam().kind.name[0] * 256 + GetParam().kind.name[4])};
+    bool m_isNewCertain = false;
+    bool m_isMissingAllowed = false;
+    bool m_areSyncsDone = true;
+    std::function<void(std::string const& placeBelow)> m_onInstalled = [](std::string const&) {};
+    int m_cuts = 0;
+    int m_missing = 0;
+};
+
+TEST_P(PowerCut, AnywhereInThePreparationHarmsNothing)
+{
+    CutEverywhere([](UpdateScene&) {}, [](UpdateScene& scene, HelperStart const& start)
+                  { EXPECT_EQ(scene.Prepare(scene.MakePrepareJob(), start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, AnywhereInTheInstallationLeavesOneOfTheVersions)
+{
+    InstallJob job;
+    CutEverywhere(
+        [&job](UpdateScene& scene)
+        {
+            job = scene.PrepareForInstall();
+            scene.Host().End();
+        },
+        [&job](UpdateScene& scene, HelperStart const& start) { EXPECT_EQ(scene.Install(job, start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, AnywhereInTheInstallationWithoutExchangeLeavesWhatRecoversToOneOfTheVersions)
+{
+    InstallJob job;
+    isExchangeRefused = true;
+    AllowMissing();
+    CutEverywhere(
+        [&job](UpdateScene& scene)
+        {
+            job = scene.PrepareForInstall();
+            scene.Host().End();
+        },
+        [&job](UpdateScene& scene, HelperStart const& start) { EXPECT_EQ(scene.Install(job, start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, AnywhereInTheRecoveryLeavesOneOfTheVersions)
+{
+    CutEverywhere(
+        [](UpdateScene& scene)
+        {
+            InstallJob job = scene.PrepareForInstall();
+            job.targetPath.clear();
+            scene.Host().End();
+            EXPECT_EQ(scene.Install(job).exitStatus, 0);
+            scene.ReleaseStaging();
+        },
+        [](UpdateScene& scene, HelperStart const& start) { EXPECT_EQ(scene.Recover("2.0", start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, AnywhereInTheRecoveryOfAMissingBundleLeavesWhatRecovers)
+{
+    AllowMissing();
+    CutEverywhere(
+        [](UpdateScene& scene)
+        {
+            InstallJob const job = scene.PrepareForInstall();
+            scene.Host().End();
+            // Both processes end between the two renames of a file system without exchange.
+            int renames = 0;
+            HelperStart start;
+            start.atEveryCall = [&renames](CallStop const& stop)
+            {
+                renames += stop.call == SYS_renameat ? 1 : 0;
+                return stop.call == SYS_renameat2 ? CallVerdict::Fail(ENOSYS)
+                       : renames == 3             ? CallVerdict::KillAll()
+                                                  : CallVerdict::GoOn();
+            };
+            EXPECT_EQ(scene.Install(job, start).signal, SIGKILL);
+            scene.ReleaseStaging();
+        },
+        [](UpdateScene& scene, HelperStart const& start) { EXPECT_EQ(scene.Recover("1.0", start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, FindsTheNewVersionOnceItIsToldInstalled)
+{
+    EXPECT_EQ(TreeWhenToldInstalled(true), versions.next);
+    if (GetParam().writeback == Writeback::AsLateAsAllowed)
+    {
+        EXPECT_NE(TreeWhenToldInstalled(false), versions.next) << "a cut does not see what was never synced";
+    }
+}
+
+/// A sample has each file system once.
+std::vector<Cut> Cuts()
+{
+    if (!IsEveryPlaceWanted())
+    {
+        return {{FileSystemKinds()[0], Writeback::AtAnyTime},
+                {FileSystemKinds()[1], Writeback::AsLateAsAllowed},
+                {FileSystemKinds()[2], Writeback::AsLateAsAllowed},
+                {FileSystemKinds()[3], Writeback::AtAnyTime}};
+    }
+    std::vector<Cut> cuts;
+    for (FileSystemKind const& kind : FileSystemKinds())
+    {
+        cuts.push_back({kind, Writeback::AsLateAsAllowed});
+        cuts.push_back({kind, Writeback::AtAnyTime});
+    }
+    return cuts;
+}
+
+INSTANTIATE_TEST_SUITE_P(FileSystems, PowerCut, testing::ValuesIn(Cuts()),
+                         [](testing::TestParamInfo<Cut> const& info)
+                         {
+                             return std::string(info.param.kind.name) +
+                                    (info.param.writeback == Writeback::AtAnyTime ? "WrittenAtAnyTime" : "WrittenLate");
+                         });
+
+} // namespace

@@ -1,5 +1,7 @@
 // Release notes open no file and reach no server, watched from outside the process.
 
+#include "tests/support/Sanitizers.h"
+
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
@@ -42,7 +44,7 @@ protected:
                       QStringLiteral("-e"), QStringLiteral("trace=%file,%network"), QStringLiteral("-o"), trace,
                       QStringLiteral(PELNAR_NOTES_VIEWER), QString::fromLatin1(mode), CanaryPath(),
                       QStringLiteral("127.0.0.1:%1").arg(m_server.serverPort())});
-        EXPECT_TRUE(viewer.waitForFinished(110000));
+        EXPECT_TRUE(viewer.waitForFinished(IS_SANITIZED ? 390000 : 110000));
         EXPECT_EQ(viewer.exitCode(), 0);
         QCoreApplication::processEvents();
         QFile file(trace);

@@ -2,6 +2,7 @@
 // takes, what a wrong clock or a missing network does to it.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
+#include "tests/support/Sanitizers.h"
 #include "tests/support/TestCertificates.h"
 
 #include <QFile>
@@ -16,17 +17,6 @@ namespace
 
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
-
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define PELNAR_ADDRESS_SANITIZER
-#endif
-#endif
-#if defined(PELNAR_ADDRESS_SANITIZER)
-constexpr bool IS_SANITIZED = true;
-#else
-constexpr bool IS_SANITIZED = false;
-#endif
 
 struct Report
 {

@@ -1,5 +1,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
 
+#include "tests/support/Sanitizers.h"
+
 #include <gtest/gtest.h>
 
 #include <QUrl>
@@ -12,6 +14,8 @@ namespace
 {
 
 using namespace Pelnar::App::Session;
+
+constexpr int ROUNDS = Pelnar::Testing::IS_SANITIZED ? 20000 : 300000;
 
 /// Joins up to \a greatestCount random parts, so that texts come close to the limits of what is certain.
 class TextMaker
@@ -140,7 +144,7 @@ TEST(TextPrefilters, RandomAddressesAreValidAsQtSays)
                     "%", " ", ":", "@",  "?", "#",  "\\", "\u00e9", "\"", "[",   "|"},
                    6);
     Agreement agreement;
-    for (int i = 0; i < 300000 && !HasFatalFailure(); ++i)
+    for (int i = 0; i < ROUNDS && !HasFatalFailure(); ++i)
     {
         QString const scheme = host.Number(9) == 0 ? path() : QStringLiteral("https://");
         ExpectSameAddressAnswer(scheme + host() + QLatin1String(host.Number(3) ? "/" : "") + path(), agreement);
@@ -154,7 +158,7 @@ TEST(TextPrefilters, RandomPlainAddressesAreValidAsQtSays)
     TextMaker host({"a", "b", "z", "xn", "cdefghij", "-", ".", "0", "7", "0x", "e"}, 14);
     TextMaker path({"a", "Z", "/", ".", "-", "_", "~", "0"}, 8);
     Agreement agreement;
-    for (int i = 0; i < 300000 && !HasFatalFailure(); ++i)
+    for (int i = 0; i < ROUNDS && !HasFatalFailure(); ++i)
     {
         ExpectSameAddressAnswer(QStringLiteral("https://") + host() + QLatin1Char('/') + path(), agreement);
     }
@@ -169,7 +173,7 @@ TEST(TextPrefilters, RandomTextsAreDatesAsQtSays)
                     "+0000", "GMT", "x",   "\u0667", "\u00a0", "\u2003", ".",    "\x7f", "\x01"},
                    12);
     Agreement agreement;
-    for (int i = 0; i < 300000 && !HasFatalFailure(); ++i)
+    for (int i = 0; i < ROUNDS && !HasFatalFailure(); ++i)
     {
         ExpectSameDateAnswer(text(), agreement);
     }
@@ -182,7 +186,7 @@ TEST(TextPrefilters, RandomTextsThatEndLikeADateAreDatesAsQtSays)
     TextMaker day({"7", "1", "31", "+", "-", "0", "\t", "\u00a0", "\x01", "x", "\u0667"}, 2);
     TextMaker year({"2019", "20", "0", "-", "+", " ", "\t", "x"}, 2);
     Agreement agreement;
-    for (int i = 0; i < 300000 && !HasFatalFailure(); ++i)
+    for (int i = 0; i < ROUNDS && !HasFatalFailure(); ++i)
     {
         QString const blank = QString(1 + start.Number(1), QLatin1Char(' '));
         ExpectSameDateAnswer(start() + blank + QLatin1String(start.Number(4) ? "Jan" : "jan") + blank + day() + blank +

@@ -1,0 +1,8 @@
+# Of every test: what the leak checker lets pass. Its short way of reading the stack misses some of it.
+set(PELNAR_TEST_ENVIRONMENT
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0:fast_unwind_on_malloc=0")
+# Seconds; only a test that hangs reaches it.
+set(PELNAR_TEST_TIMEOUT 120)
+if(PELNAR_SANITIZE)
+    set(PELNAR_TEST_TIMEOUT 400)
+endif()

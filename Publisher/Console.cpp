@@ -109,6 +109,11 @@ QString Printable(QString const& text)
     return result;
 }
 
+QString CountOf(std::size_t count, QString const& singular)
+{
+    return QStringLiteral("%1 %2%3").arg(count).arg(singular, count == 1 ? QString() : QStringLiteral("s"));
+}
+
 std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes)
 {
     QByteArray bytes;

@@ -80,6 +80,9 @@ struct Console
 /// \a text on one line: control characters and characters that turn the writing direction become "?".
 QString Printable(QString const& text);
 
+/// "1 item", "2 items".
+QString CountOf(std::size_t count, QString const& singular);
+
 /// At most \a maxBytes of \a stream, to its end; nothing when there is more.
 std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes);
 

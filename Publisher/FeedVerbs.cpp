@@ -2,9 +2,14 @@
 
 #include "Publisher/Verb.h"
 
+#include "Publisher/explain/ExplainVerb.h"
+
 namespace Pelnar::Publisher
 {
 
-void AddFeedVerbs(CLI::App&, VerbContext&) {}
+void AddFeedVerbs(CLI::App& program, VerbContext& context)
+{
+    AddExplain(program, context);
+}
 
 } // namespace Pelnar::Publisher

@@ -2,7 +2,7 @@
 // same answer.
 
 #include "Engine/core/feed/FeedParser.h"
-#include "fuzz/FeedChoice.h"
+#include "Publisher/choice/FeedChoice.h"
 
 #include <QByteArray>
 
@@ -109,9 +109,9 @@ void RequireSame(FeedParseResult const& a, FeedParseResult const& b)
 
 void RequireHonestChoice(std::vector<FeedItem> const& items)
 {
-    Core::Version const localVersion(1, 2);
-    FeedItem const* const choice = Fuzz::ChooseItem(items, localVersion, Core::Version(12));
-    Require(choice == Fuzz::ChooseItem(items, localVersion, Core::Version(12)), "the same items give the same choice");
+    Publisher::Client const client{Core::Version(1, 2), Core::Version(12)};
+    FeedItem const* const choice = Publisher::ChooseFromFeed(items, client).chosen;
+    Require(choice == Publisher::ChooseFromFeed(items, client).chosen, "the same items give the same choice");
     Require(choice == nullptr || (choice->contentLength > 0 && choice->fileUrl.isValid()), "a choice can be fetched");
 }
 

@@ -62,6 +62,7 @@ SESSION_DECISIONS = {
         "SessionState",
         "TextPrefilters",
         "UpdateType",
+        "VersionOperators",
         "VersionText",
     )
 }

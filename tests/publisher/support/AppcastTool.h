@@ -9,6 +9,8 @@
 
 #include <string>
 
+class QJsonObject;
+
 namespace Pelnar::Testing
 {
 
@@ -19,7 +21,7 @@ struct ToolRun
     std::string err;
 
     /// Its standard output as JSON text; a failure of the test when it is none.
-    class QJsonObject Json() const;
+    QJsonObject Json() const;
 };
 
 /// Runs a verb in this process, without colour. REQUIRES: a QCoreApplication, for feeds that are not standard input.

@@ -1,5 +1,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
 
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+
 namespace Pelnar::App::Session
 {
 
@@ -82,6 +84,12 @@ Preference PreferByDownload(ItemRecord& a, ItemRecord& b)
         return {a, PreferenceRule::LATER_DATE};
     }
     return {a.Length() <= b.Length() ? a : b, PreferenceRule::SMALLER_LENGTH};
+}
+
+bool StartsFromRunningVersion(QString const& deltaFrom, SelectionSubject const& subject)
+{
+    Core::Version const from = VersionFromStringNoexcept(deltaFrom);
+    return from.IsValid() && subject.versionEqual(subject.localVersion, from);
 }
 
 } // namespace Pelnar::App::Session

@@ -106,4 +106,7 @@ std::optional<Preference> PreferByVersionAndType(ItemRecord& a, ItemRecord& b, S
 /// Decides between two valid items that PreferByVersionAndType does not tell apart.
 Preference PreferByDownload(ItemRecord& a, ItemRecord& b);
 
+/// Whether a delta that starts from the version \a deltaFrom, as the feed writes it, serves the running application.
+[[nodiscard]] bool StartsFromRunningVersion(QString const& deltaFrom, SelectionSubject const& subject);
+
 } // namespace Pelnar::App::Session

@@ -161,8 +161,7 @@ void OfferDeltas(SparkleManager::Impl const& session, NSDictionary* deltas, Cont
     {
         SUAppcastItem* const delta = [deltas objectForKey:key];
         session.PrintDebugSUAppcastItemInfo(delta, "delta from " + ToUtf8(key));
-        Core::Version const from = Session::VersionFromStringNoexcept(ToQString(key));
-        if (from.IsValid() && session.context->versionEqual(session.context->localVersion, from))
+        if (Session::StartsFromRunningVersion(ToQString(key), SubjectOf(session)))
         {
             contest.Offer(delta);
         }

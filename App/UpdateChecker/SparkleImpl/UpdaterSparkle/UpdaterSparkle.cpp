@@ -1,6 +1,7 @@
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
@@ -20,20 +21,8 @@ namespace Pelnar::App
 namespace
 {
 
-constexpr int COMPARED_COMPONENTS = 4;
-
 Core::LogFile const LOG_FILE("App/UpdateChecker/SparkleImpl/UpdaterSparkle");
 Core::LogSite const CALLBACK_WITHOUT_UPDATER{Core::LogSeverity::Error, LOG_FILE, 49, ""};
-
-bool IsLess(Core::Version const& a, Core::Version const& b)
-{
-    return Core::Util::ShrinkVersion(a, COMPARED_COMPONENTS) < Core::Util::ShrinkVersion(b, COMPARED_COMPONENTS);
-}
-
-bool IsEqual(Core::Version const& a, Core::Version const& b)
-{
-    return Core::Util::ShrinkVersion(a, COMPARED_COMPONENTS) == Core::Util::ShrinkVersion(b, COMPARED_COMPONENTS);
-}
 
 } // namespace
 
@@ -60,8 +49,8 @@ UpdaterSparkle::Impl::Impl(NotNull<std::shared_ptr<ICustomizationManager>> const
     context->applicationName = QString::fromStdString(customization->GetDisplayName());
     context->feedUrl = QUrl(links->GetLink(URLKeys::SPARKLE_APPCAST_URL));
     context->localVersion = customization->GetApplicationVersion();
-    context->versionLess = IsLess;
-    context->versionEqual = IsEqual;
+    context->versionLess = Session::IsOlderVersion;
+    context->versionEqual = Session::IsSameVersion;
     context->checkFinishedCallback = [guarded = QPointer<AbstractUpdaterImpl>(owner), this]
     {
         if (!guarded)

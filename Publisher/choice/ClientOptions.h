@@ -1,0 +1,56 @@
+// ClientOptions.h: the versions and platforms by which a command line describes clients.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include "Engine/core/feed/FeedParser.h"
+#include "HostFramework/Version.h"
+#include "Publisher/Console.h"
+#include "Publisher/FeedSource.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+/// What stands for a system whose version the client cannot read; it ignores the bounds of items.
+constexpr char const* UNKNOWN_SYSTEM = "unknown";
+
+/// A version as text and as the client reads it.
+struct NamedVersion
+{
+    QString text;
+    Core::Version version;
+};
+
+/// \a option is the name that a problem mentions.
+[[nodiscard]] std::variant<NamedVersion, Problem> ParseLocalVersion(QString const& option, QString const& text);
+/// As ParseLocalVersion; "unknown" is the invalid version.
+[[nodiscard]] std::variant<NamedVersion, Problem> ParseSystemVersion(QString const& option, QString const& text);
+/// A list with commas between its entries, each read by one of the two above; empty entries are problems.
+[[nodiscard]] std::variant<std::vector<NamedVersion>, Problem>
+ParseVersionList(QString const& option, QString const& text,
+                 std::variant<NamedVersion, Problem> (*parse)(QString const&, QString const&));
+
+/// The names of platforms on a command line, in the order of the help text.
+std::vector<std::string> PlatformNames();
+/// REQUIRES: one of PlatformNames().
+[[nodiscard]] Engine::FeedPlatform PlatformFromName(QString const& name);
+/// The platform that this program runs on.
+QString OwnPlatformName();
+
+struct ParsedFeed
+{
+    FeedBytes source;
+    std::vector<Engine::FeedItem> items;
+};
+
+/// Reads and parses a feed as a client does.
+[[nodiscard]] std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& publishedAt,
+                                                          Engine::FeedPlatform platform, Console const& console);
+
+} // namespace Pelnar::Publisher

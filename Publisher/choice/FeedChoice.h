@@ -1,0 +1,63 @@
+// FeedChoice.h: which item of a feed a client takes, and how each of the others loses. The rules are the session's own;
+// only the items come from the parser without Foundation between them.
+// Thread: any. Ownership: a choice points into the items that it was made from.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
+#include "Engine/core/feed/FeedItem.h"
+#include "HostFramework/Version.h"
+
+#include <QVariantMap>
+
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+/// What the session answered last in the same check. After a delta the framework asks for a full item to fall back on.
+enum class PreviousAnswer
+{
+    None,
+    Delta,
+};
+
+/// Who asks. REQUIRES: a valid local version.
+struct Client
+{
+    Core::Version localVersion;
+    Core::Version systemVersion; ///< the invalid version switches the bounds of items off
+    PreviousAnswer previousAnswer = PreviousAnswer::None;
+};
+
+/// Two valid items, of which one was preferred.
+struct Duel
+{
+    Engine::FeedItem const* winner = nullptr;
+    Engine::FeedItem const* loser = nullptr;
+    App::Session::PreferenceRule rule = App::Session::PreferenceRule::NEWER_VERSION;
+};
+
+struct FeedChoice
+{
+    Engine::FeedItem const* chosen = nullptr; ///< an item or a delta; null when there is nothing to offer
+    Engine::FeedItem const* full = nullptr;   ///< the best full item, whose deltas were looked at
+    std::vector<Duel> duels;                  ///< in the order in which they were decided
+};
+
+/// The choice of \a client. Of several deltas with the same deltaFrom text the last counts, as for the session, which
+/// meets them by that text; those whose texts differ are met in the order of the feed.
+FeedChoice ChooseFromFeed(std::vector<Engine::FeedItem> const& items, Client const& client);
+
+/// The first test that \a item, or a delta, fails for \a client.
+App::Session::Judgement JudgeFeedItem(Engine::FeedItem const& item, Client const& client);
+
+App::Session::UpdateType UpdateTypeOf(Engine::FeedItem const& item);
+
+/// Whether \a delta, of the best full item, is looked at for \a client.
+[[nodiscard]] bool ServesClient(Engine::FeedItem const& delta, Client const& client);
+
+/// The extensions that the host is handed with \a item; a value that is no text is an invalid variant.
+QVariantMap ExtensionsOf(Engine::FeedItem const& item);
+
+} // namespace Pelnar::Publisher

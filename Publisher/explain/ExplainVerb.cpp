@@ -1,0 +1,86 @@
+#include "Publisher/explain/ExplainVerb.h"
+
+#include "Publisher/choice/ClientOptions.h"
+#include "Publisher/explain/ExplanationText.h"
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct ExplainOptions
+{
+    std::string feed;
+    std::string publishedAt;
+    std::string localVersion;
+    std::string systemVersion;
+    std::string platform = OwnPlatformName().toStdString();
+    bool isAfterDelta = false;
+    bool isJson = false;
+};
+
+ExitStatus Explain(ExplainOptions const& options, Console const& console)
+{
+    auto const local =
+        ParseLocalVersion(QStringLiteral("--local-version"), QString::fromStdString(options.localVersion));
+    auto const system =
+        ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion));
+    for (auto const* version : {&local, &system})
+    {
+        if (auto const* const problem = std::get_if<Problem>(version))
+        {
+            return console.Refuse(*problem);
+        }
+    }
+    QString const platform = QString::fromStdString(options.platform);
+    auto const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                                PlatformFromName(platform), console);
+    if (auto const* const problem = std::get_if<Problem>(&feed))
+    {
+        return console.Refuse(*problem);
+    }
+    PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::Delta : PreviousAnswer::None;
+    Explanation const explanation =
+        ExplainFeed(std::get<ParsedFeed>(feed).items,
+                    {std::get<NamedVersion>(local).version, std::get<NamedVersion>(system).version, previous});
+    ExplainQuestion const question{std::get<ParsedFeed>(feed).source.name, std::get<NamedVersion>(local).text,
+                                   std::get<NamedVersion>(system).text, platform, previous};
+    if (options.isJson)
+    {
+        console.PrintJson(JsonOf(explanation, question));
+    }
+    else
+    {
+        PrintExplanation(explanation, question, console);
+    }
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddExplain(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<ExplainOptions>();
+    CLI::App* const verb =
+        program.add_subcommand("explain", "Say which item a client takes, and why not each of the others");
+    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
+    verb->add_option("--local-version", options->localVersion, "Installed version of the application")
+        ->required()
+        ->type_name("V");
+    verb->add_option("--system-version", options->systemVersion,
+                     "Version of the client's operating system, or \"unknown\"")
+        ->required()
+        ->type_name("V");
+    verb->add_option("--platform", options->platform, "Whose items count")
+        ->capture_default_str()
+        ->check(CLI::IsMember(PlatformNames()));
+    verb->add_option("--published-at", options->publishedAt,
+                     "Address of the published feed, for relative addresses in it; default: where it is read")
+        ->type_name("URL");
+    verb->add_flag("--after-delta", options->isAfterDelta,
+                   "Answer as when the client has been given a delta and asks for a full item to fall back on");
+    verb->add_flag("--json", options->isJson, "Print one JSON object");
+    verb->callback([options, &context] { context.status = Explain(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,201 @@
+#include "Publisher/explain/Explanation.h"
+
+#include "HostFramework/VersionText.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using App::Session::Judgement;
+using App::Session::PreferenceRule;
+using App::Session::UpdateType;
+using Engine::FeedItem;
+
+QString TextOf(Core::Version const& version)
+{
+    return Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
+}
+
+QString Quoted(QString const& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString FailedTest(FeedItem const& item, Judgement judgement, Client const& client)
+{
+    switch (judgement)
+    {
+    case Judgement::SYSTEM_TOO_OLD:
+        return QStringLiteral("system %1 < minimum %2").arg(TextOf(client.systemVersion), item.minimumSystemVersion);
+    case Judgement::SYSTEM_TOO_NEW:
+        return QStringLiteral("system %1 > maximum %2").arg(TextOf(client.systemVersion), item.maximumSystemVersion);
+    case Judgement::VERSION_UNREADABLE:
+        return item.versionString.isEmpty()
+                   ? QStringLiteral("no version")
+                   : QStringLiteral("version %1 is not one to four numbers with dots").arg(Quoted(item.versionString));
+    case Judgement::VERSION_OLDER:
+        return QStringLiteral("version %1 < installed %2").arg(item.versionString, TextOf(client.localVersion));
+    case Judgement::VERSION_EQUAL:
+        return QStringLiteral("version %1 = installed %2").arg(item.versionString, TextOf(client.localVersion));
+    case Judgement::URL_INVALID:
+        return QStringLiteral("no enclosure with a valid address");
+    case Judgement::DATE_REFUSED:
+        return QStringLiteral("date %1 is in the text form that is refused").arg(Quoted(item.dateString));
+    case Judgement::LENGTH_ZERO:
+        return QStringLiteral("length is 0, missing or no number");
+    case Judgement::VALID:
+        return {};
+    }
+    return {};
+}
+
+QString KindOf(FeedItem const& item)
+{
+    return QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(item)));
+}
+
+class Explainer
+{
+public:
+    Explainer(std::vector<FeedItem> const& items, Client const& client)
+        : m_items(items), m_client(client), m_choice(ChooseFromFeed(items, client))
+    {
+    }
+
+    Explanation Explain() const
+    {
+        Explanation result;
+        result.chosen = m_choice.chosen;
+        result.chosenIndex = m_choice.full ? int(m_choice.full - m_items.data()) : 0;
+        for (FeedItem const& item : m_items)
+        {
+            result.items.push_back(ExplainItem(item, int(result.items.size())));
+            for (FeedItem const& delta : item.deltas)
+            {
+                std::vector<ItemExplanation>& deltas = result.items.back().deltas;
+                deltas.push_back(ExplainItem(delta, int(deltas.size())));
+                LookAtDelta(deltas.back(), item);
+            }
+        }
+        return result;
+    }
+
+private:
+    ItemExplanation ExplainItem(FeedItem const& item, int index) const
+    {
+        ItemExplanation result;
+        result.item = &item;
+        result.index = index;
+        result.updateType = UpdateTypeOf(item);
+        result.verdict = JudgeFeedItem(item, m_client);
+        result.extensions = ExtensionsOf(item);
+        if (result.verdict != Judgement::VALID)
+        {
+            result.standing = Standing::Refused;
+            result.detail = FailedTest(item, result.verdict, m_client);
+        }
+        else if (&item == m_choice.chosen)
+        {
+            result.standing = Standing::Chosen;
+            result.detail = QStringLiteral("chosen");
+        }
+        else
+        {
+            result.standing = Standing::Lost;
+            result.detail = HowLost(item);
+        }
+        return result;
+    }
+
+    /// A delta that the client never looks at keeps its verdict; the detail says why it does not count.
+    void LookAtDelta(ItemExplanation& delta, FeedItem const& parent) const
+    {
+        QString reason;
+        if (&parent != m_choice.full)
+        {
+            reason = QStringLiteral("not looked at: item is not the best full one");
+        }
+        else if (m_client.previousAnswer == PreviousAnswer::Delta)
+        {
+            reason = QStringLiteral("not looked at: the previous answer was a delta");
+        }
+        else if (!ServesClient(*delta.item, m_client))
+        {
+            reason = QStringLiteral("not looked at: starts from %1, installed is %2")
+                         .arg(delta.item->deltaFrom.isEmpty() ? Quoted(QString()) : delta.item->deltaFrom,
+                              TextOf(m_client.localVersion));
+        }
+        else if (delta.standing == Standing::Lost && delta.detail.isEmpty())
+        {
+            reason = QStringLiteral("not looked at: a later delta starts from %1 too").arg(delta.item->deltaFrom);
+        }
+        if (!reason.isEmpty())
+        {
+            delta.standing = Standing::NotAsked;
+            delta.detail = delta.detail.isEmpty() || delta.verdict == Judgement::VALID
+                               ? reason
+                               : reason + QStringLiteral("; ") + delta.detail;
+        }
+    }
+
+    QString NameOf(FeedItem const& item) const
+    {
+        if (item.isDelta)
+        {
+            return QStringLiteral("the delta from %1").arg(item.deltaFrom);
+        }
+        return QStringLiteral("item %1").arg(&item - m_items.data());
+    }
+
+    /// Empty when \a item met nobody.
+    QString HowLost(FeedItem const& item) const
+    {
+        auto const duel = std::find_if(m_choice.duels.begin(), m_choice.duels.end(),
+                                       [&](Duel const& each) { return each.loser == &item; });
+        if (duel == m_choice.duels.end())
+        {
+            return {};
+        }
+        return QStringLiteral("lost to %1: %2").arg(NameOf(*duel->winner), Reason(*duel));
+    }
+
+    QString Reason(Duel const& duel) const
+    {
+        FeedItem const& winner = *duel.winner;
+        FeedItem const& loser = *duel.loser;
+        switch (duel.rule)
+        {
+        case PreferenceRule::NEWER_VERSION:
+            return QStringLiteral("newer version, %1 > %2").arg(winner.versionString, loser.versionString);
+        case PreferenceRule::WANTED_TYPE:
+            return QStringLiteral("kind, %1 is wanted before %2").arg(KindOf(winner), KindOf(loser));
+        case PreferenceRule::SAME_ADDRESS:
+            return QStringLiteral("same address, and it comes first");
+        case PreferenceRule::LATER_DATE:
+            return QStringLiteral("later date, %1 > %2").arg(winner.dateString, loser.dateString);
+        case PreferenceRule::SMALLER_LENGTH:
+            return winner.contentLength == loser.contentLength
+                       ? QStringLiteral("same size of %1 bytes, and it comes first").arg(winner.contentLength)
+                       : QStringLiteral("smaller size, %1 < %2 bytes")
+                             .arg(winner.contentLength)
+                             .arg(loser.contentLength);
+        }
+        return {};
+    }
+
+    std::vector<FeedItem> const& m_items;
+    Client const m_client;
+    FeedChoice const m_choice;
+};
+
+} // namespace
+
+Explanation ExplainFeed(std::vector<FeedItem> const& items, Client const& client)
+{
+    return Explainer(items, client).Explain();
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,27 @@
+// ExplanationText.h: an explanation as text for a person, and as JSON. docs/formats/explain-json.md holds the schema.
+// Thread: any; no state. Ownership: none.
+#pragma once
+
+#include "Publisher/Console.h"
+#include "Publisher/explain/Explanation.h"
+
+#include <QJsonObject>
+
+namespace Pelnar::Publisher
+{
+
+/// What the explanation answers, as the person asked it.
+struct ExplainQuestion
+{
+    QString feed;
+    QString localVersion;
+    QString systemVersion;
+    QString platform;
+    PreviousAnswer previousAnswer = PreviousAnswer::None;
+};
+
+void PrintExplanation(Explanation const& explanation, ExplainQuestion const& question, Console const& console);
+
+QJsonObject JsonOf(Explanation const& explanation, ExplainQuestion const& question);
+
+} // namespace Pelnar::Publisher

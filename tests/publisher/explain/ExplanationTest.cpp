@@ -1,0 +1,218 @@
+// ExplanationTest.cpp: the verdict and the reason of every item and delta.
+
+#include "Publisher/explain/Explanation.h"
+#include "Engine/core/feed/FeedParser.h"
+
+#include <gtest/gtest.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+char const* const ENCLOSURE = "<enclosure url='a.zip' length='9' s:version='5.1'/>";
+
+class ExplainedFeed
+{
+public:
+    explicit ExplainedFeed(QByteArray const& items, Client const& client = {Core::Version(5, 0), Core::Version(12, 3)})
+        : m_feed(Engine::ParseFeed("<rss xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" +
+                                       items + "</channel></rss>",
+                                   QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")),
+                                   Engine::FeedPlatform::Linux))
+        , m_explanation(ExplainFeed(m_feed.items, client))
+    {
+        EXPECT_TRUE(m_feed.HasSucceeded()) << m_feed.error.sentence.toStdString();
+    }
+
+    Explanation const& Get() const { return m_explanation; }
+    ItemExplanation const& Item(int index) const { return m_explanation.items.at(std::size_t(index)); }
+    ItemExplanation const& Delta(int item, int index) const { return Item(item).deltas.at(std::size_t(index)); }
+
+private:
+    Engine::FeedParseResult m_feed;
+    Explanation m_explanation;
+};
+
+std::string Said(ItemExplanation const& item)
+{
+    return std::string(App::Session::JudgementName(item.verdict)) + ": " + item.detail.toStdString();
+}
+
+struct FailureRow
+{
+    char const* name;
+    char const* item;
+    char const* said;
+};
+
+class FailedTest : public ::testing::TestWithParam<FailureRow>
+{
+};
+
+QByteArray Full(char const* version, char const* url, char const* length)
+{
+    return QByteArray("<item><enclosure url='") + url + "' length='" + length + "' s:version='" + version +
+           "'/></item>";
+}
+
+} // namespace
+
+TEST_P(FailedTest, IsNamedWithTheTwoValuesThatItCompared)
+{
+    ExplainedFeed const feed(GetParam().item);
+    EXPECT_EQ(Said(feed.Item(0)), GetParam().said);
+    EXPECT_EQ(feed.Item(0).standing, Standing::Refused);
+    EXPECT_EQ(feed.Get().chosen, nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , FailedTest,
+    ::testing::Values(
+        FailureRow{"SystemTooOld",
+                   "<item><enclosure url='a' length='1' s:version='6'/><s:minimumSystemVersion>12.4"
+                   "</s:minimumSystemVersion></item>",
+                   "system-too-old: system 12.3 < minimum 12.4"},
+        FailureRow{"SystemTooNew",
+                   "<item><enclosure url='a' length='1' s:version='6'/><s:maximumSystemVersion>12.2.9"
+                   "</s:maximumSystemVersion></item>",
+                   "system-too-new: system 12.3 > maximum 12.2.9"},
+        FailureRow{"NoVersion", "<item><enclosure url='a' length='1'/></item>", "version-unreadable: no version"},
+        FailureRow{"BadVersion", "<item><enclosure url='a' length='1' s:version='6b'/></item>",
+                   "version-unreadable: version \"6b\" is not one to four numbers with dots"},
+        FailureRow{"Older", "<item><enclosure url='a' length='1' s:version='4.9'/></item>",
+                   "version-older: version 4.9 < installed 5.0"},
+        FailureRow{"Equal", "<item><enclosure url='a' length='1' s:version='5'/></item>",
+                   "version-equal: version 5 = installed 5.0"},
+        FailureRow{"NoAddress", "<item><enclosure length='1' s:version='6'/></item>",
+                   "url-invalid: no enclosure with a valid address"},
+        FailureRow{"TextDate",
+                   "<item><pubDate>Mon Jan 7 2019</pubDate><enclosure url='a' length='1' s:version='6'/></item>",
+                   "date-refused: date \"Mon Jan 7 2019\" is in the text form that is refused"},
+        FailureRow{"NoLength", "<item><enclosure url='a' s:version='6'/></item>",
+                   "length-zero: length is 0, missing or no number"}),
+    [](auto const& row) { return std::string(row.param.name); });
+
+TEST(Explanation, AnUnknownSystemIgnoresBounds)
+{
+    QByteArray const item =
+        QByteArray("<item><s:minimumSystemVersion>99</s:minimumSystemVersion>") + ENCLOSURE + "</item>";
+    ExplainedFeed const feed(item, {Core::Version(5, 0), Core::Version()});
+    EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
+}
+
+struct LossRow
+{
+    char const* name;
+    QByteArray winner;
+    QByteArray loser;
+    char const* said; ///< of the loser when the winner comes first
+};
+
+class LostItem : public ::testing::TestWithParam<LossRow>
+{
+};
+
+TEST_P(LostItem, SaysToWhomAndWhy)
+{
+    ExplainedFeed const feed(GetParam().winner + GetParam().loser);
+    EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
+    EXPECT_EQ(Said(feed.Item(1)), std::string("valid: lost to item 0: ") + GetParam().said);
+    EXPECT_EQ(feed.Item(1).standing, Standing::Lost);
+    EXPECT_EQ(feed.Get().chosen, feed.Item(0).item);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , LostItem,
+    ::testing::Values(
+        LossRow{"NewerVersion", Full("5.2", "a.zip", "1"), Full("5.1", "b.zip", "1"), "newer version, 5.2 > 5.1"},
+        LossRow{"MinorWantsBundle", Full("5.1", "a.zip", "9"), Full("5.1", "b.sparkle_guided.pkg", "1"),
+                "kind, BUNDLE is wanted before INSTALLER"},
+        LossRow{"MajorWantsInstaller", Full("6", "a.sparkle_guided.pkg", "9"), Full("6", "b.zip", "1"),
+                "kind, INSTALLER is wanted before BUNDLE"},
+        LossRow{"SameAddress", Full("6", "a.zip", "9"), Full("6.0", "a.zip", "1"), "same address, and it comes first"},
+        LossRow{"Smaller", Full("6", "a.zip", "8"), Full("6", "b.zip", "9"), "smaller size, 8 < 9 bytes"},
+        LossRow{"SameSize", Full("6", "a.zip", "9"), Full("6", "b.zip", "9"),
+                "same size of 9 bytes, and it comes first"}),
+    [](auto const& row) { return std::string(row.param.name); });
+
+TEST(Explanation, ALaterItemCanWin)
+{
+    ExplainedFeed const feed(Full("5.1", "a.zip", "1") + Full("5.2", "b.zip", "1") + Full("5.3", "c.zip", "1"));
+    EXPECT_EQ(Said(feed.Item(0)), "valid: lost to item 1: newer version, 5.2 > 5.1");
+    EXPECT_EQ(Said(feed.Item(1)), "valid: lost to item 2: newer version, 5.3 > 5.2");
+    EXPECT_EQ(Said(feed.Item(2)), "valid: chosen");
+    EXPECT_EQ(feed.Get().chosenIndex, 2);
+}
+
+namespace
+{
+
+QByteArray DeltaFrom(char const* version, char const* length)
+{
+    return QByteArray("<enclosure url='") + version + ".delta' length='" + length + "' s:deltaFrom='" + version + "'/>";
+}
+
+QByteArray ItemWithDeltas(QByteArray const& deltas)
+{
+    return QByteArray("<item>") + ENCLOSURE + "<s:deltas>" + deltas + "</s:deltas></item>";
+}
+
+} // namespace
+
+TEST(ExplainedDelta, OfTheInstalledVersionIsChosen)
+{
+    ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("4.9", "1") + DeltaFrom("5.0.0", "1")));
+    EXPECT_EQ(Said(feed.Item(0)), "valid: lost to the delta from 5.0.0: kind, DELTA is wanted before BUNDLE");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: starts from 4.9, installed is 5.0");
+    EXPECT_EQ(feed.Delta(0, 0).standing, Standing::NotAsked);
+    EXPECT_EQ(Said(feed.Delta(0, 1)), "valid: chosen");
+    EXPECT_EQ(feed.Get().chosen, feed.Delta(0, 1).item);
+    EXPECT_EQ(feed.Get().chosenIndex, 0);
+}
+
+TEST(ExplainedDelta, DoesNotCountAfterADeltaAnswer)
+{
+    ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1")),
+                             {Core::Version(5, 0), Core::Version(12, 3), PreviousAnswer::Delta});
+    EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: the previous answer was a delta");
+}
+
+TEST(ExplainedDelta, OfALesserItemDoesNotCount)
+{
+    ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1")) + Full("5.2", "b.zip", "1"));
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: item is not the best full one");
+    EXPECT_EQ(feed.Get().chosenIndex, 1);
+}
+
+TEST(ExplainedDelta, IsHiddenByALaterOneFromTheSameVersion)
+{
+    ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1") + DeltaFrom("5.0", "2")));
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: a later delta starts from 5.0 too");
+    EXPECT_EQ(Said(feed.Delta(0, 1)), "valid: chosen");
+}
+
+TEST(ExplainedDelta, WithoutALengthIsRefused)
+{
+    ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "0") + DeltaFrom("4.0", "0")));
+    EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "length-zero: length is 0, missing or no number");
+    EXPECT_EQ(Said(feed.Delta(0, 1)), "length-zero: not looked at: starts from 4.0, installed is 5.0; "
+                                      "length is 0, missing or no number");
+}
+
+TEST(Explanation, GivesTheExtensionsThatTheHostIsHanded)
+{
+    ExplainedFeed const feed(
+        "<item><pelnar1_Channel>beta</pelnar1_Channel><pelnar1_Odd a='b'/><pelnar2_No>x</pelnar2_No>"
+        "<enclosure url='a.zip' length='9' s:version='5.1'/><s:deltas>"
+        "<enclosure url='d' length='1' s:deltaFrom='5.0' pelnar1_Channel='delta'/></s:deltas></item>");
+    EXPECT_EQ(feed.Item(0).extensions.keys(),
+              (QStringList{QStringLiteral("PELNAR1_CHANNEL"), QStringLiteral("PELNAR1_ODD")}));
+    EXPECT_EQ(feed.Item(0).extensions.value(QStringLiteral("PELNAR1_CHANNEL")).toString().toStdString(), "beta");
+    EXPECT_FALSE(feed.Item(0).extensions.value(QStringLiteral("PELNAR1_ODD")).isValid());
+    EXPECT_EQ(feed.Delta(0, 0).extensions.value(QStringLiteral("PELNAR1_CHANNEL")).toString().toStdString(), "delta");
+}
+
+} // namespace Pelnar::Publisher

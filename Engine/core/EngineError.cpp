@@ -1,5 +1,7 @@
 #include "Engine/core/EngineError.h"
 
+#include <QLocale>
+
 #include <algorithm>
 #include <array>
 
@@ -125,8 +127,68 @@ char const* SentenceOf(ErrorCause cause)
         return "The application chose an update that is not in the feed: install the application anew.";
     case ErrorCause::DelegateRaised:
         return "The application failed while it looked at the updates: restart it and try again.";
+
+    case ErrorCause::DownloadLengthInvalid:
+        return "The feed gives a length of the update that cannot be right: tell the publisher.";
+    case ErrorCause::DownloadLengthDiffers:
+        return "The update on the server is not as long as the feed says: try again later, and tell the publisher if "
+               "it stays so.";
+    case ErrorCause::DownloadRangeWrong:
+        return "The update server sent another part of the update than was asked for: try again later.";
+    case ErrorCause::DownloadBusy:
+        return "Another copy of the application is downloading this update: wait until it has finished.";
+    case ErrorCause::DownloadFolderUnusable:
+        return "The folder for downloaded updates cannot be used: check its permissions and its disk.";
+    case ErrorCause::DownloadFolderUnsafe:
+        return "The folder for downloaded updates is not yours alone: remove it, and try again.";
+    case ErrorCause::DownloadNoRoom:
+        return "The update needs %1 more on the disk, where %2 are free: make room and try again.";
+    case ErrorCause::DownloadQuotaReached:
+        return "The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours "
+               "and try again.";
+    case ErrorCause::DownloadFileTooLarge:
+        return "The update is a larger file than the disk for downloaded updates can hold: ask for help.";
+    case ErrorCause::DownloadDiskFailed:
+        return "The disk failed while the update was written to it: check the disk and try again.";
+    case ErrorCause::DownloadSystemBusy:
+        return "The computer has too little memory or too many open files for the download: close other applications "
+               "and try again.";
     }
     return "The check for updates failed: try again later.";
+}
+
+/// Of a cause whose usual sentence speaks of the feed.
+char const* DownloadSentenceOf(EngineError const& error)
+{
+    if (error.cause == ErrorCause::InvalidAddress)
+    {
+        return "The feed gives an address of the update that is none: tell the publisher.";
+    }
+    if (error.cause == ErrorCause::SchemeRefused)
+    {
+        return "The address of the update is of a kind that is not allowed, not https: tell the publisher.";
+    }
+    if (error.cause == ErrorCause::InsecureAddress)
+    {
+        return "The address of the update is not secure, since it does not begin with https: tell the publisher.";
+    }
+    if (error.cause == ErrorCause::IncompleteBody)
+    {
+        return "The connection broke while the update was downloaded: try again, it goes on from there.";
+    }
+    if (error.cause == ErrorCause::ContradictoryLength)
+    {
+        return "The update server states the update's length in contradictory ways: tell the publisher.";
+    }
+    if (error.cause == ErrorCause::TransferEncodingRefused)
+    {
+        return "The update server transfers the update in a way that was not asked for: tell the publisher.";
+    }
+    if (error.cause == ErrorCause::ContentEncodingRefused)
+    {
+        return "The update server sent the update compressed, which was not asked for: tell the publisher.";
+    }
+    return nullptr;
 }
 
 ErrorCode CodeOf(ErrorCause cause)
@@ -135,6 +197,10 @@ ErrorCode CodeOf(ErrorCause cause)
     if (cause == ErrorCause::NoUpdate)
     {
         return ErrorCode::NoUpdate;
+    }
+    if (number >= 900 && number < 950)
+    {
+        return ErrorCode::Download;
     }
     return number >= 700 && number < 800 ? ErrorCode::AppcastParse : ErrorCode::Appcast;
 }
@@ -214,6 +280,26 @@ EngineError MakeHttpStatusError(int status)
     EngineError error = MakeError(ErrorCause::HttpStatus);
     error.httpStatus = status;
     error.sentence = error.sentence.arg(status);
+    return error;
+}
+
+EngineError AsDownloadError(EngineError error)
+{
+    error.code = ErrorCode::Download;
+    if (char const* const sentence = DownloadSentenceOf(error))
+    {
+        error.sentence = QString::fromLatin1(sentence);
+    }
+    return error;
+}
+
+EngineError MakeRoomError(ErrorCause cause, quint64 neededBytes, quint64 freeBytes)
+{
+    QLocale const locale;
+    auto const text = [&locale](quint64 bytes)
+    { return locale.formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat); };
+    EngineError error = MakeError(cause);
+    error.sentence = error.sentence.arg(text(neededBytes), text(freeBytes));
     return error;
 }
 

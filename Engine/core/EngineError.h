@@ -104,6 +104,19 @@ enum class ErrorCause
     // The application's own answers.
     ForeignItem = 800,
     DelegateRaised = 801,
+
+    // The download of an archive.
+    DownloadLengthInvalid = 900,
+    DownloadLengthDiffers = 901,
+    DownloadRangeWrong = 902,
+    DownloadBusy = 910,
+    DownloadFolderUnusable = 911,
+    DownloadFolderUnsafe = 912,
+    DownloadNoRoom = 913,
+    DownloadQuotaReached = 914,
+    DownloadFileTooLarge = 915,
+    DownloadDiskFailed = 916,
+    DownloadSystemBusy = 917,
 };
 
 struct EngineError
@@ -128,6 +141,11 @@ QString EscapedRemoteText(QString const& text);
 /// \a remoteDetail is escaped here.
 EngineError MakeError(ErrorCause cause, QString const& remoteDetail = {});
 EngineError MakeHttpStatusError(int status);
+/// \a error, met on the way to an archive: with the code of downloads, and in words that do not speak of the feed.
+EngineError AsDownloadError(EngineError error);
+/// \a cause is DownloadNoRoom or DownloadQuotaReached; the sentence says how much the archive needs and how much is
+/// free.
+EngineError MakeRoomError(ErrorCause cause, quint64 neededBytes, quint64 freeBytes);
 /// REQUIRES: error.kind is not None.
 EngineError MakeFeedError(FeedParseError const& error);
 

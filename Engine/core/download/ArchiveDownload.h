@@ -1,7 +1,7 @@
 // ArchiveDownload.h: brings one archive from a server to a file, in constant memory, and goes on where an interrupted
 // download of the same archive stopped, even one of a process that was killed.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it cancels the download,
-// keeps what is on the disk for the next one, and nothing is called any more.
+// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it cancels the
+// download, keeps what is on the disk for the next one, and nothing is called any more.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -38,7 +38,9 @@ struct DownloadProgress
 struct DownloadOutcome
 {
     std::optional<EngineError> error;
-    UniqueFd archive; ///< opened for reading only, at its start; nobody has it open for writing; not set on error
+    /// Opened for reading only, at its start; nobody has it open for writing, and while it or a copy of it is open no
+    /// other process downloads the same archive. Not set on error.
+    UniqueFd archive;
 };
 
 class ArchiveDownload
@@ -53,8 +55,8 @@ public:
     /// either may destroy this object. REQUIRES: called once.
     void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
 
-    /// Removes the file of \a request, whole or partial, and what is known of it: for an archive that was refused, or is
-    /// not needed any more. Nothing happens when there is none.
+    /// Removes the file of \a request, whole or partial, and what is known of it: for an archive that was refused, or
+    /// is not needed any more. Nothing happens when there is none.
     static void Discard(DownloadRequest const& request);
 
 private:

@@ -10,24 +10,6 @@
 
 namespace Pelnar::Engine
 {
-namespace
-{
-
-bool IsRedirect(int status)
-{
-    switch (status)
-    {
-    case 301:
-    case 302:
-    case 303:
-    case 307:
-    case 308:
-        return true;
-    }
-    return false;
-}
-
-} // namespace
 
 FeedFetcher::FeedFetcher(FetchLimits const& limits, InsecureHttp insecureHttp)
     : m_limits(limits), m_insecureHttp(insecureHttp)

@@ -74,6 +74,15 @@ std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecur
         // A host name would make it a network share.
         return url.host().isEmpty() || IsLoopback(url) ? std::nullopt : std::optional(ErrorCause::FileOnOtherHost);
     }
+    return JudgeArchiveAddress(url, insecureHttp);
+}
+
+std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, InsecureHttp insecureHttp)
+{
+    if (!url.isValid() || url.isRelative())
+    {
+        return ErrorCause::InvalidAddress;
+    }
     if (!IsHttp(url) && !IsHttps(url))
     {
         return ErrorCause::SchemeRefused;
@@ -83,7 +92,7 @@ std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecur
 
 FetchRequest RequestFor(QUrl const& url)
 {
-    FetchRequest request{url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment), {}};
+    FetchRequest request{url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment), {}, {}};
     if (!url.userInfo().isEmpty())
     {
         QString const credentials =
@@ -91,6 +100,20 @@ FetchRequest RequestFor(QUrl const& url)
         request.fields.push_back({"Authorization", "Basic " + credentials.toUtf8().toBase64()});
     }
     return request;
+}
+
+bool IsRedirect(int status)
+{
+    switch (status)
+    {
+    case 301:
+    case 302:
+    case 303:
+    case 307:
+    case 308:
+        return true;
+    }
+    return false;
 }
 
 std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request,
@@ -124,7 +147,8 @@ std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request
     {
         return ErrorCause::RedirectDowngrade;
     }
-    return FetchRequest{url, IsSameOrigin(request.url, url) ? request.fields : std::vector<HeaderField>()};
+    return FetchRequest{url, IsSameOrigin(request.url, url) ? request.fields : std::vector<HeaderField>(),
+                        request.rangeFields};
 }
 
 bool BeginsAsWebPage(QByteArray const& bytes)
@@ -163,9 +187,12 @@ QByteArray SerializedRequest(FetchRequest const& request)
     QByteArray bytes = "GET " + target + " HTTP/1.1\r\nHost: " + host +
                        "\r\nUser-Agent: PelnarUpdateEngine\r\nAccept: application/rss+xml, application/xml, */*;q=0.5"
                        "\r\nAccept-Encoding: identity\r\nCache-Control: no-cache\r\nConnection: close\r\n";
-    for (HeaderField const& field : request.fields)
+    for (std::vector<HeaderField> const* const fields : {&request.fields, &request.rangeFields})
     {
-        bytes += field.name + ": " + field.value + "\r\n";
+        for (HeaderField const& field : *fields)
+        {
+            bytes += field.name + ": " + field.value + "\r\n";
+        }
     }
     return bytes + "\r\n";
 }

@@ -25,6 +25,10 @@ struct FetchLimits
     std::chrono::milliseconds totalTimeout = std::chrono::seconds(60);   ///< of all connections together
     std::chrono::milliseconds rateWindow = std::chrono::seconds(20);     ///< once connected
     int minBytesPerSecond = 1024;                                        ///< over every rateWindow
+    /// How often a download goes on after its connection broke before a mebibyte more had arrived, and the pause before
+    /// the first time; each further one is twice as long.
+    int maxResumes = 5;
+    std::chrono::milliseconds firstResumePause = std::chrono::seconds(1);
 };
 
 /// Whether plain http is allowed: to this computer always, elsewhere only when the host's bundle opts in.
@@ -34,7 +38,7 @@ enum class InsecureHttp
     Anywhere,
 };
 
-/// A header field of a request that is meant for one origin only.
+/// One field of the head of a request or an answer.
 struct HeaderField
 {
     QByteArray name;
@@ -45,7 +49,8 @@ struct HeaderField
 struct FetchRequest
 {
     QUrl url;
-    std::vector<HeaderField> fields;
+    std::vector<HeaderField> fields;      ///< for the origin of url only
+    std::vector<HeaderField> rangeFields; ///< for whoever answers in the end
 };
 
 [[nodiscard]] bool IsLoopback(QUrl const& url);
@@ -55,8 +60,14 @@ struct FetchRequest
 /// Why a feed must not be fetched from \a url; nothing when it may.
 [[nodiscard]] std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp);
 
+/// Why an archive must not be downloaded from \a url; nothing when it may. An archive is never a file of this computer.
+[[nodiscard]] std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, InsecureHttp insecureHttp);
+
 /// The first request for \a url: user name and password of the address become an authorization field.
 FetchRequest RequestFor(QUrl const& url);
+
+/// True when an answer with \a status leads to another address.
+[[nodiscard]] bool IsRedirect(int status);
 
 /// Where the answer \a location to \a request leads, by hop number \a hop (from 1), or why it is not followed. The
 /// fields go along while the origin stays the same; user name and password in \a location are dropped.

@@ -158,7 +158,7 @@ std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head)
     return BodyPlan{BodyPlan::Kind::Length, *length};
 }
 
-HttpAnswerReader::HttpAnswerReader(FetchLimits const& limits) : m_limits(limits) {}
+HttpAnswerReader::HttpAnswerReader(FetchLimits const& limits, IBodySink* sink) : m_limits(limits), m_sink(sink) {}
 
 HttpAnswerReader::Progress HttpAnswerReader::Feed(QByteArray const& bytes)
 {
@@ -229,7 +229,16 @@ HttpAnswerReader::Progress HttpAnswerReader::ReadHead()
 
 HttpAnswerReader::Progress HttpAnswerReader::BeginBody()
 {
-    if (m_head.status != 200)
+    if (m_sink)
+    {
+        std::optional<qint64> const most = m_sink->BeginBody(m_head);
+        if (!most)
+        {
+            return Progress::Complete;
+        }
+        m_limits.maxBodyBytes = *most;
+    }
+    else if (m_head.status != 200)
     {
         // What the body of another answer says is of no use here.
         return Progress::Complete;
@@ -250,7 +259,7 @@ HttpAnswerReader::Progress HttpAnswerReader::ReadBody()
     switch (m_plan.kind)
     {
     case BodyPlan::Kind::Length:
-        if (m_body.size() + PendingBytes() > m_plan.length)
+        if (m_bodyBytes + PendingBytes() > m_plan.length)
         {
             return Fail(MakeError(ErrorCause::SurplusBody));
         }
@@ -258,7 +267,7 @@ HttpAnswerReader::Progress HttpAnswerReader::ReadBody()
         {
             return progress;
         }
-        return m_body.size() == m_plan.length ? Progress::Complete : Progress::NeedsMore;
+        return m_bodyBytes == m_plan.length ? Progress::Complete : Progress::NeedsMore;
     case BodyPlan::Kind::Chunks:
         return ReadChunks();
     case BodyPlan::Kind::UntilClose:
@@ -328,13 +337,66 @@ HttpAnswerReader::Progress HttpAnswerReader::ReadChunks()
 
 HttpAnswerReader::Progress HttpAnswerReader::TakeData(qint64 count)
 {
-    if (m_body.size() + count > m_limits.maxBodyBytes)
+    if (m_sink && count > 0 && m_bodyBytes + count <= m_limits.maxBodyBytes)
+    {
+        std::memcpy(m_sink->Room().data, m_pending.constData() + m_position, static_cast<std::size_t>(count));
+    }
+    if (Progress const progress = CountData(count); progress != Progress::NeedsMore)
+    {
+        return progress;
+    }
+    if (!m_sink)
+    {
+        m_body.append(m_pending.constData() + m_position, static_cast<int>(count));
+    }
+    m_position += static_cast<int>(count);
+    return Progress::NeedsMore;
+}
+
+HttpAnswerReader::Progress HttpAnswerReader::CountData(qint64 count)
+{
+    if (m_bodyBytes + count > m_limits.maxBodyBytes)
     {
         return Fail(MakeError(ErrorCause::BodyTooLarge));
     }
-    m_body.append(m_pending.constData() + m_position, static_cast<int>(count));
-    m_position += static_cast<int>(count);
+    m_bodyBytes += count;
+    if (m_sink && count > 0)
+    {
+        m_sink->Took(count);
+    }
     return Progress::NeedsMore;
+}
+
+qint64 HttpAnswerReader::DirectBytes() const
+{
+    if (!m_sink || !m_hasHead || PendingBytes() > 0)
+    {
+        return 0;
+    }
+    switch (m_plan.kind)
+    {
+    case BodyPlan::Kind::Length:
+        return m_plan.length - m_bodyBytes;
+    case BodyPlan::Kind::Chunks:
+        return m_chunkState == ChunkState::Data ? m_chunkBytesLeft : 0;
+    case BodyPlan::Kind::UntilClose:
+        return m_limits.maxBodyBytes + 1 - m_bodyBytes; // the one more tells that there is one
+    }
+    return 0;
+}
+
+HttpAnswerReader::Progress HttpAnswerReader::TookDirectly(qint64 count)
+{
+    if (Progress const progress = CountData(count); progress != Progress::NeedsMore)
+    {
+        return progress;
+    }
+    if (m_plan.kind == BodyPlan::Kind::Chunks)
+    {
+        m_chunkBytesLeft -= count;
+    }
+    bool const isWhole = m_plan.kind == BodyPlan::Kind::Length && m_bodyBytes == m_plan.length;
+    return isWhole ? Progress::Complete : Progress::NeedsMore;
 }
 
 HttpAnswerReader::Progress HttpAnswerReader::Fail(EngineError error)

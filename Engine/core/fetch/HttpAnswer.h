@@ -1,5 +1,5 @@
 // HttpAnswer.h: reads the bytes of one HTTP/1.x answer, strictly and within limits. No input or output of its own.
-// Thread: any. Ownership: values only.
+// Thread: one at a time. Ownership: values only; a sink stays its owner's and must live as long as the reader is fed.
 // Everything that two readers might understand differently (two lengths, a length beside chunks, folded or bare lines)
 // is refused, not interpreted.
 #pragma once
@@ -44,6 +44,29 @@ struct BodyPlan
 /// How \a head frames its body, or why it is refused.
 [[nodiscard]] std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head);
 
+/// Where the next bytes of a body go.
+struct BodyRoom
+{
+    char* data = nullptr;
+    qint64 size = 0;
+};
+
+/// Takes the body of an answer piece by piece, where a whole one would cost too much memory.
+class IBodySink
+{
+public:
+    virtual ~IBodySink() = default;
+
+    /// The head is there: how many bytes its body may have at most, or nothing when the body is of no use.
+    virtual std::optional<qint64> BeginBody(HttpHead const& head) = 0;
+    /// Room for the next bytes, the same until some are taken; none while nothing can be taken.
+    virtual BodyRoom Room() = 0;
+    /// The first \a bytes of the room are filled.
+    virtual void Took(qint64 bytes) = 0;
+    /// Nothing more has arrived for now.
+    virtual void Rest() = 0;
+};
+
 /// Follows an answer from its first byte to its last.
 class HttpAnswerReader
 {
@@ -55,10 +78,16 @@ public:
         Failed,
     };
 
-    explicit HttpAnswerReader(FetchLimits const& limits);
+    /// Without a sink the body of an answer with status 200 is collected, and no other is read.
+    explicit HttpAnswerReader(FetchLimits const& limits, IBodySink* sink = nullptr);
 
-    /// Takes the next bytes. After Complete or Failed nothing more may be fed.
+    /// Takes the next bytes. After Complete or Failed nothing more may be fed. REQUIRES: with a sink, no more bytes
+    /// than it has room for.
     Progress Feed(QByteArray const& bytes);
+    /// How many of the bytes to come are the body's for sure, so that they may go straight to the sink's room.
+    qint64 DirectBytes() const;
+    /// \a count bytes went there. REQUIRES: not more than DirectBytes().
+    Progress TookDirectly(qint64 count);
     /// The connection has ended where NeedsMore was the last answer.
     Progress End();
 
@@ -83,6 +112,7 @@ private:
     Progress ReadBody();
     Progress ReadChunks();
     Progress TakeData(qint64 count);
+    Progress CountData(qint64 count);
     Progress Fail(EngineError error);
     /// Moves the first line, without its end, out of the pending bytes; nothing when it is not there yet.
     std::optional<QByteArray> TakeLine();
@@ -90,6 +120,7 @@ private:
     int PendingBytes() const { return m_pending.size() - m_position; }
 
     FetchLimits m_limits;
+    IBodySink* m_sink;
     QByteArray m_pending;
     int m_position = 0;   ///< of the first byte of m_pending that has not been taken; 0 before the body
     int m_searchedTo = 0; ///< in m_pending no line ends before here
@@ -100,6 +131,7 @@ private:
     BodyPlan m_plan;
     ChunkState m_chunkState = ChunkState::Size;
     qint64 m_chunkBytesLeft = 0;
+    qint64 m_bodyBytes = 0;
     QByteArray m_body;
     EngineError m_error;
 };

@@ -12,6 +12,10 @@ namespace
 
 constexpr int SAMPLES_IN_WINDOW = 20;
 constexpr qint64 READ_BYTES = 64 * 1024;
+/// Of a socket that fills a sink: enough to keep the reader busy while the next bytes arrive.
+constexpr qint64 SINK_BUFFER_BYTES = 1024 * 1024;
+/// Read in one go before the event loop has its turn again.
+constexpr qint64 PASS_BYTES = 256 * 1024;
 
 struct CertificateRule
 {
@@ -78,10 +82,10 @@ EngineError CertificateError(QList<QSslError> const& errors)
     return MakeError(ErrorCause::CertificateInvalid, errors.front().errorString());
 }
 
-HttpConnection::HttpConnection(FetchRequest const& request, FetchLimits const& limits)
-    : m_request(request), m_limits(limits), m_reader(limits)
+HttpConnection::HttpConnection(FetchRequest const& request, FetchLimits const& limits, IBodySink* sink)
+    : m_request(request), m_limits(limits), m_sink(sink), m_reader(limits, sink)
 {
-    m_socket.setReadBufferSize(READ_BYTES);
+    m_socket.setReadBufferSize(sink ? SINK_BUFFER_BYTES : READ_BYTES);
     m_connectTimer.setSingleShot(true);
     connect(&m_connectTimer, &QTimer::timeout, this, [this] { Fail(MakeError(ErrorCause::ConnectTimeout)); });
     connect(&m_rateTimer, &QTimer::timeout, this, &HttpConnection::SampleRate);
@@ -129,25 +133,83 @@ void HttpConnection::SendRequest()
 
 void HttpConnection::ReadAvailable()
 {
+    qint64 const passEnd = m_received + PASS_BYTES;
     while (!m_isClosed && m_socket.bytesAvailable() > 0)
     {
-        QByteArray const bytes = m_socket.read(READ_BYTES);
-        m_received += bytes.size();
-        Take(m_reader.Feed(bytes));
-    }
-}
-
-void HttpConnection::TakeSocketError(QAbstractSocket::SocketError error)
-{
-    // What arrived before the end counts, and may end the exchange by itself.
-    if (m_isConnected)
-    {
-        ReadAvailable();
+        if (m_received >= passEnd)
+        {
+            QMetaObject::invokeMethod(this, &HttpConnection::ReadAvailable, Qt::QueuedConnection);
+            return;
+        }
+        BodyRoom const room = m_sink ? m_sink->Room() : BodyRoom{nullptr, READ_BYTES};
+        if (room.size == 0)
+        {
+            m_isHeld = true;
+            return;
+        }
+        ReadPiece(room);
     }
     if (m_isClosed)
     {
         return;
     }
+    if (m_sink)
+    {
+        m_sink->Rest();
+    }
+    if (m_end)
+    {
+        TakeEnd();
+    }
+}
+
+void HttpConnection::ReadPiece(BodyRoom const& room)
+{
+    qint64 const direct = std::min(m_reader.DirectBytes(), room.size);
+    if (direct == 0)
+    {
+        QByteArray const bytes = m_socket.read(std::min(room.size, READ_BYTES));
+        m_received += bytes.size();
+        Take(m_reader.Feed(bytes));
+        return;
+    }
+    qint64 const count = std::max<qint64>(m_socket.read(room.data, direct), 0);
+    m_received += count;
+    HttpAnswerReader::Progress const progress = m_reader.TookDirectly(count);
+    if (progress == HttpAnswerReader::Progress::Complete && m_socket.bytesAvailable() > 0)
+    {
+        Fail(MakeError(ErrorCause::SurplusBody));
+        return;
+    }
+    Take(progress);
+}
+
+void HttpConnection::ReadOn()
+{
+    if (m_isHeld)
+    {
+        m_isHeld = false;
+        ReadAvailable();
+    }
+}
+
+void HttpConnection::TakeSocketError(QAbstractSocket::SocketError error)
+{
+    m_end = error;
+    // What arrived before the end counts, and may end the exchange by itself.
+    if (m_isConnected)
+    {
+        ReadAvailable();
+    }
+    else
+    {
+        TakeEnd();
+    }
+}
+
+void HttpConnection::TakeEnd()
+{
+    QAbstractSocket::SocketError const error = *m_end;
     if (!m_isConnected && !m_socket.sslHandshakeErrors().isEmpty())
     {
         Fail(CertificateError(m_socket.sslHandshakeErrors()));
@@ -169,6 +231,11 @@ void HttpConnection::TakeSocketError(QAbstractSocket::SocketError error)
 
 void HttpConnection::SampleRate()
 {
+    if (m_isHeld)
+    {
+        m_receivedAtSample = {m_received}; // it is not the server that is slow
+        return;
+    }
     m_receivedAtSample.push_back(m_received);
     if (m_receivedAtSample.size() <= SAMPLES_IN_WINDOW)
     {

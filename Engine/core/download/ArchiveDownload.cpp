@@ -1,0 +1,329 @@
+#include "Engine/core/download/ArchiveDownload.h"
+
+#include "Engine/core/download/ArchiveWriter.h"
+#include "Engine/core/download/TransferRate.h"
+#include "Engine/core/fetch/HttpConnection.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <variant>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr quint64 MAX_ARCHIVE_BYTES = quint64{16} << 30;
+constexpr std::chrono::milliseconds PROGRESS_INTERVAL{100};
+constexpr std::chrono::seconds CHECKPOINT_INTERVAL{10};
+/// A connection that brought so much was worth the trouble: its end starts the count of attempts anew.
+constexpr qint64 WORTHWHILE_BYTES = 1024 * 1024;
+
+/// True for what may be better in a moment.
+bool IsPassing(EngineError const& error)
+{
+    constexpr std::array CAUSES = {ErrorCause::HostNotFound,     ErrorCause::ConnectionRefused,
+                                   ErrorCause::ConnectTimeout,   ErrorCause::NetworkUnreachable,
+                                   ErrorCause::ConnectionFailed, ErrorCause::ProxyFailed,
+                                   ErrorCause::IncompleteHead,   ErrorCause::IncompleteBody};
+    constexpr std::array STATUSES = {500, 502, 503, 504};
+    return std::find(CAUSES.begin(), CAUSES.end(), error.cause) != CAUSES.end() ||
+           std::find(STATUSES.begin(), STATUSES.end(), error.httpStatus) != STATUSES.end();
+}
+
+/// True when the archive that this server has now cannot be the one of the feed, so that no part of it is worth
+/// keeping.
+bool IsAboutTheArchive(ErrorCause cause)
+{
+    return cause == ErrorCause::DownloadLengthDiffers || cause == ErrorCause::SurplusBody;
+}
+
+PartialPlace PlaceFor(DownloadRequest const& request)
+{
+    return PlaceOf(request.folder, request.url, request.declaredBytes, request.signature);
+}
+
+} // namespace
+
+class ArchiveDownload::Impl : public QObject, public IBodySink
+{
+public:
+    explicit Impl(DownloadRequest request) : m_request(std::move(request))
+    {
+        m_resumeTimer.setSingleShot(true);
+        m_progressTimer.setTimerType(Qt::CoarseTimer);
+        connect(&m_resumeTimer, &QTimer::timeout, this, &Impl::Ask);
+        connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(); });
+        connect(&m_progressTimer, &QTimer::timeout, this, &Impl::TellProgress);
+    }
+
+    ~Impl() override { DropConnection(); }
+
+    void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished)
+    {
+        m_progress = std::move(progress);
+        m_finished = std::move(finished);
+        // A refusal arrives like any other outcome: later.
+        QTimer::singleShot(0, this, [this] { Begin(); });
+    }
+
+private:
+    void Begin()
+    {
+        if (std::optional<ErrorCause> const cause = JudgeArchiveAddress(m_request.url, m_request.insecureHttp))
+        {
+            Finish({AsDownloadError(MakeError(*cause)), {}});
+            return;
+        }
+        if (m_request.declaredBytes == 0 || m_request.declaredBytes > MAX_ARCHIVE_BYTES)
+        {
+            Finish({MakeError(ErrorCause::DownloadLengthInvalid), {}});
+            return;
+        }
+        ArchiveWriterEvents events;
+        events.opened = [this](PartialArchive const& found) { TakeOpened(found); };
+        events.roomMade = [this]
+        {
+            if (m_connection)
+            {
+                m_connection->ReadOn();
+            }
+        };
+        events.finished = [this](UniqueFd archive) { Finish({std::nullopt, std::move(archive)}); };
+        events.failed = [this](EngineError const& error) { Finish({error, {}}); };
+        m_writer = std::make_unique<ArchiveWriter>(PlaceFor(m_request), std::move(events));
+        m_writer->Open();
+    }
+
+    void TakeOpened(PartialArchive const& found)
+    {
+        m_partial = found;
+        m_checkpointTimer.start(CHECKPOINT_INTERVAL);
+        m_progressTimer.start(PROGRESS_INTERVAL);
+        if (m_partial.bytes == m_partial.declaredBytes)
+        {
+            m_writer->Finish();
+            return;
+        }
+        Ask();
+    }
+
+    /// Asks for what is missing.
+    void Ask()
+    {
+        m_redirects = 0;
+        FetchRequest request = RequestFor(m_request.url);
+        request.rangeFields = RangeFields(m_partial);
+        Send(request);
+    }
+
+    void Send(FetchRequest const& request)
+    {
+        m_sent = request;
+        m_decision.reset();
+        m_connection = std::make_unique<HttpConnection>(request, m_request.limits, this);
+        connect(m_connection.get(), &HttpConnection::Failed, this, &Impl::TakeFailure);
+        connect(m_connection.get(), &HttpConnection::Completed, this, &Impl::TakeAnswer);
+        m_connection->Open();
+    }
+
+    void DropConnection()
+    {
+        if (m_connection)
+        {
+            m_connection->disconnect(this);
+            m_connection->Abort();
+            m_connection.release()->deleteLater(); // it may be the sender of this very call
+        }
+    }
+
+    std::optional<qint64> BeginBody(HttpHead const& head) override
+    {
+        if (IsRedirect(head.status))
+        {
+            return std::nullopt;
+        }
+        m_decision = DecideResume(m_partial, head);
+        if (m_decision->step == ResumeStep::Restart)
+        {
+            BeginAnew(StrongValidators(head));
+        }
+        if (m_decision->step != ResumeStep::Append && m_decision->step != ResumeStep::Restart)
+        {
+            return std::nullopt;
+        }
+        return static_cast<qint64>(m_partial.declaredBytes - m_partial.bytes);
+    }
+
+    void BeginAnew(Validators const& validators)
+    {
+        m_writer->Restart(validators);
+        m_partial.bytes = 0;
+        m_partial.validators = validators;
+        m_rate = TransferRate();
+    }
+
+    BodyRoom Room() override { return m_writer->Room(); }
+    void Rest() override { m_writer->Flush(); }
+    void Took(qint64 bytes) override
+    {
+        m_writer->Took(bytes);
+        m_partial.bytes += static_cast<quint64>(bytes);
+        m_hasReceived = true;
+        m_sinceResume += bytes;
+        if (m_sinceResume >= WORTHWHILE_BYTES)
+        {
+            m_resumes = 0;
+        }
+    }
+
+    void TakeAnswer()
+    {
+        HttpHead const head = m_connection->Answer().Head();
+        DropConnection();
+        if (!m_decision)
+        {
+            Follow(head);
+            return;
+        }
+        switch (m_decision->step)
+        {
+        case ResumeStep::Append:
+        case ResumeStep::Restart:
+            TakeBodyEnd(head);
+            return;
+        case ResumeStep::HandOver:
+            m_writer->Finish();
+            return;
+        case ResumeStep::AskWhole:
+            AskWhole();
+            return;
+        case ResumeStep::Refuse:
+            TakeFailure(*m_decision->error);
+            return;
+        }
+    }
+
+    void Follow(HttpHead const& head)
+    {
+        std::variant<FetchRequest, ErrorCause> const next =
+            JudgeRedirect(m_sent, head.Values("location"), ++m_redirects, m_request.insecureHttp, m_request.limits);
+        if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
+        {
+            End(AsDownloadError(MakeError(*cause)));
+            return;
+        }
+        Send(std::get<FetchRequest>(next));
+    }
+
+    void TakeBodyEnd(HttpHead const& head)
+    {
+        if (m_partial.bytes == m_partial.declaredBytes)
+        {
+            m_writer->Finish();
+            return;
+        }
+        // Where only the connection's end ends a body, a broken connection and a short body look alike.
+        std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
+        BodyPlan const* const plan = std::get_if<BodyPlan>(&framing);
+        bool const mayBeBroken = plan && plan->kind == BodyPlan::Kind::UntilClose;
+        TakeFailure(MakeError(mayBeBroken ? ErrorCause::IncompleteBody : ErrorCause::DownloadLengthDiffers));
+    }
+
+    void AskWhole()
+    {
+        if (std::exchange(m_hasAskedWhole, true))
+        {
+            TakeFailure(MakeError(ErrorCause::DownloadRangeWrong));
+            return;
+        }
+        BeginAnew({});
+        Ask();
+    }
+
+    void TakeFailure(EngineError const& failure)
+    {
+        // The reader's limit was the declared length.
+        EngineError const error = failure.cause == ErrorCause::BodyTooLarge
+                                      ? MakeError(ErrorCause::DownloadLengthDiffers)
+                                      : AsDownloadError(failure);
+        DropConnection();
+        m_writer->Flush();
+        if (!m_hasReceived || !IsPassing(error) || m_resumes >= m_request.limits.maxResumes)
+        {
+            End(error);
+            return;
+        }
+        LOG(INFO) << "The download goes on after a pause: " << error.sentence.toStdString();
+        m_resumeTimer.start(m_request.limits.firstResumePause * (1 << m_resumes));
+        ++m_resumes;
+        m_sinceResume = 0;
+    }
+
+    /// Keeps what has arrived, if it is worth anything, and finishes.
+    void End(EngineError const& error)
+    {
+        auto const done = [this, error] { Finish({error, {}}); };
+        IsAboutTheArchive(error.cause) ? m_writer->Remove(done) : m_writer->Close(done);
+    }
+
+    void TellProgress()
+    {
+        m_rate.Add(m_partial.bytes);
+        // The listener may destroy this object.
+        std::function<void(DownloadProgress const&)> const progress = m_progress;
+        progress({m_partial.bytes, m_partial.declaredBytes, m_rate.BytesPerSecond()});
+    }
+
+    void Finish(DownloadOutcome outcome)
+    {
+        m_resumeTimer.stop();
+        m_checkpointTimer.stop();
+        m_progressTimer.stop();
+        DropConnection();
+        m_writer.reset();
+        std::function<void(DownloadOutcome)> const finished = std::exchange(m_finished, nullptr);
+        finished(std::move(outcome));
+    }
+
+    DownloadRequest m_request;
+    std::function<void(DownloadProgress const&)> m_progress;
+    std::function<void(DownloadOutcome)> m_finished;
+    std::unique_ptr<ArchiveWriter> m_writer;
+    PartialArchive m_partial; ///< with the bytes that wait to be written
+    std::unique_ptr<HttpConnection> m_connection;
+    FetchRequest m_sent;
+    std::optional<ResumeDecision> m_decision; ///< none while there is no answer, or one that leads elsewhere
+    int m_redirects = 0;
+    int m_resumes = 0;        ///< since a connection was worthwhile
+    qint64 m_sinceResume = 0; ///< bytes of this connection
+    bool m_hasReceived = false;
+    bool m_hasAskedWhole = false;
+    TransferRate m_rate;
+    QTimer m_resumeTimer;
+    QTimer m_checkpointTimer;
+    QTimer m_progressTimer;
+};
+
+ArchiveDownload::ArchiveDownload(DownloadRequest request) : m_impl(std::make_unique<Impl>(std::move(request))) {}
+
+ArchiveDownload::~ArchiveDownload() = default;
+
+void ArchiveDownload::Start(std::function<void(DownloadProgress const&)> progress,
+                            std::function<void(DownloadOutcome)> finished)
+{
+    m_impl->Start(std::move(progress), std::move(finished));
+}
+
+void ArchiveDownload::Discard(DownloadRequest const& request)
+{
+    RemovePartialFile(PlaceFor(request));
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,315 @@
+#include "Engine/core/download/ArchiveWriter.h"
+
+#include <QObject>
+
+#include <array>
+#include <condition_variable>
+#include <csignal>
+#include <deque>
+#include <mutex>
+#include <optional>
+#include <system_error>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::size_t BUFFERS = 4;
+constexpr std::size_t BUFFER_BYTES = 256 * 1024;
+
+/// Whether whoever ends the writer waits for a piece of work that has begun.
+enum class Ending
+{
+    Waits,
+    GoesOn,
+};
+
+struct Work
+{
+    Ending ending;
+    std::function<PartialFile::Fault(PartialFile&)> run;
+};
+
+/// Calls a copy, since the writer that holds \a function may go meanwhile.
+template <typename Function, typename... Arguments>
+void Called(Function function, Arguments&&... arguments)
+{
+    function(std::forward<Arguments>(arguments)...);
+}
+
+} // namespace
+
+/// What both threads hold, each as long as it needs it.
+struct WriterState
+{
+    explicit WriterState(PartialPlace place) : file(std::move(place)) {}
+
+    PartialFile file; ///< the working thread's, until it has ended
+    std::array<std::vector<char>, BUFFERS> buffers;
+
+    std::mutex mutex; ///< guards everything below
+    std::condition_variable changed;
+    std::deque<Work> works;
+    std::optional<Ending> running;
+    std::vector<std::size_t> freeBuffers;
+    bool isRoomWanted = false;
+    bool isStopped = false;
+    QObject* events = nullptr; ///< of the maker's thread; alive while not stopped
+};
+
+class ArchiveWriter::Impl
+{
+public:
+    Impl(PartialPlace place, ArchiveWriterEvents events)
+        : m_state(std::make_shared<WriterState>(std::move(place))), m_events(std::move(events))
+    {
+        for (std::size_t index = 0; index < BUFFERS; ++index)
+        {
+            m_state->buffers[index].resize(BUFFER_BYTES);
+            m_state->freeBuffers.push_back(index);
+        }
+        m_state->events = &m_context;
+    }
+
+    ~Impl()
+    {
+        if (!m_thread.joinable())
+        {
+            return;
+        }
+        std::unique_lock lock(m_state->mutex);
+        m_state->isStopped = true;
+        m_state->works.clear();
+        m_state->changed.notify_all();
+        m_state->changed.wait(lock, [this] { return m_state->running != Ending::Waits; });
+        if (m_state->running == Ending::GoesOn)
+        {
+            // A disk may take seconds to make things durable. The file is let go now; the rest touches nothing.
+            m_state->file.Unlock();
+            lock.unlock();
+            m_thread.detach();
+            return;
+        }
+        lock.unlock();
+        m_thread.join();
+    }
+
+    void Start()
+    {
+        // A signal meant for the process is none of this thread's; one about a file's size becomes an error of the
+        // call.
+        sigset_t all;
+        sigset_t previous;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &previous);
+        try
+        {
+            m_thread = std::thread(&Impl::Run, m_state, &m_events);
+        }
+        catch (std::system_error const& error)
+        {
+            EngineError const busy = MakeError(ErrorCause::DownloadSystemBusy, QString::fromLocal8Bit(error.what()));
+            QMetaObject::invokeMethod(
+                &m_context, [this, busy] { Called(m_events.failed, busy); }, Qt::QueuedConnection);
+        }
+        pthread_sigmask(SIG_SETMASK, &previous, nullptr);
+    }
+
+    void Add(Ending ending, std::function<PartialFile::Fault(PartialFile&)> run)
+    {
+        std::lock_guard const lock(m_state->mutex);
+        m_state->works.push_back({ending, std::move(run)});
+        m_state->changed.notify_all();
+    }
+
+    /// Adds work that has an answer for the maker's thread.
+    template <typename Answer>
+    void AddAnswered(Answer answer)
+    {
+        Add(Ending::Waits,
+            [state = m_state.get(), answer](PartialFile& file)
+            {
+                Post(*state, answer(file));
+                return PartialFile::Fault();
+            });
+    }
+
+    BodyRoom Room()
+    {
+        if (!m_current)
+        {
+            std::lock_guard const lock(m_state->mutex);
+            if (m_state->freeBuffers.empty())
+            {
+                m_state->isRoomWanted = true;
+                return {};
+            }
+            m_current = m_state->freeBuffers.back();
+            m_state->freeBuffers.pop_back();
+            m_filled = 0;
+        }
+        return {m_state->buffers[*m_current].data() + m_filled, static_cast<qint64>(BUFFER_BYTES - m_filled)};
+    }
+
+    void Took(qint64 bytes)
+    {
+        m_filled += static_cast<std::size_t>(bytes);
+        if (m_filled == BUFFER_BYTES)
+        {
+            Flush();
+        }
+    }
+
+    void Flush()
+    {
+        if (!m_current || m_filled == 0)
+        {
+            return;
+        }
+        Add(Ending::Waits,
+            [state = m_state.get(), events = &m_events, index = *m_current, size = m_filled](PartialFile& file)
+            {
+                auto const* const bytes = reinterpret_cast<std::uint8_t const*>(state->buffers[index].data());
+                PartialFile::Fault fault = file.Append(Bytes(bytes, size));
+                std::unique_lock lock(state->mutex);
+                state->freeBuffers.push_back(index);
+                bool const isWanted = std::exchange(state->isRoomWanted, false);
+                lock.unlock();
+                if (isWanted && !fault)
+                {
+                    Post(*state, [events] { Called(events->roomMade); });
+                }
+                return fault;
+            });
+        m_current.reset();
+    }
+
+    ArchiveWriterEvents const& Events() const { return m_events; }
+
+private:
+    /// Has \a call called in the maker's thread, unless the writer has ended by then.
+    static void Post(WriterState& state, std::function<void()> call)
+    {
+        std::lock_guard const lock(state.mutex);
+        if (!state.isStopped)
+        {
+            QMetaObject::invokeMethod(state.events, std::move(call), Qt::QueuedConnection);
+        }
+    }
+
+    static void Run(std::shared_ptr<WriterState> const& state, ArchiveWriterEvents const* events)
+    {
+        std::unique_lock lock(state->mutex);
+        for (;;)
+        {
+            state->changed.wait(lock, [&state] { return state->isStopped || !state->works.empty(); });
+            if (state->isStopped)
+            {
+                return;
+            }
+            Work const work = std::move(state->works.front());
+            state->works.pop_front();
+            state->running = work.ending;
+            lock.unlock();
+            PartialFile::Fault const fault = work.run(state->file);
+            if (fault)
+            {
+                Post(*state, [events, error = *fault] { Called(events->failed, error); });
+            }
+            lock.lock();
+            state->running.reset();
+            state->changed.notify_all();
+            if (fault)
+            {
+                return; // what was to follow built on this
+            }
+        }
+    }
+
+    std::shared_ptr<WriterState> m_state;
+    ArchiveWriterEvents m_events;
+    QObject m_context;
+    std::thread m_thread;
+    std::optional<std::size_t> m_current; ///< the buffer that is being filled
+    std::size_t m_filled = 0;
+};
+
+ArchiveWriter::ArchiveWriter(PartialPlace place, ArchiveWriterEvents events)
+    : m_impl(std::make_unique<Impl>(std::move(place), std::move(events)))
+{
+}
+
+ArchiveWriter::~ArchiveWriter() = default;
+
+void ArchiveWriter::Open()
+{
+    m_impl->Add(Ending::Waits, [](PartialFile& file) { return file.Open(); });
+    m_impl->AddAnswered([events = &m_impl->Events()](PartialFile& file)
+                        { return [events, found = file.Found()] { Called(events->opened, found); }; });
+    m_impl->Start();
+}
+
+BodyRoom ArchiveWriter::Room()
+{
+    return m_impl->Room();
+}
+
+void ArchiveWriter::Took(qint64 bytes)
+{
+    m_impl->Took(bytes);
+}
+
+void ArchiveWriter::Flush()
+{
+    m_impl->Flush();
+}
+
+void ArchiveWriter::Restart(Validators const& validators)
+{
+    m_impl->Flush(); // into the file, and away with it, but never behind the new start
+    m_impl->Add(Ending::Waits, [validators](PartialFile& file) { return file.Restart(validators); });
+}
+
+void ArchiveWriter::Checkpoint()
+{
+    m_impl->Flush();
+    m_impl->Add(Ending::GoesOn, &PartialFile::SyncBytes);
+    m_impl->Add(Ending::Waits, &PartialFile::StageRecord);
+    m_impl->Add(Ending::GoesOn, &PartialFile::SyncRecord);
+    m_impl->Add(Ending::Waits, &PartialFile::PublishRecord);
+    m_impl->Add(Ending::GoesOn, &PartialFile::SyncFolder);
+}
+
+void ArchiveWriter::Finish()
+{
+    m_impl->Flush();
+    m_impl->AddAnswered(
+        [events = &m_impl->Events()](PartialFile& file)
+        {
+            auto const archive = std::make_shared<UniqueFd>(file.Finish());
+            return [events, archive] { Called(events->finished, std::move(*archive)); };
+        });
+}
+
+void ArchiveWriter::Close(std::function<void()> done)
+{
+    m_impl->Flush();
+    m_impl->AddAnswered([done = std::move(done)](PartialFile&) { return done; });
+}
+
+void ArchiveWriter::Remove(std::function<void()> done)
+{
+    m_impl->Add(Ending::Waits,
+                [](PartialFile& file)
+                {
+                    file.Remove();
+                    return PartialFile::Fault();
+                });
+    Close(std::move(done));
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,173 @@
+#include "Engine/core/download/ResumeDecision.h"
+
+#include <QDateTime>
+#include <QLocale>
+
+#include <algorithm>
+#include <variant>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int MAX_ENTITY_TAG_BYTES = 1024;
+constexpr int STATUS_OK = 200;
+constexpr int STATUS_PARTIAL = 206;
+constexpr int STATUS_RANGE_NOT_SATISFIABLE = 416;
+
+/// The value of the field, when it is there exactly once.
+QByteArray OnlyValue(HttpHead const& head, QByteArray const& lowerCaseName)
+{
+    std::vector<QByteArray> const values = head.Values(lowerCaseName);
+    return values.size() == 1 ? values.front() : QByteArray();
+}
+
+bool IsStrongEntityTag(QByteArray const& tag)
+{
+    return tag.size() >= 2 && tag.size() <= MAX_ENTITY_TAG_BYTES && tag.startsWith('"') && tag.endsWith('"') &&
+           std::all_of(tag.begin() + 1, tag.end() - 1,
+                       [](char character) {
+                           return character != '"' && character != 0x7f && static_cast<unsigned char>(character) > ' ';
+                       });
+}
+
+/// Of the one form in which servers may write a date today; invalid for any other.
+QDateTime HttpDate(QByteArray const& text)
+{
+    QDateTime date =
+        QLocale::c().toDateTime(QString::fromLatin1(text), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    date.setTimeSpec(Qt::UTC);
+    return date;
+}
+
+/// A file could have changed twice within the second that the date names, unless the second was over.
+bool IsStrongDate(QByteArray const& lastModified, QByteArray const& answered)
+{
+    QDateTime const modification = HttpDate(lastModified);
+    QDateTime const answer = HttpDate(answered);
+    return modification.isValid() && answer.isValid() && modification.secsTo(answer) >= 1;
+}
+
+std::optional<quint64> ParseNumber(QByteArray const& digits)
+{
+    bool const isDigits =
+        !digits.isEmpty() &&
+        std::all_of(digits.begin(), digits.end(), [](char character) { return character >= '0' && character <= '9'; });
+    bool isNumber = false;
+    quint64 const number = isDigits ? digits.toULongLong(&isNumber) : 0;
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
+/// True for "bytes FIRST-LAST/TOTAL" and nothing else: the rest of \a partial.
+bool IsRangeOfRest(QByteArray const& contentRange, PartialArchive const& partial)
+{
+    constexpr char UNIT[] = "bytes ";
+    int const dash = contentRange.indexOf('-');
+    int const slash = contentRange.indexOf('/');
+    int const first = static_cast<int>(sizeof UNIT) - 1;
+    if (!contentRange.toLower().startsWith(UNIT) || dash < first || slash < dash)
+    {
+        return false;
+    }
+    return ParseNumber(contentRange.mid(first, dash - first)) == partial.bytes &&
+           ParseNumber(contentRange.mid(dash + 1, slash - dash - 1)) == partial.declaredBytes - 1 &&
+           ParseNumber(contentRange.mid(slash + 1)) == partial.declaredBytes;
+}
+
+/// Why a body cannot have \a bytes; nothing when it can.
+std::optional<ErrorCause> JudgeLength(HttpHead const& head, quint64 bytes)
+{
+    std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
+    if (ErrorCause const* const cause = std::get_if<ErrorCause>(&framing))
+    {
+        return *cause;
+    }
+    BodyPlan const& plan = std::get<BodyPlan>(framing);
+    bool const isOther = plan.kind == BodyPlan::Kind::Length && static_cast<quint64>(plan.length) != bytes;
+    return isOther ? std::optional(ErrorCause::DownloadLengthDiffers) : std::nullopt;
+}
+
+bool IsRestOf(PartialArchive const& partial, HttpHead const& head)
+{
+    // The validator must be told again: a server may know ranges and not know the condition on them.
+    QByteArray const& asked = PreferredValidator(partial.validators);
+    QByteArray const name = partial.validators.entityTag.isEmpty() ? "last-modified" : "etag";
+    bool const isMultipart = OnlyValue(head, "content-type").toLower().startsWith("multipart/");
+    return !isMultipart && OnlyValue(head, name) == asked && IsRangeOfRest(OnlyValue(head, "content-range"), partial);
+}
+
+ResumeDecision Refuse(ErrorCause cause)
+{
+    return {ResumeStep::Refuse, MakeError(cause)};
+}
+
+} // namespace
+
+Validators StrongValidators(HttpHead const& head)
+{
+    Validators validators;
+    QByteArray const tag = OnlyValue(head, "etag");
+    if (IsStrongEntityTag(tag))
+    {
+        validators.entityTag = tag;
+    }
+    QByteArray const lastModified = OnlyValue(head, "last-modified");
+    if (IsStrongDate(lastModified, OnlyValue(head, "date")))
+    {
+        validators.lastModified = lastModified;
+    }
+    return validators;
+}
+
+bool AreUsable(Validators const& validators)
+{
+    return (validators.entityTag.isEmpty() || IsStrongEntityTag(validators.entityTag)) &&
+           (validators.lastModified.isEmpty() || HttpDate(validators.lastModified).isValid());
+}
+
+QByteArray const& PreferredValidator(Validators const& validators)
+{
+    return validators.entityTag.isEmpty() ? validators.lastModified : validators.entityTag;
+}
+
+std::vector<HeaderField> RangeFields(PartialArchive const& partial)
+{
+    if (partial.bytes == 0 || partial.bytes >= partial.declaredBytes || partial.validators.IsEmpty())
+    {
+        return {};
+    }
+    return {{"Range", "bytes=" + QByteArray::number(partial.bytes) + '-'},
+            {"If-Range", PreferredValidator(partial.validators)}};
+}
+
+ResumeDecision DecideResume(PartialArchive const& partial, HttpHead const& head)
+{
+    bool const hasAskedForRest = !RangeFields(partial).empty();
+    if (head.status == STATUS_OK)
+    {
+        std::optional<ErrorCause> const cause = JudgeLength(head, partial.declaredBytes);
+        return cause ? Refuse(*cause) : ResumeDecision{ResumeStep::Restart, std::nullopt};
+    }
+    if (head.status == STATUS_PARTIAL)
+    {
+        if (!hasAskedForRest)
+        {
+            return Refuse(ErrorCause::DownloadRangeWrong);
+        }
+        bool const isRest = IsRestOf(partial, head) && !JudgeLength(head, partial.declaredBytes - partial.bytes);
+        return {isRest ? ResumeStep::Append : ResumeStep::AskWhole, std::nullopt};
+    }
+    if (head.status == STATUS_RANGE_NOT_SATISFIABLE)
+    {
+        if (partial.bytes == partial.declaredBytes)
+        {
+            return {ResumeStep::HandOver, std::nullopt};
+        }
+        return hasAskedForRest ? ResumeDecision{ResumeStep::AskWhole, std::nullopt}
+                               : Refuse(ErrorCause::DownloadRangeWrong);
+    }
+    return {ResumeStep::Refuse, MakeHttpStatusError(head.status)};
+}
+
+} // namespace Pelnar::Engine

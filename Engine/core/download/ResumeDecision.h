@@ -1,0 +1,64 @@
+// ResumeDecision.h: what becomes of a partial archive when a server has answered: pure decisions on what is on the disk
+// and the head of the answer.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include "Engine/core/EngineError.h"
+#include "Engine/core/fetch/HttpAnswer.h"
+
+#include <QByteArray>
+
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// What a server says of the version of a file; empty where it says nothing that names one version for sure.
+struct Validators
+{
+    QByteArray entityTag;    ///< strong, with its quotes
+    QByteArray lastModified; ///< as it came
+
+    [[nodiscard]] bool IsEmpty() const { return entityTag.isEmpty() && lastModified.isEmpty(); }
+};
+
+/// Those of an answer that can prove, later, that a file is still the same one: a strong entity tag; a date of
+/// modification that lies at least a second before the answer's own date.
+Validators StrongValidators(HttpHead const& head);
+
+/// False for what StrongValidators() never answers: bytes that a request must not carry.
+[[nodiscard]] bool AreUsable(Validators const& validators);
+
+/// The validator that a request to go on carries: the entity tag if there is one, else the date.
+QByteArray const& PreferredValidator(Validators const& validators);
+
+struct PartialArchive
+{
+    quint64 bytes = 0; ///< on the disk, from the archive's start
+    quint64 declaredBytes = 0;
+    Validators validators; ///< of the answer that they came from
+};
+
+/// The fields of a request for the rest; none when the whole archive has to be asked for.
+std::vector<HeaderField> RangeFields(PartialArchive const& partial);
+
+enum class ResumeStep
+{
+    Append,   ///< the body is the rest
+    Restart,  ///< the body is the whole archive: begin at 0
+    HandOver, ///< what is on the disk is the whole archive
+    AskWhole, ///< what is on the disk is of no use: forget it and ask for the whole
+    Refuse,
+};
+
+struct ResumeDecision
+{
+    ResumeStep step = ResumeStep::Refuse;
+    std::optional<EngineError> error; ///< of Refuse only
+};
+
+/// Judges the answer \a head, which leads nowhere else, to a request with RangeFields(\a partial).
+[[nodiscard]] ResumeDecision DecideResume(PartialArchive const& partial, HttpHead const& head);
+
+} // namespace Pelnar::Engine

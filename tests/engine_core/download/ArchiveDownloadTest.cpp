@@ -1,0 +1,501 @@
+// ArchiveDownloadTest.cpp: downloads over http and https: whole, cut, resumed, changed, refused.
+#include "tests/engine_core/download/ArchiveServer.h"
+#include "tests/engine_core/download/DownloadHarness.h"
+#include "tests/support/TestCertificates.h"
+
+#include <QProcess>
+
+#include <fcntl.h>
+#include <sys/file.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+using std::chrono::milliseconds;
+
+int const SIZE = 300000;
+QByteArray const ARCHIVE = MakeArchive(SIZE);
+
+class ArchiveDownloadTest : public DownloadTest
+{
+protected:
+    /// A request that does not go on by itself.
+    DownloadRequest OnceOnly(QUrl const& url, int declaredBytes = SIZE)
+    {
+        DownloadRequest request = RequestFor(url, declaredBytes);
+        request.limits.maxResumes = 0;
+        return request;
+    }
+
+    /// Serves what \a script says at an address that stays the same for the whole test.
+    LoopbackServer::Script Scripted()
+    {
+        return [this](QSslSocket& socket, QByteArray const& request, int number) { script(socket, request, number); };
+    }
+
+    LoopbackServer::Script script;
+};
+
+TEST_F(ArchiveDownloadTest, BringsTheArchiveToAFileThatCanOnlyBeRead)
+{
+    LoopbackServer server(Serving({ARCHIVE}));
+    DownloadResult const result = Run(RequestFor(server.Url(), SIZE));
+    EXPECT_EQ(result.cause, ErrorCause::NoUpdate);
+    EXPECT_EQ(result.bytes, ARCHIVE);
+    EXPECT_EQ(fcntl(result.archive.Get(), F_GETFL) & O_ACCMODE, O_RDONLY);
+    EXPECT_EQ(fcntl(result.archive.Get(), F_SETLEASE, F_RDLCK), 0) << "somebody has it open for writing";
+    ASSERT_EQ(server.Requests().size(), 1u);
+    EXPECT_TRUE(FieldOf(server.Requests()[0], "Range").isEmpty());
+    EXPECT_EQ(FieldOf(server.Requests()[0], "Accept-Encoding"), "identity");
+}
+
+TEST_F(ArchiveDownloadTest, BringsItOverASecureConnection)
+{
+    TestCertificates certificates;
+    TrustedAuthority const trusted(certificates.Authority());
+    LoopbackServer server(Serving({ARCHIVE}), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).bytes, ARCHIVE);
+}
+
+TEST_F(ArchiveDownloadTest, UnknownCertificateIsRefused)
+{
+    TestCertificates certificates;
+    LoopbackServer server(Serving({ARCHIVE}), certificates.SelfSigned("127.0.0.1"));
+    EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).cause, ErrorCause::CertificateSelfSigned);
+    EXPECT_TRUE(server.Requests().empty());
+}
+
+TEST_F(ArchiveDownloadTest, ChunksAndBodiesUntilCloseArrive)
+{
+    QByteArray chunks = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+    for (int start = 0; start < SIZE; start += 70001)
+    {
+        QByteArray const piece = ARCHIVE.mid(start, 70001);
+        chunks += QByteArray::number(piece.size(), 16) + "\r\n" + piece + "\r\n";
+    }
+    LoopbackServer chunked(Answering(chunks + "0\r\n\r\n"));
+    EXPECT_EQ(Run(RequestFor(chunked.Url(), SIZE)).bytes, ARCHIVE);
+    LoopbackServer untilClose(Answering("HTTP/1.0 200 OK\r\n\r\n" + ARCHIVE));
+    EXPECT_EQ(Run(RequestFor(untilClose.Url(), SIZE)).bytes, ARCHIVE);
+}
+
+TEST_F(ArchiveDownloadTest, AddressesThatAreNotAllowedAreRefused)
+{
+    struct
+    {
+        char const* url;
+        ErrorCause cause;
+    } const rows[] = {
+        {"http://files.example.com/x.zip", ErrorCause::InsecureAddress},
+        {"file:///etc/passwd", ErrorCause::SchemeRefused},
+        {"ftp://127.0.0.1/x.zip", ErrorCause::SchemeRefused},
+        {"data:application/zip,x", ErrorCause::SchemeRefused},
+        {"x.zip", ErrorCause::InvalidAddress},
+        {"", ErrorCause::InvalidAddress},
+    };
+    for (auto const& row : rows)
+    {
+        DownloadResult const result = Run(RequestFor(QUrl(QString::fromLatin1(row.url)), SIZE));
+        EXPECT_EQ(result.cause, row.cause) << row.url;
+        EXPECT_FALSE(result.error.sentence.contains(QLatin1String("update feed"))) << row.url;
+    }
+    EXPECT_FALSE(QDir(Folder()).exists());
+}
+
+TEST_F(ArchiveDownloadTest, LengthThatCannotBeIsRefused)
+{
+    LoopbackServer server(Serving({ARCHIVE}));
+    DownloadRequest request = RequestFor(server.Url(), 0);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadLengthInvalid);
+    request.declaredBytes = (quint64{16} << 30) + 1;
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadLengthInvalid);
+    EXPECT_TRUE(server.Requests().empty());
+}
+
+TEST_F(ArchiveDownloadTest, RedirectsAreFollowedAndCredentialsStayWithinTheOrigin)
+{
+    LoopbackServer other(Serving({ARCHIVE}));
+    LoopbackServer server(Answering(RedirectAnswer(302, other.Url().toEncoded())));
+    QUrl url = server.Url();
+    url.setUserName(QStringLiteral("user"));
+    url.setPassword(QStringLiteral("secret"));
+    EXPECT_EQ(Run(RequestFor(url, SIZE)).bytes, ARCHIVE);
+    EXPECT_TRUE(server.Requests()[0].contains("Authorization: Basic "));
+    EXPECT_FALSE(other.Requests()[0].contains("Authorization"));
+}
+
+TEST_F(ArchiveDownloadTest, RedirectsThatLeadAstrayAreRefused)
+{
+    LoopbackServer loop(Answering(RedirectAnswer(302, "/x")));
+    EXPECT_EQ(Run(RequestFor(loop.Url(), SIZE)).cause, ErrorCause::TooManyRedirects);
+    LoopbackServer file(Answering(RedirectAnswer(302, "file:///etc/passwd")));
+    EXPECT_EQ(Run(RequestFor(file.Url(), SIZE)).cause, ErrorCause::RedirectScheme);
+    LoopbackServer insecure(Answering(RedirectAnswer(302, "http://files.example.com/x.zip")));
+    EXPECT_EQ(Run(RequestFor(insecure.Url(), SIZE)).cause, ErrorCause::RedirectDowngrade);
+}
+
+TEST_F(ArchiveDownloadTest, ErrorsSpeakOfTheUpdateAndNotOfTheFeed)
+{
+    struct
+    {
+        QByteArray answer;
+        ErrorCause cause;
+    } const rows[] = {
+        {"HTTP/1.1 404 Not Found\r\n\r\n", ErrorCause::HttpStatus},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 5\r\nContent-Length: 6\r\n\r\n", ErrorCause::ContradictoryLength},
+        {"HTTP/1.1 200 OK\r\nContent-Encoding: gzip\r\n\r\n", ErrorCause::ContentEncodingRefused},
+        {"HTTP/1.1 200 OK\r\nTransfer-Encoding: gzip\r\n\r\n", ErrorCause::TransferEncodingRefused},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 300000\r\n\r\npart", ErrorCause::IncompleteBody},
+        {"not http\r\n\r\n", ErrorCause::MalformedHead},
+        {"", ErrorCause::IncompleteHead},
+        {"HTTP/1.1 200 OK\r\nX: " + QByteArray(70000, 'x') + "\r\n\r\n", ErrorCause::HeadTooLarge},
+    };
+    for (auto const& row : rows)
+    {
+        LoopbackServer server(Answering(row.answer));
+        DownloadResult const result = Run(OnceOnly(server.Url()));
+        EXPECT_EQ(result.cause, row.cause);
+        EXPECT_FALSE(result.error.sentence.contains(QLatin1String("feed"))) << result.error.sentence.toStdString();
+        EXPECT_FALSE(result.error.sentence.contains(QLatin1Char('%'))) << result.error.sentence.toStdString();
+    }
+}
+
+TEST_F(ArchiveDownloadTest, DripIsTooSlowAndWhatCameIsKept)
+{
+    LoopbackServer server(
+        Dripping("HTTP/1.1 200 OK\r\nETag: \"one\"\r\nContent-Length: 300000\r\n\r\n" + ARCHIVE.left(1000),
+                 ARCHIVE.mid(1000), 10));
+    DownloadRequest request = RequestFor(server.Url(), SIZE);
+    request.limits.rateWindow = milliseconds(400);
+    EXPECT_EQ(Run(request).cause, ErrorCause::TooSlow);
+    QByteArray const part = PartialBytes();
+    EXPECT_GT(part.size(), 1000);
+    EXPECT_TRUE(ARCHIVE.startsWith(part));
+}
+
+TEST_F(ArchiveDownloadTest, BodiesOfAnyOtherLengthAreRefusedAndNothingIsKept)
+{
+    QByteArray const head = "HTTP/1.1 200 OK\r\nETag: \"one\"\r\n";
+    struct
+    {
+        char const* name;
+        LoopbackServer::Script script;
+        ErrorCause cause;
+    } const rows[] = {
+        {"announced longer", Answering(OkAnswer(ARCHIVE + 'x')), ErrorCause::DownloadLengthDiffers},
+        {"announced shorter", Answering(OkAnswer(ARCHIVE.left(SIZE - 1))), ErrorCause::DownloadLengthDiffers},
+        {"one byte more before the close", Answering(head + "\r\n" + ARCHIVE + 'x'), ErrorCause::DownloadLengthDiffers},
+        {"endless", AnsweringWithoutEnd(head + "\r\n", QByteArray(65536, 'x')), ErrorCause::DownloadLengthDiffers},
+        {"endless chunks",
+         AnsweringWithoutEnd(head + "Transfer-Encoding: chunked\r\n\r\n",
+                             "10000\r\n" + QByteArray(65536, 'x') + "\r\n"),
+         ErrorCause::DownloadLengthDiffers},
+        {"chunks too few", Answering(head + "Transfer-Encoding: chunked\r\n\r\n5\r\nshort\r\n0\r\n\r\n"),
+         ErrorCause::DownloadLengthDiffers},
+        {"endless behind its length",
+         AnsweringWithoutEnd(head + "Content-Length: 300000\r\n\r\n", QByteArray(65536, 'x')), ErrorCause::SurplusBody},
+    };
+    for (auto const& row : rows)
+    {
+        LoopbackServer server(row.script);
+        EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).cause, row.cause) << row.name;
+        for (QString const& name : Files(QStringLiteral(".archive")))
+        {
+            EXPECT_EQ(QFileInfo(QDir(Folder()).filePath(name)).size(), 0) << row.name;
+        }
+    }
+}
+
+TEST_F(ArchiveDownloadTest, WholeAnswerToARequestForTheRestBeginsAnew)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    EXPECT_EQ(PartialBytes(), ARCHIVE.left(100000));
+    QByteArray const other = MakeArchive(SIZE + 5).right(SIZE);
+    script = Answering(OkAnswer(other));
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, other);
+    ASSERT_EQ(server.Requests().size(), 2u);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+    EXPECT_EQ(FieldOf(server.Requests()[1], "If-Range"), "\"one\"");
+}
+
+class WrongRange : public ArchiveDownloadTest, public ::testing::WithParamInterface<char const*>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Answers, WrongRange,
+                         ::testing::Values("Content-Range: bytes 99999-299999/300000\r\n",
+                                           "Content-Range: bytes 100000-299999/300001\r\n",
+                                           "Content-Range: bytes 100000-299998/300000\r\n",
+                                           "Content-Range: bytes 100000-299999/*\r\n", "",
+                                           "Content-Type: multipart/byteranges; boundary=x\r\n"));
+
+TEST_P(WrongRange, IsNotAppendedTheWholeIsAskedForOnceAndThenRefused)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    QByteArray const wrong =
+        QByteArray("HTTP/1.1 206 Partial\r\nETag: \"one\"\r\n") + GetParam() + "\r\n" + QByteArray(200000, 'x');
+    script = [wrong](QSslSocket& socket, QByteArray const& request, int)
+    { Answering(RangeStart(request) ? wrong : AnswerFor({ARCHIVE}, request))(socket, request, 0); };
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+    ASSERT_EQ(server.Requests().size(), 3u);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+    EXPECT_EQ(RangeStart(server.Requests()[2]), std::nullopt);
+}
+
+TEST_P(WrongRange, ToARequestForTheWholeIsAnError)
+{
+    LoopbackServer server(Answering(QByteArray("HTTP/1.1 206 Partial\r\nETag: \"one\"\r\n") + GetParam() + "\r\n"));
+    EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).cause, ErrorCause::DownloadRangeWrong);
+    EXPECT_EQ(server.Requests().size(), 1u);
+}
+
+TEST_F(ArchiveDownloadTest, WrongRangesAgainAndAgainEndInAnError)
+{
+    LoopbackServer server(
+        [](QSslSocket& socket, QByteArray const& request, int)
+        {
+            bool const isRest = RangeStart(request).has_value();
+            Answering(isRest ? QByteArray("HTTP/1.1 206 Partial\r\nContent-Range: bytes 0-1/2\r\n\r\n")
+                             : AnswerFor({ARCHIVE, "\"one\"", {}, 1000}, request))(socket, request, 0);
+        });
+    EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).cause, ErrorCause::DownloadRangeWrong);
+    EXPECT_EQ(server.Requests().size(), 4u) << "whole, wrong, whole, wrong";
+}
+
+TEST_F(ArchiveDownloadTest, ArchiveThatChangedBetweenItsPartsIsFetchedWhole)
+{
+    QByteArray const other = MakeArchive(SIZE + 5).right(SIZE);
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Serving({other, "\"two\""});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, other);
+    EXPECT_EQ(server.Requests().size(), 2u);
+}
+
+TEST_F(ArchiveDownloadTest, ChangeIsSeenThoughTheServerIgnoresTheCondition)
+{
+    QByteArray const other = MakeArchive(SIZE + 5).right(SIZE);
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = [other](QSslSocket& socket, QByteArray request, int)
+    {
+        request.replace("If-Range", "X-Ignored");
+        Serving({other, "\"two\""})(socket, request, 0);
+    };
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, other);
+    EXPECT_EQ(server.Requests().size(), 3u);
+}
+
+TEST_F(ArchiveDownloadTest, SizeThatChangedIsRefused)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Serving({ARCHIVE + "more", "\"one\""});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::DownloadLengthDiffers);
+}
+
+TEST_F(ArchiveDownloadTest, PartOfAnUnnamedVersionIsNotResumed)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, {}, {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Serving({ARCHIVE, {}});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), std::nullopt);
+}
+
+TEST_F(ArchiveDownloadTest, DateOfModificationNamesAVersionToo)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, {}, "Fri, 20 Nov 2026 05:00:00 GMT", 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Serving({ARCHIVE, {}, "Fri, 20 Nov 2026 05:00:00 GMT"});
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+}
+
+TEST_F(ArchiveDownloadTest, WholeFileIsHandedOverWithoutAsking)
+{
+    LoopbackServer server(Serving({ARCHIVE}));
+    DownloadRequest const request = RequestFor(server.Url(), SIZE);
+    ASSERT_EQ(Run(request).bytes, ARCHIVE);
+    DownloadResult const again = Run(request);
+    EXPECT_EQ(again.bytes, ARCHIVE);
+    EXPECT_EQ(server.Requests().size(), 1u);
+    EXPECT_EQ(fcntl(again.archive.Get(), F_SETLEASE, F_RDLCK), 0);
+}
+
+TEST_F(ArchiveDownloadTest, RangeThatIsNotThereBeginsAnew)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = [](QSslSocket& socket, QByteArray const& request, int)
+    {
+        Answering(RangeStart(request) ? QByteArray("HTTP/1.1 416 No\r\nContent-Range: bytes */9\r\n\r\n")
+                                      : AnswerFor({ARCHIVE}, request))(socket, request, 0);
+    };
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+}
+
+TEST_F(ArchiveDownloadTest, BrokenConnectionsLoseNoByteAndItGoesOnByItself)
+{
+    for (int const cut : {1, 999, 65536, 100000})
+    {
+        RemoveFolder();
+        LoopbackServer server(
+            [cut](QSslSocket& socket, QByteArray const& request, int number) {
+                Serving({ARCHIVE, "\"one\"", {}, number < 4 ? cut : -1})(socket, request, number);
+            });
+        EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).bytes, ARCHIVE) << cut;
+        int const requests = static_cast<int>(server.Requests().size());
+        EXPECT_EQ(requests, std::min(5, (SIZE + cut - 1) / cut));
+        for (int number = 1; number < requests; ++number)
+        {
+            EXPECT_EQ(RangeStart(server.Requests()[static_cast<size_t>(number)]), number * cut);
+        }
+    }
+}
+
+TEST_F(ArchiveDownloadTest, ItGivesUpAfterAFewAttemptsThatBroughtLittle)
+{
+    LoopbackServer server(Serving({ARCHIVE, "\"one\"", {}, 10}));
+    DownloadRequest const request = RequestFor(server.Url(), SIZE);
+    EXPECT_EQ(Run(request).cause, ErrorCause::IncompleteBody);
+    EXPECT_EQ(server.Requests().size(), 6u) << "once and five times more";
+    EXPECT_EQ(PartialBytes(), ARCHIVE.left(60));
+}
+
+TEST_F(ArchiveDownloadTest, AttemptsThatBringMuchDoNotCount)
+{
+    int const mebibytes = 8;
+    QByteArray const large = MakeArchive(mebibytes * 1024 * 1024 + 1);
+    LoopbackServer server(Serving({large, "\"one\"", {}, 1024 * 1024}));
+    DownloadRequest request = RequestFor(server.Url(), large.size());
+    request.limits.maxResumes = 1;
+    EXPECT_EQ(Run(request).bytes, large);
+    EXPECT_EQ(server.Requests().size(), static_cast<size_t>(mebibytes + 1));
+}
+
+TEST_F(ArchiveDownloadTest, ServerThatCannotBeReachedAtAllIsAnErrorAtOnce)
+{
+    QUrl url;
+    {
+        LoopbackServer const closed(Silent());
+        url = closed.Url();
+    }
+    EXPECT_EQ(Run(RequestFor(url, SIZE)).cause, ErrorCause::ConnectionRefused);
+}
+
+TEST_F(ArchiveDownloadTest, ResetConnectionIsGoneOnWith)
+{
+    LoopbackServer server(
+        [](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            number < 3 ? AnsweringThenReset(AnswerFor({ARCHIVE, "\"one\"", {}, 50000}, request))(socket, request, 0)
+                       : Serving({ARCHIVE})(socket, request, 0);
+        });
+    DownloadResult const result = Run(RequestFor(server.Url(), SIZE));
+    // A reset may overtake everything that was sent before it, the head included; then nothing was received yet.
+    EXPECT_TRUE(result.bytes == ARCHIVE || result.cause == ErrorCause::IncompleteHead);
+}
+
+TEST_F(ArchiveDownloadTest, SecondDownloadOfTheSameArchiveIsToldOfTheFirst)
+{
+    LoopbackServer server(Silent());
+    DownloadRequest const request = RequestFor(server.Url(), SIZE);
+    ArchiveDownload first(request);
+    first.Start([](DownloadProgress const&) {}, [](DownloadOutcome const&) {});
+    ASSERT_TRUE(WaitFor([&server] { return !server.Requests().empty(); }));
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadBusy);
+    EXPECT_EQ(server.Requests().size(), 1u);
+}
+
+TEST_F(ArchiveDownloadTest, DestroyingItKeepsWhatIsThereForTheNext)
+{
+    LoopbackServer server(Scripted());
+    script = [](QSslSocket& socket, QByteArray const& request, int) {
+        socket.write(AnswerFor({ARCHIVE, "\"one\"", {}, 100000}, request));
+    };
+    DownloadRequest const request = RequestFor(server.Url(), SIZE);
+    bool wasTold = false;
+    auto download = std::make_unique<ArchiveDownload>(request);
+    download->Start([](DownloadProgress const&) {}, [&wasTold](DownloadOutcome const&) { wasTold = true; });
+    ASSERT_TRUE(WaitFor([this] { return !Files().isEmpty() && QFileInfo(PartialPath()).size() == 100000; }));
+    download.reset();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(wasTold);
+    script = Serving({ARCHIVE});
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+}
+
+TEST_F(ArchiveDownloadTest, MayBeDestroyedByItsOwnCallbacks)
+{
+    LoopbackServer whole(Serving({ARCHIVE}));
+    bool isFinished = false;
+    auto download = std::make_unique<ArchiveDownload>(RequestFor(whole.Url(), SIZE));
+    download->Start([](DownloadProgress const&) {},
+                    [&](DownloadOutcome const& outcome)
+                    {
+                        download.reset();
+                        isFinished = !outcome.error;
+                    });
+    EXPECT_TRUE(WaitFor([&] { return isFinished; }));
+
+    LoopbackServer silent(Silent());
+    bool wasTold = false;
+    download = std::make_unique<ArchiveDownload>(RequestFor(silent.Url(), SIZE));
+    download->Start([&](DownloadProgress const&) { download.reset(); },
+                    [&](DownloadOutcome const&) { wasTold = true; });
+    EXPECT_TRUE(WaitFor([&] { return !download; }));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(wasTold);
+}
+
+TEST_F(ArchiveDownloadTest, ProgressTellsWhatIsThereAndHowFastItComes)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = [](QSslSocket& socket, QByteArray const& request, int)
+    {
+        QByteArray const answer = AnswerFor({ARCHIVE}, request);
+        int const headBytes = answer.indexOf("\r\n\r\n") + 4;
+        Dripping(answer.left(headBytes + 150000), answer.mid(headBytes + 150000, 40), 10)(socket, request, 0);
+    };
+    DownloadResult const result = Run(OnceOnly(server.Url()));
+    EXPECT_EQ(result.cause, ErrorCause::IncompleteBody);
+    ASSERT_FALSE(result.progress.empty());
+    quint64 before = 100000;
+    for (DownloadProgress const& progress : result.progress)
+    {
+        EXPECT_EQ(progress.totalBytes, static_cast<quint64>(SIZE));
+        EXPECT_GE(progress.doneBytes, before);
+        before = progress.doneBytes;
+    }
+    EXPECT_GT(before, 200000u);
+}
+
+TEST_F(ArchiveDownloadTest, DiscardedArchiveIsFetchedWholeAgain)
+{
+    LoopbackServer server(Serving({ARCHIVE}));
+    DownloadRequest const request = RequestFor(server.Url(), SIZE);
+    DownloadResult const first = Run(request);
+    ArchiveDownload::Discard(request);
+    EXPECT_TRUE(Files().isEmpty());
+    EXPECT_EQ(Run(request).bytes, ARCHIVE) << "though the first descriptor is still open";
+    EXPECT_EQ(server.Requests().size(), 2u);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), std::nullopt);
+}
+
+} // namespace

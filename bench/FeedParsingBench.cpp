@@ -142,6 +142,7 @@ std::vector<FeedItem> ParseOurs(QByteArray const& feed)
 {
     FeedLimits limits;
     limits.maxItems = std::numeric_limits<int>::max();
+    limits.maxMarkup = std::numeric_limits<int>::max();
     static QUrl const FEED_URL(QStringLiteral("https://feeds.example.com/appcast.xml"));
     return ParseFeed(feed, FEED_URL, FeedPlatform::MacOS, limits).items;
 }

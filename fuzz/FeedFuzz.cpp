@@ -126,6 +126,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     limits.maxDepth = 8;
     limits.maxAttributes = 8;
     limits.maxTagBytes = 512;
+    limits.maxMarkup = 64;
     limits.maxItems = 6;
     limits.maxNamespaces = 4;
     FeedParseResult const result = Engine::ParseFeed(bytes, feedUrl, Engine::FeedPlatform::MacOS, limits);

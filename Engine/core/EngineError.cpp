@@ -119,6 +119,7 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::FeedTagTooLong:
     case ErrorCause::FeedTooManyItems:
     case ErrorCause::FeedTooManyNamespaces:
+    case ErrorCause::FeedTooMuchMarkup:
         return "The update feed cannot be read: tell the publisher."; // replaced by the parser's, which names the line
     case ErrorCause::FeedIsWebPage:
         return "A web page came in place of the update feed: sign in to this network if it asks for it, and try again.";
@@ -224,6 +225,8 @@ ErrorCause CauseOf(FeedErrorKind kind)
         return ErrorCause::FeedTooManyItems;
     case FeedErrorKind::TooManyNamespaces:
         return ErrorCause::FeedTooManyNamespaces;
+    case FeedErrorKind::TooMuchMarkup:
+        return ErrorCause::FeedTooMuchMarkup;
     case FeedErrorKind::NotAFeed:
         return ErrorCause::FeedIsWebPage;
     }

@@ -100,6 +100,7 @@ enum class ErrorCause
     FeedTooManyItems = 705,
     FeedTooManyNamespaces = 706,
     FeedIsWebPage = 707,
+    FeedTooMuchMarkup = 708,
 
     // The application's own answers.
     ForeignItem = 800,

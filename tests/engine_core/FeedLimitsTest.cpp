@@ -202,6 +202,49 @@ TEST(FeedAttributes, EqualSignsOutsideOfTagsAreNone)
     EXPECT_TRUE(result.HasSucceeded()) << Text(result.error.sentence);
 }
 
+TEST(FeedMarkup, ElementsAndAttributesAreCountedTogether)
+{
+    FeedLimits limits;
+    limits.maxMarkup = 100;
+    // Around the items stand rss with its version, channel and title.
+    int const own = 4;
+    auto refusalOf = [&limits](QByteArray const& items) { return Parse(Feed(items), FeedPlatform::MacOS, limits); };
+    EXPECT_TRUE(refusalOf(Repeated(100 - own, "<a/>")).HasSucceeded());
+    EXPECT_TRUE(
+        refusalOf("<item>" + Repeated((100 - own - 1) / 5, "<a b='' c='' d='' e=''/>") + "</item>").HasSucceeded());
+    ExpectRefused(refusalOf("\n\n" + Repeated(100 - own + 1, "<a/>")), FeedErrorKind::TooMuchMarkup,
+                  "Line 7 of the feed goes beyond the 100 elements and attributes that a feed may have.");
+    ExpectRefused(refusalOf("<item" + Attributes(96) + "/>"), FeedErrorKind::TooMuchMarkup,
+                  "Line 5 of the feed goes beyond the 100 elements and attributes that a feed may have.");
+    EXPECT_TRUE(refusalOf("<item" + Attributes(95) + "/>").HasSucceeded());
+}
+
+TEST(FeedMarkup, AFeedThatIsTagsThroughoutIsRefusedLongBeforeItsEnd)
+{
+    int const size = 4 << 20;
+    QByteArray const shapes[] = {"<a/>", "<a></a>", "<a b=''/>", "<a" + Attributes(64) + "/>",
+                                 "<a" + Attributes(256) + "/>"};
+    for (QByteArray const& shape : shapes)
+    {
+        FeedParseResult const result = Parse(Feed("<item>" + Repeated(size / shape.size(), shape + "\n") + "</item>"));
+        EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::TooMuchMarkup)) << shape.left(20).constData();
+        EXPECT_LE(result.error.line, 5 + 100 * 1000) << shape.left(20).constData();
+    }
+    // Of the largest tags that are allowed one by one, no more than these are read.
+    EXPECT_LE(Parse(Feed(Repeated(size / 2000, "<a" + Attributes(256) + "/>\n"))).error.line, 5 + 100 * 1000 / 257);
+}
+
+TEST(FeedMarkup, TwoThousandItemsWithDeltasStayBelowTheLimit)
+{
+    QByteArray const attributes = " url='a' sparkle:version='2' sparkle:shortVersionString='2' length='1' type='b' "
+                                  "sparkle:edSignature='c'";
+    QByteArray const item = "<item><title/><description/><pubDate/><link/><sparkle:minimumSystemVersion/><enclosure" +
+                            attributes + "/><sparkle:deltas>" +
+                            Repeated(4, "<enclosure" + attributes + " sparkle:deltaFrom='1'/>") +
+                            "</sparkle:deltas></item>";
+    EXPECT_EQ(Parse(Feed(Repeated(2000, item))).items.size(), 2000u);
+}
+
 TEST(FeedTagLength, SixtyFourKibibytesPassAndOneByteMoreIsRefused)
 {
     auto tag = [](int bytes) { return "<item a=\"" + QByteArray(bytes - 12, '>') + "\"/>"; };

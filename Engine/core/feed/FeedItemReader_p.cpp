@@ -89,13 +89,25 @@ int LanguageRank(QStringRef language, QStringList const& wanted)
     return wanted.size() + 1;
 }
 
-QStringRef LanguageOf(QXmlStreamAttributes const& attributes)
+/// The rank of the element just entered.
+int LanguageRank(FeedWalker const& walker, QStringList const& wanted)
 {
-    return attributes.value(QLatin1String("http://www.w3.org/XML/1998/namespace"), QLatin1String("lang"));
+    if (!walker.HasAttributes())
+    {
+        return LanguageRank(QStringRef(), wanted);
+    }
+    QXmlStreamAttributes const attributes = walker.Reader().attributes();
+    return LanguageRank(attributes.value(QLatin1String("http://www.w3.org/XML/1998/namespace"), QLatin1String("lang")),
+                        wanted);
 }
 
-QString FormatOf(QXmlStreamAttributes const& attributes)
+QString FormatOf(FeedWalker const& walker)
 {
+    if (!walker.HasAttributes())
+    {
+        return {};
+    }
+    QXmlStreamAttributes const attributes = walker.Reader().attributes();
     for (QXmlStreamAttribute const& attribute : attributes)
     {
         if (IsFeedNamespace(attribute.namespaceUri()) && IsNamed(attribute.name(), QLatin1String("format")))
@@ -144,12 +156,13 @@ void TakeAttributes(FeedWalker& walker, Enclosure& enclosure)
     QXmlStreamAttributes const attributes = walker.Reader().attributes();
     for (QXmlStreamAttribute const& attribute : attributes)
     {
-        QString const text = CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
-        enclosure.attributes.insert(
-            walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName()), text);
+        QString text = CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
+        QString const& name =
+            walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName());
+        *enclosure.attributes.insert(name, QVariant()) = text;
         if (QString* const member = MemberFor(enclosure, attribute))
         {
-            *member = text.isNull() ? QStringLiteral("") : text;
+            *member = text.isNull() ? QStringLiteral("") : std::move(text);
         }
     }
 }
@@ -199,21 +212,21 @@ QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclo
     return properties;
 }
 
-void TakeIfBetter(LocalizedText& best, int rank, QString const& text)
+void TakeIfBetter(LocalizedText& best, int rank, QString&& text)
 {
     if (rank < best.rank)
     {
         best.rank = rank;
-        best.text = text;
+        best.text = std::move(text);
     }
 }
 
 /// The first of several stays.
-void TakeIfFirst(QString& value, QString const& text)
+void TakeIfFirst(QString& value, QString&& text)
 {
     if (value.isNull())
     {
-        value = text.isNull() ? QStringLiteral("") : text;
+        value = text.isNull() ? QStringLiteral("") : std::move(text);
     }
 }
 
@@ -247,30 +260,30 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     bool const isTags = IsNamed(name, QLatin1String("tags"));
     bool const isCritical = IsNamed(name, QLatin1String("criticalUpdate"));
     bool const isReleaseNotes = IsNamed(name, QLatin1String("releaseNotesLink"));
-    int const rank = isReleaseNotes ? LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages) : 0;
+    int const rank = isReleaseNotes ? LanguageRank(walker, context.languages) : 0;
     FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
     if (place != nullptr)
     {
-        TakeIfFirst(*place, element.text);
+        TakeIfFirst(*place, std::move(element.text));
     }
     else if (isReleaseNotes)
     {
-        TakeIfBetter(draft.releaseNotes, rank, element.text);
+        TakeIfBetter(draft.releaseNotes, rank, std::move(element.text));
     }
     draft.item.isCritical = draft.item.isCritical || isCritical || (isTags && element.hasFeedCriticalUpdate);
-    return element.value;
+    return std::move(element.value);
 }
 
 QVariant ReadDescription(FeedWalker& walker, FeedItemContext const& context, LocalizedText& description)
 {
-    int const rank = LanguageRank(LanguageOf(walker.Reader().attributes()), context.languages);
-    QString const format = FormatOf(walker.Reader().attributes());
+    int const rank = LanguageRank(walker, context.languages);
+    QString format = FormatOf(walker);
     FeedElement element = ReadFeedElement(walker, FeedTextKind::Block);
     if (rank < description.rank)
     {
-        description = {element.text, format, rank};
+        description = {std::move(element.text), std::move(format), rank};
     }
-    return element.value;
+    return std::move(element.value);
 }
 
 QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
@@ -279,7 +292,7 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     if (IsNamed(reader.name(), QLatin1String("enclosure")))
     {
         Enclosure enclosure = ReadEnclosure(walker);
-        QVariant const value = enclosure.attributes;
+        QVariant value = enclosure.attributes;
         if (!IsFor(context.platform, enclosure.operatingSystem))
         {
             draft.hasForeignEnclosure = true;
@@ -298,17 +311,17 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     QString* const place = IsNamed(reader.name(), QLatin1String("pubDate")) ? &draft.item.dateString
                            : IsNamed(reader.name(), QLatin1String("link"))  ? &draft.link
                                                                             : nullptr;
-    int const rank = isTitle ? LanguageRank(LanguageOf(reader.attributes()), context.languages) : 0;
+    int const rank = isTitle ? LanguageRank(walker, context.languages) : 0;
     FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
     if (isTitle)
     {
-        TakeIfBetter(draft.title, rank, element.text);
+        TakeIfBetter(draft.title, rank, std::move(element.text));
     }
     else if (place != nullptr)
     {
-        TakeIfFirst(*place, element.text);
+        TakeIfFirst(*place, std::move(element.text));
     }
-    return element.value;
+    return std::move(element.value);
 }
 
 void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext const& context)
@@ -348,23 +361,23 @@ FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemC
 FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
 {
     FeedItem& item = draft.item;
-    item.title = draft.title.text;
-    item.description = draft.description.text;
-    item.descriptionFormat = draft.description.format;
+    item.title = std::move(draft.title.text);
+    item.description = std::move(draft.description.text);
+    item.descriptionFormat = std::move(draft.description.format);
     item.releaseNotesUrl = FeedAddress(draft.releaseNotes.text, context.feedUrl);
     item.infoUrl = FeedAddress(draft.link, context.feedUrl);
-    item.versionString = draft.versionElement;
-    item.displayVersionString = draft.displayVersionElement;
+    item.versionString = std::move(draft.versionElement);
+    item.displayVersionString = std::move(draft.displayVersionElement);
     if (draft.enclosure)
     {
         ApplyEnclosure(item, *draft.enclosure, context);
         if (!draft.enclosure->version.isNull())
         {
-            item.versionString = draft.enclosure->version;
+            item.versionString = std::move(draft.enclosure->version);
         }
         if (!draft.enclosure->displayVersion.isNull())
         {
-            item.displayVersionString = draft.enclosure->displayVersion;
+            item.displayVersionString = std::move(draft.enclosure->displayVersion);
         }
     }
     if (item.versionString.isNull())

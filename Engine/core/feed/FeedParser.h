@@ -30,6 +30,7 @@ struct FeedLimits
     int maxDepth = 64;
     int maxAttributes = 256;     ///< in one start tag
     int maxTagBytes = 64 * 1024; ///< one tag, from "<" to ">"
+    int maxMarkup = 100 * 1000;  ///< elements and attributes, all together: what they cost, their bytes do not show
     int maxItems = 2000;         ///< items, those left out included; deltas are not counted
     int maxNamespaces = 64;      ///< declared and in scope at one place, since each name is looked up among them
     quint64 maxContentLength = quint64(16) << 30; ///< bytes; a longer download counts as a length that is too large
@@ -43,6 +44,7 @@ enum class FeedErrorKind
     TooDeep,
     TooManyAttributes,
     TagTooLong,
+    TooMuchMarkup,
     TooManyItems,
     TooManyNamespaces,
     NotAFeed, ///< a web page, such as a login page that a network serves in the feed's place

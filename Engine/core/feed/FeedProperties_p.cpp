@@ -18,6 +18,10 @@ QString CurrentName(FeedWalker& walker)
 QVariantMap ReadFeedAttributes(FeedWalker& walker)
 {
     QVariantMap properties;
+    if (!walker.HasAttributes())
+    {
+        return properties;
+    }
     QXmlStreamAttributes const attributes = walker.Reader().attributes();
     for (QXmlStreamAttribute const& attribute : attributes)
     {
@@ -29,12 +33,13 @@ QVariantMap ReadFeedAttributes(FeedWalker& walker)
 
 void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant value)
 {
-    QVariant& place = properties[name];
-    if (!place.isValid())
+    QVariantMap::iterator const found = properties.lowerBound(name);
+    if (found == properties.end() || found.key() != name)
     {
-        place = std::move(value);
+        *properties.insert(found, name, QVariant()) = std::move(value);
         return;
     }
+    QVariant& place = *found;
     // A value of the feed is a text or a map, so a list is one that was begun here. It leaves the map while it grows:
     // a shared list would be copied at every step.
     QVariantList list;

@@ -2,7 +2,6 @@
 #include "Engine/core/feed/FeedText_p.h"
 
 #include <algorithm>
-#include <cstring>
 #include <utility>
 
 namespace Pelnar::Engine
@@ -28,18 +27,44 @@ bool IsUnsafe(ushort unit, FeedTextKind kind)
     return IsUnsafe(unit) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(unit));
 }
 
-constexpr int UNITS_AT_ONCE = sizeof(quint64) / sizeof(ushort);
+/// How many characters are looked at together: a number that the compiler turns into a few vector instructions.
+constexpr int MANY_UNITS = 32;
+constexpr int FEW_UNITS = 4;
 
-/// True when all of four characters are ordinary ASCII: below 0x80, and neither below 0x20 nor 0x7F.
-inline bool AreOrdinary(ushort const* units)
+/// True when all of \a COUNT characters are ordinary: ASCII, and no control character but those that \a kind keeps.
+template <int COUNT>
+inline bool AreOrdinary(ushort const* units, FeedTextKind kind)
 {
-    constexpr quint64 ONES = Q_UINT64_C(0x0001000100010001);
-    quint64 four;
-    std::memcpy(&four, units, sizeof four);
-    quint64 const isHigh = four & (ONES * 0xFF80);
-    quint64 const isLow = (four - ONES * 0x20) & (ONES * 0x8000);
-    quint64 const isDelete = (four + ONES) & (ONES * 0x80);
-    return (isHigh | isLow | isDelete) == 0;
+    ushort found = 0;
+    if (kind == FeedTextKind::SingleLine)
+    {
+        for (int i = 0; i < COUNT; ++i)
+        {
+            found = static_cast<ushort>(found | (units[i] < 0x20) | (units[i] > 0x7E));
+        }
+    }
+    else
+    {
+        for (int i = 0; i < COUNT; ++i)
+        {
+            bool const isControl = (units[i] < 0x20) & (units[i] != '\n') & (units[i] != '\r') & (units[i] != '\t');
+            found = static_cast<ushort>(found | isControl | (units[i] > 0x7E));
+        }
+    }
+    return found == 0;
+}
+
+/// The index behind the ordinary characters that are found from \a from on, in steps of \a COUNT; the last few are
+/// looked at together with the ones before them.
+template <int COUNT>
+inline int SkipOrdinary(ushort const* units, int from, int size, FeedTextKind kind)
+{
+    while (size - from >= COUNT && AreOrdinary<COUNT>(units + from, kind))
+    {
+        from += COUNT;
+    }
+    bool const isTail = size - from < COUNT && size >= COUNT;
+    return isTail && AreOrdinary<COUNT>(units + size - COUNT, kind) ? size : from;
 }
 
 /// The index of the first unsafe character at or behind \a from; \a size when there is none.
@@ -48,25 +73,13 @@ int NextUnsafe(ushort const* units, int from, int size, FeedTextKind kind)
     int i = from;
     while (i < size)
     {
-        int const left = size - i;
-        if (left >= UNITS_AT_ONCE && AreOrdinary(units + i))
+        i = SkipOrdinary<MANY_UNITS>(units, i, size, kind);
+        i = SkipOrdinary<FEW_UNITS>(units, i, size, kind);
+        for (int const end = std::min(i + MANY_UNITS, size); i < end; ++i)
         {
-            i += UNITS_AT_ONCE;
-        }
-        // The last few are looked at together with the ones before them.
-        else if (left < UNITS_AT_ONCE && size >= UNITS_AT_ONCE && AreOrdinary(units + size - UNITS_AT_ONCE))
-        {
-            return size;
-        }
-        else
-        {
-            int const end = i + std::min(left, UNITS_AT_ONCE);
-            for (; i < end; ++i)
+            if (IsUnsafe(units[i], kind))
             {
-                if (IsUnsafe(units[i], kind))
-                {
-                    return i;
-                }
+                return i;
             }
         }
     }

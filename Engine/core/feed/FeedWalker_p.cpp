@@ -51,6 +51,8 @@ QString SentencePart(FeedErrorKind kind, FeedLimits const& limits)
         return QStringLiteral("has a tag with more than %1 attributes").arg(limits.maxAttributes);
     case FeedErrorKind::TagTooLong:
         return QStringLiteral("has a tag of more than %1 bytes").arg(limits.maxTagBytes);
+    case FeedErrorKind::TooMuchMarkup:
+        return QStringLiteral("goes beyond the %1 elements and attributes that a feed may have").arg(limits.maxMarkup);
     case FeedErrorKind::TooManyItems:
         return QStringLiteral("has item number %1, but only %2 are allowed")
             .arg(limits.maxItems + 1)
@@ -67,7 +69,7 @@ QString SentencePart(FeedErrorKind kind, FeedLimits const& limits)
 
 bool IsFeedNamespace(QStringRef namespaceUri)
 {
-    return namespaceUri == FEED_NAMESPACE;
+    return IsEqual(FEED_NAMESPACE, namespaceUri);
 }
 
 FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimits const& limits)
@@ -153,6 +155,14 @@ void FeedWalker::CheckStart()
         Refuse(FeedErrorKind::TooDeep);
         return;
     }
+    int const attributes = reader.attributes().size();
+    hasAttributes = attributes > 0;
+    markup += 1 + attributes;
+    if (markup > limits.maxMarkup)
+    {
+        Refuse(FeedErrorKind::TooMuchMarkup);
+        return;
+    }
     int const declared = reader.namespaceDeclarations().size();
     if (declared > 0)
     {
@@ -205,7 +215,7 @@ void FeedWalker::Refuse(FeedErrorKind kind)
     error = MakeFeedError(kind, Line(), Column(), limits);
 }
 
-QString FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
+QString const& FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
 {
     // Items are alike: the name that came next last time most often comes next again.
     for (size_t tried = 0; tried < knownNames.size(); ++tried)
@@ -217,14 +227,15 @@ QString FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStri
             return known.propertyName;
         }
     }
-    QString const propertyName = MakePropertyName(namespaceUri, name, qualifiedName);
-    if (knownNames.size() < MOST_KNOWN_NAMES)
+    otherName = MakePropertyName(namespaceUri, name, qualifiedName);
+    if (knownNames.size() == MOST_KNOWN_NAMES)
     {
-        // Most names need one text only: they are shown as written, in no namespace or in the feed's.
-        knownNames.push_back({IsEqual(propertyName, qualifiedName) ? propertyName : qualifiedName.toString(),
-                              IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), propertyName});
+        return otherName;
     }
-    return propertyName;
+    // Most names need one text only: they are shown as written, in no namespace or in the feed's.
+    knownNames.push_back({IsEqual(otherName, qualifiedName) ? otherName : qualifiedName.toString(),
+                          IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), otherName});
+    return knownNames.back().propertyName;
 }
 
 } // namespace Pelnar::Engine

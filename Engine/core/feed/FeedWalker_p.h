@@ -28,11 +28,13 @@ public:
     [[nodiscard]] FeedParseError const& Error() const { return error; }
     [[nodiscard]] QXmlStreamReader const& Reader() const { return reader; }
     [[nodiscard]] int Depth() const { return depth; }
+    /// Of the tag just entered. Asking is cheap, the attributes themselves are not.
+    [[nodiscard]] bool HasAttributes() const { return hasAttributes; }
     [[nodiscard]] int Line() const { return static_cast<int>(reader.lineNumber()); }
     [[nodiscard]] int Column() const { return static_cast<int>(reader.columnNumber()) + 1; }
 
-    /// The element or attribute name as properties show it; \a qualifiedName is as written.
-    [[nodiscard]] QString PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName);
+    /// The element or attribute name as properties show it; \a qualifiedName is as written. Good until the next call.
+    [[nodiscard]] QString const& PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName);
 
 private:
     /// A name met before: most feeds use a dozen, and a shared text costs nothing to keep once more.
@@ -50,10 +52,13 @@ private:
     bool isUtf8; ///< what was scanned and what is read are the same bytes
     FeedParseError error;
     int depth = 0;
+    int markup = 0; ///< elements and attributes so far
+    bool hasAttributes = false;
     int namespacesInScope = 0;
     std::vector<std::pair<int, int>> namespacesByDepth; ///< only the depths that declare some, with their number
     std::vector<KnownName> knownNames;
     size_t expectedName = 0; ///< where the last name was found
+    QString otherName;       ///< the last one that found no room among them
 };
 
 /// An error of \a kind at a place, with its sentence.

@@ -124,7 +124,7 @@ std::vector<EngineError> everyError()
     for (FeedErrorKind const kind :
          {FeedErrorKind::Malformed, FeedErrorKind::DocumentType, FeedErrorKind::TooDeep,
           FeedErrorKind::TooManyAttributes, FeedErrorKind::TagTooLong, FeedErrorKind::TooManyItems,
-          FeedErrorKind::TooManyNamespaces, FeedErrorKind::NotAFeed})
+          FeedErrorKind::TooManyNamespaces, FeedErrorKind::TooMuchMarkup, FeedErrorKind::NotAFeed})
     {
         FeedParseError error;
         error.kind = kind;
@@ -139,7 +139,7 @@ TEST(EngineErrors, EachHasANumberAndASentenceOfItsOwn)
     std::set<std::pair<QString, int>> numbers;
     std::set<QString> sentences;
     std::vector<EngineError> const errors = everyError();
-    EXPECT_EQ(errors.size(), 400u + 8u + 43u);
+    EXPECT_EQ(errors.size(), 400u + 9u + 43u);
     for (EngineError const& error : errors)
     {
         EXPECT_TRUE(numbers.insert({error.UnderlyingDomain(), error.UnderlyingCode()}).second)

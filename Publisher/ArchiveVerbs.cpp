@@ -2,10 +2,20 @@
 // text.
 
 #include "Publisher/Verb.h"
+#include "Publisher/delta/DeltaVerb.h"
+#include "Publisher/keys/KeysVerbs.h"
+#include "Publisher/serve/ServeVerb.h"
 
 namespace Pelnar::Publisher
 {
 
-void AddArchiveVerbs(CLI::App&, VerbContext&) {}
+void AddArchiveVerbs(CLI::App& program, VerbContext& context)
+{
+    AddKeys(program, context);
+    AddSign(program, context);
+    AddVerify(program, context);
+    AddDelta(program, context);
+    AddServe(program, context);
+}
 
 } // namespace Pelnar::Publisher

@@ -80,9 +80,10 @@ public:
     }
 
     /// Fills \a manifest's entries and the data that goes with them.
-    [[nodiscard]] bool ReadNewVersion(DeltaManifest& manifest, ByteBuffer& data)
+    [[nodiscard]] bool ReadNewVersion(DeltaManifest& manifest, ByteBuffer& data, DeltaMakerProgress const& progress)
     {
-        for (std::string const& path : PathsBelow(m_newBundle))
+        std::vector<std::string> const paths = PathsBelow(m_newBundle);
+        for (std::string const& path : paths)
         {
             std::optional<DeltaEntry> const entry = MakeEntry(path, data);
             if (!entry)
@@ -90,6 +91,10 @@ public:
                 return Fail(path);
             }
             manifest.entries.push_back(*entry);
+            if (progress)
+            {
+                progress(manifest.entries.size(), paths.size());
+            }
         }
         return true;
     }
@@ -232,7 +237,8 @@ private:
 } // namespace
 
 DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion, fs::path const& newBundle,
-                      std::string const& targetVersion, int containerFd, DeltaLimits const& limits)
+                      std::string const& targetVersion, int containerFd, DeltaLimits const& limits,
+                      DeltaMakerProgress const& progress)
 {
     DeltaReport report;
     DeltaManifest manifest;
@@ -242,7 +248,7 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
     try
     {
         Maker maker(oldBundle, newBundle, report);
-        if (!maker.ReadOldVersion() || !maker.ReadNewVersion(manifest, data))
+        if (!maker.ReadOldVersion() || !maker.ReadNewVersion(manifest, data, progress))
         {
             return report;
         }

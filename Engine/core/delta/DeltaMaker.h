@@ -5,6 +5,7 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
 #include <filesystem>
+#include <functional>
 #include <string>
 
 namespace Pelnar::Engine
@@ -19,11 +20,15 @@ struct DeltaReport
     std::uint64_t containerBytes = 0;
 };
 
+/// Told after each entry of the new version: entries done, and in all.
+using DeltaMakerProgress = std::function<void(std::uint64_t doneEntries, std::uint64_t totalEntries)>;
+
 /// Writes the delta from the folder \a oldBundle to the folder \a newBundle into the file open at \a containerFd, which
 /// must be empty. For each file that changed, the smaller of a patch and the whole file is taken. The same two folders
 /// always make the same bytes.
 [[nodiscard]] DeltaReport MakeDelta(std::filesystem::path const& oldBundle, std::string const& baseVersion,
                                     std::filesystem::path const& newBundle, std::string const& targetVersion,
-                                    int containerFd, DeltaLimits const& limits = {});
+                                    int containerFd, DeltaLimits const& limits = {},
+                                    DeltaMakerProgress const& progress = {});
 
 } // namespace Pelnar::Engine

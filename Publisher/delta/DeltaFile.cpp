@@ -1,0 +1,115 @@
+#include "Publisher/delta/DeltaFile.h"
+
+#include "Engine/core/delta/DeltaApplier.h"
+#include "Engine/core/payload/TreeManifest.h"
+#include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/files/FaultText.h"
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformation const& after)
+{
+    if (before.version.empty() || after.version.empty())
+    {
+        throw Refusal({{},
+                       0,
+                       0,
+                       QStringLiteral("a bundle does not tell its version"),
+                       QStringLiteral("write CFBundleVersion into its information file")});
+    }
+    if (before.identifier != after.identifier)
+    {
+        throw Refusal({{},
+                       0,
+                       0,
+                       QStringLiteral("the bundles are of two products, %1 and %2")
+                           .arg(QString::fromStdString(before.identifier), QString::fromStdString(after.identifier)),
+                       QStringLiteral("give two versions of one")});
+    }
+    if (before.version == after.version)
+    {
+        throw Refusal({{},
+                       0,
+                       0,
+                       QStringLiteral("both bundles are of version %1").arg(QString::fromStdString(before.version)),
+                       QStringLiteral("give two versions")});
+    }
+}
+
+void Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd, Output const& progressOutput)
+{
+    Progress bar(progressOutput, QStringLiteral("Applying"));
+    // Deliberate: no signature is asked for. The container is checked against all that it says, and what is made here
+    // is looked at or hashed, never started.
+    Engine::DeltaOutcome const outcome =
+        Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar));
+    if (!outcome.HasSucceeded())
+    {
+        throw Refusal(ProblemOf(outcome, name));
+    }
+}
+
+} // namespace
+
+ByteProgress BarFor(Progress& progress)
+{
+    return [&progress](std::uint64_t done, std::uint64_t total) { progress.Show(qint64(done), qint64(total)); };
+}
+
+Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
+                                  Output const& progressOutput)
+{
+    CheckPair(oldBundle.Information(), newBundle.Information());
+    AtomicFile file(path);
+    Engine::DeltaReport report;
+    {
+        Progress bar(progressOutput, QStringLiteral("Comparing"));
+        report = Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
+                                   newBundle.Information().version, file.Descriptor(), {}, BarFor(bar));
+    }
+    if (!report.outcome.HasSucceeded())
+    {
+        throw Refusal(ProblemOf(report.outcome, path));
+    }
+    TemporaryFolder const made;
+    Apply(file.Descriptor(), path, oldBundle, made.Descriptor(), progressOutput);
+    file.Commit(ExistingFile::Keep);
+    return report;
+}
+
+Engine::DeltaManifest ReadDeltaFile(InputFile const& delta)
+{
+    Engine::DeltaManifest manifest;
+    std::uint64_t dataOffset = 0;
+    Engine::DeltaOutcome const outcome =
+        Engine::ReadDeltaManifest(delta.descriptor.Get(), Engine::DeltaLimits(), manifest, dataOffset);
+    if (!outcome.HasSucceeded())
+    {
+        throw Refusal(ProblemOf(outcome, delta.name));
+    }
+    return manifest;
+}
+
+void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, Output const& progressOutput)
+{
+    Apply(delta.descriptor.Get(), delta.name, oldBundle, targetFd, progressOutput);
+}
+
+void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree const& newBundle,
+                Output const& progressOutput)
+{
+    TemporaryFolder const made;
+    ApplyDeltaFile(delta, oldBundle, made.Descriptor(), progressOutput);
+    if (Engine::DigestTree(made.Descriptor()) != Engine::DigestTree(newBundle.Descriptor()))
+    {
+        throw Refusal({delta.name, 0, 0, QStringLiteral("makes another bundle than the archive of that version holds"),
+                       QStringLiteral("remove the delta; it is made again where it is wanted")});
+    }
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,229 @@
+// DeltaVerb.cpp: "delta": makes, applies and shows the small updates from one version of a bundle to another.
+
+#include "Publisher/delta/DeltaVerb.h"
+
+#include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/delta/DeltaFile.h"
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/keys/SigningKey.h"
+
+#include <QJsonArray>
+
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+BundleTree OpenBundle(Console const& console, std::string const& path)
+{
+    QString const name = QString::fromStdString(path);
+    Progress bar(console.err, QStringLiteral("Unpacking"));
+    return BundleTree::Open(name, BarFor(bar));
+}
+
+struct CreateOptions
+{
+    std::string oldBundle;
+    std::string newBundle;
+    std::string output;
+    std::string key;
+};
+
+ExitStatus Create(Console const& console, CreateOptions const& options)
+{
+    QString const output = QString::fromStdString(options.output);
+    std::optional<SigningKey> const key =
+        options.key.empty() ? std::optional<SigningKey>() : SigningKey::Load(QString::fromStdString(options.key));
+    BundleTree const before = OpenBundle(console, options.oldBundle);
+    BundleTree const after = OpenBundle(console, options.newBundle);
+    Engine::DeltaReport const report = MakeDeltaFile(before, after, output, console.err);
+    QString const baseVersion = QString::fromStdString(before.Information().version);
+    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes: %5 files kept, %6 patched, %7 whole")
+                      .arg(output, baseVersion, QString::fromStdString(after.Information().version))
+                      .arg(report.containerBytes)
+                      .arg(report.keptFiles)
+                      .arg(report.patchedFiles)
+                      .arg(report.wholeFiles));
+    if (key)
+    {
+        console.Print(QStringLiteral("sparkle:deltaFrom=\"%1\" %2")
+                          .arg(baseVersion.toHtmlEscaped(), AttributesOf(key->Sign(OpenInputFile(output)))));
+    }
+    return ExitStatus::Clean;
+}
+
+void AddCreate(CLI::App& delta, VerbContext& context)
+{
+    auto const options = std::make_shared<CreateOptions>();
+    CLI::App& verb =
+        *delta.add_subcommand("create", "Makes the delta from one version of a bundle to another and proves it");
+    verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
+    verb.add_option("NEW", options->newBundle, "Bundle, or archive of it, that the delta makes")->required();
+    verb.add_option("-o,--output", options->output, "New file for the delta")->required();
+    verb.add_option("--key", options->key,
+                    "File of the private key, or \"-\": signs the delta and prints the attributes of its enclosure");
+    SetWork(verb, context, [&context, options] { return Create(context.console, *options); });
+}
+
+struct ApplyOptions
+{
+    std::string delta;
+    std::string oldBundle;
+    std::string output;
+};
+
+/// Makes the new bundle under a hidden name, so that what has the right name is whole.
+ExitStatus Apply(Console const& console, ApplyOptions const& options)
+{
+    QString const output = QString::fromStdString(options.output);
+    InputFile const delta = OpenInputFile(QString::fromStdString(options.delta));
+    Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
+    BundleTree const before = OpenBundle(console, options.oldBundle);
+    NewFolder folder(output);
+    ApplyDeltaFile(delta, before, folder.Descriptor(), console.err);
+    folder.Commit();
+    console.Print(QStringLiteral("%1: version %2").arg(output, QString::fromStdString(manifest.targetVersion)));
+    return ExitStatus::Clean;
+}
+
+void AddApply(CLI::App& delta, VerbContext& context)
+{
+    auto const options = std::make_shared<ApplyOptions>();
+    CLI::App& verb = *delta.add_subcommand("apply", "Makes the new version of a bundle, as clients do");
+    verb.add_option("DELTA", options->delta, "Delta to apply")->required();
+    verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
+    verb.add_option("-o,--output", options->output, "New folder for the bundle, such as Name.app")->required();
+    SetWork(verb, context, [&context, options] { return Apply(context.console, *options); });
+}
+
+char const* KindName(Engine::DeltaEntryKind kind)
+{
+    switch (kind)
+    {
+    case Engine::DeltaEntryKind::Directory:
+        return "folder";
+    case Engine::DeltaEntryKind::SymbolicLink:
+        return "link";
+    case Engine::DeltaEntryKind::Kept:
+        return "kept";
+    case Engine::DeltaEntryKind::Patched:
+        return "patched";
+    case Engine::DeltaEntryKind::Whole:
+        return "whole";
+    }
+    return "unknown";
+}
+
+struct Totals
+{
+    int count = 0;
+    quint64 size = 0;
+    quint64 stored = 0;
+};
+
+Totals TotalsOf(Engine::DeltaManifest const& manifest, Engine::DeltaEntryKind kind)
+{
+    Totals totals;
+    for (Engine::DeltaEntry const& entry : manifest.entries)
+    {
+        if (entry.kind == kind)
+        {
+            ++totals.count;
+            totals.size += entry.size;
+            totals.stored += entry.StoredBytes();
+        }
+    }
+    return totals;
+}
+
+void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
+{
+    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes")
+                      .arg(delta.name, Printable(QString::fromStdString(manifest.baseVersion)),
+                           Printable(QString::fromStdString(manifest.targetVersion)))
+                      .arg(delta.size));
+    for (Engine::DeltaEntry const& entry : manifest.entries)
+    {
+        QString line = QStringLiteral("%1 %2 of %3 bytes  %4")
+                           .arg(QLatin1String(KindName(entry.kind)), -8)
+                           .arg(entry.StoredBytes(), 10)
+                           .arg(entry.size, 10)
+                           .arg(Printable(QString::fromStdString(entry.path)));
+        if (!entry.sourcePath.empty() && entry.sourcePath != entry.path)
+        {
+            line += QStringLiteral(" (from %1)").arg(Printable(QString::fromStdString(entry.sourcePath)));
+        }
+        console.Print(line);
+    }
+    for (Engine::DeltaEntryKind const kind :
+         {Engine::DeltaEntryKind::Kept, Engine::DeltaEntryKind::Patched, Engine::DeltaEntryKind::Whole})
+    {
+        Totals const totals = TotalsOf(manifest, kind);
+        console.Print(QStringLiteral("%1 %2 files, %3 of %4 bytes in the delta")
+                          .arg(QLatin1String(KindName(kind)), -8)
+                          .arg(totals.count)
+                          .arg(totals.stored)
+                          .arg(totals.size));
+    }
+}
+
+void ShowJson(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
+{
+    QJsonArray entries;
+    for (Engine::DeltaEntry const& entry : manifest.entries)
+    {
+        QJsonObject object{{QStringLiteral("path"), QString::fromStdString(entry.path)},
+                           {QStringLiteral("kind"), QLatin1String(KindName(entry.kind))},
+                           {QStringLiteral("size"), qint64(entry.size)},
+                           {QStringLiteral("stored"), qint64(entry.StoredBytes())}};
+        if (!entry.sourcePath.empty())
+        {
+            object.insert(QStringLiteral("source"), QString::fromStdString(entry.sourcePath));
+        }
+        entries.append(object);
+    }
+    console.PrintJson({{QStringLiteral("delta"), delta.name},
+                       {QStringLiteral("baseVersion"), QString::fromStdString(manifest.baseVersion)},
+                       {QStringLiteral("targetVersion"), QString::fromStdString(manifest.targetVersion)},
+                       {QStringLiteral("size"), qint64(delta.size)},
+                       {QStringLiteral("entries"), entries}});
+}
+
+void AddShow(CLI::App& delta, VerbContext& context)
+{
+    struct Options
+    {
+        std::string delta;
+        bool isJson = false;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *delta.add_subcommand("show", "Tells what a delta keeps, patches and brings whole");
+    verb.add_option("DELTA", options->delta, "Delta to look at")->required();
+    verb.add_flag("--json", options->isJson, "Print one JSON object instead of text");
+    SetWork(verb, context,
+            [&context, options]
+            {
+                InputFile const delta = OpenInputFile(QString::fromStdString(options->delta));
+                Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
+                options->isJson ? ShowJson(context.console, delta, manifest)
+                                : ShowText(context.console, delta, manifest);
+                return ExitStatus::Clean;
+            });
+}
+
+} // namespace
+
+void AddDelta(CLI::App& program, VerbContext& context)
+{
+    CLI::App& delta =
+        *program.add_subcommand("delta", "Makes, applies and shows small updates from one version to another");
+    delta.require_subcommand(1);
+    AddCreate(delta, context);
+    AddApply(delta, context);
+    AddShow(delta, context);
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,144 @@
+#include "Publisher/files/AtomicFile.h"
+
+#include "Engine/core/payload/TreeManifest.h"
+#include "Publisher/Refusal.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <cerrno>
+#include <cstdio>
+#include <cstdlib>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+QString const MEND = QStringLiteral("check that the folder is there, who may write to it, and the space on the disk");
+
+/// The permissions that the user gives to new files.
+mode_t NewFileMode()
+{
+    mode_t const mask = ::umask(0);
+    ::umask(mask);
+    return 0666 & ~mask;
+}
+
+[[noreturn]] void RefuseName(QString const& path)
+{
+    throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("name another, or remove it")});
+}
+
+/// Gives what is called \a hiddenName in the open folder its place at \a path, which is in the same folder.
+void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path, ExistingFile existing)
+{
+    QByteArray const name = QFile::encodeName(QFileInfo(path).fileName());
+    unsigned const flags = existing == ExistingFile::Keep ? unsigned(RENAME_NOREPLACE) : 0;
+    if (::renameat2(folderFd, hiddenName.constData(), folderFd, name.constData(), flags) == 0)
+    {
+        return;
+    }
+    if (errno == EEXIST)
+    {
+        RefuseName(path);
+    }
+    RefuseFile(path, QStringLiteral("cannot be given its name"), errno, MEND);
+}
+
+} // namespace
+
+AtomicFile::AtomicFile(QString const& path) : m_path(path)
+{
+    QFileInfo const target(path);
+    QByteArray const folder = QFile::encodeName(target.absolutePath());
+    QByteArray hidden = folder + "/." + QFile::encodeName(target.fileName()) + ".XXXXXX";
+    m_folder = Engine::UniqueFd(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    m_descriptor = Engine::UniqueFd(m_folder ? ::mkostemp(hidden.data(), O_CLOEXEC) : -1);
+    if (!m_descriptor)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
+    }
+    m_hiddenName = hidden.mid(folder.size() + 1);
+    if (::fchmod(m_descriptor.Get(), NewFileMode()) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
+    }
+}
+
+AtomicFile::~AtomicFile()
+{
+    if (!m_isCommitted && !m_hiddenName.isEmpty())
+    {
+        ::unlinkat(m_folder.Get(), m_hiddenName.constData(), 0);
+    }
+}
+
+void AtomicFile::Write(QByteArray const& bytes)
+{
+    auto const* const data = reinterpret_cast<std::uint8_t const*>(bytes.constData());
+    if (!Engine::WriteAll(Descriptor(), Engine::Bytes(data, static_cast<std::size_t>(bytes.size()))))
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+    }
+}
+
+void AtomicFile::Commit(ExistingFile existing)
+{
+    if (::fsync(Descriptor()) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+    }
+    NameFinally(m_folder.Get(), m_hiddenName, m_path, existing);
+    m_isCommitted = true;
+    if (::fsync(m_folder.Get()) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+    }
+}
+
+NewFolder::NewFolder(QString const& path) : m_path(path)
+{
+    QFileInfo const target(path);
+    if (target.exists() || target.isSymLink())
+    {
+        RefuseName(path);
+    }
+    QByteArray const parent = QFile::encodeName(target.absolutePath());
+    QByteArray hidden = parent + "/." + QFile::encodeName(target.fileName()) + ".XXXXXX";
+    m_parent = Engine::UniqueFd(::open(parent.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_parent || !::mkdtemp(hidden.data()))
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
+    }
+    m_hiddenName = hidden.mid(parent.size() + 1);
+    m_folder = Engine::UniqueFd(::openat(m_parent.Get(), m_hiddenName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!m_folder)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be opened"), errno, MEND);
+    }
+}
+
+NewFolder::~NewFolder()
+{
+    if (!m_isCommitted && !m_hiddenName.isEmpty())
+    {
+        static_cast<void>(Engine::RemoveTree(m_parent.Get(), m_hiddenName.toStdString()));
+    }
+}
+
+void NewFolder::Commit()
+{
+    if (::fchmod(m_folder.Get(), 0755) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
+    }
+    NameFinally(m_parent.Get(), m_hiddenName, m_path, ExistingFile::Keep);
+    m_isCommitted = true;
+}
+
+} // namespace Pelnar::Publisher

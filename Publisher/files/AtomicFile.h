@@ -1,0 +1,64 @@
+// AtomicFile.h: a new file or folder that is seen under its name only when it is complete.
+// Thread: the main thread. Ownership: a scope object; what was not committed is gone when it goes.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <QByteArray>
+#include <QString>
+
+namespace Pelnar::Publisher
+{
+
+/// What becomes of a file that already has the name.
+enum class ExistingFile
+{
+    Replace,
+    Keep, ///< Commit refuses
+};
+
+class AtomicFile
+{
+public:
+    /// Opens a hidden file in the folder of \a path, of the permissions that a new file has. Throws Refusal.
+    explicit AtomicFile(QString const& path);
+    ~AtomicFile();
+    AtomicFile(AtomicFile const&) = delete;
+    AtomicFile& operator=(AtomicFile const&) = delete;
+
+    int Descriptor() const { return m_descriptor.Get(); }
+    void Write(QByteArray const& bytes);
+    /// Writes everything to the disk and gives the file its name. Throws Refusal.
+    void Commit(ExistingFile existing);
+
+private:
+    QString m_path;
+    QByteArray m_hiddenName;
+    Engine::UniqueFd m_folder;
+    Engine::UniqueFd m_descriptor;
+    bool m_isCommitted = false;
+};
+
+/// The same for a folder, which takes no name that is in use.
+class NewFolder
+{
+public:
+    /// Makes a hidden folder beside \a path. Throws Refusal, when something has that name as well.
+    explicit NewFolder(QString const& path);
+    ~NewFolder();
+    NewFolder(NewFolder const&) = delete;
+    NewFolder& operator=(NewFolder const&) = delete;
+
+    int Descriptor() const { return m_folder.Get(); }
+    /// Gives the folder its name. Throws Refusal.
+    void Commit();
+
+private:
+    QString m_path;
+    QByteArray m_hiddenName;
+    Engine::UniqueFd m_parent;
+    Engine::UniqueFd m_folder;
+    bool m_isCommitted = false;
+};
+
+} // namespace Pelnar::Publisher

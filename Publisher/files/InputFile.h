@@ -1,0 +1,29 @@
+// InputFile.h: a plain file that a person named, open for reading.
+// Thread: the main thread. Ownership: the descriptor is the object's.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstdint>
+
+namespace Pelnar::Publisher
+{
+
+struct InputFile
+{
+    Engine::UniqueFd descriptor;
+    QString name; ///< as the person typed it
+    std::uint64_t size = 0;
+    std::int64_t changedAt = 0; ///< of its contents, in seconds since 1970
+};
+
+/// Throws Refusal unless \a path is a plain file that can be read. A link to one may stand in its place.
+InputFile OpenInputFile(QString const& path);
+
+/// The bytes of \a file. Throws Refusal, which says \a mend, when they are more than \a maxBytes.
+QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString const& mend);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,147 @@
+// KeysVerb.cpp: "keys": makes, shows and exports the key with which archives are signed.
+
+#include "Publisher/keys/KeysVerbs.h"
+
+#include "Publisher/Refusal.h"
+#include "Publisher/keys/SigningKey.h"
+
+#include <map>
+#include <memory>
+#include <ostream>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr char KEY_FILE_HELP[] = "File of the private key, or \"-\" for standard input";
+
+/// How the public key is printed.
+enum class PublicKeyForm
+{
+    Xml,
+    Gnustep,
+    Bare,
+};
+
+QString EntryOf(QString const& publicKey, PublicKeyForm form)
+{
+    switch (form)
+    {
+    case PublicKeyForm::Xml:
+        return QStringLiteral("<key>SUPublicEDKey</key>\n<string>%1</string>").arg(publicKey);
+    case PublicKeyForm::Gnustep:
+        return QStringLiteral("SUPublicEDKey = \"%1\";").arg(publicKey);
+    case PublicKeyForm::Bare:
+        break;
+    }
+    return publicKey;
+}
+
+/// Adds the option that says how the public key is printed.
+void AddFormOption(CLI::App& verb, std::shared_ptr<PublicKeyForm> const& form)
+{
+    static std::map<std::string, PublicKeyForm> const FORMS = {
+        {"xml", PublicKeyForm::Xml}, {"gnustep", PublicKeyForm::Gnustep}, {"bare", PublicKeyForm::Bare}};
+    verb.add_option_function<std::string>(
+            "--format", [form](std::string const& name) { *form = FORMS.at(name); },
+            "How the public key is printed: as an entry of an XML information file, as one of a GNUstep file, or bare")
+        ->check(CLI::IsMember({"xml", "gnustep", "bare"}))
+        ->default_str("xml");
+}
+
+void AddGenerate(CLI::App& keys, VerbContext& context)
+{
+    struct Options
+    {
+        std::string file;
+        std::shared_ptr<PublicKeyForm> form = std::make_shared<PublicKeyForm>(PublicKeyForm::Xml);
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *keys.add_subcommand(
+        "generate", "Makes a key, writes the private half to a new file that only you may read, and prints the public "
+                    "half as the entry for the bundle's information file");
+    verb.add_option("FILE", options->file, "New file for the private key")->required();
+    AddFormOption(verb, options->form);
+    SetWork(verb, context,
+            [&context, options]
+            {
+                SigningKey const key = SigningKey::Generate();
+                key.Save(QString::fromStdString(options->file));
+                context.console.Print(EntryOf(key.PublicKeyText(), *options->form));
+                return ExitStatus::Clean;
+            });
+}
+
+void AddShow(CLI::App& keys, VerbContext& context)
+{
+    struct Options
+    {
+        std::string file;
+        std::shared_ptr<PublicKeyForm> form = std::make_shared<PublicKeyForm>(PublicKeyForm::Xml);
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb =
+        *keys.add_subcommand("show", "Prints the public half of a key as the entry for the bundle's information file");
+    verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
+    AddFormOption(verb, options->form);
+    SetWork(verb, context,
+            [&context, options]
+            {
+                SigningKey const key = SigningKey::Load(QString::fromStdString(options->file));
+                context.console.Print(EntryOf(key.PublicKeyText(), *options->form));
+                return ExitStatus::Clean;
+            });
+}
+
+ExitStatus Export(Console const& console, SigningKey const& key, KeyForm form, bool isTerminalWanted)
+{
+    if (console.out.isTerminal && !isTerminalWanted)
+    {
+        return console.Refuse({{},
+                               0,
+                               0,
+                               QStringLiteral("the private key would stand on this terminal"),
+                               QStringLiteral("hand it to another program or a file, or say --to-terminal")});
+    }
+    SecretBytes const text = key.SecretText(form);
+    console.out.stream.write(reinterpret_cast<char const*>(text.Data()), std::streamsize(text.Size() - 1));
+    return ExitStatus::Clean;
+}
+
+void AddExport(CLI::App& keys, VerbContext& context)
+{
+    struct Options
+    {
+        std::string file;
+        std::string form = "seed";
+        bool isTerminalWanted = false;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *keys.add_subcommand("export", "Prints the private key, for a backup or another program");
+    verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
+    verb.add_option("--form", options->form, "32 bytes (seed) or, with the public half, 64 (secret-key), in base64")
+        ->check(CLI::IsMember({"seed", "secret-key"}))
+        ->capture_default_str();
+    verb.add_flag("--to-terminal", options->isTerminalWanted, "Print it even when standard output is a terminal");
+    SetWork(verb, context,
+            [&context, options]
+            {
+                SigningKey const key = SigningKey::Load(QString::fromStdString(options->file));
+                return Export(context.console, key, options->form == "seed" ? KeyForm::Seed : KeyForm::SecretKey,
+                              options->isTerminalWanted);
+            });
+}
+
+} // namespace
+
+void AddKeys(CLI::App& program, VerbContext& context)
+{
+    CLI::App& keys = *program.add_subcommand("keys", "Makes and shows the key with which archives are signed");
+    keys.require_subcommand(1);
+    AddGenerate(keys, context);
+    AddShow(keys, context);
+    AddExport(keys, context);
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,96 @@
+// SignVerbs.cpp: "sign" and "verify": the signature of an archive, made, and judged by the code that clients judge
+// with.
+
+#include "Publisher/keys/KeysVerbs.h"
+
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/files/FaultText.h"
+#include "Publisher/keys/SigningKey.h"
+
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+/// Whether it is the archive that is wrong, or what it was to be judged by.
+bool IsVerdict(Engine::UpdateFault fault)
+{
+    return fault == Engine::UpdateFault::SignatureMismatch || fault == Engine::UpdateFault::ArchiveEmpty;
+}
+
+ExitStatus Verify(Console const& console, QString const& archiveName, std::string const& signature,
+                  std::vector<std::string> const& publicKeys)
+{
+    InputFile const archive = OpenInputFile(archiveName);
+    Engine::UpdateFault const verdict = Engine::VerifyFileSignature(archive.descriptor.Get(), signature, publicKeys);
+    if (verdict == Engine::UpdateFault::None)
+    {
+        console.Print(QStringLiteral("%1: signed, %2 bytes").arg(archiveName).arg(archive.size));
+        return ExitStatus::Clean;
+    }
+    if (!IsVerdict(verdict))
+    {
+        return console.Refuse(ProblemOf(verdict, 0, archiveName));
+    }
+    console.Print(TextOf(ProblemOf(verdict, 0, archiveName)));
+    return ExitStatus::Findings;
+}
+
+} // namespace
+
+QString AttributesOf(ArchiveSignature const& signature)
+{
+    return QStringLiteral("sparkle:edSignature=\"%1\" length=\"%2\"").arg(signature.signature).arg(signature.length);
+}
+
+void AddSign(CLI::App& program, VerbContext& context)
+{
+    struct Options
+    {
+        std::string archive;
+        std::string key;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb =
+        *program.add_subcommand("sign", "Signs an archive and prints the attributes for its enclosure in the feed");
+    verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta to sign")->required();
+    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")->required();
+    SetWork(verb, context,
+            [&context, options]
+            {
+                InputFile const archive = OpenInputFile(QString::fromStdString(options->archive));
+                SigningKey const key = SigningKey::Load(QString::fromStdString(options->key));
+                context.console.Print(AttributesOf(key.Sign(archive)));
+                return ExitStatus::Clean;
+            });
+}
+
+void AddVerify(CLI::App& program, VerbContext& context)
+{
+    struct Options
+    {
+        std::string archive;
+        std::string signature;
+        std::vector<std::string> publicKeys;
+    };
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *program.add_subcommand(
+        "verify", "Judges an archive's signature as clients do; exit status 1 when they would refuse the archive");
+    verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta")->required();
+    verb.add_option("--signature", options->signature, "The feed's sparkle:edSignature")->required();
+    verb.add_option("--public-key", options->publicKeys,
+                    "The bundle's SUPublicEDKey; give it twice for a bundle that trusts two")
+        ->required()
+        ->expected(1, 2)
+        ->allow_extra_args(false);
+    SetWork(verb, context,
+            [&context, options] {
+                return Verify(context.console, QString::fromStdString(options->archive), options->signature,
+                              options->publicKeys);
+            });
+}
+
+} // namespace Pelnar::Publisher

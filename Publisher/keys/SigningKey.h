@@ -1,0 +1,79 @@
+// SigningKey.h: the private key with which a publisher signs archives.
+// Thread: the main thread. Ownership: the secret stands in memory that is locked, guarded, left out of core files and
+// wiped; it never leaves it but through SecretText. The file is described in docs/formats/signing-key.md.
+#pragma once
+
+#include "Publisher/files/InputFile.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <cstddef>
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+
+/// Bytes in memory that is wiped.
+class SecretBytes
+{
+public:
+    /// \a size zeros. Throws std::bad_alloc.
+    explicit SecretBytes(std::size_t size);
+
+    unsigned char* Data() { return m_bytes.get(); }
+    unsigned char const* Data() const { return m_bytes.get(); }
+    std::size_t Size() const { return m_size; }
+
+private:
+    struct Wipe
+    {
+        void operator()(unsigned char* bytes) const;
+    };
+
+    std::size_t m_size;
+    std::unique_ptr<unsigned char[], Wipe> m_bytes;
+};
+
+/// The ways to write a private key.
+enum class KeyForm
+{
+    Seed,      ///< base64 of the 32 bytes that everything follows from
+    SecretKey, ///< base64 of 64 bytes: the seed and the public key
+};
+
+struct ArchiveSignature
+{
+    QString signature; ///< base64
+    quint64 length = 0;
+};
+
+/// The attributes for the archive's enclosure in a feed.
+QString AttributesOf(ArchiveSignature const& signature);
+
+class SigningKey
+{
+public:
+    static SigningKey Generate();
+    /// The key in the file \a path, or on standard input when it is "-". Throws Refusal: for a file that others may
+    /// read, a link, a file of another user, and for what is no key.
+    static SigningKey Load(QString const& path);
+
+    /// Base64 of 32 bytes.
+    QString PublicKeyText() const;
+    /// The private key in that form and the line's end. Ends in a NUL.
+    SecretBytes SecretText(KeyForm form) const;
+    /// Writes the seed to a new file that only its owner may read. Throws Refusal, when there is a file as well.
+    void Save(QString const& path) const;
+    /// Throws Refusal: for an archive that is empty or longer than a feed may promise, and when the check that clients
+    /// make does not accept the signature.
+    ArchiveSignature Sign(InputFile const& archive) const;
+
+private:
+    explicit SigningKey(SecretBytes secret);
+    static SigningKey FromText(QString const& name, SecretBytes const& text, std::size_t size);
+
+    SecretBytes m_secret; ///< seed and public key
+};
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,34 @@
+#include "Publisher/serve/FileServer.h"
+
+#include "Publisher/serve/ServerConnection.h"
+
+namespace Pelnar::Publisher
+{
+
+FileServer::FileServer(Engine::UniqueFd folder, std::vector<ServerFault> faults,
+                       std::optional<ServerCertificate> certificate, ServerLog log)
+    : m_folder(std::move(folder))
+    , m_faults(std::move(faults))
+    , m_certificate(std::move(certificate))
+    , m_log(std::move(log))
+{
+}
+
+bool FileServer::Listen(quint16 port)
+{
+    return listen(QHostAddress::LocalHost, port);
+}
+
+QString FileServer::Address() const
+{
+    return QStringLiteral("%1://127.0.0.1:%2")
+        .arg(m_certificate ? QStringLiteral("https") : QStringLiteral("http"))
+        .arg(serverPort());
+}
+
+void FileServer::incomingConnection(qintptr descriptor)
+{
+    (new ServerConnection(m_folder.Get(), m_faults, m_log, this))->Start(descriptor, m_certificate);
+}
+
+} // namespace Pelnar::Publisher

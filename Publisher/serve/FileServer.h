@@ -1,0 +1,50 @@
+// FileServer.h: serves the files of a folder over HTTP(S) on this computer only, byte ranges included, with faults on
+// demand. Thread: the main thread, in its event loop. Ownership: it owns its connections.
+// A server for dry runs: GET and HEAD, one request a connection.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Publisher/serve/ServerFault.h"
+
+#include <QSslCertificate>
+#include <QSslKey>
+#include <QTcpServer>
+
+#include <functional>
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+struct ServerCertificate
+{
+    QList<QSslCertificate> chain; ///< the server's own first
+    QSslKey key;
+};
+
+/// Told of each answer, on one line: "GET /appcast.xml 200 1234 bytes".
+using ServerLog = std::function<void(QString const& line)>;
+
+class FileServer : private QTcpServer
+{
+public:
+    /// \a folder is an open folder; nothing outside it and no link in it is served.
+    FileServer(Engine::UniqueFd folder, std::vector<ServerFault> faults, std::optional<ServerCertificate> certificate,
+               ServerLog log);
+
+    /// Listens on the loopback address; 0 stands for any free port. False when the port is in use.
+    [[nodiscard]] bool Listen(quint16 port);
+    /// "http://127.0.0.1:PORT", or https.
+    QString Address() const;
+
+private:
+    void incomingConnection(qintptr descriptor) override;
+
+    Engine::UniqueFd m_folder;
+    std::vector<ServerFault> m_faults;
+    std::optional<ServerCertificate> m_certificate;
+    ServerLog m_log;
+};
+
+} // namespace Pelnar::Publisher

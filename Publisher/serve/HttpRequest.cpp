@@ -1,0 +1,90 @@
+#include "Publisher/serve/HttpRequest.h"
+
+#include <QList>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+QString PathOf(QByteArray const& target)
+{
+    if (!target.startsWith('/'))
+    {
+        return {};
+    }
+    QByteArray const path = QByteArray::fromPercentEncoding(target.mid(1, target.indexOf('?') - 1));
+    return path.contains('\0') ? QString() : QString::fromUtf8(path);
+}
+
+/// Decimal digits only; -1 for anything else.
+qint64 NumberOf(QByteArray const& text)
+{
+    bool const isDigits =
+        !text.isEmpty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
+    bool isNumber = false;
+    qint64 const number = isDigits ? text.toLongLong(&isNumber) : -1;
+    return isNumber ? number : -1;
+}
+
+} // namespace
+
+std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head)
+{
+    QList<QByteArray> const lines = head.split('\n');
+    QList<QByteArray> const words = lines.front().trimmed().split(' ');
+    if (words.size() != 3 || !words.at(2).startsWith("HTTP/1."))
+    {
+        return std::nullopt;
+    }
+    HttpRequest request;
+    request.method = words.at(0);
+    request.path = PathOf(words.at(1));
+    for (QByteArray const& line : lines.mid(1))
+    {
+        int const colon = line.indexOf(':');
+        QByteArray const name = line.left(colon).toLower();
+        QByteArray const value = line.mid(colon + 1).trimmed();
+        if (name == "range")
+        {
+            request.range = value;
+        }
+        else if (name == "if-range")
+        {
+            request.ifRange = value;
+        }
+    }
+    return request;
+}
+
+RangeKind RangeOf(QByteArray const& header, qint64 size, ByteRange& range)
+{
+    range = {0, size};
+    if (!header.startsWith("bytes=") || header.contains(','))
+    {
+        return RangeKind::Whole;
+    }
+    QByteArray const text = header.mid(6);
+    int const dash = text.indexOf('-');
+    qint64 const first = NumberOf(text.left(dash));
+    qint64 const last = NumberOf(text.mid(dash + 1));
+    bool const isToTheEnd = dash >= 0 && text.endsWith('-');
+    if (dash == 0 && last > 0)
+    {
+        range.first = std::max<qint64>(0, size - last);
+    }
+    else if (dash > 0 && first >= 0 && (isToTheEnd || last >= first))
+    {
+        range.first = first;
+        range.end = isToTheEnd ? size : std::min(size, last + 1);
+    }
+    else
+    {
+        return RangeKind::Whole;
+    }
+    return range.first < size ? RangeKind::Part : RangeKind::Unsatisfiable;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,152 @@
+// ServeVerb.cpp: "serve": a test server for a publisher's dry run.
+
+#include "Publisher/serve/ServeVerb.h"
+
+#include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
+#include "Publisher/serve/FileServer.h"
+
+#include <QEventLoop>
+#include <QFile>
+#include <QSocketNotifier>
+
+#include <cerrno>
+#include <memory>
+#include <ostream>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr std::uint64_t MOST_PEM_BYTES = 1 << 20;
+
+struct Options
+{
+    std::string folder;
+    std::uint16_t port = 0;
+    std::vector<std::string> faults;
+    std::vector<std::string> tls;
+    bool endsWithInput = false;
+};
+
+ServerCertificate ReadCertificate(QString const& certificateFile, QString const& keyFile)
+{
+    QString const mend = QStringLiteral("give the files of the server: certificate chain, then key, both PEM");
+    QByteArray const key = ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend);
+    ServerCertificate certificate;
+    certificate.chain =
+        QSslCertificate::fromData(ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend), QSsl::Pem);
+    if (certificate.chain.isEmpty())
+    {
+        throw Refusal({certificateFile, 0, 0, QStringLiteral("holds no certificate"), mend});
+    }
+    for (QSsl::KeyAlgorithm const algorithm : {QSsl::Rsa, QSsl::Ec})
+    {
+        certificate.key = QSslKey(key, algorithm);
+        if (!certificate.key.isNull())
+        {
+            return certificate;
+        }
+    }
+    throw Refusal({keyFile, 0, 0, QStringLiteral("holds no RSA or EC key without a password"), mend});
+}
+
+std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
+{
+    std::vector<ServerFault> faults;
+    for (std::string const& text : texts)
+    {
+        std::optional<ServerFault> fault = ParseServerFault(QString::fromStdString(text));
+        if (!fault)
+        {
+            throw Refusal({{},
+                           0,
+                           0,
+                           QStringLiteral("--fault: \"%1\" is no fault").arg(QString::fromStdString(text)),
+                           QStringLiteral("say truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or "
+                                          "drop:NAME:BYTES")});
+        }
+        faults.push_back(std::move(*fault));
+    }
+    return faults;
+}
+
+/// Ends the loop when standard input does.
+void EndWithInput(QSocketNotifier& notifier, QEventLoop& loop)
+{
+    QObject::connect(&notifier, &QSocketNotifier::activated, &loop,
+                     [&notifier, &loop]
+                     {
+                         char bytes[256];
+                         ssize_t const count = ::read(STDIN_FILENO, bytes, sizeof bytes);
+                         if (count == 0 || (count < 0 && errno != EINTR && errno != EAGAIN))
+                         {
+                             notifier.setEnabled(false);
+                             loop.quit();
+                         }
+                     });
+}
+
+ExitStatus Serve(Console const& console, Options const& options)
+{
+    QString const name = QString::fromStdString(options.folder);
+    Engine::UniqueFd folder(::open(QFile::encodeName(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (!folder)
+    {
+        RefuseFile(name, QStringLiteral("cannot be served"), errno, QStringLiteral("name the folder of the feed"));
+    }
+    std::optional<ServerCertificate> certificate;
+    if (!options.tls.empty())
+    {
+        certificate =
+            ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
+    }
+    FileServer server(std::move(folder), ParseFaults(options.faults), std::move(certificate),
+                      [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
+    if (!server.Listen(options.port))
+    {
+        throw Refusal({{},
+                       0,
+                       0,
+                       QStringLiteral("port %1 cannot be listened on").arg(options.port),
+                       QStringLiteral("leave --port away to get a free one")});
+    }
+    console.Print(server.Address());
+    console.out.stream.flush();
+    QEventLoop loop;
+    std::optional<QSocketNotifier> notifier;
+    if (options.endsWithInput)
+    {
+        notifier.emplace(STDIN_FILENO, QSocketNotifier::Read);
+        EndWithInput(*notifier, loop);
+    }
+    loop.exec();
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddServe(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *program.add_subcommand(
+        "serve", "Serves a folder to this computer only, for a dry run of a feed, until it is interrupted; the first "
+                 "line printed is the address");
+    verb.add_option("FOLDER", options->folder, "Folder to serve; links in it are not followed")->required();
+    verb.add_option("--port", options->port, "Port to listen on; any free one without this");
+    verb.add_option("--fault", options->faults,
+                    "What goes wrong with a file, in each answer: truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, "
+                    "status:NAME:CODE or drop:NAME:BYTES (the connection is reset)")
+        ->allow_extra_args(false);
+    verb.add_option("--tls", options->tls, "Serve https with this certificate chain and key, two PEM files")
+        ->type_name("CERTIFICATE KEY")
+        ->expected(2);
+    verb.add_flag("--end-with-input", options->endsWithInput, "End when standard input does, for scripts");
+    SetWork(verb, context, [&context, options] { return Serve(context.console, *options); });
+}
+
+} // namespace Pelnar::Publisher

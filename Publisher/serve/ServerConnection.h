@@ -1,0 +1,48 @@
+// ServerConnection.h: one connection of the test server: a request, its answer, the fault that was asked for.
+// Thread: the main thread. Ownership: deletes itself when the connection ends; the folder outlives it.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Publisher/serve/FileServer.h"
+#include "Publisher/serve/HttpRequest.h"
+
+#include <QSslSocket>
+#include <QTimer>
+
+namespace Pelnar::Publisher
+{
+
+class ServerConnection : public QObject
+{
+    Q_OBJECT
+
+public:
+    ServerConnection(int folderFd, std::vector<ServerFault> const& faults, ServerLog const& log, QObject* parent);
+
+    /// Takes over the connection \a descriptor, under TLS with a certificate.
+    void Start(qintptr descriptor, std::optional<ServerCertificate> const& certificate);
+
+private:
+    void Read();
+    void Answer(HttpRequest const& request);
+    void AnswerFile(HttpRequest const& request, Engine::UniqueFd file);
+    void AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders = {});
+    void SendBody();
+    void SendBytes(qint64 most);
+    void End();
+    void Reset();
+    ServerFault const* FaultFor(QString const& path) const;
+
+    int m_folderFd;
+    std::vector<ServerFault> const& m_faults;
+    ServerLog const& m_log;
+    QSslSocket m_socket;
+    QTimer m_pace;
+    QByteArray m_head;
+    Engine::UniqueFd m_file;
+    ByteRange m_rest;
+    ServerFault const* m_fault = nullptr;
+    qint64 m_untilFault = -1; ///< bytes of the body until the connection ends; -1 for no such fault
+};
+
+} // namespace Pelnar::Publisher

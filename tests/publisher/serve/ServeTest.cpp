@@ -1,0 +1,248 @@
+// ServeTest.cpp: the verb "serve", as a program that a client talks to byte by byte.
+
+#include "tests/installer/InstallerFixture.h"
+#include "tests/publisher/support/AppcastTool.h"
+#include "tests/support/TestCertificates.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <QSslSocket>
+#include <QUrl>
+
+#include <unistd.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+constexpr int PATIENCE_MS = 30000;
+
+/// The program serving a folder, until the object goes.
+class Server
+{
+public:
+    explicit Server(QStringList const& arguments)
+    {
+        m_process.start(AppcastProgram(),
+                        QStringList{QStringLiteral("serve"), QStringLiteral("--end-with-input")} + arguments);
+        while (!m_process.canReadLine() && m_process.waitForReadyRead(PATIENCE_MS))
+        {
+        }
+        m_address = QUrl(QString::fromUtf8(m_process.readLine().trimmed()));
+    }
+    ~Server() { EXPECT_EQ(End(), 0); }
+
+    QUrl const& Address() const { return m_address; }
+    int End()
+    {
+        m_process.closeWriteChannel();
+        EXPECT_TRUE(m_process.state() == QProcess::NotRunning || m_process.waitForFinished(PATIENCE_MS));
+        return m_process.exitCode();
+    }
+    std::string Log()
+    {
+        End();
+        return m_process.readAllStandardError().toStdString();
+    }
+
+private:
+    QProcess m_process;
+    QUrl m_address;
+};
+
+struct Answer
+{
+    std::string head;
+    std::string body;
+
+    std::string Status() const { return head.substr(0, head.find("\r\n")); }
+    bool Has(std::string const& line) const { return head.find("\r\n" + line + "\r\n") != std::string::npos; }
+};
+
+Answer Divide(std::string const& bytes)
+{
+    std::size_t const end = bytes.find("\r\n\r\n");
+    return end == std::string::npos ? Answer{bytes, {}} : Answer{bytes.substr(0, end + 2), bytes.substr(end + 4)};
+}
+
+/// Sends \a request as it is and reads until the connection ends.
+Answer Ask(QUrl const& server, QByteArray const& request)
+{
+    QTcpSocket socket;
+    socket.connectToHost(server.host(), quint16(server.port()));
+    EXPECT_TRUE(socket.waitForConnected(PATIENCE_MS));
+    socket.write(request);
+    std::string bytes;
+    while (socket.state() == QAbstractSocket::ConnectedState && socket.waitForReadyRead(PATIENCE_MS))
+    {
+        bytes += socket.readAll().toStdString();
+    }
+    bytes += socket.readAll().toStdString();
+    return Divide(bytes);
+}
+
+Answer Get(QUrl const& server, QByteArray const& path, QByteArray const& headers = {})
+{
+    return Ask(server, "GET " + path + " HTTP/1.1\r\nHost: x\r\n" + headers + "\r\n");
+}
+
+class Serve : public ::testing::Test
+{
+protected:
+    Serve()
+    {
+        for (std::size_t i = 0; i < m_content.size(); ++i)
+        {
+            m_content[i] = static_cast<char>(i * 31 >> 4);
+        }
+        WriteFile(m_folder.Path() + "/app_1.0.zip", m_content);
+        WriteFile(m_folder.Path() + "/appcast.xml", "<rss/>");
+    }
+    QString Folder() const { return QString::fromStdString(m_folder.Path()); }
+    QStringList With(char const* fault) const { return {Folder(), QStringLiteral("--fault"), QLatin1String(fault)}; }
+
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
+    std::string m_content = std::string(300000, '\0');
+    Workspace m_folder;
+};
+
+TEST_F(Serve, WholeFileHeadAndPart)
+{
+    Server server({Folder()});
+    EXPECT_EQ(server.Address().host(), QStringLiteral("127.0.0.1"));
+    Answer const whole = Get(server.Address(), "/app_1.0.zip");
+    EXPECT_EQ(whole.Status(), "HTTP/1.1 200 OK");
+    EXPECT_TRUE(whole.Has("Content-Length: 300000")) << whole.head;
+    EXPECT_TRUE(whole.body == m_content);
+    Answer const head = Ask(server.Address(), "HEAD /appcast.xml HTTP/1.1\r\n\r\n");
+    EXPECT_TRUE(head.Has("Content-Length: 6")) << head.head;
+    EXPECT_TRUE(head.Has("Content-Type: application/xml")) << head.head;
+    EXPECT_EQ(head.body, "");
+    Answer const part = Get(server.Address(), "/app_1.0.zip", "Range: bytes=100000-199999\r\n");
+    EXPECT_EQ(part.Status(), "HTTP/1.1 206 Partial Content");
+    EXPECT_TRUE(part.Has("Content-Range: bytes 100000-199999/300000")) << part.head;
+    EXPECT_TRUE(part.body == m_content.substr(100000, 100000));
+    Answer const beyond = Get(server.Address(), "/app_1.0.zip", "Range: bytes=300000-\r\n");
+    EXPECT_EQ(beyond.Status(), "HTTP/1.1 416 Range Not Satisfiable");
+    EXPECT_TRUE(beyond.Has("Content-Range: bytes */300000")) << beyond.head;
+    EXPECT_EQ(server.Log(), "GET /app_1.0.zip 200 300000 bytes\nHEAD /appcast.xml 200 6 bytes\n"
+                            "GET /app_1.0.zip 206 100000 bytes\nGET /app_1.0.zip 416\n");
+}
+
+TEST_F(Serve, PartOfAFileThatChangedIsTheWholeFile)
+{
+    Server server({Folder()});
+    std::string const head = Get(server.Address(), "/appcast.xml").head;
+    std::size_t const start = head.find("ETag: ") + 6;
+    QByteArray const tag = QByteArray::fromStdString(head.substr(start, head.find("\r\n", start) - start));
+    QByteArray const condition = "Range: bytes=1-2\r\nIf-Range: " + tag + "\r\n";
+    EXPECT_EQ(Get(server.Address(), "/appcast.xml", condition).body, "rs");
+    WriteFile(m_folder.Path() + "/appcast.xml", "<rss />");
+    EXPECT_EQ(Get(server.Address(), "/appcast.xml", condition).body, "<rss />");
+}
+
+TEST_F(Serve, NothingButPlainFilesOfTheFolderIsServed)
+{
+    WriteFile(m_folder.Path() + "/../pelnar-serve-secret", "secret");
+    m_folder.Put({{"inner", 'd', {}, 0755}, {"inner/x", 'f', "inside"}});
+    ASSERT_EQ(::symlink("/etc/hostname", (m_folder.Path() + "/link").c_str()), 0);
+    Server server({Folder()});
+    EXPECT_EQ(Get(server.Address(), "/inner/x").body, "inside");
+    for (char const* const path : {"/", "/inner", "/absent", "/link", "/../pelnar-serve-secret",
+                                   "/%2e%2e/pelnar-serve-secret", "/inner/../../pelnar-serve-secret", "//etc/hostname"})
+    {
+        EXPECT_EQ(Get(server.Address(), path).Status(), "HTTP/1.1 404 Not Found") << path;
+    }
+    EXPECT_EQ(Ask(server.Address(), "DELETE /inner/x HTTP/1.1\r\n\r\n").Status(), "HTTP/1.1 405 Method Not Allowed");
+    EXPECT_EQ(Ask(server.Address(), "nonsense\r\n\r\n").Status(), "HTTP/1.1 400 Bad Request");
+    EXPECT_EQ(Ask(server.Address(), QByteArray(70000, 'x')).Status(), "HTTP/1.1 400 Bad Request");
+    ::unlink((m_folder.Path() + "/../pelnar-serve-secret").c_str());
+}
+
+TEST_F(Serve, FaultsOnDemandHitTheirFileOnly)
+{
+    Server truncated(With("truncate:app_1.0.zip:100000"));
+    Answer const cut = Get(truncated.Address(), "/app_1.0.zip");
+    EXPECT_TRUE(cut.Has("Content-Length: 300000")) << cut.head;
+    EXPECT_TRUE(cut.body == m_content.substr(0, 100000)) << cut.body.size();
+    EXPECT_TRUE(Get(truncated.Address(), "/app_1.0.zip", "Range: bytes=100000-\r\n").body ==
+                m_content.substr(100000, 100000));
+    EXPECT_EQ(Get(truncated.Address(), "/appcast.xml").body, "<rss/>");
+
+    Server status(With("status:appcast.xml:503"));
+    EXPECT_EQ(Get(status.Address(), "/appcast.xml").Status().substr(0, 12), "HTTP/1.1 503");
+    EXPECT_TRUE(Get(status.Address(), "/app_1.0.zip").body == m_content);
+
+    Server dropped(With("drop:appcast.xml:0"));
+    EXPECT_EQ(Get(dropped.Address(), "/appcast.xml").head, "");
+    Server reset(With("drop:app_1.0.zip:1000"));
+    Answer const lost = Get(reset.Address(), "/app_1.0.zip");
+    EXPECT_LE(lost.body.size(), 1000u);
+}
+
+TEST_F(Serve, SlowFileComesInPieces)
+{
+    Server server(With("slow:app_1.0.zip:1000"));
+    QTcpSocket socket;
+    socket.connectToHost(server.Address().host(), quint16(server.Address().port()));
+    ASSERT_TRUE(socket.waitForConnected(PATIENCE_MS));
+    socket.write("GET /app_1.0.zip HTTP/1.1\r\n\r\n");
+    std::string bytes;
+    while (Divide(bytes).body.empty() && socket.waitForReadyRead(PATIENCE_MS))
+    {
+        bytes += socket.readAll().toStdString();
+    }
+    EXPECT_FALSE(Divide(bytes).body.empty());
+    EXPECT_LT(Divide(bytes).body.size(), m_content.size());
+    EXPECT_EQ(socket.state(), QAbstractSocket::ConnectedState);
+}
+
+TEST_F(Serve, HttpsWithACertificate)
+{
+    TestCertificates certificates;
+    certificates.Signed("127.0.0.1");
+    TrustedAuthority const trusted(certificates.Authority());
+    Server server({Folder(), QStringLiteral("--tls"), certificates.CertificateFile(), certificates.KeyFile()});
+    EXPECT_EQ(server.Address().scheme(), QStringLiteral("https"));
+    QSslSocket socket;
+    socket.connectToHostEncrypted(server.Address().host(), quint16(server.Address().port()));
+    ASSERT_TRUE(socket.waitForEncrypted(PATIENCE_MS)) << socket.errorString().toStdString();
+    socket.write("GET /app_1.0.zip HTTP/1.1\r\n\r\n");
+    std::string bytes;
+    while (Divide(bytes).body.size() < m_content.size() && socket.waitForReadyRead(PATIENCE_MS))
+    {
+        bytes += socket.readAll().toStdString();
+    }
+    EXPECT_TRUE(Divide(bytes).body == m_content);
+}
+
+TEST_F(Serve, WhatCannotBeServedIsRefused)
+{
+    WriteFile(m_folder.Path() + "/text", "no certificate");
+    QString const text = Folder() + QStringLiteral("/text");
+    struct Row
+    {
+        QStringList arguments;
+        char const* said;
+    };
+    Row const rows[] = {
+        {{Folder() + QStringLiteral("/absent")}, "cannot be served: No such file"},
+        {{text}, "cannot be served: Not a directory"},
+        {With("burn:x:1"), "--fault: \"burn:x:1\" is no fault"},
+        {{Folder(), QStringLiteral("--tls"), text, text}, "holds no certificate"},
+        {{Folder(), QStringLiteral("--port"), QStringLiteral("70000")}, "--port"},
+    };
+    for (Row const& row : rows)
+    {
+        ToolRun const run = RunTool(QStringList(QStringLiteral("serve")) + row.arguments);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_NE(run.err.find(row.said), std::string::npos) << run.err;
+    }
+}
+
+} // namespace
+} // namespace Pelnar::Testing

@@ -1,10 +1,13 @@
 // DemoMain.cpp: pelnar-demo, a small real host application of the update checker, for people and for scripts.
-// It keeps user defaults of its own, which go with it.
+// From a bundle it is an application like any other, whose name and version are the bundle's; from elsewhere it keeps
+// user defaults of its own, which go with it.
 
+#include "Demo/DemoBundle.h"
 #include "Demo/DemoOptions.h"
 #include "Demo/DemoWindow.h"
-#include "Demo/DialogGallery.h"
 #include "Demo/EngineDefaults.h"
+#include "Demo/NamedAuthorities.h"
+#include "Demo/ScriptRun.h"
 #include "Demo/WindowCamera.h"
 #include "Foundation/IsolatedUserDefaults.h"
 #include "HostFramework/Reference/ReferenceApplication.h"
@@ -18,6 +21,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <optional>
 #include <stdexcept>
 
 namespace Pelnar::Demo
@@ -54,34 +58,6 @@ void FillNagScreen(std::shared_ptr<NagScreens> const& nagScreens, DemoOptions co
                      [](QString const&, QUrl const& link) { QDesktopServices::openUrl(link); });
 }
 
-void StartScript(App::ReferenceApplication& application, DemoWindow& window, WindowCamera& camera, Script script)
-{
-    auto const finish = [&application, &window, &camera]
-    {
-        camera.TakePicture(window);
-        application.TryToQuit();
-    };
-    switch (script)
-    {
-    case Script::None:
-        break;
-    case Script::CheckOnce:
-        // One more turn of the event loop, for the picture of a window that opened last.
-        QObject::connect(&window, &DemoWindow::CheckEnded, &window,
-                         [&window, finish] { QTimer::singleShot(0, &window, finish); });
-        QTimer::singleShot(0, &window, &DemoWindow::CheckForUpdates);
-        break;
-    case Script::ShowDialogs:
-        QTimer::singleShot(0, &window,
-                           [&application, &window, finish]
-                           {
-                               ShowEveryDialog(application, &window);
-                               QTimer::singleShot(0, &window, finish);
-                           });
-        break;
-    }
-}
-
 int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
 {
     Util::SetOSVersion(options.systemVersion);
@@ -99,14 +75,19 @@ int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
                                                       : WindowCamera::AfterPicture::DismissDialogs);
     DemoWindow window(options);
     window.show();
-    StartScript(application, window, camera, options.script);
+    ScriptRun script(application, window, camera, options);
+    script.Start();
     int const status = QCoreApplication::exec();
-    return camera.HasWrittenAll() ? status : EXIT_FAILURE;
+    return camera.HasWrittenAll() && script.IsComplete() ? status : EXIT_FAILURE;
 }
 
 int Main(int argc, char** argv)
 {
-    Foundation::IsolatedUserDefaults const defaults;
+    std::optional<Foundation::IsolatedUserDefaults> defaults;
+    if (!RunsFromBundle())
+    {
+        defaults.emplace();
+    }
     // Qt gets the program's name only: it would take --platform for an option of its own.
     int qtArgumentCount = 1;
     App::ReferenceApplication application(qtArgumentCount, argv);
@@ -119,7 +100,9 @@ int Main(int argc, char** argv)
     }
     try
     {
-        return RunDemo(application, ParseDemoOptions(arguments));
+        TrustNamedAuthorities();
+        return RunDemo(application, ParseDemoOptions(ArgumentsOrEnvironment(arguments),
+                                                     ReadBundle().value_or(UnbundledApplication())));
     }
     catch (std::runtime_error const& error)
     {

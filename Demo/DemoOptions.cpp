@@ -4,6 +4,7 @@
 #include "HostFramework/VersionText.h"
 
 #include <QCommandLineParser>
+#include <QProcess>
 
 #include <cstdio>
 #include <cstdlib>
@@ -15,7 +16,7 @@ namespace Pelnar::Demo
 namespace
 {
 
-App::Customization const DEFAULT_CUSTOMIZATION{"Pelnar Demo", Core::Version(5, 9), "Pelnar", "Demo"};
+constexpr char OPTIONS_VARIABLE[] = "PELNAR_DEMO_OPTIONS";
 
 struct Options
 {
@@ -39,8 +40,14 @@ struct Options
                            QStringLiteral("available|none|later"), QStringLiteral("available")};
     QCommandLineOption scenario{
         QStringLiteral("scenario"),
-        QStringLiteral("Runs by itself and quits: \"check\" makes one check, \"dialogs\" shows every dialog."),
-        QStringLiteral("check|dialogs")};
+        QStringLiteral("Runs by itself and quits: \"check\" makes one check, \"dialogs\" shows every dialog, \"start\" "
+                       "only starts, \"answer\" makes a check and the clicks, \"update\" the same and waits for the "
+                       "update to end the program."),
+        QStringLiteral("check|dialogs|start|answer|update")};
+    QCommandLineOption click{QStringLiteral("click"),
+                             QStringLiteral("A click to make when its window opens, once for each, in this order; by "
+                                            "object names, or by the button's text."),
+                             QStringLiteral("window/button")};
     QCommandLineOption screenshots{QStringLiteral("screenshot-dir"),
                                    QStringLiteral("Leaves a picture of every window that opens in this folder."),
                                    QStringLiteral("folder")};
@@ -75,9 +82,23 @@ Core::Version ParseVersion(QCommandLineParser const& parser, QCommandLineOption 
     return *version;
 }
 
+std::vector<Click> ReadClicks(QCommandLineParser const& parser, Options const& options)
+{
+    std::vector<Click> clicks;
+    for (QString const& text : parser.values(options.click))
+    {
+        int const slash = text.indexOf(QLatin1Char('/'));
+        if (slash < 1 || slash == text.size() - 1)
+        {
+            throw std::runtime_error("--click: \"" + text.toStdString() + "\" is not window/button");
+        }
+        clicks.push_back({text.left(slash), text.mid(slash + 1)});
+    }
+    return clicks;
+}
+
 void ReadHost(QCommandLineParser const& parser, Options const& options, DemoOptions& result)
 {
-    result.customization = DEFAULT_CUSTOMIZATION;
     if (parser.isSet(options.settings))
     {
         result.customization = App::ReadCustomization(parser.value(options.settings));
@@ -107,13 +128,24 @@ void ReadHost(QCommandLineParser const& parser, Options const& options, DemoOpti
 
 } // namespace
 
-DemoOptions ParseDemoOptions(QStringList const& arguments)
+App::Customization UnbundledApplication()
+{
+    return {"Pelnar Demo", Core::Version(5, 9), "Pelnar", "Demo"};
+}
+
+QStringList ArgumentsOrEnvironment(QStringList const& arguments)
+{
+    return arguments.size() > 1 ? arguments
+                                : arguments + QProcess::splitCommand(qEnvironmentVariable(OPTIONS_VARIABLE));
+}
+
+DemoOptions ParseDemoOptions(QStringList const& arguments, App::Customization const& application)
 {
     Options const options;
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("A small host application of the update checker."));
     parser.addOptions({options.settings, options.feed, options.local, options.system, options.platform, options.mode,
-                       options.nag, options.scenario, options.screenshots});
+                       options.nag, options.scenario, options.click, options.screenshots});
     QCommandLineOption const help = parser.addHelpOption();
     if (!parser.parse(arguments))
     {
@@ -131,6 +163,7 @@ DemoOptions ParseDemoOptions(QStringList const& arguments)
     }
 
     DemoOptions result;
+    result.customization = application;
     ReadHost(parser, options, result);
     auto const mode = ModeFromText(parser.value(options.mode));
     if (!mode)
@@ -144,9 +177,18 @@ DemoOptions ParseDemoOptions(QStringList const& arguments)
                                             {QStringLiteral("later"), NagContent::Later}});
     if (parser.isSet(options.scenario))
     {
-        result.script = Choose<Script>(
-            parser, options.scenario,
-            {{QStringLiteral("check"), Script::CheckOnce}, {QStringLiteral("dialogs"), Script::ShowDialogs}});
+        result.script = Choose<Script>(parser, options.scenario,
+                                       {{QStringLiteral("check"), Script::CheckOnce},
+                                        {QStringLiteral("dialogs"), Script::ShowDialogs},
+                                        {QStringLiteral("start"), Script::Start},
+                                        {QStringLiteral("answer"), Script::Answer},
+                                        {QStringLiteral("update"), Script::Update}});
+    }
+    result.clicks = ReadClicks(parser, options);
+    bool const isAnswering = result.script == Script::Answer || result.script == Script::Update;
+    if (isAnswering == result.clicks.empty())
+    {
+        throw std::runtime_error("--click goes with --scenario answer or update, and they with it");
     }
     result.screenshotFolder = parser.value(options.screenshots);
     return result;

@@ -79,6 +79,7 @@ DemoWindow::DemoWindow(DemoOptions const& options)
     layout->addWidget(MakeLabel(tr("Notifications:"), content));
     layout->addWidget(m_lines);
     setCentralWidget(content);
+    AddLine(tr("%1 is running").arg(heading->text()));
 }
 
 void DemoWindow::CheckForUpdates()

@@ -15,4 +15,13 @@ void SetFeedPlatform(QString const& platform)
     }
 }
 
+QString BundleText(QString const& key)
+{
+    @autoreleasepool
+    {
+        id const value = [[[NSBundle mainBundle] infoDictionary] objectForKey:Foundation::ToNSString(key)];
+        return [value isKindOfClass:[NSString class]] ? Foundation::ToQString(value) : QString();
+    }
+}
+
 } // namespace Pelnar::Demo

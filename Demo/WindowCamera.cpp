@@ -5,10 +5,12 @@
 #include <QEvent>
 #include <QPixmap>
 #include <QPointer>
+#include <QProgressBar>
 #include <QTimer>
 #include <QWidget>
 
 #include <cstdio>
+#include <memory>
 
 namespace Pelnar::Demo
 {
@@ -47,13 +49,44 @@ bool WindowCamera::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-void WindowCamera::HandleShown(QWidget& window) const
+void WindowCamera::HandleShown(QWidget& window)
 {
     TakePicture(window);
     if (m_afterPicture == AfterPicture::DismissDialogs && qobject_cast<QDialog*>(&window))
     {
         window.close();
+        return;
     }
+    TakeAgainAtHalf(window);
+    Q_EMIT WindowShown(&window);
+}
+
+void WindowCamera::TakeAgainAtHalf(QWidget& window)
+{
+    auto* const bar = window.findChild<QProgressBar*>();
+    if (!bar)
+    {
+        return;
+    }
+    auto const connection = std::make_shared<QMetaObject::Connection>();
+    *connection = connect(bar, &QProgressBar::valueChanged, this,
+                          [this, bar, connection, shown = QPointer<QWidget>(&window)](int value)
+                          {
+                              if (bar->maximum() == 0 || value * 2 < bar->maximum())
+                              {
+                                  return;
+                              }
+                              disconnect(*connection);
+                              // Later, when the texts beside the bar have been changed as well.
+                              QTimer::singleShot(0, this,
+                                                 [this, shown]
+                                                 {
+                                                     if (shown)
+                                                     {
+                                                         TakePicture(*shown);
+                                                     }
+                                                 });
+                          });
 }
 
 } // namespace Pelnar::Demo

@@ -31,11 +31,17 @@ public:
     /// False when a picture could not be written.
     [[nodiscard]] bool HasWrittenAll() const { return m_hasWrittenAll; }
 
+Q_SIGNALS:
+    /// The window has been shown, and its picture taken.
+    void WindowShown(QWidget* window);
+
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void HandleShown(QWidget& window) const;
+    void HandleShown(QWidget& window);
+    /// A window that opens with an empty progress bar is more telling once half is done.
+    void TakeAgainAtHalf(QWidget& window);
 
     QString m_folder;
     AfterPicture m_afterPicture;

@@ -303,7 +303,7 @@ std::string DemoFailure(QStringList const& arguments)
 {
     try
     {
-        ParseDemoOptions(Words("pelnar-demo") + arguments);
+        ParseDemoOptions(Words("pelnar-demo") + arguments, UnbundledApplication());
     }
     catch (std::runtime_error const& error)
     {
@@ -312,9 +312,14 @@ std::string DemoFailure(QStringList const& arguments)
     return "nothing was thrown";
 }
 
+DemoOptions Options(char const* arguments)
+{
+    return ParseDemoOptions(Words("pelnar-demo") + Words(arguments), UnbundledApplication());
+}
+
 TEST(DemoLine, HasDefaults)
 {
-    DemoOptions const options = ParseDemoOptions(Words("pelnar-demo"));
+    DemoOptions const options = Options("");
     EXPECT_EQ(options.customization.displayName, "Pelnar Demo");
     EXPECT_TRUE(options.customization.applicationVersion == Version(5, 9));
     EXPECT_TRUE(options.links.empty());
@@ -326,9 +331,9 @@ TEST(DemoLine, HasDefaults)
 
 TEST(DemoLine, TakesEveryOption)
 {
-    DemoOptions const options = ParseDemoOptions(
-        Words("pelnar-demo --feed https://localhost/f.xml --local-version 6.1 --system-version 12 --platform macos "
-              "--mode automatic --nag later --scenario check --screenshot-dir /tmp/x"));
+    DemoOptions const options =
+        Options("--feed https://localhost/f.xml --local-version 6.1 --system-version 12 --platform macos "
+                "--mode automatic --nag later --scenario check --screenshot-dir /tmp/x");
     EXPECT_EQ(options.links.at(URLKeys::SPARKLE_APPCAST_URL), QStringLiteral("https://localhost/f.xml"));
     EXPECT_TRUE(options.customization.applicationVersion == Version(6, 1));
     EXPECT_EQ(options.systemVersion, QStringLiteral("12"));
@@ -337,7 +342,40 @@ TEST(DemoLine, TakesEveryOption)
     EXPECT_EQ(options.nagContent, NagContent::Later);
     EXPECT_EQ(options.script, Script::CheckOnce);
     EXPECT_EQ(options.screenshotFolder, QStringLiteral("/tmp/x"));
-    EXPECT_EQ(ParseDemoOptions(Words("pelnar-demo --scenario dialogs --nag none")).script, Script::ShowDialogs);
+    EXPECT_EQ(Options("--scenario dialogs --nag none").script, Script::ShowDialogs);
+    EXPECT_EQ(Options("--scenario start").script, Script::Start);
+    EXPECT_TRUE(Options("--scenario start").clicks.empty());
+}
+
+TEST(DemoLine, TakesClicksInTheirOrder)
+{
+    DemoOptions const options = Options("--scenario update --click first/a/b --click second/c");
+    EXPECT_EQ(options.script, Script::Update);
+    ASSERT_EQ(options.clicks.size(), 2u);
+    EXPECT_EQ(options.clicks[0].window, QStringLiteral("first"));
+    EXPECT_EQ(options.clicks[0].button, QStringLiteral("a/b"));
+    EXPECT_EQ(options.clicks[1].window, QStringLiteral("second"));
+    EXPECT_EQ(Options("--scenario answer --click a/b").script, Script::Answer);
+}
+
+TEST(DemoLine, IsWhatTheBundleSaysWithoutOptions)
+{
+    App::Customization bundled;
+    bundled.displayName = "Bundled";
+    bundled.applicationVersion = Version(7, 1);
+    DemoOptions const options = ParseDemoOptions(Words("pelnar-demo"), bundled);
+    EXPECT_EQ(options.customization.displayName, "Bundled");
+    EXPECT_TRUE(options.customization.applicationVersion == Version(7, 1));
+}
+
+TEST(DemoLine, ComesFromTheEnvironmentWhenNobodyGivesOne)
+{
+    qputenv("PELNAR_DEMO_OPTIONS", "--scenario start --screenshot-dir \"/tmp/a b\"");
+    EXPECT_EQ(ArgumentsOrEnvironment(Words("pelnar-demo")),
+              Words("pelnar-demo --scenario start --screenshot-dir") + QStringList{QStringLiteral("/tmp/a b")});
+    EXPECT_EQ(ArgumentsOrEnvironment(Words("pelnar-demo --nag none")), Words("pelnar-demo --nag none"));
+    qunsetenv("PELNAR_DEMO_OPTIONS");
+    EXPECT_EQ(ArgumentsOrEnvironment(Words("pelnar-demo")), Words("pelnar-demo"));
 }
 
 TEST(DemoLine, OptionsGoBeforeTheSettingsFile)
@@ -349,13 +387,13 @@ TEST(DemoLine, OptionsGoBeforeTheSettingsFile)
                "[Links]\nSPARKLE_APPCAST_URL=https://localhost/file.xml\n");
     file.close();
     QStringList const fromFile = Words("pelnar-demo --settings") + QStringList{file.fileName()};
-    EXPECT_EQ(ParseDemoOptions(fromFile).customization.displayName, "From File");
-    EXPECT_TRUE(ParseDemoOptions(fromFile).customization.applicationVersion == Version(4, 0));
-    EXPECT_EQ(ParseDemoOptions(fromFile).links.at(URLKeys::SPARKLE_APPCAST_URL),
+    EXPECT_EQ(ParseDemoOptions(fromFile, UnbundledApplication()).customization.displayName, "From File");
+    EXPECT_TRUE(ParseDemoOptions(fromFile, UnbundledApplication()).customization.applicationVersion == Version(4, 0));
+    EXPECT_EQ(ParseDemoOptions(fromFile, UnbundledApplication()).links.at(URLKeys::SPARKLE_APPCAST_URL),
               QStringLiteral("https://localhost/file.xml"));
     QStringList const both = fromFile + Words("--local-version 5.0 --feed https://localhost/line.xml");
-    EXPECT_TRUE(ParseDemoOptions(both).customization.applicationVersion == Version(5, 0));
-    EXPECT_EQ(ParseDemoOptions(both).links.at(URLKeys::SPARKLE_APPCAST_URL),
+    EXPECT_TRUE(ParseDemoOptions(both, UnbundledApplication()).customization.applicationVersion == Version(5, 0));
+    EXPECT_EQ(ParseDemoOptions(both, UnbundledApplication()).links.at(URLKeys::SPARKLE_APPCAST_URL),
               QStringLiteral("https://localhost/line.xml"));
 }
 
@@ -367,7 +405,12 @@ TEST(DemoLine, BadOnesAreRefusedWithASentence)
     EXPECT_EQ(DemoFailure(Words("--platform x")), "--platform: \"x\" is not one of macos|linux");
     EXPECT_EQ(DemoFailure(Words("--mode x")), "--mode: \"x\" is not one of user|automatic|silent");
     EXPECT_EQ(DemoFailure(Words("--nag x")), "--nag: \"x\" is not one of available|none|later");
-    EXPECT_EQ(DemoFailure(Words("--scenario x")), "--scenario: \"x\" is not one of check|dialogs");
+    EXPECT_EQ(DemoFailure(Words("--scenario x")), "--scenario: \"x\" is not one of check|dialogs|start|answer|update");
+    EXPECT_EQ(DemoFailure(Words("--scenario update --click x/")), "--click: \"x/\" is not window/button");
+    for (char const* const line : {"--scenario update", "--scenario start --click a/b", "--click a/b"})
+    {
+        EXPECT_EQ(DemoFailure(Words(line)), "--click goes with --scenario answer or update, and they with it");
+    }
     EXPECT_EQ(DemoFailure(Words("more")), "unexpected argument \"more\"");
     EXPECT_EQ(DemoFailure(Words("--none")), "Unknown option 'none'.");
 }

@@ -48,6 +48,7 @@ protected:
 
 QString const WINDOW = QStringLiteral("PelnarDemoWindow.png");
 QString const NAG = QStringLiteral("NagScreen_major_update.png");
+std::string const RUNNING = "Pelnar Demo 5.9 is running";
 std::string const OVER = "The check is over";
 using Lines = std::vector<std::string>;
 
@@ -64,7 +65,7 @@ TEST_F(DemoProgram, ListsTheNotificationsOfAnAutomaticCheck)
 {
     ProgramResult const result = Check("5.10", "automatic", "available");
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_EQ(result.lines, (Lines{"Checking for updates (automatic)", "OnUpdateFound current=5.9 remote=5.10",
+    EXPECT_EQ(result.lines, (Lines{RUNNING, "Checking for updates (automatic)", "OnUpdateFound current=5.9 remote=5.10",
                                    "OnUpdateDialogOpening", "OnUpdateDialogClosed", OVER}));
     EXPECT_TRUE(Pictures().contains(WINDOW));
 }
@@ -73,27 +74,28 @@ TEST_F(DemoProgram, AMajorUpdateShowsTheNagScreenAndTellsNobody)
 {
     ProgramResult const result = Check("6.0", "automatic", "available");
     EXPECT_EQ(result.status, 0) << result.errors;
-    EXPECT_EQ(result.lines, (Lines{"Checking for updates (automatic)", OVER}));
+    EXPECT_EQ(result.lines, (Lines{RUNNING, "Checking for updates (automatic)", OVER}));
     EXPECT_EQ(Pictures(), (QStringList{NAG, WINDOW}));
 }
 
 TEST_F(DemoProgram, ASilentMajorUpdateShowsNoNagScreen)
 {
     ProgramResult const result = Check("6.0", "silent", "available");
-    EXPECT_EQ(result.lines, (Lines{"Checking for updates (silent)", OVER}));
+    EXPECT_EQ(result.lines, (Lines{RUNNING, "Checking for updates (silent)", OVER}));
     EXPECT_EQ(Pictures(), (QStringList{WINDOW}));
 }
 
 TEST_F(DemoProgram, AMajorUpdateWithoutNagContentTakesTheWayOfAnyOther)
 {
     ProgramResult const result = Check("6.0", "silent", "none");
-    EXPECT_EQ(result.lines, (Lines{"Checking for updates (silent)", "OnUpdateFound current=5.9 remote=6.0", OVER}));
+    EXPECT_EQ(result.lines,
+              (Lines{RUNNING, "Checking for updates (silent)", "OnUpdateFound current=5.9 remote=6.0", OVER}));
 }
 
 TEST_F(DemoProgram, AMajorUpdateWaitsForNagContentThatComesLater)
 {
     ProgramResult const result = Check("6.0", "automatic", "later");
-    EXPECT_EQ(result.lines, (Lines{"Checking for updates (automatic)", OVER}));
+    EXPECT_EQ(result.lines, (Lines{RUNNING, "Checking for updates (automatic)", OVER}));
     EXPECT_EQ(Pictures(), (QStringList{NAG, WINDOW}));
 }
 

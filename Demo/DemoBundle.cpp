@@ -1,0 +1,39 @@
+#include "Demo/DemoBundle.h"
+
+#include "Demo/EngineDefaults.h"
+#include "HostFramework/VersionText.h"
+
+#include <QFileInfo>
+
+#include <stdexcept>
+
+namespace Pelnar::Demo
+{
+
+bool RunsFromBundle()
+{
+    QString const folder = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
+    return QFileInfo(folder + QStringLiteral("/Resources/Info-gnustep.plist")).isFile();
+}
+
+std::optional<App::Customization> ReadBundle()
+{
+    if (!RunsFromBundle())
+    {
+        return std::nullopt;
+    }
+    QString const versionText = BundleText(QStringLiteral("CFBundleVersion"));
+    auto const version = Util::TryVersionFromString(versionText, QStringLiteral("."));
+    if (!version)
+    {
+        throw std::runtime_error("the bundle's CFBundleVersion \"" + versionText.toStdString() + "\" is not a version");
+    }
+    App::Customization customization;
+    customization.displayName = BundleText(QStringLiteral("CFBundleName")).toStdString();
+    customization.applicationVersion = *version;
+    customization.bundleNameFirstPart = "Pelnar";
+    customization.bundleNameSecondPart = "Demo";
+    return customization;
+}
+
+} // namespace Pelnar::Demo

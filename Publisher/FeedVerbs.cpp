@@ -3,6 +3,7 @@
 #include "Publisher/Verb.h"
 
 #include "Publisher/explain/ExplainVerb.h"
+#include "Publisher/lint/LintVerb.h"
 
 namespace Pelnar::Publisher
 {
@@ -10,6 +11,7 @@ namespace Pelnar::Publisher
 void AddFeedVerbs(CLI::App& program, VerbContext& context)
 {
     AddExplain(program, context);
+    AddLint(program, context);
 }
 
 } // namespace Pelnar::Publisher

@@ -1,0 +1,116 @@
+// DeltaRules.cpp: deltas that no client takes, or that only chance decides between.
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using App::Session::IsOlderVersion;
+using App::Session::IsSameVersion;
+using App::Session::VersionFromStringNoexcept;
+
+/// The parser leaves such a delta out.
+void CheckStarts(LintElement const& item, LintFindings& findings)
+{
+    for (LintElement const& deltas : item.children)
+    {
+        if (!deltas.name.IsFeeds("deltas"))
+        {
+            continue;
+        }
+        for (LintElement const& enclosure : deltas.children)
+        {
+            if (enclosure.name.IsPlain("enclosure") && !enclosure.FeedAttribute("deltaFrom"))
+            {
+                findings.Add(LintRule::DeltaFromMissing, enclosure.place,
+                             QStringLiteral("the delta has no sparkle:deltaFrom"));
+            }
+        }
+    }
+}
+
+void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<LintItem> const& items,
+                LintFindings& findings)
+{
+    QString const& text = delta.item->deltaFrom;
+    Core::Version const from = VersionFromStringNoexcept(text);
+    if (!from.IsValid())
+    {
+        findings.Add(LintRule::DeltaFromUnreadable, delta.Place(),
+                     QStringLiteral("sparkle:deltaFrom is \"%1\"").arg(text));
+        return;
+    }
+    Core::Version const version = VersionFromStringNoexcept(delta.item->versionString);
+    if (version.IsValid() && !IsOlderVersion(from, version))
+    {
+        findings.Add(LintRule::DeltaFromNotOlder, delta.Place(),
+                     QStringLiteral("it leads from %1 to %2").arg(text, delta.item->versionString));
+    }
+    else if (std::none_of(items.begin(), items.end(),
+                          [&](LintItem const& each)
+                          {
+                              Core::Version const base = VersionFromStringNoexcept(each.full.item->versionString);
+                              return base.IsValid() && IsSameVersion(base, from);
+                          }))
+    {
+        findings.Add(LintRule::DeltaBaseMissing, delta.Place(), QStringLiteral("no item has the version %1").arg(text));
+    }
+    if (item.full.item->contentLength != 0 && delta.item->contentLength >= item.full.item->contentLength)
+    {
+        findings.Add(LintRule::DeltaLargerThanFull, delta.Place(),
+                     QStringLiteral("%1 bytes, the whole is %2")
+                         .arg(delta.item->contentLength)
+                         .arg(item.full.item->contentLength));
+    }
+}
+
+void CheckRepetitions(LintItem const& item, LintFindings& findings)
+{
+    for (auto later = item.deltas.begin(); later != item.deltas.end(); ++later)
+    {
+        Core::Version const from = VersionFromStringNoexcept(later->item->deltaFrom);
+        auto const earlier = std::find_if(item.deltas.begin(), later,
+                                          [&](LintDownload const& each)
+                                          {
+                                              Core::Version const other =
+                                                  VersionFromStringNoexcept(each.item->deltaFrom);
+                                              return from.IsValid() && other.IsValid() && IsSameVersion(other, from);
+                                          });
+        if (earlier != later)
+        {
+            findings.Add(LintRule::DeltaFromRepeated, later->Place(),
+                         QStringLiteral("it starts from %1, as the delta in line %2 does")
+                             .arg(later->item->deltaFrom)
+                             .arg(earlier->Place().line));
+        }
+    }
+}
+
+} // namespace
+
+void CheckDeltas(LintSubject const& subject, LintFindings& findings)
+{
+    for (LintElement const* item : subject.itemElements)
+    {
+        CheckStarts(*item, findings);
+    }
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            for (LintDownload const& delta : item.deltas)
+            {
+                CheckDelta(delta, item, platform.items, findings);
+            }
+            CheckRepetitions(item, findings);
+        }
+    }
+}
+
+} // namespace Pelnar::Publisher

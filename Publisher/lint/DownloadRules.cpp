@@ -1,0 +1,186 @@
+// DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
+#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr int MAX_ADDRESS_CHARACTERS = 8192;
+char const* const INSTALLER_MARKS[] = {".sparkle_guided.", ".sparkle_interactive."};
+
+QString Shortened(QString const& text)
+{
+    constexpr int MOST = 80;
+    return text.size() <= MOST ? text : text.left(MOST) + QStringLiteral("...");
+}
+
+bool IsLocalFile(QUrl const& url)
+{
+    return url.scheme() == QLatin1String("file");
+}
+
+/// Of an address that is there.
+void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindings& findings)
+{
+    QString const text = Shortened(url.toString(QUrl::FullyEncoded));
+    bool const isHttp = url.scheme() == QLatin1String("http");
+    // A feed that is read before it is published has relative addresses of files.
+    if (!isHttp && url.scheme() != QLatin1String("https") && !(IsLocalFile(url) && IsLocalFile(feed)))
+    {
+        findings.Add(LintRule::AddressScheme, place, text);
+        return;
+    }
+    if (isHttp && !Engine::IsLoopback(url))
+    {
+        findings.Add(LintRule::AddressInsecure, place, text);
+    }
+    if (!IsLocalFile(url) && url.host().isEmpty())
+    {
+        findings.Add(LintRule::AddressHost, place, text);
+    }
+    if (!url.userInfo().isEmpty())
+    {
+        findings.Add(LintRule::AddressCredentials, place, QStringLiteral("the address at %1").arg(url.host()));
+    }
+    if (url.host(QUrl::FullyEncoded).contains(QLatin1String("xn--")))
+    {
+        findings.Add(LintRule::AddressInternational, place,
+                     QStringLiteral("the host is %1").arg(url.host(QUrl::FullyEncoded)));
+    }
+    if (url.toEncoded().size() > MAX_ADDRESS_CHARACTERS)
+    {
+        findings.Add(LintRule::AddressTooLong, place, text);
+    }
+}
+
+void CheckLength(LintDownload const& download, LintFindings& findings)
+{
+    if (!download.enclosure || download.item->contentLength != 0)
+    {
+        return;
+    }
+    std::optional<QString> const length = download.enclosure->PlainAttribute("length");
+    QString const text = length.value_or(QString()).trimmed();
+    if (text.isEmpty())
+    {
+        findings.Add(LintRule::LengthMissing, download.Place(),
+                     NameOf(*download.item) + QStringLiteral(" has no length"));
+        return;
+    }
+    bool const isDecimal = std::all_of(text.begin(), text.end(),
+                                       [](QChar each) { return each >= QLatin1Char('0') && each <= QLatin1Char('9'); });
+    bool const isZero = isDecimal && text.count(QLatin1Char('0')) == text.size();
+    findings.Add(!isDecimal ? LintRule::LengthUnreadable
+                 : isZero   ? LintRule::LengthZero
+                            : LintRule::LengthTooLarge,
+                 download.Place(),
+                 QStringLiteral("the length of %1 is \"%2\"").arg(NameOf(*download.item), Shortened(text)));
+}
+
+void CheckMarker(LintDownload const& download, LintFindings& findings)
+{
+    QString const name = download.item->fileUrl.fileName(QUrl::FullyDecoded);
+    for (char const* mark : INSTALLER_MARKS)
+    {
+        if (name.contains(QLatin1String(mark), Qt::CaseInsensitive) && !name.contains(QLatin1String(mark)))
+        {
+            findings.Add(LintRule::MarkerCase, download.Place(), name);
+        }
+    }
+}
+
+void CheckSignature(LintDownload const& download, LintFindings& findings)
+{
+    if (!download.enclosure)
+    {
+        return;
+    }
+    std::optional<QString> const signature = download.enclosure->FeedAttribute("edSignature");
+    Engine::Ed25519SignatureBytes bytes;
+    if (!signature || signature->isEmpty())
+    {
+        findings.Add(LintRule::SignatureMissing, download.Place(),
+                     NameOf(*download.item) + QStringLiteral(" has no sparkle:edSignature"));
+    }
+    else if (Engine::ParseSignature(download.item->edSignature.toStdString(), bytes) != Engine::UpdateFault::None)
+    {
+        findings.Add(
+            LintRule::SignatureUnreadable, download.Place(),
+            QStringLiteral("the signature of %1 is \"%2\"").arg(NameOf(*download.item), Shortened(*signature)));
+    }
+}
+
+void CheckDate(LintItem const& item, LintFindings& findings)
+{
+    QString const& text = item.full.item->dateString;
+    if (text.isEmpty())
+    {
+        return;
+    }
+    auto const& children = item.full.element->children;
+    auto const date = std::find_if(children.begin(), children.end(),
+                                   [](LintElement const& child) { return child.name.IsPlain("pubDate"); });
+    LintPlace const place = date == children.end() ? item.full.element->place : date->place;
+    if (App::Session::TextDate(text).isValid())
+    {
+        findings.Add(LintRule::DateTextForm, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
+    }
+    // Qt's reader of the RSS form does not know the names of time zones.
+    else if (QString known = text;
+             !QDateTime::fromString(known.replace(QLatin1String(" GMT"), QLatin1String(" +0000")), Qt::RFC2822Date)
+                  .isValid())
+    {
+        findings.Add(LintRule::DateUnusual, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
+    }
+}
+
+void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings& findings)
+{
+    QUrl const& url = download.item->fileUrl;
+    if (url.isEmpty())
+    {
+        findings.Add(LintRule::AddressMissing, download.Place(),
+                     NameOf(*download.item) + QStringLiteral(" has no valid address"));
+    }
+    else
+    {
+        CheckAddress(url, download.Place(), feed, findings);
+    }
+    CheckLength(download, findings);
+    CheckSignature(download, findings);
+}
+
+} // namespace
+
+void CheckDownloads(LintSubject const& subject, LintFindings& findings)
+{
+    if (subject.address.scheme() == QLatin1String("http") && !Engine::IsLoopback(subject.address))
+    {
+        findings.Add(LintRule::AddressInsecure, {1, 1},
+                     QStringLiteral("the feed is at %1").arg(Shortened(subject.address.toString(QUrl::FullyEncoded))));
+    }
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            CheckDownload(item.full, subject.address, findings);
+            CheckMarker(item.full, findings);
+            CheckDate(item, findings);
+            for (LintDownload const& delta : item.deltas)
+            {
+                CheckDownload(delta, subject.address, findings);
+            }
+        }
+    }
+}
+
+} // namespace Pelnar::Publisher

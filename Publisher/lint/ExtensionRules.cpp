@@ -1,0 +1,166 @@
+// ExtensionRules.cpp: extensions that never reach the host, or not with the value that was meant.
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
+#include "Publisher/choice/FeedChoice.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <map>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+bool IsExtension(QString const& local)
+{
+    return App::Session::ExtensionKey(local).has_value();
+}
+
+/// "pelnar2_Channel", "pelnarChannel": meant for us and not heard.
+bool IsAlmostExtension(QString const& local)
+{
+    return local.startsWith(QLatin1String("pelnar"), Qt::CaseInsensitive) && !IsExtension(local);
+}
+
+/// Where in the feed a name stands.
+enum class NamePlace
+{
+    ItemChild,
+    ItemAttribute,
+    DeltaAttribute,
+    Elsewhere,
+};
+
+void CheckName(LintName const& name, NamePlace where, LintPlace place, LintFindings& findings)
+{
+    if (IsAlmostExtension(name.local))
+    {
+        findings.Add(LintRule::ExtensionPrefix, place,
+                     QStringLiteral("%1 does not begin with %2").arg(name.qualified, App::Session::Extensions::PREFIX));
+    }
+    if (!IsExtension(name.local))
+    {
+        return;
+    }
+    if (!name.namespaceUri.isEmpty())
+    {
+        findings.Add(LintRule::ExtensionNamespace, place,
+                     QStringLiteral("%1 is in the namespace \"%2\"").arg(name.qualified, name.namespaceUri));
+    }
+    else if (where == NamePlace::Elsewhere)
+    {
+        findings.Add(LintRule::ExtensionPlace, place, QStringLiteral("%1 is not read here").arg(name.qualified));
+    }
+}
+
+class ExtensionCheck
+{
+public:
+    explicit ExtensionCheck(LintFindings& findings) : m_findings(findings) {}
+
+    void Visit(LintElement const& element, LintElement const* parent, LintElement const* grandParent)
+    {
+        bool const isInItem = parent && parent->name.IsPlain("item");
+        CheckName(element.name, isInItem ? NamePlace::ItemChild : NamePlace::Elsewhere, element.place, m_findings);
+        bool const isDelta = element.name.IsPlain("enclosure") && parent && parent->name.IsFeeds("deltas") &&
+                             grandParent && grandParent->name.IsPlain("item");
+        NamePlace const where = isDelta                        ? NamePlace::DeltaAttribute
+                                : element.name.IsPlain("item") ? NamePlace::ItemAttribute
+                                                               : NamePlace::Elsewhere;
+        for (LintAttribute const& attribute : element.attributes)
+        {
+            CheckName(attribute.name, where, element.place, m_findings);
+        }
+        if (element.name.IsPlain("item"))
+        {
+            CheckValues(element);
+        }
+        for (LintElement const& child : element.children)
+        {
+            Visit(child, &element, parent);
+        }
+    }
+
+private:
+    void CheckValues(LintElement const& item)
+    {
+        std::map<QString, QString> nameOfKey;
+        for (LintElement const& child : item.children)
+        {
+            if (child.name.namespaceUri.isEmpty() && IsExtension(child.name.local))
+            {
+                CheckValue(child, nameOfKey);
+            }
+        }
+        for (LintAttribute const& attribute : item.attributes)
+        {
+            if (attribute.name.namespaceUri.isEmpty() && IsExtension(attribute.name.local))
+            {
+                CheckKey(attribute.name.local, item.place, nameOfKey);
+            }
+        }
+    }
+
+    void CheckValue(LintElement const& extension, std::map<QString, QString>& nameOfKey)
+    {
+        QString const& name = extension.name.local;
+        bool const isRepeated = CheckKey(name, extension.place, nameOfKey);
+        if (isRepeated || !extension.attributes.empty() || !extension.children.empty())
+        {
+            m_findings.Add(LintRule::ExtensionNotText, extension.place,
+                           isRepeated ? QStringLiteral("%1 stands twice").arg(name)
+                                      : QStringLiteral("%1 has attributes or children").arg(name));
+        }
+    }
+
+    /// \return whether the very name was met before
+    bool CheckKey(QString const& name, LintPlace place, std::map<QString, QString>& nameOfKey)
+    {
+        auto const [entry, isNew] = nameOfKey.emplace(name.toUpper(), name);
+        if (!isNew && entry->second != name)
+        {
+            m_findings.Add(LintRule::ExtensionKeyCase, place, QStringLiteral("%1 and %2").arg(entry->second, name));
+        }
+        return !isNew && entry->second == name;
+    }
+
+    LintFindings& m_findings;
+};
+
+void CheckRelaunchPath(LintDownload const& download, LintFindings& findings)
+{
+    QVariant const path = ExtensionsOf(*download.item).value(App::Session::Extensions::KEY_OVERRIDE_PATH_TO_RELAUNCH);
+    if (path.isValid() && !path.toString().startsWith(QLatin1Char('/')))
+    {
+        findings.Add(LintRule::RelaunchPathRelative, download.element->place,
+                     QStringLiteral("the path of %1 is \"%2\"").arg(NameOf(*download.item), path.toString()));
+    }
+}
+
+} // namespace
+
+void CheckExtensions(LintSubject const& subject, LintFindings& findings)
+{
+    ExtensionCheck check(findings);
+    for (LintElement const& element : subject.root.children)
+    {
+        check.Visit(element, nullptr, nullptr);
+    }
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            CheckRelaunchPath(item.full, findings);
+            for (LintDownload const& delta : item.deltas)
+            {
+                // What it inherits was looked at with its item.
+                if (ExtensionsOf(*delta.item) != ExtensionsOf(*item.full.item))
+                {
+                    CheckRelaunchPath(delta, findings);
+                }
+            }
+        }
+    }
+}
+
+} // namespace Pelnar::Publisher

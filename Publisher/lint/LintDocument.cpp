@@ -1,0 +1,166 @@
+#include "Publisher/lint/LintDocument.h"
+
+#include "Engine/core/feed/FeedEncoding_p.h"
+#include "Engine/core/feed/FeedWalker_p.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+std::optional<QString> ValueOf(std::vector<LintAttribute> const& attributes,
+                               bool (LintName::*matches)(char const*) const, char const* local)
+{
+    for (LintAttribute const& attribute : attributes)
+    {
+        if ((attribute.name.*matches)(local))
+        {
+            return attribute.value;
+        }
+    }
+    return std::nullopt;
+}
+
+LintElement StartElement(Engine::FeedWalker const& walker, LintPlace place)
+{
+    QXmlStreamReader const& reader = walker.Reader();
+    LintElement element;
+    element.name = {reader.namespaceUri().toString(), reader.name().toString(), reader.qualifiedName().toString()};
+    element.place = place;
+    element.parserLine = walker.Line();
+    element.parserColumn = walker.Column();
+    QXmlStreamAttributes const attributes = reader.attributes();
+    for (QXmlStreamAttribute const& attribute : attributes)
+    {
+        element.attributes.push_back(
+            {{attribute.namespaceUri().toString(), attribute.name().toString(), attribute.qualifiedName().toString()},
+             attribute.value().toString()});
+    }
+    return element;
+}
+
+/// The feed's text by lines, which end as the XML reader sees them.
+class Lines
+{
+public:
+    explicit Lines(QString const& text) : m_text(text)
+    {
+        m_starts.push_back(0);
+        for (int i = 0; i < text.size(); ++i)
+        {
+            bool const isLoneReturn =
+                text.at(i) == QLatin1Char('\r') && (i + 1 == text.size() || text.at(i + 1) != QLatin1Char('\n'));
+            if (text.at(i) == QLatin1Char('\n') || isLoneReturn)
+            {
+                m_starts.push_back(i + 1);
+            }
+        }
+    }
+
+    /// Where the tag begins that ends at a place: no "<" stands inside a tag.
+    LintPlace TagBefore(int line, int column) const
+    {
+        int const end = m_starts.at(std::size_t(line) - 1) + column - 1;
+        int const begin = std::max(m_text.lastIndexOf(QLatin1Char('<'), end - 1), 0);
+        auto const next = std::upper_bound(m_starts.begin(), m_starts.end(), begin);
+        return {int(next - m_starts.begin()), begin - *std::prev(next) + 1};
+    }
+
+private:
+    QString const m_text;
+    std::vector<int> m_starts;
+};
+
+/// Reads what stands in \a parent, to its end. The parser's limit on depth bounds the recursion.
+void ReadChildren(Engine::FeedWalker& walker, Lines const& lines, LintElement& parent)
+{
+    for (;;)
+    {
+        switch (walker.Advance())
+        {
+        case QXmlStreamReader::StartElement:
+            parent.children.push_back(StartElement(walker, lines.TagBefore(walker.Line(), walker.Column())));
+            ReadChildren(walker, lines, parent.children.back());
+            break;
+        case QXmlStreamReader::Characters:
+            parent.text += walker.Reader().text();
+            break;
+        case QXmlStreamReader::EndElement:
+        case QXmlStreamReader::EndDocument:
+        case QXmlStreamReader::Invalid:
+            return;
+        case QXmlStreamReader::NoToken:
+        case QXmlStreamReader::StartDocument:
+        case QXmlStreamReader::Comment:
+        case QXmlStreamReader::DTD:
+        case QXmlStreamReader::EntityReference:
+        case QXmlStreamReader::ProcessingInstruction:
+            break;
+        }
+    }
+}
+
+void CollectItems(LintElement const& element, std::vector<LintElement const*>& items)
+{
+    for (LintElement const& child : element.children)
+    {
+        if (child.name.IsPlain("item"))
+        {
+            items.push_back(&child);
+        }
+        else
+        {
+            CollectItems(child, items);
+        }
+    }
+}
+
+} // namespace
+
+bool IsFeedNamespaceUri(QString const& uri)
+{
+    return Engine::IsFeedNamespace(QStringRef(&uri));
+}
+
+bool LintName::IsPlain(char const* name) const
+{
+    return namespaceUri.isEmpty() && local == QLatin1String(name);
+}
+
+bool LintName::IsFeeds(char const* name) const
+{
+    return local == QLatin1String(name) && IsFeedNamespaceUri(namespaceUri);
+}
+
+std::optional<QString> LintElement::PlainAttribute(char const* local) const
+{
+    return ValueOf(attributes, &LintName::IsPlain, local);
+}
+
+std::optional<QString> LintElement::FeedAttribute(char const* local) const
+{
+    return ValueOf(attributes, &LintName::IsFeeds, local);
+}
+
+LintElement ReadLintDocument(QByteArray const& bytes)
+{
+    Engine::FeedDocument const document = Engine::DecodeFeed(bytes);
+    Engine::FeedLimits const limits;
+    Engine::FeedWalker walker(document.utf8, document.text, limits);
+    LintElement root;
+    root.place = {1, 1};
+    ReadChildren(walker, Lines(document.text.isNull() ? QString::fromUtf8(document.utf8) : document.text), root);
+    return root;
+}
+
+std::vector<LintElement const*> ItemElements(LintElement const& root)
+{
+    std::vector<LintElement const*> items;
+    CollectItems(root, items);
+    return items;
+}
+
+} // namespace Pelnar::Publisher

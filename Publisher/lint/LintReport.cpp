@@ -1,0 +1,99 @@
+#include "Publisher/lint/LintReport.h"
+
+#include <QJsonArray>
+#include <QStringList>
+
+#include <algorithm>
+#include <ostream>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr Severity SEVERITIES[] = {Severity::Error, Severity::Warning, Severity::Note};
+
+Emphasis EmphasisOf(Severity severity)
+{
+    switch (severity)
+    {
+    case Severity::Error:
+        return Emphasis::Bad;
+    case Severity::Warning:
+        return Emphasis::Warning;
+    case Severity::Note:
+        return Emphasis::Dim;
+    }
+    return Emphasis::None;
+}
+
+std::size_t Count(std::vector<LintFinding> const& findings, Severity severity)
+{
+    return std::size_t(std::count_if(findings.begin(), findings.end(),
+                                     [&](LintFinding const& finding)
+                                     { return EntryOf(finding.rule).severity == severity; }));
+}
+
+QString SummaryOf(std::vector<LintFinding> const& findings)
+{
+    QStringList counts;
+    for (Severity const severity : SEVERITIES)
+    {
+        if (std::size_t const count = Count(findings, severity))
+        {
+            counts.append(CountOf(count, QLatin1String(SeverityName(severity))));
+        }
+    }
+    return counts.isEmpty() ? QStringLiteral("clean") : counts.join(QStringLiteral(", "));
+}
+
+} // namespace
+
+void PrintFindings(QString const& feed, std::vector<LintFinding> const& findings, Console const& console)
+{
+    for (LintFinding const& finding : findings)
+    {
+        LintRuleEntry const& entry = EntryOf(finding.rule);
+        QString const place = QStringLiteral("%1:%2:%3: ").arg(feed).arg(finding.place.line).arg(finding.place.column);
+        console.out.stream << Printable(place).toStdString()
+                           << console.out.Styled(EmphasisOf(entry.severity),
+                                                 QLatin1String(SeverityName(entry.severity)))
+                           << ": " << console.out.Styled(Emphasis::Bold, QLatin1String(entry.name)) << ": "
+                           << Printable(finding.what).toStdString() << "; " << entry.mend << '\n';
+    }
+    console.Print(Printable(QStringLiteral("%1: %2").arg(feed, SummaryOf(findings))));
+}
+
+QJsonObject JsonOf(QString const& feed, std::vector<LintFinding> const& findings)
+{
+    QJsonArray list;
+    for (LintFinding const& finding : findings)
+    {
+        LintRuleEntry const& entry = EntryOf(finding.rule);
+        list.append(QJsonObject{
+            {QStringLiteral("rule"), QLatin1String(entry.name)},
+            {QStringLiteral("severity"), QLatin1String(SeverityName(entry.severity))},
+            {QStringLiteral("line"), finding.place.line},
+            {QStringLiteral("column"), finding.place.column},
+            {QStringLiteral("what"), finding.what},
+            {QStringLiteral("mend"), QLatin1String(entry.mend)},
+        });
+    }
+    return {{QStringLiteral("feed"), feed},
+            {QStringLiteral("errors"), int(Count(findings, Severity::Error))},
+            {QStringLiteral("warnings"), int(Count(findings, Severity::Warning))},
+            {QStringLiteral("notes"), int(Count(findings, Severity::Note))},
+            {QStringLiteral("findings"), list}};
+}
+
+ExitStatus StatusOf(std::vector<LintFinding> const& findings, Strictness strictness)
+{
+    bool const hasFinding =
+        std::any_of(findings.begin(), findings.end(),
+                    [&](LintFinding const& finding) {
+                        return strictness == Strictness::Everything || EntryOf(finding.rule).severity != Severity::Note;
+                    });
+    return hasFinding ? ExitStatus::Findings : ExitStatus::Clean;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,52 @@
+#include "Publisher/lint/LintRules.h"
+
+namespace Pelnar::Publisher
+{
+
+char const* SeverityName(Severity severity)
+{
+    switch (severity)
+    {
+    case Severity::Error:
+        return "error";
+    case Severity::Warning:
+        return "warning";
+    case Severity::Note:
+        return "note";
+    }
+    return "unknown";
+}
+
+std::vector<LintRuleEntry> const& LintRules()
+{
+#define PELNAR_LINT_RULE_ENTRY(rule, name, severity, what, mend) {LintRule::rule, name, Severity::severity, what, mend},
+    static std::vector<LintRuleEntry> const entries = {PELNAR_LINT_RULES(PELNAR_LINT_RULE_ENTRY)};
+#undef PELNAR_LINT_RULE_ENTRY
+    return entries;
+}
+
+LintRuleEntry const& EntryOf(LintRule rule)
+{
+    return LintRules().at(std::size_t(rule));
+}
+
+QString LintRulesAsMarkdown()
+{
+    QString text = QStringLiteral(
+        "# The rules of `pelnar-appcast lint`\n\n"
+        "Made by `pelnar-appcast lint --rules`; do not edit. An error means that clients refuse or lose something, a\n"
+        "warning that they may do something else than was meant, a note that it works and could be better. The exit\n"
+        "status is 1 when there is an error or a warning, with `--strict` when there is anything.\n\n"
+        "| Rule | Severity | What it finds | Mend |\n"
+        "| --- | --- | --- | --- |\n");
+    for (LintRuleEntry const& entry : LintRules())
+    {
+        QString const what = QString::fromLatin1(entry.what);
+        QString const mend = QString::fromLatin1(entry.mend).replace(QLatin1String("<"), QLatin1String("\\<"));
+        text += QStringLiteral("| `%1` | %2 | %3 | %4 |\n")
+                    .arg(QLatin1String(entry.name), QLatin1String(SeverityName(entry.severity)), what, mend);
+    }
+    return text;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,118 @@
+// LintRules.h: every rule of `pelnar-appcast lint`, once: its name, how much it matters, what it finds and the mend.
+// Thread: constants. Ownership: none.
+// The command line, the reports and docs/lint-rules.md are all made from this table.
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+enum class Severity
+{
+    Error,   ///< clients refuse or lose something
+    Warning, ///< clients may do something else than was meant
+    Note,    ///< works, and could be better
+};
+
+/// "error", "warning" or "note".
+char const* SeverityName(Severity severity);
+
+// clang-format off
+#define PELNAR_LINT_RULES(RULE) \
+    /* The document. */ \
+    RULE(MalformedXml, "malformed-xml", Error, "The feed is not well-formed XML, or its bytes are not of its encoding.", "mend the XML at this place; no client reads any item") \
+    RULE(DocumentType, "document-type", Error, "The feed has a document type declaration, which clients refuse.", "remove the <!DOCTYPE ...> declaration") \
+    RULE(TooDeep, "too-deep", Error, "Elements are nested deeper than clients follow.", "nest at most 64 elements") \
+    RULE(TooManyAttributes, "too-many-attributes", Error, "A tag has more attributes than clients read.", "give at most 256 attributes to one tag") \
+    RULE(TagTooLong, "tag-too-long", Error, "A tag is longer than clients read.", "keep every tag below 64 KiB; texts belong into elements") \
+    RULE(TooManyItems, "too-many-items", Error, "The feed has more items than clients read.", "keep at most 2000 items") \
+    RULE(TooManyNamespaces, "too-many-namespaces", Error, "More namespaces are declared at one place than clients follow.", "declare each namespace once, on the root element") \
+    RULE(NotAFeed, "not-a-feed", Error, "The document is a web page.", "publish the feed itself at this address") \
+    RULE(NoItems, "no-items", Warning, "The feed has no item.", "add an <item> inside <channel>, without a namespace") \
+    RULE(ControlCharacter, "control-character", Warning, "A text has control characters, or characters that turn the writing direction; clients show blanks in their place.", "remove them") \
+    /* Names and namespaces. */ \
+    RULE(WrongNamespace, "wrong-namespace", Error, "A namespace looks like the feed's own but is another one; what is written with it is not read.", "bind the prefix to http://www.andymatuschak.org/xml-namespaces/sparkle") \
+    RULE(NameCase, "name-case", Error, "A name differs from one that clients read only in case, so that it is not read.", "write the name with the case that the finding shows") \
+    RULE(NameWithoutNamespace, "name-without-namespace", Error, "A name of the feed's namespace is written without it, so that it is not read.", "write the sparkle: prefix in front of the name") \
+    RULE(RepeatedElement, "repeated-element", Warning, "An item has an element twice of which clients read the first only.", "keep one of them") \
+    RULE(RepeatedEnclosure, "repeated-enclosure", Warning, "An item has two enclosures for one platform; clients take the first.", "give each download an item of its own, or a sparkle:os of its own") \
+    /* Versions. */ \
+    RULE(VersionMissing, "version-missing", Error, "An item has no version.", "give sparkle:version to the enclosure or to the item") \
+    RULE(VersionUnreadable, "version-unreadable", Error, "A version is not one to four decimal numbers with dots between them.", "write a version such as 5.1.2; other text belongs into sparkle:shortVersionString") \
+    RULE(VersionOverflow, "version-overflow", Error, "A number of a version is greater than 2147483647.", "use smaller numbers") \
+    RULE(VersionFromFileName, "version-from-file-name", Warning, "An item's version stands in its file's name only.", "give sparkle:version to the enclosure") \
+    RULE(VersionSpelling, "version-spelling", Warning, "Two versions are written differently and are the same: missing numbers count as 0.", "write one version in one way") \
+    RULE(VersionMixed, "version-mixed", Warning, "Some versions are one number and some have dots; 100 is newer than 5.9.", "use one scheme for all items") \
+    RULE(SamePriority, "same-priority", Warning, "Two items have one version and one kind of package for the same system; the address and the size decide between them.", "keep one of them, or tell them apart by sparkle:os or by the system versions") \
+    /* Systems and platforms. */ \
+    RULE(SystemBoundUnreadable, "system-bound-unreadable", Warning, "A minimum or maximum system version does not parse and bounds nothing.", "write one to four numbers with dots between them") \
+    RULE(SystemBoundsCrossed, "system-bounds-crossed", Error, "The minimum system version is above the maximum: no system takes the item.", "exchange or mend the two versions") \
+    RULE(PlatformUnknown, "platform-unknown", Warning, "sparkle:os names a platform that no client is.", "write macos, linux or windows") \
+    RULE(PlatformFirst, "platform-first", Warning, "Another platform's items stand before those without sparkle:os; a client that does not know sparkle:os takes them.", "put the items without sparkle:os first, or publish a feed for each platform") \
+    /* Downloads. */ \
+    RULE(AddressMissing, "address-missing", Error, "An item has no enclosure with a valid address.", "give the enclosure a url") \
+    RULE(AddressScheme, "address-scheme", Error, "A download's address is neither https nor http.", "serve the file over https") \
+    RULE(AddressInsecure, "address-insecure", Error, "An address is http, which clients refuse.", "serve it over https") \
+    RULE(AddressHost, "address-host", Error, "An address has no host.", "write the whole address, such as https://dl.example.com/app.zip") \
+    RULE(AddressCredentials, "address-credentials", Warning, "An address has a user name or a password in it.", "remove them; everybody can read the feed") \
+    RULE(AddressInternational, "address-international", Note, "A host has letters beyond ASCII, which can look like those of another name.", "use a host name in plain ASCII") \
+    RULE(AddressTooLong, "address-too-long", Warning, "An address is longer than 8192 characters; servers refuse such requests.", "shorten it") \
+    RULE(LengthMissing, "length-missing", Error, "An enclosure has no length, so that no client takes it.", "give the file's size in bytes as length") \
+    RULE(LengthZero, "length-zero", Error, "A length is 0, so that no client takes the enclosure.", "give the file's size in bytes as length") \
+    RULE(LengthUnreadable, "length-unreadable", Error, "A length is not a decimal number, so that it counts as 0.", "give the file's size in bytes, digits only") \
+    RULE(LengthTooLarge, "length-too-large", Error, "A length is over 16 GiB, so that it counts as 0.", "publish a smaller file, or mend the number") \
+    RULE(DateTextForm, "date-text-form", Error, "A date is in the text form that clients refuse.", "write the date as in Mon, 07 Jan 2019 10:00:00 +0000") \
+    RULE(DateUnusual, "date-unusual", Note, "A date is not in the form that RSS asks for.", "write the date as in Mon, 07 Jan 2019 10:00:00 +0000") \
+    RULE(MarkerCase, "marker-case", Warning, "A file name has the mark of an installer in another case, so that it counts as a bundle.", "write .sparkle_guided. or .sparkle_interactive. in lower case") \
+    RULE(SignatureMissing, "signature-missing", Error, "A download has no Ed25519 signature, so that clients refuse to install it.", "add the sparkle:edSignature that pelnar-appcast sign prints") \
+    RULE(SignatureUnreadable, "signature-unreadable", Error, "A signature is not 64 bytes in base64.", "copy the whole sparkle:edSignature that pelnar-appcast sign prints") \
+    /* Deltas. */ \
+    RULE(DeltaFromMissing, "delta-from-missing", Error, "A delta has no sparkle:deltaFrom, so that no client takes it.", "name the version that it starts from") \
+    RULE(DeltaFromUnreadable, "delta-from-unreadable", Error, "A delta's sparkle:deltaFrom does not parse, so that no client takes it.", "write one to four numbers with dots between them") \
+    RULE(DeltaFromRepeated, "delta-from-repeated", Error, "Two deltas of an item start from one version; which of them is taken is not defined.", "keep one of them") \
+    RULE(DeltaFromNotOlder, "delta-from-not-older", Error, "A delta starts from a version that is not older than its item's.", "mend sparkle:deltaFrom, or move the delta to its item") \
+    RULE(DeltaBaseMissing, "delta-base-missing", Warning, "A delta starts from a version that is not in the feed.", "check sparkle:deltaFrom, or keep the item of that version") \
+    RULE(DeltaLargerThanFull, "delta-larger-than-full", Note, "A delta is no smaller than the full download, and clients take it all the same.", "leave the delta out") \
+    /* Extensions. */ \
+    RULE(ExtensionNamespace, "extension-namespace", Error, "An extension is written under a namespace, so that its name never matches.", "write it without a prefix and outside of a default namespace") \
+    RULE(ExtensionPlace, "extension-place", Error, "An extension stands where clients do not look for it.", "put it directly into <item>, or on the enclosure of a delta") \
+    RULE(ExtensionKeyCase, "extension-key-case", Error, "Two extensions of an item differ only in case; which of them counts is not defined.", "keep one of them") \
+    RULE(ExtensionNotText, "extension-not-text", Error, "An extension has attributes or children, or stands twice, so that its value is lost.", "give it text alone, once") \
+    RULE(ExtensionPrefix, "extension-prefix", Note, "A name begins like an extension but not with pelnar1_, so that it is ignored.", "begin it with pelnar1_, or rename it") \
+    RULE(RelaunchPathRelative, "relaunch-path-relative", Error, "The path to relaunch is not absolute.", "write the whole path, beginning with /") \
+    /* Release notes. */ \
+    RULE(NotesOverLimits, "notes-over-limits", Warning, "Release notes are over what clients lay out; they are shown as plain text.", "shorten or simplify the notes") \
+    RULE(NotesInsecure, "notes-insecure", Warning, "The address of release notes is not https.", "serve the notes over https") \
+    /* What the server has, with --fetch. */ \
+    RULE(ArchiveUnreachable, "archive-unreachable", Error, "A download cannot be fetched (with --fetch).", "publish the file at this address before the feed") \
+    RULE(ArchiveLength, "archive-length", Error, "A download has another size than the feed says (with --fetch).", "write the file's size as length, or publish the right file") \
+    RULE(ArchiveSignature, "archive-signature", Error, "A download does not bear the feed's signature by the given key (with --fetch).", "sign the published file again, or publish the file that was signed")
+// clang-format on
+
+#define PELNAR_DECLARE_LINT_RULE(rule, name, severity, what, mend) rule,
+enum class LintRule
+{
+    PELNAR_LINT_RULES(PELNAR_DECLARE_LINT_RULE)
+};
+#undef PELNAR_DECLARE_LINT_RULE
+
+struct LintRuleEntry
+{
+    LintRule rule;
+    char const* name;
+    Severity severity;
+    char const* what; ///< a sentence
+    char const* mend; ///< what to do, without a full stop
+};
+
+/// In the order of the enumeration.
+std::vector<LintRuleEntry> const& LintRules();
+LintRuleEntry const& EntryOf(LintRule rule);
+
+/// The text of docs/lint-rules.md.
+QString LintRulesAsMarkdown();
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,191 @@
+#include "Publisher/lint/LintSubject.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using Engine::FeedErrorKind;
+using Engine::FeedPlatform;
+
+LintRule RuleOf(FeedErrorKind kind)
+{
+    switch (kind)
+    {
+    case FeedErrorKind::None:
+    case FeedErrorKind::Malformed:
+        return LintRule::MalformedXml;
+    case FeedErrorKind::DocumentType:
+        return LintRule::DocumentType;
+    case FeedErrorKind::TooDeep:
+        return LintRule::TooDeep;
+    case FeedErrorKind::TooManyAttributes:
+        return LintRule::TooManyAttributes;
+    case FeedErrorKind::TagTooLong:
+        return LintRule::TagTooLong;
+    case FeedErrorKind::TooManyItems:
+        return LintRule::TooManyItems;
+    case FeedErrorKind::TooManyNamespaces:
+        return LintRule::TooManyNamespaces;
+    case FeedErrorKind::NotAFeed:
+        return LintRule::NotAFeed;
+    }
+    return LintRule::MalformedXml;
+}
+
+LintFinding FindingOf(Engine::FeedParseError const& error)
+{
+    QString const what = error.detail.isEmpty() ? error.sentence : error.detail;
+    return {RuleOf(error.kind),
+            {error.line, error.column},
+            what.endsWith(QLatin1Char('.')) ? what.left(what.size() - 1) : what};
+}
+
+char const* SystemName(FeedPlatform platform)
+{
+    switch (platform)
+    {
+    case FeedPlatform::MacOS:
+        return "macos";
+    case FeedPlatform::Linux:
+        return "linux";
+    }
+    return "";
+}
+
+LintElement const* EnclosureFor(FeedPlatform platform, LintElement const& item)
+{
+    for (LintElement const& child : item.children)
+    {
+        std::optional<QString> const system = child.FeedAttribute("os");
+        if (child.name.IsPlain("enclosure") &&
+            (!system || system->trimmed().compare(QLatin1String(SystemName(platform)), Qt::CaseInsensitive) == 0))
+        {
+            return &child;
+        }
+    }
+    return nullptr;
+}
+
+/// The element below \a element that the parser places where \a item is.
+LintElement const* FindElement(LintElement const& element, Engine::FeedItem const& item)
+{
+    for (LintElement const& child : element.children)
+    {
+        if (child.parserLine == item.line && child.parserColumn == item.column)
+        {
+            return &child;
+        }
+        if (LintElement const* const found = FindElement(child, item))
+        {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, FeedPlatform platform)
+{
+    LintItem linked;
+    linked.full = {&item, &element, EnclosureFor(platform, element)};
+    for (Engine::FeedItem const& delta : item.deltas)
+    {
+        if (LintElement const* const enclosure = FindElement(element, delta))
+        {
+            linked.deltas.push_back({&delta, enclosure, enclosure});
+        }
+    }
+    return linked;
+}
+
+void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform platform)
+{
+    LintPlatform& added = subject.platforms.emplace_back();
+    added.parsed = Engine::ParseFeed(bytes, subject.address, platform).items;
+    auto element = subject.itemElements.begin();
+    for (Engine::FeedItem const& item : added.parsed)
+    {
+        // Both lists are in the order of the feed; the parser leaves items of other platforms out.
+        element = std::find_if(element, subject.itemElements.end(),
+                               [&](LintElement const* each)
+                               { return each->parserLine == item.line && each->parserColumn == item.column; });
+        if (element == subject.itemElements.end())
+        {
+            return;
+        }
+        added.items.push_back(LinkItem(item, **element, platform));
+    }
+}
+
+} // namespace
+
+void LintFindings::Add(LintRule rule, LintPlace place, QString const& what)
+{
+    // The items that all platforms take are looked at once for each of them.
+    bool const isKnown = std::any_of(m_findings.begin(), m_findings.end(),
+                                     [&](LintFinding const& each)
+                                     {
+                                         return each.rule == rule && each.place.line == place.line &&
+                                                each.place.column == place.column && each.what == what;
+                                     });
+    if (!isKnown)
+    {
+        m_findings.push_back({rule, place, what});
+    }
+}
+
+std::vector<LintFinding> LintFindings::Sorted() const
+{
+    std::vector<LintFinding> sorted = m_findings;
+    std::stable_sort(
+        sorted.begin(), sorted.end(),
+        [](LintFinding const& a, LintFinding const& b)
+        { return std::tie(a.place.line, a.place.column, a.rule) < std::tie(b.place.line, b.place.column, b.rule); });
+    return sorted;
+}
+
+QString NameOf(Engine::FeedItem const& item)
+{
+    if (item.isDelta)
+    {
+        return QStringLiteral("the delta from %1").arg(item.deltaFrom);
+    }
+    if (!item.versionString.isEmpty())
+    {
+        return QStringLiteral("item %1").arg(item.versionString);
+    }
+    return item.title.isEmpty() ? QStringLiteral("an item") : QStringLiteral("item \"%1\"").arg(item.title);
+}
+
+LintResult LintFeed(QByteArray const& bytes, QUrl const& address)
+{
+    Engine::FeedParseResult const parsed = Engine::ParseFeed(bytes, address, FeedPlatform::MacOS);
+    if (!parsed.HasSucceeded())
+    {
+        return {{FindingOf(parsed.error)}, nullptr};
+    }
+    auto subject = std::make_unique<LintSubject>();
+    subject->address = address;
+    subject->root = ReadLintDocument(bytes);
+    subject->itemElements = ItemElements(subject->root);
+    AddPlatform(*subject, bytes, FeedPlatform::MacOS);
+    AddPlatform(*subject, bytes, FeedPlatform::Linux);
+    LintFindings findings;
+    if (subject->itemElements.empty())
+    {
+        LintPlace const place =
+            subject->root.children.empty() ? subject->root.place : subject->root.children.front().place;
+        findings.Add(LintRule::NoItems, place, QStringLiteral("the feed has no item"));
+    }
+    for (auto* const check : {CheckNames, CheckTexts, CheckVersions, CheckSystems, CheckDownloads, CheckDeltas,
+                              CheckExtensions, CheckNotes})
+    {
+        check(*subject, findings);
+    }
+    return {findings.Sorted(), std::move(subject)};
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,94 @@
+// LintSubject.h: what the rules look at, and where they write what they find.
+// Thread: any. Ownership: a subject owns its document and items; findings are values.
+#pragma once
+
+#include "Publisher/lint/LintDocument.h"
+#include "Publisher/lint/LintRules.h"
+
+#include <QUrl>
+
+#include <memory>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+struct LintFinding
+{
+    LintRule rule;
+    LintPlace place;
+    QString what; ///< what was found here, without a full stop
+};
+
+/// The findings of a feed, each once.
+class LintFindings
+{
+public:
+    void Add(LintRule rule, LintPlace place, QString const& what);
+
+    /// In the order of the feed; at one place in the order of the rules.
+    std::vector<LintFinding> Sorted() const;
+
+private:
+    std::vector<LintFinding> m_findings;
+};
+
+/// An item or a delta, as the parser reads it and as it is written.
+struct LintDownload
+{
+    Engine::FeedItem const* item = nullptr;
+    LintElement const* element = nullptr;   ///< of the item; of a delta its own enclosure
+    LintElement const* enclosure = nullptr; ///< of the item for this platform, or null; of a delta its own
+
+    /// Where what is wrong with the download is shown.
+    LintPlace Place() const { return enclosure ? enclosure->place : element->place; }
+};
+
+/// An item of one platform with its deltas.
+struct LintItem
+{
+    LintDownload full;
+    std::vector<LintDownload> deltas;
+};
+
+/// The feed as one platform's clients see it.
+struct LintPlatform
+{
+    std::vector<Engine::FeedItem> parsed;
+    std::vector<LintItem> items; ///< in the order of the feed
+};
+
+struct LintSubject
+{
+    LintSubject() = default;
+    LintSubject(LintSubject const&) = delete;
+    LintSubject& operator=(LintSubject const&) = delete;
+
+    QUrl address;
+    LintElement root;
+    std::vector<LintElement const*> itemElements; ///< of all platforms
+    std::vector<LintPlatform> platforms;
+};
+
+/// "item 5.1", "the delta from 5.0", for the beginning of a finding.
+QString NameOf(Engine::FeedItem const& item);
+
+// The groups of rules. None needs another to have run.
+void CheckNames(LintSubject const& subject, LintFindings& findings);
+void CheckTexts(LintSubject const& subject, LintFindings& findings);
+void CheckVersions(LintSubject const& subject, LintFindings& findings);
+void CheckSystems(LintSubject const& subject, LintFindings& findings);
+void CheckDownloads(LintSubject const& subject, LintFindings& findings);
+void CheckDeltas(LintSubject const& subject, LintFindings& findings);
+void CheckExtensions(LintSubject const& subject, LintFindings& findings);
+void CheckNotes(LintSubject const& subject, LintFindings& findings);
+
+/// What clients make of the whole document, and all groups when they can read it.
+struct LintResult
+{
+    std::vector<LintFinding> findings;
+    std::unique_ptr<LintSubject const> subject; ///< null when clients refuse the document
+};
+LintResult LintFeed(QByteArray const& bytes, QUrl const& address);
+
+} // namespace Pelnar::Publisher

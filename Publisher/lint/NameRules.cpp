@@ -1,0 +1,226 @@
+// NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
+
+#include "Publisher/lint/LintSubject.h"
+
+#include <map>
+#include <set>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+char const* const PLAIN_ELEMENTS[] = {"item", "enclosure", "title", "description", "pubDate", "link", "channel"};
+char const* const FEED_ELEMENTS[] = {
+    "version", "shortVersionString", "minimumSystemVersion", "maximumSystemVersion", "releaseNotesLink", "deltas",
+    "tags",    "criticalUpdate"};
+char const* const PLAIN_ATTRIBUTES[] = {"url", "length", "type"};
+char const* const FEED_ATTRIBUTES[] = {"version", "shortVersionString", "edSignature", "installationType",
+                                       "os",      "deltaFrom"};
+/// Of these the first in an item counts.
+char const* const SINGLE_PLAIN_ELEMENTS[] = {"pubDate", "link"};
+char const* const SINGLE_FEED_ELEMENTS[] = {"version", "shortVersionString", "minimumSystemVersion",
+                                            "maximumSystemVersion"};
+
+template <std::size_t N>
+char const* OtherCaseOf(QString const& name, char const* const (&known)[N])
+{
+    for (char const* each : known)
+    {
+        if (name.compare(QLatin1String(each), Qt::CaseInsensitive) == 0)
+        {
+            return name == QLatin1String(each) ? nullptr : each;
+        }
+    }
+    return nullptr;
+}
+
+template <std::size_t N>
+bool IsOneOf(QString const& name, char const* const (&known)[N])
+{
+    for (char const* each : known)
+    {
+        if (name.compare(QLatin1String(each), Qt::CaseInsensitive) == 0)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool IsAlmostTheFeeds(QString const& uri)
+{
+    return !uri.isEmpty() && !IsFeedNamespaceUri(uri) &&
+           uri.contains(QLatin1String("xml-namespaces/sparkle"), Qt::CaseInsensitive);
+}
+
+class NameCheck
+{
+public:
+    explicit NameCheck(LintFindings& findings) : m_findings(findings) {}
+
+    void Visit(LintElement const& element, bool isInItem)
+    {
+        CheckNamespace(element.name, element.place);
+        CheckElementName(element, isInItem);
+        for (LintAttribute const& attribute : element.attributes)
+        {
+            CheckNamespace(attribute.name, element.place);
+            if (element.name.IsPlain("enclosure"))
+            {
+                CheckAttributeName(attribute.name, element.place);
+            }
+        }
+        bool const isItem = element.name.IsPlain("item");
+        if (isItem)
+        {
+            CheckRepetitions(element);
+        }
+        // What stands in a description is the notes' own affair.
+        if (!element.name.IsPlain("description"))
+        {
+            for (LintElement const& child : element.children)
+            {
+                Visit(child, isInItem || isItem);
+            }
+        }
+    }
+
+private:
+    void CheckNamespace(LintName const& name, LintPlace place)
+    {
+        bool const hasUsualPrefix = name.qualified.startsWith(QLatin1String("sparkle:"));
+        if (IsAlmostTheFeeds(name.namespaceUri) || (hasUsualPrefix && !IsFeedNamespaceUri(name.namespaceUri)))
+        {
+            if (m_reportedNamespaces.insert(name.namespaceUri).second)
+            {
+                m_findings.Add(LintRule::WrongNamespace, place,
+                               QStringLiteral("%1 is in the namespace \"%2\"").arg(name.qualified, name.namespaceUri));
+            }
+        }
+    }
+
+    void CheckElementName(LintElement const& element, bool isInItem)
+    {
+        QString const& local = element.name.local;
+        bool const isFeeds = IsFeedNamespaceUri(element.name.namespaceUri);
+        char const* const other = isFeeds                               ? OtherCaseOf(local, FEED_ELEMENTS)
+                                  : element.name.namespaceUri.isEmpty() ? OtherCaseOf(local, PLAIN_ELEMENTS)
+                                                                        : nullptr;
+        if (other)
+        {
+            ReportCase(element.name, other, element.place);
+        }
+        else if (isInItem && element.name.namespaceUri.isEmpty() && IsOneOf(local, FEED_ELEMENTS))
+        {
+            m_findings.Add(LintRule::NameWithoutNamespace, element.place,
+                           QStringLiteral("<%1> is not in the feed's namespace").arg(element.name.qualified));
+        }
+    }
+
+    void CheckAttributeName(LintName const& name, LintPlace place)
+    {
+        bool const isFeeds = IsFeedNamespaceUri(name.namespaceUri);
+        char const* const other = isFeeds                       ? OtherCaseOf(name.local, FEED_ATTRIBUTES)
+                                  : name.namespaceUri.isEmpty() ? OtherCaseOf(name.local, PLAIN_ATTRIBUTES)
+                                                                : nullptr;
+        if (other)
+        {
+            ReportCase(name, other, place);
+        }
+        else if (name.namespaceUri.isEmpty() && IsOneOf(name.local, FEED_ATTRIBUTES))
+        {
+            m_findings.Add(LintRule::NameWithoutNamespace, place,
+                           QStringLiteral("the attribute %1 is not in the feed's namespace").arg(name.qualified));
+        }
+    }
+
+    void ReportCase(LintName const& name, char const* other, LintPlace place)
+    {
+        m_findings.Add(LintRule::NameCase, place,
+                       QStringLiteral("%1 is not read, %2 is").arg(name.qualified, QLatin1String(other)));
+    }
+
+    void CheckRepetitions(LintElement const& item)
+    {
+        std::set<QString> met;
+        std::set<QString> platforms;
+        for (LintElement const& child : item.children)
+        {
+            bool const isSingle =
+                (child.name.namespaceUri.isEmpty() && IsOneOf(child.name.local, SINGLE_PLAIN_ELEMENTS)) ||
+                (IsFeedNamespaceUri(child.name.namespaceUri) && IsOneOf(child.name.local, SINGLE_FEED_ELEMENTS));
+            if (isSingle && !met.insert(child.name.local).second)
+            {
+                m_findings.Add(LintRule::RepeatedElement, child.place,
+                               QStringLiteral("another <%1> of the item").arg(child.name.qualified));
+            }
+            if (child.name.IsPlain("enclosure") &&
+                !platforms.insert(child.FeedAttribute("os").value_or(QString()).toLower()).second)
+            {
+                m_findings.Add(LintRule::RepeatedEnclosure, child.place,
+                               QStringLiteral("another enclosure of the item for the same platform"));
+            }
+        }
+    }
+
+    LintFindings& m_findings;
+    std::set<QString> m_reportedNamespaces; ///< each once: one declaration has many uses
+};
+
+bool IsDropped(QChar character)
+{
+    ushort const unit = character.unicode();
+    bool const isBlank = unit == '\t' || unit == '\n' || unit == '\r';
+    return (unit < 0x20 && !isBlank) || (unit >= 0x7F && unit <= 0x9F) || (unit >= 0x2028 && unit <= 0x202E) ||
+           (unit >= 0x2066 && unit <= 0x2069);
+}
+
+void CheckText(QString const& text, QString const& name, LintPlace place, LintFindings& findings)
+{
+    for (QChar const character : text)
+    {
+        if (IsDropped(character))
+        {
+            findings.Add(LintRule::ControlCharacter, place,
+                         QStringLiteral("%1 has the character U+%2")
+                             .arg(name)
+                             .arg(int(character.unicode()), 4, 16, QLatin1Char('0')));
+            return;
+        }
+    }
+}
+
+void VisitTexts(LintElement const& element, LintFindings& findings)
+{
+    CheckText(element.text, QStringLiteral("<%1>").arg(element.name.qualified), element.place, findings);
+    for (LintAttribute const& attribute : element.attributes)
+    {
+        CheckText(attribute.value, attribute.name.qualified, element.place, findings);
+    }
+    for (LintElement const& child : element.children)
+    {
+        VisitTexts(child, findings);
+    }
+}
+
+} // namespace
+
+void CheckNames(LintSubject const& subject, LintFindings& findings)
+{
+    NameCheck check(findings);
+    for (LintElement const& element : subject.root.children)
+    {
+        check.Visit(element, false);
+    }
+}
+
+void CheckTexts(LintSubject const& subject, LintFindings& findings)
+{
+    for (LintElement const* item : subject.itemElements)
+    {
+        VisitTexts(*item, findings);
+    }
+}
+
+} // namespace Pelnar::Publisher

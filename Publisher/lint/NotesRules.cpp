@@ -1,0 +1,92 @@
+// NotesRules.cpp: release notes as clients lay them out.
+
+#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using Engine::ReleaseNotesRefusal;
+
+char const* ReasonOf(ReleaseNotesRefusal refusal)
+{
+    switch (refusal)
+    {
+    case ReleaseNotesRefusal::None:
+        return "";
+    case ReleaseNotesRefusal::TooLong:
+        return "too long";
+    case ReleaseNotesRefusal::TooDeep:
+        return "nested too deeply";
+    case ReleaseNotesRefusal::TablesTooDeep:
+        return "tables nested too deeply";
+    case ReleaseNotesRefusal::TooManyElements:
+        return "too many elements";
+    case ReleaseNotesRefusal::TooManyListItems:
+        return "too many list items";
+    case ReleaseNotesRefusal::TooMuchPreformatted:
+        return "too much preformatted text";
+    case ReleaseNotesRefusal::TooManyCells:
+        return "too many table cells";
+    case ReleaseNotesRefusal::TooMuchTableText:
+        return "too much text in tables";
+    case ReleaseNotesRefusal::BlockTooLong:
+        return "a paragraph is too long";
+    }
+    return "";
+}
+
+LintPlace PlaceOf(LintElement const& item, bool (*matches)(LintName const&))
+{
+    auto const found = std::find_if(item.children.begin(), item.children.end(),
+                                    [&](LintElement const& child) { return matches(child.name); });
+    return found == item.children.end() ? item.place : found->place;
+}
+
+void CheckDescription(LintItem const& item, LintFindings& findings)
+{
+    Engine::FeedItem const& parsed = *item.full.item;
+    ReleaseNotesRefusal const refusal =
+        Engine::FilterReleaseNotes(parsed.description.toStdString(),
+                                   Engine::ReleaseNotesFormatFromText(parsed.descriptionFormat.toStdString()))
+            .refusal;
+    if (refusal != ReleaseNotesRefusal::None)
+    {
+        findings.Add(LintRule::NotesOverLimits,
+                     PlaceOf(*item.full.element, [](LintName const& name) { return name.IsPlain("description"); }),
+                     QStringLiteral("the notes of %1: %2").arg(NameOf(parsed), QLatin1String(ReasonOf(refusal))));
+    }
+}
+
+void CheckLink(LintItem const& item, QUrl const& feed, LintFindings& findings)
+{
+    QUrl const& url = item.full.item->releaseNotesUrl;
+    bool const isLocal = url.scheme() == feed.scheme() && url.isLocalFile();
+    if (!url.isEmpty() && url.scheme() != QLatin1String("https") && !isLocal && !Engine::IsLoopback(url))
+    {
+        findings.Add(LintRule::NotesInsecure,
+                     PlaceOf(*item.full.element, [](LintName const& name) { return name.IsFeeds("releaseNotesLink"); }),
+                     url.toString(QUrl::FullyEncoded));
+    }
+}
+
+} // namespace
+
+void CheckNotes(LintSubject const& subject, LintFindings& findings)
+{
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            CheckDescription(item, findings);
+            CheckLink(item, subject.address, findings);
+        }
+    }
+}
+
+} // namespace Pelnar::Publisher

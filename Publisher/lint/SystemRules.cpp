@@ -1,0 +1,112 @@
+// SystemRules.cpp: which systems and platforms an item is for.
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using App::Session::VersionFromStringNoexcept;
+
+/// Windows is no platform of ours, but clients of other families read the same feeds.
+char const* const PLATFORMS[] = {"macos", "linux", "windows"};
+
+void CheckBounds(LintItem const& item, LintFindings& findings)
+{
+    QString const& minimum = item.full.item->minimumSystemVersion;
+    QString const& maximum = item.full.item->maximumSystemVersion;
+    LintPlace const place = item.full.element->place;
+    for (auto const& [name, text] : {std::pair("minimum", minimum), std::pair("maximum", maximum)})
+    {
+        if (!text.isEmpty() && !VersionFromStringNoexcept(text).IsValid())
+        {
+            findings.Add(LintRule::SystemBoundUnreadable, place,
+                         QStringLiteral("the %1 system version of %2 is \"%3\"")
+                             .arg(QLatin1String(name), NameOf(*item.full.item), text));
+        }
+    }
+    Core::Version const lowest = VersionFromStringNoexcept(minimum);
+    Core::Version const highest = VersionFromStringNoexcept(maximum);
+    if (lowest.IsValid() && highest.IsValid() && App::Session::IsOlderVersion(highest, lowest))
+    {
+        findings.Add(
+            LintRule::SystemBoundsCrossed, place,
+            QStringLiteral("%1 asks for %2 or later and %3 or earlier").arg(NameOf(*item.full.item), minimum, maximum));
+    }
+}
+
+void CheckPlatformName(LintElement const& enclosure, LintFindings& findings)
+{
+    std::optional<QString> const system = enclosure.FeedAttribute("os");
+    bool const isKnown =
+        !system ||
+        std::any_of(std::begin(PLATFORMS), std::end(PLATFORMS),
+                    [&](char const* each) { return system->compare(QLatin1String(each), Qt::CaseInsensitive) == 0; });
+    if (!isKnown)
+    {
+        findings.Add(LintRule::PlatformUnknown, enclosure.place, QStringLiteral("sparkle:os is \"%1\"").arg(*system));
+    }
+}
+
+LintElement const* FirstEnclosure(LintElement const& item)
+{
+    auto const found = std::find_if(item.children.begin(), item.children.end(),
+                                    [](LintElement const& child) { return child.name.IsPlain("enclosure"); });
+    return found == item.children.end() ? nullptr : &*found;
+}
+
+void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& findings)
+{
+    LintElement const* marked = nullptr;
+    for (LintElement const* item : items)
+    {
+        LintElement const* const enclosure = FirstEnclosure(*item);
+        if (!enclosure)
+        {
+            continue;
+        }
+        if (enclosure->FeedAttribute("os"))
+        {
+            marked = marked ? marked : enclosure;
+        }
+        else if (marked)
+        {
+            findings.Add(LintRule::PlatformFirst, marked->place,
+                         QStringLiteral("an item for %1 stands before the one for all platforms in line %2")
+                             .arg(*marked->FeedAttribute("os"))
+                             .arg(enclosure->place.line));
+            return;
+        }
+    }
+}
+
+} // namespace
+
+void CheckSystems(LintSubject const& subject, LintFindings& findings)
+{
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            CheckBounds(item, findings);
+        }
+    }
+    for (LintElement const* item : subject.itemElements)
+    {
+        for (LintElement const& child : item->children)
+        {
+            if (child.name.IsPlain("enclosure"))
+            {
+                CheckPlatformName(child, findings);
+            }
+        }
+    }
+    CheckOrder(subject.itemElements, findings);
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,172 @@
+// VersionRules.cpp: versions that clients cannot read or tell apart, and items that only chance decides between.
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "Publisher/choice/FeedChoice.h"
+#include "Publisher/lint/LintSubject.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using App::Session::IsOlderVersion;
+using App::Session::IsSameVersion;
+using App::Session::VersionFromStringNoexcept;
+
+/// Decimal components with dots between them, of which one is too great.
+bool Overflows(QString const& text)
+{
+    QStringList const components = text.split(QLatin1Char('.'));
+    bool isGreat = false;
+    for (QString const& component : components)
+    {
+        bool const isDecimal =
+            !component.isEmpty() &&
+            std::all_of(component.begin(), component.end(),
+                        [](QChar each) { return each >= QLatin1Char('0') && each <= QLatin1Char('9'); });
+        if (!isDecimal)
+        {
+            return false;
+        }
+        isGreat = isGreat || !VersionFromStringNoexcept(component).IsValid();
+    }
+    return isGreat && components.size() <= Core::Version::COMPONENT_COUNT;
+}
+
+bool HasWrittenVersion(LintElement const& element, LintElement const* enclosure)
+{
+    bool const hasElement = std::any_of(element.children.begin(), element.children.end(),
+                                        [](LintElement const& child) { return child.name.IsFeeds("version"); });
+    return hasElement || (enclosure && enclosure->FeedAttribute("version"));
+}
+
+void CheckVersion(LintDownload const& download, LintFindings& findings)
+{
+    QString const& text = download.item->versionString;
+    if (text.isEmpty())
+    {
+        findings.Add(LintRule::VersionMissing, download.Place(),
+                     NameOf(*download.item) + QStringLiteral(" has no version"));
+        return;
+    }
+    if (!VersionFromStringNoexcept(text).IsValid())
+    {
+        findings.Add(Overflows(text) ? LintRule::VersionOverflow : LintRule::VersionUnreadable, download.Place(),
+                     QStringLiteral("the version is \"%1\"").arg(text));
+        return;
+    }
+    if (!download.item->isDelta && !HasWrittenVersion(*download.element, download.enclosure))
+    {
+        findings.Add(LintRule::VersionFromFileName, download.Place(),
+                     QStringLiteral("%1 stands in %2 only").arg(text, download.item->fileUrl.fileName()));
+    }
+}
+
+void CheckSpelling(std::vector<LintItem> const& items, LintFindings& findings)
+{
+    for (auto later = items.begin(); later != items.end(); ++later)
+    {
+        QString const& text = later->full.item->versionString;
+        Core::Version const version = VersionFromStringNoexcept(text);
+        for (auto earlier = items.begin(); version.IsValid() && earlier != later; ++earlier)
+        {
+            QString const& other = earlier->full.item->versionString;
+            Core::Version const otherVersion = VersionFromStringNoexcept(other);
+            if (other != text && otherVersion.IsValid() && IsSameVersion(version, otherVersion))
+            {
+                findings.Add(LintRule::VersionSpelling, later->full.Place(),
+                             QStringLiteral("%1 is the same version as %2 in line %3")
+                                 .arg(text, other)
+                                 .arg(earlier->full.Place().line));
+                break;
+            }
+        }
+    }
+}
+
+void CheckMixture(std::vector<LintItem> const& items, LintFindings& findings)
+{
+    LintItem const* single = nullptr;
+    LintItem const* dotted = nullptr;
+    for (LintItem const& item : items)
+    {
+        Core::Version const version = VersionFromStringNoexcept(item.full.item->versionString);
+        if (!version.IsValid())
+        {
+            continue;
+        }
+        LintItem const*& first = version.Minor() == Core::Version::ABSENT ? single : dotted;
+        first = first ? first : &item;
+        if (single && dotted)
+        {
+            findings.Add(
+                LintRule::VersionMixed, item.full.Place(),
+                QStringLiteral("%1 beside %2").arg(single->full.item->versionString, dotted->full.item->versionString));
+            return;
+        }
+    }
+}
+
+/// Whether some system takes both.
+bool ShareSystem(Engine::FeedItem const& a, Engine::FeedItem const& b)
+{
+    auto const isBelow = [](QString const& maximum, QString const& minimum)
+    {
+        Core::Version const highest = VersionFromStringNoexcept(maximum);
+        Core::Version const lowest = VersionFromStringNoexcept(minimum);
+        return highest.IsValid() && lowest.IsValid() && IsOlderVersion(highest, lowest);
+    };
+    return !isBelow(a.maximumSystemVersion, b.minimumSystemVersion) &&
+           !isBelow(b.maximumSystemVersion, a.minimumSystemVersion);
+}
+
+void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)
+{
+    for (auto later = items.begin(); later != items.end(); ++later)
+    {
+        Engine::FeedItem const& item = *later->full.item;
+        Core::Version const version = VersionFromStringNoexcept(item.versionString);
+        for (auto earlier = items.begin(); version.IsValid() && earlier != later; ++earlier)
+        {
+            Engine::FeedItem const& other = *earlier->full.item;
+            Core::Version const otherVersion = VersionFromStringNoexcept(other.versionString);
+            if (otherVersion.IsValid() && IsSameVersion(version, otherVersion) &&
+                UpdateTypeOf(item) == UpdateTypeOf(other) && ShareSystem(item, other))
+            {
+                findings.Add(LintRule::SamePriority, later->full.Place(),
+                             QStringLiteral("%1 has the version and the kind of the item in line %2")
+                                 .arg(NameOf(item))
+                                 .arg(earlier->full.Place().line));
+                break;
+            }
+        }
+    }
+}
+
+} // namespace
+
+void CheckVersions(LintSubject const& subject, LintFindings& findings)
+{
+    for (LintPlatform const& platform : subject.platforms)
+    {
+        for (LintItem const& item : platform.items)
+        {
+            CheckVersion(item.full, findings);
+            for (LintDownload const& delta : item.deltas)
+            {
+                if (delta.enclosure->FeedAttribute("version"))
+                {
+                    CheckVersion(delta, findings);
+                }
+            }
+        }
+        CheckSpelling(platform.items, findings);
+        CheckMixture(platform.items, findings);
+        CheckPriorities(platform.items, findings);
+    }
+}
+
+} // namespace Pelnar::Publisher

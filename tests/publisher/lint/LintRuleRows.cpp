@@ -1,0 +1,318 @@
+// LintRuleRows.cpp: the rows of the rules' test. Every feed is clean but for the one finding.
+
+#include "tests/publisher/lint/LintCase.h"
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+// 64 bytes in base64; whether they sign anything is not a matter of the text.
+char const* const SIGNATURE =
+    "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA==";
+
+/// The attributes of a good enclosure behind the address.
+QByteArray Good(QByteArray const& version, QByteArray const& length = "9")
+{
+    return " length='" + length + "' sparkle:version='" + version + "' sparkle:edSignature='" + SIGNATURE + "'";
+}
+
+QByteArray Enclosure(QByteArray const& version, QByteArray const& more = {})
+{
+    return "<enclosure url='https://dl.example.com/" + version + ".zip'" + Good(version) + more + "/>";
+}
+
+QByteArray Item(QByteArray const& version, QByteArray const& more = {})
+{
+    return "<item>" + more + Enclosure(version) + "</item>\n";
+}
+
+QByteArray WithAddress(QByteArray const& url)
+{
+    return "<item><enclosure url='" + url + "'" + Good("5.1") + "/></item>";
+}
+
+QByteArray WithLength(QByteArray const& attribute)
+{
+    return "<item><enclosure url='https://a.example/a.zip' sparkle:version='5.1' sparkle:edSignature='" +
+           QByteArray(SIGNATURE) + "' " + attribute + "/></item>";
+}
+
+QByteArray Delta(QByteArray const& from, QByteArray const& length = "2")
+{
+    return "<enclosure url='https://dl.example.com/" + from + ".delta' length='" + length + "' sparkle:deltaFrom='" +
+           from + "' sparkle:edSignature='" + SIGNATURE + "'/>";
+}
+
+QByteArray WithDeltas(QByteArray const& deltas)
+{
+    return "<item>" + Enclosure("5.1") + "\n<sparkle:deltas>" + deltas + "</sparkle:deltas></item>\n" + Item("5.0");
+}
+
+QByteArray Nested(char const* tag, int depth)
+{
+    QByteArray text;
+    for (int i = 0; i < depth; ++i)
+    {
+        text += QByteArray("<") + tag + ">";
+    }
+    for (int i = 0; i < depth; ++i)
+    {
+        text += QByteArray("</") + tag + ">";
+    }
+    return text;
+}
+
+QByteArray Attributes(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+    {
+        text += " a" + QByteArray::number(i) + "=''";
+    }
+    return text;
+}
+
+QByteArray Namespaces(int count)
+{
+    QByteArray text;
+    for (int i = 0; i < count; ++i)
+    {
+        text += " xmlns:n" + QByteArray::number(i) + "='urn:" + QByteArray::number(i) + "'";
+    }
+    return text;
+}
+
+void AddDocumentCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"MalformedXml", "<rss>\n<item></rss>", "malformed-xml 2:13 Opening and ending tag mismatch"});
+    cases.push_back({"DocumentType", "<!DOCTYPE rss>\n<rss/>",
+                     "document-type 1:1 Line 1 of the feed has a document type declaration, which a feed may not"});
+    cases.push_back({"TooDeep", Nested("a", 65), "too-deep 1:196"});
+    cases.push_back({"TooManyAttributes", "<rss" + Attributes(257) + "/>", "too-many-attributes 1:1"});
+    cases.push_back({"TagTooLong", "<rss a='" + QByteArray(70000, 'x') + "'/>", "tag-too-long 1:1"});
+    cases.push_back(
+        {"TooManyItems", "<rss>" + QByteArray("<item/>").repeated(2001) + "</rss>", "too-many-items 1:14013"});
+    cases.push_back({"TooManyNamespaces", "<rss" + Namespaces(65) + "/>", "too-many-namespaces 1:"});
+    cases.push_back({"NotAFeed", "<html><body/></html>", "not-a-feed 1:7"});
+    cases.push_back({"NoItems", "<rss><channel/></rss>", "no-items 1:1 the feed has no item"});
+    cases.push_back({"ControlCharacter",
+                     FeedOf(Item("5.1", "\n<title>a\xE2\x80\xAE"
+                                        "b</title>")),
+                     "control-character 3:1 <title> has the character U+202e"});
+}
+
+void AddNameCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"WrongNamespacePrefix", FeedOf(Item("5.1", "\n<sparkle:x xmlns:sparkle='urn:other'/>")),
+                     "wrong-namespace 3:1 sparkle:x is in the namespace \"urn:other\""});
+    cases.push_back({"WrongNamespaceUri",
+                     FeedOf(Item("5.1", "\n<s:x xmlns:s='https://www.andymatuschak.org/xml-namespaces/sparkle/'/>")),
+                     "wrong-namespace 3:1 s:x is in the namespace "
+                     "\"https://www.andymatuschak.org/xml-namespaces/sparkle/\""});
+    cases.push_back({"AnyPrefixOfTheRealNamespacePasses",
+                     FeedOf(Item("5.1", "<s:tags xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'/>")),
+                     ""});
+    cases.push_back({"NameCaseOfFeedElement",
+                     FeedOf(Item("5.1", "\n<sparkle:minimumsystemversion>1</sparkle:minimumsystemversion>")),
+                     "name-case 3:1 sparkle:minimumsystemversion is not read, minimumSystemVersion is"});
+    cases.push_back({"NameCaseOfPlainElement", FeedOf(Item("5.1", "\n<pubdate/>")),
+                     "name-case 3:1 pubdate is not read, pubDate is"});
+    cases.push_back({"NameCaseOfAttribute", FeedOf("<item>" + Enclosure("5.1", " sparkle:OS='linux'") + "</item>"),
+                     "name-case 2:7 sparkle:OS is not read, os is"});
+    cases.push_back({"ElementWithoutNamespace", FeedOf(Item("5.1", "\n<minimumSystemVersion>1</minimumSystemVersion>")),
+                     "name-without-namespace 3:1 <minimumSystemVersion> is not in the feed's namespace"});
+    cases.push_back({"AttributeWithoutNamespace", FeedOf("<item>" + Enclosure("5.1", " os='linux'") + "</item>"),
+                     "name-without-namespace 2:7 the attribute os is not in the feed's namespace"});
+    cases.push_back({"RepeatedElement",
+                     FeedOf(Item("5.1", "<link>https://a.example/</link>\n<link>https://b.example/</link>")),
+                     "repeated-element 3:1 another <link> of the item"});
+    cases.push_back({"RepeatedEnclosure", FeedOf("<item>" + Enclosure("5.1") + "\n" + Enclosure("5.1") + "</item>"),
+                     "repeated-enclosure 3:1 another enclosure of the item for the same platform"});
+    cases.push_back({"AnEnclosureForEachPlatformPasses",
+                     FeedOf("<item>" + Enclosure("5.1", " sparkle:os='linux'") +
+                            Enclosure("5.1", " sparkle:os='macos'") + "</item>"),
+                     ""});
+}
+
+void AddVersionCases(std::vector<LintCase>& cases)
+{
+    QByteArray const noVersion = QByteArray(" length='9' sparkle:edSignature='") + SIGNATURE + "'/></item>";
+    cases.push_back({"VersionMissing",
+                     FeedOf("<item><title>T</title><enclosure url='https://a.example/a.zip'" + noVersion),
+                     "version-missing 2:23 item \"T\" has no version"});
+    cases.push_back({"VersionUnreadable", FeedOf(Item("5.1b")), "version-unreadable 2:7 the version is \"5.1b\""});
+    cases.push_back(
+        {"VersionOfFiveNumbers", FeedOf(Item("1.2.3.4.5")), "version-unreadable 2:7 the version is \"1.2.3.4.5\""});
+    cases.push_back({"VersionNegative", FeedOf(Item("1.-2")), "version-unreadable 2:7 the version is \"1.-2\""});
+    cases.push_back(
+        {"VersionOverflow", FeedOf(Item("5.2147483648")), "version-overflow 2:7 the version is \"5.2147483648\""});
+    cases.push_back({"GreatestNumberPasses", FeedOf(Item("5.2147483647")), ""});
+    cases.push_back({"VersionFromFileName", FeedOf("<item><enclosure url='https://a.example/App_5.1.zip'" + noVersion),
+                     "version-from-file-name 2:7 5.1 stands in App_5.1.zip only"});
+    cases.push_back({"VersionMixed", FeedOf(Item("100") + Item("5.9")), "version-mixed 3:7 100 beside 5.9"});
+    cases.push_back(
+        {"VersionSpelling",
+         FeedOf("<item>" + Enclosure("5.1") +
+                "<sparkle:maximumSystemVersion>11</sparkle:maximumSystemVersion>"
+                "</item>\n<item>" +
+                Enclosure("5.1.0") + "<sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion></item>"),
+         "version-spelling 3:7 5.1.0 is the same version as 5.1 in line 2"});
+    cases.push_back({"SamePriority", FeedOf(Item("5.1") + Item("5.1")),
+                     "same-priority 3:7 item 5.1 has the version and the kind of the item in line 2"});
+    cases.push_back({"AnInstallerBesideABundlePasses",
+                     FeedOf(Item("6.1") + "<item><enclosure url='https://a.example/a.sparkle_guided.pkg'" +
+                            Good("6.1") + "/></item>"),
+                     ""});
+}
+
+void AddSystemCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"SystemBoundUnreadable",
+                     FeedOf("\n" + Item("5.1", "<sparkle:minimumSystemVersion>ten</sparkle:minimumSystemVersion>")),
+                     "system-bound-unreadable 3:1 the minimum system version of item 5.1 is \"ten\""});
+    cases.push_back({"SystemBoundsCrossed",
+                     FeedOf(Item("5.1", "<sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion>"
+                                        "<sparkle:maximumSystemVersion>11</sparkle:maximumSystemVersion>")),
+                     "system-bounds-crossed 2:1 item 5.1 asks for 12 or later and 11 or earlier"});
+    cases.push_back({"PlatformUnknown", FeedOf("<item>" + Enclosure("5.1", " sparkle:os='mac'") + "</item>"),
+                     "platform-unknown 2:7 sparkle:os is \"mac\""});
+    cases.push_back(
+        {"PlatformOfOthersPasses", FeedOf("<item>" + Enclosure("5.1", " sparkle:os='Windows'") + "</item>"), ""});
+    cases.push_back({"PlatformFirst",
+                     FeedOf("<item>" + Enclosure("5.1", " sparkle:os='windows'") + "</item>\n" + Item("5.2")),
+                     "platform-first 2:7 an item for windows stands before the one for all platforms in line 3"});
+    cases.push_back({"PlatformLastPasses",
+                     FeedOf(Item("5.2") + "<item>" + Enclosure("5.1", " sparkle:os='windows'") + "</item>"), ""});
+}
+
+void AddDownloadCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"AddressMissing", FeedOf("<item><sparkle:version>5.1</sparkle:version></item>"),
+                     "address-missing 2:1 item 5.1 has no valid address"});
+    cases.push_back(
+        {"AddressScheme", FeedOf(WithAddress("javascript:alert(1)")), "address-scheme 2:7 javascript:alert(1)"});
+    cases.push_back(
+        {"AddressOfFile", FeedOf(WithAddress("file:///etc/passwd")), "address-scheme 2:7 file:///etc/passwd"});
+    cases.push_back({"AddressInsecure", FeedOf(WithAddress("http://a.example/a.zip")),
+                     "address-insecure 2:7 http://a.example/a.zip"});
+    cases.push_back({"AddressHost", FeedOf(WithAddress("https:/a.zip")), "address-host 2:7 https:/a.zip"});
+    cases.push_back({"AddressCredentials", FeedOf(WithAddress("https://u:p@a.example/a.zip")),
+                     "address-credentials 2:7 the address at a.example"});
+    cases.push_back({"AddressInternational", FeedOf(WithAddress("https://\xD0\xB0pple.example/a.zip")),
+                     "address-international 2:7 the host is xn--pple-43d.example"});
+    cases.push_back({"AddressTooLong", FeedOf(WithAddress("https://a.example/" + QByteArray(8200, 'a'))),
+                     "address-too-long 2:7 https://a.example/"});
+    cases.push_back({"RelativeAddressPasses", FeedOf(WithAddress("a.zip")), ""});
+    cases.push_back({"LengthMissing", FeedOf(WithLength("")), "length-missing 2:7 item 5.1 has no length"});
+    cases.push_back(
+        {"LengthZero", FeedOf(WithLength("length='0'")), "length-zero 2:7 the length of item 5.1 is \"0\""});
+    cases.push_back({"LengthUnreadable", FeedOf(WithLength("length='1e9'")),
+                     "length-unreadable 2:7 the length of item 5.1 is \"1e9\""});
+    cases.push_back({"LengthNegative", FeedOf(WithLength("length='-1'")),
+                     "length-unreadable 2:7 the length of item 5.1 is \"-1\""});
+    cases.push_back({"LengthTooLarge", FeedOf(WithLength("length='18446744073709551616'")),
+                     "length-too-large 2:7 the length of item 5.1 is \"18446744073709551616\""});
+    cases.push_back({"DateTextForm", FeedOf(Item("5.1", "<pubDate>Mon Jan 7 2019</pubDate>")),
+                     "date-text-form 2:7 the date is \"Mon Jan 7 2019\""});
+    cases.push_back({"DateUnusual", FeedOf(Item("5.1", "<pubDate>2019-01-07</pubDate>")),
+                     "date-unusual 2:7 the date is \"2019-01-07\""});
+    cases.push_back({"UsualDatesPass", FeedOf(Item("5.1", "<pubDate>Mon, 07 Jan 2019 10:00:00 GMT</pubDate>")), ""});
+    cases.push_back({"MarkerCase", FeedOf(WithAddress("https://a.example/a.Sparkle_Guided.pkg")),
+                     "marker-case 2:7 a.Sparkle_Guided.pkg"});
+    cases.push_back({"SignatureMissing",
+                     FeedOf("<item><enclosure url='https://a.example/a' length='1' sparkle:version='5.1'/></item>"),
+                     "signature-missing 2:7 item 5.1 has no sparkle:edSignature"});
+    cases.push_back({"SignatureUnreadable",
+                     FeedOf("<item><enclosure url='https://a.example/a' length='1' sparkle:version='5.1' "
+                            "sparkle:edSignature='AAAA'/></item>"),
+                     "signature-unreadable 2:7 the signature of item 5.1 is \"AAAA\""});
+}
+
+void AddDeltaCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"ADeltaPasses", FeedOf(WithDeltas(Delta("5.0"))), ""});
+    cases.push_back({"DeltaFromMissing", FeedOf(WithDeltas("<enclosure url='https://a.example/a' length='1'/>")),
+                     "delta-from-missing 3:17 the delta has no sparkle:deltaFrom"});
+    cases.push_back({"DeltaFromUnreadable", FeedOf(WithDeltas(Delta("5.0b1"))),
+                     "delta-from-unreadable 3:17 sparkle:deltaFrom is \"5.0b1\""});
+    cases.push_back({"DeltaFromRepeated", FeedOf(WithDeltas(Delta("5.0") + "\n" + Delta("5.0.0"))),
+                     "delta-from-repeated 4:1 it starts from 5.0.0, as the delta in line 3 does"});
+    cases.push_back({"DeltaFromNotOlder", FeedOf(WithDeltas(Delta("5.1.0"))),
+                     "delta-from-not-older 3:17 it leads from 5.1.0 to 5.1"});
+    cases.push_back(
+        {"DeltaBaseMissing", FeedOf(WithDeltas(Delta("4.9"))), "delta-base-missing 3:17 no item has the version 4.9"});
+    cases.push_back({"DeltaLargerThanFull", FeedOf(WithDeltas(Delta("5.0", "9"))),
+                     "delta-larger-than-full 3:17 9 bytes, the whole is 9"});
+}
+
+void AddExtensionCases(std::vector<LintCase>& cases)
+{
+    cases.push_back({"ExtensionsPass", FeedOf(Item("5.1", "<pelnar1_A>x</pelnar1_A><PELNAR1_B>y</PELNAR1_B>")), ""});
+    cases.push_back(
+        {"ExtensionAttributeOfItemPasses", FeedOf("<item pelnar1_A='x'>" + Enclosure("5.1") + "</item>"), ""});
+    cases.push_back({"ExtensionNamespace", FeedOf(Item("5.1", "\n<sparkle:pelnar1_A>x</sparkle:pelnar1_A>")),
+                     "extension-namespace 3:1 sparkle:pelnar1_A is in the namespace "
+                     "\"http://www.andymatuschak.org/xml-namespaces/sparkle\""});
+    cases.push_back({"ExtensionOnEnclosure", FeedOf("<item>" + Enclosure("5.1", " pelnar1_A='x'") + "</item>"),
+                     "extension-place 2:7 pelnar1_A is not read here"});
+    cases.push_back({"ExtensionInEnclosure",
+                     FeedOf("<item><enclosure url='https://a.example/a'" + Good("5.1") +
+                            ">\n<pelnar1_A>x</pelnar1_A></enclosure></item>"),
+                     "extension-place 3:1 pelnar1_A is not read here"});
+    cases.push_back({"ExtensionOfChannel", FeedOf("<pelnar1_A>x</pelnar1_A>" + Item("5.1")),
+                     "extension-place 2:1 pelnar1_A is not read here"});
+    cases.push_back({"ExtensionKeyCase", FeedOf(Item("5.1", "<pelnar1_A>x</pelnar1_A>\n<pelnar1_a>y</pelnar1_a>")),
+                     "extension-key-case 3:1 pelnar1_A and pelnar1_a"});
+    cases.push_back({"ExtensionWithAttribute", FeedOf(Item("5.1", "<pelnar1_A b='c'>x</pelnar1_A>")),
+                     "extension-not-text 2:7 pelnar1_A has attributes or children"});
+    cases.push_back({"ExtensionTwice", FeedOf(Item("5.1", "<pelnar1_A>x</pelnar1_A>\n<pelnar1_A>y</pelnar1_A>")),
+                     "extension-not-text 3:1 pelnar1_A stands twice"});
+    cases.push_back({"ExtensionPrefix", FeedOf(Item("5.1", "<pelnar2_A>x</pelnar2_A>")),
+                     "extension-prefix 2:7 pelnar2_A does not begin with pelnar1_"});
+    cases.push_back({"RelaunchPathRelative",
+                     FeedOf(Item("5.1", "<pelnar1_overridepathtorelaunch>App.app</pelnar1_overridepathtorelaunch>")),
+                     "relaunch-path-relative 2:1 the path of item 5.1 is \"App.app\""});
+    cases.push_back({"RelaunchPathAbsolutePasses",
+                     FeedOf(Item("5.1", "<pelnar1_OverridePathToRelaunch>/A/App.app</pelnar1_OverridePathToRelaunch>")),
+                     ""});
+}
+
+void AddNotesCases(std::vector<LintCase>& cases)
+{
+    QByteArray const table = "<description><![CDATA[" + Nested("table", 6) + "]]></description>";
+    cases.push_back(
+        {"NotesOverLimits", FeedOf(Item("5.1", "\n" + table)), "notes-over-limits 3:1 the notes of item 5.1: "});
+    cases.push_back({"NotesInsecure",
+                     FeedOf(Item("5.1", "\n<sparkle:releaseNotesLink>http://a.example/n</sparkle:releaseNotesLink>")),
+                     "notes-insecure 3:1 http://a.example/n"});
+    cases.push_back({"OrdinaryNotesPass",
+                     FeedOf(Item("5.1", "<description>&lt;p&gt;Fast.&lt;/p&gt;</description><sparkle:releaseNotesLink>"
+                                        "https://a.example/n</sparkle:releaseNotesLink>")),
+                     ""});
+}
+
+} // namespace
+
+QByteArray FeedOf(QByteArray const& items)
+{
+    return "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>\n" + items +
+           "</channel></rss>";
+}
+
+std::vector<LintCase> const& LintCases()
+{
+    static std::vector<LintCase> const cases = []
+    {
+        std::vector<LintCase> made;
+        for (auto* const add : {AddDocumentCases, AddNameCases, AddVersionCases, AddSystemCases, AddDownloadCases,
+                                AddDeltaCases, AddExtensionCases, AddNotesCases})
+        {
+            add(made);
+        }
+        return made;
+    }();
+    return cases;
+}
+
+} // namespace Pelnar::Testing

@@ -2,8 +2,10 @@
 
 #include "Publisher/Verb.h"
 
+#include "Publisher/diff/DiffVerb.h"
 #include "Publisher/explain/ExplainVerb.h"
 #include "Publisher/lint/LintVerb.h"
+#include "Publisher/matrix/MatrixVerb.h"
 
 namespace Pelnar::Publisher
 {
@@ -12,6 +14,8 @@ void AddFeedVerbs(CLI::App& program, VerbContext& context)
 {
     AddExplain(program, context);
     AddLint(program, context);
+    AddMatrix(program, context);
+    AddDiff(program, context);
 }
 
 } // namespace Pelnar::Publisher

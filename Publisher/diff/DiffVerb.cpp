@@ -1,0 +1,121 @@
+#include "Publisher/diff/DiffVerb.h"
+
+#include "Publisher/diff/FeedDiff.h"
+
+#include <QJsonArray>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct DiffOptions
+{
+    std::string oldFeed;
+    std::string newFeed;
+    std::string publishedAt;
+    std::string platform = OwnPlatformName().toStdString();
+    std::string versions;
+    bool isJson = false;
+};
+
+/// All versions that either feed names, and one before them all.
+std::vector<NamedVersion> VersionsOfBoth(std::vector<Engine::FeedItem> const& oldItems,
+                                         std::vector<Engine::FeedItem> const& newItems)
+{
+    std::vector<Engine::FeedItem> items = oldItems;
+    items.insert(items.end(), newItems.begin(), newItems.end());
+    std::vector<NamedVersion> versions = VersionsOfFeed(items);
+    versions.insert(versions.begin(), NamedVersion{QStringLiteral("0"), Core::Version(0)});
+    return versions;
+}
+
+QJsonObject JsonOf(std::vector<OutcomeChange> const& changes, QString const& oldName, QString const& newName,
+                   QString const& platform)
+{
+    QJsonArray list;
+    for (OutcomeChange const& change : changes)
+    {
+        list.append(QJsonObject{{QStringLiteral("localVersion"), change.localVersion},
+                                {QStringLiteral("systems"), TextOf(change.systems)},
+                                {QStringLiteral("before"), JsonOf(change.before)},
+                                {QStringLiteral("after"), JsonOf(change.after)}});
+    }
+    return {{QStringLiteral("old"), oldName},
+            {QStringLiteral("new"), newName},
+            {QStringLiteral("platform"), platform},
+            {QStringLiteral("changes"), list}};
+}
+
+ExitStatus Diff(DiffOptions const& options, Console const& console)
+{
+    QString const platform = QString::fromStdString(options.platform);
+    QString const publishedAt = QString::fromStdString(options.publishedAt);
+    auto const before =
+        ReadItems(QString::fromStdString(options.oldFeed), publishedAt, PlatformFromName(platform), console);
+    if (auto const* const problem = std::get_if<Problem>(&before))
+    {
+        return console.Refuse(*problem);
+    }
+    auto const after =
+        ReadItems(QString::fromStdString(options.newFeed), publishedAt, PlatformFromName(platform), console);
+    if (auto const* const problem = std::get_if<Problem>(&after))
+    {
+        return console.Refuse(*problem);
+    }
+    auto const& [oldSource, oldItems] = std::get<ParsedFeed>(before);
+    auto const& [newSource, newItems] = std::get<ParsedFeed>(after);
+    std::variant<std::vector<NamedVersion>, Problem> versions = VersionsOfBoth(oldItems, newItems);
+    if (!options.versions.empty())
+    {
+        versions =
+            ParseVersionList(QStringLiteral("--versions"), QString::fromStdString(options.versions), ParseLocalVersion);
+    }
+    if (auto const* const problem = std::get_if<Problem>(&versions))
+    {
+        return console.Refuse(*problem);
+    }
+    std::vector<OutcomeChange> const changes =
+        DiffFeeds(oldItems, newItems, std::get<std::vector<NamedVersion>>(versions));
+    if (options.isJson)
+    {
+        console.PrintJson(JsonOf(changes, oldSource.name, newSource.name, platform));
+    }
+    else
+    {
+        for (QString const& line : TextOf(changes, std::get<std::vector<NamedVersion>>(versions)))
+        {
+            console.Print(Printable(line));
+        }
+        if (changes.empty())
+        {
+            console.Print(QStringLiteral("no client gets anything else"));
+        }
+    }
+    return changes.empty() ? ExitStatus::Clean : ExitStatus::Findings;
+}
+
+} // namespace
+
+void AddDiff(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<DiffOptions>();
+    CLI::App* const verb = program.add_subcommand(
+        "diff", "Compare two feeds by effect: which installed versions on which systems get something else");
+    verb->add_option("OLD", options->oldFeed, "Path or address of the feed as it was")->required();
+    verb->add_option("NEW", options->newFeed, "Path or address of the feed as it will be, or - for standard input")
+        ->required();
+    verb->add_option("--versions", options->versions,
+                     "Installed versions with commas between them; default: all that either feed names, and 0")
+        ->type_name("LIST");
+    verb->add_option("--platform", options->platform, "Whose items count")
+        ->capture_default_str()
+        ->check(CLI::IsMember(PlatformNames()));
+    verb->add_option("--published-at", options->publishedAt,
+                     "Address of the published feed, for relative addresses in both; default: where each is read")
+        ->type_name("URL");
+    verb->add_flag("--json", options->isJson, "Print one JSON object");
+    verb->callback([options, &context] { context.status = Diff(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,236 @@
+#include "Publisher/matrix/Matrix.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+/// The invalid version when no item has a readable one.
+Core::Version NewestVersion(std::vector<Engine::FeedItem> const& items)
+{
+    Core::Version newest;
+    for (Engine::FeedItem const& item : items)
+    {
+        Core::Version const version = App::Session::VersionFromStringNoexcept(item.versionString);
+        if (version.IsValid() && (!newest.IsValid() || App::Session::IsOlderVersion(newest, version)))
+        {
+            newest = version;
+        }
+    }
+    return newest;
+}
+
+std::vector<Stranded> FindStranded(Matrix const& matrix, Core::Version const& newest)
+{
+    std::vector<Stranded> result;
+    for (std::size_t row = 0; row < matrix.versions.size(); ++row)
+    {
+        Stranded stranded{matrix.versions[row].text, {}, false};
+        for (std::size_t column = 0; column < matrix.systems.size(); ++column)
+        {
+            if (!matrix.outcomes[row][column].IsUpdate())
+            {
+                stranded.systems.append(matrix.systems[column].text);
+            }
+        }
+        stranded.isEverywhere = std::size_t(stranded.systems.size()) == matrix.systems.size();
+        bool const hasNewer = newest.IsValid() && App::Session::IsOlderVersion(matrix.versions[row].version, newest);
+        if (hasNewer && !stranded.systems.isEmpty())
+        {
+            result.push_back(stranded);
+        }
+    }
+    return result;
+}
+
+QString Row(QStringList const& cells, std::vector<int> const& widths)
+{
+    QString line;
+    for (int i = 0; i < cells.size(); ++i)
+    {
+        line += cells.at(i).leftJustified(widths[std::size_t(i)] + 2);
+    }
+    return line.trimmed();
+}
+
+/// One line for all versions that the same systems hold.
+QStringList StrandedLines(std::vector<Stranded> const& stranded)
+{
+    QStringList lines;
+    QString systems;
+    for (Stranded const& each : stranded)
+    {
+        QString const there = each.isEverywhere ? QStringLiteral("on every system")
+                                                : QStringLiteral("on ") + each.systems.join(QStringLiteral(", "));
+        if (!lines.isEmpty() && there == systems)
+        {
+            lines.last() += QStringLiteral(", ") + each.version;
+            continue;
+        }
+        systems = there;
+        lines.append(QStringLiteral("stranded %1: %2").arg(there, each.version));
+    }
+    return lines;
+}
+
+QJsonArray TextsOf(std::vector<NamedVersion> const& versions)
+{
+    QJsonArray texts;
+    for (NamedVersion const& version : versions)
+    {
+        texts.append(version.text);
+    }
+    return texts;
+}
+
+/// The outcome that a cell of the JSON describes.
+QString OutcomeText(QJsonValue const& offered)
+{
+    return TextOf(Outcome{offered[QStringLiteral("version")].toString(),
+                          offered[QStringLiteral("updateType")].toString(),
+                          offered[QStringLiteral("deltaFrom")].toString(),
+                          {},
+                          0});
+}
+
+} // namespace
+
+Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedVersion> const& versions,
+                  std::vector<NamedVersion> const& systems)
+{
+    Matrix matrix;
+    matrix.versions = versions;
+    matrix.systems = systems;
+    for (NamedVersion const& version : versions)
+    {
+        std::vector<Outcome>& row = matrix.outcomes.emplace_back();
+        for (NamedVersion const& system : systems)
+        {
+            row.push_back(OutcomeFor(items, {version.version, system.version}));
+        }
+    }
+    matrix.stranded = FindStranded(matrix, NewestVersion(items));
+    return matrix;
+}
+
+QJsonObject JsonOf(Matrix const& matrix)
+{
+    QJsonArray cells;
+    for (std::size_t row = 0; row < matrix.versions.size(); ++row)
+    {
+        for (std::size_t column = 0; column < matrix.systems.size(); ++column)
+        {
+            cells.append(QJsonObject{{QStringLiteral("localVersion"), matrix.versions[row].text},
+                                     {QStringLiteral("systemVersion"), matrix.systems[column].text},
+                                     {QStringLiteral("offered"), JsonOf(matrix.outcomes[row][column])}});
+        }
+    }
+    QJsonArray stranded;
+    for (Stranded const& each : matrix.stranded)
+    {
+        stranded.append(QJsonObject{{QStringLiteral("version"), each.version},
+                                    {QStringLiteral("systems"), QJsonArray::fromStringList(each.systems)},
+                                    {QStringLiteral("everywhere"), each.isEverywhere}});
+    }
+    return {{QStringLiteral("feed"), matrix.feed},
+            {QStringLiteral("platform"), matrix.platform},
+            {QStringLiteral("versions"), TextsOf(matrix.versions)},
+            {QStringLiteral("systems"), TextsOf(matrix.systems)},
+            {QStringLiteral("cells"), cells},
+            {QStringLiteral("stranded"), stranded}};
+}
+
+QStringList TextOf(Matrix const& matrix)
+{
+    QList<QStringList> rows{{QStringLiteral("installed")}};
+    for (NamedVersion const& system : matrix.systems)
+    {
+        rows.first().append(QStringLiteral("on ") + system.text);
+    }
+    for (std::size_t row = 0; row < matrix.versions.size(); ++row)
+    {
+        rows.append({matrix.versions[row].text});
+        for (Outcome const& outcome : matrix.outcomes[row])
+        {
+            rows.last().append(TextOf(outcome));
+        }
+    }
+    std::vector<int> widths(matrix.systems.size() + 1, 0);
+    for (QStringList const& row : rows)
+    {
+        for (int i = 0; i < row.size(); ++i)
+        {
+            widths[std::size_t(i)] = std::max(widths[std::size_t(i)], row.at(i).size());
+        }
+    }
+    QStringList lines;
+    for (QStringList const& row : rows)
+    {
+        lines.append(Row(row, widths));
+    }
+    return lines + StrandedLines(matrix.stranded);
+}
+
+std::variant<std::vector<ExpectedCell>, Problem> ParseExpectation(QString const& file, QByteArray const& json)
+{
+    Problem const bad{file, 0, 0, QStringLiteral("not the JSON of pelnar-appcast matrix"),
+                      QStringLiteral("write it with pelnar-appcast matrix FEED ... --json")};
+    QJsonValue const cells = QJsonDocument::fromJson(json).object().value(QStringLiteral("cells"));
+    if (!cells.isArray())
+    {
+        return bad;
+    }
+    std::vector<ExpectedCell> expected;
+    QJsonArray const list = cells.toArray();
+    for (QJsonValue const& cell : list)
+    {
+        auto const local = ParseLocalVersion(file, cell[QStringLiteral("localVersion")].toString());
+        auto const system = ParseSystemVersion(file, cell[QStringLiteral("systemVersion")].toString());
+        QJsonValue const offered = cell[QStringLiteral("offered")];
+        if (std::holds_alternative<Problem>(local) || std::holds_alternative<Problem>(system) ||
+            !(offered.isNull() || offered.isObject()))
+        {
+            return bad;
+        }
+        expected.push_back({std::get<NamedVersion>(local), std::get<NamedVersion>(system), OutcomeText(offered)});
+    }
+    return expected;
+}
+
+QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& expected)
+{
+    QStringList lines;
+    for (std::size_t row = 0; row < matrix.versions.size(); ++row)
+    {
+        for (std::size_t column = 0; column < matrix.systems.size(); ++column)
+        {
+            QString const& version = matrix.versions[row].text;
+            QString const& system = matrix.systems[column].text;
+            QString const outcome = TextOf(matrix.outcomes[row][column]);
+            auto const cell =
+                std::find_if(expected.begin(), expected.end(),
+                             [&](ExpectedCell const& each)
+                             { return each.localVersion.text == version && each.systemVersion.text == system; });
+            if (cell == expected.end())
+            {
+                lines.append(
+                    QStringLiteral("%1 on %2: %3, and nothing was expected of it").arg(version, system, outcome));
+            }
+            else if (cell->outcome != outcome)
+            {
+                lines.append(QStringLiteral("%1 on %2: %3, expected %4").arg(version, system, outcome, cell->outcome));
+            }
+        }
+    }
+    return lines;
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,177 @@
+#include "Publisher/matrix/MatrixVerb.h"
+
+#include "Publisher/matrix/Matrix.h"
+
+#include <QFile>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr char const* FROM_FEED = "from-feed";
+
+struct MatrixOptions
+{
+    std::string feed;
+    std::string publishedAt;
+    std::string platform = OwnPlatformName().toStdString();
+    std::string versions;
+    std::string systems;
+    std::string expectation;
+    bool isJson = false;
+};
+
+using Versions = std::variant<std::vector<NamedVersion>, Problem>;
+
+std::variant<std::vector<ExpectedCell>, Problem> ReadExpectation(MatrixOptions const& options)
+{
+    if (options.expectation.empty())
+    {
+        return std::vector<ExpectedCell>();
+    }
+    QString const name = QString::fromStdString(options.expectation);
+    QFile file(name);
+    if (!file.open(QIODevice::ReadOnly))
+    {
+        return Problem{name, 0, 0, QStringLiteral("cannot be read: ") + file.errorString(),
+                       QStringLiteral("give the JSON that an earlier run of matrix wrote")};
+    }
+    return ParseExpectation(name, file.readAll());
+}
+
+/// The versions of \a cells, each once and in their order.
+std::vector<NamedVersion> Of(std::vector<ExpectedCell> const& cells, NamedVersion ExpectedCell::*member)
+{
+    std::vector<NamedVersion> versions;
+    for (ExpectedCell const& cell : cells)
+    {
+        NamedVersion const& version = cell.*member;
+        if (std::none_of(versions.begin(), versions.end(),
+                         [&](NamedVersion const& each) { return each.text == version.text; }))
+        {
+            versions.push_back(version);
+        }
+    }
+    return versions;
+}
+
+Versions InstalledVersions(MatrixOptions const& options, std::vector<ExpectedCell> const& expected,
+                           std::vector<Engine::FeedItem> const& items)
+{
+    if (options.versions == FROM_FEED)
+    {
+        return VersionsOfFeed(items);
+    }
+    if (options.versions.empty() && !options.expectation.empty())
+    {
+        return Of(expected, &ExpectedCell::localVersion);
+    }
+    return ParseVersionList(QStringLiteral("--versions"), QString::fromStdString(options.versions), ParseLocalVersion);
+}
+
+Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& expected)
+{
+    if (options.systems.empty() && !options.expectation.empty())
+    {
+        return Of(expected, &ExpectedCell::systemVersion);
+    }
+    return ParseVersionList(QStringLiteral("--systems"), QString::fromStdString(options.systems), ParseSystemVersion);
+}
+
+ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expected, MatrixOptions const& options,
+                  Console const& console)
+{
+    if (options.isJson)
+    {
+        console.PrintJson(JsonOf(matrix));
+    }
+    else
+    {
+        for (QString const& line : TextOf(matrix))
+        {
+            console.Print(Printable(line));
+        }
+    }
+    if (options.expectation.empty())
+    {
+        return ExitStatus::Clean;
+    }
+    QStringList const differences = Differences(matrix, expected);
+    for (QString const& line : differences)
+    {
+        console.err.stream << console.err.Styled(Emphasis::Bad, QStringLiteral("not as expected: "))
+                           << Printable(line).toStdString() << '\n';
+    }
+    return differences.isEmpty() ? ExitStatus::Clean : ExitStatus::Findings;
+}
+
+ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
+{
+    if (options.expectation.empty() && (options.versions.empty() || options.systems.empty()))
+    {
+        return console.Refuse({QString(), 0, 0,
+                               QStringLiteral("--versions and --systems are required without --expect"),
+                               QStringLiteral("see pelnar-appcast matrix --help")});
+    }
+    auto const expectation = ReadExpectation(options);
+    if (auto const* const problem = std::get_if<Problem>(&expectation))
+    {
+        return console.Refuse(*problem);
+    }
+    auto const& expected = std::get<std::vector<ExpectedCell>>(expectation);
+    QString const platform = QString::fromStdString(options.platform);
+    auto const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                                PlatformFromName(platform), console);
+    if (auto const* const problem = std::get_if<Problem>(&feed))
+    {
+        return console.Refuse(*problem);
+    }
+    std::vector<Engine::FeedItem> const& items = std::get<ParsedFeed>(feed).items;
+    Versions const versions = InstalledVersions(options, expected, items);
+    Versions const systems = Systems(options, expected);
+    for (Versions const* list : {&versions, &systems})
+    {
+        if (auto const* const problem = std::get_if<Problem>(list))
+        {
+            return console.Refuse(*problem);
+        }
+    }
+    Matrix matrix =
+        MakeMatrix(items, std::get<std::vector<NamedVersion>>(versions), std::get<std::vector<NamedVersion>>(systems));
+    matrix.feed = std::get<ParsedFeed>(feed).source.name;
+    matrix.platform = platform;
+    return Answer(matrix, expected, options, console);
+}
+
+} // namespace
+
+void AddMatrix(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<MatrixOptions>();
+    CLI::App* const verb =
+        program.add_subcommand("matrix", "Say who gets what: every installed version on every system");
+    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
+    verb->add_option("--versions", options->versions,
+                     "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
+        ->type_name("LIST");
+    verb->add_option("--systems", options->systems,
+                     "Versions of the operating system with commas between them; \"unknown\" may be one")
+        ->type_name("LIST");
+    verb->add_option("--platform", options->platform, "Whose items count")
+        ->capture_default_str()
+        ->check(CLI::IsMember(PlatformNames()));
+    verb->add_option("--published-at", options->publishedAt,
+                     "Address of the published feed, for relative addresses in it; default: where it is read")
+        ->type_name("URL");
+    verb->add_option("--expect", options->expectation,
+                     "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
+                     "defaults")
+        ->type_name("FILE");
+    verb->add_flag("--json", options->isJson, "Print one JSON object");
+    verb->callback([options, &context] { context.status = ShowMatrix(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

@@ -28,6 +28,7 @@ char const* SeverityName(Severity severity);
     RULE(TooDeep, "too-deep", Error, "Elements are nested deeper than clients follow.", "nest at most 64 elements") \
     RULE(TooManyAttributes, "too-many-attributes", Error, "A tag has more attributes than clients read.", "give at most 256 attributes to one tag") \
     RULE(TagTooLong, "tag-too-long", Error, "A tag is longer than clients read.", "keep every tag below 64 KiB; texts belong into elements") \
+    RULE(TooMuchMarkup, "too-much-markup", Error, "The feed has more elements and attributes than clients read.", "keep at most 100000 of both together; old items can go") \
     RULE(TooManyItems, "too-many-items", Error, "The feed has more items than clients read.", "keep at most 2000 items") \
     RULE(TooManyNamespaces, "too-many-namespaces", Error, "More namespaces are declared at one place than clients follow.", "declare each namespace once, on the root element") \
     RULE(NotAFeed, "not-a-feed", Error, "The document is a web page.", "publish the feed itself at this address") \

@@ -26,6 +26,8 @@ LintRule RuleOf(FeedErrorKind kind)
         return LintRule::TooManyAttributes;
     case FeedErrorKind::TagTooLong:
         return LintRule::TagTooLong;
+    case FeedErrorKind::TooMuchMarkup:
+        return LintRule::TooMuchMarkup;
     case FeedErrorKind::TooManyItems:
         return LintRule::TooManyItems;
     case FeedErrorKind::TooManyNamespaces:
@@ -125,13 +127,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform pla
 void LintFindings::Add(LintRule rule, LintPlace place, QString const& what)
 {
     // The items that all platforms take are looked at once for each of them.
-    bool const isKnown = std::any_of(m_findings.begin(), m_findings.end(),
-                                     [&](LintFinding const& each)
-                                     {
-                                         return each.rule == rule && each.place.line == place.line &&
-                                                each.place.column == place.column && each.what == what;
-                                     });
-    if (!isKnown)
+    if (m_known.emplace(rule, place.line, place.column, what).second)
     {
         m_findings.push_back({rule, place, what});
     }

@@ -8,6 +8,8 @@
 #include <QUrl>
 
 #include <memory>
+#include <set>
+#include <tuple>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -31,6 +33,7 @@ public:
 
 private:
     std::vector<LintFinding> m_findings;
+    std::set<std::tuple<LintRule, int, int, QString>> m_known;
 };
 
 /// An item or a delta, as the parser reads it and as it is written.

@@ -93,6 +93,8 @@ void AddDocumentCases(std::vector<LintCase>& cases)
     cases.push_back({"TagTooLong", "<rss a='" + QByteArray(70000, 'x') + "'/>", "tag-too-long 1:1"});
     cases.push_back(
         {"TooManyItems", "<rss>" + QByteArray("<item/>").repeated(2001) + "</rss>", "too-many-items 1:14013"});
+    cases.push_back(
+        {"TooMuchMarkup", "<rss>" + QByteArray("<a/>").repeated(100 * 1000) + "</rss>", "too-much-markup 1:"});
     cases.push_back({"TooManyNamespaces", "<rss" + Namespaces(65) + "/>", "too-many-namespaces 1:"});
     cases.push_back({"NotAFeed", "<html><body/></html>", "not-a-feed 1:7"});
     cases.push_back({"NoItems", "<rss><channel/></rss>", "no-items 1:1 the feed has no item"});

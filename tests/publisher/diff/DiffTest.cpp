@@ -1,0 +1,173 @@
+// DiffTest.cpp: `pelnar-appcast diff`: two feeds by their effect.
+
+#include "Engine/core/feed/FeedParser.h"
+#include "Publisher/diff/FeedDiff.h"
+#include "tests/publisher/support/AppcastTool.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+#include <random>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+QByteArray Item(QByteArray const& version, QByteArray const& more = {}, QByteArray const& host = "a.example")
+{
+    return "<item>" + more + "<enclosure url='https://" + host + "/" + version + ".zip' length='9' sparkle:version='" +
+           version + "'/></item>";
+}
+
+QByteArray Minimum(QByteArray const& version)
+{
+    return "<sparkle:minimumSystemVersion>" + version + "</sparkle:minimumSystemVersion>";
+}
+
+QByteArray Maximum(QByteArray const& version)
+{
+    return "<sparkle:maximumSystemVersion>" + version + "</sparkle:maximumSystemVersion>";
+}
+
+QByteArray FeedOf(QByteArray const& items)
+{
+    return "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" + items +
+           "</channel></rss>";
+}
+
+std::vector<Engine::FeedItem> ItemsOf(QByteArray const& items)
+{
+    return Engine::ParseFeed(FeedOf(items), QUrl(QStringLiteral("https://a.example/appcast.xml")),
+                             Engine::FeedPlatform::Linux)
+        .items;
+}
+
+class Diff : public ::testing::Test
+{
+protected:
+    ToolRun Run(QByteArray const& oldItems, QByteArray const& newItems, QStringList const& more = {})
+    {
+        QString const path = m_folder.filePath(QStringLiteral("old.xml"));
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(FeedOf(oldItems));
+        file.close();
+        return RunTool(QStringList{QStringLiteral("diff"), path, QStringLiteral("-")} + more, FeedOf(newItems));
+    }
+
+private:
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(Diff, FeedsWithTheSameEffectAreEqualHoweverTheyAreWritten)
+{
+    ToolRun const run = Run(Item("5.1") + Item("5.0"), Item("5.0", "<title>Other words</title>") + Item("5.1"));
+    EXPECT_EQ(run.out, "no client gets anything else\n");
+    EXPECT_EQ(run.status, 0);
+}
+
+TEST_F(Diff, ANewVersionReachesAllThatAreOlder)
+{
+    ToolRun const run = Run(Item("5.1"), Item("5.2") + Item("5.1"));
+    EXPECT_EQ(run.out, "0 on all systems: 5.1 BUNDLE -> 5.2 BUNDLE\n5.1 on all systems: none -> 5.2 BUNDLE\n");
+    EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(Diff, NamesTheSystemsByTheBoundsOfBothFeeds)
+{
+    ToolRun const run = Run(Item("5.1", Maximum("12")), Item("5.1", Minimum("11")));
+    EXPECT_EQ(run.out, "0 on systems below 11: 5.1 BUNDLE -> none\n0 on systems above 12: none -> 5.1 BUNDLE\n");
+}
+
+TEST_F(Diff, JoinsRangesWithTheSameChange)
+{
+    ToolRun const run = Run(Item("5.1") + Item("4.0", Minimum("11")) + Item("3.0", Maximum("12")), "");
+    EXPECT_EQ(run.out, "0 to 4.0 on all systems: 5.1 BUNDLE -> none\n");
+}
+
+TEST_F(Diff, AnotherDownloadOfTheSameVersionIsAChange)
+{
+    ToolRun const run = Run(Item("5.1"), Item("5.1", {}, "b.example"));
+    EXPECT_EQ(run.out, "0 on all systems: 5.1 BUNDLE (9 bytes, https://a.example/5.1.zip) -> 5.1 BUNDLE (9 bytes, "
+                       "https://b.example/5.1.zip)\n");
+}
+
+TEST_F(Diff, LooksAtTheGivenVersionsOnly)
+{
+    ToolRun const run = Run(Item("5.1"), Item("5.2"), {QStringLiteral("--versions"), QStringLiteral("5.1")});
+    EXPECT_EQ(run.out, "5.1 on all systems: none -> 5.2 BUNDLE\n");
+}
+
+TEST_F(Diff, TheJsonHasAnObjectForEveryChange)
+{
+    QJsonObject const object = Run("", Item("5.1"), {QStringLiteral("--json")}).Json();
+    QJsonArray const changes = object[QStringLiteral("changes")].toArray();
+    ASSERT_EQ(changes.size(), 1);
+    EXPECT_EQ(changes[0].toObject()[QStringLiteral("localVersion")], QStringLiteral("0"));
+    EXPECT_EQ(changes[0].toObject()[QStringLiteral("systems")], QStringLiteral("all systems"));
+    EXPECT_TRUE(changes[0].toObject()[QStringLiteral("before")].isNull());
+    EXPECT_EQ(changes[0].toObject()[QStringLiteral("after")].toObject()[QStringLiteral("version")],
+              QStringLiteral("5.1"));
+}
+
+TEST_F(Diff, FeedsThatCannotBeReadAreRefused)
+{
+    EXPECT_EQ(Run(Item("5.1"), "<item>").status, 2);
+    EXPECT_EQ(RunAppcastProgram({QStringLiteral("diff"), QStringLiteral("/nowhere.xml"), QStringLiteral("-")}).status,
+              2);
+}
+
+TEST(SystemRanges, LeaveNoSystemOut)
+{
+    auto const ranges =
+        Publisher::SystemRanges(ItemsOf(Item("5", Minimum("0") + Maximum("12.2147483647"))),
+                                ItemsOf(Item("5", Maximum("2147483647.2147483647.2147483647.2147483647"))));
+    ASSERT_EQ(ranges.size(), 2u);
+    EXPECT_EQ(Publisher::TextOf(ranges[0]).toStdString(), "systems up to 12.2147483647");
+    EXPECT_EQ(Publisher::TextOf(ranges[1]).toStdString(), "systems above 12.2147483647");
+}
+
+TEST(SystemRanges, WithinARangeEverySystemHasTheSameOutcome)
+{
+    std::mt19937 engine(7);
+    auto const number = [&](int below) { return std::uniform_int_distribution<int>(0, below - 1)(engine); };
+    auto const bound = [&] { return QByteArray::number(number(6)) + "." + QByteArray::number(number(3)); };
+    for (int round = 0; round < 200; ++round)
+    {
+        QByteArray items;
+        for (int i = 0; i < 4; ++i)
+        {
+            items += Item(QByteArray::number(5 + i), (number(2) ? Minimum(bound()) : QByteArray()) +
+                                                         (number(2) ? Maximum(bound()) : QByteArray()));
+        }
+        std::vector<Engine::FeedItem> const feed = ItemsOf(items);
+        std::vector<Publisher::SystemRange> const ranges = Publisher::SystemRanges(feed, {});
+        for (int probe = 0; probe < 40; ++probe)
+        {
+            Core::Version const system(number(7), number(4), number(2));
+            // The last range that begins at or below the system holds it.
+            Publisher::SystemRange const* holder = nullptr;
+            for (Publisher::SystemRange const& range : ranges)
+            {
+                bool const isBelow = Core::Util::ShrinkVersion(system, 4) < Core::Util::ShrinkVersion(range.first, 4);
+                holder = isBelow ? holder : &range;
+            }
+            ASSERT_NE(holder, nullptr);
+            EXPECT_EQ(Publisher::TextOf(Publisher::OutcomeFor(feed, {Core::Version(1), system})),
+                      Publisher::TextOf(Publisher::OutcomeFor(feed, {Core::Version(1), holder->first})))
+                << items.toStdString();
+        }
+    }
+}
+
+} // namespace Pelnar::Testing

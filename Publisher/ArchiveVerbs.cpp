@@ -3,6 +3,7 @@
 
 #include "Publisher/Verb.h"
 #include "Publisher/delta/DeltaVerb.h"
+#include "Publisher/generate/GenerateVerb.h"
 #include "Publisher/keys/KeysVerbs.h"
 #include "Publisher/serve/ServeVerb.h"
 
@@ -14,6 +15,7 @@ void AddArchiveVerbs(CLI::App& program, VerbContext& context)
     AddKeys(program, context);
     AddSign(program, context);
     AddVerify(program, context);
+    AddGenerate(program, context);
     AddDelta(program, context);
     AddServe(program, context);
 }

@@ -1,0 +1,18 @@
+// CommandDescription.h: the command line of the publisher's tool as a manual page and as a completion for bash, made
+// from the very description that it is parsed and helped by.
+// Thread: the main thread. Ownership: values only.
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include <string>
+
+namespace Pelnar::Publisher
+{
+
+/// In roff, for section 1.
+std::string ManualPage(CLI::App const& program);
+/// To be sourced by bash.
+std::string BashCompletion(CLI::App const& program);
+
+} // namespace Pelnar::Publisher

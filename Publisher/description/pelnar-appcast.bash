@@ -1,0 +1,67 @@
+# Completion of pelnar-appcast for bash, made from the program's own description of its command line.
+_pelnar_appcast()
+{
+    local current=${COMP_WORDS[COMP_CWORD]} previous=${COMP_WORDS[COMP_CWORD - 1]}
+    local verb="" words="" word
+    for word in "${COMP_WORDS[@]:1:COMP_CWORD - 1}"; do
+        case "$verb/$word" in
+            "/explain" | \
+            "/lint" | \
+            "/matrix" | \
+            "/diff" | \
+            "/keys" | \
+            "/sign" | \
+            "/verify" | \
+            "/generate" | \
+            "/delta" | \
+            "/serve" | \
+            "keys/generate" | \
+            "keys/show" | \
+            "keys/export" | \
+            "delta/create" | \
+            "delta/apply" | \
+            "delta/show")
+                verb="${verb:+$verb }$word" ;;
+        esac
+    done
+    case "$verb $previous" in
+        "explain --platform") words="macos linux" ;;
+        "matrix --platform") words="macos linux" ;;
+        "diff --platform") words="macos linux" ;;
+        "keys generate --format") words="xml gnustep bare" ;;
+        "keys show --format") words="xml gnustep bare" ;;
+        "keys export --form") words="seed secret-key" ;;
+    esac
+    if [ -z "$words" ]; then
+        case "$verb" in
+            "") words="explain lint matrix diff keys sign verify generate delta serve -h --help" ;;
+            "explain") words="-h --help --local-version --system-version --platform --published-at --after-delta --json" ;;
+            "lint") words="-h --help --published-at --fetch --public-key --strict --json --rules" ;;
+            "matrix") words="-h --help --versions --systems --platform --published-at --expect --json" ;;
+            "diff") words="-h --help --versions --platform --published-at --json" ;;
+            "keys") words="generate show export -h --help" ;;
+            "keys generate") words="-h --help --format" ;;
+            "keys show") words="-h --help --format" ;;
+            "keys export") words="-h --help --form --to-terminal" ;;
+            "sign") words="-h --help --key" ;;
+            "verify") words="-h --help --signature --public-key" ;;
+            "generate") words="-h --help --key --url-prefix -o --output --title --link --deltas" ;;
+            "delta") words="create apply show -h --help" ;;
+            "delta create") words="-h --help -o --output --key" ;;
+            "delta apply") words="-h --help -o --output" ;;
+            "delta show") words="-h --help --json" ;;
+            "serve") words="-h --help --port --fault --tls --end-with-input" ;;
+        esac
+        # A verb with verbs takes nothing else; any other takes files besides its options.
+        case "$verb" in
+            "" | "keys" | "delta") ;;
+            *)
+                if [[ $current != -* ]]; then
+                    mapfile -t COMPREPLY < <(compgen -f -- "$current")
+                    return
+                fi ;;
+        esac
+    fi
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+}
+complete -o filenames -F _pelnar_appcast pelnar-appcast

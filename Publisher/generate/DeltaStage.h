@@ -1,0 +1,45 @@
+// DeltaStage.h: the deltas of a feed's new items: those that lie in the folder, proved, and those that are made.
+// Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
+#pragma once
+
+#include "Publisher/generate/Workplace.h"
+
+namespace Pelnar::Publisher
+{
+
+class DeltaStage
+{
+public:
+    /// \a archives: everything in the folder.
+    DeltaStage(Workplace const& workplace, PublishedFeed const& feed, std::vector<FolderArchive> const& archives)
+        : m_workplace(workplace), m_feed(feed), m_archives(archives)
+    {
+    }
+
+    /// Gives each of \a items the deltas to it that lie in the folder, and the newest bundle for Linux, unless a
+    /// published one is newer, deltas from the \a count versions before it whose archives lie in the folder. A delta is
+    /// taken only when it makes the very bundle of the item's archive and is smaller than that. Throws Refusal.
+    void AddTo(std::vector<NewItem>& items, int count);
+
+private:
+    /// A bundle for Linux whose archive lies in the folder.
+    struct Base
+    {
+        QString fileName;
+        QString versionText;
+        Core::Version version;
+    };
+
+    std::vector<Base> FindBases(std::vector<NewItem> const& items) const;
+    void TakeGiven(std::vector<NewItem>& items);
+    void TakeGiven(NewItem& item, QString const& fileName, QString const& baseVersion);
+    NewItem* NewestItem(std::vector<NewItem>& items) const;
+    void Make(NewItem& item, Base const& base);
+
+    Workplace const& m_workplace;
+    PublishedFeed const& m_feed;
+    std::vector<FolderArchive> const& m_archives;
+    std::vector<Base> m_bases; ///< newest first
+};
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,200 @@
+#include "Publisher/generate/FolderScan.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
+#include "Publisher/Refusal.h"
+
+#include <QDir>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr char const* BUNDLE_ENDINGS[] = {".zip", ".tar.gz", ".tgz", ".tar.bz2", ".tbz2",
+                                          ".tbz", ".tar.xz", ".txz", ".tar.zst", ".tzst"};
+constexpr char DELTA_ENDING[] = ".delta";
+constexpr char INSTALLER_MARK[] = ".sparkle_";
+constexpr char GUIDED_MARK[] = ".sparkle_guided.";
+
+struct NotesEnding
+{
+    char const* ending;
+    Engine::ReleaseNotesFormat format;
+};
+
+constexpr NotesEnding NOTES_ENDINGS[] = {
+    {".html", Engine::ReleaseNotesFormat::Html},     {".htm", Engine::ReleaseNotesFormat::Html},
+    {".md", Engine::ReleaseNotesFormat::Markdown},   {".markdown", Engine::ReleaseNotesFormat::Markdown},
+    {".txt", Engine::ReleaseNotesFormat::PlainText},
+};
+
+/// \a name without the first of \a endings that it has; nothing when it has none.
+std::optional<QString> StemOf(QString const& name, char const* ending)
+{
+    bool const hasEnding = name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
+    return hasEnding ? name.chopped(int(qstrlen(ending))) : std::optional<QString>();
+}
+
+std::optional<FolderArchive> Classify(QString const& name)
+{
+    if (App::Session::DetectUpdateType(false, name) == App::Session::UpdateType::INSTALLER)
+    {
+        return FolderArchive{name, name.left(name.lastIndexOf(QLatin1String(INSTALLER_MARK))),
+                             name.contains(QLatin1String(GUIDED_MARK)) ? ArchiveKind::GuidedInstaller
+                                                                       : ArchiveKind::InteractiveInstaller};
+    }
+    if (std::optional<QString> const stem = StemOf(name, DELTA_ENDING))
+    {
+        return FolderArchive{name, *stem, ArchiveKind::Delta};
+    }
+    for (char const* const ending : BUNDLE_ENDINGS)
+    {
+        if (std::optional<QString> const stem = StemOf(name, ending))
+        {
+            return FolderArchive{name, *stem, ArchiveKind::Bundle};
+        }
+    }
+    return std::nullopt;
+}
+
+/// The line of the first character of \a text that XML does not allow; 0 when there is none.
+int LineOfBadCharacter(QString const& text)
+{
+    int line = 1;
+    for (QChar const character : text)
+    {
+        ushort const code = character.unicode();
+        bool const isControl = code < 0x20 && code != '\t' && code != '\n' && code != '\r';
+        if (isControl || code >= 0xFFFE)
+        {
+            return line;
+        }
+        line += code == '\n' ? 1 : 0;
+    }
+    return 0;
+}
+
+QString WhyRefused(Engine::ReleaseNotesRefusal refusal)
+{
+    switch (refusal)
+    {
+    case Engine::ReleaseNotesRefusal::None:
+    case Engine::ReleaseNotesRefusal::TooLong:
+        return QStringLiteral("they are too long");
+    case Engine::ReleaseNotesRefusal::TooDeep:
+        return QStringLiteral("elements are nested too deep");
+    case Engine::ReleaseNotesRefusal::TablesTooDeep:
+        return QStringLiteral("tables are nested too deep");
+    case Engine::ReleaseNotesRefusal::TooManyElements:
+        return QStringLiteral("there are too many elements");
+    case Engine::ReleaseNotesRefusal::TooManyListItems:
+        return QStringLiteral("there are too many list items");
+    case Engine::ReleaseNotesRefusal::TooMuchPreformatted:
+        return QStringLiteral("there is too much preformatted text");
+    case Engine::ReleaseNotesRefusal::TooManyCells:
+        return QStringLiteral("a table has too many cells");
+    case Engine::ReleaseNotesRefusal::TooMuchTableText:
+        return QStringLiteral("there is too much text in tables");
+    case Engine::ReleaseNotesRefusal::BlockTooLong:
+        return QStringLiteral("a paragraph is too long");
+    }
+    return QStringLiteral("they are over a limit");
+}
+
+QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
+{
+    Engine::ReleaseNotesLimits const limits;
+    QByteArray const bytes =
+        ReadInputFile(OpenInputFile(path), limits.maxBytes,
+                      QStringLiteral("shorten the notes: clients show no longer ones, and fetch them with every feed"));
+    QString const text = QString::fromUtf8(bytes.constData(), bytes.size()); // a NUL does not end it
+    int const badLine = LineOfBadCharacter(text);
+    if (text.toUtf8() != bytes && QByteArray("\xEF\xBB\xBF" + text.toUtf8()) != bytes)
+    {
+        throw Refusal({path, 0, 0, QStringLiteral("is not UTF-8"), QStringLiteral("save the notes as UTF-8")});
+    }
+    if (badLine > 0)
+    {
+        throw Refusal({path, badLine, 0, QStringLiteral("has a control character, which a feed cannot hold"),
+                       QStringLiteral("remove it")});
+    }
+    Engine::FilteredReleaseNotes const shown = Engine::FilterReleaseNotes(text.toStdString(), format, limits);
+    if (shown.refusal != Engine::ReleaseNotesRefusal::None)
+    {
+        throw Refusal({path, 0, 0,
+                       QStringLiteral("clients would show these notes as plain text: ") + WhyRefused(shown.refusal),
+                       QStringLiteral("make the notes simpler")});
+    }
+    return format == Engine::ReleaseNotesFormat::Html ? text : QString::fromStdString(shown.html);
+}
+
+void RefuseLink(QString const& path)
+{
+    if (QFileInfo(path).isSymLink())
+    {
+        throw Refusal({path, 0, 0, QStringLiteral("is a link, which a web server may not follow"),
+                       QStringLiteral("put the file itself into the folder")});
+    }
+}
+
+} // namespace
+
+QString PathIn(QString const& folder, QString const& fileName)
+{
+    return QDir(folder).filePath(fileName);
+}
+
+std::vector<FolderArchive> ScanFolder(QString const& folder)
+{
+    QDir const entries(folder);
+    if (!entries.exists() || !QFileInfo(folder).isReadable())
+    {
+        RefuseFile(folder, QStringLiteral("cannot be read"), entries.exists() ? EACCES : ENOENT,
+                   QStringLiteral("name the folder of the archives"));
+    }
+    // System files among them: a link that leads nowhere is one.
+    QStringList names = entries.entryList(QDir::Files | QDir::System, QDir::NoSort);
+    std::sort(names.begin(), names.end());
+    std::vector<FolderArchive> archives;
+    for (QString const& name : names)
+    {
+        if (std::optional<FolderArchive> archive = Classify(name))
+        {
+            RefuseLink(PathIn(folder, name));
+            archives.push_back(std::move(*archive));
+        }
+    }
+    return archives;
+}
+
+std::optional<QString> ReadReleaseNotes(QString const& folder, QString const& stem)
+{
+    NotesEnding const* found = nullptr;
+    for (NotesEnding const& ending : NOTES_ENDINGS)
+    {
+        QFileInfo const file(PathIn(folder, stem + QLatin1String(ending.ending)));
+        if (!file.exists() && !file.isSymLink())
+        {
+            continue;
+        }
+        RefuseLink(file.filePath());
+        if (found)
+        {
+            throw Refusal({file.filePath(), 0, 0,
+                           QStringLiteral("there are notes in %1 as well").arg(stem + QLatin1String(found->ending)),
+                           QStringLiteral("keep one of the two")});
+        }
+        found = &ending;
+    }
+    if (!found)
+    {
+        return std::nullopt;
+    }
+    return ReadNotesFile(PathIn(folder, stem + QLatin1String(found->ending)), found->format);
+}
+
+} // namespace Pelnar::Publisher

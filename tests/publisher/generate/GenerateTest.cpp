@@ -1,0 +1,312 @@
+// GenerateTest.cpp: the verb "generate": what a feed says of a folder, and that what is published stays.
+
+#include "Engine/core/delta/DeltaContainer.h"
+#include "tests/publisher/generate/PublisherFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+using Engine::FeedPlatform;
+
+std::string Text(QString const& text)
+{
+    return text.toStdString();
+}
+
+TEST(Generate, ItemSaysWhatTheBundleSays)
+{
+    PublisherFolder const folder;
+    BundleText text;
+    text.version = "5.1.2";
+    text.displayVersion = "5.1 <beta> & more";
+    text.displayVersion = "5.1 beta";
+    text.minimumSystem = "11.0";
+    std::string const archive = MakeArchive(Container::TarXz, MakePublishedBundle(text, "My Test.app"));
+    folder.Put("My Test & 5.1.2.tar.xz", archive, 2);
+    std::string const feed = folder.GeneratedFeed();
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 1u) << feed;
+    Engine::FeedItem const& item = items[0];
+    EXPECT_EQ(Text(item.title), "My Test 5.1 beta");
+    EXPECT_EQ(Text(item.dateString), "Fri, 02 Jan 2026 12:00:00 +0000");
+    EXPECT_EQ(Text(item.versionString), "5.1.2");
+    EXPECT_EQ(Text(item.displayVersionString), "5.1 beta");
+    EXPECT_EQ(Text(item.minimumSystemVersion), "11.0");
+    EXPECT_EQ(Text(item.fileUrl.toString(QUrl::FullyEncoded)),
+              "https://updates.example.com/test/My%20Test%20%26%205.1.2.tar.xz");
+    EXPECT_EQ(item.contentLength, archive.size());
+    EXPECT_EQ(Text(item.edSignature), Base64(Sign(archive, folder.Keys())));
+    EXPECT_TRUE(folder.Items(FeedPlatform::MacOS).empty());
+    EXPECT_NE(feed.find("<title>My Test</title>"), std::string::npos) << feed;
+}
+
+TEST(Generate, EveryContainerOfABundleIsRead)
+{
+    struct Row
+    {
+        char const* ending;
+        Container container;
+    };
+    Row const rows[] = {{".zip", Container::Zip},      {".tar.gz", Container::TarGzip},
+                        {".tgz", Container::TarGzip},  {".tar.bz2", Container::TarBzip2},
+                        {".tar.xz", Container::TarXz}, {".tar.zst", Container::TarZstandard},
+                        {".ZIP", Container::Zip},      {".tzst", Container::TarZstandard}};
+    PublisherFolder const folder;
+    int minor = 0;
+    for (Row const& row : rows)
+    {
+        BundleText text;
+        text.version = "1." + std::to_string(++minor);
+        folder.Put("Test-" + text.version + row.ending, MakeArchive(row.container, MakePublishedBundle(text)));
+    }
+    folder.GeneratedFeed({QStringLiteral("--deltas"), QStringLiteral("0")});
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), std::size(rows));
+    for (Engine::FeedItem const& item : items)
+    {
+        EXPECT_EQ(Text(item.versionString), "1." + std::to_string(minor--)); // newest first
+    }
+}
+
+TEST(Generate, BundlesOfBothSystemsGetItemsOfTheirOwn)
+{
+    PublisherFolder const folder;
+    BundleText text;
+    text.version = "2.0";
+    folder.Put("linux.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    folder.Put("mac.zip", MakeArchive(Container::Zip, MakeMacBundle(text)));
+    folder.GeneratedFeed();
+    ASSERT_EQ(folder.Items(FeedPlatform::Linux).size(), 1u);
+    ASSERT_EQ(folder.Items(FeedPlatform::MacOS).size(), 1u);
+    EXPECT_EQ(Text(folder.Items(FeedPlatform::Linux)[0].fileUrl.fileName()), "linux.zip");
+    EXPECT_EQ(Text(folder.Items(FeedPlatform::MacOS)[0].fileUrl.fileName()), "mac.zip");
+}
+
+TEST(Generate, InstallersAreNamedAfterTheirVersionAndStandBesideBundles)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("6.0");
+    folder.Put("Test_6.0.sparkle_guided.pkg", "guided");
+    folder.Put("Test_6.0.1.sparkle_interactive.run", "interactive");
+    folder.GeneratedFeed();
+    std::vector<Engine::FeedItem> const forMac = folder.Items(FeedPlatform::MacOS);
+    ASSERT_EQ(forMac.size(), 1u);
+    EXPECT_EQ(Text(forMac[0].versionString), "6.0");
+    EXPECT_EQ(Text(forMac[0].installationType), "package");
+    EXPECT_EQ(Text(forMac[0].edSignature), Base64(Sign("guided", folder.Keys())));
+    std::vector<Engine::FeedItem> const forLinux = folder.Items(FeedPlatform::Linux);
+    ASSERT_EQ(forLinux.size(), 2u);
+    EXPECT_EQ(Text(forLinux[0].versionString), "6.0.1");
+    EXPECT_EQ(Text(forLinux[0].title), "Test 6.0.1");
+    EXPECT_EQ(Text(forLinux[0].installationType), "interactive-package");
+    EXPECT_EQ(Text(forLinux[1].installationType), "");
+}
+
+TEST(Generate, NotesBesideAnArchiveBecomeItsDescription)
+{
+    struct Row
+    {
+        char const* ending;
+        char const* notes;
+        char const* description;
+    };
+    Row const rows[] = {
+        {".html", "<h1>New</h1><p>a ]]&gt; b &amp; ]]> c</p>", "<h1>New</h1><p>a ]]&gt; b &amp; ]]> c</p>"},
+        {".md", "**bold**", "<p><b>bold</b></p>"},
+        {".txt", "1 < 2", "1 &lt; 2"},
+        {".html", "\xEF\xBB\xBF<p>mark</p>", "<p>mark</p>"},
+    };
+    for (Row const& row : rows)
+    {
+        PublisherFolder const folder;
+        folder.PutVersion("1.0");
+        folder.Put(std::string("Test-1.0") + row.ending, row.notes);
+        folder.GeneratedFeed();
+        ASSERT_EQ(folder.Items().size(), 1u);
+        EXPECT_NE(Text(folder.Items()[0].description).find(row.description), std::string::npos)
+            << Text(folder.Items()[0].description);
+    }
+}
+
+TEST(Generate, DeltasLeadFromTheVersionsBeforeToTheNewest)
+{
+    PublisherFolder const folder;
+    for (char const* const version : {"1.0", "1.9", "1.10", "2.0"})
+    {
+        folder.PutVersion(version);
+    }
+    folder.GeneratedFeed({QStringLiteral("--deltas"), QStringLiteral("2")});
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 4u);
+    ASSERT_EQ(items[0].deltas.size(), 2u);
+    EXPECT_EQ(Text(items[0].deltas[0].deltaFrom), "1.10");
+    EXPECT_EQ(Text(items[0].deltas[1].deltaFrom), "1.9");
+    EXPECT_TRUE(items[1].deltas.empty());
+    for (Engine::FeedItem const& delta : items[0].deltas)
+    {
+        std::string const bytes = folder.ContentOf(Text(delta.fileUrl.fileName()));
+        EXPECT_EQ(Text(delta.versionString), "2.0");
+        EXPECT_EQ(delta.contentLength, bytes.size());
+        EXPECT_LT(delta.contentLength, items[0].contentLength);
+        EXPECT_EQ(Text(delta.edSignature), Base64(Sign(bytes, folder.Keys())));
+    }
+}
+
+TEST(Generate, RunningAgainChangesNothing)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("2.0");
+    folder.Put("Test-2.0.md", "notes");
+    std::string const first = folder.GeneratedFeed();
+    std::vector<std::string> const names = folder.Names();
+    ToolRun const again = folder.Generate();
+    EXPECT_EQ(again.status, 0) << again.err;
+    EXPECT_EQ(again.err, "");
+    EXPECT_NE(again.out.find("0 items added, 2 kept"), std::string::npos) << again.out;
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), first);
+    EXPECT_EQ(folder.Names(), names);
+}
+
+TEST(Generate, TheSameFolderMakesTheSameFeed)
+{
+    std::string feeds[2];
+    for (std::string& feed : feeds)
+    {
+        PublisherFolder const folder;
+        folder.PutVersion("1.0", 3);
+        folder.PutVersion("2.0", 5);
+        feed = folder.GeneratedFeed();
+    }
+    EXPECT_EQ(feeds[0], feeds[1]);
+}
+
+TEST(Generate, PublishedItemsStayToTheByteWhenNewOnesCome)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    std::string const before = folder.GeneratedFeed();
+    std::string const item = before.substr(before.find("<item>"), before.find("</item>") - before.find("<item>"));
+    folder.PutVersion("2.0");
+    folder.Remove("Test-1.0.zip"); // an archive that has gone keeps its item
+    std::string const after = folder.GeneratedFeed();
+    EXPECT_NE(after.find(item), std::string::npos) << after;
+    EXPECT_LT(after.find("Test-2.0.zip"), after.find("Test-1.0.zip"));
+    ASSERT_EQ(folder.Items().size(), 2u);
+    EXPECT_TRUE(folder.Items()[0].deltas.empty());
+}
+
+TEST(Generate, ArchivesOfPublishedVersionsServeAsBases)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.GeneratedFeed();
+    folder.PutVersion("2.0");
+    folder.GeneratedFeed();
+    ASSERT_EQ(folder.Items()[0].deltas.size(), 1u);
+    EXPECT_EQ(Text(folder.Items()[0].deltas[0].deltaFrom), "1.0");
+}
+
+TEST(Generate, AnOlderVersionThatComesLateGetsNoDeltas)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("3.0");
+    folder.GeneratedFeed();
+    folder.PutVersion("2.0");
+    folder.GeneratedFeed();
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 3u);
+    EXPECT_EQ(Text(items[1].versionString), "2.0");
+    EXPECT_TRUE(items[1].deltas.empty());
+}
+
+TEST(Generate, GivenDeltaIsProvedAndTaken)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("2.0");
+    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
+                       folder.PathOf("Test-2.0.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
+                  .status,
+              0);
+    folder.GeneratedFeed();
+    ASSERT_EQ(folder.Items()[0].deltas.size(), 1u);
+    EXPECT_EQ(Text(folder.Items()[0].deltas[0].fileUrl.fileName()), "given.delta");
+}
+
+TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
+{
+    PublisherFolder const folder;
+    BundleText other;
+    other.version = "2.0";
+    other.displayVersion = "another build";
+    folder.PutVersion("1.0");
+    folder.Put("other.zip", MakeArchive(Container::Zip, MakePublishedBundle(other)));
+    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
+                       folder.PathOf("other.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
+                  .status,
+              0);
+    folder.Remove("other.zip");
+    folder.PutVersion("2.0");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("given.delta: makes another bundle than the archive of that version holds"),
+              std::string::npos)
+        << run.err;
+    EXPECT_FALSE(QFile::exists(folder.PathOf("appcast.xml")));
+}
+
+TEST(Generate, DeltaWithoutItsBaseOrItemIsLeftOutWithAWord)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("2.0");
+    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
+                       folder.PathOf("Test-2.0.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
+                  .status,
+              0);
+    folder.Remove("Test-1.0.zip");
+    ToolRun const withoutBase = folder.Generate();
+    EXPECT_EQ(withoutBase.status, 0) << withoutBase.err;
+    EXPECT_NE(withoutBase.err.find("given.delta: left out: starts from version 1.0"), std::string::npos)
+        << withoutBase.err;
+    EXPECT_TRUE(folder.Items()[0].deltas.empty());
+    EXPECT_NE(folder.Generate().err.find("given.delta: left out: makes version 2.0"), std::string::npos);
+}
+
+TEST(Generate, OptionsNameFeedTitleAndLink)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    ToolRun const run = folder.Generate({QStringLiteral("--output"), folder.PathOf("other.xml"),
+                                         QStringLiteral("--title"), QStringLiteral("A & B"), QStringLiteral("--link"),
+                                         QStringLiteral("https://example.com/?a&b")});
+    ASSERT_EQ(run.status, 0) << run.err;
+    std::string const feed = folder.ContentOf("other.xml");
+    EXPECT_NE(feed.find("<title>A &amp; B</title>"), std::string::npos) << feed;
+    EXPECT_NE(feed.find("<link>https://example.com/?a&amp;b</link>"), std::string::npos) << feed;
+    EXPECT_FALSE(QFile::exists(folder.PathOf("appcast.xml")));
+}
+
+TEST(Generate, BundleThatTrustsAnotherKeyIsPublishedWithAWarning)
+{
+    PublisherFolder const folder;
+    BundleText text;
+    text.version = "2.0";
+    text.publicKey = MakeKeyPair(9).publicKey;
+    folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.err.find("warning: "), std::string::npos);
+    EXPECT_NE(run.err.find("trusts another key than the one that signs"), std::string::npos) << run.err;
+}
+
+} // namespace
+} // namespace Pelnar::Testing

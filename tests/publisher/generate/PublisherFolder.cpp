@@ -1,0 +1,127 @@
+#include "tests/publisher/generate/PublisherFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+constexpr std::int64_t FIRST_NOON = 1767268800; ///< of 2026-01-01, UTC
+constexpr std::int64_t SECONDS_A_DAY = 86400;
+
+std::string PropertyListOf(BundleText const& text)
+{
+    std::string list = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>\n";
+    auto const add = [&list](char const* key, std::string const& value)
+    {
+        if (!value.empty())
+        {
+            list += std::string("<key>") + key + "</key><string>" + value + "</string>\n";
+        }
+    };
+    add("CFBundleIdentifier", text.identifier);
+    add("CFBundleVersion", text.version);
+    add("CFBundleShortVersionString", text.displayVersion);
+    add("LSMinimumSystemVersion", text.minimumSystem);
+    add("SUPublicEDKey", text.publicKey);
+    return list + "</dict></plist>\n";
+}
+
+std::vector<ForgedEntry> MakeBundleWith(BundleText const& text, std::string const& name,
+                                        std::string const& informationPath)
+{
+    std::string data(30000, '\0');
+    unsigned state = 1;
+    for (char& byte : data)
+    {
+        state = state * 1103515245u + 12345u;
+        byte = static_cast<char>(state >> 16);
+    }
+    return {{name, 'd', {}, 0755},
+            {name + "/Test", 'f', "#!/bin/true\n" + text.version, 0755},
+            {name + '/' + informationPath.substr(0, informationPath.find('/')), 'd', {}, 0755},
+            {name + '/' + informationPath, 'f', PropertyListOf(text)},
+            {name + "/data", 'f', data.substr(0, 15000) + text.version + data.substr(15000)}};
+}
+
+} // namespace
+
+std::vector<ForgedEntry> MakePublishedBundle(BundleText const& text, std::string const& name)
+{
+    return MakeBundleWith(text, name, "Resources/Info-gnustep.plist");
+}
+
+std::vector<ForgedEntry> MakeMacBundle(BundleText const& text, std::string const& name)
+{
+    return MakeBundleWith(text, name, "Contents/Info.plist");
+}
+
+PublisherFolder::PublisherFolder() : m_pair(MakeKeyPair(7))
+{
+    WriteFile(m_private.Path() + "/key", Base64(std::string(32, '\7')));
+    EXPECT_EQ(::chmod((m_private.Path() + "/key").c_str(), 0600), 0);
+}
+
+QString PublisherFolder::PathOf(std::string const& name) const
+{
+    return QString::fromStdString(m_folder.Path() + '/' + name);
+}
+
+void PublisherFolder::Put(std::string const& name, std::string const& bytes, int day) const
+{
+    std::string const path = m_folder.Path() + '/' + name;
+    WriteFile(path, bytes);
+    timespec const times[] = {{0, UTIME_OMIT}, {FIRST_NOON + (day - 1) * SECONDS_A_DAY, 0}};
+    EXPECT_EQ(::utimensat(AT_FDCWD, path.c_str(), times, 0), 0) << path;
+}
+
+void PublisherFolder::PutVersion(std::string const& version, int day) const
+{
+    BundleText text;
+    text.version = version;
+    Put("Test-" + version + ".zip", MakeArchive(Container::Zip, MakePublishedBundle(text)), day);
+}
+
+void PublisherFolder::Remove(std::string const& name) const
+{
+    EXPECT_TRUE(QFile::remove(PathOf(name))) << name;
+}
+
+std::string PublisherFolder::ContentOf(std::string const& name) const
+{
+    QFile file(PathOf(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll().toStdString();
+}
+
+ToolRun PublisherFolder::Generate(QStringList const& more) const
+{
+    return RunTool(QStringList{QStringLiteral("generate"), QString::fromStdString(m_folder.Path()),
+                               QStringLiteral("--key"), QString::fromStdString(m_private.Path() + "/key"),
+                               QStringLiteral("--url-prefix"), QStringLiteral("https://updates.example.com/test")} +
+                   more);
+}
+
+std::string PublisherFolder::GeneratedFeed(QStringList const& more) const
+{
+    ToolRun const run = Generate(more);
+    EXPECT_EQ(run.status, 0) << run.err;
+    return ContentOf("appcast.xml");
+}
+
+std::vector<Engine::FeedItem> PublisherFolder::Items(Engine::FeedPlatform platform) const
+{
+    Engine::FeedParseResult feed =
+        Engine::ParseFeed(QByteArray::fromStdString(ContentOf("appcast.xml")),
+                          QUrl(QStringLiteral("https://updates.example.com/test/appcast.xml")), platform);
+    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.toStdString();
+    return std::move(feed.items);
+}
+
+} // namespace Pelnar::Testing

@@ -1,0 +1,60 @@
+// PublisherFolder.h: a publisher's folder with a key, archives of a product's versions, and runs of "generate" over it.
+// Thread: the test's. Ownership: a scope object.
+#pragma once
+
+#include "Engine/core/feed/FeedParser.h"
+#include "tests/installer/InstallerFixture.h"
+#include "tests/publisher/support/AppcastTool.h"
+
+#include <QStringList>
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+/// What the information file of a bundle in the folder says.
+struct BundleText
+{
+    std::string version = {};
+    std::string identifier = "org.pelnar.test";
+    std::string displayVersion = {};
+    std::string minimumSystem = {};
+    std::string publicKey = MakeKeyPair(7).publicKey;
+};
+
+/// A bundle for Linux with a file that grows a little from version to version.
+std::vector<ForgedEntry> MakePublishedBundle(BundleText const& text, std::string const& name = "Test.app");
+/// The same for macOS.
+std::vector<ForgedEntry> MakeMacBundle(BundleText const& text, std::string const& name = "Test.app");
+
+class PublisherFolder
+{
+public:
+    PublisherFolder();
+
+    QString PathOf(std::string const& name) const;
+    /// Writes a file that changed at noon of a day in January 2026.
+    void Put(std::string const& name, std::string const& bytes, int day = 1) const;
+    /// A zip of the bundle of that version, "Test-VERSION.zip".
+    void PutVersion(std::string const& version, int day = 1) const;
+    void Remove(std::string const& name) const;
+    std::string ContentOf(std::string const& name) const;
+    std::vector<std::string> Names() const { return m_folder.Names(); }
+    std::string Path() const { return m_folder.Path(); }
+
+    ToolRun Generate(QStringList const& more = {}) const;
+    /// Runs it, expects that it is done, and reads the feed.
+    std::string GeneratedFeed(QStringList const& more = {}) const;
+    /// The items of the feed as a client reads them.
+    std::vector<Engine::FeedItem> Items(Engine::FeedPlatform platform = Engine::FeedPlatform::Linux) const;
+    KeyPair const& Keys() const { return m_pair; }
+
+private:
+    Workspace m_folder;
+    Workspace m_private;
+    KeyPair m_pair;
+};
+
+} // namespace Pelnar::Testing

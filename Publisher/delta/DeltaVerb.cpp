@@ -59,12 +59,13 @@ void AddCreate(CLI::App& delta, VerbContext& context)
 {
     auto const options = std::make_shared<CreateOptions>();
     CLI::App& verb =
-        *delta.add_subcommand("create", "Makes the delta from one version of a bundle to another and proves it");
+        *delta.add_subcommand("create", "Make the delta from one version of a bundle to another and prove it");
     verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
     verb.add_option("NEW", options->newBundle, "Bundle, or archive of it, that the delta makes")->required();
-    verb.add_option("-o,--output", options->output, "New file for the delta")->required();
+    verb.add_option("-o,--output", options->output, "New file for the delta")->required()->type_name("FILE");
     verb.add_option("--key", options->key,
-                    "File of the private key, or \"-\": signs the delta and prints the attributes of its enclosure");
+                    "File of the private key, or \"-\": sign the delta and print the attributes of its enclosure")
+        ->type_name("FILE");
     SetWork(verb, context, [&context, options] { return Create(context.console, *options); });
 }
 
@@ -92,10 +93,12 @@ ExitStatus Apply(Console const& console, ApplyOptions const& options)
 void AddApply(CLI::App& delta, VerbContext& context)
 {
     auto const options = std::make_shared<ApplyOptions>();
-    CLI::App& verb = *delta.add_subcommand("apply", "Makes the new version of a bundle, as clients do");
+    CLI::App& verb = *delta.add_subcommand("apply", "Make the new version of a bundle, as clients do");
     verb.add_option("DELTA", options->delta, "Delta to apply")->required();
     verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
-    verb.add_option("-o,--output", options->output, "New folder for the bundle, such as Name.app")->required();
+    verb.add_option("-o,--output", options->output, "New folder for the bundle, such as Name.app")
+        ->required()
+        ->type_name("FOLDER");
     SetWork(verb, context, [&context, options] { return Apply(context.console, *options); });
 }
 
@@ -200,7 +203,7 @@ void AddShow(CLI::App& delta, VerbContext& context)
         bool isJson = false;
     };
     auto const options = std::make_shared<Options>();
-    CLI::App& verb = *delta.add_subcommand("show", "Tells what a delta keeps, patches and brings whole");
+    CLI::App& verb = *delta.add_subcommand("show", "Tell what a delta keeps, patches and brings whole");
     verb.add_option("DELTA", options->delta, "Delta to look at")->required();
     verb.add_flag("--json", options->isJson, "Print one JSON object instead of text");
     SetWork(verb, context,
@@ -219,7 +222,7 @@ void AddShow(CLI::App& delta, VerbContext& context)
 void AddDelta(CLI::App& program, VerbContext& context)
 {
     CLI::App& delta =
-        *program.add_subcommand("delta", "Makes, applies and shows small updates from one version to another");
+        *program.add_subcommand("delta", "Make, apply and show small updates from one version to another");
     delta.require_subcommand(1);
     AddCreate(delta, context);
     AddApply(delta, context);

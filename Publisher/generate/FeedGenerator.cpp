@@ -5,6 +5,7 @@
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
+#include "Publisher/lint/LintReport.h"
 
 #include <QFileInfo>
 
@@ -102,6 +103,22 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
     console.Print(QStringLiteral("%1: %2 items added, %3 kept").arg(feedFile).arg(items.size()).arg(kept));
 }
 
+QUrl FeedAddressOf(Workplace const& workplace, QString const& feedFile)
+{
+    return workplace.address.Of(QFileInfo(feedFile).fileName());
+}
+
+/// What lint says of the whole feed, for what was published before may need mending as well.
+ExitStatus Judge(Console const& console, QString const& feedFile, QByteArray const& bytes, QUrl const& address)
+{
+    std::vector<LintFinding> const findings = LintFeed(bytes, address).findings;
+    if (!findings.empty())
+    {
+        PrintFindings(feedFile, findings, console);
+    }
+    return StatusOf(findings, Strictness::Everything);
+}
+
 } // namespace
 
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
@@ -125,21 +142,21 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
                        QStringLiteral("put zip or tar archives of bundles there, or installers whose names are marked "
                                       ".sparkle_guided. or .sparkle_interactive.")});
     }
+    if (title.isEmpty() && !items.empty())
+    {
+        // Only now is the product's name known.
+        feed = OpenFeed(request, feedFile, items.front().productName);
+    }
+    QByteArray const bytes = feed.With(AdditionsOf(items, feed, workplace.address));
     if (!items.empty())
     {
-        if (title.isEmpty())
-        {
-            // Only now is the product's name known.
-            feed = OpenFeed(request, feedFile, items.front().productName);
-        }
-        QByteArray const bytes = feed.With(AdditionsOf(items, feed, workplace.address));
-        PublishedFeed const proof(feedFile, bytes, workplace.address.Of(QFileInfo(feedFile).fileName()));
+        PublishedFeed const proof(feedFile, bytes, FeedAddressOf(workplace, feedFile));
         AtomicFile file(feedFile);
         file.Write(bytes);
         file.Commit(ExistingFile::Replace);
     }
     Report(console, feedFile, items, feed.Items().size());
-    return ExitStatus::Clean;
+    return Judge(console, feedFile, bytes, FeedAddressOf(workplace, feedFile));
 }
 
 } // namespace Pelnar::Publisher

@@ -22,7 +22,8 @@ struct GenerateRequest
     int deltaCount = 3;    ///< how many versions before the newest get a delta to it
 };
 
-/// Writes the feed, or leaves it when nothing is new. Throws Refusal, and has not touched the feed then.
+/// Writes the feed, or leaves it when nothing is new, and prints what the strictest lint finds in it, which makes the
+/// status ExitStatus::Findings. Throws Refusal, and has not touched the feed then.
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console);
 
 } // namespace Pelnar::Publisher

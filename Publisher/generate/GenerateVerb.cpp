@@ -12,20 +12,25 @@ void AddGenerate(CLI::App& program, VerbContext& context)
 {
     auto const request = std::make_shared<GenerateRequest>();
     CLI::App& verb = *program.add_subcommand(
-        "generate",
-        "Makes a feed of a folder of archives, or adds what is new in the folder to the feed that is there; "
-        "what is published stays as it is");
+        "generate", "Make a feed of a folder of archives, or add what is new in the folder to the feed that is there; "
+                    "what is published stays as it is");
     verb.add_option("FOLDER", request->folder,
                     "Folder of zip and tar archives of bundles, installers, deltas, and release notes beside them "
                     "(NAME.html, .md or .txt)")
         ->required();
-    verb.add_option("--key", request->keyFile, "File of the private key, or \"-\" for standard input")->required();
+    verb.add_option("--key", request->keyFile, "File of the private key, or \"-\" for standard input")
+        ->required()
+        ->type_name("FILE");
     verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
+        ->type_name("URL")
         ->required();
-    verb.add_option("-o,--output", request->feedFile, "Feed to write; without this appcast.xml in the folder");
+    verb.add_option("-o,--output", request->feedFile, "Feed to write; without this appcast.xml in the folder")
+        ->type_name("FILE");
     verb.add_option("--title", request->title, "Title of a new feed; without this the product's name");
-    verb.add_option("--link", request->link, "Web page of a new feed; without this the address of the files");
+    verb.add_option("--link", request->link, "Web page of a new feed; without this the address of the files")
+        ->type_name("URL");
     verb.add_option("--deltas", request->deltaCount, "How many versions before the newest get a delta to it")
+        ->type_name("NUMBER")
         ->check(CLI::Range(0, 100))
         ->capture_default_str();
     SetWork(verb, context, [&context, request] { return GenerateFeed(*request, context.console); });

@@ -58,9 +58,9 @@ void AddGenerate(CLI::App& keys, VerbContext& context)
         std::shared_ptr<PublicKeyForm> form = std::make_shared<PublicKeyForm>(PublicKeyForm::Xml);
     };
     auto const options = std::make_shared<Options>();
-    CLI::App& verb = *keys.add_subcommand(
-        "generate", "Makes a key, writes the private half to a new file that only you may read, and prints the public "
-                    "half as the entry for the bundle's information file");
+    CLI::App& verb =
+        *keys.add_subcommand("generate", "Make a key, write the private half to a new file that only you may read, and "
+                                         "print the public half as the entry for the bundle's information file");
     verb.add_option("FILE", options->file, "New file for the private key")->required();
     AddFormOption(verb, options->form);
     SetWork(verb, context,
@@ -82,7 +82,7 @@ void AddShow(CLI::App& keys, VerbContext& context)
     };
     auto const options = std::make_shared<Options>();
     CLI::App& verb =
-        *keys.add_subcommand("show", "Prints the public half of a key as the entry for the bundle's information file");
+        *keys.add_subcommand("show", "Print the public half of a key as the entry for the bundle's information file");
     verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
     AddFormOption(verb, options->form);
     SetWork(verb, context,
@@ -118,7 +118,7 @@ void AddExport(CLI::App& keys, VerbContext& context)
         bool isTerminalWanted = false;
     };
     auto const options = std::make_shared<Options>();
-    CLI::App& verb = *keys.add_subcommand("export", "Prints the private key, for a backup or another program");
+    CLI::App& verb = *keys.add_subcommand("export", "Print the private key, for a backup or another program");
     verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
     verb.add_option("--form", options->form, "32 bytes (seed) or, with the public half, 64 (secret-key), in base64")
         ->check(CLI::IsMember({"seed", "secret-key"}))
@@ -137,7 +137,7 @@ void AddExport(CLI::App& keys, VerbContext& context)
 
 void AddKeys(CLI::App& program, VerbContext& context)
 {
-    CLI::App& keys = *program.add_subcommand("keys", "Makes and shows the key with which archives are signed");
+    CLI::App& keys = *program.add_subcommand("keys", "Make and show the key with which archives are signed");
     keys.require_subcommand(1);
     AddGenerate(keys, context);
     AddShow(keys, context);

@@ -55,9 +55,11 @@ void AddSign(CLI::App& program, VerbContext& context)
     };
     auto const options = std::make_shared<Options>();
     CLI::App& verb =
-        *program.add_subcommand("sign", "Signs an archive and prints the attributes for its enclosure in the feed");
+        *program.add_subcommand("sign", "Sign an archive and print the attributes for its enclosure in the feed");
     verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta to sign")->required();
-    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")->required();
+    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")
+        ->required()
+        ->type_name("FILE");
     SetWork(verb, context,
             [&context, options]
             {
@@ -78,14 +80,17 @@ void AddVerify(CLI::App& program, VerbContext& context)
     };
     auto const options = std::make_shared<Options>();
     CLI::App& verb = *program.add_subcommand(
-        "verify", "Judges an archive's signature as clients do; exit status 1 when they would refuse the archive");
+        "verify", "Judge an archive's signature as clients do; exit status 1 when they would refuse the archive");
     verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta")->required();
-    verb.add_option("--signature", options->signature, "The feed's sparkle:edSignature")->required();
+    verb.add_option("--signature", options->signature, "The feed's sparkle:edSignature")
+        ->required()
+        ->type_name("SIGNATURE");
     verb.add_option("--public-key", options->publicKeys,
                     "The bundle's SUPublicEDKey; give it twice for a bundle that trusts two")
         ->required()
         ->expected(1, 2)
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->type_name("KEY");
     SetWork(verb, context,
             [&context, options] {
                 return Verify(context.console, QString::fromStdString(options->archive), options->signature,

@@ -134,14 +134,15 @@ void AddServe(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<Options>();
     CLI::App& verb = *program.add_subcommand(
-        "serve", "Serves a folder to this computer only, for a dry run of a feed, until it is interrupted; the first "
+        "serve", "Serve a folder to this computer only, for a dry run of a feed, until it is interrupted; the first "
                  "line printed is the address");
     verb.add_option("FOLDER", options->folder, "Folder to serve; links in it are not followed")->required();
-    verb.add_option("--port", options->port, "Port to listen on; any free one without this");
+    verb.add_option("--port", options->port, "Port to listen on; any free one without this")->type_name("NUMBER");
     verb.add_option("--fault", options->faults,
                     "What goes wrong with a file, in each answer: truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, "
                     "status:NAME:CODE or drop:NAME:BYTES (the connection is reset)")
-        ->allow_extra_args(false);
+        ->allow_extra_args(false)
+        ->type_name("FAULT");
     verb.add_option("--tls", options->tls, "Serve https with this certificate chain and key, two PEM files")
         ->type_name("CERTIFICATE KEY")
         ->expected(2);

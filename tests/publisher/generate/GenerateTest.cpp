@@ -308,5 +308,42 @@ TEST(Generate, BundleThatTrustsAnotherKeyIsPublishedWithAWarning)
     EXPECT_NE(run.err.find("trusts another key than the one that signs"), std::string::npos) << run.err;
 }
 
+TEST(Generate, FeedOfEverythingPassesTheStrictLint)
+{
+    PublisherFolder const folder;
+    for (char const* const version : {"1.0", "1.1", "2.0"})
+    {
+        BundleText text;
+        text.version = version;
+        text.minimumSystem = "11.0";
+        folder.PutVersion(version);
+        folder.Put(std::string("Mac-") + version + ".tar.gz", MakeArchive(Container::TarGzip, MakeMacBundle(text)));
+        folder.Put(std::string("Test-") + version + ".md", "# New\n\n* one\n* two <b>&</b>");
+    }
+    folder.Put("Test_2.0.sparkle_guided.pkg", "guided");
+    folder.Put("Test_2.0.sparkle_interactive.run", "interactive");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.out;
+    ToolRun const lint =
+        RunTool({QStringLiteral("lint"), QStringLiteral("-"), QStringLiteral("--strict"),
+                 QStringLiteral("--published-at"), QStringLiteral("https://updates.example.com/test/appcast.xml")},
+                QByteArray::fromStdString(folder.ContentOf("appcast.xml")));
+    EXPECT_EQ(lint.status, 0) << lint.out;
+}
+
+TEST(Generate, WhatLintFindsInThePublishedFeedIsShownAndKept)
+{
+    PublisherFolder const folder;
+    std::string const published = "<item><enclosure url=\"http://updates.example.com/old.zip\" length=\"0\"/></item>";
+    folder.Put("appcast.xml", "<rss><channel>\n" + published + "\n</channel></rss>");
+    folder.PutVersion("2.0");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 1) << run.err;
+    EXPECT_NE(run.out.find("added Test-2.0.zip"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("length-zero: "), std::string::npos) << run.out;
+    EXPECT_NE(folder.ContentOf("appcast.xml").find(published), std::string::npos);
+    EXPECT_EQ(folder.Items().size(), 2u);
+}
+
 } // namespace
 } // namespace Pelnar::Testing

@@ -154,6 +154,34 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::DownloadSystemBusy:
         return "The computer has too little memory or too many open files for the download: close other applications "
                "and try again.";
+
+    case ErrorCause::BundleMissing:
+        return "The application's folder was not found, so it cannot be updated: start it from where it is installed.";
+    case ErrorCause::BundleIsLink:
+        return "The application was started through a link, so it cannot be updated: start it from the folder that the "
+               "link points to.";
+    case ErrorCause::BundleOfPackage:
+        return "The application was installed by %1, which updates it too: use the command \"%2\".";
+    case ErrorCause::BundleInImage:
+        return "The application runs from an image file: replace the file %1 by the new version's.";
+    case ErrorCause::BundleOnReadOnlyFileSystem:
+        return "The application stands on a disk that cannot be written: copy it to another folder and start it there.";
+    case ErrorCause::BundleIsMountPoint:
+        return "The application's folder is a disk of its own, so it cannot be replaced: copy it to another folder and "
+               "start it there.";
+    case ErrorCause::BundleImmutable:
+        return "The application is protected against every change: ask whoever protected it to take the file attribute "
+               "\"immutable\" or \"append only\" away.";
+    case ErrorCause::BundleOfAnotherUser:
+        return "The application belongs to another user of this computer: ask them, or the administrator, to update "
+               "it.";
+    case ErrorCause::BundleNotWritable:
+        return "You may not change the folder of the application: ask the administrator to update it.";
+    case ErrorCause::BundleFolderUnsafe:
+        return "Other users of this computer could change the application's folder, so it is not updated there: ask "
+               "the administrator to set its permissions right.";
+    case ErrorCause::NoRoomForUpdate:
+        return "There is no room for the update: it needs %1, and %2 are free. Make room and try again.";
     }
     return "The check for updates failed: try again later.";
 }
@@ -202,6 +230,10 @@ ErrorCode CodeOf(ErrorCause cause)
     if (number >= 900 && number < 950)
     {
         return ErrorCode::Download;
+    }
+    if (number >= 950 && number < 1000)
+    {
+        return cause == ErrorCause::NoRoomForUpdate ? ErrorCode::TemporaryFolder : ErrorCode::NotWritable;
     }
     return number >= 700 && number < 800 ? ErrorCode::AppcastParse : ErrorCode::Appcast;
 }

@@ -118,6 +118,19 @@ enum class ErrorCause
     DownloadFileTooLarge = 915,
     DownloadDiskFailed = 916,
     DownloadSystemBusy = 917,
+
+    // The installed application, when it cannot be replaced.
+    BundleMissing = 950,
+    BundleIsLink = 951,
+    BundleOfPackage = 952,
+    BundleInImage = 953,
+    BundleOnReadOnlyFileSystem = 954,
+    BundleIsMountPoint = 955,
+    BundleImmutable = 956,
+    BundleOfAnotherUser = 957,
+    BundleNotWritable = 958,
+    BundleFolderUnsafe = 959,
+    NoRoomForUpdate = 960,
 };
 
 struct EngineError

@@ -32,6 +32,8 @@ std::string_view FaultName(UpdateFault fault)
         return "JobMalformed";
     case UpdateFault::DescriptorUnusable:
         return "DescriptorUnusable";
+    case UpdateFault::HelperUnusable:
+        return "HelperUnusable";
     case UpdateFault::ConfinementFailed:
         return "ConfinementFailed";
     case UpdateFault::KeyMissing:

@@ -15,6 +15,7 @@ enum class UpdateFault
 
     JobMalformed,
     DescriptorUnusable,
+    HelperUnusable, ///< told by the host only: no helper could be started
     ConfinementFailed,
 
     KeyMissing,

@@ -4,6 +4,7 @@
 // was not released; nothing is called any more.
 #pragma once
 
+#include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/HelperReport.h"
 #include "Engine/core/payload/UpdateJob.h"
 
@@ -39,9 +40,9 @@ public:
     HelperProcess(HelperProcess const&) = delete;
     HelperProcess& operator=(HelperProcess const&) = delete;
 
-    /// Starts the helper with the mode that \a job asks for: a sealed copy of the program, an empty environment, the job
-    /// in a sealed memory file, nothing else inherited. Both callbacks come later, from the event loop: \a report for
-    /// each line, \a ended once and last; either may destroy this object. Throws UpdateRefusal when it cannot be
+    /// Starts the helper with the mode that \a job asks for: a sealed copy of the program, an empty environment, the
+    /// job in a sealed memory file, nothing else inherited. Both callbacks come later, from the event loop: \a report
+    /// for each line, \a ended once and last; either may destroy this object. Throws UpdateRefusal when it cannot be
     /// started; then nothing is called. REQUIRES: called once.
     void Start(UpdateJob const& job, HelperInheritance const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);

@@ -30,8 +30,9 @@ struct PackageSources
     QString dpkgInfoFolder = QStringLiteral("/var/lib/dpkg/info"); ///< the *.list files of installed packages
     QString flatpakInfoFile = QStringLiteral("/.flatpak-info");
     QString snapFolder = QStringLiteral("/snap");
-    QString snapVariable;     ///< of the environment: SNAP
-    QString appImageVariable; ///< of the environment: APPIMAGE
+    QString snapVariable;      ///< of the environment: SNAP
+    QString appImageVariable;  ///< of the environment: APPIMAGE
+    QString appFolderVariable; ///< of the environment: APPDIR, where the image is mounted
 
     static PackageSources OfThisProcess();
 };

@@ -1,0 +1,244 @@
+#include "Engine/core/update/HelperProcess.h"
+
+#include "Engine/core/update/HelperLaunch_p.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <cerrno>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include <fcntl.h>
+#include <signal.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int EXIT_REFUSED = 1;
+constexpr std::size_t READ_BYTES = 4096;
+
+std::map<int, int> NumbersOf(PrepareJob const& job, HelperInheritance const& inherited)
+{
+    std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
+                               {HelperDescriptors::ARCHIVE, inherited.archiveOrParent}};
+    if (job.kind == PayloadKind::Delta)
+    {
+        numbers[HelperDescriptors::TARGET] = inherited.targetOrHost;
+    }
+    return numbers;
+}
+
+std::map<int, int> NumbersOf(InstallJob const&, HelperInheritance const& inherited)
+{
+    return {{HelperDescriptors::STAGING, inherited.staging},
+            {HelperDescriptors::PARENT, inherited.archiveOrParent},
+            {HelperDescriptors::HOST, inherited.targetOrHost}};
+}
+
+std::map<int, int> NumbersOf(RecoverJob const&, HelperInheritance const& inherited)
+{
+    return {{HelperDescriptors::PARENT, inherited.archiveOrParent}};
+}
+
+char const* ModeOf(UpdateJob const& job)
+{
+    constexpr char const* MODES[] = {"prepare", "install", "recover"};
+    static_assert(std::size(MODES) == std::variant_size_v<UpdateJob>);
+    return MODES[job.index()];
+}
+
+/// What became of the ended child.
+HelperEnd Reap(pid_t process)
+{
+    int status = 0;
+    pid_t reaped = 0;
+    do
+    {
+        reaped = ::waitpid(process, &status, 0);
+    } while (reaped < 0 && errno == EINTR);
+    // A host that reaps every child, or ignores their ends, has taken the answer away.
+    if (reaped != process || !WIFEXITED(status))
+    {
+        return HelperEnd::Crashed;
+    }
+    return WEXITSTATUS(status) == 0              ? HelperEnd::Done
+           : WEXITSTATUS(status) == EXIT_REFUSED ? HelperEnd::Refused
+                                                 : HelperEnd::Crashed;
+}
+
+} // namespace
+
+class HelperProcess::Impl : public QObject
+{
+public:
+    explicit Impl(QString const& program) : m_program(program.toUtf8().toStdString()) {}
+    ~Impl() override;
+
+    void Start(UpdateJob const& job, HelperInheritance const& inherited,
+               std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);
+    void Release() { m_isReleased = true; }
+
+private:
+    /// An object that a callback of ours may have destroyed is asked through one of these.
+    using Witness = std::weak_ptr<bool>;
+
+    void Read();
+    [[nodiscard]] bool TakeLines();
+    void Distrust();
+    void Finish();
+
+    std::string m_program;
+    std::function<void(HelperReport const&)> m_report;
+    std::function<void(HelperEnd)> m_ended;
+    std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);
+    pid_t m_pid = -1;
+    UniqueFd m_process;
+    UniqueFd m_reports;
+    QSocketNotifier* m_reportNotifier = nullptr; // this object's child
+    QSocketNotifier* m_endNotifier = nullptr;    // this object's child
+    std::string m_line;
+    bool m_isReleased = false;
+    bool m_isDistrusted = false;
+};
+
+HelperProcess::Impl::~Impl()
+{
+    // The notifiers go before the descriptors that they watch.
+    delete m_reportNotifier;
+    delete m_endNotifier;
+    if (m_pid > 0 && !m_isReleased)
+    {
+        ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
+        static_cast<void>(Reap(m_pid));
+    }
+}
+
+void HelperProcess::Impl::Start(UpdateJob const& job, HelperInheritance const& inherited,
+                                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
+{
+    auto numbers = std::visit([&inherited](auto const& kind) { return NumbersOf(kind, inherited); }, job);
+    LaunchedHelper helper =
+        LaunchHelper(SealedProgram(m_program), ModeOf(job), EncodeUpdateJob(job), std::move(numbers));
+    m_pid = helper.pid;
+    m_process = std::move(helper.process);
+    m_reports = std::move(helper.reports);
+    m_report = std::move(report);
+    m_ended = std::move(ended);
+    m_reportNotifier = new QSocketNotifier(m_reports.Get(), QSocketNotifier::Read, this);
+    connect(m_reportNotifier, &QSocketNotifier::activated, this, [this] { Read(); });
+    m_endNotifier = new QSocketNotifier(m_process.Get(), QSocketNotifier::Read, this);
+    connect(m_endNotifier, &QSocketNotifier::activated, this, [this] { Finish(); });
+}
+
+void HelperProcess::Impl::Read()
+{
+    char buffer[READ_BYTES];
+    ssize_t const count = ::read(m_reports.Get(), buffer, sizeof buffer);
+    if (count > 0)
+    {
+        m_line.append(buffer, static_cast<std::size_t>(count));
+        static_cast<void>(TakeLines());
+    }
+    else if (count == 0 || (errno != EAGAIN && errno != EINTR))
+    {
+        m_reportNotifier->setEnabled(false); // its end is told by the process' own
+    }
+}
+
+/// False when this object was destroyed meanwhile.
+bool HelperProcess::Impl::TakeLines()
+{
+    Witness const witness = m_isAlive;
+    std::string lines;
+    lines.swap(m_line);
+    std::size_t begin = 0;
+    for (std::size_t end = 0; !m_isDistrusted && (end = lines.find('\n', begin)) != std::string::npos; begin = end + 1)
+    {
+        auto const decoded = DecodeHelperReport(std::string_view(lines).substr(begin, end - begin));
+        if (!decoded)
+        {
+            Distrust();
+            return true;
+        }
+        auto const report = m_report; // a callback may destroy the one that is kept
+        report(*decoded);
+        if (witness.expired())
+        {
+            return false;
+        }
+    }
+    m_line = lines.substr(begin);
+    if (m_line.size() >= HELPER_REPORT_MAX_BYTES)
+    {
+        Distrust();
+    }
+    return true;
+}
+
+void HelperProcess::Impl::Distrust()
+{
+    m_isDistrusted = true;
+    m_line.clear();
+    m_reportNotifier->setEnabled(false);
+    ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
+}
+
+void HelperProcess::Impl::Finish()
+{
+    m_endNotifier->setEnabled(false);
+    m_reportNotifier->setEnabled(false);
+    // What the process wrote before it ended is still in the pipe, and nobody adds to it without end.
+    for (std::size_t left = HELPER_PIPE_BYTES; left > 0 && !m_isDistrusted;)
+    {
+        char buffer[READ_BYTES];
+        ssize_t const count = ::read(m_reports.Get(), buffer, std::min(sizeof buffer, left));
+        if (count <= 0)
+        {
+            break;
+        }
+        left -= static_cast<std::size_t>(count);
+        m_line.append(buffer, static_cast<std::size_t>(count));
+        if (!TakeLines())
+        {
+            return;
+        }
+    }
+    HelperEnd const end = Reap(std::exchange(m_pid, -1));
+    auto const ended = std::move(m_ended);
+    ended(m_isDistrusted ? HelperEnd::Crashed : end);
+}
+
+HelperProcess::HelperProcess(QString const& program) : m_impl(std::make_unique<Impl>(program)) {}
+
+HelperProcess::~HelperProcess() = default;
+
+void HelperProcess::Start(UpdateJob const& job, HelperInheritance const& inherited,
+                          std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
+{
+    m_impl->Start(job, inherited, std::move(report), std::move(ended));
+}
+
+void HelperProcess::Release()
+{
+    m_impl->Release();
+}
+
+UniqueFd OpenProcess(int pid)
+{
+    UniqueFd process(static_cast<int>(::syscall(SYS_pidfd_open, pid == 0 ? ::getpid() : pid, 0)));
+    if (!process)
+    {
+        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+    }
+    return process;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,198 @@
+#include "Engine/core/update/InstallTarget.h"
+
+#include "Engine/core/payload/StagingFolder.h"
+
+#include <QLocale>
+
+#include <cerrno>
+#include <climits>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
+
+/// Where the open folder stands, without any link in the path; empty when it cannot be told.
+std::string RealPath(UniqueFd const& folder)
+{
+    std::string path(PATH_MAX, '\0');
+    ssize_t const size =
+        ::readlink(("/proc/self/fd/" + std::to_string(folder.Get())).c_str(), path.data(), path.size());
+    bool const isWhole = size > 0 && static_cast<std::size_t>(size) < path.size() && path.front() == '/';
+    path.resize(isWhole ? static_cast<std::size_t>(size) : 0);
+    return path;
+}
+
+EngineError Error(ErrorCause cause, std::string const& path)
+{
+    return MakeError(cause, QString::fromStdString(path));
+}
+
+EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
+{
+    if (owner.manager == PackageManager::AppImage)
+    {
+        EngineError error = Error(ErrorCause::BundleInImage, path);
+        error.sentence = error.sentence.arg(owner.package);
+        return error;
+    }
+    EngineError error = Error(ErrorCause::BundleOfPackage, path);
+    QString const manager = owner.manager == PackageManager::Flatpak ? QStringLiteral("Flatpak")
+                            : owner.manager == PackageManager::Snap  ? QStringLiteral("Snap")
+                                                                     : QStringLiteral("the system's package manager");
+    error.sentence = error.sentence.arg(manager, owner.command);
+    return error;
+}
+
+/// The bundle and its folder; the error when they cannot be opened as such.
+std::variant<InstallTarget, EngineError> Open(QString const& bundlePath)
+{
+    std::string path = bundlePath.toStdString();
+    while (path.size() > 1 && path.back() == '/')
+    {
+        path.pop_back(); // a link with a slash behind it is followed
+    }
+    std::size_t const slash = path.rfind('/');
+    std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);
+    if (path.front() != '/' || name.empty() || name == "." || name == "..")
+    {
+        return Error(ErrorCause::BundleMissing, path);
+    }
+    InstallTarget target;
+    target.name = name;
+    target.parent = UniqueFd(::open(path.substr(0, slash + 1).c_str(), FOLDER_FLAGS));
+    struct stat status;
+    if (!target.parent || ::fstatat(target.parent.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    {
+        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+    }
+    if (S_ISLNK(status.st_mode))
+    {
+        return Error(ErrorCause::BundleIsLink, path);
+    }
+    target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
+    std::string const parentPath = target.bundle ? RealPath(target.parent) : std::string();
+    if (parentPath.empty())
+    {
+        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+    }
+    target.path = QString::fromStdString(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
+    return target;
+}
+
+bool IsReadOnly(UniqueFd const& folder)
+{
+    struct statvfs status;
+    return ::fstatvfs(folder.Get(), &status) == 0 && (status.f_flag & ST_RDONLY) != 0;
+}
+
+struct Facts
+{
+    bool isImmutable = false;
+    bool isMountRoot = false;
+    uid_t owner = 0;
+};
+
+Facts FactsOf(UniqueFd const& folder)
+{
+    struct statx status
+    {
+    };
+    if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &status) != 0)
+    {
+        return {};
+    }
+    constexpr std::uint64_t PROTECTED = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
+    return {(status.stx_attributes & PROTECTED) != 0, (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0,
+            status.stx_uid};
+}
+
+/// Deliberate: by the effective user, and asked of the kernel, which knows of access lists too.
+bool IsWritable(UniqueFd const& folder)
+{
+    return ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) == 0;
+}
+
+std::optional<ErrorCause> Obstacle(InstallTarget const& target)
+{
+    if (IsReadOnly(target.parent) || IsReadOnly(target.bundle))
+    {
+        return ErrorCause::BundleOnReadOnlyFileSystem;
+    }
+    Facts const parent = FactsOf(target.parent);
+    Facts const bundle = FactsOf(target.bundle);
+    if (bundle.isMountRoot)
+    {
+        return ErrorCause::BundleIsMountPoint;
+    }
+    if (parent.isImmutable || bundle.isImmutable)
+    {
+        return ErrorCause::BundleImmutable;
+    }
+    if (bundle.owner != ::geteuid())
+    {
+        return ErrorCause::BundleOfAnotherUser;
+    }
+    // The bundle too: a folder that changes its parent is written, for it names it.
+    if (!IsWritable(target.parent) || !IsWritable(target.bundle))
+    {
+        return ErrorCause::BundleNotWritable;
+    }
+    return IsSafeUpToTheRoot(target.bundle.Get()) ? std::nullopt : std::optional(ErrorCause::BundleFolderUnsafe);
+}
+
+std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neededBytes)
+{
+    struct statvfs status;
+    if (::fstatvfs(target.parent.Get(), &status) != 0)
+    {
+        return std::nullopt; // the writing will tell
+    }
+    quint64 const freeBytes = static_cast<quint64>(status.f_bavail) * status.f_frsize;
+    if (freeBytes >= neededBytes)
+    {
+        return std::nullopt;
+    }
+    EngineError error = MakeError(ErrorCause::NoRoomForUpdate, target.path);
+    QLocale const locale = QLocale::c();
+    error.sentence = error.sentence.arg(locale.formattedDataSize(static_cast<qint64>(neededBytes)),
+                                        locale.formattedDataSize(static_cast<qint64>(freeBytes)));
+    return error;
+}
+
+} // namespace
+
+std::variant<InstallTarget, EngineError> OpenInstallTarget(QString const& bundlePath, quint64 neededBytes,
+                                                           PackageSources const& sources)
+{
+    auto opened = Open(bundlePath);
+    auto* const target = std::get_if<InstallTarget>(&opened);
+    if (!target)
+    {
+        return opened;
+    }
+    std::string const path = target->path.toStdString();
+    if (auto const owner = FindPackageOwner(target->path, sources))
+    {
+        return ErrorOf(*owner, path);
+    }
+    if (auto const cause = Obstacle(*target))
+    {
+        return Error(*cause, path);
+    }
+    if (auto const error = LackOfRoom(*target, neededBytes))
+    {
+        return *error;
+    }
+    return opened;
+}
+
+} // namespace Pelnar::Engine

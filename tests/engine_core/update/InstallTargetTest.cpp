@@ -1,0 +1,342 @@
+#include "Engine/core/update/InstallTarget.h"
+#include "tests/installer/InstallerFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include <fcntl.h>
+#include <grp.h>
+#include <linux/fs.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+constexpr uid_t NOBODY = 65534;
+constexpr uid_t SOMEBODY = 12345;
+
+/// An installed bundle, and nothing of this machine's packages.
+class TargetScene
+{
+public:
+    TargetScene()
+    {
+        m_place.Put({{"place/", 'd', {}, 0755}, {"none/", 'd', {}, 0755}});
+        m_place.Put(MakeBundle("1.0"), "place/");
+        m_sources.dpkgInfoFolder = QString::fromStdString(m_place.Path() + "/none");
+        m_sources.flatpakInfoFile = QString::fromStdString(m_place.Path() + "/none/file");
+    }
+
+    std::string Parent() const { return m_place.Path() + "/place"; }
+    std::string Bundle() const { return Parent() + '/' + APP; }
+    std::string const& Above() const { return m_place.Path(); }
+
+    std::variant<InstallTarget, EngineError> Open(std::string const& path, quint64 neededBytes = 1) const
+    {
+        return OpenInstallTarget(QString::fromStdString(path), neededBytes, m_sources);
+    }
+
+    /// Fails unless opening answers the cause; the error.
+    EngineError ExpectError(ErrorCause cause, std::string const& path = {}, quint64 neededBytes = 1) const
+    {
+        auto const answer = Open(path.empty() ? Bundle() : path, neededBytes);
+        auto const* const error = std::get_if<EngineError>(&answer);
+        EXPECT_NE(error, nullptr);
+        EngineError const told = error ? *error : EngineError{};
+        EXPECT_EQ(static_cast<int>(told.cause), static_cast<int>(cause)) << told.sentence.toStdString();
+        EXPECT_EQ(told.code,
+                  cause == ErrorCause::NoRoomForUpdate ? ErrorCode::TemporaryFolder : ErrorCode::NotWritable);
+        EXPECT_FALSE(told.sentence.contains(QLatin1Char('%'))) << told.sentence.toStdString();
+        return told;
+    }
+
+    PackageSources& Sources() { return m_sources; }
+
+private:
+    Workspace m_place;
+    PackageSources m_sources;
+};
+
+/// Another effective user, without groups, while it lives. REQUIRES: the administrator.
+class AsUser
+{
+public:
+    explicit AsUser(uid_t user)
+    {
+        EXPECT_EQ(::setgroups(0, nullptr), 0);
+        EXPECT_EQ(::setegid(user), 0);
+        EXPECT_EQ(::seteuid(user), 0);
+    }
+    ~AsUser()
+    {
+        EXPECT_EQ(::seteuid(0), 0);
+        EXPECT_EQ(::setegid(0), 0);
+    }
+};
+
+void Give(std::string const& path, uid_t user)
+{
+    ASSERT_EQ(::lchown(path.c_str(), user, user), 0);
+    if (std::filesystem::is_directory(std::filesystem::symlink_status(path)))
+    {
+        for (auto const& entry : std::filesystem::directory_iterator(path))
+        {
+            Give(entry.path().string(), user);
+        }
+    }
+}
+
+/// Mounts of this process only; false when this machine does not let it have any.
+[[nodiscard]] bool EnterOwnMounts()
+{
+    return ::unshare(::geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) == 0 &&
+           ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+}
+
+class Mount
+{
+public:
+    Mount(char const* type, std::string const& source, std::string path, unsigned long flags, char const* options = "")
+        : m_path(std::move(path))
+    {
+        EXPECT_EQ(::mount(source.c_str(), m_path.c_str(), type, flags, options), 0) << m_path;
+    }
+    ~Mount() { ::umount2(m_path.c_str(), MNT_DETACH); }
+    Mount(Mount const&) = delete;
+    Mount& operator=(Mount const&) = delete;
+
+private:
+    std::string m_path;
+};
+
+#define REQUIRE_ADMINISTRATOR()                                                                                        \
+    if (::geteuid() != 0)                                                                                              \
+    GTEST_SKIP() << "only the administrator can give files away"
+#define REQUIRE_MOUNTS()                                                                                               \
+    if (!EnterOwnMounts())                                                                                             \
+    GTEST_SKIP() << "this machine lets the test mount nothing"
+
+TEST(InstallTarget, IsOpenedWithItsRealPath)
+{
+    TargetScene const scene;
+    for (std::string const& path : {scene.Bundle(), scene.Bundle() + "/", scene.Bundle() + "//"})
+    {
+        auto const answer = scene.Open(path);
+        auto const* const target = std::get_if<InstallTarget>(&answer);
+        ASSERT_NE(target, nullptr) << std::get<EngineError>(answer).sentence.toStdString();
+        EXPECT_EQ(target->path.toStdString(), scene.Bundle());
+        EXPECT_EQ(target->name, APP);
+        struct stat bundle;
+        struct stat named;
+        ASSERT_EQ(::fstat(target->bundle.Get(), &bundle), 0);
+        ASSERT_EQ(::fstatat(target->parent.Get(), APP, &named, 0), 0);
+        EXPECT_EQ(bundle.st_ino, named.st_ino);
+    }
+}
+
+TEST(InstallTarget, LinkAboveItIsFollowedOnce)
+{
+    TargetScene const scene;
+    std::string const link = scene.Above() + "/link";
+    ASSERT_EQ(::symlink(scene.Parent().c_str(), link.c_str()), 0);
+    auto const answer = scene.Open(link + '/' + APP);
+    ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer));
+    EXPECT_EQ(std::get<InstallTarget>(answer).path.toStdString(), scene.Bundle());
+}
+
+TEST(InstallTarget, NamesMayHoldAnythingThatCanBeWritten)
+{
+    TargetScene const scene;
+    for (std::string const& name :
+         {std::string("a b'\"\n$HOME;ls.app"), std::string("\xc3\xa4\xe2\x82\xac.app"), std::string(251, 'n') + ".app"})
+    {
+        std::filesystem::rename(scene.Bundle(), scene.Parent() + '/' + name);
+        auto const answer = scene.Open(scene.Parent() + '/' + name);
+        ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer)) << name;
+        EXPECT_EQ(std::get<InstallTarget>(answer).name, name);
+        std::filesystem::rename(scene.Parent() + '/' + name, scene.Bundle());
+    }
+}
+
+TEST(InstallTarget, LinkOrNothingInItsPlaceIsRefused)
+{
+    TargetScene const scene;
+    std::string const link = scene.Parent() + "/Link.app";
+    ASSERT_EQ(::symlink(APP, link.c_str()), 0);
+    scene.ExpectError(ErrorCause::BundleIsLink, link);
+    scene.ExpectError(ErrorCause::BundleIsLink, link + "/");
+    scene.ExpectError(ErrorCause::BundleMissing, scene.Parent() + "/None.app");
+    scene.ExpectError(ErrorCause::BundleMissing, scene.Bundle() + "/run"); // a file
+    for (char const* const path : {"relative/My App.app", "/", "", "/.", "/tmp/.."})
+    {
+        auto const answer = scene.Open(path);
+        ASSERT_TRUE(std::holds_alternative<EngineError>(answer)) << path;
+        EXPECT_EQ(std::get<EngineError>(answer).cause, ErrorCause::BundleMissing) << path;
+    }
+}
+
+TEST(InstallTarget, PackagesBundleIsLeftToItsManager)
+{
+    TargetScene scene;
+    WriteFile(scene.Above() + "/none/demo.list", scene.Bundle() + "\n");
+    EngineError const error = scene.ExpectError(ErrorCause::BundleOfPackage);
+    EXPECT_TRUE(error.sentence.contains(QStringLiteral("\"sudo apt install --only-upgrade demo\"")))
+        << error.sentence.toStdString();
+    scene.Sources().dpkgInfoFolder = QStringLiteral("/nonexistent");
+    scene.Sources().appImageVariable = QStringLiteral("/home/me/Demo.AppImage");
+    scene.Sources().appFolderVariable = QString::fromStdString(scene.Parent());
+    EXPECT_TRUE(
+        scene.ExpectError(ErrorCause::BundleInImage).sentence.contains(QStringLiteral("/home/me/Demo.AppImage")));
+}
+
+TEST(InstallTarget, LinkToAPackagesBundleHidesNothing)
+{
+    TargetScene const scene;
+    WriteFile(scene.Above() + "/none/demo.list", scene.Bundle() + "\n");
+    std::string const link = scene.Above() + "/link";
+    ASSERT_EQ(::symlink(scene.Parent().c_str(), link.c_str()), 0);
+    scene.ExpectError(ErrorCause::BundleOfPackage, link + '/' + APP);
+}
+
+TEST(InstallTarget, ReadOnlyMountIsRefused)
+{
+    REQUIRE_MOUNTS();
+    TargetScene const scene;
+    Mount const bind("none", scene.Parent(), scene.Parent(), MS_BIND);
+    Mount const readOnly("none", "none", scene.Parent(), MS_BIND | MS_REMOUNT | MS_RDONLY);
+    scene.ExpectError(ErrorCause::BundleOnReadOnlyFileSystem);
+}
+
+TEST(InstallTarget, BundleThatIsADiskOfItsOwnIsRefused)
+{
+    REQUIRE_MOUNTS();
+    TargetScene const scene;
+    Mount const bind("none", scene.Bundle(), scene.Bundle(), MS_BIND);
+    scene.ExpectError(ErrorCause::BundleIsMountPoint);
+}
+
+TEST(InstallTarget, LackOfRoomIsToldInNumbers)
+{
+    REQUIRE_MOUNTS();
+    TargetScene const scene;
+    Mount const small("tmpfs", "none", scene.Parent(), 0, "size=1m,mode=0755");
+    ASSERT_EQ(::mkdir(scene.Bundle().c_str(), 0755), 0);
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle(), quint64{1} << 20)));
+    EngineError const error =
+        scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{1} << 30) + (quint64{1} << 29));
+    EXPECT_TRUE(error.sentence.contains(QStringLiteral("1.50 GiB"))) << error.sentence.toStdString();
+    EXPECT_TRUE(error.sentence.contains(QStringLiteral("1.00 MiB"))) << error.sentence.toStdString();
+    scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), ~quint64{0});
+}
+
+class ProtectedFolder
+{
+public:
+    ProtectedFolder(std::string const& path, int flag)
+        : m_folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    {
+        isProtected = ::ioctl(m_folder.Get(), FS_IOC_GETFLAGS, &m_before) == 0 && Set(m_before | flag);
+    }
+    ~ProtectedFolder()
+    {
+        if (isProtected)
+        {
+            EXPECT_TRUE(Set(m_before));
+        }
+    }
+    ProtectedFolder(ProtectedFolder const&) = delete;
+    ProtectedFolder& operator=(ProtectedFolder const&) = delete;
+
+    bool isProtected = false;
+
+private:
+    bool Set(int flags) const { return ::ioctl(m_folder.Get(), FS_IOC_SETFLAGS, &flags) == 0; }
+
+    UniqueFd m_folder;
+    int m_before = 0;
+};
+
+TEST(InstallTarget, ProtectedFoldersAreRefused)
+{
+    TargetScene const scene;
+    for (int const flag : {FS_IMMUTABLE_FL, FS_APPEND_FL})
+    {
+        for (std::string const& path : {scene.Parent(), scene.Bundle()})
+        {
+            ProtectedFolder const folder(path, flag);
+            if (!folder.isProtected)
+            {
+                GTEST_SKIP() << "this machine lets the test protect nothing";
+            }
+            scene.ExpectError(ErrorCause::BundleImmutable);
+        }
+    }
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
+TEST(InstallTarget, AnotherUsersBundleIsRefused)
+{
+    REQUIRE_ADMINISTRATOR();
+    TargetScene const scene;
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
+    {
+        AsUser const nobody(NOBODY); // the bundle is the administrator's
+        scene.ExpectError(ErrorCause::BundleOfAnotherUser);
+    }
+    Give(scene.Parent(), SOMEBODY);
+    {
+        AsUser const nobody(NOBODY);
+        scene.ExpectError(ErrorCause::BundleOfAnotherUser);
+    }
+    scene.ExpectError(ErrorCause::BundleOfAnotherUser); // the administrator would take it away from its owner
+}
+
+TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
+{
+    REQUIRE_ADMINISTRATOR();
+    TargetScene const scene;
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
+    Give(scene.Bundle(), NOBODY);
+    {
+        AsUser const nobody(NOBODY); // the bundle is theirs, the folder is not
+        scene.ExpectError(ErrorCause::BundleNotWritable);
+    }
+    Give(scene.Parent(), NOBODY);
+    {
+        AsUser const nobody(NOBODY);
+        EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+        ASSERT_EQ(::chmod(scene.Bundle().c_str(), 0555), 0);
+        scene.ExpectError(ErrorCause::BundleNotWritable);
+        ASSERT_EQ(::chmod(scene.Bundle().c_str(), 0755), 0);
+        ASSERT_EQ(::chmod(scene.Parent().c_str(), 0555), 0);
+        scene.ExpectError(ErrorCause::BundleNotWritable);
+    }
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 0700), 0);
+    AsUser const nobody(NOBODY);
+    scene.ExpectError(ErrorCause::BundleNotWritable); // it cannot even be seen
+}
+
+TEST(InstallTarget, FoldersThatOthersMayChangeAreRefused)
+{
+    TargetScene const scene;
+    for (std::string const& path : {scene.Bundle(), scene.Parent(), scene.Above()})
+    {
+        for (mode_t const mode : {0777, 0775})
+        {
+            ASSERT_EQ(::chmod(path.c_str(), mode), 0);
+            scene.ExpectError(ErrorCause::BundleFolderUnsafe);
+        }
+        ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
+    }
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
+} // namespace

@@ -143,7 +143,7 @@ void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectati
     {
         throw UpdateRefusal(UpdateFault::VersionNotNewer);
     }
-    if (information.publicKey.empty())
+    if (information.publicKey.empty() && expectation.kind != Engine::PayloadKind::Installer)
     {
         throw UpdateRefusal(UpdateFault::BundleKeyMissing); // it could never be updated again
     }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/payload/BundleInformation.h"
+#include "Engine/core/payload/UpdateJob.h"
 
 #include <string>
 
@@ -16,13 +17,15 @@ Engine::BundleInformation ReadBundleInformation(int bundleFd, std::string const&
 
 struct BundleExpectation
 {
+    Engine::PayloadKind kind;
     std::string identifier;
     std::string version;
     std::string installedVersion;
 };
 
 /// Throws UpdateRefusal unless the bundle is of that identifier and version, newer than the installed one, trusts some
-/// key, and begins with something that this machine can run.
+/// key, and begins with something that this machine can run. A bundle whose program installs the new version is never
+/// updated itself and needs no key.
 void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation);
 
 /// Throws UpdateRefusal: ExecutableMissing, ExecutableNotRunnable, ExecutableForeign.

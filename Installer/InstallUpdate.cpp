@@ -1,21 +1,21 @@
 #include "Installer/InstallUpdate.h"
 
+#include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
+#include "Installer/ChildProcess.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/Relaunch.h"
+#include "Installer/RunInstaller.h"
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>
-#include <climits>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -25,6 +25,7 @@ namespace
 
 using Engine::HelperPhase;
 using Engine::InstallJob;
+using Engine::PayloadKind;
 using Engine::RelaunchedBundle;
 using Engine::UniqueFd;
 using Engine::UpdateFault;
@@ -45,13 +46,6 @@ void BlockSignals()
     ::sigprocmask(SIG_BLOCK, &signals, nullptr);
 }
 
-std::int64_t NowInMilliseconds()
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<std::int64_t>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
-}
-
 void WaitForHost(int hostFd, std::uint64_t waitSeconds)
 {
     // Any other file would look like a host that has ended.
@@ -60,25 +54,9 @@ void WaitForHost(int hostFd, std::uint64_t waitSeconds)
     {
         throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
     }
-    std::int64_t const end = NowInMilliseconds() + static_cast<std::int64_t>(waitSeconds) * 1000;
-    for (;;)
+    if (!WaitForEnd(hostFd, waitSeconds))
     {
-        pollfd ended{hostFd, POLLIN, 0};
-        std::int64_t const left = end - NowInMilliseconds();
-        int const timeout = waitSeconds == 0 ? -1 : static_cast<int>(left < 0 ? 0 : left);
-        int const count = ::poll(&ended, 1, timeout);
-        if (count > 0 && (ended.revents & POLLIN) != 0)
-        {
-            return;
-        }
-        if (count == 0)
-        {
-            throw UpdateRefusal(UpdateFault::HostStillRunning);
-        }
-        if (count > 0 || errno != EINTR)
-        {
-            throw UpdateRefusal(UpdateFault::DescriptorUnusable, count > 0 ? 0 : errno);
-        }
+        throw UpdateRefusal(UpdateFault::HostStillRunning);
     }
 }
 
@@ -90,7 +68,7 @@ bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-/// The installed bundle must still be the one that the update was prepared for.
+/// The installed bundle must still be the one that the update was prepared for, and let an installer program run.
 void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
 {
     UniqueFd const target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
@@ -103,18 +81,24 @@ void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
     {
         throw UpdateRefusal(UpdateFault::TargetChanged);
     }
+    if (job.kind == PayloadKind::Installer && !information.allowsInstallerPrograms)
+    {
+        throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
+    }
 }
 
-/// The staged bundle must still be the one that was checked.
-void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors)
+/// The staged bundle, which must still be the one that was checked.
+UniqueFd CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors)
 {
-    UniqueFd const staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
+    UniqueFd staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
     bool const isInPlace = staged && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
     if (!isInPlace || Engine::DigestTree(staged.Get()) != job.digest)
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
     }
-    CheckNewBundle(staged.Get(), job.stagedName, {job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+    CheckNewBundle(staged.Get(), job.stagedName,
+                   {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+    return staged;
 }
 
 /// Everything between the host's end and the relaunch.
@@ -124,7 +108,16 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     // The version that asked for this has run: what an earlier update kept for it is not needed any more.
     static_cast<void>(RecoverSwap(descriptors.parent, job.targetName, job.installedVersion));
     CheckTarget(job, descriptors);
-    CheckStaged(job, descriptors);
+    UniqueFd const staged = CheckStaged(job, descriptors);
+    if (job.kind == PayloadKind::Installer)
+    {
+        report.SendProgress(HelperPhase::Installing, 0, 0);
+        RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent) + '/' + job.targetName);
+        report.Send(Engine::InstalledReport{});
+        // What stays behind is removed at the next start.
+        static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
+        return;
+    }
     Engine::SwapJournal const journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
     WriteSwapJournal(descriptors.parent, job.targetName, journal);
     report.SendProgress(HelperPhase::Installing, 0, 0);
@@ -205,7 +198,7 @@ bool StartAgain(InstallJob const& job, ReportChannel& report)
         }
         try
         {
-            Relaunch(FindRelaunchTarget(choice.path), job.environment);
+            static_cast<void>(Relaunch(FindRelaunchTarget(choice.path), job.environment));
             report.Send(Engine::RelaunchedReport{choice.name});
             return true;
         }

@@ -109,6 +109,11 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
 
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
 {
+    if (job.kind == PayloadKind::Installer &&
+        !ReadBundleInformation(descriptors.target, job.bundleName).allowsInstallerPrograms)
+    {
+        throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
+    }
     struct stat const before = StatusOf(descriptors.archive);
     if (static_cast<std::uint64_t>(before.st_size) != job.archiveBytes)
     {
@@ -136,7 +141,7 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
         throw UpdateRefusal(UpdateFault::ArchiveInUse);
     }
     CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), bundle.name,
-                   {job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+                   {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
     // Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could
     // not write.
     if (::syncfs(descriptors.staging) != 0)

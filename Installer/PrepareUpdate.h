@@ -12,7 +12,7 @@ struct PrepareDescriptors
 {
     int archive;
     int staging;
-    int target; ///< the installed bundle's folder; deltas only
+    int target; ///< the installed bundle's folder; deltas and installer programs only
 };
 
 /// Throws UpdateRefusal. On success the prepared bundle has been reported, and every byte of it is on the disk.

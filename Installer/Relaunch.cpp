@@ -3,13 +3,12 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Installer/BundleInformation.h"
+#include "Installer/ChildProcess.h"
 
 #include <cerrno>
 #include <climits>
 
 #include <fcntl.h>
-#include <signal.h>
-#include <spawn.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -37,20 +36,6 @@ bool HasOnlyPlainComponents(std::string const& path)
     return path.size() > 1 && path.front() == '/' && path.size() < PATH_MAX;
 }
 
-/// Where the open folder stands, without any link in the path.
-std::string RealPath(UniqueFd const& folder)
-{
-    std::string path(PATH_MAX, '\0');
-    ssize_t const size =
-        ::readlink(("/proc/self/fd/" + std::to_string(folder.Get())).c_str(), path.data(), path.size());
-    if (size <= 0 || path.front() != '/' || static_cast<std::size_t>(size) == path.size())
-    {
-        throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe, size < 0 ? errno : 0);
-    }
-    path.resize(static_cast<std::size_t>(size));
-    return path;
-}
-
 bool IsProgramSafe(UniqueFd const& bundle, std::string const& executable)
 {
     struct stat status;
@@ -71,7 +56,11 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     {
         throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe, bundle ? 0 : errno);
     }
-    std::string const realPath = RealPath(bundle);
+    std::string const realPath = Engine::RealPathOf(bundle.Get());
+    if (realPath.empty())
+    {
+        throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
+    }
     try
     {
         std::string const name = realPath.substr(realPath.rfind('/') + 1);
@@ -89,34 +78,15 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
 }
 
-void Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment)
+pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment)
 {
-    std::string path = target.executablePath;
-    char* arguments[] = {path.data(), nullptr};
-    std::vector<std::string> copies = environment;
-    std::vector<char*> variables;
-    for (std::string& variable : copies)
-    {
-        variables.push_back(variable.data());
-    }
-    variables.push_back(nullptr);
-
-    sigset_t none;
-    sigset_t all;
-    ::sigemptyset(&none);
-    ::sigfillset(&all);
-    posix_spawnattr_t attributes;
-    ::posix_spawnattr_init(&attributes);
-    ::posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-    ::posix_spawnattr_setsigmask(&attributes, &none);
-    ::posix_spawnattr_setsigdefault(&attributes, &all);
-    pid_t process = 0;
-    int const error = ::posix_spawn(&process, path.c_str(), nullptr, &attributes, arguments, variables.data());
-    ::posix_spawnattr_destroy(&attributes);
-    if (error != 0)
+    int error = 0;
+    pid_t const process = StartProgram({target.executablePath}, environment, error);
+    if (process < 0)
     {
         throw UpdateRefusal(UpdateFault::RelaunchFailed, error);
     }
+    return process;
 }
 
 } // namespace Pelnar::Installer

@@ -1,9 +1,11 @@
 // Relaunch.h: starts a bundle's program after an update.
-// Thread: any. Ownership: values only; the started process is nobody's child to wait for.
+// Thread: any. Ownership: values only; the started process is the caller's child, whether it waits for it or not.
 #pragma once
 
 #include <string>
 #include <vector>
+
+#include <sys/types.h>
 
 namespace Pelnar::Installer
 {
@@ -20,7 +22,7 @@ struct RelaunchTarget
 RelaunchTarget FindRelaunchTarget(std::string const& bundlePath);
 
 /// Starts the program with itself as the one argument, the given environment, its own session and no signal blocked.
-/// Throws UpdateRefusal: RelaunchFailed.
-void Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment);
+/// Answers its number. Throws UpdateRefusal: RelaunchFailed.
+pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment);
 
 } // namespace Pelnar::Installer

@@ -119,13 +119,13 @@ bool Prepare(Installer::ReportChannel& report)
     // Nobody reads the report any more when the host has gone: then SIGPIPE ends this process, which is right.
     auto const job = ReadJobOfKind<Engine::PrepareJob>();
     RequireFolder(HelperDescriptors::STAGING);
-    bool const isDelta = job.kind == Engine::PayloadKind::Delta;
-    if (isDelta)
+    bool const hasTarget = job.kind != Engine::PayloadKind::WholeBundle;
+    if (hasTarget)
     {
         RequireFolder(HelperDescriptors::TARGET);
     }
     Installer::PrepareUpdate(
-        job, {HelperDescriptors::ARCHIVE, HelperDescriptors::STAGING, isDelta ? HelperDescriptors::TARGET : -1},
+        job, {HelperDescriptors::ARCHIVE, HelperDescriptors::STAGING, hasTarget ? HelperDescriptors::TARGET : -1},
         report);
     return true;
 }

@@ -82,7 +82,7 @@ TEST(UpdateJob, HostilePrepareJobsAreRefused)
              [](PrepareJob& job) {
                  job.publicKeys = {"a", "b", "c"};
              },
-             [](PrepareJob& job) { job.kind = static_cast<PayloadKind>(2); },
+             [](PrepareJob& job) { job.kind = static_cast<PayloadKind>(3); },
          })
     {
         EXPECT_FALSE(IsTaken(SomePrepareJob(), change));
@@ -108,6 +108,9 @@ TEST(UpdateJob, HostileInstallJobsAreRefused)
              [](InstallJob& job) { job.relaunchPath = "file:///x"; },
              [](InstallJob& job) { job.targetPath = ""; },
              [](InstallJob& job) { job.waitSeconds = 24 * 60 * 60 + 1; },
+             [](InstallJob& job) { job.kind = static_cast<PayloadKind>(3); },
+             [](InstallJob& job) { job.installerSeconds = 0; },
+             [](InstallJob& job) { job.installerSeconds = 24 * 60 * 60 + 1; },
              [](InstallJob& job) { job.environment = {"NOVALUE"}; },
              [](InstallJob& job) { job.environment = {"=x"}; },
              [](InstallJob& job) { job.environment = {"A=b\0c"s}; },

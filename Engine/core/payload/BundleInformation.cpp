@@ -27,6 +27,12 @@ std::string ExecutableName(PropertyListValue const& list, std::string const& bun
     return hasSuffix ? bundleName.substr(0, bundleName.size() - BUNDLE_SUFFIX.size()) : bundleName;
 }
 
+/// A truth value as a person writes it; XML's own are "YES" and "NO" by now.
+bool IsTrue(std::optional<std::string> const& text)
+{
+    return text && (*text == "YES" || *text == "yes" || *text == "true" || *text == "1");
+}
+
 } // namespace
 
 BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName)
@@ -46,6 +52,7 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     information.displayVersion = list->TextOf("CFBundleShortVersionString").value_or("");
     information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
     information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
+    information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
     information.executable = ExecutableName(*list, bundleName);
     std::string const& executable = information.executable;
     if (executable.empty() || executable == "." || executable == ".." || executable.find('/') != std::string::npos)

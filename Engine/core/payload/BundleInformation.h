@@ -19,6 +19,7 @@ struct BundleInformation
     std::string minimumSystemVersion; ///< empty when the bundle gives none
     std::string publicKey;            ///< empty when the bundle trusts no key
     std::string executable;           ///< the file's name in the bundle's folder
+    bool allowsInstallerPrograms = false;
 };
 
 /// Reads \a text, the whole information file; \a bundleName is the name of the bundle's folder, after which an

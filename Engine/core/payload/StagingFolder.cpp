@@ -4,6 +4,7 @@
 #include "Engine/core/payload/UpdateFault.h"
 
 #include <cerrno>
+#include <climits>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -85,6 +86,15 @@ StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
             return StagingFolder(std::move(folder), std::move(name));
         }
     }
+}
+
+std::string RealPathOf(int folderFd)
+{
+    std::string path(PATH_MAX, '\0');
+    ssize_t const size = ::readlink(("/proc/self/fd/" + std::to_string(folderFd)).c_str(), path.data(), path.size());
+    bool const isWhole = size > 0 && static_cast<std::size_t>(size) < path.size() && path.front() == '/';
+    path.resize(isWhole ? static_cast<std::size_t>(size) : 0);
+    return path;
 }
 
 bool IsSafeUpToTheRoot(int folderFd)

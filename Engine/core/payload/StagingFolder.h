@@ -33,6 +33,9 @@ std::string UpdateFilePrefix(std::string_view targetName);
 /// The name of the journal of a swap of \a targetName; it does not begin like a staging folder's.
 std::string SwapJournalName(std::string_view targetName);
 
+/// Where the open folder stands, without any link in the path; empty when that cannot be told.
+[[nodiscard]] std::string RealPathOf(int folderFd);
+
 /// True when everybody but the system's administrator and this user is kept from changing what stands in the open
 /// folder or on its way up: each folder belongs to one of the two, and nobody else may write there unless it is sticky.
 [[nodiscard]] bool IsSafeUpToTheRoot(int folderFd);

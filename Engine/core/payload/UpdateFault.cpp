@@ -154,6 +154,14 @@ std::string_view FaultName(UpdateFault fault)
         return "SwapFailed";
     case UpdateFault::SyncFailed:
         return "SyncFailed";
+    case UpdateFault::InstallerNotAllowed:
+        return "InstallerNotAllowed";
+    case UpdateFault::InstallerNotStarted:
+        return "InstallerNotStarted";
+    case UpdateFault::InstallerFailed:
+        return "InstallerFailed";
+    case UpdateFault::InstallerTimedOut:
+        return "InstallerTimedOut";
     case UpdateFault::RelaunchPathUnsafe:
         return "RelaunchPathUnsafe";
     case UpdateFault::RelaunchFailed:

@@ -84,6 +84,11 @@ enum class UpdateFault
     SwapFailed,
     SyncFailed,
 
+    InstallerNotAllowed,
+    InstallerNotStarted,
+    InstallerFailed,
+    InstallerTimedOut,
+
     RelaunchPathUnsafe,
     RelaunchFailed,
 };

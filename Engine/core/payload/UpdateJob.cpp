@@ -12,6 +12,7 @@ namespace
 constexpr std::string_view MAGIC = "PELNARJ1";
 constexpr std::size_t MAX_KEYS = 2;
 constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
+constexpr auto LAST_PAYLOAD_KIND = static_cast<std::uint64_t>(PayloadKind::Installer);
 
 enum class JobKind : std::uint64_t
 {
@@ -36,6 +37,7 @@ void Write(FieldWriter& writer, PrepareJob const& job)
 void Write(FieldWriter& writer, InstallJob const& job)
 {
     writer.Number(static_cast<std::uint64_t>(JobKind::Install));
+    writer.Number(static_cast<std::uint64_t>(job.kind));
     writer.Text(job.targetName);
     writer.Text(job.stagingName);
     writer.Text(job.stagedName);
@@ -44,6 +46,7 @@ void Write(FieldWriter& writer, InstallJob const& job)
     writer.Text(job.expectedVersion);
     writer.Text(job.installedVersion);
     writer.Number(job.waitSeconds);
+    writer.Number(job.installerSeconds);
     writer.Text(job.targetPath);
     writer.Text(job.relaunchPath);
     writer.Texts(job.environment);
@@ -78,9 +81,8 @@ PrepareJob ReadPrepare(FieldReader& reader)
     job.bundleIdentifier = reader.Text();
     job.expectedVersion = reader.Text();
     job.installedVersion = reader.Text();
-    if (kind > static_cast<std::uint64_t>(PayloadKind::Delta) || job.publicKeys.size() > MAX_KEYS ||
-        !IsName(job.bundleName) || job.bundleIdentifier.empty() || job.expectedVersion.empty() ||
-        job.installedVersion.empty())
+    if (kind > LAST_PAYLOAD_KIND || job.publicKeys.size() > MAX_KEYS || !IsName(job.bundleName) ||
+        job.bundleIdentifier.empty() || job.expectedVersion.empty() || job.installedVersion.empty())
     {
         reader.Refuse();
     }
@@ -90,6 +92,8 @@ PrepareJob ReadPrepare(FieldReader& reader)
 InstallJob ReadInstall(FieldReader& reader)
 {
     InstallJob job;
+    std::uint64_t const kind = reader.Number();
+    job.kind = static_cast<PayloadKind>(kind);
     job.targetName = reader.Text();
     job.stagingName = reader.Text();
     job.stagedName = reader.Text();
@@ -98,6 +102,7 @@ InstallJob ReadInstall(FieldReader& reader)
     job.expectedVersion = reader.Text();
     job.installedVersion = reader.Text();
     job.waitSeconds = reader.Number();
+    job.installerSeconds = reader.Number();
     job.targetPath = reader.Text();
     job.relaunchPath = reader.Text();
     job.environment = reader.Texts();
@@ -107,9 +112,11 @@ InstallJob ReadInstall(FieldReader& reader)
                                             std::size_t const place = text.find('=');
                                             return place != std::string::npos && place != 0;
                                         });
-    if (digest.size() != job.digest.size() || !IsName(job.targetName) || !IsName(job.stagingName) ||
-        !IsName(job.stagedName) || job.bundleIdentifier.empty() || job.expectedVersion.empty() ||
-        job.installedVersion.empty() || job.waitSeconds > MAX_WAIT_SECONDS || !IsAbsoluteOrEmpty(job.targetPath) ||
+    bool const isInTime =
+        job.waitSeconds <= MAX_WAIT_SECONDS && job.installerSeconds > 0 && job.installerSeconds <= MAX_WAIT_SECONDS;
+    if (kind > LAST_PAYLOAD_KIND || !isInTime || digest.size() != job.digest.size() || !IsName(job.targetName) ||
+        !IsName(job.stagingName) || !IsName(job.stagedName) || job.bundleIdentifier.empty() ||
+        job.expectedVersion.empty() || job.installedVersion.empty() || !IsAbsoluteOrEmpty(job.targetPath) ||
         !IsAbsoluteOrEmpty(job.relaunchPath) || (job.targetPath.empty() && !job.relaunchPath.empty()) || !isVariable)
     {
         reader.Refuse();

@@ -22,7 +22,7 @@ struct HelperDescriptors
     static constexpr int REPORT = 4;
     static constexpr int STAGING = 5; ///< prepare, install
     static constexpr int ARCHIVE = 6; ///< prepare
-    static constexpr int TARGET = 7;  ///< prepare, a delta: the installed bundle's folder
+    static constexpr int TARGET = 7;  ///< prepare, a delta or an installer program: the installed bundle's folder
     static constexpr int PARENT = 6;  ///< install, recover: the folder that holds the installed bundle
     static constexpr int HOST = 7;    ///< install: a pidfd of the host
     static constexpr int COUNT = 8;
@@ -32,6 +32,7 @@ enum class PayloadKind : std::uint8_t
 {
     WholeBundle = 0,
     Delta = 1,
+    Installer = 2, ///< a bundle whose program installs the new version; only for a host that allows such programs
 };
 
 /// Verify the archive, unpack it into the staging folder, check the bundle.
@@ -47,20 +48,23 @@ struct PrepareJob
     std::string installedVersion;        ///< the running bundle's
 };
 
-/// Once the host has ended, put the staged bundle in the installed one's place, then start what is asked for.
+/// Once the host has ended, put the staged bundle in the installed one's place, or run the staged installer program;
+/// then start what is asked for.
 struct InstallJob
 {
-    std::string targetName;  ///< of the installed bundle's folder
-    std::string stagingName; ///< of the staging folder, beside it
-    std::string stagedName;  ///< of the new bundle's folder, in the staging folder
-    Sha256 digest{};         ///< of the new bundle's tree
+    PayloadKind kind = PayloadKind::WholeBundle; ///< of the prepared update; a delta's result is a whole bundle
+    std::string targetName;                      ///< of the installed bundle's folder
+    std::string stagingName;                     ///< of the staging folder, beside it
+    std::string stagedName;                      ///< of the new bundle's folder, in the staging folder
+    Sha256 digest{};                             ///< of the new bundle's tree
     std::string bundleIdentifier;
     std::string expectedVersion;
     std::string installedVersion;
-    std::uint64_t waitSeconds = 0;        ///< for the host to end; 0: as long as it takes
-    std::string targetPath;               ///< absolute; to be started afterwards; empty: start nothing
-    std::string relaunchPath;             ///< absolute; started instead of targetPath if it is safe; may be empty
-    std::vector<std::string> environment; ///< of what is started, "NAME=value"
+    std::uint64_t waitSeconds = 0;         ///< for the host to end; 0: as long as it takes
+    std::uint64_t installerSeconds = 3600; ///< for an installer program to end
+    std::string targetPath;                ///< absolute; to be started afterwards; empty: start nothing
+    std::string relaunchPath;              ///< absolute; started instead of targetPath if it is safe; may be empty
+    std::vector<std::string> environment;  ///< of what is started, "NAME=value"
 };
 
 /// Finish or undo what an interrupted helper left beside the bundle.

@@ -29,7 +29,7 @@ std::map<int, int> NumbersOf(PrepareJob const& job, HelperInheritance const& inh
 {
     std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
                                {HelperDescriptors::ARCHIVE, inherited.archiveOrParent}};
-    if (job.kind == PayloadKind::Delta)
+    if (job.kind != PayloadKind::WholeBundle)
     {
         numbers[HelperDescriptors::TARGET] = inherited.targetOrHost;
     }

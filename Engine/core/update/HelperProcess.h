@@ -21,7 +21,7 @@ struct HelperInheritance
 {
     int staging = -1;
     int archiveOrParent = -1; ///< prepare: the archive; install, recover: the folder that holds the bundle
-    int targetOrHost = -1;    ///< prepare, of a delta: the installed bundle; install: a pidfd of the host
+    int targetOrHost = -1;    ///< prepare, unless of a whole bundle: the installed one; install: a pidfd of the host
 };
 
 enum class HelperEnd

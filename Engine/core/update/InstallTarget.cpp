@@ -5,7 +5,6 @@
 #include <QLocale>
 
 #include <cerrno>
-#include <climits>
 #include <optional>
 
 #include <fcntl.h>
@@ -19,17 +18,6 @@ namespace
 {
 
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
-
-/// Where the open folder stands, without any link in the path; empty when it cannot be told.
-std::string RealPath(UniqueFd const& folder)
-{
-    std::string path(PATH_MAX, '\0');
-    ssize_t const size =
-        ::readlink(("/proc/self/fd/" + std::to_string(folder.Get())).c_str(), path.data(), path.size());
-    bool const isWhole = size > 0 && static_cast<std::size_t>(size) < path.size() && path.front() == '/';
-    path.resize(isWhole ? static_cast<std::size_t>(size) : 0);
-    return path;
-}
 
 EngineError Error(ErrorCause cause, std::string const& path)
 {
@@ -79,7 +67,7 @@ std::variant<InstallTarget, EngineError> Open(QString const& bundlePath)
         return Error(ErrorCause::BundleIsLink, path);
     }
     target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
-    std::string const parentPath = target.bundle ? RealPath(target.parent) : std::string();
+    std::string const parentPath = target.bundle ? RealPathOf(target.parent.Get()) : std::string();
     if (parentPath.empty())
     {
         return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);

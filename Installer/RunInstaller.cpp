@@ -1,0 +1,99 @@
+#include "Installer/RunInstaller.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/UpdateFault.h"
+#include "Installer/BundleInformation.h"
+#include "Installer/ChildProcess.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <iterator>
+#include <string_view>
+
+#include <signal.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::UniqueFd;
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr char SEARCH_PATH[] = "PATH=/usr/sbin:/usr/bin:/sbin:/bin";
+
+/// What a program needs to know of the person and the screen, and nothing that its loader or its libraries obey.
+constexpr std::string_view VARIABLES[] = {"HOME",
+                                          "USER",
+                                          "LOGNAME",
+                                          "LANG",
+                                          "LANGUAGE",
+                                          "TZ",
+                                          "DISPLAY",
+                                          "WAYLAND_DISPLAY",
+                                          "XAUTHORITY",
+                                          "XDG_RUNTIME_DIR",
+                                          "XDG_SESSION_TYPE",
+                                          "XDG_CURRENT_DESKTOP",
+                                          "DBUS_SESSION_BUS_ADDRESS"};
+constexpr std::string_view LOCALE_PREFIX = "LC_";
+
+std::vector<std::string> EnvironmentOf(std::vector<std::string> const& variables)
+{
+    std::vector<std::string> environment{SEARCH_PATH};
+    for (std::string const& variable : variables)
+    {
+        std::string_view const name = std::string_view(variable).substr(0, variable.find('='));
+        if (name.substr(0, LOCALE_PREFIX.size()) == LOCALE_PREFIX ||
+            std::find(std::begin(VARIABLES), std::end(VARIABLES), name) != std::end(VARIABLES))
+        {
+            environment.push_back(variable);
+        }
+    }
+    return environment;
+}
+
+int Reap(pid_t process)
+{
+    int status = 0;
+    while (::waitpid(process, &status, 0) < 0 && errno == EINTR)
+    {
+    }
+    return status;
+}
+
+} // namespace
+
+void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const& targetPath)
+{
+    std::string const folder = Engine::RealPathOf(stagedFd);
+    std::string const executable = ReadBundleInformation(stagedFd, job.stagedName).executable;
+    int error = 0;
+    pid_t const process = StartProgram({folder + '/' + executable, targetPath}, EnvironmentOf(job.environment), error);
+    if (process < 0)
+    {
+        throw UpdateRefusal(UpdateFault::InstallerNotStarted, error);
+    }
+    UniqueFd const ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+    bool const isInTime = ended && WaitForEnd(ended.Get(), job.installerSeconds);
+    if (!isInTime)
+    {
+        ::kill(-process, SIGKILL); // the session's first process leads a group of the same number
+    }
+    int const status = Reap(process);
+    if (!isInTime)
+    {
+        throw UpdateRefusal(UpdateFault::InstallerTimedOut);
+    }
+    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::InstallerFailed);
+    }
+}
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,239 @@
+// InstallerProgramTest.cpp: archives that bring a program which installs the new version by itself.
+
+#include "tests/installer/InstallerFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+constexpr char SETUP[] = "Setup.app";
+
+std::string SetupInformation(std::string const& version = "2.0", std::string const& identifier = IDENTIFIER)
+{
+    return "{ CFBundleIdentifier = \"" + identifier + "\"; CFBundleVersion = \"" + version +
+           "\"; NSExecutable = setup; }";
+}
+
+std::string ArchiveOf(std::string const& script, std::string const& information = SetupInformation())
+{
+    std::string const folder = SETUP;
+    return MakeArchive(Container::Zip, {{folder + "/", 'd', {}, 0755},
+                                        {folder + "/setup", 'f', script, 0755},
+                                        {folder + "/Resources/", 'd', {}, 0755},
+                                        {folder + "/Resources/Info-gnustep.plist", 'f', information}});
+}
+
+/// An installed version 1.0 whose information file has the line, and an archive with the script as a program.
+class ProgramScene
+{
+public:
+    explicit ProgramScene(std::string const& archive, std::string const& line = "PelnarAllowsInstallerPrograms = YES;")
+        : scene(archive)
+    {
+        Say(line);
+    }
+
+    void Say(std::string const& line) const
+    {
+        std::string text = InformationText("1.0");
+        text.insert(text.find('{') + 1, line);
+        std::ofstream(Target() + "/Resources/Info-gnustep.plist") << text;
+    }
+
+    HelperOutcome Prepare()
+    {
+        PrepareJob job = scene.MakePrepareJob();
+        job.kind = PayloadKind::Installer;
+        return scene.Prepare(job);
+    }
+
+    InstallJob PrepareForInstall()
+    {
+        HelperOutcome const outcome = Prepare();
+        auto const* const prepared = outcome.Find<PreparedReport>();
+        EXPECT_NE(prepared, nullptr) << FaultName(outcome.Fault());
+        InstallJob job;
+        job.kind = PayloadKind::Installer;
+        job.targetName = APP;
+        job.stagingName = scene.StagingName();
+        job.stagedName = prepared ? prepared->stagedName : SETUP;
+        job.digest = prepared ? prepared->digest : Sha256{};
+        job.bundleIdentifier = IDENTIFIER;
+        job.expectedVersion = "2.0";
+        job.installedVersion = "1.0";
+        job.targetPath = Target();
+        return job;
+    }
+
+    HelperOutcome Install(InstallJob const& job)
+    {
+        scene.Host().End();
+        return scene.Install(job);
+    }
+
+    std::string Target() const { return scene.Place().Path() + '/' + APP; }
+
+    UpdateScene scene;
+};
+
+/// Nothing came of it: the previous version is there, was started, and nothing is left of the update.
+void ExpectUntouched(ProgramScene const& program, HelperOutcome const& outcome)
+{
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
+    EXPECT_EQ(outcome.output, "1.0|" + program.Target() + "/run|0|\n");
+    EXPECT_EQ(program.scene.Place().StartedVersion(), "1.0");
+    EXPECT_EQ(program.scene.Place().Names(), std::vector<std::string>{APP});
+}
+
+TEST(InstallerProgram, RunsOnceTheHostHasEndedAndItsStatusDecides)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\n"
+                                   "echo \"2.0\" > \"$1/by-setup\"\n"
+                                   "echo \"$#|$1|$(pwd)\"\n"
+                                   "test \"$(cut -d' ' -f6 /proc/$$/stat)\" = $$ && echo own session\n"
+                                   "env | grep -v '^_=\\|^PWD=\\|^OLDPWD=\\|^SHLVL=' | sort\n"));
+    InstallJob job = program.PrepareForInstall();
+    EXPECT_FALSE(std::filesystem::exists(program.Target() + "/by-setup")); // nothing of the archive has run
+    Workspace const other;
+    other.Put(MakeBundle("7.0", "Answered.app"));
+    job.relaunchPath = other.Path() + "/Answered.app";
+    job.environment = {"LD_PRELOAD=/tmp/x.so", "PATH=/tmp",      "HOME=/home/me", "LC_ALL=C",
+                       "PELNAR_TEST=kept",     "BASH_ENV=/tmp/x"};
+    HelperOutcome const outcome = program.Install(job);
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_NE(outcome.Find<InstalledReport>(), nullptr);
+    EXPECT_EQ(outcome.output, "1|" + program.Target() +
+                                  "|/\nown session\nHOME=/home/me\nLC_ALL=C\n"
+                                  "PATH=/usr/sbin:/usr/bin:/sbin:/bin\n7.0|" +
+                                  job.relaunchPath + "/run|0|kept\n");
+    ASSERT_NE(outcome.Find<RelaunchedReport>(), nullptr);
+    EXPECT_EQ(outcome.Find<RelaunchedReport>()->bundle, RelaunchedBundle::Answered);
+    EXPECT_TRUE(std::filesystem::exists(program.Target() + "/by-setup"));
+    EXPECT_EQ(program.scene.Place().Names(), std::vector<std::string>{APP});
+}
+
+TEST(InstallerProgram, DoesNotRunWhileTheHostLives)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\ntouch \"$1/by-setup\"\n"));
+    InstallJob job = program.PrepareForInstall();
+    job.waitSeconds = 1;
+    EXPECT_EQ(program.scene.Install(job).Fault(), UpdateFault::HostStillRunning);
+    EXPECT_FALSE(std::filesystem::exists(program.Target() + "/by-setup"));
+}
+
+TEST(InstallerProgram, NeedsTheInstalledBundlesLeave)
+{
+    std::string const archive = ArchiveOf("#!/bin/sh\ntouch \"$1/by-setup\"\n");
+    for (char const* const line : {"", "PelnarAllowsInstallerPrograms = NO;", "PelnarAllowsInstallerPrograms = \"\";",
+                                   "PelnarAllowsInstallerPrograms = (YES);"})
+    {
+        SCOPED_TRACE(line);
+        ProgramScene refused(archive, line);
+        EXPECT_EQ(refused.Prepare().Fault(), UpdateFault::InstallerNotAllowed);
+        EXPECT_TRUE(refused.scene.Place().Names(refused.scene.StagingName()).empty()); // not even unpacked
+
+        ProgramScene taken(archive);
+        InstallJob const job = taken.PrepareForInstall();
+        taken.Say(line);
+        HelperOutcome const outcome = taken.Install(job);
+        EXPECT_EQ(outcome.Fault(), UpdateFault::InstallerNotAllowed);
+        ExpectUntouched(taken, outcome);
+        EXPECT_FALSE(std::filesystem::exists(taken.Target() + "/by-setup"));
+    }
+}
+
+struct ArchiveRow
+{
+    char const* name;
+    std::string information;
+    UpdateFault fault;
+};
+
+class InstallerArchives : public testing::TestWithParam<ArchiveRow>
+{
+};
+
+TEST_P(InstallerArchives, AreCheckedLikeAnyOther)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\n", GetParam().information));
+    EXPECT_EQ(program.Prepare().Fault(), GetParam().fault);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, InstallerArchives,
+    testing::Values(ArchiveRow{"Right", SetupInformation(), UpdateFault::None},
+                    ArchiveRow{"OtherProduct", SetupInformation("2.0", "org.other"), UpdateFault::IdentifierDiffers},
+                    ArchiveRow{"OtherVersion", SetupInformation("3.0"), UpdateFault::VersionDiffers},
+                    ArchiveRow{"NoInformation", "", UpdateFault::InformationMalformed},
+                    ArchiveRow{"NoSuchProgram",
+                               "{ CFBundleIdentifier = \"org.pelnar.test\"; CFBundleVersion = \"2.0\"; }",
+                               UpdateFault::ExecutableMissing}),
+    [](testing::TestParamInfo<ArchiveRow> const& info) { return info.param.name; });
+
+TEST(InstallerProgram, IsNoWholeBundleAndNoBundleIsOne)
+{
+    UpdateScene asBundle(ArchiveOf("#!/bin/sh\n"));
+    EXPECT_EQ(asBundle.Prepare(asBundle.MakePrepareJob()).Fault(), UpdateFault::BundleKeyMissing);
+}
+
+TEST(InstallerProgram, ForgedSignatureIsRefusedBeforeAnythingIsUnpacked)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\n"));
+    PrepareJob job = program.scene.MakePrepareJob();
+    job.kind = PayloadKind::Installer;
+    job.signature = Base64(Sign("something else", program.scene.Keys()));
+    EXPECT_EQ(program.scene.Prepare(job).Fault(), UpdateFault::SignatureMismatch);
+    EXPECT_TRUE(program.scene.Place().Names(program.scene.StagingName()).empty());
+}
+
+struct FailureRow
+{
+    char const* name;
+    char const* script;
+    UpdateFault fault;
+};
+
+class FailingInstaller : public testing::TestWithParam<FailureRow>
+{
+};
+
+TEST_P(FailingInstaller, IsReportedAndThePreviousVersionStarts)
+{
+    ProgramScene program(ArchiveOf(GetParam().script));
+    InstallJob job = program.PrepareForInstall();
+    job.installerSeconds = 1;
+    HelperOutcome const outcome = program.Install(job);
+    EXPECT_EQ(outcome.Fault(), GetParam().fault);
+    ExpectUntouched(program, outcome);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, FailingInstaller,
+    testing::Values(FailureRow{"OtherStatus", "#!/bin/sh\nexit 3\n", UpdateFault::InstallerFailed},
+                    FailureRow{"EndedByASignal", "#!/bin/sh\nkill -9 $$\n", UpdateFault::InstallerFailed},
+                    FailureRow{"NoInterpreter", "#!/nonexistent/interpreter\n", UpdateFault::InstallerNotStarted},
+                    // That the outcome comes at all shows that the sleeper, which holds the output, is gone too.
+                    FailureRow{"NeverDone", "#!/bin/sh\nsleep 1000 &\nsleep 1000\n", UpdateFault::InstallerTimedOut}),
+    [](testing::TestParamInfo<FailureRow> const& info) { return info.param.name; });
+
+TEST(InstallerProgram, ChangedAfterItWasCheckedItDoesNotRun)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\nexit 0\n"));
+    InstallJob const job = program.PrepareForInstall();
+    std::ofstream(program.scene.StagingPath() + '/' + SETUP + "/setup", std::ios::app) << "touch \"$1/by-setup\"\n";
+    HelperOutcome const outcome = program.Install(job);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::StagedTreeChanged);
+    ExpectUntouched(program, outcome);
+}
+
+} // namespace

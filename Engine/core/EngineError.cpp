@@ -182,6 +182,22 @@ char const* SentenceOf(ErrorCause cause)
                "the administrator to set its permissions right.";
     case ErrorCause::NoRoomForUpdate:
         return "There is no room for the update: it needs %1, and %2 are free. Make room and try again.";
+
+    case ErrorCause::UpdatesDisabled:
+        return "Updates of this application are switched off: ask whoever manages this computer.";
+    case ErrorCause::HeldBack:
+        return "The last checks for updates failed, so the next one waits: check by hand to try at once.";
+
+    case ErrorCause::Cancelled:
+        return "The update was cancelled: check for updates to begin again.";
+    case ErrorCause::BundleUnnamed:
+        return "This application does not say its identifier and version, so that no update can be matched to it: "
+               "install it anew from its publisher.";
+    case ErrorCause::HelperFailed:
+        return "The program that installs updates ended unexpectedly: try again, and install the application anew if "
+               "it stays so.";
+    case ErrorCause::Fault:
+        break; // SentenceOf(UpdateFault)
     }
     return "The check for updates failed: try again later.";
 }
@@ -235,6 +251,18 @@ ErrorCode CodeOf(ErrorCause cause)
     {
         return cause == ErrorCause::NoRoomForUpdate ? ErrorCode::TemporaryFolder : ErrorCode::NotWritable;
     }
+    if (cause == ErrorCause::Cancelled)
+    {
+        return ErrorCode::Cancelled;
+    }
+    if (cause == ErrorCause::BundleUnnamed)
+    {
+        return ErrorCode::Validation;
+    }
+    if (cause == ErrorCause::HelperFailed)
+    {
+        return ErrorCode::Installation;
+    }
     return number >= 700 && number < 800 ? ErrorCode::AppcastParse : ErrorCode::Appcast;
 }
 
@@ -283,7 +311,11 @@ QString EngineError::UnderlyingDomain() const
 
 int EngineError::UnderlyingCode() const
 {
-    return cause == ErrorCause::HttpStatus ? httpStatus : static_cast<int>(cause);
+    if (cause == ErrorCause::HttpStatus)
+    {
+        return httpStatus;
+    }
+    return static_cast<int>(cause) + (cause == ErrorCause::Fault ? static_cast<int>(fault) : 0);
 }
 
 QString EscapedRemoteText(QString const& text)
@@ -307,7 +339,12 @@ QString EscapedRemoteText(QString const& text)
 
 EngineError MakeError(ErrorCause cause, QString const& remoteDetail)
 {
-    return {CodeOf(cause), cause, 0, QString::fromLatin1(SentenceOf(cause)), EscapedRemoteText(remoteDetail)};
+    return {CodeOf(cause),
+            cause,
+            0,
+            UpdateFault::None,
+            QString::fromLatin1(SentenceOf(cause)),
+            EscapedRemoteText(remoteDetail)};
 }
 
 EngineError MakeHttpStatusError(int status)

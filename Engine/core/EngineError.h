@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
+#include "Engine/core/payload/UpdateFault.h"
 
 #include <QByteArray>
 #include <QString>
@@ -106,6 +107,15 @@ enum class ErrorCause
     ForeignItem = 800,
     DelegateRaised = 801,
 
+    // Checks that are not made.
+    UpdatesDisabled = 850,
+    HeldBack = 851,
+
+    // An update that was begun.
+    Cancelled = 852,
+    BundleUnnamed = 853,
+    HelperFailed = 854,
+
     // The download of an archive.
     DownloadLengthInvalid = 900,
     DownloadLengthDiffers = 901,
@@ -131,15 +141,18 @@ enum class ErrorCause
     BundleNotWritable = 958,
     BundleFolderUnsafe = 959,
     NoRoomForUpdate = 960,
+
+    Fault = 1000, ///< an UpdateFault, whose number is added
 };
 
 struct EngineError
 {
     ErrorCode code = ErrorCode::Appcast;
     ErrorCause cause = ErrorCause::NoUpdate;
-    int httpStatus = 0; ///< for HttpStatus only
-    QString sentence;   ///< our own words only: what happened and what to do
-    QString detail;     ///< may quote others; escaped and at most MAX_REMOTE_TEXT characters; may be empty
+    int httpStatus = 0;                    ///< for HttpStatus only
+    UpdateFault fault = UpdateFault::None; ///< for Fault only
+    QString sentence;                      ///< our own words only: what happened and what to do
+    QString detail; ///< may quote others; escaped and at most MAX_REMOTE_TEXT characters; may be empty
 
     /// The domain and code of the underlying error. No two failures share both.
     QString UnderlyingDomain() const;

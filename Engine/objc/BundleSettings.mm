@@ -3,7 +3,10 @@
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QLocale>
+#include <QStandardPaths>
 
 #include <glog/logging.h>
 
@@ -122,6 +125,77 @@ qint64 ReadMaxFeedBytes()
     return bytes;
 }
 
+CheckSettings ReadCheckSettings(QUrl const& feedUrl)
+{
+    CheckSettings settings;
+    settings.feedUrl = feedUrl;
+    settings.bundleVersion = TextOf(@"CFBundleVersion", Source::Bundle);
+    settings.skippedVersion = ReadSkippedVersion();
+    settings.languages = QLocale().uiLanguages();
+    settings.platform = ReadPlatform();
+    settings.insecureHttp =
+        IsTrue(@"PelnarAllowsInsecureFeeds", Source::Bundle) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
+    settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
+    return settings;
+}
+
+RunningBundle ReadRunningBundle()
+{
+    RunningBundle bundle;
+    bundle.path = ToQString([[NSBundle mainBundle] bundlePath]);
+    bundle.identifier = TextOf(@"CFBundleIdentifier", Source::Bundle);
+    bundle.version = TextOf(@"CFBundleVersion", Source::Bundle);
+    QString const shownVersion = TextOf(@"CFBundleShortVersionString", Source::Bundle);
+    bundle.shownVersion = shownVersion.isEmpty() ? bundle.version : shownVersion;
+    for (NSString* const key : {@"CFBundleDisplayName", @"CFBundleName"})
+    {
+        if (bundle.shownName.isEmpty())
+        {
+            bundle.shownName = TextOf(key, Source::Bundle);
+        }
+    }
+    if (bundle.shownName.isEmpty())
+    {
+        bundle.shownName = QFileInfo(bundle.path).completeBaseName();
+    }
+    for (NSString* const key : {@"SUPublicEDKey", @"PelnarNextPublicEDKey"})
+    {
+        QString const text = TextOf(key, Source::Bundle);
+        if (!text.isEmpty())
+        {
+            bundle.publicKeys.push_back(text);
+        }
+    }
+    return bundle;
+}
+
+BackOffState ReadBackOff()
+{
+    BackOffState state;
+    id const failures = ObjectOf(@"PelnarFailedChecks", Source::Defaults);
+    id const time = ObjectOf(@"PelnarLastFailedCheckTime", Source::Defaults);
+    if (!failures && !time)
+    {
+        return state;
+    }
+    if (![failures isKindOfClass:[NSNumber class]] || ![time isKindOfClass:[NSDate class]])
+    {
+        WarnOfType(@"PelnarFailedChecks", "a number with a date");
+        return state;
+    }
+    state.failures = [failures intValue];
+    state.lastFailure = QDateTime::fromSecsSinceEpoch(static_cast<qint64>([time timeIntervalSince1970]), Qt::UTC);
+    return state;
+}
+
+/// One for each application; the identifier is a name, whatever it holds.
+QString DownloadFolderFor(QString const& identifier)
+{
+    QByteArray const name = QUrl::toPercentEncoding(identifier, {}, ".");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/pelnar-updates/") +
+           QString::fromLatin1(name);
+}
+
 /// Stores \a value and puts the defaults on disk; what fails is a warning, since a check must not depend on it.
 void WriteDefault(NSString* key, id value)
 {
@@ -139,17 +213,18 @@ void WriteDefault(NSString* key, id value)
 
 } // namespace
 
-CheckSettings ReadCheckSettings(QUrl const& feedUrl)
+UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
 {
-    CheckSettings settings;
-    settings.feedUrl = feedUrl;
-    settings.bundleVersion = TextOf(@"CFBundleVersion", Source::Bundle);
-    settings.skippedVersion = ReadSkippedVersion();
-    settings.languages = QLocale().uiLanguages();
-    settings.platform = ReadPlatform();
-    settings.insecureHttp =
-        IsTrue(@"PelnarAllowsInsecureFeeds", Source::Bundle) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
-    settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
+    UpdateSettings settings;
+    settings.check = ReadCheckSettings(feedUrl);
+    settings.bundle = ReadRunningBundle();
+    settings.automaticDownload = ReadAutomaticDownload();
+    // Whoever of the two says so: an administrator's word must not be undone by a default.
+    bool const isDisabled =
+        IsTrue(@"PelnarUpdatesDisabled", Source::Bundle) || IsTrue(@"PelnarUpdatesDisabled", Source::Defaults);
+    settings.updates = isDisabled ? UpdateSwitch::Off : UpdateSwitch::On;
+    settings.backOff = ReadBackOff();
+    settings.downloadFolder = DownloadFolderFor(settings.bundle.identifier);
     return settings;
 }
 
@@ -167,5 +242,15 @@ void WriteAutomaticDownload(AutomaticDownload value)
 }
 
 void WriteLastCheckTime() { WriteDefault(@"SULastCheckTime", [NSDate date]); }
+
+void WriteSkippedVersion(QString const& version) { WriteDefault(@"SUSkippedVersion", ToNSString(version)); }
+
+void WriteBackOff(BackOffState const& state)
+{
+    WriteDefault(@"PelnarFailedChecks", [NSNumber numberWithInt:state.failures]);
+    NSTimeInterval const seconds =
+        state.lastFailure.isValid() ? static_cast<NSTimeInterval>(state.lastFailure.toSecsSinceEpoch()) : 0;
+    WriteDefault(@"PelnarLastFailedCheckTime", [NSDate dateWithTimeIntervalSince1970:seconds]);
+}
 
 } // namespace Pelnar::Engine

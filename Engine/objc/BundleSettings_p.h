@@ -5,31 +5,36 @@
 //   SUAutomaticallyUpdate       boolean                                                  both
 //   SUSkippedVersion            text; the version that the user skipped                  defaults
 //   SULastCheckTime             date; written at the end of every check                  defaults
+//   SUPublicEDKey               text; base64, the key that updates are signed with       bundle
+//   PelnarNextPublicEDKey       text; base64, a second key that is trusted as well       bundle
+//   CFBundleIdentifier          text; what an update must be called, too                 bundle
 //   CFBundleVersion             text; the running version                                bundle
+//   CFBundleShortVersionString  text; the running version for a person                   bundle
+//   CFBundleDisplayName         text; the name for a person; else CFBundleName, else the bundle's own   bundle
+//   PelnarUpdatesDisabled       boolean; nothing is ever sent, every check fails at once both
+//   PelnarFailedChecks          number; background checks in a row that failed           defaults
+//   PelnarLastFailedCheckTime   date; of the last of them                                defaults
 //   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
 //   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
-#include "Engine/core/check/CheckRun.h"
+#include "Engine/core/update/UpdateSettings.h"
 
 namespace Pelnar::Engine
 {
 
-/// The settings of a check of the feed at \a feedUrl.
-CheckSettings ReadCheckSettings(QUrl const& feedUrl);
+/// The settings of a check of the feed at \a feedUrl, and of what it leads to.
+UpdateSettings ReadUpdateSettings(QUrl const& feedUrl);
 
 /// Empty when the bundle names no feed.
 QUrl ReadFeedUrl();
 
-enum class AutomaticDownload
-{
-    Off,
-    On,
-};
 AutomaticDownload ReadAutomaticDownload();
 void WriteAutomaticDownload(AutomaticDownload value);
 
 void WriteLastCheckTime();
+void WriteSkippedVersion(QString const& version);
+void WriteBackOff(BackOffState const& state);
 
 } // namespace Pelnar::Engine

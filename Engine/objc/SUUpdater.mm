@@ -120,4 +120,14 @@ using namespace Pelnar::Foundation;
     m_updater->SetFetchLimits(limits);
 }
 
+- (void)setUpdateParts:(IUpdateParts*)parts
+{
+    m_updater->SetParts(parts);
+}
+
+- (void)setUpdateWindows:(IUserInterface*)windows
+{
+    m_updater->SetWindows(windows);
+}
+
 @end

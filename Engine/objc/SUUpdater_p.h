@@ -1,4 +1,4 @@
-// SUUpdater_p.h: the updater's entry for tests; for the engine only.
+// SUUpdater_p.h: the updater's entries for tests; for the engine only.
 // Thread: main. Ownership: none.
 #pragma once
 
@@ -6,9 +6,19 @@
 
 #include "Engine/core/fetch/FetchPolicy.h"
 
+namespace Pelnar::Engine
+{
+class IUpdateParts;
+class IUserInterface;
+} // namespace Pelnar::Engine
+
 @interface SUUpdater (Engine)
 
 /// Takes the place of the limits that ship, the feed's size excepted, from the next check on.
 - (void)setFetchLimits:(Pelnar::Engine::FetchLimits const&)limits;
+
+/// Take the place of what ships from the next check on; a null pointer puts what ships back. Not owned.
+- (void)setUpdateParts:(Pelnar::Engine::IUpdateParts*)parts;
+- (void)setUpdateWindows:(Pelnar::Engine::IUserInterface*)windows;
 
 @end

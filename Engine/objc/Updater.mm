@@ -1,9 +1,13 @@
 #include "Engine/objc/Updater_p.h"
 
+#import "Engine/objc/ImmediateInstallation_p.h"
 #import "Engine/objc/SUAppcast_p.h"
 #import "Engine/objc/SUUpdater_p.h"
 
+#include "Engine/core/update/UpdateParts.h"
 #include "Engine/objc/BundleSettings_p.h"
+#include "Engine/objc/HelperLocation_p.h"
+#include "Engine/ui/DesktopWindows.h"
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
 
@@ -58,6 +62,10 @@ void Updater::StartCheck(CheckKind kind)
     if (IsInProgress())
     {
         LOG(WARNING) << "A check for updates is running already; the new one is ignored";
+        if (kind == CheckKind::Interactive)
+        {
+            m_flow->BringToFront();
+        }
         return;
     }
     if (!QCoreApplication::instance())
@@ -65,28 +73,48 @@ void Updater::StartCheck(CheckKind kind)
         LOG(ERROR) << "A check for updates needs Qt's application object; it is not started";
         return;
     }
-    m_kind = kind;
-    CheckSettings settings = ReadCheckSettings(FeedUrl());
+    PrepareForApplication();
+    UpdateSettings settings = ReadUpdateSettings(FeedUrl());
     if (m_fetchLimits)
     {
-        qint64 const maxBodyBytes = settings.fetchLimits.maxBodyBytes;
-        settings.fetchLimits = *m_fetchLimits;
-        settings.fetchLimits.maxBodyBytes = maxBodyBytes;
+        qint64 const maxBodyBytes = settings.check.fetchLimits.maxBodyBytes;
+        settings.check.fetchLimits = *m_fetchLimits;
+        settings.check.fetchLimits.maxBodyBytes = maxBodyBytes;
     }
-    m_run = std::make_unique<CheckRun>(kind, std::move(settings), *this);
-    if (!std::exchange(runningUpdater, this))
-    {
-        qAddPostRoutine(&Updater::AbandonRunningCheck);
-    }
-    m_run->Start();
+    m_flow = std::make_unique<UpdateFlow>(kind, std::move(settings), *this, m_testWindows ? *m_testWindows : *m_windows,
+                                          m_testParts ? *m_testParts : *m_parts);
+    m_flow->Start();
 }
 
-void Updater::AbandonRunningCheck()
+void Updater::PrepareForApplication()
+{
+    if (std::exchange(runningUpdater, this))
+    {
+        return;
+    }
+    qAddPostRoutine(&Updater::Abandon);
+    m_parts = std::make_unique<UpdateParts>(HelperProgram());
+    m_windows = MakeDesktopWindows();
+    WatchSessionEnd(
+        [this]
+        {
+            if (m_flow)
+            {
+                m_flow->GiveUpInstallation();
+            }
+        });
+}
+
+void Updater::Abandon()
 {
     // The application object forgets its routines when it has run them.
     Updater* const updater = std::exchange(runningUpdater, nullptr);
-    updater->m_run.reset();
+    updater->m_flow.reset();
+    updater->m_windows.reset();
+    updater->m_parts.reset();
     updater->m_appcast.Reset();
+    updater->m_found.Reset();
+    updater->m_fallback.Reset();
 }
 
 void Updater::FeedLoaded(std::vector<FeedItem> const& items)
@@ -150,19 +178,21 @@ int Updater::CompareVersions(QString const& a, QString const& b)
     return order;
 }
 
-void Updater::TellFound(ItemPlace const& place)
+void Updater::TellFound(FoundUpdate const& found)
 {
     CallTranslatingRaised(
-        [this, &place]
+        [this, &found]
         {
             @autoreleasepool
             {
-                SUAppcastItem* const item = [m_appcast.Get() itemAtPlace:place];
+                m_found = Retained<SUAppcastItem>::Share([m_appcast.Get() itemAtPlace:found.place]);
+                m_fallback = found.fallback
+                                 ? Retained<SUAppcastItem>::Share([m_appcast.Get() itemAtPlace:*found.fallback])
+                                 : Retained<SUAppcastItem>();
                 if ([m_delegate respondsToSelector:@selector(updater:didFindValidUpdate:)])
                 {
-                    [m_delegate updater:m_face didFindValidUpdate:item];
+                    [m_delegate updater:m_face didFindValidUpdate:m_found.Get()];
                 }
-                LOG_IF(INFO, m_kind != CheckKind::Probe) << "An update was found; the check ends with this report";
             }
         });
 }
@@ -204,8 +234,119 @@ void Updater::CheckEnded()
         WriteLastCheckTime();
     }
     m_appcast.Reset();
-    // The run is on the stack below this call.
-    m_run.release()->deleteLater();
+}
+
+SUAppcastItem* Updater::ItemAt(ItemPlace const& place) const
+{
+    // Of the two that an update can be made of, only the first may be a delta.
+    return m_fallback && !place.delta ? m_fallback.Get() : m_found.Get();
+}
+
+void Updater::TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow)
+{
+    CallTranslatingRaised(
+        [this, &place, &installNow]
+        {
+            @autoreleasepool
+            {
+                SEL const method = @selector(updater:willInstallUpdateOnQuit:immediateInstallationInvocation:);
+                if ([m_delegate respondsToSelector:method])
+                {
+                    [m_delegate updater:m_face
+                                willInstallUpdateOnQuit:ItemAt(place)
+                        immediateInstallationInvocation:[PelnarImmediateInstallation invocationCalling:installNow]];
+                }
+            }
+        });
+}
+
+void Updater::TellCancelledInstallOnQuit(ItemPlace const& place)
+{
+    CallTranslatingRaised(
+        [this, &place]
+        {
+            @autoreleasepool
+            {
+                if ([m_delegate respondsToSelector:@selector(updater:didCancelInstallUpdateOnQuit:)])
+                {
+                    [m_delegate updater:m_face didCancelInstallUpdateOnQuit:ItemAt(place)];
+                }
+            }
+        });
+}
+
+RelaunchAnswer Updater::ShouldRelaunch()
+{
+    RelaunchAnswer answer = RelaunchAnswer::Allowed;
+    CallTranslatingRaised(
+        [this, &answer]
+        {
+            @autoreleasepool
+            {
+                if ([m_delegate respondsToSelector:@selector(updaterShouldRelaunchApplication:)] &&
+                    ![m_delegate updaterShouldRelaunchApplication:m_face])
+                {
+                    answer = RelaunchAnswer::Refused;
+                }
+            }
+        });
+    return answer;
+}
+
+QString Updater::PathToRelaunch()
+{
+    QString path;
+    CallTranslatingRaised(
+        [this, &path]
+        {
+            @autoreleasepool
+            {
+                if ([m_delegate respondsToSelector:@selector(pathToRelaunchForUpdater:)])
+                {
+                    path = ToQString([m_delegate pathToRelaunchForUpdater:m_face]);
+                }
+            }
+        });
+    return path;
+}
+
+void Updater::TellWillRelaunch()
+{
+    CallTranslatingRaised(
+        [this]
+        {
+            @autoreleasepool
+            {
+                if ([m_delegate respondsToSelector:@selector(updaterWillRelaunchApplication:)])
+                {
+                    [m_delegate updaterWillRelaunchApplication:m_face];
+                }
+            }
+        });
+}
+
+void Updater::SkipVersion(QString const& version)
+{
+    @autoreleasepool
+    {
+        WriteSkippedVersion(version);
+    }
+}
+
+void Updater::StoreBackOff(BackOffState const& state)
+{
+    @autoreleasepool
+    {
+        WriteBackOff(state);
+    }
+}
+
+void Updater::UpdateEnded()
+{
+    m_found.Reset();
+    m_fallback.Reset();
+    // The flow is on the stack below this call.
+    m_flow.release()->deleteLater();
 }
 
 } // namespace Pelnar::Engine

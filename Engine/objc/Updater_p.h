@@ -1,11 +1,11 @@
-// Updater_p.h: what stands behind SUUpdater: the delegate, the settings, the check that runs.
-// Thread: main, with Qt's event loop. Ownership: owned by its SUUpdater, to which it points back; it owns the run. The
-// delegate is not retained. Objective-C++ only.
+// Updater_p.h: what stands behind SUUpdater: the delegate, the settings, the check that runs and its update.
+// Thread: main, with Qt's event loop. Ownership: owned by its SUUpdater, to which it points back; it owns the flow, the
+// windows and the parts. The delegate is not retained. Objective-C++ only.
 #pragma once
 
 #import <Sparkle/Sparkle.h>
 
-#include "Engine/core/check/CheckRun.h"
+#include "Engine/core/update/UpdateFlow.h"
 #include "Foundation/Retained.h"
 
 #include <memory>
@@ -13,7 +13,7 @@
 namespace Pelnar::Engine
 {
 
-class Updater final : public ICheckHost
+class Updater final : public IUpdateHost
 {
 public:
     explicit Updater(SUUpdater* face);
@@ -26,11 +26,14 @@ public:
     QUrl FeedUrl() const;
     void SetFeedUrl(QUrl const& url) { m_feedUrl = url; }
 
-    [[nodiscard]] bool IsInProgress() const { return m_run != nullptr; }
+    [[nodiscard]] bool IsInProgress() const { return m_flow != nullptr; }
     void StartCheck(CheckKind kind);
 
     /// For tests: takes the place of what ships, from the next check on. The bundle's own feed size stays.
     void SetFetchLimits(FetchLimits const& limits) { m_fetchLimits = limits; }
+    /// For tests: take the place of what ships, from the next check on; a null pointer puts what ships back.
+    void SetParts(IUpdateParts* parts) { m_testParts = parts; }
+    void SetWindows(IUserInterface* windows) { m_testWindows = windows; }
 
     /// Values that nothing reads but their own accessors.
     struct
@@ -40,24 +43,41 @@ public:
     } keptForTheInterface;
 
 private:
-    /// Ends the running check without a word: sockets do not outlive the application object, this object does.
-    static void AbandonRunningCheck();
+    /// Ends the running check without a word: windows and sockets do not outlive the application object, this object
+    /// does.
+    static void Abandon();
+    /// What a check needs and the application object must outlive, made once for each application object.
+    void PrepareForApplication();
+    SUAppcastItem* ItemAt(ItemPlace const& place) const;
 
     void FeedLoaded(std::vector<FeedItem> const& items) override;
     BestItemAnswer AskForBestItem() override;
     int CompareVersions(QString const& a, QString const& b) override;
-    void TellFound(ItemPlace const& place) override;
+    void TellFound(FoundUpdate const& found) override;
     void TellNotFound() override;
     void TellAborted(EngineError const& error) override;
     void CheckEnded() override;
+    void TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow) override;
+    void TellCancelledInstallOnQuit(ItemPlace const& place) override;
+    RelaunchAnswer ShouldRelaunch() override;
+    QString PathToRelaunch() override;
+    void TellWillRelaunch() override;
+    void SkipVersion(QString const& version) override;
+    void StoreBackOff(BackOffState const& state) override;
+    void UpdateEnded() override;
 
     SUUpdater* m_face;
     id<SUUpdaterDelegate> m_delegate = nil;
     QUrl m_feedUrl;
     std::optional<FetchLimits> m_fetchLimits;
-    CheckKind m_kind = CheckKind::Probe;
-    Foundation::Retained<SUAppcast> m_appcast;
-    std::unique_ptr<CheckRun> m_run;
+    IUpdateParts* m_testParts = nullptr;
+    IUserInterface* m_testWindows = nullptr;
+    Foundation::Retained<SUAppcast> m_appcast; ///< while a feed is dealt with
+    Foundation::Retained<SUAppcastItem> m_found;
+    Foundation::Retained<SUAppcastItem> m_fallback;
+    std::unique_ptr<IUpdateParts> m_parts;
+    std::unique_ptr<IUserInterface> m_windows;
+    std::unique_ptr<UpdateFlow> m_flow; ///< the first to go
 };
 
 } // namespace Pelnar::Engine

@@ -16,7 +16,8 @@ struct Kind
 {
     char const* name;
     Start start;
-    Events notFound; ///< what is told when the choice is nil
+    Events notFound;   ///< what is told when the choice is nil
+    Events afterFound; ///< and after an update was found, to a program without a public key
 };
 
 void PrintTo(Kind const& kind, std::ostream* out)
@@ -28,12 +29,23 @@ class EveryCheck : public CheckContract, public ::testing::WithParamInterface<Ki
 {
 };
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, EveryCheck,
-    ::testing::Values(Kind{"Probe", &UpdaterDriver::Probe, {"asked", "not found"}},
-                      Kind{"Background", &UpdaterDriver::CheckInBackground, {"asked", "not found", "aborted 1001"}},
-                      Kind{"Interactive", &UpdaterDriver::CheckInteractively, {"asked", "not found", "aborted 1001"}}),
-    [](auto const& row) { return row.param.name; });
+INSTANTIATE_TEST_SUITE_P(Kinds, EveryCheck,
+                         ::testing::Values(Kind{"Probe", &UpdaterDriver::Probe, {"asked", "not found"}, {}},
+                                           Kind{"Background",
+                                                &UpdaterDriver::CheckInBackground,
+                                                {"asked", "not found", "aborted 1001"},
+                                                {"aborted 3001"}},
+                                           Kind{"Interactive",
+                                                &UpdaterDriver::CheckInteractively,
+                                                {"asked", "not found", "aborted 1001"},
+                                                {"aborted 3001"}}),
+                         [](auto const& row) { return row.param.name; });
+
+Events Joined(Events first, Events const& second)
+{
+    first.insert(first.end(), second.begin(), second.end());
+    return first;
+}
 
 TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
 {
@@ -44,7 +56,7 @@ TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
     EXPECT_TRUE(driver.IsInProgress());
     EXPECT_EQ(driver.Events(), Events{});
     ASSERT_TRUE(driver.WaitForEnd());
-    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
+    EXPECT_EQ(driver.Events(), Joined({"asked", "found 5.1"}, GetParam().afterFound));
     EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
 }
 
@@ -133,17 +145,21 @@ TEST_P(EveryCheck, SecondCheckWhileOneRunsIsIgnoredWithALogLine)
     EXPECT_EQ(server.Requests().size(), 1u);
 }
 
-TEST_P(EveryCheck, FoundEndsIdleWithALogLineUnlessItIsAProbe)
+// Row 38.
+TEST_P(EveryCheck, FoundWithoutAKeyInTheBundleFetchesNothingAndEndsIdle)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    LogCapture log;
     UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
-    EXPECT_EQ(HasLog(log, google::GLOG_INFO, "An update was found; the check ends with this report"),
-              GetParam().start != &UpdaterDriver::Probe);
+    EXPECT_EQ(driver.Events(), Joined({"asked", "found 5.1"}, GetParam().afterFound));
     EXPECT_EQ(server.Requests().size(), 1u) << "nothing but the feed is fetched";
+    for (ToldError const& error : driver.Errors())
+    {
+        EXPECT_EQ(error.sentence, "This application has no public key under SUPublicEDKey, so that no update can be "
+                                  "proved genuine: install it anew from its publisher.");
+    }
 }
 
 TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
@@ -163,7 +179,7 @@ TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(questions, (std::vector<int>{0, 1}));
-    EXPECT_EQ(driver.Events(), (Events{"asked", "asked", "found 5.1"}));
+    EXPECT_EQ(driver.Events(), Joined({"asked", "asked", "found 5.1"}, GetParam().afterFound));
     ASSERT_TRUE(driver.Found());
     EXPECT_TRUE(driver.Found()->isDelta);
     EXPECT_EQ(driver.Found()->length, 100);

@@ -13,6 +13,12 @@
 #include <string>
 #include <vector>
 
+namespace Pelnar::Engine
+{
+class IUpdateParts;
+class IUserInterface;
+} // namespace Pelnar::Engine
+
 namespace Pelnar::Testing
 {
 
@@ -42,6 +48,21 @@ struct ToldError
     std::string underlyingText;
 };
 
+/// The invocation with which an update is installed at once, as the delegate holds it. May be kept and used for as
+/// long as a test likes.
+class HeldInvocation
+{
+public:
+    [[nodiscard]] bool Relaunches() const;
+    [[nodiscard]] bool ShowsUserInterface() const;
+    void SetRelaunches(bool value);
+    void SetShowsUserInterface(bool value);
+    void Invoke();
+
+    struct Impl;
+    std::shared_ptr<Impl> impl;
+};
+
 struct DelegateScript
 {
     /// Answers question number \a question (from 0) about an appcast with these item versions.
@@ -52,10 +73,16 @@ struct DelegateScript
     std::function<void(std::string const& event)> onEvent;
     /// Names of the delegate's methods that it does not implement. Calling one is noted as "hidden <name>".
     std::vector<std::string> hidden;
+    /// Called while the delegate is told that a prepared update is installed on quit.
+    std::function<void(HeldInvocation)> onWillInstall = {};
+    bool allowsRelaunch = true;
+    QString relaunchPath = {}; ///< nil when empty
 };
 
 /// The methods that a check may call.
 extern std::vector<std::string> const CHECK_METHODS;
+/// The methods that an update after a check may call.
+extern std::vector<std::string> const UPDATE_METHODS;
 
 class UpdaterDriver
 {
@@ -68,6 +95,8 @@ public:
     void SetFeed(QUrl const& url);
     QUrl Feed() const;
     void SetLimits(Engine::FetchLimits const& limits);
+    /// Until this object goes: the server, the helper and the windows of updates are these.
+    void SetUpdate(Engine::IUpdateParts& parts, Engine::IUserInterface& windows);
     void RemoveDelegate();
 
     void Probe();
@@ -78,7 +107,8 @@ public:
     [[nodiscard]] bool DownloadsAutomatically() const;
     void SetDownloadsAutomatically(bool value);
 
-    /// "asked", "found <version>", "not found", "aborted <code>", in order.
+    /// "asked", "found <version>", "not found", "aborted <code>", "will install <version>", "should relaunch?",
+    /// "path?", "will relaunch", "cancelled <version>", in order.
     std::vector<std::string> const& Events() const;
     std::vector<ToldError> const& Errors() const;
     /// What the found item said of itself.
@@ -111,6 +141,8 @@ void SetNumberDefault(char const* key, int value);
 void SetDateDefault(char const* key);
 /// Where the process keeps its user defaults; empty when nobody set that.
 QString DefaultsFolder();
+/// Empty when there is no such default, or it is no text.
+QString TextDefault(char const* key);
 /// True when the default is a date between a minute ago and now.
 [[nodiscard]] bool IsRecentDateDefault(char const* key);
 

@@ -28,6 +28,52 @@ std::vector<std::string> const CHECK_METHODS = {
     "bestValidUpdateInAppcast:forUpdater:", "versionComparatorForUpdater:", "updater:didFindValidUpdate:",
     "updaterDidNotFindUpdate:", "updater:didAbortWithError:"};
 
+std::vector<std::string> const UPDATE_METHODS = {
+    "updater:willInstallUpdateOnQuit:immediateInstallationInvocation:", "updater:didCancelInstallUpdateOnQuit:",
+    "updaterShouldRelaunchApplication:", "updaterWillRelaunchApplication:", "pathToRelaunchForUpdater:"};
+
+struct HeldInvocation::Impl
+{
+    Retained<NSInvocation> invocation;
+};
+
+namespace
+{
+
+constexpr NSInteger RELAUNCH_ARGUMENT = 2;
+constexpr NSInteger USER_INTERFACE_ARGUMENT = 3;
+
+bool BoolArgument(NSInvocation* invocation, NSInteger index)
+{
+    BOOL value = NO;
+    [invocation getArgument:&value atIndex:index];
+    return value;
+}
+
+void SetBoolArgument(NSInvocation* invocation, NSInteger index, bool value)
+{
+    BOOL argument = value ? YES : NO;
+    [invocation setArgument:&argument atIndex:index];
+}
+
+} // namespace
+
+bool HeldInvocation::Relaunches() const { return BoolArgument(impl->invocation.Get(), RELAUNCH_ARGUMENT); }
+
+bool HeldInvocation::ShowsUserInterface() const
+{
+    return BoolArgument(impl->invocation.Get(), USER_INTERFACE_ARGUMENT);
+}
+
+void HeldInvocation::SetRelaunches(bool value) { SetBoolArgument(impl->invocation.Get(), RELAUNCH_ARGUMENT, value); }
+
+void HeldInvocation::SetShowsUserInterface(bool value)
+{
+    SetBoolArgument(impl->invocation.Get(), USER_INTERFACE_ARGUMENT, value);
+}
+
+void HeldInvocation::Invoke() { [impl->invocation.Get() invoke]; }
+
 struct UpdaterDriver::Impl
 {
     DelegateScript script;
@@ -142,6 +188,47 @@ struct UpdaterDriver::Impl
     impl->Note(_cmd, "aborted " + std::to_string([error code]));
 }
 
+- (void)updater:(SUUpdater*)updater
+            willInstallUpdateOnQuit:(SUAppcastItem*)item
+    immediateInstallationInvocation:(NSInvocation*)invocation
+{
+    (void)updater;
+    impl->Note(_cmd, "will install " + ToUtf8([item versionString]));
+    if (impl->script.onWillInstall)
+    {
+        HeldInvocation held;
+        held.impl = std::make_shared<HeldInvocation::Impl>();
+        held.impl->invocation = Retained<NSInvocation>::Share(invocation);
+        impl->script.onWillInstall(held);
+    }
+}
+
+- (void)updater:(SUUpdater*)updater didCancelInstallUpdateOnQuit:(SUAppcastItem*)item
+{
+    (void)updater;
+    impl->Note(_cmd, "cancelled " + ToUtf8([item versionString]));
+}
+
+- (BOOL)updaterShouldRelaunchApplication:(SUUpdater*)updater
+{
+    (void)updater;
+    impl->Note(_cmd, "should relaunch?");
+    return impl->script.allowsRelaunch;
+}
+
+- (void)updaterWillRelaunchApplication:(SUUpdater*)updater
+{
+    (void)updater;
+    impl->Note(_cmd, "will relaunch");
+}
+
+- (NSString*)pathToRelaunchForUpdater:(SUUpdater*)updater
+{
+    (void)updater;
+    impl->Note(_cmd, "path?");
+    return impl->script.relaunchPath.isEmpty() ? nil : ToNSString(impl->script.relaunchPath);
+}
+
 @end
 
 namespace Pelnar::Testing
@@ -158,7 +245,18 @@ UpdaterDriver::UpdaterDriver(DelegateScript script) : m_impl(std::make_unique<Im
     }
 }
 
-UpdaterDriver::~UpdaterDriver() { RemoveDelegate(); }
+UpdaterDriver::~UpdaterDriver()
+{
+    RemoveDelegate();
+    [[SUUpdater sharedUpdater] setUpdateParts:nullptr];
+    [[SUUpdater sharedUpdater] setUpdateWindows:nullptr];
+}
+
+void UpdaterDriver::SetUpdate(Engine::IUpdateParts& parts, Engine::IUserInterface& windows)
+{
+    [[SUUpdater sharedUpdater] setUpdateParts:&parts];
+    [[SUUpdater sharedUpdater] setUpdateWindows:&windows];
+}
 
 void UpdaterDriver::SetFeed(QUrl const& url)
 {
@@ -246,6 +344,15 @@ QString DefaultsFolder()
     @autoreleasepool
     {
         return ToQString(GSDefaultsRootForUser(NSUserName()));
+    }
+}
+
+QString TextDefault(char const* key)
+{
+    @autoreleasepool
+    {
+        id const value = [[NSUserDefaults standardUserDefaults] objectForKey:ToNSString(QString::fromUtf8(key))];
+        return [value isKindOfClass:[NSString class]] ? ToQString(value) : QString();
     }
 }
 

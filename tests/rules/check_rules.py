@@ -19,7 +19,7 @@ LAYERS = {
     "Foundation": set(),
     "Engine/include": set(),
     "Engine/core": set(),
-    "Engine/objc": {"Engine/core", "Engine/include", "Foundation"},
+    "Engine/objc": {"Engine/core", "Engine/include", "Engine/ui", "Foundation"},
     "Engine/ui": {"Engine/core"},
     "Installer": {"Engine/core"},
     "Publisher": {

@@ -1,37 +1,15 @@
 #include "Engine/core/check/CheckRun.h"
 
+#include "Engine/core/check/DelegateCall.h"
+
 #include <glog/logging.h>
 
-#include <exception>
 #include <utility>
 
 namespace Pelnar::Engine
 {
 namespace
 {
-
-/// Runs \a call; the error that stands for what it throws, or nothing. The one place where failures of the
-/// application's code end.
-std::optional<EngineError> FailureOf(char const* what, std::function<void()> const& call)
-{
-    QString reason;
-    try
-    {
-        call();
-        return std::nullopt;
-    }
-    catch (std::exception const& exception)
-    {
-        reason = QString::fromUtf8(exception.what());
-    }
-    catch (...)
-    {
-        reason = QStringLiteral("an exception of an unknown type");
-    }
-    EngineError error = MakeError(ErrorCause::DelegateRaised, reason);
-    LOG(ERROR) << "Exception from the updater's delegate in " << what << ": " << error.detail.toStdString();
-    return error;
-}
 
 char const* NameOf(OfferVerdict verdict)
 {
@@ -62,6 +40,18 @@ void CheckRun::Start()
     m_fetcher.Start(m_settings.feedUrl, [this](FetchOutcome const& outcome) { TakeFeed(outcome); });
 }
 
+void CheckRun::Refuse(EngineError const& error)
+{
+    QMetaObject::invokeMethod(
+        this,
+        [this, error]
+        {
+            Abort(error);
+            m_host.CheckEnded();
+        },
+        Qt::QueuedConnection);
+}
+
 void CheckRun::TakeFeed(FetchOutcome const& outcome)
 {
     if (outcome.error)
@@ -82,12 +72,12 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     m_items = std::move(result.items);
 
     std::optional<EngineError> error;
-    std::optional<ItemPlace> place;
+    std::optional<FoundUpdate> found;
     std::optional<EngineError> const failure = FailureOf("the choice of an update",
-                                                         [this, &place, &error]
+                                                         [this, &found, &error]
                                                          {
                                                              m_host.FeedLoaded(m_items);
-                                                             place = Choose(error);
+                                                             found = Choose(error);
                                                          });
     if (failure || error)
     {
@@ -95,22 +85,27 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     }
     else
     {
-        Tell(place);
+        Tell(found);
     }
     m_host.CheckEnded();
 }
 
-std::optional<ItemPlace> CheckRun::Choose(std::optional<EngineError>& error)
+std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
 {
     VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
     BestItemAnswer answer = m_host.AskForBestItem();
+    std::optional<ItemPlace> fallback;
     if (answer.kind == BestItemAnswer::Kind::Place && answer.place.delta)
     {
         // The whole item to fall back on: asked for once, whatever the answer. What is offered stays the delta.
-        BestItemAnswer const fallback = m_host.AskForBestItem();
-        if (fallback.kind == BestItemAnswer::Kind::Foreign)
+        BestItemAnswer const second = m_host.AskForBestItem();
+        if (second.kind == BestItemAnswer::Kind::Foreign)
         {
-            answer = fallback;
+            answer = second;
+        }
+        else if (second.kind == BestItemAnswer::Kind::Place && !second.place.delta)
+        {
+            fallback = second.place;
         }
     }
     switch (answer.kind)
@@ -137,7 +132,13 @@ std::optional<ItemPlace> CheckRun::Choose(std::optional<EngineError>& error)
         {m_kind, At(answer.place).versionString, m_settings.bundleVersion, m_settings.skippedVersion}, order);
     LOG_IF(INFO, verdict != OfferVerdict::Offered)
         << "Update " << EscapedRemoteText(At(answer.place).versionString).toStdString() << " is " << NameOf(verdict);
-    return verdict == OfferVerdict::Offered ? std::optional(answer.place) : std::nullopt;
+    if (verdict != OfferVerdict::Offered)
+    {
+        return std::nullopt;
+    }
+    // What is fallen back on is the same update: whoever agrees to one version must not get another.
+    bool const isSameVersion = fallback && order(At(*fallback).versionString, At(answer.place).versionString) == 0;
+    return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt};
 }
 
 FeedItem const& CheckRun::At(ItemPlace const& place) const
@@ -146,16 +147,16 @@ FeedItem const& CheckRun::At(ItemPlace const& place) const
     return place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item;
 }
 
-void CheckRun::Tell(std::optional<ItemPlace> const& place)
+void CheckRun::Tell(std::optional<FoundUpdate> const& found)
 {
     std::optional<EngineError> const failure =
-        place ? FailureOf("updater:didFindValidUpdate:", [this, &place] { m_host.TellFound(*place); })
+        found ? FailureOf("updater:didFindValidUpdate:", [this, &found] { m_host.TellFound(*found); })
               : FailureOf("updaterDidNotFindUpdate:", [this] { m_host.TellNotFound(); });
     if (failure)
     {
         Abort(*failure);
     }
-    else if (!place && m_kind != CheckKind::Probe)
+    else if (!found && m_kind != CheckKind::Probe)
     {
         // After the other message and in the same turn: it is what ends a silent download's wait.
         Abort(MakeError(ErrorCause::NoUpdate));

@@ -38,6 +38,13 @@ struct ItemPlace
     std::optional<int> delta;
 };
 
+/// What a check leads to.
+struct FoundUpdate
+{
+    ItemPlace place;
+    std::optional<ItemPlace> fallback; ///< of a delta: the whole item of the same version, if the application gave one
+};
+
 /// What the application answered when it was asked for the best item.
 struct BestItemAnswer
 {
@@ -63,7 +70,7 @@ public:
     virtual BestItemAnswer AskForBestItem() = 0;
     /// As VersionOrder.
     virtual int CompareVersions(QString const& a, QString const& b) = 0;
-    virtual void TellFound(ItemPlace const& place) = 0;
+    virtual void TellFound(FoundUpdate const& found) = 0;
     virtual void TellNotFound() = 0;
     virtual void TellAborted(EngineError const& error) = 0;
     /// The last call. The run may be deleted later (deleteLater) from here on.
@@ -78,13 +85,15 @@ public:
 
     /// Everything that the host hears comes later, from the event loop.
     void Start();
+    /// In place of Start: the check ends with \a error, and nothing is fetched.
+    void Refuse(EngineError const& error);
 
 private:
     void TakeFeed(FetchOutcome const& outcome);
-    /// Asks the host and judges its answer: the place to offer, or nothing; an error when the answer is of no use.
-    std::optional<ItemPlace> Choose(std::optional<EngineError>& error);
+    /// Asks the host and judges its answer: what to offer, or nothing; an error when the answer is of no use.
+    std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
     FeedItem const& At(ItemPlace const& place) const;
-    void Tell(std::optional<ItemPlace> const& place);
+    void Tell(std::optional<FoundUpdate> const& found);
     void Abort(EngineError const& error);
 
     CheckKind m_kind;

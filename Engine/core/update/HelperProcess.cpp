@@ -85,6 +85,7 @@ public:
     void Start(UpdateJob const& job, HelperInheritance const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);
     void Release() { m_isReleased = true; }
+    void Kill();
 
 private:
     /// An object that a callback of ours may have destroyed is asked through one of these.
@@ -114,10 +115,18 @@ HelperProcess::Impl::~Impl()
     // The notifiers go before the descriptors that they watch.
     delete m_reportNotifier;
     delete m_endNotifier;
-    if (m_pid > 0 && !m_isReleased)
+    if (!m_isReleased)
+    {
+        Kill();
+    }
+}
+
+void HelperProcess::Impl::Kill()
+{
+    if (m_pid > 0)
     {
         ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
-        static_cast<void>(Reap(m_pid));
+        static_cast<void>(Reap(std::exchange(m_pid, -1)));
     }
 }
 
@@ -229,6 +238,13 @@ void HelperProcess::Start(UpdateJob const& job, HelperInheritance const& inherit
 void HelperProcess::Release()
 {
     m_impl->Release();
+}
+
+void HelperProcess::Kill()
+{
+    // With the notifiers goes what they would still tell.
+    m_impl->Kill();
+    m_impl.reset();
 }
 
 UniqueFd OpenProcess(int pid)

@@ -49,6 +49,8 @@ public:
 
     /// From here on the helper lives on when this object or this process goes.
     void Release();
+    /// Ends the helper, released or not, and waits for its end. Nothing is called any more. REQUIRES: the last call.
+    void Kill();
 
 private:
     class Impl;

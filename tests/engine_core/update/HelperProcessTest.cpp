@@ -200,6 +200,21 @@ TEST_F(HelperProcesses, OutlivesItsOwnerWhenReleased)
     EXPECT_TRUE(scene.HasEnded());
 }
 
+TEST_F(HelperProcesses, CanBeKilledAfterItsRelease)
+{
+    ProbeScene scene("wait");
+    scene.Start();
+    ASSERT_TRUE(scene.WaitForReport());
+    scene.Helper().Release();
+    scene.Helper().Kill();
+    EXPECT_TRUE(scene.HasEnded());
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(scene.ends.empty());
+    EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1); // no dead child is left either
+    EXPECT_EQ(errno, ECHILD);
+    scene.Destroy();
+}
+
 TEST_F(HelperProcesses, MayBeDestroyedByWhatItCalls)
 {
     ProbeScene fromReport("many");

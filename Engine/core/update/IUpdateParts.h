@@ -1,0 +1,53 @@
+// IUpdateParts.h: what an update does to the world, one operation each, so that its course can be driven without a
+// server, a helper or a clock.
+// Thread: the Qt main thread. Ownership: outlives the updates that use it; what it makes is its caller's.
+#pragma once
+
+#include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/update/HelperProcess.h"
+#include "Engine/core/update/InstallTarget.h"
+
+#include <QDateTime>
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <variant>
+
+namespace Pelnar::Engine
+{
+
+/// As ArchiveDownload.
+class IDownload
+{
+public:
+    virtual ~IDownload() = default;
+    virtual void Start(std::function<void(DownloadProgress const&)> progress,
+                       std::function<void(DownloadOutcome)> finished) = 0;
+};
+
+/// As HelperProcess.
+class IHelper
+{
+public:
+    virtual ~IHelper() = default;
+    virtual void Start(UpdateJob const& job, HelperInheritance const& inherited,
+                       std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) = 0;
+    virtual void Release() = 0;
+    virtual void Kill() = 0;
+};
+
+class IUpdateParts
+{
+public:
+    virtual ~IUpdateParts() = default;
+    /// As OpenInstallTarget.
+    virtual std::variant<InstallTarget, EngineError> OpenTarget(QString const& bundlePath, quint64 neededBytes) = 0;
+    virtual std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) = 0;
+    /// As ArchiveDownload::Discard.
+    virtual void DiscardDownload(DownloadRequest const& request) = 0;
+    virtual std::unique_ptr<IHelper> MakeHelper() = 0;
+    virtual QDateTime Now() = 0;
+};
+
+} // namespace Pelnar::Engine

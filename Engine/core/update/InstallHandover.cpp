@@ -1,0 +1,71 @@
+#include "Engine/core/update/InstallHandover.h"
+
+#include "Engine/core/update/UpdateError.h"
+
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, InstallJob job,
+                                                  std::function<void()> waiting,
+                                                  std::function<void(EngineError const&)> failed)
+{
+    m_waiting = std::move(waiting);
+    m_failed = std::move(failed);
+    update.Describe(job);
+    try
+    {
+        UniqueFd const host = OpenProcess();
+        m_helper = m_parts.MakeHelper();
+        m_helper->Start(
+            job, {update.Descriptor(), target.parent.Get(), host.Get()},
+            [this](HelperReport const& report) { Take(report); }, [this](HelperEnd) { End(); });
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        m_helper.reset();
+        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+    }
+    // From the first moment: this process may be killed in the next.
+    m_helper->Release();
+    m_update = &update;
+    m_update->GiveToHelper();
+    return std::nullopt;
+}
+
+void InstallHandover::Cancel()
+{
+    if (m_helper)
+    {
+        m_helper->Kill();
+        m_helper.reset();
+        m_update->TakeBack();
+    }
+}
+
+void InstallHandover::Take(HelperReport const& report)
+{
+    if (auto const* const refused = std::get_if<RefusedReport>(&report))
+    {
+        m_refused = *refused;
+        return;
+    }
+    auto const* const progress = std::get_if<ProgressReport>(&report);
+    if (progress && progress->phase == HelperPhase::Waiting && m_waiting)
+    {
+        // This object may be gone when the call returns.
+        auto const tell = std::exchange(m_waiting, nullptr);
+        tell();
+    }
+}
+
+void InstallHandover::End()
+{
+    // Whatever it says of itself: a helper that ends while its host runs has installed nothing.
+    m_update->TakeBack();
+    auto const tell = std::move(m_failed);
+    tell(m_refused ? MakeFaultError(m_refused->fault, m_refused->errorNumber) : MakeError(ErrorCause::HelperFailed));
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,45 @@
+// PreparedUpdate.h: the staging folder of an update, first empty, then with the checked bundle in it.
+// Thread: one at a time. Ownership: the object owns the folder and removes it at its end, unless a helper has taken it
+// over by then.
+#pragma once
+
+#include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/update/InstallTarget.h"
+
+#include <memory>
+#include <string>
+
+namespace Pelnar::Engine
+{
+
+class PreparedUpdate
+{
+public:
+    /// Makes a fresh folder beside \a target. Throws UpdateRefusal.
+    static std::unique_ptr<PreparedUpdate> Begin(InstallTarget const& target);
+    ~PreparedUpdate();
+    PreparedUpdate(PreparedUpdate const&) = delete;
+    PreparedUpdate& operator=(PreparedUpdate const&) = delete;
+
+    int Descriptor() const { return m_staging.Descriptor(); }
+    /// The helper has put a bundle into the folder and checked it.
+    void SetBundle(PreparedReport report) { m_bundle = std::move(report); }
+
+    /// Puts the folder and the bundle into \a job.
+    void Describe(InstallJob& job) const;
+
+    void GiveToHelper() { m_isHelpers = true; }
+    void TakeBack() { m_isHelpers = false; }
+
+private:
+    PreparedUpdate(UniqueFd parent, StagingFolder staging);
+
+    UniqueFd m_parent;
+    StagingFolder m_staging;
+    PreparedReport m_bundle{};
+    bool m_isHelpers = false;
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,70 @@
+#include "Engine/core/update/UpdatePreparation.h"
+
+#include "Engine/core/update/UpdateError.h"
+
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target, PrepareJob const& job,
+                                                    UniqueFd archive,
+                                                    std::function<void(ProgressReport const&)> progress,
+                                                    std::function<void(Outcome)> finished)
+{
+    m_archive = std::move(archive);
+    m_progress = std::move(progress);
+    m_finished = std::move(finished);
+    try
+    {
+        m_update = PreparedUpdate::Begin(target);
+        m_helper = m_parts.MakeHelper();
+        int const base = job.kind == PayloadKind::WholeBundle ? -1 : target.bundle.Get();
+        m_helper->Start(
+            job, {m_update->Descriptor(), m_archive.Get(), base}, [this](HelperReport const& report) { Take(report); },
+            [this](HelperEnd end) { End(end); });
+        return std::nullopt;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+    }
+}
+
+void UpdatePreparation::Take(HelperReport const& report)
+{
+    if (auto const* const progress = std::get_if<ProgressReport>(&report))
+    {
+        // This object may be gone when the call returns.
+        auto const tell = m_progress;
+        tell(*progress);
+    }
+    else if (auto const* const prepared = std::get_if<PreparedReport>(&report))
+    {
+        m_prepared = *prepared;
+    }
+    else if (auto const* const refused = std::get_if<RefusedReport>(&report))
+    {
+        m_refused = *refused;
+    }
+}
+
+void UpdatePreparation::End(HelperEnd end)
+{
+    auto const tell = std::move(m_finished);
+    if (end == HelperEnd::Done && m_prepared)
+    {
+        m_update->SetBundle(*std::move(m_prepared));
+        tell(std::move(m_update));
+    }
+    else if (end == HelperEnd::Refused && m_refused)
+    {
+        tell(MakeFaultError(m_refused->fault, m_refused->errorNumber));
+    }
+    else
+    {
+        tell(MakeError(ErrorCause::HelperFailed));
+    }
+}
+
+} // namespace Pelnar::Engine

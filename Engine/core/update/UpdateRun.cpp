@@ -1,0 +1,447 @@
+#include "Engine/core/update/UpdateRun.h"
+
+#include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/update/UpdateError.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <utility>
+
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+/// How long an update waits for an application that was asked to quit. A person may have answered "stay open" to a
+/// question about unsaved work: an application that comes back hours later, when it is closed at last, would be a
+/// surprise.
+constexpr std::uint64_t RELAUNCH_WAIT_SECONDS = 600;
+
+} // namespace
+
+template <typename... Arguments>
+std::function<void(Arguments...)> UpdateRun::Guarded(void (UpdateRun::*call)(Arguments...))
+{
+    return [self = QPointer<UpdateRun>(this), call](Arguments... arguments)
+    {
+        if (self)
+        {
+            (self.data()->*call)(std::move(arguments)...);
+        }
+    };
+}
+
+UpdateRun::UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, UpdateSettings const& settings,
+                     IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts,
+                     std::function<void(UpdateEnd)> ended)
+    : m_manner(MannerOf(kind, settings.automaticDownload))
+    , m_origin(OriginOf(kind))
+    , m_candidates(std::move(candidates))
+    , m_settings(settings)
+    , m_host(host)
+    , m_windows(windows)
+    , m_parts(parts)
+    , m_ended(std::move(ended))
+    , m_asked(kind == CheckKind::Interactive ? PersonAsked::Yes : PersonAsked::No)
+{
+}
+
+UpdateRun::~UpdateRun() = default;
+
+void UpdateRun::Start()
+{
+    QMetaObject::invokeMethod(
+        this, [this] { Begin(); }, Qt::QueuedConnection);
+}
+
+void UpdateRun::Begin()
+{
+    // Everything that can be refused is refused before a person is bothered and a byte is fetched.
+    if (auto fault = FaultOf(m_settings.bundle))
+    {
+        Finish(std::move(fault));
+        return;
+    }
+    auto const isUseless = [](UpdateCandidate const& candidate) { return FaultOf(candidate.item).has_value(); };
+    auto const fault = FaultOf(m_candidates.back().item);
+    m_candidates.erase(std::remove_if(m_candidates.begin(), m_candidates.end(), isUseless), m_candidates.end());
+    if (m_candidates.empty())
+    {
+        Finish(fault);
+        return;
+    }
+    auto target = m_parts.OpenTarget(m_settings.bundle.path, NeededBytes(m_candidates));
+    if (auto const* const error = std::get_if<EngineError>(&target))
+    {
+        Finish(*error);
+        return;
+    }
+    m_target = std::get<InstallTarget>(std::move(target));
+    if (HasWindows())
+    {
+        Ask();
+    }
+    else
+    {
+        Download();
+    }
+}
+
+void UpdateRun::Ask()
+{
+    m_phase = Phase::Asking;
+    m_windows.ShowUpdate(OfferOf(Current().item, m_settings.bundle), m_origin, Guarded(&UpdateRun::TakeChoice));
+}
+
+void UpdateRun::TakeChoice(UpdateChoice choice)
+{
+    switch (choice)
+    {
+    case UpdateChoice::SkipThisVersion:
+        if (HasToldHost("the skipping of a version", [this] { m_host.SkipVersion(Current().item.versionString); }))
+        {
+            Finish(std::nullopt);
+        }
+        return;
+    case UpdateChoice::RemindMeLater:
+        Finish(std::nullopt);
+        return;
+    case UpdateChoice::InstallUpdate:
+        // From here on a person waits, whoever asked for the check.
+        m_asked = PersonAsked::Yes;
+        Download();
+        return;
+    }
+}
+
+void UpdateRun::Download()
+{
+    m_phase = Phase::Downloading;
+    if (HasWindows())
+    {
+        m_windows.ShowDownload(NamedUpdate(), Guarded(&UpdateRun::Cancel));
+    }
+    m_download = m_parts.MakeDownload(DownloadOf(Current().item, m_settings));
+    m_download->Start(
+        [this](DownloadProgress const& progress)
+        {
+            if (HasWindows())
+            {
+                m_windows.SetProgress(
+                    {UpdatePhase::Downloading, progress.doneBytes, progress.totalBytes, progress.bytesPerSecond});
+            }
+        },
+        [this](DownloadOutcome outcome)
+        {
+            m_download.reset();
+            if (outcome.error)
+            {
+                FailCandidate(*outcome.error);
+            }
+            else
+            {
+                Prepare(std::move(outcome.archive));
+            }
+        });
+}
+
+void UpdateRun::Prepare(UniqueFd archive)
+{
+    m_phase = Phase::Preparing;
+    m_preparation = std::make_unique<UpdatePreparation>(m_parts);
+    auto const error = m_preparation->Start(
+        *m_target, PreparationOf(Current(), m_settings.bundle, m_target->name), std::move(archive),
+        [this](ProgressReport const& progress)
+        {
+            if (HasWindows())
+            {
+                m_windows.SetProgress({UpdatePhase::Preparing, progress.doneBytes, progress.totalBytes, 0});
+            }
+        },
+        [this](UpdatePreparation::Outcome outcome) { TakePrepared(std::move(outcome)); });
+    if (error)
+    {
+        m_preparation.reset();
+        FailCandidate(*error);
+    }
+}
+
+void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
+{
+    m_preparation.reset();
+    if (auto const* const error = std::get_if<EngineError>(&outcome))
+    {
+        FailCandidate(*error);
+        return;
+    }
+    m_prepared = std::get<std::unique_ptr<PreparedUpdate>>(std::move(outcome));
+    m_phase = Phase::Ready;
+    if (HasWindows())
+    {
+        AskToInstall();
+    }
+    else
+    {
+        OfferOnQuit();
+    }
+}
+
+void UpdateRun::FailCandidate(EngineError const& error)
+{
+    if (error.cause == ErrorCause::Fault && IsArchiveToBlame(error.fault))
+    {
+        m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
+    }
+    if (m_candidates.size() < 2)
+    {
+        Finish(error);
+        return;
+    }
+    LOG(WARNING) << "The small update failed, and the whole one is fetched: " << error.sentence.toStdString() << " "
+                 << error.detail.toStdString();
+    m_candidates.erase(m_candidates.begin());
+    Download();
+}
+
+void UpdateRun::AskToInstall()
+{
+    m_windows.ShowReadyToInstall(NamedUpdate(), m_origin,
+                                 [self = QPointer<UpdateRun>(this)](ReadyChoice choice)
+                                 {
+                                     if (!self)
+                                     {
+                                         return;
+                                     }
+                                     switch (choice)
+                                     {
+                                     case ReadyChoice::Later:
+                                         self->Cancel();
+                                         return;
+                                     case ReadyChoice::InstallAndRelaunch:
+                                         self->InstallNow(RelaunchWish::Relaunch);
+                                         return;
+                                     }
+                                 });
+}
+
+void UpdateRun::OfferOnQuit()
+{
+    ItemPlace const place = Current().place;
+    auto const installNow = Guarded(&UpdateRun::InstallNow);
+    if (HasToldHost("updater:willInstallUpdateOnQuit:immediateInstallationInvocation:",
+                    [this, place, &installNow] { m_host.TellWillInstallOnQuit(place, installNow); }) &&
+        m_phase == Phase::Ready)
+    {
+        if (m_isGivenUp)
+        {
+            DropAtTheDelegatesWish();
+        }
+        else
+        {
+            Arm();
+        }
+    }
+}
+
+void UpdateRun::InstallNow(RelaunchWish wish)
+{
+    if (m_phase != Phase::Ready && m_phase != Phase::Armed)
+    {
+        LOG(WARNING) << "The update is being installed already, or has ended; the installation at once is ignored";
+        return;
+    }
+    bool const wasArmed = m_phase == Phase::Armed;
+    m_phase = Phase::Deciding;
+    RelaunchAnswer answer = RelaunchAnswer::Refused;
+    if (!HasToldHost("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    {
+        return;
+    }
+    if (answer == RelaunchAnswer::Refused || m_isGivenUp)
+    {
+        DropAtTheDelegatesWish();
+        return;
+    }
+    switch (wish)
+    {
+    case RelaunchWish::StayClosed:
+        if (wasArmed)
+        {
+            m_phase = Phase::Armed;
+        }
+        else
+        {
+            Arm();
+        }
+        return;
+    case RelaunchWish::Relaunch:
+        Relaunch();
+        return;
+    }
+}
+
+void UpdateRun::DropAtTheDelegatesWish()
+{
+    ItemPlace const place = Current().place;
+    if (m_handover)
+    {
+        m_handover->Cancel();
+        m_handover.reset();
+    }
+    m_prepared.reset();
+    if (HasToldHost("updater:didCancelInstallUpdateOnQuit:",
+                    [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
+    {
+        Finish(std::nullopt);
+    }
+}
+
+InstallJob UpdateRun::InstallationJob() const
+{
+    InstallJob job;
+    // What a delta made is a whole bundle by now.
+    job.kind = KindOf(Current()) == PayloadKind::Installer ? PayloadKind::Installer : PayloadKind::WholeBundle;
+    job.targetName = m_target->name;
+    job.bundleIdentifier = m_settings.bundle.identifier.toStdString();
+    job.expectedVersion = Current().item.versionString.toStdString();
+    job.installedVersion = m_settings.bundle.version.toStdString();
+    return job;
+}
+
+void UpdateRun::Arm()
+{
+    m_handover = std::make_unique<InstallHandover>(m_parts);
+    auto const error = m_handover->Start(
+        *m_target, *m_prepared, InstallationJob(), [] {}, Guarded(&UpdateRun::FailHandover));
+    if (error)
+    {
+        Finish(*error);
+        return;
+    }
+    m_phase = Phase::Armed;
+    LOG(INFO) << "Update " << EscapedRemoteText(Current().item.versionString).toStdString()
+              << " is installed when the application ends";
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &UpdateRun::AskAtQuit);
+}
+
+void UpdateRun::AskAtQuit()
+{
+    if (m_phase != Phase::Armed)
+    {
+        return;
+    }
+    RelaunchAnswer answer = RelaunchAnswer::Refused;
+    if (!HasToldHost("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    {
+        return;
+    }
+    if (answer == RelaunchAnswer::Refused)
+    {
+        DropAtTheDelegatesWish();
+        return;
+    }
+    m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
+}
+
+void UpdateRun::Relaunch()
+{
+    QString path;
+    if (!HasToldHost("pathToRelaunchForUpdater:", [this, &path] { path = m_host.PathToRelaunch(); }))
+    {
+        return;
+    }
+    if (m_handover)
+    {
+        m_handover->Cancel();
+    }
+    InstallJob job = InstallationJob();
+    job.waitSeconds = RELAUNCH_WAIT_SECONDS;
+    job.targetPath = m_target->path.toStdString();
+    job.relaunchPath = path == m_settings.bundle.path ? std::string() : RelaunchPathOf(path);
+    job.environment = EnvironmentOf(environ);
+    m_handover = std::make_unique<InstallHandover>(m_parts);
+    auto const error = m_handover->Start(*m_target, *m_prepared, std::move(job), Guarded(&UpdateRun::TellRelaunch),
+                                         Guarded(&UpdateRun::FailHandover));
+    if (error)
+    {
+        Finish(*error);
+        return;
+    }
+    m_phase = Phase::Relaunching;
+}
+
+void UpdateRun::TellRelaunch()
+{
+    m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
+    // What it throws changes nothing: the helper waits, and gives up in time if the application stays.
+    (void)FailureOf("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
+}
+
+void UpdateRun::FailHandover(EngineError const& error)
+{
+    Finish(error);
+}
+
+void UpdateRun::GiveUpInstallation()
+{
+    m_isGivenUp = true;
+    if (m_phase == Phase::Armed || m_phase == Phase::Relaunching)
+    {
+        DropAtTheDelegatesWish();
+    }
+}
+
+void UpdateRun::Cancel()
+{
+    Finish(MakeError(ErrorCause::Cancelled));
+}
+
+NamedVersion UpdateRun::NamedUpdate() const
+{
+    return {m_settings.bundle.shownName, ShownVersionOf(Current().item)};
+}
+
+bool UpdateRun::HasToldHost(char const* what, std::function<void()> const& call)
+{
+    QPointer<UpdateRun> const self(this);
+    auto const failure = FailureOf(what, call);
+    if (!self || m_phase == Phase::Ended)
+    {
+        return false;
+    }
+    if (failure)
+    {
+        Finish(failure);
+        return false;
+    }
+    return true;
+}
+
+void UpdateRun::Finish(std::optional<EngineError> error)
+{
+    // What another check left open, an error say, stays.
+    bool const mayShowWindow = HasWindows() && m_phase != Phase::Starting;
+    m_phase = Phase::Ended;
+    m_download.reset();
+    m_preparation.reset();
+    if (m_handover)
+    {
+        m_handover->Cancel();
+        m_handover.reset();
+    }
+    m_prepared.reset();
+    if (mayShowWindow)
+    {
+        m_windows.Close();
+    }
+    auto const ended = std::move(m_ended);
+    ended({std::move(error), m_asked});
+}
+
+} // namespace Pelnar::Engine

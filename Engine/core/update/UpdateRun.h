@@ -1,0 +1,112 @@
+// UpdateRun.h: one update, from the item that is offered to the helper that installs it: ask, download, prepare, ask
+// again, hand over. A check that nobody asked for in an application that downloads by itself leaves out the asking.
+// Thread: the Qt main thread. Ownership: owned by its maker, as are host, windows and parts, which outlive it.
+// Destroying it in the middle removes what was prepared, tells nobody, and leaves a helper that was handed an update to
+// its work.
+#pragma once
+
+#include "Engine/core/update/IUpdateHost.h"
+#include "Engine/core/update/IUpdateParts.h"
+#include "Engine/core/update/IUserInterface.h"
+#include "Engine/core/update/InstallHandover.h"
+#include "Engine/core/update/UpdatePlan.h"
+#include "Engine/core/update/UpdatePreparation.h"
+#include "Engine/core/update/UpdateSettings.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// How an update ended while the application runs.
+struct UpdateEnd
+{
+    std::optional<EngineError> error; ///< not set when a person put the update off or the application refused it
+    PersonAsked asked = PersonAsked::No;
+};
+
+class UpdateRun : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// \a candidates are the archives to try, the best first, all of one version. REQUIRES: there is at least one.
+    UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, UpdateSettings const& settings,
+              IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts, std::function<void(UpdateEnd)> ended);
+    ~UpdateRun() override;
+
+    /// Everything happens later, from the event loop; \a ended comes once and last, and may delete this object later
+    /// (deleteLater).
+    void Start();
+
+    /// The session of the desktop ends: what waits for the application's end is not installed.
+    void GiveUpInstallation();
+
+private:
+    enum class Phase
+    {
+        Starting,
+        Asking,
+        Downloading,
+        Preparing,
+        Ready,       ///< prepared; a person, or the application, is being asked
+        Deciding,    ///< the application decides about an installation at once
+        Armed,       ///< a helper waits for the application's end, to install without relaunch
+        Relaunching, ///< a helper waits for the application's end, to install and start it again
+        Ended,
+    };
+
+    void Begin();
+    void Ask();
+    void TakeChoice(UpdateChoice choice);
+    void Download();
+    void Prepare(UniqueFd archive);
+    void TakePrepared(UpdatePreparation::Outcome outcome);
+    void FailCandidate(EngineError const& error);
+    void AskToInstall();
+    void OfferOnQuit();
+    void InstallNow(RelaunchWish wish);
+    void DropAtTheDelegatesWish();
+    void Arm();
+    void AskAtQuit();
+    void Relaunch();
+    void TellRelaunch();
+    void FailHandover(EngineError const& error);
+    void Cancel();
+    void Finish(std::optional<EngineError> error);
+
+    UpdateCandidate const& Current() const { return m_candidates.front(); }
+    InstallJob InstallationJob() const;
+    NamedVersion NamedUpdate() const;
+    bool HasWindows() const { return m_manner == UpdateManner::Windows; }
+    /// \a call for a later time, dropped when this object has gone by then.
+    template <typename... Arguments>
+    std::function<void(Arguments...)> Guarded(void (UpdateRun::*call)(Arguments...));
+    /// Runs \a call, which asks or tells the application \a what. False when the update ended because it failed, or
+    /// when this object has gone meanwhile.
+    [[nodiscard]] bool HasToldHost(char const* what, std::function<void()> const& call);
+
+    UpdateManner m_manner;
+    CheckOrigin m_origin;
+    std::vector<UpdateCandidate> m_candidates;
+    UpdateSettings m_settings;
+    IUpdateHost& m_host;
+    IUserInterface& m_windows;
+    IUpdateParts& m_parts;
+    std::function<void(UpdateEnd)> m_ended;
+    Phase m_phase = Phase::Starting;
+    PersonAsked m_asked;
+    bool m_isGivenUp = false;
+    std::optional<InstallTarget> m_target;
+    std::unique_ptr<IDownload> m_download;
+    std::unique_ptr<UpdatePreparation> m_preparation;
+    std::unique_ptr<PreparedUpdate> m_prepared;
+    std::unique_ptr<InstallHandover> m_handover;
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,24 @@
+// ImmediateInstallation_p.h: the target of the invocation with which the delegate installs an update at once.
+// Thread: main. Ownership: the invocation retains it, the delegate may keep the invocation for as long as it likes.
+// Objective-C++ only.
+#pragma once
+
+#import <Foundation/Foundation.h>
+
+#include "Engine/core/update/IUpdateHost.h"
+
+#include <functional>
+
+@interface PelnarImmediateInstallation : NSObject
+{
+  @private
+    std::function<void(Pelnar::Engine::RelaunchWish)> m_installNow;
+}
+
+/// An invocation of installWithRelaunch:showingUserInterface: preset to YES and NO, autoreleased.
++ (NSInvocation*)invocationCalling:(std::function<void(Pelnar::Engine::RelaunchWish)> const&)installNow;
+
+/// \a isShowing changes nothing here: between this call and the application's end there is nothing to show.
+- (void)installWithRelaunch:(BOOL)relaunches showingUserInterface:(BOOL)isShowing;
+
+@end

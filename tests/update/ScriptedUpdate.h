@@ -1,0 +1,180 @@
+// ScriptedUpdate.h: an update whose delegate, windows, server and helper are played by the test. Only the folders are
+// real. Everything that is done, asked or told is noted in one list, in order.
+// Thread: main. Ownership: scope objects of the fixture.
+#pragma once
+
+#include "Engine/core/update/IUpdateHost.h"
+#include "Engine/core/update/IUpdateParts.h"
+#include "Engine/core/update/IUserInterface.h"
+#include "Engine/core/update/UpdateSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+using Notes = std::vector<std::string>;
+
+/// A usable key and a signature of the right form; what they mean is the helper's affair.
+extern char const* const GOOD_KEY;
+extern char const* const GOOD_SIGNATURE;
+
+class ScriptedHost final : public Engine::IUpdateHost
+{
+public:
+    explicit ScriptedHost(Notes& notes) : m_notes(notes) {}
+
+    void FeedLoaded(std::vector<Engine::FeedItem> const& items) override { itemCount = items.size(); }
+    Engine::BestItemAnswer AskForBestItem() override;
+    int CompareVersions(QString const& a, QString const& b) override;
+    void TellFound(Engine::FoundUpdate const& found) override;
+    void TellNotFound() override { Note("not found"); }
+    void TellAborted(Engine::EngineError const& error) override;
+    void CheckEnded() override { Note("check ended"); }
+    void TellWillInstallOnQuit(Engine::ItemPlace const& place,
+                               std::function<void(Engine::RelaunchWish)> const& installNow) override;
+    void TellCancelledInstallOnQuit(Engine::ItemPlace const& place) override;
+    Engine::RelaunchAnswer ShouldRelaunch() override;
+    QString PathToRelaunch() override;
+    void TellWillRelaunch() override { Note("will relaunch"); }
+    void SkipVersion(QString const& version) override { Note("skip " + version.toStdString()); }
+    void StoreBackOff(Engine::BackOffState const& state) override;
+    void UpdateEnded() override;
+
+    /// To the next questions, in order; to further ones the first item.
+    void AnswerWith(std::vector<Engine::BestItemAnswer> answers)
+    {
+        m_answers = std::move(answers);
+        m_questions = 0;
+    }
+
+    Engine::RelaunchAnswer relaunchAnswer = Engine::RelaunchAnswer::Allowed;
+    QString relaunchPath;
+    std::function<void()> onWillInstall;
+    std::function<void(std::string const&)> onNote;
+    std::string throwsIn; ///< the note at which the delegate throws
+    std::function<void(Engine::RelaunchWish)> installNow;
+    std::optional<Engine::EngineError> error;
+    std::function<void()> onEnded;
+    std::size_t itemCount = 0;
+
+private:
+    void Note(std::string const& note);
+
+    Notes& m_notes;
+    std::vector<Engine::BestItemAnswer> m_answers;
+    std::size_t m_questions = 0;
+};
+
+class ScriptedWindows final : public Engine::IUserInterface
+{
+public:
+    explicit ScriptedWindows(Notes& notes) : m_notes(notes) {}
+
+    void ShowChecking(std::function<void()> onCancelled) override;
+    void ShowUpToDate(Engine::NamedVersion const& installed, std::function<void()> onClosed) override;
+    void ShowUpdate(Engine::UpdateOffer const& shown, Engine::CheckOrigin origin,
+                    std::function<void(Engine::UpdateChoice)> onChosen) override;
+    void ReplaceReleaseNotes(Engine::ReleaseNotes const&) override {}
+    void ShowDownload(Engine::NamedVersion const& update, std::function<void()> onCancelled) override;
+    void SetProgress(Engine::UpdateProgress const& progress) override { progresses.push_back(progress); }
+    void ShowReadyToInstall(Engine::NamedVersion const& update, Engine::CheckOrigin origin,
+                            std::function<void(Engine::ReadyChoice)> onChosen) override;
+    void ShowError(QString const& sentence, std::function<void()> onClosed) override;
+    void BringToFront() override { m_notes.push_back("bring to front"); }
+    void Close() override;
+
+    /// The person's answers; a failure of the test when no such window is open.
+    void Choose(Engine::UpdateChoice choice);
+    void Choose(Engine::ReadyChoice choice);
+    void Cancel();
+
+    std::string open; ///< the name of the window that is open
+    std::optional<Engine::UpdateOffer> offer;
+    std::vector<Engine::UpdateProgress> progresses;
+
+private:
+    void Open(std::string const& name);
+
+    Notes& m_notes;
+    std::function<void()> m_cancelled;
+    std::function<void(Engine::UpdateChoice)> m_chosen;
+    std::function<void(Engine::ReadyChoice)> m_ready;
+};
+
+class ScriptedHelper;
+
+class ScriptedParts final : public Engine::IUpdateParts
+{
+public:
+    /// Installed bundles are folders of \a applications.
+    ScriptedParts(Notes& notes, QString applications) : m_notes(notes), m_applications(std::move(applications)) {}
+
+    std::variant<Engine::InstallTarget, Engine::EngineError> OpenTarget(QString const& bundlePath,
+                                                                        quint64 neededBytes) override;
+    std::unique_ptr<Engine::IDownload> MakeDownload(Engine::DownloadRequest const& request) override;
+    void DiscardDownload(Engine::DownloadRequest const& request) override;
+    std::unique_ptr<Engine::IHelper> MakeHelper() override;
+    QDateTime Now() override { return now; }
+
+    /// The archive has arrived.
+    void FinishDownload();
+    void FailDownload(Engine::ErrorCause cause);
+    /// The helper that was started last says \a report, or ends.
+    void Report(Engine::HelperReport const& report);
+    void EndHelper(Engine::HelperEnd end);
+    /// It has put a bundle into the staging folder, says so and ends.
+    void FinishPreparation();
+    void RefusePreparation(Engine::UpdateFault fault);
+
+    std::optional<Engine::EngineError> targetError;
+    bool isHelperMissing = false;
+    quint64 neededBytes = 0;
+    std::vector<Engine::DownloadRequest> requests;
+    std::vector<Engine::UpdateJob> jobs;
+    QDateTime now = QDateTime::fromSecsSinceEpoch(1000000, Qt::UTC);
+
+private:
+    friend class ScriptedDownload;
+    friend class ScriptedHelper;
+
+    Notes& m_notes;
+    QString m_applications;
+    std::function<void(Engine::DownloadProgress const&)> m_progress;
+    std::function<void(Engine::DownloadOutcome)> m_finished;
+    ScriptedHelper* m_helper = nullptr;
+};
+
+/// "App.app" of version 5.0 is installed in a folder of its own.
+class UpdateFixture : public ::testing::Test
+{
+protected:
+    UpdateFixture();
+
+    Engine::FeedItem Item(char const* version) const;
+    Engine::FeedItem Delta(char const* version) const;
+    /// The names of what stands in the folder of the bundle.
+    std::vector<std::string> Installed() const;
+
+    int argc = 1;
+    char name[5] = "test";
+    char* argv[2] = {name, nullptr};
+    QCoreApplication application{argc, argv};
+    QTemporaryDir folder;
+    Notes notes;
+    ScriptedHost host{notes};
+    ScriptedWindows windows{notes};
+    ScriptedParts parts{notes, folder.path()};
+    Engine::UpdateSettings settings;
+};
+
+} // namespace Pelnar::Testing

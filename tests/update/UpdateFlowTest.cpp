@@ -1,0 +1,245 @@
+// UpdateFlowTest.cpp: a check with its windows, from the feed to the update that it leads to or the word that ends it.
+#include "Engine/core/update/UpdateFlow.h"
+#include "tests/engine/FeedText.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/LogCapture.h"
+#include "tests/update/ScriptedUpdate.h"
+
+#include <QFile>
+
+#include <ostream>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+using namespace Pelnar::Engine;
+
+QByteArray Signed(QByteArray const& item)
+{
+    QByteArray result = item;
+    return result.replace(" length=", QByteArray(" sparkle:edSignature=\"") + GOOD_SIGNATURE + "\" length=");
+}
+
+class UpdateFlowTest : public UpdateFixture
+{
+protected:
+    void Publish(QByteArray const& feed)
+    {
+        QFile file(folder.filePath(QStringLiteral("feed.xml")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(feed);
+        settings.check.feedUrl = QUrl::fromLocalFile(file.fileName());
+    }
+
+    void Begin(CheckKind kind)
+    {
+        notes.clear();
+        hasEnded = false;
+        host.onEnded = [this] { hasEnded = true; };
+        flow = std::make_unique<UpdateFlow>(kind, settings, host, windows, parts);
+        flow->Start();
+    }
+
+    Notes Run(CheckKind kind)
+    {
+        Begin(kind);
+        EXPECT_TRUE(WaitFor([this] { return hasEnded; }));
+        return notes;
+    }
+
+    Notes RunToWindow(CheckKind kind, std::string const& name)
+    {
+        Begin(kind);
+        EXPECT_TRUE(WaitFor([this, &name] { return windows.open == name; })) << windows.open;
+        return notes;
+    }
+
+    [[nodiscard]] bool WaitForDownload()
+    {
+        return WaitFor([this] { return !notes.empty() && notes.back().rfind("download", 0) == 0; });
+    }
+
+    bool hasEnded = false;
+    std::unique_ptr<UpdateFlow> flow;
+};
+
+TEST_F(UpdateFlowTest, PersonIsShownThatTheyAreUpToDate)
+{
+    Publish(FeedWith(ItemOf("5.0")));
+    EXPECT_EQ(Run(CheckKind::Interactive), (Notes{"window checking", "not found", "aborted 1001", "check ended",
+                                                  "window up to date Five", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, PersonIsShownWhatFailed)
+{
+    Publish("<rss>");
+    EXPECT_EQ(Run(CheckKind::Interactive),
+              (Notes{"window checking", "aborted 1000", "check ended", "window error", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, NobodyIsShownAnythingOfAnEmptyBackgroundCheck)
+{
+    Publish(FeedWith(ItemOf("5.0")));
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"not found", "aborted 1001", "check ended", "ended"}));
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"not found", "check ended", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, ProbeThatFindsEndsWithItsReport)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"found", "check ended", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, FoundUpdateIsOfferedAndPutOff)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    EXPECT_EQ(RunToWindow(CheckKind::Interactive, "update"),
+              (Notes{"window checking", "found", "check ended", "window update"}));
+    windows.Choose(UpdateChoice::RemindMeLater);
+    EXPECT_EQ(notes.back(), "ended");
+    EXPECT_EQ(windows.open, "");
+}
+
+TEST_F(UpdateFlowTest, UnaskedUpdateIsOfferedQuietly)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    RunToWindow(CheckKind::Background, "quiet update");
+    windows.Choose(UpdateChoice::SkipThisVersion);
+    EXPECT_EQ(notes, (Notes{"found", "check ended", "window quiet update", "skip 5.1", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
+{
+    Publish(FeedWith(ItemOf("5.1")));
+    Begin(CheckKind::Interactive);
+    windows.Cancel();
+    EXPECT_EQ(notes, (Notes{"window checking", "aborted 4007", "check ended", "ended"}));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(notes.size(), 4u) << "the feed is not looked at";
+}
+
+TEST_F(UpdateFlowTest, FailedUpdateIsToldAndShownToWhomItConcerns)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    RunToWindow(CheckKind::Interactive, "update");
+    windows.Choose(UpdateChoice::InstallUpdate);
+    parts.FailDownload(ErrorCause::HostNotFound);
+    EXPECT_EQ((Notes(notes.end() - 3, notes.end())), (Notes{"aborted 1002", "window error", "ended"}));
+
+    RunToWindow(CheckKind::Background, "quiet update");
+    windows.Choose(UpdateChoice::InstallUpdate);
+    parts.FailDownload(ErrorCause::HostNotFound);
+    EXPECT_EQ((Notes(notes.end() - 4, notes.end())), (Notes{"aborted 1002", "failures 1", "window error", "ended"}))
+        << "whoever agreed waits for it";
+
+    windows.Close();
+    settings.automaticDownload = AutomaticDownload::On;
+    Begin(CheckKind::Background);
+    ASSERT_TRUE(WaitForDownload());
+    parts.FailDownload(ErrorCause::HostNotFound);
+    EXPECT_EQ((Notes(notes.end() - 3, notes.end())), (Notes{"aborted 1002", "failures 1", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, WindowLeftOpenByAnEarlierCheckSurvivesOneThatNobodyAskedFor)
+{
+    Publish("<rss>");
+    Run(CheckKind::Interactive);
+    ASSERT_EQ(windows.open, "error");
+    Run(CheckKind::Probe);
+    Run(CheckKind::Background);
+    Publish(FeedWith(ItemOf("5.1")));
+    Run(CheckKind::Background);
+    EXPECT_EQ(host.error->cause, ErrorCause::Fault) << "not signed";
+    EXPECT_EQ(windows.open, "error");
+}
+
+TEST_F(UpdateFlowTest, DeltaAndItsWholeItemBothReachTheUpdate)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1", DeltaOf("5.1", "5.0")))));
+    host.AnswerWith({{BestItemAnswer::Kind::Place, {0, 0}}, {BestItemAnswer::Kind::Place, {0, std::nullopt}}});
+    settings.automaticDownload = AutomaticDownload::On;
+    Begin(CheckKind::Background);
+    ASSERT_TRUE(WaitForDownload());
+    EXPECT_EQ(parts.requests[0].declaredBytes, 100u);
+    parts.FailDownload(ErrorCause::HttpStatus);
+    ASSERT_EQ(parts.requests.size(), 2u);
+    EXPECT_EQ(parts.requests[1].declaredBytes, 1000u);
+}
+
+struct Second
+{
+    char const* name;
+    BestItemAnswer answer;
+};
+
+TEST_F(UpdateFlowTest, OnlyTheSameVersionCanTakeADeltasPlace)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1", DeltaOf("5.1", "5.0"))) + Signed(ItemOf("5.2"))));
+    settings.automaticDownload = AutomaticDownload::On;
+    for (Second const& second :
+         {Second{"another version", {BestItemAnswer::Kind::Place, {1, std::nullopt}}},
+          Second{"the delta again", {BestItemAnswer::Kind::Place, {0, 0}}}, Second{"nothing", {}}})
+    {
+        host.AnswerWith({{BestItemAnswer::Kind::Place, {0, 0}}, second.answer});
+        Begin(CheckKind::Background);
+        ASSERT_TRUE(WaitForDownload()) << second.name;
+        parts.FailDownload(ErrorCause::HttpStatus);
+        EXPECT_TRUE(hasEnded) << second.name;
+    }
+}
+
+// Row 99.
+TEST_F(UpdateFlowTest, FailuresInARowHoldTheBackgroundBackAndNobodyElse)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    settings.backOff = {1, parts.now};
+    parts.now = parts.now.addSecs(3599);
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"aborted 1002", "check ended", "ended"}));
+    EXPECT_EQ(host.error->cause, ErrorCause::HeldBack);
+    EXPECT_EQ(Run(CheckKind::Probe).front(), "found") << "may be the first half of a check of the user";
+    EXPECT_EQ(RunToWindow(CheckKind::Interactive, "update").front(), "window checking");
+    flow.reset();
+    parts.now = parts.now.addSecs(1);
+    EXPECT_EQ(RunToWindow(CheckKind::Background, "quiet update").front(), "found");
+}
+
+TEST_F(UpdateFlowTest, FailuresAreCountedToldAndForgotten)
+{
+    Publish("<rss>");
+    settings.backOff = {2, parts.now.addDays(-2)};
+    LogCapture log;
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"aborted 1000", "check ended", "failures 3", "ended"}));
+    bool isTold = false;
+    for (LogRecord const& record : log.Of(google::GLOG_WARNING))
+    {
+        isTold |= record.text.find("The last 3 checks for updates failed; the next one in the background waits for 4 "
+                                   "hours") != std::string::npos;
+    }
+    EXPECT_TRUE(isTold);
+    EXPECT_EQ(Run(CheckKind::Interactive).back(), "ended");
+    EXPECT_EQ(std::count(notes.begin(), notes.end(), "failures 3"), 0) << "a person's own check counts for nothing";
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"aborted 1000", "check ended", "ended"}));
+    Publish(FeedWith(ItemOf("5.0")));
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"not found", "aborted 1001", "check ended", "failures 0", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, SwitchedOffNothingIsFetchedWhateverTheCheck)
+{
+    settings.updates = UpdateSwitch::Off;
+    settings.check.feedUrl = QUrl(QStringLiteral("http://127.0.0.1:1/feed.xml"));
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"aborted 1002", "check ended", "ended"}));
+    EXPECT_EQ(host.error->cause, ErrorCause::UpdatesDisabled);
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"aborted 1002", "check ended", "ended"}));
+    EXPECT_EQ(Run(CheckKind::Interactive), (Notes{"aborted 1002", "check ended", "window error", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, DelegateThatFailsAtTheNewsEndsTheUpdate)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    host.throwsIn = "found";
+    EXPECT_EQ(Run(CheckKind::Interactive),
+              (Notes{"window checking", "found", "aborted 1002", "check ended", "window error", "ended"}));
+}
+
+} // namespace

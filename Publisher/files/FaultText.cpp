@@ -110,6 +110,7 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::None:
     case UpdateFault::JobMalformed:
     case UpdateFault::DescriptorUnusable:
+    case UpdateFault::HelperUnusable:
     case UpdateFault::ConfinementFailed:
     case UpdateFault::ArchiveLengthDiffers:
     case UpdateFault::ArchiveInUse:
@@ -130,6 +131,10 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::OtherFileSystem:
     case UpdateFault::SwapFailed:
     case UpdateFault::SyncFailed:
+    case UpdateFault::InstallerNotAllowed:
+    case UpdateFault::InstallerNotStarted:
+    case UpdateFault::InstallerFailed:
+    case UpdateFault::InstallerTimedOut:
     case UpdateFault::RelaunchPathUnsafe:
     case UpdateFault::RelaunchFailed:
         break;

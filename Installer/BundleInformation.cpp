@@ -163,7 +163,7 @@ void CheckExecutable(int bundleFd, std::string const& executable)
         throw UpdateRefusal(UpdateFault::ExecutableNotRunnable);
     }
     char bytes[sizeof(ElfW(Ehdr))];
-    ssize_t const count = ::pread(file.Get(), bytes, sizeof bytes, 0);
+    ssize_t const count = Engine::ReadUpTo(file.Get(), 0, bytes, sizeof bytes);
     if (count < 0)
     {
         Engine::ThrowErrno(errno);

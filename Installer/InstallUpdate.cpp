@@ -136,8 +136,12 @@ int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors
     catch (UpdateRefusal const& refusal)
     {
         report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
-        return EXIT_REFUSED;
     }
+    catch (std::exception const&) // memory ran out
+    {
+        report.Send(Engine::RefusedReport{UpdateFault::DiskError, ENOMEM});
+    }
+    return EXIT_REFUSED;
 }
 
 /// True when the child ended well.
@@ -221,6 +225,10 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     if (child == 0)
     {
         ::_exit(RunInstallation(job, descriptors, report));
+    }
+    if (child < 0)
+    {
+        report.Send(Engine::RefusedReport{UpdateFault::SwapFailed, errno});
     }
     bool const isInstalled = child > 0 && WaitForChild(child);
     if (!isInstalled)

@@ -36,13 +36,24 @@ struct stat StatusOf(int archiveFd)
 
 /// Asks the kernel to end this process when somebody opens the archive to change it; refuses when somebody has. Where
 /// there are no leases (some network file systems, somebody else's file) the times compared at the end must do.
-void TakeLease(int archiveFd)
+class Lease
 {
-    if (::fcntl(archiveFd, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN)
+public:
+    explicit Lease(int archiveFd) : m_archiveFd(archiveFd)
     {
-        throw UpdateRefusal(UpdateFault::ArchiveInUse, errno);
+        if (::fcntl(archiveFd, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN)
+        {
+            throw UpdateRefusal(UpdateFault::ArchiveInUse, errno);
+        }
     }
-}
+    // It would outlive the process, for the host has the same opening of the file, and hold up whoever writes next.
+    ~Lease() { ::fcntl(m_archiveFd, F_SETLEASE, F_UNLCK); }
+    Lease(Lease const&) = delete;
+    Lease& operator=(Lease const&) = delete;
+
+private:
+    int m_archiveFd;
+};
 
 bool IsSameFile(struct stat const& a, struct stat const& b)
 {
@@ -121,7 +132,7 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     }
     bool const isDelta = job.kind == PayloadKind::Delta;
     ConfineTo(descriptors.staging, isDelta ? std::vector<int>{descriptors.target} : std::vector<int>());
-    TakeLease(descriptors.archive);
+    Lease const lease(descriptors.archive);
 
     report.SendProgress(HelperPhase::Verifying, 0, job.archiveBytes);
     UpdateFault const verdict = Engine::VerifyFileSignature(descriptors.archive, job.signature, job.publicKeys);

@@ -152,7 +152,7 @@ std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string con
         return std::nullopt;
     }
     std::string bytes(JOURNAL_MAX_BYTES, '\0');
-    ssize_t const count = ::read(file.Get(), bytes.data(), bytes.size());
+    ssize_t const count = Engine::ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
     if (count < 0)
     {
         Engine::ThrowErrno(errno); // no answer is not the answer that there is no journal

@@ -81,6 +81,12 @@ private:
             Trace(PTRACE_DETACH, process, 0, 0);
             return;
         }
+        if (event == PTRACE_EVENT_VFORK)
+        {
+            unsigned long child = 0;
+            Trace(PTRACE_GETEVENTMSG, process, 0, AddressOf(child));
+            m_starting.insert(static_cast<pid_t>(child));
+        }
         if (signal == SYSCALL_STOP)
         {
             OnCall(process);
@@ -119,6 +125,12 @@ private:
         case CallVerdict::Kind::GoOn:
             return;
         case CallVerdict::Kind::Fail:
+            if (stop.call == SYS_brk)
+            {
+                // This call knows no errors: it says where the memory ends, which is where it did before.
+                ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdi = 0; });
+                return;
+            }
             m_answers[stop.process] = -verdict.number;
             ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.orig_rax = ~0ull; });
             return;
@@ -138,7 +150,10 @@ private:
     {
         for (pid_t const process : m_processes)
         {
-            ::kill(process, signal);
+            if (signal == SIGKILL || m_starting.count(process) == 0)
+            {
+                ::kill(process, signal);
+            }
         }
     }
 
@@ -168,6 +183,7 @@ private:
     pid_t m_root;
     CallVisitor const& m_visitor;
     std::set<pid_t> m_processes;
+    std::set<pid_t> m_starting; // programs that the helper starts, before they are themselves
     std::map<pid_t, int> m_answers;
     int m_rootStatus = 0;
     int m_count = 0;

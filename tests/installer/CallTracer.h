@@ -31,7 +31,7 @@ struct CallVerdict
         Fail,      ///< it is not made, and answers with an error
         Shorten,   ///< it is made with one byte for its third argument
         KillAll,   ///< it is not made: every process ends there and then
-        SignalAll, ///< every process gets a signal, then it is made
+        SignalAll, ///< every process but a program that is being started gets a signal, then it is made
     };
 
     Kind kind = Kind::GoOn;

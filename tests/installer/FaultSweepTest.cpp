@@ -352,29 +352,4 @@ TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
     EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
 }
 
-TEST(Faults, SwapIsToldOnlyWhenBothFoldersAreOnTheDisk)
-{
-    UpdateScene scene;
-    InstallJob const job = scene.PrepareForInstall();
-    scene.Host().End();
-    std::string const file = scene.Downloads().Path() + "/trace";
-    HelperStart start;
-    start.before = {STRACE, "-f", "-qq", "-e", "trace=fsync,renameat,renameat2,write", "-o", file};
-    EXPECT_EQ(scene.Install(job, start).exitStatus, 0);
-    std::vector<std::string> order;
-    std::ifstream lines(file);
-    for (std::string line; std::getline(lines, line);)
-    {
-        for (char const* const mark : {"fsync(", "renameat(", "renameat2(", "\"installed\\n\""})
-        {
-            if (line.find(mark) != std::string::npos)
-            {
-                order.push_back(mark);
-            }
-        }
-    }
-    EXPECT_EQ(order, (std::vector<std::string>{"fsync(", "renameat(", "fsync(", "renameat2(", "fsync(", "fsync(",
-                                               "\"installed\\n\""}));
-}
-
 } // namespace

@@ -128,6 +128,8 @@ public:
     std::string StagingPath() const { return m_place.Path() + '/' + m_staging->Name(); }
     /// The host's hold on the staging folder ends, as when the host does.
     void ReleaseStaging() { m_staging.reset(); }
+    /// The host lets go of the archive, as after every helper.
+    void ReleaseArchive() { m_archiveFile = Engine::UniqueFd(); }
     StubHost& Host() { return m_host; }
     KeyPair const& Keys() const { return m_keys; }
 

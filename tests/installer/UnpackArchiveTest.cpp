@@ -1,6 +1,7 @@
 #include "Engine/core/unpack/UnpackArchive.h"
 
 #include "Engine/core/payload/TreeManifest.h"
+#include "tests/installer/EvilArchives.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>
@@ -80,50 +81,7 @@ private:
     Sha256 m_decoy;
 };
 
-struct Evil
-{
-    char const* name;
-    std::vector<ForgedEntry> entries; ///< after a right bundle
-    UpdateFault fault;
-    bool isInZip = true; ///< a zip can say it too
-};
-
-Evil const EVILS[] = {
-    {"ParentFolder", {{"../decoy/x", 'f', "evil"}}, UpdateFault::EntryEscapes},
-    {"ParentFolderInside", {{"My App.app/../../decoy/x", 'f', "evil"}}, UpdateFault::EntryEscapes},
-    {"Absolute", {{"/tmp/pelnar-evil", 'f', "evil"}}, UpdateFault::EntryEscapes},
-    {"DriveLetter", {{"C:/evil", 'f', "evil"}}, UpdateFault::EntryEscapes},
-    {"Backslash", {{"My App.app\\..\\..\\decoy\\x", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
-    {"TrailingDot", {{"My App.app/x.", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
-    {"NotUtf8", {{"My App.app/\xff\xfe", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
-    {"PathOf5000Bytes", {{"My App.app/" + std::string(4989, 'd'), 'f', "evil"}}, UpdateFault::EntryNameTooLong},
-    {"LinkAbsolute", {{"My App.app/l", 'l', "/etc/passwd"}}, UpdateFault::LinkEscapes},
-    {"LinkOut", {{"My App.app/l", 'l', "../../decoy"}}, UpdateFault::LinkEscapes},
-    {"LinkOutThenThrough",
-     {{"My App.app/l", 'l', "../../decoy"}, {"My App.app/l/x", 'f', "evil"}},
-     UpdateFault::EntryUnderNoFolder},
-    {"LinkInThenThrough",
-     {{"My App.app/l", 'l', "Resources"}, {"My App.app/l/x", 'f', "evil"}},
-     UpdateFault::EntryUnderNoFolder},
-    {"LinkToNothing", {{"My App.app/l", 'l', "nothing"}}, UpdateFault::LinkDangles},
-    {"LinkLoop", {{"My App.app/l", 'l', "m"}, {"My App.app/m", 'l', "l"}}, UpdateFault::LinkLoops},
-    {"HardLink", {{"My App.app/h", 'h', "My App.app/run"}}, UpdateFault::EntryIsHardLink, false},
-    {"HardLinkAbsolute", {{"My App.app/h", 'h', "/etc/passwd"}}, UpdateFault::EntryIsHardLink, false},
-    {"HardLinkNotYetSeen", {{"My App.app/h", 'h', "My App.app/later"}}, UpdateFault::EntryIsHardLink, false},
-    {"Fifo", {{"My App.app/p", 'p', {}}}, UpdateFault::EntryTypeRefused},
-    {"CharacterDevice", {{"My App.app/c", 'c', {}}}, UpdateFault::EntryTypeRefused},
-    {"BlockDevice", {{"My App.app/b", 'b', {}}}, UpdateFault::EntryTypeRefused},
-    {"SparseFile", {{"My App.app/s", 's', std::string(512, 'x')}}, UpdateFault::EntryIsSparse, false},
-    {"DuplicateFile", {{"My App.app/run", 'f', "evil"}}, UpdateFault::EntryDuplicate},
-    {"FileThenFolder", {{"My App.app/run/", 'd', {}}}, UpdateFault::EntryDuplicate},
-    {"FolderThenLink", {{"My App.app/Resources", 'l', "run"}}, UpdateFault::EntryDuplicate},
-    {"CaseTwin", {{"My App.app/RUN", 'f', "evil"}}, UpdateFault::EntryNameClash},
-    {"CaseTwinOfAFolder", {{"My App.app/resources/x", 'f', "evil"}}, UpdateFault::EntryNameClash},
-    {"SecondBundle", {{"Other.app/run", 'f', "evil"}}, UpdateFault::BundleNotAlone},
-    {"FileBeside", {{"README", 'f', "evil"}}, UpdateFault::BundleNotAlone},
-};
-
-class EvilArchives : public testing::TestWithParam<std::tuple<int, int>>
+class HostileArchives : public testing::TestWithParam<std::tuple<int, int>>
 {
 };
 
@@ -131,10 +89,10 @@ class EvilArchives : public testing::TestWithParam<std::tuple<int, int>>
 std::vector<std::tuple<int, int>> EvilsInContainers()
 {
     std::vector<std::tuple<int, int>> pairs;
-    for (int evil = 0; evil < static_cast<int>(std::size(EVILS)); ++evil)
+    for (int evil = 0; evil < static_cast<int>(EvilArchives().size()); ++evil)
     {
-        for (int container = EVILS[evil].isInZip ? 0 : 1; container < static_cast<int>(std::size(CONTAINERS));
-             ++container)
+        for (int container = EvilArchives()[static_cast<std::size_t>(evil)].isInZip ? 0 : 1;
+             container < static_cast<int>(std::size(CONTAINERS)); ++container)
         {
             pairs.emplace_back(evil, container);
         }
@@ -142,9 +100,9 @@ std::vector<std::tuple<int, int>> EvilsInContainers()
     return pairs;
 }
 
-TEST_P(EvilArchives, AreRefusedBeforeTheFirstWrite)
+TEST_P(HostileArchives, AreRefusedBeforeTheFirstWrite)
 {
-    Evil const& evil = EVILS[std::get<0>(GetParam())];
+    Evil const& evil = EvilArchives()[static_cast<std::size_t>(std::get<0>(GetParam()))];
     Container const container = CONTAINERS[std::get<1>(GetParam())];
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
     entries.insert(entries.end(), evil.entries.begin(), evil.entries.end());
@@ -153,10 +111,12 @@ TEST_P(EvilArchives, AreRefusedBeforeTheFirstWrite)
     EXPECT_TRUE(scene.Staged().empty());
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, EvilArchives, testing::ValuesIn(EvilsInContainers()),
-                         [](testing::TestParamInfo<std::tuple<int, int>> const& info) {
-                             return std::string(EVILS[std::get<0>(info.param)].name) + "In" +
-                                    CONTAINER_NAMES[std::get<1>(info.param)];
+INSTANTIATE_TEST_SUITE_P(Table, HostileArchives, testing::ValuesIn(EvilsInContainers()),
+                         [](testing::TestParamInfo<std::tuple<int, int>> const& info)
+                         {
+                             return std::string(
+                                        EvilArchives()[static_cast<std::size_t>(std::get<0>(info.param))].name) +
+                                    "In" + CONTAINER_NAMES[std::get<1>(info.param)];
                          });
 
 class EveryContainer : public testing::TestWithParam<int>

@@ -1,5 +1,7 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
+#include "Engine/core/delta/TreeAccess.h"
+
 #include <sys/stat.h>
 #include <unistd.h>
 #include <zstd.h>
@@ -39,26 +41,10 @@ std::uint64_t ReadFixed(std::uint8_t const* bytes)
 /// True when all \a size bytes were read; an early end of the file leaves errno at 0.
 bool ReadAt(int fd, std::uint64_t offset, std::uint8_t* target, std::size_t size)
 {
-    while (size > 0)
-    {
-        ssize_t const got = pread(fd, target, size, static_cast<off_t>(offset));
-        if (got < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (got <= 0)
-        {
-            if (got == 0)
-            {
-                errno = 0;
-            }
-            return false;
-        }
-        target += got;
-        offset += static_cast<std::uint64_t>(got);
-        size -= static_cast<std::size_t>(got);
-    }
-    return true;
+    ssize_t const got = ReadUpTo(fd, offset, target, size);
+    bool const isShort = got >= 0 && static_cast<std::size_t>(got) < size;
+    errno = isShort ? 0 : errno;
+    return got >= 0 && !isShort;
 }
 
 DeltaOutcome ReadFailure()

@@ -65,6 +65,30 @@ bool WriteAll(int fd, Bytes bytes)
     return true;
 }
 
+ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size)
+{
+    std::size_t done = 0;
+    while (done < size)
+    {
+        ssize_t const count =
+            pread(fd, static_cast<char*>(target) + done, size - done, static_cast<off_t>(offset + done));
+        if (count < 0 && errno == EINTR)
+        {
+            continue;
+        }
+        if (count < 0)
+        {
+            return -1;
+        }
+        if (count == 0)
+        {
+            break;
+        }
+        done += static_cast<std::size_t>(count);
+    }
+    return static_cast<ssize_t>(done);
+}
+
 UniqueFd TreeAccess::OpenBeneath(std::string const& path, int flags, unsigned mode) const
 {
     open_how how{};

@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+#include <sys/types.h>
+
 namespace Pelnar::Engine
 {
 
@@ -52,6 +54,9 @@ private:
 
 /// False, with errno, when not every byte could be written.
 [[nodiscard]] bool WriteAll(int fd, Bytes bytes);
+
+/// Bytes of the file from \a offset on, fewer than \a size only where it ends; their number, or -1 with errno.
+[[nodiscard]] ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size);
 
 /// Every failure leaves errno set. Paths are relative, with "/" between components.
 class TreeAccess

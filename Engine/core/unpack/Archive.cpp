@@ -1,5 +1,7 @@
 #include "Engine/core/unpack/Archive.h"
 
+#include "Engine/core/delta/TreeAccess.h"
+
 #include <archive.h>
 #include <archive_entry.h>
 
@@ -161,7 +163,7 @@ ContainerKind DetectContainer(int descriptor)
         {"\x28\xb5\x2f\xfd"sv, ContainerKind::TarZstandard},
     };
     char bytes[8] = {};
-    ssize_t const count = ::pread(descriptor, bytes, sizeof bytes, 0);
+    ssize_t const count = Engine::ReadUpTo(descriptor, 0, bytes, sizeof bytes);
     if (count < 0)
     {
         throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);

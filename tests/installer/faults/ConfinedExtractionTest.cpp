@@ -1,0 +1,109 @@
+// ConfinedExtractionTest.cpp: hostile archives meet one line of defence at a time: an extractor without any rules in
+// the helper's confinement, and the helper's rules on a kernel that cannot confine.
+
+#include "Engine/core/payload/TreeManifest.h"
+#include "Installer/Confinement.h"
+#include "tests/installer/EvilArchives.h"
+#include "tests/installer/FaultChecks.h"
+
+#include <gtest/gtest.h>
+
+#include <archive.h>
+#include <archive_entry.h>
+
+#include <cerrno>
+#include <filesystem>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+class EvilArchive : public testing::TestWithParam<Evil>
+{
+};
+
+std::string ArchiveOf(Evil const& evil)
+{
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    entries.insert(entries.end(), evil.entries.begin(), evil.entries.end());
+    return MakeArchive(Container::TarGzip, entries);
+}
+
+/// Extracts every entry as it says, in the working folder.
+void ExtractWithoutRules(std::string const& bytes)
+{
+    archive* const reader = archive_read_new();
+    archive_read_support_format_tar(reader);
+    archive_read_support_filter_gzip(reader);
+    archive_read_open_memory(reader, bytes.data(), bytes.size());
+    archive_entry* entry = nullptr;
+    while (archive_read_next_header(reader, &entry) >= ARCHIVE_WARN)
+    {
+        archive_read_extract(reader, entry, ARCHIVE_EXTRACT_PERM | ARCHIVE_EXTRACT_TIME);
+    }
+    archive_read_free(reader);
+}
+
+TEST_P(EvilArchive, ExtractedWithoutRulesStaysInTheConfinement)
+{
+    Workspace const place;
+    place.Put({{"staging", 'd', {}, 0700}, {"decoy", 'd', {}, 0755}, {"decoy/x", 'f', "untouched"}});
+    std::string const bytes = ArchiveOf(GetParam());
+    pid_t const child = ::fork();
+    if (child == 0)
+    {
+        std::string const staging = place.Path() + "/staging";
+        UniqueFd const folder(::open(staging.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        bool const isThere = ::chdir(staging.c_str()) == 0;
+        Pelnar::Installer::ConfineTo(folder.Get(), {});
+        ExtractWithoutRules(bytes);
+        ::_exit(isThere && ::access("My App.app/run", F_OK) == 0 ? 0 : 1);
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0) << "the right part of the archive comes out";
+    EXPECT_EQ(place.Names(), (std::vector<std::string>{"decoy", "staging"}));
+    EXPECT_EQ(place.Names("decoy"), std::vector<std::string>{"x"});
+    EXPECT_EQ(std::filesystem::file_size(place.Path() + "/decoy/x"), 9u);
+    EXPECT_FALSE(std::filesystem::exists("/tmp/pelnar-evil"));
+}
+
+TEST_P(EvilArchive, IsRefusedByTheHelperOnAKernelThatCannotConfine)
+{
+    Versions const versions;
+    UpdateScene scene(ArchiveOf(GetParam()));
+    HelperStart start;
+    start.atEveryCall = [](CallStop const& stop)
+    { return stop.call == SYS_landlock_create_ruleset ? CallVerdict::Fail(ENOSYS) : CallVerdict::GoOn(); };
+    HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), start);
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.Fault(), GetParam().fault);
+    EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty());
+    ExpectRecovered(scene, versions);
+}
+
+TEST(Confinement, IsNeededWhereTheKernelHasIt)
+{
+    UpdateScene scene;
+    for (int const error : {EPERM, EINVAL, ENOMEM})
+    {
+        HelperStart start;
+        start.atEveryCall = [error](CallStop const& stop)
+        { return stop.call == SYS_landlock_restrict_self ? CallVerdict::Fail(error) : CallVerdict::GoOn(); };
+        EXPECT_EQ(scene.Prepare(scene.MakePrepareJob(), start).Fault(), UpdateFault::ConfinementFailed);
+        EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EvilArchive, testing::ValuesIn(EvilArchives()),
+                         [](testing::TestParamInfo<Evil> const& info) { return info.param.name; });
+
+} // namespace

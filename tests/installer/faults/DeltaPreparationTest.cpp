@@ -1,0 +1,316 @@
+// DeltaPreparationTest.cpp: deltas, right ones and every kind of wrong one, through the helper's real process: what
+// comes out is exactly the new version, or nothing.
+
+#include "Engine/core/delta/DeltaContainer.h"
+#include "Engine/core/delta/DeltaMaker.h"
+#include "tests/installer/FaultChecks.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+std::string const BLOB = std::string(APP) + "/Resources/blob";
+
+std::string Noise(std::size_t size)
+{
+    std::mt19937 random(42);
+    std::string text(size, '\0');
+    std::generate(text.begin(), text.end(), [&random] { return static_cast<char>(random()); });
+    return text;
+}
+
+/// With a file that is worth a patch, and one that both versions have.
+std::vector<ForgedEntry> BundleWithBlob(std::string const& version)
+{
+    std::vector<ForgedEntry> entries = MakeBundle(version);
+    std::string blob = Noise(20000);
+    blob.replace(5000, 3, version);
+    entries.push_back({BLOB, 'f', blob});
+    entries.push_back({std::string(APP) + "/Resources/same", 'f', Noise(500)});
+    return entries;
+}
+
+std::string ReadAll(std::string const& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string RightDelta()
+{
+    Workspace const old;
+    Workspace const fresh;
+    old.Put(BundleWithBlob("1.0"));
+    fresh.Put(BundleWithBlob("2.0"));
+    std::string const path = old.Path() + "/delta";
+    UniqueFd const container(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    DeltaReport const report =
+        MakeDelta(old.Path() + '/' + APP, "1.0", fresh.Path() + '/' + APP, "2.0", container.Get());
+    EXPECT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_GT(report.patchedFiles, 0u);
+    EXPECT_GT(report.keptFiles, 0u);
+    EXPECT_GT(report.wholeFiles, 0u);
+    return ReadAll(path);
+}
+
+std::string TextOf(ByteBuffer const& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
+/// The right delta with its manifest, and the data behind it, changed.
+std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
+{
+    Workspace const place;
+    std::string const whole = RightDelta();
+    UniqueFd const container = WriteFile(place.Path() + "/delta", whole);
+    DeltaManifest manifest;
+    std::uint64_t dataOffset = 0;
+    EXPECT_TRUE(ReadDeltaManifest(container.Get(), {}, manifest, dataOffset).HasSucceeded());
+    std::string data = whole.substr(dataOffset);
+    change(manifest, data);
+    return TextOf(EncodeDeltaOpening(manifest)) + data;
+}
+
+DeltaEntry& EntryOf(DeltaManifest& manifest, DeltaEntryKind kind)
+{
+    return *std::find_if(manifest.entries.begin(), manifest.entries.end(),
+                         [kind](DeltaEntry const& entry) { return entry.kind == kind; });
+}
+
+void ChangeHashOf(DeltaManifest& manifest, DeltaEntryKind kind)
+{
+    EntryOf(manifest, kind).hash[0] ^= 1;
+}
+
+/// Where the data of the patched entry begins.
+std::size_t OffsetOfPatch(DeltaManifest& manifest)
+{
+    std::size_t offset = 0;
+    for (DeltaEntry const& entry : manifest.entries)
+    {
+        if (entry.kind == DeltaEntryKind::Patched)
+        {
+            break;
+        }
+        offset += entry.StoredBytes();
+    }
+    return offset;
+}
+
+/// A patch of one step.
+void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
+{
+    ByteBuffer control;
+    for (std::uint64_t const number : numbers)
+    {
+        for (int i = 0; i < 8; ++i)
+        {
+            control.push_back(static_cast<std::uint8_t>(number >> (8 * i)));
+        }
+    }
+    ByteBuffer const stored = CompressForDelta(Bytes(control.data(), control.size()));
+    std::size_t const offset = OffsetOfPatch(manifest);
+    DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
+    data.replace(offset, entry.controlStored, TextOf(stored));
+    entry.controlStored = stored.size();
+    entry.controlSize = control.size();
+}
+
+std::string AppIn(UpdateScene const& scene)
+{
+    return scene.Place().Path() + '/' + APP;
+}
+
+void LeaveAlone(UpdateScene const&) {}
+
+struct Row
+{
+    char const* name;
+    std::string (*makeDelta)();
+    void (*changeBase)(UpdateScene const& scene);
+    UpdateFault fault;
+};
+
+class EvilDelta : public testing::TestWithParam<Row>
+{
+};
+
+/// The scene whose installed bundle is the one that the delta starts from.
+UpdateScene& WithBase(UpdateScene& scene)
+{
+    std::filesystem::remove_all(AppIn(scene));
+    scene.Place().Put(BundleWithBlob("1.0"));
+    return scene;
+}
+
+PrepareJob DeltaJob(UpdateScene const& scene)
+{
+    PrepareJob job = scene.MakePrepareJob();
+    job.kind = PayloadKind::Delta;
+    return job;
+}
+
+TEST(Delta, RightOneIsPreparedAndInstalled)
+{
+    UpdateScene scene(RightDelta());
+    HelperOutcome const prepared = WithBase(scene).Prepare(DeltaJob(scene));
+    ASSERT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
+    Workspace const fresh;
+    fresh.Put(BundleWithBlob("2.0"));
+    Sha256 const expected = TreeOf(fresh.Path() + '/' + APP);
+    EXPECT_TRUE(prepared.Find<PreparedReport>()->digest == expected);
+    InstallJob job;
+    job.targetName = APP;
+    job.stagingName = scene.StagingName();
+    job.stagedName = APP;
+    job.digest = expected;
+    job.bundleIdentifier = IDENTIFIER;
+    job.expectedVersion = "2.0";
+    job.installedVersion = "1.0";
+    scene.Host().End();
+    EXPECT_EQ(scene.Install(job).exitStatus, 0);
+    EXPECT_TRUE(TreeOf(AppIn(scene)) == expected);
+    EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+}
+
+TEST_P(EvilDelta, IsRefusedAndTheInstalledVersionStays)
+{
+    UpdateScene scene(GetParam().makeDelta());
+    WithBase(scene);
+    GetParam().changeBase(scene);
+    std::string const started = scene.Place().StartedVersion();
+    HelperOutcome const outcome = scene.Prepare(DeltaJob(scene));
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.signal, 0);
+    EXPECT_EQ(outcome.Fault(), GetParam().fault);
+    EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+    EXPECT_EQ(scene.Place().StartedVersion(), started);
+    scene.Host().End();
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("1.0").exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+    EXPECT_EQ(scene.Place().StartedVersion(), started);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, EvilDelta,
+    testing::Values(
+        Row{"BaseOfAnotherVersion", &RightDelta,
+            [](UpdateScene const& scene)
+            {
+                std::filesystem::remove_all(AppIn(scene));
+                scene.Place().Put(BundleWithBlob("1.5"));
+            },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"BaseEditedByTheUser", &RightDelta,
+            [](UpdateScene const& scene) { std::ofstream(scene.Place().Path() + '/' + BLOB, std::ios::app) << "x"; },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"KeptFileEditedByTheUser", &RightDelta,
+            [](UpdateScene const& scene) { std::ofstream(AppIn(scene) + "/Resources/same") << Noise(499) << "x"; },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"BaseFileMissing", &RightDelta,
+            [](UpdateScene const& scene) { std::filesystem::remove(scene.Place().Path() + '/' + BLOB); },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"LinkInABaseFilesPlace", &RightDelta,
+            [](UpdateScene const& scene)
+            {
+                std::string const path = scene.Place().Path() + '/' + BLOB;
+                std::filesystem::rename(path, path + "-away");
+                std::filesystem::create_symlink(path + "-away", path);
+            },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"LinkInABaseFoldersPlace", &RightDelta,
+            [](UpdateScene const& scene)
+            {
+                std::string const path = AppIn(scene) + "/Resources";
+                std::filesystem::rename(path, path + "-away");
+                std::filesystem::create_directory_symlink("Resources-away", path);
+            },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"FifoInABaseFilesPlace", &RightDelta,
+            [](UpdateScene const& scene)
+            {
+                std::string const path = scene.Place().Path() + '/' + BLOB;
+                std::filesystem::remove(path);
+                EXPECT_EQ(::mkfifo(path.c_str(), 0644), 0);
+            },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"PatchedResultDiffers",
+            [] {
+                return DeltaWith([](DeltaManifest& manifest, std::string&)
+                                 { ChangeHashOf(manifest, DeltaEntryKind::Patched); });
+            },
+            &LeaveAlone, UpdateFault::DeltaResultDiffers},
+        Row{"WholeResultDiffers",
+            [] {
+                return DeltaWith([](DeltaManifest& manifest, std::string&)
+                                 { ChangeHashOf(manifest, DeltaEntryKind::Whole); });
+            },
+            &LeaveAlone, UpdateFault::DeltaResultDiffers},
+        Row{"StepBeyondTheBase",
+            []
+            {
+                return DeltaWith(
+                    [](DeltaManifest& manifest, std::string& data) {
+                        UseSteps(manifest, data, {1, 0, 1u << 30, 19999, 0, 0});
+                    });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"StepBeforeTheBase",
+            []
+            {
+                return DeltaWith(
+                    [](DeltaManifest& manifest, std::string& data) {
+                        UseSteps(manifest, data, {1, 0, ~std::uint64_t(99), 19999, 0, 0});
+                    });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"StepOfMoreThanTheFile",
+            []
+            {
+                return DeltaWith(
+                    [](DeltaManifest& manifest, std::string& data) {
+                        UseSteps(manifest, data, {~std::uint64_t(0), ~std::uint64_t(0), 0});
+                    });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"PathThatLeavesTheBundle",
+            []
+            { return DeltaWith([](DeltaManifest& manifest, std::string&) { manifest.entries[0].path = "../evil"; }); },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"SourceThatLeavesTheBundle",
+            []
+            {
+                return DeltaWith([](DeltaManifest& manifest, std::string&)
+                                 { EntryOf(manifest, DeltaEntryKind::Kept).sourcePath = "../../etc/passwd"; });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"LinkThatLeavesTheBundle",
+            []
+            {
+                return DeltaWith([](DeltaManifest& manifest, std::string&)
+                                 { EntryOf(manifest, DeltaEntryKind::SymbolicLink).linkTarget = "../../../etc"; });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"DataTooShort", [] { return RightDelta().substr(0, RightDelta().size() - 1); }, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"DataTooLong", [] { return RightDelta() + "x"; }, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"ArchiveInstead", [] { return MakeArchive(Container::Zip, MakeBundle("2.0")); }, &LeaveAlone,
+            UpdateFault::ContainerUnknown}),
+    [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
+
+} // namespace

@@ -1,0 +1,448 @@
+// RaceTest.cpp: somebody changes files while the helper works with them: at each of its calls in turn, and from a
+// thread that runs beside it. The default run takes a sample of the places; with PELNAR_EVERY_PLACE=1 in the
+// environment it takes them all.
+
+#include "tests/installer/FaultChecks.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <random>
+#include <set>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+constexpr int SAMPLE_OF = 23;
+
+int CallsOf(UpdateScene& scene, HelperOutcome (*run)(UpdateScene&, HelperStart const&))
+{
+    int calls = 0;
+    HelperStart start;
+    start.atEveryCall = [&calls](CallStop const& stop)
+    {
+        calls = stop.index + 1;
+        return CallVerdict::GoOn();
+    };
+    EXPECT_EQ(run(scene, start).exitStatus, 0);
+    return calls;
+}
+
+/// The helper does \a act right before its call number \a place.
+HelperStart ActAt(int place, std::function<void()> const& act)
+{
+    HelperStart start;
+    start.atEveryCall = [place, act](CallStop const& stop)
+    {
+        if (stop.index == place)
+        {
+            act();
+        }
+        return CallVerdict::GoOn();
+    };
+    return start;
+}
+
+std::vector<int> Places(int calls)
+{
+    std::vector<int> places;
+    for (int place = 0; place < calls; place += IsEveryPlaceWanted() ? 1 : SAMPLE_OF)
+    {
+        places.push_back(place);
+    }
+    return places;
+}
+
+HelperOutcome PrepareIn(UpdateScene& scene, HelperStart const& start)
+{
+    return scene.Prepare(scene.MakePrepareJob(), start);
+}
+
+std::string ArchivePath(UpdateScene const& scene)
+{
+    return scene.Downloads().Path() + "/update";
+}
+
+void ReplaceBy(std::string const& path, std::string const& bytes)
+{
+    std::ofstream(path + ".other") << bytes;
+    std::filesystem::rename(path + ".other", path);
+}
+
+TEST(Race, ArchiveReplacedUnderItsNameIsStillTheOneThatWasOpenedOrIsRefused)
+{
+    Versions const versions;
+    UpdateScene traced;
+    for (int const place : Places(CallsOf(traced, &PrepareIn)))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        HelperOutcome const outcome =
+            PrepareIn(scene, ActAt(place, [&scene] { ReplaceBy(ArchivePath(scene), "something else"); }));
+        bool const isRefused = outcome.Fault() == UpdateFault::ArchiveInUse;
+        EXPECT_EQ(outcome.exitStatus, isRefused ? 1 : 0);
+        EXPECT_TRUE(isRefused || TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST(Race, ArchiveCanBeWrittenAtOnceWhenTheHelperHasEnded)
+{
+    for (bool const isRefused : {false, true})
+    {
+        UpdateScene scene;
+        PrepareJob job = scene.MakePrepareJob();
+        job.expectedVersion = isRefused ? "9.0" : "2.0";
+        EXPECT_EQ(scene.Prepare(job).exitStatus, isRefused ? 1 : 0);
+        UniqueFd const writer(::open(ArchivePath(scene).c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+        EXPECT_TRUE(writer) << "would wait for the lease";
+    }
+}
+
+struct Change
+{
+    char const* name;
+    void (*act)(std::string const& archive);
+};
+
+class ChangedArchive : public testing::TestWithParam<Change>
+{
+};
+
+/// Opening a file to change it waits until the helper lets go of it, and the helper ends rather than to read on: so the
+/// change comes from a thread.
+TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOne)
+{
+    Versions const versions;
+    UpdateScene traced;
+    int stopped = 0;
+    for (int const place : Places(CallsOf(traced, &PrepareIn)))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        std::thread writer;
+        HelperOutcome const outcome =
+            PrepareIn(scene, ActAt(place, [&] { writer = std::thread([&] { GetParam().act(ArchivePath(scene)); }); }));
+        scene.Host().End(); // it has the archive open too
+        scene.ReleaseArchive();
+        writer.join();
+        EXPECT_NE(outcome.signal, SIGBUS);
+        if (outcome.exitStatus == 0)
+        {
+            EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+        }
+        else
+        {
+            ++stopped;
+            EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+        }
+        ExpectRecovered(scene, versions);
+    }
+    EXPECT_GT(stopped, 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Changes, ChangedArchive,
+    testing::Values(Change{"Rewritten",
+                           [](std::string const& archive)
+                           {
+                               std::fstream file(archive, std::ios::in | std::ios::out);
+                               file.seekp(100);
+                               file << "evil";
+                           }},
+                    Change{"CutShort", [](std::string const& archive) { std::filesystem::resize_file(archive, 100); }},
+                    Change{"Emptied", [](std::string const& archive) { std::ofstream file(archive); }},
+                    Change{"Longer",
+                           [](std::string const& archive) { std::ofstream(archive, std::ios::app) << "more"; }}),
+    [](testing::TestParamInfo<Change> const& info) { return info.param.name; });
+
+TEST(Race, StagingFolderReplacedByALinkIsNotWrittenThrough)
+{
+    Versions const versions;
+    UpdateScene traced;
+    for (int const place : Places(CallsOf(traced, &PrepareIn)))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        Workspace const outside;
+        HelperOutcome const outcome =
+            PrepareIn(scene, ActAt(place,
+                                   [&]
+                                   {
+                                       std::filesystem::rename(scene.StagingPath(), scene.StagingPath() + "-away");
+                                       std::filesystem::create_directory_symlink(outside.Path(), scene.StagingPath());
+                                   }));
+        EXPECT_EQ(outcome.exitStatus, 0) << "the folder is known by its descriptor";
+        EXPECT_TRUE(outside.Names().empty());
+        InstallJob job;
+        job.targetName = APP;
+        job.stagingName = scene.StagingName();
+        job.stagedName = APP;
+        job.digest = versions.next;
+        job.bundleIdentifier = IDENTIFIER;
+        job.expectedVersion = "2.0";
+        job.installedVersion = "1.0";
+        scene.Host().End();
+        EXPECT_EQ(scene.Install(job).Fault(), UpdateFault::StagedTreeChanged);
+        EXPECT_TRUE(outside.Names().empty());
+        EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+    }
+}
+
+InstallJob QuietJob(UpdateScene& scene)
+{
+    InstallJob job = scene.PrepareForInstall();
+    job.targetPath.clear();
+    scene.Host().End();
+    return job;
+}
+
+int CallsOfAnInstallation()
+{
+    UpdateScene traced;
+    return CallsOf(traced,
+                   [](UpdateScene& scene, HelperStart const& start) { return scene.Install(QuietJob(scene), start); });
+}
+
+TEST(Race, StagedBundleEditedBeforeItIsCheckedIsRefused)
+{
+    Versions const versions;
+    int const calls = CallsOfAnInstallation();
+    int refused = 0;
+    bool wasAccepted = false;
+    for (int const place : Places(calls))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        InstallJob const job = QuietJob(scene);
+        bool isJournalWritten = false;
+        std::string const added = scene.StagingPath() + '/' + APP + "/added";
+        HelperOutcome const outcome = scene.Install(job, ActAt(place,
+                                                               [&]
+                                                               {
+                                                                   isJournalWritten = scene.Place().Names().size() > 2;
+                                                                   std::ofstream(added) << "x";
+                                                               }));
+        bool const isRefused = outcome.Fault() == UpdateFault::StagedTreeChanged;
+        refused += isRefused ? 1 : 0;
+        EXPECT_FALSE(isRefused && wasAccepted) << "the check is one pass: what comes later comes too late";
+        EXPECT_FALSE(isRefused && isJournalWritten);
+        if (isRefused)
+        {
+            EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+            ExpectRecovered(scene, versions);
+        }
+        else
+        {
+            // An edit as late as this is one of the installed version.
+            wasAccepted = true;
+            EXPECT_EQ(outcome.exitStatus, 0);
+            EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+        }
+    }
+    EXPECT_GT(refused, 0);
+}
+
+TEST(Race, TargetReplacedByALinkIsNeverWrittenThrough)
+{
+    Versions const versions;
+    for (int const place : Places(CallsOfAnInstallation()))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        InstallJob const job = QuietJob(scene);
+        Workspace const outside;
+        outside.Put(MakeBundle("1.0"));
+        std::string const target = scene.Place().Path() + '/' + APP;
+        bool wasInstalled = false;
+        static_cast<void>(scene.Install(job, ActAt(place,
+                                                   [&]
+                                                   {
+                                                       wasInstalled = TreeOf(target) == versions.next;
+                                                       std::filesystem::rename(target, target + ".away");
+                                                       std::filesystem::create_directory_symlink(
+                                                           outside.Path() + '/' + APP, target);
+                                                   })));
+        EXPECT_EQ(ExpectWhole(outside, versions), "1.0");
+        EXPECT_EQ(outside.Names(), std::vector<std::string>{APP});
+        EXPECT_TRUE(TreeOf(target + ".away") == (wasInstalled ? versions.next : versions.previous));
+        EXPECT_TRUE(std::filesystem::is_symlink(target) || TreeOf(target) == versions.next);
+    }
+}
+
+TEST(Race, AnotherFolderInTheTargetsPlaceIsWholeOrOutOfTheWay)
+{
+    Versions const versions;
+    for (int const place : Places(CallsOfAnInstallation()))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        InstallJob const job = QuietJob(scene);
+        Workspace const other("/tmp");
+        other.Put(MakeBundle("1.0"));
+        std::string const target = scene.Place().Path() + '/' + APP;
+        static_cast<void>(scene.Install(job, ActAt(place,
+                                                   [&]
+                                                   {
+                                                       std::filesystem::rename(target, target + ".away");
+                                                       std::filesystem::rename(other.Path() + '/' + APP, target);
+                                                   })));
+        ExpectWhole(scene, versions);
+        std::filesystem::remove_all(target + ".away");
+        ExpectRecovered(scene, versions);
+    }
+}
+
+TEST(Race, FilesThatOthersDropBesideTheBundleStay)
+{
+    Versions const versions;
+    UpdateScene scene;
+    scene.Place().Put({{"payload", 'd', {}, 0755},
+                       {"payload/run", 'f', "#!/bin/sh\necho evil\n", 0755},
+                       {"2.0.app", 'd', {}, 0755},
+                       {"previous", 'f', "x"},
+                       {".pelnar-decoy", 'f', "x"}});
+    scene.Downloads().Put({{"My App.app", 'd', {}, 0755}, {"My App.app/run", 'f', "#!/bin/sh\necho evil\n", 0755}});
+    std::vector<std::string> expected = scene.Place().Names();
+    expected.erase(std::find(expected.begin(), expected.end(), scene.StagingName()));
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    EXPECT_EQ(scene.Install(job).exitStatus, 0);
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("2.0").exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), expected);
+    EXPECT_EQ(scene.Downloads().Names(), (std::vector<std::string>{"My App.app", "update"}));
+}
+
+/// Changes names beside the bundle, and turns the staged one round and round, as fast as it can.
+class Meddler
+{
+public:
+    explicit Meddler(UpdateScene const& scene)
+        : m_thread(
+              [this, staging = scene.StagingPath(), place = scene.Place().Path(), archive = ArchivePath(scene)]
+              {
+                  std::mt19937 random(7);
+                  for (int i = 0; !m_isOver; ++i)
+                  {
+                      std::string const decoy = place + "/decoy" + std::to_string(random() % 4);
+                      ::mkdir(decoy.c_str(), 0755);
+                      static_cast<void>(!::symlink("/etc", (decoy + "/link").c_str()));
+                      static_cast<void>(::renameat(AT_FDCWD, decoy.c_str(), AT_FDCWD, (place + "/moved").c_str()));
+                      ReplaceBy(archive, "something else");
+                      ::unlink((place + "/moved/link").c_str());
+                      ::rmdir((place + "/moved").c_str());
+                  }
+              })
+    {
+    }
+    ~Meddler()
+    {
+        m_isOver = true;
+        m_thread.join();
+    }
+
+private:
+    std::atomic<bool> m_isOver{false};
+    std::thread m_thread;
+};
+
+TEST(Race, MeddlingBesideTheBundleDoesNotReachIt)
+{
+    Versions const versions;
+    for (int round = 0; round < (IsEveryPlaceWanted() ? 200 : 10); ++round)
+    {
+        UpdateScene scene;
+        {
+            Meddler const meddler(scene);
+            InstallJob const job = scene.PrepareForInstall();
+            scene.Host().End();
+            EXPECT_EQ(scene.Install(job).exitStatus, 0);
+        }
+        EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    }
+}
+
+struct Contender
+{
+    StagingFolder folder;
+    HelperOutcome outcome;
+};
+
+/// Runs so many helpers at once over as many copies of a prepared update.
+void Contend(int count, Versions const& versions)
+{
+    UpdateScene scene;
+    InstallJob const prepared = scene.PrepareForInstall();
+    std::vector<Contender> contenders;
+    for (int i = 0; i < count; ++i)
+    {
+        contenders.push_back({StagingFolder::Create(scene.Place().Descriptor(), APP), {}});
+        std::filesystem::copy(scene.StagingPath() + '/' + APP,
+                              scene.Place().Path() + '/' + contenders.back().folder.Name() + '/' + APP,
+                              std::filesystem::copy_options::recursive | std::filesystem::copy_options::copy_symlinks);
+    }
+    std::vector<std::thread> threads;
+    for (Contender& contender : contenders)
+    {
+        threads.emplace_back(
+            [&]
+            {
+                InstallJob job = prepared;
+                job.targetPath.clear();
+                job.stagingName = contender.folder.Name();
+                contender.outcome = RunHelper("install", EncodeUpdateJob(job),
+                                              {{HelperDescriptors::PARENT, scene.Place().Descriptor()},
+                                               {HelperDescriptors::STAGING, contender.folder.Descriptor()},
+                                               {HelperDescriptors::HOST, scene.Host().ProcessDescriptor()}});
+            });
+    }
+    scene.Host().End();
+    int installed = 0;
+    for (std::size_t i = 0; i < threads.size(); ++i)
+    {
+        threads[i].join();
+        HelperOutcome const& outcome = contenders[i].outcome;
+        installed += outcome.Find<InstalledReport>() ? 1 : 0;
+        EXPECT_EQ(outcome.exitStatus == 0, outcome.Find<InstalledReport>() != nullptr);
+        EXPECT_TRUE(outcome.exitStatus == 0 || outcome.Fault() == UpdateFault::TargetChanged)
+            << FaultName(outcome.Fault());
+    }
+    EXPECT_EQ(installed, 1);
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    contenders.clear();
+    ExpectRecovered(scene, versions);
+}
+
+TEST(Crowd, OfTwoHelpersAtOnceOneInstalls)
+{
+    Versions const versions;
+    for (int round = 0; round < (IsEveryPlaceWanted() ? 100 : 8); ++round)
+    {
+        Contend(2, versions);
+    }
+}
+
+TEST(Crowd, OfFiftyHelpersAtOnceOneInstalls)
+{
+    Versions const versions;
+    for (int round = 0; round < (IsEveryPlaceWanted() ? 100 : 1); ++round)
+    {
+        Contend(50, versions);
+    }
+}
+
+} // namespace

@@ -1,0 +1,129 @@
+// SurroundingsTest.cpp: the helper does the same whatever the process that starts it looks like, and wherever the
+// bundle stands.
+
+#include "tests/installer/FaultChecks.h"
+#include "tests/support/Sanitizers.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <set>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+struct Surroundings
+{
+    char const* name;
+    std::vector<std::string> before;
+    std::vector<std::string> environment;
+};
+
+void PrintTo(Surroundings const& surroundings, std::ostream* out)
+{
+    *out << surroundings.name;
+}
+
+/// The shell sets the scene, then becomes the helper.
+std::vector<std::string> After(std::string const& commands)
+{
+    return {"/bin/sh", "-c", commands + "; exec \"$@\"", "sh"};
+}
+
+/// Prepares, installs, starts and confirms the new version.
+void ExpectUpdated(UpdateScene& scene, HelperStart const& start)
+{
+    Versions const versions;
+    HelperOutcome const prepared = scene.Prepare(scene.MakePrepareJob(), start);
+    EXPECT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
+    EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next) << "modes included";
+    InstallJob job;
+    job.targetName = APP;
+    job.stagingName = scene.StagingName();
+    job.stagedName = APP;
+    job.digest = versions.next;
+    job.bundleIdentifier = IDENTIFIER;
+    job.expectedVersion = "2.0";
+    job.installedVersion = "1.0";
+    job.targetPath = scene.Place().Path() + '/' + APP;
+    scene.Host().End();
+    HelperOutcome const installed = scene.Install(job, start);
+    EXPECT_EQ(installed.exitStatus, 0) << FaultName(installed.Fault());
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("2.0", start).exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+}
+
+class OddSurroundings : public testing::TestWithParam<Surroundings>
+{
+};
+
+TEST_P(OddSurroundings, ChangeNothing)
+{
+    std::set<std::string> const foreign{"SmallStack", "HostileLoader", "HostileAllocator"};
+    if (IS_SANITIZED && foreign.count(GetParam().name) != 0)
+    {
+        GTEST_SKIP() << "a sanitizer's runtime does not start there";
+    }
+    UpdateScene scene;
+    ExpectUpdated(scene, {GetParam().before, GetParam().environment});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, OddSurroundings,
+    testing::Values(
+        Surroundings{"NoMaskForNewFiles", After("umask 000"), {}},
+        Surroundings{"StrictMaskForNewFiles", After("umask 077"), {}},
+        Surroundings{"WorkingFolderGone",
+                     After("d=$(/bin/mktemp -d) && cd \"$d\" && /bin/rmdir \"$d\""),
+                     {"PATH=/bin:/usr/bin"}},
+        Surroundings{"OpenFilesLimitedTo32", After("ulimit -n 32"), {}},
+        Surroundings{"SmallStack", After("ulimit -s 512"), {}}, Surroundings{"NoCoreFiles", After("ulimit -c 0"), {}},
+        Surroundings{"StandardStreamsClosed", After("exec <&- >&- 2>&-"), {}},
+        Surroundings{"SignalsIgnored", After("trap '' TERM HUP INT QUIT PIPE CHLD"), {}},
+        Surroundings{"NoHome", {}, {"HOME="}},
+        Surroundings{"HomeThatIsNot", {}, {"HOME=/nonexistent", "XDG_CONFIG_HOME=/nonexistent"}},
+        Surroundings{"TurkishLocale", {}, {"LC_ALL=tr_TR.UTF-8", "LANG=tr_TR.UTF-8"}},
+        Surroundings{"UnknownLocale", {}, {"LC_ALL=xx_YY.Nonsense"}},
+        Surroundings{"HostileSearchPath", {}, {"PATH=/nonexistent:.", "IFS=x", "ENV=/nonexistent", "BASH_ENV=/none"}},
+        Surroundings{"HostileTemporaryFolder", {}, {"TMPDIR=/nonexistent", "TMP=/dev/null", "TEMP=../.."}},
+        Surroundings{"HostileLoader",
+                     {},
+                     {"LD_PRELOAD=" PELNAR_HOSTILE_LIBRARY, "LD_LIBRARY_PATH=/nonexistent", "LD_AUDIT=/nonexistent"}},
+        Surroundings{"HostileCryptography", {}, {"OPENSSL_CONF=/dev/zero", "OPENSSL_MODULES=/tmp"}},
+        Surroundings{"HostileAllocator", {}, {"GLIBC_TUNABLES=glibc.malloc.check=3", "MALLOC_PERTURB_=255"}}),
+    [](testing::TestParamInfo<Surroundings> const& info) { return info.param.name; });
+
+TEST(OddPlaces, AreUpdatedLikeOthers)
+{
+    for (std::string const& name :
+         {std::string("with blanks"), std::string("quote'\"s"), std::string("line\nfeed"), std::string("$HOME;`id`&"),
+          std::string("\xff\xfe"), std::string(255, 'n'), std::string("-rf"), std::string("%s%n")})
+    {
+        SCOPED_TRACE(name);
+        Workspace const outer;
+        std::string const parent = outer.Path() + '/' + name;
+        std::filesystem::create_directory(parent);
+        UpdateScene scene(MakeArchive(Container::Zip, MakeBundle("2.0")), parent);
+        ExpectUpdated(scene, {});
+    }
+}
+
+TEST(OddPlaces, MayBeDeeperThanOnePathCanName)
+{
+    Workspace const outer;
+    std::string parent = outer.Path();
+    for (int depth = 0; depth < 14; ++depth)
+    {
+        parent += '/' + std::string(255, 'd');
+        std::filesystem::create_directory(parent);
+    }
+    UpdateScene scene(MakeArchive(Container::Zip, MakeBundle("2.0")), parent);
+    ExpectUpdated(scene, {});
+}
+
+} // namespace

@@ -30,8 +30,6 @@ TEST_F(BundleKeys, AutomaticDownloadIsReadAndTheUserDefaultWins)
     driver.SetDownloadsAutomatically(false);
     EXPECT_FALSE(driver.DownloadsAutomatically());
 }
-
-// Row 29.
 TEST_F(BundleKeys, WhatIsNotNewerThanTheBundleIsNotOffered)
 {
     for (auto const& [version, outcome] :

@@ -144,8 +144,6 @@ TEST_P(EveryCheck, SecondCheckWhileOneRunsIsIgnoredWithALogLine)
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
     EXPECT_EQ(server.Requests().size(), 1u);
 }
-
-// Row 38.
 TEST_P(EveryCheck, FoundWithoutAKeyInTheBundleFetchesNothingAndEndsIdle)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));

@@ -12,8 +12,6 @@ namespace
 {
 
 using namespace Pelnar::Testing;
-
-// Row 28.
 TEST_F(CheckContract, ItemOfAnotherFeedIsRefused)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
@@ -281,7 +279,7 @@ TEST_F(CheckContract, NothingIsToldWhenTheApplicationEndsMeanwhile)
     EXPECT_EQ(driver.Events(), Events{});
 }
 
-// Row 29, as far as the process has a version; the bundle's tests have the rest.
+// As far as the process has a version; the bundle's tests have the rest.
 TEST_F(CheckContract, WithoutABundleVersionTheChoiceStands)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("0.1")))));
@@ -329,8 +327,6 @@ TEST_P(SkippedVersion, IsNotOfferedUnlessTheUserAsks)
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), GetParam().expected);
 }
-
-// Row 94.
 TEST_F(CheckContract, NoByteOfTheServerReachesTheSentence)
 {
     QByteArray const hostile = "<img src='file:///etc/passwd'>" + QByteArray(30000, '&');
@@ -353,7 +349,7 @@ TEST_F(CheckContract, NoByteOfTheServerReachesTheSentence)
     }
 }
 
-// Row 15, the portal of a hotel.
+// The portal of a hotel.
 TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
 {
     LoopbackServer server(Answering(OkAnswer("<!DOCTYPE html><html><head><title>Login</title></head><body/></html>")));
@@ -364,8 +360,6 @@ TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
     EXPECT_EQ(driver.Events(), Events{"aborted 1000"});
     EXPECT_EQ(driver.Errors()[0].underlyingCode, 707);
 }
-
-// Row 98.
 TEST_F(CheckContract, SkippedVersionOfTheWrongTypeIsIgnoredWithAWarning)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));

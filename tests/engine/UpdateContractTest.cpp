@@ -247,8 +247,6 @@ TEST_F(UpdateContract, SwitchedOffNothingIsSent)
     EXPECT_EQ(driver->Events(), (Events{"aborted 1002", "aborted 1002", "aborted 1002"}));
     EXPECT_EQ(server->Connections(), 0);
 }
-
-// Row 99.
 TEST_F(UpdateContract, FailedBackgroundCheckHoldsTheNextOneBackAndNoOther)
 {
     LoopbackServer broken(Answering("HTTP/1.1 500 Broken\r\n\r\n"));

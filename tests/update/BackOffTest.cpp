@@ -14,8 +14,6 @@ QDateTime At(qint64 seconds)
 {
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
-
-// Row 99.
 TEST(BackOff, DoublesFromOneHourToADay)
 {
     std::vector<hours> const expected = {hours(0),  hours(1),  hours(2),  hours(4), hours(8),

@@ -188,8 +188,6 @@ TEST_F(UpdateFlowTest, OnlyTheSameVersionCanTakeADeltasPlace)
         EXPECT_TRUE(hasEnded) << second.name;
     }
 }
-
-// Row 99.
 TEST_F(UpdateFlowTest, FailuresInARowHoldTheBackgroundBackAndNobodyElse)
 {
     Publish(FeedWith(Signed(ItemOf("5.1"))));

@@ -29,8 +29,6 @@ TEST(UpdatePlan, OnlyABackgroundCheckThatDownloadsByItselfIsSilent)
         EXPECT_EQ(OriginOf(row.kind), row.origin);
     }
 }
-
-// Row 97.
 TEST(UpdatePlan, FileNameTellsAnInstallerProgram)
 {
     struct Row
@@ -100,8 +98,6 @@ TEST(UpdatePlan, OnlyFailuresOfTheOtherSideHoldTheNextCheckBack)
     EXPECT_TRUE(CountsForBackOff(MakeFaultError(UpdateFault::SignatureMismatch)));
     EXPECT_FALSE(CountsForBackOff(MakeFaultError(UpdateFault::KeyMissing)));
 }
-
-// Row 86.
 TEST(UpdatePlan, RelaunchPathIsAnAbsolutePathOrNone)
 {
     struct Row

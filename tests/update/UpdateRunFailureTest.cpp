@@ -27,8 +27,6 @@ void PrintTo(Refusal const& row, std::ostream* out)
 class RefusedBeforehand : public UpdateRunTest, public ::testing::WithParamInterface<Refusal>
 {
 };
-
-// Rows 36, 38 and 70.
 INSTANTIATE_TEST_SUITE_P(
     Reasons, RefusedBeforehand,
     ::testing::Values(
@@ -114,7 +112,7 @@ struct Verdict
     bool isDiscarded;
 };
 
-// Rows 35, 51: what is fetched anew next time, and what is not.
+// What is fetched anew next time, and what is not.
 TEST_F(UpdateRunTest, ArchiveIsDiscardedWhenItIsToBlame)
 {
     for (Verdict const& row : {Verdict{UpdateFault::SignatureMismatch, true},
@@ -168,8 +166,6 @@ TEST_F(UpdateRunTest, HelperThatDisappearsBetweenPreparationAndInstallationIsAnE
     EXPECT_EQ(end->error->fault, UpdateFault::DescriptorUnusable);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
-
-// Row 80.
 TEST_F(UpdateRunTest, ApplicationThatStaysOpenIsToldThatNothingWasInstalled)
 {
     StartInteractive();
@@ -206,8 +202,6 @@ TEST_F(UpdateRunTest, HelperThatWaitsForTheQuitAndDiesIsAnError)
     EXPECT_EQ(end->error->fault, UpdateFault::JobMalformed);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
-
-// Row 96.
 TEST_F(UpdateRunTest, DeltaThatFailsIsReplacedByTheWholeOnceAndNobodyIsTroubled)
 {
     StartWithDelta(CheckKind::Interactive);
@@ -362,8 +356,6 @@ TEST_F(UpdateRunTest, AnswersOfWindowsThatOutliveItAreDropped)
     windows.Choose(UpdateChoice::InstallUpdate);
     EXPECT_EQ(Since(), Notes{"window update"});
 }
-
-// Row 84.
 TEST_F(UpdateRunTest, DestroyedFromWithinTheApplicationsCallbacksItTouchesNothing)
 {
     for (char const* const when : {"will install on quit", "should relaunch?", "path?"})

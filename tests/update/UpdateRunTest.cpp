@@ -117,8 +117,6 @@ TEST_F(UpdateRunTest, PuttingOffEndsWithoutAnError)
     EXPECT_EQ(Since(), (Notes{"window update", "end"}));
     EXPECT_FALSE(end->error);
 }
-
-// Row 83.
 TEST_F(UpdateRunTest, LaterInTheReadyWindowInstallsNothingAndKeepsTheDownload)
 {
     StartInteractive();
@@ -245,8 +243,6 @@ TEST_F(UpdateRunTest, RefusalAfterTheCallbackEndsTheWaitingHelper)
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "cancelled", "end"}));
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
-
-// Row 84.
 TEST_F(UpdateRunTest, InstallationAtOnceHappensOnce)
 {
     host.onWillInstall = [this]

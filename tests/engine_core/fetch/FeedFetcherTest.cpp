@@ -60,8 +60,6 @@ TEST_F(FeedFetcherTest, DestroyingTheFetcherDropsTheFetch)
     QCoreApplication::processEvents();
     EXPECT_FALSE(wasTold);
 }
-
-// Row 1.
 TEST_F(FeedFetcherTest, HttpToAnotherComputerIsRefused)
 {
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("http://feeds.example.com/feed.xml")))), ErrorCause::InsecureAddress);
@@ -76,8 +74,6 @@ TEST_F(FeedFetcherTest, AddressesThatAreNoneAreRefused)
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("qrc:/feed.xml")))), ErrorCause::SchemeRefused);
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("https:///feed.xml")))), ErrorCause::InvalidAddress);
 }
-
-// Row 3.
 class RedirectScheme : public FeedFetcherTest, public ::testing::WithParamInterface<char const*>
 {
 };
@@ -112,8 +108,6 @@ TEST_F(FeedFetcherTest, RedirectsAreFollowedAndTheLastAddressCounts)
         EXPECT_EQ(outcome.url, server.Url(QStringLiteral("/new/feed.xml")));
     }
 }
-
-// Row 4.
 TEST_F(FeedFetcherTest, RedirectLoopStopsAfterTenHops)
 {
     LoopbackServer server(Answering(RedirectAnswer(302, "/feed.xml")));
@@ -138,8 +132,6 @@ TEST_F(FeedFetcherTest, RedirectWithoutLocationIsAnErrorOfItsOwn)
     LoopbackServer server(Answering("HTTP/1.1 302 Found\r\nContent-Length: 0\r\n\r\n"));
     EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::RedirectWithoutLocation);
 }
-
-// Row 5.
 TEST_F(FeedFetcherTest, CredentialsStayWithinTheOrigin)
 {
     LoopbackServer other(Answering(OkAnswer(BODY)));
@@ -161,8 +153,6 @@ TEST_F(FeedFetcherTest, CredentialsStayWithinTheOrigin)
     ASSERT_EQ(other.Requests().size(), 1u);
     EXPECT_FALSE(other.Requests()[0].contains("Authorization")) << "another port is another origin";
 }
-
-// Row 9.
 TEST_F(FeedFetcherTest, ConnectionRefusedIsAnErrorOfItsOwn)
 {
     QUrl url;
@@ -208,8 +198,6 @@ TEST_F(FeedFetcherTest, BlackHoleEndsAtTheConnectDeadline)
     }
     close(listener);
 }
-
-// Row 10.
 TEST_F(FeedFetcherTest, ResetAfterEachKibibyteIsIncompleteAndNoPrefixIsGiven)
 {
     QByteArray const body(16 * 1024, 'x');
@@ -252,8 +240,6 @@ TEST_F(FeedFetcherTest, ChunksAndBodiesUntilCloseArrive)
     LoopbackServer untilClose(Answering("HTTP/1.0 200 OK\r\n\r\n<rss></rss>"));
     EXPECT_EQ(Fetch(untilClose.Url()).bytes, "<rss></rss>");
 }
-
-// Row 11.
 TEST_F(FeedFetcherTest, EndlessBodyIsCutAtTheCap)
 {
     LoopbackServer server(AnsweringWithoutEnd("HTTP/1.1 200 OK\r\n\r\n", QByteArray(64 * 1024, 'x')));
@@ -272,8 +258,6 @@ TEST_F(FeedFetcherTest, BodyOfTheCapArrivesAndOneByteMoreDoesNot)
     LoopbackServer tooLarge(Answering(OkAnswer(QByteArray(1001, 'x'))));
     EXPECT_EQ(CauseOf(Fetch(tooLarge.Url(), limits)), ErrorCause::BodyTooLarge);
 }
-
-// Row 12.
 TEST_F(FeedFetcherTest, EndlessHeadersAreCutAtTheCap)
 {
     LoopbackServer server(AnsweringWithoutEnd("HTTP/1.1 200 OK\r\n", "X-Filler: " + QByteArray(1000, 'x') + "\r\n"));
@@ -292,8 +276,6 @@ TEST_F(FeedFetcherTest, SlowHeadersEndAtTheTotalDeadline)
     LoopbackServer server(Dripping("HTTP/1.1 200 OK\r\n", QByteArray(100000, 'x'), 10));
     EXPECT_EQ(CauseOf(Fetch(server.Url(), limits)), ErrorCause::TotalTimeout);
 }
-
-// Row 13.
 TEST_F(FeedFetcherTest, DripIsTooSlow)
 {
     FetchLimits limits = ShortLimits();

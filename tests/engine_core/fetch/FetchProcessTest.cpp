@@ -85,8 +85,6 @@ protected:
 
     QTemporaryDir folder;
 };
-
-// Row 1.
 TEST_F(FetchProcessTest, HttpToAnotherComputerSendsNoPacket)
 {
     if (!CanTrace())
@@ -98,8 +96,6 @@ TEST_F(FetchProcessTest, HttpToAnotherComputerSendsNoPacket)
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::InsecureAddress)) << report.all.toStdString();
     EXPECT_FALSE(Trace().contains("AF_INET")) << Trace().toStdString();
 }
-
-// Row 3.
 TEST_F(FetchProcessTest, RedirectToAFileOpensNothing)
 {
     if (!CanTrace())
@@ -114,8 +110,6 @@ TEST_F(FetchProcessTest, RedirectToAFileOpensNothing)
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::RedirectScheme)) << report.all.toStdString();
     EXPECT_FALSE(Trace().contains("secret.xml"));
 }
-
-// Row 8.
 class WrongClock : public FetchProcessTest
 {
 protected:
@@ -156,8 +150,6 @@ TEST_F(WrongClock, RightClockIsNoError)
     EXPECT_EQ(report.cause, 0) << report.all.toStdString();
     EXPECT_EQ(report.bytes, 6);
 }
-
-// Row 9.
 TEST_F(FetchProcessTest, NoRouteIsAnErrorOfItsOwn)
 {
     QStringList const ownNetwork{QStringLiteral("unshare"), QStringLiteral("--map-root-user"), QStringLiteral("--net")};
@@ -168,8 +160,6 @@ TEST_F(FetchProcessTest, NoRouteIsAnErrorOfItsOwn)
     Report const report = probe(ownNetwork, {QStringLiteral("https://192.0.2.1/feed.xml")});
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::NetworkUnreachable)) << report.all.toStdString();
 }
-
-// Rows 11, 12, 14.
 class EndlessAnswer : public FetchProcessTest
 {
 protected:

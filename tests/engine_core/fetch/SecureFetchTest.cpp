@@ -38,8 +38,6 @@ TEST_F(SecureFetchTest, BodyOfManyRecordsArrivesWhole)
     LoopbackServer server(Answering(OkAnswer(body)), certificates.Signed("127.0.0.1"));
     EXPECT_EQ(Fetch(server.Url()).bytes, body);
 }
-
-// Row 2.
 TEST_F(SecureFetchTest, RedirectToHttpIsADowngrade)
 {
     LoopbackServer plain(Answering(OkAnswer(BODY)));
@@ -59,8 +57,6 @@ TEST_F(SecureFetchTest, RedirectFromHttpToHttpsIsFollowed)
     LoopbackServer plain(Answering(RedirectAnswer(301, secure.Url().toEncoded())));
     EXPECT_EQ(Fetch(plain.Url()).bytes, BODY);
 }
-
-// Row 6.
 TEST_F(SecureFetchTest, SelfSignedCertificateIsRefused)
 {
     LoopbackServer server(Answering(OkAnswer(BODY)), certificates.SelfSigned("127.0.0.1"));
@@ -138,8 +134,6 @@ TEST(CertificateErrors, TheMostTellingOneWins)
                   .cause,
               ErrorCause::CertificateSelfSigned);
 }
-
-// Row 7.
 class WeakHandshake : public SecureFetchTest, public ::testing::WithParamInterface<char const*>
 {
 };

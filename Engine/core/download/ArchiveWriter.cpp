@@ -303,6 +303,7 @@ void ArchiveWriter::Close(std::function<void()> done)
 
 void ArchiveWriter::Remove(std::function<void()> done)
 {
+    m_impl->Flush();
     m_impl->Add(Ending::Waits,
                 [](PartialFile& file)
                 {

@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <cstring>
+#include <ctime>
 #include <utility>
 
 #include <fcntl.h>
@@ -29,6 +30,7 @@ constexpr char STAGED_ENDING[] = ".record.new";
 constexpr char ASIDE_ENDING[] = ".aside";
 /// Between opening a file and locking it somebody may have replaced it, but not again and again.
 constexpr int MAX_LOCK_ATTEMPTS = 10;
+constexpr std::time_t ABANDONED_SECONDS = 30 * 24 * 3600;
 
 QString Described(int errorNumber)
 {
@@ -59,20 +61,25 @@ bool IsSameFile(struct stat const& a, struct stat const& b)
     return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-UniqueFd OpenAt(UniqueFd const& folder, std::string const& name, int flags)
+UniqueFd OpenAt(int folder, std::string const& name, int flags)
 {
     int descriptor = -1;
     do
     {
-        // A FIFO in the file's place must not hold the process up.
-        descriptor = openat(folder.Get(), name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC | O_NONBLOCK, FILE_MODE);
+        descriptor = openat(folder, name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
     } while (descriptor < 0 && errno == EINTR);
     return UniqueFd(descriptor);
 }
 
-UniqueFd OpenFolderAt(std::string const& path)
+UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
 {
-    return UniqueFd(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    // A FIFO in the file's place must not hold the process up.
+    return OpenAt(folder.Get(), name, flags | O_NONBLOCK);
+}
+
+UniqueFd OpenFolderNamed(std::string const& path)
+{
+    return OpenAt(AT_FDCWD, path, O_RDONLY | O_DIRECTORY);
 }
 
 /// Different after every start of the system; empty when it cannot be told.
@@ -166,6 +173,7 @@ PartialFile::Fault PartialFile::Open()
     {
         return FailedWrite(errno);
     }
+    RemoveAbandoned();
     if (Fault const fault = CheckRoom())
     {
         return fault;
@@ -182,7 +190,7 @@ PartialFile::Fault PartialFile::OpenFolder()
         QDir().mkpath(QFileInfo(path).path());
         mkdir(m_place.folder.c_str(), FOLDER_MODE);
     }
-    m_folder = OpenFolderAt(m_place.folder);
+    m_folder = OpenFolderNamed(m_place.folder);
     if (!m_folder)
     {
         bool const isOther = errno == ENOTDIR || errno == ELOOP;
@@ -203,7 +211,7 @@ PartialFile::Fault PartialFile::OpenReader()
 {
     for (int attempt = 0; attempt < MAX_LOCK_ATTEMPTS; ++attempt)
     {
-        m_reader = OpenAt(m_folder, m_place.name, O_RDONLY | O_CREAT);
+        m_reader = OpenFileAt(m_folder, m_place.name, O_RDONLY | O_CREAT);
         struct stat status
         {
         };
@@ -282,7 +290,7 @@ PartialFile::Fault PartialFile::Lock()
 
 PartialFile::Fault PartialFile::OpenWriter()
 {
-    m_writer = OpenAt(m_folder, m_place.name, O_WRONLY);
+    m_writer = OpenFileAt(m_folder, m_place.name, O_WRONLY);
     struct stat reader
     {
     };
@@ -303,9 +311,33 @@ PartialFile::Fault PartialFile::CheckRoom()
     return free < needed ? Fault(MakeRoomError(ErrorCause::DownloadNoRoom, needed, free)) : std::nullopt;
 }
 
+void PartialFile::RemoveAbandoned()
+{
+    QDir const folder(QFile::decodeName(m_place.folder.c_str()));
+    std::time_t const now = std::time(nullptr);
+    for (QString const& name : folder.entryList({QStringLiteral("*.archive")}, QDir::Files))
+    {
+        std::string const other = QFile::encodeName(name).toStdString();
+        if (other.size() != m_place.name.size() || other == m_place.name)
+        {
+            continue;
+        }
+        UniqueFd const file = OpenFileAt(m_folder, other, O_RDONLY);
+        struct stat status
+        {
+        };
+        bool const isOld =
+            file && fstat(file.Get(), &status) == 0 && IsOurs(status) && now - status.st_mtime > ABANDONED_SECONDS;
+        if (isOld && Retried([&file] { return flock(file.Get(), LOCK_EX | LOCK_NB); }) == 0)
+        {
+            RemoveNames(m_folder, other);
+        }
+    }
+}
+
 std::optional<PartialRecord> PartialFile::ReadRecord() const
 {
-    UniqueFd const file = OpenAt(m_folder, m_place.name + RECORD_ENDING, O_RDONLY);
+    UniqueFd const file = OpenFileAt(m_folder, m_place.name + RECORD_ENDING, O_RDONLY);
     struct stat status
     {
     };
@@ -374,7 +406,7 @@ PartialFile::Fault PartialFile::StageRecord()
 {
     std::string const name = m_place.name + STAGED_ENDING;
     unlinkat(m_folder.Get(), name.c_str(), 0);
-    m_staged = OpenAt(m_folder, name, O_WRONLY | O_CREAT | O_EXCL);
+    m_staged = OpenFileAt(m_folder, name, O_WRONLY | O_CREAT | O_EXCL);
     std::string const bytes = EncodePartialRecord(m_record);
     Bytes const all(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size());
     return m_staged && WriteAll(m_staged.Get(), all) ? std::nullopt : Fault(FailedWrite(errno));
@@ -458,7 +490,7 @@ EngineError PartialFile::FailedWrite(int errorNumber)
 
 void RemovePartialFile(PartialPlace const& place)
 {
-    if (UniqueFd const folder = OpenFolderAt(place.folder))
+    if (UniqueFd const folder = OpenFolderNamed(place.folder))
     {
         RemoveNames(folder, place.name);
     }

@@ -67,6 +67,8 @@ private:
     Fault OpenWriter();
     Fault MakeWay();
     Fault CheckRoom();
+    /// Removes what other downloads left here long ago and nobody has open: of versions that nobody wants any more.
+    void RemoveAbandoned();
     std::optional<PartialRecord> ReadRecord() const;
     Fault Record();
     EngineError RoomError(int errorNumber) const;

@@ -49,30 +49,11 @@ bool IsStrongDate(QByteArray const& lastModified, QByteArray const& answered)
     return modification.isValid() && answer.isValid() && modification.secsTo(answer) >= 1;
 }
 
-std::optional<quint64> ParseNumber(QByteArray const& digits)
+/// The only description of the rest of \a partial that is understood.
+QByteArray RangeOfRest(PartialArchive const& partial)
 {
-    bool const isDigits =
-        !digits.isEmpty() &&
-        std::all_of(digits.begin(), digits.end(), [](char character) { return character >= '0' && character <= '9'; });
-    bool isNumber = false;
-    quint64 const number = isDigits ? digits.toULongLong(&isNumber) : 0;
-    return isNumber ? std::optional(number) : std::nullopt;
-}
-
-/// True for "bytes FIRST-LAST/TOTAL" and nothing else: the rest of \a partial.
-bool IsRangeOfRest(QByteArray const& contentRange, PartialArchive const& partial)
-{
-    constexpr char UNIT[] = "bytes ";
-    int const dash = contentRange.indexOf('-');
-    int const slash = contentRange.indexOf('/');
-    int const first = static_cast<int>(sizeof UNIT) - 1;
-    if (!contentRange.toLower().startsWith(UNIT) || dash < first || slash < dash)
-    {
-        return false;
-    }
-    return ParseNumber(contentRange.mid(first, dash - first)) == partial.bytes &&
-           ParseNumber(contentRange.mid(dash + 1, slash - dash - 1)) == partial.declaredBytes - 1 &&
-           ParseNumber(contentRange.mid(slash + 1)) == partial.declaredBytes;
+    return "bytes " + QByteArray::number(partial.bytes) + '-' + QByteArray::number(partial.declaredBytes - 1) + '/' +
+           QByteArray::number(partial.declaredBytes);
 }
 
 /// Why a body cannot have \a bytes; nothing when it can.
@@ -94,7 +75,8 @@ bool IsRestOf(PartialArchive const& partial, HttpHead const& head)
     QByteArray const& asked = PreferredValidator(partial.validators);
     QByteArray const name = partial.validators.entityTag.isEmpty() ? "last-modified" : "etag";
     bool const isMultipart = OnlyValue(head, "content-type").toLower().startsWith("multipart/");
-    return !isMultipart && OnlyValue(head, name) == asked && IsRangeOfRest(OnlyValue(head, "content-range"), partial);
+    return !isMultipart && OnlyValue(head, name) == asked &&
+           OnlyValue(head, "content-range").toLower() == RangeOfRest(partial);
 }
 
 ResumeDecision Refuse(ErrorCause cause)

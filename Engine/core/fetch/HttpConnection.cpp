@@ -13,7 +13,7 @@ namespace
 constexpr int SAMPLES_IN_WINDOW = 20;
 constexpr qint64 READ_BYTES = 64 * 1024;
 /// Of a socket that fills a sink: enough to keep the reader busy while the next bytes arrive.
-constexpr qint64 SINK_BUFFER_BYTES = 1024 * 1024;
+constexpr qint64 SINK_BUFFER_BYTES = 512 * 1024;
 /// Read in one go before the event loop has its turn again.
 constexpr qint64 PASS_BYTES = 256 * 1024;
 

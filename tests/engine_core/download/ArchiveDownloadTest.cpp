@@ -5,6 +5,8 @@
 
 #include <QProcess>
 
+#include <set>
+
 #include <fcntl.h>
 #include <sys/file.h>
 
@@ -159,6 +161,30 @@ TEST_F(ArchiveDownloadTest, ErrorsSpeakOfTheUpdateAndNotOfTheFeed)
         EXPECT_EQ(result.cause, row.cause);
         EXPECT_FALSE(result.error.sentence.contains(QLatin1String("feed"))) << result.error.sentence.toStdString();
         EXPECT_FALSE(result.error.sentence.contains(QLatin1Char('%'))) << result.error.sentence.toStdString();
+    }
+}
+
+TEST(DownloadErrors, EachHasASentenceOfItsOwn)
+{
+    std::set<QString> sentences{MakeError(static_cast<ErrorCause>(999)).sentence};
+    int causes = 0;
+    for (int number = 900; number < 950; ++number)
+    {
+        EngineError const error = MakeError(static_cast<ErrorCause>(number));
+        bool const isCause = sentences.insert(error.sentence).second;
+        causes += isCause ? 1 : 0;
+        EXPECT_EQ(error.code, ErrorCode::Download);
+        EXPECT_EQ(error.UnderlyingCode(), number);
+    }
+    EXPECT_EQ(causes, 11);
+    for (int number = 100; number < 900; ++number)
+    {
+        EngineError const error = MakeError(static_cast<ErrorCause>(number));
+        EngineError const download = AsDownloadError(error);
+        EXPECT_EQ(download.code, ErrorCode::Download);
+        EXPECT_EQ(download.cause, error.cause);
+        bool const isReworded = download.sentence != error.sentence;
+        EXPECT_EQ(isReworded, isReworded && sentences.insert(download.sentence).second) << number;
     }
 }
 

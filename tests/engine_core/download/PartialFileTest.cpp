@@ -336,6 +336,35 @@ TEST_F(PartialFileTest, DiskWithoutRoomIsRefusedBeforeAnythingComes)
     EXPECT_FALSE(fault->sentence.contains(QLatin1Char('%'))) << fault->sentence.toStdString();
 }
 
+TEST_F(PartialFileTest, WhatWasLeftLongAgoGoesUnlessItIsInUse)
+{
+    auto const placeOf = [this](char const* signature)
+    { return PlaceOf(folder, QUrl(QStringLiteral("https://a.example/x.zip")), 100, QString::fromLatin1(signature)); };
+    PartialFile used(placeOf("used"));
+    ASSERT_EQ(CauseOf(used.Open()), ErrorCause::NoUpdate);
+    for (char const* const signature : {"old", "recent"})
+    {
+        PartialFile file(placeOf(signature));
+        ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
+        ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+    }
+    std::string const document = Place().folder + "/document";
+    WriteText(document, "not a download");
+    timespec const longAgo[] = {{1, 0}, {1, 0}};
+    for (std::string const& path : {placeOf("used").folder + '/' + placeOf("used").name,
+                                    placeOf("old").folder + '/' + placeOf("old").name, document})
+    {
+        ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), longAgo, 0), 0);
+    }
+    LeavePart("part");
+    QDir const left(folder);
+    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("used").name)));
+    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("recent").name)));
+    EXPECT_TRUE(left.exists(QStringLiteral("document")));
+    EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("old").name)));
+    EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("old").name + ".record")));
+}
+
 TEST_F(PartialFileTest, RemovedFilesLeaveNothing)
 {
     LeavePart("part");

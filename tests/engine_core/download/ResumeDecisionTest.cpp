@@ -105,6 +105,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"OfAFileOfUnknownLength", PART, Range("bytes 40-99/*"), ResumeStep::AskWhole},
         Row{"InOtherUnits", PART, Range("items 40-99/100"), ResumeStep::AskWhole},
         Row{"WithANumberThatDoesNotFit", PART, Range("bytes 18446744073709551656-99/100"), ResumeStep::AskWhole},
+        Row{"WithALeadingZero", PART, Range("bytes 040-99/100"), ResumeStep::AskWhole},
         Row{"WithASign", PART, Range("bytes +40-99/100"), ResumeStep::AskWhole},
         Row{"WithoutRange", PART, "206 Partial\nETag: \"v1\"", ResumeStep::AskWhole},
         Row{"WithTwoRanges", PART, Range("bytes 40-99/100", "\nContent-Range: bytes 0-99/100\nETag: \"v1\""),

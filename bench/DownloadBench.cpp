@@ -1,0 +1,210 @@
+// DownloadBench.cpp: an archive from a server of this computer to a file, beside the program curl, which does the same
+// with the same server; and how much memory it takes. Wall-clock times. The files go to the folder for temporary files:
+// TMPDIR says on which disk it is.
+
+#include "Engine/core/download/ArchiveDownload.h"
+#include "bench/DownloadServer.h"
+#include "bench/Ratios.h"
+
+#include <benchmark/benchmark.h>
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QProcess>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using Pelnar::Bench::DownloadServer;
+using Pelnar::Bench::Transport;
+
+constexpr quint64 ARCHIVE_BYTES = quint64{256} << 20;
+constexpr double MOST_GROWTH_MEBIBYTES = 4;
+
+/// One for the whole run, with everything that the measured parts need.
+struct Scene
+{
+    Scene()
+    {
+        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
+        configuration.setCaCertificates(QSslCertificate::fromPath(server.AuthorityFile()));
+        QSslConfiguration::setDefaultConfiguration(configuration);
+    }
+
+    DownloadServer server{ARCHIVE_BYTES};
+    int argumentCount = 1;
+    char name[6] = "bench";
+    char* arguments[2] = {name, nullptr};
+    QCoreApplication application{argumentCount, arguments};
+    QTemporaryDir folder;
+};
+
+Scene& TheScene()
+{
+    static Scene scene;
+    return scene;
+}
+
+double MebibytesOf(char const* field)
+{
+    QFile file(QStringLiteral("/proc/self/status"));
+    if (!file.open(QIODevice::ReadOnly))
+    {
+        return 0;
+    }
+    QByteArray const status = file.readAll();
+    int const start = status.indexOf(field);
+    return status.mid(start + static_cast<int>(qstrlen(field)), 20).trimmed().split(' ').front().toDouble() / 1024;
+}
+
+void ForgetPeak()
+{
+    QFile file(QStringLiteral("/proc/self/clear_refs"));
+    if (file.open(QIODevice::WriteOnly))
+    {
+        file.write("5");
+    }
+}
+
+DownloadRequest RequestFor(Transport transport)
+{
+    DownloadRequest request;
+    request.url = TheScene().server.Url(transport);
+    request.declaredBytes = ARCHIVE_BYTES;
+    request.folder = TheScene().folder.filePath(QStringLiteral("updates"));
+    return request;
+}
+
+/// The longest time that the event loop was away from a timer that is always due.
+class StallMeter
+{
+public:
+    StallMeter()
+    {
+        m_timer.setTimerType(Qt::PreciseTimer);
+        QObject::connect(&m_timer, &QTimer::timeout,
+                         [this] { m_longest = std::max(m_longest, m_clock.nsecsElapsed()), m_clock.restart(); });
+        m_clock.start();
+        m_timer.start(1);
+    }
+
+    double LongestMilliseconds() const { return static_cast<double>(m_longest) / 1e6; }
+
+private:
+    QTimer m_timer;
+    QElapsedTimer m_clock;
+    qint64 m_longest = 0;
+};
+
+DownloadOutcome RunDownload(DownloadRequest const& request)
+{
+    QEventLoop loop;
+    DownloadOutcome outcome;
+    ArchiveDownload download(request);
+    download.Start([](DownloadProgress const&) {},
+                   [&](DownloadOutcome told)
+                   {
+                       outcome = std::move(told);
+                       loop.quit();
+                   });
+    loop.exec();
+    return outcome;
+}
+
+/// An application that downloads has fetched the feed before: what the first connection loads is no part of a download.
+void ConnectOnce(DownloadRequest request)
+{
+    request.declaredBytes = 1;
+    RunDownload(request);
+}
+
+void Download(benchmark::State& state, Transport transport)
+{
+    DownloadRequest const request = RequestFor(transport);
+    ConnectOnce(request);
+    double growth = 0;
+    double stall = 0;
+    for (auto _ : state)
+    {
+        (void)_;
+        ForgetPeak();
+        double const before = MebibytesOf("VmRSS:");
+        StallMeter const meter;
+        QElapsedTimer clock;
+        clock.start();
+        DownloadOutcome const outcome = RunDownload(request);
+        state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
+        growth = std::max(growth, MebibytesOf("VmHWM:") - before);
+        stall = std::max(stall, meter.LongestMilliseconds());
+        ArchiveDownload::Discard(request);
+        if (outcome.error)
+        {
+            state.SkipWithError(qPrintable(outcome.error->sentence));
+            return;
+        }
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<qint64>(ARCHIVE_BYTES));
+    state.counters["growth_MiB"] = growth;
+    state.counters["stall_ms"] = stall;
+    if (growth > MOST_GROWTH_MEBIBYTES)
+    {
+        state.SkipWithError("the download takes more than 4 MiB of memory");
+    }
+}
+
+void DownloadByCurl(benchmark::State& state, Transport transport)
+{
+    QString const file = TheScene().folder.filePath(QStringLiteral("curl"));
+    QStringList const arguments{QStringLiteral("--silent"),
+                                QStringLiteral("--fail"),
+                                QStringLiteral("--cacert"),
+                                TheScene().server.AuthorityFile(),
+                                QStringLiteral("--http1.1"),
+                                QStringLiteral("--output"),
+                                file,
+                                TheScene().server.Url(transport).toString()};
+    for (auto _ : state)
+    {
+        (void)_;
+        QElapsedTimer clock;
+        clock.start();
+        int const status = QProcess::execute(QStringLiteral("curl"), arguments);
+        state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
+        bool const isWhole = QFile(file).size() == static_cast<qint64>(ARCHIVE_BYTES);
+        QFile::remove(file);
+        if (status != 0 || !isWhole)
+        {
+            state.SkipWithError("curl did not bring the archive");
+            return;
+        }
+    }
+    state.SetBytesProcessed(state.iterations() * static_cast<qint64>(ARCHIVE_BYTES));
+}
+
+BENCHMARK_CAPTURE(Download, http, Transport::Plain)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DownloadByCurl, http, Transport::Plain)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(Download, https, Transport::Secure)->UseManualTime()->Iterations(1)->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(DownloadByCurl, https, Transport::Secure)
+    ->UseManualTime()
+    ->Iterations(1)
+    ->Unit(benchmark::kMillisecond);
+
+Pelnar::Bench::StatedRatio const PLAIN_RATIO("Download/http/iterations:1/manual_time",
+                                             "DownloadByCurl/http/iterations:1/manual_time", 1 / 1.5);
+Pelnar::Bench::StatedRatio const SECURE_RATIO("Download/https/iterations:1/manual_time",
+                                              "DownloadByCurl/https/iterations:1/manual_time", 1 / 0.5);
+
+} // namespace

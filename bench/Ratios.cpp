@@ -45,11 +45,10 @@ public:
             }
             else if (run.run_type == Run::RT_Iteration)
             {
-                // What waits for another process states its times itself.
-                bool const isWallClock = !run.run_name.time_type.empty();
-                m_nanoseconds[run.run_name.str()].push_back(
-                    1e9 * (isWallClock ? run.real_accumulated_time : run.cpu_accumulated_time) /
-                    static_cast<double>(run.iterations));
+                // A benchmark that times itself waits for a disk or for other processes.
+                bool const isTimedByItself = run.run_name.time_type == "manual_time";
+                double const seconds = isTimedByItself ? run.real_accumulated_time : run.cpu_accumulated_time;
+                m_nanoseconds[run.run_name.str()].push_back(1e9 * seconds / static_cast<double>(run.iterations));
             }
             else if (run.aggregate_name == "median" || run.aggregate_name == "cv")
             {

@@ -8,7 +8,7 @@ namespace Pelnar::Bench
 {
 
 /// States, at load time, that the benchmark \a subject takes at most \a limit times the processor time of the
-/// benchmark \a peer; their wall-clock time where they measure it themselves. Both are named as the benchmark library
+/// benchmark \a peer; where the two time themselves (UseManualTime), that time. Both are named as the benchmark library
 /// names them, arguments included ("Choose/1000"). The main function prints the ratio of the medians of interleaved
 /// repetitions and answers with 1 when a limit is missed.
 class StatedRatio

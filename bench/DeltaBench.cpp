@@ -1,0 +1,146 @@
+// DeltaBench.cpp: a delta applied, beside bspatch with patches of the same files one by one. The sizes of both are
+// printed and not held to a limit: how the edits of a made-up version compress says little of real ones.
+
+#include "Engine/core/delta/DeltaApplier.h"
+#include "Engine/core/delta/DeltaMaker.h"
+#include "Engine/core/delta/TreeAccess.h"
+#include "bench/PayloadFixture.h"
+#include "bench/Ratios.h"
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <link.h>
+
+namespace
+{
+
+using namespace Pelnar::Bench;
+using namespace Pelnar::Engine;
+
+constexpr std::uintmax_t LARGEST_LIBRARY = 6u << 20;
+
+/// The shared libraries of this process, all but the largest.
+std::vector<std::string> Libraries()
+{
+    std::vector<std::string> paths;
+    auto const add = [](dl_phdr_info* info, std::size_t, void* data)
+    {
+        std::string const path = info->dlpi_name;
+        bool const isFile = !path.empty() && path[0] == '/' && std::filesystem::file_size(path) < LARGEST_LIBRARY;
+        if (isFile)
+        {
+            static_cast<std::vector<std::string>*>(data)->push_back(path);
+        }
+        return 0;
+    };
+    ::dl_iterate_phdr(add, &paths);
+    return paths;
+}
+
+/// Two versions, the delta between them, and the peer's patches.
+struct Material
+{
+    Material()
+    {
+        for (std::string const& library : Libraries())
+        {
+            std::string const name = std::filesystem::path(library).filename();
+            std::string const content = ReadFile(library);
+            WriteFile(old + '/' + name, content);
+            WriteFile(next + '/' + name, NextVersionOf(content, static_cast<std::uint32_t>(names.size())));
+            names.push_back(name);
+            arePatchesMade = Run({"bsdiff", old + '/' + name, next + '/' + name, patches + name}) && arePatchesMade;
+            patchBytes += std::filesystem::exists(patches + name) ? std::filesystem::file_size(patches + name) : 0;
+        }
+        UniqueFd const container(::open(delta.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        report = MakeDelta(old, "1", next, "2", container.Get());
+    }
+
+    std::string const old = FreshPath("old");
+    std::string const next = FreshPath("next");
+    std::string const patches = FreshPath("patch");
+    std::string const delta = FreshPath("delta");
+    std::vector<std::string> names;
+    bool arePatchesMade = true;
+    std::uintmax_t patchBytes = 0;
+    DeltaReport report;
+};
+
+Material const& TheMaterial()
+{
+    static Material const material;
+    return material;
+}
+
+bool IsNext(std::string const& folder)
+{
+    for (std::string const& name : TheMaterial().names)
+    {
+        if (ReadFile(folder + '/' + name) != ReadFile(TheMaterial().next + '/' + name))
+        {
+            return false;
+        }
+    }
+    return true;
+}
+
+template <typename ApplyInto>
+void TimeApplying(benchmark::State& state, ApplyInto const& applyInto)
+{
+    Material const& material = TheMaterial();
+    state.counters["bytes"] = static_cast<double>(material.report.containerBytes);
+    state.counters["patches' bytes"] = static_cast<double>(material.patchBytes);
+    if (!material.arePatchesMade || !material.report.outcome.HasSucceeded())
+    {
+        state.SkipWithError("the delta or a patch cannot be made");
+    }
+    for (auto _ : state)
+    {
+        std::string const folder = FreshPath("applied");
+        std::filesystem::create_directory(folder);
+        state.SetIterationTime(SecondsOf([&] { applyInto(folder); }));
+        if (!IsNext(folder))
+        {
+            state.SkipWithError("what came out is not the next version");
+        }
+    }
+}
+
+void ApplyTheDelta(benchmark::State& state)
+{
+    TimeApplying(state,
+                 [](std::string const& folder)
+                 {
+                     Material const& material = TheMaterial();
+                     UniqueFd const container(::open(material.delta.c_str(), O_RDONLY | O_CLOEXEC));
+                     UniqueFd const old(::open(material.old.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+                     UniqueFd const staging(::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+                     benchmark::DoNotOptimize(ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {}).error);
+                 });
+}
+BENCHMARK(ApplyTheDelta)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
+
+void ApplyThePatches(benchmark::State& state)
+{
+    TimeApplying(state,
+                 [](std::string const& folder)
+                 {
+                     Material const& material = TheMaterial();
+                     for (std::string const& name : material.names)
+                     {
+                         benchmark::DoNotOptimize(
+                             Run({"bspatch", material.old + '/' + name, folder + '/' + name, material.patches + name}));
+                     }
+                 });
+}
+BENCHMARK(ApplyThePatches)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
+
+StatedRatio const APPLY_RATIO("ApplyTheDelta/iterations:1/manual_time", "ApplyThePatches/iterations:1/manual_time",
+                              0.25);
+
+} // namespace

@@ -106,7 +106,7 @@ std::string NextVersionOf(std::string const& program, std::uint32_t seed)
     for (std::size_t at = 0; at < program.size(); at += BLOCK_BYTES)
     {
         std::string block = program.substr(at, BLOCK_BYTES);
-        if (random() % 64 == 0)
+        if (random() % 6 == 0)
         {
             std::size_t const from = random() % (program.size() - BLOCK_BYTES);
             std::string const added = program.substr(from, 16 * (1 + random() % 20)); // as all code looks
@@ -116,11 +116,11 @@ std::string NextVersionOf(std::string const& program, std::uint32_t seed)
         for (std::size_t i = 0; i + CALL_BYTES <= block.size(); ++i)
         {
             bool const isNearCall = block[i] == '\xe8' && (block[i + 4] == '\0' || block[i + 4] == '\xff');
-            if (isNearCall && random() % 3 == 0) // one that leads over some of the new code
+            if (isNearCall && random() % 4 != 0) // one that leads over some of the new code
             {
                 std::uint32_t distance = 0;
                 std::memcpy(&distance, &block[i + 1], sizeof distance);
-                distance += moved;
+                distance += moved + 16 * (random() % 64);
                 std::memcpy(&block[i + 1], &distance, sizeof distance);
             }
         }

@@ -32,7 +32,8 @@ void CheckPatch(Bytes bytes)
 {
     constexpr std::uint64_t NEW_BYTES = 100000;
     ByteBuffer const oldBytes(1000, 7);
-    ByteSource const control = [rest = bytes](std::uint8_t* target, std::size_t size) mutable {
+    ByteSource const control = [rest = bytes](std::uint8_t* target, std::size_t size) mutable
+    {
         if (size > rest.size())
         {
             return false;
@@ -41,13 +42,16 @@ void CheckPatch(Bytes bytes)
         rest.remove_prefix(size);
         return true;
     };
-    ByteSource const endless = [](std::uint8_t* target, std::size_t size) {
+    ByteSource const endless = [](std::uint8_t* target, std::size_t size)
+    {
         std::fill_n(target, size, std::uint8_t(1));
         return true;
     };
     std::uint64_t made = 0;
     PatchVerdict const verdict = ApplyBinaryPatch(Bytes(oldBytes.data(), oldBytes.size()), bytes.size() / 24 * 24,
-                                                  control, endless, endless, NEW_BYTES, [&made](Bytes piece) {
+                                                  control, endless, endless, NEW_BYTES,
+                                                  [&made](Bytes piece)
+                                                  {
                                                       made += piece.size();
                                                       return true;
                                                   });

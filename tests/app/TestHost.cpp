@@ -2,6 +2,7 @@
 
 #include "HostFramework/SpontaneousDialog.h"
 #include "HostFramework/VersionText.h"
+#include "tests/app/UpdateManagerTestAccess.h"
 
 namespace Pelnar::Util
 {
@@ -167,6 +168,12 @@ void HostTest::Start(App::UpdateCheckMode mode)
         initializer.gateway = gateway;
     }
     App::UpdateManager::CheckForUpdates(initializer);
+}
+
+void HostTest::Report(App::UpdateCheckResult result)
+{
+    session.contexts.back()->remoteVersion = Core::Version(6, 0);
+    Q_EMIT App::UpdateManagerTestAccess::Updater().NotifyCheckFinished(result);
 }
 
 void HostTest::Check(App::UpdateCheckMode mode, Core::Version const& remote)

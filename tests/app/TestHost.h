@@ -3,6 +3,7 @@
 #pragma once
 
 #include "App/UpdateChecker/IUpdateManagerObserver.h"
+#include "App/UpdateChecker/UpdateCheckResult.h"
 #include "App/UpdateChecker/UpdateManager.h"
 #include "HostFramework/Application.h"
 #include "HostFramework/ICustomizationManager.h"
@@ -135,6 +136,8 @@ protected:
 
     /// Starts a check in \a mode with `observer` (and the gateway, when it is set).
     void Start(App::UpdateCheckMode mode);
+    /// The back end of the running check reports \a result, with 6.0 as the version that it offers.
+    void Report(App::UpdateCheckResult result);
     /// Starts a check, ends it with \a remote and lets the result arrive.
     void Check(App::UpdateCheckMode mode, Core::Version const& remote);
 

@@ -2,10 +2,6 @@
 #include "tests/app/TestHost.h"
 #include "tests/app/UpdateManagerTestAccess.h"
 
-#include <QPointer>
-
-#include <stdexcept>
-
 namespace
 {
 
@@ -88,13 +84,6 @@ Row const ROWS[] = {
     {"SilentForeignResult", SILENT, FOREIGN, AVAILABLE, &NOTHING, STAYS},
 };
 
-/// The back end of the running check reports \a result, with 6.0 as the version that it offers.
-void Report(ScriptedSession& session, UpdateCheckResult result)
-{
-    session.contexts.back()->remoteVersion = Version(6, 0);
-    Q_EMIT UpdateManagerTestAccess::Updater().NotifyCheckFinished(result);
-}
-
 class UpdateFlowTable : public HostTest, public ::testing::WithParamInterface<Row>
 {
 };
@@ -104,7 +93,7 @@ TEST_P(UpdateFlowTable, ResultLeadsTo)
     Row const& row = GetParam();
     application.nagScreenManager->state = row.nagState;
     Start(row.mode);
-    Report(session, row.result);
+    Report(row.result);
     EXPECT_EQ(journal, *row.expected);
     EXPECT_NE(Current(), nullptr) << "a deletion is deferred";
     Turn();
@@ -122,7 +111,7 @@ protected:
     {
         application.nagScreenManager->state = UNKNOWN;
         Start(mode);
-        Report(session, MAJOR);
+        Report(MAJOR);
         journal.clear();
     }
     void Announce(char const* name, bool available)
@@ -172,7 +161,7 @@ TEST_F(UpdateFlow, VersionsAreReadWhenTheDialogRuns)
     auto const deferring = std::make_shared<DeferringGateway>();
     gateway = deferring;
     Start(AUTOMATIC);
-    Report(session, UPDATE);
+    Report(UPDATE);
     application.customizationManager->version = Version(5, 95);
     session.contexts.back()->remoteVersion = Version(6, 1);
     deferring->RunOne();
@@ -261,16 +250,6 @@ TEST_F(UpdateFlow, StuckFlowBlocksFurtherChecksUntilItsParentIsGone)
     EXPECT_EQ(session.Count("LockUpdater"), 2);
 }
 
-TEST_F(UpdateFlow, NagThatThrowsReachesTheReporterAndTheManagerStays)
-{
-    application.nagScreenManager->state = AVAILABLE;
-    application.nagScreenManager->onShow = [] { throw std::runtime_error("nag"); };
-    Start(AUTOMATIC);
-    EXPECT_THROW(Report(session, MAJOR), std::runtime_error);
-    Turn();
-    EXPECT_NE(Current(), nullptr);
-}
-
 // The gateway.
 
 TEST_F(UpdateFlow, ProposedActionHasItsIdAndIsNeverCancelled)
@@ -278,7 +257,7 @@ TEST_F(UpdateFlow, ProposedActionHasItsIdAndIsNeverCancelled)
     auto const deferring = std::make_shared<DeferringGateway>();
     gateway = deferring;
     Start(AUTOMATIC);
-    Report(session, UPDATE);
+    Report(UPDATE);
     ASSERT_EQ(deferring->actions.size(), 1u);
     EXPECT_EQ(deferring->actions[0].id, "REQUEST_CHECK_AUTO_UPDATE");
     EXPECT_EQ(journal, NOTHING);
@@ -325,96 +304,6 @@ TEST_F(UpdateFlow, LateActionOfAnEarlierCheckLeavesTheCurrentOneAlone)
     Turn();
     EXPECT_EQ(journal, NOTHING);
     EXPECT_EQ(Current(), second);
-}
-
-class ThrowingGateway : public Pelnar::ExternalStimulus::IGateway
-{
-public:
-    void ProposeAction(Pelnar::ExternalStimulus::Action const&) override { throw std::runtime_error("gateway"); }
-    void CancelActions(std::string const&) override {}
-};
-
-TEST_F(UpdateFlow, GatewayThatThrowsReachesTheReporterAndTheManagerStays)
-{
-    gateway = std::make_shared<ThrowingGateway>();
-    Start(AUTOMATIC);
-    EXPECT_THROW(Report(session, UPDATE), std::runtime_error);
-    Turn();
-    EXPECT_EQ(journal, NOTHING);
-    EXPECT_NE(Current(), nullptr);
-}
-
-// Exceptions out of the dialog callback.
-
-struct ThrowingStep
-{
-    char const* name;
-    std::function<void()> RecordingObserver::*hook; ///< null: the back end throws
-    Journal expected;
-};
-
-std::ostream& operator<<(std::ostream& out, ThrowingStep const& row)
-{
-    return out << row.name;
-}
-
-class UpdateFlowException : public HostTest, public ::testing::WithParamInterface<ThrowingStep>
-{
-};
-
-TEST_P(UpdateFlowException, ReachesTheGatewayAndTheDeletionIsScheduled)
-{
-    ThrowingStep const& step = GetParam();
-    auto const deferring = std::make_shared<DeferringGateway>();
-    gateway = deferring;
-    auto const raise = [] { throw std::runtime_error("step"); };
-    if (step.hook)
-    {
-        observer.*step.hook = raise;
-    }
-    else
-    {
-        session.onShowDialog = raise;
-    }
-    RecordingObserver second(journal, "second ");
-    Start(AUTOMATIC);
-    Current()->RegisterObserver(&second);
-    Report(session, UPDATE);
-    EXPECT_THROW(deferring->RunOne(), std::runtime_error);
-    EXPECT_EQ(journal, step.expected);
-    EXPECT_NE(Current(), nullptr);
-    Turn();
-    EXPECT_EQ(Current(), nullptr);
-    EXPECT_EQ(journal, step.expected);
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Every, UpdateFlowException,
-    ::testing::Values(
-        ThrowingStep{"Found", &RecordingObserver::onFound, {"found 5.9 6.0"}},
-        ThrowingStep{"Opening", &RecordingObserver::onOpening, {"found 5.9 6.0", "second found 5.9 6.0", "opening"}},
-        ThrowingStep{"BackEnd", nullptr, {"found 5.9 6.0", "second found 5.9 6.0", "opening", "second opening"}},
-        ThrowingStep{"Closed",
-                     &RecordingObserver::onClosed,
-                     {"found 5.9 6.0", "second found 5.9 6.0", "opening", "second opening", "dialog", "closed"}}),
-    [](auto const& info) { return info.param.name; });
-
-TEST_F(UpdateFlow, ExceptionThroughTheDefaultGatewayReachesTheReporter)
-{
-    observer.onOpening = [] { throw std::runtime_error("observer"); };
-    Start(AUTOMATIC);
-    EXPECT_THROW(Report(session, UPDATE), std::runtime_error);
-    Turn();
-    EXPECT_EQ(Current(), nullptr);
-}
-
-TEST_F(UpdateFlow, ExceptionOfAcceptedReachesTheBackEndAndEndsNothing)
-{
-    observer.onAccepted = [] { throw std::runtime_error("observer"); };
-    Start(AUTOMATIC);
-    EXPECT_THROW(Q_EMIT UpdateManagerTestAccess::Updater().NotifyUserAcceptUpdate(), std::runtime_error);
-    Turn();
-    EXPECT_NE(Current(), nullptr);
 }
 
 // The dialog.
@@ -491,7 +380,7 @@ TEST_F(UpdateFlow, ObserverThatUnregistersItselfIsNotCalledInLaterPasses)
     observer.onFound = [this] { Current()->UnregisterObserver(&observer); };
     Start(AUTOMATIC);
     Current()->RegisterObserver(&second);
-    Report(session, UPDATE);
+    Report(UPDATE);
     EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "second found 5.9 6.0", "second opening", "dialog", "second closed"}));
     Turn();
 }
@@ -501,7 +390,7 @@ TEST_F(UpdateFlow, ObserverAddedInANotificationHearsTheNextOne)
     RecordingObserver added(journal, "added ");
     observer.onFound = [&] { Current()->RegisterObserver(&added); };
     Start(AUTOMATIC);
-    Report(session, UPDATE);
+    Report(UPDATE);
     EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "opening", "added opening", "dialog", "closed", "added closed"}));
     Turn();
 }
@@ -509,64 +398,11 @@ TEST_F(UpdateFlow, ObserverAddedInANotificationHearsTheNextOne)
 TEST_F(UpdateFlow, SecondResultBeforeTheDeletionRunsTheFlowAgain)
 {
     Start(SILENT);
-    Report(session, UPDATE);
-    Report(session, UPDATE);
+    Report(UPDATE);
+    Report(UPDATE);
     EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "found 5.9 6.0"}));
     Turn();
     EXPECT_EQ(Current(), nullptr);
-}
-
-// The manager's end at the hands of its Qt parent.
-
-TEST_F(UpdateFlow, ParentDestroyedWhileChecking)
-{
-    Start(AUTOMATIC);
-    session.FinishCheck(Version(6, 0));
-    parent.reset();
-    Turn();
-    EXPECT_EQ(Current(), nullptr);
-    EXPECT_EQ(journal, NOTHING) << "the pending result is dropped";
-    EXPECT_EQ(session.calls.back(), "UnlockUpdaterWhenPossible");
-}
-
-TEST_F(UpdateFlow, ParentDestroyedInsideTheDialog)
-{
-    session.onShowDialog = [this]
-    {
-        journal.emplace_back("dialog");
-        parent.reset();
-        EXPECT_EQ(Current(), nullptr);
-    };
-    Start(AUTOMATIC);
-    Report(session, UPDATE);
-    EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "opening", "dialog"})) << "nobody is left to hear of the closing";
-    Turn();
-    EXPECT_EQ(Current(), nullptr);
-}
-
-TEST_F(UpdateFlow, ParentDestroyedInsideADialogThatThrows)
-{
-    session.onShowDialog = [this]
-    {
-        parent.reset();
-        throw std::runtime_error("dialog");
-    };
-    auto const deferring = std::make_shared<DeferringGateway>();
-    gateway = deferring;
-    Start(AUTOMATIC);
-    Report(session, UPDATE);
-    EXPECT_THROW(deferring->RunOne(), std::runtime_error);
-    EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "opening"}));
-}
-
-TEST_F(UpdateFlow, ParentDestroyedAfterTheDeletionWasScheduled)
-{
-    Start(AUTOMATIC);
-    Report(session, UPDATE);
-    parent.reset();
-    EXPECT_EQ(Current(), nullptr);
-    Turn();
-    EXPECT_EQ(journal, DIALOG);
 }
 
 } // namespace

@@ -8,9 +8,7 @@
 
 using Pelnar::Foundation::Retained;
 using Pelnar::Foundation::ToNSString;
-using Pelnar::Foundation::ToNSURL;
 using Pelnar::Foundation::ToQString;
-using Pelnar::Foundation::ToQUrl;
 using Pelnar::Foundation::ToUtf8;
 
 // The older Objective-C runtime lays fields out in the class's own declaration only, so the doubles' fields stand in
@@ -60,36 +58,12 @@ struct ScriptedInvocation::Object
 namespace
 {
 
-NSString* Text(QString const& text) { return text.isNull() ? nil : ToNSString(text); }
-
 /// Keeps what it is given as long as the process.
 template <class T> T* Keep(std::unique_ptr<T> object)
 {
     static auto* const kept = new std::vector<std::unique_ptr<T>>();
     kept->push_back(std::move(object));
     return kept->back().get();
-}
-
-/// What a getter does before it answers.
-ItemProperties& Read(SUAppcastItem* item, char const* getter)
-{
-    ItemProperties& properties = static_cast<ScriptedItemObject*>(item)->m_object->properties;
-    ++properties.reads[getter];
-    auto const action = properties.onRead.find(getter);
-    if (action != properties.onRead.end())
-    {
-        action->second();
-    }
-    return properties;
-}
-
-id PropertyValue(QVariant const& value)
-{
-    if (value.type() == QVariant::String)
-    {
-        return ToNSString(value.toString());
-    }
-    return [NSNumber numberWithLongLong:value.toLongLong()];
 }
 
 NSError* MakeError(ScriptedError const& error)
@@ -103,9 +77,25 @@ SUUpdater* Shared() { return [SUUpdater sharedUpdater]; }
 
 } // namespace
 
+NSString* TextOrNil(QString const& text) { return text.isNull() ? nil : ToNSString(text); }
+
+ItemProperties& ReadProperties(SUAppcastItem* item, char const* getter)
+{
+    ItemProperties& properties = static_cast<ScriptedItemObject*>(item)->m_object->properties;
+    ++properties.reads[getter];
+    auto const action = properties.onRead.find(getter);
+    if (action != properties.onRead.end())
+    {
+        action->second();
+    }
+    return properties;
+}
+
+ScriptedAppcast const& ItemsOf(SUAppcast* appcast) { return *static_cast<ScriptedAppcastObject*>(appcast)->m_items; }
+
 void RaiseException(QString const& reason)
 {
-    @throw [NSException exceptionWithName:@"ScriptedException" reason:Text(reason) userInfo:nil];
+    @throw [NSException exceptionWithName:@"ScriptedException" reason:TextOrNil(reason) userInfo:nil];
 }
 
 UpdaterScript& Updater()
@@ -256,7 +246,7 @@ int Callbacks::CompareVersions(QString const& versionA, QString const& versionB)
     @autoreleasepool
     {
         id<SUVersionComparison> const comparator = [[Shared() delegate] versionComparatorForUpdater:Shared()];
-        return static_cast<int>([comparator compareVersion:Text(versionA) toVersion:Text(versionB)]);
+        return static_cast<int>([comparator compareVersion:TextOrNil(versionA) toVersion:TextOrNil(versionB)]);
     }
 }
 
@@ -300,11 +290,6 @@ QString UserDefaultsFolder()
 
 } // namespace Pelnar::Testing
 
-using Pelnar::Testing::Read;
-using Pelnar::Testing::StandardComparator;
-using Pelnar::Testing::Text;
-using Pelnar::Testing::Updater;
-
 @implementation ScriptedInstaller
 
 - (void)installWithRelaunch:(BOOL)relaunch userInterface:(BOOL)userInterface
@@ -318,258 +303,7 @@ using Pelnar::Testing::Updater;
 
 @end
 
-namespace
-{
-
-id<SUUpdaterDelegate> currentDelegate = nil;
-
-} // namespace
-
-@implementation SUUpdater
-
-+ (SUUpdater*)sharedUpdater
-{
-    static SUUpdater* const updater = [[SUUpdater alloc] init];
-    return updater;
-}
-
-- (id<SUUpdaterDelegate>)delegate
-{
-    return currentDelegate;
-}
-
-- (void)setDelegate:(id<SUUpdaterDelegate>)delegate
-{
-    Updater().calls.emplace_back(delegate ? "setDelegate:" : "setDelegate:nil");
-    Updater().hasDelegate = delegate != nil;
-    currentDelegate = delegate;
-}
-
-- (NSURL*)feedURL
-{
-    return ToNSURL(Updater().feedUrl);
-}
-
-- (void)setFeedURL:(NSURL*)feedURL
-{
-    Updater().calls.emplace_back(feedURL ? "setFeedURL:" : "setFeedURL:nil");
-    Updater().feedUrl = ToQUrl(feedURL);
-    if (Updater().onSetFeedUrl)
-    {
-        Updater().onSetFeedUrl();
-    }
-}
-
-- (BOOL)automaticallyChecksForUpdates
-{
-    return NO;
-}
-
-- (void)setAutomaticallyChecksForUpdates:(BOOL)automaticallyChecksForUpdates
-{
-    Updater().calls.emplace_back(automaticallyChecksForUpdates ? "setAutomaticallyChecksForUpdates:YES"
-                                                               : "setAutomaticallyChecksForUpdates:NO");
-}
-
-- (BOOL)sendsSystemProfile
-{
-    return NO;
-}
-
-- (void)setSendsSystemProfile:(BOOL)sendsSystemProfile
-{
-    Updater().calls.emplace_back(sendsSystemProfile ? "setSendsSystemProfile:YES" : "setSendsSystemProfile:NO");
-}
-
-- (BOOL)automaticallyDownloadsUpdates
-{
-    return Updater().automaticallyDownloadsUpdates;
-}
-
-- (void)setAutomaticallyDownloadsUpdates:(BOOL)automaticallyDownloadsUpdates
-{
-    Updater().calls.emplace_back(automaticallyDownloadsUpdates ? "setAutomaticallyDownloadsUpdates:YES"
-                                                               : "setAutomaticallyDownloadsUpdates:NO");
-    Updater().automaticallyDownloadsUpdates = automaticallyDownloadsUpdates;
-}
-
-- (BOOL)updateInProgress
-{
-    return Updater().updateInProgress;
-}
-
-- (void)runCheck:(char const*)selector
-{
-    Updater().calls.emplace_back(selector);
-    if (Updater().onCheck)
-    {
-        Updater().onCheck();
-    }
-}
-
-- (void)checkForUpdateInformation
-{
-    [self runCheck:"checkForUpdateInformation"];
-}
-
-- (void)checkForUpdatesInBackground
-{
-    [self runCheck:"checkForUpdatesInBackground"];
-}
-
-- (void)checkForUpdates:(id)sender
-{
-    [self runCheck:sender ? "checkForUpdates:sender" : "checkForUpdates:nil"];
-}
-
-@end
-
-@implementation SUStandardVersionComparator
-
-+ (SUStandardVersionComparator*)defaultComparator
-{
-    static SUStandardVersionComparator* const comparator = [[SUStandardVersionComparator alloc] init];
-    return comparator;
-}
-
-- (NSComparisonResult)compareVersion:(NSString*)versionA toVersion:(NSString*)versionB
-{
-    StandardComparator().compared.emplace_back(ToQString(versionA), ToQString(versionB));
-    return static_cast<NSComparisonResult>(StandardComparator().answer);
-}
-
-@end
-
-@implementation SUAppcast
-
-- (NSArray*)items
-{
-    Pelnar::Testing::ScriptedAppcast const& items = *static_cast<ScriptedAppcastObject*>(self)->m_items;
-    if (!items)
-    {
-        return nil;
-    }
-    NSMutableArray* const objects = [NSMutableArray array];
-    for (Pelnar::Testing::ScriptedItem const& item : *items)
-    {
-        [objects addObject:Pelnar::Testing::ObjectOf(item)];
-    }
-    return objects;
-}
-
-@end
-
 @implementation ScriptedAppcastObject
-@end
-
-@implementation SUAppcastItem
-
-- (NSString*)title
-{
-    return Text(Read(self, "title").title);
-}
-
-- (NSString*)dateString
-{
-    return Text(Read(self, "dateString").dateString);
-}
-
-- (NSString*)itemDescription
-{
-    return Text(Read(self, "itemDescription").itemDescription);
-}
-
-- (NSString*)itemDescriptionFormat
-{
-    return @"html";
-}
-
-- (NSString*)minimumSystemVersion
-{
-    return Text(Read(self, "minimumSystemVersion").minimumSystemVersion);
-}
-
-- (NSString*)maximumSystemVersion
-{
-    return Text(Read(self, "maximumSystemVersion").maximumSystemVersion);
-}
-
-- (NSURL*)releaseNotesURL
-{
-    return nil;
-}
-
-- (NSURL*)infoURL
-{
-    return nil;
-}
-
-- (NSURL*)fileURL
-{
-    QString const address = Read(self, "fileURL").fileUrl;
-    return address.isNull() ? nil : [NSURL URLWithString:ToNSString(address)];
-}
-
-- (uint64_t)contentLength
-{
-    return Read(self, "contentLength").contentLength;
-}
-
-- (NSString*)versionString
-{
-    return Text(Read(self, "versionString").versionString);
-}
-
-- (NSString*)displayVersionString
-{
-    return [self versionString];
-}
-
-- (NSString*)edSignature
-{
-    return nil;
-}
-
-- (NSDictionary*)deltaUpdates
-{
-    Pelnar::Testing::ItemProperties const& properties = Read(self, "deltaUpdates");
-    if (properties.deltas.empty())
-    {
-        return nil;
-    }
-    NSMutableDictionary* const deltas = [NSMutableDictionary dictionary];
-    for (auto const& [from, delta] : properties.deltas)
-    {
-        [deltas setObject:Pelnar::Testing::ObjectOf(delta) forKey:ToNSString(from)];
-    }
-    return deltas;
-}
-
-- (BOOL)isDeltaUpdate
-{
-    return Read(self, "isDeltaUpdate").isDelta;
-}
-
-- (BOOL)isCriticalUpdate
-{
-    return NO;
-}
-
-- (NSString*)installationType
-{
-    return @"application";
-}
-
-- (NSDictionary*)propertiesDictionary
-{
-    NSMutableDictionary* const dictionary = [NSMutableDictionary dictionary];
-    for (auto const& [name, value] : Read(self, "propertiesDictionary").properties)
-    {
-        [dictionary setObject:Pelnar::Testing::PropertyValue(value) forKey:ToNSString(name)];
-    }
-    return dictionary;
-}
-
 @end
 
 @implementation ScriptedItemObject

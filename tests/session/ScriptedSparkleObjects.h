@@ -16,6 +16,11 @@ namespace Pelnar::Testing
 SUAppcastItem* ObjectOf(ScriptedItem const& item);
 /// The item behind \a object; nothing for nil. REQUIRES: \a object came from a ScriptedItem.
 std::optional<ScriptedItem> ItemOf(SUAppcastItem* object);
+/// What the getter of that name reads, after it was counted and its action was run.
+ItemProperties& ReadProperties(SUAppcastItem* item, char const* getter);
+ScriptedAppcast const& ItemsOf(SUAppcast* appcast);
+/// Nil for a null text. Autoreleased.
+NSString* TextOrNil(QString const& text);
 /// Autoreleased.
 SUAppcast* MakeAppcast(ScriptedAppcast const& items);
 

@@ -144,6 +144,15 @@ QPushButton* EngineWindow::AddAnswer(QString const& objectName, QString const& t
     return button;
 }
 
+void EngineWindow::AddOnlyAnswer(std::function<void()> const& onGiven)
+{
+    QPushButton* const button =
+        AddAnswer(QStringLiteral("PelnarEngine_okButton"),
+                  QCoreApplication::translate("PelnarEngine_EngineWindow", "&OK"), ButtonPlace::End, onGiven);
+    SetDefaultAnswer(button, button);
+    SetDismissal(onGiven);
+}
+
 void EngineWindow::SetDismissal(std::function<void()> onDismissed)
 {
     m_onDismissed = std::move(onDismissed);

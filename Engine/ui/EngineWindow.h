@@ -51,6 +51,8 @@ protected:
     /// Buttons are added from the first to the last in reading direction; a click gives the answer \a onClicked.
     QPushButton* AddAnswer(QString const& objectName, QString const& text, ButtonPlace place,
                            std::function<void()> onClicked);
+    /// "OK", for a window that leaves no choice; Enter, Esc and the close button give it too.
+    void AddOnlyAnswer(std::function<void()> const& onGiven);
     /// The answer of Esc and of the close button.
     void SetDismissal(std::function<void()> onDismissed);
     /// The button that Enter presses in a window that a person asked for; otherwise \a quiet has the focus.

@@ -3,7 +3,6 @@
 #include "Engine/ui/ServerText.h"
 
 #include <QCoreApplication>
-#include <QPushButton>
 
 namespace Pelnar::Engine
 {
@@ -11,7 +10,6 @@ namespace Pelnar::Engine
 UpToDateWindow::UpToDateWindow(NamedVersion const& installed)
     : EngineWindow(QStringLiteral("PelnarEngine_upToDateWindow"), CheckOrigin::User)
 {
-    auto const close = [this] { Q_EMIT Closed(); };
     AddHeading(QStringLiteral("PelnarEngine_heading"),
                QCoreApplication::translate("PelnarEngine_UpToDateWindow", "You're up to date!"));
     AddText(QStringLiteral("PelnarEngine_detail"),
@@ -19,11 +17,7 @@ UpToDateWindow::UpToDateWindow(NamedVersion const& installed)
                                         "%1 %2 is currently the newest version available.",
                                         "%1 is the application's name, %2 its version")
                 .arg(ShownName(installed.applicationName), ShownVersion(installed.version)));
-    QPushButton* const button =
-        AddAnswer(QStringLiteral("PelnarEngine_okButton"),
-                  QCoreApplication::translate("PelnarEngine_EngineWindow", "&OK"), ButtonPlace::End, close);
-    SetDefaultAnswer(button, button);
-    SetDismissal(close);
+    AddOnlyAnswer([this] { Q_EMIT Closed(); });
 }
 
 } // namespace Pelnar::Engine

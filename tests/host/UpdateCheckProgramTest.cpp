@@ -181,6 +181,30 @@ TEST(CheckProgramOptions, VerboseWritesTheLogAtLevel30)
     EXPECT_NE(result.errors.find("SetState"), std::string::npos) << result.errors;
 }
 
+TEST(CheckProgramOptions, VerboseLogHoldsNoLineNorEscapeSequenceOfAFeed)
+{
+    // What XML lets through of control characters; an escape character itself makes a feed malformed.
+    QByteArray const forged = "5.10&#10;E0101 forged&#13;&#x9B;31m&#x85;&#x2028;&#x202E;&#127;";
+    FeedFolder const folder;
+    QString const feed = folder.Write(
+        "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel><item><title>" + forged +
+        "</title><pubDate>" + forged + "</pubDate><sparkle:minimumSystemVersion>" + forged +
+        "</sparkle:minimumSystemVersion><description>&#x9B;31m&#x202E;&#127;</description><pelnar1_Note>" + forged +
+        "</pelnar1_Note><enclosure length='1' type='a' url='https://files.example.com/App_" + forged +
+        "%0AE0101%20forged%1B%5B31m.zip' sparkle:version='" + forged + "' sparkle:edSignature='" + forged +
+        "'/></item><item><title>x</title><pelnar1_Note>" + forged +
+        "</pelnar1_Note><enclosure length='1' url='https://files.example.com/App.zip' sparkle:version='5.11'/></item>"
+        "</channel></rss>");
+    ProgramResult const result = Check(feed, {QStringLiteral("--verbose")});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(result.errors.find("E0101 forged"), std::string::npos) << "the texts are not logged at all";
+    EXPECT_EQ(result.errors.find("\nE0101"), std::string::npos) << result.errors;
+    for (char const* const bytes : {"\r", "\x1B", "\x7F", "\xC2\x85", "\xC2\x9B", "\xE2\x80\xA8", "\xE2\x80\xAE"})
+    {
+        EXPECT_EQ(result.errors.find(bytes), std::string::npos) << result.errors;
+    }
+}
+
 TEST(CheckProgramOptions, PlatformChoosesTheItems)
 {
     FeedFolder const folder;

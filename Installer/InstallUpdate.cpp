@@ -5,9 +5,9 @@
 #include "Installer/BundleInformation.h"
 #include "Installer/ChildProcess.h"
 #include "Installer/RecoverSwap.h"
-#include "Installer/Relaunch.h"
 #include "Installer/RunInstaller.h"
 #include "Installer/SwapBundle.h"
+#include "Installer/WatchStart.h"
 
 #include <cerrno>
 
@@ -26,7 +26,6 @@ namespace
 using Engine::HelperPhase;
 using Engine::InstallJob;
 using Engine::PayloadKind;
-using Engine::RelaunchedBundle;
 using Engine::UniqueFd;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
@@ -106,7 +105,8 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
 {
     SwapLock const lock(descriptors.parent);
     // The version that asked for this has run: what an earlier update kept for it is not needed any more.
-    static_cast<void>(RecoverSwap(descriptors.parent, job.targetName, job.installedVersion));
+    static_cast<void>(
+        RecoverSwap(descriptors.parent, {job.targetName, job.installedVersion, Engine::RecoverPurpose::Confirmation}));
     CheckTarget(job, descriptors);
     UniqueFd const staged = CheckStaged(job, descriptors);
     if (job.kind == PayloadKind::Installer)
@@ -118,7 +118,10 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
         static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
         return;
     }
-    Engine::SwapJournal const journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
+    Engine::SwapJournal journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
+    journal.confirmation = ReadBundleInformation(staged.Get(), job.stagedName).confirmsGoodStart
+                               ? Engine::StartConfirmation::ByHost
+                               : Engine::StartConfirmation::ByStarting;
     WriteSwapJournal(descriptors.parent, job.targetName, journal);
     report.SendProgress(HelperPhase::Installing, 0, 0);
     SwapBundle(descriptors.parent, job.targetName, descriptors.staging, journal);
@@ -164,7 +167,7 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
     try
     {
         SwapLock const lock(descriptors.parent);
-        Engine::RecoveryAction const action = RecoverSwap(descriptors.parent, job.targetName, {});
+        Engine::RecoveryAction const action = RecoverSwap(descriptors.parent, {job.targetName, {}}).action;
         if (action != Engine::RecoveryAction::Nothing)
         {
             report.Send(Engine::RecoveredReport{action});
@@ -181,37 +184,6 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
     {
         report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
     }
-}
-
-/// Starts the answered path if that can be done, else the installed bundle; false when neither starts.
-bool StartAgain(InstallJob const& job, ReportChannel& report)
-{
-    struct Choice
-    {
-        std::string const& path;
-        RelaunchedBundle name;
-    };
-    bool const isAnswered = !job.relaunchPath.empty();
-    for (Choice const& choice :
-         {Choice{job.relaunchPath, RelaunchedBundle::Answered},
-          Choice{job.targetPath, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target}})
-    {
-        if (choice.path.empty())
-        {
-            continue;
-        }
-        try
-        {
-            static_cast<void>(Relaunch(FindRelaunchTarget(choice.path), job.environment));
-            report.Send(Engine::RelaunchedReport{choice.name});
-            return true;
-        }
-        catch (UpdateRefusal const& refusal)
-        {
-            report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
-        }
-    }
-    return false;
 }
 
 } // namespace
@@ -235,7 +207,16 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     {
         TidyUp(job, descriptors, report);
     }
-    return (job.targetPath.empty() || StartAgain(job, report)) && isInstalled;
+    if (job.targetPath.empty())
+    {
+        return isInstalled;
+    }
+    if (isInstalled && AwaitsConfirmation(job, descriptors.parent))
+    {
+        ::close(descriptors.staging); // its lock would keep the folder when nobody needs it any more
+        return StartAndWatch(job, descriptors.parent, report);
+    }
+    return StartAgain(job, report) && isInstalled;
 }
 
 } // namespace Pelnar::Installer

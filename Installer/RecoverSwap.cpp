@@ -3,6 +3,8 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/TreeManifest.h"
+#include "Installer/ChildProcess.h"
+#include "Installer/NoteFile.h"
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>
@@ -22,6 +24,7 @@ namespace
 {
 
 using Engine::RecoveryAction;
+using Engine::StartConfirmation;
 using Engine::SwapJournal;
 using Engine::TargetState;
 using Engine::UniqueFd;
@@ -96,24 +99,60 @@ void RemoveAbandonedFolders(int parentFd, std::string const& targetName, std::st
     }
 }
 
-RecoveryAction CarryOut(int parentFd, std::string const& targetName, std::string const& runningVersion,
-                        SwapJournal const& journal)
+/// True when the process that the last counted start belongs to still runs: who asks then is it again, or another
+/// instance beside it.
+bool IsLastStartedRunning(SwapJournal const& journal)
+{
+    std::uint64_t const startTime = journal.lastStarted.startTime;
+    return startTime != 0 && StartTimeOf(journal.lastStarted.number) == startTime;
+}
+
+void CountStart(int parentFd, Engine::RecoverJob const& job, SwapJournal journal)
+{
+    ++journal.countedStarts;
+    journal.lastStarted = {job.hostProcess, job.hostProcess == 0 ? 0 : StartTimeOf(job.hostProcess)};
+    WriteSwapJournal(parentFd, job.targetName, journal);
+}
+
+void RollBack(int parentFd, std::string const& targetName, UniqueFd const& staging, std::string const& previousName,
+              SwapJournal const& journal)
+{
+    // First the note: a version that failed must not be installed again and again by those who do not know of it.
+    WriteNote(parentFd, Engine::FailedVersionName(targetName),
+              Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
+    SwapBack(parentFd, targetName, staging.Get(), previousName, journal);
+}
+
+RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal const& journal,
+                        std::uint64_t countedStarts)
 {
     UniqueFd const staging(::openat(parentFd, journal.stagingName.c_str(), FOLDER_FLAGS));
     std::string const previousName = FindPrevious(staging, journal);
-    RecoveryAction const action = Engine::DecideRecovery(
-        {LookAtTarget(parentFd, targetName, journal), !previousName.empty(), runningVersion == journal.toVersion});
+    bool const awaitsHost =
+        journal.confirmation == StartConfirmation::ByHost && job.purpose != Engine::RecoverPurpose::Confirmation;
+    RecoveryAction const decided =
+        Engine::DecideRecovery({LookAtTarget(parentFd, job.targetName, journal), !previousName.empty(),
+                                job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
+    bool const isOneMoreStart = decided == RecoveryAction::CountedStart || decided == RecoveryAction::RolledBack;
+    RecoveryAction const action =
+        isOneMoreStart && IsLastStartedRunning(journal) ? RecoveryAction::KeptPrevious : decided;
     switch (action)
     {
     case RecoveryAction::Nothing:
     case RecoveryAction::KeptPrevious:
         return action;
+    case RecoveryAction::CountedStart:
+        CountStart(parentFd, job, journal);
+        return action;
     case RecoveryAction::RestoredPrevious:
-        if (::renameat(staging.Get(), previousName.c_str(), parentFd, targetName.c_str()) != 0 ||
+        if (::renameat(staging.Get(), previousName.c_str(), parentFd, job.targetName.c_str()) != 0 ||
             ::fsync(parentFd) != 0)
         {
             Engine::ThrowErrno(errno, Engine::UpdateFault::SwapFailed);
         }
+        break;
+    case RecoveryAction::RolledBack:
+        RollBack(parentFd, job.targetName, staging, previousName, journal);
         break;
     case RecoveryAction::ConfirmedNew:
     case RecoveryAction::DroppedStaged:
@@ -121,31 +160,65 @@ RecoveryAction CarryOut(int parentFd, std::string const& targetName, std::string
     }
     // The journal goes first: a folder without one is known to be abandoned, and a journal without its folder would
     // have to be told from one whose folder is half gone.
-    RemoveSwapJournal(parentFd, targetName);
+    RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     return action;
+}
+
+/// The folder must stay: what is in it is needed, or runs.
+bool IsStagingKept(RecoveryAction action)
+{
+    return action == RecoveryAction::KeptPrevious || action == RecoveryAction::CountedStart ||
+           action == RecoveryAction::RolledBack;
+}
+
+/// The version that was taken back for the running one. The note goes once any other version runs.
+std::string FailedVersionFor(int parentFd, Engine::RecoverJob const& job)
+{
+    std::string const name = Engine::FailedVersionName(job.targetName);
+    std::string const bytes = job.runningVersion.empty() ? std::string() : ReadNote(parentFd, name);
+    if (bytes.empty())
+    {
+        return {};
+    }
+    auto const failed = Engine::DecodeFailedVersion(bytes);
+    if (failed && failed->fromVersion == job.runningVersion)
+    {
+        return failed->toVersion;
+    }
+    RemoveNote(parentFd, name);
+    return {};
 }
 
 } // namespace
 
-RecoveryAction RecoverSwap(int parentFd, std::string const& targetName, std::string const& runningVersion)
+Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
 {
-    RecoveryAction action = RecoveryAction::Nothing;
+    Recovery recovery;
+    recovery.failedVersion = FailedVersionFor(parentFd, job);
     std::string keptName;
-    if (auto const journal = ReadSwapJournal(parentFd, targetName))
+    if (auto const journal = ReadSwapJournal(parentFd, job.targetName))
     {
-        action = CarryOut(parentFd, targetName, runningVersion, *journal);
-        keptName = action == RecoveryAction::KeptPrevious ? journal->stagingName : std::string();
+        recovery.action = CarryOut(parentFd, job, *journal, journal->countedStarts);
+        keptName = IsStagingKept(recovery.action) ? journal->stagingName : std::string();
     }
-    else if (::faccessat(parentFd, targetName.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+    else if (::faccessat(parentFd, job.targetName.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
     {
-        RemoveSwapJournal(parentFd, targetName); // one that cannot be read says nothing of a bundle that is there
+        // One that cannot be read says nothing of a bundle that is there.
+        RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     }
     else
     {
-        return action; // nothing is thrown away while the bundle is missing
+        return recovery; // nothing is thrown away while the bundle is missing
     }
-    RemoveAbandonedFolders(parentFd, targetName, keptName);
-    return action;
+    RemoveAbandonedFolders(parentFd, job.targetName, keptName);
+    return recovery;
+}
+
+RecoveryAction RollBackSwap(int parentFd, std::string const& targetName)
+{
+    auto const journal = ReadSwapJournal(parentFd, targetName);
+    return journal ? CarryOut(parentFd, {targetName, journal->toVersion}, *journal, Engine::MAX_UNCONFIRMED_STARTS)
+                   : RecoveryAction::Nothing;
 }
 
 } // namespace Pelnar::Installer

@@ -68,7 +68,7 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
         CheckExecutable(bundle.Get(), executable);
         if (IsProgramSafe(bundle, executable))
         {
-            return {realPath + '/' + executable};
+            return {realPath, realPath + '/' + executable};
         }
     }
     catch (UpdateRefusal const&)

@@ -10,9 +10,10 @@
 namespace Pelnar::Installer
 {
 
-/// A program to start: its real path, which no link can turn elsewhere any more.
+/// A program to start and its bundle: real paths, which no link can turn elsewhere any more.
 struct RelaunchTarget
 {
+    std::string bundlePath;
     std::string executablePath;
 };
 

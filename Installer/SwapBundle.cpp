@@ -2,6 +2,7 @@
 
 #include "Engine/core/payload/StagingFolder.h"
 #include "Installer/BundleInformation.h"
+#include "Installer/NoteFile.h"
 
 #include <cerrno>
 
@@ -10,7 +11,6 @@
 #include <signal.h>
 #include <stdio.h>
 #include <sys/file.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/time.h>
 #include <unistd.h>
@@ -27,8 +27,6 @@ using Engine::UpdateRefusal;
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr long LOCK_SECONDS = 60;
 constexpr long LOCK_REPEAT_SECONDS = 1; // for a signal that comes before the call it is to interrupt
-constexpr std::size_t JOURNAL_MAX_BYTES = 64 * 1024;
-constexpr mode_t JOURNAL_MODE = 0600;
 
 void OnAlarm(int) {}
 
@@ -99,14 +97,6 @@ void MoveInTurn(int parentFd, std::string const& targetName, int stagingFd, std:
     }
 }
 
-void SyncOrThrow(int descriptor)
-{
-    if (::fsync(descriptor) != 0)
-    {
-        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
-    }
-}
-
 } // namespace
 
 SwapLock::SwapLock(int parentFd)
@@ -144,53 +134,12 @@ std::optional<std::string> VersionOf(int folderFd, std::string const& name)
 
 std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string const& targetName)
 {
-    UniqueFd const file(::openat(parentFd, Engine::SwapJournalName(targetName).c_str(),
-                                 O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status;
-    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid())
-    {
-        return std::nullopt;
-    }
-    std::string bytes(JOURNAL_MAX_BYTES, '\0');
-    ssize_t const count = Engine::ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
-    if (count < 0)
-    {
-        Engine::ThrowErrno(errno); // no answer is not the answer that there is no journal
-    }
-    return Engine::DecodeSwapJournal(std::string_view(bytes).substr(0, static_cast<std::size_t>(count)));
+    return Engine::DecodeSwapJournal(ReadNote(parentFd, Engine::SwapJournalName(targetName)));
 }
 
 void WriteSwapJournal(int parentFd, std::string const& targetName, Engine::SwapJournal const& journal)
 {
-    std::string const name = Engine::SwapJournalName(targetName);
-    std::string const newName = name + ".new";
-    std::string const bytes = Engine::EncodeSwapJournal(journal);
-    static_cast<void>(::unlinkat(parentFd, newName.c_str(), 0));
-    UniqueFd const file(
-        ::openat(parentFd, newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, JOURNAL_MODE));
-    if (!file ||
-        !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
-    {
-        Engine::ThrowErrno(errno);
-    }
-    SyncOrThrow(file.Get());
-    if (!Rename(parentFd, newName, parentFd, name))
-    {
-        Engine::ThrowErrno(errno);
-    }
-    SyncOrThrow(parentFd);
-}
-
-void RemoveSwapJournal(int parentFd, std::string const& targetName)
-{
-    std::string const name = Engine::SwapJournalName(targetName);
-    for (std::string const& gone : {name, name + ".new"})
-    {
-        if (::unlinkat(parentFd, gone.c_str(), 0) != 0 && errno != ENOENT)
-        {
-            Engine::ThrowErrno(errno);
-        }
-    }
+    WriteNote(parentFd, Engine::SwapJournalName(targetName), Engine::EncodeSwapJournal(journal));
 }
 
 void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engine::SwapJournal const& journal)
@@ -219,6 +168,35 @@ void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engi
         static_cast<void>(Rename(stagingFd, Engine::PREVIOUS_BUNDLE_NAME, parentFd, targetName));
     }
     Engine::ThrowErrno(errorNumber, UpdateFault::SyncFailed);
+}
+
+void SwapBack(int parentFd, std::string const& targetName, int stagingFd, std::string const& previousName,
+              Engine::SwapJournal const& journal)
+{
+    if (!Exchange(stagingFd, previousName, parentFd, targetName))
+    {
+        if (!IsUnsupported(errno))
+        {
+            ThrowSwapErrno(errno);
+        }
+        // The two names of the staging folder: one is taken, the other is free.
+        std::string const failedName =
+            previousName == journal.stagedName ? Engine::PREVIOUS_BUNDLE_NAME : journal.stagedName;
+        if (!Rename(parentFd, targetName, stagingFd, failedName))
+        {
+            ThrowSwapErrno(errno);
+        }
+        if (!Rename(stagingFd, previousName, parentFd, targetName))
+        {
+            int const errorNumber = errno;
+            static_cast<void>(Rename(stagingFd, failedName, parentFd, targetName));
+            ThrowSwapErrno(errorNumber);
+        }
+    }
+    if (::fsync(stagingFd) != 0 || ::fsync(parentFd) != 0)
+    {
+        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
 }
 
 } // namespace Pelnar::Installer

@@ -148,8 +148,13 @@ bool Recover(Installer::ReportChannel& report)
     auto const job = ReadJobOfKind<Engine::RecoverJob>();
     RequireFolder(HelperDescriptors::PARENT);
     Installer::SwapLock const lock(HelperDescriptors::PARENT);
-    report.Send(
-        Engine::RecoveredReport{Installer::RecoverSwap(HelperDescriptors::PARENT, job.targetName, job.runningVersion)});
+    Installer::Recovery const recovery = Installer::RecoverSwap(HelperDescriptors::PARENT, job);
+    bool const isTellable = recovery.failedVersion.size() <= Engine::HELPER_REPORT_MAX_TEXT_BYTES;
+    if (!recovery.failedVersion.empty() && isTellable)
+    {
+        report.Send(Engine::FailedVersionReport{recovery.failedVersion});
+    }
+    report.Send(Engine::RecoveredReport{recovery.action});
     return true;
 }
 

@@ -53,6 +53,7 @@ TEST(UpdateJob, EachKindComesBackAndNoPieceOfItDoes)
     ExpectRoundTrip(SomePrepareJob());
     ExpectRoundTrip(SomeInstallJob());
     ExpectRoundTrip(RecoverJob{"A.app", "1.0"});
+    ExpectRoundTrip(RecoverJob{"A.app", "1.0", RecoverPurpose::Confirmation, 4711});
     auto const job = std::get<InstallJob>(*DecodeUpdateJob(EncodeUpdateJob(SomeInstallJob())));
     EXPECT_EQ(job.targetName, "A \"b\"\n\xff.app");
     EXPECT_EQ(job.digest, SomeInstallJob().digest);
@@ -141,6 +142,8 @@ TEST(UpdateJob, ForeignBytesAreRefused)
     }
     EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A/b", "1.0"})).has_value());
     EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A.app", ""})).has_value());
+    EXPECT_FALSE(
+        DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A.app", "1.0", static_cast<RecoverPurpose>(2)})).has_value());
 }
 
 TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
@@ -169,6 +172,9 @@ TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
              Row{RecoveredReport{RecoveryAction::ConfirmedNew}, "recovered confirmed-new"},
              Row{RecoveredReport{RecoveryAction::DroppedStaged}, "recovered dropped-staged"},
              Row{RecoveredReport{RecoveryAction::RestoredPrevious}, "recovered restored-previous"},
+             Row{RecoveredReport{RecoveryAction::CountedStart}, "recovered counted-start"},
+             Row{RecoveredReport{RecoveryAction::RolledBack}, "recovered rolled-back"},
+             Row{FailedVersionReport{"2.0\n"}, "failed-version 322e300a"},
              Row{RelaunchedReport{RelaunchedBundle::Answered}, "relaunched answered"},
              Row{RelaunchedReport{RelaunchedBundle::Target}, "relaunched target"},
              Row{RelaunchedReport{RelaunchedBundle::TargetInstead}, "relaunched target-instead"},
@@ -210,6 +216,12 @@ TEST(HelperReport, OtherLinesAreNone)
              "prepared " + digest + " " + std::string(512, '4'),
              "recovered"s,
              "recovered all"s,
+             "failed-version"s,
+             "failed-version "s,
+             "failed-version 00"s,
+             "failed-version 2"s,
+             "failed-version 31 32"s,
+             "failed-version " + std::string(512, '4'),
              "relaunched"s,
              "relaunched it"s,
              "refused"s,
@@ -241,6 +253,30 @@ TEST(SwapJournal, ComesBackAndNoPieceOfItDoes)
     EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "..", "1.0", "2.0"})).has_value());
     EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "A.app", "1.0", "1.0"})).has_value());
     EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal({"x", "A.app", "", "1.0"})).has_value());
+    SwapJournal counting{"x", "A.app", "1.0", "2.0", StartConfirmation::ByHost, 1, {4711, 99}};
+    auto const counted = DecodeSwapJournal(EncodeSwapJournal(counting));
+    ASSERT_TRUE(counted.has_value());
+    EXPECT_EQ(counted->confirmation, StartConfirmation::ByHost);
+    EXPECT_EQ(counted->countedStarts, 1u);
+    EXPECT_EQ(counted->lastStarted, counting.lastStarted);
+    counting.confirmation = static_cast<StartConfirmation>(2);
+    EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal(counting)).has_value());
+}
+
+TEST(FailedVersion, ComesBackAndNoPieceOfItDoes)
+{
+    std::string const bytes = EncodeFailedVersion({"1.0", "2.0"});
+    auto const failed = DecodeFailedVersion(bytes);
+    ASSERT_TRUE(failed.has_value());
+    EXPECT_EQ(failed->fromVersion, "1.0");
+    EXPECT_EQ(failed->toVersion, "2.0");
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+    {
+        EXPECT_FALSE(DecodeFailedVersion(bytes.substr(0, size)).has_value());
+    }
+    EXPECT_FALSE(DecodeFailedVersion(bytes + "x").has_value());
+    EXPECT_FALSE(DecodeFailedVersion(EncodeFailedVersion({"", "2.0"})).has_value());
+    EXPECT_FALSE(DecodeFailedVersion(EncodeSwapJournal({"x", "A.app", "1.0", "2.0"})).has_value());
 }
 
 TEST(SwapJournal, EverySightHasItsAction)
@@ -277,6 +313,38 @@ TEST(SwapJournal, EverySightHasItsAction)
     {
         EXPECT_EQ(DecideRecovery({row.target, row.isPreviousAtHand, row.hasNewStarted}), row.action)
             << static_cast<int>(row.target) << row.isPreviousAtHand << row.hasNewStarted;
+    }
+}
+
+TEST(SwapJournal, StartsThatTheHostConfirmsAreCountedThenTakenBack)
+{
+    struct Row
+    {
+        bool isPreviousAtHand;
+        bool hasNewStarted;
+        bool awaitsHost;
+        std::uint64_t countedStarts;
+        RecoveryAction action;
+    };
+    for (Row const& row : {
+             Row{true, true, true, 0, RecoveryAction::CountedStart},
+             Row{true, true, true, 1, RecoveryAction::CountedStart},
+             Row{true, true, true, 2, RecoveryAction::RolledBack}, Row{true, true, true, 3, RecoveryAction::RolledBack},
+             Row{true, true, false, 2, RecoveryAction::ConfirmedNew},
+             Row{true, true, false, 0, RecoveryAction::ConfirmedNew},
+             Row{true, false, true, 2, RecoveryAction::KeptPrevious}, // somebody else asks
+             Row{false, true, true, 1, RecoveryAction::CountedStart},
+             Row{false, true, true, 2, RecoveryAction::ConfirmedNew}, // there is nothing to go back to
+         })
+    {
+        EXPECT_EQ(DecideRecovery(
+                      {TargetState::New, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost, row.countedStarts}),
+                  row.action)
+            << row.isPreviousAtHand << row.hasNewStarted << row.awaitsHost << row.countedStarts;
+        // Whatever was counted says nothing of another version.
+        EXPECT_EQ(DecideRecovery({TargetState::Previous, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost,
+                                  row.countedStarts}),
+                  RecoveryAction::DroppedStaged);
     }
 }
 

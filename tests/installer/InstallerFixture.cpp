@@ -371,7 +371,12 @@ HelperOutcome UpdateScene::Install(Engine::InstallJob const& job, HelperStart co
 
 HelperOutcome UpdateScene::Recover(std::string const& runningVersion, HelperStart const& start)
 {
-    return RunHelper("recover", Engine::EncodeUpdateJob(Engine::RecoverJob{APP, runningVersion}),
+    return Recover(Engine::RecoverJob{APP, runningVersion}, start);
+}
+
+HelperOutcome UpdateScene::Recover(Engine::RecoverJob const& job, HelperStart const& start)
+{
+    return RunHelper("recover", Engine::EncodeUpdateJob(job),
                      {{Engine::HelperDescriptors::PARENT, m_place.Descriptor()}}, start);
 }
 

@@ -120,6 +120,7 @@ public:
     Engine::InstallJob PrepareForInstall();
     HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
     HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
+    HelperOutcome Recover(Engine::RecoverJob const& job, HelperStart const& start = {});
 
     Workspace const& Place() const { return m_place; }
     Workspace const& Downloads() const { return m_downloads; }

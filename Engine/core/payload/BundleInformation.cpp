@@ -53,6 +53,7 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
     information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
+    information.confirmsGoodStart = IsTrue(list->TextOf("PelnarConfirmsGoodStart"));
     information.executable = ExecutableName(*list, bundleName);
     std::string const& executable = information.executable;
     if (executable.empty() || executable == "." || executable == ".." || executable.find('/') != std::string::npos)

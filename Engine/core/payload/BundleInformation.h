@@ -20,6 +20,7 @@ struct BundleInformation
     std::string publicKey;            ///< empty when the bundle trusts no key
     std::string executable;           ///< the file's name in the bundle's folder
     bool allowsInstallerPrograms = false;
+    bool confirmsGoodStart = false; ///< it tells when it has started well, and is not kept otherwise
 };
 
 /// Reads \a text, the whole information file; \a bundleName is the name of the bundle's folder, after which an

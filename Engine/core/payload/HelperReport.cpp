@@ -9,11 +9,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t MAX_NAME_BYTES = 255;
-
 constexpr std::string_view PHASES[] = {"verifying", "unpacking", "waiting", "installing"};
-constexpr std::string_view ACTIONS[] = {"nothing", "kept-previous", "confirmed-new", "dropped-staged",
-                                        "restored-previous"};
+constexpr std::string_view ACTIONS[] = {"nothing",           "kept-previous", "confirmed-new", "dropped-staged",
+                                        "restored-previous", "counted-start", "rolled-back"};
 constexpr std::string_view BUNDLES[] = {"answered", "target", "target-instead"};
 
 template <typename Enumeration, std::size_t COUNT>
@@ -93,6 +91,11 @@ std::string Line(RecoveredReport const& report)
     return "recovered " + std::string(NameOf(ACTIONS, report.action));
 }
 
+std::string Line(FailedVersionReport const& report)
+{
+    return "failed-version " + ToHexadecimal(report.version);
+}
+
 std::string Line(RelaunchedReport const& report)
 {
     return "relaunched " + std::string(NameOf(BUNDLES, report.bundle));
@@ -131,17 +134,27 @@ std::optional<HelperReport> ReadPrepared(std::vector<std::string_view> const& wo
 {
     PreparedReport report{};
     std::string digest;
-    bool const isGood =
-        words.size() == 3 && FromHexadecimal(words[1], digest) && digest.size() == report.digest.size() &&
-        FromHexadecimal(words[2], report.stagedName) && !report.stagedName.empty() &&
-        report.stagedName.size() <= MAX_NAME_BYTES && report.stagedName != "." && report.stagedName != ".." &&
-        report.stagedName.find('/') == std::string::npos && report.stagedName.find('\0') == std::string::npos;
+    bool const isGood = words.size() == 3 && FromHexadecimal(words[1], digest) &&
+                        digest.size() == report.digest.size() && FromHexadecimal(words[2], report.stagedName) &&
+                        !report.stagedName.empty() && report.stagedName.size() <= HELPER_REPORT_MAX_TEXT_BYTES &&
+                        report.stagedName != "." && report.stagedName != ".." &&
+                        report.stagedName.find('/') == std::string::npos &&
+                        report.stagedName.find('\0') == std::string::npos;
     if (!isGood)
     {
         return std::nullopt;
     }
     std::copy(digest.begin(), digest.end(), report.digest.begin());
     return report;
+}
+
+std::optional<HelperReport> ReadFailedVersion(std::vector<std::string_view> const& words)
+{
+    FailedVersionReport report;
+    bool const isGood = words.size() == 2 && FromHexadecimal(words[1], report.version) && !report.version.empty() &&
+                        report.version.size() <= HELPER_REPORT_MAX_TEXT_BYTES &&
+                        report.version.find('\0') == std::string::npos;
+    return isGood ? std::optional<HelperReport>(report) : std::nullopt;
 }
 
 std::optional<HelperReport> ReadRefused(std::vector<std::string_view> const& words)
@@ -178,6 +191,10 @@ std::optional<HelperReport> DecodeHelperReport(std::string_view line)
     if (words[0] == "prepared")
     {
         return ReadPrepared(words);
+    }
+    if (words[0] == "failed-version")
+    {
+        return ReadFailedVersion(words);
     }
     if (words[0] == "refused")
     {

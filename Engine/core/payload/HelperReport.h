@@ -25,11 +25,13 @@ enum class HelperPhase
 
 enum class RecoveryAction
 {
-    Nothing,         ///< no update was under way
-    KeptPrevious,    ///< the new version is installed and has not started yet
-    ConfirmedNew,    ///< the new version has started: the previous one is gone
-    DroppedStaged,   ///< the swap had not happened: the prepared version is gone
-    RestoredPrevious ///< the bundle was missing: the previous version is back
+    Nothing,          ///< no update was under way
+    KeptPrevious,     ///< the new version is installed and has not started yet
+    ConfirmedNew,     ///< the new version has started: the previous one is gone
+    DroppedStaged,    ///< the swap had not happened: the prepared version is gone
+    RestoredPrevious, ///< the bundle was missing: the previous version is back
+    CountedStart,     ///< the new version has started and is to tell whether it did so well
+    RolledBack        ///< the new version never told that it started well: the previous version is back
 };
 
 enum class RelaunchedBundle
@@ -57,6 +59,11 @@ struct RecoveredReport
 {
     RecoveryAction action;
 };
+/// Before a RecoveredReport: the version that was taken back for the one that asks.
+struct FailedVersionReport
+{
+    std::string version;
+};
 struct RelaunchedReport
 {
     RelaunchedBundle bundle;
@@ -67,10 +74,11 @@ struct RefusedReport
     int errorNumber;
 };
 
-using HelperReport =
-    std::variant<ProgressReport, PreparedReport, InstalledReport, RecoveredReport, RelaunchedReport, RefusedReport>;
+using HelperReport = std::variant<ProgressReport, PreparedReport, InstalledReport, RecoveredReport, FailedVersionReport,
+                                  RelaunchedReport, RefusedReport>;
 
-constexpr std::size_t HELPER_REPORT_MAX_BYTES = 1024; ///< of a line, its end included
+constexpr std::size_t HELPER_REPORT_MAX_BYTES = 1024;     ///< of a line, its end included
+constexpr std::size_t HELPER_REPORT_MAX_TEXT_BYTES = 255; ///< of a name or a version in one
 
 /// The line, with its end.
 std::string EncodeHelperReport(HelperReport const& report);

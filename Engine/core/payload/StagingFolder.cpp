@@ -5,7 +5,9 @@
 
 #include <cerrno>
 #include <climits>
+#include <memory>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/random.h>
@@ -50,6 +52,26 @@ std::string UpdateFilePrefix(std::string_view targetName)
 std::string SwapJournalName(std::string_view targetName)
 {
     return NameFor(targetName) + ".journal";
+}
+
+std::string FailedVersionName(std::string_view targetName)
+{
+    return NameFor(targetName) + ".failed";
+}
+
+bool HasUpdateFiles(int folderFd, std::string_view targetName)
+{
+    int const copy = ::openat(folderFd, ".", FOLDER_FLAGS);
+    std::unique_ptr<DIR, decltype(&::closedir)> const stream(copy < 0 ? nullptr : ::fdopendir(copy), &::closedir);
+    std::string const prefix = NameFor(targetName);
+    while (dirent const* const entry = stream ? ::readdir(stream.get()) : nullptr)
+    {
+        if (std::string_view(entry->d_name).substr(0, prefix.size()) == prefix)
+        {
+            return true;
+        }
+    }
+    return !stream;
 }
 
 StagingFolder::StagingFolder(UniqueFd folder, std::string name) : m_folder(std::move(folder)), m_name(std::move(name))

@@ -33,6 +33,11 @@ std::string UpdateFilePrefix(std::string_view targetName);
 /// The name of the journal of a swap of \a targetName; it does not begin like a staging folder's.
 std::string SwapJournalName(std::string_view targetName);
 
+/// The name of the note that a version of \a targetName was taken back; it does not begin like a staging folder's.
+std::string FailedVersionName(std::string_view targetName);
+/// True when anything of an update of \a targetName stands in the open folder, or that cannot be told.
+[[nodiscard]] bool HasUpdateFiles(int folderFd, std::string_view targetName);
+
 /// Where the open folder stands, without any link in the path; empty when that cannot be told.
 [[nodiscard]] std::string RealPathOf(int folderFd);
 

@@ -8,6 +8,7 @@ namespace
 {
 
 constexpr std::string_view MAGIC = "PELNARS1";
+constexpr std::string_view FAILED_MAGIC = "PELNARF1";
 
 bool IsName(std::string const& text)
 {
@@ -23,6 +24,10 @@ std::string EncodeSwapJournal(SwapJournal const& journal)
     writer.Text(journal.stagedName);
     writer.Text(journal.fromVersion);
     writer.Text(journal.toVersion);
+    writer.Number(static_cast<std::uint64_t>(journal.confirmation));
+    writer.Number(journal.countedStarts);
+    writer.Number(journal.lastStarted.number);
+    writer.Number(journal.lastStarted.startTime);
     return writer.Finish();
 }
 
@@ -34,9 +39,14 @@ std::optional<SwapJournal> DecodeSwapJournal(std::string_view bytes)
     journal.stagedName = reader.Text();
     journal.fromVersion = reader.Text();
     journal.toVersion = reader.Text();
-    bool const isGood = reader.IsWhole() && IsName(journal.stagingName) && IsName(journal.stagedName) &&
-                        !journal.fromVersion.empty() && !journal.toVersion.empty() &&
-                        journal.fromVersion != journal.toVersion;
+    std::uint64_t const confirmation = reader.Number();
+    journal.confirmation = static_cast<StartConfirmation>(confirmation);
+    journal.countedStarts = reader.Number();
+    journal.lastStarted.number = reader.Number();
+    journal.lastStarted.startTime = reader.Number();
+    bool const isGood = reader.IsWhole() && confirmation <= static_cast<std::uint64_t>(StartConfirmation::ByHost) &&
+                        IsName(journal.stagingName) && IsName(journal.stagedName) && !journal.fromVersion.empty() &&
+                        !journal.toVersion.empty() && journal.fromVersion != journal.toVersion;
     return isGood ? std::optional(journal) : std::nullopt;
 }
 
@@ -52,9 +62,35 @@ RecoveryAction DecideRecovery(SwapSight const& sight)
     case TargetState::Foreign:
         return RecoveryAction::DroppedStaged;
     case TargetState::New:
-        return sight.hasNewStarted ? RecoveryAction::ConfirmedNew : RecoveryAction::KeptPrevious;
+        break;
     }
-    return RecoveryAction::KeptPrevious;
+    if (!sight.hasNewStarted)
+    {
+        return RecoveryAction::KeptPrevious;
+    }
+    if (sight.awaitsHost && sight.countedStarts < MAX_UNCONFIRMED_STARTS)
+    {
+        return RecoveryAction::CountedStart;
+    }
+    return sight.awaitsHost && sight.isPreviousAtHand ? RecoveryAction::RolledBack : RecoveryAction::ConfirmedNew;
+}
+
+std::string EncodeFailedVersion(FailedVersion const& failed)
+{
+    FieldWriter writer(FAILED_MAGIC);
+    writer.Text(failed.fromVersion);
+    writer.Text(failed.toVersion);
+    return writer.Finish();
+}
+
+std::optional<FailedVersion> DecodeFailedVersion(std::string_view bytes)
+{
+    FieldReader reader(bytes, FAILED_MAGIC);
+    FailedVersion failed;
+    failed.fromVersion = reader.Text();
+    failed.toVersion = reader.Text();
+    bool const isGood = reader.IsWhole() && !failed.fromVersion.empty() && !failed.toVersion.empty();
+    return isGood ? std::optional(failed) : std::nullopt;
 }
 
 } // namespace Pelnar::Engine

@@ -12,16 +12,38 @@
 namespace Pelnar::Engine
 {
 
+/// Who says that the new version has started well.
+enum class StartConfirmation : std::uint8_t
+{
+    ByStarting = 0, ///< its first start does
+    ByHost = 1,     ///< it does, by a call; after too many starts without one the previous version comes back
+};
+
+/// A process, told from a later one of the same number.
+struct ProcessMark
+{
+    std::uint64_t number = 0;    ///< 0: none
+    std::uint64_t startTime = 0; ///< as the kernel counts it; 0 when it is not known
+
+    bool operator==(ProcessMark const& other) const { return number == other.number && startTime == other.startTime; }
+};
+
 struct SwapJournal
 {
     std::string stagingName; ///< of the staging folder, beside the bundle
     std::string stagedName;  ///< in it: the new version before an exchange, the previous one after it
     std::string fromVersion;
     std::string toVersion;
+    StartConfirmation confirmation = StartConfirmation::ByStarting;
+    std::uint64_t countedStarts = 0; ///< of the new version, none of them confirmed
+    ProcessMark lastStarted = {};    ///< the process of the last of them
 };
 
 /// In the staging folder: where the previous version waits when the file system cannot exchange two names.
 constexpr char PREVIOUS_BUNDLE_NAME[] = "previous";
+
+/// So many starts of the new version may go without a confirmation.
+constexpr std::uint64_t MAX_UNCONFIRMED_STARTS = 2;
 
 std::string EncodeSwapJournal(SwapJournal const& journal);
 /// Nothing when \a bytes are no journal.
@@ -42,9 +64,22 @@ struct SwapSight
     TargetState target = TargetState::Missing;
     bool isPreviousAtHand = false; ///< the previous version stands in the staging folder, under either name
     bool hasNewStarted = false;    ///< the finder is the new version, running
+    bool awaitsHost = false;       ///< the host is to confirm the start, and has not
+    std::uint64_t countedStarts = 0;
 };
 
 /// Total: there is an answer for every sight, and carrying it out leaves a bundle wherever there is one to leave.
 [[nodiscard]] RecoveryAction DecideRecovery(SwapSight const& sight);
+
+/// What is kept beside a bundle whose new version was taken back, until another one runs.
+struct FailedVersion
+{
+    std::string fromVersion; ///< the version that came back
+    std::string toVersion;   ///< the one that was taken back
+};
+
+std::string EncodeFailedVersion(FailedVersion const& failed);
+/// Nothing when \a bytes are none.
+std::optional<FailedVersion> DecodeFailedVersion(std::string_view bytes);
 
 } // namespace Pelnar::Engine

@@ -57,6 +57,8 @@ void Write(FieldWriter& writer, RecoverJob const& job)
     writer.Number(static_cast<std::uint64_t>(JobKind::Recover));
     writer.Text(job.targetName);
     writer.Text(job.runningVersion);
+    writer.Number(static_cast<std::uint64_t>(job.purpose));
+    writer.Number(job.hostProcess);
 }
 
 bool IsName(std::string const& text)
@@ -131,7 +133,11 @@ RecoverJob ReadRecover(FieldReader& reader)
     RecoverJob job;
     job.targetName = reader.Text();
     job.runningVersion = reader.Text();
-    if (!IsName(job.targetName) || job.runningVersion.empty())
+    std::uint64_t const purpose = reader.Number();
+    job.purpose = static_cast<RecoverPurpose>(purpose);
+    job.hostProcess = reader.Number();
+    if (!IsName(job.targetName) || job.runningVersion.empty() ||
+        purpose > static_cast<std::uint64_t>(RecoverPurpose::Confirmation))
     {
         reader.Refuse();
     }

@@ -67,11 +67,19 @@ struct InstallJob
     std::vector<std::string> environment;  ///< of what is started, "NAME=value"
 };
 
+enum class RecoverPurpose : std::uint8_t
+{
+    Start = 0,        ///< the bundle that asks has been started
+    Confirmation = 1, ///< it has started well
+};
+
 /// Finish or undo what an interrupted helper left beside the bundle.
 struct RecoverJob
 {
     std::string targetName;
     std::string runningVersion; ///< of the bundle that asks, and so has started
+    RecoverPurpose purpose = RecoverPurpose::Start;
+    std::uint64_t hostProcess = 0; ///< the number of the process that asks; 0: not told
 };
 
 using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob>;

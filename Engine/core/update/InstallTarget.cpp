@@ -40,42 +40,6 @@ EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
     return error;
 }
 
-/// The bundle and its folder; the error when they cannot be opened as such.
-std::variant<InstallTarget, EngineError> Open(QString const& bundlePath)
-{
-    std::string path = bundlePath.toStdString();
-    while (path.size() > 1 && path.back() == '/')
-    {
-        path.pop_back(); // a link with a slash behind it is followed
-    }
-    std::size_t const slash = path.rfind('/');
-    std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);
-    if (path.front() != '/' || name.empty() || name == "." || name == "..")
-    {
-        return Error(ErrorCause::BundleMissing, path);
-    }
-    InstallTarget target;
-    target.name = name;
-    target.parent = UniqueFd(::open(path.substr(0, slash + 1).c_str(), FOLDER_FLAGS));
-    struct stat status;
-    if (!target.parent || ::fstatat(target.parent.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
-    {
-        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
-    }
-    if (S_ISLNK(status.st_mode))
-    {
-        return Error(ErrorCause::BundleIsLink, path);
-    }
-    target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
-    std::string const parentPath = target.bundle ? RealPathOf(target.parent.Get()) : std::string();
-    if (parentPath.empty())
-    {
-        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
-    }
-    target.path = QString::fromStdString(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
-    return target;
-}
-
 bool IsReadOnly(UniqueFd const& folder)
 {
     struct statvfs status;
@@ -158,10 +122,45 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
 
 } // namespace
 
+std::variant<InstallTarget, EngineError> OpenInstalledBundle(QString const& bundlePath)
+{
+    std::string path = bundlePath.toStdString();
+    while (path.size() > 1 && path.back() == '/')
+    {
+        path.pop_back(); // a link with a slash behind it is followed
+    }
+    std::size_t const slash = path.rfind('/');
+    std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);
+    if (path.front() != '/' || name.empty() || name == "." || name == "..")
+    {
+        return Error(ErrorCause::BundleMissing, path);
+    }
+    InstallTarget target;
+    target.name = name;
+    target.parent = UniqueFd(::open(path.substr(0, slash + 1).c_str(), FOLDER_FLAGS));
+    struct stat status;
+    if (!target.parent || ::fstatat(target.parent.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
+    {
+        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+    }
+    if (S_ISLNK(status.st_mode))
+    {
+        return Error(ErrorCause::BundleIsLink, path);
+    }
+    target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
+    std::string const parentPath = target.bundle ? RealPathOf(target.parent.Get()) : std::string();
+    if (parentPath.empty())
+    {
+        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+    }
+    target.path = QString::fromStdString(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
+    return target;
+}
+
 std::variant<InstallTarget, EngineError> OpenInstallTarget(QString const& bundlePath, quint64 neededBytes,
                                                            PackageSources const& sources)
 {
-    auto opened = Open(bundlePath);
+    auto opened = OpenInstalledBundle(bundlePath);
     auto* const target = std::get_if<InstallTarget>(&opened);
     if (!target)
     {

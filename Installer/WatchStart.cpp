@@ -1,0 +1,187 @@
+#include "Installer/WatchStart.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/SwapJournal.h"
+#include "Installer/RecoverSwap.h"
+#include "Installer/Relaunch.h"
+#include "Installer/SwapBundle.h"
+
+#include <cerrno>
+
+#include <poll.h>
+#include <signal.h>
+#include <sys/inotify.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::InstallJob;
+using Engine::RelaunchedBundle;
+using Engine::UniqueFd;
+using Engine::UpdateRefusal;
+
+enum class StartEnd
+{
+    Settled, ///< confirmed, or ended by a person, or somebody else has taken the matter over
+    Failed,
+};
+
+/// A person's way to end a program, or the session's.
+bool IsEndedOnPurpose(int status)
+{
+    if (WIFEXITED(status))
+    {
+        return WEXITSTATUS(status) == 0;
+    }
+    int const signal = WTERMSIG(status);
+    return signal == SIGTERM || signal == SIGINT || signal == SIGHUP || signal == SIGQUIT;
+}
+
+/// Becomes readable when a file goes from the folder; -1 when the system has no more of these to give.
+UniqueFd WatchFolder(int folderFd)
+{
+    UniqueFd watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
+    std::string const path = "/proc/self/fd/" + std::to_string(folderFd);
+    if (watch && ::inotify_add_watch(watch.Get(), path.c_str(), IN_DELETE | IN_MOVED_FROM | IN_ONLYDIR) < 0)
+    {
+        return {};
+    }
+    return watch;
+}
+
+void Drain(UniqueFd const& watch)
+{
+    alignas(inotify_event) char events[4096];
+    while (::read(watch.Get(), events, sizeof events) > 0)
+    {
+    }
+}
+
+/// Waits for the end of the process while the journal stands.
+StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
+{
+    UniqueFd const watch = WatchFolder(parentFd);
+    UniqueFd const ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
+    if (!ended)
+    {
+        return StartEnd::Settled; // the starts that are counted must do
+    }
+    // Asked after the watch is there: a journal that goes now is noticed.
+    while (AwaitsConfirmation(job, parentFd))
+    {
+        pollfd waiting[] = {{ended.Get(), POLLIN, 0}, {watch.Get(), POLLIN, 0}};
+        if (::poll(waiting, 2, -1) < 0)
+        {
+            continue;
+        }
+        Drain(watch);
+        if ((waiting[0].revents & POLLIN) != 0)
+        {
+            int status = 0;
+            bool const isReaped = ::waitpid(process, &status, 0) == process;
+            SwapLock const lock(parentFd); // a confirmation that is on its way counts
+            bool const isSettled = !isReaped || IsEndedOnPurpose(status) || !AwaitsConfirmation(job, parentFd);
+            return isSettled ? StartEnd::Settled : StartEnd::Failed;
+        }
+    }
+    return StartEnd::Settled;
+}
+
+StartEnd StartOnce(InstallJob const& job, int parentFd, ReportChannel const& report)
+{
+    auto const started = StartAgain(job, report);
+    if (!started)
+    {
+        return StartEnd::Failed;
+    }
+    // Another bundle says nothing of the one that was installed.
+    bool const isTarget = started->path == Engine::RealPathOf(parentFd) + '/' + job.targetName;
+    return isTarget ? WaitForStart(job, parentFd, started->process) : StartEnd::Settled;
+}
+
+/// From here on the session may end this process: what it would do is done by the starts that are counted.
+void UnblockSignals()
+{
+    sigset_t none;
+    ::sigemptyset(&none);
+    ::sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
+} // namespace
+
+std::optional<StartedBundle> StartAgain(InstallJob const& job, ReportChannel const& report)
+{
+    struct Choice
+    {
+        std::string const& path;
+        RelaunchedBundle name;
+    };
+    bool const isAnswered = !job.relaunchPath.empty();
+    for (Choice const& choice :
+         {Choice{job.relaunchPath, RelaunchedBundle::Answered},
+          Choice{job.targetPath, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target}})
+    {
+        if (choice.path.empty())
+        {
+            continue;
+        }
+        try
+        {
+            RelaunchTarget const target = FindRelaunchTarget(choice.path);
+            pid_t const process = Relaunch(target, job.environment);
+            report.Send(Engine::RelaunchedReport{choice.name});
+            return StartedBundle{process, target.bundlePath};
+        }
+        catch (UpdateRefusal const& refusal)
+        {
+            report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+        }
+    }
+    return std::nullopt;
+}
+
+bool AwaitsConfirmation(InstallJob const& job, int parentFd)
+{
+    try
+    {
+        auto const journal = ReadSwapJournal(parentFd, job.targetName);
+        return journal && journal->stagingName == job.stagingName &&
+               journal->confirmation == Engine::StartConfirmation::ByHost;
+    }
+    catch (UpdateRefusal const&)
+    {
+        return false; // what cannot be read now is for the next start to decide
+    }
+}
+
+bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& report)
+{
+    UnblockSignals();
+    for (std::uint64_t failures = 0; failures < Engine::MAX_UNCONFIRMED_STARTS; ++failures)
+    {
+        if (StartOnce(job, parentFd, report) == StartEnd::Settled)
+        {
+            return true;
+        }
+    }
+    Engine::RecoveryAction action = Engine::RecoveryAction::Nothing;
+    {
+        SwapLock const lock(parentFd);
+        action = AwaitsConfirmation(job, parentFd) ? RollBackSwap(parentFd, job.targetName) : action;
+    }
+    report.Send(Engine::RecoveredReport{action});
+    if (action != Engine::RecoveryAction::RolledBack)
+    {
+        return true; // somebody else has taken the matter over
+    }
+    static_cast<void>(StartAgain(job, report));
+    return false;
+}
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,34 @@
+// WatchStart.h: starting what an update leaves, and standing by a new version that has yet to tell that it started
+// well. Thread: the process' only one. Ownership: descriptors stay the caller's.
+#pragma once
+
+#include "Engine/core/payload/UpdateJob.h"
+#include "Installer/ReportChannel.h"
+
+#include <optional>
+#include <string>
+
+#include <sys/types.h>
+
+namespace Pelnar::Installer
+{
+
+struct StartedBundle
+{
+    pid_t process;
+    std::string path; ///< the bundle's real one
+};
+
+/// Starts the answered path if that can be done, else the installed bundle, and reports it; nothing when neither
+/// starts.
+std::optional<StartedBundle> StartAgain(Engine::InstallJob const& job, ReportChannel const& report);
+
+/// True when the update of \a job is installed and its start is the host's to confirm, as far as can be told.
+[[nodiscard]] bool AwaitsConfirmation(Engine::InstallJob const& job, int parentFd);
+
+/// Starts the new version and answers once its start is confirmed, or a person has ended it. When it fails (it does not
+/// start, or ends by itself with another status than 0) it is started once more; when that fails too, the previous
+/// version is put back and started. False when it was. REQUIRES: AwaitsConfirmation.
+[[nodiscard]] bool StartAndWatch(Engine::InstallJob const& job, int parentFd, ReportChannel const& report);
+
+} // namespace Pelnar::Installer

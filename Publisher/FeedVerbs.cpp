@@ -6,6 +6,7 @@
 #include "Publisher/explain/ExplainVerb.h"
 #include "Publisher/lint/LintVerb.h"
 #include "Publisher/matrix/MatrixVerb.h"
+#include "Publisher/timeline/TimelineVerb.h"
 
 namespace Pelnar::Publisher
 {
@@ -16,6 +17,7 @@ void AddFeedVerbs(CLI::App& program, VerbContext& context)
     AddLint(program, context);
     AddMatrix(program, context);
     AddDiff(program, context);
+    AddTimeline(program, context);
 }
 
 } // namespace Pelnar::Publisher

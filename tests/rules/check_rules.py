@@ -56,6 +56,7 @@ SESSION_DECISIONS = {
     f"{SESSION}/{name}_p.h"
     for name in (
         "AppcastJudgement",
+        "CallbackRules",
         "Extensions",
         "ItemRecord",
         "LogSites",

@@ -1,0 +1,81 @@
+#include "Publisher/timeline/SessionLog.h"
+
+#include <QRegularExpression>
+
+#include <istream>
+#include <map>
+#include <string>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+namespace Sites = App::Session::Sites;
+
+std::map<int, Core::LogSite const*> const& SitesByLine()
+{
+#define PELNAR_SITE_ENTRY(name, severity, line, prefix) {line, &Sites::name},
+    static std::map<int, Core::LogSite const*> const sites = {PELNAR_SESSION_LOG_SITES(PELNAR_SITE_ENTRY)};
+#undef PELNAR_SITE_ENTRY
+    return sites;
+}
+
+/// Severity, date (with or without the year), time, thread, file and line.
+QRegularExpression const& RecordPattern()
+{
+    static QRegularExpression const pattern(
+        QStringLiteral("^[IWEF]\\d{4,8} (?<time>\\d\\d:\\d\\d:\\d\\d(?:\\.\\d+)?)\\s+\\d+ "
+                       "SparkleManager:(?<line>\\d+)\\] ?(?<text>.*)$"));
+    return pattern;
+}
+
+} // namespace
+
+SessionLog ReadSessionLog(std::istream& log)
+{
+    SessionLog result;
+    std::string line;
+    for (int number = 1; std::getline(log, line); ++number)
+    {
+        QString text = QString::fromStdString(line);
+        text.chop(text.endsWith(QLatin1Char('\r')) ? 1 : 0);
+        QRegularExpressionMatch const match = RecordPattern().match(text);
+        if (!match.hasMatch())
+        {
+            continue;
+        }
+        SessionRecord record{number, match.captured(QStringLiteral("time")), nullptr,
+                             match.captured(QStringLiteral("line")).toInt(), match.captured(QStringLiteral("text"))};
+        auto const site = SitesByLine().find(record.siteLine);
+        QString const prefix = site == SitesByLine().end() ? QString() : QString::fromLatin1(site->second->prefix);
+        bool const hasPrefix = prefix.isEmpty() || record.text.startsWith(prefix);
+        if (site == SitesByLine().end() || !hasPrefix)
+        {
+            result.strangers.push_back(record);
+            continue;
+        }
+        record.site = site->second;
+        record.text = record.text.mid(prefix.size());
+        if (!prefix.isEmpty() && record.text.startsWith(QLatin1String(": ")))
+        {
+            record.text = record.text.mid(2);
+        }
+        result.records.push_back(record);
+    }
+    return result;
+}
+
+QString OperationName(Core::LogSite const& site)
+{
+    QString name = QString::fromLatin1(site.prefix);
+    if (name.startsWith(QLatin1String("-[")))
+    {
+        // "-[Class method:part:]"
+        return name.mid(name.indexOf(QLatin1Char(' ')) + 1).chopped(1);
+    }
+    name.truncate(name.indexOf(QLatin1Char('(')));
+    return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,409 @@
+#include "Publisher/timeline/SessionModel.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/CallbackRules_p.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <iterator>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using App::Session::OutcomeReaction;
+using App::Session::State;
+namespace Sites = App::Session::Sites;
+
+QLatin1String const CURRENT_STATE("Current state = ");
+
+constexpr State STATES[] = {
+    State::WAITING,           State::FETCHING_INFO,  State::PREPARING_TO_SHOW_CHANGELOG, State::SILENT_DOWNLOADING,
+    State::SILENT_INSTALLING, State::SILENT_ABORTING};
+
+std::optional<State> StateFromName(QString const& name)
+{
+    auto const* const found =
+        std::find_if(std::begin(STATES), std::end(STATES),
+                     [&](State state) { return name == QLatin1String(App::Session::StateName(state)); });
+    return found == std::end(STATES) ? std::nullopt : std::optional(*found);
+}
+
+QString NameOf(std::optional<State> state)
+{
+    return state ? QString::fromLatin1(App::Session::StateName(*state)) : QStringLiteral("unknown");
+}
+
+bool EndsRequest(OutcomeReaction reaction)
+{
+    switch (reaction)
+    {
+    case OutcomeReaction::ReportAndIdle:
+    case OutcomeReaction::Idle:
+    case OutcomeReaction::ShowErrorAndIdle:
+        return true;
+    case OutcomeReaction::Nothing:
+    case OutcomeReaction::Unspecified:
+        return false;
+    }
+    return false;
+}
+
+/// Whether the operation may switch from the one state to the other: the session's own table.
+bool MaySwitch(Core::LogSite const* site, State from, State to)
+{
+    if (site == &Sites::CHECK)
+    {
+        return to == State::FETCHING_INFO;
+    }
+    if (site == &Sites::SHOW_DIALOG)
+    {
+        return to == State::SILENT_DOWNLOADING || to == State::PREPARING_TO_SHOW_CHANGELOG;
+    }
+    if (site == &Sites::CHECK_RAISED || site == &Sites::SHOW_DIALOG_RAISED)
+    {
+        return to == State::WAITING;
+    }
+    if (site == &Sites::WILL_INSTALL)
+    {
+        return to == State::SILENT_INSTALLING || to == State::SILENT_ABORTING;
+    }
+    if (to != State::WAITING)
+    {
+        return false;
+    }
+    return (site == &Sites::FOUND && EndsRequest(App::Session::ReactionToFound(from))) ||
+           (site == &Sites::NOT_FOUND && EndsRequest(App::Session::ReactionToNotFound(from))) ||
+           (site == &Sites::ABORTED && EndsRequest(App::Session::ReactionToAbort(from))) ||
+           (site == &Sites::DID_CANCEL && App::Session::IsCancelledInstallExpected(from));
+}
+
+/// Whether the session has a behaviour for the callback in the state.
+bool IsExpected(Core::LogSite const* site, State state)
+{
+    if (site == &Sites::FOUND)
+    {
+        return App::Session::ReactionToFound(state) != OutcomeReaction::Unspecified;
+    }
+    if (site == &Sites::NOT_FOUND)
+    {
+        return App::Session::ReactionToNotFound(state) != OutcomeReaction::Unspecified;
+    }
+    if (site == &Sites::SHOULD_RELAUNCH)
+    {
+        return App::Session::ReactionToRelaunch(state) != App::Session::RelaunchReaction::Unspecified;
+    }
+    if (site == &Sites::WILL_RELAUNCH)
+    {
+        return App::Session::ReactionToRelaunch(state) == App::Session::RelaunchReaction::Allowed;
+    }
+    if (site == &Sites::DID_CANCEL)
+    {
+        return App::Session::IsCancelledInstallExpected(state);
+    }
+    if (site == &Sites::BEST_ITEM)
+    {
+        // Asked within a request only, and every request has a state of its own.
+        return state != State::WAITING;
+    }
+    return true;
+}
+
+template <std::size_t N>
+bool IsOneOf(Core::LogSite const* site, Core::LogSite const* const (&sites)[N])
+{
+    return std::find(std::begin(sites), std::end(sites), site) != std::end(sites);
+}
+
+Core::LogSite const* const CALLBACKS[] = {&Sites::FOUND,        &Sites::NOT_FOUND,       &Sites::ABORTED,
+                                          &Sites::WILL_INSTALL, &Sites::SHOULD_RELAUNCH, &Sites::WILL_RELAUNCH,
+                                          &Sites::DID_CANCEL,   &Sites::RELAUNCH_PATH,   &Sites::BEST_ITEM};
+
+/// Callbacks that switch to WAITING from some states.
+Core::LogSite const* const OUTCOMES[] = {&Sites::FOUND, &Sites::NOT_FOUND, &Sites::ABORTED, &Sites::DID_CANCEL};
+/// Operations that switch from every state.
+Core::LogSite const* const SWITCHING[] = {&Sites::CHECK, &Sites::CHECK_RAISED, &Sites::SHOW_DIALOG,
+                                          &Sites::SHOW_DIALOG_RAISED, &Sites::WILL_INSTALL};
+/// Operations that give up when a guard fails, and the guards.
+Core::LogSite const* const GUARDED[] = {&Sites::CHECK, &Sites::SHOW_DIALOG, &Sites::FOUND, &Sites::NOT_FOUND};
+Core::LogSite const* const GUARDS[] = {&Sites::ENSURE_CONTEXT, &Sites::ENSURE_CALLBACK, &Sites::ENSURE_LOCAL_VERSION,
+                                       &Sites::ENSURE_REMOTE_VERSION};
+
+} // namespace
+
+void SessionModel::Take(SessionRecord const& record)
+{
+    CheckFollowUp(record);
+    if (record.text.startsWith(CURRENT_STATE))
+    {
+        TakeStatedState(record);
+    }
+    if (record.site == &Sites::SET_STATE)
+    {
+        TakeSwitch(record);
+    }
+    else if (IsOneOf(record.site, CALLBACKS))
+    {
+        TakeCallback(record);
+    }
+    else
+    {
+        TakeLock(record);
+        TakeUnlock(record);
+        TakeCommand(record);
+        TakeRest(record);
+    }
+    m_previous = record;
+}
+
+/// Some records must follow others at once.
+void SessionModel::CheckFollowUp(SessionRecord const& record)
+{
+    if (m_mustUnlock && record.site != &Sites::UNLOCK)
+    {
+        AddWrong(record, QStringLiteral("the lock was to be given back here: its holder had left"));
+    }
+    m_mustUnlock = false;
+    if (m_unexplainedIdle && record.site != &Sites::UNLOCK && record.site != &Sites::DESTROY_UPDATER)
+    {
+        AddWrong(*m_unexplainedIdle, QStringLiteral("nothing that was going on ends in WAITING here"));
+        m_unexplainedIdle.reset();
+    }
+}
+
+void SessionModel::TakeStatedState(SessionRecord const& record)
+{
+    QString const name = record.text.mid(CURRENT_STATE.size());
+    std::optional<State> const stated = StateFromName(name);
+    if (!stated)
+    {
+        AddWrong(record, QStringLiteral("%1 is no state").arg(name));
+        return;
+    }
+    if (m_state && *m_state != *stated)
+    {
+        AddWrong(record, QStringLiteral("the state is %1, and the last switch left %2").arg(name, NameOf(m_state)));
+    }
+    m_state = stated;
+}
+
+void SessionModel::TakeSwitch(SessionRecord const& record)
+{
+    QStringList const words = record.text.split(QLatin1Char(' '));
+    std::optional<State> const from = words.size() == 5 ? StateFromName(words.at(2)) : std::nullopt;
+    std::optional<State> const to = words.size() == 5 ? StateFromName(words.at(4)) : std::nullopt;
+    if (!from || !to)
+    {
+        AddWrong(record, QStringLiteral("no switch between two states: %1").arg(record.text));
+        return;
+    }
+    bool const isFirst = m_previous.site == nullptr;
+    if (m_state && *m_state != *from)
+    {
+        AddWrong(record,
+                 QStringLiteral("the switch leaves %1, and the state was %2").arg(NameOf(from), NameOf(m_state)));
+    }
+    m_state = to;
+    Add(record, EventKind::State, QStringLiteral("%1 -> %2").arg(NameOf(from), NameOf(to)));
+    if (CloseOperationFor(*from, *to) || isFirst)
+    {
+        return;
+    }
+    if (*to == State::WAITING)
+    {
+        m_unexplainedIdle = record;
+        return;
+    }
+    AddWrong(record, QStringLiteral("nothing that was going on leads from %1 to %2").arg(NameOf(from), NameOf(to)));
+}
+
+bool SessionModel::CloseOperationFor(State from, State to)
+{
+    auto const found = std::find_if(m_open.rbegin(), m_open.rend(),
+                                    [&](Core::LogSite const* site) { return MaySwitch(site, from, to); });
+    if (found == m_open.rend())
+    {
+        return false;
+    }
+    m_open.erase(std::next(found).base());
+    return true;
+}
+
+void SessionModel::TakeLock(SessionRecord const& record)
+{
+    if (record.site == &Sites::LOCK_UPDATER_REFUSED)
+    {
+        Add(record, EventKind::Lock,
+            m_isLocked.value_or(false) ? QStringLiteral("refused: holder %1 has it").arg(m_holder)
+                                       : QStringLiteral("refused: the framework is busy"));
+    }
+    else if (record.site == &Sites::SET_CONTEXT)
+    {
+        if (m_isLocked.value_or(false))
+        {
+            AddWrong(record, QStringLiteral("the lock is taken while holder %1 has it").arg(m_holder));
+        }
+        if (m_previous.site && m_previous.site != &Sites::LOCK)
+        {
+            AddWrong(record, QStringLiteral("the session is lent without its lock"));
+        }
+        m_isLocked = true;
+        m_isUnlockRequested = false;
+        m_holder = ++m_holders;
+    }
+    else if (record.site == &Sites::SET_CONTEXT_FEED)
+    {
+        Add(record, EventKind::Lock, QStringLiteral("taken by holder %1, %2").arg(m_holder).arg(record.text));
+    }
+}
+
+void SessionModel::TakeUnlock(SessionRecord const& record)
+{
+    if (record.site == &Sites::UNLOCK_WHEN_POSSIBLE)
+    {
+        bool const isIdle = m_state == State::WAITING;
+        Add(record, EventKind::Lock,
+            isIdle ? QStringLiteral("the holder leaves")
+                   : QStringLiteral("the holder leaves; the lock waits for WAITING"));
+        m_mustUnlock = isIdle;
+        m_isUnlockRequested = isIdle ? m_isUnlockRequested : true;
+    }
+    else if (record.site == &Sites::UNLOCK_IF_REQUESTED)
+    {
+        m_mustUnlock = m_isUnlockRequested.value_or(false);
+    }
+    else if (record.site == &Sites::UNLOCK)
+    {
+        bool const wasAsked = m_previous.site == &Sites::UNLOCK_WHEN_POSSIBLE || m_unexplainedIdle ||
+                              (m_previous.site == &Sites::UNLOCK_IF_REQUESTED && m_isUnlockRequested.value_or(true)) ||
+                              !m_previous.site;
+        if (!wasAsked)
+        {
+            AddWrong(record, QStringLiteral("the lock is given back, and nobody asked for it"));
+        }
+        Release();
+        Add(record, EventKind::Lock, QStringLiteral("free"));
+    }
+}
+
+void SessionModel::Release()
+{
+    m_isLocked = false;
+    m_isUnlockRequested = false;
+    m_holder = 0;
+}
+
+void SessionModel::TakeCommand(SessionRecord const& record)
+{
+    if (record.site == &Sites::CHECK || record.site == &Sites::SHOW_DIALOG)
+    {
+        ++m_checks;
+        Open(record.site);
+        Add(record, EventKind::Command,
+            record.site == &Sites::CHECK ? QStringLiteral("check %1: information only").arg(m_checks)
+                                         : QStringLiteral("check %1: the update dialog").arg(m_checks));
+        if (m_isLocked && !*m_isLocked)
+        {
+            AddWrong(record, QStringLiteral("a check begins while nobody holds the lock"));
+        }
+    }
+    else if (record.site == &Sites::CHECK_RAISED || record.site == &Sites::SHOW_DIALOG_RAISED)
+    {
+        Open(record.site);
+        Add(record, EventKind::Error, record.text);
+    }
+    else if (record.site == &Sites::REJECT)
+    {
+        Add(record, EventKind::Command, QStringLiteral("the update is rejected, a dialog closed"));
+    }
+}
+
+void SessionModel::TakeCallback(SessionRecord const& record)
+{
+    Open(record.site);
+    Add(record, EventKind::Callback, OperationName(*record.site));
+    if (m_state && !IsExpected(record.site, *m_state))
+    {
+        AddWrong(record, QStringLiteral("%1 cannot come in %2").arg(OperationName(*record.site), NameOf(m_state)));
+    }
+}
+
+void SessionModel::TakeRest(SessionRecord const& record)
+{
+    if (record.site == &Sites::CREATE_UPDATER)
+    {
+        // A new process; whatever was before it in the log is over.
+        m_state = State::WAITING;
+        Release();
+        m_open.clear();
+        Add(record, EventKind::Process, QStringLiteral("the session begins"));
+    }
+    else if (record.site == &Sites::DESTROY_UPDATER)
+    {
+        m_unexplainedIdle.reset();
+        Add(record, EventKind::Process, QStringLiteral("the session ends"));
+    }
+    else if (record.site == &Sites::NOTIFY_CHECK_FINISHED)
+    {
+        if (m_state && *m_state != State::WAITING)
+        {
+            AddWrong(record, QStringLiteral("the holder is told before the state is WAITING"));
+        }
+        Add(record, EventKind::Told, QStringLiteral("the check is over"));
+    }
+    else if (record.site == &Sites::FOUND_UPDATE_TYPE || record.site == &Sites::BEST_ITEM_NOT_DETECTED ||
+             record.site == &Sites::RELAUNCH_PATH_ANSWER)
+    {
+        Add(record, EventKind::Choice, record.text);
+    }
+    else if (record.site->severity == Core::LogSeverity::Error && record.site != &Sites::LOCK_UPDATER_REFUSED &&
+             record.site != &Sites::CHECK_RAISED && record.site != &Sites::SHOW_DIALOG_RAISED)
+    {
+        Add(record, EventKind::Error, record.text);
+        if (IsOneOf(record.site, GUARDS))
+        {
+            GiveUp();
+        }
+    }
+}
+
+void SessionModel::Open(Core::LogSite const* site)
+{
+    bool const isOutcome = IsOneOf(site, OUTCOMES);
+    bool const mayBegin = !isOutcome || !m_state || MaySwitch(site, *m_state, State::WAITING);
+    if (mayBegin && (isOutcome || IsOneOf(site, SWITCHING)))
+    {
+        m_open.push_back(site);
+    }
+}
+
+void SessionModel::GiveUp()
+{
+    bool const isAsked = !m_open.empty() && m_previous.site != &Sites::NOTIFY_CHECK_FINISHED;
+    if (isAsked && IsOneOf(m_open.back(), GUARDED))
+    {
+        m_open.pop_back();
+    }
+}
+
+void SessionModel::Add(SessionRecord const& record, EventKind kind, QString const& text)
+{
+    m_timeline.events.push_back({record.logLine, record.time, kind, text, m_holder, m_checks, m_state});
+}
+
+void SessionModel::AddWrong(SessionRecord const& record, QString const& text)
+{
+    Add(record, EventKind::Wrong, text);
+}
+
+Timeline SessionModel::Finish()
+{
+    if (m_unexplainedIdle)
+    {
+        AddWrong(*m_unexplainedIdle, QStringLiteral("nothing that was going on ends in WAITING here"));
+    }
+    return std::move(m_timeline);
+}
+
+} // namespace Pelnar::Publisher

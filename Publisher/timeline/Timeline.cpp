@@ -1,0 +1,63 @@
+#include "Publisher/timeline/Timeline.h"
+
+#include "Publisher/timeline/SessionModel.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+
+char const* EventKindName(EventKind kind)
+{
+    switch (kind)
+    {
+    case EventKind::Process:
+        return "process";
+    case EventKind::Lock:
+        return "lock";
+    case EventKind::Command:
+        return "command";
+    case EventKind::State:
+        return "state";
+    case EventKind::Callback:
+        return "callback";
+    case EventKind::Told:
+        return "told";
+    case EventKind::Choice:
+        return "choice";
+    case EventKind::Error:
+        return "error";
+    case EventKind::Wrong:
+        return "WRONG";
+    }
+    return "unknown";
+}
+
+int Timeline::WrongEvents() const
+{
+    return int(std::count_if(events.begin(), events.end(),
+                             [](TimelineEvent const& event) { return event.kind == EventKind::Wrong; }));
+}
+
+Timeline RebuildTimeline(SessionLog const& log)
+{
+    SessionModel model;
+    for (SessionRecord const& record : log.records)
+    {
+        model.Take(record);
+    }
+    Timeline timeline = model.Finish();
+    for (SessionRecord const& stranger : log.strangers)
+    {
+        TimelineEvent event{stranger.logLine, stranger.time, EventKind::Wrong, QString(), 0, 0, std::nullopt};
+        event.text = QStringLiteral("line %1 of the session's source writes no such record in this version: %2")
+                         .arg(stranger.siteLine)
+                         .arg(stranger.text);
+        timeline.events.push_back(event);
+    }
+    std::stable_sort(timeline.events.begin(), timeline.events.end(),
+                     [](TimelineEvent const& a, TimelineEvent const& b) { return a.logLine < b.logLine; });
+    return timeline;
+}
+
+} // namespace Pelnar::Publisher

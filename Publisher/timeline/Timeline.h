@@ -1,0 +1,54 @@
+// Timeline.h: what a session did, rebuilt from its records: states, the holder of its lock, callbacks; and every order
+// of records that the session cannot have written.
+// Thread: any. Ownership: values only.
+#pragma once
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
+#include "Publisher/timeline/SessionLog.h"
+
+#include <QString>
+
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+enum class EventKind
+{
+    Process,  ///< the session begins or ends
+    Lock,     ///< asked for, taken, refused, given back
+    Command,  ///< the holder asks for something; begins a check
+    State,    ///< the state changes
+    Callback, ///< the framework calls
+    Told,     ///< the holder hears that its check is over
+    Choice,   ///< an item was chosen, or none
+    Error,    ///< the session complains
+    Wrong,    ///< what cannot happen
+};
+
+/// "lock", "state", and so on.
+char const* EventKindName(EventKind kind);
+
+struct TimelineEvent
+{
+    int logLine = 0;
+    QString time;
+    EventKind kind = EventKind::Process;
+    QString text;
+    int holder = 0; ///< whose turn it is: counts those who took the lock, from 1; 0 while nobody holds it
+    int check = 0;  ///< counts commands that start one, from 1; 0 before the first
+    std::optional<App::Session::State> state; ///< after the event; nothing while it is unknown
+};
+
+struct Timeline
+{
+    std::vector<TimelineEvent> events;
+
+    [[nodiscard]] int WrongEvents() const;
+};
+
+/// A log may begin anywhere: what is unknown is learned from the first record that tells it.
+Timeline RebuildTimeline(SessionLog const& log);
+
+} // namespace Pelnar::Publisher

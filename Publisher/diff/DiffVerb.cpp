@@ -1,5 +1,6 @@
 #include "Publisher/diff/DiffVerb.h"
 
+#include "Publisher/Refusal.h"
 #include "Publisher/diff/FeedDiff.h"
 
 #include <QJsonArray>
@@ -101,7 +102,7 @@ void AddDiff(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<DiffOptions>();
     CLI::App* const verb = program.add_subcommand(
-        "diff", "Compare two feeds by effect: which installed versions on which systems get something else");
+        "diff", "Compares two feeds by effect: which installed versions on which systems get something else");
     verb->add_option("OLD", options->oldFeed, "Path or address of the feed as it was")->required();
     verb->add_option("NEW", options->newFeed, "Path or address of the feed as it will be, or - for standard input")
         ->required();
@@ -115,7 +116,7 @@ void AddDiff(CLI::App& program, VerbContext& context)
                      "Address of the published feed, for relative addresses in both; default: where each is read")
         ->type_name("URL");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
-    verb->callback([options, &context] { context.status = Diff(*options, context.console); });
+    SetWork(*verb, context, [options, &context] { return Diff(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

@@ -1,5 +1,6 @@
 #include "Publisher/explain/ExplainVerb.h"
 
+#include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientOptions.h"
 #include "Publisher/explain/ExplanationText.h"
 
@@ -62,7 +63,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<ExplainOptions>();
     CLI::App* const verb =
-        program.add_subcommand("explain", "Say which item a client takes, and why not each of the others");
+        program.add_subcommand("explain", "Says which item a client takes, and why not each of the others");
     verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
     verb->add_option("--local-version", options->localVersion, "Installed version of the application")
         ->required()
@@ -80,7 +81,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
-    verb->callback([options, &context] { context.status = Explain(*options, context.console); });
+    SetWork(*verb, context, [options, &context] { return Explain(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

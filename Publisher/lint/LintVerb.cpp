@@ -2,6 +2,7 @@
 
 #include "Engine/core/payload/Ed25519Signature.h"
 #include "Publisher/FeedSource.h"
+#include "Publisher/Refusal.h"
 #include "Publisher/lint/FetchRules.h"
 #include "Publisher/lint/LintReport.h"
 
@@ -84,7 +85,7 @@ void AddLint(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<LintOptions>();
     CLI::App* const verb =
-        program.add_subcommand("lint", "Find what clients would refuse or misread, with place and mend");
+        program.add_subcommand("lint", "Finds what clients would refuse or misread, with place and mend");
     verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input");
     verb->add_option("--published-at", options->publishedAt,
                      "Address of the published feed, for relative addresses in it; default: where it is read")
@@ -98,7 +99,7 @@ void AddLint(CLI::App& program, VerbContext& context)
     verb->add_flag("--strict", options->isStrict, "Exit with 1 for notes as well");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
     verb->add_flag("--rules", options->isListingRules, "Print the table of all rules, in Markdown, and nothing else");
-    verb->callback([options, &context] { context.status = Lint(*options, context.console); });
+    SetWork(*verb, context, [options, &context] { return Lint(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

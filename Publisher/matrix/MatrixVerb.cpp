@@ -1,5 +1,6 @@
 #include "Publisher/matrix/MatrixVerb.h"
 
+#include "Publisher/Refusal.h"
 #include "Publisher/matrix/Matrix.h"
 
 #include <QFile>
@@ -152,7 +153,7 @@ void AddMatrix(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<MatrixOptions>();
     CLI::App* const verb =
-        program.add_subcommand("matrix", "Say who gets what: every installed version on every system");
+        program.add_subcommand("matrix", "Says who gets what: every installed version on every system");
     verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
     verb->add_option("--versions", options->versions,
                      "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
@@ -171,7 +172,7 @@ void AddMatrix(CLI::App& program, VerbContext& context)
                      "defaults")
         ->type_name("FILE");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
-    verb->callback([options, &context] { context.status = ShowMatrix(*options, context.console); });
+    SetWork(*verb, context, [options, &context] { return ShowMatrix(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

@@ -152,6 +152,7 @@ void SessionModel::Take(SessionRecord const& record)
         TakeLock(record);
         TakeUnlock(record);
         TakeCommand(record);
+        TakeChoice(record);
         TakeRest(record);
     }
     m_previous = record;
@@ -329,6 +330,29 @@ void SessionModel::TakeCallback(SessionRecord const& record)
     }
 }
 
+void SessionModel::TakeChoice(SessionRecord const& record)
+{
+    QString const value = record.text.mid(record.text.indexOf(QLatin1String(" = ")) + 3);
+    if (record.site == &Sites::BEST_ITEM_DETECTED)
+    {
+        m_isBestItemNext = true;
+    }
+    else if (record.site == &Sites::DUMP_VERSION)
+    {
+        m_dumpedVersion = value;
+    }
+    else if (record.site == &Sites::DUMP_UPDATE_TYPE && m_isBestItemNext)
+    {
+        m_isBestItemNext = false;
+        Add(record, EventKind::Choice, QStringLiteral("the best item is %1, %2").arg(m_dumpedVersion, value));
+    }
+    else if (record.site == &Sites::FOUND_UPDATE_TYPE || record.site == &Sites::BEST_ITEM_NOT_DETECTED ||
+             record.site == &Sites::RELAUNCH_PATH_ANSWER)
+    {
+        Add(record, EventKind::Choice, record.text);
+    }
+}
+
 void SessionModel::TakeRest(SessionRecord const& record)
 {
     if (record.site == &Sites::CREATE_UPDATER)
@@ -351,11 +375,6 @@ void SessionModel::TakeRest(SessionRecord const& record)
             AddWrong(record, QStringLiteral("the holder is told before the state is WAITING"));
         }
         Add(record, EventKind::Told, QStringLiteral("the check is over"));
-    }
-    else if (record.site == &Sites::FOUND_UPDATE_TYPE || record.site == &Sites::BEST_ITEM_NOT_DETECTED ||
-             record.site == &Sites::RELAUNCH_PATH_ANSWER)
-    {
-        Add(record, EventKind::Choice, record.text);
     }
     else if (record.site->severity == Core::LogSeverity::Error && record.site != &Sites::LOCK_UPDATER_REFUSED &&
              record.site != &Sites::CHECK_RAISED && record.site != &Sites::SHOW_DIALOG_RAISED)

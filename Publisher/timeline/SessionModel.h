@@ -24,6 +24,7 @@ private:
     void TakeUnlock(SessionRecord const& record);
     void TakeCommand(SessionRecord const& record);
     void TakeCallback(SessionRecord const& record);
+    void TakeChoice(SessionRecord const& record);
     void TakeRest(SessionRecord const& record);
     void Release();
     /// Notes that the operation will switch the state, if it is one that does so from here.
@@ -44,6 +45,8 @@ private:
     std::optional<SessionRecord> m_unexplainedIdle;
     SessionRecord m_previous;
     bool m_mustUnlock = false;
+    bool m_isBestItemNext = false; ///< the item that is dumped next was chosen
+    QString m_dumpedVersion;
     int m_holders = 0;
     int m_holder = 0;
     int m_checks = 0;

@@ -1,5 +1,6 @@
 #include "Publisher/timeline/TimelineVerb.h"
 
+#include "Publisher/Refusal.h"
 #include "Publisher/timeline/Timeline.h"
 
 #include <QJsonArray>
@@ -123,10 +124,10 @@ void AddTimeline(CLI::App& program, VerbContext& context)
 {
     auto const options = std::make_shared<TimelineOptions>();
     CLI::App* const verb = program.add_subcommand(
-        "timeline", "Rebuild from an application's log what its update session did, and flag what cannot happen");
+        "timeline", "Rebuilds from an application's log what its update session did, and flags what cannot happen");
     verb->add_option("LOG", options->log, "Path of the log, or - for standard input")->required();
     verb->add_flag("--json", options->isJson, "Print one JSON object");
-    verb->callback([options, &context] { context.status = ShowTimeline(*options, context.console); });
+    SetWork(*verb, context, [options, &context] { return ShowTimeline(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

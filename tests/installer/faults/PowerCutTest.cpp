@@ -65,7 +65,8 @@ protected:
     template <typename Prepare, typename Act>
     void CutEverywhere(Prepare const& prepareScene, Act const& act)
     {
-        RunOnce(prepareScene, act, [&] { return IsEveryPlaceWanted() || m_random() % SAMPLE_OF == 0; });
+        unsigned place = m_random() % SAMPLE_OF;
+        RunOnce(prepareScene, act, [&] { return IsEveryPlaceWanted() || place++ % SAMPLE_OF == 0; });
         EXPECT_GT(m_cuts, 0);
         RecordProperty("cuts", m_cuts);
         RecordProperty("missing_until_recovered", m_missing);

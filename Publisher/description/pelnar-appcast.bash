@@ -9,6 +9,7 @@ _pelnar_appcast()
             "/lint" | \
             "/matrix" | \
             "/diff" | \
+            "/timeline" | \
             "/keys" | \
             "/sign" | \
             "/verify" | \
@@ -34,11 +35,12 @@ _pelnar_appcast()
     esac
     if [ -z "$words" ]; then
         case "$verb" in
-            "") words="explain lint matrix diff keys sign verify generate delta serve -h --help" ;;
+            "") words="explain lint matrix diff timeline keys sign verify generate delta serve -h --help" ;;
             "explain") words="-h --help --local-version --system-version --platform --published-at --after-delta --json" ;;
             "lint") words="-h --help --published-at --fetch --public-key --strict --json --rules" ;;
             "matrix") words="-h --help --versions --systems --platform --published-at --expect --json" ;;
             "diff") words="-h --help --versions --platform --published-at --json" ;;
+            "timeline") words="-h --help --json" ;;
             "keys") words="generate show export -h --help" ;;
             "keys generate") words="-h --help --format" ;;
             "keys show") words="-h --help --format" ;;

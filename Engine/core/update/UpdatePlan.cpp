@@ -41,9 +41,9 @@ PayloadKind KindOf(UpdateCandidate const& candidate)
         return PayloadKind::Delta;
     }
     QString const fileName = candidate.item.fileUrl.fileName();
-    bool const isInstaller = std::any_of(std::begin(INSTALLER_MARKS), std::end(INSTALLER_MARKS),
-                                         [&fileName](char const* mark)
-                                         { return fileName.contains(QLatin1String(mark), Qt::CaseInsensitive); });
+    bool const isInstaller =
+        std::any_of(std::begin(INSTALLER_MARKS), std::end(INSTALLER_MARKS),
+                    [&fileName](char const* mark) { return fileName.contains(QLatin1String(mark)); });
     return isInstaller ? PayloadKind::Installer : PayloadKind::WholeBundle;
 }
 

@@ -70,9 +70,9 @@ int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
     application.SetServices({nagScreens, std::make_shared<App::ReferenceCustomizationManager>(options.customization),
                              std::make_shared<App::ReferenceLinksManager>(options.links)});
 
-    WindowCamera camera(options.screenshotFolder, options.script == Script::None
-                                                      ? WindowCamera::AfterPicture::LeaveOpen
-                                                      : WindowCamera::AfterPicture::DismissDialogs);
+    bool const isDismissing = options.script == Script::CheckOnce || options.script == Script::ShowDialogs;
+    WindowCamera camera(options.screenshotFolder, isDismissing ? WindowCamera::AfterPicture::DismissDialogs
+                                                               : WindowCamera::AfterPicture::LeaveOpen);
     DemoWindow window(options);
     window.show();
     ScriptRun script(application, window, camera, options);

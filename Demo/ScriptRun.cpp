@@ -55,6 +55,11 @@ ScriptRun::ScriptRun(App::ReferenceApplication& application, DemoWindow& window,
 
 void ScriptRun::Start()
 {
+    if (m_script != Script::None)
+    {
+        // The last picture of the window holds all notifications.
+        connect(&m_application, &QCoreApplication::aboutToQuit, this, [this] { m_camera.TakePicture(m_window); });
+    }
     QTimer::singleShot(0, this, &ScriptRun::Begin);
 }
 
@@ -75,7 +80,6 @@ void ScriptRun::Begin()
     case Script::None:
         break;
     case Script::CheckOnce:
-        // One more turn of the event loop, for the picture of a window that opened last.
         connect(&m_window, &DemoWindow::CheckEnded, this, &ScriptRun::FinishSoon);
         m_window.CheckForUpdates();
         break;
@@ -105,12 +109,8 @@ void ScriptRun::MakeClicks()
 
 void ScriptRun::FinishSoon()
 {
-    QTimer::singleShot(0, this,
-                       [this]
-                       {
-                           m_camera.TakePicture(m_window);
-                           m_application.TryToQuit();
-                       });
+    // One more turn of the event loop, for the picture of a window that opened last.
+    QTimer::singleShot(0, this, [this] { m_application.TryToQuit(); });
 }
 
 void ScriptRun::Fail(QString const& sentence)

@@ -1,0 +1,269 @@
+#include "tests/end_to_end/InstalledDemo.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/TreeManifest.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+
+#include <algorithm>
+
+#include <fcntl.h>
+#include <poll.h>
+#include <unistd.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+constexpr int PATIENCE_MS = 100000;
+constexpr int SERVER_PATIENCE_MS = 30000;
+constexpr QDir::Filters ALL_ENTRIES = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+constexpr char RUNNING_PREFIX[] = "Pelnar Demo ";
+constexpr char RUNNING_SUFFIX[] = " is running";
+
+QString Published(char const* name)
+{
+    return QStringLiteral(PELNAR_PUBLISHED_DEMO "/") + QString::fromLatin1(name);
+}
+
+Engine::Sha256 TreeOf(QString const& bundle)
+{
+    Engine::UniqueFd const folder(::open(QFile::encodeName(bundle).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    return Engine::DigestTree(folder.Get());
+}
+
+/// A program whose output goes into a pipe that its children inherit.
+class PipedProcess : public QProcess
+{
+public:
+    explicit PipedProcess(int outputFd) : m_outputFd(outputFd) { setProcessChannelMode(QProcess::ForwardedChannels); }
+
+protected:
+    void setupChildProcess() override
+    {
+        ::dup2(m_outputFd, STDOUT_FILENO);
+        ::dup2(m_outputFd, STDERR_FILENO);
+    }
+
+private:
+    int m_outputFd;
+};
+
+/// Reads until nobody can write any more; false when somebody still can after all that time.
+[[nodiscard]] bool ReadToEnd(int fd, std::string& text)
+{
+    QElapsedTimer timer;
+    timer.start();
+    char bytes[4096];
+    for (;;)
+    {
+        pollfd entry{fd, POLLIN, 0};
+        int const left = static_cast<int>(std::max<qint64>(PATIENCE_MS - timer.elapsed(), 0));
+        if (::poll(&entry, 1, left) == 0)
+        {
+            return false;
+        }
+        ssize_t const count = ::read(fd, bytes, sizeof bytes);
+        if (count == 0)
+        {
+            return true;
+        }
+        text.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
+    }
+}
+
+std::vector<std::string> LinesOf(std::string const& text)
+{
+    std::vector<std::string> lines;
+    for (std::size_t begin = 0; begin < text.size();)
+    {
+        std::size_t const end = std::min(text.find('\n', begin), text.size());
+        lines.push_back(text.substr(begin, end - begin));
+        begin = end + 1;
+    }
+    return lines;
+}
+
+} // namespace
+
+std::vector<std::string> DemoOutput::RunningVersions() const
+{
+    std::string const prefix = RUNNING_PREFIX;
+    std::string const suffix = RUNNING_SUFFIX;
+    std::vector<std::string> versions;
+    for (std::string const& line : lines)
+    {
+        bool const isTold = line.size() > prefix.size() + suffix.size() &&
+                            line.compare(0, prefix.size(), prefix) == 0 &&
+                            line.compare(line.size() - suffix.size(), suffix.size(), suffix) == 0;
+        if (isTold)
+        {
+            versions.push_back(line.substr(prefix.size(), line.size() - prefix.size() - suffix.size()));
+        }
+    }
+    return versions;
+}
+
+bool DemoOutput::Says(std::string const& line) const
+{
+    return std::find(lines.begin(), lines.end(), line) != lines.end();
+}
+
+std::string DemoOutput::Text() const
+{
+    std::string text;
+    for (std::string const& line : lines)
+    {
+        text += line + '\n';
+    }
+    return text;
+}
+
+UpdateServer::UpdateServer(QStringList const& faults)
+{
+    QStringList arguments{QStringLiteral("serve"), QStringLiteral("--end-with-input"),
+                          Published("site"),       QStringLiteral("--tls"),
+                          Published("server.pem"), Published("server.key")};
+    for (QString const& fault : faults)
+    {
+        arguments += {QStringLiteral("--fault"), fault};
+    }
+    m_process.start(QStringLiteral(PELNAR_APPCAST_PROGRAM), arguments);
+    while (!m_process.canReadLine() && m_process.waitForReadyRead(SERVER_PATIENCE_MS))
+    {
+    }
+    m_address = QString::fromLatin1(m_process.readLine()).trimmed();
+    EXPECT_TRUE(m_address.startsWith(QLatin1String("https://127.0.0.1:")))
+        << m_process.readAllStandardError().toStdString();
+}
+
+UpdateServer::~UpdateServer()
+{
+    m_process.closeWriteChannel();
+    m_process.waitForFinished(SERVER_PATIENCE_MS);
+}
+
+std::vector<std::string> UpdateServer::EndAndListServedFiles()
+{
+    m_process.closeWriteChannel();
+    EXPECT_TRUE(m_process.waitForFinished(SERVER_PATIENCE_MS));
+    std::vector<std::string> names;
+    for (QByteArray const& line : m_process.readAllStandardError().split('\n'))
+    {
+        QList<QByteArray> const words = line.split(' ');
+        if (words.size() > 2 && (words[2] == "200" || words[2] == "206"))
+        {
+            names.push_back(words[1].mid(1).toStdString());
+        }
+    }
+    return names;
+}
+
+InstalledDemo::InstalledDemo()
+{
+    for (char const* const name : {"Applications", "Defaults", "home", "pictures", "runtime"})
+    {
+        EXPECT_TRUE(QDir().mkpath(Path(name)));
+    }
+    // Qt asks for it.
+    EXPECT_TRUE(QFile::setPermissions(Path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    EXPECT_EQ(QProcess::execute(QStringLiteral("cp"),
+                                {QStringLiteral("-a"), Published("old/PelnarDemo.app"), Path("Applications")}),
+              0);
+    QFile config(Path("GNUstep.conf"));
+    EXPECT_TRUE(config.open(QIODevice::WriteOnly));
+    config.write("GNUSTEP_USER_DEFAULTS_DIR=" + QFile::encodeName(Path("Defaults")) + '\n');
+}
+
+void InstalledDemo::WriteDefaults(QByteArray const& text)
+{
+    QFile file(Path("Defaults/PelnarDemo.plist"));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+}
+
+QByteArray InstalledDemo::ReadDefaults() const
+{
+    QFile file(Path("Defaults/PelnarDemo.plist"));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+DemoOutput InstalledDemo::Run(QString const& feed, QStringList const& arguments) const
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), Path("GNUstep.conf"));
+    environment.insert(QStringLiteral("HOME"), Path("home"));
+    environment.insert(QStringLiteral("XDG_CACHE_HOME"), Path("home/cache"));
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("home/config"));
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("runtime"));
+    environment.insert(QStringLiteral("SSL_CERT_FILE"), Published("authority.pem"));
+    environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
+    environment.insert(QStringLiteral("PELNAR_DEMO_OPTIONS"), QStringLiteral("--scenario start"));
+
+    DemoOutput output;
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC) != 0)
+    {
+        ADD_FAILURE() << "no pipe";
+        return output;
+    }
+    Engine::UniqueFd const readingEnd(ends[0]);
+    Engine::UniqueFd writingEnd(ends[1]);
+    PipedProcess process(writingEnd.Get());
+    process.setProcessEnvironment(environment);
+    process.start(Path("Applications/PelnarDemo.app/PelnarDemo"),
+                  QStringList{QStringLiteral("--feed"), feed, QStringLiteral("--screenshot-dir"), Path("pictures")} +
+                      arguments);
+    EXPECT_TRUE(process.waitForStarted());
+    writingEnd = Engine::UniqueFd();
+    std::string text;
+    output.hasEnded = ReadToEnd(readingEnd.Get(), text) && process.waitForFinished();
+    output.lines = LinesOf(text);
+    if (output.hasEnded && process.exitStatus() == QProcess::NormalExit)
+    {
+        output.status = process.exitCode();
+    }
+    return output;
+}
+
+Engine::Sha256 InstalledDemo::Tree() const
+{
+    return TreeOf(Path("Applications/PelnarDemo.app"));
+}
+
+std::vector<std::string> InstalledDemo::Neighbours() const
+{
+    std::vector<std::string> names;
+    for (QFileInfo const& entry : QDir(Path("Applications")).entryInfoList(ALL_ENTRIES, QDir::Name))
+    {
+        names.push_back(entry.fileName().toStdString());
+    }
+    return names;
+}
+
+std::vector<std::string> InstalledDemo::Pictures() const
+{
+    std::vector<std::string> names;
+    for (QFileInfo const& picture : QDir(Path("pictures")).entryInfoList(QDir::Files, QDir::Name))
+    {
+        names.push_back(picture.completeBaseName().toStdString());
+    }
+    return names;
+}
+
+Engine::Sha256 OldTree()
+{
+    return TreeOf(Published("old/PelnarDemo.app"));
+}
+
+Engine::Sha256 NewTree()
+{
+    return TreeOf(Published("new/PelnarDemo.app"));
+}
+
+} // namespace Pelnar::Testing

@@ -1,0 +1,81 @@
+// InstalledDemo.h: the demo application as a person has it: installed as a bundle, with a home of its own, and a server
+// with its updates. Real processes throughout.
+// Thread: one. Ownership: scope objects; folders and processes end with them.
+#pragma once
+
+#include "Engine/core/delta/Sha256Hasher.h"
+
+#include <QProcess>
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+/// What the old version, the helper and the version that it starts have said, to the end of the last of them.
+struct DemoOutput
+{
+    bool hasEnded = false;          ///< all of them
+    int status = -1;                ///< of the version that was started; -1 for a signal
+    std::vector<std::string> lines; ///< log lines as well
+
+    /// The versions that started, in order.
+    std::vector<std::string> RunningVersions() const;
+    [[nodiscard]] bool Says(std::string const& line) const;
+    /// The lines as they were, for a failing test.
+    std::string Text() const;
+};
+
+/// Serves the published folder over HTTPS.
+class UpdateServer
+{
+public:
+    /// \a faults are what the server is told to do wrong.
+    explicit UpdateServer(QStringList const& faults = {});
+    ~UpdateServer();
+
+    QString Url(QString const& feed) const { return m_address + QLatin1Char('/') + feed; }
+    /// Ends the server; the names of the files that it was asked for in requests that it answered with their bytes.
+    std::vector<std::string> EndAndListServedFiles();
+
+private:
+    QProcess m_process;
+    QString m_address;
+};
+
+class InstalledDemo
+{
+public:
+    /// Installs the old version.
+    InstalledDemo();
+
+    /// Sets the old-style property list \a text as the user defaults of the application.
+    void WriteDefaults(QByteArray const& text);
+    /// The text of the file of the user defaults; empty when there is none.
+    QByteArray ReadDefaults() const;
+
+    /// Runs the installed version with \a feed and \a arguments. A version that is started in its place shows itself
+    /// and quits.
+    DemoOutput Run(QString const& feed, QStringList const& arguments) const;
+
+    /// The hash of the installed bundle.
+    Engine::Sha256 Tree() const;
+    /// The names in the folder that holds the bundle.
+    std::vector<std::string> Neighbours() const;
+    /// The names of the pictures that were taken of the first version's windows, without their ending.
+    std::vector<std::string> Pictures() const;
+
+private:
+    QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+
+    QTemporaryDir m_folder;
+};
+
+/// The hashes of the bundles as they were published.
+Engine::Sha256 OldTree();
+Engine::Sha256 NewTree();
+
+} // namespace Pelnar::Testing

@@ -1,0 +1,204 @@
+// UpdateScenarioTest.cpp: whole updates of an installed application, by real processes: the host, its helper, the
+// server and the version that runs afterwards. The demo application makes the checks, through UpdateManager, and the
+// clicks.
+#include "tests/end_to_end/InstalledDemo.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <ostream>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+using Names = std::vector<std::string>;
+
+constexpr char WHOLE_FEED[] = "appcast.xml";
+constexpr char DELTA_FEED[] = "appcast-delta.xml";
+constexpr char TAMPERED_FEED[] = "appcast-tampered.xml";
+constexpr char WHOLE_ARCHIVE[] = "PelnarDemo-5.10.tar.gz";
+constexpr char DELTA_ARCHIVE[] = "PelnarDemo-5.9-5.10.delta";
+
+constexpr char SKIP[] = "PelnarEngine_updateWindow/PelnarEngine_skipButton";
+constexpr char REMIND[] = "PelnarEngine_updateWindow/PelnarEngine_remindButton";
+constexpr char INSTALL[] = "PelnarEngine_updateWindow/PelnarEngine_installButton";
+constexpr char CANCEL_DOWNLOAD[] = "PelnarEngine_progressWindow/PelnarEngine_cancelButton";
+constexpr char LATER[] = "PelnarEngine_readyWindow/PelnarEngine_laterButton";
+constexpr char RELAUNCH[] = "PelnarEngine_readyWindow/PelnarEngine_installAndRelaunchButton";
+constexpr char CLOSE_ERROR[] = "PelnarEngine_errorWindow/PelnarEngine_okButton";
+constexpr char CLOSE_UP_TO_DATE[] = "PelnarEngine_upToDateWindow/PelnarEngine_okButton";
+constexpr char SESSION_RELAUNCH[] = "SparkleUpdater_updateIsReadyToInstallDialog/Install and Relaunch";
+constexpr char SESSION_LATER[] = "SparkleUpdater_updateIsReadyToInstallDialog/Remind Me Later";
+constexpr char SESSION_SKIP[] = "SparkleUpdater_updateIsReadyToInstallDialog/Skip This Version";
+
+constexpr char DOWNLOADS_SILENTLY[] = "{ SUAutomaticallyUpdate = YES; }";
+constexpr char FOUND[] = "OnUpdateFound current=5.9 remote=5.10";
+
+QStringList Script(char const* mode, char const* scenario, std::vector<char const*> const& clicks = {})
+{
+    QStringList arguments{QStringLiteral("--mode"), QString::fromLatin1(mode), QStringLiteral("--scenario"),
+                          QString::fromLatin1(scenario)};
+    for (char const* const click : clicks)
+    {
+        arguments += {QStringLiteral("--click"), QString::fromLatin1(click)};
+    }
+    return arguments;
+}
+
+class UpdateScenario : public testing::Test
+{
+protected:
+    DemoOutput Run(UpdateServer const& server, char const* feed, QStringList const& script) const
+    {
+        DemoOutput output = demo.Run(server.Url(QString::fromLatin1(feed)), script);
+        EXPECT_TRUE(output.hasEnded) << output.Text();
+        EXPECT_EQ(output.status, 0) << output.Text();
+        return output;
+    }
+
+    void ExpectUpdated(DemoOutput const& output) const
+    {
+        EXPECT_EQ(output.RunningVersions(), (Names{"5.9", "5.10"})) << output.Text();
+        EXPECT_TRUE(demo.Tree() == NewTree());
+        ExpectStarts("5.10");
+    }
+
+    void ExpectUntouched(DemoOutput const& output) const
+    {
+        EXPECT_EQ(output.RunningVersions(), Names{"5.9"}) << output.Text();
+        EXPECT_TRUE(demo.Tree() == OldTree());
+        EXPECT_EQ(demo.Neighbours(), Names{"PelnarDemo.app"});
+        ExpectStarts("5.9");
+    }
+
+    void ExpectStarts(char const* version) const
+    {
+        DemoOutput const output = demo.Run(QStringLiteral("https://127.0.0.1/none"), Script("user", "start"));
+        EXPECT_EQ(output.status, 0);
+        EXPECT_EQ(output.RunningVersions(), Names{version}) << output.Text();
+    }
+
+    InstalledDemo demo;
+};
+
+TEST_F(UpdateScenario, APersonInstallsAndTheNewVersionRuns)
+{
+    UpdateServer server;
+    DemoOutput const output = Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH}));
+    EXPECT_TRUE(output.Says(FOUND)) << output.Text();
+    ExpectUpdated(output);
+    EXPECT_EQ(demo.Pictures(), (Names{"PelnarDemoWindow", "PelnarEngine_checkingWindow", "PelnarEngine_progressWindow",
+                                      "PelnarEngine_readyWindow", "PelnarEngine_updateWindow"}));
+}
+
+TEST_F(UpdateScenario, ASilentDownloadEndsInTheDialogAndTheNewVersionRuns)
+{
+    UpdateServer server;
+    demo.WriteDefaults(DOWNLOADS_SILENTLY);
+    DemoOutput const output = Run(server, WHOLE_FEED, Script("automatic", "update", {SESSION_RELAUNCH}));
+    EXPECT_TRUE(output.Says(FOUND)) << output.Text();
+    ExpectUpdated(output);
+    EXPECT_EQ(demo.Pictures(), (Names{"PelnarDemoWindow", "SparkleUpdater_updateIsReadyToInstallDialog"}))
+        << "no window of the engine";
+}
+
+TEST_F(UpdateScenario, ADeltaIsAllThatIsDownloaded)
+{
+    UpdateServer server;
+    ExpectUpdated(Run(server, DELTA_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+    Names const served = server.EndAndListServedFiles();
+    EXPECT_EQ(std::count(served.begin(), served.end(), DELTA_ARCHIVE), 1);
+    EXPECT_EQ(std::count(served.begin(), served.end(), WHOLE_ARCHIVE), 0);
+}
+
+TEST_F(UpdateScenario, ASilentDeltaIsInstalledAsWell)
+{
+    UpdateServer server;
+    demo.WriteDefaults(DOWNLOADS_SILENTLY);
+    ExpectUpdated(Run(server, DELTA_FEED, Script("automatic", "update", {SESSION_RELAUNCH})));
+    Names const served = server.EndAndListServedFiles();
+    EXPECT_EQ(std::count(served.begin(), served.end(), WHOLE_ARCHIVE), 0);
+}
+
+TEST_F(UpdateScenario, ADeltaThatCannotBeHadGivesWayToTheWholeWithoutAWord)
+{
+    UpdateServer server({QStringLiteral("status:PelnarDemo-5.9-5.10.delta:404")});
+    ExpectUpdated(Run(server, DELTA_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+    Names const served = server.EndAndListServedFiles();
+    EXPECT_EQ(std::count(served.begin(), served.end(), WHOLE_ARCHIVE), 1);
+}
+
+TEST_F(UpdateScenario, ASkippedVersionIsOfferedOnlyToAPersonWhoAsks)
+{
+    UpdateServer server;
+    DemoOutput const skipping = Run(server, WHOLE_FEED, Script("automatic", "answer", {SKIP}));
+    EXPECT_TRUE(skipping.Says(FOUND)) << skipping.Text();
+    EXPECT_TRUE(demo.ReadDefaults().contains("SUSkippedVersion")) << demo.ReadDefaults().toStdString();
+
+    DemoOutput const background = Run(server, WHOLE_FEED, Script("automatic", "check"));
+    EXPECT_FALSE(background.Says(FOUND)) << background.Text();
+
+    ExpectUntouched(Run(server, WHOLE_FEED, Script("user", "answer", {REMIND})));
+}
+
+TEST_F(UpdateScenario, ATamperedArchiveIsRefusedAndTheOldVersionStarts)
+{
+    UpdateServer server;
+    ExpectUntouched(Run(server, TAMPERED_FEED, Script("user", "answer", {INSTALL, CLOSE_ERROR})));
+    Names const pictures = demo.Pictures();
+    EXPECT_EQ(std::count(pictures.begin(), pictures.end(), "PelnarEngine_errorWindow"), 1);
+}
+
+TEST_F(UpdateScenario, AnUpdateThatIsInstalledIsNotOfferedAgain)
+{
+    UpdateServer server;
+    ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+    DemoOutput const output = Run(server, WHOLE_FEED, Script("user", "answer", {CLOSE_UP_TO_DATE}));
+    EXPECT_EQ(output.RunningVersions(), Names{"5.10"}) << output.Text();
+}
+
+/// Ways to say no: nothing is installed, nothing stays behind.
+struct Refusal
+{
+    char const* name;
+    char const* mode;
+    char const* defaults;
+    std::vector<char const*> clicks;
+};
+
+std::ostream& operator<<(std::ostream& out, Refusal const& row)
+{
+    return out << row.name;
+}
+
+class RefusedUpdate : public UpdateScenario, public testing::WithParamInterface<Refusal>
+{
+};
+
+TEST_P(RefusedUpdate, LeavesTheOldVersionAsItWas)
+{
+    UpdateServer server;
+    demo.WriteDefaults(GetParam().defaults);
+    ExpectUntouched(Run(server, WHOLE_FEED, Script(GetParam().mode, "answer", GetParam().clicks)));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, RefusedUpdate,
+                         testing::Values(Refusal{"Reminded", "user", "{}", {REMIND}},
+                                         Refusal{"Skipped", "user", "{}", {SKIP}},
+                                         Refusal{"RemindedUnasked", "automatic", "{}", {REMIND}},
+                                         Refusal{"CancelledDownload", "user", "{}", {INSTALL, CANCEL_DOWNLOAD}},
+                                         Refusal{"LaterWhenReady", "user", "{}", {INSTALL, LATER}},
+                                         Refusal{"SilentThenLater", "automatic", DOWNLOADS_SILENTLY, {SESSION_LATER}},
+                                         Refusal{"SilentThenSkipped", "automatic", DOWNLOADS_SILENTLY, {SESSION_SKIP}}),
+                         [](auto const& info) { return std::string(info.param.name); });
+
+TEST_F(UpdateScenario, AnArchiveThatIsNotThereIsSaidInOneWindow)
+{
+    UpdateServer server({QStringLiteral("status:PelnarDemo-5.10.tar.gz:404")});
+    ExpectUntouched(Run(server, WHOLE_FEED, Script("user", "answer", {INSTALL, CLOSE_ERROR})));
+}
+
+} // namespace
+} // namespace Pelnar::Testing

@@ -83,6 +83,11 @@ protected:
             execv(pointers[0], pointers.data());
             _exit(127);
         }
+        if (process < 0)
+        {
+            ADD_FAILURE() << "no process can be made: " << errno;
+            return {};
+        }
         int count = 0;
         TraceToTheEnd(process,
                       [&](CallStop stop)

@@ -41,10 +41,10 @@ ExitStatus Create(Console const& console, CreateOptions const& options)
     BundleTree const after = OpenBundle(console, options.newBundle);
     Engine::DeltaReport const report = MakeDeltaFile(before, after, output, console.err);
     QString const baseVersion = QString::fromStdString(before.Information().version);
-    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes: %5 files kept, %6 patched, %7 whole")
+    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole")
                       .arg(output, baseVersion, QString::fromStdString(after.Information().version))
                       .arg(report.containerBytes)
-                      .arg(report.keptFiles)
+                      .arg(CountOf(report.keptFiles, QStringLiteral("file")))
                       .arg(report.patchedFiles)
                       .arg(report.wholeFiles));
     if (key)
@@ -122,7 +122,7 @@ char const* KindName(Engine::DeltaEntryKind kind)
 
 struct Totals
 {
-    int count = 0;
+    std::size_t count = 0;
     quint64 size = 0;
     quint64 stored = 0;
 };
@@ -165,9 +165,9 @@ void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManif
          {Engine::DeltaEntryKind::Kept, Engine::DeltaEntryKind::Patched, Engine::DeltaEntryKind::Whole})
     {
         Totals const totals = TotalsOf(manifest, kind);
-        console.Print(QStringLiteral("%1 %2 files, %3 of %4 bytes in the delta")
+        console.Print(QStringLiteral("%1 %2, %3 of %4 bytes in the delta")
                           .arg(QLatin1String(KindName(kind)), -8)
-                          .arg(totals.count)
+                          .arg(CountOf(totals.count, QStringLiteral("file")))
                           .arg(totals.stored)
                           .arg(totals.size));
     }

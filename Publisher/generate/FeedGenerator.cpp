@@ -1,6 +1,7 @@
 #include "Publisher/generate/FeedGenerator.h"
 
 #include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/generate/ArchiveIntake.h"
@@ -20,6 +21,14 @@ namespace
 constexpr char FEED_FILE[] = "appcast.xml";
 QString const FEED_PREFIX = QStringLiteral("sparkle");
 QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+
+Engine::UpdateFault CheckSignature(Workplace const& workplace, InputFile const& file, Engine::FeedItem const& item)
+{
+    Progress bar(workplace.console.err, QStringLiteral("Verifying"));
+    bar.Show(0, 1); // the verdict comes at once
+    return Engine::VerifyFileSignature(file.descriptor.Get(), item.edSignature.toStdString(),
+                                       {workplace.key.PublicKeyText().toStdString()});
+}
 
 /// The archives that are not in the feed. Those that are must be what the feed says.
 std::vector<FolderArchive> NewArchives(Workplace const& workplace, PublishedFeed const& feed,
@@ -46,9 +55,7 @@ std::vector<FolderArchive> NewArchives(Workplace const& workplace, PublishedFeed
                      .arg(item->line),
                  QStringLiteral("put the published file back, and give a changed one a new version and name")});
         }
-        Engine::UpdateFault const verdict = Engine::VerifyFileSignature(
-            file.descriptor.Get(), item->edSignature.toStdString(), {workplace.key.PublicKeyText().toStdString()});
-        if (verdict != Engine::UpdateFault::None)
+        if (CheckSignature(workplace, file, *item) != Engine::UpdateFault::None)
         {
             workplace.Warn(path, QStringLiteral("does not bear the published signature of this key"),
                            QStringLiteral("right only for what another key signed; else put the published file back"));
@@ -100,7 +107,8 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
                               .arg(delta.signature.length));
         }
     }
-    console.Print(QStringLiteral("%1: %2 items added, %3 kept").arg(feedFile).arg(items.size()).arg(kept));
+    console.Print(
+        QStringLiteral("%1: %2 added, %3 kept").arg(feedFile, CountOf(items.size(), QStringLiteral("item"))).arg(kept));
 }
 
 QUrl FeedAddressOf(Workplace const& workplace, QString const& feedFile)

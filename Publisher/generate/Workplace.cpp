@@ -28,6 +28,8 @@ BundleTree Workplace::Unpack(QString const& fileName) const
 
 ArchiveSignature Workplace::Sign(QString const& fileName) const
 {
+    Progress bar(console.err, QStringLiteral("Signing ") + fileName);
+    bar.Show(0, 1); // the signature is made at once
     return key.Sign(OpenInputFile(PathOf(fileName)));
 }
 

@@ -4,6 +4,7 @@
 #include "Publisher/keys/KeysVerbs.h"
 
 #include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
 #include "Publisher/keys/SigningKey.h"
@@ -65,6 +66,8 @@ void AddSign(CLI::App& program, VerbContext& context)
             {
                 InputFile const archive = OpenInputFile(QString::fromStdString(options->archive));
                 SigningKey const key = SigningKey::Load(QString::fromStdString(options->key));
+                Progress bar(context.console.err, QStringLiteral("Signing"));
+                bar.Show(0, 1); // the signature is made at once
                 context.console.Print(AttributesOf(key.Sign(archive)));
                 return ExitStatus::Clean;
             });

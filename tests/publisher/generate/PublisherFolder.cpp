@@ -6,6 +6,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Pelnar::Testing
 {
@@ -91,6 +92,18 @@ void PublisherFolder::PutVersion(std::string const& version, int day) const
 void PublisherFolder::Remove(std::string const& name) const
 {
     EXPECT_TRUE(QFile::remove(PathOf(name))) << name;
+}
+
+void PublisherFolder::GiveTo(unsigned user) const
+{
+    for (Workspace const* const workspace : {&m_folder, &m_private})
+    {
+        EXPECT_EQ(::chown(workspace->Path().c_str(), user, user), 0);
+        for (std::string const& name : workspace->Names())
+        {
+            EXPECT_EQ(::lchown((workspace->Path() + '/' + name).c_str(), user, user), 0) << name;
+        }
+    }
 }
 
 std::string PublisherFolder::ContentOf(std::string const& name) const

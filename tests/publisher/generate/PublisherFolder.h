@@ -40,6 +40,8 @@ public:
     /// A zip of the bundle of that version, "Test-VERSION.zip".
     void PutVersion(std::string const& version, int day = 1) const;
     void Remove(std::string const& name) const;
+    /// Makes \a user the owner of everything, the key included.
+    void GiveTo(unsigned user) const;
     std::string ContentOf(std::string const& name) const;
     std::vector<std::string> Names() const { return m_folder.Names(); }
     std::string Path() const { return m_folder.Path(); }

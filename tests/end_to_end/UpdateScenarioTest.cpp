@@ -159,6 +159,46 @@ TEST_F(UpdateScenario, AnUpdateThatIsInstalledIsNotOfferedAgain)
     EXPECT_EQ(output.RunningVersions(), Names{"5.10"}) << output.Text();
 }
 
+/// How a check was started, and the windows that it leads to.
+struct ModeRow
+{
+    char const* name;
+    char const* mode;
+    char const* scenario;
+    std::vector<char const*> clicks;
+    Names windows;
+};
+
+std::ostream& operator<<(std::ostream& out, ModeRow const& row)
+{
+    return out << row.name;
+}
+
+class EveryModeOfTheInstalledDemo : public UpdateScenario, public testing::WithParamInterface<ModeRow>
+{
+};
+
+TEST_P(EveryModeOfTheInstalledDemo, TellsItsObserversAndShowsItsWindows)
+{
+    UpdateServer server;
+    DemoOutput const output = Run(server, WHOLE_FEED, Script(GetParam().mode, GetParam().scenario, GetParam().clicks));
+    EXPECT_TRUE(output.Says(FOUND)) << output.Text();
+    EXPECT_EQ(output.Says("OnUpdateDialogOpening"), !GetParam().clicks.empty()) << output.Text();
+    EXPECT_EQ(demo.Pictures(), GetParam().windows);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Modes, EveryModeOfTheInstalledDemo,
+    testing::Values(
+        ModeRow{"UserInitiated",
+                "user",
+                "answer",
+                {REMIND},
+                {"PelnarDemoWindow", "PelnarEngine_checkingWindow", "PelnarEngine_updateWindow"}},
+        ModeRow{"Automatic", "automatic", "answer", {REMIND}, {"PelnarDemoWindow", "PelnarEngine_updateWindow"}},
+        ModeRow{"Silent", "silent", "check", {}, {"PelnarDemoWindow"}}),
+    [](auto const& info) { return std::string(info.param.name); });
+
 /// Ways to say no: nothing is installed, nothing stays behind.
 struct Refusal
 {
@@ -187,7 +227,6 @@ TEST_P(RefusedUpdate, LeavesTheOldVersionAsItWas)
 INSTANTIATE_TEST_SUITE_P(Table, RefusedUpdate,
                          testing::Values(Refusal{"Reminded", "user", "{}", {REMIND}},
                                          Refusal{"Skipped", "user", "{}", {SKIP}},
-                                         Refusal{"RemindedUnasked", "automatic", "{}", {REMIND}},
                                          Refusal{"CancelledDownload", "user", "{}", {INSTALL, CANCEL_DOWNLOAD}},
                                          Refusal{"LaterWhenReady", "user", "{}", {INSTALL, LATER}},
                                          Refusal{"SilentThenLater", "automatic", DOWNLOADS_SILENTLY, {SESSION_LATER}},

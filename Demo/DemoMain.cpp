@@ -14,6 +14,8 @@
 #include "HostFramework/Reference/ReferenceNagScreenManager.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
 
+#include <Pelnar/GoodStart.h>
+
 #include <glog/logging.h>
 
 #include <QDesktopServices>
@@ -75,6 +77,8 @@ int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
                                                                : WindowCamera::AfterPicture::LeaveOpen);
     DemoWindow window(options);
     window.show();
+    // When the event loop runs, the window is drawn and answers: that is a good start.
+    QTimer::singleShot(0, &window, [] { ConfirmGoodStart(); });
     ScriptRun script(application, window, camera, options);
     script.Start();
     int const status = QCoreApplication::exec();

@@ -31,6 +31,8 @@ install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDE
     PATTERN "PelnarSparkle*" EXCLUDE
     PATTERN "LogSite.h" EXCLUDE)
 
+install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}")
+
 configure_package_config_file(cmake/PelnarUpdateCheckerConfig.cmake.in
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
     INSTALL_DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
@@ -41,5 +43,7 @@ install(FILES
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfigVersion.cmake"
     DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
 
+list(TRANSFORM PELNAR_INSTALLED_TARGETS PREPEND "-l" OUTPUT_VARIABLE PELNAR_PC_LIBRARIES)
+list(JOIN PELNAR_PC_LIBRARIES " " PELNAR_PC_LIBRARIES)
 configure_file(cmake/PelnarUpdateChecker.pc.in "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,5 +1,6 @@
 #include "Engine/objc/BundleSettings_p.h"
 
+#include "Engine/objc/HelperLocation_p.h"
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
 
@@ -9,8 +10,6 @@
 #include <QStandardPaths>
 
 #include <glog/logging.h>
-
-#include <optional>
 
 using namespace Pelnar::Foundation;
 
@@ -226,6 +225,15 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.backOff = ReadBackOff();
     settings.downloadFolder = DownloadFolderFor(settings.bundle.identifier);
     return settings;
+}
+
+std::optional<StartedApplication> ReadStartedApplication()
+{
+    StartedApplication application;
+    application.helperProgram = HelperProgram();
+    application.bundlePath = ToQString([[NSBundle mainBundle] bundlePath]);
+    application.version = TextOf(@"CFBundleVersion", Source::Bundle);
+    return application.version.isEmpty() ? std::nullopt : std::optional(application);
 }
 
 QUrl ReadFeedUrl() { return QUrl(TextOf(@"SUFeedURL", Source::DefaultsThenBundle)); }

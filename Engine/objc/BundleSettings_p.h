@@ -19,13 +19,19 @@
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
+#include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateSettings.h"
+
+#include <optional>
 
 namespace Pelnar::Engine
 {
 
 /// The settings of a check of the feed at \a feedUrl, and of what it leads to.
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl);
+
+/// The running bundle's path and version; nothing when the program runs from no bundle that says a version.
+std::optional<StartedApplication> ReadStartedApplication();
 
 /// Empty when the bundle names no feed.
 QUrl ReadFeedUrl();

@@ -4,6 +4,8 @@
 #include "Engine/objc/Updater_p.h"
 #include "Foundation/FoundationText.h"
 
+#include <Pelnar/GoodStart.h>
+
 using namespace Pelnar::Engine;
 using namespace Pelnar::Foundation;
 
@@ -130,4 +132,17 @@ using namespace Pelnar::Foundation;
     m_updater->SetWindows(windows);
 }
 
+- (void)confirmGoodStart
+{
+    @autoreleasepool
+    {
+        m_updater->ConfirmStart();
+    }
+}
+
 @end
+
+void Pelnar::ConfirmGoodStart()
+{
+    [[SUUpdater sharedUpdater] confirmGoodStart];
+}

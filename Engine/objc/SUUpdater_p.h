@@ -1,4 +1,4 @@
-// SUUpdater_p.h: the updater's entries for tests; for the engine only.
+// SUUpdater_p.h: the updater's entries for tests and for the engine's plain C++ face; for the engine only.
 // Thread: main. Ownership: none.
 #pragma once
 
@@ -20,5 +20,8 @@ class IUserInterface;
 /// Take the place of what ships from the next check on; a null pointer puts what ships back. Not owned.
 - (void)setUpdateParts:(Pelnar::Engine::IUpdateParts*)parts;
 - (void)setUpdateWindows:(Pelnar::Engine::IUserInterface*)windows;
+
+/// See Pelnar::ConfirmGoodStart.
+- (void)confirmGoodStart;
 
 @end

@@ -24,7 +24,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// The updater that has started a check since the application object was made.
+/// The updater that has been tied to the application object.
 Updater* runningUpdater = nullptr;
 
 NSError* ToNSError(EngineError const& error)
@@ -51,7 +51,13 @@ NSError* ToNSError(EngineError const& error)
 
 } // namespace
 
-Updater::Updater(SUUpdater* face) : m_face(face) {}
+Updater::Updater(SUUpdater* face) : m_face(face)
+{
+    if (QCoreApplication::instance())
+    {
+        AttachToApplication();
+    }
+}
 
 Updater::~Updater() = default;
 
@@ -62,7 +68,7 @@ void Updater::StartCheck(CheckKind kind)
     if (IsInProgress())
     {
         LOG(WARNING) << "A check for updates is running already; the new one is ignored";
-        if (kind == CheckKind::Interactive)
+        if (kind == CheckKind::Interactive && m_flow)
         {
             m_flow->BringToFront();
         }
@@ -73,8 +79,20 @@ void Updater::StartCheck(CheckKind kind)
         LOG(ERROR) << "A check for updates needs Qt's application object; it is not started";
         return;
     }
-    PrepareForApplication();
+    AttachToApplication();
+    if (m_isRecovering)
+    {
+        m_waitingCheck = kind;
+        return;
+    }
+    StartFlow(kind);
+}
+
+void Updater::StartFlow(CheckKind kind)
+{
+    PrepareForCheck();
     UpdateSettings settings = ReadUpdateSettings(FeedUrl());
+    settings.check.failedVersion = m_failedVersion;
     if (m_fetchLimits)
     {
         qint64 const maxBodyBytes = settings.check.fetchLimits.maxBodyBytes;
@@ -86,13 +104,60 @@ void Updater::StartCheck(CheckKind kind)
     m_flow->Start();
 }
 
-void Updater::PrepareForApplication()
+void Updater::AttachToApplication()
 {
     if (std::exchange(runningUpdater, this))
     {
         return;
     }
     qAddPostRoutine(&Updater::Abandon);
+    m_startOwner = std::make_unique<QObject>();
+    @autoreleasepool
+    {
+        std::optional<StartedApplication> const application = ReadStartedApplication();
+        // Otherwise, which is nearly always, no check has to wait.
+        if (application && HasUnfinishedUpdate(application->bundlePath))
+        {
+            m_isRecovering = true;
+            RecoverAtStart(*application, *m_startOwner, [this](StartOutcome const& outcome) { TakeStart(outcome); });
+        }
+    }
+}
+
+void Updater::TakeStart(StartOutcome const& outcome)
+{
+    m_isRecovering = false;
+    m_failedVersion = outcome.failedVersion;
+    if (std::optional<CheckKind> const kind = std::exchange(m_waitingCheck, std::nullopt))
+    {
+        @autoreleasepool
+        {
+            StartFlow(*kind);
+        }
+    }
+}
+
+void Updater::ConfirmStart()
+{
+    if (!QCoreApplication::instance())
+    {
+        LOG(ERROR) << "The confirmation of a good start needs Qt's application object; it is not passed on";
+        return;
+    }
+    AttachToApplication();
+    std::optional<StartedApplication> const application = ReadStartedApplication();
+    if (application && HasUnfinishedUpdate(application->bundlePath))
+    {
+        Engine::ConfirmGoodStart(*application, *m_startOwner, [](StartOutcome const&) {});
+    }
+}
+
+void Updater::PrepareForCheck()
+{
+    if (m_parts)
+    {
+        return;
+    }
     m_parts = std::make_unique<UpdateParts>(HelperProgram());
     m_windows = MakeDesktopWindows();
     WatchSessionEnd(
@@ -110,6 +175,9 @@ void Updater::Abandon()
     // The application object forgets its routines when it has run them.
     Updater* const updater = std::exchange(runningUpdater, nullptr);
     updater->m_flow.reset();
+    updater->m_startOwner.reset();
+    updater->m_isRecovering = false;
+    updater->m_waitingCheck.reset();
     updater->m_windows.reset();
     updater->m_parts.reset();
     updater->m_appcast.Reset();

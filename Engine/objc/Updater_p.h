@@ -5,10 +5,12 @@
 
 #import <Sparkle/Sparkle.h>
 
+#include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateFlow.h"
 #include "Foundation/Retained.h"
 
 #include <memory>
+#include <optional>
 
 namespace Pelnar::Engine
 {
@@ -26,8 +28,10 @@ public:
     QUrl FeedUrl() const;
     void SetFeedUrl(QUrl const& url) { m_feedUrl = url; }
 
-    [[nodiscard]] bool IsInProgress() const { return m_flow != nullptr; }
+    [[nodiscard]] bool IsInProgress() const { return m_flow != nullptr || m_waitingCheck; }
     void StartCheck(CheckKind kind);
+    /// See Pelnar::ConfirmGoodStart.
+    void ConfirmStart();
 
     /// For tests: takes the place of what ships, from the next check on. The bundle's own feed size stays.
     void SetFetchLimits(FetchLimits const& limits) { m_fetchLimits = limits; }
@@ -46,8 +50,13 @@ private:
     /// Ends the running check without a word: windows and sockets do not outlive the application object, this object
     /// does.
     static void Abandon();
+    /// Called early, and again whenever the application object may be a new one: ties this object to it, and finishes
+    /// or undoes an update that was interrupted.
+    void AttachToApplication();
+    void TakeStart(StartOutcome const& outcome);
     /// What a check needs and the application object must outlive, made once for each application object.
-    void PrepareForApplication();
+    void PrepareForCheck();
+    void StartFlow(CheckKind kind);
     SUAppcastItem* ItemAt(ItemPlace const& place) const;
 
     void FeedLoaded(std::vector<FeedItem> const& items) override;
@@ -75,6 +84,10 @@ private:
     Foundation::Retained<SUAppcast> m_appcast; ///< while a feed is dealt with
     Foundation::Retained<SUAppcastItem> m_found;
     Foundation::Retained<SUAppcastItem> m_fallback;
+    std::unique_ptr<QObject> m_startOwner; ///< of what looks after the start, as long as the application object lives
+    bool m_isRecovering = false;
+    QString m_failedVersion;                 ///< that was taken back for the running one
+    std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may tell of a failed version
     std::unique_ptr<IUpdateParts> m_parts;
     std::unique_ptr<IUserInterface> m_windows;
     std::unique_ptr<UpdateFlow> m_flow; ///< the first to go

@@ -9,10 +9,20 @@ OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order
     {
         return OfferVerdict::NotNewer;
     }
-    if (question.kind != CheckKind::Interactive && !question.skippedVersion.isEmpty() &&
+    if (question.kind == CheckKind::Interactive)
+    {
+        return OfferVerdict::Offered;
+    }
+    if (!question.skippedVersion.isEmpty() &&
         (question.itemVersion == question.skippedVersion || order(question.skippedVersion, question.itemVersion) >= 0))
     {
         return OfferVerdict::Skipped;
+    }
+    // Deliberate: that version only. What failed says nothing of an older one that is newer than the bundle.
+    if (!question.failedVersion.isEmpty() &&
+        (question.itemVersion == question.failedVersion || order(question.failedVersion, question.itemVersion) == 0))
+    {
+        return OfferVerdict::Failed;
     }
     return OfferVerdict::Offered;
 }

@@ -28,6 +28,7 @@ enum class OfferVerdict
     Offered,
     NotNewer, ///< than the running bundle
     Skipped,  ///< the user skipped this version or a newer one
+    Failed,   ///< this version was installed, did not start well and was taken back
 };
 
 struct OfferQuestion
@@ -36,6 +37,7 @@ struct OfferQuestion
     QString itemVersion;
     QString bundleVersion;  ///< empty when the bundle gives none: the choice stands
     QString skippedVersion; ///< empty when the user skipped none
+    QString failedVersion;  ///< empty when none was taken back for the running one
 };
 
 /// Lets exceptions of \a order through.

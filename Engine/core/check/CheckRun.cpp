@@ -21,6 +21,8 @@ char const* NameOf(OfferVerdict verdict)
         return "not newer than the running bundle";
     case OfferVerdict::Skipped:
         return "skipped by the user";
+    case OfferVerdict::Failed:
+        return "one that did not start well here";
     }
     return "Unknown OfferVerdict";
 }
@@ -128,8 +130,9 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     case BestItemAnswer::Kind::Place:
         break;
     }
-    OfferVerdict const verdict = JudgeOffer(
-        {m_kind, At(answer.place).versionString, m_settings.bundleVersion, m_settings.skippedVersion}, order);
+    OfferVerdict const verdict = JudgeOffer({m_kind, At(answer.place).versionString, m_settings.bundleVersion,
+                                             m_settings.skippedVersion, m_settings.failedVersion},
+                                            order);
     LOG_IF(INFO, verdict != OfferVerdict::Offered)
         << "Update " << EscapedRemoteText(At(answer.place).versionString).toStdString() << " is " << NameOf(verdict);
     if (verdict != OfferVerdict::Offered)

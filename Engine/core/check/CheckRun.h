@@ -24,6 +24,7 @@ struct CheckSettings
     QUrl feedUrl;
     QString bundleVersion;
     QString skippedVersion;
+    QString failedVersion; ///< see OfferQuestion
     QStringList languages;
     FeedPlatform platform = FeedPlatform::Linux;
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;

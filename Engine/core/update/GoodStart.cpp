@@ -102,6 +102,13 @@ void Recover(RecoverPurpose purpose, StartedApplication const& application, QObj
 
 } // namespace
 
+bool HasUnfinishedUpdate(QString const& bundlePath)
+{
+    auto const opened = OpenInstalledBundle(bundlePath);
+    auto const* const bundle = std::get_if<InstallTarget>(&opened);
+    return bundle && HasUpdateFiles(bundle->parent.Get(), bundle->name);
+}
+
 void RecoverAtStart(StartedApplication const& application, QObject& owner,
                     std::function<void(StartOutcome const&)> done)
 {

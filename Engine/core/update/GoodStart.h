@@ -21,7 +21,7 @@ struct StartedApplication
 {
     QString helperProgram; ///< absolute
     QString bundlePath;    ///< absolute
-    QString version;
+    QString version;       ///< the running one
 };
 
 struct StartOutcome
@@ -30,6 +30,9 @@ struct StartOutcome
     RecoveryAction action = RecoveryAction::Nothing;
     QString failedVersion; ///< the version that was taken back for this one, told at every start; mostly empty
 };
+
+/// Whether an update has left something beside the bundle, so that RecoverAtStart has work. A look into its folder.
+[[nodiscard]] bool HasUnfinishedUpdate(QString const& bundlePath);
 
 /// To be called once, early, at every start. \a done comes later, from the event loop, once. A failure is logged and
 /// answered as Nothing: the next start tries again.

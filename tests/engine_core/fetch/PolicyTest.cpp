@@ -17,9 +17,11 @@ namespace
 
 using namespace Pelnar::Engine;
 
-OfferQuestion question(CheckKind kind, char const* item, char const* bundle, char const* skipped)
+OfferQuestion question(CheckKind kind, char const* item, char const* bundle, char const* skipped,
+                       char const* failed = "")
 {
-    return {kind, QString::fromLatin1(item), QString::fromLatin1(bundle), QString::fromLatin1(skipped)};
+    return {kind, QString::fromLatin1(item), QString::fromLatin1(bundle), QString::fromLatin1(skipped),
+            QString::fromLatin1(failed)};
 }
 
 TEST(OfferPolicy, NewerThanTheBundleAndNotSkipped)
@@ -40,11 +42,18 @@ TEST(OfferPolicy, NewerThanTheBundleAndNotSkipped)
         {question(CheckKind::Background, "5.2", "5.0", "5.1"), OfferVerdict::Offered},
         {question(CheckKind::Interactive, "5.1", "5.0", "5.1"), OfferVerdict::Offered},
         {question(CheckKind::Interactive, "5.1", "5.0", "5.2"), OfferVerdict::Offered},
+        {question(CheckKind::Probe, "5.1", "5.0", "", "5.1"), OfferVerdict::Failed},
+        {question(CheckKind::Background, "5.1", "5.0", "", "5.1"), OfferVerdict::Failed},
+        {question(CheckKind::Background, "5.01", "5.0", "", "5.1"), OfferVerdict::Failed},
+        {question(CheckKind::Background, "5.1", "5.0", "", "5.2"), OfferVerdict::Offered},
+        {question(CheckKind::Background, "5.3", "5.0", "", "5.2"), OfferVerdict::Offered},
+        {question(CheckKind::Interactive, "5.1", "5.0", "", "5.1"), OfferVerdict::Offered},
     };
     for (auto const& row : rows)
     {
         EXPECT_EQ(JudgeOffer(row.question, &CompareVersionTexts), row.expected)
-            << row.question.itemVersion.toStdString() << " skipped " << row.question.skippedVersion.toStdString();
+            << row.question.itemVersion.toStdString() << " skipped " << row.question.skippedVersion.toStdString()
+            << " failed " << row.question.failedVersion.toStdString();
     }
 }
 

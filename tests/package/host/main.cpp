@@ -8,6 +8,8 @@
 #include "HostFramework/NagScreenManager.h"
 #include "HostFramework/VersionText.h"
 
+#include <Pelnar/GoodStart.h>
+
 #include <QTextStream>
 #include <QTimer>
 #include <QUrl>
@@ -89,6 +91,7 @@ public:
 int main(int argc, char** argv)
 {
     TinyHost host(argc, argv, QUrl::fromLocalFile(QString::fromLocal8Bit(argv[1])).toString());
+    Pelnar::ConfirmGoodStart();
     Printer printer;
     Pelnar::App::UpdateManager::Initializer initializer(&host);
     initializer.checkMode = Pelnar::App::UpdateCheckMode::Silent;

@@ -1,0 +1,48 @@
+// StartHost.cpp: a small host application: one start with one check, whose events it prints in a line.
+// Usage: run FEED background|interactive [confirm]
+
+#include "Foundation/IsolatedUserDefaults.h"
+#include "tests/engine/ScriptedDelegate.h"
+
+#include <Pelnar/GoodStart.h>
+
+#include <glog/logging.h>
+
+#include <QCoreApplication>
+#include <QUrl>
+
+#include <cstdio>
+#include <cstdlib>
+
+int main(int argc, char** argv)
+{
+    using namespace Pelnar::Testing;
+    Pelnar::Foundation::IsolatedUserDefaults const defaults;
+    FLAGS_logtostderr = true;
+    google::InitGoogleLogging(argv[0]);
+    QCoreApplication const application(argc, argv);
+    QStringList const arguments = QCoreApplication::arguments();
+
+    DelegateScript script;
+    script.choose = [](int, std::vector<QString> const&) { return ScriptedChoice{ScriptedChoice::Kind::Item, 0, {}}; };
+    UpdaterDriver driver(script);
+    driver.SetFeed(QUrl(arguments.at(1)));
+    if (arguments.at(2) == QLatin1String("interactive"))
+    {
+        driver.CheckInteractively();
+    }
+    else
+    {
+        driver.CheckInBackground();
+    }
+    if (arguments.contains(QStringLiteral("confirm")))
+    {
+        Pelnar::ConfirmGoodStart();
+    }
+    bool const hasEnded = driver.WaitForEnd();
+    for (std::string const& event : driver.Events())
+    {
+        std::printf("%s;", event.c_str());
+    }
+    return hasEnded ? EXIT_SUCCESS : EXIT_FAILURE;
+}

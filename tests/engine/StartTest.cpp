@@ -1,0 +1,206 @@
+// StartTest.cpp: what becomes of an update at the starts after it: a real host application in a real bundle, which the
+// real helper has installed, or was killed over.
+#include "tests/engine/FeedText.h"
+#include "tests/installer/InstallerFixture.h"
+#include "tests/support/DialogDriver.h"
+#include "tests/support/LoopbackServer.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include <stdio.h>
+#include <sys/syscall.h>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+
+constexpr char STRACE[] = "/usr/bin/strace";
+
+std::string ContentOf(std::string const& path)
+{
+    std::ostringstream content;
+    content << std::ifstream(path, std::ios::binary).rdbuf();
+    return content.str();
+}
+
+/// A bundle of version 2.0 whose program is the host; \a entries go into its information file.
+std::string ArchiveOfHost(std::string const& entries)
+{
+    std::vector<ForgedEntry> bundle = MakeBundle("2.0");
+    bundle[1].content = ContentOf(PELNAR_START_HOST);
+    std::string& information = bundle[3].content;
+    information.insert(information.find('{') + 1, entries);
+    return MakeArchive(Container::Zip, bundle);
+}
+
+std::string const WITH_WORD = "PelnarConfirmsGoodStart = YES;";
+
+/// The host as version 1.0, installed, with an update to 2.0 at hand and in the feed.
+class Start : public testing::Test
+{
+protected:
+    explicit Start(std::string const& entries = {}) : m_scene(ArchiveOfHost(entries))
+    {
+        std::filesystem::copy_file(PELNAR_START_HOST, BundlePath() + "/run",
+                                   std::filesystem::copy_options::overwrite_existing);
+    }
+
+    std::string BundlePath() const { return m_scene.Place().Path() + '/' + APP; }
+
+    /// Installs 2.0 without a relaunch. What was prepared is nobody's any more.
+    HelperOutcome Install(CallVisitor const& visitor = {})
+    {
+        Pelnar::Engine::InstallJob job = m_scene.PrepareForInstall();
+        job.targetPath.clear();
+        m_scene.Host().End();
+        HelperStart start;
+        start.atEveryCall = visitor;
+        HelperOutcome const outcome = m_scene.Install(job, start);
+        m_scene.ReleaseStaging();
+        return outcome;
+    }
+
+    /// Starts the installed application, and waits for its end; the events of its check.
+    std::string Run(QStringList const& arguments, QStringList before = {})
+    {
+        QStringList words = before << QString::fromStdString(BundlePath() + "/run") << m_server.Url().toString()
+                                   << arguments;
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        QString const program = words.takeFirst();
+        process.start(program, words);
+        EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
+        EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+        EXPECT_EQ(process.exitCode(), EXIT_SUCCESS);
+        return process.readAllStandardOutput().toStdString();
+    }
+
+    std::string RunInBackground() { return Run({QStringLiteral("background")}); }
+
+    /// How many programs a start executes, itself included.
+    std::ptrdiff_t ProgramsOfAStart()
+    {
+        std::string const record = m_scene.Downloads().Path() + "/calls";
+        Run({QStringLiteral("background")},
+            {QString::fromLatin1(STRACE), QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-e"),
+             QStringLiteral("trace=execve,execveat"), QStringLiteral("-e"), QStringLiteral("signal=none"),
+             QStringLiteral("-o"), QString::fromStdString(record)});
+        std::string const calls = ContentOf(record);
+        return std::count(calls.begin(), calls.end(), '\n');
+    }
+
+    void ExpectWhole(std::string const& version) const
+    {
+        EXPECT_EQ(m_scene.Place().Names(APP), (std::vector<std::string>{"Resources", "run"}));
+        EXPECT_EQ(m_scene.Place().Names(std::string(APP) + "/Resources"),
+                  (std::vector<std::string>{"Info-gnustep.plist", "data", "data-" + version}));
+        EXPECT_EQ(ContentOf(BundlePath() + "/Resources/data"), std::string(3000, version[0]));
+        EXPECT_EQ(ContentOf(BundlePath() + "/run"), ContentOf(PELNAR_START_HOST));
+    }
+
+    [[nodiscard]] bool IsAlone() const { return m_scene.Place().Names() == std::vector<std::string>{APP}; }
+
+    UpdateScene m_scene;
+
+private:
+    int m_count = 1;
+    char m_name[5] = "test";
+    char* m_arguments[2] = {m_name, nullptr};
+    QCoreApplication m_application{m_count, m_arguments};
+    LoopbackServer m_server{[](QSslSocket& socket, QByteArray const&, int)
+                            {
+                                socket.write(OkAnswer(FeedWith(ItemOf("2.0"))));
+                                socket.disconnectFromHost();
+                            }};
+};
+
+/// The same, and 2.0 is to tell that it has started well.
+class StartWithAWord : public Start
+{
+protected:
+    StartWithAWord() : Start(WITH_WORD) {}
+};
+
+bool IsExchange(CallStop const& stop)
+{
+    return stop.call == SYS_renameat2 && stop.arguments[4] == RENAME_EXCHANGE;
+}
+
+TEST_F(Start, WithoutAnUpdateStartsNoOtherProgram)
+{
+    std::filesystem::remove_all(m_scene.StagingPath());
+    ASSERT_TRUE(IsAlone());
+    EXPECT_EQ(ProgramsOfAStart(), 1);
+}
+
+TEST_F(Start, AfterAHelperThatWasKilledBeforeTheSwapClearsUpAndRunsTheOldVersion)
+{
+    HelperOutcome const killed =
+        Install([](CallStop const& stop) { return IsExchange(stop) ? CallVerdict::KillAll() : CallVerdict::GoOn(); });
+    ASSERT_EQ(killed.signal, SIGKILL);
+    ASSERT_FALSE(IsAlone());
+    EXPECT_EQ(RunInBackground().rfind("asked;found 2.0;", 0), 0u);
+    EXPECT_TRUE(IsAlone());
+    ExpectWhole("1.0");
+}
+
+TEST_F(Start, AfterAHelperThatWasKilledBehindTheSwapClearsUpAndRunsTheNewVersion)
+{
+    bool hasSwapped = false;
+    HelperOutcome const killed = Install(
+        [&hasSwapped](CallStop const& stop)
+        {
+            if (hasSwapped)
+            {
+                return CallVerdict::KillAll();
+            }
+            hasSwapped = IsExchange(stop);
+            return CallVerdict::GoOn();
+        });
+    ASSERT_EQ(killed.signal, SIGKILL);
+    ASSERT_FALSE(IsAlone());
+    EXPECT_GT(ProgramsOfAStart(), 1);
+    EXPECT_TRUE(IsAlone());
+    ExpectWhole("2.0");
+    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
+}
+
+TEST_F(StartWithAWord, KeepsANewVersionThatConfirms)
+{
+    ASSERT_EQ(Install().exitStatus, 0);
+    Run({QStringLiteral("background"), QStringLiteral("confirm")});
+    // The helper outlives the application that has confirmed.
+    EXPECT_TRUE(WaitFor([this] { return IsAlone(); }));
+    for (int start = 0; start < 3; ++start)
+    {
+        RunInBackground();
+    }
+    ExpectWhole("2.0");
+}
+
+TEST_F(StartWithAWord, TakesBackAVersionThatNeverConfirmsAndOffersItAgainOnlyToAPersonWhoAsks)
+{
+    ASSERT_EQ(Install().exitStatus, 0);
+    for (int start = 0; start < 2; ++start)
+    {
+        RunInBackground();
+        ExpectWhole("2.0");
+    }
+    RunInBackground();
+    ExpectWhole("1.0");
+    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
+    EXPECT_EQ(Run({QStringLiteral("interactive")}).rfind("asked;found 2.0;", 0), 0u);
+    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;") << "at every start";
+    ExpectWhole("1.0");
+}
+
+} // namespace

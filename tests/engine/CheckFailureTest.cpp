@@ -360,6 +360,7 @@ TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
     EXPECT_EQ(driver.Events(), Events{"aborted 1000"});
     EXPECT_EQ(driver.Errors()[0].underlyingCode, 707);
 }
+
 TEST_F(CheckContract, SkippedVersionOfTheWrongTypeIsIgnoredWithAWarning)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
@@ -398,6 +399,23 @@ TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
     EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The user default SULastCheckTime could not be saved"));
+}
+
+TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
+{
+    for (QByteArray const& bytes :
+         {QByteArray("{ SUSkippedVersion = 5.1"), QByteArray("\0\xff\xfe<plist>\0", 12), QByteArray(40, '(')})
+    {
+        LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
+        UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+        driver.SetFeed(server.Url());
+        SetTextDefault("SUSkippedVersion", "5.1");
+        SpoilDefaults(bytes);
+        EXPECT_EQ(TextDefault("SUSkippedVersion"), QString()) << "the spoiled file was not read";
+        driver.Probe();
+        ASSERT_TRUE(driver.WaitForEnd());
+        EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"})) << bytes.left(40).toStdString();
+    }
 }
 
 TEST_F(CheckContract, AutomaticDownloadIsAUserDefault)

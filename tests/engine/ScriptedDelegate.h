@@ -141,6 +141,8 @@ void SetNumberDefault(char const* key, int value);
 void SetDateDefault(char const* key);
 /// Where the process keeps its user defaults; empty when nobody set that.
 QString DefaultsFolder();
+/// Puts \a bytes in the place of the file with the user defaults, and makes the process read them anew.
+void SpoilDefaults(QByteArray const& bytes);
 /// Empty when there is no such default, or it is no text.
 QString TextDefault(char const* key);
 /// True when the default is a date between a minute ago and now.

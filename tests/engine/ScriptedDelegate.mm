@@ -8,6 +8,8 @@
 #include "Foundation/Retained.h"
 #include "tests/support/DialogDriver.h"
 
+#include <QFile>
+
 #include <algorithm>
 #include <utility>
 
@@ -344,6 +346,22 @@ QString DefaultsFolder()
     @autoreleasepool
     {
         return ToQString(GSDefaultsRootForUser(NSUserName()));
+    }
+}
+
+void SpoilDefaults(QByteArray const& bytes)
+{
+    @autoreleasepool
+    {
+        [[NSUserDefaults standardUserDefaults] synchronize];
+        QFile file(DefaultsFolder() + QLatin1Char('/') + ToQString([[NSProcessInfo processInfo] processName]) +
+                   QStringLiteral(".plist"));
+        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        {
+            file.write(bytes);
+        }
+        file.close();
+        [NSUserDefaults resetStandardUserDefaults];
     }
 }
 

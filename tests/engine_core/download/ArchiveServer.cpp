@@ -7,7 +7,7 @@ QByteArray MakeArchive(int size)
 {
     QByteArray bytes;
     bytes.reserve(size + 16);
-    for (int number = 0; bytes.size() < size; ++number)
+    for (quint32 number = 0; bytes.size() < size; ++number)
     {
         bytes += QByteArray::number(number * 7919, 16) + ' ';
     }

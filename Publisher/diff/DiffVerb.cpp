@@ -1,5 +1,6 @@
 #include "Publisher/diff/DiffVerb.h"
 
+#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/diff/FeedDiff.h"
 
@@ -109,12 +110,8 @@ void AddDiff(CLI::App& program, VerbContext& context)
     verb->add_option("--versions", options->versions,
                      "Installed versions with commas between them; default: all that either feed names, and 0")
         ->type_name("LIST");
-    verb->add_option("--platform", options->platform, "Whose items count")
-        ->capture_default_str()
-        ->check(CLI::IsMember(PlatformNames()));
-    verb->add_option("--published-at", options->publishedAt,
-                     "Address of the published feed, for relative addresses in both; default: where each is read")
-        ->type_name("URL");
+    AddPlatformOption(*verb, options->platform);
+    AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--json", options->isJson, "Print one JSON object");
     SetWork(*verb, context, [options, &context] { return Diff(*options, context.console); });
 }

@@ -1,5 +1,6 @@
 #include "Publisher/explain/ExplainVerb.h"
 
+#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientOptions.h"
 #include "Publisher/explain/ExplanationText.h"
@@ -72,12 +73,8 @@ void AddExplain(CLI::App& program, VerbContext& context)
                      "Version of the client's operating system, or \"unknown\"")
         ->required()
         ->type_name("V");
-    verb->add_option("--platform", options->platform, "Whose items count")
-        ->capture_default_str()
-        ->check(CLI::IsMember(PlatformNames()));
-    verb->add_option("--published-at", options->publishedAt,
-                     "Address of the published feed, for relative addresses in it; default: where it is read")
-        ->type_name("URL");
+    AddPlatformOption(*verb, options->platform);
+    AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");
     verb->add_flag("--json", options->isJson, "Print one JSON object");

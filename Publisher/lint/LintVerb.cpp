@@ -1,6 +1,7 @@
 #include "Publisher/lint/LintVerb.h"
 
 #include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/FeedOptions.h"
 #include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/lint/FetchRules.h"
@@ -87,9 +88,7 @@ void AddLint(CLI::App& program, VerbContext& context)
     CLI::App* const verb =
         program.add_subcommand("lint", "Finds what clients would refuse or misread, with place and mend");
     verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input");
-    verb->add_option("--published-at", options->publishedAt,
-                     "Address of the published feed, for relative addresses in it; default: where it is read")
-        ->type_name("URL");
+    AddPublishedAtOption(*verb, options->publishedAt);
     auto* const fetch =
         verb->add_flag("--fetch", options->isFetching, "Fetch every download and check its size and its signature");
     verb->add_option("--public-key", options->publicKeys,

@@ -1,5 +1,6 @@
 #include "Publisher/matrix/MatrixVerb.h"
 
+#include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/matrix/Matrix.h"
 
@@ -161,12 +162,8 @@ void AddMatrix(CLI::App& program, VerbContext& context)
     verb->add_option("--systems", options->systems,
                      "Versions of the operating system with commas between them; \"unknown\" may be one")
         ->type_name("LIST");
-    verb->add_option("--platform", options->platform, "Whose items count")
-        ->capture_default_str()
-        ->check(CLI::IsMember(PlatformNames()));
-    verb->add_option("--published-at", options->publishedAt,
-                     "Address of the published feed, for relative addresses in it; default: where it is read")
-        ->type_name("URL");
+    AddPlatformOption(*verb, options->platform);
+    AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_option("--expect", options->expectation,
                      "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
                      "defaults")

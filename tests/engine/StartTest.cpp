@@ -4,10 +4,10 @@
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/LoopbackServer.h"
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QProcess>
 
 #include <algorithm>
@@ -119,10 +119,7 @@ protected:
     UpdateScene m_scene;
 
 private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    QCoreApplication m_application{m_count, m_arguments};
+    TestApplication<> m_application;
     LoopbackServer m_server{[](QSslSocket& socket, QByteArray const&, int)
                             {
                                 socket.write(OkAnswer(FeedWith(ItemOf("2.0"))));

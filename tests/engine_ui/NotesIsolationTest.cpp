@@ -1,6 +1,7 @@
 // Release notes open no file and reach no server, watched from outside the process.
 
 #include "tests/support/Sanitizers.h"
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
@@ -58,10 +59,7 @@ protected:
         return lines;
     }
 
-    int m_argumentCount = 1;
-    char m_programName[5] = "test";
-    char* m_arguments[2] = {m_programName, nullptr};
-    QCoreApplication m_application{m_argumentCount, m_arguments};
+    TestApplication<> m_application;
     QTemporaryDir m_folder;
     QTcpServer m_server;
     int m_connections = 0;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "tests/engine_ui/WindowCases.h"
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
@@ -81,10 +82,7 @@ protected:
     }
 
 private:
-    int m_argumentCount = 1;
-    char m_programName[5] = "test";
-    char* m_arguments[2] = {m_programName, nullptr};
-    QApplication m_application{m_argumentCount, m_arguments};
+    TestApplication<QApplication> m_application;
     std::vector<std::string> m_answers;
     std::vector<QUrl> m_links;
     std::unique_ptr<Engine::IUserInterface> m_ui =

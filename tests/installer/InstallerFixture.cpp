@@ -348,15 +348,21 @@ Engine::InstallJob UpdateScene::PrepareForInstall()
     HelperOutcome const outcome = Prepare(MakePrepareJob());
     auto const* prepared = outcome.Find<Engine::PreparedReport>();
     EXPECT_NE(prepared, nullptr) << FaultName(outcome.Fault());
+    Engine::InstallJob job = MakeInstallJob(prepared ? prepared->digest : Engine::Sha256{});
+    job.targetPath = m_place.Path() + '/' + APP;
+    return job;
+}
+
+Engine::InstallJob UpdateScene::MakeInstallJob(Engine::Sha256 const& digest) const
+{
     Engine::InstallJob job;
     job.targetName = APP;
     job.stagingName = m_staging->Name();
-    job.stagedName = prepared ? prepared->stagedName : APP;
-    job.digest = prepared ? prepared->digest : Engine::Sha256{};
+    job.stagedName = APP;
+    job.digest = digest;
     job.bundleIdentifier = IDENTIFIER;
     job.expectedVersion = "2.0";
     job.installedVersion = "1.0";
-    job.targetPath = m_place.Path() + '/' + APP;
     return job;
 }
 

@@ -118,6 +118,8 @@ public:
     HelperOutcome Prepare(Engine::PrepareJob const& job, HelperStart const& start = {});
     /// Prepares the update by the helper, and fails the test when that fails.
     Engine::InstallJob PrepareForInstall();
+    /// For the bundle APP of that tree, staged; nothing is started afterwards.
+    Engine::InstallJob MakeInstallJob(Engine::Sha256 const& digest) const;
     HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
     HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
     HelperOutcome Recover(Engine::RecoverJob const& job, HelperStart const& start = {});

@@ -61,15 +61,9 @@ public:
         HelperOutcome const outcome = Prepare();
         auto const* const prepared = outcome.Find<PreparedReport>();
         EXPECT_NE(prepared, nullptr) << FaultName(outcome.Fault());
-        InstallJob job;
+        InstallJob job = scene.MakeInstallJob(prepared ? prepared->digest : Sha256{});
         job.kind = PayloadKind::Installer;
-        job.targetName = APP;
-        job.stagingName = scene.StagingName();
         job.stagedName = prepared ? prepared->stagedName : SETUP;
-        job.digest = prepared ? prepared->digest : Sha256{};
-        job.bundleIdentifier = IDENTIFIER;
-        job.expectedVersion = "2.0";
-        job.installedVersion = "1.0";
         job.targetPath = Target();
         return job;
     }

@@ -7,10 +7,10 @@
 #include "Engine/core/update/IUpdateParts.h"
 #include "Engine/core/update/IUserInterface.h"
 #include "Engine/core/update/UpdateSettings.h"
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -165,10 +165,7 @@ protected:
     /// The names of what stands in the folder of the bundle.
     std::vector<std::string> Installed() const;
 
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
+    TestApplication<> application;
     QTemporaryDir folder;
     Notes notes;
     ScriptedHost host{notes};

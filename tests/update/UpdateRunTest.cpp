@@ -285,7 +285,7 @@ TEST_F(UpdateRunTest, ApplicationThatQuitsMayStillRefuse)
     PrepareUpdate();
     Since();
     host.relaunchAnswer = RelaunchAnswer::Refused;
-    Q_EMIT application.aboutToQuit({});
+    Q_EMIT QCoreApplication::instance()->aboutToQuit({});
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "cancelled", "end"}));
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
@@ -295,7 +295,7 @@ TEST_F(UpdateRunTest, ApplicationThatQuitsAndAgreesIsUpdated)
     StartSilent();
     PrepareUpdate();
     Since();
-    Q_EMIT application.aboutToQuit({});
+    Q_EMIT QCoreApplication::instance()->aboutToQuit({});
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "discard /App-5.1.zip"}));
     EXPECT_TRUE(HasStaging());
 }

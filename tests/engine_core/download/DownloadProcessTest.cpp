@@ -2,6 +2,7 @@
 // another.
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
+#include "tests/support/ProgramOutput.h"
 #include "tests/support/Sanitizers.h"
 
 #include <QProcess>
@@ -35,15 +36,10 @@ protected:
     }
 
     /// Runs \a wrapper (which may be empty) around the probe and reads what the probe printed.
-    static Report Probe(QStringList wrapper, QStringList const& arguments)
+    static Report Probe(QStringList const& wrapper, QStringList const& arguments)
     {
-        QProcess process;
-        wrapper.append(QStringLiteral(PELNAR_DOWNLOAD_PROBE));
-        wrapper.append(arguments);
-        process.start(wrapper.takeFirst(), wrapper);
-        EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }, 60000));
         Report report;
-        report.all = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
+        report.all = OutputOf(wrapper + QStringList{QStringLiteral(PELNAR_DOWNLOAD_PROBE)} + arguments);
         QRegularExpressionMatch const match =
             QRegularExpression(QStringLiteral("cause=(\\d+) grown=(\\d+)")).match(report.all);
         if (match.hasMatch())

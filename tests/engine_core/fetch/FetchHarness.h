@@ -4,6 +4,7 @@
 
 #include "Engine/core/fetch/FeedFetcher.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
@@ -62,10 +63,7 @@ inline Engine::ErrorCause CauseOf(Engine::FetchOutcome const& outcome)
 class FetchTest : public ::testing::Test
 {
 protected:
-    int argc = 1;
-    char name[5] = "test";
-    char* argv[2] = {name, nullptr};
-    QCoreApplication application{argc, argv};
+    TestApplication<> application;
 };
 
 } // namespace Pelnar::Testing

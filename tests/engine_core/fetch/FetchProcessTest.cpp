@@ -2,6 +2,7 @@
 // takes, what a wrong clock or a missing network does to it.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
+#include "tests/support/ProgramOutput.h"
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestCertificates.h"
 
@@ -27,19 +28,10 @@ struct Report
 };
 
 /// Runs \a wrapper (which may be empty) around the probe and reads what the probe printed.
-Report probe(QStringList wrapper, QStringList const& arguments)
+Report probe(QStringList const& wrapper, QStringList const& arguments)
 {
-    QProcess process;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    // A leak check does not work in a process that is traced.
-    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-    process.setProcessEnvironment(environment);
-    wrapper.append(QStringLiteral(PELNAR_FETCH_PROBE));
-    wrapper.append(arguments);
-    process.start(wrapper.takeFirst(), wrapper);
-    EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }, 60000));
     Report report;
-    report.all = QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError());
+    report.all = OutputOf(wrapper + QStringList{QStringLiteral(PELNAR_FETCH_PROBE)} + arguments);
     QRegularExpressionMatch const match =
         QRegularExpression(QStringLiteral("cause=(\\d+) bytes=(\\d+) grown=(\\d+)")).match(report.all);
     if (match.hasMatch())

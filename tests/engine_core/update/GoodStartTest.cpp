@@ -5,8 +5,7 @@
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/LogCapture.h"
-
-#include <QCoreApplication>
+#include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
 
@@ -56,10 +55,7 @@ protected:
     QObject m_owner;
 
 private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    QCoreApplication m_application{m_count, m_arguments};
+    TestApplication<> m_application;
 };
 
 TEST_F(GoodStarts, OneStartIsCountedOnceHoweverOftenItsProcessAsks)

@@ -3,6 +3,7 @@
 #include "Engine/core/update/HelperLaunch_p.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/TestApplication.h"
 
 #include <QCoreApplication>
 
@@ -32,10 +33,7 @@ constexpr int HIGH_DESCRIPTOR = 50;
 class HelperProcesses : public testing::Test
 {
 private:
-    int m_count = 1;
-    char m_name[5] = "test";
-    char* m_arguments[2] = {m_name, nullptr};
-    QCoreApplication m_application{m_count, m_arguments};
+    TestApplication<> m_application;
 };
 
 std::string ReadFile(std::string const& path)

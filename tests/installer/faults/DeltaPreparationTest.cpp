@@ -173,14 +173,7 @@ TEST(Delta, RightOneIsPreparedAndInstalled)
     fresh.Put(BundleWithBlob("2.0"));
     Sha256 const expected = TreeOf(fresh.Path() + '/' + APP);
     EXPECT_TRUE(prepared.Find<PreparedReport>()->digest == expected);
-    InstallJob job;
-    job.targetName = APP;
-    job.stagingName = scene.StagingName();
-    job.stagedName = APP;
-    job.digest = expected;
-    job.bundleIdentifier = IDENTIFIER;
-    job.expectedVersion = "2.0";
-    job.installedVersion = "1.0";
+    InstallJob const job = scene.MakeInstallJob(expected);
     scene.Host().End();
     EXPECT_EQ(scene.Install(job).exitStatus, 0);
     EXPECT_TRUE(TreeOf(AppIn(scene)) == expected);

@@ -186,14 +186,7 @@ TEST(Race, StagingFolderReplacedByALinkIsNotWrittenThrough)
                                    }));
         EXPECT_EQ(outcome.exitStatus, 0) << "the folder is known by its descriptor";
         EXPECT_TRUE(outside.Names().empty());
-        InstallJob job;
-        job.targetName = APP;
-        job.stagingName = scene.StagingName();
-        job.stagedName = APP;
-        job.digest = versions.next;
-        job.bundleIdentifier = IDENTIFIER;
-        job.expectedVersion = "2.0";
-        job.installedVersion = "1.0";
+        InstallJob const job = scene.MakeInstallJob(versions.next);
         scene.Host().End();
         EXPECT_EQ(scene.Install(job).Fault(), UpdateFault::StagedTreeChanged);
         EXPECT_TRUE(outside.Names().empty());

@@ -40,14 +40,7 @@ void ExpectUpdated(UpdateScene& scene, HelperStart const& start)
     HelperOutcome const prepared = scene.Prepare(scene.MakePrepareJob(), start);
     EXPECT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
     EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next) << "modes included";
-    InstallJob job;
-    job.targetName = APP;
-    job.stagingName = scene.StagingName();
-    job.stagedName = APP;
-    job.digest = versions.next;
-    job.bundleIdentifier = IDENTIFIER;
-    job.expectedVersion = "2.0";
-    job.installedVersion = "1.0";
+    InstallJob job = scene.MakeInstallJob(versions.next);
     job.targetPath = scene.Place().Path() + '/' + APP;
     scene.Host().End();
     HelperOutcome const installed = scene.Install(job, start);

@@ -19,13 +19,19 @@ std::string Text(QString const& text)
     return text.toStdString();
 }
 
+/// A delta of the person's own between two archives of the folder.
+ToolRun MakeGivenDelta(PublisherFolder const& folder, char const* from, char const* to)
+{
+    return RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf(from), folder.PathOf(to),
+                    QStringLiteral("-o"), folder.PathOf("given.delta")});
+}
+
 TEST(Generate, ItemSaysWhatTheBundleSays)
 {
     PublisherFolder const folder;
     BundleText text;
     text.version = "5.1.2";
     text.displayVersion = "5.1 <beta> & more";
-    text.displayVersion = "5.1 beta";
     text.minimumSystem = "11.0";
     std::string const archive = MakeArchive(Container::TarXz, MakePublishedBundle(text, "My Test.app"));
     folder.Put("My Test & 5.1.2.tar.xz", archive, 2);
@@ -33,10 +39,10 @@ TEST(Generate, ItemSaysWhatTheBundleSays)
     std::vector<Engine::FeedItem> const items = folder.Items();
     ASSERT_EQ(items.size(), 1u) << feed;
     Engine::FeedItem const& item = items[0];
-    EXPECT_EQ(Text(item.title), "My Test 5.1 beta");
+    EXPECT_EQ(Text(item.title), "My Test 5.1 <beta> & more");
     EXPECT_EQ(Text(item.dateString), "Fri, 02 Jan 2026 12:00:00 +0000");
     EXPECT_EQ(Text(item.versionString), "5.1.2");
-    EXPECT_EQ(Text(item.displayVersionString), "5.1 beta");
+    EXPECT_EQ(Text(item.displayVersionString), "5.1 <beta> & more");
     EXPECT_EQ(Text(item.minimumSystemVersion), "11.0");
     EXPECT_EQ(Text(item.fileUrl.toString(QUrl::FullyEncoded)),
               "https://updates.example.com/test/My%20Test%20%26%205.1.2.tar.xz");
@@ -232,10 +238,7 @@ TEST(Generate, GivenDeltaIsProvedAndTaken)
     PublisherFolder const folder;
     folder.PutVersion("1.0");
     folder.PutVersion("2.0");
-    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
-                       folder.PathOf("Test-2.0.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
-                  .status,
-              0);
+    ASSERT_EQ(MakeGivenDelta(folder, "Test-1.0.zip", "Test-2.0.zip").status, 0);
     folder.GeneratedFeed();
     ASSERT_EQ(folder.Items()[0].deltas.size(), 1u);
     EXPECT_EQ(Text(folder.Items()[0].deltas[0].fileUrl.fileName()), "given.delta");
@@ -249,10 +252,7 @@ TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
     other.displayVersion = "another build";
     folder.PutVersion("1.0");
     folder.Put("other.zip", MakeArchive(Container::Zip, MakePublishedBundle(other)));
-    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
-                       folder.PathOf("other.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
-                  .status,
-              0);
+    ASSERT_EQ(MakeGivenDelta(folder, "Test-1.0.zip", "other.zip").status, 0);
     folder.Remove("other.zip");
     folder.PutVersion("2.0");
     ToolRun const run = folder.Generate();
@@ -268,10 +268,7 @@ TEST(Generate, DeltaWithoutItsBaseOrItemIsLeftOutWithAWord)
     PublisherFolder const folder;
     folder.PutVersion("1.0");
     folder.PutVersion("2.0");
-    ASSERT_EQ(RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf("Test-1.0.zip"),
-                       folder.PathOf("Test-2.0.zip"), QStringLiteral("-o"), folder.PathOf("given.delta")})
-                  .status,
-              0);
+    ASSERT_EQ(MakeGivenDelta(folder, "Test-1.0.zip", "Test-2.0.zip").status, 0);
     folder.Remove("Test-1.0.zip");
     ToolRun const withoutBase = folder.Generate();
     EXPECT_EQ(withoutBase.status, 0) << withoutBase.err;

@@ -23,7 +23,8 @@ std::string PropertyListOf(BundleText const& text)
     {
         if (!value.empty())
         {
-            list += std::string("<key>") + key + "</key><string>" + value + "</string>\n";
+            list += std::string("<key>") + key + "</key><string>" +
+                    QString::fromStdString(value).toHtmlEscaped().toStdString() + "</string>\n";
         }
     };
     add("CFBundleIdentifier", text.identifier);

@@ -86,18 +86,41 @@ void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
     }
 }
 
-/// The staged bundle, which must still be the one that was checked.
-UniqueFd CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors)
+/// The staged bundle. Whether it is still the one that was prepared, CheckStaged() tells.
+UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors)
 {
     UniqueFd staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
-    bool const isInPlace = staged && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
-    if (!isInPlace || Engine::DigestTree(staged.Get()) != job.digest)
+    if (!staged)
+    {
+        throw UpdateRefusal(UpdateFault::StagedTreeChanged, errno);
+    }
+    return staged;
+}
+
+void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, int stagedFd)
+{
+    bool const isInPlace = IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
+                           IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
+    if (!isInPlace || Engine::DigestTree(stagedFd) != job.digest)
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
     }
-    CheckNewBundle(staged.Get(), job.stagedName,
+    CheckNewBundle(stagedFd, job.stagedName,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
-    return staged;
+}
+
+Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
+{
+    try
+    {
+        return ReadBundleInformation(stagedFd, job.stagedName).confirmsGoodStart
+                   ? Engine::StartConfirmation::ByHost
+                   : Engine::StartConfirmation::ByStarting;
+    }
+    catch (UpdateRefusal const& refusal) // it could be read when it was prepared
+    {
+        throw UpdateRefusal(UpdateFault::StagedTreeChanged, refusal.ErrorNumber());
+    }
 }
 
 /// Everything between the host's end and the relaunch.
@@ -108,9 +131,10 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     static_cast<void>(
         RecoverSwap(descriptors.parent, {job.targetName, job.installedVersion, Engine::RecoverPurpose::Confirmation}));
     CheckTarget(job, descriptors);
-    UniqueFd const staged = CheckStaged(job, descriptors);
+    UniqueFd const staged = OpenStaged(job, descriptors);
     if (job.kind == PayloadKind::Installer)
     {
+        CheckStaged(job, descriptors, staged.Get());
         report.SendProgress(HelperPhase::Installing, 0, 0);
         RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent) + '/' + job.targetName);
         report.Send(Engine::InstalledReport{});
@@ -119,11 +143,12 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
         return;
     }
     Engine::SwapJournal journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
-    journal.confirmation = ReadBundleInformation(staged.Get(), job.stagedName).confirmsGoodStart
-                               ? Engine::StartConfirmation::ByHost
-                               : Engine::StartConfirmation::ByStarting;
+    journal.confirmation = ConfirmationOf(job, staged.Get());
     WriteSwapJournal(descriptors.parent, job.targetName, journal);
     report.SendProgress(HelperPhase::Installing, 0, 0);
+    // Behind the journal, whose syncs take their time: as little as possible lies between the check and the swap. A
+    // refusal here finds the previous version in its place, which is what the journal says to keep.
+    CheckStaged(job, descriptors, staged.Get());
     SwapBundle(descriptors.parent, job.targetName, descriptors.staging, journal);
     report.Send(Engine::InstalledReport{});
 }

@@ -141,6 +141,8 @@ INSTANTIATE_TEST_SUITE_P(
                                   static_cast<void>(!::symlink("/etc/passwd", (b + "/Resources/data").c_str()));
                               }},
                     StagedRow{"FifoAdded", [](std::string const& b) { ::mkfifo((b + "/more").c_str(), 0644); }},
+                    StagedRow{"InformationUnreadable",
+                              [](std::string const& b) { std::ofstream(b + "/Resources/Info-gnustep.plist") << "{"; }},
                     StagedRow{"BundleIsALink",
                               [](std::string const& b)
                               {

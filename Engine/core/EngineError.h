@@ -103,6 +103,22 @@ enum class ErrorCause
     FeedIsWebPage = 707,
     FeedTooMuchMarkup = 708,
 
+    // The signature of a feed that must have one.
+    FeedUnsigned = 750,
+    FeedSignatureNotAtEnd = 751,
+    FeedSignedTwice = 752,
+    FeedBytesAfterSignature = 753,
+    FeedLineEndsRewritten = 754,
+    FeedSignatureUnknown = 755,
+    FeedSignatureMalformed = 756,
+    FeedSignatureWrong = 757,
+
+    // What such a feed says of itself.
+    FeedSerialUnusable = 760,
+    FeedExpiryUnusable = 761,
+    FeedReplayed = 762,
+    FeedExpired = 763,
+
     // The application's own answers.
     ForeignItem = 800,
     DelegateRaised = 801,

@@ -11,6 +11,8 @@
 
 #include <glog/logging.h>
 
+#include <algorithm>
+
 using namespace Pelnar::Foundation;
 
 namespace Pelnar::Engine
@@ -78,6 +80,24 @@ bool IsTrue(NSString* key, Source source)
     return [object boolValue];
 }
 
+FeedSigning ReadFeedSigning()
+{
+    NSString* const key = @"PelnarRequiresSignedFeed";
+    id const object = ObjectOf(key, Source::Bundle);
+    if (!object)
+    {
+        return FeedSigning::NotAsked;
+    }
+    bool const isText = [object isKindOfClass:[NSString class]];
+    bool const isNo = isText ? QStringList{QStringLiteral("no"), QStringLiteral("false"), QStringLiteral("0")}.contains(
+                                   ToQString(object).toLower())
+                             : [object isKindOfClass:[NSNumber class]] && ![object boolValue];
+    bool const isYes = isText ? [object boolValue] : [object isKindOfClass:[NSNumber class]] && [object boolValue];
+    // Deliberate: a misspelt entry asks for the safe side.
+    LOG_IF(WARNING, !isNo && !isYes) << "The setting " << ToUtf8(key) << " is not a boolean and counts as YES";
+    return isNo ? FeedSigning::NotAsked : FeedSigning::Required;
+}
+
 FeedPlatform ReadPlatform()
 {
     QString const name = TextOf(@"PelnarFeedPlatform", Source::DefaultsThenBundle);
@@ -135,6 +155,8 @@ CheckSettings ReadCheckSettings(QUrl const& feedUrl)
     settings.insecureHttp =
         IsTrue(@"PelnarAllowsInsecureFeeds", Source::Bundle) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
     settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
+    settings.feedSigning = ReadFeedSigning();
+    settings.feedRecord = ReadFeedRecord();
     return settings;
 }
 
@@ -168,6 +190,28 @@ RunningBundle ReadRunningBundle()
     return bundle;
 }
 
+NSDate* DateOf(QDateTime const& time)
+{
+    return [NSDate dateWithTimeIntervalSince1970:static_cast<NSTimeInterval>(time.toSecsSinceEpoch())];
+}
+
+QDateTime TimeOf(NSDate* date)
+{
+    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>([date timeIntervalSince1970]), Qt::UTC);
+}
+
+/// Nil when the record has no such entry of that class.
+id EntryOf(NSDictionary* record, NSString* name, Class kind)
+{
+    id const entry = [record objectForKey:name];
+    if (entry && ![entry isKindOfClass:kind])
+    {
+        LOG(WARNING) << "The entry " << ToUtf8(name) << " of PelnarFeedRecord is of the wrong type and is ignored";
+        return nil;
+    }
+    return entry;
+}
+
 BackOffState ReadBackOff()
 {
     BackOffState state;
@@ -183,7 +227,7 @@ BackOffState ReadBackOff()
         return state;
     }
     state.failures = [failures intValue];
-    state.lastFailure = QDateTime::fromSecsSinceEpoch(static_cast<qint64>([time timeIntervalSince1970]), Qt::UTC);
+    state.lastFailure = TimeOf(time);
     return state;
 }
 
@@ -217,6 +261,7 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     UpdateSettings settings;
     settings.check = ReadCheckSettings(feedUrl);
     settings.bundle = ReadRunningBundle();
+    settings.check.publicKeys = settings.bundle.publicKeys;
     settings.automaticDownload = ReadAutomaticDownload();
     // Whoever of the two says so: an administrator's word must not be undone by a default.
     bool const isDisabled =
@@ -256,9 +301,44 @@ void WriteSkippedVersion(QString const& version) { WriteDefault(@"SUSkippedVersi
 void WriteBackOff(BackOffState const& state)
 {
     WriteDefault(@"PelnarFailedChecks", [NSNumber numberWithInt:state.failures]);
-    NSTimeInterval const seconds =
-        state.lastFailure.isValid() ? static_cast<NSTimeInterval>(state.lastFailure.toSecsSinceEpoch()) : 0;
-    WriteDefault(@"PelnarLastFailedCheckTime", [NSDate dateWithTimeIntervalSince1970:seconds]);
+    NSDate* const time =
+        state.lastFailure.isValid() ? DateOf(state.lastFailure) : [NSDate dateWithTimeIntervalSince1970:0];
+    WriteDefault(@"PelnarLastFailedCheckTime", time);
+}
+
+FeedRecord ReadFeedRecord()
+{
+    FeedRecord record;
+    NSString* const key = @"PelnarFeedRecord";
+    id const entries = ObjectOf(key, Source::Defaults);
+    if (entries && ![entries isKindOfClass:[NSDictionary class]])
+    {
+        WarnOfType(key, "a dictionary");
+        return record;
+    }
+    record.address = ToQString(EntryOf(entries, @"address", [NSString class]));
+    record.digest = ToQString(EntryOf(entries, @"digest", [NSString class]));
+    if (NSDate* const time = EntryOf(entries, @"firstSeen", [NSDate class]))
+    {
+        record.firstSeen = TimeOf(time);
+    }
+    if (NSDate* const time = EntryOf(entries, @"lastSeen", [NSDate class]))
+    {
+        record.lastSeen = TimeOf(time);
+    }
+    record.serial = std::max(0LL, [EntryOf(entries, @"serial", [NSNumber class]) longLongValue]);
+    return record;
+}
+
+void WriteFeedRecord(FeedRecord const& record)
+{
+    NSMutableDictionary* const entries = [NSMutableDictionary dictionary];
+    [entries setObject:ToNSString(record.address) forKey:@"address"];
+    [entries setObject:ToNSString(record.digest) forKey:@"digest"];
+    [entries setObject:DateOf(record.firstSeen) forKey:@"firstSeen"];
+    [entries setObject:DateOf(record.lastSeen) forKey:@"lastSeen"];
+    [entries setObject:[NSNumber numberWithLongLong:record.serial] forKey:@"serial"];
+    WriteDefault(@"PelnarFeedRecord", entries);
 }
 
 } // namespace Pelnar::Engine

@@ -14,6 +14,9 @@
 //   PelnarUpdatesDisabled       boolean; nothing is ever sent, every check fails at once both
 //   PelnarFailedChecks          number; background checks in a row that failed           defaults
 //   PelnarLastFailedCheckTime   date; of the last of them                                defaults
+//   PelnarRequiresSignedFeed    boolean; a feed that is not signed is refused; anything but a plain "no" asks for it   bundle
+//   PelnarFeedRecord            dictionary; what is known of the feed: address, digest (text), firstSeen, lastSeen (dates),
+//                               serial (number); an entry of the wrong type counts as absent   defaults
 //   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
 //   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
@@ -42,5 +45,7 @@ void WriteAutomaticDownload(AutomaticDownload value);
 void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
 void WriteBackOff(BackOffState const& state);
+FeedRecord ReadFeedRecord();
+void WriteFeedRecord(FeedRecord const& record);
 
 } // namespace Pelnar::Engine

@@ -401,6 +401,14 @@ void Updater::SkipVersion(QString const& version)
     }
 }
 
+void Updater::StoreFeedRecord(FeedRecord const& record)
+{
+    @autoreleasepool
+    {
+        WriteFeedRecord(record);
+    }
+}
+
 void Updater::StoreBackOff(BackOffState const& state)
 {
     @autoreleasepool

@@ -59,6 +59,7 @@ private:
     void StartFlow(CheckKind kind);
     SUAppcastItem* ItemAt(ItemPlace const& place) const;
 
+    void StoreFeedRecord(FeedRecord const& record) override;
     void FeedLoaded(std::vector<FeedItem> const& items) override;
     BestItemAnswer AskForBestItem() override;
     int CompareVersions(QString const& a, QString const& b) override;

@@ -143,6 +143,8 @@ void SetDateDefault(char const* key);
 QString DefaultsFolder();
 /// Puts \a bytes in the place of the file with the user defaults, and makes the process read them anew.
 void SpoilDefaults(QByteArray const& bytes);
+/// Writes the user defaults to their file, and makes the process read them anew.
+void ReloadDefaults();
 /// Empty when there is no such default, or it is no text.
 QString TextDefault(char const* key);
 /// True when the default is a date between a minute ago and now.

@@ -365,6 +365,15 @@ void SpoilDefaults(QByteArray const& bytes)
     }
 }
 
+void ReloadDefaults()
+{
+    @autoreleasepool
+    {
+        [[NSUserDefaults standardUserDefaults] synchronize];
+        [NSUserDefaults resetStandardUserDefaults];
+    }
+}
+
 QString TextDefault(char const* key)
 {
     @autoreleasepool

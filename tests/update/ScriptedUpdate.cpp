@@ -86,6 +86,15 @@ QString ScriptedHost::PathToRelaunch()
     return relaunchPath;
 }
 
+void ScriptedHost::StoreFeedRecord(FeedRecord const& record)
+{
+    if (throwsIn == "store feed record")
+    {
+        throw std::runtime_error("the defaults are full");
+    }
+    feedRecord = record;
+}
+
 void ScriptedHost::StoreBackOff(BackOffState const& state)
 {
     Note("failures " + std::to_string(state.failures));

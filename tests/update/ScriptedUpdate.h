@@ -47,6 +47,8 @@ public:
     QString PathToRelaunch() override;
     void TellWillRelaunch() override { Note("will relaunch"); }
     void SkipVersion(QString const& version) override { Note("skip " + version.toStdString()); }
+    /// Deliberate: not noted; every feed that can be read is remembered.
+    void StoreFeedRecord(Engine::FeedRecord const& record) override;
     void StoreBackOff(Engine::BackOffState const& state) override;
     void UpdateEnded() override;
 
@@ -66,6 +68,7 @@ public:
     std::optional<Engine::EngineError> error;
     std::function<void()> onEnded;
     std::size_t itemCount = 0;
+    std::optional<Engine::FeedRecord> feedRecord;
 
 private:
     void Note(std::string const& note);

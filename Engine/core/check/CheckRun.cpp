@@ -29,10 +29,11 @@ char const* NameOf(OfferVerdict verdict)
 
 } // namespace
 
-CheckRun::CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host)
+CheckRun::CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now)
     : m_kind(kind)
     , m_settings(std::move(settings))
     , m_host(host)
+    , m_now(std::move(now))
     , m_fetcher(m_settings.fetchLimits, m_settings.insecureHttp)
 {
 }
@@ -56,22 +57,12 @@ void CheckRun::Refuse(EngineError const& error)
 
 void CheckRun::TakeFeed(FetchOutcome const& outcome)
 {
-    if (outcome.error)
+    if (std::optional<EngineError> const refusal = outcome.error ? outcome.error : ReadFeed(outcome))
     {
-        Abort(*outcome.error);
+        Abort(*refusal);
         m_host.CheckEnded();
         return;
     }
-    FeedParseResult result =
-        ParseFeed(outcome.bytes, outcome.url, m_settings.platform, m_settings.feedLimits, m_settings.languages);
-    if (!result.HasSucceeded())
-    {
-        // The declaration that many pages begin with would count as an error of its own.
-        Abort(BeginsAsWebPage(outcome.bytes) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error));
-        m_host.CheckEnded();
-        return;
-    }
-    m_items = std::move(result.items);
 
     std::optional<EngineError> error;
     std::optional<FoundUpdate> found;
@@ -90,6 +81,57 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
         Tell(found);
     }
     m_host.CheckEnded();
+}
+
+std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
+{
+    bool const isSigned = m_settings.feedSigning == FeedSigning::Required;
+    QByteArray content = outcome.bytes;
+    if (isSigned)
+    {
+        auto verified = VerifyFeed(outcome.bytes, m_settings.publicKeys);
+        if (auto const* const error = std::get_if<EngineError>(&verified))
+        {
+            return *error;
+        }
+        content = std::get<QByteArray>(std::move(verified));
+    }
+    FeedParseResult result =
+        ParseFeed(content, outcome.url, m_settings.platform, m_settings.feedLimits, m_settings.languages);
+    if (!result.HasSucceeded())
+    {
+        // The declaration that many pages begin with would count as an error of its own.
+        return BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error);
+    }
+    QDateTime const now = m_now();
+    std::optional<FeedTerms> terms;
+    if (isSigned)
+    {
+        auto const said = ReadFeedTerms(result.channel);
+        if (auto const* const error = std::get_if<EngineError>(&said))
+        {
+            return *error;
+        }
+        terms = std::get<FeedTerms>(said);
+        if (auto const error = JudgeFeedTerms(*terms, SerialFloor(m_settings.feedRecord, m_settings.feedUrl), now))
+        {
+            return error;
+        }
+    }
+    m_items = std::move(result.items);
+    Remember(outcome.bytes, terms, now);
+    return std::nullopt;
+}
+
+void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now)
+{
+    FeedRecord const record = AfterFeed(m_settings.feedRecord, m_settings.feedUrl, bytes, terms, now);
+    int const days = UnchangedDays(record);
+    LOG_IF(WARNING, days >= STALE_FEED_DAYS)
+        << "The update feed has not changed for " << days
+        << " days: unless nothing was published, newer ones do not get through to this computer";
+    // What cannot be remembered must not keep an update away.
+    (void)FailureOf("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
 }
 
 std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)

@@ -5,6 +5,8 @@
 
 #include "Engine/core/EngineError.h"
 #include "Engine/core/check/CheckPolicy.h"
+#include "Engine/core/check/FeedRecord.h"
+#include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/fetch/FeedFetcher.h"
 
@@ -30,6 +32,9 @@ struct CheckSettings
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits fetchLimits;
     FeedLimits feedLimits;
+    FeedSigning feedSigning = FeedSigning::NotAsked;
+    QStringList publicKeys; ///< of the running bundle, base64
+    FeedRecord feedRecord;  ///< of the last check
 };
 
 /// An item of the loaded feed, or a delta of one.
@@ -66,6 +71,8 @@ class ICheckHost
 public:
     virtual ~ICheckHost() = default;
 
+    /// The feed can be read and, where it must, is signed: to be remembered for the next check.
+    virtual void StoreFeedRecord(FeedRecord const& record) = 0;
     /// \a items live as long as the run.
     virtual void FeedLoaded(std::vector<FeedItem> const& items) = 0;
     virtual BestItemAnswer AskForBestItem() = 0;
@@ -82,7 +89,7 @@ class CheckRun : public QObject
 {
     Q_OBJECT
 public:
-    CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host);
+    CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now);
 
     /// Everything that the host hears comes later, from the event loop.
     void Start();
@@ -91,6 +98,9 @@ public:
 
 private:
     void TakeFeed(FetchOutcome const& outcome);
+    /// The items of what was fetched become the run's, or an error says why not.
+    std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
+    void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
     /// Asks the host and judges its answer: what to offer, or nothing; an error when the answer is of no use.
     std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
     FeedItem const& At(ItemPlace const& place) const;
@@ -100,6 +110,7 @@ private:
     CheckKind m_kind;
     CheckSettings m_settings;
     ICheckHost& m_host;
+    std::function<QDateTime()> m_now;
     FeedFetcher m_fetcher;
     std::vector<FeedItem> m_items;
 };

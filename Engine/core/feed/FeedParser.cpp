@@ -40,9 +40,61 @@ bool IsItem(QXmlStreamReader const& reader)
     return reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("item");
 }
 
-std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& context)
+/// Reads the channel's own elements beside the items, without a step of its own: what stands inside them is read as if
+/// they were not there.
+class ChannelReader
+{
+public:
+    explicit ChannelReader(FeedChannel& channel) : m_channel(channel) {}
+
+    void Take(QXmlStreamReader::TokenType token, FeedWalker const& walker)
+    {
+        QXmlStreamReader const& reader = walker.Reader();
+        if (token == QXmlStreamReader::StartElement && walker.Depth() == CHANNEL_DEPTH)
+        {
+            m_isInChannel = reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("channel");
+        }
+        else if (token == QXmlStreamReader::StartElement && walker.Depth() == CHANNEL_DEPTH + 1)
+        {
+            m_texts = m_isInChannel ? TextsFor(reader) : nullptr;
+            if (m_texts)
+            {
+                m_texts->append(QString());
+            }
+        }
+        else if (token == QXmlStreamReader::EndElement && walker.Depth() == CHANNEL_DEPTH)
+        {
+            m_texts = nullptr;
+        }
+        else if (token == QXmlStreamReader::Characters && m_texts)
+        {
+            m_texts->last() += reader.text();
+        }
+    }
+
+private:
+    static constexpr int CHANNEL_DEPTH = 2;
+
+    QStringList* TextsFor(QXmlStreamReader const& reader)
+    {
+        if (reader.namespaceUri() != QLatin1String(OWN_FEED_NAMESPACE))
+        {
+            return nullptr;
+        }
+        return reader.name() == QLatin1String("serial")    ? &m_channel.serials
+               : reader.name() == QLatin1String("expires") ? &m_channel.expirations
+                                                           : nullptr;
+    }
+
+    FeedChannel& m_channel;
+    bool m_isInChannel = false;
+    QStringList* m_texts = nullptr; ///< whose last is being read
+};
+
+std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& context, FeedChannel& channel)
 {
     std::vector<FeedItem> items;
+    ChannelReader channelReader(channel);
     int met = 0;
     for (;;)
     {
@@ -51,6 +103,7 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         {
             return items;
         }
+        channelReader.Take(token, walker);
         if (token != QXmlStreamReader::StartElement)
         {
             continue;
@@ -94,11 +147,13 @@ FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlat
         return result;
     }
     FeedWalker walker(document.utf8, document.text, limits);
-    std::vector<FeedItem> items = ReadItems(walker, {feedUrl, platform, limits, languages});
+    FeedChannel channel;
+    std::vector<FeedItem> items = ReadItems(walker, {feedUrl, platform, limits, languages}, channel);
     result.error = walker.Error();
     if (result.HasSucceeded())
     {
         result.items = std::move(items);
+        result.channel = std::move(channel);
     }
     return result;
 }

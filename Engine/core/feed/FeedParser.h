@@ -59,10 +59,21 @@ struct FeedParseError
     QString detail;   ///< the XML reader's own words for Malformed, else empty
 };
 
+/// What the channel says of the feed itself, in elements of OWN_FEED_NAMESPACE; docs/formats/signed-feed.md.
+struct FeedChannel
+{
+    QStringList serials; ///< the text of each
+    QStringList expirations;
+};
+
+/// Of the elements that are this system's own.
+constexpr char OWN_FEED_NAMESPACE[] = "https://pelnar.example/xml-namespaces/appcast";
+
 struct FeedParseResult
 {
     FeedParseError error;        ///< kind is None on success
     std::vector<FeedItem> items; ///< in the order of the feed; empty on error
+    FeedChannel channel;
 
     [[nodiscard]] bool HasSucceeded() const { return error.kind == FeedErrorKind::None; }
 };

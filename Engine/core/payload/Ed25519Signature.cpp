@@ -42,6 +42,43 @@ private:
     void* m_bytes;
 };
 
+/// A signature and the keys of which one must have made it.
+struct Claim
+{
+    std::vector<Ed25519Key> keys;
+    Ed25519SignatureBytes signature;
+};
+
+UpdateFault ReadClaim(std::string_view signatureText, std::vector<std::string> const& publicKeys, Claim& claim)
+{
+    if (sodium_init() < 0)
+    {
+        return UpdateFault::CryptographyUnavailable;
+    }
+    if (publicKeys.empty())
+    {
+        return UpdateFault::KeyMissing;
+    }
+    claim.keys.resize(publicKeys.size());
+    for (std::size_t i = 0; i < claim.keys.size(); ++i)
+    {
+        if (UpdateFault const fault = ParsePublicKey(publicKeys[i], claim.keys[i]); fault != UpdateFault::None)
+        {
+            return fault;
+        }
+    }
+    return ParseSignature(signatureText, claim.signature);
+}
+
+UpdateFault Judge(Claim const& claim, unsigned char const* bytes, std::size_t size)
+{
+    bool const isSigned = std::any_of(
+        claim.keys.begin(), claim.keys.end(),
+        [&](Ed25519Key const& key)
+        { return crypto_sign_ed25519_verify_detached(claim.signature.data(), bytes, size, key.data()) == 0; });
+    return isSigned ? UpdateFault::None : UpdateFault::SignatureMismatch;
+}
+
 } // namespace
 
 std::optional<std::vector<std::uint8_t>> DecodeBase64(std::string_view text)
@@ -89,27 +126,22 @@ UpdateFault ParseSignature(std::string_view text, Ed25519SignatureBytes& signatu
     return UpdateFault::None;
 }
 
+UpdateFault VerifySignature(std::string_view message, std::string_view signatureText,
+                            std::vector<std::string> const& publicKeys)
+{
+    Claim claim;
+    if (UpdateFault const fault = ReadClaim(signatureText, publicKeys, claim); fault != UpdateFault::None)
+    {
+        return fault;
+    }
+    return Judge(claim, reinterpret_cast<unsigned char const*>(message.data()), message.size());
+}
+
 UpdateFault VerifyFileSignature(int descriptor, std::string_view signatureText,
                                 std::vector<std::string> const& publicKeys)
 {
-    if (sodium_init() < 0)
-    {
-        return UpdateFault::CryptographyUnavailable;
-    }
-    if (publicKeys.empty())
-    {
-        return UpdateFault::KeyMissing;
-    }
-    std::vector<Ed25519Key> keys(publicKeys.size());
-    for (std::size_t i = 0; i < keys.size(); ++i)
-    {
-        if (UpdateFault const fault = ParsePublicKey(publicKeys[i], keys[i]); fault != UpdateFault::None)
-        {
-            return fault;
-        }
-    }
-    Ed25519SignatureBytes signature;
-    if (UpdateFault const fault = ParseSignature(signatureText, signature); fault != UpdateFault::None)
+    Claim claim;
+    if (UpdateFault const fault = ReadClaim(signatureText, publicKeys, claim); fault != UpdateFault::None)
     {
         return fault;
     }
@@ -128,11 +160,7 @@ UpdateFault VerifyFileSignature(int descriptor, std::string_view signatureText,
     {
         return UpdateFault::ArchiveUnreadable;
     }
-    bool const isSigned = std::any_of(
-        keys.begin(), keys.end(),
-        [&](Ed25519Key const& key)
-        { return crypto_sign_ed25519_verify_detached(signature.data(), file.Bytes(), size, key.data()) == 0; });
-    return isSigned ? UpdateFault::None : UpdateFault::SignatureMismatch;
+    return Judge(claim, file.Bytes(), size);
 }
 
 } // namespace Pelnar::Engine

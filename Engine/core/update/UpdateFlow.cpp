@@ -18,7 +18,8 @@ UpdateFlow::UpdateFlow(CheckKind kind, UpdateSettings settings, IUpdateHost& hos
     , m_host(host)
     , m_windows(windows)
     , m_parts(parts)
-    , m_check(std::make_unique<CheckRun>(kind, m_settings.check, static_cast<ICheckHost&>(*this)))
+    , m_check(std::make_unique<CheckRun>(kind, m_settings.check, static_cast<ICheckHost&>(*this),
+                                         [&parts] { return parts.Now(); }))
 {
 }
 

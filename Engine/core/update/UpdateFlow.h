@@ -31,6 +31,7 @@ public:
     void GiveUpInstallation();
 
 private:
+    void StoreFeedRecord(FeedRecord const& record) override { m_host.StoreFeedRecord(record); }
     void FeedLoaded(std::vector<FeedItem> const& items) override;
     BestItemAnswer AskForBestItem() override { return m_host.AskForBestItem(); }
     int CompareVersions(QString const& a, QString const& b) override { return m_host.CompareVersions(a, b); }

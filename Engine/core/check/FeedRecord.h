@@ -1,0 +1,40 @@
+// FeedRecord.h: what is remembered of an application's feed from check to check. Pure decisions.
+// Thread: any; no state. Ownership: values only.
+#pragma once
+
+#include "Engine/core/check/FeedTrust.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QUrl>
+
+#include <optional>
+
+namespace Pelnar::Engine
+{
+
+/// Kept in the user defaults, of one address: a feed at another one begins anew.
+struct FeedRecord
+{
+    QString address;
+    QString digest;      ///< hexadecimal SHA-256 of all bytes
+    QDateTime firstSeen; ///< when these bytes came for the first time; invalid without a feed
+    QDateTime lastSeen;  ///< and for the last time
+    qint64 serial = 0;   ///< of the last feed whose signature was verified; 0 without one
+};
+
+/// From so many days on the log warns of a feed that does not change: an old one may be all that gets through.
+constexpr int STALE_FEED_DAYS = 180;
+
+/// The serial that a signed feed from \a url must not be below.
+[[nodiscard]] qint64 SerialFloor(FeedRecord const& record, QUrl const& url);
+
+/// \a record after \a bytes, a feed that can be read, came from \a url. \a terms are those of a verified feed.
+[[nodiscard]] FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
+                                   std::optional<FeedTerms> const& terms, QDateTime const& now);
+
+/// For how many whole days the same bytes have been coming, as far as checks were made.
+[[nodiscard]] int UnchangedDays(FeedRecord const& record);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,125 @@
+#include "Engine/core/check/FeedTrust.h"
+
+#include "Engine/core/feed/SignedFeed.h"
+#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/update/UpdateError.h"
+
+#include <algorithm>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr char DATE_FORM[] = "0000-00-00T00:00:00Z"; // 0: any digit
+
+ErrorCause CauseOf(SignedFeedFault fault)
+{
+    switch (fault)
+    {
+    case SignedFeedFault::None:
+        return ErrorCause::FeedSignatureWrong;
+    case SignedFeedFault::Missing:
+        return ErrorCause::FeedUnsigned;
+    case SignedFeedFault::Repeated:
+        return ErrorCause::FeedSignedTwice;
+    case SignedFeedFault::NotAtEnd:
+        return ErrorCause::FeedSignatureNotAtEnd;
+    case SignedFeedFault::BytesAfter:
+        return ErrorCause::FeedBytesAfterSignature;
+    case SignedFeedFault::LineEndsRewritten:
+        return ErrorCause::FeedLineEndsRewritten;
+    case SignedFeedFault::AlgorithmUnknown:
+        return ErrorCause::FeedSignatureUnknown;
+    case SignedFeedFault::Malformed:
+        return ErrorCause::FeedSignatureMalformed;
+    }
+    return ErrorCause::FeedUnsigned;
+}
+
+bool IsDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
+}
+
+/// 0 for anything but a positive decimal number without leading zeros that fits.
+qint64 SerialOf(QString const& text)
+{
+    bool const isDecimal =
+        !text.isEmpty() && text.at(0) != QLatin1Char('0') && std::all_of(text.begin(), text.end(), IsDigit);
+    return isDecimal ? text.toLongLong() : 0;
+}
+
+/// Invalid for anything but a moment in the one form.
+QDateTime MomentOf(QString const& text)
+{
+    QLatin1String const form(DATE_FORM);
+    bool const isOfForm = text.size() == form.size() &&
+                          std::equal(text.begin(), text.end(), form.begin(),
+                                     [](QChar character, char wanted)
+                                     { return wanted == '0' ? IsDigit(character) : character == QLatin1Char(wanted); });
+    return isOfForm ? QDateTime::fromString(text, Qt::ISODate) : QDateTime();
+}
+
+} // namespace
+
+std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStringList const& publicKeys)
+{
+    SignedFeed const feed = SplitSignedFeed(bytes);
+    if (feed.fault == SignedFeedFault::Missing && BeginsAsWebPage(bytes))
+    {
+        return MakeError(ErrorCause::FeedIsWebPage);
+    }
+    if (feed.fault != SignedFeedFault::None)
+    {
+        return MakeError(CauseOf(feed.fault));
+    }
+    std::vector<std::string> keys;
+    for (QString const& key : publicKeys)
+    {
+        keys.push_back(key.toStdString());
+    }
+    std::string_view const content(bytes.constData(), static_cast<std::size_t>(feed.contentBytes));
+    UpdateFault const verdict = VerifySignature(content, feed.signature, keys);
+    if (verdict == UpdateFault::SignatureMismatch)
+    {
+        return MakeError(ErrorCause::FeedSignatureWrong);
+    }
+    if (verdict != UpdateFault::None)
+    {
+        return MakeFaultError(verdict);
+    }
+    return bytes.left(feed.contentBytes);
+}
+
+std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
+{
+    FeedTerms terms;
+    terms.serial = channel.serials.size() == 1 ? SerialOf(channel.serials.front().trimmed()) : 0;
+    if (terms.serial == 0)
+    {
+        return MakeError(ErrorCause::FeedSerialUnusable);
+    }
+    terms.expires = channel.expirations.size() == 1 ? MomentOf(channel.expirations.front().trimmed()) : QDateTime();
+    if (!terms.expires.isValid())
+    {
+        return MakeError(ErrorCause::FeedExpiryUnusable);
+    }
+    return terms;
+}
+
+std::optional<EngineError> JudgeFeedTerms(FeedTerms const& terms, qint64 floor, QDateTime const& now)
+{
+    if (terms.serial < floor)
+    {
+        return MakeError(ErrorCause::FeedReplayed);
+    }
+    if (now >= terms.expires)
+    {
+        return MakeError(ErrorCause::FeedExpired);
+    }
+    return std::nullopt;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,186 @@
+// SignedFeedTest.cpp: checks by a bundle that requires signed feeds, over a server on this computer and the process's
+// own user defaults.
+#include "tests/engine/CheckFixture.h"
+#include "tests/engine/SignedFeedText.h"
+
+#include <Pelnar/FeedAge.h>
+
+#include <QCryptographicHash>
+#include <QDateTime>
+
+namespace
+{
+
+using namespace Pelnar::Testing;
+using Start = void (UpdaterDriver::*)();
+
+class SignedFeedCheck : public CheckContract
+{
+protected:
+    /// One check of whatever \a feed the server has.
+    Events Check(QByteArray const& feed, Start start = &UpdaterDriver::Probe)
+    {
+        answer = OkAnswer(feed);
+        driver.emplace(DelegateScript{&ChooseFirst, &CompareNumbers, {}, {}});
+        driver->SetFeed(server.Url());
+        ((*driver).*start)();
+        EXPECT_TRUE(driver->WaitForEnd());
+        return driver->Events();
+    }
+
+    void ExpectRefused(int code, int cause)
+    {
+        ASSERT_EQ(driver->Errors().size(), 1u);
+        ToldError const& error = driver->Errors().front();
+        EXPECT_EQ(error.domain, "SUSparkleErrorDomain");
+        EXPECT_EQ(error.code, code);
+        EXPECT_EQ(error.underlyingDomain, "PelnarUpdateCheckErrorDomain");
+        EXPECT_EQ(error.underlyingCode, cause);
+        EXPECT_EQ(error.sentence.back(), '.');
+    }
+
+    /// The user defaults are a record of the server's feed with these entries.
+    void WriteRecord(QByteArray const& entries)
+    {
+        SpoilDefaults("{ PelnarFeedRecord = { address = \"" + server.Url().toEncoded() + "\"; " + entries + " }; }");
+    }
+
+    QByteArray answer;
+    LoopbackServer server{[this](QSslSocket& socket, QByteArray const&, int)
+                          {
+                              socket.write(answer);
+                              socket.disconnectFromHost();
+                          }};
+    std::optional<UpdaterDriver> driver;
+};
+
+class SignedFeedOfEveryCheck : public SignedFeedCheck, public ::testing::WithParamInterface<Start>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Kinds, SignedFeedOfEveryCheck,
+                         ::testing::Values(&UpdaterDriver::Probe, &UpdaterDriver::CheckInBackground,
+                                           &UpdaterDriver::CheckInteractively));
+
+TEST_P(SignedFeedOfEveryCheck, IsBelieved)
+{
+    Events const events = Check(SignedFeedOf("5.1"), GetParam());
+    ASSERT_GE(events.size(), 2u);
+    EXPECT_EQ(events[0], "asked");
+    EXPECT_EQ(events[1], "found 5.1");
+}
+
+TEST_P(SignedFeedOfEveryCheck, WithoutItsSignatureEndsTheCheck)
+{
+    EXPECT_EQ(Check(FeedWith(TermsOf("7", FAR_AHEAD) + ItemOf("5.1")), GetParam()), Events{"aborted 3001"});
+    ExpectRefused(3001, 750);
+}
+
+class SpoiltFeedCheck : public SignedFeedCheck, public ::testing::WithParamInterface<SpoiltFeed>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Table, SpoiltFeedCheck, ::testing::ValuesIn(SpoiltFeeds()),
+                         [](auto const& row) { return row.param.name; });
+
+TEST_P(SpoiltFeedCheck, IsRefusedAndNothingIsAskedOrRemembered)
+{
+    int const code = GetParam().cause == 707 ? 1000 : 3001;
+    EXPECT_EQ(Check(GetParam().feed), Events{"aborted " + std::to_string(code)});
+    ExpectRefused(code, GetParam().cause);
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "1")), (Events{"asked", "found 5.1"})) << "no floor was left";
+}
+
+TEST_F(SignedFeedCheck, SignatureIsJudgedBeforeTheMarkup)
+{
+    EXPECT_EQ(Check("<!DOCTYPE rss><rss>"), Events{"aborted 3001"});
+    ExpectRefused(3001, 750);
+    EXPECT_EQ(Check(Signed("<rss>\n", 9)), Events{"aborted 3001"});
+    ExpectRefused(3001, 757);
+    EXPECT_EQ(Check(Signed("<rss>\n")), Events{"aborted 1000"}) << "the publisher's own mistake";
+}
+
+TEST_F(SignedFeedCheck, TermsAreRequired)
+{
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "", FAR_AHEAD)), Events{"aborted 3002"});
+    ExpectRefused(3002, 760);
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "1", "")), Events{"aborted 3002"});
+    ExpectRefused(3002, 761);
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "1", "2026-01-01T00:00:00Z")), Events{"aborted 3002"});
+    ExpectRefused(3002, 763);
+}
+
+TEST_F(SignedFeedCheck, OlderFeedThanTheLastIsRefusedByTheNextProcessAsWell)
+{
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), (Events{"asked", "found 5.2"}));
+    ReloadDefaults();
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "9007199254740992")), Events{"aborted 3002"});
+    ExpectRefused(3002, 762);
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), (Events{"asked", "found 5.2"})) << "the same again";
+    EXPECT_EQ(Check(SignedFeedOf("5.3", "9007199254740994")), (Events{"asked", "found 5.3"}));
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), Events{"aborted 3002"});
+}
+
+TEST_F(SignedFeedCheck, RefusedFeedsMoveNoFloor)
+{
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "2")), (Events{"asked", "found 5.1"}));
+    QByteArray forward = SignedFeedOf("5.9", "9000");
+    forward.replace("5.9", "6.9");
+    EXPECT_EQ(Check(forward), Events{"aborted 3001"});
+    EXPECT_EQ(Check(SignedFeedOf("5.9", "9000", "2026-01-01T00:00:00Z")), Events{"aborted 3002"});
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "3")), (Events{"asked", "found 5.1"}));
+}
+
+TEST_F(SignedFeedCheck, FeedAtAnotherAddressHasSerialsOfItsOwn)
+{
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
+    driver->SetFeed(server.Url(QStringLiteral("/beta.xml")));
+    answer = OkAnswer(SignedFeedOf("5.2", "1"));
+    driver->Probe();
+    EXPECT_TRUE(driver->WaitForEnd());
+    EXPECT_EQ(driver->Events().back(), "found 5.2");
+}
+
+TEST_F(SignedFeedCheck, FloorIsReadFromTheDefaults)
+{
+    WriteRecord("serial = <*I8>;");
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), Events{"aborted 3002"});
+}
+
+TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
+{
+    for (QByteArray const& record :
+         {QByteArray("serial = eight;"), QByteArray("serial = \"8\";"), QByteArray("serial = (<*I8>);"),
+          QByteArray("serial = <*I-8>;"), QByteArray("serial = <*D2027-01-01 00:00:00 +0000>;"), QByteArray()})
+    {
+        WriteRecord(record + " digest = (); firstSeen = today; lastSeen = <*I3>;");
+        LogCapture log;
+        EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"})) << record.toStdString();
+        EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The entry firstSeen of PelnarFeedRecord is of the wrong type"));
+    }
+    for (QByteArray const& defaults :
+         {QByteArray("{ PelnarFeedRecord = 8; }"), QByteArray("{ PelnarFeedRecord = (8); }"),
+          QByteArray("no property list"), QByteArray()})
+    {
+        SpoilDefaults(defaults);
+        EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"})) << defaults.toStdString();
+    }
+}
+
+TEST_F(SignedFeedCheck, HostCanAskForHowLongTheFeedHasNotChanged)
+{
+    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0) << "no feed yet";
+    QByteArray const feed = SignedFeedOf("5.1");
+    QByteArray const firstSeen =
+        QDateTime::currentDateTimeUtc().addDays(-200).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toLatin1();
+    WriteRecord("digest = \"" + QCryptographicHash::hash(feed, QCryptographicHash::Sha256).toHex() +
+                "\"; firstSeen = <*D" + firstSeen + " +0000>;");
+    LogCapture log;
+    EXPECT_EQ(Check(feed), (Events{"asked", "found 5.1"}));
+    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 200);
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The update feed has not changed for 200 days"));
+    EXPECT_EQ(Check(SignedFeedOf("5.2")), (Events{"asked", "found 5.2"}));
+    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0);
+}
+
+} // namespace

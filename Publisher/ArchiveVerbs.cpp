@@ -6,6 +6,7 @@
 #include "Publisher/generate/GenerateVerb.h"
 #include "Publisher/keys/KeysVerbs.h"
 #include "Publisher/serve/ServeVerb.h"
+#include "Publisher/signfeed/SignFeedVerb.h"
 
 namespace Pelnar::Publisher
 {
@@ -16,6 +17,7 @@ void AddArchiveVerbs(CLI::App& program, VerbContext& context)
     AddSign(program, context);
     AddVerify(program, context);
     AddGenerate(program, context);
+    AddSignFeed(program, context);
     AddDelta(program, context);
     AddServe(program, context);
 }

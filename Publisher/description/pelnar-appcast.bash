@@ -14,6 +14,7 @@ _pelnar_appcast()
             "/sign" | \
             "/verify" | \
             "/generate" | \
+            "/sign-feed" | \
             "/delta" | \
             "/serve" | \
             "keys/generate" | \
@@ -35,9 +36,9 @@ _pelnar_appcast()
     esac
     if [ -z "$words" ]; then
         case "$verb" in
-            "") words="explain lint matrix diff timeline keys sign verify generate delta serve -h --help" ;;
+            "") words="explain lint matrix diff timeline keys sign verify generate sign-feed delta serve -h --help" ;;
             "explain") words="-h --help --local-version --system-version --platform --published-at --after-delta --json" ;;
-            "lint") words="-h --help --published-at --fetch --public-key --strict --json --rules" ;;
+            "lint") words="-h --help --published-at --fetch --signed --public-key --strict --json --rules" ;;
             "matrix") words="-h --help --versions --systems --platform --published-at --expect --json" ;;
             "diff") words="-h --help --versions --platform --published-at --json" ;;
             "timeline") words="-h --help --json" ;;
@@ -47,7 +48,8 @@ _pelnar_appcast()
             "keys export") words="-h --help --form --to-terminal" ;;
             "sign") words="-h --help --key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --url-prefix -o --output --title --link --deltas" ;;
+            "generate") words="-h --help --key --url-prefix -o --output --title --link --deltas --sign-feed --valid-for" ;;
+            "sign-feed") words="-h --help --key --valid-for --serial --accept-changes -o --output" ;;
             "delta") words="create apply show -h --help" ;;
             "delta create") words="-h --help -o --output --key" ;;
             "delta apply") words="-h --help -o --output" ;;

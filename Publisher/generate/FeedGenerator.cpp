@@ -7,6 +7,7 @@
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/lint/LintReport.h"
+#include "Publisher/signfeed/FeedSigner.h"
 
 #include <QFileInfo>
 
@@ -64,16 +65,24 @@ std::vector<FolderArchive> NewArchives(Workplace const& workplace, PublishedFeed
     return fresh;
 }
 
-PublishedFeed OpenFeed(GenerateRequest const& request, QString const& feedFile, QString const& title)
+/// The feed that is published, or an empty one.
+FeedContent ReadFeedFile(QString const& feedFile, SigningKey const& key)
+{
+    if (!QFileInfo::exists(feedFile))
+    {
+        return {};
+    }
+    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, QStringLiteral("drop old items"));
+    return ReadFeedContent(feedFile, bytes, key, ChangedFeed::Refused);
+}
+
+PublishedFeed OpenFeed(GenerateRequest const& request, QString const& feedFile, QByteArray const& content,
+                       QString const& title)
 {
     QString const link = QString::fromStdString(request.link.empty() ? request.urlPrefix : request.link);
     QUrl const address = DownloadAddress(QString::fromStdString(request.urlPrefix)).Of(QFileInfo(feedFile).fileName());
-    if (!QFileInfo::exists(feedFile))
-    {
-        return PublishedFeed(feedFile, EmptyFeedText(title, link).toUtf8(), address);
-    }
-    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, QStringLiteral("drop old items"));
-    return PublishedFeed(feedFile, bytes, address);
+    bool const isNew = !QFileInfo::exists(feedFile);
+    return PublishedFeed(feedFile, isNew ? EmptyFeedText(title, link).toUtf8() : content, address);
 }
 
 std::vector<Addition> AdditionsOf(std::vector<NewItem> const& items, PublishedFeed const& feed,
@@ -116,6 +125,14 @@ QUrl FeedAddressOf(Workplace const& workplace, QString const& feedFile)
     return workplace.address.Of(QFileInfo(feedFile).fileName());
 }
 
+void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& address)
+{
+    PublishedFeed const proof(feedFile, bytes, address);
+    AtomicFile file(feedFile);
+    file.Write(bytes);
+    file.Commit(ExistingFile::Replace);
+}
+
 /// What lint says of the whole feed, for what was published before may need mending as well.
 ExitStatus Judge(Console const& console, QString const& feedFile, QByteArray const& bytes, QUrl const& address)
 {
@@ -138,7 +155,8 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
                                                       : QString::fromStdString(request.feedFile);
     std::vector<FolderArchive> const archives = ScanFolder(folder);
     QString title = QString::fromStdString(request.title);
-    PublishedFeed feed = OpenFeed(request, feedFile, title);
+    FeedContent const published = ReadFeedFile(feedFile, key);
+    PublishedFeed feed = OpenFeed(request, feedFile, published.bytes, title);
 
     std::vector<NewItem> items = ArchiveIntake(workplace, feed).Take(NewArchives(workplace, feed, archives));
     DeltaStage(workplace, feed, archives).AddTo(items, request.deltaCount);
@@ -153,17 +171,25 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
     if (title.isEmpty() && !items.empty())
     {
         // Only now is the product's name known.
-        feed = OpenFeed(request, feedFile, items.front().productName);
+        feed = OpenFeed(request, feedFile, published.bytes, items.front().productName);
     }
-    QByteArray const bytes = feed.With(AdditionsOf(items, feed, workplace.address));
-    if (!items.empty())
+    QByteArray bytes = feed.With(AdditionsOf(items, feed, workplace.address));
+    bool const isNewlySigned = request.isFeedSigned && !published.isSigned;
+    std::optional<SignedFeedBytes> signedFeed;
+    if (isNewlySigned || (published.isSigned && !items.empty()))
     {
-        PublishedFeed const proof(feedFile, bytes, FeedAddressOf(workplace, feedFile));
-        AtomicFile file(feedFile);
-        file.Write(bytes);
-        file.Commit(ExistingFile::Replace);
+        signedFeed = SignFeed(feedFile, bytes, key, {{}, request.validDays, QDateTime::currentDateTimeUtc()});
+        bytes = signedFeed->bytes;
+    }
+    if (!items.empty() || signedFeed)
+    {
+        WriteFeed(feedFile, bytes, FeedAddressOf(workplace, feedFile));
     }
     Report(console, feedFile, items, feed.Items().size());
+    if (signedFeed)
+    {
+        console.Print(QStringLiteral("%1: %2").arg(feedFile, TextOf(signedFeed->terms)));
+    }
     return Judge(console, feedFile, bytes, FeedAddressOf(workplace, feedFile));
 }
 

@@ -2,6 +2,7 @@
 
 #include "Publisher/Refusal.h"
 #include "Publisher/generate/FeedGenerator.h"
+#include "Publisher/signfeed/SignFeedVerb.h"
 
 #include <memory>
 
@@ -33,6 +34,9 @@ void AddGenerate(CLI::App& program, VerbContext& context)
         ->type_name("NUMBER")
         ->check(CLI::Range(0, 100))
         ->capture_default_str();
+    verb.add_flag("--sign-feed", request->isFeedSigned,
+                  "Sign the feed itself as well; one that has a signature is always signed again when it changes");
+    AddValidForOption(verb, request->validDays);
     SetWork(verb, context, [&context, request] { return GenerateFeed(*request, context.console); });
 }
 

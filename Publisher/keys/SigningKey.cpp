@@ -127,6 +127,15 @@ std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
                    QStringLiteral("a key is one line: 32 or 64 bytes in base64, as \"keys generate\" writes it")});
 }
 
+std::string SignatureText(SecretBytes const& secret, unsigned char const* bytes, std::size_t size)
+{
+    Engine::Ed25519SignatureBytes signature;
+    ::crypto_sign_ed25519_detached(signature.data(), nullptr, bytes, size, secret.Data());
+    char text[sodium_base64_ENCODED_LEN(Engine::ED25519_SIGNATURE_BYTES, BASE64)];
+    ::sodium_bin2base64(text, sizeof text, signature.data(), signature.size(), BASE64);
+    return text;
+}
+
 } // namespace
 
 SecretBytes::SecretBytes(std::size_t size) : m_size(size)
@@ -253,18 +262,20 @@ ArchiveSignature SigningKey::Sign(InputFile const& archive) const
     {
         RefuseFile(archive.name, QStringLiteral("cannot be read"), errno, {});
     }
-    Engine::Ed25519SignatureBytes signature;
-    ::crypto_sign_ed25519_detached(signature.data(), nullptr, mapping.Content().data(), mapping.Content().size(),
-                                   m_secret.Data());
-    char text[sodium_base64_ENCODED_LEN(Engine::ED25519_SIGNATURE_BYTES, BASE64)];
-    ::sodium_bin2base64(text, sizeof text, signature.data(), signature.size(), BASE64);
+    std::string const text = SignatureText(m_secret, mapping.Content().data(), mapping.Content().size());
     Engine::UpdateFault const verdict =
         Engine::VerifyFileSignature(archive.descriptor.Get(), text, {PublicKeyText().toStdString()});
     if (verdict != Engine::UpdateFault::None)
     {
         throw Refusal(ProblemOf(verdict, 0, archive.name));
     }
-    return {QString::fromLatin1(text), archive.size};
+    return {QString::fromStdString(text), archive.size};
+}
+
+std::string SigningKey::SignatureOf(QByteArray const& message) const
+{
+    return SignatureText(m_secret, reinterpret_cast<unsigned char const*>(message.constData()),
+                         std::size_t(message.size()));
 }
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,4 @@
-// SigningKey.h: the private key with which a publisher signs archives.
+// SigningKey.h: the private key with which a publisher signs archives and feeds.
 // Thread: the main thread. Ownership: the secret stands in memory that is locked, guarded, left out of core files and
 // wiped; it never leaves it but through SecretText. The file is described in docs/formats/signing-key.md.
 #pragma once
@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 
 namespace Pelnar::Publisher
 {
@@ -68,6 +69,8 @@ public:
     /// Throws Refusal: for an archive that is empty or longer than a feed may promise, and when the check that clients
     /// make does not accept the signature.
     ArchiveSignature Sign(InputFile const& archive) const;
+    /// Base64 of the signature of \a message.
+    std::string SignatureOf(QByteArray const& message) const;
 
 private:
     explicit SigningKey(SecretBytes secret);

@@ -87,6 +87,13 @@ char const* SeverityName(Severity severity);
     /* Release notes. */ \
     RULE(NotesOverLimits, "notes-over-limits", Warning, "Release notes are over what clients lay out; they are shown as plain text.", "shorten or simplify the notes") \
     RULE(NotesInsecure, "notes-insecure", Warning, "The address of release notes is not https.", "serve the notes over https") \
+    /* The feed's own signature. */ \
+    RULE(FeedUnsigned, "feed-unsigned", Error, "The feed has no signature (with --signed).", "sign it with pelnar-appcast sign-feed") \
+    RULE(FeedSignatureUnreadable, "feed-signature-unreadable", Error, "The feed's signature is not alone on the last line or is not of the form that clients read; those that require one refuse the feed.", "remove every line with a signature and sign the feed again") \
+    RULE(FeedSignatureWrong, "feed-signature-wrong", Error, "The feed does not bear the signature of a given key (with --public-key).", "publish the feed as it was signed, or sign it again") \
+    RULE(FeedSerial, "feed-serial", Error, "A signed feed does not say its serial once, as a positive number; clients that require a signature refuse it.", "sign it with pelnar-appcast sign-feed") \
+    RULE(FeedExpires, "feed-expires", Error, "A signed feed does not say once when it expires, as in 2027-01-31T12:00:00Z; clients that require a signature refuse it.", "sign it with pelnar-appcast sign-feed") \
+    RULE(FeedExpired, "feed-expired", Error, "A signed feed has expired; clients that require a signature refuse it.", "sign it again with pelnar-appcast sign-feed, before it expires and best by a timetable") \
     /* What the server has, with --fetch. */ \
     RULE(ArchiveUnreachable, "archive-unreachable", Error, "A download cannot be fetched (with --fetch).", "publish the file at this address before the feed") \
     RULE(ArchiveLength, "archive-length", Error, "A download has another size than the feed says (with --fetch).", "write the file's size as length, or publish the right file") \

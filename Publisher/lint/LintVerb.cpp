@@ -6,6 +6,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/lint/FetchRules.h"
 #include "Publisher/lint/LintReport.h"
+#include "Publisher/lint/SignatureRules.h"
 
 #include <ostream>
 
@@ -19,6 +20,7 @@ struct LintOptions
     std::string feed;
     std::string publishedAt;
     std::vector<std::string> publicKeys;
+    bool isSignatureAsked = false;
     bool isFetching = false;
     bool isStrict = false;
     bool isJson = false;
@@ -64,10 +66,14 @@ ExitStatus Lint(LintOptions const& options, Console const& console)
     }
     FeedBytes const& feed = std::get<FeedBytes>(source);
     LintResult result = LintFeed(feed.bytes, feed.address);
+    auto const add = [&result](std::vector<LintFinding> const& findings)
+    { result.findings.insert(result.findings.end(), findings.begin(), findings.end()); };
+    FeedSigningWish const wish = options.isSignatureAsked ? FeedSigningWish::Signed : FeedSigningWish::None;
+    add(CheckFeedSignature(feed.bytes, result.subject.get(),
+                           {options.publicKeys, wish, QDateTime::currentDateTimeUtc()}));
     if (result.subject && options.isFetching)
     {
-        std::vector<LintFinding> const fetched = CheckArchives(*result.subject, options.publicKeys, console);
-        result.findings.insert(result.findings.end(), fetched.begin(), fetched.end());
+        add(CheckArchives(*result.subject, options.publicKeys, console));
     }
     if (options.isJson)
     {
@@ -89,12 +95,13 @@ void AddLint(CLI::App& program, VerbContext& context)
         program.add_subcommand("lint", "Finds what clients would refuse or misread, with place and mend");
     verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input");
     AddPublishedAtOption(*verb, options->publishedAt);
-    auto* const fetch =
-        verb->add_flag("--fetch", options->isFetching, "Fetch every download and check its size and its signature");
+    verb->add_flag("--fetch", options->isFetching, "Fetch every download and check its size and its signature");
+    verb->add_flag("--signed", options->isSignatureAsked,
+                   "The feed must be signed itself, as for clients that require it");
     verb->add_option("--public-key", options->publicKeys,
-                     "Key that signatures are checked by, in base64; may be given again for a second key")
-        ->type_name("KEY")
-        ->needs(fetch);
+                     "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may be "
+                     "given again for a second key")
+        ->type_name("KEY");
     verb->add_flag("--strict", options->isStrict, "Exit with 1 for notes as well");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
     verb->add_flag("--rules", options->isListingRules, "Print the table of all rules, in Markdown, and nothing else");

@@ -124,11 +124,53 @@ std::string DemoOutput::Text() const
     return text;
 }
 
+PublishedSite::PublishedSite()
+{
+    for (QFileInfo const& file : QDir(Published("site")).entryInfoList(QDir::Files))
+    {
+        EXPECT_TRUE(QFile::copy(file.filePath(), m_folder.filePath(file.fileName())));
+    }
+}
+
+QByteArray PublishedSite::Read(char const* name) const
+{
+    QFile file(m_folder.filePath(QString::fromLatin1(name)));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
+    return file.readAll();
+}
+
+void PublishedSite::Write(char const* name, QByteArray const& bytes) const
+{
+    QFile file(m_folder.filePath(QString::fromLatin1(name)));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << name;
+    file.write(bytes);
+}
+
+void PublishedSite::Run(char const* verb, char const* name, QStringList const& more) const
+{
+    QStringList const arguments{QString::fromLatin1(verb), m_folder.filePath(QString::fromLatin1(name)),
+                                QStringLiteral("--key"), Published("signing.key")};
+    EXPECT_EQ(QProcess::execute(QStringLiteral(PELNAR_APPCAST_PROGRAM), arguments + more), 0) << verb;
+}
+
 UpdateServer::UpdateServer(QStringList const& faults)
 {
-    QStringList arguments{QStringLiteral("serve"), QStringLiteral("--end-with-input"),
-                          Published("site"),       QStringLiteral("--tls"),
-                          Published("server.pem"), Published("server.key")};
+    Start(Published("site"), faults);
+}
+
+UpdateServer::UpdateServer(PublishedSite const& site)
+{
+    Start(site.Path(), {});
+}
+
+void UpdateServer::Start(QString const& folder, QStringList const& faults)
+{
+    QStringList arguments{QStringLiteral("serve"),
+                          QStringLiteral("--end-with-input"),
+                          folder,
+                          QStringLiteral("--tls"),
+                          Published("server.pem"),
+                          Published("server.key")};
     for (QString const& fault : faults)
     {
         arguments += {QStringLiteral("--fault"), fault};
@@ -178,6 +220,16 @@ InstalledDemo::InstalledDemo()
     QFile config(Path("GNUstep.conf"));
     EXPECT_TRUE(config.open(QIODevice::WriteOnly));
     config.write("GNUSTEP_USER_DEFAULTS_DIR=" + QFile::encodeName(Path("Defaults")) + '\n');
+}
+
+void InstalledDemo::AddInformation(QByteArray const& entries)
+{
+    QFile file(Path("Applications/PelnarDemo.app/Resources/Info-gnustep.plist"));
+    EXPECT_TRUE(file.open(QIODevice::ReadWrite));
+    QByteArray information = file.readAll();
+    information.insert(information.indexOf('{') + 1, entries);
+    EXPECT_TRUE(file.seek(0));
+    file.write(information);
 }
 
 void InstalledDemo::WriteDefaults(QByteArray const& text)

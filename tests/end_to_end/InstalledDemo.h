@@ -29,12 +29,29 @@ struct DemoOutput
     std::string Text() const;
 };
 
+/// A copy of the published folder, for a test that publishes something else.
+class PublishedSite
+{
+public:
+    PublishedSite();
+
+    QString Path() const { return m_folder.path(); }
+    QByteArray Read(char const* name) const;
+    void Write(char const* name, QByteArray const& bytes) const;
+    /// Runs the publisher's tool with the publisher's key on a file of the folder.
+    void Run(char const* verb, char const* name, QStringList const& more = {}) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
 /// Serves the published folder over HTTPS.
 class UpdateServer
 {
 public:
     /// \a faults are what the server is told to do wrong.
     explicit UpdateServer(QStringList const& faults = {});
+    explicit UpdateServer(PublishedSite const& site);
     ~UpdateServer();
 
     QString Url(QString const& feed) const { return m_address + QLatin1Char('/') + feed; }
@@ -42,6 +59,8 @@ public:
     std::vector<std::string> EndAndListServedFiles();
 
 private:
+    void Start(QString const& folder, QStringList const& faults);
+
     QProcess m_process;
     QString m_address;
 };
@@ -52,6 +71,8 @@ public:
     /// Installs the old version.
     InstalledDemo();
 
+    /// Adds \a entries, of an old-style property list, to the bundle's information file.
+    void AddInformation(QByteArray const& entries);
     /// Sets the old-style property list \a text as the user defaults of the application.
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.

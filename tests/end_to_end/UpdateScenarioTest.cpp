@@ -159,6 +159,48 @@ TEST_F(UpdateScenario, AnUpdateThatIsInstalledIsNotOfferedAgain)
     EXPECT_EQ(output.RunningVersions(), Names{"5.10"}) << output.Text();
 }
 
+TEST_F(UpdateScenario, AVersionThatWasOfferedAndRefusedMovesNoFloor)
+{
+    PublishedSite const site;
+    QByteArray feed = site.Read(TAMPERED_FEED);
+    feed.replace("sparkle:version=\"5.10\"", "sparkle:version=\"2147483647\"");
+    site.Write("appcast-forward.xml", feed);
+    UpdateServer server(site);
+    QStringList const aPersonInstalls = Script("user", "answer", {INSTALL, CLOSE_ERROR});
+    DemoOutput const forward = Run(server, "appcast-forward.xml",
+                                   aPersonInstalls + QStringList{QStringLiteral("--nag"), QStringLiteral("none")});
+    EXPECT_TRUE(forward.Says("OnUpdateFound current=5.9 remote=2147483647")) << forward.Text();
+    ExpectUntouched(forward);
+    EXPECT_FALSE(demo.ReadDefaults().contains("2147483647")) << demo.ReadDefaults().toStdString();
+
+    DemoOutput const honest = Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH}));
+    EXPECT_TRUE(honest.Says(FOUND)) << honest.Text();
+    ExpectUpdated(honest);
+}
+
+TEST_F(UpdateScenario, AnApplicationThatRequiresItUpdatesByASignedFeedOnly)
+{
+    PublishedSite const site;
+    UpdateServer server(site);
+    demo.AddInformation("PelnarRequiresSignedFeed = YES;");
+    DemoOutput const refusing = Run(server, WHOLE_FEED, Script("user", "check"));
+    EXPECT_FALSE(refusing.Says(FOUND)) << refusing.Text();
+
+    site.Run("sign-feed", WHOLE_FEED, {QStringLiteral("--serial"), QStringLiteral("2")});
+    QByteArray const replayed = site.Read(WHOLE_FEED);
+    site.Run("sign-feed", WHOLE_FEED);
+    DemoOutput const reminded = Run(server, WHOLE_FEED, Script("user", "answer", {REMIND}));
+    EXPECT_TRUE(reminded.Says(FOUND)) << reminded.Text();
+
+    QByteArray const newest = site.Read(WHOLE_FEED);
+    site.Write(WHOLE_FEED, replayed);
+    DemoOutput const replaying = Run(server, WHOLE_FEED, Script("user", "check"));
+    EXPECT_FALSE(replaying.Says(FOUND)) << replaying.Text();
+
+    site.Write(WHOLE_FEED, newest);
+    ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+}
+
 /// How a check was started, and the windows that it leads to.
 struct ModeRow
 {

@@ -43,14 +43,6 @@ bool IsDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// 0 for anything but a positive decimal number without leading zeros that fits.
-qint64 SerialOf(QString const& text)
-{
-    bool const isDecimal =
-        !text.isEmpty() && text.at(0) != QLatin1Char('0') && std::all_of(text.begin(), text.end(), IsDigit);
-    return isDecimal ? text.toLongLong() : 0;
-}
-
 /// Invalid for anything but a moment in the one form.
 QDateTime MomentOf(QString const& text)
 {
@@ -93,10 +85,18 @@ std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStrin
     return bytes.left(feed.contentBytes);
 }
 
+qint64 FeedSerial(QString const& text)
+{
+    QString const digits = text.trimmed();
+    bool const isDecimal =
+        !digits.isEmpty() && digits.at(0) != QLatin1Char('0') && std::all_of(digits.begin(), digits.end(), IsDigit);
+    return isDecimal ? digits.toLongLong() : 0;
+}
+
 std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
 {
     FeedTerms terms;
-    terms.serial = channel.serials.size() == 1 ? SerialOf(channel.serials.front().trimmed()) : 0;
+    terms.serial = channel.serials.size() == 1 ? FeedSerial(channel.serials.front()) : 0;
     if (terms.serial == 0)
     {
         return MakeError(ErrorCause::FeedSerialUnusable);

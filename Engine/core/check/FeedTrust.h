@@ -33,6 +33,10 @@ struct FeedTerms
 /// looked at as XML.
 [[nodiscard]] std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStringList const& publicKeys);
 
+/// The serial that \a text is, blanks around it left out: a positive decimal number without leading zeros, at most
+/// 9223372036854775807; 0 for anything else.
+[[nodiscard]] qint64 FeedSerial(QString const& text);
+
 /// What \a channel says, or why a client that requires signed feeds refuses it: each must be there once and be
 /// readable.
 [[nodiscard]] std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel);

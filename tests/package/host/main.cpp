@@ -8,11 +8,14 @@
 #include "HostFramework/NagScreenManager.h"
 #include "HostFramework/VersionText.h"
 
+#include <Pelnar/FeedAge.h>
 #include <Pelnar/GoodStart.h>
 
 #include <QTextStream>
 #include <QTimer>
 #include <QUrl>
+
+#include <cstdlib>
 
 namespace
 {
@@ -106,5 +109,6 @@ int main(int argc, char** argv)
         }
     });
     ended.start(10);
-    return host.exec();
+    int const status = host.exec();
+    return Pelnar::UnchangedFeedDays() >= 0 ? status : EXIT_FAILURE;
 }

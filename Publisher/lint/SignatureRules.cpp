@@ -1,0 +1,136 @@
+#include "Publisher/lint/SignatureRules.h"
+
+#include "Engine/core/check/FeedTrust.h"
+#include "Engine/core/feed/SignedFeed.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using Engine::SignedFeedFault;
+
+QString TextOf(SignedFeedFault fault)
+{
+    switch (fault)
+    {
+    case SignedFeedFault::None:
+    case SignedFeedFault::Missing:
+        break;
+    case SignedFeedFault::Repeated:
+        return QStringLiteral("there is more than one signature");
+    case SignedFeedFault::NotAtEnd:
+        return QStringLiteral("the feed goes on behind its signature");
+    case SignedFeedFault::BytesAfter:
+        return QStringLiteral("something stands behind the line of the signature");
+    case SignedFeedFault::LineEndsRewritten:
+        return QStringLiteral("the line of the signature ends with a carriage return, as after a transfer as text");
+    case SignedFeedFault::AlgorithmUnknown:
+        return QStringLiteral("the signature is of an algorithm that clients do not know");
+    case SignedFeedFault::Malformed:
+        return QStringLiteral("the signature is damaged or is not alone on its line");
+    }
+    return QStringLiteral("there is no signature");
+}
+
+LintPlace PlaceOf(QByteArray const& bytes, int offset)
+{
+    if (offset < 0)
+    {
+        return {1, 1};
+    }
+    int const lineStart = offset == 0 ? 0 : bytes.lastIndexOf('\n', offset - 1) + 1;
+    int const line = 1 + int(std::count(bytes.begin(), bytes.begin() + offset, '\n'));
+    return {line, QString::fromUtf8(bytes.constData() + lineStart, offset - lineStart).size() + 1};
+}
+
+Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& bytes)
+{
+    return Engine::ParseFeed(bytes, subject.address, Engine::FeedPlatform::Linux).channel;
+}
+
+/// Of the element of the channel that has this name, or of the channel, or of the document.
+LintPlace PlaceOf(LintSubject const& subject, char const* name)
+{
+    LintPlace place{1, 1};
+    for (LintElement const& top : subject.root.children)
+    {
+        for (LintElement const& channel : top.children)
+        {
+            place = channel.name.IsPlain("channel") ? channel.place : place;
+            auto const own =
+                std::find_if(channel.children.begin(), channel.children.end(),
+                             [name](LintElement const& child)
+                             {
+                                 return child.name.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE) &&
+                                        child.name.local == QLatin1String(name);
+                             });
+            if (own != channel.children.end())
+            {
+                return own->place;
+            }
+        }
+    }
+    return place;
+}
+
+void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime const& now, LintFindings& findings)
+{
+    auto const said = Engine::ReadFeedTerms(ChannelOf(subject, bytes));
+    if (auto const* const error = std::get_if<Engine::EngineError>(&said))
+    {
+        bool const isSerial = error->cause == Engine::ErrorCause::FeedSerialUnusable;
+        findings.Add(isSerial ? LintRule::FeedSerial : LintRule::FeedExpires,
+                     PlaceOf(subject, isSerial ? "serial" : "expires"),
+                     isSerial ? QStringLiteral("the serial is missing, stands twice or is no positive number")
+                              : QStringLiteral("the date is missing, stands twice or is of another form"));
+        return;
+    }
+    Engine::FeedTerms const& terms = std::get<Engine::FeedTerms>(said);
+    if (Engine::JudgeFeedTerms(terms, 0, now))
+    {
+        findings.Add(LintRule::FeedExpired, PlaceOf(subject, "expires"),
+                     QStringLiteral("the feed expired at %1").arg(terms.expires.toString(Qt::ISODate)));
+    }
+}
+
+} // namespace
+
+std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject const* subject,
+                                            FeedSignatureQuestion const& question)
+{
+    LintFindings findings;
+    Engine::SignedFeed const feed = Engine::SplitSignedFeed(bytes);
+    LintPlace const place = PlaceOf(bytes, feed.blockOffset);
+    if (feed.fault == SignedFeedFault::Missing)
+    {
+        if (question.wish == FeedSigningWish::Signed)
+        {
+            findings.Add(LintRule::FeedUnsigned, place, TextOf(feed.fault));
+        }
+        return findings.Sorted();
+    }
+    if (feed.fault != SignedFeedFault::None)
+    {
+        findings.Add(LintRule::FeedSignatureUnreadable, place, TextOf(feed.fault));
+    }
+    else if (!question.publicKeys.empty())
+    {
+        std::string_view const content(bytes.constData(), std::size_t(feed.contentBytes));
+        if (Engine::VerifySignature(content, feed.signature, question.publicKeys) != Engine::UpdateFault::None)
+        {
+            findings.Add(LintRule::FeedSignatureWrong, place,
+                         QStringLiteral("the signature is not of these bytes and of a given key"));
+        }
+    }
+    if (subject)
+    {
+        CheckTerms(*subject, bytes, question.now, findings);
+    }
+    return findings.Sorted();
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,109 @@
+#include "Publisher/signfeed/FeedSigner.h"
+
+#include "Engine/core/feed/SignedFeed.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/signfeed/FeedTermsText.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+int LineOf(QByteArray const& bytes, int offset)
+{
+    return 1 + int(std::count(bytes.begin(), bytes.begin() + std::max(offset, 0), '\n'));
+}
+
+Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
+{
+    Engine::FeedParseResult const feed = Engine::ParseFeed(content, QUrl(), Engine::FeedPlatform::Linux);
+    if (!feed.HasSucceeded())
+    {
+        throw Refusal({name, feed.error.line, feed.error.column, feed.error.sentence,
+                       QStringLiteral("mend the feed; clients do not read it")});
+    }
+    return feed.channel;
+}
+
+/// What the feed's serial must be above.
+qint64 PublishedSerial(Engine::FeedChannel const& channel)
+{
+    return channel.serials.size() == 1 ? Engine::FeedSerial(channel.serials.front()) : 0;
+}
+
+qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, SigningTerms const& terms)
+{
+    qint64 const published = PublishedSerial(channel);
+    if (terms.serial && *terms.serial <= published)
+    {
+        throw Refusal({name, 0, 0, QStringLiteral("has the serial %1 already, which must grow").arg(published),
+                       QStringLiteral("give a greater --serial, or none")});
+    }
+    if (!terms.serial && published == std::numeric_limits<qint64>::max())
+    {
+        throw Refusal({name, 0, 0, QStringLiteral("has the greatest serial that there is"),
+                       QStringLiteral("publish a feed at another address")});
+    }
+    // The time, so that a feed that is made anew from nothing is not below the one that clients have seen.
+    return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
+}
+
+} // namespace
+
+FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, SigningKey const& key, ChangedFeed changed)
+{
+    Engine::SignedFeed const feed = Engine::SplitSignedFeed(bytes);
+    if (feed.fault == Engine::SignedFeedFault::Missing)
+    {
+        return {bytes, false};
+    }
+    if (feed.fault != Engine::SignedFeedFault::None)
+    {
+        throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
+                       QStringLiteral("has a signature that is not alone on the last line, or is damaged"),
+                       QStringLiteral("look at what changed the feed, and remove every line with a signature")});
+    }
+    bool const isOurs = std::holds_alternative<QByteArray>(Engine::VerifyFeed(bytes, QStringList(key.PublicKeyText())));
+    if (!isOurs && changed == ChangedFeed::Refused)
+    {
+        throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
+                       QStringLiteral("was changed after it was signed, or was signed by another key"),
+                       QStringLiteral("look at what changed, and say sign-feed --accept-changes if it is right")});
+    }
+    return {bytes.left(feed.contentBytes), true};
+}
+
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, SigningKey const& key,
+                         SigningTerms const& terms)
+{
+    SignedFeedBytes result;
+    result.terms.serial = NextSerial(name, ReadChannel(name, content), terms);
+    result.terms.expires = terms.now.addDays(terms.validDays);
+    result.bytes = WithTerms(name, content, result.terms);
+    if (!result.bytes.endsWith('\n'))
+    {
+        result.bytes += result.bytes.contains("\r\n") ? "\r\n" : "\n";
+    }
+    result.bytes += Engine::SignatureBlock(key.SignatureOf(result.bytes));
+
+    // As a client will.
+    auto const verified = Engine::VerifyFeed(result.bytes, QStringList(key.PublicKeyText()));
+    auto const* const signedContent = std::get_if<QByteArray>(&verified);
+    if (!signedContent ||
+        !std::holds_alternative<Engine::FeedTerms>(Engine::ReadFeedTerms(ReadChannel(name, *signedContent))))
+    {
+        throw Refusal({name, 0, 0, QStringLiteral("clients would not take the signature"),
+                       QStringLiteral("remove what looks like a signature from the feed's texts")});
+    }
+    return result;
+}
+
+QString TextOf(Engine::FeedTerms const& terms)
+{
+    return QStringLiteral("signed with serial %1, expires %2").arg(terms.serial).arg(MomentText(terms.expires));
+}
+
+} // namespace Pelnar::Publisher

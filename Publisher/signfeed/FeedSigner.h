@@ -1,0 +1,53 @@
+// FeedSigner.h: a feed gets a serial, an expiry and a signature, and stays what it was in every other byte.
+// Thread: the main thread. Ownership: values only. The format stands in docs/formats/signed-feed.md.
+#pragma once
+
+#include "Engine/core/check/FeedTrust.h"
+#include "Publisher/keys/SigningKey.h"
+
+#include <optional>
+
+namespace Pelnar::Publisher
+{
+
+/// What is done about a feed whose signature is not of the key at hand and of the bytes that are there now.
+enum class ChangedFeed
+{
+    Refused,
+    Accepted,
+};
+
+/// A feed as it was found, without its signature.
+struct FeedContent
+{
+    QByteArray bytes;
+    bool isSigned = false; ///< it had a signature
+};
+
+struct SigningTerms
+{
+    std::optional<qint64> serial; ///< greater than the one that is there; without this one that certainly is
+    int validDays = 30;
+    QDateTime now; ///< in UTC
+};
+
+struct SignedFeedBytes
+{
+    QByteArray bytes;
+    Engine::FeedTerms terms;
+};
+
+/// Takes \a bytes apart; \a name is shown. Throws Refusal: for a signature that is not where and how it must be, and,
+/// unless \a changed accepts it, for one that does not fit: whoever signs by a timetable must not sign what somebody
+/// else has written into the feed.
+FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, SigningKey const& key, ChangedFeed changed);
+
+/// Writes the terms into \a content and signs it. Throws Refusal: for what clients cannot read, for what is not UTF-8
+/// or has no channel, and for a serial that would not grow.
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, SigningKey const& key,
+                         SigningTerms const& terms);
+
+/// "signed with serial 8, expires 2026-12-20T08:00:00Z"
+QString TextOf(Engine::FeedTerms const& terms);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,82 @@
+#include "Publisher/signfeed/SignFeedVerb.h"
+
+#include "Publisher/Refusal.h"
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/signfeed/FeedSigner.h"
+
+#include <climits>
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct SignFeedOptions
+{
+    std::string feed;
+    std::string key;
+    std::string output;
+    std::optional<qint64> serial;
+    int validDays = SigningTerms().validDays;
+    bool isAcceptingChanges = false;
+};
+
+ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
+{
+    QString const name = QString::fromStdString(options.feed);
+    QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
+    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
+    SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
+    ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
+    FeedContent const content = ReadFeedContent(name, bytes, key, changed);
+    SignedFeedBytes const feed =
+        SignFeed(name, content.bytes, key, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
+    AtomicFile file(output);
+    file.Write(feed.bytes);
+    file.Commit(ExistingFile::Replace);
+    console.Print(QStringLiteral("%1: %2").arg(output, TextOf(feed.terms)));
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddValidForOption(CLI::App& verb, int& days)
+{
+    verb.add_option("--valid-for", days, "Days until the signature expires, by when the feed must be signed again")
+        ->type_name("DAYS")
+        ->check(CLI::Range(1, 3650))
+        ->capture_default_str();
+}
+
+void AddSignFeed(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<SignFeedOptions>();
+    CLI::App& verb = *program.add_subcommand(
+        "sign-feed", "Sign a feed, or sign it again before its signature expires: it gets a new serial and a new date, "
+                     "and keeps every other byte; a feed that was changed since is not signed again");
+    verb.add_option("FEED", options->feed, "File of the feed")->required();
+    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")
+        ->required()
+        ->type_name("FILE");
+    AddValidForOption(verb, options->validDays);
+    // As text: the number would be cut to the greatest one that fits.
+    verb.add_option_function<std::string>(
+            "--serial",
+            [options](std::string const& text) { options->serial = Engine::FeedSerial(QString::fromStdString(text)); },
+            "Number above that of the published feed; without this the next one, or the seconds since 1970 "
+            "when they are more")
+        ->type_name("NUMBER")
+        ->check(
+            [](std::string const& text)
+            {
+                bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
+                return isSerial ? std::string() : text + " is no number from 1 to 9223372036854775807";
+            });
+    verb.add_flag("--accept-changes", options->isAcceptingChanges,
+                  "Sign a feed as well that was changed after it was signed, or was signed by another key");
+    verb.add_option("-o,--output", options->output, "File to write; without this FEED itself")->type_name("FILE");
+    SetWork(verb, context, [&context, options] { return SignFeedFile(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,15 @@
+// SignFeedVerb.h: the verb "sign-feed", and the options that say how a feed is signed.
+// Thread: the main thread. Ownership: see Verb.h.
+#pragma once
+
+#include "Publisher/Verb.h"
+
+namespace Pelnar::Publisher
+{
+
+void AddSignFeed(CLI::App& program, VerbContext& context);
+
+/// "--valid-for"; \a days is what it is without the option.
+void AddValidForOption(CLI::App& verb, int& days);
+
+} // namespace Pelnar::Publisher

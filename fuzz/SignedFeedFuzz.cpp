@@ -1,0 +1,77 @@
+// SignedFeedFuzz.cpp: any bytes as a signed feed: every byte is signed or is the signature's own line, nothing that
+// looks like a signature is part of what is believed, and a signature that is added to any bytes is found again.
+
+#include "Engine/core/check/FeedTrust.h"
+#include "Engine/core/feed/SignedFeed.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+constexpr char KEY[] = "6kpsY+KcUgq+9VB7Ey7F+ZVHdq6+vnuSQh7qaRRG0iw=";
+constexpr char BLOCK_START[] = "<!-- pelnar-signature: ";
+
+void Require(bool holds, char const* promise)
+{
+    if (!holds)
+    {
+        std::fprintf(stderr, "broken: %s\n", promise);
+        std::abort();
+    }
+}
+
+void RequireWhole(QByteArray const& bytes, SignedFeed const& feed)
+{
+    QByteArray const content = bytes.left(feed.contentBytes);
+    Require(content + SignatureBlock(feed.signature) == bytes, "what is split is content and block, and nothing else");
+    Require(content.endsWith('\n') && !content.contains(BLOCK_START), "the content has no signature of its own");
+    Ed25519SignatureBytes signature;
+    Require(ParseSignature(feed.signature, signature) == UpdateFault::None, "the signature is one");
+}
+
+void RequireTerms(QByteArray const& bytes)
+{
+    FeedParseResult const feed = ParseFeed(bytes, QUrl(), FeedPlatform::Linux);
+    auto const said = ReadFeedTerms(feed.channel);
+    if (auto const* const terms = std::get_if<FeedTerms>(&said))
+    {
+        Require(feed.HasSucceeded() && terms->serial > 0 && terms->expires.isValid(), "terms are usable");
+        Require(!JudgeFeedTerms(*terms, terms->serial, terms->expires.addSecs(-1)), "the same feed again is accepted");
+        Require(JudgeFeedTerms(*terms, 0, terms->expires).has_value(), "an expired feed is refused");
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
+{
+    QByteArray const bytes(reinterpret_cast<char const*>(data), static_cast<int>(size));
+    SignedFeed const feed = SplitSignedFeed(bytes);
+    Require((feed.fault == SignedFeedFault::Missing) == !bytes.contains(BLOCK_START), "a missing block is missing");
+    if (feed.fault == SignedFeedFault::None)
+    {
+        RequireWhole(bytes, feed);
+    }
+    else
+    {
+        Require(feed.signature.empty(), "a refused feed has no signature");
+        auto const verified = VerifyFeed(bytes, QStringList(QString::fromLatin1(KEY)));
+        Require(std::holds_alternative<EngineError>(verified), "what cannot be split is not believed");
+    }
+    if (feed.fault == SignedFeedFault::Missing && bytes.endsWith('\n'))
+    {
+        QByteArray const block = SignatureBlock(std::string(86, 'A') + "==");
+        SignedFeed const added = SplitSignedFeed(bytes + block);
+        Require(added.fault == SignedFeedFault::None && added.contentBytes == bytes.size(), "an added block is found");
+        Require(SplitSignedFeed(bytes + block + block).fault == SignedFeedFault::Repeated, "a second one is refused");
+    }
+    RequireTerms(bytes);
+    return 0;
+}

@@ -1,0 +1,84 @@
+// SignedGenerateTest.cpp: the verb "generate" over feeds that are signed themselves.
+
+#include "Engine/core/check/FeedTrust.h"
+#include "tests/publisher/generate/PublisherFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+QStringList const SIGNING{QStringLiteral("--sign-feed")};
+
+bool IsBelieved(std::string const& feed)
+{
+    auto const verified = Engine::VerifyFeed(QByteArray::fromStdString(feed),
+                                             QStringList(QString::fromStdString(MakeKeyPair(7).publicKey)));
+    return std::holds_alternative<QByteArray>(verified);
+}
+
+qint64 SerialOf(std::string const& feed)
+{
+    Engine::FeedParseResult const parsed =
+        Engine::ParseFeed(QByteArray::fromStdString(feed), QUrl(), Engine::FeedPlatform::Linux);
+    auto const said = Engine::ReadFeedTerms(parsed.channel);
+    EXPECT_TRUE(std::holds_alternative<Engine::FeedTerms>(said)) << feed;
+    return std::holds_alternative<Engine::FeedTerms>(said) ? std::get<Engine::FeedTerms>(said).serial : 0;
+}
+
+TEST(SignedGenerate, FeedIsSignedWhenAsked)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("5.0");
+    EXPECT_FALSE(IsBelieved(folder.GeneratedFeed()));
+    ToolRun const run = folder.Generate(SIGNING);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("appcast.xml: signed with serial "), std::string::npos) << run.out;
+    std::string const feed = folder.ContentOf("appcast.xml");
+    EXPECT_TRUE(IsBelieved(feed));
+    EXPECT_GT(SerialOf(feed), 0);
+    EXPECT_EQ(folder.Items().size(), 1u);
+}
+
+TEST(SignedGenerate, RunAgainChangesNothing)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("5.0");
+    std::string const feed = folder.GeneratedFeed(SIGNING);
+    EXPECT_TRUE(IsBelieved(feed));
+    EXPECT_EQ(folder.GeneratedFeed(SIGNING), feed);
+    EXPECT_EQ(folder.GeneratedFeed(), feed);
+}
+
+TEST(SignedGenerate, SignedFeedStaysSignedWhenItGrows)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("5.0");
+    std::string const before = folder.GeneratedFeed(SIGNING);
+    folder.PutVersion("5.1", 2);
+    std::string const after = folder.GeneratedFeed();
+    EXPECT_TRUE(IsBelieved(after)) << after;
+    EXPECT_GT(SerialOf(after), SerialOf(before));
+    EXPECT_EQ(folder.Items().size(), 2u);
+}
+
+TEST(SignedGenerate, FeedThatWasChangedSinceIsNotAddedTo)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("5.0");
+    std::string feed = folder.GeneratedFeed(SIGNING);
+    feed.replace(feed.find("<title>"), 7, "<title>Evil ");
+    folder.Put("appcast.xml", feed);
+    folder.PutVersion("5.1", 2);
+    ToolRun const run = folder.Generate(SIGNING);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("sign-feed --accept-changes"), std::string::npos) << run.err;
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+}
+
+} // namespace
+} // namespace Pelnar::Testing

@@ -62,4 +62,21 @@ void ExpectRecovered(UpdateScene& scene, Versions const& versions)
     EXPECT_EQ(ExpectWhole(scene, versions), version);
 }
 
+void ExpectUpdated(UpdateScene& scene, HelperStart const& start)
+{
+    Versions const versions;
+    HelperOutcome const prepared = scene.Prepare(scene.MakePrepareJob(), start);
+    EXPECT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
+    EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next) << "modes included";
+    Engine::InstallJob job = scene.MakeInstallJob(versions.next);
+    job.targetPath = scene.Place().Path() + '/' + APP;
+    scene.Host().End();
+    HelperOutcome const installed = scene.Install(job, start);
+    EXPECT_EQ(installed.exitStatus, 0) << FaultName(installed.Fault());
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("2.0", start).exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+}
+
 } // namespace Pelnar::Testing

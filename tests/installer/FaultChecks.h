@@ -30,4 +30,7 @@ std::string ExpectWhole(UpdateScene const& scene, Versions const& versions);
 /// The next start, and the one after it, leave a whole bundle and nothing else.
 void ExpectRecovered(UpdateScene& scene, Versions const& versions);
 
+/// Prepares, installs, starts and confirms the new version, by helpers that are started like this.
+void ExpectUpdated(UpdateScene& scene, HelperStart const& start = {});
+
 } // namespace Pelnar::Testing

@@ -208,10 +208,11 @@ Archive::Archive(int descriptor) : m_source(std::make_unique<Source>(descriptor)
         isGood = archive_read_support_format_tar(handle) == ARCHIVE_OK &&
                  archive_read_append_filter(handle, filter) == ARCHIVE_OK;
     }
-    archive_read_set_read_callback(handle, &Source::Read);
-    archive_read_set_skip_callback(handle, &Source::Skip);
-    archive_read_set_seek_callback(handle, &Source::Seek);
-    archive_read_set_callback_data(handle, m_source.get());
+    // Without memory the library forgets what it is given, and would read from nowhere.
+    isGood = isGood && archive_read_set_read_callback(handle, &Source::Read) == ARCHIVE_OK &&
+             archive_read_set_skip_callback(handle, &Source::Skip) == ARCHIVE_OK &&
+             archive_read_set_seek_callback(handle, &Source::Seek) == ARCHIVE_OK &&
+             archive_read_set_callback_data(handle, m_source.get()) == ARCHIVE_OK;
     if (!isGood || archive_read_open1(handle) != ARCHIVE_OK)
     {
         throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,

@@ -1,0 +1,171 @@
+// LockTest.cpp: who holds a lock is the kernel's knowledge alone: it ends with its holder, however that ends, and no
+// file and no number of a process stands for it.
+
+#include "Engine/core/payload/SwapJournal.h"
+#include "tests/installer/FaultChecks.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <linux/sched.h>
+#include <sys/file.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+/// Takes and leaves the lock of the folder; false when somebody has it.
+[[nodiscard]] bool CanLock(std::string const& folder)
+{
+    UniqueFd const descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    bool const isLocked = descriptor && ::flock(descriptor.Get(), LOCK_EX | LOCK_NB) == 0;
+    EXPECT_TRUE(isLocked || errno == EWOULDBLOCK) << std::strerror(errno);
+    return isLocked;
+}
+
+/// At the first call after a helper has got the lock of the bundle's folder: \a act, whose answer is the call's.
+HelperStart WhenLocked(std::function<CallVerdict()> const& act)
+{
+    HelperStart start;
+    start.atEveryCall = [act, isAsked = false, isDone = false](CallStop const& stop) mutable
+    {
+        if (isAsked && !isDone)
+        {
+            isDone = true;
+            return act();
+        }
+        isAsked = isAsked || stop.call == SYS_flock;
+        return CallVerdict::GoOn();
+    };
+    return start;
+}
+
+TEST(Lock, OfAKilledHelperIsFreeAtOnce)
+{
+    Versions const versions;
+    for (bool const isRecovery : {false, true})
+    {
+        SCOPED_TRACE(isRecovery ? "recovery" : "installation");
+        UpdateScene scene;
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        std::string const folder = scene.Place().Path();
+        bool wasHeld = false;
+        HelperStart const killed = WhenLocked(
+            [&]
+            {
+                wasHeld = !CanLock(folder);
+                return CallVerdict::KillAll();
+            });
+        EXPECT_EQ((isRecovery ? scene.Recover("1.0", killed) : scene.Install(job, killed)).signal, SIGKILL);
+        EXPECT_TRUE(wasHeld);
+        EXPECT_TRUE(CanLock(folder));
+        EXPECT_FALSE(CanLock(scene.StagingPath())) << "the host's own process still holds it here";
+        HelperOutcome const next = scene.Install(job);
+        EXPECT_EQ(next.exitStatus, 0) << FaultName(next.Fault());
+        EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+        EXPECT_TRUE(CanLock(folder)) << "neither the helper nor what it has started holds it";
+    }
+}
+
+TEST(Lock, IsNoFile)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    // What a lock file might be called, with a process that lives and is not going to end.
+    std::string const living = std::to_string(::getpid()) + "\n";
+    std::string const name = SwapJournalName(APP);
+    std::vector<ForgedEntry> decoys;
+    for (std::string const& decoy : {std::string(".lock"), std::string("lock"), std::string(APP) + ".lock",
+                                     std::string(APP) + ".pid", name + ".lock", name + ".pid"})
+    {
+        decoys.push_back({decoy, 'f', living});
+    }
+    scene.Place().Put(decoys);
+    std::vector<std::string> const before = scene.Place().Names();
+    std::vector<std::string> whenLocked;
+    HelperOutcome const outcome = scene.Install(job, WhenLocked(
+                                                         [&]
+                                                         {
+                                                             whenLocked = scene.Place().Names();
+                                                             return CallVerdict::GoOn();
+                                                         }));
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_EQ(whenLocked, before) << "a lock that is held leaves no trace among the names";
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    for (ForgedEntry const& decoy : decoys)
+    {
+        char bytes[32] = {};
+        UniqueFd const file(::open((scene.Place().Path() + '/' + decoy.path).c_str(), O_RDONLY | O_CLOEXEC));
+        EXPECT_EQ(::read(file.Get(), bytes, sizeof bytes), static_cast<ssize_t>(living.size()));
+        EXPECT_EQ(bytes, living);
+    }
+}
+
+/// A process of this number, which waits for the end of \a lifelineFd's other end; -1 when the kernel does not let one
+/// choose, or somebody else has the number.
+pid_t ForkAs(pid_t number, int lifelineFd)
+{
+    pid_t wanted[] = {number};
+    clone_args arguments{};
+    arguments.exit_signal = SIGCHLD;
+    arguments.set_tid = reinterpret_cast<std::uint64_t>(wanted);
+    arguments.set_tid_size = 1;
+    auto const process = static_cast<pid_t>(::syscall(SYS_clone3, &arguments, sizeof arguments));
+    if (process == 0)
+    {
+        char byte;
+        static_cast<void>(!::read(lifelineFd, &byte, 1));
+        ::_exit(0);
+    }
+    return process;
+}
+
+TEST(Lock, ProcessWithTheNumberOfTheHostThatEndedIsNotWaitedFor)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob job = scene.PrepareForInstall();
+    job.waitSeconds = 1;
+    pid_t const host = ::fork();
+    if (host == 0)
+    {
+        ::pause();
+    }
+    UniqueFd const hostProcess(static_cast<int>(::syscall(SYS_pidfd_open, host, 0)));
+    ::kill(host, SIGKILL);
+    ASSERT_EQ(::waitpid(host, nullptr, 0), host);
+    int lifeline[2];
+    ASSERT_EQ(::pipe2(lifeline, O_CLOEXEC), 0);
+    UniqueFd const reader(lifeline[0]);
+    UniqueFd writer(lifeline[1]);
+    pid_t const other = ForkAs(host, reader.Get());
+    if (other < 0)
+    {
+        GTEST_SKIP() << "no process of a chosen number can be made here: " << std::strerror(errno);
+    }
+    ASSERT_EQ(other, host);
+    HelperOutcome const outcome = RunHelper("install", EncodeUpdateJob(job),
+                                            {{HelperDescriptors::PARENT, scene.Place().Descriptor()},
+                                             {HelperDescriptors::STAGING, scene.StagingDescriptor()},
+                                             {HelperDescriptors::HOST, hostProcess.Get()}});
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    EXPECT_EQ(::kill(other, 0), 0) << "nobody has touched it";
+    ::kill(other, SIGKILL);
+    EXPECT_EQ(::waitpid(other, nullptr, 0), other);
+    scene.Host().End();
+    ExpectRecovered(scene, versions);
+}
+
+} // namespace

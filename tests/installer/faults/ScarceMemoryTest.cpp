@@ -1,0 +1,180 @@
+// ScarceMemoryTest.cpp: an allocation of the helper fails, in whichever of its processes, or all do from one on. The
+// default run takes a sample of them; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+
+#include "tests/installer/FaultChecks.h"
+#include "tests/installer/faults/FailingAllocator.h"
+#include "tests/support/Sanitizers.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <limits>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+constexpr char LOADER[] = "/lib64/ld-linux-x86-64.so.2";
+constexpr std::uint64_t NONE = std::numeric_limits<std::uint64_t>::max();
+constexpr int SAMPLE = 12; ///< places of a sweep
+
+/// The plan of one helper, in a file.
+class SharedPlan
+{
+public:
+    SharedPlan(AllocationPlan::Mode mode, std::uint64_t firstRefused)
+    {
+        UniqueFd const file(::open(Path().c_str(), O_RDWR | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        EXPECT_EQ(::ftruncate(file.Get(), sizeof(AllocationPlan)), 0);
+        void* const memory = ::mmap(nullptr, sizeof(AllocationPlan), PROT_READ | PROT_WRITE, MAP_SHARED, file.Get(), 0);
+        EXPECT_NE(memory, MAP_FAILED);
+        m_plan = new (memory) AllocationPlan;
+        m_plan->mode = mode;
+        m_plan->firstRefused = firstRefused;
+    }
+    ~SharedPlan() { ::munmap(m_plan, sizeof(AllocationPlan)); }
+    SharedPlan(SharedPlan const&) = delete;
+    SharedPlan& operator=(SharedPlan const&) = delete;
+
+    AllocationPlan const& Counts() const { return *m_plan; }
+
+    /// The loader takes the allocator by its own argument: the helper would drop the variable that names it.
+    HelperStart Start() const
+    {
+        return {
+            {"/bin/sh", "-c",
+             "exec " + std::to_string(ALLOCATION_PLAN_DESCRIPTOR) + "<>\"$0\"; exec /usr/bin/env -i \"$@\" 2>/dev/null",
+             Path(), LOADER, "--preload", PELNAR_FAILING_ALLOCATOR},
+            {}};
+    }
+
+private:
+    std::string Path() const { return m_folder.Path() + "/plan"; }
+
+    Workspace m_folder;
+    AllocationPlan* m_plan = nullptr;
+};
+
+enum class Step
+{
+    Preparation,
+    Installation,
+    Recovery,
+};
+
+struct Row
+{
+    char const* name;
+    Step step;
+    AllocationPlan::Mode mode;
+};
+
+void PrintTo(Row const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class ScarceMemory : public testing::TestWithParam<Row>
+{
+protected:
+    void SetUp() override
+    {
+        if (IS_SANITIZED)
+        {
+            GTEST_SKIP() << "a sanitizer's allocator stands in the place of this one";
+        }
+    }
+
+    HelperOutcome Run(UpdateScene& scene, SharedPlan const& plan) const
+    {
+        InstallJob job;
+        if (GetParam().step != Step::Preparation)
+        {
+            job = scene.PrepareForInstall();
+            scene.Host().End();
+        }
+        switch (GetParam().step)
+        {
+        case Step::Preparation:
+            return scene.Prepare(scene.MakePrepareJob(), plan.Start());
+        case Step::Installation:
+            return scene.Install(job, plan.Start());
+        case Step::Recovery:
+            job.targetPath.clear();
+            EXPECT_EQ(scene.Install(job).exitStatus, 0);
+            scene.ReleaseStaging();
+            return scene.Recover("2.0", plan.Start());
+        }
+        return {};
+    }
+
+    void ExpectHonest(UpdateScene const& scene, HelperOutcome const& outcome) const
+    {
+        // Some libraries end the process rather than go without; so does the language where it cannot even say so. The
+        // status tells the host as much.
+        bool const isDeath = outcome.signal == SIGABRT || outcome.signal == SIGSEGV;
+        EXPECT_TRUE(outcome.exitStatus == 0 || outcome.exitStatus == 1 || isDeath)
+            << outcome.exitStatus << ", signal " << outcome.signal;
+        EXPECT_TRUE(outcome.exitStatus == 0 || outcome.Find<PreparedReport>() == nullptr);
+        std::string const version = ExpectWhole(scene, versions);
+        if (outcome.exitStatus == 0 && GetParam().step == Step::Installation)
+        {
+            EXPECT_EQ(version, "2.0");
+        }
+        if (outcome.exitStatus == 0 && GetParam().step == Step::Preparation)
+        {
+            EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+        }
+    }
+
+    Versions const versions;
+};
+
+TEST_P(ScarceMemory, EndsInOneOfTheVersionsAndNeverInALie)
+{
+    std::uint64_t count = 0;
+    {
+        UpdateScene scene;
+        SharedPlan const plan(AllocationPlan::Mode::One, NONE);
+        ASSERT_EQ(Run(scene, plan).exitStatus, 0);
+        count = plan.Counts().asked;
+        ASSERT_GT(count, 20u) << "the allocator is not under the helper";
+    }
+    std::uint64_t const stride = IsEveryPlaceWanted() ? 1 : std::max<std::uint64_t>(count / SAMPLE, 1);
+    int refused = 0;
+    int died = 0;
+    for (std::uint64_t place = 1; place <= count; place += stride)
+    {
+        SCOPED_TRACE(testing::Message() << "allocation " << place << " of " << count);
+        UpdateScene scene;
+        SharedPlan const plan(GetParam().mode, place);
+        HelperOutcome const outcome = Run(scene, plan);
+        EXPECT_GT(plan.Counts().refused, 0u);
+        ExpectHonest(scene, outcome);
+        refused += outcome.Fault() != UpdateFault::None ? 1 : 0;
+        died += outcome.signal != 0 ? 1 : 0;
+        ExpectRecovered(scene, versions);
+    }
+    EXPECT_GT(GetParam().mode == AllocationPlan::Mode::One ? refused : died, 0);
+    RecordProperty("allocations", std::to_string(count));
+    RecordProperty("refused", refused);
+    RecordProperty("died", died);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Steps, ScarceMemory,
+    testing::Values(Row{"PreparationWithoutOne", Step::Preparation, AllocationPlan::Mode::One},
+                    Row{"PreparationWithoutAnyMore", Step::Preparation, AllocationPlan::Mode::AllFrom},
+                    Row{"InstallationWithoutOne", Step::Installation, AllocationPlan::Mode::One},
+                    Row{"InstallationWithoutAnyMore", Step::Installation, AllocationPlan::Mode::AllFrom},
+                    Row{"RecoveryWithoutOne", Step::Recovery, AllocationPlan::Mode::One},
+                    Row{"RecoveryWithoutAnyMore", Step::Recovery, AllocationPlan::Mode::AllFrom}),
+    [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
+
+} // namespace

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QElapsedTimer>
 #include <QFile>
 
@@ -13,6 +14,7 @@
 
 #include <fcntl.h>
 #include <poll.h>
+#include <signal.h>
 #include <unistd.h>
 
 namespace Pelnar::Testing
@@ -21,6 +23,7 @@ namespace
 {
 
 constexpr int PATIENCE_MS = 100000;
+constexpr int LOOK_AGAIN_MS = 10;
 constexpr int SERVER_PATIENCE_MS = 30000;
 constexpr QDir::Filters ALL_ENTRIES = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
 constexpr char RUNNING_PREFIX[] = "Pelnar Demo ";
@@ -54,28 +57,48 @@ private:
     int m_outputFd;
 };
 
-/// Reads until nobody can write any more; false when somebody still can after all that time.
-[[nodiscard]] bool ReadToEnd(int fd, std::string& text)
+/// What several processes write, in a pipe.
+class OutputPipe
 {
-    QElapsedTimer timer;
-    timer.start();
-    char bytes[4096];
-    for (;;)
+public:
+    OutputPipe()
     {
-        pollfd entry{fd, POLLIN, 0};
-        int const left = static_cast<int>(std::max<qint64>(PATIENCE_MS - timer.elapsed(), 0));
-        if (::poll(&entry, 1, left) == 0)
-        {
-            return false;
-        }
-        ssize_t const count = ::read(fd, bytes, sizeof bytes);
-        if (count == 0)
-        {
-            return true;
-        }
-        text.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
+        int ends[2];
+        EXPECT_EQ(::pipe2(ends, O_CLOEXEC), 0);
+        m_readingEnd = Engine::UniqueFd(ends[0]);
+        m_writingEnd = Engine::UniqueFd(ends[1]);
     }
-}
+
+    int WritingEnd() const { return m_writingEnd.Get(); }
+
+    /// Reads until nobody can write any more; false when somebody still can after all that time.
+    [[nodiscard]] bool ReadToEnd(std::string& text)
+    {
+        m_writingEnd = Engine::UniqueFd();
+        QElapsedTimer timer;
+        timer.start();
+        char bytes[4096];
+        for (;;)
+        {
+            pollfd entry{m_readingEnd.Get(), POLLIN, 0};
+            int const left = static_cast<int>(std::max<qint64>(PATIENCE_MS - timer.elapsed(), 0));
+            if (::poll(&entry, 1, left) == 0)
+            {
+                return false;
+            }
+            ssize_t const count = ::read(m_readingEnd.Get(), bytes, sizeof bytes);
+            if (count == 0)
+            {
+                return true;
+            }
+            text.append(bytes, count > 0 ? static_cast<std::size_t>(count) : 0);
+        }
+    }
+
+private:
+    Engine::UniqueFd m_readingEnd;
+    Engine::UniqueFd m_writingEnd;
+};
 
 std::vector<std::string> LinesOf(std::string const& text)
 {
@@ -190,17 +213,32 @@ UpdateServer::~UpdateServer()
     m_process.waitForFinished(SERVER_PATIENCE_MS);
 }
 
-std::vector<std::string> UpdateServer::EndAndListServedFiles()
+std::vector<std::string> UpdateServer::EndAndListAnswers()
 {
     m_process.closeWriteChannel();
     EXPECT_TRUE(m_process.waitForFinished(SERVER_PATIENCE_MS));
-    std::vector<std::string> names;
+    std::vector<std::string> answers;
     for (QByteArray const& line : m_process.readAllStandardError().split('\n'))
     {
         QList<QByteArray> const words = line.split(' ');
-        if (words.size() > 2 && (words[2] == "200" || words[2] == "206"))
+        if (words.size() > 2)
         {
-            names.push_back(words[1].mid(1).toStdString());
+            answers.push_back((words[1].mid(1) + ' ' + words[2]).toStdString());
+        }
+    }
+    return answers;
+}
+
+std::vector<std::string> UpdateServer::EndAndListServedFiles()
+{
+    std::vector<std::string> names;
+    for (std::string const& answer : EndAndListAnswers())
+    {
+        std::size_t const blank = answer.find(' ');
+        std::string const status = answer.substr(blank + 1);
+        if (status == "200" || status == "206")
+        {
+            names.push_back(answer.substr(0, blank));
         }
     }
     return names;
@@ -245,7 +283,7 @@ QByteArray InstalledDemo::ReadDefaults() const
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-DemoOutput InstalledDemo::Run(QString const& feed, QStringList const& arguments) const
+void InstalledDemo::Start(QProcess& process, QString const& feed, QStringList const& arguments) const
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), Path("GNUstep.conf"));
@@ -256,31 +294,46 @@ DemoOutput InstalledDemo::Run(QString const& feed, QStringList const& arguments)
     environment.insert(QStringLiteral("SSL_CERT_FILE"), Published("authority.pem"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("PELNAR_DEMO_OPTIONS"), QStringLiteral("--scenario start"));
-
-    DemoOutput output;
-    int ends[2];
-    if (::pipe2(ends, O_CLOEXEC) != 0)
-    {
-        ADD_FAILURE() << "no pipe";
-        return output;
-    }
-    Engine::UniqueFd const readingEnd(ends[0]);
-    Engine::UniqueFd writingEnd(ends[1]);
-    PipedProcess process(writingEnd.Get());
     process.setProcessEnvironment(environment);
     process.start(Path("Applications/PelnarDemo.app/PelnarDemo"),
                   QStringList{QStringLiteral("--feed"), feed, QStringLiteral("--screenshot-dir"), Path("pictures")} +
                       arguments);
     EXPECT_TRUE(process.waitForStarted());
-    writingEnd = Engine::UniqueFd();
+}
+
+DemoOutput InstalledDemo::Run(QString const& feed, QStringList const& arguments) const
+{
+    DemoOutput output;
+    OutputPipe pipe;
+    PipedProcess process(pipe.WritingEnd());
+    Start(process, feed, arguments);
     std::string text;
-    output.hasEnded = ReadToEnd(readingEnd.Get(), text) && process.waitForFinished();
+    output.hasEnded = pipe.ReadToEnd(text) && process.waitForFinished();
     output.lines = LinesOf(text);
     if (output.hasEnded && process.exitStatus() == QProcess::NormalExit)
     {
         output.status = process.exitCode();
     }
     return output;
+}
+
+bool InstalledDemo::Crash(QString const& feed, QStringList const& arguments, int signal,
+                          std::function<bool()> const& isDue) const
+{
+    OutputPipe pipe;
+    PipedProcess process(pipe.WritingEnd());
+    Start(process, feed, arguments);
+    QElapsedTimer timer;
+    timer.start();
+    bool wasDue = false;
+    do
+    {
+        wasDue = isDue();
+    } while (!wasDue && timer.elapsed() < PATIENCE_MS && !process.waitForFinished(LOOK_AGAIN_MS));
+    ::kill(static_cast<pid_t>(process.processId()), wasDue ? signal : SIGKILL);
+    std::string text;
+    bool const hasEnded = pipe.ReadToEnd(text) && process.waitForFinished();
+    return wasDue && hasEnded;
 }
 
 Engine::Sha256 InstalledDemo::Tree() const
@@ -296,6 +349,21 @@ std::vector<std::string> InstalledDemo::Neighbours() const
         names.push_back(entry.fileName().toStdString());
     }
     return names;
+}
+
+bool InstalledDemo::HasDownloaded() const
+{
+    QDirIterator files(Path("home"), {QStringLiteral("*.archive")}, QDir::Files | QDir::Hidden,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext())
+    {
+        files.next();
+        if (files.fileInfo().size() > 0)
+        {
+            return true;
+        }
+    }
+    return false;
 }
 
 std::vector<std::string> InstalledDemo::Pictures() const

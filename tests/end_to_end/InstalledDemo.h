@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -57,6 +58,8 @@ public:
     QString Url(QString const& feed) const { return m_address + QLatin1Char('/') + feed; }
     /// Ends the server; the names of the files that it was asked for in requests that it answered with their bytes.
     std::vector<std::string> EndAndListServedFiles();
+    /// Ends the server; its answers, as the file's name, a blank, and the status.
+    std::vector<std::string> EndAndListAnswers();
 
 private:
     void Start(QString const& folder, QStringList const& faults);
@@ -82,14 +85,24 @@ public:
     /// and quits.
     DemoOutput Run(QString const& feed, QStringList const& arguments) const;
 
+    /// The same, but the version gets \a signal as soon as \a isDue says so. False when that never came; the output
+    /// ends with whatever it had started.
+    [[nodiscard]] bool Crash(QString const& feed, QStringList const& arguments, int signal,
+                             std::function<bool()> const& isDue) const;
+
     /// The hash of the installed bundle.
     Engine::Sha256 Tree() const;
     /// The names in the folder that holds the bundle.
     std::vector<std::string> Neighbours() const;
+    /// Whether bytes of an archive have been downloaded.
+    [[nodiscard]] bool HasDownloaded() const;
+    /// Where the bundle stands.
+    std::string ApplicationsFolder() const { return Path("Applications").toStdString(); }
     /// The names of the pictures that were taken of the first version's windows, without their ending.
     std::vector<std::string> Pictures() const;
 
 private:
+    void Start(QProcess& process, QString const& feed, QStringList const& arguments) const;
     QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 
     QTemporaryDir m_folder;

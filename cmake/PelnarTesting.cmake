@@ -3,6 +3,7 @@ set(PELNAR_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0:fast_unwind_on_malloc=0")
 # Seconds; only a test that hangs reaches it.
 set(PELNAR_TEST_TIMEOUT 120)
+set(PELNAR_LONG_TEST_TIMEOUT 14400)
 if(PELNAR_SANITIZE)
     set(PELNAR_TEST_TIMEOUT 400)
 endif()

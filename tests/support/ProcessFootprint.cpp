@@ -1,0 +1,66 @@
+#include "tests/support/ProcessFootprint.h"
+
+#include "tests/support/Sanitizers.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+
+#include <malloc.h>
+#include <unistd.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+/// A pipe's or a socket's number is another every time.
+std::string KindOf(std::string const& target)
+{
+    std::size_t const colon = target.find(":[");
+    return target.substr(0, colon);
+}
+
+} // namespace
+
+ProcessFootprint MeasureFootprint()
+{
+    ProcessFootprint footprint;
+    for (auto const& entry : std::filesystem::directory_iterator("/proc/self/fd"))
+    {
+        std::error_code error;
+        std::string const target = std::filesystem::read_symlink(entry.path(), error).string();
+        if (target != "/proc/" + std::to_string(::getpid()) + "/fd")
+        {
+            footprint.descriptors.push_back(KindOf(target));
+        }
+    }
+    std::sort(footprint.descriptors.begin(), footprint.descriptors.end());
+    footprint.threads = static_cast<int>(std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}));
+    ::malloc_trim(0);
+    // Counted page by page: the short way to ask is a rough one.
+    std::ifstream pages("/proc/self/smaps_rollup");
+    for (std::string word; pages >> word;)
+    {
+        if (word == "Rss:")
+        {
+            pages >> footprint.residentKibibytes;
+        }
+    }
+    return footprint;
+}
+
+void ExpectNoGrowth(ProcessFootprint const& before, ProcessFootprint const& after)
+{
+    EXPECT_EQ(after.descriptors, before.descriptors);
+    EXPECT_EQ(after.threads, before.threads);
+    EXPECT_GT(before.residentKibibytes, 0);
+    if (!IS_SANITIZED)
+    {
+        EXPECT_LE(after.residentKibibytes, before.residentKibibytes + before.residentKibibytes / 100);
+    }
+}
+
+} // namespace Pelnar::Testing

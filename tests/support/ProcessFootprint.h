@@ -1,0 +1,24 @@
+// ProcessFootprint.h: what this process holds of the system, for tests of what must not grow.
+// Thread: any. Ownership: values only.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+struct ProcessFootprint
+{
+    std::vector<std::string> descriptors; ///< what the open ones stand for, sorted; without the one that looks
+    int threads = 0;
+    long residentKibibytes = 0; ///< after the allocator has given back what it can
+};
+
+ProcessFootprint MeasureFootprint();
+
+/// Fails unless \a after is \a before, but for one hundredth of the memory. Sanitizers keep freed blocks: under them
+/// the memory does not count.
+void ExpectNoGrowth(ProcessFootprint const& before, ProcessFootprint const& after);
+
+} // namespace Pelnar::Testing

@@ -85,9 +85,9 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 
 std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
 {
-    bool const isSigned = m_settings.feedSigning == FeedSigning::Required;
+    bool const mustBeSigned = m_settings.feedSigning == FeedSigning::Required;
     QByteArray content = outcome.bytes;
-    if (isSigned)
+    if (mustBeSigned)
     {
         auto verified = VerifyFeed(outcome.bytes, m_settings.publicKeys);
         if (auto const* const error = std::get_if<EngineError>(&verified))
@@ -105,7 +105,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
     }
     QDateTime const now = m_now();
     std::optional<FeedTerms> terms;
-    if (isSigned)
+    if (mustBeSigned)
     {
         auto const said = ReadFeedTerms(result.channel);
         if (auto const* const error = std::get_if<EngineError>(&said))

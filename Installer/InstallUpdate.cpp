@@ -172,13 +172,13 @@ int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors
     return EXIT_REFUSED;
 }
 
-/// True when the child ended well.
+/// True when the child ended well. While it may be at work, whatever goes wrong with the asking, nothing is touched.
 bool WaitForChild(pid_t child)
 {
     int status = 0;
     while (::waitpid(child, &status, 0) < 0)
     {
-        if (errno != EINTR)
+        if (errno == ECHILD)
         {
             return false;
         }

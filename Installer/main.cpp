@@ -134,6 +134,7 @@ bool Install(Installer::ReportChannel& report)
 {
     // The host is expected to go, and its session with it.
     ::signal(SIGPIPE, SIG_IGN);
+    ::signal(SIGCHLD, SIG_DFL); // who ignores it is not told how a child has ended
     ::setsid();
     auto const job = ReadJobOfKind<Engine::InstallJob>();
     RequireFolder(HelperDescriptors::PARENT);

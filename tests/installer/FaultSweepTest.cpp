@@ -336,6 +336,19 @@ TEST(Faults, FailingRenamesAreUndone)
     }
 }
 
+TEST(Faults, ParentThatCannotAskAfterItsChildWaitsOn)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    HelperOutcome const outcome = scene.Install(job, Traced(Join({}, "wait4:error=EIO:when=1")));
+    EXPECT_EQ(outcome.exitStatus, 0);
+    EXPECT_EQ(outcome.output.substr(0, 3), "2.0");
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    ExpectRecovered(scene, versions);
+}
+
 TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
 {
     Versions const versions;

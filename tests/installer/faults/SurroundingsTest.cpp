@@ -60,6 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
         Surroundings{"SmallStack", After("ulimit -s 512"), {}}, Surroundings{"NoCoreFiles", After("ulimit -c 0"), {}},
         Surroundings{"StandardStreamsClosed", After("exec <&- >&- 2>&-"), {}},
         Surroundings{"SignalsIgnored", After("trap '' TERM HUP INT QUIT PIPE CHLD"), {}},
+        Surroundings{"EndsOfChildrenIgnored", {"/usr/bin/env", "--ignore-signal=CHLD"}, {}},
         Surroundings{"NoHome", {}, {"HOME="}},
         Surroundings{"HomeThatIsNot", {}, {"HOME=/nonexistent", "XDG_CONFIG_HOME=/nonexistent"}},
         Surroundings{"TurkishLocale", {}, {"LC_ALL=tr_TR.UTF-8", "LANG=tr_TR.UTF-8"}},

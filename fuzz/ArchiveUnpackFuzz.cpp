@@ -64,11 +64,11 @@ public:
     }
 
 private:
-    Sha256 TreeOf(std::string const& name) const { return DigestTree(Open(name).Get()); }
+    ContentHash TreeOf(std::string const& name) const { return DigestTree(Open(name).Get()); }
 
     std::string m_path;
     UniqueFd m_folder;
-    Sha256 m_decoy{};
+    ContentHash m_decoy{};
 };
 
 /// The input in a file in memory.

@@ -22,25 +22,28 @@ ByteBuffer FromText(char const* text)
     return {text, text + std::strlen(text)};
 }
 
-/// Reads a buffer from its beginning, and refuses to read past its end.
+/// Reads a buffer from its beginning to its end.
 ByteSource Reader(ByteBuffer const& buffer)
 {
     return [&buffer, position = std::size_t(0)](std::uint8_t* target, std::size_t size) mutable
     {
-        if (size > buffer.size() - position)
-        {
-            return false;
-        }
-        std::copy_n(buffer.begin() + static_cast<std::ptrdiff_t>(position), size, target);
-        position += size;
-        return true;
+        std::size_t const count = std::min(size, buffer.size() - position);
+        std::copy_n(buffer.begin() + static_cast<std::ptrdiff_t>(position), count, target);
+        position += count;
+        return count;
     };
+}
+
+PatchSources Readers(BinaryPatch const& patch)
+{
+    PatchSources sources;
+    std::transform(patch.streams.begin(), patch.streams.end(), sources.begin(), &Reader);
+    return sources;
 }
 
 PatchVerdict Apply(ByteBuffer const& oldBytes, BinaryPatch const& patch, std::uint64_t newSize, ByteBuffer& result)
 {
-    return ApplyBinaryPatch(View(oldBytes), patch.control.size(), Reader(patch.control), Reader(patch.difference),
-                            Reader(patch.extra), newSize,
+    return ApplyBinaryPatch(View(oldBytes), Readers(patch), newSize,
                             [&result](Bytes bytes)
                             {
                                 result.insert(result.end(), bytes.begin(), bytes.end());
@@ -123,36 +126,52 @@ TEST(BinaryPatch, FilesOverOnePieceSurviveTheRoundTrip)
     ExpectRoundTrip(oldBytes, newBytes);
 }
 
-TEST(BinaryPatch, UnchangedFileIsOneStepOfZeros)
+ByteBuffer Numbers(std::initializer_list<std::uint64_t> numbers)
+{
+    ByteBuffer bytes;
+    for (std::uint64_t number : numbers)
+    {
+        for (; number >= 0x80; number >>= 7)
+        {
+            bytes.push_back(static_cast<std::uint8_t>(number | 0x80));
+        }
+        bytes.push_back(static_cast<std::uint8_t>(number));
+    }
+    return bytes;
+}
+
+TEST(BinaryPatch, UnchangedFileIsOneStepAndOneRun)
 {
     std::mt19937 random(3);
     ByteBuffer const bytes = RandomBytes(random, 10000, 256);
     std::optional<BinaryPatch> const patch = MakeBinaryPatch(View(bytes), View(bytes));
     ASSERT_TRUE(patch);
-    EXPECT_EQ(patch->control.size(), 24u);
-    EXPECT_EQ(patch->difference, ByteBuffer(10000, 0));
-    EXPECT_TRUE(patch->extra.empty());
+    EXPECT_EQ((*patch)[PatchStream::Steps], Numbers({10000, 0, 0}));
+    EXPECT_EQ((*patch)[PatchStream::Same], Numbers({10000}));
+    EXPECT_TRUE((*patch)[PatchStream::Changed].empty());
+    EXPECT_TRUE((*patch)[PatchStream::Difference].empty());
+    EXPECT_TRUE((*patch)[PatchStream::Extra].empty());
 }
 
-ByteBuffer Control(std::initializer_list<std::int64_t> numbers)
+TEST(BinaryPatch, ChangedBytesAreRunsAndWhatIsAddedToThem)
 {
-    ByteBuffer control;
-    for (std::int64_t const number : numbers)
-    {
-        for (int shift = 0; shift < 64; shift += 8)
-        {
-            control.push_back(static_cast<std::uint8_t>(static_cast<std::uint64_t>(number) >> shift));
-        }
-    }
-    return control;
+    std::mt19937 random(4);
+    ByteBuffer const oldBytes = RandomBytes(random, 1000, 256);
+    ByteBuffer newBytes = oldBytes;
+    newBytes[100] = static_cast<std::uint8_t>(newBytes[100] + 7);
+    newBytes[101] = static_cast<std::uint8_t>(newBytes[101] - 1);
+    newBytes[500] = static_cast<std::uint8_t>(newBytes[500] + 1);
+    std::optional<BinaryPatch> const patch = MakeBinaryPatch(View(oldBytes), View(newBytes));
+    ASSERT_TRUE(patch);
+    EXPECT_EQ((*patch)[PatchStream::Same], Numbers({100, 398, 499}));
+    EXPECT_EQ((*patch)[PatchStream::Changed], Numbers({2, 1}));
+    EXPECT_EQ((*patch)[PatchStream::Difference], (ByteBuffer{7, 255, 1}));
 }
 
 struct HostileRow
 {
     char const* name;
-    ByteBuffer control;
-    std::size_t differenceBytes;
-    std::size_t extraBytes;
+    BinaryPatch patch; ///< of a file of ten bytes
     std::uint64_t newSize;
     PatchVerdict verdict;
 };
@@ -165,51 +184,61 @@ TEST_P(HostilePatch, IsRefused)
 {
     HostileRow const& row = GetParam();
     ByteBuffer const oldBytes(10, 1);
-    BinaryPatch const patch{row.control, ByteBuffer(row.differenceBytes, 0), ByteBuffer(row.extraBytes, 0)};
     ByteBuffer result;
-    EXPECT_EQ(Apply(oldBytes, patch, row.newSize, result), row.verdict);
+    EXPECT_EQ(Apply(oldBytes, row.patch, row.newSize, result), row.verdict);
     EXPECT_LE(result.size(), row.newSize);
 }
 
-constexpr std::int64_t LOWEST = std::numeric_limits<std::int64_t>::min();
-constexpr std::int64_t HIGHEST = std::numeric_limits<std::int64_t>::max();
+constexpr std::uint64_t HIGHEST = std::numeric_limits<std::uint64_t>::max();
+
+BinaryPatch Patch(ByteBuffer steps, ByteBuffer same = {}, ByteBuffer changed = {}, std::size_t differenceBytes = 0,
+                  std::size_t extraBytes = 0)
+{
+    return {{std::move(steps), std::move(same), std::move(changed), ByteBuffer(differenceBytes, 0),
+             ByteBuffer(extraBytes, 0)}};
+}
+
+using Verdict = PatchVerdict;
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, HostilePatch,
-    testing::Values(HostileRow{"NoStepAtAll", {}, 0, 0, 1, PatchVerdict::WrongSize},
-                    HostileRow{"HalfAStep", ByteBuffer(23, 0), 0, 0, 0, PatchVerdict::WrongSize},
-                    HostileRow{"TooFewBytes", Control({4, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
-                    HostileRow{"TooManyDifferenceBytes", Control({6, 0, 0}), 6, 0, 5, PatchVerdict::WrongSize},
-                    HostileRow{"TooManyExtraBytes", Control({4, 2, 0}), 4, 2, 5, PatchVerdict::WrongSize},
-                    HostileRow{"SizesThatOverflow", Control({4, -1, 0}), 4, 2, 5, PatchVerdict::WrongSize},
-                    HostileRow{"NegativeDifference", Control({-1, 0, 0}), 4, 0, 5, PatchVerdict::WrongSize},
-                    HostileRow{"DifferencePastTheOldEnd", Control({11, 0, 0}), 11, 0, 20, PatchVerdict::OutOfRange},
-                    HostileRow{"MovePastTheOldEnd", Control({4, 0, 7}), 4, 0, 4, PatchVerdict::OutOfRange},
-                    HostileRow{"MoveBeforeTheOldBeginning", Control({4, 0, -5}), 4, 0, 4, PatchVerdict::OutOfRange},
-                    HostileRow{"LowestMove", Control({4, 0, LOWEST}), 4, 0, 4, PatchVerdict::OutOfRange},
-                    HostileRow{"HighestMove", Control({4, 0, HIGHEST}), 4, 0, 4, PatchVerdict::OutOfRange},
-                    HostileRow{"DifferenceStreamEnds", Control({4, 0, 0}), 3, 0, 4, PatchVerdict::SourceEnded},
-                    HostileRow{"ExtraStreamEnds", Control({0, 4, 0}), 0, 3, 4, PatchVerdict::SourceEnded}),
+    testing::Values(
+        HostileRow{"NoStepAtAll", Patch({}), 1, Verdict::SourceEnded},
+        HostileRow{"HalfAStep", Patch(Numbers({4, 0}), Numbers({4})), 4, Verdict::SourceEnded},
+        HostileRow{"TooFewBytes", Patch(Numbers({4, 0, 0}), Numbers({4})), 5, Verdict::SourceEnded},
+        HostileRow{"TooManyLikeBytes", Patch(Numbers({6, 0, 0}), Numbers({6})), 5, Verdict::WrongSize},
+        HostileRow{"TooManyExtraBytes", Patch(Numbers({4, 2, 0}), Numbers({4}), {}, 0, 2), 5, Verdict::WrongSize},
+        HostileRow{"SizesThatOverflow", Patch(Numbers({4, HIGHEST, 0}), Numbers({4})), 5, Verdict::WrongSize},
+        HostileRow{"LikePastTheOldEnd", Patch(Numbers({11, 0, 0}), Numbers({11})), 20, Verdict::OutOfRange},
+        HostileRow{"MovePastTheOldEnd", Patch(Numbers({4, 0, 14}), Numbers({4})), 4, Verdict::OutOfRange},
+        HostileRow{"MoveBeforeTheOldBeginning", Patch(Numbers({4, 0, 9}), Numbers({4})), 4, Verdict::OutOfRange},
+        HostileRow{"FarthestMoveBack", Patch(Numbers({4, 0, HIGHEST}), Numbers({4})), 4, Verdict::OutOfRange},
+        HostileRow{"FarthestMove", Patch(Numbers({4, 0, HIGHEST - 1}), Numbers({4})), 4, Verdict::OutOfRange},
+        HostileRow{"SecondStepOfNothing", Patch(Numbers({0, 0, 2, 0, 0, 2, 4, 0, 0}), Numbers({4})), 4,
+                   Verdict::BadNumber},
+        HostileRow{"RunOfNothing", Patch(Numbers({4, 0, 0}), Numbers({0, 0, 4}), Numbers({0, 0})), 4,
+                   Verdict::BadNumber},
+        HostileRow{"LongFormOfANumber", Patch({0x84, 0x00, 0, 0}, Numbers({4})), 4, Verdict::BadNumber},
+        HostileRow{"NumberOfMoreThan64Bits",
+                   Patch({0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 2, 0, 0}, Numbers({4})), 4,
+                   Verdict::BadNumber},
+        HostileRow{"RunsEnd", Patch(Numbers({4, 0, 0}), Numbers({3})), 4, Verdict::SourceEnded},
+        HostileRow{"RunGoesOnAfterTheLastStep", Patch(Numbers({4, 0, 0}), Numbers({5})), 4, Verdict::WrongSize},
+        HostileRow{"StepLeftOver", Patch(Numbers({4, 0, 0, 0, 0, 0}), Numbers({4})), 4, Verdict::WrongSize},
+        HostileRow{"DifferenceLeftOver", Patch(Numbers({4, 0, 0}), Numbers({4}), {}, 1), 4, Verdict::WrongSize},
+        HostileRow{"ExtraLeftOver", Patch(Numbers({4, 0, 0}), Numbers({4}), {}, 0, 1), 4, Verdict::WrongSize},
+        HostileRow{"DifferenceStreamEnds", Patch(Numbers({4, 0, 0}), Numbers({0}), Numbers({4}), 3), 4,
+                   Verdict::SourceEnded},
+        HostileRow{"ExtraStreamEnds", Patch(Numbers({0, 4, 0}), {}, {}, 0, 3), 4, Verdict::SourceEnded}),
     [](testing::TestParamInfo<HostileRow> const& row) { return row.param.name; });
-
-TEST(BinaryPatch, ControlStreamThatEndsEarlyIsRefused)
-{
-    ByteBuffer const oldBytes(10, 1);
-    ByteBuffer const control = Control({4, 0, 0});
-    ByteBuffer const difference(4, 0);
-    EXPECT_EQ(ApplyBinaryPatch(View(oldBytes), 48, Reader(control), Reader(difference), Reader({}), 4,
-                               [](Bytes) { return true; }),
-              PatchVerdict::SourceEnded);
-}
 
 TEST(BinaryPatch, SinkThatRefusesEndsTheWork)
 {
     ByteBuffer const oldBytes(10, 1);
-    for (ByteBuffer const& control : {Control({4, 0, 0}), Control({0, 4, 0})})
+    for (BinaryPatch const& patch : {Patch(Numbers({4, 0, 0}), Numbers({4})), Patch(Numbers({0, 4, 0}), {}, {}, 0, 4)})
     {
-        ByteBuffer const stream(4, 0);
         int calls = 0;
-        EXPECT_EQ(ApplyBinaryPatch(View(oldBytes), 24, Reader(control), Reader(stream), Reader(stream), 4,
+        EXPECT_EQ(ApplyBinaryPatch(View(oldBytes), Readers(patch), 4,
                                    [&calls](Bytes)
                                    {
                                        ++calls;

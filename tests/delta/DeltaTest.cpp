@@ -1,6 +1,6 @@
+#include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
-#include "Engine/core/delta/Sha256Hasher.h"
 #include "Engine/core/delta/TreeAccess.h"
 
 #include <gtest/gtest.h>

@@ -34,7 +34,7 @@ QString Published(char const* name)
     return QStringLiteral(PELNAR_PUBLISHED_DEMO "/") + QString::fromLatin1(name);
 }
 
-Engine::Sha256 TreeOf(QString const& bundle)
+Engine::ContentHash TreeOf(QString const& bundle)
 {
     Engine::UniqueFd const folder(::open(QFile::encodeName(bundle).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return Engine::DigestTree(folder.Get());
@@ -336,7 +336,7 @@ bool InstalledDemo::Crash(QString const& feed, QStringList const& arguments, int
     return wasDue && hasEnded;
 }
 
-Engine::Sha256 InstalledDemo::Tree() const
+Engine::ContentHash InstalledDemo::Tree() const
 {
     return TreeOf(Path("Applications/PelnarDemo.app"));
 }
@@ -376,12 +376,12 @@ std::vector<std::string> InstalledDemo::Pictures() const
     return names;
 }
 
-Engine::Sha256 OldTree()
+Engine::ContentHash OldTree()
 {
     return TreeOf(Published("old/PelnarDemo.app"));
 }
 
-Engine::Sha256 NewTree()
+Engine::ContentHash NewTree()
 {
     return TreeOf(Published("new/PelnarDemo.app"));
 }

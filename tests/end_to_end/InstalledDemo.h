@@ -3,7 +3,7 @@
 // Thread: one. Ownership: scope objects; folders and processes end with them.
 #pragma once
 
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 
 #include <QProcess>
 #include <QStringList>
@@ -91,7 +91,7 @@ public:
                              std::function<bool()> const& isDue) const;
 
     /// The hash of the installed bundle.
-    Engine::Sha256 Tree() const;
+    Engine::ContentHash Tree() const;
     /// The names in the folder that holds the bundle.
     std::vector<std::string> Neighbours() const;
     /// Whether bytes of an archive have been downloaded.
@@ -109,7 +109,7 @@ private:
 };
 
 /// The hashes of the bundles as they were published.
-Engine::Sha256 OldTree();
-Engine::Sha256 NewTree();
+Engine::ContentHash OldTree();
+Engine::ContentHash NewTree();
 
 } // namespace Pelnar::Testing

@@ -11,7 +11,7 @@
 namespace Pelnar::Testing
 {
 
-using Engine::Sha256;
+using Engine::ContentHash;
 using Engine::UniqueFd;
 
 bool IsEveryPlaceWanted()
@@ -19,10 +19,10 @@ bool IsEveryPlaceWanted()
     return std::getenv("PELNAR_EVERY_PLACE") != nullptr;
 }
 
-Sha256 TreeOf(std::string const& path)
+ContentHash TreeOf(std::string const& path)
 {
     UniqueFd const folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return folder ? Engine::DigestTree(folder.Get()) : Sha256{};
+    return folder ? Engine::DigestTree(folder.Get()) : ContentHash{};
 }
 
 Versions::Versions()
@@ -37,7 +37,7 @@ Versions::Versions()
 
 std::string ExpectWhole(Workspace const& place, Versions const& versions)
 {
-    Sha256 const tree = TreeOf(place.Path() + '/' + APP);
+    ContentHash const tree = TreeOf(place.Path() + '/' + APP);
     EXPECT_TRUE(tree == versions.previous || tree == versions.next);
     std::string const version = tree == versions.next ? "2.0" : "1.0";
     EXPECT_EQ(place.StartedVersion(), version);

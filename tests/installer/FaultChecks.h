@@ -13,14 +13,14 @@ namespace Pelnar::Testing
 bool IsEveryPlaceWanted();
 
 /// The hash of the tree of the folder at \a path; of nothing when there is none.
-Engine::Sha256 TreeOf(std::string const& path);
+Engine::ContentHash TreeOf(std::string const& path);
 
 /// The trees of both versions, as they are when whole.
 struct Versions
 {
     Versions();
-    Engine::Sha256 previous;
-    Engine::Sha256 next;
+    Engine::ContentHash previous;
+    Engine::ContentHash next;
 };
 
 /// Fails unless the bundle is exactly one of the versions and starts as it; that version.

@@ -148,7 +148,7 @@ TEST(UpdateJob, ForeignBytesAreRefused)
 
 TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
 {
-    Sha256 digest{};
+    ContentHash digest{};
     digest.fill(0x1f);
     std::string digestText;
     for (int i = 0; i < 32; ++i)

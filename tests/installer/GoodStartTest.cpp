@@ -158,10 +158,10 @@ TEST(GoodStart, WithoutAnExchangeThePreviousVersionComesBackByTwoRenames)
     EXPECT_EQ(installed.Version(), "1.0");
 }
 
-Sha256 TreeOf(Workspace const& place)
+ContentHash TreeOf(Workspace const& place)
 {
     UniqueFd const bundle(::open((place.Path() + '/' + APP).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    return bundle ? DigestTree(bundle.Get()) : Sha256{};
+    return bundle ? DigestTree(bundle.Get()) : ContentHash{};
 }
 
 /// After some starts without a word the previous version stands there, whole, and nothing else but a note.

@@ -348,12 +348,12 @@ Engine::InstallJob UpdateScene::PrepareForInstall()
     HelperOutcome const outcome = Prepare(MakePrepareJob());
     auto const* prepared = outcome.Find<Engine::PreparedReport>();
     EXPECT_NE(prepared, nullptr) << FaultName(outcome.Fault());
-    Engine::InstallJob job = MakeInstallJob(prepared ? prepared->digest : Engine::Sha256{});
+    Engine::InstallJob job = MakeInstallJob(prepared ? prepared->digest : Engine::ContentHash{});
     job.targetPath = m_place.Path() + '/' + APP;
     return job;
 }
 
-Engine::InstallJob UpdateScene::MakeInstallJob(Engine::Sha256 const& digest) const
+Engine::InstallJob UpdateScene::MakeInstallJob(Engine::ContentHash const& digest) const
 {
     Engine::InstallJob job;
     job.targetName = APP;

@@ -119,7 +119,7 @@ public:
     /// Prepares the update by the helper, and fails the test when that fails.
     Engine::InstallJob PrepareForInstall();
     /// For the bundle APP of that tree, staged; nothing is started afterwards.
-    Engine::InstallJob MakeInstallJob(Engine::Sha256 const& digest) const;
+    Engine::InstallJob MakeInstallJob(Engine::ContentHash const& digest) const;
     HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
     HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
     HelperOutcome Recover(Engine::RecoverJob const& job, HelperStart const& start = {});

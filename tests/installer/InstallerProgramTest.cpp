@@ -61,7 +61,7 @@ public:
         HelperOutcome const outcome = Prepare();
         auto const* const prepared = outcome.Find<PreparedReport>();
         EXPECT_NE(prepared, nullptr) << FaultName(outcome.Fault());
-        InstallJob job = scene.MakeInstallJob(prepared ? prepared->digest : Sha256{});
+        InstallJob job = scene.MakeInstallJob(prepared ? prepared->digest : ContentHash{});
         job.kind = PayloadKind::Installer;
         job.stagedName = prepared ? prepared->stagedName : SETUP;
         job.targetPath = Target();

@@ -71,14 +71,14 @@ public:
     std::uint64_t lastTotal = 0;
 
 private:
-    Sha256 DecoyDigest() const
+    ContentHash DecoyDigest() const
     {
         return DigestTree(UniqueFd(::open((m_place.Path() + "/decoy").c_str(), O_RDONLY | O_DIRECTORY)).Get());
     }
 
     Workspace m_place;
     UniqueFd m_staging;
-    Sha256 m_decoy;
+    ContentHash m_decoy;
 };
 
 class HostileArchives : public testing::TestWithParam<std::tuple<int, int>>
@@ -182,7 +182,7 @@ TEST_P(EveryContainer, ModesAreMaskedOwnersAreOursTimesStay)
 TEST_P(EveryContainer, ShorterArchiveIsRefusedUnlessOnlyThePaddingIsGone)
 {
     std::string const whole = MakeArchive(CONTAINERS[GetParam()], MakeBundle("2.0"));
-    Sha256 const digest = UnpackScene().Unpack(whole).digest;
+    ContentHash const digest = UnpackScene().Unpack(whole).digest;
     int refused = 0;
     for (std::size_t size = 0; size < whole.size(); size += 1 + whole.size() / 60)
     {

@@ -332,7 +332,7 @@ void ScriptedParts::FinishPreparation()
     ASSERT_TRUE(m_helper);
     ASSERT_EQ(::mkdirat(m_helper->staging, "App.app", 0755), 0);
     Report(ProgressReport{HelperPhase::Unpacking, 7, 9});
-    Report(PreparedReport{Sha256{1}, "App.app"});
+    Report(PreparedReport{ContentHash{1}, "App.app"});
     EndHelper(HelperEnd::Done);
 }
 

@@ -80,7 +80,7 @@ TEST_F(UpdateRunTest, JobsSayWhatTheItemAndTheBundleSay)
     EXPECT_EQ(install.targetName, "App.app");
     EXPECT_EQ(install.stagingName.rfind(".pelnar-", 0), 0u);
     EXPECT_EQ(install.stagedName, "App.app");
-    EXPECT_EQ(install.digest, Sha256{1});
+    EXPECT_EQ(install.digest, ContentHash{1});
     EXPECT_EQ(install.waitSeconds, 600u) << "a person may keep the application open";
     EXPECT_EQ(install.targetPath, settings.bundle.path.toStdString());
     EXPECT_EQ(install.relaunchPath, "/opt/Other.app");

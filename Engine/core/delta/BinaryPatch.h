@@ -1,10 +1,11 @@
-// BinaryPatch.h: the difference of two files as three streams, and the way back.
+// BinaryPatch.h: the difference of two files as five streams, and the way back.
 // Thread: any; no shared state. Ownership: the patch owns its streams; the bytes of the files are the caller's.
-// A patch is a list of steps. Each adds the next bytes of the difference stream to the bytes of the old file at the
-// current position, then takes bytes from the extra stream as they are, then moves the position in the old file. Code
-// that moved a little differs by small numbers, which compress well.
+// A patch is a list of steps. Each takes the next bytes of the old file at the current position, the difference added
+// where there is one, then takes bytes from the extra stream as they are, then moves the position in the old file. Code
+// that moved a little differs in few bytes and by small numbers, which compress well.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
@@ -19,11 +20,23 @@ namespace Pelnar::Engine
 using Bytes = std::basic_string_view<std::uint8_t>;
 using ByteBuffer = std::vector<std::uint8_t>;
 
+/// The streams of a patch. Numbers are variable: seven bits a byte, lowest first, the high bit set on all but the last.
+enum class PatchStream : std::uint8_t
+{
+    Steps,      ///< three numbers a step: bytes like the old file's, extra bytes, and the move, its sign as lowest bit
+    Same,       ///< numbers: bytes that are the old file's, before each run of changed ones and after the last
+    Changed,    ///< numbers: the length of each run of changed bytes
+    Difference, ///< what is added, without carry, to each changed byte
+    Extra,      ///< bytes that are taken as they are
+};
+constexpr std::size_t PATCH_STREAMS = 5;
+
 struct BinaryPatch
 {
-    ByteBuffer control; ///< three 64-bit little-endian numbers a step: difference bytes, extra bytes, signed move
-    ByteBuffer difference;
-    ByteBuffer extra;
+    std::array<ByteBuffer, PATCH_STREAMS> streams;
+
+    ByteBuffer& operator[](PatchStream stream) { return streams[static_cast<std::size_t>(stream)]; }
+    ByteBuffer const& operator[](PatchStream stream) const { return streams[static_cast<std::size_t>(stream)]; }
 };
 
 /// The largest old file that MakeBinaryPatch takes.
@@ -33,9 +46,10 @@ constexpr std::size_t MAX_PATCH_SOURCE_BYTES = 0x7FFFFFFE;
 /// memory for its index (five times its size) cannot be had.
 [[nodiscard]] std::optional<BinaryPatch> MakeBinaryPatch(Bytes oldBytes, Bytes newBytes);
 
-/// Where the applier takes the next bytes of one stream from: fills \a size bytes at \a target, or answers false when
-/// the stream ends early or cannot be read.
-using ByteSource = std::function<bool(std::uint8_t* target, std::size_t size)>;
+/// Where the applier takes the next bytes of one stream from: fills \a size bytes at \a target and answers their
+/// number, which is smaller only where the stream ends or cannot be read.
+using ByteSource = std::function<std::size_t(std::uint8_t* target, std::size_t size)>;
+using PatchSources = std::array<ByteSource, PATCH_STREAMS>;
 /// Takes the next bytes of the new file; false when they cannot be written.
 using ByteSink = std::function<bool(Bytes bytes)>;
 
@@ -43,15 +57,14 @@ enum class PatchVerdict
 {
     Applied,
     SourceEnded, ///< a stream ended early or could not be read
+    BadNumber,   ///< longer than needed, over 64 bits, or a run or step of nothing
     OutOfRange,  ///< a step reads outside the old file
-    WrongSize,   ///< the steps make more or fewer bytes than declared
+    WrongSize,   ///< the steps make more bytes than declared, or leave some of a stream
     SinkRefused, ///< the new bytes could not be written
 };
 
-/// Makes the \a newSize bytes of the new file in pieces of at most 64 KiB. Reads exactly \a controlSize bytes of
-/// \a control. Constant memory; any bytes are safe.
-[[nodiscard]] PatchVerdict ApplyBinaryPatch(Bytes oldBytes, std::uint64_t controlSize, ByteSource const& control,
-                                            ByteSource const& difference, ByteSource const& extra,
-                                            std::uint64_t newSize, ByteSink const& sink);
+/// Makes the \a newSize bytes of the new file in pieces of at most 64 KiB. Constant memory; any bytes are safe.
+[[nodiscard]] PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize,
+                                            ByteSink const& sink);
 
 } // namespace Pelnar::Engine

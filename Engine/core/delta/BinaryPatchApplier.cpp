@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -9,45 +10,147 @@ namespace
 {
 
 constexpr std::size_t PIECE_BYTES = 64 * 1024;
-constexpr std::size_t STEP_BYTES = 24;
+constexpr std::size_t AHEAD_BYTES = 4 * 1024;
 
 struct Step
 {
-    std::uint64_t differenceBytes;
+    std::uint64_t likeBytes;
     std::uint64_t extraBytes;
-    std::int64_t move;
+    std::uint64_t move;
 };
 
-std::uint64_t ReadNumber(std::uint8_t const* bytes)
+/// A stream read ahead: the numbers and most runs are a byte or two.
+class StreamReader
 {
-    std::uint64_t number = 0;
-    for (int i = 7; i >= 0; --i)
+public:
+    explicit StreamReader(ByteSource const& source) : m_source(source) {}
+
+    [[nodiscard]] bool Take(std::uint8_t* target, std::size_t size)
     {
-        number = number << 8 | bytes[i];
+        while (size > 0)
+        {
+            if (m_position == m_end && !Refill())
+            {
+                return false;
+            }
+            std::size_t const count = std::min(size, m_end - m_position);
+            std::copy_n(m_ahead.data() + m_position, count, target);
+            m_position += count;
+            target += count;
+            size -= count;
+        }
+        return true;
     }
-    return number;
-}
+
+    PatchVerdict TakeNumber(std::uint64_t& number)
+    {
+        number = 0;
+        for (int shift = 0;; shift += 7)
+        {
+            std::uint8_t byte = 0;
+            if (!Take(&byte, 1))
+            {
+                return PatchVerdict::SourceEnded;
+            }
+            bool const isOverlong = byte == 0 && shift > 0;
+            bool const isTooLarge = shift == 63 && byte > 1;
+            if (isOverlong || isTooLarge)
+            {
+                return PatchVerdict::BadNumber;
+            }
+            number |= static_cast<std::uint64_t>(byte & 0x7F) << shift;
+            if (byte < 0x80)
+            {
+                return PatchVerdict::Applied;
+            }
+        }
+    }
+
+    bool IsAtEnd() { return m_position == m_end && !Refill(); }
+
+private:
+    bool Refill()
+    {
+        m_position = 0;
+        m_end = m_source(m_ahead.data(), m_ahead.size());
+        return m_end > 0;
+    }
+
+    ByteSource const& m_source;
+    std::array<std::uint8_t, AHEAD_BYTES> m_ahead;
+    std::size_t m_position = 0;
+    std::size_t m_end = 0;
+};
 
 class PatchApplier
 {
 public:
-    PatchApplier(Bytes oldBytes, std::uint64_t newSize, ByteSource const& difference, ByteSource const& extra,
-                 ByteSink const& sink)
-        : m_old(oldBytes), m_missing(newSize), m_difference(difference), m_extra(extra), m_sink(sink)
+    PatchApplier(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)
+        : m_old(oldBytes)
+        , m_missing(newSize)
+        , m_steps(SourceOf(sources, PatchStream::Steps))
+        , m_same(SourceOf(sources, PatchStream::Same))
+        , m_changed(SourceOf(sources, PatchStream::Changed))
+        , m_difference(SourceOf(sources, PatchStream::Difference))
+        , m_extra(SourceOf(sources, PatchStream::Extra))
+        , m_sink(sink)
     {
+    }
+
+    PatchVerdict Apply()
+    {
+        for (bool isFirst = true; m_missing > 0; isFirst = false)
+        {
+            Step step{};
+            PatchVerdict verdict = TakeStep(step);
+            // Only the first may do nothing but move: any number of such would be an endless loop.
+            bool const isIdle = step.likeBytes == 0 && step.extraBytes == 0 && !isFirst;
+            verdict = verdict == PatchVerdict::Applied && isIdle ? PatchVerdict::BadNumber : verdict;
+            verdict = verdict == PatchVerdict::Applied ? Apply(step) : verdict;
+            if (verdict != PatchVerdict::Applied)
+            {
+                return verdict;
+            }
+        }
+        if (!Flush())
+        {
+            return PatchVerdict::SinkRefused;
+        }
+        bool const isUsedUp = m_sameLeft == 0 && m_changedLeft == 0 && m_steps.IsAtEnd() && m_same.IsAtEnd() &&
+                              m_changed.IsAtEnd() && m_difference.IsAtEnd() && m_extra.IsAtEnd();
+        return isUsedUp ? PatchVerdict::Applied : PatchVerdict::WrongSize;
+    }
+
+private:
+    static ByteSource const& SourceOf(PatchSources const& sources, PatchStream stream)
+    {
+        return sources[static_cast<std::size_t>(stream)];
+    }
+
+    PatchVerdict TakeStep(Step& step)
+    {
+        for (std::uint64_t* const number : {&step.likeBytes, &step.extraBytes, &step.move})
+        {
+            if (PatchVerdict const verdict = m_steps.TakeNumber(*number); verdict != PatchVerdict::Applied)
+            {
+                return verdict;
+            }
+        }
+        return PatchVerdict::Applied;
     }
 
     PatchVerdict Apply(Step const& step)
     {
-        if (step.differenceBytes > m_missing || step.extraBytes > m_missing - step.differenceBytes)
+        if (step.likeBytes > m_missing || step.extraBytes > m_missing - step.likeBytes)
         {
             return PatchVerdict::WrongSize;
         }
-        if (step.differenceBytes > m_old.size() - m_position)
+        if (step.likeBytes > m_old.size() - m_position)
         {
             return PatchVerdict::OutOfRange;
         }
-        if (PatchVerdict const verdict = AddDifference(step.differenceBytes); verdict != PatchVerdict::Applied)
+        m_missing -= step.likeBytes + step.extraBytes;
+        if (PatchVerdict const verdict = TakeLike(step.likeBytes); verdict != PatchVerdict::Applied)
         {
             return verdict;
         }
@@ -58,30 +161,59 @@ public:
         return Move(step.move) ? PatchVerdict::Applied : PatchVerdict::OutOfRange;
     }
 
-    std::uint64_t MissingBytes() const { return m_missing; }
+    /// The next run, once the last is used up: they go on across steps.
+    PatchVerdict TakeRun()
+    {
+        PatchVerdict verdict = PatchVerdict::Applied;
+        if (!m_isChangedNext)
+        {
+            verdict = m_same.TakeNumber(m_sameLeft);
+        }
+        else
+        {
+            verdict = m_changed.TakeNumber(m_changedLeft);
+            verdict = verdict == PatchVerdict::Applied && m_changedLeft == 0 ? PatchVerdict::BadNumber : verdict;
+        }
+        m_isChangedNext = !m_isChangedNext;
+        return verdict;
+    }
 
-private:
-    PatchVerdict AddDifference(std::uint64_t size)
+    PatchVerdict TakeLike(std::uint64_t size)
     {
         while (size > 0)
         {
-            auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(size, PIECE_BYTES));
-            if (!m_difference(m_piece.data(), piece))
+            if (m_sameLeft == 0 && m_changedLeft == 0)
+            {
+                if (PatchVerdict const verdict = TakeRun(); verdict != PatchVerdict::Applied)
+                {
+                    return verdict;
+                }
+                continue;
+            }
+            std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
+            std::size_t const count = Room(std::min(size, left));
+            std::uint8_t* const target = m_piece.data() + m_filled;
+            std::uint8_t const* const old = m_old.data() + m_position;
+            if (&left == &m_sameLeft)
+            {
+                std::copy_n(old, count, target);
+            }
+            else if (!m_difference.Take(target, count))
             {
                 return PatchVerdict::SourceEnded;
             }
-            std::uint8_t const* const old = m_old.data() + m_position;
-            for (std::size_t i = 0; i < piece; ++i)
+            else
             {
-                m_piece[i] = static_cast<std::uint8_t>(m_piece[i] + old[i]);
+                std::transform(target, target + count, old, target,
+                               [](std::uint8_t a, std::uint8_t b) { return static_cast<std::uint8_t>(a + b); });
             }
-            if (!m_sink(Bytes(m_piece.data(), piece)))
+            left -= count;
+            m_position += count;
+            size -= count;
+            if (!Advance(count))
             {
                 return PatchVerdict::SinkRefused;
             }
-            m_position += piece;
-            m_missing -= piece;
-            size -= piece;
         }
         return PatchVerdict::Applied;
     }
@@ -90,77 +222,71 @@ private:
     {
         while (size > 0)
         {
-            auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(size, PIECE_BYTES));
-            if (!m_extra(m_piece.data(), piece))
+            std::size_t const count = Room(size);
+            if (!m_extra.Take(m_piece.data() + m_filled, count))
             {
                 return PatchVerdict::SourceEnded;
             }
-            if (!m_sink(Bytes(m_piece.data(), piece)))
+            size -= count;
+            if (!Advance(count))
             {
                 return PatchVerdict::SinkRefused;
             }
-            m_missing -= piece;
-            size -= piece;
         }
         return PatchVerdict::Applied;
     }
 
-    [[nodiscard]] bool Move(std::int64_t distance)
+    std::size_t Room(std::uint64_t size) const
     {
-        if (distance < 0)
-        {
-            // The magnitude of the lowest number does not fit its own type.
-            std::uint64_t const back = ~static_cast<std::uint64_t>(distance) + 1;
-            if (back > m_position)
-            {
-                return false;
-            }
-            m_position -= static_cast<std::size_t>(back);
-            return true;
-        }
-        if (static_cast<std::uint64_t>(distance) > m_old.size() - m_position)
+        return static_cast<std::size_t>(std::min<std::uint64_t>(size, m_piece.size() - m_filled));
+    }
+
+    [[nodiscard]] bool Advance(std::size_t count)
+    {
+        m_filled += count;
+        return m_filled < m_piece.size() || Flush();
+    }
+
+    [[nodiscard]] bool Flush()
+    {
+        std::size_t const count = std::exchange(m_filled, 0);
+        return count == 0 || m_sink(Bytes(m_piece.data(), count));
+    }
+
+    [[nodiscard]] bool Move(std::uint64_t move)
+    {
+        std::uint64_t const distance = move / 2 + move % 2;
+        bool const isBack = move % 2 != 0;
+        if (distance > (isBack ? m_position : m_old.size() - m_position))
         {
             return false;
         }
-        m_position += static_cast<std::size_t>(distance);
+        m_position =
+            isBack ? m_position - static_cast<std::size_t>(distance) : m_position + static_cast<std::size_t>(distance);
         return true;
     }
 
     Bytes m_old;
-    std::uint64_t m_missing;
-    ByteSource const& m_difference;
-    ByteSource const& m_extra;
+    std::uint64_t m_missing; ///< bytes that no step has announced yet
+    StreamReader m_steps;
+    StreamReader m_same;
+    StreamReader m_changed;
+    StreamReader m_difference;
+    StreamReader m_extra;
     ByteSink const& m_sink;
     std::size_t m_position = 0; ///< in the old file; never past its end
+    std::uint64_t m_sameLeft = 0;
+    std::uint64_t m_changedLeft = 0;
+    bool m_isChangedNext = false;
     std::array<std::uint8_t, PIECE_BYTES> m_piece;
+    std::size_t m_filled = 0;
 };
 
 } // namespace
 
-PatchVerdict ApplyBinaryPatch(Bytes oldBytes, std::uint64_t controlSize, ByteSource const& control,
-                              ByteSource const& difference, ByteSource const& extra, std::uint64_t newSize,
-                              ByteSink const& sink)
+PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)
 {
-    if (controlSize % STEP_BYTES != 0)
-    {
-        return PatchVerdict::WrongSize;
-    }
-    PatchApplier applier(oldBytes, newSize, difference, extra, sink);
-    for (std::uint64_t read = 0; read < controlSize; read += STEP_BYTES)
-    {
-        std::array<std::uint8_t, STEP_BYTES> bytes;
-        if (!control(bytes.data(), bytes.size()))
-        {
-            return PatchVerdict::SourceEnded;
-        }
-        Step const step{ReadNumber(&bytes[0]), ReadNumber(&bytes[8]),
-                        static_cast<std::int64_t>(ReadNumber(&bytes[16]))};
-        if (PatchVerdict const verdict = applier.Apply(step); verdict != PatchVerdict::Applied)
-        {
-            return verdict;
-        }
-    }
-    return applier.MissingBytes() == 0 ? PatchVerdict::Applied : PatchVerdict::WrongSize;
+    return PatchApplier(oldBytes, sources, newSize, sink).Apply();
 }
 
 } // namespace Pelnar::Engine

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -19,14 +20,107 @@ struct Match
     std::int64_t length = 0;
 };
 
-void AppendNumber(ByteBuffer& stream, std::int64_t number)
+void AppendNumber(ByteBuffer& stream, std::uint64_t number)
 {
-    auto const bits = static_cast<std::uint64_t>(number);
-    for (int shift = 0; shift < 64; shift += 8)
+    for (; number >= 0x80; number >>= 7)
     {
-        stream.push_back(static_cast<std::uint8_t>(bits >> shift));
+        stream.push_back(static_cast<std::uint8_t>(number | 0x80));
     }
+    stream.push_back(static_cast<std::uint8_t>(number));
 }
+
+std::uint64_t WithSignAsLowestBit(std::int64_t number)
+{
+    return number < 0 ? static_cast<std::uint64_t>(-number) * 2 - 1 : static_cast<std::uint64_t>(number) * 2;
+}
+
+/// The streams of a patch as its steps come.
+class PatchWriter
+{
+public:
+    void AddLike(std::uint8_t oldByte, std::uint8_t newByte)
+    {
+        ++m_like;
+        bool const isSame = oldByte == newByte;
+        if (isSame && m_changedRun > 0)
+        {
+            EndChangedRun();
+        }
+        if (isSame)
+        {
+            ++m_sameRun;
+            return;
+        }
+        if (m_changedRun == 0)
+        {
+            AppendNumber(m_patch[PatchStream::Same], m_sameRun);
+            m_sameRun = 0;
+        }
+        ++m_changedRun;
+        m_patch[PatchStream::Difference].push_back(static_cast<std::uint8_t>(newByte - oldByte));
+    }
+
+    void AddExtra(Bytes bytes)
+    {
+        m_extra += bytes.size();
+        ByteBuffer& stream = m_patch[PatchStream::Extra];
+        stream.insert(stream.end(), bytes.begin(), bytes.end());
+    }
+
+    /// Goes on elsewhere in the old file. A step that made nothing becomes part of the one before it.
+    void Move(std::int64_t distance)
+    {
+        if (m_like > 0 || m_extra > 0)
+        {
+            EndStep();
+            m_isOpen = true;
+            m_openLike = std::exchange(m_like, 0);
+            m_openExtra = std::exchange(m_extra, 0);
+        }
+        m_isOpen = true;
+        m_move += distance;
+    }
+
+    BinaryPatch Finish()
+    {
+        m_move = 0;
+        EndStep();
+        if (m_changedRun > 0)
+        {
+            EndChangedRun();
+        }
+        if (m_sameRun > 0)
+        {
+            AppendNumber(m_patch[PatchStream::Same], m_sameRun);
+        }
+        return std::move(m_patch);
+    }
+
+private:
+    void EndChangedRun() { AppendNumber(m_patch[PatchStream::Changed], std::exchange(m_changedRun, 0)); }
+
+    /// Writes the step whose move has been waited for.
+    void EndStep()
+    {
+        if (m_isOpen)
+        {
+            AppendNumber(m_patch[PatchStream::Steps], m_openLike);
+            AppendNumber(m_patch[PatchStream::Steps], m_openExtra);
+            AppendNumber(m_patch[PatchStream::Steps], WithSignAsLowestBit(m_move));
+            m_move = 0;
+        }
+    }
+
+    BinaryPatch m_patch;
+    std::uint64_t m_sameRun = 0;
+    std::uint64_t m_changedRun = 0;
+    std::uint64_t m_like = 0; ///< of the step that is being made
+    std::uint64_t m_extra = 0;
+    bool m_isOpen = false; ///< there is a step, or a first move, whose whole move is not known yet
+    std::uint64_t m_openLike = 0;
+    std::uint64_t m_openExtra = 0;
+    std::int64_t m_move = 0;
+};
 
 /// All suffixes of a text in order, for finding the longest piece of it that another text begins with.
 class SuffixIndex
@@ -106,7 +200,7 @@ public:
                 EmitStep();
             }
         }
-        return std::move(m_patch);
+        return m_writer.Finish();
     }
 
 private:
@@ -215,15 +309,14 @@ private:
         std::int64_t const extraEnd = m_scan - backward;
         for (std::int64_t i = 0; i < forward; ++i)
         {
-            m_patch.difference.push_back(static_cast<std::uint8_t>(
-                m_new[static_cast<std::size_t>(m_lastScan + i)] - m_old[static_cast<std::size_t>(m_lastPosition + i)]));
+            m_writer.AddLike(m_old[static_cast<std::size_t>(m_lastPosition + i)],
+                             m_new[static_cast<std::size_t>(m_lastScan + i)]);
         }
-        m_patch.extra.insert(m_patch.extra.end(), m_new.begin() + extraBegin, m_new.begin() + extraEnd);
+        m_writer.AddExtra(
+            m_new.substr(static_cast<std::size_t>(extraBegin), static_cast<std::size_t>(extraEnd - extraBegin)));
 
         std::int64_t const nextPosition = m_match.position - backward;
-        AppendNumber(m_patch.control, forward);
-        AppendNumber(m_patch.control, extraEnd - extraBegin);
-        AppendNumber(m_patch.control, m_scan == m_newSize ? 0 : nextPosition - (m_lastPosition + forward));
+        m_writer.Move(nextPosition - (m_lastPosition + forward));
 
         m_lastScan = extraEnd;
         m_lastPosition = nextPosition;
@@ -241,7 +334,7 @@ private:
     std::int64_t m_lastScan = 0;
     std::int64_t m_lastPosition = 0;
     std::int64_t m_offset = 0; ///< of the current alignment: old position less new position
-    BinaryPatch m_patch;
+    PatchWriter m_writer;
 };
 
 } // namespace

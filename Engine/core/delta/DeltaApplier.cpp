@@ -1,7 +1,7 @@
 #include "Engine/core/delta/DeltaApplier.h"
 
 #include "Engine/core/delta/BinaryPatch.h"
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/delta/TreeAccess.h"
 
 #include <fcntl.h>
@@ -14,6 +14,7 @@
 #include <array>
 #include <cerrno>
 #include <numeric>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -94,7 +95,7 @@ private:
         }
         // A clone shares the blocks and costs no copy; file systems without it answer at once.
         bool const isCloned = ioctl(target.Get(), FICLONE, source.Get()) == 0;
-        Sha256Hasher hasher;
+        ContentHasher hasher;
         if (DeltaOutcome const outcome =
                 isCloned ? Hash(target.Get(), hasher) : Copy(source.Get(), target.Get(), hasher);
             !outcome.HasSucceeded())
@@ -104,7 +105,7 @@ private:
         return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
     }
 
-    DeltaOutcome Hash(int fd, Sha256Hasher& hasher)
+    DeltaOutcome Hash(int fd, ContentHasher& hasher)
     {
         for (std::uint64_t offset = 0;;)
         {
@@ -122,7 +123,7 @@ private:
         }
     }
 
-    DeltaOutcome Copy(int source, int target, Sha256Hasher& hasher)
+    DeltaOutcome Copy(int source, int target, ContentHasher& hasher)
     {
         for (;;)
         {
@@ -157,49 +158,64 @@ private:
         {
             return {DeltaError::CannotRead, {}, errno};
         }
-        if (HashOf(old.Content()) != entry.sourceHash)
-        {
-            return {DeltaError::BaseDiffers, {}, 0};
-        }
         UniqueFd const target = m_staging.MakeFile(entry.path, entry.isExecutable);
         if (!target)
         {
             return WriteFailure();
         }
-        std::uint64_t const differenceOffset = m_dataOffset + entry.controlStored;
-        std::uint64_t const extraOffset = differenceOffset + entry.differenceStored;
-        DeltaStream control(m_containerFd, m_dataOffset, entry.controlStored);
-        DeltaStream difference(m_containerFd, differenceOffset, entry.differenceStored);
-        DeltaStream extra(m_containerFd, extraOffset, entry.extraStored);
-        Sha256Hasher hasher;
+        std::vector<DeltaStream> streams;
+        PatchSources sources;
+        std::uint64_t offset = m_dataOffset;
+        for (std::uint64_t const stored : entry.streamsStored)
+        {
+            streams.emplace_back(m_containerFd, offset, stored);
+            offset += stored;
+        }
+        std::transform(streams.begin(), streams.end(), sources.begin(),
+                       [](DeltaStream& stream)
+                       { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
+        ContentHasher hasher;
         errno = 0;
-        PatchVerdict const verdict = ApplyBinaryPatch(
-            old.Content(), entry.controlSize, [&control](auto* to, auto size) { return control.Read(to, size); },
-            [&difference](auto* to, auto size) { return difference.Read(to, size); },
-            [&extra](auto* to, auto size) { return extra.Read(to, size); }, entry.size,
-            [&hasher, &target](Bytes bytes)
-            {
-                hasher.Add(bytes);
-                return WriteAll(target.Get(), bytes);
-            });
+        PatchVerdict const verdict = ApplyBinaryPatch(old.Content(), sources, entry.size,
+                                                      [&hasher, &target](Bytes bytes)
+                                                      {
+                                                          hasher.Add(bytes);
+                                                          return WriteAll(target.Get(), bytes);
+                                                      });
+        DeltaOutcome outcome = OutcomeOf(verdict);
+        if (outcome.HasSucceeded() &&
+            !std::all_of(streams.begin(), streams.end(), [](auto& each) { return each.IsAtEnd(); }))
+        {
+            outcome.error = DeltaError::Damaged;
+        }
+        else if (outcome.HasSucceeded() && hasher.Finish() != entry.hash)
+        {
+            outcome.error = DeltaError::ResultDiffers;
+        }
+        // Whatever the old file is, a patch reads and writes in bounds, and what comes out must have the new one's
+        // hash. The old one's only tells why it has not.
+        bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
+        return mayBeTheBase && HashOf(old.Content()) != entry.sourceHash ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
+                                                                         : outcome;
+    }
+
+    static DeltaOutcome OutcomeOf(PatchVerdict verdict)
+    {
         switch (verdict)
         {
         case PatchVerdict::Applied:
-            break;
+            return {};
         case PatchVerdict::SinkRefused:
             return WriteFailure();
         case PatchVerdict::SourceEnded:
             return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0}
                               : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+        case PatchVerdict::BadNumber:
         case PatchVerdict::OutOfRange:
         case PatchVerdict::WrongSize:
-            return {DeltaError::Damaged, {}, 0};
+            break;
         }
-        if (!control.IsAtEnd() || !difference.IsAtEnd() || !extra.IsAtEnd())
-        {
-            return {DeltaError::Damaged, {}, 0};
-        }
-        return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::ResultDiffers, {}, 0};
+        return {DeltaError::Damaged, {}, 0};
     }
 
     DeltaOutcome TakeWhole(DeltaEntry const& entry)
@@ -210,12 +226,12 @@ private:
             return WriteFailure();
         }
         DeltaStream whole(m_containerFd, m_dataOffset, entry.wholeStored);
-        Sha256Hasher hasher;
+        ContentHasher hasher;
         errno = 0;
         for (std::uint64_t missing = entry.size; missing > 0;)
         {
             auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(missing, m_piece.size()));
-            if (!whole.Read(m_piece.data(), piece))
+            if (whole.Read(m_piece.data(), piece) != piece)
             {
                 return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0}
                                   : DeltaOutcome{DeltaError::CannotRead, {}, errno};

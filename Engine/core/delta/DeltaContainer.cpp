@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr std::array<std::uint8_t, 8> MAGIC{'P', 'E', 'L', 'D', 'E', 'L', 'T', 'A'};
-constexpr std::uint64_t FORMAT_VERSION = 1;
+constexpr std::uint64_t FORMAT_VERSION = 2;
 constexpr int COMPRESSION_LEVEL = 19;
 
 void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
@@ -94,7 +94,7 @@ DeltaError ToDeltaError(DeltaManifestError error)
 struct DeltaStream::State
 {
     State(int containerFd, std::uint64_t begin, std::uint64_t size)
-        : fd(containerFd), offset(begin), missing(size), context(ZSTD_createDCtx())
+        : fd(containerFd), offset(begin), missing(size), context(ZSTD_createDCtx()), isFrameDone(size == 0)
     {
         if (!context)
         {
@@ -129,7 +129,7 @@ struct DeltaStream::State
     ZSTD_DCtx* context;
     std::array<std::uint8_t, 64 * 1024> buffer;
     ZSTD_inBuffer input{nullptr, 0, 0};
-    bool isFrameDone = false;
+    bool isFrameDone;
 };
 
 DeltaStream::DeltaStream(int containerFd, std::uint64_t offset, std::uint64_t size)
@@ -140,35 +140,35 @@ DeltaStream::DeltaStream(int containerFd, std::uint64_t offset, std::uint64_t si
 DeltaStream::~DeltaStream() = default;
 DeltaStream::DeltaStream(DeltaStream&&) noexcept = default;
 
-bool DeltaStream::Read(std::uint8_t* target, std::size_t size)
+std::size_t DeltaStream::Read(std::uint8_t* target, std::size_t size)
 {
     ZSTD_outBuffer output{target, size, 0};
     while (output.pos < output.size)
     {
         if (m_state->isFrameDone)
         {
-            return false;
+            break;
         }
         std::size_t const before = output.pos;
         std::size_t const answer = ZSTD_decompressStream(m_state->context, &output, &m_state->input);
         if (ZSTD_isError(answer))
         {
-            return false;
+            break;
         }
         m_state->isFrameDone = answer == 0;
         if (output.pos == before && !m_state->isFrameDone && !m_state->Refill())
         {
-            return false;
+            break;
         }
     }
-    return true;
+    return output.pos;
 }
 
 bool DeltaStream::IsAtEnd()
 {
     // The end of the frame may stand in bytes that no output needed: ask for one byte that must not come.
     std::uint8_t byte = 0;
-    if (!m_state->isFrameDone && Read(&byte, 1))
+    if (!m_state->isFrameDone && Read(&byte, 1) > 0)
     {
         return false;
     }
@@ -178,7 +178,11 @@ bool DeltaStream::IsAtEnd()
 ByteBuffer CompressForDelta(Bytes bytes)
 {
     std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> const context(ZSTD_createCCtx(), ZSTD_freeCCtx);
-    ByteBuffer stored(ZSTD_compressBound(bytes.size()));
+    ByteBuffer stored(bytes.empty() ? 0 : ZSTD_compressBound(bytes.size()));
+    if (stored.empty())
+    {
+        return stored;
+    }
     if (!context)
     {
         throw std::bad_alloc();
@@ -238,7 +242,7 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     ByteBuffer plain(static_cast<std::size_t>(manifestBytes));
     DeltaStream stream(containerFd, DELTA_HEADER_BYTES, storedBytes);
     errno = 0;
-    if (!stream.Read(plain.data(), plain.size()) || !stream.IsAtEnd())
+    if (stream.Read(plain.data(), plain.size()) != plain.size() || !stream.IsAtEnd())
     {
         return ReadFailure();
     }

@@ -45,7 +45,7 @@ constexpr int DELTA_WINDOW_LOG = 27;
 /// The header and the compressed manifest that open a container.
 [[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
 
-/// One compressed stream of a container, decompressed piece by piece.
+/// One compressed stream of a container, decompressed piece by piece. One of no bytes is an empty stream.
 class DeltaStream
 {
 public:
@@ -54,8 +54,9 @@ public:
     ~DeltaStream();
     DeltaStream(DeltaStream&&) noexcept;
 
-    /// The next \a size bytes; false when the stream ends early, is damaged or cannot be read.
-    [[nodiscard]] bool Read(std::uint8_t* target, std::size_t size);
+    /// The next \a size bytes; answers how many there are, fewer only when the stream ends, is damaged or cannot be
+    /// read.
+    [[nodiscard]] std::size_t Read(std::uint8_t* target, std::size_t size);
     /// True when every byte has been read and the stream ends there.
     [[nodiscard]] bool IsAtEnd();
 
@@ -64,7 +65,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-/// zstd's answer at the level that containers are made with.
+/// zstd's answer at the level that containers are made with; nothing for nothing.
 [[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes);
 
 } // namespace Pelnar::Engine

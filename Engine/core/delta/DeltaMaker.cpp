@@ -1,6 +1,6 @@
 #include "Engine/core/delta/DeltaMaker.h"
 
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/delta/TreeAccess.h"
 
 #include <fcntl.h>
@@ -46,7 +46,7 @@ private:
 struct OldFile
 {
     std::uint64_t size;
-    Sha256 hash;
+    ContentHash hash;
 };
 
 class Maker
@@ -72,7 +72,7 @@ public:
             {
                 return Fail(path);
             }
-            Sha256 const hash = HashOf(opened.Content());
+            ContentHash const hash = HashOf(opened.Content());
             m_oldFiles.emplace(path, OldFile{opened.Content().size(), hash});
             m_oldPathsByHash.emplace(hash, path);
         }
@@ -188,12 +188,18 @@ private:
         {
             return false;
         }
-        ByteBuffer const control = CompressForDelta(Bytes(patch->control.data(), patch->control.size()));
-        ByteBuffer const difference = CompressForDelta(Bytes(patch->difference.data(), patch->difference.size()));
-        ByteBuffer const extra = CompressForDelta(Bytes(patch->extra.data(), patch->extra.size()));
-        m_whole = CompressForDelta(content);
-        if (control.size() + difference.size() + extra.size() >= m_whole.size())
+        ByteBuffer stored;
+        for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
         {
+            ByteBuffer const& plain = patch->streams[i];
+            ByteBuffer const stream = CompressForDelta(Bytes(plain.data(), plain.size()));
+            entry.streamsStored[i] = stream.size();
+            stored.insert(stored.end(), stream.begin(), stream.end());
+        }
+        m_whole = CompressForDelta(content);
+        if (stored.size() >= m_whole.size())
+        {
+            entry.streamsStored = {};
             return false;
         }
         m_whole.clear();
@@ -201,14 +207,7 @@ private:
         entry.sourcePath = entry.path;
         entry.sourceSize = source->second.size;
         entry.sourceHash = source->second.hash;
-        entry.controlSize = patch->control.size();
-        entry.controlStored = control.size();
-        entry.differenceStored = difference.size();
-        entry.extraStored = extra.size();
-        for (ByteBuffer const* const stream : {&control, &difference, &extra})
-        {
-            data.insert(data.end(), stream->begin(), stream->end());
-        }
+        data.insert(data.end(), stored.begin(), stored.end());
         ++m_report.patchedFiles;
         return true;
     }
@@ -230,8 +229,8 @@ private:
     fs::path m_newBundle;
     DeltaReport& m_report;
     std::map<std::string, OldFile> m_oldFiles;
-    std::map<Sha256, std::string> m_oldPathsByHash; ///< the first path of each content
-    ByteBuffer m_whole;                             ///< of the file at hand, once it has been compressed whole
+    std::map<ContentHash, std::string> m_oldPathsByHash; ///< the first path of each content
+    ByteBuffer m_whole;                                  ///< of the file at hand, once it has been compressed whole
 };
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/DeltaManifest.h"
 
 #include <algorithm>
+#include <numeric>
 #include <set>
 #include <string_view>
 
@@ -29,7 +30,7 @@ void AppendText(ByteBuffer& bytes, std::string const& text)
     bytes.insert(bytes.end(), text.begin(), text.end());
 }
 
-void AppendHash(ByteBuffer& bytes, Sha256 const& hash)
+void AppendHash(ByteBuffer& bytes, ContentHash const& hash)
 {
     bytes.insert(bytes.end(), hash.begin(), hash.end());
 }
@@ -63,10 +64,10 @@ void AppendEntry(ByteBuffer& bytes, DeltaEntry const& entry)
     {
         AppendNumber(bytes, entry.sourceSize);
         AppendHash(bytes, entry.sourceHash);
-        AppendNumber(bytes, entry.controlSize);
-        AppendNumber(bytes, entry.controlStored);
-        AppendNumber(bytes, entry.differenceStored);
-        AppendNumber(bytes, entry.extraStored);
+        for (std::uint64_t const stored : entry.streamsStored)
+        {
+            AppendNumber(bytes, stored);
+        }
     }
 }
 
@@ -135,9 +136,9 @@ public:
         return text;
     }
 
-    Sha256 Hash()
+    ContentHash Hash()
     {
-        Sha256 hash{};
+        ContentHash hash{};
         if (m_rest.size() < hash.size())
         {
             return Fail(DeltaManifestError::Truncated), hash;
@@ -191,10 +192,10 @@ public:
         }
         entry.sourceSize = Number();
         entry.sourceHash = Hash();
-        entry.controlSize = Number();
-        entry.controlStored = Number();
-        entry.differenceStored = Number();
-        entry.extraStored = Number();
+        for (std::uint64_t& stored : entry.streamsStored)
+        {
+            stored = Number();
+        }
         return entry;
     }
 
@@ -299,14 +300,12 @@ DeltaManifestError CheckEntry(DeltaEntry const& entry, DeltaLimits const& limits
     case DeltaEntryKind::Whole:
         break;
     }
-    for (std::uint64_t const size : {entry.size, entry.sourceSize, entry.controlSize, entry.controlStored,
-                                     entry.differenceStored, entry.extraStored, entry.wholeStored})
+    auto const isTooLarge = [&limits](std::uint64_t size) { return size > limits.maxTotalBytes; };
+    // The last six are added up later: none may come near the end of its type.
+    if (isTooLarge(entry.size) || isTooLarge(entry.sourceSize) || isTooLarge(entry.wholeStored) ||
+        std::any_of(entry.streamsStored.begin(), entry.streamsStored.end(), isTooLarge))
     {
-        // Four of these are added up later: none may come near the end of its type.
-        if (size > limits.maxTotalBytes)
-        {
-            return DeltaManifestError::TooManyBytes;
-        }
+        return DeltaManifestError::TooManyBytes;
     }
     return DeltaManifestError::None;
 }
@@ -323,9 +322,12 @@ bool operator==(DeltaEntry const& a, DeltaEntry const& b)
 {
     return a.path == b.path && a.kind == b.kind && a.linkTarget == b.linkTarget && a.isExecutable == b.isExecutable &&
            a.size == b.size && a.hash == b.hash && a.sourcePath == b.sourcePath && a.sourceSize == b.sourceSize &&
-           a.sourceHash == b.sourceHash && a.controlStored == b.controlStored &&
-           a.differenceStored == b.differenceStored && a.extraStored == b.extraStored &&
-           a.controlSize == b.controlSize && a.wholeStored == b.wholeStored;
+           a.sourceHash == b.sourceHash && a.streamsStored == b.streamsStored && a.wholeStored == b.wholeStored;
+}
+
+std::uint64_t DeltaEntry::StoredBytes() const
+{
+    return std::accumulate(streamsStored.begin(), streamsStored.end(), wholeStored);
 }
 
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest)

@@ -12,7 +12,7 @@
 namespace Pelnar::Engine
 {
 
-using Sha256 = std::array<std::uint8_t, 32>;
+using ContentHash = std::array<std::uint8_t, 32>;
 
 enum class DeltaEntryKind : std::uint8_t
 {
@@ -32,24 +32,21 @@ struct DeltaEntry
     // Kept, Patched and Whole: the file in the new version.
     bool isExecutable = false;
     std::uint64_t size = 0;
-    Sha256 hash{};
+    ContentHash hash{};
 
     // Kept and Patched: the file of the old version. A kept file has the new one's size and hash.
     std::string sourcePath;
     std::uint64_t sourceSize = 0;
-    Sha256 sourceHash{};
+    ContentHash sourceHash{};
 
-    // Patched: bytes that each stream takes in the container, and of the control stream once decompressed.
-    std::uint64_t controlStored = 0;
-    std::uint64_t differenceStored = 0;
-    std::uint64_t extraStored = 0;
-    std::uint64_t controlSize = 0;
+    // Patched: bytes that each stream takes in the container.
+    std::array<std::uint64_t, PATCH_STREAMS> streamsStored{};
 
     // Whole: bytes that the file takes in the container.
     std::uint64_t wholeStored = 0;
 
     /// Bytes that the entry takes of the container's data.
-    std::uint64_t StoredBytes() const { return controlStored + differenceStored + extraStored + wholeStored; }
+    std::uint64_t StoredBytes() const;
 };
 
 bool operator==(DeltaEntry const& a, DeltaEntry const& b);

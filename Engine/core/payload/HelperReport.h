@@ -49,7 +49,7 @@ struct ProgressReport
 };
 struct PreparedReport
 {
-    Sha256 digest;
+    ContentHash digest;
     std::string stagedName;
 };
 struct InstalledReport

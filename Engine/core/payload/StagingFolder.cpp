@@ -1,6 +1,6 @@
 #include "Engine/core/payload/StagingFolder.h"
 
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/payload/UpdateFault.h"
 
 #include <cerrno>
@@ -38,7 +38,7 @@ std::string Hexadecimal(Bytes bytes)
 
 std::string NameFor(std::string_view targetName)
 {
-    Sha256 const hash = HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()));
+    ContentHash const hash = HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()));
     return ".pelnar-" + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
 }
 

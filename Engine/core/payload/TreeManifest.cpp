@@ -58,14 +58,14 @@ bool ListFolder(UniqueFd const& folder, std::vector<std::string>& names)
     }
 }
 
-Sha256 HashFile(int parentFd, std::string const& name, std::uint64_t& size)
+ContentHash HashFile(int parentFd, std::string const& name, std::uint64_t& size)
 {
     UniqueFd const file(::openat(parentFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (!file)
     {
         ThrowErrno(errno);
     }
-    Sha256Hasher hasher;
+    ContentHasher hasher;
     std::vector<std::uint8_t> buffer(READ_BYTES);
     size = 0;
     for (;;)
@@ -100,7 +100,7 @@ std::string ReadLink(int parentFd, std::string const& name)
     return target;
 }
 
-void AddText(Sha256Hasher& hasher, std::string const& text)
+void AddText(ContentHasher& hasher, std::string const& text)
 {
     hasher.Add(Bytes(reinterpret_cast<std::uint8_t const*>(text.data()), text.size()));
 }
@@ -112,7 +112,7 @@ void TreeManifest::AddFolder(std::string path, std::uint32_t mode)
     m_entries.push_back({'d', std::move(path), mode, 0, {}, {}});
 }
 
-void TreeManifest::AddFile(std::string path, std::uint32_t mode, std::uint64_t size, Sha256 const& content)
+void TreeManifest::AddFile(std::string path, std::uint32_t mode, std::uint64_t size, ContentHash const& content)
 {
     m_entries.push_back({'f', std::move(path), mode, size, content, {}});
 }
@@ -122,7 +122,7 @@ void TreeManifest::AddLink(std::string path, std::string target)
     m_entries.push_back({'l', std::move(path), 0, 0, {}, std::move(target)});
 }
 
-Sha256 TreeManifest::Digest() const
+ContentHash TreeManifest::Digest() const
 {
     std::vector<Entry const*> entries;
     for (Entry const& entry : m_entries)
@@ -130,7 +130,7 @@ Sha256 TreeManifest::Digest() const
         entries.push_back(&entry);
     }
     std::sort(entries.begin(), entries.end(), [](Entry const* a, Entry const* b) { return a->path < b->path; });
-    Sha256Hasher hasher;
+    ContentHasher hasher;
     for (Entry const* const entry : entries)
     {
         // Neither a path nor a link's target holds a NUL, so that no two lists of entries give the same bytes.
@@ -176,7 +176,7 @@ bool WalkTree(int folderFd, TreeVisit const& visit)
     return true;
 }
 
-Sha256 DigestTree(int folderFd)
+ContentHash DigestTree(int folderFd)
 {
     TreeManifest manifest;
     uid_t const owner = ::geteuid();
@@ -199,7 +199,7 @@ Sha256 DigestTree(int folderFd)
         else if (S_ISREG(status.st_mode))
         {
             std::uint64_t size = 0;
-            Sha256 const content = HashFile(parentFd, name, size);
+            ContentHash const content = HashFile(parentFd, name, size);
             manifest.AddFile(path, mode, size, content);
         }
         else

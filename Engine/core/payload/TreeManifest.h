@@ -3,7 +3,7 @@
 // The hash covers names, kinds, modes, link targets, sizes and contents: two trees with one hash install the same.
 #pragma once
 
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 
 #include <cstdint>
 #include <functional>
@@ -19,11 +19,11 @@ class TreeManifest
 {
 public:
     void AddFolder(std::string path, std::uint32_t mode);
-    void AddFile(std::string path, std::uint32_t mode, std::uint64_t size, Sha256 const& content);
+    void AddFile(std::string path, std::uint32_t mode, std::uint64_t size, ContentHash const& content);
     void AddLink(std::string path, std::string target);
 
     /// The hash of what was added, in whatever order.
-    [[nodiscard]] Sha256 Digest() const;
+    [[nodiscard]] ContentHash Digest() const;
 
 private:
     struct Entry
@@ -32,7 +32,7 @@ private:
         std::string path;
         std::uint32_t mode;
         std::uint64_t size;
-        Sha256 content;
+        ContentHash content;
         std::string linkTarget;
     };
 
@@ -41,7 +41,7 @@ private:
 
 /// The hash of the tree below \a folderFd, its own folder left out. Throws UpdateRefusal: StagedTreeChanged for what an
 /// update never makes (other kinds of file, another owner), DiskError and its kin for what cannot be read.
-[[nodiscard]] Sha256 DigestTree(int folderFd);
+[[nodiscard]] ContentHash DigestTree(int folderFd);
 
 /// Removes the entry \a name of the folder \a parentFd with all that is in it, and follows no link; what lies on
 /// another file system stays. True when nothing of that name is left.

@@ -56,7 +56,7 @@ struct InstallJob
     std::string targetName;                      ///< of the installed bundle's folder
     std::string stagingName;                     ///< of the staging folder, beside it
     std::string stagedName;                      ///< of the new bundle's folder, in the staging folder
-    Sha256 digest{};                             ///< of the new bundle's tree
+    ContentHash digest{};                        ///< of the new bundle's tree
     std::string bundleIdentifier;
     std::string expectedVersion;
     std::string installedVersion;

@@ -101,7 +101,7 @@ public:
         throw UpdateRefusal(UpdateFault::EntryTypeRefused);
     }
 
-    Sha256 Digest() const { return m_manifest.Digest(); }
+    ContentHash Digest() const { return m_manifest.Digest(); }
 
 private:
     /// The path below the bundle's folder.
@@ -137,7 +137,7 @@ private:
         {
             ThrowErrno(errno);
         }
-        Sha256Hasher hasher;
+        ContentHasher hasher;
         archive.ReadContents(entry.size,
                              [&](Bytes piece)
                              {

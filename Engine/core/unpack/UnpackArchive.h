@@ -15,8 +15,8 @@ namespace Pelnar::Engine
 
 struct UnpackedBundle
 {
-    std::string name; ///< of its folder in the staging folder
-    Sha256 digest;    ///< of the tree as it was written
+    std::string name;   ///< of its folder in the staging folder
+    ContentHash digest; ///< of the tree as it was written
 };
 
 /// Told after each piece: bytes written so far, and in all.

@@ -1,6 +1,6 @@
 #include "Engine/core/update/HelperLaunch_p.h"
 
-#include "Engine/core/delta/Sha256Hasher.h"
+#include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/payload/UpdateJob.h"
 
@@ -71,9 +71,9 @@ void ReadWhole(int fd, Sink const& sink)
     }
 }
 
-Sha256 HashOfFile(int fd)
+ContentHash HashOfFile(int fd)
 {
-    Sha256Hasher hasher;
+    ContentHasher hasher;
     ReadWhole(fd, [&hasher](Bytes bytes) { hasher.Add(bytes); });
     return hasher.Finish();
 }

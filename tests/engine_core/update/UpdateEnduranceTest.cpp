@@ -97,7 +97,7 @@ TEST_F(UpdateEndurance, HundredVersionsInstalledAndTakenBackLeaveNothingBehind)
     {
         InstallAndTakeBack();
     }
-    Sha256 const tree = TreeOf(scene.Place().Path() + '/' + APP);
+    ContentHash const tree = TreeOf(scene.Place().Path() + '/' + APP);
     std::vector<std::string> const names = scene.Place().Names();
     EXPECT_EQ(names.size(), 2u) << "the bundle, and the note of the version that failed";
     ProcessFootprint const before = MeasureFootprint();

@@ -114,20 +114,20 @@ std::size_t OffsetOfPatch(DeltaManifest& manifest)
 /// A patch of one step.
 void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
 {
-    ByteBuffer control;
-    for (std::uint64_t const number : numbers)
+    ByteBuffer steps;
+    for (std::uint64_t number : numbers)
     {
-        for (int i = 0; i < 8; ++i)
+        for (; number >= 0x80; number >>= 7)
         {
-            control.push_back(static_cast<std::uint8_t>(number >> (8 * i)));
+            steps.push_back(static_cast<std::uint8_t>(number | 0x80));
         }
+        steps.push_back(static_cast<std::uint8_t>(number));
     }
-    ByteBuffer const stored = CompressForDelta(Bytes(control.data(), control.size()));
+    ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()));
     std::size_t const offset = OffsetOfPatch(manifest);
     DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
-    data.replace(offset, entry.controlStored, TextOf(stored));
-    entry.controlStored = stored.size();
-    entry.controlSize = control.size();
+    data.replace(offset, entry.streamsStored[0], TextOf(stored));
+    entry.streamsStored[0] = stored.size();
 }
 
 std::string AppIn(UpdateScene const& scene)
@@ -171,7 +171,7 @@ TEST(Delta, RightOneIsPreparedAndInstalled)
     ASSERT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
     Workspace const fresh;
     fresh.Put(BundleWithBlob("2.0"));
-    Sha256 const expected = TreeOf(fresh.Path() + '/' + APP);
+    ContentHash const expected = TreeOf(fresh.Path() + '/' + APP);
     EXPECT_TRUE(prepared.Find<PreparedReport>()->digest == expected);
     InstallJob const job = scene.MakeInstallJob(expected);
     scene.Host().End();

@@ -73,9 +73,9 @@ protected:
     }
 
     /// The tree of the bundle on the disk as it is when the helper says that the new version is installed.
-    Sha256 TreeWhenToldInstalled(bool areSyncsDone)
+    ContentHash TreeWhenToldInstalled(bool areSyncsDone)
     {
-        Sha256 tree{};
+        ContentHash tree{};
         m_areSyncsDone = areSyncsDone;
         m_onInstalled = [&](std::string const& placeBelow)
         {
@@ -176,7 +176,7 @@ private:
 
     std::string ExpectOneOfTheVersions(std::string const& place)
     {
-        Sha256 const tree = TreeOf(place + '/' + APP);
+        ContentHash const tree = TreeOf(place + '/' + APP);
         EXPECT_TRUE(tree == versions.next || (tree == versions.previous && !m_isNewCertain));
         std::string const version = tree == versions.next ? "2.0" : "1.0";
         EXPECT_EQ(m_files.StartedVersion(place.substr(m_files.Path().size() + 1) + '/' + APP), version);

@@ -78,7 +78,8 @@ class Printer : public Pelnar::App::IUpdateManagerObserver
 public:
     void OnUpdateFound(Version const& current, Version const& remote) override
     {
-        auto const text = [](Version const& version) {
+        auto const text = [](Version const& version)
+        {
             return Pelnar::Util::VersionToString(version, Pelnar::Util::VersionToStringDetail::PresentComponents,
                                                  QStringLiteral("."));
         };
@@ -102,12 +103,14 @@ int main(int argc, char** argv)
     Pelnar::App::UpdateManager::CheckForUpdates(initializer);
 
     QTimer ended;
-    QObject::connect(&ended, &QTimer::timeout, &host, [&host] {
-        if (!Pelnar::App::UpdateManager::GetCurrentUpdateManager())
-        {
-            host.quit();
-        }
-    });
+    QObject::connect(&ended, &QTimer::timeout, &host,
+                     [&host]
+                     {
+                         if (!Pelnar::App::UpdateManager::GetCurrentUpdateManager())
+                         {
+                             host.quit();
+                         }
+                     });
     ended.start(10);
     int const status = host.exec();
     return Pelnar::UnchangedFeedDays() >= 0 ? status : EXIT_FAILURE;

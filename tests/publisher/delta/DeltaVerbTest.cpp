@@ -68,7 +68,7 @@ protected:
         EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name;
         return file.readAll().toStdString();
     }
-    Engine::Sha256 TreeOf(std::string const& name) const
+    Engine::ContentHash TreeOf(std::string const& name) const
     {
         Engine::UniqueFd const folder(::open(PathOf(name).toStdString().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         return Engine::DigestTree(folder.Get());

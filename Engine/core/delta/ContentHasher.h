@@ -1,4 +1,5 @@
-// Sha256Hasher.h: the hash of bytes that come in pieces.
+// ContentHasher.h: the hash of bytes that come in pieces: BLAKE2b with 32 bytes of output, which is fast on processors
+// without instructions for hashes, too.
 // Thread: one at a time. Ownership: its own state.
 #pragma once
 
@@ -9,22 +10,22 @@
 namespace Pelnar::Engine
 {
 
-class Sha256Hasher
+class ContentHasher
 {
 public:
     /// Throws std::bad_alloc when the library cannot make a state.
-    Sha256Hasher();
-    ~Sha256Hasher();
+    ContentHasher();
+    ~ContentHasher();
 
     void Add(Bytes bytes);
     /// The hash of everything added; call it once, last.
-    [[nodiscard]] Sha256 Finish();
+    [[nodiscard]] ContentHash Finish();
 
 private:
     struct State;
     std::unique_ptr<State> m_state;
 };
 
-[[nodiscard]] Sha256 HashOf(Bytes bytes);
+[[nodiscard]] ContentHash HashOf(Bytes bytes);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,6 @@
-// DeltaBench.cpp: a delta applied, beside bspatch with patches of the same files one by one. The sizes of both are
-// printed and not held to a limit: how the edits of a made-up version compress says little of real ones.
+// DeltaBench.cpp: a delta applied, beside bspatch with patches of the same files one by one, and the sizes of both. The
+// versions are the two folders that PELNAR_BENCH_VERSIONS names ("OLD:NEW"; the script debian-versions makes such), or
+// this process' libraries and a made-up next version of them.
 
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
@@ -9,6 +10,7 @@
 
 #include <benchmark/benchmark.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -23,6 +25,7 @@ using namespace Pelnar::Bench;
 using namespace Pelnar::Engine;
 
 constexpr std::uintmax_t LARGEST_LIBRARY = 6u << 20;
+constexpr double MOST_OF_PATCHES = 1.02;
 
 /// The shared libraries of this process, all but the largest.
 std::vector<std::string> Libraries()
@@ -47,6 +50,39 @@ struct Material
 {
     Material()
     {
+        char const* const versions = std::getenv("PELNAR_BENCH_VERSIONS");
+        versions ? TakeFilesOf(versions) : MakeNextVersion();
+        for (std::string const& name : names)
+        {
+            arePatchesMade = Run({"bsdiff", old + '/' + name, next + '/' + name, patches + name}) && arePatchesMade;
+            patchBytes += std::filesystem::exists(patches + name) ? std::filesystem::file_size(patches + name) : 0;
+        }
+        UniqueFd const container(::open(delta.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+        report = MakeDelta(old, "1", next, "2", container.Get());
+    }
+
+    /// The files that both versions have and that differ, as they are.
+    void TakeFilesOf(std::string const& versions)
+    {
+        std::size_t const colon = versions.find(':');
+        std::filesystem::path const folder = versions.substr(0, colon);
+        std::filesystem::path const nextFolder = versions.substr(colon + 1);
+        for (auto const& entry : std::filesystem::recursive_directory_iterator(folder))
+        {
+            std::filesystem::path const path = entry.path().lexically_relative(folder);
+            bool const isFile = std::filesystem::is_regular_file(entry.symlink_status()) &&
+                                std::filesystem::is_regular_file(std::filesystem::symlink_status(nextFolder / path));
+            if (isFile && ReadFile(entry.path()) != ReadFile(nextFolder / path))
+            {
+                names.push_back(std::to_string(names.size()) + '-' + path.filename().string());
+                WriteFile(old + '/' + names.back(), ReadFile(entry.path()));
+                WriteFile(next + '/' + names.back(), ReadFile(nextFolder / path));
+            }
+        }
+    }
+
+    void MakeNextVersion()
+    {
         for (std::string const& library : Libraries())
         {
             std::string const name = std::filesystem::path(library).filename();
@@ -54,11 +90,7 @@ struct Material
             WriteFile(old + '/' + name, content);
             WriteFile(next + '/' + name, NextVersionOf(content, static_cast<std::uint32_t>(names.size())));
             names.push_back(name);
-            arePatchesMade = Run({"bsdiff", old + '/' + name, next + '/' + name, patches + name}) && arePatchesMade;
-            patchBytes += std::filesystem::exists(patches + name) ? std::filesystem::file_size(patches + name) : 0;
         }
-        UniqueFd const container(::open(delta.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
-        report = MakeDelta(old, "1", next, "2", container.Get());
     }
 
     std::string const old = FreshPath("old");
@@ -98,6 +130,11 @@ void TimeApplying(benchmark::State& state, ApplyInto const& applyInto)
     if (!material.arePatchesMade || !material.report.outcome.HasSucceeded())
     {
         state.SkipWithError("the delta or a patch cannot be made");
+    }
+    else if (static_cast<double>(material.report.containerBytes) >
+             MOST_OF_PATCHES * static_cast<double>(material.patchBytes))
+    {
+        state.SkipWithError("the delta is larger than 1.02 of the patches");
     }
     for (auto _ : state)
     {

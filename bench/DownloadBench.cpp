@@ -4,6 +4,7 @@
 
 #include "Engine/core/download/ArchiveDownload.h"
 #include "bench/DownloadServer.h"
+#include "bench/ProcessMemory.h"
 #include "bench/Ratios.h"
 
 #include <benchmark/benchmark.h>
@@ -53,27 +54,6 @@ Scene& TheScene()
 {
     static Scene scene;
     return scene;
-}
-
-double MebibytesOf(char const* field)
-{
-    QFile file(QStringLiteral("/proc/self/status"));
-    if (!file.open(QIODevice::ReadOnly))
-    {
-        return 0;
-    }
-    QByteArray const status = file.readAll();
-    int const start = status.indexOf(field);
-    return status.mid(start + static_cast<int>(qstrlen(field)), 20).trimmed().split(' ').front().toDouble() / 1024;
-}
-
-void ForgetPeak()
-{
-    QFile file(QStringLiteral("/proc/self/clear_refs"));
-    if (file.open(QIODevice::WriteOnly))
-    {
-        file.write("5");
-    }
 }
 
 DownloadRequest RequestFor(Transport transport)
@@ -137,14 +117,14 @@ void Download(benchmark::State& state, Transport transport)
     for (auto _ : state)
     {
         (void)_;
-        ForgetPeak();
-        double const before = MebibytesOf("VmRSS:");
+        Pelnar::Bench::ForgetPeak();
+        long const before = Pelnar::Bench::KibibytesOf("VmRSS:");
         StallMeter const meter;
         QElapsedTimer clock;
         clock.start();
         DownloadOutcome const outcome = RunDownload(request);
         state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
-        growth = std::max(growth, MebibytesOf("VmHWM:") - before);
+        growth = std::max(growth, static_cast<double>(Pelnar::Bench::KibibytesOf("VmHWM:") - before) / 1024);
         stall = std::max(stall, meter.LongestMilliseconds());
         ArchiveDownload::Discard(request);
         if (outcome.error)
@@ -155,6 +135,7 @@ void Download(benchmark::State& state, Transport transport)
     }
     state.SetBytesProcessed(state.iterations() * static_cast<qint64>(ARCHIVE_BYTES));
     state.counters["growth_MiB"] = growth;
+    state.counters["limit_MiB"] = MOST_GROWTH_MEBIBYTES;
     state.counters["stall_ms"] = stall;
     if (growth > MOST_GROWTH_MEBIBYTES)
     {

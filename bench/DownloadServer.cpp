@@ -143,7 +143,9 @@ void ServeSecure(SSL_CTX* context, int client, char const* archive, quint64 size
 
 } // namespace
 
-DownloadServer::DownloadServer(quint64 archiveBytes)
+DownloadServer::DownloadServer(quint64 archiveBytes) : DownloadServer(MakeArchiveFile(archiveBytes), archiveBytes) {}
+
+DownloadServer::DownloadServer(int file, quint64 archiveBytes)
 {
     QString const identity = m_folder.filePath(QStringLiteral("server"));
     QProcess openssl;
@@ -155,7 +157,6 @@ DownloadServer::DownloadServer(quint64 archiveBytes)
                    QStringLiteral("subjectAltName=IP:127.0.0.1"), QStringLiteral("-keyout"),
                    identity + QStringLiteral(".key"), QStringLiteral("-out"), AuthorityFile()});
     openssl.waitForFinished();
-    int const file = MakeArchiveFile(archiveBytes);
     for (Transport const transport : {Transport::Plain, Transport::Secure})
     {
         auto const index = static_cast<std::size_t>(transport);

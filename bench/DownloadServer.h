@@ -22,7 +22,10 @@ enum class Transport
 class DownloadServer
 {
 public:
+    /// An archive of that length with bytes that do not repeat soon.
     explicit DownloadServer(quint64 archiveBytes);
+    /// The open \a file of that length, which becomes the server's.
+    DownloadServer(int file, quint64 archiveBytes);
     ~DownloadServer();
     DownloadServer(DownloadServer const&) = delete;
     DownloadServer& operator=(DownloadServer const&) = delete;

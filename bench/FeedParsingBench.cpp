@@ -1,5 +1,5 @@
 // FeedParsingBench.cpp: parsing a feed beside a bare QXmlStreamReader loop that keeps the same fields and checks
-// nothing: no limits, no namespaces by address, no clean-up of texts.
+// nothing: no limits, no namespaces by address, no clean-up of texts. And the feeds that cost most, by the clock.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "bench/Ratios.h"
@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <ctime>
 #include <limits>
 #include <map>
 
@@ -202,6 +203,72 @@ void FeedParsingBare(benchmark::State& state)
 
 BENCHMARK(FeedParsing)->Arg(10)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FeedParsingBare)->Arg(10)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
+
+constexpr int MOST_FEED_BYTES = 4 << 20;
+constexpr double MOST_HOSTILE_SECONDS = 0.2;
+
+/// As much of \a piece as a feed may hold beside what every one has, in items of \a piecesPerItem.
+QByteArray MakeHostileFeed(QByteArray const& piece, int piecesPerItem)
+{
+    QByteArray const item = "<item>" + piece.repeated(piecesPerItem) + "</item>";
+    QByteArray const head =
+        "<rss version='2.0' xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>";
+    QByteArray const tail = "</channel></rss>";
+    return head + item.repeated((MOST_FEED_BYTES - head.size() - tail.size()) / item.size()) + tail;
+}
+
+QByteArray ManyAttributes(int count)
+{
+    QByteArray tag = "<s:e";
+    for (int i = 0; i < count; ++i)
+    {
+        tag += " a" + QByteArray::number(i) + "='" + QByteArray(36, 'v') + '\'';
+    }
+    return tag + "/>";
+}
+
+/// What costs most of what a feed may be; those that go beyond a limit are refused, and cost what comes before that.
+QByteArray HostileFeed(std::int64_t kind)
+{
+    switch (kind)
+    {
+    case 0: // 100,000 elements, each with a text, as many as are read
+        return MakeHostileFeed("<e>" + QByteArray(36, 't') + "</e>", 50);
+    case 1: // tags of 256 attributes
+        return MakeHostileFeed(ManyAttributes(255), 4);
+    case 2: // beyond the limit of elements, in one item
+        return MakeHostileFeed("<e/>", 200 * 1000);
+    case 3: // texts that are nothing but references
+        return MakeHostileFeed("<description>" + QByteArray("&#38;").repeated(420) + "</description>", 1);
+    }
+    QByteArray const delta =
+        "<enclosure url='https://e.example/" + QByteArray(150, 'p') + "' s:deltaFrom='1' s:version='2' length='1'/>";
+    return MakeHostileFeed("<s:deltas>" + delta.repeated(10) + "</s:deltas><enclosure url='https://e.example/'/>", 1);
+}
+
+void HostileFeedParsing(benchmark::State& state)
+{
+    static QUrl const FEED_URL(QStringLiteral("https://feeds.example.com/appcast.xml"));
+    QByteArray const feed = HostileFeed(state.range(0));
+    double least = std::numeric_limits<double>::max();
+    bool isAccepted = false;
+    for (auto _ : state)
+    {
+        (void)_;
+        std::clock_t const begin = std::clock();
+        FeedParseResult const result = ParseFeed(feed, FEED_URL, FeedPlatform::MacOS);
+        isAccepted = result.HasSucceeded();
+        least = std::min(least, static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC);
+    }
+    state.counters["bytes"] = static_cast<double>(feed.size());
+    state.counters["accepted"] = isAccepted ? 1 : 0;
+    state.counters["limit_ms"] = MOST_HOSTILE_SECONDS * 1000;
+    if (least > MOST_HOSTILE_SECONDS)
+    {
+        state.SkipWithError("a feed of 4 MiB takes more than 200 ms");
+    }
+}
+BENCHMARK(HostileFeedParsing)->DenseRange(0, 4)->Unit(benchmark::kMillisecond);
 
 // Nine tenths of the peer's speed.
 constexpr double MOST_TIME = 1 / 0.9;

@@ -1,0 +1,202 @@
+// UpdateBench.cpp: a whole update, from the start of its download to the first line of the new version, beside the sum
+// of what its parts may take: two thirds of curl's time, the bare verification over 0.95, and 1.3 of bsdtar's time. And
+// how much memory a host takes for an update of 1 GiB.
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "bench/DownloadServer.h"
+#include "bench/PayloadFixture.h"
+#include "bench/Ratios.h"
+#include "tests/installer/Ed25519Vectors.h"
+#include "tests/installer/InstallerFixture.h"
+
+#include <benchmark/benchmark.h>
+
+#include <sodium.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <memory>
+
+#include <fcntl.h>
+
+namespace
+{
+
+using namespace Pelnar;
+using Bench::FreshPath;
+
+constexpr double MOST_GROWTH_MEBIBYTES = 32;
+
+/// The next version, signed, at a server.
+class Release
+{
+public:
+    /// \a sizes are those of the files in the bundle beside what every bundle has, \a compression as bsdtar names it.
+    Release(std::vector<std::size_t> const& sizes, std::string const& compression)
+    {
+        std::string const root = FreshPath("release");
+        std::filesystem::create_directory(root);
+        Testing::Workspace const place(root);
+        place.Put(Testing::MakeBundle("2.0"));
+        for (std::size_t i = 0; i < sizes.size(); ++i)
+        {
+            Bench::WriteFile(place.Path() + '/' + Testing::APP + "/Resources/part" + std::to_string(i % 40) + "/file" +
+                                 std::to_string(i),
+                             Bench::ContentLikeCode(static_cast<std::uint32_t>(i), sizes[i]));
+        }
+        bool const isMade = Bench::Run({"bsdtar", "-C", place.Path(), "-c", "-f", path, "--format", "zip", "--options",
+                                        "zip:compression=" + compression, Testing::APP});
+        bytes = isMade ? std::filesystem::file_size(path) : 0;
+        file = Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+        Engine::FileMapping const content(file.Get(), bytes);
+        crypto_sign_detached(signature.data(), nullptr, content.Content().data(), bytes, keys.secret.data());
+        server = std::make_unique<Bench::DownloadServer>(::fcntl(file.Get(), F_DUPFD_CLOEXEC, 0), bytes);
+    }
+
+    std::string const path = FreshPath("archive") + ".zip";
+    std::uint64_t bytes = 0;
+    Engine::UniqueFd file;
+    Testing::KeyPair const keys = Testing::MakeKeyPair(1);
+    std::array<std::uint8_t, crypto_sign_BYTES> signature{};
+    std::unique_ptr<Bench::DownloadServer> server;
+};
+
+/// A bundle of many files, most of them small.
+Release const& Usual()
+{
+    static Release const release = []
+    {
+        std::vector<std::size_t> sizes;
+        for (int i = 0; i < 200; ++i)
+        {
+            sizes.insert(sizes.end(), {900, 2500, 7000, 1500, 20000, 4000, 60000, 300000});
+        }
+        return Release(sizes, "deflate");
+    }();
+    return release;
+}
+
+struct UpdateResult
+{
+    double seconds = 0;
+    double growthMebibytes = 0;
+    bool isStarted = false;
+};
+
+/// Installs version 1.0 somewhere, updates it, and waits for the new version's line.
+UpdateResult UpdateBy(Release const& release)
+{
+    std::string const root = FreshPath("installed");
+    std::filesystem::create_directory(root);
+    Testing::Workspace const place(root);
+    place.Put(Testing::MakeBundle("1.0"));
+    Bench::Settle();
+    std::string const command =
+        std::string("exec '") + PELNAR_BENCH_UPDATE_HOST + "' '" +
+        release.server->Url(Bench::Transport::Plain).toString().toStdString() + "' " + std::to_string(release.bytes) +
+        " '" + Testing::Base64({release.signature.begin(), release.signature.end()}) + "' '" + release.keys.publicKey +
+        "' '" + place.Path() + '/' + Testing::APP + "' '" + Testing::IDENTIFIER + "' '" + FreshPath("downloads") + '\'';
+    UpdateResult result;
+    std::string text;
+    result.seconds = Bench::SecondsOf(
+        [&]
+        {
+            // The new version inherits the host's standard output: its end is the end of both.
+            FILE* const output = ::popen(command.c_str(), "r");
+            char piece[256];
+            while (output && std::fgets(piece, sizeof piece, output))
+            {
+                text += piece;
+            }
+            result.isStarted = output && ::pclose(output) == 0 && text.find("\n2.0") != std::string::npos;
+        });
+    result.growthMebibytes = std::strtod(text.c_str(), nullptr) / 1024;
+    return result;
+}
+
+void Update(benchmark::State& state)
+{
+    double growth = 0;
+    for (auto _ : state)
+    {
+        UpdateResult const result = UpdateBy(Usual());
+        state.SetIterationTime(result.seconds);
+        growth = result.growthMebibytes;
+        if (!result.isStarted)
+        {
+            state.SkipWithError("the new version does not start");
+        }
+    }
+    state.counters["growth_MiB"] = growth;
+}
+BENCHMARK(Update)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
+
+void UpdateFloors(benchmark::State& state)
+{
+    Release const& release = Usual();
+    for (auto _ : state)
+    {
+        std::string const downloaded = FreshPath("curl");
+        std::string const folder = FreshPath("unpacked");
+        std::filesystem::create_directory(folder);
+        Bench::Settle();
+        bool isGood = true;
+        double const download = Bench::SecondsOf(
+            [&]
+            {
+                isGood = Bench::Run({"curl", "--silent", "--fail", "--http1.1", "--output", downloaded,
+                                     release.server->Url(Bench::Transport::Plain).toString().toStdString()});
+            });
+        double const verification = Bench::SecondsOf(
+            [&]
+            {
+                Engine::FileMapping const mapping(release.file.Get(), release.bytes);
+                isGood = isGood && crypto_sign_verify_detached(release.signature.data(), mapping.Content().data(),
+                                                               release.bytes, release.keys.point.data()) == 0;
+            });
+        double const unpacking = Bench::SecondsOf(
+            [&] {
+                isGood = isGood && Bench::Run({"bsdtar", "-C", folder, "-x", "-f", downloaded});
+            });
+        state.SetIterationTime(download / 1.5 + verification / 0.95 + unpacking * 1.3);
+        if (!isGood)
+        {
+            state.SkipWithError("a peer fails");
+        }
+    }
+}
+BENCHMARK(UpdateFloors)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
+
+/// Nothing but the memory is of interest.
+void UpdateOf1GiB(benchmark::State& state)
+{
+    static Release const release(std::vector<std::size_t>(33, std::size_t{32} << 20), "store");
+    if (release.bytes < (std::uint64_t{1} << 30))
+    {
+        state.SkipWithError("the archive has less than 1 GiB");
+        return;
+    }
+    double growth = 0;
+    for (auto _ : state)
+    {
+        UpdateResult const result = UpdateBy(release);
+        state.SetIterationTime(result.seconds);
+        growth = result.growthMebibytes;
+        if (!result.isStarted)
+        {
+            state.SkipWithError("the new version does not start");
+        }
+    }
+    state.counters["growth_MiB"] = growth;
+    state.counters["limit_MiB"] = MOST_GROWTH_MEBIBYTES;
+    if (growth > MOST_GROWTH_MEBIBYTES)
+    {
+        state.SkipWithError("the host takes more than 32 MiB of memory");
+    }
+}
+BENCHMARK(UpdateOf1GiB)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1)->Repetitions(2);
+
+Bench::StatedRatio const UPDATE_RATIO("Update/iterations:1/manual_time", "UpdateFloors/iterations:1/manual_time", 1.3);
+
+} // namespace

@@ -1,0 +1,118 @@
+// UpdateHost.cpp: a host that downloads one update, has it prepared, and ends when the helper waits for that. Prints
+// how much memory it took above what it has when it is idle, in KiB. Arguments: the archive's address, length and
+// signature, the public key, the installed bundle, its identifier, a folder for downloads.
+
+#include "Engine/core/update/InstallHandover.h"
+#include "Engine/core/update/UpdateParts.h"
+#include "Engine/core/update/UpdatePreparation.h"
+#include "bench/ProcessMemory.h"
+
+#include <QCoreApplication>
+#include <QStringList>
+
+#include <cstdio>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+class Host
+{
+public:
+    explicit Host(QStringList const& words)
+        : m_request(RequestOf(words))
+        , m_key(words.at(4).toStdString())
+        , m_identifier(words.at(6).toStdString())
+        , m_target(std::get<InstallTarget>(m_parts.OpenTarget(words.at(5), m_request.declaredBytes)))
+    {
+    }
+
+    void Start()
+    {
+        m_download = m_parts.MakeDownload(m_request);
+        m_download->Start([](DownloadProgress const&) {}, [this](DownloadOutcome outcome) { Prepare(outcome); });
+    }
+
+private:
+    static DownloadRequest RequestOf(QStringList const& words)
+    {
+        DownloadRequest request;
+        request.url = QUrl(words.at(1));
+        request.declaredBytes = words.at(2).toULongLong();
+        request.signature = words.at(3);
+        request.folder = words.at(7);
+        return request;
+    }
+
+    void Prepare(DownloadOutcome& downloaded)
+    {
+        FailOn(downloaded.error);
+        PrepareJob job;
+        job.archiveBytes = m_request.declaredBytes;
+        job.signature = m_request.signature.toStdString();
+        job.publicKeys = {m_key};
+        job.bundleName = m_target.name;
+        job.bundleIdentifier = m_identifier;
+        job.expectedVersion = "2.0";
+        job.installedVersion = "1.0";
+        FailOn(m_preparation.Start(
+            m_target, job, std::move(downloaded.archive), [](ProgressReport const&) {},
+            [this](UpdatePreparation::Outcome outcome) { Install(outcome); }));
+    }
+
+    void Install(UpdatePreparation::Outcome& outcome)
+    {
+        if (auto const* const error = std::get_if<EngineError>(&outcome))
+        {
+            FailOn(*error);
+        }
+        m_update = std::move(std::get<std::unique_ptr<PreparedUpdate>>(outcome));
+        InstallJob job;
+        job.targetName = m_target.name;
+        job.bundleIdentifier = m_identifier;
+        job.expectedVersion = "2.0";
+        job.installedVersion = "1.0";
+        job.targetPath = m_target.path.toStdString();
+        m_update->Describe(job);
+        FailOn(m_handover.Start(
+            m_target, *m_update, job,
+            [this]
+            {
+                m_parts.DiscardDownload(m_request);
+                QCoreApplication::quit();
+            },
+            [](EngineError const& error) { FailOn(error); }));
+    }
+
+    static void FailOn(std::optional<EngineError> const& error)
+    {
+        if (error)
+        {
+            qFatal("%s", qPrintable(error->sentence));
+        }
+    }
+
+    UpdateParts m_parts{QStringLiteral(PELNAR_INSTALLER_PROGRAM)};
+    DownloadRequest m_request;
+    std::string m_key;
+    std::string m_identifier;
+    InstallTarget m_target;
+    std::unique_ptr<IDownload> m_download;
+    UpdatePreparation m_preparation{m_parts};
+    std::unique_ptr<PreparedUpdate> m_update;
+    InstallHandover m_handover{m_parts};
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QCoreApplication const application(argc, argv);
+    long const idle = Pelnar::Bench::KibibytesOf("VmRSS:");
+    Host host(QCoreApplication::arguments());
+    host.Start();
+    int const status = QCoreApplication::exec();
+    std::printf("%ld\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle);
+    return status;
+}

@@ -51,7 +51,7 @@ std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
     if (outcome.error)
     {
         QString const& detail = outcome.error->detail;
-        return Problem{name, 0, 0, outcome.error->sentence,
+        return Problem{name, 0, 0, outcome.error->sentence.English(),
                        detail.isEmpty() ? QString() : QStringLiteral("detail: ") + detail};
     }
     return FeedBytes{name, outcome.url, std::move(outcome.bytes)};

@@ -129,7 +129,7 @@ void Download(benchmark::State& state, Transport transport)
         ArchiveDownload::Discard(request);
         if (outcome.error)
         {
-            state.SkipWithError(qPrintable(outcome.error->sentence));
+            state.SkipWithError(qPrintable(outcome.error->sentence.English()));
             return;
         }
     }

@@ -36,6 +36,661 @@
     </message>
 </context>
 <context>
+    <name>PelnarEngine_Errors</name>
+    <message>
+        <source>You are running the newest version.</source>
+        <translation>Używasz najnowszej wersji.</translation>
+    </message>
+    <message>
+        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <translation>Ta aplikacja nie podaje, gdzie są publikowane jej aktualizacje. Zainstaluj ją ponownie ze strony wydawcy.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <translation>Adres kanału aktualizacji nie jest prawidłowym adresem. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
+        <translation>Adres kanału aktualizacji jest niedozwolonego rodzaju. Musi zaczynać się od https.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not secure: it must begin with https.</source>
+        <translation>Adres kanału aktualizacji nie jest bezpieczny. Musi zaczynać się od https.</translation>
+    </message>
+    <message>
+        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <translation>Nie znaleziono serwera aktualizacji. Sprawdź połączenie z internetem i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update server refused the connection: try again later.</source>
+        <translation>Serwer aktualizacji odrzucił połączenie. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <translation>Serwer aktualizacji jest nieosiągalny z tej sieci. Sprawdź połączenie i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <translation>Serwer aktualizacji nie przyjął połączenia na czas. Sprawdź połączenie i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server failed: try again later.</source>
+        <translation>Połączenie z serwerem aktualizacji nie powiodło się. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <translation>Sieciowy serwer proxy nie przepuścił połączenia. Sprawdź ustawienia serwera proxy.</translation>
+    </message>
+    <message>
+        <source>The update server took too long to answer: try again later.</source>
+        <translation>Serwer aktualizacji zbyt długo nie odpowiadał. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The update server answers too slowly: try again later.</source>
+        <translation>Serwer aktualizacji odpowiada zbyt wolno. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <translation>Certyfikat serwera aktualizacji jest podpisany tylko przez niego samego, więc jego tożsamość nie jest potwierdzona. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <translation>Certyfikat serwera aktualizacji pochodzi od urzędu, którego ten komputer nie zna. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Certyfikat serwera aktualizacji wygasł. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Certyfikat serwera aktualizacji nie jest jeszcze ważny. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <translation>Certyfikat serwera aktualizacji wystawiono dla innego serwera. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <translation>Certyfikat serwera aktualizacji jest nie do przyjęcia. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <translation>Nie nawiązano bezpiecznego połączenia z serwerem aktualizacji, ponieważ nie oferuje on wystarczająco silnego. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <translation>Ten komputer nie może nawiązywać bezpiecznych połączeń. Zainstaluj bibliotekę OpenSSL.</translation>
+    </message>
+    <message>
+        <source>The update server closed the connection before it answered: try again later.</source>
+        <translation>Serwer aktualizacji zamknął połączenie, zanim odpowiedział. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The update feed arrived incomplete: try again.</source>
+        <translation>Kanał aktualizacji dotarł niekompletny. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <translation>Odpowiedź serwera aktualizacji ma zbyt wiele nagłówków. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed is too large: tell the publisher.</source>
+        <translation>Kanał aktualizacji jest zbyt duży. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <translation>Odpowiedź serwera aktualizacji nie jest prawidłowym HTTP. Spróbuj w innej sieci.</translation>
+    </message>
+    <message>
+        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>Serwer aktualizacji podaje sprzeczne długości kanału. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server sent more than it announced: tell the publisher.</source>
+        <translation>Serwer aktualizacji przysłał więcej, niż zapowiedział. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is broken in its parts: try again.</source>
+        <translation>Odpowiedź serwera aktualizacji jest uszkodzona. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <translation>Serwer aktualizacji przesyła kanał w sposób, o który nie proszono. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <translation>Serwer aktualizacji przysłał skompresowany kanał, o co nie proszono. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server answered with status %1: try again later.</source>
+        <translation>Serwer aktualizacji odpowiedział kodem stanu %1. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <translation>Serwer aktualizacji kieruje pod mniej bezpieczny adres. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <translation>Serwer aktualizacji kieruje pod adres niedozwolonego rodzaju. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <translation>Serwer aktualizacji kieruje do czegoś, co nie jest adresem. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <translation>Serwer aktualizacji kieruje pod inny adres, ale go nie podaje. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server points from address to address without end: tell the publisher.</source>
+        <translation>Serwer aktualizacji bez końca kieruje z adresu na adres. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed does not exist: check its address.</source>
+        <translation>Plik z kanałem aktualizacji nie istnieje. Sprawdź jego adres.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed names a folder or a device: it must name a file.</source>
+        <translation>Adres kanału aktualizacji wskazuje folder lub urządzenie. Musi wskazywać plik.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed is too large: check its address.</source>
+        <translation>Plik z kanałem aktualizacji jest zbyt duży. Sprawdź jego adres.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <translation>Nie można odczytać pliku z kanałem aktualizacji. Sprawdź jego uprawnienia.</translation>
+    </message>
+    <message>
+        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <translation>Kanał aktualizacji jest plikiem na innym komputerze. Skopiuj go na ten komputer.</translation>
+    </message>
+    <message>
+        <source>The update feed cannot be read: tell the publisher.</source>
+        <translation>Nie można odczytać kanału aktualizacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <translation>Zamiast kanału aktualizacji nadeszła strona internetowa. Zaloguj się do tej sieci, jeśli tego wymaga, i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <translation>Aplikacja wybrała aktualizację, której nie ma w kanale. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <translation>Aplikacja zawiodła podczas przeglądania aktualizacji. Uruchom ją ponownie i spróbuj jeszcze raz.</translation>
+    </message>
+    <message>
+        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <translation>Kanał podaje niemożliwą długość aktualizacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <translation>Aktualizacja na serwerze nie ma długości podanej w kanale. Spróbuj ponownie później, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <translation>Serwer aktualizacji przysłał inną część aktualizacji, niż proszono. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <translation>Inna kopia aplikacji pobiera tę aktualizację. Poczekaj, aż skończy.</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <translation>Nie można użyć folderu pobranych aktualizacji. Sprawdź jego uprawnienia i dysk.</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <translation>Folder pobranych aktualizacji nie należy tylko do Ciebie. Usuń go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <translation>Aktualizacja potrzebuje jeszcze %1 na dysku, na którym jest wolne %2. Zwolnij miejsce i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
+        <translation>Aktualizacja potrzebuje o %1 więcej, niż pozwala Twój limit na dysku, na którym jest wolne %2. Usuń swoje pliki i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
+        <translation>Aktualizacja jest plikiem zbyt dużym dla dysku pobranych aktualizacji. Poproś o pomoc.</translation>
+    </message>
+    <message>
+        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <translation>Dysk zawiódł podczas zapisywania aktualizacji. Sprawdź dysk i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <translation>Komputer ma za mało pamięci lub zbyt wiele otwartych plików, aby pobierać. Zamknij inne aplikacje i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <translation>Nie znaleziono folderu aplikacji, więc nie można jej zaktualizować. Uruchom ją z miejsca, w którym jest zainstalowana.</translation>
+    </message>
+    <message>
+        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <translation>Aplikację uruchomiono przez dowiązanie, więc nie można jej zaktualizować. Uruchom ją z folderu, na który wskazuje dowiązanie.</translation>
+    </message>
+    <message>
+        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <translation>Aplikację zainstalował %1, który też ją aktualizuje. Użyj polecenia „%2”.</translation>
+    </message>
+    <message>
+        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <translation>Aplikacja działa z pliku obrazu. Zastąp plik %1 plikiem nowej wersji.</translation>
+    </message>
+    <message>
+        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <translation>Aplikacja znajduje się na dysku, na którym nie można zapisywać. Skopiuj ją do innego folderu i tam uruchom.</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Folder aplikacji jest osobnym dyskiem, więc nie można go zastąpić. Skopiuj go do innego folderu i tam uruchom aplikację.</translation>
+    </message>
+    <message>
+        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <translation>Aplikacja jest chroniona przed wszelkimi zmianami. Poproś osobę, która ją chroni, o usunięcie atrybutu pliku „immutable” lub „append only”.</translation>
+    </message>
+    <message>
+        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <translation>Aplikacja należy do innego użytkownika tego komputera. Poproś tę osobę lub administratora o jej zaktualizowanie.</translation>
+    </message>
+    <message>
+        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <translation>Nie masz prawa zmieniać folderu aplikacji. Poproś administratora o jej zaktualizowanie.</translation>
+    </message>
+    <message>
+        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <translation>Inni użytkownicy tego komputera mogliby zmienić folder aplikacji, więc nie jest tam aktualizowana. Poproś administratora o poprawienie uprawnień.</translation>
+    </message>
+    <message>
+        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
+        <translation>Nie ma miejsca na aktualizację. Potrzeba %1, a wolne jest %2. Zwolnij miejsce i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <translation>Aktualizacje tej aplikacji są wyłączone. Zapytaj osobę, która zarządza tym komputerem.</translation>
+    </message>
+    <message>
+        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <translation>Ostatnie sprawdzania aktualizacji nie powiodły się, więc następne czeka. Sprawdź ręcznie, aby spróbować od razu.</translation>
+    </message>
+    <message>
+        <source>The update was cancelled: check for updates to begin again.</source>
+        <translation>Aktualizacja została anulowana. Sprawdź aktualizacje, aby zacząć od nowa.</translation>
+    </message>
+    <message>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <translation>Ta aplikacja nie podaje swojego identyfikatora i wersji, więc nie można do niej dopasować żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <translation>Program instalujący aktualizacje nieoczekiwanie zakończył działanie. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The check for updates failed: try again later.</source>
+        <translation>Sprawdzanie aktualizacji nie powiodło się. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <translation>Kanał podaje adres aktualizacji, który nie jest adresem. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <translation>Adres aktualizacji jest niedozwolonego rodzaju, innego niż https. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <translation>Adres aktualizacji nie jest bezpieczny, ponieważ nie zaczyna się od https. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <translation>Połączenie zostało przerwane podczas pobierania aktualizacji. Spróbuj ponownie, a pobieranie będzie kontynuowane.</translation>
+    </message>
+    <message>
+        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>Serwer aktualizacji podaje sprzeczne długości aktualizacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <translation>Serwer aktualizacji przesyła aktualizację w sposób, o który nie proszono. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <translation>Serwer aktualizacji przysłał skompresowaną aktualizację, o co nie proszono. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed is not well-formed XML.</source>
+        <translation>Wiersz %1 kanału nie jest poprawnie sformułowanym XML.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <translation>Wiersz %1 kanału ma deklarację typu dokumentu, której kanał mieć nie może.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed nests elements more than %2 levels deep.</source>
+        <translation>Wiersz %1 kanału zagnieżdża elementy głębiej niż na %2 poziomów.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag with more than %2 attributes.</source>
+        <translation>Wiersz %1 kanału ma znacznik z większą liczbą atrybutów niż %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag of more than %2 bytes.</source>
+        <translation>Wiersz %1 kanału ma znacznik dłuższy niż %2 bajtów.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <translation>Wiersz %1 kanału przekracza liczbę %2 elementów i atrybutów, które kanał może mieć.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
+        <translation>Wiersz %1 kanału ma pozycję numer %2, a dozwolonych jest tylko %3.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has more than %2 namespaces declared.</source>
+        <translation>Wiersz %1 kanału deklaruje więcej przestrzeni nazw niż %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <translation>W wierszu %1 kanału zaczyna się strona internetowa, a oczekiwano kanału.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has an unknown error.</source>
+        <translation>Wiersz %1 kanału zawiera nieznany błąd.</translation>
+    </message>
+    <message>
+        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <translation>Aplikację zainstalował menedżer pakietów systemu, który też ją aktualizuje. Użyj polecenia „%1”.</translation>
+    </message>
+    <message>
+        <source>The update could not be installed: try again later.</source>
+        <translation>Nie udało się zainstalować aktualizacji. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <translation>Program instalujący aktualizacje nie zrozumiał, o co go poproszono. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <translation>Program instalujący aktualizacje nie mógł użyć otrzymanych plików. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <translation>Brakuje programu instalującego aktualizacje lub mógłby go zmienić ktoś inny. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <translation>Nie udało się rozpakować aktualizacji w odizolowanym procesie, jak to konieczne. Poinformuj wydawcę, jaki to system.</translation>
+    </message>
+    <message>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>Ta aplikacja nie ma klucza publicznego SUPublicEDKey, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
+    </message>
+    <message>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>Klucz publiczny SUPublicEDKey tej aplikacji jest uszkodzony, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
+    </message>
+    <message>
+        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja nie jest podpisana i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
+        <translation>Podpis aktualizacji nie jest podpisem, a aktualizacja została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Aktualizacja nie została podpisana przez wydawcę tej aplikacji lub uszkodziła się po drodze i została odrzucona. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <translation>Na tym komputerze nie można weryfikować podpisów. Zainstaluj ponownie bibliotekę libsodium.</translation>
+    </message>
+    <message>
+        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <translation>Pobrana aktualizacja jest pusta. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <translation>Nie można odczytać pobranej aktualizacji z dysku. Sprawdź dysk i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <translation>Pobrana aktualizacja jest dłuższa lub krótsza, niż podaje kanał. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <translation>Inny program zmienił pobraną aktualizację podczas jej weryfikowania. Zamknij go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <translation>Aktualizacja jest spakowana w nieznany sposób. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is damaged: tell the publisher.</source>
+        <translation>Archiwum aktualizacji jest uszkodzone. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <translation>Archiwum aktualizacji można odczytać na więcej niż jeden sposób i zostało odrzucone. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <translation>Archiwum aktualizacji jest zaszyfrowane i zostało odrzucone. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <translation>Archiwum aktualizacji jest skompresowane w nieznany sposób. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik o niedozwolonej nazwie. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik o zbyt długiej nazwie. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik, który znalazłby się poza aplikacją, i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The folders of the update are too deep: tell the publisher.</source>
+        <translation>Foldery aktualizacji są zbyt głęboko zagnieżdżone. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera coś, co nie jest plikiem, folderem ani dowiązaniem, i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dowiązanie twarde i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik z dziurami i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik bez rozmiaru i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dwa razy ten sam plik i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera pliki, których nazwy różnią się tylko wielkością liter lub akcentami, i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera plik pod czymś, co nie jest folderem, i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dowiązanie do niedozwolonej nazwy. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dowiązanie prowadzące poza aplikację i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dowiązanie prowadzące donikąd. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <translation>Aktualizacja zawiera dowiązanie prowadzące z powrotem do siebie. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has too many files: tell the publisher.</source>
+        <translation>Aktualizacja zawiera zbyt wiele plików. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update has too many links: tell the publisher.</source>
+        <translation>Aktualizacja zawiera zbyt wiele dowiązań. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <translation>Aktualizacja jest po rozpakowaniu zbyt duża. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <translation>Zainstalowana aplikacja została zmieniona, więc mała aktualizacja do niej nie pasuje. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
+        <translation>Mała aktualizacja nie zrobiła z aplikacji tego, co powinna. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update holds no application: tell the publisher.</source>
+        <translation>Aktualizacja nie zawiera aplikacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update holds more than one application: tell the publisher.</source>
+        <translation>Aktualizacja zawiera więcej niż jedną aplikację. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The application in the update is not a folder: tell the publisher.</source>
+        <translation>Aplikacja w aktualizacji nie jest folderem. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The application in the update does not describe itself: tell the publisher.</source>
+        <translation>Aplikacja w aktualizacji nie zawiera swojego opisu. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update is too large: tell the publisher.</source>
+        <translation>Opis aplikacji w aktualizacji jest zbyt duży. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update cannot be read: tell the publisher.</source>
+        <translation>Nie można odczytać opisu aplikacji w aktualizacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja dotyczy innej aplikacji i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja jest w innej wersji, niż podaje kanał, i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <translation>Aktualizacja nie jest nowsza niż zainstalowana aplikacja i została odrzucona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <translation>Aplikacja w aktualizacji nie ma klucza publicznego, więc już nigdy nie można by jej zaktualizować. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The application in the update has no program to start: tell the publisher.</source>
+        <translation>Aplikacja w aktualizacji nie ma programu do uruchomienia. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The program in the update may not be started: tell the publisher.</source>
+        <translation>Programu w aktualizacji nie wolno uruchomić. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <translation>Program w aktualizacji jest przeznaczony dla innego rodzaju komputera. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <translation>Aktualizacja jest osobnym programem, na co ta aplikacja nie pozwala. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <translation>Program dołączony do aktualizacji nie uruchomił się. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <translation>Program dołączony do aktualizacji nie zainstalował jej. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <translation>Program dołączony do aktualizacji działał zbyt długo i został zakończony. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <translation>Na dysku nie ma dość miejsca na aktualizację. Zwolnij trochę i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <translation>Ten użytkownik nie może zmieniać folderu, w którym jest aplikacja. Zapytaj osobę, która ją zainstalowała.</translation>
+    </message>
+    <message>
+        <source>The disk reported an error: check it and try again.</source>
+        <translation>Dysk zgłosił błąd. Sprawdź go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <translation>Aplikacja nie zamknęła się, więc aktualizacja nie została zainstalowana. Zapisz swoją pracę, sprawdź aktualizacje ponownie i pozwól aplikacji się zamknąć.</translation>
+    </message>
+    <message>
+        <source>Another update of this application is being installed: wait for its end.</source>
+        <translation>Trwa instalowanie innej aktualizacji tej aplikacji. Poczekaj na jego koniec.</translation>
+    </message>
+    <message>
+        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <translation>Zainstalowanej aplikacji nie ma tam, gdzie była na początku aktualizacji. Uruchom ją z jej miejsca i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <translation>Zainstalowana aplikacja została zmieniona podczas przygotowywania aktualizacji. Uruchom ją ponownie i spróbuj jeszcze raz.</translation>
+    </message>
+    <message>
+        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <translation>Przygotowana aktualizacja została zmieniona przed instalacją i ją odrzucono. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <translation>Przygotowana aktualizacja i aplikacja są na różnych dyskach. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
+        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <translation>Nowej wersji nie udało się umieścić w miejscu starej, która pozostała bez zmian. Spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <translation>Dysk nie potwierdził, że zawiera aktualizację. Sprawdź go i spróbuj ponownie.</translation>
+    </message>
+    <message>
+        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <translation>Aplikacji, która ma się uruchomić po aktualizacji, nie wolno uruchomić. Uruchom ją ręcznie.</translation>
+    </message>
+    <message>
+        <source>The updated application did not start: start it by hand.</source>
+        <translation>Zaktualizowana aplikacja nie uruchomiła się. Uruchom ją ręcznie.</translation>
+    </message>
+    <message>
+        <source>The update failed for a reason that is not known: try again later.</source>
+        <translation>Aktualizacja nie powiodła się z nieznanego powodu. Spróbuj ponownie później.</translation>
+    </message>
+</context>
+<context>
     <name>PelnarEngine_ProgressWindow</name>
     <message>
         <source>%1 of %2</source>

@@ -36,6 +36,661 @@
     </message>
 </context>
 <context>
+    <name>PelnarEngine_Errors</name>
+    <message>
+        <source>You are running the newest version.</source>
+        <translation>У вас установлена последняя версия.</translation>
+    </message>
+    <message>
+        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <translation>В программе не указано, где публикуются её обновления. Установите её заново с сайта издателя.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <translation>Адрес ленты обновлений недействителен. Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
+        <translation>Адрес ленты обновлений имеет недопустимый вид. Он должен начинаться с https.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not secure: it must begin with https.</source>
+        <translation>Адрес ленты обновлений небезопасен. Он должен начинаться с https.</translation>
+    </message>
+    <message>
+        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <translation>Сервер обновлений не найден. Проверьте подключение к интернету и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update server refused the connection: try again later.</source>
+        <translation>Сервер обновлений отклонил соединение. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <translation>Сервер обновлений недоступен из этой сети. Проверьте подключение и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <translation>Сервер обновлений не принял соединение вовремя. Проверьте подключение и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server failed: try again later.</source>
+        <translation>Не удалось соединиться с сервером обновлений. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <translation>Прокси-сервер не пропустил соединение. Проверьте его настройки.</translation>
+    </message>
+    <message>
+        <source>The update server took too long to answer: try again later.</source>
+        <translation>Сервер обновлений слишком долго не отвечал. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The update server answers too slowly: try again later.</source>
+        <translation>Сервер обновлений отвечает слишком медленно. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <translation>Сертификат сервера обновлений подписан только им самим, поэтому его подлинность не доказана. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <translation>Сертификат сервера обновлений выдан центром, который неизвестен этому компьютеру. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Срок действия сертификата сервера обновлений истёк. Проверьте часы этого компьютера; если они идут верно, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Сертификат сервера обновлений ещё не действителен. Проверьте часы этого компьютера; если они идут верно, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <translation>Сертификат сервера обновлений выдан для другого сервера. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <translation>Сертификат сервера обновлений неприемлем. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <translation>Не удалось установить безопасное соединение с сервером обновлений: он не предлагает достаточно надёжного. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <translation>Этот компьютер не может устанавливать безопасные соединения. Установите библиотеку OpenSSL.</translation>
+    </message>
+    <message>
+        <source>The update server closed the connection before it answered: try again later.</source>
+        <translation>Сервер обновлений закрыл соединение, не ответив. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The update feed arrived incomplete: try again.</source>
+        <translation>Лента обновлений получена не полностью. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <translation>В ответе сервера обновлений слишком много заголовков. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed is too large: tell the publisher.</source>
+        <translation>Лента обновлений слишком велика. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <translation>Ответ сервера обновлений не соответствует протоколу HTTP. Попробуйте другую сеть.</translation>
+    </message>
+    <message>
+        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>Сервер обновлений указывает противоречивую длину ленты. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server sent more than it announced: tell the publisher.</source>
+        <translation>Сервер обновлений прислал больше данных, чем объявил. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is broken in its parts: try again.</source>
+        <translation>Ответ сервера обновлений повреждён. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <translation>Сервер обновлений передаёт ленту способом, который не запрашивался. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <translation>Сервер обновлений прислал ленту в сжатом виде, хотя это не запрашивалось. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server answered with status %1: try again later.</source>
+        <translation>Сервер обновлений ответил кодом состояния %1. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <translation>Сервер обновлений перенаправляет на менее безопасный адрес. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <translation>Сервер обновлений перенаправляет на адрес недопустимого вида. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <translation>Сервер обновлений перенаправляет на то, что не является адресом. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <translation>Сервер обновлений перенаправляет на другой адрес, не называя его. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server points from address to address without end: tell the publisher.</source>
+        <translation>Сервер обновлений бесконечно перенаправляет с адреса на адрес. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed does not exist: check its address.</source>
+        <translation>Файл ленты обновлений не существует. Проверьте его адрес.</translation>
+    </message>
+    <message>
+        <source>The address of the update feed names a folder or a device: it must name a file.</source>
+        <translation>Адрес ленты обновлений указывает на папку или устройство. Он должен указывать на файл.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed is too large: check its address.</source>
+        <translation>Файл ленты обновлений слишком велик. Проверьте его адрес.</translation>
+    </message>
+    <message>
+        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <translation>Не удалось прочитать файл ленты обновлений. Проверьте права доступа к нему.</translation>
+    </message>
+    <message>
+        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <translation>Лента обновлений — это файл другого компьютера. Скопируйте его на этот.</translation>
+    </message>
+    <message>
+        <source>The update feed cannot be read: tell the publisher.</source>
+        <translation>Не удалось прочитать ленту обновлений. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <translation>Вместо ленты обновлений получена веб-страница. Войдите в эту сеть, если она этого требует, и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <translation>Программа выбрала обновление, которого нет в ленте. Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <translation>Произошёл сбой программы при просмотре обновлений. Перезапустите её и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <translation>В ленте указана невозможная длина обновления. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <translation>Длина обновления на сервере отличается от указанной в ленте. Повторите попытку позже, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <translation>Сервер обновлений прислал не ту часть обновления, которая запрашивалась. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <translation>Другая копия программы загружает это обновление. Дождитесь окончания.</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <translation>Папку загруженных обновлений нельзя использовать. Проверьте права доступа к ней и её диск.</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <translation>Папка загруженных обновлений принадлежит не только вам. Удалите её и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <translation>Для обновления нужно ещё %1 на диске, где свободно %2. Освободите место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
+        <translation>Для обновления нужно на %1 больше, чем позволяет ваша квота на диске, где свободно %2. Удалите свои файлы и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
+        <translation>Файл обновления слишком велик для диска загруженных обновлений. Обратитесь за помощью.</translation>
+    </message>
+    <message>
+        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <translation>Произошёл сбой диска при записи обновления. Проверьте диск и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <translation>Для загрузки не хватает памяти или открыто слишком много файлов. Закройте другие программы и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <translation>Папка программы не найдена, поэтому обновить её нельзя. Запустите программу оттуда, где она установлена.</translation>
+    </message>
+    <message>
+        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <translation>Программа запущена по ссылке, поэтому обновить её нельзя. Запустите её из папки, на которую указывает ссылка.</translation>
+    </message>
+    <message>
+        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <translation>Программу установил %1, он же её и обновляет. Используйте команду «%2».</translation>
+    </message>
+    <message>
+        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <translation>Программа работает из файла образа. Замените файл %1 файлом новой версии.</translation>
+    </message>
+    <message>
+        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <translation>Программа находится на диске, недоступном для записи. Скопируйте её в другую папку и запустите оттуда.</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Папка программы — отдельный диск, поэтому заменить её нельзя. Скопируйте её в другую папку и запустите программу оттуда.</translation>
+    </message>
+    <message>
+        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <translation>Программа защищена от любых изменений. Попросите того, кто её защитил, снять атрибут файла «immutable» или «append only».</translation>
+    </message>
+    <message>
+        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <translation>Программа принадлежит другому пользователю этого компьютера. Попросите его или администратора обновить её.</translation>
+    </message>
+    <message>
+        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <translation>У вас нет прав на изменение папки программы. Попросите администратора обновить её.</translation>
+    </message>
+    <message>
+        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <translation>Другие пользователи этого компьютера могут изменить папку программы, поэтому там она не обновляется. Попросите администратора исправить права доступа.</translation>
+    </message>
+    <message>
+        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
+        <translation>Для обновления нет места: нужно %1, свободно %2. Освободите место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <translation>Обновления этой программы отключены. Обратитесь к тому, кто управляет этим компьютером.</translation>
+    </message>
+    <message>
+        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <translation>Последние проверки обновлений не удались, поэтому следующая отложена. Проверьте обновления вручную, чтобы не ждать.</translation>
+    </message>
+    <message>
+        <source>The update was cancelled: check for updates to begin again.</source>
+        <translation>Обновление отменено. Проверьте обновления, чтобы начать заново.</translation>
+    </message>
+    <message>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <translation>В программе не указаны её идентификатор и версия, поэтому подобрать для неё обновление нельзя. Установите её заново с сайта издателя.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <translation>Программа установки обновлений неожиданно завершилась. Повторите попытку, а если это не поможет, установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The check for updates failed: try again later.</source>
+        <translation>Не удалось проверить обновления. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <translation>В ленте вместо адреса обновления указано то, что адресом не является. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <translation>Адрес обновления имеет недопустимый вид, не https. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <translation>Адрес обновления небезопасен, так как не начинается с https. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <translation>Соединение прервалось при загрузке обновления. Повторите попытку, загрузка продолжится с того же места.</translation>
+    </message>
+    <message>
+        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>Сервер обновлений указывает противоречивую длину обновления. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <translation>Сервер обновлений передаёт обновление способом, который не запрашивался. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <translation>Сервер обновлений прислал обновление в сжатом виде, хотя это не запрашивалось. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed is not well-formed XML.</source>
+        <translation>Строка %1 ленты не является правильно построенным XML.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <translation>Строка %1 ленты содержит объявление типа документа, недопустимое в ленте.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed nests elements more than %2 levels deep.</source>
+        <translation>Строка %1 ленты содержит элементы с глубиной вложенности больше %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag with more than %2 attributes.</source>
+        <translation>Строка %1 ленты содержит тег с числом атрибутов больше %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag of more than %2 bytes.</source>
+        <translation>Строка %1 ленты содержит тег длиной больше %2 байт.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <translation>Строка %1 ленты превышает допустимое число элементов и атрибутов: %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
+        <translation>Строка %1 ленты содержит элемент номер %2, но допустимо только %3.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has more than %2 namespaces declared.</source>
+        <translation>Строка %1 ленты объявляет больше пространств имён, чем %2.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <translation>В строке %1 ленты начинается веб-страница, хотя ожидалась лента.</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has an unknown error.</source>
+        <translation>Строка %1 ленты содержит неизвестную ошибку.</translation>
+    </message>
+    <message>
+        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <translation>Программу установил системный менеджер пакетов, он же её и обновляет. Используйте команду «%1».</translation>
+    </message>
+    <message>
+        <source>The update could not be installed: try again later.</source>
+        <translation>Не удалось установить обновление. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <translation>Программа установки обновлений не поняла задание. Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <translation>Программа установки обновлений не смогла использовать переданные ей файлы. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <translation>Программа установки обновлений отсутствует или может быть изменена другими. Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <translation>Обновление не удалось распаковать в изолированном процессе, как это необходимо. Сообщите издателю, какая это система.</translation>
+    </message>
+    <message>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>В программе нет открытого ключа SUPublicEDKey, поэтому подлинность обновлений доказать нельзя. Установите её заново с сайта издателя.</translation>
+    </message>
+    <message>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>Открытый ключ программы SUPublicEDKey повреждён, поэтому подлинность обновлений доказать нельзя. Установите её заново с сайта издателя.</translation>
+    </message>
+    <message>
+        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <translation>Обновление не подписано и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
+        <translation>Подпись обновления не является подписью, обновление отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Обновление не подписано издателем этой программы или повреждено при передаче и отклонено. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <translation>На этом компьютере нельзя проверять подписи. Установите заново библиотеку libsodium.</translation>
+    </message>
+    <message>
+        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <translation>Загруженное обновление пусто. Повторите попытку, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <translation>Не удалось прочитать загруженное обновление с диска. Проверьте диск и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <translation>Загруженное обновление длиннее или короче, чем указано в ленте. Повторите попытку, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <translation>Другая программа изменила загруженное обновление во время проверки. Закройте её и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <translation>Обновление упаковано неизвестным способом. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is damaged: tell the publisher.</source>
+        <translation>Архив обновления повреждён. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <translation>Архив обновления можно прочитать несколькими способами, он отклонён. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <translation>Архив обновления зашифрован, он отклонён. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <translation>Архив обновления сжат неизвестным способом. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <translation>Обновление содержит файл с недопустимым именем. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <translation>Обновление содержит файл со слишком длинным именем. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит файл, который оказался бы за пределами программы, и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The folders of the update are too deep: tell the publisher.</source>
+        <translation>Папки обновления вложены слишком глубоко. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит то, что не является ни файлом, ни папкой, ни ссылкой, и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит жёсткую ссылку и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит файл с пропусками и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит файл без размера и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит один и тот же файл дважды и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит файлы, имена которых отличаются только регистром или диакритическими знаками, и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит файл внутри того, что не является папкой, и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <translation>Обновление содержит ссылку на недопустимое имя. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <translation>Обновление содержит ссылку, ведущую за пределы программы, и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <translation>Обновление содержит ссылку, ведущую в никуда. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <translation>Обновление содержит ссылку, ведущую на саму себя. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has too many files: tell the publisher.</source>
+        <translation>Обновление содержит слишком много файлов. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update has too many links: tell the publisher.</source>
+        <translation>Обновление содержит слишком много ссылок. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <translation>Обновление после распаковки слишком велико. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <translation>Установленная программа была изменена, поэтому малое обновление к ней не подходит. Установите программу заново.</translation>
+    </message>
+    <message>
+        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
+        <translation>Результат применения малого обновления отличается от ожидаемого. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update holds no application: tell the publisher.</source>
+        <translation>Обновление не содержит программы. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update holds more than one application: tell the publisher.</source>
+        <translation>Обновление содержит более одной программы. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The application in the update is not a folder: tell the publisher.</source>
+        <translation>Программа в обновлении не является папкой. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The application in the update does not describe itself: tell the publisher.</source>
+        <translation>Программа в обновлении не содержит своего описания. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update is too large: tell the publisher.</source>
+        <translation>Описание программы в обновлении слишком велико. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update cannot be read: tell the publisher.</source>
+        <translation>Не удалось прочитать описание программы в обновлении. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <translation>Обновление предназначено для другой программы и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <translation>Версия обновления отличается от указанной в ленте, обновление отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <translation>Обновление не новее установленной программы и отклонено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <translation>У программы в обновлении нет открытого ключа, её больше никогда нельзя было бы обновить. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The application in the update has no program to start: tell the publisher.</source>
+        <translation>В программе из обновления нечего запускать. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The program in the update may not be started: tell the publisher.</source>
+        <translation>Программу из обновления нельзя запускать. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <translation>Программа в обновлении предназначена для компьютеров другого типа. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <translation>Обновление — это отдельная программа, что здесь не разрешено. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <translation>Программа из комплекта обновления не запустилась. Повторите попытку, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <translation>Программа из комплекта обновления не установила его. Повторите попытку, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <translation>Программа из комплекта обновления работала слишком долго и была завершена. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <translation>На диске недостаточно места для обновления. Освободите место и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <translation>Этот пользователь не может изменять папку, в которой находится программа. Обратитесь к тому, кто её установил.</translation>
+    </message>
+    <message>
+        <source>The disk reported an error: check it and try again.</source>
+        <translation>Диск сообщил об ошибке. Проверьте его и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <translation>Программа не закрылась, поэтому обновление не установлено. Сохраните свою работу, снова проверьте обновления и дайте программе закрыться.</translation>
+    </message>
+    <message>
+        <source>Another update of this application is being installed: wait for its end.</source>
+        <translation>Устанавливается другое обновление этой программы. Дождитесь окончания.</translation>
+    </message>
+    <message>
+        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <translation>Установленная программа находится не там, где была в начале обновления. Запустите её с её места и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <translation>Установленная программа была изменена во время подготовки обновления. Запустите её снова и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <translation>Подготовленное обновление было изменено до установки и отброшено. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <translation>Подготовленное обновление и программа находятся на разных дисках. Повторите попытку, а если это не поможет, установите программу заново.</translation>
+    </message>
+    <message>
+        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <translation>Не удалось поставить новую версию на место старой; старая осталась без изменений. Повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <translation>Диск не подтвердил, что обновление записано. Проверьте его и повторите попытку.</translation>
+    </message>
+    <message>
+        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <translation>Программу, которая должна запуститься после обновления, запускать нельзя. Запустите её вручную.</translation>
+    </message>
+    <message>
+        <source>The updated application did not start: start it by hand.</source>
+        <translation>Обновлённая программа не запустилась. Запустите её вручную.</translation>
+    </message>
+    <message>
+        <source>The update failed for a reason that is not known: try again later.</source>
+        <translation>Обновление не удалось по неизвестной причине. Повторите попытку позже.</translation>
+    </message>
+</context>
+<context>
     <name>PelnarEngine_ProgressWindow</name>
     <message>
         <source>%1 of %2</source>

@@ -36,6 +36,661 @@
     </message>
 </context>
 <context>
+    <name>PelnarEngine_Errors</name>
+    <message>
+        <source>You are running the newest version.</source>
+        <translation>您使用的已是最新版本。</translation>
+    </message>
+    <message>
+        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <translation>此应用程序未指明更新的发布位置。请从发布者处获取并重新安装。</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <translation>更新源的地址无效。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
+        <translation>更新源的地址类型不受允许：必须以 https 开头。</translation>
+    </message>
+    <message>
+        <source>The address of the update feed is not secure: it must begin with https.</source>
+        <translation>更新源的地址不安全：必须以 https 开头。</translation>
+    </message>
+    <message>
+        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <translation>找不到更新服务器。请检查互联网连接，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update server refused the connection: try again later.</source>
+        <translation>更新服务器拒绝了连接。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <translation>无法从此网络访问更新服务器。请检查连接，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <translation>更新服务器未及时接受连接。请检查连接，然后重试。</translation>
+    </message>
+    <message>
+        <source>The connection to the update server failed: try again later.</source>
+        <translation>连接更新服务器失败。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <translation>网络代理未放行该连接。请检查代理设置。</translation>
+    </message>
+    <message>
+        <source>The update server took too long to answer: try again later.</source>
+        <translation>更新服务器响应时间过长。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The update server answers too slowly: try again later.</source>
+        <translation>更新服务器响应过慢。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新服务器的证书仅由其自身签名，身份无法证实。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新服务器的证书由此计算机不认识的机构签发。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>更新服务器的证书已过期。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>更新服务器的证书尚未生效。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新服务器的证书是为其他服务器签发的。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新服务器的证书不可接受。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <translation>更新服务器未提供足够强的加密方式，无法建立安全连接。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <translation>此计算机无法建立安全连接。请安装 OpenSSL 库。</translation>
+    </message>
+    <message>
+        <source>The update server closed the connection before it answered: try again later.</source>
+        <translation>更新服务器在响应之前关闭了连接。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The update feed arrived incomplete: try again.</source>
+        <translation>收到的更新源不完整。请重试。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <translation>更新服务器响应的标头过多。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed is too large: tell the publisher.</source>
+        <translation>更新源过大。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <translation>更新服务器的响应不是正确的 HTTP。请换一个网络再试。</translation>
+    </message>
+    <message>
+        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>更新服务器给出的更新源长度自相矛盾。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server sent more than it announced: tell the publisher.</source>
+        <translation>更新服务器发送的数据多于其声明的数量。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server&apos;s answer is broken in its parts: try again.</source>
+        <translation>更新服务器的响应已损坏。请重试。</translation>
+    </message>
+    <message>
+        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <translation>更新服务器以未请求的方式传输更新源。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <translation>更新服务器发送了未请求的压缩更新源。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server answered with status %1: try again later.</source>
+        <translation>更新服务器返回了状态 %1。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <translation>更新服务器指向一个安全性较低的地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <translation>更新服务器指向一个类型不受允许的地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <translation>更新服务器指向的内容不是地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <translation>更新服务器指向另一个地址，但未给出该地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server points from address to address without end: tell the publisher.</source>
+        <translation>更新服务器不断从一个地址指向另一个地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The file with the update feed does not exist: check its address.</source>
+        <translation>更新源文件不存在。请检查其地址。</translation>
+    </message>
+    <message>
+        <source>The address of the update feed names a folder or a device: it must name a file.</source>
+        <translation>更新源的地址指向文件夹或设备：必须指向文件。</translation>
+    </message>
+    <message>
+        <source>The file with the update feed is too large: check its address.</source>
+        <translation>更新源文件过大。请检查其地址。</translation>
+    </message>
+    <message>
+        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <translation>无法读取更新源文件。请检查其权限。</translation>
+    </message>
+    <message>
+        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <translation>更新源是另一台计算机上的文件。请将其复制到此计算机。</translation>
+    </message>
+    <message>
+        <source>The update feed cannot be read: tell the publisher.</source>
+        <translation>无法读取更新源。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <translation>收到的是网页，而不是更新源。如果此网络要求登录，请先登录，然后重试。</translation>
+    </message>
+    <message>
+        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <translation>应用程序选择了更新源中没有的更新。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <translation>应用程序在查看更新时出错。请重新启动应用程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <translation>更新源给出的更新长度不可能正确。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <translation>服务器上更新的长度与更新源所述不符。请稍后再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <translation>更新服务器发送的不是所请求的那部分更新。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <translation>应用程序的另一个副本正在下载此更新。请等待其完成。</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <translation>无法使用存放已下载更新的文件夹。请检查其权限和所在磁盘。</translation>
+    </message>
+    <message>
+        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <translation>存放已下载更新的文件夹并非您一人所有。请将其删除，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <translation>更新还需要 %1 磁盘空间，目前可用空间为 %2。请释放空间，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
+        <translation>更新所需空间超出您的磁盘配额 %1，目前可用空间为 %2。请删除您的一些文件，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
+        <translation>更新文件过大，存放已下载更新的磁盘无法容纳。请寻求帮助。</translation>
+    </message>
+    <message>
+        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <translation>写入更新时磁盘出现故障。请检查磁盘，然后重试。</translation>
+    </message>
+    <message>
+        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <translation>计算机内存不足或打开的文件过多，无法下载。请关闭其他应用程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <translation>找不到应用程序的文件夹，无法更新。请从安装位置启动应用程序。</translation>
+    </message>
+    <message>
+        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <translation>应用程序是通过链接启动的，无法更新。请从链接指向的文件夹启动应用程序。</translation>
+    </message>
+    <message>
+        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <translation>应用程序由 %1 安装，也由其更新。请使用命令“%2”。</translation>
+    </message>
+    <message>
+        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <translation>应用程序从映像文件运行。请将文件 %1 替换为新版本的文件。</translation>
+    </message>
+    <message>
+        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <translation>应用程序位于无法写入的磁盘上。请将其复制到其他文件夹并从那里启动。</translation>
+    </message>
+    <message>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>应用程序的文件夹是一个独立的磁盘，无法替换。请将其复制到其他文件夹并从那里启动应用程序。</translation>
+    </message>
+    <message>
+        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <translation>应用程序受到保护，无法进行任何更改。请让设置保护的人移除文件属性“immutable”或“append only”。</translation>
+    </message>
+    <message>
+        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <translation>应用程序属于此计算机的其他用户。请让该用户或管理员进行更新。</translation>
+    </message>
+    <message>
+        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <translation>您无权更改应用程序的文件夹。请让管理员进行更新。</translation>
+    </message>
+    <message>
+        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <translation>此计算机的其他用户可能更改应用程序的文件夹，因此不在该处更新。请让管理员修正其权限。</translation>
+    </message>
+    <message>
+        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
+        <translation>没有足够的空间用于更新：需要 %1，可用空间为 %2。请释放空间，然后重试。</translation>
+    </message>
+    <message>
+        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <translation>此应用程序的更新已关闭。请咨询此计算机的管理者。</translation>
+    </message>
+    <message>
+        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <translation>最近几次检查更新失败，因此下一次检查已推迟。如需立即尝试，请手动检查。</translation>
+    </message>
+    <message>
+        <source>The update was cancelled: check for updates to begin again.</source>
+        <translation>更新已取消。如需重新开始，请检查更新。</translation>
+    </message>
+    <message>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <translation>此应用程序未注明其标识符和版本，无法为其匹配更新。请从发布者处获取并重新安装。</translation>
+    </message>
+    <message>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <translation>安装更新的程序意外结束。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The check for updates failed: try again later.</source>
+        <translation>检查更新失败。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <translation>更新源给出的更新地址不是地址。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <translation>更新的地址类型不受允许，不是 https。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <translation>更新的地址不以 https 开头，不安全。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <translation>下载更新时连接中断。请重试，下载将从中断处继续。</translation>
+    </message>
+    <message>
+        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <translation>更新服务器给出的更新长度自相矛盾。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <translation>更新服务器以未请求的方式传输更新。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <translation>更新服务器发送了未请求的压缩更新。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed is not well-formed XML.</source>
+        <translation>更新源第 %1 行不是格式正确的 XML。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <translation>更新源第 %1 行有文档类型声明，更新源中不允许使用。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed nests elements more than %2 levels deep.</source>
+        <translation>更新源第 %1 行的元素嵌套超过 %2 层。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag with more than %2 attributes.</source>
+        <translation>更新源第 %1 行有一个标记的属性超过 %2 个。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has a tag of more than %2 bytes.</source>
+        <translation>更新源第 %1 行有一个标记超过 %2 字节。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <translation>更新源第 %1 行超出了更新源允许的 %2 个元素和属性。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
+        <translation>更新源第 %1 行是第 %2 个项目，但只允许 %3 个。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has more than %2 namespaces declared.</source>
+        <translation>更新源第 %1 行声明的命名空间超过 %2 个。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <translation>更新源第 %1 行开始的是网页，而不是更新源。</translation>
+    </message>
+    <message>
+        <source>Line %1 of the feed has an unknown error.</source>
+        <translation>更新源第 %1 行有未知错误。</translation>
+    </message>
+    <message>
+        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <translation>应用程序由系统的软件包管理器安装，也由其更新。请使用命令“%1”。</translation>
+    </message>
+    <message>
+        <source>The update could not be installed: try again later.</source>
+        <translation>无法安装更新。请稍后再试。</translation>
+    </message>
+    <message>
+        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <translation>安装更新的程序未能理解所给的任务。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <translation>安装更新的程序无法使用所给的文件。请重试。</translation>
+    </message>
+    <message>
+        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <translation>安装更新的程序缺失，或可能被他人更改。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <translation>更新必须在隔离的进程中解压，但未能做到。请告知发布者这是什么系统。</translation>
+    </message>
+    <message>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>此应用程序在 SUPublicEDKey 下没有公钥，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
+    </message>
+    <message>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <translation>此应用程序在 SUPublicEDKey 下的公钥已损坏，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
+    </message>
+    <message>
+        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <translation>更新没有签名，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
+        <translation>更新的签名不是有效的签名，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新不是由此应用程序的发布者签名的，或在传输中损坏，已被拒绝。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <translation>此计算机无法验证签名。请重新安装 libsodium 库。</translation>
+    </message>
+    <message>
+        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <translation>下载的更新是空的。请重试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <translation>无法从磁盘读取下载的更新。请检查磁盘，然后重试。</translation>
+    </message>
+    <message>
+        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <translation>下载的更新比更新源所述的更长或更短。请重试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <translation>另一个程序在验证期间更改了下载的更新。请关闭该程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <translation>更新的打包方式未知。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The archive of the update is damaged: tell the publisher.</source>
+        <translation>更新的压缩包已损坏。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <translation>更新的压缩包有多种读取方式，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <translation>更新的压缩包已加密，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <translation>更新的压缩包使用未知的压缩方式。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <translation>更新中有文件的名称不受允许。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <translation>更新中有文件的名称过长。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <translation>更新中有文件会落到应用程序之外，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The folders of the update are too deep: tell the publisher.</source>
+        <translation>更新的文件夹层级过深。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <translation>更新中有既非文件、也非文件夹或链接的内容，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <translation>更新中有硬链接，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <translation>更新中有带空洞的文件，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <translation>更新中有未注明大小的文件，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <translation>更新中同一个文件出现两次，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <translation>更新中有文件的名称仅大小写或重音符号不同，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <translation>更新中有文件位于并非文件夹的内容之下，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <translation>更新中有链接指向不受允许的名称。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <translation>更新中有链接指向应用程序之外，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <translation>更新中有链接没有目标。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <translation>更新中有链接指回自身。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has too many files: tell the publisher.</source>
+        <translation>更新中的文件过多。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update has too many links: tell the publisher.</source>
+        <translation>更新中的链接过多。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <translation>更新解压后过大。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <translation>已安装的应用程序被更改过，增量更新不适用。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
+        <translation>应用增量更新后的结果与预期不符。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update holds no application: tell the publisher.</source>
+        <translation>更新中没有应用程序。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update holds more than one application: tell the publisher.</source>
+        <translation>更新中有多个应用程序。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The application in the update is not a folder: tell the publisher.</source>
+        <translation>更新中的应用程序不是文件夹。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The application in the update does not describe itself: tell the publisher.</source>
+        <translation>更新中的应用程序没有自身的说明信息。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update is too large: tell the publisher.</source>
+        <translation>更新中应用程序的说明信息过大。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The description of the application in the update cannot be read: tell the publisher.</source>
+        <translation>无法读取更新中应用程序的说明信息。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <translation>此更新属于另一个应用程序，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <translation>更新的版本与更新源所述不符，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <translation>更新不比已安装的应用程序新，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <translation>更新中的应用程序没有公钥，以后将无法再更新。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The application in the update has no program to start: tell the publisher.</source>
+        <translation>更新中的应用程序没有可启动的程序。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The program in the update may not be started: tell the publisher.</source>
+        <translation>更新中的程序不允许启动。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <translation>更新中的程序适用于其他类型的计算机。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <translation>更新是一个独立的程序，此应用程序不允许这样的更新。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <translation>更新附带的程序未能启动。请重试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <translation>更新附带的程序未能安装更新。请重试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <translation>更新附带的程序耗时过长，已被终止。请重试。</translation>
+    </message>
+    <message>
+        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <translation>磁盘空间不足，无法更新。请释放空间，然后重试。</translation>
+    </message>
+    <message>
+        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <translation>此用户无权更改应用程序所在的文件夹。请咨询安装它的人。</translation>
+    </message>
+    <message>
+        <source>The disk reported an error: check it and try again.</source>
+        <translation>磁盘报告了错误。请检查磁盘，然后重试。</translation>
+    </message>
+    <message>
+        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <translation>应用程序未关闭，因此未安装更新。请保存您的工作，再次检查更新，并让应用程序关闭。</translation>
+    </message>
+    <message>
+        <source>Another update of this application is being installed: wait for its end.</source>
+        <translation>正在安装此应用程序的另一个更新。请等待其完成。</translation>
+    </message>
+    <message>
+        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <translation>已安装的应用程序不在更新开始时的位置。请从原位置启动，然后重试。</translation>
+    </message>
+    <message>
+        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <translation>准备更新期间，已安装的应用程序被更改。请重新启动应用程序，然后重试。</translation>
+    </message>
+    <message>
+        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <translation>准备好的更新在安装前被更改，已被丢弃。请重试。</translation>
+    </message>
+    <message>
+        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <translation>准备好的更新与应用程序位于不同的磁盘上。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <translation>无法用新版本替换旧版本，旧版本保持不变。请重试。</translation>
+    </message>
+    <message>
+        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <translation>磁盘未确认已保存更新。请检查磁盘，然后重试。</translation>
+    </message>
+    <message>
+        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <translation>更新后应启动的应用程序不允许启动。请手动启动。</translation>
+    </message>
+    <message>
+        <source>The updated application did not start: start it by hand.</source>
+        <translation>更新后的应用程序未能启动。请手动启动。</translation>
+    </message>
+    <message>
+        <source>The update failed for a reason that is not known: try again later.</source>
+        <translation>更新因未知原因失败。请稍后再试。</translation>
+    </message>
+</context>
+<context>
     <name>PelnarEngine_ProgressWindow</name>
     <message>
         <source>%1 of %2</source>
@@ -50,19 +705,19 @@
     <message numerus="yes">
         <source>About %Ln second(s) left</source>
         <translation>
-            <numerusform>大约剩余 %Ln 秒</numerusform>
+            <numerusform>大约还剩 %Ln 秒</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %Ln minute(s) left</source>
         <translation>
-            <numerusform>大约剩余 %Ln 分钟</numerusform>
+            <numerusform>大约还剩 %Ln 分钟</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>About %Ln hour(s) left</source>
         <translation>
-            <numerusform>大约剩余 %Ln 小时</numerusform>
+            <numerusform>大约还剩 %Ln 小时</numerusform>
         </translation>
     </message>
     <message>
@@ -126,7 +781,7 @@
     <message>
         <source>%1 %2 is now available; you have %3. Would you like to download it now?</source>
         <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
-        <translation>%1 %2 现已可用，您当前的版本是 %3。要现在下载吗？</translation>
+        <translation>%1 %2 现已推出，您当前的版本是 %3。要现在下载吗？</translation>
     </message>
     <message>
         <source>This update is important: it should be installed soon.</source>
@@ -162,7 +817,7 @@
     <name>SparkleUpdater</name>
     <message>
         <source>Update is already running. Please try later.</source>
-        <translation>更新已在进行中。请稍后再试。</translation>
+        <translation>已有更新正在进行。请稍后再试。</translation>
     </message>
     <message>
         <source>A new version of %1 %2 is ready to install</source>
@@ -170,7 +825,7 @@
     </message>
     <message>
         <source>The %1 %2 update has been downloaded and is waiting for your approval. Would you like to install the update and relaunch %1 now?</source>
-        <translation>%1 %2 更新已下载，正在等待您的批准。要现在安装更新并重新启动 %1 吗？</translation>
+        <translation>%1 %2 更新已下载，正在等待您的确认。要现在安装更新并重新启动 %1 吗？</translation>
     </message>
     <message>
         <source>Skip This Version</source>

@@ -1,7 +1,5 @@
 #include "Engine/core/EngineError.h"
 
-#include <QLocale>
-
 #include <algorithm>
 #include <array>
 
@@ -15,102 +13,153 @@ char const* SentenceOf(ErrorCause cause)
     switch (cause)
     {
     case ErrorCause::NoUpdate:
-        return "You are running the newest version.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "You are running the newest version.");
 
     case ErrorCause::NoFeedAddress:
-        return "This application does not say where its updates are published: install it anew from its publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "This application does not say where its updates are published: install it anew from its publisher.");
     case ErrorCause::InvalidAddress:
-        return "The address of the update feed is not a valid address: install the application anew.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The address of the update feed is not a valid address: install the application anew.");
     case ErrorCause::SchemeRefused:
-        return "The address of the update feed is of a kind that is not allowed: it must begin with https.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The address of the update feed is of a kind that is not allowed: it must begin with https.");
     case ErrorCause::InsecureAddress:
-        return "The address of the update feed is not secure: it must begin with https.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The address of the update feed is not secure: it must begin with https.");
 
     case ErrorCause::HostNotFound:
-        return "The update server was not found: check the connection to the internet and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server was not found: check the connection to the internet and try again.");
     case ErrorCause::ConnectionRefused:
-        return "The update server refused the connection: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update server refused the connection: try again later.");
     case ErrorCause::NetworkUnreachable:
-        return "The update server cannot be reached from this network: check the connection and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server cannot be reached from this network: check the connection and try again.");
     case ErrorCause::ConnectTimeout:
-        return "The update server did not accept the connection in time: check the connection and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server did not accept the connection in time: check the connection and try again.");
     case ErrorCause::ConnectionFailed:
-        return "The connection to the update server failed: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The connection to the update server failed: try again later.");
     case ErrorCause::ProxyFailed:
-        return "The network proxy did not let the connection through: check the proxy's settings.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The network proxy did not let the connection through: check the proxy's settings.");
     case ErrorCause::TotalTimeout:
-        return "The update server took too long to answer: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update server took too long to answer: try again later.");
     case ErrorCause::TooSlow:
-        return "The update server answers too slowly: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update server answers too slowly: try again later.");
 
     case ErrorCause::CertificateSelfSigned:
-        return "The update server's certificate is signed by itself only, so its identity is unproved: try another "
-               "network, and tell the publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate is signed by itself only, so its identity is unproved: try another "
+            "network, and tell the publisher if it stays so.");
     case ErrorCause::CertificateAuthorityUnknown:
-        return "The update server's certificate comes from an authority that this computer does not know: try another "
-               "network, and tell the publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate comes from an authority that this computer does not know: try another "
+            "network, and tell the publisher if it stays so.");
     case ErrorCause::CertificateExpired:
-        return "The update server's certificate has expired: check the clock of this computer, and tell the publisher "
-               "if it is right.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate has expired: check the clock of this computer, and tell the publisher "
+            "if it is right.");
     case ErrorCause::CertificateNotYetValid:
-        return "The update server's certificate is not valid yet: check the clock of this computer, and tell the "
-               "publisher if it is right.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate is not valid yet: check the clock of this computer, and tell the "
+            "publisher if it is right.");
     case ErrorCause::CertificateWrongName:
-        return "The update server's certificate was made for another server: try another network, and tell the "
-               "publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate was made for another server: try another network, and tell the "
+            "publisher if it stays so.");
     case ErrorCause::CertificateInvalid:
-        return "The update server's certificate is not acceptable: try another network, and tell the publisher if it "
-               "stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server's certificate is not acceptable: try another network, and tell the publisher if it "
+            "stays so.");
     case ErrorCause::HandshakeRefused:
-        return "No secure connection to the update server came about, since it offers none that is strong enough: tell "
-               "the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "No secure connection to the update server came about, since it offers none that is strong enough: tell "
+            "the publisher.");
     case ErrorCause::SecureConnectionUnavailable:
-        return "This computer cannot make secure connections: install its OpenSSL library.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "This computer cannot make secure connections: install its OpenSSL library.");
 
     case ErrorCause::IncompleteHead:
-        return "The update server closed the connection before it answered: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server closed the connection before it answered: try again later.");
     case ErrorCause::IncompleteBody:
-        return "The update feed arrived incomplete: try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update feed arrived incomplete: try again.");
     case ErrorCause::HeadTooLarge:
-        return "The update server's answer has too many headers: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server's answer has too many headers: tell the publisher.");
     case ErrorCause::BodyTooLarge:
-        return "The update feed is too large: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update feed is too large: tell the publisher.");
     case ErrorCause::MalformedHead:
-        return "The update server's answer is not proper HTTP: try another network.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server's answer is not proper HTTP: try another network.");
     case ErrorCause::ContradictoryLength:
-        return "The update server states the feed's length in contradictory ways: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server states the feed's length in contradictory ways: tell the publisher.");
     case ErrorCause::SurplusBody:
-        return "The update server sent more than it announced: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server sent more than it announced: tell the publisher.");
     case ErrorCause::MalformedChunk:
-        return "The update server's answer is broken in its parts: try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server's answer is broken in its parts: try again.");
     case ErrorCause::TransferEncodingRefused:
-        return "The update server transfers the feed in a way that was not asked for: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server transfers the feed in a way that was not asked for: tell the publisher.");
     case ErrorCause::ContentEncodingRefused:
-        return "The update server sent the feed compressed, which was not asked for: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server sent the feed compressed, which was not asked for: tell the publisher.");
     case ErrorCause::HttpStatus:
-        return "The update server answered with status %1: try again later.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update server answered with status %1: try again later.");
 
     case ErrorCause::RedirectDowngrade:
-        return "The update server points to an address that is less secure: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server points to an address that is less secure: tell the publisher.");
     case ErrorCause::RedirectScheme:
-        return "The update server points to an address of a kind that is not allowed: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server points to an address of a kind that is not allowed: tell the publisher.");
     case ErrorCause::RedirectInvalid:
-        return "The update server points to something that is not an address: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server points to something that is not an address: tell the publisher.");
     case ErrorCause::RedirectWithoutLocation:
-        return "The update server points to another address without naming it: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server points to another address without naming it: tell the publisher.");
     case ErrorCause::TooManyRedirects:
-        return "The update server points from address to address without end: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server points from address to address without end: tell the publisher.");
 
     case ErrorCause::FileNotFound:
-        return "The file with the update feed does not exist: check its address.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The file with the update feed does not exist: check its address.");
     case ErrorCause::FileNotRegular:
-        return "The address of the update feed names a folder or a device: it must name a file.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The address of the update feed names a folder or a device: it must name a file.");
     case ErrorCause::FileTooLarge:
-        return "The file with the update feed is too large: check its address.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The file with the update feed is too large: check its address.");
     case ErrorCause::FileUnreadable:
-        return "The file with the update feed cannot be read: check its permissions.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The file with the update feed cannot be read: check its permissions.");
     case ErrorCause::FileOnOtherHost:
-        return "The update feed is a file of another computer: copy it to this one.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update feed is a file of another computer: copy it to this one.");
 
     case ErrorCause::FeedMalformed:
     case ErrorCause::FeedDocumentType:
@@ -120,9 +169,13 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::FeedTooManyItems:
     case ErrorCause::FeedTooManyNamespaces:
     case ErrorCause::FeedTooMuchMarkup:
-        return "The update feed cannot be read: tell the publisher."; // replaced by the parser's, which names the line
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed cannot be read: tell the publisher."); // replaced by the parser's, which names the line
     case ErrorCause::FeedIsWebPage:
-        return "A web page came in place of the update feed: sign in to this network if it asks for it, and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "A web page came in place of the update feed: sign in to this network if it asks for it, and try again.");
 
     case ErrorCause::FeedUnsigned:
         return "The update feed is not signed, as this application requires: try another network, and tell the "
@@ -158,81 +211,129 @@ char const* SentenceOf(ErrorCause cause)
         return "The update feed has expired: check the clock of this computer, and tell the publisher if it is right.";
 
     case ErrorCause::ForeignItem:
-        return "The application chose an update that is not in the feed: install the application anew.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application chose an update that is not in the feed: install the application anew.");
     case ErrorCause::DelegateRaised:
-        return "The application failed while it looked at the updates: restart it and try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The application failed while it looked at the updates: restart it and try again.");
 
     case ErrorCause::DownloadLengthInvalid:
-        return "The feed gives a length of the update that cannot be right: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The feed gives a length of the update that cannot be right: tell the publisher.");
     case ErrorCause::DownloadLengthDiffers:
-        return "The update on the server is not as long as the feed says: try again later, and tell the publisher if "
-               "it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update on the server is not as long as the feed says: try again later, and tell the publisher if "
+            "it stays so.");
     case ErrorCause::DownloadRangeWrong:
-        return "The update server sent another part of the update than was asked for: try again later.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server sent another part of the update than was asked for: try again later.");
     case ErrorCause::DownloadBusy:
-        return "Another copy of the application is downloading this update: wait until it has finished.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "Another copy of the application is downloading this update: wait until it has finished.");
     case ErrorCause::DownloadFolderUnusable:
-        return "The folder for downloaded updates cannot be used: check its permissions and its disk.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The folder for downloaded updates cannot be used: check its permissions and its disk.");
     case ErrorCause::DownloadFolderUnsafe:
-        return "The folder for downloaded updates is not yours alone: remove it, and try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The folder for downloaded updates is not yours alone: remove it, and try again.");
     case ErrorCause::DownloadNoRoom:
-        return "The update needs %1 more on the disk, where %2 are free: make room and try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update needs %1 more on the disk, where %2 are free: make room and try again.");
     case ErrorCause::DownloadQuotaReached:
-        return "The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours "
-               "and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours "
+            "and try again.");
     case ErrorCause::DownloadFileTooLarge:
-        return "The update is a larger file than the disk for downloaded updates can hold: ask for help.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update is a larger file than the disk for downloaded updates can hold: ask for help.");
     case ErrorCause::DownloadDiskFailed:
-        return "The disk failed while the update was written to it: check the disk and try again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The disk failed while the update was written to it: check the disk and try again.");
     case ErrorCause::DownloadSystemBusy:
-        return "The computer has too little memory or too many open files for the download: close other applications "
-               "and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The computer has too little memory or too many open files for the download: close other applications "
+            "and try again.");
 
     case ErrorCause::BundleMissing:
-        return "The application's folder was not found, so it cannot be updated: start it from where it is installed.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application's folder was not found, so it cannot be updated: start it from where it is installed.");
     case ErrorCause::BundleIsLink:
-        return "The application was started through a link, so it cannot be updated: start it from the folder that the "
-               "link points to.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application was started through a link, so it cannot be updated: start it from the folder that the "
+            "link points to.");
     case ErrorCause::BundleOfPackage:
-        return "The application was installed by %1, which updates it too: use the command \"%2\".";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The application was installed by %1, which updates it too: use the command \"%2\".");
     case ErrorCause::BundleInImage:
-        return "The application runs from an image file: replace the file %1 by the new version's.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The application runs from an image file: replace the file %1 by the new version's.");
     case ErrorCause::BundleOnReadOnlyFileSystem:
-        return "The application stands on a disk that cannot be written: copy it to another folder and start it there.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application stands on a disk that cannot be written: copy it to another folder and start it there.");
     case ErrorCause::BundleIsMountPoint:
-        return "The application's folder is a disk of its own, so it cannot be replaced: copy it to another folder and "
-               "start it there.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application's folder is a disk of its own, so it cannot be replaced: copy it to another folder and "
+            "start it there.");
     case ErrorCause::BundleImmutable:
-        return "The application is protected against every change: ask whoever protected it to take the file attribute "
-               "\"immutable\" or \"append only\" away.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application is protected against every change: ask whoever protected it to take the file attribute "
+            "\"immutable\" or \"append only\" away.");
     case ErrorCause::BundleOfAnotherUser:
-        return "The application belongs to another user of this computer: ask them, or the administrator, to update "
-               "it.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application belongs to another user of this computer: ask them, or the administrator, to update "
+            "it.");
     case ErrorCause::BundleNotWritable:
-        return "You may not change the folder of the application: ask the administrator to update it.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "You may not change the folder of the application: ask the administrator to update it.");
     case ErrorCause::BundleFolderUnsafe:
-        return "Other users of this computer could change the application's folder, so it is not updated there: ask "
-               "the administrator to set its permissions right.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "Other users of this computer could change the application's folder, so it is not updated there: ask "
+            "the administrator to set its permissions right.");
     case ErrorCause::NoRoomForUpdate:
-        return "There is no room for the update: it needs %1, and %2 are free. Make room and try again.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "There is no room for the update: it needs %1, and %2 are free. Make room and try again.");
 
     case ErrorCause::UpdatesDisabled:
-        return "Updates of this application are switched off: ask whoever manages this computer.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "Updates of this application are switched off: ask whoever manages this computer.");
     case ErrorCause::HeldBack:
-        return "The last checks for updates failed, so the next one waits: check by hand to try at once.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The last checks for updates failed, so the next one waits: check by hand to try at once.");
 
     case ErrorCause::Cancelled:
-        return "The update was cancelled: check for updates to begin again.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update was cancelled: check for updates to begin again.");
     case ErrorCause::BundleUnnamed:
-        return "This application does not say its identifier and version, so that no update can be matched to it: "
-               "install it anew from its publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "This application does not say its identifier and version, so that no update can be matched to it: "
+            "install it anew from its publisher.");
     case ErrorCause::HelperFailed:
-        return "The program that installs updates ended unexpectedly: try again, and install the application anew if "
-               "it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The program that installs updates ended unexpectedly: try again, and install the application anew if "
+            "it stays so.");
     case ErrorCause::Fault:
         break; // SentenceOf(UpdateFault)
     }
-    return "The check for updates failed: try again later.";
+    return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The check for updates failed: try again later.");
 }
 
 /// Of a cause whose usual sentence speaks of the feed.
@@ -240,31 +341,44 @@ char const* DownloadSentenceOf(EngineError const& error)
 {
     if (error.cause == ErrorCause::InvalidAddress)
     {
-        return "The feed gives an address of the update that is none: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The feed gives an address of the update that is none: tell the publisher.");
     }
     if (error.cause == ErrorCause::SchemeRefused)
     {
-        return "The address of the update is of a kind that is not allowed, not https: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The address of the update is of a kind that is not allowed, not https: tell the publisher.");
     }
     if (error.cause == ErrorCause::InsecureAddress)
     {
-        return "The address of the update is not secure, since it does not begin with https: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The address of the update is not secure, since it does not begin with https: tell the publisher.");
     }
     if (error.cause == ErrorCause::IncompleteBody)
     {
-        return "The connection broke while the update was downloaded: try again, it goes on from there.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The connection broke while the update was downloaded: try again, it goes on from there.");
     }
     if (error.cause == ErrorCause::ContradictoryLength)
     {
-        return "The update server states the update's length in contradictory ways: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server states the update's length in contradictory ways: tell the publisher.");
     }
     if (error.cause == ErrorCause::TransferEncodingRefused)
     {
-        return "The update server transfers the update in a way that was not asked for: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server transfers the update in a way that was not asked for: tell the publisher.");
     }
     if (error.cause == ErrorCause::ContentEncodingRefused)
     {
-        return "The update server sent the update compressed, which was not asked for: tell the publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server sent the update compressed, which was not asked for: tell the publisher.");
     }
     return nullptr;
 }
@@ -380,19 +494,14 @@ QString EscapedRemoteText(QString const& text)
 
 EngineError MakeError(ErrorCause cause, QString const& remoteDetail)
 {
-    return {CodeOf(cause),
-            cause,
-            0,
-            UpdateFault::None,
-            QString::fromLatin1(SentenceOf(cause)),
-            EscapedRemoteText(remoteDetail)};
+    return {CodeOf(cause), cause, 0, UpdateFault::None, Sentence(SentenceOf(cause)), EscapedRemoteText(remoteDetail)};
 }
 
 EngineError MakeHttpStatusError(int status)
 {
     EngineError error = MakeError(ErrorCause::HttpStatus);
     error.httpStatus = status;
-    error.sentence = error.sentence.arg(status);
+    error.sentence = Sentence(error.sentence.Source(), {QString::number(status)});
     return error;
 }
 
@@ -401,18 +510,15 @@ EngineError AsDownloadError(EngineError error)
     error.code = ErrorCode::Download;
     if (char const* const sentence = DownloadSentenceOf(error))
     {
-        error.sentence = QString::fromLatin1(sentence);
+        error.sentence = Sentence(sentence);
     }
     return error;
 }
 
 EngineError MakeRoomError(ErrorCause cause, quint64 neededBytes, quint64 freeBytes)
 {
-    QLocale const locale;
-    auto const text = [&locale](quint64 bytes)
-    { return locale.formattedDataSize(static_cast<qint64>(bytes), 1, QLocale::DataSizeSIFormat); };
     EngineError error = MakeError(cause);
-    error.sentence = error.sentence.arg(text(neededBytes), text(freeBytes));
+    error.sentence = Sentence(error.sentence.Source(), {ByteCount{neededBytes}, ByteCount{freeBytes}});
     return error;
 }
 

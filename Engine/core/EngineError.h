@@ -3,6 +3,7 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
+#include "Engine/core/Sentence.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/payload/UpdateFault.h"
 
@@ -167,7 +168,7 @@ struct EngineError
     ErrorCause cause = ErrorCause::NoUpdate;
     int httpStatus = 0;                    ///< for HttpStatus only
     UpdateFault fault = UpdateFault::None; ///< for Fault only
-    QString sentence;                      ///< our own words only: what happened and what to do
+    Sentence sentence;                     ///< our own words only: what happened and what to do
     QString detail; ///< may quote others; escaped and at most MAX_REMOTE_TEXT characters; may be empty
 
     /// The domain and code of the underlying error. No two failures share both.
@@ -186,8 +187,8 @@ EngineError MakeError(ErrorCause cause, QString const& remoteDetail = {});
 EngineError MakeHttpStatusError(int status);
 /// \a error, met on the way to an archive: with the code of downloads, and in words that do not speak of the feed.
 EngineError AsDownloadError(EngineError error);
-/// \a cause is DownloadNoRoom or DownloadQuotaReached; the sentence says how much the archive needs and how much is
-/// free.
+/// \a cause is NoRoomForUpdate, DownloadNoRoom or DownloadQuotaReached; the sentence says how much the archive needs
+/// and how much is free.
 EngineError MakeRoomError(ErrorCause cause, quint64 neededBytes, quint64 freeBytes);
 /// REQUIRES: error.kind is not None.
 EngineError MakeFeedError(FeedParseError const& error);

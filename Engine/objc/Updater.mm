@@ -3,6 +3,7 @@
 #import "Engine/objc/ImmediateInstallation_p.h"
 #import "Engine/objc/SUAppcast_p.h"
 #import "Engine/objc/SUUpdater_p.h"
+#import "Engine/objc/TranslatedError_p.h"
 
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/objc/BundleSettings_p.h"
@@ -26,28 +27,6 @@ namespace
 
 /// The updater that has been tied to the application object.
 Updater* runningUpdater = nullptr;
-
-NSError* ToNSError(EngineError const& error)
-{
-    NSError* underlying = nil;
-    if (error.cause != ErrorCause::NoUpdate)
-    {
-        NSDictionary* const detail = error.detail.isEmpty()
-                                         ? nil
-                                         : [NSDictionary dictionaryWithObject:ToNSString(error.detail)
-                                                                       forKey:NSLocalizedDescriptionKey];
-        underlying = [NSError errorWithDomain:ToNSString(error.UnderlyingDomain())
-                                         code:error.UnderlyingCode()
-                                     userInfo:detail];
-    }
-    NSMutableDictionary* const information = [NSMutableDictionary dictionaryWithObject:ToNSString(error.sentence)
-                                                                                forKey:NSLocalizedDescriptionKey];
-    if (underlying)
-    {
-        [information setObject:underlying forKey:NSUnderlyingErrorKey];
-    }
-    return [NSError errorWithDomain:SUSparkleErrorDomain code:static_cast<NSInteger>(error.code) userInfo:information];
-}
 
 } // namespace
 
@@ -289,7 +268,7 @@ void Updater::TellAborted(EngineError const& error)
             {
                 if ([m_delegate respondsToSelector:@selector(updater:didAbortWithError:)])
                 {
-                    [m_delegate updater:m_face didAbortWithError:ToNSError(error)];
+                    [m_delegate updater:m_face didAbortWithError:[PelnarTranslatedError errorWithError:error]];
                 }
             }
         });

@@ -8,14 +8,14 @@
 namespace Pelnar::Engine
 {
 
-ErrorWindow::ErrorWindow(QString const& sentence)
+ErrorWindow::ErrorWindow(Sentence const& sentence)
     : EngineWindow(QStringLiteral("PelnarEngine_errorWindow"), CheckOrigin::User)
 {
     ShowWarningIcon();
     AddHeading(QStringLiteral("PelnarEngine_heading"),
                QCoreApplication::translate("PelnarEngine_ErrorWindow", "The update could not be completed"));
     // The sentence may name a command to use.
-    AddGivenText(QStringLiteral("PelnarEngine_detail"), ShownSentence(sentence))
+    AddText(QStringLiteral("PelnarEngine_detail"), ShownSentence(sentence, layoutDirection()))
         ->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     AddOnlyAnswer([this] { Q_EMIT Closed(); });
 }

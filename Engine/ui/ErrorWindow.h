@@ -2,6 +2,7 @@
 // Thread: the Qt main thread. Ownership: whoever made it.
 #pragma once
 
+#include "Engine/core/Sentence.h"
 #include "Engine/ui/EngineWindow.h"
 
 namespace Pelnar::Engine
@@ -12,7 +13,7 @@ class ErrorWindow : public EngineWindow
     Q_OBJECT
 
 public:
-    explicit ErrorWindow(QString const& sentence);
+    explicit ErrorWindow(Sentence const& sentence);
 
 Q_SIGNALS:
     void Closed();

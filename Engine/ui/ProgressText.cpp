@@ -1,10 +1,11 @@
 #include "Engine/ui/ProgressText.h"
 
+#include "Engine/core/Sentence.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 
 #include <algorithm>
-#include <limits>
 
 namespace Pelnar::Engine
 {
@@ -24,8 +25,7 @@ int RoundedUp(quint64 seconds, quint64 unit)
 
 QString SizeText(quint64 bytes)
 {
-    auto const shown = static_cast<qint64>(std::min<quint64>(bytes, std::numeric_limits<qint64>::max()));
-    return QLocale().formattedDataSize(shown, 1, QLocale::DataSizeSIFormat);
+    return SizeText(bytes, QLocale());
 }
 
 QString AmountText(UpdateProgress const& progress)

@@ -7,7 +7,7 @@ namespace
 
 constexpr int MAX_NAME_CHARACTERS = 100;
 constexpr int MAX_VERSION_CHARACTERS = 40;
-constexpr int MAX_SENTENCE_CHARACTERS = 400;
+constexpr int MAX_INSERTED_CHARACTERS = 200;
 
 bool IsShown(QChar c)
 {
@@ -90,9 +90,18 @@ QString ShownVersion(QString const& version)
     return OneLine(version, MAX_VERSION_CHARACTERS);
 }
 
-QString ShownSentence(QString const& sentence)
+QString ShownSentence(Sentence const& sentence, Qt::LayoutDirection direction)
 {
-    return OneLine(sentence, MAX_SENTENCE_CHARACTERS);
+    constexpr char16_t FIRST_STRONG_ISOLATE = 0x2068;
+    constexpr char16_t END_OF_ISOLATE = 0x2069;
+    return sentence.Translated(
+        [direction](QString const& text)
+        {
+            QString const line = OneLine(text, MAX_INSERTED_CHARACTERS);
+            // Between words that run the other way, the slashes of a path and the dashes of a command would go astray.
+            bool const isAgainstTheSentence = line.isRightToLeft() != (direction == Qt::RightToLeft);
+            return isAgainstTheSentence ? QChar(FIRST_STRONG_ISOLATE) + line + QChar(END_OF_ISOLATE) : line;
+        });
 }
 
 } // namespace Pelnar::Engine

@@ -1,6 +1,8 @@
 // ServerText.h: text of a server made fit for a label.
-// Thread: any; no state. Ownership: values only.
+// Thread: any, but for sentences, which want the Qt main thread; no state. Ownership: values only.
 #pragma once
+
+#include "Engine/core/Sentence.h"
 
 #include <QString>
 
@@ -14,6 +16,8 @@ namespace Pelnar::Engine
 /// For an application's name, a version, a title; the longest that a label shows.
 [[nodiscard]] QString ShownName(QString const& name);
 [[nodiscard]] QString ShownVersion(QString const& version);
-[[nodiscard]] QString ShownSentence(QString const& sentence);
+/// \a sentence in the language of the windows, whose direction is \a direction. What is put into it is on one line,
+/// shortened, and keeps its own direction.
+[[nodiscard]] QString ShownSentence(Sentence const& sentence, Qt::LayoutDirection direction);
 
 } // namespace Pelnar::Engine

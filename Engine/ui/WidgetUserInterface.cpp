@@ -84,7 +84,7 @@ void WidgetUserInterface::ShowReadyToInstall(NamedVersion const& update, CheckOr
     Show(new ReadyWindow(update, origin), &ReadyWindow::Chosen, std::move(onChosen));
 }
 
-void WidgetUserInterface::ShowError(QString const& sentence, std::function<void()> onClosed)
+void WidgetUserInterface::ShowError(Sentence const& sentence, std::function<void()> onClosed)
 {
     Show(new ErrorWindow(sentence), &ErrorWindow::Closed, std::move(onClosed));
 }

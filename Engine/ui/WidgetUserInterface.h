@@ -32,7 +32,7 @@ public:
     void SetProgress(UpdateProgress const& progress) override;
     void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
                             std::function<void(ReadyChoice)> onChosen) override;
-    void ShowError(QString const& sentence, std::function<void()> onClosed) override;
+    void ShowError(Sentence const& sentence, std::function<void()> onClosed) override;
     void BringToFront() override;
     void Close() override;
 

@@ -81,7 +81,8 @@ std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& 
     {
         QString const& detail = parsed.error.detail;
         return Problem{feed.source.name, parsed.error.line, parsed.error.column,
-                       parsed.error.sentence + (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
+                       parsed.error.sentence.English() +
+                           (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
                        QStringLiteral("pelnar-appcast lint says what to mend")};
     }
     feed.items = std::move(parsed.items);

@@ -42,7 +42,7 @@ void PublishedFeed::TakeItems(Engine::FeedPlatform platform, QUrl const& address
     Engine::FeedParseResult const feed = Engine::ParseFeed(m_bytes, address, platform);
     if (!feed.HasSucceeded())
     {
-        throw Refusal({m_name, feed.error.line, feed.error.column, feed.error.sentence,
+        throw Refusal({m_name, feed.error.line, feed.error.column, feed.error.sentence.English(),
                        QStringLiteral("mend the feed, or move it away to begin a new one")});
     }
     for (Engine::FeedItem const& item : feed.items)

@@ -104,7 +104,7 @@ private:
     void ReportError(LintDownload const& download, Engine::EngineError const& error)
     {
         bool const isLength = error.cause == ErrorCause::DownloadLengthDiffers;
-        QString sentence = error.sentence;
+        QString sentence = error.sentence.English();
         sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
                QStringLiteral("%1, of %2 bytes by the feed: %3")

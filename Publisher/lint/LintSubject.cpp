@@ -40,7 +40,7 @@ LintRule RuleOf(FeedErrorKind kind)
 
 LintFinding FindingOf(Engine::FeedParseError const& error)
 {
-    QString const what = error.detail.isEmpty() ? error.sentence : error.detail;
+    QString const what = error.detail.isEmpty() ? error.sentence.English() : error.detail;
     return {RuleOf(error.kind),
             {error.line, error.column},
             what.endsWith(QLatin1Char('.')) ? what.left(what.size() - 1) : what};

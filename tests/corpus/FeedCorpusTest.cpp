@@ -72,7 +72,7 @@ Engine::FeedParseResult ParseFile(QString const& name)
 void ExpectChoice(Row const& row, Engine::FeedParseResult const& feed)
 {
     SCOPED_TRACE(row.file.toStdString() + ", local " + row.localVersion.toStdString());
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.toStdString();
+    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
     Core::Version const localVersion = Util::VersionFromString(row.localVersion, QStringLiteral("."));
     std::optional<ShippedChoice> const choice = ChooseFromFeed(feed.items, localVersion);
     QStringList const answer =
@@ -177,7 +177,7 @@ TEST_F(FeedCorpus, MalformedFeedsAreErrorsAndTheOthersAreNot)
         malformed += isMalformed ? 1 : 0;
         EXPECT_EQ(int(feed.error.kind),
                   int(isMalformed ? Engine::FeedErrorKind::Malformed : Engine::FeedErrorKind::None))
-            << row.file.toStdString() << ": " << feed.error.sentence.toStdString();
+            << row.file.toStdString() << ": " << feed.error.sentence.English().toStdString();
     }
     std::printf("%d feeds, %d of them malformed\n", int(files.size()), malformed);
 }

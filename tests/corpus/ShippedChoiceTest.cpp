@@ -15,7 +15,7 @@ std::optional<ShippedChoice> Choose(QByteArray const& items, Core::Version const
     Engine::FeedParseResult const feed = Engine::ParseFeed(
         "<rss xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" + items + "</channel></rss>",
         QUrl(QStringLiteral("https://feeds.example.com/app/appcast.xml")), Engine::FeedPlatform::MacOS);
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.toStdString();
+    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
     return ChooseFromFeed(feed.items, localVersion);
 }
 

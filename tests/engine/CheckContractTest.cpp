@@ -3,6 +3,7 @@
 #include "tests/engine/CheckFixture.h"
 
 #include <QTimer>
+#include <QTranslator>
 
 #include <optional>
 
@@ -181,6 +182,32 @@ TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
     ASSERT_TRUE(driver.Found());
     EXPECT_TRUE(driver.Found()->isDelta);
     EXPECT_EQ(driver.Found()->length, 100);
+}
+
+/// Of the engine's errors only.
+class BracketTranslator : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(char const* context, char const* source, char const*, int) const override
+    {
+        return qstrcmp(context, "PelnarEngine_Errors") == 0 ? QStringLiteral("[%1]").arg(QString::fromLatin1(source))
+                                                            : QString();
+    }
+};
+
+TEST_P(EveryCheck, FailureIsToldInThePersonsLanguageAndLoggedInEnglish)
+{
+    BracketTranslator translator;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&translator));
+    LoopbackServer server(Answering("HTTP/1.1 500 Broken\r\n\r\n"));
+    UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+    driver.SetFeed(server.Url());
+    (driver.*GetParam().start)();
+    ASSERT_TRUE(driver.WaitForEnd());
+    ASSERT_EQ(driver.Errors().size(), 1u);
+    EXPECT_EQ(driver.Errors()[0].sentence, "[The update server answered with status 500: try again later.]");
+    EXPECT_EQ(driver.Errors()[0].description, "The update server answered with status 500: try again later.");
 }
 
 TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)

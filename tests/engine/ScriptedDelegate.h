@@ -46,6 +46,7 @@ struct ToldError
     std::string underlyingDomain;
     int underlyingCode = 0;
     std::string underlyingText;
+    std::string description; ///< what a log shows of it
 };
 
 /// The invocation with which an update is installed at once, as the delegate holds it. May be kept and used for as

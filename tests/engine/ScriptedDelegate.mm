@@ -186,7 +186,8 @@ struct UpdaterDriver::Impl
     impl->errors.push_back({ToUtf8([error domain]), static_cast<int>([error code]),
                             ToUtf8([error localizedDescription]), ToUtf8([cause domain]),
                             static_cast<int>([cause code]),
-                            ToUtf8([[cause userInfo] objectForKey:NSLocalizedDescriptionKey])});
+                            ToUtf8([[cause userInfo] objectForKey:NSLocalizedDescriptionKey]),
+                            ToUtf8([error description])});
     impl->Note(_cmd, "aborted " + std::to_string([error code]));
 }
 

@@ -29,7 +29,7 @@ char const* const SAMPLE = R"(<?xml version="1.0" encoding="utf-8"?>
 
 std::string TitleOf(FeedParseResult const& result)
 {
-    return result.items.size() == 1 ? Text(result.items[0].title) : "refused: " + Text(result.error.sentence);
+    return result.items.size() == 1 ? Text(result.items[0].title) : "refused: " + Text(result.error.sentence.English());
 }
 
 FeedErrorKind KindOf(QByteArray const& bytes)
@@ -104,7 +104,7 @@ TEST(FeedDocument, WhatIsNotWellFormedIsAnErrorAndNeverAFeedWithoutItems)
         FeedParseResult const result = Parse(row.bytes);
         EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::Malformed)) << row.name;
         EXPECT_TRUE(result.items.empty()) << row.name;
-        EXPECT_EQ(Text(result.error.sentence),
+        EXPECT_EQ(Text(result.error.sentence.English()),
                   "Line " + std::to_string(result.error.line) + " of the feed is not well-formed XML.")
             << row.name;
     }
@@ -115,7 +115,7 @@ TEST(FeedDocument, AnErrorNamesItsPlaceAndQuotesNothing)
     FeedParseResult const result = Parse("<rss>\r\n<item>\n</item>\r\n<item a=\"1\" \xC2\x9B/></rss>");
     EXPECT_EQ(result.error.line, 4);
     EXPECT_EQ(result.error.column, 15); // the reader looks ahead of the character that it refuses
-    EXPECT_EQ(Text(result.error.sentence), "Line 4 of the feed is not well-formed XML.");
+    EXPECT_EQ(Text(result.error.sentence.English()), "Line 4 of the feed is not well-formed XML.");
     EXPECT_FALSE(result.error.detail.contains(QChar(0x9B)));
     FeedLimits limits;
     limits.maxTagBytes = 20;
@@ -151,7 +151,8 @@ TEST(FeedDocument, AWebPageIsNoFeed)
         EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::NotAFeed)) << bytes;
         EXPECT_TRUE(result.items.empty());
     }
-    EXPECT_EQ(Text(Parse("<html/>").error.sentence), "Line 1 of the feed begins a web page where a feed was expected.");
+    EXPECT_EQ(Text(Parse("<html/>").error.sentence.English()),
+              "Line 1 of the feed begins a web page where a feed was expected.");
     EXPECT_TRUE(Parse(Feed("<item><html/></item>")).HasSucceeded());
 }
 

@@ -9,7 +9,7 @@ namespace Pelnar::Engine::Tests
 FeedItem OnlyItem(QByteArray const& content, FeedPlatform platform, QStringList const& languages)
 {
     FeedParseResult const result = Parse(Feed("<item>" + content + "</item>\n"), platform, {}, languages);
-    EXPECT_EQ(Text(result.error.sentence), "");
+    EXPECT_EQ(Text(result.error.sentence.English()), "");
     EXPECT_EQ(result.items.size(), 1u);
     return result.items.size() == 1 ? result.items.front() : FeedItem();
 }

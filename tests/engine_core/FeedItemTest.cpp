@@ -365,7 +365,7 @@ TEST(FeedProperties, HoldEveryChildByItsQualifiedNameThenTheItemsAttributes)
             <twice>1</twice><twice>2</twice><twice a="3"/>
             <pelnar1_Element>value</pelnar1_Element><mixed>a<b>c</b>d<b/></mixed>
         </item></channel></rss>)");
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence) << Text(result.error.detail);
+    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence.English()) << Text(result.error.detail);
     QVariantMap const properties = result.items[0].properties;
     EXPECT_EQ(QStringList(properties.keys()).join(QLatin1Char(' ')).toStdString(),
               "dc:creator dc:x empty enclosure flat mixed noted pelnar1_Attribute pelnar1_Element sparkle:tags "

@@ -20,7 +20,7 @@ namespace
 void ExpectRefused(FeedParseResult const& result, FeedErrorKind kind, std::string const& sentence)
 {
     EXPECT_EQ(int(result.error.kind), int(kind));
-    EXPECT_EQ(Text(result.error.sentence), sentence);
+    EXPECT_EQ(Text(result.error.sentence.English()), sentence);
     EXPECT_TRUE(result.items.empty());
 }
 
@@ -120,7 +120,7 @@ TEST(FeedDocumentType, ItsTextInsideOtherMarkupIsNoDeclaration)
     FeedParseResult const result =
         Parse(Feed("<!-- <!DOCTYPE a> --><?pi <!DOCTYPE b> ?><item><title><![CDATA[<!DOCTYPE c>]]>"
                    "</title></item>"));
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence);
+    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence.English());
     EXPECT_EQ(Text(result.items[0].title), "<!DOCTYPE c>");
 }
 
@@ -181,7 +181,7 @@ TEST(FeedDepth, SiblingsAreNotLevels)
 TEST(FeedAttributes, TwoHundredAndFiftySixPassAndOneMoreIsRefused)
 {
     FeedParseResult const result = Parse(Feed("<item" + Attributes(256) + "/>"));
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence);
+    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence.English());
     EXPECT_EQ(result.items[0].properties.size(), 256);
     ExpectRefused(Parse(Feed("<item" + Attributes(257) + "/>")), FeedErrorKind::TooManyAttributes,
                   "Line 5 of the feed has a tag with more than 256 attributes.");
@@ -199,7 +199,7 @@ TEST(FeedAttributes, EqualSignsOutsideOfTagsAreNone)
     FeedParseResult const result =
         Parse(Feed("<item><!-- <a " + signs + "> --><title a='" + signs + "'>" + signs + "</title><a><![CDATA[<b " +
                    signs + ">]]></a><?pi <a " + signs + ">?></item>"));
-    EXPECT_TRUE(result.HasSucceeded()) << Text(result.error.sentence);
+    EXPECT_TRUE(result.HasSucceeded()) << Text(result.error.sentence.English());
 }
 
 TEST(FeedMarkup, ElementsAndAttributesAreCountedTogether)
@@ -268,7 +268,7 @@ TEST(FeedTagLength, TextCommentsAndSectionsMayBeLonger)
     QByteArray const text(200000, 'x');
     FeedParseResult const result = Parse(Feed("<item><title>" + text + "</title><!--" + text +
                                               "--><description><![CDATA[<" + text + "]]></description></item>"));
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence);
+    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence.English());
     EXPECT_EQ(result.items[0].title.size(), 200000);
     EXPECT_EQ(result.items[0].description.size(), 200001);
 }

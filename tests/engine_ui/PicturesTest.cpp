@@ -84,7 +84,7 @@ TEST_P(Pictures, ShowReadableTextInLightAndDarkAndInBothDirections)
     for (Look const& look : looks)
     {
         QApplication::setPalette(PaletteOf(look));
-        for (char const* const language : {"en", "de", "ar"})
+        for (char const* const language : {"en", "de", "ja", "ar"})
         {
             QLocale::setDefault(QLocale(QString::fromLatin1(language)));
             Engine::InstallTranslations(QLocale());

@@ -1,6 +1,8 @@
 // Every text of the windows and of the update dialogs, in every language.
 
 #include "Engine/ui/Translations.h"
+#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/update/UpdateError.h"
 #include "Engine/ui/EngineWindow.h"
 #include "tests/engine_ui/WindowsFixture.h"
 
@@ -110,6 +112,33 @@ QString FileOf(QString const& name)
     return FOLDER + QStringLiteral("pelnar_engine_") + name + QStringLiteral(".ts");
 }
 
+/// Of every failure, by its English text.
+std::map<QString, Sentence> EverySentence()
+{
+    std::vector<Sentence> sentences;
+    for (int cause = 0; cause <= static_cast<int>(ErrorCause::Fault); ++cause)
+    {
+        EngineError const error = MakeError(static_cast<ErrorCause>(cause));
+        sentences.push_back(error.sentence);
+        sentences.push_back(AsDownloadError(error).sentence);
+    }
+    for (int fault = 0; FaultName(static_cast<UpdateFault>(fault)) != "Unknown fault"; ++fault)
+    {
+        sentences.push_back(MakeFaultError(static_cast<UpdateFault>(fault)).sentence);
+    }
+    for (int kind = static_cast<int>(FeedErrorKind::Malformed); kind <= static_cast<int>(FeedErrorKind::NotAFeed);
+         ++kind)
+    {
+        sentences.push_back(MakeFeedError(static_cast<FeedErrorKind>(kind), 1, 1, {}).sentence);
+    }
+    std::map<QString, Sentence> byText;
+    for (Sentence const& sentence : sentences)
+    {
+        byText.emplace(QString::fromLatin1(sentence.Source()), sentence);
+    }
+    return byText;
+}
+
 class Languages : public WindowsFixture, public ::testing::WithParamInterface<std::string>
 {
 protected:
@@ -157,7 +186,22 @@ TEST_P(Languages, HasEveryTextFinishedWithItsPlaceholders)
         }
         EXPECT_TRUE(isNumberSeen || message.translations.isEmpty()) << qPrintable(message.key);
     }
-    EXPECT_EQ(messages.size(), Name() == QLatin1String("en") ? 3U : 36U);
+    EXPECT_EQ(messages.size(), Name() == QLatin1String("en") ? 3U : 199U);
+}
+
+TEST_P(Languages, HasEverySentenceOfAnError)
+{
+    InstallTranslations(QLocale(Name()));
+    std::set<QString> const keys = KeysOf(ReadMessages(FileOf(Name())));
+    bool const isEnglish = Name() == QLatin1String("en");
+    std::set<QString> shown;
+    for (auto const& [source, sentence] : EverySentence())
+    {
+        EXPECT_NE(keys.count(QStringLiteral("PelnarEngine_Errors|") + source) == 1, isEnglish) << qPrintable(source);
+        EXPECT_EQ(sentence.Translated() == sentence.English(), isEnglish) << qPrintable(source);
+        EXPECT_TRUE(shown.insert(sentence.Translated()).second) << "two failures look alike: " << qPrintable(source);
+    }
+    EXPECT_EQ(shown.size(), 160U);
 }
 
 TEST_P(Languages, IsInTheLibraryAndShown)

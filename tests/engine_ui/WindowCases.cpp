@@ -1,5 +1,7 @@
 #include "tests/engine_ui/WindowCases.h"
 
+#include "Engine/core/EngineError.h"
+
 namespace Pelnar::Testing
 {
 namespace
@@ -127,8 +129,17 @@ std::vector<WindowCase> AllWindowCases()
          "PelnarEngine_errorWindow",
          CheckOrigin::User,
          [](IUserInterface& ui, Recorder const& hear)
+         { ui.ShowError(MakeError(ErrorCause::CertificateExpired).sentence, Telling(hear, "closed")); },
+         {{"PelnarEngine_okButton", "closed"}},
+         "closed",
+         "PelnarEngine_okButton"},
+        {"error_with_a_path",
+         "PelnarEngine_errorWindow",
+         CheckOrigin::User,
+         [](IUserInterface& ui, Recorder const& hear)
          {
-             ui.ShowError(QStringLiteral("The update server cannot be reached: check the connection and try again."),
+             Sentence const sentence = MakeError(ErrorCause::BundleInImage).sentence;
+             ui.ShowError(Sentence(sentence.Source(), {QStringLiteral("/home/robin/Applications/Tidepool.AppImage")}),
                           Telling(hear, "closed"));
          },
          {{"PelnarEngine_okButton", "closed"}},

@@ -1,8 +1,10 @@
 // What each window shows, and how the windows follow one another.
 
+#include "Engine/core/EngineError.h"
 #include "Engine/ui/NotesBrowser.h"
 #include "Engine/ui/ProgressText.h"
 #include "Engine/ui/ServerText.h"
+#include "Engine/ui/Translations.h"
 #include "tests/engine_ui/WindowsFixture.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -97,11 +99,42 @@ TEST_F(WindowContent, TextOfTheServerIsPlainCleanAndShort)
 
 TEST_F(WindowContent, ErrorIsOneShortPlainSentenceThatCanBeCopied)
 {
-    Ui().ShowError(QStringLiteral("a\r\n<img src=x>\u2066b\u2069") + QString(100000, QLatin1Char('z')), [] {});
+    QString const hostile = QStringLiteral("a\r\n<img src=x>\u2066b\u2069%2") + QString(100000, QLatin1Char('z'));
+    Ui().ShowError(Sentence("Use %1 or %2.", {hostile, QStringLiteral("less")}), [] {});
     auto* const detail = Part<QLabel>("PelnarEngine_detail");
-    EXPECT_TRUE(detail->text().startsWith(QStringLiteral("a <img src=x>bzz")));
-    EXPECT_EQ(detail->text().size(), 400);
+    EXPECT_TRUE(detail->text().startsWith(QStringLiteral("Use a <img src=x>b%2zz")));
+    EXPECT_TRUE(detail->text().endsWith(QStringLiteral("zz\u2026 or less.")));
+    EXPECT_EQ(detail->text().size(), 200 + 13);
+    EXPECT_EQ(detail->textFormat(), Qt::PlainText);
     EXPECT_TRUE(detail->textInteractionFlags().testFlag(Qt::TextSelectableByMouse));
+}
+
+TEST_F(WindowContent, PathInAnErrorKeepsItsDirection)
+{
+    QString const path = QStringLiteral("/opt/Tidepool.AppImage");
+    Sentence const error(MakeError(ErrorCause::BundleInImage).sentence.Source(), {path});
+    for (char const* const language : {"en", "ar", "he"})
+    {
+        InstallTranslations(QLocale(QString::fromLatin1(language)));
+        Ui().ShowError(error, [] {});
+        QString const text = Part<QLabel>("PelnarEngine_detail")->text();
+        bool const isTurned = qstrcmp(language, "en") != 0;
+        EXPECT_EQ(text.isRightToLeft(), isTurned);
+        EXPECT_EQ(text.contains(QChar(0x2068) + path + QChar(0x2069)), isTurned) << qPrintable(text);
+        EXPECT_TRUE(text.contains(path)) << qPrintable(text);
+    }
+}
+
+TEST_F(WindowContent, SizesInAnErrorAreThoseOfTheLanguage)
+{
+    QLocale::setDefault(QLocale(QLocale::German));
+    InstallTranslations(QLocale());
+    EngineError const error = MakeRoomError(ErrorCause::DownloadNoRoom, 45'600'000, 1'500);
+    Ui().ShowError(error.sentence, [] {});
+    QString const text = Part<QLabel>("PelnarEngine_detail")->text();
+    EXPECT_TRUE(text.contains(QStringLiteral("45,6 MB")) && text.contains(QStringLiteral("1,5 kB")))
+        << qPrintable(text);
+    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("45.6 MB"))) << "a log is the same everywhere";
 }
 
 TEST_F(WindowContent, LinksInNotesAreTheHostsToOpen)
@@ -216,7 +249,7 @@ TEST_F(WindowContent, AnAnswerMayShowTheNextWindow)
                                           [this, &order]
                                           {
                                               order.emplace_back("cancel");
-                                              Ui().ShowError(QStringLiteral("Cancelled."), [] {});
+                                              Ui().ShowError(Sentence("Cancelled."), [] {});
                                           });
                     });
     Part<QPushButton>("PelnarEngine_installButton")->click();

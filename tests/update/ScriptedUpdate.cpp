@@ -150,10 +150,10 @@ void ScriptedWindows::ShowReadyToInstall(NamedVersion const&, CheckOrigin origin
     m_ready = std::move(onChosen);
 }
 
-void ScriptedWindows::ShowError(QString const& sentence, std::function<void()>)
+void ScriptedWindows::ShowError(Sentence const& sentence, std::function<void()>)
 {
     Open("error");
-    EXPECT_FALSE(sentence.isEmpty());
+    EXPECT_FALSE(sentence.IsEmpty());
 }
 
 void ScriptedWindows::Close()

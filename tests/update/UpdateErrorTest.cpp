@@ -33,7 +33,7 @@ TEST(UpdateError, NoTwoFaultsShareTheirNumberOrTheirText)
         EngineError const error = MakeFaultError(fault);
         EXPECT_EQ(error.UnderlyingCode(), 1000 + static_cast<int>(fault));
         EXPECT_TRUE(numbers.insert(error.UnderlyingCode()).second) << FaultName(fault);
-        EXPECT_TRUE(sentences.insert(error.sentence.toStdString()).second) << FaultName(fault);
+        EXPECT_TRUE(sentences.insert(error.sentence.English().toStdString()).second) << FaultName(fault);
         EXPECT_EQ(error.detail.toStdString(), FaultName(fault));
     }
 }
@@ -42,7 +42,7 @@ TEST(UpdateError, EverySentenceSaysWhatHappenedAndWhatToDo)
 {
     for (UpdateFault const fault : EveryFault())
     {
-        QString const sentence = MakeFaultError(fault).sentence;
+        QString const sentence = MakeFaultError(fault).sentence.English();
         EXPECT_TRUE(sentence.endsWith(QLatin1Char('.'))) << sentence.toStdString();
         EXPECT_EQ(sentence.count(QLatin1String(": ")), 1) << sentence.toStdString();
         EXPECT_EQ(sentence.count(QLatin1Char('.')), 1) << "one sentence: " << sentence.toStdString();
@@ -76,7 +76,7 @@ TEST(UpdateError, SystemErrorStandsInTheDetailOnly)
 {
     EngineError const error = MakeFaultError(UpdateFault::DiskError, EIO);
     EXPECT_EQ(error.detail, QStringLiteral("DiskError (errno %1)").arg(EIO));
-    EXPECT_FALSE(error.sentence.contains(QLatin1String("errno")));
+    EXPECT_FALSE(error.sentence.English().contains(QLatin1String("errno")));
 }
 
 TEST(UpdateError, ArchiveIsNotBlamedForThisComputer)

@@ -79,8 +79,8 @@ TEST_F(UpdateRunTest, KeyErrorsNameTheKey)
     {
         settings.bundle.publicKeys = keys;
         StartInteractive();
-        EXPECT_TRUE(end->error->sentence.contains(QLatin1String("SUPublicEDKey")))
-            << end->error->sentence.toStdString();
+        EXPECT_TRUE(end->error->sentence.English().contains(QLatin1String("SUPublicEDKey")))
+            << end->error->sentence.English().toStdString();
     }
 }
 

@@ -260,7 +260,7 @@ private:
             End(error);
             return;
         }
-        LOG(INFO) << "The download goes on after a pause: " << error.sentence.toStdString();
+        LOG(INFO) << "The download goes on after a pause: " << error.sentence.English().toStdString();
         m_resumeTimer.start(m_request.limits.firstResumePause * (1 << m_resumes));
         ++m_resumes;
         m_sinceResume = 0;

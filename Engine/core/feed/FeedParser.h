@@ -5,6 +5,7 @@
 // title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
 #pragma once
 
+#include "Engine/core/Sentence.h"
 #include "Engine/core/feed/FeedItem.h"
 
 #include <QByteArray>
@@ -53,10 +54,10 @@ enum class FeedErrorKind
 struct FeedParseError
 {
     FeedErrorKind kind = FeedErrorKind::None;
-    int line = 0;     ///< from 1
-    int column = 0;   ///< from 1
-    QString sentence; ///< one sentence that names the line and says what is wrong; no byte of the feed stands in it
-    QString detail;   ///< the XML reader's own words for Malformed, else empty
+    int line = 0;      ///< from 1
+    int column = 0;    ///< from 1
+    Sentence sentence; ///< one sentence that names the line and says what is wrong; no byte of the feed stands in it
+    QString detail;    ///< the XML reader's own words for Malformed, else empty
 };
 
 /// What the channel says of the feed itself, in elements of OWN_FEED_NAMESPACE; docs/formats/signed-feed.md.

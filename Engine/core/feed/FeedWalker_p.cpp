@@ -35,34 +35,53 @@ QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qu
     return qualifiedName.toString();
 }
 
-QString SentencePart(FeedErrorKind kind, FeedLimits const& limits)
+/// It names the line first.
+Sentence SentenceOf(FeedErrorKind kind, int line, FeedLimits const& limits)
 {
+    QString const lineText = QString::number(line);
     switch (kind)
     {
     case FeedErrorKind::None:
         return {};
     case FeedErrorKind::Malformed:
-        return QStringLiteral("is not well-formed XML");
+        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed is not well-formed XML."),
+                        {lineText});
     case FeedErrorKind::DocumentType:
-        return QStringLiteral("has a document type declaration, which a feed may not have");
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "Line %1 of the feed has a document type declaration, which a feed may not have."),
+            {lineText});
     case FeedErrorKind::TooDeep:
-        return QStringLiteral("nests elements more than %1 levels deep").arg(limits.maxDepth);
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed nests elements more than %2 levels deep."),
+            {lineText, QString::number(limits.maxDepth)});
     case FeedErrorKind::TooManyAttributes:
-        return QStringLiteral("has a tag with more than %1 attributes").arg(limits.maxAttributes);
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has a tag with more than %2 attributes."),
+            {lineText, QString::number(limits.maxAttributes)});
     case FeedErrorKind::TagTooLong:
-        return QStringLiteral("has a tag of more than %1 bytes").arg(limits.maxTagBytes);
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has a tag of more than %2 bytes."),
+            {lineText, QString::number(limits.maxTagBytes)});
     case FeedErrorKind::TooMuchMarkup:
-        return QStringLiteral("goes beyond the %1 elements and attributes that a feed may have").arg(limits.maxMarkup);
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have."),
+            {lineText, QString::number(limits.maxMarkup)});
     case FeedErrorKind::TooManyItems:
-        return QStringLiteral("has item number %1, but only %2 are allowed")
-            .arg(limits.maxItems + 1)
-            .arg(limits.maxItems);
+        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                          "Line %1 of the feed has item number %2, but only %3 are allowed."),
+                        {lineText, QString::number(limits.maxItems + 1), QString::number(limits.maxItems)});
     case FeedErrorKind::TooManyNamespaces:
-        return QStringLiteral("has more than %1 namespaces declared").arg(limits.maxNamespaces);
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has more than %2 namespaces declared."),
+            {lineText, QString::number(limits.maxNamespaces)});
     case FeedErrorKind::NotAFeed:
-        return QStringLiteral("begins a web page where a feed was expected");
+        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                          "Line %1 of the feed begins a web page where a feed was expected."),
+                        {lineText});
     }
-    return QStringLiteral("has an unknown error");
+    return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has an unknown error."), {lineText});
 }
 
 } // namespace
@@ -78,7 +97,7 @@ FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimit
     error.kind = kind;
     error.line = line;
     error.column = column;
-    error.sentence = QStringLiteral("Line %1 of the feed %2.").arg(line).arg(SentencePart(kind, limits));
+    error.sentence = SentenceOf(kind, line, limits);
     return error;
 }
 

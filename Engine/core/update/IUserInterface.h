@@ -4,6 +4,7 @@
 // Thread: the Qt main thread. Ownership: the engine owns it; it keeps each callback as long as its window.
 #pragma once
 
+#include "Engine/core/Sentence.h"
 #include "Engine/core/update/WindowContent.h"
 
 #include <functional>
@@ -28,8 +29,8 @@ public:
     virtual void SetProgress(UpdateProgress const& progress) = 0;
     virtual void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
                                     std::function<void(ReadyChoice)> onChosen) = 0;
-    /// \a sentence is one clear sentence that says what happened and what to do.
-    virtual void ShowError(QString const& sentence, std::function<void()> onClosed) = 0;
+    /// \a sentence says what happened and what to do; the window shows it in its own language.
+    virtual void ShowError(Sentence const& sentence, std::function<void()> onClosed) = 0;
     /// For a person who asks again while a window waits for an answer.
     virtual void BringToFront() = 0;
     /// Puts the window away without an answer.

@@ -2,8 +2,6 @@
 
 #include "Engine/core/payload/StagingFolder.h"
 
-#include <QLocale>
-
 #include <cerrno>
 #include <optional>
 
@@ -26,17 +24,27 @@ EngineError Error(ErrorCause cause, std::string const& path)
 
 EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
 {
-    if (owner.manager == PackageManager::AppImage)
+    EngineError error = Error(
+        owner.manager == PackageManager::AppImage ? ErrorCause::BundleInImage : ErrorCause::BundleOfPackage, path);
+    char const* const text = error.sentence.Source();
+    switch (owner.manager)
     {
-        EngineError error = Error(ErrorCause::BundleInImage, path);
-        error.sentence = error.sentence.arg(owner.package);
-        return error;
+    case PackageManager::AppImage:
+        error.sentence = Sentence(text, {owner.package});
+        break;
+    case PackageManager::Flatpak:
+        error.sentence = Sentence(text, {QStringLiteral("Flatpak"), owner.command});
+        break;
+    case PackageManager::Snap:
+        error.sentence = Sentence(text, {QStringLiteral("Snap"), owner.command});
+        break;
+    case PackageManager::Dpkg:
+        error.sentence = Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                                    "The application was installed by the system's package manager, "
+                                                    "which updates it too: use the command \"%1\"."),
+                                  {owner.command});
+        break;
     }
-    EngineError error = Error(ErrorCause::BundleOfPackage, path);
-    QString const manager = owner.manager == PackageManager::Flatpak ? QStringLiteral("Flatpak")
-                            : owner.manager == PackageManager::Snap  ? QStringLiteral("Snap")
-                                                                     : QStringLiteral("the system's package manager");
-    error.sentence = error.sentence.arg(manager, owner.command);
     return error;
 }
 
@@ -113,10 +121,8 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
     {
         return std::nullopt;
     }
-    EngineError error = MakeError(ErrorCause::NoRoomForUpdate, target.path);
-    QLocale const locale = QLocale::c();
-    error.sentence = error.sentence.arg(locale.formattedDataSize(static_cast<qint64>(neededBytes)),
-                                        locale.formattedDataSize(static_cast<qint64>(freeBytes)));
+    EngineError error = MakeRoomError(ErrorCause::NoRoomForUpdate, neededBytes, freeBytes);
+    error.detail = EscapedRemoteText(target.path);
     return error;
 }
 

@@ -20,7 +20,7 @@ public:
     void SetProgress(UpdateProgress const&) override {}
     void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
                             std::function<void(ReadyChoice)> onChosen) override;
-    void ShowError(QString const&, std::function<void()>) override {}
+    void ShowError(Sentence const&, std::function<void()>) override {}
     void BringToFront() override {}
     void Close() override {}
 

@@ -17,205 +17,345 @@ FaultDescription DescriptionOf(UpdateFault fault)
     switch (fault)
     {
     case UpdateFault::None:
-        return {ErrorCode::Installation, "The update could not be installed: try again later."};
-    case UpdateFault::JobMalformed:
         return {ErrorCode::Installation,
-                "The program that installs updates did not understand what it was asked for: install the "
-                "application anew."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update could not be installed: try again later.")};
+    case UpdateFault::JobMalformed:
+        return {
+            ErrorCode::Installation,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "The program that installs updates did not understand what it was asked for: install the "
+                              "application anew.")};
     case UpdateFault::DescriptorUnusable:
         return {ErrorCode::Installation,
-                "The program that installs updates could not use the files that it was given: try again."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The program that installs updates could not use the files that it was given: try again.")};
     case UpdateFault::HelperUnusable:
-        return {ErrorCode::Installation,
+        return {
+            ErrorCode::Installation,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
                 "The program that installs updates is missing or could be changed by others: install the application "
-                "anew."};
+                "anew.")};
     case UpdateFault::ConfinementFailed:
         return {ErrorCode::Unarchiving,
-                "The update could not be unpacked in a confined process, as it must be: tell the publisher which "
-                "system this is."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update could not be unpacked in a confined process, as it must be: tell the publisher which "
+                    "system this is.")};
     case UpdateFault::KeyMissing:
         return {ErrorCode::Signature,
-                "This application has no public key under SUPublicEDKey, so that no update can be proved genuine: "
-                "install it anew from its publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "This application has no public key under SUPublicEDKey, so that no update can be proved genuine: "
+                    "install it anew from its publisher.")};
     case UpdateFault::KeyMalformed:
-        return {ErrorCode::Signature,
+        return {
+            ErrorCode::Signature,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
                 "The public key of this application under SUPublicEDKey is damaged, so that no update can be proved "
-                "genuine: install it anew from its publisher."};
+                "genuine: install it anew from its publisher.")};
     case UpdateFault::SignatureMissing:
-        return {ErrorCode::Signature, "The update is not signed, and is refused: tell the publisher."};
+        return {
+            ErrorCode::Signature,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update is not signed, and is refused: tell the publisher.")};
     case UpdateFault::SignatureMalformed:
         return {ErrorCode::Signature,
-                "The signature of the update is not a signature, and the update is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The signature of the update is not a signature, and the update is refused: tell the publisher.")};
     case UpdateFault::SignatureMismatch:
         return {ErrorCode::Signature,
-                "The update was not signed by this application's publisher, or was damaged on its way, and is "
-                "refused: try another network, and tell the publisher if it stays so."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update was not signed by this application's publisher, or was damaged on its way, and is "
+                    "refused: try another network, and tell the publisher if it stays so.")};
     case UpdateFault::CryptographyUnavailable:
-        return {ErrorCode::Signature,
-                "Signatures cannot be verified on this computer: install its libsodium library anew."};
+        return {
+            ErrorCode::Signature,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "Signatures cannot be verified on this computer: install its libsodium library anew.")};
     case UpdateFault::ArchiveEmpty:
         return {ErrorCode::Unarchiving,
-                "The downloaded update is empty: try again, and tell the publisher if it stays so."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The downloaded update is empty: try again, and tell the publisher if it stays so.")};
     case UpdateFault::ArchiveUnreadable:
         return {ErrorCode::Unarchiving,
-                "The downloaded update cannot be read from the disk: check the disk and try again."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The downloaded update cannot be read from the disk: check the disk and try again.")};
     case UpdateFault::ArchiveLengthDiffers:
         return {ErrorCode::Signature,
-                "The downloaded update is longer or shorter than the feed says: try again, and tell the publisher "
-                "if it stays so."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The downloaded update is longer or shorter than the feed says: try again, and tell the publisher "
+                    "if it stays so.")};
     case UpdateFault::ArchiveInUse:
-        return {ErrorCode::Unarchiving,
-                "Another program changed the downloaded update while it was being verified: close it and try again."};
+        return {
+            ErrorCode::Unarchiving,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
+                "Another program changed the downloaded update while it was being verified: close it and try again.")};
     case UpdateFault::ContainerUnknown:
-        return {ErrorCode::Unarchiving, "The update is packed in a way that is not known: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update is packed in a way that is not known: tell the publisher.")};
     case UpdateFault::ContainerDamaged:
-        return {ErrorCode::Unarchiving, "The archive of the update is damaged: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The archive of the update is damaged: tell the publisher.")};
     case UpdateFault::ContainerAmbiguous:
         return {ErrorCode::Unarchiving,
-                "The archive of the update can be read in more than one way, and is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The archive of the update can be read in more than one way, and is refused: tell the publisher.")};
     case UpdateFault::ContainerEncrypted:
-        return {ErrorCode::Unarchiving, "The archive of the update is encrypted, and is refused: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The archive of the update is encrypted, and is refused: tell the publisher.")};
     case UpdateFault::ContainerMethodUnknown:
         return {ErrorCode::Unarchiving,
-                "The archive of the update is compressed in a way that is not known: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The archive of the update is compressed in a way that is not known: tell the publisher.")};
     case UpdateFault::EntryNameInvalid:
-        return {ErrorCode::Unarchiving, "The update has a file with a name that is not allowed: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a file with a name that is not allowed: tell the publisher.")};
     case UpdateFault::EntryNameTooLong:
-        return {ErrorCode::Unarchiving, "The update has a file with a name that is too long: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a file with a name that is too long: tell the publisher.")};
     case UpdateFault::EntryEscapes:
         return {ErrorCode::Unarchiving,
-                "The update has a file that would land outside of the application, and is refused: tell the "
-                "publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update has a file that would land outside of the application, and is refused: tell the "
+                    "publisher.")};
     case UpdateFault::EntryTooDeep:
-        return {ErrorCode::Unarchiving, "The folders of the update are too deep: tell the publisher."};
+        return {
+            ErrorCode::Unarchiving,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The folders of the update are too deep: tell the publisher.")};
     case UpdateFault::EntryTypeRefused:
         return {ErrorCode::Unarchiving,
-                "The update has something that is neither file nor folder nor link, and is refused: tell the "
-                "publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update has something that is neither file nor folder nor link, and is refused: tell the "
+                    "publisher.")};
     case UpdateFault::EntryIsHardLink:
-        return {ErrorCode::Unarchiving, "The update has a hard link, and is refused: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a hard link, and is refused: tell the publisher.")};
     case UpdateFault::EntryIsSparse:
-        return {ErrorCode::Unarchiving, "The update has a file with holes, and is refused: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a file with holes, and is refused: tell the publisher.")};
     case UpdateFault::EntrySizeUnknown:
-        return {ErrorCode::Unarchiving, "The update has a file without a size, and is refused: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a file without a size, and is refused: tell the publisher.")};
     case UpdateFault::EntryDuplicate:
-        return {ErrorCode::Unarchiving, "The update has the same file twice, and is refused: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has the same file twice, and is refused: tell the publisher.")};
     case UpdateFault::EntryNameClash:
         return {ErrorCode::Unarchiving,
-                "The update has files whose names differ in case or accents only, and is refused: tell the "
-                "publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update has files whose names differ in case or accents only, and is refused: tell the "
+                    "publisher.")};
     case UpdateFault::EntryUnderNoFolder:
         return {ErrorCode::Unarchiving,
-                "The update has a file below something that is no folder, and is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update has a file below something that is no folder, and is refused: tell the publisher.")};
     case UpdateFault::LinkTargetInvalid:
-        return {ErrorCode::Unarchiving, "The update has a link to a name that is not allowed: tell the publisher."};
-    case UpdateFault::LinkEscapes:
         return {ErrorCode::Unarchiving,
-                "The update has a link that leads outside of the application, and is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a link to a name that is not allowed: tell the publisher.")};
+    case UpdateFault::LinkEscapes:
+        return {
+            ErrorCode::Unarchiving,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
+                "The update has a link that leads outside of the application, and is refused: tell the publisher.")};
     case UpdateFault::LinkDangles:
-        return {ErrorCode::Unarchiving, "The update has a link that leads nowhere: tell the publisher."};
+        return {
+            ErrorCode::Unarchiving,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update has a link that leads nowhere: tell the publisher.")};
     case UpdateFault::LinkLoops:
-        return {ErrorCode::Unarchiving, "The update has a link that leads back to itself: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update has a link that leads back to itself: tell the publisher.")};
     case UpdateFault::TooManyEntries:
-        return {ErrorCode::Unarchiving, "The update has too many files: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update has too many files: tell the publisher.")};
     case UpdateFault::TooManyLinks:
-        return {ErrorCode::Unarchiving, "The update has too many links: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update has too many links: tell the publisher.")};
     case UpdateFault::TooManyBytes:
-        return {ErrorCode::Unarchiving, "The update is too large once it is unpacked: tell the publisher."};
+        return {ErrorCode::Unarchiving,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update is too large once it is unpacked: tell the publisher.")};
     case UpdateFault::DeltaBaseDiffers:
         return {ErrorCode::Validation,
-                "The installed application was changed, so that the small update does not fit it: install the "
-                "application anew."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The installed application was changed, so that the small update does not fit it: install the "
+                    "application anew.")};
     case UpdateFault::DeltaResultDiffers:
         return {ErrorCode::Validation,
-                "What the small update made of the application is not what it should be: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "What the small update made of the application is not what it should be: tell the publisher.")};
     case UpdateFault::BundleMissing:
-        return {ErrorCode::Validation, "The update holds no application: tell the publisher."};
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update holds no application: tell the publisher.")};
     case UpdateFault::BundleNotAlone:
-        return {ErrorCode::Validation, "The update holds more than one application: tell the publisher."};
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update holds more than one application: tell the publisher.")};
     case UpdateFault::BundleNotAFolder:
-        return {ErrorCode::Validation, "The application in the update is not a folder: tell the publisher."};
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The application in the update is not a folder: tell the publisher.")};
     case UpdateFault::InformationMissing:
-        return {ErrorCode::Validation, "The application in the update does not describe itself: tell the publisher."};
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The application in the update does not describe itself: tell the publisher.")};
     case UpdateFault::InformationTooLarge:
-        return {ErrorCode::Validation,
-                "The description of the application in the update is too large: tell the publisher."};
+        return {
+            ErrorCode::Validation,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "The description of the application in the update is too large: tell the publisher.")};
     case UpdateFault::InformationMalformed:
-        return {ErrorCode::Validation,
-                "The description of the application in the update cannot be read: tell the publisher."};
+        return {
+            ErrorCode::Validation,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "The description of the application in the update cannot be read: tell the publisher.")};
     case UpdateFault::IdentifierDiffers:
-        return {ErrorCode::Validation, "The update is of another application, and is refused: tell the publisher."};
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update is of another application, and is refused: tell the publisher.")};
     case UpdateFault::VersionDiffers:
         return {ErrorCode::Validation,
-                "The update is of another version than the feed says, and is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update is of another version than the feed says, and is refused: tell the publisher.")};
     case UpdateFault::VersionNotNewer:
         return {ErrorCode::Downgrade,
-                "The update is not newer than the installed application, and is refused: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update is not newer than the installed application, and is refused: tell the publisher.")};
     case UpdateFault::BundleKeyMissing:
-        return {ErrorCode::Validation,
+        return {
+            ErrorCode::Validation,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
                 "The application in the update has no public key, so that it could never be updated again: tell the "
-                "publisher."};
+                "publisher.")};
     case UpdateFault::ExecutableMissing:
-        return {ErrorCode::Validation, "The application in the update has no program to start: tell the publisher."};
-    case UpdateFault::ExecutableNotRunnable:
-        return {ErrorCode::Validation, "The program in the update may not be started: tell the publisher."};
-    case UpdateFault::ExecutableForeign:
         return {ErrorCode::Validation,
-                "The program in the update is made for another kind of computer: tell the publisher."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The application in the update has no program to start: tell the publisher.")};
+    case UpdateFault::ExecutableNotRunnable:
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The program in the update may not be started: tell the publisher.")};
+    case UpdateFault::ExecutableForeign:
+        return {
+            ErrorCode::Validation,
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                              "The program in the update is made for another kind of computer: tell the publisher.")};
     case UpdateFault::InstallerNotAllowed:
         return {ErrorCode::Installation,
-                "The update is a program of its own, which this application does not allow: tell the publisher."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The update is a program of its own, which this application does not allow: tell the publisher.")};
     case UpdateFault::InstallerNotStarted:
-        return {ErrorCode::Installation,
+        return {
+            ErrorCode::Installation,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
                 "The program that comes with the update did not start: try again, and tell the publisher if it stays "
-                "so."};
+                "so.")};
     case UpdateFault::InstallerFailed:
-        return {ErrorCode::Installation,
+        return {
+            ErrorCode::Installation,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
                 "The program that comes with the update did not install it: try again, and tell the publisher if it "
-                "stays so."};
+                "stays so.")};
     case UpdateFault::InstallerTimedOut:
         return {ErrorCode::Installation,
-                "The program that comes with the update took too long and was ended: try again."};
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The program that comes with the update took too long and was ended: try again.")};
     case UpdateFault::NoSpace:
-        return {ErrorCode::FileCopy, "There is not enough room on the disk for the update: free some and try again."};
+        return {ErrorCode::FileCopy,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "There is not enough room on the disk for the update: free some and try again.")};
     case UpdateFault::NotPermitted:
-        return {ErrorCode::NotWritable,
-                "The folder that holds the application may not be changed by this user: ask whoever installed it."};
+        return {
+            ErrorCode::NotWritable,
+            QT_TRANSLATE_NOOP(
+                "PelnarEngine_Errors",
+                "The folder that holds the application may not be changed by this user: ask whoever installed it.")};
     case UpdateFault::DiskError:
-        return {ErrorCode::FileCopy, "The disk reported an error: check it and try again."};
+        return {ErrorCode::FileCopy,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The disk reported an error: check it and try again.")};
     case UpdateFault::HostStillRunning:
         return {ErrorCode::Relaunch,
-                "The application did not close, so that the update was not installed: save your work, check for "
-                "updates again and let it close."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The application did not close, so that the update was not installed: save your work, check for "
+                    "updates again and let it close.")};
     case UpdateFault::LockTimedOut:
-        return {ErrorCode::Installation, "Another update of this application is being installed: wait for its end."};
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "Another update of this application is being installed: wait for its end.")};
     case UpdateFault::TargetMissing:
         return {ErrorCode::Installation,
-                "The installed application is not where it was when the update began: start it from its place and "
-                "try again."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The installed application is not where it was when the update began: start it from its place and "
+                    "try again.")};
     case UpdateFault::TargetChanged:
         return {ErrorCode::Installation,
-                "The installed application was changed while the update was being prepared: start it again and try "
-                "again."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The installed application was changed while the update was being prepared: start it again and try "
+                    "again.")};
     case UpdateFault::StagedTreeChanged:
         return {ErrorCode::Validation,
-                "The prepared update was changed before it could be installed, and was dropped: try again."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The prepared update was changed before it could be installed, and was dropped: try again.")};
     case UpdateFault::OtherFileSystem:
         return {ErrorCode::Installation,
-                "The prepared update and the application are on different disks: try again, and install the "
-                "application anew if it stays so."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The prepared update and the application are on different disks: try again, and install the "
+                    "application anew if it stays so.")};
     case UpdateFault::SwapFailed:
         return {ErrorCode::Installation,
-                "The new version could not be put in the place of the old one, which is as it was: try again."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The new version could not be put in the place of the old one, which is as it was: try again.")};
     case UpdateFault::SyncFailed:
-        return {ErrorCode::FileCopy, "The disk did not confirm that it holds the update: check it and try again."};
+        return {ErrorCode::FileCopy,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The disk did not confirm that it holds the update: check it and try again.")};
     case UpdateFault::RelaunchPathUnsafe:
         return {ErrorCode::Relaunch,
-                "The application that should be started after the update may not be started: start it by hand."};
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The application that should be started after the update may not be started: start it by hand.")};
     case UpdateFault::RelaunchFailed:
-        return {ErrorCode::Relaunch, "The updated application did not start: start it by hand."};
+        return {ErrorCode::Relaunch,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The updated application did not start: start it by hand.")};
     }
-    return {ErrorCode::Installation, "The update failed for a reason that is not known: try again later."};
+    return {
+        ErrorCode::Installation,
+        QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update failed for a reason that is not known: try again later.")};
 }
 
 } // namespace
@@ -227,7 +367,7 @@ EngineError MakeFaultError(UpdateFault fault, int errorNumber)
     error.code = description.code;
     error.cause = ErrorCause::Fault;
     error.fault = fault;
-    error.sentence = QString::fromLatin1(description.sentence);
+    error.sentence = Sentence(description.sentence);
     std::string_view const name = FaultName(fault);
     error.detail = QString::fromLatin1(name.data(), static_cast<int>(name.size()));
     if (errorNumber != 0)

@@ -203,8 +203,8 @@ void UpdateRun::FailCandidate(EngineError const& error)
         Finish(error);
         return;
     }
-    LOG(WARNING) << "The small update failed, and the whole one is fetched: " << error.sentence.toStdString() << " "
-                 << error.detail.toStdString();
+    LOG(WARNING) << "The small update failed, and the whole one is fetched: " << error.sentence.English().toStdString()
+                 << " " << error.detail.toStdString();
     m_candidates.erase(m_candidates.begin());
     Download();
 }

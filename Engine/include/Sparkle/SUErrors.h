@@ -1,6 +1,7 @@
 // SUErrors.h: the domain and codes of every error that the engine reports.
-// The error's localizedDescription is one sentence that says what happened and what to do; NSUnderlyingErrorKey holds
-// the cause, with a domain of its own, where there is one.
+// The error's localizedDescription is one sentence that says what happened and what to do, in the language of the engine's
+// windows; its description is the same in English, for logs. NSUnderlyingErrorKey holds the cause, with a domain of its
+// own, where there is one.
 #pragma once
 
 #import <Foundation/Foundation.h>

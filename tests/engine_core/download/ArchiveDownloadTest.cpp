@@ -101,7 +101,7 @@ TEST_F(ArchiveDownloadTest, AddressesThatAreNotAllowedAreRefused)
     {
         DownloadResult const result = Run(RequestFor(QUrl(QString::fromLatin1(row.url)), SIZE));
         EXPECT_EQ(result.cause, row.cause) << row.url;
-        EXPECT_FALSE(result.error.sentence.contains(QLatin1String("update feed"))) << row.url;
+        EXPECT_FALSE(result.error.sentence.English().contains(QLatin1String("update feed"))) << row.url;
     }
     EXPECT_FALSE(QDir(Folder()).exists());
 }
@@ -159,19 +159,21 @@ TEST_F(ArchiveDownloadTest, ErrorsSpeakOfTheUpdateAndNotOfTheFeed)
         LoopbackServer server(Answering(row.answer));
         DownloadResult const result = Run(OnceOnly(server.Url()));
         EXPECT_EQ(result.cause, row.cause);
-        EXPECT_FALSE(result.error.sentence.contains(QLatin1String("feed"))) << result.error.sentence.toStdString();
-        EXPECT_FALSE(result.error.sentence.contains(QLatin1Char('%'))) << result.error.sentence.toStdString();
+        EXPECT_FALSE(result.error.sentence.English().contains(QLatin1String("feed")))
+            << result.error.sentence.English().toStdString();
+        EXPECT_FALSE(result.error.sentence.English().contains(QLatin1Char('%')))
+            << result.error.sentence.English().toStdString();
     }
 }
 
 TEST(DownloadErrors, EachHasASentenceOfItsOwn)
 {
-    std::set<QString> sentences{MakeError(static_cast<ErrorCause>(999)).sentence};
+    std::set<QString> sentences{MakeError(static_cast<ErrorCause>(999)).sentence.English()};
     int causes = 0;
     for (int number = 900; number < 950; ++number)
     {
         EngineError const error = MakeError(static_cast<ErrorCause>(number));
-        bool const isCause = sentences.insert(error.sentence).second;
+        bool const isCause = sentences.insert(error.sentence.English()).second;
         causes += isCause ? 1 : 0;
         EXPECT_EQ(error.code, ErrorCode::Download);
         EXPECT_EQ(error.UnderlyingCode(), number);
@@ -183,8 +185,8 @@ TEST(DownloadErrors, EachHasASentenceOfItsOwn)
         EngineError const download = AsDownloadError(error);
         EXPECT_EQ(download.code, ErrorCode::Download);
         EXPECT_EQ(download.cause, error.cause);
-        bool const isReworded = download.sentence != error.sentence;
-        EXPECT_EQ(isReworded, isReworded && sentences.insert(download.sentence).second) << number;
+        bool const isReworded = download.sentence.English() != error.sentence.English();
+        EXPECT_EQ(isReworded, isReworded && sentences.insert(download.sentence.English()).second) << number;
     }
 }
 

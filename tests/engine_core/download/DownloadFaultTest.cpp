@@ -131,7 +131,7 @@ protected:
     void ExpectNextRunBringsTheArchive(std::string const& what)
     {
         DownloadResult const result = Run(RequestFor(m_server.Url(), SIZE));
-        EXPECT_EQ(result.cause, ErrorCause::NoUpdate) << what << ": " << result.error.sentence.toStdString();
+        EXPECT_EQ(result.cause, ErrorCause::NoUpdate) << what << ": " << result.error.sentence.English().toStdString();
         EXPECT_TRUE(result.bytes == ARCHIVE) << what;
     }
 

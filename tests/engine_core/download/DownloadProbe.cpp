@@ -67,7 +67,7 @@ int main(int argc, char** argv)
                    {
                        std::printf("cause=%d grown=%ld sentence=%s\n",
                                    outcome.error ? static_cast<int>(outcome.error->cause) : 0, PeakKibibytes() - before,
-                                   outcome.error ? qPrintable(outcome.error->sentence) : "");
+                                   outcome.error ? qPrintable(outcome.error->sentence.English()) : "");
                        QCoreApplication::quit();
                    });
     return QCoreApplication::exec();

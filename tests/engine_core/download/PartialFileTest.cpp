@@ -332,8 +332,8 @@ TEST_F(PartialFileTest, DiskWithoutRoomIsRefusedBeforeAnythingComes)
     PartialFile file(Place(quint64{1} << 60));
     PartialFile::Fault const fault = file.Open();
     ASSERT_EQ(CauseOf(fault), ErrorCause::DownloadNoRoom);
-    EXPECT_TRUE(fault->sentence.contains(QLatin1String("needs"))) << fault->sentence.toStdString();
-    EXPECT_FALSE(fault->sentence.contains(QLatin1Char('%'))) << fault->sentence.toStdString();
+    EXPECT_TRUE(fault->sentence.English().contains(QLatin1String("needs"))) << fault->sentence.English().toStdString();
+    EXPECT_FALSE(fault->sentence.English().contains(QLatin1Char('%'))) << fault->sentence.English().toStdString();
 }
 
 TEST_F(PartialFileTest, WhatWasLeftLongAgoGoesUnlessItIsInUse)

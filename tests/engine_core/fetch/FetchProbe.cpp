@@ -41,7 +41,8 @@ int main(int argc, char** argv)
                   {
                       std::printf("cause=%d bytes=%d grown=%ld sentence=%s\n",
                                   outcome.error ? static_cast<int>(outcome.error->cause) : 0, outcome.bytes.size(),
-                                  peakKibibytes() - before, outcome.error ? qPrintable(outcome.error->sentence) : "");
+                                  peakKibibytes() - before,
+                                  outcome.error ? qPrintable(outcome.error->sentence.English()) : "");
                       QCoreApplication::quit();
                   });
     return QCoreApplication::exec();

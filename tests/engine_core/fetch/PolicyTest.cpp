@@ -121,7 +121,7 @@ std::vector<EngineError> everyError()
     for (int number = 0; number < 900; ++number)
     {
         EngineError const error = MakeError(static_cast<ErrorCause>(number));
-        if (error.sentence != QStringLiteral("The check for updates failed: try again later.") &&
+        if (error.sentence.English() != QStringLiteral("The check for updates failed: try again later.") &&
             error.cause != ErrorCause::HttpStatus && (number < 700 || number >= 750))
         {
             errors.push_back(error);
@@ -138,7 +138,7 @@ std::vector<EngineError> everyError()
     {
         FeedParseError error;
         error.kind = kind;
-        error.sentence = QStringLiteral("sentence %1").arg(static_cast<int>(kind));
+        error.sentence = Sentence("sentence %1", {QString::number(static_cast<int>(kind))});
         errors.push_back(MakeFeedError(error));
     }
     return errors;
@@ -154,7 +154,7 @@ TEST(EngineErrors, EachHasANumberAndASentenceOfItsOwn)
     {
         EXPECT_TRUE(numbers.insert({error.UnderlyingDomain(), error.UnderlyingCode()}).second)
             << error.UnderlyingCode();
-        EXPECT_TRUE(sentences.insert(error.sentence).second) << error.sentence.toStdString();
+        EXPECT_TRUE(sentences.insert(error.sentence.English()).second) << error.sentence.English().toStdString();
     }
 }
 
@@ -186,7 +186,7 @@ TEST(EngineErrors, RemoteTextIsEscapedCutAndKeptOutOfTheSentence)
     EXPECT_FALSE(error.detail.contains(QChar(0x1b)));
     EXPECT_FALSE(error.detail.contains(QChar(0x202e)));
     EXPECT_TRUE(error.detail.endsWith(QLatin1String("&amp;"))) << "not cut inside an escape";
-    EXPECT_EQ(error.sentence, MakeError(ErrorCause::ConnectionFailed).sentence);
+    EXPECT_EQ(error.sentence.English(), MakeError(ErrorCause::ConnectionFailed).sentence.English());
 }
 
 TEST(EngineErrors, CutNeverLeavesHalfACharacter)

@@ -51,10 +51,10 @@ public:
         auto const* const error = std::get_if<EngineError>(&answer);
         EXPECT_NE(error, nullptr);
         EngineError const told = error ? *error : EngineError{};
-        EXPECT_EQ(static_cast<int>(told.cause), static_cast<int>(cause)) << told.sentence.toStdString();
+        EXPECT_EQ(static_cast<int>(told.cause), static_cast<int>(cause)) << told.sentence.English().toStdString();
         EXPECT_EQ(told.code,
                   cause == ErrorCause::NoRoomForUpdate ? ErrorCode::TemporaryFolder : ErrorCode::NotWritable);
-        EXPECT_FALSE(told.sentence.contains(QLatin1Char('%'))) << told.sentence.toStdString();
+        EXPECT_FALSE(told.sentence.English().contains(QLatin1Char('%'))) << told.sentence.English().toStdString();
         return told;
     }
 
@@ -131,7 +131,7 @@ TEST(InstallTarget, IsOpenedWithItsRealPath)
     {
         auto const answer = scene.Open(path);
         auto const* const target = std::get_if<InstallTarget>(&answer);
-        ASSERT_NE(target, nullptr) << std::get<EngineError>(answer).sentence.toStdString();
+        ASSERT_NE(target, nullptr) << std::get<EngineError>(answer).sentence.English().toStdString();
         EXPECT_EQ(target->path.toStdString(), scene.Bundle());
         EXPECT_EQ(target->name, APP);
         struct stat bundle;
@@ -188,13 +188,14 @@ TEST(InstallTarget, PackagesBundleIsLeftToItsManager)
     TargetScene scene;
     WriteFile(scene.Above() + "/none/demo.list", scene.Bundle() + "\n");
     EngineError const error = scene.ExpectError(ErrorCause::BundleOfPackage);
-    EXPECT_TRUE(error.sentence.contains(QStringLiteral("\"sudo apt install --only-upgrade demo\"")))
-        << error.sentence.toStdString();
+    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("\"sudo apt install --only-upgrade demo\"")))
+        << error.sentence.English().toStdString();
     scene.Sources().dpkgInfoFolder = QStringLiteral("/nonexistent");
     scene.Sources().appImageVariable = QStringLiteral("/home/me/Demo.AppImage");
     scene.Sources().appFolderVariable = QString::fromStdString(scene.Parent());
-    EXPECT_TRUE(
-        scene.ExpectError(ErrorCause::BundleInImage).sentence.contains(QStringLiteral("/home/me/Demo.AppImage")));
+    EXPECT_TRUE(scene.ExpectError(ErrorCause::BundleInImage)
+                    .sentence.English()
+                    .contains(QStringLiteral("/home/me/Demo.AppImage")));
 }
 
 TEST(InstallTarget, LinkToAPackagesBundleHidesNothing)
@@ -232,8 +233,8 @@ TEST(InstallTarget, LackOfRoomIsToldInNumbers)
     EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle(), quint64{1} << 20)));
     EngineError const error =
         scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{1} << 30) + (quint64{1} << 29));
-    EXPECT_TRUE(error.sentence.contains(QStringLiteral("1.50 GiB"))) << error.sentence.toStdString();
-    EXPECT_TRUE(error.sentence.contains(QStringLiteral("1.00 MiB"))) << error.sentence.toStdString();
+    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.6 GB"))) << error.sentence.English().toStdString();
+    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.0 MB"))) << error.sentence.English().toStdString();
     scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), ~quint64{0});
 }
 

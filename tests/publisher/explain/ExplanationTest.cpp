@@ -22,7 +22,7 @@ public:
                                    Engine::FeedPlatform::Linux))
         , m_explanation(ExplainFeed(m_feed.items, client))
     {
-        EXPECT_TRUE(m_feed.HasSucceeded()) << m_feed.error.sentence.toStdString();
+        EXPECT_TRUE(m_feed.HasSucceeded()) << m_feed.error.sentence.English().toStdString();
     }
 
     Explanation const& Get() const { return m_explanation; }

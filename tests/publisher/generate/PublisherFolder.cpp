@@ -134,7 +134,7 @@ std::vector<Engine::FeedItem> PublisherFolder::Items(Engine::FeedPlatform platfo
     Engine::FeedParseResult feed =
         Engine::ParseFeed(QByteArray::fromStdString(ContentOf("appcast.xml")),
                           QUrl(QStringLiteral("https://updates.example.com/test/appcast.xml")), platform);
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.toStdString();
+    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
     return std::move(feed.items);
 }
 

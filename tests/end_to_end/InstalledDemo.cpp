@@ -137,6 +137,12 @@ bool DemoOutput::Says(std::string const& line) const
     return std::find(lines.begin(), lines.end(), line) != lines.end();
 }
 
+std::ptrdiff_t DemoOutput::Count(std::string const& part) const
+{
+    return std::count_if(lines.begin(), lines.end(),
+                         [&part](std::string const& line) { return line.find(part) != std::string::npos; });
+}
+
 std::string DemoOutput::Text() const
 {
     std::string text;

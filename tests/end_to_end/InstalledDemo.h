@@ -26,6 +26,8 @@ struct DemoOutput
     /// The versions that started, in order.
     std::vector<std::string> RunningVersions() const;
     [[nodiscard]] bool Says(std::string const& line) const;
+    /// The lines that contain \a part.
+    std::ptrdiff_t Count(std::string const& part) const;
     /// The lines as they were, for a failing test.
     std::string Text() const;
 };

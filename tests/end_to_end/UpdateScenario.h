@@ -15,6 +15,7 @@ using Names = std::vector<std::string>;
 constexpr char WHOLE_FEED[] = "appcast.xml";
 constexpr char DELTA_FEED[] = "appcast-delta.xml";
 constexpr char TAMPERED_FEED[] = "appcast-tampered.xml";
+constexpr char BROKEN_FEED[] = "appcast-broken.xml";
 constexpr char WHOLE_ARCHIVE[] = "PelnarDemo-5.10.tar.gz";
 constexpr char DELTA_ARCHIVE[] = "PelnarDemo-5.9-5.10.delta";
 
@@ -32,6 +33,7 @@ constexpr char SESSION_SKIP[] = "SparkleUpdater_updateIsReadyToInstallDialog/Ski
 
 constexpr char DOWNLOADS_SILENTLY[] = "{ SUAutomaticallyUpdate = YES; }";
 constexpr char FOUND[] = "OnUpdateFound current=5.9 remote=5.10";
+constexpr char FOUND_BROKEN[] = "OnUpdateFound current=5.9 remote=5.11";
 
 inline QStringList Script(char const* mode, char const* scenario, std::vector<char const*> const& clicks = {})
 {
@@ -59,6 +61,7 @@ protected:
     {
         EXPECT_EQ(output.RunningVersions(), (Names{"5.9", "5.10"})) << output.Text();
         EXPECT_TRUE(demo.Tree() == NewTree());
+        EXPECT_EQ(demo.Neighbours(), Names{"PelnarDemo.app"}) << "it has confirmed its good start";
         ExpectStarts("5.10");
     }
 

@@ -81,6 +81,21 @@ TEST_F(UpdateScenario, ATamperedArchiveIsRefusedAndTheOldVersionStarts)
     EXPECT_EQ(std::count(pictures.begin(), pictures.end(), "PelnarEngine_errorWindow"), 1);
 }
 
+TEST_F(UpdateScenario, AVersionThatFailsToStartTwiceIsTakenBackAndOfferedOnlyToAPersonWhoAsks)
+{
+    UpdateServer server;
+    DemoOutput const output = Run(server, BROKEN_FEED, Script("user", "update", {INSTALL, RELAUNCH}));
+    EXPECT_EQ(output.RunningVersions(), (Names{"5.9", "5.9"})) << output.Text();
+    EXPECT_EQ(output.Count("error while loading shared libraries"), 2) << output.Text();
+    EXPECT_TRUE(demo.Tree() == OldTree());
+
+    DemoOutput const background = Run(server, BROKEN_FEED, Script("automatic", "check"));
+    EXPECT_FALSE(background.Says(FOUND_BROKEN)) << background.Text();
+    DemoOutput const asked = Run(server, BROKEN_FEED, Script("user", "answer", {REMIND}));
+    EXPECT_TRUE(asked.Says(FOUND_BROKEN)) << asked.Text();
+    EXPECT_TRUE(demo.Tree() == OldTree());
+}
+
 TEST_F(UpdateScenario, AnUpdateThatIsInstalledIsNotOfferedAgain)
 {
     UpdateServer server;

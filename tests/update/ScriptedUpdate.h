@@ -92,7 +92,7 @@ public:
     void SetProgress(Engine::UpdateProgress const& progress) override { progresses.push_back(progress); }
     void ShowReadyToInstall(Engine::NamedVersion const& update, Engine::CheckOrigin origin,
                             std::function<void(Engine::ReadyChoice)> onChosen) override;
-    void ShowError(Sentence const& sentence, std::function<void()> onClosed) override;
+    void ShowError(Engine::Sentence const& sentence, std::function<void()> onClosed) override;
     void BringToFront() override { m_notes.push_back("bring to front"); }
     void Close() override;
 

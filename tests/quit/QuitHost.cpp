@@ -1,0 +1,48 @@
+// QuitHost.cpp: a host application with windows that prepares an update silently and keeps it for its end. It prints
+// what the engine tells it, a line each, and quits at the end of its input.
+// Usage: run FEED [approve]     approve: the update is to be installed at once, but the application does not quit for
+// it
+
+#include "Foundation/IsolatedUserDefaults.h"
+#include "tests/engine/ScriptedDelegate.h"
+
+#include <glog/logging.h>
+
+#include <QApplication>
+#include <QSocketNotifier>
+#include <QUrl>
+
+#include <cstdio>
+
+#include <unistd.h>
+
+int main(int argc, char** argv)
+{
+    using namespace Pelnar::Testing;
+    Pelnar::Foundation::IsolatedUserDefaults const defaults;
+    FLAGS_logtostderr = true;
+    google::InitGoogleLogging(argv[0]);
+    QApplication const application(argc, argv);
+    // Nothing but the end of the input and the session manager ends this application.
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    DelegateScript script;
+    script.choose = [](int, std::vector<QString> const&) { return ScriptedChoice{ScriptedChoice::Kind::Item, 0, {}}; };
+    script.onEvent = [](std::string const& event)
+    {
+        std::printf("%s\n", event.c_str());
+        std::fflush(stdout);
+    };
+    if (QCoreApplication::arguments().contains(QStringLiteral("approve")))
+    {
+        script.onWillInstall = [](HeldInvocation installation) { installation.Invoke(); };
+    }
+    UpdaterDriver driver(script);
+    driver.SetFeed(QUrl(QCoreApplication::arguments().at(1)));
+    driver.SetDownloadsAutomatically(true);
+    driver.CheckInBackground();
+
+    QSocketNotifier const input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, &application, [] { QCoreApplication::quit(); });
+    return QCoreApplication::exec();
+}

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>فشل التحديث لسبب غير معروف. أعد المحاولة لاحقًا.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>موجز التحديثات غير موقّع كما يشترط هذا التطبيق. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>يستمر موجز التحديثات بعد توقيعه ولذلك رُفض. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>لموجز التحديثات أكثر من توقيع ولذلك رُفض. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>أُضيف شيء إلى موجز التحديثات بعد توقيعه. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>أُعيدت كتابة نهايات أسطر موجز التحديثات، فلم يعد توقيعه مطابقًا. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>موجز التحديثات موقّع بطريقة لا يعرفها هذا الإصدار. أعد تثبيت التطبيق من موقع ناشره.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>توقيع موجز التحديثات تالف. أعد المحاولة، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>لم يوقّع ناشر هذا التطبيق موجز التحديثات، أو غُيّر بعد توقيعه. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>ليس لموجز التحديثات رقم تسلسلي صالح للاستخدام. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>لا يذكر موجز التحديثات مدة صلاحيته. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>موجز التحديثات أقدم من موجز استُلم سابقًا. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>انتهت صلاحية موجز التحديثات. تحقق من ساعة هذا الحاسوب، وأبلغ الناشر إذا كانت صحيحة.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Die Aktualisierung ist aus einem unbekannten Grund fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>Der Update-Feed ist nicht signiert, wie es diese Anwendung verlangt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Der Update-Feed geht hinter seiner Signatur weiter und wird abgelehnt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>Der Update-Feed hat mehr als eine Signatur und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Dem Update-Feed wurde nach seiner Signatur etwas hinzugefügt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Die Zeilenenden des Update-Feeds wurden umgeschrieben, sodass seine Signatur nicht passt. Bitte informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>Der Update-Feed ist auf eine Weise signiert, die diese Version nicht kennt. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>Die Signatur des Update-Feeds ist beschädigt. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>Der Update-Feed wurde nicht vom Herausgeber dieser Anwendung signiert oder nachträglich verändert. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>Der Update-Feed hat keine brauchbare laufende Nummer. Bitte informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>Der Update-Feed gibt nicht an, wie lange er gilt. Bitte informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>Der Update-Feed ist älter als ein früher empfangener. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Der Update-Feed ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>La actualización falló por un motivo desconocido: inténtelo de nuevo más tarde.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>El canal de actualizaciones no está firmado, como exige esta aplicación: pruebe con otra red e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>El canal de actualizaciones continúa después de su firma y se rechaza: pruebe con otra red e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>El canal de actualizaciones tiene más de una firma y se rechaza: informe al editor.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Se añadió algo al canal de actualizaciones después de su firma: pruebe con otra red e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Se reescribieron los finales de línea del canal de actualizaciones, así que su firma no coincide: informe al editor.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>El canal de actualizaciones está firmado de una forma que esta versión no conoce: vuelva a instalar la aplicación desde el sitio de su editor.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>La firma del canal de actualizaciones está dañada: inténtelo de nuevo e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>El canal de actualizaciones no fue firmado por el editor de esta aplicación o se modificó después: pruebe con otra red e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>El canal de actualizaciones no tiene un número de serie utilizable: informe al editor.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>El canal de actualizaciones no indica hasta cuándo es válido: informe al editor.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>El canal de actualizaciones es más antiguo que otro recibido antes: pruebe con otra red e informe al editor si el problema continúa.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>El canal de actualizaciones ha caducado: compruebe el reloj de este equipo e informe al editor si está en hora.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>La mise à jour a échoué pour une raison inconnue&#xa0;: réessayez plus tard.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>Le flux de mises à jour n’est pas signé, comme cette application l’exige&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Le flux de mises à jour continue après sa signature et est refusé&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>Le flux de mises à jour a plus d’une signature et est refusé&#xa0;: prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Quelque chose a été ajouté au flux de mises à jour après sa signature&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Les fins de ligne du flux de mises à jour ont été réécrites, sa signature ne correspond donc plus&#xa0;: prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>Le flux de mises à jour est signé d’une façon que cette version ne connaît pas&#xa0;: réinstallez l’application depuis le site de son éditeur.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>La signature du flux de mises à jour est endommagée&#xa0;: réessayez et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>Le flux de mises à jour n’a pas été signé par l’éditeur de cette application, ou a été modifié ensuite&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>Le flux de mises à jour n’a pas de numéro de série utilisable&#xa0;: prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>Le flux de mises à jour n’indique pas jusqu’à quand il est valable&#xa0;: prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>Le flux de mises à jour est plus ancien qu’un flux déjà reçu&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Le flux de mises à jour a expiré&#xa0;: vérifiez l’horloge de cet ordinateur et, si elle est à l’heure, prévenez l’éditeur.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

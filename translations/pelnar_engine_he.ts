@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>העדכון נכשל מסיבה לא ידועה. יש לנסות שוב מאוחר יותר.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>ערוץ העדכונים אינו חתום, כפי שהיישום דורש. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>ערוץ העדכונים נמשך אחרי החתימה שלו ולכן נדחה. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>לערוץ העדכונים יש יותר מחתימה אחת, ולכן נדחה. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>משהו נוסף לערוץ העדכונים אחרי שנחתם. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>סופי השורות של ערוץ העדכונים שוכתבו, ולכן חתימתו אינה תואמת. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>ערוץ העדכונים חתום בדרך שהגרסה הזאת אינה מכירה. יש להתקין את היישום מחדש מאתר היצרן.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>החתימה של ערוץ העדכונים פגומה. יש לנסות שוב, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>ערוץ העדכונים לא נחתם על ידי יצרן היישום, או ששונה אחר כך. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>לערוץ העדכונים אין מספר סידורי שמיש. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>ערוץ העדכונים אינו מציין עד מתי הוא תקף. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>ערוץ העדכונים ישן מערוץ שהתקבל קודם. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>תוקף ערוץ העדכונים פג. יש לבדוק את שעון המחשב, ואם הוא מדויק להודיע ליצרן התוכנה.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>L’aggiornamento non è riuscito per un motivo sconosciuto: riprovare più tardi.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>Il feed degli aggiornamenti non è firmato, come richiede questa applicazione: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Il feed degli aggiornamenti prosegue dopo la sua firma e viene rifiutato: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>Il feed degli aggiornamenti ha più di una firma e viene rifiutato: informare il produttore.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Al feed degli aggiornamenti è stato aggiunto qualcosa dopo la firma: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>I fine riga del feed degli aggiornamenti sono stati riscritti, quindi la sua firma non corrisponde: informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>Il feed degli aggiornamenti è firmato in un modo che questa versione non conosce: reinstallare l’applicazione dal sito del produttore.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>La firma del feed degli aggiornamenti è danneggiata: riprovare e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>Il feed degli aggiornamenti non è stato firmato dal produttore di questa applicazione o è stato modificato in seguito: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>Il feed degli aggiornamenti non ha un numero di serie utilizzabile: informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>Il feed degli aggiornamenti non indica fino a quando è valido: informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>Il feed degli aggiornamenti è meno recente di uno già ricevuto: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Il feed degli aggiornamenti è scaduto: controllare l’orologio di questo computer e, se è esatto, informare il produttore.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

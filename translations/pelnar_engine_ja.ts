@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>不明な理由でアップデートに失敗しました。しばらくしてからもう一度お試しください。</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>このアプリケーションに必要な署名がアップデートフィードにありません。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>アップデートフィードが署名の後にも続いているため、拒否されました。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>アップデートフィードに複数の署名があるため、拒否されました。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>署名の後にアップデートフィードに何かが追加されました。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>アップデートフィードの改行が書き換えられたため、署名が一致しません。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>アップデートフィードの署名方式はこのバージョンでは不明です。アプリケーションを発行元から入手して再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>アップデートフィードの署名が壊れています。もう一度お試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>アップデートフィードがこのアプリケーションの発行元によって署名されていないか、後から変更されています。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>アップデートフィードに有効な通し番号がありません。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>アップデートフィードに有効期限が示されていません。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>アップデートフィードが以前に受信したものより古くなっています。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>アップデートフィードの有効期限が切れています。このコンピューターの時計を確認し、正しい場合は発行元に連絡してください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>De update is om een onbekende reden mislukt: probeer het later opnieuw.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>De updatefeed is niet ondertekend, zoals deze app vereist: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>De updatefeed gaat door na zijn handtekening en wordt geweigerd: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>De updatefeed heeft meer dan één handtekening en wordt geweigerd: informeer de uitgever.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Er is na de ondertekening iets aan de updatefeed toegevoegd: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>De regeleinden van de updatefeed zijn herschreven, zodat zijn handtekening niet klopt: informeer de uitgever.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>De updatefeed is ondertekend op een manier die deze versie niet kent: installeer de app opnieuw vanaf de site van de uitgever.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>De handtekening van de updatefeed is beschadigd: probeer het opnieuw en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>De updatefeed is niet door de uitgever van deze app ondertekend, of is daarna gewijzigd: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>De updatefeed heeft geen bruikbaar volgnummer: informeer de uitgever.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>De updatefeed vermeldt niet hoelang hij geldig is: informeer de uitgever.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>De updatefeed is ouder dan een eerder ontvangen feed: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>De updatefeed is verlopen: controleer de klok van deze computer en informeer de uitgever als die goed staat.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

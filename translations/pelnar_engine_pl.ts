@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Aktualizacja nie powiodła się z nieznanego powodu. Spróbuj ponownie później.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>Kanał aktualizacji nie jest podpisany, czego wymaga ta aplikacja. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Kanał aktualizacji ma dalszy ciąg za swoim podpisem i został odrzucony. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>Kanał aktualizacji ma więcej niż jeden podpis i został odrzucony. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Do kanału aktualizacji dodano coś po jego podpisaniu. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Końce wierszy kanału aktualizacji zostały zmienione, więc jego podpis się nie zgadza. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>Kanał aktualizacji jest podpisany w sposób, którego ta wersja nie zna. Zainstaluj aplikację ponownie ze strony wydawcy.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>Podpis kanału aktualizacji jest uszkodzony. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>Kanał aktualizacji nie został podpisany przez wydawcę tej aplikacji lub został później zmieniony. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>Kanał aktualizacji nie ma użytecznego numeru seryjnego. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>Kanał aktualizacji nie podaje, jak długo jest ważny. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>Kanał aktualizacji jest starszy niż wcześniej otrzymany. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Kanał aktualizacji stracił ważność. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>A atualização falhou por um motivo desconhecido: tente novamente mais tarde.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>O feed de atualizações não está assinado, como este aplicativo exige: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>O feed de atualizações continua depois da sua assinatura e foi recusado: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>O feed de atualizações tem mais de uma assinatura e foi recusado: avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>Algo foi acrescentado ao feed de atualizações depois da sua assinatura: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Os finais de linha do feed de atualizações foram reescritos, portanto sua assinatura não confere: avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>O feed de atualizações está assinado de uma forma que esta versão não conhece: instale o aplicativo novamente a partir do site do fornecedor.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>A assinatura do feed de atualizações está danificada: tente novamente e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>O feed de atualizações não foi assinado pelo fornecedor deste aplicativo ou foi alterado depois: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>O feed de atualizações não tem um número de série utilizável: avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>O feed de atualizações não informa até quando é válido: avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>O feed de atualizações é mais antigo do que um recebido antes: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>O feed de atualizações expirou: verifique o relógio deste computador e, se estiver certo, avise o fornecedor.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Обновление не удалось по неизвестной причине. Повторите попытку позже.</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>Лента обновлений не подписана, как того требует эта программа. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>Лента обновлений продолжается после своей подписи и отклонена. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>Лента обновлений содержит больше одной подписи и отклонена. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>В ленту обновлений что-то добавлено после подписания. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>Окончания строк ленты обновлений переписаны, поэтому её подпись не подходит. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>Лента обновлений подписана способом, неизвестным этой версии. Установите программу заново с сайта издателя.</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>Подпись ленты обновлений повреждена. Повторите попытку, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>Лента обновлений не подписана издателем этой программы или изменена после подписания. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>В ленте обновлений нет пригодного порядкового номера. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>В ленте обновлений не указан срок её действия. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>Лента обновлений старше полученной ранее. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Срок действия ленты обновлений истёк. Проверьте часы этого компьютера; если они идут верно, сообщите издателю.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -689,6 +689,54 @@
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>更新因未知原因失败。请稍后再试。</translation>
     </message>
+    <message>
+        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新源没有此应用程序所要求的签名。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新源在其签名之后还有内容，已被拒绝。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <translation>更新源有多个签名，已被拒绝。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新源在签名之后被添加了内容。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <translation>更新源的换行符被改写，签名不匹配。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <translation>更新源的签名方式是此版本所不知道的。请从发布者处获取并重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <translation>更新源的签名已损坏。请重试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新源不是由此应用程序的发布者签名的，或在签名后被更改。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <translation>更新源没有可用的序列号。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <translation>更新源未注明有效期。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <translation>更新源比之前收到的更旧。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>更新源已过期。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

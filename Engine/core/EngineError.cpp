@@ -178,37 +178,58 @@ char const* SentenceOf(ErrorCause cause)
             "A web page came in place of the update feed: sign in to this network if it asks for it, and try again.");
 
     case ErrorCause::FeedUnsigned:
-        return "The update feed is not signed, as this application requires: try another network, and tell the "
-               "publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed is not signed, as this application requires: try another network, and tell the "
+            "publisher if it stays so.");
     case ErrorCause::FeedSignatureNotAtEnd:
-        return "The update feed goes on behind its signature, and is refused: try another network, and tell the "
-               "publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed goes on behind its signature, and is refused: try another network, and tell the "
+            "publisher if it stays so.");
     case ErrorCause::FeedSignedTwice:
-        return "The update feed has more than one signature, and is refused: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update feed has more than one signature, and is refused: tell the publisher.");
     case ErrorCause::FeedBytesAfterSignature:
-        return "Something was added to the update feed after its signature: try another network, and tell the "
-               "publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "Something was added to the update feed after its signature: try another network, and tell the "
+            "publisher if it stays so.");
     case ErrorCause::FeedLineEndsRewritten:
-        return "The line ends of the update feed were rewritten, so that its signature does not fit: tell the "
-               "publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The line ends of the update feed were rewritten, so that its signature does not fit: tell the "
+            "publisher.");
     case ErrorCause::FeedSignatureUnknown:
-        return "The update feed is signed in a way that this version does not know: install the application anew from "
-               "its publisher.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed is signed in a way that this version does not know: install the application anew from "
+            "its publisher.");
     case ErrorCause::FeedSignatureMalformed:
-        return "The signature of the update feed is damaged: try again, and tell the publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The signature of the update feed is damaged: try again, and tell the publisher if it stays so.");
     case ErrorCause::FeedSignatureWrong:
-        return "The update feed was not signed by this application's publisher, or was changed afterwards: try another "
-               "network, and tell the publisher if it stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed was not signed by this application's publisher, or was changed afterwards: try another "
+            "network, and tell the publisher if it stays so.");
 
     case ErrorCause::FeedSerialUnusable:
-        return "The update feed has no usable serial number: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update feed has no usable serial number: tell the publisher.");
     case ErrorCause::FeedExpiryUnusable:
-        return "The update feed does not say how long it holds: tell the publisher.";
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update feed does not say how long it holds: tell the publisher.");
     case ErrorCause::FeedReplayed:
-        return "The update feed is older than one that came before: try another network, and tell the publisher if it "
-               "stays so.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed is older than one that came before: try another network, and tell the publisher if it "
+            "stays so.");
     case ErrorCause::FeedExpired:
-        return "The update feed has expired: check the clock of this computer, and tell the publisher if it is right.";
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update feed has expired: check the clock of this computer, and tell the publisher if it is right.");
 
     case ErrorCause::ForeignItem:
         return QT_TRANSLATE_NOOP(

@@ -22,7 +22,7 @@ Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
     Engine::FeedParseResult const feed = Engine::ParseFeed(content, QUrl(), Engine::FeedPlatform::Linux);
     if (!feed.HasSucceeded())
     {
-        throw Refusal({name, feed.error.line, feed.error.column, feed.error.sentence,
+        throw Refusal({name, feed.error.line, feed.error.column, feed.error.sentence.English(),
                        QStringLiteral("mend the feed; clients do not read it")});
     }
     return feed.channel;

@@ -75,7 +75,7 @@ protected:
             Engine::VerifyFeed(feed, QStringList(QString::fromStdString(MakeKeyPair(seedByte).publicKey)));
         if (auto const* const error = std::get_if<Engine::EngineError>(&verified))
         {
-            ADD_FAILURE() << error->sentence.toStdString() << '\n' << feed.toStdString();
+            ADD_FAILURE() << error->sentence.English().toStdString() << '\n' << feed.toStdString();
             return believed;
         }
         believed.content = std::get<QByteArray>(verified);

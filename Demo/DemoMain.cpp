@@ -75,6 +75,8 @@ int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
     bool const isDismissing = options.script == Script::CheckOnce || options.script == Script::ShowDialogs;
     WindowCamera camera(options.screenshotFolder, isDismissing ? WindowCamera::AfterPicture::DismissDialogs
                                                                : WindowCamera::AfterPicture::LeaveOpen);
+    // Dialogs without a title of their own bear it.
+    QGuiApplication::setApplicationDisplayName(QString::fromStdString(options.customization.displayName));
     DemoWindow window(options);
     window.show();
     // When the event loop runs, the window is drawn and answers: that is a good start.

@@ -68,6 +68,8 @@ DemoWindow::DemoWindow(DemoOptions const& options)
     button->setToolButtonStyle(Qt::ToolButtonTextOnly);
     auto* const row = new QHBoxLayout;
     row->addWidget(button);
+    row->addSpacing(row->spacing());
+    row->addWidget(MakeLabel(tr("The check is:"), content));
     row->addWidget(m_mode);
     row->addStretch();
 

@@ -63,7 +63,7 @@ public:
 
     QString FirstLine() const
     {
-        EXPECT_TRUE(Says("\n"));
+        EXPECT_TRUE(WaitFor([this] { return m_output.contains('\n'); }, PATIENCE_MS));
         return QString::fromLocal8Bit(m_output.left(m_output.indexOf('\n')));
     }
 

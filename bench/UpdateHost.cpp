@@ -89,7 +89,7 @@ private:
     {
         if (error)
         {
-            qFatal("%s", qPrintable(error->sentence));
+            qFatal("%s", qPrintable(error->sentence.English()));
         }
     }
 

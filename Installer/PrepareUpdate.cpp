@@ -116,6 +116,32 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
     return {job.bundleName, Engine::DigestTree(bundle.Get())};
 }
 
+/// Verifies the archive and unpacks it. The archive is what \a before says, from the first byte that is read of it to
+/// the last; what becomes of it afterwards does not matter any more.
+Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
+                                      struct stat const& before, ReportChannel& report)
+{
+    Lease const lease(descriptors.archive);
+    report.SendProgress(HelperPhase::Verifying, 0, job.archiveBytes);
+    UpdateFault const verdict = Engine::VerifyFileSignature(descriptors.archive, job.signature, job.publicKeys);
+    if (verdict != UpdateFault::None)
+    {
+        throw UpdateRefusal(verdict);
+    }
+    report.SendProgress(HelperPhase::Verifying, job.archiveBytes, job.archiveBytes);
+
+    auto const progress = [&report](std::uint64_t done, std::uint64_t total)
+    { report.SendProgress(HelperPhase::Unpacking, done, total); };
+    Engine::UnpackedBundle bundle = job.kind == PayloadKind::Delta
+                                        ? ApplyDeltaArchive(job, descriptors, progress)
+                                        : Engine::UnpackArchive(descriptors.archive, descriptors.staging, progress);
+    if (!IsSameFile(before, StatusOf(descriptors.archive)))
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveInUse);
+    }
+    return bundle;
+}
+
 } // namespace
 
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
@@ -132,25 +158,7 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     }
     bool const isDelta = job.kind == PayloadKind::Delta;
     ConfineTo(descriptors.staging, isDelta ? std::vector<int>{descriptors.target} : std::vector<int>());
-    Lease const lease(descriptors.archive);
-
-    report.SendProgress(HelperPhase::Verifying, 0, job.archiveBytes);
-    UpdateFault const verdict = Engine::VerifyFileSignature(descriptors.archive, job.signature, job.publicKeys);
-    if (verdict != UpdateFault::None)
-    {
-        throw UpdateRefusal(verdict);
-    }
-    report.SendProgress(HelperPhase::Verifying, job.archiveBytes, job.archiveBytes);
-
-    auto const progress = [&report](std::uint64_t done, std::uint64_t total)
-    { report.SendProgress(HelperPhase::Unpacking, done, total); };
-    Engine::UnpackedBundle const bundle =
-        isDelta ? ApplyDeltaArchive(job, descriptors, progress)
-                : Engine::UnpackArchive(descriptors.archive, descriptors.staging, progress);
-    if (!IsSameFile(before, StatusOf(descriptors.archive)))
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveInUse);
-    }
+    Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, before, report);
     CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), bundle.name,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
     // Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could

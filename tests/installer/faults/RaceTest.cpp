@@ -112,6 +112,32 @@ TEST(Race, ArchiveCanBeWrittenAtOnceWhenTheHelperHasEnded)
     }
 }
 
+TEST(Race, ArchiveWrittenBehindTheReportChangesNothing)
+{
+    Versions const versions;
+    UpdateScene scene;
+    bool isTold = false;
+    bool isWritten = false;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        if (isTold && !isWritten)
+        {
+            isWritten = true;
+            // Breaks a lease without waiting for its holder to let go.
+            UniqueFd const writer(::open(ArchivePath(scene).c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
+        }
+        isTold = isTold || (stop.call == SYS_write && stop.arguments[0] == HelperDescriptors::REPORT &&
+                            PathArgument(stop, 1).substr(0, 8) == "prepared");
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = PrepareIn(scene, start);
+    EXPECT_TRUE(isWritten);
+    EXPECT_EQ(outcome.exitStatus, 0) << "it does not read the archive any more";
+    EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+    ExpectRecovered(scene, versions);
+}
+
 struct Change
 {
     char const* name;

@@ -268,7 +268,7 @@ INSTANTIATE_TEST_SUITE_P(
             {
                 return DeltaWith(
                     [](DeltaManifest& manifest, std::string& data) {
-                        UseSteps(manifest, data, {1, 0, ~std::uint64_t(99), 19999, 0, 0});
+                        UseSteps(manifest, data, {1, 0, 199, 19999, 0, 0});
                     });
             },
             &LeaveAlone, UpdateFault::ContainerDamaged},

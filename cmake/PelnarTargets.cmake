@@ -10,3 +10,18 @@ function(pelnar_target name)
     endif()
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()
+
+# pelnar_precompile_own(<name> <header>...): the target's C++ sources, and those of targets that share with it, find
+# these headers compiled already, in the presets that allow it. No source may count on that: the others compile it bare.
+function(pelnar_precompile_own name)
+    list(TRANSFORM ARGN REPLACE ".+" "$<$<COMPILE_LANGUAGE:CXX>:<\\0$<ANGLE-R>>")
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+endfunction()
+
+# pelnar_precompile_with(<name> <owner>): the target shares the compiled headers of the other.
+function(pelnar_precompile_with name owner)
+    get_target_property(objective_sources ${name} SOURCES)
+    list(FILTER objective_sources INCLUDE REGEX "\\.mm$")
+    set_source_files_properties(${objective_sources} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
+    target_precompile_headers(${name} REUSE_FROM ${owner})
+endfunction()

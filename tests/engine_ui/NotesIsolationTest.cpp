@@ -41,8 +41,9 @@ protected:
         viewer.setProcessEnvironment(environment);
         viewer.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         viewer.start(QStringLiteral("strace"),
-                     {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-s"), QStringLiteral("4096"),
-                      QStringLiteral("-e"), QStringLiteral("trace=%file,%network"), QStringLiteral("-o"), trace,
+                     {QStringLiteral("-f"), QStringLiteral("--seccomp-bpf"), QStringLiteral("-qq"),
+                      QStringLiteral("-s"), QStringLiteral("4096"), QStringLiteral("-e"),
+                      QStringLiteral("trace=%file,%network"), QStringLiteral("-o"), trace,
                       QStringLiteral(PELNAR_NOTES_VIEWER), QString::fromLatin1(mode), CanaryPath(),
                       QStringLiteral("127.0.0.1:%1").arg(m_server.serverPort())});
         EXPECT_TRUE(viewer.waitForFinished(IS_SANITIZED ? 390000 : 110000));

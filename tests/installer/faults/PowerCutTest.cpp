@@ -184,7 +184,7 @@ private:
     }
 
     Workspace const m_files{::access("/dev/shm", W_OK) == 0 ? "/dev/shm" : "/tmp"};
-    std::mt19937 m_random{static_cast<unsigned>(GetParam().kind.name[0] * 256 + GetParam().kind.name[4])};
+    std::mt19937 m_random{static_cast<unsigned>(std::string_view(GetParam().kind.name).size())};
     bool m_isNewCertain = false;
     bool m_isMissingAllowed = false;
     bool m_areSyncsDone = true;

@@ -14,7 +14,7 @@ constexpr qint64 SECONDS_PER_DAY = 24 * 60 * 60;
 
 QString AddressOf(QUrl const& url)
 {
-    return url.toString(QUrl::FullyEncoded | QUrl::RemoveUserInfo);
+    return url.adjusted(QUrl::RemoveUserInfo).toString(QUrl::FullyEncoded);
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-# Of every test: what the leak checker lets pass. Its short way of reading the stack misses some of it.
+# Of every test: what the leak checker lets pass.
 set(PELNAR_TEST_ENVIRONMENT
-    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0:fast_unwind_on_malloc=0")
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
 # Seconds; only a test that hangs reaches it.
 set(PELNAR_TEST_TIMEOUT 120)
 set(PELNAR_LONG_TEST_TIMEOUT 14400)

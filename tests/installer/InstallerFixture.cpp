@@ -357,7 +357,7 @@ Engine::InstallJob UpdateScene::MakeInstallJob(Engine::ContentHash const& digest
 {
     Engine::InstallJob job;
     job.targetName = APP;
-    job.stagingName = m_staging->Name();
+    job.stagingName = m_staging ? m_staging->Name() : std::string();
     job.stagedName = APP;
     job.digest = digest;
     job.bundleIdentifier = IDENTIFIER;

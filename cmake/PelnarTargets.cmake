@@ -25,3 +25,12 @@ function(pelnar_precompile_with name owner)
     set_source_files_properties(${objective_sources} PROPERTIES SKIP_PRECOMPILE_HEADERS ON)
     target_precompile_headers(${name} REUSE_FROM ${owner})
 endfunction()
+
+# pelnar_uncounted(<name>): a program, or a library put into one, that is confined or starts without an environment. It
+# has nowhere to write coverage counters, and would wait for ever or show what it is not meant to have.
+function(pelnar_uncounted name)
+    if(PELNAR_COVERAGE)
+        target_compile_options(${name} PRIVATE -fno-profile-instr-generate -fno-coverage-mapping)
+        target_link_options(${name} PRIVATE -noprofilelib)
+    endif()
+endfunction()

@@ -1,8 +1,8 @@
 // Every text of the windows and of the update dialogs, in every language.
 
 #include "Engine/ui/Translations.h"
+#include "Engine/core/UpdateError.h"
 #include "Engine/core/feed/FeedWalker_p.h"
-#include "Engine/core/update/UpdateError.h"
 #include "Engine/ui/EngineWindow.h"
 #include "tests/engine_ui/WindowsFixture.h"
 

@@ -1,4 +1,4 @@
-#include "Engine/core/update/UpdateError.h"
+#include "Engine/core/UpdateError.h"
 
 #include <gtest/gtest.h>
 

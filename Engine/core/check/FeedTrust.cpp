@@ -1,9 +1,9 @@
 #include "Engine/core/check/FeedTrust.h"
 
+#include "Engine/core/UpdateError.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 #include "Engine/core/payload/Ed25519Signature.h"
-#include "Engine/core/update/UpdateError.h"
 
 #include <algorithm>
 

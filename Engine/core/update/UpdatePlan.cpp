@@ -1,7 +1,7 @@
 #include "Engine/core/update/UpdatePlan.h"
 
+#include "Engine/core/UpdateError.h"
 #include "Engine/core/payload/Ed25519Signature.h"
-#include "Engine/core/update/UpdateError.h"
 
 #include <QDir>
 

@@ -1,7 +1,7 @@
 #include "Engine/core/update/UpdateRun.h"
 
+#include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
-#include "Engine/core/update/UpdateError.h"
 
 #include <QCoreApplication>
 #include <QPointer>

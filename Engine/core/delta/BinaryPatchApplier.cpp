@@ -47,11 +47,11 @@ public:
         number = 0;
         for (int shift = 0;; shift += 7)
         {
-            std::uint8_t byte = 0;
-            if (!Take(&byte, 1))
+            if (m_position == m_end && !Refill())
             {
                 return PatchVerdict::SourceEnded;
             }
+            std::uint8_t const byte = m_ahead[m_position++];
             bool const isOverlong = byte == 0 && shift > 0;
             bool const isTooLarge = shift == 63 && byte > 1;
             if (isOverlong || isTooLarge)

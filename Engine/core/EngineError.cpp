@@ -169,9 +169,7 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::FeedTooManyItems:
     case ErrorCause::FeedTooManyNamespaces:
     case ErrorCause::FeedTooMuchMarkup:
-        return QT_TRANSLATE_NOOP(
-            "PelnarEngine_Errors",
-            "The update feed cannot be read: tell the publisher."); // replaced by the parser's, which names the line
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update feed cannot be read: tell the publisher.");
     case ErrorCause::FeedIsWebPage:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
@@ -548,7 +546,7 @@ EngineError MakeFeedError(FeedParseError const& error)
     EngineError result = MakeError(CauseOf(error.kind), error.detail);
     if (result.cause != ErrorCause::FeedIsWebPage)
     {
-        result.sentence = error.sentence; // it names the line
+        result.sentence = result.sentence.FollowedBy(error.sentence); // which names the line
     }
     return result;
 }

@@ -44,16 +44,36 @@ QVector<QString> Shown(QVector<Sentence::Value> const& values, QLocale const& lo
 
 } // namespace
 
+Sentence Sentence::FollowedBy(Sentence const& next) const
+{
+    Sentence both = *this;
+    both.m_following.push_back(next);
+    return both;
+}
+
 QString Sentence::English() const
 {
-    return Filled(QString::fromUtf8(m_text), Shown(m_values, QLocale::c(), {}));
+    QString text = Filled(QString::fromUtf8(m_text), Shown(m_values, QLocale::c(), {}));
+    for (Sentence const& next : m_following)
+    {
+        text += QLatin1Char(' ') + next.English();
+    }
+    return text;
 }
 
 QString Sentence::Translated(std::function<QString(QString const&)> const& shown) const
 {
-    return IsEmpty()
-               ? QString()
-               : Filled(QCoreApplication::translate("PelnarEngine_Errors", m_text), Shown(m_values, QLocale(), shown));
+    if (IsEmpty())
+    {
+        return {};
+    }
+    QString text =
+        Filled(QCoreApplication::translate("PelnarEngine_Errors", m_text), Shown(m_values, QLocale(), shown));
+    for (Sentence const& next : m_following)
+    {
+        text += QLatin1Char(' ') + next.Translated(shown);
+    }
+    return text;
 }
 
 QString SizeText(quint64 bytes, QLocale const& locale)

@@ -1,5 +1,5 @@
-// Sentence.h: a sentence of the engine for a person, in English for logs and in the person's language for a window.
-// Thread: any, but for Translated. Ownership: values only; the text is a literal.
+// Sentence.h: a sentence of the engine for a person, or several, in English for logs and in the person's language for a
+// window. Thread: any, but for Translated. Ownership: values only; the text is a literal.
 #pragma once
 
 #include <QString>
@@ -8,6 +8,7 @@
 #include <functional>
 #include <initializer_list>
 #include <variant>
+#include <vector>
 
 class QLocale;
 
@@ -30,9 +31,12 @@ public:
     /// \a text is a literal that QT_TRANSLATE_NOOP marks with the context "PelnarEngine_Errors".
     explicit Sentence(char const* text, std::initializer_list<Value> values = {}) : m_text(text), m_values(values) {}
 
-    /// The literal, which is the key of the translations; nullptr for no sentence.
+    /// The first one's literal, which is the key of the translations; nullptr for no sentence.
     char const* Source() const { return m_text; }
     [[nodiscard]] bool IsEmpty() const { return m_text == nullptr; }
+
+    /// This one, a blank and \a next.
+    Sentence FollowedBy(Sentence const& next) const;
 
     QString English() const;
     /// In the language of the installed translations and with the sizes of the default locale; every text that is put
@@ -42,6 +46,7 @@ public:
 private:
     char const* m_text = nullptr;
     QVector<Value> m_values;
+    std::vector<Sentence> m_following;
 };
 
 /// \a bytes as a person reads them, for example "1.5 MB".

@@ -158,6 +158,17 @@ TEST(EngineErrors, EachHasANumberAndASentenceOfItsOwn)
     }
 }
 
+TEST(EngineErrors, UnreadableFeedSaysWhatToDoAndThenNamesTheLine)
+{
+    FeedParseError error;
+    error.kind = FeedErrorKind::TooDeep;
+    error.sentence = Sentence("Line %1 is %2.", {QStringLiteral("4"), QStringLiteral("%1")});
+    EXPECT_EQ(MakeFeedError(error).sentence.English(),
+              QStringLiteral("The update feed cannot be read: tell the publisher. Line 4 is %1."));
+    EXPECT_EQ(MakeFeedError(error).sentence.Translated(),
+              QStringLiteral("The update feed cannot be read: tell the publisher. Line 4 is %1."));
+}
+
 TEST(EngineErrors, CodesAreThePublishedOnes)
 {
     std::map<ErrorCause, int> const ownCodes = {{ErrorCause::NoUpdate, 1001},

@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
+#include <QLockFile>
 #include <QStandardPaths>
 
 #include <glog/logging.h>
@@ -21,6 +22,7 @@ namespace
 {
 
 constexpr long long MAX_FEED_BYTES = 1LL << 30;
+constexpr int LONGEST_WAIT_MS = 500;
 
 enum class Source
 {
@@ -239,6 +241,14 @@ QString DownloadFolderFor(QString const& identifier)
            QString::fromLatin1(name);
 }
 
+/// Takes over what other processes of the application have written since.
+void RefreshDefaults()
+{
+    std::optional<std::string> const reason =
+        ReasonRaisedBy([] { [[NSUserDefaults standardUserDefaults] synchronize]; });
+    LOG_IF(WARNING, reason.has_value()) << "The user defaults could not be read anew: " << *reason;
+}
+
 /// Stores \a value and puts the defaults on disk; what fails is a warning, since a check must not depend on it.
 void WriteDefault(NSString* key, id value)
 {
@@ -258,6 +268,7 @@ void WriteDefault(NSString* key, id value)
 
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
 {
+    RefreshDefaults();
     UpdateSettings settings;
     settings.check = ReadCheckSettings(feedUrl);
     settings.bundle = ReadRunningBundle();
@@ -330,8 +341,14 @@ FeedRecord ReadFeedRecord()
     return record;
 }
 
-void WriteFeedRecord(FeedRecord const& record)
+void KeepFeedRecord(FeedRecord const& ours)
 {
+    // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
+    QLockFile lock(ToQString(GSDefaultsRootForUser(NSUserName())) + QStringLiteral("/PelnarFeedRecord.lock"));
+    LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
+        << "What is known of the feed is stored without the lock that keeps other processes from doing so";
+    RefreshDefaults();
+    FeedRecord const record = FeedRecordToKeep(ReadFeedRecord(), ours);
     NSMutableDictionary* const entries = [NSMutableDictionary dictionary];
     [entries setObject:ToNSString(record.address) forKey:@"address"];
     [entries setObject:ToNSString(record.digest) forKey:@"digest"];

@@ -46,6 +46,7 @@ void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
 void WriteBackOff(BackOffState const& state);
 FeedRecord ReadFeedRecord();
-void WriteFeedRecord(FeedRecord const& record);
+/// Stores \a ours, unless another process of the application has stored a record of a later feed meanwhile.
+void KeepFeedRecord(FeedRecord const& ours);
 
 } // namespace Pelnar::Engine

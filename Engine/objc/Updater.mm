@@ -384,7 +384,7 @@ void Updater::StoreFeedRecord(FeedRecord const& record)
 {
     @autoreleasepool
     {
-        WriteFeedRecord(record);
+        KeepFeedRecord(record);
     }
 }
 

@@ -142,7 +142,9 @@ void SetNumberDefault(char const* key, int value);
 void SetDateDefault(char const* key);
 /// Where the process keeps its user defaults; empty when nobody set that.
 QString DefaultsFolder();
-/// Puts \a bytes in the place of the file with the user defaults, and makes the process read them anew.
+/// Puts \a bytes in the place of the file with the user defaults, as another process does.
+void WriteDefaultsOfAnotherProcess(QByteArray const& bytes);
+/// The same, and makes the process read them anew.
 void SpoilDefaults(QByteArray const& bytes);
 /// Writes the user defaults to their file, and makes the process read them anew.
 void ReloadDefaults();

@@ -8,7 +8,7 @@
 #include "Foundation/Retained.h"
 #include "tests/support/DialogDriver.h"
 
-#include <QFile>
+#include <QSaveFile>
 
 #include <algorithm>
 #include <utility>
@@ -350,18 +350,26 @@ QString DefaultsFolder()
     }
 }
 
-void SpoilDefaults(QByteArray const& bytes)
+void WriteDefaultsOfAnotherProcess(QByteArray const& bytes)
 {
     @autoreleasepool
     {
         [[NSUserDefaults standardUserDefaults] synchronize];
-        QFile file(DefaultsFolder() + QLatin1Char('/') + ToQString([[NSProcessInfo processInfo] processName]) +
+        QSaveFile file(DefaultsFolder() + QLatin1Char('/') + ToQString([[NSProcessInfo processInfo] processName]) +
                    QStringLiteral(".plist"));
-        if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        if (file.open(QIODevice::WriteOnly))
         {
             file.write(bytes);
+            file.commit();
         }
-        file.close();
+    }
+}
+
+void SpoilDefaults(QByteArray const& bytes)
+{
+    @autoreleasepool
+    {
+        WriteDefaultsOfAnotherProcess(bytes);
         [NSUserDefaults resetStandardUserDefaults];
     }
 }

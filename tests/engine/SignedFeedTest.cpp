@@ -8,6 +8,8 @@
 #include <QCryptographicHash>
 #include <QDateTime>
 
+#include <functional>
+
 namespace
 {
 
@@ -39,15 +41,22 @@ protected:
         EXPECT_EQ(error.sentence.back(), '.');
     }
 
-    /// The user defaults are a record of the server's feed with these entries.
-    void WriteRecord(QByteArray const& entries)
+    /// User defaults that are a record of the server's feed with these entries.
+    QByteArray RecordOf(QByteArray const& entries)
     {
-        SpoilDefaults("{ PelnarFeedRecord = { address = \"" + server.Url().toEncoded() + "\"; " + entries + " }; }");
+        return "{ PelnarFeedRecord = { address = \"" + server.Url().toEncoded() + "\"; " + entries + " }; }";
     }
 
+    void WriteRecord(QByteArray const& entries) { SpoilDefaults(RecordOf(entries)); }
+
     QByteArray answer;
+    std::function<void()> beforeAnswer;
     LoopbackServer server{[this](QSslSocket& socket, QByteArray const&, int)
                           {
+                              if (beforeAnswer)
+                              {
+                                  beforeAnswer();
+                              }
                               socket.write(answer);
                               socket.disconnectFromHost();
                           }};
@@ -119,6 +128,29 @@ TEST_F(SignedFeedCheck, OlderFeedThanTheLastIsRefusedByTheNextProcessAsWell)
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), (Events{"asked", "found 5.2"})) << "the same again";
     EXPECT_EQ(Check(SignedFeedOf("5.3", "9007199254740994")), (Events{"asked", "found 5.3"}));
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), Events{"aborted 3002"});
+}
+
+TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedMeanwhileIsNotLowered)
+{
+    answer = OkAnswer(SignedFeedOf("5.1", "5"));
+    driver.emplace(DelegateScript{&ChooseFirst, &CompareNumbers, {}, {}});
+    driver->SetFeed(server.Url());
+    beforeAnswer = [this] { WriteDefaultsOfAnotherProcess(RecordOf("serial = <*I9>;")); };
+    driver->Probe();
+    EXPECT_TRUE(driver->WaitForEnd());
+    EXPECT_EQ(driver->Events(), (Events{"asked", "found 5.1"})) << "it was believed when it came";
+    beforeAnswer = nullptr;
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "8")), Events{"aborted 3002"});
+    ExpectRefused(3002, 762);
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9")), (Events{"asked", "found 5.2"}));
+}
+
+TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedBetweenChecksHolds)
+{
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "5")), (Events{"asked", "found 5.1"}));
+    WriteDefaultsOfAnotherProcess(RecordOf("serial = <*I9>;"));
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "8")), Events{"aborted 3002"});
+    ExpectRefused(3002, 762);
 }
 
 TEST_F(SignedFeedCheck, RefusedFeedsMoveNoFloor)

@@ -249,6 +249,20 @@ TEST(FeedRecordTest, SerialIsOfVerifiedFeedsOnly)
     EXPECT_EQ(record.serial, 7);
 }
 
+TEST(FeedRecordTest, OfTwoProcessesTheHigherSerialIsKept)
+{
+    FeedRecord const lower = AfterFeed({}, FEED, "old", FeedTerms{7, At(0)}, At(20 * DAY));
+    FeedRecord const higher = AfterFeed({}, FEED, "new", FeedTerms{8, At(0)}, At(10 * DAY));
+    FeedRecord const equal = AfterFeed({}, FEED, "also", FeedTerms{7, At(0)}, At(10 * DAY));
+    FeedRecord const elsewhere =
+        AfterFeed({}, QUrl(QStringLiteral("https://example.com/other")), "x", FeedTerms{9, At(0)}, At(0));
+    EXPECT_EQ(FeedRecordToKeep(higher, lower).digest, higher.digest);
+    EXPECT_EQ(FeedRecordToKeep(lower, higher).digest, higher.digest);
+    EXPECT_EQ(FeedRecordToKeep(equal, lower).digest, lower.digest) << "ours is the later of equals";
+    EXPECT_EQ(FeedRecordToKeep(elsewhere, lower).digest, lower.digest) << "a serial counts for one address only";
+    EXPECT_EQ(FeedRecordToKeep({}, lower).digest, lower.digest);
+}
+
 TEST(FeedRecordTest, TimesUnderAWrongClockAreForgotten)
 {
     FeedRecord record = AfterFeed({}, FEED, "feed", std::nullopt, At(7300 * DAY));

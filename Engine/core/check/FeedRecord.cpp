@@ -39,6 +39,11 @@ FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const
     return after;
 }
 
+FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours)
+{
+    return stored.address == ours.address && stored.serial > ours.serial ? stored : ours;
+}
+
 int UnchangedDays(FeedRecord const& record)
 {
     if (!record.firstSeen.isValid() || !record.lastSeen.isValid())

@@ -34,6 +34,10 @@ constexpr int STALE_FEED_DAYS = 180;
 [[nodiscard]] FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
                                    std::optional<FeedTerms> const& terms, QDateTime const& now);
 
+/// What is to be kept of \a ours, the record after this process' check, and of \a stored, which another process of the
+/// application may have written while that check ran: of one address the one with the higher serial, else ours.
+[[nodiscard]] FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours);
+
 /// For how many whole days the same bytes have been coming, as far as checks were made.
 [[nodiscard]] int UnchangedDays(FeedRecord const& record);
 

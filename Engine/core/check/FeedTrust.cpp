@@ -14,12 +14,12 @@ namespace
 
 constexpr char DATE_FORM[] = "0000-00-00T00:00:00Z"; // 0: any digit
 
-ErrorCause CauseOf(SignedFeedFault fault)
+std::optional<ErrorCause> CauseOf(SignedFeedFault fault)
 {
     switch (fault)
     {
     case SignedFeedFault::None:
-        return ErrorCause::FeedSignatureWrong;
+        return std::nullopt;
     case SignedFeedFault::Missing:
         return ErrorCause::FeedUnsigned;
     case SignedFeedFault::Repeated:
@@ -63,9 +63,9 @@ std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStrin
     {
         return MakeError(ErrorCause::FeedIsWebPage);
     }
-    if (feed.fault != SignedFeedFault::None)
+    if (auto const cause = CauseOf(feed.fault))
     {
-        return MakeError(CauseOf(feed.fault));
+        return MakeError(*cause);
     }
     std::vector<std::string> keys;
     for (QString const& key : publicKeys)

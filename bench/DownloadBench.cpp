@@ -6,6 +6,7 @@
 #include "bench/DownloadServer.h"
 #include "bench/ProcessMemory.h"
 #include "bench/Ratios.h"
+#include "bench/StallMeter.h"
 
 #include <benchmark/benchmark.h>
 
@@ -19,7 +20,6 @@
 #include <QSslCertificate>
 #include <QSslConfiguration>
 #include <QTemporaryDir>
-#include <QTimer>
 
 #include <algorithm>
 #include <memory>
@@ -73,27 +73,6 @@ DownloadRequest RequestFor(Transport transport)
     return request;
 }
 
-/// The longest time that the event loop was away from a timer that is always due.
-class StallMeter
-{
-public:
-    StallMeter()
-    {
-        m_timer.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&m_timer, &QTimer::timeout,
-                         [this] { m_longest = std::max(m_longest, m_clock.nsecsElapsed()), m_clock.restart(); });
-        m_clock.start();
-        m_timer.start(1);
-    }
-
-    double LongestMilliseconds() const { return static_cast<double>(m_longest) / 1e6; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_clock;
-    qint64 m_longest = 0;
-};
-
 DownloadOutcome RunDownload(DownloadRequest const& request)
 {
     QEventLoop loop;
@@ -127,7 +106,7 @@ void Download(benchmark::State& state, Transport transport)
         (void)_;
         Pelnar::Bench::ForgetPeak();
         long const before = Pelnar::Bench::KibibytesOf("VmRSS:");
-        StallMeter const meter;
+        Pelnar::Bench::StallMeter const meter;
         QElapsedTimer clock;
         clock.start();
         DownloadOutcome const outcome = RunDownload(request);

@@ -1,11 +1,13 @@
 // UpdateHost.cpp: a host that downloads one update, has it prepared, and ends when the helper waits for that. Prints
-// how much memory it took above what it has when it is idle, in KiB. Arguments: the archive's address, length and
-// signature, the public key, the installed bundle, its identifier, a folder for downloads.
+// how much memory it took above what it has when it is idle, in KiB, and the longest time that its event loop was held
+// up, in milliseconds. Arguments: the archive's address, length and signature, the public key, the installed bundle,
+// its identifier, a folder for downloads.
 
 #include "Engine/core/update/InstallHandover.h"
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/core/update/UpdatePreparation.h"
 #include "bench/ProcessMemory.h"
+#include "bench/StallMeter.h"
 
 #include <QCoreApplication>
 #include <QStringList>
@@ -112,7 +114,8 @@ int main(int argc, char** argv)
     long const idle = Pelnar::Bench::KibibytesOf("VmRSS:");
     Host host(QCoreApplication::arguments());
     host.Start();
+    Pelnar::Bench::StallMeter const meter;
     int const status = QCoreApplication::exec();
-    std::printf("%ld\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle);
+    std::printf("%ld %f\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle, meter.LongestMilliseconds());
     return status;
 }

@@ -27,6 +27,18 @@ std::vector<Ratio>& Ratios()
     return ratios;
 }
 
+struct Time
+{
+    std::string subject;
+    double mostMilliseconds;
+};
+
+std::vector<Time>& Times()
+{
+    static std::vector<Time> times;
+    return times;
+}
+
 /// Prints medians and spreads, and keeps the time of every repetition.
 class TimeKeeper : public benchmark::ConsoleReporter
 {
@@ -100,11 +112,35 @@ bool PrintRatios(TimeKeeper const& times)
     return isWithin;
 }
 
+/// The same of every time.
+bool PrintTimes(TimeKeeper const& times)
+{
+    bool isWithin = true;
+    for (Time const& time : Times())
+    {
+        double const milliseconds = times.Median(time.subject) / 1e6;
+        if (milliseconds < 0)
+        {
+            continue;
+        }
+        bool const isMissed = milliseconds > time.mostMilliseconds;
+        isWithin = isWithin && !isMissed;
+        std::printf("%-69s %12.1f ms, limit %.0f ms%s\n", time.subject.c_str(), milliseconds, time.mostMilliseconds,
+                    isMissed ? "  MISSED" : "");
+    }
+    return isWithin;
+}
+
 } // namespace
 
 StatedRatio::StatedRatio(std::string subject, std::string peer, double limit)
 {
     Ratios().push_back({std::move(subject), std::move(peer), limit});
+}
+
+StatedTime::StatedTime(std::string subject, double mostMilliseconds)
+{
+    Times().push_back({std::move(subject), mostMilliseconds});
 }
 
 } // namespace Pelnar::Bench
@@ -133,6 +169,7 @@ int main(int argc, char** argv)
     }
     Pelnar::Bench::TimeKeeper times;
     benchmark::RunSpecifiedBenchmarks(&times);
-    bool const isWithin = Pelnar::Bench::PrintRatios(times);
-    return isWithin && !times.HasFailed() ? 0 : 1;
+    bool const areRatiosWithin = Pelnar::Bench::PrintRatios(times);
+    bool const areTimesWithin = Pelnar::Bench::PrintTimes(times);
+    return areRatiosWithin && areTimesWithin && !times.HasFailed() ? 0 : 1;
 }

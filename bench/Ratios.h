@@ -17,4 +17,11 @@ public:
     StatedRatio(std::string subject, std::string peer, double limit);
 };
 
+/// The same for a benchmark without a peer: the median of its times is at most \a mostMilliseconds.
+class StatedTime
+{
+public:
+    StatedTime(std::string subject, double mostMilliseconds);
+};
+
 } // namespace Pelnar::Bench

@@ -25,6 +25,13 @@ public:
 
     double LongestMilliseconds() const { return static_cast<double>(m_longest) / 1e6; }
 
+    /// From now on a new longest one.
+    void Restart()
+    {
+        m_longest = 0;
+        m_clock.restart();
+    }
+
 private:
     QTimer m_timer;
     QElapsedTimer m_clock;

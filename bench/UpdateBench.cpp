@@ -1,6 +1,6 @@
 // UpdateBench.cpp: a whole update, from the start of its download to the first line of the new version, beside the sum
 // of what its parts may take: two thirds of curl's time, the bare verification over 0.95, and 1.3 of bsdtar's time. And
-// how much memory a host takes for an update of 1 GiB, and how long its event loop is held up.
+// how much memory a host takes for an update of 1 GiB, and how long its event loop is held up meanwhile.
 
 #include "Engine/core/delta/TreeAccess.h"
 #include "bench/DownloadServer.h"

@@ -1,7 +1,7 @@
 // UpdateHost.cpp: a host that downloads one update, has it prepared, and ends when the helper waits for that. Prints
 // how much memory it took above what it has when it is idle, in KiB, and the longest time that its event loop was held
-// up, in milliseconds. Arguments: the archive's address, length and signature, the public key, the installed bundle,
-// its identifier, a folder for downloads.
+// up while the archive was verified and unpacked, in milliseconds. Arguments: the archive's address, length and
+// signature, the public key, the installed bundle, its identifier, a folder for downloads.
 
 #include "Engine/core/update/InstallHandover.h"
 #include "Engine/core/update/UpdateParts.h"
@@ -36,6 +36,9 @@ public:
         m_download->Start([](DownloadProgress const&) {}, [this](DownloadOutcome outcome) { Prepare(outcome); });
     }
 
+    /// While the archive was verified and unpacked.
+    double StallMilliseconds() const { return m_stallMilliseconds; }
+
 private:
     static DownloadRequest RequestOf(QStringList const& words)
     {
@@ -50,6 +53,7 @@ private:
     void Prepare(DownloadOutcome& downloaded)
     {
         FailOn(downloaded.error);
+        m_meter.Restart();
         PrepareJob job;
         job.archiveBytes = m_request.declaredBytes;
         job.signature = m_request.signature.toStdString();
@@ -69,6 +73,7 @@ private:
         {
             FailOn(*error);
         }
+        m_stallMilliseconds = m_meter.LongestMilliseconds();
         m_update = std::move(std::get<std::unique_ptr<PreparedUpdate>>(outcome));
         InstallJob job;
         job.targetName = m_target.name;
@@ -104,6 +109,8 @@ private:
     UpdatePreparation m_preparation{m_parts};
     std::unique_ptr<PreparedUpdate> m_update;
     InstallHandover m_handover{m_parts};
+    Pelnar::Bench::StallMeter m_meter;
+    double m_stallMilliseconds = 0;
 };
 
 } // namespace
@@ -114,8 +121,7 @@ int main(int argc, char** argv)
     long const idle = Pelnar::Bench::KibibytesOf("VmRSS:");
     Host host(QCoreApplication::arguments());
     host.Start();
-    Pelnar::Bench::StallMeter const meter;
     int const status = QCoreApplication::exec();
-    std::printf("%ld %f\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle, meter.LongestMilliseconds());
+    std::printf("%ld %f\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle, host.StallMilliseconds());
     return status;
 }

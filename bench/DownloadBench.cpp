@@ -4,13 +4,12 @@
 
 #include "Engine/core/download/ArchiveDownload.h"
 #include "bench/DownloadServer.h"
+#include "bench/MeteredApplication.h"
 #include "bench/ProcessMemory.h"
 #include "bench/Ratios.h"
-#include "bench/StallMeter.h"
 
 #include <benchmark/benchmark.h>
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -54,7 +53,7 @@ struct Scene
     int argumentCount = 1;
     char name[6] = "bench";
     char* arguments[2] = {name, nullptr};
-    QCoreApplication application{argumentCount, arguments};
+    Pelnar::Bench::MeteredApplication application{argumentCount, arguments};
     QTemporaryDir folder{FolderForFiles() + QStringLiteral("/pelnar-bench-XXXXXX")};
 };
 
@@ -106,14 +105,14 @@ void Download(benchmark::State& state, Transport transport)
         (void)_;
         Pelnar::Bench::ForgetPeak();
         long const before = Pelnar::Bench::KibibytesOf("VmRSS:");
-        Pelnar::Bench::StallMeter const meter;
+        TheScene().application.Restart();
         QElapsedTimer clock;
         clock.start();
         DownloadOutcome const outcome = RunDownload(request);
         state.SetIterationTime(static_cast<double>(clock.nsecsElapsed()) / 1e9);
         growth = std::max(growth, static_cast<double>(Pelnar::Bench::KibibytesOf("VmHWM:") - before) / 1024);
-        stall = std::max(stall, meter.LongestMilliseconds());
-        ArchiveDownload::Discard(request);
+        stall = std::max(stall, TheScene().application.LongestStallMilliseconds());
+        static_cast<void>(ArchiveDownload::Discard(request));
         if (outcome.error)
         {
             state.SkipWithError(qPrintable(outcome.error->sentence.English()));

@@ -1,15 +1,14 @@
 // UpdateHost.cpp: a host that downloads one update, has it prepared, and ends when the helper waits for that. Prints
-// how much memory it took above what it has when it is idle, in KiB, and the longest time that its event loop was held
-// up while the archive was verified and unpacked, in milliseconds. Arguments: the archive's address, length and
-// signature, the public key, the installed bundle, its identifier, a folder for downloads.
+// how much memory it took above what it has when it is idle, in KiB, and the longest event of its event loop, in
+// milliseconds. Arguments: the archive's address, length and signature, the public key, the installed bundle, its
+// identifier, a folder for downloads.
 
 #include "Engine/core/update/InstallHandover.h"
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/core/update/UpdatePreparation.h"
+#include "bench/MeteredApplication.h"
 #include "bench/ProcessMemory.h"
-#include "bench/StallMeter.h"
 
-#include <QCoreApplication>
 #include <QStringList>
 
 #include <cstdio>
@@ -26,20 +25,25 @@ public:
         : m_request(RequestOf(words))
         , m_key(words.at(4).toStdString())
         , m_identifier(words.at(6).toStdString())
-        , m_target(std::get<InstallTarget>(m_parts.OpenTarget(words.at(5), m_request.declaredBytes)))
+        , m_bundlePath(words.at(5))
     {
     }
 
     void Start()
     {
+        m_parts.OpenTarget(m_bundlePath, m_request.declaredBytes,
+                           [this](OpenedTarget opened) { Download(std::move(opened)); });
+    }
+
+private:
+    void Download(OpenedTarget opened)
+    {
+        FailOn(opened);
+        m_target = std::move(std::get<InstallTarget>(opened));
         m_download = m_parts.MakeDownload(m_request);
         m_download->Start([](DownloadProgress const&) {}, [this](DownloadOutcome outcome) { Prepare(outcome); });
     }
 
-    /// While the archive was verified and unpacked.
-    double StallMilliseconds() const { return m_stallMilliseconds; }
-
-private:
     static DownloadRequest RequestOf(QStringList const& words)
     {
         DownloadRequest request;
@@ -53,7 +57,6 @@ private:
     void Prepare(DownloadOutcome& downloaded)
     {
         FailOn(downloaded.error);
-        m_meter.Restart();
         PrepareJob job;
         job.archiveBytes = m_request.declaredBytes;
         job.signature = m_request.signature.toStdString();
@@ -69,11 +72,7 @@ private:
 
     void Install(UpdatePreparation::Outcome& outcome)
     {
-        if (auto const* const error = std::get_if<EngineError>(&outcome))
-        {
-            FailOn(*error);
-        }
-        m_stallMilliseconds = m_meter.LongestMilliseconds();
+        FailOn(outcome);
         m_update = std::move(std::get<std::unique_ptr<PreparedUpdate>>(outcome));
         InstallJob job;
         job.targetName = m_target.name;
@@ -92,6 +91,15 @@ private:
             [](EngineError const& error) { FailOn(error); }));
     }
 
+    template <typename Wanted>
+    static void FailOn(std::variant<Wanted, EngineError> const& outcome)
+    {
+        if (auto const* const error = std::get_if<EngineError>(&outcome))
+        {
+            FailOn(std::optional(*error));
+        }
+    }
+
     static void FailOn(std::optional<EngineError> const& error)
     {
         if (error)
@@ -104,24 +112,23 @@ private:
     DownloadRequest m_request;
     std::string m_key;
     std::string m_identifier;
+    QString m_bundlePath;
     InstallTarget m_target;
     std::unique_ptr<IDownload> m_download;
     UpdatePreparation m_preparation{m_parts};
     std::unique_ptr<PreparedUpdate> m_update;
     InstallHandover m_handover{m_parts};
-    Pelnar::Bench::StallMeter m_meter;
-    double m_stallMilliseconds = 0;
 };
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    QCoreApplication const application(argc, argv);
+    Pelnar::Bench::MeteredApplication const application(argc, argv);
     long const idle = Pelnar::Bench::KibibytesOf("VmRSS:");
     Host host(QCoreApplication::arguments());
     host.Start();
     int const status = QCoreApplication::exec();
-    std::printf("%ld %f\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle, host.StallMilliseconds());
+    std::printf("%ld %f\n", Pelnar::Bench::KibibytesOf("VmHWM:") - idle, application.LongestStallMilliseconds());
     return status;
 }

@@ -132,6 +132,14 @@ protected:
         EXPECT_EQ(m_place.Names(RESOURCES), (std::vector<std::string>{"Info-gnustep.plist", "data", "data-1.0"}));
     }
 
+    /// A host that is killed may not come to remove what was prepared.
+    void RecoverAsTheNextStartDoes() const
+    {
+        HelperOutcome const outcome = RunHelper("recover", Engine::EncodeUpdateJob(Engine::RecoverJob{APP, "1.0"}),
+                                                {{Engine::HelperDescriptors::PARENT, m_place.Descriptor()}});
+        EXPECT_EQ(outcome.exitStatus, 0);
+    }
+
     [[nodiscard]] bool IsAlone() const { return m_place.Names() == std::vector<std::string>{APP}; }
 
     Program m_host;
@@ -228,6 +236,7 @@ TEST_F(SessionEnd, ThatIsCutShortInstallsNothing)
     EXPECT_TRUE(m_manager.Says("saved\n", 2));
     m_host.Kill();
     EXPECT_TRUE(m_host.HasEnded());
+    RecoverAsTheNextStartDoes();
     ExpectStaysTheOldVersion();
 }
 

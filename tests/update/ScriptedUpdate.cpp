@@ -264,19 +264,20 @@ private:
     bool m_isReleased = false;
 };
 
-std::variant<InstallTarget, EngineError> ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes)
+void ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes, std::function<void(OpenedTarget)> opened)
 {
     neededBytes = bytes;
     if (targetError)
     {
-        return *targetError;
+        opened(*targetError);
+        return;
     }
     InstallTarget target;
     target.parent = UniqueFd(::open(QFile::encodeName(m_applications).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     target.bundle = UniqueFd(::open(QFile::encodeName(bundlePath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     target.name = "App.app";
     target.path = bundlePath;
-    return target;
+    opened(std::move(target));
 }
 
 std::unique_ptr<IDownload> ScriptedParts::MakeDownload(DownloadRequest const& request)

@@ -122,11 +122,12 @@ public:
     /// Installed bundles are folders of \a applications.
     ScriptedParts(Notes& notes, QString applications) : m_notes(notes), m_applications(std::move(applications)) {}
 
-    std::variant<Engine::InstallTarget, Engine::EngineError> OpenTarget(QString const& bundlePath,
-                                                                        quint64 neededBytes) override;
+    void OpenTarget(QString const& bundlePath, quint64 bytes,
+                    std::function<void(Engine::OpenedTarget)> opened) override;
     std::unique_ptr<Engine::IDownload> MakeDownload(Engine::DownloadRequest const& request) override;
     void DiscardDownload(Engine::DownloadRequest const& request) override;
     std::unique_ptr<Engine::IHelper> MakeHelper() override;
+    void DiscardUpdate(std::unique_ptr<Engine::PreparedUpdate> update) override { update.reset(); }
     QDateTime Now() override { return now; }
 
     /// The archive has arrived.

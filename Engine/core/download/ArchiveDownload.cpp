@@ -321,9 +321,9 @@ void ArchiveDownload::Start(std::function<void(DownloadProgress const&)> progres
     m_impl->Start(std::move(progress), std::move(finished));
 }
 
-void ArchiveDownload::Discard(DownloadRequest const& request)
+UniqueFd ArchiveDownload::Discard(DownloadRequest const& request)
 {
-    RemovePartialFile(PlaceFor(request));
+    return RemovePartialFile(PlaceFor(request));
 }
 
 } // namespace Pelnar::Engine

@@ -56,8 +56,9 @@ public:
     void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
 
     /// Removes the file of \a request, whole or partial, and what is known of it: for an archive that was refused, or
-    /// is not needed any more. Nothing happens when there is none.
-    static void Discard(DownloadRequest const& request);
+    /// is not needed any more. Nothing happens when there is none. The room on the disk is free when the answer, which
+    /// may be unset, has been closed, and closing it takes the longer the larger the file is.
+    [[nodiscard]] static UniqueFd Discard(DownloadRequest const& request);
 
 private:
     class Impl;

@@ -1,10 +1,11 @@
 #include "Engine/core/download/ArchiveWriter.h"
 
+#include "Engine/core/SignalBlock.h"
+
 #include <QObject>
 
 #include <array>
 #include <condition_variable>
-#include <csignal>
 #include <deque>
 #include <mutex>
 #include <optional>
@@ -102,10 +103,7 @@ public:
     {
         // A signal meant for the process is none of this thread's; one about a file's size becomes an error of the
         // call.
-        sigset_t all;
-        sigset_t previous;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &previous);
+        SignalBlock const block;
         try
         {
             m_thread = std::thread(&Impl::Run, m_state, &m_events);
@@ -116,7 +114,6 @@ public:
             QMetaObject::invokeMethod(
                 &m_context, [this, busy] { Called(m_events.failed, busy); }, Qt::QueuedConnection);
         }
-        pthread_sigmask(SIG_SETMASK, &previous, nullptr);
     }
 
     void Add(Ending ending, std::function<PartialFile::Fault(PartialFile&)> run)

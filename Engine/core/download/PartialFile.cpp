@@ -488,12 +488,15 @@ EngineError PartialFile::FailedWrite(int errorNumber)
     return MakeError(ErrorCause::DownloadDiskFailed, Described(errorNumber));
 }
 
-void RemovePartialFile(PartialPlace const& place)
+UniqueFd RemovePartialFile(PartialPlace const& place)
 {
-    if (UniqueFd const folder = OpenFolderNamed(place.folder))
+    UniqueFd const folder = OpenFolderNamed(place.folder);
+    UniqueFd file = folder ? OpenFileAt(folder, place.name, O_RDONLY) : UniqueFd();
+    if (folder)
     {
         RemoveNames(folder, place.name);
     }
+    return file;
 }
 
 } // namespace Pelnar::Engine

@@ -86,7 +86,8 @@ private:
     std::uint64_t m_written = 0;
 };
 
-/// Removes what PartialFile left at \a place, in use or not: who uses it keeps a file without a name.
-void RemovePartialFile(PartialPlace const& place);
+/// Removes what PartialFile left at \a place, in use or not: who uses it keeps a file without a name. The answer, if
+/// there was a file, is the last hold on it, unless somebody uses it.
+[[nodiscard]] UniqueFd RemovePartialFile(PartialPlace const& place);
 
 } // namespace Pelnar::Engine

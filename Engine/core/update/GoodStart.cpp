@@ -22,7 +22,9 @@ class Recovery : public QObject
 {
 public:
     Recovery(QString const& helperProgram, QObject& owner, std::function<void(StartOutcome const&)> done)
-        : QObject(&owner), m_helper(helperProgram), m_done(std::move(done))
+        : QObject(&owner)
+        , m_helper(std::make_shared<SealedProgram>(helperProgram.toStdString()))
+        , m_done(std::move(done))
     {
     }
 

@@ -1,8 +1,9 @@
 #include "Engine/core/update/HelperLaunch_p.h"
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/SignalBlock.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/update/SealedMemory_p.h"
 
 #include <array>
 #include <cerrno>
@@ -12,8 +13,6 @@
 #include <fcntl.h>
 #include <linux/close_range.h>
 #include <signal.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,82 +22,16 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t COPY_BYTES = 64 * 1024;
-constexpr unsigned EXECUTABLE_MEMORY = 0x10; // MFD_EXEC, which the oldest supported headers do not name
-constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-constexpr char PROGRAM_NAME[] = "pelnar-update-installer";
-
 [[noreturn]] void Fail(UpdateFault fault = UpdateFault::HelperUnusable)
 {
     throw UpdateRefusal(fault, errno);
 }
 
-UniqueFd MemoryFile(char const* name, unsigned flags)
-{
-    UniqueFd file(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | flags));
-    if (!file && errno == EINVAL)
-    {
-        file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING)); // a kernel before the flag
-    }
-    if (!file)
-    {
-        Fail();
-    }
-    return file;
-}
-
-/// Calls \a sink with the file's bytes from its beginning, in order.
-template <typename Sink>
-void ReadWhole(int fd, Sink const& sink)
-{
-    std::vector<std::uint8_t> buffer(COPY_BYTES);
-    for (off_t place = 0;;)
-    {
-        ssize_t const count = ::pread(fd, buffer.data(), buffer.size(), place);
-        if (count == 0)
-        {
-            return;
-        }
-        if (count > 0)
-        {
-            sink(Bytes(buffer.data(), static_cast<std::size_t>(count)));
-            place += count;
-        }
-        else if (errno != EINTR)
-        {
-            Fail();
-        }
-    }
-}
-
-ContentHash HashOfFile(int fd)
-{
-    ContentHasher hasher;
-    ReadWhole(fd, [&hasher](Bytes bytes) { hasher.Add(bytes); });
-    return hasher.Finish();
-}
-
-void Write(UniqueFd const& file, Bytes bytes)
-{
-    if (!WriteAll(file.Get(), bytes))
-    {
-        Fail();
-    }
-}
-
-void Seal(UniqueFd const& file)
-{
-    if (::fcntl(file.Get(), F_ADD_SEALS, SEALS) != 0)
-    {
-        Fail();
-    }
-}
-
 UniqueFd SealedJob(std::string const& job)
 {
-    UniqueFd file = MemoryFile("job", 0);
-    Write(file, Bytes(reinterpret_cast<std::uint8_t const*>(job.data()), job.size()));
-    Seal(file);
+    UniqueFd file = MakeMemoryFile("job", 0);
+    AppendToMemory(file, Bytes(reinterpret_cast<std::uint8_t const*>(job.data()), job.size()));
+    SealMemory(file);
     if (::lseek(file.Get(), 0, SEEK_SET) != 0)
     {
         Fail();
@@ -154,7 +87,7 @@ int Become(Launch const& launch)
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
-    char const* const arguments[] = {PROGRAM_NAME, launch.mode, nullptr};
+    char const* const arguments[] = {HELPER_NAME, launch.mode, nullptr};
     char const* const environment[] = {nullptr};
     ::syscall(SYS_execveat, launch.program, "", arguments, environment, AT_EMPTY_PATH);
     return errno;
@@ -164,10 +97,7 @@ int Become(Launch const& launch)
 /// posix_spawn starts no program from a descriptor.
 pid_t Fork(Launch const& launch)
 {
-    sigset_t all;
-    sigset_t before;
-    ::sigfillset(&all);
-    ::pthread_sigmask(SIG_SETMASK, &all, &before);
+    SignalBlock const block;
     int volatile error = 0;
     pid_t const child = ::vfork();
     if (child == 0)
@@ -175,11 +105,9 @@ pid_t Fork(Launch const& launch)
         error = Become(launch);
         ::_exit(EXIT_FAILURE);
     }
-    int const forkError = errno;
-    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
     if (child < 0)
     {
-        throw UpdateRefusal(UpdateFault::HelperUnusable, forkError);
+        throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
     }
     if (error != 0)
     {
@@ -191,30 +119,7 @@ pid_t Fork(Launch const& launch)
 
 } // namespace
 
-SealedProgram::SealedProgram(std::string const& path)
-{
-    UniqueFd const source(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
-    struct stat status;
-    if (!source || ::fstat(source.Get(), &status) != 0)
-    {
-        Fail();
-    }
-    bool const isOwnerTrusted = status.st_uid == 0 || status.st_uid == ::geteuid();
-    if (!S_ISREG(status.st_mode) || !isOwnerTrusted || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-    {
-        throw UpdateRefusal(UpdateFault::HelperUnusable);
-    }
-    m_file = MemoryFile(PROGRAM_NAME, EXECUTABLE_MEMORY);
-    ReadWhole(source.Get(), [this](Bytes bytes) { Write(m_file, bytes); });
-    Seal(m_file);
-    // A file that somebody writes while it is read can give a copy that was never in it.
-    if (HashOfFile(m_file.Get()) != HashOfFile(source.Get()))
-    {
-        throw UpdateRefusal(UpdateFault::HelperUnusable);
-    }
-}
-
-LaunchedHelper LaunchHelper(SealedProgram const& program, char const* mode, std::string const& job,
+LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::string const& job,
                             std::map<int, int> const& inherited)
 {
     int ends[2];

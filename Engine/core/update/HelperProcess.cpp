@@ -79,7 +79,7 @@ HelperEnd Reap(pid_t process)
 class HelperProcess::Impl : public QObject
 {
 public:
-    explicit Impl(QString const& program) : m_program(program.toUtf8().toStdString()) {}
+    explicit Impl(std::shared_ptr<SealedProgram> program) : m_program(std::move(program)) {}
     ~Impl() override;
 
     void Start(UpdateJob const& job, HelperInheritance const& inherited,
@@ -96,7 +96,7 @@ private:
     void Distrust();
     void Finish();
 
-    std::string m_program;
+    std::shared_ptr<SealedProgram> m_program;
     std::function<void(HelperReport const&)> m_report;
     std::function<void(HelperEnd)> m_ended;
     std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);
@@ -133,9 +133,8 @@ void HelperProcess::Impl::Kill()
 void HelperProcess::Impl::Start(UpdateJob const& job, HelperInheritance const& inherited,
                                 std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
 {
-    auto numbers = std::visit([&inherited](auto const& kind) { return NumbersOf(kind, inherited); }, job);
-    LaunchedHelper helper =
-        LaunchHelper(SealedProgram(m_program), ModeOf(job), EncodeUpdateJob(job), std::move(numbers));
+    auto const numbers = std::visit([&inherited](auto const& kind) { return NumbersOf(kind, inherited); }, job);
+    LaunchedHelper helper = LaunchHelper(*m_program, ModeOf(job), EncodeUpdateJob(job), numbers);
     m_pid = helper.pid;
     m_process = std::move(helper.process);
     m_reports = std::move(helper.reports);
@@ -225,7 +224,10 @@ void HelperProcess::Impl::Finish()
     ended(m_isDistrusted ? HelperEnd::Crashed : end);
 }
 
-HelperProcess::HelperProcess(QString const& program) : m_impl(std::make_unique<Impl>(program)) {}
+HelperProcess::HelperProcess(std::shared_ptr<SealedProgram> program)
+    : m_impl(std::make_unique<Impl>(std::move(program)))
+{
+}
 
 HelperProcess::~HelperProcess() = default;
 

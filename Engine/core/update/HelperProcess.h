@@ -7,8 +7,7 @@
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/HelperReport.h"
 #include "Engine/core/payload/UpdateJob.h"
-
-#include <QString>
+#include "Engine/core/update/SealedProgram.h"
 
 #include <functional>
 #include <memory>
@@ -34,13 +33,12 @@ enum class HelperEnd
 class HelperProcess
 {
 public:
-    /// \a program is the helper's absolute path.
-    explicit HelperProcess(QString const& program);
+    explicit HelperProcess(std::shared_ptr<SealedProgram> program);
     ~HelperProcess();
     HelperProcess(HelperProcess const&) = delete;
     HelperProcess& operator=(HelperProcess const&) = delete;
 
-    /// Starts the helper with the mode that \a job asks for: a sealed copy of the program, an empty environment, the
+    /// Starts the helper with the mode that \a job asks for: the sealed program, an empty environment, the
     /// job in a sealed memory file, nothing else inherited. Both callbacks come later, from the event loop: \a report
     /// for each line, \a ended once and last; either may destroy this object. Throws UpdateRefusal when it cannot be
     /// started; then nothing is called. REQUIRES: called once.

@@ -6,13 +6,13 @@
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/update/HelperProcess.h"
 #include "Engine/core/update/InstallTarget.h"
+#include "Engine/core/update/PreparedUpdate.h"
 
 #include <QDateTime>
 #include <QString>
 
 #include <functional>
 #include <memory>
-#include <variant>
 
 namespace Pelnar::Engine
 {
@@ -41,12 +41,16 @@ class IUpdateParts
 {
 public:
     virtual ~IUpdateParts() = default;
-    /// As OpenInstallTarget.
-    virtual std::variant<InstallTarget, EngineError> OpenTarget(QString const& bundlePath, quint64 neededBytes) = 0;
+    /// As OpenInstallTarget, told from the event loop, unless these parts are gone by then. An error too when the
+    /// helper cannot be used.
+    virtual void OpenTarget(QString const& bundlePath, quint64 neededBytes,
+                            std::function<void(OpenedTarget)> opened) = 0;
     virtual std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) = 0;
     /// As ArchiveDownload::Discard.
     virtual void DiscardDownload(DownloadRequest const& request) = 0;
     virtual std::unique_ptr<IHelper> MakeHelper() = 0;
+    /// The end of \a update, for which nobody waits.
+    virtual void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) = 0;
     virtual QDateTime Now() = 0;
 };
 

@@ -128,7 +128,7 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
 
 } // namespace
 
-std::variant<InstallTarget, EngineError> OpenInstalledBundle(QString const& bundlePath)
+OpenedTarget OpenInstalledBundle(QString const& bundlePath)
 {
     std::string path = bundlePath.toStdString();
     while (path.size() > 1 && path.back() == '/')
@@ -163,8 +163,7 @@ std::variant<InstallTarget, EngineError> OpenInstalledBundle(QString const& bund
     return target;
 }
 
-std::variant<InstallTarget, EngineError> OpenInstallTarget(QString const& bundlePath, quint64 neededBytes,
-                                                           PackageSources const& sources)
+OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources)
 {
     auto opened = OpenInstalledBundle(bundlePath);
     auto* const target = std::get_if<InstallTarget>(&opened);

@@ -22,13 +22,15 @@ struct InstallTarget
     QString path;     ///< absolute, without any link
 };
 
+using OpenedTarget = std::variant<InstallTarget, EngineError>;
+
 /// Opens the bundle at \a bundlePath, whoever's it is.
-std::variant<InstallTarget, EngineError> OpenInstalledBundle(QString const& bundlePath);
+OpenedTarget OpenInstalledBundle(QString const& bundlePath);
 
 /// Opens the bundle at \a bundlePath and finds out, before anything is downloaded, whether it may be replaced: owned by
 /// no package manager, on a file system that can be written, in folders that only this user or the administrator can
 /// change, with room for \a neededBytes beside it. Otherwise one error that names what is in the way and what to do.
-std::variant<InstallTarget, EngineError> OpenInstallTarget(QString const& bundlePath, quint64 neededBytes,
-                                                           PackageSources const& sources);
+/// Reads the package manager's lists, which takes its time.
+OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,7 @@
 #include "Engine/core/update/UpdateParts.h"
 
+#include "Engine/core/UpdateError.h"
+
 #include <utility>
 
 namespace Pelnar::Engine
@@ -25,7 +27,7 @@ private:
 class Helper final : public IHelper
 {
 public:
-    explicit Helper(QString const& program) : m_process(program) {}
+    explicit Helper(std::shared_ptr<SealedProgram> program) : m_process(std::move(program)) {}
 
     void Start(UpdateJob const& job, HelperInheritance const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) override
@@ -39,11 +41,40 @@ private:
     HelperProcess m_process;
 };
 
+OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources,
+                            SealedProgram& helper)
+{
+    OpenedTarget target = OpenInstallTarget(bundlePath, neededBytes, sources);
+    try
+    {
+        static_cast<void>(std::holds_alternative<InstallTarget>(target) && helper.Descriptor() >= 0);
+        return target;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+    }
+}
+
 } // namespace
 
-std::variant<InstallTarget, EngineError> UpdateParts::OpenTarget(QString const& bundlePath, quint64 neededBytes)
+void UpdateParts::OpenTarget(QString const& bundlePath, quint64 neededBytes, std::function<void(OpenedTarget)> opened)
 {
-    return OpenInstallTarget(bundlePath, neededBytes, PackageSources::OfThisProcess());
+    m_chores.Run(
+        [this, bundlePath, neededBytes, opened, sources = PackageSources::OfThisProcess()]
+        {
+            auto const target =
+                std::make_shared<OpenedTarget>(OpenWithHelper(bundlePath, neededBytes, sources, *m_helperProgram));
+            QMetaObject::invokeMethod(
+                &m_context, [opened, target] { opened(std::move(*target)); }, Qt::QueuedConnection);
+        });
+}
+
+void UpdateParts::DiscardDownload(DownloadRequest const& request)
+{
+    // Only the names go here and now, so that another download of the same archive finds none of it.
+    auto const archive = std::make_shared<UniqueFd>(ArchiveDownload::Discard(request));
+    m_chores.Run([archive] { *archive = UniqueFd(); });
 }
 
 std::unique_ptr<IDownload> UpdateParts::MakeDownload(DownloadRequest const& request)
@@ -54,6 +85,11 @@ std::unique_ptr<IDownload> UpdateParts::MakeDownload(DownloadRequest const& requ
 std::unique_ptr<IHelper> UpdateParts::MakeHelper()
 {
     return std::make_unique<Helper>(m_helperProgram);
+}
+
+void UpdateParts::DiscardUpdate(std::unique_ptr<PreparedUpdate> update)
+{
+    m_chores.Run([shared = std::shared_ptr<PreparedUpdate>(std::move(update))]() mutable { shared.reset(); });
 }
 
 } // namespace Pelnar::Engine

@@ -2,7 +2,10 @@
 // Thread: the Qt main thread. Ownership: outlives the updates that use it; what it makes is its caller's.
 #pragma once
 
+#include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/IUpdateParts.h"
+
+#include <QObject>
 
 namespace Pelnar::Engine
 {
@@ -11,16 +14,22 @@ class UpdateParts final : public IUpdateParts
 {
 public:
     /// \a helperProgram is the absolute path of the helper.
-    explicit UpdateParts(QString helperProgram) : m_helperProgram(std::move(helperProgram)) {}
+    explicit UpdateParts(QString const& helperProgram)
+        : m_helperProgram(std::make_shared<SealedProgram>(helperProgram.toStdString()))
+    {
+    }
 
-    std::variant<InstallTarget, EngineError> OpenTarget(QString const& bundlePath, quint64 neededBytes) override;
+    void OpenTarget(QString const& bundlePath, quint64 neededBytes, std::function<void(OpenedTarget)> opened) override;
     std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) override;
-    void DiscardDownload(DownloadRequest const& request) override { ArchiveDownload::Discard(request); }
+    void DiscardDownload(DownloadRequest const& request) override;
     std::unique_ptr<IHelper> MakeHelper() override;
+    void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) override;
     QDateTime Now() override { return QDateTime::currentDateTimeUtc(); }
 
 private:
-    QString m_helperProgram;
+    std::shared_ptr<SealedProgram> m_helperProgram;
+    QObject m_context; ///< what is told from the event loop ends with it
+    DiskChores m_chores;
 };
 
 } // namespace Pelnar::Engine

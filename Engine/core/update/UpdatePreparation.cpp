@@ -7,12 +7,20 @@
 namespace Pelnar::Engine
 {
 
+UpdatePreparation::~UpdatePreparation()
+{
+    m_helper.reset(); // first: nobody writes into the folder while it is removed
+    if (m_update)
+    {
+        m_parts.DiscardUpdate(std::move(m_update));
+    }
+}
+
 std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target, PrepareJob const& job,
                                                     UniqueFd archive,
                                                     std::function<void(ProgressReport const&)> progress,
                                                     std::function<void(Outcome)> finished)
 {
-    m_archive = std::move(archive);
     m_progress = std::move(progress);
     m_finished = std::move(finished);
     try
@@ -21,7 +29,7 @@ std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target,
         m_helper = m_parts.MakeHelper();
         int const base = job.kind == PayloadKind::WholeBundle ? -1 : target.bundle.Get();
         m_helper->Start(
-            job, {m_update->Descriptor(), m_archive.Get(), base}, [this](HelperReport const& report) { Take(report); },
+            job, {m_update->Descriptor(), archive.Get(), base}, [this](HelperReport const& report) { Take(report); },
             [this](HelperEnd end) { End(end); });
         return std::nullopt;
     }

@@ -20,6 +20,9 @@ public:
     using Outcome = std::variant<std::unique_ptr<PreparedUpdate>, EngineError>;
 
     explicit UpdatePreparation(IUpdateParts& parts) : m_parts(parts) {}
+    ~UpdatePreparation();
+    UpdatePreparation(UpdatePreparation const&) = delete;
+    UpdatePreparation& operator=(UpdatePreparation const&) = delete;
 
     /// An error when it could not be begun; then nothing is called. Else both callbacks come from the event loop,
     /// \a finished once and last, and either may destroy this object. REQUIRES: called once.
@@ -36,9 +39,8 @@ private:
     std::function<void(Outcome)> m_finished;
     std::optional<PreparedReport> m_prepared;
     std::optional<RefusedReport> m_refused;
-    UniqueFd m_archive;
     std::unique_ptr<PreparedUpdate> m_update;
-    std::unique_ptr<IHelper> m_helper; ///< the first to go: nobody writes into the folder while it is removed
+    std::unique_ptr<IHelper> m_helper;
 };
 
 } // namespace Pelnar::Engine

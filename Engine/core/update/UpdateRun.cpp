@@ -52,7 +52,10 @@ UpdateRun::UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, Up
 {
 }
 
-UpdateRun::~UpdateRun() = default;
+UpdateRun::~UpdateRun()
+{
+    DropPrepared();
+}
 
 void UpdateRun::Start()
 {
@@ -76,7 +79,11 @@ void UpdateRun::Begin()
         Finish(fault);
         return;
     }
-    auto target = m_parts.OpenTarget(m_settings.bundle.path, NeededBytes(m_candidates));
+    m_parts.OpenTarget(m_settings.bundle.path, NeededBytes(m_candidates), Guarded(&UpdateRun::TakeTarget));
+}
+
+void UpdateRun::TakeTarget(OpenedTarget target)
+{
     if (auto const* const error = std::get_if<EngineError>(&target))
     {
         Finish(*error);
@@ -294,11 +301,19 @@ void UpdateRun::DropAtTheDelegatesWish()
         m_handover->Cancel();
         m_handover.reset();
     }
-    m_prepared.reset();
+    DropPrepared();
     if (HasToldHost("updater:didCancelInstallUpdateOnQuit:",
                     [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
     {
         Finish(std::nullopt);
+    }
+}
+
+void UpdateRun::DropPrepared()
+{
+    if (m_prepared)
+    {
+        m_parts.DiscardUpdate(std::move(m_prepared));
     }
 }
 
@@ -435,7 +450,7 @@ void UpdateRun::Finish(std::optional<EngineError> error)
         m_handover->Cancel();
         m_handover.reset();
     }
-    m_prepared.reset();
+    DropPrepared();
     if (mayShowWindow)
     {
         m_windows.Close();

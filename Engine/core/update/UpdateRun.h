@@ -62,6 +62,7 @@ private:
     };
 
     void Begin();
+    void TakeTarget(OpenedTarget target);
     void Ask();
     void TakeChoice(UpdateChoice choice);
     void Download();
@@ -72,6 +73,7 @@ private:
     void OfferOnQuit();
     void InstallNow(RelaunchWish wish);
     void DropAtTheDelegatesWish();
+    void DropPrepared();
     void Arm();
     void AskAtQuit();
     void Relaunch();

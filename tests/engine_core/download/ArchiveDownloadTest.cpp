@@ -519,7 +519,7 @@ TEST_F(ArchiveDownloadTest, DiscardedArchiveIsFetchedWholeAgain)
     LoopbackServer server(Serving({ARCHIVE}));
     DownloadRequest const request = RequestFor(server.Url(), SIZE);
     DownloadResult const first = Run(request);
-    ArchiveDownload::Discard(request);
+    EXPECT_TRUE(ArchiveDownload::Discard(request));
     EXPECT_TRUE(Files().isEmpty());
     EXPECT_EQ(Run(request).bytes, ARCHIVE) << "though the first descriptor is still open";
     EXPECT_EQ(server.Requests().size(), 2u);

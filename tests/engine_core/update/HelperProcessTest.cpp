@@ -47,7 +47,7 @@ class ProbeScene
 {
 public:
     explicit ProbeScene(std::string const& order, std::string const& program = PELNAR_HELPER_PROBE)
-        : m_helper(std::make_unique<HelperProcess>(QString::fromStdString(program)))
+        : m_helper(std::make_unique<HelperProcess>(std::make_shared<SealedProgram>(program)))
     {
         m_job.bundleName = APP;
         m_job.bundleIdentifier = IDENTIFIER;
@@ -224,7 +224,7 @@ TEST_F(HelperProcesses, MayBeDestroyedByWhatItCalls)
     EXPECT_TRUE(fromReport.ends.empty());
 
     Workspace const place;
-    auto helper = std::make_unique<HelperProcess>(QStringLiteral(PELNAR_HELPER_PROBE));
+    auto helper = std::make_unique<HelperProcess>(std::make_shared<SealedProgram>(PELNAR_HELPER_PROBE));
     PrepareJob job;
     job.bundleName = APP;
     job.bundleIdentifier = IDENTIFIER;
@@ -247,7 +247,8 @@ TEST_F(HelperProcesses, ProgramSwappedAfterItWasReadIsNotRun)
     Workspace const place;
     std::string const path = place.Path() + "/helper";
     std::filesystem::copy_file(PELNAR_HELPER_PROBE, path);
-    SealedProgram const program(path);
+    SealedProgram program(path);
+    ASSERT_GE(program.Descriptor(), 0);
     std::ofstream(path) << "#!/bin/sh\nexit 9\n"; // in the same file
     PrepareJob job;
     job.bundleName = APP;
@@ -339,7 +340,7 @@ TEST_F(HelperProcesses, ProgramOfAnotherUserIsNotStarted)
 
 TEST_F(HelperProcesses, MissingDescriptorIsRefusedBeforeAnythingStarts)
 {
-    HelperProcess helper(QStringLiteral(PELNAR_HELPER_PROBE));
+    HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_HELPER_PROBE));
     EXPECT_THROW(helper.Start(
                      RecoverJob{APP, "1.0"}, {}, [](HelperReport const&) {}, [](HelperEnd) {}),
                  UpdateRefusal);
@@ -348,7 +349,7 @@ TEST_F(HelperProcesses, MissingDescriptorIsRefusedBeforeAnythingStarts)
 /// The real helper, from an archive to the new version in the old one's place.
 TEST_F(HelperProcesses, DrivesAWholeUpdate)
 {
-    QString const program = QStringLiteral(PELNAR_INSTALLER_PROGRAM);
+    auto const program = std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM);
     UpdateScene scene;
     std::vector<HelperReport> reports;
     std::vector<HelperEnd> ends;
@@ -400,7 +401,7 @@ TEST_F(HelperProcesses, RefusalOfTheHelperIsTold)
     PrepareJob job = scene.MakePrepareJob();
     job.signature = Base64(Sign("something else", scene.Keys()));
     UniqueFd const archive(::open((scene.Downloads().Path() + "/update").c_str(), O_RDONLY | O_CLOEXEC));
-    HelperProcess helper(QStringLiteral(PELNAR_INSTALLER_PROGRAM));
+    HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM));
     helper.Start(
         job, {scene.StagingDescriptor(), archive.Get(), -1},
         [&reports](HelperReport const& told) { reports.push_back(told); },

@@ -72,7 +72,7 @@ private:
     {
         std::optional<Report> found;
         std::optional<HelperEnd> end;
-        HelperProcess helper(QStringLiteral(PELNAR_INSTALLER_PROGRAM));
+        HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM));
         helper.Start(
             job, inherited,
             [&found](HelperReport const& report)

@@ -1,0 +1,32 @@
+#include "Engine/core/update/DiskChores.h"
+
+#include "Engine/core/SignalBlock.h"
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <system_error>
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+void DiskChores::Run(std::function<void()> chore)
+{
+    auto const isDone = [](std::future<void> const& running)
+    { return running.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
+    m_running.erase(std::remove_if(m_running.begin(), m_running.end(), isDone), m_running.end());
+    auto const shared = std::make_shared<std::function<void()>>(std::move(chore));
+    auto const run = [shared]() noexcept { std::exchange(*shared, nullptr)(); };
+    try
+    {
+        SignalBlock const block;
+        m_running.push_back(std::async(std::launch::async, run));
+    }
+    catch (std::system_error const&)
+    {
+        run();
+    }
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,54 @@
+#include "Engine/core/update/SealedMemory_p.h"
+
+#include "Engine/core/payload/UpdateFault.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
+
+[[noreturn]] void Fail()
+{
+    throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+}
+
+} // namespace
+
+UniqueFd MakeMemoryFile(char const* name, unsigned flags)
+{
+    UniqueFd file(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | flags));
+    if (!file && errno == EINVAL)
+    {
+        file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING)); // a kernel before the flag
+    }
+    if (!file)
+    {
+        Fail();
+    }
+    return file;
+}
+
+void AppendToMemory(UniqueFd const& file, Bytes bytes)
+{
+    if (!WriteAll(file.Get(), bytes))
+    {
+        Fail();
+    }
+}
+
+void SealMemory(UniqueFd const& file)
+{
+    if (::fcntl(file.Get(), F_ADD_SEALS, SEALS) != 0)
+    {
+        Fail();
+    }
+}
+
+} // namespace Pelnar::Engine

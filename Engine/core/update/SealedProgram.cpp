@@ -1,0 +1,89 @@
+#include "Engine/core/update/SealedProgram.h"
+
+#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/update/SealedMemory_p.h"
+
+#include <cerrno>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::size_t COPY_BYTES = 64 * 1024;
+constexpr unsigned EXECUTABLE_MEMORY = 0x10; // MFD_EXEC, which the oldest supported headers do not name
+
+/// Calls \a sink with the file's bytes from its beginning, in order.
+template <typename Sink>
+void ReadWhole(int fd, Sink const& sink)
+{
+    std::vector<std::uint8_t> buffer(COPY_BYTES);
+    for (off_t place = 0;;)
+    {
+        ssize_t const count = ::pread(fd, buffer.data(), buffer.size(), place);
+        if (count == 0)
+        {
+            return;
+        }
+        if (count > 0)
+        {
+            sink(Bytes(buffer.data(), static_cast<std::size_t>(count)));
+            place += count;
+        }
+        else if (errno != EINTR)
+        {
+            throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+        }
+    }
+}
+
+ContentHash HashOfFile(int fd)
+{
+    ContentHasher hasher;
+    ReadWhole(fd, [&hasher](Bytes bytes) { hasher.Add(bytes); });
+    return hasher.Finish();
+}
+
+UniqueFd SealedCopyOf(std::string const& path)
+{
+    UniqueFd const source(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat status;
+    if (!source || ::fstat(source.Get(), &status) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+    }
+    bool const isOwnerTrusted = status.st_uid == 0 || status.st_uid == ::geteuid();
+    if (!S_ISREG(status.st_mode) || !isOwnerTrusted || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::HelperUnusable);
+    }
+    UniqueFd copy = MakeMemoryFile(HELPER_NAME, EXECUTABLE_MEMORY);
+    ReadWhole(source.Get(), [&copy](Bytes bytes) { AppendToMemory(copy, bytes); });
+    SealMemory(copy);
+    // A file that somebody writes while it is read can give a copy that was never in it.
+    if (HashOfFile(copy.Get()) != HashOfFile(source.Get()))
+    {
+        throw UpdateRefusal(UpdateFault::HelperUnusable);
+    }
+    return copy;
+}
+
+} // namespace
+
+int SealedProgram::Descriptor()
+{
+    std::lock_guard const lock(m_mutex);
+    if (!m_copy)
+    {
+        m_copy = SealedCopyOf(m_path);
+    }
+    return m_copy.Get();
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,73 @@
+#include "bench/MeteredApplication.h"
+
+#include <QThread>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+
+#include <fcntl.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace Pelnar::Bench
+{
+namespace
+{
+
+double NanosecondsOf(clockid_t clock)
+{
+    timespec now{};
+    ::clock_gettime(clock, &now);
+    return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
+}
+
+/// How long this thread was ready and had no processor; 0 where the kernel does not count it.
+double NanosecondsWithoutProcessor()
+{
+    static int const file = ::open("/proc/thread-self/schedstat", O_RDONLY | O_CLOEXEC);
+    char text[96] = {};
+    double waited = 0;
+    bool const isRead = ::pread(file, text, sizeof text - 1, 0) > 0;
+    return isRead && std::sscanf(text, "%*s %lf", &waited) == 1 ? waited : 0;
+}
+
+struct Moment
+{
+    double wall = NanosecondsOf(CLOCK_MONOTONIC);
+    double computing = NanosecondsOf(CLOCK_THREAD_CPUTIME_ID);
+    double withoutProcessor = NanosecondsWithoutProcessor();
+    long waits = 0;
+
+    Moment()
+    {
+        rusage usage{};
+        ::getrusage(RUSAGE_THREAD, &usage);
+        waits = usage.ru_nvcsw;
+    }
+};
+
+double StallBetween(Moment const& begin, Moment const& end)
+{
+    // Without a wait the rest of the time is what the machine's other guests took.
+    return end.waits == begin.waits ? end.computing - begin.computing
+                                    : end.wall - begin.wall - (end.withoutProcessor - begin.withoutProcessor);
+}
+
+} // namespace
+
+bool MeteredApplication::notify(QObject* receiver, QEvent* event)
+{
+    if (m_depth > 0 || QThread::currentThread() != thread())
+    {
+        return QCoreApplication::notify(receiver, event);
+    }
+    ++m_depth;
+    Moment const begin;
+    bool const answer = QCoreApplication::notify(receiver, event);
+    m_longest = std::max(m_longest, StallBetween(begin, Moment()));
+    --m_depth;
+    return answer;
+}
+
+} // namespace Pelnar::Bench

@@ -11,6 +11,9 @@ namespace Pelnar::Engine
 namespace
 {
 
+/// As wide as its neighbours, and so with a blank of its own.
+constexpr QChar IDEOGRAPHIC_FULL_STOP(0x3002);
+
 /// Deliberate: not QString::arg, which would look for places in what was put in before.
 QString Filled(QString const& text, QVector<QString> const& values)
 {
@@ -71,7 +74,8 @@ QString Sentence::Translated(std::function<QString(QString const&)> const& shown
         Filled(QCoreApplication::translate("PelnarEngine_Errors", m_text), Shown(m_values, QLocale(), shown));
     for (Sentence const& next : m_following)
     {
-        text += QLatin1Char(' ') + next.Translated(shown);
+        bool const hasBlank = text.endsWith(IDEOGRAPHIC_FULL_STOP);
+        text += (hasBlank ? QString() : QStringLiteral(" ")) + next.Translated(shown);
     }
     return text;
 }

@@ -35,7 +35,7 @@ public:
     char const* Source() const { return m_text; }
     [[nodiscard]] bool IsEmpty() const { return m_text == nullptr; }
 
-    /// This one, a blank and \a next.
+    /// This one, a blank where the language writes one, and \a next.
     Sentence FollowedBy(Sentence const& next) const;
 
     QString English() const;

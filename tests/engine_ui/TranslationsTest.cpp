@@ -204,6 +204,15 @@ TEST_P(Languages, HasEverySentenceOfAnError)
     EXPECT_EQ(shown.size(), 172U);
 }
 
+TEST_P(Languages, PutsABlankBetweenSentencesOnlyWhereItsFullStopHasNone)
+{
+    InstallTranslations(QLocale(Name()));
+    Sentence const sentence = MakeError(ErrorCause::FeedMalformed).sentence;
+    QString const one = sentence.Translated();
+    bool const isWide = Name() == QLatin1String("ja") || Name() == QLatin1String("zh_CN");
+    EXPECT_EQ(sentence.FollowedBy(sentence).Translated(), one + (isWide ? QString() : QStringLiteral(" ")) + one);
+}
+
 TEST_P(Languages, IsInTheLibraryAndShown)
 {
     InstallTranslations(QLocale(Name()));

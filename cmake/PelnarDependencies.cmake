@@ -4,6 +4,7 @@ find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network LinguistTools)
 find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
 find_package(PkgConfig REQUIRED)
+find_package(Threads REQUIRED)
 
 if(APPLE)
     find_library(PELNAR_FOUNDATION Foundation REQUIRED)
@@ -19,7 +20,6 @@ else()
         OUTPUT_VARIABLE PELNAR_LIBOBJC OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     find_library(PELNAR_GNUSTEP_BASE gnustep-base REQUIRED)
 
-    find_package(PkgConfig REQUIRED)
     pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium>=1.0.18)
     pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive>=3.6)
     find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file

@@ -267,6 +267,12 @@ private:
 void ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes, std::function<void(OpenedTarget)> opened)
 {
     neededBytes = bytes;
+    if (std::exchange(isTargetHeld, false))
+    {
+        m_notes.push_back("target held");
+        m_heldTarget = [this, bundlePath, bytes, opened] { OpenTarget(bundlePath, bytes, opened); };
+        return;
+    }
     if (targetError)
     {
         opened(*targetError);
@@ -278,6 +284,12 @@ void ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes, std::fu
     target.name = "App.app";
     target.path = bundlePath;
     opened(std::move(target));
+}
+
+void ScriptedParts::TellTarget()
+{
+    ASSERT_TRUE(m_heldTarget);
+    std::exchange(m_heldTarget, nullptr)();
 }
 
 std::unique_ptr<IDownload> ScriptedParts::MakeDownload(DownloadRequest const& request)

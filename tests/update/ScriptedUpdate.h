@@ -130,6 +130,7 @@ public:
     void DiscardUpdate(std::unique_ptr<Engine::PreparedUpdate> update) override { update.reset(); }
     QDateTime Now() override { return now; }
 
+    void TellTarget();
     /// The archive has arrived.
     void FinishDownload();
     void FailDownload(Engine::ErrorCause cause);
@@ -141,6 +142,7 @@ public:
     void RefusePreparation(Engine::UpdateFault fault);
 
     std::optional<Engine::EngineError> targetError;
+    bool isTargetHeld = false; ///< until TellTarget
     bool isHelperMissing = false;
     quint64 neededBytes = 0;
     std::vector<Engine::DownloadRequest> requests;
@@ -153,6 +155,7 @@ private:
 
     Notes& m_notes;
     QString m_applications;
+    std::function<void()> m_heldTarget;
     std::function<void(Engine::DownloadProgress const&)> m_progress;
     std::function<void(Engine::DownloadOutcome)> m_finished;
     ScriptedHelper* m_helper = nullptr;

@@ -30,6 +30,36 @@ TEST_F(UpdateRunTest, PersonSeesEachStepAndTheApplicationIsAskedBeforeItIsRestar
     EXPECT_TRUE(HasStaging());
 }
 
+TEST_F(UpdateRunTest, NothingHappensBeforeTheBundleIsKnownToBeReplaceable)
+{
+    parts.isTargetHeld = true;
+    StartInteractive();
+    EXPECT_EQ(Since(), Notes{"target held"});
+    parts.TellTarget();
+    EXPECT_EQ(Since(), Notes{"window update"});
+}
+
+TEST_F(UpdateRunTest, BundleThatIsKnownWhenTheRunIsGoneIsForgotten)
+{
+    parts.isTargetHeld = true;
+    StartInteractive();
+    run.reset();
+    parts.TellTarget();
+    EXPECT_EQ(Since(), Notes{"target held"});
+    EXPECT_FALSE(end);
+}
+
+TEST_F(UpdateRunTest, SessionThatEndsWhileTheBundleIsLookedAtInstallsNothingLater)
+{
+    parts.isTargetHeld = true;
+    StartSilent();
+    run->GiveUpInstallation();
+    parts.TellTarget();
+    PrepareUpdate();
+    EXPECT_EQ(Notes(notes.end() - 2, notes.end()), (Notes{"cancelled", "end"}));
+    EXPECT_EQ(Installed(), Notes{"App.app"});
+}
+
 TEST_F(UpdateRunTest, OfferSaysWhatTheFeedAndTheBundleSay)
 {
     FeedItem item = Item("5.1");

@@ -47,7 +47,10 @@ OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, Pack
     OpenedTarget target = OpenInstallTarget(bundlePath, neededBytes, sources);
     try
     {
-        static_cast<void>(std::holds_alternative<InstallTarget>(target) && helper.Descriptor() >= 0);
+        if (std::holds_alternative<InstallTarget>(target))
+        {
+            static_cast<void>(helper.Descriptor()); // which throws unless it can be used
+        }
         return target;
     }
     catch (UpdateRefusal const& refusal)

@@ -10,6 +10,7 @@
 #include <thread>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 namespace
 {
@@ -85,18 +86,17 @@ TEST(DiskChores, RunWithNoSignalOfTheHostsAndChangeNoneOfItsOwn)
 #if !defined(__SANITIZE_ADDRESS__) && !(defined(__has_feature) && __has_feature(address_sanitizer))
 TEST(DiskChores, RunHereWhenThereIsNoThreadToBeHad)
 {
-    rlimit before{};
-    ASSERT_EQ(::getrlimit(RLIMIT_AS, &before), 0);
-    rlimit none = before;
-    none.rlim_cur = 1; // no stack can be mapped
-    std::optional<std::thread::id> ran;
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process without the stack of a thread that has ended
+    auto const run = []
     {
+        rlimit const none{1, 1}; // no stack can be mapped
+        std::optional<std::thread::id> ran;
         DiskChores chores;
-        ASSERT_EQ(::setrlimit(RLIMIT_AS, &none), 0);
+        bool const isScarce = ::setrlimit(RLIMIT_AS, &none) == 0;
         chores.Run([&ran] { ran = std::this_thread::get_id(); });
-        ASSERT_EQ(::setrlimit(RLIMIT_AS, &before), 0);
-    }
-    EXPECT_EQ(ran, std::this_thread::get_id());
+        ::_exit(isScarce && ran == std::this_thread::get_id() ? 0 : 1);
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }
 #endif
 

@@ -22,6 +22,7 @@ else()
 
     pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium>=1.0.18)
     pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive>=3.6)
+    pkg_check_modules(md4c REQUIRED IMPORTED_TARGET md4c>=0.4.8)
     find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file
 
     add_library(pelnar_objc_runtime INTERFACE)

@@ -183,6 +183,12 @@ void AddExhausting(std::vector<HostileNotes>& all)
     markdown("bare_links_that_fail", Repeated("http://@", 30000));
     markdown("references", Repeated("[label]: https://example.com/\n", 8000) + Repeated("[label] ", 200));
     markdown("fences_never_closed", Repeated("```\n", 60000));
+    markdown("tables", Repeated("|a|b|\n|---|---|\n|c|d|\n\n", 10000));
+    markdown("wide_table_of_short_rows",
+             Repeated("a|", 10000) + "\n" + Repeated("---|", 10000) + "\n" + Repeated("a|\n", 60000));
+    markdown("reference_definitions_never_finished", Repeated("[a]: b '", 32000));
+    markdown("list_items_without_text", Repeated("-\n", 130000));
+    markdown("entities", Repeated("&amp;", 52000));
     all.push_back({"exhaust.plain_lines", ReleaseNotesFormat::PlainText, Repeated("line\n", 50000)});
     all.push_back({"exhaust.plain_links", ReleaseNotesFormat::PlainText, Repeated("https://example.com/ ", 12000)});
 }

@@ -17,6 +17,9 @@ namespace
 
 using Kind = NotesElementKind;
 
+/// Escaping a byte makes six at most. Markup beyond that is more than the limits of elements allow.
+constexpr std::size_t HTML_BYTES_PER_NOTES_BYTE = 8;
+
 /// What a person can read of the markup, a line per block.
 std::string TextOfHtml(std::string_view html)
 {
@@ -99,14 +102,14 @@ FilteredReleaseNotes AsPlainText(std::string_view cleanNotes, ReleaseNotesFormat
     return {Rebuilt(html, limits).html, refusal};
 }
 
-std::string ToHtml(std::string_view cleanNotes, ReleaseNotesFormat format)
+std::string ToHtml(std::string_view cleanNotes, ReleaseNotesFormat format, ReleaseNotesLimits const& limits)
 {
     switch (format)
     {
     case ReleaseNotesFormat::PlainText:
         return PlainTextToHtml(cleanNotes, BareLinks::MadeClickable);
     case ReleaseNotesFormat::Markdown:
-        return MarkdownToHtml(cleanNotes);
+        return MarkdownToHtml(cleanNotes, HTML_BYTES_PER_NOTES_BYTE * limits.maxBytes);
     case ReleaseNotesFormat::Html:
         break;
     }
@@ -133,7 +136,7 @@ FilteredReleaseNotes FilterReleaseNotes(std::string_view notes, ReleaseNotesForm
     {
         return AsPlainText(clean, format, ReleaseNotesRefusal::TooLong, limits);
     }
-    FilteredReleaseNotes const rebuilt = Rebuilt(ToHtml(clean, format), limits);
+    FilteredReleaseNotes const rebuilt = Rebuilt(ToHtml(clean, format, limits), limits);
     return rebuilt.refusal == ReleaseNotesRefusal::None ? rebuilt : AsPlainText(clean, format, rebuilt.refusal, limits);
 }
 

@@ -1,432 +1,207 @@
 #include "Engine/core/notes/ReleaseNotesMarkdown_p.h"
 
-#include "Engine/core/notes/ReleaseNotesElements_p.h"
-#include "Engine/core/notes/ReleaseNotesMarkdownInline_p.h"
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 
-#include <algorithm>
-#include <optional>
-#include <vector>
+#include <md4c.h>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-using Lines = std::vector<std::string_view>;
+constexpr unsigned DIALECT = MD_FLAG_TABLES | MD_FLAG_STRIKETHROUGH | MD_FLAG_PERMISSIVEURLAUTOLINKS;
 
-constexpr std::size_t NONE = std::string_view::npos;
-constexpr std::size_t MAX_DEPTH = 12; // quotes and lists in one another; deeper ones are text
-constexpr std::size_t CODE_INDENTATION = 4;
-constexpr std::size_t MAX_LABEL_BYTES = 200;
-
-std::size_t Indentation(std::string_view line)
-{
-    return std::min(line.find_first_not_of(' '), line.size());
-}
-
-std::string_view WithoutIndentation(std::string_view line, std::size_t atMost = NONE)
-{
-    return line.substr(std::min(Indentation(line), atMost));
-}
-
-std::string_view WithoutTrailingSpaces(std::string_view line)
-{
-    std::size_t const last = line.find_last_not_of(' ');
-    return last == NONE ? std::string_view() : line.substr(0, last + 1);
-}
-
-std::size_t RunLength(std::string_view text, char c)
-{
-    return std::min(text.find_first_not_of(c), text.size());
-}
-
-/// The level of the heading that \a line is, or 0.
-std::size_t HeadingLevel(std::string_view line)
-{
-    std::string_view const text = WithoutIndentation(line, CODE_INDENTATION - 1);
-    std::size_t const level = RunLength(text, '#');
-    return level >= 1 && level <= 6 && (text.size() == level || text[level] == ' ') ? level : 0;
-}
-
-bool IsSeparator(std::string_view line)
-{
-    std::string_view const text = WithoutIndentation(line, CODE_INDENTATION - 1);
-    if (text.empty() || std::string_view("-*_").find(text.front()) == NONE)
-    {
-        return false;
-    }
-    char const sign = text.front();
-    return std::count(text.begin(), text.end(), sign) >= 3 &&
-           std::all_of(text.begin(), text.end(), [sign](char c) { return c == sign || c == ' '; });
-}
-
-/// The level of the heading that a line below a paragraph makes of it, or 0.
-std::size_t UnderlineLevel(std::string_view line)
-{
-    std::string_view const text = WithoutTrailingSpaces(WithoutIndentation(line, CODE_INDENTATION - 1));
-    bool const isLine =
-        !text.empty() && (text.front() == '=' || text.front() == '-') && RunLength(text, text.front()) == text.size();
-    return isLine ? (text.front() == '=' ? 1 : 2) : 0;
-}
-
-bool IsQuote(std::string_view line)
-{
-    std::string_view const text = WithoutIndentation(line, CODE_INDENTATION - 1);
-    return !text.empty() && text.front() == '>';
-}
-
-/// The length of the fence that opens or closes code, or 0.
-std::size_t FenceLength(std::string_view line)
-{
-    std::string_view const text = WithoutIndentation(line, CODE_INDENTATION - 1);
-    if (text.empty() || (text.front() != '`' && text.front() != '~'))
-    {
-        return 0;
-    }
-    std::size_t const length = RunLength(text, text.front());
-    bool const isInline = text.front() == '`' && text.find('`', length) != NONE;
-    return length >= 3 && !isInline ? length : 0;
-}
-
-struct ListMarker
-{
-    char sign;           ///< "-", "+", "*", "." or ")"
-    std::size_t content; ///< where the item's text starts
-};
-
-std::optional<ListMarker> FindListMarker(std::string_view line)
-{
-    std::size_t const indentation = Indentation(line);
-    std::string_view const text = line.substr(indentation);
-    if (indentation >= CODE_INDENTATION || text.empty())
-    {
-        return std::nullopt;
-    }
-    std::size_t length = 1;
-    if (std::string_view("-+*").find(text.front()) == NONE)
-    {
-        std::size_t digits = 0;
-        while (digits < text.size() && IsAsciiDigit(text[digits]))
-        {
-            ++digits;
-        }
-        bool const isNumber =
-            digits >= 1 && digits <= 9 && digits < text.size() && (text[digits] == '.' || text[digits] == ')');
-        if (!isNumber)
-        {
-            return std::nullopt;
-        }
-        length = digits + 1;
-    }
-    if (length < text.size() && text[length] != ' ')
-    {
-        return std::nullopt;
-    }
-    std::size_t const spaces = Indentation(text.substr(length));
-    bool const isCodeOrEmpty = spaces > CODE_INDENTATION || length + spaces == text.size();
-    return ListMarker{text[length - 1], indentation + length + (isCodeOrEmpty ? 1 : spaces)};
-}
-
-/// True for a line that starts a block of HTML, which reaches to the next blank line.
-bool StartsHtmlBlock(std::string_view line)
-{
-    std::string_view text = WithoutIndentation(line, CODE_INDENTATION - 1);
-    if (text.size() < 2 || text.front() != '<')
-    {
-        return false;
-    }
-    if (text[1] == '!' || text[1] == '?')
-    {
-        return true;
-    }
-    text.remove_prefix(text[1] == '/' ? 2 : 1);
-    std::size_t length = 0;
-    while (length < text.size() && IsAsciiAlphanumeric(text[length]))
-    {
-        ++length;
-    }
-    std::string const name = ToLowerAscii(text.substr(0, length));
-    NotesElement const* const element = FindNotesElement(name);
-    return IsDroppedWithContent(name) || (element != nullptr && IsBlockKind(element->kind));
-}
-
-/// True for a line that ends the paragraph above it.
-bool StartsBlock(std::string_view line)
-{
-    return HeadingLevel(line) > 0 || IsSeparator(line) || IsQuote(line) || FenceLength(line) > 0 ||
-           FindListMarker(line) || StartsHtmlBlock(line);
-}
-
-/// Takes lines like "[label]: address" out of \a lines.
-MarkdownReferences TakeReferences(Lines& lines)
-{
-    MarkdownReferences references;
-    auto const isReference = [&references](std::string_view line)
-    {
-        std::string_view const text = WithoutIndentation(line, CODE_INDENTATION - 1);
-        std::size_t const close = text.find("]:");
-        if (text.empty() || text.front() != '[' || close == NONE || close < 2 || close > MAX_LABEL_BYTES)
-        {
-            return false;
-        }
-        std::string_view address = TrimmedAscii(text.substr(close + 2));
-        address = address.substr(0, address.find(' '));
-        if (address.size() >= 2 && address.front() == '<' && address.back() == '>')
-        {
-            address = address.substr(1, address.size() - 2);
-        }
-        if (address.empty())
-        {
-            return false;
-        }
-        references.emplace(NormalLabel(text.substr(1, close - 1)), address);
-        return true;
-    };
-    lines.erase(std::remove_if(lines.begin(), lines.end(), isReference), lines.end());
-    return references;
-}
-
-enum class Paragraphs
-{
-    Wrapped,
-    Bare, ///< those of a list without blank lines
-};
-
-class BlockParser
+class HtmlWriter
 {
 public:
-    explicit BlockParser(MarkdownReferences const& references) : m_references(references) {}
+    explicit HtmlWriter(std::size_t maxBytes) : m_maxBytes(maxBytes) {}
 
-    void Parse(Lines const& lines, std::size_t depth, Paragraphs paragraphs);
-    std::string const& Html() const { return m_html; }
+    void EnterBlock(MD_BLOCKTYPE type, void const* detail);
+    void LeaveBlock(MD_BLOCKTYPE type, void const* detail);
+    void EnterSpan(MD_SPANTYPE type, void const* detail);
+    void LeaveSpan(MD_SPANTYPE type);
+    void AddText(MD_TEXTTYPE type, std::string_view text);
+
+    [[nodiscard]] bool IsFull() const { return m_html.size() > m_maxBytes; }
+    [[nodiscard]] std::string const& Html() const { return m_html; }
 
 private:
-    // Each takes its block off the lines from \a at on and returns where the next one starts.
-    std::size_t TakeFence(Lines const& lines, std::size_t at);
-    std::size_t TakeIndentedCode(Lines const& lines, std::size_t at);
-    std::size_t TakeHtml(Lines const& lines, std::size_t at);
-    std::size_t TakeQuote(Lines const& lines, std::size_t at, std::size_t depth);
-    std::size_t TakeList(Lines const& lines, std::size_t at, std::size_t depth);
-    std::size_t TakeParagraph(Lines const& lines, std::size_t at, Paragraphs paragraphs);
-    void AddHeading(std::size_t level, std::string_view text);
+    static std::string BlockName(MD_BLOCKTYPE type, void const* detail);
+    static std::string_view SpanName(MD_SPANTYPE type);
 
-    MarkdownReferences const& m_references;
+    std::size_t m_maxBytes;
+    std::size_t m_openImages = 0; ///< of an image only the words are kept
     std::string m_html;
 };
 
-void BlockParser::Parse(Lines const& lines, std::size_t depth, Paragraphs paragraphs)
+void HtmlWriter::EnterBlock(MD_BLOCKTYPE type, void const* detail)
 {
-    std::size_t at = 0;
-    while (at < lines.size())
+    std::string const name = BlockName(type, detail);
+    m_html += name.empty() ? name : "<" + name + ">";
+}
+
+void HtmlWriter::LeaveBlock(MD_BLOCKTYPE type, void const* detail)
+{
+    std::string const name = BlockName(type, detail);
+    if (!name.empty())
     {
-        std::string_view const line = lines[at];
-        if (IsBlank(line))
-        {
-            ++at;
-        }
-        else if (Indentation(line) >= CODE_INDENTATION)
-        {
-            at = TakeIndentedCode(lines, at);
-        }
-        else if (std::size_t const level = HeadingLevel(line))
-        {
-            std::string_view const text = WithoutIndentation(line).substr(level);
-            AddHeading(level, TrimmedAscii(text.substr(0, text.find_last_not_of("# ") + 1)));
-            ++at;
-        }
-        else if (FenceLength(line) > 0)
-        {
-            at = TakeFence(lines, at);
-        }
-        else if (IsSeparator(line))
-        {
-            m_html += "<hr>\n";
-            ++at;
-        }
-        else if (IsQuote(line) && depth < MAX_DEPTH)
-        {
-            at = TakeQuote(lines, at, depth);
-        }
-        else if (FindListMarker(line) && depth < MAX_DEPTH)
-        {
-            at = TakeList(lines, at, depth);
-        }
-        else if (StartsHtmlBlock(line))
-        {
-            at = TakeHtml(lines, at);
-        }
-        else
-        {
-            at = TakeParagraph(lines, at, paragraphs);
-        }
+        m_html += type == MD_BLOCK_HR ? "\n" : "</" + name + ">\n";
     }
 }
 
-void BlockParser::AddHeading(std::size_t level, std::string_view text)
+std::string HtmlWriter::BlockName(MD_BLOCKTYPE type, void const* detail)
 {
-    std::string const name = "h" + std::to_string(level);
-    m_html += "<" + name + ">" + MarkdownInlineToHtml(text, m_references) + "</" + name + ">\n";
+    switch (type)
+    {
+    case MD_BLOCK_QUOTE:
+        return "blockquote";
+    case MD_BLOCK_UL:
+        return "ul";
+    case MD_BLOCK_OL:
+        return "ol";
+    case MD_BLOCK_LI:
+        return "li";
+    case MD_BLOCK_HR:
+        return "hr";
+    case MD_BLOCK_H:
+        return "h" + std::to_string(static_cast<MD_BLOCK_H_DETAIL const*>(detail)->level);
+    case MD_BLOCK_CODE:
+        return "pre";
+    case MD_BLOCK_P:
+        return "p";
+    case MD_BLOCK_TABLE:
+        return "table";
+    case MD_BLOCK_TR:
+        return "tr";
+    case MD_BLOCK_TH:
+        return "th";
+    case MD_BLOCK_TD:
+        return "td";
+    case MD_BLOCK_DOC:
+    case MD_BLOCK_HTML:
+    case MD_BLOCK_THEAD:
+    case MD_BLOCK_TBODY:
+        break;
+    }
+    return {};
 }
 
-std::size_t BlockParser::TakeFence(Lines const& lines, std::size_t at)
+std::string_view HtmlWriter::SpanName(MD_SPANTYPE type)
 {
-    std::size_t const length = FenceLength(lines[at]);
-    std::size_t const indentation = Indentation(lines[at]);
-    char const sign = lines[at][indentation];
-    m_html += "<pre>";
-    for (++at; at < lines.size(); ++at)
+    switch (type)
     {
-        std::string_view const text = WithoutTrailingSpaces(WithoutIndentation(lines[at], CODE_INDENTATION - 1));
-        if (!text.empty() && text.front() == sign && text.size() >= length && RunLength(text, sign) == text.size())
+    case MD_SPAN_EM:
+        return "i";
+    case MD_SPAN_STRONG:
+        return "b";
+    case MD_SPAN_A:
+        return "a";
+    case MD_SPAN_CODE:
+        return "code";
+    case MD_SPAN_DEL:
+        return "s";
+    case MD_SPAN_U:
+        return "u";
+    case MD_SPAN_IMG:
+    case MD_SPAN_LATEXMATH:
+    case MD_SPAN_LATEXMATH_DISPLAY:
+    case MD_SPAN_WIKILINK:
+        break;
+    }
+    return {};
+}
+
+void HtmlWriter::EnterSpan(MD_SPANTYPE type, void const* detail)
+{
+    m_openImages += type == MD_SPAN_IMG ? 1 : 0;
+    std::string_view const name = SpanName(type);
+    if (m_openImages > 0 || name.empty())
+    {
+        return;
+    }
+    m_html.append("<").append(name);
+    if (type == MD_SPAN_A)
+    {
+        MD_ATTRIBUTE const& address = static_cast<MD_SPAN_A_DETAIL const*>(detail)->href;
+        m_html += " href=\"";
+        for (std::size_t i = 0; address.substr_offsets[i] < address.size; ++i)
         {
-            ++at;
-            break;
+            MD_OFFSET const start = address.substr_offsets[i];
+            AddText(address.substr_types[i], {address.text + start, address.substr_offsets[i + 1] - start});
         }
-        AppendEscaped(m_html, WithoutIndentation(lines[at], indentation));
+        m_html += '"';
+    }
+    m_html += '>';
+}
+
+void HtmlWriter::LeaveSpan(MD_SPANTYPE type)
+{
+    std::string_view const name = SpanName(type);
+    if (m_openImages == 0 && !name.empty())
+    {
+        m_html.append("</").append(name).append(">");
+    }
+    m_openImages -= type == MD_SPAN_IMG ? 1 : 0;
+}
+
+void HtmlWriter::AddText(MD_TEXTTYPE type, std::string_view text)
+{
+    switch (type)
+    {
+    case MD_TEXT_NORMAL:
+    case MD_TEXT_CODE:
+    case MD_TEXT_LATEXMATH:
+        AppendEscaped(m_html, text);
+        return;
+    case MD_TEXT_ENTITY: // decoded by the filter
+    case MD_TEXT_HTML:
+        m_html += text;
+        return;
+    case MD_TEXT_BR:
+        m_html += "<br>\n";
+        return;
+    case MD_TEXT_SOFTBR:
         m_html += '\n';
+        return;
+    case MD_TEXT_NULLCHAR: // clean text has none
+        return;
     }
-    m_html += "</pre>\n";
-    return at;
 }
 
-std::size_t BlockParser::TakeIndentedCode(Lines const& lines, std::size_t at)
+/// What a callback of the parser does. Its answer ends the parsing once the writer is full; some of what was begun, the
+/// cells of a table's row say, is still reported after that.
+template <class Write>
+int UnlessFull(void* writer, Write const& write)
 {
-    m_html += "<pre>";
-    std::size_t blanks = 0;
-    for (; at < lines.size() && (IsBlank(lines[at]) || Indentation(lines[at]) >= CODE_INDENTATION); ++at)
+    auto& html = *static_cast<HtmlWriter*>(writer);
+    if (html.IsFull())
     {
-        if (IsBlank(lines[at]))
-        {
-            ++blanks;
-            continue;
-        }
-        m_html.append(blanks, '\n');
-        blanks = 0;
-        AppendEscaped(m_html, lines[at].substr(CODE_INDENTATION));
-        m_html += '\n';
+        return 1;
     }
-    m_html += "</pre>\n";
-    return at;
-}
-
-std::size_t BlockParser::TakeHtml(Lines const& lines, std::size_t at)
-{
-    for (; at < lines.size() && !IsBlank(lines[at]); ++at)
-    {
-        m_html.append(lines[at]).append("\n");
-    }
-    return at;
-}
-
-std::size_t BlockParser::TakeQuote(Lines const& lines, std::size_t at, std::size_t depth)
-{
-    Lines quoted;
-    for (; at < lines.size() && IsQuote(lines[at]); ++at)
-    {
-        std::string_view const text = WithoutIndentation(lines[at]).substr(1);
-        quoted.push_back(WithoutIndentation(text, 1));
-    }
-    m_html += "<blockquote>";
-    Parse(quoted, depth + 1, Paragraphs::Wrapped);
-    m_html += "</blockquote>\n";
-    return at;
-}
-
-std::size_t BlockParser::TakeList(Lines const& lines, std::size_t at, std::size_t depth)
-{
-    ListMarker marker = *FindListMarker(lines[at]);
-    char const sign = marker.sign;
-    bool const isNumbered = sign == '.' || sign == ')';
-    std::vector<Lines> items;
-    bool hasBlankLine = false;
-    for (; at < lines.size(); ++at)
-    {
-        std::string_view const line = lines[at];
-        bool const isBlankBefore = at > 0 && IsBlank(lines[at - 1]) && !items.empty();
-        if (IsBlank(line))
-        {
-            items.back().push_back({});
-            continue;
-        }
-        if (!items.empty() && Indentation(line) >= marker.content)
-        {
-            items.back().push_back(line.substr(marker.content));
-            continue;
-        }
-        std::optional<ListMarker> const next = IsSeparator(line) ? std::nullopt : FindListMarker(line);
-        if (next && next->sign == sign)
-        {
-            hasBlankLine = hasBlankLine || isBlankBefore;
-            marker = *next;
-            items.push_back({line.substr(std::min(marker.content, line.size()))});
-            continue;
-        }
-        if (isBlankBefore || StartsBlock(line))
-        {
-            break;
-        }
-        items.back().push_back(WithoutIndentation(line)); // a paragraph goes on, however little it is indented
-    }
-    m_html += isNumbered ? "<ol>" : "<ul>";
-    for (Lines const& item : items)
-    {
-        m_html += "<li>";
-        Parse(item, depth + 1, hasBlankLine ? Paragraphs::Wrapped : Paragraphs::Bare);
-        m_html += "</li>\n";
-    }
-    m_html += isNumbered ? "</ol>\n" : "</ul>\n";
-    return at;
-}
-
-std::size_t BlockParser::TakeParagraph(Lines const& lines, std::size_t at, Paragraphs paragraphs)
-{
-    std::string text;
-    for (std::size_t const first = at; at < lines.size() && !IsBlank(lines[at]); ++at)
-    {
-        std::size_t const level = at > first ? UnderlineLevel(lines[at]) : 0;
-        if (level > 0)
-        {
-            AddHeading(level, text);
-            return at + 1;
-        }
-        if (at > first && StartsBlock(lines[at]))
-        {
-            break;
-        }
-        text += at > first ? "\n" : "";
-        text += WithoutIndentation(lines[at]);
-    }
-    std::string const html = MarkdownInlineToHtml(WithoutTrailingSpaces(text), m_references);
-    m_html += paragraphs == Paragraphs::Wrapped ? "<p>" + html + "</p>\n" : html + "\n";
-    return at;
+    write(html);
+    return 0;
 }
 
 } // namespace
 
-std::string MarkdownToHtml(std::string_view cleanText)
+std::string MarkdownToHtml(std::string_view cleanText, std::size_t maxHtmlBytes)
 {
-    // A tab counts as the blanks up to the next column of four.
-    std::string text;
-    text.reserve(cleanText.size());
-    std::size_t column = 0;
-    for (char const c : cleanText)
-    {
-        std::size_t const width = c == '\t' ? CODE_INDENTATION - column % CODE_INDENTATION : 1;
-        text.append(width, c == '\t' ? ' ' : c);
-        column = c == '\n' ? 0 : column + width;
-    }
-    Lines lines;
-    for (std::string_view rest = text; !rest.empty();)
-    {
-        std::size_t const end = std::min(rest.find('\n'), rest.size());
-        lines.push_back(rest.substr(0, end));
-        rest.remove_prefix(std::min(end + 1, rest.size()));
-    }
-    MarkdownReferences const references = TakeReferences(lines);
-    BlockParser parser(references);
-    parser.Parse(lines, 0, Paragraphs::Wrapped);
-    return parser.Html();
+    MD_PARSER parser = {};
+    parser.flags = DIALECT;
+    parser.enter_block = [](MD_BLOCKTYPE type, void* detail, void* writer)
+    { return UnlessFull(writer, [=](HtmlWriter& html) { html.EnterBlock(type, detail); }); };
+    parser.leave_block = [](MD_BLOCKTYPE type, void* detail, void* writer)
+    { return UnlessFull(writer, [=](HtmlWriter& html) { html.LeaveBlock(type, detail); }); };
+    parser.enter_span = [](MD_SPANTYPE type, void* detail, void* writer)
+    { return UnlessFull(writer, [=](HtmlWriter& html) { html.EnterSpan(type, detail); }); };
+    parser.leave_span = [](MD_SPANTYPE type, void*, void* writer)
+    { return UnlessFull(writer, [=](HtmlWriter& html) { html.LeaveSpan(type); }); };
+    parser.text = [](MD_TEXTTYPE type, MD_CHAR const* text, MD_SIZE size, void* writer) {
+        return UnlessFull(writer, [=](HtmlWriter& html) { html.AddText(type, {text, size}); });
+    };
+    HtmlWriter writer(maxHtmlBytes);
+    static_cast<void>(md_parse(cleanText.data(), static_cast<MD_SIZE>(cleanText.size()), &parser, &writer));
+    return writer.Html();
 }
 
 } // namespace Pelnar::Engine

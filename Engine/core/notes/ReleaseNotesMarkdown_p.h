@@ -1,15 +1,16 @@
-// ReleaseNotesMarkdown_p.h: the Markdown that release notes are written in, made into HTML.
-// Headings, paragraphs, emphasis, code, quotes, nested lists, rules, links (inline, by reference, bare), HTML passed
-// on. What comes out is not safe yet: it goes through the same filter as notes in HTML. Takes time linear in the text.
+// ReleaseNotesMarkdown_p.h: the Markdown that release notes are written in (CommonMark, tables, strike-through), made
+// into HTML. The HTML is not safe yet: it passes through the same filter as notes in HTML.
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
 namespace Pelnar::Engine
 {
 
-[[nodiscard]] std::string MarkdownToHtml(std::string_view cleanText);
+/// Stops soon after \a maxHtmlBytes: a wide table with many short rows can grow a thousandfold.
+[[nodiscard]] std::string MarkdownToHtml(std::string_view cleanText, std::size_t maxHtmlBytes);
 
 } // namespace Pelnar::Engine

@@ -1,10 +1,10 @@
 #include "Installer/RecoverSwap.h"
 
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/ChildProcess.h"
-#include "Installer/NoteFile.h"
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>
@@ -118,8 +118,8 @@ void RollBack(int parentFd, std::string const& targetName, UniqueFd const& stagi
               SwapJournal const& journal)
 {
     // First the note: a version that failed must not be installed again and again by those who do not know of it.
-    WriteNote(parentFd, Engine::FailedVersionName(targetName),
-              Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
+    Engine::WriteNote(parentFd, Engine::FailedVersionName(targetName),
+                      Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
     SwapBack(parentFd, targetName, staging.Get(), previousName, journal);
 }
 
@@ -160,7 +160,7 @@ RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal
     }
     // The journal goes first: a folder without one is known to be abandoned, and a journal without its folder would
     // have to be told from one whose folder is half gone.
-    RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
+    Engine::RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     return action;
 }
 
@@ -175,7 +175,7 @@ bool IsStagingKept(RecoveryAction action)
 std::string FailedVersionFor(int parentFd, Engine::RecoverJob const& job)
 {
     std::string const name = Engine::FailedVersionName(job.targetName);
-    std::string const bytes = job.runningVersion.empty() ? std::string() : ReadNote(parentFd, name);
+    std::string const bytes = job.runningVersion.empty() ? std::string() : Engine::ReadNote(parentFd, name);
     if (bytes.empty())
     {
         return {};
@@ -185,7 +185,7 @@ std::string FailedVersionFor(int parentFd, Engine::RecoverJob const& job)
     {
         return failed->toVersion;
     }
-    RemoveNote(parentFd, name);
+    Engine::RemoveNote(parentFd, name);
     return {};
 }
 
@@ -204,7 +204,7 @@ Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
     else if (::faccessat(parentFd, job.targetName.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
     {
         // One that cannot be read says nothing of a bundle that is there.
-        RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
+        Engine::RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     }
     else
     {

@@ -1,8 +1,8 @@
 #include "Installer/SwapBundle.h"
 
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Installer/BundleInformation.h"
-#include "Installer/NoteFile.h"
 
 #include <cerrno>
 
@@ -134,12 +134,12 @@ std::optional<std::string> VersionOf(int folderFd, std::string const& name)
 
 std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string const& targetName)
 {
-    return Engine::DecodeSwapJournal(ReadNote(parentFd, Engine::SwapJournalName(targetName)));
+    return Engine::DecodeSwapJournal(Engine::ReadNote(parentFd, Engine::SwapJournalName(targetName)));
 }
 
 void WriteSwapJournal(int parentFd, std::string const& targetName, Engine::SwapJournal const& journal)
 {
-    WriteNote(parentFd, Engine::SwapJournalName(targetName), Engine::EncodeSwapJournal(journal));
+    Engine::WriteNote(parentFd, Engine::SwapJournalName(targetName), Engine::EncodeSwapJournal(journal));
 }
 
 void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engine::SwapJournal const& journal)

@@ -1,4 +1,4 @@
-#include "Installer/NoteFile.h"
+#include "Engine/core/payload/NoteFile.h"
 
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/UpdateFault.h"
@@ -10,12 +10,10 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 namespace
 {
-
-using Engine::UniqueFd;
 
 constexpr std::size_t NOTE_MAX_BYTES = 64 * 1024;
 constexpr mode_t NOTE_MODE = 0600;
@@ -24,7 +22,7 @@ void SyncOrThrow(int descriptor)
 {
     if (::fsync(descriptor) != 0)
     {
-        Engine::ThrowErrno(errno, Engine::UpdateFault::SyncFailed);
+        ThrowErrno(errno, UpdateFault::SyncFailed);
     }
 }
 
@@ -39,10 +37,10 @@ std::string ReadNote(int folderFd, std::string const& name)
         return {};
     }
     std::string bytes(NOTE_MAX_BYTES, '\0');
-    ssize_t const count = Engine::ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
+    ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
     if (count < 0)
     {
-        Engine::ThrowErrno(errno); // no answer is not the answer that there is no file
+        ThrowErrno(errno); // no answer is not the answer that there is no file
     }
     bytes.resize(static_cast<std::size_t>(count));
     return bytes;
@@ -54,15 +52,14 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
     static_cast<void>(::unlinkat(folderFd, newName.c_str(), 0));
     UniqueFd const file(
         ::openat(folderFd, newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, NOTE_MODE));
-    if (!file ||
-        !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
+    if (!file || !WriteAll(file.Get(), Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
     {
-        Engine::ThrowErrno(errno);
+        ThrowErrno(errno);
     }
     SyncOrThrow(file.Get());
     if (::renameat(folderFd, newName.c_str(), folderFd, name.c_str()) != 0)
     {
-        Engine::ThrowErrno(errno);
+        ThrowErrno(errno);
     }
     SyncOrThrow(folderFd);
 }
@@ -73,9 +70,9 @@ void RemoveNote(int folderFd, std::string const& name)
     {
         if (::unlinkat(folderFd, gone.c_str(), 0) != 0 && errno != ENOENT)
         {
-            Engine::ThrowErrno(errno);
+            ThrowErrno(errno);
         }
     }
 }
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

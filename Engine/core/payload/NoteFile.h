@@ -1,11 +1,12 @@
-// NoteFile.h: the small files beside a bundle that outlive the process which wrote them.
-// Thread: the process' only one. Ownership: descriptors stay the caller's. REQUIRES: the swap lock of the folder.
+// NoteFile.h: the small files of an update that outlive the process which wrote them: beside the bundle and beside the
+// downloads. Thread: any; one at a time for a file, which beside a bundle the swap lock sees to. Ownership: descriptors
+// stay the caller's.
 #pragma once
 
 #include <string>
 #include <string_view>
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 
 /// What the file \a name says; empty when there is none, or none of this user's. Throws UpdateRefusal when it cannot be
@@ -17,4 +18,4 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes);
 /// Throws UpdateRefusal.
 void RemoveNote(int folderFd, std::string const& name);
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

@@ -28,10 +28,11 @@ public:
     ~Application() override;
 
     /// The process's application object. REQUIRES: it is a Pelnar::App::Application.
-    static Application* Instance();
+    static Application* Instance() { return static_cast<Application*>(QCoreApplication::instance()); }
 
-    /// The three services of a check; the updater takes them once for each check, in this order. The updater does not
-    /// test the first two against null.
+    /// The three services of a check; the updater takes them once for each check, in this order. A check without a
+    /// customization or a links service does not start: std::logic_error. The nag screens are not tested against null;
+    /// they are used when a major update is found.
     virtual std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const = 0;
     virtual std::shared_ptr<ICustomizationManager> GetCustomizationManager() const = 0;
     virtual std::shared_ptr<ILinksManager> GetLinksManager() const = 0;

@@ -1,6 +1,6 @@
 // IGateway.h: the seam through which the update manager asks the host to run something that the user will see.
 // Thread: the Qt main thread. Ownership: held by std::shared_ptr; an action's callback may outlive the one who
-// proposed it and guards itself against that.
+// proposed it and guards itself against that. A gateway may destroy its proposer, and stays alive until its call ends.
 #pragma once
 
 #include "common/Export.h"
@@ -21,7 +21,8 @@ class PELNAR_EXPORT IGateway
 {
 public:
     virtual ~IGateway() = default;
-    /// Runs \a action's callback now, later or never, at the host's choice; at most once.
+    /// Runs \a action's callback now, later or never, at the host's choice. Run it at most once: nothing checks this,
+    /// and each run of the update dialog's callback shows the dialog, as long as its manager lives.
     virtual void ProposeAction(Action const& action) = 0;
     /// Forgets every action named \a id that has not been run yet.
     virtual void CancelActions(std::string const& id) = 0;

@@ -1,6 +1,6 @@
 // IUpdateManagerObserver.h: what the host's observers of a check are told.
 // Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it
-// dies.
+// dies. One that is unregistered by another within a notification is still called in it.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -9,15 +9,17 @@
 namespace Pelnar::App
 {
 
-/// In each of these the observer may register and unregister observers, call the manager and start dialogs of its own,
-/// but must not destroy the manager's Qt parent before it returns. What it throws ends the notification, and the check.
+/// In each of these the observer may register and unregister observers, call the manager, start dialogs of its own and
+/// destroy the manager's Qt parent, and the manager with it: nobody is called after that. What it throws ends the
+/// notification and reaches whoever runs the dialog, which ends the check.
 class PELNAR_EXPORT IUpdateManagerObserver
 {
 public:
     /// The update dialog is about to be proposed; also in a silent check, and also when a check that the user asked for
     /// found nothing newer. \a current is the running application's version, \a remote the one that the check reports.
     virtual void OnUpdateFound(Core::Version const& current, Core::Version const& remote) = 0;
-    /// The user accepted the update in the dialog.
+    /// The user accepted the update in the dialog. No back end announces this today: an update is accepted in the
+    /// windows of the update framework, which tells its delegate of no such moment. What it throws ends no check.
     virtual void OnUpdateAccepted(Core::Version const& current, Core::Version const& remote) = 0;
     /// The update dialog is about to be executed.
     virtual void OnUpdateDialogOpening() = 0;

@@ -1,5 +1,8 @@
 // UpdateCheckResult.h: the outcome of a check.
+// Thread: a plain value. Qt knows its type, so that a result from another thread is queued.
 #pragma once
+
+#include <QMetaType>
 
 #include <cstdint>
 
@@ -15,3 +18,5 @@ enum class UpdateCheckResult : std::int32_t
 };
 
 } // namespace Pelnar::App
+
+Q_DECLARE_METATYPE(Pelnar::App::UpdateCheckResult)

@@ -3,6 +3,9 @@
 #include "App/UpdateChecker/UpdateManagerImpl_p.h"
 #include "HostFramework/Application.h"
 #include "common/DirectCallGateway.h"
+#include "common/ScopedFunctionCall.h"
+
+#include <QPointer>
 
 #include <utility>
 
@@ -53,7 +56,25 @@ void UpdateManager::CheckForUpdates(Initializer const& initializer)
     {
         return;
     }
-    new UpdateManager(initializer); // deletes itself
+    // Apart from the construction: the host, which is called from here on, may destroy the manager. An exception that
+    // left the constructor would then destroy it once more.
+    QPointer<UpdateManager> const manager(new UpdateManager(initializer)); // deletes itself
+    bool hasStarted = false;
+    Core::ScopedFunctionCall const freeUnlessStarted(
+        nullptr,
+        [&manager, &hasStarted]
+        {
+            if (manager && !hasStarted)
+            {
+                // Deliberate: s_updateManager stays set, and the process makes no further checks.
+                IUpdateManager* const failed = s_updateManager;
+                delete manager.data();
+                s_updateManager = failed;
+            }
+        },
+        true);
+    manager->Start(QList<IUpdateManagerObserver*>(initializer.observers));
+    hasStarted = true;
 }
 
 IUpdateManager* UpdateManager::GetCurrentUpdateManager()
@@ -64,23 +85,35 @@ IUpdateManager* UpdateManager::GetCurrentUpdateManager()
 UpdateManager::UpdateManager(Initializer const& initializer)
     : QObject(initializer.parent), impl(std::make_unique<Impl>(*this, initializer.gateway))
 {
-    // Deliberate: when something below throws, s_updateManager stays set, and the process makes no further checks.
     s_updateManager = this;
     impl->parentWidgetGetter = initializer.parentWidgetGetter;
     impl->checkMode = initializer.checkMode;
+}
 
+void UpdateManager::Start(QList<IUpdateManagerObserver*> const& firstObservers)
+{
+    QPointer<UpdateManager> const self(this);
     Application const* const application = Application::Instance();
-    impl->nagScreenManager = application->GetNagScreenManager();
-    impl->customizationManager = application->GetCustomizationManager();
-    impl->linksManager = application->GetLinksManager();
-
-    for (IUpdateManagerObserver* const observer : initializer.observers)
+    std::shared_ptr<NagScreen::Manager> const nagScreenManager = application->GetNagScreenManager();
+    std::shared_ptr<ICustomizationManager> const customizationManager = application->GetCustomizationManager();
+    std::shared_ptr<ILinksManager> const linksManager = application->GetLinksManager();
+    if (!self)
+    {
+        return;
+    }
+    impl->nagScreenManager = nagScreenManager;
+    impl->customizationManager = customizationManager;
+    impl->linksManager = linksManager;
+    for (IUpdateManagerObserver* const observer : firstObservers)
     {
         RegisterObserver(observer);
     }
     impl->InitializeUpdater();
-    // Last: the whole flow may run inside this call, and a dialog of it may see this object deleted by its parent.
-    impl->updater->CheckForUpdates();
+    if (self)
+    {
+        // Last: the whole flow may run inside this call.
+        impl->updater->CheckForUpdates();
+    }
 }
 
 UpdateManager::~UpdateManager()
@@ -105,7 +138,11 @@ void UpdateManager::UnregisterObserver(IUpdateManagerObserver* observer)
 
 void UpdateManager::RejectUpdateAndHideDialog()
 {
-    impl->updater->RejectUpdateAndHideDialog();
+    // The host may ask for it before there is a back end: its services are taken first.
+    if (impl->updater)
+    {
+        impl->updater->RejectUpdateAndHideDialog();
+    }
 }
 
 } // namespace Pelnar::App

@@ -40,9 +40,9 @@ public:
         std::shared_ptr<ExternalStimulus::IGateway> gateway; ///< where the dialog is proposed; a DirectCallGateway
     };
 
-    // The entry points. While a manager lives each of them returns at once and does nothing. What the constructor
-    // throws (std::logic_error when the host has no links service) leaves here, and further checks are then dropped
-    // for the rest of the process.
+    // The entry points. While a manager lives each of them returns at once and does nothing. What the start of a check
+    // throws leaves here: std::logic_error when the host has no links or no customization service, and what the host
+    // throws itself. The manager is freed then, and further checks are dropped for the rest of the process.
 
     /// A check started by the user, or, when \a automatic, by the application; the dialog is run at once.
     static void CheckForUpdates(QObject* parent, bool automatic, std::function<QWidget*()> parentWidgetGetter,
@@ -54,7 +54,8 @@ public:
     /// A check with everything the caller filled in; the only way to a silent one.
     static void CheckForUpdates(Initializer const& initializer);
 
-    /// The live manager, or null. It is set before the first observer can be called.
+    /// The live manager, or null. It is set before the host is first called. REQUIRES: no check has failed to start in
+    /// this process; after one the answer points to the manager that was freed, and stays what it is.
     static IUpdateManager* GetCurrentUpdateManager();
 
     void RegisterObserver(IUpdateManagerObserver* observer) override;
@@ -66,6 +67,8 @@ private:
 
     explicit UpdateManager(Initializer const& initializer);
     ~UpdateManager() override;
+    /// Takes the host's services and starts the check. The host may destroy this object meanwhile.
+    void Start(QList<IUpdateManagerObserver*> const& firstObservers);
 
     class PELNAR_PRIVATE Impl;
     std::unique_ptr<Impl> impl;

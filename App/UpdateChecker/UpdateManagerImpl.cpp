@@ -26,18 +26,29 @@ UpdateManager::Impl::Impl(UpdateManager& owner, std::shared_ptr<ExternalStimulus
 
 UpdateManager::Impl::~Impl()
 {
-    // The back end is destroyed after the services below it: what it emits on its way out must find nobody here.
+    // What the services, the gateway and the back end say while they are destroyed reaches nobody any more.
+    m_isEnding = true;
     if (updater)
     {
         updater->disconnect(this);
+    }
+    if (nagScreenManager)
+    {
+        nagScreenManager->disconnect(this);
     }
 }
 
 void UpdateManager::Impl::InitializeUpdater()
 {
     NotNull<std::shared_ptr<ILinksManager>> const links(linksManager);
-    updater =
+    QPointer<Impl> const self(this);
+    auto backEnd =
         std::make_unique<UpdaterSparkle>(customizationManager, links, checkMode != UpdateCheckMode::UserInitiated);
+    if (!self)
+    {
+        return;
+    }
+    updater = std::move(backEnd);
     connect(updater.get(), &AbstractUpdaterImpl::NotifyCheckFinished, this, &Impl::CheckFinished);
     connect(updater.get(), &AbstractUpdaterImpl::NotifyUserAcceptUpdate, this, &Impl::UserAcceptUpdate);
 }
@@ -70,7 +81,14 @@ void UpdateManager::Impl::CheckFinished(UpdateCheckResult result)
 
 void UpdateManager::Impl::ProposeNagOrDialog()
 {
-    switch (nagScreenManager->GetContentState(NagScreen::MajorUpdate))
+    QPointer<Impl> const self(this);
+    std::shared_ptr<NagScreen::Manager> const service = nagScreenManager;
+    int const contentState = service->GetContentState(NagScreen::MajorUpdate);
+    if (!self)
+    {
+        return;
+    }
+    switch (contentState)
     {
     case NagScreen::CONTENT_UNKNOWN:
         WaitForNag();
@@ -112,19 +130,19 @@ void UpdateManager::Impl::ProposeDialog()
     action.id = ACTION_ID;
     action.callback = [self]
     {
-        if (self)
+        if (self && !self->m_isEnding)
         {
             self->RunDialog();
         }
     };
-    gateway->ProposeAction(action);
+    std::shared_ptr<ExternalStimulus::IGateway> const host = gateway;
+    host->ProposeAction(action);
 }
 
 void UpdateManager::Impl::RunDialog()
 {
     QPointer<Impl> const self(this);
-    // From here on every way out, an exception included, ends the flow. The manager's Qt parent may end it even sooner:
-    // the dialog runs an event loop.
+    // From here on every way out, an exception included, ends the flow. The manager's Qt parent may end it even sooner.
     Core::ScopedFunctionCall const deleteOnExit(
         nullptr,
         [self]
@@ -137,15 +155,15 @@ void UpdateManager::Impl::RunDialog()
         true);
     std::function<QWidget*()> const hostParentGetter = parentWidgetGetter;
 
-    Core::Version const current = GetCurrentVersion();
-    Core::Version const remote = GetRemoteVersion();
-    observers.PerformForEachEventHandler([&current, &remote](IUpdateManagerObserver* observer)
-                                         { observer->OnUpdateFound(current, remote); });
-    if (checkMode == UpdateCheckMode::Silent)
+    if (!TellVersions(&IUpdateManagerObserver::OnUpdateFound) || checkMode == UpdateCheckMode::Silent)
     {
         return;
     }
     observers.PerformForEachEventHandler(&IUpdateManagerObserver::OnUpdateDialogOpening);
+    if (!self)
+    {
+        return;
+    }
     updater->ExecUpdateDialog(
         [hostParentGetter] { return hostParentGetter ? hostParentGetter() : Util::SpontaneousDialog::findParent(); });
     if (self)
@@ -156,24 +174,41 @@ void UpdateManager::Impl::RunDialog()
 
 void UpdateManager::Impl::UserAcceptUpdate()
 {
+    (void)TellVersions(&IUpdateManagerObserver::OnUpdateAccepted);
+}
+
+bool UpdateManager::Impl::TellVersions(VersionsEvent event)
+{
+    QPointer<Impl> const self(this);
     Core::Version const current = GetCurrentVersion();
+    if (!self)
+    {
+        return false;
+    }
     Core::Version const remote = GetRemoteVersion();
-    observers.PerformForEachEventHandler([&current, &remote](IUpdateManagerObserver* observer)
-                                         { observer->OnUpdateAccepted(current, remote); });
+    observers.PerformForEachEventHandler([event, &current, &remote](IUpdateManagerObserver* observer)
+                                         { (observer->*event)(current, remote); });
+    return !self.isNull();
 }
 
 void UpdateManager::Impl::ProposeNag()
 {
+    QPointer<Impl> const self(this);
     if (checkMode != UpdateCheckMode::Silent)
     {
-        nagScreenManager->Show(NagScreen::MajorUpdate);
+        std::shared_ptr<NagScreen::Manager> const service = nagScreenManager;
+        service->Show(NagScreen::MajorUpdate);
     }
-    DeleteManager();
+    if (self)
+    {
+        DeleteManager();
+    }
 }
 
 Core::Version UpdateManager::Impl::GetCurrentVersion() const
 {
-    return customizationManager->GetApplicationVersion();
+    std::shared_ptr<ICustomizationManager> const service = customizationManager;
+    return service->GetApplicationVersion();
 }
 
 Core::Version UpdateManager::Impl::GetRemoteVersion() const

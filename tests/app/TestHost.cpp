@@ -4,6 +4,24 @@
 #include "HostFramework/VersionText.h"
 #include "tests/app/UpdateManagerTestAccess.h"
 
+namespace Pelnar::Testing
+{
+namespace
+{
+
+void Reach(std::string const& place)
+{
+    if (TheHostHook())
+    {
+        // A copy: what the hook does may end with its own removal.
+        auto const hook = TheHostHook();
+        hook(place);
+    }
+}
+
+} // namespace
+} // namespace Pelnar::Testing
+
 namespace Pelnar::Util
 {
 
@@ -11,6 +29,7 @@ namespace Pelnar::Util
 QWidget* SpontaneousDialog::findParent()
 {
     ++Testing::TheSpontaneousParent().asked;
+    Testing::Reach("spontaneous parent");
     return Testing::TheSpontaneousParent().widget;
 }
 
@@ -26,17 +45,37 @@ std::string ToText(Core::Version const& version)
     return text.isEmpty() ? "none" : text.toStdString();
 }
 
+std::function<void(std::string const& place)>& TheHostHook()
+{
+    static std::function<void(std::string const& place)> hook;
+    return hook;
+}
+
+std::string ScriptedCustomizationManager::GetDisplayName() const
+{
+    Reach("display name");
+    return displayName;
+}
+
+Core::Version ScriptedCustomizationManager::GetApplicationVersion() const
+{
+    Reach("version");
+    return version;
+}
+
 ScriptedNagScreenManager::ScriptedNagScreenManager(Journal& sharedJournal) : journal(sharedJournal) {}
 
 int ScriptedNagScreenManager::GetContentState(QString const& name) const
 {
     journal.push_back("state of " + name.toStdString());
+    Reach("nag state");
     return state;
 }
 
 void ScriptedNagScreenManager::Show(QString const& name)
 {
     journal.push_back("show " + name.toStdString());
+    Reach("nag shown");
     if (onShow)
     {
         onShow();
@@ -46,6 +85,7 @@ void ScriptedNagScreenManager::Show(QString const& name)
 QString ScriptedLinksManager::GetLink(URLKeys key) const
 {
     askedKeys.push_back(key);
+    Reach("link");
     return feedAddress;
 }
 
@@ -61,18 +101,21 @@ HostApplication::HostApplication(int& argc, char** argv, Journal& sharedJournal)
 std::shared_ptr<App::NagScreen::Manager> HostApplication::GetNagScreenManager() const
 {
     askedServices.emplace_back("nag");
+    Reach("nag service");
     return nagScreenManager;
 }
 
 std::shared_ptr<App::ICustomizationManager> HostApplication::GetCustomizationManager() const
 {
     askedServices.emplace_back("customization");
+    Reach("customization service");
     return customizationManager;
 }
 
 std::shared_ptr<App::ILinksManager> HostApplication::GetLinksManager() const
 {
     askedServices.emplace_back("links");
+    Reach("links service");
     return linksManager;
 }
 
@@ -116,6 +159,7 @@ void RecordingObserver::OnUpdateDialogClosed()
 void RecordingObserver::Write(std::string const& text, std::function<void()> const& hook)
 {
     journal.push_back(name + text);
+    Reach(text.substr(0, text.find(' ')));
     if (hook)
     {
         hook();
@@ -142,11 +186,13 @@ void DeferringGateway::RunOne()
 HostTest::HostTest() : application(m_argc, m_argv, journal), parent(std::make_unique<QObject>()), observer(journal)
 {
     TheSpontaneousParent() = SpontaneousParent();
+    TheHostHook() = nullptr;
     session.onShowDialog = [this] { journal.emplace_back("dialog"); };
 }
 
 HostTest::~HostTest()
 {
+    TheHostHook() = nullptr;
     parent.reset();
     EXPECT_EQ(Current() != nullptr, leavesManagerSet) << "a manager outlives its test";
 }

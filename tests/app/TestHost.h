@@ -28,6 +28,9 @@ using Journal = std::vector<std::string>;
 
 std::string ToText(Core::Version const& version);
 
+/// What a test does at every place where the host is called, by the name of the place. Empty: nothing.
+std::function<void(std::string const& place)>& TheHostHook();
+
 class ScriptedNagScreenManager : public App::NagScreen::Manager
 {
 public:
@@ -45,8 +48,8 @@ private:
 class ScriptedCustomizationManager : public App::ICustomizationManager
 {
 public:
-    std::string GetDisplayName() const override { return displayName; }
-    Core::Version GetApplicationVersion() const override { return version; }
+    std::string GetDisplayName() const override;
+    Core::Version GetApplicationVersion() const override;
     std::string GetBundleNameFirstPart() const override { return firstPart; }
     std::string GetBundleNameSecondPart() const override { return secondPart; }
 

@@ -2,6 +2,8 @@
 #include "tests/app/TestHost.h"
 #include "tests/app/UpdateManagerTestAccess.h"
 
+#include <thread>
+
 namespace
 {
 
@@ -127,6 +129,20 @@ TEST_F(UpdateFlow, ResultsHaveTheirNumbers)
     EXPECT_EQ(static_cast<int>(UPDATE), 2);
     EXPECT_EQ(static_cast<int>(MAJOR), 3);
     EXPECT_EQ(sizeof(UpdateCheckResult), 4u);
+}
+
+TEST_F(UpdateFlow, ResultOfAnotherThreadRunsTheFlowOnItsOwn)
+{
+    Start(UpdateCheckMode::Automatic);
+    session.contexts.back()->remoteVersion = Version(6, 0);
+    std::thread(
+        [] { Q_EMIT UpdateManagerTestAccess::Updater().NotifyCheckFinished(UpdateCheckResult::UpdateAvailable); })
+        .join();
+    EXPECT_EQ(journal, Journal());
+    QCoreApplication::processEvents();
+    EXPECT_EQ(journal, DIALOG);
+    Turn();
+    EXPECT_EQ(Current(), nullptr);
 }
 
 TEST_F(UpdateFlow, UserCheckWithoutUpdateShowsTheDialogWithTheReportedVersion)

@@ -79,6 +79,29 @@ TEST_F(UpdateManagerFailure, CheckThatThrowsGivesTheSessionBack)
     ExpectFurtherChecksDropped();
 }
 
+class ThrowingHost : public UpdateManagerFailure, public ::testing::WithParamInterface<char const*>
+{
+};
+
+TEST_P(ThrowingHost, ReachesTheCallerOfTheCheckAndFurtherChecksAreDropped)
+{
+    TheHostHook() = [](std::string const& place)
+    {
+        if (place == GetParam())
+        {
+            throw std::logic_error("host");
+        }
+    };
+    EXPECT_EQ(TextThrownByCheck(UpdateCheckMode::Automatic), "host");
+    TheHostHook() = nullptr;
+    EXPECT_TRUE(session.calls.empty()) << "the session was not asked";
+    ExpectFurtherChecksDropped();
+}
+
+INSTANTIATE_TEST_SUITE_P(Construction, ThrowingHost,
+                         ::testing::Values("nag service", "customization service", "links service", "display name",
+                                           "link", "version"));
+
 TEST_F(UpdateManagerFailure, ObserverThatThrowsDuringASynchronousResultLeavesTheEntryPoint)
 {
     session.grantsLock = false;

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <stdexcept>
+#include <thread>
 
 namespace
 {
@@ -137,6 +138,19 @@ TEST_F(UpdaterSparkleTest, MetaObjectsCarryTheirNamesAndTheTwoSignals)
     EXPECT_EQ(derived.methodCount(), derived.methodOffset());
     EXPECT_EQ(derived.propertyCount(), derived.propertyOffset());
     EXPECT_EQ(updater->parent(), nullptr);
+}
+
+TEST_F(UpdaterSparkleTest, ResultOfAnotherThreadIsQueuedForItsReceiver)
+{
+    auto const updater = Make();
+    std::thread::id deliveredOn;
+    QObject::connect(updater.get(), &AbstractUpdaterImpl::NotifyCheckFinished, &application,
+                     [&deliveredOn] { deliveredOn = std::this_thread::get_id(); });
+    std::thread([&updater] { Q_EMIT updater->NotifyCheckFinished(UpdateCheckResult::MajorUpdateAvailable); }).join();
+    EXPECT_TRUE(results.empty()) << "the receiver's own thread delivers it";
+    Turn();
+    EXPECT_EQ(results, (std::vector<UpdateCheckResult>{UpdateCheckResult::MajorUpdateAvailable}));
+    EXPECT_EQ(deliveredOn, std::this_thread::get_id());
 }
 
 // The holder of the session.

@@ -380,6 +380,53 @@ TEST(EventHandlerList, ExceptionOfANestedPassLeavesTheOuterOneLockedUntilItsEnd)
     EXPECT_EQ(handler.calls, 2);
 }
 
+TEST(EventHandlerList, HandlerMayDestroyTheListWhichEndsThePass)
+{
+    auto list = std::make_unique<List>();
+    Handler destroying;
+    Handler later;
+    destroying.onEvent = [&] { list.reset(); };
+    list->RegisterEventHandler(&destroying);
+    list->RegisterEventHandler(&later);
+    Notify(*list);
+    EXPECT_EQ(destroying.calls, 1);
+    EXPECT_EQ(later.calls, 0) << "it may have gone with the list";
+}
+
+TEST(EventHandlerList, HandlerMayDestroyTheListAndThrow)
+{
+    auto list = std::make_unique<List>();
+    Handler destroying;
+    destroying.onEvent = [&]
+    {
+        list.reset();
+        throw std::runtime_error("no");
+    };
+    list->RegisterEventHandler(&destroying);
+    EXPECT_THROW(Notify(*list), std::runtime_error);
+}
+
+TEST(EventHandlerList, HandlerMayDestroyTheListInsideANestedPass)
+{
+    auto list = std::make_unique<List>();
+    Handler handler;
+    Handler later;
+    handler.onEvent = [&]
+    {
+        if (handler.calls == 1)
+        {
+            Notify(*list);
+            return;
+        }
+        list.reset();
+    };
+    list->RegisterEventHandler(&handler);
+    list->RegisterEventHandler(&later);
+    Notify(*list);
+    EXPECT_EQ(handler.calls, 2);
+    EXPECT_EQ(later.calls, 0);
+}
+
 TEST(EventHandlerList, ConcurrentChangesAndPassesKeepTheListWhole)
 {
     List list;

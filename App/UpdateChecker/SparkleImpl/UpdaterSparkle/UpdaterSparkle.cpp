@@ -115,13 +115,18 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
         return;
     }
 
-    // The alert's event loop may see this updater deleted, by the Qt parent of its manager, and the alert deleted with
-    // its own parent. Nothing below may then touch either.
+    // The getter and the alert's event loop may see this updater deleted, by the Qt parent of its manager, and the
+    // alert deleted with its own parent. Nothing below may then touch either.
     QPointer<UpdaterSparkle> const self(this);
+    QWidget* const parent = parentGetter ? parentGetter() : nullptr;
+    if (!self)
+    {
+        return;
+    }
     QPointer<Util::AlertBox> const alert(new Util::AlertBox(
         Util::AlertBox::Information, QString(),
         QCoreApplication::translate("SparkleUpdater", "Update is already running. Please try later."), QMessageBox::Ok,
-        parentGetter ? parentGetter() : nullptr, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
+        parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
     Core::ScopedFunctionCall const deleteAlert(
         nullptr, [alert] { delete alert.data(); }, true);
     alert->setObjectName(QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
@@ -148,9 +153,11 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
 
 void UpdaterSparkle::RejectUpdateAndHideDialog()
 {
-    if (m_impl->hideDialog)
+    // A copy: what the closing sets off may end with this object.
+    std::function<void()> const hideDialog = m_impl->hideDialog;
+    if (hideDialog)
     {
-        m_impl->hideDialog();
+        hideDialog();
     }
     SparkleManager::GetInstance().RejectUpdateAndHideDialog();
 }

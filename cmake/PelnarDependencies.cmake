@@ -1,5 +1,27 @@
 # Everything the project takes from outside, found in one place. The matching Debian packages stand in scripts/packages.
 
+# pelnar_helper_library(<name> <shared> <static>...): a library that the installer's helper needs as others do. A program
+# with the property PELNAR_STANDS_ALONE gets the static libraries of these names, everything else the shared one.
+function(pelnar_helper_library name shared)
+    add_library(${name} INTERFACE)
+    if(NOT PELNAR_STANDALONE_HELPER)
+        target_link_libraries(${name} INTERFACE ${shared})
+        return()
+    endif()
+    set(files)
+    foreach(library IN LISTS ARGN)
+        find_library(PELNAR_STATIC_${library} lib${library}.a)
+        if(NOT PELNAR_STATIC_${library})
+            message(FATAL_ERROR "lib${library}.a is not here, which the installer's helper is linked to. Run "
+                "scripts/packages, or configure with -DPELNAR_STANDALONE_HELPER=OFF for a helper that needs the shared "
+                "libraries of this system.")
+        endif()
+        list(APPEND files "${PELNAR_STATIC_${library}}")
+    endforeach()
+    set(stands_alone "$<BOOL:$<TARGET_PROPERTY:PELNAR_STANDS_ALONE>>")
+    target_link_libraries(${name} INTERFACE "$<IF:${stands_alone},${files},${shared}>")
+endfunction()
+
 find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network LinguistTools)
 find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
@@ -22,8 +44,13 @@ else()
 
     pkg_check_modules(sodium REQUIRED IMPORTED_TARGET libsodium>=1.0.18)
     pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive>=3.6)
+    pkg_check_modules(zstd REQUIRED IMPORTED_TARGET libzstd)
     pkg_check_modules(md4c REQUIRED IMPORTED_TARGET md4c>=0.4.8)
     find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file
+    pelnar_helper_library(pelnar_sodium PkgConfig::sodium sodium)
+    pelnar_helper_library(pelnar_archive PkgConfig::libarchive archive nettle lzma lz4 bz2 z zstd)
+    pelnar_helper_library(pelnar_zstd PkgConfig::zstd zstd)
+    pelnar_helper_library(pelnar_unistring ${PELNAR_UNISTRING} unistring)
 
     add_library(pelnar_objc_runtime INTERFACE)
     target_compile_options(pelnar_objc_runtime INTERFACE

@@ -263,7 +263,7 @@ TEST_P(EveryCall, IsWhereMemoryMayRunOut)
     }
     std::set<int> statuses;
     // From a helper that does not even start to one that has enough.
-    for (int kibibytes = 40000; statuses.count(0) == 0; kibibytes += IsEveryPlaceWanted() ? 64 : 1024)
+    for (int kibibytes = 3000; statuses.count(0) == 0; kibibytes += IsEveryPlaceWanted() ? 16 : 512)
     {
         SCOPED_TRACE(kibibytes);
         ASSERT_LT(kibibytes, 1 << 20);

@@ -11,6 +11,7 @@
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <random>
 #include <set>
 #include <thread>
@@ -371,11 +372,14 @@ TEST(Race, FilesThatOthersDropBesideTheBundleStay)
 class Meddler
 {
 public:
+    /// The archive's name is another file's already then: taking it away while it is verified is a reason to refuse.
     explicit Meddler(UpdateScene const& scene)
         : m_thread(
-              [this, staging = scene.StagingPath(), place = scene.Place().Path(), archive = ArchivePath(scene)]
+              [this, place = scene.Place().Path(), archive = ArchivePath(scene)]
               {
                   std::mt19937 random(7);
+                  ReplaceBy(archive, "something else");
+                  m_hasBegun.set_value();
                   for (int i = 0; !m_isOver; ++i)
                   {
                       std::string const decoy = place + "/decoy" + std::to_string(random() % 4);
@@ -388,6 +392,7 @@ public:
                   }
               })
     {
+        m_hasBegun.get_future().wait();
     }
     ~Meddler()
     {
@@ -397,6 +402,7 @@ public:
 
 private:
     std::atomic<bool> m_isOver{false};
+    std::promise<void> m_hasBegun;
     std::thread m_thread;
 };
 

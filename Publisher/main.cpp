@@ -5,7 +5,9 @@
 #include <glog/logging.h>
 
 #include <QCoreApplication>
+#include <QTextCodec>
 
+#include <clocale>
 #include <iostream>
 
 #include <unistd.h>
@@ -25,6 +27,14 @@ void KeepLibrariesQuiet(char const* programName)
     qInstallMessageHandler([](QtMsgType, QMessageLogContext const&, QString const&) {});
 }
 
+/// The tool writes English, and takes names of files for UTF-8, in every locale: a feed is the same wherever it is
+/// made.
+void UseOwnWords()
+{
+    std::setlocale(LC_ALL, "C");
+    QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -33,6 +43,7 @@ int main(int argc, char** argv)
     // Qt gets the program's name only: it would take some options for its own.
     int qtArgumentCount = 1;
     QCoreApplication const application(qtArgumentCount, argv);
+    UseOwnWords();
     Pelnar::Publisher::Console console{
         std::cin,
         {std::cout, ::isatty(STDOUT_FILENO) == 1, Pelnar::Publisher::ShowsColour(STDOUT_FILENO)},

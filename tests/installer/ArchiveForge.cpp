@@ -68,6 +68,20 @@ std::string Zip64Extra(std::vector<std::uint64_t> const& numbers)
     return extra;
 }
 
+std::string UnicodeNameExtra(std::optional<std::string> const& unicodeName, std::string const& name)
+{
+    if (!unicodeName)
+    {
+        return {};
+    }
+    std::string extra;
+    Append(extra, 0x7075, 2);
+    Append(extra, unicodeName->size() + 5, 2);
+    Append(extra, 1, 1);
+    Append(extra, Checksum(name), 4);
+    return extra + *unicodeName;
+}
+
 std::string LocalEntry(ForgedEntry const& entry)
 {
     bool const isLater = entry.descriptorBytes != 0;
@@ -75,7 +89,9 @@ std::string LocalEntry(ForgedEntry const& entry)
     auto const size = static_cast<std::uint32_t>(entry.content.size());
     std::uint32_t const headerSize = entry.isZip64 ? IN_EXTRA : isLater ? 0 : entry.localSize.value_or(size);
     std::string const name = entry.localName.value_or(entry.path);
-    std::string const extra = entry.isZip64 ? Zip64Extra({size, size}) : std::string();
+    std::string const extra =
+        (entry.isZip64 ? Zip64Extra({size, size}) : std::string()) +
+        UnicodeNameExtra(entry.localUnicodeName ? entry.localUnicodeName : entry.unicodeName, name);
     std::string bytes = "PK\3\4";
     Append(bytes, 20, 2);
     Append(bytes, entry.localFlags.value_or(static_cast<std::uint16_t>(entry.flags | (isLater ? 8 : 0))), 2);
@@ -104,7 +120,8 @@ std::string LocalEntry(ForgedEntry const& entry)
 std::string CentralEntry(ForgedEntry const& entry, std::size_t offset)
 {
     auto const size = static_cast<std::uint32_t>(entry.content.size());
-    std::string const extra = entry.isZip64 ? Zip64Extra({size, size, offset}) : std::string();
+    std::string const extra = (entry.isZip64 ? Zip64Extra({size, size, offset}) : std::string()) +
+                              UnicodeNameExtra(entry.unicodeName, entry.path);
     std::string bytes = "PK\1\2";
     Append(bytes, 3u << 8 | 20u, 2); // made by Unix: the mode below counts
     Append(bytes, 20, 2);
@@ -165,6 +182,18 @@ std::string Padded(std::string bytes)
 {
     bytes.resize((bytes.size() + 511) / 512 * 512);
     return bytes;
+}
+
+/// "LENGTH KEY=VALUE\n", the length being of all of it.
+std::string PaxRecord(std::string const& key, std::string const& value)
+{
+    std::string const rest = ' ' + key + '=' + value + '\n';
+    std::size_t length = rest.size() + 1;
+    while (std::to_string(length).size() + rest.size() != length)
+    {
+        ++length;
+    }
+    return std::to_string(length) + rest;
 }
 
 char TarFlag(char type)
@@ -289,12 +318,18 @@ std::string MakeTar(std::vector<ForgedEntry> const& entries)
     {
         bool const isLink = entry.type == 'l' || entry.type == 'h';
         bool const hasContent = entry.type == 'f' || entry.type == 's';
-        if (entry.path.size() > 100)
+        if (entry.isPax)
+        {
+            std::string const records =
+                PaxRecord("path", entry.path) + (isLink ? PaxRecord("linkpath", entry.content) : std::string());
+            bytes += WithChecksum(TarHeader("PaxHeader", 'x', 0644, records.size(), {})) + Padded(records);
+        }
+        else if (entry.path.size() > 100)
         {
             std::string const name = entry.path + '\0';
             bytes += WithChecksum(TarHeader("././@LongLink", 'L', 0, name.size(), {})) + Padded(name);
         }
-        if (isLink && entry.content.size() > 100)
+        if (!entry.isPax && isLink && entry.content.size() > 100)
         {
             std::string const target = entry.content + '\0';
             bytes += WithChecksum(TarHeader("././@LongLink", 'K', 0, target.size(), {})) + Padded(target);

@@ -29,6 +29,11 @@ struct ForgedEntry
     bool isDescriptorWrong = false;
     bool isZip64 = false;
     std::string gapBefore = {};
+    std::optional<std::string> unicodeName = {};      ///< the extra field with the name in UTF-8
+    std::optional<std::string> localUnicodeName = {}; ///< of the local header, where it is another
+
+    // Tar only.
+    bool isPax = false; ///< name and target stand in a pax header
 };
 
 struct ZipOptions

@@ -6,6 +6,51 @@ namespace Pelnar::Testing
 {
 
 using Engine::UpdateFault;
+using namespace std::string_literals;
+
+namespace
+{
+
+constexpr std::uint16_t UTF8_FLAG = 0x800;
+
+/// In a zip under the flag for UTF-8, in a tar in a pax header.
+ForgedEntry CalledUtf8(ForgedEntry entry)
+{
+    entry.flags = UTF8_FLAG;
+    entry.isPax = true;
+    return entry;
+}
+
+ForgedEntry WithOtherUnicodeName(ForgedEntry entry, std::string const& name)
+{
+    entry.unicodeName = name;
+    return entry;
+}
+
+/// Links that lead from one to the next, the last to a file.
+std::vector<ForgedEntry> ChainOfLinks(int length)
+{
+    std::vector<ForgedEntry> entries;
+    for (int i = 0; i < length; ++i)
+    {
+        std::string const next = i + 1 < length ? "link" + std::to_string(i + 1) : "run"s;
+        entries.push_back({"My App.app/link" + std::to_string(i), 'l', next});
+    }
+    return entries;
+}
+
+/// Folders in folders, so that a file in the last lies \a depth names deep.
+std::string DeepPath(int depth)
+{
+    std::string path = "My App.app";
+    for (int i = 2; i < depth; ++i)
+    {
+        path += "/d";
+    }
+    return path + "/x";
+}
+
+} // namespace
 
 void PrintTo(Evil const& evil, std::ostream* out)
 {
@@ -22,6 +67,20 @@ std::vector<Evil> const& EvilArchives()
         {"Backslash", {{"My App.app\\..\\..\\decoy\\x", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
         {"TrailingDot", {{"My App.app/x.", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
         {"NotUtf8", {{"My App.app/\xff\xfe", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
+        {"NotUtf8ThoughItSaysSo", {CalledUtf8({"My App.app/\xff\xfe", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
+        {"OverlongUtf8", {CalledUtf8({"My App.app/\xc0\xae", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
+        {"SurrogateInUtf8", {CalledUtf8({"My App.app/\xed\xa0\x80", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
+        {"CutUtf8", {CalledUtf8({"My App.app/\xe4\xb8", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
+        {"Nul", {{"My App.app/x\0.txt"s, 'f', "evil"}}, UpdateFault::EntryNameInvalid, true, false},
+        {"OtherUnicodeName",
+         {WithOtherUnicodeName({"My App.app/x", 'f', "evil"}, "../decoy/x")},
+         UpdateFault::ContainerAmbiguous,
+         true,
+         false},
+        {"TrailingBlank", {{"My App.app/x ", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
+        {"ControlCharacter", {{"My App.app/x\ny", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
+        {"EmptyComponent", {{"My App.app//x", 'f', "evil"}}, UpdateFault::EntryNameInvalid},
+        {"TooDeep", {{DeepPath(65), 'f', "evil"}}, UpdateFault::EntryTooDeep},
         {"PathOf5000Bytes", {{"My App.app/" + std::string(4989, 'd'), 'f', "evil"}}, UpdateFault::EntryNameTooLong},
         {"LinkAbsolute", {{"My App.app/l", 'l', "/etc/passwd"}}, UpdateFault::LinkEscapes},
         {"LinkOut", {{"My App.app/l", 'l', "../../decoy"}}, UpdateFault::LinkEscapes},
@@ -33,6 +92,21 @@ std::vector<Evil> const& EvilArchives()
          UpdateFault::EntryUnderNoFolder},
         {"LinkToNothing", {{"My App.app/l", 'l', "nothing"}}, UpdateFault::LinkDangles},
         {"LinkLoop", {{"My App.app/l", 'l', "m"}, {"My App.app/m", 'l', "l"}}, UpdateFault::LinkLoops},
+        {"LinkOutThroughALink",
+         {{"My App.app/Resources/up", 'l', ".."}, {"My App.app/l", 'l', "Resources/up/../decoy"}},
+         UpdateFault::LinkEscapes},
+        {"LinkOutAndBackIn", {{"My App.app/l", 'l', "../My App.app/run"}}, UpdateFault::LinkEscapes},
+        {"LinkUnderAFile", {{"My App.app/l", 'l', "run/x"}}, UpdateFault::LinkDangles},
+        {"LinkToItself", {{"My App.app/l", 'l', "l"}}, UpdateFault::LinkLoops},
+        {"LinkLoopThenThrough",
+         {{"My App.app/l", 'l', "m"}, {"My App.app/m", 'l', "l"}, {"My App.app/l/x", 'f', "evil"}},
+         UpdateFault::EntryUnderNoFolder},
+        {"ChainOf40Links", ChainOfLinks(40), UpdateFault::LinkLoops},
+        {"LinkTargetNotUtf8", {{"My App.app/l", 'l', "\xff\xfe"}}, UpdateFault::LinkTargetInvalid},
+        {"LinkTargetNotUtf8ThoughItSaysSo",
+         {CalledUtf8({"My App.app/l", 'l', "\xff\xfe"})},
+         UpdateFault::LinkTargetInvalid},
+        {"LinkTargetWithBackslash", {{"My App.app/l", 'l', "..\\decoy"}}, UpdateFault::LinkTargetInvalid},
         {"HardLink", {{"My App.app/h", 'h', "My App.app/run"}}, UpdateFault::EntryIsHardLink, false},
         {"HardLinkAbsolute", {{"My App.app/h", 'h', "/etc/passwd"}}, UpdateFault::EntryIsHardLink, false},
         {"HardLinkNotYetSeen", {{"My App.app/h", 'h', "My App.app/later"}}, UpdateFault::EntryIsHardLink, false},
@@ -45,6 +119,21 @@ std::vector<Evil> const& EvilArchives()
         {"FolderThenLink", {{"My App.app/Resources", 'l', "run"}}, UpdateFault::EntryDuplicate},
         {"CaseTwin", {{"My App.app/RUN", 'f', "evil"}}, UpdateFault::EntryNameClash},
         {"CaseTwinOfAFolder", {{"My App.app/resources/x", 'f', "evil"}}, UpdateFault::EntryNameClash},
+        {"CaseTwinBeyondAscii",
+         {CalledUtf8({"My App.app/\xc3\x89", 'f', "evil"}), CalledUtf8({"My App.app/\xc3\xa9", 'f', "evil"})},
+         UpdateFault::EntryNameClash},
+        {"ComposedAndDecomposedTwins",
+         {{"My App.app/\xc3\xa9", 'f', "evil"}, {"My App.app/e\xcc\x81", 'f', "evil"}},
+         UpdateFault::EntryNameClash},
+        {"ComposedAndDecomposedTwinsCalledUtf8",
+         {CalledUtf8({"My App.app/e\xcc\x81", 'f', "evil"}), CalledUtf8({"My App.app/\xc3\xa9", 'f', "evil"})},
+         UpdateFault::EntryNameClash},
+        {"ImpliedFolderTwice",
+         {{"My App.app/b/x", 'f', "x"}, {"My App.app/b", 'd', {}}, {"My App.app/b", 'd', {}}},
+         UpdateFault::EntryDuplicate},
+        {"ImpliedFolderThenLink",
+         {{"My App.app/b/x", 'f', "x"}, {"My App.app/b", 'l', "Resources"}},
+         UpdateFault::EntryDuplicate},
         {"SecondBundle", {{"Other.app/run", 'f', "evil"}}, UpdateFault::BundleNotAlone},
         {"FileBeside", {{"README", 'f', "evil"}}, UpdateFault::BundleNotAlone},
     };

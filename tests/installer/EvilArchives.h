@@ -17,6 +17,7 @@ struct Evil
     std::vector<ForgedEntry> entries; ///< after a right bundle
     Engine::UpdateFault fault;
     bool isInZip = true; ///< a zip can say it too
+    bool isInTar = true; ///< a tar can
 };
 
 void PrintTo(Evil const& evil, std::ostream* out);

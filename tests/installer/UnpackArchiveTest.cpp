@@ -91,8 +91,9 @@ std::vector<std::tuple<int, int>> EvilsInContainers()
     std::vector<std::tuple<int, int>> pairs;
     for (int evil = 0; evil < static_cast<int>(EvilArchives().size()); ++evil)
     {
-        for (int container = EvilArchives()[static_cast<std::size_t>(evil)].isInZip ? 0 : 1;
-             container < static_cast<int>(std::size(CONTAINERS)); ++container)
+        Evil const& row = EvilArchives()[static_cast<std::size_t>(evil)];
+        for (int container = row.isInZip ? 0 : 1;
+             container < (row.isInTar ? static_cast<int>(std::size(CONTAINERS)) : 1); ++container)
         {
             pairs.emplace_back(evil, container);
         }
@@ -153,29 +154,105 @@ TEST_P(EveryContainer, FoldersMayBeOnlyImpliedOrComeLast)
 
 TEST_P(EveryContainer, ModesAreMaskedOwnersAreOursTimesStay)
 {
-    std::vector<ForgedEntry> entries = MakeBundle("2.0");
-    entries.push_back({std::string(APP) + "/setuid", 'f', "x", 06777});
-    entries.push_back({std::string(APP) + "/none", 'f', "x", 0});
-    entries.push_back({std::string(APP) + "/open/", 'd', {}, 01777});
-    UnpackScene scene;
-    scene.Unpack(MakeArchive(CONTAINERS[GetParam()], entries));
     struct Row
     {
-        char const* name;
-        mode_t mode;
+        mode_t said;
+        mode_t made;
     };
-    for (Row const& row : {Row{"/setuid", 0755}, Row{"/none", 0644}, Row{"/open", 0755}, Row{"/run", 0755}})
+    std::vector<Row> const files{{04755, 0755}, {02755, 0755}, {01755, 0755}, {06777, 0755},
+                                 {0777, 0755},  {0700, 0755},  {04644, 0644}, {02666, 0644},
+                                 {01644, 0644}, {0666, 0644},  {0611, 0644},  {0000, 0644}};
+    std::vector<mode_t> const folders{0000, 01777, 02777, 04755, 0700, 0777};
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    auto const fileAt = [](std::size_t i) { return std::string(APP) + "/f" + std::to_string(i); };
+    auto const folderAt = [](std::size_t i) { return std::string(APP) + "/d" + std::to_string(i); };
+    for (std::size_t i = 0; i < files.size(); ++i)
+    {
+        entries.push_back({fileAt(i), 'f', "x", files[i].said});
+    }
+    for (std::size_t i = 0; i < folders.size(); ++i)
+    {
+        entries.push_back({folderAt(i) + '/', 'd', {}, folders[i]});
+    }
+    UnpackScene scene;
+    mode_t const mask = ::umask(0);
+    scene.Unpack(MakeArchive(CONTAINERS[GetParam()], entries));
+    ::umask(mask);
+    auto const expectOurs = [&scene](std::string const& name, mode_t mode)
     {
         struct stat status;
-        ASSERT_EQ(::stat((scene.Path(APP) + row.name).c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 07777u, row.mode) << row.name;
-        EXPECT_EQ(status.st_uid, ::geteuid());
+        ASSERT_EQ(::lstat(scene.Path(name).c_str(), &status), 0) << name;
+        EXPECT_EQ(status.st_mode & 07777u, mode) << name;
+        EXPECT_EQ(status.st_uid, ::geteuid()) << name; // a tar's entries are of user and group 1234
+        EXPECT_EQ(status.st_gid, ::getegid()) << name;
+    };
+    for (std::size_t i = 0; i < files.size(); ++i)
+    {
+        expectOurs(fileAt(i), files[i].made);
     }
+    for (std::size_t i = 0; i < folders.size(); ++i)
+    {
+        expectOurs(folderAt(i), 0755);
+    }
+    expectOurs(APP, 0755);
+    expectOurs(std::string(APP) + "/Resources/data", 0777); // a link's own
     if (CONTAINERS[GetParam()] != Container::Zip)
     {
         struct stat status;
         ASSERT_EQ(::stat((scene.Path(APP) + "/run").c_str(), &status), 0);
         EXPECT_EQ(status.st_mtime, 1600000000);
+    }
+}
+
+TEST_P(EveryContainer, LinksWithinTheBundleAreMade)
+{
+    std::string const app = APP;
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    entries.push_back({app + "/Resources/up", 'l', "../run"});
+    entries.push_back({app + "/folder", 'l', "Resources/"});
+    entries.push_back({app + "/through", 'l', "folder/data"});
+    entries.push_back({app + "/Resources/bundle", 'l', ".."});
+    UnpackScene scene;
+    scene.Unpack(MakeArchive(CONTAINERS[GetParam()], entries));
+    std::string const path = scene.Path(APP);
+    for (auto const& [link, target] : {std::pair{"/Resources/up", "../run"}, std::pair{"/folder", "Resources/"},
+                                       std::pair{"/through", "folder/data"}, std::pair{"/Resources/bundle", ".."}})
+    {
+        EXPECT_EQ(std::filesystem::read_symlink(path + link), target);
+    }
+    EXPECT_EQ(std::filesystem::canonical(path + "/Resources/up"), std::filesystem::canonical(path + "/run"));
+    EXPECT_EQ(std::filesystem::file_size(path + "/through"), 3000u);
+}
+
+TEST_P(EveryContainer, NamesAreTheArchivesOwnBytes)
+{
+    std::string const app = APP;
+    std::vector<std::string> const names{"\xc3\xa9-one", "e\xcc\x81-two", "\xe3\x81\x8b\xe3\x82\x99", "\xef\xac\xaa",
+                                         "\xf0\x9f\x98\x80"};
+    for (bool const isCalledUtf8 : {false, true})
+    {
+        std::vector<ForgedEntry> entries = MakeBundle("2.0");
+        for (std::string const& name : names)
+        {
+            entries.push_back({app + '/' + name, 'f', name});
+            entries.push_back({app + "/to " + name, 'l', name, 0777});
+        }
+        entries.push_back({app + "/\xd0\xb9/", 'd', {}, 0755});
+        for (ForgedEntry& entry : entries)
+        {
+            entry.flags = isCalledUtf8 ? 0x800 : 0;
+            entry.isPax = isCalledUtf8;
+        }
+        UnpackScene scene;
+        UnpackedBundle const bundle = scene.Unpack(MakeArchive(CONTAINERS[GetParam()], entries));
+        EXPECT_EQ(DigestTree(scene.Open(APP).Get()), bundle.digest);
+        for (std::string const& name : names)
+        {
+            EXPECT_EQ(std::filesystem::file_size(scene.Path(app + '/' + name)), name.size()) << name;
+            EXPECT_EQ(std::filesystem::read_symlink(scene.Path(app + "/to " + name)), name);
+        }
+        EXPECT_TRUE(std::filesystem::is_directory(scene.Path(app + "/\xd0\xb9")));
+        EXPECT_EQ(scene.Staged(APP).size(), 2 + 2 * names.size() + 1);
     }
 }
 
@@ -206,6 +283,17 @@ TEST(UnpackArchive, DeflatedZipComesOutWhole)
     UnpackedBundle const bundle = scene.Unpack(MakeDeflatedZip(MakeBundle("2.0")));
     EXPECT_EQ(DigestTree(scene.Open(APP).Get()), bundle.digest);
     EXPECT_EQ(std::filesystem::file_size(scene.Path(APP) + "/Resources/data"), 3000u);
+}
+
+TEST(UnpackArchive, ZipThatTellsANameTwiceAlikeComesOut)
+{
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    std::string const name = std::string(APP) + "/\xe3\x81\x8c";
+    entries.push_back({name, 'f', "x"});
+    entries.back().unicodeName = name;
+    UnpackScene scene;
+    scene.Unpack(MakeZip(entries));
+    EXPECT_TRUE(std::filesystem::exists(scene.Path(name)));
 }
 
 TEST(UnpackArchive, OtherContainersAreRefusedWhateverTheirNames)

@@ -1,7 +1,11 @@
 #include "Engine/core/payload/ZipStructure.h"
+
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>
+
+#include <cstdint>
 
 namespace
 {
@@ -12,7 +16,7 @@ using namespace std::string_literals;
 
 UpdateFault Check(std::string const& bytes)
 {
-    return CheckZipStructure(Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size()));
+    return ReadZipStructure(Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())).fault;
 }
 
 struct Row
@@ -104,10 +108,51 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"PatchData", Zip([](ForgedEntry& e) { e.flags = 0x20; }), UpdateFault::ContainerMethodUnknown},
         Row{"NulInName", Zip([](ForgedEntry& e) { e.path = "A.app/y\0z"s; }), UpdateFault::EntryNameInvalid},
         Row{"BackslashInName", Zip([](ForgedEntry& e) { e.path = "A.app\\y"; }), UpdateFault::EntryNameInvalid},
+        Row{"UnicodeNameOfTheSameBytes", Zip([](ForgedEntry& e) { e.unicodeName = e.path; }), UpdateFault::None},
+        Row{"OtherUnicodeName", Zip([](ForgedEntry& e) { e.unicodeName = "A.app/z"; }), AMBIGUOUS},
+        Row{"UnicodeNameOfNothing", Zip([](ForgedEntry& e) { e.unicodeName = ""; }), AMBIGUOUS},
+        Row{"OtherUnicodeNameInLocalHeader",
+            Zip([](ForgedEntry& e) {
+                e.unicodeName = e.path;
+                e.localUnicodeName = "A.app/z";
+            }),
+            AMBIGUOUS},
         Row{"Fifo", Zip([](ForgedEntry& e) { e.type = 'p'; }), UpdateFault::EntryTypeRefused},
         Row{"EmptyName", Zip([](ForgedEntry& e) { e.path = ""; }), UpdateFault::ContainerDamaged},
         Row{"Nothing", "", AMBIGUOUS}, Row{"Text", "this is no archive at all, only text", AMBIGUOUS}),
     [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
+
+/// An end record that tells of \a count entries, behind \a recordBytes of nothing.
+std::string DirectoryOf(std::uint64_t count, std::size_t recordBytes)
+{
+    std::string bytes(recordBytes, '\0');
+    std::string end = MakeZip({}, With([](ZipOptions& o) { o.isZip64 = true; }));
+    for (int i = 0; i < 8; ++i)
+    {
+        auto const index = static_cast<std::size_t>(i);
+        end[24 + index] = end[32 + index] = static_cast<char>(count >> (8 * i));
+        end[40 + index] = static_cast<char>(std::uint64_t{recordBytes} >> (8 * i));
+        end[64 + index] = static_cast<char>(std::uint64_t{recordBytes} >> (8 * i));
+    }
+    return bytes + end;
+}
+
+TEST(ZipStructure, EntriesAreCappedBeforeThereIsMemoryForThem)
+{
+    constexpr std::size_t RECORD_BYTES = 46;
+    std::size_t const limit = ArchiveLimits().maxEntries;
+    EXPECT_EQ(Check(DirectoryOf(limit + 1, (limit + 1) * RECORD_BYTES)), UpdateFault::TooManyEntries);
+    EXPECT_EQ(Check(DirectoryOf(limit, limit * RECORD_BYTES)), UpdateFault::ContainerDamaged); // they are nothing
+    EXPECT_EQ(Check(DirectoryOf(UINT64_MAX, 100)), UpdateFault::ContainerDamaged);
+    EXPECT_EQ(Check(DirectoryOf(UINT64_MAX / RECORD_BYTES, 100)), UpdateFault::ContainerDamaged);
+}
+
+TEST(ZipStructure, NamesAreToldInTheOrderOfTheData)
+{
+    std::string const zip = MakeZip({{"A.app/\xc3\xa9", 'f', "x"}, {"A.app/\xff", 'f', "y"}, {"A.app/b/", 'd', {}}});
+    EXPECT_EQ(ReadZipStructure(Bytes(reinterpret_cast<std::uint8_t const*>(zip.data()), zip.size())).names,
+              (std::vector<std::string>{"A.app/\xc3\xa9", "A.app/\xff", "A.app/b/"}));
+}
 
 TEST(ZipStructure, ZipOfALibraryIsClear)
 {

@@ -1,9 +1,10 @@
 #include "Engine/core/payload/ZipStructure.h"
 
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
+
 #include <algorithm>
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 #include <sys/stat.h>
 
@@ -31,6 +32,8 @@ constexpr std::uint16_t FLAG_MASKED_HEADER = 1u << 13;
 constexpr std::uint16_t METHOD_STORED = 0;
 constexpr std::uint16_t METHOD_DEFLATED = 8;
 constexpr std::uint16_t EXTRA_ZIP64 = 1;
+constexpr std::uint16_t EXTRA_UNICODE_NAME = 0x7075;
+constexpr std::size_t UNICODE_NAME_OFFSET = 5; // behind a version and the checksum of the plain name
 constexpr std::uint16_t IN_EXTRA_16 = 0xffff;
 constexpr std::uint32_t IN_EXTRA_32 = 0xffffffff;
 
@@ -73,9 +76,9 @@ struct Directory
     std::uint64_t size;
 };
 
-/// The body of the 64-bit extra field; nothing when the extra fields do not fill \a extra exactly or it stands twice.
+/// The body of the extra field \a kind; nothing when the extra fields do not fill \a extra exactly or it stands twice.
 /// An empty answer means that there is none.
-std::optional<Bytes> FindZip64(Bytes extra)
+std::optional<Bytes> FindExtra(Bytes extra, std::uint16_t kind)
 {
     Bytes found;
     bool isFound = false;
@@ -86,7 +89,7 @@ std::optional<Bytes> FindZip64(Bytes extra)
             return std::nullopt;
         }
         auto const size = ReadAt<std::uint16_t>(extra, 2);
-        if (ReadAt<std::uint16_t>(extra, 0) == EXTRA_ZIP64)
+        if (ReadAt<std::uint16_t>(extra, 0) == kind)
         {
             if (isFound)
             {
@@ -98,6 +101,14 @@ std::optional<Bytes> FindZip64(Bytes extra)
         extra.remove_prefix(4u + size);
     }
     return found;
+}
+
+/// False when an extra field gives the entry another name: some readers take that one, others do not.
+bool HasOneName(Bytes extra, Bytes name)
+{
+    std::optional<Bytes> const other = FindExtra(extra, EXTRA_UNICODE_NAME);
+    return other &&
+           (other->empty() || (other->size() >= UNICODE_NAME_OFFSET && other->substr(UNICODE_NAME_OFFSET) == name));
 }
 
 /// Replaces \a number by the next one of the 64-bit field when it only says "see there".
@@ -196,7 +207,8 @@ UpdateFault ReadCentral(Bytes& rest, Entry& entry)
         return UpdateFault::ContainerDamaged;
     }
     entry.name = rest.substr(CENTRAL_BYTES, nameBytes);
-    auto extra = FindZip64(rest.substr(CENTRAL_BYTES + nameBytes, extraBytes));
+    Bytes const extras = rest.substr(CENTRAL_BYTES + nameBytes, extraBytes);
+    auto extra = FindExtra(extras, EXTRA_ZIP64);
     // The order of the 64-bit numbers is fixed: plain size, stored size, offset.
     if (!extra || !TakeFromExtra(*extra, entry.sizes.plain) || !TakeFromExtra(*extra, entry.sizes.stored) ||
         !TakeFromExtra(*extra, entry.localOffset))
@@ -208,6 +220,10 @@ UpdateFault ReadCentral(Bytes& rest, Entry& entry)
     if (typeFault != UpdateFault::None)
     {
         return typeFault;
+    }
+    if (!HasOneName(extras, entry.name))
+    {
+        return UpdateFault::ContainerAmbiguous;
     }
     if ((entry.flags & (FLAG_ENCRYPTED | FLAG_STRONG_ENCRYPTION | FLAG_MASKED_HEADER)) != 0)
     {
@@ -267,10 +283,15 @@ UpdateFault CheckLocal(Bytes local, Entry const& entry)
     }
     auto const checksum = ReadAt<std::uint32_t>(local, 14);
     Sizes sizes{ReadAt<std::uint32_t>(local, 18), ReadAt<std::uint32_t>(local, 22)};
-    auto extra = FindZip64(local.substr(LOCAL_BYTES + nameBytes, extraBytes));
+    Bytes const extras = local.substr(LOCAL_BYTES + nameBytes, extraBytes);
+    auto extra = FindExtra(extras, EXTRA_ZIP64);
     if (!extra || !TakeFromExtra(*extra, sizes.plain) || !TakeFromExtra(*extra, sizes.stored))
     {
         return UpdateFault::ContainerDamaged;
+    }
+    if (!HasOneName(extras, entry.name))
+    {
+        return UpdateFault::ContainerAmbiguous;
     }
     Bytes const gap = local.substr(dataOffset + entry.sizes.stored);
     bool const isSame =
@@ -286,39 +307,36 @@ UpdateFault CheckLocal(Bytes local, Entry const& entry)
     return isClear ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-} // namespace
-
-UpdateFault CheckZipStructure(Bytes archive)
+/// Reads every central record of \a records into \a entries.
+UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& entries)
 {
-    Directory directory;
-    if (UpdateFault const fault = ReadDirectory(archive, directory); fault != UpdateFault::None)
-    {
-        return fault;
-    }
-    Bytes rest = archive.substr(directory.offset, directory.size);
-    if (directory.count > rest.size() / CENTRAL_BYTES)
+    if (count > records.size() / CENTRAL_BYTES)
     {
         return UpdateFault::ContainerDamaged;
     }
-    std::vector<Entry> entries(directory.count);
+    if (count > ArchiveLimits().maxEntries)
+    {
+        return UpdateFault::TooManyEntries; // before there is memory for them
+    }
+    entries.resize(count);
     for (Entry& entry : entries)
     {
-        if (UpdateFault const fault = ReadCentral(rest, entry); fault != UpdateFault::None)
+        if (UpdateFault const fault = ReadCentral(records, entry); fault != UpdateFault::None)
         {
             return fault;
         }
     }
-    if (!rest.empty())
-    {
-        return UpdateFault::ContainerAmbiguous;
-    }
-    std::sort(entries.begin(), entries.end(),
-              [](Entry const& a, Entry const& b) { return a.localOffset < b.localOffset; });
+    return records.empty() ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
+}
+
+/// Checks that the local entries fill everything up to \a directoryOffset. \a entries: in the order of their data.
+UpdateFault CheckLocals(Bytes archive, std::uint64_t directoryOffset, std::vector<Entry> const& entries)
+{
     std::uint64_t expected = 0;
     for (std::size_t i = 0; i < entries.size(); ++i)
     {
-        std::uint64_t const end = i + 1 < entries.size() ? entries[i + 1].localOffset : directory.offset;
-        if (entries[i].localOffset != expected || end <= expected || end > directory.offset)
+        std::uint64_t const end = i + 1 < entries.size() ? entries[i + 1].localOffset : directoryOffset;
+        if (entries[i].localOffset != expected || end <= expected || end > directoryOffset)
         {
             return UpdateFault::ContainerAmbiguous;
         }
@@ -329,7 +347,36 @@ UpdateFault CheckZipStructure(Bytes archive)
         }
         expected = end;
     }
-    return expected == directory.offset ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
+    return expected == directoryOffset ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
+}
+
+} // namespace
+
+ZipContents ReadZipStructure(Bytes archive)
+{
+    ZipContents contents;
+    Directory directory;
+    std::vector<Entry> entries;
+    contents.fault = ReadDirectory(archive, directory);
+    if (contents.fault == UpdateFault::None)
+    {
+        contents.fault = ReadEntries(archive.substr(directory.offset, directory.size), directory.count, entries);
+    }
+    if (contents.fault != UpdateFault::None)
+    {
+        return contents;
+    }
+    std::sort(entries.begin(), entries.end(),
+              [](Entry const& a, Entry const& b) { return a.localOffset < b.localOffset; });
+    contents.fault = CheckLocals(archive, directory.offset, entries);
+    if (contents.fault == UpdateFault::None)
+    {
+        for (Entry const& entry : entries)
+        {
+            contents.names.emplace_back(entry.name.begin(), entry.name.end());
+        }
+    }
+    return contents;
 }
 
 } // namespace Pelnar::Engine

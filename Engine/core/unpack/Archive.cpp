@@ -1,14 +1,16 @@
 #include "Engine/core/unpack/Archive.h"
 
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/ZipStructure.h"
 
 #include <archive.h>
 #include <archive_entry.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <clocale>
 #include <cstdio>
-#include <cstring>
+#include <iterator>
+#include <string_view>
 
 #include <locale.h>
 #include <sys/stat.h>
@@ -44,26 +46,98 @@ std::string TextOf(char const* text)
     return text ? text : "";
 }
 
-/// Names in archives are UTF-8, whatever the user's locale is.
-class Utf8Scope
+bool IsAscii(std::string_view text)
+{
+    return std::all_of(text.begin(), text.end(),
+                       [](char character) { return static_cast<unsigned char>(character) < 0x80; });
+}
+
+/// The library turns names of which the archive says that they are UTF-8 into the locale's own, and composes them on
+/// the way. In the locale "C", which needs no file, it cannot: it says so, and leaves the bytes as they are.
+class PlainLocale
 {
 public:
-    Utf8Scope() : m_locale(::newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)), m_previous(::uselocale(m_locale)) {}
-    ~Utf8Scope()
+    PlainLocale() : m_locale(::newlocale(LC_ALL_MASK, "C", nullptr)), m_previous(::uselocale(m_locale))
     {
-        ::uselocale(m_previous);
-        if (m_locale)
+        if (!m_locale)
         {
-            ::freelocale(m_locale);
+            throw std::bad_alloc();
         }
     }
-    Utf8Scope(Utf8Scope const&) = delete;
-    Utf8Scope& operator=(Utf8Scope const&) = delete;
+    ~PlainLocale()
+    {
+        ::uselocale(m_previous);
+        ::freelocale(m_locale);
+    }
+    PlainLocale(PlainLocale const&) = delete;
+    PlainLocale& operator=(PlainLocale const&) = delete;
 
 private:
     locale_t m_locale;
     locale_t m_previous;
 };
+
+/// True when the library may only have complained of a name that it could not convert.
+bool HasForeignText(archive_entry* entry)
+{
+    char const* const texts[] = {archive_entry_pathname(entry), archive_entry_symlink(entry),
+                                 archive_entry_hardlink(entry), archive_entry_uname(entry), archive_entry_gname(entry)};
+    return std::any_of(std::begin(texts), std::end(texts), [](char const* text) { return text && !IsAscii(text); });
+}
+
+ContainerKind DetectContainer(int descriptor)
+{
+    struct Mark
+    {
+        std::string_view bytes;
+        ContainerKind kind;
+    };
+    using namespace std::string_view_literals;
+    constexpr Mark MARKS[] = {
+        {"PK\3\4"sv, ContainerKind::Zip},
+        {"\x1f\x8b"sv, ContainerKind::TarGzip},
+        {"BZh"sv, ContainerKind::TarBzip2},
+        {"\xfd"
+         "7zXZ\0"sv,
+         ContainerKind::TarXz},
+        {"\x28\xb5\x2f\xfd"sv, ContainerKind::TarZstandard},
+    };
+    char bytes[8] = {};
+    ssize_t const count = Engine::ReadUpTo(descriptor, 0, bytes, sizeof bytes);
+    if (count < 0)
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+    }
+    std::string_view const front(bytes, static_cast<std::size_t>(count));
+    for (Mark const& mark : MARKS)
+    {
+        if (front.substr(0, mark.bytes.size()) == mark.bytes)
+        {
+            return mark.kind;
+        }
+    }
+    throw UpdateRefusal(UpdateFault::ContainerUnknown);
+}
+
+std::vector<std::string> ReadZipNames(int descriptor)
+{
+    struct stat status;
+    if (::fstat(descriptor, &status) != 0)
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+    }
+    FileMapping const mapping(descriptor, static_cast<std::size_t>(status.st_size));
+    if (!mapping.IsValid())
+    {
+        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+    }
+    ZipContents contents = ReadZipStructure(mapping.Content());
+    if (contents.fault != UpdateFault::None)
+    {
+        throw UpdateRefusal(contents.fault);
+    }
+    return std::move(contents.names);
+}
 
 } // namespace
 
@@ -141,49 +215,27 @@ struct Archive::Reader
     Reader(Reader const&) = delete;
     Reader& operator=(Reader const&) = delete;
 
-    Utf8Scope names;
     archive* handle;
 };
 
-ContainerKind DetectContainer(int descriptor)
+ArchiveContainer InspectContainer(int descriptor)
 {
-    struct Mark
+    ArchiveContainer container;
+    container.kind = DetectContainer(descriptor);
+    if (container.kind == ContainerKind::Zip)
     {
-        std::string_view bytes;
-        ContainerKind kind;
-    };
-    using namespace std::string_view_literals;
-    constexpr Mark MARKS[] = {
-        {"PK\3\4"sv, ContainerKind::Zip},
-        {"\x1f\x8b"sv, ContainerKind::TarGzip},
-        {"BZh"sv, ContainerKind::TarBzip2},
-        {"\xfd"
-         "7zXZ\0"sv,
-         ContainerKind::TarXz},
-        {"\x28\xb5\x2f\xfd"sv, ContainerKind::TarZstandard},
-    };
-    char bytes[8] = {};
-    ssize_t const count = Engine::ReadUpTo(descriptor, 0, bytes, sizeof bytes);
-    if (count < 0)
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
+        container.names = ReadZipNames(descriptor);
     }
-    std::string_view const front(bytes, static_cast<std::size_t>(count));
-    for (Mark const& mark : MARKS)
-    {
-        if (front.substr(0, mark.bytes.size()) == mark.bytes)
-        {
-            return mark.kind;
-        }
-    }
-    throw UpdateRefusal(UpdateFault::ContainerUnknown);
+    return container;
 }
 
-Archive::Archive(int descriptor) : m_source(std::make_unique<Source>(descriptor)), m_reader(std::make_unique<Reader>())
+Archive::Archive(int descriptor, ArchiveContainer const& container)
+    : m_container(container), m_source(std::make_unique<Source>(descriptor)), m_reader(std::make_unique<Reader>())
 {
+    PlainLocale const locale;
     archive* const handle = m_reader->handle;
     int filter = ARCHIVE_FILTER_NONE;
-    switch (DetectContainer(descriptor))
+    switch (container.kind)
     {
     case ContainerKind::Zip:
         archive_read_support_format_zip_seekable(handle);
@@ -215,24 +267,36 @@ Archive::Archive(int descriptor) : m_source(std::make_unique<Source>(descriptor)
              archive_read_set_callback_data(handle, m_source.get()) == ARCHIVE_OK;
     if (!isGood || archive_read_open1(handle) != ARCHIVE_OK)
     {
-        throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,
-                            m_source->readError);
+        ThrowReadFault();
     }
 }
 
 Archive::~Archive() = default;
 
+void Archive::ThrowReadFault() const
+{
+    throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,
+                        m_source->readError);
+}
+
 std::optional<ArchiveEntry> Archive::Next()
 {
+    PlainLocale const locale;
+    bool const isZip = m_container.kind == ContainerKind::Zip;
     int const result = archive_read_next_header(m_reader->handle, &m_entry);
     if (result == ARCHIVE_EOF)
     {
+        if (isZip && m_entries != m_container.names.size())
+        {
+            throw UpdateRefusal(UpdateFault::ContainerAmbiguous);
+        }
         return std::nullopt;
     }
-    if (result != ARCHIVE_OK)
+    bool const mayBeNamesOnly = result == ARCHIVE_WARN && !m_source->readError &&
+                                (HasForeignText(m_entry) || (isZip && !archive_entry_pathname(m_entry)));
+    if (result != ARCHIVE_OK && !mayBeNamesOnly)
     {
-        throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,
-                            m_source->readError);
+        ThrowReadFault();
     }
     ArchiveEntry entry;
     entry.path = TextOf(archive_entry_pathname(m_entry));
@@ -243,7 +307,33 @@ std::optional<ArchiveEntry> Archive::Next()
     entry.isSizeKnown = archive_entry_size_is_set(m_entry) != 0 && size >= 0;
     entry.size = entry.isSizeKnown ? static_cast<std::uint64_t>(size) : 0;
     entry.isSparse = archive_entry_sparse_count(m_entry) > 0;
+    if (isZip)
+    {
+        TakeNameOfZipEntry(entry);
+    }
     return entry;
+}
+
+/// The library drops a name that it cannot convert, and with it the slash by which an entry without a mode is a folder.
+void Archive::TakeNameOfZipEntry(ArchiveEntry& entry)
+{
+    if (m_entries == m_container.names.size())
+    {
+        throw UpdateRefusal(UpdateFault::ContainerAmbiguous);
+    }
+    std::string const& name = m_container.names[m_entries++];
+    bool const isSame =
+        entry.path.empty() ? !IsAscii(name)
+                           : entry.path == name || (entry.type == ArchiveEntryType::Folder && entry.path == name + '/');
+    if (!isSame)
+    {
+        throw UpdateRefusal(UpdateFault::ContainerAmbiguous);
+    }
+    entry.path = name;
+    if (name.back() == '/')
+    {
+        entry.type = ArchiveEntryType::Folder;
+    }
 }
 
 std::optional<timespec> Archive::ModificationTime() const
@@ -269,8 +359,7 @@ void Archive::ReadContents(std::uint64_t size, std::function<void(Bytes)> const&
         int const result = archive_read_data_block(m_reader->handle, &data, &count, &offset);
         if (result != ARCHIVE_OK && result != ARCHIVE_EOF)
         {
-            throw UpdateRefusal(m_source->readError ? UpdateFault::ArchiveUnreadable : UpdateFault::ContainerDamaged,
-                                m_source->readError);
+            ThrowReadFault();
         }
         bool const isNext = count == 0 || (offset >= 0 && static_cast<std::uint64_t>(offset) == done);
         if (!isNext || count > size - done)

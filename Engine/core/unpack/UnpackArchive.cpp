@@ -2,7 +2,6 @@
 
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/payload/ZipStructure.h"
 #include "Engine/core/unpack/Archive.h"
 
 #include <cerrno>
@@ -37,25 +36,11 @@ std::uint64_t SizeOf(int descriptor)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-void CheckStructure(int archiveFd)
-{
-    if (DetectContainer(archiveFd) != ContainerKind::Zip)
-    {
-        return;
-    }
-    FileMapping const mapping(archiveFd, SizeOf(archiveFd));
-    if (!mapping.IsValid())
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
-    }
-    RefuseUnlessNone(CheckZipStructure(mapping.Content()));
-}
-
 /// The first pass: how many bytes there will be.
-std::uint64_t JudgeEntries(int archiveFd)
+std::uint64_t JudgeEntries(int archiveFd, ArchiveContainer const& container)
 {
     ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
-    Archive archive(archiveFd);
+    Archive archive(archiveFd, container);
     std::uint64_t total = 0;
     while (auto const entry = archive.Next())
     {
@@ -182,13 +167,13 @@ private:
 
 UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const& progress)
 {
-    CheckStructure(archiveFd);
-    std::uint64_t const total = JudgeEntries(archiveFd);
+    ArchiveContainer const container = InspectContainer(archiveFd);
+    std::uint64_t const total = JudgeEntries(archiveFd, container);
     progress(0, total);
 
     // Judged again as it is read again: nothing is taken over from the first pass but that there was one.
     ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
-    Archive archive(archiveFd);
+    Archive archive(archiveFd, container);
     BundleWriter writer(stagingFd, total, progress);
     while (auto const entry = archive.Next())
     {

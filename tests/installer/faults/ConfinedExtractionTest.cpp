@@ -34,7 +34,7 @@ std::string ArchiveOf(Evil const& evil)
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
     entries.insert(entries.end(), evil.entries.begin(), evil.entries.end());
-    return MakeArchive(Container::TarGzip, entries);
+    return MakeArchive(evil.isInTar ? Container::TarGzip : Container::Zip, entries);
 }
 
 /// Extracts every entry as it says, in the working folder.
@@ -42,6 +42,7 @@ void ExtractWithoutRules(std::string const& bytes)
 {
     archive* const reader = archive_read_new();
     archive_read_support_format_tar(reader);
+    archive_read_support_format_zip(reader);
     archive_read_support_filter_gzip(reader);
     archive_read_open_memory(reader, bytes.data(), bytes.size());
     archive_entry* entry = nullptr;
@@ -76,18 +77,29 @@ TEST_P(EvilArchive, ExtractedWithoutRulesStaysInTheConfinement)
     EXPECT_FALSE(std::filesystem::exists("/tmp/pelnar-evil"));
 }
 
-TEST_P(EvilArchive, IsRefusedByTheHelperOnAKernelThatCannotConfine)
+void ExpectRefusedByTheHelper(Evil const& evil, HelperStart const& start)
 {
     Versions const versions;
-    UpdateScene scene(ArchiveOf(GetParam()));
+    UpdateScene scene(ArchiveOf(evil));
+    HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), start);
+    EXPECT_EQ(outcome.exitStatus, 1);
+    EXPECT_EQ(outcome.Fault(), evil.fault);
+    EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+    EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty());
+    ExpectRecovered(scene, versions);
+}
+
+TEST_P(EvilArchive, IsRefusedByTheHelper)
+{
+    ExpectRefusedByTheHelper(GetParam(), {});
+}
+
+TEST_P(EvilArchive, IsRefusedByTheHelperOnAKernelThatCannotConfine)
+{
     HelperStart start;
     start.atEveryCall = [](CallStop const& stop)
     { return stop.call == SYS_landlock_create_ruleset ? CallVerdict::Fail(ENOSYS) : CallVerdict::GoOn(); };
-    HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), start);
-    EXPECT_EQ(outcome.exitStatus, 1);
-    EXPECT_EQ(outcome.Fault(), GetParam().fault);
-    EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty());
-    ExpectRecovered(scene, versions);
+    ExpectRefusedByTheHelper(GetParam(), start);
 }
 
 TEST(Confinement, IsNeededWhereTheKernelHasIt)

@@ -1,0 +1,38 @@
+// Packers.h: the programs of this machine that pack folders, each as publishers call it.
+// Thread: one. Ownership: values only.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Testing
+{
+
+enum class PackedLongNames
+{
+    Kept,
+    Impossible, ///< the format has no place for them
+};
+
+struct Packer
+{
+    char const* name;
+    char const* program; ///< that must be installed
+    char const* script;  ///< for a shell in the folder that holds "$1": packs it into "$2"
+    bool isZip = false;
+    PackedLongNames longNames = PackedLongNames::Kept;
+};
+
+std::vector<Packer> const& Packers();
+[[nodiscard]] bool IsInstalled(std::string const& program);
+
+/// The archive that \a packer makes of the folder \a name in \a parent, with these variables and a search path, and no
+/// others. Empty when it makes none.
+std::string Pack(Packer const& packer, std::string const& parent, std::string const& name,
+                 std::vector<std::string> const& variables);
+
+/// Variables under which programs find the locale ja_JP.eucJP, made once for this process; nothing where the system has
+/// no sources of locales.
+std::vector<std::string> JapaneseVariables();
+
+} // namespace Pelnar::Testing

@@ -38,6 +38,13 @@ void CheckRecord(std::string_view bytes)
     }
     FoundFile const file{record->declaredBytes, record->fileNumber, record->systemStart};
     Require(TrustedBytes(*record, file, record->url, record->declaredBytes) <= record->declaredBytes);
+    // What may be asked for never leads beyond the budget.
+    DownloadSpending const budget = BudgetOf(record->declaredBytes);
+    if (!JudgeSpending(record->spent, record->declaredBytes, record->declaredBytes))
+    {
+        Require(record->spent.receivedBytes <= budget.receivedBytes - record->declaredBytes);
+        Require(record->spent.attempts < budget.attempts && record->spent.seconds < budget.seconds);
+    }
 }
 
 bool HasOnly(HttpHead const& head, QByteArray const& name, QByteArray const& value)

@@ -234,6 +234,22 @@
         <translation>أرسل خادم التحديثات جزءًا من التحديث غير الجزء المطلوب. أعد المحاولة لاحقًا.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>أرسل خادم التحديثات ضعف حجم التحديث، لكنه لم يرسل التحديث كاملًا قط. حاول مرة أخرى لاحقًا.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>انقطع الاتصال بخادم التحديثات مرات كثيرة جدًا. حاول مرة أخرى لاحقًا.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>استغرق تنزيل التحديث وقتًا طويلًا جدًا فأُوقف. حاول مرة أخرى باتصال أسرع.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>لم يكتمل تنزيل التحديث بعد. سيواصل الفحص التالي التنزيل.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>توجد نسخة أخرى من التطبيق تنزّل هذا التحديث. انتظر حتى تنتهي.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>Der Update-Server hat einen anderen Teil des Updates gesendet als verlangt. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>Der Update-Server hat die doppelte Größe des Updates gesendet, aber nie das ganze Update. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>Die Verbindung zum Update-Server ist zu oft abgebrochen. Versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Das Herunterladen des Updates hat zu lange gedauert und wurde beendet. Versuchen Sie es mit einer schnelleren Verbindung noch einmal.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>Das Update ist noch nicht vollständig heruntergeladen. Die nächste Suche setzt den Download fort.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Eine andere Instanz der Anwendung lädt dieses Update gerade. Warten Sie, bis sie fertig ist.</translation>
     </message>

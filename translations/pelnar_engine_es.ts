@@ -234,6 +234,22 @@
         <translation>El servidor de actualizaciones envió una parte de la actualización distinta de la que se pidió: inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>El servidor de actualizaciones envió el doble del tamaño de la actualización, pero nunca la actualización completa. Inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>La conexión con el servidor de actualizaciones se interrumpió demasiadas veces. Inténtelo más tarde.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>La descarga de la actualización tardó demasiado y se detuvo. Inténtelo de nuevo con una conexión más rápida.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>La actualización aún no se ha descargado por completo. La próxima comprobación continuará la descarga.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Otra copia de la aplicación está descargando esta actualización: espere a que termine.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>Le serveur de mises à jour a envoyé une autre partie de la mise à jour que celle demandée&#xa0;: réessayez plus tard.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>Le serveur de mises à jour a envoyé deux fois la taille de la mise à jour, mais jamais la mise à jour entière. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>La connexion au serveur de mises à jour s'est interrompue trop souvent. Réessayez plus tard.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Le téléchargement de la mise à jour a duré trop longtemps et a été arrêté. Réessayez avec une connexion plus rapide.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>La mise à jour n'est pas encore entièrement téléchargée. La prochaine vérification poursuivra le téléchargement.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Une autre instance de l’application télécharge cette mise à jour&#xa0;: attendez qu’elle ait terminé.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>שרת העדכונים שלח חלק אחר של העדכון מזה שהתבקש. יש לנסות שוב מאוחר יותר.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>שרת העדכונים שלח כמות כפולה מגודל העדכון, אך מעולם לא את העדכון השלם. נסו שוב מאוחר יותר.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>החיבור לשרת העדכונים נותק פעמים רבות מדי. נסו שוב מאוחר יותר.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>הורדת העדכון נמשכה זמן רב מדי והופסקה. נסו שוב בחיבור מהיר יותר.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>העדכון עדיין לא הורד במלואו. הבדיקה הבאה תמשיך את ההורדה.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>עותק אחר של היישום מוריד את העדכון הזה. יש להמתין עד שיסיים.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>Il server degli aggiornamenti ha inviato una parte dell’aggiornamento diversa da quella richiesta: riprovare più tardi.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>Il server degli aggiornamenti ha inviato il doppio della dimensione dell'aggiornamento, ma mai l'aggiornamento completo. Riprovi più tardi.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>La connessione al server degli aggiornamenti si è interrotta troppe volte. Riprovi più tardi.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Il download dell'aggiornamento ha richiesto troppo tempo ed è stato interrotto. Riprovi con una connessione più veloce.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>L'aggiornamento non è ancora stato scaricato completamente. Il prossimo controllo continuerà il download.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Un’altra copia dell’applicazione sta scaricando questo aggiornamento: attendere che finisca.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>アップデートサーバーが要求と異なる部分を送信しました。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>アップデートサーバーはアップデートの2倍の量を送信しましたが、全体は一度も届きませんでした。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>アップデートサーバーとの接続が何度も切れました。後でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>アップデートのダウンロードに時間がかかりすぎたため、中止しました。より高速な接続でもう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>アップデートのダウンロードはまだ完了していません。次回の確認時に続きをダウンロードします。</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>アプリケーションの別のコピーがこのアップデートをダウンロードしています。完了するまでお待ちください。</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>De updateserver heeft een ander deel van de update verzonden dan gevraagd: probeer het later opnieuw.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>De updateserver heeft tweemaal de grootte van de update gestuurd, maar nooit de hele update. Probeer het later opnieuw.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>De verbinding met de updateserver is te vaak verbroken. Probeer het later opnieuw.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Het downloaden van de update duurde te lang en is gestopt. Probeer het opnieuw met een snellere verbinding.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>De update is nog niet volledig gedownload. De volgende controle gaat verder met downloaden.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Een ander exemplaar van de app downloadt deze update: wacht tot het klaar is.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>Serwer aktualizacji przysłał inną część aktualizacji, niż proszono. Spróbuj ponownie później.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>Serwer aktualizacji wysłał dwukrotność rozmiaru aktualizacji, ale nigdy całej aktualizacji. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>Połączenie z serwerem aktualizacji zostało przerwane zbyt wiele razy. Spróbuj ponownie później.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Pobieranie aktualizacji trwało zbyt długo i zostało zatrzymane. Spróbuj ponownie przez szybsze łącze.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>Aktualizacja nie została jeszcze w całości pobrana. Następne sprawdzenie będzie kontynuować pobieranie.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Inna kopia aplikacji pobiera tę aktualizację. Poczekaj, aż skończy.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>O servidor de atualizações enviou uma parte da atualização diferente da que foi pedida: tente novamente mais tarde.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>O servidor de atualizações enviou o dobro do tamanho da atualização, mas nunca a atualização inteira. Tente novamente mais tarde.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>A conexão com o servidor de atualizações caiu vezes demais. Tente novamente mais tarde.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>O download da atualização demorou demais e foi interrompido. Tente novamente com uma conexão mais rápida.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>A atualização ainda não foi baixada por completo. A próxima verificação continuará o download.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Outra cópia do aplicativo está baixando esta atualização: espere até que ela termine.</translation>
     </message>

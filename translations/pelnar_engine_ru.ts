@@ -234,6 +234,22 @@
         <translation>Сервер обновлений прислал не ту часть обновления, которая запрашивалась. Повторите попытку позже.</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>Сервер обновлений отправил вдвое больше данных, чем занимает обновление, но так и не отправил его целиком. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>Соединение с сервером обновлений прерывалось слишком часто. Повторите попытку позже.</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>Загрузка обновления длилась слишком долго и была остановлена. Повторите попытку при более быстром соединении.</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>Обновление ещё не загружено полностью. Следующая проверка продолжит загрузку.</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>Другая копия программы загружает это обновление. Дождитесь окончания.</translation>
     </message>

@@ -234,6 +234,22 @@
         <translation>更新服务器发送的不是所请求的那部分更新。请稍后再试。</translation>
     </message>
     <message>
+        <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
+        <translation>更新服务器发送的数据量已达更新大小的两倍，但始终没有发送完整的更新。请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The connection to the update server broke too many times. Try again later.</source>
+        <translation>与更新服务器的连接中断次数过多。请稍后重试。</translation>
+    </message>
+    <message>
+        <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
+        <translation>更新的下载耗时过长，已停止。请使用更快的连接重试。</translation>
+    </message>
+    <message>
+        <source>The update is not downloaded completely yet. The next check continues the download.</source>
+        <translation>更新尚未下载完成。下次检查时将继续下载。</translation>
+    </message>
+    <message>
         <source>Another copy of the application is downloading this update: wait until it has finished.</source>
         <translation>应用程序的另一个副本正在下载此更新。请等待其完成。</translation>
     </message>

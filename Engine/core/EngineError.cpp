@@ -249,6 +249,21 @@ char const* SentenceOf(ErrorCause cause)
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
             "The update server sent another part of the update than was asked for: try again later.");
+    case ErrorCause::DownloadTooMuch:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update server sent twice the size of the update, but never the whole update. Try again later.");
+    case ErrorCause::DownloadTooOften:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The connection to the update server broke too many times. Try again later.");
+    case ErrorCause::DownloadTooLong:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The download of the update took too long and was stopped. Try again on a faster connection.");
+    case ErrorCause::DownloadPaused:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The update is not downloaded completely yet. The next check continues the download.");
     case ErrorCause::DownloadBusy:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",

@@ -137,6 +137,10 @@ enum class ErrorCause
     DownloadLengthInvalid = 900,
     DownloadLengthDiffers = 901,
     DownloadRangeWrong = 902,
+    DownloadTooMuch = 903,
+    DownloadTooOften = 904,
+    DownloadTooLong = 905,
+    DownloadPaused = 906, ///< goes on at the next check
     DownloadBusy = 910,
     DownloadFolderUnusable = 911,
     DownloadFolderUnsafe = 912,

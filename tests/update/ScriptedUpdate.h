@@ -126,6 +126,7 @@ public:
                     std::function<void(Engine::OpenedTarget)> opened) override;
     std::unique_ptr<Engine::IDownload> MakeDownload(Engine::DownloadRequest const& request) override;
     void DiscardDownload(Engine::DownloadRequest const& request) override;
+    void ClearDownloads(QString const& folder) override { cleared.push_back(folder); }
     std::unique_ptr<Engine::IHelper> MakeHelper() override;
     void DiscardUpdate(std::unique_ptr<Engine::PreparedUpdate> update) override { update.reset(); }
     QDateTime Now() override { return now; }
@@ -146,6 +147,7 @@ public:
     bool isHelperMissing = false;
     quint64 neededBytes = 0;
     std::vector<Engine::DownloadRequest> requests;
+    QStringList cleared; ///< folders
     std::vector<Engine::UpdateJob> jobs;
     QDateTime now = QDateTime::fromSecsSinceEpoch(1000000, Qt::UTC);
 

@@ -162,9 +162,33 @@ TEST_F(UpdateFlowTest, DeltaAndItsWholeItemBothReachTheUpdate)
     Begin(CheckKind::Background);
     ASSERT_TRUE(WaitForDownload());
     EXPECT_EQ(parts.requests[0].declaredBytes, 100u);
+    EXPECT_EQ(parts.requests[0].purpose, DownloadFor::Nobody);
     parts.FailDownload(ErrorCause::HttpStatus);
     ASSERT_EQ(parts.requests.size(), 2u);
     EXPECT_EQ(parts.requests[1].declaredBytes, 1000u);
+}
+
+TEST_F(UpdateFlowTest, DownloadsAreClearedWhenNoneIsWantedAndNotWhenOneIsPutOff)
+{
+    QStringList const once(settings.downloadFolder);
+    Publish(FeedWith(ItemOf("5.0")));
+    Run(CheckKind::Background);
+    EXPECT_EQ(parts.cleared, once) << "not newer";
+    Publish(FeedWith(""));
+    host.AnswerWith({{BestItemAnswer::Kind::None, {}}});
+    Run(CheckKind::Probe);
+    EXPECT_EQ(parts.cleared, once + once) << "nothing at all";
+    Publish(FeedWith(Signed(ItemOf("5.1"))));
+    settings.check.skippedVersion = QStringLiteral("5.1");
+    Run(CheckKind::Probe);
+    settings.check.skippedVersion.clear();
+    settings.check.failedVersion = QStringLiteral("5.1");
+    Run(CheckKind::Probe);
+    settings.check.failedVersion.clear();
+    Run(CheckKind::Probe);
+    Publish("<rss>");
+    Run(CheckKind::Probe);
+    EXPECT_EQ(parts.cleared, once + once) << "skipped, failed, offered, unreadable";
 }
 
 struct Second

@@ -94,6 +94,7 @@ TEST_F(UpdateRunTest, JobsSayWhatTheItemAndTheBundleSay)
     EXPECT_EQ(parts.requests[0].declaredBytes, 1000u);
     EXPECT_EQ(parts.requests[0].signature, QString::fromLatin1(GOOD_SIGNATURE));
     EXPECT_EQ(parts.requests[0].folder, settings.downloadFolder);
+    EXPECT_EQ(parts.requests[0].purpose, DownloadFor::Person);
     PrepareUpdate();
     windows.Choose(ReadyChoice::InstallAndRelaunch);
     ASSERT_EQ(parts.jobs.size(), 2u);

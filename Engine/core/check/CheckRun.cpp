@@ -177,6 +177,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
                                             order);
     LOG_IF(INFO, verdict != OfferVerdict::Offered)
         << "Update " << EscapedRemoteText(At(answer.place).versionString).toStdString() << " is " << NameOf(verdict);
+    m_hasPutOff = verdict == OfferVerdict::Skipped || verdict == OfferVerdict::Failed;
     if (verdict != OfferVerdict::Offered)
     {
         return std::nullopt;

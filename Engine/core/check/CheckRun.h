@@ -96,6 +96,9 @@ public:
     /// In place of Start: the check ends with \a error, and nothing is fetched.
     void Refuse(EngineError const& error);
 
+    /// Whether there is an update that is not offered for now: a skipped one, or one that did not start well.
+    [[nodiscard]] bool HasPutOff() const { return m_hasPutOff; }
+
 private:
     void TakeFeed(FetchOutcome const& outcome);
     /// The items of what was fetched become the run's, or an error says why not.
@@ -113,6 +116,7 @@ private:
     std::function<QDateTime()> m_now;
     FeedFetcher m_fetcher;
     std::vector<FeedItem> m_items;
+    bool m_hasPutOff = false;
 };
 
 } // namespace Pelnar::Engine

@@ -4,6 +4,7 @@
 #include "Engine/core/download/TransferRate.h"
 #include "Engine/core/fetch/HttpConnection.h"
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
@@ -59,7 +60,11 @@ public:
         m_resumeTimer.setSingleShot(true);
         m_progressTimer.setTimerType(Qt::CoarseTimer);
         connect(&m_resumeTimer, &QTimer::timeout, this, &Impl::Ask);
-        connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(); });
+        connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(Spent()); });
+        connect(&m_turnTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadPaused); });
+        connect(&m_budgetTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadTooLong); });
+        m_turnTimer.setSingleShot(true);
+        m_budgetTimer.setSingleShot(true);
         connect(&m_progressTimer, &QTimer::timeout, this, &Impl::TellProgress);
     }
 
@@ -87,7 +92,8 @@ private:
             return;
         }
         ArchiveWriterEvents events;
-        events.opened = [this](PartialArchive const& found) { TakeOpened(found); };
+        events.opened = [this](PartialArchive const& found, DownloadSpending const& spent)
+        { TakeOpened(found, spent); };
         events.roomMade = [this]
         {
             if (m_connection)
@@ -101,22 +107,56 @@ private:
         m_writer->Open();
     }
 
-    void TakeOpened(PartialArchive const& found)
+    void TakeOpened(PartialArchive const& found, DownloadSpending const& spent)
     {
         m_partial = found;
-        m_checkpointTimer.start(CHECKPOINT_INTERVAL);
-        m_progressTimer.start(PROGRESS_INTERVAL);
+        m_spent = spent;
         if (m_partial.bytes == m_partial.declaredBytes)
         {
             m_writer->Finish();
             return;
         }
+        if (m_request.purpose == DownloadFor::Person && JudgeSpending(m_spent, m_partial.declaredBytes, Missing()))
+        {
+            m_spent = {m_partial.bytes, 0, 0};
+        }
+        StartTimers();
         Ask();
+    }
+
+    void StartTimers()
+    {
+        m_clock.start();
+        m_checkpointTimer.start(CHECKPOINT_INTERVAL);
+        m_progressTimer.start(PROGRESS_INTERVAL);
+        if (m_request.purpose == DownloadFor::Nobody)
+        {
+            m_turnTimer.start(m_request.unwatchedTurn);
+        }
+        std::uint64_t const seconds = BudgetOf(m_partial.declaredBytes).seconds;
+        m_budgetTimer.start(std::chrono::seconds(seconds - std::min(seconds, m_spent.seconds)));
+    }
+
+    quint64 Missing() const { return m_partial.declaredBytes - m_partial.bytes; }
+
+    /// With the time of this run.
+    DownloadSpending Spent() const
+    {
+        DownloadSpending spent = m_spent;
+        spent.seconds += (static_cast<std::uint64_t>(m_clock.elapsed()) + 999) / 1000; // one that has begun counts
+        return spent;
     }
 
     /// Asks for what is missing.
     void Ask()
     {
+        if (std::optional<ErrorCause> const cause = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()))
+        {
+            End(MakeError(*cause));
+            return;
+        }
+        ++m_spent.attempts;
+        m_writer->Count(Spent());
         m_redirects = 0;
         FetchRequest request = RequestFor(m_request.url);
         request.rangeFields = RangeFields(m_partial);
@@ -152,13 +192,26 @@ private:
         m_decision = DecideResume(m_partial, head);
         if (m_decision->step == ResumeStep::Restart)
         {
+            if (auto const cause = JudgeRestart())
+            {
+                m_decision = {ResumeStep::Refuse, MakeError(*cause)};
+                return std::nullopt;
+            }
             BeginAnew(StrongValidators(head));
         }
         if (m_decision->step != ResumeStep::Append && m_decision->step != ResumeStep::Restart)
         {
             return std::nullopt;
         }
-        return static_cast<qint64>(m_partial.declaredBytes - m_partial.bytes);
+        return static_cast<qint64>(Missing());
+    }
+
+    /// Why the whole archive must not come; the request for it has been counted already.
+    std::optional<ErrorCause> JudgeRestart() const
+    {
+        std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).receivedBytes;
+        bool const isWithin = m_spent.receivedBytes + m_partial.declaredBytes <= budget;
+        return isWithin ? std::nullopt : std::optional(ErrorCause::DownloadTooMuch);
     }
 
     void BeginAnew(Validators const& validators)
@@ -175,6 +228,7 @@ private:
     {
         m_writer->Took(bytes);
         m_partial.bytes += static_cast<quint64>(bytes);
+        m_spent.receivedBytes += static_cast<quint64>(bytes);
         m_hasReceived = true;
         m_sinceResume += bytes;
         if (m_sinceResume >= WORTHWHILE_BYTES)
@@ -199,7 +253,7 @@ private:
             TakeBodyEnd(head);
             return;
         case ResumeStep::HandOver:
-            m_writer->Finish();
+            FinishArchive();
             return;
         case ResumeStep::AskWhole:
             AskWhole();
@@ -226,7 +280,7 @@ private:
     {
         if (m_partial.bytes == m_partial.declaredBytes)
         {
-            m_writer->Finish();
+            FinishArchive();
             return;
         }
         // Where only the connection's end ends a body, a broken connection and a short body look alike.
@@ -236,11 +290,22 @@ private:
         TakeFailure(MakeError(mayBeBroken ? ErrorCause::IncompleteBody : ErrorCause::DownloadLengthDiffers));
     }
 
+    void FinishArchive()
+    {
+        m_writer->Count(Spent());
+        m_writer->Finish();
+    }
+
     void AskWhole()
     {
         if (std::exchange(m_hasAskedWhole, true))
         {
             TakeFailure(MakeError(ErrorCause::DownloadRangeWrong));
+            return;
+        }
+        if (auto const cause = JudgeRestart())
+        {
+            End(MakeError(*cause));
             return;
         }
         BeginAnew({});
@@ -249,10 +314,10 @@ private:
 
     void TakeFailure(EngineError const& failure)
     {
-        // The reader's limit was the declared length.
-        EngineError const error = failure.cause == ErrorCause::BodyTooLarge
-                                      ? MakeError(ErrorCause::DownloadLengthDiffers)
-                                      : AsDownloadError(failure);
+        bool const isTooLarge = failure.cause == ErrorCause::BodyTooLarge;
+        // The reader's limit was the declared length, and it has seen more than that, whatever it handed on.
+        m_spent.receivedBytes += isTooLarge ? Missing() : 0;
+        EngineError const error = isTooLarge ? MakeError(ErrorCause::DownloadLengthDiffers) : AsDownloadError(failure);
         DropConnection();
         m_writer->Flush();
         if (!m_hasReceived || !IsPassing(error) || m_resumes >= m_request.limits.maxResumes)
@@ -266,11 +331,27 @@ private:
         m_sinceResume = 0;
     }
 
+    /// In the middle of a body or of a pause.
+    void Stop(ErrorCause cause)
+    {
+        DropConnection();
+        End(MakeError(cause));
+    }
+
     /// Keeps what has arrived, if it is worth anything, and finishes.
     void End(EngineError const& error)
     {
+        StopTimers();
         auto const done = [this, error] { Finish({error, {}}); };
-        IsAboutTheArchive(error.cause) ? m_writer->Remove(done) : m_writer->Close(done);
+        IsAboutTheArchive(error.cause) ? m_writer->Remove(Spent(), done) : m_writer->Close(Spent(), done);
+    }
+
+    void StopTimers()
+    {
+        for (QTimer* const timer : {&m_resumeTimer, &m_checkpointTimer, &m_progressTimer, &m_turnTimer, &m_budgetTimer})
+        {
+            timer->stop();
+        }
     }
 
     void TellProgress()
@@ -283,9 +364,7 @@ private:
 
     void Finish(DownloadOutcome outcome)
     {
-        m_resumeTimer.stop();
-        m_checkpointTimer.stop();
-        m_progressTimer.stop();
+        StopTimers();
         DropConnection();
         m_writer.reset();
         std::function<void(DownloadOutcome)> const finished = std::exchange(m_finished, nullptr);
@@ -306,6 +385,10 @@ private:
     bool m_hasReceived = false;
     bool m_hasAskedWhole = false;
     TransferRate m_rate;
+    DownloadSpending m_spent; ///< without the time since m_clock was started
+    QElapsedTimer m_clock;
+    QTimer m_turnTimer;
+    QTimer m_budgetTimer;
     QTimer m_resumeTimer;
     QTimer m_checkpointTimer;
     QTimer m_progressTimer;
@@ -324,6 +407,11 @@ void ArchiveDownload::Start(std::function<void(DownloadProgress const&)> progres
 UniqueFd ArchiveDownload::Discard(DownloadRequest const& request)
 {
     return RemovePartialFile(PlaceFor(request));
+}
+
+void ArchiveDownload::Clear(QString const& folder)
+{
+    ClearDownloadFolder(folder);
 }
 
 } // namespace Pelnar::Engine

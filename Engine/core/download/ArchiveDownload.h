@@ -1,7 +1,7 @@
 // ArchiveDownload.h: brings one archive from a server to a file, in constant memory, and goes on where an interrupted
-// download of the same archive stopped, even one of a process that was killed.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it cancels the
-// download, keeps what is on the disk for the next one, and nothing is called any more.
+// download of the same archive stopped, even one of a process that was killed. What an archive costs is limited over
+// all runs: DownloadBudget.h. Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker;
+// destroying it cancels the download, keeps what is on the disk for the next one, and nothing is called any more.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -11,12 +11,20 @@
 #include <QString>
 #include <QUrl>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace Pelnar::Engine
 {
+
+/// For whom an archive is downloaded.
+enum class DownloadFor
+{
+    Nobody, ///< it ends after a while, so that it keeps no check away; the next one goes on with it
+    Person, ///< who watches it, and may spend another budget when the first one is spent
+};
 
 struct DownloadRequest
 {
@@ -26,6 +34,8 @@ struct DownloadRequest
     QString folder;            ///< absolute; made if missing; this user's alone; where the file grows
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits limits; ///< maxBodyBytes and totalTimeout do not apply to an archive
+    DownloadFor purpose = DownloadFor::Nobody;
+    std::chrono::milliseconds unwatchedTurn = std::chrono::minutes(30); ///< how long one for nobody runs at a time
 };
 
 struct DownloadProgress
@@ -55,10 +65,14 @@ public:
     /// either may destroy this object. REQUIRES: called once.
     void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
 
-    /// Removes the file of \a request, whole or partial, and what is known of it: for an archive that was refused, or
-    /// is not needed any more. Nothing happens when there is none. The room on the disk is free when the answer, which
-    /// may be unset, has been closed, and closing it takes the longer the larger the file is.
+    /// Removes the file of \a request, whole or partial: for an archive that was refused, or is not needed any more.
+    /// What it has cost is remembered. Nothing happens when there is none. The room on the disk is free when the
+    /// answer, which may be unset, has been closed, and closing it takes the longer the larger the file is.
     [[nodiscard]] static UniqueFd Discard(DownloadRequest const& request);
+
+    /// Removes all archives in \a folder that nobody uses, and all that is known of them: for an application that needs
+    /// none. May take long.
+    static void Clear(QString const& folder);
 
 private:
     class Impl;

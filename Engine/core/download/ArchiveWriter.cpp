@@ -135,6 +135,25 @@ public:
             });
     }
 
+    void AddSpending(DownloadSpending const& spent)
+    {
+        Add(Ending::Waits,
+            [spent](PartialFile& file)
+            {
+                file.SetSpent(spent);
+                return PartialFile::Fault();
+            });
+    }
+
+    /// Has the record say what is true by then.
+    void AddRecording()
+    {
+        Add(Ending::Waits, &PartialFile::StageRecord);
+        Add(Ending::GoesOn, &PartialFile::SyncRecord);
+        Add(Ending::Waits, &PartialFile::PublishRecord);
+        Add(Ending::GoesOn, &PartialFile::SyncFolder);
+    }
+
     BodyRoom Room()
     {
         if (!m_current)
@@ -245,8 +264,9 @@ ArchiveWriter::~ArchiveWriter() = default;
 void ArchiveWriter::Open()
 {
     m_impl->Add(Ending::Waits, [](PartialFile& file) { return file.Open(); });
-    m_impl->AddAnswered([events = &m_impl->Events()](PartialFile& file)
-                        { return [events, found = file.Found()] { Called(events->opened, found); }; });
+    m_impl->AddAnswered(
+        [events = &m_impl->Events()](PartialFile& file)
+        { return [events, found = file.Found(), spent = file.Spent()] { Called(events->opened, found, spent); }; });
     m_impl->Start();
 }
 
@@ -269,16 +289,20 @@ void ArchiveWriter::Restart(Validators const& validators)
 {
     m_impl->Flush(); // into the file, and away with it, but never behind the new start
     m_impl->Add(Ending::Waits, [validators](PartialFile& file) { return file.Restart(validators); });
+    m_impl->AddRecording();
 }
 
-void ArchiveWriter::Checkpoint()
+void ArchiveWriter::Count(DownloadSpending const& spent)
+{
+    m_impl->AddSpending(spent);
+    m_impl->AddRecording();
+}
+
+void ArchiveWriter::Checkpoint(DownloadSpending const& spent)
 {
     m_impl->Flush();
     m_impl->Add(Ending::GoesOn, &PartialFile::SyncBytes);
-    m_impl->Add(Ending::Waits, &PartialFile::StageRecord);
-    m_impl->Add(Ending::GoesOn, &PartialFile::SyncRecord);
-    m_impl->Add(Ending::Waits, &PartialFile::PublishRecord);
-    m_impl->Add(Ending::GoesOn, &PartialFile::SyncFolder);
+    Count(spent);
 }
 
 void ArchiveWriter::Finish()
@@ -292,22 +316,23 @@ void ArchiveWriter::Finish()
         });
 }
 
-void ArchiveWriter::Close(std::function<void()> done)
+void ArchiveWriter::Close(DownloadSpending const& spent, std::function<void()> done)
 {
     m_impl->Flush();
+    Count(spent);
     m_impl->AddAnswered([done = std::move(done)](PartialFile&) { return done; });
 }
 
-void ArchiveWriter::Remove(std::function<void()> done)
+void ArchiveWriter::Remove(DownloadSpending const& spent, std::function<void()> done)
 {
-    m_impl->Flush();
-    m_impl->Add(Ending::Waits,
-                [](PartialFile& file)
-                {
-                    file.Remove();
-                    return PartialFile::Fault();
-                });
-    Close(std::move(done));
+    Restart({});
+    Count(spent);
+    m_impl->AddAnswered(
+        [done = std::move(done)](PartialFile& file)
+        {
+            file.RemoveArchive();
+            return done;
+        });
 }
 
 } // namespace Pelnar::Engine

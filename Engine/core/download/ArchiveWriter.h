@@ -16,7 +16,7 @@ namespace Pelnar::Engine
 /// What the writer tells, each from the event loop; each may destroy the writer.
 struct ArchiveWriterEvents
 {
-    std::function<void(PartialArchive const&)> opened;
+    std::function<void(PartialArchive const&, DownloadSpending const&)> opened;
     std::function<void()> roomMade; ///< after Room() had none
     std::function<void(UniqueFd)> finished;
     std::function<void(EngineError const&)> failed; ///< the last of all
@@ -36,14 +36,16 @@ public:
     /// Has what was taken written, though its buffer is not full.
     void Flush();
     void Restart(Validators const& validators);
+    /// Has the record tell what the archive has cost. REQUIRES: called before the first byte is taken.
+    void Count(DownloadSpending const& spent);
     /// Makes durable what has been taken so far.
-    void Checkpoint();
+    void Checkpoint(DownloadSpending const& spent);
     /// Flushes and answers with finished; the descriptor is for reading only.
     void Finish();
     /// Flushes, and calls \a done when all is written; then the file is unlocked.
-    void Close(std::function<void()> done);
+    void Close(DownloadSpending const& spent, std::function<void()> done);
     /// The same, and removes the file before.
-    void Remove(std::function<void()> done);
+    void Remove(DownloadSpending const& spent, std::function<void()> done);
 
 private:
     class Impl;

@@ -1,20 +1,19 @@
 #include "Engine/core/download/PartialFile.h"
 
+#include "Engine/core/download/DownloadFolder_p.h"
+
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 #include <QUrl>
 
 #include <array>
 #include <cerrno>
-#include <cstring>
 #include <ctime>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
-#include <sys/statvfs.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
@@ -22,65 +21,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr mode_t FOLDER_MODE = 0700;
-constexpr mode_t FILE_MODE = 0600;
-constexpr mode_t OTHERS_CAN_WRITE = 0022;
-constexpr char RECORD_ENDING[] = ".record";
-constexpr char STAGED_ENDING[] = ".record.new";
 constexpr char ASIDE_ENDING[] = ".aside";
 /// Between opening a file and locking it somebody may have replaced it, but not again and again.
 constexpr int MAX_LOCK_ATTEMPTS = 10;
-constexpr std::time_t ABANDONED_SECONDS = 30 * 24 * 3600;
-
-QString Described(int errorNumber)
-{
-    return QString::fromLocal8Bit(std::strerror(errorNumber));
-}
-
-/// Of a call that opens or makes something.
-EngineError OpenError(int errorNumber)
-{
-    switch (errorNumber)
-    {
-    case EMFILE:
-    case ENFILE:
-    case ENOMEM:
-        return MakeError(ErrorCause::DownloadSystemBusy, Described(errorNumber));
-    }
-    return MakeError(ErrorCause::DownloadFolderUnusable, Described(errorNumber));
-}
-
-bool IsOurs(struct stat const& status)
-{
-    return S_ISREG(status.st_mode) && status.st_uid == geteuid() && status.st_nlink == 1 &&
-           (status.st_mode & OTHERS_CAN_WRITE) == 0;
-}
-
-bool IsSameFile(struct stat const& a, struct stat const& b)
-{
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
-
-UniqueFd OpenAt(int folder, std::string const& name, int flags)
-{
-    int descriptor = -1;
-    do
-    {
-        descriptor = openat(folder, name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
-    } while (descriptor < 0 && errno == EINTR);
-    return UniqueFd(descriptor);
-}
-
-UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
-{
-    // A FIFO in the file's place must not hold the process up.
-    return OpenAt(folder.Get(), name, flags | O_NONBLOCK);
-}
-
-UniqueFd OpenFolderNamed(std::string const& path)
-{
-    return OpenAt(AT_FDCWD, path, O_RDONLY | O_DIRECTORY);
-}
 
 /// Different after every start of the system; empty when it cannot be told.
 std::string SystemStart()
@@ -89,31 +32,14 @@ std::string SystemStart()
     return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
 }
 
-std::uint64_t FreeBytes(UniqueFd const& folder)
+/// \a record with what was spent so long ago that it does not count any more.
+std::optional<PartialRecord> Recent(std::optional<PartialRecord> record, std::time_t written)
 {
-    struct statvfs status
+    if (record && std::time(nullptr) - written > ABANDONED_SECONDS)
     {
-    };
-    return fstatvfs(folder.Get(), &status) == 0 ? std::uint64_t{status.f_bavail} * status.f_frsize : 0;
-}
-
-void RemoveNames(UniqueFd const& folder, std::string const& name)
-{
-    for (char const* const ending : {STAGED_ENDING, RECORD_ENDING, ""})
-    {
-        unlinkat(folder.Get(), (name + ending).c_str(), 0);
+        record->spent = {};
     }
-}
-
-template <typename Call>
-int Retried(Call call)
-{
-    int answer = -1;
-    do
-    {
-        answer = call();
-    } while (answer != 0 && errno == EINTR);
-    return answer;
+    return record;
 }
 
 } // namespace
@@ -123,7 +49,7 @@ PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t decla
     QByteArray const address = url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment).toEncoded();
     // No address and no number holds a line's end, so that no two triples make the same text.
     QByteArray const text = address + '\n' + QByteArray::number(quint64{declaredBytes}) + '\n' + signature.toUtf8();
-    QByteArray const name = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + ".archive";
+    QByteArray const name = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + ARCHIVE_ENDING;
     return {QFile::encodeName(folder).toStdString(), name.toStdString(), address.toStdString(), declaredBytes};
 }
 
@@ -148,22 +74,16 @@ PartialFile::Fault PartialFile::Open()
         return OpenError(errno);
     }
     FoundFile const file{static_cast<std::uint64_t>(status.st_size), status.st_ino, SystemStart()};
-    m_record = {m_place.url, m_place.declaredBytes, file.fileNumber, file.systemStart, 0, {}};
+    m_record = {m_place.url, m_place.declaredBytes, file.fileNumber, file.systemStart, 0, {}, {}};
     if (std::optional<PartialRecord> const record = ReadRecord())
     {
-        m_found.bytes = TrustedBytes(*record, file, m_place.url, m_place.declaredBytes);
-        m_found.validators = record->validators;
-        m_record.durableBytes = std::min<std::uint64_t>(record->durableBytes, m_found.bytes);
-        m_record.validators = record->validators;
+        TakeRecord(*record, file);
     }
     m_written = m_found.bytes;
+    RemoveOtherArchives(m_folder, m_place.folder, m_place.name);
     if (m_found.bytes == m_place.declaredBytes)
     {
         return std::nullopt; // nothing more is written
-    }
-    if (m_found.bytes == 0)
-    {
-        m_found.validators = {};
     }
     if (Fault const fault = OpenWriter())
     {
@@ -173,38 +93,32 @@ PartialFile::Fault PartialFile::Open()
     {
         return FailedWrite(errno);
     }
-    RemoveAbandoned();
-    if (Fault const fault = CheckRoom())
+    return CheckRoom();
+}
+
+void PartialFile::TakeRecord(PartialRecord const& record, FoundFile const& file)
+{
+    m_found.bytes = TrustedBytes(record, file, m_place.url, m_place.declaredBytes);
+    m_record.spent = record.spent;
+    // A program that was killed had no time to tell of all that it received.
+    m_record.spent.receivedBytes = std::max<std::uint64_t>(record.spent.receivedBytes, m_found.bytes);
+    if (m_found.bytes > 0)
     {
-        return fault;
+        m_found.validators = record.validators;
+        m_record.durableBytes = std::min<std::uint64_t>(record.durableBytes, m_found.bytes);
+        m_record.validators = record.validators;
     }
-    // What is added from now on is added in this run of the system.
-    return m_found.bytes == 0 ? std::nullopt : Record();
 }
 
 PartialFile::Fault PartialFile::OpenFolder()
 {
-    QString const path = QFile::decodeName(m_place.folder.c_str());
-    if (mkdir(m_place.folder.c_str(), FOLDER_MODE) != 0 && errno == ENOENT)
+    std::variant<UniqueFd, EngineError> folder = OpenDownloadFolder(m_place.folder);
+    if (auto const* const error = std::get_if<EngineError>(&folder))
     {
-        QDir().mkpath(QFileInfo(path).path());
-        mkdir(m_place.folder.c_str(), FOLDER_MODE);
+        return *error;
     }
-    m_folder = OpenFolderNamed(m_place.folder);
-    if (!m_folder)
-    {
-        bool const isOther = errno == ENOTDIR || errno == ELOOP;
-        return isOther ? MakeError(ErrorCause::DownloadFolderUnsafe, path) : OpenError(errno);
-    }
-    struct stat status
-    {
-    };
-    if (fstat(m_folder.Get(), &status) != 0)
-    {
-        return OpenError(errno);
-    }
-    bool const isSafe = status.st_uid == geteuid() && (status.st_mode & OTHERS_CAN_WRITE) == 0;
-    return isSafe ? std::nullopt : Fault(MakeError(ErrorCause::DownloadFolderUnsafe, path));
+    m_folder = std::get<UniqueFd>(std::move(folder));
+    return std::nullopt;
 }
 
 PartialFile::Fault PartialFile::OpenReader()
@@ -304,35 +218,13 @@ PartialFile::Fault PartialFile::OpenWriter()
     return IsSameFile(reader, writer) ? std::nullopt : Fault(MakeError(ErrorCause::DownloadBusy));
 }
 
-PartialFile::Fault PartialFile::CheckRoom()
+PartialFile::Fault PartialFile::CheckRoom() const
 {
-    std::uint64_t const needed = m_place.declaredBytes - m_found.bytes;
-    std::uint64_t const free = FreeBytes(m_folder);
-    return free < needed ? Fault(MakeRoomError(ErrorCause::DownloadNoRoom, needed, free)) : std::nullopt;
-}
-
-void PartialFile::RemoveAbandoned()
-{
-    QDir const folder(QFile::decodeName(m_place.folder.c_str()));
-    std::time_t const now = std::time(nullptr);
-    for (QString const& name : folder.entryList({QStringLiteral("*.archive")}, QDir::Files))
-    {
-        std::string const other = QFile::encodeName(name).toStdString();
-        if (other.size() != m_place.name.size() || other == m_place.name)
-        {
-            continue;
-        }
-        UniqueFd const file = OpenFileAt(m_folder, other, O_RDONLY);
-        struct stat status
-        {
-        };
-        bool const isOld =
-            file && fstat(file.Get(), &status) == 0 && IsOurs(status) && now - status.st_mtime > ABANDONED_SECONDS;
-        if (isOld && Retried([&file] { return flock(file.Get(), LOCK_EX | LOCK_NB); }) == 0)
-        {
-            RemoveNames(m_folder, other);
-        }
-    }
+    std::uint64_t const missing = m_place.declaredBytes - m_written;
+    DiskRoom const room = RoomIn(m_folder);
+    return room.UsableBytes() < missing
+               ? Fault(MakeRoomError(ErrorCause::DownloadNoRoom, missing + room.reservedBytes, room.freeBytes))
+               : std::nullopt;
 }
 
 std::optional<PartialRecord> PartialFile::ReadRecord() const
@@ -356,7 +248,7 @@ std::optional<PartialRecord> PartialFile::ReadRecord() const
         }
         if (count <= 0)
         {
-            return count == 0 ? DecodePartialRecord({bytes.data(), size}) : std::nullopt;
+            return count == 0 ? Recent(DecodePartialRecord({bytes.data(), size}), status.st_mtime) : std::nullopt;
         }
         size += static_cast<std::size_t>(count);
     }
@@ -372,11 +264,16 @@ PartialFile::Fault PartialFile::Restart(Validators const& validators)
     m_written = 0;
     m_record.durableBytes = 0;
     m_record.validators = validators;
-    return Record();
+    return std::nullopt;
 }
 
 PartialFile::Fault PartialFile::Append(Bytes bytes)
 {
+    // Others write to the disk as well.
+    if (RoomIn(m_folder).UsableBytes() < bytes.size())
+    {
+        return FailedWrite(ENOSPC);
+    }
     while (!bytes.empty())
     {
         ssize_t const count = pwrite(m_writer.Get(), bytes.data(), bytes.size(), static_cast<off_t>(m_written));
@@ -414,13 +311,11 @@ PartialFile::Fault PartialFile::StageRecord()
 
 PartialFile::Fault PartialFile::SyncRecord()
 {
+    if (m_record.durableBytes == 0)
+    {
+        return std::nullopt; // to lose it is to lose nothing but a count
+    }
     return Retried([this] { return fdatasync(m_staged.Get()); }) == 0 ? std::nullopt : Fault(FailedWrite(errno));
-}
-
-PartialFile::Fault PartialFile::Record()
-{
-    Fault const fault = StageRecord();
-    return fault ? fault : PublishRecord();
 }
 
 PartialFile::Fault PartialFile::PublishRecord()
@@ -433,6 +328,10 @@ PartialFile::Fault PartialFile::PublishRecord()
 
 PartialFile::Fault PartialFile::SyncFolder()
 {
+    if (m_record.durableBytes == 0)
+    {
+        return std::nullopt;
+    }
     return Retried([this] { return fsync(m_folder.Get()); }) == 0 ? std::nullopt : Fault(FailedWrite(errno));
 }
 
@@ -450,6 +349,11 @@ void PartialFile::Unlock()
     }
 }
 
+void PartialFile::RemoveArchive()
+{
+    Engine::RemoveArchive(m_folder, m_place.name, ArchiveRecord::Kept);
+}
+
 void PartialFile::Remove()
 {
     // An open file keeps its blocks, whatever its names.
@@ -457,13 +361,14 @@ void PartialFile::Remove()
     {
         return; // a disk that refuses even this gives nothing back anyway
     }
-    RemoveNames(m_folder, m_place.name);
+    Engine::RemoveArchive(m_folder, m_place.name, ArchiveRecord::Removed);
 }
 
 EngineError PartialFile::RoomError(int errorNumber) const
 {
     ErrorCause const cause = errorNumber == EDQUOT ? ErrorCause::DownloadQuotaReached : ErrorCause::DownloadNoRoom;
-    return MakeRoomError(cause, m_place.declaredBytes, FreeBytes(m_folder));
+    DiskRoom const room = RoomIn(m_folder);
+    return MakeRoomError(cause, m_place.declaredBytes + room.reservedBytes, room.freeBytes);
 }
 
 EngineError PartialFile::FailedWrite(int errorNumber)
@@ -494,9 +399,18 @@ UniqueFd RemovePartialFile(PartialPlace const& place)
     UniqueFd file = folder ? OpenFileAt(folder, place.name, O_RDONLY) : UniqueFd();
     if (folder)
     {
-        RemoveNames(folder, place.name);
+        RemoveArchive(folder, place.name, ArchiveRecord::Kept);
     }
     return file;
+}
+
+void ClearDownloadFolder(QString const& path)
+{
+    std::string const name = QFile::encodeName(path).toStdString();
+    if (UniqueFd const folder = OpenFolderNamed(name))
+    {
+        RemoveAllArchives(folder, name);
+    }
 }
 
 } // namespace Pelnar::Engine

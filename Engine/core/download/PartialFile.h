@@ -35,18 +35,23 @@ public:
 
     explicit PartialFile(PartialPlace place);
 
-    /// Makes the folder and the file if they are missing, locks the file, and cuts it to what can be trusted. Refuses a
-    /// disk without room for the rest.
+    /// Makes the folder and the file if they are missing, locks the file, cuts it to what can be trusted, and removes
+    /// the application's other archives. Refuses a disk without room for the rest and for a share that is left free.
     Fault Open();
     /// What was there. REQUIRES: opened.
     PartialArchive const& Found() const { return m_found; }
+    /// What the archive has cost, as far as it was told. REQUIRES: opened.
+    DownloadSpending const& Spent() const { return m_record.spent; }
+    void SetSpent(DownloadSpending const& spent) { m_record.spent = spent; }
 
     /// Forgets every byte; from now on bytes of the version with \a validators come.
     Fault Restart(Validators const& validators);
+    /// REQUIRES: the record was published after Open() and after every Restart().
     Fault Append(Bytes bytes);
 
     /// The steps that make what has been written so far durable and then say so, in this order. Those that sync may
-    /// take long; they change nothing, so that nobody has to wait for them before the file is opened anew.
+    /// take long; they change nothing, so that nobody has to wait for them before the file is opened anew. Without the
+    /// first, the others tell what is known besides.
     Fault SyncBytes();
     Fault StageRecord();
     Fault SyncRecord();
@@ -57,8 +62,8 @@ public:
     UniqueFd Finish();
     /// Lets another process, or another download of this one, have the file.
     void Unlock();
-    /// Removes file and record, and gives the disk's blocks back.
-    void Remove();
+    /// Removes the file and leaves the record, which tells what the archive has cost. REQUIRES: restarted.
+    void RemoveArchive();
 
 private:
     Fault OpenFolder();
@@ -66,11 +71,11 @@ private:
     Fault Lock();
     Fault OpenWriter();
     Fault MakeWay();
-    Fault CheckRoom();
-    /// Removes what other downloads left here long ago and nobody has open: of versions that nobody wants any more.
-    void RemoveAbandoned();
+    Fault CheckRoom() const;
     std::optional<PartialRecord> ReadRecord() const;
-    Fault Record();
+    void TakeRecord(PartialRecord const& record, FoundFile const& file);
+    /// Removes file and record, and gives the disk's blocks back.
+    void Remove();
     EngineError RoomError(int errorNumber) const;
     /// What \a errorNumber, of a call that changes the file or the record, means; leaves nothing behind on a disk that
     /// is full or fails.
@@ -86,8 +91,11 @@ private:
     std::uint64_t m_written = 0;
 };
 
-/// Removes what PartialFile left at \a place, in use or not: who uses it keeps a file without a name. The answer, if
-/// there was a file, is the last hold on it, unless somebody uses it.
+/// Removes the archive that PartialFile left at \a place, in use or not: who uses it keeps a file without a name. The
+/// record of what it cost stays. The answer, if there was a file, is the last hold on it, unless somebody uses it.
 [[nodiscard]] UniqueFd RemovePartialFile(PartialPlace const& place);
+
+/// Removes all archives in the folder and all that is known of them, unless somebody uses them.
+void ClearDownloadFolder(QString const& path);
 
 } // namespace Pelnar::Engine

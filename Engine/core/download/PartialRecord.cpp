@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::string_view MAGIC = "PELNARD1";
+constexpr std::string_view MAGIC = "PELNARD2";
 
 } // namespace
 
@@ -23,6 +23,9 @@ std::string EncodePartialRecord(PartialRecord const& record)
     writer.Number(record.durableBytes);
     writer.Text(record.validators.entityTag.toStdString());
     writer.Text(record.validators.lastModified.toStdString());
+    writer.Number(record.spent.receivedBytes);
+    writer.Number(record.spent.attempts);
+    writer.Number(record.spent.seconds);
     return writer.Finish();
 }
 
@@ -41,6 +44,9 @@ std::optional<PartialRecord> DecodePartialRecord(std::string_view bytes)
     record.durableBytes = reader.Number();
     record.validators.entityTag = QByteArray::fromStdString(reader.Text());
     record.validators.lastModified = QByteArray::fromStdString(reader.Text());
+    record.spent.receivedBytes = reader.Number();
+    record.spent.attempts = reader.Number();
+    record.spent.seconds = reader.Number();
     if (!reader.IsWhole() || record.durableBytes > record.declaredBytes || !AreUsable(record.validators))
     {
         return std::nullopt;

@@ -3,6 +3,7 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
+#include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/download/ResumeDecision.h"
 
 #include <cstdint>
@@ -23,13 +24,14 @@ struct PartialRecord
     std::string systemStart;        ///< of the run of the system in which the file was written
     std::uint64_t durableBytes = 0; ///< on the disk whatever happens
     Validators validators;
+    DownloadSpending spent = {}; ///< by all downloads of the archive
 
     friend bool operator==(PartialRecord const& a, PartialRecord const& b)
     {
         return a.url == b.url && a.declaredBytes == b.declaredBytes && a.fileNumber == b.fileNumber &&
                a.systemStart == b.systemStart && a.durableBytes == b.durableBytes &&
                a.validators.entityTag == b.validators.entityTag &&
-               a.validators.lastModified == b.validators.lastModified;
+               a.validators.lastModified == b.validators.lastModified && a.spent == b.spent;
     }
 };
 

@@ -48,6 +48,8 @@ public:
     virtual std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) = 0;
     /// As ArchiveDownload::Discard.
     virtual void DiscardDownload(DownloadRequest const& request) = 0;
+    /// As ArchiveDownload::Clear; nobody waits for it.
+    virtual void ClearDownloads(QString const& folder) = 0;
     virtual std::unique_ptr<IHelper> MakeHelper() = 0;
     /// The end of \a update, for which nobody waits.
     virtual void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) = 0;

@@ -95,6 +95,16 @@ void UpdateFlow::TellFound(FoundUpdate const& found)
     }
 }
 
+void UpdateFlow::TellNotFound()
+{
+    // An archive of a version that is only put off may be wanted yet.
+    if (!m_check->HasPutOff())
+    {
+        m_parts.ClearDownloads(m_settings.downloadFolder);
+    }
+    m_host.TellNotFound();
+}
+
 void UpdateFlow::TellAborted(EngineError const& error)
 {
     CloseChecking();

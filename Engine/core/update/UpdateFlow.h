@@ -36,7 +36,7 @@ private:
     BestItemAnswer AskForBestItem() override { return m_host.AskForBestItem(); }
     int CompareVersions(QString const& a, QString const& b) override { return m_host.CompareVersions(a, b); }
     void TellFound(FoundUpdate const& found) override;
-    void TellNotFound() override { m_host.TellNotFound(); }
+    void TellNotFound() override;
     void TellAborted(EngineError const& error) override;
     void CheckEnded() override;
 

@@ -80,6 +80,11 @@ void UpdateParts::DiscardDownload(DownloadRequest const& request)
     m_chores.Run([archive] { *archive = UniqueFd(); });
 }
 
+void UpdateParts::ClearDownloads(QString const& folder)
+{
+    m_chores.Run([folder] { ArchiveDownload::Clear(folder); });
+}
+
 std::unique_ptr<IDownload> UpdateParts::MakeDownload(DownloadRequest const& request)
 {
     return std::make_unique<Download>(request);

@@ -22,6 +22,7 @@ public:
     void OpenTarget(QString const& bundlePath, quint64 neededBytes, std::function<void(OpenedTarget)> opened) override;
     std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) override;
     void DiscardDownload(DownloadRequest const& request) override;
+    void ClearDownloads(QString const& folder) override;
     std::unique_ptr<IHelper> MakeHelper() override;
     void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) override;
     QDateTime Now() override { return QDateTime::currentDateTimeUtc(); }

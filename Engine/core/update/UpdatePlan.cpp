@@ -155,7 +155,7 @@ bool CountsForBackOff(EngineError const& error)
         return IsArchiveToBlame(error.fault);
     }
     bool const isDownloads =
-        error.cause >= ErrorCause::DownloadLengthInvalid && error.cause <= ErrorCause::DownloadRangeWrong;
+        error.cause >= ErrorCause::DownloadLengthInvalid && error.cause <= ErrorCause::DownloadTooLong;
     // The other causes from DelegateRaised on speak of this computer and of the application.
     return isDownloads || (error.cause != ErrorCause::NoUpdate && error.cause < ErrorCause::DelegateRaised);
 }

@@ -134,7 +134,9 @@ void UpdateRun::Download()
     {
         m_windows.ShowDownload(NamedUpdate(), Guarded(&UpdateRun::Cancel));
     }
-    m_download = m_parts.MakeDownload(DownloadOf(Current().item, m_settings));
+    DownloadRequest request = DownloadOf(Current().item, m_settings);
+    request.purpose = m_asked == PersonAsked::Yes ? DownloadFor::Person : DownloadFor::Nobody;
+    m_download = m_parts.MakeDownload(request);
     m_download->Start(
         [this](DownloadProgress const& progress)
         {

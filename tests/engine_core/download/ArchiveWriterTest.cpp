@@ -32,7 +32,7 @@ protected:
     void Open(int declaredBytes)
     {
         ArchiveWriterEvents events;
-        events.opened = [this](PartialArchive const& partial) { found = partial; };
+        events.opened = [this](PartialArchive const& partial, DownloadSpending const&) { found = partial; };
         events.roomMade = [this] { ++roomsMade; };
         events.finished = [this](UniqueFd fd) { archive = std::move(fd); };
         events.failed = [this](EngineError const& error) { failure = error; };
@@ -97,15 +97,16 @@ TEST_F(ArchiveWriterTest, CheckpointCallsDurableWhatWasTakenBeforeIt)
     Open(1000);
     writer->Restart(TAG);
     Put(QByteArray(300, 'x'));
-    writer->Checkpoint();
+    writer->Checkpoint({300, 1, 2});
     Put(QByteArray(200, 'y'));
     bool isClosed = false;
-    writer->Close([&isClosed] { isClosed = true; });
+    writer->Close({500, 1, 3}, [&isClosed] { isClosed = true; });
     ASSERT_TRUE(WaitFor([&isClosed] { return isClosed; }));
     std::optional<PartialRecord> const record = Record(1000);
     ASSERT_TRUE(record);
     EXPECT_EQ(record->durableBytes, 300u);
     EXPECT_EQ(record->validators.entityTag, TAG.entityTag);
+    EXPECT_EQ(record->spent, (DownloadSpending{500, 1, 3}));
 }
 
 TEST_F(ArchiveWriterTest, EndedAtAnyMomentTheFileCanBeOpenedAnewAtOnce)
@@ -118,7 +119,7 @@ TEST_F(ArchiveWriterTest, EndedAtAnyMomentTheFileCanBeOpenedAnewAtOnce)
         EXPECT_LE(found->bytes, static_cast<quint64>(bytes.size()));
         writer->Restart(TAG);
         Put(bytes.left(round * 200000));
-        writer->Checkpoint();
+        writer->Checkpoint({300, 1, 2});
         writer.reset(); // in the middle of writing, of syncing, or after it
     }
     found.reset();
@@ -136,9 +137,13 @@ TEST_F(ArchiveWriterTest, RemovedFilesAreGoneWhenItSaysSo)
     writer->Restart(TAG);
     Put(QByteArray(300, 'x'));
     bool isDone = false;
-    writer->Remove([&isDone] { isDone = true; });
+    writer->Remove({300, 1, 2}, [&isDone] { isDone = true; });
     ASSERT_TRUE(WaitFor([&isDone] { return isDone; }));
-    EXPECT_TRUE(QDir(folder.filePath(QStringLiteral("updates"))).isEmpty());
+    EXPECT_EQ(QDir(folder.filePath(QStringLiteral("updates"))).entryList(QDir::Files).size(), 1);
+    ASSERT_TRUE(Record(1000)) << "what it cost is remembered";
+    EXPECT_EQ(Record(1000)->spent, (DownloadSpending{300, 1, 2}));
+    EXPECT_EQ(Record(1000)->durableBytes, 0u);
+    EXPECT_TRUE(Record(1000)->validators.IsEmpty());
 }
 
 } // namespace

@@ -123,8 +123,10 @@ protected:
             ASSERT_EQ(request.folder, Folder());
             PartialFile file(PlaceOf(Folder(), m_server.Url(), SIZE, request.signature));
             ASSERT_FALSE(file.Open());
-            ASSERT_FALSE(file.Restart({"\"one\"", {}}));
-            ASSERT_FALSE(file.Append({reinterpret_cast<std::uint8_t const*>(ARCHIVE.constData()), SIZE / 2}));
+            ASSERT_FALSE(file.Restart({m_partTag, {}}));
+            ASSERT_FALSE(file.StageRecord() || file.SyncRecord() || file.PublishRecord() || file.SyncFolder());
+            ASSERT_FALSE(file.Append(
+                {reinterpret_cast<std::uint8_t const*>(m_part.constData()), static_cast<std::size_t>(m_part.size())}));
         }
     }
 
@@ -140,24 +142,28 @@ protected:
     template <typename Check>
     void AtEachCall(Check const& check)
     {
-        bool const isEvery = std::getenv("PELNAR_EVERY_PLACE") != nullptr;
-        for (int round = 0; round < 2; ++round)
-        {
-            int calls = 0;
-            Prepare(round);
-            End const end = Download(
-                [&calls](CallStop const&)
-                {
-                    ++calls;
-                    return CallVerdict::GoOn();
-                });
-            ASSERT_EQ(end.cause, 0) << end.all;
-            ASSERT_GT(calls, 15);
-            for (int index = round; index < calls; index += isEvery ? 1 : DEFAULT_STRIDE)
+        int const stride = std::getenv("PELNAR_EVERY_PLACE") ? 1 : DEFAULT_STRIDE;
+        AtEachCallOf(0, stride, check);
+        AtEachCallOf(1, stride, check);
+    }
+
+    template <typename Check>
+    void AtEachCallOf(int round, int stride, Check const& check)
+    {
+        int calls = 0;
+        Prepare(round);
+        End const end = Download(
+            [&calls](CallStop const&)
             {
-                Prepare(round);
-                check(index, " at " + std::to_string(index) + " of round " + std::to_string(round));
-            }
+                ++calls;
+                return CallVerdict::GoOn();
+            });
+        ASSERT_EQ(end.cause, 0) << end.all;
+        ASSERT_GT(calls, 15);
+        for (int index = round; index < calls; index += stride)
+        {
+            Prepare(round);
+            check(index, " at " + std::to_string(index) + " of round " + std::to_string(round));
         }
     }
 
@@ -177,8 +183,17 @@ protected:
             });
     }
 
+    /// Has every second round begin with a part of another version than the server's.
+    void LeavePartsOfAnotherVersion()
+    {
+        m_part = MakeArchive(SIZE + 5).right(SIZE / 2);
+        m_partTag = "\"zero\"";
+    }
+
 private:
     ServerThread m_server{Serving({ARCHIVE})};
+    QByteArray m_part = ARCHIVE.left(SIZE / 2);
+    QByteArray m_partTag = "\"one\"";
 };
 
 TEST_F(DownloadFaultTest, KilledAtAnyCallTheNextRunBringsTheArchive)
@@ -190,6 +205,19 @@ TEST_F(DownloadFaultTest, KilledAtAnyCallTheNextRunBringsTheArchive)
             DownloadWith(CallVerdict::KillAll(), index, met);
             ExpectNextRunBringsTheArchive(CallName(met) + where);
         });
+}
+
+TEST_F(DownloadFaultTest, KilledAnywhereBetweenTwoVersionsNoFileIsMadeOfBoth)
+{
+    LeavePartsOfAnotherVersion();
+    // One call is the one that matters, so that no sample will do.
+    AtEachCallOf(1, 1,
+                 [this](int index, std::string const& where)
+                 {
+                     long met = -1;
+                     DownloadWith(CallVerdict::KillAll(), index, met);
+                     ExpectNextRunBringsTheArchive(CallName(met) + where);
+                 });
 }
 
 TEST_F(DownloadFaultTest, FailingCallsEndInAnErrorOrInTheArchiveAndTheNextRunBringsIt)
@@ -264,6 +292,8 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
         qint64 synced = 0;
         std::optional<qint64> syncing;
         int seen = 0;
+        bool isRecordSynced = false;
+        std::vector<bool> renames; ///< whether the record had been synced
         WriteWithCheckpoints(
             [&](CallStop const& stop)
             {
@@ -276,6 +306,13 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
                 }
                 std::string const path = stop.call == SYS_openat ? std::string() : DescriptorPath(stop);
                 bool const isArchive = path.size() > 8 && path.compare(path.size() - 8, 8, ".archive") == 0;
+                bool const isRecord = path.size() > 11 && path.compare(path.size() - 11, 11, ".record.new") == 0;
+                isRecordSynced = isRecord ? stop.call == SYS_fdatasync || (isRecordSynced && stop.call != SYS_write)
+                                          : isRecordSynced;
+                if (stop.call == SYS_renameat || stop.call == SYS_renameat2)
+                {
+                    renames.push_back(std::exchange(isRecordSynced, false));
+                }
                 if (isArchive && stop.call == SYS_pwrite64)
                 {
                     written += static_cast<qint64>(stop.arguments[2]);
@@ -288,6 +325,10 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
                 return CallVerdict::GoOn();
             });
         calls = std::max(calls, killAt == 0 ? seen : calls);
+        if (killAt == 0)
+        {
+            EXPECT_EQ(renames, std::vector<bool>({false, true, true, true, true})) << "the first calls nothing durable";
+        }
         QStringList const names = Files(QStringLiteral(".record"));
         if (names.isEmpty())
         {

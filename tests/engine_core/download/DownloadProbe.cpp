@@ -2,12 +2,13 @@
 // Usage: download_probe URL LENGTH FOLDER
 //        download_probe --checkpoints FOLDER   writes three pieces of an archive, each with a checkpoint
 #include "Engine/core/download/ArchiveDownload.h"
-#include "Engine/core/download/PartialFile.h"
+#include "Engine/core/download/ArchiveWriter.h"
 
 #include <QCoreApplication>
 
 #include <cstdio>
-#include <thread>
+#include <cstring>
+#include <utility>
 
 #include <sys/resource.h>
 #include <unistd.h>
@@ -17,6 +18,8 @@ namespace
 
 using namespace Pelnar::Engine;
 
+constexpr int PIECE_BYTES = 1000;
+
 long PeakKibibytes()
 {
     rusage usage{};
@@ -24,18 +27,40 @@ long PeakKibibytes()
     return usage.ru_maxrss;
 }
 
-[[nodiscard]] bool WriteWithCheckpoints(QString const& folder)
+/// Hands one piece over and has it made durable.
+void Put(ArchiveWriter& writer, DownloadSpending const& spent)
 {
-    constexpr std::uint64_t PIECE_BYTES = 1000;
-    PartialFile file(PlaceOf(folder, QUrl(), 3 * PIECE_BYTES, QString()));
-    ByteBuffer const piece(PIECE_BYTES, 7);
-    bool isGood = !file.Open() && !file.Restart({"\"one\"", {}});
-    for (int number = 0; isGood && number < 3; ++number)
+    BodyRoom const room = writer.Room();
+    std::memset(room.data, 7, PIECE_BYTES);
+    writer.Took(PIECE_BYTES);
+    writer.Checkpoint(spent);
+}
+
+int WriteWithCheckpoints(QString const& folder)
+{
+    bool isOpen = false;
+    ArchiveWriterEvents events;
+    events.opened = [&isOpen](PartialArchive const&, DownloadSpending const&)
     {
-        isGood = !file.Append({piece.data(), piece.size()}) && !file.SyncBytes() && !file.StageRecord() &&
-                 !file.SyncRecord() && !file.PublishRecord() && !file.SyncFolder();
+        isOpen = true;
+        QCoreApplication::quit();
+    };
+    events.roomMade = [] {};
+    events.finished = [](UniqueFd) {};
+    events.failed = [](EngineError const&) { QCoreApplication::exit(1); };
+    ArchiveWriter writer(PlaceOf(folder, QUrl(), 3 * PIECE_BYTES, QString()), std::move(events));
+    writer.Open();
+    if (QCoreApplication::exec() != 0 || !isOpen)
+    {
+        return 1;
     }
-    return isGood;
+    writer.Restart({"\"one\"", {}});
+    for (std::uint64_t number = 1; number <= 3; ++number)
+    {
+        Put(writer, {number * PIECE_BYTES, 1, number});
+    }
+    writer.Close({3 * PIECE_BYTES, 1, 4}, [] { QCoreApplication::quit(); });
+    return QCoreApplication::exec();
 }
 
 } // namespace
@@ -51,9 +76,7 @@ int main(int argc, char** argv)
     }
     if (arguments.value(1) == QLatin1String("--checkpoints"))
     {
-        bool isGood = false;
-        std::thread([&] { isGood = WriteWithCheckpoints(arguments.value(2)); }).join();
-        return isGood ? 0 : 1;
+        return WriteWithCheckpoints(arguments.value(2));
     }
     DownloadRequest request;
     request.url = QUrl(arguments.value(1));

@@ -192,7 +192,7 @@ TEST_F(FullDisk, WithoutRoomNothingIsAskedForAndTheErrorNamesWhatIsNeeded)
     arguments[2] = disk + QStringLiteral("/updates");
     Report const report = Probe(onSmallDisk, arguments);
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::DownloadNoRoom)) << report.all.toStdString();
-    EXPECT_TRUE(report.all.contains(QLatin1String("needs 3.1 MB more"))) << report.all.toStdString();
+    EXPECT_TRUE(report.all.contains(QLatin1String("needs 3.7 MB more"))) << report.all.toStdString();
     EXPECT_TRUE(report.all.contains(QLatin1String("2.1 MB are free"))) << report.all.toStdString();
     EXPECT_TRUE(server.Requests().empty());
 }

@@ -42,12 +42,32 @@ protected:
 
     static ErrorCause CauseOf(PartialFile::Fault const& fault) { return fault ? fault->cause : ErrorCause::NoUpdate; }
 
+    /// The steps that tell the disk what is known, without those that make bytes durable.
+    static PartialFile::Fault Record(PartialFile& file)
+    {
+        for (auto const step : {&PartialFile::StageRecord, &PartialFile::SyncRecord, &PartialFile::PublishRecord,
+                                &PartialFile::SyncFolder})
+        {
+            if (PartialFile::Fault const fault = (file.*step)())
+            {
+                return fault;
+            }
+        }
+        return std::nullopt;
+    }
+
+    static void Restart(PartialFile& file)
+    {
+        ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+        ASSERT_EQ(CauseOf(Record(file)), ErrorCause::NoUpdate);
+    }
+
     /// Leaves a file with \a text of the version TAG, as a program that was killed does.
     void LeavePart(QByteArray const& text)
     {
         PartialFile file(Place());
         ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+        Restart(file);
         ASSERT_EQ(CauseOf(file.Append(BytesOf(text))), ErrorCause::NoUpdate);
     }
 
@@ -234,7 +254,7 @@ TEST_P(ReplacedFile, GivesWayToANewOneAndNothingElseIsTouched)
     PartialFile file(Place());
     ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
     EXPECT_EQ(file.Found().bytes, 0u);
-    ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+    Restart(file);
     ASSERT_EQ(CauseOf(file.Append(BytesOf("new"))), ErrorCause::NoUpdate);
     EXPECT_EQ(ArchiveText(), "new");
     struct stat status
@@ -273,13 +293,10 @@ TEST_F(PartialFileTest, AfterARestartOfTheSystemOnlyDurableBytesAreTrusted)
     {
         PartialFile file(Place());
         ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+        Restart(file);
         ASSERT_EQ(CauseOf(file.Append(BytesOf("durable"))), ErrorCause::NoUpdate);
         ASSERT_EQ(CauseOf(file.SyncBytes()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.StageRecord()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.SyncRecord()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.PublishRecord()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.SyncFolder()), ErrorCause::NoUpdate);
+        ASSERT_EQ(CauseOf(Record(file)), ErrorCause::NoUpdate);
         ASSERT_EQ(CauseOf(file.Append(BytesOf(" and more"))), ErrorCause::NoUpdate);
     }
     EXPECT_EQ(FoundBytes(), 16u) << "in the same run all of it";
@@ -311,7 +328,7 @@ TEST_F(PartialFileTest, FinishedFileCannotBeWrittenAndStaysLocked)
 {
     PartialFile file(Place(4));
     ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
-    ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+    Restart(file);
     ASSERT_EQ(CauseOf(file.Append(BytesOf("done"))), ErrorCause::NoUpdate);
     UniqueFd archive = file.Finish();
     EXPECT_EQ(fcntl(archive.Get(), F_GETFL) & O_ACCMODE, O_RDONLY);
@@ -336,41 +353,45 @@ TEST_F(PartialFileTest, DiskWithoutRoomIsRefusedBeforeAnythingComes)
     EXPECT_FALSE(fault->sentence.English().contains(QLatin1Char('%'))) << fault->sentence.English().toStdString();
 }
 
-TEST_F(PartialFileTest, WhatWasLeftLongAgoGoesUnlessItIsInUse)
+TEST_F(PartialFileTest, OtherArchivesGoUnlessTheyAreInUse)
 {
     auto const placeOf = [this](char const* signature)
     { return PlaceOf(folder, QUrl(QStringLiteral("https://a.example/x.zip")), 100, QString::fromLatin1(signature)); };
     PartialFile used(placeOf("used"));
     ASSERT_EQ(CauseOf(used.Open()), ErrorCause::NoUpdate);
-    for (char const* const signature : {"old", "recent"})
     {
-        PartialFile file(placeOf(signature));
-        ASSERT_EQ(CauseOf(file.Open()), ErrorCause::NoUpdate);
-        ASSERT_EQ(CauseOf(file.Restart(TAG)), ErrorCause::NoUpdate);
+        PartialFile other(placeOf("other"));
+        ASSERT_EQ(CauseOf(other.Open()), ErrorCause::NoUpdate);
+        Restart(other);
+        ASSERT_EQ(CauseOf(other.Append(BytesOf("part"))), ErrorCause::NoUpdate);
     }
-    std::string const document = Place().folder + "/document";
-    WriteText(document, "not a download");
-    timespec const longAgo[] = {{1, 0}, {1, 0}};
-    for (std::string const& path : {placeOf("used").folder + '/' + placeOf("used").name,
-                                    placeOf("old").folder + '/' + placeOf("old").name, document})
-    {
-        ASSERT_EQ(utimensat(AT_FDCWD, path.c_str(), longAgo, 0), 0);
-    }
+    std::string const base = Place().folder + '/';
+    std::string const hash(64, 'a');
+    WriteText(base + "document", "not a download");
+    WriteText(base + "x.archive", "not one either");
+    ASSERT_EQ(symlink((base + "document").c_str(), (base + hash + ".archive").c_str()), 0);
+    ASSERT_EQ(mkdir((base + std::string(64, 'b') + ".archive").c_str(), 0700), 0);
     LeavePart("part");
     QDir const left(folder);
     EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("used").name)));
-    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("recent").name)));
+    EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("other").name)));
+    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("other").name + ".record"))) << "which tells what it cost";
     EXPECT_TRUE(left.exists(QStringLiteral("document")));
-    EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("old").name)));
-    EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("old").name + ".record")));
+    EXPECT_TRUE(left.exists(QStringLiteral("x.archive")));
+    EXPECT_TRUE(left.exists(QString(64, QLatin1Char('b')) + QStringLiteral(".archive"))) << "somebody's folder";
+    EXPECT_FALSE(QFileInfo(left.filePath(QString::fromStdString(hash) + QStringLiteral(".archive"))).isSymLink());
 }
 
-TEST_F(PartialFileTest, RemovedFilesLeaveNothing)
+TEST_F(PartialFileTest, RemovedFileLeavesTheRecordOfWhatItCost)
 {
     LeavePart("part");
     static_cast<void>(RemovePartialFile(Place()));
-    EXPECT_TRUE(QDir(folder).isEmpty());
+    EXPECT_EQ(QDir(folder).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+              QStringList(QString::fromStdString(Place().name + ".record")));
+    EXPECT_EQ(FoundBytes(), 0u);
     static_cast<void>(RemovePartialFile(Place()));
+    ClearDownloadFolder(folder);
+    EXPECT_TRUE(QDir(folder).isEmpty());
 }
 
 } // namespace

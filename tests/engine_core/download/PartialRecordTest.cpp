@@ -9,12 +9,12 @@ namespace
 using namespace Pelnar::Engine;
 
 PartialRecord const RECORD{
-    "https://a.example/x.zip", 100, 7, "start-1", 30, {"\"v1\"", "Fri, 20 Nov 2026 05:00:00 GMT"}};
+    "https://a.example/x.zip", 100, 7, "start-1", 30, {"\"v1\"", "Fri, 20 Nov 2026 05:00:00 GMT"}, {150, 4, 9}};
 
 TEST(PartialRecord, ReadsWhatWasWritten)
 {
     EXPECT_EQ(DecodePartialRecord(EncodePartialRecord(RECORD)), RECORD);
-    PartialRecord const bare{"", 0, 0, "", 0, {}};
+    PartialRecord const bare{"", 0, 0, "", 0, {}, {}};
     EXPECT_EQ(DecodePartialRecord(EncodePartialRecord(bare)), bare);
 }
 

@@ -151,4 +151,15 @@ TEST_F(UpdatePartsTest, DiscardedDownloadHasNoNameAtOnceAndNoRoomWithTheParts)
     parts->DiscardDownload(request); // nothing is there any more
 }
 
+TEST_F(UpdatePartsTest, ClearedDownloadsAreGoneWithTheParts)
+{
+    PartialPlace const archive =
+        PlaceOf(QString::fromStdString(other.Path()), QUrl(QStringLiteral("https://a.example/update.zip")), 5, {});
+    std::ofstream(other.Path() + '/' + archive.name) << "bytes";
+    std::ofstream(other.Path() + '/' + archive.name + ".record") << "record";
+    parts->ClearDownloads(QString::fromStdString(other.Path()));
+    parts.reset();
+    EXPECT_TRUE(other.Names().empty());
+}
+
 } // namespace

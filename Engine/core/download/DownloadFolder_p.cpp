@@ -1,0 +1,208 @@
+#include "Engine/core/download/DownloadFolder_p.h"
+
+#include "Engine/core/download/DownloadBudget.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/statvfs.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr mode_t FOLDER_MODE = 0700;
+constexpr mode_t FILE_MODE = 0600;
+constexpr mode_t OTHERS_CAN_WRITE = 0022;
+constexpr std::size_t HASH_CHARACTERS = 64;
+constexpr std::size_t MAX_OTHER_RECORDS = 16;
+
+UniqueFd OpenAt(int folder, std::string const& name, int flags)
+{
+    int descriptor = -1;
+    do
+    {
+        descriptor = openat(folder, name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
+    } while (descriptor < 0 && errno == EINTR);
+    return UniqueFd(descriptor);
+}
+
+/// Of the archive to which the file \a name belongs; empty for a file that no download made.
+std::string ArchiveNameOf(std::string const& name)
+{
+    std::string const ending = name.size() > HASH_CHARACTERS ? name.substr(HASH_CHARACTERS) : std::string();
+    std::string const archive = ARCHIVE_ENDING;
+    bool const isOfDownload =
+        ending == archive || ending == archive + RECORD_ENDING || ending == archive + STAGED_ENDING;
+    return isOfDownload ? name.substr(0, HASH_CHARACTERS) + archive : std::string();
+}
+
+std::vector<std::string> ArchiveNames(std::string const& path)
+{
+    std::vector<std::string> names;
+    QDir const folder(QFile::decodeName(path.c_str()));
+    for (QString const& entry : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+    {
+        std::string const name = ArchiveNameOf(QFile::encodeName(entry).toStdString());
+        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end())
+        {
+            names.push_back(name);
+        }
+    }
+    return names;
+}
+
+bool IsInUse(UniqueFd const& archive)
+{
+    return archive && Retried([&archive] { return flock(archive.Get(), LOCK_EX | LOCK_NB); }) != 0 &&
+           errno == EWOULDBLOCK;
+}
+
+/// Removes the archive \a name unless somebody uses it; the answer tells.
+[[nodiscard]] bool HasRemoved(UniqueFd const& folder, std::string const& name, ArchiveRecord record)
+{
+    // The lock is held until the name has gone, so that nobody begins to use it meanwhile.
+    UniqueFd const archive = OpenFileAt(folder, name, O_RDONLY);
+    if (IsInUse(archive))
+    {
+        return false;
+    }
+    RemoveArchive(folder, name, record);
+    return true;
+}
+
+} // namespace
+
+QString Described(int errorNumber)
+{
+    return QString::fromLocal8Bit(std::strerror(errorNumber));
+}
+
+EngineError OpenError(int errorNumber)
+{
+    switch (errorNumber)
+    {
+    case EMFILE:
+    case ENFILE:
+    case ENOMEM:
+        return MakeError(ErrorCause::DownloadSystemBusy, Described(errorNumber));
+    }
+    return MakeError(ErrorCause::DownloadFolderUnusable, Described(errorNumber));
+}
+
+bool IsOurs(struct stat const& status)
+{
+    return S_ISREG(status.st_mode) && status.st_uid == geteuid() && status.st_nlink == 1 &&
+           (status.st_mode & OTHERS_CAN_WRITE) == 0;
+}
+
+bool IsSameFile(struct stat const& a, struct stat const& b)
+{
+    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
+}
+
+UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
+{
+    // A FIFO in the file's place must not hold the process up.
+    return OpenAt(folder.Get(), name, flags | O_NONBLOCK);
+}
+
+UniqueFd OpenFolderNamed(std::string const& path)
+{
+    return OpenAt(AT_FDCWD, path, O_RDONLY | O_DIRECTORY);
+}
+
+std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path)
+{
+    QString const shownPath = QFile::decodeName(path.c_str());
+    if (mkdir(path.c_str(), FOLDER_MODE) != 0 && errno == ENOENT)
+    {
+        QDir().mkpath(QFileInfo(shownPath).path());
+        mkdir(path.c_str(), FOLDER_MODE);
+    }
+    UniqueFd folder = OpenFolderNamed(path);
+    if (!folder)
+    {
+        bool const isOther = errno == ENOTDIR || errno == ELOOP;
+        return isOther ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno);
+    }
+    struct stat status
+    {
+    };
+    if (fstat(folder.Get(), &status) != 0)
+    {
+        return OpenError(errno);
+    }
+    if (status.st_uid != geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
+    {
+        return MakeError(ErrorCause::DownloadFolderUnsafe, shownPath);
+    }
+    return folder;
+}
+
+DiskRoom RoomIn(UniqueFd const& folder)
+{
+    struct statvfs status
+    {
+    };
+    if (fstatvfs(folder.Get(), &status) != 0)
+    {
+        return {};
+    }
+    return {std::uint64_t{status.f_bavail} * status.f_frsize,
+            DiskReserve(std::uint64_t{status.f_blocks} * status.f_frsize)};
+}
+
+void RemoveArchive(UniqueFd const& folder, std::string const& name, ArchiveRecord record)
+{
+    unlinkat(folder.Get(), (name + STAGED_ENDING).c_str(), 0);
+    if (record == ArchiveRecord::Removed)
+    {
+        unlinkat(folder.Get(), (name + RECORD_ENDING).c_str(), 0);
+    }
+    unlinkat(folder.Get(), name.c_str(), 0);
+}
+
+void RemoveOtherArchives(UniqueFd const& folder, std::string const& path, std::string const& keptName)
+{
+    std::multimap<std::time_t, std::string, std::greater<>> recordsByTime;
+    for (std::string const& name : ArchiveNames(path))
+    {
+        struct stat record
+        {
+        };
+        if (name != keptName && HasRemoved(folder, name, ArchiveRecord::Kept) &&
+            fstatat(folder.Get(), (name + RECORD_ENDING).c_str(), &record, AT_SYMLINK_NOFOLLOW) == 0)
+        {
+            recordsByTime.emplace(record.st_mtime, name);
+        }
+    }
+    std::size_t kept = 0;
+    for (auto const& [time, name] : recordsByTime)
+    {
+        bool const isOld = std::time(nullptr) - time > ABANDONED_SECONDS;
+        if (isOld || ++kept > MAX_OTHER_RECORDS)
+        {
+            RemoveArchive(folder, name, ArchiveRecord::Removed);
+        }
+    }
+}
+
+void RemoveAllArchives(UniqueFd const& folder, std::string const& path)
+{
+    for (std::string const& name : ArchiveNames(path))
+    {
+        (void)HasRemoved(folder, name, ArchiveRecord::Removed);
+    }
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,439 @@
+// DownloadBudgetTest.cpp: what one archive may cost: bytes, time, attempts, disk; counted over all runs.
+#include "Engine/core/download/PartialFile.h"
+#include "tests/engine_core/download/ArchiveServer.h"
+#include "tests/engine_core/download/DownloadHarness.h"
+
+#include <QElapsedTimer>
+
+#include <functional>
+#include <limits>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+using std::chrono::milliseconds;
+
+constexpr int MEBIBYTE = 1024 * 1024;
+
+class DownloadBudgetTest : public DownloadTest
+{
+protected:
+    /// The archives in the folder, whole and partial.
+    qint64 ArchiveBytes() const
+    {
+        qint64 bytes = 0;
+        for (QString const& name : Files(QStringLiteral(".archive")))
+        {
+            bytes += QFileInfo(QDir(Folder()).filePath(name)).size();
+        }
+        return bytes;
+    }
+
+    QString RecordPath(DownloadRequest const& request) const
+    {
+        PartialPlace const where = PlaceOf(Folder(), request.url, request.declaredBytes, request.signature);
+        return QString::fromStdString(where.folder + '/' + where.name + ".record");
+    }
+
+    std::optional<PartialRecord> RecordOf(DownloadRequest const& request) const
+    {
+        QFile file(RecordPath(request));
+        return file.open(QIODevice::ReadOnly) ? DecodePartialRecord(file.readAll().toStdString()) : std::nullopt;
+    }
+
+    /// Has the record of \a request say that so much was spent.
+    void Spend(DownloadRequest const& request, DownloadSpending const& spent)
+    {
+        std::optional<PartialRecord> record = RecordOf(request);
+        ASSERT_TRUE(record);
+        record->spent = spent;
+        QFile file(RecordPath(request));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(QByteArray::fromStdString(EncodePartialRecord(*record)));
+    }
+
+    /// A download of \a archive that breaks after \a bytes and does not go on.
+    DownloadRequest LeavePart(LoopbackServer& server, int declaredBytes)
+    {
+        DownloadRequest request = RequestFor(server.Url(), declaredBytes);
+        request.limits.maxResumes = 0;
+        EXPECT_EQ(Run(request).cause, ErrorCause::IncompleteBody);
+        return request;
+    }
+};
+
+TEST_F(DownloadBudgetTest, OnlyTheLastOfManyArchivesIsKept)
+{
+    QByteArray const archive = MakeArchive(MEBIBYTE);
+    for (int feed = 0; feed < 5; ++feed)
+    {
+        LoopbackServer server(Serving({archive, "\"one\"", {}, 300000}));
+        DownloadRequest request = RequestFor(server.Url(), archive.size());
+        request.limits.maxResumes = 0;
+        request.signature = QString::number(feed);
+        EXPECT_EQ(Run(request).cause, ErrorCause::IncompleteBody);
+        EXPECT_EQ(Files(QStringLiteral(".archive")).size(), 1);
+        EXPECT_EQ(ArchiveBytes(), 300000);
+    }
+}
+
+TEST_F(DownloadBudgetTest, ServerThatBeginsAgainAndAgainSendsTwiceTheArchiveAtMost)
+{
+    QByteArray const archive = MakeArchive(4 * MEBIBYTE);
+    qint64 sent = 0;
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const&, int)
+        {
+            // The whole is promised each time, and a little more than a mebibyte comes.
+            QByteArray const answer = AnswerFor({archive, {}, {}, MEBIBYTE + 10}, {});
+            sent += MEBIBYTE + 10;
+            socket.write(answer);
+            socket.disconnectFromHost();
+        });
+    for (int check = 0; check < 3; ++check)
+    {
+        EXPECT_EQ(Run(RequestFor(server.Url(), archive.size())).cause, ErrorCause::DownloadTooMuch) << check;
+        EXPECT_LE(sent, 2 * archive.size()) << check;
+    }
+}
+
+TEST_F(DownloadBudgetTest, SmallestUselessAnswersEndAsWell)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(Serving({archive, "\"one\"", {}, 10}));
+    DownloadRequest const request = RequestFor(server.Url(), archive.size());
+    std::size_t const most = BudgetOf(300000).attempts;
+    ASSERT_EQ(most, 68u);
+    ErrorCause cause = ErrorCause::IncompleteBody;
+    for (int check = 0; check < 20 && cause == ErrorCause::IncompleteBody; ++check)
+    {
+        cause = Run(request).cause;
+    }
+    EXPECT_EQ(cause, ErrorCause::DownloadTooOften);
+    EXPECT_EQ(server.Requests().size(), most);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooOften);
+    EXPECT_EQ(server.Requests().size(), most) << "not one packet more";
+    EXPECT_EQ(PartialBytes(), archive.left(680)) << "what has come stays";
+}
+
+TEST_F(DownloadBudgetTest, MebibytesThatArriveDoNotMakeTheAttemptsForgotten)
+{
+    QByteArray const archive = MakeArchive(3 * MEBIBYTE);
+    LoopbackServer server(Serving({archive, "\"one\"", {}, MEBIBYTE}));
+    DownloadRequest const request = RequestFor(server.Url(), archive.size());
+    EXPECT_EQ(Run(request).bytes, archive);
+    std::optional<PartialRecord> const record = RecordOf(request);
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->spent.attempts, 3u);
+    EXPECT_EQ(record->spent.receivedBytes, 3u * MEBIBYTE);
+}
+
+TEST_F(DownloadBudgetTest, HonestSlowLineGetsItsArchiveInManyRuns)
+{
+    QByteArray const archive = MakeArchive(2 * MEBIBYTE);
+    LoopbackServer server(Serving({archive, "\"one\"", {}, 64 * 1024}));
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.maxResumes = 0;
+    int runs = 1;
+    while (runs < 100 && Run(request).cause == ErrorCause::IncompleteBody)
+    {
+        ++runs;
+    }
+    EXPECT_EQ(runs, 32);
+    EXPECT_EQ(PartialBytes(), archive);
+}
+
+/// What makes an archive go whose cost must not be forgotten.
+struct WayOfLosing
+{
+    char const* name;
+    std::function<void(DownloadRequest const& request)> lose;
+};
+
+TEST_F(DownloadBudgetTest, CostIsRememberedThoughTheBytesGo)
+{
+    QByteArray const archive = MakeArchive(300000);
+    auto const other = [this](DownloadRequest request)
+    {
+        request.signature = QStringLiteral("another");
+        PartialFile file(PlaceOf(Folder(), request.url, request.declaredBytes, request.signature));
+        EXPECT_FALSE(file.Open());
+    };
+    WayOfLosing const ways[] = {
+        {"discarded", [](DownloadRequest const& request) { EXPECT_TRUE(ArchiveDownload::Discard(request)); }},
+        {"another archive", other},
+        {"another length",
+         [](DownloadRequest const& request)
+         {
+             PartialFile file(PlaceOf(request.folder, request.url, request.declaredBytes, request.signature));
+             EXPECT_FALSE(file.Open());
+             EXPECT_FALSE(file.Restart({}));
+             EXPECT_FALSE(file.StageRecord() || file.SyncRecord() || file.PublishRecord() || file.SyncFolder());
+             file.RemoveArchive();
+         }},
+    };
+    for (WayOfLosing const& way : ways)
+    {
+        RemoveFolder();
+        LoopbackServer server(Serving({archive, "\"one\"", {}, 200000}));
+        DownloadRequest const request = LeavePart(server, archive.size());
+        way.lose(request);
+        EXPECT_FALSE(QFile::exists(RecordPath(request).chopped(7))) << way.name;
+        DownloadResult const second = Run(request);
+        EXPECT_EQ(second.cause, ErrorCause::IncompleteBody) << way.name << ": 400,000 of 600,000 bytes";
+        way.lose(request);
+        EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooMuch) << way.name;
+        EXPECT_EQ(server.Requests().size(), 2u) << way.name;
+    }
+}
+
+TEST_F(DownloadBudgetTest, AnswersOfAnotherLengthAreCounted)
+{
+    LoopbackServer server(Answering("HTTP/1.0 200 OK\r\n\r\n" + QByteArray(1000, 'x') + "surplus"));
+    DownloadRequest const request = RequestFor(server.Url(), 1000);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadLengthDiffers);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadLengthDiffers);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooMuch);
+    EXPECT_EQ(server.Requests().size(), 2u);
+}
+
+TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int)
+        {
+            QByteArray const answer = AnswerFor({archive}, request);
+            int const headBytes = answer.indexOf("\r\n\r\n") + 4;
+            Dripping(answer.left(headBytes + 2000), answer.mid(headBytes + 2000), 10)(socket, request, 0);
+        });
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.minBytesPerSecond = 0;
+    request.unwatchedTurn = milliseconds(1500);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadPaused);
+    ASSERT_TRUE(RecordOf(request));
+    EXPECT_GE(RecordOf(request)->spent.seconds, 1u);
+    std::uint64_t const most = BudgetOf(300000).seconds;
+    Spend(request, {5000, 1, most - 1});
+    request.unwatchedTurn = std::chrono::minutes(5);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooLong);
+    std::size_t const requests = server.Requests().size();
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooLong);
+    EXPECT_EQ(server.Requests().size(), requests) << "not one packet more";
+    EXPECT_TRUE(archive.startsWith(PartialBytes()));
+    EXPECT_GT(PartialBytes().size(), 2000) << "what has come stays";
+}
+
+TEST_F(DownloadBudgetTest, UnwatchedOnePausesAndTheNextGoesOn)
+{
+    QByteArray const archive = MakeArchive(300000);
+    bool isStuck = true;
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            isStuck ? static_cast<void>(socket.write(AnswerFor({archive, "\"one\"", {}, 100000}, request)))
+                    : Serving({archive})(socket, request, number);
+        });
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.minBytesPerSecond = 0;
+    request.unwatchedTurn = milliseconds(300);
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadPaused);
+    EXPECT_EQ(PartialBytes(), archive.left(100000));
+    isStuck = false;
+    EXPECT_EQ(Run(request).bytes, archive);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+}
+
+TEST_F(DownloadBudgetTest, PersonWaitsAsLongAsTheBudgetLasts)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(Dripping(AnswerFor({archive, "\"one\"", {}, 299900}, {}), archive.mid(299900), 10));
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.minBytesPerSecond = 0;
+    request.unwatchedTurn = milliseconds(100);
+    request.purpose = DownloadFor::Person;
+    EXPECT_EQ(Run(request).bytes, archive);
+}
+
+TEST_F(DownloadBudgetTest, PersonMaySpendAnotherBudgetAndGoesOnWithWhatIsThere)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int number) {
+            Serving({archive, "\"one\"", {}, number == 0 ? 100000 : -1})(socket, request, number);
+        });
+    DownloadRequest request = LeavePart(server, archive.size());
+    Spend(request, {600000, 68, 100000});
+    EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooMuch);
+    EXPECT_EQ(server.Requests().size(), 1u);
+    request.purpose = DownloadFor::Person;
+    EXPECT_EQ(Run(request).bytes, archive);
+    EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+    EXPECT_EQ(RecordOf(request)->spent.receivedBytes, 300000u);
+    EXPECT_EQ(RecordOf(request)->spent.attempts, 1u);
+}
+
+TEST_F(DownloadBudgetTest, WholeArchiveIsHandedOverThoughNothingMayBeSpent)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(Serving({archive}));
+    DownloadRequest const request = RequestFor(server.Url(), archive.size());
+    EXPECT_EQ(Run(request).bytes, archive);
+    Spend(request, {600000, 68, 100000});
+    EXPECT_EQ(Run(request).bytes, archive);
+    EXPECT_EQ(server.Requests().size(), 1u);
+}
+
+TEST_F(DownloadBudgetTest, WhatWasSpentLongAgoDoesNotCount)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int number) {
+            Serving({archive, "\"one\"", {}, number == 0 ? 100000 : -1})(socket, request, number);
+        });
+    DownloadRequest const request = LeavePart(server, archive.size());
+    Spend(request, {600000, 68, 100000});
+    timespec const monthAgo[] = {{time(nullptr) - 31 * 24 * 3600, 0}, {time(nullptr) - 31 * 24 * 3600, 0}};
+    ASSERT_EQ(utimensat(AT_FDCWD, RecordPath(request).toStdString().c_str(), monthAgo, 0), 0);
+    EXPECT_EQ(Run(request).bytes, archive);
+}
+
+TEST_F(DownloadBudgetTest, FewRecordsOfOtherArchivesAreKeptAndOldOnesNot)
+{
+    auto const leave = [this](int number)
+    {
+        PartialFile file(PlaceOf(Folder(), QUrl(QStringLiteral("https://a.example/x")), 100, QString::number(number)));
+        EXPECT_FALSE(file.Open());
+        EXPECT_FALSE(file.StageRecord() || file.SyncRecord() || file.PublishRecord() || file.SyncFolder());
+    };
+    for (int number = 0; number < 30; ++number)
+    {
+        leave(number);
+        EXPECT_EQ(Files(QStringLiteral(".archive")).size(), 1) << number;
+        EXPECT_LE(Files(QStringLiteral(".record")).size(), 17) << number;
+    }
+    for (QString const& name : Files(QStringLiteral(".record")))
+    {
+        timespec const longAgo[] = {{1, 0}, {1, 0}};
+        ASSERT_EQ(utimensat(AT_FDCWD, QDir(Folder()).filePath(name).toStdString().c_str(), longAgo, 0), 0);
+    }
+    leave(31);
+    EXPECT_EQ(Files(QStringLiteral(".record")).size(), 1);
+}
+
+TEST_F(DownloadBudgetTest, ClearedFolderHoldsNothingButWhatIsInUse)
+{
+    LoopbackServer server(Serving({MakeArchive(300000), "\"one\"", {}, 1000}));
+    (void)LeavePart(server, 300000);
+    PartialFile used(PlaceOf(Folder(), QUrl(QStringLiteral("https://a.example/x")), 100, QString()));
+    ASSERT_FALSE(used.Open());
+    QFile document(QDir(Folder()).filePath(QStringLiteral("document")));
+    ASSERT_TRUE(document.open(QIODevice::WriteOnly));
+    ArchiveDownload::Clear(Folder());
+    EXPECT_EQ(Files().size(), 2);
+    used.Unlock();
+    ArchiveDownload::Clear(Folder());
+    EXPECT_EQ(Files(), QStringList(QStringLiteral("document")));
+    ArchiveDownload::Clear(Folder() + QStringLiteral("/none"));
+}
+
+TEST_F(DownloadBudgetTest, PausesBetweenAttemptsDouble)
+{
+    QByteArray const archive = MakeArchive(300000);
+    std::vector<qint64> times;
+    QElapsedTimer clock;
+    clock.start();
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            times.push_back(clock.elapsed());
+            Serving({archive, "\"one\"", {}, 10})(socket, request, number);
+        });
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.maxResumes = 4;
+    request.limits.firstResumePause = milliseconds(100);
+    EXPECT_EQ(Run(request).cause, ErrorCause::IncompleteBody);
+    ASSERT_EQ(times.size(), 5u);
+    for (std::size_t number = 1; number < times.size(); ++number)
+    {
+        // Qt's coarse timers may be a twentieth early.
+        EXPECT_GE(times[number] - times[number - 1], 95 * (1 << (number - 1))) << number;
+    }
+}
+
+TEST(DownloadBudget, GrowsWithTheLengthAndHasAnEnd)
+{
+    struct
+    {
+        std::uint64_t declaredBytes;
+        DownloadSpending budget;
+    } const rows[] = {
+        {0, {0, 64, 1800}},
+        {1, {2, 64, 1800}},
+        {1 << 20, {2 << 20, 80, 2312}},
+        {std::uint64_t{1} << 30, {std::uint64_t{2} << 30, 64 + 16384, 86400}},
+        {std::uint64_t{16} << 30, {std::uint64_t{32} << 30, 64 + 262144, 86400}},
+        {std::numeric_limits<std::uint64_t>::max(),
+         {std::numeric_limits<std::uint64_t>::max(), 64 + (std::uint64_t{1} << 48) - 1, 86400}},
+    };
+    for (auto const& row : rows)
+    {
+        EXPECT_EQ(BudgetOf(row.declaredBytes), row.budget) << row.declaredBytes;
+    }
+}
+
+TEST(DownloadBudget, IsJudgedBeforeEachRequest)
+{
+    constexpr std::uint64_t MOST = std::numeric_limits<std::uint64_t>::max();
+    struct
+    {
+        char const* name;
+        DownloadSpending spent;
+        std::uint64_t missing;
+        std::optional<ErrorCause> cause;
+    } const rows[] = {
+        {"nothing", {}, 1000, std::nullopt},
+        {"just enough is left", {1000, 0, 0}, 1000, std::nullopt},
+        {"one byte too few", {1001, 0, 0}, 1000, ErrorCause::DownloadTooMuch},
+        {"enough for the rest", {1900, 0, 0}, 100, std::nullopt},
+        {"all", {2000, 0, 0}, 1, ErrorCause::DownloadTooMuch},
+        {"more than all", {MOST, 0, 0}, 1, ErrorCause::DownloadTooMuch},
+        {"last attempt", {0, 63, 0}, 1000, std::nullopt},
+        {"no attempt more", {0, 64, 0}, 1000, ErrorCause::DownloadTooOften},
+        {"last second", {0, 0, 1799}, 1000, std::nullopt},
+        {"no second more", {0, 0, 1800}, 1000, ErrorCause::DownloadTooLong},
+        {"absurd", {0, MOST, MOST}, 1000, ErrorCause::DownloadTooOften},
+    };
+    for (auto const& row : rows)
+    {
+        EXPECT_EQ(JudgeSpending(row.spent, 1000, row.missing), row.cause) << row.name;
+    }
+}
+
+TEST(DiskReserve, IsAShareOfTheDiskWithinBounds)
+{
+    constexpr std::uint64_t MIB = MEBIBYTE;
+    struct
+    {
+        std::uint64_t disk;
+        std::uint64_t reserve;
+    } const rows[] = {
+        {0, 0},
+        {2 * MIB, MIB / 2},
+        {1024 * MIB, 256 * MIB},
+        {2048 * MIB, 256 * MIB},
+        {20480 * MIB, 1024 * MIB},
+        {10240 * 1024 * MIB, 4096 * MIB},
+    };
+    for (auto const& row : rows)
+    {
+        EXPECT_EQ(DiskReserve(row.disk), row.reserve) << row.disk;
+    }
+}
+
+} // namespace

@@ -23,14 +23,16 @@ std::optional<App::Customization> ReadBundle()
         return std::nullopt;
     }
     QString const versionText = BundleText(QStringLiteral("CFBundleVersion"));
-    auto const version = Util::TryVersionFromString(versionText, QStringLiteral("."));
-    if (!version)
+    App::Customization customization;
+    try
+    {
+        customization.applicationVersion = Util::VersionFromString(versionText, QStringLiteral("."));
+    }
+    catch (std::invalid_argument const&)
     {
         throw std::runtime_error("the bundle's CFBundleVersion \"" + versionText.toStdString() + "\" is not a version");
     }
-    App::Customization customization;
     customization.displayName = BundleText(QStringLiteral("CFBundleName")).toStdString();
-    customization.applicationVersion = *version;
     customization.bundleNameFirstPart = "Pelnar";
     customization.bundleNameSecondPart = "Demo";
     return customization;

@@ -74,12 +74,14 @@ T Choose(QCommandLineParser const& parser, QCommandLineOption const& option, std
 
 Core::Version ParseVersion(QCommandLineParser const& parser, QCommandLineOption const& option)
 {
-    auto const version = Util::TryVersionFromString(parser.value(option), QStringLiteral("."));
-    if (!version)
+    try
+    {
+        return Util::VersionFromString(parser.value(option), QStringLiteral("."));
+    }
+    catch (std::invalid_argument const&)
     {
         Fail(option, parser.value(option));
     }
-    return *version;
 }
 
 std::vector<Click> ReadClicks(QCommandLineParser const& parser, Options const& options)

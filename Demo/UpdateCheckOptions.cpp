@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 
 #include <optional>
+#include <stdexcept>
 
 namespace Pelnar::Demo
 {
@@ -16,7 +17,14 @@ constexpr int MAX_TIMEOUT_SECONDS = 3600;
 
 std::optional<Core::Version> ParseVersion(QString const& text)
 {
-    return Util::TryVersionFromString(text, QStringLiteral("."));
+    try
+    {
+        return Util::VersionFromString(text, QStringLiteral("."));
+    }
+    catch (std::invalid_argument const&)
+    {
+        return std::nullopt;
+    }
 }
 
 UsageError BadValue(QCommandLineOption const& option, QString const& value, QString const& expected)

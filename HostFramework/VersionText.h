@@ -7,8 +7,6 @@
 
 #include <QString>
 
-#include <optional>
-
 namespace Pelnar::Util
 {
 
@@ -22,9 +20,6 @@ enum class VersionToStringDetail
 /// components are absent. Anything else (blanks, signs, letters, digits of other scripts, an empty component) throws
 /// std::invalid_argument with a text that names \a text.
 PELNAR_EXPORT Core::Version VersionFromString(QString const& text, QString const& separator);
-
-/// The same parser for callers to whom malformed text is ordinary: nothing instead of an exception. Never throws.
-PELNAR_EXPORT std::optional<Core::Version> TryVersionFromString(QString const& text, QString const& separator) noexcept;
 
 /// The components that \a detail asks for, in decimal, joined by \a separator; empty for the invalid version.
 PELNAR_EXPORT QString VersionToString(Core::Version const& version, VersionToStringDetail detail,

@@ -3,7 +3,6 @@
 #include "HostFramework/Reference/SettingsFile_p.h"
 #include "HostFramework/VersionText.h"
 
-#include <optional>
 #include <stdexcept>
 
 namespace Pelnar::App
@@ -20,13 +19,17 @@ Customization ReadCustomization(QString const& iniPath)
     SettingsFile const settings(iniPath);
     QString const versionKey = QStringLiteral("Version");
     QString const versionText = settings.RequiredText(SECTION, versionKey);
-    std::optional<Core::Version> const version = Util::TryVersionFromString(versionText, QStringLiteral("."));
-    if (!version)
+    Core::Version version;
+    try
+    {
+        version = Util::VersionFromString(versionText, QStringLiteral("."));
+    }
+    catch (std::invalid_argument const&)
     {
         throw std::runtime_error(settings.Describe(SECTION, versionKey) + ": \"" + versionText.toStdString() +
                                  "\" is not a version: one to four numbers separated by \".\" are expected");
     }
-    return {settings.RequiredText(SECTION, QStringLiteral("DisplayName")).toStdString(), *version,
+    return {settings.RequiredText(SECTION, QStringLiteral("DisplayName")).toStdString(), version,
             settings.RequiredText(SECTION, QStringLiteral("BundleNameFirstPart")).toStdString(),
             settings.RequiredText(SECTION, QStringLiteral("BundleNameSecondPart")).toStdString()};
 }

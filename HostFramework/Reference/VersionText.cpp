@@ -1,6 +1,7 @@
 #include "HostFramework/VersionText.h"
 
 #include <limits>
+#include <optional>
 #include <stdexcept>
 
 namespace Pelnar::Util
@@ -46,9 +47,7 @@ bool SkipSeparator(QChar const*& position, QChar const* end, QString const& sepa
     return true;
 }
 
-} // namespace
-
-std::optional<Core::Version> TryVersionFromString(QString const& text, QString const& separator) noexcept
+std::optional<Core::Version> Parse(QString const& text, QString const& separator) noexcept
 {
     std::int32_t components[Core::Version::COMPONENT_COUNT] = {Core::Version::ABSENT, Core::Version::ABSENT,
                                                                Core::Version::ABSENT, Core::Version::ABSENT};
@@ -73,9 +72,11 @@ std::optional<Core::Version> TryVersionFromString(QString const& text, QString c
     return std::nullopt;
 }
 
+} // namespace
+
 Core::Version VersionFromString(QString const& text, QString const& separator)
 {
-    if (std::optional<Core::Version> const version = TryVersionFromString(text, separator))
+    if (std::optional<Core::Version> const version = Parse(text, separator))
     {
         return *version;
     }

@@ -1,6 +1,6 @@
 #include "Publisher/choice/ClientOptions.h"
 
-#include "HostFramework/VersionText.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
 
 namespace Pelnar::Publisher
 {
@@ -17,12 +17,12 @@ Problem BadVersion(QString const& option, QString const& text)
 
 std::variant<NamedVersion, Problem> ParseLocalVersion(QString const& option, QString const& text)
 {
-    std::optional<Core::Version> const version = Util::TryVersionFromString(text, QStringLiteral("."));
-    if (!version)
+    Core::Version const version = App::Session::VersionFromStringNoexcept(text);
+    if (!version.IsValid())
     {
         return BadVersion(option, text);
     }
-    return NamedVersion{text, *version};
+    return NamedVersion{text, version};
 }
 
 std::variant<NamedVersion, Problem> ParseSystemVersion(QString const& option, QString const& text)

@@ -72,6 +72,10 @@ id PropertyValue(QVariant const& value)
 {
     Updater().calls.emplace_back(automaticallyChecksForUpdates ? "setAutomaticallyChecksForUpdates:YES"
                                                                : "setAutomaticallyChecksForUpdates:NO");
+    if (Updater().onSetAutomaticChecks)
+    {
+        Updater().onSetAutomaticChecks();
+    }
 }
 
 - (BOOL)sendsSystemProfile

@@ -9,6 +9,8 @@
 #include <QPushButton>
 #include <QTranslator>
 
+#include <stdexcept>
+
 namespace
 {
 
@@ -279,6 +281,115 @@ TEST_F(SessionDialog, DialogsHaveTheContextsParent)
             box->close();
         });
     EXPECT_TRUE(parent.children().isEmpty()) << "the dialogs are gone";
+}
+
+struct FailingGetter
+{
+    char const* name;
+    std::function<QWidget*()> getter;
+};
+
+void PrintTo(FailingGetter const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class FailingParentGetter : public SessionDialog, public ::testing::WithParamInterface<FailingGetter>
+{
+protected:
+    void ExpectRecord()
+    {
+        ASSERT_EQ(Log().Of(google::GLOG_ERROR).size(), m_errors);
+        EXPECT_EQ(Log().Of(google::GLOG_ERROR).back().line, 466);
+        EXPECT_EQ(Log()
+                      .Of(google::GLOG_ERROR)
+                      .back()
+                      .text.find("QWidget *Pelnar::App::SparkleManager::Impl::DialogParent() const: "),
+                  0U);
+    }
+    std::size_t m_errors = 1;
+};
+
+TEST_P(FailingParentGetter, CountsAsNoParentOfReadyToInstall)
+{
+    Context().parentWidgetGetter = GetParam().getter;
+    OfferAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->parentWidget(), nullptr);
+            ClickButton(box, QStringLiteral("Install and Relaunch"));
+        });
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{true, true}})) << "once";
+    EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING);
+    ExpectRecord();
+}
+
+TEST_P(FailingParentGetter, CountsAsNoParentOfTheError)
+{
+    Context().parentWidgetGetter = GetParam().getter;
+    m_errors = 2; // the aborted installation is recorded first
+    FailAnd(
+        [](QMessageBox* box)
+        {
+            EXPECT_EQ(box->parentWidget(), nullptr);
+            box->close();
+        });
+    ExpectRecord();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, FailingParentGetter,
+    ::testing::Values(FailingGetter{"Throws", []() -> QWidget* { throw std::runtime_error("no parent"); }},
+                      FailingGetter{"ThrowsNoStandardException", []() -> QWidget* { throw 7; }},
+                      FailingGetter{"Raises", []() -> QWidget* { RaiseException(QStringLiteral("raised")); }}),
+    [](auto const& info) { return std::string(info.param.name); });
+
+TEST_F(SessionDialog, ParentGetterMayReplaceItsOwnContext)
+{
+    auto own = std::make_shared<Pelnar::App::SparkleUpdateContext>(Context());
+    own->remoteVersion = Version(6, 1, 2);
+    own->parentWidgetGetter = [this, sentinel = std::make_shared<int>(7)]() -> QWidget*
+    {
+        Session().UnlockUpdaterWhenPossible();
+        EXPECT_TRUE(Session().LockUpdater(SharedContext()));
+        EXPECT_EQ(*sentinel, 7);
+        return nullptr;
+    };
+    SetFields({own, true, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
+    own.reset();
+    DialogDriver driver(READY,
+                        [](QWidget* box)
+                        {
+                            EXPECT_EQ(qobject_cast<QMessageBox*>(box)->text(),
+                                      QStringLiteral("A new version of Pelnar Studio 6 is ready to install"));
+                            ClickButton(box, QStringLiteral("Remind Me Later"));
+                        });
+    Callbacks::WillInstallOnQuit(MakeItem(QStringLiteral("6.1.2")), m_invocation);
+    ExpectRemindedLater();
+}
+
+TEST_F(SessionDialog, ParentGetterMayBeReplacedByItsOwnCall)
+{
+    Context().parentWidgetGetter = [this, sentinel = std::make_shared<int>(7)]() -> QWidget*
+    {
+        Context().parentWidgetGetter = nullptr;
+        EXPECT_EQ(*sentinel, 7);
+        return nullptr;
+    };
+    OfferAnd([](QMessageBox* box) { box->close(); });
+    ExpectRemindedLater();
+}
+
+TEST_F(SessionDialog, SkipOfAnItemThatRaisesStillInvokes)
+{
+    LendWithRemote(State::SILENT_DOWNLOADING);
+    DialogDriver driver(READY, [](QWidget* box) { ClickButton(box, QStringLiteral("Skip This Version")); });
+    ScriptedItem const item = MakeItem(QStringLiteral("6.1"));
+    item.Properties().onRead["versionString"] = [] { RaiseException(QStringLiteral("no version")); };
+    Callbacks::WillInstallOnQuit(item, m_invocation);
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
+    EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
+    EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
 }
 
 TEST_F(SessionDialog, DialogsWithoutGetterHaveNoParent)

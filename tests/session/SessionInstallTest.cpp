@@ -192,8 +192,83 @@ TEST_F(SessionInstall, OverrideDoesNotAskTheRule)
     LendWithRemote(State::WAITING);
     SetUpdate(UpdateType::INSTALLER, Override(QStringLiteral("/opt/S.app")));
     EXPECT_EQ(Callbacks::PathToRelaunch(), QStringLiteral("/opt/S.app"));
+}
+
+struct FailingRule
+{
+    char const* name;
+    std::function<Pelnar::ioPath(Version const&)> rule;
+    char const* reason;
+};
+
+void PrintTo(FailingRule const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class FailingRelaunchRule : public SessionInstall, public ::testing::WithParamInterface<FailingRule>
+{
+};
+
+TEST_P(FailingRelaunchRule, YieldsTheRunningBundlesPath)
+{
+    Context().relaunchPathGetter = GetParam().rule;
+    LendWithRemote(State::SILENT_INSTALLING);
     SetUpdate(UpdateType::INSTALLER, {});
-    EXPECT_THROW(Callbacks::PathToRelaunch(), std::logic_error);
+    EXPECT_EQ(Callbacks::PathToRelaunch(), MainBundlePath());
+    ASSERT_EQ(Log().Of(google::GLOG_ERROR).size(), 1U);
+    LogRecord const record = Log().Of(google::GLOG_ERROR).front();
+    EXPECT_EQ(record.line, 1068);
+    EXPECT_EQ(record.text.find(PATH), 0U) << record.text;
+    EXPECT_NE(record.text.find(GetParam().reason), std::string::npos) << record.text;
+    EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, FailingRelaunchRule,
+    ::testing::Values(
+        FailingRule{"Throws", [](Version const&) -> Pelnar::ioPath { throw std::runtime_error("no rule"); }, "no rule"},
+        FailingRule{"ThrowsNoStandardException", [](Version const&) -> Pelnar::ioPath { throw 7; }, ""},
+        FailingRule{"Raises", [](Version const&) -> Pelnar::ioPath { RaiseException(QStringLiteral("raised")); },
+                    "raised"},
+        FailingRule{"CallsAnEmptyFunction",
+                    [](Version const& version) { return std::function<Pelnar::ioPath(Version const&)>()(version); },
+                    "bad_function_call"}),
+    [](auto const& info) { return std::string(info.param.name); });
+
+TEST_F(SessionInstall, RelaunchRuleMayReplaceItsOwnContext)
+{
+    auto own = std::make_shared<Pelnar::App::SparkleUpdateContext>(Context());
+    own->remoteVersion = Version(6, 1);
+    own->relaunchPathGetter =
+        [this, name = std::string("/opt/a path that is long enough to be on the heap.app")](Version const& version)
+    {
+        Session().UnlockUpdaterWhenPossible();
+        EXPECT_TRUE(Session().LockUpdater(SharedContext()));
+        EXPECT_EQ(version, Version(6, 1));
+        return Pelnar::ioPath(name);
+    };
+    SetFields({own, true, false, State::WAITING, UpdateType::INSTALLER, {}, false});
+    own.reset();
+    EXPECT_EQ(Callbacks::PathToRelaunch(), QStringLiteral("/opt/a path that is long enough to be on the heap.app"));
+    EXPECT_EQ(GetFields().context, SharedContext());
+}
+
+TEST_F(SessionInstall, OperatorThatThrowsIsAFailedCheck)
+{
+    Context().versionLess = [](Version const&, Version const&) -> bool { throw std::runtime_error("no order"); };
+    LendWithRemote(State::SILENT_DOWNLOADING);
+    Records const errors = ErrorsOfRefusedInstall();
+    ASSERT_EQ(errors.size(), 1U);
+    EXPECT_EQ(errors[0].line, 917);
+    EXPECT_NE(errors[0].text.find("no order"), std::string::npos) << errors[0].text;
+}
+
+TEST_F(SessionInstall, OperatorThatRaisesIsAFailedCheck)
+{
+    Context().versionEqual = [](Version const&, Version const&) -> bool { RaiseException(QStringLiteral("raised")); };
+    LendWithRemote(State::SILENT_DOWNLOADING);
+    EXPECT_EQ(ErrorsOfRefusedInstall().size(), 1U);
 }
 
 TEST_F(SessionInstall, WholeSilentUpdateReturnsTheSessionToIdle)

@@ -4,6 +4,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <stdexcept>
 
 namespace
 {
@@ -90,6 +91,18 @@ TEST(SessionBeginning, FirstUseMakesTheFrameworksObjectsInTheirOrder)
     EXPECT_TRUE(fields.extensions.isEmpty());
     EXPECT_FALSE(fields.bestItemIsDelta);
     EXPECT_FALSE(IsDialogClosable());
+}
+
+TEST(SessionBeginning, FirstUseThatFailsLeavesTheFrameworkNoDelegateAndCanBeRepeated)
+{
+    Updater().onSetAutomaticChecks = [] { throw std::runtime_error("no updater"); };
+    EXPECT_THROW((void)SparkleManager::GetInstance(), std::runtime_error);
+    EXPECT_FALSE(Updater().hasDelegate) << "the delegate is gone";
+    Updater().onSetAutomaticChecks = nullptr;
+    LentContext lent;
+    EXPECT_TRUE(SparkleManager::GetInstance().LockUpdater(lent.context));
+    EXPECT_TRUE(Updater().hasDelegate);
+    SetFields({});
 }
 
 } // namespace

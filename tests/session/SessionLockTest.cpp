@@ -1,4 +1,3 @@
-#include "Foundation/RaisedException.h"
 #include "tests/session/SessionFixture.h"
 
 #include <stdexcept>
@@ -286,12 +285,32 @@ TEST_F(SessionLock, WhatTheCallbackThrowsLeavesTheNotification)
     EXPECT_EQ(GetFields().state, State::WAITING) << "set before the notification";
 }
 
-TEST_F(SessionLock, FailureToSetTheFeedLeavesTheSessionLocked)
+TEST_F(SessionLock, FeedThatTheFrameworkRefusesLocksNobodyOut)
 {
+    LentContext previous;
+    SetFields({previous.context, false, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
     Updater().onSetFeedUrl = [] { RaiseException(QStringLiteral("no feed")); };
-    EXPECT_EQ(Pelnar::Foundation::ReasonRaisedBy([this] { (void)Session().LockUpdater(SharedContext()); }), "no feed");
-    EXPECT_TRUE(GetFields().locked);
+    EXPECT_FALSE(Session().LockUpdater(SharedContext())) << "refused like any other lock";
+    EXPECT_FALSE(GetFields().locked);
+    EXPECT_EQ(GetFields().context, previous.context) << "untouched";
+    EXPECT_EQ(Log().Of(google::GLOG_ERROR),
+              (Records{Error(309, "void Pelnar::App::SparkleManager::Impl::SetContext(const "
+                                  "SharedNotNullPtr<Pelnar::App::SparkleUpdateContext> &): Exception while "
+                                  "setFeedURL: no feed"),
+                       Error(570, LOCK_UPDATER + "Can't lock updater")}));
+    Updater().onSetFeedUrl = nullptr;
+    EXPECT_TRUE(Session().LockUpdater(SharedContext()));
     EXPECT_EQ(GetFields().context, SharedContext());
+}
+
+TEST_F(SessionLock, OtherExceptionOfTheFeedPropagatesAndLocksNobodyOut)
+{
+    Updater().onSetFeedUrl = [] { throw std::out_of_range("other"); };
+    EXPECT_THROW((void)Session().LockUpdater(SharedContext()), std::out_of_range);
+    EXPECT_FALSE(GetFields().locked);
+    EXPECT_EQ(GetFields().context, nullptr);
+    Updater().onSetFeedUrl = nullptr;
+    EXPECT_TRUE(Session().LockUpdater(SharedContext()));
 }
 
 } // namespace

@@ -58,6 +58,21 @@ TEST_F(VersionComparator, OrdersByTheContextsOperators)
     EXPECT_TRUE(StandardComparator().compared.empty());
 }
 
+TEST_F(VersionComparator, OperatorMayReplaceItsOwnContext)
+{
+    auto own = std::make_shared<Pelnar::App::SparkleUpdateContext>(Context());
+    own->versionEqual = [this, sentinel = std::make_shared<int>(7)](Version const&, Version const&)
+    {
+        Session().UnlockUpdaterWhenPossible();
+        EXPECT_TRUE(Session().LockUpdater(SharedContext()));
+        EXPECT_EQ(*sentinel, 7);
+        return false;
+    };
+    SetFields({own, true, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
+    own.reset();
+    EXPECT_EQ(Callbacks::CompareVersions(QStringLiteral("5.1"), QStringLiteral("5.2")), -1);
+}
+
 TEST_F(VersionComparator, EqualityWinsOverOrder)
 {
     Context().versionLess = [](Version const&, Version const&) { return true; };

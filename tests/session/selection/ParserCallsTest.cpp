@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <utility>
 #include <vector>
 
@@ -19,10 +20,18 @@ namespace Pelnar::Util
 {
 
 // The program's own definition comes before the shared library's.
-std::optional<Core::Version> TryVersionFromString(QString const& text, QString const& separator) noexcept
+Core::Version VersionFromString(QString const& text, QString const& separator)
 {
     parserCalls.emplace_back(text, separator);
-    return std::nullopt;
+    if (text.startsWith(QLatin1Char('v')))
+    {
+        return Core::Version(42);
+    }
+    if (text == QLatin1String("odd"))
+    {
+        throw 7;
+    }
+    throw std::runtime_error("malformed");
 }
 
 } // namespace Pelnar::Util
@@ -45,6 +54,12 @@ TEST(VersionFromStringNoexceptAndTheParser, OtherTextIsPassedOnAsItIsWithADotAsS
     EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral(" 5.1 ")), Version());
     ASSERT_EQ(parserCalls.size(), 1u);
     EXPECT_EQ(parserCalls[0], std::make_pair(QStringLiteral(" 5.1 "), QStringLiteral(".")));
+}
+
+TEST(VersionFromStringNoexceptAndTheParser, AnswerIsTheHostsOwn)
+{
+    EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral("v six")), Version(42));
+    EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral("odd")), Version()) << "whatever is thrown";
 }
 
 } // namespace

@@ -68,7 +68,7 @@ struct Candidate
     std::optional<Session::Judgement> judgement;
 };
 
-/// Asked for once in a process; a text that does not parse switches the system bounds of items off for good.
+/// Asked for once in a process. If the text does not parse, system bounds are ignored for the rest of the process.
 Core::Version const& SystemVersion()
 {
     static Core::Version const version = Session::VersionFromStringNoexcept(Util::OSVersion());
@@ -242,6 +242,8 @@ SUAppcastItem* SparkleManager::Impl::SelectBestOfAppcast(SUAppcast* appcast)
             bestItemIsDelta = false;
             return nil;
         }
+        // Held for the length of the choice: an operator may replace the context.
+        std::shared_ptr<SparkleUpdateContext> const lent = context;
         Contest contest(*this);
         OfferItems(*this, items, contest);
         if (!contest.Best())

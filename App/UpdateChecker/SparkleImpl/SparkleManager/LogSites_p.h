@@ -15,12 +15,16 @@ namespace Pelnar::App::Session::Sites
     SITE(UNLOCK, Progress, 292, "void Pelnar::App::SparkleManager::Impl::Unlock()")                                    \
     SITE(SET_CONTEXT, Progress, 302,                                                                                   \
          "void Pelnar::App::SparkleManager::Impl::SetContext(const SharedNotNullPtr<Pelnar::App::SparkleUpdateContext> &)") \
+    SITE(SET_CONTEXT_RAISED, Error, 309,                                                                               \
+         "void Pelnar::App::SparkleManager::Impl::SetContext(const SharedNotNullPtr<Pelnar::App::SparkleUpdateContext> &)") \
     SITE(SET_CONTEXT_FEED, Progress, 312, "")                                                                          \
     SITE(SET_STATE, Progress, 318, "void Pelnar::App::SparkleManager::Impl::SetState((anonymous namespace)::State)")   \
     SITE(EXTENSION_TYPE, Warning, 358,                                                                                 \
          "QVariantMap Pelnar::App::SparkleManager::Impl::DetectExtensions(SUAppcastItem *) const")                     \
     SITE(SAME_PRIORITIES, Error, 440,                                                                                  \
          "SUAppcastItem *Pelnar::App::SparkleManager::Impl::SelectBestValidAppcastItem(SUAppcastItem *, SUAppcastItem *) const") \
+    SITE(DIALOG_PARENT_FAILED, Error, 466,                                                                             \
+         "QWidget *Pelnar::App::SparkleManager::Impl::DialogParent() const")                                           \
     SITE(ENSURE_CONTEXT, Error, 475, "bool Pelnar::App::SparkleManager::Impl::EnsureContext() const")                  \
     SITE(ENSURE_CALLBACK, Error, 484,                                                                                  \
          "bool Pelnar::App::SparkleManager::Impl::EnsureCheckFinishedCallback() const")                                \
@@ -66,6 +70,8 @@ namespace Pelnar::App::Session::Sites
     SITE(ABORTED_UNSPECIFIED, Error, 888, "-[PelnarSparkleUpdaterDelegate updater:didAbortWithError:]")                \
     SITE(WILL_INSTALL, Progress, 903,                                                                                  \
          "-[PelnarSparkleUpdaterDelegate updater:willInstallUpdateOnQuit:immediateInstallationInvocation:]")           \
+    SITE(WILL_INSTALL_FAILED, Error, 917,                                                                              \
+         "-[PelnarSparkleUpdaterDelegate updater:willInstallUpdateOnQuit:immediateInstallationInvocation:]")           \
     SITE(SHOULD_RELAUNCH, Progress, 974, "-[PelnarSparkleUpdaterDelegate updaterShouldRelaunchApplication:]")          \
     SITE(SHOULD_RELAUNCH_UNSPECIFIED, Error, 986,                                                                      \
          "-[PelnarSparkleUpdaterDelegate updaterShouldRelaunchApplication:]")                                          \
@@ -76,6 +82,7 @@ namespace Pelnar::App::Session::Sites
          "-[PelnarSparkleUpdaterDelegate updater:didCancelInstallUpdateOnQuit:]")                                      \
     SITE(RELAUNCH_PATH, Progress, 1055, "-[PelnarSparkleUpdaterDelegate pathToRelaunchForUpdater:]")                   \
     SITE(RELAUNCH_PATH_TYPE, Error, 1063, "-[PelnarSparkleUpdaterDelegate pathToRelaunchForUpdater:]")                 \
+    SITE(RELAUNCH_PATH_FAILED, Error, 1068, "-[PelnarSparkleUpdaterDelegate pathToRelaunchForUpdater:]")               \
     SITE(RELAUNCH_PATH_ANSWER, Progress, 1074, "-[PelnarSparkleUpdaterDelegate pathToRelaunchForUpdater:]")            \
     SITE(BEST_ITEM, Progress, 1086, "-[PelnarSparkleUpdaterDelegate bestValidUpdateInAppcast:forUpdater:]")            \
     SITE(BEST_ITEM_DETECTED, Progress, 1125,                                                                           \

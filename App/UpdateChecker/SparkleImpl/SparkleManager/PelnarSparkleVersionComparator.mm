@@ -27,8 +27,10 @@ using Pelnar::Foundation::ToQString;
         {
             return [[SUStandardVersionComparator defaultComparator] compareVersion:versionA toVersion:versionB];
         }
-        return static_cast<NSComparisonResult>(OrderOfVersions(
-            ToQString(versionA), ToQString(versionB), m_impl->context->versionLess, m_impl->context->versionEqual));
+        // Held for the length of the calls: an operator may replace the context.
+        std::shared_ptr<Pelnar::App::SparkleUpdateContext> const lent = m_impl->context;
+        return static_cast<NSComparisonResult>(
+            OrderOfVersions(ToQString(versionA), ToQString(versionB), lent->versionLess, lent->versionEqual));
     }
 }
 

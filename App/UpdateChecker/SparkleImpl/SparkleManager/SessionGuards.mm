@@ -47,10 +47,12 @@ bool SparkleManager::Impl::EnsureVersionOperators() const
 
 bool SparkleManager::Impl::EnsureRemoteVersionIsGreaterThanLocal() const
 {
-    Core::Version const& local = context->localVersion;
-    Core::Version const& remote = context->remoteVersion;
+    // Held for the length of the calls: an operator may replace the context.
+    std::shared_ptr<SparkleUpdateContext> const lent = context;
+    Core::Version const& local = lent->localVersion;
+    Core::Version const& remote = lent->remoteVersion;
     // Deliberate: "less" and "not equal" are both asked, though a sound pair of operators would make one enough.
-    return Ensure(context->versionLess(local, remote) && !context->versionEqual(local, remote),
+    return Ensure(lent->versionLess(local, remote) && !lent->versionEqual(local, remote),
                   Session::Sites::ENSURE_REMOTE_GREATER, "Remote version is not greater than local version");
 }
 

@@ -1,4 +1,5 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/CallbackRules_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/GuardedCall_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/HostQuit_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/RelaunchTarget_p.h"
@@ -28,6 +29,16 @@ void InvokeWith(NSInvocation* invocation, NSInteger argument, BOOL value)
     [invocation invoke];
 }
 
+/// Runs \a call; what it throws or raises ends here, on record.
+void RecordFailure(std::function<void()> const& call)
+{
+    std::optional<std::string> const failure = Session::DiagnosticOf(call);
+    if (failure)
+    {
+        Core::Write(Session::Sites::WILL_INSTALL_FAILED, *failure);
+    }
+}
+
 void StoreSkippedVersion(NSString* version)
 {
     NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
@@ -40,19 +51,25 @@ void StoreSkippedVersion(NSString* version)
 void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* invocation)
 {
     Session::WriteCurrentState(Session::Sites::WILL_INSTALL, state);
-    if (!EnsureContext() || !EnsureLocalVersion() || !EnsureRemoteVersion() || !EnsureVersionOperators() ||
-        !EnsureRemoteVersionIsGreaterThanLocal())
-    {
-        SetState(State::SILENT_ABORTING);
-        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
-        return;
-    }
-    switch (Session::AskReadyToInstall(InstalledApplicationName(), context->remoteVersion, DialogParent(), closeDialog))
+    // The invocation runs once on every path: what fails until then, an operator of the context say, declines.
+    ReadyToInstallAnswer answer = ReadyToInstallAnswer::RemindLater;
+    RecordFailure(
+        [this, &answer]
+        {
+            if (IsInstallable())
+            {
+                // Read first: the parent's getter may replace the context.
+                QString const name = InstalledApplicationName();
+                Core::Version const version = context->remoteVersion;
+                answer = Session::AskReadyToInstall(name, version, DialogParent(), closeDialog);
+            }
+        });
+    switch (answer)
     {
     case ReadyToInstallAnswer::SkipThisVersion:
         SetState(State::SILENT_ABORTING);
         // Before the invocation: it may end the process.
-        StoreSkippedVersion([item versionString]);
+        RecordFailure([item] { StoreSkippedVersion([item versionString]); });
         InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
         return;
     case ReadyToInstallAnswer::InstallAndRelaunch:
@@ -64,6 +81,12 @@ void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* 
         InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
         return;
     }
+}
+
+bool SparkleManager::Impl::IsInstallable() const
+{
+    return EnsureContext() && EnsureLocalVersion() && EnsureRemoteVersion() && EnsureVersionOperators() &&
+           EnsureRemoteVersionIsGreaterThanLocal();
 }
 
 QString SparkleManager::Impl::InstalledApplicationName() const
@@ -121,8 +144,18 @@ NSString* SparkleManager::Impl::PathToRelaunch()
     Session::WriteCurrentState(Session::Sites::RELAUNCH_PATH, state);
     if (EnsureContext() && EnsureRemoteVersion())
     {
-        std::optional<QString> const path =
-            Session::RelaunchPathAfter(updateType, extensions, context->relaunchPathGetter, context->remoteVersion);
+        // Held for the length of the call: the rule may replace the context.
+        std::shared_ptr<SparkleUpdateContext> const lent = context;
+        std::optional<QString> path;
+        std::optional<std::string> const failure = Session::DiagnosticOf(
+            [this, &lent, &path] {
+                path =
+                    Session::RelaunchPathAfter(updateType, extensions, lent->relaunchPathGetter, lent->remoteVersion);
+            });
+        if (failure)
+        {
+            Core::Write(Session::Sites::RELAUNCH_PATH_FAILED, *failure);
+        }
         if (path)
         {
             return Foundation::ToNSString(*path);

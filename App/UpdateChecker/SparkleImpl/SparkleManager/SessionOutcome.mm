@@ -132,7 +132,19 @@ void SparkleManager::Impl::DidAbort(NSError* error)
 
 QWidget* SparkleManager::Impl::DialogParent() const
 {
-    return context && context->parentWidgetGetter ? context->parentWidgetGetter() : nullptr;
+    // A copy: the getter may replace itself, or the whole context.
+    std::function<QWidget*()> const getter = context ? context->parentWidgetGetter : nullptr;
+    if (!getter)
+    {
+        return nullptr;
+    }
+    QWidget* parent = nullptr;
+    std::optional<std::string> const failure = Session::DiagnosticOf([&getter, &parent] { parent = getter(); });
+    if (failure)
+    {
+        Core::Write(Session::Sites::DIALOG_PARENT_FAILED, *failure);
+    }
+    return parent;
 }
 
 } // namespace Pelnar::App

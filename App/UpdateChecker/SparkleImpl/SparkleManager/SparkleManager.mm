@@ -6,6 +6,7 @@
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
+#include "common/ScopedFunctionCall.h"
 
 namespace Pelnar::App
 {
@@ -35,7 +36,28 @@ bool SparkleManager::LockUpdater(SharedNotNullPtr<SparkleUpdateContext> const& c
         Core::Write(Session::Sites::LOCK_UPDATER_REFUSED, "Can't lock updater");
         return false;
     }
-    m_impl->SetContext(context);
+    std::shared_ptr<SparkleUpdateContext> const previous = m_impl->context;
+    bool isLent = false;
+    Core::ScopedFunctionCall const giveBackUnlessLent(
+        nullptr,
+        [this, &previous, &isLent]
+        {
+            if (!isLent)
+            {
+                m_impl->context = previous;
+                m_impl->Unlock();
+            }
+        },
+        true);
+    std::optional<std::string> const reason =
+        Foundation::ReasonRaisedBy([this, &context] { m_impl->SetContext(context); });
+    if (reason)
+    {
+        Core::Write(Session::Sites::SET_CONTEXT_RAISED, "Exception while setFeedURL: " + *reason);
+        Core::Write(Session::Sites::LOCK_UPDATER_REFUSED, "Can't lock updater");
+        return false;
+    }
+    isLent = true;
     return true;
 }
 
@@ -113,9 +135,11 @@ void SparkleManager::ShowUpdateDialog()
 void SparkleManager::RejectUpdateAndHideDialog()
 {
     WriteCurrentState(Session::Sites::REJECT, m_impl->state);
-    if (m_impl->closeDialog)
+    // A copy: what the closing sets off may show another dialog, which sets a function of its own.
+    std::function<void()> const closeDialog = m_impl->closeDialog;
+    if (closeDialog)
     {
-        m_impl->closeDialog();
+        closeDialog();
     }
 }
 
@@ -148,6 +172,18 @@ void SparkleManager::Impl::CreateUpdater()
     {
         using Foundation::Retained;
         updater = Retained<SUUpdater>::Share([SUUpdater sharedUpdater]);
+        bool isCreated = false;
+        Core::ScopedFunctionCall const detachUnlessCreated(
+            nullptr,
+            [this, &isCreated]
+            {
+                if (!isCreated)
+                {
+                    // The delegate goes with this object; the updater is the framework's and stays.
+                    [updater.Get() setDelegate:nil];
+                }
+            },
+            true);
         // The delegate hands out the comparator, and the updater may ask the delegate as soon as it has one.
         comparator =
             Retained<PelnarSparkleVersionComparator>::Adopt([[PelnarSparkleVersionComparator alloc] initWithImpl:this]);
@@ -156,6 +192,7 @@ void SparkleManager::Impl::CreateUpdater()
         [updater.Get() setDelegate:delegate.Get()];
         [updater.Get() setAutomaticallyChecksForUpdates:NO];
         [updater.Get() setSendsSystemProfile:NO];
+        isCreated = true;
     }
 }
 

@@ -43,6 +43,7 @@ public:
 
     // Lock, context and state.
     [[nodiscard]] bool Lock();
+    /// May raise what the framework raises for the feed's address; LockUpdater undoes what was done until then.
     void SetContext(SharedNotNullPtr<SparkleUpdateContext> const& newContext);
     void Unlock();
     void UnlockIfRequested();
@@ -87,7 +88,7 @@ public:
     SUAppcastItem* SelectBestOfAppcast(SUAppcast* appcast);
     void PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const;
 
-    // In the order in which they are made; see CreateUpdater for the order of the first three.
+    // The comparator is made before the delegate, which hands it out.
     Foundation::Retained<SUUpdater> updater;
     Foundation::Retained<PelnarSparkleUpdaterDelegate> delegate;
     Foundation::Retained<PelnarSparkleVersionComparator> comparator;
@@ -103,7 +104,10 @@ public:
 private:
     void ReportFoundVersion(SUAppcastItem* item);
     void WriteExtensions() const;
+    /// What the context's getter answers; null without a getter, and for one that fails, which is recorded. The getter
+    /// may replace the context.
     QWidget* DialogParent() const;
+    [[nodiscard]] bool IsInstallable() const;
     QString InstalledApplicationName() const;
 };
 

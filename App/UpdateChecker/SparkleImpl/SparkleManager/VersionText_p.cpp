@@ -11,7 +11,14 @@ Core::Version VersionFromStringNoexcept(QString const& text) noexcept
     {
         return {};
     }
-    return Util::TryVersionFromString(text, QStringLiteral(".")).value_or(Core::Version());
+    try
+    {
+        return Util::VersionFromString(text, QStringLiteral("."));
+    }
+    catch (...)
+    {
+        return {};
+    }
 }
 
 } // namespace Pelnar::App::Session

@@ -61,9 +61,9 @@ bool IsSameFile(struct stat const& a, struct stat const& b)
            a.st_ctim.tv_sec == b.st_ctim.tv_sec && a.st_ctim.tv_nsec == b.st_ctim.tv_nsec;
 }
 
-UpdateFault FaultOf(Engine::DeltaError error)
+UpdateFault FaultOf(Engine::DeltaOutcome const& outcome)
 {
-    switch (error)
+    switch (outcome.error)
     {
     case Engine::DeltaError::None:
         return UpdateFault::None;
@@ -73,6 +73,8 @@ UpdateFault FaultOf(Engine::DeltaError error)
         return UpdateFault::ContainerDamaged;
     case Engine::DeltaError::OverLimits:
         return UpdateFault::TooManyBytes;
+    case Engine::DeltaError::TreeRefused:
+        return outcome.fault;
     case Engine::DeltaError::BaseDiffers:
         return UpdateFault::DeltaBaseDiffers;
     case Engine::DeltaError::ResultDiffers:
@@ -111,7 +113,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
         {
             Engine::ThrowErrno(outcome.systemError);
         }
-        throw UpdateRefusal(FaultOf(outcome.error), outcome.systemError);
+        throw UpdateRefusal(FaultOf(outcome), outcome.systemError);
     }
     return {job.bundleName, Engine::DigestTree(bundle.Get())};
 }

@@ -17,7 +17,7 @@ using namespace Pelnar::Engine;
 void CheckManifest(Bytes bytes)
 {
     DeltaManifest manifest;
-    if (DecodeDeltaManifest(bytes, {}, manifest) != DeltaManifestError::None)
+    if (DecodeDeltaManifest(bytes, {}, manifest).error != DeltaManifestError::None)
     {
         return;
     }

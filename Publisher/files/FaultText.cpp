@@ -1,5 +1,7 @@
 #include "Publisher/files/FaultText.h"
 
+#include "Publisher/Console.h"
+
 #include <cstring>
 
 namespace Pelnar::Publisher
@@ -147,6 +149,7 @@ Words WordsFor(DeltaError error)
     switch (error)
     {
     case DeltaError::None:
+    case DeltaError::TreeRefused: // the rule that is broken says more
         break;
     case DeltaError::NotADelta:
         return {"is no delta of this format", "make one with \"delta create\""};
@@ -192,8 +195,10 @@ Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name)
 
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)
 {
-    QString const file = outcome.path.empty() ? name : name + QLatin1Char('/') + QString::fromStdString(outcome.path);
-    return ProblemWith(WordsFor(outcome.error), outcome.systemError, file);
+    QString const file =
+        outcome.path.empty() ? name : name + QLatin1Char('/') + Printable(QString::fromStdString(outcome.path));
+    return outcome.error == DeltaError::TreeRefused ? ProblemOf(outcome.fault, outcome.systemError, file)
+                                                    : ProblemWith(WordsFor(outcome.error), outcome.systemError, file);
 }
 
 } // namespace Pelnar::Publisher

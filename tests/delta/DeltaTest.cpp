@@ -265,11 +265,14 @@ TEST_F(Delta, LimitsHold)
 {
     MakeOrFail();
     DeltaLimits few;
-    few.maxEntries = 3;
+    few.tree.maxEntries = 3;
     EXPECT_EQ(Apply(few).error, DeltaError::OverLimits);
     DeltaLimits small;
-    small.maxTotalBytes = 100;
-    EXPECT_EQ(Apply(small).error, DeltaError::OverLimits);
+    small.tree.maxBytes = 100;
+    DeltaOutcome const large = Apply(small);
+    EXPECT_EQ(large.error, DeltaError::TreeRefused);
+    EXPECT_EQ(large.fault, UpdateFault::TooManyBytes);
+    EXPECT_EQ(large.path, "Program");
     DeltaLimits tight;
     tight.maxManifestBytes = 10;
     EXPECT_EQ(Apply(tight).error, DeltaError::OverLimits);
@@ -286,7 +289,10 @@ TEST_F(Delta, MakerRefusesWhatIsNoFileFolderOrLink)
 TEST_F(Delta, MakerRefusesALinkThatLeavesTheBundle)
 {
     fs::create_symlink("../../etc", New() / "out");
-    EXPECT_EQ(Make().outcome.error, DeltaError::OverLimits);
+    DeltaOutcome const outcome = Make().outcome;
+    EXPECT_EQ(outcome.error, DeltaError::TreeRefused);
+    EXPECT_EQ(outcome.fault, UpdateFault::LinkEscapes);
+    EXPECT_EQ(fs::file_size(Container()), 0u);
 }
 
 TEST_F(Delta, MakerNamesAMissingFolder)
@@ -328,6 +334,7 @@ struct ManifestRow
     char const* name;
     std::vector<DeltaEntry> entries;
     DeltaManifestError error;
+    UpdateFault fault = UpdateFault::None;
 };
 
 class ManifestRule : public testing::TestWithParam<ManifestRow>
@@ -339,8 +346,10 @@ TEST_P(ManifestRule, Holds)
     DeltaManifest const manifest{"1", "2", GetParam().entries};
     ByteBuffer const bytes = EncodeDeltaManifest(manifest);
     DeltaManifest decoded;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded), GetParam().error);
-    EXPECT_EQ(CheckDeltaManifest(manifest, {}), GetParam().error);
+    DeltaManifestVerdict const verdict = DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded);
+    EXPECT_EQ(verdict.error, GetParam().error);
+    EXPECT_EQ(FaultName(verdict.fault), FaultName(GetParam().fault));
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, GetParam().error);
     if (GetParam().error == DeltaManifestError::None)
     {
         EXPECT_EQ(decoded.entries, manifest.entries);
@@ -350,6 +359,7 @@ TEST_P(ManifestRule, Holds)
 }
 
 using Error = DeltaManifestError;
+constexpr Error TREE = Error::TreeRefused;
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ManifestRule,
@@ -357,43 +367,85 @@ INSTANTIATE_TEST_SUITE_P(
         ManifestRow{"Empty", {}, Error::None},
         ManifestRow{"FolderThenFile", {Folder("a"), Kept("a/b", "c")}, Error::None},
         ManifestRow{"SiblingBetweenFolderAndContent", {Folder("a"), Kept("a-b", "c"), Kept("a/b", "c")}, Error::None},
-        ManifestRow{"LinkInside", {Folder("a"), Link("a/l", "../b/./c")}, Error::None},
-        ManifestRow{"LinkOut", {Folder("a"), Link("a/l", "../../b")}, Error::BadLink},
-        ManifestRow{"LinkOutAndBack", {Link("l", "../old/b")}, Error::BadLink},
-        ManifestRow{"AbsoluteLink", {Link("l", "/etc/passwd")}, Error::BadLink},
-        ManifestRow{"EmptyLink", {Link("l", "")}, Error::BadLink},
-        ManifestRow{"EmptyPath", {Folder("")}, Error::BadPath},
-        ManifestRow{"AbsolutePath", {Folder("/a")}, Error::BadPath},
-        ManifestRow{"ParentComponent", {Folder("a"), Folder("a/..")}, Error::BadPath},
-        ManifestRow{"DotComponent", {Folder("./a")}, Error::BadPath},
-        ManifestRow{"DoubledSlash", {Folder("a"), Folder("a//b")}, Error::BadPath},
-        ManifestRow{"TrailingSlash", {Folder("a/")}, Error::BadPath},
-        ManifestRow{"NulInPath", {Folder(std::string("a\0b", 3))}, Error::BadPath},
-        ManifestRow{"LineFeedInPath", {Folder("a\nb")}, Error::BadPath},
-        ManifestRow{"LongComponent", {Folder(std::string(256, 'a'))}, Error::BadPath},
-        ManifestRow{"LongPath", {Folder(std::string(5000, 'a'))}, Error::BadPath},
-        ManifestRow{"SourceThatLeaves", {Kept("a", "../b")}, Error::BadPath},
-        ManifestRow{"Twice", {Folder("a"), Folder("a")}, Error::NotInOrder},
+        ManifestRow{"LinkInside", {Folder("a"), Link("a/l", "../b/./c"), Folder("b"), Kept("b/c", "c")}, Error::None},
+        ManifestRow{"NamesBeyondAscii", {Kept("e\xcc\x81", "e\xcc\x81"), Link("l", "e\xcc\x81")}, Error::None},
+        ManifestRow{"LinkOut", {Folder("a"), Link("a/l", "../../b")}, TREE, UpdateFault::LinkEscapes},
+        ManifestRow{"LinkOutAndBack", {Link("l", "../x.app/b")}, TREE, UpdateFault::LinkEscapes},
+        ManifestRow{"LinkOutThroughALink",
+                    {Folder("a"), Link("a/up", ".."), Link("l", "a/up/../x")},
+                    TREE,
+                    UpdateFault::LinkEscapes},
+        ManifestRow{"LinkToNothing", {Link("l", "b")}, TREE, UpdateFault::LinkDangles},
+        ManifestRow{"LinkUnderAFile", {Kept("f", "f"), Link("l", "f/x")}, TREE, UpdateFault::LinkDangles},
+        ManifestRow{"LinksInACircle", {Link("l", "m"), Link("m", "l")}, TREE, UpdateFault::LinkLoops},
+        ManifestRow{"AbsoluteLink", {Link("l", "/etc/passwd")}, TREE, UpdateFault::LinkEscapes},
+        ManifestRow{"EmptyLink", {Link("l", "")}, TREE, UpdateFault::LinkTargetInvalid},
+        ManifestRow{"LinkWithBackslash", {Link("l", "..\\x")}, TREE, UpdateFault::LinkTargetInvalid},
+        ManifestRow{"LinkNotUtf8", {Link("l", "\xff")}, TREE, UpdateFault::LinkTargetInvalid},
+        ManifestRow{"EmptyPath", {Folder("")}, TREE, UpdateFault::EntryDuplicate}, // the bundle's own
+        ManifestRow{"AbsolutePath", {Folder("/a")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"ParentComponent", {Folder("a"), Folder("a/..")}, TREE, UpdateFault::EntryEscapes},
+        ManifestRow{"DotComponent", {Folder("./a")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"DoubledSlash", {Folder("a"), Folder("a//b")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"TrailingSlash", {Folder("a/")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"TrailingDot", {Folder("a.")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"TrailingBlank", {Folder("a ")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"Backslash", {Folder("a\\b")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"NotUtf8", {Folder("\xff")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"NulInPath", {Folder(std::string("a\0b", 3))}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"LineFeedInPath", {Folder("a\nb")}, TREE, UpdateFault::EntryNameInvalid},
+        ManifestRow{"CaseTwins", {Kept("A", "c"), Kept("a", "c")}, TREE, UpdateFault::EntryNameClash},
+        ManifestRow{"ComposedAndDecomposedTwins",
+                    {Kept("e\xcc\x81", "c"), Kept("\xc3\xa9", "c")},
+                    TREE,
+                    UpdateFault::EntryNameClash},
+        ManifestRow{"LongComponent", {Folder(std::string(256, 'a'))}, TREE, UpdateFault::EntryNameTooLong},
+        ManifestRow{"LongPath",
+                    {Folder(std::string(250, 'a') + '/' + std::string(250, 'b') + '/' + std::string(250, 'c') + '/' +
+                            std::string(250, 'd') + '/' + std::string(250, 'e'))},
+                    TREE,
+                    UpdateFault::EntryNameTooLong},
+        ManifestRow{"PathOf5000Bytes", {Folder(std::string(5000, 'a'))}, TREE, UpdateFault::EntryNameTooLong},
+        ManifestRow{"SourceThatLeaves", {Kept("a", "../b")}, Error::BadSource},
+        ManifestRow{"AbsoluteSource", {Kept("a", "/b")}, Error::BadSource},
+        ManifestRow{"Twice", {Folder("a"), Folder("a")}, TREE, UpdateFault::EntryDuplicate},
         ManifestRow{"Backwards", {Folder("b"), Folder("a")}, Error::NotInOrder},
         ManifestRow{"WithoutItsFolder", {Kept("a/b", "c")}, Error::NotInOrder},
-        ManifestRow{"BelowALink", {Link("a", "b"), Kept("a/b", "c")}, Error::NotInOrder},
-        ManifestRow{"BelowAFile", {Kept("a", "c"), Kept("a/b", "c")}, Error::NotInOrder},
-        ManifestRow{"OneHugeFile", {Kept("a", "c", ~std::uint64_t(0))}, Error::TooManyBytes},
-        ManifestRow{"SumOverTheLimit", {Kept("a", "c", 3ull << 30), Kept("b", "c", 3ull << 30)}, Error::TooManyBytes}),
+        ManifestRow{"BelowALink", {Link("a", "b"), Kept("a/b", "c")}, TREE, UpdateFault::EntryUnderNoFolder},
+        ManifestRow{"BelowAFile", {Kept("a", "c"), Kept("a/b", "c")}, TREE, UpdateFault::EntryUnderNoFolder},
+        ManifestRow{"OneHugeFile", {Kept("a", "c", ~std::uint64_t(0))}, TREE, UpdateFault::TooManyBytes},
+        ManifestRow{"SumOverTheLimit",
+                    {Kept("a", "c", 3ull << 30), Kept("b", "c", 3ull << 30)},
+                    TREE,
+                    UpdateFault::TooManyBytes}),
     [](testing::TestParamInfo<ManifestRow> const& row) { return row.param.name; });
 
 TEST(ManifestRule, DepthIsLimited)
 {
     DeltaManifest manifest;
     std::string path;
-    for (int depth = 0; depth < 65; ++depth)
+    for (int depth = 0; depth < 64; ++depth) // the bundle's folder is the first of the 64
     {
         path += path.empty() ? "a" : "/a";
         manifest.entries.push_back(Folder(path));
     }
-    EXPECT_EQ(CheckDeltaManifest(manifest, {}), Error::BadPath);
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).fault, UpdateFault::EntryTooDeep);
     manifest.entries.pop_back();
-    EXPECT_EQ(CheckDeltaManifest(manifest, {}), Error::None);
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, Error::None);
+}
+
+TEST(ManifestRule, LinksAreCounted)
+{
+    DeltaManifest manifest{"1", "2", {Kept("f", "f")}};
+    for (int i = 0; i < 10001; ++i)
+    {
+        char name[8];
+        std::snprintf(name, sizeof name, "l%05d", i);
+        manifest.entries.push_back(Link(name, "f"));
+    }
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).fault, UpdateFault::TooManyLinks);
+    manifest.entries.pop_back();
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, Error::None);
 }
 
 struct BytesRow
@@ -410,7 +462,7 @@ class ManifestBytes : public testing::TestWithParam<BytesRow>
 TEST_P(ManifestBytes, AreRefused)
 {
     DeltaManifest decoded;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(GetParam().bytes.data(), GetParam().bytes.size()), {}, decoded),
+    EXPECT_EQ(DecodeDeltaManifest(Bytes(GetParam().bytes.data(), GetParam().bytes.size()), {}, decoded).error,
               GetParam().error);
 }
 
@@ -425,7 +477,8 @@ INSTANTIATE_TEST_SUITE_P(Rows, ManifestBytes,
                                                   {0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 2},
                                                   Error::BadNumber},
                                          BytesRow{"TooManyEntries", {0, 0, 0xC1, 0x9A, 0x0C}, Error::TooManyEntries},
-                                         BytesRow{"LongVersionText", {0x81, 2}, Error::BadPath},
+                                         BytesRow{"LongVersionText", {0x81, 2}, Error::TextTooLong},
+                                         BytesRow{"PathOf65537Bytes", {0, 0, 1, 0x81, 0x80, 4}, Error::TextTooLong},
                                          BytesRow{"UnknownKind", {0, 0, 1, 1, 'a', 5}, Error::UnknownKind},
                                          BytesRow{"UnknownFlag", {0, 0, 1, 1, 'a', 2, 2}, Error::BadFlag},
                                          BytesRow{"HalfAHash", {0, 0, 1, 1, 'a', 2, 0, 1, 9, 9}, Error::Truncated}),

@@ -1,6 +1,14 @@
 #include "tests/installer/EvilArchives.h"
 
+#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/delta/DeltaContainer.h"
+#include "tests/installer/InstallerFixture.h"
+
+#include <algorithm>
+#include <iterator>
 #include <ostream>
+#include <set>
+#include <utility>
 
 namespace Pelnar::Testing
 {
@@ -138,6 +146,81 @@ std::vector<Evil> const& EvilArchives()
         {"FileBeside", {{"README", 'f', "evil"}}, UpdateFault::BundleNotAlone},
     };
     return evils;
+}
+
+std::vector<Evil> EvilTrees()
+{
+    std::string const root = std::string(APP) + '/';
+    auto const isSaid = [&root](ForgedEntry const& entry)
+    {
+        bool const isOfAKind = entry.type == 'f' || entry.type == 'd' || entry.type == 'l';
+        return isOfAKind && entry.path.compare(0, root.size(), root) == 0 && !entry.unicodeName;
+    };
+    std::vector<Evil> trees;
+    std::copy_if(EvilArchives().begin(), EvilArchives().end(), std::back_inserter(trees),
+                 [&isSaid](Evil const& evil) { return std::all_of(evil.entries.begin(), evil.entries.end(), isSaid); });
+    return trees;
+}
+
+std::string MakeEvilDelta(Evil const& evil)
+{
+    std::vector<ForgedEntry> forged = MakeBundle("2.0");
+    forged.insert(forged.end(), evil.entries.begin(), evil.entries.end());
+    std::set<std::string> paths;
+    std::vector<Engine::DeltaEntry> entries;
+    auto const addFolder = [&entries](std::string const& path)
+    {
+        entries.emplace_back();
+        entries.back().path = path;
+    };
+    std::size_t const rootBytes = std::string(APP).size() + 1;
+    for (ForgedEntry& entry : forged)
+    {
+        entry.path.erase(0, rootBytes);
+        entry.path.erase(entry.type == 'd' ? std::min(entry.path.find_last_not_of('/') + 1, entry.path.size())
+                                           : entry.path.size());
+        paths.insert(entry.path);
+    }
+    for (ForgedEntry const& entry : forged)
+    {
+        for (std::size_t slash = entry.path.find('/', 1); slash != std::string::npos;
+             slash = entry.path.find('/', slash + 1))
+        {
+            if (paths.insert(entry.path.substr(0, slash)).second)
+            {
+                addFolder(entry.path.substr(0, slash));
+            }
+        }
+        if (entry.type == 'd')
+        {
+            entry.path.empty() ? void() : addFolder(entry.path);
+            continue;
+        }
+        Engine::DeltaEntry made;
+        made.path = entry.path;
+        made.kind = entry.type == 'l' ? Engine::DeltaEntryKind::SymbolicLink : Engine::DeltaEntryKind::Whole;
+        made.linkTarget = entry.content; // of a file: what the container brings of it
+        made.isExecutable = (entry.mode & 0100) != 0;
+        entries.push_back(std::move(made));
+    }
+    std::stable_sort(entries.begin(), entries.end(),
+                     [](Engine::DeltaEntry const& a, Engine::DeltaEntry const& b) { return a.path < b.path; });
+    std::string data;
+    for (Engine::DeltaEntry& entry : entries)
+    {
+        if (entry.kind == Engine::DeltaEntryKind::Whole)
+        {
+            std::string const content = std::exchange(entry.linkTarget, {});
+            Engine::Bytes const plain(reinterpret_cast<std::uint8_t const*>(content.data()), content.size());
+            Engine::ByteBuffer const stored = Engine::CompressForDelta(plain);
+            entry.size = plain.size();
+            entry.hash = Engine::HashOf(plain);
+            entry.wholeStored = stored.size();
+            data.append(stored.begin(), stored.end());
+        }
+    }
+    Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening({"1.0", "2.0", entries});
+    return std::string(opening.begin(), opening.end()) + data;
 }
 
 } // namespace Pelnar::Testing

@@ -6,6 +6,7 @@
 #include "tests/installer/ArchiveForge.h"
 
 #include <iosfwd>
+#include <string>
 #include <vector>
 
 namespace Pelnar::Testing
@@ -23,5 +24,10 @@ struct Evil
 void PrintTo(Evil const& evil, std::ostream* out);
 
 std::vector<Evil> const& EvilArchives();
+
+/// Those of them that a delta can say as well: files, folders and links below the bundle's folder.
+std::vector<Evil> EvilTrees();
+/// A delta to the tree of a right bundle of version 2.0 and the evil entries, every file of which it brings whole.
+std::string MakeEvilDelta(Evil const& evil);
 
 } // namespace Pelnar::Testing

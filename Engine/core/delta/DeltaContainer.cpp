@@ -67,28 +67,6 @@ bool DataFits(DeltaManifest const& manifest, std::uint64_t dataOffset, std::uint
     return rest == 0;
 }
 
-DeltaError ToDeltaError(DeltaManifestError error)
-{
-    switch (error)
-    {
-    case DeltaManifestError::None:
-        return DeltaError::None;
-    case DeltaManifestError::TooManyEntries:
-    case DeltaManifestError::TooManyBytes:
-        return DeltaError::OverLimits;
-    case DeltaManifestError::Truncated:
-    case DeltaManifestError::TrailingBytes:
-    case DeltaManifestError::BadNumber:
-    case DeltaManifestError::UnknownKind:
-    case DeltaManifestError::BadFlag:
-    case DeltaManifestError::BadPath:
-    case DeltaManifestError::NotInOrder:
-    case DeltaManifestError::BadLink:
-        break;
-    }
-    return DeltaError::Damaged;
-}
-
 } // namespace
 
 struct DeltaStream::State
@@ -199,6 +177,30 @@ ByteBuffer CompressForDelta(Bytes bytes)
     return stored;
 }
 
+DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict)
+{
+    switch (verdict.error)
+    {
+    case DeltaManifestError::None:
+        return {};
+    case DeltaManifestError::TreeRefused:
+        return {DeltaError::TreeRefused, verdict.path, 0, verdict.fault};
+    case DeltaManifestError::TooManyEntries:
+    case DeltaManifestError::TooManyBytes:
+        return {DeltaError::OverLimits, verdict.path, 0};
+    case DeltaManifestError::Truncated:
+    case DeltaManifestError::TrailingBytes:
+    case DeltaManifestError::BadNumber:
+    case DeltaManifestError::TextTooLong:
+    case DeltaManifestError::UnknownKind:
+    case DeltaManifestError::BadFlag:
+    case DeltaManifestError::BadSource:
+    case DeltaManifestError::NotInOrder:
+        break;
+    }
+    return {DeltaError::Damaged, verdict.path, 0};
+}
+
 ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest)
 {
     ByteBuffer const plain = EncodeDeltaManifest(manifest);
@@ -246,10 +248,10 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     {
         return ReadFailure();
     }
-    DeltaManifestError const error = DecodeDeltaManifest(Bytes(plain.data(), plain.size()), limits, manifest);
-    if (error != DeltaManifestError::None)
+    DeltaOutcome const outcome = OutcomeOf(DecodeDeltaManifest(Bytes(plain.data(), plain.size()), limits, manifest));
+    if (!outcome.HasSucceeded())
     {
-        return {ToDeltaError(error), {}, 0};
+        return outcome;
     }
     dataOffset = DELTA_HEADER_BYTES + storedBytes;
     return DataFits(manifest, dataOffset, fileSize) ? DeltaOutcome{} : DeltaOutcome{DeltaError::Damaged, {}, 0};

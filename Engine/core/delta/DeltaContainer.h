@@ -18,6 +18,7 @@ enum class DeltaError
     NotADelta,     ///< another file, or another version of the format
     Damaged,       ///< the container contradicts itself or ends early
     OverLimits,    ///< asks for more than the limits allow
+    TreeRefused,   ///< makes something that no archive may hold either
     BaseDiffers,   ///< a file of the old version is missing or is not the one that the delta starts from
     ResultDiffers, ///< a file came out with another hash than the manifest's
     CannotRead,    ///< the container or the old version cannot be read
@@ -27,8 +28,9 @@ enum class DeltaError
 struct DeltaOutcome
 {
     DeltaError error = DeltaError::None;
-    std::string path;    ///< the entry concerned, where there is one
-    int systemError = 0; ///< errno, where there is one
+    std::string path;                      ///< the entry concerned, where there is one
+    int systemError = 0;                   ///< errno, where there is one
+    UpdateFault fault = UpdateFault::None; ///< TreeRefused: the rule that is broken
 
     [[nodiscard]] bool HasSucceeded() const { return error == DeltaError::None; }
 };
@@ -41,6 +43,9 @@ constexpr int DELTA_WINDOW_LOG = 27;
 /// first entry begins; the data ends exactly where the file does.
 [[nodiscard]] DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, DeltaManifest& manifest,
                                              std::uint64_t& dataOffset);
+
+/// What a manifest that breaks a rule means for its container.
+[[nodiscard]] DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict);
 
 /// The header and the compressed manifest that open a container.
 [[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);

@@ -257,9 +257,9 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
         report.outcome = {DeltaError::CannotRead, error.path1().string(), error.code().value()};
         return report;
     }
-    if (CheckDeltaManifest(manifest, limits) != DeltaManifestError::None)
+    report.outcome = OutcomeOf(CheckDeltaManifest(manifest, limits));
+    if (!report.outcome.HasSucceeded())
     {
-        report.outcome = {DeltaError::OverLimits, {}, 0};
         return report;
     }
     ByteBuffer const opening = EncodeDeltaOpening(manifest);

@@ -12,6 +12,9 @@ namespace
 
 constexpr std::uint8_t EXECUTABLE_FLAG = 1;
 constexpr std::uint64_t MAX_VERSION_BYTES = 256;
+constexpr std::uint64_t MAX_PATH_BYTES = 65536; // more than the rules allow, so that it is they who refuse
+/// Stands for the bundle's folder, which has another name on every computer: the shortest that a bundle can have.
+constexpr char ROOT[] = "x.app";
 
 // Writing.
 
@@ -125,7 +128,7 @@ public:
         }
         if (size > maxBytes)
         {
-            return Fail(DeltaManifestError::BadPath), std::string();
+            return Fail(DeltaManifestError::TextTooLong), std::string();
         }
         if (size > m_rest.size())
         {
@@ -148,10 +151,10 @@ public:
         return hash;
     }
 
-    DeltaEntry Entry(DeltaLimits const& limits)
+    DeltaEntry Entry()
     {
         DeltaEntry entry;
-        entry.path = Text(limits.maxPathBytes);
+        entry.path = Text(MAX_PATH_BYTES);
         std::uint8_t const kind = Byte();
         if (kind > static_cast<std::uint8_t>(DeltaEntryKind::Whole))
         {
@@ -163,7 +166,7 @@ public:
         case DeltaEntryKind::Directory:
             return entry;
         case DeltaEntryKind::SymbolicLink:
-            entry.linkTarget = Text(limits.maxPathBytes);
+            entry.linkTarget = Text(MAX_PATH_BYTES);
             return entry;
         case DeltaEntryKind::Kept:
         case DeltaEntryKind::Patched:
@@ -183,7 +186,7 @@ public:
             entry.wholeStored = Number();
             return entry;
         }
-        entry.sourcePath = Text(limits.maxPathBytes);
+        entry.sourcePath = Text(MAX_PATH_BYTES);
         if (entry.kind == DeltaEntryKind::Kept)
         {
             entry.sourceSize = entry.size;
@@ -234,80 +237,55 @@ bool ForEachComponent(std::string_view path, Visit visit)
     }
 }
 
-bool IsControl(char character)
+/// True for a path that can only be below the folder that it is read from.
+bool IsBelow(std::string const& path)
 {
-    auto const unit = static_cast<unsigned char>(character);
-    return unit < 0x20 || unit == 0x7F;
+    return path.find('\0') == std::string::npos &&
+           ForEachComponent(path, [](std::string_view component)
+                            { return !component.empty() && component != "." && component != ".."; });
 }
 
-bool IsGoodPath(std::string const& path, DeltaLimits const& limits)
+bool HasSource(DeltaEntry const& entry)
 {
-    if (path.size() > limits.maxPathBytes || std::any_of(path.begin(), path.end(), IsControl))
-    {
-        return false;
-    }
-    std::uint64_t depth = 0;
-    return ForEachComponent(path,
-                            [&](std::string_view component)
-                            {
-                                return ++depth <= limits.maxDepth && !component.empty() && component != "." &&
-                                       component != ".." && component.size() <= 255;
-                            });
+    return entry.kind == DeltaEntryKind::Kept || entry.kind == DeltaEntryKind::Patched;
 }
 
-/// True when \a target, read from the folder of \a path, never leaves the bundle on its way.
-bool StaysInside(std::string const& path, std::string const& target)
+/// True when sizes that are added up later come nowhere near the end of their type.
+bool AreStoredSizesSane(DeltaEntry const& entry, std::uint64_t maxBytes)
 {
-    if (target.empty() || target.front() == '/' || std::any_of(target.begin(), target.end(), IsControl))
-    {
-        return false;
-    }
-    std::int64_t depth = std::count(path.begin(), path.end(), '/');
-    return ForEachComponent(target,
-                            [&depth](std::string_view component)
-                            {
-                                if (component == "..")
-                                {
-                                    --depth;
-                                }
-                                else if (component != "." && !component.empty())
-                                {
-                                    ++depth;
-                                }
-                                return depth >= 0;
-                            });
+    auto const isSane = [maxBytes](std::uint64_t size) { return size <= maxBytes; };
+    return isSane(entry.sourceSize) && isSane(entry.wholeStored) &&
+           std::all_of(entry.streamsStored.begin(), entry.streamsStored.end(), isSane);
 }
 
-DeltaManifestError CheckEntry(DeltaEntry const& entry, DeltaLimits const& limits)
+ArchiveEntryType TypeOf(DeltaEntryKind kind)
 {
-    if (!IsGoodPath(entry.path, limits))
-    {
-        return DeltaManifestError::BadPath;
-    }
-    switch (entry.kind)
+    switch (kind)
     {
     case DeltaEntryKind::Directory:
-        return DeltaManifestError::None;
+        return ArchiveEntryType::Folder;
     case DeltaEntryKind::SymbolicLink:
-        return StaysInside(entry.path, entry.linkTarget) ? DeltaManifestError::None : DeltaManifestError::BadLink;
+        return ArchiveEntryType::SymbolicLink;
     case DeltaEntryKind::Kept:
     case DeltaEntryKind::Patched:
-        if (!IsGoodPath(entry.sourcePath, limits))
-        {
-            return DeltaManifestError::BadPath;
-        }
-        break;
     case DeltaEntryKind::Whole:
-        break;
+        return ArchiveEntryType::File;
     }
-    auto const isTooLarge = [&limits](std::uint64_t size) { return size > limits.maxTotalBytes; };
-    // The last six are added up later: none may come near the end of its type.
-    if (isTooLarge(entry.size) || isTooLarge(entry.sourceSize) || isTooLarge(entry.wholeStored) ||
-        std::any_of(entry.streamsStored.begin(), entry.streamsStored.end(), isTooLarge))
-    {
-        return DeltaManifestError::TooManyBytes;
-    }
-    return DeltaManifestError::None;
+    return ArchiveEntryType::Other;
+}
+
+/// Judges \a entry as an archive's, below ROOT.
+UpdateFault Admit(ArchiveEntryPolicy& policy, DeltaEntry const& entry)
+{
+    ArchiveEntry admitted;
+    admitted.path = std::string(ROOT) + '/' + entry.path;
+    admitted.type = TypeOf(entry.kind);
+    admitted.linkTarget = entry.linkTarget;
+    admitted.size = entry.size;
+    EntryAdmission const admission = policy.Admit(admitted);
+    // An archive may write a path in several ways, a delta in one: it is used as it is.
+    bool const isPlain = admission.fault != UpdateFault::None || admission.path == admitted.path;
+    return isPlain ? admission.fault : UpdateFault::EntryNameInvalid;
 }
 
 std::string ParentOf(std::string const& path)
@@ -343,60 +321,66 @@ ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest)
     return bytes;
 }
 
-DeltaManifestError DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest)
+DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest)
 {
     Reader reader(bytes);
     manifest.baseVersion = reader.Text(MAX_VERSION_BYTES);
     manifest.targetVersion = reader.Text(MAX_VERSION_BYTES);
     std::uint64_t const count = reader.Number();
-    if (reader.Error() == DeltaManifestError::None && count > limits.maxEntries)
+    if (reader.Error() == DeltaManifestError::None && count > limits.tree.maxEntries)
     {
-        return DeltaManifestError::TooManyEntries;
+        return {DeltaManifestError::TooManyEntries, UpdateFault::None, {}};
     }
     manifest.entries.clear();
     for (std::uint64_t i = 0; i < count && reader.Error() == DeltaManifestError::None; ++i)
     {
-        manifest.entries.push_back(reader.Entry(limits));
+        manifest.entries.push_back(reader.Entry());
     }
     if (reader.Error() != DeltaManifestError::None)
     {
-        return reader.Error();
+        return {reader.Error(), UpdateFault::None, {}};
     }
-    return reader.IsAtEnd() ? CheckDeltaManifest(manifest, limits) : DeltaManifestError::TrailingBytes;
+    return reader.IsAtEnd() ? CheckDeltaManifest(manifest, limits)
+                            : DeltaManifestVerdict{DeltaManifestError::TrailingBytes, UpdateFault::None, {}};
 }
 
-DeltaManifestError CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits)
+DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits)
 {
-    if (manifest.entries.size() > limits.maxEntries)
-    {
-        return DeltaManifestError::TooManyEntries;
-    }
+    ArchiveEntryPolicy policy(limits.tree);
+    ArchiveEntry root;
+    root.path = ROOT;
+    root.type = ArchiveEntryType::Folder;
+    UpdateFault fault = policy.Admit(root).fault;
     std::set<std::string> folders{std::string()};
     std::string const* previous = nullptr;
-    std::uint64_t total = 0;
     for (DeltaEntry const& entry : manifest.entries)
     {
-        if (DeltaManifestError const error = CheckEntry(entry, limits); error != DeltaManifestError::None)
+        fault = fault == UpdateFault::None ? Admit(policy, entry) : fault;
+        if (fault != UpdateFault::None)
         {
-            return error;
+            return {DeltaManifestError::TreeRefused, fault, entry.path};
+        }
+        if (HasSource(entry) && !IsBelow(entry.sourcePath))
+        {
+            return {DeltaManifestError::BadSource, UpdateFault::None, entry.path};
+        }
+        if (!AreStoredSizesSane(entry, limits.tree.maxBytes))
+        {
+            return {DeltaManifestError::TooManyBytes, UpdateFault::None, entry.path};
         }
         // Folders are entries, so that nothing is ever made below a link or a file.
         if ((previous && *previous >= entry.path) || folders.count(ParentOf(entry.path)) == 0)
         {
-            return DeltaManifestError::NotInOrder;
+            return {DeltaManifestError::NotInOrder, UpdateFault::None, entry.path};
         }
         if (entry.kind == DeltaEntryKind::Directory)
         {
             folders.insert(entry.path);
         }
-        total += entry.size;
-        if (total > limits.maxTotalBytes)
-        {
-            return DeltaManifestError::TooManyBytes;
-        }
         previous = &entry.path;
     }
-    return DeltaManifestError::None;
+    fault = policy.Finish();
+    return {fault == UpdateFault::None ? DeltaManifestError::None : DeltaManifestError::TreeRefused, fault, {}};
 }
 
 } // namespace Pelnar::Engine

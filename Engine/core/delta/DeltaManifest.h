@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
 
 #include <array>
 #include <cstdint>
@@ -62,10 +63,7 @@ struct DeltaManifest
 struct DeltaLimits
 {
     std::uint64_t maxManifestBytes = 64u << 20;
-    std::uint64_t maxEntries = 200000;
-    std::uint64_t maxPathBytes = 4096;
-    std::uint64_t maxDepth = 64;
-    std::uint64_t maxTotalBytes = std::uint64_t(4) << 30; ///< of all files of the new version
+    ArchiveLimits tree; ///< of the new version: the rules are those for archives
 };
 
 enum class DeltaManifestError
@@ -74,20 +72,28 @@ enum class DeltaManifestError
     Truncated,     ///< ends inside a value
     TrailingBytes, ///< goes on after the last entry
     BadNumber,     ///< longer than needed, or over 64 bits
+    TextTooLong,
     UnknownKind,
     BadFlag,
-    BadPath,    ///< empty, absolute, with an empty, "." or ".." component, a NUL or control byte, too long or deep
-    NotInOrder, ///< not after the entry before it, or in a folder that is no entry before it
-    BadLink,    ///< a link target that is absolute or leaves the bundle
+    BadSource,   ///< a path in the old version that is empty, absolute or leads out of it
+    NotInOrder,  ///< not after the entry before it, or in a folder that is no entry before it
+    TreeRefused, ///< no archive may hold what the entries make either
     TooManyEntries,
-    TooManyBytes, ///< sizes that pass the limits or overflow
+    TooManyBytes, ///< sizes of stored data that pass the limits
+};
+
+struct DeltaManifestVerdict
+{
+    DeltaManifestError error = DeltaManifestError::None;
+    UpdateFault fault = UpdateFault::None; ///< for TreeRefused: the rule that is broken
+    std::string path;                      ///< of the entry that breaks a rule, where it is one
 };
 
 /// REQUIRES: a manifest that CheckDeltaManifest accepts.
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
-/// Reads \a bytes, whole, and holds them to every rule; \a manifest is complete only when the answer is None.
-[[nodiscard]] DeltaManifestError DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
+/// Reads \a bytes, whole, and holds them to every rule; \a manifest is complete only when the error is None.
+[[nodiscard]] DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules that a decoded manifest keeps, for one that is being made.
-[[nodiscard]] DeltaManifestError CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);
+[[nodiscard]] DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);
 
 } // namespace Pelnar::Engine

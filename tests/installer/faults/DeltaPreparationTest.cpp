@@ -3,6 +3,7 @@
 
 #include "Engine/core/delta/DeltaContainer.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/installer/EvilArchives.h"
 #include "tests/installer/FaultChecks.h"
 
 #include <gtest/gtest.h>
@@ -96,13 +97,13 @@ void ChangeHashOf(DeltaManifest& manifest, DeltaEntryKind kind)
     EntryOf(manifest, kind).hash[0] ^= 1;
 }
 
-/// Where the data of the patched entry begins.
-std::size_t OffsetOfPatch(DeltaManifest& manifest)
+/// Where the data of the first entry of that kind begins.
+std::size_t OffsetOf(DeltaManifest const& manifest, DeltaEntryKind kind)
 {
     std::size_t offset = 0;
     for (DeltaEntry const& entry : manifest.entries)
     {
-        if (entry.kind == DeltaEntryKind::Patched)
+        if (entry.kind == kind)
         {
             break;
         }
@@ -124,10 +125,28 @@ void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint6
         steps.push_back(static_cast<std::uint8_t>(number));
     }
     ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()));
-    std::size_t const offset = OffsetOfPatch(manifest);
+    std::size_t const offset = OffsetOf(manifest, DeltaEntryKind::Patched);
     DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
     data.replace(offset, entry.streamsStored[0], TextOf(stored));
     entry.streamsStored[0] = stored.size();
+}
+
+/// The right delta with bytes between the end of one of the patch's frames and where its place in the container ends.
+template <std::size_t STREAM>
+std::string DeltaWithBytesBehindAFrame()
+{
+    return DeltaWith(
+        [](DeltaManifest& manifest, std::string& data)
+        {
+            DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
+            std::size_t offset = OffsetOf(manifest, DeltaEntryKind::Patched);
+            for (std::size_t i = 0; i <= STREAM; ++i)
+            {
+                offset += entry.streamsStored[i];
+            }
+            data.insert(offset, "evil");
+            entry.streamsStored[STREAM] += 4;
+        });
 }
 
 std::string AppIn(UpdateScene const& scene)
@@ -284,7 +303,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"PathThatLeavesTheBundle",
             []
             { return DeltaWith([](DeltaManifest& manifest, std::string&) { manifest.entries[0].path = "../evil"; }); },
-            &LeaveAlone, UpdateFault::ContainerDamaged},
+            &LeaveAlone, UpdateFault::EntryEscapes},
         Row{"SourceThatLeavesTheBundle",
             []
             {
@@ -298,6 +317,28 @@ INSTANTIATE_TEST_SUITE_P(
                 return DeltaWith([](DeltaManifest& manifest, std::string&)
                                  { EntryOf(manifest, DeltaEntryKind::SymbolicLink).linkTarget = "../../../etc"; });
             },
+            &LeaveAlone, UpdateFault::LinkEscapes},
+        Row{"BytesBehindTheFirstFrameOfAPatch", &DeltaWithBytesBehindAFrame<0>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheSecondFrameOfAPatch", &DeltaWithBytesBehindAFrame<1>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheThirdFrameOfAPatch", &DeltaWithBytesBehindAFrame<2>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheFourthFrameOfAPatch", &DeltaWithBytesBehindAFrame<3>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheLastFrameOfAPatch", &DeltaWithBytesBehindAFrame<4>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheFrameOfAWholeFile",
+            []
+            {
+                return DeltaWith(
+                    [](DeltaManifest& manifest, std::string& data)
+                    {
+                        DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Whole);
+                        data.insert(OffsetOf(manifest, DeltaEntryKind::Whole) + entry.wholeStored, "evil");
+                        entry.wholeStored += 4;
+                    });
+            },
             &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"DataTooShort", [] { return RightDelta().substr(0, RightDelta().size() - 1); }, &LeaveAlone,
             UpdateFault::ContainerDamaged},
@@ -305,5 +346,37 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"ArchiveInstead", [] { return MakeArchive(Container::Zip, MakeBundle("2.0")); }, &LeaveAlone,
             UpdateFault::ContainerUnknown}),
     [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
+
+class EvilTreeOfADelta : public testing::TestWithParam<Evil>
+{
+};
+
+TEST_P(EvilTreeOfADelta, IsRefusedAsItIsInAnArchive)
+{
+    UpdateScene scene(MakeEvilDelta(GetParam()));
+    HelperOutcome const outcome = scene.Prepare(DeltaJob(scene));
+    EXPECT_EQ(outcome.exitStatus, 1);
+    // In a delta the link comes before what lies below it.
+    bool const isOrdered = GetParam().name == std::string("ImpliedFolderThenLink");
+    EXPECT_EQ(outcome.Fault(), isOrdered ? UpdateFault::EntryUnderNoFolder : GetParam().fault);
+    EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+    EXPECT_TRUE(scene.Place().Names(scene.StagingName() + '/' + APP).empty());
+    EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta, testing::ValuesIn(EvilTrees()),
+                         [](testing::TestParamInfo<Evil> const& info) { return info.param.name; });
+
+TEST(Delta, TreeWithoutEvilIsMadeByTheSameForge)
+{
+    UpdateScene scene(MakeEvilDelta({"None", {}, UpdateFault::None}));
+    HelperOutcome const outcome = scene.Prepare(DeltaJob(scene));
+    EXPECT_EQ(outcome.Fault(), UpdateFault::None);
+    Workspace const fresh;
+    fresh.Put(MakeBundle("2.0"));
+    auto const* prepared = outcome.Find<PreparedReport>();
+    ASSERT_NE(prepared, nullptr);
+    EXPECT_TRUE(prepared->digest == TreeOf(fresh.Path() + '/' + APP));
+}
 
 } // namespace

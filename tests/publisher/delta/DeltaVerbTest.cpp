@@ -1,6 +1,7 @@
 // DeltaVerbTest.cpp: the verb "delta".
 
 #include "Engine/core/payload/TreeManifest.h"
+#include "tests/installer/EvilArchives.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"
 
@@ -9,6 +10,8 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonObject>
+
+#include <algorithm>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -102,6 +105,29 @@ TEST_F(DeltaVerb, FoldersServeAsWellAsArchives)
     Folder().Put(MakeGrowingBundle("2.0"), "new/");
     ASSERT_EQ(Create(std::string("old/") + APP, std::string("new/") + APP).status, 0);
     EXPECT_EQ(ContentOf("d.delta"), fromArchives);
+}
+
+TEST_F(DeltaVerb, TreesThatNoArchiveMayHoldAreRefusedFromADeltaAndInOne)
+{
+    for (Evil const& evil : EvilTrees())
+    {
+        SCOPED_TRACE(evil.name);
+        Put("d.delta", MakeEvilDelta(evil));
+        ToolRun const applied = Apply("old.zip", "made.app");
+        EXPECT_EQ(applied.status, 2) << applied.err;
+        EXPECT_EQ(std::count(applied.err.begin(), applied.err.end(), '\n'), 1) << applied.err;
+        EXPECT_EQ(Show().status, 2);
+        std::vector<std::string> const names = Names();
+        EXPECT_EQ(std::count(names.begin(), names.end(), "made.app"), 0);
+    }
+    Folder().Put({{"new", 'd', {}, 0755}});
+    Folder().Put(MakeGrowingBundle("2.0"), "new/");
+    Folder().Put({{"x", 'f', "x"}, {"X", 'f', "x"}}, std::string("new/") + APP + '/');
+    ASSERT_TRUE(QFile::remove(PathOf("d.delta")));
+    ToolRun const created = Create("old.zip", std::string("new/") + APP);
+    EXPECT_EQ(created.status, 2);
+    EXPECT_NE(created.err.find("/x: two entries differ only in case"), std::string::npos) << created.err;
+    EXPECT_FALSE(QFile::exists(PathOf("d.delta")));
 }
 
 TEST_F(DeltaVerb, ShowTellsWhatIsKeptPatchedAndWhole)

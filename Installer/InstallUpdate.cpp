@@ -7,6 +7,7 @@
 #include "Installer/RecoverSwap.h"
 #include "Installer/RunInstaller.h"
 #include "Installer/SwapBundle.h"
+#include "Installer/SwapLock.h"
 #include "Installer/WatchStart.h"
 
 #include <cerrno>
@@ -99,7 +100,8 @@ UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors
 
 void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, int stagedFd)
 {
-    bool const isInPlace = IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
+    bool const isInPlace = Engine::IsPrivateFolder(descriptors.staging) &&
+                           IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
                            IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
     if (!isInPlace || Engine::DigestTree(stagedFd) != job.digest)
     {
@@ -126,7 +128,7 @@ Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
 /// Everything between the host's end and the relaunch.
 void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
 {
-    SwapLock const lock(descriptors.parent);
+    SwapLock const lock(descriptors.parent, job.targetName);
     // The version that asked for this has run: what an earlier update kept for it is not needed any more.
     static_cast<void>(
         RecoverSwap(descriptors.parent, {job.targetName, job.installedVersion, Engine::RecoverPurpose::Confirmation}));
@@ -191,7 +193,7 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
 {
     try
     {
-        SwapLock const lock(descriptors.parent);
+        SwapLock const lock(descriptors.parent, job.targetName);
         Engine::RecoveryAction const action = RecoverSwap(descriptors.parent, {job.targetName, {}}).action;
         if (action != Engine::RecoveryAction::Nothing)
         {

@@ -31,6 +31,11 @@ using Engine::UniqueFd;
 
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
+bool HasName(int folderFd, std::string const& name)
+{
+    return ::faccessat(folderFd, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+}
+
 TargetState LookAtTarget(int parentFd, std::string const& targetName, SwapJournal const& journal)
 {
     struct stat status;
@@ -59,6 +64,14 @@ std::string FindPrevious(UniqueFd const& staging, SwapJournal const& journal)
         }
     }
     return {};
+}
+
+/// The folder that the journal names, if it is one of this bundle's that nobody else has made or can enter.
+UniqueFd OpenStaging(int parentFd, std::string const& targetName, std::string const& name)
+{
+    std::string const prefix = Engine::UpdateFilePrefix(targetName);
+    UniqueFd folder(name.compare(0, prefix.size(), prefix) == 0 ? ::openat(parentFd, name.c_str(), FOLDER_FLAGS) : -1);
+    return folder && Engine::IsPrivateFolder(folder.Get()) ? std::move(folder) : UniqueFd();
 }
 
 /// A staging folder that \a name names and nobody holds: an open descriptor with its lock, else nothing.
@@ -126,13 +139,18 @@ void RollBack(int parentFd, std::string const& targetName, UniqueFd const& stagi
 RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal const& journal,
                         std::uint64_t countedStarts)
 {
-    UniqueFd const staging(::openat(parentFd, journal.stagingName.c_str(), FOLDER_FLAGS));
+    UniqueFd const staging = OpenStaging(parentFd, job.targetName, journal.stagingName);
     std::string const previousName = FindPrevious(staging, journal);
+    TargetState const target = LookAtTarget(parentFd, job.targetName, journal);
+    if (target == TargetState::Missing && !staging && HasName(parentFd, journal.stagingName))
+    {
+        throw Engine::UpdateRefusal(
+            Engine::UpdateFault::StagedTreeChanged); // it may hold the last version that is left
+    }
     bool const awaitsHost =
         journal.confirmation == StartConfirmation::ByHost && job.purpose != Engine::RecoverPurpose::Confirmation;
-    RecoveryAction const decided =
-        Engine::DecideRecovery({LookAtTarget(parentFd, job.targetName, journal), !previousName.empty(),
-                                job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
+    RecoveryAction const decided = Engine::DecideRecovery(
+        {target, !previousName.empty(), job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
     bool const isOneMoreStart = decided == RecoveryAction::CountedStart || decided == RecoveryAction::RolledBack;
     RecoveryAction const action =
         isOneMoreStart && IsLastStartedRunning(journal) ? RecoveryAction::KeptPrevious : decided;
@@ -171,16 +189,16 @@ bool IsStagingKept(RecoveryAction action)
            action == RecoveryAction::RolledBack;
 }
 
-/// The version that was taken back for the running one. The note goes once any other version runs.
+/// The version that was taken back for the running one. The note goes once any other version runs, and so does one that
+/// counts for nothing.
 std::string FailedVersionFor(int parentFd, Engine::RecoverJob const& job)
 {
     std::string const name = Engine::FailedVersionName(job.targetName);
-    std::string const bytes = job.runningVersion.empty() ? std::string() : Engine::ReadNote(parentFd, name);
-    if (bytes.empty())
+    if (job.runningVersion.empty())
     {
         return {};
     }
-    auto const failed = Engine::DecodeFailedVersion(bytes);
+    auto const failed = Engine::DecodeFailedVersion(Engine::ReadNote(parentFd, name));
     if (failed && failed->fromVersion == job.runningVersion)
     {
         return failed->toVersion;
@@ -201,7 +219,7 @@ Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
         recovery.action = CarryOut(parentFd, job, *journal, journal->countedStarts);
         keptName = IsStagingKept(recovery.action) ? journal->stagingName : std::string();
     }
-    else if (::faccessat(parentFd, job.targetName.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
+    else if (HasName(parentFd, job.targetName))
     {
         // One that cannot be read says nothing of a bundle that is there.
         Engine::RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));

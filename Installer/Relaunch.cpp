@@ -1,5 +1,6 @@
 #include "Installer/Relaunch.h"
 
+#include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Installer/BundleInformation.h"

@@ -8,11 +8,8 @@
 
 #include <fcntl.h>
 #include <linux/fs.h>
-#include <signal.h>
 #include <stdio.h>
-#include <sys/file.h>
 #include <sys/syscall.h>
-#include <sys/time.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -25,38 +22,6 @@ using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-constexpr long LOCK_SECONDS = 60;
-constexpr long LOCK_REPEAT_SECONDS = 1; // for a signal that comes before the call it is to interrupt
-
-void OnAlarm(int) {}
-
-/// Interrupts a waiting system call once its time is over.
-class AlarmScope
-{
-public:
-    explicit AlarmScope(long seconds)
-    {
-        struct sigaction action
-        {
-        };
-        action.sa_handler = &OnAlarm; // without SA_RESTART: the call ends with EINTR
-        ::sigaction(SIGALRM, &action, &m_previous);
-        itimerval const timer{{LOCK_REPEAT_SECONDS, 0}, {seconds, 0}};
-        ::setitimer(ITIMER_REAL, &timer, nullptr);
-    }
-    ~AlarmScope()
-    {
-        itimerval const off{};
-        ::setitimer(ITIMER_REAL, &off, nullptr);
-        ::sigaction(SIGALRM, &m_previous, nullptr);
-    }
-    AlarmScope(AlarmScope const&) = delete;
-    AlarmScope& operator=(AlarmScope const&) = delete;
-
-private:
-    struct sigaction m_previous;
-};
-
 bool Rename(int fromFd, std::string const& from, int toFd, std::string const& to)
 {
     return ::renameat(fromFd, from.c_str(), toFd, to.c_str()) == 0;
@@ -98,21 +63,6 @@ void MoveInTurn(int parentFd, std::string const& targetName, int stagingFd, std:
 }
 
 } // namespace
-
-SwapLock::SwapLock(int parentFd)
-    // An opening of its own: an inherited one would share the lock with whoever inherited it too.
-    : m_folder(::openat(parentFd, ".", FOLDER_FLAGS))
-{
-    if (!m_folder)
-    {
-        Engine::ThrowErrno(errno);
-    }
-    AlarmScope const alarm(LOCK_SECONDS);
-    if (::flock(m_folder.Get(), LOCK_EX) != 0)
-    {
-        throw UpdateRefusal(UpdateFault::LockTimedOut, errno);
-    }
-}
 
 std::optional<std::string> VersionOf(int folderFd, std::string const& name)
 {

@@ -11,17 +11,6 @@
 namespace Pelnar::Installer
 {
 
-/// The kernel's lock on everything that is swapped in one folder; it goes with the object, or with the process.
-class SwapLock
-{
-public:
-    /// Waits for the lock on the folder open at \a parentFd. Throws UpdateRefusal: LockTimedOut.
-    explicit SwapLock(int parentFd);
-
-private:
-    Engine::UniqueFd m_folder;
-};
-
 /// The version of the bundle \a name in the folder; nothing when it cannot be told.
 std::optional<std::string> VersionOf(int folderFd, std::string const& name);
 

@@ -6,6 +6,7 @@
 #include "Installer/RecoverSwap.h"
 #include "Installer/Relaunch.h"
 #include "Installer/SwapBundle.h"
+#include "Installer/SwapLock.h"
 
 #include <cerrno>
 
@@ -78,6 +79,10 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
         pollfd waiting[] = {{ended.Get(), POLLIN, 0}, {watch.Get(), POLLIN, 0}};
         if (::poll(waiting, 2, -1) < 0)
         {
+            if (errno != EINTR)
+            {
+                return StartEnd::Settled;
+            }
             continue;
         }
         Drain(watch);
@@ -85,7 +90,7 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
         {
             int status = 0;
             bool const isReaped = ::waitpid(process, &status, 0) == process;
-            SwapLock const lock(parentFd); // a confirmation that is on its way counts
+            SwapLock const lock(parentFd, job.targetName); // a confirmation that is on its way counts
             bool const isSettled = !isReaped || IsEndedOnPurpose(status) || !AwaitsConfirmation(job, parentFd);
             return isSettled ? StartEnd::Settled : StartEnd::Failed;
         }
@@ -172,7 +177,7 @@ bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& rep
     }
     Engine::RecoveryAction action = Engine::RecoveryAction::Nothing;
     {
-        SwapLock const lock(parentFd);
+        SwapLock const lock(parentFd, job.targetName);
         action = AwaitsConfirmation(job, parentFd) ? RollBackSwap(parentFd, job.targetName) : action;
     }
     report.Send(Engine::RecoveredReport{action});

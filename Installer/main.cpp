@@ -1,12 +1,13 @@
 // The installer's helper. It takes one word, "prepare", "install" or "recover", and everything else from inherited
 // descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other argument.
 
+#include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Installer/InstallUpdate.h"
 #include "Installer/PrepareUpdate.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/ReportChannel.h"
-#include "Installer/SwapBundle.h"
+#include "Installer/SwapLock.h"
 
 #include <cerrno>
 #include <exception>
@@ -78,6 +79,15 @@ void RequireFolder(int descriptor)
     }
 }
 
+void RequireStaging()
+{
+    RequireFolder(HelperDescriptors::STAGING);
+    if (!Engine::IsPrivateFolder(HelperDescriptors::STAGING))
+    {
+        throw UpdateRefusal(UpdateFault::DescriptorUnusable);
+    }
+}
+
 Engine::UpdateJob ReadJob()
 {
     std::string bytes(Engine::UPDATE_JOB_MAX_BYTES + 1, '\0');
@@ -118,7 +128,7 @@ bool Prepare(Installer::ReportChannel& report)
 {
     // Nobody reads the report any more when the host has gone: then SIGPIPE ends this process, which is right.
     auto const job = ReadJobOfKind<Engine::PrepareJob>();
-    RequireFolder(HelperDescriptors::STAGING);
+    RequireStaging();
     bool const hasTarget = job.kind != Engine::PayloadKind::WholeBundle;
     if (hasTarget)
     {
@@ -138,7 +148,7 @@ bool Install(Installer::ReportChannel& report)
     ::setsid();
     auto const job = ReadJobOfKind<Engine::InstallJob>();
     RequireFolder(HelperDescriptors::PARENT);
-    RequireFolder(HelperDescriptors::STAGING);
+    RequireStaging();
     return Installer::InstallUpdate(
         job, {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST}, report);
 }
@@ -148,7 +158,7 @@ bool Recover(Installer::ReportChannel& report)
     ::signal(SIGPIPE, SIG_IGN);
     auto const job = ReadJobOfKind<Engine::RecoverJob>();
     RequireFolder(HelperDescriptors::PARENT);
-    Installer::SwapLock const lock(HelperDescriptors::PARENT);
+    Installer::SwapLock const lock(HelperDescriptors::PARENT, job.targetName);
     Installer::Recovery const recovery = Installer::RecoverSwap(HelperDescriptors::PARENT, job);
     bool const isTellable = recovery.failedVersion.size() <= Engine::HELPER_REPORT_MAX_TEXT_BYTES;
     if (!recovery.failedVersion.empty() && isTellable)

@@ -702,6 +702,42 @@
         <translation>لم يبدأ التطبيق بعد تحديثه. شغّله يدويًا.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>لا يمكن قفل الملفات في مكان تثبيت التطبيق: انقله إلى مجلد على قرص محلي.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>القرص الذي يحتوي على التطبيق لا يحتفظ بأذونات الملفات: انقل التطبيق إلى قرص آخر.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>يمكن لمستخدمين آخرين تغيير المجلد الذي يحتوي على التطبيق: انقل التطبيق إلى مجلد خاص بك.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>لا يوفر هذا النظام pidfd_open الذي تحتاج إليه التحديثات: ثبّت نواة أحدث، أو اسمح بهذا الاستدعاء في الحاوية أو في بيئة العزل.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>لا يوفر هذا النظام memfd_create الذي تحتاج إليه التحديثات: ثبّت نواة أحدث، أو اسمح بهذا الاستدعاء في الحاوية أو في بيئة العزل.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>يمكن لكل مستخدمي هذا الحاسوب الكتابة في المجلد %1 الذي يحتوي على التطبيق: انقل التطبيق إلى مجلد خاص بك وشغّله من هناك.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>يمكن لأعضاء المجموعة &quot;%1&quot; تغيير مجلد التطبيق: استخدم الأمر &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>التطبيق مثبّت في %1 حيث لا يمكن قفل الملفات: انقله إلى مجلد على قرص محلي وشغّله من هناك.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>ينتمي التطبيق الموجود في %1 إلى طبقة من نظام الملفات لا يمكن استبدالها: انسخه إلى مجلد آخر وشغّله من هناك.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>فشل التحديث لسبب غير معروف. أعد المحاولة لاحقًا.</translation>
     </message>

@@ -702,6 +702,42 @@
         <translation>Die aktualisierte Anwendung ist nicht gestartet. Starten Sie die Anwendung von Hand.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Am Speicherort der Anwendung lassen sich keine Dateien sperren: Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>Das Laufwerk, auf dem die Anwendung liegt, speichert keine Dateirechte: Verschieben Sie die Anwendung auf ein anderes Laufwerk.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Andere Benutzer dürfen den Ordner ändern, in dem die Anwendung liegt: Verschieben Sie die Anwendung in einen eigenen Ordner.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dieses System bietet pidfd_open nicht, das für Updates nötig ist: Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dieses System bietet memfd_create nicht, das für Updates nötig ist: Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Jeder Benutzer dieses Computers darf in den Ordner %1 schreiben, in dem die Anwendung liegt: Verschieben Sie die Anwendung in einen eigenen Ordner und starten Sie sie dort.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Die Mitglieder der Gruppe „%1“ dürfen den Ordner der Anwendung ändern: Verwenden Sie den Befehl „%2“.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>Die Anwendung liegt in %1, wo sich keine Dateien sperren lassen: Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk und starten Sie sie dort.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Die Anwendung in %1 gehört zu einer Schicht des Dateisystems, die nicht ersetzt werden kann: Kopieren Sie sie in einen anderen Ordner und starten Sie sie dort.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Die Aktualisierung ist aus einem unbekannten Grund fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
     </message>

@@ -702,6 +702,42 @@
         <translation>La aplicación actualizada no se abrió: ábrala a mano.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>En el lugar donde está instalada la aplicación no se pueden bloquear archivos: muévala a una carpeta de un disco local.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>El disco que contiene la aplicación no conserva los permisos de los archivos: mueva la aplicación a otro disco.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Otros usuarios pueden modificar la carpeta que contiene la aplicación: mueva la aplicación a una carpeta propia.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Este sistema no ofrece pidfd_open, que las actualizaciones necesitan: instale un núcleo más reciente o permita la llamada en el contenedor o en el entorno aislado.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Este sistema no ofrece memfd_create, que las actualizaciones necesitan: instale un núcleo más reciente o permita la llamada en el contenedor o en el entorno aislado.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Todos los usuarios de este equipo pueden escribir en la carpeta %1, que contiene la aplicación: mueva la aplicación a una carpeta propia e iníciela allí.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Los miembros del grupo «%1» pueden modificar la carpeta de la aplicación: use la orden «%2».</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>La aplicación está instalada en %1, donde no se pueden bloquear archivos: muévala a una carpeta de un disco local e iníciela allí.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>La aplicación de %1 pertenece a una capa del sistema de archivos que no se puede reemplazar: cópiela a otra carpeta e iníciela allí.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>La actualización falló por un motivo desconocido: inténtelo de nuevo más tarde.</translation>
     </message>

@@ -702,6 +702,42 @@
         <translation>L’application mise à jour ne s’est pas ouverte&#xa0;: ouvrez-la manuellement.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Les fichiers ne peuvent pas être verrouillés là où l’application est installée&#xa0;: déplacez-la dans un dossier d’un disque local.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>Le disque qui contient l’application ne conserve pas les droits des fichiers&#xa0;: déplacez l’application sur un autre disque.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>D’autres utilisateurs peuvent modifier le dossier qui contient l’application&#xa0;: déplacez l’application dans un dossier à vous.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ce système ne fournit pas pidfd_open, dont les mises à jour ont besoin&#xa0;: installez un noyau plus récent ou autorisez cet appel dans le conteneur ou le bac à sable.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ce système ne fournit pas memfd_create, dont les mises à jour ont besoin&#xa0;: installez un noyau plus récent ou autorisez cet appel dans le conteneur ou le bac à sable.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Tous les utilisateurs de cet ordinateur peuvent écrire dans le dossier %1, qui contient l’application&#xa0;: déplacez l’application dans un dossier à vous et ouvrez-la à cet endroit.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Les membres du groupe «&#xa0;%1&#xa0;» peuvent modifier le dossier de l’application&#xa0;: utilisez la commande «&#xa0;%2&#xa0;».</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>L’application est installée dans %1, où les fichiers ne peuvent pas être verrouillés&#xa0;: déplacez-la dans un dossier d’un disque local et ouvrez-la à cet endroit.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>L’application dans %1 fait partie d’une couche du système de fichiers qui ne peut pas être remplacée&#xa0;: copiez-la dans un autre dossier et ouvrez-la à cet endroit.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>La mise à jour a échoué pour une raison inconnue&#xa0;: réessayez plus tard.</translation>
     </message>

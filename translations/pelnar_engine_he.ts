@@ -702,6 +702,42 @@
         <translation>היישום המעודכן לא הופעל. יש להפעיל אותו ידנית.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>לא ניתן לנעול קבצים במקום שבו היישום מותקן: העבירו אותו לתיקייה בכונן מקומי.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>הכונן שבו נמצא היישום אינו שומר הרשאות קבצים: העבירו את היישום לכונן אחר.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>משתמשים אחרים רשאים לשנות את התיקייה שבה נמצא היישום: העבירו את היישום לתיקייה משלכם.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>מערכת זו אינה מספקת את pidfd_open, שנחוץ לעדכונים: התקינו ליבה חדשה יותר, או אפשרו את הקריאה במכולה או בארגז החול.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>מערכת זו אינה מספקת את memfd_create, שנחוץ לעדכונים: התקינו ליבה חדשה יותר, או אפשרו את הקריאה במכולה או בארגז החול.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>כל משתמש במחשב זה רשאי לכתוב לתיקייה %1, שבה נמצא היישום: העבירו את היישום לתיקייה משלכם והפעילו אותו משם.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>חברי הקבוצה &quot;%1&quot; רשאים לשנות את תיקיית היישום: השתמשו בפקודה &quot;%2&quot;.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>היישום מותקן ב־%1, שם לא ניתן לנעול קבצים: העבירו אותו לתיקייה בכונן מקומי והפעילו אותו משם.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>היישום שב־%1 שייך לשכבה של מערכת הקבצים שלא ניתן להחליף: העתיקו אותו לתיקייה אחרת והפעילו אותו משם.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>העדכון נכשל מסיבה לא ידועה. יש לנסות שוב מאוחר יותר.</translation>
     </message>

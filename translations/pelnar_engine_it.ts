@@ -702,6 +702,42 @@
         <translation>L’applicazione aggiornata non si è aperta: aprirla manualmente.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Nel luogo in cui è installata l’applicazione non è possibile bloccare i file: spostala in una cartella su un disco locale.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>Il disco che contiene l’applicazione non conserva i permessi dei file: sposta l’applicazione su un altro disco.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Altri utenti possono modificare la cartella che contiene l’applicazione: sposta l’applicazione in una cartella tua.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Questo sistema non offre pidfd_open, necessario per gli aggiornamenti: installa un kernel più recente o consenti la chiamata nel container o nella sandbox.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Questo sistema non offre memfd_create, necessario per gli aggiornamenti: installa un kernel più recente o consenti la chiamata nel container o nella sandbox.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Tutti gli utenti di questo computer possono scrivere nella cartella %1, che contiene l’applicazione: sposta l’applicazione in una cartella tua e avviala da lì.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>I membri del gruppo “%1” possono modificare la cartella dell’applicazione: usa il comando “%2”.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>L’applicazione è installata in %1, dove non è possibile bloccare i file: spostala in una cartella su un disco locale e avviala da lì.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>L’applicazione in %1 appartiene a un livello del file system che non può essere sostituito: copiala in un’altra cartella e avviala da lì.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>L’aggiornamento non è riuscito per un motivo sconosciuto: riprovare più tardi.</translation>
     </message>

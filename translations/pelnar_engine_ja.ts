@@ -702,6 +702,42 @@
         <translation>アップデートしたアプリケーションが起動しませんでした。手動で起動してください。</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>アプリケーションのインストール先ではファイルをロックできません: ローカルディスク上のフォルダに移動してください。</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>アプリケーションがあるディスクはファイルのアクセス権を保持しません: アプリケーションを別のディスクに移動してください。</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>アプリケーションがあるフォルダは他のユーザーも変更できます: アプリケーションを自分専用のフォルダに移動してください。</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>このシステムはアップデートに必要な pidfd_open を提供していません: 新しいカーネルをインストールするか、コンテナまたはサンドボックスでこの呼び出しを許可してください。</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>このシステムはアップデートに必要な memfd_create を提供していません: 新しいカーネルをインストールするか、コンテナまたはサンドボックスでこの呼び出しを許可してください。</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>アプリケーションがあるフォルダ %1 には、このコンピュータのすべてのユーザーが書き込めます: アプリケーションを自分専用のフォルダに移動し、そこから起動してください。</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>グループ「%1」のメンバーはアプリケーションのフォルダを変更できます: コマンド「%2」を使用してください。</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>アプリケーションは、ファイルをロックできない %1 にインストールされています: ローカルディスク上のフォルダに移動し、そこから起動してください。</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>%1 にあるアプリケーションは、置き換えることのできないファイルシステムのレイヤーに属しています: 別のフォルダにコピーし、そこから起動してください。</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>不明な理由でアップデートに失敗しました。しばらくしてからもう一度お試しください。</translation>
     </message>

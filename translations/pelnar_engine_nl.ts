@@ -702,6 +702,42 @@
         <translation>De bijgewerkte app is niet geopend: open hem met de hand.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Op de plaats waar het programma staat kunnen geen bestanden worden vergrendeld: verplaats het naar een map op een lokale schijf.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>De schijf waarop het programma staat bewaart geen bestandsrechten: verplaats het programma naar een andere schijf.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Andere gebruikers mogen de map wijzigen waarin het programma staat: verplaats het programma naar een eigen map.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dit systeem biedt pidfd_open niet, dat voor updates nodig is: installeer een nieuwere kernel of sta de aanroep toe in de container of sandbox.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dit systeem biedt memfd_create niet, dat voor updates nodig is: installeer een nieuwere kernel of sta de aanroep toe in de container of sandbox.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Elke gebruiker van deze computer mag schrijven in de map %1, waarin het programma staat: verplaats het programma naar een eigen map en start het daar.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>De leden van de groep ‘%1’ mogen de map van het programma wijzigen: gebruik de opdracht ‘%2’.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>Het programma staat in %1, waar geen bestanden kunnen worden vergrendeld: verplaats het naar een map op een lokale schijf en start het daar.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Het programma in %1 hoort bij een laag van het bestandssysteem die niet kan worden vervangen: kopieer het naar een andere map en start het daar.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>De update is om een onbekende reden mislukt: probeer het later opnieuw.</translation>
     </message>

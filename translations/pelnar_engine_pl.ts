@@ -702,6 +702,42 @@
         <translation>Zaktualizowana aplikacja nie uruchomiła się. Uruchom ją ręcznie.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>W miejscu instalacji aplikacji nie można blokować plików: przenieś ją do folderu na dysku lokalnym.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>Dysk, na którym znajduje się aplikacja, nie przechowuje uprawnień plików: przenieś aplikację na inny dysk.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Inni użytkownicy mogą zmieniać folder, w którym znajduje się aplikacja: przenieś aplikację do własnego folderu.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ten system nie udostępnia pidfd_open, którego wymagają aktualizacje: zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ten system nie udostępnia memfd_create, którego wymagają aktualizacje: zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Każdy użytkownik tego komputera może zapisywać w folderze %1, w którym znajduje się aplikacja: przenieś aplikację do własnego folderu i uruchom ją stamtąd.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Członkowie grupy „%1” mogą zmieniać folder aplikacji: użyj polecenia „%2”.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>Aplikacja jest zainstalowana w %1, gdzie nie można blokować plików: przenieś ją do folderu na dysku lokalnym i uruchom stamtąd.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Aplikacja w %1 należy do warstwy systemu plików, której nie można zastąpić: skopiuj ją do innego folderu i uruchom stamtąd.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Aktualizacja nie powiodła się z nieznanego powodu. Spróbuj ponownie później.</translation>
     </message>

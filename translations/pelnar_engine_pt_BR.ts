@@ -702,6 +702,42 @@
         <translation>O aplicativo atualizado não abriu: abra-o manualmente.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Não é possível bloquear arquivos no local em que o aplicativo está instalado: mova-o para uma pasta em um disco local.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>O disco que contém o aplicativo não guarda permissões de arquivos: mova o aplicativo para outro disco.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Outros usuários podem alterar a pasta que contém o aplicativo: mova o aplicativo para uma pasta sua.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Este sistema não oferece pidfd_open, de que as atualizações precisam: instale um kernel mais recente ou permita a chamada no contêiner ou na sandbox.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Este sistema não oferece memfd_create, de que as atualizações precisam: instale um kernel mais recente ou permita a chamada no contêiner ou na sandbox.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Todos os usuários deste computador podem gravar na pasta %1, que contém o aplicativo: mova o aplicativo para uma pasta sua e inicie-o ali.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Os membros do grupo “%1” podem alterar a pasta do aplicativo: use o comando “%2”.</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>O aplicativo está instalado em %1, onde não é possível bloquear arquivos: mova-o para uma pasta em um disco local e inicie-o ali.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>O aplicativo em %1 pertence a uma camada do sistema de arquivos que não pode ser substituída: copie-o para outra pasta e inicie-o ali.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>A atualização falhou por um motivo desconhecido: tente novamente mais tarde.</translation>
     </message>

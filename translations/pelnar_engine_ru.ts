@@ -702,6 +702,42 @@
         <translation>Обновлённая программа не запустилась. Запустите её вручную.</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>Там, где установлено приложение, нельзя блокировать файлы: переместите его в папку на локальном диске.</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>Диск, на котором находится приложение, не хранит права доступа к файлам: переместите приложение на другой диск.</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>Другие пользователи могут изменять папку, в которой находится приложение: переместите приложение в собственную папку.</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Эта система не предоставляет pidfd_open, необходимый для обновлений: установите более новое ядро или разрешите этот вызов в контейнере или песочнице.</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Эта система не предоставляет memfd_create, необходимый для обновлений: установите более новое ядро или разрешите этот вызов в контейнере или песочнице.</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>Любой пользователь этого компьютера может записывать в папку %1, в которой находится приложение: переместите приложение в собственную папку и запустите его оттуда.</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>Участники группы «%1» могут изменять папку приложения: используйте команду «%2».</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>Приложение установлено в %1, где нельзя блокировать файлы: переместите его в папку на локальном диске и запустите оттуда.</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>Приложение в %1 относится к слою файловой системы, который нельзя заменить: скопируйте его в другую папку и запустите оттуда.</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>Обновление не удалось по неизвестной причине. Повторите попытку позже.</translation>
     </message>

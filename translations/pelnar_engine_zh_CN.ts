@@ -702,6 +702,42 @@
         <translation>更新后的应用程序未能启动。请手动启动。</translation>
     </message>
     <message>
+        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
+        <translation>应用程序所在的位置无法锁定文件：请将其移动到本地磁盘上的文件夹。</translation>
+    </message>
+    <message>
+        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
+        <translation>应用程序所在的磁盘不保存文件权限：请将应用程序移动到其他磁盘。</translation>
+    </message>
+    <message>
+        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
+        <translation>其他用户可以更改应用程序所在的文件夹：请将应用程序移动到您自己的文件夹。</translation>
+    </message>
+    <message>
+        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>此系统不提供更新所需的 pidfd_open：请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
+    </message>
+    <message>
+        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>此系统不提供更新所需的 memfd_create：请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
+    </message>
+    <message>
+        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
+        <translation>此计算机的所有用户都可以写入应用程序所在的文件夹 %1：请将应用程序移动到您自己的文件夹并从那里启动。</translation>
+    </message>
+    <message>
+        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
+        <translation>组“%1”的成员可以更改应用程序的文件夹：请使用命令“%2”。</translation>
+    </message>
+    <message>
+        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
+        <translation>应用程序安装在无法锁定文件的 %1 中：请将其移动到本地磁盘上的文件夹并从那里启动。</translation>
+    </message>
+    <message>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
+        <translation>%1 中的应用程序属于文件系统中无法替换的层：请将其复制到其他文件夹并从那里启动。</translation>
+    </message>
+    <message>
         <source>The update failed for a reason that is not known: try again later.</source>
         <translation>更新因未知原因失败。请稍后再试。</translation>
     </message>

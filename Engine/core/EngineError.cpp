@@ -343,6 +343,25 @@ char const* SentenceOf(ErrorCause cause)
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
             "There is no room for the update: it needs %1, and %2 are free. Make room and try again.");
+    case ErrorCause::BundleInSharedFolder:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "Every user of this computer may write to the folder %1, which holds the application: move the application "
+            "to a folder of your own and start it there.");
+    case ErrorCause::BundleOpenToGroup:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The members of the group \"%1\" may change the folder of the application: use the command \"%2\".");
+    case ErrorCause::BundleCannotBeLocked:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and "
+            "start it there.");
+    case ErrorCause::BundleCannotBeMoved:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another "
+            "folder and start it there.");
 
     case ErrorCause::UpdatesDisabled:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",

@@ -162,6 +162,10 @@ enum class ErrorCause
     BundleNotWritable = 958,
     BundleFolderUnsafe = 959,
     NoRoomForUpdate = 960,
+    BundleInSharedFolder = 961,
+    BundleOpenToGroup = 962,
+    BundleCannotBeLocked = 963,
+    BundleCannotBeMoved = 964,
 
     Fault = 1000, ///< an UpdateFault, whose number is added
 };

@@ -352,6 +352,35 @@ FaultDescription DescriptionOf(UpdateFault fault)
     case UpdateFault::RelaunchFailed:
         return {ErrorCode::Relaunch,
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The updated application did not start: start it by hand.")};
+    case UpdateFault::LocksUnavailable:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "Files cannot be locked where the application is installed: move it to a folder on a local disk.")};
+    case UpdateFault::PermissionsUnavailable:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "The disk that holds the application does not keep file permissions: move the application to "
+                    "another disk.")};
+    case UpdateFault::FolderUnsafe:
+        return {ErrorCode::NotWritable,
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "Other users may change the folder that holds the application: move the application to a folder of "
+                    "your own.")};
+    case UpdateFault::ProcessHandlesUnavailable:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the "
+                    "call in the container or sandbox.")};
+    case UpdateFault::SealedMemoryUnavailable:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP(
+                    "PelnarEngine_Errors",
+                    "This system does not provide memfd_create, which updates need: install a newer kernel, or allow "
+                    "the call in the container or sandbox.")};
     }
     return {
         ErrorCode::Installation,
@@ -452,6 +481,11 @@ bool IsArchiveToBlame(UpdateFault fault)
     case UpdateFault::SyncFailed:
     case UpdateFault::RelaunchPathUnsafe:
     case UpdateFault::RelaunchFailed:
+    case UpdateFault::LocksUnavailable:
+    case UpdateFault::PermissionsUnavailable:
+    case UpdateFault::FolderUnsafe:
+    case UpdateFault::ProcessHandlesUnavailable:
+    case UpdateFault::SealedMemoryUnavailable:
         return false;
     }
     return false;

@@ -139,6 +139,11 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::InstallerTimedOut:
     case UpdateFault::RelaunchPathUnsafe:
     case UpdateFault::RelaunchFailed:
+    case UpdateFault::LocksUnavailable:
+    case UpdateFault::PermissionsUnavailable:
+    case UpdateFault::FolderUnsafe:
+    case UpdateFault::ProcessHandlesUnavailable:
+    case UpdateFault::SealedMemoryUnavailable:
         break;
     }
     return {nullptr, ""};

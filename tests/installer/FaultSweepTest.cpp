@@ -1,6 +1,7 @@
 // FaultSweepTest.cpp: kills and failing system calls at every place of the helper's life. The default run takes every
 // seventh place; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 
@@ -159,8 +160,8 @@ TEST(Faults, InstallationWithoutExchangeKilledAnywhereLeavesOneOfTheVersions)
 /// parent.
 void LeaveJournal(UpdateScene const& scene)
 {
-    std::ofstream(scene.Place().Path() + '/' + SwapJournalName(APP))
-        << EncodeSwapJournal({scene.StagingName(), APP, "1.0", "2.0"});
+    WriteNote(scene.Place().Descriptor(), SwapJournalName(APP),
+              EncodeSwapJournal({scene.StagingName(), APP, "1.0", "2.0"}));
 }
 
 void StopBeforeTheExchange(UpdateScene& scene)
@@ -282,7 +283,9 @@ TEST(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
              Row{"fsync:error=EIO:when=3", UpdateFault::SyncFailed}, // the staging folder, after the exchange
              Row{"fsync:error=EIO:when=4", UpdateFault::SyncFailed}, // the bundle's folder, after the exchange
              Row{"fsync:error=ENOSPC:when=1", UpdateFault::NoSpace},
-             Row{"flock:error=ENOLCK:when=1", UpdateFault::LockTimedOut},
+             Row{"flock:error=ENOLCK:when=1", UpdateFault::LocksUnavailable},
+             Row{"flock:error=EOPNOTSUPP:when=1", UpdateFault::LocksUnavailable},
+             Row{"flock:error=ENOSYS:when=1", UpdateFault::LocksUnavailable},
          })
     {
         SCOPED_TRACE(row.injection);

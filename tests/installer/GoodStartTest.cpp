@@ -1,5 +1,6 @@
 // GoodStartTest.cpp: new versions that must tell that they started well, and what becomes of those that do not.
 
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "tests/installer/InstallerFixture.h"
@@ -132,7 +133,6 @@ TEST(GoodStart, InstancesBesideARunningOneAreNoStartsOfTheirOwn)
 TEST(GoodStart, ProcessThatHasEndedIsNotTheOneThatHasItsNumberNow)
 {
     InstalledScene installed;
-    std::string const journalPath = installed.scene.Place().Path() + '/' + SwapJournalName(APP);
     SwapJournal journal{installed.scene.Place().Names()[0], APP, "1.0", "2.0", StartConfirmation::ByHost, 2, {}};
     for (std::string const& name : installed.Names())
     {
@@ -140,7 +140,7 @@ TEST(GoodStart, ProcessThatHasEndedIsNotTheOneThatHasItsNumberNow)
             name.compare(0, UpdateFilePrefix(APP).size(), UpdateFilePrefix(APP)) == 0 ? name : journal.stagingName;
     }
     journal.lastStarted = {static_cast<std::uint64_t>(::getpid()), 1}; // another time of start
-    std::ofstream(journalPath) << EncodeSwapJournal(journal);
+    WriteNote(installed.scene.Place().Descriptor(), SwapJournalName(APP), EncodeSwapJournal(journal));
     EXPECT_EQ(installed.Start("2.0"), RecoveryAction::RolledBack);
     EXPECT_EQ(installed.Version(), "1.0");
 }

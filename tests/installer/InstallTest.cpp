@@ -1,3 +1,5 @@
+#include "Engine/core/payload/FolderSafety.h"
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/Relaunch.h"
@@ -306,8 +308,8 @@ TEST(Recover, MissingBundleComesBackFromEitherPlace)
         UpdateScene scene;
         scene.Host().End();
         std::filesystem::rename(scene.Place().Path() + '/' + APP, scene.StagingPath() + '/' + place);
-        std::ofstream(scene.Place().Path() + '/' + SwapJournalName(APP))
-            << EncodeSwapJournal({scene.StagingName(), APP, "1.0", "2.0"});
+        WriteNote(scene.Place().Descriptor(), SwapJournalName(APP),
+                  EncodeSwapJournal({scene.StagingName(), APP, "1.0", "2.0"}));
         scene.ReleaseStaging();
         EXPECT_EQ(scene.Recover("1.0").Find<RecoveredReport>()->action, RecoveryAction::RestoredPrevious);
         EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
@@ -343,11 +345,12 @@ TEST(Staging, PathIsSafeOnlyIfEveryFolderOfItIs)
     EXPECT_FALSE(isSafe());
     ::chmod(a.c_str(), 01777);
     EXPECT_TRUE(isSafe());
-    ::chmod(a.c_str(), 0775);
-    EXPECT_FALSE(isSafe());
     ::chmod(a.c_str(), 0755);
-    ::chmod((a + "/b").c_str(), 0757);
-    EXPECT_FALSE(isSafe());
+    for (mode_t const mode : {0757, 01757, 01777})
+    {
+        ::chmod((a + "/b").c_str(), mode);
+        EXPECT_FALSE(isSafe()) << mode;
+    }
     ::chmod((a + "/b").c_str(), 0755);
     if (::geteuid() == 0)
     {

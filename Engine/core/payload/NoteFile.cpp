@@ -1,6 +1,7 @@
 #include "Engine/core/payload/NoteFile.h"
 
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
 
 #include <cerrno>
@@ -17,6 +18,22 @@ namespace
 
 constexpr std::size_t NOTE_MAX_BYTES = 64 * 1024;
 constexpr mode_t NOTE_MODE = 0600;
+constexpr mode_t ALL_BITS = 07777;
+
+/// Also over a folder that stands there.
+[[nodiscard]] bool Rename(int folderFd, std::string const& from, std::string const& to)
+{
+    if (::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0)
+    {
+        return true;
+    }
+    if (errno != EISDIR)
+    {
+        return false;
+    }
+    FreeName(folderFd, to);
+    return ::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0;
+}
 
 void SyncOrThrow(int descriptor)
 {
@@ -28,11 +45,33 @@ void SyncOrThrow(int descriptor)
 
 } // namespace
 
+bool IsPrivateFile(int fd)
+{
+    struct stat status;
+    return ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() &&
+           (status.st_mode & ALL_BITS) == NOTE_MODE;
+}
+
+void FreeName(int folderFd, std::string const& name)
+{
+    if (::unlinkat(folderFd, name.c_str(), 0) == 0 || errno == ENOENT)
+    {
+        return;
+    }
+    // Deliberate: what is in a folder is not ours to remove.
+    bool const isFolder = errno == EISDIR || errno == EPERM;
+    if (!isFolder || ::renameat(folderFd, name.c_str(), folderFd, AsideName().c_str()) != 0)
+    {
+        ThrowErrno(errno);
+    }
+}
+
 std::string ReadNote(int folderFd, std::string const& name)
 {
     UniqueFd const file(::openat(folderFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
-    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid())
+    // Another name of the file may stand where others can reach it.
+    if (!file || !IsPrivateFile(file.Get()) || ::fstat(file.Get(), &status) != 0 || status.st_nlink != 1)
     {
         return {};
     }
@@ -49,15 +88,19 @@ std::string ReadNote(int folderFd, std::string const& name)
 void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
 {
     std::string const newName = name + ".new";
-    static_cast<void>(::unlinkat(folderFd, newName.c_str(), 0));
+    FreeName(folderFd, newName);
     UniqueFd const file(
         ::openat(folderFd, newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, NOTE_MODE));
     if (!file || !WriteAll(file.Get(), Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
     {
         ThrowErrno(errno);
     }
+    if (!IsPrivateFile(file.Get()))
+    {
+        throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
+    }
     SyncOrThrow(file.Get());
-    if (::renameat(folderFd, newName.c_str(), folderFd, name.c_str()) != 0)
+    if (!Rename(folderFd, newName, name))
     {
         ThrowErrno(errno);
     }
@@ -66,13 +109,8 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
 
 void RemoveNote(int folderFd, std::string const& name)
 {
-    for (std::string const& gone : {name, name + ".new"})
-    {
-        if (::unlinkat(folderFd, gone.c_str(), 0) != 0 && errno != ENOENT)
-        {
-            ThrowErrno(errno);
-        }
-    }
+    FreeName(folderFd, name);
+    FreeName(folderFd, name + ".new");
 }
 
 } // namespace Pelnar::Engine

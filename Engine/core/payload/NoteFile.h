@@ -9,11 +9,18 @@
 namespace Pelnar::Engine
 {
 
-/// What the file \a name says; empty when there is none, or none of this user's. Throws UpdateRefusal when it cannot be
-/// read: no answer is not the answer that there is none.
+/// True for a regular file of this user's that nobody else may open.
+[[nodiscard]] bool IsPrivateFile(int fd);
+
+/// Takes away what stands under the name: a file or a link goes, a folder gets another name. Throws UpdateRefusal.
+void FreeName(int folderFd, std::string const& name);
+
+/// What the file \a name says; empty when there is none, or when anybody else may have written it: it counts only when
+/// it is private and has no other name. REQUIRES: nobody else may write in the folder. Throws UpdateRefusal when it
+/// cannot be read: no answer is not the answer that there is none.
 std::string ReadNote(int folderFd, std::string const& name);
-/// Puts the file in the place of one that may be there, whole, and answers when it is on the disk. Throws
-/// UpdateRefusal.
+/// Puts the file in the place of what may be there, whole, and answers when it is on the disk. Throws UpdateRefusal:
+/// PermissionsUnavailable where the file system keeps no modes.
 void WriteNote(int folderFd, std::string const& name, std::string_view bytes);
 /// Throws UpdateRefusal.
 void RemoveNote(int folderFd, std::string const& name);

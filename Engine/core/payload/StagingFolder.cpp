@@ -22,6 +22,9 @@ namespace
 constexpr std::size_t TARGET_HASH_BYTES = 8;
 constexpr std::size_t RANDOM_BYTES = 8;
 constexpr mode_t PRIVATE_MODE = 0700;
+constexpr mode_t ALL_RIGHTS = 0777; ///< a folder may inherit the group of the one that it is made in, and a bit says so
+/// A new folder that others have tidied away is made again, but not for ever.
+constexpr int MAX_ATTEMPTS = 20;
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 std::string Hexadecimal(Bytes bytes)
@@ -42,6 +45,42 @@ std::string NameFor(std::string_view targetName)
     return ".pelnar-" + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
 }
 
+std::string RandomText()
+{
+    std::uint8_t random[RANDOM_BYTES];
+    if (::getrandom(random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
+    {
+        ThrowErrno(errno);
+    }
+    return Hexadecimal(Bytes(random, sizeof random));
+}
+
+/// Opens and locks the folder that was just made; nothing when somebody has tidied it away: between its making and its
+/// locking it looks abandoned.
+UniqueFd LockNew(int parentFd, std::string const& name)
+{
+    UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
+    if (!folder)
+    {
+        return errno == ENOENT ? UniqueFd() : (ThrowErrno(errno), UniqueFd());
+    }
+    if (!IsPrivateFolder(folder.Get()))
+    {
+        throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
+    }
+    if (::flock(folder.Get(), LOCK_EX | LOCK_NB) != 0)
+    {
+        if (errno != EWOULDBLOCK && errno != EINTR)
+        {
+            throw UpdateRefusal(UpdateFault::LocksUnavailable, errno);
+        }
+        return {};
+    }
+    struct stat status;
+    bool const isThere = ::fstat(folder.Get(), &status) == 0 && status.st_nlink > 0;
+    return isThere ? std::move(folder) : UniqueFd();
+}
+
 } // namespace
 
 std::string UpdateFilePrefix(std::string_view targetName)
@@ -57,6 +96,16 @@ std::string SwapJournalName(std::string_view targetName)
 std::string FailedVersionName(std::string_view targetName)
 {
     return NameFor(targetName) + ".failed";
+}
+
+std::string LockFileName(std::string_view targetName)
+{
+    return NameFor(targetName) + ".lock";
+}
+
+std::string AsideName()
+{
+    return ".pelnar-aside-" + RandomText();
 }
 
 bool HasUpdateFiles(int folderFd, std::string_view targetName)
@@ -80,14 +129,9 @@ StagingFolder::StagingFolder(UniqueFd folder, std::string name) : m_folder(std::
 
 StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
 {
-    for (;;)
+    for (int attempt = 0; attempt < MAX_ATTEMPTS; ++attempt)
     {
-        std::uint8_t random[RANDOM_BYTES];
-        if (::getrandom(random, sizeof random, 0) != static_cast<ssize_t>(sizeof random))
-        {
-            ThrowErrno(errno);
-        }
-        std::string name = UpdateFilePrefix(targetName) + Hexadecimal(Bytes(random, sizeof random));
+        std::string name = UpdateFilePrefix(targetName) + RandomText();
         if (::mkdirat(parentFd, name.c_str(), PRIVATE_MODE) != 0)
         {
             if (errno == EEXIST)
@@ -96,18 +140,28 @@ StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
             }
             ThrowErrno(errno);
         }
-        UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
-        if (!folder)
+        try
         {
-            ThrowErrno(errno);
+            if (UniqueFd folder = LockNew(parentFd, name))
+            {
+                return StagingFolder(std::move(folder), std::move(name));
+            }
+            static_cast<void>(::unlinkat(parentFd, name.c_str(), AT_REMOVEDIR));
         }
-        // Between its making and its locking a folder looks abandoned, and may be tidied away: then make another.
-        struct stat status;
-        if (::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0 && ::fstat(folder.Get(), &status) == 0 && status.st_nlink > 0)
+        catch (UpdateRefusal const&)
         {
-            return StagingFolder(std::move(folder), std::move(name));
+            static_cast<void>(::unlinkat(parentFd, name.c_str(), AT_REMOVEDIR));
+            throw;
         }
     }
+    throw UpdateRefusal(UpdateFault::LocksUnavailable, EWOULDBLOCK);
+}
+
+bool IsPrivateFolder(int folderFd)
+{
+    struct stat status;
+    return ::fstat(folderFd, &status) == 0 && S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
+           (status.st_mode & ALL_RIGHTS) == PRIVATE_MODE;
 }
 
 std::string RealPathOf(int folderFd)
@@ -117,32 +171,6 @@ std::string RealPathOf(int folderFd)
     bool const isWhole = size > 0 && static_cast<std::size_t>(size) < path.size() && path.front() == '/';
     path.resize(isWhole ? static_cast<std::size_t>(size) : 0);
     return path;
-}
-
-bool IsSafeUpToTheRoot(int folderFd)
-{
-    UniqueFd folder(::openat(folderFd, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
-    for (struct stat below{}; folder;)
-    {
-        struct stat status;
-        if (::fstat(folder.Get(), &status) != 0)
-        {
-            return false;
-        }
-        bool const isOwnerTrusted = status.st_uid == 0 || status.st_uid == ::geteuid();
-        bool const isOpenToOthers = (status.st_mode & (S_IWGRP | S_IWOTH)) != 0 && (status.st_mode & S_ISVTX) == 0;
-        if (!isOwnerTrusted || isOpenToOthers)
-        {
-            return false;
-        }
-        if (status.st_dev == below.st_dev && status.st_ino == below.st_ino)
-        {
-            return true; // only the root is its own parent
-        }
-        below = status;
-        folder = UniqueFd(::openat(folder.Get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
-    }
-    return false;
 }
 
 } // namespace Pelnar::Engine

@@ -15,7 +15,8 @@ namespace Pelnar::Engine
 class StagingFolder
 {
 public:
-    /// Makes a folder of mode 0700 in \a parentFd for the bundle named \a targetName there. Throws UpdateRefusal.
+    /// Makes a folder of mode 0700 in \a parentFd for the bundle named \a targetName there. Throws UpdateRefusal:
+    /// LocksUnavailable and PermissionsUnavailable where the file system has no locks, or keeps no modes.
     static StagingFolder Create(int parentFd, std::string_view targetName);
 
     int Descriptor() const { return m_folder.Get(); }
@@ -35,14 +36,18 @@ std::string SwapJournalName(std::string_view targetName);
 
 /// The name of the note that a version of \a targetName was taken back; it does not begin like a staging folder's.
 std::string FailedVersionName(std::string_view targetName);
+/// The name of the file whose lock holds everybody else off \a targetName; it does not begin like a staging folder's.
+std::string LockFileName(std::string_view targetName);
+/// A new name for something of others' that stands in the way. It belongs to no bundle.
+std::string AsideName();
+
+/// True for a folder of this user's that nobody else may enter.
+[[nodiscard]] bool IsPrivateFolder(int folderFd);
+
 /// True when anything of an update of \a targetName stands in the open folder, or that cannot be told.
 [[nodiscard]] bool HasUpdateFiles(int folderFd, std::string_view targetName);
 
 /// Where the open folder stands, without any link in the path; empty when that cannot be told.
 [[nodiscard]] std::string RealPathOf(int folderFd);
-
-/// True when everybody but the system's administrator and this user is kept from changing what stands in the open
-/// folder or on its way up: each folder belongs to one of the two, and nobody else may write there unless it is sticky.
-[[nodiscard]] bool IsSafeUpToTheRoot(int folderFd);
 
 } // namespace Pelnar::Engine

@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr UpdateFault LAST_FAULT = UpdateFault::RelaunchFailed;
+constexpr UpdateFault LAST_FAULT = UpdateFault::SealedMemoryUnavailable;
 
 std::string Describe(UpdateFault fault, int errorNumber)
 {
@@ -166,6 +166,16 @@ std::string_view FaultName(UpdateFault fault)
         return "RelaunchPathUnsafe";
     case UpdateFault::RelaunchFailed:
         return "RelaunchFailed";
+    case UpdateFault::LocksUnavailable:
+        return "LocksUnavailable";
+    case UpdateFault::PermissionsUnavailable:
+        return "PermissionsUnavailable";
+    case UpdateFault::FolderUnsafe:
+        return "FolderUnsafe";
+    case UpdateFault::ProcessHandlesUnavailable:
+        return "ProcessHandlesUnavailable";
+    case UpdateFault::SealedMemoryUnavailable:
+        return "SealedMemoryUnavailable";
     }
     return "Unknown fault";
 }

@@ -91,6 +91,12 @@ enum class UpdateFault
 
     RelaunchPathUnsafe,
     RelaunchFailed,
+
+    LocksUnavailable,       ///< the file system has none, or the system permits none
+    PermissionsUnavailable, ///< the file system keeps no modes and owners of its own
+    FolderUnsafe,           ///< others may change the folder that holds the bundle
+    ProcessHandlesUnavailable,
+    SealedMemoryUnavailable,
 };
 
 /// The fault's stable name: its enumerator's.

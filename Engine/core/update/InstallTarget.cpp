@@ -1,5 +1,7 @@
 #include "Engine/core/update/InstallTarget.h"
 
+#include "Engine/core/UpdateError.h"
+#include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 
 #include <cerrno>
@@ -102,11 +104,70 @@ std::optional<ErrorCause> Obstacle(InstallTarget const& target)
         return ErrorCause::BundleOfAnotherUser;
     }
     // The bundle too: a folder that changes its parent is written, for it names it.
-    if (!IsWritable(target.parent) || !IsWritable(target.bundle))
+    bool const isWritable = IsWritable(target.parent) && IsWritable(target.bundle);
+    return isWritable ? std::nullopt : std::optional(ErrorCause::BundleNotWritable);
+}
+
+/// \a text as one word for a shell.
+QString Quoted(QString text)
+{
+    return QLatin1Char('\'') + text.replace(QLatin1Char('\''), QStringLiteral("'\\''")) + QLatin1Char('\'');
+}
+
+EngineError ErrorWith(ErrorCause cause, std::string const& path, std::initializer_list<Sentence::Value> values)
+{
+    EngineError error = Error(cause, path);
+    error.sentence = Sentence(error.sentence.Source(), values);
+    return error;
+}
+
+/// What others could change between here and the root.
+std::optional<EngineError> Intruders(InstallTarget const& target, std::string const& path)
+{
+    for (UniqueFd const* const folder : {&target.bundle, &target.parent})
     {
-        return ErrorCause::BundleNotWritable;
+        FolderFinding const finding = LookUpToTheRoot(folder->Get());
+        QString const place = QString::fromStdString(finding.path);
+        switch (finding.safety)
+        {
+        case FolderSafety::Safe:
+            continue;
+        case FolderSafety::Shared:
+            return ErrorWith(ErrorCause::BundleInSharedFolder, path, {place});
+        case FolderSafety::OpenToGroup:
+            return ErrorWith(
+                ErrorCause::BundleOpenToGroup, path,
+                {QString::fromStdString(GroupName(finding.group)), QStringLiteral("chmod g-w ") + Quoted(place)});
+        case FolderSafety::OfAnotherUser:
+        case FolderSafety::OpenToAll:
+        case FolderSafety::Unreadable:
+            return Error(ErrorCause::BundleFolderUnsafe, path);
+        }
     }
-    return IsSafeUpToTheRoot(target.bundle.Get()) ? std::nullopt : std::optional(ErrorCause::BundleFolderUnsafe);
+    return std::nullopt;
+}
+
+/// What making and locking a folder beside the bundle meets: no call of the installation is to fail first when a person
+/// has waited for a download.
+std::optional<EngineError> TryStaging(InstallTarget const& target, std::string const& path)
+{
+    try
+    {
+        StagingFolder const folder = StagingFolder::Create(target.parent.Get(), target.name);
+        static_cast<void>(::unlinkat(target.parent.Get(), folder.Name().c_str(), AT_REMOVEDIR));
+        return std::nullopt;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        if (refusal.Fault() != UpdateFault::LocksUnavailable)
+        {
+            return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+        }
+        EngineError error = ErrorWith(ErrorCause::BundleCannotBeLocked, path,
+                                      {QString::fromStdString(RealPathOf(target.parent.Get()))});
+        error.detail += QStringLiteral(" (errno %1)").arg(refusal.ErrorNumber());
+        return error;
+    }
 }
 
 std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neededBytes)
@@ -180,7 +241,14 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
     {
         return Error(*cause, path);
     }
-    if (auto const error = LackOfRoom(*target, neededBytes))
+    for (auto const& error : {Intruders(*target, path), LackOfRoom(*target, neededBytes)})
+    {
+        if (error)
+        {
+            return *error;
+        }
+    }
+    if (auto const error = TryStaging(*target, path))
     {
         return *error;
     }

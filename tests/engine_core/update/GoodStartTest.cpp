@@ -1,6 +1,7 @@
 // GoodStartTest.cpp: what an application that has just been started asks of the helper, from within it.
 
 #include "Engine/core/update/GoodStart.h"
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -25,7 +26,7 @@ protected:
     {
         m_scene.PrepareForInstall();
         SwapJournal journal{m_scene.StagingName(), APP, "1.0", "2.0", StartConfirmation::ByHost, 0, {}};
-        std::ofstream(m_scene.Place().Path() + '/' + SwapJournalName(APP)) << EncodeSwapJournal(journal);
+        WriteNote(m_scene.Place().Descriptor(), SwapJournalName(APP), EncodeSwapJournal(journal));
         std::string const bundle = m_scene.Place().Path() + '/' + APP;
         std::string const staged = m_scene.StagingPath() + '/' + APP;
         std::rename(bundle.c_str(), (m_scene.StagingPath() + '/' + PREVIOUS_BUNDLE_NAME).c_str());

@@ -1,8 +1,10 @@
 #include "Engine/core/update/InstallTarget.h"
 #include "tests/installer/InstallerFixture.h"
+#include "tests/installer/OtherUser.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 
 #include <fcntl.h>
@@ -12,6 +14,8 @@
 #include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 
 namespace
@@ -81,18 +85,6 @@ public:
         EXPECT_EQ(::setegid(0), 0);
     }
 };
-
-void Give(std::string const& path, uid_t user)
-{
-    ASSERT_EQ(::lchown(path.c_str(), user, user), 0);
-    if (std::filesystem::is_directory(std::filesystem::symlink_status(path)))
-    {
-        for (auto const& entry : std::filesystem::directory_iterator(path))
-        {
-            Give(entry.path().string(), user);
-        }
-    }
-}
 
 /// Mounts of this process only; false when this machine does not let it have any.
 [[nodiscard]] bool EnterOwnMounts()
@@ -292,7 +284,7 @@ TEST(InstallTarget, AnotherUsersBundleIsRefused)
         AsUser const nobody(NOBODY); // the bundle is the administrator's
         scene.ExpectError(ErrorCause::BundleOfAnotherUser);
     }
-    Give(scene.Parent(), SOMEBODY);
+    GiveTo(SOMEBODY, scene.Parent());
     {
         AsUser const nobody(NOBODY);
         scene.ExpectError(ErrorCause::BundleOfAnotherUser);
@@ -305,12 +297,12 @@ TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
     REQUIRE_ADMINISTRATOR();
     TargetScene const scene;
     ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
-    Give(scene.Bundle(), NOBODY);
+    GiveTo(NOBODY, scene.Bundle());
     {
         AsUser const nobody(NOBODY); // the bundle is theirs, the folder is not
         scene.ExpectError(ErrorCause::BundleNotWritable);
     }
-    Give(scene.Parent(), NOBODY);
+    GiveTo(NOBODY, scene.Parent());
     {
         AsUser const nobody(NOBODY);
         EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
@@ -330,14 +322,163 @@ TEST(InstallTarget, FoldersThatOthersMayChangeAreRefused)
     TargetScene const scene;
     for (std::string const& path : {scene.Bundle(), scene.Parent(), scene.Above()})
     {
-        for (mode_t const mode : {0777, 0775})
-        {
-            ASSERT_EQ(::chmod(path.c_str(), mode), 0);
-            scene.ExpectError(ErrorCause::BundleFolderUnsafe);
-        }
+        ASSERT_EQ(::chmod(path.c_str(), 0777), 0);
+        scene.ExpectError(ErrorCause::BundleFolderUnsafe);
         ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
     }
     EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
+TEST(InstallTarget, FolderThatAllMayWriteToHoldsNoApplicationEvenWhereNamesAreSafe)
+{
+    TargetScene const scene;
+    for (std::string const& path : {scene.Bundle(), scene.Parent()})
+    {
+        ASSERT_EQ(::chmod(path.c_str(), 01777), 0);
+        EngineError const error = scene.ExpectError(ErrorCause::BundleInSharedFolder);
+        EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("the folder ") + QString::fromStdString(path)))
+            << error.sentence.English().toStdString();
+        ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
+    }
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 01777), 0); // as /tmp: what stands in it belongs to its owner
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
+struct GroupRow
+{
+    char const* name;
+    char const* users;  ///< lines of the users' list
+    char const* groups; ///< lines of the groups' list
+    bool isPrivate;
+};
+
+class GroupsFolder : public testing::TestWithParam<GroupRow>
+{
+};
+
+/// The folder belongs to the user "me" and to the group 12345, which may write there.
+TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
+{
+    REQUIRE_ADMINISTRATOR();
+    GroupRow const& row = GetParam();
+    TargetScene const scene;
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
+    GiveTo(SOMEBODY, scene.Parent());
+    std::string const lists = scene.Above() + "/none/";
+    WriteFile(lists + "passwd", row.users);
+    WriteFile(lists + "group", row.groups);
+    for (mode_t const mode : {0775, 02775})
+    {
+        for (std::string const& path : {scene.Bundle(), scene.Parent()})
+        {
+            ASSERT_EQ(::chmod(path.c_str(), mode), 0);
+            std::string const told = AsOtherUser(
+                0,
+                [&]
+                {
+                    if (!EnterOwnMounts() || ::mount((lists + "passwd").c_str(), "/etc/passwd", "", MS_BIND, "") != 0 ||
+                        ::mount((lists + "group").c_str(), "/etc/group", "", MS_BIND, "") != 0 ||
+                        ::seteuid(SOMEBODY) != 0)
+                    {
+                        return std::string("cannot change the lists");
+                    }
+                    auto const answer = scene.Open(scene.Bundle());
+                    auto const* const error = std::get_if<EngineError>(&answer);
+                    return error ? error->sentence.English().toStdString() : std::string("opened");
+                });
+            std::string const refusal =
+                "The members of the group \"ours\" may change the folder of the application: use the command \"chmod "
+                "g-w '" +
+                path + "'\".";
+            EXPECT_EQ(told, row.isPrivate ? "opened" : refusal);
+            ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
+        }
+    }
+}
+
+constexpr char ONLY_ME[] = "root:x:0:0::/:/bin/sh\nours:x:12345:12345::/:/bin/sh\n";
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, GroupsFolder,
+    testing::Values(
+        GroupRow{"OfOne", ONLY_ME, "ours:x:12345:\n", true},
+        GroupRow{"OfOneWhoIsListed", ONLY_ME, "ours:x:12345:ours\n", true},
+        GroupRow{"OfTwo", ONLY_ME, "ours:x:12345:ours,other\n", false},
+        GroupRow{"OfAnother", ONLY_ME, "ours:x:12345:other\n", false},
+        GroupRow{"ThatAnotherUserHasFirst",
+                 "root:x:0:0::/:/bin/sh\nours:x:12345:12345::/:/bin/sh\nb:x:7:12345::/:/bin/sh\n", "ours:x:12345:\n",
+                 false},
+        GroupRow{"OfAnotherName", "root:x:0:0::/:/bin/sh\nme:x:12345:12345::/:/bin/sh\n", "ours:x:12345:\n", false},
+        GroupRow{"NotTheUsersFirst", "root:x:0:0::/:/bin/sh\nours:x:12345:100::/:/bin/sh\n", "ours:x:12345:\n", false},
+        GroupRow{"OfAUserWhoIsNotListed", "root:x:0:0::/:/bin/sh\n", "ours:x:12345:\n", false}),
+    [](testing::TestParamInfo<GroupRow> const& info) { return info.param.name; });
+
+TEST(InstallTarget, AccessListSpeaksForMoreThanTheGroup)
+{
+    TargetScene const scene;
+    // user::rwx, user:54321:rwx, group::r-x, mask::rwx, other::r-x
+    constexpr std::uint32_t LIST[] = {2,   0x00070001, ~0u, 0x00070002, 54321, 0x00050004,
+                                      ~0u, 0x00070010, ~0u, 0x00050020, ~0u};
+    if (::setxattr(scene.Parent().c_str(), "system.posix_acl_access", LIST, sizeof LIST, 0) != 0)
+    {
+        GTEST_SKIP() << "this file system has no access lists";
+    }
+    scene.ExpectError(ErrorCause::BundleOpenToGroup);
+}
+
+/// Where locks are refused the answer comes at once, says where the application stands, and leaves nothing behind.
+TEST(InstallTarget, LocksThatCannotBeHadAreTold)
+{
+    for (int const errorNumber : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF, EPERM})
+    {
+        TargetScene const scene;
+        std::string const told = InChild(
+            [&]
+            {
+                FailCall(SYS_flock, errorNumber);
+                auto const answer = scene.Open(scene.Bundle());
+                auto const* const error = std::get_if<EngineError>(&answer);
+                return error ? std::to_string(error->UnderlyingCode()) + ' ' + error->sentence.English().toStdString()
+                             : std::string("opened");
+            },
+            30);
+        EXPECT_EQ(told, "963 The application is installed in " + scene.Parent() +
+                            ", where files cannot be locked: move it to a folder on a local disk and start it there.")
+            << errorNumber;
+        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
+    }
+}
+
+/// As a neighbour that takes every new folder for an abandoned one.
+TEST(InstallTarget, FoldersThatAlwaysGoAreNotMadeForEver)
+{
+    TargetScene const scene;
+    std::string const told = InChild(
+        [&]
+        {
+            FailCall(SYS_flock, EWOULDBLOCK);
+            auto const answer = scene.Open(scene.Bundle());
+            auto const* const error = std::get_if<EngineError>(&answer);
+            return error ? std::to_string(error->UnderlyingCode()) : std::string("opened");
+        },
+        30);
+    EXPECT_EQ(told, "963");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
+}
+
+TEST(InstallTarget, FileSystemWithoutPermissionsIsTold)
+{
+    TargetScene const scene;
+    std::string const told = InChild(
+        [&]
+        {
+            ::umask(0777); // a new folder has no rights then, as if the file system kept none
+            auto const answer = scene.Open(scene.Bundle());
+            auto const* const error = std::get_if<EngineError>(&answer);
+            return error ? std::string(FaultName(error->fault)) : std::string("opened");
+        });
+    EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
 }
 
 } // namespace

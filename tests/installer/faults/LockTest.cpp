@@ -1,17 +1,20 @@
-// LockTest.cpp: who holds a lock is the kernel's knowledge alone: it ends with its holder, however that ends, and no
-// file and no number of a process stands for it.
+// LockTest.cpp: who holds a lock is the kernel's knowledge alone: it ends with its holder, however that ends, and
+// neither that a file is there nor the number of a process stands for it.
 
 #include "Engine/core/payload/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <filesystem>
 
 #include <fcntl.h>
 #include <linux/sched.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -22,10 +25,14 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// Takes and leaves the lock of the folder; false when somebody has it.
-[[nodiscard]] bool CanLock(std::string const& folder)
+/// Takes and leaves the lock of what stands there; false when somebody has it.
+[[nodiscard]] bool CanLock(std::string const& path)
 {
-    UniqueFd const descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    UniqueFd const descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!descriptor && errno == ENOENT)
+    {
+        return true;
+    }
     bool const isLocked = descriptor && ::flock(descriptor.Get(), LOCK_EX | LOCK_NB) == 0;
     EXPECT_TRUE(isLocked || errno == EWOULDBLOCK) << std::strerror(errno);
     return isLocked;
@@ -57,26 +64,27 @@ TEST(Lock, OfAKilledHelperIsFreeAtOnce)
         UpdateScene scene;
         InstallJob const job = scene.PrepareForInstall();
         scene.Host().End();
-        std::string const folder = scene.Place().Path();
+        std::string const file = scene.Place().Path() + '/' + LockFileName(APP);
         bool wasHeld = false;
         HelperStart const killed = WhenLocked(
             [&]
             {
-                wasHeld = !CanLock(folder);
+                wasHeld = !CanLock(file);
                 return CallVerdict::KillAll();
             });
         EXPECT_EQ((isRecovery ? scene.Recover("1.0", killed) : scene.Install(job, killed)).signal, SIGKILL);
         EXPECT_TRUE(wasHeld);
-        EXPECT_TRUE(CanLock(folder));
+        EXPECT_TRUE(std::filesystem::exists(file)) << "a killed holder cannot take it away";
+        EXPECT_TRUE(CanLock(file));
         EXPECT_FALSE(CanLock(scene.StagingPath())) << "the host's own process still holds it here";
         HelperOutcome const next = scene.Install(job);
         EXPECT_EQ(next.exitStatus, 0) << FaultName(next.Fault());
         EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
-        EXPECT_TRUE(CanLock(folder)) << "neither the helper nor what it has started holds it";
+        EXPECT_FALSE(std::filesystem::exists(file)) << "the file goes with the lock";
     }
 }
 
-TEST(Lock, IsNoFile)
+TEST(Lock, FilesThatLookLikeOneAreNone)
 {
     Versions const versions;
     UpdateScene scene;
@@ -92,7 +100,7 @@ TEST(Lock, IsNoFile)
         decoys.push_back({decoy, 'f', living});
     }
     scene.Place().Put(decoys);
-    std::vector<std::string> const before = scene.Place().Names();
+    std::vector<std::string> before = scene.Place().Names();
     std::vector<std::string> whenLocked;
     HelperOutcome const outcome = scene.Install(job, WhenLocked(
                                                          [&]
@@ -101,7 +109,8 @@ TEST(Lock, IsNoFile)
                                                              return CallVerdict::GoOn();
                                                          }));
     EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
-    EXPECT_EQ(whenLocked, before) << "a lock that is held leaves no trace among the names";
+    before.insert(std::upper_bound(before.begin(), before.end(), LockFileName(APP)), LockFileName(APP));
+    EXPECT_EQ(whenLocked, before) << "one file, whose lock counts, and nothing else";
     EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
     for (ForgedEntry const& decoy : decoys)
     {
@@ -166,6 +175,95 @@ TEST(Lock, ProcessWithTheNumberOfTheHostThatEndedIsNotWaitedFor)
     EXPECT_EQ(::waitpid(other, nullptr, 0), other);
     scene.Host().End();
     ExpectRecovered(scene, versions);
+}
+
+/// What may stand under the name of the lock's file.
+struct SquatterRow
+{
+    char const* name;
+    void (*put)(std::string const& path);
+};
+
+class LockSquatter : public testing::TestWithParam<SquatterRow>
+{
+};
+
+TEST_P(LockSquatter, HoldsNobodyUp)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    std::string const path = scene.Place().Path() + '/' + LockFileName(APP);
+    GetParam().put(path);
+    // Whoever could open it holds its lock, and does not let go.
+    UniqueFd const squatter(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+    EXPECT_TRUE(!squatter || ::flock(squatter.Get(), LOCK_EX | LOCK_NB) == 0);
+    HelperOutcome const outcome = scene.Install(job);
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
+    EXPECT_FALSE(std::filesystem::exists(std::filesystem::symlink_status(path)));
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("2.0").exitStatus, 0);
+    std::vector<std::string> names = scene.Place().Names();
+    bool const isAside = names.front().rfind(".pelnar-aside-", 0) == 0;
+    EXPECT_EQ(isAside, GetParam().name == std::string("Folder")) << names.front();
+    EXPECT_EQ(names.back(), APP);
+    EXPECT_EQ(names.size(), isAside ? 2u : 1u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, LockSquatter,
+                         testing::Values(SquatterRow{"FileForAll",
+                                                     [](std::string const& path)
+                                                     {
+                                                         WriteFile(path, "x");
+                                                         ::chmod(path.c_str(), 0644);
+                                                     }},
+                                         SquatterRow{"FileForTheGroup",
+                                                     [](std::string const& path)
+                                                     {
+                                                         WriteFile(path, "x");
+                                                         ::chmod(path.c_str(), 0640);
+                                                     }},
+                                         SquatterRow{"Fifo",
+                                                     [](std::string const& path) { ::mkfifo(path.c_str(), 0666); }},
+                                         SquatterRow{"Link", [](std::string const& path)
+                                                     { static_cast<void>(!::symlink("/dev/null", path.c_str())); }},
+                                         SquatterRow{"LinkToNothing", [](std::string const& path)
+                                                     { static_cast<void>(!::symlink("/none", path.c_str())); }},
+                                         SquatterRow{"Folder",
+                                                     [](std::string const& path)
+                                                     {
+                                                         ::mkdir(path.c_str(), 0777);
+                                                         WriteFile(path + "/file", "x");
+                                                     }}),
+                         [](testing::TestParamInfo<SquatterRow> const& info) { return info.param.name; });
+
+/// Another name of the file is none by which others could open it: it must not split those who wait.
+TEST(Lock, FileWithASecondNameIsTheSameLock)
+{
+    UpdateScene scene;
+    scene.Host().End();
+    scene.ReleaseStaging();
+    std::string const path = scene.Place().Path() + '/' + LockFileName(APP);
+    UniqueFd const holder(::open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    ASSERT_EQ(::flock(holder.Get(), LOCK_EX | LOCK_NB), 0);
+    ASSERT_EQ(::link(path.c_str(), (scene.Downloads().Path() + "/second").c_str()), 0);
+    int waited = 0;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        // The helper would wait for its turn here; it must not get it.
+        waited += stop.call == SYS_flock ? 1 : 0;
+        return stop.call == SYS_flock ? CallVerdict::Fail(ENOLCK) : CallVerdict::GoOn();
+    };
+    EXPECT_EQ(scene.Recover("1.0", start).Fault(), UpdateFault::LocksUnavailable);
+    EXPECT_EQ(waited, 1);
+    struct stat open;
+    struct stat named;
+    ASSERT_EQ(::fstat(holder.Get(), &open), 0);
+    ASSERT_EQ(::stat(path.c_str(), &named), 0);
+    EXPECT_EQ(open.st_ino, named.st_ino) << "the file that is held is the one that was asked for";
 }
 
 } // namespace

@@ -1,0 +1,146 @@
+#include "Engine/core/payload/FolderSafety.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/StagingFolder.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <vector>
+
+#include <fcntl.h>
+#include <grp.h>
+#include <pwd.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::size_t DATABASE_BYTES = std::size_t{64} << 10; ///< for one entry of the users' or the groups' list
+
+/// True when an access list stands beside the mode, whose group bits then speak for more than the group.
+bool HasAccessList(int folderFd)
+{
+    std::string const path = "/proc/self/fd/" + std::to_string(folderFd);
+    ssize_t const size = ::getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0);
+    return size > 0 || (size < 0 && errno != ENODATA && errno != EOPNOTSUPP);
+}
+
+/// True when one of the users in the local list, other than this one, has the group as their own.
+bool IsGroupOfAnotherUser(gid_t group)
+{
+    std::unique_ptr<FILE, decltype(&::fclose)> const file(std::fopen("/etc/passwd", "re"), &::fclose);
+    std::vector<char> buffer(DATABASE_BYTES);
+    passwd entry{};
+    passwd* found = nullptr;
+    // Deliberate: getpwent would move the place of a host that reads the list as well.
+    while (file && ::fgetpwent_r(file.get(), &entry, buffer.data(), buffer.size(), &found) == 0)
+    {
+        if (entry.pw_gid == group && entry.pw_uid != ::geteuid())
+        {
+            return true;
+        }
+    }
+    return !file;
+}
+
+/// True when the group is this user's own: named after the user, the user's first one, without any other member.
+bool IsPrivateGroup(gid_t group)
+{
+    std::vector<char> userBuffer(DATABASE_BYTES);
+    std::vector<char> groupBuffer(DATABASE_BYTES);
+    passwd user{};
+    passwd* foundUser = nullptr;
+    struct group entry
+    {
+    };
+    struct group* foundGroup = nullptr;
+    if (::getpwuid_r(::geteuid(), &user, userBuffer.data(), userBuffer.size(), &foundUser) != 0 || !foundUser ||
+        ::getgrgid_r(group, &entry, groupBuffer.data(), groupBuffer.size(), &foundGroup) != 0 || !foundGroup)
+    {
+        return false;
+    }
+    std::string const name = user.pw_name;
+    for (char const* const* member = entry.gr_mem; *member; ++member)
+    {
+        if (name != *member)
+        {
+            return false;
+        }
+    }
+    return user.pw_gid == group && name == entry.gr_name && !IsGroupOfAnotherUser(group);
+}
+
+FolderSafety JudgeFolder(UniqueFd const& folder, struct stat const& status)
+{
+    if (status.st_uid != 0 && status.st_uid != ::geteuid())
+    {
+        return FolderSafety::OfAnotherUser;
+    }
+    if ((status.st_mode & S_IWOTH) != 0)
+    {
+        return (status.st_mode & S_ISVTX) != 0 ? FolderSafety::Shared : FolderSafety::OpenToAll;
+    }
+    if ((status.st_mode & S_IWGRP) == 0 || (!HasAccessList(folder.Get()) && IsPrivateGroup(status.st_gid)))
+    {
+        return FolderSafety::Safe;
+    }
+    return FolderSafety::OpenToGroup;
+}
+
+/// True for a folder above that keeps everybody from the names of others.
+bool IsSafeAbove(FolderSafety safety, struct stat const& status)
+{
+    bool const isOpen = safety == FolderSafety::Shared || safety == FolderSafety::OpenToGroup;
+    return safety == FolderSafety::Safe || (isOpen && (status.st_mode & S_ISVTX) != 0);
+}
+
+} // namespace
+
+FolderFinding LookUpToTheRoot(int folderFd)
+{
+    UniqueFd folder(::openat(folderFd, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    bool isAbove = false;
+    for (struct stat below{}; folder; isAbove = true)
+    {
+        struct stat status;
+        if (::fstat(folder.Get(), &status) != 0)
+        {
+            break;
+        }
+        if (isAbove && status.st_dev == below.st_dev && status.st_ino == below.st_ino)
+        {
+            return {}; // only the root is its own parent
+        }
+        FolderSafety const safety = JudgeFolder(folder, status);
+        if (isAbove ? !IsSafeAbove(safety, status) : safety != FolderSafety::Safe)
+        {
+            return {safety, RealPathOf(folder.Get()), status.st_gid};
+        }
+        below = status;
+        folder = UniqueFd(::openat(folder.Get(), "..", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    }
+    return {FolderSafety::Unreadable, {}, 0};
+}
+
+bool IsSafeUpToTheRoot(int folderFd)
+{
+    return LookUpToTheRoot(folderFd).safety == FolderSafety::Safe;
+}
+
+std::string GroupName(gid_t group)
+{
+    std::vector<char> buffer(DATABASE_BYTES);
+    struct group entry
+    {
+    };
+    struct group* found = nullptr;
+    bool const isKnown = ::getgrgid_r(group, &entry, buffer.data(), buffer.size(), &found) == 0 && found;
+    return isKnown ? entry.gr_name : std::to_string(group);
+}
+
+} // namespace Pelnar::Engine

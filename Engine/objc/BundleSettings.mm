@@ -1,5 +1,6 @@
 #include "Engine/objc/BundleSettings_p.h"
 
+#include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/objc/HelperLocation_p.h"
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
@@ -7,12 +8,13 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
-#include <QLockFile>
 #include <QStandardPaths>
 
 #include <glog/logging.h>
 
 #include <algorithm>
+#include <mutex>
+#include <utility>
 
 using namespace Pelnar::Foundation;
 
@@ -22,7 +24,20 @@ namespace
 {
 
 constexpr long long MAX_FEED_BYTES = 1LL << 30;
-constexpr int LONGEST_WAIT_MS = 500;
+
+/// Records on their way to the disk, which a check that begins meanwhile must not miss.
+struct WaitingRecord
+{
+    std::mutex mutex;
+    std::optional<FeedRecord> record;
+    int writes = 0;
+};
+
+WaitingRecord& Waiting()
+{
+    static WaitingRecord waiting;
+    return waiting;
+}
 
 enum class Source
 {
@@ -214,6 +229,37 @@ id EntryOf(NSDictionary* record, NSString* name, Class kind)
     return entry;
 }
 
+/// What versions before this one kept in the user defaults; it counts until there is a file.
+FeedRecord ReadEarlierFeedRecord()
+{
+    FeedRecord record;
+    NSString* const key = @"PelnarFeedRecord";
+    id const entries = ObjectOf(key, Source::Defaults);
+    if (entries && ![entries isKindOfClass:[NSDictionary class]])
+    {
+        WarnOfType(key, "a dictionary");
+        return record;
+    }
+    record.address = ToQString(EntryOf(entries, @"address", [NSString class]));
+    record.digest = ToQString(EntryOf(entries, @"digest", [NSString class]));
+    if (NSDate* const time = EntryOf(entries, @"firstSeen", [NSDate class]))
+    {
+        record.firstSeen = TimeOf(time);
+    }
+    if (NSDate* const time = EntryOf(entries, @"lastSeen", [NSDate class]))
+    {
+        record.lastSeen = TimeOf(time);
+    }
+    record.serial = std::max(0LL, [EntryOf(entries, @"serial", [NSNumber class]) longLongValue]);
+    return record;
+}
+
+/// Beside the user defaults, but not in them: those are named after the program, and writing them takes the disk's time.
+QString RecordPath()
+{
+    return FeedRecordPath(ToQString(GSDefaultsRootForUser(NSUserName())), TextOf(@"CFBundleIdentifier", Source::Bundle));
+}
+
 BackOffState ReadBackOff()
 {
     BackOffState state;
@@ -292,7 +338,11 @@ std::optional<StartedApplication> ReadStartedApplication()
     return application.version.isEmpty() ? std::nullopt : std::optional(application);
 }
 
-QUrl ReadFeedUrl() { return QUrl(TextOf(@"SUFeedURL", Source::DefaultsThenBundle)); }
+QUrl ReadFeedUrl()
+{
+    bool const mayBeChanged = IsTrue(@"PelnarAllowsFeedURLInDefaults", Source::Bundle);
+    return QUrl(TextOf(@"SUFeedURL", mayBeChanged ? Source::DefaultsThenBundle : Source::Bundle));
+}
 
 AutomaticDownload ReadAutomaticDownload()
 {
@@ -319,43 +369,31 @@ void WriteBackOff(BackOffState const& state)
 
 FeedRecord ReadFeedRecord()
 {
-    FeedRecord record;
-    NSString* const key = @"PelnarFeedRecord";
-    id const entries = ObjectOf(key, Source::Defaults);
-    if (entries && ![entries isKindOfClass:[NSDictionary class]])
-    {
-        WarnOfType(key, "a dictionary");
-        return record;
-    }
-    record.address = ToQString(EntryOf(entries, @"address", [NSString class]));
-    record.digest = ToQString(EntryOf(entries, @"digest", [NSString class]));
-    if (NSDate* const time = EntryOf(entries, @"firstSeen", [NSDate class]))
-    {
-        record.firstSeen = TimeOf(time);
-    }
-    if (NSDate* const time = EntryOf(entries, @"lastSeen", [NSDate class]))
-    {
-        record.lastSeen = TimeOf(time);
-    }
-    record.serial = std::max(0LL, [EntryOf(entries, @"serial", [NSNumber class]) longLongValue]);
-    return record;
+    WaitingRecord& waiting = Waiting();
+    std::lock_guard const lock(waiting.mutex);
+    FeedRecord const stored = ReadFeedRecordFile(RecordPath()).value_or(ReadEarlierFeedRecord());
+    return waiting.record ? FeedRecordToKeep(stored, *waiting.record) : stored;
 }
 
-void KeepFeedRecord(FeedRecord const& ours)
+void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores)
 {
-    // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
-    QLockFile lock(ToQString(GSDefaultsRootForUser(NSUserName())) + QStringLiteral("/PelnarFeedRecord.lock"));
-    LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
-        << "What is known of the feed is stored without the lock that keeps other processes from doing so";
-    RefreshDefaults();
-    FeedRecord const record = FeedRecordToKeep(ReadFeedRecord(), ours);
-    NSMutableDictionary* const entries = [NSMutableDictionary dictionary];
-    [entries setObject:ToNSString(record.address) forKey:@"address"];
-    [entries setObject:ToNSString(record.digest) forKey:@"digest"];
-    [entries setObject:DateOf(record.firstSeen) forKey:@"firstSeen"];
-    [entries setObject:DateOf(record.lastSeen) forKey:@"lastSeen"];
-    [entries setObject:[NSNumber numberWithLongLong:record.serial] forKey:@"serial"];
-    WriteDefault(@"PelnarFeedRecord", entries);
+    WaitingRecord& waiting = Waiting();
+    {
+        std::lock_guard const lock(waiting.mutex);
+        waiting.record = waiting.record ? FeedRecordToKeep(*waiting.record, ours) : ours;
+        ++waiting.writes;
+    }
+    chores.Run(
+        [&waiting, ours, path = RecordPath(), earlier = ReadEarlierFeedRecord()]
+        {
+            bool const isKept = KeepFeedRecordFile(path, earlier, ours);
+            std::lock_guard const lock(waiting.mutex);
+            // What no disk keeps is remembered as long as the process lives.
+            if (--waiting.writes == 0 && isKept)
+            {
+                waiting.record.reset();
+            }
+        });
 }
 
 } // namespace Pelnar::Engine

@@ -1,7 +1,8 @@
 // BundleSettings_p.h: what the running bundle and the user defaults say about updates. Plain C++.
 // Thread: main. Ownership: values only.
 // A value of the wrong type counts as absent, with a warning. Where a key may stand in both, the user default wins.
-//   SUFeedURL                   text; the feed's address                                 both
+//   SUFeedURL                   text; the feed's address              bundle; both with the next key
+//   PelnarAllowsFeedURLInDefaults  boolean; a user default may name another feed         bundle
 //   SUAutomaticallyUpdate       boolean                                                  both
 //   SUSkippedVersion            text; the version that the user skipped                  defaults
 //   SULastCheckTime             date; written at the end of every check                  defaults
@@ -15,13 +16,15 @@
 //   PelnarFailedChecks          number; background checks in a row that failed           defaults
 //   PelnarLastFailedCheckTime   date; of the last of them                                defaults
 //   PelnarRequiresSignedFeed    boolean; a feed that is not signed is refused; anything but a plain "no" asks for it   bundle
-//   PelnarFeedRecord            dictionary; what is known of the feed: address, digest (text), firstSeen, lastSeen (dates),
-//                               serial (number); an entry of the wrong type counts as absent   defaults
+//   PelnarFeedRecord            dictionary; what earlier versions knew of the feed: address, digest (text), firstSeen,
+//                               lastSeen (dates), serial (number); read until there is a file of FeedRecordFile.h; an entry
+//                               of the wrong type counts as absent   defaults
 //   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
 //   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
+#include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateSettings.h"
 
@@ -46,7 +49,8 @@ void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
 void WriteBackOff(BackOffState const& state);
 FeedRecord ReadFeedRecord();
-/// Stores \a ours, unless another process of the application has stored a record of a later feed meanwhile.
-void KeepFeedRecord(FeedRecord const& ours);
+/// Has \a chores store \a ours, unless another process of the application has stored a record of a later feed meanwhile.
+/// ReadFeedRecord() knows of it at once.
+void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores);
 
 } // namespace Pelnar::Engine

@@ -138,6 +138,7 @@ void Updater::PrepareForCheck()
         return;
     }
     m_parts = std::make_unique<UpdateParts>(HelperProgram());
+    m_chores = std::make_unique<DiskChores>();
     m_windows = MakeDesktopWindows();
     WatchSessionEnd(
         [this]
@@ -159,6 +160,7 @@ void Updater::Abandon()
     updater->m_waitingCheck.reset();
     updater->m_windows.reset();
     updater->m_parts.reset();
+    updater->m_chores.reset();
     updater->m_appcast.Reset();
     updater->m_found.Reset();
     updater->m_fallback.Reset();
@@ -384,7 +386,7 @@ void Updater::StoreFeedRecord(FeedRecord const& record)
 {
     @autoreleasepool
     {
-        KeepFeedRecord(record);
+        KeepFeedRecord(record, *m_chores);
     }
 }
 

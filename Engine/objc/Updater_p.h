@@ -5,6 +5,7 @@
 
 #import <Sparkle/Sparkle.h>
 
+#include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateFlow.h"
 #include "Foundation/Retained.h"
@@ -90,6 +91,7 @@ private:
     QString m_failedVersion;                 ///< that was taken back for the running one
     std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may tell of a failed version
     std::unique_ptr<IUpdateParts> m_parts;
+    std::unique_ptr<DiskChores> m_chores; ///< what a check leaves to be written
     std::unique_ptr<IUserInterface> m_windows;
     std::unique_ptr<UpdateFlow> m_flow; ///< the first to go
 };

@@ -11,7 +11,7 @@ class BundleKeys : public CheckContract
 {
 };
 
-TEST_F(BundleKeys, FeedAddressIsReadAndTheUserDefaultWins)
+TEST_F(BundleKeys, FeedAddressIsReadAndTheUserDefaultWinsWhereTheBundleAllowsIt)
 {
     UpdaterDriver driver({});
     EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://bundle.example/feed.xml")));

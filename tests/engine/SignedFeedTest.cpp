@@ -1,5 +1,6 @@
 // SignedFeedTest.cpp: checks by a bundle that requires signed feeds, over a server on this computer and the process's
 // own user defaults.
+#include "Engine/core/check/FeedRecordFile.h"
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/SignedFeedText.h"
 
@@ -7,12 +8,17 @@
 
 #include <QCryptographicHash>
 #include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
 
 #include <functional>
 
 namespace
 {
 
+using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 using Start = void (UpdaterDriver::*)();
 
@@ -28,6 +34,33 @@ protected:
         ((*driver).*start)();
         EXPECT_TRUE(driver->WaitForEnd());
         return driver->Events();
+    }
+
+    static QString RecordPath() { return FeedRecordPath(DefaultsFolder(), {}); }
+
+    /// What the file says of the feed; it may still be on its way to the disk.
+    static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
+
+    static void WaitForSerial(qint64 serial)
+    {
+        EXPECT_TRUE(WaitFor([serial] { return KeptRecord() && KeptRecord()->serial == serial; })) << serial;
+    }
+
+    static void WriteFile(QByteArray const& bytes)
+    {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(RecordPath()).path()));
+        QFile file(RecordPath());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    /// As another process of the application does.
+    void RaiseSerial(qint64 serial) const
+    {
+        FeedRecord record;
+        record.address = server.Url().toString();
+        record.serial = serial;
+        EXPECT_TRUE(KeepFeedRecordFile(RecordPath(), {}, record));
     }
 
     void ExpectRefused(int code, int cause)
@@ -122,7 +155,7 @@ TEST_F(SignedFeedCheck, TermsAreRequired)
 TEST_F(SignedFeedCheck, OlderFeedThanTheLastIsRefusedByTheNextProcessAsWell)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), (Events{"asked", "found 5.2"}));
-    ReloadDefaults();
+    WaitForSerial(9007199254740993);
     EXPECT_EQ(Check(SignedFeedOf("5.1", "9007199254740992")), Events{"aborted 3002"});
     ExpectRefused(3002, 762);
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), (Events{"asked", "found 5.2"})) << "the same again";
@@ -135,7 +168,7 @@ TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedMeanwhileIsNotLowered)
     answer = OkAnswer(SignedFeedOf("5.1", "5"));
     driver.emplace(DelegateScript{&ChooseFirst, &CompareNumbers, {}, {}});
     driver->SetFeed(server.Url());
-    beforeAnswer = [this] { WriteDefaultsOfAnotherProcess(RecordOf("serial = <*I9>;")); };
+    beforeAnswer = [this] { RaiseSerial(9); };
     driver->Probe();
     EXPECT_TRUE(driver->WaitForEnd());
     EXPECT_EQ(driver->Events(), (Events{"asked", "found 5.1"})) << "it was believed when it came";
@@ -148,7 +181,8 @@ TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedMeanwhileIsNotLowered)
 TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedBetweenChecksHolds)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.1", "5")), (Events{"asked", "found 5.1"}));
-    WriteDefaultsOfAnotherProcess(RecordOf("serial = <*I9>;"));
+    WaitForSerial(5);
+    RaiseSerial(9);
     EXPECT_EQ(Check(SignedFeedOf("5.2", "8")), Events{"aborted 3002"});
     ExpectRefused(3002, 762);
 }
@@ -163,20 +197,31 @@ TEST_F(SignedFeedCheck, RefusedFeedsMoveNoFloor)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "3")), (Events{"asked", "found 5.1"}));
 }
 
-TEST_F(SignedFeedCheck, FeedAtAnotherAddressHasSerialsOfItsOwn)
+TEST_F(SignedFeedCheck, NeitherAnotherAddressNorAFragmentLowersTheFloor)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
-    driver->SetFeed(server.Url(QStringLiteral("/beta.xml")));
-    answer = OkAnswer(SignedFeedOf("5.2", "1"));
-    driver->Probe();
-    EXPECT_TRUE(driver->WaitForEnd());
-    EXPECT_EQ(driver->Events().back(), "found 5.2");
+    QUrl withFragment = server.Url();
+    withFragment.setFragment(QStringLiteral("x"));
+    for (QUrl const& address : {server.Url(QStringLiteral("/beta.xml")), withFragment, server.Url()})
+    {
+        answer = OkAnswer(SignedFeedOf("5.2", "8"));
+        driver.emplace(DelegateScript{&ChooseFirst, &CompareNumbers, {}, {}});
+        driver->SetFeed(address);
+        driver->Probe();
+        EXPECT_TRUE(driver->WaitForEnd());
+        ExpectRefused(3002, 762);
+    }
 }
 
-TEST_F(SignedFeedCheck, FloorIsReadFromTheDefaults)
+TEST_F(SignedFeedCheck, FloorOfTheDefaultsIsTakenOverOnceWhateverItsAddress)
 {
-    WriteRecord("serial = <*I8>;");
+    SpoilDefaults("{ PelnarFeedRecord = { address = \"https://a.example/\"; serial = <*I8>; }; }");
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), Events{"aborted 3002"});
+    EXPECT_FALSE(KeptRecord()) << "nothing is remembered of a feed that was refused";
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
+    WaitForSerial(9);
+    SpoilDefaults("{ PelnarFeedRecord = { serial = <*I20>; }; }");
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
 TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
@@ -189,6 +234,8 @@ TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
         LogCapture log;
         EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"})) << record.toStdString();
         EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The entry firstSeen of PelnarFeedRecord is of the wrong type"));
+        WaitForSerial(7);
+        QFile::remove(RecordPath());
     }
     for (QByteArray const& defaults :
          {QByteArray("{ PelnarFeedRecord = 8; }"), QByteArray("{ PelnarFeedRecord = (8); }"),
@@ -196,7 +243,37 @@ TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
     {
         SpoilDefaults(defaults);
         EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"})) << defaults.toStdString();
+        WaitForSerial(7);
+        WriteFile(defaults);
+        EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), (Events{"asked", "found 5.1"})) << defaults.toStdString();
+        WaitForSerial(6);
+        QFile::remove(RecordPath());
     }
+}
+
+TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
+{
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(RecordPath()).path()));
+    // Whoever stores waits for this lock.
+    QLockFile lock(RecordPath() + QStringLiteral(".lock"));
+    ASSERT_TRUE(lock.lock());
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));
+    EXPECT_FALSE(KeptRecord()) << "the check has ended, and nothing is stored yet";
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), Events{"aborted 3002"}) << "it is remembered all the same";
+    lock.unlock();
+    WaitForSerial(7);
+}
+
+TEST_F(SignedFeedCheck, FloorThatNoDiskKeepsHoldsAsLongAsTheProcess)
+{
+    ASSERT_TRUE(QDir().mkpath(DefaultsFolder()));
+    QFile inTheWay(QFileInfo(RecordPath()).path());
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    LogCapture log;
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));
+    EXPECT_TRUE(WaitFor([&log] { return HasLog(log, google::GLOG_WARNING, "could not be saved in"); }));
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), Events{"aborted 3002"});
+    ExpectRefused(3002, 762);
 }
 
 TEST_F(SignedFeedCheck, HostCanAskForHowLongTheFeedHasNotChanged)

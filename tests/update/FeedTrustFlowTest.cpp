@@ -19,13 +19,15 @@ protected:
     FeedTrustFlow() { settings.check.publicKeys = QStringList(QString::fromStdString(MakeKeyPair(7).publicKey)); }
 
     /// A probe of \a feed, with what the last one stored.
-    Notes Check(QByteArray const& feed)
+    Notes Check(QByteArray const& feed, QString const& fileName = QStringLiteral("feed.xml"),
+                QString const& fragment = {})
     {
-        QFile file(folder.filePath(QStringLiteral("feed.xml")));
+        QFile file(folder.filePath(fileName));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(feed);
         file.close();
         settings.check.feedUrl = QUrl::fromLocalFile(file.fileName());
+        settings.check.feedUrl.setFragment(fragment);
         settings.check.feedRecord = host.feedRecord.value_or(settings.check.feedRecord);
         notes.clear();
         host.error.reset();
@@ -118,6 +120,23 @@ TEST_F(FeedTrustFlow, SerialNeverFalls)
             ExpectRefused(cause);
         }
     }
+}
+
+TEST_F(FeedTrustFlow, SerialHoldsAfterADetourThroughAnotherFeedAndWithAFragment)
+{
+    settings.check.feedSigning = FeedSigning::Required;
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9")), found);
+    settings.check.feedSigning = FeedSigning::NotAsked;
+    EXPECT_EQ(Check(FeedWith(ItemOf("5.1")), QStringLiteral("other.xml")), found);
+    settings.check.feedSigning = FeedSigning::Required;
+    for (char const* const fileName : {"feed.xml", "other.xml", "third.xml"})
+    {
+        EXPECT_EQ(Check(SignedFeedOf("5.1", "8"), QString::fromLatin1(fileName)), refused) << fileName;
+        ExpectRefused(762);
+        EXPECT_EQ(Check(SignedFeedOf("5.1", "8"), QString::fromLatin1(fileName), QStringLiteral("x")), refused);
+        ExpectRefused(762);
+    }
+    EXPECT_EQ(Check(SignedFeedOf("5.2", "9"), QStringLiteral("third.xml")), found);
 }
 
 TEST_F(FeedTrustFlow, WhereNothingIsAskedForTheSignatureAndTheTermsChangeNothing)

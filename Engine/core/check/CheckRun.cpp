@@ -113,7 +113,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
             return *error;
         }
         terms = std::get<FeedTerms>(said);
-        if (auto const error = JudgeFeedTerms(*terms, SerialFloor(m_settings.feedRecord, m_settings.feedUrl), now))
+        if (auto const error = JudgeFeedTerms(*terms, m_settings.feedRecord.serial, now))
         {
             return error;
         }

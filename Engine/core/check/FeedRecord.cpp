@@ -14,15 +14,10 @@ constexpr qint64 SECONDS_PER_DAY = 24 * 60 * 60;
 
 QString AddressOf(QUrl const& url)
 {
-    return url.adjusted(QUrl::RemoveUserInfo).toString(QUrl::FullyEncoded);
+    return url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment).toString(QUrl::FullyEncoded);
 }
 
 } // namespace
-
-qint64 SerialFloor(FeedRecord const& record, QUrl const& url)
-{
-    return record.address == AddressOf(url) ? record.serial : 0;
-}
 
 FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
                      std::optional<FeedTerms> const& terms, QDateTime const& now)
@@ -35,13 +30,16 @@ FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const
                          record.firstSeen.isValid() && record.firstSeen <= now;
     after.firstSeen = isKnown ? record.firstSeen : now;
     after.lastSeen = now;
-    after.serial = terms ? terms->serial : SerialFloor(record, url);
+    after.serial = terms ? std::max(terms->serial, record.serial) : record.serial;
     return after;
 }
 
 FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours)
 {
-    return stored.address == ours.address && stored.serial > ours.serial ? stored : ours;
+    bool const isTheirsLater = stored.address == ours.address && stored.serial > ours.serial;
+    FeedRecord kept = isTheirsLater ? stored : ours;
+    kept.serial = std::max(stored.serial, ours.serial);
+    return kept;
 }
 
 int UnchangedDays(FeedRecord const& record)

@@ -14,28 +14,26 @@
 namespace Pelnar::Engine
 {
 
-/// Kept in the user defaults, of one address: a feed at another one begins anew.
+/// One for each application: its bundle's identifier names it, whichever feed it asks.
 struct FeedRecord
 {
-    QString address;
-    QString digest;      ///< hexadecimal SHA-256 of all bytes
+    QString address;     ///< of the last feed, without credentials and fragment
+    QString digest;      ///< hexadecimal SHA-256 of all its bytes
     QDateTime firstSeen; ///< when these bytes came for the first time; invalid without a feed
     QDateTime lastSeen;  ///< and for the last time
-    qint64 serial = 0;   ///< of the last feed whose signature was verified; 0 without one
+    qint64 serial = 0;   ///< the highest of all feeds whose signature was verified; 0 without one
 };
 
 /// From so many days on the log warns of a feed that does not change: an old one may be all that gets through.
 constexpr int STALE_FEED_DAYS = 180;
-
-/// The serial that a signed feed from \a url must not be below.
-[[nodiscard]] qint64 SerialFloor(FeedRecord const& record, QUrl const& url);
 
 /// \a record after \a bytes, a feed that can be read, came from \a url. \a terms are those of a verified feed.
 [[nodiscard]] FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
                                    std::optional<FeedTerms> const& terms, QDateTime const& now);
 
 /// What is to be kept of \a ours, the record after this process' check, and of \a stored, which another process of the
-/// application may have written while that check ran: of one address the one with the higher serial, else ours.
+/// application may have written while that check ran: of one address the one with the higher serial, else ours, with
+/// the higher serial of the two.
 [[nodiscard]] FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours);
 
 /// For how many whole days the same bytes have been coming, as far as checks were made.

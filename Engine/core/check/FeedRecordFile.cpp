@@ -1,0 +1,125 @@
+#include "Engine/core/check/FeedRecordFile.h"
+
+#include "Engine/core/UpdateError.h"
+#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/payload/FieldCodec_p.h"
+#include "Engine/core/payload/NoteFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QUrl>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <limits>
+
+#include <fcntl.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::string_view MAGIC = "PELNARF1";
+constexpr int LONGEST_WAIT_MS = 500;
+
+/// A moment before 1970 is none that a feed can have come at.
+std::uint64_t NumberOf(QDateTime const& time)
+{
+    return time.isValid() ? static_cast<std::uint64_t>(std::max<qint64>(0, time.toSecsSinceEpoch())) : 0;
+}
+
+QDateTime TimeOf(std::uint64_t seconds)
+{
+    // Later than the year 9999 no clock of ours goes.
+    constexpr std::uint64_t LATEST = 253402300799;
+    return seconds == 0 || seconds > LATEST ? QDateTime()
+                                            : QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC);
+}
+
+UniqueFd OpenFolderOf(QString const& path)
+{
+    return UniqueFd(::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+std::string NameOf(QString const& path)
+{
+    return QFile::encodeName(QFileInfo(path).fileName()).toStdString();
+}
+
+} // namespace
+
+std::string EncodeFeedRecord(FeedRecord const& record)
+{
+    FieldWriter writer(MAGIC);
+    writer.Text(record.address.toStdString());
+    writer.Text(record.digest.toStdString());
+    writer.Number(NumberOf(record.firstSeen));
+    writer.Number(NumberOf(record.lastSeen));
+    writer.Number(static_cast<std::uint64_t>(record.serial));
+    return writer.Finish();
+}
+
+std::optional<FeedRecord> DecodeFeedRecord(std::string_view bytes)
+{
+    FieldReader reader(bytes, MAGIC);
+    FeedRecord record;
+    record.address = QString::fromStdString(reader.Text());
+    record.digest = QString::fromStdString(reader.Text());
+    record.firstSeen = TimeOf(reader.Number());
+    record.lastSeen = TimeOf(reader.Number());
+    std::uint64_t const serial = reader.Number();
+    if (!reader.IsWhole() || serial > static_cast<std::uint64_t>(std::numeric_limits<qint64>::max()))
+    {
+        return std::nullopt;
+    }
+    record.serial = static_cast<qint64>(serial);
+    return record;
+}
+
+QString FeedRecordPath(QString const& folder, QString const& bundleIdentifier)
+{
+    // The identifier is a name, whatever it holds.
+    return folder + QStringLiteral("/PelnarFeeds/") +
+           QString::fromLatin1(QUrl::toPercentEncoding(bundleIdentifier, {}, ".")) + QStringLiteral(".feed");
+}
+
+std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
+{
+    try
+    {
+        UniqueFd const folder = OpenFolderOf(path);
+        return folder ? DecodeFeedRecord(ReadNote(folder.Get(), NameOf(path))) : std::nullopt;
+    }
+    catch (UpdateRefusal const&)
+    {
+        return std::nullopt;
+    }
+}
+
+bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedRecord const& ours)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    UniqueFd const folder = OpenFolderOf(path);
+    // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
+    QLockFile lock(path + QStringLiteral(".lock"));
+    LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
+        << "What is known of the feed is stored without the lock that keeps other processes from doing so";
+    FeedRecord const stored = ReadFeedRecordFile(path).value_or(earlier);
+    try
+    {
+        WriteNote(folder.Get(), NameOf(path), EncodeFeedRecord(FeedRecordToKeep(stored, ours)));
+        return true;
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        LOG(WARNING) << "What is known of the feed could not be saved in " << path.toStdString() << ": "
+                     << MakeFaultError(refusal.Fault(), refusal.ErrorNumber()).detail.toStdString();
+        return false;
+    }
+}
+
+} // namespace Pelnar::Engine

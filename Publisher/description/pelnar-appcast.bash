@@ -54,7 +54,7 @@ _pelnar_appcast()
             "delta create") words="-h --help -o --output --key" ;;
             "delta apply") words="-h --help -o --output" ;;
             "delta show") words="-h --help --json" ;;
-            "serve") words="-h --help --port --fault --tls --end-with-input" ;;
+            "serve") words="-h --help --host --port --fault --tls --end-with-input" ;;
         esac
         # A verb with verbs takes nothing else; any other takes files besides its options.
         case "$verb" in

@@ -5,10 +5,10 @@
 namespace Pelnar::Publisher
 {
 
-FileServer::FileServer(Engine::UniqueFd folder, std::vector<ServerFault> faults,
-                       std::optional<ServerCertificate> certificate, ServerLog log)
+FileServer::FileServer(Engine::UniqueFd folder, ServerManners manners, std::optional<ServerCertificate> certificate,
+                       ServerLog log)
     : m_folder(std::move(folder))
-    , m_faults(std::move(faults))
+    , m_manners(std::move(manners))
     , m_certificate(std::move(certificate))
     , m_log(std::move(log))
 {
@@ -28,7 +28,7 @@ QString FileServer::Address() const
 
 void FileServer::incomingConnection(qintptr descriptor)
 {
-    (new ServerConnection(m_folder.Get(), m_faults, m_log, this))->Start(descriptor, m_certificate);
+    (new ServerConnection(m_folder.Get(), m_manners, m_log, this))->Start(descriptor, m_certificate);
 }
 
 } // namespace Pelnar::Publisher

@@ -26,11 +26,20 @@ struct ServerCertificate
 /// Told of each answer, on one line: "GET /appcast.xml 200 1234 bytes".
 using ServerLog = std::function<void(QString const& line)>;
 
+/// What a server does beside serving.
+struct ServerManners
+{
+    std::vector<ServerFault> faults;
+    /// Names beside those of this computer under which it may be asked. A page of another site that leads its own name
+    /// here reads nothing.
+    std::vector<QByteArray> hosts;
+};
+
 class FileServer : private QTcpServer
 {
 public:
-    /// \a folder is an open folder; nothing outside it and no link in it is served.
-    FileServer(Engine::UniqueFd folder, std::vector<ServerFault> faults, std::optional<ServerCertificate> certificate,
+    /// \a folder is an open folder; nothing outside it, no link in it and nothing that OpenServedFile hides is served.
+    FileServer(Engine::UniqueFd folder, ServerManners manners, std::optional<ServerCertificate> certificate,
                ServerLog log);
 
     /// Listens on the loopback address; 0 stands for any free port. False when the port is in use.
@@ -42,7 +51,7 @@ private:
     void incomingConnection(qintptr descriptor) override;
 
     Engine::UniqueFd m_folder;
-    std::vector<ServerFault> m_faults;
+    ServerManners m_manners;
     std::optional<ServerCertificate> m_certificate;
     ServerLog m_log;
 };

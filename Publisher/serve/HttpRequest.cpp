@@ -40,6 +40,7 @@ std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head)
         return std::nullopt;
     }
     HttpRequest request;
+    int hosts = 0;
     request.method = words.at(0);
     request.path = PathOf(words.at(1));
     for (QByteArray const& line : lines.mid(1))
@@ -55,8 +56,30 @@ std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head)
         {
             request.ifRange = value;
         }
+        else if (name == "host")
+        {
+            request.host = value;
+            ++hosts;
+        }
     }
+    request.isHostClear = hosts == 1 || (hosts == 0 && words.at(2) == "HTTP/1.0");
     return request;
+}
+
+QByteArray HostName(QByteArray const& header)
+{
+    bool const isBracketed = header.startsWith('[');
+    int const colon = header.indexOf(':');
+    int const end = isBracketed ? header.indexOf(']') + 1 : colon < 0 ? header.size() : colon;
+    QByteArray name = header.left(end).toLower();
+    QByteArray const rest = header.mid(end);
+    bool const hasPort = rest.isEmpty() || (rest.startsWith(':') && NumberOf(rest.mid(1)) >= 0);
+    if (isBracketed)
+    {
+        name = name.mid(1).chopped(1);
+    }
+    name.chop(name.endsWith('.') ? 1 : 0);
+    return hasPort ? name : QByteArray();
 }
 
 RangeKind RangeOf(QByteArray const& header, qint64 size, ByteRange& range)

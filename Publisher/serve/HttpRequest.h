@@ -16,10 +16,15 @@ struct HttpRequest
     QString path; ///< below the served folder, decoded, without query; empty for what cannot be one
     QByteArray range;
     QByteArray ifRange;
+    std::optional<QByteArray> host = {}; ///< as the header has it
+    bool isHostClear = true;             ///< said once, or left away in HTTP/1.0
 };
 
 /// Reads the head of a request, up to the empty line; nothing for what is no HTTP/1 request.
 std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head);
+
+/// The name in a header Host, in lower case and without port; empty for what has no such form.
+QByteArray HostName(QByteArray const& header);
 
 /// Bytes of a file, from \a first up to and without \a end.
 struct ByteRange

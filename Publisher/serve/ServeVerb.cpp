@@ -5,6 +5,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/files/InputFile.h"
 #include "Publisher/serve/FileServer.h"
+#include "Publisher/serve/HttpRequest.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -29,6 +30,7 @@ struct Options
     std::string folder;
     std::uint16_t port = 0;
     std::vector<std::string> faults;
+    std::vector<std::string> hosts;
     std::vector<std::string> tls;
     bool endsWithInput = false;
 };
@@ -105,7 +107,21 @@ ExitStatus Serve(Console const& console, Options const& options)
         certificate =
             ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
     }
-    FileServer server(std::move(folder), ParseFaults(options.faults), std::move(certificate),
+    ServerManners manners{ParseFaults(options.faults), {}};
+    for (std::string const& host : options.hosts)
+    {
+        QByteArray const hostName = HostName(QByteArray::fromStdString(host));
+        if (hostName.isEmpty())
+        {
+            throw Refusal({{},
+                           0,
+                           0,
+                           QStringLiteral("--host: \"%1\" is no name").arg(QString::fromStdString(host)),
+                           QStringLiteral("give a name such as updates.example.com")});
+        }
+        manners.hosts.push_back(hostName);
+    }
+    FileServer server(std::move(folder), std::move(manners), std::move(certificate),
                       [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
     if (!server.Listen(options.port))
     {
@@ -136,7 +152,15 @@ void AddServe(CLI::App& program, VerbContext& context)
     CLI::App& verb = *program.add_subcommand(
         "serve", "Serve a folder to this computer only, for a dry run of a feed, until it is interrupted; the first "
                  "line printed is the address");
-    verb.add_option("FOLDER", options->folder, "Folder to serve; links in it are not followed")->required();
+    verb.add_option("FOLDER", options->folder,
+                    "Folder to serve; links in it are not followed, and private keys, names that begin with a dot and "
+                    "what only its owner may read are hidden")
+        ->required();
+    verb.add_option("--host", options->hosts,
+                    "A name under which the server may be asked, beside localhost, 127.0.0.1 and ::1; requests for any "
+                    "other are refused, so that no web page reads the folder")
+        ->allow_extra_args(false)
+        ->type_name("NAME");
     verb.add_option("--port", options->port, "Port to listen on; any free one without this")->type_name("NUMBER");
     verb.add_option("--fault", options->faults,
                     "What goes wrong with a file, in each answer: truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, "

@@ -1,6 +1,7 @@
 #include "Publisher/serve/ServerConnection.h"
 
 #include "Publisher/Console.h"
+#include "Publisher/serve/ServedFile.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -37,6 +38,8 @@ QByteArray ReasonOf(int status)
         return "Method Not Allowed";
     case 416:
         return "Range Not Satisfiable";
+    case 421:
+        return "Misdirected Request";
     }
     return "As Asked For";
 }
@@ -80,9 +83,8 @@ QByteArray HttpDate(qint64 seconds)
 
 } // namespace
 
-ServerConnection::ServerConnection(int folderFd, std::vector<ServerFault> const& faults, ServerLog const& log,
-                                   QObject* parent)
-    : QObject(parent), m_folderFd(folderFd), m_faults(faults), m_log(log)
+ServerConnection::ServerConnection(int folderFd, ServerManners const& manners, ServerLog const& log, QObject* parent)
+    : QObject(parent), m_folderFd(folderFd), m_manners(manners), m_log(log)
 {
     connect(&m_socket, &QIODevice::readyRead, this, &ServerConnection::Read);
     connect(&m_socket, &QAbstractSocket::disconnected, this, &QObject::deleteLater);
@@ -126,13 +128,33 @@ void ServerConnection::Read()
 
 ServerFault const* ServerConnection::FaultFor(QString const& path) const
 {
-    auto const found = std::find_if(m_faults.begin(), m_faults.end(),
+    auto const found = std::find_if(m_manners.faults.begin(), m_manners.faults.end(),
                                     [&path](ServerFault const& fault) { return fault.name == path; });
-    return found == m_faults.end() ? nullptr : &*found;
+    return found == m_manners.faults.end() ? nullptr : &*found;
+}
+
+bool ServerConnection::IsAskedByItsName(HttpRequest const& request) const
+{
+    constexpr char const* OWN_NAMES[] = {"localhost", "127.0.0.1", "::1"};
+    QByteArray const name = HostName(*request.host);
+    return std::find(std::begin(OWN_NAMES), std::end(OWN_NAMES), name) != std::end(OWN_NAMES) ||
+           std::find(m_manners.hosts.begin(), m_manners.hosts.end(), name) != m_manners.hosts.end();
 }
 
 void ServerConnection::Answer(HttpRequest const& request)
 {
+    if (!request.isHostClear)
+    {
+        AnswerStatus(request, 400);
+        return;
+    }
+    if (request.host && !IsAskedByItsName(request))
+    {
+        AnswerStatus(request, 421, {},
+                     QStringLiteral(" for \"%1\", which --host does not name")
+                         .arg(Printable(QString::fromLatin1(*request.host))));
+        return;
+    }
     if (request.method != "GET" && request.method != "HEAD")
     {
         AnswerStatus(request, 405, "Allow: GET, HEAD\r\n");
@@ -150,16 +172,14 @@ void ServerConnection::Answer(HttpRequest const& request)
         Reset();
         return;
     }
-    Engine::UniqueFd file = request.path.isEmpty()
-                                ? Engine::UniqueFd()
-                                : Engine::TreeAccess(m_folderFd).OpenFile(request.path.toStdString());
-    struct stat status;
-    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
+    ServedFile found = OpenServedFile(m_folderFd, request.path);
+    if (!found.file)
     {
-        AnswerStatus(request, 404);
+        AnswerStatus(request, 404, {},
+                     found.hiddenBecause.isEmpty() ? QString() : QStringLiteral(" hidden: ") + found.hiddenBecause);
         return;
     }
-    AnswerFile(request, std::move(file));
+    AnswerFile(request, std::move(found.file));
 }
 
 void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd file)
@@ -203,13 +223,13 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
     SendBody();
 }
 
-void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders)
+void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders,
+                                    QString const& remark)
 {
     m_socket.write("HTTP/1.1 " + QByteArray::number(status) + ' ' + ReasonOf(status) + "\r\n" + extraHeaders +
                    "Content-Length: 0\r\nConnection: close\r\n\r\n");
-    m_log(QStringLiteral("%1 /%2 %3")
-              .arg(Printable(QString::fromLatin1(request.method)), Printable(request.path))
-              .arg(status));
+    m_log(QStringLiteral("%1 /%2 ").arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
+          QString::number(status) + remark);
     End();
 }
 

@@ -17,7 +17,7 @@ class ServerConnection : public QObject
     Q_OBJECT
 
 public:
-    ServerConnection(int folderFd, std::vector<ServerFault> const& faults, ServerLog const& log, QObject* parent);
+    ServerConnection(int folderFd, ServerManners const& manners, ServerLog const& log, QObject* parent);
 
     /// Takes over the connection \a descriptor, under TLS with a certificate.
     void Start(qintptr descriptor, std::optional<ServerCertificate> const& certificate);
@@ -26,7 +26,10 @@ private:
     void Read();
     void Answer(HttpRequest const& request);
     void AnswerFile(HttpRequest const& request, Engine::UniqueFd file);
-    void AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders = {});
+    /// \a remark stands in the log alone.
+    void AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders = {},
+                      QString const& remark = {});
+    [[nodiscard]] bool IsAskedByItsName(HttpRequest const& request) const;
     void SendBody();
     void SendBytes(qint64 most);
     void End();
@@ -34,7 +37,7 @@ private:
     ServerFault const* FaultFor(QString const& path) const;
 
     int m_folderFd;
-    std::vector<ServerFault> const& m_faults;
+    ServerManners const& m_manners;
     ServerLog const& m_log;
     QSslSocket m_socket;
     QTimer m_pace;

@@ -1,0 +1,114 @@
+#include "Publisher/serve/ServedFile.h"
+
+#include "Engine/core/payload/Ed25519Signature.h"
+
+#include <QFile>
+#include <QStringList>
+
+#include <algorithm>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
+/// Private keys are smaller; what is larger is an archive.
+constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
+/// The lengths of a signing key: its seed, and the seed with the public key.
+constexpr std::size_t SIGNING_KEY_BYTES[] = {32, 64};
+
+bool HasDottedName(QString const& path)
+{
+    QStringList const names = path.split(QLatin1Char('/'));
+    return std::any_of(names.begin(), names.end(),
+                       [](QString const& name) { return name.startsWith(QLatin1Char('.')); });
+}
+
+/// True when a folder on the way to \a path lets nobody but its owner in.
+bool IsInPrivateFolder(int folderFd, QString const& path)
+{
+    for (int end = path.indexOf(QLatin1Char('/')); end >= 0; end = path.indexOf(QLatin1Char('/'), end + 1))
+    {
+        struct stat status;
+        QByteArray const folder = QFile::encodeName(path.left(end));
+        if (end > 0 && ::fstatat(folderFd, folder.constData(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+            (status.st_mode & READ_BY_OTHERS) == 0)
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool HasKeyName(QString const& path)
+{
+    constexpr char const* ENDINGS[] = {".key", ".p8", ".p12", ".pfx", ".jks"};
+    return std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
+                       [&path](char const* ending)
+                       { return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+}
+
+bool IsPemKey(QByteArray const& content)
+{
+    QList<QByteArray> const lines = content.split('\n');
+    return std::any_of(lines.begin(), lines.end(),
+                       [](QByteArray const& line)
+                       { return line.startsWith("-----BEGIN ") && line.contains("PRIVATE KEY"); });
+}
+
+/// Base64 of as many bytes as a signing key has. A public key or a signature alone looks the same; clients need neither
+/// from a file of its own.
+bool IsSigningKey(QByteArray const& content)
+{
+    auto const bytes = Engine::DecodeBase64(content.trimmed().toStdString());
+    return bytes && std::find(std::begin(SIGNING_KEY_BYTES), std::end(SIGNING_KEY_BYTES), bytes->size()) !=
+                        std::end(SIGNING_KEY_BYTES);
+}
+
+bool HoldsKey(int file, qint64 size)
+{
+    if (size > MOST_KEY_BYTES)
+    {
+        return false;
+    }
+    QByteArray content(int(size), '\0');
+    ssize_t const count = Engine::ReadUpTo(file, 0, content.data(), std::size_t(size));
+    if (count < 0)
+    {
+        return true; // what cannot be read is not served
+    }
+    content.truncate(int(count));
+    return IsPemKey(content) || IsSigningKey(content);
+}
+
+} // namespace
+
+ServedFile OpenServedFile(int folderFd, QString const& path)
+{
+    Engine::UniqueFd file =
+        path.isEmpty() ? Engine::UniqueFd() : Engine::TreeAccess(folderFd).OpenFile(path.toStdString());
+    struct stat status;
+    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
+    {
+        return {};
+    }
+    if (HasDottedName(path))
+    {
+        return {{}, QStringLiteral("its name begins with a dot")};
+    }
+    if ((status.st_mode & READ_BY_OTHERS) == 0 || IsInPrivateFolder(folderFd, path))
+    {
+        return {{}, QStringLiteral("only its owner may read it")};
+    }
+    if (HasKeyName(path) || HoldsKey(file.Get(), status.st_size))
+    {
+        return {{}, QStringLiteral("it is a private key")};
+    }
+    return {std::move(file), {}};
+}
+
+} // namespace Pelnar::Publisher

@@ -41,7 +41,7 @@ class Tracer
 public:
     Tracer(pid_t root, CallVisitor const& visitor) : m_root(root), m_visitor(visitor) {}
 
-    int Run()
+    TracedEnd Run()
     {
         int status = 0;
         EXPECT_EQ(::waitpid(m_root, &status, WUNTRACED), m_root);
@@ -64,10 +64,10 @@ public:
             else
             {
                 m_processes.erase(process);
-                m_rootStatus = process == m_root ? status : m_rootStatus;
+                m_end.waitStatus = process == m_root ? status : m_end.waitStatus;
             }
         }
-        return m_rootStatus;
+        return m_end;
     }
 
 private:
@@ -105,15 +105,16 @@ private:
         }
         if (info.op == PTRACE_SYSCALL_INFO_EXIT)
         {
-            Finish(process);
+            Finish(process, info.exit.rval);
             return;
         }
-        CallStop stop{m_count, static_cast<long>(info.entry.nr), process, {}};
+        CallStop stop{static_cast<int>(m_end.answers.size()), static_cast<long>(info.entry.nr), process, {}};
         std::copy(std::begin(info.entry.args), std::end(info.entry.args), stop.arguments.begin());
         m_isOwnCode = m_isOwnCode || stop.call == SYS_chdir;
         if (m_isOwnCode)
         {
-            ++m_count;
+            m_index[process] = stop.index;
+            m_end.answers.push_back(0);
             CarryOut(stop, m_visitor(stop));
         }
     }
@@ -128,65 +129,89 @@ private:
             if (stop.call == SYS_brk)
             {
                 // This call knows no errors: it says where the memory ends, which is where it did before.
-                ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdi = 0; });
+                Count(stop.process,
+                      ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdi = 0; }) &&
+                          stop.arguments[0] != 0);
                 return;
             }
             m_answers[stop.process] = -verdict.number;
             ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.orig_rax = ~0ull; });
             return;
         case CallVerdict::Kind::Shorten:
+            m_shortened.insert(stop.process);
             ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdx = 1; });
             return;
         case CallVerdict::Kind::KillAll:
-            SignalAll(SIGKILL);
+            Count(stop.process, SignalAll(SIGKILL));
             return;
         case CallVerdict::Kind::SignalAll:
-            SignalAll(verdict.number);
+            Count(stop.process, SignalAll(verdict.number));
             return;
         }
     }
 
-    void SignalAll(int signal)
+    /// Of the call that the process makes.
+    void Count(pid_t process, bool hasChangedSomething)
     {
+        if (hasChangedSomething)
+        {
+            m_end.faulted.insert(m_index.at(process));
+        }
+    }
+
+    /// True when a process got it.
+    bool SignalAll(int signal)
+    {
+        bool isSent = false;
         for (pid_t const process : m_processes)
         {
             if (signal == SIGKILL || m_starting.count(process) == 0)
             {
-                ::kill(process, signal);
+                isSent = ::kill(process, signal) == 0 || isSent;
             }
         }
+        return isSent;
     }
 
-    void Finish(pid_t process)
+    void Finish(pid_t process, std::int64_t result)
     {
+        auto const index = m_index.find(process);
+        if (index != m_index.end())
+        {
+            m_end.answers[static_cast<std::size_t>(index->second)] = result;
+        }
+        Count(process, m_shortened.erase(process) != 0 && result == 1);
         auto const answer = m_answers.find(process);
         if (answer == m_answers.end())
         {
             return;
         }
         auto const value = static_cast<unsigned long long>(static_cast<long long>(answer->second));
-        ChangeRegisters(process, [value](user_regs_struct& registers) { registers.rax = value; });
+        Count(process, ChangeRegisters(process, [value](user_regs_struct& registers) { registers.rax = value; }));
         m_answers.erase(answer);
     }
 
+    /// False when the process has gone.
     template <typename Change>
-    void ChangeRegisters(pid_t process, Change const& change)
+    bool ChangeRegisters(pid_t process, Change const& change)
     {
         user_regs_struct registers{};
-        if (Trace(PTRACE_GETREGS, process, 0, AddressOf(registers)) == 0)
+        if (Trace(PTRACE_GETREGS, process, 0, AddressOf(registers)) != 0)
         {
-            change(registers);
-            Trace(PTRACE_SETREGS, process, 0, AddressOf(registers));
+            return false;
         }
+        change(registers);
+        return Trace(PTRACE_SETREGS, process, 0, AddressOf(registers)) == 0;
     }
 
     pid_t m_root;
     CallVisitor const& m_visitor;
     std::set<pid_t> m_processes;
-    std::set<pid_t> m_starting; // programs that the helper starts, before they are themselves
-    std::map<pid_t, int> m_answers;
-    int m_rootStatus = 0;
-    int m_count = 0;
+    std::set<pid_t> m_starting;     // programs that the helper starts, before they are themselves
+    std::map<pid_t, int> m_answers; // that the calls under way are to have
+    std::set<pid_t> m_shortened;    // whose call under way moves one byte
+    std::map<pid_t, int> m_index;   // of the last call
+    TracedEnd m_end;
     bool m_isOwnCode = false;
 };
 
@@ -197,9 +222,15 @@ std::vector<std::string> StartStopped()
     return {"/bin/sh", "-c", "kill -STOP $$; exec \"$@\"", "sh"};
 }
 
-int TraceToTheEnd(pid_t process, CallVisitor const& visitor)
+TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor)
 {
     return Tracer(process, visitor).Run();
+}
+
+bool CanBeShortened(long call, std::int64_t answer)
+{
+    std::set<long> const partial{SYS_read, SYS_pread64, SYS_write, SYS_pwrite64};
+    return partial.count(call) != 0 && answer > 1;
 }
 
 std::string CallName(long call)

@@ -5,6 +5,7 @@
 #include <array>
 #include <cstdint>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -50,10 +51,20 @@ using CallVisitor = std::function<CallVerdict(CallStop const&)>;
 
 /// The words that start a program stopped, for TraceToTheEnd to let go.
 std::vector<std::string> StartStopped();
-/// Traces \a process, which StartStopped() has stopped, to its end; its wait status. What it starts by execve is left
-/// alone. Calls of the program's loader, before its main function changes to the root folder, are not told.
-int TraceToTheEnd(pid_t process, CallVisitor const& visitor);
+/// How a traced process ended.
+struct TracedEnd
+{
+    int waitStatus = 0;
+    std::set<int> faulted{};             ///< indexes of the calls whose verdict changed what happened
+    std::vector<std::int64_t> answers{}; ///< of the calls, by their index; 0 for one that did not return
+};
 
+/// Traces \a process, which StartStopped() has stopped, to its end. What it starts by execve is left alone. Calls of
+/// the program's loader, before its main function changes to the root folder, are not told.
+TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor);
+
+/// True for a call that moves bytes, and moved more than one: Shorten() would have made a difference.
+bool CanBeShortened(long call, std::int64_t answer);
 /// The call's name, for the calls that the helper makes.
 std::string CallName(long call);
 /// The path that a call names by its \a argument-th argument, as the process wrote it.

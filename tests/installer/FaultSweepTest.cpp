@@ -35,13 +35,36 @@ std::ostream& operator<<(std::ostream& out, Place const& place)
     return out << place.call << " number " << place.nth;
 }
 
-HelperStart Traced(std::vector<std::string> const& options)
+/// A helper under strace, which writes down what it sees and which faults it has made.
+class Traced
 {
-    HelperStart start;
-    start.before = {STRACE, "-f", "-qq", "-o", "/dev/null"};
-    start.before.insert(start.before.end(), options.begin(), options.end());
-    return start;
-}
+public:
+    explicit Traced(std::vector<std::string> const& options = {})
+    {
+        m_start.before = {STRACE, "-f", "-qq", "-o", Trace()};
+        m_start.before.insert(m_start.before.end(), options.begin(), options.end());
+    }
+
+    HelperStart const& Start() const { return m_start; }
+    std::string Trace() const { return m_folder.Path() + "/trace"; }
+    int Kills() const { return LinesWith("+++ killed by SIGKILL +++"); }
+    int Errors() const { return LinesWith("(INJECTED)"); }
+
+private:
+    int LinesWith(std::string const& mark) const
+    {
+        int count = 0;
+        std::ifstream lines(Trace());
+        for (std::string line; std::getline(lines, line);)
+        {
+            count += line.find(mark) != std::string::npos ? 1 : 0;
+        }
+        return count;
+    }
+
+    Workspace m_folder;
+    HelperStart m_start;
+};
 
 std::vector<std::string> Join(std::vector<std::string> options, std::string const& injection)
 {
@@ -59,14 +82,10 @@ std::vector<std::string> KillAt(Place const& place, std::vector<std::string> con
 template <typename Run>
 std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& run)
 {
-    Workspace const traces;
-    std::string const file = traces.Path() + "/trace";
-    HelperStart start;
-    start.before = {STRACE, "-f", "-qq", "-o", file};
-    start.before.insert(start.before.end(), options.begin(), options.end());
-    run(start);
+    Traced const traced(options);
+    run(traced.Start());
     std::map<std::string, std::map<std::string, int>> counts; // by call, then by process
-    std::ifstream lines(file);
+    std::ifstream lines(traced.Trace());
     for (std::string line; std::getline(lines, line);)
     {
         std::istringstream words(line);
@@ -112,8 +131,9 @@ TEST(Faults, PreparationKilledAnywhereHarmsNothing)
     {
         SCOPED_TRACE(testing::Message() << place);
         UpdateScene scene;
-        HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), Traced(KillAt(place)));
-        EXPECT_EQ(outcome.signal, SIGKILL);
+        Traced const killed(KillAt(place));
+        EXPECT_EQ(scene.Prepare(scene.MakePrepareJob(), killed.Start()).signal, SIGKILL);
+        EXPECT_GT(killed.Kills(), 0);
         EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
         ExpectRecovered(scene, versions);
     }
@@ -137,7 +157,9 @@ void SweepInstallation(std::vector<std::string> const& options)
         UpdateScene scene;
         InstallJob const job = scene.PrepareForInstall();
         scene.Host().End();
-        scene.Install(job, Traced(KillAt(place, options)));
+        Traced const killed(KillAt(place, options));
+        scene.Install(job, killed.Start());
+        EXPECT_GT(killed.Kills(), 0);
         if (options.empty())
         {
             ExpectWhole(scene, versions); // with an exchange, even before any recovery
@@ -205,7 +227,9 @@ void SweepRecovery(void (*interruptInstallation)(UpdateScene&), std::string cons
         SCOPED_TRACE(testing::Message() << place);
         UpdateScene scene;
         interrupt(scene);
-        EXPECT_EQ(scene.Recover(running, Traced(KillAt(place))).signal, SIGKILL);
+        Traced const killed(KillAt(place));
+        EXPECT_EQ(scene.Recover(running, killed.Start()).signal, SIGKILL);
+        EXPECT_GT(killed.Kills(), 0);
         ExpectRecovered(scene, versions);
         EXPECT_EQ(ExpectWhole(scene, versions), left);
     }
@@ -254,9 +278,14 @@ TEST(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
         {
             SCOPED_TRACE(testing::Message() << row.failing.call << " " << row.failing.error << " " << nth);
             UpdateScene scene;
-            HelperOutcome const outcome = scene.Prepare(
-                scene.MakePrepareJob(), Traced(Join({}, std::string(row.failing.call) + ":error=" + row.failing.error +
-                                                            ":when=" + std::to_string(nth))));
+            Traced const failing(Join({}, std::string(row.failing.call) + ":error=" + row.failing.error +
+                                              ":when=" + std::to_string(nth)));
+            HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), failing.Start());
+            if (failing.Errors() == 0)
+            {
+                EXPECT_EQ(outcome.exitStatus, 0) << "it makes fewer such calls";
+                break;
+            }
             // Some writes are reports, whose loss is the reader's.
             EXPECT_TRUE(outcome.Fault() == row.fault || outcome.exitStatus == 0) << FaultName(outcome.Fault());
             refused += outcome.Fault() == row.fault ? 1 : 0;
@@ -292,7 +321,9 @@ TEST(Faults, FailingCallsOfTheInstallationLeaveThePreviousVersion)
         UpdateScene scene;
         InstallJob const job = scene.PrepareForInstall();
         scene.Host().End();
-        HelperOutcome const outcome = scene.Install(job, Traced(Join({}, row.injection)));
+        Traced const failing(Join({}, row.injection));
+        HelperOutcome const outcome = scene.Install(job, failing.Start());
+        EXPECT_GT(failing.Errors(), 0);
         EXPECT_EQ(outcome.exitStatus, 1);
         EXPECT_EQ(outcome.Fault(), row.fault);
         EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
@@ -310,8 +341,9 @@ TEST(Faults, FileSystemsWithoutExchangeGetTwoRenames)
         UpdateScene scene;
         InstallJob const job = scene.PrepareForInstall();
         scene.Host().End();
-        HelperOutcome const outcome =
-            scene.Install(job, Traced({"-e", std::string("inject=renameat2:error=") + error}));
+        Traced const failing({"-e", std::string("inject=renameat2:error=") + error});
+        HelperOutcome const outcome = scene.Install(job, failing.Start());
+        EXPECT_GT(failing.Errors(), 0);
         EXPECT_EQ(outcome.exitStatus, 0);
         EXPECT_EQ(outcome.output.substr(0, 3), "2.0");
         EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
@@ -330,8 +362,9 @@ TEST(Faults, FailingRenamesAreUndone)
         UpdateScene scene;
         InstallJob const job = scene.PrepareForInstall();
         scene.Host().End();
-        HelperOutcome const outcome =
-            scene.Install(job, Traced(Join(NO_EXCHANGE, "renameat:error=EIO:when=" + std::to_string(nth))));
+        Traced const failing(Join(NO_EXCHANGE, "renameat:error=EIO:when=" + std::to_string(nth)));
+        HelperOutcome const outcome = scene.Install(job, failing.Start());
+        EXPECT_GT(failing.Errors(), nth > 1 ? 1 : 0) << "the exchange comes after the journal";
         EXPECT_EQ(outcome.exitStatus, 1);
         EXPECT_EQ(outcome.output.substr(0, 3), "1.0");
         EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
@@ -345,7 +378,9 @@ TEST(Faults, ParentThatCannotAskAfterItsChildWaitsOn)
     UpdateScene scene;
     InstallJob const job = scene.PrepareForInstall();
     scene.Host().End();
-    HelperOutcome const outcome = scene.Install(job, Traced(Join({}, "wait4:error=EIO:when=1")));
+    Traced const failing(Join({}, "wait4:error=EIO:when=1"));
+    HelperOutcome const outcome = scene.Install(job, failing.Start());
+    EXPECT_GT(failing.Errors(), 0);
     EXPECT_EQ(outcome.exitStatus, 0);
     EXPECT_EQ(outcome.output.substr(0, 3), "2.0");
     EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
@@ -358,7 +393,9 @@ TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
     UpdateScene scene;
     InstallJob const job = scene.PrepareForInstall();
     scene.Host().End();
-    HelperOutcome const outcome = scene.Install(job, Traced(KillAt({"renameat", 3}, NO_EXCHANGE)));
+    Traced const killed(KillAt({"renameat", 3}, NO_EXCHANGE));
+    HelperOutcome const outcome = scene.Install(job, killed.Start());
+    EXPECT_EQ(killed.Kills(), 1);
     EXPECT_EQ(outcome.exitStatus, 1);
     auto const* recovered = outcome.Find<RecoveredReport>();
     ASSERT_NE(recovered, nullptr);

@@ -201,6 +201,7 @@ void SweepRollBack(std::vector<std::string> const& calls, std::vector<std::strin
     for (std::string const& call : calls)
     {
         bool wasKilled = true;
+        int kills = 0;
         for (int nth = 1; wasKilled && nth <= MOST_CALLS; ++nth)
         {
             SCOPED_TRACE(testing::Message() << call << " number " << nth);
@@ -208,11 +209,13 @@ void SweepRollBack(std::vector<std::string> const& calls, std::vector<std::strin
             installed.Start("2.0");
             installed.Start("2.0");
             wasKilled = installed.scene.Recover("2.0", KilledAt(call, nth, options)).signal == SIGKILL;
+            kills += wasKilled ? 1 : 0;
             EXPECT_TRUE(!options.empty() || !installed.Version().empty()); // with an exchange, at every moment
             ExpectPreviousSettles(installed.scene);
             EXPECT_EQ(installed.Names().size(), 2u); // it knows which version failed
         }
         EXPECT_FALSE(wasKilled) << call;
+        EXPECT_GT(kills, 0) << call;
     }
 }
 
@@ -370,6 +373,7 @@ TEST(WatchedStart, HelperKilledAnywhereLeavesTheRestToTheStartsThatAreCounted)
     for (char const* const call : {"renameat2", "fsync", "flock", "wait4", "inotify_add_watch", "pidfd_open"})
     {
         bool wasKilled = true;
+        int kills = 0;
         for (int nth = 1; wasKilled && nth <= MOST_CALLS; ++nth)
         {
             SCOPED_TRACE(testing::Message() << call << " number " << nth);
@@ -379,9 +383,11 @@ TEST(WatchedStart, HelperKilledAnywhereLeavesTheRestToTheStartsThatAreCounted)
             HelperOutcome const outcome = scene.Install(job, KilledAt(call, nth, {}));
             wasKilled = outcome.Find<RecoveredReport>() == nullptr ||
                         outcome.Find<RecoveredReport>()->action != RecoveryAction::RolledBack;
+            kills += wasKilled ? 1 : 0;
             ExpectPreviousSettles(scene);
         }
         EXPECT_FALSE(wasKilled) << call;
+        EXPECT_GT(kills, 0) << call;
     }
 }
 

@@ -158,7 +158,7 @@ std::vector<ForgedEntry> MakeBundle(std::string const& version, std::string cons
 
 Workspace::Workspace(std::string const& parent)
 {
-    m_path = parent + "/pelnar-installer-XXXXXX";
+    m_path = (std::filesystem::path(parent) / "pelnar-installer-XXXXXX").string();
     EXPECT_NE(::mkdtemp(m_path.data()), nullptr) << m_path;
     m_folder = UniqueFd(::open(m_path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
@@ -263,7 +263,11 @@ HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::ma
     HelperOutcome outcome;
     std::string lines;
     // A traced helper writes less than its pipes hold.
-    int status = start.atEveryCall ? TraceToTheEnd(process, start.atEveryCall) : 0;
+    if (start.atEveryCall)
+    {
+        outcome.traced = TraceToTheEnd(process, start.atEveryCall);
+    }
+    int status = outcome.traced.waitStatus;
     ReadBoth(report.reader, lines, output.reader, outcome.output);
     if (!start.atEveryCall)
     {

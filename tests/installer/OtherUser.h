@@ -33,4 +33,4 @@ void FailCall(long call, int errorNumber);
 
 #define REQUIRE_ADMINISTRATOR_FOR_USERS()                                                                              \
     if (::geteuid() != 0)                                                                                              \
-    GTEST_SKIP() << "only the administrator can be two other users"
+    GTEST_SKIP() << "only root can be two other users"

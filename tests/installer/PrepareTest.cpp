@@ -248,6 +248,7 @@ int MakeFileAt(std::string const& path)
 TEST(Confinement, HoldsWithoutTheEntryPolicy)
 {
     Workspace const inside;
+    WriteFile(inside.Path() + "-outside", "x"); // this user's own: no right but the confinement's keeps anybody from it
     struct Row
     {
         char const* name;
@@ -268,9 +269,14 @@ TEST(Confinement, HoldsWithoutTheEntryPolicy)
                  EACCES},
              Row{"reading a file of the system",
                  [](std::string const&) { return ::open("/etc/passwd", O_RDONLY | O_CLOEXEC) < 0 ? -1 : 0; }, EACCES},
+             Row{"changing a file outside",
+                 [](std::string const& path)
+                 { return ::open((path + "-outside").c_str(), O_WRONLY | O_CLOEXEC) < 0 ? -1 : 0; },
+                 EACCES},
              Row{"FIFO inside", [](std::string const& path) { return ::mkfifo((path + "/p").c_str(), 0644); }, EACCES},
              Row{"hard link to the outside",
-                 [](std::string const& path) { return ::link("/etc/passwd", (path + "/h").c_str()); }, EXDEV},
+                 [](std::string const& path) { return ::link((path + "-outside").c_str(), (path + "/h").c_str()); },
+                 EXDEV},
              Row{"removing inside", [](std::string const& path) { return ::unlink((path + "/f").c_str()); }, EACCES},
              Row{"running a program",
                  [](std::string const&)
@@ -283,6 +289,7 @@ TEST(Confinement, HoldsWithoutTheEntryPolicy)
     {
         EXPECT_EQ(TryConfined(inside, row.act), row.expected) << row.name;
     }
+    EXPECT_EQ(::unlink((inside.Path() + "-outside").c_str()), 0);
 }
 
 } // namespace

@@ -146,7 +146,7 @@ TEST_F(PartialFileTest, FolderOfAnotherUserIsRefused)
     ASSERT_TRUE(QDir().mkpath(folder));
     if (geteuid() != 0 || chown(Place().folder.c_str(), 1234, 1234) != 0)
     {
-        GTEST_SKIP() << "only root can give a folder away";
+        GTEST_SKIP() << "only root can give files away";
     }
     EXPECT_EQ(CauseOf(PartialFile(Place()).Open()), ErrorCause::DownloadFolderUnsafe);
 }
@@ -231,7 +231,7 @@ INSTANTIATE_TEST_SUITE_P(
                     WriteText(path, "evil");
                     if (geteuid() != 0 || chown(path.c_str(), 1234, 1234) != 0)
                     {
-                        GTEST_SKIP() << "only root can give a file away";
+                        GTEST_SKIP() << "only root can give files away";
                     }
                 }},
             Intruder{"BiggerFile", [](std::string const& path, std::string const&)

@@ -328,7 +328,7 @@ TEST_F(HelperProcesses, ProgramOfAnotherUserIsNotStarted)
 {
     if (::geteuid() != 0)
     {
-        GTEST_SKIP() << "only the administrator can give a file away";
+        GTEST_SKIP() << "only root can give files away";
     }
     Workspace const place;
     std::string const path = place.Path() + "/helper";

@@ -1,6 +1,7 @@
 #include "Engine/core/update/InstallTarget.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/installer/OtherUser.h"
+#include "tests/support/Container.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +32,7 @@ constexpr uid_t SOMEBODY = 12345;
 class TargetScene
 {
 public:
-    TargetScene()
+    explicit TargetScene(std::string const& parent = "/tmp") : m_place(parent)
     {
         m_place.Put({{"place/", 'd', {}, 0755}, {"none/", 'd', {}, 0755}});
         m_place.Put(MakeBundle("1.0"), "place/");
@@ -86,11 +87,10 @@ public:
     }
 };
 
-/// Mounts of this process only; false when this machine does not let it have any.
+/// Mounts of this process only. REQUIRES: the administrator.
 [[nodiscard]] bool EnterOwnMounts()
 {
-    return ::unshare(::geteuid() == 0 ? CLONE_NEWNS : CLONE_NEWNS | CLONE_NEWUSER) == 0 &&
-           ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+    return ::unshare(CLONE_NEWNS) == 0 && ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
 class Mount
@@ -111,10 +111,10 @@ private:
 
 #define REQUIRE_ADMINISTRATOR()                                                                                        \
     if (::geteuid() != 0)                                                                                              \
-    GTEST_SKIP() << "only the administrator can give files away"
-#define REQUIRE_MOUNTS()                                                                                               \
-    if (!EnterOwnMounts())                                                                                             \
-    GTEST_SKIP() << "this machine lets the test mount nothing"
+    GTEST_SKIP() << "only root can give files away"
+#define IN_CONTAINER(piece)                                                                                            \
+    if (!RunInContainer(piece))                                                                                        \
+    GTEST_SKIP() << "the kernel lets this user make no container, in which it may mount"
 
 TEST(InstallTarget, IsOpenedWithItsRealPath)
 {
@@ -201,33 +201,44 @@ TEST(InstallTarget, LinkToAPackagesBundleHidesNothing)
 
 TEST(InstallTarget, ReadOnlyMountIsRefused)
 {
-    REQUIRE_MOUNTS();
-    TargetScene const scene;
-    Mount const bind("none", scene.Parent(), scene.Parent(), MS_BIND);
-    Mount const readOnly("none", "none", scene.Parent(), MS_BIND | MS_REMOUNT | MS_RDONLY);
-    scene.ExpectError(ErrorCause::BundleOnReadOnlyFileSystem);
+    IN_CONTAINER(
+        []
+        {
+            TargetScene const scene("/");
+            Mount const bind("none", scene.Parent(), scene.Parent(), MS_BIND);
+            Mount const readOnly("none", "none", scene.Parent(), MS_BIND | MS_REMOUNT | MS_RDONLY);
+            scene.ExpectError(ErrorCause::BundleOnReadOnlyFileSystem);
+        });
 }
 
 TEST(InstallTarget, BundleThatIsADiskOfItsOwnIsRefused)
 {
-    REQUIRE_MOUNTS();
-    TargetScene const scene;
-    Mount const bind("none", scene.Bundle(), scene.Bundle(), MS_BIND);
-    scene.ExpectError(ErrorCause::BundleIsMountPoint);
+    IN_CONTAINER(
+        []
+        {
+            TargetScene const scene("/");
+            Mount const bind("none", scene.Bundle(), scene.Bundle(), MS_BIND);
+            scene.ExpectError(ErrorCause::BundleIsMountPoint);
+        });
 }
 
 TEST(InstallTarget, LackOfRoomIsToldInNumbers)
 {
-    REQUIRE_MOUNTS();
-    TargetScene const scene;
-    Mount const small("tmpfs", "none", scene.Parent(), 0, "size=1m,mode=0755");
-    ASSERT_EQ(::mkdir(scene.Bundle().c_str(), 0755), 0);
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle(), quint64{1} << 20)));
-    EngineError const error =
-        scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{1} << 30) + (quint64{1} << 29));
-    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.6 GB"))) << error.sentence.English().toStdString();
-    EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.0 MB"))) << error.sentence.English().toStdString();
-    scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), ~quint64{0});
+    IN_CONTAINER(
+        []
+        {
+            TargetScene const scene("/");
+            Mount const small("tmpfs", "none", scene.Parent(), 0, "size=1m,mode=0755");
+            ASSERT_EQ(::mkdir(scene.Bundle().c_str(), 0755), 0);
+            EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle(), quint64{1} << 20)));
+            EngineError const error =
+                scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{1} << 30) + (quint64{1} << 29));
+            EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.6 GB")))
+                << error.sentence.English().toStdString();
+            EXPECT_TRUE(error.sentence.English().contains(QStringLiteral("1.0 MB")))
+                << error.sentence.English().toStdString();
+            scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), ~quint64{0});
+        });
 }
 
 class ProtectedFolder
@@ -267,7 +278,7 @@ TEST(InstallTarget, ProtectedFoldersAreRefused)
             ProtectedFolder const folder(path, flag);
             if (!folder.isProtected)
             {
-                GTEST_SKIP() << "this machine lets the test protect nothing";
+                GTEST_SKIP() << "this user or this disk cannot protect files from root";
             }
             scene.ExpectError(ErrorCause::BundleImmutable);
         }

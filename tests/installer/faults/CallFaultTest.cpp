@@ -298,7 +298,6 @@ TEST_P(EveryCall, IsWhereMemoryMayRunOut)
         EXPECT_TRUE(hasStarted || outcome.exitStatus != 0);
         ExpectRecovered(subject.scene, versions);
         hasEnough = outcome.exitStatus == 0;
-        std::cerr << "M " << kibibytes << " " << outcome.exitStatus << " " << outcome.signal << " " << outcome.reports.size() << " " << outcome.progress.size() << "\n";
         refused += hasStarted && !hasEnough ? 1 : 0;
     }
     EXPECT_GT(refused, 0) << "no helper came to the end of its memory";

@@ -160,7 +160,7 @@ TEST_F(Keys, FileOfAnotherUserIsRefused)
     QString const path = Put("key", m_seed);
     if (::chown(QFile::encodeName(path).constData(), 65534, 65534) != 0)
     {
-        GTEST_SKIP() << "only the administrator may give a file away";
+        GTEST_SKIP() << "only root can give files away";
     }
     ToolRun const run = Show(path);
     EXPECT_EQ(run.status, 2);

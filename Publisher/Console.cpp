@@ -1,5 +1,7 @@
 #include "Publisher/Console.h"
 
+#include "Engine/core/SafeText.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -31,13 +33,6 @@ char const* CodeOf(Emphasis emphasis)
         return "\033[31m";
     }
     return "";
-}
-
-bool TurnsDirection(QChar character)
-{
-    ushort const code = character.unicode();
-    return code == 0x061C || code == 0x200E || code == 0x200F || (code >= 0x202A && code <= 0x202E) ||
-           (code >= 0x2066 && code <= 0x2069);
 }
 
 } // namespace
@@ -97,16 +92,7 @@ bool ShowsColour(int fileDescriptor)
 
 QString Printable(QString const& text)
 {
-    QString result = text;
-    for (QChar& character : result)
-    {
-        if (character.category() == QChar::Other_Control || TurnsDirection(character) ||
-            character == QChar::LineSeparator || character == QChar::ParagraphSeparator)
-        {
-            character = QLatin1Char('?');
-        }
-    }
-    return result;
+    return Engine::WithoutHidden(text, QLatin1Char('?'));
 }
 
 QString CountOf(std::size_t count, QString const& singular)

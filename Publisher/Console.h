@@ -77,7 +77,7 @@ struct Console
 /// is unset or empty.
 [[nodiscard]] bool ShowsColour(int fileDescriptor);
 
-/// \a text on one line: control characters and characters that turn the writing direction become "?".
+/// \a text on one line: hidden characters (SafeText.h) become "?".
 QString Printable(QString const& text);
 
 /// "1 item", "2 items".

@@ -1,5 +1,7 @@
 #include "Engine/core/EngineError.h"
 
+#include "Engine/core/SafeText.h"
+
 #include <algorithm>
 #include <array>
 
@@ -261,9 +263,8 @@ char const* SentenceOf(ErrorCause cause)
             "PelnarEngine_Errors",
             "The download of the update took too long and was stopped. Try again on a faster connection.");
     case ErrorCause::DownloadPaused:
-        return QT_TRANSLATE_NOOP(
-            "PelnarEngine_Errors",
-            "The update is not downloaded completely yet. The next check continues the download.");
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update is not downloaded completely yet. The next check continues the download.");
     case ErrorCause::DownloadBusy:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
@@ -501,14 +502,6 @@ ErrorCause CauseOf(FeedErrorKind kind)
     return ErrorCause::FeedMalformed;
 }
 
-bool IsUnprintable(QChar character)
-{
-    // Format characters are direction marks and other invisible ones.
-    constexpr std::array UNPRINTABLE = {QChar::Other_Control,     QChar::Other_Format,   QChar::Other_PrivateUse,
-                                        QChar::Other_NotAssigned, QChar::Separator_Line, QChar::Separator_Paragraph};
-    return std::find(UNPRINTABLE.begin(), UNPRINTABLE.end(), character.category()) != UNPRINTABLE.end();
-}
-
 } // namespace
 
 QString EngineError::UnderlyingDomain() const
@@ -528,19 +521,19 @@ int EngineError::UnderlyingCode() const
 
 QString EscapedRemoteText(QString const& text)
 {
+    // More is never shown, and a megabyte is never read to its end.
+    QString const safe = WithoutHidden(text.left(MAX_REMOTE_TEXT + 1), QLatin1Char('?'));
     QString escaped;
-    for (QChar const character : text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8()))
+    for (int index = 0; index < safe.size();)
     {
-        QString const piece = IsUnprintable(character) ? QString(QLatin1Char('?')) : QString(character).toHtmlEscaped();
+        int const units = CodePointAt(safe.utf16(), index, safe.size()).units;
+        QString const piece = safe.mid(index, units).toHtmlEscaped();
         if (escaped.size() + piece.size() > MAX_REMOTE_TEXT)
         {
             break;
         }
         escaped += piece;
-    }
-    if (!escaped.isEmpty() && escaped.at(escaped.size() - 1).isHighSurrogate())
-    {
-        escaped.chop(1); // its other half did not fit
+        index += units;
     }
     return escaped;
 }

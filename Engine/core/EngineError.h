@@ -186,7 +186,7 @@ struct EngineError
 
 constexpr int MAX_REMOTE_TEXT = 200;
 
-/// Text of others made fit for a log line or a label: markup escaped, control and direction characters replaced, cut at
+/// Text of others made fit for a log line or a label: markup escaped, hidden characters (SafeText.h) replaced, cut at
 /// MAX_REMOTE_TEXT characters, never inside an escape.
 QString EscapedRemoteText(QString const& text);
 

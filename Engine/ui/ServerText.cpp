@@ -1,5 +1,7 @@
 #include "Engine/ui/ServerText.h"
 
+#include "Engine/core/SafeText.h"
+
 namespace Pelnar::Engine
 {
 namespace
@@ -9,46 +11,6 @@ constexpr int MAX_NAME_CHARACTERS = 100;
 constexpr int MAX_VERSION_CHARACTERS = 40;
 constexpr int MAX_INSERTED_CHARACTERS = 200;
 
-bool IsShown(QChar c)
-{
-    switch (c.category())
-    {
-    case QChar::Other_Control:
-    case QChar::Other_Format: // the marks that reorder text are among them
-    case QChar::Other_NotAssigned:
-    case QChar::Other_PrivateUse:
-        return false;
-    case QChar::Mark_NonSpacing:
-    case QChar::Mark_SpacingCombining:
-    case QChar::Mark_Enclosing:
-    case QChar::Number_DecimalDigit:
-    case QChar::Number_Letter:
-    case QChar::Number_Other:
-    case QChar::Separator_Space:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-    case QChar::Other_Surrogate: // one half of a character beyond the first plane
-    case QChar::Letter_Uppercase:
-    case QChar::Letter_Lowercase:
-    case QChar::Letter_Titlecase:
-    case QChar::Letter_Modifier:
-    case QChar::Letter_Other:
-    case QChar::Punctuation_Connector:
-    case QChar::Punctuation_Dash:
-    case QChar::Punctuation_Open:
-    case QChar::Punctuation_Close:
-    case QChar::Punctuation_InitialQuote:
-    case QChar::Punctuation_FinalQuote:
-    case QChar::Punctuation_Other:
-    case QChar::Symbol_Math:
-    case QChar::Symbol_Currency:
-    case QChar::Symbol_Modifier:
-    case QChar::Symbol_Other:
-        break;
-    }
-    return true;
-}
-
 } // namespace
 
 QString OneLine(QString const& text, int maxCharacters)
@@ -56,16 +18,18 @@ QString OneLine(QString const& text, int maxCharacters)
     // Twice what is shown leaves enough after blanks are joined; a megabyte is never read to its end.
     QString const start = text.left(2 * maxCharacters + 2);
     QString shown;
-    for (QChar const c : start)
+    for (int index = 0; index < start.size();)
     {
-        if (c.isSpace())
+        CodePoint const character = CodePointAt(start.utf16(), index, start.size());
+        if (QChar::isSpace(character.value))
         {
             shown += QLatin1Char(' ');
         }
-        else if (IsShown(c))
+        else if (!IsHidden(character.value))
         {
-            shown += c;
+            shown += start.midRef(index, character.units);
         }
+        index += character.units;
     }
     shown = shown.simplified();
     if (shown.size() <= maxCharacters && start.size() == text.size())

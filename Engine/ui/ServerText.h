@@ -9,8 +9,7 @@
 namespace Pelnar::Engine
 {
 
-/// \a text on one line, without control characters and marks that reorder text; what is longer than \a maxCharacters
-/// ends in "…".
+/// \a text on one line, without hidden characters (SafeText.h); what is longer than \a maxCharacters ends in "…".
 [[nodiscard]] QString OneLine(QString const& text, int maxCharacters);
 
 /// For an application's name, a version, a title; the longest that a label shows.

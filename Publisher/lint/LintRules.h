@@ -33,7 +33,7 @@ char const* SeverityName(Severity severity);
     RULE(TooManyNamespaces, "too-many-namespaces", Error, "More namespaces are declared at one place than clients follow.", "declare each namespace once, on the root element") \
     RULE(NotAFeed, "not-a-feed", Error, "The document is a web page.", "publish the feed itself at this address") \
     RULE(NoItems, "no-items", Warning, "The feed has no item.", "add an <item> inside <channel>, without a namespace") \
-    RULE(ControlCharacter, "control-character", Warning, "A text has control characters, or characters that turn the writing direction; clients show blanks in their place.", "remove them") \
+    RULE(ControlCharacter, "control-character", Warning, "A text has control characters, or others that are not seen or change how others are seen; clients show blanks in their place.", "remove them") \
     /* Names and namespaces. */ \
     RULE(WrongNamespace, "wrong-namespace", Error, "A namespace looks like the feed's own but is another one; what is written with it is not read.", "bind the prefix to http://www.andymatuschak.org/xml-namespaces/sparkle") \
     RULE(NameCase, "name-case", Error, "A name differs from one that clients read only in case, so that it is not read.", "write the name with the case that the finding shows") \

@@ -1,5 +1,6 @@
 // NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
 
+#include "Engine/core/SafeText.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <map>
@@ -168,26 +169,21 @@ private:
     std::set<QString> m_reportedNamespaces; ///< each once: one declaration has many uses
 };
 
-bool IsDropped(QChar character)
-{
-    ushort const unit = character.unicode();
-    bool const isBlank = unit == '\t' || unit == '\n' || unit == '\r';
-    return (unit < 0x20 && !isBlank) || (unit >= 0x7F && unit <= 0x9F) || (unit >= 0x2028 && unit <= 0x202E) ||
-           (unit >= 0x2066 && unit <= 0x2069);
-}
-
 void CheckText(QString const& text, QString const& name, LintPlace place, LintFindings& findings)
 {
-    for (QChar const character : text)
+    for (int index = 0; index < text.size();)
     {
-        if (IsDropped(character))
+        Engine::CodePoint const character = Engine::CodePointAt(text.utf16(), index, text.size());
+        bool const isBlank = character.value == '\t' || character.value == '\n' || character.value == '\r';
+        if (!isBlank && Engine::IsHidden(character.value))
         {
             findings.Add(LintRule::ControlCharacter, place,
                          QStringLiteral("%1 has the character U+%2")
                              .arg(name)
-                             .arg(int(character.unicode()), 4, 16, QLatin1Char('0')));
+                             .arg(uint(character.value), 4, 16, QLatin1Char('0')));
             return;
         }
+        index += character.units;
     }
 }
 

@@ -349,8 +349,11 @@ TEST(FeedCharacters, ThatForgeLinesOrDisguiseLabelsBecomeBlanks)
         {"isolates", "5&#x2066;&#x2069;1", "5  1"},
         {"written out", "5\xE2\x80\xAE\x31", "5 1"},
         {"at the ends", "&#10; 5 &#10;", "5"},
-        {"ordinary text", "5 \xC3\xA9\xD7\xA9\xE2\x80\x8F\xF0\x9F\x98\x80~",
-         "5 \xC3\xA9\xD7\xA9\xE2\x80\x8F\xF0\x9F\x98\x80~"},
+        {"direction mark", "5&#x200F;1", "5 1"},
+        {"tags", "5&#xE0041;&#xE007F;1", "5  1"},
+        {"a tag at the end", "5&#xE0041;", "5 "},
+        {"no width", "5&#x200B;1", "5 1"},
+        {"ordinary text", "5 \xC3\xA9\xD7\xA9\xF0\x9F\x98\x80~", "5 \xC3\xA9\xD7\xA9\xF0\x9F\x98\x80~"},
     };
     for (Row const& row : rows)
     {

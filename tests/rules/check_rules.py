@@ -143,6 +143,12 @@ LINE_RULES = [
         "ownership is held by C++ members",
     ),
     (
+        "hidden-characters",
+        lambda p: p.startswith(PRODUCT_FOLDERS) and p != "Engine/core/SafeText.cpp",
+        re.compile(r"[<>]=?\s*0x(?:200|20[26]|E00)[0-9A-Fa-f]+|\bOther_Format\b", re.IGNORECASE),
+        "which characters are hidden is decided in Engine/core/SafeText.cpp only",
+    ),
+    (
         "switch-default",
         lambda p: p.startswith(PRODUCT_FOLDERS),
         re.compile(r"^\s*default\s*:"),
@@ -256,6 +262,8 @@ def self_test():
         ("tls-errors-ignored", "Engine/core/X.cpp", "reply->ignoreSslErrors();"),
         ("mixed-language-header", "Foundation/X.h", "#ifdef __OBJC__"),
         ("manual-dealloc", "Engine/objc/X.mm", "    [super dealloc];"),
+        ("hidden-characters", "Engine/ui/X.cpp", "    return unit >= 0x2028 && unit <= 0x202E;"),
+        ("hidden-characters", "Publisher/X.cpp", "    return c.category() == QChar::Other_Format;"),
         ("switch-default", "Engine/core/X.cpp", "    default:"),
         ("shell", "Installer/X.cpp", 'system("ls");'),
         ("shell", "Installer/X.cpp", 'int const answer = ::system("ls");'),

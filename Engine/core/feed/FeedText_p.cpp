@@ -1,6 +1,8 @@
 // FeedText_p.cpp: single values of a feed.
 #include "Engine/core/feed/FeedText_p.h"
 
+#include "Engine/core/SafeText.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -10,21 +12,14 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// A control character, a line or paragraph separator, or one that embeds, overrides or isolates a writing direction.
-constexpr bool IsUnsafe(ushort unit)
+constexpr bool IsLineBreakOrTab(char32_t codePoint)
 {
-    return unit < 0x20 || (unit >= 0x7F && unit <= 0x9F) || (unit >= 0x2028 && unit <= 0x202E) ||
-           (unit >= 0x2066 && unit <= 0x2069);
+    return codePoint == '\n' || codePoint == '\r' || codePoint == '\t';
 }
 
-constexpr bool IsLineBreakOrTab(ushort unit)
+bool IsDropped(char32_t codePoint, FeedTextKind kind)
 {
-    return unit == '\n' || unit == '\r' || unit == '\t';
-}
-
-bool IsUnsafe(ushort unit, FeedTextKind kind)
-{
-    return IsUnsafe(unit) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(unit));
+    return IsHidden(codePoint) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(codePoint));
 }
 
 /// How many characters are looked at together: a number that the compiler turns into a few vector instructions.
@@ -67,20 +62,22 @@ inline int SkipOrdinary(ushort const* units, int from, int size, FeedTextKind ki
     return isTail && AreOrdinary<COUNT>(units + size - COUNT, kind) ? size : from;
 }
 
-/// The index of the first unsafe character at or behind \a from; \a size when there is none.
-int NextUnsafe(ushort const* units, int from, int size, FeedTextKind kind)
+/// The index of the first character at or behind \a from that is dropped; \a size when there is none.
+int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
 {
     int i = from;
     while (i < size)
     {
         i = SkipOrdinary<MANY_UNITS>(units, i, size, kind);
         i = SkipOrdinary<FEW_UNITS>(units, i, size, kind);
-        for (int const end = std::min(i + MANY_UNITS, size); i < end; ++i)
+        for (int const end = std::min(i + MANY_UNITS, size); i < end;)
         {
-            if (IsUnsafe(units[i], kind))
+            CodePoint const character = CodePointAt(units, i, size);
+            if (IsDropped(character.value, kind))
             {
                 return i;
             }
+            i += character.units;
         }
     }
     return size;
@@ -102,10 +99,19 @@ QString CleanFeedText(QString text, FeedTextKind kind)
         text = std::move(text).trimmed();
     }
     int const size = text.size();
-    for (int i = NextUnsafe(text.utf16(), 0, size, kind); i < size; i = NextUnsafe(text.utf16(), i + 1, size, kind))
+    int in = NextDropped(text.utf16(), 0, size, kind);
+    int out = in;
+    QChar* const characters = in < size ? text.data() : nullptr;
+    while (in < size)
     {
-        text[i] = QLatin1Char(' ');
+        in += CodePointAt(text.utf16(), in, size).units;
+        characters[out++] = QLatin1Char(' ');
+        int const next = NextDropped(text.utf16(), in, size, kind);
+        std::copy(characters + in, characters + next, characters + out);
+        out += next - in;
+        in = next;
     }
+    text.truncate(out);
     return text;
 }
 

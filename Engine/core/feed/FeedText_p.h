@@ -15,8 +15,8 @@ enum class FeedTextKind
     Block,      ///< as written, line breaks and tabs kept
 };
 
-/// \a text without a character that could forge a log line, drive a terminal or turn the writing direction: each of
-/// them becomes a blank, so that no two parts of a version grow together.
+/// \a text without hidden characters (SafeText.h), which could forge a log line, drive a terminal or turn the writing
+/// direction: each of them becomes a blank, so that no two parts of a version grow together.
 [[nodiscard]] QString CleanFeedText(QString text, FeedTextKind kind);
 
 /// The number of bytes that \a text gives; 0 for anything but decimal digits and for more than \a most.

@@ -1,5 +1,6 @@
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 
+#include "Engine/core/SafeText.h"
 #include "Engine/core/notes/ReleaseNotesLink.h"
 
 #include <algorithm>
@@ -107,15 +108,8 @@ std::uint32_t ShownCodePoint(std::uint32_t codePoint)
     {
         return '\n';
     }
-    bool const isControl =
-        (codePoint < 0x20 && codePoint != '\n' && codePoint != '\t') || (codePoint >= 0x7F && codePoint < 0xA0);
-    // They make text read as another than it is.
-    bool const isReordering =
-        (codePoint >= 0x202A && codePoint <= 0x202E) || (codePoint >= 0x2066 && codePoint <= 0x2069);
-    // QTextDocument marks frames with U+FDD0 and U+FDD1, and objects with U+FFFC.
-    bool const isStructure = (codePoint >= 0xFDD0 && codePoint <= 0xFDEF) || codePoint == 0xFFFC ||
-                             codePoint == 0xFEFF || (codePoint & 0xFFFE) == 0xFFFE;
-    return isControl || isReordering || isStructure ? NO_CHARACTER : codePoint;
+    bool const isKept = codePoint == '\n' || codePoint == '\t' || !IsHidden(codePoint);
+    return isKept ? codePoint : NO_CHARACTER;
 }
 
 void AppendShown(std::string& out, std::uint32_t codePoint)

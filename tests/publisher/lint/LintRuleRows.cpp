@@ -102,6 +102,12 @@ void AddDocumentCases(std::vector<LintCase>& cases)
                      FeedOf(Item("5.1", "\n<title>a\xE2\x80\xAE"
                                         "b</title>")),
                      "control-character 3:1 <title> has the character U+202e"});
+    cases.push_back({"ControlCharacterInAnAttribute",
+                     FeedOf(Item("5.1", "\n<x y='a\xC2\x9B"
+                                        "b'/>")),
+                     "control-character 3:1 y has the character U+009b"});
+    cases.push_back({"TagCharacter", FeedOf(Item("5.1", "\n<title>a&#xE0041;b</title>")),
+                     "control-character 3:1 <title> has the character U+e0041"});
 }
 
 void AddNameCases(std::vector<LintCase>& cases)

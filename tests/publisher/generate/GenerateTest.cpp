@@ -7,6 +7,10 @@
 
 #include <QFile>
 
+#include <algorithm>
+
+#include <sys/stat.h>
+
 namespace Pelnar::Testing
 {
 namespace
@@ -180,6 +184,22 @@ TEST(Generate, RunningAgainChangesNothing)
     EXPECT_EQ(folder.Names(), names);
 }
 
+TEST(Generate, RunWithNothingNewLeavesTheFeedsFileAlone)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.GeneratedFeed();
+    QByteArray const feed = QFile::encodeName(folder.PathOf("appcast.xml"));
+    struct stat before;
+    ASSERT_EQ(::stat(feed.constData(), &before), 0);
+    EXPECT_EQ(folder.Generate().status, 0);
+    struct stat after;
+    ASSERT_EQ(::stat(feed.constData(), &after), 0);
+    EXPECT_EQ(after.st_ino, before.st_ino) << "a new file would be sent to every mirror";
+    EXPECT_EQ(after.st_mtim.tv_sec, before.st_mtim.tv_sec);
+    EXPECT_EQ(after.st_mtim.tv_nsec, before.st_mtim.tv_nsec);
+}
+
 TEST(Generate, TheSameFolderMakesTheSameFeed)
 {
     std::string feeds[2];
@@ -243,6 +263,107 @@ TEST(Generate, GivenDeltaIsProvedAndTaken)
     ASSERT_EQ(folder.Items()[0].deltas.size(), 1u);
     EXPECT_EQ(Text(folder.Items()[0].deltas[0].fileUrl.fileName()), "given.delta");
 }
+
+TEST(Generate, GivenDeltaIsOneOfTheNumberThatIsAskedFor)
+{
+    PublisherFolder const folder;
+    for (char const* const version : {"1.0", "1.1", "2.0"})
+    {
+        folder.PutVersion(version);
+    }
+    ASSERT_EQ(MakeGivenDelta(folder, "Test-1.1.zip", "Test-2.0.zip").status, 0);
+    folder.GeneratedFeed({QStringLiteral("--deltas"), QStringLiteral("1")});
+    ASSERT_EQ(folder.Items()[0].deltas.size(), 1u) << "the given one; none from 1.0";
+    EXPECT_EQ(Text(folder.Items()[0].deltas[0].fileUrl.fileName()), "given.delta");
+    std::vector<std::string> const names = folder.Names();
+    EXPECT_EQ(std::count_if(names.begin(), names.end(),
+                            [](std::string const& name) { return name.find(".delta") != std::string::npos; }),
+              1);
+}
+
+std::string Noise(std::size_t size, unsigned seed)
+{
+    std::string bytes(size, '\0');
+    for (char& byte : bytes)
+    {
+        seed = seed * 1103515245u + 12345u;
+        byte = static_cast<char>(seed >> 16);
+    }
+    return bytes;
+}
+
+/// \a archive with a comment in its gzip header that makes it \a size bytes long; it must be shorter yet.
+std::string PaddedTo(std::size_t size, std::string const& archive)
+{
+    constexpr std::size_t HEADER_BYTES = 10;
+    constexpr char HAS_COMMENT = 0x10;
+    EXPECT_LT(archive.size(), size);
+    std::string header = archive.substr(0, HEADER_BYTES);
+    header[3] |= HAS_COMMENT;
+    return header + std::string(size - archive.size() - 1, ' ') + '\0' + archive.substr(HEADER_BYTES);
+}
+
+/// Puts two versions there that share nothing, and a delta between them. The archive of the second is \a larger bytes
+/// longer than the delta.
+void PutVersionsThatShareNothing(PublisherFolder const& folder, int larger)
+{
+    std::string archive;
+    for (unsigned version : {1u, 2u})
+    {
+        BundleText text;
+        text.version = std::to_string(version) + ".0";
+        std::vector<ForgedEntry> bundle = MakePublishedBundle(text);
+        // Two files that are nearly the same: an archive has them once, a delta brings each.
+        bundle.back().content = Noise(10000, version);
+        bundle.push_back({"Test.app/twin", 'f', Noise(9999, version)});
+        archive = MakeArchive(Container::TarGzip, bundle);
+        folder.Put("Test-" + text.version + ".tar.gz", archive);
+    }
+    EXPECT_EQ(MakeGivenDelta(folder, "Test-1.0.tar.gz", "Test-2.0.tar.gz").status, 0);
+    int const deltaBytes = int(folder.ContentOf("given.delta").size());
+    folder.Put("Test-2.0.tar.gz", PaddedTo(std::size_t(deltaBytes + larger), archive));
+}
+
+struct SizeRow
+{
+    char const* name;
+    int archiveIsLargerBy;
+    std::size_t deltas;
+};
+
+std::ostream& operator<<(std::ostream& out, SizeRow const& row)
+{
+    return out << row.name;
+}
+
+class DeltaSize : public ::testing::TestWithParam<SizeRow>
+{
+};
+
+TEST_P(DeltaSize, GivenDeltaIsPublishedOnlyWhenItIsSmallerThanTheWhole)
+{
+    PublisherFolder const folder;
+    PutVersionsThatShareNothing(folder, GetParam().archiveIsLargerBy);
+    ToolRun const run = folder.Generate({QStringLiteral("--deltas"), QStringLiteral("0")});
+    EXPECT_EQ(folder.Items()[0].deltas.size(), GetParam().deltas) << run.err;
+    EXPECT_EQ(run.err.find("given.delta: left out: no smaller than the whole archive") != std::string::npos,
+              GetParam().deltas == 0)
+        << run.err;
+}
+
+TEST_P(DeltaSize, MadeDeltaIsPublishedOnlyWhenItIsSmallerThanTheWhole)
+{
+    PublisherFolder const folder;
+    PutVersionsThatShareNothing(folder, GetParam().archiveIsLargerBy);
+    folder.Remove("given.delta");
+    folder.GeneratedFeed();
+    EXPECT_EQ(folder.Items()[0].deltas.size(), GetParam().deltas);
+    EXPECT_EQ(QFile::exists(folder.PathOf("Test-1.0-2.0.delta")), GetParam().deltas == 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, DeltaSize,
+                         ::testing::Values(SizeRow{"Larger", -1, 0}, SizeRow{"Equal", 0, 0}, SizeRow{"Smaller", 1, 1}),
+                         [](auto const& row) { return std::string(row.param.name); });
 
 TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
 {

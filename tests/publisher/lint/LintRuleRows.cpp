@@ -168,6 +168,35 @@ void AddVersionCases(std::vector<LintCase>& cases)
          "version-spelling 3:7 5.1.0 is the same version as 5.1 in line 2"});
     cases.push_back({"SamePriority", FeedOf(Item("5.1") + Item("5.1")),
                      "same-priority 3:7 item 5.1 has the version and the kind of the item in line 2"});
+    struct Bounds
+    {
+        char const* name;
+        char const* first;
+        char const* second;
+        bool isShared;
+    };
+    Bounds const bounds[] = {
+        {"UpToThenFrom", "maximumSystemVersion>11", "minimumSystemVersion>12", false},
+        {"FromThenUpTo", "minimumSystemVersion>12", "maximumSystemVersion>11", false},
+        {"UpToThenFromTheSame", "maximumSystemVersion>11", "minimumSystemVersion>11", true},
+        {"FromThenUpToTheSame", "minimumSystemVersion>11", "maximumSystemVersion>11", true},
+        {"UpToThenFromTheSameInAnotherSpelling", "maximumSystemVersion>11", "minimumSystemVersion>11.0", true},
+        {"FromThenUpToTheSameInAnotherSpelling", "minimumSystemVersion>11.0", "maximumSystemVersion>11", true},
+        {"FromThenUpToHigher", "minimumSystemVersion>11", "maximumSystemVersion>12", true},
+        {"UpToThenUpTo", "maximumSystemVersion>11", "maximumSystemVersion>12", true},
+        {"FromThenFrom", "minimumSystemVersion>11", "minimumSystemVersion>12", true},
+    };
+    auto const bound = [](char const* text)
+    {
+        QByteArray const open(text);
+        return QByteArray("<sparkle:") + open + "</sparkle:" + open.left(open.indexOf('>')) + ">";
+    };
+    for (Bounds const& row : bounds)
+    {
+        cases.push_back({std::string("SamePriority") + row.name,
+                         FeedOf(Item("5.1", bound(row.first)) + Item("5.1", bound(row.second))),
+                         row.isShared ? "same-priority 3:" : ""});
+    }
     cases.push_back({"AnInstallerBesideABundlePasses",
                      FeedOf(Item("6.1") + "<item><enclosure url='https://a.example/a.sparkle_guided.pkg'" +
                             Good("6.1") + "/></item>"),

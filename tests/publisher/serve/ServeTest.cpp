@@ -96,6 +96,7 @@ class Serve : public ::testing::Test
 protected:
     Serve()
     {
+        ::umask(022); // a server hides what only its owner may read
         for (std::size_t i = 0; i < m_content.size(); ++i)
         {
             m_content[i] = static_cast<char>(i * 31 >> 4);

@@ -211,6 +211,42 @@ TEST_F(SelectionOfAFeed, NewestItemIsChosenWhereverItStands)
     }
 }
 
+struct TiedRow
+{
+    char const* name;
+    std::vector<std::uint64_t> lengths; ///< of bundles of one version at addresses of their own, in the feed's order
+    std::size_t chosen;
+};
+
+void PrintTo(TiedRow const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class TiedItemsOfAFeed : public SelectionOfItems, public ::testing::WithParamInterface<TiedRow>
+{
+};
+
+TEST_P(TiedItemsOfAFeed, ChosenIsTheEarliestOfTheSmallest)
+{
+    std::vector<ScriptedItem> items;
+    for (std::uint64_t const length : GetParam().lengths)
+    {
+        std::string const address = "https://" + std::to_string(items.size()) + ".example/App.zip";
+        items.emplace_back(OfferOf("5.1", address.c_str(), length));
+    }
+    EXPECT_EQ(session.SelectBestOfAppcast(items), items[GetParam().chosen]);
+    std::vector<LogRecord> const errors = log.Of(google::GLOG_ERROR);
+    EXPECT_EQ(errors, std::vector<LogRecord>(items.size() - 1, SamePrioritiesRecord())) << "one for each tie";
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, TiedItemsOfAFeed,
+                         ::testing::Values(TiedRow{"Two", {1000, 1000}, 0}, TiedRow{"TwoSmallerFirst", {999, 1000}, 0},
+                                           TiedRow{"TwoSmallerSecond", {1000, 999}, 1},
+                                           TiedRow{"Three", {1000, 1000, 1000}, 0},
+                                           TiedRow{"ThreeTwoSmaller", {1000, 999, 999}, 1}),
+                         [](auto const& row) { return std::string(row.param.name); });
+
 TEST_F(SelectionOfAFeed, ItemsAreDumpedBeforeTheChoiceAndTheBestAfterIt)
 {
     ScriptedItem const best(OfferOf("5.2"));

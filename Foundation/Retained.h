@@ -8,6 +8,8 @@
 #error "Retained.h is for Objective-C++ sources."
 #endif
 
+#include "Foundation/ManualReferences.h"
+
 #import <Foundation/Foundation.h>
 
 #include <utility>
@@ -47,6 +49,8 @@ public:
     ~Retained() { [m_object release]; }
 
     T* Get() const { return m_object; }
+    /// The object for a caller who owns nothing of it: good until the pool that is open now is drained.
+    T* Autorelease() const { return [[m_object retain] autorelease]; }
     explicit operator bool() const { return m_object != nil; }
     void Reset() { *this = Retained(); }
 

@@ -78,6 +78,12 @@ public:
     explicit ScriptedItem(ItemProperties properties = {});
     ItemProperties& Properties() const;
 
+    /// The references to the item: this one, and those of whoever else keeps it.
+    int References() const;
+    /// The framework drops its reference; nothing but References and IsGone may be asked then, unless others keep it.
+    void LetGo() const;
+    bool IsGone() const;
+
     struct Object;
     Object& GetObject() const { return *m_object; }
     friend bool operator==(ScriptedItem const& a, ScriptedItem const& b) { return a.m_object == b.m_object; }
@@ -100,6 +106,10 @@ public:
     std::vector<std::pair<bool, bool>> const& Calls() const;
     /// Run inside the call.
     void OnInvoke(std::function<void()> action) const;
+
+    int References() const;
+    /// The framework drops its reference: only those who took one of their own may still call.
+    void LetGo() const;
 
     struct Object;
     Object& GetObject() const { return *m_object; }
@@ -140,7 +150,7 @@ QString MainBundlePath();
 std::optional<QString> UserDefault(QString const& key);
 /// The value that another process would read: from the file, not from memory.
 std::optional<QString> StoredUserDefault(QString const& key);
-/// Where Foundation keeps the user defaults of this process.
-QString UserDefaultsFolder();
+/// Whether Foundation keeps the user defaults of this process where nobody else's are.
+bool HasUserDefaultsOfItsOwn();
 
 } // namespace Pelnar::Testing

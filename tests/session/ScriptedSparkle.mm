@@ -17,6 +17,7 @@ using Pelnar::Foundation::ToUtf8;
 {
   @public
     Pelnar::Testing::ScriptedItem::Object* m_object;
+    bool* m_isGone;
 }
 @end
 
@@ -45,6 +46,7 @@ struct ScriptedItem::Object
     ItemProperties properties;
     Retained<ScriptedItemObject> item;
     std::optional<ScriptedItem> self;
+    bool isGone = false;
 };
 
 struct ScriptedInvocation::Object
@@ -115,10 +117,17 @@ ScriptedItem::ScriptedItem(ItemProperties properties) : m_object(Keep(std::make_
     m_object->properties = std::move(properties);
     m_object->item = Retained<ScriptedItemObject>::Adopt([[ScriptedItemObject alloc] init]);
     m_object->item.Get()->m_object = m_object;
+    m_object->item.Get()->m_isGone = &m_object->isGone;
     m_object->self = *this;
 }
 
 ItemProperties& ScriptedItem::Properties() const { return m_object->properties; }
+
+int ScriptedItem::References() const { return static_cast<int>([m_object->item.Get() retainCount]); }
+
+void ScriptedItem::LetGo() const { m_object->item.Reset(); }
+
+bool ScriptedItem::IsGone() const { return m_object->isGone; }
 
 SUAppcastItem* ObjectOf(ScriptedItem const& item) { return item.GetObject().item.Get(); }
 
@@ -158,6 +167,10 @@ ScriptedInvocation::ScriptedInvocation(bool argument2, bool argument3) : m_objec
 std::vector<std::pair<bool, bool>> const& ScriptedInvocation::Calls() const { return m_object->calls; }
 
 void ScriptedInvocation::OnInvoke(std::function<void()> action) const { m_object->onInvoke = std::move(action); }
+
+int ScriptedInvocation::References() const { return static_cast<int>([m_object->invocation.Get() retainCount]); }
+
+void ScriptedInvocation::LetGo() const { m_object->invocation.Reset(); }
 
 std::string DescriptionOf(ScriptedError const& error)
 {
@@ -267,27 +280,6 @@ std::optional<QString> UserDefault(QString const& key)
     }
 }
 
-std::optional<QString> StoredUserDefault(QString const& key)
-{
-    @autoreleasepool
-    {
-        NSString* const file = [[[NSProcessInfo processInfo] processName] stringByAppendingPathExtension:@"plist"];
-        NSString* const folder = GSDefaultsRootForUser(NSUserName());
-        NSDictionary* const values =
-            [NSDictionary dictionaryWithContentsOfFile:[folder stringByAppendingPathComponent:file]];
-        NSString* const value = [values objectForKey:ToNSString(key)];
-        return value ? std::make_optional(ToQString(value)) : std::nullopt;
-    }
-}
-
-QString UserDefaultsFolder()
-{
-    @autoreleasepool
-    {
-        return ToQString(GSDefaultsRootForUser(NSUserName()));
-    }
-}
-
 } // namespace Pelnar::Testing
 
 @implementation ScriptedInstaller
@@ -307,4 +299,11 @@ QString UserDefaultsFolder()
 @end
 
 @implementation ScriptedItemObject
+
+- (void)dealloc
+{
+    *m_isGone = true;
+    [super dealloc];
+}
+
 @end

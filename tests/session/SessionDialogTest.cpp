@@ -186,9 +186,33 @@ TEST_F(SessionDialog, SkipStoresTheVersionBeforeTheInvocationRuns)
     EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
 }
 
+TEST_F(SessionDialog, WhatTheFrameworkLetsGoOfMeanwhileIsStillThereAfterwards)
+{
+    ScriptedItem const item = MakeItem(QStringLiteral("6.1.2"));
+    int const ofItem = item.References();
+    int const ofInvocation = m_invocation.References();
+    LendWithRemote(State::SILENT_DOWNLOADING, Version(6, 1, 2));
+    DialogDriver driver(READY,
+                        [&](QWidget* widget)
+                        {
+                            EXPECT_GT(item.References(), ofItem);
+                            EXPECT_GT(m_invocation.References(), ofInvocation);
+                            if (!HasFailure())
+                            {
+                                item.LetGo();
+                                m_invocation.LetGo();
+                            }
+                            ClickButton(qobject_cast<QMessageBox*>(widget), QStringLiteral("Skip This Version"));
+                        });
+    Callbacks::WillInstallOnQuit(item, m_invocation);
+    EXPECT_EQ(UserDefault(SKIPPED_KEY), QStringLiteral("6.1.2"));
+    EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
+    EXPECT_TRUE(item.IsGone()) << "and it is given back";
+}
+
 TEST_F(SessionDialog, SkippedVersionIsStoredInTheTestsOwnDefaults)
 {
-    EXPECT_TRUE(UserDefaultsFolder().startsWith(QDir::tempPath())) << qPrintable(UserDefaultsFolder());
+    EXPECT_TRUE(HasUserDefaultsOfItsOwn());
 }
 
 TEST_F(SessionDialog, SkipLeavesArgumentThreeAsItIs)

@@ -271,6 +271,17 @@ TEST_F(SelectionOfAFeed, DeltaFromTheLocalVersionWinsOverItsBundle)
     EXPECT_TRUE(log.Of(google::GLOG_ERROR).empty());
 }
 
+TEST_F(SelectionOfAFeed, DeltaThatOnlyItsDictionaryKeepsOutlivesTheAnswer)
+{
+    ScriptedItem const delta(DeltaOf("5.1"));
+    // Read when the dictionary holds it already.
+    delta.Properties().onRead["versionString"] = [&delta] { delta.LetGo(); };
+    ItemProperties full = OfferOf("5.1");
+    full.deltas = {{Latin1("5.0"), delta}};
+    EXPECT_TRUE(session.AnswersWithALivingItem(std::vector<ScriptedItem>{ScriptedItem(full)}, delta));
+    EXPECT_TRUE(delta.IsGone()) << "with the caller's pool";
+}
+
 TEST_F(SelectionOfAFeed, SecondCallAfterADeltaConsidersFullItemsOnly)
 {
     ScriptedItem const delta(DeltaOf("5.1"));

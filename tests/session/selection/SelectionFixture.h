@@ -41,6 +41,8 @@ public:
     bool Validate(Item const& item) const;
     Item SelectBest(Item const& a, Item const& b) const;
     Item SelectBestOfAppcast(ScriptedAppcast const& appcast);
+    /// Whether the answer is \a expected and still there when the caller gets it.
+    bool AnswersWithALivingItem(ScriptedAppcast const& appcast, ScriptedItem const& expected);
 
     bool ValidatePlainly(Item const& item) const;
     Item SelectBestPlainly(Item const& a, Item const& b) const;

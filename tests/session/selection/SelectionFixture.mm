@@ -80,6 +80,15 @@ SelectionFixture::Item SelectionFixture::SelectBestOfAppcast(ScriptedAppcast con
     }
 }
 
+bool SelectionFixture::AnswersWithALivingItem(ScriptedAppcast const& appcast, ScriptedItem const& expected)
+{
+    @autoreleasepool
+    {
+        SUAppcastItem* const answer = m_session->impl.SelectBestOfAppcast(MakeAppcast(appcast));
+        return answer && !expected.IsGone() && ItemOf(answer) == expected;
+    }
+}
+
 bool SelectionFixture::ValidatePlainly(Item const& item) const
 {
     return Plain::ValidateAppcastItem(m_session->impl, ObjectOrNil(item));

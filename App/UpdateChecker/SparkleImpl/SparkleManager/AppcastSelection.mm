@@ -234,35 +234,43 @@ SUAppcastItem* SparkleManager::Impl::SelectBestValidAppcastItem(SUAppcastItem* a
 SUAppcastItem* SparkleManager::Impl::SelectBestOfAppcast(SUAppcast* appcast)
 {
     Write(Sites::BEST_ITEM, std::string("Current state = ") + Session::StateName(state));
+    Foundation::Retained<SUAppcastItem> best;
     @autoreleasepool
     {
-        NSArray* const items = [appcast items];
-        if (!items || !EnsureContext() || !EnsureLocalVersion() || !EnsureVersionOperators())
-        {
-            bestItemIsDelta = false;
-            return nil;
-        }
-        // Held for the length of the choice: an operator may replace the context.
-        std::shared_ptr<SparkleUpdateContext> const lent = context;
-        Contest contest(*this);
-        OfferItems(*this, items, contest);
-        if (!contest.Best())
-        {
-            bestItemIsDelta = false;
-            Write(Sites::BEST_ITEM_NOT_DETECTED, "Best valid SUAppcastItem was NOT detected.");
-            return nil;
-        }
-        // After an answer that was a delta, the framework asks for a full item to fall back on.
-        if (!bestItemIsDelta)
-        {
-            OfferDeltas(*this, [contest.Best() deltaUpdates], contest);
-        }
-        SUAppcastItem* const best = contest.Best();
-        bestItemIsDelta = [best isDeltaUpdate];
-        Write(Sites::BEST_ITEM_DETECTED, "Best valid SUAppcastItem was detected:");
-        PrintDebugSUAppcastItemInfo(best, "");
-        return best;
+        // A dictionary made for this answer may be all that keeps a delta: the answer has to outlive the pool.
+        best = Foundation::Retained<SUAppcastItem>::Share(ChooseFromAppcast(appcast));
     }
+    return best.Autorelease();
+}
+
+SUAppcastItem* SparkleManager::Impl::ChooseFromAppcast(SUAppcast* appcast)
+{
+    NSArray* const items = [appcast items];
+    if (!items || !EnsureContext() || !EnsureLocalVersion() || !EnsureVersionOperators())
+    {
+        bestItemIsDelta = false;
+        return nil;
+    }
+    // Held for the length of the choice: an operator may replace the context.
+    std::shared_ptr<SparkleUpdateContext> const lent = context;
+    Contest contest(*this);
+    OfferItems(*this, items, contest);
+    if (!contest.Best())
+    {
+        bestItemIsDelta = false;
+        Write(Sites::BEST_ITEM_NOT_DETECTED, "Best valid SUAppcastItem was NOT detected.");
+        return nil;
+    }
+    // After an answer that was a delta, the framework asks for a full item to fall back on.
+    if (!bestItemIsDelta)
+    {
+        OfferDeltas(*this, [contest.Best() deltaUpdates], contest);
+    }
+    SUAppcastItem* const best = contest.Best();
+    bestItemIsDelta = [best isDeltaUpdate];
+    Write(Sites::BEST_ITEM_DETECTED, "Best valid SUAppcastItem was detected:");
+    PrintDebugSUAppcastItemInfo(best, "");
+    return best;
 }
 
 void SparkleManager::Impl::PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const

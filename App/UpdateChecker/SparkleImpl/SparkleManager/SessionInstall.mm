@@ -51,6 +51,9 @@ void StoreSkippedVersion(NSString* version)
 void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* invocation)
 {
     Session::WriteCurrentState(Session::Sites::WILL_INSTALL, state);
+    // The framework may let go of both while the dialog's event loop runs.
+    auto const keptItem = Foundation::Retained<SUAppcastItem>::Share(item);
+    auto const keptInvocation = Foundation::Retained<NSInvocation>::Share(invocation);
     // The invocation runs once on every path: what fails until then, an operator of the context say, declines.
     ReadyToInstallAnswer answer = ReadyToInstallAnswer::RemindLater;
     RecordFailure(

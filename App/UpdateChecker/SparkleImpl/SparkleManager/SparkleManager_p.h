@@ -102,6 +102,8 @@ public:
     std::function<void()> closeDialog; ///< set while the session shows a dialog
 
 private:
+    /// REQUIRES: an open pool, which may be all that keeps the answer.
+    SUAppcastItem* ChooseFromAppcast(SUAppcast* appcast);
     void ReportFoundVersion(SUAppcastItem* item);
     void WriteExtensions() const;
     /// What the context's getter answers; null without a getter, and for one that fails, which is recorded. The getter

@@ -3,7 +3,9 @@
 #include "HostFramework/Reference/ReferenceOSVersion.h"
 
 #include <QFile>
-#include <QSysInfo>
+#include <QOperatingSystemVersion>
+
+#include <algorithm>
 
 namespace Pelnar::Util
 {
@@ -55,7 +57,7 @@ QString OSVersion()
         return Override();
     }
 #if defined(Q_OS_MACOS)
-    return QSysInfo::productVersion();
+    return AllComponentsOf(QOperatingSystemVersion::current());
 #else
     return VersionIdFromFiles({QStringLiteral("/etc/os-release"), QStringLiteral("/usr/lib/os-release")});
 #endif
@@ -64,6 +66,15 @@ QString OSVersion()
 void SetOSVersion(QString const& version)
 {
     Override() = version;
+}
+
+QString AllComponentsOf(QOperatingSystemVersion const& version)
+{
+    // A number that the system leaves out is a negative one here.
+    return QStringLiteral("%1.%2.%3")
+        .arg(version.majorVersion())
+        .arg(std::max(0, version.minorVersion()))
+        .arg(std::max(0, version.microVersion()));
 }
 
 QString VersionIdOf(QByteArray const& osRelease)

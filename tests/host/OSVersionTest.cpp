@@ -56,6 +56,15 @@ INSTANTIATE_TEST_SUITE_P(
                     OsReleaseRow{"LastOneWins", "VERSION_ID=5\nVERSION_ID=6\n", "6"}),
     [](auto const& info) { return std::string(info.param.name); });
 
+TEST(SystemVersion, HasItsPatchNumber)
+{
+    using System = QOperatingSystemVersion;
+    EXPECT_EQ(AllComponentsOf(System(System::MacOS, 10, 15, 7)), QStringLiteral("10.15.7"));
+    EXPECT_EQ(AllComponentsOf(System(System::MacOS, 11, 0, 1)), QStringLiteral("11.0.1"));
+    EXPECT_EQ(AllComponentsOf(System(System::MacOS, 10, 13)), QStringLiteral("10.13.0"));
+    EXPECT_EQ(AllComponentsOf(System(System::MacOS, 12)), QStringLiteral("12.0.0"));
+}
+
 QString WriteFile(QTemporaryDir const& folder, QString const& name, QByteArray const& content)
 {
     QFile file(folder.filePath(name));

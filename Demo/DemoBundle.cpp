@@ -1,9 +1,8 @@
 #include "Demo/DemoBundle.h"
 
 #include "Demo/EngineDefaults.h"
+#include "Foundation/RunningBundle.h"
 #include "HostFramework/VersionText.h"
-
-#include <QFileInfo>
 
 #include <stdexcept>
 
@@ -12,8 +11,7 @@ namespace Pelnar::Demo
 
 bool RunsFromBundle()
 {
-    QString const folder = QFileInfo(QStringLiteral("/proc/self/exe")).canonicalPath();
-    return QFileInfo(folder + QStringLiteral("/Resources/Info-gnustep.plist")).isFile();
+    return !Foundation::InformationFileOfRunningBundle().isEmpty();
 }
 
 std::optional<App::Customization> ReadBundle()

@@ -7,6 +7,8 @@
 #error "FoundationText.h is for Objective-C++ sources."
 #endif
 
+#include "Foundation/ManualReferences.h"
+
 #import <Foundation/Foundation.h>
 
 #include <QString>

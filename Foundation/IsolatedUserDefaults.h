@@ -4,7 +4,7 @@
 // are removed with it, so it must outlive the last use of Foundation.
 #pragma once
 
-#include <QTemporaryDir>
+#include <memory>
 
 namespace Pelnar::Foundation
 {
@@ -12,11 +12,16 @@ namespace Pelnar::Foundation
 class IsolatedUserDefaults
 {
 public:
-    /// Makes an empty private folder and sends Foundation there. Ends the process when that cannot be done.
+    /// Sends the process's user defaults to a place that nobody else uses and that is empty. Ends the process with a
+    /// sentence when that cannot be done.
     IsolatedUserDefaults();
+    ~IsolatedUserDefaults();
+    IsolatedUserDefaults(IsolatedUserDefaults const&) = delete;
+    IsolatedUserDefaults& operator=(IsolatedUserDefaults const&) = delete;
 
 private:
-    QTemporaryDir m_folder;
+    struct Impl;
+    std::unique_ptr<Impl> m_impl;
 };
 
 } // namespace Pelnar::Foundation

@@ -1,5 +1,6 @@
 #include "HostFramework/Reference/ReferenceApplication.h"
 
+#include "Foundation/QuitAnnouncement.h"
 #include "HostFramework/ICustomizationManager.h"
 #include "HostFramework/ILinksManager.h"
 #include "HostFramework/NagScreenManager.h"
@@ -33,7 +34,10 @@ std::vector<QPointer<QWidget>> WindowsToAsk()
 
 } // namespace
 
-ReferenceApplication::ReferenceApplication(int& argc, char** argv) : Application(argc, argv) {}
+ReferenceApplication::ReferenceApplication(int& argc, char** argv) : Application(argc, argv)
+{
+    Foundation::AnnounceQuitOf(*this);
+}
 
 ReferenceApplication::~ReferenceApplication() = default;
 

@@ -15,7 +15,7 @@ SOURCE_ENDINGS = {".cpp", ".h", ".mm"}
 LAYERS = {
     "common": set(),
     "HostFramework": {"common"},
-    "HostFramework/Reference": {"HostFramework", "common"},
+    "HostFramework/Reference": {"Foundation", "HostFramework", "common"},
     "Foundation": set(),
     "Engine/include": set(),
     "Engine/core": set(),

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <dlfcn.h>
 #include <unistd.h>
@@ -10,6 +11,12 @@
 
 namespace Pelnar::Foundation
 {
+
+struct IsolatedUserDefaults::Impl
+{
+    QTemporaryDir folder;
+};
+
 namespace
 {
 
@@ -41,12 +48,12 @@ void RefreshFoundationsEnvironment()
 
 } // namespace
 
-IsolatedUserDefaults::IsolatedUserDefaults()
+IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
 {
     // Foundation keeps user defaults in the home folder of the password database, whatever HOME says; only this
     // variable moves them, and it must be set before Foundation is first used.
-    QByteArray const folder = QFile::encodeName(m_folder.path());
-    QFile config(m_folder.filePath(QStringLiteral("GNUstep.conf")));
+    QByteArray const folder = QFile::encodeName(m_impl->folder.path());
+    QFile config(m_impl->folder.filePath(QStringLiteral("GNUstep.conf")));
     if (!config.open(QIODevice::WriteOnly) || config.write("GNUSTEP_USER_DEFAULTS_DIR=" + folder + "/Defaults\n") < 0)
     {
         qFatal("cannot write %s", qPrintable(config.fileName()));
@@ -55,5 +62,7 @@ IsolatedUserDefaults::IsolatedUserDefaults()
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
     RefreshFoundationsEnvironment();
 }
+
+IsolatedUserDefaults::~IsolatedUserDefaults() = default;
 
 } // namespace Pelnar::Foundation

@@ -1,0 +1,46 @@
+#include "Foundation/QuitAnnouncement.h"
+
+#include "Foundation/ManualReferences.h"
+
+#import <AppKit/AppKit.h>
+
+#include <QCoreApplication>
+
+namespace Pelnar::Foundation
+{
+namespace
+{
+
+bool isAnnounced = false;
+
+} // namespace
+
+void AnnounceQuitOf(QCoreApplication& application)
+{
+    @autoreleasepool
+    {
+        // A Qt that announces the end itself is heard here: those who wait must not hear of it twice.
+        [[NSNotificationCenter defaultCenter] addObserverForName:NSApplicationWillTerminateNotification
+                                                          object:nil
+                                                           queue:nil
+                                                      usingBlock:^(NSNotification*) {
+                                                        isAnnounced = true;
+                                                      }];
+    }
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &application,
+                     []
+                     {
+                         if (isAnnounced)
+                         {
+                             return;
+                         }
+                         @autoreleasepool
+                         {
+                             [[NSNotificationCenter defaultCenter]
+                                 postNotificationName:NSApplicationWillTerminateNotification
+                                               object:[NSApplication sharedApplication]];
+                         }
+                     });
+}
+
+} // namespace Pelnar::Foundation

@@ -22,18 +22,32 @@ function(pelnar_helper_library name shared)
     target_link_libraries(${name} INTERFACE "$<IF:${stands_alone},${files},${shared}>")
 endfunction()
 
-find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network LinguistTools)
+find_package(Qt5 5.15 REQUIRED COMPONENTS Core Widgets Network)
 find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
-find_package(PkgConfig REQUIRED)
 find_package(Threads REQUIRED)
+
+# pelnar_objc_runtime: Foundation and the runtime beneath it. pelnar_sparkle_interface: where <Sparkle/Sparkle.h> is read
+# from; it links nothing, so that a test may put doubles in the place of the framework's classes.
+add_library(pelnar_objc_runtime INTERFACE)
+add_library(pelnar_sparkle_interface INTERFACE)
 
 if(APPLE)
     find_library(PELNAR_FOUNDATION Foundation REQUIRED)
+    find_library(PELNAR_APPKIT AppKit REQUIRED)
+    # The folder of a framework that is not installed for all users is said with CMAKE_FRAMEWORK_PATH.
     find_library(PELNAR_SPARKLE Sparkle REQUIRED)
-    add_library(pelnar_objc_runtime INTERFACE)
+    cmake_path(GET PELNAR_SPARKLE PARENT_PATH PELNAR_SPARKLE_FOLDER)
+
+    # References are counted by hand; see Foundation/ManualReferences.h.
+    target_compile_options(pelnar_objc_runtime INTERFACE "$<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc>")
     target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_FOUNDATION})
+    target_compile_options(pelnar_sparkle_interface INTERFACE
+        "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-iframework ${PELNAR_SPARKLE_FOLDER}>")
 else()
+    find_package(PkgConfig REQUIRED)
+    find_package(Qt5LinguistTools 5.15 REQUIRED)
+
     # GNUstep's Foundation over GCC's Objective-C runtime, compiled by clang. The runtime's headers and library belong
     # to GCC, so GCC is asked where they are.
     execute_process(COMMAND gcc -print-file-name=include
@@ -52,7 +66,6 @@ else()
     pelnar_helper_library(pelnar_zstd PkgConfig::zstd zstd)
     pelnar_helper_library(pelnar_unistring ${PELNAR_UNISTRING} unistring)
 
-    add_library(pelnar_objc_runtime INTERFACE)
     target_compile_options(pelnar_objc_runtime INTERFACE
         "$<$<COMPILE_LANGUAGE:OBJCXX>:-fobjc-runtime=gcc;-fexceptions;-fobjc-exceptions;-fconstant-string-class=NSConstantString>"
         "$<$<COMPILE_LANGUAGE:OBJCXX>:SHELL:-idirafter ${PELNAR_GCC_INCLUDE}>"
@@ -60,6 +73,7 @@ else()
     target_compile_definitions(pelnar_objc_runtime INTERFACE
         "$<$<COMPILE_LANGUAGE:OBJCXX>:GNUSTEP;GNUSTEP_BASE_LIBRARY=1;GNU_RUNTIME=1;_NATIVE_OBJC_EXCEPTIONS>")
     target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_GNUSTEP_BASE} ${PELNAR_LIBOBJC})
+    target_include_directories(pelnar_sparkle_interface INTERFACE "${PROJECT_SOURCE_DIR}/Engine/include")
 endif()
 
 if(PELNAR_BUILD_TESTS)

@@ -16,7 +16,7 @@ endif()
 foreach(target IN LISTS PELNAR_INSTALLED_TARGETS)
     target_include_directories(${target} INTERFACE "$<INSTALL_INTERFACE:${PELNAR_INSTALL_INCLUDEDIR}>")
     # The libraries find each other wherever the whole is put.
-    set_target_properties(${target} PROPERTIES INSTALL_RPATH "$ORIGIN")
+    set_target_properties(${target} PROPERTIES INSTALL_RPATH "${PELNAR_BESIDE_LOADER}")
 endforeach()
 
 install(TARGETS ${PELNAR_INSTALLED_TARGETS} EXPORT PelnarUpdateCheckerTargets

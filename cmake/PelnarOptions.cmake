@@ -20,6 +20,13 @@ set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
+# Beside the file that is loaded, for libraries that find each other wherever the whole is put.
+if(APPLE)
+    set(PELNAR_BESIDE_LOADER "@loader_path")
+else()
+    set(PELNAR_BESIDE_LOADER "$ORIGIN")
+endif()
+
 if(NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     message(FATAL_ERROR
         "The Objective-C++ sources read Qt's headers, which only clang++ does: configure with "

@@ -1,14 +1,11 @@
 #include "common/EventHandlerList.h"
+#include "tests/support/ThreadState.h"
 
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <atomic>
-#include <fstream>
 #include <functional>
 #include <future>
-#include <limits>
 #include <stdexcept>
 #include <string>
 #include <thread>
@@ -62,7 +59,7 @@ public:
         : m_thread(
               [this, call]
               {
-                  m_id = gettid();
+                  m_id = Pelnar::Testing::RunningThread();
                   call();
                   m_finished = true;
               })
@@ -75,7 +72,7 @@ public:
     {
         while (!m_finished)
         {
-            if (m_id != 0 && State() == 'S')
+            if (m_id != 0 && Pelnar::Testing::IsAsleep(m_id))
             {
                 return !m_finished;
             }
@@ -85,16 +82,7 @@ public:
     }
 
 private:
-    char State() const
-    {
-        std::ifstream status("/proc/self/task/" + std::to_string(m_id) + "/stat");
-        status.ignore(std::numeric_limits<std::streamsize>::max(), ')');
-        char state = 0;
-        status >> state;
-        return state;
-    }
-
-    std::atomic<pid_t> m_id{0};
+    std::atomic<std::uint64_t> m_id{0};
     std::atomic<bool> m_finished{false};
     std::thread m_thread;
 };

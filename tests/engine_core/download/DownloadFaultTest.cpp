@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <map>
 #include <optional>
 #include <string>
 #include <utility>
@@ -48,7 +49,33 @@ struct End
 {
     int cause = -1; ///< -1 when it did not come to print one
     std::string all;
+    std::size_t faults = 0;              ///< verdicts that changed what happened
+    std::vector<std::int64_t> answers{}; ///< of the calls that were visited
 };
+
+/// The nth call of its kind about files: the disk's thread may make a few more or fewer of others in another run.
+struct Place
+{
+    long call;
+    int nth; ///< from 1
+    std::int64_t answer;
+};
+
+bool AnyPlace(Place const&)
+{
+    return true;
+}
+
+bool MayBeInterrupted(Place const& place)
+{
+    constexpr long CALLS[] = {SYS_openat, SYS_pwrite64, SYS_write, SYS_read, SYS_flock, SYS_ftruncate};
+    return std::find(std::begin(CALLS), std::end(CALLS), place.call) != std::end(CALLS);
+}
+
+bool MayBeShortened(Place const& place)
+{
+    return CanBeShortened(place.call, place.answer) && place.call != SYS_read;
+}
 
 class DownloadFaultTest : public DownloadTest
 {
@@ -88,18 +115,24 @@ protected:
             ADD_FAILURE() << "no process can be made: " << errno;
             return {};
         }
-        int count = 0;
-        TraceToTheEnd(process,
-                      [&](CallStop stop)
-                      {
-                          if (stop.process == process || !IsAboutFiles(stop))
-                          {
-                              return CallVerdict::GoOn();
-                          }
-                          stop.index = count++;
-                          return visitor(stop);
-                      });
+        std::vector<int> visited;
+        TracedEnd const traced = TraceToTheEnd(process,
+                                               [&](CallStop stop)
+                                               {
+                                                   if (stop.process == process || !IsAboutFiles(stop))
+                                                   {
+                                                       return CallVerdict::GoOn();
+                                                   }
+                                                   visited.push_back(stop.index);
+                                                   stop.index = static_cast<int>(visited.size()) - 1;
+                                                   return visitor(stop);
+                                               });
         End end;
+        end.faults = traced.faulted.size();
+        for (int const index : visited)
+        {
+            end.answers.push_back(traced.answers[static_cast<std::size_t>(index)]);
+        }
         QFile file(QString::fromStdString(output));
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
         end.all = file.readAll().toStdString();
@@ -137,50 +170,64 @@ protected:
         EXPECT_TRUE(result.bytes == ARCHIVE) << what;
     }
 
-    /// Calls \a check with every place, or a sample of them, among the calls of a download that begins and of one that
-    /// goes on. The disk's thread may make a few more or fewer of them in another run.
-    template <typename Check>
-    void AtEachCall(Check const& check)
+    /// Downloads with \a verdict at every place that \a canFail, or at a sample of them, among the calls of a download
+    /// that begins and of one that goes on; \a check is told how each ended.
+    template <typename VerdictAt, typename Check>
+    void Sweep(bool (*canFail)(Place const&), VerdictAt const& verdictAt, Check const& check)
     {
         int const stride = std::getenv("PELNAR_EVERY_PLACE") ? 1 : DEFAULT_STRIDE;
-        AtEachCallOf(0, stride, check);
-        AtEachCallOf(1, stride, check);
+        SweepRound(0, stride, canFail, verdictAt, check);
+        SweepRound(1, stride, canFail, verdictAt, check);
     }
 
-    template <typename Check>
-    void AtEachCallOf(int round, int stride, Check const& check)
+    template <typename VerdictAt, typename Check>
+    void SweepRound(int round, int stride, bool (*canFail)(Place const&), VerdictAt const& verdictAt,
+                    Check const& check)
     {
-        int calls = 0;
-        Prepare(round);
-        End const end = Download(
-            [&calls](CallStop const&)
-            {
-                ++calls;
-                return CallVerdict::GoOn();
-            });
-        ASSERT_EQ(end.cause, 0) << end.all;
-        ASSERT_GT(calls, 15);
-        for (int index = round; index < calls; index += stride)
+        std::vector<Place> places = PlacesOf(round);
+        ASSERT_GT(places.size(), 15u);
+        places.erase(std::remove_if(places.begin(), places.end(), [&](Place const& place) { return !canFail(place); }),
+                     places.end());
+        int runs = 0;
+        int met = 0;
+        for (std::size_t i = static_cast<std::size_t>(round); i < places.size(); i += static_cast<std::size_t>(stride))
         {
             Prepare(round);
-            check(index, " at " + std::to_string(index) + " of round " + std::to_string(round));
+            End const end = DownloadWith(verdictAt(i), places[i]);
+            ++runs;
+            met += end.faults > 0 ? 1 : 0;
+            check(places[i], end,
+                  CallName(places[i].call) + " number " + std::to_string(places[i].nth) + " of round " +
+                      std::to_string(round));
         }
+        EXPECT_GT(met, 0) << "nothing was done to " << places.size() << " places";
+        EXPECT_GE(met * 10, runs * 8) << "of so many runs too few met their place";
     }
 
-    /// Downloads while the call at \a index gets \a verdict; \a met is that call, or -1 when there was none.
-    End DownloadWith(CallVerdict verdict, int index, long& met)
+    std::vector<Place> PlacesOf(int round)
     {
-        met = -1;
-        return Download(
+        std::vector<Place> places;
+        std::map<long, int> counts;
+        Prepare(round);
+        End const end = Download(
             [&](CallStop const& stop)
             {
-                if (stop.index != index)
-                {
-                    return CallVerdict::GoOn();
-                }
-                met = stop.call;
-                return verdict;
+                places.push_back({stop.call, ++counts[stop.call], 0});
+                return CallVerdict::GoOn();
             });
+        EXPECT_EQ(end.cause, 0) << end.all;
+        for (std::size_t i = 0; i < places.size(); ++i)
+        {
+            places[i].answer = end.answers[i];
+        }
+        return places;
+    }
+
+    End DownloadWith(CallVerdict verdict, Place const& place)
+    {
+        int count = 0;
+        return Download([&](CallStop const& stop)
+                        { return stop.call == place.call && ++count == place.nth ? verdict : CallVerdict::GoOn(); });
     }
 
     /// Has every second round begin with a part of another version than the server's.
@@ -196,43 +243,41 @@ private:
     QByteArray m_partTag = "\"one\"";
 };
 
+CallVerdict KillAt(std::size_t)
+{
+    return CallVerdict::KillAll();
+}
+
 TEST_F(DownloadFaultTest, KilledAtAnyCallTheNextRunBringsTheArchive)
 {
-    AtEachCall(
-        [this](int index, std::string const& where)
-        {
-            long met = -1;
-            DownloadWith(CallVerdict::KillAll(), index, met);
-            ExpectNextRunBringsTheArchive(CallName(met) + where);
-        });
+    Sweep(&AnyPlace, &KillAt,
+          [this](Place const&, End const&, std::string const& where) { ExpectNextRunBringsTheArchive(where); });
 }
 
 TEST_F(DownloadFaultTest, KilledAnywhereBetweenTwoVersionsNoFileIsMadeOfBoth)
 {
     LeavePartsOfAnotherVersion();
     // One call is the one that matters, so that no sample will do.
-    AtEachCallOf(1, 1,
-                 [this](int index, std::string const& where)
-                 {
-                     long met = -1;
-                     DownloadWith(CallVerdict::KillAll(), index, met);
-                     ExpectNextRunBringsTheArchive(CallName(met) + where);
-                 });
+    SweepRound(1, 1, &AnyPlace, &KillAt,
+               [this](Place const&, End const&, std::string const& where) { ExpectNextRunBringsTheArchive(where); });
 }
 
 TEST_F(DownloadFaultTest, FailingCallsEndInAnErrorOrInTheArchiveAndTheNextRunBringsIt)
 {
     constexpr int ERRORS[] = {ENOSPC, EIO, EDQUOT, EMFILE, ENOMEM, EACCES};
-    std::size_t turn = 0;
-    AtEachCall(
-        [&](int index, std::string const& where)
+    int error = 0;
+    Sweep(
+        &AnyPlace,
+        [&](std::size_t place)
         {
-            int const error = ERRORS[turn++ % std::size(ERRORS)];
-            long met = -1;
-            End const end = DownloadWith(CallVerdict::Fail(error), index, met);
-            std::string const what = CallName(met) + where + " with error " + std::to_string(error);
+            error = ERRORS[place % std::size(ERRORS)];
+            return CallVerdict::Fail(error);
+        },
+        [&](Place const& place, End const& end, std::string const& where)
+        {
+            std::string const what = where + " with error " + std::to_string(error);
             EXPECT_TRUE(end.cause == 0 || (end.cause >= 900 && end.cause < 950)) << what << ": " << end.all;
-            if (met == SYS_pwrite64)
+            if (place.call == SYS_pwrite64)
             {
                 EXPECT_NE(end.cause, 0) << what;
                 EXPECT_TRUE(Files().isEmpty() || error == EMFILE || error == ENOMEM)
@@ -242,30 +287,24 @@ TEST_F(DownloadFaultTest, FailingCallsEndInAnErrorOrInTheArchiveAndTheNextRunBri
         });
 }
 
-TEST_F(DownloadFaultTest, InterruptedAndShortCallsAreGoneOnWith)
+TEST_F(DownloadFaultTest, InterruptedCallsAreMadeAgain)
 {
-    AtEachCall(
-        [&](int index, std::string const& where)
+    Sweep(
+        &MayBeInterrupted, [](std::size_t) { return CallVerdict::Fail(EINTR); },
+        [&](Place const&, End const& end, std::string const& where)
         {
-            constexpr long INTERRUPTIBLE[] = {SYS_openat, SYS_pwrite64, SYS_write, SYS_read, SYS_flock, SYS_ftruncate};
-            CallVisitor const visitor = [&](CallStop const& stop)
-            {
-                bool const isMeant =
-                    stop.index == index &&
-                    std::find(std::begin(INTERRUPTIBLE), std::end(INTERRUPTIBLE), stop.call) != std::end(INTERRUPTIBLE);
-                return isMeant ? CallVerdict::Fail(EINTR) : CallVerdict::GoOn();
-            };
-            End const interrupted = Download(visitor);
-            EXPECT_EQ(interrupted.cause, 0) << "interrupted" << where << ": " << interrupted.all;
+            EXPECT_EQ(end.cause, 0) << where << ": " << end.all;
             EXPECT_TRUE(PartialBytes() == ARCHIVE) << where;
-            RemoveFolder();
-            End const shortened = Download(
-                [index](CallStop const& stop)
-                {
-                    bool const isWrite = stop.call == SYS_pwrite64 || stop.call == SYS_write;
-                    return stop.index == index && isWrite ? CallVerdict::Shorten() : CallVerdict::GoOn();
-                });
-            EXPECT_EQ(shortened.cause, 0) << "shortened" << where << ": " << shortened.all;
+        });
+}
+
+TEST_F(DownloadFaultTest, ShortWritesAreGoneOnWith)
+{
+    Sweep(
+        &MayBeShortened, [](std::size_t) { return CallVerdict::Shorten(); },
+        [&](Place const&, End const& end, std::string const& where)
+        {
+            EXPECT_EQ(end.cause, 0) << where << ": " << end.all;
             EXPECT_TRUE(PartialBytes() == ARCHIVE) << where;
         });
 }
@@ -285,6 +324,7 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
 {
     int calls = 1;
     int checkpoints = 0;
+    std::size_t kills = 0;
     for (int killAt = 0; killAt < calls; ++killAt)
     {
         RemoveFolder();
@@ -294,7 +334,7 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
         int seen = 0;
         bool isRecordSynced = false;
         std::vector<bool> renames; ///< whether the record had been synced
-        WriteWithCheckpoints(
+        End const end = WriteWithCheckpoints(
             [&](CallStop const& stop)
             {
                 seen = stop.index + 1;
@@ -324,6 +364,7 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
                 }
                 return CallVerdict::GoOn();
             });
+        kills += end.faults;
         calls = std::max(calls, killAt == 0 ? seen : calls);
         if (killAt == 0)
         {
@@ -341,6 +382,7 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
         EXPECT_LE(record->durableBytes, static_cast<std::uint64_t>(synced)) << "at call " << killAt;
     }
     EXPECT_GT(calls, 25);
+    EXPECT_GE(kills * 10, static_cast<std::size_t>(calls) * 9);
     EXPECT_GE(checkpoints, 3);
 }
 

@@ -82,6 +82,7 @@ void ExpectRefusedByTheHelper(Evil const& evil, HelperStart const& start)
     Versions const versions;
     UpdateScene scene(ArchiveOf(evil));
     HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), start);
+    EXPECT_EQ(outcome.traced.faulted.size(), start.atEveryCall ? 1u : 0u);
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.Fault(), evil.fault);
     EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);

@@ -5,7 +5,7 @@
 
 #include <functional>
 #include <map>
-#include <memory>
+#include <unordered_map>
 
 namespace Pelnar::Publisher
 {
@@ -37,6 +37,9 @@ private:
     FeedItem const& m_item;
     QString const m_fileAddress;
 };
+
+/// As the version of a client: compares as older than every version of an item.
+Core::Version const OLDER_THAN_ALL;
 
 /// An item as the rules see it.
 struct Candidate
@@ -72,16 +75,16 @@ class Contest
 public:
     explicit Contest(SelectionSubject const& subject) : m_subject(subject) {}
 
-    void Offer(FeedItem const& item)
+    void Offer(Candidate& candidate)
     {
-        auto challenger = std::make_unique<Candidate>(item);
-        if (App::Session::Judge(challenger->record, m_subject) != Judgement::VALID)
+        if (App::Session::Judge(candidate.record, m_subject) != Judgement::VALID)
         {
             return;
         }
+        Candidate* challenger = &candidate;
         if (!m_best)
         {
-            m_best = std::move(challenger);
+            m_best = challenger;
             return;
         }
         std::optional<App::Session::Preference> const byType =
@@ -100,7 +103,7 @@ public:
 
 private:
     SelectionSubject const m_subject;
-    std::unique_ptr<Candidate> m_best;
+    Candidate* m_best = nullptr;
     std::vector<Duel> m_duels;
 };
 
@@ -125,13 +128,82 @@ std::vector<FeedItem const*> MetDeltas(FeedItem const& full)
 
 } // namespace
 
-FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client)
+class FeedChooser::Impl
+{
+public:
+    explicit Impl(std::vector<FeedItem> const& items);
+
+    FeedChoice Choose(Client const& client);
+    FeedItem const* Chosen(Client const& client);
+
+private:
+    using Candidates = std::vector<Candidate*>;
+
+    FeedChoice ChooseAmong(Candidates const& candidates, Client const& client);
+    Candidates Finalists(Core::Version const& systemVersion);
+    Candidate& CandidateOf(FeedItem const& item) { return m_candidates.try_emplace(&item, item).first->second; }
+
+    std::unordered_map<FeedItem const*, Candidate> m_candidates; ///< items and deltas that were looked at
+    Candidates m_all;
+    std::map<Core::Version, Candidates> m_finalists; ///< by system version
+};
+
+FeedChooser::Impl::Impl(std::vector<FeedItem> const& items)
+{
+    for (FeedItem const& item : items)
+    {
+        m_all.push_back(&CandidateOf(item));
+    }
+}
+
+FeedChoice FeedChooser::Impl::Choose(Client const& client)
+{
+    return ChooseAmong(m_all, client);
+}
+
+FeedItem const* FeedChooser::Impl::Chosen(Client const& client)
+{
+    auto const [finalists, isNew] = m_finalists.try_emplace(client.systemVersion);
+    if (isNew)
+    {
+        finalists->second = Finalists(client.systemVersion);
+    }
+    return ChooseAmong(finalists->second, client).chosen;
+}
+
+/// The items of the newest version that this system can take, in the order of the feed. No other item can win: the
+/// newer version is preferred before anything else is compared.
+FeedChooser::Impl::Candidates FeedChooser::Impl::Finalists(Core::Version const& systemVersion)
+{
+    Subject const subject({OLDER_THAN_ALL, systemVersion});
+    Candidates finalists;
+    for (Candidate* const candidate : m_all)
+    {
+        if (App::Session::Judge(candidate->record, subject.Get()) != Judgement::VALID)
+        {
+            continue;
+        }
+        if (!finalists.empty() &&
+            App::Session::IsOlderVersion(finalists.front()->record.Version(), candidate->record.Version()))
+        {
+            finalists.clear();
+        }
+        if (finalists.empty() ||
+            App::Session::IsSameVersion(finalists.front()->record.Version(), candidate->record.Version()))
+        {
+            finalists.push_back(candidate);
+        }
+    }
+    return finalists;
+}
+
+FeedChoice FeedChooser::Impl::ChooseAmong(Candidates const& candidates, Client const& client)
 {
     Subject const subject(client);
     Contest contest(subject.Get());
-    for (FeedItem const& item : items)
+    for (Candidate* const candidate : candidates)
     {
-        contest.Offer(item);
+        contest.Offer(*candidate);
     }
     FeedChoice choice;
     choice.full = contest.Best();
@@ -141,13 +213,31 @@ FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& clie
         {
             if (App::Session::StartsFromRunningVersion(delta->deltaFrom, subject.Get()))
             {
-                contest.Offer(*delta);
+                contest.Offer(CandidateOf(*delta));
             }
         }
     }
     choice.chosen = contest.Best();
     choice.duels = contest.Duels();
     return choice;
+}
+
+FeedChooser::FeedChooser(std::vector<FeedItem> const& items) : m_impl(std::make_unique<Impl>(items)) {}
+FeedChooser::~FeedChooser() = default;
+
+FeedChoice FeedChooser::Choose(Client const& client)
+{
+    return m_impl->Choose(client);
+}
+
+FeedItem const* FeedChooser::Chosen(Client const& client)
+{
+    return m_impl->Chosen(client);
+}
+
+FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client)
+{
+    return FeedChooser(items).Choose(client);
 }
 
 Judgement JudgeFeedItem(FeedItem const& item, Client const& client)

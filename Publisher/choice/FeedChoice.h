@@ -9,6 +9,7 @@
 
 #include <QVariantMap>
 
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -45,8 +46,29 @@ struct FeedChoice
     std::vector<Duel> duels;                  ///< in the order in which they were decided
 };
 
-/// The choice of \a client. Of several deltas with the same deltaFrom text the last counts, as for the session, which
-/// meets them by that text; those whose texts differ are met in the order of the feed.
+/// A feed that many clients choose from. What the rules read of an item is kept for the next client.
+class FeedChooser
+{
+public:
+    /// \a items must outlive it.
+    explicit FeedChooser(std::vector<Engine::FeedItem> const& items);
+    ~FeedChooser();
+    FeedChooser(FeedChooser const&) = delete;
+    FeedChooser& operator=(FeedChooser const&) = delete;
+
+    /// The choice of \a client. Of several deltas with the same deltaFrom text the last counts, as for the session,
+    /// which meets them by that text; those whose texts differ are met in the order of the feed.
+    FeedChoice Choose(Client const& client);
+
+    /// The item or delta that Choose answers for \a client. The whole feed is looked at once for each system version.
+    Engine::FeedItem const* Chosen(Client const& client);
+
+private:
+    class Impl;
+    std::unique_ptr<Impl> m_impl;
+};
+
+/// The choice of one client: see FeedChooser::Choose.
 FeedChoice ChooseFromFeed(std::vector<Engine::FeedItem> const& items, Client const& client);
 
 /// The first test that \a item, or a delta, fails for \a client.

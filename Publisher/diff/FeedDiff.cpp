@@ -155,6 +155,8 @@ std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldIte
                                      std::vector<NamedVersion> const& versions)
 {
     std::vector<SystemRange> const ranges = SystemRanges(oldItems, newItems);
+    FeedChooser oldFeed(oldItems);
+    FeedChooser newFeed(newItems);
     std::vector<OutcomeChange> changes;
     for (NamedVersion const& version : versions)
     {
@@ -162,8 +164,8 @@ std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldIte
         for (SystemRange const& range : ranges)
         {
             Client const client{version.version, range.first};
-            Outcome const before = OutcomeFor(oldItems, client);
-            Outcome const after = OutcomeFor(newItems, client);
+            Outcome const before = OutcomeFor(oldFeed, client);
+            Outcome const after = OutcomeFor(newFeed, client);
             if (IsSame(before, after))
             {
                 isContinued = false;

@@ -7,6 +7,7 @@
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <map>
 
 namespace Pelnar::Publisher
 {
@@ -106,6 +107,7 @@ QString OutcomeText(QJsonValue const& offered)
 Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedVersion> const& versions,
                   std::vector<NamedVersion> const& systems)
 {
+    FeedChooser feed(items);
     Matrix matrix;
     matrix.versions = versions;
     matrix.systems = systems;
@@ -114,7 +116,7 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
         std::vector<Outcome>& row = matrix.outcomes.emplace_back();
         for (NamedVersion const& system : systems)
         {
-            row.push_back(OutcomeFor(items, {version.version, system.version}));
+            row.push_back(OutcomeFor(feed, {version.version, system.version}));
         }
     }
     matrix.stranded = FindStranded(matrix, NewestVersion(items));
@@ -207,6 +209,11 @@ std::variant<std::vector<ExpectedCell>, Problem> ParseExpectation(QString const&
 
 QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& expected)
 {
+    std::map<std::pair<QString, QString>, QString> outcomes;
+    for (ExpectedCell const& cell : expected)
+    {
+        outcomes.emplace(std::pair(cell.localVersion.text, cell.systemVersion.text), cell.outcome);
+    }
     QStringList lines;
     for (std::size_t row = 0; row < matrix.versions.size(); ++row)
     {
@@ -215,18 +222,15 @@ QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& e
             QString const& version = matrix.versions[row].text;
             QString const& system = matrix.systems[column].text;
             QString const outcome = TextOf(matrix.outcomes[row][column]);
-            auto const cell =
-                std::find_if(expected.begin(), expected.end(),
-                             [&](ExpectedCell const& each)
-                             { return each.localVersion.text == version && each.systemVersion.text == system; });
-            if (cell == expected.end())
+            auto const cell = outcomes.find({version, system});
+            if (cell == outcomes.end())
             {
                 lines.append(
                     QStringLiteral("%1 on %2: %3, and nothing was expected of it").arg(version, system, outcome));
             }
-            else if (cell->outcome != outcome)
+            else if (cell->second != outcome)
             {
-                lines.append(QStringLiteral("%1 on %2: %3, expected %4").arg(version, system, outcome, cell->outcome));
+                lines.append(QStringLiteral("%1 on %2: %3, expected %4").arg(version, system, outcome, cell->second));
             }
         }
     }

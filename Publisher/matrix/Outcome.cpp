@@ -8,9 +8,9 @@
 namespace Pelnar::Publisher
 {
 
-Outcome OutcomeFor(std::vector<Engine::FeedItem> const& items, Client const& client)
+Outcome OutcomeFor(FeedChooser& feed, Client const& client)
 {
-    Engine::FeedItem const* const chosen = ChooseFromFeed(items, client).chosen;
+    Engine::FeedItem const* const chosen = feed.Chosen(client);
     if (!chosen)
     {
         return {};

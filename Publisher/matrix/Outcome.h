@@ -25,7 +25,7 @@ struct Outcome
     [[nodiscard]] bool IsUpdate() const { return !version.isEmpty(); }
 };
 
-Outcome OutcomeFor(std::vector<Engine::FeedItem> const& items, Client const& client);
+Outcome OutcomeFor(FeedChooser& feed, Client const& client);
 
 /// "5.2 DELTA from 5.1", or "none".
 QString TextOf(Outcome const& outcome);

@@ -151,6 +151,7 @@ TEST(SystemRanges, WithinARangeEverySystemHasTheSameOutcome)
                                                          (number(2) ? Maximum(bound()) : QByteArray()));
         }
         std::vector<Engine::FeedItem> const feed = ItemsOf(items);
+        Publisher::FeedChooser chooser(feed);
         std::vector<Publisher::SystemRange> const ranges = Publisher::SystemRanges(feed, {});
         for (int probe = 0; probe < 40; ++probe)
         {
@@ -163,8 +164,8 @@ TEST(SystemRanges, WithinARangeEverySystemHasTheSameOutcome)
                 holder = isBelow ? holder : &range;
             }
             ASSERT_NE(holder, nullptr);
-            EXPECT_EQ(Publisher::TextOf(Publisher::OutcomeFor(feed, {Core::Version(1), system})),
-                      Publisher::TextOf(Publisher::OutcomeFor(feed, {Core::Version(1), holder->first})))
+            EXPECT_EQ(Publisher::TextOf(Publisher::OutcomeFor(chooser, {Core::Version(1), system})),
+                      Publisher::TextOf(Publisher::OutcomeFor(chooser, {Core::Version(1), holder->first})))
                 << items.toStdString();
         }
     }

@@ -123,4 +123,31 @@ TEST(ExplainAgreement, TheToolChoosesWhatTheShippedUpdaterChooses)
     EXPECT_GT(deltas, FEEDS / 100);
 }
 
+TEST(ExplainAgreement, OneReadingOfAFeedServesManyClients)
+{
+    FeedGenerator generator(20261);
+    int updates = 0;
+    for (int i = 0; i < FEEDS / 4; ++i)
+    {
+        QByteArray const bytes = generator.Feed();
+        Engine::FeedParseResult const feed = Engine::ParseFeed(
+            bytes, QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")), Engine::FeedPlatform::MacOS);
+        Publisher::FeedChooser chooser(feed.items);
+        for (Core::Version const& system :
+             {Core::Version(12, 3), Core::Version(), Core::Version(10), Core::Version(13)})
+        {
+            for (Core::Version const& local :
+                 {Core::Version(5, 0), Core::Version(4), Core::Version(5, 1), Core::Version(6)})
+            {
+                Publisher::Client const client{local, system};
+                Engine::FeedItem const* const chosen = Publisher::ChooseFromFeed(feed.items, client).chosen;
+                ASSERT_EQ(Text(chooser.Chosen(client)), Text(chosen)) << bytes.toStdString();
+                ASSERT_EQ(Text(chooser.Choose(client).chosen), Text(chosen)) << bytes.toStdString();
+                updates += chosen ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(updates, FEEDS / 4);
+}
+
 } // namespace Pelnar::Testing

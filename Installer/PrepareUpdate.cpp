@@ -144,6 +144,21 @@ Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDesc
     return bundle;
 }
 
+/// Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could not
+/// write.
+void SyncStaged(int stagingFd)
+{
+    if (::syncfs(stagingFd) == 0)
+    {
+        return;
+    }
+    bool const isMissing = errno == ENOSYS || errno == EPERM;
+    if (!isMissing || !Engine::SyncTree(stagingFd))
+    {
+        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
+}
+
 } // namespace
 
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
@@ -163,12 +178,7 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, before, report);
     CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), bundle.name,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
-    // Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could
-    // not write.
-    if (::syncfs(descriptors.staging) != 0)
-    {
-        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
-    }
+    SyncStaged(descriptors.staging);
     report.Send(Engine::PreparedReport{bundle.digest, bundle.name});
 }
 

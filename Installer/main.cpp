@@ -1,11 +1,14 @@
-// The installer's helper. It takes one word, "prepare", "install" or "recover", and everything else from inherited
-// descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other argument.
+// The installer's helper. It takes one word, "prepare", "install", "recover" or "rehearse", and everything else from
+// inherited descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other
+// argument.
 
+#include "Engine/core/payload/CloseDescriptors.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Installer/InstallUpdate.h"
 #include "Installer/PrepareUpdate.h"
 #include "Installer/RecoverSwap.h"
+#include "Installer/Rehearse.h"
 #include "Installer/ReportChannel.h"
 #include "Installer/SwapLock.h"
 
@@ -17,7 +20,6 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 #if __has_feature(address_sanitizer)
@@ -67,7 +69,7 @@ void SettleDescriptors()
     {
         ::fcntl(descriptor, F_SETFD, FD_CLOEXEC);
     }
-    ::syscall(SYS_close_range, HelperDescriptors::COUNT, ~0u, 0);
+    Engine::CloseFrom(HelperDescriptors::COUNT);
 }
 
 void RequireFolder(int descriptor)
@@ -169,15 +171,26 @@ bool Recover(Installer::ReportChannel& report)
     return true;
 }
 
+bool Rehearse(Installer::ReportChannel& report)
+{
+    auto const job = ReadJobOfKind<Engine::RehearseJob>();
+    RequireFolder(HelperDescriptors::PARENT);
+    RequireStaging();
+    Installer::Rehearse(job, {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST});
+    report.Send(Engine::RehearsedReport{});
+    return true;
+}
+
 } // namespace
 
 int main(int count, char** arguments)
 {
     std::string_view const mode = count == 2 ? arguments[1] : "";
-    bool (*const run)(Installer::ReportChannel&) = mode == "prepare"   ? &Prepare
-                                                   : mode == "install" ? &Install
-                                                   : mode == "recover" ? &Recover
-                                                                       : nullptr;
+    bool (*const run)(Installer::ReportChannel&) = mode == "prepare"    ? &Prepare
+                                                   : mode == "install"  ? &Install
+                                                   : mode == "recover"  ? &Recover
+                                                   : mode == "rehearse" ? &Rehearse
+                                                                        : nullptr;
     if (!run)
     {
         return EXIT_USAGE;

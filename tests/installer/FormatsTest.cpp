@@ -53,6 +53,7 @@ TEST(UpdateJob, EachKindComesBackAndNoPieceOfItDoes)
     ExpectRoundTrip(SomePrepareJob());
     ExpectRoundTrip(SomeInstallJob());
     ExpectRoundTrip(RecoverJob{"A.app", "1.0"});
+    ExpectRoundTrip(RehearseJob{"A.app"});
     ExpectRoundTrip(RecoverJob{"A.app", "1.0", RecoverPurpose::Confirmation, 4711});
     auto const job = std::get<InstallJob>(*DecodeUpdateJob(EncodeUpdateJob(SomeInstallJob())));
     EXPECT_EQ(job.targetName, "A \"b\"\n\xff.app");
@@ -140,6 +141,10 @@ TEST(UpdateJob, ForeignBytesAreRefused)
             EXPECT_TRUE(!job || EncodeUpdateJob(*job) == changed) << place;
         }
     }
+    for (char const* const name : {"", ".", "..", "a/b"})
+    {
+        EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RehearseJob{name})).has_value()) << name;
+    }
     EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A/b", "1.0"})).has_value());
     EXPECT_FALSE(DecodeUpdateJob(EncodeUpdateJob(RecoverJob{"A.app", ""})).has_value());
     EXPECT_FALSE(
@@ -178,6 +183,7 @@ TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
              Row{RelaunchedReport{RelaunchedBundle::Answered}, "relaunched answered"},
              Row{RelaunchedReport{RelaunchedBundle::Target}, "relaunched target"},
              Row{RelaunchedReport{RelaunchedBundle::TargetInstead}, "relaunched target-instead"},
+             Row{RehearsedReport{}, "rehearsed"},
              Row{RefusedReport{UpdateFault::NoSpace, 28}, "refused NoSpace 28"},
          })
     {
@@ -224,6 +230,8 @@ TEST(HelperReport, OtherLinesAreNone)
              "failed-version " + std::string(512, '4'),
              "relaunched"s,
              "relaunched it"s,
+             "rehearsed "s,
+             "rehearsed all"s,
              "refused"s,
              "refused NoSpace"s,
              "refused Nonsense 1"s,

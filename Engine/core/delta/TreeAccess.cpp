@@ -16,6 +16,34 @@ namespace
 
 constexpr mode_t PLAIN_MODE = 0644;
 constexpr mode_t EXECUTABLE_MODE = 0755;
+constexpr int MAX_ATTEMPTS = 16; ///< while others move folders about
+
+/// Opens the path name by name, for a system that does not let one ask for all at once.
+UniqueFd OpenNameByName(int folderFd, std::string const& path, int flags, unsigned mode)
+{
+    UniqueFd folder(openat(folderFd, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
+    for (std::size_t begin = 0; folder;)
+    {
+        std::size_t const end = path.find('/', begin);
+        std::string const name = path.substr(begin, end == std::string::npos ? end : end - begin);
+        bool const isLast = end == std::string::npos;
+        bool const isPlain = !name.empty() && name != ".." && (name != "." || path == ".");
+        if (!isPlain)
+        {
+            errno = EXDEV; // as the kernel says of what leaves the folder
+            return {};
+        }
+        int const stepFlags = isLast ? flags : O_PATH | O_DIRECTORY;
+        UniqueFd next(openat(folder.Get(), name.c_str(), stepFlags | O_NOFOLLOW | O_CLOEXEC, mode));
+        if (isLast)
+        {
+            return next;
+        }
+        folder = std::move(next);
+        begin = end + 1;
+    }
+    return {};
+}
 
 } // namespace
 
@@ -95,12 +123,19 @@ UniqueFd TreeAccess::OpenBeneath(std::string const& path, int flags, unsigned mo
     how.flags = static_cast<std::uint64_t>(flags) | O_CLOEXEC;
     how.mode = mode;
     how.resolve = RESOLVE_BENEATH | RESOLVE_NO_SYMLINKS | RESOLVE_NO_MAGICLINKS;
-    long answer = 0;
-    do
+    for (int attempt = 0; attempt < MAX_ATTEMPTS; ++attempt)
     {
-        answer = syscall(SYS_openat2, m_folderFd, path.c_str(), &how, sizeof how);
-    } while (answer < 0 && (errno == EINTR || errno == EAGAIN));
-    return UniqueFd(static_cast<int>(answer));
+        UniqueFd file(static_cast<int>(syscall(SYS_openat2, m_folderFd, path.c_str(), &how, sizeof how)));
+        if (file || (errno != EINTR && errno != EAGAIN && errno != ENOSYS && errno != EPERM))
+        {
+            return file;
+        }
+        if (errno == ENOSYS || errno == EPERM) // an old kernel, or a filter of system calls that is older than the call
+        {
+            break;
+        }
+    }
+    return OpenNameByName(m_folderFd, path, flags, mode);
 }
 
 UniqueFd TreeAccess::OpenParent(std::string const& path, std::string& name) const

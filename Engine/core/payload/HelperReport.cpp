@@ -101,6 +101,11 @@ std::string Line(RelaunchedReport const& report)
     return "relaunched " + std::string(NameOf(BUNDLES, report.bundle));
 }
 
+std::string Line(RehearsedReport const&)
+{
+    return "rehearsed";
+}
+
 std::string Line(RefusedReport const& report)
 {
     return "refused " + std::string(FaultName(report.fault)) + ' ' + std::to_string(report.errorNumber);
@@ -203,6 +208,10 @@ std::optional<HelperReport> DecodeHelperReport(std::string_view line)
     if (line == "installed")
     {
         return InstalledReport{};
+    }
+    if (line == "rehearsed")
+    {
+        return RehearsedReport{};
     }
     if (RecoveredReport report{};
         words[0] == "recovered" && words.size() == 2 && ValueOf(ACTIONS, words[1], report.action))

@@ -68,6 +68,10 @@ struct RelaunchedReport
 {
     RelaunchedBundle bundle;
 };
+/// Nothing stands in the way of an installation.
+struct RehearsedReport
+{
+};
 struct RefusedReport
 {
     UpdateFault fault;
@@ -75,7 +79,7 @@ struct RefusedReport
 };
 
 using HelperReport = std::variant<ProgressReport, PreparedReport, InstalledReport, RecoveredReport, FailedVersionReport,
-                                  RelaunchedReport, RefusedReport>;
+                                  RelaunchedReport, RehearsedReport, RefusedReport>;
 
 constexpr std::size_t HELPER_REPORT_MAX_BYTES = 1024;     ///< of a line, its end included
 constexpr std::size_t HELPER_REPORT_MAX_TEXT_BYTES = 255; ///< of a name or a version in one

@@ -214,6 +214,31 @@ ContentHash DigestTree(int folderFd)
     return manifest.Digest();
 }
 
+bool SyncTree(int folderFd)
+{
+    bool isSynced = true;
+    int failure = 0;
+    auto const sync = [&](std::string const&, int parentFd, std::string const& name, struct stat const& status)
+    {
+        if (S_ISLNK(status.st_mode))
+        {
+            return; // it is its folder's
+        }
+        UniqueFd const entry(::openat(parentFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+        if (isSynced && (!entry || ::fsync(entry.Get()) != 0))
+        {
+            isSynced = false;
+            failure = errno;
+        }
+    };
+    if (!WalkTree(folderFd, sync) || !isSynced)
+    {
+        errno = isSynced ? errno : failure;
+        return false;
+    }
+    return ::fsync(folderFd) == 0;
+}
+
 bool RemoveTree(int parentFd, std::string const& name)
 {
     struct stat status;

@@ -47,6 +47,10 @@ private:
 /// another file system stays. True when nothing of that name is left.
 [[nodiscard]] bool RemoveTree(int parentFd, std::string const& name);
 
+/// Writes all files and folders below \a folderFd, and the folder itself, to the disk. False, with errno, when one of
+/// them may not be there.
+[[nodiscard]] bool SyncTree(int folderFd);
+
 /// Calls \a visit for each entry below \a folderFd, folders before what they hold: the path from there, the folder that
 /// holds the entry, the entry's name and status. Constant number of open files, any depth. False, with errno, when a
 /// folder cannot be read.

@@ -19,6 +19,7 @@ enum class JobKind : std::uint64_t
     Prepare = 1,
     Install = 2,
     Recover = 3,
+    Rehearse = 4,
 };
 
 void Write(FieldWriter& writer, PrepareJob const& job)
@@ -59,6 +60,12 @@ void Write(FieldWriter& writer, RecoverJob const& job)
     writer.Text(job.runningVersion);
     writer.Number(static_cast<std::uint64_t>(job.purpose));
     writer.Number(job.hostProcess);
+}
+
+void Write(FieldWriter& writer, RehearseJob const& job)
+{
+    writer.Number(static_cast<std::uint64_t>(JobKind::Rehearse));
+    writer.Text(job.targetName);
 }
 
 bool IsName(std::string const& text)
@@ -144,6 +151,16 @@ RecoverJob ReadRecover(FieldReader& reader)
     return job;
 }
 
+RehearseJob ReadRehearse(FieldReader& reader)
+{
+    RehearseJob job{reader.Text()};
+    if (!IsName(job.targetName))
+    {
+        reader.Refuse();
+    }
+    return job;
+}
+
 } // namespace
 
 std::string EncodeUpdateJob(UpdateJob const& job)
@@ -171,6 +188,9 @@ std::optional<UpdateJob> DecodeUpdateJob(std::string_view bytes)
         break;
     case JobKind::Recover:
         job = ReadRecover(reader);
+        break;
+    case JobKind::Rehearse:
+        job = ReadRehearse(reader);
         break;
     }
     return job && reader.IsWhole() ? job : std::nullopt;

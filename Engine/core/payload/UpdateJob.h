@@ -20,11 +20,11 @@ struct HelperDescriptors
 {
     static constexpr int JOB = 3;
     static constexpr int REPORT = 4;
-    static constexpr int STAGING = 5; ///< prepare, install
+    static constexpr int STAGING = 5; ///< prepare, install, rehearse
     static constexpr int ARCHIVE = 6; ///< prepare
     static constexpr int TARGET = 7;  ///< prepare, a delta or an installer program: the installed bundle's folder
-    static constexpr int PARENT = 6;  ///< install, recover: the folder that holds the installed bundle
-    static constexpr int HOST = 7;    ///< install: a pidfd of the host
+    static constexpr int PARENT = 6;  ///< install, recover, rehearse: the folder that holds the installed bundle
+    static constexpr int HOST = 7;    ///< install, rehearse: a pidfd of the host
     static constexpr int COUNT = 8;
 };
 
@@ -82,7 +82,13 @@ struct RecoverJob
     std::uint64_t hostProcess = 0; ///< the number of the process that asks; 0: not told
 };
 
-using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob>;
+/// Do beside the bundle what an update will do, with folders that are made for it, and report what stands in the way.
+struct RehearseJob
+{
+    std::string targetName;
+};
+
+using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob, RehearseJob>;
 
 constexpr std::size_t UPDATE_JOB_MAX_BYTES = std::size_t{4} << 20;
 

@@ -1,6 +1,7 @@
 #include "Engine/core/update/HelperLaunch_p.h"
 
 #include "Engine/core/SignalBlock.h"
+#include "Engine/core/payload/CloseDescriptors.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Engine/core/update/SealedMemory_p.h"
@@ -8,10 +9,10 @@
 #include <array>
 #include <cerrno>
 #include <cstdlib>
+#include <string>
 #include <vector>
 
 #include <fcntl.h>
-#include <linux/close_range.h>
 #include <signal.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -54,6 +55,7 @@ UniqueFd CopyHigh(int descriptor)
 struct Launch
 {
     int program = -1;
+    std::string programPath; ///< the same, for a system that starts nothing by its descriptor
     char const* mode = nullptr;
     std::array<int, HelperDescriptors::COUNT> sources{}; ///< by number; -1: to be closed
 };
@@ -83,13 +85,17 @@ int Become(Launch const& launch)
         }
     }
     // Only marked: the program itself is among them.
-    ::syscall(SYS_close_range, HelperDescriptors::COUNT, ~0u, CLOSE_RANGE_CLOEXEC);
+    CloseOnExecFrom(HelperDescriptors::COUNT);
     sigset_t none;
     ::sigemptyset(&none);
     ::sigprocmask(SIG_SETMASK, &none, nullptr);
     char const* const arguments[] = {HELPER_NAME, launch.mode, nullptr};
     char const* const environment[] = {nullptr};
     ::syscall(SYS_execveat, launch.program, "", arguments, environment, AT_EMPTY_PATH);
+    if (errno == ENOSYS || errno == EPERM)
+    {
+        ::execve(launch.programPath.data(), const_cast<char**>(arguments), const_cast<char**>(environment));
+    }
     return errno;
 }
 
@@ -118,6 +124,13 @@ pid_t Fork(Launch const& launch)
 }
 
 } // namespace
+
+void ThrowNoProcess(int errorNumber)
+{
+    bool const isMissing = errorNumber == ENOSYS || errorNumber == EPERM;
+    throw UpdateRefusal(isMissing ? UpdateFault::ProcessHandlesUnavailable : UpdateFault::DescriptorUnusable,
+                        errorNumber);
+}
 
 LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::string const& job,
                             std::map<int, int> const& inherited)
@@ -150,6 +163,7 @@ LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::strin
     }
     UniqueFd const programCopy = CopyHigh(program.Descriptor());
     launch.program = programCopy.Get();
+    launch.programPath = "/proc/self/fd/" + std::to_string(launch.program);
     helper.pid = Fork(launch);
     helper.process = UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, helper.pid, 0)));
     if (!helper.process)
@@ -157,7 +171,7 @@ LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::strin
         int const error = errno;
         ::kill(helper.pid, SIGKILL);
         ::waitpid(helper.pid, nullptr, 0);
-        throw UpdateRefusal(UpdateFault::HelperUnusable, error);
+        ThrowNoProcess(error);
     }
     return helper;
 }

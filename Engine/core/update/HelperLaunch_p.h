@@ -17,6 +17,9 @@ namespace Pelnar::Engine
 /// What the report's pipe holds at most.
 constexpr std::size_t HELPER_PIPE_BYTES = std::size_t{64} << 10;
 
+/// Throws what a failed pidfd_open means.
+[[noreturn]] void ThrowNoProcess(int errorNumber);
+
 struct LaunchedHelper
 {
     pid_t pid = -1;

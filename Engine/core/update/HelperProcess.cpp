@@ -48,9 +48,16 @@ std::map<int, int> NumbersOf(RecoverJob const&, HelperInheritance const& inherit
     return {{HelperDescriptors::PARENT, inherited.archiveOrParent}};
 }
 
+std::map<int, int> NumbersOf(RehearseJob const&, HelperInheritance const& inherited)
+{
+    return {{HelperDescriptors::STAGING, inherited.staging},
+            {HelperDescriptors::PARENT, inherited.archiveOrParent},
+            {HelperDescriptors::HOST, inherited.targetOrHost}};
+}
+
 char const* ModeOf(UpdateJob const& job)
 {
-    constexpr char const* MODES[] = {"prepare", "install", "recover"};
+    constexpr char const* MODES[] = {"prepare", "install", "recover", "rehearse"};
     static_assert(std::size(MODES) == std::variant_size_v<UpdateJob>);
     return MODES[job.index()];
 }
@@ -254,7 +261,7 @@ UniqueFd OpenProcess(int pid)
     UniqueFd process(static_cast<int>(::syscall(SYS_pidfd_open, pid == 0 ? ::getpid() : pid, 0)));
     if (!process)
     {
-        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+        ThrowNoProcess(errno);
     }
     return process;
 }

@@ -147,29 +147,6 @@ std::optional<EngineError> Intruders(InstallTarget const& target, std::string co
     return std::nullopt;
 }
 
-/// What making and locking a folder beside the bundle meets: no call of the installation is to fail first when a person
-/// has waited for a download.
-std::optional<EngineError> TryStaging(InstallTarget const& target, std::string const& path)
-{
-    try
-    {
-        StagingFolder const folder = StagingFolder::Create(target.parent.Get(), target.name);
-        static_cast<void>(::unlinkat(target.parent.Get(), folder.Name().c_str(), AT_REMOVEDIR));
-        return std::nullopt;
-    }
-    catch (UpdateRefusal const& refusal)
-    {
-        if (refusal.Fault() != UpdateFault::LocksUnavailable)
-        {
-            return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
-        }
-        EngineError error = ErrorWith(ErrorCause::BundleCannotBeLocked, path,
-                                      {QString::fromStdString(RealPathOf(target.parent.Get()))});
-        error.detail += QStringLiteral(" (errno %1)").arg(refusal.ErrorNumber());
-        return error;
-    }
-}
-
 std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neededBytes)
 {
     struct statvfs status;
@@ -188,6 +165,23 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
 }
 
 } // namespace
+
+EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int errorNumber)
+{
+    EngineError error = MakeFaultError(fault, errorNumber);
+    QString const detail = error.detail;
+    if (fault == UpdateFault::LocksUnavailable)
+    {
+        error =
+            ErrorWith(ErrorCause::BundleCannotBeLocked, {}, {QString::fromStdString(RealPathOf(target.parent.Get()))});
+    }
+    else if (fault == UpdateFault::OtherFileSystem)
+    {
+        error = ErrorWith(ErrorCause::BundleCannotBeMoved, {}, {target.path});
+    }
+    error.detail = detail;
+    return error;
+}
 
 OpenedTarget OpenInstalledBundle(QString const& bundlePath)
 {
@@ -247,10 +241,6 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
         {
             return *error;
         }
-    }
-    if (auto const error = TryStaging(*target, path))
-    {
-        return *error;
     }
     return opened;
 }

@@ -33,4 +33,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath);
 /// Reads the package manager's lists, which takes its time.
 OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources);
 
+/// What a fault before the download is to a person who wants to know where the application is installed.
+EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int errorNumber);
+
 } // namespace Pelnar::Engine

@@ -12,6 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
+constexpr unsigned NOT_EXECUTABLE_MEMORY = 0x8; // MFD_NOEXEC_SEAL, which the oldest supported headers do not name
 constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
 [[noreturn]] void Fail()
@@ -27,6 +28,15 @@ UniqueFd MakeMemoryFile(char const* name, unsigned flags)
     if (!file && errno == EINVAL)
     {
         file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING)); // a kernel before the flag
+    }
+    if (!file && errno == EACCES && (flags & EXECUTABLE_MEMORY) == 0)
+    {
+        file =
+            UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | NOT_EXECUTABLE_MEMORY)); // it must be said
+    }
+    if (!file && (errno == ENOSYS || errno == EPERM))
+    {
+        throw UpdateRefusal(UpdateFault::SealedMemoryUnavailable, errno);
     }
     if (!file)
     {

@@ -17,7 +17,6 @@ namespace
 {
 
 constexpr std::size_t COPY_BYTES = 64 * 1024;
-constexpr unsigned EXECUTABLE_MEMORY = 0x10; // MFD_EXEC, which the oldest supported headers do not name
 
 /// Calls \a sink with the file's bytes from its beginning, in order.
 template <typename Sink>
@@ -52,7 +51,7 @@ ContentHash HashOfFile(int fd)
 
 UniqueFd SealedCopyOf(std::string const& path)
 {
-    UniqueFd const source(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    UniqueFd source(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
     if (!source || ::fstat(source.Get(), &status) != 0)
     {
@@ -63,7 +62,20 @@ UniqueFd SealedCopyOf(std::string const& path)
     {
         throw UpdateRefusal(UpdateFault::HelperUnusable);
     }
-    UniqueFd copy = MakeMemoryFile(HELPER_NAME, EXECUTABLE_MEMORY);
+    UniqueFd copy;
+    try
+    {
+        copy = MakeMemoryFile(HELPER_NAME, EXECUTABLE_MEMORY);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        if (refusal.ErrorNumber() != EACCES)
+        {
+            throw;
+        }
+        // Some systems run no program from memory. The open file will do: only its owner may change it.
+        return source;
+    }
     ReadWhole(source.Get(), [&copy](Bytes bytes) { AppendToMemory(copy, bytes); });
     SealMemory(copy);
     // A file that somebody writes while it is read can give a copy that was never in it.

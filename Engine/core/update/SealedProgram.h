@@ -21,7 +21,8 @@ public:
     /// Touches nothing yet. \a path is absolute.
     explicit SealedProgram(std::string path) : m_path(std::move(path)) {}
 
-    /// The copy, which is made now unless there is one. Throws UpdateRefusal: HelperUnusable when the file is no
+    /// The copy, which is made now unless there is one; where the system runs no program from memory, the file itself,
+    /// opened once. Throws UpdateRefusal: HelperUnusable when the file is no
     /// regular one, when anybody but the administrator and this user could change it, or when it did change while it
     /// was copied; then the next call tries again.
     int Descriptor();

@@ -1,6 +1,6 @@
 #include "Engine/core/update/UpdateParts.h"
 
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/update/InstallRehearsal.h"
 
 #include <utility>
 
@@ -44,19 +44,15 @@ private:
 OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources,
                             SealedProgram& helper)
 {
-    OpenedTarget target = OpenInstallTarget(bundlePath, neededBytes, sources);
-    try
+    OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
+    if (auto const* const target = std::get_if<InstallTarget>(&opened))
     {
-        if (std::holds_alternative<InstallTarget>(target))
+        if (auto error = RehearseInstallation(*target, helper))
         {
-            static_cast<void>(helper.Descriptor()); // which throws unless it can be used
+            return *std::move(error);
         }
-        return target;
     }
-    catch (UpdateRefusal const& refusal)
-    {
-        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
-    }
+    return opened;
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cerrno>
 #include <filesystem>
 
 #include <fcntl.h>
@@ -15,7 +14,6 @@
 #include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -435,61 +433,6 @@ TEST(InstallTarget, AccessListSpeaksForMoreThanTheGroup)
         GTEST_SKIP() << "this file system has no access lists";
     }
     scene.ExpectError(ErrorCause::BundleOpenToGroup);
-}
-
-/// Where locks are refused the answer comes at once, says where the application stands, and leaves nothing behind.
-TEST(InstallTarget, LocksThatCannotBeHadAreTold)
-{
-    for (int const errorNumber : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF, EPERM})
-    {
-        TargetScene const scene;
-        std::string const told = InChild(
-            [&]
-            {
-                FailCall(SYS_flock, errorNumber);
-                auto const answer = scene.Open(scene.Bundle());
-                auto const* const error = std::get_if<EngineError>(&answer);
-                return error ? std::to_string(error->UnderlyingCode()) + ' ' + error->sentence.English().toStdString()
-                             : std::string("opened");
-            },
-            30);
-        EXPECT_EQ(told, "963 The application is installed in " + scene.Parent() +
-                            ", where files cannot be locked: move it to a folder on a local disk and start it there.")
-            << errorNumber;
-        EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
-    }
-}
-
-/// As a neighbour that takes every new folder for an abandoned one.
-TEST(InstallTarget, FoldersThatAlwaysGoAreNotMadeForEver)
-{
-    TargetScene const scene;
-    std::string const told = InChild(
-        [&]
-        {
-            FailCall(SYS_flock, EWOULDBLOCK);
-            auto const answer = scene.Open(scene.Bundle());
-            auto const* const error = std::get_if<EngineError>(&answer);
-            return error ? std::to_string(error->UnderlyingCode()) : std::string("opened");
-        },
-        30);
-    EXPECT_EQ(told, "963");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
-}
-
-TEST(InstallTarget, FileSystemWithoutPermissionsIsTold)
-{
-    TargetScene const scene;
-    std::string const told = InChild(
-        [&]
-        {
-            ::umask(0777); // a new folder has no rights then, as if the file system kept none
-            auto const answer = scene.Open(scene.Bundle());
-            auto const* const error = std::get_if<EngineError>(&answer);
-            return error ? std::string(FaultName(error->fault)) : std::string("opened");
-        });
-    EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(scene.Parent()), {}), 1);
 }
 
 } // namespace

@@ -2,12 +2,16 @@
 // bundle stands.
 
 #include "tests/installer/FaultChecks.h"
+#include "tests/installer/OtherUser.h"
 #include "tests/support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <set>
+
+#include <sys/syscall.h>
 
 namespace
 {
@@ -101,5 +105,40 @@ TEST(OddPlaces, MayBeDeeperThanOnePathCanName)
     UpdateScene scene(MakeArchive(Container::Zip, MakeBundle("2.0")), parent);
     ExpectUpdated(scene, {});
 }
+
+struct MissingCall
+{
+    char const* name;
+    long call;
+    int errorNumber;
+};
+
+class WithoutCall : public testing::TestWithParam<MissingCall>
+{
+};
+
+/// The whole update on a system that does not have the call, or does not let it be made.
+TEST_P(WithoutCall, UpdatesAreInstalledAllTheSame)
+{
+    std::string const answer = InChild(
+        []
+        {
+            UpdateScene scene;
+            FailCall(GetParam().call, GetParam().errorNumber);
+            ExpectUpdated(scene);
+            return std::string(testing::Test::HasFailure() ? "failed" : "updated");
+        });
+    EXPECT_EQ(answer, "updated");
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, WithoutCall,
+                         testing::Values(MissingCall{"OpenBeneathMissing", SYS_openat2, ENOSYS},
+                                         MissingCall{"OpenBeneathFiltered", SYS_openat2, EPERM},
+                                         MissingCall{"SyncOfAllMissing", SYS_syncfs, ENOSYS},
+                                         MissingCall{"SyncOfAllFiltered", SYS_syncfs, EPERM},
+                                         MissingCall{"CloseRangeMissing", SYS_close_range, ENOSYS},
+                                         MissingCall{"ConfinementMissing", SYS_landlock_create_ruleset, ENOSYS},
+                                         MissingCall{"ExchangeMissing", SYS_renameat2, ENOSYS}),
+                         [](testing::TestParamInfo<MissingCall> const& info) { return info.param.name; });
 
 } // namespace

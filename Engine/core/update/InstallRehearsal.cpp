@@ -1,0 +1,102 @@
+#include "Engine/core/update/InstallRehearsal.h"
+
+#include "Engine/core/UpdateError.h"
+#include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/update/HelperLaunch_p.h"
+#include "Engine/core/update/HelperProcess.h"
+#include "Engine/core/update/PreparedUpdate.h"
+
+#include <cerrno>
+#include <chrono>
+#include <string>
+
+#include <poll.h>
+#include <signal.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+constexpr std::chrono::seconds LONGEST_REHEARSAL{60};
+
+/// What the helper wrote until it ended, or until its time was over.
+std::string ReadReports(UniqueFd const& reports)
+{
+    std::string text;
+    Clock::time_point const end = Clock::now() + LONGEST_REHEARSAL;
+    while (text.size() < HELPER_PIPE_BYTES && Clock::now() < end)
+    {
+        pollfd waiting{reports.Get(), POLLIN, 0};
+        auto const left = std::chrono::duration_cast<std::chrono::milliseconds>(end - Clock::now());
+        if (::poll(&waiting, 1, static_cast<int>(left.count()) + 1) < 0 && errno != EINTR)
+        {
+            break;
+        }
+        char buffer[HELPER_REPORT_MAX_BYTES];
+        ssize_t const count = ::read(reports.Get(), buffer, sizeof buffer);
+        if (count == 0 || (count < 0 && errno != EAGAIN && errno != EINTR))
+        {
+            break;
+        }
+        text.append(buffer, count < 0 ? 0 : static_cast<std::size_t>(count));
+    }
+    return text;
+}
+
+/// Ends the helper if it has not ended by itself. Its report says more than its status, which a host that reaps every
+/// child takes away.
+void End(LaunchedHelper const& helper)
+{
+    ::syscall(SYS_pidfd_send_signal, helper.process.Get(), SIGKILL, nullptr, 0);
+    while (::waitpid(helper.pid, nullptr, 0) < 0 && errno == EINTR)
+    {
+    }
+}
+
+std::optional<EngineError> Judge(InstallTarget const& target, std::string const& reports)
+{
+    for (std::size_t begin = 0, end = 0; (end = reports.find('\n', begin)) != std::string::npos; begin = end + 1)
+    {
+        auto const report = DecodeHelperReport(std::string_view(reports).substr(begin, end - begin));
+        if (report && std::holds_alternative<RehearsedReport>(*report))
+        {
+            return std::nullopt;
+        }
+        if (auto const* const refused = report ? std::get_if<RefusedReport>(&*report) : nullptr)
+        {
+            return MakeTargetError(target, refused->fault, refused->errorNumber);
+        }
+    }
+    return MakeError(ErrorCause::HelperFailed);
+}
+
+} // namespace
+
+std::optional<EngineError> RehearseInstallation(InstallTarget const& target, SealedProgram& helper)
+{
+    try
+    {
+        auto const folder = PreparedUpdate::Begin(target);
+        UniqueFd const host = OpenProcess();
+        LaunchedHelper const launched = LaunchHelper(helper, "rehearse", EncodeUpdateJob(RehearseJob{target.name}),
+                                                     {{HelperDescriptors::STAGING, folder->Descriptor()},
+                                                      {HelperDescriptors::PARENT, target.parent.Get()},
+                                                      {HelperDescriptors::HOST, host.Get()}});
+        std::string const reports = ReadReports(launched.reports);
+        End(launched);
+        return Judge(target, reports);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return MakeTargetError(target, refusal.Fault(), refusal.ErrorNumber());
+    }
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,111 @@
+#include "Installer/Rehearse.h"
+
+#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/TreeManifest.h"
+#include "Installer/Confinement.h"
+#include "Installer/SwapBundle.h"
+#include "Installer/SwapLock.h"
+
+#include <cerrno>
+
+#include <linux/magic.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/vfs.h>
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <unistd.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::StagingFolder;
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr long PATIENCE_SECONDS = 5; ///< who holds the lock longer installs an update
+constexpr char NEW_NAME[] = "new";
+constexpr char FULL_NAME[] = "full";
+constexpr mode_t PRIVATE_MODE = 0700;
+
+/// A folder in the parent that goes again.
+class Standin
+{
+public:
+    Standin(int parentFd, std::string const& targetName)
+        : m_parentFd(parentFd), m_folder(StagingFolder::Create(parentFd, targetName))
+    {
+    }
+    ~Standin() { static_cast<void>(Engine::RemoveTree(m_parentFd, m_folder.Name())); }
+    Standin(Standin const&) = delete;
+    Standin& operator=(Standin const&) = delete;
+
+    std::string const& Name() const { return m_folder.Name(); }
+
+private:
+    int m_parentFd;
+    StagingFolder m_folder;
+};
+
+void MakeFolder(int parentFd, char const* name)
+{
+    if (::mkdirat(parentFd, name, PRIVATE_MODE) != 0)
+    {
+        Engine::ThrowErrno(errno);
+    }
+}
+
+/// The exchange of two folders, one of them beside the bundle, with all that makes it last.
+void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& targetName)
+{
+    Standin const standin(descriptors.parent, targetName);
+    MakeFolder(descriptors.staging, NEW_NAME);
+    Engine::WriteNote(descriptors.staging, "note", "rehearsed");
+    SwapBundle(descriptors.parent, standin.Name(), descriptors.staging, {{}, NEW_NAME, {}, {}});
+}
+
+/// An overlay moves none of the folders that it has from a layer below, and says so before it looks at where they are
+/// to go: to a place that is taken, so that nothing moves.
+void RehearseMove(RehearseDescriptors const& descriptors, std::string const& targetName)
+{
+    struct statfs status;
+    if (::fstatfs(descriptors.parent, &status) != 0 || status.f_type != OVERLAYFS_SUPER_MAGIC)
+    {
+        return;
+    }
+    MakeFolder(descriptors.staging, FULL_NAME);
+    MakeFolder(descriptors.staging, (std::string(FULL_NAME) + "/file").c_str());
+    if (::renameat(descriptors.parent, targetName.c_str(), descriptors.staging, FULL_NAME) != 0 && errno == EXDEV)
+    {
+        throw UpdateRefusal(UpdateFault::OtherFileSystem, EXDEV);
+    }
+}
+
+void RequireProcessHandle(int hostFd)
+{
+    if (::syscall(SYS_pidfd_send_signal, hostFd, 0, nullptr, 0) != 0)
+    {
+        bool const isMissing = errno == ENOSYS || errno == EPERM;
+        throw UpdateRefusal(isMissing ? UpdateFault::ProcessHandlesUnavailable : UpdateFault::DescriptorUnusable,
+                            errno);
+    }
+}
+
+} // namespace
+
+void Rehearse(Engine::RehearseJob const& job, RehearseDescriptors const& descriptors)
+{
+    RequireProcessHandle(descriptors.host);
+    {
+        SwapLock const lock(descriptors.parent, job.targetName, PATIENCE_SECONDS);
+        RehearseMove(descriptors, job.targetName);
+        RehearseSwap(descriptors, job.targetName);
+    }
+    ConfineTo(descriptors.staging, {});
+}
+
+} // namespace Pelnar::Installer

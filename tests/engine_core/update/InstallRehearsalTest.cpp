@@ -1,0 +1,310 @@
+// InstallRehearsalTest.cpp: what this system refuses is found out before a download, by the helper's own calls. System
+// calls are made to fail by a filter, in processes of their own.
+
+#include "Engine/core/update/InstallRehearsal.h"
+#include "Engine/core/payload/CloseDescriptors.h"
+#include "Engine/core/payload/StagingFolder.h"
+#include "tests/installer/FaultChecks.h"
+#include "tests/installer/OtherUser.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <sys/file.h>
+#include <sys/mount.h>
+#include <sys/stat.h>
+#include <sys/syscall.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+/// The whole way to the download: what is told, with its number; "ready" when nothing is.
+std::string Told(std::string const& bundlePath, std::string const& helper = PELNAR_INSTALLER_PROGRAM)
+{
+    PackageSources sources;
+    sources.dpkgInfoFolder = QStringLiteral("/nonexistent");
+    auto const opened = OpenInstallTarget(QString::fromStdString(bundlePath), 1, sources);
+    auto const* const target = std::get_if<InstallTarget>(&opened);
+    if (!target)
+    {
+        return "refused: " + std::get<EngineError>(opened).sentence.English().toStdString();
+    }
+    SealedProgram program(helper);
+    auto const error = RehearseInstallation(*target, program);
+    if (!error)
+    {
+        return "ready";
+    }
+    return error->cause == ErrorCause::Fault
+               ? std::string(FaultName(error->fault))
+               : std::to_string(error->UnderlyingCode()) + ' ' + error->sentence.English().toStdString();
+}
+
+/// An installed bundle alone in its folder, which it is after every rehearsal.
+class RehearsalScene
+{
+public:
+    RehearsalScene() { m_place.Put(MakeBundle("1.0")); }
+    ~RehearsalScene() { EXPECT_EQ(m_place.Names(), std::vector<std::string>{APP}); }
+
+    std::string const& Folder() const { return m_place.Path(); }
+    std::string Bundle() const { return Folder() + '/' + APP; }
+    Workspace const& Place() const { return m_place; }
+
+    std::string ToldWithout(long call, int errorNumber) const
+    {
+        return InChild(
+            [&]
+            {
+                FailCall(call, errorNumber);
+                return Told(Bundle());
+            });
+    }
+
+private:
+    Workspace m_place;
+};
+
+TEST(InstallRehearsal, NothingIsInTheWayAndNothingStays)
+{
+    RehearsalScene const scene;
+    Versions const versions;
+    for (int round = 0; round < 3; ++round)
+    {
+        EXPECT_EQ(Told(scene.Bundle()), "ready");
+    }
+    EXPECT_EQ(ExpectWhole(scene.Place(), versions), "1.0");
+}
+
+struct CallRow
+{
+    char const* name;
+    long call;
+    int errorNumber;
+    char const* told;
+};
+
+class RefusedCall : public testing::TestWithParam<CallRow>
+{
+};
+
+TEST_P(RefusedCall, IsToldOrDoneWithout)
+{
+    RehearsalScene const scene;
+    EXPECT_EQ(scene.ToldWithout(GetParam().call, GetParam().errorNumber), GetParam().told);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, RefusedCall,
+    testing::Values(CallRow{"OpenBeneathMissing", SYS_openat2, ENOSYS, "ready"},
+                    CallRow{"OpenBeneathFiltered", SYS_openat2, EPERM, "ready"},
+                    CallRow{"StartByDescriptorMissing", SYS_execveat, ENOSYS, "ready"},
+                    CallRow{"StartByDescriptorFiltered", SYS_execveat, EPERM, "ready"},
+                    CallRow{"CloseRangeMissing", SYS_close_range, ENOSYS, "ready"},
+                    CallRow{"CloseRangeFiltered", SYS_close_range, EPERM, "ready"},
+                    CallRow{"ExchangeMissing", SYS_renameat2, ENOSYS, "ready"},
+                    CallRow{"ExchangeUnknown", SYS_renameat2, EINVAL, "ready"},
+                    CallRow{"ExchangeFiltered", SYS_renameat2, EPERM, "NotPermitted"},
+                    CallRow{"ExchangeFails", SYS_renameat2, EIO, "SwapFailed"},
+                    CallRow{"RenameFiltered", SYS_renameat, EPERM, "NotPermitted"},
+                    CallRow{"SyncRefused", SYS_fsync, EINVAL, "SyncFailed"},
+                    CallRow{"SyncFails", SYS_fsync, EIO, "SyncFailed"},
+                    CallRow{"ProcessHandleMissing", SYS_pidfd_open, ENOSYS, "ProcessHandlesUnavailable"},
+                    CallRow{"ProcessHandleFiltered", SYS_pidfd_open, EPERM, "ProcessHandlesUnavailable"},
+                    CallRow{"SignalByHandleMissing", SYS_pidfd_send_signal, ENOSYS, "ProcessHandlesUnavailable"},
+                    CallRow{"SignalByHandleFiltered", SYS_pidfd_send_signal, EPERM, "ProcessHandlesUnavailable"},
+                    CallRow{"MemoryFileMissing", SYS_memfd_create, ENOSYS, "SealedMemoryUnavailable"},
+                    CallRow{"MemoryFileFiltered", SYS_memfd_create, EPERM, "SealedMemoryUnavailable"},
+                    CallRow{"ConfinementMissing", SYS_landlock_create_ruleset, ENOSYS, "ready"},
+                    CallRow{"ConfinementRefused", SYS_landlock_restrict_self, EPERM, "ConfinementFailed"},
+                    CallRow{"ConfinementsRuleRefused", SYS_landlock_add_rule, ENOSYS, "ConfinementFailed"}),
+    [](testing::TestParamInfo<CallRow> const& info) { return info.param.name; });
+
+TEST(InstallRehearsal, BundleOnAnotherFileSystemThanItsFolderIsToldWithItsPath)
+{
+    RehearsalScene const scene;
+    EXPECT_EQ(scene.ToldWithout(SYS_renameat2, EXDEV), "964 The application in " + scene.Bundle() +
+                                                           " belongs to a layer of the file system that cannot be "
+                                                           "replaced: copy it to another folder and start it there.");
+}
+
+/// Where locks are refused the answer comes at once, says where the application stands, and leaves nothing behind.
+TEST(InstallRehearsal, LocksThatCannotBeHadAreTold)
+{
+    for (int const errorNumber : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF, EPERM})
+    {
+        RehearsalScene const scene;
+        EXPECT_EQ(scene.ToldWithout(SYS_flock, errorNumber),
+                  "963 The application is installed in " + scene.Folder() +
+                      ", where files cannot be locked: move it to a folder on a local disk and start it there.");
+    }
+}
+
+/// As a neighbour that takes every new folder for an abandoned one.
+TEST(InstallRehearsal, FoldersThatAlwaysGoAreNotMadeForEver)
+{
+    RehearsalScene const scene;
+    EXPECT_EQ(scene.ToldWithout(SYS_flock, EWOULDBLOCK).substr(0, 4), "963 ");
+}
+
+TEST(InstallRehearsal, FileSystemWithoutPermissionsIsTold)
+{
+    RehearsalScene const scene;
+    std::string const told = InChild(
+        [&scene]
+        {
+            ::umask(0777); // a new folder has no rights then, as if the file system kept none
+            return Told(scene.Bundle());
+        });
+    EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
+}
+
+TEST(InstallRehearsal, HelperThatSaysNothingIsTold)
+{
+    RehearsalScene const scene;
+    EXPECT_EQ(Told(scene.Bundle(), "/bin/false").substr(0, 4), "854 ");
+}
+
+TEST(InstallRehearsal, InstallationOfAnotherIsToldAndNotWaitedForLong)
+{
+    Workspace const place;
+    place.Put(MakeBundle("1.0"));
+    UniqueFd const holder(::open((place.Path() + '/' + LockFileName(APP)).c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0600));
+    ASSERT_EQ(::flock(holder.Get(), LOCK_EX | LOCK_NB), 0);
+    auto const begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(Told(place.Path() + '/' + APP), "LockTimedOut");
+    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(30));
+    EXPECT_EQ(place.Names(), (std::vector<std::string>{LockFileName(APP), APP}));
+}
+
+/// In namespaces of its own, with this option set there.
+std::string InOwnSystem(std::function<std::string()> const& act)
+{
+    return InChild(
+        [&act]() -> std::string
+        {
+            bool const isOwn = ::unshare(CLONE_NEWNS | CLONE_NEWPID) == 0 &&
+                               ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
+            return isOwn ? InChild(
+                               [&act]
+                               {
+                                   static_cast<void>(::mount("proc", "/proc", "proc", 0, nullptr));
+                                   return act();
+                               })
+                         : "no namespaces";
+        });
+}
+
+TEST(InstallRehearsal, SystemThatRunsNothingFromMemoryIsNoObstacle)
+{
+    RehearsalScene const scene;
+    std::string const told = InOwnSystem(
+        [&scene]() -> std::string
+        {
+            std::ofstream option("/proc/sys/vm/memfd_noexec");
+            option << 2 << std::flush;
+            UniqueFd const file(static_cast<int>(::syscall(SYS_memfd_create, "probe", 0x10u)));
+            return option && !file && errno == EACCES ? Told(scene.Bundle()) : "no such option";
+        });
+    if (told == "no namespaces" || told == "no such option")
+    {
+        GTEST_SKIP() << "this machine lets the test forbid nothing: " << told;
+    }
+    EXPECT_EQ(told, "ready");
+}
+
+/// The layers of an overlay: the application below, or above where this run of the system has written it.
+TEST(InstallRehearsal, LowerLayerOfAnOverlayIsTold)
+{
+    for (bool const isBelow : {true, false})
+    {
+        Workspace const layers;
+        layers.Put({{"lower/", 'd', {}, 0755},
+                    {"lower/apps/", 'd', {}, 0755},
+                    {"disk/", 'd', {}, 0755},
+                    {"merged/", 'd', {}, 0755}});
+        if (isBelow)
+        {
+            layers.Put(MakeBundle("1.0"), "lower/apps/");
+        }
+        std::string const folder = layers.Path() + "/merged/apps";
+        std::string const told = InOwnSystem(
+            [&]() -> std::string
+            {
+                std::string const disk = layers.Path() + "/disk";
+                std::string const options =
+                    "lowerdir=" + layers.Path() + "/lower,upperdir=" + disk + "/upper,workdir=" + disk + "/work";
+                bool const isMounted =
+                    ::mount("none", disk.c_str(), "tmpfs", 0, "mode=0755") == 0 &&
+                    ::mkdir((disk + "/upper").c_str(), 0755) == 0 && ::mkdir((disk + "/work").c_str(), 0755) == 0 &&
+                    ::mount("none", (layers.Path() + "/merged").c_str(), "overlay", 0, options.c_str()) == 0;
+                if (!isMounted)
+                {
+                    return "no overlay";
+                }
+                if (!isBelow)
+                {
+                    layers.Put(MakeBundle("1.0"), "merged/apps/");
+                }
+                ContentHash const before = TreeOf(folder + '/' + APP);
+                std::string const answer = Told(folder + '/' + APP);
+                EXPECT_TRUE(TreeOf(folder + '/' + APP) == before);
+                return testing::Test::HasFailure() ? "changed" : answer;
+            });
+        if (told == "no namespaces" || told == "no overlay")
+        {
+            GTEST_SKIP() << "this machine lets the test mount no overlay: " << told;
+        }
+        EXPECT_EQ(told, isBelow ? "964 The application in " + folder + '/' + APP +
+                                      " belongs to a layer of the file system that cannot be replaced: copy it to "
+                                      "another folder and start it there."
+                                : "ready");
+    }
+}
+
+TEST(CloseDescriptors, LeavesNothingOpenOnAnyKernel)
+{
+    for (int const errorNumber : {0, ENOSYS, EPERM, EINVAL})
+    {
+        std::string const left = InChild(
+            [errorNumber]
+            {
+                constexpr int FIRST = 50;
+                constexpr int NUMBERS[] = {FIRST - 1, FIRST, FIRST + 1, 120, 999};
+                for (int const number : NUMBERS)
+                {
+                    EXPECT_EQ(::dup2(STDERR_FILENO, number), number);
+                }
+                if (errorNumber != 0)
+                {
+                    FailCall(SYS_close_range, errorNumber);
+                }
+                std::string text;
+                CloseOnExecFrom(FIRST);
+                for (int const number : NUMBERS)
+                {
+                    text += std::to_string(::fcntl(number, F_GETFD)) + ' ';
+                }
+                CloseFrom(FIRST);
+                for (int const number : NUMBERS)
+                {
+                    text += std::to_string(::fcntl(number, F_GETFD)) + ' ';
+                }
+                return text;
+            });
+        EXPECT_EQ(left, "0 1 1 1 1 0 -1 -1 -1 -1 ") << errorNumber;
+    }
+}
+
+} // namespace

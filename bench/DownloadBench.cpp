@@ -32,6 +32,8 @@ using Pelnar::Bench::Transport;
 
 constexpr quint64 ARCHIVE_BYTES = quint64{256} << 20;
 constexpr double MOST_GROWTH_MEBIBYTES = 4;
+constexpr double MOST_STALL_MILLISECONDS = 16;
+constexpr double MOST_OF_CURLS_TIME = 1.05;
 
 QString FolderForFiles()
 {
@@ -68,6 +70,7 @@ DownloadRequest RequestFor(Transport transport)
     DownloadRequest request;
     request.url = TheScene().server.Url(transport);
     request.declaredBytes = ARCHIVE_BYTES;
+    request.feedReach = AddressReach::ThisComputer;
     request.folder = TheScene().folder.filePath(QStringLiteral("updates"));
     return request;
 }
@@ -127,6 +130,10 @@ void Download(benchmark::State& state, Transport transport)
     {
         state.SkipWithError("the download takes more than 4 MiB of memory");
     }
+    if (stall > MOST_STALL_MILLISECONDS)
+    {
+        state.SkipWithError("the download holds the event loop up for more than 16 ms");
+    }
 }
 
 void DownloadByCurl(benchmark::State& state, Transport transport)
@@ -170,8 +177,8 @@ BENCHMARK_CAPTURE(DownloadByCurl, https, Transport::Secure)
     ->Unit(benchmark::kMillisecond);
 
 Pelnar::Bench::StatedRatio const PLAIN_RATIO("Download/http/iterations:1/manual_time",
-                                             "DownloadByCurl/http/iterations:1/manual_time", 1 / 1.5);
+                                             "DownloadByCurl/http/iterations:1/manual_time", MOST_OF_CURLS_TIME);
 Pelnar::Bench::StatedRatio const SECURE_RATIO("Download/https/iterations:1/manual_time",
-                                              "DownloadByCurl/https/iterations:1/manual_time", 1 / 0.5);
+                                              "DownloadByCurl/https/iterations:1/manual_time", MOST_OF_CURLS_TIME);
 
 } // namespace

@@ -50,6 +50,7 @@ private:
         request.url = QUrl(words.at(1));
         request.declaredBytes = words.at(2).toULongLong();
         request.signature = words.at(3);
+        request.feedReach = AddressReach::ThisComputer;
         request.folder = words.at(7);
         return request;
     }

@@ -60,6 +60,8 @@ else()
     pkg_check_modules(libarchive REQUIRED IMPORTED_TARGET libarchive>=3.6)
     pkg_check_modules(zstd REQUIRED IMPORTED_TARGET libzstd)
     pkg_check_modules(md4c REQUIRED IMPORTED_TARGET md4c>=0.4.8)
+    find_package(CURL 7.87 REQUIRED)
+    find_package(OpenSSL 3.0 REQUIRED)
     find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file
     pelnar_helper_library(pelnar_sodium PkgConfig::sodium sodium)
     pelnar_helper_library(pelnar_archive PkgConfig::libarchive archive nettle lzma lz4 bz2 z zstd)

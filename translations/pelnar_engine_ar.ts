@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>انتهت صلاحية موجز التحديثات. تحقق من ساعة هذا الحاسوب، وأبلغ الناشر إذا كانت صحيحة.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>يشير خادم التحديثات إلى عنوان داخل حاسوبك أو وصلة شبكتك. اتصل بالناشر.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>يرفض وكيل الشبكة الاتصال بخادم التحديثات. اسأل مسؤول شبكتك.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>لا يقبل وكيل الشبكة اسم المستخدم وكلمة المرور. تحقق من إعدادات الوكيل.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

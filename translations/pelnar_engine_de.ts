@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>Der Update-Feed ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>Der Update-Server verweist auf eine Adresse in Ihrem eigenen Computer oder Netzwerkanschluss. Wenden Sie sich an den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>Der Netzwerk-Proxy verweigert die Verbindung zum Update-Server. Fragen Sie den Administrator Ihres Netzwerks.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>Der Netzwerk-Proxy nimmt Ihren Benutzernamen und Ihr Passwort nicht an. Prüfen Sie die Proxy-Einstellungen.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>El canal de actualizaciones ha caducado: compruebe el reloj de este equipo e informe al editor si está en hora.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>El servidor de actualizaciones remite a una dirección de su propio equipo o de su enlace de red. Póngase en contacto con el editor.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>El proxy de red se niega a conectar con el servidor de actualizaciones. Consulte al administrador de su red.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>El proxy de red no acepta su nombre de usuario y contraseña. Compruebe la configuración del proxy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>Le flux de mises à jour a expiré&#xa0;: vérifiez l’horloge de cet ordinateur et, si elle est à l’heure, prévenez l’éditeur.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>Le serveur de mises à jour renvoie à une adresse située dans votre propre ordinateur ou votre lien réseau. Contactez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>Le proxy réseau refuse la connexion au serveur de mises à jour. Adressez-vous à l’administrateur de votre réseau.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>Le proxy réseau n’accepte pas votre nom d’utilisateur et votre mot de passe. Vérifiez les réglages du proxy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

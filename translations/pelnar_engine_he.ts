@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>תוקף ערוץ העדכונים פג. יש לבדוק את שעון המחשב, ואם הוא מדויק להודיע ליצרן התוכנה.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>שרת העדכונים מפנה לכתובת בתוך המחשב שלך או בקישור הרשת שלך. יש לפנות למפרסם.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>פרוקסי הרשת מסרב להתחבר לשרת העדכונים. יש לפנות למנהל הרשת.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>פרוקסי הרשת אינו מקבל את שם המשתמש והסיסמה שלך. יש לבדוק את הגדרות הפרוקסי.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

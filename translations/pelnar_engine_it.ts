@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>Il feed degli aggiornamenti è scaduto: controllare l’orologio di questo computer e, se è esatto, informare il produttore.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>Il server degli aggiornamenti rimanda a un indirizzo interno al tuo computer o al tuo collegamento di rete. Contatta l’editore.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>Il proxy di rete rifiuta la connessione al server degli aggiornamenti. Chiedi all’amministratore della tua rete.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>Il proxy di rete non accetta il tuo nome utente e la tua password. Controlla le impostazioni del proxy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>アップデートフィードの有効期限が切れています。このコンピューターの時計を確認し、正しい場合は発行元に連絡してください。</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>更新サーバーが、このコンピューター自身またはそのネットワークリンク内のアドレスを指しています。発行元にお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>ネットワークプロキシが更新サーバーへの接続を拒否しました。ネットワークの管理者にお問い合わせください。</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>ネットワークプロキシがユーザー名とパスワードを受け付けません。プロキシの設定を確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>De updatefeed is verlopen: controleer de klok van deze computer en informeer de uitgever als die goed staat.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>De updateserver verwijst naar een adres in uw eigen computer of netwerkverbinding. Neem contact op met de uitgever.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>De netwerkproxy weigert verbinding te maken met de updateserver. Vraag het de beheerder van uw netwerk.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>De netwerkproxy accepteert uw gebruikersnaam en wachtwoord niet. Controleer de proxy-instellingen.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

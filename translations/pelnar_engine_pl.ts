@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>Kanał aktualizacji stracił ważność. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>Serwer aktualizacji kieruje pod adres wewnątrz Twojego komputera lub łącza sieciowego. Skontaktuj się z wydawcą.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>Serwer proxy odmawia połączenia z serwerem aktualizacji. Zwróć się do administratora sieci.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>Serwer proxy nie przyjmuje Twojej nazwy użytkownika i hasła. Sprawdź ustawienia serwera proxy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

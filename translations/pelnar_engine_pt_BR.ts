@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>O feed de atualizações expirou: verifique o relógio deste computador e, se estiver certo, avise o fornecedor.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>O servidor de atualizações aponta para um endereço dentro do seu próprio computador ou enlace de rede. Entre em contato com o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>O proxy de rede recusa a conexão com o servidor de atualizações. Fale com o administrador da sua rede.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>O proxy de rede não aceita seu nome de usuário e sua senha. Verifique as configurações do proxy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

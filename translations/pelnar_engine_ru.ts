@@ -789,6 +789,18 @@
         <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
         <translation>Срок действия ленты обновлений истёк. Проверьте часы этого компьютера; если они идут верно, сообщите издателю.</translation>
     </message>
+    <message>
+        <source>The update server leads to an address that is inside your own computer or network link. Contact the publisher.</source>
+        <translation>Сервер обновлений ведёт на адрес внутри вашего компьютера или сетевого подключения. Обратитесь к издателю.</translation>
+    </message>
+    <message>
+        <source>The network proxy refuses to connect to the update server. Ask the administrator of your network.</source>
+        <translation>Сетевой прокси отказывается подключаться к серверу обновлений. Обратитесь к администратору сети.</translation>
+    </message>
+    <message>
+        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <translation>Сетевой прокси не принимает ваши имя пользователя и пароль. Проверьте настройки прокси.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -32,6 +32,10 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::InsecureAddress:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                  "The address of the update feed is not secure: it must begin with https.");
+    case ErrorCause::AddressNotPublic:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update server leads to an address that is inside your own computer or network "
+                                 "link. Contact the publisher.");
 
     case ErrorCause::HostNotFound:
         return QT_TRANSLATE_NOOP(
@@ -52,6 +56,14 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::ProxyFailed:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                  "The network proxy did not let the connection through: check the proxy's settings.");
+    case ErrorCause::ProxyRefused:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The network proxy refuses to connect to the update server. Ask the administrator "
+                                 "of your network.");
+    case ErrorCause::ProxyAsksForPassword:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The network proxy does not accept your user name and password. Check the proxy's "
+                                 "settings.");
     case ErrorCause::TotalTimeout:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The update server took too long to answer: try again later.");
     case ErrorCause::TooSlow:

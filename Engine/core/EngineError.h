@@ -45,6 +45,7 @@ enum class ErrorCause
     InvalidAddress = 101,
     SchemeRefused = 102,
     InsecureAddress = 103,
+    AddressNotPublic = 104, ///< a feed from elsewhere leads to this computer or its link
 
     // The way to the server.
     HostNotFound = 200,
@@ -55,6 +56,8 @@ enum class ErrorCause
     ProxyFailed = 205,
     TotalTimeout = 206,
     TooSlow = 207,
+    ProxyRefused = 208,
+    ProxyAsksForPassword = 209,
 
     // The server's certificate and the secure connection.
     CertificateSelfSigned = 300,

@@ -77,9 +77,15 @@ private:
     void Fetch(LintDownload const& download)
     {
         Engine::FeedItem const& item = *download.item;
-        // Deliberate: plain http has its own rule; here the question is what stands at the address.
-        Engine::ArchiveDownload archive({item.fileUrl, item.contentLength, item.edSignature, m_folder.path(),
-                                         Engine::InsecureHttp::Anywhere, Engine::FetchLimits()});
+        Engine::DownloadRequest request;
+        request.url = item.fileUrl;
+        request.declaredBytes = item.contentLength;
+        request.signature = item.edSignature;
+        request.folder = m_folder.path();
+        // Deliberate: plain http has its own rule; here the question is what stands at the address, wherever that is.
+        request.feedReach = Engine::AddressReach::ThisComputer;
+        request.insecureHttp = Engine::InsecureHttp::Anywhere;
+        Engine::ArchiveDownload archive(request);
         Progress progress(m_console.err, item.fileUrl.fileName());
         Engine::DownloadOutcome outcome;
         QEventLoop loop;

@@ -27,6 +27,22 @@ char const* NameOf(OfferVerdict verdict)
     return "Unknown OfferVerdict";
 }
 
+/// A feed from elsewhere gives nobody a link into this computer to click at.
+void DropNearerLinks(FeedItem& item, AddressReach feedReach)
+{
+    for (QUrl* const link : {&item.releaseNotesUrl, &item.infoUrl})
+    {
+        if (ReachOf(*link) > feedReach)
+        {
+            link->clear();
+        }
+    }
+    for (FeedItem& delta : item.deltas)
+    {
+        DropNearerLinks(delta, feedReach);
+    }
+}
+
 } // namespace
 
 CheckRun::CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now)
@@ -119,6 +135,11 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         }
     }
     m_items = std::move(result.items);
+    m_feedReach = outcome.reach;
+    for (FeedItem& item : m_items)
+    {
+        DropNearerLinks(item, m_feedReach);
+    }
     Remember(outcome.bytes, terms, now);
     return std::nullopt;
 }
@@ -184,7 +205,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     }
     // What is fallen back on is the same update: whoever agrees to one version must not get another.
     bool const isSameVersion = fallback && order(At(*fallback).versionString, At(answer.place).versionString) == 0;
-    return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt};
+    return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach};
 }
 
 FeedItem const& CheckRun::At(ItemPlace const& place) const

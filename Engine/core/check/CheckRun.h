@@ -49,6 +49,7 @@ struct FoundUpdate
 {
     ItemPlace place;
     std::optional<ItemPlace> fallback; ///< of a delta: the whole item of the same version, if the application gave one
+    AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
 };
 
 /// What the application answered when it was asked for the best item.
@@ -115,6 +116,7 @@ private:
     ICheckHost& m_host;
     std::function<QDateTime()> m_now;
     FeedFetcher m_fetcher;
+    AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;
     bool m_hasPutOff = false;
 };

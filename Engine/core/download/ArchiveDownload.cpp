@@ -2,7 +2,7 @@
 
 #include "Engine/core/download/ArchiveWriter.h"
 #include "Engine/core/download/TransferRate.h"
-#include "Engine/core/fetch/HttpConnection.h"
+#include "Engine/core/fetch/HttpTransfer.h"
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -68,7 +68,7 @@ public:
         connect(&m_progressTimer, &QTimer::timeout, this, &Impl::TellProgress);
     }
 
-    ~Impl() override { DropConnection(); }
+    ~Impl() override { DropTransfer(); }
 
     void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished)
     {
@@ -81,7 +81,8 @@ public:
 private:
     void Begin()
     {
-        if (std::optional<ErrorCause> const cause = JudgeArchiveAddress(m_request.url, m_request.insecureHttp))
+        if (std::optional<ErrorCause> const cause =
+                JudgeArchiveAddress(m_request.url, m_request.feedReach, m_request.insecureHttp))
         {
             Finish({AsDownloadError(MakeError(*cause)), {}});
             return;
@@ -96,9 +97,9 @@ private:
         { TakeOpened(found, spent); };
         events.roomMade = [this]
         {
-            if (m_connection)
+            if (m_transfer)
             {
-                m_connection->ReadOn();
+                m_transfer->ReadOn();
             }
         };
         events.finished = [this](UniqueFd archive) { Finish({std::nullopt, std::move(archive)}); };
@@ -158,7 +159,8 @@ private:
         ++m_spent.attempts;
         m_writer->Count(Spent());
         m_redirects = 0;
-        FetchRequest request = RequestFor(m_request.url);
+        FetchRequest request = RequestFor(m_request.url, m_request.feedUrl);
+        request.nearest = m_request.feedReach;
         request.rangeFields = RangeFields(m_partial);
         Send(request);
     }
@@ -167,19 +169,19 @@ private:
     {
         m_sent = request;
         m_decision.reset();
-        m_connection = std::make_unique<HttpConnection>(request, m_request.limits, this);
-        connect(m_connection.get(), &HttpConnection::Failed, this, &Impl::TakeFailure);
-        connect(m_connection.get(), &HttpConnection::Completed, this, &Impl::TakeAnswer);
-        m_connection->Open();
+        m_transfer = std::make_unique<HttpTransfer>(request, m_request.limits, this);
+        connect(m_transfer.get(), &HttpTransfer::Failed, this, &Impl::TakeFailure);
+        connect(m_transfer.get(), &HttpTransfer::Completed, this, &Impl::TakeAnswer);
+        m_transfer->Open();
     }
 
-    void DropConnection()
+    void DropTransfer()
     {
-        if (m_connection)
+        if (m_transfer)
         {
-            m_connection->disconnect(this);
-            m_connection->Abort();
-            m_connection.release()->deleteLater(); // it may be the sender of this very call
+            m_transfer->disconnect(this);
+            m_transfer->Abort();
+            m_transfer.release()->deleteLater(); // it may be the sender of this very call
         }
     }
 
@@ -239,11 +241,12 @@ private:
 
     void TakeAnswer()
     {
-        HttpHead const head = m_connection->Answer().Head();
-        DropConnection();
+        HttpHead const head = m_transfer->Head();
+        AddressReach const answeredFrom = m_transfer->AnsweredFrom();
+        DropTransfer();
         if (!m_decision)
         {
-            Follow(head);
+            Follow(head, answeredFrom);
             return;
         }
         switch (m_decision->step)
@@ -264,10 +267,11 @@ private:
         }
     }
 
-    void Follow(HttpHead const& head)
+    void Follow(HttpHead const& head, AddressReach answeredFrom)
     {
         std::variant<FetchRequest, ErrorCause> const next =
-            JudgeRedirect(m_sent, head.Values("location"), ++m_redirects, m_request.insecureHttp, m_request.limits);
+            JudgeRedirect(m_sent, answeredFrom, head.Values("location"), ++m_redirects, m_request.insecureHttp,
+                          m_request.limits);
         if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
         {
             End(AsDownloadError(MakeError(*cause)));
@@ -318,7 +322,7 @@ private:
         // The reader's limit was the declared length, and it has seen more than that, whatever it handed on.
         m_spent.receivedBytes += isTooLarge ? Missing() : 0;
         EngineError const error = isTooLarge ? MakeError(ErrorCause::DownloadLengthDiffers) : AsDownloadError(failure);
-        DropConnection();
+        DropTransfer();
         m_writer->Flush();
         if (!m_hasReceived || !IsPassing(error) || m_resumes >= m_request.limits.maxResumes)
         {
@@ -334,7 +338,7 @@ private:
     /// In the middle of a body or of a pause.
     void Stop(ErrorCause cause)
     {
-        DropConnection();
+        DropTransfer();
         End(MakeError(cause));
     }
 
@@ -365,7 +369,7 @@ private:
     void Finish(DownloadOutcome outcome)
     {
         StopTimers();
-        DropConnection();
+        DropTransfer();
         m_writer.reset();
         std::function<void(DownloadOutcome)> const finished = std::exchange(m_finished, nullptr);
         finished(std::move(outcome));
@@ -376,7 +380,7 @@ private:
     std::function<void(DownloadOutcome)> m_finished;
     std::unique_ptr<ArchiveWriter> m_writer;
     PartialArchive m_partial; ///< with the bytes that wait to be written
-    std::unique_ptr<HttpConnection> m_connection;
+    std::unique_ptr<HttpTransfer> m_transfer;
     FetchRequest m_sent;
     std::optional<ResumeDecision> m_decision; ///< none while there is no answer, or one that leads elsewhere
     int m_redirects = 0;

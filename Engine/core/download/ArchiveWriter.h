@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Engine/core/download/PartialFile.h"
-#include "Engine/core/fetch/HttpAnswer.h"
+#include "Engine/core/fetch/IBodySink.h"
 
 #include <functional>
 #include <memory>

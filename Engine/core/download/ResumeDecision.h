@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Engine/core/EngineError.h"
-#include "Engine/core/fetch/HttpAnswer.h"
+#include "Engine/core/fetch/HttpHead.h"
 
 #include <QByteArray>
 

@@ -1,6 +1,6 @@
 #include "Engine/core/fetch/FeedFetcher.h"
 
-#include "Engine/core/fetch/HttpConnection.h"
+#include "Engine/core/fetch/HttpTransfer.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -75,32 +75,32 @@ void FeedFetcher::ReadFile(QUrl const& url)
         Fail(MakeError(ErrorCause::FileTooLarge));
         return;
     }
-    Finish({std::nullopt, url, bytes});
+    Finish({std::nullopt, url, bytes, AddressReach::ThisComputer});
 }
 
 void FeedFetcher::Send(FetchRequest const& request)
 {
     m_request = request;
-    m_connection = std::make_unique<HttpConnection>(request, m_limits);
-    connect(m_connection.get(), &HttpConnection::Failed, this, [this](EngineError const& error) { Fail(error); });
-    connect(m_connection.get(), &HttpConnection::Completed, this, &FeedFetcher::TakeAnswer);
-    m_connection->Open();
+    m_transfer = std::make_unique<HttpTransfer>(request, m_limits);
+    connect(m_transfer.get(), &HttpTransfer::Failed, this, [this](EngineError const& error) { Fail(error); });
+    connect(m_transfer.get(), &HttpTransfer::Completed, this, &FeedFetcher::TakeAnswer);
+    m_transfer->Open();
 }
 
 void FeedFetcher::TakeAnswer()
 {
-    HttpHead const& head = m_connection->Answer().Head();
+    HttpHead const& head = m_transfer->Head();
     if (IsRedirect(head.status))
     {
         std::variant<FetchRequest, ErrorCause> const next =
-            JudgeRedirect(m_request, head.Values("location"), ++m_redirects, m_insecureHttp, m_limits);
+            JudgeRedirect(m_request, m_transfer->AnsweredFrom(), head.Values("location"), ++m_redirects, m_insecureHttp, m_limits);
         if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
         {
             Fail(MakeError(*cause));
             return;
         }
-        // The connection is the sender of this very call.
-        m_connection.release()->deleteLater();
+        // The transfer is the sender of this very call.
+        m_transfer.release()->deleteLater();
         Send(std::get<FetchRequest>(next));
         return;
     }
@@ -109,21 +109,21 @@ void FeedFetcher::TakeAnswer()
         Fail(MakeHttpStatusError(head.status));
         return;
     }
-    Finish({std::nullopt, m_request.url, m_connection->Answer().Body()});
+    Finish({std::nullopt, m_request.url, m_transfer->Body(), m_transfer->AnsweredFrom()});
 }
 
 void FeedFetcher::Fail(EngineError const& error)
 {
-    Finish({error, {}, {}});
+    Finish({error, {}, {}, {}});
 }
 
 void FeedFetcher::Finish(FetchOutcome outcome)
 {
     m_totalTimer.stop();
-    if (m_connection)
+    if (m_transfer)
     {
-        m_connection->disconnect(this);
-        m_connection.release()->deleteLater();
+        m_transfer->disconnect(this);
+        m_transfer.release()->deleteLater();
     }
     std::function<void(FetchOutcome)> const finished = std::exchange(m_finished, nullptr);
     finished(std::move(outcome));

@@ -1,6 +1,6 @@
 // FeedFetcher.h: brings the bytes of a feed from a server or a file, behind the rules and limits of FetchPolicy.h.
 // Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it drops the fetch and
-// nothing is called any more. It speaks HTTP/1.1 over Qt's sockets itself; docs/decisions/feed-transport.md says why.
+// nothing is called any more.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -18,13 +18,14 @@
 namespace Pelnar::Engine
 {
 
-class HttpConnection;
+class HttpTransfer;
 
 struct FetchOutcome
 {
     std::optional<EngineError> error;
     QUrl url;         ///< where the feed came from, after redirects, without user name and password
     QByteArray bytes; ///< whole; empty on error
+    AddressReach reach = AddressReach::Network; ///< of the place where it came from
 };
 
 class FeedFetcher : public QObject
@@ -51,7 +52,7 @@ private:
     QTimer m_totalTimer;
     FetchRequest m_request;
     int m_redirects = 0;
-    std::unique_ptr<HttpConnection> m_connection;
+    std::unique_ptr<HttpTransfer> m_transfer;
 };
 
 } // namespace Pelnar::Engine

@@ -74,10 +74,10 @@ std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecur
         // A host name would make it a network share.
         return url.host().isEmpty() || IsLoopback(url) ? std::nullopt : std::optional(ErrorCause::FileOnOtherHost);
     }
-    return JudgeArchiveAddress(url, insecureHttp);
+    return JudgeArchiveAddress(url, AddressReach::ThisComputer, insecureHttp);
 }
 
-std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, InsecureHttp insecureHttp)
+std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach, InsecureHttp insecureHttp)
 {
     if (!url.isValid() || url.isRelative())
     {
@@ -87,16 +87,22 @@ std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, InsecureHttp inse
     {
         return ErrorCause::SchemeRefused;
     }
+    if (ReachOf(url) > feedReach)
+    {
+        return ErrorCause::AddressNotPublic;
+    }
     return JudgeNetworkAddress(url, insecureHttp);
 }
 
-FetchRequest RequestFor(QUrl const& url)
+FetchRequest RequestFor(QUrl const& url, QUrl const& feedUrl)
 {
-    FetchRequest request{url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment), {}, {}};
-    if (!url.userInfo().isEmpty())
+    FetchRequest request;
+    request.url = url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
+    QUrl const& teller = url.userInfo().isEmpty() && IsSameOrigin(url, feedUrl) ? feedUrl : url;
+    if (!teller.userInfo().isEmpty())
     {
         QString const credentials =
-            url.userName(QUrl::FullyDecoded) + QLatin1Char(':') + url.password(QUrl::FullyDecoded);
+            teller.userName(QUrl::FullyDecoded) + QLatin1Char(':') + teller.password(QUrl::FullyDecoded);
         request.fields.push_back({"Authorization", "Basic " + credentials.toUtf8().toBase64()});
     }
     return request;
@@ -116,7 +122,7 @@ bool IsRedirect(int status)
     return false;
 }
 
-std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request,
+std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom,
                                                      std::vector<QByteArray> const& locations, int hop,
                                                      InsecureHttp insecureHttp, FetchLimits const& limits)
 {
@@ -147,8 +153,19 @@ std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request
     {
         return ErrorCause::RedirectDowngrade;
     }
-    return FetchRequest{url, IsSameOrigin(request.url, url) ? request.fields : std::vector<HeaderField>(),
-                        request.rangeFields};
+    if (ReachOf(url) > answeredFrom)
+    {
+        return ErrorCause::AddressNotPublic;
+    }
+    FetchRequest next;
+    next.url = url;
+    next.rangeFields = request.rangeFields;
+    next.nearest = answeredFrom;
+    if (IsSameOrigin(request.url, url))
+    {
+        next.fields = request.fields;
+    }
+    return next;
 }
 
 bool BeginsAsWebPage(QByteArray const& bytes)
@@ -161,40 +178,6 @@ bool BeginsAsWebPage(QByteArray const& bytes)
     }
     begin = begin.trimmed().toLower();
     return begin.startsWith("<!doctype html") || begin.startsWith("<html");
-}
-
-QByteArray SerializedRequest(FetchRequest const& request)
-{
-    // Fully encoded parts hold visible ASCII only, so nothing here can end a line early.
-    QByteArray target = request.url.path(QUrl::FullyEncoded).toLatin1();
-    if (!target.startsWith('/'))
-    {
-        target.prepend('/');
-    }
-    if (request.url.hasQuery())
-    {
-        target += '?' + request.url.query(QUrl::FullyEncoded).toLatin1();
-    }
-    QByteArray host = request.url.host(QUrl::FullyEncoded).toLatin1();
-    if (host.contains(':'))
-    {
-        host = '[' + host.replace('[', "").replace(']', "") + ']';
-    }
-    if (request.url.port() != -1)
-    {
-        host += ':' + QByteArray::number(request.url.port());
-    }
-    QByteArray bytes = "GET " + target + " HTTP/1.1\r\nHost: " + host +
-                       "\r\nUser-Agent: PelnarUpdateEngine\r\nAccept: application/rss+xml, application/xml, */*;q=0.5"
-                       "\r\nAccept-Encoding: identity\r\nCache-Control: no-cache\r\nConnection: close\r\n";
-    for (std::vector<HeaderField> const* const fields : {&request.fields, &request.rangeFields})
-    {
-        for (HeaderField const& field : *fields)
-        {
-            bytes += field.name + ": " + field.value + "\r\n";
-        }
-    }
-    return bytes + "\r\n";
 }
 
 } // namespace Pelnar::Engine

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/EngineError.h"
+#include "Engine/core/fetch/AddressReach.h"
 
 #include <QByteArray>
 #include <QUrl>
@@ -50,7 +51,8 @@ struct FetchRequest
 {
     QUrl url;
     std::vector<HeaderField> fields;      ///< for the origin of url only
-    std::vector<HeaderField> rangeFields; ///< for whoever answers in the end
+    std::vector<HeaderField> rangeFields; ///< for the server that answers in the end
+    AddressReach nearest = AddressReach::ThisComputer; ///< no connection is made to a nearer address
 };
 
 [[nodiscard]] bool IsLoopback(QUrl const& url);
@@ -60,26 +62,28 @@ struct FetchRequest
 /// Why a feed must not be fetched from \a url; nothing when it may.
 [[nodiscard]] std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp);
 
-/// Why an archive must not be downloaded from \a url; nothing when it may. An archive is never a file of this computer.
-[[nodiscard]] std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, InsecureHttp insecureHttp);
+/// Why an archive must not be downloaded from \a url, which a feed from \a feedReach names; nothing when it may. An
+/// archive is never a file of this computer.
+[[nodiscard]] std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach,
+                                                            InsecureHttp insecureHttp);
 
-/// The first request for \a url: user name and password of the address become an authorization field.
-FetchRequest RequestFor(QUrl const& url);
+/// The first request for \a url: user name and password of the address become an authorization field, or those of
+/// \a feedUrl where \a url has none and is of the same origin.
+FetchRequest RequestFor(QUrl const& url, QUrl const& feedUrl = QUrl());
 
 /// True when an answer with \a status leads to another address.
 [[nodiscard]] bool IsRedirect(int status);
 
 /// Where the answer \a location to \a request leads, by hop number \a hop (from 1), or why it is not followed. The
-/// fields go along while the origin stays the same; user name and password in \a location are dropped.
+/// fields go along while the origin stays the same; user name and password in \a location are dropped. It leads to no
+/// address that is nearer than \a answeredFrom, where the answer came from.
 [[nodiscard]] std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request,
+                                                                   AddressReach answeredFrom,
                                                                    std::vector<QByteArray> const& locations, int hop,
                                                                    InsecureHttp insecureHttp,
                                                                    FetchLimits const& limits);
 
 /// True for bytes that begin as a web page does, whatever XML would make of them: a network's login page, say.
 [[nodiscard]] bool BeginsAsWebPage(QByteArray const& bytes);
-
-/// The bytes of \a request for a server: one GET over a connection that closes after it.
-QByteArray SerializedRequest(FetchRequest const& request);
 
 } // namespace Pelnar::Engine

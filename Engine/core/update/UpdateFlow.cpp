@@ -88,6 +88,7 @@ UpdateCandidate UpdateFlow::CandidateAt(ItemPlace const& place) const
 void UpdateFlow::TellFound(FoundUpdate const& found)
 {
     m_host.TellFound(found);
+    m_settings.feedReach = found.feedReach;
     m_candidates.push_back(CandidateAt(found.place));
     if (found.fallback)
     {

@@ -101,6 +101,8 @@ DownloadRequest DownloadOf(FeedItem const& item, UpdateSettings const& settings)
     request.declaredBytes = item.contentLength;
     request.signature = item.edSignature;
     request.folder = settings.downloadFolder;
+    request.feedUrl = settings.check.feedUrl;
+    request.feedReach = settings.feedReach;
     request.insecureHttp = settings.check.insecureHttp;
     request.limits = settings.check.fetchLimits;
     return request;

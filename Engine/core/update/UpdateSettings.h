@@ -42,6 +42,7 @@ struct UpdateSettings
     AutomaticDownload automaticDownload = AutomaticDownload::Off;
     UpdateSwitch updates = UpdateSwitch::On;
     BackOffState backOff;
+    AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
     QString downloadFolder; ///< absolute; this user's alone
 };
 

@@ -36,6 +36,7 @@ protected:
         request.declaredBytes = static_cast<quint64>(declaredBytes);
         request.signature = QStringLiteral("signature");
         request.folder = Folder();
+        request.feedReach = Engine::AddressReach::ThisComputer;
         request.limits = ShortLimits();
         request.limits.maxBodyBytes = 1;
         request.limits.totalTimeout = std::chrono::milliseconds(1);

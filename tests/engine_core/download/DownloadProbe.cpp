@@ -83,6 +83,7 @@ int main(int argc, char** argv)
     request.declaredBytes = arguments.value(2).toULongLong();
     request.signature = QStringLiteral("signature");
     request.folder = arguments.value(3);
+    request.feedReach = AddressReach::ThisComputer;
     long const before = PeakKibibytes();
     ArchiveDownload download(request);
     download.Start([](DownloadProgress const&) {},

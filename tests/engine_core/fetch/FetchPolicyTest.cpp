@@ -18,7 +18,7 @@ QUrl url(char const* text)
 std::variant<FetchRequest, ErrorCause> redirect(char const* from, QByteArray const& to,
                                                 InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly, int hop = 1)
 {
-    return JudgeRedirect(RequestFor(url(from)), {to}, hop, insecureHttp, FetchLimits());
+    return JudgeRedirect(RequestFor(url(from)), AddressReach::ThisComputer, {to}, hop, insecureHttp, FetchLimits());
 }
 
 QString target(std::variant<FetchRequest, ErrorCause> const& judgement)
@@ -135,31 +135,6 @@ TEST(FetchPolicy, WebPagesAreToldByTheirBeginning)
     for (char const* const other : {"", "<rss>", "<?xml version=\"1.0\"?><rss/>", "<!DOCTYPE rss>", "text <html>"})
     {
         EXPECT_FALSE(BeginsAsWebPage(other)) << other;
-    }
-}
-
-TEST(FetchPolicy, RequestLine)
-{
-    EXPECT_TRUE(
-        SerializedRequest(RequestFor(url("https://[::1]:8443"))).startsWith("GET / HTTP/1.1\r\nHost: [::1]:8443\r\n"));
-    EXPECT_TRUE(SerializedRequest(RequestFor(url("https://a.example/x?y#z")))
-                    .startsWith("GET /x?y HTTP/1.1\r\nHost: a.example\r\n"));
-    QUrl const foreign(QStringLiteral("https://b\u00fccher.example/\u00fc"));
-    EXPECT_TRUE(
-        SerializedRequest(RequestFor(foreign)).startsWith("GET /%C3%BC HTTP/1.1\r\nHost: xn--bcher-kva.example\r\n"));
-}
-
-TEST(FetchPolicy, NoCharacterOfAnAddressEndsALine)
-{
-    for (int character = 1; character < 0x100; ++character)
-    {
-        QUrl address(QStringLiteral("https://a.example/"));
-        address.setPath(QStringLiteral("/x") + QChar(character), QUrl::DecodedMode);
-        address.setQuery(QString(QChar(character)), QUrl::DecodedMode);
-        address.setUserName(QString(QChar(character)), QUrl::DecodedMode);
-        QByteArray const request = SerializedRequest(RequestFor(address));
-        EXPECT_EQ(request.count("\r"), 9) << character;
-        EXPECT_EQ(request.count("\n"), 9) << character;
     }
 }
 

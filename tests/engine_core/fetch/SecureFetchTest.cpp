@@ -4,8 +4,6 @@
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/TestCertificates.h"
 
-#include "Engine/core/fetch/HttpConnection.h"
-
 #include <QProcess>
 #include <QRegularExpression>
 
@@ -122,18 +120,6 @@ TEST_F(SecureFetchTest, ServerThatSpeaksNoTlsIsRefused)
     EXPECT_EQ(cause, ErrorCause::ConnectTimeout);
 }
 
-TEST(CertificateErrors, UnlistedOnesHaveACauseOfTheirOwn)
-{
-    EXPECT_EQ(CertificateError({QSslError(QSslError::InvalidPurpose)}).cause, ErrorCause::CertificateInvalid);
-}
-
-TEST(CertificateErrors, TheMostTellingOneWins)
-{
-    EXPECT_EQ(CertificateError({QSslError(QSslError::HostNameMismatch), QSslError(QSslError::CertificateExpired),
-                                QSslError(QSslError::SelfSignedCertificate)})
-                  .cause,
-              ErrorCause::CertificateSelfSigned);
-}
 class WeakHandshake : public SecureFetchTest, public ::testing::WithParamInterface<char const*>
 {
 };

@@ -1,0 +1,290 @@
+#include "Engine/core/fetch/CurlLoop.h"
+
+#include "Engine/core/SignalBlock.h"
+#include "Engine/core/fetch/AddressReach.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QSocketNotifier>
+
+#include <algorithm>
+#include <chrono>
+#include <system_error>
+#include <utility>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+/// Long enough for the second fetch of a check, short enough that no server minds.
+constexpr std::chrono::seconds IDLE_TIME{30};
+constexpr long MOST_IDLE_CONNECTIONS = 4;
+
+} // namespace
+
+CurlLoop& CurlLoop::OfApplication()
+{
+    static QPointer<CurlLoop> loop;
+    if (!loop)
+    {
+        static CURLcode const hasBegun = curl_global_init(CURL_GLOBAL_DEFAULT);
+        static_cast<void>(hasBegun); // what it could not do, each transfer will say
+        loop = new CurlLoop(QCoreApplication::instance());
+    }
+    return *loop;
+}
+
+CurlLoop::CurlLoop(QObject* parent) : QObject(parent)
+{
+    m_timer.setSingleShot(true);
+    m_idleTimer.setSingleShot(true);
+    connect(&m_timer, &QTimer::timeout, this, [this] { Drive(CURL_SOCKET_TIMEOUT, 0); });
+    connect(&m_idleTimer, &QTimer::timeout, this, &CurlLoop::LetGo);
+}
+
+CurlLoop::~CurlLoop()
+{
+    m_asking.clear();
+    for (auto const& [transfer, done] : m_running)
+    {
+        curl_multi_remove_handle(m_multi, transfer);
+    }
+    m_running.clear();
+    LetGo();
+}
+
+void CurlLoop::AskSettings(QUrl const& url, QObject* receiver, std::function<void(ConnectionSettings const&)> ready)
+{
+    ConnectionSettings settings;
+    std::optional<ProxyChoice> proxy;
+    // This computer is never asked for through another one.
+    if (ReachOf(url) == AddressReach::ThisComputer)
+    {
+        proxy = ProxyChoice();
+    }
+    else if (!(proxy = ApplicationsProxy(url)))
+    {
+        proxy = EnvironmentsProxy(url, &ValueInEnvironment);
+    }
+    settings.proxy = proxy.value_or(ProxyChoice());
+    QSslConfiguration const configuration = QSslConfiguration::defaultConfiguration();
+    MindTrust(configuration);
+    settings.trust = m_trust;
+    bool const needsTrust = !m_trust && url.scheme() == QLatin1String("https");
+    if (proxy && !needsTrust)
+    {
+        ready(settings);
+        return;
+    }
+    auto const tell = [this, configuration, needsTrust, receiver = QPointer<QObject>(receiver),
+                       ready = std::move(ready)](ConnectionSettings const& complete)
+    {
+        if (needsTrust && m_trusted == configuration)
+        {
+            m_trust = complete.trust;
+        }
+        if (receiver)
+        {
+            ready(complete);
+        }
+    };
+    auto ask = [this, settings, proxy, needsTrust, url, configuration, tell]() mutable noexcept
+    {
+        if (!proxy)
+        {
+            settings.proxy = FirstUsable(QNetworkProxyFactory::systemProxyForQuery(QNetworkProxyQuery(url)));
+        }
+        if (needsTrust)
+        {
+            settings.trust = MakeTrustStore(configuration);
+        }
+        QMetaObject::invokeMethod(
+            this, [tell, settings] { tell(settings); }, Qt::QueuedConnection);
+    };
+    auto const isDone = [](std::future<void> const& asking)
+    { return asking.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
+    m_asking.erase(std::remove_if(m_asking.begin(), m_asking.end(), isDone), m_asking.end());
+    try
+    {
+        SignalBlock const block;
+        m_asking.push_back(std::async(std::launch::async, ask));
+    }
+    catch (std::system_error const&)
+    {
+        ask();
+    }
+}
+
+void CurlLoop::MindTrust(QSslConfiguration const& configuration)
+{
+    if (m_trusted == configuration)
+    {
+        return;
+    }
+    if (m_running.empty())
+    {
+        LetGo();
+    }
+    m_trusted = configuration;
+    m_trust.reset();
+}
+
+bool CurlLoop::Begin()
+{
+    if (m_multi)
+    {
+        return true;
+    }
+    m_multi = curl_multi_init();
+    if (!m_multi)
+    {
+        return false;
+    }
+    auto const watch = +[](CURL* transfer, curl_socket_t socket, int what, void* loop, void*)
+    {
+        static_cast<CurlLoop*>(loop)->Watch(transfer, socket, what);
+        return 0;
+    };
+    auto const setTimer = +[](CURLM*, long milliseconds, void* loop)
+    {
+        static_cast<CurlLoop*>(loop)->SetTimer(milliseconds);
+        return 0;
+    };
+    curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, watch);
+    curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);
+    curl_multi_setopt(m_multi, CURLMOPT_TIMERFUNCTION, setTimer);
+    curl_multi_setopt(m_multi, CURLMOPT_TIMERDATA, this);
+    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, MOST_IDLE_CONNECTIONS);
+    return true;
+}
+
+bool CurlLoop::Add(CURL* transfer, std::function<void(CURLcode)> done)
+{
+    if (!Begin() || curl_multi_add_handle(m_multi, transfer) != CURLM_OK)
+    {
+        return false;
+    }
+    m_idleTimer.stop();
+    m_running[transfer] = std::move(done);
+    return true;
+}
+
+void CurlLoop::Remove(CURL* transfer)
+{
+    auto const running = m_running.find(transfer);
+    if (running == m_running.end())
+    {
+        return;
+    }
+    m_running.erase(running);
+    curl_multi_remove_handle(m_multi, transfer);
+    if (m_running.empty())
+    {
+        m_idleTimer.start(IDLE_TIME);
+    }
+}
+
+int CurlLoop::SocketOf(CURL* transfer) const
+{
+    auto const found = std::find_if(m_sockets.begin(), m_sockets.end(),
+                                    [transfer](auto const& entry) { return entry.second.transfer == transfer; });
+    return found == m_sockets.end() ? -1 : found->first;
+}
+
+void CurlLoop::Drive(curl_socket_t socket, int events)
+{
+    int running = 0;
+    curl_multi_socket_action(m_multi, socket, events, &running);
+    TakeEnds();
+}
+
+void CurlLoop::TakeEnds()
+{
+    int left = 0;
+    while (CURLMsg const* const message = curl_multi_info_read(m_multi, &left))
+    {
+        if (message->msg != CURLMSG_DONE)
+        {
+            continue;
+        }
+        CURLcode const code = message->data.result;
+        CURL* const transfer = message->easy_handle; // the message goes with the removal
+        std::function<void(CURLcode)> const done = m_running[transfer];
+        Remove(transfer);
+        QMetaObject::invokeMethod(
+            this, [done, code] { done(code); }, Qt::QueuedConnection);
+    }
+}
+
+void CurlLoop::Watch(CURL* transfer, curl_socket_t socket, int what)
+{
+    if (what == CURL_POLL_REMOVE)
+    {
+        Unwatch(socket);
+        return;
+    }
+    Socket& watched = m_sockets[socket];
+    watched.transfer = transfer;
+    bool const isRead = what == CURL_POLL_IN || what == CURL_POLL_INOUT;
+    bool const isWritten = what == CURL_POLL_OUT || what == CURL_POLL_INOUT;
+    if (isRead && !watched.reading)
+    {
+        watched.reading = MakeNotifier(socket, QSocketNotifier::Read, CURL_CSELECT_IN);
+    }
+    if (isWritten && !watched.writing)
+    {
+        watched.writing = MakeNotifier(socket, QSocketNotifier::Write, CURL_CSELECT_OUT);
+    }
+    for (auto const& [notifier, isWanted] : {std::pair(watched.reading, isRead), std::pair(watched.writing, isWritten)})
+    {
+        if (notifier)
+        {
+            notifier->setEnabled(isWanted);
+        }
+    }
+}
+
+QSocketNotifier* CurlLoop::MakeNotifier(curl_socket_t socket, int type, int events)
+{
+    auto* const notifier = new QSocketNotifier(socket, static_cast<QSocketNotifier::Type>(type), this);
+    connect(notifier, &QSocketNotifier::activated, this, [this, socket, events] { Drive(socket, events); });
+    return notifier;
+}
+
+void CurlLoop::Unwatch(curl_socket_t socket)
+{
+    Socket const watched = m_sockets[socket];
+    m_sockets.erase(socket);
+    for (QSocketNotifier* const notifier : {watched.reading, watched.writing})
+    {
+        if (notifier)
+        {
+            notifier->setEnabled(false); // the number may stand for another socket soon
+            notifier->deleteLater();     // it may be the sender of this very call
+        }
+    }
+}
+
+void CurlLoop::SetTimer(long milliseconds)
+{
+    milliseconds < 0 ? m_timer.stop() : m_timer.start(std::chrono::milliseconds(milliseconds));
+}
+
+void CurlLoop::LetGo()
+{
+    m_idleTimer.stop();
+    m_timer.stop();
+    if (m_multi)
+    {
+        curl_multi_cleanup(std::exchange(m_multi, nullptr));
+    }
+    while (!m_sockets.empty())
+    {
+        Unwatch(m_sockets.begin()->first);
+    }
+    m_trusted.reset();
+    m_trust.reset();
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,52 @@
+// CurlRequest.h: one request as libcurl takes it, with everything switched off that it would do unasked.
+// Thread: one at a time. Ownership: owns libcurl's handle; it stays where it is made, since libcurl holds its address.
+#pragma once
+
+#include "Engine/core/fetch/CurlLoop.h"
+#include "Engine/core/fetch/FetchPolicy.h"
+
+#include <array>
+#include <memory>
+#include <optional>
+
+typedef struct ssl_ctx_st SSL_CTX;
+
+namespace Pelnar::Engine
+{
+
+class CurlRequest
+{
+public:
+    CurlRequest(FetchRequest const& request, FetchLimits const& limits, ConnectionSettings settings);
+    CurlRequest(CurlRequest const&) = delete;
+    CurlRequest& operator=(CurlRequest const&) = delete;
+
+    /// Why it must not be sent; nothing when it may.
+    [[nodiscard]] std::optional<ErrorCause> Fault() const { return m_fault; }
+    CURL* Handle() const { return m_easy.get(); }
+    ProxyChoice const& Proxy() const { return m_settings.proxy; }
+
+    /// What libcurl says of its last failure.
+    QString Text() const { return QString::fromUtf8(m_text.data()); }
+    long Number(CURLINFO info) const;
+    /// True when OpenSSL has bytes that nobody has taken. REQUIRES: called by one of the handle's callbacks.
+    [[nodiscard]] bool HasSecureBytes() const;
+
+private:
+    void SetAddress();
+    void SetFields();
+    void SetSafety(FetchLimits const& limits);
+    void SetProxy();
+    void SetSecurity();
+    [[nodiscard]] bool PrepareSecurity(SSL_CTX* context) const;
+
+    FetchRequest m_request;
+    ConnectionSettings m_settings;
+    std::optional<ErrorCause> m_fault;
+    std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_fields{nullptr, &curl_slist_free_all};
+    std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> m_address{nullptr, &curl_url_cleanup};
+    std::array<char, CURL_ERROR_SIZE> m_text{};
+    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy; ///< goes first: it uses the others
+};
+
+} // namespace Pelnar::Engine

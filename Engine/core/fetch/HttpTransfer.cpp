@@ -1,0 +1,398 @@
+#include "Engine/core/fetch/HttpTransfer.h"
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
+#include <sys/socket.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int SAMPLES_IN_WINDOW = 20;
+/// So long may bytes wait for more before they go to the disk.
+constexpr std::chrono::milliseconds REST_INTERVAL{10};
+constexpr int STATUS_PROXY_ASKS = 407;
+} // namespace
+
+/// What libcurl calls, with the transfer as its pointer.
+struct HttpTransfer::Callbacks
+{
+    static curl_socket_t OpenSocket(void* transfer, curlsocktype, curl_sockaddr* address)
+    {
+        // Refused before a packet is sent.
+        return static_cast<HttpTransfer*>(transfer)->MayConnectTo(ReachOf(QHostAddress(&address->addr)))
+                   ? socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol)
+                   : CURL_SOCKET_BAD;
+    }
+
+    static int BeforeRequest(void* transfer, char* server, char*, int, int)
+    {
+        QHostAddress const address(QString::fromLatin1(server));
+        return static_cast<HttpTransfer*>(transfer)->TakeConnection(address) == Verdict::GoesOn
+                   ? CURL_PREREQFUNC_OK
+                   : CURL_PREREQFUNC_ABORT;
+    }
+
+    static size_t HeadLine(char* bytes, size_t, size_t count, void* transfer)
+    {
+        QByteArray const line(bytes, static_cast<int>(count));
+        return static_cast<HttpTransfer*>(transfer)->TakeHeadLine(line) == Verdict::GoesOn ? count : 0;
+    }
+
+    static size_t Body(char* bytes, size_t, size_t count, void* transfer)
+    {
+        auto const size = static_cast<qint64>(count);
+        qint64 const taken = static_cast<HttpTransfer*>(transfer)->HoldOrTake(bytes, size);
+        return taken < 0 ? CURL_WRITEFUNC_PAUSE : static_cast<size_t>(taken);
+    }
+
+    static int Debug(CURL*, curl_infotype type, char* bytes, size_t count, void* transfer)
+    {
+        // libcurl reads no further than an answer's end. Bytes that came together with it, it names here and drops.
+        QByteArray const text = QByteArray::fromRawData(bytes, static_cast<int>(count));
+        if (type == CURLINFO_TEXT && (text.startsWith("Excess found") || text.startsWith("Leftovers after chunking")))
+        {
+            static_cast<HttpTransfer*>(transfer)->m_isSurplus = true;
+        }
+        return 0;
+    }
+};
+
+HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limits, IBodySink* sink)
+    : m_request(request), m_limits(limits), m_sink(sink), m_reader(limits.maxHeadBytes), m_loop(&CurlLoop::OfApplication())
+{
+    m_connectTimer.setSingleShot(true);
+    m_restTimer.setSingleShot(true);
+    connect(&m_connectTimer, &QTimer::timeout, this, [this] { Fail(MakeError(ErrorCause::ConnectTimeout)); });
+    connect(&m_rateTimer, &QTimer::timeout, this, &HttpTransfer::SampleRate);
+    connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Rest(); });
+}
+
+HttpTransfer::~HttpTransfer()
+{
+    Close();
+}
+
+void HttpTransfer::Open()
+{
+    m_connectTimer.start(m_limits.connectTimeout);
+    m_loop->AskSettings(m_request.url, this,
+                        [this](ConnectionSettings const& settings)
+                        {
+                            if (!m_isClosed)
+                            {
+                                Begin(settings);
+                            }
+                        });
+}
+
+void HttpTransfer::Begin(ConnectionSettings const& settings)
+{
+    m_curl = std::make_unique<CurlRequest>(m_request, m_limits, settings);
+    if (std::optional<ErrorCause> const fault = m_curl->Fault())
+    {
+        Fail(MakeError(*fault));
+        return;
+    }
+    CURL* const easy = m_curl->Handle();
+    curl_easy_setopt(easy, CURLOPT_OPENSOCKETFUNCTION, &Callbacks::OpenSocket);
+    curl_easy_setopt(easy, CURLOPT_OPENSOCKETDATA, this);
+    curl_easy_setopt(easy, CURLOPT_PREREQFUNCTION, &Callbacks::BeforeRequest);
+    curl_easy_setopt(easy, CURLOPT_PREREQDATA, this);
+    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, &Callbacks::HeadLine);
+    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Callbacks::Body);
+    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    curl_easy_setopt(easy, CURLOPT_VERBOSE, 1L);
+    curl_easy_setopt(easy, CURLOPT_DEBUGFUNCTION, &Callbacks::Debug);
+    curl_easy_setopt(easy, CURLOPT_DEBUGDATA, this);
+    auto const end = [self = QPointer<HttpTransfer>(this)](CURLcode code)
+    {
+        if (self && !self->m_isClosed)
+        {
+            self->TakeEnd(code);
+        }
+    };
+    if (!m_loop->Add(easy, end))
+    {
+        Fail(MakeError(ErrorCause::ConnectionFailed));
+    }
+}
+
+bool HttpTransfer::MayConnectTo(AddressReach reach)
+{
+    if (!m_curl->Proxy().IsDirect() || reach <= m_request.nearest)
+    {
+        return true;
+    }
+    m_refusal = ErrorCause::AddressNotPublic;
+    return false;
+}
+
+HttpTransfer::Verdict HttpTransfer::TakeConnection(QHostAddress const& server)
+{
+    m_answeredFrom = m_curl->Proxy().IsDirect() ? ReachOf(server) : ReachOf(m_request.url);
+    // A connection that is used once more was judged by another request.
+    if (!MayConnectTo(m_answeredFrom))
+    {
+        return Verdict::Ends;
+    }
+    m_refusal.reset();
+    m_stage = TransferStage::Waiting;
+    m_connectTimer.stop();
+    m_receivedAtSample = {m_received};
+    m_rateTimer.start(m_limits.rateWindow / SAMPLES_IN_WINDOW);
+    return Verdict::GoesOn;
+}
+
+HttpTransfer::Verdict HttpTransfer::TakeHeadLine(QByteArray const& line)
+{
+    m_received += line.size();
+    switch (m_reader.Take(line))
+    {
+    case HttpHeadReader::Progress::NeedsMore:
+        return Verdict::GoesOn;
+    case HttpHeadReader::Progress::Complete:
+        return TakeHead();
+    case HttpHeadReader::Progress::Failed:
+        return Refuse(m_reader.Error());
+    }
+    return Refuse(ErrorCause::MalformedHead);
+}
+
+HttpTransfer::Verdict HttpTransfer::TakeHead()
+{
+    HttpHead const& head = m_reader.Head();
+    if (head.status == STATUS_PROXY_ASKS && !m_curl->Proxy().IsDirect())
+    {
+        // libcurl may have an answer to that.
+        m_refusal = ErrorCause::ProxyAsksForPassword;
+        m_reader.Restart();
+        return Verdict::GoesOn;
+    }
+    m_refusal.reset();
+    m_stage = TransferStage::Body;
+    std::optional<qint64> const most = m_sink              ? m_sink->BeginBody(head)
+                                       : head.status == 200 ? std::optional(m_limits.maxBodyBytes)
+                                                            : std::nullopt;
+    if (!most)
+    {
+        m_isBodyUseless = true;
+        return Verdict::Ends;
+    }
+    m_limits.maxBodyBytes = *most;
+    std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
+    if (ErrorCause const* const cause = std::get_if<ErrorCause>(&framing))
+    {
+        return Refuse(*cause);
+    }
+    m_plan = std::get<BodyPlan>(framing);
+    bool const isTooLong = m_plan.kind == BodyPlan::Kind::Length && m_plan.length > m_limits.maxBodyBytes;
+    return isTooLong ? Refuse(ErrorCause::BodyTooLarge) : Verdict::GoesOn;
+}
+
+qint64 HttpTransfer::HoldOrTake(char const* bytes, qint64 size)
+{
+    if (!m_reader.HasHead())
+    {
+        return size; // of an answer that another one follows
+    }
+    if (!DeliverHeld())
+    {
+        return -1;
+    }
+    return TakeBody(bytes, size) == Verdict::GoesOn ? size : 0;
+}
+
+HttpTransfer::Verdict HttpTransfer::TakeBody(char const* bytes, qint64 size)
+{
+    m_received += size;
+    if (m_bodyBytes + size > m_limits.maxBodyBytes)
+    {
+        return Refuse(ErrorCause::BodyTooLarge);
+    }
+    m_bodyBytes += size;
+    Deliver(bytes, size);
+    bool const isWhole = m_plan.kind == BodyPlan::Kind::Length && m_bodyBytes == m_plan.length;
+    return isWhole && HasSurplus() ? Refuse(ErrorCause::SurplusBody) : Verdict::GoesOn;
+}
+
+void HttpTransfer::Deliver(char const* bytes, qint64 size)
+{
+    if (!m_sink)
+    {
+        m_body.append(bytes, static_cast<int>(size));
+        return;
+    }
+    while (size > 0)
+    {
+        BodyRoom const room = m_sink->Room();
+        qint64 const count = std::min(room.size, size);
+        if (count == 0)
+        {
+            m_held.append(bytes, static_cast<int>(size));
+            return;
+        }
+        std::memcpy(room.data, bytes, static_cast<std::size_t>(count));
+        m_sink->Took(count);
+        bytes += count;
+        size -= count;
+    }
+    if (!m_restTimer.isActive())
+    {
+        m_restTimer.start(REST_INTERVAL);
+    }
+}
+
+bool HttpTransfer::DeliverHeld()
+{
+    if (!m_held.isEmpty())
+    {
+        QByteArray const held = std::exchange(m_held, {});
+        Deliver(held.constData(), held.size());
+    }
+    m_isHeld = !m_held.isEmpty() || (m_sink && m_sink->Room().size == 0);
+    return !m_isHeld;
+}
+
+bool HttpTransfer::HasSurplus() const
+{
+    if (m_request.url.scheme() == QLatin1String("https"))
+    {
+        return m_curl->HasSecureBytes();
+    }
+    char byte = 0;
+    int const socket = m_loop->SocketOf(m_curl->Handle());
+    return socket >= 0 && recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT) > 0;
+}
+
+HttpTransfer::Verdict HttpTransfer::Refuse(ErrorCause cause)
+{
+    m_refusal = cause;
+    return Verdict::Ends;
+}
+
+void HttpTransfer::ReadOn()
+{
+    if (!m_isHeld || m_isClosed || !DeliverHeld())
+    {
+        return;
+    }
+    if (m_isEnded)
+    {
+        TakeWhole();
+        return;
+    }
+    CURLcode const code = curl_easy_pause(m_curl->Handle(), CURLPAUSE_CONT);
+    if (code != CURLE_OK)
+    {
+        TakeEnd(code);
+    }
+}
+
+void HttpTransfer::TakeEnd(CURLcode code)
+{
+    if (m_isBodyUseless)
+    {
+        Close();
+        Q_EMIT Completed();
+        return;
+    }
+    if (m_refusal)
+    {
+        Fail(MakeError(*m_refusal));
+        return;
+    }
+    if (code != CURLE_OK)
+    {
+        Fail(ErrorAt(code));
+        return;
+    }
+    bool const isShort = m_plan.kind == BodyPlan::Kind::Length && m_bodyBytes < m_plan.length;
+    if (!m_reader.HasHead() || isShort)
+    {
+        Fail(MakeError(isShort ? ErrorCause::IncompleteBody : ErrorCause::IncompleteHead));
+        return;
+    }
+    m_isEnded = true;
+    if (m_held.isEmpty())
+    {
+        TakeWhole();
+    }
+    else
+    {
+        m_isHeld = true;
+    }
+}
+
+void HttpTransfer::TakeWhole()
+{
+    if (m_isSurplus)
+    {
+        Fail(MakeError(ErrorCause::SurplusBody));
+        return;
+    }
+    if (m_sink)
+    {
+        m_sink->Rest();
+    }
+    Close();
+    Q_EMIT Completed();
+}
+
+EngineError HttpTransfer::ErrorAt(CURLcode code) const
+{
+    TransferEnd end;
+    end.code = code;
+    end.stage = m_stage;
+    end.systemError = static_cast<int>(m_curl->Number(CURLINFO_OS_ERRNO));
+    end.certificateError = m_curl->Number(CURLINFO_SSL_VERIFYRESULT);
+    end.proxyStatus = m_curl->Number(CURLINFO_HTTP_CONNECTCODE);
+    end.proxyError = m_curl->Number(CURLINFO_PROXY_ERROR);
+    end.hasProxy = !m_curl->Proxy().IsDirect();
+    end.text = m_curl->Text();
+    return ErrorOf(end);
+}
+
+void HttpTransfer::SampleRate()
+{
+    if (m_isHeld)
+    {
+        m_receivedAtSample = {m_received}; // it is not the server that is slow
+        return;
+    }
+    m_receivedAtSample.push_back(m_received);
+    if (m_receivedAtSample.size() <= SAMPLES_IN_WINDOW)
+    {
+        return;
+    }
+    qint64 const inWindow = m_received - m_receivedAtSample.front();
+    m_receivedAtSample.pop_front();
+    if (inWindow * 1000 < m_limits.minBytesPerSecond * m_limits.rateWindow.count())
+    {
+        Fail(MakeError(ErrorCause::TooSlow));
+    }
+}
+
+void HttpTransfer::Close()
+{
+    m_isClosed = true;
+    m_connectTimer.stop();
+    m_rateTimer.stop();
+    m_restTimer.stop();
+    if (m_loop && m_curl)
+    {
+        m_loop->Remove(m_curl->Handle());
+    }
+}
+
+void HttpTransfer::Fail(EngineError const& error)
+{
+    Close();
+    Q_EMIT Failed(error);
+}
+
+} // namespace Pelnar::Engine

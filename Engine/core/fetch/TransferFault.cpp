@@ -1,0 +1,150 @@
+#include "Engine/core/fetch/TransferFault.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <optional>
+
+#include <openssl/x509_vfy.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr long STATUS_PROXY_ASKS = 407;
+
+struct CertificateRule
+{
+    long error;
+    ErrorCause cause;
+};
+
+constexpr std::array CERTIFICATE_RULES = {
+    CertificateRule{X509_V_ERR_DEPTH_ZERO_SELF_SIGNED_CERT, ErrorCause::CertificateSelfSigned},
+    CertificateRule{X509_V_ERR_SELF_SIGNED_CERT_IN_CHAIN, ErrorCause::CertificateAuthorityUnknown},
+    CertificateRule{X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT_LOCALLY, ErrorCause::CertificateAuthorityUnknown},
+    CertificateRule{X509_V_ERR_UNABLE_TO_GET_ISSUER_CERT, ErrorCause::CertificateAuthorityUnknown},
+    CertificateRule{X509_V_ERR_UNABLE_TO_VERIFY_LEAF_SIGNATURE, ErrorCause::CertificateAuthorityUnknown},
+    CertificateRule{X509_V_ERR_CERT_UNTRUSTED, ErrorCause::CertificateAuthorityUnknown},
+    CertificateRule{X509_V_ERR_CERT_NOT_YET_VALID, ErrorCause::CertificateNotYetValid},
+    CertificateRule{X509_V_ERR_CERT_HAS_EXPIRED, ErrorCause::CertificateExpired},
+    CertificateRule{X509_V_ERR_HOSTNAME_MISMATCH, ErrorCause::CertificateWrongName},
+    CertificateRule{X509_V_ERR_IP_ADDRESS_MISMATCH, ErrorCause::CertificateWrongName},
+    // libcurl compares the names once more, and has no number for that.
+    CertificateRule{X509_V_ERR_UNSPECIFIED, ErrorCause::CertificateWrongName},
+};
+
+struct CodeRule
+{
+    CURLcode code;
+    ErrorCause cause;
+};
+
+constexpr std::array CODE_RULES = {
+    CodeRule{CURLE_COULDNT_RESOLVE_HOST, ErrorCause::HostNotFound},
+    CodeRule{CURLE_COULDNT_RESOLVE_PROXY, ErrorCause::ProxyFailed},
+    CodeRule{CURLE_OPERATION_TIMEDOUT, ErrorCause::ConnectTimeout},
+    CodeRule{CURLE_SSL_CONNECT_ERROR, ErrorCause::HandshakeRefused},
+    CodeRule{CURLE_SSL_CIPHER, ErrorCause::HandshakeRefused},
+    CodeRule{CURLE_UNSUPPORTED_PROTOCOL, ErrorCause::MalformedHead}, // what came is no answer of HTTP/1 or later
+    CodeRule{CURLE_WEIRD_SERVER_REPLY, ErrorCause::MalformedHead},
+    CodeRule{CURLE_BAD_CONTENT_ENCODING, ErrorCause::TransferEncodingRefused},
+    CodeRule{CURLE_OUT_OF_MEMORY, ErrorCause::HeadTooLarge}, // also of a line that does not end
+    CodeRule{CURLE_GOT_NOTHING, ErrorCause::IncompleteHead},
+};
+
+constexpr std::array BREAKS = {CURLE_RECV_ERROR, CURLE_SEND_ERROR, CURLE_PARTIAL_FILE, CURLE_HTTP2, CURLE_HTTP2_STREAM};
+
+struct SystemRule
+{
+    int error;
+    ErrorCause cause;
+};
+
+constexpr std::array SYSTEM_RULES = {
+    SystemRule{ECONNREFUSED, ErrorCause::ConnectionRefused}, SystemRule{ENETUNREACH, ErrorCause::NetworkUnreachable},
+    SystemRule{EHOSTUNREACH, ErrorCause::NetworkUnreachable}, SystemRule{ENETDOWN, ErrorCause::NetworkUnreachable},
+    SystemRule{ETIMEDOUT, ErrorCause::ConnectTimeout},
+};
+
+ErrorCause CauseOfCertificate(long error)
+{
+    auto const rule = std::find_if(CERTIFICATE_RULES.begin(), CERTIFICATE_RULES.end(),
+                                   [error](CertificateRule const& candidate) { return candidate.error == error; });
+    return rule == CERTIFICATE_RULES.end() ? ErrorCause::CertificateInvalid : rule->cause;
+}
+
+ErrorCause CauseOfConnecting(TransferEnd const& end)
+{
+    if (end.hasProxy)
+    {
+        return ErrorCause::ProxyFailed;
+    }
+    auto const rule = std::find_if(SYSTEM_RULES.begin(), SYSTEM_RULES.end(), [&end](SystemRule const& candidate)
+                                   { return candidate.error == end.systemError; });
+    return rule == SYSTEM_RULES.end() ? ErrorCause::ConnectionFailed : rule->cause;
+}
+
+ErrorCause CauseOfProxy(long error)
+{
+    bool const isAboutPassword =
+        error == CURLPX_NO_AUTH || error == CURLPX_USER_REJECTED || error == CURLPX_LONG_USER || error == CURLPX_LONG_PASSWD;
+    bool const isAnswer = error >= CURLPX_REPLY_ADDRESS_TYPE_NOT_SUPPORTED && error <= CURLPX_REPLY_UNASSIGNED;
+    return isAboutPassword ? ErrorCause::ProxyAsksForPassword
+           : isAnswer      ? ErrorCause::ProxyRefused
+                           : ErrorCause::ProxyFailed;
+}
+
+/// Of a connection that broke once it stood.
+ErrorCause CauseOfBreak(TransferEnd const& end)
+{
+    switch (end.stage)
+    {
+    case TransferStage::Connecting:
+        return CauseOfConnecting(end);
+    case TransferStage::Waiting:
+        return ErrorCause::IncompleteHead;
+    case TransferStage::Body:
+        // libcurl has one code for both; the text alone tells a chunk that is wrong from one that did not come.
+        return end.text.contains(QLatin1String("chunked-encoding")) ? ErrorCause::MalformedChunk
+                                                                    : ErrorCause::IncompleteBody;
+    }
+    return ErrorCause::ConnectionFailed;
+}
+
+ErrorCause CauseOf(TransferEnd const& end)
+{
+    if (end.stage == TransferStage::Connecting && end.proxyStatus >= 300)
+    {
+        return end.proxyStatus == STATUS_PROXY_ASKS ? ErrorCause::ProxyAsksForPassword : ErrorCause::ProxyRefused;
+    }
+    if (end.code == CURLE_PROXY)
+    {
+        return CauseOfProxy(end.proxyError);
+    }
+    if (end.code == CURLE_PEER_FAILED_VERIFICATION)
+    {
+        return CauseOfCertificate(end.certificateError);
+    }
+    if (end.code == CURLE_COULDNT_CONNECT)
+    {
+        return CauseOfConnecting(end);
+    }
+    if (std::find(BREAKS.begin(), BREAKS.end(), end.code) != BREAKS.end())
+    {
+        return CauseOfBreak(end);
+    }
+    auto const rule = std::find_if(CODE_RULES.begin(), CODE_RULES.end(),
+                                   [&end](CodeRule const& candidate) { return candidate.code == end.code; });
+    return rule == CODE_RULES.end() ? ErrorCause::ConnectionFailed : rule->cause;
+}
+
+} // namespace
+
+EngineError ErrorOf(TransferEnd const& end)
+{
+    return MakeError(CauseOf(end), end.text);
+}
+
+} // namespace Pelnar::Engine

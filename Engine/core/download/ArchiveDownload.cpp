@@ -269,9 +269,8 @@ private:
 
     void Follow(HttpHead const& head, AddressReach answeredFrom)
     {
-        std::variant<FetchRequest, ErrorCause> const next =
-            JudgeRedirect(m_sent, answeredFrom, head.Values("location"), ++m_redirects, m_request.insecureHttp,
-                          m_request.limits);
+        std::variant<FetchRequest, ErrorCause> const next = JudgeRedirect(
+            m_sent, answeredFrom, head.Values("location"), ++m_redirects, m_request.insecureHttp, m_request.limits);
         if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
         {
             End(AsDownloadError(MakeError(*cause)));

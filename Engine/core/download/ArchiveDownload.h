@@ -33,7 +33,7 @@ struct DownloadRequest
     QString signature;         ///< as the feed gives it; with address and length it tells one archive from another
     QUrl feedUrl;              ///< the feed's, whose user name and password its own origin gets as well
     AddressReach feedReach = AddressReach::Network; ///< the archive is fetched from no nearer address
-    QString folder;            ///< absolute; made if missing; this user's alone; where the file grows
+    QString folder; ///< absolute; made if missing; this user's alone; where the file grows
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits limits; ///< maxBodyBytes and totalTimeout do not apply to an archive
     DownloadFor purpose = DownloadFor::Nobody;

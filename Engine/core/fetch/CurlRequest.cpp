@@ -194,10 +194,10 @@ bool CurlRequest::PrepareSecurity(SSL_CTX* context) const
     // Deliberate: OpenSSL takes an empty name for none, and would check nothing.
     bool const isSet = name.isEmpty() ? false
                        : isAddress    ? X509_VERIFY_PARAM_set1_ip_asc(parameters, name.constData()) == 1
-                                 : X509_VERIFY_PARAM_set1_host(parameters, name.constData(), 0) == 1;
+                                      : X509_VERIFY_PARAM_set1_host(parameters, name.constData(), 0) == 1;
     // Whatever OpenSSL's configuration permits.
-    bool const isStrong = SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) == 1 &&
-                          SSL_CTX_set_cipher_list(context, CIPHERS) == 1;
+    bool const isStrong =
+        SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) == 1 && SSL_CTX_set_cipher_list(context, CIPHERS) == 1;
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), LEAST_SECURITY_LEVEL));
     // A connection that ends without saying so was cut.
     SSL_CTX_clear_options(context, SSL_OP_IGNORE_UNEXPECTED_EOF);

@@ -92,8 +92,8 @@ void FeedFetcher::TakeAnswer()
     HttpHead const& head = m_transfer->Head();
     if (IsRedirect(head.status))
     {
-        std::variant<FetchRequest, ErrorCause> const next =
-            JudgeRedirect(m_request, m_transfer->AnsweredFrom(), head.Values("location"), ++m_redirects, m_insecureHttp, m_limits);
+        std::variant<FetchRequest, ErrorCause> const next = JudgeRedirect(
+            m_request, m_transfer->AnsweredFrom(), head.Values("location"), ++m_redirects, m_insecureHttp, m_limits);
         if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
         {
             Fail(MakeError(*cause));

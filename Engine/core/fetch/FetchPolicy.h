@@ -50,8 +50,8 @@ struct HeaderField
 struct FetchRequest
 {
     QUrl url;
-    std::vector<HeaderField> fields;      ///< for the origin of url only
-    std::vector<HeaderField> rangeFields; ///< for the server that answers in the end
+    std::vector<HeaderField> fields;                   ///< for the origin of url only
+    std::vector<HeaderField> rangeFields;              ///< for the server that answers in the end
     AddressReach nearest = AddressReach::ThisComputer; ///< no connection is made to a nearer address
 };
 
@@ -77,11 +77,9 @@ FetchRequest RequestFor(QUrl const& url, QUrl const& feedUrl = QUrl());
 /// Where the answer \a location to \a request leads, by hop number \a hop (from 1), or why it is not followed. The
 /// fields go along while the origin stays the same; user name and password in \a location are dropped. It leads to no
 /// address that is nearer than \a answeredFrom, where the answer came from.
-[[nodiscard]] std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request,
-                                                                   AddressReach answeredFrom,
-                                                                   std::vector<QByteArray> const& locations, int hop,
-                                                                   InsecureHttp insecureHttp,
-                                                                   FetchLimits const& limits);
+[[nodiscard]] std::variant<FetchRequest, ErrorCause>
+JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom, std::vector<QByteArray> const& locations, int hop,
+              InsecureHttp insecureHttp, FetchLimits const& limits);
 
 /// True for bytes that begin as a web page does, whatever XML would make of them: a network's login page, say.
 [[nodiscard]] bool BeginsAsWebPage(QByteArray const& bytes);

@@ -31,9 +31,8 @@ struct HttpTransfer::Callbacks
     static int BeforeRequest(void* transfer, char* server, char*, int, int)
     {
         QHostAddress const address(QString::fromLatin1(server));
-        return static_cast<HttpTransfer*>(transfer)->TakeConnection(address) == Verdict::GoesOn
-                   ? CURL_PREREQFUNC_OK
-                   : CURL_PREREQFUNC_ABORT;
+        return static_cast<HttpTransfer*>(transfer)->TakeConnection(address) == Verdict::GoesOn ? CURL_PREREQFUNC_OK
+                                                                                                : CURL_PREREQFUNC_ABORT;
     }
 
     static size_t HeadLine(char* bytes, size_t, size_t count, void* transfer)
@@ -62,7 +61,11 @@ struct HttpTransfer::Callbacks
 };
 
 HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limits, IBodySink* sink)
-    : m_request(request), m_limits(limits), m_sink(sink), m_reader(limits.maxHeadBytes), m_loop(&CurlLoop::OfApplication())
+    : m_request(request)
+    , m_limits(limits)
+    , m_sink(sink)
+    , m_reader(limits.maxHeadBytes)
+    , m_loop(&CurlLoop::OfApplication())
 {
     m_connectTimer.setSingleShot(true);
     m_restTimer.setSingleShot(true);
@@ -175,7 +178,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     }
     m_refusal.reset();
     m_stage = TransferStage::Body;
-    std::optional<qint64> const most = m_sink              ? m_sink->BeginBody(head)
+    std::optional<qint64> const most = m_sink               ? m_sink->BeginBody(head)
                                        : head.status == 200 ? std::optional(m_limits.maxBodyBytes)
                                                             : std::nullopt;
     if (!most)

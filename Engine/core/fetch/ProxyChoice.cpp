@@ -32,8 +32,8 @@ ProxyChoice ParseProxy(QString const& text)
     QUrl const url(text.contains(QLatin1String("://")) ? text : QLatin1String("http://") + text);
     ProxyChoice proxy;
     auto const rule =
-        std::find_if(SCHEME_RULES.begin(), SCHEME_RULES.end(), [&url](SchemeRule const& candidate)
-                     { return url.scheme() == QLatin1String(candidate.scheme); });
+        std::find_if(SCHEME_RULES.begin(), SCHEME_RULES.end(),
+                     [&url](SchemeRule const& candidate) { return url.scheme() == QLatin1String(candidate.scheme); });
     if (rule == SCHEME_RULES.end() || !url.isValid() || url.host().isEmpty())
     {
         proxy.kind = ProxyChoice::Kind::Unknown;
@@ -58,8 +58,9 @@ bool IsExcepted(QString const& host, QString entry)
     if (!address.isNull())
     {
         QPair<QHostAddress, int> const subnet = QHostAddress::parseSubnet(entry);
-        return entry.contains(QLatin1Char('/')) ? subnet.second >= 0 && address.isInSubnet(subnet)
-                                                : address == QHostAddress(entry.remove(QLatin1Char('[')).remove(QLatin1Char(']')));
+        return entry.contains(QLatin1Char('/'))
+                   ? subnet.second >= 0 && address.isInSubnet(subnet)
+                   : address == QHostAddress(entry.remove(QLatin1Char('[')).remove(QLatin1Char(']')));
     }
     while (entry.startsWith(QLatin1Char('.')))
     {
@@ -95,22 +96,19 @@ std::optional<ProxyChoice> ApplicationsProxy(QUrl const& url)
         return std::nullopt;
     }
     QList<QNetworkProxy> const proxies = QNetworkProxyFactory::proxyForQuery(QNetworkProxyQuery(url));
-    bool const hasNone = std::all_of(proxies.begin(), proxies.end(),
-                                     [](QNetworkProxy const& proxy)
-                                     {
-                                         return proxy.type() == QNetworkProxy::NoProxy ||
-                                                proxy.type() == QNetworkProxy::DefaultProxy;
-                                     });
+    bool const hasNone =
+        std::all_of(proxies.begin(), proxies.end(),
+                    [](QNetworkProxy const& proxy)
+                    { return proxy.type() == QNetworkProxy::NoProxy || proxy.type() == QNetworkProxy::DefaultProxy; });
     return hasNone ? std::nullopt : std::optional(FirstUsable(proxies));
 }
 
 std::optional<ProxyChoice> EnvironmentsProxy(QUrl const& url, Environment const& environment)
 {
     // Deliberate: HTTP_PROXY does not count. A server that runs programs sets it to what a client sent as "Proxy".
-    QByteArray const value =
-        url.scheme() == QLatin1String("https")
-            ? FirstSet({"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY"}, environment)
-            : FirstSet({"http_proxy", "all_proxy", "ALL_PROXY"}, environment);
+    QByteArray const value = url.scheme() == QLatin1String("https")
+                                 ? FirstSet({"https_proxy", "HTTPS_PROXY", "all_proxy", "ALL_PROXY"}, environment)
+                                 : FirstSet({"http_proxy", "all_proxy", "ALL_PROXY"}, environment);
     if (value.isEmpty())
     {
         return std::nullopt;
@@ -118,8 +116,8 @@ std::optional<ProxyChoice> EnvironmentsProxy(QUrl const& url, Environment const&
     QString exceptions = QString::fromLocal8Bit(FirstSet({"no_proxy", "NO_PROXY"}, environment));
     exceptions.replace(QLatin1Char(','), QLatin1Char(' '));
     QStringList const entries = exceptions.simplified().split(QLatin1Char(' '), Qt::SkipEmptyParts);
-    bool const isExcepted = std::any_of(entries.begin(), entries.end(), [host = url.host()](QString const& entry)
-                                        { return IsExcepted(host, entry); });
+    bool const isExcepted = std::any_of(entries.begin(), entries.end(),
+                                        [host = url.host()](QString const& entry) { return IsExcepted(host, entry); });
     return isExcepted ? ProxyChoice() : ParseProxy(QString::fromLocal8Bit(value));
 }
 

@@ -63,7 +63,7 @@ struct SystemRule
 };
 
 constexpr std::array SYSTEM_RULES = {
-    SystemRule{ECONNREFUSED, ErrorCause::ConnectionRefused}, SystemRule{ENETUNREACH, ErrorCause::NetworkUnreachable},
+    SystemRule{ECONNREFUSED, ErrorCause::ConnectionRefused},  SystemRule{ENETUNREACH, ErrorCause::NetworkUnreachable},
     SystemRule{EHOSTUNREACH, ErrorCause::NetworkUnreachable}, SystemRule{ENETDOWN, ErrorCause::NetworkUnreachable},
     SystemRule{ETIMEDOUT, ErrorCause::ConnectTimeout},
 };
@@ -81,15 +81,15 @@ ErrorCause CauseOfConnecting(TransferEnd const& end)
     {
         return ErrorCause::ProxyFailed;
     }
-    auto const rule = std::find_if(SYSTEM_RULES.begin(), SYSTEM_RULES.end(), [&end](SystemRule const& candidate)
-                                   { return candidate.error == end.systemError; });
+    auto const rule = std::find_if(SYSTEM_RULES.begin(), SYSTEM_RULES.end(),
+                                   [&end](SystemRule const& candidate) { return candidate.error == end.systemError; });
     return rule == SYSTEM_RULES.end() ? ErrorCause::ConnectionFailed : rule->cause;
 }
 
 ErrorCause CauseOfProxy(long error)
 {
-    bool const isAboutPassword =
-        error == CURLPX_NO_AUTH || error == CURLPX_USER_REJECTED || error == CURLPX_LONG_USER || error == CURLPX_LONG_PASSWD;
+    bool const isAboutPassword = error == CURLPX_NO_AUTH || error == CURLPX_USER_REJECTED ||
+                                 error == CURLPX_LONG_USER || error == CURLPX_LONG_PASSWD;
     bool const isAnswer = error >= CURLPX_REPLY_ADDRESS_TYPE_NOT_SUPPORTED && error <= CURLPX_REPLY_UNASSIGNED;
     return isAboutPassword ? ErrorCause::ProxyAsksForPassword
            : isAnswer      ? ErrorCause::ProxyRefused

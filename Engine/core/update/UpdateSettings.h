@@ -43,7 +43,7 @@ struct UpdateSettings
     UpdateSwitch updates = UpdateSwitch::On;
     BackOffState backOff;
     AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
-    QString downloadFolder; ///< absolute; this user's alone
+    QString downloadFolder;                         ///< absolute; this user's alone
 };
 
 } // namespace Pelnar::Engine

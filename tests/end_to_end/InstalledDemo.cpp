@@ -175,6 +175,21 @@ void PublishedSite::Write(char const* name, QByteArray const& bytes) const
     file.write(bytes);
 }
 
+QString PublishedSite::Published(char const* name)
+{
+    return Testing::Published(name);
+}
+
+QByteArray PublishedSite::Sign(char const* name) const
+{
+    QProcess tool;
+    tool.start(QStringLiteral(PELNAR_APPCAST_PROGRAM),
+               {QStringLiteral("sign"), m_folder.filePath(QString::fromLatin1(name)), QStringLiteral("--key"),
+                Testing::Published("signing.key")});
+    EXPECT_TRUE(tool.waitForFinished() && tool.exitCode() == 0) << name;
+    return tool.readAllStandardOutput().trimmed();
+}
+
 void PublishedSite::Run(char const* verb, char const* name, QStringList const& more) const
 {
     QStringList const arguments{QString::fromLatin1(verb), m_folder.filePath(QString::fromLatin1(name)),

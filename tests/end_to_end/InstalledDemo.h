@@ -41,6 +41,10 @@ public:
     QString Path() const { return m_folder.path(); }
     QByteArray Read(char const* name) const;
     void Write(char const* name, QByteArray const& bytes) const;
+    /// The path of \a name in the folder that Demo/publish has made.
+    static QString Published(char const* name);
+    /// The attributes of the enclosure of an archive in the folder, signed with the publisher's key.
+    QByteArray Sign(char const* name) const;
     /// Runs the publisher's tool with the publisher's key on a file of the folder.
     void Run(char const* verb, char const* name, QStringList const& more = {}) const;
 

@@ -97,6 +97,7 @@ void ScriptedHost::StoreFeedRecord(FeedRecord const& record)
 
 void ScriptedHost::StoreBackOff(BackOffState const& state)
 {
+    backOff = state;
     Note("failures " + std::to_string(state.failures));
 }
 

@@ -69,6 +69,7 @@ public:
     std::function<void()> onEnded;
     std::size_t itemCount = 0;
     std::optional<Engine::FeedRecord> feedRecord;
+    std::optional<Engine::BackOffState> backOff; ///< as it was stored last
 
 private:
     void Note(std::string const& note);

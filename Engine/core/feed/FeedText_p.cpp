@@ -83,6 +83,16 @@ int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
     return size;
 }
 
+/// Longer ones are refused by servers, and serve nobody but who wants to fill a request.
+constexpr int MAX_ADDRESS_CHARACTERS = 8 * 1024;
+/// A character becomes at most nine when it is encoded.
+constexpr int CERTAINLY_SHORT = MAX_ADDRESS_CHARACTERS / 9;
+
+bool IsTooLong(QString const& text, QUrl const& address)
+{
+    return text.size() > CERTAINLY_SHORT && address.toEncoded().size() > MAX_ADDRESS_CHARACTERS;
+}
+
 /// "zip", "dmg" and "gz", but not the "1" of "App_1.1" nor the "0b2" of "App_1.0b2".
 bool IsExtension(QStringRef text)
 {
@@ -161,9 +171,10 @@ QUrl FeedAddress(QString const& text, QUrl const& base)
     QUrl address(text);
     if (!address.isValid() || !address.isRelative())
     {
-        return address.isValid() ? address : QUrl();
+        return address.isValid() && !IsTooLong(text, address) ? address : QUrl();
     }
-    return base.resolved(address);
+    QUrl const resolved = base.resolved(address);
+    return IsTooLong(text, resolved) ? QUrl() : resolved;
 }
 
 } // namespace Pelnar::Engine

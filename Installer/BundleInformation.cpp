@@ -103,6 +103,19 @@ std::string ReadInformation(int bundleFd)
     return text;
 }
 
+Engine::BundlePurpose PurposeOf(Engine::PayloadKind kind)
+{
+    switch (kind)
+    {
+    case Engine::PayloadKind::WholeBundle:
+    case Engine::PayloadKind::Delta:
+        return Engine::BundlePurpose::Application;
+    case Engine::PayloadKind::Installer:
+        return Engine::BundlePurpose::InstallerProgram;
+    }
+    return Engine::BundlePurpose::Unknown;
+}
+
 bool IsRunnableHere(char const* bytes, std::size_t size)
 {
     if (size >= 2 && bytes[0] == '#' && bytes[1] == '!')
@@ -131,6 +144,10 @@ Engine::BundleInformation ReadBundleInformation(int bundleFd, std::string const&
 void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation)
 {
     Engine::BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
+    if (information.purpose != PurposeOf(expectation.kind))
+    {
+        throw UpdateRefusal(UpdateFault::PayloadKindDiffers);
+    }
     if (information.identifier != expectation.identifier)
     {
         throw UpdateRefusal(UpdateFault::IdentifierDiffers);

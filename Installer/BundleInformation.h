@@ -23,9 +23,10 @@ struct BundleExpectation
     std::string installedVersion;
 };
 
-/// Throws UpdateRefusal unless the bundle is of that identifier and version, newer than the installed one, trusts some
-/// key, and begins with something that this machine can run. A bundle whose program installs the new version is never
-/// updated itself and needs no key.
+/// Throws UpdateRefusal unless the bundle says that it is of that kind, identifier and version, is newer than the
+/// installed one, trusts some key, and begins with something that this machine can run. A bundle whose program installs
+/// the new version is never updated itself and needs no key.
+/// \a bundleName: the name that its folder will have when it is started.
 void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation);
 
 /// Throws UpdateRefusal: ExecutableMissing, ExecutableNotRunnable, ExecutableForeign.

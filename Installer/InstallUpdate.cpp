@@ -107,7 +107,7 @@ void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, i
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
     }
-    CheckNewBundle(stagedFd, job.stagedName,
+    CheckNewBundle(stagedFd, job.kind == PayloadKind::Installer ? job.stagedName : job.targetName,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
 }
 

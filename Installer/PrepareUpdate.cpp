@@ -176,7 +176,9 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     bool const isDelta = job.kind == PayloadKind::Delta;
     ConfineTo(descriptors.staging, isDelta ? std::vector<int>{descriptors.target} : std::vector<int>());
     Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, before, report);
-    CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), bundle.name,
+    // An installer program is started from where it was unpacked, a bundle from the installed one's place.
+    std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
+    CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
     SyncStaged(descriptors.staging);
     report.Send(Engine::PreparedReport{bundle.digest, bundle.name});

@@ -622,6 +622,10 @@
         <translation>ليس للتطبيق الموجود في التحديث مفتاح عام، فلن يمكن تحديثه بعد ذلك أبدًا. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>محتوى التحديث لا يطابق اسم ملفه. اتصل بالناشر.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>ليس في التطبيق الموجود في التحديث برنامج لتشغيله. أبلغ الناشر بذلك.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>Die Anwendung im Update hat keinen öffentlichen Schlüssel, sodass sie nie wieder aktualisiert werden könnte. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>Der Inhalt des Updates passt nicht zu seinem Dateinamen. Wenden Sie sich an den Herausgeber.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>Die Anwendung im Update hat kein Programm, das gestartet werden kann. Bitte informieren Sie den Herausgeber.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>La aplicación de la actualización no tiene clave pública, así que nunca más se podría actualizar: informe al editor.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>El contenido de la actualización no coincide con su nombre de archivo. Póngase en contacto con el editor.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>La aplicación de la actualización no tiene ningún programa que abrir: informe al editor.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>L’application de la mise à jour n’a pas de clé publique et ne pourrait donc plus jamais être mise à jour&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>Le contenu de la mise à jour ne correspond pas à son nom de fichier. Contactez l'éditeur.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>L’application de la mise à jour n’a pas de programme à lancer&#xa0;: prévenez l’éditeur.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>ליישום שבעדכון אין מפתח ציבורי, ולכן לא ניתן יהיה לעדכן אותו שוב לעולם. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>תוכן העדכון אינו תואם את שם הקובץ שלו. פנו למפיץ.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>ביישום שבעדכון אין תוכנית להפעלה. יש להודיע ליצרן התוכנה.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>L’applicazione nell’aggiornamento non ha una chiave pubblica, quindi non potrebbe mai più essere aggiornata: informare il produttore.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>Il contenuto dell'aggiornamento non corrisponde al nome del file. Contatti l'editore.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>L’applicazione nell’aggiornamento non ha un programma da avviare: informare il produttore.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>アップデートに含まれるアプリケーションに公開鍵がないため、以後アップデートできなくなります。発行元に連絡してください。</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>アップデートの内容がファイル名と一致しません。発行元にお問い合わせください。</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>アップデートに含まれるアプリケーションに、起動するプログラムがありません。発行元に連絡してください。</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>De app in de update heeft geen openbare sleutel, zodat hij nooit meer kan worden bijgewerkt: informeer de uitgever.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>De inhoud van de update past niet bij de bestandsnaam. Neem contact op met de uitgever.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>De app in de update heeft geen programma om te starten: informeer de uitgever.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>Aplikacja w aktualizacji nie ma klucza publicznego, więc już nigdy nie można by jej zaktualizować. Powiadom wydawcę.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>Zawartość aktualizacji nie zgadza się z nazwą jej pliku. Skontaktuj się z wydawcą.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>Aplikacja w aktualizacji nie ma programu do uruchomienia. Powiadom wydawcę.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>O aplicativo na atualização não tem chave pública, portanto nunca mais poderia ser atualizado: avise o fornecedor.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>O conteúdo da atualização não corresponde ao nome do arquivo. Entre em contato com o editor.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>O aplicativo na atualização não tem programa para iniciar: avise o fornecedor.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>У программы в обновлении нет открытого ключа, её больше никогда нельзя было бы обновить. Сообщите об этом издателю.</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>Содержимое обновления не соответствует имени его файла. Обратитесь к издателю.</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>В программе из обновления нечего запускать. Сообщите об этом издателю.</translation>
     </message>

@@ -622,6 +622,10 @@
         <translation>更新中的应用程序没有公钥，以后将无法再更新。请告知发布者。</translation>
     </message>
     <message>
+        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <translation>更新的内容与其文件名不符。请联系发布者。</translation>
+    </message>
+    <message>
         <source>The application in the update has no program to start: tell the publisher.</source>
         <translation>更新中的应用程序没有可启动的程序。请告知发布者。</translation>
     </message>

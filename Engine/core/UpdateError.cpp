@@ -253,6 +253,10 @@ FaultDescription DescriptionOf(UpdateFault fault)
                 "PelnarEngine_Errors",
                 "The application in the update has no public key, so that it could never be updated again: tell the "
                 "publisher.")};
+    case UpdateFault::PayloadKindDiffers:
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The contents of the update do not match its file name: tell the publisher.")};
     case UpdateFault::ExecutableMissing:
         return {ErrorCode::Validation,
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors",
@@ -453,6 +457,7 @@ bool IsArchiveToBlame(UpdateFault fault)
     case UpdateFault::ExecutableMissing:
     case UpdateFault::ExecutableNotRunnable:
     case UpdateFault::ExecutableForeign:
+    case UpdateFault::PayloadKindDiffers:
         return true;
     case UpdateFault::None:
     case UpdateFault::JobMalformed:

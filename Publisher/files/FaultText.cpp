@@ -144,6 +144,7 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::FolderUnsafe:
     case UpdateFault::ProcessHandlesUnavailable:
     case UpdateFault::SealedMemoryUnavailable:
+    case UpdateFault::PayloadKindDiffers: // told by whoever knows both kinds
         break;
     }
     return {nullptr, ""};

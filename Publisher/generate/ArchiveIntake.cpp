@@ -5,6 +5,7 @@
 #include "Publisher/choice/FeedChoice.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
@@ -30,27 +31,51 @@ bool Clashes(NewItem const& item, NewItem const& other)
            other.platform == item.platform;
 }
 
-std::optional<Engine::FeedPlatform> PlatformOfEnding(QString const& fileName)
+constexpr char const* MAC_PACKAGE_ENDINGS[] = {".pkg", ".mpkg"};
+constexpr char MAC_IMAGE_ENDING[] = ".dmg";
+
+bool HasMacEnding(QString const& fileName)
 {
-    struct Ending
+    return fileName.endsWith(QLatin1String(MAC_IMAGE_ENDING), Qt::CaseInsensitive) ||
+           std::any_of(std::begin(MAC_PACKAGE_ENDINGS), std::end(MAC_PACKAGE_ENDINGS),
+                       [&fileName](char const* ending)
+                       { return fileName.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+}
+
+/// What an installer for macOS is must show in its bytes, as its name says it: a package begins, an image ends so.
+void CheckMacInstaller(InputFile const& file)
+{
+    constexpr char PACKAGE_MARK[] = {'x', 'a', 'r', '!'};
+    constexpr char IMAGE_MARK[] = {'k', 'o', 'l', 'y'};
+    constexpr std::uint64_t IMAGE_TRAILER_BYTES = 512;
+    bool const isImage = file.name.endsWith(QLatin1String(MAC_IMAGE_ENDING), Qt::CaseInsensitive);
+    std::uint64_t const offset = isImage && file.size > IMAGE_TRAILER_BYTES ? file.size - IMAGE_TRAILER_BYTES : 0;
+    char mark[4] = {};
+    bool const isRead = Engine::ReadUpTo(file.descriptor.Get(), offset, mark, sizeof mark) == sizeof mark;
+    bool const isSame = std::equal(std::begin(mark), std::end(mark), isImage ? IMAGE_MARK : PACKAGE_MARK);
+    if (file.size > 0 && !(isRead && isSame)) // an empty file is told of when it is signed
     {
-        char const* text;
-        Engine::FeedPlatform platform;
-    };
-    using Engine::FeedPlatform;
-    constexpr Ending ENDINGS[] = {
-        {".pkg", FeedPlatform::MacOS}, {".mpkg", FeedPlatform::MacOS}, {".dmg", FeedPlatform::MacOS},
-        {".deb", FeedPlatform::Linux}, {".rpm", FeedPlatform::Linux},  {".run", FeedPlatform::Linux},
-        {".sh", FeedPlatform::Linux},  {".bin", FeedPlatform::Linux},  {".AppImage", FeedPlatform::Linux},
-    };
-    for (Ending const& ending : ENDINGS)
-    {
-        if (fileName.endsWith(QLatin1String(ending.text), Qt::CaseInsensitive))
-        {
-            return ending.platform;
-        }
+        throw Refusal({file.name, 0, 0,
+                       isImage ? QStringLiteral("is no disk image") : QStringLiteral("is no installer package"),
+                       QStringLiteral("give it the ending of what it is")});
     }
-    return std::nullopt;
+}
+
+void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePurpose purpose, QString const& path)
+{
+    if (information.purpose == purpose)
+    {
+        return;
+    }
+    bool const isBundle = purpose == Engine::BundlePurpose::Application;
+    throw Refusal({path, 0, 0,
+                   isBundle ? QStringLiteral("its name is a bundle's, but the PelnarPayloadKind inside is another")
+                            : QStringLiteral("its name is an installer's, but inside it is not said to be one"),
+                   isBundle
+                       ? QStringLiteral("remove PelnarPayloadKind from the bundle's information file, or mark the "
+                                        "name of an installer with .sparkle_guided. or .sparkle_interactive.")
+                       : QStringLiteral("write PelnarPayloadKind = installer into the information file of a bundle "
+                                        "that installs the new version, or remove the mark from the name")});
 }
 
 } // namespace
@@ -78,8 +103,9 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive)
 {
     QString const path = m_workplace.PathOf(archive.fileName);
     BundleTree const bundle = m_workplace.Unpack(archive.fileName);
-    CheckBundle(bundle, path);
     Engine::BundleInformation const& information = bundle.Information();
+    CheckPurpose(information, Engine::BundlePurpose::Application, path);
+    CheckBundle(bundle, path);
     NewItem item;
     item.platform = bundle.Platform();
     QString const bundleName = QString::fromStdString(bundle.Name());
@@ -98,9 +124,8 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive)
     return item;
 }
 
-void ArchiveIntake::CheckBundle(BundleTree const& bundle, QString const& path)
+void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, QString const& path)
 {
-    Engine::BundleInformation const& information = bundle.Information();
     if (information.identifier.empty())
     {
         throw Refusal({path, 0, 0, QStringLiteral("the bundle has no CFBundleIdentifier, so that clients refuse it"),
@@ -116,6 +141,12 @@ void ArchiveIntake::CheckBundle(BundleTree const& bundle, QString const& path)
     }
     m_identifier = information.identifier;
     m_identifierSource = path;
+}
+
+void ArchiveIntake::CheckBundle(BundleTree const& bundle, QString const& path)
+{
+    Engine::BundleInformation const& information = bundle.Information();
+    CheckProduct(information, path);
     if (information.publicKey.empty())
     {
         throw Refusal({path, 0, 0, QStringLiteral("the bundle has no SUPublicEDKey and could never be updated again"),
@@ -133,24 +164,44 @@ NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive)
 {
     NewItem item;
     int const underscore = archive.stem.lastIndexOf(QLatin1Char('_'));
+    bool const isForMac = HasMacEnding(archive.fileName);
+    if (!isForMac && !archive.isNamedAsContainer)
+    {
+        throw Refusal(
+            {m_workplace.PathOf(archive.fileName), 0, 0,
+             QStringLiteral("is no installer that clients of any system take"),
+             QStringLiteral("end its name with .pkg, .mpkg or .dmg for macOS; for Linux pack the bundle whose "
+                            "program installs the new version as a zip or a tar")});
+    }
     item.kind = archive.kind;
-    item.platform = PlatformOfInstaller(archive);
+    item.platform = isForMac ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux;
     item.productName = Printable(archive.stem.left(underscore));
     item.versionText = underscore < 0 ? QString() : archive.stem.mid(underscore + 1);
     Complete(item, archive);
+    isForMac ? CheckMacInstaller(OpenInputFile(m_workplace.PathOf(archive.fileName)))
+             : TakeInstallerProgram(archive, item.versionText);
     return item;
 }
 
-Engine::FeedPlatform ArchiveIntake::PlatformOfInstaller(FolderArchive const& archive) const
+void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, QString const& version)
 {
-    if (std::optional<Engine::FeedPlatform> const platform = PlatformOfEnding(archive.fileName))
+    QString const path = m_workplace.PathOf(archive.fileName);
+    BundleTree const bundle = m_workplace.Unpack(archive.fileName);
+    Engine::BundleInformation const& information = bundle.Information();
+    if (bundle.Platform() != Engine::FeedPlatform::Linux)
     {
-        return *platform;
+        throw Refusal({path, 0, 0, QStringLiteral("holds a bundle for macOS, where installers are packages and images"),
+                       QStringLiteral("publish a .pkg, .mpkg or .dmg for macOS")});
     }
-    throw Refusal({m_workplace.PathOf(archive.fileName), 0, 0,
-                   QStringLiteral("does not tell which system the installer is for"),
-                   QStringLiteral("end its name with .pkg, .mpkg or .dmg for macOS; .deb, .rpm, .run, .sh, .bin or "
-                                  ".AppImage for Linux")});
+    CheckPurpose(information, Engine::BundlePurpose::InstallerProgram, path);
+    CheckProduct(information, path);
+    if (information.version != version.toStdString())
+    {
+        throw Refusal({path, 0, 0,
+                       QStringLiteral("is named after version %1, but installs \"%2\"")
+                           .arg(version, Printable(QString::fromStdString(information.version))),
+                       QStringLiteral("name it after the CFBundleVersion in its information file")});
+    }
 }
 
 void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)

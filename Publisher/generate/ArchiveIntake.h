@@ -19,8 +19,9 @@ public:
 private:
     NewItem TakeBundle(FolderArchive const& archive);
     NewItem TakeInstaller(FolderArchive const& archive);
+    void TakeInstallerProgram(FolderArchive const& archive, QString const& version);
     void CheckBundle(BundleTree const& bundle, QString const& path);
-    Engine::FeedPlatform PlatformOfInstaller(FolderArchive const& archive) const;
+    void CheckProduct(Engine::BundleInformation const& information, QString const& path);
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;
 

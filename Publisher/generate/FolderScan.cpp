@@ -39,26 +39,35 @@ std::optional<QString> StemOf(QString const& name, char const* ending)
     return hasEnding ? name.chopped(int(qstrlen(ending))) : std::optional<QString>();
 }
 
+/// \a name without the ending of a zip or a tar; nothing when it has none.
+std::optional<QString> StemOfContainer(QString const& name)
+{
+    for (char const* const ending : BUNDLE_ENDINGS)
+    {
+        if (std::optional<QString> stem = StemOf(name, ending))
+        {
+            return stem;
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<FolderArchive> Classify(QString const& name)
 {
+    std::optional<QString> const containerStem = StemOfContainer(name);
     if (App::Session::DetectUpdateType(false, name) == App::Session::UpdateType::INSTALLER)
     {
         return FolderArchive{name, name.left(name.lastIndexOf(QLatin1String(INSTALLER_MARK))),
                              name.contains(QLatin1String(GUIDED_MARK)) ? ArchiveKind::GuidedInstaller
-                                                                       : ArchiveKind::InteractiveInstaller};
+                                                                       : ArchiveKind::InteractiveInstaller,
+                             containerStem.has_value()};
     }
     if (std::optional<QString> const stem = StemOf(name, DELTA_ENDING))
     {
         return FolderArchive{name, *stem, ArchiveKind::Delta};
     }
-    for (char const* const ending : BUNDLE_ENDINGS)
-    {
-        if (std::optional<QString> const stem = StemOf(name, ending))
-        {
-            return FolderArchive{name, *stem, ArchiveKind::Bundle};
-        }
-    }
-    return std::nullopt;
+    return containerStem ? FolderArchive{name, *containerStem, ArchiveKind::Bundle, true}
+                         : std::optional<FolderArchive>();
 }
 
 /// The line of the first character of \a text that XML does not allow; 0 when there is none.

@@ -8,7 +8,6 @@
 #include <iterator>
 #include <ostream>
 #include <set>
-#include <utility>
 
 namespace Pelnar::Testing
 {
@@ -45,6 +44,53 @@ std::vector<ForgedEntry> ChainOfLinks(int length)
         entries.push_back({"My App.app/link" + std::to_string(i), 'l', next});
     }
     return entries;
+}
+
+/// The folders that paths in \a tree name, where nothing else of their name is there.
+void AddImpliedFolders(std::vector<ForgedEntry>& tree)
+{
+    std::set<std::string> paths;
+    std::transform(tree.begin(), tree.end(), std::inserter(paths, paths.end()),
+                   [](ForgedEntry const& entry) { return entry.path; });
+    std::vector<ForgedEntry> implied;
+    for (ForgedEntry const& entry : tree)
+    {
+        for (std::size_t slash = entry.path.find('/', 1); slash != std::string::npos;
+             slash = entry.path.find('/', slash + 1))
+        {
+            if (paths.insert(entry.path.substr(0, slash)).second)
+            {
+                implied.push_back({entry.path.substr(0, slash), 'd', {}});
+            }
+        }
+    }
+    tree.insert(tree.end(), implied.begin(), implied.end());
+}
+
+/// \a forged as a delta's entry; what the container brings of it is added to \a data.
+Engine::DeltaEntry WholeEntry(ForgedEntry const& forged, std::string& data)
+{
+    Engine::DeltaEntry entry;
+    entry.path = forged.path;
+    if (forged.type == 'd')
+    {
+        return entry;
+    }
+    if (forged.type == 'l')
+    {
+        entry.kind = Engine::DeltaEntryKind::SymbolicLink;
+        entry.linkTarget = forged.content;
+        return entry;
+    }
+    Engine::Bytes const plain(reinterpret_cast<std::uint8_t const*>(forged.content.data()), forged.content.size());
+    Engine::ByteBuffer const stored = Engine::CompressForDelta(plain);
+    entry.kind = Engine::DeltaEntryKind::Whole;
+    entry.isExecutable = (forged.mode & 0100) != 0;
+    entry.size = plain.size();
+    entry.hash = Engine::HashOf(plain);
+    entry.wholeStored = stored.size();
+    data.append(stored.begin(), stored.end());
+    return entry;
 }
 
 /// Folders in folders, so that a file in the last lies \a depth names deep.
@@ -162,65 +208,37 @@ std::vector<Evil> EvilTrees()
     return trees;
 }
 
+std::string MakeWholeDelta(std::vector<ForgedEntry> tree)
+{
+    for (ForgedEntry& entry : tree)
+    {
+        entry.path.erase(0, std::string(APP).size() + 1);
+        if (entry.type == 'd' && !entry.path.empty() && entry.path.back() == '/')
+        {
+            entry.path.pop_back();
+        }
+    }
+    AddImpliedFolders(tree);
+    std::stable_sort(tree.begin(), tree.end(),
+                     [](ForgedEntry const& a, ForgedEntry const& b) { return a.path < b.path; });
+    Engine::DeltaManifest manifest{"1.0", "2.0", {}};
+    std::string data;
+    for (ForgedEntry const& entry : tree)
+    {
+        if (!entry.path.empty()) // the bundle's own folder
+        {
+            manifest.entries.push_back(WholeEntry(entry, data));
+        }
+    }
+    Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening(manifest);
+    return std::string(opening.begin(), opening.end()) + data;
+}
+
 std::string MakeEvilDelta(Evil const& evil)
 {
-    std::vector<ForgedEntry> forged = MakeBundle("2.0");
-    forged.insert(forged.end(), evil.entries.begin(), evil.entries.end());
-    std::set<std::string> paths;
-    std::vector<Engine::DeltaEntry> entries;
-    auto const addFolder = [&entries](std::string const& path)
-    {
-        entries.emplace_back();
-        entries.back().path = path;
-    };
-    std::size_t const rootBytes = std::string(APP).size() + 1;
-    for (ForgedEntry& entry : forged)
-    {
-        entry.path.erase(0, rootBytes);
-        entry.path.erase(entry.type == 'd' ? std::min(entry.path.find_last_not_of('/') + 1, entry.path.size())
-                                           : entry.path.size());
-        paths.insert(entry.path);
-    }
-    for (ForgedEntry const& entry : forged)
-    {
-        for (std::size_t slash = entry.path.find('/', 1); slash != std::string::npos;
-             slash = entry.path.find('/', slash + 1))
-        {
-            if (paths.insert(entry.path.substr(0, slash)).second)
-            {
-                addFolder(entry.path.substr(0, slash));
-            }
-        }
-        if (entry.type == 'd')
-        {
-            entry.path.empty() ? void() : addFolder(entry.path);
-            continue;
-        }
-        Engine::DeltaEntry made;
-        made.path = entry.path;
-        made.kind = entry.type == 'l' ? Engine::DeltaEntryKind::SymbolicLink : Engine::DeltaEntryKind::Whole;
-        made.linkTarget = entry.content; // of a file: what the container brings of it
-        made.isExecutable = (entry.mode & 0100) != 0;
-        entries.push_back(std::move(made));
-    }
-    std::stable_sort(entries.begin(), entries.end(),
-                     [](Engine::DeltaEntry const& a, Engine::DeltaEntry const& b) { return a.path < b.path; });
-    std::string data;
-    for (Engine::DeltaEntry& entry : entries)
-    {
-        if (entry.kind == Engine::DeltaEntryKind::Whole)
-        {
-            std::string const content = std::exchange(entry.linkTarget, {});
-            Engine::Bytes const plain(reinterpret_cast<std::uint8_t const*>(content.data()), content.size());
-            Engine::ByteBuffer const stored = Engine::CompressForDelta(plain);
-            entry.size = plain.size();
-            entry.hash = Engine::HashOf(plain);
-            entry.wholeStored = stored.size();
-            data.append(stored.begin(), stored.end());
-        }
-    }
-    Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening({"1.0", "2.0", entries});
-    return std::string(opening.begin(), opening.end()) + data;
+    std::vector<ForgedEntry> tree = MakeBundle("2.0");
+    tree.insert(tree.end(), evil.entries.begin(), evil.entries.end());
+    return MakeWholeDelta(tree);
 }
 
 } // namespace Pelnar::Testing

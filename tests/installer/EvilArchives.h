@@ -27,7 +27,9 @@ std::vector<Evil> const& EvilArchives();
 
 /// Those of them that a delta can say as well: files, folders and links below the bundle's folder.
 std::vector<Evil> EvilTrees();
-/// A delta to the tree of a right bundle of version 2.0 and the evil entries, every file of which it brings whole.
+/// A delta to the bundle APP of these entries, every file of which it brings whole.
+std::string MakeWholeDelta(std::vector<ForgedEntry> tree);
+/// One to a right bundle of version 2.0 and the evil entries.
 std::string MakeEvilDelta(Evil const& evil);
 
 } // namespace Pelnar::Testing

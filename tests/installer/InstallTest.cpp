@@ -32,6 +32,24 @@ void ExpectTidyAfterNextStart(UpdateScene& scene)
     EXPECT_EQ(scene.Place().Names(), ONLY_THE_APP);
 }
 
+TEST(Install, ProgramIsLookedForUnderTheNameThatTheBundleWillHave)
+{
+    std::string const app = APP;
+    UpdateScene scene(MakeZip({{app + "/Resources/Info-gnustep.plist", 'f',
+                                "{CFBundleIdentifier = org.pelnar.test; CFBundleVersion = 2.0; SUPublicEDKey = x;}"},
+                               {app + "/My App", 'f', "#!/bin/sh\necho 2.0\n", 0755}}));
+    InstallJob job = scene.PrepareForInstall(); // for a bundle of the archive's name
+    std::filesystem::rename(scene.Place().Path() + '/' + APP, scene.Place().Path() + "/Renamed.app");
+    job.targetName = "Renamed.app";
+    job.targetPath = scene.Place().Path() + "/Renamed.app";
+    scene.Host().End();
+    HelperOutcome const outcome = scene.Install(job);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::ExecutableMissing);
+    EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
+    EXPECT_EQ(scene.Place().StartedVersion("Renamed.app"), "1.0");
+    EXPECT_EQ(outcome.output, "1.0|" + job.targetPath + "/run|0|\n");
+}
+
 TEST(Install, NewVersionTakesThePlaceAndStartsOnceTheHostHasEnded)
 {
     UpdateScene scene;

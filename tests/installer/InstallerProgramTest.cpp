@@ -20,7 +20,7 @@ constexpr char SETUP[] = "Setup.app";
 std::string SetupInformation(std::string const& version = "2.0", std::string const& identifier = IDENTIFIER)
 {
     return "{ CFBundleIdentifier = \"" + identifier + "\"; CFBundleVersion = \"" + version +
-           "\"; NSExecutable = setup; }";
+           "\"; NSExecutable = setup; PelnarPayloadKind = installer; }";
 }
 
 std::string ArchiveOf(std::string const& script, std::string const& information = SetupInformation())
@@ -170,14 +170,85 @@ INSTANTIATE_TEST_SUITE_P(
                     ArchiveRow{"OtherVersion", SetupInformation("3.0"), UpdateFault::VersionDiffers},
                     ArchiveRow{"NoInformation", "", UpdateFault::InformationMalformed},
                     ArchiveRow{"NoSuchProgram",
-                               "{ CFBundleIdentifier = \"org.pelnar.test\"; CFBundleVersion = \"2.0\"; }",
+                               "{ CFBundleIdentifier = \"org.pelnar.test\"; CFBundleVersion = \"2.0\"; "
+                               "PelnarPayloadKind = installer; }",
                                UpdateFault::ExecutableMissing}),
     [](testing::TestParamInfo<ArchiveRow> const& info) { return info.param.name; });
 
-TEST(InstallerProgram, IsNoWholeBundleAndNoBundleIsOne)
+/// A bundle that could be started and updated, whatever it says that it is.
+std::string BundleThatSays(std::string const& line)
 {
-    UpdateScene asBundle(ArchiveOf("#!/bin/sh\n"));
-    EXPECT_EQ(asBundle.Prepare(asBundle.MakePrepareJob()).Fault(), UpdateFault::BundleKeyMissing);
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    for (ForgedEntry& entry : entries)
+    {
+        if (entry.path == std::string(APP) + "/Resources/Info-gnustep.plist")
+        {
+            entry.content.insert(entry.content.find('{') + 1, line);
+        }
+        if (entry.path == std::string(APP) + "/run")
+        {
+            entry.content = "#!/bin/sh\n[ $# = 0 ] || touch \"$1/by-setup\"\necho 2.0\n";
+        }
+    }
+    return MakeZip(entries);
+}
+
+struct KindRow
+{
+    char const* name;
+    char const* line;
+    UpdateFault asBundle;
+    UpdateFault asInstaller;
+};
+
+class PayloadKinds : public testing::TestWithParam<KindRow>
+{
+};
+
+TEST_P(PayloadKinds, SaidInsideAndByTheNameMustAgree)
+{
+    ProgramScene asBundle(BundleThatSays(GetParam().line));
+    HelperOutcome const bundle = asBundle.scene.Prepare(asBundle.scene.MakePrepareJob());
+    EXPECT_EQ(bundle.Fault(), GetParam().asBundle);
+    EXPECT_EQ(bundle.Find<PreparedReport>() != nullptr, GetParam().asBundle == UpdateFault::None);
+    ProgramScene asInstaller(BundleThatSays(GetParam().line));
+    HelperOutcome const installer = asInstaller.Prepare();
+    EXPECT_EQ(installer.Fault(), GetParam().asInstaller);
+    EXPECT_EQ(installer.Find<PreparedReport>() != nullptr, GetParam().asInstaller == UpdateFault::None);
+}
+
+constexpr UpdateFault DIFFERS = UpdateFault::PayloadKindDiffers;
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, PayloadKinds,
+    testing::Values(KindRow{"Nothing", "", UpdateFault::None, DIFFERS},
+                    KindRow{"Application", "PelnarPayloadKind = application;", UpdateFault::None, DIFFERS},
+                    KindRow{"Installer", "PelnarPayloadKind = installer;", DIFFERS, UpdateFault::None},
+                    KindRow{"Empty", "PelnarPayloadKind = \"\";", DIFFERS, DIFFERS},
+                    KindRow{"OtherCase", "PelnarPayloadKind = Installer;", DIFFERS, DIFFERS},
+                    KindRow{"Blank", "PelnarPayloadKind = \"installer \";", DIFFERS, DIFFERS},
+                    KindRow{"List", "PelnarPayloadKind = (installer);", DIFFERS, DIFFERS},
+                    KindRow{"Dictionary", "PelnarPayloadKind = { installer = YES; };", DIFFERS, DIFFERS},
+                    KindRow{"SaidTwice", "PelnarPayloadKind = application; PelnarPayloadKind = installer;",
+                            UpdateFault::InformationMalformed, UpdateFault::InformationMalformed}),
+    [](testing::TestParamInfo<KindRow> const& info) { return info.param.name; });
+
+TEST(InstallerProgram, IsNoWholeBundleAndNoBundleIsOneWhenItIsInstalledEither)
+{
+    ProgramScene program(BundleThatSays("PelnarPayloadKind = installer;"));
+    InstallJob job = program.PrepareForInstall();
+    job.kind = PayloadKind::WholeBundle;
+    HelperOutcome outcome = program.Install(job);
+    EXPECT_EQ(outcome.Fault(), DIFFERS);
+    ExpectUntouched(program, outcome);
+
+    ProgramScene bundle(BundleThatSays(""));
+    job = bundle.scene.PrepareForInstall();
+    job.kind = PayloadKind::Installer;
+    outcome = bundle.Install(job);
+    EXPECT_EQ(outcome.Fault(), DIFFERS);
+    ExpectUntouched(bundle, outcome);
+    EXPECT_FALSE(std::filesystem::exists(bundle.Target() + "/by-setup"));
 }
 
 TEST(InstallerProgram, ForgedSignatureIsRefusedBeforeAnythingIsUnpacked)

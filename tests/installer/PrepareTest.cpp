@@ -179,6 +179,41 @@ INSTANTIATE_TEST_SUITE_P(
                   UpdateFault::ExecutableForeign}),
     [](testing::TestParamInfo<BundleRow> const& info) { return info.param.name; });
 
+/// A bundle "My App.app" that names no program: the one named after its folder is meant. Its programs are \a programs.
+std::string ZipWithoutExecutableName(std::vector<std::string> const& programs)
+{
+    std::vector<ForgedEntry> entries{
+        {std::string(APP) + "/Resources/Info-gnustep.plist", 'f',
+         "{CFBundleIdentifier = org.pelnar.test; CFBundleVersion = 2.0; SUPublicEDKey = x;}"}};
+    for (std::string const& program : programs)
+    {
+        entries.push_back({std::string(APP) + '/' + program, 'f', "#!/bin/sh\necho 2.0\n", 0755});
+    }
+    return MakeZip(entries);
+}
+
+TEST(Prepare, ProgramIsLookedForUnderTheNameThatTheBundleWillHave)
+{
+    struct Row
+    {
+        char const* installedName;
+        std::vector<std::string> programs;
+        UpdateFault fault;
+    };
+    for (Row const& row :
+         {Row{APP, {"My App"}, UpdateFault::None}, Row{APP, {"Renamed"}, UpdateFault::ExecutableMissing},
+          Row{"Renamed.app", {"My App"}, UpdateFault::ExecutableMissing},
+          Row{"Renamed.app", {"My App", "Renamed"}, UpdateFault::None}, Row{"Renamed", {"Renamed"}, UpdateFault::None},
+          Row{u8"\u304c.app", {u8"\u304c"}, UpdateFault::None},
+          Row{u8"\u304c.app", {u8"\u304b\u3099"}, UpdateFault::ExecutableMissing}})
+    {
+        UpdateScene scene(ZipWithoutExecutableName(row.programs));
+        PrepareJob job = scene.MakePrepareJob();
+        job.bundleName = row.installedName;
+        EXPECT_EQ(scene.Prepare(job).Fault(), row.fault) << row.installedName << ' ' << row.programs.front();
+    }
+}
+
 TEST(Prepare, VersionMustBeNewerThanTheInstalledOne)
 {
     struct Row

@@ -12,6 +12,7 @@ namespace
 {
 
 constexpr std::string_view BUNDLE_SUFFIX = ".app";
+constexpr std::string_view PURPOSE_KEY = "PelnarPayloadKind";
 
 std::string ExecutableName(PropertyListValue const& list, std::string const& bundleName)
 {
@@ -25,6 +26,18 @@ std::string ExecutableName(PropertyListValue const& list, std::string const& bun
     bool const hasSuffix = bundleName.size() > BUNDLE_SUFFIX.size() &&
                            std::equal(BUNDLE_SUFFIX.rbegin(), BUNDLE_SUFFIX.rend(), bundleName.rbegin());
     return hasSuffix ? bundleName.substr(0, bundleName.size() - BUNDLE_SUFFIX.size()) : bundleName;
+}
+
+BundlePurpose PurposeOf(PropertyListValue const& list)
+{
+    bool const isSaid = std::any_of(list.properties.begin(), list.properties.end(),
+                                    [](auto const& property) { return property.first == PURPOSE_KEY; });
+    std::string const text = list.TextOf(PURPOSE_KEY).value_or("");
+    if (!isSaid || text == "application")
+    {
+        return BundlePurpose::Application;
+    }
+    return text == "installer" ? BundlePurpose::InstallerProgram : BundlePurpose::Unknown;
 }
 
 /// A truth value as a person writes it; XML's own are "YES" and "NO" by now.
@@ -52,6 +65,7 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     information.displayVersion = list->TextOf("CFBundleShortVersionString").value_or("");
     information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
     information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
+    information.purpose = PurposeOf(*list);
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
     information.confirmsGoodStart = IsTrue(list->TextOf("PelnarConfirmsGoodStart"));
     information.executable = ExecutableName(*list, bundleName);

@@ -11,6 +11,14 @@ namespace Pelnar::Engine
 /// Where bundles of this system have the file, below the bundle's folder.
 constexpr char INFORMATION_PATH[] = "Resources/Info-gnustep.plist";
 
+/// What a bundle says that it is for, under PelnarPayloadKind.
+enum class BundlePurpose
+{
+    Application,      ///< "application", or nothing said: it takes the installed bundle's place
+    InstallerProgram, ///< "installer": its program installs the new version
+    Unknown,          ///< anything else; no update may bring it
+};
+
 struct BundleInformation
 {
     std::string identifier;
@@ -19,6 +27,7 @@ struct BundleInformation
     std::string minimumSystemVersion; ///< empty when the bundle gives none
     std::string publicKey;            ///< empty when the bundle trusts no key
     std::string executable;           ///< the file's name in the bundle's folder
+    BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;
     bool confirmsGoodStart = false; ///< it tells when it has started well, and is not kept otherwise
 };

@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr UpdateFault LAST_FAULT = UpdateFault::SealedMemoryUnavailable;
+constexpr UpdateFault LAST_FAULT = UpdateFault::PayloadKindDiffers;
 
 std::string Describe(UpdateFault fault, int errorNumber)
 {
@@ -176,6 +176,8 @@ std::string_view FaultName(UpdateFault fault)
         return "ProcessHandlesUnavailable";
     case UpdateFault::SealedMemoryUnavailable:
         return "SealedMemoryUnavailable";
+    case UpdateFault::PayloadKindDiffers:
+        return "PayloadKindDiffers";
     }
     return "Unknown fault";
 }

@@ -97,6 +97,7 @@ enum class UpdateFault
     FolderUnsafe,           ///< others may change the folder that holds the bundle
     ProcessHandlesUnavailable,
     SealedMemoryUnavailable,
+    PayloadKindDiffers, ///< an installer program under the name of a bundle, or the reverse
 };
 
 /// The fault's stable name: its enumerator's.

@@ -367,6 +367,20 @@ TEST_P(EvilTreeOfADelta, IsRefusedAsItIsInAnArchive)
 INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta, testing::ValuesIn(EvilTrees()),
                          [](testing::TestParamInfo<Evil> const& info) { return info.param.name; });
 
+TEST(Delta, InstallerProgramIsNotMadeByOne)
+{
+    std::vector<ForgedEntry> tree = MakeBundle("2.0");
+    for (ForgedEntry& entry : tree)
+    {
+        if (entry.path == std::string(APP) + "/Resources/Info-gnustep.plist")
+        {
+            entry.content.insert(entry.content.find('{') + 1, "PelnarPayloadKind = installer;");
+        }
+    }
+    UpdateScene scene(MakeWholeDelta(tree));
+    EXPECT_EQ(scene.Prepare(DeltaJob(scene)).Fault(), UpdateFault::PayloadKindDiffers);
+}
+
 TEST(Delta, TreeWithoutEvilIsMadeByTheSameForge)
 {
     UpdateScene scene(MakeEvilDelta({"None", {}, UpdateFault::None}));

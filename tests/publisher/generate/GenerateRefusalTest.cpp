@@ -37,6 +37,13 @@ BundleText Version(std::string const& version)
     return text;
 }
 
+BundleText Kind(std::string const& version, std::string const& payloadKind)
+{
+    BundleText text = Version(version);
+    text.payloadKind = payloadKind;
+    return text;
+}
+
 /// Puts an archive with one thing in its information file changed.
 std::function<void(PublisherFolder const&)> Bundle(std::function<void(BundleText&)> const& change)
 {
@@ -132,8 +139,49 @@ std::vector<RefusalRow> RefusedArchives()
          "Test.zip: is no plain file"},
         {"installer without a version", [](auto const& folder) { folder.Put("Test.sparkle_guided.pkg", "x"); },
          "is no version"},
-        {"installer for no known system", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.zip", "x"); },
-         "does not tell which system the installer is for"},
+        {"installer that no client takes", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.run", "x"); },
+         "Test_2.0.sparkle_guided.run: is no installer that clients of any system take"},
+        {"installer that is no archive", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.zip", "x"); },
+         "Test_2.0.sparkle_guided.zip: is neither a zip nor a tar"},
+        {"installer that says nothing of itself",
+         [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.zip", ZipOf(Version("2.0"))); },
+         "its name is an installer's, but inside it is not said to be one"},
+        {"installer that calls itself an application",
+         [](auto const& folder) { folder.Put("Test_2.0.sparkle_interactive.zip", ZipOf(Kind("2.0", "application"))); },
+         "its name is an installer's, but inside it is not said to be one"},
+        {"installer under the name of a bundle",
+         [](auto const& folder) { folder.Put("Test-2.0.zip", ZipOf(Kind("2.0", "installer"))); },
+         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+        {"bundle of an unknown kind", [](auto const& folder) { folder.Put("Test-2.0.zip", ZipOf(Kind("2.0", "x"))); },
+         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+        {"bundle for macOS that calls itself an installer",
+         [](auto const& folder)
+         { folder.Put("Mac.zip", MakeArchive(Container::Zip, MakeMacBundle(Kind("2.0", "installer")))); },
+         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+        {"installer of another version than its name's",
+         [](auto const& folder) { folder.Put("Test_3.0.sparkle_guided.zip", ZipOf(Kind("2.0", "installer"))); },
+         "is named after version 3.0, but installs \"2.0\""},
+        {"installer of another product",
+         [](auto const& folder)
+         {
+             BundleText other = Kind("2.0", "installer");
+             other.identifier = "org.pelnar.other";
+             folder.Put("A.zip", ZipOf(Version("2.0")));
+             folder.Put("Test_2.0.sparkle_guided.zip", ZipOf(other));
+         },
+         "is of the product org.pelnar.other, while"},
+        {"bundle for macOS as an installer in a zip",
+         [](auto const& folder) {
+             folder.Put("Test_2.0.sparkle_guided.zip",
+                        MakeArchive(Container::Zip, MakeMacBundle(Kind("2.0", "installer"))));
+         },
+         "holds a bundle for macOS, where installers are packages and images"},
+        {"archive under the name of a package",
+         [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.pkg", ZipOf(Version("2.0"))); },
+         "Test_2.0.sparkle_guided.pkg: is no installer package"},
+        {"archive under the name of an image",
+         [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.dmg", ZipOf(Version("2.0"))); },
+         "Test_2.0.sparkle_guided.dmg: is no disk image"},
         {"empty installer", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.pkg", ""); },
          "Test_2.0.sparkle_guided.pkg: is empty"},
         {"damaged delta",

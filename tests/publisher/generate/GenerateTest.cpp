@@ -98,18 +98,28 @@ TEST(Generate, BundlesOfBothSystemsGetItemsOfTheirOwn)
     EXPECT_EQ(Text(folder.Items(FeedPlatform::MacOS)[0].fileUrl.fileName()), "mac.zip");
 }
 
+/// A bundle for Linux whose program installs that version.
+std::string InstallerOf(std::string const& version)
+{
+    BundleText text;
+    text.version = version;
+    text.payloadKind = "installer";
+    text.publicKey.clear();
+    return MakeArchive(Container::TarXz, MakePublishedBundle(text, "Setup.app"));
+}
+
 TEST(Generate, InstallersAreNamedAfterTheirVersionAndStandBesideBundles)
 {
     PublisherFolder const folder;
     folder.PutVersion("6.0");
-    folder.Put("Test_6.0.sparkle_guided.pkg", "guided");
-    folder.Put("Test_6.0.1.sparkle_interactive.run", "interactive");
+    folder.Put("Test_6.0.sparkle_guided.pkg", "xar!guided");
+    folder.Put("Test_6.0.1.sparkle_interactive.tar.xz", InstallerOf("6.0.1"));
     folder.GeneratedFeed();
     std::vector<Engine::FeedItem> const forMac = folder.Items(FeedPlatform::MacOS);
     ASSERT_EQ(forMac.size(), 1u);
     EXPECT_EQ(Text(forMac[0].versionString), "6.0");
     EXPECT_EQ(Text(forMac[0].installationType), "package");
-    EXPECT_EQ(Text(forMac[0].edSignature), Base64(Sign("guided", folder.Keys())));
+    EXPECT_EQ(Text(forMac[0].edSignature), Base64(Sign("xar!guided", folder.Keys())));
     std::vector<Engine::FeedItem> const forLinux = folder.Items(FeedPlatform::Linux);
     ASSERT_EQ(forLinux.size(), 2u);
     EXPECT_EQ(Text(forLinux[0].versionString), "6.0.1");
@@ -438,8 +448,8 @@ TEST(Generate, FeedOfEverythingPassesTheStrictLint)
         folder.Put(std::string("Mac-") + version + ".tar.gz", MakeArchive(Container::TarGzip, MakeMacBundle(text)));
         folder.Put(std::string("Test-") + version + ".md", "# New\n\n* one\n* two <b>&</b>");
     }
-    folder.Put("Test_2.0.sparkle_guided.pkg", "guided");
-    folder.Put("Test_2.0.sparkle_interactive.run", "interactive");
+    folder.Put("Test_2.0.sparkle_guided.pkg", "xar!guided");
+    folder.Put("Test_2.0.sparkle_interactive.tar.xz", InstallerOf("2.0"));
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 0) << run.out;
     ToolRun const lint =

@@ -32,6 +32,7 @@ std::string PropertyListOf(BundleText const& text)
     add("CFBundleShortVersionString", text.displayVersion);
     add("LSMinimumSystemVersion", text.minimumSystem);
     add("SUPublicEDKey", text.publicKey);
+    add("PelnarPayloadKind", text.payloadKind);
     return list + "</dict></plist>\n";
 }
 

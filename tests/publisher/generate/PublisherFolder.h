@@ -22,6 +22,7 @@ struct BundleText
     std::string displayVersion = {};
     std::string minimumSystem = {};
     std::string publicKey = MakeKeyPair(7).publicKey;
+    std::string payloadKind = {};
 };
 
 /// A bundle for Linux with a file that grows a little from version to version.

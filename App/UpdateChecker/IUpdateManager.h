@@ -19,7 +19,7 @@ public:
     virtual void RegisterObserver(IUpdateManagerObserver* observer) = 0;
     /// Removes \a observer; null and an unknown one are ignored.
     virtual void UnregisterObserver(IUpdateManagerObserver* observer) = 0;
-    /// Closes whatever dialog the running check shows, as if the user had dismissed it.
+    /// Closes the dialog that the running check shows, if any, as if the user had dismissed it.
     virtual void RejectUpdateAndHideDialog() = 0;
     virtual ~IUpdateManager() = default;
 };

@@ -32,6 +32,8 @@ struct UpdaterScript
     bool hasDelegate = false;
     /// Run inside each of the three checks; may raise or throw.
     std::function<void()> onCheck;
+    /// Run inside updateInProgress; may raise or throw.
+    std::function<void()> onAskInProgress;
     /// Run inside setAutomaticallyChecksForUpdates:; may raise or throw.
     std::function<void()> onSetAutomaticChecks;
     /// Run inside every setFeedURL:; may raise or throw.

@@ -102,6 +102,10 @@ id PropertyValue(QVariant const& value)
 
 - (BOOL)updateInProgress
 {
+    if (Updater().onAskInProgress)
+    {
+        Updater().onAskInProgress();
+    }
     return Updater().updateInProgress;
 }
 

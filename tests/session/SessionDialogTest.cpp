@@ -3,7 +3,9 @@
 #include "tests/session/SessionFixture.h"
 #include "tests/support/DialogDriver.h"
 
+#include <QApplication>
 #include <QDir>
+#include <QEvent>
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
@@ -447,6 +449,52 @@ TEST_F(SessionDialog, ErrorShowsItsTextAndOneButton)
             ClickButton(box, QStringLiteral("OK"));
         });
     EXPECT_TRUE(GetFields().locked);
+}
+
+TEST_F(SessionDialog, ErrorThatCannotBeShownLocksNobodyOut)
+{
+    LendIn(State::SILENT_INSTALLING);
+    Session().UnlockUpdaterWhenPossible();
+    // What a host's own dialog may do when it is shown.
+    class Refusing : public QObject
+    {
+    public:
+        bool eventFilter(QObject* object, QEvent* event) override
+        {
+            if (event->type() == QEvent::Show && object->objectName() == FAILED)
+            {
+                throw std::runtime_error("no dialog");
+            }
+            return false;
+        }
+    } refusing;
+    qApp->installEventFilter(&refusing);
+    EXPECT_THROW(Callbacks::DidAbort({QStringLiteral("D"), 4005, QStringLiteral("text")}), std::runtime_error);
+    EXPECT_EQ(GetFields().state, State::WAITING);
+    EXPECT_FALSE(GetFields().locked);
+    EXPECT_FALSE(IsDialogClosable());
+}
+
+TEST_F(SessionDialog, OfferThatCannotBeShownIsDeclined)
+{
+    class Refusing : public QObject
+    {
+    public:
+        bool eventFilter(QObject* object, QEvent* event) override
+        {
+            if (event->type() == QEvent::Show && object->objectName() == READY)
+            {
+                throw std::runtime_error("no dialog");
+            }
+            return false;
+        }
+    } refusing;
+    qApp->installEventFilter(&refusing);
+    LendWithRemote(State::SILENT_DOWNLOADING);
+    Callbacks::WillInstallOnQuit(MakeItem(QStringLiteral("6.1")), m_invocation);
+    ExpectRemindedLater();
+    EXPECT_FALSE(IsDialogClosable());
+    EXPECT_EQ(Log().Of(google::GLOG_ERROR).size(), 1U);
 }
 
 TEST_F(SessionDialog, RejectClosesTheError)

@@ -303,6 +303,22 @@ TEST_F(SessionLock, FeedThatTheFrameworkRefusesLocksNobodyOut)
     EXPECT_EQ(GetFields().context, SharedContext());
 }
 
+TEST_F(SessionLock, UpdaterThatDoesNotSayWhetherItIsBusyLocksNobodyOut)
+{
+    LentContext previous;
+    SetFields({previous.context, false, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
+    Updater().onAskInProgress = [] { RaiseException(QStringLiteral("no answer")); };
+    EXPECT_FALSE(Session().LockUpdater(SharedContext())) << "it counts as busy";
+    EXPECT_FALSE(GetFields().locked);
+    EXPECT_EQ(GetFields().context, previous.context);
+    EXPECT_EQ(Log().Of(google::GLOG_ERROR),
+              (Records{Error(284, "bool Pelnar::App::SparkleManager::Impl::Lock(): Exception while updateInProgress: "
+                                  "no answer"),
+                       Error(570, LOCK_UPDATER + "Can't lock updater")}));
+    Updater().onAskInProgress = nullptr;
+    EXPECT_TRUE(Session().LockUpdater(SharedContext()));
+}
+
 TEST_F(SessionLock, OtherExceptionOfTheFeedPropagatesAndLocksNobodyOut)
 {
     Updater().onSetFeedUrl = [] { throw std::out_of_range("other"); };

@@ -12,6 +12,7 @@ namespace Pelnar::App::Session::Sites
     SITE(CREATE_UPDATER, Progress, 243, "void Pelnar::App::SparkleManager::Impl::CreateUpdater()")                     \
     SITE(DESTROY_UPDATER, Progress, 259, "void Pelnar::App::SparkleManager::Impl::DestroyUpdater()")                   \
     SITE(LOCK, Progress, 280, "bool Pelnar::App::SparkleManager::Impl::Lock()")                                        \
+    SITE(LOCK_RAISED, Error, 284, "bool Pelnar::App::SparkleManager::Impl::Lock()")                                    \
     SITE(UNLOCK, Progress, 292, "void Pelnar::App::SparkleManager::Impl::Unlock()")                                    \
     SITE(SET_CONTEXT, Progress, 302,                                                                                   \
          "void Pelnar::App::SparkleManager::Impl::SetContext(const SharedNotNullPtr<Pelnar::App::SparkleUpdateContext> &)") \

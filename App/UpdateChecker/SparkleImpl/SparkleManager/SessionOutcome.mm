@@ -7,6 +7,7 @@
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "Foundation/FoundationText.h"
 #include "HostFramework/VersionText.h"
+#include "common/ScopedFunctionCall.h"
 
 namespace Pelnar::App
 {
@@ -118,9 +119,13 @@ void SparkleManager::Impl::DidAbort(NSError* error)
         ReportNoNewerVersion();
         return;
     case OutcomeReaction::ShowErrorAndIdle:
+    {
+        // On every way out: an error that cannot be shown must leave nobody locked out.
+        Core::ScopedFunctionCall const idle(
+            nullptr, [this] { SwitchToIdle(); }, true);
         Session::ShowUpdateError(Foundation::ToQString([error localizedDescription]), DialogParent(), closeDialog);
-        SwitchToIdle();
         return;
+    }
     case OutcomeReaction::Idle:
         SwitchToIdle();
         return;

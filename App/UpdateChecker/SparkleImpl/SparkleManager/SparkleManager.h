@@ -20,8 +20,8 @@ public:
     static SparkleManager& GetInstance();
 
     /// True when the caller now holds the session, which uses \a context from here on. False, logged, when another
-    /// updater holds it, the framework is still busy, or it raises an exception for the feed's address. Nothing changes
-    /// then, nor when an exception leaves here.
+    /// updater holds it, the framework is still busy, or it raises an exception when it is asked or given the feed's
+    /// address. Nothing changes then, nor when an exception leaves here.
     [[nodiscard]] bool LockUpdater(SharedNotNullPtr<SparkleUpdateContext> const& context);
     /// Gives the session back: at once when it is idle, else when the running request ends.
     /// REQUIRES: LockUpdater answered true.

@@ -213,7 +213,8 @@ bool SparkleManager::Impl::Lock()
 {
     WriteCurrentState(Session::Sites::LOCK, state);
     // Deliberate: the state is not asked. An idle updater can be lent whatever the last request left behind; one that
-    // is still busy can not, for instance with a download that outlived its holder. One that does not say counts as busy.
+    // is still busy can not, for instance with a download that outlived its holder. One that does not say counts as
+    // busy.
     bool isBusy = true;
     std::optional<std::string> const reason =
         Foundation::ReasonRaisedBy([this, &isBusy] { isBusy = [updater.Get() updateInProgress]; });

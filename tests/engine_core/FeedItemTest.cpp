@@ -288,8 +288,8 @@ TEST(FeedAddress, OfAnArchiveIsSecureOrIsNotFetched)
     for (Row const& row : rows)
     {
         FeedItem const item = OnlyItem(QByteArray("<enclosure url=\"") + row.text.c_str() + "\"/>");
-        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, InsecureHttp::LoopbackOnly), row.cause) << row.text;
-        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, InsecureHttp::Anywhere), row.causeWithOptIn) << row.text;
+        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::LoopbackOnly), row.cause) << row.text;
+        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::Anywhere), row.causeWithOptIn) << row.text;
     }
 }
 

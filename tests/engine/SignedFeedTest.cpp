@@ -281,13 +281,13 @@ TEST_F(SignedFeedCheck, HostCanAskForHowLongTheFeedHasNotChanged)
     EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0) << "no feed yet";
     QByteArray const feed = SignedFeedOf("5.1");
     QByteArray const firstSeen =
-        QDateTime::currentDateTimeUtc().addDays(-200).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toLatin1();
+        QDateTime::currentDateTimeUtc().addDays(-400).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toLatin1();
     WriteRecord("digest = \"" + QCryptographicHash::hash(feed, QCryptographicHash::Sha256).toHex() +
                 "\"; firstSeen = <*D" + firstSeen + " +0000>;");
     LogCapture log;
     EXPECT_EQ(Check(feed), (Events{"asked", "found 5.1"}));
-    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 200);
-    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The update feed has not changed for 200 days"));
+    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 400);
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The update feed has not changed for 400 days"));
     EXPECT_EQ(Check(SignedFeedOf("5.2")), (Events{"asked", "found 5.2"}));
     EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0);
 }

@@ -63,6 +63,7 @@ public:
         connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(Spent()); });
         connect(&m_turnTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadPaused); });
         connect(&m_budgetTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadTooLong); });
+        connect(&m_trialTimer, &QTimer::timeout, this, &Impl::JudgePace);
         m_turnTimer.setSingleShot(true);
         m_budgetTimer.setSingleShot(true);
         connect(&m_progressTimer, &QTimer::timeout, this, &Impl::TellProgress);
@@ -133,9 +134,24 @@ private:
         if (m_request.purpose == DownloadFor::Nobody)
         {
             m_turnTimer.start(m_request.unwatchedTurn);
+            m_trialTimer.start(m_request.unwatchedTrial);
+            m_receivedBefore = m_spent.receivedBytes;
         }
         std::uint64_t const seconds = BudgetOf(m_partial.declaredBytes).seconds;
         m_budgetTimer.start(std::chrono::seconds(seconds - std::min(seconds, m_spent.seconds)));
+    }
+
+    /// Ends a download that is not worth the checks that it keeps away.
+    void JudgePace()
+    {
+        std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).seconds;
+        std::uint64_t const left = budget - std::min(budget, Spent().seconds);
+        auto const elapsed = static_cast<double>(std::max<qint64>(m_clock.elapsed(), 1)) / 1000;
+        double const bytesPerSecond = static_cast<double>(m_spent.receivedBytes - m_receivedBefore) / elapsed;
+        if (bytesPerSecond * static_cast<double>(left) < static_cast<double>(Missing()))
+        {
+            Stop(ErrorCause::TooSlow);
+        }
     }
 
     quint64 Missing() const { return m_partial.declaredBytes - m_partial.bytes; }
@@ -338,7 +354,7 @@ private:
     void Stop(ErrorCause cause)
     {
         DropTransfer();
-        End(MakeError(cause));
+        End(AsDownloadError(MakeError(cause)));
     }
 
     /// Keeps what has arrived, if it is worth anything, and finishes.
@@ -351,7 +367,8 @@ private:
 
     void StopTimers()
     {
-        for (QTimer* const timer : {&m_resumeTimer, &m_checkpointTimer, &m_progressTimer, &m_turnTimer, &m_budgetTimer})
+        for (QTimer* const timer :
+             {&m_resumeTimer, &m_checkpointTimer, &m_progressTimer, &m_turnTimer, &m_trialTimer, &m_budgetTimer})
         {
             timer->stop();
         }
@@ -391,6 +408,8 @@ private:
     DownloadSpending m_spent; ///< without the time since m_clock was started
     QElapsedTimer m_clock;
     QTimer m_turnTimer;
+    QTimer m_trialTimer;
+    std::uint64_t m_receivedBefore = 0; ///< this run
     QTimer m_budgetTimer;
     QTimer m_resumeTimer;
     QTimer m_checkpointTimer;

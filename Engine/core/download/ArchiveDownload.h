@@ -38,6 +38,8 @@ struct DownloadRequest
     FetchLimits limits; ///< maxBodyBytes and totalTimeout do not apply to an archive
     DownloadFor purpose = DownloadFor::Nobody;
     std::chrono::milliseconds unwatchedTurn = std::chrono::minutes(30); ///< how long one for nobody runs at a time
+    /// After so long one for nobody ends that cannot come to its end within its budget at the pace so far.
+    std::chrono::milliseconds unwatchedTrial = std::chrono::minutes(1);
 };
 
 struct DownloadProgress

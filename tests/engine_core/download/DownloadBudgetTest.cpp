@@ -202,6 +202,41 @@ TEST_F(DownloadBudgetTest, AnswersOfAnotherLengthAreCounted)
     EXPECT_EQ(server.Requests().size(), 2u);
 }
 
+TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
+{
+    for (QByteArray const& head :
+         {QByteArray("HTTP/1.1 200 OK\r\nETag: \"one\"\r\n\r\n"),
+          QByteArray("HTTP/1.1 200 OK\r\nETag: \"one\"\r\nTransfer-Encoding: chunked\r\n\r\n")})
+    {
+        RemoveFolder();
+        bool const isInChunks = head.contains("chunked");
+        QByteArray const piece(65536, 'x');
+        qint64 sent = 0;
+        bool hasLeft = false;
+        LoopbackServer server(
+            [&](QSslSocket& socket, QByteArray const& request, int number)
+            {
+                QObject::connect(&socket, &QSslSocket::bytesWritten, &socket, [&sent](qint64 bytes) { sent += bytes; });
+                QObject::connect(&socket, &QSslSocket::disconnected, &socket, [&hasLeft] { hasLeft = true; });
+                QByteArray const endless = isInChunks ? "10000\r\n" + piece + "\r\n" : piece;
+                AnsweringWithoutEnd(head, endless)(socket, request, number);
+            });
+        DownloadRequest const request = RequestFor(server.Url(), 300000);
+        DownloadResult const result = Run(request);
+        EXPECT_EQ(result.cause, ErrorCause::DownloadLengthDiffers);
+        EXPECT_TRUE(WaitFor([&hasLeft] { return hasLeft; })) << "the server is left";
+        EXPECT_LT(sent, 16 * MEBIBYTE) << "what fits into the buffers of the system between the two";
+        EXPECT_EQ(server.Requests().size(), 1u);
+        for (DownloadProgress const& progress : result.progress)
+        {
+            EXPECT_LE(progress.doneBytes, 300000u);
+        }
+        EXPECT_EQ(ArchiveBytes(), 0);
+        ASSERT_TRUE(RecordOf(request));
+        EXPECT_EQ(RecordOf(request)->spent.receivedBytes, 300000u);
+    }
+}
+
 TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)
 {
     QByteArray const archive = MakeArchive(300000);
@@ -247,6 +282,42 @@ TEST_F(DownloadBudgetTest, UnwatchedOnePausesAndTheNextGoesOn)
     isStuck = false;
     EXPECT_EQ(Run(request).bytes, archive);
     EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
+}
+
+TEST_F(DownloadBudgetTest, UnwatchedOneThatCannotEndInTimeEndsAtOnceAndAPersonsGoesOn)
+{
+    // A kilobyte a second: a gibibyte would take twelve days.
+    constexpr quint64 HUGE_BYTES = quint64{1} << 30;
+    QByteArray const head = "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(HUGE_BYTES) + "\r\n\r\n";
+    LoopbackServer server(Dripping(head, QByteArray(100000, 'x'), 1));
+    DownloadRequest request = RequestFor(server.Url(), 1);
+    request.declaredBytes = HUGE_BYTES;
+    request.limits.minBytesPerSecond = 0;
+    request.unwatchedTrial = milliseconds(500);
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_EQ(Run(request).cause, ErrorCause::TooSlow);
+    EXPECT_LT(clock.elapsed(), 20000);
+    request.purpose = DownloadFor::Person;
+    ArchiveDownload download(request);
+    bool hasEnded = false;
+    quint64 done = 0;
+    download.Start([&done](DownloadProgress const& progress) { done = progress.doneBytes; },
+                   [&hasEnded](DownloadOutcome const&) { hasEnded = true; });
+    clock.restart();
+    EXPECT_TRUE(WaitFor([&] { return clock.elapsed() > 1500; }));
+    EXPECT_FALSE(hasEnded);
+    EXPECT_GT(done, 0u);
+}
+
+TEST_F(DownloadBudgetTest, UnwatchedOneThatComesWellIsLetBe)
+{
+    QByteArray const archive = MakeArchive(300000);
+    LoopbackServer server(Dripping(AnswerFor({archive, "\"one\"", {}, 299000}, {}), archive.mid(299000), 2));
+    DownloadRequest request = RequestFor(server.Url(), archive.size());
+    request.limits.minBytesPerSecond = 0;
+    request.unwatchedTrial = milliseconds(100);
+    EXPECT_EQ(Run(request).bytes, archive);
 }
 
 TEST_F(DownloadBudgetTest, PersonWaitsAsLongAsTheBudgetLasts)

@@ -72,6 +72,11 @@ bool MayBeInterrupted(Place const& place)
     return std::find(std::begin(CALLS), std::end(CALLS), place.call) != std::end(CALLS);
 }
 
+bool FillsTheDisk(Place const& place)
+{
+    return place.call == SYS_pwrite64 || place.call == SYS_write;
+}
+
 bool MayBeShortened(Place const& place)
 {
     return CanBeShortened(place.call, place.answer) && place.call != SYS_read;
@@ -285,6 +290,28 @@ TEST_F(DownloadFaultTest, FailingCallsEndInAnErrorOrInTheArchiveAndTheNextRunBri
             }
             ExpectNextRunBringsTheArchive(what);
         });
+}
+
+TEST_F(DownloadFaultTest, DiskThatIsFullAtAnyWriteIsToldInNumbersAndLeftAsItWas)
+{
+    bool isQuota = false;
+    auto const verdictAt = [&](std::size_t place)
+    {
+        isQuota = place % 2 == 1;
+        return CallVerdict::Fail(isQuota ? EDQUOT : ENOSPC);
+    };
+    auto const check = [&](Place const&, End const& end, std::string const& where)
+    {
+        ErrorCause const cause = isQuota ? ErrorCause::DownloadQuotaReached : ErrorCause::DownloadNoRoom;
+        EXPECT_EQ(end.cause, static_cast<int>(cause)) << where << ": " << end.all;
+        EXPECT_NE(end.all.find("The update needs "), std::string::npos) << where << ": " << end.all;
+        EXPECT_NE(end.all.find(" free"), std::string::npos) << where << ": " << end.all;
+        EXPECT_EQ(end.all.find('%'), std::string::npos) << where << ": " << end.all;
+        EXPECT_TRUE(Files().isEmpty()) << where;
+        ExpectNextRunBringsTheArchive(where);
+    };
+    SweepRound(0, 1, &FillsTheDisk, verdictAt, check);
+    SweepRound(1, 1, &FillsTheDisk, verdictAt, check);
 }
 
 TEST_F(DownloadFaultTest, InterruptedCallsAreMadeAgain)

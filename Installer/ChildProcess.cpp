@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cerrno>
 #include <climits>
-#include <fstream>
-#include <sstream>
 
 #include <poll.h>
 #include <signal.h>
@@ -81,26 +79,6 @@ bool WaitForEnd(int processFd, std::uint64_t seconds)
             throw UpdateRefusal(UpdateFault::DescriptorUnusable, count > 0 ? 0 : errno);
         }
     }
-}
-
-std::uint64_t StartTimeOf(std::uint64_t process)
-{
-    constexpr int WORDS_TO_START_TIME = 19; // from the state on
-    std::ifstream file("/proc/" + std::to_string(process) + "/stat");
-    std::string text;
-    std::getline(file, text, '\0');              // a program's name may hold a line's end
-    std::size_t const nameEnd = text.rfind(')'); // and anything else
-    std::istringstream words(nameEnd == std::string::npos ? std::string() : text.substr(nameEnd + 1));
-    std::string state;
-    words >> state;
-    std::string word;
-    for (int i = 0; i < WORDS_TO_START_TIME - 1; ++i)
-    {
-        words >> word;
-    }
-    std::uint64_t time = 0;
-    words >> time;
-    return state == "Z" || state == "X" ? 0 : time;
 }
 
 } // namespace Pelnar::Installer

@@ -19,7 +19,4 @@ pid_t StartProgram(std::vector<std::string> words, std::vector<std::string> envi
 /// Throws UpdateRefusal: DescriptorUnusable.
 [[nodiscard]] bool WaitForEnd(int processFd, std::uint64_t seconds);
 
-/// When the process of that number started, as the kernel counts; 0 when there is none, or it has ended.
-std::uint64_t StartTimeOf(std::uint64_t process);
-
 } // namespace Pelnar::Installer

@@ -4,6 +4,7 @@
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
 #include "Installer/ChildProcess.h"
+#include "Installer/OutcomeNote.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/RunInstaller.h"
 #include "Installer/SwapBundle.h"
@@ -11,6 +12,8 @@
 #include "Installer/WatchStart.h"
 
 #include <cerrno>
+#include <exception>
+#include <optional>
 
 #include <fcntl.h>
 #include <signal.h>
@@ -155,22 +158,45 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     report.Send(Engine::InstalledReport{});
 }
 
-/// The child's whole life; its exit status.
-int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+/// Why nothing was installed.
+struct Failure
 {
+    UpdateFault fault = UpdateFault::InstallationInterrupted;
+    int errorNumber = 0;
+};
+
+/// Runs \a work; what it throws.
+template <typename Work>
+std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
+{
+    Failure failure;
     try
     {
-        InstallLocked(job, descriptors, report);
-        return 0;
+        work();
+        return std::nullopt;
     }
     catch (UpdateRefusal const& refusal)
     {
-        report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+        failure = {refusal.Fault(), refusal.ErrorNumber()};
     }
     catch (std::exception const&) // memory ran out
     {
-        report.Send(Engine::RefusedReport{UpdateFault::DiskError, ENOMEM});
+        failure = {UpdateFault::DiskError, ENOMEM};
     }
+    report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
+    return failure;
+}
+
+/// The child's whole life; its exit status.
+int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report, int failureFd)
+{
+    auto const failure = FailureOf([&] { InstallLocked(job, descriptors, report); }, report);
+    if (!failure)
+    {
+        return 0;
+    }
+    // The pipe has room for it, and the parent reads it when this process has ended.
+    static_cast<void>(!::write(failureFd, &*failure, sizeof *failure));
     return EXIT_REFUSED;
 }
 
@@ -186,6 +212,39 @@ bool WaitForChild(pid_t child)
         }
     }
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+/// Has a child install the update. Nothing when it is installed.
+std::optional<Failure> InstallInChild(InstallJob const& job, InstallDescriptors const& descriptors,
+                                      ReportChannel& report)
+{
+    int ends[2];
+    if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
+    {
+        Failure const failure{UpdateFault::SwapFailed, errno};
+        report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
+        return failure;
+    }
+    UniqueFd const reader(ends[0]);
+    UniqueFd const writer(ends[1]);
+    pid_t const child = ::fork();
+    if (child == 0)
+    {
+        ::_exit(RunInstallation(job, descriptors, report, writer.Get()));
+    }
+    if (child < 0)
+    {
+        Failure const failure{UpdateFault::SwapFailed, errno};
+        report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
+        return failure;
+    }
+    if (WaitForChild(child))
+    {
+        return std::nullopt;
+    }
+    Failure failure;
+    bool const isTold = ::read(reader.Get(), &failure, sizeof failure) == sizeof failure;
+    return isTold ? failure : Failure();
 }
 
 /// After a failure: the target is made whole, and what was prepared is removed unless the target came from it.
@@ -217,33 +276,44 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
 
 bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
 {
+    OutcomeNote note(job, descriptors.records);
+    note.Begin();
     report.SendProgress(HelperPhase::Waiting, 0, 0);
-    WaitForHost(descriptors.host, job.waitSeconds);
+    try
+    {
+        WaitForHost(descriptors.host, job.waitSeconds);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        note.Fail(refusal.Fault(), refusal.ErrorNumber()); // a host that ends just now does not hear of it
+        throw;
+    }
     BlockSignals();
-    pid_t const child = ::fork();
-    if (child == 0)
+    note.EnterInstallation();
+    auto const failure = InstallInChild(job, descriptors, report);
+    if (failure)
     {
-        ::_exit(RunInstallation(job, descriptors, report));
+        note.Fail(failure->fault, failure->errorNumber);
+        // Who did not get the lock has touched nothing, and would wait for it once more.
+        if (failure->fault != UpdateFault::LockTimedOut)
+        {
+            TidyUp(job, descriptors, report);
+        }
     }
-    if (child < 0)
+    else
     {
-        report.Send(Engine::RefusedReport{UpdateFault::SwapFailed, errno});
-    }
-    bool const isInstalled = child > 0 && WaitForChild(child);
-    if (!isInstalled)
-    {
-        TidyUp(job, descriptors, report);
+        note.Succeed();
     }
     if (job.targetPath.empty())
     {
-        return isInstalled;
+        return !failure;
     }
-    if (isInstalled && AwaitsConfirmation(job, descriptors.parent))
+    if (!failure && AwaitsConfirmation(job, descriptors.parent))
     {
         ::close(descriptors.staging); // its lock would keep the folder when nobody needs it any more
-        return StartAndWatch(job, descriptors.parent, report);
+        return StartAndWatch(job, descriptors.parent, report, note);
     }
-    return StartAgain(job, report) && isInstalled;
+    return StartAgain(job, report) && !failure;
 }
 
 } // namespace Pelnar::Installer

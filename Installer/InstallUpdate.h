@@ -14,10 +14,11 @@ struct InstallDescriptors
     int parent;  ///< the folder that holds the installed bundle
     int staging; ///< the staging folder, locked by the host
     int host;    ///< a pidfd
+    int records; ///< the folder of the outcome's record; unused when none is kept
 };
 
-/// Throws UpdateRefusal: HostStillRunning, when nothing is touched. Any other outcome is reported; true when the new
-/// version is installed and, if that was asked for, something could be started.
+/// Throws UpdateRefusal: HostStillRunning, or when the record cannot be begun; nothing is touched then. Any other
+/// outcome is reported; true when the new version is installed and, if that was asked for, something could be started.
 [[nodiscard]] bool InstallUpdate(Engine::InstallJob const& job, InstallDescriptors const& descriptors,
                                  ReportChannel& report);
 

@@ -112,18 +112,10 @@ void RemoveAbandonedFolders(int parentFd, std::string const& targetName, std::st
     }
 }
 
-/// True when the process that the last counted start belongs to still runs: who asks then is it again, or another
-/// instance beside it.
-bool IsLastStartedRunning(SwapJournal const& journal)
-{
-    std::uint64_t const startTime = journal.lastStarted.startTime;
-    return startTime != 0 && StartTimeOf(journal.lastStarted.number) == startTime;
-}
-
 void CountStart(int parentFd, Engine::RecoverJob const& job, SwapJournal journal)
 {
     ++journal.countedStarts;
-    journal.lastStarted = {job.hostProcess, job.hostProcess == 0 ? 0 : StartTimeOf(job.hostProcess)};
+    journal.lastStarted = {job.hostProcess, job.hostProcess == 0 ? 0 : Engine::StartTimeOf(job.hostProcess)};
     WriteSwapJournal(parentFd, job.targetName, journal);
 }
 
@@ -152,8 +144,9 @@ RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal
     RecoveryAction const decided = Engine::DecideRecovery(
         {target, !previousName.empty(), job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
     bool const isOneMoreStart = decided == RecoveryAction::CountedStart || decided == RecoveryAction::RolledBack;
+    // While the process of the last counted start runs, who asks is it again, or another instance beside it.
     RecoveryAction const action =
-        isOneMoreStart && IsLastStartedRunning(journal) ? RecoveryAction::KeptPrevious : decided;
+        isOneMoreStart && Engine::IsRunning(journal.lastStarted) ? RecoveryAction::KeptPrevious : decided;
     switch (action)
     {
     case RecoveryAction::Nothing:

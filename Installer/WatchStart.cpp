@@ -73,11 +73,14 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
     {
         return StartEnd::Settled; // the starts that are counted must do
     }
+    // While it waits, and only then, the session may end this process: the starts that are counted do the rest.
+    sigset_t none;
+    ::sigemptyset(&none);
     // Asked after the watch is there: a journal that goes now is noticed.
     while (AwaitsConfirmation(job, parentFd))
     {
         pollfd waiting[] = {{ended.Get(), POLLIN, 0}, {watch.Get(), POLLIN, 0}};
-        if (::poll(waiting, 2, -1) < 0)
+        if (::ppoll(waiting, 2, nullptr, &none) < 0)
         {
             if (errno != EINTR)
             {
@@ -108,14 +111,6 @@ StartEnd StartOnce(InstallJob const& job, int parentFd, ReportChannel const& rep
     // Another bundle says nothing of the one that was installed.
     bool const isTarget = started->path == Engine::RealPathOf(parentFd) + '/' + job.targetName;
     return isTarget ? WaitForStart(job, parentFd, started->process) : StartEnd::Settled;
-}
-
-/// From here on the session may end this process: what it would do is done by the starts that are counted.
-void UnblockSignals()
-{
-    sigset_t none;
-    ::sigemptyset(&none);
-    ::sigprocmask(SIG_SETMASK, &none, nullptr);
 }
 
 } // namespace
@@ -165,9 +160,8 @@ bool AwaitsConfirmation(InstallJob const& job, int parentFd)
     }
 }
 
-bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& report)
+bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& report, OutcomeNote& note)
 {
-    UnblockSignals();
     for (std::uint64_t failures = 0; failures < Engine::MAX_UNCONFIRMED_STARTS; ++failures)
     {
         if (StartOnce(job, parentFd, report) == StartEnd::Settled)
@@ -185,6 +179,7 @@ bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& rep
     {
         return true; // somebody else has taken the matter over
     }
+    note.Fail(Engine::UpdateFault::NewVersionFailed, 0);
     static_cast<void>(StartAgain(job, report));
     return false;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"
+#include "Installer/OutcomeNote.h"
 #include "Installer/ReportChannel.h"
 
 #include <optional>
@@ -28,7 +29,8 @@ std::optional<StartedBundle> StartAgain(Engine::InstallJob const& job, ReportCha
 
 /// Starts the new version and answers once its start is confirmed, or a person has ended it. When it fails (it does not
 /// start, or ends by itself with another status than 0) it is started once more; when that fails too, the previous
-/// version is put back and started. False when it was. REQUIRES: AwaitsConfirmation.
-[[nodiscard]] bool StartAndWatch(Engine::InstallJob const& job, int parentFd, ReportChannel const& report);
+/// version is put back and started, and \a note says so. False when it was. REQUIRES: AwaitsConfirmation.
+[[nodiscard]] bool StartAndWatch(Engine::InstallJob const& job, int parentFd, ReportChannel const& report,
+                                 OutcomeNote& note);
 
 } // namespace Pelnar::Installer

@@ -151,8 +151,14 @@ bool Install(Installer::ReportChannel& report)
     auto const job = ReadJobOfKind<Engine::InstallJob>();
     RequireFolder(HelperDescriptors::PARENT);
     RequireStaging();
+    if (job.record)
+    {
+        RequireFolder(HelperDescriptors::RECORDS);
+    }
     return Installer::InstallUpdate(
-        job, {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST}, report);
+        job,
+        {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST, HelperDescriptors::RECORDS},
+        report);
 }
 
 bool Recover(Installer::ReportChannel& report)

@@ -1,7 +1,8 @@
-// HelperFormatsFuzz.cpp: any bytes as a job, as a swap's journal and as a line of the helper's report: what is accepted
-// is the one form of what it says.
+// HelperFormatsFuzz.cpp: any bytes as a job, as a swap's journal, as an installation's record and as a line of the
+// helper's report: what is accepted is the one form of what it says.
 
 #include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/payload/InstallRecord.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/UpdateJob.h"
 
@@ -63,6 +64,20 @@ void CheckJournal(std::string_view bytes)
     }
 }
 
+void CheckRecord(std::string_view bytes)
+{
+    auto const record = DecodeInstallRecord(bytes);
+    if (record)
+    {
+        Require(EncodeInstallRecord(*record) == bytes && bytes.size() <= INSTALL_RECORD_MAX_BYTES);
+        Require(record->attempts > 0 && record->fromVersion != record->toVersion);
+        for (HelperLife const helper : {HelperLife::Runs, HelperLife::Ended})
+        {
+            Require(JudgePastInstallation(*record, record->toVersion, helper) == PastInstallation::Over);
+        }
+    }
+}
+
 void CheckReport(std::string_view line)
 {
     auto const report = DecodeHelperReport(line);
@@ -80,6 +95,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     std::string_view const bytes(reinterpret_cast<char const*>(data), size);
     CheckJob(bytes);
     CheckJournal(bytes);
+    CheckRecord(bytes);
     CheckReport(bytes);
     return 0;
 }

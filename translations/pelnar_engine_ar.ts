@@ -706,6 +706,18 @@
         <translation>لم يبدأ التطبيق بعد تحديثه. شغّله يدويًا.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>لا يستطيع التحديث الإبقاء على من يُسمح له بفتح التطبيق، ولذلك لم يُثبَّت. اطلب من الشخص الذي ثبّت التطبيق أن يحدّثه.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>لم يبدأ الإصدار الجديد، وأُعيد الإصدار السابق. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>توقّف تثبيت التحديث قبل اكتماله. ابحث عن التحديثات مرة أخرى.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>لا يمكن قفل الملفات في مكان تثبيت التطبيق: انقله إلى مجلد على قرص محلي.</translation>
     </message>

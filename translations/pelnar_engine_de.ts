@@ -706,6 +706,18 @@
         <translation>Die aktualisierte Anwendung ist nicht gestartet. Starten Sie die Anwendung von Hand.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>Das Update kann nicht beibehalten, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>Die neue Version ist nicht gestartet, und die vorherige ist wieder da. Informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>Die Installation des Updates wurde unterbrochen. Suchen Sie erneut nach Updates.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Am Speicherort der Anwendung lassen sich keine Dateien sperren: Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>La aplicación actualizada no se abrió: ábrala a mano.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>La actualización no puede conservar quién puede abrir la aplicación y no se instaló. Pida a la persona que instaló la aplicación que la actualice.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>La nueva versión no se inició y se ha restaurado la anterior. Informe al editor.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>La instalación de la actualización se interrumpió. Busque actualizaciones de nuevo.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>En el lugar donde está instalada la aplicación no se pueden bloquear archivos: muévala a una carpeta de un disco local.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>L’application mise à jour ne s’est pas ouverte&#xa0;: ouvrez-la manuellement.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>La mise à jour ne peut pas conserver les droits d’ouverture de l’application et n’a pas été installée. Demandez à la personne qui a installé l’application de la mettre à jour.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>La nouvelle version n’a pas démarré et la précédente a été rétablie. Prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>L’installation de la mise à jour a été interrompue. Recherchez de nouveau les mises à jour.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Les fichiers ne peuvent pas être verrouillés là où l’application est installée&#xa0;: déplacez-la dans un dossier d’un disque local.</translation>
     </message>

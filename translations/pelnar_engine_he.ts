@@ -706,6 +706,18 @@
         <translation>היישום המעודכן לא הופעל. יש להפעיל אותו ידנית.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>העדכון אינו יכול לשמור על ההרשאות לפתיחת היישום, ולכן לא הותקן. יש לבקש ממי שהתקין את היישום לעדכן אותו.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>הגרסה החדשה לא הופעלה, והגרסה הקודמת שוחזרה. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>התקנת העדכון הופסקה. יש לחפש עדכונים שוב.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>לא ניתן לנעול קבצים במקום שבו היישום מותקן: העבירו אותו לתיקייה בכונן מקומי.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>L’applicazione aggiornata non si è aperta: aprirla manualmente.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>L’aggiornamento non può mantenere chi può aprire l’applicazione e non è stato installato. Chiedere alla persona che ha installato l’applicazione di aggiornarla.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>La nuova versione non si è avviata ed è stata ripristinata quella precedente. Informare il produttore.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>L’installazione dell’aggiornamento è stata interrotta. Cercare di nuovo gli aggiornamenti.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Nel luogo in cui è installata l’applicazione non è possibile bloccare i file: spostala in una cartella su un disco locale.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>アップデートしたアプリケーションが起動しませんでした。手動で起動してください。</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>アプリケーションを開ける人の設定を維持できないため、アップデートはインストールされませんでした。アプリケーションをインストールした人に更新を依頼してください。</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>新しいバージョンを起動できなかったため、前のバージョンに戻しました。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>アップデートのインストールが中断されました。もう一度アップデートを確認してください。</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>アプリケーションのインストール先ではファイルをロックできません: ローカルディスク上のフォルダに移動してください。</translation>
     </message>

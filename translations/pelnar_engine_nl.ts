@@ -706,6 +706,18 @@
         <translation>De bijgewerkte app is niet geopend: open hem met de hand.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>De update kan niet behouden wie de toepassing mag openen en is niet geïnstalleerd. Vraag de persoon die de toepassing heeft geïnstalleerd om deze bij te werken.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>De nieuwe versie is niet gestart en de vorige is teruggezet. Informeer de uitgever.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>De installatie van de update is onderbroken. Zoek opnieuw naar updates.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Op de plaats waar het programma staat kunnen geen bestanden worden vergrendeld: verplaats het naar een map op een lokale schijf.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>Zaktualizowana aplikacja nie uruchomiła się. Uruchom ją ręcznie.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>Aktualizacja nie może zachować uprawnień do otwierania aplikacji i nie została zainstalowana. Poproś osobę, która zainstalowała aplikację, o jej aktualizację.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>Nowa wersja nie uruchomiła się i przywrócono poprzednią. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>Instalacja aktualizacji została przerwana. Sprawdź ponownie dostępność aktualizacji.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>W miejscu instalacji aplikacji nie można blokować plików: przenieś ją do folderu na dysku lokalnym.</translation>
     </message>

@@ -706,6 +706,18 @@
         <translation>O aplicativo atualizado não abriu: abra-o manualmente.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>A atualização não pode manter quem pode abrir o aplicativo e não foi instalada. Peça à pessoa que instalou o aplicativo que o atualize.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>A nova versão não iniciou e a anterior foi restaurada. Avise o fornecedor.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>A instalação da atualização foi interrompida. Procure atualizações novamente.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Não é possível bloquear arquivos no local em que o aplicativo está instalado: mova-o para uma pasta em um disco local.</translation>
     </message>

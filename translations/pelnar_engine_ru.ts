@@ -706,6 +706,18 @@
         <translation>Обновлённая программа не запустилась. Запустите её вручную.</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>Обновление не может сохранить права на открытие приложения и не установлено. Попросите того, кто установил приложение, обновить его.</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>Новая версия не запустилась, и восстановлена предыдущая. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>Установка обновления была прервана. Проверьте наличие обновлений ещё раз.</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>Там, где установлено приложение, нельзя блокировать файлы: переместите его в папку на локальном диске.</translation>
     </message>

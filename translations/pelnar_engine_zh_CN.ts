@@ -706,6 +706,18 @@
         <translation>更新后的应用程序未能启动。请手动启动。</translation>
     </message>
     <message>
+        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <translation>此更新无法保留谁可以打开该应用程序的设置，因此未安装。请让安装该应用程序的人来更新。</translation>
+    </message>
+    <message>
+        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <translation>新版本无法启动，已恢复先前的版本。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The installation of the update was interrupted: check for updates again.</source>
+        <translation>更新的安装被中断。请再次检查更新。</translation>
+    </message>
+    <message>
         <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
         <translation>应用程序所在的位置无法锁定文件：请将其移动到本地磁盘上的文件夹。</translation>
     </message>

@@ -385,6 +385,19 @@ FaultDescription DescriptionOf(UpdateFault fault)
                     "PelnarEngine_Errors",
                     "This system does not provide memfd_create, which updates need: install a newer kernel, or allow "
                     "the call in the container or sandbox.")};
+    case UpdateFault::InstallationInterrupted:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The installation of the update was interrupted: check for updates again.")};
+    case UpdateFault::NewVersionFailed:
+        return {ErrorCode::Installation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The new version did not start, and the previous one is back: tell the publisher.")};
+    case UpdateFault::RightsNotKept:
+        return {ErrorCode::NotWritable,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update cannot keep who may open the application, and was not installed: ask the "
+                                  "person who installed the application to update it.")};
     }
     return {
         ErrorCode::Installation,
@@ -491,6 +504,9 @@ bool IsArchiveToBlame(UpdateFault fault)
     case UpdateFault::FolderUnsafe:
     case UpdateFault::ProcessHandlesUnavailable:
     case UpdateFault::SealedMemoryUnavailable:
+    case UpdateFault::InstallationInterrupted:
+    case UpdateFault::NewVersionFailed:
+    case UpdateFault::RightsNotKept:
         return false;
     }
     return false;

@@ -335,6 +335,7 @@ std::optional<StartedApplication> ReadStartedApplication()
     application.helperProgram = HelperProgram();
     application.bundlePath = ToQString([[NSBundle mainBundle] bundlePath]);
     application.version = TextOf(@"CFBundleVersion", Source::Bundle);
+    application.downloadFolder = DownloadFolderFor(ReadRunningBundle().identifier);
     return application.version.isEmpty() ? std::nullopt : std::optional(application);
 }
 

@@ -5,6 +5,8 @@
 #import "Engine/objc/SUUpdater_p.h"
 #import "Engine/objc/TranslatedError_p.h"
 
+#include "Engine/core/UpdateError.h"
+#include "Engine/core/check/DelegateCall.h"
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/objc/BundleSettings_p.h"
 #include "Engine/objc/HelperLocation_p.h"
@@ -40,6 +42,12 @@ Updater::Updater(SUUpdater* face) : m_face(face)
 
 Updater::~Updater() = default;
 
+void Updater::SetDelegate(id<SUUpdaterDelegate> delegate)
+{
+    m_delegate = delegate;
+    TellFailedInstallationLater();
+}
+
 QUrl Updater::FeedUrl() const { return m_feedUrl.isEmpty() ? ReadFeedUrl() : m_feedUrl; }
 
 void Updater::StartCheck(CheckKind kind)
@@ -72,14 +80,18 @@ void Updater::StartFlow(CheckKind kind)
     PrepareForCheck();
     UpdateSettings settings = ReadUpdateSettings(FeedUrl());
     settings.check.failedVersion = m_failedVersion;
+    auto const& failure = m_memory->Failure();
+    if (failure && IsHeldBack(*failure, Parts().Now()))
+    {
+        settings.check.heldBackVersion = QString::fromStdString(failure->toVersion);
+    }
     if (m_fetchLimits)
     {
         qint64 const maxBodyBytes = settings.check.fetchLimits.maxBodyBytes;
         settings.check.fetchLimits = *m_fetchLimits;
         settings.check.fetchLimits.maxBodyBytes = maxBodyBytes;
     }
-    m_flow = std::make_unique<UpdateFlow>(kind, std::move(settings), *this, m_testWindows ? *m_testWindows : *m_windows,
-                                          m_testParts ? *m_testParts : *m_parts);
+    m_flow = std::make_unique<UpdateFlow>(kind, std::move(settings), *this, Windows(), Parts());
     m_flow->Start();
 }
 
@@ -100,6 +112,10 @@ void Updater::AttachToApplication()
             m_isRecovering = true;
             RecoverAtStart(*application, *m_startOwner, [this](StartOutcome const& outcome) { TakeStart(outcome); });
         }
+        StartedApplication const started = application.value_or(StartedApplication());
+        m_memory = std::make_unique<InstallMemory>(started.downloadFolder, started.bundlePath, started.version);
+        m_isDelegateToBeTold = m_memory->IsToBeTold();
+        TellFailedInstallationLater();
     }
 }
 
@@ -113,6 +129,37 @@ void Updater::TakeStart(StartOutcome const& outcome)
         {
             StartFlow(*kind);
         }
+    }
+}
+
+void Updater::TellFailedInstallationLater()
+{
+    if (m_isDelegateToBeTold && m_startOwner)
+    {
+        QMetaObject::invokeMethod(
+            m_startOwner.get(), [this] { TellFailedInstallation(); }, Qt::QueuedConnection);
+    }
+}
+
+void Updater::TellFailedInstallation()
+{
+    // A check that is under way would be taken for the failed one. Its end leads here again.
+    if (!m_isDelegateToBeTold || IsInProgress())
+    {
+        return;
+    }
+    InstallRecord const& failure = *m_memory->Failure();
+    EngineError const error = MakeFaultError(failure.fault, failure.errorNumber);
+    if (m_memory->IsToBeTold())
+    {
+        PrepareForCheck();
+        m_memory->SetTold();
+        Windows().ShowError(error.sentence, [] {});
+    }
+    if (m_delegate)
+    {
+        m_isDelegateToBeTold = false;
+        (void)FailureOf("updater:didAbortWithError:", [this, &error] { TellAborted(error); });
     }
 }
 
@@ -156,6 +203,8 @@ void Updater::Abandon()
     Updater* const updater = std::exchange(runningUpdater, nullptr);
     updater->m_flow.reset();
     updater->m_startOwner.reset();
+    updater->m_memory.reset();
+    updater->m_isDelegateToBeTold = false;
     updater->m_isRecovering = false;
     updater->m_waitingCheck.reset();
     updater->m_windows.reset();
@@ -404,6 +453,7 @@ void Updater::UpdateEnded()
     m_fallback.Reset();
     // The flow is on the stack below this call.
     m_flow.release()->deleteLater();
+    TellFailedInstallationLater();
 }
 
 } // namespace Pelnar::Engine

@@ -7,6 +7,7 @@
 
 #include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/GoodStart.h"
+#include "Engine/core/update/InstallMemory.h"
 #include "Engine/core/update/UpdateFlow.h"
 #include "Foundation/Retained.h"
 
@@ -25,7 +26,7 @@ public:
     Updater& operator=(Updater const&) = delete;
 
     id<SUUpdaterDelegate> Delegate() const { return m_delegate; }
-    void SetDelegate(id<SUUpdaterDelegate> delegate) { m_delegate = delegate; }
+    void SetDelegate(id<SUUpdaterDelegate> delegate);
     QUrl FeedUrl() const;
     void SetFeedUrl(QUrl const& url) { m_feedUrl = url; }
 
@@ -55,9 +56,14 @@ private:
     /// or undoes an update that was interrupted.
     void AttachToApplication();
     void TakeStart(StartOutcome const& outcome);
+    /// Tells of an installation that failed when nobody was there to hear of it, once no check is under way.
+    void TellFailedInstallationLater();
+    void TellFailedInstallation();
     /// What a check needs and the application object must outlive, made once for each application object.
     void PrepareForCheck();
     void StartFlow(CheckKind kind);
+    IUpdateParts& Parts() { return m_testParts ? *m_testParts : *m_parts; }
+    IUserInterface& Windows() { return m_testWindows ? *m_testWindows : *m_windows; }
     SUAppcastItem* ItemAt(ItemPlace const& place) const;
 
     void StoreFeedRecord(FeedRecord const& record) override;
@@ -90,6 +96,8 @@ private:
     bool m_isRecovering = false;
     QString m_failedVersion;                 ///< that was taken back for the running one
     std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may tell of a failed version
+    std::unique_ptr<InstallMemory> m_memory;
+    bool m_isDelegateToBeTold = false; ///< of the installation that failed
     std::unique_ptr<IUpdateParts> m_parts;
     std::unique_ptr<DiskChores> m_chores; ///< what a check leaves to be written
     std::unique_ptr<IUserInterface> m_windows;

@@ -145,6 +145,9 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::ProcessHandlesUnavailable:
     case UpdateFault::SealedMemoryUnavailable:
     case UpdateFault::PayloadKindDiffers: // told by whoever knows both kinds
+    case UpdateFault::InstallationInterrupted:
+    case UpdateFault::NewVersionFailed:
+    case UpdateFault::RightsNotKept:
         break;
     }
     return {nullptr, ""};

@@ -1,8 +1,10 @@
 // StartHost.cpp: a small host application: one start with one check, whose events it prints in a line.
-// Usage: run FEED background|interactive [confirm]
+// Usage: run FEED background|interactive [confirm] [listen]
+// With "listen" it stays until it hears a third event.
 
 #include "Foundation/IsolatedUserDefaults.h"
 #include "tests/engine/ScriptedDelegate.h"
+#include "tests/support/DialogDriver.h"
 
 #include <Pelnar/GoodStart.h>
 
@@ -39,7 +41,11 @@ int main(int argc, char** argv)
     {
         Pelnar::ConfirmGoodStart();
     }
-    bool const hasEnded = driver.WaitForEnd();
+    bool hasEnded = driver.WaitForEnd();
+    if (arguments.contains(QStringLiteral("listen")))
+    {
+        hasEnded = hasEnded && WaitFor([&driver] { return driver.Events().size() > 2; });
+    }
     for (std::string const& event : driver.Events())
     {
         std::printf("%s;", event.c_str());

@@ -1,5 +1,6 @@
 // StartTest.cpp: what becomes of an update at the starts after it: a real host application in a real bundle, which the
 // real helper has installed, or was killed over.
+#include "Engine/core/update/InstallAttempt.h"
 #include "tests/engine/FeedText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -15,6 +16,7 @@
 #include <fstream>
 #include <sstream>
 
+#include <fcntl.h>
 #include <stdio.h>
 #include <sys/syscall.h>
 
@@ -23,6 +25,7 @@ namespace
 
 using namespace Pelnar::Testing;
 
+std::string const ARCHIVE = std::string(64, 'a') + ".archive";
 constexpr char STRACE[] = "/usr/bin/strace";
 
 std::string ContentOf(std::string const& path)
@@ -69,6 +72,34 @@ protected:
         return outcome;
     }
 
+    QString Cache() const { return QString::fromStdString(m_scene.Downloads().Path() + "/cache"); }
+    /// Where the host keeps its downloads.
+    std::string DownloadFolder() const { return Cache().toStdString() + "/pelnar-updates/org%2Epelnar%2Etest"; }
+
+    /// A person's wish for 2.0, which the injected fault spoils.
+    void FailToInstall(std::string const& fault)
+    {
+        Pelnar::Engine::InstallJob job = m_scene.PrepareForInstall();
+        UpdateScene::KeepRecord(job);
+        job.recordName = Pelnar::Engine::InstallRecordName(QString::fromStdString(BundlePath()));
+        job.record->attempts = 1;
+        job.targetPath.clear();
+        std::filesystem::create_directories(DownloadFolder());
+        std::ofstream(DownloadFolder() + "/" + ARCHIVE) << "the archive";
+        Pelnar::Engine::UniqueFd const records(::open(DownloadFolder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        m_scene.Host().End();
+        HelperStart start;
+        start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=" + fault};
+        using Numbers = Pelnar::Engine::HelperDescriptors;
+        RunHelper("install", Pelnar::Engine::EncodeUpdateJob(job),
+                  {{Numbers::PARENT, m_scene.Place().Descriptor()},
+                   {Numbers::STAGING, m_scene.StagingDescriptor()},
+                   {Numbers::HOST, m_scene.Host().ProcessDescriptor()},
+                   {Numbers::RECORDS, records.Get()}},
+                  start);
+        m_scene.ReleaseStaging();
+    }
+
     /// Starts the installed application, and waits for its end; the events of its check.
     std::string Run(QStringList const& arguments, QStringList const& before = {})
     {
@@ -76,13 +107,14 @@ protected:
                             << QString::fromStdString(BundlePath() + "/run") << m_server.Url().toString() << arguments;
         QProcess process;
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"), Cache());
         if (!before.isEmpty())
         {
             // The leak checker needs to trace the process itself.
-            QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
             environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0"));
-            process.setProcessEnvironment(environment);
         }
+        process.setProcessEnvironment(environment);
         QString const program = words.takeFirst();
         process.start(program, words);
         EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
@@ -176,6 +208,31 @@ TEST_F(Start, AfterAHelperThatWasKilledBehindTheSwapClearsUpAndRunsTheNewVersion
     EXPECT_TRUE(IsAlone());
     ExpectWhole("2.0");
     EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
+}
+
+TEST_F(Start, AfterAnInstallationThatFailedTellsThePersonWhoAskedOnceAndWaitsWithTheNext)
+{
+    FailToInstall("renameat2:error=EPERM");
+    QStringList const listening{QStringLiteral("background"), QStringLiteral("listen")};
+    EXPECT_EQ(Run(listening), "asked;aborted 1002;aborted 4012;") << "held back, then the failure";
+    EXPECT_EQ(RunInBackground(), "asked;aborted 1002;") << "it is told once";
+    EXPECT_EQ(Run({QStringLiteral("interactive")}).rfind("asked;found 2.0;", 0), 0u) << "a person may try again";
+    ExpectWhole("1.0");
+    EXPECT_TRUE(std::filesystem::exists(DownloadFolder() + "/" + ARCHIVE)) << "the next attempt need not download it";
+}
+
+TEST_F(Start, AfterAHelperThatWasKilledTellsThePersonWhoAsked)
+{
+    FailToInstall("renameat2:signal=KILL");
+    EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4005;");
+}
+
+TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)
+{
+    FailToInstall("mkdirat:error=EPERM"); // a call that an installation does not make
+    ExpectWhole("2.0");
+    EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
+    EXPECT_TRUE(std::filesystem::is_empty(DownloadFolder()));
 }
 
 TEST_F(StartWithAWord, KeepsANewVersionThatConfirms)

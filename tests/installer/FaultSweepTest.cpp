@@ -143,7 +143,8 @@ void SweepInstallation(std::vector<std::string> const& options)
 {
     Versions const versions;
     UpdateScene traced;
-    InstallJob const tracedJob = traced.PrepareForInstall();
+    InstallJob tracedJob = traced.PrepareForInstall();
+    UpdateScene::KeepRecord(tracedJob);
     traced.Host().End();
     std::vector<Place> const places =
         PlacesOf(options, [&](HelperStart const& start) { EXPECT_EQ(traced.Install(tracedJob, start).exitStatus, 0); });
@@ -155,7 +156,8 @@ void SweepInstallation(std::vector<std::string> const& options)
         }
         SCOPED_TRACE(testing::Message() << place);
         UpdateScene scene;
-        InstallJob const job = scene.PrepareForInstall();
+        InstallJob job = scene.PrepareForInstall();
+        UpdateScene::KeepRecord(job);
         scene.Host().End();
         Traced const killed(KillAt(place, options));
         scene.Install(job, killed.Start());

@@ -30,7 +30,22 @@ InstallJob SomeInstallJob()
     job.targetPath = "/opt/A.app";
     job.relaunchPath = "/opt/B.app";
     job.environment = {"HOME=/root", "EMPTY="};
+    job.workingFolder = "/home/a b";
+    job.creationMask = 077;
+    UpdateScene::KeepRecord(job);
     return job;
+}
+
+InstallRecord SomeRecord()
+{
+    InstallRecord record = *SomeInstallJob().record;
+    record.state = InstallState::Failed;
+    record.secondsSinceEpoch = 1700000000;
+    record.helper = {4711, 815};
+    record.fault = UpdateFault::SwapFailed;
+    record.errorNumber = 5;
+    record.told = FailureTold::Yes;
+    return record;
 }
 
 /// Every way to write one job is the one way.
@@ -60,6 +75,52 @@ TEST(UpdateJob, EachKindComesBackAndNoPieceOfItDoes)
     EXPECT_EQ(job.digest, SomeInstallJob().digest);
     EXPECT_EQ(job.waitSeconds, 300u);
     EXPECT_EQ(job.environment, SomeInstallJob().environment);
+    EXPECT_EQ(job.workingFolder, "/home/a b");
+    EXPECT_EQ(job.creationMask, 077u);
+    EXPECT_EQ(job.recordName, RECORD_NAME);
+    ASSERT_TRUE(job.record);
+    EXPECT_EQ(job.record->attempts, 3u);
+}
+
+TEST(InstallRecord, ComesBackAndNoPieceOfItDoes)
+{
+    std::string const bytes = EncodeInstallRecord(SomeRecord());
+    auto const decoded = DecodeInstallRecord(bytes);
+    ASSERT_TRUE(decoded);
+    EXPECT_EQ(EncodeInstallRecord(*decoded), bytes);
+    EXPECT_EQ(decoded->fault, UpdateFault::SwapFailed);
+    EXPECT_EQ(decoded->errorNumber, 5);
+    EXPECT_EQ(decoded->helper, (ProcessMark{4711, 815}));
+    EXPECT_EQ(decoded->told, FailureTold::Yes);
+    for (std::size_t size = 0; size < bytes.size(); ++size)
+    {
+        EXPECT_FALSE(DecodeInstallRecord(bytes.substr(0, size))) << size;
+    }
+    EXPECT_FALSE(DecodeInstallRecord(bytes + '\0'));
+}
+
+TEST(InstallRecord, ThatContradictsItselfIsNone)
+{
+    using Change = void (*)(InstallRecord&);
+    for (Change const change :
+         std::initializer_list<Change>{
+             [](InstallRecord& record) { record.fromVersion = ""; },
+             [](InstallRecord& record) { record.toVersion = ""; },
+             [](InstallRecord& record) { record.toVersion = record.fromVersion; },
+             [](InstallRecord& record) { record.attempts = 0; },
+             [](InstallRecord& record) { record.fault = UpdateFault::None; },
+             [](InstallRecord& record) { record.state = InstallState::Installed; },
+             [](InstallRecord& record) { record.state = static_cast<InstallState>(4); },
+             [](InstallRecord& record) { record.wish = static_cast<InstallWish>(2); },
+             [](InstallRecord& record) { record.told = static_cast<FailureTold>(2); },
+             [](InstallRecord& record) { record.errorNumber = -1; },
+             [](InstallRecord& record) { record.fromVersion = std::string(INSTALL_RECORD_MAX_BYTES, '1'); },
+         })
+    {
+        InstallRecord record = SomeRecord();
+        change(record);
+        EXPECT_FALSE(DecodeInstallRecord(EncodeInstallRecord(record)));
+    }
 }
 
 template <typename Job>
@@ -116,6 +177,12 @@ TEST(UpdateJob, HostileInstallJobsAreRefused)
              [](InstallJob& job) { job.environment = {"NOVALUE"}; },
              [](InstallJob& job) { job.environment = {"=x"}; },
              [](InstallJob& job) { job.environment = {"A=b\0c"s}; },
+             [](InstallJob& job) { job.workingFolder = "home"; },
+             [](InstallJob& job) { job.creationMask = 01000; },
+             [](InstallJob& job) { job.recordName = "a/b"; },
+             [](InstallJob& job) { job.recordName = ""; },
+             [](InstallJob& job) { job.record = std::nullopt; },
+             [](InstallJob& job) { job.record->attempts = 0; },
              [](InstallJob& job) { job.environment = {"A=" + std::string(UPDATE_JOB_MAX_BYTES, 'x')}; },
          })
     {

@@ -370,12 +370,24 @@ Engine::InstallJob UpdateScene::MakeInstallJob(Engine::ContentHash const& digest
     return job;
 }
 
+void UpdateScene::KeepRecord(Engine::InstallJob& job)
+{
+    Engine::InstallRecord record;
+    record.fromVersion = job.installedVersion;
+    record.toVersion = job.expectedVersion;
+    record.wish = Engine::InstallWish::Person;
+    record.attempts = 3;
+    job.recordName = RECORD_NAME;
+    job.record = record;
+}
+
 HelperOutcome UpdateScene::Install(Engine::InstallJob const& job, HelperStart const& start)
 {
     return RunHelper("install", Engine::EncodeUpdateJob(job),
                      {{Engine::HelperDescriptors::PARENT, m_place.Descriptor()},
                       {Engine::HelperDescriptors::STAGING, m_staging->Descriptor()},
-                      {Engine::HelperDescriptors::HOST, m_host.ProcessDescriptor()}},
+                      {Engine::HelperDescriptors::HOST, m_host.ProcessDescriptor()},
+                      {Engine::HelperDescriptors::RECORDS, m_downloads.Descriptor()}},
                      start);
 }
 

@@ -18,6 +18,7 @@ namespace Pelnar::Testing
 
 constexpr char IDENTIFIER[] = "org.pelnar.test";
 constexpr char APP[] = "My App.app";
+constexpr char RECORD_NAME[] = "outcome.record";
 
 /// A bundle whose program prints its version, its path and the number of its arguments.
 std::vector<ForgedEntry> MakeBundle(std::string const& version, std::string const& name = APP);
@@ -121,6 +122,8 @@ public:
     Engine::InstallJob PrepareForInstall();
     /// For the bundle APP of that tree, staged; nothing is started afterwards.
     Engine::InstallJob MakeInstallJob(Engine::ContentHash const& digest) const;
+    /// Has the outcome of \a job, a third attempt, kept as RECORD_NAME beside the archive.
+    static void KeepRecord(Engine::InstallJob& job);
     HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
     HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
     HelperOutcome Recover(Engine::RecoverJob const& job, HelperStart const& start = {});

@@ -305,6 +305,12 @@ void ScriptedParts::DiscardDownload(DownloadRequest const& request)
     m_notes.push_back("discard " + request.url.path().toStdString());
 }
 
+void ScriptedParts::DiscardAttempt(std::unique_ptr<InstallAttempt> attempt)
+{
+    m_notes.push_back("attempt taken back");
+    attempt->TakeBack();
+}
+
 std::unique_ptr<IHelper> ScriptedParts::MakeHelper()
 {
     return std::make_unique<ScriptedHelper>(*this);
@@ -366,7 +372,7 @@ UpdateFixture::UpdateFixture()
     settings.bundle.shownVersion = QStringLiteral("Five");
     settings.bundle.publicKeys = QStringList{QString::fromLatin1(GOOD_KEY)};
     settings.check.bundleVersion = settings.bundle.version;
-    settings.downloadFolder = folder.filePath(QStringLiteral("downloads"));
+    settings.downloadFolder = downloads.path();
 }
 
 FeedItem UpdateFixture::Item(char const* version) const

@@ -130,6 +130,7 @@ public:
     void ClearDownloads(QString const& folder) override { cleared.push_back(folder); }
     std::unique_ptr<Engine::IHelper> MakeHelper() override;
     void DiscardUpdate(std::unique_ptr<Engine::PreparedUpdate> update) override { update.reset(); }
+    void DiscardAttempt(std::unique_ptr<Engine::InstallAttempt> attempt) override;
     QDateTime Now() override { return now; }
 
     void TellTarget();
@@ -177,6 +178,7 @@ protected:
 
     TestApplication<> application;
     QTemporaryDir folder;
+    QTemporaryDir downloads;
     Notes notes;
     ScriptedHost host{notes};
     ScriptedWindows windows{notes};

@@ -162,7 +162,8 @@ TEST_F(UpdateRunTest, HelperThatDisappearsBetweenPreparationAndInstallationIsAnE
     parts.isHelperMissing = true;
     Since();
     windows.Choose(ReadyChoice::InstallAndRelaunch);
-    EXPECT_EQ(Since(), (Notes{"should relaunch?", "path?", "end"})) << "will relaunch is not told";
+    EXPECT_EQ(Since(), (Notes{"should relaunch?", "path?", "attempt taken back", "end"}))
+        << "will relaunch is not told";
     EXPECT_EQ(end->error->fault, UpdateFault::DescriptorUnusable);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
@@ -175,7 +176,7 @@ TEST_F(UpdateRunTest, ApplicationThatStaysOpenIsToldThatNothingWasInstalled)
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
     Since();
     parts.RefusePreparation(UpdateFault::HostStillRunning);
-    EXPECT_EQ(Since(), Notes{"end"});
+    EXPECT_EQ(Since(), (Notes{"attempt taken back", "end"}));
     EXPECT_EQ(end->error->code, ErrorCode::Relaunch);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
@@ -187,7 +188,7 @@ TEST_F(UpdateRunTest, InstallingHelperThatDiesEarlyIsAnErrorAndWillRelaunchIsNot
     PrepareUpdate();
     Since();
     parts.EndHelper(HelperEnd::Crashed);
-    EXPECT_EQ(Since(), Notes{"end"});
+    EXPECT_EQ(Since(), (Notes{"attempt taken back", "end"}));
     EXPECT_EQ(end->error->cause, ErrorCause::HelperFailed);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
@@ -198,7 +199,7 @@ TEST_F(UpdateRunTest, HelperThatWaitsForTheQuitAndDiesIsAnError)
     PrepareUpdate();
     Since();
     parts.RefusePreparation(UpdateFault::JobMalformed);
-    EXPECT_EQ(Since(), Notes{"end"});
+    EXPECT_EQ(Since(), (Notes{"attempt taken back", "end"}));
     EXPECT_EQ(end->error->fault, UpdateFault::JobMalformed);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }

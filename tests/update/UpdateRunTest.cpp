@@ -24,7 +24,7 @@ TEST_F(UpdateRunTest, PersonSeesEachStepAndTheApplicationIsAskedBeforeItIsRestar
     windows.Choose(ReadyChoice::InstallAndRelaunch);
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "path?", "helper install"}));
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
-    EXPECT_EQ(Since(), (Notes{"discard /App-5.1.zip", "will relaunch"}));
+    EXPECT_EQ(Since(), Notes{"will relaunch"});
     run.reset();
     EXPECT_EQ(Since(), Notes{}) << "the helper goes on by itself";
     EXPECT_TRUE(HasStaging());
@@ -192,6 +192,10 @@ TEST_F(UpdateRunTest, SilentUpdateIsOfferedOnceWithoutAWindowAndInstalledOnQuit)
     EXPECT_EQ(install.targetPath, "") << "the application is not started again";
     EXPECT_EQ(install.relaunchPath, "");
     EXPECT_TRUE(DecodeUpdateJob(EncodeUpdateJob(install)));
+    ASSERT_TRUE(install.record);
+    EXPECT_EQ(install.record->wish, InstallWish::Automatic);
+    EXPECT_EQ(install.record->attempts, 1u);
+    EXPECT_EQ(install.recordName, InstallRecordName(settings.bundle.path));
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
     run.reset();
     EXPECT_EQ(Since(), Notes{});
@@ -207,8 +211,9 @@ TEST_F(UpdateRunTest, InstallationAtOnceFromWithinTheCallbackAsksTheApplicationI
     EXPECT_EQ(Since(),
               (Notes{"helper prepare", "will install on quit", "should relaunch?", "path?", "helper install"}));
     EXPECT_EQ(std::get<InstallJob>(parts.jobs[1]).targetPath, settings.bundle.path.toStdString());
+    EXPECT_EQ(std::get<InstallJob>(parts.jobs[1]).record->wish, InstallWish::Person);
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
-    EXPECT_EQ(Since(), (Notes{"discard /App-5.1.zip", "will relaunch"}));
+    EXPECT_EQ(Since(), Notes{"will relaunch"});
     EXPECT_FALSE(end) << "it is alive until the application is not";
 }
 
@@ -271,7 +276,7 @@ TEST_F(UpdateRunTest, RefusalAfterTheCallbackEndsTheWaitingHelper)
     Since();
     host.relaunchAnswer = RelaunchAnswer::Refused;
     host.installNow(RelaunchWish::StayClosed);
-    EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "cancelled", "end"}));
+    EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "attempt taken back", "cancelled", "end"}));
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
 TEST_F(UpdateRunTest, InstallationAtOnceHappensOnce)
@@ -317,7 +322,7 @@ TEST_F(UpdateRunTest, ApplicationThatQuitsMayStillRefuse)
     Since();
     host.relaunchAnswer = RelaunchAnswer::Refused;
     Q_EMIT QCoreApplication::instance()->aboutToQuit({});
-    EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "cancelled", "end"}));
+    EXPECT_EQ(Since(), (Notes{"should relaunch?", "helper killed", "attempt taken back", "cancelled", "end"}));
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
 
@@ -327,7 +332,7 @@ TEST_F(UpdateRunTest, ApplicationThatQuitsAndAgreesIsUpdated)
     PrepareUpdate();
     Since();
     Q_EMIT QCoreApplication::instance()->aboutToQuit({});
-    EXPECT_EQ(Since(), (Notes{"should relaunch?", "discard /App-5.1.zip"}));
+    EXPECT_EQ(Since(), Notes{"should relaunch?"});
     EXPECT_TRUE(HasStaging());
 }
 
@@ -337,7 +342,7 @@ TEST_F(UpdateRunTest, EndOfTheDesktopsSessionInstallsNothing)
     PrepareUpdate();
     Since();
     run->GiveUpInstallation();
-    EXPECT_EQ(Since(), (Notes{"helper killed", "cancelled", "end"}));
+    EXPECT_EQ(Since(), (Notes{"helper killed", "attempt taken back", "cancelled", "end"}));
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
 

@@ -24,6 +24,13 @@ OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order
     {
         return OfferVerdict::Failed;
     }
+    // A probe may be the first half of a check that a person asked for.
+    if (question.kind == CheckKind::Background && !question.heldBackVersion.isEmpty() &&
+        (question.itemVersion == question.heldBackVersion ||
+         order(question.heldBackVersion, question.itemVersion) == 0))
+    {
+        return OfferVerdict::HeldBack;
+    }
     return OfferVerdict::Offered;
 }
 

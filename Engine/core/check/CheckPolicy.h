@@ -29,6 +29,7 @@ enum class OfferVerdict
     NotNewer, ///< than the running bundle
     Skipped,  ///< the user skipped this version or a newer one
     Failed,   ///< this version was installed, did not start well and was taken back
+    HeldBack, ///< it could not be installed, and nobody asks
 };
 
 struct OfferQuestion
@@ -38,6 +39,8 @@ struct OfferQuestion
     QString bundleVersion;  ///< empty when the bundle gives none: the choice stands
     QString skippedVersion; ///< empty when the user skipped none
     QString failedVersion;  ///< empty when none was taken back for the running one
+    /// Empty when there is none: background checks leave it alone, since its installation has failed.
+    QString heldBackVersion = {};
 };
 
 /// Lets exceptions of \a order through.

@@ -23,6 +23,8 @@ char const* NameOf(OfferVerdict verdict)
         return "skipped by the user";
     case OfferVerdict::Failed:
         return "one that did not start well here";
+    case OfferVerdict::HeldBack:
+        return "held back, since its installation has failed";
     }
     return "Unknown OfferVerdict";
 }
@@ -193,12 +195,18 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     case BestItemAnswer::Kind::Place:
         break;
     }
-    OfferVerdict const verdict = JudgeOffer({m_kind, At(answer.place).versionString, m_settings.bundleVersion,
-                                             m_settings.skippedVersion, m_settings.failedVersion},
-                                            order);
+    OfferVerdict const verdict =
+        JudgeOffer({m_kind, At(answer.place).versionString, m_settings.bundleVersion, m_settings.skippedVersion,
+                    m_settings.failedVersion, m_settings.heldBackVersion},
+                   order);
     LOG_IF(INFO, verdict != OfferVerdict::Offered)
         << "Update " << EscapedRemoteText(At(answer.place).versionString).toStdString() << " is " << NameOf(verdict);
-    m_hasPutOff = verdict == OfferVerdict::Skipped || verdict == OfferVerdict::Failed;
+    m_hasPutOff =
+        verdict == OfferVerdict::Skipped || verdict == OfferVerdict::Failed || verdict == OfferVerdict::HeldBack;
+    if (verdict == OfferVerdict::HeldBack)
+    {
+        error = MakeError(ErrorCause::HeldBack);
+    }
     if (verdict != OfferVerdict::Offered)
     {
         return std::nullopt;

@@ -26,7 +26,8 @@ struct CheckSettings
     QUrl feedUrl;
     QString bundleVersion;
     QString skippedVersion;
-    QString failedVersion; ///< see OfferQuestion
+    QString failedVersion;   ///< see OfferQuestion
+    QString heldBackVersion; ///< see OfferQuestion
     QStringList languages;
     FeedPlatform platform = FeedPlatform::Linux;
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/payload/ProcessMark.h"
 
 #include <optional>
 #include <string>
@@ -17,15 +18,6 @@ enum class StartConfirmation : std::uint8_t
 {
     ByStarting = 0, ///< its first start does
     ByHost = 1,     ///< it does, by a call; after too many starts without one the previous version comes back
-};
-
-/// A process, told from a later one of the same number.
-struct ProcessMark
-{
-    std::uint64_t number = 0;    ///< 0: none
-    std::uint64_t startTime = 0; ///< as the kernel counts it; 0 when it is not known
-
-    bool operator==(ProcessMark const& other) const { return number == other.number && startTime == other.startTime; }
 };
 
 struct SwapJournal

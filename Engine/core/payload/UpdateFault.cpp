@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr UpdateFault LAST_FAULT = UpdateFault::PayloadKindDiffers;
+constexpr UpdateFault LAST_FAULT = UpdateFault::RightsNotKept;
 
 std::string Describe(UpdateFault fault, int errorNumber)
 {
@@ -178,6 +178,12 @@ std::string_view FaultName(UpdateFault fault)
         return "SealedMemoryUnavailable";
     case UpdateFault::PayloadKindDiffers:
         return "PayloadKindDiffers";
+    case UpdateFault::InstallationInterrupted:
+        return "InstallationInterrupted";
+    case UpdateFault::NewVersionFailed:
+        return "NewVersionFailed";
+    case UpdateFault::RightsNotKept:
+        return "RightsNotKept";
     }
     return "Unknown fault";
 }

@@ -98,6 +98,10 @@ enum class UpdateFault
     ProcessHandlesUnavailable,
     SealedMemoryUnavailable,
     PayloadKindDiffers, ///< an installer program under the name of a bundle, or the reverse
+
+    InstallationInterrupted, ///< the installing helper ended without a word
+    NewVersionFailed,        ///< it did not start well, and the previous one is back
+    RightsNotKept,
 };
 
 /// The fault's stable name: its enumerator's.

@@ -12,6 +12,7 @@ namespace
 constexpr std::string_view MAGIC = "PELNARJ1";
 constexpr std::size_t MAX_KEYS = 2;
 constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
+constexpr std::uint64_t MAX_CREATION_MASK = 0777;
 constexpr auto LAST_PAYLOAD_KIND = static_cast<std::uint64_t>(PayloadKind::Installer);
 
 enum class JobKind : std::uint64_t
@@ -51,6 +52,10 @@ void Write(FieldWriter& writer, InstallJob const& job)
     writer.Text(job.targetPath);
     writer.Text(job.relaunchPath);
     writer.Texts(job.environment);
+    writer.Text(job.workingFolder);
+    writer.Number(job.creationMask);
+    writer.Text(job.recordName);
+    writer.Text(job.record ? EncodeInstallRecord(*job.record) : std::string());
 }
 
 void Write(FieldWriter& writer, RecoverJob const& job)
@@ -98,6 +103,33 @@ PrepareJob ReadPrepare(FieldReader& reader)
     return job;
 }
 
+/// What is started, and what is kept of it.
+void ReadAfterwards(FieldReader& reader, InstallJob& job)
+{
+    job.targetPath = reader.Text();
+    job.relaunchPath = reader.Text();
+    job.environment = reader.Texts();
+    job.workingFolder = reader.Text();
+    job.creationMask = reader.Number();
+    job.recordName = reader.Text();
+    std::string const record = reader.Blob();
+    job.record = DecodeInstallRecord(record);
+    bool const isVariable = std::all_of(job.environment.begin(), job.environment.end(),
+                                        [](std::string const& text)
+                                        {
+                                            std::size_t const place = text.find('=');
+                                            return place != std::string::npos && place != 0;
+                                        });
+    bool const isKept = IsName(job.recordName) && job.record;
+    bool const isNotKept = job.recordName.empty() && record.empty();
+    if (!isVariable || !IsAbsoluteOrEmpty(job.targetPath) || !IsAbsoluteOrEmpty(job.relaunchPath) ||
+        (job.targetPath.empty() && !job.relaunchPath.empty()) || !IsAbsoluteOrEmpty(job.workingFolder) ||
+        job.creationMask > MAX_CREATION_MASK || !(isKept || isNotKept))
+    {
+        reader.Refuse();
+    }
+}
+
 InstallJob ReadInstall(FieldReader& reader)
 {
     InstallJob job;
@@ -112,21 +144,12 @@ InstallJob ReadInstall(FieldReader& reader)
     job.installedVersion = reader.Text();
     job.waitSeconds = reader.Number();
     job.installerSeconds = reader.Number();
-    job.targetPath = reader.Text();
-    job.relaunchPath = reader.Text();
-    job.environment = reader.Texts();
-    bool const isVariable = std::all_of(job.environment.begin(), job.environment.end(),
-                                        [](std::string const& text)
-                                        {
-                                            std::size_t const place = text.find('=');
-                                            return place != std::string::npos && place != 0;
-                                        });
+    ReadAfterwards(reader, job);
     bool const isInTime =
         job.waitSeconds <= MAX_WAIT_SECONDS && job.installerSeconds > 0 && job.installerSeconds <= MAX_WAIT_SECONDS;
     if (kind > LAST_PAYLOAD_KIND || !isInTime || digest.size() != job.digest.size() || !IsName(job.targetName) ||
         !IsName(job.stagingName) || !IsName(job.stagedName) || job.bundleIdentifier.empty() ||
-        job.expectedVersion.empty() || job.installedVersion.empty() || !IsAbsoluteOrEmpty(job.targetPath) ||
-        !IsAbsoluteOrEmpty(job.relaunchPath) || (job.targetPath.empty() && !job.relaunchPath.empty()) || !isVariable)
+        job.expectedVersion.empty() || job.installedVersion.empty())
     {
         reader.Refuse();
         return job;

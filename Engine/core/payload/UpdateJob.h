@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/payload/InstallRecord.h"
 
 #include <cstdint>
 #include <optional>
@@ -25,7 +26,8 @@ struct HelperDescriptors
     static constexpr int TARGET = 7;  ///< prepare, a delta or an installer program: the installed bundle's folder
     static constexpr int PARENT = 6;  ///< install, recover, rehearse: the folder that holds the installed bundle
     static constexpr int HOST = 7;    ///< install, rehearse: a pidfd of the host
-    static constexpr int COUNT = 8;
+    static constexpr int RECORDS = 8; ///< install, when a record is kept: the folder of the downloads
+    static constexpr int COUNT = 9;
 };
 
 enum class PayloadKind : std::uint8_t
@@ -65,6 +67,10 @@ struct InstallJob
     std::string targetPath;                ///< absolute; to be started afterwards; empty: start nothing
     std::string relaunchPath;              ///< absolute; started instead of targetPath if it is safe; may be empty
     std::vector<std::string> environment;  ///< of what is started, "NAME=value"
+    std::string workingFolder;             ///< of what is started; absolute; empty: the root
+    std::uint64_t creationMask = 022;      ///< of what is started: its umask
+    std::string recordName;                ///< of the file that keeps the outcome; empty: it is not kept
+    std::optional<InstallRecord> record;   ///< as it is when nothing has happened; set with the name
 };
 
 enum class RecoverPurpose : std::uint8_t

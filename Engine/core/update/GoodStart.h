@@ -19,9 +19,10 @@ namespace Pelnar::Engine
 
 struct StartedApplication
 {
-    QString helperProgram; ///< absolute
-    QString bundlePath;    ///< absolute
-    QString version;       ///< the running one
+    QString helperProgram;       ///< absolute
+    QString bundlePath;          ///< absolute
+    QString version;             ///< the running one
+    QString downloadFolder = {}; ///< absolute
 };
 
 struct StartOutcome

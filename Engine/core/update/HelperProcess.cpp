@@ -36,11 +36,16 @@ std::map<int, int> NumbersOf(PrepareJob const& job, HelperInheritance const& inh
     return numbers;
 }
 
-std::map<int, int> NumbersOf(InstallJob const&, HelperInheritance const& inherited)
+std::map<int, int> NumbersOf(InstallJob const& job, HelperInheritance const& inherited)
 {
-    return {{HelperDescriptors::STAGING, inherited.staging},
-            {HelperDescriptors::PARENT, inherited.archiveOrParent},
-            {HelperDescriptors::HOST, inherited.targetOrHost}};
+    std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
+                               {HelperDescriptors::PARENT, inherited.archiveOrParent},
+                               {HelperDescriptors::HOST, inherited.targetOrHost}};
+    if (job.record)
+    {
+        numbers[HelperDescriptors::RECORDS] = inherited.records;
+    }
+    return numbers;
 }
 
 std::map<int, int> NumbersOf(RecoverJob const&, HelperInheritance const& inherited)

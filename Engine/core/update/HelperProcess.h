@@ -21,6 +21,7 @@ struct HelperInheritance
     int staging = -1;
     int archiveOrParent = -1; ///< prepare: the archive; install, recover: the folder that holds the bundle
     int targetOrHost = -1;    ///< prepare, unless of a whole bundle: the installed one; install: a pidfd of the host
+    int records = -1;         ///< install: the folder of the record, if one is kept
 };
 
 enum class HelperEnd

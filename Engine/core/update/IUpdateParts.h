@@ -5,6 +5,7 @@
 
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/update/HelperProcess.h"
+#include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallTarget.h"
 #include "Engine/core/update/PreparedUpdate.h"
 
@@ -53,6 +54,8 @@ public:
     virtual std::unique_ptr<IHelper> MakeHelper() = 0;
     /// The end of \a update, for which nobody waits.
     virtual void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) = 0;
+    /// \a attempt is taken back; nobody waits for that either.
+    virtual void DiscardAttempt(std::unique_ptr<InstallAttempt> attempt) = 0;
     virtual QDateTime Now() = 0;
 };
 

@@ -7,8 +7,8 @@
 namespace Pelnar::Engine
 {
 
-std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, InstallJob job,
-                                                  std::function<void()> waiting,
+std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd,
+                                                  InstallJob job, std::function<void()> waiting,
                                                   std::function<void(EngineError const&)> failed)
 {
     m_waiting = std::move(waiting);
@@ -19,7 +19,7 @@ std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, P
         UniqueFd const host = OpenProcess();
         m_helper = m_parts.MakeHelper();
         m_helper->Start(
-            job, {update.Descriptor(), target.parent.Get(), host.Get()},
+            job, {update.Descriptor(), target.parent.Get(), host.Get(), recordsFd},
             [this](HelperReport const& report) { Take(report); }, [this](HelperEnd) { End(); });
     }
     catch (UpdateRefusal const& refusal)

@@ -19,12 +19,13 @@ class InstallHandover
 public:
     explicit InstallHandover(IUpdateParts& parts) : m_parts(parts) {}
 
-    /// Starts the helper with \a job, which \a update completes and becomes the helper's. An error when that is not
+    /// Starts the helper with \a job, which \a update completes and becomes the helper's, and whose record stands in
+    /// the folder \a recordsFd. An error when that is not
     /// possible; then nothing is called, and \a update stays the caller's. Else \a waiting comes once the helper waits
     /// for the end of this process, and \a failed once and last if the helper ends before this process does; either may
     /// destroy this object. REQUIRES: called once; \a update outlives this object.
-    [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PreparedUpdate& update, InstallJob job,
-                                                   std::function<void()> waiting,
+    [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd,
+                                                   InstallJob job, std::function<void()> waiting,
                                                    std::function<void(EngineError const&)> failed);
 
     /// Ends the helper, which still waits; the update is the caller's again and nothing is called any more. Nothing

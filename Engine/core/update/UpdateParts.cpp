@@ -91,6 +91,11 @@ std::unique_ptr<IHelper> UpdateParts::MakeHelper()
     return std::make_unique<Helper>(m_helperProgram);
 }
 
+void UpdateParts::DiscardAttempt(std::unique_ptr<InstallAttempt> attempt)
+{
+    m_chores.Run([shared = std::shared_ptr<InstallAttempt>(std::move(attempt))] { shared->TakeBack(); });
+}
+
 void UpdateParts::DiscardUpdate(std::unique_ptr<PreparedUpdate> update)
 {
     m_chores.Run([shared = std::shared_ptr<PreparedUpdate>(std::move(update))]() mutable { shared.reset(); });

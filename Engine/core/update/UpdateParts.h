@@ -25,6 +25,7 @@ public:
     void ClearDownloads(QString const& folder) override;
     std::unique_ptr<IHelper> MakeHelper() override;
     void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) override;
+    void DiscardAttempt(std::unique_ptr<InstallAttempt> attempt) override;
     QDateTime Now() override { return QDateTime::currentDateTimeUtc(); }
 
 private:

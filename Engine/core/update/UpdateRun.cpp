@@ -303,11 +303,20 @@ void UpdateRun::DropAtTheDelegatesWish()
         m_handover->Cancel();
         m_handover.reset();
     }
+    DropAttempt();
     DropPrepared();
     if (HasToldHost("updater:didCancelInstallUpdateOnQuit:",
                     [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
     {
         Finish(std::nullopt);
+    }
+}
+
+void UpdateRun::DropAttempt()
+{
+    if (m_attempt)
+    {
+        m_parts.DiscardAttempt(std::move(m_attempt));
     }
 }
 
@@ -331,11 +340,29 @@ InstallJob UpdateRun::InstallationJob() const
     return job;
 }
 
+std::optional<EngineError> UpdateRun::HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting)
+{
+    try
+    {
+        if (!m_attempt)
+        {
+            m_attempt = std::make_unique<InstallAttempt>(m_settings.downloadFolder, m_target->path);
+        }
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+    }
+    m_attempt->Describe(job, wish);
+    m_handover = std::make_unique<InstallHandover>(m_parts);
+    return m_handover->Start(*m_target, *m_prepared, m_attempt->Folder(), std::move(job), std::move(waiting),
+                             Guarded(&UpdateRun::FailHandover));
+}
+
 void UpdateRun::Arm()
 {
-    m_handover = std::make_unique<InstallHandover>(m_parts);
-    auto const error = m_handover->Start(
-        *m_target, *m_prepared, InstallationJob(), [] {}, Guarded(&UpdateRun::FailHandover));
+    auto const wish = m_asked == PersonAsked::Yes ? InstallWish::Person : InstallWish::Automatic;
+    auto const error = HandOver(InstallationJob(), wish, [] {});
     if (error)
     {
         Finish(*error);
@@ -361,9 +388,7 @@ void UpdateRun::AskAtQuit()
     if (answer == RelaunchAnswer::Refused)
     {
         DropAtTheDelegatesWish();
-        return;
     }
-    m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
 }
 
 void UpdateRun::Relaunch()
@@ -382,9 +407,8 @@ void UpdateRun::Relaunch()
     job.targetPath = m_target->path.toStdString();
     job.relaunchPath = path == m_settings.bundle.path ? std::string() : RelaunchPathOf(path);
     job.environment = EnvironmentOf(environ);
-    m_handover = std::make_unique<InstallHandover>(m_parts);
-    auto const error = m_handover->Start(*m_target, *m_prepared, std::move(job), Guarded(&UpdateRun::TellRelaunch),
-                                         Guarded(&UpdateRun::FailHandover));
+    // Whoever wants the new version to start waits for it.
+    auto const error = HandOver(std::move(job), InstallWish::Person, Guarded(&UpdateRun::TellRelaunch));
     if (error)
     {
         Finish(*error);
@@ -395,7 +419,6 @@ void UpdateRun::Relaunch()
 
 void UpdateRun::TellRelaunch()
 {
-    m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
     // What it throws changes nothing: the helper waits, and gives up in time if the application stays.
     (void)FailureOf("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
 }
@@ -452,6 +475,7 @@ void UpdateRun::Finish(std::optional<EngineError> error)
         m_handover->Cancel();
         m_handover.reset();
     }
+    DropAttempt();
     DropPrepared();
     if (mayShowWindow)
     {

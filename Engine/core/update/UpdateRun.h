@@ -73,6 +73,7 @@ private:
     void OfferOnQuit();
     void InstallNow(RelaunchWish wish);
     void DropAtTheDelegatesWish();
+    void DropAttempt();
     void DropPrepared();
     void Arm();
     void AskAtQuit();
@@ -84,6 +85,7 @@ private:
 
     UpdateCandidate const& Current() const { return m_candidates.front(); }
     InstallJob InstallationJob() const;
+    std::optional<EngineError> HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting);
     NamedVersion NamedUpdate() const;
     bool HasWindows() const { return m_manner == UpdateManner::Windows; }
     /// \a call for a later time, dropped when this object has gone by then.
@@ -108,6 +110,7 @@ private:
     std::unique_ptr<IDownload> m_download;
     std::unique_ptr<UpdatePreparation> m_preparation;
     std::unique_ptr<PreparedUpdate> m_prepared;
+    std::unique_ptr<InstallAttempt> m_attempt; ///< since the first handover
     std::unique_ptr<InstallHandover> m_handover;
 };
 

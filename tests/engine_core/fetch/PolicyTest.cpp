@@ -18,10 +18,14 @@ namespace
 using namespace Pelnar::Engine;
 
 OfferQuestion question(CheckKind kind, char const* item, char const* bundle, char const* skipped,
-                       char const* failed = "")
+                       char const* failed = "", char const* heldBack = "")
 {
-    return {kind, QString::fromLatin1(item), QString::fromLatin1(bundle), QString::fromLatin1(skipped),
-            QString::fromLatin1(failed)};
+    return {kind,
+            QString::fromLatin1(item),
+            QString::fromLatin1(bundle),
+            QString::fromLatin1(skipped),
+            QString::fromLatin1(failed),
+            QString::fromLatin1(heldBack)};
 }
 
 TEST(OfferPolicy, NewerThanTheBundleAndNotSkipped)
@@ -48,6 +52,11 @@ TEST(OfferPolicy, NewerThanTheBundleAndNotSkipped)
         {question(CheckKind::Background, "5.1", "5.0", "", "5.2"), OfferVerdict::Offered},
         {question(CheckKind::Background, "5.3", "5.0", "", "5.2"), OfferVerdict::Offered},
         {question(CheckKind::Interactive, "5.1", "5.0", "", "5.1"), OfferVerdict::Offered},
+        {question(CheckKind::Background, "5.1", "5.0", "", "", "5.1"), OfferVerdict::HeldBack},
+        {question(CheckKind::Background, "5.01", "5.0", "", "", "5.1"), OfferVerdict::HeldBack},
+        {question(CheckKind::Background, "5.2", "5.0", "", "", "5.1"), OfferVerdict::Offered},
+        {question(CheckKind::Probe, "5.1", "5.0", "", "", "5.1"), OfferVerdict::Offered},
+        {question(CheckKind::Interactive, "5.1", "5.0", "", "", "5.1"), OfferVerdict::Offered},
     };
     for (auto const& row : rows)
     {

@@ -52,15 +52,25 @@ void PrintTo(Step step, std::ostream* out)
     *out << StepName(step);
 }
 
+enum class InstallOutcome
+{
+    Kept,
+    NotKept,
+};
+
 /// A scene that stands right before a step.
 class Subject
 {
 public:
-    explicit Subject(Step step) : m_step(step)
+    explicit Subject(Step step, InstallOutcome outcome = InstallOutcome::Kept) : m_step(step)
     {
         if (step != Step::Preparation)
         {
             m_job = scene.PrepareForInstall();
+            if (outcome == InstallOutcome::Kept)
+            {
+                UpdateScene::KeepRecord(m_job);
+            }
             scene.Host().End();
         }
         if (step == Step::Recovery)
@@ -356,7 +366,7 @@ INSTANTIATE_TEST_SUITE_P(Steps, EveryCall,
 std::vector<std::string> DurabilityOrder(Step step)
 {
     std::vector<std::string> order;
-    Subject subject(step);
+    Subject subject(step, InstallOutcome::NotKept);
     std::string const place = subject.scene.Place().Path();
     std::string const staging = subject.scene.StagingPath();
     subject.Run(
@@ -414,7 +424,7 @@ TEST(Durability, SwapThatCouldNotBeSyncedIsUndoneAndTheStagedBundleThrownAway)
     for (int nth = 1; nth <= 4; ++nth)
     {
         SCOPED_TRACE(nth);
-        Subject subject(Step::Installation);
+        Subject subject(Step::Installation, InstallOutcome::NotKept);
         int syncs = 0;
         HelperOutcome const outcome = subject.Run(
             [&syncs, nth](CallStop const& stop)

@@ -1,0 +1,108 @@
+#include "Engine/core/update/InstallAttempt.h"
+
+#include "Engine/core/payload/NoteFile.h"
+
+#include <glog/logging.h>
+
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+
+#include <cerrno>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int NAME_BYTES = 16;
+constexpr mode_t FOLDER_MODE = 0700;
+constexpr mode_t OTHERS_CAN_WRITE = 0022;
+
+UniqueFd MakeRecordFolder(QString const& path)
+{
+    QDir().mkpath(QFileInfo(path).path());
+    static_cast<void>(::mkdir(QFile::encodeName(path).constData(), FOLDER_MODE)); // it may be there
+    UniqueFd folder = OpenRecordFolder(path);
+    if (!folder)
+    {
+        throw UpdateRefusal(UpdateFault::NotPermitted, errno);
+    }
+    return folder;
+}
+
+} // namespace
+
+std::string InstallRecordName(QString const& bundlePath)
+{
+    QByteArray const hash = QCryptographicHash::hash(QFile::encodeName(bundlePath), QCryptographicHash::Sha256);
+    return hash.left(NAME_BYTES).toHex().toStdString() + ".installation";
+}
+
+UniqueFd OpenRecordFolder(QString const& path)
+{
+    UniqueFd folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status;
+    bool const isOurs = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
+                        (status.st_mode & OTHERS_CAN_WRITE) == 0;
+    return isOurs ? std::move(folder) : UniqueFd();
+}
+
+std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name)
+{
+    try
+    {
+        return DecodeInstallRecord(ReadNote(folderFd, name));
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        LOG(WARNING) << "What is known of the last installation cannot be read: " << refusal.what();
+        return std::nullopt;
+    }
+}
+
+InstallAttempt::InstallAttempt(QString const& folder, QString const& bundlePath)
+    : m_folder(MakeRecordFolder(folder))
+    , m_name(InstallRecordName(bundlePath))
+    , m_before(ReadInstallRecord(m_folder.Get(), m_name))
+{
+}
+
+void InstallAttempt::Describe(InstallJob& job, InstallWish wish) const
+{
+    InstallRecord record;
+    record.fromVersion = job.installedVersion;
+    record.toVersion = job.expectedVersion;
+    record.wish = wish;
+    bool const isAgain =
+        m_before && m_before->fromVersion == record.fromVersion && m_before->toVersion == record.toVersion;
+    record.attempts = isAgain ? m_before->attempts + 1 : 1;
+    job.recordName = m_name;
+    job.record = std::move(record);
+}
+
+void InstallAttempt::TakeBack()
+{
+    try
+    {
+        if (m_before)
+        {
+            WriteNote(m_folder.Get(), m_name, EncodeInstallRecord(*m_before));
+        }
+        else
+        {
+            RemoveNote(m_folder.Get(), m_name);
+        }
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        LOG(WARNING) << "The record of an installation that was called off stays: " << refusal.what();
+    }
+}
+
+} // namespace Pelnar::Engine

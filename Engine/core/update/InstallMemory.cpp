@@ -1,0 +1,144 @@
+#include "Engine/core/update/InstallMemory.h"
+
+#include "Engine/core/EngineError.h"
+#include "Engine/core/check/BackOff.h"
+#include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/update/InstallAttempt.h"
+#include "Engine/core/update/InstallTarget.h"
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+QDateTime TimeOf(InstallRecord const& record)
+{
+    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(record.secondsSinceEpoch), Qt::UTC);
+}
+
+void SetInterrupted(InstallRecord& record)
+{
+    record.state = InstallState::Failed;
+    record.fault = UpdateFault::InstallationInterrupted;
+}
+
+std::string Shown(std::string const& version)
+{
+    return EscapedRemoteText(QString::fromStdString(version)).toStdString();
+}
+
+} // namespace
+
+bool IsHeldBack(InstallRecord const& failure, QDateTime const& now)
+{
+    int const attempts = static_cast<int>(std::min<std::uint64_t>(failure.attempts, std::numeric_limits<int>::max()));
+    return failure.attempts >= MAX_AUTOMATIC_ATTEMPTS || IsHeldBack(BackOffState{attempts, TimeOf(failure)}, now);
+}
+
+InstallMemory::InstallMemory(QString const& folder, QString const& bundlePath, QString const& version)
+    : m_folder(folder)
+{
+    UniqueFd const opened = OpenRecordFolder(folder);
+    auto const bundle = opened ? OpenInstalledBundle(bundlePath) : OpenedTarget(EngineError());
+    auto const* const target = std::get_if<InstallTarget>(&bundle);
+    if (!target)
+    {
+        return;
+    }
+    m_name = InstallRecordName(target->path);
+    if (auto record = ReadInstallRecord(opened.Get(), m_name))
+    {
+        auto const life = IsRunning(record->helper) ? HelperLife::Runs : HelperLife::Ended;
+        PastInstallation const meaning = JudgePastInstallation(*record, version.toStdString(), life);
+        Settle(*std::move(record), meaning);
+    }
+}
+
+void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
+{
+    switch (meaning)
+    {
+    case PastInstallation::UnderWay:
+        return;
+    case PastInstallation::Over:
+        Forget();
+        m_chores.Run([folder = m_folder] { ArchiveDownload::Clear(folder); });
+        return;
+    case PastInstallation::Dropped:
+        // It was no attempt, but those before it count.
+        if (--record.attempts == 0)
+        {
+            Forget();
+            return;
+        }
+        SetInterrupted(record);
+        record.told = FailureTold::Yes;
+        Keep(record);
+        break;
+    case PastInstallation::Failed:
+        if (record.state != InstallState::Failed)
+        {
+            SetInterrupted(record);
+        }
+        break;
+    }
+    LOG_IF(WARNING, record.told == FailureTold::No)
+        << "The installation of update " << Shown(record.toVersion) << " failed: " << FaultName(record.fault)
+        << " (errno " << record.errorNumber << "), attempt " << record.attempts;
+    m_failure = std::move(record);
+}
+
+bool InstallMemory::IsToBeTold() const
+{
+    return m_failure && m_failure->wish == InstallWish::Person && m_failure->told == FailureTold::No;
+}
+
+void InstallMemory::SetTold()
+{
+    if (m_failure)
+    {
+        m_failure->told = FailureTold::Yes;
+        Keep(*m_failure);
+    }
+}
+
+void InstallMemory::Forget()
+{
+    m_chores.Run(
+        [folder = m_folder, name = m_name]
+        {
+            try
+            {
+                RemoveNote(OpenRecordFolder(folder).Get(), name);
+            }
+            catch (UpdateRefusal const& refusal)
+            {
+                LOG(WARNING) << "The record of an installation that is over stays: " << refusal.what();
+            }
+        });
+}
+
+void InstallMemory::Keep(InstallRecord const& record)
+{
+    m_chores.Run(
+        [folder = m_folder, name = m_name, bytes = EncodeInstallRecord(record)]
+        {
+            try
+            {
+                WriteNote(OpenRecordFolder(folder).Get(), name, bytes);
+            }
+            catch (UpdateRefusal const& refusal)
+            {
+                LOG(WARNING) << "The record of an installation could not be written: " << refusal.what();
+            }
+        });
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,63 @@
+#include "Installer/OutcomeNote.h"
+
+#include "Engine/core/payload/NoteFile.h"
+
+#include <ctime>
+#include <exception>
+
+namespace Pelnar::Installer
+{
+
+using Engine::InstallState;
+using Engine::UpdateFault;
+
+OutcomeNote::OutcomeNote(Engine::InstallJob const& job, int recordsFd)
+    : m_job(job), m_recordsFd(recordsFd), m_record(job.record.value_or(Engine::InstallRecord()))
+{
+}
+
+void OutcomeNote::Begin()
+{
+    m_record.helper = Engine::MarkOfThisProcess();
+    Write(InstallState::Waiting);
+}
+
+void OutcomeNote::EnterInstallation()
+{
+    TryToWrite(InstallState::Installing);
+}
+
+void OutcomeNote::Fail(UpdateFault fault, int errorNumber)
+{
+    m_record.fault = fault;
+    m_record.errorNumber = errorNumber;
+    TryToWrite(InstallState::Failed);
+}
+
+void OutcomeNote::Succeed()
+{
+    TryToWrite(InstallState::Installed);
+}
+
+void OutcomeNote::Write(InstallState state)
+{
+    if (m_job.record)
+    {
+        m_record.state = state;
+        m_record.secondsSinceEpoch = static_cast<std::uint64_t>(std::time(nullptr));
+        Engine::WriteNote(m_recordsFd, m_job.recordName, Engine::EncodeInstallRecord(m_record));
+    }
+}
+
+void OutcomeNote::TryToWrite(InstallState state)
+{
+    try
+    {
+        Write(state);
+    }
+    catch (std::exception const&) // see above; memory may have run out too
+    {
+    }
+}
+
+} // namespace Pelnar::Installer

@@ -1,0 +1,228 @@
+// InstallMemoryTest.cpp: what one start of an application leaves of an installation for the next.
+#include "Engine/core/update/InstallMemory.h"
+
+#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/update/InstallAttempt.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+class InstallMemoryTest : public testing::Test
+{
+protected:
+    InstallMemoryTest()
+    {
+        QDir(m_folder.path()).mkpath(QStringLiteral("App.app"));
+        m_bundle = QFileInfo(m_folder.filePath(QStringLiteral("App.app"))).canonicalFilePath();
+        m_downloads = m_folder.filePath(QStringLiteral("cache/downloads"));
+    }
+
+    std::string Name() const { return InstallRecordName(m_bundle); }
+    UniqueFd Downloads() const
+    {
+        return UniqueFd(::open(QFile::encodeName(m_downloads).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    }
+
+    /// As the helper does it, at the end of an attempt to install 2.0 over 1.0.
+    InstallRecord Attempt(InstallWish wish, InstallState state)
+    {
+        InstallAttempt const attempt(m_downloads, m_bundle);
+        InstallJob job;
+        job.installedVersion = "1.0";
+        job.expectedVersion = "2.0";
+        attempt.Describe(job, wish);
+        EXPECT_EQ(job.recordName, Name());
+        job.record->state = state;
+        job.record->secondsSinceEpoch = 1000000;
+        job.record->fault = state == InstallState::Failed ? UpdateFault::SwapFailed : UpdateFault::None;
+        WriteNote(attempt.Folder(), job.recordName, EncodeInstallRecord(*job.record));
+        QFile archive(m_downloads + QLatin1Char('/') + QLatin1String(ARCHIVE));
+        EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
+        return *job.record;
+    }
+
+    /// What the start of that version finds, and leaves on the disk.
+    std::optional<InstallRecord> Start(char const* version)
+    {
+        InstallMemory const memory(m_downloads, m_bundle, QString::fromLatin1(version));
+        m_isToBeTold = memory.IsToBeTold();
+        return memory.Failure();
+    }
+
+    std::optional<InstallRecord> OnDisk() const { return ReadInstallRecord(Downloads().Get(), Name()); }
+    QStringList Files() const { return QDir(m_downloads).entryList(QDir::Files | QDir::Hidden); }
+
+    static constexpr char ARCHIVE[] = "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef.archive";
+    QTemporaryDir m_folder;
+    QString m_bundle;
+    QString m_downloads;
+    bool m_isToBeTold = false;
+};
+
+QDateTime After(int hours)
+{
+    return QDateTime::fromSecsSinceEpoch(1000000 + hours * 3600, Qt::UTC);
+}
+
+TEST_F(InstallMemoryTest, IsEmptyWithoutARecordOrAFolder)
+{
+    EXPECT_FALSE(Start("1.0"));
+    EXPECT_FALSE(QDir(m_downloads).exists()) << "a start makes nothing";
+    InstallMemory const nothing({}, {}, {});
+    EXPECT_FALSE(nothing.Failure());
+}
+
+TEST_F(InstallMemoryTest, AttemptsOfOneVersionAreCounted)
+{
+    EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, 1u);
+    EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, 2u);
+    EXPECT_EQ(Attempt(InstallWish::Person, InstallState::Installing).attempts, 3u);
+    InstallAttempt const attempt(m_downloads, m_bundle);
+    InstallJob job;
+    job.installedVersion = "1.0";
+    job.expectedVersion = "2.1";
+    attempt.Describe(job, InstallWish::Automatic);
+    EXPECT_EQ(job.record->attempts, 1u) << "another version";
+}
+
+TEST_F(InstallMemoryTest, AttemptThatIsTakenBackLeavesWhatWasThere)
+{
+    Attempt(InstallWish::Automatic, InstallState::Failed);
+    auto const before = OnDisk();
+    InstallAttempt again(m_downloads, m_bundle);
+    Attempt(InstallWish::Person, InstallState::Waiting);
+    again.TakeBack();
+    ASSERT_TRUE(OnDisk());
+    EXPECT_EQ(EncodeInstallRecord(*OnDisk()), EncodeInstallRecord(*before));
+
+    RemoveNote(Downloads().Get(), Name());
+    InstallAttempt first(m_downloads, m_bundle);
+    Attempt(InstallWish::Person, InstallState::Waiting);
+    first.TakeBack();
+    EXPECT_EQ(Files(), QStringList{QLatin1String(ARCHIVE)});
+}
+
+TEST_F(InstallMemoryTest, FailureIsToldOnceToAPersonWhoAsked)
+{
+    Attempt(InstallWish::Person, InstallState::Failed);
+    for (int start = 0; start < 2; ++start) // nobody has heard of it
+    {
+        auto const failure = Start("1.0");
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->fault, UpdateFault::SwapFailed);
+        EXPECT_TRUE(m_isToBeTold);
+    }
+    {
+        InstallMemory memory(m_downloads, m_bundle, QStringLiteral("1.0"));
+        memory.SetTold();
+        EXPECT_FALSE(memory.IsToBeTold());
+    }
+    EXPECT_TRUE(Start("1.0")) << "it still holds the next attempt back";
+    EXPECT_FALSE(m_isToBeTold);
+    EXPECT_TRUE(QFile::exists(m_downloads + QLatin1Char('/') + QLatin1String(ARCHIVE)));
+}
+
+TEST_F(InstallMemoryTest, AutomaticFailureIsToldToNobody)
+{
+    Attempt(InstallWish::Automatic, InstallState::Failed);
+    EXPECT_TRUE(Start("1.0"));
+    EXPECT_FALSE(m_isToBeTold);
+}
+
+TEST_F(InstallMemoryTest, HelperThatEndedWithoutAWordHasFailed)
+{
+    for (InstallState const state : {InstallState::Waiting, InstallState::Installing})
+    {
+        Attempt(InstallWish::Person, state);
+        auto const failure = Start("1.0");
+        ASSERT_TRUE(failure);
+        EXPECT_EQ(failure->fault, UpdateFault::InstallationInterrupted);
+        EXPECT_TRUE(m_isToBeTold);
+    }
+}
+
+TEST_F(InstallMemoryTest, HelperThatRunsHasNotFailed)
+{
+    InstallRecord record = Attempt(InstallWish::Person, InstallState::Installing);
+    record.helper = MarkOfThisProcess();
+    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    EXPECT_FALSE(Start("1.0"));
+    ASSERT_TRUE(OnDisk());
+    EXPECT_EQ(OnDisk()->state, InstallState::Installing);
+}
+
+TEST_F(InstallMemoryTest, InstallationOnQuitThatTheSessionEndedIsNoAttempt)
+{
+    Attempt(InstallWish::Automatic, InstallState::Waiting);
+    EXPECT_FALSE(Start("1.0"));
+    EXPECT_EQ(Files(), QStringList{QLatin1String(ARCHIVE)}) << "the archive is for the next one";
+
+    Attempt(InstallWish::Automatic, InstallState::Failed);
+    Attempt(InstallWish::Automatic, InstallState::Waiting);
+    auto const failure = Start("1.0");
+    ASSERT_TRUE(failure);
+    EXPECT_EQ(failure->attempts, 1u);
+    ASSERT_TRUE(OnDisk());
+    EXPECT_EQ(OnDisk()->attempts, 1u);
+}
+
+TEST_F(InstallMemoryTest, SuccessClearsRecordAndArchive)
+{
+    struct Row
+    {
+        InstallState state;
+        char const* running;
+    };
+    for (Row const& row : {Row{InstallState::Installed, "2.0"}, Row{InstallState::Installing, "2.0"},
+                           Row{InstallState::Failed, "3.0"}, Row{InstallState::Installed, "1.0"}})
+    {
+        Attempt(InstallWish::Person, row.state);
+        EXPECT_FALSE(Start(row.running));
+        EXPECT_EQ(Files(), QStringList()) << row.running;
+    }
+}
+
+TEST_F(InstallMemoryTest, RecordsOfOthersAndNonsenseSayNothing)
+{
+    Attempt(InstallWish::Person, InstallState::Failed);
+    QFile file(m_downloads + QLatin1Char('/') + QString::fromStdString(Name()));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Append));
+    file.write("x");
+    file.close();
+    EXPECT_FALSE(Start("1.0"));
+    file.remove();
+    ASSERT_EQ(::symlink("/etc/passwd", QFile::encodeName(file.fileName()).constData()), 0);
+    EXPECT_FALSE(Start("1.0"));
+}
+
+TEST_F(InstallMemoryTest, EveryBundleHasARecordOfItsOwn)
+{
+    EXPECT_NE(InstallRecordName(QStringLiteral("/a/App.app")), InstallRecordName(QStringLiteral("/b/App.app")));
+}
+
+TEST(InstallBackOff, GrowsWithTheAttemptsAndEndsWithAPersonsWish)
+{
+    InstallRecord failure;
+    failure.secondsSinceEpoch = 1000000;
+    failure.attempts = 1;
+    EXPECT_TRUE(IsHeldBack(failure, After(0)));
+    EXPECT_FALSE(IsHeldBack(failure, After(1)));
+    failure.attempts = 2;
+    EXPECT_TRUE(IsHeldBack(failure, After(1)));
+    EXPECT_FALSE(IsHeldBack(failure, After(2)));
+    failure.attempts = MAX_AUTOMATIC_ATTEMPTS;
+    EXPECT_TRUE(IsHeldBack(failure, After(100000)));
+}
+
+} // namespace

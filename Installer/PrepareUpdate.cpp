@@ -7,8 +7,11 @@
 #include "Engine/core/unpack/UnpackArchive.h"
 #include "Installer/BundleInformation.h"
 #include "Installer/Confinement.h"
+#include "Installer/SteadyArchive.h"
 
 #include <cerrno>
+#include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -23,43 +26,6 @@ using Engine::HelperPhase;
 using Engine::PayloadKind;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
-
-struct stat StatusOf(int archiveFd)
-{
-    struct stat status;
-    if (::fstat(archiveFd, &status) != 0 || !S_ISREG(status.st_mode))
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveUnreadable, errno);
-    }
-    return status;
-}
-
-/// Asks the kernel to end this process when somebody opens the archive to change it; refuses when somebody has. Where
-/// there are no leases (some network file systems, somebody else's file) the times compared at the end must do.
-class Lease
-{
-public:
-    explicit Lease(int archiveFd) : m_archiveFd(archiveFd)
-    {
-        if (::fcntl(archiveFd, F_SETLEASE, F_RDLCK) != 0 && errno == EAGAIN)
-        {
-            throw UpdateRefusal(UpdateFault::ArchiveInUse, errno);
-        }
-    }
-    // It would outlive the process, for the host has the same opening of the file, and hold up whoever writes next.
-    ~Lease() { ::fcntl(m_archiveFd, F_SETLEASE, F_UNLCK); }
-    Lease(Lease const&) = delete;
-    Lease& operator=(Lease const&) = delete;
-
-private:
-    int m_archiveFd;
-};
-
-bool IsSameFile(struct stat const& a, struct stat const& b)
-{
-    return a.st_size == b.st_size && a.st_mtim.tv_sec == b.st_mtim.tv_sec && a.st_mtim.tv_nsec == b.st_mtim.tv_nsec &&
-           a.st_ctim.tv_sec == b.st_ctim.tv_sec && a.st_ctim.tv_nsec == b.st_ctim.tv_nsec;
-}
 
 UpdateFault FaultOf(Engine::DeltaOutcome const& outcome)
 {
@@ -98,7 +64,7 @@ Engine::UniqueFd OpenBundle(int stagingFd, std::string const& name)
 }
 
 Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
-                                         Engine::DeltaProgress const& progress)
+                                         int archiveFd, Engine::DeltaProgress const& progress)
 {
     if (!Engine::TreeAccess(descriptors.staging).MakeFolder(job.bundleName))
     {
@@ -106,7 +72,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
     }
     Engine::UniqueFd const bundle = OpenBundle(descriptors.staging, job.bundleName);
     Engine::DeltaOutcome const outcome =
-        Engine::ApplyDelta(descriptors.archive, descriptors.target, bundle.Get(), Engine::DeltaLimits(), progress);
+        Engine::ApplyDelta(archiveFd, descriptors.target, bundle.Get(), Engine::DeltaLimits(), progress);
     if (!outcome.HasSucceeded())
     {
         if (outcome.error == Engine::DeltaError::CannotWrite)
@@ -118,14 +84,12 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
     return {job.bundleName, Engine::DigestTree(bundle.Get())};
 }
 
-/// Verifies the archive and unpacks it. The archive is what \a before says, from the first byte that is read of it to
-/// the last; what becomes of it afterwards does not matter any more.
+/// Verifies the archive open at \a archiveFd and unpacks it. REQUIRES: nobody changes it meanwhile.
 Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
-                                      struct stat const& before, ReportChannel& report)
+                                      int archiveFd, ReportChannel& report)
 {
-    Lease const lease(descriptors.archive);
     report.SendProgress(HelperPhase::Verifying, 0, job.archiveBytes);
-    UpdateFault const verdict = Engine::VerifyFileSignature(descriptors.archive, job.signature, job.publicKeys);
+    UpdateFault const verdict = Engine::VerifyFileSignature(archiveFd, job.signature, job.publicKeys);
     if (verdict != UpdateFault::None)
     {
         throw UpdateRefusal(verdict);
@@ -134,14 +98,8 @@ Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDesc
 
     auto const progress = [&report](std::uint64_t done, std::uint64_t total)
     { report.SendProgress(HelperPhase::Unpacking, done, total); };
-    Engine::UnpackedBundle bundle = job.kind == PayloadKind::Delta
-                                        ? ApplyDeltaArchive(job, descriptors, progress)
-                                        : Engine::UnpackArchive(descriptors.archive, descriptors.staging, progress);
-    if (!IsSameFile(before, StatusOf(descriptors.archive)))
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveInUse);
-    }
-    return bundle;
+    return job.kind == PayloadKind::Delta ? ApplyDeltaArchive(job, descriptors, archiveFd, progress)
+                                          : Engine::UnpackArchive(archiveFd, descriptors.staging, progress);
 }
 
 /// Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could not
@@ -168,14 +126,12 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     {
         throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
     }
-    struct stat const before = StatusOf(descriptors.archive);
-    if (static_cast<std::uint64_t>(before.st_size) != job.archiveBytes)
-    {
-        throw UpdateRefusal(UpdateFault::ArchiveLengthDiffers);
-    }
+    // Before the confinement, in which a copy could not be made nameless.
+    std::optional<SteadyArchive> archive(std::in_place, descriptors.archive, job.archiveBytes, descriptors.staging);
     bool const isDelta = job.kind == PayloadKind::Delta;
     ConfineTo(descriptors.staging, isDelta ? std::vector<int>{descriptors.target} : std::vector<int>());
-    Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, before, report);
+    Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, archive->Descriptor(), report);
+    archive.reset(); // what becomes of it does not matter any more
     // An installer program is started from where it was unpacked, a bundle from the installed one's place.
     std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
     CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,

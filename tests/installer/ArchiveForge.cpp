@@ -318,13 +318,18 @@ std::string MakeTar(std::vector<ForgedEntry> const& entries)
     {
         bool const isLink = entry.type == 'l' || entry.type == 'h';
         bool const hasContent = entry.type == 'f' || entry.type == 's';
-        if (entry.isPax)
+        std::string records = entry.isPax ? PaxRecord("path", entry.path) +
+                                                (isLink ? PaxRecord("linkpath", entry.content) : std::string())
+                                          : std::string();
+        for (auto const& [key, value] : entry.paxRecords)
         {
-            std::string const records =
-                PaxRecord("path", entry.path) + (isLink ? PaxRecord("linkpath", entry.content) : std::string());
+            records += PaxRecord(key, value);
+        }
+        if (!records.empty())
+        {
             bytes += WithChecksum(TarHeader("PaxHeader", 'x', 0644, records.size(), {})) + Padded(records);
         }
-        else if (entry.path.size() > 100)
+        if (!entry.isPax && entry.path.size() > 100)
         {
             std::string const name = entry.path + '\0';
             bytes += WithChecksum(TarHeader("././@LongLink", 'L', 0, name.size(), {})) + Padded(name);

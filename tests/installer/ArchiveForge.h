@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace Pelnar::Testing
@@ -34,6 +35,7 @@ struct ForgedEntry
 
     // Tar only.
     bool isPax = false; ///< name and target stand in a pax header
+    std::vector<std::pair<std::string, std::string>> paxRecords = {};
 };
 
 struct ZipOptions

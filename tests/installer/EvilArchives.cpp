@@ -163,6 +163,8 @@ std::vector<Evil> const& EvilArchives()
         {"LinkTargetWithBackslash", {{"My App.app/l", 'l', "..\\decoy"}}, UpdateFault::LinkTargetInvalid},
         {"HardLink", {{"My App.app/h", 'h', "My App.app/run"}}, UpdateFault::EntryIsHardLink, false},
         {"HardLinkAbsolute", {{"My App.app/h", 'h', "/etc/passwd"}}, UpdateFault::EntryIsHardLink, false},
+        {"HardLinkOut", {{"My App.app/h", 'h', "../decoy/x"}}, UpdateFault::EntryIsHardLink, false},
+        {"HardLinkToALink", {{"My App.app/h", 'h', "My App.app/Resources/data"}}, UpdateFault::EntryIsHardLink, false},
         {"HardLinkNotYetSeen", {{"My App.app/h", 'h', "My App.app/later"}}, UpdateFault::EntryIsHardLink, false},
         {"Fifo", {{"My App.app/p", 'p', {}}}, UpdateFault::EntryTypeRefused},
         {"CharacterDevice", {{"My App.app/c", 'c', {}}}, UpdateFault::EntryTypeRefused},

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace
@@ -251,14 +252,34 @@ TEST(InstallerProgram, IsNoWholeBundleAndNoBundleIsOneWhenItIsInstalledEither)
     EXPECT_FALSE(std::filesystem::exists(bundle.Target() + "/by-setup"));
 }
 
-TEST(InstallerProgram, ForgedSignatureIsRefusedBeforeAnythingIsUnpacked)
+/// The helper's calls that start a program, while it prepares an archive whose program would leave a mark.
+int ProgramsStartedWhilePreparing(std::string const& signedText, UpdateFault expected)
 {
-    ProgramScene program(ArchiveOf("#!/bin/sh\n"));
+    Workspace const place;
+    std::string const mark = place.Path() + "/mark";
+    std::string const archive = ArchiveOf("#!/bin/sh\ntouch " + mark + "\n");
+    ProgramScene program(archive);
     PrepareJob job = program.scene.MakePrepareJob();
     job.kind = PayloadKind::Installer;
-    job.signature = Base64(Sign("something else", program.scene.Keys()));
-    EXPECT_EQ(program.scene.Prepare(job).Fault(), UpdateFault::SignatureMismatch);
-    EXPECT_TRUE(program.scene.Place().Names(program.scene.StagingName()).empty());
+    job.signature = Base64(Sign(signedText.empty() ? archive : signedText, program.scene.Keys()));
+    int started = 0;
+    HelperStart start;
+    start.atEveryCall = [&started](CallStop const& stop)
+    {
+        started += stop.call == SYS_execve || stop.call == SYS_execveat ? 1 : 0;
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = program.scene.Prepare(job, start);
+    EXPECT_EQ(outcome.Fault(), expected);
+    EXPECT_EQ(program.scene.Place().Names(program.scene.StagingName()).empty(), expected != UpdateFault::None);
+    EXPECT_FALSE(std::filesystem::exists(mark));
+    return started;
+}
+
+TEST(InstallerProgram, NothingOfAnArchiveRunsWhileItIsVerifiedAndPrepared)
+{
+    EXPECT_EQ(ProgramsStartedWhilePreparing({}, UpdateFault::None), 0);
+    EXPECT_EQ(ProgramsStartedWhilePreparing("something else", UpdateFault::SignatureMismatch), 0);
 }
 
 struct FailureRow

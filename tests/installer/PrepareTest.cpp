@@ -121,6 +121,31 @@ INSTANTIATE_TEST_SUITE_P(
                UpdateFault::SignatureMismatch}),
     [](testing::TestParamInfo<JobRow> const& info) { return info.param.name; });
 
+TEST(Prepare, AnyChangeOfTheArchiveIsRefusedAndTheInstalledVersionStays)
+{
+    std::string const whole = MakeZip(MakeBundle("2.0"));
+    std::vector<std::string> changed{whole + '\0', whole + "x", whole.substr(0, whole.size() - 1), whole.substr(1), ""};
+    for (std::size_t offset = 0; offset < whole.size(); offset += 1 + whole.size() / 40)
+    {
+        changed.push_back(whole);
+        changed.back()[offset] = static_cast<char>(whole[offset] ^ 1 << offset % 8);
+    }
+    std::string const signature = UpdateScene(whole).MakePrepareJob().signature;
+    for (std::size_t i = 0; i < changed.size(); ++i)
+    {
+        UpdateScene scene(changed[i]);
+        PrepareJob job = scene.MakePrepareJob(); // of the changed archive's length
+        job.signature = signature;
+        HelperOutcome const outcome = scene.Prepare(job);
+        EXPECT_EQ(outcome.exitStatus, 1) << i;
+        EXPECT_EQ(outcome.Fault(), changed[i].empty() ? UpdateFault::ArchiveEmpty : UpdateFault::SignatureMismatch)
+            << i;
+        EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr) << i;
+        EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty()) << i;
+        EXPECT_EQ(scene.Place().StartedVersion(), "1.0") << i;
+    }
+}
+
 struct BundleRow
 {
     char const* name;
@@ -149,6 +174,12 @@ TEST_P(PreparedBundles, AreCheckedAgainstTheItem)
 INSTANTIATE_TEST_SUITE_P(
     Table, PreparedBundles,
     testing::Values(
+        BundleRow{"NothingInIt", MakeZip({}), UpdateFault::ContainerUnknown},
+        BundleRow{"NoBundle", MakeZip({{"README", 'f', "x"}}), UpdateFault::BundleMissing},
+        BundleRow{"BundleNotOnTop", MakeZip(MakeBundle("2.0", "folder/My App.app")), UpdateFault::BundleMissing},
+        BundleRow{"BundleIsALink", MakeZip({{APP, 'l', "/tmp"}}), UpdateFault::LinkEscapes},
+        BundleRow{"BundleIsALinkToItself", MakeZip({{APP, 'l', APP}}), UpdateFault::BundleNotAFolder},
+        BundleRow{"BundleIsAFile", MakeZip({{APP, 'f', "x"}}), UpdateFault::BundleNotAFolder},
         BundleRow{"OldBuildUnderANewNumber", MakeZip(MakeBundle("0.9")), UpdateFault::VersionDiffers},
         BundleRow{"NewerThanTheItem", MakeZip(MakeBundle("2.0.1")), UpdateFault::VersionDiffers},
         BundleRow{"OtherProduct", ZipWith(INFORMATION, InformationText("2.0", "org.other")),

@@ -370,25 +370,33 @@ TEST(UnpackArchive, NestedArchivesAreFilesLikeOthers)
     EXPECT_EQ(scene.Staged(APP), (std::vector<std::string>{"Resources", "inner.zip", "run"}));
 }
 
-TEST(UnpackArchive, ExtendedAttributesOfAnArchiveAreNotTaken)
+TEST(UnpackArchive, AttributesListsOfRightsAndFlagsOfAnArchiveAreNotTaken)
 {
-    std::string const record = "37 SCHILY.xattr.user.pelnar=attribute\n";
-    std::string pax = MakeTar({{"PaxHeader", 'f', std::to_string(record.size() - 1 + 1) + record.substr(2)}});
-    pax[156] = 'x';
-    unsigned sum = 0;
-    pax.replace(148, 8, "        ");
-    for (int i = 0; i < 512; ++i)
+    std::vector<ForgedEntry> entries = MakeBundle("2.0");
+    for (ForgedEntry& entry : entries)
     {
-        sum += static_cast<std::uint8_t>(pax[static_cast<std::size_t>(i)]);
+        entry.paxRecords = {{"SCHILY.xattr.user.pelnar", "attribute"},
+                            {"LIBARCHIVE.xattr.user.pelnar2", "YXR0cmlidXRl"},
+                            {"SCHILY.xattr.security.capability", "capability"},
+                            {"SCHILY.acl.access", "user::rwx,user:nobody:rwx:65534,group::rwx,mask::rwx,other::rwx"},
+                            {"SCHILY.fflags", "nodump"},
+                            {"uname", "nobody"},
+                            {"uid", "65534"}};
     }
-    char text[8];
-    std::snprintf(text, sizeof text, "%06o", sum);
-    pax.replace(148, 7, std::string(text, 7));
-    pax.resize(1024);
-    std::string tar = MakeTar(MakeBundle("2.0"));
     UnpackScene scene;
-    scene.Unpack(Compress(Container::TarGzip, tar.substr(0, 512) + pax + tar.substr(512)));
-    EXPECT_LT(::lgetxattr((scene.Path(APP) + "/run").c_str(), "user.pelnar", nullptr, 0), 0);
+    scene.Unpack(MakeArchive(Container::TarGzip, entries));
+    for (char const* const name : {"", "/run", "/Resources", "/Resources/data"})
+    {
+        std::string const path = scene.Path(APP) + name;
+        for (char const* const attribute :
+             {"user.pelnar", "user.pelnar2", "security.capability", "system.posix_acl_access"})
+        {
+            EXPECT_LT(::lgetxattr(path.c_str(), attribute, nullptr, 0), 0) << path << ' ' << attribute;
+        }
+        struct stat status;
+        ASSERT_EQ(::lstat(path.c_str(), &status), 0);
+        EXPECT_EQ(status.st_uid, ::geteuid()) << path;
+    }
 }
 
 TEST(UnpackArchive, WhatStandsInTheStagingFolderIsNeverWrittenThrough)

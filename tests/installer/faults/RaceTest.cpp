@@ -182,6 +182,88 @@ TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOne)
     EXPECT_GT(stopped, 0);
 }
 
+/// A kernel without leases, on which somebody does \a act right before the helper's call number \a place.
+HelperStart ActWithoutLeasesAt(int place, std::function<void()> const& act, int error = EINVAL)
+{
+    HelperStart start;
+    start.atEveryCall = [place, act, error](CallStop const& stop)
+    {
+        if (stop.index == place)
+        {
+            act();
+        }
+        bool const isLease = stop.call == SYS_fcntl && stop.arguments[1] == F_SETLEASE;
+        return isLease ? CallVerdict::Fail(error) : CallVerdict::GoOn();
+    };
+    return start;
+}
+
+HelperOutcome PrepareWithoutLeases(UpdateScene& scene, HelperStart const& start)
+{
+    CallVisitor const visit = start.atEveryCall;
+    HelperStart without = ActWithoutLeasesAt(-1, [] {});
+    CallVisitor const refuse = without.atEveryCall;
+    without.atEveryCall = [visit, refuse](CallStop const& stop)
+    {
+        static_cast<void>(visit(stop));
+        return refuse(stop);
+    };
+    return PrepareIn(scene, without);
+}
+
+TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOneWhereThereAreNoLeases)
+{
+    Versions const versions;
+    UpdateScene traced;
+    int refused = 0;
+    int prepared = 0;
+    for (int const place : Places(CallsOf(traced, &PrepareWithoutLeases)))
+    {
+        SCOPED_TRACE(place);
+        UpdateScene scene;
+        HelperOutcome const outcome =
+            PrepareIn(scene, ActWithoutLeasesAt(place, [&] { GetParam().act(ArchivePath(scene)); }));
+        EXPECT_EQ(outcome.signal, 0);
+        if (outcome.exitStatus == 0)
+        {
+            ++prepared;
+            EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+        }
+        else
+        {
+            ++refused;
+            EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+            EXPECT_TRUE(outcome.Fault() == UpdateFault::ArchiveLengthDiffers ||
+                        outcome.Fault() == UpdateFault::SignatureMismatch)
+                << FaultName(outcome.Fault());
+            EXPECT_TRUE(scene.Place().Names(scene.StagingName()).empty());
+        }
+        ExpectRecovered(scene, versions);
+    }
+    EXPECT_GT(refused, 0) << "changed before it was read";
+    EXPECT_GT(prepared, 0) << "changed when it had been read";
+}
+
+TEST(Race, ArchiveIsPreparedWithoutALeaseWhateverRefusesIt)
+{
+    Versions const versions;
+    for (int const error : {EINVAL, EACCES, EPERM, ENOLCK, EOPNOTSUPP, ENOSYS})
+    {
+        UpdateScene scene;
+        HelperOutcome const outcome = PrepareIn(scene, ActWithoutLeasesAt(
+                                                           -1, [] {}, error));
+        EXPECT_EQ(outcome.exitStatus, 0) << error;
+        EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+        EXPECT_EQ(scene.Place().Names(scene.StagingName()), std::vector<std::string>{APP});
+        ExpectRecovered(scene, versions);
+    }
+    UpdateScene scene;
+    EXPECT_EQ(PrepareIn(scene, ActWithoutLeasesAt(
+                                   -1, [] {}, EAGAIN))
+                  .Fault(),
+              UpdateFault::ArchiveInUse);
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Changes, ChangedArchive,
     testing::Values(Change{"Rewritten",

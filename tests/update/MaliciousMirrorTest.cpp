@@ -66,8 +66,7 @@ protected:
                 bool const isDownloading = !notes.empty() && notes.back().rfind("download", 0) == 0;
                 if (isDownloading && !std::exchange(isAnswered, true))
                 {
-                    parts.FinishDownload();
-                    parts.RefusePreparation(UpdateFault::SignatureMismatch);
+                    end();
                 }
                 return hasEnded;
             }));
@@ -76,8 +75,18 @@ protected:
     }
 
     QByteArray answer;
+    std::function<void()> beforeAnswer = [] {};
+    /// Of the download that a check leads to.
+    std::function<void()> end = [this]
+    {
+        parts.FinishDownload();
+        parts.RefusePreparation(UpdateFault::SignatureMismatch);
+    };
     LoopbackServer server{[this](QSslSocket& socket, QByteArray const& request, int number)
-                          { Answering(answer)(socket, request, number); }};
+                          {
+                              beforeAnswer();
+                              Answering(answer)(socket, request, number);
+                          }};
     std::vector<int> causes; ///< of the failures that were told, without those of checks that were held back
     std::ptrdiff_t aborts = 0;
 };
@@ -111,6 +120,23 @@ TEST_F(MaliciousMirror, ThatAlwaysSendsAWrongArchiveIsAskedOnceADayInTheEnd)
               std::vector<int>(HOURS_OF_REQUESTS.size(), 1000 + static_cast<int>(UpdateFault::SignatureMismatch)));
     EXPECT_EQ(parts.requests.size(), HOURS_OF_REQUESTS.size()) << "one archive a check";
     EXPECT_EQ(Warnings(log), static_cast<std::ptrdiff_t>(HOURS_OF_REQUESTS.size()) - 2) << "from the third on";
+}
+
+TEST_F(MaliciousMirror, ThatNamesAnotherArchiveAtEachCheckAndNeverEndsItIsAskedOnceADayInTheEnd)
+{
+    end = [this] { parts.FailDownload(ErrorCause::DownloadPaused); };
+    QByteArray item = ItemOf("5.1");
+    item.replace(" length=", QByteArray(" sparkle:edSignature=\"") + GOOD_SIGNATURE + "\" length=");
+    int archives = 0;
+    beforeAnswer = [&]
+    {
+        QByteArray other = item;
+        other.replace("url=\"", "url=\"" + QByteArray::number(++archives));
+        answer = OkAnswer(FeedWith(other));
+    };
+    EXPECT_EQ(CheckEveryHour(), HOURS_OF_REQUESTS);
+    ASSERT_EQ(parts.requests.size(), HOURS_OF_REQUESTS.size());
+    EXPECT_NE(parts.requests[0].url, parts.requests[1].url);
 }
 
 TEST_F(MaliciousMirror, ThatBecomesHonestIsForgiven)

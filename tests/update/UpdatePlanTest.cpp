@@ -83,17 +83,17 @@ TEST(UpdatePlan, PersonIsShownWhatFailedAndWhatTheyAskedFor)
 
 TEST(UpdatePlan, OnlyFailuresOfTheOtherSideHoldTheNextCheckBack)
 {
-    for (ErrorCause const cause :
-         {ErrorCause::NoUpdate, ErrorCause::Cancelled, ErrorCause::UpdatesDisabled, ErrorCause::HeldBack,
-          ErrorCause::DelegateRaised, ErrorCause::DownloadBusy, ErrorCause::DownloadPaused, ErrorCause::DownloadNoRoom,
-          ErrorCause::BundleOfPackage, ErrorCause::HelperFailed})
+    for (ErrorCause const cause : {ErrorCause::NoUpdate, ErrorCause::Cancelled, ErrorCause::UpdatesDisabled,
+                                   ErrorCause::HeldBack, ErrorCause::DelegateRaised, ErrorCause::DownloadBusy,
+                                   ErrorCause::DownloadNoRoom, ErrorCause::BundleOfPackage, ErrorCause::HelperFailed})
     {
         EXPECT_FALSE(CountsForBackOff(MakeError(cause))) << static_cast<int>(cause);
     }
     for (ErrorCause const cause :
          {ErrorCause::HostNotFound, ErrorCause::HttpStatus, ErrorCause::FeedMalformed, ErrorCause::ForeignItem,
           ErrorCause::DownloadLengthInvalid, ErrorCause::DownloadLengthDiffers, ErrorCause::DownloadRangeWrong,
-          ErrorCause::DownloadTooMuch, ErrorCause::DownloadTooOften, ErrorCause::DownloadTooLong})
+          ErrorCause::DownloadTooMuch, ErrorCause::DownloadTooOften, ErrorCause::DownloadTooLong,
+          ErrorCause::DownloadPaused})
     {
         EXPECT_TRUE(CountsForBackOff(MakeError(cause))) << static_cast<int>(cause);
     }

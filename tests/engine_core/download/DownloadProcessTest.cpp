@@ -1,5 +1,6 @@
 // DownloadProcessTest.cpp: downloads in processes of their own that are killed, that find the disk full, that meet one
 // another.
+#include "Engine/core/download/PartialRecord.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
 #include "tests/support/ProgramOutput.h"
@@ -83,6 +84,12 @@ TEST_F(DownloadProcessTest, KilledAgainAndAgainItLosesNothingThatArrived)
     }
     EXPECT_EQ(Probe({}, Arguments(server.Url(), static_cast<quint64>(archive.size()))).cause, 0);
     EXPECT_EQ(PartialBytes(), archive);
+    QFile file(PartialPath() + QStringLiteral(".record"));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    std::optional<PartialRecord> const record = DecodePartialRecord(file.readAll().toStdString());
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->spent.attempts, static_cast<std::uint64_t>(points) + 1) << "a kill makes none forgotten";
+    EXPECT_EQ(record->spent.receivedBytes, static_cast<std::uint64_t>(archive.size()));
 }
 
 TEST_F(DownloadProcessTest, KilledInFullFlightItGoesOnFromTheEndOfTheFile)

@@ -13,6 +13,7 @@
 
 #include <cerrno>
 #include <filesystem>
+#include <set>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -77,12 +78,30 @@ TEST_P(EvilArchive, ExtractedWithoutRulesStaysInTheConfinement)
     EXPECT_FALSE(std::filesystem::exists("/tmp/pelnar-evil"));
 }
 
-void ExpectRefusedByTheHelper(Evil const& evil, HelperStart const& start)
+/// Prepares the scene's archive; how often the helper has made something on the disk. \a atConfinement is the answer to
+/// the call by which the confinement begins.
+int PrepareAndCountWrites(UpdateScene& scene, CallVerdict const& atConfinement, HelperOutcome& outcome)
+{
+    std::set<long> const making{SYS_mkdirat, SYS_symlinkat, SYS_linkat, SYS_mknodat, SYS_renameat, SYS_renameat2};
+    int writes = 0;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        writes += making.count(stop.call) != 0 ? 1 : 0;
+        return stop.call == SYS_landlock_create_ruleset ? atConfinement : CallVerdict::GoOn();
+    };
+    outcome = scene.Prepare(scene.MakePrepareJob(), start);
+    return writes;
+}
+
+/// Its bundle's folder comes first in each of the archives.
+void ExpectRefusedBeforeTheFirstWrite(Evil const& evil, CallVerdict const& atConfinement)
 {
     Versions const versions;
     UpdateScene scene(ArchiveOf(evil));
-    HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), start);
-    EXPECT_EQ(outcome.traced.faulted.size(), start.atEveryCall ? 1u : 0u);
+    HelperOutcome outcome;
+    EXPECT_EQ(PrepareAndCountWrites(scene, atConfinement, outcome), 0);
+    EXPECT_EQ(outcome.traced.faulted.size(), atConfinement.kind == CallVerdict::Kind::Fail ? 1u : 0u);
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.Fault(), evil.fault);
     EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
@@ -90,17 +109,25 @@ void ExpectRefusedByTheHelper(Evil const& evil, HelperStart const& start)
     ExpectRecovered(scene, versions);
 }
 
-TEST_P(EvilArchive, IsRefusedByTheHelper)
+TEST_P(EvilArchive, IsRefusedByTheHelperBeforeTheFirstWrite)
 {
-    ExpectRefusedByTheHelper(GetParam(), {});
+    ExpectRefusedBeforeTheFirstWrite(GetParam(), CallVerdict::GoOn());
 }
 
 TEST_P(EvilArchive, IsRefusedByTheHelperOnAKernelThatCannotConfine)
 {
-    HelperStart start;
-    start.atEveryCall = [](CallStop const& stop)
-    { return stop.call == SYS_landlock_create_ruleset ? CallVerdict::Fail(ENOSYS) : CallVerdict::GoOn(); };
-    ExpectRefusedByTheHelper(GetParam(), start);
+    ExpectRefusedBeforeTheFirstWrite(GetParam(), CallVerdict::Fail(ENOSYS));
+}
+
+TEST(HonestArchive, IsWrittenConfinedOrNot)
+{
+    for (CallVerdict const& atConfinement : {CallVerdict::GoOn(), CallVerdict::Fail(ENOSYS)})
+    {
+        UpdateScene scene;
+        HelperOutcome outcome;
+        EXPECT_GT(PrepareAndCountWrites(scene, atConfinement, outcome), 0);
+        EXPECT_NE(outcome.Find<PreparedReport>(), nullptr) << FaultName(outcome.Fault());
+    }
 }
 
 TEST(Confinement, IsNeededWhereTheKernelHasIt)

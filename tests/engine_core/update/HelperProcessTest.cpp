@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -29,10 +30,34 @@ using namespace Pelnar::Testing;
 
 constexpr int HIGH_DESCRIPTOR = 50;
 
-/// An event loop, which helpers are heard through.
+/// An event loop, which helpers are heard through, and no child of an earlier test. What a test changes of this process
+/// is as it was afterwards.
 class HelperProcesses : public testing::Test
 {
+protected:
+    HelperProcesses()
+    {
+        ::getrlimit(RLIMIT_NOFILE, &m_descriptors);
+        ::sigprocmask(SIG_BLOCK, nullptr, &m_blocked);
+        while (::waitpid(-1, nullptr, 0) > 0) // released ones are nobody's to wait for
+        {
+        }
+    }
+    ~HelperProcesses() override
+    {
+        ::setrlimit(RLIMIT_NOFILE, &m_descriptors);
+        ::sigprocmask(SIG_SETMASK, &m_blocked, nullptr);
+        ::signal(SIGPIPE, SIG_DFL);
+        ::signal(SIGUSR1, SIG_DFL);
+        ::unsetenv("LD_PRELOAD");
+        ::setenv("PATH", m_searchPath.c_str(), 1);
+    }
+
+    rlimit m_descriptors{};
+
 private:
+    sigset_t m_blocked{};
+    std::string m_searchPath = std::getenv("PATH") ? std::getenv("PATH") : "";
     TestApplication<> m_application;
 };
 
@@ -135,7 +160,7 @@ TEST_F(HelperProcesses, HasItsWordItsDescriptorsAndNothingElseOfTheHosts)
 
 TEST_F(HelperProcesses, StartsUnderATightLimitOfDescriptors)
 {
-    rlimit const limit{32, 32};
+    rlimit const limit{32, m_descriptors.rlim_max};
     ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &limit), 0);
     ProbeScene scene("describe");
     EXPECT_EQ(scene.RunToEnd(), HelperEnd::Done);

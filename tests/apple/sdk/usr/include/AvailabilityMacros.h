@@ -1,0 +1,7 @@
+// The older names of what Availability.h says.
+#pragma once
+
+#include <Availability.h>
+
+#define MAC_OS_X_VERSION_MAX_ALLOWED __MAC_OS_X_VERSION_MAX_ALLOWED
+#define MAC_OS_X_VERSION_MIN_REQUIRED __MAC_OS_X_VERSION_MIN_REQUIRED

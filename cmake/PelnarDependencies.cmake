@@ -39,6 +39,17 @@ if(APPLE)
     find_library(PELNAR_SPARKLE Sparkle REQUIRED)
     cmake_path(GET PELNAR_SPARKLE PARENT_PATH PELNAR_SPARKLE_FOLDER)
 
+    if(PELNAR_UNIVERSAL)
+        set(CMAKE_OSX_ARCHITECTURES arm64 x86_64)
+        foreach(library IN ITEMS Qt5::Core glog::glog)
+            get_target_property(file ${library} LOCATION)
+            execute_process(COMMAND lipo -archs "${file}"
+                OUTPUT_VARIABLE architectures OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+            string(REPLACE " " "|" architectures "${architectures}")
+            list(FILTER CMAKE_OSX_ARCHITECTURES INCLUDE REGEX "^(${architectures})$")
+        endforeach()
+    endif()
+
     # References are counted by hand; see Foundation/ManualReferences.h.
     target_compile_options(pelnar_objc_runtime INTERFACE "$<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc>")
     target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_FOUNDATION})

@@ -6,6 +6,7 @@ option(PELNAR_BUILD_FUZZERS "Build the fuzz targets with libFuzzer" OFF)
 option(PELNAR_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(PELNAR_COVERAGE "Instrument for source-based line and branch coverage" OFF)
 option(PELNAR_STANDALONE_HELPER "Link the installer's helper to static libraries: it needs the C library alone" ON)
+option(PELNAR_UNIVERSAL "macOS: build for every architecture that both Qt and glog have" OFF)
 set(PELNAR_SANITIZE "" CACHE STRING "Sanitizers for every target, for example address,undefined")
 
 set(CMAKE_CXX_STANDARD 17)

@@ -5,7 +5,7 @@ Usage: lane.py FOLDER               build in FOLDER and check
        lane.py --self-test FOLDER   prove that each check notices what it is for
 
 Ends with 0 when all is well, 1 with findings or failures, 77 when the machine lacks something; with
-PELNAR_APPLE_LANE=required in the environment that is a failure too. docs/decisions/0006-the-apple-lane.md says what
+PELNAR_APPLE_LANE=required in the environment that is a failure too. docs/decisions/0007-the-apple-lane.md says what
 this proves and what it does not.
 """
 
@@ -16,6 +16,7 @@ import subprocess
 import sys
 import time
 
+sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 
 import checks
@@ -147,7 +148,8 @@ def main(arguments):
         return self_test.run(folder) if wants_self_test else run_lane(folder)
     except sysroot.Unavailable as error:
         is_required = os.environ.get("PELNAR_APPLE_LANE") == "required"
-        say(f"apple lane: {'FAILED' if is_required else 'skipped'}: {error}")
+        # As GoogleTest writes it: scripts/skipped reads the reason.
+        say(f"{__file__}:0: {'FAILED' if is_required else 'Skipped'}\n{error}")
         return 1 if is_required else STATUS_SKIPPED
 
 

@@ -1,6 +1,8 @@
 #include "Engine/objc/BundleSettings_p.h"
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/check/FeedRecordFile.h"
+#include "Engine/core/payload/StagingFolder.h"
 #include "Engine/objc/HelperLocation_p.h"
 #include "Foundation/FoundationText.h"
 #include "Foundation/RaisedException.h"
@@ -15,6 +17,8 @@
 #include <algorithm>
 #include <mutex>
 #include <utility>
+
+#include <fcntl.h>
 
 using namespace Pelnar::Foundation;
 
@@ -180,7 +184,7 @@ CheckSettings ReadCheckSettings(QUrl const& feedUrl)
 RunningBundle ReadRunningBundle()
 {
     RunningBundle bundle;
-    bundle.path = ToQString([[NSBundle mainBundle] bundlePath]);
+    bundle.path = BundlePathText(ToQString([[NSBundle mainBundle] bundlePath]));
     bundle.identifier = TextOf(@"CFBundleIdentifier", Source::Bundle);
     bundle.version = TextOf(@"CFBundleVersion", Source::Bundle);
     QString const shownVersion = TextOf(@"CFBundleShortVersionString", Source::Bundle);
@@ -329,11 +333,21 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     return settings;
 }
 
+QString BundlePathText(QString const& path)
+{
+    if (!path.startsWith(QLatin1String("/proc/self/fd/")))
+    {
+        return path;
+    }
+    UniqueFd const folder(::open(path.toUtf8().constData(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return folder ? PathText(RealPathOf(folder.Get())) : path;
+}
+
 std::optional<StartedApplication> ReadStartedApplication()
 {
     StartedApplication application;
     application.helperProgram = HelperProgram();
-    application.bundlePath = ToQString([[NSBundle mainBundle] bundlePath]);
+    application.bundlePath = BundlePathText(ToQString([[NSBundle mainBundle] bundlePath]));
     application.version = TextOf(@"CFBundleVersion", Source::Bundle);
     application.downloadFolder = DownloadFolderFor(ReadRunningBundle().identifier);
     return application.version.isEmpty() ? std::nullopt : std::optional(application);

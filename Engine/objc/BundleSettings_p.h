@@ -15,10 +15,11 @@
 //   PelnarUpdatesDisabled       boolean; nothing is ever sent, every check fails at once both
 //   PelnarFailedChecks          number; background checks in a row that failed           defaults
 //   PelnarLastFailedCheckTime   date; of the last of them                                defaults
-//   PelnarRequiresSignedFeed    boolean; a feed that is not signed is refused; anything but a plain "no" asks for it   bundle
-//   PelnarFeedRecord            dictionary; what earlier versions knew of the feed: address, digest (text), firstSeen,
-//                               lastSeen (dates), serial (number); read until there is a file of FeedRecordFile.h; an entry
-//                               of the wrong type counts as absent   defaults
+//   PelnarRequiresSignedFeed    boolean; a feed that is not signed is refused; anything but a plain "no" asks for it
+//   bundle PelnarFeedRecord            dictionary; what earlier versions knew of the feed: address, digest (text),
+//   firstSeen,
+//                               lastSeen (dates), serial (number); read until there is a file of FeedRecordFile.h; an
+//                               entry of the wrong type counts as absent   defaults
 //   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
 //   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
@@ -36,6 +37,10 @@ namespace Pelnar::Engine
 /// The settings of a check of the feed at \a feedUrl, and of what it leads to.
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl);
 
+/// A bundle's path as PathText, without the stand-in by which a program that runs under an odd path is known to
+/// Foundation.
+QString BundlePathText(QString const& path);
+
 /// The running bundle's path and version; nothing when the program runs from no bundle that says a version.
 std::optional<StartedApplication> ReadStartedApplication();
 
@@ -49,8 +54,8 @@ void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
 void WriteBackOff(BackOffState const& state);
 FeedRecord ReadFeedRecord();
-/// Has \a chores store \a ours, unless another process of the application has stored a record of a later feed meanwhile.
-/// ReadFeedRecord() knows of it at once.
+/// Has \a chores store \a ours, unless another process of the application has stored a record of a later feed
+/// meanwhile. ReadFeedRecord() knows of it at once.
 void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores);
 
 } // namespace Pelnar::Engine

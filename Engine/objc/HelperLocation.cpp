@@ -1,8 +1,12 @@
 #include "Engine/objc/HelperLocation_p.h"
 
+#include "Engine/core/PathText.h"
+
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
+
+#include <climits>
+#include <cstdlib>
+#include <string>
 
 #include <dlfcn.h>
 
@@ -16,9 +20,14 @@ QString HelperProgram()
     {
         return {};
     }
-    QString const path = QFileInfo(QFile::decodeName(library.dli_fname)).canonicalPath();
-    return path.isEmpty() ? QString()
-                          : QDir::cleanPath(path + QLatin1Char('/') + QStringLiteral(PELNAR_HELPER_FROM_LIBRARY));
+    char file[PATH_MAX];
+    if (!::realpath(library.dli_fname, file))
+    {
+        return {};
+    }
+    std::string path = file;
+    path.erase(path.rfind('/'));
+    return QDir::cleanPath(PathText(path) + QLatin1Char('/') + QStringLiteral(PELNAR_HELPER_FROM_LIBRARY));
 }
 
 } // namespace Pelnar::Engine

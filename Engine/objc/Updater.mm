@@ -401,7 +401,7 @@ QString Updater::PathToRelaunch()
             {
                 if ([m_delegate respondsToSelector:@selector(pathToRelaunchForUpdater:)])
                 {
-                    path = ToQString([m_delegate pathToRelaunchForUpdater:m_face]);
+                    path = BundlePathText(ToQString([m_delegate pathToRelaunchForUpdater:m_face]));
                 }
             }
         });

@@ -11,6 +11,7 @@
 #include <QFile>
 
 #include <algorithm>
+#include <cstdio>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -289,6 +290,14 @@ void InstalledDemo::AddInformation(QByteArray const& entries)
     information.insert(information.indexOf('{') + 1, entries);
     EXPECT_TRUE(file.seek(0));
     file.write(information);
+}
+
+void InstalledDemo::MoveApplications(std::string const& name) const
+{
+    std::string const place = Path("Applications").toStdString();
+    std::string const target = place.substr(0, place.rfind('/') + 1) + name;
+    EXPECT_EQ(std::rename(place.c_str(), target.c_str()), 0);
+    EXPECT_EQ(::symlink(name.c_str(), place.c_str()), 0);
 }
 
 void InstalledDemo::WriteDefaults(QByteArray const& text)

@@ -82,6 +82,8 @@ public:
 
     /// Adds \a entries, of an old-style property list, to the bundle's information file.
     void AddInformation(QByteArray const& entries);
+    /// Gives the folder that holds the bundle another name, of any bytes; a link keeps the one before.
+    void MoveApplications(std::string const& name) const;
     /// Sets the old-style property list \a text as the user defaults of the application.
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.

@@ -23,6 +23,29 @@ TEST_F(UpdateScenario, APersonInstallsAndTheNewVersionRuns)
                                       "PelnarEngine_readyWindow", "PelnarEngine_updateWindow"}));
 }
 
+struct FolderName
+{
+    char const* name;
+    char const* bytes;
+};
+
+class FolderOfAnyName : public UpdateScenario, public testing::WithParamInterface<FolderName>
+{
+};
+
+TEST_P(FolderOfAnyName, HoldsAnApplicationThatStartsAndIsUpdated)
+{
+    demo.MoveApplications(GetParam().bytes);
+    UpdateServer server;
+    ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
+                         testing::Values(FolderName{"NoUtf8", "a\xff\xfe\xc3"}, FolderName{"Backslash", "back\\slash"},
+                                         FolderName{"QuotesAndALinesEnd", "it's \"one\"\nfolder"},
+                                         FolderName{"BeyondAscii", "\xc3\xa4\xe2\x82\xac"}),
+                         [](testing::TestParamInfo<FolderName> const& info) { return info.param.name; });
+
 TEST_F(UpdateScenario, ASilentDownloadEndsInTheDialogAndTheNewVersionRuns)
 {
     UpdateServer server;

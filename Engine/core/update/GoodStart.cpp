@@ -1,5 +1,6 @@
 #include "Engine/core/update/GoodStart.h"
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/update/HelperProcess.h"
 #include "Engine/core/update/InstallTarget.h"
@@ -22,9 +23,7 @@ class Recovery : public QObject
 {
 public:
     Recovery(QString const& helperProgram, QObject& owner, std::function<void(StartOutcome const&)> done)
-        : QObject(&owner)
-        , m_helper(std::make_shared<SealedProgram>(helperProgram.toStdString()))
-        , m_done(std::move(done))
+        : QObject(&owner), m_helper(std::make_shared<SealedProgram>(PathBytes(helperProgram))), m_done(std::move(done))
     {
     }
 

@@ -1,5 +1,6 @@
 #include "Engine/core/update/InstallTarget.h"
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
@@ -21,7 +22,7 @@ constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_CLOEXEC;
 
 EngineError Error(ErrorCause cause, std::string const& path)
 {
-    return MakeError(cause, QString::fromStdString(path));
+    return MakeError(cause, PathText(path));
 }
 
 EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
@@ -127,7 +128,7 @@ std::optional<EngineError> Intruders(InstallTarget const& target, std::string co
     for (UniqueFd const* const folder : {&target.bundle, &target.parent})
     {
         FolderFinding const finding = LookUpToTheRoot(folder->Get());
-        QString const place = QString::fromStdString(finding.path);
+        QString const place = PathText(finding.path);
         switch (finding.safety)
         {
         case FolderSafety::Safe:
@@ -172,8 +173,7 @@ EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int 
     QString const detail = error.detail;
     if (fault == UpdateFault::LocksUnavailable)
     {
-        error =
-            ErrorWith(ErrorCause::BundleCannotBeLocked, {}, {QString::fromStdString(RealPathOf(target.parent.Get()))});
+        error = ErrorWith(ErrorCause::BundleCannotBeLocked, {}, {PathText(RealPathOf(target.parent.Get()))});
     }
     else if (fault == UpdateFault::OtherFileSystem)
     {
@@ -185,7 +185,7 @@ EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int 
 
 OpenedTarget OpenInstalledBundle(QString const& bundlePath)
 {
-    std::string path = bundlePath.toStdString();
+    std::string path = PathBytes(bundlePath);
     while (path.size() > 1 && path.back() == '/')
     {
         path.pop_back(); // a link with a slash behind it is followed
@@ -214,7 +214,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     {
         return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
     }
-    target.path = QString::fromStdString(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
+    target.path = PathText(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
     return target;
 }
 
@@ -226,7 +226,7 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
     {
         return opened;
     }
-    std::string const path = target->path.toStdString();
+    std::string const path = PathBytes(target->path);
     if (auto const owner = FindPackageOwner(target->path, sources))
     {
         return ErrorOf(*owner, path);

@@ -2,6 +2,7 @@
 // Thread: the Qt main thread. Ownership: outlives the updates that use it; what it makes is its caller's.
 #pragma once
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/IUpdateParts.h"
 
@@ -15,7 +16,7 @@ class UpdateParts final : public IUpdateParts
 public:
     /// \a helperProgram is the absolute path of the helper.
     explicit UpdateParts(QString const& helperProgram)
-        : m_helperProgram(std::make_shared<SealedProgram>(helperProgram.toStdString()))
+        : m_helperProgram(std::make_shared<SealedProgram>(PathBytes(helperProgram)))
     {
     }
 

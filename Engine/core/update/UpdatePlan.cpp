@@ -1,5 +1,6 @@
 #include "Engine/core/update/UpdatePlan.h"
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/payload/Ed25519Signature.h"
 
@@ -165,7 +166,7 @@ bool CountsForBackOff(EngineError const& error)
 
 std::string RelaunchPathOf(QString const& path)
 {
-    std::string bytes = path.toStdString();
+    std::string bytes = PathBytes(path);
     if (path.isEmpty())
     {
         return bytes;

@@ -1,5 +1,6 @@
 #include "Engine/core/update/UpdateRun.h"
 
+#include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
 
@@ -404,7 +405,7 @@ void UpdateRun::Relaunch()
     }
     InstallJob job = InstallationJob();
     job.waitSeconds = RELAUNCH_WAIT_SECONDS;
-    job.targetPath = m_target->path.toStdString();
+    job.targetPath = PathBytes(m_target->path);
     job.relaunchPath = path == m_settings.bundle.path ? std::string() : RelaunchPathOf(path);
     job.environment = EnvironmentOf(environ);
     // Whoever wants the new version to start waits for it.

@@ -2,6 +2,7 @@
 // calls are made to fail by a filter, in processes of their own.
 
 #include "Engine/core/update/InstallRehearsal.h"
+#include "Engine/core/PathText.h"
 #include "Engine/core/payload/CloseDescriptors.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "tests/installer/FaultChecks.h"
@@ -34,7 +35,7 @@ std::string Told(std::string const& bundlePath, std::string const& helper = PELN
 {
     PackageSources sources;
     sources.dpkgInfoFolder = QStringLiteral("/nonexistent");
-    auto const opened = OpenInstallTarget(QString::fromStdString(bundlePath), 1, sources);
+    auto const opened = OpenInstallTarget(PathText(bundlePath), 1, sources);
     auto const* const target = std::get_if<InstallTarget>(&opened);
     if (!target)
     {
@@ -85,6 +86,18 @@ TEST(InstallRehearsal, NothingIsInTheWayAndNothingStays)
         EXPECT_EQ(Told(scene.Bundle()), "ready");
     }
     EXPECT_EQ(ExpectWhole(scene.Place(), versions), "1.0");
+}
+
+TEST(InstallRehearsal, NamesMayHoldAnything)
+{
+    for (std::string const& name : {std::string("\xff\xfe \xc3.app"), std::string("back\\slash.app"),
+                                    std::string("a b'\"\n$HOME;ls.app"), std::string(251, 'n') + ".app"})
+    {
+        Workspace const place;
+        place.Put(MakeBundle("1.0", name));
+        EXPECT_EQ(Told(place.Path() + '/' + name), "ready") << name;
+        EXPECT_EQ(place.Names(), std::vector<std::string>{name});
+    }
 }
 
 struct CallRow

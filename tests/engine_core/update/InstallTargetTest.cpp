@@ -1,4 +1,5 @@
 #include "Engine/core/update/InstallTarget.h"
+#include "Engine/core/PathText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/installer/OtherUser.h"
 #include "tests/support/Container.h"
@@ -44,7 +45,7 @@ public:
 
     std::variant<InstallTarget, EngineError> Open(std::string const& path, quint64 neededBytes = 1) const
     {
-        return OpenInstallTarget(QString::fromStdString(path), neededBytes, m_sources);
+        return OpenInstallTarget(PathText(path), neededBytes, m_sources);
     }
 
     /// Fails unless opening answers the cause; the error.
@@ -146,14 +147,35 @@ TEST(InstallTarget, NamesMayHoldAnythingThatCanBeWritten)
 {
     TargetScene const scene;
     for (std::string const& name :
-         {std::string("a b'\"\n$HOME;ls.app"), std::string("\xc3\xa4\xe2\x82\xac.app"), std::string(251, 'n') + ".app"})
+         {std::string("a b'\"\n$HOME;ls.app"), std::string("\xc3\xa4\xe2\x82\xac.app"), std::string(251, 'n') + ".app",
+          std::string("\xff\xfe \xc3.app"), std::string("back\\slash.app"), std::string("\xed\xa0\x80.app")})
     {
         std::filesystem::rename(scene.Bundle(), scene.Parent() + '/' + name);
         auto const answer = scene.Open(scene.Parent() + '/' + name);
         ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer)) << name;
         EXPECT_EQ(std::get<InstallTarget>(answer).name, name);
+        EXPECT_EQ(PathBytes(std::get<InstallTarget>(answer).path), scene.Parent() + '/' + name);
         std::filesystem::rename(scene.Parent() + '/' + name, scene.Bundle());
     }
+}
+
+TEST(PathText, EveryPathComesBack)
+{
+    std::string every;
+    for (int first = 1; first < 256; ++first)
+    {
+        every += static_cast<char>(first);
+    }
+    for (std::string const& bytes : {std::string(), every, std::string("/plain"), std::string("\xef\xbb\xbf/mark"),
+                                     std::string("\xc3\xa4\xff\xc3"), std::string("\xf0\x9f\x98\x80\xf0\x9f\x98"),
+                                     std::string("\xf0\x9f\x98\x80\xb2"), std::string("\xed\xb2\x80"),
+                                     std::string("\xed\xa0\xbd\xed\xb8\x80"), std::string("\xc0\xaf\xf5\x80\x80\x80")})
+    {
+        EXPECT_EQ(PathBytes(PathText(bytes)), bytes);
+    }
+    QString const text = QString::fromUtf8("/\u00e4\u20ac\U0001f600/a\\b");
+    EXPECT_EQ(PathText(text.toStdString()), text);
+    EXPECT_FALSE(PathText("\xff").isValidUtf16());
 }
 
 TEST(InstallTarget, LinkOrNothingInItsPlaceIsRefused)

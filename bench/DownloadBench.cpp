@@ -71,6 +71,7 @@ DownloadRequest RequestFor(Transport transport)
     request.url = TheScene().server.Url(transport);
     request.declaredBytes = ARCHIVE_BYTES;
     request.feedReach = AddressReach::ThisComputer;
+    request.purpose = DownloadFor::Person;
     request.folder = TheScene().folder.filePath(QStringLiteral("updates"));
     return request;
 }

@@ -62,10 +62,24 @@ QSslCertificate TestCertificates::Authority() const
 ServerIdentity TestCertificates::Signed(QByteArray const& name, QDateTime const& from, QDateTime const& until)
 {
     bool const isAddress = !QHostAddress(asText(name)).isNull();
-    WriteFile(QStringLiteral("name.cnf"), "subjectAltName = " + QByteArray(isAddress ? "IP:" : "DNS:") + name + "\n");
+    return Signed(name, "subjectAltName = " + QByteArray(isAddress ? "IP:" : "DNS:") + name + "\n", from, until);
+}
+
+ServerIdentity TestCertificates::SignedWithNames(QByteArray const& subject, QByteArray const& alternatives)
+{
+    QDateTime const now = QDateTime::currentDateTimeUtc();
+    QByteArray const extensions =
+        alternatives.isEmpty() ? "basicConstraints = CA:FALSE\n" : "subjectAltName = " + alternatives + "\n";
+    return Signed(subject, extensions, now.addDays(-1), now.addDays(365));
+}
+
+ServerIdentity TestCertificates::Signed(QByteArray const& subject, QByteArray const& extensions, QDateTime const& from,
+                                        QDateTime const& until)
+{
+    WriteFile(QStringLiteral("name.cnf"), extensions);
     Run({QStringLiteral("req"), QStringLiteral("-new"), QStringLiteral("-config"), QStringLiteral("settings.cnf"),
          QStringLiteral("-key"), QStringLiteral("server.key"), QStringLiteral("-subj"),
-         QStringLiteral("/CN=") + asText(name), QStringLiteral("-out"), QStringLiteral("server.csr")});
+         QStringLiteral("/CN=") + asText(subject), QStringLiteral("-out"), QStringLiteral("server.csr")});
     Run({QStringLiteral("ca"), QStringLiteral("-batch"), QStringLiteral("-notext"), QStringLiteral("-config"),
          QStringLiteral("settings.cnf"), QStringLiteral("-in"), QStringLiteral("server.csr"), QStringLiteral("-out"),
          QStringLiteral("server.pem"), QStringLiteral("-startdate"), asn1Time(from), QStringLiteral("-enddate"),

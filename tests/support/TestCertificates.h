@@ -25,6 +25,9 @@ public:
     ServerIdentity Signed(QByteArray const& name, QDateTime const& from, QDateTime const& until);
     /// The same, valid since yesterday and for a year.
     ServerIdentity Signed(QByteArray const& name);
+    /// One whose subject is \a subject, while \a alternatives ("DNS:a,IP:1.2.3.4") is its list of names; without a
+    /// list where that is empty.
+    ServerIdentity SignedWithNames(QByteArray const& subject, QByteArray const& alternatives);
     /// A certificate that only its own key signs.
     ServerIdentity SelfSigned(QByteArray const& name);
     /// The files of the identity made last, for another program.
@@ -33,6 +36,8 @@ public:
 
 private:
     void Run(QStringList const& arguments) const;
+    ServerIdentity Signed(QByteArray const& subject, QByteArray const& extensions, QDateTime const& from,
+                          QDateTime const& until);
     void WriteFile(QString const& name, QByteArray const& bytes) const;
     ServerIdentity ReadIdentity() const;
 

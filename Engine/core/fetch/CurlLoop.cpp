@@ -4,6 +4,7 @@
 #include "Engine/core/fetch/AddressReach.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QPointer>
 #include <QSocketNotifier>
 
@@ -20,6 +21,8 @@ namespace
 /// Long enough for the second fetch of a check, short enough that no server minds.
 constexpr std::chrono::seconds IDLE_TIME{30};
 constexpr long MOST_IDLE_CONNECTIONS = 4;
+/// So long may bytes be taken before the event loop has its turn again.
+constexpr qint64 TURN_MS = 2;
 
 } // namespace
 
@@ -194,8 +197,15 @@ int CurlLoop::SocketOf(CURL* transfer) const
 
 void CurlLoop::Drive(curl_socket_t socket, int events)
 {
-    int running = 0;
-    curl_multi_socket_action(m_multi, socket, events, &running);
+    // A call brings one record of a secure connection. While there are more, no turn of Qt's loop between two of them.
+    QElapsedTimer clock;
+    clock.start();
+    do
+    {
+        m_hasBytes = false;
+        int running = 0;
+        curl_multi_socket_action(m_multi, socket, events, &running);
+    } while (m_hasBytes && socket != CURL_SOCKET_TIMEOUT && m_sockets.count(socket) != 0 && !clock.hasExpired(TURN_MS));
     TakeEnds();
 }
 

@@ -48,6 +48,8 @@ public:
     /// Ends \a transfer if it still runs; its maker may destroy it afterwards. Not to be called by one of its
     /// callbacks.
     void Remove(CURL* transfer);
+    /// Called by a transfer's callback: bytes have come, and more may be there at once.
+    void NoteBytes() { m_hasBytes = true; }
     /// The socket that \a transfer uses, or -1.
     int SocketOf(CURL* transfer) const;
 
@@ -77,6 +79,7 @@ private:
     std::map<curl_socket_t, Socket> m_sockets;
     std::optional<QSslConfiguration> m_trusted; ///< whose authorities m_trust has
     TrustStore m_trust;
+    bool m_hasBytes = false;
     QTimer m_timer;
     QTimer m_idleTimer;
     std::vector<std::future<void>> m_asking; ///< each waits for its end

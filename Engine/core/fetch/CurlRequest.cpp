@@ -46,6 +46,23 @@ QByteArray CertificateName(QUrl const& url)
     return name;
 }
 
+/// Of the mark that a connection bears once the server has ended it.
+int GoodbyeIndex()
+{
+    static int const index = SSL_get_ex_new_index(0, nullptr, nullptr, nullptr, nullptr);
+    return index;
+}
+
+/// OpenSSL's own record of it does not outlive libcurl's closing of the connection.
+void NoteGoodbye(SSL const* connection, int where, int alert)
+{
+    if ((where & SSL_CB_READ_ALERT) == SSL_CB_READ_ALERT && (alert & 0xff) == SSL_AD_CLOSE_NOTIFY)
+    {
+        static char mark;
+        SSL_set_ex_data(const_cast<SSL*>(connection), GoodbyeIndex(), &mark);
+    }
+}
+
 } // namespace
 
 CurlRequest::CurlRequest(FetchRequest const& request, FetchLimits const& limits, ConnectionSettings settings)
@@ -199,8 +216,7 @@ bool CurlRequest::PrepareSecurity(SSL_CTX* context) const
     bool const isStrong =
         SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) == 1 && SSL_CTX_set_cipher_list(context, CIPHERS) == 1;
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), LEAST_SECURITY_LEVEL));
-    // A connection that ends without saying so was cut.
-    SSL_CTX_clear_options(context, SSL_OP_IGNORE_UNEXPECTED_EOF);
+    SSL_CTX_set_info_callback(context, &NoteGoodbye);
     // What libcurl would tell of every record is of no interest and takes time.
     SSL_CTX_set_msg_callback(context, nullptr);
     return isSet && isStrong;
@@ -213,11 +229,25 @@ long CurlRequest::Number(CURLINFO info) const
     return number;
 }
 
-bool CurlRequest::HasSecureBytes() const
+void CurlRequest::HoldSecureConnection()
 {
     curl_tlssessioninfo* session = nullptr;
     curl_easy_getinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
-    return session && session->internals && SSL_pending(static_cast<SSL*>(session->internals)) > 0;
+    SSL* const connection = session ? static_cast<SSL*>(session->internals) : nullptr;
+    if (connection && SSL_up_ref(connection) == 1)
+    {
+        m_connection.reset(connection, &SSL_free);
+    }
+}
+
+bool CurlRequest::HasSecureBytes() const
+{
+    return m_connection && SSL_pending(m_connection.get()) > 0;
+}
+
+bool CurlRequest::HasSaidGoodbye() const
+{
+    return m_connection && SSL_get_ex_data(m_connection.get(), GoodbyeIndex()) != nullptr;
 }
 
 } // namespace Pelnar::Engine

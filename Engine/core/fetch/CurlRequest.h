@@ -9,6 +9,7 @@
 #include <memory>
 #include <optional>
 
+typedef struct ssl_st SSL;
 typedef struct ssl_ctx_st SSL_CTX;
 
 namespace Pelnar::Engine
@@ -29,8 +30,12 @@ public:
     /// What libcurl says of its last failure.
     QString Text() const { return QString::fromUtf8(m_text.data()); }
     long Number(CURLINFO info) const;
-    /// True when OpenSSL has bytes that nobody has taken. REQUIRES: called by one of the handle's callbacks.
+    /// Keeps the secure connection in mind. REQUIRES: called by one of the handle's callbacks.
+    void HoldSecureConnection();
+    /// True when OpenSSL has bytes of that connection that nobody has taken.
     [[nodiscard]] bool HasSecureBytes() const;
+    /// True when the server has said that nothing more comes over that connection.
+    [[nodiscard]] bool HasSaidGoodbye() const;
 
 private:
     void SetAddress();
@@ -46,6 +51,7 @@ private:
     std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_fields{nullptr, &curl_slist_free_all};
     std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> m_address{nullptr, &curl_url_cleanup};
     std::array<char, CURL_ERROR_SIZE> m_text{};
+    std::shared_ptr<SSL> m_connection;
     std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy; ///< goes first: it uses the others
 };
 

@@ -74,6 +74,11 @@ HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limit
     connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Rest(); });
 }
 
+bool HttpTransfer::IsSecure() const
+{
+    return m_request.url.scheme() == QLatin1String("https");
+}
+
 HttpTransfer::~HttpTransfer()
 {
     Close();
@@ -154,6 +159,7 @@ HttpTransfer::Verdict HttpTransfer::TakeConnection(QHostAddress const& server)
 HttpTransfer::Verdict HttpTransfer::TakeHeadLine(QByteArray const& line)
 {
     m_received += line.size();
+    m_loop->NoteBytes();
     switch (m_reader.Take(line))
     {
     case HttpHeadReader::Progress::NeedsMore:
@@ -178,6 +184,10 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     }
     m_refusal.reset();
     m_stage = TransferStage::Body;
+    if (IsSecure())
+    {
+        m_curl->HoldSecureConnection();
+    }
     std::optional<qint64> const most = m_sink               ? m_sink->BeginBody(head)
                                        : head.status == 200 ? std::optional(m_limits.maxBodyBytes)
                                                             : std::nullopt;
@@ -213,6 +223,7 @@ qint64 HttpTransfer::HoldOrTake(char const* bytes, qint64 size)
 HttpTransfer::Verdict HttpTransfer::TakeBody(char const* bytes, qint64 size)
 {
     m_received += size;
+    m_loop->NoteBytes();
     if (m_bodyBytes + size > m_limits.maxBodyBytes)
     {
         return Refuse(ErrorCause::BodyTooLarge);
@@ -263,7 +274,7 @@ bool HttpTransfer::DeliverHeld()
 
 bool HttpTransfer::HasSurplus() const
 {
-    if (m_request.url.scheme() == QLatin1String("https"))
+    if (IsSecure())
     {
         return m_curl->HasSecureBytes();
     }
@@ -314,7 +325,8 @@ void HttpTransfer::TakeEnd(CURLcode code)
         Fail(ErrorAt(code));
         return;
     }
-    bool const isShort = m_plan.kind == BodyPlan::Kind::Length && m_bodyBytes < m_plan.length;
+    bool const isShort =
+        m_plan.kind == BodyPlan::Kind::Length ? m_bodyBytes < m_plan.length : m_reader.HasHead() && IsCut();
     if (!m_reader.HasHead() || isShort)
     {
         Fail(MakeError(isShort ? ErrorCause::IncompleteBody : ErrorCause::IncompleteHead));
@@ -329,6 +341,14 @@ void HttpTransfer::TakeEnd(CURLcode code)
     {
         m_isHeld = true;
     }
+}
+
+bool HttpTransfer::IsCut() const
+{
+    bool const endsWithConnection = m_plan.kind == BodyPlan::Kind::UntilClose &&
+                                    m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
+    // libcurl takes the end of a secure connection for the end of the body, whoever ended it.
+    return endsWithConnection && IsSecure() && !m_curl->HasSaidGoodbye();
 }
 
 void HttpTransfer::TakeWhole()

@@ -65,9 +65,12 @@ private:
     /// True when everything that was held is delivered.
     [[nodiscard]] bool DeliverHeld();
     [[nodiscard]] bool HasSurplus() const;
+    [[nodiscard]] bool IsSecure() const;
     Verdict Refuse(ErrorCause cause);
 
     void TakeEnd(CURLcode code);
+    /// True for a body that only the connection's end ended, where that end proves nothing.
+    [[nodiscard]] bool IsCut() const;
     void TakeWhole();
     EngineError ErrorAt(CURLcode code) const;
     void SampleRate();

@@ -286,6 +286,62 @@ TEST_F(FeedFetcherTest, DripIsTooSlow)
     EXPECT_EQ(CauseOf(Fetch(silent.Url(), limits)), ErrorCause::TooSlow) << "no answer at all is the slowest";
 }
 
+TEST_F(FeedFetcherTest, EndlessLineAtAChunksSizeIsTooSlow)
+{
+    FetchLimits limits = ShortLimits();
+    limits.rateWindow = milliseconds(400);
+    LoopbackServer server(
+        AnsweringWithoutEnd("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1;", QByteArray(1000, 'x')));
+    EXPECT_EQ(CauseOf(Fetch(server.Url(), limits)), ErrorCause::TooSlow) << "no byte of a body comes";
+}
+
+TEST_F(FeedFetcherTest, NoCharacterOfAnAddressEndsALine)
+{
+    LoopbackServer server(Answering(OkAnswer(BODY)));
+    ASSERT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::NoUpdate);
+    int const lines = server.Requests()[0].count("\n");
+    for (int character = 1; character < 0x100; ++character)
+    {
+        QUrl address = server.Url();
+        address.setPath(QStringLiteral("/x") + QChar(character), QUrl::DecodedMode);
+        address.setQuery(QString(QChar(character)), QUrl::DecodedMode);
+        address.setUserName(QString(QChar(character)), QUrl::DecodedMode);
+        ASSERT_EQ(CauseOf(Fetch(address)), ErrorCause::NoUpdate) << character;
+        QByteArray const request = server.Requests().back();
+        EXPECT_EQ(request.count("\r\n"), lines + 1) << character << " and the field with the user's name";
+        EXPECT_EQ(request.count("\n"), lines + 1) << character;
+        EXPECT_EQ(request.count("\r"), lines + 1) << character;
+        QByteArray const target = address.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority);
+        EXPECT_TRUE(request.startsWith("GET " + target + " HTTP/1.1\r\n")) << request.toStdString();
+    }
+}
+
+TEST_F(FeedFetcherTest, FetchSendsNothingThatItWasNotAskedFor)
+{
+    QTemporaryDir home;
+    QFile secrets(home.filePath(QStringLiteral(".netrc")));
+    ASSERT_TRUE(secrets.open(QIODevice::WriteOnly));
+    secrets.write("machine 127.0.0.1 login me password secret\ndefault login me password secret\n");
+    secrets.close();
+    QByteArray const before = qgetenv("HOME");
+    qputenv("HOME", home.path().toLocal8Bit());
+    LoopbackServer server(
+        [](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            QByteArray answer = number == 0 ? RedirectAnswer(302, "/next") : OkAnswer(BODY);
+            Answering(answer.replace("\r\n\r\n", "\r\nSet-Cookie: a=b\r\n\r\n"))(socket, request, number);
+        });
+    EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::NoUpdate);
+    qputenv("HOME", before);
+    ASSERT_EQ(server.Requests().size(), 2u);
+    for (QByteArray const& request : server.Requests())
+    {
+        EXPECT_FALSE(request.contains("Authorization")) << request.toStdString();
+        EXPECT_FALSE(request.contains("Cookie")) << request.toStdString();
+        EXPECT_FALSE(request.contains("Referer")) << request.toStdString();
+    }
+}
+
 TEST_F(FeedFetcherTest, ServerJustFastEnoughIsWaitedFor)
 {
     FetchLimits limits = ShortLimits();
@@ -389,6 +445,24 @@ INSTANTIATE_TEST_SUITE_P(
                    ErrorCause::RedirectInvalid, 0},
         GarbageRow{"LocationTooLong", "HTTP/1.1 302 Found\r\nLocation: /" + QByteArray(9000, 'a') + "\r\n\r\n",
                    ErrorCause::RedirectInvalid, 0},
+        GarbageRow{"BareLineEnd", "HTTP/1.1 200 OK\nContent-Length: 4\n\n<rss", ErrorCause::MalformedHead, 0},
+        GarbageRow{"BareLineEndAmongOthers", "HTTP/1.1 200 OK\r\nX: y\nContent-Length: 4\r\n\r\n<rss",
+                   ErrorCause::MalformedHead, 0},
+        GarbageRow{"BareLineEndOfTheHead", "HTTP/1.1 200 OK\r\nContent-Length: 4\r\n\n<rss", ErrorCause::MalformedHead,
+                   0},
+        GarbageRow{"BareLineEndOfAnInformationalHead",
+                   "HTTP/1.1 103 Hint\n\nHTTP/1.1 200 OK\r\nContent-Length: 4\r\n\r\n<rss", ErrorCause::MalformedHead,
+                   0},
+        GarbageRow{"BareReturnAlone", "HTTP/1.1 200 OK\r\nX: y\rContent-Length: 4\r\n\r\n<rss",
+                   ErrorCause::MalformedHead, 0},
+        GarbageRow{"SameLengthTwice", "HTTP/1.1 200 OK\r\nContent-Length: 4\r\nContent-Length: 4\r\n\r\n<rss",
+                   ErrorCause::ContradictoryLength, 0},
+        GarbageRow{"ChunksTwice",
+                   "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\nTransfer-Encoding: chunked\r\n\r\n0\r\n\r\n",
+                   ErrorCause::TransferEncodingRefused, 0},
+        GarbageRow{"ManyTransferEncodings",
+                   "HTTP/1.1 200 OK\r\nTransfer-Encoding: gzip, gzip, gzip, gzip, gzip, gzip, gzip\r\n\r\n",
+                   ErrorCause::TransferEncodingRefused, 0},
         GarbageRow{"FoldedLine", "HTTP/1.1 200 OK\r\nX: a\r\n b\r\n\r\n", ErrorCause::MalformedHead, 0},
         GarbageRow{"NameWithBlank", "HTTP/1.1 200 OK\r\nContent-Length : 4\r\n\r\n<rss", ErrorCause::MalformedHead, 0},
         GarbageRow{"NulInHead", QByteArray("HTTP/1.1 200 OK\r\nX: a\0b\r\n\r\n", 27), ErrorCause::MalformedHead, 0},

@@ -9,6 +9,8 @@
 
 #include <optional>
 
+#include <sys/socket.h>
+
 namespace
 {
 
@@ -88,6 +90,144 @@ TEST_F(SecureFetchTest, CertificateOfAnotherNameIsRefused)
     LoopbackServer server(Answering(OkAnswer(BODY)), certificates.Signed("feeds.example.com"));
     EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::CertificateWrongName);
     EXPECT_TRUE(server.Requests().empty());
+}
+
+struct NamesRow
+{
+    char const* name;
+    char const* subject;
+    char const* alternatives;
+    bool isRight;
+};
+
+void PrintTo(NamesRow const& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+class CertificateNames : public SecureFetchTest, public ::testing::WithParamInterface<NamesRow>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, CertificateNames,
+    ::testing::Values(NamesRow{"ListNamesTheServer", "other.example", "DNS:other.example,IP:127.0.0.1", true},
+                      NamesRow{"SubjectBesideAListOfOthers", "127.0.0.1", "DNS:other.example,IP:192.0.2.1", false},
+                      NamesRow{"SubjectBesideAListOfOtherKinds", "127.0.0.1", "email:someone@example.com", false},
+                      NamesRow{"SubjectAlone", "127.0.0.1", "", false},
+                      NamesRow{"AddressAsAName", "other.example", "DNS:127.0.0.1", false}),
+    [](auto const& row) { return std::string(row.param.name); });
+
+TEST_P(CertificateNames, CountFromTheListAlone)
+{
+    NamesRow const& row = GetParam();
+    LoopbackServer server(Answering(OkAnswer(BODY)), certificates.SignedWithNames(row.subject, row.alternatives));
+    EXPECT_EQ(CauseOf(Fetch(server.Url())), row.isRight ? ErrorCause::NoUpdate : ErrorCause::CertificateWrongName);
+    EXPECT_EQ(server.Requests().size(), row.isRight ? 1u : 0u);
+}
+
+class HostNames : public SecureFetchTest, public ::testing::WithParamInterface<NamesRow>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, HostNames,
+    ::testing::Values(NamesRow{"ListNamesTheServer", "other.example", "DNS:localhost", true},
+                      NamesRow{"SubjectBesideAListOfOthers", "localhost", "DNS:other.example", false},
+                      NamesRow{"SubjectBesideAListOfAddresses", "localhost", "IP:127.0.0.1", false},
+                      NamesRow{"SubjectAlone", "localhost", "", false}),
+    [](auto const& row) { return std::string(row.param.name); });
+
+TEST_P(HostNames, CountFromTheListAlone)
+{
+    NamesRow const& row = GetParam();
+    LoopbackServer server(Answering(OkAnswer(BODY)), certificates.SignedWithNames(row.subject, row.alternatives));
+    QUrl const url = server.Url(QStringLiteral("/feed.xml"), QStringLiteral("localhost"));
+    EXPECT_EQ(CauseOf(Fetch(url)), row.isRight ? ErrorCause::NoUpdate : ErrorCause::CertificateWrongName);
+    EXPECT_EQ(server.Requests().size(), row.isRight ? 1u : 0u);
+}
+
+/// Answers and lets the connection go without the closing words that TLS has for that.
+LoopbackServer::Script AnsweringWithoutGoodbye(QByteArray const& bytes)
+{
+    return [bytes](QSslSocket& socket, QByteArray const&, int)
+    {
+        socket.write(bytes);
+        socket.flush();
+        while (socket.encryptedBytesToWrite() > 0 && socket.waitForBytesWritten(1000))
+        {
+        }
+        shutdown(static_cast<int>(socket.socketDescriptor()), SHUT_WR);
+    };
+}
+
+TEST_F(SecureFetchTest, BodyWithoutLengthThatEndsWithoutGoodbyeIsIncomplete)
+{
+    QByteArray const answer = "HTTP/1.1 200 OK\r\nConnection: close\r\n\r\n" + BODY;
+    LoopbackServer cut(AnsweringWithoutGoodbye(answer), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(CauseOf(Fetch(cut.Url())), ErrorCause::IncompleteBody);
+    LoopbackServer whole(Answering(answer), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(Fetch(whole.Url()).bytes, BODY);
+    LoopbackServer chunks(
+        AnsweringWithoutGoodbye("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n5\r\n<rss>\r\n"),
+        certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(CauseOf(Fetch(chunks.Url())), ErrorCause::IncompleteBody);
+}
+
+TEST_F(SecureFetchTest, BodyThatIsWholeByItsLengthNeedsNoGoodbye)
+{
+    LoopbackServer server(AnsweringWithoutGoodbye(OkAnswer(BODY)), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(Fetch(server.Url()).bytes, BODY);
+}
+
+TEST_F(SecureFetchTest, ResetInTheMiddleIsIncompleteAndEndsNoProcess)
+{
+    QByteArray const body(1024 * 1024, 'x');
+    for (int const kept : {0, 100, 70000, 500000})
+    {
+        LoopbackServer server(AnsweringThenReset(OkAnswer(body).left(OkAnswer(body).size() - body.size() + kept)),
+                              certificates.Signed("127.0.0.1"));
+        ErrorCause const cause = CauseOf(Fetch(server.Url()));
+        EXPECT_TRUE(cause == ErrorCause::IncompleteBody || cause == ErrorCause::IncompleteHead) << kept;
+    }
+}
+
+TEST_F(SecureFetchTest, AuthoritiesOfTheHostCountFromTheNextFetchOn)
+{
+    TestCertificates stranger;
+    LoopbackServer server(Answering(OkAnswer(BODY)), stranger.Signed("127.0.0.1"));
+    EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::CertificateAuthorityUnknown);
+    {
+        TrustedAuthority const both(stranger.Authority());
+        EXPECT_EQ(Fetch(server.Url()).bytes, BODY);
+    }
+    EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::CertificateAuthorityUnknown);
+}
+
+/// Answers and keeps the connection open for the next request.
+LoopbackServer::Script AnsweringAndWaiting(QByteArray const& body)
+{
+    return [body](QSslSocket& socket, QByteArray const&, int)
+    { socket.write("HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(body.size()) + "\r\n\r\n" + body); };
+}
+
+TEST_F(SecureFetchTest, SecondFetchNeedsNoConnectionOfItsOwn)
+{
+    LoopbackServer server(AnsweringAndWaiting(BODY), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(Fetch(server.Url()).bytes, BODY);
+    EXPECT_EQ(Fetch(server.Url(QStringLiteral("/other.xml"))).bytes, BODY);
+    EXPECT_EQ(server.Requests().size(), 2u);
+    EXPECT_EQ(server.Connections(), 1);
+}
+
+TEST_F(SecureFetchTest, ConnectionIsNotUsedOnceMoreWhenItsAuthorityIsTrustedNoLonger)
+{
+    LoopbackServer server(AnsweringAndWaiting(BODY), certificates.Signed("127.0.0.1"));
+    EXPECT_EQ(Fetch(server.Url()).bytes, BODY);
+    TestCertificates other;
+    TrustedAuthority const others(other.Authority());
+    EXPECT_EQ(CauseOf(Fetch(server.Url())), ErrorCause::CertificateAuthorityUnknown);
+    EXPECT_EQ(server.Requests().size(), 1u);
 }
 
 TEST_F(SecureFetchTest, UnknownAuthorityIsRefused)

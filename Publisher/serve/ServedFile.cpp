@@ -60,13 +60,39 @@ bool IsPemKey(QByteArray const& content)
                        { return line.startsWith("-----BEGIN ") && line.contains("PRIVATE KEY"); });
 }
 
-/// Base64 of as many bytes as a signing key has. A public key or a signature alone looks the same; clients need neither
-/// from a file of its own.
+/// As programs of others mark their private keys in text.
+bool IsMarkedKey(QByteArray const& content)
+{
+    return content.contains("AGE-SECRET-KEY-") || content.startsWith("PuTTY-User-Key-File-") ||
+           (content.startsWith("untrusted comment:") && content.left(content.indexOf('\n')).contains("secret key"));
+}
+
+/// PKCS #8, RSA or EC in DER: a sequence that begins with the version of a private key.
+bool IsDerKey(QByteArray const& content)
+{
+    constexpr int MOST_HEADER_BYTES = 4;
+    QByteArray const start = content.left(MOST_HEADER_BYTES + 4);
+    int const version = start.indexOf(QByteArray("\x02\x01", 2));
+    bool const isSequence = start.startsWith('\x30') && version >= 2 && version <= MOST_HEADER_BYTES;
+    QByteArray const rest = isSequence ? content.mid(version + 2, 2) : QByteArray();
+    return rest == QByteArray("\0\x30", 2) || rest == QByteArray("\0\x02", 2) || rest == QByteArray("\x01\x04", 2);
+}
+
+bool HasKeyLength(std::size_t size)
+{
+    return std::find(std::begin(SIGNING_KEY_BYTES), std::end(SIGNING_KEY_BYTES), size) != std::end(SIGNING_KEY_BYTES);
+}
+
+/// As many bytes as a signing key has, in base64 or as they are. A public key or a signature alone looks the same;
+/// clients need neither from a file of its own.
 bool IsSigningKey(QByteArray const& content)
 {
     auto const bytes = Engine::DecodeBase64(content.trimmed().toStdString());
-    return bytes && std::find(std::begin(SIGNING_KEY_BYTES), std::end(SIGNING_KEY_BYTES), bytes->size()) !=
-                        std::end(SIGNING_KEY_BYTES);
+    QString const text = QString::fromUtf8(content);
+    bool const isText =
+        std::none_of(text.begin(), text.end(),
+                     [](QChar c) { return c == QChar::ReplacementCharacter || (!c.isPrint() && !c.isSpace()); });
+    return (bytes && HasKeyLength(bytes->size())) || (!isText && HasKeyLength(std::size_t(content.size())));
 }
 
 bool HoldsKey(int file, qint64 size)
@@ -82,7 +108,7 @@ bool HoldsKey(int file, qint64 size)
         return true; // what cannot be read is not served
     }
     content.truncate(int(count));
-    return IsPemKey(content) || IsSigningKey(content);
+    return IsPemKey(content) || IsMarkedKey(content) || IsDerKey(content) || IsSigningKey(content);
 }
 
 } // namespace

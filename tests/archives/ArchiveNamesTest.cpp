@@ -254,6 +254,36 @@ std::map<std::string, std::string> GeneratedIn(Surroundings const& surroundings)
     return files;
 }
 
+TEST(HelperInALocale, InstallsNamesAsTheyAre)
+{
+    Workspace const source;
+    source.Put(BundleOfNames(PackedLongNames::Kept));
+    std::vector<ForgedEntry> entries = BundleOfNames(PackedLongNames::Kept);
+    for (ForgedEntry& entry : entries)
+    {
+        entry.isPax = true;
+        entry.flags = 0x800;
+    }
+    for (Container const container : {Container::Zip, Container::TarBzip2})
+    {
+        for (Surroundings const& surroundings : Locales())
+        {
+            SCOPED_TRACE(surroundings.name);
+            HelperStart const start{{}, surroundings.variables};
+            UpdateScene scene(MakeArchive(container, entries));
+            HelperOutcome const prepared = scene.Prepare(scene.MakePrepareJob(), start);
+            ASSERT_NE(prepared.Find<PreparedReport>(), nullptr) << FaultName(prepared.Fault());
+            InstallJob job = scene.MakeInstallJob(prepared.Find<PreparedReport>()->digest);
+            job.stagedName = prepared.Find<PreparedReport>()->stagedName;
+            scene.Host().End();
+            EXPECT_EQ(scene.Install(job, start).exitStatus, 0);
+            EXPECT_TRUE(DigestOf(scene.Place().Path() + '/' + APP) == DigestOf(source.Path() + '/' + NEW_APP));
+            EXPECT_EQ(scene.Place().Names(APP), source.Names(NEW_APP));
+            EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+        }
+    }
+}
+
 TEST(PublisherInALocale, GeneratesTheSameFeedUnderTheSameNames)
 {
     std::map<std::string, std::string> const expected = GeneratedIn({"Utf8", {"LC_ALL=C.UTF-8"}});

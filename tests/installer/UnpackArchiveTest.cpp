@@ -312,6 +312,7 @@ TEST(UnpackArchive, OtherContainersAreRefusedWhateverTheirNames)
              Row{"rar", "Rar!\x1a\x07\x01 and so on", UpdateFault::ContainerUnknown},
              Row{"7z", "7z\xbc\xaf\x27\x1c and so on", UpdateFault::ContainerUnknown},
              Row{"cab", "MSCF and so on", UpdateFault::ContainerUnknown},
+             Row{"delta", MakeWholeDelta(MakeBundle("2.0")), UpdateFault::ContainerUnknown},
              Row{"mtree", "#mtree\n/set type=file\n./x\n", UpdateFault::ContainerUnknown},
              Row{"ELF",
                  "\x7f"

@@ -73,6 +73,12 @@ void ExpectUpdated(UpdateScene& scene, HelperStart const& start)
     scene.Host().End();
     HelperOutcome const installed = scene.Install(job, start);
     EXPECT_EQ(installed.exitStatus, 0) << FaultName(installed.Fault());
+    auto const* const relaunched = installed.Find<Engine::RelaunchedReport>();
+    ASSERT_NE(relaunched, nullptr) << "it was not started again";
+    EXPECT_EQ(relaunched->bundle, Engine::RelaunchedBundle::Target);
+    std::string const told = "2.0|" + job.targetPath + "/run|0|\n";
+    bool const mayBeSilent = !start.before.empty(); // the helper may have no stream to lend it
+    EXPECT_TRUE(installed.output == told || (mayBeSilent && installed.output.empty())) << installed.output;
     EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
     scene.ReleaseStaging();
     EXPECT_EQ(scene.Recover("2.0", start).exitStatus, 0);

@@ -9,7 +9,9 @@
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <time.h>
+#include <unistd.h>
 
 namespace Pelnar::Installer
 {
@@ -39,7 +41,7 @@ std::int64_t NowInMilliseconds()
 
 } // namespace
 
-pid_t StartProgram(std::vector<std::string> words, std::vector<std::string> environment, int& error)
+pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, int& error)
 {
     sigset_t none;
     sigset_t all;
@@ -51,9 +53,14 @@ pid_t StartProgram(std::vector<std::string> words, std::vector<std::string> envi
     ::posix_spawnattr_setsigmask(&attributes, &none);
     ::posix_spawnattr_setsigdefault(&attributes, &all);
     std::vector<char*> const arguments = Pointers(words);
-    std::vector<char*> const variables = Pointers(environment);
+    std::vector<char*> const variables = Pointers(surroundings.environment);
     pid_t process = -1;
+    // Both are inherited, and this process has them back at once.
+    bool const isElsewhere = !surroundings.workingFolder.empty() && ::chdir(surroundings.workingFolder.c_str()) == 0;
+    mode_t const ownMask = ::umask(surroundings.creationMask);
     error = ::posix_spawn(&process, arguments[0], nullptr, &attributes, arguments.data(), variables.data());
+    ::umask(ownMask);
+    static_cast<void>(isElsewhere && ::chdir("/") != 0);
     ::posix_spawnattr_destroy(&attributes);
     return error == 0 ? process : -1;
 }

@@ -11,9 +11,18 @@
 namespace Pelnar::Installer
 {
 
-/// Starts the program that the first word names by its absolute path, with the words as its arguments and exactly this
-/// environment, in a session of its own, with no signal blocked. -1, with \a error an errno, when it does not start.
-pid_t StartProgram(std::vector<std::string> words, std::vector<std::string> environment, int& error);
+/// What a started program finds.
+struct Surroundings
+{
+    std::vector<std::string> environment; ///< exactly this
+    std::string workingFolder = {};       ///< empty, or not to be entered: the root
+    mode_t creationMask = 022;
+};
+
+/// Starts the program that the first word names by its absolute path, with the words as its arguments, in a session of
+/// its own, with no signal blocked. -1, with \a error an errno, when it does not start. REQUIRES: the process' only
+/// thread, which stands in the root.
+pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, int& error);
 
 /// Waits until the process behind a pidfd has ended, at most \a seconds, 0: as long as it takes. False when it has not.
 /// Throws UpdateRefusal: DescriptorUnusable.

@@ -3,6 +3,7 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
+#include "Installer/BundleRights.h"
 #include "Installer/ChildProcess.h"
 #include "Installer/OutcomeNote.h"
 #include "Installer/RecoverSwap.h"
@@ -36,6 +37,7 @@ using Engine::UpdateRefusal;
 
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr int EXIT_REFUSED = 1;
+constexpr mode_t PACKED_BITS = 0777;
 
 /// A signal must not end the process while it waits for nothing any more.
 void BlockSignals()
@@ -72,9 +74,9 @@ bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
 }
 
 /// The installed bundle must still be the one that the update was prepared for, and let an installer program run.
-void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
+UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
 {
-    UniqueFd const target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
+    UniqueFd target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
     if (!target)
     {
         throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
@@ -88,6 +90,7 @@ void CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
     {
         throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
     }
+    return target;
 }
 
 /// The staged bundle. Whether it is still the one that was prepared, CheckStaged() tells.
@@ -101,12 +104,12 @@ UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors
     return staged;
 }
 
-void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, int stagedFd)
+void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, int stagedFd, mode_t bitsWithin)
 {
     bool const isInPlace = Engine::IsPrivateFolder(descriptors.staging) &&
                            IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
                            IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
-    if (!isInPlace || Engine::DigestTree(stagedFd) != job.digest)
+    if (!isInPlace || Engine::DigestTree(stagedFd, bitsWithin) != job.digest)
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
     }
@@ -135,11 +138,11 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     // The version that asked for this has run: what an earlier update kept for it is not needed any more.
     static_cast<void>(
         RecoverSwap(descriptors.parent, {job.targetName, job.installedVersion, Engine::RecoverPurpose::Confirmation}));
-    CheckTarget(job, descriptors);
+    UniqueFd const target = CheckTarget(job, descriptors);
     UniqueFd const staged = OpenStaged(job, descriptors);
     if (job.kind == PayloadKind::Installer)
     {
-        CheckStaged(job, descriptors, staged.Get());
+        CheckStaged(job, descriptors, staged.Get(), PACKED_BITS);
         report.SendProgress(HelperPhase::Installing, 0, 0);
         RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent) + '/' + job.targetName);
         report.Send(Engine::InstalledReport{});
@@ -147,13 +150,15 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
         static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
         return;
     }
+    BundleRights const rights = RightsOf(target.Get());
+    GiveRights(staged.Get(), rights);
     Engine::SwapJournal journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
     journal.confirmation = ConfirmationOf(job, staged.Get());
     WriteSwapJournal(descriptors.parent, job.targetName, journal);
     report.SendProgress(HelperPhase::Installing, 0, 0);
     // Behind the journal, whose syncs take their time: as little as possible lies between the check and the swap. A
     // refusal here finds the previous version in its place, which is what the journal says to keep.
-    CheckStaged(job, descriptors, staged.Get());
+    CheckStaged(job, descriptors, staged.Get(), BitsWithin(rights));
     SwapBundle(descriptors.parent, job.targetName, descriptors.staging, journal);
     report.Send(Engine::InstalledReport{});
 }

@@ -4,7 +4,6 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Installer/BundleInformation.h"
-#include "Installer/ChildProcess.h"
 
 #include <cerrno>
 #include <climits>
@@ -79,10 +78,10 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
 }
 
-pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment)
+pid_t Relaunch(RelaunchTarget const& target, Surroundings const& surroundings)
 {
     int error = 0;
-    pid_t const process = StartProgram({target.executablePath}, environment, error);
+    pid_t const process = StartProgram({target.executablePath}, surroundings, error);
     if (process < 0)
     {
         throw UpdateRefusal(UpdateFault::RelaunchFailed, error);

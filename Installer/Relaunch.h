@@ -2,8 +2,9 @@
 // Thread: any. Ownership: values only; the started process is the caller's child, whether it waits for it or not.
 #pragma once
 
+#include "Installer/ChildProcess.h"
+
 #include <string>
-#include <vector>
 
 #include <sys/types.h>
 
@@ -22,8 +23,8 @@ struct RelaunchTarget
 /// bundle whose program this machine can run.
 RelaunchTarget FindRelaunchTarget(std::string const& bundlePath);
 
-/// Starts the program with itself as the one argument, the given environment, its own session and no signal blocked.
-/// Answers its number. Throws UpdateRefusal: RelaunchFailed.
-pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& environment);
+/// Starts the program with itself as the one argument, its own session and no signal blocked. Answers its number.
+/// Throws UpdateRefusal: RelaunchFailed.
+pid_t Relaunch(RelaunchTarget const& target, Surroundings const& surroundings);
 
 } // namespace Pelnar::Installer

@@ -74,7 +74,8 @@ void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const
     std::string const folder = Engine::RealPathOf(stagedFd);
     std::string const executable = ReadBundleInformation(stagedFd, job.stagedName).executable;
     int error = 0;
-    pid_t const process = StartProgram({folder + '/' + executable, targetPath}, EnvironmentOf(job.environment), error);
+    pid_t const process =
+        StartProgram({folder + '/' + executable, targetPath}, {EnvironmentOf(job.environment)}, error);
     if (process < 0)
     {
         throw UpdateRefusal(UpdateFault::InstallerNotStarted, error);

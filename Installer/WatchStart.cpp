@@ -134,7 +134,8 @@ std::optional<StartedBundle> StartAgain(InstallJob const& job, ReportChannel con
         try
         {
             RelaunchTarget const target = FindRelaunchTarget(choice.path);
-            pid_t const process = Relaunch(target, job.environment);
+            pid_t const process =
+                Relaunch(target, {job.environment, job.workingFolder, static_cast<mode_t>(job.creationMask)});
             report.Send(Engine::RelaunchedReport{choice.name});
             return StartedBundle{process, target.bundlePath};
         }

@@ -15,6 +15,7 @@
 #include <fcntl.h>
 #include <signal.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace
@@ -366,6 +367,66 @@ TEST(WatchedStart, WordLetsTheHelperGoWhileTheNewVersionRuns)
     scene.ReleaseStaging();
     scene.Recover("2.0");
     EXPECT_EQ(scene.Place().Names(), ONLY_THE_APP);
+}
+
+/// From the swap on the session may end at every call: the new version is started all the same.
+TEST(WatchedStart, SessionThatEndsBehindTheSwapKeepsNoNewVersionFromItsStart)
+{
+    int places = 0;
+    bool isBehindTheStart = false;
+    for (int nth = 0; !isBehindTheStart && nth < 200; ++nth)
+    {
+        SCOPED_TRACE(nth);
+        UpdateScene scene(ArchiveOf(GOOD));
+        InstallJob const job = scene.PrepareForInstall();
+        scene.Host().End();
+        int calls = -1; // since the swap
+        bool wasSent = false;
+        HelperStart start;
+        start.atEveryCall = [&](CallStop const& stop)
+        {
+            bool const isSwap = stop.call == SYS_renameat2;
+            calls = calls < 0 && !isSwap ? calls : calls + 1;
+            isBehindTheStart = isBehindTheStart || (!wasSent && stop.call == SYS_ppoll);
+            bool const isPlace = calls == nth && !isBehindTheStart;
+            wasSent = wasSent || isPlace;
+            return isPlace ? CallVerdict::SignalAll(SIGTERM) : CallVerdict::GoOn();
+        };
+        HelperOutcome const outcome = scene.Install(job, start);
+        EXPECT_EQ(outcome.output.substr(0, 4), "2.0|");
+        EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+        places += wasSent ? 1 : 0;
+    }
+    EXPECT_TRUE(isBehindTheStart);
+    EXPECT_GT(places, 10);
+}
+
+TEST(WatchedStart, SessionThatEndsLetsTheNewVersionRunWithoutItsWatcher)
+{
+    Workspace const fifos;
+    std::string const up = fifos.Path() + "/up";
+    std::string const door = fifos.Path() + "/door";
+    ASSERT_EQ(::mkfifo(up.c_str(), 0600), 0);
+    ASSERT_EQ(::mkfifo(door.c_str(), 0600), 0);
+    UpdateScene scene(ArchiveOf("#!/bin/sh\nexec > \"$PELNAR_TEST/up\"\necho $PPID\nread -r line < "
+                                "\"$PELNAR_TEST/door\"\necho still here\nexit 1\n"));
+    InstallJob job = scene.PrepareForInstall();
+    job.environment = {"PELNAR_TEST=" + fifos.Path()};
+    scene.Host().End();
+    auto installed = std::async(std::launch::async, [&scene, &job] { return scene.Install(job); });
+    std::ifstream upFile(up); // waits for the new version
+    std::string line;
+    EXPECT_TRUE(std::getline(upFile, line));
+    int const watcher = std::stoi(line);
+    EXPECT_EQ(::kill(watcher, SIGTERM), 0);
+    EXPECT_EQ(installed.get().signal, SIGTERM);
+    std::ofstream(door) << "go\n"; // waits for the new version, which lives
+    EXPECT_TRUE(std::getline(upFile, line));
+    EXPECT_EQ(line, "still here");
+    EXPECT_FALSE(std::getline(upFile, line));
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("2.0").Find<RecoveredReport>()->action, RecoveryAction::CountedStart)
+        << "the starts that are counted do the rest";
 }
 
 TEST(WatchedStart, HelperKilledAnywhereLeavesTheRestToTheStartsThatAreCounted)

@@ -1,7 +1,11 @@
 // UpdateRunTest.cpp: the course of an update that goes well, or that somebody decides against.
 #include "tests/update/UpdateRunFixture.h"
 
+#include <QDir>
+
 #include <ostream>
+
+#include <sys/stat.h>
 
 namespace
 {
@@ -12,6 +16,7 @@ using namespace Pelnar::Engine;
 TEST_F(UpdateRunTest, PersonSeesEachStepAndTheApplicationIsAskedBeforeItIsRestarted)
 {
     host.relaunchPath = QStringLiteral("/opt/Other.app");
+    mode_t const maskBefore = ::umask(027);
     StartInteractive();
     EXPECT_EQ(Since(), Notes{"window update"});
     Agree();
@@ -23,6 +28,10 @@ TEST_F(UpdateRunTest, PersonSeesEachStepAndTheApplicationIsAskedBeforeItIsRestar
     EXPECT_EQ(Since(), Notes{"window ready"});
     windows.Choose(ReadyChoice::InstallAndRelaunch);
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "path?", "helper install"}));
+    auto const& install = std::get<InstallJob>(parts.jobs.back());
+    EXPECT_EQ(install.workingFolder, QDir::currentPath().toStdString());
+    EXPECT_EQ(install.creationMask, 027u);
+    EXPECT_EQ(::umask(maskBefore), 027u) << "it was read without a change";
     parts.Report(ProgressReport{HelperPhase::Waiting, 0, 0});
     EXPECT_EQ(Since(), Notes{"will relaunch"});
     run.reset();

@@ -176,7 +176,7 @@ bool WalkTree(int folderFd, TreeVisit const& visit)
     return true;
 }
 
-ContentHash DigestTree(int folderFd)
+ContentHash DigestTree(int folderFd, std::uint32_t bitsWithin)
 {
     TreeManifest manifest;
     uid_t const owner = ::geteuid();
@@ -187,7 +187,9 @@ ContentHash DigestTree(int folderFd)
             manifest.AddLink(path, ReadLink(parentFd, name));
             return;
         }
-        std::uint32_t const mode = status.st_mode & 07777u;
+        std::uint32_t const packed = S_ISDIR(status.st_mode) || (status.st_mode & S_IXUSR) != 0 ? 0755 : 0644;
+        std::uint32_t const present = status.st_mode & 07777u;
+        std::uint32_t const mode = present == (packed & bitsWithin) ? packed : present;
         if (status.st_uid != owner)
         {
             throw UpdateRefusal(UpdateFault::StagedTreeChanged);

@@ -40,8 +40,9 @@ private:
 };
 
 /// The hash of the tree below \a folderFd, its own folder left out. Throws UpdateRefusal: StagedTreeChanged for what an
-/// update never makes (other kinds of file, another owner), DiskError and its kin for what cannot be read.
-[[nodiscard]] ContentHash DigestTree(int folderFd);
+/// update never makes (other kinds of file, another owner), DiskError and its kin for what cannot be read. Files that
+/// have the permission bits of packed ones as far as \a bitsWithin allows them count as packed.
+[[nodiscard]] ContentHash DigestTree(int folderFd, std::uint32_t bitsWithin = 0777);
 
 /// Removes the entry \a name of the folder \a parentFd with all that is in it, and follows no link; what lies on
 /// another file system stays. True when nothing of that name is left.

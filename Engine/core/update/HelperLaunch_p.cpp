@@ -8,11 +8,13 @@
 
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <cstdlib>
 #include <string>
 #include <vector>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <signal.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -22,6 +24,9 @@ namespace Pelnar::Engine
 {
 namespace
 {
+
+/// More than the few calls between clone and exec need.
+constexpr std::size_t STACK_BYTES = std::size_t{256} << 10;
 
 [[noreturn]] void Fail(UpdateFault fault = UpdateFault::HelperUnusable)
 {
@@ -58,6 +63,7 @@ struct Launch
     std::string programPath; ///< the same, for a system that starts nothing by its descriptor
     char const* mode = nullptr;
     std::array<int, HelperDescriptors::COUNT> sources{}; ///< by number; -1: to be closed
+    int error = 0;                                       ///< an errno when the child does not become the helper
 };
 
 /// The child's life until it is the helper; an errno when it does not become one. It runs in the parent's memory, with
@@ -99,31 +105,51 @@ int Become(Launch const& launch)
     return errno;
 }
 
-/// The child's process number. Deliberate: vfork, since a fork would copy the tables of a host that may be large, and
-/// posix_spawn starts no program from a descriptor.
-pid_t Fork(Launch const& launch)
+int RunChild(void* launch)
+{
+    auto& child = *static_cast<Launch*>(launch);
+    child.error = Become(child);
+    ::_exit(EXIT_FAILURE);
+}
+
+/// The child and a pidfd of it. Deliberate: it runs in this process' memory until it is the helper, since a fork would
+/// copy the tables of a host that may be large, and posix_spawn starts no program from a descriptor. Its pidfd comes
+/// with it: a host may reap every child at once, and then the number may be another process'.
+void Fork(Launch& launch, LaunchedHelper& helper)
 {
     SignalBlock const block;
-    int volatile error = 0;
-    pid_t const child = ::vfork();
-    if (child == 0)
-    {
-        error = Become(launch);
-        ::_exit(EXIT_FAILURE);
-    }
-    if (child < 0)
+    std::vector<std::max_align_t> stack(STACK_BYTES / sizeof(std::max_align_t));
+    int process = -1;
+    helper.pid = ::clone(&RunChild, stack.data() + stack.size(), CLONE_VM | CLONE_VFORK | CLONE_PIDFD | SIGCHLD,
+                         &launch, &process);
+    if (helper.pid < 0)
     {
         throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
     }
-    if (error != 0)
+    helper.process = UniqueFd(process);
+    if (launch.error != 0)
     {
-        ::waitpid(child, nullptr, 0);
-        throw UpdateRefusal(UpdateFault::HelperUnusable, error);
+        static_cast<void>(Reap(helper.process));
+        throw UpdateRefusal(UpdateFault::HelperUnusable, launch.error);
     }
-    return child;
 }
 
 } // namespace
+
+std::optional<int> Reap(UniqueFd const& process)
+{
+    siginfo_t status{};
+    int answer = -1;
+    do
+    {
+        answer = ::waitid(static_cast<idtype_t>(P_PIDFD), static_cast<id_t>(process.Get()), &status, WEXITED);
+    } while (answer != 0 && errno == EINTR);
+    if (answer != 0)
+    {
+        return std::nullopt;
+    }
+    return status.si_code == CLD_EXITED ? status.si_status : -status.si_status;
+}
 
 void ThrowNoProcess(int errorNumber)
 {
@@ -164,15 +190,7 @@ LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::strin
     UniqueFd const programCopy = CopyHigh(program.Descriptor());
     launch.program = programCopy.Get();
     launch.programPath = "/proc/self/fd/" + std::to_string(launch.program);
-    helper.pid = Fork(launch);
-    helper.process = UniqueFd(static_cast<int>(::syscall(SYS_pidfd_open, helper.pid, 0)));
-    if (!helper.process)
-    {
-        int const error = errno;
-        ::kill(helper.pid, SIGKILL);
-        ::waitpid(helper.pid, nullptr, 0);
-        ThrowNoProcess(error);
-    }
+    Fork(launch, helper);
     return helper;
 }
 

@@ -7,6 +7,7 @@
 #include "Engine/core/update/SealedProgram.h"
 
 #include <map>
+#include <optional>
 #include <string>
 
 #include <sys/types.h>
@@ -31,5 +32,9 @@ struct LaunchedHelper
 /// descriptors: the standard streams, the job, the report and \a inherited by their numbers. Throws UpdateRefusal.
 LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::string const& job,
                             std::map<int, int> const& inherited);
+
+/// Waits for the end of a child. Its exit status, or a signal's number below zero; nothing when that is not known: a
+/// host that reaps every child, or ignores the ends of children, has taken the answer away.
+std::optional<int> Reap(UniqueFd const& process);
 
 } // namespace Pelnar::Engine

@@ -12,6 +12,7 @@
 #include <variant>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -67,23 +68,30 @@ char const* ModeOf(UpdateJob const& job)
     return MODES[job.index()];
 }
 
-/// What became of the ended child.
-HelperEnd Reap(pid_t process)
+HelperEnd EndOf(int status)
 {
-    int status = 0;
-    pid_t reaped = 0;
-    do
+    return status == 0 ? HelperEnd::Done : status == EXIT_REFUSED ? HelperEnd::Refused : HelperEnd::Crashed;
+}
+
+void WaitForEnd(UniqueFd const& process)
+{
+    pollfd ended{process.Get(), POLLIN, 0};
+    while (::poll(&ended, 1, -1) < 0 && errno == EINTR)
     {
-        reaped = ::waitpid(process, &status, 0);
-    } while (reaped < 0 && errno == EINTR);
-    // A host that reaps every child, or ignores their ends, has taken the answer away.
-    if (reaped != process || !WIFEXITED(status))
-    {
-        return HelperEnd::Crashed;
     }
-    return WEXITSTATUS(status) == 0              ? HelperEnd::Done
-           : WEXITSTATUS(status) == EXIT_REFUSED ? HelperEnd::Refused
-                                                 : HelperEnd::Crashed;
+}
+
+/// The end that a helper tells of by its last report: each mode has one.
+std::optional<HelperEnd> EndToldBy(HelperReport const& report)
+{
+    if (std::holds_alternative<RefusedReport>(report))
+    {
+        return HelperEnd::Refused;
+    }
+    bool const isDone = std::holds_alternative<PreparedReport>(report) ||
+                        std::holds_alternative<RecoveredReport>(report) ||
+                        std::holds_alternative<RehearsedReport>(report);
+    return isDone ? std::optional(HelperEnd::Done) : std::nullopt;
 }
 
 } // namespace
@@ -112,8 +120,8 @@ private:
     std::function<void(HelperReport const&)> m_report;
     std::function<void(HelperEnd)> m_ended;
     std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);
-    pid_t m_pid = -1;
-    UniqueFd m_process;
+    UniqueFd m_process;              ///< until it has been reaped
+    std::optional<HelperEnd> m_told; ///< by the last report
     UniqueFd m_reports;
     QSocketNotifier* m_reportNotifier = nullptr; // this object's child
     QSocketNotifier* m_endNotifier = nullptr;    // this object's child
@@ -135,10 +143,12 @@ HelperProcess::Impl::~Impl()
 
 void HelperProcess::Impl::Kill()
 {
-    if (m_pid > 0)
+    if (m_process)
     {
         ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
-        static_cast<void>(Reap(std::exchange(m_pid, -1)));
+        WaitForEnd(m_process);
+        static_cast<void>(Reap(m_process));
+        m_process = UniqueFd();
     }
 }
 
@@ -147,7 +157,6 @@ void HelperProcess::Impl::Start(UpdateJob const& job, HelperInheritance const& i
 {
     auto const numbers = std::visit([&inherited](auto const& kind) { return NumbersOf(kind, inherited); }, job);
     LaunchedHelper helper = LaunchHelper(*m_program, ModeOf(job), EncodeUpdateJob(job), numbers);
-    m_pid = helper.pid;
     m_process = std::move(helper.process);
     m_reports = std::move(helper.reports);
     m_report = std::move(report);
@@ -188,6 +197,7 @@ bool HelperProcess::Impl::TakeLines()
             Distrust();
             return true;
         }
+        m_told = EndToldBy(*decoded);
         auto const report = m_report; // a callback may destroy the one that is kept
         report(*decoded);
         if (witness.expired())
@@ -231,7 +241,9 @@ void HelperProcess::Impl::Finish()
             return;
         }
     }
-    HelperEnd const end = Reap(std::exchange(m_pid, -1));
+    std::optional<int> const status = Reap(m_process);
+    HelperEnd const end = status ? EndOf(*status) : m_told.value_or(HelperEnd::Crashed);
+    m_process = UniqueFd();
     auto const ended = std::move(m_ended);
     ended(m_isDistrusted ? HelperEnd::Crashed : end);
 }

@@ -3,6 +3,7 @@
 #include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/update/ProcessSurroundings.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -408,6 +409,8 @@ void UpdateRun::Relaunch()
     job.targetPath = PathBytes(m_target->path);
     job.relaunchPath = path == m_settings.bundle.path ? std::string() : RelaunchPathOf(path);
     job.environment = EnvironmentOf(environ);
+    job.workingFolder = WorkingFolder();
+    job.creationMask = CreationMask();
     // Whoever wants the new version to start waits for it.
     auto const error = HandOver(std::move(job), InstallWish::Person, Guarded(&UpdateRun::TellRelaunch));
     if (error)

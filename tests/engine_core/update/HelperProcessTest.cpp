@@ -267,6 +267,81 @@ TEST_F(HelperProcesses, MayBeDestroyedByWhatItCalls)
     EXPECT_EQ(helper, nullptr);
 }
 
+void ReapEveryChild(int)
+{
+    while (::waitpid(-1, nullptr, WNOHANG) > 0)
+    {
+    }
+}
+
+struct ReaperRow
+{
+    char const* name;
+    void (*handler)(int);
+    int flags;
+};
+
+/// Hosts that take the ends of children for themselves.
+class HostThatReaps : public HelperProcesses, public testing::WithParamInterface<ReaperRow>
+{
+protected:
+    HostThatReaps()
+    {
+        struct sigaction action
+        {
+        };
+        action.sa_handler = GetParam().handler;
+        action.sa_flags = GetParam().flags | SA_RESTART;
+        EXPECT_EQ(::sigaction(SIGCHLD, &action, &m_before), 0);
+    }
+    ~HostThatReaps() override { ::sigaction(SIGCHLD, &m_before, nullptr); }
+
+private:
+    struct sigaction m_before
+    {
+    };
+};
+
+TEST_P(HostThatReaps, IsTheSameToAHelper)
+{
+    UpdateScene scene;
+    auto const program = std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM);
+    UniqueFd const archive(::open((scene.Downloads().Path() + "/update").c_str(), O_RDONLY | O_CLOEXEC));
+    std::optional<HelperEnd> end;
+    auto const ended = [&end](HelperEnd told) { end = told; };
+    auto const report = [](HelperReport const&) {};
+    HelperProcess prepare(program);
+    prepare.Start(scene.MakePrepareJob(), {scene.StagingDescriptor(), archive.Get(), -1}, report, ended);
+    EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
+    EXPECT_EQ(end, HelperEnd::Done);
+
+    end.reset();
+    HelperProcess again(program); // the staging folder is not empty any more
+    again.Start(scene.MakePrepareJob(), {scene.StagingDescriptor(), archive.Get(), -1}, report, ended);
+    EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
+    EXPECT_EQ(end, HelperEnd::Refused);
+
+    end.reset();
+    HelperProcess recover(program);
+    recover.Start(RecoverJob{APP, "1.0"}, {-1, scene.Place().Descriptor(), -1}, report, ended);
+    EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
+    EXPECT_EQ(end, HelperEnd::Done);
+
+    ProbeScene crash("crash");
+    EXPECT_EQ(crash.RunToEnd(), HelperEnd::Crashed);
+    ProbeScene killed("wait");
+    killed.Start();
+    EXPECT_TRUE(killed.WaitForReport());
+    killed.Helper().Kill();
+    EXPECT_TRUE(killed.HasEnded());
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, HostThatReaps,
+                         testing::Values(ReaperRow{"IgnoresThem", SIG_IGN, 0},
+                                         ReaperRow{"WantsNoneKept", SIG_DFL, SA_NOCLDWAIT},
+                                         ReaperRow{"WaitsForEvery", &ReapEveryChild, 0}),
+                         [](testing::TestParamInfo<ReaperRow> const& info) { return info.param.name; });
+
 TEST_F(HelperProcesses, ProgramSwappedAfterItWasReadIsNotRun)
 {
     Workspace const place;

@@ -1,0 +1,131 @@
+#include "Installer/BundleRights.h"
+
+#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/payload/UpdateFault.h"
+
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace Pelnar::Installer
+{
+namespace
+{
+
+using Engine::UpdateFault;
+using Engine::UpdateRefusal;
+
+constexpr char ACCESS_LIST[] = "system.posix_acl_access";
+constexpr std::size_t ACCESS_LIST_MAX_BYTES = 64 * 1024; // of an attribute
+constexpr mode_t CARRIED_BITS = 03777;                   // all but the one that lends the owner's rights
+constexpr uid_t SAME_OWNER = static_cast<uid_t>(-1);
+
+std::string AccessListOf(int bundleFd)
+{
+    std::string list(ACCESS_LIST_MAX_BYTES, '\0');
+    ssize_t const count = ::fgetxattr(bundleFd, ACCESS_LIST, list.data(), list.size());
+    if (count < 0 && errno != ENODATA && errno != EOPNOTSUPP)
+    {
+        Engine::ThrowErrno(errno);
+    }
+    list.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
+    return list;
+}
+
+[[noreturn]] void Fail()
+{
+    throw UpdateRefusal(UpdateFault::RightsNotKept, errno);
+}
+
+/// Whether it makes a difference to anybody which group the files belong to.
+bool IsGroupOfUse(BundleRights const& rights)
+{
+    return ((rights.mode >> 3) & 07) != (rights.mode & 07) || !rights.accessList.empty();
+}
+
+/// What is in the bundle.
+void GiveRightsWithin(int bundleFd, BundleRights const& rights)
+{
+    mode_t const bits = BitsWithin(rights);
+    auto const give = [&](std::string const&, int folderFd, std::string const& name, struct stat const& status)
+    {
+        bool const isOfGroup = status.st_gid == rights.group;
+        if (!isOfGroup && ::fchownat(folderFd, name.c_str(), SAME_OWNER, rights.group, AT_SYMLINK_NOFOLLOW) != 0 &&
+            IsGroupOfUse(rights))
+        {
+            Fail();
+        }
+        mode_t const mode = status.st_mode & bits;
+        bool const hasMode = S_ISLNK(status.st_mode) || mode == (status.st_mode & 07777u);
+        if (!hasMode && ::fchmodat(folderFd, name.c_str(), mode, 0) != 0)
+        {
+            Fail();
+        }
+    };
+    if (!Engine::WalkTree(bundleFd, give))
+    {
+        Engine::ThrowErrno(errno);
+    }
+}
+
+} // namespace
+
+BundleRights RightsOf(int bundleFd)
+{
+    struct stat status;
+    if (::fstat(bundleFd, &status) != 0)
+    {
+        Engine::ThrowErrno(errno);
+    }
+    return {status.st_mode & CARRIED_BITS, status.st_gid, AccessListOf(bundleFd)};
+}
+
+mode_t BitsWithin(BundleRights const& rights)
+{
+    if (!rights.accessList.empty())
+    {
+        return 0777;
+    }
+    mode_t const group = (rights.mode & S_IXGRP) != 0 ? S_IRWXG : 0;
+    mode_t const others = (rights.mode & S_IXOTH) != 0 ? S_IRWXO : 0;
+    return S_IRWXU | group | others;
+}
+
+void GiveRights(int bundleFd, BundleRights const& rights)
+{
+    BundleRights const present = RightsOf(bundleFd);
+    bool const isOfGroup = present.group == rights.group;
+    bool const hasMode = present.mode == rights.mode;
+    bool const hasList = present.accessList == rights.accessList;
+    if (isOfGroup && hasMode && hasList)
+    {
+        return;
+    }
+    if (!isOfGroup || BitsWithin(rights) != 0777)
+    {
+        GiveRightsWithin(bundleFd, rights);
+    }
+    // The folder last, in this order: another owner takes bits away, and a list is a part of the mode.
+    if (!isOfGroup && ::fchown(bundleFd, SAME_OWNER, rights.group) != 0 && IsGroupOfUse(rights))
+    {
+        Fail();
+    }
+    if (::fchmod(bundleFd, rights.mode) != 0)
+    {
+        Fail();
+    }
+    if (!hasList && !rights.accessList.empty() &&
+        ::fsetxattr(bundleFd, ACCESS_LIST, rights.accessList.data(), rights.accessList.size(), 0) != 0)
+    {
+        Fail();
+    }
+    if (::syncfs(bundleFd) != 0)
+    {
+        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
+}
+
+} // namespace Pelnar::Installer

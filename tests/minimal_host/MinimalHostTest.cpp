@@ -15,6 +15,7 @@
 #include <link.h>
 
 #include <algorithm>
+#include <functional>
 
 namespace
 {
@@ -23,6 +24,19 @@ using namespace Pelnar::App;
 using namespace Pelnar::Testing;
 using Pelnar::URLKeys;
 using Pelnar::Core::Version;
+
+/// What a test does wherever the host is called.
+std::function<void()> hostHook;
+
+void Reach()
+{
+    // A copy: what the hook does may end with its own removal.
+    std::function<void()> const hook = hostHook;
+    if (hook)
+    {
+        hook();
+    }
+}
 
 class NagScreens : public NagScreen::Manager
 {
@@ -37,8 +51,16 @@ public:
 class Names : public ICustomizationManager
 {
 public:
-    std::string GetDisplayName() const override { return "Minimal"; }
-    Version GetApplicationVersion() const override { return Version(5, 9); }
+    std::string GetDisplayName() const override
+    {
+        Reach();
+        return "Minimal";
+    }
+    Version GetApplicationVersion() const override
+    {
+        Reach();
+        return Version(5, 9);
+    }
     std::string GetBundleNameFirstPart() const override { return "First"; }
     std::string GetBundleNameSecondPart() const override { return "Second"; }
 };
@@ -46,7 +68,11 @@ public:
 class Links : public ILinksManager
 {
 public:
-    QString GetLink(URLKeys) const override { return feed; }
+    QString GetLink(URLKeys) const override
+    {
+        Reach();
+        return feed;
+    }
     QString feed;
 };
 
@@ -54,7 +80,11 @@ class Host : public Application
 {
 public:
     using Application::Application;
-    std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const override { return nagScreens; }
+    std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const override
+    {
+        Reach();
+        return nagScreens;
+    }
     std::shared_ptr<ICustomizationManager> GetCustomizationManager() const override { return names; }
     std::shared_ptr<ILinksManager> GetLinksManager() const override { return links; }
     bool TryToQuit() override { return false; }
@@ -70,6 +100,7 @@ public:
     void OnUpdateFound(Version const& current, Version const& remote) override
     {
         found = {current.Major(), current.Minor(), remote.Major(), remote.Minor()};
+        Reach();
     }
     void OnUpdateAccepted(Version const&, Version const&) override {}
     void OnUpdateDialogOpening() override {}
@@ -150,6 +181,36 @@ TEST_F(MinimalHost, WhatOnlyAnotherParserTakesIsNoVersion)
     Check("v5.12", "5.11");
     EXPECT_TRUE(listener.found.empty());
     EXPECT_TRUE(std::count(AskedVersions().begin(), AskedVersions().end(), QStringLiteral("5.11"))) << "it was asked";
+}
+
+TEST_F(MinimalHost, ParentThatGoesWhereverTheHostIsCalledLeavesTheNextCheckItsTurn)
+{
+    int places = 0;
+    for (bool isReached = true; isReached; ++places)
+    {
+        SCOPED_TRACE(places);
+        isReached = false;
+        auto parent = std::make_unique<QObject>();
+        int calls = 0;
+        hostHook = [&]
+        {
+            if (calls++ == places)
+            {
+                isReached = true;
+                parent.reset();
+                EXPECT_EQ(UpdateManager::GetCurrentUpdateManager(), nullptr);
+            }
+        };
+        UpdateManager::Initializer initializer(parent.get());
+        initializer.checkMode = UpdateCheckMode::Silent;
+        initializer.observers = {&listener};
+        Run("v5.12", "v5.11", initializer);
+        hostHook = nullptr;
+        listener.found.clear();
+        Check("v5.12", "v5.11");
+        EXPECT_EQ(listener.found, (std::vector<int>{5, 9, 5, 11})) << "the session is free";
+    }
+    EXPECT_EQ(places, 7) << "nag screens, name, link, version; version and observer when there is a result; none";
 }
 
 TEST_F(MinimalHost, ItsNagScreensAnnounceAMajorUpdate)

@@ -161,6 +161,12 @@ LINE_RULES = [
         "no product code runs a shell",
     ),
     (
+        "raised-rights",
+        lambda p: p.startswith(PRODUCT_FOLDERS),
+        re.compile(r"\"(?:[\w./]*/)?(?:sudo|su|doas|pkexec|kdesu|gksu)\"|\bset(?:re|res)?[ug]id\s*\("),
+        "no product code asks for another user's rights: a bundle that this user may not change is told of",
+    ),
+    (
         "sleep-in-test",
         lambda p: p.startswith("tests/"),
         re.compile(r"\bsleep_for\b|\busleep\s*\(|\bQThread::m?sleep\b|\bQTest::qSleep\b"),
@@ -268,6 +274,9 @@ def self_test():
         ("shell", "Installer/X.cpp", 'system("ls");'),
         ("shell", "Installer/X.cpp", 'int const answer = ::system("ls");'),
         ("shell", "Installer/X.cpp", 'if (std::system("ls"))'),
+        ("raised-rights", "Installer/X.cpp", 'StartProgram({"/usr/bin/pkexec", program});'),
+        ("raised-rights", "Engine/core/X.cpp", 'process.start(QStringLiteral("sudo"), words);'),
+        ("raised-rights", "Installer/X.cpp", "    ::setresuid(0, 0, 0);"),
         ("sleep-in-test", "tests/app/X.cpp", "QThread::msleep(5);"),
         ("left-over", "common/X.cpp", "// TODO later"),
         ("header-opening", "common/X.h", "#pragma once"),

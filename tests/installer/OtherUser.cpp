@@ -74,18 +74,32 @@ void GiveTo(uid_t user, std::string const& path)
     }
 }
 
-void FailCall(long call, int errorNumber)
+namespace
 {
-    auto const answer = static_cast<unsigned>(errorNumber);
+
+void Filter(long call, unsigned answer)
+{
     sock_filter rules[] = {
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
         BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, static_cast<unsigned>(call), 0, 1),
-        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | (answer & SECCOMP_RET_DATA)),
+        BPF_STMT(BPF_RET | BPF_K, answer),
         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
     };
     sock_fprog const program{std::size(rules), rules};
     EXPECT_EQ(::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0), 0);
     EXPECT_EQ(::prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program), 0);
+}
+
+} // namespace
+
+void FailCall(long call, int errorNumber)
+{
+    Filter(call, SECCOMP_RET_ERRNO | (static_cast<unsigned>(errorNumber) & SECCOMP_RET_DATA));
+}
+
+void KillAtCall(long call)
+{
+    Filter(call, SECCOMP_RET_KILL_PROCESS);
 }
 
 } // namespace Pelnar::Testing

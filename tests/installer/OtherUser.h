@@ -29,6 +29,9 @@ void GiveTo(uid_t user, std::string const& path);
 /// From here on the system call of this process, and of all that it starts, fails. For processes that end soon.
 void FailCall(long call, int errorNumber);
 
+/// The same, but who makes the call is killed by SIGSYS.
+void KillAtCall(long call);
+
 } // namespace Pelnar::Testing
 
 #define REQUIRE_ADMINISTRATOR_FOR_USERS()                                                                              \

@@ -131,6 +131,22 @@ TEST_F(UpdateRunTest, ArchiveIsDiscardedWhenItIsToBlame)
     }
 }
 
+/// The room was there before the download, and is not any more.
+TEST_F(UpdateRunTest, LackOfRoomWhileItIsUnpackedIsToldInNumbers)
+{
+    FeedItem item = Item("5.1");
+    item.contentLength = quint64{1} << 50;
+    Start(CheckKind::Interactive, {{item, {0, std::nullopt}}});
+    Agree();
+    parts.FinishDownload();
+    parts.RefusePreparation(UpdateFault::NoSpace);
+    ASSERT_TRUE(end && end->error);
+    EXPECT_EQ(end->error->cause, ErrorCause::NoRoomForUpdate);
+    QString const sentence = end->error->sentence.English();
+    EXPECT_TRUE(sentence.contains(QStringLiteral("it needs 3.4 PB, and "))) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(QStringLiteral(" are free"))) << sentence.toStdString();
+}
+
 TEST_F(UpdateRunTest, CrashedHelperIsAnErrorOfItsOwn)
 {
     for (HelperEnd const how : {HelperEnd::Crashed, HelperEnd::Done, HelperEnd::Refused})

@@ -183,6 +183,13 @@ EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int 
     return error;
 }
 
+EngineError WithRoom(EngineError const& error, InstallTarget const& target, quint64 neededBytes)
+{
+    bool const isForRoom = error.cause == ErrorCause::Fault && error.fault == UpdateFault::NoSpace;
+    auto const lack = isForRoom ? LackOfRoom(target, neededBytes) : std::nullopt;
+    return lack.value_or(error);
+}
+
 OpenedTarget OpenInstalledBundle(QString const& bundlePath)
 {
     std::string path = PathBytes(bundlePath);

@@ -36,4 +36,7 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
 /// What a fault before the download is to a person who wants to know where the application is installed.
 EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int errorNumber);
 
+/// \a error; in the numbers of the disk when it is for want of room there.
+EngineError WithRoom(EngineError const& error, InstallTarget const& target, quint64 neededBytes);
+
 } // namespace Pelnar::Engine

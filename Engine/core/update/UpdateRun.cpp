@@ -185,12 +185,15 @@ void UpdateRun::Prepare(UniqueFd archive)
 
 void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
 {
-    m_preparation.reset();
     if (auto const* const error = std::get_if<EngineError>(&outcome))
     {
-        FailCandidate(*error);
+        // While the disk still holds what did fit.
+        EngineError const told = WithRoom(*error, *m_target, NeededBytes(m_candidates));
+        m_preparation.reset();
+        FailCandidate(told);
         return;
     }
+    m_preparation.reset();
     m_prepared = std::get<std::unique_ptr<PreparedUpdate>>(std::move(outcome));
     m_phase = Phase::Ready;
     if (HasWindows())

@@ -15,6 +15,7 @@
 #include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
@@ -59,12 +60,27 @@ public:
         EXPECT_EQ(told.code,
                   cause == ErrorCause::NoRoomForUpdate ? ErrorCode::TemporaryFolder : ErrorCode::NotWritable);
         EXPECT_FALSE(told.sentence.English().contains(QLatin1Char('%'))) << told.sentence.English().toStdString();
+        EXPECT_EQ(CauseWithoutPrograms(path, neededBytes), std::to_string(static_cast<int>(cause)));
         return told;
     }
 
     PackageSources& Sources() { return m_sources; }
 
 private:
+    /// The cause, found out by a process that would die if it started a program: nobody is asked for more rights.
+    std::string CauseWithoutPrograms(std::string const& path, quint64 neededBytes) const
+    {
+        return InChild(
+            [&]
+            {
+                KillAtCall(SYS_execve);
+                KillAtCall(SYS_execveat);
+                auto const answer = Open(path.empty() ? Bundle() : path, neededBytes);
+                auto const* const error = std::get_if<EngineError>(&answer);
+                return error ? std::to_string(static_cast<int>(error->cause)) : std::string("opened");
+            });
+    }
+
     Workspace m_place;
     PackageSources m_sources;
 };
@@ -141,6 +157,36 @@ TEST(InstallTarget, LinkAboveItIsFollowedOnce)
     auto const answer = scene.Open(link + '/' + APP);
     ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer));
     EXPECT_EQ(std::get<InstallTarget>(answer).path.toStdString(), scene.Bundle());
+}
+
+/// What was opened through a link is what is updated, wherever the link leads by then.
+TEST(InstallTarget, LinkAboveItThatIsTurnedLaterLeadsNowhereElse)
+{
+    UpdateScene scene;
+    Workspace const other;
+    other.Put(MakeBundle("1.0"));
+    Workspace const links;
+    std::string const link = links.Path() + "/link";
+    ASSERT_EQ(::symlink(scene.Place().Path().c_str(), link.c_str()), 0);
+    PackageSources sources;
+    sources.dpkgInfoFolder = QStringLiteral("/nonexistent");
+    auto const opened = OpenInstallTarget(PathText(link + '/' + APP), 1, sources);
+    auto const* const target = std::get_if<InstallTarget>(&opened);
+    ASSERT_NE(target, nullptr);
+    InstallJob job = scene.PrepareForInstall();
+    job.targetPath = PathBytes(target->path);
+    scene.Host().End();
+    ASSERT_EQ(::unlink(link.c_str()), 0);
+    ASSERT_EQ(::symlink(other.Path().c_str(), link.c_str()), 0);
+    HelperOutcome const outcome = RunHelper("install", EncodeUpdateJob(job),
+                                            {{HelperDescriptors::PARENT, target->parent.Get()},
+                                             {HelperDescriptors::STAGING, scene.StagingDescriptor()},
+                                             {HelperDescriptors::HOST, scene.Host().ProcessDescriptor()}});
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_EQ(outcome.output, "2.0|" + scene.Place().Path() + '/' + APP + "/run|0|\n");
+    EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+    EXPECT_EQ(other.Names(), std::vector<std::string>{APP});
+    EXPECT_EQ(other.StartedVersion(), "1.0");
 }
 
 TEST(InstallTarget, NamesMayHoldAnythingThatCanBeWritten)

@@ -16,6 +16,7 @@
 #include <signal.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -354,5 +355,47 @@ INSTANTIATE_TEST_SUITE_P(Table, ForeignNames,
                                          SquatRow{"NoteFolder", &FailedVersionName, "", true},
                                          SquatRow{"LockFolder", &LockFileName, "", true}),
                          [](testing::TestParamInfo<SquatRow> const& info) { return info.param.name; });
+
+/// Another user foresees every name that the helper is about to make, while it may still write to the folder. Wherever
+/// that is, the folder is not used: none of it is the other user's to give.
+TEST(StagingNames, TakenByAnotherUserBeforehandAreLeftAlone)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    UpdateScene scene;
+    scene.Host().End();
+    std::vector<std::string> taken;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        std::string const name = stop.call == SYS_mkdirat ? PathArgument(stop, 1) : std::string();
+        if (name.rfind(UpdateFilePrefix(APP), 0) == 0 && taken.size() < 3)
+        {
+            taken.push_back(name);
+            std::string const path = scene.Place().Path() + '/' + name;
+            PutEvilStaging(path);
+            GiveTo(ATTACKER, path);
+            EXPECT_EQ(::chmod(path.c_str(), 0777), 0);
+        }
+        return CallVerdict::GoOn();
+    };
+    UniqueFd const host(static_cast<int>(::syscall(SYS_pidfd_open, ::getpid(), 0)));
+    HelperOutcome const outcome = RunHelper("rehearse", EncodeUpdateJob(RehearseJob{APP}),
+                                            {{HelperDescriptors::PARENT, scene.Place().Descriptor()},
+                                             {HelperDescriptors::STAGING, scene.StagingDescriptor()},
+                                             {HelperDescriptors::HOST, host.Get()}},
+                                            start);
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    ASSERT_EQ(taken.size(), 3u);
+    for (std::string const& name : taken)
+    {
+        EXPECT_EQ(scene.Place().Names(name), std::vector<std::string>{APP}) << "nothing was put there or taken";
+        EXPECT_TRUE(std::filesystem::exists(scene.Place().Path() + '/' + name + '/' + APP + "/run"));
+    }
+    // Nor is any of them tidied away, or believed, later.
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("1.0").exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names().size(), taken.size() + 1);
+    EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
+}
 
 } // namespace

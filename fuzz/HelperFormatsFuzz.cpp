@@ -53,6 +53,10 @@ void CheckJob(std::string_view bytes)
     {
         Require(IsName(recover->targetName));
     }
+    if (auto const* rehearse = std::get_if<RehearseJob>(&*job))
+    {
+        Require(IsName(rehearse->targetName));
+    }
 }
 
 void CheckJournal(std::string_view bytes)

@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace
@@ -107,6 +108,26 @@ TEST(Install, NothingHappensWhileTheHostLives)
     scene.Host().End();
     EXPECT_EQ(scene.Install(job).exitStatus, 0); // what was prepared is still good
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+}
+
+TEST(Install, WaitingHelperIsOfASessionOfItsOwn)
+{
+    UpdateScene scene;
+    InstallJob job = scene.PrepareForInstall();
+    job.waitSeconds = 1;
+    int waits = 0;
+    HelperStart start;
+    start.atEveryCall = [&waits](CallStop const& stop)
+    {
+        if (stop.call == SYS_poll)
+        {
+            ++waits;
+            EXPECT_EQ(::getsid(stop.process), stop.process);
+        }
+        return CallVerdict::GoOn();
+    };
+    EXPECT_EQ(scene.Install(job, start).Fault(), UpdateFault::HostStillRunning);
+    EXPECT_GT(waits, 0);
 }
 
 TEST(Install, OnlyAProcessCanBeWaitedFor)

@@ -2,6 +2,7 @@
 // before all of its processes are killed at once. The default run takes a sample of the places; with
 // PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
+#include "Engine/core/payload/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Sanitizers.h"
 
@@ -11,6 +12,8 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <fstream>
+#include <iterator>
 #include <map>
 #include <numeric>
 #include <set>
@@ -418,22 +421,84 @@ TEST(Durability, PreparationThatCouldNotBeSyncedIsThrownAwayAndNeverTriedAgain)
     ExpectRecovered(subject.scene, versions);
 }
 
-TEST(Durability, SwapThatCouldNotBeSyncedIsUndoneAndTheStagedBundleThrownAway)
+class UnsyncedSwap : public testing::TestWithParam<Step>
+{
+};
+
+TEST_P(UnsyncedSwap, IsUndoneAndTheStagedBundleThrownAway)
 {
     Versions const versions;
+    // Of the journal, its folder, the staging folder, the bundle's folder.
     for (int nth = 1; nth <= 4; ++nth)
     {
         SCOPED_TRACE(nth);
-        Subject subject(Step::Installation, InstallOutcome::NotKept);
+        Subject subject(GetParam(), InstallOutcome::NotKept);
         int syncs = 0;
         HelperOutcome const outcome = subject.Run(
             [&syncs, nth](CallStop const& stop)
             { return stop.call == SYS_fsync && ++syncs == nth ? CallVerdict::Fail(EIO) : CallVerdict::GoOn(); });
+        EXPECT_GE(syncs, nth);
         EXPECT_EQ(outcome.Fault(), UpdateFault::SyncFailed);
         EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
         EXPECT_EQ(ExpectWhole(subject.scene, versions), "1.0");
+        EXPECT_EQ(outcome.output.substr(0, 3), "1.0");
         EXPECT_EQ(subject.scene.Place().Names(), std::vector<std::string>{APP});
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(Steps, UnsyncedSwap, testing::Values(Step::Installation, Step::InstallationWithoutExchange),
+                         [](testing::TestParamInfo<Step> const& info) { return StepName(info.param); });
+
+/// The undoing is what does it, and not the recovery that follows: that one finds nothing to put back.
+TEST(Durability, TwoRenamesThatCouldNotBeSyncedAreUndoneByTwoRenames)
+{
+    Versions const versions;
+    for (int nth = 3; nth <= 4; ++nth)
+    {
+        SCOPED_TRACE(nth);
+        Subject subject(Step::InstallationWithoutExchange, InstallOutcome::NotKept);
+        int syncs = 0;
+        std::string order;
+        subject.Run(
+            [&](CallStop const& stop)
+            {
+                bool const isBehindFault = syncs >= nth;
+                if (isBehindFault && stop.call == SYS_renameat)
+                {
+                    order += PathArgument(stop, 1) + '>' + PathArgument(stop, 3) + ' ';
+                }
+                return stop.call == SYS_fsync && ++syncs == nth ? CallVerdict::Fail(EIO) : CallVerdict::GoOn();
+            });
+        std::string const app = APP;
+        EXPECT_EQ(order, app + '>' + app + ' ' + PREVIOUS_BUNDLE_NAME + '>' + app + ' ');
+        EXPECT_EQ(ExpectWhole(subject.scene, versions), "1.0");
+    }
+}
+
+/// What a program that the helper started, or became, could gain by a bit in its file's mode is gone before a byte of
+/// the archive is unpacked.
+TEST(Confinement, GivesUpNewPrivilegesBeforeTheArchiveIsRead)
+{
+    Subject subject(Step::Preparation);
+    std::string const archive = subject.scene.Downloads().Path() + "/update";
+    int reads = 0;
+    subject.Run(
+        [&](CallStop const& stop)
+        {
+            bool const isReading =
+                (stop.call == SYS_pread64 || stop.call == SYS_read || stop.call == SYS_mmap ||
+                 stop.call == SYS_mkdirat || stop.call == SYS_syncfs) &&
+                (stop.call == SYS_mkdirat || stop.call == SYS_syncfs || DescriptorPath(stop) == archive);
+            if (isReading)
+            {
+                ++reads;
+                std::ifstream status("/proc/" + std::to_string(stop.process) + "/status");
+                std::string const text(std::istreambuf_iterator<char>(status), {});
+                EXPECT_NE(text.find("NoNewPrivs:\t1"), std::string::npos) << CallName(stop.call);
+            }
+            return CallVerdict::GoOn();
+        });
+    EXPECT_GT(reads, 2);
 }
 
 } // namespace

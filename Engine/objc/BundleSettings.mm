@@ -29,12 +29,13 @@ namespace
 
 constexpr long long MAX_FEED_BYTES = 1LL << 30;
 
-/// Records on their way to the disk, which a check that begins meanwhile must not miss.
+/// A record on its way to the disk, which a check that begins meanwhile must not miss.
 struct WaitingRecord
 {
     std::mutex mutex;
     std::optional<FeedRecord> record;
-    int writes = 0;
+    bool isNew = false; ///< not taken by who writes
+    bool isBeingWritten = false;
 };
 
 WaitingRecord& Waiting()
@@ -258,6 +259,27 @@ FeedRecord ReadEarlierFeedRecord()
     return record;
 }
 
+/// One after the other, until none is new: a slow disk makes no crowd of writers.
+void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
+{
+    WaitingRecord& waiting = Waiting();
+    std::unique_lock lock(waiting.mutex);
+    bool isKept = false;
+    while (std::exchange(waiting.isNew, false))
+    {
+        FeedRecord const record = *waiting.record;
+        lock.unlock();
+        isKept = KeepFeedRecordFile(path, earlier, record);
+        lock.lock();
+    }
+    waiting.isBeingWritten = false;
+    // What no disk keeps is remembered as long as the process lives.
+    if (isKept)
+    {
+        waiting.record.reset();
+    }
+}
+
 /// Beside the user defaults, but not in them: those are named after the program, and writing them takes the disk's time.
 QString RecordPath()
 {
@@ -396,19 +418,13 @@ void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores)
     {
         std::lock_guard const lock(waiting.mutex);
         waiting.record = waiting.record ? FeedRecordToKeep(*waiting.record, ours) : ours;
-        ++waiting.writes;
-    }
-    chores.Run(
-        [&waiting, ours, path = RecordPath(), earlier = ReadEarlierFeedRecord()]
+        waiting.isNew = true;
+        if (std::exchange(waiting.isBeingWritten, true))
         {
-            bool const isKept = KeepFeedRecordFile(path, earlier, ours);
-            std::lock_guard const lock(waiting.mutex);
-            // What no disk keeps is remembered as long as the process lives.
-            if (--waiting.writes == 0 && isKept)
-            {
-                waiting.record.reset();
-            }
-        });
+            return; // who writes takes this one next
+        }
+    }
+    chores.Run([path = RecordPath(), earlier = ReadEarlierFeedRecord()] { WriteWaitingRecords(path, earlier); });
 }
 
 } // namespace Pelnar::Engine

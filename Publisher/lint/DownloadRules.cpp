@@ -56,10 +56,19 @@ void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindin
         findings.Add(LintRule::AddressInternational, place,
                      QStringLiteral("the host is %1").arg(url.host(QUrl::FullyEncoded)));
     }
-    if (url.toEncoded().size() > MAX_ADDRESS_CHARACTERS)
+}
+
+/// Of an address that clients take for none.
+void CheckMissingAddress(LintDownload const& download, QUrl const& feed, LintFindings& findings)
+{
+    QString const text = download.enclosure ? download.enclosure->PlainAttribute("url").value_or(QString()) : QString();
+    if (feed.resolved(QUrl(text.trimmed())).toEncoded().size() > MAX_ADDRESS_CHARACTERS)
     {
-        findings.Add(LintRule::AddressTooLong, place, text);
+        findings.Add(LintRule::AddressTooLong, download.Place(), Shortened(text));
+        return;
     }
+    findings.Add(LintRule::AddressMissing, download.Place(),
+                 NameOf(*download.item) + QStringLiteral(" has no valid address"));
 }
 
 void CheckLength(LintDownload const& download, LintFindings& findings)
@@ -148,8 +157,7 @@ void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings&
     QUrl const& url = download.item->fileUrl;
     if (url.isEmpty())
     {
-        findings.Add(LintRule::AddressMissing, download.Place(),
-                     NameOf(*download.item) + QStringLiteral(" has no valid address"));
+        CheckMissingAddress(download, feed, findings);
     }
     else
     {

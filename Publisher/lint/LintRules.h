@@ -60,7 +60,7 @@ char const* SeverityName(Severity severity);
     RULE(AddressHost, "address-host", Error, "An address has no host.", "write the whole address, such as https://dl.example.com/app.zip") \
     RULE(AddressCredentials, "address-credentials", Warning, "An address has a user name or a password in it.", "remove them; everybody can read the feed") \
     RULE(AddressInternational, "address-international", Note, "A host has letters beyond ASCII, which can look like those of another name.", "use a host name in plain ASCII") \
-    RULE(AddressTooLong, "address-too-long", Warning, "An address is longer than 8192 characters; servers refuse such requests.", "shorten it") \
+    RULE(AddressTooLong, "address-too-long", Error, "An address is longer than 8192 characters; clients take it for none.", "shorten it") \
     RULE(LengthMissing, "length-missing", Error, "An enclosure has no length, so that no client takes it.", "give the file's size in bytes as length") \
     RULE(LengthZero, "length-zero", Error, "A length is 0, so that no client takes the enclosure.", "give the file's size in bytes as length") \
     RULE(LengthUnreadable, "length-unreadable", Error, "A length is not a decimal number, so that it counts as 0.", "give the file's size in bytes, digits only") \

@@ -7,7 +7,9 @@
 #include <QTemporaryDir>
 #include <QTemporaryFile>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace
 {
@@ -33,6 +35,7 @@ protected:
         {
             CheckARound();
         }
+        WaitForWriters();
     }
 
     int TemporaryFiles() const
@@ -56,6 +59,19 @@ private:
         Unreadable,
         NoServer,
     };
+
+    /// What the checks leave to be written is written beside them.
+    static void WaitForWriters()
+    {
+        EXPECT_TRUE(WaitFor(
+            []
+            {
+                ProcessFootprint const now = MeasureFootprint();
+                return std::none_of(now.descriptors.begin(), now.descriptors.end(),
+                                    [](std::string const& path)
+                                    { return path.find("PelnarFeeds") != std::string::npos; });
+            }));
+    }
 
     /// Every way for a check to end takes its turn. A check in the background that fails holds the next ones back:
     /// those find nothing. With a driver and a server of its own: what these two remember of a round goes with it.

@@ -3,6 +3,7 @@
 #include "Engine/core/check/FeedRecordFile.h"
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/SignedFeedText.h"
+#include "tests/support/ProcessFootprint.h"
 
 #include <Pelnar/FeedAge.h>
 
@@ -41,9 +42,11 @@ protected:
     /// What the file says of the feed; it may still be on its way to the disk.
     static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
 
-    static void WaitForSerial(qint64 serial)
+    /// And for the end of whoever has written it.
+    void WaitForSerial(qint64 serial) const
     {
         EXPECT_TRUE(WaitFor([serial] { return KeptRecord() && KeptRecord()->serial == serial; })) << serial;
+        EXPECT_TRUE(WaitFor([this] { return MeasureFootprint().threads <= threadsBefore; }));
     }
 
     static void WriteFile(QByteArray const& bytes)
@@ -82,6 +85,7 @@ protected:
 
     void WriteRecord(QByteArray const& entries) { SpoilDefaults(RecordOf(entries)); }
 
+    int const threadsBefore = MeasureFootprint().threads;
     QByteArray answer;
     std::function<void()> beforeAnswer;
     LoopbackServer server{[this](QSslSocket& socket, QByteArray const&, int)

@@ -6,6 +6,7 @@
 #include "tests/archives/Packers.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"
+#include "tests/support/JapaneseLocale.h"
 
 #include <gtest/gtest.h>
 

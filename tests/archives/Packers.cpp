@@ -146,20 +146,4 @@ std::string Pack(Packer const& packer, std::string const& parent, std::string co
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 
-std::vector<std::string> JapaneseVariables()
-{
-    static Workspace const place;
-    static bool const isMade = []
-    {
-        QProcess process;
-        process.start(QStringLiteral("localedef"),
-                      {QStringLiteral("-i"), QStringLiteral("ja_JP"), QStringLiteral("-f"), QStringLiteral("EUC-JP"),
-                       QString::fromStdString(place.Path() + "/ja_JP.eucJP")});
-        return process.waitForFinished(PATIENCE_MS) && process.exitStatus() == QProcess::NormalExit &&
-               process.exitCode() == 0;
-    }();
-    return isMade ? std::vector<std::string>{"LOCPATH=" + place.Path(), "LC_ALL=ja_JP.eucJP"}
-                  : std::vector<std::string>();
-}
-
 } // namespace Pelnar::Testing

@@ -31,8 +31,4 @@ std::vector<Packer> const& Packers();
 std::string Pack(Packer const& packer, std::string const& parent, std::string const& name,
                  std::vector<std::string> const& variables);
 
-/// Variables under which programs find the locale ja_JP.eucJP, made once for this process; nothing where the system has
-/// no sources of locales.
-std::vector<std::string> JapaneseVariables();
-
 } // namespace Pelnar::Testing

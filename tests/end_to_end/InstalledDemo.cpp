@@ -324,6 +324,12 @@ void InstalledDemo::Start(QProcess& process, QString const& feed, QStringList co
     environment.insert(QStringLiteral("SSL_CERT_FILE"), Published("authority.pem"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
     environment.insert(QStringLiteral("PELNAR_DEMO_OPTIONS"), QStringLiteral("--scenario start"));
+    for (std::string const& variable : m_variables)
+    {
+        std::size_t const equals = variable.find('=');
+        environment.insert(QString::fromStdString(variable.substr(0, equals)),
+                           QString::fromStdString(variable.substr(equals + 1)));
+    }
     process.setProcessEnvironment(environment);
     process.start(Path("Applications/PelnarDemo.app/PelnarDemo"),
                   QStringList{QStringLiteral("--feed"), feed, QStringLiteral("--screenshot-dir"), Path("pictures")} +

@@ -84,6 +84,8 @@ public:
     void AddInformation(QByteArray const& entries);
     /// Gives the folder that holds the bundle another name, of any bytes; a link keeps the one before.
     void MoveApplications(std::string const& name) const;
+    /// Adds "NAME=value" to what the application finds in its environment.
+    void SetVariables(std::vector<std::string> const& variables) { m_variables = variables; }
     /// Sets the old-style property list \a text as the user defaults of the application.
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.
@@ -114,6 +116,7 @@ private:
     QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 
     QTemporaryDir m_folder;
+    std::vector<std::string> m_variables;
 };
 
 /// The hashes of the bundles as they were published.

@@ -2,6 +2,7 @@
 // server and the version that runs afterwards. The demo application makes the checks, through UpdateManager, and the
 // clicks.
 #include "tests/end_to_end/UpdateScenario.h"
+#include "tests/support/JapaneseLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,31 @@ INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
                                          FolderName{"QuotesAndALinesEnd", "it's \"one\"\nfolder"},
                                          FolderName{"BeyondAscii", "\xc3\xa4\xe2\x82\xac"}),
                          [](testing::TestParamInfo<FolderName> const& info) { return info.param.name; });
+
+/// The published bundles hold names beyond ASCII, and here the application stands under one.
+TEST_F(UpdateScenario, AnApplicationOfAnyLocaleIsUpdatedToNamesAsTheyAre)
+{
+    std::vector<std::vector<std::string>> locales{{"LC_ALL=C"}, {"LC_ALL=", "LANG=POSIX"}};
+    if (std::vector<std::string> const japanese = JapaneseVariables(); !japanese.empty())
+    {
+        locales.push_back(japanese);
+    }
+    for (std::vector<std::string> const& variables : locales)
+    {
+        for (char const* const feed : {WHOLE_FEED, DELTA_FEED})
+        {
+            SCOPED_TRACE(variables.back() + ' ' + feed);
+            InstalledDemo application;
+            application.SetVariables(variables);
+            application.MoveApplications(u8"\u00e4 \u304b\u3099");
+            UpdateServer server;
+            DemoOutput const output =
+                application.Run(server.Url(QString::fromLatin1(feed)), Script("user", "update", {INSTALL, RELAUNCH}));
+            EXPECT_TRUE(output.hasEnded) << output.Text();
+            EXPECT_TRUE(application.Tree() == NewTree()) << output.Text();
+        }
+    }
+}
 
 TEST_F(UpdateScenario, ASilentDownloadEndsInTheDialogAndTheNewVersionRuns)
 {

@@ -46,20 +46,25 @@ QByteArray CertificateName(QUrl const& url)
     return name;
 }
 
-/// Of the mark that a connection bears once the server has ended it.
+/// Whether the server has ended a connection: shared by the connection and the request that asks.
+using Goodbye = std::shared_ptr<bool>;
+
 int GoodbyeIndex()
 {
-    static int const index = SSL_get_ex_new_index(0, nullptr, nullptr, nullptr, nullptr);
+    auto const release = [](void*, void* goodbye, CRYPTO_EX_DATA*, int, long, void*)
+    { delete static_cast<Goodbye*>(goodbye); };
+    static int const index = SSL_get_ex_new_index(0, nullptr, nullptr, nullptr, release);
     return index;
 }
 
-/// OpenSSL's own record of it does not outlive libcurl's closing of the connection.
+/// OpenSSL's own record of it does not outlive libcurl's closing of the connection, and nothing else may: libcurl frees
+/// then what the connection reads with.
 void NoteGoodbye(SSL const* connection, int where, int alert)
 {
-    if ((where & SSL_CB_READ_ALERT) == SSL_CB_READ_ALERT && (alert & 0xff) == SSL_AD_CLOSE_NOTIFY)
+    auto* const goodbye = static_cast<Goodbye*>(SSL_get_ex_data(connection, GoodbyeIndex()));
+    if (goodbye && (where & SSL_CB_READ_ALERT) == SSL_CB_READ_ALERT && (alert & 0xff) == SSL_AD_CLOSE_NOTIFY)
     {
-        static char mark;
-        SSL_set_ex_data(const_cast<SSL*>(connection), GoodbyeIndex(), &mark);
+        **goodbye = true;
     }
 }
 
@@ -229,25 +234,42 @@ long CurlRequest::Number(CURLINFO info) const
     return number;
 }
 
-void CurlRequest::HoldSecureConnection()
+void CurlRequest::WatchSecureConnection()
 {
-    curl_tlssessioninfo* session = nullptr;
-    curl_easy_getinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
-    SSL* const connection = session ? static_cast<SSL*>(session->internals) : nullptr;
-    if (connection && SSL_up_ref(connection) == 1)
+    SSL* const connection = SecureConnection();
+    if (!connection)
     {
-        m_connection.reset(connection, &SSL_free);
+        return;
+    }
+    if (auto const* const known = static_cast<Goodbye*>(SSL_get_ex_data(connection, GoodbyeIndex())))
+    {
+        m_hasSaidGoodbye = *known;
+        return;
+    }
+    m_hasSaidGoodbye = std::make_shared<bool>(false);
+    auto goodbye = std::make_unique<Goodbye>(m_hasSaidGoodbye);
+    if (SSL_set_ex_data(connection, GoodbyeIndex(), goodbye.get()) == 1)
+    {
+        static_cast<void>(goodbye.release()); // the connection's
     }
 }
 
 bool CurlRequest::HasSecureBytes() const
 {
-    return m_connection && SSL_pending(m_connection.get()) > 0;
+    SSL* const connection = SecureConnection();
+    return connection && SSL_pending(connection) > 0;
 }
 
 bool CurlRequest::HasSaidGoodbye() const
 {
-    return m_connection && SSL_get_ex_data(m_connection.get(), GoodbyeIndex()) != nullptr;
+    return m_hasSaidGoodbye && *m_hasSaidGoodbye;
+}
+
+SSL* CurlRequest::SecureConnection() const
+{
+    curl_tlssessioninfo* session = nullptr;
+    curl_easy_getinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    return session ? static_cast<SSL*>(session->internals) : nullptr;
 }
 
 } // namespace Pelnar::Engine

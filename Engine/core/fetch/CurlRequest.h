@@ -30,9 +30,9 @@ public:
     /// What libcurl says of its last failure.
     QString Text() const { return QString::fromUtf8(m_text.data()); }
     long Number(CURLINFO info) const;
-    /// Keeps the secure connection in mind. REQUIRES: called by one of the handle's callbacks.
-    void HoldSecureConnection();
-    /// True when OpenSSL has bytes of that connection that nobody has taken.
+    /// Watches for the server's end of the secure connection. REQUIRES: called by one of the handle's callbacks.
+    void WatchSecureConnection();
+    /// True when OpenSSL has bytes of that connection that nobody has taken. REQUIRES: called by one of the callbacks.
     [[nodiscard]] bool HasSecureBytes() const;
     /// True when the server has said that nothing more comes over that connection.
     [[nodiscard]] bool HasSaidGoodbye() const;
@@ -44,6 +44,8 @@ private:
     void SetProxy();
     void SetSecurity();
     [[nodiscard]] bool PrepareSecurity(SSL_CTX* context) const;
+    /// libcurl's, and only until it closes the connection; null for none.
+    SSL* SecureConnection() const;
 
     FetchRequest m_request;
     ConnectionSettings m_settings;
@@ -51,7 +53,7 @@ private:
     std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_fields{nullptr, &curl_slist_free_all};
     std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> m_address{nullptr, &curl_url_cleanup};
     std::array<char, CURL_ERROR_SIZE> m_text{};
-    std::shared_ptr<SSL> m_connection;
+    std::shared_ptr<bool> m_hasSaidGoodbye;
     std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy; ///< goes first: it uses the others
 };
 

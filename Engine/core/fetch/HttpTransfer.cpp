@@ -186,7 +186,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     m_stage = TransferStage::Body;
     if (IsSecure())
     {
-        m_curl->HoldSecureConnection();
+        m_curl->WatchSecureConnection();
     }
     std::optional<qint64> const most = m_sink               ? m_sink->BeginBody(head)
                                        : head.status == 200 ? std::optional(m_limits.maxBodyBytes)

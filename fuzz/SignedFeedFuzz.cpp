@@ -1,6 +1,8 @@
 // SignedFeedFuzz.cpp: any bytes as a signed feed: every byte is signed or is the signature's own line, nothing that
-// looks like a signature is part of what is believed, and a signature that is added to any bytes is found again.
+// looks like a signature is part of what is believed, and a signature that is added to any bytes is found again. The
+// same bytes as the record of a feed.
 
+#include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/payload/Ed25519Signature.h"
@@ -48,6 +50,20 @@ void RequireTerms(QByteArray const& bytes)
     }
 }
 
+void RequireRecord(QByteArray const& bytes)
+{
+    std::string_view const all(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    if (auto const record = DecodeFeedRecord(all))
+    {
+        Require(record->serial >= 0, "no serial is below nothing");
+        auto const again = DecodeFeedRecord(EncodeFeedRecord(*record));
+        Require(again && again->serial == record->serial && again->address == record->address &&
+                    again->digest == record->digest && again->firstSeen == record->firstSeen &&
+                    again->lastSeen == record->lastSeen,
+                "a record is read as it was written");
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
@@ -73,5 +89,6 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         Require(SplitSignedFeed(bytes + block + block).fault == SignedFeedFault::Repeated, "a second one is refused");
     }
     RequireTerms(bytes);
+    RequireRecord(bytes);
     return 0;
 }

@@ -17,6 +17,7 @@
 #include <limits>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 
 namespace Pelnar::Engine
 {
@@ -102,7 +103,10 @@ std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
 
 bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedRecord const& ours)
 {
-    QDir().mkpath(QFileInfo(path).path());
+    QString const folderPath = QFileInfo(path).path();
+    QDir().mkpath(QFileInfo(folderPath).path());
+    // Nobody else may hold the lock.
+    static_cast<void>(::mkdir(QFile::encodeName(folderPath).constData(), S_IRWXU));
     UniqueFd const folder = OpenFolderOf(path);
     // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
     QLockFile lock(path + QStringLiteral(".lock"));

@@ -1,5 +1,6 @@
 // TestMain.cpp: the main function of every test program: no display, user defaults of its own, the log on standard
-// error. Tests make the application object that they need themselves. A run of no tests is a failed one.
+// error. Tests make the application object that they need themselves. A run of no tests is a failed one, and one
+// of skipped tests alone says so by its status.
 
 #include "Foundation/IsolatedUserDefaults.h"
 
@@ -10,6 +11,8 @@
 
 #include <cstdlib>
 #include <iostream>
+
+constexpr int EXIT_SKIPPED = 77; // as tests/CMakeLists.txt has it
 
 int main(int argc, char** argv)
 {
@@ -22,10 +25,15 @@ int main(int argc, char** argv)
     google::InitGoogleLogging(argv[0]);
     ::testing::InitGoogleTest(&argc, argv);
     int const status = RUN_ALL_TESTS();
-    if (status == 0 && !testing::GTEST_FLAG(list_tests) && testing::UnitTest::GetInstance()->test_to_run_count() == 0)
+    testing::UnitTest const& tests = *testing::UnitTest::GetInstance();
+    if (status != 0 || testing::GTEST_FLAG(list_tests))
+    {
+        return status;
+    }
+    if (tests.test_to_run_count() == 0)
     {
         std::cerr << "No test has this name: " << testing::GTEST_FLAG(filter) << '\n';
         return EXIT_FAILURE;
     }
-    return status;
+    return tests.skipped_test_count() == tests.test_to_run_count() ? EXIT_SKIPPED : EXIT_SUCCESS;
 }

@@ -17,6 +17,7 @@
 #include <optional>
 
 #include <fcntl.h>
+#include <poll.h>
 #include <signal.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -37,6 +38,8 @@ using Engine::UpdateRefusal;
 
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr int EXIT_REFUSED = 1;
+constexpr int MAX_REFUSALS = 20;
+constexpr int REFUSAL_PAUSE_MS = 100;
 constexpr mode_t PACKED_BITS = 0777;
 
 /// A signal must not end the process while it waits for nothing any more.
@@ -205,16 +208,22 @@ int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors
     return EXIT_REFUSED;
 }
 
-/// True when the child ended well. While it may be at work, whatever goes wrong with the asking, nothing is touched.
+/// True when the child ended well. A system that refuses to tell is asked again some times; after that the swap lock,
+/// which the child holds at work, keeps this process from what it does.
 bool WaitForChild(pid_t child)
 {
     int status = 0;
-    while (::waitpid(child, &status, 0) < 0)
+    for (int refusals = 0; ::waitpid(child, &status, 0) < 0;)
     {
-        if (errno == ECHILD)
+        if (errno == EINTR)
+        {
+            continue;
+        }
+        if (errno == ECHILD || ++refusals > MAX_REFUSALS)
         {
             return false;
         }
+        ::poll(nullptr, 0, REFUSAL_PAUSE_MS);
     }
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }

@@ -389,6 +389,22 @@ TEST(Faults, ParentThatCannotAskAfterItsChildWaitsOn)
     ExpectRecovered(scene, versions);
 }
 
+TEST(Faults, ParentThatCanNeverAskAfterItsChildEndsAndLeavesOneOfTheVersions)
+{
+    Versions const versions;
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    Traced const trace(Join({}, "wait4:error=EIO"));
+    HelperStart start = trace.Start();
+    start.before.insert(start.before.begin(), {"/usr/bin/timeout", "-s", "KILL", "60"});
+    HelperOutcome const outcome = scene.Install(job, start);
+    EXPECT_EQ(outcome.signal, 0) << "it asked for ever";
+    EXPECT_GT(trace.Errors(), 1);
+    ExpectWhole(scene, versions);
+    ExpectRecovered(scene, versions);
+}
+
 TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
 {
     Versions const versions;

@@ -84,7 +84,11 @@ bool WriteAll(int fd, Bytes bytes)
     while (!bytes.empty())
     {
         ssize_t const written = write(fd, bytes.data(), bytes.size());
-        if (written < 0 && errno != EINTR)
+        if (written == 0)
+        {
+            errno = EIO; // a file that takes nothing and says nothing would be written to for ever
+        }
+        if (written == 0 || (written < 0 && errno != EINTR))
         {
             return false;
         }

@@ -277,9 +277,9 @@ PartialFile::Fault PartialFile::Append(Bytes bytes)
     while (!bytes.empty())
     {
         ssize_t const count = pwrite(m_writer.Get(), bytes.data(), bytes.size(), static_cast<off_t>(m_written));
-        if (count < 0 && errno != EINTR)
+        if (count == 0 || (count < 0 && errno != EINTR))
         {
-            return FailedWrite(errno);
+            return FailedWrite(count == 0 ? EIO : errno); // it would be written to for ever
         }
         std::size_t const written = count < 0 ? 0 : static_cast<std::size_t>(count);
         bytes.remove_prefix(written);

@@ -314,6 +314,15 @@ TEST_F(DownloadFaultTest, DiskThatIsFullAtAnyWriteIsToldInNumbersAndLeftAsItWas)
     SweepRound(1, 1, &FillsTheDisk, verdictAt, check);
 }
 
+TEST_F(DownloadFaultTest, FileThatTakesNothingIsNotWrittenToForEver)
+{
+    Prepare(0);
+    End const end = Download([](CallStop const& stop)
+                             { return stop.call == SYS_pwrite64 ? CallVerdict::Pretend() : CallVerdict::GoOn(); });
+    EXPECT_EQ(end.cause, static_cast<int>(ErrorCause::DownloadDiskFailed)) << end.all;
+    ExpectNextRunBringsTheArchive("after it");
+}
+
 TEST_F(DownloadFaultTest, InterruptedCallsAreMadeAgain)
 {
     Sweep(

@@ -286,6 +286,22 @@ TEST(InstallRehearsal, LowerLayerOfAnOverlayIsTold)
     }
 }
 
+TEST(InstallRehearsal, FileThatTakesNothingIsNotWrittenToForEver)
+{
+    RehearsalScene const scene;
+    EXPECT_EQ(InChild(
+                  [&scene]
+                  {
+                      UniqueFd const file(::open((scene.Bundle() + "/run").c_str(), O_WRONLY | O_CLOEXEC));
+                      FailCall(SYS_write, 0); // it answers that no byte was written
+                      std::uint8_t const byte = 'x';
+                      bool const isWritten = WriteAll(file.Get(), Bytes(&byte, 1));
+                      return std::string(isWritten ? "written" : errno == EIO ? "told" : "refused");
+                  },
+                  20),
+              "told");
+}
+
 TEST(CloseDescriptors, LeavesNothingOpenOnAnyKernel)
 {
     for (int const errorNumber : {0, ENOSYS, EPERM, EINVAL})

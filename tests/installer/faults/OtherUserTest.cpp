@@ -13,8 +13,10 @@
 #include <filesystem>
 
 #include <fcntl.h>
+#include <sched.h>
 #include <signal.h>
 #include <sys/file.h>
+#include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/wait.h>
@@ -205,6 +207,39 @@ TEST(SharedFolder, IsNotInstalledInto)
         ASSERT_EQ(::chmod(victim.Folder().c_str(), 0755), 0);
         EXPECT_EQ(victim.scene.Install(job, victim.asVictim).exitStatus, 0);
         EXPECT_EQ(victim.scene.Place().StartedVersion(), "2.0");
+    }
+}
+
+/// Many systems give each user a group of the same name, and new folders to it with all rights.
+TEST(SharedFolder, OfTheUsersOwnGroupIsNobodyElses)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    for (bool const isAlone : {true, false})
+    {
+        VictimScene victim;
+        InstallJob job = victim.Prepare();
+        job.targetPath = victim.Path(APP);
+        for (std::string const& folder : {victim.Folder(), victim.Path(APP)})
+        {
+            ASSERT_EQ(::chmod(folder.c_str(), 0775), 0);
+        }
+        std::string const lists = victim.scene.Downloads().Path();
+        WriteFile(lists + "/passwd", "root:x:0:0::/:/bin/sh\nvictim:x:12345:12345::/:/bin/sh\n");
+        WriteFile(lists + "/group", isAlone ? "victim:x:12345:\n" : "victim:x:12345:attacker\n");
+        std::string const answer = InChild(
+            [&]() -> std::string
+            {
+                if (::unshare(CLONE_NEWNS) != 0 || ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) != 0 ||
+                    ::mount((lists + "/passwd").c_str(), "/etc/passwd", "", MS_BIND, "") != 0 ||
+                    ::mount((lists + "/group").c_str(), "/etc/group", "", MS_BIND, "") != 0)
+                {
+                    return "cannot change the lists";
+                }
+                HelperOutcome const outcome = victim.scene.Install(job, victim.asVictim);
+                return std::string(FaultName(outcome.Fault())) + ' ' + outcome.output.substr(0, 3);
+            });
+        EXPECT_EQ(answer, isAlone ? "None 2.0" : "FolderUnsafe ");
+        EXPECT_EQ(victim.scene.Place().StartedVersion(), isAlone ? "2.0" : "1.0");
     }
 }
 

@@ -8,6 +8,8 @@
 #include <QProcess>
 #include <QStandardPaths>
 
+#include <ostream>
+
 namespace Pelnar::Testing
 {
 namespace
@@ -81,6 +83,11 @@ QProcessEnvironment EnvironmentOf(std::vector<std::string> const& variables)
 }
 
 } // namespace
+
+void PrintTo(Packer const& packer, std::ostream* out)
+{
+    *out << packer.name;
+}
 
 std::vector<Packer> const& Packers()
 {

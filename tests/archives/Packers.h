@@ -2,6 +2,7 @@
 // Thread: one. Ownership: values only.
 #pragma once
 
+#include <iosfwd>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ struct Packer
     bool isZip = false;
     PackedLongNames longNames = PackedLongNames::Kept;
 };
+
+void PrintTo(Packer const& packer, std::ostream* out);
 
 std::vector<Packer> const& Packers();
 [[nodiscard]] bool IsInstalled(std::string const& program);

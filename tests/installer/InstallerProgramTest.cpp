@@ -6,6 +6,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <ostream>
 
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -201,6 +202,11 @@ struct KindRow
     UpdateFault asBundle;
     UpdateFault asInstaller;
 };
+
+void PrintTo(KindRow const& row, std::ostream* out)
+{
+    *out << row.name;
+}
 
 class PayloadKinds : public testing::TestWithParam<KindRow>
 {

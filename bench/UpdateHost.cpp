@@ -3,6 +3,7 @@
 // milliseconds. Arguments: the archive's address, length and signature, the public key, the installed bundle, its
 // identifier, a folder for downloads.
 
+#include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallHandover.h"
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/core/update/UpdatePreparation.h"
@@ -82,8 +83,10 @@ private:
         job.installedVersion = "1.0";
         job.targetPath = m_target.path.toStdString();
         m_update->Describe(job);
+        m_attempt = std::make_unique<InstallAttempt>(m_request.folder, m_target.path);
+        m_attempt->Describe(job, InstallWish::Person);
         FailOn(m_handover.Start(
-            m_target, *m_update, job,
+            m_target, *m_update, m_attempt->Folder(), job,
             [this]
             {
                 m_parts.DiscardDownload(m_request);
@@ -118,6 +121,7 @@ private:
     std::unique_ptr<IDownload> m_download;
     UpdatePreparation m_preparation{m_parts};
     std::unique_ptr<PreparedUpdate> m_update;
+    std::unique_ptr<InstallAttempt> m_attempt;
     InstallHandover m_handover{m_parts};
 };
 

@@ -706,6 +706,10 @@
         <translation>لم يبدأ التطبيق بعد تحديثه. شغّله يدويًا.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>يعمل التطبيق داخل حاوية تُخفي مالك المجلد «%1». شغّله خارج الحاوية لتحديثه.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>لا يستطيع التحديث الإبقاء على من يُسمح له بفتح التطبيق، ولذلك لم يُثبَّت. اطلب من الشخص الذي ثبّت التطبيق أن يحدّثه.</translation>
     </message>

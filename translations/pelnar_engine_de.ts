@@ -706,6 +706,10 @@
         <translation>Die aktualisierte Anwendung ist nicht gestartet. Starten Sie die Anwendung von Hand.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>Die Anwendung läuft in einem Container, der den Besitzer des Ordners „%1“ verbirgt. Starten Sie die Anwendung außerhalb des Containers, um sie zu aktualisieren.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>Das Update kann nicht beibehalten, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
     </message>

@@ -706,6 +706,10 @@
         <translation>La aplicación actualizada no se abrió: ábrala a mano.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>La aplicación se ejecuta en un contenedor que oculta el propietario de la carpeta «%1»: iníciela fuera del contenedor para actualizarla.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>La actualización no puede conservar quién puede abrir la aplicación y no se instaló. Pida a la persona que instaló la aplicación que la actualice.</translation>
     </message>

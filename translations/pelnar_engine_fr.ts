@@ -706,6 +706,10 @@
         <translation>L’application mise à jour ne s’est pas ouverte&#xa0;: ouvrez-la manuellement.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>L’application s’exécute dans un conteneur qui masque le propriétaire du dossier « %1 » : démarrez-la en dehors du conteneur pour la mettre à jour.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>La mise à jour ne peut pas conserver les droits d’ouverture de l’application et n’a pas été installée. Demandez à la personne qui a installé l’application de la mettre à jour.</translation>
     </message>

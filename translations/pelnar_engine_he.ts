@@ -706,6 +706,10 @@
         <translation>היישום המעודכן לא הופעל. יש להפעיל אותו ידנית.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>היישום פועל במכולה שמסתירה את הבעלים של התיקייה ”%1”. כדי לעדכן אותו, יש להפעיל אותו מחוץ למכולה.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>העדכון אינו יכול לשמור על ההרשאות לפתיחת היישום, ולכן לא הותקן. יש לבקש ממי שהתקין את היישום לעדכן אותו.</translation>
     </message>

@@ -706,6 +706,10 @@
         <translation>L’applicazione aggiornata non si è aperta: aprirla manualmente.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>L’applicazione è in esecuzione in un contenitore che nasconde il proprietario della cartella «%1»: avviarla fuori dal contenitore per aggiornarla.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>L’aggiornamento non può mantenere chi può aprire l’applicazione e non è stato installato. Chiedere alla persona che ha installato l’applicazione di aggiornarla.</translation>
     </message>

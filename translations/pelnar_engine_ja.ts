@@ -706,6 +706,10 @@
         <translation>アップデートしたアプリケーションが起動しませんでした。手動で起動してください。</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>アプリケーションは、フォルダー「%1」の所有者を隠すコンテナーの中で動作しています。更新するには、コンテナーの外で起動してください。</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>アプリケーションを開ける人の設定を維持できないため、アップデートはインストールされませんでした。アプリケーションをインストールした人に更新を依頼してください。</translation>
     </message>

@@ -706,6 +706,10 @@
         <translation>De bijgewerkte app is niet geopend: open hem met de hand.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>De toepassing draait in een container die de eigenaar van de map ‘%1’ verbergt: start de toepassing buiten de container om deze bij te werken.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>De update kan niet behouden wie de toepassing mag openen en is niet geïnstalleerd. Vraag de persoon die de toepassing heeft geïnstalleerd om deze bij te werken.</translation>
     </message>

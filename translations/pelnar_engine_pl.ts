@@ -706,6 +706,10 @@
         <translation>Zaktualizowana aplikacja nie uruchomiła się. Uruchom ją ręcznie.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>Aplikacja działa w kontenerze, który ukrywa właściciela folderu „%1”. Uruchom ją poza kontenerem, aby ją zaktualizować.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>Aktualizacja nie może zachować uprawnień do otwierania aplikacji i nie została zainstalowana. Poproś osobę, która zainstalowała aplikację, o jej aktualizację.</translation>
     </message>

@@ -706,6 +706,10 @@
         <translation>O aplicativo atualizado não abriu: abra-o manualmente.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>O aplicativo está em execução em um contêiner que oculta o proprietário da pasta “%1”: inicie-o fora do contêiner para atualizá-lo.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>A atualização não pode manter quem pode abrir o aplicativo e não foi instalada. Peça à pessoa que instalou o aplicativo que o atualize.</translation>
     </message>

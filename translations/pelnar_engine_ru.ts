@@ -706,6 +706,10 @@
         <translation>Обновлённая программа не запустилась. Запустите её вручную.</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>Приложение работает в контейнере, который скрывает владельца папки «%1». Чтобы обновить приложение, запустите его вне контейнера.</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>Обновление не может сохранить права на открытие приложения и не установлено. Попросите того, кто установил приложение, обновить его.</translation>
     </message>

@@ -706,6 +706,10 @@
         <translation>更新后的应用程序未能启动。请手动启动。</translation>
     </message>
     <message>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <translation>应用程序运行在一个隐藏文件夹“%1”所有者的容器中。请在容器外启动应用程序以进行更新。</translation>
+    </message>
+    <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
         <translation>此更新无法保留谁可以打开该应用程序的设置，因此未安装。请让安装该应用程序的人来更新。</translation>
     </message>

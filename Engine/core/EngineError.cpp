@@ -352,6 +352,11 @@ char const* SentenceOf(ErrorCause cause)
             "PelnarEngine_Errors",
             "Other users of this computer could change the application's folder, so it is not updated there: ask "
             "the administrator to set its permissions right.");
+    case ErrorCause::BundleOwnerHidden:
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "The application runs in a container that hides the owner of the folder \"%1\": start it outside of the "
+            "container to update it.");
     case ErrorCause::NoRoomForUpdate:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",

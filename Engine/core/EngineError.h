@@ -169,6 +169,7 @@ enum class ErrorCause
     BundleOpenToGroup = 962,
     BundleCannotBeLocked = 963,
     BundleCannotBeMoved = 964,
+    BundleOwnerHidden = 965,
 
     Fault = 1000, ///< an UpdateFault, whose number is added
 };

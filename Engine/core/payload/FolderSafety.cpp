@@ -4,7 +4,9 @@
 #include "Engine/core/payload/StagingFolder.h"
 
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
+#include <fstream>
 #include <memory>
 #include <vector>
 
@@ -75,11 +77,30 @@ bool IsPrivateGroup(gid_t group)
     return user.pw_gid == group && name == entry.gr_name && !IsGroupOfAnotherUser(group);
 }
 
+/// The number in the file's first line, \a column words behind its begin; the kernel's answers are short.
+std::uint64_t NumberIn(char const* path, int column)
+{
+    std::ifstream file(path);
+    std::uint64_t number = 0;
+    for (int word = 0; word <= column; ++word)
+    {
+        file >> number;
+    }
+    return file ? number : 0;
+}
+
+/// True when \a owner is the one user that stands for all those whom the namespace of this process does not know.
+bool IsHidden(uid_t owner)
+{
+    constexpr std::uint64_t ALL_USERS = 0xffffffff;
+    return owner == NumberIn("/proc/sys/kernel/overflowuid", 0) && NumberIn("/proc/self/uid_map", 2) < ALL_USERS;
+}
+
 FolderSafety JudgeFolder(UniqueFd const& folder, struct stat const& status)
 {
     if (status.st_uid != 0 && status.st_uid != ::geteuid())
     {
-        return FolderSafety::OfAnotherUser;
+        return IsHidden(status.st_uid) ? FolderSafety::OwnerHidden : FolderSafety::OfAnotherUser;
     }
     if ((status.st_mode & S_IWOTH) != 0)
     {

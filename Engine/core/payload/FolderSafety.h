@@ -13,6 +13,7 @@ enum class FolderSafety
 {
     Safe,
     OfAnotherUser, ///< it belongs to somebody who is neither this user nor the administrator
+    OwnerHidden,   ///< a user namespace hides whose it is: the administrator looks like any other user there
     OpenToGroup,   ///< a group may write there that has other members
     OpenToAll,
     Shared, ///< everybody may write there, but only the owner of a name may take it away: a folder such as /tmp

@@ -139,6 +139,8 @@ std::optional<EngineError> Intruders(InstallTarget const& target, std::string co
             return ErrorWith(
                 ErrorCause::BundleOpenToGroup, path,
                 {QString::fromStdString(GroupName(finding.group)), QStringLiteral("chmod g-w ") + Quoted(place)});
+        case FolderSafety::OwnerHidden:
+            return ErrorWith(ErrorCause::BundleOwnerHidden, path, {place});
         case FolderSafety::OfAnotherUser:
         case FolderSafety::OpenToAll:
         case FolderSafety::Unreadable:

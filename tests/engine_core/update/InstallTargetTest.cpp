@@ -14,6 +14,7 @@
 #include <sched.h>
 #include <sys/ioctl.h>
 #include <sys/mount.h>
+#include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <sys/xattr.h>
@@ -392,6 +393,53 @@ TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
     ASSERT_EQ(::chmod(scene.Above().c_str(), 0700), 0);
     AsUser const nobody(NOBODY);
     scene.ExpectError(ErrorCause::BundleNotWritable); // it cannot even be seen
+}
+
+/// A user namespace in which this user is root, and the machine's root is nobody.
+std::string InUserNamespace(std::function<std::string()> const& act)
+{
+    std::string const map = "0 " + std::to_string(::geteuid()) + " 1";
+    if (::unshare(CLONE_NEWUSER) != 0)
+    {
+        return "not permitted";
+    }
+    // After a change of users the kernel gives this process' files in /proc to root.
+    ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
+    UniqueFd const file(::open("/proc/self/uid_map", O_WRONLY | O_CLOEXEC));
+    bool const isMapped = ::write(file.Get(), map.data(), map.size()) == static_cast<ssize_t>(map.size());
+    return isMapped ? act() : "not permitted";
+}
+
+TEST(InstallTarget, UserNamespaceThatHidesTheOwnersOfFoldersIsNamed)
+{
+    TargetScene const scene;
+    auto const open = [&scene]
+    {
+        auto const opened = scene.Open(scene.Bundle());
+        auto const* const error = std::get_if<EngineError>(&opened);
+        return !error                                          ? std::string("opened")
+               : error->cause == ErrorCause::BundleOwnerHidden ? error->sentence.English().toStdString()
+                                                               : std::to_string(static_cast<int>(error->cause));
+    };
+    auto const inNamespace = [&open] { return InUserNamespace(open); };
+    std::string answer;
+    if (::geteuid() == 0)
+    {
+        ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
+        GiveTo(VICTIM, scene.Above());
+        answer = AsOtherUser(VICTIM, inNamespace);
+    }
+    else
+    {
+        answer = InChild(inNamespace);
+    }
+    if (answer == "not permitted")
+    {
+        GTEST_SKIP() << "this user may make no user namespace";
+    }
+    EXPECT_EQ(answer,
+              "The application runs in a container that hides the owner of the folder \"/tmp\": start it outside "
+              "of the container to update it.");
 }
 
 TEST(InstallTarget, FoldersThatOthersMayChangeAreRefused)

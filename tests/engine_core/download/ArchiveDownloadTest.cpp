@@ -1,6 +1,7 @@
 // ArchiveDownloadTest.cpp: downloads over http and https: whole, cut, resumed, changed, refused.
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
+#include "tests/support/Http2Server.h"
 #include "tests/support/TestCertificates.h"
 
 #include <QProcess>
@@ -59,6 +60,24 @@ TEST_F(ArchiveDownloadTest, BringsItOverASecureConnection)
     TrustedAuthority const trusted(certificates.Authority());
     LoopbackServer server(Serving({ARCHIVE}), certificates.Signed("127.0.0.1"));
     EXPECT_EQ(Run(RequestFor(server.Url(), SIZE)).bytes, ARCHIVE);
+}
+
+TEST_F(ArchiveDownloadTest, BringsItOverHttp2)
+{
+    TestCertificates certificates;
+    TrustedAuthority const trusted(certificates.Authority());
+    (void)certificates.Signed("127.0.0.1");
+    Http2Server server(certificates);
+    if (!server.IsThere())
+    {
+        GTEST_SKIP() << "there is no nghttpd here";
+    }
+    // More than all buffers hold, so that the transfer has to wait for the disk now and then.
+    QByteArray const large = MakeArchive(48 * 1024 * 1024);
+    QUrl const url = server.Serve(large);
+    DownloadResult const result = Run(RequestFor(url, large.size()));
+    EXPECT_EQ(result.cause, ErrorCause::NoUpdate);
+    EXPECT_TRUE(result.bytes == large);
 }
 
 TEST_F(ArchiveDownloadTest, UnknownCertificateIsRefused)
@@ -126,6 +145,73 @@ TEST_F(ArchiveDownloadTest, RedirectsAreFollowedAndCredentialsStayWithinTheOrigi
     EXPECT_EQ(Run(RequestFor(url, SIZE)).bytes, ARCHIVE);
     EXPECT_TRUE(server.Requests()[0].contains("Authorization: Basic "));
     EXPECT_FALSE(other.Requests()[0].contains("Authorization"));
+}
+
+TEST_F(ArchiveDownloadTest, PasswordOfTheFeedsAddressGoesToItsOwnOriginOnly)
+{
+    QByteArray const field = "\r\nAuthorization: Basic " + QByteArray("me:se cret").toBase64() + "\r\n";
+    LoopbackServer server(Serving({ARCHIVE}));
+    LoopbackServer other(Serving({ARCHIVE}));
+    DownloadRequest request = RequestFor(server.Url(), SIZE);
+    request.feedUrl = server.Url(QStringLiteral("/folder/feed.xml"));
+    request.feedUrl.setUserName(QStringLiteral("me"));
+    request.feedUrl.setPassword(QStringLiteral("se cret"));
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_TRUE(server.Requests().back().contains(field)) << server.Requests().back().toStdString();
+    for (QString const& name : Files())
+    {
+        QFile file(QDir(Folder()).filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        QByteArray const bytes = file.readAll();
+        EXPECT_FALSE(bytes.contains("cret") || bytes.contains(QByteArray("me:se cret").toBase64()));
+    }
+
+    RemoveFolder();
+    request.url = other.Url();
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_FALSE(other.Requests().back().contains("Authorization")) << "another port is another origin";
+
+    RemoveFolder();
+    request.url = server.Url();
+    request.url.setUserInfo(QStringLiteral("you:other"));
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_TRUE(server.Requests().back().contains("Basic " + QByteArray("you:other").toBase64()));
+    EXPECT_FALSE(server.Requests().back().contains(field)) << "the archive's own address says who asks";
+}
+
+TEST_F(ArchiveDownloadTest, PasswordOfTheFeedsAddressFollowsNoRedirectToAnotherOrigin)
+{
+    LoopbackServer other(Serving({ARCHIVE}));
+    LoopbackServer server(Answering(RedirectAnswer(302, other.Url().toEncoded())));
+    DownloadRequest request = RequestFor(server.Url(), SIZE);
+    request.feedUrl = server.Url();
+    request.feedUrl.setUserInfo(QStringLiteral("me:secret"));
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_TRUE(server.Requests()[0].contains("Authorization: Basic "));
+    EXPECT_FALSE(other.Requests()[0].contains("Authorization"));
+}
+
+TEST_F(ArchiveDownloadTest, FeedFromElsewhereLeadsToNoArchiveOfThisComputer)
+{
+    LoopbackServer server(Serving({ARCHIVE}));
+    LoopbackServer leading(Answering(RedirectAnswer(302, server.Url().toEncoded())));
+    for (QString const& host : {QStringLiteral("127.0.0.1"), QStringLiteral("localhost"), QStringLiteral("[::1]"),
+                                QStringLiteral("2130706433"), QStringLiteral("0.0.0.0"),
+                                QStringLiteral("[::ffff:7f00:1]"), QStringLiteral("169.254.1.1")})
+    {
+        QUrl url(QStringLiteral("http://%1/archive.zip").arg(host));
+        url.setPort(server.Url().port());
+        for (InsecureHttp const insecureHttp : {InsecureHttp::LoopbackOnly, InsecureHttp::Anywhere})
+        {
+            DownloadRequest request = RequestFor(url, SIZE);
+            request.feedReach = AddressReach::Network;
+            request.insecureHttp = insecureHttp;
+            EXPECT_EQ(Run(request).cause, ErrorCause::AddressNotPublic) << host.toStdString();
+        }
+    }
+    EXPECT_EQ(server.Connections() + leading.Connections(), 0);
+    DownloadRequest request = RequestFor(leading.Url(), SIZE);
+    EXPECT_EQ(Run(request).bytes, ARCHIVE) << "one from here does";
 }
 
 TEST_F(ArchiveDownloadTest, RedirectsThatLeadAstrayAreRefused)

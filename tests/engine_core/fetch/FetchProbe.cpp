@@ -1,8 +1,9 @@
 // FetchProbe.cpp: fetches one address and prints what came of it, for tests that look at a process from outside.
-// Usage: fetch_probe URL [AUTHORITY-FILE]
+// Usage: fetch_probe URL [AUTHORITY-FILE [anywhere]], the last word for plain http to other computers
 #include "Engine/core/fetch/FeedFetcher.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSslCertificate>
 #include <QSslConfiguration>
@@ -35,13 +36,16 @@ int main(int argc, char** argv)
         QSslConfiguration::setDefaultConfiguration(configuration);
     }
     long const before = peakKibibytes();
-    FeedFetcher fetcher(FetchLimits(), InsecureHttp::LoopbackOnly);
+    bool const isAnywhere = arguments.value(3) == QLatin1String("anywhere");
+    FeedFetcher fetcher(FetchLimits(), isAnywhere ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly);
+    QElapsedTimer clock;
+    clock.start();
     fetcher.Start(QUrl(arguments.value(1)),
-                  [before](FetchOutcome const& outcome)
+                  [before, clock](FetchOutcome const& outcome)
                   {
-                      std::printf("cause=%d bytes=%d grown=%ld sentence=%s\n",
+                      std::printf("cause=%d bytes=%d grown=%ld ms=%lld sentence=%s\n",
                                   outcome.error ? static_cast<int>(outcome.error->cause) : 0, outcome.bytes.size(),
-                                  peakKibibytes() - before,
+                                  peakKibibytes() - before, clock.elapsed(),
                                   outcome.error ? qPrintable(outcome.error->sentence.English()) : "");
                       QCoreApplication::quit();
                   });

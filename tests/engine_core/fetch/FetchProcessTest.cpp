@@ -1,6 +1,7 @@
 // FetchProcessTest.cpp: a fetch seen from outside its process: which calls it makes of the system, how much memory it
 // takes, what a wrong clock or a missing network does to it.
 #include "tests/engine_core/fetch/FetchHarness.h"
+#include "tests/support/Http2Server.h"
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/ProgramOutput.h"
 #include "tests/support/Sanitizers.h"
@@ -24,6 +25,7 @@ struct Report
     int cause = -1;
     int bytes = -1;
     long grownKibibytes = -1;
+    long milliseconds = -1;
     QString all;
 };
 
@@ -33,12 +35,13 @@ Report probe(QStringList const& wrapper, QStringList const& arguments)
     Report report;
     report.all = OutputOf(wrapper + QStringList{QStringLiteral(PELNAR_FETCH_PROBE)} + arguments);
     QRegularExpressionMatch const match =
-        QRegularExpression(QStringLiteral("cause=(\\d+) bytes=(\\d+) grown=(\\d+)")).match(report.all);
+        QRegularExpression(QStringLiteral("cause=(\\d+) bytes=(\\d+) grown=(\\d+) ms=(\\d+)")).match(report.all);
     if (match.hasMatch())
     {
         report.cause = match.captured(1).toInt();
         report.bytes = match.captured(2).toInt();
         report.grownKibibytes = match.captured(3).toLong();
+        report.milliseconds = match.captured(4).toLong();
     }
     return report;
 }
@@ -152,6 +155,158 @@ TEST_F(FetchProcessTest, NoRouteIsAnErrorOfItsOwn)
     Report const report = probe(ownNetwork, {QStringLiteral("https://192.0.2.1/feed.xml")});
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::NetworkUnreachable)) << report.all.toStdString();
 }
+
+/// A network of one's own, in which "two.example" has two addresses: one of IPv6 that swallows every packet, and one
+/// that answers. Words that follow are run there.
+char const TWO_ADDRESSES[] = "set -e\n"
+                             "ip link set lo up\n"
+                             "ip link add near type veth peer name far\n"
+                             "ip link set near up\n"
+                             "ip link set far up\n"
+                             "ip -6 address add 2001:db8::1/64 dev near nodad\n"
+                             "ip -6 neighbour add 2001:db8::2 lladdr 02:00:00:00:00:02 dev near\n"
+                             "ip address add 198.51.100.1/24 dev near\n"
+                             "printf '2001:db8::2 two.example\\n198.51.100.1 two.example\\n' > \"$0/hosts\"\n"
+                             "mount --bind \"$0/hosts\" /etc/hosts\n"
+                             "printf '<rss/>' > \"$0/feed.xml\"\n"
+                             "python3 -m http.server --bind 198.51.100.1 --directory \"$0\" 8000 >/dev/null 2>&1 &\n"
+                             "server=$!\n"
+                             "for turn in 1 2 3 4 5 6 7 8 9 10; do\n"
+                             "    curl -s -o /dev/null http://198.51.100.1:8000/ && break\n"
+                             "    sleep 0.5\n"
+                             "done\n"
+                             "\"$@\"\n"
+                             "kill $server\n";
+
+TEST_F(FetchProcessTest, AddressThatSwallowsPacketsCostsLessThanASecond)
+{
+    QStringList const ownNetwork{QStringLiteral("unshare"),
+                                 QStringLiteral("--map-root-user"),
+                                 QStringLiteral("--net"),
+                                 QStringLiteral("--mount"),
+                                 QStringLiteral("sh"),
+                                 QStringLiteral("-c"),
+                                 QString::fromLatin1(TWO_ADDRESSES),
+                                 folder.path()};
+    if (!works(ownNetwork.front(), ownNetwork.mid(1) << QStringLiteral("true")))
+    {
+        GTEST_SKIP() << "no network of one's own can be made here";
+    }
+    QString const url = QStringLiteral("http://two.example:8000/feed.xml");
+    Report const report = probe(ownNetwork, {url, QString(), QStringLiteral("anywhere")});
+    EXPECT_EQ(report.cause, 0) << report.all.toStdString();
+    EXPECT_EQ(report.bytes, 6);
+    EXPECT_GE(report.milliseconds, 150) << "the other address is tried first, or nothing is shown here";
+    EXPECT_LT(report.milliseconds, 1000);
+}
+
+/// An OpenSSL that permits every protocol and cipher that it knows.
+class PermissiveConfiguration : public FetchProcessTest, public ::testing::WithParamInterface<char const*>
+{
+protected:
+    PermissiveConfiguration()
+    {
+        (void)certificates.Signed("127.0.0.1");
+        QFile file(folder.filePath(QStringLiteral("openssl.cnf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("openssl_conf = all\n[all]\nssl_conf = ssl\n[ssl]\nsystem_default = everything\n"
+                   "[everything]\nMinProtocol = TLSv1\nCipherString = ALL:eNULL:@SECLEVEL=0\n");
+        environment.insert(QStringLiteral("OPENSSL_CONF"), file.fileName());
+        server.setProcessEnvironment(environment);
+        server.setProcessChannelMode(QProcess::MergedChannels);
+    }
+    ~PermissiveConfiguration() override
+    {
+        server.kill();
+        server.waitForFinished();
+    }
+
+    /// The address of a server that offers \a words only.
+    QString Serve(QString const& words)
+    {
+        server.start(QStringLiteral("openssl"),
+                     QStringList{QStringLiteral("s_server"), QStringLiteral("-accept"), QStringLiteral("127.0.0.1:0"),
+                                 QStringLiteral("-www"), QStringLiteral("-cert"), certificates.CertificateFile(),
+                                 QStringLiteral("-key"), certificates.KeyFile()} +
+                         words.split(QLatin1Char(' ')));
+        QByteArray said;
+        QRegularExpressionMatch port;
+        EXPECT_TRUE(WaitFor(
+            [&]
+            {
+                said += server.readAll();
+                port = QRegularExpression(QStringLiteral("ACCEPT 127\\.0\\.0\\.1:(\\d+)"))
+                           .match(QString::fromLatin1(said));
+                return port.hasMatch();
+            }))
+            << said.toStdString();
+        return QStringLiteral("https://127.0.0.1:%1/").arg(port.captured(1));
+    }
+
+    TestCertificates certificates;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcess server;
+};
+
+INSTANTIATE_TEST_SUITE_P(Servers, PermissiveConfiguration,
+                         ::testing::Values("-tls1", "-tls1_1", "-tls1_2 -cipher eNULL", "-tls1_2 -cipher aNULL"));
+
+TEST_P(PermissiveConfiguration, DoesNotMakeAWeakConnectionGood)
+{
+    QString const url = Serve(QString::fromLatin1(GetParam()));
+    QString const configuration = QStringLiteral("OPENSSL_CONF=") + folder.filePath(QStringLiteral("openssl.cnf"));
+    QString const control =
+        OutputOf({QStringLiteral("env"), configuration, QStringLiteral("curl"), QStringLiteral("--insecure"),
+                  QStringLiteral("--silent"), QStringLiteral("--show-error"), QStringLiteral("--tlsv1.0"),
+                  QStringLiteral("--ciphers"), QStringLiteral("ALL:eNULL:@SECLEVEL=0"), url});
+    ASSERT_TRUE(control.contains(QLatin1String("s_server")))
+        << "this configuration does not permit it: " << control.toStdString();
+    Report const report = probe({QStringLiteral("env"), configuration}, {url, certificates.AuthorityFile()});
+    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::HandshakeRefused)) << report.all.toStdString();
+}
+
+TEST_F(PermissiveConfiguration, LetsAStrongConnectionBe)
+{
+    QString const url = Serve(QStringLiteral("-tls1_2"));
+    QString const configuration = QStringLiteral("OPENSSL_CONF=") + folder.filePath(QStringLiteral("openssl.cnf"));
+    Report const report = probe({QStringLiteral("env"), configuration}, {url, certificates.AuthorityFile()});
+    EXPECT_EQ(report.cause, 0) << report.all.toStdString();
+    EXPECT_GT(report.bytes, 0);
+}
+
+class Http2 : public FetchProcessTest
+{
+protected:
+    void SetUp() override
+    {
+        if (!server.IsThere())
+        {
+            GTEST_SKIP() << "there is no nghttpd here";
+        }
+    }
+
+    TestCertificates certificates;
+    TrustedAuthority trusted{certificates.Authority()};
+    ServerIdentity identity = certificates.Signed("127.0.0.1");
+    Http2Server server{certificates};
+};
+
+TEST_F(Http2, FeedIsFetched)
+{
+    QByteArray const body(3 * 1024 * 1024, 'x');
+    QUrl const url = server.Serve(body);
+    EXPECT_EQ(Fetch(url).bytes, body);
+    EXPECT_EQ(Fetch(url).bytes, body) << "over the same connection";
+}
+
+TEST_F(Http2, FeedThatIsTooLargeOrMissingIsRefused)
+{
+    EXPECT_EQ(CauseOf(Fetch(server.Serve(QByteArray(5 * 1024 * 1024, 'x')))), ErrorCause::BodyTooLarge);
+    FetchOutcome const outcome = Fetch(server.Url(QStringLiteral("/missing")));
+    ASSERT_EQ(CauseOf(outcome), ErrorCause::HttpStatus);
+    EXPECT_EQ(outcome.error->httpStatus, 404);
+}
+
 class EndlessAnswer : public FetchProcessTest
 {
 protected:

@@ -127,7 +127,9 @@ LINE_RULES = [
     (
         "tls-errors-ignored",
         lambda p: True,
-        re.compile(r"\bignoreSslErrors\b|\bVerifyNone\b|\bQueryPeer\b"),
+        re.compile(
+            r"\bignoreSslErrors\b|\bVerifyNone\b|\bQueryPeer\b|\bSSL_VERIFY_NONE\b|SSL_VERIFY(?:PEER|HOST)\s*,\s*[01]L?\s*\)(?<!PEER, 1L\))"
+        ),
         "no TLS error is ever ignored",
     ),
     (
@@ -266,6 +268,9 @@ def self_test():
         ("try-outside-helper", "Engine/objc/X.mm", "    @try"),
         ("compiler-made-log-site", "App/UpdateChecker/X.cpp", 'LOG(ERROR) << "x";'),
         ("tls-errors-ignored", "Engine/core/X.cpp", "reply->ignoreSslErrors();"),
+        ("tls-errors-ignored", "Engine/core/X.cpp", "curl_easy_setopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);"),
+        ("tls-errors-ignored", "Engine/core/X.cpp", "curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 1L);"),
+        ("tls-errors-ignored", "Engine/core/X.cpp", "SSL_CTX_set_verify(context, SSL_VERIFY_NONE, nullptr);"),
         ("mixed-language-header", "Foundation/X.h", "#ifdef __OBJC__"),
         ("manual-dealloc", "Engine/objc/X.mm", "    [super dealloc];"),
         ("hidden-characters", "Engine/ui/X.cpp", "    return unit >= 0x2028 && unit <= 0x202E;"),
@@ -293,6 +298,8 @@ def self_test():
         (SESSION + "/X.mm", "    // a catch (here) would end the process"),
         ("common/X.cpp", 'char const* text = "// no comment, and no default:";'),
         ("Demo/X.cpp", "    QCommandLineOption const system(name, text);"),
+        ("Engine/core/X.cpp", "    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYPEER, 1L);"),
+        ("Engine/core/X.cpp", "    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 2L);"),
         ("common/X.h", opening),
     ]
     failures = []

@@ -278,15 +278,19 @@ TEST(DownloadErrors, EachHasASentenceOfItsOwn)
 
 TEST_F(ArchiveDownloadTest, DripIsTooSlowAndWhatCameIsKept)
 {
-    LoopbackServer server(
-        Dripping("HTTP/1.1 200 OK\r\nETag: \"one\"\r\nContent-Length: 300000\r\n\r\n" + ARCHIVE.left(1000),
-                 ARCHIVE.mid(1000), 10));
+    LoopbackServer server(Scripted());
+    script = Dripping("HTTP/1.1 200 OK\r\nETag: \"one\"\r\nContent-Length: 300000\r\n\r\n" + ARCHIVE.left(1000),
+                      ARCHIVE.mid(1000), 10);
     DownloadRequest request = RequestFor(server.Url(), SIZE);
     request.limits.rateWindow = milliseconds(400);
     EXPECT_EQ(Run(request).cause, ErrorCause::TooSlow);
     QByteArray const part = PartialBytes();
     EXPECT_GT(part.size(), 1000);
     EXPECT_TRUE(ARCHIVE.startsWith(part));
+    ASSERT_EQ(server.Requests().size(), 1u) << "a slow server is not asked again at once";
+    script = Serving({ARCHIVE, "\"one\""});
+    EXPECT_EQ(Run(request).bytes, ARCHIVE);
+    EXPECT_EQ(RangeStart(server.Requests().back()), part.size()) << "the next download goes on from there";
 }
 
 TEST_F(ArchiveDownloadTest, BodiesOfAnyOtherLengthAreRefusedAndNothingIsKept)

@@ -2,6 +2,7 @@
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QHostAddress>
 #include <QTemporaryDir>
@@ -191,7 +192,11 @@ TEST_F(FeedFetcherTest, BlackHoleEndsAtTheConnectDeadline)
     limits.connectTimeout = milliseconds(200);
     QUrl url(QStringLiteral("http://127.0.0.1/feed.xml"));
     url.setPort(ntohs(address.sin_port));
+    QElapsedTimer clock;
+    clock.start();
     EXPECT_EQ(CauseOf(Fetch(url, limits)), ErrorCause::ConnectTimeout);
+    EXPECT_GE(clock.elapsed(), 190);
+    EXPECT_LT(clock.elapsed(), 2000) << "at its own deadline, and not at another one";
     for (int const descriptor : waiting)
     {
         close(descriptor);
@@ -276,6 +281,18 @@ TEST_F(FeedFetcherTest, SlowHeadersEndAtTheTotalDeadline)
     LoopbackServer server(Dripping("HTTP/1.1 200 OK\r\n", QByteArray(100000, 'x'), 10));
     EXPECT_EQ(CauseOf(Fetch(server.Url(), limits)), ErrorCause::TotalTimeout);
 }
+TEST(FetchLimits, AreThoseThatShip)
+{
+    FetchLimits const limits;
+    EXPECT_EQ(limits.maxBodyBytes, 4 * 1024 * 1024);
+    EXPECT_EQ(limits.maxHeadBytes, 64 * 1024);
+    EXPECT_EQ(limits.maxRedirects, 10);
+    EXPECT_EQ(limits.connectTimeout, std::chrono::seconds(15));
+    EXPECT_EQ(limits.totalTimeout, std::chrono::seconds(60));
+    EXPECT_LE(limits.rateWindow, std::chrono::seconds(60));
+    EXPECT_EQ(limits.minBytesPerSecond, 1024);
+}
+
 TEST_F(FeedFetcherTest, DripIsTooSlow)
 {
     FetchLimits limits = ShortLimits();

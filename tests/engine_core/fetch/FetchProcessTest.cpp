@@ -7,6 +7,7 @@
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestCertificates.h"
 
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QRegularExpression>
@@ -198,6 +199,48 @@ TEST_F(FetchProcessTest, AddressThatSwallowsPacketsCostsLessThanASecond)
     EXPECT_EQ(report.bytes, 6);
     EXPECT_GE(report.milliseconds, 150) << "the other address is tried first, or nothing is shown here";
     EXPECT_LT(report.milliseconds, 1000);
+}
+
+/// A network of one's own in which every packet to 198.51.100.9, the name server too, is swallowed.
+char const BLACK_HOLE[] = "set -e\n"
+                          "ip link set lo up\n"
+                          "ip link add near type veth peer name far\n"
+                          "ip link set near up\n"
+                          "ip link set far up\n"
+                          "ip address add 198.51.100.1/24 dev near\n"
+                          "ip neighbour add 198.51.100.9 lladdr 02:00:00:00:00:02 dev near\n"
+                          "printf 'nameserver 198.51.100.9\\noptions timeout:30\\n' > \"$0/resolv.conf\"\n"
+                          "mount --bind \"$0/resolv.conf\" /etc/resolv.conf\n"
+                          "exec \"$@\"\n";
+
+class Unreachable : public FetchProcessTest, public ::testing::WithParamInterface<char const*>
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Servers, Unreachable,
+                         ::testing::Values("https://198.51.100.9/feed.xml", "https://name.example/feed.xml"));
+
+TEST_P(Unreachable, IsGivenUpAtTheDeadlineForConnecting)
+{
+    QStringList const ownNetwork{QStringLiteral("unshare"),
+                                 QStringLiteral("--map-root-user"),
+                                 QStringLiteral("--net"),
+                                 QStringLiteral("--mount"),
+                                 QStringLiteral("sh"),
+                                 QStringLiteral("-c"),
+                                 QString::fromLatin1(BLACK_HOLE),
+                                 folder.path()};
+    if (!works(ownNetwork.front(), ownNetwork.mid(1) << QStringLiteral("true")))
+    {
+        GTEST_SKIP() << "no network of one's own can be made here";
+    }
+    QElapsedTimer clock;
+    clock.start();
+    Report const report = probe(ownNetwork, {QString::fromLatin1(GetParam())});
+    EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::ConnectTimeout)) << report.all.toStdString();
+    EXPECT_GE(report.milliseconds, 14000);
+    EXPECT_LT(report.milliseconds, 18000);
+    EXPECT_LT(clock.elapsed(), report.milliseconds + 5000) << "the process does not wait for the name server";
 }
 
 /// An OpenSSL that permits every protocol and cipher that it knows.

@@ -295,9 +295,9 @@ void HttpTransfer::ReadOn()
     {
         return;
     }
-    if (m_isEnded)
+    if (m_end)
     {
-        TakeWhole();
+        TakeEnd(*m_end);
         return;
     }
     CURLcode const code = curl_easy_pause(m_curl->Handle(), CURLPAUSE_CONT);
@@ -309,6 +309,12 @@ void HttpTransfer::ReadOn()
 
 void HttpTransfer::TakeEnd(CURLcode code)
 {
+    if (!m_held.isEmpty())
+    {
+        m_isHeld = true;
+        m_end = code; // what has come goes first
+        return;
+    }
     if (m_isBodyUseless)
     {
         Close();
@@ -332,21 +338,13 @@ void HttpTransfer::TakeEnd(CURLcode code)
         Fail(MakeError(isShort ? ErrorCause::IncompleteBody : ErrorCause::IncompleteHead));
         return;
     }
-    m_isEnded = true;
-    if (m_held.isEmpty())
-    {
-        TakeWhole();
-    }
-    else
-    {
-        m_isHeld = true;
-    }
+    TakeWhole();
 }
 
 bool HttpTransfer::IsCut() const
 {
-    bool const endsWithConnection = m_plan.kind == BodyPlan::Kind::UntilClose &&
-                                    m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
+    bool const endsWithConnection =
+        m_plan.kind == BodyPlan::Kind::UntilClose && m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
     // libcurl takes the end of a secure connection for the end of the body, whoever ended it.
     return endsWithConnection && IsSecure() && !m_curl->HasSaidGoodbye();
 }

@@ -92,10 +92,10 @@ private:
     qint64 m_received = 0;
     std::deque<qint64> m_receivedAtSample; ///< of the samples of one window, the oldest first
     std::optional<ErrorCause> m_refusal;
+    std::optional<CURLcode> m_end; ///< when only what is held remains
     bool m_isBodyUseless = false;
     bool m_isSurplus = false; ///< bytes came behind the answer
     bool m_isHeld = false;    ///< by a sink without room
-    bool m_isEnded = false;   ///< but for what is held
     bool m_isClosed = false;
     QTimer m_connectTimer;
     QTimer m_rateTimer;

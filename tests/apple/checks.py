@@ -72,12 +72,13 @@ def images_of_process(image, by_install_name):
 def check_classes(image, by_install_name, framework_classes):
     """No class stands twice in the process that the file starts."""
     holders = {}
-    for member in images_of_process(image, by_install_name):
+    members = images_of_process(image, by_install_name)
+    for member in members:
         for name in member.classes:
             holders.setdefault(name, []).append(member.path.name)
-        if SPARKLE in member.libraries:
-            for name in framework_classes:
-                holders.setdefault(name, []).append("Sparkle")
+    if any(SPARKLE in member.libraries for member in members):
+        for name in framework_classes:
+            holders.setdefault(name, []).append("Sparkle")
     for name, files in sorted(holders.items()):
         if len(files) > 1:
             yield f"gets the class {name} {len(files)} times: from {', '.join(sorted(files))}"

@@ -146,6 +146,9 @@ def checked_classes(bench):
     by_install_name = {name: library}
     yield from expect(checks.check_classes(once, by_install_name, []), None, "a class that stands once")
     yield from expect(checks.check_classes(twice, by_install_name, []), "class Own 2 times", "a class that is linked twice")
+    both = bench.link("host", MAIN, "-Wl,-needed_framework,Sparkle", "-Wl,-needed_library," + str(library.path))
+    library.libraries.append(checks.SPARKLE)
+    yield from expect(checks.check_classes(both, by_install_name, ["SUUpdater"]), None, "a framework that two files load")
     double = bench.link("libPelnarUpdateChecker.dylib", USES_FRAMEWORK, INSTALL_NAME, "-framework", "Sparkle")
     double.classes.add("SUUpdater")
     yield from expect(checks.check_classes(double, {}, ["SUUpdater"]), "class SUUpdater 2 times", "a double beside the framework")

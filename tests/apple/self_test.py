@@ -48,7 +48,7 @@ class Bench:
         architecture = "x86_64" if system.startswith("10.") else ARCHITECTURE
         command = [self.tools / "clang++", f"--target={architecture}-apple-darwin", "-arch", architecture,
                    f"-mmacosx-version-min={system}", "-isysroot", self.sysroot, "-stdlib=libc++", "-std=c++17", "-Wall", "-Werror",
-                   f"-I{sysroot.PROJECT}", "-iframework", self.sysroot / "Library/Frameworks", *arguments]
+                   f"-I{sysroot.PROJECT}", "-iframework", self.sysroot / "framework", *arguments]
         return subprocess.run(list(map(str, command)), capture_output=True, text=True)
 
     def source(self, name, text):
@@ -116,7 +116,7 @@ def checked_images(bench):
     own = bench.link("libPelnarUpdateChecker.dylib", doubles, INSTALL_NAME, "-framework", "Sparkle", "-Wno-incomplete-implementation",
                      "-Wno-objc-property-implementation", "-Wno-error")
     yield from expect(checks.check_framework(own), "does not get the class SUUpdater", "a double in the framework's place")
-    host = bench.link("host", MAIN, "-Wl,-needed_framework,Sparkle", f"-F{bench.sysroot}/Library/Frameworks")
+    host = bench.link("host", MAIN, "-Wl,-needed_framework,Sparkle", f"-F{bench.sysroot}/framework")
     yield from expect(checks.check_framework(host), "only the update checker", "a host that links the framework")
 
     named = bench.link("libPelnarUpdateChecker.dylib", USES_FRAMEWORK, "-Wl,-install_name,libPelnarUpdateChecker.so", "-framework", "Sparkle")

@@ -157,7 +157,7 @@ def write_stubs(tools, unpacked, sysroot):
 
 
 def write_framework(sysroot):
-    framework = sysroot / "Library/Frameworks/Sparkle.framework"
+    framework = sysroot / "framework/Sparkle.framework"
     headers = framework / "Headers"
     headers.mkdir(parents=True)
     for header in sorted((PROJECT / "Engine/include/Sparkle").glob("*.h")):
@@ -166,7 +166,7 @@ def write_framework(sysroot):
 
 
 def framework_classes(sysroot):
-    headers = (sysroot / "Library/Frameworks/Sparkle.framework/Headers").glob("*.h")
+    headers = (sysroot / "framework/Sparkle.framework/Headers").glob("*.h")
     return sorted({name for header in headers for name in declared_classes(header)})
 
 

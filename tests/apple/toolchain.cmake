@@ -38,7 +38,8 @@ set(CMAKE_INSTALL_NAME_TOOL "${PELNAR_APPLE_TOOLS}/llvm-install-name-tool" CACHE
 set(CMAKE_FIND_USE_CMAKE_SYSTEM_PATH OFF)
 set(CMAKE_FIND_USE_SYSTEM_ENVIRONMENT_PATH ON)
 set(CMAKE_FIND_USE_PACKAGE_REGISTRY OFF)
-set(CMAKE_FRAMEWORK_PATH "${PELNAR_APPLE_SYSROOT}/System/Library/Frameworks" "${PELNAR_APPLE_SYSROOT}/Library/Frameworks")
+# The update framework stands where no compiler looks by itself: the project has to say where.
+set(CMAKE_FRAMEWORK_PATH "${PELNAR_APPLE_SYSROOT}/System/Library/Frameworks" "${PELNAR_APPLE_SYSROOT}/framework")
 foreach(package IN ITEMS Boost GTest Qt5 benchmark glog)
     set(${package}_DIR "${CMAKE_CURRENT_LIST_DIR}/packages" CACHE PATH "")
 endforeach()

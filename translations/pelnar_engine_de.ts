@@ -711,7 +711,7 @@
     </message>
     <message>
         <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
-        <translation>Das Update kann nicht beibehalten, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
+        <translation>Das Update würde ändern, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
     </message>
     <message>
         <source>The new version did not start, and the previous one is back: tell the publisher.</source>

@@ -28,19 +28,6 @@ QString target(std::variant<FetchRequest, ErrorCause> const& judgement)
                    : QStringLiteral("cause %1").arg(static_cast<int>(std::get<ErrorCause>(judgement)));
 }
 
-/// Tests scale the limits; these hold for everybody else.
-TEST(FetchPolicy, LimitsThatShipAreTight)
-{
-    FetchLimits const limits;
-    EXPECT_LE(limits.connectTimeout, std::chrono::seconds(15));
-    EXPECT_LE(limits.totalTimeout, std::chrono::seconds(60));
-    EXPECT_LE(limits.rateWindow, std::chrono::seconds(60));
-    EXPECT_GE(limits.minBytesPerSecond, 1024);
-    EXPECT_LE(limits.maxRedirects, 10);
-    EXPECT_LE(limits.maxHeadBytes, 64 * 1024);
-    EXPECT_LE(limits.maxBodyBytes, 4 * 1024 * 1024);
-}
-
 TEST(FetchPolicy, LoopbackIsANameOrAnAddressOfThisComputer)
 {
     for (char const* const text : {"http://localhost/", "http://127.0.0.1/", "http://127.9.8.7/", "http://[::1]/"})

@@ -366,10 +366,12 @@ bool InstalledDemo::Crash(QString const& feed, QStringList const& arguments, int
     {
         wasDue = isDue();
     } while (!wasDue && timer.elapsed() < PATIENCE_MS && !process.waitForFinished(LOOK_AGAIN_MS));
-    ::kill(static_cast<pid_t>(process.processId()), wasDue ? signal : SIGKILL);
+    auto const demo = static_cast<pid_t>(process.processId());
+    bool const isSent =
+        demo > 0 && ::kill(demo, wasDue ? signal : SIGKILL) == 0; // 0 would be this test and all beside it
     std::string text;
     bool const hasEnded = pipe.ReadToEnd(text) && process.waitForFinished();
-    return wasDue && hasEnded;
+    return wasDue && isSent && hasEnded;
 }
 
 Engine::ContentHash InstalledDemo::Tree() const

@@ -69,7 +69,7 @@ public:
 
     void Tell(QByteArray const& line) { m_process.write(line + '\n'); }
     void EndInput() { m_process.closeWriteChannel(); }
-    void Kill() { ::kill(static_cast<pid_t>(m_process.processId()), SIGKILL); }
+    void Kill() { m_process.kill(); }
     [[nodiscard]] bool HasEnded() const
     {
         return WaitFor([this] { return m_process.state() == QProcess::NotRunning; }, PATIENCE_MS);

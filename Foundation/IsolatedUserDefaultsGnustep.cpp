@@ -59,6 +59,8 @@ IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
         qFatal("cannot write %s", qPrintable(config.fileName()));
     }
     config.close();
+    // Foundation passes over one that others may change, whatever the mask for new files is.
+    config.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
     RefreshFoundationsEnvironment();
 }

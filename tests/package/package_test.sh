@@ -19,6 +19,7 @@ library=$(dirname "$(find "$work/installed" -name 'libPelnarUpdateChecker.so.*' 
 [ -z "$(find "$work/installed" -name '*_p.h')" ] || { echo "private headers were installed"; exit 1; }
 readelf -d "$library/libPelnarUpdateChecker.so" | grep -q 'SONAME.*libPelnarUpdateChecker\.so\.1\]'
 
+umask 022 # Foundation passes over what others may change
 echo "GNUSTEP_USER_DEFAULTS_DIR=$work/Defaults" > "$work/GNUstep.conf"
 export GNUSTEP_CONFIG_FILE="$work/GNUstep.conf" QT_QPA_PLATFORM=offscreen
 

@@ -12,10 +12,13 @@
 #include <cstdlib>
 #include <iostream>
 
+#include <sys/stat.h>
+
 constexpr int EXIT_SKIPPED = 77; // as tests/CMakeLists.txt has it
 
 int main(int argc, char** argv)
 {
+    ::umask(S_IWGRP | S_IWOTH); // files that others may change are not trusted; tests of them make their own
     Pelnar::Foundation::IsolatedUserDefaults const defaults;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     {

@@ -94,7 +94,7 @@ mode_t BitsWithin(BundleRights const& rights)
     return S_IRWXU | group | others;
 }
 
-void GiveRights(int bundleFd, BundleRights const& rights)
+bool GiveRights(int bundleFd, BundleRights const& rights)
 {
     BundleRights const present = RightsOf(bundleFd);
     bool const isOfGroup = present.group == rights.group;
@@ -102,7 +102,7 @@ void GiveRights(int bundleFd, BundleRights const& rights)
     bool const hasList = present.accessList == rights.accessList;
     if (isOfGroup && hasMode && hasList)
     {
-        return;
+        return false;
     }
     if (!isOfGroup || BitsWithin(rights) != 0777)
     {
@@ -122,10 +122,7 @@ void GiveRights(int bundleFd, BundleRights const& rights)
     {
         Fail();
     }
-    if (::syncfs(bundleFd) != 0)
-    {
-        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
-    }
+    return true;
 }
 
 } // namespace Pelnar::Installer

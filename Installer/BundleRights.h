@@ -25,7 +25,8 @@ mode_t BitsWithin(BundleRights const& rights);
 
 /// Gives the bundle at \a bundleFd, whose files are as they were packed, these rights: to its folder its mode and its
 /// access list, to all that is in it the group and no more than BitsWithin(). Throws UpdateRefusal: RightsNotKept, when
-/// somebody could read more or less of it than of the installed one.
-void GiveRights(int bundleFd, BundleRights const& rights);
+/// somebody could read more or less of it than of the installed one. True when something was changed, which is not on
+/// the disk yet.
+[[nodiscard]] bool GiveRights(int bundleFd, BundleRights const& rights);
 
 } // namespace Pelnar::Installer

@@ -154,7 +154,10 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
         return;
     }
     BundleRights const rights = RightsOf(target.Get());
-    GiveRights(staged.Get(), rights);
+    if (GiveRights(staged.Get(), rights) && !Engine::SyncTree(staged.Get()))
+    {
+        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
     Engine::SwapJournal journal{job.stagingName, job.stagedName, job.installedVersion, job.expectedVersion};
     journal.confirmation = ConfirmationOf(job, staged.Get());
     WriteSwapJournal(descriptors.parent, job.targetName, journal);

@@ -102,21 +102,6 @@ Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDesc
                                           : Engine::UnpackArchive(archiveFd, descriptors.staging, progress);
 }
 
-/// Once for all files: half the time of a call for each. A failure is final, for the kernel forgets what it could not
-/// write.
-void SyncStaged(int stagingFd)
-{
-    if (::syncfs(stagingFd) == 0)
-    {
-        return;
-    }
-    bool const isMissing = errno == ENOSYS || errno == EPERM;
-    if (!isMissing || !Engine::SyncTree(stagingFd))
-    {
-        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
-    }
-}
-
 } // namespace
 
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
@@ -136,7 +121,10 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
     CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
                    {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
-    SyncStaged(descriptors.staging);
+    if (!Engine::SyncTree(descriptors.staging))
+    {
+        Engine::ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
     report.Send(Engine::PreparedReport{bundle.digest, bundle.name});
 }
 

@@ -3,6 +3,7 @@
 #include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"
+#include "Installer/BundleRights.h"
 #include "Installer/Confinement.h"
 #include "Installer/SwapBundle.h"
 #include "Installer/SwapLock.h"
@@ -59,11 +60,23 @@ void MakeFolder(int parentFd, char const* name)
     }
 }
 
-/// The exchange of two folders, one of them beside the bundle, with all that makes it last.
+Engine::UniqueFd OpenFolder(int parentFd, std::string const& name)
+{
+    Engine::UniqueFd folder(::openat(parentFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    if (!folder)
+    {
+        Engine::ThrowErrno(errno);
+    }
+    return folder;
+}
+
+/// The exchange of a folder that has the bundle's rights with one beside the bundle, with all that makes it last.
 void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     Standin const standin(descriptors.parent, targetName);
     MakeFolder(descriptors.staging, NEW_NAME);
+    static_cast<void>(GiveRights(OpenFolder(descriptors.staging, NEW_NAME).Get(),
+                                 RightsOf(OpenFolder(descriptors.parent, targetName).Get())));
     Engine::WriteNote(descriptors.staging, "note", "rehearsed");
     SwapBundle(descriptors.parent, standin.Name(), descriptors.staging, {{}, NEW_NAME, {}, {}});
 }

@@ -218,6 +218,14 @@ ContentHash DigestTree(int folderFd, std::uint32_t bitsWithin)
 
 bool SyncTree(int folderFd)
 {
+    if (::syncfs(folderFd) == 0)
+    {
+        return true;
+    }
+    if (errno != ENOSYS && errno != EPERM)
+    {
+        return false;
+    }
     bool isSynced = true;
     int failure = 0;
     auto const sync = [&](std::string const&, int parentFd, std::string const& name, struct stat const& status)

@@ -48,8 +48,9 @@ private:
 /// another file system stays. True when nothing of that name is left.
 [[nodiscard]] bool RemoveTree(int parentFd, std::string const& name);
 
-/// Writes all files and folders below \a folderFd, and the folder itself, to the disk. False, with errno, when one of
-/// them may not be there.
+/// Writes all files and folders below \a folderFd, and the folder itself, to the disk: by one call for the file system,
+/// which takes half the time of a call for each, or one by one where the system lacks it. False, with errno, when one of
+/// them may not be there. That is final, for the kernel forgets what it could not write.
 [[nodiscard]] bool SyncTree(int folderFd);
 
 /// Calls \a visit for each entry below \a folderFd, folders before what they hold: the path from there, the folder that

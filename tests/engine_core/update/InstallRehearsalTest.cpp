@@ -100,6 +100,22 @@ TEST(InstallRehearsal, NamesMayHoldAnything)
     }
 }
 
+TEST(InstallRehearsal, RightsThatCannotBeKeptAreTold)
+{
+    constexpr gid_t OTHER_GROUP = 4711;
+    RehearsalScene const scene;
+    if (::chown(scene.Bundle().c_str(), static_cast<uid_t>(-1), OTHER_GROUP) != 0)
+    {
+        GTEST_SKIP() << "this user cannot give a file to another group";
+    }
+    for (mode_t const mode : {0750, 0755})
+    {
+        ASSERT_EQ(::chmod(scene.Bundle().c_str(), mode), 0);
+        EXPECT_EQ(Told(scene.Bundle()), "ready") << mode;
+        EXPECT_EQ(scene.ToldWithout(SYS_fchown, EPERM), mode == 0750 ? "RightsNotKept" : "ready") << mode;
+    }
+}
+
 struct CallRow
 {
     char const* name;

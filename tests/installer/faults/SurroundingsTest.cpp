@@ -131,6 +131,23 @@ TEST_P(WithoutCall, UpdatesAreInstalledAllTheSame)
     EXPECT_EQ(answer, "updated");
 }
 
+/// Its rights carry over, which changes files that are on the disk already.
+TEST_P(WithoutCall, BundleThatOthersMayNotEnterIsUpdatedAllTheSame)
+{
+    std::string const answer = InChild(
+        []
+        {
+            UpdateScene scene;
+            std::filesystem::permissions(scene.Place().Path() + '/' + APP, std::filesystem::perms::owner_all);
+            FailCall(GetParam().call, GetParam().errorNumber);
+            InstallJob const job = scene.PrepareForInstall();
+            scene.Host().End();
+            HelperOutcome const outcome = scene.Install(job);
+            return outcome.exitStatus == 0 ? outcome.output.substr(0, 3) : std::string(FaultName(outcome.Fault()));
+        });
+    EXPECT_EQ(answer, "2.0");
+}
+
 INSTANTIATE_TEST_SUITE_P(Rows, WithoutCall,
                          testing::Values(MissingCall{"OpenBeneathMissing", SYS_openat2, ENOSYS},
                                          MissingCall{"OpenBeneathFiltered", SYS_openat2, EPERM},

@@ -131,6 +131,8 @@ std::vector<Surroundings> Locales()
 QProcessEnvironment EnvironmentWith(Surroundings const& surroundings)
 {
     QProcessEnvironment environment;
+    // What the leak checker lets pass in the C library.
+    environment.insert(QStringLiteral("LSAN_OPTIONS"), qEnvironmentVariable("LSAN_OPTIONS"));
     for (std::string const& variable : surroundings.variables)
     {
         std::size_t const equals = variable.find('=');

@@ -24,6 +24,8 @@ struct stat
     int64_t st_qspare[2];
 };
 
+#define S_IWGRP 0000020
+#define S_IWOTH 0000002
 #define S_IFMT 0170000
 #define S_IFDIR 0040000
 #define S_IFREG 0100000
@@ -33,6 +35,7 @@ struct stat
 __BEGIN_DECLS
 int chmod(char const*, mode_t);
 int mkdir(char const*, mode_t);
+mode_t umask(mode_t);
 // With 64-bit inode numbers, which Intel's older calls do not have.
 #ifdef __x86_64__
 int fstat(int, struct stat*) __asm("_fstat$INODE64");

@@ -248,6 +248,7 @@ void HttpTransfer::Deliver(char const* bytes, qint64 size)
         if (count == 0)
         {
             m_held.append(bytes, static_cast<int>(size));
+            m_isHeld = true; // the sink says when it has room, and says it once
             return;
         }
         std::memcpy(room.data, bytes, static_cast<std::size_t>(count));
@@ -311,7 +312,6 @@ void HttpTransfer::TakeEnd(CURLcode code)
 {
     if (!m_held.isEmpty())
     {
-        m_isHeld = true;
         m_end = code; // what has come goes first
         return;
     }

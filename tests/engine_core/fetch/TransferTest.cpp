@@ -4,6 +4,8 @@
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/TestCertificates.h"
 
+#include <QPointer>
+
 #include <array>
 #include <cerrno>
 
@@ -114,6 +116,27 @@ TEST_F(TransferTest, WhatHasComeGoesToTheSinkBeforeTheFailureIsTold)
     EXPECT_TRUE(WaitFor([this] { return cause.has_value(); }));
     EXPECT_EQ(cause, ErrorCause::IncompleteBody);
     EXPECT_EQ(sink.taken, part);
+}
+
+TEST_F(TransferTest, SinkThatOpensBeforeTheConnectionBreaksIsNotWaitedForOnceMore)
+{
+    QByteArray const part = Numbers(2000); // few enough to come at once
+    QPointer<QSslSocket> connection;
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const&, int)
+        {
+            connection = &socket;
+            socket.write("HTTP/1.1 200 OK\r\nContent-Length: 300000\r\n\r\n" + part);
+        });
+    sink.closesAt = 100;
+    Open(server.Url());
+    ASSERT_TRUE(WaitFor([this] { return !sink.isOpen; }));
+    OpenSink();
+    EXPECT_TRUE(WaitFor([&] { return sink.taken == part; })) << "what waits goes when there is room";
+    ASSERT_TRUE(connection);
+    connection->disconnectFromHost();
+    EXPECT_TRUE(WaitFor([this] { return cause.has_value(); }));
+    EXPECT_EQ(cause, ErrorCause::IncompleteBody);
 }
 
 TEST_F(TransferTest, SinkThatIsClosedIsNoSlowServer)

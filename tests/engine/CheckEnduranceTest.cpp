@@ -140,8 +140,7 @@ TEST_F(CheckEndurance, ThousandChecksLeaveNothingBehind)
     ProcessFootprint const before = MeasureFootprint();
     int const filesBefore = TemporaryFiles();
     Check(isEvery ? 1000 / ROUND : 5);
-    ProcessFootprint const after = MeasureFootprint();
-    ExpectNoGrowth(before, after);
+    ProcessFootprint const after = ExpectNoGrowth(before);
     EXPECT_EQ(TemporaryFiles(), filesBefore);
     RecordProperty("kibibytes_before", static_cast<int>(before.residentKibibytes));
     RecordProperty("kibibytes_after", static_cast<int>(after.residentKibibytes));

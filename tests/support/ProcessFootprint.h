@@ -17,8 +17,8 @@ struct ProcessFootprint
 
 ProcessFootprint MeasureFootprint();
 
-/// Fails unless \a after is \a before, but for one hundredth of the memory. Sanitizers keep freed blocks: under them
-/// the memory does not count.
-void ExpectNoGrowth(ProcessFootprint const& before, ProcessFootprint const& after);
+/// Fails unless this process soon holds no more than \a before, but for one hundredth of the memory. Sanitizers keep
+/// freed blocks: under them the memory does not count. Answers what it holds now.
+ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before);
 
 } // namespace Pelnar::Testing

@@ -1,14 +1,13 @@
 #include "tests/support/ProcessFootprint.h"
 
+#include "tests/support/DialogDriver.h"
 #include "tests/support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <chrono>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -17,9 +16,6 @@ namespace Pelnar::Testing
 {
 namespace
 {
-
-/// So many times, with 10 ms between them, a thread is waited for that has done its work and ends.
-constexpr int MOST_LOOKS = 1000;
 
 /// A pipe's or a socket's number is another every time.
 std::string KindOf(std::string const& target)
@@ -59,20 +55,17 @@ ProcessFootprint MeasureFootprint()
 
 ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before)
 {
-    ProcessFootprint after = MeasureFootprint();
+    ProcessFootprint after;
     auto const hasNoMore = [&]
     {
+        after = MeasureFootprint();
         return after.threads <= before.threads && std::includes(before.descriptors.begin(), before.descriptors.end(),
                                                                 after.descriptors.begin(), after.descriptors.end());
     };
-    for (int look = 0; look < MOST_LOOKS && !hasNoMore(); ++look)
-    {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        after = MeasureFootprint();
-    }
-    EXPECT_TRUE(hasNoMore()) << after.threads << " threads instead of " << before.threads << ", descriptors "
-                             << testing::PrintToString(after.descriptors) << " instead of "
-                             << testing::PrintToString(before.descriptors);
+    // A thread that has done its work is not gone yet.
+    EXPECT_TRUE(WaitFor(hasNoMore)) << after.threads << " threads instead of " << before.threads << ", descriptors "
+                                    << testing::PrintToString(after.descriptors) << " instead of "
+                                    << testing::PrintToString(before.descriptors);
     EXPECT_GT(before.residentKibibytes, 0);
     if (!IS_SANITIZED)
     {

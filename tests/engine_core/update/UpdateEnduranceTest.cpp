@@ -105,7 +105,7 @@ TEST_F(UpdateEndurance, HundredVersionsInstalledAndTakenBackLeaveNothingBehind)
     {
         InstallAndTakeBack();
     }
-    ExpectNoGrowth(before);
+    ProcessFootprint const after = ExpectNoGrowth(before);
     EXPECT_EQ(scene.Place().Names(), names);
     EXPECT_EQ(scene.Downloads().Names(), std::vector<std::string>{"update"});
     EXPECT_EQ(TreeOf(scene.Place().Path() + '/' + APP), tree);

@@ -10,8 +10,8 @@ namespace Pelnar::App
 {
 
 /// In each of these the observer may register and unregister observers, call the manager, start dialogs of its own and
-/// destroy the manager's Qt parent, and the manager with it: nobody is called after that. What it throws ends the
-/// notification and reaches whoever runs the dialog, which ends the check.
+/// destroy the manager's Qt parent, and the manager with it: nobody is called after that. An exception ends the
+/// notification and the check, and propagates to the caller of the dialog.
 class PELNAR_EXPORT IUpdateManagerObserver
 {
 public:

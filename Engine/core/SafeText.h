@@ -11,10 +11,10 @@ namespace Pelnar::Engine
 /// True for a character beyond ASCII as IsHidden().
 [[nodiscard]] bool IsHiddenBeyondAscii(char32_t codePoint);
 
-/// True for a character that a person does not see, or that changes how others are seen: controls (line ends and tabs
-/// too), line and paragraph separators, whatever turns the writing direction, joins or parts characters without a
-/// width, selects variants, annotates or tags; for halves of characters, for those without a meaning of their own
-/// (private use) and for those that are none. A place that wants line ends and tabs asks for them first.
+/// True for a character that a person does not see, or that changes how others are seen. These are: controls (line ends
+/// and tabs too), line and paragraph separators, direction marks, joiners and other characters without a width,
+/// variation selectors, annotations, tags, single surrogates, private use, and numbers that Unicode gives no character.
+/// A place that wants line ends and tabs asks for them first.
 [[nodiscard]] inline bool IsHidden(char32_t codePoint)
 {
     return codePoint < 0x20 || (codePoint >= 0x7F && IsHiddenBeyondAscii(codePoint));

@@ -305,7 +305,7 @@ BackOffState ReadBackOff()
     return state;
 }
 
-/// One for each application; the identifier is a name, whatever it holds.
+/// One folder for each application. It is named so that no identifier can lead elsewhere.
 QString DownloadFolderFor(QString const& identifier)
 {
     QByteArray const name = QUrl::toPercentEncoding(identifier, {}, ".");

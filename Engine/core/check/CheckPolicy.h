@@ -39,7 +39,7 @@ struct OfferQuestion
     QString bundleVersion;  ///< empty when the bundle gives none: the choice stands
     QString skippedVersion; ///< empty when the user skipped none
     QString failedVersion;  ///< empty when none was taken back for the running one
-    /// Empty when there is none: background checks leave it alone, since its installation has failed.
+    /// Its installation has failed, so background checks do not offer it; empty when no version is held back.
     QString heldBackVersion = {};
 };
 

@@ -27,7 +27,7 @@ namespace
 constexpr std::string_view MAGIC = "PELNARF1";
 constexpr int LONGEST_WAIT_MS = 500;
 
-/// A moment before 1970 is none that a feed can have come at.
+/// No feed can have come before 1970.
 std::uint64_t NumberOf(QDateTime const& time)
 {
     return time.isValid() ? static_cast<std::uint64_t>(std::max<qint64>(0, time.toSecsSinceEpoch())) : 0;
@@ -83,7 +83,7 @@ std::optional<FeedRecord> DecodeFeedRecord(std::string_view bytes)
 
 QString FeedRecordPath(QString const& folder, QString const& bundleIdentifier)
 {
-    // The identifier is a name, whatever it holds.
+    // Encoded, so that an identifier with a slash names no other folder.
     return folder + QStringLiteral("/PelnarFeeds/") +
            QString::fromLatin1(QUrl::toPercentEncoding(bundleIdentifier, {}, ".")) + QStringLiteral(".feed");
 }

@@ -91,7 +91,7 @@ struct DeltaManifestVerdict
 
 /// REQUIRES: a manifest that CheckDeltaManifest accepts.
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
-/// Reads \a bytes, whole, and holds them to every rule; \a manifest is complete only when the error is None.
+/// Reads all \a bytes and applies every rule. Use \a manifest only if the verdict has no error.
 [[nodiscard]] DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules that a decoded manifest keeps, for one that is being made.
 [[nodiscard]] DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);

@@ -52,6 +52,7 @@ void FillNagScreen(std::shared_ptr<NagScreens> const& nagScreens, DemoOptions co
         nagScreens->SetUnavailable(MajorUpdate);
         break;
     case NagContent::Later:
+        nagScreens->ExpectContent(MajorUpdate);
         QTimer::singleShot(NAG_CONTENT_DELAY, nagScreens.get(),
                            [manager = nagScreens.get(), content] { manager->SetContent(MajorUpdate, content); });
         break;

@@ -27,12 +27,13 @@ public:
     Application(int& argc, char** argv);
     ~Application() override;
 
-    /// The process's application object. REQUIRES: it is a Pelnar::App::Application.
+    /// The process's application object. REQUIRES: it is a Pelnar::App::Application. (A check for updates that finds
+    /// another one does not start: std::logic_error.)
     static Application* Instance() { return static_cast<Application*>(QCoreApplication::instance()); }
 
     /// The three services of a check; the updater takes them once for each check, in this order. A check without a
-    /// customization or a links service does not start: std::logic_error. The nag screens are not tested against null;
-    /// they are used when a major update is found.
+    /// customization or a links service does not start: std::logic_error. Without nag screens (null) a major update is
+    /// offered in the update dialog.
     virtual std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const = 0;
     virtual std::shared_ptr<ICustomizationManager> GetCustomizationManager() const = 0;
     virtual std::shared_ptr<ILinksManager> GetLinksManager() const = 0;

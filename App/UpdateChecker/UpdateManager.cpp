@@ -7,6 +7,7 @@
 
 #include <QPointer>
 
+#include <stdexcept>
 #include <utility>
 
 namespace Pelnar::App
@@ -26,6 +27,15 @@ UpdateManager::Initializer MakeInitializer(QObject* parent, bool automatic,
     initializer.parentWidgetGetter = std::move(parentWidgetGetter);
     initializer.observers = observers;
     return initializer;
+}
+
+void RequireHostApplication()
+{
+    if (!qobject_cast<Application*>(QCoreApplication::instance()))
+    {
+        throw std::logic_error("A check for updates needs a Pelnar::App::Application: make one in main() in place of "
+                               "QApplication, before the first check.");
+    }
 }
 
 } // namespace
@@ -56,6 +66,7 @@ void UpdateManager::CheckForUpdates(Initializer const& initializer)
     {
         return;
     }
+    RequireHostApplication();
     // Apart from the construction: the host, which is called from here on, may destroy the manager. An exception that
     // left the constructor would then destroy it once more.
     QPointer<UpdateManager> const manager(new UpdateManager(initializer)); // deletes itself

@@ -42,7 +42,8 @@ public:
 
     // The entry points. While a manager lives each of them returns at once and does nothing. What the start of a check
     // throws leaves here: std::logic_error when the host has no links or no customization service, and what the host
-    // throws itself. The manager is freed then, and further checks are dropped for the rest of the process.
+    // throws itself. The manager is freed then, and further checks are dropped for the rest of the process. Where the
+    // application object is no Pelnar::App::Application, each call throws std::logic_error and no manager is made.
 
     /// A check started by the user, or, when \a automatic, by the application; the dialog is run at once.
     static void CheckForUpdates(QObject* parent, bool automatic, std::function<QWidget*()> parentWidgetGetter,

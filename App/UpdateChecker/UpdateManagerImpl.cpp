@@ -83,7 +83,8 @@ void UpdateManager::Impl::ProposeNagOrDialog()
 {
     QPointer<Impl> const self(this);
     std::shared_ptr<NagScreen::Manager> const service = nagScreenManager;
-    int const contentState = service->GetContentState(NagScreen::MajorUpdate);
+    int const contentState =
+        service ? service->GetContentState(NagScreen::MajorUpdate) : NagScreen::CONTENT_UNAVAILABLE;
     if (!self)
     {
         return;

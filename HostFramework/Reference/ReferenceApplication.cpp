@@ -3,7 +3,7 @@
 #include "Foundation/QuitAnnouncement.h"
 #include "HostFramework/ICustomizationManager.h"
 #include "HostFramework/ILinksManager.h"
-#include "HostFramework/NagScreenManager.h"
+#include "HostFramework/Reference/ReferenceNagScreenManager.h"
 #include "common/ValueGuard.h"
 
 #include <QCloseEvent>
@@ -11,6 +11,8 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <stdexcept>
+#include <string>
 #include <vector>
 
 namespace Pelnar::App
@@ -32,10 +34,23 @@ std::vector<QPointer<QWidget>> WindowsToAsk()
     return {widgets.begin(), widgets.end()};
 }
 
+template <typename Service>
+std::shared_ptr<Service> Required(std::shared_ptr<Service> const& service, char const* name)
+{
+    if (!service)
+    {
+        throw std::logic_error("The application has no " + std::string(name) +
+                               " service: give one to ReferenceApplication::SetServices() before the first check for "
+                               "updates.");
+    }
+    return service;
+}
+
 } // namespace
 
 ReferenceApplication::ReferenceApplication(int& argc, char** argv) : Application(argc, argv)
 {
+    SetServices({});
     Foundation::AnnounceQuitOf(*this);
 }
 
@@ -44,6 +59,10 @@ ReferenceApplication::~ReferenceApplication() = default;
 void ReferenceApplication::SetServices(ReferenceServices const& services)
 {
     m_services = services;
+    if (!m_services.nagScreenManager)
+    {
+        m_services.nagScreenManager = std::make_shared<NagScreen::ReferenceManager>();
+    }
 }
 
 std::shared_ptr<NagScreen::Manager> ReferenceApplication::GetNagScreenManager() const
@@ -53,12 +72,12 @@ std::shared_ptr<NagScreen::Manager> ReferenceApplication::GetNagScreenManager() 
 
 std::shared_ptr<ICustomizationManager> ReferenceApplication::GetCustomizationManager() const
 {
-    return m_services.customizationManager;
+    return Required(m_services.customizationManager, "customization");
 }
 
 std::shared_ptr<ILinksManager> ReferenceApplication::GetLinksManager() const
 {
-    return m_services.linksManager;
+    return Required(m_services.linksManager, "links");
 }
 
 bool ReferenceApplication::TryToQuit()

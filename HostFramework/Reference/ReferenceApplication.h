@@ -14,7 +14,7 @@ namespace Pelnar::App
 /// What a host lends to the updater.
 struct ReferenceServices
 {
-    std::shared_ptr<NagScreen::Manager> nagScreenManager;
+    std::shared_ptr<NagScreen::Manager> nagScreenManager; ///< null: one without content
     std::shared_ptr<ICustomizationManager> customizationManager;
     std::shared_ptr<ILinksManager> linksManager;
 };
@@ -31,7 +31,9 @@ public:
     /// Replaces all three services. Call it before the first check; a check that runs keeps those it was started with.
     void SetServices(ReferenceServices const& services);
 
+    /// Never null: a host without nag screens has none available.
     std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const override;
+    /// Both throw std::logic_error when the host has not given the service to SetServices.
     std::shared_ptr<ICustomizationManager> GetCustomizationManager() const override;
     std::shared_ptr<ILinksManager> GetLinksManager() const override;
 

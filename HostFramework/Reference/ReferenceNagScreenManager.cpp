@@ -49,34 +49,37 @@ ReferenceManager::~ReferenceManager()
     }
 }
 
+void ReferenceManager::ExpectContent(QString const& name)
+{
+    if (GetContentState(name) != CONTENT_AVAILABLE)
+    {
+        Set(name, {CONTENT_UNKNOWN, {}});
+    }
+}
+
 void ReferenceManager::SetContent(QString const& name, Content const& content)
 {
-    Set(name, {true, content});
+    Set(name, {CONTENT_AVAILABLE, content});
 }
 
 void ReferenceManager::SetUnavailable(QString const& name)
 {
-    Set(name, {false, {}});
+    Set(name, {});
 }
 
 void ReferenceManager::Set(QString const& name, Entry const& entry)
 {
-    bool const wasUnknown = !m_entries.contains(name);
+    bool const wasUnknown = GetContentState(name) == CONTENT_UNKNOWN;
     m_entries.insert(name, entry);
-    if (wasUnknown)
+    if (wasUnknown && entry.state != CONTENT_UNKNOWN)
     {
-        Q_EMIT NagAvailable(name, entry.isAvailable);
+        Q_EMIT NagAvailable(name, entry.state == CONTENT_AVAILABLE);
     }
 }
 
 int ReferenceManager::GetContentState(QString const& name) const
 {
-    auto const entry = m_entries.constFind(name);
-    if (entry == m_entries.constEnd())
-    {
-        return CONTENT_UNKNOWN;
-    }
-    return entry->isAvailable ? CONTENT_AVAILABLE : CONTENT_UNAVAILABLE;
+    return m_entries.value(name).state;
 }
 
 void ReferenceManager::Show(QString const& name)

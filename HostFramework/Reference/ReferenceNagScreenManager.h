@@ -1,5 +1,5 @@
-// ReferenceNagScreenManager.h: the nag screens of the reference host framework: content that the host gives, sooner or
-// later, and a window for each name.
+// ReferenceNagScreenManager.h: the nag screens of the reference host framework: content that the host gives, at once or
+// later, and a window for each name. A name of which the host has said nothing has no nag screen.
 // Thread: the Qt main thread. Ownership: owns the windows that it shows; they go when they are closed or with it.
 #pragma once
 
@@ -33,8 +33,11 @@ public:
     explicit ReferenceManager(QObject* parent = nullptr);
     ~ReferenceManager() override;
 
-    /// Gives \a name its content, or takes the answer that there is none. A name that has had neither is
-    /// CONTENT_UNKNOWN; the call that ends this emits NagAvailable, later ones change the content only.
+    /// Says that the content of \a name is being loaded: the name is CONTENT_UNKNOWN until SetContent or SetUnavailable
+    /// follows. A major update that is found meanwhile waits, and so does every further check: call SetUnavailable when
+    /// loading fails. A name that has content keeps it.
+    void ExpectContent(QString const& name);
+    /// Gives \a name its content, or takes it away. NagAvailable is emitted when this ends CONTENT_UNKNOWN.
     void SetContent(QString const& name, Content const& content);
     void SetUnavailable(QString const& name);
 
@@ -54,12 +57,12 @@ Q_SIGNALS:
 private:
     struct Entry
     {
-        bool isAvailable = false;
+        ContentState state = CONTENT_UNAVAILABLE;
         Content content;
     };
     void Set(QString const& name, Entry const& entry);
 
-    QHash<QString, Entry> m_entries; // a name without an entry is unknown yet
+    QHash<QString, Entry> m_entries; // a name without an entry is unavailable
     QHash<QString, QPointer<QWidget>> m_windows;
 };
 

@@ -135,8 +135,8 @@ TEST_F(UpdateFlow, ResultOfAnotherThreadRunsTheFlowOnItsOwn)
 {
     Start(UpdateCheckMode::Automatic);
     session.contexts.back()->remoteVersion = Version(6, 0);
-    std::thread(
-        [] { Q_EMIT UpdateManagerTestAccess::Updater().NotifyCheckFinished(UpdateCheckResult::UpdateAvailable); })
+    std::thread([]
+                { Q_EMIT UpdateManagerTestAccess::Updater().NotifyCheckFinished(UpdateCheckResult::UpdateAvailable); })
         .join();
     EXPECT_EQ(journal, Journal());
     QCoreApplication::processEvents();
@@ -232,6 +232,17 @@ TEST_F(UpdateFlow, MissingNagOfASilentCheckTellsTheObserversOnly)
     Turn();
     EXPECT_EQ(journal, FOUND_ONLY);
     EXPECT_EQ(Current(), nullptr);
+}
+
+TEST_F(UpdateFlow, WithoutANagServiceAMajorUpdateTakesTheWayOfAnyOther)
+{
+    application.nagScreenManager.reset();
+    Check(AUTOMATIC, Version(6, 0));
+    EXPECT_EQ(journal, DIALOG);
+    EXPECT_EQ(Current(), nullptr) << "later checks are not dropped";
+    journal.clear();
+    Check(SILENT, Version(6, 0));
+    EXPECT_EQ(journal, FOUND_ONLY);
 }
 
 TEST_F(UpdateFlow, EachAnnouncementBeforeTheDeletionIsFollowed)

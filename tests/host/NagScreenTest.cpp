@@ -52,17 +52,48 @@ TEST_F(NagScreenTest, TheNameOfTheMajorUpdateIsFixed)
     EXPECT_EQ(MajorUpdate, QStringLiteral("major_update"));
 }
 
+TEST_F(NagScreenTest, NameOfWhichTheHostHasSaidNothingHasNoScreen)
+{
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 1);
+    m_manager.SetContent(OTHER, CONTENT);
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 1);
+    EXPECT_TRUE(m_signals.empty()) << "nobody had to wait";
+}
+
+TEST_F(NagScreenTest, ContentThatIsExpectedIsUnknownUntilItIsThere)
+{
+    m_manager.ExpectContent(MajorUpdate);
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 0);
+    m_manager.ExpectContent(MajorUpdate);
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 0);
+    EXPECT_TRUE(m_signals.empty());
+    m_manager.SetContent(MajorUpdate, CONTENT);
+    EXPECT_EQ(m_signals, (Signals{{MajorUpdate, true}}));
+    m_manager.ExpectContent(MajorUpdate);
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 2) << "what is there stays";
+}
+
+TEST_F(NagScreenTest, ContentThatWasTakenAwayMayBeExpected)
+{
+    m_manager.SetUnavailable(MajorUpdate);
+    m_manager.ExpectContent(MajorUpdate);
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 0);
+    m_manager.SetUnavailable(MajorUpdate);
+    EXPECT_EQ(m_signals, (Signals{{MajorUpdate, false}}));
+}
+
 TEST_F(NagScreenTest, ContentLoadedLaterEndsTheUnknownStateWithTheSignal)
 {
-    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 0);
+    m_manager.ExpectContent(MajorUpdate);
     m_manager.SetContent(MajorUpdate, CONTENT);
     EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 2);
-    EXPECT_EQ(m_manager.GetContentState(OTHER), 0);
+    EXPECT_EQ(m_manager.GetContentState(OTHER), 1);
     EXPECT_EQ(m_signals, (Signals{{MajorUpdate, true}}));
 }
 
 TEST_F(NagScreenTest, TheAnswerThatThereIsNoneEndsTheUnknownStateToo)
 {
+    m_manager.ExpectContent(MajorUpdate);
     m_manager.SetUnavailable(MajorUpdate);
     EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 1);
     EXPECT_EQ(m_signals, (Signals{{MajorUpdate, false}}));
@@ -70,6 +101,7 @@ TEST_F(NagScreenTest, TheAnswerThatThereIsNoneEndsTheUnknownStateToo)
 
 TEST_F(NagScreenTest, TheStateIsRightWhenTheSignalArrives)
 {
+    m_manager.ExpectContent(MajorUpdate);
     int state = -1;
     QObject::connect(&m_manager, &Manager::NagAvailable, &m_manager,
                      [&](QString const& name, bool) { state = m_manager.GetContentState(name); });
@@ -79,6 +111,7 @@ TEST_F(NagScreenTest, TheStateIsRightWhenTheSignalArrives)
 
 TEST_F(NagScreenTest, LaterChangesAreNotAnnounced)
 {
+    m_manager.ExpectContent(MajorUpdate);
     m_manager.SetUnavailable(MajorUpdate);
     m_manager.SetContent(MajorUpdate, CONTENT);
     EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 2);

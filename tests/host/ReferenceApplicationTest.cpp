@@ -74,10 +74,6 @@ private:
 TEST_F(ReferenceApplicationTest, IsTheProcessesApplicationAndLendsItsServices)
 {
     EXPECT_EQ(Application::Instance(), &App());
-    EXPECT_EQ(App().GetNagScreenManager(), nullptr);
-    EXPECT_EQ(App().GetCustomizationManager(), nullptr);
-    EXPECT_EQ(App().GetLinksManager(), nullptr);
-
     ReferenceServices const services{std::make_shared<NagScreen::ReferenceManager>(),
                                      std::make_shared<ReferenceCustomizationManager>(Customization{}),
                                      std::make_shared<ReferenceLinksManager>(Links{})};
@@ -85,6 +81,38 @@ TEST_F(ReferenceApplicationTest, IsTheProcessesApplicationAndLendsItsServices)
     EXPECT_EQ(App().GetNagScreenManager(), services.nagScreenManager);
     EXPECT_EQ(App().GetCustomizationManager(), services.customizationManager);
     EXPECT_EQ(App().GetLinksManager(), services.linksManager);
+}
+
+TEST_F(ReferenceApplicationTest, SaysWhichServiceIsMissing)
+{
+    auto const missing = [](auto const& ask) -> std::string
+    {
+        try
+        {
+            (void)ask();
+        }
+        catch (std::logic_error const& error)
+        {
+            return error.what();
+        }
+        return "nothing was thrown";
+    };
+    std::string const advice = " service: give one to ReferenceApplication::SetServices() before the first check for "
+                               "updates.";
+    EXPECT_EQ(missing([this] { return App().GetCustomizationManager(); }),
+              "The application has no customization" + advice);
+    EXPECT_EQ(missing([this] { return App().GetLinksManager(); }), "The application has no links" + advice);
+    App().SetServices({nullptr, std::make_shared<ReferenceCustomizationManager>(Customization{}), nullptr});
+    EXPECT_NE(App().GetCustomizationManager(), nullptr);
+    EXPECT_EQ(missing([this] { return App().GetLinksManager(); }), "The application has no links" + advice);
+}
+
+TEST_F(ReferenceApplicationTest, WithoutNagScreensNoneIsAvailable)
+{
+    auto const state = [this] { return App().GetNagScreenManager()->GetContentState(NagScreen::MajorUpdate); };
+    EXPECT_EQ(state(), NagScreen::CONTENT_UNAVAILABLE);
+    App().SetServices({});
+    EXPECT_EQ(state(), NagScreen::CONTENT_UNAVAILABLE);
 }
 
 TEST_F(ReferenceApplicationTest, QuitsWithoutWindows)

@@ -153,8 +153,10 @@ TEST(GoodStart, WithoutAnExchangeThePreviousVersionComesBackByTwoRenames)
     installed.Start("2.0");
     installed.Start("2.0");
     HelperStart start;
-    start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=renameat2:error=EINVAL"};
+    start.atEveryCall = [](CallStop const& stop)
+    { return stop.call == SYS_renameat2 ? CallVerdict::Fail(EINVAL) : CallVerdict::GoOn(); };
     HelperOutcome const outcome = installed.scene.Recover("2.0", start);
+    EXPECT_EQ(outcome.traced.faulted.size(), 1u) << "it was exchanged";
     ASSERT_NE(outcome.Find<RecoveredReport>(), nullptr);
     EXPECT_EQ(outcome.Find<RecoveredReport>()->action, RecoveryAction::RolledBack);
     EXPECT_EQ(installed.Version(), "1.0");
@@ -420,6 +422,7 @@ TEST(WatchedStart, SessionThatEndsBehindTheSwapKeepsNoNewVersionFromItsStart)
         scene.Host().End();
         int calls = -1; // since the swap
         bool wasSent = false;
+        int index = -1;
         HelperStart start;
         start.atEveryCall = [&](CallStop const& stop)
         {
@@ -428,11 +431,13 @@ TEST(WatchedStart, SessionThatEndsBehindTheSwapKeepsNoNewVersionFromItsStart)
             isBehindTheStart = isBehindTheStart || (!wasSent && stop.call == SYS_ppoll);
             bool const isPlace = calls == nth && !isBehindTheStart;
             wasSent = wasSent || isPlace;
+            index = isPlace ? stop.index : index;
             return isPlace ? CallVerdict::SignalAll(SIGTERM) : CallVerdict::GoOn();
         };
         HelperOutcome const outcome = scene.Install(job, start);
         EXPECT_EQ(outcome.output.substr(0, 4), "2.0|");
         EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+        EXPECT_TRUE(!wasSent || outcome.traced.faulted.count(index) == 1) << "nobody got the signal";
         places += wasSent ? 1 : 0;
     }
     EXPECT_TRUE(isBehindTheStart);

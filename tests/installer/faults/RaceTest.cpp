@@ -471,19 +471,29 @@ public:
                       static_cast<void>(::renameat(AT_FDCWD, decoy.c_str(), AT_FDCWD, (place + "/moved").c_str()));
                       ReplaceBy(archive, "something else");
                       ::unlink((place + "/moved/link").c_str());
-                      ::rmdir((place + "/moved").c_str());
+                      m_changes += ::rmdir((place + "/moved").c_str()) == 0 ? 1 : 0;
                   }
               })
     {
         m_hasBegun.get_future().wait();
     }
-    ~Meddler()
+    ~Meddler() { End(); }
+    Meddler(Meddler const&) = delete;
+    Meddler& operator=(Meddler const&) = delete;
+
+    /// How often it has changed what stands beside the bundle.
+    int End()
     {
         m_isOver = true;
-        m_thread.join();
+        if (m_thread.joinable())
+        {
+            m_thread.join();
+        }
+        return m_changes;
     }
 
 private:
+    int m_changes = 0; ///< the thread's, until it has ended
     std::atomic<bool> m_isOver{false};
     std::promise<void> m_hasBegun;
     std::thread m_thread;
@@ -492,17 +502,20 @@ private:
 TEST(Race, MeddlingBesideTheBundleDoesNotReachIt)
 {
     Versions const versions;
+    int changes = 0;
     for (int round = 0; round < (IsEveryPlaceWanted() ? 200 : 10); ++round)
     {
         UpdateScene scene;
         {
-            Meddler const meddler(scene);
+            Meddler meddler(scene);
             InstallJob const job = scene.PrepareForInstall();
             scene.Host().End();
             EXPECT_EQ(scene.Install(job).exitStatus, 0);
+            changes += meddler.End();
         }
         EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
     }
+    EXPECT_GT(changes, 10) << "nobody meddled";
 }
 
 } // namespace

@@ -1,18 +1,17 @@
-# What `cmake --install` puts where: three shared libraries, the headers of the update checker and of the host
-# framework, the CMake package and the pkg-config file.
+# What `cmake --install` puts where: the shared libraries and the helper, the headers of the update checker and of the host
+# framework, the CMake package with pelnar_add_bundle(), and the pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
 set(PELNAR_INSTALL_INCLUDEDIR "${CMAKE_INSTALL_INCLUDEDIR}/PelnarUpdateChecker")
+set(PELNAR_INSTALL_LICENSES "${CMAKE_INSTALL_DATADIR}/PelnarUpdateChecker/licenses")
 set(PELNAR_INSTALL_CMAKEDIR "${CMAKE_INSTALL_LIBDIR}/cmake/PelnarUpdateChecker")
 
-set(PELNAR_INSTALLED_TARGETS PelnarUpdateChecker PelnarHostFramework)
-set_target_properties(PelnarUpdateChecker PROPERTIES EXPORT_NAME UpdateChecker)
-set_target_properties(PelnarHostFramework PROPERTIES EXPORT_NAME HostFramework)
-if(NOT APPLE)
-    list(APPEND PELNAR_INSTALLED_TARGETS PelnarUpdateEngine)
-    set_target_properties(PelnarUpdateEngine PROPERTIES EXPORT_NAME UpdateEngine)
-endif()
+get_target_property(PELNAR_INSTALLED_TARGETS PelnarUpdateChecker PELNAR_RUNTIME_LIBRARIES)
+foreach(library IN LISTS PELNAR_INSTALLED_TARGETS)
+    set_target_properties(Pelnar${library} PROPERTIES EXPORT_NAME ${library})
+endforeach()
+list(TRANSFORM PELNAR_INSTALLED_TARGETS PREPEND Pelnar)
 foreach(target IN LISTS PELNAR_INSTALLED_TARGETS)
     target_include_directories(${target} INTERFACE "$<INSTALL_INTERFACE:${PELNAR_INSTALL_INCLUDEDIR}>")
     # The libraries find each other wherever the whole is put.
@@ -21,6 +20,11 @@ endforeach()
 
 install(TARGETS ${PELNAR_INSTALLED_TARGETS} EXPORT PelnarUpdateCheckerTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+if(NOT APPLE)
+    set_target_properties(pelnar_update_installer PROPERTIES EXPORT_NAME UpdateInstaller)
+    install(TARGETS pelnar_update_installer EXPORT PelnarUpdateCheckerTargets
+        RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/pelnar")
+endif()
 install(EXPORT PelnarUpdateCheckerTargets NAMESPACE Pelnar:: DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
 
 # Private headers (_p.h), and those of the log, stay here.
@@ -35,13 +39,17 @@ install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR
 
 configure_package_config_file(cmake/PelnarUpdateCheckerConfig.cmake.in
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
-    INSTALL_DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
+    INSTALL_DESTINATION "${PELNAR_INSTALL_CMAKEDIR}"
+    PATH_VARS PELNAR_INSTALL_LICENSES)
 write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 install(FILES
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfigVersion.cmake"
+    cmake/PelnarBundle.cmake
     DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
+install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
+install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}")
 
 list(TRANSFORM PELNAR_INSTALLED_TARGETS PREPEND "-l" OUTPUT_VARIABLE PELNAR_PC_LIBRARIES)
 list(JOIN PELNAR_PC_LIBRARIES " " PELNAR_PC_LIBRARIES)

@@ -17,7 +17,7 @@ namespace Pelnar::Testing
 namespace
 {
 
-constexpr char SLOW_ARCHIVE[] = "slow:PelnarDemo-5.10.tar.gz:400000";
+constexpr char SLOW_ARCHIVE[] = "slow:PelnarDemo-5.10.tar.zst:400000";
 
 /// When the application crashes: as soon as this window is open or, without one, bytes of the archive are there.
 struct CrashRow

@@ -16,7 +16,7 @@ constexpr char WHOLE_FEED[] = "appcast.xml";
 constexpr char DELTA_FEED[] = "appcast-delta.xml";
 constexpr char TAMPERED_FEED[] = "appcast-tampered.xml";
 constexpr char BROKEN_FEED[] = "appcast-broken.xml";
-constexpr char WHOLE_ARCHIVE[] = "PelnarDemo-5.10.tar.gz";
+constexpr char WHOLE_ARCHIVE[] = "PelnarDemo-5.10.tar.zst";
 constexpr char DELTA_ARCHIVE[] = "PelnarDemo-5.9-5.10.delta";
 
 constexpr char SKIP[] = "PelnarEngine_updateWindow/PelnarEngine_skipButton";

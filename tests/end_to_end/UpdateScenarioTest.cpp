@@ -272,7 +272,7 @@ INSTANTIATE_TEST_SUITE_P(Table, RefusedUpdate,
 
 TEST_F(UpdateScenario, AnArchiveThatIsNotThereIsSaidInOneWindow)
 {
-    UpdateServer server({QStringLiteral("status:PelnarDemo-5.10.tar.gz:404")});
+    UpdateServer server({QStringLiteral("status:PelnarDemo-5.10.tar.zst:404")});
     ExpectUntouched(Run(server, WHOLE_FEED, Script("user", "answer", {INSTALL, CLOSE_ERROR})));
 }
 

@@ -1,0 +1,174 @@
+# pelnar_add_bundle(<target> ...): makes an application bundle that updates itself of an executable. docs/guide/deployment.md
+# tells what is inside and why.
+#
+#   pelnar_add_bundle(notely
+#       NAME "My Notes"                       # My Notes.app/My Notes; without it, the name of the executable's file
+#       IDENTIFIER com.example.notes
+#       VERSION 1.2                           # without it, the project's
+#       PUBLIC_KEY "..."                      # what `pelnar-appcast keys generate` prints; or PUBLIC_KEY_FILE <file>
+#       NEXT_PUBLIC_KEY "..."                 # the key that follows it
+#       DISPLAY_NAME "My Notes"  DISPLAY_VERSION "1.2 (spring)"  FEED_URL https://...
+#       OPTIONS PelnarConfirmsGoodStart ...   # truth values of the information file that are YES
+#       INFORMATION "Key=text" ...            # further entries of the information file
+#       ICON notes.png  CATEGORIES "Office;"  LINK notely  DESKTOP_ENTRY own.desktop
+#       TRANSLATIONS notes_de.qm ...          # into Resources/translations; those of the windows of an update are in the libraries
+#       RESOURCES file-or-folder ...          # into Resources
+#       LIBRARIES target-or-file ...          # shared libraries and plugins that are opened at run time
+#       LICENSES file ...                     # the application's own, and those of libraries that belong to no package
+#       QT OUTSIDE | INSIDE                   # INSIDE brings Qt and its platform plugins
+#       SYSTEM_LIBRARIES INSIDE | OUTSIDE     # OUTSIDE makes a bundle for this very system
+#       DESTINATION <folder>  COMPONENT <name>)
+#
+# The target <target>_bundle makes it in <target>_bundle/ of the build folder, <target>_archive packs it there as
+# Name-1.2.tar.zst, and `cmake --install --component <name>` (without it, <target>_bundle) installs it. On macOS the same call
+# makes the usual bundle with Contents/; what concerns other systems is left out there.
+
+set(PELNAR_BUNDLE_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/bundle")
+
+set(PELNAR_BUNDLE_ONE_VALUE NAME IDENTIFIER VERSION DISPLAY_NAME DISPLAY_VERSION PUBLIC_KEY PUBLIC_KEY_FILE
+    NEXT_PUBLIC_KEY FEED_URL ICON CATEGORIES LINK DESKTOP_ENTRY QT SYSTEM_LIBRARIES DESTINATION COMPONENT)
+set(PELNAR_BUNDLE_MANY_VALUES OPTIONS INFORMATION TRANSLATIONS RESOURCES LIBRARIES LICENSES)
+
+function(pelnar_add_bundle target)
+    cmake_parse_arguments(PARSE_ARGV 1 BUNDLE "" "${PELNAR_BUNDLE_ONE_VALUE}" "${PELNAR_BUNDLE_MANY_VALUES}")
+    if(BUNDLE_UNPARSED_ARGUMENTS OR BUNDLE_KEYWORDS_MISSING_VALUES)
+        message(FATAL_ERROR "pelnar_add_bundle(${target}): not understood: "
+            "${BUNDLE_UNPARSED_ARGUMENTS} ${BUNDLE_KEYWORDS_MISSING_VALUES}")
+    endif()
+    get_target_property(type ${target} TYPE)
+    if(NOT type STREQUAL EXECUTABLE)
+        message(FATAL_ERROR "pelnar_add_bundle(${target}): a bundle is made of an executable, and this is none.")
+    endif()
+    get_target_property(program ${target} OUTPUT_NAME)
+    if(NOT program)
+        set(program ${target})
+    endif()
+    pelnar_bundle_default(BUNDLE_NAME "${program}")
+    pelnar_bundle_default(BUNDLE_VERSION "${PROJECT_VERSION}")
+    pelnar_bundle_default(BUNDLE_DISPLAY_NAME "${BUNDLE_NAME}")
+    pelnar_bundle_default(BUNDLE_LINK "${program}")
+    pelnar_bundle_default(BUNDLE_QT OUTSIDE)
+    pelnar_bundle_default(BUNDLE_SYSTEM_LIBRARIES INSIDE)
+    pelnar_bundle_default(BUNDLE_DESTINATION ".")
+    pelnar_bundle_default(BUNDLE_COMPONENT ${target}_bundle)
+    foreach(kind IN ITEMS PUBLIC_KEY_FILE ICON DESKTOP_ENTRY TRANSLATIONS RESOURCES LICENSES)
+        pelnar_bundle_make_absolute(BUNDLE_${kind})
+    endforeach()
+    if(APPLE)
+        pelnar_add_macos_bundle(${target})
+    else()
+        pelnar_add_linux_bundle(${target})
+    endif()
+endfunction()
+
+macro(pelnar_bundle_default name value)
+    if("${${name}}" STREQUAL "")
+        set(${name} "${value}")
+    endif()
+endmacro()
+
+function(pelnar_bundle_make_absolute name)
+    set(paths)
+    foreach(path IN LISTS ${name})
+        cmake_path(ABSOLUTE_PATH path BASE_DIRECTORY "${CMAKE_CURRENT_SOURCE_DIR}" NORMALIZE)
+        list(APPEND paths "${path}")
+    endforeach()
+    set(${name} "${paths}" PARENT_SCOPE)
+endfunction()
+
+# The usual bundle of macOS. Qt and its plugins come in by macdeployqt, and the signature by codesign, after it.
+function(pelnar_add_macos_bundle target)
+    set_target_properties(${target} PROPERTIES
+        MACOSX_BUNDLE ON
+        MACOSX_BUNDLE_GUI_IDENTIFIER "${BUNDLE_IDENTIFIER}"
+        MACOSX_BUNDLE_BUNDLE_NAME "${BUNDLE_DISPLAY_NAME}"
+        MACOSX_BUNDLE_BUNDLE_VERSION "${BUNDLE_VERSION}"
+        MACOSX_BUNDLE_SHORT_VERSION_STRING "${BUNDLE_VERSION}"
+        INSTALL_RPATH "@loader_path/../Frameworks")
+    install(TARGETS ${target}
+        BUNDLE DESTINATION "${BUNDLE_DESTINATION}" COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+    set(frameworks "${BUNDLE_DESTINATION}/${program}.app/Contents/Frameworks")
+    get_target_property(libraries Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
+    foreach(library IN LISTS libraries)
+        install(FILES "$<TARGET_SONAME_FILE:Pelnar::${library}>"
+            DESTINATION "${frameworks}" COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+    endforeach()
+    find_library(PELNAR_SPARKLE Sparkle REQUIRED)
+    install(DIRECTORY "${PELNAR_SPARKLE}" DESTINATION "${frameworks}"
+        USE_SOURCE_PERMISSIONS COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+endfunction()
+
+# What the scripts of the bundle read: everything that is known when the build is generated.
+function(pelnar_write_bundle_settings target file)
+    set(library_files)
+    get_target_property(project_libraries Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
+    foreach(library IN LISTS project_libraries)
+        list(APPEND library_files "$<TARGET_FILE:Pelnar::${library}>")
+    endforeach()
+    set(opened_files)
+    foreach(library IN LISTS BUNDLE_LIBRARIES)
+        if(TARGET ${library})
+            list(APPEND opened_files "$<TARGET_FILE:${library}>")
+        else()
+            pelnar_bundle_make_absolute(library)
+            list(APPEND opened_files "${library}")
+        endif()
+    endforeach()
+    set(BUNDLE_PROGRAM "$<TARGET_FILE:${target}>")
+    set(BUNDLE_PROJECT_LIBRARIES "${library_files}")
+    set(BUNDLE_OPENED_LIBRARIES "${opened_files}")
+    set(BUNDLE_HELPER "$<TARGET_FILE:Pelnar::UpdateInstaller>")
+    get_target_property(BUNDLE_LIBRARY_FOLDER Pelnar::UpdateChecker PELNAR_LIBRARY_FOLDER)
+    get_target_property(BUNDLE_HELPER_FOLDER Pelnar::UpdateChecker PELNAR_HELPER_FOLDER)
+    set(BUNDLE_PROJECT_LICENSES "${PELNAR_LICENSES}")
+    set(BUNDLE_QT_PLUGINS)
+    if(TARGET Qt5::QXcbIntegrationPlugin)
+        set(BUNDLE_QT_PLUGINS "$<TARGET_FILE:Qt5::QXcbIntegrationPlugin>")
+    endif()
+    set(BUNDLE_STRIP_PROGRAM "${CMAKE_STRIP}")
+    set(BUNDLE_OBJDUMP "${CMAKE_OBJDUMP}")
+    set(text "")
+    foreach(name IN ITEMS ${PELNAR_BUNDLE_ONE_VALUE} ${PELNAR_BUNDLE_MANY_VALUES} PROGRAM PROJECT_LIBRARIES
+            OPENED_LIBRARIES HELPER LIBRARY_FOLDER HELPER_FOLDER PROJECT_LICENSES QT_PLUGINS STRIP_PROGRAM OBJDUMP)
+        string(APPEND text "pelnar_bundle_setting(BUNDLE_${name} [===[${BUNDLE_${name}}]===])\n")
+    endforeach()
+    file(GENERATE OUTPUT "${file}" CONTENT "${text}" TARGET ${target})
+endfunction()
+
+function(pelnar_add_linux_bundle target)
+    set(folder "${CMAKE_CURRENT_BINARY_DIR}/${target}_bundle")
+    set(settings "${folder}/settings.cmake")
+    get_property(is_multi_config GLOBAL PROPERTY GENERATOR_IS_MULTI_CONFIG)
+    if(is_multi_config)
+        string(APPEND folder "/$<CONFIG>")
+        set(settings "${folder}/settings.cmake")
+    endif()
+    pelnar_write_bundle_settings(${target} "${settings}")
+
+    # The libraries of others in the bundle name no folder in which they look for each other. They are found by the
+    # program's DT_RPATH, which holds for all that it loads; DT_RUNPATH does not.
+    get_target_property(library_folder Pelnar::UpdateChecker PELNAR_LIBRARY_FOLDER)
+    target_link_options(${target} PRIVATE "LINKER:--disable-new-dtags")
+    set_property(TARGET ${target} APPEND PROPERTY BUILD_RPATH "$ORIGIN/${library_folder}")
+
+    set(make "${CMAKE_COMMAND}" "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
+        -P "${PELNAR_BUNDLE_SCRIPTS}/MakeBundle.cmake")
+    set(pack "${CMAKE_COMMAND}" "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
+        -P "${PELNAR_BUNDLE_SCRIPTS}/PackBundle.cmake")
+    # Made again each time: the libraries of the system change without the build's knowledge.
+    add_custom_target(${target}_bundle COMMAND ${make} COMMENT "Making ${BUNDLE_NAME}.app" VERBATIM)
+    add_dependencies(${target}_bundle ${target} Pelnar::UpdateInstaller)
+    add_custom_target(${target}_archive COMMAND ${pack}
+        COMMENT "Packing ${BUNDLE_NAME}-${BUNDLE_VERSION}.tar.zst" VERBATIM)
+    add_dependencies(${target}_archive ${target}_bundle)
+
+    cmake_path(ABSOLUTE_PATH BUNDLE_DESTINATION BASE_DIRECTORY "/" NORMALIZE OUTPUT_VARIABLE destination)
+    set(installed "\${CMAKE_INSTALL_PREFIX}${destination}")
+    if(IS_ABSOLUTE "${BUNDLE_DESTINATION}")
+        set(installed "${destination}")
+    endif()
+    install(CODE "execute_process(COMMAND [==[${CMAKE_COMMAND}]==] [==[-DSETTINGS=${settings}]==]
+            \"-DDESTINATION=\$ENV{DESTDIR}${installed}\" -P [==[${PELNAR_BUNDLE_SCRIPTS}/MakeBundle.cmake]==]
+            COMMAND_ERROR_IS_FATAL ANY)"
+        COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+endfunction()

@@ -1,0 +1,104 @@
+# What a bundle says of itself: its information file and its desktop entry.
+
+# Truth values that OPTIONS may name. A test compares them with what the engine reads.
+set(PELNAR_BUNDLE_OPTION_NAMES PelnarAllowsFeedURLInDefaults PelnarAllowsInsecureFeeds PelnarAllowsInstallerPrograms
+    PelnarConfirmsGoodStart PelnarRequiresSignedFeed PelnarUpdatesDisabled SUAutomaticallyUpdate)
+
+function(pelnar_check_names)
+    if(NOT BUNDLE_NAME MATCHES "^[^-./;\n][^/;\n]*$")
+        pelnar_bundle_fail("this name cannot be a bundle's. Choose a NAME without a slash, a semicolon or a line break "
+            "that starts with neither a dot nor a dash.")
+    endif()
+    if(NOT BUNDLE_IDENTIFIER MATCHES "^[A-Za-z0-9-]+([.][A-Za-z0-9-]+)+$")
+        pelnar_bundle_fail("\"${BUNDLE_IDENTIFIER}\" is no identifier. Set IDENTIFIER to one such as com.example.notes.")
+    endif()
+    if(NOT BUNDLE_VERSION MATCHES "^[0-9]+([.][0-9]+)?([.][0-9]+)?([.][0-9]+)?$")
+        pelnar_bundle_fail("\"${BUNDLE_VERSION}\" is no version. Set VERSION to one to four numbers with dots between them.")
+    endif()
+    foreach(option IN LISTS BUNDLE_OPTIONS)
+        if(NOT option IN_LIST PELNAR_BUNDLE_OPTION_NAMES)
+            list(JOIN PELNAR_BUNDLE_OPTION_NAMES ", " known)
+            pelnar_bundle_fail("there is no option \"${option}\". The options are ${known}.")
+        endif()
+    endforeach()
+endfunction()
+
+function(pelnar_property_list_text value result)
+    string(REPLACE "\\" "\\\\" value "${value}")
+    string(REPLACE "\"" "\\\"" value "${value}")
+    set(${result} "\"${value}\"" PARENT_SCOPE)
+endfunction()
+
+# The key's text, from the file that `pelnar-appcast keys public` writes or from the entry that `keys generate` prints.
+function(pelnar_read_public_key result)
+    set(key "${BUNDLE_PUBLIC_KEY}")
+    if(key STREQUAL "" AND NOT BUNDLE_PUBLIC_KEY_FILE STREQUAL "")
+        file(READ "${BUNDLE_PUBLIC_KEY_FILE}" key)
+    endif()
+    if(NOT key MATCHES "([A-Za-z0-9+/]+=)")
+        pelnar_bundle_fail("it trusts no key, so it could install no update. Make a key with `pelnar-appcast keys generate` and "
+            "set PUBLIC_KEY to what it prints.")
+    endif()
+    set(key "${CMAKE_MATCH_1}")
+    string(LENGTH "${key}" length)
+    if(NOT length EQUAL 44)
+        pelnar_bundle_fail("\"${key}\" is no public key. Set PUBLIC_KEY to what `pelnar-appcast keys generate` printed.")
+    endif()
+    set(${result} "${key}" PARENT_SCOPE)
+endfunction()
+
+function(pelnar_write_information file)
+    pelnar_read_public_key(key)
+    set(entries
+        "CFBundleIdentifier=${BUNDLE_IDENTIFIER}"
+        "CFBundleName=${BUNDLE_DISPLAY_NAME}"
+        "CFBundleVersion=${BUNDLE_VERSION}"
+        "NSExecutable=${BUNDLE_NAME}"
+        "SUBundleName=${BUNDLE_DISPLAY_NAME}"
+        "SUPublicEDKey=${key}")
+    foreach(pair IN ITEMS CFBundleShortVersionString=DISPLAY_VERSION SUFeedURL=FEED_URL
+            PelnarNextPublicEDKey=NEXT_PUBLIC_KEY)
+        string(REGEX MATCH "^(.+)=(.+)$" pair "${pair}")
+        set(name "${CMAKE_MATCH_1}")
+        if(NOT BUNDLE_${CMAKE_MATCH_2} STREQUAL "")
+            list(APPEND entries "${name}=${BUNDLE_${CMAKE_MATCH_2}}")
+        endif()
+    endforeach()
+    if(NOT BUNDLE_ICON STREQUAL "")
+        cmake_path(GET BUNDLE_ICON EXTENSION LAST_ONLY ending)
+        list(APPEND entries "NSIcon=${BUNDLE_IDENTIFIER}${ending}")
+    endif()
+    foreach(option IN LISTS BUNDLE_OPTIONS)
+        list(APPEND entries "${option}=YES")
+    endforeach()
+    set(text "{\n")
+    foreach(entry IN LISTS entries BUNDLE_INFORMATION)
+        if(NOT entry MATCHES "^([A-Za-z0-9]+)=(.*)$")
+            pelnar_bundle_fail("\"${entry}\" is no entry of the information file. Write INFORMATION \"Key=text\".")
+        endif()
+        set(name "${CMAKE_MATCH_1}")
+        pelnar_property_list_text("${CMAKE_MATCH_2}" value)
+        string(APPEND text "    ${name} = ${value};\n")
+    endforeach()
+    file(WRITE "${file}" "${text}}\n")
+endfunction()
+
+# The entry starts the application by the name of its link, which a person or a package puts into a folder of PATH.
+function(pelnar_write_desktop_entry file)
+    if(NOT BUNDLE_DESKTOP_ENTRY STREQUAL "")
+        file(COPY_FILE "${BUNDLE_DESKTOP_ENTRY}" "${file}")
+        return()
+    endif()
+    if(NOT BUNDLE_LINK MATCHES "^[A-Za-z0-9._+-]+$")
+        pelnar_bundle_fail("\"${BUNDLE_LINK}\" cannot be the name of a command. Set LINK to a name of letters and digits.")
+    endif()
+    string(REPLACE "\\" "\\\\" name "${BUNDLE_DISPLAY_NAME}")
+    set(text "[Desktop Entry]\nType=Application\nName=${name}\nExec=${BUNDLE_LINK} %F\nTerminal=false\n")
+    if(NOT BUNDLE_ICON STREQUAL "")
+        string(APPEND text "Icon=${BUNDLE_IDENTIFIER}\n")
+    endif()
+    if(NOT BUNDLE_CATEGORIES STREQUAL "")
+        string(APPEND text "Categories=${BUNDLE_CATEGORIES}\n")
+    endif()
+    file(WRITE "${file}" "${text}")
+endfunction()

@@ -90,8 +90,15 @@ function(pelnar_add_macos_bundle target)
     set(frameworks "${BUNDLE_DESTINATION}/${program}.app/Contents/Frameworks")
     get_target_property(libraries Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
     foreach(library IN LISTS libraries)
-        install(FILES "$<TARGET_SONAME_FILE:Pelnar::${library}>"
-            DESTINATION "${frameworks}" COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+        get_target_property(is_installed Pelnar::${library} IMPORTED)
+        if(is_installed)
+            install(FILES "$<TARGET_FILE:Pelnar::${library}>" RENAME "$<TARGET_SONAME_FILE_NAME:Pelnar::${library}>"
+                DESTINATION "${frameworks}" COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
+        else()
+            get_target_property(built Pelnar::${library} ALIASED_TARGET)
+            install(TARGETS ${built}
+                LIBRARY DESTINATION "${frameworks}" COMPONENT ${BUNDLE_COMPONENT} NAMELINK_SKIP EXCLUDE_FROM_ALL)
+        endif()
     endforeach()
     find_library(PELNAR_SPARKLE Sparkle REQUIRED)
     install(DIRECTORY "${PELNAR_SPARKLE}" DESTINATION "${frameworks}"

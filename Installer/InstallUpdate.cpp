@@ -1,5 +1,6 @@
 #include "Installer/InstallUpdate.h"
 
+#include "Engine/core/payload/RelaunchArguments.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"
 #include "Installer/BundleInformation.h"
@@ -325,12 +326,14 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     {
         return !failure;
     }
+    Arguments const arguments = Engine::ReadRelaunchArguments(descriptors.arguments);
     if (!failure && AwaitsConfirmation(job, descriptors.parent))
     {
         ::close(descriptors.staging); // its lock would keep the folder when nobody needs it any more
-        return StartAndWatch(job, descriptors.parent, report, note);
+        return StartAndWatch(job, arguments, descriptors.parent, report, note);
     }
-    return StartAgain(job, report) && !failure;
+    // They were meant for the new version.
+    return StartAgain(job, failure ? Arguments() : arguments, report) && !failure;
 }
 
 } // namespace Pelnar::Installer

@@ -11,10 +11,11 @@ namespace Pelnar::Installer
 
 struct InstallDescriptors
 {
-    int parent;  ///< the folder that holds the installed bundle
-    int staging; ///< the staging folder, locked by the host
-    int host;    ///< a pidfd
-    int records; ///< the folder of the outcome's record; unused when none is kept
+    int parent;    ///< the folder that holds the installed bundle
+    int staging;   ///< the staging folder, locked by the host
+    int host;      ///< a pidfd
+    int records;   ///< the folder of the outcome's record; unused when none is kept
+    int arguments; ///< the file of the new version's arguments; without one it gets none
 };
 
 /// Throws UpdateRefusal: HostStillRunning, or when the record cannot be begun; nothing is touched then. Any other

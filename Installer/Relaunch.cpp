@@ -78,10 +78,17 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
 }
 
-pid_t Relaunch(RelaunchTarget const& target, Surroundings const& surroundings)
+pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& arguments,
+               Surroundings const& surroundings)
 {
     int error = 0;
-    pid_t const process = StartProgram({target.executablePath}, surroundings, error);
+    std::vector<std::string> words{target.executablePath};
+    words.insert(words.end(), arguments.begin(), arguments.end());
+    pid_t process = StartProgram(words, surroundings, error);
+    if (process < 0 && error == E2BIG)
+    {
+        process = StartProgram({target.executablePath}, surroundings, error);
+    }
     if (process < 0)
     {
         throw UpdateRefusal(UpdateFault::RelaunchFailed, error);

@@ -5,6 +5,7 @@
 #include "Installer/ChildProcess.h"
 
 #include <string>
+#include <vector>
 
 #include <sys/types.h>
 
@@ -23,8 +24,10 @@ struct RelaunchTarget
 /// bundle whose program this machine can run.
 RelaunchTarget FindRelaunchTarget(std::string const& bundlePath);
 
-/// Starts the program with itself as the one argument, its own session and no signal blocked. Answers its number.
-/// Throws UpdateRefusal: RelaunchFailed.
-pid_t Relaunch(RelaunchTarget const& target, Surroundings const& surroundings);
+/// Starts the program with its path and \a arguments, its own session and no signal blocked; without the arguments
+/// where the system starts nothing with so many beside its environment. Answers its number. Throws UpdateRefusal:
+/// RelaunchFailed.
+pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& arguments,
+               Surroundings const& surroundings);
 
 } // namespace Pelnar::Installer

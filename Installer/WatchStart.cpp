@@ -101,9 +101,9 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
     return StartEnd::Settled;
 }
 
-StartEnd StartOnce(InstallJob const& job, int parentFd, ReportChannel const& report)
+StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parentFd, ReportChannel const& report)
 {
-    auto const started = StartAgain(job, report);
+    auto const started = StartAgain(job, arguments, report);
     if (!started)
     {
         return StartEnd::Failed;
@@ -115,7 +115,7 @@ StartEnd StartOnce(InstallJob const& job, int parentFd, ReportChannel const& rep
 
 } // namespace
 
-std::optional<StartedBundle> StartAgain(InstallJob const& job, ReportChannel const& report)
+std::optional<StartedBundle> StartAgain(InstallJob const& job, Arguments const& arguments, ReportChannel const& report)
 {
     struct Choice
     {
@@ -134,8 +134,8 @@ std::optional<StartedBundle> StartAgain(InstallJob const& job, ReportChannel con
         try
         {
             RelaunchTarget const target = FindRelaunchTarget(choice.path);
-            pid_t const process =
-                Relaunch(target, {job.environment, job.workingFolder, static_cast<mode_t>(job.creationMask)});
+            pid_t const process = Relaunch(target, arguments,
+                                           {job.environment, job.workingFolder, static_cast<mode_t>(job.creationMask)});
             report.Send(Engine::RelaunchedReport{choice.name});
             return StartedBundle{process, target.bundlePath};
         }
@@ -161,11 +161,12 @@ bool AwaitsConfirmation(InstallJob const& job, int parentFd)
     }
 }
 
-bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& report, OutcomeNote& note)
+bool StartAndWatch(InstallJob const& job, Arguments const& arguments, int parentFd, ReportChannel const& report,
+                   OutcomeNote& note)
 {
     for (std::uint64_t failures = 0; failures < Engine::MAX_UNCONFIRMED_STARTS; ++failures)
     {
-        if (StartOnce(job, parentFd, report) == StartEnd::Settled)
+        if (StartOnce(job, arguments, parentFd, report) == StartEnd::Settled)
         {
             return true;
         }
@@ -181,7 +182,7 @@ bool StartAndWatch(InstallJob const& job, int parentFd, ReportChannel const& rep
         return true; // somebody else has taken the matter over
     }
     note.Fail(Engine::UpdateFault::NewVersionFailed, 0);
-    static_cast<void>(StartAgain(job, report));
+    static_cast<void>(StartAgain(job, {}, report));
     return false;
 }
 

@@ -155,10 +155,10 @@ bool Install(Installer::ReportChannel& report)
     {
         RequireFolder(HelperDescriptors::RECORDS);
     }
-    return Installer::InstallUpdate(
-        job,
-        {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST, HelperDescriptors::RECORDS},
-        report);
+    return Installer::InstallUpdate(job,
+                                    {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST,
+                                     HelperDescriptors::RECORDS, HelperDescriptors::ARGUMENTS},
+                                    report);
 }
 
 bool Recover(Installer::ReportChannel& report)

@@ -1,8 +1,9 @@
-// HelperFormatsFuzz.cpp: any bytes as a job, as a swap's journal, as an installation's record and as a line of the
-// helper's report: what is accepted is the one form of what it says.
+// HelperFormatsFuzz.cpp: any bytes as a job, as a program's arguments, as a swap's journal, as an installation's record
+// and as a line of the helper's report: what is accepted is the one form of what it says.
 
 #include "Engine/core/payload/HelperReport.h"
 #include "Engine/core/payload/InstallRecord.h"
+#include "Engine/core/payload/RelaunchArguments.h"
 #include "Engine/core/payload/SwapJournal.h"
 #include "Engine/core/payload/UpdateJob.h"
 
@@ -82,6 +83,15 @@ void CheckRecord(std::string_view bytes)
     }
 }
 
+void CheckArguments(std::string_view bytes)
+{
+    auto const arguments = DecodeRelaunchArguments(bytes);
+    if (arguments)
+    {
+        Require(EncodeRelaunchArguments(*arguments) == bytes && !FaultOfRelaunchArguments(*arguments));
+    }
+}
+
 void CheckReport(std::string_view line)
 {
     auto const report = DecodeHelperReport(line);
@@ -100,6 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     CheckJob(bytes);
     CheckJournal(bytes);
     CheckRecord(bytes);
+    CheckArguments(bytes);
     CheckReport(bytes);
     return 0;
 }

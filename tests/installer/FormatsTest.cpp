@@ -193,8 +193,8 @@ TEST(UpdateJob, HostileInstallJobsAreRefused)
 TEST(UpdateJob, ForeignBytesAreRefused)
 {
     std::string const right = EncodeUpdateJob(RecoverJob{"A.app", "1.0"});
-    for (std::string const& bytes : {""s, "PELNARJ1"s, "PELNARJ2" + right.substr(8), "{\"mode\":\"install\"}"s,
-                                     "PELNARJ1"s + std::string(100, '\xff')})
+    for (std::string const& bytes : {""s, "PELNARJ2"s, "PELNARJ1" + right.substr(8), "{\"mode\":\"install\"}"s,
+                                     "PELNARJ2"s + std::string(100, '\xff')})
     {
         EXPECT_FALSE(DecodeUpdateJob(bytes).has_value());
     }

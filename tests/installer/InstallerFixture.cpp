@@ -383,12 +383,15 @@ void UpdateScene::KeepRecord(Engine::InstallJob& job)
 
 HelperOutcome UpdateScene::Install(Engine::InstallJob const& job, HelperStart const& start)
 {
-    return RunHelper("install", Engine::EncodeUpdateJob(job),
-                     {{Engine::HelperDescriptors::PARENT, m_place.Descriptor()},
-                      {Engine::HelperDescriptors::STAGING, m_staging->Descriptor()},
-                      {Engine::HelperDescriptors::HOST, m_host.ProcessDescriptor()},
-                      {Engine::HelperDescriptors::RECORDS, m_downloads.Descriptor()}},
-                     start);
+    std::map<int, int> descriptors{{Engine::HelperDescriptors::PARENT, m_place.Descriptor()},
+                                   {Engine::HelperDescriptors::STAGING, m_staging->Descriptor()},
+                                   {Engine::HelperDescriptors::HOST, m_host.ProcessDescriptor()},
+                                   {Engine::HelperDescriptors::RECORDS, m_downloads.Descriptor()}};
+    if (argumentsDescriptor >= 0)
+    {
+        descriptors[Engine::HelperDescriptors::ARGUMENTS] = argumentsDescriptor;
+    }
+    return RunHelper("install", Engine::EncodeUpdateJob(job), descriptors, start);
 }
 
 HelperOutcome UpdateScene::Recover(std::string const& runningVersion, HelperStart const& start)

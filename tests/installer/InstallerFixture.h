@@ -140,6 +140,8 @@ public:
     StubHost& Host() { return m_host; }
     KeyPair const& Keys() const { return m_keys; }
 
+    int argumentsDescriptor = -1; ///< of the file of the new version's arguments; -1: there is none
+
 private:
     Workspace m_place;
     Workspace m_downloads;

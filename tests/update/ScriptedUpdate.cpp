@@ -10,6 +10,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Pelnar::Testing
 {
@@ -241,6 +242,7 @@ public:
         m_parts.jobs.push_back(job);
         m_parts.m_helper = this;
         staging = inherited.staging;
+        m_parts.arguments = UniqueFd(inherited.arguments < 0 ? -1 : ::dup(inherited.arguments));
         report = std::move(onReport);
         ended = std::move(onEnded);
     }

@@ -151,6 +151,7 @@ public:
     std::vector<Engine::DownloadRequest> requests;
     QStringList cleared; ///< folders
     std::vector<Engine::UpdateJob> jobs;
+    Engine::UniqueFd arguments; ///< the file of the new version's, which the helper that was started last has inherited
     QDateTime now = QDateTime::fromSecsSinceEpoch(1000000, Qt::UTC);
 
 private:

@@ -1,4 +1,6 @@
 // UpdateRunTest.cpp: the course of an update that goes well, or that somebody decides against.
+#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/update/KeptArguments.h"
 #include "tests/update/UpdateRunFixture.h"
 
 #include <QDir>
@@ -12,6 +14,7 @@ namespace
 
 using namespace Pelnar::Testing;
 using namespace Pelnar::Engine;
+using Arguments = std::vector<std::string>;
 
 TEST_F(UpdateRunTest, PersonSeesEachStepAndTheApplicationIsAskedBeforeItIsRestarted)
 {
@@ -309,6 +312,50 @@ TEST_F(UpdateRunTest, InstallationAtOnceHappensOnce)
     host.installNow(RelaunchWish::Relaunch);
     EXPECT_EQ(Since(),
               (Notes{"helper prepare", "will install on quit", "should relaunch?", "path?", "helper install"}));
+}
+
+TEST_F(UpdateRunTest, ArgumentsOfTheNextStartAreThoseThatWereSaidLast)
+{
+    ASSERT_TRUE(KeptArguments::OfProcess().Keep({"early"}));
+    StartInteractive();
+    Agree();
+    PrepareUpdate();
+    windows.Choose(ReadyChoice::InstallAndRelaunch);
+    EXPECT_EQ(ReadRelaunchArguments(parts.arguments.Get()), Arguments{"early"});
+    ASSERT_TRUE(KeptArguments::OfProcess().Keep({"late"}));
+    run.reset(); // as at the end of the process
+    EXPECT_EQ(ReadRelaunchArguments(parts.arguments.Get()), Arguments{"late"});
+}
+
+TEST_F(UpdateRunTest, ArgumentsOfTheNextStartAreForgottenWhenNothingIsInstalled)
+{
+    auto const kept = [] { return ReadRelaunchArguments(KeptArguments::OfProcess().Share().Get()); };
+    ASSERT_TRUE(KeptArguments::OfProcess().Keep({"put off"}));
+    StartInteractive();
+    EXPECT_EQ(kept(), Arguments{"put off"});
+    windows.Choose(UpdateChoice::RemindMeLater);
+    EXPECT_EQ(kept(), Arguments());
+
+    StartInteractive();
+    Agree();
+    PrepareUpdate();
+    ASSERT_TRUE(KeptArguments::OfProcess().Keep({"not quit in time"}));
+    windows.Choose(ReadyChoice::InstallAndRelaunch);
+    EXPECT_EQ(kept(), Arguments{"not quit in time"});
+    parts.Report(RefusedReport{UpdateFault::HostStillRunning, 0});
+    parts.EndHelper(HelperEnd::Refused);
+    EXPECT_EQ(kept(), Arguments());
+}
+
+TEST_F(UpdateRunTest, InstallationOnQuitStartsNothingAndGetsNoArguments)
+{
+    ASSERT_TRUE(KeptArguments::OfProcess().Keep({"document"}));
+    StartSilent();
+    PrepareUpdate();
+    EXPECT_TRUE(std::get<InstallJob>(parts.jobs.back()).targetPath.empty());
+    EXPECT_FALSE(parts.arguments);
+    host.installNow(RelaunchWish::Relaunch);
+    EXPECT_EQ(ReadRelaunchArguments(parts.arguments.Get()), Arguments{"document"});
 }
 
 TEST_F(UpdateRunTest, InstallationAtOnceAfterTheEndDoesNothing)

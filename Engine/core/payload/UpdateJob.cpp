@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::string_view MAGIC = "PELNARJ1";
+constexpr std::string_view MAGIC = "PELNARJ2";
 constexpr std::size_t MAX_KEYS = 2;
 constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
 constexpr std::uint64_t MAX_CREATION_MASK = 0777;

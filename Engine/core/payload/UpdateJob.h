@@ -21,13 +21,14 @@ struct HelperDescriptors
 {
     static constexpr int JOB = 3;
     static constexpr int REPORT = 4;
-    static constexpr int STAGING = 5; ///< prepare, install, rehearse
-    static constexpr int ARCHIVE = 6; ///< prepare
-    static constexpr int TARGET = 7;  ///< prepare, a delta or an installer program: the installed bundle's folder
-    static constexpr int PARENT = 6;  ///< install, recover, rehearse: the folder that holds the installed bundle
-    static constexpr int HOST = 7;    ///< install, rehearse: a pidfd of the host
-    static constexpr int RECORDS = 8; ///< install, when a record is kept: the folder of the downloads
-    static constexpr int COUNT = 9;
+    static constexpr int STAGING = 5;   ///< prepare, install, rehearse
+    static constexpr int ARCHIVE = 6;   ///< prepare
+    static constexpr int TARGET = 7;    ///< prepare, a delta or an installer program: the installed bundle's folder
+    static constexpr int PARENT = 6;    ///< install, recover, rehearse: the folder that holds the installed bundle
+    static constexpr int HOST = 7;      ///< install, rehearse: a pidfd of the host
+    static constexpr int RECORDS = 8;   ///< install, when a record is kept: the folder of the downloads
+    static constexpr int ARGUMENTS = 9; ///< install, when a program is started: a file of RelaunchArguments.h
+    static constexpr int COUNT = 10;
 };
 
 enum class PayloadKind : std::uint8_t

@@ -46,6 +46,10 @@ std::map<int, int> NumbersOf(InstallJob const& job, HelperInheritance const& inh
     {
         numbers[HelperDescriptors::RECORDS] = inherited.records;
     }
+    if (!job.targetPath.empty())
+    {
+        numbers[HelperDescriptors::ARGUMENTS] = inherited.arguments;
+    }
     return numbers;
 }
 

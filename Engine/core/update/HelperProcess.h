@@ -22,6 +22,7 @@ struct HelperInheritance
     int archiveOrParent = -1; ///< prepare: the archive; install, recover: the folder that holds the bundle
     int targetOrHost = -1;    ///< prepare, unless of a whole bundle: the installed one; install: a pidfd of the host
     int records = -1;         ///< install: the folder of the record, if one is kept
+    int arguments = -1;       ///< install: the file of the new version's arguments, if a program is started
 };
 
 enum class HelperEnd

@@ -1,6 +1,7 @@
 #include "Engine/core/update/InstallHandover.h"
 
 #include "Engine/core/UpdateError.h"
+#include "Engine/core/update/KeptArguments.h"
 
 #include <utility>
 
@@ -17,9 +18,10 @@ std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, P
     try
     {
         UniqueFd const host = OpenProcess();
+        UniqueFd const arguments = job.targetPath.empty() ? UniqueFd() : KeptArguments::OfProcess().Share();
         m_helper = m_parts.MakeHelper();
         m_helper->Start(
-            job, {update.Descriptor(), target.parent.Get(), host.Get(), recordsFd},
+            job, {update.Descriptor(), target.parent.Get(), host.Get(), recordsFd, arguments.Get()},
             [this](HelperReport const& report) { Take(report); }, [this](HelperEnd) { End(); });
     }
     catch (UpdateRefusal const& refusal)

@@ -3,6 +3,7 @@
 #include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/update/KeptArguments.h"
 #include "Engine/core/update/ProcessSurroundings.h"
 
 #include <QCoreApplication>
@@ -484,6 +485,7 @@ void UpdateRun::Finish(std::optional<EngineError> error)
     }
     DropAttempt();
     DropPrepared();
+    KeptArguments::OfProcess().Forget();
     if (mayShowWindow)
     {
         m_windows.Close();

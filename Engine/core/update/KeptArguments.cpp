@@ -1,0 +1,94 @@
+#include "Engine/core/update/KeptArguments.h"
+
+#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/update/SealedMemory_p.h"
+
+#include <glog/logging.h>
+
+#include <cerrno>
+#include <cstring>
+#include <string_view>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+bool WriteAt(int fd, std::string_view bytes, std::size_t place)
+{
+    while (!bytes.empty())
+    {
+        ssize_t const count = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(place));
+        if (count <= 0 && !(count < 0 && errno == EINTR))
+        {
+            return false;
+        }
+        bytes.remove_prefix(count < 0 ? 0 : static_cast<std::size_t>(count));
+        place += count < 0 ? 0 : static_cast<std::size_t>(count);
+    }
+    return true;
+}
+
+} // namespace
+
+KeptArguments& KeptArguments::OfProcess()
+{
+    static KeptArguments& arguments = *new KeptArguments; // a host may speak as late as it likes
+    return arguments;
+}
+
+bool KeptArguments::Keep(std::vector<std::string> const& arguments)
+{
+    if (char const* const fault = FaultOfRelaunchArguments(arguments))
+    {
+        LOG(ERROR) << "The arguments for the next start are refused, since " << fault;
+        return false;
+    }
+    m_arguments = arguments;
+    bool const isWritten = !m_file || Write();
+    LOG_IF(ERROR, !isWritten) << "The arguments for the next start cannot be passed on: " << std::strerror(errno);
+    return isWritten;
+}
+
+void KeptArguments::Forget()
+{
+    m_arguments.clear();
+    // No helper waits any more: the next one gets a file of its own.
+    m_file = UniqueFd();
+}
+
+UniqueFd KeptArguments::Share()
+{
+    if (!m_file)
+    {
+        UniqueFd file = MakeMemoryFile("arguments", 0);
+        std::swap(m_file, file);
+        if (!Write())
+        {
+            int const errorNumber = errno;
+            m_file = UniqueFd();
+            throw UpdateRefusal(UpdateFault::HelperUnusable, errorNumber);
+        }
+    }
+    UniqueFd copy(::fcntl(m_file.Get(), F_DUPFD_CLOEXEC, 0));
+    if (!copy)
+    {
+        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+    }
+    return copy;
+}
+
+bool KeptArguments::Write() const
+{
+    std::string const bytes = EncodeRelaunchArguments(m_arguments);
+    std::size_t const begin = RELAUNCH_ARGUMENTS_MAGIC.size();
+    // The first bytes come last: a process that is killed in between leaves a file that says nothing.
+    return ::ftruncate(m_file.Get(), 0) == 0 && WriteAt(m_file.Get(), std::string_view(bytes).substr(begin), begin) &&
+           WriteAt(m_file.Get(), RELAUNCH_ARGUMENTS_MAGIC, 0);
+}
+
+} // namespace Pelnar::Engine

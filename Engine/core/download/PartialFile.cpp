@@ -1,6 +1,8 @@
 #include "Engine/core/download/PartialFile.h"
 
 #include "Engine/core/download/DownloadFolder_p.h"
+#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/payload/UpdateFault.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -21,7 +23,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr char ASIDE_ENDING[] = ".aside";
 /// Between opening a file and locking it somebody may have replaced it, but not again and again.
 constexpr int MAX_LOCK_ATTEMPTS = 10;
 
@@ -141,7 +142,7 @@ PartialFile::Fault PartialFile::OpenReader()
         {
             return RoomError(errno);
         }
-        if (Fault const fault = MakeWay())
+        if (Fault const fault = MakeWay(m_place.name))
         {
             return fault;
         }
@@ -149,20 +150,17 @@ PartialFile::Fault PartialFile::OpenReader()
     return MakeError(ErrorCause::DownloadFolderUnusable, Described(EEXIST));
 }
 
-PartialFile::Fault PartialFile::MakeWay()
+PartialFile::Fault PartialFile::MakeWay(std::string const& name)
 {
-    if (unlinkat(m_folder.Get(), m_place.name.c_str(), 0) == 0 || errno == ENOENT)
+    try
     {
+        FreeName(m_folder.Get(), name);
         return std::nullopt;
     }
-    bool const isFolder = errno == EISDIR;
-    // Deliberate: a folder that somebody put here is moved aside, since what is in it is not ours to remove.
-    if (isFolder && renameat2(m_folder.Get(), m_place.name.c_str(), m_folder.Get(),
-                              (m_place.name + ASIDE_ENDING).c_str(), RENAME_NOREPLACE) == 0)
+    catch (UpdateRefusal const& refusal)
     {
-        return std::nullopt;
+        return OpenError(refusal.ErrorNumber());
     }
-    return OpenError(errno);
 }
 
 PartialFile::Fault PartialFile::Lock()
@@ -181,7 +179,7 @@ PartialFile::Fault PartialFile::Lock()
             }
             // Deliberate: some network file systems lock no file that is opened for reading. There two processes may
             // write the same file; then the archive's signature does not match, and it is fetched again.
-            if (errno != EBADF && errno != ENOLCK && errno != EOPNOTSUPP && errno != EINVAL)
+            if (errno != EBADF && errno != ENOLCK && errno != EOPNOTSUPP && errno != EINVAL && errno != ENOSYS)
             {
                 return OpenError(errno);
             }
@@ -302,7 +300,10 @@ PartialFile::Fault PartialFile::SyncBytes()
 PartialFile::Fault PartialFile::StageRecord()
 {
     std::string const name = m_place.name + STAGED_ENDING;
-    unlinkat(m_folder.Get(), name.c_str(), 0);
+    if (Fault const fault = MakeWay(name))
+    {
+        return fault;
+    }
     m_staged = OpenFileAt(m_folder, name, O_WRONLY | O_CREAT | O_EXCL);
     std::string const bytes = EncodePartialRecord(m_record);
     Bytes const all(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size());
@@ -322,8 +323,14 @@ PartialFile::Fault PartialFile::PublishRecord()
 {
     std::string const staged = m_place.name + STAGED_ENDING;
     std::string const name = m_place.name + RECORD_ENDING;
-    return renameat(m_folder.Get(), staged.c_str(), m_folder.Get(), name.c_str()) == 0 ? std::nullopt
-                                                                                       : Fault(FailedWrite(errno));
+    try
+    {
+        return RenameOver(m_folder.Get(), staged, name) ? std::nullopt : Fault(FailedWrite(errno));
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return FailedWrite(refusal.ErrorNumber());
+    }
 }
 
 PartialFile::Fault PartialFile::SyncFolder()

@@ -70,7 +70,8 @@ private:
     Fault OpenReader();
     Fault Lock();
     Fault OpenWriter();
-    Fault MakeWay();
+    /// Frees the name for a file of ours.
+    Fault MakeWay(std::string const& name);
     Fault CheckRoom() const;
     std::optional<PartialRecord> ReadRecord() const;
     void TakeRecord(PartialRecord const& record, FoundFile const& file);

@@ -41,24 +41,30 @@ quint32 IPv4At(Q_IPV6ADDR const& address, int start)
            quint32{address[start + 3]};
 }
 
-bool BeginsWith(Q_IPV6ADDR const& address, std::initializer_list<quint8> bytes)
+bool Has(Q_IPV6ADDR const& address, int position, std::initializer_list<quint8> bytes)
 {
-    int position = 0;
     return std::all_of(bytes.begin(), bytes.end(), [&](quint8 byte) { return address[position++] == byte; });
 }
 
 /// The IPv4 address that \a address stands for: mapped, compatible, translated or tunnelled.
 std::optional<quint32> EmbeddedIPv4(Q_IPV6ADDR const& address)
 {
-    bool const isMapped = BeginsWith(address, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff});
-    bool const isCompatible = BeginsWith(address, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
-    bool const isTranslated = BeginsWith(address, {0, 0x64, 0xff, 0x9b, 0, 0, 0, 0, 0, 0, 0, 0}) ||
-                              BeginsWith(address, {0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff, 0, 0});
-    if (isMapped || isCompatible || isTranslated)
+    bool const isMapped = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff});
+    bool const isCompatible = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
+    bool const isTranslated = Has(address, 0, {0, 0x64, 0xff, 0x9b, 0, 0, 0, 0, 0, 0, 0, 0}) ||
+                              Has(address, 0, {0, 0x64, 0xff, 0x9b, 0, 1}) ||
+                              Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff, 0, 0});
+    bool const isInOneSite = Has(address, 8, {0, 0, 0x5e, 0xfe}) || Has(address, 8, {2, 0, 0x5e, 0xfe});
+    if (isMapped || isCompatible || isTranslated || isInOneSite)
     {
         return IPv4At(address, 12);
     }
-    return BeginsWith(address, {0x20, 0x02}) ? std::optional(IPv4At(address, 2)) : std::nullopt;
+    bool const isThroughTranslators = Has(address, 0, {0x20, 0x01, 0, 0});
+    if (isThroughTranslators)
+    {
+        return ~IPv4At(address, 12); // hidden from those that rewrite what looks like an address
+    }
+    return Has(address, 0, {0x20, 0x02}) ? std::optional(IPv4At(address, 2)) : std::nullopt;
 }
 
 AddressReach ReachOfIPv6(Q_IPV6ADDR const& address)

@@ -1,9 +1,13 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <utility>
 
+#include <linux/tcp.h>
+#include <netinet/in.h>
+#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace Pelnar::Engine
@@ -15,6 +19,22 @@ constexpr int SAMPLES_IN_WINDOW = 20;
 /// So long may bytes wait for more before they go to the disk.
 constexpr std::chrono::milliseconds REST_INTERVAL{10};
 constexpr int STATUS_PROXY_ASKS = 407;
+/// What chunks, records and their padding may take beside an answer: so much, and a quarter of the answer.
+constexpr qint64 FREE_FRAMING_BYTES = 1024 * 1024;
+constexpr qint64 ANSWER_PER_FRAMING = 4;
+
+/// What has been read from \a socket since it was connected.
+std::optional<qint64> BytesReadFrom(int socket)
+{
+    tcp_info info{};
+    socklen_t size = sizeof info;
+    int waiting = 0;
+    bool const isKnown = socket >= 0 && getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 &&
+                         size >= offsetof(tcp_info, tcpi_bytes_received) + sizeof info.tcpi_bytes_received &&
+                         ioctl(socket, FIONREAD, &waiting) == 0;
+    return isKnown ? std::optional(static_cast<qint64>(info.tcpi_bytes_received) - waiting) : std::nullopt;
+}
+
 } // namespace
 
 /// What libcurl calls, with the transfer as its pointer.
@@ -158,6 +178,10 @@ HttpTransfer::Verdict HttpTransfer::TakeConnection(QHostAddress const& server)
 
 HttpTransfer::Verdict HttpTransfer::TakeHeadLine(QByteArray const& line)
 {
+    if (!m_readBefore)
+    {
+        m_readBefore = BytesReadFrom(m_loop->SocketOf(m_curl->Handle()));
+    }
     m_received += line.size();
     m_loop->NoteBytes();
     switch (m_reader.Take(line))
@@ -378,8 +402,20 @@ EngineError HttpTransfer::ErrorAt(CURLcode code) const
     return ErrorOf(end);
 }
 
+bool HttpTransfer::IsMostlyFraming() const
+{
+    auto const read = m_readBefore ? BytesReadFrom(m_loop->SocketOf(m_curl->Handle())) : std::nullopt;
+    qint64 const framing = read ? *read - *m_readBefore - m_received : 0;
+    return framing > FREE_FRAMING_BYTES + m_received / ANSWER_PER_FRAMING;
+}
+
 void HttpTransfer::SampleRate()
 {
+    if (IsMostlyFraming())
+    {
+        Fail(MakeError(ErrorCause::MalformedChunk));
+        return;
+    }
     if (m_isHeld)
     {
         m_receivedAtSample = {m_received}; // it is not the server that is slow

@@ -74,6 +74,8 @@ private:
     void TakeWhole();
     EngineError ErrorAt(CURLcode code) const;
     void SampleRate();
+    /// True when the connection has brought much more than the answer in it.
+    [[nodiscard]] bool IsMostlyFraming() const;
     void Close();
     void Fail(EngineError const& error);
 
@@ -90,6 +92,7 @@ private:
     QByteArray m_held; ///< of the body, what the sink had no room for
     qint64 m_bodyBytes = 0;
     qint64 m_received = 0;
+    std::optional<qint64> m_readBefore;    ///< by the connection, when the answer began
     std::deque<qint64> m_receivedAtSample; ///< of the samples of one window, the oldest first
     std::optional<ErrorCause> m_refusal;
     std::optional<CURLcode> m_end; ///< when only what is held remains

@@ -20,21 +20,6 @@ constexpr std::size_t NOTE_MAX_BYTES = 64 * 1024;
 constexpr mode_t NOTE_MODE = 0600;
 constexpr mode_t ALL_BITS = 07777;
 
-/// Also over a folder that stands there.
-[[nodiscard]] bool Rename(int folderFd, std::string const& from, std::string const& to)
-{
-    if (::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0)
-    {
-        return true;
-    }
-    if (errno != EISDIR)
-    {
-        return false;
-    }
-    FreeName(folderFd, to);
-    return ::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0;
-}
-
 void SyncOrThrow(int descriptor)
 {
     if (::fsync(descriptor) != 0)
@@ -64,6 +49,20 @@ void FreeName(int folderFd, std::string const& name)
     {
         ThrowErrno(errno);
     }
+}
+
+bool RenameOver(int folderFd, std::string const& from, std::string const& to)
+{
+    if (::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0)
+    {
+        return true;
+    }
+    if (errno != EISDIR)
+    {
+        return false;
+    }
+    FreeName(folderFd, to);
+    return ::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0;
 }
 
 std::string ReadNote(int folderFd, std::string const& name)
@@ -100,7 +99,7 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
         throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
     }
     SyncOrThrow(file.Get());
-    if (!Rename(folderFd, newName, name))
+    if (!RenameOver(folderFd, newName, name))
     {
         ThrowErrno(errno);
     }

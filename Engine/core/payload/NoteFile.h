@@ -15,6 +15,10 @@ namespace Pelnar::Engine
 /// Takes away what stands under the name: a file or a link goes, a folder gets another name. Throws UpdateRefusal.
 void FreeName(int folderFd, std::string const& name);
 
+/// Gives a file the name of what may stand there, a folder too. False, with errno, when it cannot; throws UpdateRefusal
+/// when a folder cannot get another name.
+[[nodiscard]] bool RenameOver(int folderFd, std::string const& from, std::string const& to);
+
 /// What the file \a name says; empty when there is none, or when anybody else may have written it: it counts only when
 /// it is private and has no other name. REQUIRES: nobody else may write in the folder. Throws UpdateRefusal when it
 /// cannot be read: no answer is not the answer that there is none.

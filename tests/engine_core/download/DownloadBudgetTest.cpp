@@ -237,6 +237,27 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
     }
 }
 
+TEST_F(DownloadBudgetTest, FramesOfChunksAreNoWayRoundIt)
+{
+    qint64 sent = 0;
+    bool hasLeft = false;
+    LoopbackServer server(
+        [&](QSslSocket& socket, QByteArray const& request, int number)
+        {
+            QObject::connect(&socket, &QSslSocket::bytesWritten, &socket, [&sent](qint64 bytes) { sent += bytes; });
+            QObject::connect(&socket, &QSslSocket::disconnected, &socket, [&hasLeft] { hasLeft = true; });
+            // Four kilobytes for each byte of the archive.
+            QByteArray const chunk = "1;" + QByteArray(4000, 'x') + "\r\ny\r\n";
+            AnsweringWithoutEnd("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n",
+                                chunk.repeated(16))(socket, request, number);
+        });
+    DownloadRequest request = RequestFor(server.Url(), 300000);
+    request.limits.rateWindow = milliseconds(1000);
+    EXPECT_EQ(Run(request).cause, ErrorCause::MalformedChunk);
+    EXPECT_TRUE(WaitFor([&hasLeft] { return hasLeft; }));
+    EXPECT_LT(sent, 128 * MEBIBYTE) << "of more than a gigabyte";
+}
+
 TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)
 {
     QByteArray const archive = MakeArchive(300000);

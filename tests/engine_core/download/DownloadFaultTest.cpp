@@ -323,6 +323,19 @@ TEST_F(DownloadFaultTest, FileThatTakesNothingIsNotWrittenToForEver)
     ExpectNextRunBringsTheArchive("after it");
 }
 
+TEST_F(DownloadFaultTest, FileSystemWithoutLocksIsNoObstacle)
+{
+    for (int const error : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF})
+    {
+        Prepare(0);
+        End const end = Download([error](CallStop const& stop)
+                                 { return stop.call == SYS_flock ? CallVerdict::Fail(error) : CallVerdict::GoOn(); });
+        EXPECT_EQ(end.cause, 0) << error << ": " << end.all;
+        EXPECT_GT(end.faults, 0u);
+        EXPECT_TRUE(PartialBytes() == ARCHIVE) << error;
+    }
+}
+
 TEST_F(DownloadFaultTest, InterruptedCallsAreMadeAgain)
 {
     Sweep(

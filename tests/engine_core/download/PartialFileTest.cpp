@@ -271,6 +271,30 @@ TEST_P(ReplacedFile, GivesWayToANewOneAndNothingElseIsTouched)
     }
 }
 
+/// Again and again, and under each of the names that a download uses.
+TEST_F(PartialFileTest, FoldersUnderItsNamesAreSetAsideAsOftenAsTheyCome)
+{
+    LeavePart("first");
+    for (int round = 0; round < 3; ++round)
+    {
+        for (std::string const& path : {ArchivePath(), RecordPath(), RecordPath() + ".new"})
+        {
+            SCOPED_TRACE(path);
+            QFile::remove(QString::fromStdString(path));
+            ASSERT_EQ(mkdir(path.c_str(), 0700), 0);
+            WriteText(path + "/file", "precious");
+            LeavePart("part");
+            EXPECT_EQ(FoundBytes(), 4u);
+        }
+    }
+    int precious = 0;
+    for (QString const& name : QDir(folder).entryList(QDir::Dirs | QDir::Hidden | QDir::NoDotAndDotDot))
+    {
+        precious += QFile::exists(folder + QLatin1Char('/') + name + QStringLiteral("/file")) ? 1 : 0;
+    }
+    EXPECT_EQ(precious, 9) << "what is in them is not ours to remove";
+}
+
 TEST_F(PartialFileTest, RecordThatIsALinkIsNotRead)
 {
     LeavePart("part");

@@ -22,7 +22,9 @@ TEST(AddressReach, OfThisComputer)
 {
     for (char const* const text :
          {"127.0.0.1", "127.255.0.9", "0.0.0.0", "0.1.2.3", "::1", "::", "::ffff:127.0.0.1", "::ffff:0.0.0.0",
-          "::127.0.0.1", "::ffff:0:127.0.0.1", "64:ff9b::127.0.0.1", "2002:7f00:1::", "2002:7f01:203:1::9"})
+          "::127.0.0.1", "::ffff:0:127.0.0.1", "64:ff9b::127.0.0.1", "64:ff9b:1::127.0.0.1", "64:ff9b:1:7::127.0.0.1",
+          "2002:7f00:1::", "2002:7f01:203:1::9", "2001:0:cb00:7109:0:0:80ff:fffe", "2001:db8::5efe:127.0.0.1",
+          "2001:db8::200:5efe:127.0.0.1"})
     {
         EXPECT_EQ(ReachOf(Address(text)), AddressReach::ThisComputer) << text;
     }
@@ -30,8 +32,9 @@ TEST(AddressReach, OfThisComputer)
 
 TEST(AddressReach, OfTheLink)
 {
-    for (char const* const text : {"169.254.0.1", "169.254.169.254", "fe80::1", "febf::1", "::ffff:169.254.1.1",
-                                   "64:ff9b::a9fe:a9fe", "224.0.0.1", "255.255.255.255", "ff02::1"})
+    for (char const* const text :
+         {"169.254.0.1", "169.254.169.254", "fe80::1", "febf::1", "::ffff:169.254.1.1", "64:ff9b::a9fe:a9fe",
+          "2001:db8::5efe:169.254.1.1", "224.0.0.1", "255.255.255.255", "ff02::1"})
     {
         EXPECT_EQ(ReachOf(Address(text)), AddressReach::Link) << text;
     }

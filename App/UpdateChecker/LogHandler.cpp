@@ -1,0 +1,167 @@
+#include <Pelnar/LogHandler.h>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace Pelnar
+{
+namespace
+{
+
+constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< what glog calls a process whose host does not use it
+
+/// True while this thread is in the handler: its own records are not for it.
+thread_local bool isInHandler = false;
+
+LogSeverity ToSeverity(google::LogSeverity severity)
+{
+    switch (severity)
+    {
+    case google::GLOG_INFO:
+        return LogSeverity::Info;
+    case google::GLOG_WARNING:
+        return LogSeverity::Warning;
+    case google::GLOG_ERROR:
+        return LogSeverity::Error;
+    }
+    return LogSeverity::Fatal;
+}
+
+struct StoredRecord
+{
+    std::thread::id writer;
+    LogSeverity severity;
+    std::string file;
+    int line;
+    std::chrono::system_clock::time_point time;
+    std::string text;
+};
+
+/// glog's sink of the process. Records are stored in send(), where glog's locks are held, and handed over in
+/// WaitTillSent(), where the handler may log itself.
+class LogRelay final : private google::LogSink
+{
+public:
+    LogRelay() { google::AddLogSink(this); }
+
+    void Replace(LogHandler handler)
+    {
+        auto next = handler ? std::make_shared<LogHandler const>(std::move(handler)) : nullptr;
+        std::lock_guard const lock(m_calls); // waits for the call of another thread
+        TakeGlog(next != nullptr);
+        std::lock_guard const change(m_records);
+        m_handler.swap(next);
+    }
+
+private:
+    /// Sees to it that glog is initialized, and that its records go to the handler alone or to standard error alone,
+    /// unless the host has done so.
+    void TakeGlog(bool hasHandler)
+    {
+        if (!m_isGlogOurs)
+        {
+            if (google::IsGoogleLoggingInitialized())
+            {
+                return;
+            }
+            google::InitGoogleLogging(PROGRAM_NAME);
+            m_isGlogOurs = true;
+            for (google::LogSeverity severity = google::GLOG_INFO; severity < google::NUM_SEVERITIES; ++severity)
+            {
+                google::SetLogDestination(severity, "");
+            }
+        }
+        FLAGS_stderrthreshold = hasHandler ? google::GLOG_FATAL : google::GLOG_INFO;
+    }
+
+    void send(google::LogSeverity severity, char const* full_filename, char const*, int line,
+              google::LogMessageTime const& logmsgtime, char const* message, std::size_t message_len) override
+    {
+        if (isInHandler)
+        {
+            return;
+        }
+        std::lock_guard const lock(m_records);
+        if (m_handler)
+        {
+            auto const time = std::chrono::system_clock::from_time_t(logmsgtime.timestamp()) +
+                              std::chrono::microseconds(logmsgtime.usec());
+            m_waiting.push_back({std::this_thread::get_id(), ToSeverity(severity), full_filename, line, time,
+                                 std::string(message, message_len)});
+        }
+    }
+
+    void WaitTillSent() override
+    {
+        if (isInHandler)
+        {
+            return;
+        }
+        for (StoredRecord const& record : TakeOwn())
+        {
+            std::lock_guard const lock(m_calls);
+            isInHandler = true;
+            Call(record);
+            isInHandler = false;
+        }
+    }
+
+    std::vector<StoredRecord> TakeOwn()
+    {
+        std::lock_guard const lock(m_records);
+        auto const own = std::stable_partition(m_waiting.begin(), m_waiting.end(),
+                                               [](StoredRecord const& record)
+                                               { return record.writer != std::this_thread::get_id(); });
+        std::vector<StoredRecord> records(std::make_move_iterator(own), std::make_move_iterator(m_waiting.end()));
+        m_waiting.erase(own, m_waiting.end());
+        return records;
+    }
+
+    void Call(StoredRecord const& record)
+    {
+        // Held for the length of the call: the handler may replace itself.
+        std::shared_ptr<LogHandler const> const handler = Handler();
+        if (!handler)
+        {
+            return;
+        }
+        try
+        {
+            (*handler)({record.severity, record.file, record.line, record.time, record.text});
+        }
+        catch (...)
+        {
+            // Deliberate: whoever logs is not the one to hear of it, and may be a destructor.
+        }
+    }
+
+    std::shared_ptr<LogHandler const> Handler()
+    {
+        std::lock_guard const lock(m_records);
+        return m_handler;
+    }
+
+    std::recursive_mutex m_calls; ///< of whoever is in the handler or replaces it
+    std::mutex m_records;         ///< of what follows
+    std::shared_ptr<LogHandler const> m_handler;
+    std::vector<StoredRecord> m_waiting;
+    bool m_isGlogOurs = false;
+};
+
+} // namespace
+
+void SetLogHandler(LogHandler handler)
+{
+    static LogRelay& relay = *new LogRelay; // a process may log until its very end
+    relay.Replace(std::move(handler));
+}
+
+} // namespace Pelnar

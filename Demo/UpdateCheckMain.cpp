@@ -155,6 +155,7 @@ void SpeakUp()
 int Main(int argc, char** argv)
 {
     StartQuietLogging(argv[0]);
+    qunsetenv("XDG_CACHE_HOME"); // what this program fetches is not kept
     Foundation::IsolatedUserDefaults const defaults;
     qputenv("QT_QPA_PLATFORM", "offscreen");
     // Qt gets the program's name only: it would take --platform for an option of its own.

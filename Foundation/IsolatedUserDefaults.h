@@ -1,5 +1,5 @@
-// IsolatedUserDefaults.h: gives this process user defaults of its own, so that tests and tools never touch those of the
-// person who runs them. Plain C++.
+// IsolatedUserDefaults.h: gives this process user defaults of its own, and a cache folder where the environment names
+// none, so that tests and tools never touch those of the person who runs them. Plain C++.
 // Thread: main, before Foundation is first used and before other threads start. Ownership: a scope object; the defaults
 // are removed with it, so it must outlive the last use of Foundation.
 #pragma once

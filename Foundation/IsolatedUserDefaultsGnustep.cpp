@@ -62,6 +62,11 @@ IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
     // Foundation passes over one that others may change, whatever the mask for new files is.
     config.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
+    // The engine keeps feeds there. A program that is started several times is given one folder for all its runs.
+    if (!qEnvironmentVariableIsSet("XDG_CACHE_HOME"))
+    {
+        qputenv("XDG_CACHE_HOME", folder + "/Cache");
+    }
     RefreshFoundationsEnvironment();
 }
 

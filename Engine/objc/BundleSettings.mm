@@ -404,6 +404,12 @@ void WriteBackOff(BackOffState const& state)
     WriteDefault(@"PelnarLastFailedCheckTime", time);
 }
 
+FeedFolder ReadFeedFolder()
+{
+    QString const identifier = ReadRunningBundle().identifier;
+    return {DownloadFolderFor(identifier), identifier};
+}
+
 FeedRecord ReadFeedRecord()
 {
     WaitingRecord& waiting = Waiting();

@@ -25,6 +25,7 @@
 //   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
+#include "Engine/core/check/KeptFeedFile.h"
 #include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateSettings.h"
@@ -53,6 +54,8 @@ void WriteAutomaticDownload(AutomaticDownload value);
 void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
 void WriteBackOff(BackOffState const& state);
+/// Where the feed of the last check is kept.
+FeedFolder ReadFeedFolder();
 FeedRecord ReadFeedRecord();
 /// Has \a chores store \a ours, unless another process of the application has stored a record of a later feed
 /// meanwhile. ReadFeedRecord() knows of it at once.

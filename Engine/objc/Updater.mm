@@ -80,6 +80,7 @@ void Updater::StartFlow(CheckKind kind)
     PrepareForCheck();
     UpdateSettings settings = ReadUpdateSettings(FeedUrl());
     settings.check.failedVersion = m_failedVersion;
+    settings.check.feedStore = m_feedStore.get();
     auto const& failure = m_memory->Failure();
     if (failure && IsHeldBack(*failure, Parts().Now()))
     {
@@ -186,6 +187,7 @@ void Updater::PrepareForCheck()
     }
     m_parts = std::make_unique<UpdateParts>(HelperProgram());
     m_chores = std::make_unique<DiskChores>();
+    m_feedStore = std::make_unique<FeedStore>(ReadFeedFolder());
     m_windows = MakeDesktopWindows();
     WatchSessionEnd(
         [this]
@@ -210,6 +212,7 @@ void Updater::Abandon()
     updater->m_windows.reset();
     updater->m_parts.reset();
     updater->m_chores.reset();
+    updater->m_feedStore.reset();
     updater->m_appcast.Reset();
     updater->m_found.Reset();
     updater->m_fallback.Reset();

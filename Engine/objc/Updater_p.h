@@ -6,6 +6,7 @@
 #import <Sparkle/Sparkle.h>
 
 #include "Engine/core/update/DiskChores.h"
+#include "Engine/core/update/FeedStore.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/InstallMemory.h"
 #include "Engine/core/update/UpdateFlow.h"
@@ -100,6 +101,7 @@ private:
     bool m_isDelegateToBeTold = false; ///< of the installation that failed
     std::unique_ptr<IUpdateParts> m_parts;
     std::unique_ptr<DiskChores> m_chores; ///< what a check leaves to be written
+    std::unique_ptr<FeedStore> m_feedStore;
     std::unique_ptr<IUserInterface> m_windows;
     std::unique_ptr<UpdateFlow> m_flow; ///< the first to go
 };

@@ -48,17 +48,30 @@ void DropNearerLinks(FeedItem& item, AddressReach feedReach)
 } // namespace
 
 CheckRun::CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now)
-    : m_kind(kind)
-    , m_settings(std::move(settings))
-    , m_host(host)
-    , m_now(std::move(now))
-    , m_fetcher(m_settings.fetchLimits, m_settings.insecureHttp)
+    : m_kind(kind), m_settings(std::move(settings)), m_host(host), m_now(std::move(now))
 {
 }
 
 void CheckRun::Start()
 {
-    m_fetcher.Start(m_settings.feedUrl, [this](FetchOutcome const& outcome) { TakeFeed(outcome); });
+    if (!m_settings.feedStore)
+    {
+        Fetch(std::nullopt);
+        return;
+    }
+    m_settings.feedStore->Ask(m_settings.fetchLimits.maxBodyBytes, this,
+                              [this](std::optional<KeptFeed> const& kept)
+                              {
+                                  m_hasKeptFeed = kept.has_value();
+                                  bool const isFresh = kept && IsFresh(*kept, m_now().toSecsSinceEpoch());
+                                  Fetch(isFresh ? kept : std::nullopt);
+                              });
+}
+
+void CheckRun::Fetch(std::optional<KeptFeed> kept)
+{
+    m_fetcher = std::make_unique<FeedFetcher>(m_settings.fetchLimits, m_settings.insecureHttp, std::move(kept));
+    m_fetcher->Start(m_settings.feedUrl, [this](FetchOutcome const& outcome) { TakeFeed(outcome); });
 }
 
 void CheckRun::Refuse(EngineError const& error)
@@ -77,6 +90,14 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 {
     if (std::optional<EngineError> const refusal = outcome.error ? outcome.error : ReadFeed(outcome))
     {
+        if (outcome.isUnchanged)
+        {
+            // What was accepted once is not now. The server may have another one under the same name.
+            m_settings.feedStore->Keep(std::nullopt);
+            m_fetcher.release()->deleteLater(); // it is on the stack below this call
+            Fetch(std::nullopt);
+            return;
+        }
         Abort(*refusal);
         m_host.CheckEnded();
         return;
@@ -143,7 +164,23 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         DropNearerLinks(item, m_feedReach);
     }
     Remember(outcome.bytes, terms, now);
+    KeepFeed(outcome);
     return std::nullopt;
+}
+
+void CheckRun::KeepFeed(FetchOutcome const& outcome)
+{
+    bool const isThere = outcome.isUnchanged && outcome.keepable;
+    if (!m_settings.feedStore || isThere || (!outcome.keepable && !m_hasKeptFeed))
+    {
+        return;
+    }
+    std::optional<KeptFeed> feed = outcome.keepable;
+    if (feed)
+    {
+        feed->cameAt = m_now().toSecsSinceEpoch();
+    }
+    m_settings.feedStore->Keep(std::move(feed));
 }
 
 void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now)

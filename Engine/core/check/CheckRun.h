@@ -7,6 +7,7 @@
 #include "Engine/core/check/CheckPolicy.h"
 #include "Engine/core/check/FeedRecord.h"
 #include "Engine/core/check/FeedTrust.h"
+#include "Engine/core/check/IFeedStore.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/fetch/FeedFetcher.h"
 
@@ -15,6 +16,7 @@
 #include <QUrl>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -36,6 +38,7 @@ struct CheckSettings
     FeedSigning feedSigning = FeedSigning::NotAsked;
     QStringList publicKeys; ///< of the running bundle, base64
     FeedRecord feedRecord;  ///< of the last check
+    IFeedStore* feedStore = nullptr; ///< outlives the check; null when no feed is kept
 };
 
 /// An item of the loaded feed, or a delta of one.
@@ -102,9 +105,12 @@ public:
     [[nodiscard]] bool HasPutOff() const { return m_hasPutOff; }
 
 private:
+    /// \a kept need not be sent again, if its server has no other feed by now.
+    void Fetch(std::optional<KeptFeed> kept);
     void TakeFeed(FetchOutcome const& outcome);
     /// The items of what was fetched become the run's, or an error says why not.
     std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
+    void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
     /// Asks the host and judges its answer: what to offer, or nothing; an error when the answer is of no use.
     std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
@@ -116,7 +122,8 @@ private:
     CheckSettings m_settings;
     ICheckHost& m_host;
     std::function<QDateTime()> m_now;
-    FeedFetcher m_fetcher;
+    std::unique_ptr<FeedFetcher> m_fetcher;
+    bool m_hasKeptFeed = false; ///< from an earlier check
     AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;
     bool m_hasPutOff = false;

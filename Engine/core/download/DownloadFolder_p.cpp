@@ -1,6 +1,7 @@
 #include "Engine/core/download/DownloadFolder_p.h"
 
 #include "Engine/core/download/DownloadBudget.h"
+#include "Engine/core/payload/NoteFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,7 +21,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr mode_t FOLDER_MODE = 0700;
 constexpr mode_t FILE_MODE = 0600;
 constexpr mode_t OTHERS_CAN_WRITE = 0022;
 constexpr std::size_t HASH_CHARACTERS = 64;
@@ -124,27 +124,16 @@ UniqueFd OpenFolderNamed(std::string const& path)
 std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path)
 {
     QString const shownPath = QFile::decodeName(path.c_str());
-    if (mkdir(path.c_str(), FOLDER_MODE) != 0 && errno == ENOENT)
+    UniqueFd folder = OpenPrivateFolder(path);
+    if (!folder && errno == ENOENT)
     {
         QDir().mkpath(QFileInfo(shownPath).path());
-        mkdir(path.c_str(), FOLDER_MODE);
+        folder = OpenPrivateFolder(path);
     }
-    UniqueFd folder = OpenFolderNamed(path);
     if (!folder)
     {
-        bool const isOther = errno == ENOTDIR || errno == ELOOP;
-        return isOther ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno);
-    }
-    struct stat status
-    {
-    };
-    if (fstat(folder.Get(), &status) != 0)
-    {
-        return OpenError(errno);
-    }
-    if (status.st_uid != geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
-    {
-        return MakeError(ErrorCause::DownloadFolderUnsafe, shownPath);
+        bool const isUnsafe = errno == EPERM || errno == ENOTDIR || errno == ELOOP;
+        return isUnsafe ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno);
     }
     return folder;
 }

@@ -1,9 +1,5 @@
 #include "Engine/core/download/ResumeDecision.h"
 
-#include <QDateTime>
-#include <QLocale>
-
-#include <algorithm>
 #include <variant>
 
 namespace Pelnar::Engine
@@ -11,43 +7,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr int MAX_ENTITY_TAG_BYTES = 1024;
 constexpr int STATUS_OK = 200;
 constexpr int STATUS_PARTIAL = 206;
 constexpr int STATUS_RANGE_NOT_SATISFIABLE = 416;
-
-/// The value of the field, when it is there exactly once.
-QByteArray OnlyValue(HttpHead const& head, QByteArray const& lowerCaseName)
-{
-    std::vector<QByteArray> const values = head.Values(lowerCaseName);
-    return values.size() == 1 ? values.front() : QByteArray();
-}
-
-bool IsStrongEntityTag(QByteArray const& tag)
-{
-    return tag.size() >= 2 && tag.size() <= MAX_ENTITY_TAG_BYTES && tag.startsWith('"') && tag.endsWith('"') &&
-           std::all_of(tag.begin() + 1, tag.end() - 1,
-                       [](char character) {
-                           return character != '"' && character != 0x7f && static_cast<unsigned char>(character) > ' ';
-                       });
-}
-
-/// Of the one form in which servers may write a date today; invalid for any other.
-QDateTime HttpDate(QByteArray const& text)
-{
-    QDateTime date =
-        QLocale::c().toDateTime(QString::fromLatin1(text), QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
-    date.setTimeSpec(Qt::UTC);
-    return date;
-}
-
-/// A file could have changed twice within the second that the date names, unless the second was over.
-bool IsStrongDate(QByteArray const& lastModified, QByteArray const& answered)
-{
-    QDateTime const modification = HttpDate(lastModified);
-    QDateTime const answer = HttpDate(answered);
-    return modification.isValid() && answer.isValid() && modification.secsTo(answer) >= 1;
-}
 
 /// The only description of the rest of \a partial that is understood.
 QByteArray RangeOfRest(PartialArchive const& partial)
@@ -74,9 +36,9 @@ bool IsRestOf(PartialArchive const& partial, HttpHead const& head)
     // The validator must be told again: a server may know ranges and not know the condition on them.
     QByteArray const& asked = PreferredValidator(partial.validators);
     QByteArray const name = partial.validators.entityTag.isEmpty() ? "last-modified" : "etag";
-    bool const isMultipart = OnlyValue(head, "content-type").toLower().startsWith("multipart/");
-    return !isMultipart && OnlyValue(head, name) == asked &&
-           OnlyValue(head, "content-range").toLower() == RangeOfRest(partial);
+    bool const isMultipart = head.OnlyValue("content-type").toLower().startsWith("multipart/");
+    return !isMultipart && head.OnlyValue(name) == asked &&
+           head.OnlyValue("content-range").toLower() == RangeOfRest(partial);
 }
 
 ResumeDecision Refuse(ErrorCause cause)
@@ -85,33 +47,6 @@ ResumeDecision Refuse(ErrorCause cause)
 }
 
 } // namespace
-
-Validators StrongValidators(HttpHead const& head)
-{
-    Validators validators;
-    QByteArray const tag = OnlyValue(head, "etag");
-    if (IsStrongEntityTag(tag))
-    {
-        validators.entityTag = tag;
-    }
-    QByteArray const lastModified = OnlyValue(head, "last-modified");
-    if (IsStrongDate(lastModified, OnlyValue(head, "date")))
-    {
-        validators.lastModified = lastModified;
-    }
-    return validators;
-}
-
-bool AreUsable(Validators const& validators)
-{
-    return (validators.entityTag.isEmpty() || IsStrongEntityTag(validators.entityTag)) &&
-           (validators.lastModified.isEmpty() || HttpDate(validators.lastModified).isValid());
-}
-
-QByteArray const& PreferredValidator(Validators const& validators)
-{
-    return validators.entityTag.isEmpty() ? validators.lastModified : validators.entityTag;
-}
 
 std::vector<HeaderField> RangeFields(PartialArchive const& partial)
 {

@@ -5,33 +5,13 @@
 
 #include "Engine/core/EngineError.h"
 #include "Engine/core/fetch/HttpHead.h"
-
-#include <QByteArray>
+#include "Engine/core/fetch/Validators.h"
 
 #include <optional>
 #include <vector>
 
 namespace Pelnar::Engine
 {
-
-/// What a server says of the version of a file; empty where it says nothing that names one version for sure.
-struct Validators
-{
-    QByteArray entityTag;    ///< strong, with its quotes
-    QByteArray lastModified; ///< as it came
-
-    [[nodiscard]] bool IsEmpty() const { return entityTag.isEmpty() && lastModified.isEmpty(); }
-};
-
-/// Those of an answer that can prove, later, that a file is still the same one: a strong entity tag; a date of
-/// modification that lies at least a second before the answer's own date.
-Validators StrongValidators(HttpHead const& head);
-
-/// False for what StrongValidators() never answers: bytes that a request must not carry.
-[[nodiscard]] bool AreUsable(Validators const& validators);
-
-/// The validator that a request to go on carries: the entity tag if there is one, else the date.
-QByteArray const& PreferredValidator(Validators const& validators);
 
 struct PartialArchive
 {

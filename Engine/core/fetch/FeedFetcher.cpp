@@ -10,9 +10,16 @@
 
 namespace Pelnar::Engine
 {
+namespace
+{
 
-FeedFetcher::FeedFetcher(FetchLimits const& limits, InsecureHttp insecureHttp)
-    : m_limits(limits), m_insecureHttp(insecureHttp)
+constexpr int STATUS_NOT_MODIFIED = 304;
+constexpr int STATUS_CONDITION_FAILED = 412;
+
+} // namespace
+
+FeedFetcher::FeedFetcher(FetchLimits const& limits, InsecureHttp insecureHttp, std::optional<KeptFeed> kept)
+    : m_limits(limits), m_insecureHttp(insecureHttp), m_kept(std::move(kept))
 {
     m_totalTimer.setSingleShot(true);
     connect(&m_totalTimer, &QTimer::timeout, this, [this] { Fail(MakeError(ErrorCause::TotalTimeout)); });
@@ -22,30 +29,31 @@ FeedFetcher::~FeedFetcher() = default;
 
 void FeedFetcher::Start(QUrl const& url, std::function<void(FetchOutcome)> finished)
 {
+    m_feedUrl = url;
     m_finished = std::move(finished);
     // A refusal arrives like any other outcome: later.
-    QTimer::singleShot(0, this, [this, url] { Begin(url); });
+    QTimer::singleShot(0, this, [this] { Begin(); });
 }
 
-void FeedFetcher::Begin(QUrl const& url)
+void FeedFetcher::Begin()
 {
-    if (std::optional<ErrorCause> const cause = JudgeFeedAddress(url, m_insecureHttp))
+    if (std::optional<ErrorCause> const cause = JudgeFeedAddress(m_feedUrl, m_insecureHttp))
     {
         Fail(MakeError(*cause));
         return;
     }
-    if (url.isLocalFile())
+    if (m_feedUrl.isLocalFile())
     {
-        ReadFile(url);
+        ReadFile();
         return;
     }
     m_totalTimer.start(m_limits.totalTimeout);
-    Send(RequestFor(url));
+    Send(RequestFor(m_feedUrl));
 }
 
-void FeedFetcher::ReadFile(QUrl const& url)
+void FeedFetcher::ReadFile()
 {
-    QString const path = url.toLocalFile();
+    QString const path = m_feedUrl.toLocalFile();
     QFileInfo const info(path);
     if (!info.exists())
     {
@@ -75,13 +83,24 @@ void FeedFetcher::ReadFile(QUrl const& url)
         Fail(MakeError(ErrorCause::FileTooLarge));
         return;
     }
-    Finish({std::nullopt, url, bytes, AddressReach::ThisComputer});
+    FetchOutcome outcome;
+    outcome.url = m_feedUrl;
+    outcome.bytes = bytes;
+    outcome.reach = AddressReach::ThisComputer;
+    Finish(std::move(outcome));
 }
 
 void FeedFetcher::Send(FetchRequest const& request)
 {
     m_request = request;
-    m_transfer = std::make_unique<HttpTransfer>(request, m_limits);
+    FetchRequest sent = request;
+    // It is about the one address that answered, and is not passed on by a redirect.
+    m_isConditional = m_kept && m_kept->place == PlaceOf(m_feedUrl, request.url);
+    if (m_isConditional)
+    {
+        sent.fields.push_back(ConditionOf(*m_kept));
+    }
+    m_transfer = std::make_unique<HttpTransfer>(sent, m_limits);
     connect(m_transfer.get(), &HttpTransfer::Failed, this, [this](EngineError const& error) { Fail(error); });
     connect(m_transfer.get(), &HttpTransfer::Completed, this, &FeedFetcher::TakeAnswer);
     m_transfer->Open();
@@ -104,17 +123,52 @@ void FeedFetcher::TakeAnswer()
         Send(std::get<FetchRequest>(next));
         return;
     }
+    if (m_isConditional && (head.status == STATUS_NOT_MODIFIED || head.status == STATUS_CONDITION_FAILED))
+    {
+        TakeUnchanged(head);
+        return;
+    }
     if (head.status != 200)
     {
         Fail(MakeHttpStatusError(head.status));
         return;
     }
-    Finish({std::nullopt, m_request.url, m_transfer->Body(), m_transfer->AnsweredFrom()});
+    FetchOutcome outcome;
+    outcome.url = m_request.url;
+    outcome.bytes = m_transfer->Body();
+    outcome.reach = m_transfer->AnsweredFrom();
+    outcome.keepable = KeepableFeed(head, m_feedUrl, m_request.url, outcome.reach);
+    if (outcome.keepable)
+    {
+        outcome.keepable->bytes = outcome.bytes;
+    }
+    Finish(std::move(outcome));
+}
+
+void FeedFetcher::TakeUnchanged(HttpHead const& head)
+{
+    KeptFeed const kept = *std::exchange(m_kept, std::nullopt);
+    if (head.status != STATUS_NOT_MODIFIED || !IsAbout(kept, head, m_transfer->AnsweredFrom()))
+    {
+        // It does not mean the feed that is kept: the whole is asked for, once.
+        m_transfer.release()->deleteLater();
+        Send(FetchRequest(m_request));
+        return;
+    }
+    FetchOutcome outcome;
+    outcome.url = m_request.url;
+    outcome.bytes = kept.bytes;
+    outcome.reach = kept.reach;
+    outcome.isUnchanged = true;
+    outcome.keepable = ForbidsKeeping(head) ? std::nullopt : std::optional(kept);
+    Finish(std::move(outcome));
 }
 
 void FeedFetcher::Fail(EngineError const& error)
 {
-    Finish({error, {}, {}, {}});
+    FetchOutcome outcome;
+    outcome.error = error;
+    Finish(std::move(outcome));
 }
 
 void FeedFetcher::Finish(FetchOutcome outcome)

@@ -84,6 +84,12 @@ std::vector<QByteArray> HttpHead::Values(QByteArray const& lowerCaseName) const
     return values;
 }
 
+QByteArray HttpHead::OnlyValue(QByteArray const& lowerCaseName) const
+{
+    std::vector<QByteArray> const values = Values(lowerCaseName);
+    return values.size() == 1 ? values.front() : QByteArray();
+}
+
 std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head)
 {
     for (QByteArray const& encoding : head.Values("content-encoding"))

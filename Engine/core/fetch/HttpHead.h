@@ -21,6 +21,8 @@ struct HttpHead
 
     /// The values of every field named \a lowerCaseName.
     std::vector<QByteArray> Values(QByteArray const& lowerCaseName) const;
+    /// The value of the field, when it is there exactly once.
+    QByteArray OnlyValue(QByteArray const& lowerCaseName) const;
 };
 
 /// How the end of a body is known.

@@ -18,6 +18,7 @@ namespace
 constexpr int SAMPLES_IN_WINDOW = 20;
 /// So long may bytes wait for more before they go to the disk.
 constexpr std::chrono::milliseconds REST_INTERVAL{10};
+constexpr int STATUS_NOT_MODIFIED = 304;
 constexpr int STATUS_PROXY_ASKS = 407;
 /// What chunks, records and their padding may take beside an answer: so much, and a quarter of the answer.
 constexpr qint64 FREE_FRAMING_BYTES = 1024 * 1024;
@@ -218,7 +219,8 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     if (!most)
     {
         m_isBodyUseless = true;
-        return Verdict::Ends;
+        // It has no body, and its connection is as good as new.
+        return head.status == STATUS_NOT_MODIFIED ? Verdict::GoesOn : Verdict::Ends;
     }
     m_limits.maxBodyBytes = *most;
     std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
@@ -236,6 +238,10 @@ qint64 HttpTransfer::HoldOrTake(char const* bytes, qint64 size)
     if (!m_reader.HasHead())
     {
         return size; // of an answer that another one follows
+    }
+    if (m_isBodyUseless)
+    {
+        return 0;
     }
     if (!DeliverHeld())
     {

@@ -4,6 +4,7 @@
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
 
+#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -16,8 +17,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t NOTE_MAX_BYTES = 64 * 1024;
+constexpr mode_t FOLDER_MODE = 0700;
 constexpr mode_t NOTE_MODE = 0600;
+constexpr mode_t OTHERS_CAN_WRITE = 0022;
 constexpr mode_t ALL_BITS = 07777;
 
 void SyncOrThrow(int descriptor)
@@ -29,6 +31,27 @@ void SyncOrThrow(int descriptor)
 }
 
 } // namespace
+
+UniqueFd OpenPrivateFolder(std::string const& path)
+{
+    static_cast<void>(::mkdir(path.c_str(), FOLDER_MODE));
+    UniqueFd folder;
+    do
+    {
+        folder = UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    } while (!folder && errno == EINTR);
+    struct stat status;
+    if (!folder || ::fstat(folder.Get(), &status) != 0)
+    {
+        return UniqueFd();
+    }
+    if (status.st_uid != ::geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
+    {
+        errno = EPERM;
+        return UniqueFd();
+    }
+    return folder;
+}
 
 bool IsPrivateFile(int fd)
 {
@@ -65,7 +88,7 @@ bool RenameOver(int folderFd, std::string const& from, std::string const& to)
     return ::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0;
 }
 
-std::string ReadNote(int folderFd, std::string const& name)
+std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes)
 {
     UniqueFd const file(::openat(folderFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
@@ -74,7 +97,7 @@ std::string ReadNote(int folderFd, std::string const& name)
     {
         return {};
     }
-    std::string bytes(NOTE_MAX_BYTES, '\0');
+    std::string bytes(std::min(maxBytes, static_cast<std::size_t>(status.st_size)), '\0');
     ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
     if (count < 0)
     {

@@ -3,11 +3,17 @@
 // stay the caller's.
 #pragma once
 
+#include "Engine/core/delta/TreeAccess.h"
+
 #include <string>
 #include <string_view>
 
 namespace Pelnar::Engine
 {
+
+/// Opens the folder \a path, or makes it. Without a folder in which nobody but this user can write there is none, and
+/// errno: EPERM for one of somebody else's or that others can write, ENOTDIR or ELOOP for what is no folder.
+UniqueFd OpenPrivateFolder(std::string const& path);
 
 /// True for a regular file of this user's that nobody else may open.
 [[nodiscard]] bool IsPrivateFile(int fd);
@@ -21,8 +27,8 @@ void FreeName(int folderFd, std::string const& name);
 
 /// What the file \a name says; empty when there is none, or when anybody else may have written it: it counts only when
 /// it is private and has no other name. REQUIRES: nobody else may write in the folder. Throws UpdateRefusal when it
-/// cannot be read: no answer is not the answer that there is none.
-std::string ReadNote(int folderFd, std::string const& name);
+/// cannot be read: no answer is not the answer that there is none. A longer file is cut at \a maxBytes.
+std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes = 64 * 1024);
 /// Puts the file in the place of what may be there, whole, and answers when it is on the disk. Throws UpdateRefusal:
 /// PermissionsUnavailable where the file system keeps no modes.
 void WriteNote(int folderFd, std::string const& name, std::string_view bytes);

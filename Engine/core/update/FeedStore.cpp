@@ -1,0 +1,71 @@
+#include "Engine/core/update/FeedStore.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+FeedStore::FeedStore(FeedFolder folder) : m_folder(std::move(folder)) {}
+
+void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::optional<KeptFeed> const&)> answer)
+{
+    auto const tell = [receiver = QPointer<QObject>(receiver), answer = std::move(answer),
+                       maxBytes](std::optional<KeptFeed> const& feed)
+    {
+        if (receiver)
+        {
+            answer(feed && feed->bytes.size() <= maxBytes ? feed : std::nullopt);
+        }
+    };
+    std::unique_lock lock(m_mutex);
+    std::optional<Wish> const wish = m_wish;
+    lock.unlock();
+    if (wish)
+    {
+        QMetaObject::invokeMethod(
+            this, [tell, feed = wish->feed] { tell(feed); }, Qt::QueuedConnection);
+        return;
+    }
+    m_chores.Run(
+        [this, maxBytes, tell]
+        {
+            QMetaObject::invokeMethod(
+                this, [tell, feed = ReadKeptFeedFile(m_folder, maxBytes)] { tell(feed); }, Qt::QueuedConnection);
+        });
+}
+
+void FeedStore::Keep(std::optional<KeptFeed> feed)
+{
+    {
+        std::lock_guard const lock(m_mutex);
+        m_wish = Wish{std::move(feed)};
+        m_isWishNew = true;
+        if (std::exchange(m_isWriting, true))
+        {
+            return; // who writes takes this one next
+        }
+    }
+    m_chores.Run([this] { WriteWishes(); });
+}
+
+void FeedStore::WriteWishes()
+{
+    std::unique_lock lock(m_mutex);
+    bool isDone = false;
+    while (std::exchange(m_isWishNew, false))
+    {
+        Wish const wish = *m_wish;
+        lock.unlock();
+        isDone = WriteKeptFeedFile(m_folder, wish.feed);
+        lock.lock();
+    }
+    m_isWriting = false;
+    if (isDone)
+    {
+        m_wish.reset();
+    }
+}
+
+} // namespace Pelnar::Engine

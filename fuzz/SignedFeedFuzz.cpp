@@ -1,11 +1,14 @@
 // SignedFeedFuzz.cpp: any bytes as a signed feed: every byte is signed or is the signature's own line, nothing that
 // looks like a signature is part of what is believed, and a signature that is added to any bytes is found again. The
-// same bytes as the record of a feed.
+// same bytes as the record of a feed, and as a kept feed with its digest and without.
 
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/check/FeedTrust.h"
+#include "Engine/core/check/KeptFeedFile.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/payload/Ed25519Signature.h"
+
+#include <QCryptographicHash>
 
 #include <cstddef>
 #include <cstdint>
@@ -64,6 +67,22 @@ void RequireRecord(QByteArray const& bytes)
     }
 }
 
+void RequireKept(std::string const& bytes)
+{
+    constexpr qint64 MAX_BYTES = 1000;
+    auto const kept = DecodeKeptFeed(bytes, QStringLiteral("a"), MAX_BYTES);
+    if (!kept)
+    {
+        return;
+    }
+    Require(kept->bytes.size() <= MAX_BYTES, "no kept feed is longer than it may be");
+    HeaderField const condition = ConditionOf(*kept);
+    Require(!condition.value.isEmpty() && !condition.value.contains('\r') && !condition.value.contains('\n') &&
+                !condition.value.contains('\0'),
+            "a request may carry its condition");
+    Require(EncodeKeptFeed(*kept, QStringLiteral("a")) == bytes, "a kept feed is read as it was written");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
@@ -90,5 +109,9 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     }
     RequireTerms(bytes);
     RequireRecord(bytes);
+    std::string const plain = bytes.toStdString();
+    RequireKept(plain);
+    // No mutation finds a digest.
+    RequireKept(plain + QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toStdString());
     return 0;
 }

@@ -1,8 +1,11 @@
 #include "Publisher/serve/HttpRequest.h"
 
+#include <QDateTime>
 #include <QList>
+#include <QLocale>
 
 #include <algorithm>
+#include <array>
 
 namespace Pelnar::Publisher
 {
@@ -29,6 +32,24 @@ qint64 NumberOf(QByteArray const& text)
     return isNumber ? number : -1;
 }
 
+struct NamedText
+{
+    char const* name;
+    QByteArray HttpRequest::*text;
+};
+
+constexpr std::array TEXTS = {
+    NamedText{"range", &HttpRequest::range},
+    NamedText{"if-range", &HttpRequest::ifRange},
+    NamedText{"if-none-match", &HttpRequest::ifNoneMatch},
+    NamedText{"if-modified-since", &HttpRequest::ifModifiedSince},
+};
+
+QByteArray WithoutWeakSign(QByteArray const& tag)
+{
+    return tag.startsWith("W/") ? tag.mid(2) : tag;
+}
+
 } // namespace
 
 std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head)
@@ -48,13 +69,11 @@ std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head)
         int const colon = line.indexOf(':');
         QByteArray const name = line.left(colon).toLower();
         QByteArray const value = line.mid(colon + 1).trimmed();
-        if (name == "range")
+        auto const text = std::find_if(TEXTS.begin(), TEXTS.end(),
+                                       [&name](NamedText const& candidate) { return name == candidate.name; });
+        if (text != TEXTS.end())
         {
-            request.range = value;
-        }
-        else if (name == "if-range")
-        {
-            request.ifRange = value;
+            request.*(text->text) = value;
         }
         else if (name == "host")
         {
@@ -80,6 +99,21 @@ QByteArray HostName(QByteArray const& header)
     }
     name.chop(name.endsWith('.') ? 1 : 0);
     return hasPort ? name : QByteArray();
+}
+
+bool HasVersion(HttpRequest const& request, QByteArray const& entityTag, qint64 changed)
+{
+    if (!request.ifNoneMatch.isEmpty())
+    {
+        QList<QByteArray> const tags = request.ifNoneMatch.split(',');
+        return std::any_of(tags.begin(), tags.end(),
+                           [&entityTag](QByteArray const& tag)
+                           { return tag.trimmed() == "*" || WithoutWeakSign(tag.trimmed()) == entityTag; });
+    }
+    QDateTime since = QLocale::c().toDateTime(QString::fromLatin1(request.ifModifiedSince),
+                                              QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    since.setTimeSpec(Qt::UTC);
+    return since.isValid() && changed <= since.toSecsSinceEpoch();
 }
 
 RangeKind RangeOf(QByteArray const& header, qint64 size, ByteRange& range)

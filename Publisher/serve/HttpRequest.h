@@ -16,6 +16,8 @@ struct HttpRequest
     QString path; ///< below the served folder, decoded, without query; empty for what cannot be one
     QByteArray range;
     QByteArray ifRange;
+    QByteArray ifNoneMatch = {};
+    QByteArray ifModifiedSince = {};
     std::optional<QByteArray> host = {}; ///< as the header has it
     bool isHostClear = true;             ///< said once, or left away in HTTP/1.0
 };
@@ -25,6 +27,10 @@ std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head);
 
 /// The name in a header Host, in lower case and without port; empty for what has no such form.
 QByteArray HostName(QByteArray const& header);
+
+/// True when the client has the version of a file that is called \a entityTag and was changed at \a changed, which is
+/// whole seconds since 1970.
+[[nodiscard]] bool HasVersion(HttpRequest const& request, QByteArray const& entityTag, qint64 changed);
 
 /// Bytes of a file, from \a first up to and without \a end.
 struct ByteRange

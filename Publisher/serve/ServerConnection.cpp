@@ -30,6 +30,8 @@ QByteArray ReasonOf(int status)
         return "OK";
     case 206:
         return "Partial Content";
+    case 304:
+        return "Not Modified";
     case 400:
         return "Bad Request";
     case 404:
@@ -192,6 +194,13 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
     }
     QByteArray const tag = TagOf(status);
     QByteArray const changed = HttpDate(status.st_mtim.tv_sec);
+    QByteArray const version = "ETag: " + tag + "\r\nLast-Modified: " + changed + "\r\n";
+    // A fault that was asked for must show.
+    if (!m_fault && HasVersion(request, tag, status.st_mtim.tv_sec))
+    {
+        AnswerStatus(request, 304, version);
+        return;
+    }
     bool const isRangeWanted = request.ifRange.isEmpty() || request.ifRange == tag || request.ifRange == changed;
     RangeKind const kind = RangeOf(isRangeWanted ? request.range : QByteArray(), status.st_size, m_rest);
     if (kind == RangeKind::Unsatisfiable)
@@ -203,7 +212,7 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
     qint64 const length = m_rest.end - m_rest.first;
     m_socket.write("HTTP/1.1 " + QByteArray::number(code) + ' ' + ReasonOf(code) +
                    "\r\nContent-Type: " + TypeOf(request.path) + "\r\nContent-Length: " + QByteArray::number(length) +
-                   "\r\nAccept-Ranges: bytes\r\nETag: " + tag + "\r\nLast-Modified: " + changed + "\r\n");
+                   "\r\nAccept-Ranges: bytes\r\n" + version);
     if (kind == RangeKind::Part)
     {
         m_socket.write("Content-Range: bytes " + QByteArray::number(m_rest.first) + '-' +
@@ -226,8 +235,9 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
 void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders,
                                     QString const& remark)
 {
+    // Beside 304 the length would be the file's.
     m_socket.write("HTTP/1.1 " + QByteArray::number(status) + ' ' + ReasonOf(status) + "\r\n" + extraHeaders +
-                   "Content-Length: 0\r\nConnection: close\r\n\r\n");
+                   (status == 304 ? "" : "Content-Length: 0\r\n") + "Connection: close\r\n\r\n");
     m_log(QStringLiteral("%1 /%2 ").arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
           QString::number(status) + remark);
     End();

@@ -1,6 +1,7 @@
 // CheckContractTest.cpp: what the session may rely on when it uses the engine's updater: how a check is started, how an
 // item is chosen, which outcome is told in which order, when the updater is idle.
 #include "tests/engine/CheckFixture.h"
+#include "tests/support/TaggedFeed.h"
 
 #include <QTimer>
 #include <QTranslator>
@@ -59,6 +60,22 @@ TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), Joined({"asked", "found 5.1"}, GetParam().afterFound));
     EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
+}
+
+TEST_P(EveryCheck, BehindAProbeAsksOnlyWhetherTheFeedHasChanged)
+{
+    TaggedFeed feed{FeedWith(ItemOf("5.1"))};
+    LoopbackServer server(feed.Script());
+    for (Start const start : {&UpdaterDriver::Probe, GetParam().start})
+    {
+        UpdaterDriver driver({&ChooseNone, &CompareNumbers, {}, {}});
+        driver.SetFeed(server.Url());
+        (driver.*start)();
+        ASSERT_TRUE(driver.WaitForEnd());
+    }
+    EXPECT_EQ(feed.wholes, 1);
+    EXPECT_EQ(feed.unchanged, 1);
+    EXPECT_EQ(server.Connections(), 1);
 }
 
 TEST_P(EveryCheck, NilIsNoUpdate)

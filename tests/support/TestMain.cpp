@@ -18,7 +18,7 @@ constexpr int EXIT_SKIPPED = 77; // as tests/CMakeLists.txt has it
 
 int main(int argc, char** argv)
 {
-    ::umask(S_IWGRP | S_IWOTH); // files that others may change are not trusted; tests of them make their own
+    ::umask(S_IWGRP | S_IWOTH);  // files that others may change are not trusted; tests of them make their own
     qunsetenv("XDG_CACHE_HOME"); // of the person who runs the tests
     Pelnar::Foundation::IsolatedUserDefaults const defaults;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))

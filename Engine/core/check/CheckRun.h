@@ -36,8 +36,8 @@ struct CheckSettings
     FetchLimits fetchLimits;
     FeedLimits feedLimits;
     FeedSigning feedSigning = FeedSigning::NotAsked;
-    QStringList publicKeys; ///< of the running bundle, base64
-    FeedRecord feedRecord;  ///< of the last check
+    QStringList publicKeys;          ///< of the running bundle, base64
+    FeedRecord feedRecord;           ///< of the last check
     IFeedStore* feedStore = nullptr; ///< outlives the check; null when no feed is kept
 };
 

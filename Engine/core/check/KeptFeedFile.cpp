@@ -144,8 +144,7 @@ bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& 
     UniqueFd const descriptor = OpenFolder(folder);
     if (!descriptor)
     {
-        PLOG(WARNING) << "The feed is not kept for the next check, since the folder " << shownPath
-                      << " cannot be used";
+        PLOG(WARNING) << "The feed is not kept for the next check, since the folder " << shownPath << " cannot be used";
         return false;
     }
     QLockFile lock(folder.path + QLatin1Char('/') + QLatin1String(NAME) + QStringLiteral(".lock"));

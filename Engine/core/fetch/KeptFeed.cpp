@@ -51,8 +51,7 @@ std::optional<KeptFeed> KeepableFeed(HttpHead const& head, QUrl const& feedUrl, 
     feed.reach = reach;
     feed.validators = FeedValidators(head);
     // What changes with anything else than the request's fields, which are always the same, is of one request.
-    bool const mayBeKept =
-        !ForbidsKeeping(head) && !HasWord(head, "vary", "*") && IsFromWhoItSays(answered, reach);
+    bool const mayBeKept = !ForbidsKeeping(head) && !HasWord(head, "vary", "*") && IsFromWhoItSays(answered, reach);
     return mayBeKept && !feed.validators.IsEmpty() ? std::optional(feed) : std::nullopt;
 }
 
@@ -71,8 +70,7 @@ bool IsAbout(KeptFeed const& feed, HttpHead const& head, AddressReach reach)
 {
     std::vector<QByteArray> const tags = head.Values("etag");
     std::vector<QByteArray> const dates = head.Values("last-modified");
-    bool const isTagSame =
-        tags.empty() || (tags.size() == 1 && IsSameTag(tags.front(), feed.validators.entityTag));
+    bool const isTagSame = tags.empty() || (tags.size() == 1 && IsSameTag(tags.front(), feed.validators.entityTag));
     bool const isDateSame = !feed.validators.entityTag.isEmpty() || dates.empty() ||
                             (dates.size() == 1 && dates.front() == feed.validators.lastModified);
     // A name that led elsewhere then would pass the feed of one place off as that of the other.

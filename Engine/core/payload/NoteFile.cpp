@@ -92,8 +92,8 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
 {
     UniqueFd const file(::openat(folderFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
-    // Another name of the file may stand where others can reach it.
-    if (!file || !IsPrivateFile(file.Get()) || ::fstat(file.Get(), &status) != 0 || status.st_nlink != 1)
+    // Another name of the file may stand where others can reach it. Without any, it was replaced this very moment.
+    if (!file || !IsPrivateFile(file.Get()) || ::fstat(file.Get(), &status) != 0 || status.st_nlink > 1)
     {
         return {};
     }

@@ -1,6 +1,6 @@
 // FeedStore.h: the kept feed of an application: on the disk, and in memory until it is there.
-// Thread: the one that made it, with Qt's event loop; it reads and writes beside that loop. Ownership: the updater's. Its
-// end waits for what it reads and writes.
+// Thread: the one that made it, with Qt's event loop; it reads and writes beside that loop. Ownership: the updater's.
+// Its end waits for what it reads and writes.
 #pragma once
 
 #include "Engine/core/check/IFeedStore.h"
@@ -20,8 +20,7 @@ class FeedStore : public QObject, public IFeedStore
 public:
     explicit FeedStore(FeedFolder folder);
 
-    void Ask(qint64 maxBytes, QObject* receiver,
-             std::function<void(std::optional<KeptFeed> const&)> answer) override;
+    void Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::optional<KeptFeed> const&)> answer) override;
     void Keep(std::optional<KeptFeed> feed) override;
 
 private:

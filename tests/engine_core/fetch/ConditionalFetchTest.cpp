@@ -41,8 +41,9 @@ protected:
         {
             bool const isConditional = request.contains("\r\nIf-");
             conditions += isConditional ? 1 : 0;
-            socket.write(isConditional ? first : "HTTP/1.1 200 OK\r\nETag: \"one\"\r\nContent-Length: " +
-                                                     QByteArray::number(body.size()) + "\r\n\r\n" + body);
+            socket.write(isConditional ? first
+                                       : "HTTP/1.1 200 OK\r\nETag: \"one\"\r\nContent-Length: " +
+                                             QByteArray::number(body.size()) + "\r\n\r\n" + body);
         };
     }
 

@@ -148,6 +148,40 @@ TEST_F(Serve, PartOfAFileThatChangedIsTheWholeFile)
     EXPECT_EQ(Get(server.Address(), "/appcast.xml", condition).body, "<rss />");
 }
 
+TEST_F(Serve, FileThatTheClientHasIsNotSentAgain)
+{
+    Server server({Folder(), QStringLiteral("--fault"), QStringLiteral("truncate:app_1.0.zip:10")});
+    Answer const whole = Get(server.Address(), "/appcast.xml");
+    auto const value = [&whole](std::string const& name)
+    {
+        std::size_t const start = whole.head.find(name + ": ") + name.size() + 2;
+        return QByteArray::fromStdString(whole.head.substr(start, whole.head.find("\r\n", start) - start));
+    };
+    QByteArray const tag = value("ETag");
+    QByteArray const date = value("Last-Modified");
+    for (QByteArray const& condition :
+         {"If-None-Match: " + tag, "If-None-Match: \"x\", W/" + tag, QByteArray("If-None-Match: *"),
+          "If-Modified-Since: " + date, "If-None-Match: " + tag + "\r\nIf-Modified-Since: x",
+          "If-None-Match: " + tag + "\r\nRange: bytes=0-1"})
+    {
+        Answer const unchanged = Get(server.Address(), "/appcast.xml", condition + "\r\n");
+        EXPECT_EQ(unchanged.Status(), "HTTP/1.1 304 Not Modified") << condition.toStdString();
+        EXPECT_EQ(unchanged.body, "");
+        EXPECT_TRUE(unchanged.Has("ETag: " + tag.toStdString())) << unchanged.head;
+        EXPECT_EQ(unchanged.head.find("Content-Length"), std::string::npos) << unchanged.head;
+    }
+    for (QByteArray const& condition :
+         {QByteArray("If-None-Match: \"x\""), "If-None-Match: \"x\"\r\nIf-Modified-Since: " + date,
+          QByteArray("If-Modified-Since: Sun, 06 Nov 1994 08:49:37 GMT"), QByteArray("If-Modified-Since: today")})
+    {
+        EXPECT_EQ(Get(server.Address(), "/appcast.xml", condition + "\r\n").body, "<rss/>") << condition.toStdString();
+    }
+    EXPECT_EQ(Get(server.Address(), "/app_1.0.zip", "If-None-Match: *\r\n").body.size(), 10u) << "a fault shows";
+    WriteFile(m_folder.Path() + "/appcast.xml", "<rss ></rss>");
+    EXPECT_EQ(Get(server.Address(), "/appcast.xml", "If-None-Match: " + tag + "\r\n").body, "<rss ></rss>");
+    EXPECT_NE(server.Log().find("GET /appcast.xml 304\n"), std::string::npos);
+}
+
 TEST_F(Serve, NothingButPlainFilesOfTheFolderIsServed)
 {
     WriteFile(m_folder.Path() + "/../pelnar-serve-secret", "secret");

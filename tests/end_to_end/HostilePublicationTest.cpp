@@ -113,7 +113,10 @@ TEST_F(UpdateScenario, NothingIsFetchedButTheFeedAndOneArchiveAndNothingIsRunBut
     EXPECT_FALSE(hostile.HasRunAny());
     Names const answers = server.EndAndListAnswers();
     EXPECT_EQ(std::set<std::string>(answers.begin(), answers.end()),
-              (std::set<std::string>{std::string(WHOLE_FEED) + " 200", std::string(WHOLE_ARCHIVE) + " 200"}));
+              (std::set<std::string>{std::string(WHOLE_FEED) + " 200", std::string(WHOLE_FEED) + " 304",
+                                     std::string(WHOLE_ARCHIVE) + " 200"}));
+    EXPECT_EQ(std::count(answers.begin(), answers.end(), std::string(WHOLE_FEED) + " 200"), 1)
+        << "the second fetch of the check asks whether it has changed";
     EXPECT_EQ(std::count(answers.begin(), answers.end(), std::string(WHOLE_ARCHIVE) + " 200"), 1);
 }
 

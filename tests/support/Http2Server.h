@@ -5,6 +5,7 @@
 #include "tests/support/DialogDriver.h"
 #include "tests/support/TestCertificates.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QHostAddress>
 #include <QProcess>
@@ -65,6 +66,16 @@ public:
             qFatal("cannot write %s", qPrintable(file.fileName()));
         }
         return Url(QStringLiteral("/file"));
+    }
+
+    /// Says that what is served was changed at \a time.
+    void SetTime(QDateTime const& time) const
+    {
+        QFile file(m_folder.filePath(QStringLiteral("file")));
+        if (!file.open(QIODevice::ReadWrite) || !file.setFileTime(time, QFileDevice::FileModificationTime))
+        {
+            qFatal("cannot change %s", qPrintable(file.fileName()));
+        }
     }
 
     QUrl Url(QString const& path) const

@@ -17,13 +17,9 @@ QByteArray const NOT_MODIFIED = "HTTP/1.1 304 Not Modified\r\n\r\n";
 class ConditionalFetch : public FetchTest
 {
 protected:
-    FetchOutcome FetchWith(QUrl const& url, std::optional<KeptFeed> const& kept)
+    static FetchOutcome FetchWith(QUrl const& url, std::optional<KeptFeed> const& kept)
     {
-        FeedFetcher fetcher(ShortLimits(), InsecureHttp::LoopbackOnly, kept);
-        std::optional<FetchOutcome> outcome;
-        fetcher.Start(url, [&outcome](FetchOutcome const& told) { outcome = told; });
-        EXPECT_TRUE(WaitFor([&outcome] { return outcome.has_value(); }, 30000));
-        return outcome.value_or(FetchOutcome());
+        return Fetch(url, ShortLimits(), InsecureHttp::LoopbackOnly, kept);
     }
 
     /// What a fetch of \a url leaves to be kept.

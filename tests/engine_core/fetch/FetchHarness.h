@@ -35,9 +35,10 @@ inline Engine::FetchLimits ShortLimits()
 }
 
 inline Engine::FetchOutcome Fetch(QUrl const& url, Engine::FetchLimits const& limits = ShortLimits(),
-                                  Engine::InsecureHttp insecureHttp = Engine::InsecureHttp::LoopbackOnly)
+                                  Engine::InsecureHttp insecureHttp = Engine::InsecureHttp::LoopbackOnly,
+                                  std::optional<Engine::KeptFeed> const& kept = std::nullopt)
 {
-    Engine::FeedFetcher fetcher(limits, insecureHttp);
+    Engine::FeedFetcher fetcher(limits, insecureHttp, kept);
     std::optional<Engine::FetchOutcome> outcome;
     int calls = 0;
     fetcher.Start(url,

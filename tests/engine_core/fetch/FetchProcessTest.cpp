@@ -342,6 +342,19 @@ TEST_F(Http2, FeedIsFetched)
     EXPECT_EQ(Fetch(url).bytes, body) << "over the same connection";
 }
 
+TEST_F(Http2, UnchangedFeedIsNotSentAgain)
+{
+    QByteArray const body(1000, 'x');
+    QUrl const url = server.Serve(body);
+    server.SetTime(QDateTime(QDate(2016, 11, 6), QTime(8, 49, 37), Qt::UTC));
+    FetchOutcome const first = Fetch(url);
+    ASSERT_TRUE(first.keepable) << "it says when the file was changed";
+    FetchOutcome const again = Fetch(url, ShortLimits(), InsecureHttp::LoopbackOnly, first.keepable);
+    EXPECT_EQ(CauseOf(again), ErrorCause::NoUpdate);
+    EXPECT_TRUE(again.isUnchanged);
+    EXPECT_EQ(again.bytes, body);
+}
+
 TEST_F(Http2, FeedThatIsTooLargeOrMissingIsRefused)
 {
     EXPECT_EQ(CauseOf(Fetch(server.Serve(QByteArray(5 * 1024 * 1024, 'x')))), ErrorCause::BodyTooLarge);

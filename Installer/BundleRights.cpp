@@ -46,10 +46,21 @@ bool IsGroupOfUse(BundleRights const& rights)
     return ((rights.mode >> 3) & 07) != (rights.mode & 07) || !rights.accessList.empty();
 }
 
+/// A list that a new file got from the folder in which it was made.
+void RemoveAccessList(int folderFd, std::string const& name)
+{
+    std::string const path = "/proc/self/fd/" + std::to_string(folderFd) + '/' + name;
+    if (::lremovexattr(path.c_str(), ACCESS_LIST) != 0 && errno != ENODATA && errno != EOPNOTSUPP)
+    {
+        Fail();
+    }
+}
+
 /// What is in the bundle.
-void GiveRightsWithin(int bundleFd, BundleRights const& rights)
+void GiveRightsWithin(int bundleFd, BundleRights const& rights, BundleRights const& present)
 {
     mode_t const bits = BitsWithin(rights);
+    bool const hasForeignLists = rights.accessList.empty() && !present.accessList.empty();
     auto const give = [&](std::string const&, int folderFd, std::string const& name, struct stat const& status)
     {
         bool const isOfGroup = status.st_gid == rights.group;
@@ -57,6 +68,10 @@ void GiveRightsWithin(int bundleFd, BundleRights const& rights)
             IsGroupOfUse(rights))
         {
             Fail();
+        }
+        if (hasForeignLists)
+        {
+            RemoveAccessList(folderFd, name);
         }
         mode_t const mode = status.st_mode & bits;
         bool const hasMode = S_ISLNK(status.st_mode) || mode == (status.st_mode & 07777u);
@@ -104,14 +119,18 @@ bool GiveRights(int bundleFd, BundleRights const& rights)
     {
         return false;
     }
-    if (!isOfGroup || BitsWithin(rights) != 0777)
+    if (!isOfGroup || !hasList || BitsWithin(rights) != 0777)
     {
-        GiveRightsWithin(bundleFd, rights);
+        GiveRightsWithin(bundleFd, rights, present);
     }
     // The folder last, in this order: another owner takes bits away, and a list is a part of the mode.
     if (!isOfGroup && ::fchown(bundleFd, SAME_OWNER, rights.group) != 0 && IsGroupOfUse(rights))
     {
         Fail();
+    }
+    if (rights.accessList.empty())
+    {
+        RemoveAccessList(bundleFd, ".");
     }
     if (::fchmod(bundleFd, rights.mode) != 0)
     {

@@ -333,7 +333,13 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
         return StartAndWatch(job, arguments, descriptors.parent, report, note);
     }
     // They were meant for the new version.
-    return StartAgain(job, failure ? Arguments() : arguments, report) && !failure;
+    StartResult const started = StartAgain(job, failure ? Arguments() : arguments, report);
+    auto const* const refusal = std::get_if<UpdateRefusal>(&started);
+    if (refusal && !failure)
+    {
+        note.FailStart(refusal->Fault(), refusal->ErrorNumber());
+    }
+    return !refusal && !failure;
 }
 
 } // namespace Pelnar::Installer

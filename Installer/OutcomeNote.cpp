@@ -39,6 +39,13 @@ void OutcomeNote::Succeed()
     TryToWrite(InstallState::Installed);
 }
 
+void OutcomeNote::FailStart(UpdateFault fault, int errorNumber)
+{
+    m_record.fault = fault;
+    m_record.errorNumber = errorNumber;
+    TryToWrite(InstallState::Installed);
+}
+
 void OutcomeNote::Write(InstallState state)
 {
     if (m_job.record)

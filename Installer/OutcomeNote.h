@@ -21,6 +21,8 @@ public:
     void EnterInstallation();
     void Fail(Engine::UpdateFault fault, int errorNumber);
     void Succeed();
+    /// What was installed could not be started.
+    void FailStart(Engine::UpdateFault fault, int errorNumber);
 
 private:
     void Write(Engine::InstallState state);

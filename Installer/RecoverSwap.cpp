@@ -33,7 +33,8 @@ constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 bool HasName(int folderFd, std::string const& name)
 {
-    return ::faccessat(folderFd, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+    struct stat status;
+    return ::fstatat(folderFd, name.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0;
 }
 
 TargetState LookAtTarget(int parentFd, std::string const& targetName, SwapJournal const& journal)

@@ -25,6 +25,7 @@ namespace
 using Engine::InstallJob;
 using Engine::RelaunchedBundle;
 using Engine::UniqueFd;
+using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
 enum class StartEnd
@@ -103,7 +104,8 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
 
 StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parentFd, ReportChannel const& report)
 {
-    auto const started = StartAgain(job, arguments, report);
+    StartResult const result = StartAgain(job, arguments, report);
+    auto const* const started = std::get_if<StartedBundle>(&result);
     if (!started)
     {
         return StartEnd::Failed;
@@ -115,7 +117,7 @@ StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parent
 
 } // namespace
 
-std::optional<StartedBundle> StartAgain(InstallJob const& job, Arguments const& arguments, ReportChannel const& report)
+StartResult StartAgain(InstallJob const& job, Arguments const& arguments, ReportChannel const& report)
 {
     struct Choice
     {
@@ -123,6 +125,7 @@ std::optional<StartedBundle> StartAgain(InstallJob const& job, Arguments const& 
         RelaunchedBundle name;
     };
     bool const isAnswered = !job.relaunchPath.empty();
+    UpdateRefusal last(UpdateFault::RelaunchFailed);
     for (Choice const& choice :
          {Choice{job.relaunchPath, RelaunchedBundle::Answered},
           Choice{job.targetPath, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target}})
@@ -142,9 +145,10 @@ std::optional<StartedBundle> StartAgain(InstallJob const& job, Arguments const& 
         catch (UpdateRefusal const& refusal)
         {
             report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
+            last = refusal;
         }
     }
-    return std::nullopt;
+    return last;
 }
 
 bool AwaitsConfirmation(InstallJob const& job, int parentFd)

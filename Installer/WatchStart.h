@@ -2,12 +2,13 @@
 // well. Thread: the process' only one. Ownership: descriptors stay the caller's.
 #pragma once
 
+#include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Installer/OutcomeNote.h"
 #include "Installer/ReportChannel.h"
 
-#include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 #include <sys/types.h>
@@ -23,10 +24,11 @@ struct StartedBundle
     std::string path; ///< the bundle's real one
 };
 
-/// Starts the answered path if that can be done, else the installed bundle, with \a arguments, and reports it; nothing
+using StartResult = std::variant<StartedBundle, Engine::UpdateRefusal>;
+
+/// Starts the answered path if that can be done, else the installed bundle, with \a arguments, and reports it; why not
 /// when neither starts.
-std::optional<StartedBundle> StartAgain(Engine::InstallJob const& job, Arguments const& arguments,
-                                        ReportChannel const& report);
+StartResult StartAgain(Engine::InstallJob const& job, Arguments const& arguments, ReportChannel const& report);
 
 /// True when the update of \a job is installed and its start is the host's to confirm, as far as can be told.
 [[nodiscard]] bool AwaitsConfirmation(Engine::InstallJob const& job, int parentFd);

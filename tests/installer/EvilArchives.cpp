@@ -28,6 +28,13 @@ ForgedEntry CalledUtf8(ForgedEntry entry)
     return entry;
 }
 
+/// Only a tar can say it: what its readers see ends at the first NUL, and that is what is judged and written.
+ForgedEntry InPax(ForgedEntry entry)
+{
+    entry.isPax = true;
+    return entry;
+}
+
 ForgedEntry WithOtherUnicodeName(ForgedEntry entry, std::string const& name)
 {
     entry.unicodeName = name;
@@ -126,6 +133,9 @@ std::vector<Evil> const& EvilArchives()
         {"SurrogateInUtf8", {CalledUtf8({"My App.app/\xed\xa0\x80", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
         {"CutUtf8", {CalledUtf8({"My App.app/\xe4\xb8", 'f', "evil"})}, UpdateFault::EntryNameInvalid},
         {"Nul", {{"My App.app/x\0.txt"s, 'f', "evil"}}, UpdateFault::EntryNameInvalid, true, false},
+        {"NulBehindAnEscape", {InPax({"../decoy/x\0/My App.app/x"s, 'f', "evil"})}, UpdateFault::EntryEscapes, false},
+        {"NulBehindATwin", {InPax({"My App.app/run\0.txt"s, 'f', "evil"})}, UpdateFault::EntryDuplicate, false},
+        {"NulBehindALinkOut", {InPax({"My App.app/l", 'l', "../../decoy\0run"s})}, UpdateFault::LinkEscapes, false},
         {"OtherUnicodeName",
          {WithOtherUnicodeName({"My App.app/x", 'f', "evil"}, "../decoy/x")},
          UpdateFault::ContainerAmbiguous,
@@ -202,7 +212,8 @@ std::vector<Evil> EvilTrees()
     auto const isSaid = [&root](ForgedEntry const& entry)
     {
         bool const isOfAKind = entry.type == 'f' || entry.type == 'd' || entry.type == 'l';
-        return isOfAKind && entry.path.compare(0, root.size(), root) == 0 && !entry.unicodeName;
+        bool const isWhole = !entry.isPax || (entry.path + entry.content).find('\0') == std::string::npos;
+        return isOfAKind && entry.path.compare(0, root.size(), root) == 0 && !entry.unicodeName && isWhole;
     };
     std::vector<Evil> trees;
     std::copy_if(EvilArchives().begin(), EvilArchives().end(), std::back_inserter(trees),

@@ -109,7 +109,8 @@ TEST(InstallRecord, ThatContradictsItselfIsNone)
              [](InstallRecord& record) { record.toVersion = record.fromVersion; },
              [](InstallRecord& record) { record.attempts = 0; },
              [](InstallRecord& record) { record.fault = UpdateFault::None; },
-             [](InstallRecord& record) { record.state = InstallState::Installed; },
+             [](InstallRecord& record) { record.state = InstallState::Waiting; },
+             [](InstallRecord& record) { record.state = InstallState::Installing; },
              [](InstallRecord& record) { record.state = static_cast<InstallState>(4); },
              [](InstallRecord& record) { record.wish = static_cast<InstallWish>(2); },
              [](InstallRecord& record) { record.told = static_cast<FailureTold>(2); },
@@ -128,6 +129,15 @@ bool IsTaken(Job job, void (*change)(Job&))
 {
     change(job);
     return DecodeUpdateJob(EncodeUpdateJob(job)).has_value();
+}
+
+TEST(UpdateJob, HoldsAsManyVariablesAsTheKernelGivesAProgram)
+{
+    InstallJob job = SomeInstallJob();
+    job.environment.assign(48, "A=" + std::string(128 * 1024, 'x'));
+    auto const decoded = DecodeUpdateJob(EncodeUpdateJob(job));
+    ASSERT_TRUE(decoded);
+    EXPECT_EQ(std::get<InstallJob>(*decoded).environment, job.environment);
 }
 
 TEST(UpdateJob, HostilePrepareJobsAreRefused)

@@ -141,6 +141,26 @@ TEST_F(Outcome, OfASuccessIsKept)
     EXPECT_EQ(status.st_nlink, 1u);
 }
 
+/// What was installed is; why nobody sees it is kept beside that.
+TEST_F(Outcome, OfASuccessWhoseNewVersionCannotBeStartedSaysSo)
+{
+    InstallJob job = Job();
+    job.relaunchPath = scene.Downloads().Path() + "/none.app";
+    scene.Host().End();
+    HelperStart start;
+    start.atEveryCall = [](CallStop const& stop)
+    { return stop.call == SYS_vfork || stop.call == SYS_clone3 ? CallVerdict::Fail(EAGAIN) : CallVerdict::GoOn(); };
+    HelperOutcome const outcome = scene.Install(job, start);
+    EXPECT_EQ(outcome.Find<RelaunchedReport>(), nullptr);
+    EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
+    auto const record = Record();
+    ASSERT_TRUE(record);
+    EXPECT_EQ(record->state, InstallState::Installed);
+    EXPECT_EQ(record->fault, UpdateFault::RelaunchFailed);
+    EXPECT_EQ(record->errorNumber, EAGAIN);
+    EXPECT_EQ(JudgePastInstallation(*record, "2.0", HelperLife::Ended), PastInstallation::Over);
+}
+
 TEST_F(Outcome, OfAHelperThatIsKilledCanBeTold)
 {
     InstallJob const job = Job();

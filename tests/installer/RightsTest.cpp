@@ -143,6 +143,34 @@ TEST(Rights, AccessListOfTheInstalledBundleCarriesOver)
     EXPECT_EQ(ModeOf(scene, "Resources/data"), 0644u) << "the list at the door decides";
 }
 
+/// The folder that holds the application gives every new file a list of its own.
+TEST(Rights, AccessListOfTheFolderAboveLetsNobodyElseIn)
+{
+    Workspace const above;
+    // For new files: the owner all, the user 4711 and the group to read and enter, others nothing.
+    constexpr unsigned char LIST[] = {2, 0,    0,    0,    1,    0,    7,    0, 0xff, 0xff, 0xff, 0xff, 2,    0,    5,
+                                      0, 0x67, 0x12, 0,    0,    4,    0,    5, 0,    0xff, 0xff, 0xff, 0xff, 0x10, 0,
+                                      5, 0,    0xff, 0xff, 0xff, 0xff, 0x20, 0, 0,    0,    0xff, 0xff, 0xff, 0xff};
+    if (::setxattr(above.Path().c_str(), "system.posix_acl_default", LIST, sizeof LIST, 0) != 0)
+    {
+        GTEST_SKIP() << "this file system keeps no access lists";
+    }
+    for (mode_t const mode : {0700, 0750, 0755})
+    {
+        SCOPED_TRACE(mode);
+        UpdateScene scene(MakeArchive(Container::Zip, MakeBundle("2.0")), above.Path());
+        std::string const bundle = scene.Place().Path() + '/' + APP;
+        for (char const* const name : {"", "/run", "/Resources", "/Resources/data"})
+        {
+            ASSERT_EQ(::removexattr((bundle + name).c_str(), ACCESS_LIST), 0);
+        }
+        ASSERT_EQ(::chmod(bundle.c_str(), mode), 0);
+        Update(scene);
+        EXPECT_EQ(ModeOf(scene), mode);
+        EXPECT_LT(::getxattr(bundle.c_str(), ACCESS_LIST, nullptr, 0), 0) << "the user 4711 got in";
+    }
+}
+
 TEST(Rights, AreOnTheDiskBeforeTheSwap)
 {
     UpdateScene scene;

@@ -3,12 +3,15 @@
 
 #include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
+#include "tests/support/LogCapture.h"
 
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <cerrno>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -17,6 +20,7 @@ namespace
 {
 
 using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
 
 class InstallMemoryTest : public testing::Test
 {
@@ -191,6 +195,28 @@ TEST_F(InstallMemoryTest, SuccessClearsRecordAndArchive)
         EXPECT_FALSE(Start(row.running));
         EXPECT_EQ(Files(), QStringList()) << row.running;
     }
+}
+
+TEST_F(InstallMemoryTest, VersionThatWasInstalledAndNotStartedIsLoggedByItsFirstStart)
+{
+    InstallRecord record = Attempt(InstallWish::Person, InstallState::Installed);
+    record.fault = UpdateFault::RelaunchFailed;
+    record.errorNumber = EAGAIN;
+    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    LogCapture log;
+    EXPECT_FALSE(Start("2.0"));
+    EXPECT_EQ(log.Texts(), std::vector<std::string>{
+                               "Update 2.0 was installed, but could not be started: RelaunchFailed (errno 11)"});
+    EXPECT_EQ(Files(), QStringList());
+}
+
+TEST_F(InstallMemoryTest, CountOfAttemptsThatIsFullStaysFull)
+{
+    constexpr std::uint64_t MOST = ~std::uint64_t{0};
+    InstallRecord record = Attempt(InstallWish::Automatic, InstallState::Failed);
+    record.attempts = MOST;
+    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, MOST);
 }
 
 TEST_F(InstallMemoryTest, RecordsOfOthersAndNonsenseSayNothing)

@@ -61,10 +61,13 @@ std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes)
     auto const fault = FaultFromName(reader.Text());
     std::uint64_t const errorNumber = reader.Number();
     record.told = ReadEnum(reader, FailureTold::Yes);
-    bool const hasFailed = record.state == InstallState::Failed;
+    // What was installed may have a fault as well: the new version could not be started.
+    bool const mayHaveFault = record.state == InstallState::Failed || record.state == InstallState::Installed;
+    bool const needsFault = record.state == InstallState::Failed;
     bool const isGood = reader.IsWhole() && !record.fromVersion.empty() && !record.toVersion.empty() &&
                         record.fromVersion != record.toVersion && record.attempts > 0 &&
-                        errorNumber <= MAX_ERROR_NUMBER && fault && hasFailed == (*fault != UpdateFault::None);
+                        errorNumber <= MAX_ERROR_NUMBER && fault &&
+                        (*fault == UpdateFault::None ? !needsFault : mayHaveFault);
     if (!isGood)
     {
         return std::nullopt;

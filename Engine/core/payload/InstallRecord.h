@@ -44,8 +44,8 @@ struct InstallRecord
     InstallState state = InstallState::Waiting;
     std::uint64_t secondsSinceEpoch = 0;   ///< of the state
     ProcessMark helper = {};               ///< that writes the record
-    UpdateFault fault = UpdateFault::None; ///< of a failure
-    int errorNumber = 0;                   ///< of a failure: an errno, or 0
+    UpdateFault fault = UpdateFault::None; ///< of a failure, or why the new version was not started
+    int errorNumber = 0;                   ///< of the fault: an errno, or 0
     FailureTold told = FailureTold::No;
 };
 

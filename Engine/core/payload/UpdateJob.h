@@ -97,7 +97,8 @@ struct RehearseJob
 
 using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob, RehearseJob>;
 
-constexpr std::size_t UPDATE_JOB_MAX_BYTES = std::size_t{4} << 20;
+/// With as many variables as the kernel gives a program at most, six mebibytes, and all else.
+constexpr std::size_t UPDATE_JOB_MAX_BYTES = std::size_t{8} << 20;
 
 std::string EncodeUpdateJob(UpdateJob const& job);
 /// The job of \a bytes; nothing unless they are one, whole, with every name a single component, every path absolute.

@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <utility>
 
@@ -81,7 +82,7 @@ void InstallAttempt::Describe(InstallJob& job, InstallWish wish) const
     record.wish = wish;
     bool const isAgain =
         m_before && m_before->fromVersion == record.fromVersion && m_before->toVersion == record.toVersion;
-    record.attempts = isAgain ? m_before->attempts + 1 : 1;
+    record.attempts = isAgain ? std::max(m_before->attempts, m_before->attempts + 1) : 1; // never less by one more
     job.recordName = m_name;
     job.record = std::move(record);
 }

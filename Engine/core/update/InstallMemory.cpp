@@ -68,6 +68,10 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
     case PastInstallation::UnderWay:
         return;
     case PastInstallation::Over:
+        LOG_IF(WARNING, record.state == InstallState::Installed && record.fault != UpdateFault::None)
+            << "Update " << Shown(record.toVersion)
+            << " was installed, but could not be started: " << FaultName(record.fault) << " (errno "
+            << record.errorNumber << ")";
         Forget();
         m_chores.Run([folder = m_folder] { ArchiveDownload::Clear(folder); });
         return;

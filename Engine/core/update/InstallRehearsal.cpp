@@ -14,7 +14,6 @@
 #include <poll.h>
 #include <signal.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
@@ -55,9 +54,7 @@ std::string ReadReports(UniqueFd const& reports)
 void End(LaunchedHelper const& helper)
 {
     ::syscall(SYS_pidfd_send_signal, helper.process.Get(), SIGKILL, nullptr, 0);
-    while (::waitpid(helper.pid, nullptr, 0) < 0 && errno == EINTR)
-    {
-    }
+    static_cast<void>(Reap(helper.process));
 }
 
 std::optional<EngineError> Judge(InstallTarget const& target, std::string const& reports)

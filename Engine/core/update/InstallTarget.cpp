@@ -2,9 +2,11 @@
 
 #include "Engine/core/PathText.h"
 #include "Engine/core/UpdateError.h"
+#include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <optional>
 
@@ -66,22 +68,28 @@ struct Facts
 
 Facts FactsOf(UniqueFd const& folder)
 {
-    struct statx status
+    Facts facts;
+    struct stat status
     {
     };
-    if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &status) != 0)
+    facts.owner = ::fstat(folder.Get(), &status) == 0 ? status.st_uid : 0;
+    struct statx more
     {
-        return {};
+    };
+    if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &more) == 0) // else the rehearsal will tell
+    {
+        constexpr std::uint64_t PROTECTED = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
+        facts.isImmutable = (more.stx_attributes & PROTECTED) != 0;
+        facts.isMountRoot = (more.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
     }
-    constexpr std::uint64_t PROTECTED = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
-    return {(status.stx_attributes & PROTECTED) != 0, (status.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0,
-            status.stx_uid};
+    return facts;
 }
 
 /// Deliberate: by the effective user, and asked of the kernel, which knows of access lists too.
 bool IsWritable(UniqueFd const& folder)
 {
-    return ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) == 0;
+    // The last is a filter's answer to a call that it does not know: the rehearsal will tell.
+    return ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) == 0 || errno == EPERM;
 }
 
 std::optional<ErrorCause> Obstacle(InstallTarget const& target)
@@ -158,11 +166,13 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
         return std::nullopt; // the writing will tell
     }
     quint64 const freeBytes = static_cast<quint64>(status.f_bavail) * status.f_frsize;
-    if (freeBytes >= neededBytes)
+    quint64 const reserve = DiskReserve(static_cast<quint64>(status.f_blocks) * status.f_frsize);
+    if (freeBytes >= neededBytes && freeBytes - neededBytes >= reserve)
     {
         return std::nullopt;
     }
-    EngineError error = MakeRoomError(ErrorCause::NoRoomForUpdate, neededBytes, freeBytes);
+    quint64 const allBytes = std::max(neededBytes, neededBytes + reserve); // of the two a number too large for both
+    EngineError error = MakeRoomError(ErrorCause::NoRoomForUpdate, allBytes, freeBytes);
     error.detail = EscapedRemoteText(target.path);
     return error;
 }
@@ -201,7 +211,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     }
     std::size_t const slash = path.rfind('/');
     std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);
-    if (path.front() != '/' || name.empty() || name == "." || name == "..")
+    if (path.empty() || path.front() != '/' || name.empty() || name == "." || name == "..")
     {
         return Error(ErrorCause::BundleMissing, path);
     }

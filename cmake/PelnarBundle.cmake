@@ -10,13 +10,14 @@
 #       DISPLAY_NAME "My Notes"  DISPLAY_VERSION "1.2 (spring)"  FEED_URL https://...
 #       OPTIONS PelnarConfirmsGoodStart ...   # truth values of the information file that are YES
 #       INFORMATION "Key=text" ...            # further entries of the information file
-#       ICON notes.png  CATEGORIES "Office;"  LINK notely  DESKTOP_ENTRY own.desktop
+#       ICON notes.png  CATEGORIES Office  LINK notely  DESKTOP_ENTRY own.desktop
 #       TRANSLATIONS notes_de.qm ...          # into Resources/translations; those of the windows of an update are in the libraries
 #       RESOURCES file-or-folder ...          # into Resources
 #       LIBRARIES target-or-file ...          # shared libraries and plugins that are opened at run time
 #       LICENSES file ...                     # the application's own, and those of libraries that belong to no package
 #       QT OUTSIDE | INSIDE                   # INSIDE brings Qt and its platform plugins
 #       SYSTEM_LIBRARIES INSIDE | OUTSIDE     # OUTSIDE makes a bundle for this very system
+#       COMPRESSION 19                        # of the archive, as zstd counts
 #       DESTINATION <folder>  COMPONENT <name>)
 #
 # The target <target>_bundle makes it in <target>_bundle/ of the build folder, <target>_archive packs it there as
@@ -26,8 +27,8 @@
 set(PELNAR_BUNDLE_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/bundle")
 
 set(PELNAR_BUNDLE_ONE_VALUE NAME IDENTIFIER VERSION DISPLAY_NAME DISPLAY_VERSION PUBLIC_KEY PUBLIC_KEY_FILE
-    NEXT_PUBLIC_KEY FEED_URL ICON CATEGORIES LINK DESKTOP_ENTRY QT SYSTEM_LIBRARIES DESTINATION COMPONENT)
-set(PELNAR_BUNDLE_MANY_VALUES OPTIONS INFORMATION TRANSLATIONS RESOURCES LIBRARIES LICENSES)
+    NEXT_PUBLIC_KEY FEED_URL ICON LINK DESKTOP_ENTRY QT SYSTEM_LIBRARIES COMPRESSION DESTINATION COMPONENT)
+set(PELNAR_BUNDLE_MANY_VALUES CATEGORIES OPTIONS INFORMATION TRANSLATIONS RESOURCES LIBRARIES LICENSES)
 
 function(pelnar_add_bundle target)
     cmake_parse_arguments(PARSE_ARGV 1 BUNDLE "" "${PELNAR_BUNDLE_ONE_VALUE}" "${PELNAR_BUNDLE_MANY_VALUES}")
@@ -37,7 +38,7 @@ function(pelnar_add_bundle target)
     endif()
     get_target_property(type ${target} TYPE)
     if(NOT type STREQUAL EXECUTABLE)
-        message(FATAL_ERROR "pelnar_add_bundle(${target}): a bundle is made of an executable, and this is none.")
+        message(FATAL_ERROR "pelnar_add_bundle(${target}): a bundle is made of an executable, but this target is a ${type}.")
     endif()
     get_target_property(program ${target} OUTPUT_NAME)
     if(NOT program)
@@ -49,6 +50,7 @@ function(pelnar_add_bundle target)
     pelnar_bundle_default(BUNDLE_LINK "${program}")
     pelnar_bundle_default(BUNDLE_QT OUTSIDE)
     pelnar_bundle_default(BUNDLE_SYSTEM_LIBRARIES INSIDE)
+    pelnar_bundle_default(BUNDLE_COMPRESSION 19)
     pelnar_bundle_default(BUNDLE_DESTINATION ".")
     pelnar_bundle_default(BUNDLE_COMPONENT ${target}_bundle)
     foreach(kind IN ITEMS PUBLIC_KEY_FILE ICON DESKTOP_ENTRY TRANSLATIONS RESOURCES LICENSES)
@@ -158,13 +160,20 @@ function(pelnar_add_linux_bundle target)
     target_link_options(${target} PRIVATE "LINKER:--disable-new-dtags")
     set_property(TARGET ${target} APPEND PROPERTY BUILD_RPATH "$ORIGIN/${library_folder}")
 
-    set(make "${CMAKE_COMMAND}" "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
+    set(make "${CMAKE_COMMAND}" --log-level=WARNING "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
         -P "${PELNAR_BUNDLE_SCRIPTS}/MakeBundle.cmake")
-    set(pack "${CMAKE_COMMAND}" "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
+    set(pack "${CMAKE_COMMAND}" --log-level=WARNING "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
         -P "${PELNAR_BUNDLE_SCRIPTS}/PackBundle.cmake")
     # Made again each time: the libraries of the system change without the build's knowledge.
     add_custom_target(${target}_bundle COMMAND ${make} COMMENT "Making ${BUNDLE_NAME}.app" VERBATIM)
-    add_dependencies(${target}_bundle ${target} Pelnar::UpdateInstaller)
+    get_target_property(needed Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
+    list(TRANSFORM needed PREPEND Pelnar::)
+    foreach(library IN LISTS BUNDLE_LIBRARIES)
+        if(TARGET ${library})
+            list(APPEND needed ${library})
+        endif()
+    endforeach()
+    add_dependencies(${target}_bundle ${target} Pelnar::UpdateInstaller ${needed})
     add_custom_target(${target}_archive COMMAND ${pack}
         COMMENT "Packing ${BUNDLE_NAME}-${BUNDLE_VERSION}.tar.zst" VERBATIM)
     add_dependencies(${target}_archive ${target}_bundle)

@@ -50,7 +50,16 @@ function(pelnar_find_dependencies kind result)
     set(${result} "${found}" PARENT_SCOPE)
 endfunction()
 
-# Copies a library under the name by which others ask for it. "name<TAB>source" goes into the list `copied`.
+# Debugging symbols stay at home. The file is named by no path: some linkers' tools take "%" in a path for a pattern.
+function(pelnar_strip folder name)
+    if(NOT BUNDLE_STRIP_PROGRAM STREQUAL "")
+        execute_process(COMMAND "${BUNDLE_STRIP_PROGRAM}" "${name}" WORKING_DIRECTORY "${folder}"
+            COMMAND_ERROR_IS_FATAL ANY)
+    endif()
+endfunction()
+
+# Copies a library under the name by which others ask for it. Its place and its source go into the list `copied`, its
+# name into `name`.
 function(pelnar_copy_library source folder)
     cmake_path(GET source FILENAME name)
     execute_process(COMMAND "${BUNDLE_OBJDUMP}" -p "${source}" OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
@@ -65,17 +74,20 @@ function(pelnar_copy_library source folder)
     endif()
     cmake_path(RELATIVE_PATH folder BASE_DIRECTORY "${bundle}" OUTPUT_VARIABLE place)
     set(copied ${copied} "${place}/${name}\t${file}" PARENT_SCOPE)
+    set(name "${name}" PARENT_SCOPE)
 endfunction()
 
 function(pelnar_copy_program)
-    set(program "${bundle}/${BUNDLE_NAME}")
+    set(program "${bundle}/program")
     file(COPY_FILE "${BUNDLE_PROGRAM}" "${program}")
+    pelnar_strip("${bundle}" program)
     execute_process(COMMAND "${BUNDLE_OBJDUMP}" -p "${program}" OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
     if(NOT headers MATCHES " RPATH +")
         pelnar_bundle_fail("its program has no DT_RPATH, so it cannot find the libraries in the bundle. Build it with its build "
             "rpath (CMAKE_SKIP_BUILD_RPATH, CMAKE_SKIP_RPATH off) and without -Wl,--enable-new-dtags.")
     endif()
     file(RPATH_SET FILE "${program}" NEW_RPATH "$ORIGIN/${BUNDLE_LIBRARY_FOLDER}")
+    file(RENAME "${program}" "${bundle}/${BUNDLE_NAME}")
 endfunction()
 
 function(pelnar_copy_libraries)
@@ -83,6 +95,7 @@ function(pelnar_copy_libraries)
     set(files ${BUNDLE_PROJECT_LIBRARIES} ${BUNDLE_OPENED_LIBRARIES})
     foreach(library IN LISTS files)
         pelnar_copy_library("${library}" "${library_folder}")
+        pelnar_strip("${library_folder}" "${name}")
     endforeach()
     if(BUNDLE_SYSTEM_LIBRARIES STREQUAL INSIDE)
         set(plugins)
@@ -144,30 +157,17 @@ function(pelnar_copy_resources)
     endif()
 endfunction()
 
-# Debugging symbols stay at home, and rights do not depend on who makes the bundle.
-function(pelnar_finish)
-    list(LENGTH BUNDLE_PROJECT_LIBRARIES count)
-    list(LENGTH BUNDLE_OPENED_LIBRARIES more)
-    math(EXPR count "${count} + ${more}")
-    list(SUBLIST copied 0 ${count} files) # those of the system are stripped already
-    list(TRANSFORM files REPLACE "\t.*$" "")
-    list(TRANSFORM files PREPEND "${bundle}/")
-    if(NOT BUNDLE_STRIP_PROGRAM STREQUAL "")
-        execute_process(COMMAND "${BUNDLE_STRIP_PROGRAM}" "${bundle}/${BUNDLE_NAME}" "${helper}" ${files}
-            COMMAND_ERROR_IS_FATAL ANY)
-    endif()
-    execute_process(COMMAND chmod -R u=rwX,go=rX "${bundle}" COMMAND_ERROR_IS_FATAL ANY)
-endfunction()
-
 pelnar_check_names()
 file(REMOVE_RECURSE "${bundle}")
 cmake_path(GET helper PARENT_PATH helper_folder)
 file(MAKE_DIRECTORY "${helper_folder}")
 file(COPY_FILE "${BUNDLE_HELPER}" "${helper}")
+pelnar_strip("${helper_folder}" pelnar-update-installer)
 set(copied)
 pelnar_copy_program()
 pelnar_copy_libraries()
 pelnar_copy_resources()
-pelnar_finish()
 pelnar_write_licenses()
+# Rights do not depend on who makes the bundle.
+execute_process(COMMAND chmod -R u=rwX,go=rX "${bundle}" COMMAND_ERROR_IS_FATAL ANY)
 pelnar_check_layout("${bundle}")

@@ -4,9 +4,6 @@
 include("${CMAKE_CURRENT_LIST_DIR}/Settings.cmake")
 
 pelnar_check_layout("${bundle}")
-if(NOT DEFINED BUNDLE_COMPRESSION)
-    set(BUNDLE_COMPRESSION 19)
-endif()
 set(time "$ENV{SOURCE_DATE_EPOCH}")
 if(NOT time MATCHES "^[0-9]+$")
     set(time 315532800) # the first moment that every kind of archive can name: 1980-01-01

@@ -1,4 +1,5 @@
-// main.cpp: a host that checks once, against a feed file given as argument, and says what it was told.
+// main.cpp: a host that checks once, against a feed file given as argument or the feed that its
+// bundle names, and says what it was told.
 
 #include "App/UpdateChecker/IUpdateManagerObserver.h"
 #include "App/UpdateChecker/UpdateManager.h"
@@ -94,7 +95,8 @@ public:
 
 int main(int argc, char** argv)
 {
-    TinyHost host(argc, argv, QUrl::fromLocalFile(QString::fromLocal8Bit(argv[1])).toString());
+    QString const feed = argc > 1 ? QUrl::fromLocalFile(QString::fromLocal8Bit(argv[1])).toString() : QString();
+    TinyHost host(argc, argv, feed);
     Pelnar::ConfirmGoodStart();
     Printer printer;
     Pelnar::App::UpdateManager::Initializer initializer(&host);

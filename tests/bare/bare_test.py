@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
 """Updates the demo application on a system that has the baseline and nothing else.
 
-Usage: bare_test.py ROOT PUBLISHED APPCAST CASE
+Usage: bare_test.py ROOTS PUBLISHED BUILD CASE
 
-ROOT is a root file system of the baseline, PUBLISHED what `Demo/publish --self-contained` has made, APPCAST the publisher's tool that
-serves it. Ends with 77 where this user can make no mount namespace.
+ROOTS holds root file systems of the baseline, with and without Qt, PUBLISHED is what `Demo/publish --self-contained` has made of the
+build folder BUILD. Ends with 77 where this user can make no mount namespace.
 """
+import contextlib
 import json
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -16,6 +18,7 @@ import tempfile
 
 sys.dont_write_bytecode = True
 HERE = pathlib.Path(__file__).resolve().parent
+SCRIPTS = HERE.parent.parent / "cmake/bundle"
 STATUS_SKIPPED = 77
 PATIENCE = 110 # seconds
 USER = 1000
@@ -49,10 +52,10 @@ def tree(folder):
 class Server:
     """Serves the published folder over HTTPS on the loopback address."""
 
-    def __init__(self, appcast, published):
+    def __init__(self, appcast, published, site):
         self.process = subprocess.Popen(
-            [appcast, "serve", "--end-with-input", published / "site", "--tls", published / "server.pem",
-             published / "server.key"], stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
+            [appcast, "serve", "--end-with-input", site, "--tls", published / "server.pem", published / "server.key"],
+            stdin=subprocess.PIPE, stdout=subprocess.PIPE, stderr=subprocess.PIPE, text=True)
         self.address = self.process.stdout.readline().strip()
         expect(self.address.startswith("https://127.0.0.1:"), "the server does not start")
 
@@ -60,18 +63,23 @@ class Server:
         """Ends it; the archives and deltas that were asked for, in order."""
         _, log = self.process.communicate(timeout=PATIENCE)
         print(log)
-        files = [line.split()[1].lstrip("/") for line in log.splitlines() if line.startswith("GET ")]
+        files = re.findall(r"^GET /(.+) \d+ \d+ bytes$", log, re.MULTILINE)
         return [file for file in files if not file.endswith(".xml")]
 
 
 class Computer:
     """The bare system, with a person's home and the old version in it."""
 
-    def __init__(self, root, published, work):
-        self.root = root
+    def __init__(self, roots, published, build, work):
+        self.root = roots / "with_qt"
+        self.roots = roots
         self.published = published
+        self.build = build
+        self.appcast = build / "Publisher/pelnar-appcast"
         self.home = work / "home"
+        self.work = work
         self.binds = [[str(self.home), HOME, "rw"]]
+        self.variables = {}
         self.program = f"{HOME}/Applications/PelnarDemo.app/PelnarDemo"
         self.home.mkdir()
         shutil.copy2(published / "authority.pem", self.home)
@@ -82,6 +90,32 @@ class Computer:
         app.parent.mkdir(parents=True, exist_ok=True)
         shutil.copytree(self.published / "old/PelnarDemo.app", app, symlinks=True)
         self.app = app
+
+    def by_cmake(self, script, folder, *settings):
+        """Runs a script of pelnar_add_bundle() for the demo, with settings of our own."""
+        key = subprocess.run([self.appcast, "keys", "show", self.published / "signing.key"], check=True,
+                             capture_output=True, text=True).stdout
+        subprocess.run(["cmake", "--log-level=WARNING", f"-DSETTINGS={self.build}/Demo/pelnar-demo_bundle/settings.cmake",
+                        f"-DDESTINATION={folder}", f"-DBUNDLE_PUBLIC_KEY={key}", *settings, "-P", SCRIPTS / f"{script}.cmake"],
+                       check=True)
+
+    def move_to(self, folder):
+        """Puts the bundle into another folder of the home; the path of its program there."""
+        app = self.home / folder / self.app.name
+        app.parent.mkdir(parents=True)
+        self.app.rename(app)
+        self.app = app
+        return f"{HOME}/{folder}/{app.name}/PelnarDemo"
+
+    def mount_at(self, place, access):
+        """Has the bundle in a folder outside of the home."""
+        folder = self.work / "elsewhere"
+        folder.mkdir()
+        self.app.rename(folder / self.app.name)
+        self.app = folder / self.app.name
+        self.program = f"{place}/{self.app.name}/PelnarDemo"
+        self.binds.append([str(folder), place, access])
+        return folder
 
     def give_to_person(self, folder):
         if os.getuid() == 0:
@@ -99,7 +133,8 @@ class Computer:
         for click in clicks:
             arguments += ["--click", click]
         environment = {"HOME": HOME, "USER": "person", "LANG": "C.UTF-8", "PATH": "/usr/bin", "QT_QPA_PLATFORM": "offscreen",
-                       "SSL_CERT_FILE": f"{HOME}/authority.pem", "PELNAR_DEMO_OPTIONS": f"--scenario start --feed {url}"}
+                       "SSL_CERT_FILE": f"{HOME}/authority.pem", "PELNAR_DEMO_OPTIONS": f"--scenario start --feed {url}",
+                       **self.variables}
         task = {"root": str(self.root), "binds": self.binds, "environment": environment,
                 "command": [self.program, *arguments]}
         process = subprocess.run([sys.executable, HERE / "enter.py", json.dumps(task)], stdin=subprocess.DEVNULL,
@@ -149,6 +184,112 @@ def taken_back(computer, server):
     computer.expect_bundle("old")
 
 
+def among_blanks_and_letters(computer, server):
+    computer.program = computer.move_to("Meine Programme/概要 ö'\"$x")
+    interactively(computer, server)
+
+
+def by_a_link_to_the_program(computer, server):
+    (computer.home / "bin").mkdir()
+    (computer.home / "bin/pelnar-demo").symlink_to(computer.program)
+    computer.program = f"{HOME}/bin/pelnar-demo"
+    interactively(computer, server)
+
+
+def by_a_link_to_the_folder(computer, server):
+    computer.move_to("disk/Applications")
+    (computer.home / "Applications").rmdir()
+    (computer.home / "Applications").symlink_to("disk/Applications")
+    interactively(computer, server)
+
+
+def expect_told(computer, server, sentence):
+    """A person who asks for the update sees the sentence, the delegate hears it, and no byte of an archive is fetched."""
+    text = computer.run(f"{server.address}/appcast.xml", "user", "answer", CLOSE_ERROR)
+    told = [line for line in text.splitlines() if "updater:didAbortWithError:" in line]
+    expect(len(told) == 1 and sentence in told[0], f"what was told is {told}")
+    expect(server.end() == [], "an archive was asked for")
+    computer.expect_bundle("old")
+
+
+def on_a_read_only_disk(computer, server):
+    computer.mount_at("/mnt", "ro")
+    expect_told(computer, server, "on a disk that cannot be written")
+
+
+def in_an_app_image(computer, server):
+    computer.mount_at("/mnt", "ro")
+    computer.variables = {"APPDIR": "/mnt", "APPIMAGE": f"{HOME}/PelnarDemo.AppImage"}
+    expect_told(computer, server, f"replace the file {HOME}/PelnarDemo.AppImage by the new version's")
+
+
+def in_opt_of_root(computer, server):
+    folder = computer.mount_at("/opt", "rw")
+    if os.getuid() == 0:
+        expect_told(computer, server, "belongs to another user of this computer")
+    else:
+        # Nobody else can give a folder to root; what is left is one that its person may not write.
+        folder.chmod(0o555)
+        expect_told(computer, server, "You may not change the folder of the application")
+        folder.chmod(0o755)
+
+
+def update_by_generated_feed(computer, name, *settings):
+    """Makes two versions with these settings, has a feed generated of the folder of their archives, and updates one."""
+    for version in ("5.9", "5.10"):
+        all_settings = (f"-DBUNDLE_NAME={name}", f"-DBUNDLE_VERSION={version}", "-DBUNDLE_COMPRESSION=3", *settings)
+        computer.by_cmake("MakeBundle", computer.work / version, *all_settings)
+        computer.by_cmake("PackBundle", computer.work / version, *all_settings)
+    site = computer.work / "site"
+    site.mkdir()
+    for archive in computer.work.glob("5.*/*.tar.zst"):
+        archive.rename(site / archive.name)
+    server = Server(computer.appcast, computer.published, site)
+    try:
+        subprocess.run([computer.appcast, "generate", site, "--key", computer.published / "signing.key",
+                        "--url-prefix", server.address + "/"], check=True)
+        shutil.rmtree(computer.app)
+        app = computer.app.parent / f"{name}.app"
+        shutil.copytree(computer.work / f"5.9/{name}.app", app, symlinks=True)
+        computer.program = f"{HOME}/Applications/{name}.app/{name}"
+        text = computer.run(f"{server.address}/appcast.xml", "user", "update", INSTALL, RELAUNCH)
+    finally:
+        asked = server.end()
+    expect(computer.versions(text) == ["5.9", "5.10"], f"what ran was {computer.versions(text)}")
+    expect(tree(app) == tree(computer.work / f"5.10/{name}.app"), "the bundle is not the new one")
+    expect(len(asked) == 1 and asked[0].endswith(".delta"), f"what was asked for is {asked}")
+
+
+def with_names_of_any_kind(computer, _):
+    update_by_generated_feed(computer, "Die Übung 概要 & more")
+
+
+@contextlib.contextmanager
+def display(computer):
+    """A display on which the platform plugin for X shows the windows."""
+    server = subprocess.Popen(["Xvfb", "-displayfd", "1", "-ac", "-nolisten", "unix"], stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, text=True)
+    try:
+        computer.variables = {"QT_QPA_PLATFORM": "xcb", "DISPLAY": ":" + server.stdout.readline().strip(),
+                              "QT_XCB_GL_INTEGRATION": "none"}
+        yield
+    finally:
+        server.terminate()
+        server.wait()
+
+
+def on_a_display(computer, server):
+    with display(computer):
+        interactively(computer, server)
+
+
+def with_qt_inside(computer, _):
+    computer.root = computer.roots / "without_qt"
+    expect(not list(computer.root.rglob("libQt5*")), "the system has Qt")
+    with display(computer):
+        update_by_generated_feed(computer, "PelnarDemo", "-DBUNDLE_QT=INSIDE")
+
+
 def finds_update(computer, server):
     try:
         return "OnUpdateFound" in computer.run(f"{server.address}/appcast.xml", "automatic", "check")
@@ -166,7 +307,10 @@ def missing_library(computer, server):
     expect(finds_update(computer, server), "with all libraries no update is found")
 
 
-CASES = {case.__name__: case for case in (interactively, silently, by_delta, refused, taken_back, missing_library)}
+CASES = {case.__name__: case for case in (
+    interactively, silently, by_delta, refused, taken_back, among_blanks_and_letters, by_a_link_to_the_program,
+    by_a_link_to_the_folder, on_a_read_only_disk, in_an_app_image, in_opt_of_root,
+    with_names_of_any_kind, on_a_display, with_qt_inside, missing_library)}
 
 
 def why_not():
@@ -177,16 +321,17 @@ def why_not():
 
 
 def main():
-    root, published, appcast, case = sys.argv[1:]
+    roots, published, build = map(pathlib.Path, sys.argv[1:4])
+    case = sys.argv[4]
     if reason := why_not():
         # As GoogleTest writes it: scripts/skipped reads the reason.
         print(f"{__file__}:0: Skipped\nno mount namespace can be made here ({reason})")
         return STATUS_SKIPPED
     with tempfile.TemporaryDirectory() as work:
         os.chmod(work, 0o755)
-        server = Server(appcast, pathlib.Path(published))
+        server = Server(build / "Publisher/pelnar-appcast", published, published / "site")
         try:
-            CASES[case](Computer(pathlib.Path(root), pathlib.Path(published), pathlib.Path(work)), server)
+            CASES[case](Computer(roots, published, build, pathlib.Path(work)), server)
         except Failure as failure:
             print(f"{case}: {failure}")
             return 1

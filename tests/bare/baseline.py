@@ -1,6 +1,6 @@
 """The baseline as files: which packages bundles count on, what belongs to them, and a root file system of nothing else.
 
-Usage: baseline.py BASELINE_FILE FOLDER    makes the root file system in FOLDER of this machine's packages
+Usage: baseline.py BASELINE_FILE FOLDER    makes FOLDER/with_qt and FOLDER/without_qt of this machine's packages
 """
 import os
 import pathlib
@@ -22,9 +22,9 @@ def read_baseline(path):
     return [tuple(line.split()) for line in lines if line and not line.startswith("#")]
 
 
-def packages(path):
-    """The packages that a person installs."""
-    return sorted({package for _, _, package in read_baseline(path)})
+def packages(path, *without):
+    """The packages that a person installs, but for those of the groups that are left out."""
+    return sorted({package for group, _, package in read_baseline(path) if group not in without})
 
 
 def query(*arguments):
@@ -73,7 +73,7 @@ def copy(path, root):
             shutil.copy2(source, target, follow_symlinks=False)
 
 
-def make_root(baseline_file, root):
+def make_root(names, root):
     shutil.rmtree(root, ignore_errors=True)
     root.mkdir(parents=True)
     for folder in ("proc", "dev", "tmp", "etc", "opt", "mnt", "home/person", "usr/lib", "usr/lib64", "usr/bin", "usr/sbin"):
@@ -81,7 +81,7 @@ def make_root(baseline_file, root):
     (root / "tmp").chmod(0o1777)
     for folder in ("lib", "lib64", "bin", "sbin"):
         (root / folder).symlink_to(f"usr/{folder}")
-    names = closure(packages(baseline_file) + ALWAYS)
+    names = closure(names + ALWAYS)
     for path in query("--listfiles", *names).splitlines():
         if path.startswith("/") and not path.startswith(UNREAD):
             copy(path, root)
@@ -92,4 +92,6 @@ def make_root(baseline_file, root):
 
 
 if __name__ == "__main__":
-    make_root(sys.argv[1], pathlib.Path(sys.argv[2]))
+    file, folder = sys.argv[1], pathlib.Path(sys.argv[2])
+    make_root(packages(file), folder / "with_qt")
+    make_root(packages(file, "qt"), folder / "without_qt")

@@ -6,7 +6,10 @@
 
 #include <QNetworkProxy>
 
+#include <array>
 #include <set>
+#include <string>
+#include <tuple>
 
 namespace
 {
@@ -31,10 +34,46 @@ void PrintTo(Row const& row, std::ostream* out)
     *out << row.name;
 }
 
+/// Who names the proxy.
+enum class Teller
+{
+    Application,
+    Factory, ///< of the application
+    Environment,
+};
+
+class OneProxy : public QNetworkProxyFactory
+{
+public:
+    explicit OneProxy(QNetworkProxy proxy) : m_proxy(std::move(proxy)) {}
+    QList<QNetworkProxy> queryProxy(QNetworkProxyQuery const& query) override
+    {
+        return {query.url().host() == NAME ? m_proxy : QNetworkProxy(QNetworkProxy::NoProxy)};
+    }
+
+private:
+    QNetworkProxy m_proxy;
+};
+
 class ProxyFetch : public FetchTest
 {
 protected:
-    ~ProxyFetch() override { QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::NoProxy)); }
+    ~ProxyFetch() override
+    {
+        QNetworkProxyFactory::setApplicationProxyFactory(nullptr);
+        QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::NoProxy));
+        for (QByteArray const& name : m_names)
+        {
+            qunsetenv(name.constData());
+        }
+    }
+
+    /// In the environment.
+    void Set(QByteArray const& name, QByteArray const& value)
+    {
+        qputenv(name.constData(), value);
+        m_names.insert(name);
+    }
 
     static FetchOutcome FetchAnywhere(QUrl const& url) { return Fetch(url, ShortLimits(), InsecureHttp::Anywhere); }
 
@@ -42,21 +81,45 @@ protected:
     TrustedAuthority trusted{certificates.Authority()};
     LoopbackServer plain{Answering(OkAnswer(BODY))};
     LoopbackServer secure{Answering(OkAnswer(BODY)), certificates.Signed(NAME.toLatin1())};
+
+private:
+    std::set<QByteArray> m_names;
 };
 
-class EveryProxy : public ProxyFetch, public ::testing::WithParamInterface<Row>
+using EnvironmentProxyFetch = ProxyFetch;
+
+class EveryProxy : public ProxyFetch, public ::testing::WithParamInterface<std::tuple<Row, Teller>>
 {
 protected:
-    LoopbackServer& Server() { return GetParam().isSecure ? secure : plain; }
+    static Row const& Proxy() { return std::get<Row>(GetParam()); }
+    LoopbackServer& Server() { return Proxy().isSecure ? secure : plain; }
     QUrl Url() { return Server().Url(QStringLiteral("/feed.xml"), NAME); }
 
-    void Use(TestProxy const& proxy, QString const& user = {}, QString const& password = {})
+    void Use(quint16 port, QString const& user = {}, QString const& password = {})
     {
-        QNetworkProxy::setApplicationProxy(
-            QNetworkProxy(GetParam().type, QStringLiteral("127.0.0.1"), proxy.Port(), user, password));
+        QNetworkProxy const proxy(Proxy().type, QStringLiteral("127.0.0.1"), port, user, password);
+        QUrl address;
+        switch (std::get<Teller>(GetParam()))
+        {
+        case Teller::Application:
+            QNetworkProxy::setApplicationProxy(proxy);
+            return;
+        case Teller::Factory:
+            QNetworkProxyFactory::setApplicationProxyFactory(new OneProxy(proxy));
+            return;
+        case Teller::Environment:
+            address.setScheme(Proxy().kind == TestProxy::Kind::Http ? QStringLiteral("http")
+                                                                    : QStringLiteral("socks5h"));
+            address.setHost(proxy.hostName());
+            address.setPort(port);
+            address.setUserName(user);
+            address.setPassword(password);
+            Set(Proxy().isSecure ? "https_proxy" : "http_proxy", address.toEncoded());
+            return;
+        }
     }
 
-    QByteArray Asked() { return QByteArray(GetParam().asked).replace("%1", QByteArray::number(Url().port())); }
+    QByteArray Asked() { return QByteArray(Proxy().asked).replace("%1", QByteArray::number(Url().port())); }
 };
 
 auto const ROWS = ::testing::Values(
@@ -66,12 +129,21 @@ auto const ROWS = ::testing::Values(
     Row{"Socks", TestProxy::Kind::Socks5, QNetworkProxy::Socks5Proxy, false, "feeds.example.com"},
     Row{"SocksSecure", TestProxy::Kind::Socks5, QNetworkProxy::Socks5Proxy, true, "feeds.example.com"});
 
-INSTANTIATE_TEST_SUITE_P(Kinds, EveryProxy, ROWS, [](auto const& row) { return std::string(row.param.name); });
+std::string NameOf(::testing::TestParamInfo<std::tuple<Row, Teller>> const& row)
+{
+    constexpr std::array TELLERS = {"OfApplication", "OfFactory", "OfEnvironment"};
+    return std::get<Row>(row.param).name + std::string(TELLERS.at(static_cast<size_t>(std::get<Teller>(row.param))));
+}
+
+INSTANTIATE_TEST_SUITE_P(Kinds, EveryProxy,
+                         ::testing::Combine(ROWS, ::testing::Values(Teller::Application, Teller::Factory,
+                                                                    Teller::Environment)),
+                         &NameOf);
 
 TEST_P(EveryProxy, BringsTheFeed)
 {
-    TestProxy proxy(GetParam().kind, static_cast<quint16>(Url().port()));
-    Use(proxy);
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()));
+    Use(proxy.Port());
     FetchOutcome const outcome = FetchAnywhere(Url());
     EXPECT_EQ(CauseOf(outcome), ErrorCause::NoUpdate);
     EXPECT_EQ(outcome.bytes, BODY);
@@ -81,13 +153,13 @@ TEST_P(EveryProxy, BringsTheFeed)
 
 TEST_P(EveryProxy, GetsThePasswordAndTheServerDoesNot)
 {
-    TestProxy proxy(GetParam().kind, static_cast<quint16>(Url().port()), "me", "pass word");
-    Use(proxy, QStringLiteral("me"), QStringLiteral("pass word"));
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()), "me", "pass word");
+    Use(proxy.Port(), QStringLiteral("me"), QStringLiteral("pass word"));
     FetchOutcome const outcome = FetchAnywhere(Url());
     EXPECT_EQ(CauseOf(outcome), ErrorCause::NoUpdate);
     EXPECT_EQ(outcome.bytes, BODY);
     ASSERT_EQ(Server().Requests().size(), 1u);
-    if (GetParam().isSecure || GetParam().kind == TestProxy::Kind::Socks5)
+    if (Proxy().isSecure || Proxy().kind == TestProxy::Kind::Socks5)
     {
         EXPECT_FALSE(Server().Requests()[0].contains("Authorization")) << Server().Requests()[0].toStdString();
     }
@@ -95,22 +167,22 @@ TEST_P(EveryProxy, GetsThePasswordAndTheServerDoesNot)
 
 TEST_P(EveryProxy, ThatAsksForAnotherPasswordIsAnErrorOfItsOwn)
 {
-    TestProxy proxy(GetParam().kind, static_cast<quint16>(Url().port()), "me", "right");
-    Use(proxy, QStringLiteral("me"), QStringLiteral("wrong"));
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()), "me", "right");
+    Use(proxy.Port(), QStringLiteral("me"), QStringLiteral("wrong"));
     EXPECT_EQ(CauseOf(FetchAnywhere(Url())), ErrorCause::ProxyAsksForPassword);
-    Use(proxy);
+    Use(proxy.Port());
     EXPECT_EQ(CauseOf(FetchAnywhere(Url())), ErrorCause::ProxyAsksForPassword);
     EXPECT_TRUE(Server().Requests().empty());
 }
 
 TEST_P(EveryProxy, ThatRefusesIsAnErrorOfItsOwn)
 {
-    TestProxy proxy(GetParam().kind, static_cast<quint16>(Url().port()));
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()));
     proxy.RefuseWith("403 Forbidden");
-    Use(proxy);
+    Use(proxy.Port());
     FetchOutcome const outcome = FetchAnywhere(Url());
     // What a proxy says in place of a server that it forwards to, cannot be told from what the server says.
-    bool const isForwarded = GetParam().type == QNetworkProxy::HttpCachingProxy;
+    bool const isForwarded = Proxy().type == QNetworkProxy::HttpCachingProxy;
     EXPECT_EQ(CauseOf(outcome), isForwarded ? ErrorCause::HttpStatus : ErrorCause::ProxyRefused);
     EXPECT_TRUE(Server().Requests().empty());
 }
@@ -119,18 +191,18 @@ TEST_P(EveryProxy, ThatIsNotThereIsAnErrorOfItsOwn)
 {
     quint16 port = 0;
     {
-        TestProxy const closed(GetParam().kind, 1);
+        TestProxy const closed(Proxy().kind, 1);
         port = closed.Port();
     }
-    QNetworkProxy::setApplicationProxy(QNetworkProxy(GetParam().type, QStringLiteral("127.0.0.1"), port));
+    Use(port);
     EXPECT_EQ(CauseOf(FetchAnywhere(Url())), ErrorCause::ProxyFailed);
     EXPECT_EQ(Server().Connections(), 0);
 }
 
 TEST_P(EveryProxy, GetsNoPasswordOfTheFeedsAddress)
 {
-    TestProxy proxy(GetParam().kind, static_cast<quint16>(Url().port()));
-    Use(proxy);
+    TestProxy proxy(Proxy().kind, static_cast<quint16>(Url().port()));
+    Use(proxy.Port());
     QUrl url = Url();
     url.setUserInfo(QStringLiteral("user:secret"));
     EXPECT_EQ(FetchAnywhere(url).bytes, BODY);
@@ -160,27 +232,6 @@ TEST_F(ProxyFetch, ThisComputerIsReachedWithoutOne)
     EXPECT_EQ(Fetch(plain.Url()).bytes, BODY);
     EXPECT_TRUE(proxy.Asked().empty());
 }
-
-class EnvironmentProxyFetch : public ProxyFetch
-{
-protected:
-    ~EnvironmentProxyFetch() override
-    {
-        for (QByteArray const& name : m_names)
-        {
-            qunsetenv(name.constData());
-        }
-    }
-
-    void Set(QByteArray const& name, QByteArray const& value)
-    {
-        qputenv(name.constData(), value);
-        m_names.insert(name);
-    }
-
-private:
-    std::set<QByteArray> m_names;
-};
 
 TEST_F(EnvironmentProxyFetch, IsUsedWithItsPassword)
 {
@@ -226,28 +277,17 @@ TEST_F(EnvironmentProxyFetch, SystemsSettingsCountWhereNobodyElseNamesOne)
     EXPECT_EQ(proxy.Asked().size(), 1u);
 }
 
-class OneProxy : public QNetworkProxyFactory
-{
-public:
-    explicit OneProxy(QNetworkProxy proxy) : m_proxy(std::move(proxy)) {}
-    QList<QNetworkProxy> queryProxy(QNetworkProxyQuery const& query) override
-    {
-        return {query.url().host() == NAME ? m_proxy : QNetworkProxy(QNetworkProxy::NoProxy)};
-    }
-
-private:
-    QNetworkProxy m_proxy;
-};
-
 TEST_F(ProxyFetch, ApplicationsFactoryIsAskedForEachAddress)
 {
-    TestProxy proxy(TestProxy::Kind::Http, static_cast<quint16>(secure.Url().port()), "me", "secret");
+    TestProxy proxy(TestProxy::Kind::Http, static_cast<quint16>(plain.Url().port()));
     QNetworkProxyFactory::setApplicationProxyFactory(
-        new OneProxy({QNetworkProxy::HttpProxy, QStringLiteral("127.0.0.1"), proxy.Port(), QStringLiteral("me"),
-                      QStringLiteral("secret")}));
-    EXPECT_EQ(FetchAnywhere(secure.Url(QStringLiteral("/feed.xml"), NAME)).bytes, BODY);
-    EXPECT_FALSE(proxy.Asked().empty());
-    QNetworkProxyFactory::setApplicationProxyFactory(nullptr);
+        new OneProxy({QNetworkProxy::HttpCachingProxy, QStringLiteral("127.0.0.1"), proxy.Port()}));
+    EXPECT_EQ(FetchAnywhere(plain.Url(QStringLiteral("/feed.xml"), NAME)).bytes, BODY);
+    EXPECT_EQ(proxy.Asked().size(), 1u);
+    EXPECT_EQ(CauseOf(FetchAnywhere(plain.Url(QStringLiteral("/feed.xml"), QStringLiteral("other.invalid")))),
+              ErrorCause::HostNotFound)
+        << "that one is asked directly";
+    EXPECT_EQ(proxy.Asked().size(), 1u);
 }
 
 } // namespace

@@ -1,4 +1,10 @@
 // AlertBox.h: the host framework's message dialog.
+//
+//     using Pelnar::Util::AlertBox;
+//     AlertBox box(AlertBox::Question, QStringLiteral("Notes"), QStringLiteral("Save the text before the update?"),
+//                  QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow(), Qt::WindowFlags());
+//     bool const isToBeSaved = box.Exec() == QMessageBox::Yes;
+//
 // Thread: the Qt main thread. Ownership: the caller's, or the Qt parent's. Declared here, provided by the host
 // framework.
 #pragma once

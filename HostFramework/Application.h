@@ -1,4 +1,29 @@
 // Application.h: the host's application object, the one QCoreApplication of the process.
+//
+//     using namespace Pelnar::App;
+//     class Notes : public Application
+//     {
+//     public:
+//         using Application::Application;
+//
+//         std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const override { return nullptr; }
+//         std::shared_ptr<ICustomizationManager> GetCustomizationManager() const override { return names; }
+//         std::shared_ptr<ILinksManager> GetLinksManager() const override { return links; }
+//         bool TryToQuit() override
+//         {
+//             bool const isClosed = window->close(); // the window asks what to do with unsaved work
+//             if (isClosed)
+//             {
+//                 quit();
+//             }
+//             return isClosed;
+//         }
+//
+//         std::shared_ptr<ICustomizationManager> names;
+//         std::shared_ptr<ILinksManager> links;
+//         QWidget* window = nullptr;
+//     };
+//
 // Thread: the Qt main thread. Ownership: made by the host's main function; it owns the services it lends.
 #pragma once
 

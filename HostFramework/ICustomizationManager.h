@@ -1,4 +1,15 @@
 // ICustomizationManager.h: what the running application calls itself, and its version.
+//
+//     class NotesNames : public Pelnar::App::ICustomizationManager
+//     {
+//     public:
+//         std::string GetDisplayName() const override { return "Notes"; }
+//         Pelnar::Core::Version GetApplicationVersion() const override { return Pelnar::Core::Version(5, 9); }
+//         // The bundle is "Pelnar Notes 5.app".
+//         std::string GetBundleNameFirstPart() const override { return "Pelnar"; }
+//         std::string GetBundleNameSecondPart() const override { return "Notes"; }
+//     };
+//
 // Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
 // host to implement.
 #pragma once

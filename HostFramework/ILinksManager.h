@@ -1,4 +1,16 @@
 // ILinksManager.h: the addresses behind the link keys.
+//
+//     class NotesLinks : public Pelnar::App::ILinksManager
+//     {
+//     public:
+//         QString GetLink(Pelnar::URLKeys key) const override
+//         {
+//             return key == Pelnar::URLKeys::SPARKLE_APPCAST_URL
+//                        ? QStringLiteral("https://updates.example.com/appcast.xml")
+//                        : QString();
+//         }
+//     };
+//
 // Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
 // host to implement.
 #pragma once

@@ -1,4 +1,8 @@
 // IoPath.h: the host framework's path value.
+//
+//     Pelnar::ioPath const path("/opt/notes");
+//     std::string const& text = path.utf8string();
+//
 // Thread: a plain value. Ownership: its own text. Part of what a host framework provides.
 #pragma once
 

@@ -1,4 +1,12 @@
 // NagScreenManager.h: the host's nag screens, by name.
+//
+//     class NoNagScreens : public Pelnar::App::NagScreen::Manager
+//     {
+//     public:
+//         int GetContentState(QString const&) const override { return Pelnar::App::NagScreen::CONTENT_UNAVAILABLE; }
+//         void Show(QString const&) override {}
+//     };
+//
 // Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
 // host to implement.
 #pragma once

@@ -1,4 +1,7 @@
 // OSVersion.h: the version of the running operating system.
+//
+//     qInfo("Updates are chosen for system version %s", qPrintable(Pelnar::Util::OSVersion()));
+//
 // Thread: the Qt main thread. Ownership: none. Declared here, provided by the host framework.
 #pragma once
 

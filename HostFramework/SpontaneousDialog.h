@@ -1,4 +1,8 @@
 // SpontaneousDialog.h: the parent of a dialog that the user did not open directly.
+//
+//     QMessageBox box(Pelnar::Util::SpontaneousDialog::findParent());
+//     box.exec();
+//
 // Thread: the Qt main thread. Ownership: none. Declared here, provided by the host framework.
 #pragma once
 

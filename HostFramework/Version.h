@@ -1,4 +1,10 @@
 // Version.h: the version value that the host framework, the updater and the session share.
+//
+//     constexpr Pelnar::Core::Version installed(5, 9);
+//     constexpr Pelnar::Core::Version published(5, 10);
+//     static_assert(installed < published);
+//     static_assert(Pelnar::Core::Util::ShrinkVersion(installed, 3) == Pelnar::Core::Version(5, 9, 0));
+//
 // Thread: a plain value. Ownership: none. The interface is part of what a host framework provides.
 #pragma once
 

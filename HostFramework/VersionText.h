@@ -1,4 +1,10 @@
 // VersionText.h: versions from text and back.
+//
+//     using namespace Pelnar::Util;
+//     Pelnar::Core::Version const version = VersionFromString(QStringLiteral("5.10"), QStringLiteral("."));
+//     auto const detail = VersionToStringDetail::PresentComponents;
+//     QString const name = VersionToString(version, detail, QStringLiteral("_")); // "5_10"
+//
 // Thread: any. Ownership: none. Declared here, provided by the host framework.
 #pragma once
 

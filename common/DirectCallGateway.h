@@ -1,4 +1,8 @@
 // DirectCallGateway.h: the default gateway; grants every request at once.
+//
+//     auto const gateway = std::make_shared<Pelnar::ExternalStimulus::DirectCallGateway>();
+//     Pelnar::App::UpdateManager::CheckForUpdates(gateway, qApp, true, {}, {});
+//
 // Thread: the caller's. Ownership: no data, nothing pending.
 #pragma once
 

@@ -1,4 +1,13 @@
 // EventHandlerList.h: keeps handlers in the order of their addition and calls them over a snapshot.
+//
+//     struct IListener
+//     {
+//         virtual ~IListener() = default;
+//         virtual void OnChanged(int value) = 0;
+//     };
+//     Pelnar::Core::EventHandlerList<IListener, Pelnar::Core::SyncExecutePolicy> listeners;
+//     listeners.PerformForEachEventHandler([](IListener* listener) { listener->OnChanged(7); });
+//
 // Thread: registering and notifying may come from any thread; whole passes run one after another.
 // Ownership: the list owns no handler. A handler may destroy the list; the pass that called it then ends.
 // Locks: `executeMutex` is held for a whole pass, `handlersMutex` for each look at the list and never while a handler

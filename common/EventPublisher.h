@@ -1,4 +1,9 @@
 // EventPublisher.h: the place where handlers of one kind of event are registered.
+//
+//     using Observer = Pelnar::App::IUpdateManagerObserver;
+//     auto const follow = [](Pelnar::Core::EventPublisher<Observer>& publisher, Observer& observer)
+//     { publisher.RegisterEventHandler(&observer); };
+//
 // Thread: any. Ownership: the publisher owns no handler; a handler must be unregistered before it dies.
 #pragma once
 

@@ -1,4 +1,29 @@
 // IGateway.h: the seam through which the update manager asks the host to run something that the user will see.
+//
+//     class PatientGateway : public Pelnar::ExternalStimulus::IGateway
+//     {
+//     public:
+//         void ProposeAction(Pelnar::ExternalStimulus::Action const& action) override { m_waiting = action; }
+//         void CancelActions(std::string const& id) override
+//         {
+//             if (m_waiting.id == id)
+//             {
+//                 m_waiting = {};
+//             }
+//         }
+//         /// The person has finished what must not be disturbed.
+//         void Grant()
+//         {
+//             if (std::function<void()> const callback = std::exchange(m_waiting, {}).callback)
+//             {
+//                 callback();
+//             }
+//         }
+//
+//     private:
+//         Pelnar::ExternalStimulus::Action m_waiting;
+//     };
+//
 // Thread: the Qt main thread. Ownership: held by std::shared_ptr; an action's callback may outlive the one who
 // proposed it and guards itself against that. A gateway may destroy its proposer, and stays alive until its call ends.
 #pragma once

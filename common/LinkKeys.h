@@ -1,4 +1,7 @@
 // LinkKeys.h: the host framework's link keys and the name of each.
+//
+//     std::string const& name = Pelnar::LINK_KEY_NAMES.at(Pelnar::URLKeys::SPARKLE_APPCAST_URL);
+//
 // Thread: the table is built at load time and only read afterwards. Ownership: one table for each translation unit.
 // The numbers are part of the interface with the host framework; those missing here are its own.
 #pragma once

@@ -1,4 +1,8 @@
 // NotNull.h: a pointer, plain or shared, that is never null.
+//
+//     Pelnar::SharedNotNullPtr<QObject> const object(std::make_shared<QObject>()); // throws for null
+//     object->setObjectName(QStringLiteral("document"));
+//
 // Thread: as the pointer it wraps. Ownership: as the pointer it wraps; moving out of one copies, so that the source
 // keeps its promise.
 #pragma once

@@ -1,4 +1,12 @@
 // PropogateConstCreator.h: makes the pointer of a private implementation whose constness follows its owner's.
+//
+//     struct Impl
+//     {
+//         int pages = 0;
+//     };
+//     auto impl = Pelnar::details::PropogateConstCreator<std::unique_ptr<Impl>>::Create();
+//     impl->pages = 7; // by an owner that is not const
+//
 // Thread: the owner's. Ownership: as the pointer that is wrapped. The spelling of the name is the interface's.
 #pragma once
 

@@ -1,4 +1,8 @@
 // ScopedFunctionCall.h: runs one function on entering a scope and another on every way out of it.
+//
+//     Pelnar::Core::ScopedFunctionCall const waiting([] { QApplication::setOverrideCursor(Qt::WaitCursor); },
+//                                                    [] { QApplication::restoreOverrideCursor(); }, true);
+//
 // Thread: the scope's. Ownership: the guard owns copies of both functions.
 #pragma once
 

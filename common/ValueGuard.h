@@ -1,4 +1,8 @@
 // ValueGuard.h: gives a variable another value for the length of a scope.
+//
+//     bool isBusy = false;
+//     Pelnar::Core::ValueGuard<bool> const busy(isBusy, true); // until the end of this scope
+//
 // Thread: the variable's. Ownership: the guard refers to the variable, which outlives it or is told to be gone.
 #pragma once
 

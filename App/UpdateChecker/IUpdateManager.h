@@ -1,4 +1,10 @@
 // IUpdateManager.h: the live update manager, as the host sees it while a check runs.
+//
+//     if (Pelnar::App::IUpdateManager* const manager = Pelnar::App::UpdateManager::GetCurrentUpdateManager())
+//     {
+//         manager->RejectUpdateAndHideDialog(); // the host needs the screen for itself
+//     }
+//
 // Thread: the Qt main thread. Ownership: the manager deletes itself; take the pointer from
 // UpdateManager::GetCurrentUpdateManager() each time and do not keep it.
 #pragma once

@@ -1,4 +1,19 @@
 // IUpdateManagerObserver.h: what the host's observers of a check are told.
+//
+//     class FoundVersion : public Pelnar::App::IUpdateManagerObserver
+//     {
+//     public:
+//         void OnUpdateFound(Pelnar::Core::Version const&, Pelnar::Core::Version const& remote) override
+//         {
+//             version = remote;
+//         }
+//         void OnUpdateAccepted(Pelnar::Core::Version const&, Pelnar::Core::Version const&) override {}
+//         void OnUpdateDialogOpening() override {}
+//         void OnUpdateDialogClosed() override {}
+//
+//         Pelnar::Core::Version version;
+//     };
+//
 // Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it
 // dies. One that is unregistered by another within a notification is still called in it.
 #pragma once

@@ -1,4 +1,8 @@
 // UpdateCheckMode.h: how a check was started, and so how much of it the user may see.
+//
+//     Pelnar::App::UpdateManager::Initializer initializer(qApp);
+//     initializer.checkMode = Pelnar::App::UpdateCheckMode::Silent;
+//     Pelnar::App::UpdateManager::CheckForUpdates(initializer);
 #pragma once
 
 #include <cstdint>

@@ -1,4 +1,9 @@
 // UpdateCheckResult.h: the outcome of a check.
+//
+//     using Pelnar::App::UpdateCheckResult;
+//     auto const isNewer = [](UpdateCheckResult result)
+//     { return result == UpdateCheckResult::UpdateAvailable || result == UpdateCheckResult::MajorUpdateAvailable; };
+//
 // Thread: a plain value. Qt knows its type, so that a result from another thread is queued.
 #pragma once
 

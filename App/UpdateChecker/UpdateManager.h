@@ -1,4 +1,11 @@
 // UpdateManager.h: the public front: starts a check; one self-deleting manager lives for each.
+//
+//     using Pelnar::App::UpdateManager;
+//     // The menu's "Check for Updates": the person sees every outcome.
+//     UpdateManager::CheckForUpdates(qApp, false, [] { return QApplication::activeWindow(); }, {});
+//     // At the start of the application: the person sees an update, and nothing else.
+//     UpdateManager::CheckForUpdates(qApp, true, {}, {});
+//
 // Thread: the one that runs the event loop of the application object, a Pelnar::App::Application. Ownership: a manager
 // is a child of the given parent and deletes itself when its check is over; the host deletes none.
 #pragma once

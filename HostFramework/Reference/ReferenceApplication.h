@@ -1,4 +1,12 @@
 // ReferenceApplication.h: the application object of the reference host framework.
+//
+//     Pelnar::App::ReferenceApplication application(argc, argv);
+//     QString const settings = QStringLiteral("/opt/notes/settings.ini");
+//     application.SetServices(
+//         {nullptr,
+//          std::make_shared<Pelnar::App::ReferenceCustomizationManager>(Pelnar::App::ReadCustomization(settings)),
+//          std::make_shared<Pelnar::App::ReferenceLinksManager>(Pelnar::App::ReadLinks(settings))});
+//
 // Thread: the Qt main thread. Ownership: made by the host's main function; shares the services with those who ask for
 // them and drops its part before QApplication goes, so that services may own windows.
 //

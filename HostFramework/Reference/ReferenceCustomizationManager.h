@@ -1,5 +1,9 @@
 // ReferenceCustomizationManager.h: the customization service of the reference host framework, over a plain record that
 // a host fills itself or reads from a settings file.
+//
+//     Pelnar::App::Customization const record{"Notes", Pelnar::Core::Version(5, 9), "Pelnar", "Notes"};
+//     auto const names = std::make_shared<Pelnar::App::ReferenceCustomizationManager>(record);
+//
 // Thread: the Qt main thread. Ownership: holds its own copy of the record.
 #pragma once
 

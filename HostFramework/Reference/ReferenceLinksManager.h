@@ -1,5 +1,10 @@
 // ReferenceLinksManager.h: the links service of the reference host framework, over a plain table that a host fills
 // itself or reads from a settings file.
+//
+//     Pelnar::App::Links const table{
+//         {Pelnar::URLKeys::SPARKLE_APPCAST_URL, QStringLiteral("https://updates.example.com/appcast.xml")}};
+//     auto const links = std::make_shared<Pelnar::App::ReferenceLinksManager>(table);
+//
 // Thread: the Qt main thread. Ownership: holds its own copy of the table.
 #pragma once
 

@@ -1,5 +1,14 @@
 // ReferenceNagScreenManager.h: the nag screens of the reference host framework: content that the host gives, at once or
 // later, and a window for each name. A name of which the host has said nothing has no nag screen.
+//
+//     using Pelnar::App::NagScreen::ReferenceManager;
+//     auto const nagScreens = std::make_shared<ReferenceManager>();
+//     nagScreens->SetContent(Pelnar::App::NagScreen::MajorUpdate,
+//                            {QStringLiteral("Notes 6"), QStringLiteral("Notes has learnt to draw."),
+//                             QStringLiteral("Have a Look"), QUrl(QStringLiteral("https://example.com/six"))});
+//     QObject::connect(nagScreens.get(), &ReferenceManager::LinkRequested,
+//                      [](QString const&, QUrl const& link) { QDesktopServices::openUrl(link); });
+//
 // Thread: the Qt main thread. Ownership: owns the windows that it shows; they go when they are closed or with it.
 #pragma once
 

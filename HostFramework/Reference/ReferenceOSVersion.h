@@ -1,4 +1,7 @@
 // ReferenceOSVersion.h: where the reference framework's OSVersion takes its answer from, and how a host replaces it.
+//
+//     Pelnar::Util::SetOSVersion(QStringLiteral("12.4")); // of the system outside, where the host runs in a container
+//
 // Thread: the Qt main thread. Ownership: the override is kept for the life of the process.
 //
 // macOS: the system's own version, with its patch number. Linux: VERSION_ID of the first os-release file that exists; a

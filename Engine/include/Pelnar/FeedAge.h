@@ -1,4 +1,10 @@
 // FeedAge.h: for how long an application has been getting the same update feed.
+//
+//     if (Pelnar::UnchangedFeedDays() > 90)
+//     {
+//         qWarning("We publish every month: the update server sends an old feed.");
+//     }
+//
 // Thread: the Qt main thread. Ownership: none.
 #pragma once
 

@@ -1,4 +1,8 @@
 // GoodStart.h: an application's word that the version that runs has started well.
+//
+//     // The main window is shown, and documents can be opened.
+//     QTimer::singleShot(0, qApp, [] { Pelnar::ConfirmGoodStart(); });
+//
 // Thread: the Qt main thread. Ownership: none.
 #pragma once
 

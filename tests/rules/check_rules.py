@@ -225,8 +225,34 @@ def check_text(path, text, root):
     return findings
 
 
-def check_tree(root):
+NAMED_FILE = re.compile(r"`([\w./-]+\.(?:cpp|h|mm|py))`")
+
+
+def check_document(text, files):
+    """What \a text names in backquotes must be a file, by its path or the end of it."""
     findings = []
+    for number, line in enumerate(text.splitlines(), 1):
+        for name in NAMED_FILE.findall(line):
+            if not any(("/" + file).endswith("/" + name) for file in files):
+                findings.append((number, "named-file", f"there is no file {name}"))
+    return findings
+
+
+def check_documents(root):
+    files = [
+        file.relative_to(root).as_posix()
+        for file in root.rglob("*")
+        if file.suffix in SOURCE_ENDINGS | {".py"} and not file.relative_to(root).as_posix().startswith("build/")
+    ]
+    findings = []
+    for path in ["CONTRIBUTING.md", "README.md", "docs/architecture.md"]:
+        for number, rule, said in check_document((root / path).read_text(encoding="utf-8"), files):
+            findings.append(f"{path}:{number}: {rule}: {said}")
+    return findings
+
+
+def check_tree(root):
+    findings = check_documents(root)
     for file in sorted(root.rglob("*")):
         path = file.relative_to(root).as_posix()
         if path.startswith(("build/", ".git/")) or file.suffix not in SOURCE_ENDINGS:
@@ -311,6 +337,11 @@ def self_test():
     for path, line in allowed:
         for _, rule, said in check_text(path, line, tree):
             failures.append(f"{rule} finds wrongly: {path}: {line}: {said}")
+    files = ["a/B.cpp", "C.h"]
+    if check_document("`B.cpp`, `a/B.cpp`, `C.h`, `<Sparkle/X.h>`, `d/e`, D.cpp", files):
+        failures.append("named-file finds wrongly")
+    if [found[0] for found in check_document("`C.h`\n`c/C.h` and `D.py`", files)] != [2, 2]:
+        failures.append("named-file does not find")
     return failures
 
 

@@ -148,7 +148,7 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     {
         CheckStaged(job, descriptors, staged.Get(), PACKED_BITS);
         report.SendProgress(HelperPhase::Installing, 0, 0);
-        RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent) + '/' + job.targetName);
+        RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent, job.targetName));
         report.Send(Engine::InstalledReport{});
         // What stays behind is removed at the next start.
         static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));

@@ -1,5 +1,6 @@
 #include "Installer/Relaunch.h"
 
+#include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
@@ -9,7 +10,6 @@
 #include <climits>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -38,9 +38,8 @@ bool HasOnlyPlainComponents(std::string const& path)
 
 bool IsProgramSafe(UniqueFd const& bundle, std::string const& executable)
 {
-    struct stat status;
-    return ::fstatat(bundle.Get(), executable.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0 &&
-           (status.st_uid == 0 || status.st_uid == ::geteuid()) && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+    UniqueFd const program = Engine::TreeAccess(bundle.Get()).OpenFile(executable);
+    return program && Engine::IsSafeByItself(program.Get());
 }
 
 } // namespace

@@ -72,6 +72,10 @@ int Reap(pid_t process)
 void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const& targetPath)
 {
     std::string const folder = Engine::RealPathOf(stagedFd);
+    if (folder.empty() || targetPath.empty())
+    {
+        throw UpdateRefusal(UpdateFault::InstallerNotStarted, ENAMETOOLONG);
+    }
     std::string const executable = ReadBundleInformation(stagedFd, job.stagedName).executable;
     int error = 0;
     pid_t const process =

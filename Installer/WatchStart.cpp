@@ -111,7 +111,7 @@ StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parent
         return StartEnd::Failed;
     }
     // Another bundle says nothing of the one that was installed.
-    bool const isTarget = started->path == Engine::RealPathOf(parentFd) + '/' + job.targetName;
+    bool const isTarget = started->path == Engine::RealPathOf(parentFd, job.targetName);
     return isTarget ? WaitForStart(job, parentFd, started->process) : StartEnd::Settled;
 }
 

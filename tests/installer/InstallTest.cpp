@@ -372,6 +372,15 @@ TEST(Staging, FolderIsFreshPrivateAndHeld)
     EXPECT_EQ(status.st_mode & 07777u, 0700u);
 }
 
+TEST(Staging, PathInTheRootHasOneSlash)
+{
+    UniqueFd const root(::open("/", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_EQ(RealPathOf(root.Get(), "My App.app"), "/My App.app");
+    UniqueFd const folder(::open("/proc", O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_EQ(RealPathOf(folder.Get(), "My App.app"), "/proc/My App.app");
+    EXPECT_EQ(RealPathOf(-1, "My App.app"), "");
+}
+
 TEST(Staging, PathIsSafeOnlyIfEveryFolderOfItIs)
 {
     Workspace const place;
@@ -480,6 +489,15 @@ INSTANTIATE_TEST_SUITE_P(
                                     return OtherIn(w);
                                 },
                                 false},
+                    RelaunchRow{"ProgramWritableByAnotherGroup",
+                                [](Workspace const& w)
+                                {
+                                    std::string const program = OtherIn(w) + "/run";
+                                    bool const isGiven = ::chown(program.c_str(), ::geteuid(), 12345) == 0;
+                                    ::chmod(program.c_str(), isGiven ? 0775 : 0777); // a user has no other group
+                                    return OtherIn(w);
+                                },
+                                false},
                     RelaunchRow{"ProgramIsText",
                                 [](Workspace const& w)
                                 {
@@ -488,6 +506,27 @@ INSTANTIATE_TEST_SUITE_P(
                                 },
                                 false}),
     [](testing::TestParamInfo<RelaunchRow> const& info) { return info.param.name; });
+
+/// As umask 002 leaves it.
+TEST(Relaunch, ProgramThatTheUsersOwnGroupMayWriteIsStarted)
+{
+    Workspace const place;
+    place.Put({{"file", 'f', {}, 0644}});
+    UniqueFd const file(::open((place.Path() + "/file").c_str(), O_RDONLY | O_CLOEXEC));
+    ASSERT_EQ(::fchmod(file.Get(), 0775), 0);
+    if (!IsSafeByItself(file.Get()))
+    {
+        GTEST_SKIP() << "this user has no group of their own";
+    }
+    UpdateScene scene;
+    InstallJob job = scene.PrepareForInstall();
+    Workspace const other;
+    other.Put(MakeBundle("7.0", "Other.app"));
+    ASSERT_EQ(::chmod((OtherIn(other) + "/run").c_str(), 0775), 0);
+    job.relaunchPath = OtherIn(other);
+    scene.Host().End();
+    EXPECT_EQ(scene.Install(job).output.substr(0, 3), "7.0");
+}
 
 TEST(Relaunch, ProgramThatDoesNotStartIsReportedAndTheNewVersionStays)
 {

@@ -25,9 +25,9 @@ namespace
 constexpr std::size_t DATABASE_BYTES = std::size_t{64} << 10; ///< for one entry of the users' or the groups' list
 
 /// True when an access list stands beside the mode, whose group bits then speak for more than the group.
-bool HasAccessList(int folderFd)
+bool HasAccessList(int fd)
 {
-    std::string const path = "/proc/self/fd/" + std::to_string(folderFd);
+    std::string const path = "/proc/self/fd/" + std::to_string(fd);
     ssize_t const size = ::getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0);
     return size > 0 || (size < 0 && errno != ENODATA && errno != EOPNOTSUPP);
 }
@@ -96,7 +96,7 @@ bool IsHidden(uid_t owner)
     return owner == NumberIn("/proc/sys/kernel/overflowuid", 0) && NumberIn("/proc/self/uid_map", 2) < ALL_USERS;
 }
 
-FolderSafety JudgeFolder(UniqueFd const& folder, struct stat const& status)
+FolderSafety JudgeItself(int fd, struct stat const& status)
 {
     if (status.st_uid != 0 && status.st_uid != ::geteuid())
     {
@@ -106,7 +106,7 @@ FolderSafety JudgeFolder(UniqueFd const& folder, struct stat const& status)
     {
         return (status.st_mode & S_ISVTX) != 0 ? FolderSafety::Shared : FolderSafety::OpenToAll;
     }
-    if ((status.st_mode & S_IWGRP) == 0 || (!HasAccessList(folder.Get()) && IsPrivateGroup(status.st_gid)))
+    if ((status.st_mode & S_IWGRP) == 0 || (!HasAccessList(fd) && IsPrivateGroup(status.st_gid)))
     {
         return FolderSafety::Safe;
     }
@@ -137,7 +137,7 @@ FolderFinding LookUpToTheRoot(int folderFd)
         {
             return {}; // only the root is its own parent
         }
-        FolderSafety const safety = JudgeFolder(folder, status);
+        FolderSafety const safety = JudgeItself(folder.Get(), status);
         if (isAbove ? !IsSafeAbove(safety, status) : safety != FolderSafety::Safe)
         {
             return {safety, RealPathOf(folder.Get()), status.st_gid};
@@ -151,6 +151,12 @@ FolderFinding LookUpToTheRoot(int folderFd)
 bool IsSafeUpToTheRoot(int folderFd)
 {
     return LookUpToTheRoot(folderFd).safety == FolderSafety::Safe;
+}
+
+bool IsSafeByItself(int fd)
+{
+    struct stat status;
+    return ::fstat(fd, &status) == 0 && JudgeItself(fd, status) == FolderSafety::Safe;
 }
 
 std::string GroupName(gid_t group)

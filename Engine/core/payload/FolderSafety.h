@@ -35,6 +35,10 @@ FolderFinding LookUpToTheRoot(int folderFd);
 /// True when LookUpToTheRoot finds nothing.
 [[nodiscard]] bool IsSafeUpToTheRoot(int folderFd);
 
+/// True when nobody but this user and the administrator may change what is open there: a file's bytes, a folder's
+/// names.
+[[nodiscard]] bool IsSafeByItself(int fd);
+
 /// The group's name, else its number.
 std::string GroupName(gid_t group);
 

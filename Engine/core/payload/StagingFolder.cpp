@@ -173,4 +173,14 @@ std::string RealPathOf(int folderFd)
     return path;
 }
 
+std::string RealPathOf(int folderFd, std::string const& name)
+{
+    std::string const folder = RealPathOf(folderFd);
+    if (folder.empty())
+    {
+        return {};
+    }
+    return folder == "/" ? folder + name : folder + '/' + name;
+}
+
 } // namespace Pelnar::Engine

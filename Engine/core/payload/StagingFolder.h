@@ -49,5 +49,7 @@ std::string AsideName();
 
 /// Where the open folder stands, without any link in the path; empty when that cannot be told.
 [[nodiscard]] std::string RealPathOf(int folderFd);
+/// Of \a name in it; empty as well.
+[[nodiscard]] std::string RealPathOf(int folderFd, std::string const& name);
 
 } // namespace Pelnar::Engine

@@ -228,12 +228,12 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
         return Error(ErrorCause::BundleIsLink, path);
     }
     target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
-    std::string const parentPath = target.bundle ? RealPathOf(target.parent.Get()) : std::string();
-    if (parentPath.empty())
+    std::string const realPath = target.bundle ? RealPathOf(target.parent.Get(), name) : std::string();
+    if (realPath.empty())
     {
         return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
     }
-    target.path = PathText(parentPath == "/" ? parentPath + name : parentPath + '/' + name);
+    target.path = PathText(realPath);
     return target;
 }
 

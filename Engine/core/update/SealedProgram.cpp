@@ -1,6 +1,7 @@
 #include "Engine/core/update/SealedProgram.h"
 
 #include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/update/SealedMemory_p.h"
 
@@ -57,8 +58,7 @@ UniqueFd SealedCopyOf(std::string const& path)
     {
         throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
     }
-    bool const isOwnerTrusted = status.st_uid == 0 || status.st_uid == ::geteuid();
-    if (!S_ISREG(status.st_mode) || !isOwnerTrusted || (status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+    if (!S_ISREG(status.st_mode) || !IsSafeByItself(source.Get()))
     {
         throw UpdateRefusal(UpdateFault::HelperUnusable);
     }

@@ -1,4 +1,5 @@
 #include "Engine/core/update/HelperProcess.h"
+#include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/update/HelperLaunch_p.h"
 #include "tests/installer/InstallerFixture.h"
@@ -419,10 +420,31 @@ INSTANTIATE_TEST_SUITE_P(
                                    static_cast<void>(!::symlink(PELNAR_HELPER_PROBE, p.c_str()));
                                }},
                     ProgramRow{"WritableByOthers", [](std::string const& p) { ::chmod(p.c_str(), 0757); }},
-                    ProgramRow{"WritableByTheGroup", [](std::string const& p) { ::chmod(p.c_str(), 0775); }},
+                    ProgramRow{"WritableByAnotherGroup",
+                               [](std::string const& p)
+                               {
+                                   bool const isGiven = ::chown(p.c_str(), ::geteuid(), 12345) == 0;
+                                   ::chmod(p.c_str(), isGiven ? 0775 : 0757); // a user has no other group
+                               }},
                     ProgramRow{"NoProgram", [](std::string const& p) { std::ofstream(p) << "text"; }},
                     ProgramRow{"Empty", [](std::string const& p) { std::ofstream(p).flush(); }}),
     [](testing::TestParamInfo<ProgramRow> const& info) { return info.param.name; });
+
+/// As umask 002 leaves it.
+TEST_F(HelperProcesses, ProgramThatTheUsersOwnGroupMayWriteIsStarted)
+{
+    Workspace const place;
+    std::string const path = place.Path() + "/helper";
+    std::filesystem::copy_file(PELNAR_HELPER_PROBE, path);
+    ASSERT_EQ(::chmod(path.c_str(), 0775), 0);
+    UniqueFd const program(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!IsSafeByItself(program.Get()))
+    {
+        GTEST_SKIP() << "this user has no group of their own";
+    }
+    ProbeScene scene("0", path);
+    EXPECT_NO_THROW(scene.Start());
+}
 
 TEST_F(HelperProcesses, ProgramOfAnotherUserIsNotStarted)
 {

@@ -1,5 +1,6 @@
 #include "Engine/core/update/InstallTarget.h"
 #include "Engine/core/PathText.h"
+#include "Engine/core/payload/FolderSafety.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/installer/OtherUser.h"
 #include "tests/support/Container.h"
@@ -499,6 +500,7 @@ TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
         for (std::string const& path : {scene.Bundle(), scene.Parent()})
         {
             ASSERT_EQ(::chmod(path.c_str(), mode), 0);
+            ASSERT_EQ(::chmod((scene.Bundle() + "/run").c_str(), 0775), 0);
             std::string const told = AsOtherUser(
                 0,
                 [&]
@@ -508,6 +510,11 @@ TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
                         ::seteuid(SOMEBODY) != 0)
                     {
                         return std::string("cannot change the lists");
+                    }
+                    UniqueFd const program(::open((scene.Bundle() + "/run").c_str(), O_RDONLY | O_CLOEXEC));
+                    if (IsSafeByItself(program.Get()) != row.isPrivate)
+                    {
+                        return std::string("files are judged in another way");
                     }
                     auto const answer = scene.Open(scene.Bundle());
                     auto const* const error = std::get_if<EngineError>(&answer);

@@ -204,6 +204,7 @@ int main(int count, char** arguments)
     DropEnvironment(arguments);
     SettleDescriptors();
     ::umask(CREATION_MASK);
+    ::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error of the call that writes it
     if (::chdir("/") != 0)
     {
         return EXIT_USAGE;

@@ -78,6 +78,32 @@ INSTANTIATE_TEST_SUITE_P(
         Surroundings{"HostileAllocator", {}, {"GLIBC_TUNABLES=glibc.malloc.check=3", "MALLOC_PERTURB_=255"}}),
     [](testing::TestParamInfo<Surroundings> const& info) { return info.param.name; });
 
+/// The system ends a process that writes more than its limit, unless it wants to hear of it.
+TEST(LimitOfFiles, IsAFaultAndNoSuddenEnd)
+{
+    if (IS_SANITIZED)
+    {
+        GTEST_SKIP() << "a sanitizer's runtime writes more";
+    }
+    HelperStart const limited{After("ulimit -f 0"), {}};
+    Versions const versions;
+    {
+        UpdateScene scene;
+        HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), limited);
+        EXPECT_EQ(outcome.exitStatus, 1) << "signal " << outcome.signal;
+        EXPECT_EQ(outcome.Fault(), UpdateFault::DiskError);
+        ExpectRecovered(scene, versions);
+    }
+    UpdateScene scene;
+    InstallJob const job = scene.PrepareForInstall();
+    scene.Host().End();
+    HelperOutcome const outcome = scene.Install(job, limited);
+    EXPECT_EQ(outcome.exitStatus, 1) << "signal " << outcome.signal;
+    EXPECT_EQ(outcome.Fault(), UpdateFault::DiskError);
+    EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
+    EXPECT_NE(outcome.Find<RelaunchedReport>(), nullptr) << "the previous version is started again";
+}
+
 TEST(OddPlaces, AreUpdatedLikeOthers)
 {
     for (std::string const& name :

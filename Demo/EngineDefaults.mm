@@ -1,6 +1,7 @@
 #include "Demo/EngineDefaults.h"
 
 #include "Foundation/FoundationText.h"
+#include "common/SettingKeys.h"
 
 namespace Pelnar::Demo
 {
@@ -9,8 +10,9 @@ void SetFeedPlatform(QString const& platform)
 {
     @autoreleasepool
     {
-        NSDictionary* const values = [NSDictionary dictionaryWithObject:Foundation::ToNSString(platform)
-                                                                 forKey:@"PelnarFeedPlatform"];
+        NSDictionary* const values = [NSDictionary
+            dictionaryWithObject:Foundation::ToNSString(platform)
+                          forKey:[NSString stringWithUTF8String:Core::KeyOf(Core::Setting::FeedPlatform).name.data()]];
         [[NSUserDefaults standardUserDefaults] registerDefaults:values];
     }
 }

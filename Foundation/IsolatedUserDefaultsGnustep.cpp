@@ -62,6 +62,9 @@ IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
     // Foundation passes over one that others may change, whatever the mask for new files is.
     config.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
+    // Where the update checker keeps its own, and what it knows of feeds.
+    qputenv("XDG_CONFIG_HOME", folder + "/config");
+    qputenv("XDG_STATE_HOME", folder + "/state");
     // The engine keeps feeds there. A program that is started several times is given one folder for all its runs.
     if (!qEnvironmentVariableIsSet("XDG_CACHE_HOME"))
     {

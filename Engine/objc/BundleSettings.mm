@@ -4,8 +4,8 @@
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/objc/HelperLocation_p.h"
+#include "Engine/objc/SettingValues_p.h"
 #include "Foundation/FoundationText.h"
-#include "Foundation/RaisedException.h"
 
 #include <QDateTime>
 #include <QFileInfo>
@@ -21,6 +21,9 @@
 #include <fcntl.h>
 
 using namespace Pelnar::Foundation;
+using Pelnar::Core::KeyOf;
+using Pelnar::Core::Setting;
+using Pelnar::Core::SettingPlace;
 
 namespace Pelnar::Engine
 {
@@ -44,68 +47,9 @@ WaitingRecord& Waiting()
     return waiting;
 }
 
-enum class Source
-{
-    Bundle,
-    Defaults,
-    DefaultsThenBundle,
-};
-
-id ObjectOf(NSString* key, Source source)
-{
-    id object = nil;
-    if (source != Source::Bundle)
-    {
-        object = [[NSUserDefaults standardUserDefaults] objectForKey:key];
-    }
-    if (!object && source != Source::Defaults)
-    {
-        object = [[[NSBundle mainBundle] infoDictionary] objectForKey:key];
-    }
-    return object;
-}
-
-void WarnOfType(NSString* key, char const* wanted)
-{
-    LOG(WARNING) << "The setting " << ToUtf8(key) << " is not " << wanted << " and is ignored";
-}
-
-/// Empty when the key is absent or its value is not text.
-QString TextOf(NSString* key, Source source)
-{
-    id const object = ObjectOf(key, source);
-    if (!object)
-    {
-        return {};
-    }
-    if (![object isKindOfClass:[NSString class]])
-    {
-        WarnOfType(key, "text");
-        return {};
-    }
-    return ToQString(object);
-}
-
-bool IsTrue(NSString* key, Source source)
-{
-    // A property list of the old style has no booleans, only text.
-    id const object = ObjectOf(key, source);
-    if (!object)
-    {
-        return false;
-    }
-    if (![object isKindOfClass:[NSNumber class]] && ![object isKindOfClass:[NSString class]])
-    {
-        WarnOfType(key, "a boolean");
-        return false;
-    }
-    return [object boolValue];
-}
-
 FeedSigning ReadFeedSigning()
 {
-    NSString* const key = @"PelnarRequiresSignedFeed";
-    id const object = ObjectOf(key, Source::Bundle);
+    id const object = SettingObject(Setting::RequiresSignedFeed);
     if (!object)
     {
         return FeedSigning::NotAsked;
@@ -116,33 +60,34 @@ FeedSigning ReadFeedSigning()
                              : [object isKindOfClass:[NSNumber class]] && ![object boolValue];
     bool const isYes = isText ? [object boolValue] : [object isKindOfClass:[NSNumber class]] && [object boolValue];
     // Deliberate: a misspelt entry asks for the safe side.
-    LOG_IF(WARNING, !isNo && !isYes) << "The setting " << ToUtf8(key) << " is not a boolean and counts as YES";
+    LOG_IF(WARNING, !isNo && !isYes) << "The setting " << KeyOf(Setting::RequiresSignedFeed).name
+                                     << " is not a boolean and counts as YES";
     return isNo ? FeedSigning::NotAsked : FeedSigning::Required;
 }
 
 FeedPlatform ReadPlatform()
 {
-    QString const name = TextOf(@"PelnarFeedPlatform", Source::DefaultsThenBundle);
+    QString const name = SettingText(Setting::FeedPlatform);
     if (name == QLatin1String("macos"))
     {
         return FeedPlatform::MacOS;
     }
     if (!name.isEmpty() && name != QLatin1String("linux"))
     {
-        WarnOfType(@"PelnarFeedPlatform", "\"macos\" or \"linux\"");
+        WarnOfType(Setting::FeedPlatform, "\"macos\" or \"linux\"");
     }
     return FeedPlatform::Linux;
 }
 
 QString ReadSkippedVersion()
 {
-    QString const version = TextOf(@"SUSkippedVersion", Source::Defaults);
+    QString const version = SettingText(Setting::SkippedVersion);
     // A comparator may call a text that is no version equal to every version; it would hide all updates for ever.
     bool const hasDigit =
         std::any_of(version.begin(), version.end(), [](QChar character) { return character.isDigit(); });
     if (!version.isEmpty() && !hasDigit)
     {
-        WarnOfType(@"SUSkippedVersion", "a version");
+        WarnOfType(Setting::SkippedVersion, "a version");
         return {};
     }
     return version;
@@ -150,8 +95,7 @@ QString ReadSkippedVersion()
 
 qint64 ReadMaxFeedBytes()
 {
-    NSString* const key = @"PelnarMaximumFeedBytes";
-    id const object = ObjectOf(key, Source::Bundle);
+    id const object = SettingObject(Setting::MaximumFeedBytes);
     if (!object)
     {
         return FetchLimits().maxBodyBytes;
@@ -160,7 +104,7 @@ qint64 ReadMaxFeedBytes()
     long long const bytes = isNumber ? [object longLongValue] : 0;
     if (bytes < 1 || bytes > MAX_FEED_BYTES)
     {
-        WarnOfType(key, "a number from 1 to 1073741824");
+        WarnOfType(Setting::MaximumFeedBytes, "a number from 1 to 1073741824");
         return FetchLimits().maxBodyBytes;
     }
     return bytes;
@@ -170,12 +114,12 @@ CheckSettings ReadCheckSettings(QUrl const& feedUrl)
 {
     CheckSettings settings;
     settings.feedUrl = feedUrl;
-    settings.bundleVersion = TextOf(@"CFBundleVersion", Source::Bundle);
+    settings.bundleVersion = SettingText(Setting::BundleVersion);
     settings.skippedVersion = ReadSkippedVersion();
     settings.languages = QLocale().uiLanguages();
     settings.platform = ReadPlatform();
     settings.insecureHttp =
-        IsTrue(@"PelnarAllowsInsecureFeeds", Source::Bundle) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
+        IsSettingTrue(Setting::AllowsInsecureFeeds) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
     settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
     settings.feedSigning = ReadFeedSigning();
     settings.feedRecord = ReadFeedRecord();
@@ -186,24 +130,24 @@ RunningBundle ReadRunningBundle()
 {
     RunningBundle bundle;
     bundle.path = BundlePathText(ToQString([[NSBundle mainBundle] bundlePath]));
-    bundle.identifier = TextOf(@"CFBundleIdentifier", Source::Bundle);
-    bundle.version = TextOf(@"CFBundleVersion", Source::Bundle);
-    QString const shownVersion = TextOf(@"CFBundleShortVersionString", Source::Bundle);
+    bundle.identifier = SettingText(Setting::BundleIdentifier);
+    bundle.version = SettingText(Setting::BundleVersion);
+    QString const shownVersion = SettingText(Setting::BundleShortVersion);
     bundle.shownVersion = shownVersion.isEmpty() ? bundle.version : shownVersion;
-    for (NSString* const key : {@"CFBundleDisplayName", @"CFBundleName"})
+    for (Setting const name : {Setting::BundleDisplayName, Setting::BundlePlainName})
     {
         if (bundle.shownName.isEmpty())
         {
-            bundle.shownName = TextOf(key, Source::Bundle);
+            bundle.shownName = SettingText(name);
         }
     }
     if (bundle.shownName.isEmpty())
     {
         bundle.shownName = QFileInfo(bundle.path).completeBaseName();
     }
-    for (NSString* const key : {@"SUPublicEDKey", @"PelnarNextPublicEDKey"})
+    for (Setting const key : {Setting::PublicKey, Setting::NextPublicKey})
     {
-        QString const text = TextOf(key, Source::Bundle);
+        QString const text = SettingText(key);
         if (!text.isEmpty())
         {
             bundle.publicKeys.push_back(text);
@@ -212,23 +156,14 @@ RunningBundle ReadRunningBundle()
     return bundle;
 }
 
-NSDate* DateOf(QDateTime const& time)
-{
-    return [NSDate dateWithTimeIntervalSince1970:static_cast<NSTimeInterval>(time.toSecsSinceEpoch())];
-}
-
-QDateTime TimeOf(NSDate* date)
-{
-    return QDateTime::fromSecsSinceEpoch(static_cast<qint64>([date timeIntervalSince1970]), Qt::UTC);
-}
-
 /// Nil when the record has no such entry of that class.
 id EntryOf(NSDictionary* record, NSString* name, Class kind)
 {
     id const entry = [record objectForKey:name];
     if (entry && ![entry isKindOfClass:kind])
     {
-        LOG(WARNING) << "The entry " << ToUtf8(name) << " of PelnarFeedRecord is of the wrong type and is ignored";
+        LOG(WARNING) << "The entry " << ToUtf8(name) << " of " << KeyOf(Setting::FeedRecord).name
+                     << " is of the wrong type and is ignored";
         return nil;
     }
     return entry;
@@ -238,11 +173,10 @@ id EntryOf(NSDictionary* record, NSString* name, Class kind)
 FeedRecord ReadEarlierFeedRecord()
 {
     FeedRecord record;
-    NSString* const key = @"PelnarFeedRecord";
-    id const entries = ObjectOf(key, Source::Defaults);
+    id const entries = [[NSUserDefaults standardUserDefaults] objectForKey:NameOfSetting(Setting::FeedRecord)];
     if (entries && ![entries isKindOfClass:[NSDictionary class]])
     {
-        WarnOfType(key, "a dictionary");
+        WarnOfType(Setting::FeedRecord, "a dictionary");
         return record;
     }
     record.address = ToQString(EntryOf(entries, @"address", [NSString class]));
@@ -280,24 +214,25 @@ void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
     }
 }
 
-/// Beside the user defaults, but not in them: those are named after the program, and writing them takes the disk's time.
+/// Beside the user defaults, but not in them: those are named after the program, and writing them takes the disk's
+/// time.
 QString RecordPath()
 {
-    return FeedRecordPath(ToQString(GSDefaultsRootForUser(NSUserName())), TextOf(@"CFBundleIdentifier", Source::Bundle));
+    return FeedRecordPath(ToQString(GSDefaultsRootForUser(NSUserName())), SettingText(Setting::BundleIdentifier));
 }
 
 BackOffState ReadBackOff()
 {
     BackOffState state;
-    id const failures = ObjectOf(@"PelnarFailedChecks", Source::Defaults);
-    id const time = ObjectOf(@"PelnarLastFailedCheckTime", Source::Defaults);
+    id const failures = SettingObject(Setting::FailedChecks);
+    id const time = SettingObject(Setting::LastFailedCheckTime);
     if (!failures && !time)
     {
         return state;
     }
     if (![failures isKindOfClass:[NSNumber class]] || ![time isKindOfClass:[NSDate class]])
     {
-        WarnOfType(@"PelnarFailedChecks", "a number with a date");
+        WarnOfType(Setting::FailedChecks, "a number with a date");
         return state;
     }
     state.failures = [failures intValue];
@@ -313,42 +248,18 @@ QString DownloadFolderFor(QString const& identifier)
            QString::fromLatin1(name);
 }
 
-/// Takes over what other processes of the application have written since.
-void RefreshDefaults()
-{
-    std::optional<std::string> const reason =
-        ReasonRaisedBy([] { [[NSUserDefaults standardUserDefaults] synchronize]; });
-    LOG_IF(WARNING, reason.has_value()) << "The user defaults could not be read anew: " << *reason;
-}
-
-/// Stores \a value and puts the defaults on disk; what fails is a warning, since a check must not depend on it.
-void WriteDefault(NSString* key, id value)
-{
-    bool isWritten = false;
-    std::optional<std::string> const reason = ReasonRaisedBy(
-        [key, value, &isWritten]
-        {
-            NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
-            [defaults setObject:value forKey:key];
-            isWritten = [defaults synchronize];
-        });
-    LOG_IF(WARNING, !isWritten) << "The user default " << ToUtf8(key)
-                                << " could not be saved: " << reason.value_or("the defaults cannot be written");
-}
-
 } // namespace
 
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
 {
-    RefreshDefaults();
     UpdateSettings settings;
     settings.check = ReadCheckSettings(feedUrl);
     settings.bundle = ReadRunningBundle();
     settings.check.publicKeys = settings.bundle.publicKeys;
     settings.automaticDownload = ReadAutomaticDownload();
     // Whoever of the two says so: an administrator's word must not be undone by a default.
-    bool const isDisabled =
-        IsTrue(@"PelnarUpdatesDisabled", Source::Bundle) || IsTrue(@"PelnarUpdatesDisabled", Source::Defaults);
+    bool const isDisabled = IsSettingTrueIn(SettingPlace::Information, Setting::UpdatesDisabled) ||
+                            IsSettingTrueIn(SettingPlace::Defaults, Setting::UpdatesDisabled);
     settings.updates = isDisabled ? UpdateSwitch::Off : UpdateSwitch::On;
     settings.backOff = ReadBackOff();
     settings.downloadFolder = DownloadFolderFor(settings.bundle.identifier);
@@ -370,38 +281,39 @@ std::optional<StartedApplication> ReadStartedApplication()
     StartedApplication application;
     application.helperProgram = HelperProgram();
     application.bundlePath = BundlePathText(ToQString([[NSBundle mainBundle] bundlePath]));
-    application.version = TextOf(@"CFBundleVersion", Source::Bundle);
+    application.version = SettingText(Setting::BundleVersion);
     application.downloadFolder = DownloadFolderFor(ReadRunningBundle().identifier);
     return application.version.isEmpty() ? std::nullopt : std::optional(application);
 }
 
 QUrl ReadFeedUrl()
 {
-    bool const mayBeChanged = IsTrue(@"PelnarAllowsFeedURLInDefaults", Source::Bundle);
-    return QUrl(TextOf(@"SUFeedURL", mayBeChanged ? Source::DefaultsThenBundle : Source::Bundle));
+    bool const mayBeChanged = IsSettingTrue(Setting::AllowsFeedUrlInDefaults);
+    return QUrl(SettingTextIn(mayBeChanged ? SettingPlace::Both : SettingPlace::Information, Setting::FeedUrl));
 }
 
 AutomaticDownload ReadAutomaticDownload()
 {
-    return IsTrue(@"SUAutomaticallyUpdate", Source::DefaultsThenBundle) ? AutomaticDownload::On
-                                                                        : AutomaticDownload::Off;
+    return IsSettingTrue(Setting::AutomaticallyUpdate) ? AutomaticDownload::On : AutomaticDownload::Off;
 }
 
 void WriteAutomaticDownload(AutomaticDownload value)
 {
-    WriteDefault(@"SUAutomaticallyUpdate", [NSNumber numberWithBool:value == AutomaticDownload::On]);
+    SaveSettings({{Setting::AutomaticallyUpdate, value == AutomaticDownload::On}});
 }
 
-void WriteLastCheckTime() { WriteDefault(@"SULastCheckTime", [NSDate date]); }
+void WriteSkippedVersion(QString const& version) { SaveSettings({{Setting::SkippedVersion, version}}); }
 
-void WriteSkippedVersion(QString const& version) { WriteDefault(@"SUSkippedVersion", ToNSString(version)); }
-
-void WriteBackOff(BackOffState const& state)
+void WriteLastCheckTime(DiskChores& chores)
 {
-    WriteDefault(@"PelnarFailedChecks", [NSNumber numberWithInt:state.failures]);
-    NSDate* const time =
-        state.lastFailure.isValid() ? DateOf(state.lastFailure) : [NSDate dateWithTimeIntervalSince1970:0];
-    WriteDefault(@"PelnarLastFailedCheckTime", time);
+    SaveSettingsLater({{Setting::LastCheckTime, QDateTime::currentDateTimeUtc()}}, chores);
+}
+
+void WriteBackOff(BackOffState const& state, DiskChores& chores)
+{
+    QVariant const time = state.lastFailure.isValid() ? QVariant(state.lastFailure) : QVariant();
+    QVariant const failures = state.failures > 0 ? QVariant(state.failures) : QVariant();
+    SaveSettingsLater({{Setting::FailedChecks, failures}, {Setting::LastFailedCheckTime, time}}, chores);
 }
 
 FeedFolder ReadFeedFolder()

@@ -1,28 +1,6 @@
-// BundleSettings_p.h: what the running bundle and the user defaults say about updates. Plain C++.
+// BundleSettings_p.h: what the running bundle and the user defaults say about updates; the keys stand in
+// common/SettingKeys.h. Plain C++.
 // Thread: main. Ownership: values only.
-// A value of the wrong type counts as absent, with a warning. Where a key may stand in both, the user default wins.
-//   SUFeedURL                   text; the feed's address              bundle; both with the next key
-//   PelnarAllowsFeedURLInDefaults  boolean; a user default may name another feed         bundle
-//   SUAutomaticallyUpdate       boolean                                                  both
-//   SUSkippedVersion            text; the version that the user skipped                  defaults
-//   SULastCheckTime             date; written at the end of every check                  defaults
-//   SUPublicEDKey               text; base64, the key that updates are signed with       bundle
-//   PelnarNextPublicEDKey       text; base64, a second key that is trusted as well       bundle
-//   CFBundleIdentifier          text; what an update must be called, too                 bundle
-//   CFBundleVersion             text; the running version                                bundle
-//   CFBundleShortVersionString  text; the running version for a person                   bundle
-//   CFBundleDisplayName         text; the name for a person; else CFBundleName, else the bundle's own   bundle
-//   PelnarUpdatesDisabled       boolean; nothing is ever sent, every check fails at once both
-//   PelnarFailedChecks          number; background checks in a row that failed           defaults
-//   PelnarLastFailedCheckTime   date; of the last of them                                defaults
-//   PelnarRequiresSignedFeed    boolean; a feed that is not signed is refused; anything but a plain "no" asks for it
-//   bundle PelnarFeedRecord            dictionary; what earlier versions knew of the feed: address, digest (text),
-//   firstSeen,
-//                               lastSeen (dates), serial (number); read until there is a file of FeedRecordFile.h; an
-//                               entry of the wrong type counts as absent   defaults
-//   PelnarFeedPlatform          "macos" or "linux": whose items are wanted; without it, the system's   both
-//   PelnarAllowsInsecureFeeds   boolean; plain http to any server                        bundle
-//   PelnarMaximumFeedBytes      number from 1 to 1 GiB; without it, 4 MiB                bundle
 #pragma once
 
 #include "Engine/core/check/KeptFeedFile.h"
@@ -51,9 +29,10 @@ QUrl ReadFeedUrl();
 AutomaticDownload ReadAutomaticDownload();
 void WriteAutomaticDownload(AutomaticDownload value);
 
-void WriteLastCheckTime();
 void WriteSkippedVersion(QString const& version);
-void WriteBackOff(BackOffState const& state);
+/// Both have \a chores put it on the disk; it counts at once.
+void WriteLastCheckTime(DiskChores& chores);
+void WriteBackOff(BackOffState const& state, DiskChores& chores);
 /// Where the feed of the last check is kept.
 FeedFolder ReadFeedFolder();
 FeedRecord ReadFeedRecord();

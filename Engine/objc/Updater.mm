@@ -332,7 +332,7 @@ void Updater::CheckEnded()
 {
     @autoreleasepool
     {
-        WriteLastCheckTime();
+        WriteLastCheckTime(*m_chores);
     }
     m_appcast.Reset();
 }
@@ -446,7 +446,7 @@ void Updater::StoreBackOff(BackOffState const& state)
 {
     @autoreleasepool
     {
-        WriteBackOff(state);
+        WriteBackOff(state, *m_chores);
     }
 }
 

@@ -266,6 +266,14 @@ std::vector<std::string> UpdateServer::EndAndListServedFiles()
     return names;
 }
 
+namespace
+{
+
+constexpr char DEFAULTS[] = "home/config/com.example.pelnar-demo/updates.plist";
+constexpr char EARLIER_DEFAULTS[] = "Defaults/PelnarDemo.plist";
+
+} // namespace
+
 InstalledDemo::InstalledDemo()
 {
     for (char const* const name : {"Applications", "Defaults", "home", "pictures", "runtime"})
@@ -302,14 +310,35 @@ void InstalledDemo::MoveApplications(std::string const& name) const
 
 void InstalledDemo::WriteDefaults(QByteArray const& text)
 {
-    QFile file(Path("Defaults/PelnarDemo.plist"));
+    WriteTo(DEFAULTS, text);
+}
+
+void InstalledDemo::WriteEarlierDefaults(QByteArray const& text)
+{
+    WriteTo(EARLIER_DEFAULTS, text);
+}
+
+void InstalledDemo::WriteTo(char const* path, QByteArray const& text)
+{
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(Path(path)).path()));
+    QFile file(Path(path));
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(text);
 }
 
 QByteArray InstalledDemo::ReadDefaults() const
 {
-    QFile file(Path("Defaults/PelnarDemo.plist"));
+    return ReadFrom(DEFAULTS);
+}
+
+QByteArray InstalledDemo::ReadEarlierDefaults() const
+{
+    return ReadFrom(EARLIER_DEFAULTS);
+}
+
+QByteArray InstalledDemo::ReadFrom(char const* path) const
+{
+    QFile file(Path(path));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
@@ -320,6 +349,7 @@ void InstalledDemo::Start(QProcess& process, QString const& feed, QStringList co
     environment.insert(QStringLiteral("HOME"), Path("home"));
     environment.insert(QStringLiteral("XDG_CACHE_HOME"), Path("home/cache"));
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("home/config"));
+    environment.insert(QStringLiteral("XDG_STATE_HOME"), Path("home/state"));
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("runtime"));
     environment.insert(QStringLiteral("SSL_CERT_FILE"), Published("authority.pem"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));

@@ -90,6 +90,9 @@ public:
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.
     QByteArray ReadDefaults() const;
+    /// The file in which versions before this one kept them.
+    void WriteEarlierDefaults(QByteArray const& text);
+    QByteArray ReadEarlierDefaults() const;
 
     /// Runs the installed version with \a feed and \a arguments. A version that is started in its place shows itself
     /// and quits.
@@ -112,6 +115,8 @@ public:
     std::vector<std::string> Pictures() const;
 
 private:
+    void WriteTo(char const* path, QByteArray const& text);
+    QByteArray ReadFrom(char const* path) const;
     void Start(QProcess& process, QString const& feed, QStringList const& arguments) const;
     QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 

@@ -83,6 +83,24 @@ TEST_F(UpdateScenario, ASilentDownloadEndsInTheDialogAndTheNewVersionRuns)
         << "no window of the engine";
 }
 
+TEST_F(UpdateScenario, ASettingOfAnEarlierVersionIsTakenOver)
+{
+    UpdateServer server;
+    demo.WriteEarlierDefaults(DOWNLOADS_SILENTLY);
+    ExpectUpdated(Run(server, WHOLE_FEED, Script("automatic", "update", {SESSION_RELAUNCH})));
+    EXPECT_TRUE(demo.ReadDefaults().contains("SUAutomaticallyUpdate = YES;")) << demo.ReadDefaults().toStdString();
+    EXPECT_EQ(demo.ReadEarlierDefaults().toStdString(), DOWNLOADS_SILENTLY) << "it is left as it is";
+}
+
+TEST_F(UpdateScenario, AVersionSkippedInTheDialogIsSkippedAfterwards)
+{
+    UpdateServer server;
+    demo.WriteDefaults(DOWNLOADS_SILENTLY);
+    ExpectUntouched(Run(server, WHOLE_FEED, Script("automatic", "answer", {SESSION_SKIP})));
+    EXPECT_TRUE(demo.ReadDefaults().contains("SUSkippedVersion = 5.10;")) << demo.ReadDefaults().toStdString();
+    EXPECT_FALSE(Run(server, WHOLE_FEED, Script("automatic", "check")).Says(FOUND));
+}
+
 TEST_F(UpdateScenario, ADeltaIsAllThatIsDownloaded)
 {
     UpdateServer server;

@@ -17,7 +17,7 @@ TEST_F(BundleKeys, FeedAddressIsReadAndTheUserDefaultWinsWhereTheBundleAllowsIt)
     EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://bundle.example/feed.xml")));
     SetTextDefault("SUFeedURL", "https://a.example/defaults.xml");
     EXPECT_EQ(driver.Feed(), QUrl(QStringLiteral("https://a.example/defaults.xml")));
-    SetNumberDefault("SUFeedURL", 7);
+    SetListDefault("SUFeedURL");
     LogCapture log;
     EXPECT_TRUE(driver.Feed().isEmpty());
     EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The setting SUFeedURL is not text and is ignored"));

@@ -59,7 +59,7 @@ TEST_P(EveryCheck, ReturnsAtOnceAndAnswersFromTheEventLoop)
     EXPECT_EQ(driver.Events(), Events{});
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), Joined({"asked", "found 5.1"}, GetParam().afterFound));
-    EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
+    EXPECT_TRUE(WaitFor([] { return IsRecentDateDefault("SULastCheckTime"); }));
 }
 
 TEST_P(EveryCheck, BehindAProbeAsksOnlyWhetherTheFeedHasChanged)
@@ -240,7 +240,7 @@ TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
     EXPECT_EQ(driver.Errors()[0].sentence, "The update server answered with status 500: try again later.");
     EXPECT_EQ(driver.Errors()[0].underlyingDomain, "PelnarHTTPStatusErrorDomain");
     EXPECT_EQ(driver.Errors()[0].underlyingCode, 500);
-    EXPECT_TRUE(IsRecentDateDefault("SULastCheckTime"));
+    EXPECT_TRUE(WaitFor([] { return IsRecentDateDefault("SULastCheckTime"); }));
 }
 
 TEST_P(EveryCheck, MalformedFeedIsAnErrorAndNeverNoUpdate)

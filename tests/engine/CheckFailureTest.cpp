@@ -366,7 +366,7 @@ TEST_F(CheckContract, SkippedVersionOfTheWrongTypeIsIgnoredWithAWarning)
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
     UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
     driver.SetFeed(server.Url());
-    SetNumberDefault("SUSkippedVersion", 7);
+    SetListDefault("SUSkippedVersion");
     {
         LogCapture log;
         driver.Probe();
@@ -391,14 +391,15 @@ TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
     QString const defaults = DefaultsFolder();
     ASSERT_FALSE(defaults.isEmpty());
     // A file where the folder has to be stops root as well.
-    ASSERT_TRUE(QDir(defaults).removeRecursively());
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(defaults).path()));
     QFile inTheWay(defaults);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     LogCapture log;
     driver.Probe();
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
-    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The user default SULastCheckTime could not be saved"));
+    EXPECT_TRUE(WaitFor(
+        [&log] { return HasLog(log, google::GLOG_WARNING, "settings of the update checker could not be saved"); }));
 }
 
 TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
@@ -426,7 +427,7 @@ TEST_F(CheckContract, AutomaticDownloadIsAUserDefault)
     EXPECT_TRUE(driver.DownloadsAutomatically());
     SetTextDefault("SUAutomaticallyUpdate", "NO");
     EXPECT_FALSE(driver.DownloadsAutomatically());
-    SetDateDefault("SUAutomaticallyUpdate");
+    SetListDefault("SUAutomaticallyUpdate");
     LogCapture log;
     EXPECT_FALSE(driver.DownloadsAutomatically());
     EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The setting SUAutomaticallyUpdate is not a boolean and is ignored"));

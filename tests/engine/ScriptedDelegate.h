@@ -136,18 +136,17 @@ private:
 /// Raises an NSException with this reason.
 void RaiseInFoundation(char const* reason);
 
-/// Sets a user default to a value of the given kind, in memory.
+/// Sets a user default to a value of the given kind, on the disk.
 void SetTextDefault(char const* key, char const* value);
-void SetNumberDefault(char const* key, int value);
-void SetDateDefault(char const* key);
-/// Where the process keeps its user defaults; empty when nobody set that.
+void SetListDefault(char const* key);
+/// Where the user defaults are kept.
 QString DefaultsFolder();
-/// Puts \a bytes in the place of the file with the user defaults, as another process does.
-void WriteDefaultsOfAnotherProcess(QByteArray const& bytes);
-/// The same, and makes the process read them anew.
+/// Puts \a bytes in the place of the file with the user defaults.
 void SpoilDefaults(QByteArray const& bytes);
-/// Writes the user defaults to their file, and makes the process read them anew.
-void ReloadDefaults();
+/// Where versions before this one kept them, in a file named after the program.
+QString EarlierDefaultsFolder();
+/// Puts \a bytes in the place of that file.
+void WriteEarlierDefaults(QByteArray const& bytes);
 /// Empty when there is no such default, or it is no text.
 QString TextDefault(char const* key);
 /// True when the default is a date between a minute ago and now.

@@ -6,9 +6,16 @@
 
 #include "Foundation/FoundationText.h"
 #include "Foundation/Retained.h"
+#include "Settings/DefaultsFile.h"
+#include "Settings/UpdateDefaults.h"
 #include "tests/support/DialogDriver.h"
 
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
 #include <QSaveFile>
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <utility>
@@ -183,11 +190,10 @@ struct UpdaterDriver::Impl
 {
     (void)updater;
     NSError* const cause = [[error userInfo] objectForKey:NSUnderlyingErrorKey];
-    impl->errors.push_back({ToUtf8([error domain]), static_cast<int>([error code]),
-                            ToUtf8([error localizedDescription]), ToUtf8([cause domain]),
-                            static_cast<int>([cause code]),
-                            ToUtf8([[cause userInfo] objectForKey:NSLocalizedDescriptionKey]),
-                            ToUtf8([error description])});
+    impl->errors.push_back(
+        {ToUtf8([error domain]), static_cast<int>([error code]), ToUtf8([error localizedDescription]),
+         ToUtf8([cause domain]), static_cast<int>([cause code]),
+         ToUtf8([[cause userInfo] objectForKey:NSLocalizedDescriptionKey]), ToUtf8([error description])});
     impl->Note(_cmd, "aborted " + std::to_string([error code]));
 }
 
@@ -316,33 +322,68 @@ void RaiseInFoundation(char const* reason)
     }
 }
 
+namespace
+{
+
+QString Identifier()
+{
+    @autoreleasepool
+    {
+        return ToQString([[NSBundle mainBundle] bundleIdentifier]);
+    }
+}
+
+Settings::ApplicationFolder OwnDefaults() { return Settings::FolderOf(Settings::BaseFolder::Config, Identifier()); }
+
+void SetDefault(char const* key, Engine::PropertyListValue const& value)
+{
+    EXPECT_TRUE(Settings::ChangeDefaults(OwnDefaults(), {},
+                                         [key, &value](Settings::DefaultsEntries& entries) { entries[key] = value; }));
+}
+
+QVariant DefaultNamed(char const* key)
+{
+    for (Core::SettingKey const& known : Core::SETTING_KEYS)
+    {
+        if (known.name == key)
+        {
+            return Settings::UpdateDefaults(Identifier()).Value(known.setting);
+        }
+    }
+    return {};
+}
+
+void WriteWhole(QString const& path, QByteArray const& bytes)
+{
+    EXPECT_TRUE(QDir().mkpath(QFileInfo(path).path()));
+    QSaveFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    EXPECT_TRUE(file.commit());
+}
+
+} // namespace
+
 void SetTextDefault(char const* key, char const* value)
 {
-    @autoreleasepool
-    {
-        [[NSUserDefaults standardUserDefaults] setObject:ToNSString(QString::fromUtf8(value))
-                                                  forKey:ToNSString(QString::fromUtf8(key))];
-    }
+    SetDefault(key, Settings::EntryFor(QString::fromUtf8(value)));
 }
 
-void SetNumberDefault(char const* key, int value)
+void SetListDefault(char const* key)
 {
-    @autoreleasepool
-    {
-        [[NSUserDefaults standardUserDefaults] setObject:[NSNumber numberWithInt:value]
-                                                  forKey:ToNSString(QString::fromUtf8(key))];
-    }
+    Engine::PropertyListValue list;
+    list.kind = Engine::PropertyListValue::Kind::List;
+    SetDefault(key, list);
 }
 
-void SetDateDefault(char const* key)
+QString DefaultsFolder() { return QFile::decodeName(OwnDefaults().Path().c_str()); }
+
+void SpoilDefaults(QByteArray const& bytes)
 {
-    @autoreleasepool
-    {
-        [[NSUserDefaults standardUserDefaults] setObject:[NSDate date] forKey:ToNSString(QString::fromUtf8(key))];
-    }
+    WriteWhole(DefaultsFolder() + QLatin1Char('/') + QLatin1String(Settings::DEFAULTS_FILE), bytes);
 }
 
-QString DefaultsFolder()
+QString EarlierDefaultsFolder()
 {
     @autoreleasepool
     {
@@ -350,56 +391,29 @@ QString DefaultsFolder()
     }
 }
 
-void WriteDefaultsOfAnotherProcess(QByteArray const& bytes)
+void WriteEarlierDefaults(QByteArray const& bytes)
 {
     @autoreleasepool
     {
         [[NSUserDefaults standardUserDefaults] synchronize];
-        QSaveFile file(DefaultsFolder() + QLatin1Char('/') + ToQString([[NSProcessInfo processInfo] processName]) +
-                   QStringLiteral(".plist"));
-        if (file.open(QIODevice::WriteOnly))
-        {
-            file.write(bytes);
-            file.commit();
-        }
-    }
-}
-
-void SpoilDefaults(QByteArray const& bytes)
-{
-    @autoreleasepool
-    {
-        WriteDefaultsOfAnotherProcess(bytes);
-        [NSUserDefaults resetStandardUserDefaults];
-    }
-}
-
-void ReloadDefaults()
-{
-    @autoreleasepool
-    {
-        [[NSUserDefaults standardUserDefaults] synchronize];
+        WriteWhole(EarlierDefaultsFolder() + QLatin1Char('/') + ToQString([[NSProcessInfo processInfo] processName]) +
+                       QStringLiteral(".plist"),
+                   bytes);
         [NSUserDefaults resetStandardUserDefaults];
     }
 }
 
 QString TextDefault(char const* key)
 {
-    @autoreleasepool
-    {
-        id const value = [[NSUserDefaults standardUserDefaults] objectForKey:ToNSString(QString::fromUtf8(key))];
-        return [value isKindOfClass:[NSString class]] ? ToQString(value) : QString();
-    }
+    QVariant const value = DefaultNamed(key);
+    return value.type() == QVariant::String ? value.toString() : QString();
 }
 
 bool IsRecentDateDefault(char const* key)
 {
-    @autoreleasepool
-    {
-        id const date = [[NSUserDefaults standardUserDefaults] objectForKey:ToNSString(QString::fromUtf8(key))];
-        NSTimeInterval const age = [date isKindOfClass:[NSDate class]] ? -[date timeIntervalSinceNow] : -1;
-        return age >= 0 && age < 60;
-    }
+    QDateTime const time = DefaultNamed(key).toDateTime();
+    qint64 const age = time.isValid() ? time.secsTo(QDateTime::currentDateTimeUtc()) : -1;
+    return age >= 0 && age < 60;
 }
 
 int CompareByStandard(QString const& a, QString const& b)

@@ -37,7 +37,7 @@ protected:
         return driver->Events();
     }
 
-    static QString RecordPath() { return FeedRecordPath(DefaultsFolder(), {}); }
+    static QString RecordPath() { return FeedRecordPath(EarlierDefaultsFolder(), {}); }
 
     /// What the file says of the feed; it may still be on its way to the disk.
     static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
@@ -83,7 +83,7 @@ protected:
         return "{ PelnarFeedRecord = { address = \"" + server.Url().toEncoded() + "\"; " + entries + " }; }";
     }
 
-    void WriteRecord(QByteArray const& entries) { SpoilDefaults(RecordOf(entries)); }
+    void WriteRecord(QByteArray const& entries) { WriteEarlierDefaults(RecordOf(entries)); }
 
     int const threadsBefore = MeasureFootprint().threads;
     QByteArray answer;
@@ -219,12 +219,12 @@ TEST_F(SignedFeedCheck, NeitherAnotherAddressNorAFragmentLowersTheFloor)
 
 TEST_F(SignedFeedCheck, FloorOfTheDefaultsIsTakenOverOnceWhateverItsAddress)
 {
-    SpoilDefaults("{ PelnarFeedRecord = { address = \"https://a.example/\"; serial = <*I8>; }; }");
+    WriteEarlierDefaults("{ PelnarFeedRecord = { address = \"https://a.example/\"; serial = <*I8>; }; }");
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), Events{"aborted 3002"});
     EXPECT_FALSE(KeptRecord()) << "nothing is remembered of a feed that was refused";
     EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
     WaitForSerial(9);
-    SpoilDefaults("{ PelnarFeedRecord = { serial = <*I20>; }; }");
+    WriteEarlierDefaults("{ PelnarFeedRecord = { serial = <*I20>; }; }");
     EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
@@ -245,7 +245,7 @@ TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
          {QByteArray("{ PelnarFeedRecord = 8; }"), QByteArray("{ PelnarFeedRecord = (8); }"),
           QByteArray("no property list"), QByteArray()})
     {
-        SpoilDefaults(defaults);
+        WriteEarlierDefaults(defaults);
         EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"})) << defaults.toStdString();
         WaitForSerial(7);
         WriteFile(defaults);
@@ -270,7 +270,7 @@ TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
 
 TEST_F(SignedFeedCheck, FloorThatNoDiskKeepsHoldsAsLongAsTheProcess)
 {
-    ASSERT_TRUE(QDir().mkpath(DefaultsFolder()));
+    ASSERT_TRUE(QDir().mkpath(EarlierDefaultsFolder()));
     QFile inTheWay(QFileInfo(RecordPath()).path());
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     LogCapture log;

@@ -266,6 +266,12 @@ TEST(CheckProgramOptions, APersonsUserDefaultsAreNotTouched)
     QByteArray const before = PersonalDefaults();
     EXPECT_EQ(Check(Write(folder, Feed::Newer)).status, 0);
     EXPECT_EQ(PersonalDefaults(), before);
+    for (char const* const variable : {"XDG_CONFIG_HOME", "XDG_STATE_HOME"})
+    {
+        QString const own = QString::fromLocal8Bit(qgetenv(variable));
+        ASSERT_FALSE(own.isEmpty());
+        EXPECT_FALSE(QFileInfo::exists(own)) << "the program has one of its own";
+    }
 }
 #endif
 

@@ -218,7 +218,7 @@ class Bundles(unittest.TestCase):
     def test_the_options_are_what_the_engine_reads(self):
         text = (SOURCE / "cmake/bundle/Information.cmake").read_text()
         names = set(text.split("set(PELNAR_BUNDLE_OPTION_NAMES")[1].split(")")[0].split())
-        sources = "".join(path.read_text() for folder in ("Engine", "Installer") for path in (SOURCE / folder).rglob("*")
+        sources = "".join(path.read_text() for folder in ("Engine", "Installer", "common") for path in (SOURCE / folder).rglob("*")
                           if path.suffix in (".mm", ".cpp", ".h"))
         for name in names:
             self.assertIn(f'"{name}"', sources)

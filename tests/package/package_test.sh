@@ -22,6 +22,7 @@ readelf -d "$library/libPelnarUpdateChecker.so" | grep -q 'SONAME.*libPelnarUpda
 umask 022 # Foundation passes over what others may change
 echo "GNUSTEP_USER_DEFAULTS_DIR=$work/Defaults" > "$work/GNUstep.conf"
 export GNUSTEP_CONFIG_FILE="$work/GNUstep.conf" QT_QPA_PLATFORM=offscreen
+export XDG_CONFIG_HOME="$work/config" XDG_STATE_HOME="$work/state" XDG_CACHE_HOME="$work/cache"
 
 cmake -S "$here/host" -B "$work/by_cmake" -G Ninja -DCMAKE_CXX_COMPILER="$compiler" -DCMAKE_CXX_FLAGS="$flags" \
     -DCMAKE_PREFIX_PATH="$work/installed" >/dev/null
@@ -37,6 +38,6 @@ found=$("$work/by_pkg_config" "$here/feed.xml")
 [ "$found" = "found 1.1 for 1.0" ] || { echo "pkg-config: the host said '$found'"; exit 1; }
 
 # What the library shows to the linker is its interface, in our namespaces, and nothing of its private sources.
-shown=$(nm -D --defined-only -C "$library/libPelnarUpdateChecker.so" | grep -E 'Pelnar::(App::Session|Foundation|details)::' || true)
+shown=$(nm -D --defined-only -C "$library/libPelnarUpdateChecker.so" | grep -E 'Pelnar::(App::Session|Foundation|Settings|details)::' || true)
 [ -z "$shown" ] || { echo "private symbols are exported:"; echo "$shown"; exit 1; }
 echo "installed package: found by find_package and by pkg-config"

@@ -17,9 +17,10 @@ LAYERS = {
     "HostFramework": {"common"},
     "HostFramework/Reference": {"Foundation", "HostFramework", "common"},
     "Foundation": set(),
+    "Settings": {"Engine/core", "Foundation", "common"},
     "Engine/include": set(),
     "Engine/core": set(),
-    "Engine/objc": {"Engine/core", "Engine/include", "Engine/ui", "Foundation"},
+    "Engine/objc": {"Engine/core", "Engine/include", "Engine/ui", "Foundation", "Settings", "common"},
     "Engine/ui": {"Engine/core"},
     "Installer": {"Engine/core"},
     "Publisher": {
@@ -39,6 +40,7 @@ LAYERS = {
         "App/UpdateChecker/SparkleImpl/UpdaterSparkle",
         "Foundation",
         "HostFramework",
+        "Settings",
         "common",
     },
 }
@@ -68,7 +70,7 @@ SESSION_DECISIONS = {
     )
 }
 FRAMEWORK_READERS = (SESSION, "Engine/")
-PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/")
+PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/", "Settings/")
 
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+["<]([^">]+)[">]')
 

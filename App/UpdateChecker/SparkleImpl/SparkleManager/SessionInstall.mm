@@ -8,6 +8,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "Foundation/FoundationText.h"
+#include "Settings/UpdateDefaults.h"
 
 namespace Pelnar::App
 {
@@ -39,11 +40,17 @@ void RecordFailure(std::function<void()> const& call)
     }
 }
 
+/// In the shared defaults, where the framework and the host look, and in the update checker's own, which on Linux stand
+/// elsewhere.
 void StoreSkippedVersion(NSString* version)
 {
-    NSUserDefaults* const defaults = [NSUserDefaults standardUserDefaults];
-    [defaults setObject:version forKey:@"SUSkippedVersion"];
-    [defaults synchronize];
+    Core::SettingKey const& key = Core::KeyOf(Core::Setting::SkippedVersion);
+    NSUserDefaults* const shared = [NSUserDefaults standardUserDefaults];
+    [shared setObject:version forKey:[NSString stringWithUTF8String:key.name.data()]];
+    [shared synchronize];
+    Settings::UpdateDefaults own(Foundation::ToQString([[NSBundle mainBundle] bundleIdentifier]));
+    own.Remember({{key.setting, Foundation::ToQString(version)}});
+    (void)own.Save(); // the log says what failed
 }
 
 } // namespace
@@ -94,7 +101,8 @@ bool SparkleManager::Impl::IsInstallable() const
 
 QString SparkleManager::Impl::InstalledApplicationName() const
 {
-    id const name = [[[NSBundle mainBundle] infoDictionary] objectForKey:@"SUBundleName"];
+    char const* const key = Core::KeyOf(Core::Setting::BundleName).name.data();
+    id const name = [[[NSBundle mainBundle] infoDictionary] objectForKey:[NSString stringWithUTF8String:key]];
     QString const bundleName = [name isKindOfClass:[NSString class]] ? Foundation::ToQString(name) : QString();
     return bundleName.isEmpty() ? context->applicationName : bundleName;
 }

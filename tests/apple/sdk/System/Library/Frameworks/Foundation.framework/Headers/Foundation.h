@@ -121,6 +121,12 @@ __attribute__((objc_root_class))
 + (NSNumber*)numberWithBool:(BOOL)value;
 + (NSNumber*)numberWithLongLong:(long long)value;
 @property (readonly) BOOL boolValue;
+@property (readonly) long long longLongValue;
+@end
+
+@interface NSDate : NSObject <NSCopying>
++ (instancetype)dateWithTimeIntervalSince1970:(NSTimeInterval)seconds;
+@property (readonly) NSTimeInterval timeIntervalSince1970;
 @end
 
 @interface NSEnumerator<ObjectType> : NSObject <NSFastEnumeration>

@@ -5,6 +5,7 @@ Usage: bundle_test.py BUILD_FOLDER CXX_COMPILER
 """
 import os
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -222,6 +223,18 @@ class Bundles(unittest.TestCase):
                           if path.suffix in (".mm", ".cpp", ".h"))
         for name in names:
             self.assertIn(f'"{name}"', sources)
+
+    def test_the_guide_shows_the_baseline(self):
+        rows = [line.split() for line in (SOURCE / "cmake/bundle/Baseline.txt").read_text().splitlines()
+                if line and not line.startswith("#")]
+        guide = (SOURCE / "docs/guide/deployment.md").read_text()
+        shown = re.findall(r"^\| (?:`(lib\S+|ld-\S+)`|certificates of authorities) \| `(\S+)` \| (.*) \|$", guide, re.MULTILINE)
+        self.assertEqual(shown, [("" if library == "-" else library, package,
+                                  "bundles with `QT OUTSIDE`" if group == "qt" else "every bundle")
+                                 for group, library, package in rows])
+        commands = guide.split("```sh\napt-get install ")[1].split("```")[0]
+        self.assertEqual(set(re.findall(r"\b[a-z][a-z0-9+.-]*[a-z0-9+]", re.sub("#.*|apt-get install", "", commands))),
+                         {package for _, _, package in rows})
 
 
 if __name__ == "__main__":

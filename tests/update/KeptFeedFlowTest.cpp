@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPointer>
 
 namespace
 {
@@ -253,6 +254,51 @@ TEST_F(KeptFeedFlow, SmallerLimitThanTheKeptFeedHoldsAtOnce)
     settings.check.fetchLimits.maxBodyBytes = body.size() - 1;
     EXPECT_EQ(Check().front(), "aborted 1002");
     EXPECT_EQ(feed.unchanged, 0);
+}
+
+/// A disk that hangs: it answers when the test says so, if it does.
+class HangingStore : public IFeedStore
+{
+public:
+    void Ask(qint64, QObject* receiver, std::function<void(std::optional<KeptFeed> const&)> answer) override
+    {
+        m_receiver = receiver;
+        m_answer = std::move(answer);
+    }
+    void Keep(std::optional<KeptFeed> feed) override { kept = std::move(feed); }
+    void Answer(KeptFeed const& feed)
+    {
+        if (m_receiver)
+        {
+            m_answer(feed);
+        }
+    }
+
+    std::optional<KeptFeed> kept;
+
+private:
+    QPointer<QObject> m_receiver;
+    std::function<void(std::optional<KeptFeed> const&)> m_answer;
+};
+
+TEST_F(KeptFeedFlow, DiskThatHangsHoldsTheCheckUpForAMomentOnly)
+{
+    HangingStore hanging;
+    settings.check.feedStore = &hanging;
+    EXPECT_EQ(Check(), found);
+    ASSERT_TRUE(hanging.kept);
+    EXPECT_EQ(feed.wholes, 1);
+    // Its answer comes while the feed does.
+    KeptFeed const kept = *hanging.kept;
+    LoopbackServer late(
+        [&](QSslSocket& socket, QByteArray const& request, int)
+        {
+            hanging.Answer(kept);
+            feed.Answer(socket, request);
+        });
+    settings.check.feedUrl = late.Url();
+    EXPECT_EQ(Check(), found);
+    EXPECT_EQ(late.Requests().size(), 1u) << "one feed is fetched for one check";
 }
 
 TEST_F(KeptFeedFlow, CheckThatIsGivenUpHearsNoMore)

@@ -2,14 +2,20 @@
 
 #include "Engine/core/check/DelegateCall.h"
 
+#include <QTimer>
+
 #include <glog/logging.h>
 
+#include <chrono>
 #include <utility>
 
 namespace Pelnar::Engine
 {
 namespace
 {
+
+/// A disk that hangs costs a check no more.
+constexpr std::chrono::seconds LONGEST_WAIT_FOR_STORE{3};
 
 char const* NameOf(OfferVerdict verdict)
 {
@@ -60,12 +66,19 @@ void CheckRun::Start()
         return;
     }
     m_settings.feedStore->Ask(m_settings.fetchLimits.maxBodyBytes, this,
-                              [this](std::optional<KeptFeed> const& kept)
-                              {
-                                  m_hasKeptFeed = kept.has_value();
-                                  bool const isFresh = kept && IsFresh(*kept, m_now().toSecsSinceEpoch());
-                                  Fetch(isFresh ? kept : std::nullopt);
-                              });
+                              [this](std::optional<KeptFeed> const& kept) { FetchOnce(kept); });
+    QTimer::singleShot(LONGEST_WAIT_FOR_STORE, this, [this] { FetchOnce(std::nullopt); });
+}
+
+void CheckRun::FetchOnce(std::optional<KeptFeed> const& kept)
+{
+    if (std::exchange(m_hasBegun, true))
+    {
+        return;
+    }
+    m_hasKeptFeed = kept.has_value();
+    bool const isFresh = kept && IsFresh(*kept, m_now().toSecsSinceEpoch());
+    Fetch(isFresh ? kept : std::nullopt);
 }
 
 void CheckRun::Fetch(std::optional<KeptFeed> kept)

@@ -105,6 +105,8 @@ public:
     [[nodiscard]] bool HasPutOff() const { return m_hasPutOff; }
 
 private:
+    /// The first of two calls begins: by the store's answer, or without it.
+    void FetchOnce(std::optional<KeptFeed> const& kept);
     /// \a kept need not be sent again, if its server has no other feed by now.
     void Fetch(std::optional<KeptFeed> kept);
     void TakeFeed(FetchOutcome const& outcome);
@@ -123,6 +125,7 @@ private:
     ICheckHost& m_host;
     std::function<QDateTime()> m_now;
     std::unique_ptr<FeedFetcher> m_fetcher;
+    bool m_hasBegun = false;
     bool m_hasKeptFeed = false; ///< from an earlier check
     AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;

@@ -22,17 +22,23 @@ void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::
     std::unique_lock lock(m_mutex);
     std::optional<Wish> const wish = m_wish;
     lock.unlock();
-    if (wish)
+    // A disk that hangs gets no second reader.
+    if (wish || m_isReading)
     {
         QMetaObject::invokeMethod(
-            this, [tell, feed = wish->feed] { tell(feed); }, Qt::QueuedConnection);
+            this, [tell, feed = wish ? wish->feed : std::nullopt] { tell(feed); }, Qt::QueuedConnection);
         return;
     }
+    m_isReading = true;
     m_chores.Run(
         [this, maxBytes, tell]
         {
-            QMetaObject::invokeMethod(
-                this, [tell, feed = ReadKeptFeedFile(m_folder, maxBytes)] { tell(feed); }, Qt::QueuedConnection);
+            auto const take = [this, tell, feed = ReadKeptFeedFile(m_folder, maxBytes)]
+            {
+                m_isReading = false;
+                tell(feed);
+            };
+            QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
         });
 }
 

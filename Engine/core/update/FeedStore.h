@@ -33,6 +33,7 @@ private:
     void WriteWishes();
 
     FeedFolder const m_folder;
+    bool m_isReading = false;
     std::mutex m_mutex;
     std::optional<Wish> m_wish; ///< until it is on the disk; for ever when it cannot be written
     bool m_isWishNew = false;   ///< nobody has begun to write it

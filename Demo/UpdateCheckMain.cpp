@@ -1,6 +1,6 @@
 // UpdateCheckMain.cpp: pelnar-update-check, a host without windows that runs one real check.
 // It needs no display and touches no settings of the person who runs it. Its gateway grants the update dialog at once;
-// whatever the dialog would open belongs to an event loop that has ended by then.
+// what the dialog would open belongs to an event loop that has ended by then.
 
 #include "Demo/CheckFailureLog.h"
 #include "Demo/CheckRun.h"

@@ -50,7 +50,7 @@ void RefreshFoundationsEnvironment()
 
 IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
 {
-    // Foundation keeps user defaults in the home folder of the password database, whatever HOME says; only this
+    // Foundation keeps user defaults in the home folder of the password database, no matter what HOME says; only this
     // variable moves them, and it must be set before Foundation is first used.
     QByteArray const folder = QFile::encodeName(m_impl->folder.path());
     QFile config(m_impl->folder.filePath(QStringLiteral("GNUstep.conf")));
@@ -59,7 +59,7 @@ IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
         qFatal("cannot write %s", qPrintable(config.fileName()));
     }
     config.close();
-    // Foundation passes over one that others may change, whatever the mask for new files is.
+    // Foundation passes over one that others may change, no matter what the mask for new files is.
     config.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
     // Where the update checker keeps its own, and what it knows of feeds.

@@ -17,8 +17,8 @@ namespace Pelnar::Util
 {
 
 /// A QMessageBox, so that its operations (setInformativeText, addButton, clickedButton, setObjectName, close) apply.
-/// `text` is shown as plain text, whatever it contains. The informative text may carry markup: callers escape what they
-/// insert into it.
+/// `text` is shown as plain text, no matter what it contains. The informative text may carry markup: callers escape
+/// what they insert into it.
 class PELNAR_EXPORT AlertBox : public QMessageBox
 {
     Q_OBJECT

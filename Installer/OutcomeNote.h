@@ -1,6 +1,6 @@
-// OutcomeNote.h: how an installation ends, written where the next start of the application reads it: whoever asked may
-// be gone by then. Nothing is kept for a job that names no record.
-// Thread: the process' only one. Ownership: the job and the folder's descriptor stay the caller's, which outlive it.
+// OutcomeNote.h: how an installation ends, written where the next start of the application reads it: anyone who asked
+// may be gone by then. Nothing is kept for a job that names no record. Thread: the process' only one. Ownership: the
+// job and the folder's descriptor stay the caller's, which outlive it.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"

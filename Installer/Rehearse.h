@@ -1,5 +1,5 @@
 // Rehearse.h: does beside an installed bundle what an update will do there, with folders that are made for it, so that
-// whatever this system refuses is known before anything is downloaded.
+// what this system refuses is known before anything is downloaded.
 // Thread: the process' only one. Ownership: descriptors stay the caller's.
 #pragma once
 

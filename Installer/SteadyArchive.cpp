@@ -81,7 +81,7 @@ SteadyArchive::Lease::Lease(int descriptor)
 
 SteadyArchive::Lease::~Lease()
 {
-    // It would outlive the process, for the host has the same opening of the file, and hold up whoever writes next.
+    // It would outlive the process, for the host has the same opening of the file, and hold up anyone who writes next.
     ::fcntl(archiveFd, F_SETLEASE, F_UNLCK);
 }
 

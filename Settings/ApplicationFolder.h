@@ -23,7 +23,7 @@ enum class BaseFolder
 /// when the person has no home.
 std::string BaseFolderPath(BaseFolder base);
 
-/// The name of the folder of the application \a bundleIdentifier: one name that leads nowhere else, whatever the
+/// The name of the folder of the application \a bundleIdentifier: one name that leads nowhere else, no matter what the
 /// identifier says. Without an identifier it is made of the name of the program's file.
 std::string ApplicationFolderName(QString const& bundleIdentifier);
 

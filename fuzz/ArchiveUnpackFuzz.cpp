@@ -1,5 +1,5 @@
-// ArchiveUnpackFuzz.cpp: any bytes as an archive, unpacked for real into a folder in memory: whatever the verdict,
-// nothing stands outside that folder, and an archive that is accepted gives exactly the tree that was reported. The
+// ArchiveUnpackFuzz.cpp: any bytes as an archive, unpacked for real into a folder in memory: no matter what the verdict
+// is, nothing stands outside that folder, and an archive that is accepted gives exactly the tree that was reported. The
 // first byte says whether the rest is an archive as it is or a tar that is put under gzip first, so that mutations
 // reach the entries.
 

@@ -42,11 +42,11 @@
         <translation>أنت تستخدم أحدث إصدار.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>لا يذكر هذا التطبيق مكان نشر تحديثاته. أعد تثبيته من موقع ناشره.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>عنوان موجز التحديثات غير صالح. أعد تثبيت التطبيق.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>شهادة خادم التحديثات غير مقبولة. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>تعذّر إنشاء اتصال آمن بخادم التحديثات لأنه لا يقدّم اتصالًا قويًا بما يكفي. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>وصلت صفحة ويب بدلًا من موجز التحديثات. سجّل الدخول إلى هذه الشبكة إذا طلبت ذلك، ثم أعد المحاولة.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>اختار التطبيق تحديثًا غير موجود في الموجز. أعد تثبيت التطبيق.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>مجلد التطبيق قرص مستقل، فلا يمكن استبداله. انسخه إلى مجلد آخر وشغّل التطبيق من هناك.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>التطبيق محمي من أي تغيير. اطلب ممن حماه إزالة سمة الملف «immutable» أو «append only».</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>لا توجد مساحة للتحديث: يحتاج إلى %1، والمساحة الحرة %2. أخلِ مساحة ثم أعد المحاولة.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>تحديثات هذا التطبيق معطّلة. اسأل من يدير هذا الحاسوب.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>أُلغي التحديث. ابحث عن تحديثات للبدء من جديد.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>لا يذكر هذا التطبيق معرّفه وإصداره، فلا يمكن مطابقة أي تحديث معه. أعد تثبيته من موقع ناشره.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>انتهى برنامج تثبيت التحديثات بصورة غير متوقعة. أعد المحاولة، وأعد تثبيت التطبيق إذا استمرت المشكلة.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>فشل البحث عن تحديثات. أعد المحاولة لاحقًا.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>يذكر الموجز عنوانًا للتحديث ليس عنوانًا. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>تعذّر تثبيت التحديث. أعد المحاولة لاحقًا.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>لم يفهم برنامج تثبيت التحديثات ما طُلب منه. أعد تثبيت التطبيق.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>لم يستطع برنامج تثبيت التحديثات استخدام الملفات التي سُلّمت إليه. أعد المحاولة.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>برنامج تثبيت التحديثات مفقود أو يمكن لآخرين تغييره. أعد تثبيت التطبيق.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>تعذّر فك حزمة التحديث في عملية معزولة كما ينبغي. أخبر الناشر ما هو هذا النظام.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>ليس لهذا التطبيق مفتاح عام في SUPublicEDKey، فلا يمكن إثبات أصالة أي تحديث. أعد تثبيته من موقع ناشره.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>المفتاح العام لهذا التطبيق في SUPublicEDKey تالف، فلا يمكن إثبات أصالة أي تحديث. أعد تثبيته من موقع ناشره.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>لم يوقّع ناشر هذا التطبيق التحديث، أو تلف في الطريق، ولذلك رُفض. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>لا يمكن التحقق من التواقيع على هذا الحاسوب. أعد تثبيت مكتبة libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>التحديث كبير جدًا بعد فك حزمته. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>تغيّر التطبيق المثبّت، فلا يلائمه التحديث الصغير. أعد تثبيت التطبيق.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>لا توجد مساحة كافية على القرص للتحديث. أخلِ مساحة ثم أعد المحاولة.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>لا يُسمح لهذا المستخدم بتغيير المجلد الذي يحتوي على التطبيق. اسأل من ثبّته.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>تغيّر التحديث المجهّز قبل تثبيته فأُسقط. أعد المحاولة.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>التحديث المجهّز والتطبيق على قرصين مختلفين. أعد المحاولة، وأعد تثبيت التطبيق إذا استمرت المشكلة.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>أُعيدت كتابة نهايات أسطر موجز التحديثات، فلم يعد توقيعه مطابقًا. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>موجز التحديثات موقّع بطريقة لا يعرفها هذا الإصدار. أعد تثبيت التطبيق من موقع ناشره.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>Sie verwenden die neueste Version.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Diese Anwendung gibt nicht an, wo ihre Updates veröffentlicht werden. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>Die Adresse des Update-Feeds ist keine gültige Adresse. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Das Zertifikat des Update-Servers ist nicht annehmbar. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Es kam keine sichere Verbindung zum Update-Server zustande, weil er keine ausreichend starke anbietet. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Anstelle des Update-Feeds kam eine Webseite. Melden Sie sich in diesem Netzwerk an, wenn es das verlangt, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>Die Anwendung hat ein Update gewählt, das nicht im Feed steht. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Der Ordner der Anwendung ist ein eigener Datenträger und kann deshalb nicht ersetzt werden. Kopieren Sie ihn in einen anderen Ordner, und starten Sie die Anwendung dort.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>Die Anwendung ist gegen jede Änderung geschützt. Bitten Sie die Person, die sie geschützt hat, das Dateiattribut „immutable“ oder „append only“ zu entfernen.</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Für das Update ist kein Platz: Es braucht %1, und %2 sind frei. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Updates dieser Anwendung sind abgeschaltet. Wenden Sie sich an die Person, die diesen Computer verwaltet.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>Die Aktualisierung wurde abgebrochen. Suchen Sie nach Updates, um neu zu beginnen.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Diese Anwendung gibt ihre Kennung und Version nicht an, daher kann ihr kein Update zugeordnet werden. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Das Programm, das Updates installiert, wurde unerwartet beendet. Versuchen Sie es noch einmal, und installieren Sie die Anwendung neu, wenn es dabei bleibt.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>Die Suche nach Updates ist fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>Der Feed nennt als Adresse des Updates etwas, das keine Adresse ist. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>Das Update konnte nicht installiert werden. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Das Programm, das Updates installiert, hat seinen Auftrag nicht verstanden. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Das Programm, das Updates installiert, konnte die übergebenen Dateien nicht verwenden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Das Programm, das Updates installiert, fehlt oder könnte von anderen verändert werden. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>Das Update konnte nicht, wie es sein muss, in einem abgeschotteten Prozess entpackt werden. Teilen Sie dem Herausgeber mit, welches System dies ist.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Diese Anwendung hat keinen öffentlichen Schlüssel unter SUPublicEDKey, daher lässt sich die Echtheit von Updates nicht beweisen. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Der öffentliche Schlüssel dieser Anwendung unter SUPublicEDKey ist beschädigt, daher lässt sich die Echtheit von Updates nicht beweisen. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Das Update wurde nicht vom Herausgeber dieser Anwendung signiert oder unterwegs beschädigt und wird abgelehnt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Auf diesem Computer können keine Signaturen überprüft werden. Installieren Sie die libsodium-Bibliothek neu.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>Das Update ist entpackt zu groß. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>Die installierte Anwendung wurde verändert, sodass das kleine Update nicht zu ihr passt. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Auf dem Datenträger ist nicht genug Platz für das Update. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>Der Ordner, in dem die Anwendung liegt, darf von Ihnen nicht geändert werden. Wenden Sie sich an die Person, die sie installiert hat.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>Das vorbereitete Update wurde vor der Installation verändert und deshalb verworfen. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>Das vorbereitete Update und die Anwendung liegen auf verschiedenen Datenträgern. Versuchen Sie es noch einmal, und installieren Sie die Anwendung neu, wenn es dabei bleibt.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Die Zeilenenden des Update-Feeds wurden umgeschrieben, sodass seine Signatur nicht passt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>Der Update-Feed ist auf eine Weise signiert, die diese Version nicht kennt. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>Está usando la versión más reciente.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Esta aplicación no indica dónde se publican sus actualizaciones: vuelva a instalarla desde el sitio de su editor.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>La dirección del canal de actualizaciones no es una dirección válida: vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>El certificado del servidor de actualizaciones no es aceptable: pruebe con otra red e informe al editor si el problema continúa.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>No se pudo establecer una conexión segura con el servidor de actualizaciones, ya que no ofrece ninguna lo bastante fuerte: informe al editor.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Llegó una página web en lugar del canal de actualizaciones: inicie sesión en esta red si lo pide e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>La aplicación eligió una actualización que no está en el canal: vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>La carpeta de la aplicación es un disco independiente, así que no se puede sustituir: cópiela a otra carpeta y abra la aplicación allí.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>La aplicación está protegida contra cualquier cambio: pida a quien la protegió que quite el atributo de archivo «immutable» o «append only».</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>No hay espacio para la actualización: necesita %1 y hay %2 libres. Libere espacio e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Las actualizaciones de esta aplicación están desactivadas: consulte a quien administra este equipo.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>La actualización se canceló: busque actualizaciones para empezar de nuevo.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Esta aplicación no indica su identificador ni su versión, así que no se le puede asociar ninguna actualización: vuelva a instalarla desde el sitio de su editor.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>El programa que instala las actualizaciones terminó de forma inesperada: inténtelo de nuevo y, si el problema continúa, vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>La búsqueda de actualizaciones falló: inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>El canal indica para la actualización una dirección que no lo es: informe al editor.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>No se pudo instalar la actualización: inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>El programa que instala las actualizaciones no entendió lo que se le pidió: vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>El programa que instala las actualizaciones no pudo usar los archivos que recibió: inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>El programa que instala las actualizaciones falta o podría ser modificado por otros: vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>La actualización no se pudo desempaquetar en un proceso aislado, como es necesario: informe al editor de qué sistema es este.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Esta aplicación no tiene clave pública en SUPublicEDKey, así que no se puede demostrar que una actualización sea auténtica: vuelva a instalarla desde el sitio de su editor.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>La clave pública de esta aplicación en SUPublicEDKey está dañada, así que no se puede demostrar que una actualización sea auténtica: vuelva a instalarla desde el sitio de su editor.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>La actualización no fue firmada por el editor de esta aplicación o se dañó por el camino, y se rechaza: pruebe con otra red e informe al editor si el problema continúa.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>En este equipo no se pueden verificar firmas: vuelva a instalar su biblioteca libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>La actualización es demasiado grande una vez desempaquetada: informe al editor.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>La aplicación instalada fue modificada, así que la actualización pequeña no encaja con ella: vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>No hay suficiente espacio en el disco para la actualización: libere espacio e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>Este usuario no puede cambiar la carpeta que contiene la aplicación: consulte a quien la instaló.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>La actualización preparada se modificó antes de poder instalarse y se descartó: inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>La actualización preparada y la aplicación están en discos distintos: inténtelo de nuevo y, si el problema continúa, vuelva a instalar la aplicación.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Se reescribieron los finales de línea del canal de actualizaciones, así que su firma no coincide: informe al editor.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>El canal de actualizaciones está firmado de una forma que esta versión no conoce: vuelva a instalar la aplicación desde el sitio de su editor.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>Vous utilisez la version la plus récente.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Cette application n’indique pas où ses mises à jour sont publiées&#xa0;: réinstallez-la depuis le site de son éditeur.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>L’adresse du flux de mises à jour n’est pas une adresse valide&#xa0;: réinstallez l’application.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Le certificat du serveur de mises à jour n’est pas acceptable&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Aucune connexion sécurisée au serveur de mises à jour n’a pu être établie, car il n’en propose pas d’assez forte&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Une page web est arrivée à la place du flux de mises à jour&#xa0;: connectez-vous à ce réseau s’il le demande et réessayez.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>L’application a choisi une mise à jour qui n’est pas dans le flux&#xa0;: réinstallez l’application.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Le dossier de l’application est un disque à part entière et ne peut donc pas être remplacé&#xa0;: copiez-le dans un autre dossier et ouvrez l’application à cet endroit.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>L’application est protégée contre toute modification&#xa0;: demandez à la personne qui l’a protégée de retirer l’attribut de fichier «&#xa0;immutable&#xa0;» ou «&#xa0;append only&#xa0;».</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Il n’y a pas de place pour la mise à jour&#xa0;: elle a besoin de %1, et %2 sont libres. Libérez de l’espace et réessayez.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Les mises à jour de cette application sont désactivées&#xa0;: adressez-vous à la personne qui gère cet ordinateur.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>La mise à jour a été annulée&#xa0;: recherchez les mises à jour pour recommencer.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Cette application n’indique ni son identifiant ni sa version, aucune mise à jour ne peut donc lui être associée&#xa0;: réinstallez-la depuis le site de son éditeur.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Le programme qui installe les mises à jour s’est arrêté de façon inattendue&#xa0;: réessayez et, si le problème persiste, réinstallez l’application.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>La recherche de mises à jour a échoué&#xa0;: réessayez plus tard.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>Le flux indique pour la mise à jour une adresse qui n’en est pas une&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>La mise à jour n’a pas pu être installée&#xa0;: réessayez plus tard.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Le programme qui installe les mises à jour n’a pas compris ce qui lui était demandé&#xa0;: réinstallez l’application.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Le programme qui installe les mises à jour n’a pas pu utiliser les fichiers qui lui ont été remis&#xa0;: réessayez.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Le programme qui installe les mises à jour est absent ou pourrait être modifié par d’autres&#xa0;: réinstallez l’application.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>La mise à jour n’a pas pu être décompressée dans un processus confiné, comme il le faut&#xa0;: indiquez à l’éditeur de quel système il s’agit.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Cette application n’a pas de clé publique sous SUPublicEDKey, aucune mise à jour ne peut donc être authentifiée&#xa0;: réinstallez-la depuis le site de son éditeur.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>La clé publique de cette application sous SUPublicEDKey est endommagée, aucune mise à jour ne peut donc être authentifiée&#xa0;: réinstallez-la depuis le site de son éditeur.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>La mise à jour n’a pas été signée par l’éditeur de cette application, ou a été endommagée en chemin, et est refusée&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Les signatures ne peuvent pas être vérifiées sur cet ordinateur&#xa0;: réinstallez sa bibliothèque libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>La mise à jour est trop volumineuse une fois décompressée&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>L’application installée a été modifiée, la petite mise à jour ne lui convient donc pas&#xa0;: réinstallez l’application.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Il n’y a pas assez d’espace sur le disque pour la mise à jour&#xa0;: libérez-en et réessayez.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>Le dossier qui contient l’application ne peut pas être modifié par cet utilisateur&#xa0;: adressez-vous à la personne qui l’a installée.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>La mise à jour préparée a été modifiée avant d’être installée, et a été abandonnée&#xa0;: réessayez.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>La mise à jour préparée et l’application sont sur des disques différents&#xa0;: réessayez et, si le problème persiste, réinstallez l’application.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Les fins de ligne du flux de mises à jour ont été réécrites, sa signature ne correspond donc plus&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>Le flux de mises à jour est signé d’une façon que cette version ne connaît pas&#xa0;: réinstallez l’application depuis le site de son éditeur.</translation>
     </message>
     <message>

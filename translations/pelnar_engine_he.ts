@@ -42,11 +42,11 @@
         <translation>מותקנת אצלך הגרסה החדשה ביותר.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>היישום אינו מציין היכן מתפרסמים העדכונים שלו. יש להתקין אותו מחדש מאתר היצרן.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>הכתובת של ערוץ העדכונים אינה כתובת תקינה. יש להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>אישור האבטחה של שרת העדכונים אינו קביל. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>לא נוצר חיבור מאובטח לשרת העדכונים, כי הוא אינו מציע חיבור חזק דיו. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>במקום ערוץ העדכונים הגיע דף אינטרנט. יש להתחבר לרשת הזאת אם היא דורשת זאת, ולנסות שוב.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>היישום בחר עדכון שאינו נמצא בערוץ. יש להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>תיקיית היישום היא כונן בפני עצמו, ולכן אי אפשר להחליף אותה. יש להעתיק אותה לתיקייה אחרת ולהפעיל את היישום משם.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>היישום מוגן מפני כל שינוי. יש לבקש ממי שהגן עליו להסיר את מאפיין הקובץ &quot;immutable&quot; או &quot;append only&quot;.</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>אין מקום לעדכון: דרושים %1, ופנויים %2. יש לפנות מקום ולנסות שוב.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>העדכונים של היישום הזה כבויים. יש לפנות למי שמנהל את המחשב הזה.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>העדכון בוטל. כדי להתחיל מחדש יש לבדוק אם יש עדכונים.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>היישום אינו מציין את המזהה ואת הגרסה שלו, ולכן אי אפשר להתאים לו עדכון. יש להתקין אותו מחדש מאתר היצרן.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>התוכנית שמתקינה עדכונים הסתיימה באופן בלתי צפוי. יש לנסות שוב, ואם הבעיה נמשכת להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>הבדיקה לאיתור עדכונים נכשלה. יש לנסות שוב מאוחר יותר.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>הערוץ מציין כתובת עדכון שאינה כתובת. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>לא ניתן היה להתקין את העדכון. יש לנסות שוב מאוחר יותר.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>התוכנית שמתקינה עדכונים לא הבינה מה התבקשה לעשות. יש להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>התוכנית שמתקינה עדכונים לא הצליחה להשתמש בקבצים שקיבלה. יש לנסות שוב.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>התוכנית שמתקינה עדכונים חסרה או שאחרים עלולים לשנות אותה. יש להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>לא ניתן היה לפרוס את העדכון בתהליך מבודד, כנדרש. יש להודיע ליצרן התוכנה מהי המערכת.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>ליישום הזה אין מפתח ציבורי תחת SUPublicEDKey, ולכן אי אפשר להוכיח שעדכון כלשהו מקורי. יש להתקין אותו מחדש מאתר היצרן.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>המפתח הציבורי של היישום הזה תחת SUPublicEDKey פגום, ולכן אי אפשר להוכיח שעדכון כלשהו מקורי. יש להתקין אותו מחדש מאתר היצרן.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>העדכון לא נחתם על ידי יצרן היישום, או שניזוק בדרך, ולכן נדחה. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>אי אפשר לאמת חתימות במחשב הזה. יש להתקין מחדש את ספריית libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>העדכון גדול מדי לאחר הפריסה. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>היישום המותקן השתנה, ולכן העדכון הקטן אינו מתאים לו. יש להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>אין די מקום בכונן לעדכון. יש לפנות מקום ולנסות שוב.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>המשתמש הזה אינו רשאי לשנות את התיקייה שבה נמצא היישום. יש לפנות למי שהתקין אותו.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>העדכון שהוכן השתנה לפני ההתקנה ולכן בוטל. יש לנסות שוב.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>העדכון שהוכן והיישום נמצאים בכוננים שונים. יש לנסות שוב, ואם הבעיה נמשכת להתקין את היישום מחדש.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>סופי השורות של ערוץ העדכונים שוכתבו, ולכן חתימתו אינה תואמת. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>ערוץ העדכונים חתום בדרך שהגרסה הזאת אינה מכירה. יש להתקין את היישום מחדש מאתר היצרן.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>È in uso la versione più recente.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Questa applicazione non indica dove vengono pubblicati i suoi aggiornamenti: reinstallarla dal sito del produttore.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>L’indirizzo del feed degli aggiornamenti non è un indirizzo valido: reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Il certificato del server degli aggiornamenti non è accettabile: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Non è stato possibile stabilire una connessione sicura con il server degli aggiornamenti, perché non ne offre una abbastanza robusta: informare il produttore.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Al posto del feed degli aggiornamenti è arrivata una pagina web: accedere a questa rete, se lo richiede, e riprovare.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>L’applicazione ha scelto un aggiornamento che non è nel feed: reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>La cartella dell’applicazione è un disco a sé, quindi non può essere sostituita: copiarla in un’altra cartella e aprire l’applicazione da lì.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>L’applicazione è protetta da ogni modifica: chiedere a chi l’ha protetta di rimuovere l’attributo del file «immutable» o «append only».</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Non c’è spazio per l’aggiornamento: richiede %1 e sono liberi %2. Liberare spazio e riprovare.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Gli aggiornamenti di questa applicazione sono disattivati: rivolgersi a chi gestisce questo computer.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>L’aggiornamento è stato annullato: cercare gli aggiornamenti per ricominciare.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Questa applicazione non indica il proprio identificatore e la propria versione, quindi nessun aggiornamento può esserle associato: reinstallarla dal sito del produttore.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Il programma che installa gli aggiornamenti si è chiuso inaspettatamente: riprovare e, se il problema persiste, reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>La ricerca di aggiornamenti non è riuscita: riprovare più tardi.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>Il feed indica per l’aggiornamento un indirizzo che non è tale: informare il produttore.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>Non è stato possibile installare l’aggiornamento: riprovare più tardi.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Il programma che installa gli aggiornamenti non ha capito che cosa gli era richiesto: reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Il programma che installa gli aggiornamenti non ha potuto usare i file ricevuti: riprovare.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Il programma che installa gli aggiornamenti manca o potrebbe essere modificato da altri: reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>Non è stato possibile estrarre l’aggiornamento in un processo isolato, come è necessario: comunicare al produttore qual è questo sistema.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Questa applicazione non ha una chiave pubblica in SUPublicEDKey, quindi l’autenticità degli aggiornamenti non può essere provata: reinstallarla dal sito del produttore.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>La chiave pubblica di questa applicazione in SUPublicEDKey è danneggiata, quindi l’autenticità degli aggiornamenti non può essere provata: reinstallarla dal sito del produttore.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>L’aggiornamento non è stato firmato dal produttore di questa applicazione o si è danneggiato durante il trasferimento, e viene rifiutato: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Su questo computer non è possibile verificare le firme: reinstallare la libreria libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>L’aggiornamento è troppo grande una volta estratto: informare il produttore.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>L’applicazione installata è stata modificata, quindi l’aggiornamento ridotto non le si adatta: reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Sul disco non c’è abbastanza spazio per l’aggiornamento: liberarne e riprovare.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>La cartella che contiene l’applicazione non può essere modificata da questo utente: rivolgersi a chi l’ha installata.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>L’aggiornamento preparato è stato modificato prima dell’installazione ed è stato scartato: riprovare.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>L’aggiornamento preparato e l’applicazione sono su dischi diversi: riprovare e, se il problema persiste, reinstallare l’applicazione.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>I fine riga del feed degli aggiornamenti sono stati riscritti, quindi la sua firma non corrisponde: informare il produttore.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>Il feed degli aggiornamenti è firmato in un modo che questa versione non conosce: reinstallare l’applicazione dal sito del produttore.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>最新のバージョンを使用しています。</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>このアプリケーションにはアップデートの公開場所が設定されていません。発行元から入手して再インストールしてください。</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>アップデートフィードのアドレスが正しくありません。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>アップデートサーバーの証明書は受け入れられません。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>アップデートサーバーが十分に強力な方式に対応していないため、安全な接続を確立できませんでした。発行元に連絡してください。</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>アップデートフィードの代わりに Web ページが届きました。必要な場合はこのネットワークにサインインして、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>アプリケーションがフィードにないアップデートを選択しました。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>アプリケーションのフォルダーは独立したディスクのため、置き換えられません。別のフォルダーにコピーして、そこから起動してください。</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>アプリケーションは変更できないように保護されています。保護した人に、ファイル属性「immutable」または「append only」の解除を依頼してください。</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>アップデートのための空き容量がありません。%1 必要ですが、空きは %2 です。空き容量を増やして、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>このアプリケーションのアップデートは無効になっています。このコンピューターの管理者に問い合わせてください。</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>アップデートはキャンセルされました。やり直すには、アップデートを確認してください。</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>このアプリケーションには識別子とバージョンが設定されていないため、対応するアップデートを判別できません。発行元から入手して再インストールしてください。</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>アップデートをインストールするプログラムが予期せず終了しました。もう一度お試しください。それでも解決しない場合は、アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>アップデートの確認に失敗しました。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>フィードに示されたアップデートのアドレスはアドレスではありません。発行元に連絡してください。</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>アップデートをインストールできませんでした。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>アップデートをインストールするプログラムが指示を理解できませんでした。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>アップデートをインストールするプログラムが、渡されたファイルを使用できませんでした。もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>アップデートをインストールするプログラムがないか、ほかの人に変更されるおそれがあります。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>アップデートを必要な隔離プロセスで展開できませんでした。このシステムの種類を発行元に連絡してください。</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>このアプリケーションには SUPublicEDKey の公開鍵がないため、アップデートが本物であることを証明できません。発行元から入手して再インストールしてください。</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>このアプリケーションの SUPublicEDKey の公開鍵が壊れているため、アップデートが本物であることを証明できません。発行元から入手して再インストールしてください。</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>アップデートがこのアプリケーションの発行元によって署名されていないか、転送中に壊れたため、拒否されました。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>このコンピューターでは署名を検証できません。libsodium ライブラリを再インストールしてください。</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>展開後のアップデートが大きすぎます。発行元に連絡してください。</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>インストール済みのアプリケーションが変更されているため、差分アップデートを適用できません。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>アップデートに必要なディスクの空き容量が足りません。空き容量を増やして、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>このユーザーは、アプリケーションのあるフォルダーを変更できません。インストールした人に問い合わせてください。</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>準備済みのアップデートがインストール前に変更されたため、破棄されました。もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>準備済みのアップデートとアプリケーションが別々のディスクにあります。もう一度お試しください。それでも解決しない場合は、アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>アップデートフィードの改行が書き換えられたため、署名が一致しません。発行元に連絡してください。</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>アップデートフィードの署名方式はこのバージョンでは不明です。アプリケーションを発行元から入手して再インストールしてください。</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>U gebruikt de nieuwste versie.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Deze app vermeldt niet waar zijn updates worden gepubliceerd: installeer hem opnieuw vanaf de site van de uitgever.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>Het adres van de updatefeed is geen geldig adres: installeer de app opnieuw.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Het certificaat van de updateserver is niet aanvaardbaar: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Er kwam geen veilige verbinding met de updateserver tot stand, omdat hij er geen biedt die sterk genoeg is: informeer de uitgever.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>In plaats van de updatefeed kwam er een webpagina: meld u aan bij dit netwerk als het daarom vraagt en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>De app heeft een update gekozen die niet in de feed staat: installeer de app opnieuw.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>De map van de app is een schijf op zich, dus hij kan niet worden vervangen: kopieer hem naar een andere map en open de app daar.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>De app is tegen elke wijziging beveiligd: vraag wie hem heeft beveiligd om het bestandskenmerk “immutable” of “append only” te verwijderen.</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Er is geen ruimte voor de update: hij heeft %1 nodig en er is %2 vrij. Maak ruimte en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Updates van deze app zijn uitgeschakeld: neem contact op met wie deze computer beheert.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>De update is geannuleerd: controleer op updates om opnieuw te beginnen.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Deze app vermeldt zijn ID en versie niet, zodat er geen update aan kan worden gekoppeld: installeer hem opnieuw vanaf de site van de uitgever.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Het programma dat updates installeert is onverwacht gestopt: probeer het opnieuw en installeer de app opnieuw als het probleem blijft.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>De controle op updates is mislukt: probeer het later opnieuw.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>De feed vermeldt voor de update een adres dat er geen is: informeer de uitgever.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>De update kon niet worden geïnstalleerd: probeer het later opnieuw.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Het programma dat updates installeert begreep niet wat het moest doen: installeer de app opnieuw.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Het programma dat updates installeert kon de bestanden die het kreeg niet gebruiken: probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Het programma dat updates installeert ontbreekt of kan door anderen worden gewijzigd: installeer de app opnieuw.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>De update kon niet in een afgeschermd proces worden uitgepakt, zoals moet: laat de uitgever weten welk systeem dit is.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Deze app heeft geen openbare sleutel onder SUPublicEDKey, zodat van geen update kan worden bewezen dat hij echt is: installeer hem opnieuw vanaf de site van de uitgever.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>De openbare sleutel van deze app onder SUPublicEDKey is beschadigd, zodat van geen update kan worden bewezen dat hij echt is: installeer hem opnieuw vanaf de site van de uitgever.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>De update is niet door de uitgever van deze app ondertekend, of is onderweg beschadigd, en wordt geweigerd: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Op deze computer kunnen geen handtekeningen worden gecontroleerd: installeer de libsodium-bibliotheek opnieuw.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>De update is uitgepakt te groot: informeer de uitgever.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>De geïnstalleerde app is gewijzigd, zodat de kleine update er niet op past: installeer de app opnieuw.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Er is niet genoeg ruimte op de schijf voor de update: maak ruimte vrij en probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>De map met de app mag door deze gebruiker niet worden gewijzigd: neem contact op met wie hem heeft geïnstalleerd.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>De voorbereide update is gewijzigd voordat hij kon worden geïnstalleerd, en is verwijderd: probeer het opnieuw.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>De voorbereide update en de app staan op verschillende schijven: probeer het opnieuw en installeer de app opnieuw als het probleem blijft.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>De regeleinden van de updatefeed zijn herschreven, zodat zijn handtekening niet klopt: informeer de uitgever.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>De updatefeed is ondertekend op een manier die deze versie niet kent: installeer de app opnieuw vanaf de site van de uitgever.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>Używasz najnowszej wersji.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Ta aplikacja nie podaje, gdzie są publikowane jej aktualizacje. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>Adres kanału aktualizacji nie jest prawidłowym adresem. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Certyfikat serwera aktualizacji jest nie do przyjęcia. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Nie nawiązano bezpiecznego połączenia z serwerem aktualizacji, ponieważ nie oferuje on wystarczająco silnego. Powiadom wydawcę.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Zamiast kanału aktualizacji nadeszła strona internetowa. Zaloguj się do tej sieci, jeśli tego wymaga, i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>Aplikacja wybrała aktualizację, której nie ma w kanale. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Folder aplikacji jest osobnym dyskiem, więc nie można go zastąpić. Skopiuj go do innego folderu i tam uruchom aplikację.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>Aplikacja jest chroniona przed wszelkimi zmianami. Poproś osobę, która ją chroni, o usunięcie atrybutu pliku „immutable” lub „append only”.</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Nie ma miejsca na aktualizację. Potrzeba %1, a wolne jest %2. Zwolnij miejsce i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Aktualizacje tej aplikacji są wyłączone. Zapytaj osobę, która zarządza tym komputerem.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>Aktualizacja została anulowana. Sprawdź aktualizacje, aby zacząć od nowa.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Ta aplikacja nie podaje swojego identyfikatora i wersji, więc nie można do niej dopasować żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Program instalujący aktualizacje nieoczekiwanie zakończył działanie. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>Sprawdzanie aktualizacji nie powiodło się. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>Kanał podaje adres aktualizacji, który nie jest adresem. Powiadom wydawcę.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>Nie udało się zainstalować aktualizacji. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Program instalujący aktualizacje nie zrozumiał, o co go poproszono. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Program instalujący aktualizacje nie mógł użyć otrzymanych plików. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Brakuje programu instalującego aktualizacje lub mógłby go zmienić ktoś inny. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>Nie udało się rozpakować aktualizacji w odizolowanym procesie, jak to konieczne. Poinformuj wydawcę, jaki to system.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Ta aplikacja nie ma klucza publicznego SUPublicEDKey, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Klucz publiczny SUPublicEDKey tej aplikacji jest uszkodzony, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Aktualizacja nie została podpisana przez wydawcę tej aplikacji lub uszkodziła się po drodze i została odrzucona. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Na tym komputerze nie można weryfikować podpisów. Zainstaluj ponownie bibliotekę libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>Aktualizacja jest po rozpakowaniu zbyt duża. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>Zainstalowana aplikacja została zmieniona, więc mała aktualizacja do niej nie pasuje. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Na dysku nie ma dość miejsca na aktualizację. Zwolnij trochę i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>Ten użytkownik nie może zmieniać folderu, w którym jest aplikacja. Zapytaj osobę, która ją zainstalowała.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>Przygotowana aktualizacja została zmieniona przed instalacją i ją odrzucono. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>Przygotowana aktualizacja i aplikacja są na różnych dyskach. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Końce wierszy kanału aktualizacji zostały zmienione, więc jego podpis się nie zgadza. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>Kanał aktualizacji jest podpisany w sposób, którego ta wersja nie zna. Zainstaluj aplikację ponownie ze strony wydawcy.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>Você está usando a versão mais recente.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>Este aplicativo não informa onde suas atualizações são publicadas: instale-o novamente a partir do site do fornecedor.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>O endereço do feed de atualizações não é um endereço válido: instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>O certificado do servidor de atualizações não é aceitável: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Não foi possível estabelecer uma conexão segura com o servidor de atualizações, pois ele não oferece nenhuma forte o bastante: avise o fornecedor.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Uma página da web chegou no lugar do feed de atualizações: entre nesta rede, se ela pedir, e tente novamente.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>O aplicativo escolheu uma atualização que não está no feed: instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>A pasta do aplicativo é um disco próprio, portanto não pode ser substituída: copie-a para outra pasta e abra o aplicativo lá.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>O aplicativo está protegido contra qualquer alteração: peça a quem o protegeu que retire o atributo de arquivo “immutable” ou “append only”.</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Não há espaço para a atualização: ela precisa de %1, e %2 estão livres. Libere espaço e tente novamente.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>As atualizações deste aplicativo estão desativadas: fale com quem administra este computador.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>A atualização foi cancelada: verifique se há atualizações para recomeçar.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>Este aplicativo não informa seu identificador e sua versão, portanto nenhuma atualização pode ser associada a ele: instale-o novamente a partir do site do fornecedor.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>O programa que instala atualizações terminou inesperadamente: tente novamente e, se o problema continuar, instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>A verificação de atualizações falhou: tente novamente mais tarde.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>O feed informa um endereço da atualização que não é um endereço: avise o fornecedor.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>Não foi possível instalar a atualização: tente novamente mais tarde.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>O programa que instala atualizações não entendeu o que lhe foi pedido: instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>O programa que instala atualizações não conseguiu usar os arquivos que recebeu: tente novamente.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>O programa que instala atualizações está ausente ou poderia ser alterado por outros: instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>A atualização não pôde ser descompactada em um processo isolado, como é necessário: informe ao fornecedor qual é este sistema.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Este aplicativo não tem chave pública em SUPublicEDKey, portanto nenhuma atualização pode ser comprovada como autêntica: instale-o novamente a partir do site do fornecedor.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>A chave pública deste aplicativo em SUPublicEDKey está danificada, portanto nenhuma atualização pode ser comprovada como autêntica: instale-o novamente a partir do site do fornecedor.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>A atualização não foi assinada pelo fornecedor deste aplicativo ou foi danificada no caminho e foi recusada: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>Não é possível verificar assinaturas neste computador: instale novamente a biblioteca libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>A atualização é grande demais depois de descompactada: avise o fornecedor.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>O aplicativo instalado foi alterado, portanto a atualização pequena não serve para ele: instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>Não há espaço suficiente no disco para a atualização: libere espaço e tente novamente.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>A pasta que contém o aplicativo não pode ser alterada por este usuário: fale com quem o instalou.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>A atualização preparada foi alterada antes de ser instalada e foi descartada: tente novamente.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>A atualização preparada e o aplicativo estão em discos diferentes: tente novamente e, se o problema continuar, instale o aplicativo novamente.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Os finais de linha do feed de atualizações foram reescritos, portanto sua assinatura não confere: avise o fornecedor.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>O feed de atualizações está assinado de uma forma que esta versão não conhece: instale o aplicativo novamente a partir do site do fornecedor.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>У вас установлена последняя версия.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>В программе не указано, где публикуются её обновления. Установите её заново с сайта издателя.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>Адрес ленты обновлений недействителен. Установите программу заново.</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>Сертификат сервера обновлений неприемлем. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>Не удалось установить безопасное соединение с сервером обновлений: он не предлагает достаточно надёжного. Сообщите об этом издателю.</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>Вместо ленты обновлений получена веб-страница. Войдите в эту сеть, если она этого требует, и повторите попытку.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>Программа выбрала обновление, которого нет в ленте. Установите программу заново.</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>Папка программы — отдельный диск, поэтому заменить её нельзя. Скопируйте её в другую папку и запустите программу оттуда.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>Программа защищена от любых изменений. Попросите того, кто её защитил, снять атрибут файла «immutable» или «append only».</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>Для обновления нет места: нужно %1, свободно %2. Освободите место и повторите попытку.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>Обновления этой программы отключены. Обратитесь к тому, кто управляет этим компьютером.</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>Обновление отменено. Проверьте обновления, чтобы начать заново.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>В программе не указаны её идентификатор и версия, поэтому подобрать для неё обновление нельзя. Установите её заново с сайта издателя.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>Программа установки обновлений неожиданно завершилась. Повторите попытку, а если это не поможет, установите программу заново.</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>Не удалось проверить обновления. Повторите попытку позже.</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>В ленте вместо адреса обновления указано то, что адресом не является. Сообщите об этом издателю.</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>Не удалось установить обновление. Повторите попытку позже.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>Программа установки обновлений не поняла задание. Установите программу заново.</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>Программа установки обновлений не смогла использовать переданные ей файлы. Повторите попытку.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>Программа установки обновлений отсутствует или может быть изменена другими. Установите программу заново.</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>Обновление не удалось распаковать в изолированном процессе, как это необходимо. Сообщите издателю, какая это система.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>В программе нет открытого ключа SUPublicEDKey, поэтому подлинность обновлений доказать нельзя. Установите её заново с сайта издателя.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>Открытый ключ программы SUPublicEDKey повреждён, поэтому подлинность обновлений доказать нельзя. Установите её заново с сайта издателя.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Обновление не подписано издателем этой программы или повреждено при передаче и отклонено. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>На этом компьютере нельзя проверять подписи. Установите заново библиотеку libsodium.</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>Обновление после распаковки слишком велико. Сообщите об этом издателю.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>Установленная программа была изменена, поэтому малое обновление к ней не подходит. Установите программу заново.</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>На диске недостаточно места для обновления. Освободите место и повторите попытку.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>Этот пользователь не может изменять папку, в которой находится программа. Обратитесь к тому, кто её установил.</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>Подготовленное обновление было изменено до установки и отброшено. Повторите попытку.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>Подготовленное обновление и программа находятся на разных дисках. Повторите попытку, а если это не поможет, установите программу заново.</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>Окончания строк ленты обновлений переписаны, поэтому её подпись не подходит. Сообщите об этом издателю.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>Лента обновлений подписана способом, неизвестным этой версии. Установите программу заново с сайта издателя.</translation>
     </message>
     <message>

@@ -42,11 +42,11 @@
         <translation>您使用的已是最新版本。</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it anew from its publisher.</source>
+        <source>This application does not say where its updates are published: install it again from its publisher.</source>
         <translation>此应用程序未指明更新的发布位置。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application anew.</source>
+        <source>The address of the update feed is not a valid address: install the application again.</source>
         <translation>更新源的地址无效。请重新安装应用程序。</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>更新服务器的证书不可接受。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>No secure connection to the update server came about, since it offers none that is strong enough: tell the publisher.</source>
+        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
         <translation>更新服务器未提供足够强的加密方式，无法建立安全连接。请告知发布者。</translation>
     </message>
     <message>
@@ -214,7 +214,7 @@
         <translation>收到的是网页，而不是更新源。如果此网络要求登录，请先登录，然后重试。</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application anew.</source>
+        <source>The application chose an update that is not in the feed: install the application again.</source>
         <translation>应用程序选择了更新源中没有的更新。请重新安装应用程序。</translation>
     </message>
     <message>
@@ -306,7 +306,7 @@
         <translation>应用程序的文件夹是一个独立的磁盘，无法替换。请将其复制到其他文件夹并从那里启动应用程序。</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask whoever protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
         <translation>应用程序受到保护，无法进行任何更改。请让设置保护的人移除文件属性“immutable”或“append only”。</translation>
     </message>
     <message>
@@ -326,7 +326,7 @@
         <translation>没有足够的空间用于更新：需要 %1，可用空间为 %2。请释放空间，然后重试。</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask whoever manages this computer.</source>
+        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
         <translation>此应用程序的更新已关闭。请咨询此计算机的管理者。</translation>
     </message>
     <message>
@@ -338,11 +338,11 @@
         <translation>更新已取消。如需重新开始，请检查更新。</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it anew from its publisher.</source>
+        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
         <translation>此应用程序未注明其标识符和版本，无法为其匹配更新。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application anew if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
         <translation>安装更新的程序意外结束。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
     </message>
     <message>
@@ -350,7 +350,7 @@
         <translation>检查更新失败。请稍后再试。</translation>
     </message>
     <message>
-        <source>The feed gives an address of the update that is none: tell the publisher.</source>
+        <source>The download address in the feed is not valid: tell the publisher.</source>
         <translation>更新源给出的更新地址不是地址。请告知发布者。</translation>
     </message>
     <message>
@@ -426,7 +426,7 @@
         <translation>无法安装更新。请稍后再试。</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application anew.</source>
+        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
         <translation>安装更新的程序未能理解所给的任务。请重新安装应用程序。</translation>
     </message>
     <message>
@@ -434,7 +434,7 @@
         <translation>安装更新的程序无法使用所给的文件。请重试。</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application anew.</source>
+        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
         <translation>安装更新的程序缺失，或可能被他人更改。请重新安装应用程序。</translation>
     </message>
     <message>
@@ -442,11 +442,11 @@
         <translation>更新必须在隔离的进程中解压，但未能做到。请告知发布者这是什么系统。</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>此应用程序在 SUPublicEDKey 下没有公钥，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it anew from its publisher.</source>
+        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
         <translation>此应用程序在 SUPublicEDKey 下的公钥已损坏，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>更新不是由此应用程序的发布者签名的，或在传输中损坏，已被拒绝。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library anew.</source>
+        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
         <translation>此计算机无法验证签名。请重新安装 libsodium 库。</translation>
     </message>
     <message>
@@ -574,7 +574,7 @@
         <translation>更新解压后过大。请告知发布者。</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application anew.</source>
+        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
         <translation>已安装的应用程序被更改过，增量更新不适用。请重新安装应用程序。</translation>
     </message>
     <message>
@@ -658,7 +658,7 @@
         <translation>磁盘空间不足，无法更新。请释放空间，然后重试。</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask whoever installed it.</source>
+        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
         <translation>此用户无权更改应用程序所在的文件夹。请咨询安装它的人。</translation>
     </message>
     <message>
@@ -686,7 +686,7 @@
         <translation>准备好的更新在安装前被更改，已被丢弃。请重试。</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application anew if it stays so.</source>
+        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
         <translation>准备好的更新与应用程序位于不同的磁盘上。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
     </message>
     <message>
@@ -782,7 +782,7 @@
         <translation>更新源的换行符被改写，签名不匹配。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application anew from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
         <translation>更新源的签名方式是此版本所不知道的。请从发布者处获取并重新安装应用程序。</translation>
     </message>
     <message>

@@ -139,7 +139,7 @@ private:
         }
         catch (...)
         {
-            // Deliberate: whoever logs is not the one to hear of it, and may be a destructor.
+            // Deliberate: anyone who logs is not the one to hear of it, and may be a destructor.
         }
     }
 
@@ -149,7 +149,7 @@ private:
         return m_handler;
     }
 
-    std::recursive_mutex m_calls; ///< of whoever is in the handler or replaces it
+    std::recursive_mutex m_calls; ///< of the one who is in the handler or replaces it
     std::mutex m_records;         ///< of what follows
     std::shared_ptr<LogHandler const> m_handler;
     std::vector<StoredRecord> m_waiting;

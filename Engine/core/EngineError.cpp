@@ -20,11 +20,11 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::NoFeedAddress:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "This application does not say where its updates are published: install it anew from its publisher.");
+            "This application does not say where its updates are published: install it again from its publisher.");
     case ErrorCause::InvalidAddress:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "The address of the update feed is not a valid address: install the application anew.");
+            "The address of the update feed is not a valid address: install the application again.");
     case ErrorCause::SchemeRefused:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
@@ -102,8 +102,7 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::HandshakeRefused:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "No secure connection to the update server came about, since it offers none that is strong enough: tell "
-            "the publisher.");
+            "The update server offers no secure connection that is strong enough: tell the publisher.");
     case ErrorCause::SecureConnectionUnavailable:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                  "This computer cannot make secure connections: install its OpenSSL library.");
@@ -215,7 +214,7 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::FeedSignatureUnknown:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "The update feed is signed in a way that this version does not know: install the application anew from "
+            "The update feed is signed in a way that this version does not know: install the application again from "
             "its publisher.");
     case ErrorCause::FeedSignatureMalformed:
         return QT_TRANSLATE_NOOP(
@@ -246,7 +245,7 @@ char const* SentenceOf(ErrorCause cause)
     case ErrorCause::ForeignItem:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "The application chose an update that is not in the feed: install the application anew.");
+            "The application chose an update that is not in the feed: install the application again.");
     case ErrorCause::DelegateRaised:
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                  "The application failed while it looked at the updates: restart it and try again.");
@@ -334,10 +333,9 @@ char const* SentenceOf(ErrorCause cause)
             "The application's folder is a disk of its own, so it cannot be replaced: copy it to another folder and "
             "start it there.");
     case ErrorCause::BundleImmutable:
-        return QT_TRANSLATE_NOOP(
-            "PelnarEngine_Errors",
-            "The application is protected against every change: ask whoever protected it to take the file attribute "
-            "\"immutable\" or \"append only\" away.");
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The application is protected against every change: ask the "
+                                                        "person who protected it to take the file attribute "
+                                                        "\"immutable\" or \"append only\" away.");
     case ErrorCause::BundleOfAnotherUser:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
@@ -382,8 +380,9 @@ char const* SentenceOf(ErrorCause cause)
             "folder and start it there.");
 
     case ErrorCause::UpdatesDisabled:
-        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                 "Updates of this application are switched off: ask whoever manages this computer.");
+        return QT_TRANSLATE_NOOP(
+            "PelnarEngine_Errors",
+            "Updates of this application are switched off: ask the administrator of this computer.");
     case ErrorCause::HeldBack:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
@@ -395,11 +394,11 @@ char const* SentenceOf(ErrorCause cause)
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
             "This application does not say its identifier and version, so that no update can be matched to it: "
-            "install it anew from its publisher.");
+            "install it again from its publisher.");
     case ErrorCause::HelperFailed:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",
-            "The program that installs updates ended unexpectedly: try again, and install the application anew if "
+            "The program that installs updates ended unexpectedly: try again, and install the application again if "
             "it stays so.");
     case ErrorCause::Fault:
         break; // SentenceOf(UpdateFault)
@@ -413,7 +412,7 @@ char const* DownloadSentenceOf(EngineError const& error)
     if (error.cause == ErrorCause::InvalidAddress)
     {
         return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                 "The feed gives an address of the update that is none: tell the publisher.");
+                                 "The download address in the feed is not valid: tell the publisher.");
     }
     if (error.cause == ErrorCause::SchemeRefused)
     {

@@ -24,7 +24,7 @@ struct ByteCount
 class Sentence
 {
 public:
-    /// What is put in place of %1, %2 and so on. A text is put in as it is, whatever it contains.
+    /// What is put in place of %1, %2 and so on. A text is put in as it is, no matter what it contains.
     using Value = std::variant<QString, ByteCount>;
 
     Sentence() = default;

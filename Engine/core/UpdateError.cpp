@@ -24,7 +24,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
             ErrorCode::Installation,
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                               "The program that installs updates did not understand what it was asked for: install the "
-                              "application anew.")};
+                              "application again.")};
     case UpdateFault::DescriptorUnusable:
         return {ErrorCode::Installation,
                 QT_TRANSLATE_NOOP(
@@ -36,7 +36,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
             QT_TRANSLATE_NOOP(
                 "PelnarEngine_Errors",
                 "The program that installs updates is missing or could be changed by others: install the application "
-                "anew.")};
+                "again.")};
     case UpdateFault::ConfinementFailed:
         return {ErrorCode::Unarchiving,
                 QT_TRANSLATE_NOOP(
@@ -48,14 +48,14 @@ FaultDescription DescriptionOf(UpdateFault fault)
                 QT_TRANSLATE_NOOP(
                     "PelnarEngine_Errors",
                     "This application has no public key under SUPublicEDKey, so that no update can be proved genuine: "
-                    "install it anew from its publisher.")};
+                    "install it again from its publisher.")};
     case UpdateFault::KeyMalformed:
         return {
             ErrorCode::Signature,
             QT_TRANSLATE_NOOP(
                 "PelnarEngine_Errors",
                 "The public key of this application under SUPublicEDKey is damaged, so that no update can be proved "
-                "genuine: install it anew from its publisher.")};
+                "genuine: install it again from its publisher.")};
     case UpdateFault::SignatureMissing:
         return {
             ErrorCode::Signature,
@@ -75,7 +75,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
         return {
             ErrorCode::Signature,
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                              "Signatures cannot be verified on this computer: install its libsodium library anew.")};
+                              "Signatures cannot be verified on this computer: install its libsodium library again.")};
     case UpdateFault::ArchiveEmpty:
         return {ErrorCode::Unarchiving,
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors",
@@ -201,7 +201,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
                 QT_TRANSLATE_NOOP(
                     "PelnarEngine_Errors",
                     "The installed application was changed, so that the small update does not fit it: install the "
-                    "application anew.")};
+                    "application again.")};
     case UpdateFault::DeltaResultDiffers:
         return {ErrorCode::Validation,
                 QT_TRANSLATE_NOOP(
@@ -298,11 +298,9 @@ FaultDescription DescriptionOf(UpdateFault fault)
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                   "There is not enough room on the disk for the update: free some and try again.")};
     case UpdateFault::NotPermitted:
-        return {
-            ErrorCode::NotWritable,
-            QT_TRANSLATE_NOOP(
-                "PelnarEngine_Errors",
-                "The folder that holds the application may not be changed by this user: ask whoever installed it.")};
+        return {ErrorCode::NotWritable,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The folder that holds the application may not be changed by "
+                                                         "this user: ask the person who installed it.")};
     case UpdateFault::DiskError:
         return {ErrorCode::FileCopy,
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The disk reported an error: check it and try again.")};
@@ -338,7 +336,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
                 QT_TRANSLATE_NOOP(
                     "PelnarEngine_Errors",
                     "The prepared update and the application are on different disks: try again, and install the "
-                    "application anew if it stays so.")};
+                    "application again if it stays so.")};
     case UpdateFault::SwapFailed:
         return {ErrorCode::Installation,
                 QT_TRANSLATE_NOOP(

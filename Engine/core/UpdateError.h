@@ -11,7 +11,7 @@ namespace Pelnar::Engine
 /// failed, is named in the detail. REQUIRES: \a fault is not None.
 EngineError MakeFaultError(UpdateFault fault, int errorNumber = 0);
 
-/// Whether an archive that was refused with \a fault is to blame, so that fetching it anew may help; false for what is
+/// Whether an archive that was refused with \a fault is to blame, so that fetching it again may help; false for what is
 /// wrong with this computer or the installed application.
 [[nodiscard]] bool IsArchiveToBlame(UpdateFault fault);
 

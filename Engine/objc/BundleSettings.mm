@@ -257,7 +257,7 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.bundle = ReadRunningBundle();
     settings.check.publicKeys = settings.bundle.publicKeys;
     settings.automaticDownload = ReadAutomaticDownload();
-    // Whoever of the two says so: an administrator's word must not be undone by a default.
+    // It does not matter which of the two says so: an administrator's word must not be undone by a default.
     bool const isDisabled = IsSettingTrueIn(SettingPlace::Information, Setting::UpdatesDisabled) ||
                             IsSettingTrueIn(SettingPlace::Defaults, Setting::UpdatesDisabled);
     settings.updates = isDisabled ? UpdateSwitch::Off : UpdateSwitch::On;

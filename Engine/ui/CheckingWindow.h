@@ -1,5 +1,5 @@
 // CheckingWindow.h: a check that a person asked for runs and can be cancelled.
-// Thread: the Qt main thread. Ownership: whoever made it.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

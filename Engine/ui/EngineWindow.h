@@ -1,6 +1,6 @@
 // EngineWindow.h: what all windows of the engine share: texts beside an icon, a row of buttons, one answer.
 // It belongs to no window of the host, keeps no application alive, and takes the focus only when a person asked.
-// Thread: the Qt main thread. Ownership: whoever made it; its texts are those of the language at that time.
+// Thread: the Qt main thread. Ownership: the maker's; its texts are those of the language at that time.
 #pragma once
 
 #include "Engine/core/update/WindowContent.h"

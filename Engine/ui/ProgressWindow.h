@@ -1,5 +1,5 @@
 // ProgressWindow.h: an update is downloaded, then verified and unpacked; both can be cancelled.
-// Thread: the Qt main thread. Ownership: whoever made it.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

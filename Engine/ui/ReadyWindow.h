@@ -1,5 +1,5 @@
 // ReadyWindow.h: an update is downloaded, verified and unpacked; installing it relaunches the application.
-// Thread: the Qt main thread. Ownership: whoever made it.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

@@ -42,7 +42,7 @@ class BundleTree
 public:
     /// The bundle whose folder is \a path, or the one in the archive \a path. Throws Refusal.
     static BundleTree Open(QString const& path, ByteProgress const& progress);
-    /// The bundle in \a archive. Throws Refusal for whatever a client would refuse.
+    /// The bundle in \a archive. Throws Refusal for what a client would refuse.
     static BundleTree Unpack(InputFile const& archive, ByteProgress const& progress);
 
     /// The bundle's folder.

@@ -144,7 +144,7 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::FolderUnsafe:
     case UpdateFault::ProcessHandlesUnavailable:
     case UpdateFault::SealedMemoryUnavailable:
-    case UpdateFault::PayloadKindDiffers: // told by whoever knows both kinds
+    case UpdateFault::PayloadKindDiffers: // told where both kinds are known
     case UpdateFault::InstallationInterrupted:
     case UpdateFault::NewVersionFailed:
     case UpdateFault::RightsNotKept:

@@ -12,7 +12,7 @@ class ArchiveIntake
 public:
     ArchiveIntake(Workplace const& workplace, PublishedFeed const& feed) : m_workplace(workplace), m_feed(feed) {}
 
-    /// Reads, judges and signs the bundles and installers among \a archives. Throws Refusal for whatever clients would
+    /// Reads, judges and signs the bundles and installers among \a archives. Throws Refusal for what clients would
     /// refuse or could not tell from something else.
     std::vector<NewItem> Take(std::vector<FolderArchive> const& archives);
 

@@ -48,7 +48,7 @@ void DeltaStage::AddTo(std::vector<NewItem>& items, int count)
             }
         }
     }
-    // Newest base first, whatever the order in which they came.
+    // Newest base first, no matter in which order they came.
     for (NewItem& item : items)
     {
         std::stable_sort(item.deltas.begin(), item.deltas.end(),

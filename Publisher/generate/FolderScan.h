@@ -25,7 +25,7 @@ struct FolderArchive
     QString fileName;
     QString stem; ///< the name that notes beside it share: without endings and marks
     ArchiveKind kind = ArchiveKind::Bundle;
-    bool isNamedAsContainer = false; ///< ends as a zip or a tar does, whatever its kind
+    bool isNamedAsContainer = false; ///< ends as a zip or a tar does, no matter what its kind is
 };
 
 /// The archives of \a folder in ascending order of their names; hidden files are left alone. Throws Refusal: for a

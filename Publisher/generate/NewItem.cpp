@@ -58,7 +58,7 @@ QString Element(QString const& name, QString const& text)
     return QStringLiteral("<%1>%2</%1>").arg(name, text.toHtmlEscaped());
 }
 
-/// A section that holds \a text, whatever stands in it.
+/// A section that holds \a text, no matter what stands in it.
 QString CharacterData(QString text)
 {
     return QStringLiteral("<![CDATA[") + text.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>")) +

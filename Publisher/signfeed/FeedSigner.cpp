@@ -47,7 +47,7 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
         throw Refusal({name, 0, 0, QStringLiteral("has the greatest serial that there is"),
                        QStringLiteral("publish a feed at another address")});
     }
-    // The time, so that a feed that is made anew from nothing is not below the one that clients have seen.
+    // The time, so that a feed that is made from nothing is not below the one that clients have seen.
     return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
 }
 

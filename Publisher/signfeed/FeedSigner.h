@@ -38,7 +38,7 @@ struct SignedFeedBytes
 };
 
 /// Takes \a bytes apart; \a name is shown. Throws Refusal: for a signature that is not where and how it must be, and,
-/// unless \a changed accepts it, for one that does not fit: whoever signs by a timetable must not sign what somebody
+/// unless \a changed accepts it, for one that does not fit: anyone who signs by a timetable must not sign what somebody
 /// else has written into the feed.
 FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, SigningKey const& key, ChangedFeed changed);
 

@@ -357,7 +357,7 @@ void SessionModel::TakeRest(SessionRecord const& record)
 {
     if (record.site == &Sites::CREATE_UPDATER)
     {
-        // A new process; whatever was before it in the log is over.
+        // A new process; what was before it in the log is over.
         m_state = State::WAITING;
         Release();
         m_open.clear();

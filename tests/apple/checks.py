@@ -19,7 +19,7 @@ def stem(image):
 
 
 def check_image(image, architecture):
-    """What holds for every file, whatever it is for."""
+    """What holds for every file, no matter what it is for."""
     if image.architecture != architecture:
         yield f"is built for {image.architecture}, not for {architecture}"
     if image.minimum_system != DEPLOYMENT_TARGETS[architecture]:

@@ -1,5 +1,5 @@
 // ArchiveNamesTest.cpp: names beyond ASCII in the archives of every packer: the helper, which has no locale and is
-// confined, and the publisher's tool, in the locale of whoever runs it, make the same tree of them.
+// confined, and the publisher's tool, in the locale of the one who runs it, make the same tree of them.
 
 #include "Engine/core/payload/TreeManifest.h"
 #include "Publisher/files/BundleTree.h"

@@ -99,7 +99,7 @@ public:
     DemoOutput Run(QString const& feed, QStringList const& arguments) const;
 
     /// The same, but the version gets \a signal as soon as \a isDue says so. False when that never came; the output
-    /// ends with whatever it had started.
+    /// ends with what it had started.
     [[nodiscard]] bool Crash(QString const& feed, QStringList const& arguments, int signal,
                              std::function<bool()> const& isDue) const;
 

@@ -174,7 +174,7 @@ TEST_P(EveryCheck, FoundWithoutAKeyInTheBundleFetchesNothingAndEndsIdle)
     for (ToldError const& error : driver.Errors())
     {
         EXPECT_EQ(error.sentence, "This application has no public key under SUPublicEDKey, so that no update can be "
-                                  "proved genuine: install it anew from its publisher.");
+                                  "proved genuine: install it again from its publisher.");
     }
 }
 

@@ -26,7 +26,7 @@ using Start = void (UpdaterDriver::*)();
 class SignedFeedCheck : public CheckContract
 {
 protected:
-    /// One check of whatever \a feed the server has.
+    /// One check of any \a feed that the server has.
     Events Check(QByteArray const& feed, Start start = &UpdaterDriver::Probe)
     {
         answer = OkAnswer(feed);
@@ -42,7 +42,7 @@ protected:
     /// What the file says of the feed; it may still be on its way to the disk.
     static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
 
-    /// And for the end of whoever has written it.
+    /// And for the end of the one who has written it.
     void WaitForSerial(qint64 serial) const
     {
         EXPECT_TRUE(WaitFor([serial] { return KeptRecord() && KeptRecord()->serial == serial; })) << serial;
@@ -258,7 +258,7 @@ TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
 TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
 {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(RecordPath()).path()));
-    // Whoever stores waits for this lock.
+    // Anyone who stores waits for this lock.
     QLockFile lock(RecordPath() + QStringLiteral(".lock"));
     ASSERT_TRUE(lock.lock());
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));

@@ -66,7 +66,7 @@ protected:
         return windows;
     }
 
-    /// The child of that name in whatever window is shown; fails the test when there is none.
+    /// The child of that name in the window that is shown; fails the test when there is none.
     template <typename Widget>
     static Widget* Part(char const* objectName)
     {

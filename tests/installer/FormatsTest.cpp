@@ -426,7 +426,7 @@ TEST(SwapJournal, StartsThatTheHostConfirmsAreCountedThenTakenBack)
                       {TargetState::New, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost, row.countedStarts}),
                   row.action)
             << row.isPreviousAtHand << row.hasNewStarted << row.awaitsHost << row.countedStarts;
-        // Whatever was counted says nothing of another version.
+        // What was counted says nothing of another version.
         EXPECT_EQ(DecideRecovery({TargetState::Previous, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost,
                                   row.countedStarts}),
                   RecoveryAction::DroppedStaged);

@@ -59,7 +59,7 @@ struct HelperOutcome
     int signal = 0;
     std::vector<Engine::HelperReport> reports; ///< without progress
     std::vector<Engine::ProgressReport> progress;
-    std::string output; ///< of whatever was started from it, to its end
+    std::string output; ///< of what was started from it, to its end
     TracedEnd traced;   ///< when its calls were visited
 
     /// The fault of the first refusal; None when there was none.

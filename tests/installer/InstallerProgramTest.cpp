@@ -177,7 +177,7 @@ INSTANTIATE_TEST_SUITE_P(
                                UpdateFault::ExecutableMissing}),
     [](testing::TestParamInfo<ArchiveRow> const& info) { return info.param.name; });
 
-/// A bundle that could be started and updated, whatever it says that it is.
+/// A bundle that could be started and updated, no matter what it says that it is.
 std::string BundleThatSays(std::string const& line)
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");

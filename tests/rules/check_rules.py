@@ -265,7 +265,7 @@ def check_tree(root):
 
 
 class EveryHeaderExists:
-    """Stands for a tree in which whatever is included exists."""
+    """Stands for a tree in which what is included exists."""
 
     def __truediv__(self, _):
         return self

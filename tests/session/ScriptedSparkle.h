@@ -80,7 +80,7 @@ public:
     explicit ScriptedItem(ItemProperties properties = {});
     ItemProperties& Properties() const;
 
-    /// The references to the item: this one, and those of whoever else keeps it.
+    /// The references to the item: this one, and those of anyone else who keeps it.
     int References() const;
     /// The framework drops its reference; nothing but References and IsGone may be asked then, unless others keep it.
     void LetGo() const;

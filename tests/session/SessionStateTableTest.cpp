@@ -164,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(AllStates, OutcomeTable, ::testing::ValuesIn(OUTCOME_RO
                          [](auto const& info)
                          { return std::string(info.param.callback) + "_" + TestNameOf(info.param.state); });
 
-// The callbacks and commands that leave the state alone or set it whatever it was.
+// The callbacks and commands that leave the state alone or set it no matter what it was.
 
 class InState : public SessionTest, public ::testing::WithParamInterface<NamedState>
 {

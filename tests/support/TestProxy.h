@@ -1,5 +1,5 @@
 // TestProxy.h: a proxy on this computer that speaks HTTP (tunnels and forwarding) or SOCKS 5, with or without a
-// password. Whatever name it is asked for, it connects to one server of the test's.
+// password. For any name that it is asked for, it connects to one server of the test's.
 // Thread: the test's, in its event loop. Ownership: a scope object; it owns its connections.
 #pragma once
 

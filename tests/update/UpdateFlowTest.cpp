@@ -131,7 +131,7 @@ TEST_F(UpdateFlowTest, FailedUpdateIsToldAndShownToWhomItConcerns)
     windows.Choose(UpdateChoice::InstallUpdate);
     parts.FailDownload(ErrorCause::HostNotFound);
     EXPECT_EQ((Notes(notes.end() - 4, notes.end())), (Notes{"aborted 1002", "failures 1", "window error", "ended"}))
-        << "whoever agreed waits for it";
+        << "anyone who agreed waits for it";
 
     windows.Close();
     settings.automaticDownload = AutomaticDownload::On;

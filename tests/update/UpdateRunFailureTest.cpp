@@ -112,7 +112,7 @@ struct Verdict
     bool isDiscarded;
 };
 
-// What is fetched anew next time, and what is not.
+// What is fetched again next time, and what is not.
 TEST_F(UpdateRunTest, ArchiveIsDiscardedWhenItIsToBlame)
 {
     for (Verdict const& row : {Verdict{UpdateFault::SignatureMismatch, true},

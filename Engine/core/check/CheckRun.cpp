@@ -214,7 +214,8 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     std::optional<ItemPlace> fallback;
     if (answer.kind == BestItemAnswer::Kind::Place && answer.place.delta)
     {
-        // The whole item to fall back on: asked for once, whatever the answer. What is offered stays the delta.
+        // The whole item to fall back on: asked for once, no matter what the answer is. What is offered stays the
+        // delta.
         BestItemAnswer const second = m_host.AskForBestItem();
         if (second.kind == BestItemAnswer::Kind::Foreign)
         {
@@ -261,7 +262,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     {
         return std::nullopt;
     }
-    // What is fallen back on is the same update: whoever agrees to one version must not get another.
+    // What is used instead is the same update: anyone who agrees to one version must not get another.
     bool const isSameVersion = fallback && order(At(*fallback).versionString, At(answer.place).versionString) == 0;
     return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach};
 }

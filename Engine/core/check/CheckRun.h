@@ -70,7 +70,7 @@ struct BestItemAnswer
     ItemPlace place;
 };
 
-/// The updater as a check sees it. Whatever an operation throws is taken for a failure of the application.
+/// The updater as a check sees it. What an operation throws is taken for a failure of the application.
 class ICheckHost
 {
 public:

@@ -15,9 +15,9 @@ namespace Pelnar::Engine
 using DeltaProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t totalBytes)>;
 
 /// Fills the empty folder open at \a stagingFd with the new version. \a oldBundleFd is the old version's folder;
-/// nothing outside these two folders is reached, whatever links they hold. Files get mode 0644 or 0755, folders 0755.
-/// Every file's bytes have been compared with the manifest's hash when the answer is success; after a failure the
-/// staging folder holds whatever was made and is for the caller to remove.
+/// nothing outside these two folders is reached, no matter which links they hold. Files get mode 0644 or 0755, folders
+/// 0755. Every file's bytes have been compared with the manifest's hash when the answer is success; after a failure the
+/// staging folder holds what was made and is for the caller to remove.
 /// REQUIRES: the container's signature has been verified over this very descriptor.
 [[nodiscard]] DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLimits const& limits,
                                       DeltaProgress const& progress);

@@ -1,4 +1,4 @@
-// TreeAccess.h: files, folders and links below one open folder, never outside it, whatever links stand there.
+// TreeAccess.h: files, folders and links below one open folder, never outside it, no matter which links stand there.
 // Thread: one at a time. Ownership: the folder's descriptor stays the caller's.
 #pragma once
 
@@ -66,7 +66,7 @@ public:
 
     /// An existing file, to be read; a link as any component is refused.
     UniqueFd OpenFile(std::string const& path) const;
-    /// A new file, to be written and read, with mode 0755 when \a isExecutable, else 0644, whatever the umask.
+    /// A new file, to be written and read, with mode 0755 when \a isExecutable, else 0644, no matter what the umask is.
     UniqueFd MakeFile(std::string const& path, bool isExecutable);
     [[nodiscard]] bool MakeFolder(std::string const& path);
     [[nodiscard]] bool MakeLink(std::string const& path, std::string const& target);

@@ -23,7 +23,7 @@ namespace
 constexpr quint64 MAX_ARCHIVE_BYTES = quint64{16} << 30;
 constexpr std::chrono::milliseconds PROGRESS_INTERVAL{100};
 constexpr std::chrono::seconds CHECKPOINT_INTERVAL{10};
-/// A connection that brought so much was worth the trouble: its end starts the count of attempts anew.
+/// A connection that brought so much was worth the trouble: its end starts the count of attempts again.
 constexpr qint64 WORTHWHILE_BYTES = 1024 * 1024;
 
 /// True for what may be better in a moment.
@@ -334,7 +334,7 @@ private:
     void TakeFailure(EngineError const& failure)
     {
         bool const isTooLarge = failure.cause == ErrorCause::BodyTooLarge;
-        // The reader's limit was the declared length, and it has seen more than that, whatever it handed on.
+        // The reader's limit was the declared length, and it has seen more than that, no matter what it handed on.
         m_spent.receivedBytes += isTooLarge ? Missing() : 0;
         EngineError const error = isTooLarge ? MakeError(ErrorCause::DownloadLengthDiffers) : AsDownloadError(failure);
         DropTransfer();

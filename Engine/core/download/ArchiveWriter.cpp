@@ -22,7 +22,7 @@ namespace
 constexpr std::size_t BUFFERS = 4;
 constexpr std::size_t BUFFER_BYTES = 256 * 1024;
 
-/// Whether whoever ends the writer waits for a piece of work that has begun.
+/// Whether the one who ends the writer waits for a piece of work that has begun.
 enum class Ending
 {
     Waits,

@@ -41,7 +41,7 @@ EngineError OpenError(int errorNumber);
 [[nodiscard]] bool IsOurs(struct stat const& status);
 [[nodiscard]] bool IsSameFile(struct stat const& a, struct stat const& b);
 
-/// Without following links, and without waiting for whatever may stand in the file's place.
+/// Without following links, and without waiting for what may stand in the file's place.
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags);
 UniqueFd OpenFolderNamed(std::string const& path);
 /// Makes the folder if it is missing. Refuses one that is not this user's alone to write.

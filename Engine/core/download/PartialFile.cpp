@@ -363,7 +363,7 @@ void PartialFile::RemoveArchive()
 
 void PartialFile::Remove()
 {
-    // An open file keeps its blocks, whatever its names.
+    // An open file keeps its blocks, no matter what its names are.
     if (m_writer && ftruncate(m_writer.Get(), 0) != 0)
     {
         return; // a disk that refuses even this gives nothing back anyway

@@ -50,7 +50,7 @@ public:
     Fault Append(Bytes bytes);
 
     /// The steps that make what has been written so far durable and then say so, in this order. Those that sync may
-    /// take long; they change nothing, so that nobody has to wait for them before the file is opened anew. Without the
+    /// take long; they change nothing, so that nobody has to wait for them before the file is opened again. Without the
     /// first, the others tell what is known besides.
     Fault SyncBytes();
     Fault StageRecord();

@@ -22,7 +22,7 @@ struct PartialRecord
     std::uint64_t declaredBytes = 0;
     std::uint64_t fileNumber = 0;   ///< of the archive's file on its file system: no other file is meant
     std::string systemStart;        ///< of the run of the system in which the file was written
-    std::uint64_t durableBytes = 0; ///< on the disk whatever happens
+    std::uint64_t durableBytes = 0; ///< on the disk no matter what happens
     Validators validators;
     DownloadSpending spent = {}; ///< by all downloads of the archive
 

@@ -44,11 +44,11 @@ struct FeedItem
     QString deltaFrom;        ///< the version text that this delta starts from; deltas only
     bool isDelta = false;
     bool isCritical = false;
-    /// Every child element by its qualified name (feed namespace names under "sparkle:", whatever prefix the feed uses;
-    /// a foreign name that is written with the prefix "sparkle" as "{namespace}name"), then attributes of the item
-    /// where the name is free. Text is a QString; an element with attributes or children is a QVariantMap of both, with
-    /// its text, if any, under "#text"; a name that stands more than once holds a QVariantList. A delta has here what
-    /// its own tag says.
+    /// Every child element by its qualified name (feed namespace names under "sparkle:", no matter which prefix the
+    /// feed uses; a foreign name that is written with the prefix "sparkle" as "{namespace}name"), then attributes of
+    /// the item where the name is free. Text is a QString; an element with attributes or children is a QVariantMap of
+    /// both, with its text, if any, under "#text"; a name that stands more than once holds a QVariantList. A delta has
+    /// here what its own tag says.
     QVariantMap properties;
     /// Deltas only: the parent's properties, shared with it. Kept apart so that many deltas of an item with many
     /// properties cost no copy each; AllProperties() overlays the two.

@@ -1,5 +1,5 @@
 // AddressReach.h: how near an address lies. A feed from the network must not make this computer talk to itself or to
-// its own link, under whatever name or notation: so the address that a connection is made to is judged, not its name.
+// its own link, under any name or notation: so the address that a connection is made to is judged, not its name.
 // Thread: any; no state. Ownership: values only.
 #pragma once
 

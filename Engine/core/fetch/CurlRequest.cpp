@@ -139,7 +139,7 @@ void CurlRequest::SetSafety(FetchLimits const& limits)
     curl_easy_setopt(easy, CURLOPT_HTTP09_ALLOWED, 0L);
     curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_2TLS});
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // Without it, whoever gives a name up waits for the system to look it up.
+    // Without it, anyone who gives a name up waits for the system to look it up.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(easy, CURLOPT_BUFFERSIZE, PASS_BYTES);
     // Of two addresses of one kind, the first gets half of it.
@@ -217,7 +217,7 @@ bool CurlRequest::PrepareSecurity(SSL_CTX* context) const
     bool const isSet = name.isEmpty() ? false
                        : isAddress    ? X509_VERIFY_PARAM_set1_ip_asc(parameters, name.constData()) == 1
                                       : X509_VERIFY_PARAM_set1_host(parameters, name.constData(), 0) == 1;
-    // Whatever OpenSSL's configuration permits.
+    // No matter what OpenSSL's configuration permits.
     bool const isStrong =
         SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) == 1 && SSL_CTX_set_cipher_list(context, CIPHERS) == 1;
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), LEAST_SECURITY_LEVEL));

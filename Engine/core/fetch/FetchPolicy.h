@@ -81,7 +81,7 @@ FetchRequest RequestFor(QUrl const& url, QUrl const& feedUrl = QUrl());
 JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom, std::vector<QByteArray> const& locations, int hop,
               InsecureHttp insecureHttp, FetchLimits const& limits);
 
-/// True for bytes that begin as a web page does, whatever XML would make of them: a network's login page, say.
+/// True for bytes that begin as a web page does, no matter what XML would make of them: a network's login page, say.
 [[nodiscard]] bool BeginsAsWebPage(QByteArray const& bytes);
 
 } // namespace Pelnar::Engine

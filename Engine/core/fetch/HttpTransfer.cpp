@@ -375,7 +375,7 @@ bool HttpTransfer::IsCut() const
 {
     bool const endsWithConnection =
         m_plan.kind == BodyPlan::Kind::UntilClose && m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
-    // libcurl takes the end of a secure connection for the end of the body, whoever ended it.
+    // libcurl takes the end of a secure connection for the end of the body, no matter who ended it.
     return endsWithConnection && IsSecure() && !m_curl->HasSaidGoodbye();
 }
 

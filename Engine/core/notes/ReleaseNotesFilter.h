@@ -1,5 +1,5 @@
 // ReleaseNotesFilter.h: from the release notes that a feed gives to markup that is safe to show.
-// What comes out is made anew from an allow-list: no address but of a link that a person may click (http, https,
+// What comes out is made from an allow-list: no address but of a link that a person may click (http, https,
 // mailto), no style, no script, no image, no attribute but "href" and "dir"; well nested, UTF-8, and within limits that
 // keep a rich-text view quick. Filtering what came out once more, as HTML, changes nothing. Thread: any; no state.
 // Ownership: values only.

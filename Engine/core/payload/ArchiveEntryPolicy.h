@@ -22,7 +22,7 @@ enum class ArchiveEntryType
     File,
     SymbolicLink,
     HardLink,
-    Other, ///< devices, FIFOs, sockets, whiteouts and whatever else
+    Other, ///< devices, FIFOs, sockets, whiteouts and all else
 };
 
 /// An entry as the archive describes it.

@@ -86,7 +86,7 @@ PastInstallation JudgePastInstallation(InstallRecord const& record, std::string_
     switch (record.state)
     {
     case InstallState::Waiting:
-        // Whoever agreed to an installation at once waits for the new version.
+        // Anyone who agreed to an installation at once waits for the new version.
         return helper == HelperLife::Runs              ? PastInstallation::UnderWay
                : record.wish == InstallWish::Automatic ? PastInstallation::Dropped
                                                        : PastInstallation::Failed;

@@ -22,7 +22,7 @@ public:
     void AddFile(std::string path, std::uint32_t mode, std::uint64_t size, ContentHash const& content);
     void AddLink(std::string path, std::string target);
 
-    /// The hash of what was added, in whatever order.
+    /// The hash of what was added, in any order.
     [[nodiscard]] ContentHash Digest() const;
 
 private:

@@ -23,7 +23,7 @@ struct UnpackedBundle
 using UnpackProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t totalBytes)>;
 
 /// Unpacks the archive open at \a archiveFd into the empty folder open at \a stagingFd. Throws UpdateRefusal; the
-/// folder then holds whatever was made and is for the caller to remove.
+/// folder then holds what was made and is for the caller to remove.
 UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const& progress);
 
 } // namespace Pelnar::Engine

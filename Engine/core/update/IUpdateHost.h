@@ -1,5 +1,5 @@
 // IUpdateHost.h: the updater's delegate as a check and the update that it leads to see it.
-// Whatever an operation throws is taken for a failure of the application. Any of them may run an event loop of its own.
+// What an operation throws is taken for a failure of the application. Any of them may run an event loop of its own.
 // Thread: the Qt main thread. Ownership: outlives what it hosts.
 #pragma once
 

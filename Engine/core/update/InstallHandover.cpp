@@ -64,7 +64,7 @@ void InstallHandover::Take(HelperReport const& report)
 
 void InstallHandover::End()
 {
-    // Whatever it says of itself: a helper that ends while its host runs has installed nothing.
+    // No matter what it says of itself: a helper that ends while its host runs has installed nothing.
     m_update->TakeBack();
     auto const tell = std::move(m_failed);
     tell(m_refused ? MakeFaultError(m_refused->fault, m_refused->errorNumber) : MakeError(ErrorCause::HelperFailed));

@@ -1,5 +1,5 @@
 // InstallTarget.h: the installed bundle that an update is to replace, opened once, and whether it can be.
-// Thread: any. Ownership: the descriptors are the object's; whoever updates the bundle acts through them only.
+// Thread: any. Ownership: the descriptors are the object's; anyone who updates the bundle acts through them only.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -24,7 +24,7 @@ struct InstallTarget
 
 using OpenedTarget = std::variant<InstallTarget, EngineError>;
 
-/// Opens the bundle at \a bundlePath, whoever's it is.
+/// Opens the bundle at \a bundlePath, no matter whose it is.
 OpenedTarget OpenInstalledBundle(QString const& bundlePath);
 
 /// Opens the bundle at \a bundlePath and finds out, before anything is downloaded, whether it may be replaced: owned by

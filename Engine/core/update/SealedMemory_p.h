@@ -10,7 +10,7 @@ namespace Pelnar::Engine
 
 constexpr unsigned EXECUTABLE_MEMORY = 0x10; ///< MFD_EXEC, which the oldest supported headers do not name
 
-/// An empty file, named for whoever looks at the process, with these further flags of memfd_create.
+/// An empty file, named for anyone who looks at the process, with these further flags of memfd_create.
 UniqueFd MakeMemoryFile(char const* name, unsigned flags);
 void AppendToMemory(UniqueFd const& file, Bytes bytes);
 void SealMemory(UniqueFd const& file);

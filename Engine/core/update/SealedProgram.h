@@ -1,7 +1,7 @@
 // SealedProgram.h: a copy of the helper's program in memory that nobody can change. It is made when it is first wanted
 // and kept: a disk that is busy with an update may take its time over a few bytes that it was not asked for lately, and
-// a process goes on with the helper that it began with, whatever is installed meanwhile.
-// Thread: any. Ownership: the copy goes with the object; whoever started the program has it still.
+// a process goes on with the helper that it began with, no matter what is installed meanwhile.
+// Thread: any. Ownership: the copy goes with the object; anyone who started the program has it still.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -157,7 +157,7 @@ bool CountsForBackOff(EngineError const& error)
     {
         return IsArchiveToBlame(error.fault);
     }
-    // A pause counts too: whoever changes the feed at every check must not get a turn at every check.
+    // A pause counts too: anyone who changes the feed at every check must not get a turn at every check.
     bool const isDownloads =
         error.cause >= ErrorCause::DownloadLengthInvalid && error.cause <= ErrorCause::DownloadPaused;
     // The other causes from DelegateRaised on speak of this computer and of the application.

@@ -123,7 +123,7 @@ void UpdateRun::TakeChoice(UpdateChoice choice)
         Finish(std::nullopt);
         return;
     case UpdateChoice::InstallUpdate:
-        // From here on a person waits, whoever asked for the check.
+        // From here on a person waits, no matter who asked for the check.
         m_asked = PersonAsked::Yes;
         Download();
         return;
@@ -415,7 +415,7 @@ void UpdateRun::Relaunch()
     job.environment = EnvironmentOf(environ);
     job.workingFolder = WorkingFolder();
     job.creationMask = CreationMask();
-    // Whoever wants the new version to start waits for it.
+    // Anyone who wants the new version to start waits for it.
     auto const error = HandOver(std::move(job), InstallWish::Person, Guarded(&UpdateRun::TellRelaunch));
     if (error)
     {

@@ -20,7 +20,7 @@ inline int UnchangedFeedDays()
 /// The number of whole days between the first and the last check that were answered with the very bytes of the last
 /// feed; 0 as long as there was none. A check that fails counts for nothing.
 ///
-/// Whoever stands between an application and its server can keep answering with an old feed, so that the application
+/// Anyone who stands between an application and its server can keep answering with an old feed, so that the application
 /// never hears of an update. A feed that must be signed says when it expires, and is refused then. Any other feed only
 /// grows old: from 180 days on every check logs a warning, and a host that publishes often may ask here, after a check,
 /// and tell a person to look at the publisher's page. Nothing else happens.

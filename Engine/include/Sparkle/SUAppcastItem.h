@@ -1,6 +1,6 @@
 // SUAppcastItem.h: one item of a feed, or one of its deltas; immutable.
-// Thread: any after creation, in practice main. Ownership: retained by the appcast and by whoever keeps it. An item is a
-// reference: the delegate answers with the very object that it was given.
+// Thread: any after creation, in practice main. Ownership: retained by the appcast and by anyone who keeps it. An item
+// is a reference: the delegate answers with the very object that it was given.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -50,7 +50,7 @@ SU_EXPORT
 @property (nonatomic, readonly) NSString* installationType;
 /// Every child element of the item by its qualified name, then the item's own attributes where the name is free. Text
 /// is an NSString; an element with attributes or children is an NSDictionary or NSArray. Names of the feed namespace
-/// begin with "sparkle:" whatever prefix the feed uses.
+/// begin with "sparkle:" no matter which prefix the feed uses.
 @property (nonatomic, readonly) NSDictionary* propertiesDictionary;
 
 @end

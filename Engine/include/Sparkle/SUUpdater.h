@@ -35,7 +35,7 @@ SU_EXPORT
 
 /// Kept for the interface's sake: the engine starts no check by itself.
 @property (nonatomic, assign) BOOL automaticallyChecksForUpdates;
-/// Kept for the interface's sake: the engine sends no profile, whatever the value.
+/// Kept for the interface's sake: the engine sends no profile, no matter what the value is.
 @property (nonatomic, assign) BOOL sendsSystemProfile;
 /// The user default "SUAutomaticallyUpdate", else the information dictionary's, else NO. Setting it writes the default.
 @property (nonatomic, assign) BOOL automaticallyDownloadsUpdates;

@@ -69,7 +69,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     QStringList const arguments = QCoreApplication::arguments();
-    // Whoever traces the calls of this program waits for this one.
+    // Anyone who traces the calls of this program waits for this one.
     if (chdir("/") != 0)
     {
         return 1;

@@ -71,7 +71,7 @@ protected:
         ASSERT_EQ(CauseOf(file.Append(BytesOf(text))), ErrorCause::NoUpdate);
     }
 
-    /// Opens the place anew and tells how much is found.
+    /// Opens the place again and tells how much is found.
     quint64 FoundBytes()
     {
         PartialFile file(Place());

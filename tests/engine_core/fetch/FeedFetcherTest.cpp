@@ -547,7 +547,7 @@ TEST_F(FeedFile, WhatIsNotAReadableFileIsRefused)
     EXPECT_EQ(CauseOf(Fetch(QUrl::fromLocalFile(pipe))), ErrorCause::FileNotRegular)
         << "opening it would wait for ever";
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("file://server/share/feed.xml")))), ErrorCause::FileOnOtherHost);
-    // A file that opens and fails to be read, whoever asks.
+    // A file that opens and fails to be read, no matter who asks.
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("file:///proc/self/mem")))), ErrorCause::FileUnreadable);
 }
 

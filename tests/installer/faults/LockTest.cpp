@@ -174,7 +174,7 @@ void InstallWhileAnotherHasTheHostsNumber()
     ExpectRecovered(scene, versions);
 }
 
-/// In a container, where whoever made it may choose the numbers of processes.
+/// In a container, where anyone who made it may choose the numbers of processes.
 TEST(Lock, ProcessWithTheNumberOfTheHostThatEndedIsNotWaitedFor)
 {
     if (!RunInContainer(&InstallWhileAnotherHasTheHostsNumber))
@@ -202,7 +202,7 @@ TEST_P(LockSquatter, HoldsNobodyUp)
     scene.Host().End();
     std::string const path = scene.Place().Path() + '/' + LockFileName(APP);
     GetParam().put(path);
-    // Whoever could open it holds its lock, and does not let go.
+    // Anyone who could open it holds its lock, and does not let go.
     UniqueFd const squatter(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     EXPECT_TRUE(!squatter || ::flock(squatter.Get(), LOCK_EX | LOCK_NB) == 0);
     HelperOutcome const outcome = scene.Install(job);

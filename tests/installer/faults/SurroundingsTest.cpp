@@ -1,4 +1,4 @@
-// SurroundingsTest.cpp: the helper does the same whatever the process that starts it looks like, and wherever the
+// SurroundingsTest.cpp: the helper does the same no matter what the process that starts it looks like, and wherever the
 // bundle stands.
 
 #include "tests/installer/FaultChecks.h"

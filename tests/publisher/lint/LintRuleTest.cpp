@@ -82,7 +82,7 @@ TEST(LintRuleTable, TheDocumentIsMadeFromTheCode)
     QFile document(QStringLiteral(PELNAR_LINT_RULES_DOCUMENT));
     ASSERT_TRUE(document.open(QIODevice::ReadOnly));
     EXPECT_EQ(document.readAll().toStdString(), Publisher::LintRulesAsMarkdown().toStdString())
-        << "make it anew: pelnar-appcast lint --rules > docs/lint-rules.md";
+        << "make it again: pelnar-appcast lint --rules > docs/lint-rules.md";
 }
 
 TEST(LintFeed, AFeedAtAnInsecureAddressIsAFinding)

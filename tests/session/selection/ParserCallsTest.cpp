@@ -59,7 +59,7 @@ TEST(VersionFromStringNoexceptAndTheParser, OtherTextIsPassedOnAsItIsWithADotAsS
 TEST(VersionFromStringNoexceptAndTheParser, AnswerIsTheHostsOwn)
 {
     EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral("v six")), Version(42));
-    EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral("odd")), Version()) << "whatever is thrown";
+    EXPECT_EQ(VersionFromStringNoexcept(QStringLiteral("odd")), Version()) << "no matter what is thrown";
 }
 
 } // namespace

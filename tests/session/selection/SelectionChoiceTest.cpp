@@ -340,7 +340,7 @@ TEST_F(SelectionOfAFeed, DeltasOfTheBestItemOnlyAreLookedAt)
 
 TEST_F(SelectionOfAFeed, LaterDeltaCanReplaceAnEarlierOne)
 {
-    // Two spellings of the local version; the smaller download wins in whatever order the dictionary has them.
+    // Two spellings of the local version; the smaller download wins in any order that the dictionary has.
     ScriptedItem const large(DeltaOf("5.1", 20));
     ItemProperties other = DeltaOf("5.1", 10);
     other.fileUrl = Latin1("https://b.example/App.delta");

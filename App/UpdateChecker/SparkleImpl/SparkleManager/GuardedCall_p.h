@@ -8,7 +8,7 @@
 namespace Pelnar::App::Session
 {
 
-/// Runs \a call and holds back whatever it throws or raises: the diagnostic text of that, or nothing when it returns.
+/// Runs \a call and holds back what it throws or raises: the diagnostic text of that, or nothing when it returns.
 [[nodiscard]] std::optional<std::string> DiagnosticOf(std::function<void()> const& call);
 
 } // namespace Pelnar::App::Session

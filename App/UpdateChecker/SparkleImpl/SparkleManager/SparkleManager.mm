@@ -212,7 +212,7 @@ void SparkleManager::Impl::DestroyUpdater()
 bool SparkleManager::Impl::Lock()
 {
     WriteCurrentState(Session::Sites::LOCK, state);
-    // Deliberate: the state is not asked. An idle updater can be lent whatever the last request left behind; one that
+    // Deliberate: the state is not asked. An idle updater can be lent what the last request left behind; one that
     // is still busy can not, for instance with a download that outlived its holder. One that does not say counts as
     // busy.
     bool isBusy = true;

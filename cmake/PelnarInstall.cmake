@@ -18,6 +18,9 @@ foreach(target IN LISTS PELNAR_INSTALLED_TARGETS)
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "${PELNAR_BESIDE_LOADER}")
 endforeach()
 
+set_target_properties(pelnar_host_interfaces PROPERTIES EXPORT_NAME HostInterfaces)
+target_include_directories(pelnar_host_interfaces INTERFACE "$<INSTALL_INTERFACE:${PELNAR_INSTALL_INCLUDEDIR}>")
+install(TARGETS pelnar_host_interfaces EXPORT PelnarUpdateCheckerTargets)
 install(TARGETS ${PELNAR_INSTALLED_TARGETS} EXPORT PelnarUpdateCheckerTargets
     LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
 if(NOT APPLE)
@@ -40,13 +43,15 @@ install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR
 configure_package_config_file(cmake/PelnarUpdateCheckerConfig.cmake.in
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
     INSTALL_DESTINATION "${PELNAR_INSTALL_CMAKEDIR}"
-    PATH_VARS PELNAR_INSTALL_LICENSES)
+    PATH_VARS PELNAR_INSTALL_LICENSES PELNAR_INSTALL_INCLUDEDIR)
 write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfigVersion.cmake"
     COMPATIBILITY SameMajorVersion)
 install(FILES
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfigVersion.cmake"
     cmake/PelnarBundle.cmake
+    cmake/HostOperations.cpp
+    cmake/PelnarHostFramework.cmake
     DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
 install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
 install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}")

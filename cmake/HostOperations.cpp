@@ -1,0 +1,26 @@
+// HostOperations.cpp: a part of every host framework that asks for each of its operations. The update checker asks for
+// some of them only at the first check; so a program whose framework lacks one is not linked, and the linker names it.
+// Thread: never run.
+
+#include "HostFramework/AlertBox.h"
+#include "HostFramework/Application.h"
+#include "HostFramework/NagScreenManager.h"
+#include "HostFramework/OSVersion.h"
+#include "HostFramework/SpontaneousDialog.h"
+#include "HostFramework/VersionText.h"
+
+namespace Pelnar
+{
+
+/// Deliberate: kept although nobody calls it.
+__attribute__((used)) void AskForEveryHostOperation()
+{
+    QString const text = Util::OSVersion();
+    Core::Version const version = Util::VersionFromString(text, text);
+    Util::AlertBox box(Util::AlertBox::Information, text,
+                       Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, text),
+                       QMessageBox::Ok, Util::SpontaneousDialog::findParent(), Qt::Dialog);
+    box.Exec();
+}
+
+} // namespace Pelnar

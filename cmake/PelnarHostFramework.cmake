@@ -1,0 +1,25 @@
+# pelnar_host_framework(<target>): makes a shared library a host framework in the place of the reference one. It gets the
+# headers of the host interfaces, and the meta-objects of those classes of theirs that Qt asks for.
+# docs/guide/own-host-framework.md tells what the library defines, and how programs are linked with it.
+
+set_property(GLOBAL PROPERTY PELNAR_HOST_OPERATIONS "${CMAKE_CURRENT_LIST_DIR}/HostOperations.cpp")
+
+function(pelnar_host_framework target)
+    get_target_property(type ${target} TYPE)
+    if(NOT type STREQUAL SHARED_LIBRARY)
+        message(FATAL_ERROR "pelnar_host_framework(${target}): a host framework is a shared library. The update checker "
+            "looks for its operations when the program runs, and would find none in a program or a static library.")
+    endif()
+    # Both are other ones in the project and where it is installed.
+    get_property(headers GLOBAL PROPERTY PELNAR_HOST_HEADERS)
+    get_property(operations GLOBAL PROPERTY PELNAR_HOST_OPERATIONS)
+    get_property(interfaces GLOBAL PROPERTY PELNAR_HOST_INTERFACES)
+    foreach(name IN ITEMS AlertBox Application NagScreenManager)
+        set(meta_object "${CMAKE_CURRENT_BINARY_DIR}/${target}_meta_objects/${name}.cpp")
+        qt5_generate_moc("${headers}/${name}.h" "${meta_object}" TARGET ${target})
+        set_source_files_properties("${meta_object}" PROPERTIES SKIP_AUTOMOC ON)
+        target_sources(${target} PRIVATE "${meta_object}")
+    endforeach()
+    target_sources(${target} PRIVATE "${operations}")
+    target_link_libraries(${target} PUBLIC ${interfaces})
+endfunction()

@@ -24,6 +24,8 @@
 # Name-1.2.tar.zst, and `cmake --install --component <name>` (without it, <target>_bundle) installs it. On macOS the same call
 # makes the usual bundle with Contents/; what concerns other systems is left out there.
 
+cmake_policy(VERSION 3.25)
+
 set(PELNAR_BUNDLE_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/bundle")
 
 set(PELNAR_BUNDLE_ONE_VALUE NAME IDENTIFIER VERSION DISPLAY_NAME DISPLAY_VERSION PUBLIC_KEY PUBLIC_KEY_FILE

@@ -56,7 +56,8 @@ function(pelnar_copy_package_license package folder)
     endforeach()
 endfunction()
 
-# Writes licenses/ for the files in the list `copied`, each "place in the bundle<TAB>where it comes from".
+# Writes licenses/ for the files in the list `copied`, each "place in the bundle<TAB>where it comes from"; `owner_...` says to
+# which packages those belong.
 function(pelnar_write_licenses)
     set(folder "${bundle}/licenses")
     file(MAKE_DIRECTORY "${folder}")
@@ -69,12 +70,6 @@ function(pelnar_write_licenses)
         file(REAL_PATH "${library}" library)
         list(APPEND own "${library}")
     endforeach()
-    set(sources)
-    foreach(entry IN LISTS copied)
-        string(REGEX REPLACE "^.*\t" "" source "${entry}")
-        list(APPEND sources "${source}")
-    endforeach()
-    pelnar_find_packages(owner ${sources})
     set(lines "${BUNDLE_HELPER_FOLDER}/pelnar-update-installer\tpelnar-update-checker and what is built in\tpelnar-update-checker.txt, built-in/\n")
     foreach(entry IN LISTS copied)
         string(REGEX MATCH "^(.*)\t(.*)$" entry "${entry}")

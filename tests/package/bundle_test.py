@@ -123,7 +123,7 @@ class Bundles(unittest.TestCase):
             self.assertTrue((bundle / name).is_file(), name)
         libraries = {path.name for path in bundle.glob("lib*/**/*.so*")}
         for name in ("libPelnarUpdateChecker.so.1", "libPelnarUpdateEngine.so.1", "libPelnarHostFramework.so.1",
-                     "libcurl.so.4", "libplugin.so"):
+                     "libcurl.so.4", "libplugin.so", "libpart.so.2"):
             self.assertIn(name, libraries)
         baseline = [line.split()[1] for line in (SOURCE / "cmake/bundle/Baseline.txt").read_text().splitlines()
                     if line and not line.startswith("#")]

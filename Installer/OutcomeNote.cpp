@@ -29,9 +29,7 @@ void OutcomeNote::EnterInstallation()
 
 void OutcomeNote::Fail(UpdateFault fault, int errorNumber)
 {
-    m_record.fault = fault;
-    m_record.errorNumber = errorNumber;
-    TryToWrite(InstallState::Failed);
+    TryToWrite(InstallState::Failed, fault, errorNumber);
 }
 
 void OutcomeNote::Succeed()
@@ -41,9 +39,7 @@ void OutcomeNote::Succeed()
 
 void OutcomeNote::FailStart(UpdateFault fault, int errorNumber)
 {
-    m_record.fault = fault;
-    m_record.errorNumber = errorNumber;
-    TryToWrite(InstallState::Installed);
+    TryToWrite(InstallState::Installed, fault, errorNumber);
 }
 
 void OutcomeNote::Write(InstallState state)
@@ -56,8 +52,10 @@ void OutcomeNote::Write(InstallState state)
     }
 }
 
-void OutcomeNote::TryToWrite(InstallState state)
+void OutcomeNote::TryToWrite(InstallState state, UpdateFault fault, int errorNumber)
 {
+    m_record.fault = fault;
+    m_record.errorNumber = errorNumber;
     try
     {
         Write(state);

@@ -26,7 +26,8 @@ public:
 
 private:
     void Write(Engine::InstallState state);
-    void TryToWrite(Engine::InstallState state);
+    void TryToWrite(Engine::InstallState state, Engine::UpdateFault fault = Engine::UpdateFault::None,
+                    int errorNumber = 0);
 
     Engine::InstallJob const& m_job;
     int m_recordsFd;

@@ -202,6 +202,26 @@ TEST_F(DownloadBudgetTest, AnswersOfAnotherLengthAreCounted)
     EXPECT_EQ(server.Requests().size(), 2u);
 }
 
+/// A server that sends the piece behind the head again and again, for as long as somebody listens.
+struct EndlessServer
+{
+    EndlessServer(QByteArray const& head, QByteArray const& piece)
+        : server(
+              [this, head, piece](QSslSocket& socket, QByteArray const& request, int number)
+              {
+                  QObject::connect(&socket, &QSslSocket::bytesWritten, &socket,
+                                   [this](qint64 bytes) { sent += bytes; });
+                  QObject::connect(&socket, &QSslSocket::disconnected, &socket, [this] { hasBeenLeft = true; });
+                  AnsweringWithoutEnd(head, piece)(socket, request, number);
+              })
+    {
+    }
+
+    qint64 sent = 0;
+    bool hasBeenLeft = false;
+    LoopbackServer server;
+};
+
 TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
 {
     for (QByteArray const& head :
@@ -211,22 +231,13 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
         RemoveFolder();
         bool const isInChunks = head.contains("chunked");
         QByteArray const piece(65536, 'x');
-        qint64 sent = 0;
-        bool hasLeft = false;
-        LoopbackServer server(
-            [&](QSslSocket& socket, QByteArray const& request, int number)
-            {
-                QObject::connect(&socket, &QSslSocket::bytesWritten, &socket, [&sent](qint64 bytes) { sent += bytes; });
-                QObject::connect(&socket, &QSslSocket::disconnected, &socket, [&hasLeft] { hasLeft = true; });
-                QByteArray const endless = isInChunks ? "10000\r\n" + piece + "\r\n" : piece;
-                AnsweringWithoutEnd(head, endless)(socket, request, number);
-            });
-        DownloadRequest const request = RequestFor(server.Url(), 300000);
+        EndlessServer endless(head, isInChunks ? "10000\r\n" + piece + "\r\n" : piece);
+        DownloadRequest const request = RequestFor(endless.server.Url(), 300000);
         DownloadResult const result = Run(request);
         EXPECT_EQ(result.cause, ErrorCause::DownloadLengthDiffers);
-        EXPECT_TRUE(WaitFor([&hasLeft] { return hasLeft; })) << "the server is left";
-        EXPECT_LT(sent, 16 * MEBIBYTE) << "what fits into the buffers of the system between the two";
-        EXPECT_EQ(server.Requests().size(), 1u);
+        EXPECT_TRUE(WaitFor([&endless] { return endless.hasBeenLeft; }));
+        EXPECT_LT(endless.sent, 16 * MEBIBYTE) << "what fits into the buffers of the system between the two";
+        EXPECT_EQ(endless.server.Requests().size(), 1u);
         for (DownloadProgress const& progress : result.progress)
         {
             EXPECT_LE(progress.doneBytes, 300000u);
@@ -239,23 +250,14 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
 
 TEST_F(DownloadBudgetTest, FramesOfChunksAreNoWayRoundIt)
 {
-    qint64 sent = 0;
-    bool hasLeft = false;
-    LoopbackServer server(
-        [&](QSslSocket& socket, QByteArray const& request, int number)
-        {
-            QObject::connect(&socket, &QSslSocket::bytesWritten, &socket, [&sent](qint64 bytes) { sent += bytes; });
-            QObject::connect(&socket, &QSslSocket::disconnected, &socket, [&hasLeft] { hasLeft = true; });
-            // Four kilobytes for each byte of the archive.
-            QByteArray const chunk = "1;" + QByteArray(4000, 'x') + "\r\ny\r\n";
-            AnsweringWithoutEnd("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n",
-                                chunk.repeated(16))(socket, request, number);
-        });
-    DownloadRequest request = RequestFor(server.Url(), 300000);
+    // Four kilobytes for each byte of the archive.
+    QByteArray const chunk = "1;" + QByteArray(4000, 'x') + "\r\ny\r\n";
+    EndlessServer endless("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n", chunk.repeated(16));
+    DownloadRequest request = RequestFor(endless.server.Url(), 300000);
     request.limits.rateWindow = milliseconds(1000);
     EXPECT_EQ(Run(request).cause, ErrorCause::MalformedChunk);
-    EXPECT_TRUE(WaitFor([&hasLeft] { return hasLeft; }));
-    EXPECT_LT(sent, 128 * MEBIBYTE) << "of more than a gigabyte";
+    EXPECT_TRUE(WaitFor([&endless] { return endless.hasBeenLeft; }));
+    EXPECT_LT(endless.sent, 128 * MEBIBYTE) << "of more than a gigabyte";
 }
 
 TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)

@@ -73,6 +73,15 @@ protected:
                 folder.filePath(QStringLiteral("trace"))};
     }
 
+    /// The words that run others in a network of their own, as \a script makes it.
+    QStringList InOwnNetwork(char const* script) const
+    {
+        return {QStringLiteral("unshare"),   QStringLiteral("--map-root-user"),
+                QStringLiteral("--net"),     QStringLiteral("--mount"),
+                QStringLiteral("sh"),        QStringLiteral("-c"),
+                QString::fromLatin1(script), folder.path()};
+    }
+
     bool CanTrace() const
     {
         return works(QStringLiteral("strace"), {QStringLiteral("-qq"), QStringLiteral("-e"),
@@ -181,14 +190,7 @@ char const TWO_ADDRESSES[] = "set -e\n"
 
 TEST_F(FetchProcessTest, AddressThatSwallowsPacketsCostsLessThanASecond)
 {
-    QStringList const ownNetwork{QStringLiteral("unshare"),
-                                 QStringLiteral("--map-root-user"),
-                                 QStringLiteral("--net"),
-                                 QStringLiteral("--mount"),
-                                 QStringLiteral("sh"),
-                                 QStringLiteral("-c"),
-                                 QString::fromLatin1(TWO_ADDRESSES),
-                                 folder.path()};
+    QStringList const ownNetwork = InOwnNetwork(TWO_ADDRESSES);
     if (!works(ownNetwork.front(), ownNetwork.mid(1) << QStringLiteral("true")))
     {
         GTEST_SKIP() << "no network of one's own can be made here";
@@ -222,14 +224,7 @@ INSTANTIATE_TEST_SUITE_P(Servers, Unreachable,
 
 TEST_P(Unreachable, IsGivenUpAtTheDeadlineForConnecting)
 {
-    QStringList const ownNetwork{QStringLiteral("unshare"),
-                                 QStringLiteral("--map-root-user"),
-                                 QStringLiteral("--net"),
-                                 QStringLiteral("--mount"),
-                                 QStringLiteral("sh"),
-                                 QStringLiteral("-c"),
-                                 QString::fromLatin1(BLACK_HOLE),
-                                 folder.path()};
+    QStringList const ownNetwork = InOwnNetwork(BLACK_HOLE);
     if (!works(ownNetwork.front(), ownNetwork.mid(1) << QStringLiteral("true")))
     {
         GTEST_SKIP() << "no network of one's own can be made here";

@@ -38,7 +38,7 @@ install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDE
     PATTERN "PelnarSparkle*" EXCLUDE
     PATTERN "LogSite.h" EXCLUDE)
 
-install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}")
+install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" PATTERN "*_p.h" EXCLUDE)
 
 configure_package_config_file(cmake/PelnarUpdateCheckerConfig.cmake.in
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
@@ -56,7 +56,7 @@ install(FILES
 install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
 install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}")
 
-list(TRANSFORM PELNAR_INSTALLED_TARGETS PREPEND "-l" OUTPUT_VARIABLE PELNAR_PC_LIBRARIES)
-list(JOIN PELNAR_PC_LIBRARIES " " PELNAR_PC_LIBRARIES)
+# Hosts link these. The update checker loads the others itself.
+set(PELNAR_PC_LIBRARIES "-lPelnarUpdateChecker -lPelnarHostFramework")
 configure_file(cmake/PelnarUpdateChecker.pc.in "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")

@@ -1,6 +1,8 @@
 // SessionTexts.cpp: the texts of the update dialogs that the session translates through a function of its own, where
 // lupdate does not see them. Read by lupdate only, never compiled.
 
+QT_TRANSLATE_NOOP("SparkleUpdater", "A part of this application that updates need is missing or damaged. Reinstall the "
+                                    "application.")
 QT_TRANSLATE_NOOP("SparkleUpdater", "Update is already running. Please try later.")
 QT_TRANSLATE_NOOP("SparkleUpdater", "A new version of %1 %2 is ready to install")
 QT_TRANSLATE_NOOP("SparkleUpdater", "The %1 %2 update has been downloaded and is waiting for your approval. Would you "

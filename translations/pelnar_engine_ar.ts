@@ -963,6 +963,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>جزء من هذا التطبيق تحتاج إليه التحديثات مفقود أو تالف. أعد تثبيت التطبيق.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>يوجد تحديث جارٍ بالفعل. يُرجى المحاولة لاحقًا.</translation>
     </message>

@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Ein Teil dieser Anwendung, den Updates brauchen, fehlt oder ist beschädigt. Installieren Sie die Anwendung neu.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Es läuft bereits eine Aktualisierung. Bitte versuchen Sie es später noch einmal.</translation>
     </message>

@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Falta o está dañada una parte de esta aplicación que necesitan las actualizaciones. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Ya hay una actualización en curso. Inténtelo más tarde.</translation>
     </message>

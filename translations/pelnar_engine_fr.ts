@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Une partie de cette application nécessaire aux mises à jour manque ou est endommagée. Réinstallez l’application.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Une mise à jour est déjà en cours. Veuillez réessayer plus tard.</translation>
     </message>

@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>חלק מהיישום הדרוש לעדכונים חסר או פגום. יש להתקין את היישום מחדש.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>כבר מתבצע עדכון. נא לנסות שוב מאוחר יותר.</translation>
     </message>

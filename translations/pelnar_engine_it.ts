@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Una parte di questa applicazione necessaria agli aggiornamenti manca o è danneggiata. Reinstalla l’applicazione.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>È già in corso un aggiornamento. Riprovare più tardi.</translation>
     </message>

@@ -948,6 +948,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>更新に必要なこのアプリケーションの一部が見つからないか、破損しています。アプリケーションを再インストールしてください。</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>アップデートはすでに実行中です。しばらくしてからもう一度お試しください。</translation>
     </message>

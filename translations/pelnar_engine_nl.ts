@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Een onderdeel van deze toepassing dat nodig is voor updates ontbreekt of is beschadigd. Installeer de toepassing opnieuw.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Er wordt al een update uitgevoerd. Probeer het later opnieuw.</translation>
     </message>

@@ -954,6 +954,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Brakuje części tej aplikacji potrzebnej do aktualizacji albo jest ona uszkodzona. Zainstaluj aplikację ponownie.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Aktualizacja już trwa. Spróbuj ponownie później.</translation>
     </message>

@@ -951,6 +951,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Uma parte deste aplicativo necessária para as atualizações está ausente ou danificada. Reinstale o aplicativo.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Já há uma atualização em andamento. Tente novamente mais tarde.</translation>
     </message>

@@ -954,6 +954,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>Часть этого приложения, нужная для обновлений, отсутствует или повреждена. Переустановите приложение.</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>Обновление уже выполняется. Повторите попытку позже.</translation>
     </message>

@@ -948,6 +948,10 @@
 <context>
     <name>SparkleUpdater</name>
     <message>
+        <source>A part of this application that updates need is missing or damaged. Reinstall the application.</source>
+        <translation>更新所需的此应用程序的某个部分缺失或已损坏。请重新安装该应用程序。</translation>
+    </message>
+    <message>
         <source>Update is already running. Please try later.</source>
         <translation>已有更新正在进行。请稍后再试。</translation>
     </message>

@@ -1,11 +1,11 @@
-#include <Pelnar/FeedAge.h>
+#include <Pelnar/HostRequests_p.h>
 
 #include "Engine/objc/BundleSettings_p.h"
 
-int Pelnar::UnchangedFeedDays()
+int Pelnar::Engine::DaysOfUnchangedFeed()
 {
     @autoreleasepool
     {
-        return Engine::UnchangedDays(Engine::ReadFeedRecord());
+        return UnchangedDays(ReadFeedRecord());
     }
 }

@@ -1,8 +1,8 @@
-#include <Pelnar/RelaunchArguments.h>
+#include <Pelnar/HostRequests_p.h>
 
 #include "Engine/core/update/KeptArguments.h"
 
-bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)
+bool Pelnar::Engine::KeepRelaunchArguments(std::vector<std::string> const& arguments)
 {
-    return Engine::KeptArguments::OfProcess().Keep(arguments);
+    return KeptArguments::OfProcess().Keep(arguments);
 }

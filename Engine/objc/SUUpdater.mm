@@ -4,7 +4,7 @@
 #include "Engine/objc/Updater_p.h"
 #include "Foundation/FoundationText.h"
 
-#include <Pelnar/GoodStart.h>
+#include <Pelnar/HostRequests_p.h>
 
 using namespace Pelnar::Engine;
 using namespace Pelnar::Foundation;
@@ -142,7 +142,4 @@ using namespace Pelnar::Foundation;
 
 @end
 
-void Pelnar::ConfirmGoodStart()
-{
-    [[SUUpdater sharedUpdater] confirmGoodStart];
-}
+void Pelnar::Engine::ConfirmStart() { [[SUUpdater sharedUpdater] confirmGoodStart]; }

@@ -5,7 +5,7 @@
 #include "tests/engine/SignedFeedText.h"
 #include "tests/support/ProcessFootprint.h"
 
-#include <Pelnar/FeedAge.h>
+#include <Pelnar/HostRequests_p.h>
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -282,7 +282,7 @@ TEST_F(SignedFeedCheck, FloorThatNoDiskKeepsHoldsAsLongAsTheProcess)
 
 TEST_F(SignedFeedCheck, HostCanAskForHowLongTheFeedHasNotChanged)
 {
-    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0) << "no feed yet";
+    EXPECT_EQ(Pelnar::Engine::DaysOfUnchangedFeed(), 0) << "no feed yet";
     QByteArray const feed = SignedFeedOf("5.1");
     QByteArray const firstSeen =
         QDateTime::currentDateTimeUtc().addDays(-400).toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")).toLatin1();
@@ -290,10 +290,10 @@ TEST_F(SignedFeedCheck, HostCanAskForHowLongTheFeedHasNotChanged)
                 "\"; firstSeen = <*D" + firstSeen + " +0000>;");
     LogCapture log;
     EXPECT_EQ(Check(feed), (Events{"asked", "found 5.1"}));
-    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 400);
+    EXPECT_EQ(Pelnar::Engine::DaysOfUnchangedFeed(), 400);
     EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "The update feed has not changed for 400 days"));
     EXPECT_EQ(Check(SignedFeedOf("5.2")), (Events{"asked", "found 5.2"}));
-    EXPECT_EQ(Pelnar::UnchangedFeedDays(), 0);
+    EXPECT_EQ(Pelnar::Engine::DaysOfUnchangedFeed(), 0);
 }
 
 } // namespace

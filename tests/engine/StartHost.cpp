@@ -6,7 +6,7 @@
 #include "tests/engine/ScriptedDelegate.h"
 #include "tests/support/DialogDriver.h"
 
-#include <Pelnar/GoodStart.h>
+#include <Pelnar/HostRequests_p.h>
 
 #include <glog/logging.h>
 
@@ -39,7 +39,7 @@ int main(int argc, char** argv)
     }
     if (arguments.contains(QStringLiteral("confirm")))
     {
-        Pelnar::ConfirmGoodStart();
+        Pelnar::Engine::ConfirmStart();
     }
     bool hasEnded = driver.WaitForEnd();
     if (arguments.contains(QStringLiteral("listen")))

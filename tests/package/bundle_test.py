@@ -122,8 +122,8 @@ class Bundles(unittest.TestCase):
                      "Resources/data/a file.txt", "licenses/application/licence.txt", "licenses/list.txt"):
             self.assertTrue((bundle / name).is_file(), name)
         libraries = {path.name for path in bundle.glob("lib*/**/*.so*")}
-        for name in ("libPelnarUpdateChecker.so.1", "libPelnarUpdateEngine.so.1", "libPelnarHostFramework.so.1",
-                     "libcurl.so.4", "libplugin.so", "libpart.so.2"):
+        for name in ("libPelnarUpdateChecker.so.1", "libPelnarUpdateSession.so.1", "libPelnarUpdateEngine.so.1",
+                     "libPelnarHostFramework.so.1", "libcurl.so.4", "libplugin.so", "libpart.so.2"):
             self.assertIn(name, libraries)
         baseline = [line.split()[1] for line in (SOURCE / "cmake/bundle/Baseline.txt").read_text().splitlines()
                     if line and not line.startswith("#")]

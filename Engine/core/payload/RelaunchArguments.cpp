@@ -18,24 +18,6 @@ constexpr std::size_t MAX_FILE_BYTES =
 
 } // namespace
 
-char const* FaultOfRelaunchArguments(std::vector<std::string> const& arguments)
-{
-    if (arguments.size() > RELAUNCH_ARGUMENTS_MAX_COUNT)
-    {
-        return "they are more than 1024";
-    }
-    std::size_t bytes = 0;
-    for (std::string const& argument : arguments)
-    {
-        if (argument.find('\0') != std::string::npos)
-        {
-            return "one of them holds a NUL";
-        }
-        bytes += argument.size() + 1;
-    }
-    return bytes > RELAUNCH_ARGUMENTS_MAX_BYTES ? "they are longer than 64 KiB" : nullptr;
-}
-
 std::string EncodeRelaunchArguments(std::vector<std::string> const& arguments)
 {
     FieldWriter writer(RELAUNCH_ARGUMENTS_MAGIC);

@@ -3,7 +3,8 @@
 // Thread: any; plain values. Ownership: none.
 #pragma once
 
-#include <cstddef>
+#include "Engine/include/Pelnar/RelaunchLimits_p.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,13 +12,6 @@
 
 namespace Pelnar::Engine
 {
-
-constexpr std::size_t RELAUNCH_ARGUMENTS_MAX_COUNT = 1024;
-/// All arguments together, each with the NUL that ends it. A system starts a program with many times that.
-constexpr std::size_t RELAUNCH_ARGUMENTS_MAX_BYTES = std::size_t{64} << 10;
-
-/// What is wrong with \a arguments, as the end of a sentence; null when a program can be started with them.
-char const* FaultOfRelaunchArguments(std::vector<std::string> const& arguments);
 
 /// The bytes before the first list of arguments: who reads no more than them reads none.
 constexpr std::string_view RELAUNCH_ARGUMENTS_MAGIC = "PELNARA1";

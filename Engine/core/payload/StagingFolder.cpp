@@ -2,6 +2,7 @@
 
 #include "Engine/core/delta/ContentHasher.h"
 #include "Engine/core/payload/UpdateFault.h"
+#include "Engine/include/Pelnar/UpdateFiles_p.h"
 
 #include <cerrno>
 #include <climits>
@@ -42,7 +43,7 @@ std::string Hexadecimal(Bytes bytes)
 std::string NameFor(std::string_view targetName)
 {
     ContentHash const hash = HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()));
-    return ".pelnar-" + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
+    return std::string(UPDATE_FILES_BEGIN) + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
 }
 
 std::string RandomText()
@@ -105,7 +106,7 @@ std::string LockFileName(std::string_view targetName)
 
 std::string AsideName()
 {
-    return ".pelnar-aside-" + RandomText();
+    return std::string(ASIDE_FILES_BEGIN) + RandomText();
 }
 
 bool HasUpdateFiles(int folderFd, std::string_view targetName)

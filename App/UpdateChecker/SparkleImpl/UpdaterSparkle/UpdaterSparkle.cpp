@@ -1,6 +1,7 @@
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
@@ -16,6 +17,9 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <exception>
+#include <string>
+
 namespace Pelnar::App
 {
 namespace
@@ -23,6 +27,19 @@ namespace
 
 Core::LogFile const LOG_FILE("App/UpdateChecker/SparkleImpl/UpdaterSparkle");
 Core::LogSite const CALLBACK_WITHOUT_UPDATER{Core::LogSeverity::Error, LOG_FILE, 49, ""};
+Core::LogSite const CHECK_NOT_STARTED{Core::LogSeverity::Error, LOG_FILE, 58, ""};
+
+QString RunningUpdateText()
+{
+    return QCoreApplication::translate("SparkleUpdater", "Update is already running. Please try later.");
+}
+
+QString MissingSessionText()
+{
+    return QCoreApplication::translate("SparkleUpdater",
+                                       "A part of this application that updates need is missing or damaged. Reinstall "
+                                       "the application.");
+}
 
 } // namespace
 
@@ -35,8 +52,16 @@ public:
     Impl(Impl const&) = delete;
     Impl& operator=(Impl const&) = delete;
 
+    /// Takes the lock of the session, if there is one.
+    void TakeSession(ISession* opened);
+    /// Starts the check that has waited for the session. Throws nothing.
+    void StartWaitingCheck(ISession* opened, AbstractUpdaterImpl& owner);
+
     std::shared_ptr<SparkleUpdateContext> context;
-    bool locked = false;              ///< the session is this updater's, for the whole of its life
+    ISession* session = nullptr;      ///< null until it is open, and when it cannot be opened
+    bool isOpeningSession = true;     ///< the session is being loaded: what it would be asked has to wait
+    bool isCheckWaiting = false;      ///< for the session
+    bool locked = false;              ///< the session is this updater's, from its opening to the end of the updater
     std::function<void()> hideDialog; ///< set while the alert is open
 };
 
@@ -70,14 +95,68 @@ UpdaterSparkle::Impl::Impl(NotNull<std::shared_ptr<ICustomizationManager>> const
     };
     context->relaunchPathGetter = [service = customization.Get()](Core::Version const& version)
     { return RelaunchPathFor(service->GetBundleNameFirstPart(), service->GetBundleNameSecondPart(), version); };
-    locked = SparkleManager::GetInstance().LockUpdater(context);
+    OpenSession(*owner,
+                [this, owner](ISession* opened)
+                {
+                    if (isCheckWaiting)
+                    {
+                        StartWaitingCheck(opened, *owner);
+                        return;
+                    }
+                    TakeSession(opened);
+                });
+}
+
+void UpdaterSparkle::Impl::TakeSession(ISession* opened)
+{
+    isOpeningSession = false;
+    session = opened;
+    if (!session)
+    {
+        // As after any check that fails.
+        context->remoteVersion = context->localVersion;
+        return;
+    }
+    locked = session->LockUpdater(context);
+}
+
+void UpdaterSparkle::Impl::StartWaitingCheck(ISession* opened, AbstractUpdaterImpl& owner)
+{
+    QPointer<AbstractUpdaterImpl> const self(&owner);
+    // The host's call has returned, so nothing may be thrown here: a check that cannot be started is one that fails.
+    std::string failure;
+    try
+    {
+        TakeSession(opened);
+        if (locked)
+        {
+            session->CheckForUpdates();
+            return;
+        }
+    }
+    catch (std::exception const& exception)
+    {
+        failure = exception.what();
+    }
+    catch (...) // the framework's
+    {
+        failure = "an exception of another kind";
+    }
+    if (!failure.empty())
+    {
+        Core::Write(CHECK_NOT_STARTED, "Exception while a check was started: " + failure);
+    }
+    if (self)
+    {
+        Q_EMIT self->NotifyCheckFinished(UpdateCheckResult::NoUpdate);
+    }
 }
 
 UpdaterSparkle::Impl::~Impl()
 {
     if (locked)
     {
-        SparkleManager::GetInstance().UnlockUpdaterWhenPossible();
+        session->UnlockUpdaterWhenPossible();
     }
     // After the unlocking, and also without the lock: a session that keeps the context must not call into this object.
     context->checkFinishedCallback = nullptr;
@@ -93,12 +172,17 @@ UpdaterSparkle::~UpdaterSparkle() = default;
 
 void UpdaterSparkle::CheckForUpdates()
 {
+    if (m_impl->isOpeningSession)
+    {
+        m_impl->isCheckWaiting = true;
+        return;
+    }
     if (!m_impl->locked)
     {
         Q_EMIT NotifyCheckFinished(UpdateCheckResult::NoUpdate);
         return;
     }
-    SparkleManager::GetInstance().CheckForUpdates();
+    m_impl->session->CheckForUpdates();
 }
 
 Core::Version UpdaterSparkle::GetRemoteVersion() const
@@ -111,7 +195,7 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
     m_impl->context->parentWidgetGetter = parentGetter;
     if (m_impl->locked)
     {
-        SparkleManager::GetInstance().ShowUpdateDialog();
+        m_impl->session->ShowUpdateDialog();
         return;
     }
 
@@ -123,13 +207,14 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
     {
         return;
     }
+    bool const isMissing = !m_impl->session && !m_impl->isOpeningSession;
     QPointer<Util::AlertBox> const alert(new Util::AlertBox(
-        Util::AlertBox::Information, QString(),
-        QCoreApplication::translate("SparkleUpdater", "Update is already running. Please try later."), QMessageBox::Ok,
+        Util::AlertBox::Information, QString(), isMissing ? MissingSessionText() : RunningUpdateText(), QMessageBox::Ok,
         parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
     Core::ScopedFunctionCall const deleteAlert(
         nullptr, [alert] { delete alert.data(); }, true);
-    alert->setObjectName(QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
+    alert->setObjectName(isMissing ? QStringLiteral("SparkleUpdater_updaterIsMissingDialog")
+                                   : QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
     Core::ValueGuard<std::function<void()>> hideGuard(m_impl->hideDialog,
                                                       [alert]
                                                       {
@@ -159,7 +244,10 @@ void UpdaterSparkle::RejectUpdateAndHideDialog()
     {
         hideDialog();
     }
-    SparkleManager::GetInstance().RejectUpdateAndHideDialog();
+    if (m_impl->session)
+    {
+        m_impl->session->RejectUpdateAndHideDialog();
+    }
 }
 
 } // namespace Pelnar::App

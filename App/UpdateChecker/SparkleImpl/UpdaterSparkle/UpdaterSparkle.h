@@ -18,7 +18,9 @@ class PELNAR_EXPORT UpdaterSparkle : public AbstractUpdaterImpl
     Q_OBJECT
 
 public:
-    /// Asks the session for its lock; a refusal is no error, the operations then answer without the session.
+    /// Asks the session for its lock; a refusal is no error, the operations then answer without the session. A session
+    /// that has to be loaded first is asked when it is, and a check waits for that; one that cannot be loaded counts as
+    /// a check that fails.
     /// \a inBackground is true for a check that the user did not ask for. Throws std::logic_error when \a customization
     /// is null.
     UpdaterSparkle(std::shared_ptr<ICustomizationManager> const& customization,

@@ -1,0 +1,56 @@
+// What a host says to the engine and asks of it without a check, passed on.
+
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionLibrary_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/UpdateTraces_p.h"
+#include "common/LogSite.h"
+
+#include <Pelnar/FeedAge.h>
+#include <Pelnar/GoodStart.h>
+#include <Pelnar/RelaunchArguments.h>
+#include <Pelnar/RelaunchLimits_p.h>
+
+using Pelnar::App::SessionExport;
+using Pelnar::App::SessionLibrary;
+
+namespace
+{
+
+Pelnar::Core::LogFile const LOG_FILE("App/UpdateChecker/SparkleImpl/HostRequests");
+Pelnar::Core::LogSite const ARGUMENTS_REFUSED{Pelnar::Core::LogSeverity::Error, LOG_FILE, 24, ""};
+
+} // namespace
+
+void Pelnar::ConfirmGoodStart()
+{
+    SessionLibrary& library = SessionLibrary::Instance();
+    // Loaded before this returns, which it seldom is: a host that ends right after the call has started well, too.
+    SessionExport const* const loaded = App::MayHaveUpdateFiles() ? library.Load() : library.Loaded();
+    if (loaded)
+    {
+        loaded->confirmGoodStart();
+    }
+}
+
+int Pelnar::UnchangedFeedDays()
+{
+    SessionExport const* const loaded = SessionLibrary::Instance().Load();
+    return loaded ? loaded->unchangedFeedDays() : 0;
+}
+
+bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)
+{
+    if (char const* const fault = Engine::FaultOfRelaunchArguments(arguments))
+    {
+        Core::Write(ARGUMENTS_REFUSED, std::string("The arguments for the next start are refused, since ") + fault);
+        return false;
+    }
+    SessionLibrary& library = SessionLibrary::Instance();
+    if (SessionExport const* const loaded = library.Loaded())
+    {
+        return loaded->setRelaunchArguments(arguments);
+    }
+    // Without the engine there is no update to start anything after.
+    library.WhenLoaded([arguments](SessionExport const& loaded) { (void)loaded.setRelaunchArguments(arguments); });
+    return true;
+}

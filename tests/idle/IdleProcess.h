@@ -1,0 +1,39 @@
+// IdleProcess.h: runs the small hosts of these tests, with the update checker's libraries in a folder of the test's.
+// Thread: main, with Qt's event loop. Ownership: the place owns its folder.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QTemporaryDir>
+
+namespace Pelnar::Testing
+{
+
+/// The lines that \a program prints, standard output first.
+QStringList LinesOf(QString const& program, QStringList const& words);
+
+/// The names of the libraries that are loaded by the last of \a lines.
+QStringList LibrariesIn(QStringList const& lines);
+
+/// A folder from which a host loads the update checker, and which so has to hold the session, too.
+class LibraryPlace
+{
+public:
+    LibraryPlace();
+
+    QString Path(QString const& name) const { return m_folder.filePath(name); }
+    QString SessionPath() const { return Path(QStringLiteral("libPelnarUpdateSession.so.1")); }
+    QString EnginePath() const { return Path(QStringLiteral("libPelnarUpdateEngine.so.1")); }
+    /// As Path of a feed with version 5.10, as an address.
+    QString Feed() const;
+    static void Copy(QString const& from, QString const& to);
+
+    /// Runs the host over this folder; \a libraryPath is how the loader is told of it.
+    QStringList Run(QStringList const& words) const;
+    QStringList RunWith(QString const& libraryPath, QStringList const& words) const;
+
+private:
+    QTemporaryDir m_folder;
+};
+
+} // namespace Pelnar::Testing

@@ -1,8 +1,5 @@
 #include "bench/MeteredApplication.h"
 
-#include <QThread>
-
-#include <algorithm>
 #include <cstdio>
 #include <ctime>
 
@@ -32,42 +29,23 @@ double NanosecondsWithoutProcessor()
     return isRead && std::sscanf(text, "%*s %lf", &waited) == 1 ? waited : 0;
 }
 
-struct Moment
-{
-    double wall = NanosecondsOf(CLOCK_MONOTONIC);
-    double computing = NanosecondsOf(CLOCK_THREAD_CPUTIME_ID);
-    double withoutProcessor = NanosecondsWithoutProcessor();
-    long waits = 0;
+} // namespace
 
-    Moment()
-    {
-        rusage usage{};
-        ::getrusage(RUSAGE_THREAD, &usage);
-        waits = usage.ru_nvcsw;
-    }
-};
+Moment::Moment()
+    : wall(NanosecondsOf(CLOCK_MONOTONIC))
+    , computing(NanosecondsOf(CLOCK_THREAD_CPUTIME_ID))
+    , withoutProcessor(NanosecondsWithoutProcessor())
+{
+    rusage usage{};
+    ::getrusage(RUSAGE_THREAD, &usage);
+    waits = usage.ru_nvcsw;
+}
 
 double StallBetween(Moment const& begin, Moment const& end)
 {
     // Without a wait the rest of the time is what the machine's other guests took.
     return end.waits == begin.waits ? end.computing - begin.computing
                                     : end.wall - begin.wall - (end.withoutProcessor - begin.withoutProcessor);
-}
-
-} // namespace
-
-bool MeteredApplication::notify(QObject* receiver, QEvent* event)
-{
-    if (m_depth > 0 || QThread::currentThread() != thread())
-    {
-        return QCoreApplication::notify(receiver, event);
-    }
-    ++m_depth;
-    Moment const begin;
-    bool const answer = QCoreApplication::notify(receiver, event);
-    m_longest = std::max(m_longest, StallBetween(begin, Moment()));
-    --m_depth;
-    return answer;
 }
 
 } // namespace Pelnar::Bench

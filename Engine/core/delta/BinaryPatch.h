@@ -39,6 +39,20 @@ struct BinaryPatch
     ByteBuffer const& operator[](PatchStream stream) const { return streams[static_cast<std::size_t>(stream)]; }
 };
 
+/// What a step of a patch says.
+struct PatchStep
+{
+    std::uint64_t likeBytes = 0;
+    std::uint64_t extraBytes = 0;
+    std::uint64_t move = 0; ///< twice its distance, less one when it goes back
+};
+
+/// The position in the old file after \a move.
+constexpr std::uint64_t MovedBy(std::uint64_t position, std::uint64_t move)
+{
+    return move % 2 != 0 ? position - (move / 2 + 1) : position + move / 2;
+}
+
 /// The largest old file that MakeBinaryPatch takes.
 constexpr std::size_t MAX_PATCH_SOURCE_BYTES = 0x7FFFFFFE;
 
@@ -56,11 +70,12 @@ using ByteSink = std::function<bool(Bytes bytes)>;
 enum class PatchVerdict
 {
     Applied,
-    SourceEnded, ///< a stream ended early or could not be read
-    BadNumber,   ///< longer than needed, over 64 bits, or a run or step of nothing
-    OutOfRange,  ///< a step reads outside the old file
-    WrongSize,   ///< the steps make more bytes than declared, or leave some of a stream
-    SinkRefused, ///< the new bytes could not be written
+    SourceEnded,  ///< a stream ended early or could not be read
+    BadNumber,    ///< longer than needed, over 64 bits, or a run or step of nothing
+    OutOfRange,   ///< a step reads outside the old file
+    WrongSize,    ///< the steps make more bytes than declared, or leave some of a stream
+    TooManySteps, ///< more than were to be kept
+    SinkRefused,  ///< the new bytes could not be written
 };
 
 /// Makes the \a newSize bytes of the new file in pieces of at most 64 KiB. Constant memory; any bytes are safe.

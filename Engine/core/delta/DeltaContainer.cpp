@@ -1,32 +1,20 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
+#include "Engine/core/delta/StreamUnpacker.h"
 #include "Engine/core/delta/TreeAccess.h"
 
 #include <sys/stat.h>
 #include <unistd.h>
-#include <zstd.h>
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <new>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-constexpr std::array<std::uint8_t, 8> MAGIC{'P', 'E', 'L', 'D', 'E', 'L', 'T', 'A'};
-constexpr std::uint64_t FORMAT_VERSION = 2;
-constexpr int COMPRESSION_LEVEL = 19;
-
-void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
-{
-    for (int shift = 0; shift < 64; shift += 8)
-    {
-        bytes.push_back(static_cast<std::uint8_t>(number >> shift));
-    }
-}
 
 std::uint64_t ReadFixed(std::uint8_t const* bytes)
 {
@@ -56,40 +44,30 @@ DeltaOutcome ReadFailure()
 bool DataFits(DeltaManifest const& manifest, std::uint64_t dataOffset, std::uint64_t fileSize)
 {
     std::uint64_t rest = fileSize - dataOffset;
-    for (DeltaEntry const& entry : manifest.entries)
+    auto const takes = [&rest](std::uint64_t size)
     {
-        if (entry.StoredBytes() > rest)
-        {
-            return false;
-        }
-        rest -= entry.StoredBytes();
-    }
-    return rest == 0;
+        bool const fits = size <= rest;
+        rest -= fits ? size : 0;
+        return fits;
+    };
+    return std::all_of(manifest.entries.begin(), manifest.entries.end(),
+                       [&takes](DeltaEntry const& entry) { return takes(entry.StoredBytes()); }) &&
+           std::all_of(manifest.streams.begin(), manifest.streams.end(),
+                       [&takes](StoredStream const& stream) { return takes(stream.size); }) &&
+           rest == 0;
 }
 
 } // namespace
 
 struct DeltaStream::State
 {
-    State(int containerFd, std::uint64_t begin, std::uint64_t size)
-        : fd(containerFd), offset(begin), missing(size), context(ZSTD_createDCtx()), isFrameDone(size == 0)
+    State(int containerFd, std::uint64_t begin, StoredStream const& stored, int windowLog)
+        : fd(containerFd), offset(begin), missing(stored.size), unpacker(MakeUnpacker(stored.packing, windowLog))
     {
-        if (!context)
-        {
-            throw std::bad_alloc();
-        }
-        ZSTD_DCtx_setParameter(context, ZSTD_d_windowLogMax, DELTA_WINDOW_LOG);
     }
-    ~State() { ZSTD_freeDCtx(context); }
-    State(State const&) = delete;
-    State& operator=(State const&) = delete;
 
     bool Refill()
     {
-        if (input.pos < input.size)
-        {
-            return true;
-        }
         auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(missing, buffer.size()));
         if (piece == 0 || !ReadAt(fd, offset, buffer.data(), piece))
         {
@@ -97,21 +75,21 @@ struct DeltaStream::State
         }
         offset += piece;
         missing -= piece;
-        input = {buffer.data(), piece, 0};
+        input = Bytes(buffer.data(), piece);
         return true;
     }
 
     int fd;
     std::uint64_t offset;
     std::uint64_t missing; ///< compressed bytes not read yet
-    ZSTD_DCtx* context;
+    std::unique_ptr<IUnpacker> unpacker;
     std::array<std::uint8_t, 64 * 1024> buffer;
-    ZSTD_inBuffer input{nullptr, 0, 0};
-    bool isFrameDone;
+    Bytes input;
+    bool isDone = missing == 0;
 };
 
-DeltaStream::DeltaStream(int containerFd, std::uint64_t offset, std::uint64_t size)
-    : m_state(std::make_unique<State>(containerFd, offset, size))
+DeltaStream::DeltaStream(int containerFd, std::uint64_t offset, StoredStream const& stored, int windowLog)
+    : m_state(std::make_unique<State>(containerFd, offset, stored, windowLog))
 {
 }
 
@@ -120,61 +98,32 @@ DeltaStream::DeltaStream(DeltaStream&&) noexcept = default;
 
 std::size_t DeltaStream::Read(std::uint8_t* target, std::size_t size)
 {
-    ZSTD_outBuffer output{target, size, 0};
-    while (output.pos < output.size)
+    std::size_t made = 0;
+    while (made < size && !m_state->isDone)
     {
-        if (m_state->isFrameDone)
-        {
-            break;
-        }
-        std::size_t const before = output.pos;
-        std::size_t const answer = ZSTD_decompressStream(m_state->context, &output, &m_state->input);
-        if (ZSTD_isError(answer))
-        {
-            break;
-        }
-        m_state->isFrameDone = answer == 0;
-        if (output.pos == before && !m_state->isFrameDone && !m_state->Refill())
+        std::size_t const before = m_state->input.size();
+        IUnpacker::Step const step = m_state->unpacker->Unpack(m_state->input, target + made, size - made);
+        made += step.made;
+        m_state->isDone = step.state == IUnpacker::State::Ended;
+        bool const isStuck = step.made == 0 && m_state->input.size() == before && !m_state->isDone;
+        bool const isFed = !isStuck || (m_state->input.empty() && m_state->Refill());
+        if (step.state == IUnpacker::State::Damaged || !isFed)
         {
             break;
         }
     }
-    return output.pos;
+    return made;
 }
 
 bool DeltaStream::IsAtEnd()
 {
-    // The end of the frame may stand in bytes that no output needed: ask for one byte that must not come.
+    // The end of the stream may stand in bytes that no output needed: ask for one byte that must not come.
     std::uint8_t byte = 0;
-    if (!m_state->isFrameDone && Read(&byte, 1) > 0)
+    if (!m_state->isDone && Read(&byte, 1) > 0)
     {
         return false;
     }
-    return m_state->isFrameDone && m_state->missing == 0 && m_state->input.pos == m_state->input.size;
-}
-
-ByteBuffer CompressForDelta(Bytes bytes)
-{
-    std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> const context(ZSTD_createCCtx(), ZSTD_freeCCtx);
-    ByteBuffer stored(bytes.empty() ? 0 : ZSTD_compressBound(bytes.size()));
-    if (stored.empty())
-    {
-        return stored;
-    }
-    if (!context)
-    {
-        throw std::bad_alloc();
-    }
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_compressionLevel, COMPRESSION_LEVEL);
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_enableLongDistanceMatching, 1);
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_windowLog, DELTA_WINDOW_LOG);
-    std::size_t const size = ZSTD_compress2(context.get(), stored.data(), stored.size(), bytes.data(), bytes.size());
-    if (ZSTD_isError(size))
-    {
-        throw std::bad_alloc();
-    }
-    stored.resize(size);
-    return stored;
+    return m_state->isDone && m_state->missing == 0 && m_state->input.empty();
 }
 
 DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict)
@@ -196,21 +145,11 @@ DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict)
     case DeltaManifestError::BadFlag:
     case DeltaManifestError::BadSource:
     case DeltaManifestError::NotInOrder:
+    case DeltaManifestError::BadUnit:
+    case DeltaManifestError::BadPacking:
         break;
     }
     return {DeltaError::Damaged, verdict.path, 0};
-}
-
-ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest)
-{
-    ByteBuffer const plain = EncodeDeltaManifest(manifest);
-    ByteBuffer const stored = CompressForDelta(Bytes(plain.data(), plain.size()));
-    ByteBuffer opening(MAGIC.begin(), MAGIC.end());
-    AppendFixed(opening, FORMAT_VERSION);
-    AppendFixed(opening, stored.size());
-    AppendFixed(opening, plain.size());
-    opening.insert(opening.end(), stored.begin(), stored.end());
-    return opening;
 }
 
 DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, DeltaManifest& manifest,
@@ -226,10 +165,14 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     {
         return errno == 0 ? DeltaOutcome{DeltaError::NotADelta, {}, 0} : ReadFailure();
     }
-    if (!std::equal(MAGIC.begin(), MAGIC.end(), header.begin()) || ReadFixed(&header[8]) != FORMAT_VERSION)
+    std::uint64_t const format = ReadFixed(&header[8]);
+    bool const isKnown = format == static_cast<std::uint64_t>(DeltaFormat::Separate) ||
+                         format == static_cast<std::uint64_t>(DeltaFormat::Joined);
+    if (!std::equal(DELTA_MAGIC.begin(), DELTA_MAGIC.end(), header.begin()) || !isKnown)
     {
         return {DeltaError::NotADelta, {}, 0};
     }
+    manifest.format = static_cast<DeltaFormat>(format);
     std::uint64_t const storedBytes = ReadFixed(&header[16]);
     std::uint64_t const manifestBytes = ReadFixed(&header[24]);
     auto const fileSize = static_cast<std::uint64_t>(status.st_size);
@@ -242,7 +185,8 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
         return {DeltaError::Damaged, {}, 0};
     }
     ByteBuffer plain(static_cast<std::size_t>(manifestBytes));
-    DeltaStream stream(containerFd, DELTA_HEADER_BYTES, storedBytes);
+    DeltaStream stream(containerFd, DELTA_HEADER_BYTES, {ManifestPackingOf(manifest.format), storedBytes},
+                       ManifestWindowLogOf(manifest.format));
     errno = 0;
     if (stream.Read(plain.data(), plain.size()) != plain.size() || !stream.IsAtEnd())
     {

@@ -4,6 +4,7 @@
 
 #include "Engine/core/delta/DeltaManifest.h"
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -35,9 +36,30 @@ struct DeltaOutcome
     [[nodiscard]] bool HasSucceeded() const { return error == DeltaError::None; }
 };
 
+constexpr std::array<std::uint8_t, 8> DELTA_MAGIC{'P', 'E', 'L', 'D', 'E', 'L', 'T', 'A'};
 constexpr std::size_t DELTA_HEADER_BYTES = 32;
-/// No stream of a container needs more than this to be decompressed.
+/// No stream of a container in the separate format needs more than this to be decompressed.
 constexpr int DELTA_WINDOW_LOG = 27;
+/// And none of one in the joined format: all five are open at once.
+constexpr int NUMBERS_WINDOW_LOG = 22;
+constexpr int EXTRA_WINDOW_LOG = 24;
+
+/// What the stream may need in the joined format.
+constexpr int WindowLogOf(PatchStream stream)
+{
+    return stream == PatchStream::Extra ? EXTRA_WINDOW_LOG : NUMBERS_WINDOW_LOG;
+}
+
+/// The joined format's is packed by LZMA with the properties 3.
+constexpr std::uint8_t ManifestPackingOf(DeltaFormat format)
+{
+    return format == DeltaFormat::Joined ? 4 : 0;
+}
+
+constexpr int ManifestWindowLogOf(DeltaFormat format)
+{
+    return format == DeltaFormat::Joined ? NUMBERS_WINDOW_LOG : DELTA_WINDOW_LOG;
+}
 
 /// Reads the header and the manifest of the container open at \a containerFd. \a dataOffset is where the data of the
 /// first entry begins; the data ends exactly where the file does.
@@ -47,15 +69,13 @@ constexpr int DELTA_WINDOW_LOG = 27;
 /// What a manifest that breaks a rule means for its container.
 [[nodiscard]] DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict);
 
-/// The header and the compressed manifest that open a container.
-[[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
-
 /// One compressed stream of a container, decompressed piece by piece. One of no bytes is an empty stream.
 class DeltaStream
 {
 public:
-    /// \a size bytes from \a offset of the file open at \a containerFd, which stays open as long as this object.
-    DeltaStream(int containerFd, std::uint64_t offset, std::uint64_t size);
+    /// \a stored from \a offset of the file open at \a containerFd, which stays open as long as this object. Needs no
+    /// more memory than a window of \a windowLog.
+    DeltaStream(int containerFd, std::uint64_t offset, StoredStream const& stored, int windowLog = DELTA_WINDOW_LOG);
     ~DeltaStream();
     DeltaStream(DeltaStream&&) noexcept;
 
@@ -69,8 +89,5 @@ private:
     struct State;
     std::unique_ptr<State> m_state;
 };
-
-/// zstd's answer at the level that containers are made with; nothing for nothing.
-[[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes);
 
 } // namespace Pelnar::Engine

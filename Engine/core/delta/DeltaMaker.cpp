@@ -1,16 +1,15 @@
 #include "Engine/core/delta/DeltaMaker.h"
 
-#include "Engine/core/delta/ContentHasher.h"
-#include "Engine/core/delta/TreeAccess.h"
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "Engine/core/delta/DeltaContainerWriter.h"
+#include "Engine/core/delta/JoinedApplier.h"
+#include "Engine/core/delta/PatchWriter.h"
+#include "Engine/core/delta/UnitPlan.h"
+#include "Engine/core/delta/UnitSearch.h"
+#include "Engine/core/delta/WorkCrew.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <map>
-#include <optional>
+#include <deque>
 #include <system_error>
 
 namespace Pelnar::Engine
@@ -20,218 +19,161 @@ namespace
 
 namespace fs = std::filesystem;
 
-/// A file of a tree, open and mapped.
-class OpenedFile
-{
-public:
-    explicit OpenedFile(fs::path const& path)
-        : m_fd(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC)), m_mapping(m_fd.Get(), SizeOf(m_fd.Get()))
-    {
-    }
-
-    [[nodiscard]] bool IsValid() const { return m_fd && m_mapping.IsValid(); }
-    Bytes Content() const { return m_mapping.Content(); }
-
-private:
-    static std::size_t SizeOf(int fd)
-    {
-        struct stat status;
-        return fstat(fd, &status) == 0 ? static_cast<std::size_t>(status.st_size) : 0;
-    }
-
-    UniqueFd m_fd;
-    FileMapping m_mapping;
-};
-
-struct OldFile
-{
-    std::uint64_t size;
-    ContentHash hash;
-};
-
 class Maker
 {
 public:
-    Maker(fs::path oldBundle, fs::path newBundle, DeltaReport& report)
-        : m_oldBundle(std::move(oldBundle)), m_newBundle(std::move(newBundle)), m_report(report)
+    Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, DeltaMakerProgress const& progress)
+        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_progress(progress)
     {
     }
 
-    /// Reads every plain file of the old version.
-    [[nodiscard]] bool ReadOldVersion()
+    /// Completes the manifest, and answers the data that go with it.
+    ByteBuffer Make()
     {
-        for (std::string const& path : PathsBelow(m_oldBundle))
+        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries);
+        std::vector<UnitSteps> const steps =
+            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        AddKeptFiles();
+        DeltaUnit whole;
+        for (std::size_t i = 0; i < units.size(); ++i)
         {
-            fs::path const file = m_oldBundle / path;
-            if (!fs::is_regular_file(fs::symlink_status(file)))
-            {
-                continue;
-            }
-            OpenedFile const opened(file);
-            if (!opened.IsValid())
-            {
-                return Fail(path);
-            }
-            ContentHash const hash = HashOf(opened.Content());
-            m_oldFiles.emplace(path, OldFile{opened.Content().size(), hash});
-            m_oldPathsByHash.emplace(hash, path);
+            AddUnit(units[i], steps[i], whole);
         }
-        return true;
-    }
-
-    /// Fills \a manifest's entries and the data that goes with them.
-    [[nodiscard]] bool ReadNewVersion(DeltaManifest& manifest, ByteBuffer& data, DeltaMakerProgress const& progress)
-    {
-        std::vector<std::string> const paths = PathsBelow(m_newBundle);
-        for (std::string const& path : paths)
-        {
-            std::optional<DeltaEntry> const entry = MakeEntry(path, data);
-            if (!entry)
-            {
-                return Fail(path);
-            }
-            manifest.entries.push_back(*entry);
-            if (progress)
-            {
-                progress(manifest.entries.size(), paths.size());
-            }
-        }
-        return true;
+        AddWholeFiles(whole);
+        m_manifest.baseHash = m_baseHasher.Finish();
+        m_manifest.targetHash = m_targetHasher.Finish();
+        return Pack(m_writer.Finish());
     }
 
 private:
-    static std::vector<std::string> PathsBelow(fs::path const& folder)
+    OpenedFile OpenOld(std::string const& path) const { return OpenedFile(m_old.folder / path); }
+    OpenedFile OpenNew(std::string const& path) const { return OpenedFile(m_newFolder / path); }
+
+    void AddKeptFiles()
     {
-        std::vector<std::string> paths;
-        for (fs::directory_entry const& entry : fs::recursive_directory_iterator(folder))
+        for (DeltaEntry const& entry : m_manifest.entries)
         {
-            paths.push_back(entry.path().lexically_relative(folder).generic_string());
+            if (entry.kind == DeltaEntryKind::Kept)
+            {
+                OpenedFile const file = OpenOld(entry.sourcePath);
+                m_baseHasher.Add(file.Content());
+                m_targetHasher.Add(file.Content());
+            }
         }
-        std::sort(paths.begin(), paths.end());
-        return paths;
     }
 
-    bool Fail(std::string const& path)
+    static bool UsesOld(std::vector<PatchStep> const& steps)
     {
-        m_report.outcome = {DeltaError::CannotRead, path, errno};
-        return false;
+        return std::any_of(steps.begin(), steps.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
     }
 
-    std::optional<DeltaEntry> MakeEntry(std::string const& path, ByteBuffer& data)
+    /// What has nothing of the old files goes to \a whole.
+    void AddUnit(DeltaUnit unit, UnitSteps const& steps, DeltaUnit& whole)
     {
-        fs::path const file = m_newBundle / path;
-        fs::file_status const status = fs::symlink_status(file);
-        DeltaEntry entry;
-        entry.path = path;
-        if (fs::is_directory(status))
+        std::vector<std::uint32_t> const targets = std::move(unit.targets);
+        std::vector<std::size_t> made;
+        unit.targets.clear();
+        for (std::size_t i = 0; i < targets.size(); ++i)
         {
-            entry.kind = DeltaEntryKind::Directory;
-            return entry;
+            bool const isMade = UsesOld(steps[i]);
+            (isMade ? unit : whole).targets.push_back(targets[i]);
+            made.insert(made.end(), isMade ? 1 : 0, i);
         }
-        if (fs::is_symlink(status))
+        if (made.empty())
         {
-            entry.kind = DeltaEntryKind::SymbolicLink;
-            entry.linkTarget = fs::read_symlink(file).generic_string();
-            return entry;
+            return;
         }
-        if (!fs::is_regular_file(status))
+        std::deque<OpenedFile> sources;
+        std::vector<Bytes> texts;
+        for (DeltaSource const& source : unit.sources)
         {
-            errno = EINVAL;
-            return std::nullopt;
+            texts.push_back(sources.emplace_back(m_old.folder / source.path).Content());
+            m_baseHasher.Add(texts.back());
         }
-        OpenedFile const opened(file);
-        if (!opened.IsValid())
+        m_writer.StartText();
+        if (!unit.spanChanges.empty() && steps.front().size() > MAX_MAPPED_STEPS)
         {
-            return std::nullopt;
+            unit.spanChanges.clear();
         }
-        entry.isExecutable = (status.permissions() & fs::perms::owner_exec) != fs::perms::none;
-        entry.size = opened.Content().size();
-        entry.hash = HashOf(opened.Content());
-        if (KeepsOldFile(entry))
+        PlainText plain(texts);
+        for (std::size_t const number : made)
         {
-            ++m_report.keptFiles;
+            DeltaEntry& entry = m_manifest.entries[targets[number]];
+            entry.kind = DeltaEntryKind::Patched;
+            OpenedFile const file = OpenNew(entry.path);
+            m_targetHasher.Add(file.Content());
+            unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
+                                     : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
-        else if (!AddPatchIfSmaller(entry, opened.Content(), data))
-        {
-            AddWhole(entry, opened.Content(), data);
-        }
-        return entry;
+        m_manifest.units.push_back(std::move(unit));
     }
 
-    bool KeepsOldFile(DeltaEntry& entry) const
+    void AddProgram(Bytes program, std::vector<SpanChange> const& changes, std::vector<PatchStep> const& steps,
+                    Bytes newBytes)
     {
-        auto const same = m_oldFiles.find(entry.path);
-        auto const found = m_oldPathsByHash.find(entry.hash);
-        if (found == m_oldPathsByHash.end())
-        {
-            return false;
-        }
-        bool const isInPlace = same != m_oldFiles.end() && same->second.hash == entry.hash;
-        entry.kind = DeltaEntryKind::Kept;
-        entry.sourcePath = isInPlace ? entry.path : found->second;
-        entry.sourceSize = entry.size;
-        entry.sourceHash = entry.hash;
-        return true;
+        ImageLayout const layout = *ReadImageLayout(program);
+        ProgramText old(program, layout, ChangedSpans(layout, changes), steps);
+        m_writer.Add(old, steps, newBytes);
     }
 
-    bool AddPatchIfSmaller(DeltaEntry& entry, Bytes content, ByteBuffer& data)
+    void AddWholeFiles(DeltaUnit const& whole)
     {
-        auto const source = m_oldFiles.find(entry.path);
-        if (source == m_oldFiles.end())
+        for (std::uint32_t const target : whole.targets)
         {
-            return false;
+            OpenedFile const file = OpenNew(m_manifest.entries[target].path);
+            m_targetHasher.Add(file.Content());
+            m_writer.AddWhole(file.Content());
         }
-        OpenedFile const old(m_oldBundle / entry.path);
-        std::optional<BinaryPatch> const patch =
-            old.IsValid() ? MakeBinaryPatch(old.Content(), content) : std::optional<BinaryPatch>();
-        if (!patch)
+        if (!whole.targets.empty())
         {
-            return false;
+            m_manifest.units.push_back(whole);
         }
-        ByteBuffer stored;
+    }
+
+    ByteBuffer Pack(BinaryPatch const& patch)
+    {
+        std::array<PackedStream, PATCH_STREAMS> packed;
+        DoAll(
+            PATCH_STREAMS,
+            [&packed, &patch](std::size_t i)
+            {
+                // The last is the largest as a rule.
+                std::size_t const number = PATCH_STREAMS - 1 - i;
+                ByteBuffer const& plain = patch.streams[number];
+                packed[number] =
+                    PackStream(Bytes(plain.data(), plain.size()), WindowLogOf(static_cast<PatchStream>(number)));
+            },
+            [] {});
+        ByteBuffer data;
         for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
         {
-            ByteBuffer const& plain = patch->streams[i];
-            ByteBuffer const stream = CompressForDelta(Bytes(plain.data(), plain.size()));
-            entry.streamsStored[i] = stream.size();
-            stored.insert(stored.end(), stream.begin(), stream.end());
+            m_manifest.streams[i] = {packed[i].packing, packed[i].bytes.size()};
+            data.insert(data.end(), packed[i].bytes.begin(), packed[i].bytes.end());
         }
-        m_whole = CompressForDelta(content);
-        if (stored.size() >= m_whole.size())
-        {
-            entry.streamsStored = {};
-            return false;
-        }
-        m_whole.clear();
-        entry.kind = DeltaEntryKind::Patched;
-        entry.sourcePath = entry.path;
-        entry.sourceSize = source->second.size;
-        entry.sourceHash = source->second.hash;
-        data.insert(data.end(), stored.begin(), stored.end());
-        ++m_report.patchedFiles;
-        return true;
+        return data;
     }
 
-    void AddWhole(DeltaEntry& entry, Bytes content, ByteBuffer& data)
-    {
-        if (m_whole.empty())
-        {
-            m_whole = CompressForDelta(content);
-        }
-        entry.kind = DeltaEntryKind::Whole;
-        entry.wholeStored = m_whole.size();
-        data.insert(data.end(), m_whole.begin(), m_whole.end());
-        m_whole.clear();
-        ++m_report.wholeFiles;
-    }
-
-    fs::path m_oldBundle;
-    fs::path m_newBundle;
-    DeltaReport& m_report;
-    std::map<std::string, OldFile> m_oldFiles;
-    std::map<ContentHash, std::string> m_oldPathsByHash; ///< the first path of each content
-    ByteBuffer m_whole;                                  ///< of the file at hand, once it has been compressed whole
+    fs::path m_newFolder;
+    OldVersion const& m_old;
+    DeltaManifest& m_manifest;
+    DeltaMakerProgress const& m_progress;
+    PatchWriter m_writer;
+    ContentHasher m_baseHasher;
+    ContentHasher m_targetHasher;
 };
+
+void Count(DeltaManifest const& manifest, DeltaReport& report)
+{
+    auto const count = [&manifest](DeltaEntryKind kind)
+    {
+        return static_cast<std::uint64_t>(
+            std::count_if(manifest.entries.begin(), manifest.entries.end(),
+                          [kind](DeltaEntry const& entry) { return entry.kind == kind; }));
+    };
+    report.keptFiles = count(DeltaEntryKind::Kept);
+    report.patchedFiles = count(DeltaEntryKind::Patched);
+    report.wholeFiles = count(DeltaEntryKind::Whole);
+}
 
 } // namespace
 
@@ -241,16 +183,15 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
 {
     DeltaReport report;
     DeltaManifest manifest;
+    manifest.format = DeltaFormat::Joined;
     manifest.baseVersion = baseVersion;
     manifest.targetVersion = targetVersion;
     ByteBuffer data;
     try
     {
-        Maker maker(oldBundle, newBundle, report);
-        if (!maker.ReadOldVersion() || !maker.ReadNewVersion(manifest, data, progress))
-        {
-            return report;
-        }
+        OldVersion const old = ReadOldVersion(oldBundle);
+        manifest.entries = ReadNewVersion(newBundle, old);
+        data = Maker(newBundle, old, manifest, progress).Make();
     }
     catch (fs::filesystem_error const& error)
     {
@@ -270,6 +211,7 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
         return report;
     }
     report.containerBytes = opening.size() + data.size();
+    Count(manifest, report);
     return report;
 }
 

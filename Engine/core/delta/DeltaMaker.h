@@ -20,11 +20,11 @@ struct DeltaReport
     std::uint64_t containerBytes = 0;
 };
 
-/// Told after each entry of the new version: entries done, and in all.
-using DeltaMakerProgress = std::function<void(std::uint64_t doneEntries, std::uint64_t totalEntries)>;
+/// Told in the calling thread after each piece of the work: pieces done, and in all.
+using DeltaMakerProgress = std::function<void(std::uint64_t donePieces, std::uint64_t totalPieces)>;
 
 /// Writes the delta from the folder \a oldBundle to the folder \a newBundle into the file open at \a containerFd, which
-/// must be empty. For each file that changed, the smaller of a patch and the whole file is taken. The same two folders
+/// must be empty. All processors work on it. The same two folders
 /// always make the same bytes.
 [[nodiscard]] DeltaReport MakeDelta(std::filesystem::path const& oldBundle, std::string const& baseVersion,
                                     std::filesystem::path const& newBundle, std::string const& targetVersion,

@@ -1,5 +1,8 @@
 #include "Engine/core/delta/DeltaManifest.h"
 
+#include "Engine/core/delta/JoinedManifest.h"
+#include "Engine/core/delta/ManifestBytes.h"
+
 #include <algorithm>
 #include <numeric>
 #include <set>
@@ -11,32 +14,10 @@ namespace
 {
 
 constexpr std::uint8_t EXECUTABLE_FLAG = 1;
-constexpr std::uint64_t MAX_VERSION_BYTES = 256;
-constexpr std::uint64_t MAX_PATH_BYTES = 65536; // more than the rules allow, so that it is they who refuse
 /// Stands for the bundle's folder, which has another name on every computer: the shortest that a bundle can have.
 constexpr char ROOT[] = "x.app";
 
-// Writing.
-
-void AppendNumber(ByteBuffer& bytes, std::uint64_t number)
-{
-    for (; number >= 0x80; number >>= 7)
-    {
-        bytes.push_back(static_cast<std::uint8_t>(number | 0x80));
-    }
-    bytes.push_back(static_cast<std::uint8_t>(number));
-}
-
-void AppendText(ByteBuffer& bytes, std::string const& text)
-{
-    AppendNumber(bytes, text.size());
-    bytes.insert(bytes.end(), text.begin(), text.end());
-}
-
-void AppendHash(ByteBuffer& bytes, ContentHash const& hash)
-{
-    bytes.insert(bytes.end(), hash.begin(), hash.end());
-}
+using namespace ManifestBytes;
 
 void AppendEntry(ByteBuffer& bytes, DeltaEntry const& entry)
 {
@@ -74,180 +55,63 @@ void AppendEntry(ByteBuffer& bytes, DeltaEntry const& entry)
     }
 }
 
-// Reading.
-
-class Reader
+DeltaEntry ReadEntry(Reader& reader)
 {
-public:
-    explicit Reader(Bytes bytes) : m_rest(bytes) {}
-
-    DeltaManifestError Error() const { return m_error; }
-    bool IsAtEnd() const { return m_rest.empty(); }
-
-    std::uint8_t Byte()
+    DeltaEntry entry;
+    entry.path = reader.Text(MAX_PATH_BYTES);
+    std::uint8_t const kind = reader.Byte();
+    if (kind > static_cast<std::uint8_t>(DeltaEntryKind::Whole))
     {
-        if (m_rest.empty())
-        {
-            return Fail(DeltaManifestError::Truncated), std::uint8_t(0);
-        }
-        std::uint8_t const byte = m_rest.front();
-        m_rest.remove_prefix(1);
-        return byte;
+        return reader.Fail(DeltaManifestError::UnknownKind), entry;
     }
-
-    std::uint64_t Number()
+    entry.kind = static_cast<DeltaEntryKind>(kind);
+    switch (entry.kind)
     {
-        std::uint64_t number = 0;
-        for (int shift = 0;; shift += 7)
-        {
-            std::uint8_t const byte = Byte();
-            if (m_error != DeltaManifestError::None)
-            {
-                return 0;
-            }
-            bool const isOverlong = byte == 0 && shift > 0;
-            bool const isTooLarge = shift == 63 && byte > 1;
-            if (isOverlong || isTooLarge)
-            {
-                return Fail(DeltaManifestError::BadNumber), 0;
-            }
-            number |= static_cast<std::uint64_t>(byte & 0x7F) << shift;
-            if (byte < 0x80)
-            {
-                return number;
-            }
-        }
+    case DeltaEntryKind::Directory:
+        return entry;
+    case DeltaEntryKind::SymbolicLink:
+        entry.linkTarget = reader.Text(MAX_PATH_BYTES);
+        return entry;
+    case DeltaEntryKind::Kept:
+    case DeltaEntryKind::Patched:
+    case DeltaEntryKind::Whole:
+        break;
     }
-
-    std::string Text(std::uint64_t maxBytes)
+    std::uint8_t const flags = reader.Byte();
+    if (flags > EXECUTABLE_FLAG)
     {
-        std::uint64_t const size = Number();
-        if (m_error != DeltaManifestError::None)
-        {
-            return {};
-        }
-        if (size > maxBytes)
-        {
-            return Fail(DeltaManifestError::TextTooLong), std::string();
-        }
-        if (size > m_rest.size())
-        {
-            return Fail(DeltaManifestError::Truncated), std::string();
-        }
-        std::string const text(m_rest.begin(), m_rest.begin() + static_cast<std::ptrdiff_t>(size));
-        m_rest.remove_prefix(static_cast<std::size_t>(size));
-        return text;
+        return reader.Fail(DeltaManifestError::BadFlag), entry;
     }
-
-    ContentHash Hash()
+    entry.isExecutable = flags == EXECUTABLE_FLAG;
+    entry.size = reader.Number();
+    entry.hash = reader.Hash();
+    if (entry.kind == DeltaEntryKind::Whole)
     {
-        ContentHash hash{};
-        if (m_rest.size() < hash.size())
-        {
-            return Fail(DeltaManifestError::Truncated), hash;
-        }
-        std::copy_n(m_rest.begin(), hash.size(), hash.begin());
-        m_rest.remove_prefix(hash.size());
-        return hash;
-    }
-
-    DeltaEntry Entry()
-    {
-        DeltaEntry entry;
-        entry.path = Text(MAX_PATH_BYTES);
-        std::uint8_t const kind = Byte();
-        if (kind > static_cast<std::uint8_t>(DeltaEntryKind::Whole))
-        {
-            return Fail(DeltaManifestError::UnknownKind), entry;
-        }
-        entry.kind = static_cast<DeltaEntryKind>(kind);
-        switch (entry.kind)
-        {
-        case DeltaEntryKind::Directory:
-            return entry;
-        case DeltaEntryKind::SymbolicLink:
-            entry.linkTarget = Text(MAX_PATH_BYTES);
-            return entry;
-        case DeltaEntryKind::Kept:
-        case DeltaEntryKind::Patched:
-        case DeltaEntryKind::Whole:
-            break;
-        }
-        std::uint8_t const flags = Byte();
-        if (flags > EXECUTABLE_FLAG)
-        {
-            return Fail(DeltaManifestError::BadFlag), entry;
-        }
-        entry.isExecutable = flags == EXECUTABLE_FLAG;
-        entry.size = Number();
-        entry.hash = Hash();
-        if (entry.kind == DeltaEntryKind::Whole)
-        {
-            entry.wholeStored = Number();
-            return entry;
-        }
-        entry.sourcePath = Text(MAX_PATH_BYTES);
-        if (entry.kind == DeltaEntryKind::Kept)
-        {
-            entry.sourceSize = entry.size;
-            entry.sourceHash = entry.hash;
-            return entry;
-        }
-        entry.sourceSize = Number();
-        entry.sourceHash = Hash();
-        for (std::uint64_t& stored : entry.streamsStored)
-        {
-            stored = Number();
-        }
+        entry.wholeStored = reader.Number();
         return entry;
     }
-
-    void Fail(DeltaManifestError error)
+    entry.sourcePath = reader.Text(MAX_PATH_BYTES);
+    if (entry.kind == DeltaEntryKind::Kept)
     {
-        if (m_error == DeltaManifestError::None)
-        {
-            m_error = error;
-        }
-        m_rest = {};
+        entry.sourceSize = entry.size;
+        entry.sourceHash = entry.hash;
+        return entry;
     }
-
-private:
-    Bytes m_rest;
-    DeltaManifestError m_error = DeltaManifestError::None;
-};
+    entry.sourceSize = reader.Number();
+    entry.sourceHash = reader.Hash();
+    for (std::uint64_t& stored : entry.streamsStored)
+    {
+        stored = reader.Number();
+    }
+    return entry;
+}
 
 // Rules.
 
-/// Calls \a visit with each component between slashes; false when one of the calls answers false.
-template <class Visit>
-bool ForEachComponent(std::string_view path, Visit visit)
+bool HasSource(DeltaEntry const& entry, DeltaFormat format)
 {
-    for (;;)
-    {
-        std::size_t const slash = path.find('/');
-        if (!visit(path.substr(0, slash)))
-        {
-            return false;
-        }
-        if (slash == std::string_view::npos)
-        {
-            return true;
-        }
-        path.remove_prefix(slash + 1);
-    }
-}
-
-/// True for a path that can only be below the folder that it is read from.
-bool IsBelow(std::string const& path)
-{
-    return path.find('\0') == std::string::npos &&
-           ForEachComponent(path, [](std::string_view component)
-                            { return !component.empty() && component != "." && component != ".."; });
-}
-
-bool HasSource(DeltaEntry const& entry)
-{
-    return entry.kind == DeltaEntryKind::Kept || entry.kind == DeltaEntryKind::Patched;
+    return entry.kind == DeltaEntryKind::Kept ||
+           (entry.kind == DeltaEntryKind::Patched && format == DeltaFormat::Separate);
 }
 
 /// True when sizes that are added up later come nowhere near the end of their type.
@@ -303,6 +167,26 @@ bool operator==(DeltaEntry const& a, DeltaEntry const& b)
            a.sourceHash == b.sourceHash && a.streamsStored == b.streamsStored && a.wholeStored == b.wholeStored;
 }
 
+bool operator==(DeltaSource const& a, DeltaSource const& b)
+{
+    return a.path == b.path && a.size == b.size;
+}
+
+bool operator==(SpanChange const& a, SpanChange const& b)
+{
+    return a.offset == b.offset && a.size == b.size && a.address == b.address;
+}
+
+bool operator==(DeltaUnit const& a, DeltaUnit const& b)
+{
+    return a.sources == b.sources && a.targets == b.targets && a.spanChanges == b.spanChanges;
+}
+
+bool operator==(StoredStream const& a, StoredStream const& b)
+{
+    return a.packing == b.packing && a.size == b.size;
+}
+
 std::uint64_t DeltaEntry::StoredBytes() const
 {
     return std::accumulate(streamsStored.begin(), streamsStored.end(), wholeStored);
@@ -310,6 +194,10 @@ std::uint64_t DeltaEntry::StoredBytes() const
 
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest)
 {
+    if (manifest.format == DeltaFormat::Joined)
+    {
+        return EncodeJoinedManifest(manifest);
+    }
     ByteBuffer bytes;
     AppendText(bytes, manifest.baseVersion);
     AppendText(bytes, manifest.targetVersion);
@@ -326,15 +214,18 @@ DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits,
     Reader reader(bytes);
     manifest.baseVersion = reader.Text(MAX_VERSION_BYTES);
     manifest.targetVersion = reader.Text(MAX_VERSION_BYTES);
-    std::uint64_t const count = reader.Number();
-    if (reader.Error() == DeltaManifestError::None && count > limits.tree.maxEntries)
-    {
-        return {DeltaManifestError::TooManyEntries, UpdateFault::None, {}};
-    }
     manifest.entries.clear();
-    for (std::uint64_t i = 0; i < count && reader.Error() == DeltaManifestError::None; ++i)
+    if (manifest.format == DeltaFormat::Joined)
     {
-        manifest.entries.push_back(reader.Entry());
+        ReadJoinedManifest(reader, limits, manifest);
+    }
+    else
+    {
+        std::uint64_t const count = reader.Count(limits.tree.maxEntries);
+        for (std::uint64_t i = 0; i < count && reader.Error() == DeltaManifestError::None; ++i)
+        {
+            manifest.entries.push_back(ReadEntry(reader));
+        }
     }
     if (reader.Error() != DeltaManifestError::None)
     {
@@ -360,7 +251,7 @@ DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimi
         {
             return {DeltaManifestError::TreeRefused, fault, entry.path};
         }
-        if (HasSource(entry) && !IsBelow(entry.sourcePath))
+        if (HasSource(entry, manifest.format) && !IsBelow(entry.sourcePath))
         {
             return {DeltaManifestError::BadSource, UpdateFault::None, entry.path};
         }
@@ -380,7 +271,11 @@ DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimi
         previous = &entry.path;
     }
     fault = policy.Finish();
-    return {fault == UpdateFault::None ? DeltaManifestError::None : DeltaManifestError::TreeRefused, fault, {}};
+    if (fault != UpdateFault::None)
+    {
+        return {DeltaManifestError::TreeRefused, fault, {}};
+    }
+    return manifest.format == DeltaFormat::Joined ? CheckUnits(manifest, limits) : DeltaManifestVerdict();
 }
 
 } // namespace Pelnar::Engine

@@ -52,11 +52,63 @@ struct DeltaEntry
 
 bool operator==(DeltaEntry const& a, DeltaEntry const& b);
 
+/// A file of the old version that others are made from.
+struct DeltaSource
+{
+    std::string path;
+    std::uint64_t size = 0;
+};
+
+bool operator==(DeltaSource const& a, DeltaSource const& b);
+
+/// How much a segment of a program differs from the old program's.
+struct SpanChange
+{
+    std::int64_t offset = 0;
+    std::int64_t size = 0;
+    std::int64_t address = 0;
+};
+
+bool operator==(SpanChange const& a, SpanChange const& b);
+
+/// Files that are made of the same old ones.
+struct DeltaUnit
+{
+    std::vector<DeltaSource> sources;     ///< one after the other; none for files that the container brings whole
+    std::vector<std::uint32_t> targets;   ///< indices of entries, in the order in which they are made
+    std::vector<SpanChange> spanChanges;  ///< a segment each of the one target, when it is a program's next version
+};
+
+bool operator==(DeltaUnit const& a, DeltaUnit const& b);
+
+/// How one stream stands in the container.
+struct StoredStream
+{
+    std::uint8_t packing = 0; ///< 0 for zstd, else one more than the properties of LZMA
+    std::uint64_t size = 0;
+};
+
+bool operator==(StoredStream const& a, StoredStream const& b);
+
+/// The version of the container's format.
+enum class DeltaFormat : std::uint8_t
+{
+    Separate = 2, ///< every file's data stand by themselves
+    Joined = 3,   ///< the files' data are joined in streams
+};
+
 struct DeltaManifest
 {
     std::string baseVersion;         ///< the version text of the bundle that the delta starts from
     std::string targetVersion;       ///< and of the one that it makes
     std::vector<DeltaEntry> entries; ///< in ascending order of the paths' bytes; a folder stands before what it holds
+
+    DeltaFormat format = DeltaFormat::Separate;
+    // Joined: entries have no hashes, and no source but kept ones.
+    std::vector<DeltaUnit> units;
+    std::array<StoredStream, PATCH_STREAMS> streams{};
+    ContentHash baseHash{};   ///< of all old files that are used: kept ones in their order, then those of the units
+    ContentHash targetHash{}; ///< of all new files: kept ones in their order, then those of the units
 };
 
 /// What a manifest may ask for.
@@ -80,6 +132,8 @@ enum class DeltaManifestError
     TreeRefused, ///< no archive may hold what the entries make either
     TooManyEntries,
     TooManyBytes, ///< sizes of stored data that pass the limits
+    BadUnit,      ///< a file that no unit makes, or two do; a program's unit with more than one file
+    BadPacking,   ///< of a stream
 };
 
 struct DeltaManifestVerdict
@@ -91,7 +145,7 @@ struct DeltaManifestVerdict
 
 /// REQUIRES: a manifest that CheckDeltaManifest accepts.
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
-/// Reads all \a bytes and applies every rule. Use \a manifest only if the verdict has no error.
+/// Reads all \a bytes, which are of manifest.format, and applies every rule. Use \a manifest only if the verdict has no error.
 [[nodiscard]] DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules that a decoded manifest keeps, for one that is being made.
 [[nodiscard]] DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);

@@ -1,0 +1,150 @@
+#include "Engine/core/delta/AddressMap.h"
+
+#include <algorithm>
+#include <queue>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr unsigned PAGE_BITS = 12;
+
+} // namespace
+
+AddressMap::AddressMap(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
+                       std::vector<PatchStep> const& steps)
+    : m_lowest(oldLayout.lowest)
+{
+    TakeRuns(RunsOf(oldLayout, newSpans, steps));
+    MakeIndex();
+}
+
+std::vector<AddressMap::Run> AddressMap::RunsOf(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
+                                                std::vector<PatchStep> const& steps) const
+{
+    std::vector<Run> runs;
+    runs.reserve(steps.size() + 2 * newSpans.size());
+    auto const add = [&](std::uint64_t oldAddress, std::uint64_t newAddress, std::uint64_t size)
+    {
+        auto const begin = static_cast<std::uint32_t>(oldAddress - m_lowest);
+        runs.push_back({begin, static_cast<std::uint32_t>(begin + std::min<std::uint64_t>(size, ~begin)),
+                        static_cast<std::uint32_t>(newAddress - oldAddress)});
+    };
+    // What stands in memory only follows its segment's end.
+    for (std::size_t i = 0; i < std::min(newSpans.size(), oldLayout.spans.size()); ++i)
+    {
+        ImageSpan const& from = oldLayout.spans[i];
+        add(from.address + from.size, newSpans[i].address + newSpans[i].size, 1);
+    }
+    std::uint64_t oldPosition = 0;
+    std::uint64_t newPosition = 0;
+    for (PatchStep const& step : steps)
+    {
+        // A run over several segments is one for each.
+        for (ImageSpan const& span : oldLayout.spans)
+        {
+            std::uint64_t const begin = std::max<std::uint64_t>(span.offset, oldPosition);
+            std::uint64_t const end = std::min<std::uint64_t>(span.offset + std::uint64_t(span.size),
+                                                              oldPosition + step.likeBytes);
+            std::optional<std::uint64_t> const newAddress =
+                begin < end ? AddressAt(newSpans, newPosition + (begin - oldPosition)) : std::nullopt;
+            if (newAddress)
+            {
+                add(span.address + (begin - span.offset), *newAddress, end - begin);
+            }
+        }
+        newPosition += step.likeBytes + step.extraBytes;
+        oldPosition = MovedBy(oldPosition + step.likeBytes, step.move);
+    }
+    return runs;
+}
+
+/// Where runs overlap, the longest counts.
+void AddressMap::TakeRuns(std::vector<Run> const& runs)
+{
+    std::vector<std::uint32_t> order(runs.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+    {
+        order[i] = static_cast<std::uint32_t>(i);
+    }
+    std::stable_sort(order.begin(), order.end(),
+                     [&runs](std::uint32_t a, std::uint32_t b) { return runs[a].begin < runs[b].begin; });
+    auto const isLess = [&runs](std::uint32_t a, std::uint32_t b)
+    {
+        std::uint32_t const lengthOfA = runs[a].end - runs[a].begin;
+        std::uint32_t const lengthOfB = runs[b].end - runs[b].begin;
+        return lengthOfA != lengthOfB ? lengthOfA < lengthOfB : a > b;
+    };
+    std::priority_queue<std::uint32_t, std::vector<std::uint32_t>, decltype(isLess)> active(isLess);
+    auto const take = [this](std::uint32_t begin, std::uint32_t shift)
+    {
+        if (!m_points.empty() && m_points.back().begin == begin)
+        {
+            m_points.back().shift = shift;
+        }
+        else if (m_points.empty() || m_points.back().shift != shift)
+        {
+            m_points.push_back({begin, shift});
+        }
+    };
+    take(0, order.empty() ? 0 : runs[order.front()].shift);
+    std::uint32_t reached = 0; ///< the end of the run that counts last
+    for (std::size_t next = 0; next < order.size() || !active.empty();)
+    {
+        while (!active.empty() && runs[active.top()].end <= reached)
+        {
+            active.pop();
+        }
+        bool const isIdle = active.empty();
+        if (!isIdle && runs[active.top()].begin <= reached)
+        {
+            take(reached, runs[active.top()].shift);
+        }
+        // Until a longer one begins, or this one ends, nothing changes.
+        if (next < order.size() && (isIdle || runs[order[next]].begin < runs[active.top()].end))
+        {
+            reached = std::max(reached, runs[order[next]].begin);
+            active.push(order[next++]);
+            while (next < order.size() && runs[order[next]].begin <= reached)
+            {
+                active.push(order[next++]);
+            }
+        }
+        else if (!isIdle)
+        {
+            reached = runs[active.top()].end;
+            active.pop();
+        }
+    }
+}
+
+void AddressMap::MakeIndex()
+{
+    std::size_t const pages = (m_points.back().begin >> PAGE_BITS) + 2;
+    m_index.resize(pages);
+    std::size_t point = 0;
+    for (std::size_t page = 0; page < pages; ++page)
+    {
+        while (point < m_points.size() && m_points[point].begin >> PAGE_BITS < page)
+        {
+            ++point;
+        }
+        m_index[page] = static_cast<std::uint32_t>(point);
+    }
+}
+
+std::uint64_t AddressMap::Find(std::uint64_t address) const
+{
+    auto const wanted = static_cast<std::uint32_t>(address - m_lowest);
+    std::size_t const page = std::min<std::size_t>(wanted >> PAGE_BITS, m_index.size() - 2);
+    auto const begin = m_points.begin() + m_index[page];
+    auto const end = m_points.begin() + m_index[page + 1];
+    auto const behind = std::upper_bound(begin, page == wanted >> PAGE_BITS ? end : m_points.end(), wanted,
+                                         [](std::uint32_t value, Point const& point) { return value < point.begin; });
+    // The first point stands at 0, so there is one before.
+    std::uint32_t const shift = (behind - 1)->shift;
+    return address + static_cast<std::uint64_t>(static_cast<std::int32_t>(shift));
+}
+
+} // namespace Pelnar::Engine

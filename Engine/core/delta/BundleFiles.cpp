@@ -1,0 +1,111 @@
+#include "Engine/core/delta/BundleFiles.h"
+
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace Pelnar::Engine
+{
+
+DeltaOutcome WriteFailure()
+{
+    return {DeltaError::CannotWrite, {}, errno};
+}
+
+DeltaOutcome SourceFailure()
+{
+    return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+}
+
+DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const
+{
+    file = m_old.OpenFile(path);
+    if (!file)
+    {
+        bool const isMissing = errno == ENOENT || errno == ELOOP || errno == ENOTDIR;
+        return {isMissing ? DeltaError::BaseDiffers : DeltaError::CannotRead, {}, errno};
+    }
+    struct stat status;
+    if (fstat(file.Get(), &status) != 0)
+    {
+        return {DeltaError::CannotRead, {}, errno};
+    }
+    bool const isExpected = S_ISREG(status.st_mode) && static_cast<std::uint64_t>(status.st_size) == size;
+    return isExpected ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+}
+
+DeltaOutcome BundleFiles::MakeFolder(DeltaEntry const& entry)
+{
+    return m_staging.MakeFolder(entry.path) ? DeltaOutcome{} : WriteFailure();
+}
+
+DeltaOutcome BundleFiles::MakeLink(DeltaEntry const& entry)
+{
+    return m_staging.MakeLink(entry.path, entry.linkTarget) ? DeltaOutcome{} : WriteFailure();
+}
+
+DeltaOutcome BundleFiles::MakeFile(DeltaEntry const& entry, UniqueFd& file)
+{
+    file = m_staging.MakeFile(entry.path, entry.isExecutable);
+    return file ? DeltaOutcome{} : WriteFailure();
+}
+
+DeltaOutcome BundleFiles::Keep(DeltaEntry const& entry, ContentHasher& hasher)
+{
+    UniqueFd source;
+    UniqueFd target;
+    DeltaOutcome outcome = OpenOld(entry.sourcePath, entry.size, source);
+    outcome = outcome.HasSucceeded() ? MakeFile(entry, target) : outcome;
+    if (!outcome.HasSucceeded())
+    {
+        return outcome;
+    }
+    // A clone shares the blocks and costs no copy; file systems without it answer at once.
+    bool const isCloned = ioctl(target.Get(), FICLONE, source.Get()) == 0;
+    return isCloned ? Hash(target.Get(), hasher) : Copy(source.Get(), target.Get(), hasher);
+}
+
+DeltaOutcome BundleFiles::Hash(int fd, ContentHasher& hasher)
+{
+    for (std::uint64_t offset = 0;;)
+    {
+        ssize_t const got = pread(fd, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));
+        if (got < 0 && errno == EINTR)
+        {
+            continue;
+        }
+        if (got <= 0)
+        {
+            return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+        }
+        hasher.Add(Bytes(m_piece.data(), static_cast<std::size_t>(got)));
+        offset += static_cast<std::uint64_t>(got);
+    }
+}
+
+DeltaOutcome BundleFiles::Copy(int source, int target, ContentHasher& hasher)
+{
+    for (;;)
+    {
+        ssize_t const got = read(source, m_piece.data(), m_piece.size());
+        if (got < 0 && errno == EINTR)
+        {
+            continue;
+        }
+        if (got <= 0)
+        {
+            return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+        }
+        Bytes const bytes(m_piece.data(), static_cast<std::size_t>(got));
+        hasher.Add(bytes);
+        if (!WriteAll(target, bytes))
+        {
+            return WriteFailure();
+        }
+    }
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,44 @@
+// BundleFiles.h: the files of the two versions of a bundle, as a delta's entries name them.
+// Thread: one at a time. Ownership: the folders' descriptors stay the caller's.
+#pragma once
+
+#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/delta/DeltaContainer.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace Pelnar::Engine
+{
+
+class BundleFiles
+{
+public:
+    BundleFiles(int oldBundleFd, int stagingFd) : m_old(oldBundleFd), m_staging(stagingFd) {}
+
+    /// The old version's file \a path, if it is a plain file of \a size bytes.
+    [[nodiscard]] DeltaOutcome OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const;
+    [[nodiscard]] DeltaOutcome MakeFolder(DeltaEntry const& entry);
+    [[nodiscard]] DeltaOutcome MakeLink(DeltaEntry const& entry);
+    [[nodiscard]] DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd& file);
+    /// Clones or copies the old file, and adds what the new one holds to \a hasher.
+    [[nodiscard]] DeltaOutcome Keep(DeltaEntry const& entry, ContentHasher& hasher);
+    /// Adds what \a fd holds to \a hasher.
+    [[nodiscard]] DeltaOutcome Hash(int fd, ContentHasher& hasher);
+
+private:
+    DeltaOutcome Copy(int source, int target, ContentHasher& hasher);
+
+    TreeAccess m_old;
+    TreeAccess m_staging;
+    std::array<std::uint8_t, 64 * 1024> m_piece;
+};
+
+/// What errno says of a file that was to be written.
+[[nodiscard]] DeltaOutcome WriteFailure();
+/// What errno says of bytes that do not come: 0 when there are fewer than there should be.
+[[nodiscard]] DeltaOutcome SourceFailure();
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,121 @@
+#include "Engine/core/delta/BundleReader.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cerrno>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+[[noreturn]] void Fail(fs::path const& path, int error)
+{
+    throw fs::filesystem_error("cannot be read", path, std::error_code(error, std::generic_category()));
+}
+
+std::vector<std::string> PathsBelow(fs::path const& folder)
+{
+    std::vector<std::string> paths;
+    for (fs::directory_entry const& entry : fs::recursive_directory_iterator(folder))
+    {
+        paths.push_back(entry.path().lexically_relative(folder).generic_string());
+    }
+    std::sort(paths.begin(), paths.end());
+    return paths;
+}
+
+/// The old file with the same content, the one in the same place first.
+void KeepOldFile(DeltaEntry& entry, OldVersion const& old)
+{
+    auto const same = old.files.find(entry.path);
+    auto const found = old.pathsByHash.find(entry.hash);
+    if (found == old.pathsByHash.end())
+    {
+        return;
+    }
+    bool const isInPlace = same != old.files.end() && same->second.hash == entry.hash;
+    entry.kind = DeltaEntryKind::Kept;
+    entry.sourcePath = isInPlace ? entry.path : found->second;
+    entry.sourceSize = entry.size;
+}
+
+DeltaEntry ReadEntry(fs::path const& folder, std::string const& path, OldVersion const& old)
+{
+    fs::path const file = folder / path;
+    fs::file_status const status = fs::symlink_status(file);
+    DeltaEntry entry;
+    entry.path = path;
+    if (fs::is_directory(status))
+    {
+        return entry;
+    }
+    if (fs::is_symlink(status))
+    {
+        entry.kind = DeltaEntryKind::SymbolicLink;
+        entry.linkTarget = fs::read_symlink(file).generic_string();
+        return entry;
+    }
+    if (!fs::is_regular_file(status))
+    {
+        Fail(path, EINVAL);
+    }
+    OpenedFile const opened(file);
+    entry.kind = DeltaEntryKind::Whole;
+    entry.isExecutable = (status.permissions() & fs::perms::owner_exec) != fs::perms::none;
+    entry.size = opened.Content().size();
+    entry.hash = HashOf(opened.Content());
+    KeepOldFile(entry, old);
+    return entry;
+}
+
+} // namespace
+
+OpenedFile::OpenedFile(fs::path const& path)
+{
+    UniqueFd const file(open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status;
+    if (!file || fstat(file.Get(), &status) != 0)
+    {
+        Fail(path, errno);
+    }
+    m_mapping.emplace(file.Get(), static_cast<std::size_t>(status.st_size));
+    if (!m_mapping->IsValid())
+    {
+        Fail(path, errno);
+    }
+}
+
+OldVersion ReadOldVersion(fs::path const& folder)
+{
+    OldVersion old;
+    old.folder = folder;
+    for (std::string const& path : PathsBelow(folder))
+    {
+        if (!fs::is_regular_file(fs::symlink_status(folder / path)))
+        {
+            continue;
+        }
+        OpenedFile const opened(folder / path);
+        ContentHash const hash = HashOf(opened.Content());
+        old.files.emplace(path, OldFile{opened.Content().size(), hash});
+        old.pathsByHash.emplace(hash, path);
+    }
+    return old;
+}
+
+std::vector<DeltaEntry> ReadNewVersion(fs::path const& folder, OldVersion const& old)
+{
+    std::vector<DeltaEntry> entries;
+    for (std::string const& path : PathsBelow(folder))
+    {
+        entries.push_back(ReadEntry(folder, path, old));
+    }
+    return entries;
+}
+
+} // namespace Pelnar::Engine

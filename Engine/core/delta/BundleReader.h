@@ -1,0 +1,50 @@
+// BundleReader.h: a version of a bundle as the maker of a delta reads it.
+// Thread: any; no shared state. Ownership: an opened file owns its mapping. A publisher's work: it reads trees that the
+// publisher trusts.
+#pragma once
+
+#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// A file of a tree, mapped.
+class OpenedFile
+{
+public:
+    /// Throws std::filesystem::filesystem_error for a file that cannot be read.
+    explicit OpenedFile(std::filesystem::path const& path);
+    Bytes Content() const { return m_mapping->Content(); }
+
+private:
+    std::optional<FileMapping> m_mapping;
+};
+
+struct OldFile
+{
+    std::uint64_t size;
+    ContentHash hash;
+};
+
+struct OldVersion
+{
+    std::filesystem::path folder;
+    std::map<std::string, OldFile> files;
+    std::map<ContentHash, std::string> pathsByHash; ///< the first path of each content
+};
+
+/// Reads every plain file. Throws std::filesystem::filesystem_error.
+[[nodiscard]] OldVersion ReadOldVersion(std::filesystem::path const& folder);
+
+/// Every folder, link and file of the new version, in the order of their paths: kept ones with their source, all other
+/// files as whole. Throws std::filesystem::filesystem_error, also for what is none of these.
+[[nodiscard]] std::vector<DeltaEntry> ReadNewVersion(std::filesystem::path const& folder, OldVersion const& old);
+
+} // namespace Pelnar::Engine

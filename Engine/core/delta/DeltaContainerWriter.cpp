@@ -1,0 +1,111 @@
+#include "Engine/core/delta/DeltaContainerWriter.h"
+
+#include <lzma.h>
+#include <zstd.h>
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr int COMPRESSION_LEVEL = 19;
+/// One more than the properties of LZMA: 3, 0 and 4 bits of the byte before; nothing of the position.
+constexpr std::uint8_t PACKINGS[] = {4, 1, 5};
+/// Larger streams are packed in one way: each costs a second for two megabytes.
+constexpr std::size_t MOST_BYTES_TO_TRY = 4u << 20;
+
+void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
+{
+    for (int shift = 0; shift < 64; shift += 8)
+    {
+        bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+    }
+}
+
+} // namespace
+
+ByteBuffer CompressForDelta(Bytes bytes, int windowLog)
+{
+    std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> const context(ZSTD_createCCtx(), ZSTD_freeCCtx);
+    ByteBuffer stored(bytes.empty() ? 0 : ZSTD_compressBound(bytes.size()));
+    if (stored.empty())
+    {
+        return stored;
+    }
+    if (!context)
+    {
+        throw std::bad_alloc();
+    }
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_compressionLevel, COMPRESSION_LEVEL);
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_enableLongDistanceMatching, 1);
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_windowLog, windowLog);
+    std::size_t const size = ZSTD_compress2(context.get(), stored.data(), stored.size(), bytes.data(), bytes.size());
+    if (ZSTD_isError(size))
+    {
+        throw std::bad_alloc();
+    }
+    stored.resize(size);
+    return stored;
+}
+
+ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
+{
+    if (bytes.empty())
+    {
+        return {};
+    }
+    lzma_options_lzma options{};
+    std::uint8_t const properties = static_cast<std::uint8_t>(packing - 1);
+    lzma_lzma_preset(&options, 9 | LZMA_PRESET_EXTREME);
+    options.dict_size = std::uint32_t(1) << windowLog;
+    options.lc = properties % 9;
+    options.lp = properties / 9 % 5;
+    options.pb = properties / 45;
+    lzma_filter const filters[] = {{LZMA_FILTER_LZMA1, &options}, {LZMA_VLI_UNKNOWN, nullptr}};
+    // What cannot be compressed grows by less than this.
+    ByteBuffer packed(bytes.size() + bytes.size() / 8 + 1024);
+    std::size_t size = 0;
+    if (lzma_raw_buffer_encode(filters, nullptr, bytes.data(), bytes.size(), packed.data(), &size, packed.size()) !=
+        LZMA_OK)
+    {
+        throw std::bad_alloc();
+    }
+    packed.resize(size);
+    return packed;
+}
+
+PackedStream PackStream(Bytes bytes, int windowLog)
+{
+    PackedStream best{0, CompressForDelta(bytes, windowLog)};
+    std::size_t const tries = bytes.size() > MOST_BYTES_TO_TRY ? 1 : std::size(PACKINGS);
+    for (std::size_t i = 0; i < tries; ++i)
+    {
+        ByteBuffer packed = PackByLzma(bytes, PACKINGS[i], windowLog);
+        if (packed.size() < best.bytes.size())
+        {
+            best = {PACKINGS[i], std::move(packed)};
+        }
+    }
+    return best;
+}
+
+ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest)
+{
+    ByteBuffer const plain = EncodeDeltaManifest(manifest);
+    Bytes const bytes(plain.data(), plain.size());
+    int const windowLog = ManifestWindowLogOf(manifest.format);
+    std::uint8_t const packing = ManifestPackingOf(manifest.format);
+    ByteBuffer const stored = packing == 0 ? CompressForDelta(bytes, windowLog) : PackByLzma(bytes, packing, windowLog);
+    ByteBuffer opening(DELTA_MAGIC.begin(), DELTA_MAGIC.end());
+    AppendFixed(opening, static_cast<std::uint64_t>(manifest.format));
+    AppendFixed(opening, stored.size());
+    AppendFixed(opening, plain.size());
+    opening.insert(opening.end(), stored.begin(), stored.end());
+    return opening;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,306 @@
+#include "Engine/core/delta/ImageLayout.h"
+
+#include <elf.h>
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr std::uint64_t MAX_IMAGE_REACH = 0xFFFFFFFF;
+constexpr std::size_t MAX_SECTIONS = 1024;
+constexpr std::uint64_t FRAME_INDEX_HEADER_BYTES = 12;
+constexpr std::uint8_t LEA = 0x8D;
+
+template <class Record>
+bool ReadRecord(Bytes file, std::uint64_t offset, Record& record)
+{
+    if (offset > file.size() || sizeof(Record) > file.size() - offset)
+    {
+        return false;
+    }
+    std::memcpy(&record, file.data() + offset, sizeof(Record));
+    return true;
+}
+
+class LayoutReader
+{
+public:
+    explicit LayoutReader(Bytes file) : m_file(file) {}
+
+    std::optional<ImageLayout> Read()
+    {
+        if (!ReadHeader() || !ReadSegments())
+        {
+            return std::nullopt;
+        }
+        ReadSections();
+        FindTables();
+        KeepSeparateRegions();
+        return std::move(m_layout);
+    }
+
+private:
+    bool ReadHeader()
+    {
+        bool const isImage = m_file.size() <= MAX_IMAGE_BYTES && ReadRecord(m_file, 0, m_header) &&
+                             std::memcmp(m_header.e_ident, ELFMAG, SELFMAG) == 0 &&
+                             m_header.e_ident[EI_CLASS] == ELFCLASS64 && m_header.e_ident[EI_DATA] == ELFDATA2LSB;
+        return isImage && (m_header.e_type == ET_DYN || m_header.e_type == ET_EXEC) &&
+               (m_header.e_machine == EM_X86_64 || m_header.e_machine == EM_AARCH64);
+    }
+
+    bool ReadSegments()
+    {
+        m_layout.lowest = m_layout.lowestCode = ~std::uint64_t(0);
+        for (std::size_t i = 0; i < m_header.e_phnum; ++i)
+        {
+            Elf64_Phdr segment;
+            if (!ReadRecord(m_file, m_header.e_phoff + i * sizeof segment, segment))
+            {
+                return false;
+            }
+            if (segment.p_type == PT_LOAD && !AddSegment(segment))
+            {
+                return false;
+            }
+        }
+        return !m_layout.spans.empty() && m_layout.end - m_layout.lowest <= MAX_IMAGE_REACH;
+    }
+
+    bool AddSegment(Elf64_Phdr const& segment)
+    {
+        std::uint64_t const end = segment.p_vaddr + std::max(segment.p_memsz, segment.p_filesz);
+        bool const isSane = segment.p_offset <= m_file.size() && segment.p_filesz <= m_file.size() - segment.p_offset &&
+                            segment.p_memsz <= MAX_IMAGE_REACH && end >= segment.p_vaddr;
+        bool const isNext = m_layout.spans.empty() || m_layout.spans.back().offset <= segment.p_offset;
+        if (!isSane || !isNext || m_layout.spans.size() == MAX_IMAGE_SPANS)
+        {
+            return false;
+        }
+        m_layout.spans.push_back({static_cast<std::uint32_t>(segment.p_offset),
+                                  static_cast<std::uint32_t>(segment.p_filesz), segment.p_vaddr});
+        m_layout.lowest = std::min(m_layout.lowest, segment.p_vaddr);
+        m_layout.end = std::max(m_layout.end, end);
+        if ((segment.p_flags & PF_X) != 0)
+        {
+            m_layout.lowestCode = std::min(m_layout.lowestCode, segment.p_vaddr);
+            m_layout.endOfCode = std::max(m_layout.endOfCode, end);
+        }
+        return true;
+    }
+
+    void ReadSections()
+    {
+        Elf64_Shdr names{};
+        std::uint64_t const namesAt = m_header.e_shoff + std::uint64_t(m_header.e_shstrndx) * sizeof names;
+        bool const hasNames = m_header.e_shnum <= MAX_SECTIONS && m_header.e_shoff <= m_file.size() &&
+                              ReadRecord(m_file, namesAt, names);
+        for (std::size_t i = 0; hasNames && i < m_header.e_shnum; ++i)
+        {
+            Elf64_Shdr section;
+            if (ReadRecord(m_file, m_header.e_shoff + i * sizeof section, section) &&
+                section.sh_offset <= m_file.size() && section.sh_size <= m_file.size() - section.sh_offset)
+            {
+                AddSection(section, NameAt(names, section.sh_name));
+            }
+        }
+    }
+
+    std::string_view NameAt(Elf64_Shdr const& names, std::uint32_t at) const
+    {
+        std::uint64_t const begin = names.sh_offset + at;
+        if (begin < names.sh_offset || begin >= m_file.size())
+        {
+            return {};
+        }
+        auto const* const text = reinterpret_cast<char const*>(m_file.data() + begin);
+        return {text, ::strnlen(text, std::min<std::size_t>(m_file.size() - begin, 64))};
+    }
+
+    void AddSection(Elf64_Shdr const& section, std::string_view name)
+    {
+        bool const isCode = (section.sh_flags & SHF_EXECINSTR) != 0;
+        bool const isLoaded = (section.sh_flags & SHF_ALLOC) != 0;
+        if (section.sh_type == SHT_PROGBITS && isCode)
+        {
+            Add(m_header.e_machine == EM_X86_64 ? RegionKind::X86Code : RegionKind::Arm64Code, section);
+        }
+        else if (section.sh_type == SHT_RELA && isLoaded)
+        {
+            Add(RegionKind::Relocations, section);
+        }
+        else if (section.sh_type == SHT_DYNSYM || section.sh_type == SHT_SYMTAB)
+        {
+            Add(RegionKind::Symbols, section, NamesAddress(section));
+        }
+        else if (section.sh_type == SHT_DYNAMIC)
+        {
+            Add(RegionKind::Dynamic, section);
+        }
+        else if (name == ".eh_frame")
+        {
+            Add(RegionKind::Frames, section);
+        }
+        else if (name == ".eh_frame_hdr" && section.sh_size > FRAME_INDEX_HEADER_BYTES)
+        {
+            Elf64_Shdr table = section;
+            table.sh_offset += FRAME_INDEX_HEADER_BYTES;
+            table.sh_size -= FRAME_INDEX_HEADER_BYTES;
+            Add(RegionKind::Offsets, table, section.sh_addr);
+        }
+        else if (isLoaded && section.sh_type != SHT_NOBITS && HoldsWords(section, name))
+        {
+            Add(RegionKind::Words, section);
+        }
+    }
+
+    /// In a program that may be loaded anywhere the addresses stand in its relocations; small numbers look like them.
+    bool HoldsWords(Elf64_Shdr const& section, std::string_view name) const
+    {
+        bool const isTable = section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_FINI_ARRAY ||
+                             name == ".got" || name == ".got.plt" || name == ".data.rel.ro";
+        return isTable || (m_header.e_type == ET_EXEC && section.sh_type == SHT_PROGBITS);
+    }
+
+    /// 0 when the names are not loaded with the program.
+    std::uint64_t NamesAddress(Elf64_Shdr const& symbols) const
+    {
+        Elf64_Shdr names{};
+        bool const hasNames = symbols.sh_link < m_header.e_shnum &&
+                              ReadRecord(m_file, m_header.e_shoff + symbols.sh_link * sizeof names, names);
+        return hasNames ? names.sh_addr : 0;
+    }
+
+    void Add(RegionKind kind, Elf64_Shdr const& section, std::uint64_t base = 0)
+    {
+        m_layout.regions.push_back({kind, static_cast<std::uint32_t>(section.sh_offset),
+                                    static_cast<std::uint32_t>(section.sh_offset + section.sh_size), base});
+    }
+
+    /// Tables of jumps: code takes their addresses, and each of their words is the distance of code from the table.
+    void FindTables()
+    {
+        std::vector<std::uint32_t> begins;
+        std::vector<ImageRegion> const code = m_layout.regions;
+        for (ImageRegion const& region : code)
+        {
+            if (region.kind == RegionKind::X86Code)
+            {
+                FindTables(region, begins);
+            }
+        }
+        std::sort(begins.begin(), begins.end());
+        begins.erase(std::unique(begins.begin(), begins.end()), begins.end());
+        for (std::size_t i = 0; i < begins.size(); ++i)
+        {
+            std::uint64_t const address = *AddressAt(m_layout.spans, begins[i]);
+            std::uint64_t const limit = i + 1 < begins.size() ? begins[i + 1] : m_file.size();
+            std::uint32_t end = begins[i];
+            while (end + 4 <= limit && IsCodeFrom(address, end))
+            {
+                end += 4;
+            }
+            m_layout.regions.push_back({RegionKind::Offsets, begins[i], end, address});
+        }
+    }
+
+    /// Adds where the tables begin whose addresses LEA takes in \a region.
+    void FindTables(ImageRegion const& region, std::vector<std::uint32_t>& begins) const
+    {
+        std::optional<std::uint64_t> const address = AddressAt(m_layout.spans, region.begin);
+        std::uint8_t const* const end = m_file.data() + region.end;
+        std::uint8_t const* at = m_file.data() + region.begin;
+        while (address && end - at >= 6)
+        {
+            at = static_cast<std::uint8_t const*>(std::memchr(at, LEA, static_cast<std::size_t>(end - at - 5)));
+            if (!at)
+            {
+                return;
+            }
+            bool const isRelative = (at[1] & 0xC7) == 0x05;
+            std::int32_t distance;
+            std::memcpy(&distance, at + 2, sizeof distance);
+            std::uint64_t const next = *address + static_cast<std::uint64_t>(at + 6 - m_file.data()) - region.begin;
+            ++at;
+            if (isRelative && !m_layout.IsInCode(next + static_cast<std::uint64_t>(std::int64_t(distance))))
+            {
+                AddIfTable(next + static_cast<std::uint64_t>(std::int64_t(distance)), begins);
+            }
+        }
+    }
+
+    void AddIfTable(std::uint64_t address, std::vector<std::uint32_t>& begins) const
+    {
+        std::optional<std::uint64_t> const offset = OffsetOf(m_layout.spans, address);
+        bool const isTable = offset && *offset % 4 == 0 && IsCodeFrom(address, *offset) &&
+                             IsCodeFrom(address, *offset + 4) && IsCodeFrom(address, *offset + 8);
+        if (isTable)
+        {
+            begins.push_back(static_cast<std::uint32_t>(*offset));
+        }
+    }
+
+    bool IsCodeFrom(std::uint64_t base, std::uint64_t offset) const
+    {
+        std::int32_t distance;
+        return ReadRecord(m_file, offset, distance) &&
+               m_layout.IsInCode(base + static_cast<std::uint64_t>(std::int64_t(distance)));
+    }
+
+    void KeepSeparateRegions()
+    {
+        auto& regions = m_layout.regions;
+        std::stable_sort(regions.begin(), regions.end(),
+                         [](ImageRegion const& a, ImageRegion const& b) { return a.begin < b.begin; });
+        std::uint32_t end = 0;
+        auto const overlaps = [&end](ImageRegion const& region)
+        {
+            bool const isOver = region.begin < end;
+            end = isOver ? end : region.end;
+            return isOver;
+        };
+        regions.erase(std::remove_if(regions.begin(), regions.end(), overlaps), regions.end());
+    }
+
+    Bytes m_file;
+    Elf64_Ehdr m_header{};
+    ImageLayout m_layout;
+};
+
+} // namespace
+
+std::optional<ImageLayout> ReadImageLayout(Bytes file)
+{
+    return LayoutReader(file).Read();
+}
+
+std::optional<std::uint64_t> AddressAt(std::vector<ImageSpan> const& spans, std::uint64_t offset)
+{
+    for (ImageSpan const& span : spans)
+    {
+        if (offset >= span.offset && offset - span.offset < span.size)
+        {
+            return span.address + (offset - span.offset);
+        }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint64_t> OffsetOf(std::vector<ImageSpan> const& spans, std::uint64_t address)
+{
+    for (ImageSpan const& span : spans)
+    {
+        if (address >= span.address && address - span.address < span.size)
+        {
+            return span.offset + (address - span.address);
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,253 @@
+#include "Engine/core/delta/JoinedApplier.h"
+
+#include "Engine/core/delta/BundleFiles.h"
+#include "Engine/core/delta/PatchApplier.h"
+
+#include <algorithm>
+#include <cerrno>
+#include <deque>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+/// The container's streams, open from the beginning to the end of the work.
+std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const& manifest)
+{
+    std::vector<DeltaStream> streams;
+    std::uint64_t offset = work.dataOffset;
+    for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
+    {
+        streams.emplace_back(work.containerFd, offset, manifest.streams[i], WindowLogOf(static_cast<PatchStream>(i)));
+        offset += manifest.streams[i].size;
+    }
+    return streams;
+}
+
+PatchSources SourcesOf(std::vector<DeltaStream>& streams)
+{
+    PatchSources sources;
+    std::transform(streams.begin(), streams.end(), sources.begin(),
+                   [](DeltaStream& stream)
+                   { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
+    return sources;
+}
+
+/// The old files of a unit.
+struct UnitBase
+{
+    std::deque<FileMapping> mappings; ///< which cannot be moved
+    std::vector<Bytes> files;
+};
+
+class Applier
+{
+public:
+    Applier(DeltaWork const& work, DeltaManifest const& manifest, EntryDone const& done)
+        : m_manifest(manifest)
+        , m_done(done)
+        , m_files(work.oldBundleFd, work.stagingFd)
+        , m_streams(OpenStreams(work, manifest))
+        , m_sources(SourcesOf(m_streams))
+        , m_patches(m_sources)
+    {
+    }
+
+    DeltaOutcome Apply()
+    {
+        errno = 0;
+        DeltaOutcome outcome = MakeEntries();
+        for (auto unit = m_manifest.units.begin(); outcome.HasSucceeded() && unit != m_manifest.units.end(); ++unit)
+        {
+            outcome = MakeUnit(*unit);
+        }
+        if (!outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        bool const isUsedUp = m_patches.IsUsedUp() && std::all_of(m_streams.begin(), m_streams.end(),
+                                                                  [](DeltaStream& stream) { return stream.IsAtEnd(); });
+        if (!isUsedUp)
+        {
+            return {DeltaError::Damaged, {}, 0};
+        }
+        return m_hasher.Finish() == m_manifest.targetHash ? DeltaOutcome{} : Culprit();
+    }
+
+private:
+    /// Everything but what the units make: nothing is ever made below a link or a file, for folders come first.
+    DeltaOutcome MakeEntries()
+    {
+        for (DeltaEntry const& entry : m_manifest.entries)
+        {
+            DeltaOutcome outcome;
+            switch (entry.kind)
+            {
+            case DeltaEntryKind::Directory:
+                outcome = m_files.MakeFolder(entry);
+                break;
+            case DeltaEntryKind::SymbolicLink:
+                outcome = m_files.MakeLink(entry);
+                break;
+            case DeltaEntryKind::Kept:
+                outcome = m_files.Keep(entry, m_hasher);
+                break;
+            case DeltaEntryKind::Patched:
+            case DeltaEntryKind::Whole:
+                continue;
+            }
+            if (!outcome.HasSucceeded())
+            {
+                outcome.path = entry.path;
+                return outcome;
+            }
+            m_done(entry);
+        }
+        return {};
+    }
+
+    DeltaOutcome OpenBase(DeltaUnit const& unit, UnitBase& base) const
+    {
+        for (DeltaSource const& source : unit.sources)
+        {
+            UniqueFd file;
+            DeltaOutcome outcome = m_files.OpenOld(source.path, source.size, file);
+            if (outcome.HasSucceeded())
+            {
+                FileMapping const& mapping =
+                    base.mappings.emplace_back(file.Get(), static_cast<std::size_t>(source.size));
+                base.files.push_back(mapping.Content());
+                outcome = mapping.IsValid() ? outcome : DeltaOutcome{DeltaError::CannotRead, {}, errno};
+            }
+            if (!outcome.HasSucceeded())
+            {
+                outcome.path = source.path;
+                return outcome;
+            }
+        }
+        return {};
+    }
+
+    DeltaOutcome MakeUnit(DeltaUnit const& unit)
+    {
+        UnitBase base;
+        if (DeltaOutcome outcome = OpenBase(unit, base); !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        m_patches.StartText();
+        PlainText old(base.files);
+        for (std::uint32_t const target : unit.targets)
+        {
+            DeltaEntry const& entry = m_manifest.entries[target];
+            UniqueFd file;
+            DeltaOutcome outcome = m_files.MakeFile(entry, file);
+            if (outcome.HasSucceeded())
+            {
+                outcome = unit.spanChanges.empty() ? MakeFile(entry, file, old)
+                                                   : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
+            }
+            if (!outcome.HasSucceeded())
+            {
+                outcome.path = entry.path;
+                return outcome;
+            }
+            m_done(entry);
+        }
+        return {};
+    }
+
+    DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd const& file, IOldText& old)
+    {
+        errno = 0;
+        ByteSink const sink = SinkOf(file);
+        return OutcomeOf(entry.kind == DeltaEntryKind::Whole ? m_patches.MakeWhole(entry.size, sink)
+                                                             : m_patches.Make(old, entry.size, sink));
+    }
+
+    DeltaOutcome MakeProgram(DeltaEntry const& entry, UniqueFd const& file, Bytes program,
+                             std::vector<SpanChange> const& changes)
+    {
+        std::optional<ImageLayout> const layout = ReadImageLayout(program);
+        if (!layout)
+        {
+            return {DeltaError::BaseDiffers, {}, 0};
+        }
+        errno = 0;
+        std::vector<PatchStep> steps;
+        PatchVerdict verdict = m_patches.TakeSteps(program.size(), entry.size, MAX_MAPPED_STEPS, steps);
+        if (verdict == PatchVerdict::Applied)
+        {
+            ProgramText old(program, *layout, ChangedSpans(*layout, changes), steps);
+            verdict = m_patches.MakeBySteps(old, steps, entry.size, SinkOf(file));
+        }
+        return OutcomeOf(verdict);
+    }
+
+    ByteSink SinkOf(UniqueFd const& file)
+    {
+        return [this, &file](Bytes bytes)
+        {
+            m_hasher.Add(bytes);
+            return WriteAll(file.Get(), bytes);
+        };
+    }
+
+    /// Why the new files have another hash: the old ones have, too, or it is the delta's own fault.
+    DeltaOutcome Culprit()
+    {
+        ContentHasher hasher;
+        auto const add = [this, &hasher](std::string const& path, std::uint64_t size)
+        {
+            UniqueFd file;
+            return m_files.OpenOld(path, size, file).HasSucceeded() && m_files.Hash(file.Get(), hasher).HasSucceeded();
+        };
+        bool isReadable = true;
+        for (DeltaEntry const& entry : m_manifest.entries)
+        {
+            isReadable = isReadable && (entry.kind != DeltaEntryKind::Kept || add(entry.sourcePath, entry.size));
+        }
+        for (DeltaUnit const& unit : m_manifest.units)
+        {
+            isReadable = isReadable && std::all_of(unit.sources.begin(), unit.sources.end(),
+                                                   [&add](DeltaSource const& source)
+                                                   { return add(source.path, source.size); });
+        }
+        bool const isExpected = isReadable && hasher.Finish() == m_manifest.baseHash;
+        return {isExpected ? DeltaError::ResultDiffers : DeltaError::BaseDiffers, {}, 0};
+    }
+
+    DeltaManifest const& m_manifest;
+    EntryDone const& m_done;
+    BundleFiles m_files;
+    std::vector<DeltaStream> m_streams;
+    PatchSources m_sources;
+    PatchApplier m_patches;
+    ContentHasher m_hasher;
+};
+
+} // namespace
+
+std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanChange> const& changes)
+{
+    std::vector<ImageSpan> spans;
+    for (std::size_t i = 0; i < changes.size(); ++i)
+    {
+        ImageSpan span = i < layout.spans.size() ? layout.spans[i] : ImageSpan();
+        span.offset += static_cast<std::uint32_t>(changes[i].offset);
+        span.size += static_cast<std::uint32_t>(changes[i].size);
+        span.address += static_cast<std::uint64_t>(changes[i].address);
+        spans.push_back(span);
+    }
+    return spans;
+}
+
+DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest const& manifest, EntryDone const& done)
+{
+    // Its buffers are large for a stack.
+    auto const applier = std::make_unique<Applier>(work, manifest, done);
+    return applier->Apply();
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,19 @@
+// JoinedApplier.h: makes a tree from a container whose files' data are joined in streams.
+// Thread: as for DeltaApplier.h. Ownership: descriptors stay the caller's.
+#pragma once
+
+#include "Engine/core/delta/ImageLayout.h"
+#include "Engine/core/delta/SeparateApplier.h"
+
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+[[nodiscard]] DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest const& manifest,
+                                            EntryDone const& done);
+
+/// The segments of a program whose old version has those of \a layout.
+[[nodiscard]] std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanChange> const& changes);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,328 @@
+#include "Engine/core/delta/JoinedManifest.h"
+
+#include "Engine/core/delta/ImageLayout.h"
+
+#include <algorithm>
+#include <map>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+using namespace ManifestBytes;
+
+constexpr std::uint8_t EXECUTABLE_KIND = 0x10; ///< what an executable file's kind is more
+constexpr std::uint8_t MOST_PACKINGS = 225; ///< properties of LZMA are below this
+
+bool IsFile(DeltaEntry const& entry)
+{
+    return entry.kind != DeltaEntryKind::Directory && entry.kind != DeltaEntryKind::SymbolicLink;
+}
+
+std::size_t SharedBytes(std::string const& a, std::string const& b)
+{
+    std::size_t const limit = std::min(a.size(), b.size());
+    return static_cast<std::size_t>(
+        std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(limit), b.begin()).first - a.begin());
+}
+
+// Like stands beside like, which compresses better: first what all paths share with the one before, then their rests,
+// then the kinds, and so on.
+void AppendEntries(ByteBuffer& bytes, std::vector<DeltaEntry> const& entries)
+{
+    AppendNumber(bytes, entries.size());
+    ByteBuffer rests;
+    ByteBuffer kinds;
+    ByteBuffer sizes;
+    ByteBuffer places;
+    std::string previous;
+    for (DeltaEntry const& entry : entries)
+    {
+        std::size_t const shared = SharedBytes(previous, entry.path);
+        AppendNumber(bytes, shared);
+        AppendText(rests, entry.path.substr(shared));
+        kinds.push_back(static_cast<std::uint8_t>(static_cast<std::uint8_t>(entry.kind) |
+                                                  (entry.isExecutable ? EXECUTABLE_KIND : 0)));
+        if (IsFile(entry))
+        {
+            AppendNumber(sizes, entry.size);
+        }
+        if (entry.kind == DeltaEntryKind::SymbolicLink)
+        {
+            AppendText(places, entry.linkTarget);
+        }
+        if (entry.kind == DeltaEntryKind::Kept)
+        {
+            AppendText(places, entry.sourcePath == entry.path ? std::string() : entry.sourcePath);
+        }
+        previous = entry.path;
+    }
+    for (ByteBuffer const* const column : {&rests, &kinds, &sizes, &places})
+    {
+        bytes.insert(bytes.end(), column->begin(), column->end());
+    }
+}
+
+void ReadKind(Reader& reader, DeltaEntry& entry)
+{
+    std::uint8_t const byte = reader.Byte();
+    std::uint8_t const kind = byte & ~EXECUTABLE_KIND;
+    if (kind > static_cast<std::uint8_t>(DeltaEntryKind::Whole))
+    {
+        return reader.Fail(DeltaManifestError::UnknownKind);
+    }
+    entry.kind = static_cast<DeltaEntryKind>(kind);
+    entry.isExecutable = byte != kind;
+    if (entry.isExecutable && !IsFile(entry))
+    {
+        reader.Fail(DeltaManifestError::BadFlag);
+    }
+}
+
+void ReadSize(Reader& reader, DeltaEntry& entry)
+{
+    entry.size = IsFile(entry) ? reader.Number() : 0;
+}
+
+void ReadPlace(Reader& reader, DeltaEntry& entry)
+{
+    if (entry.kind == DeltaEntryKind::SymbolicLink)
+    {
+        entry.linkTarget = reader.Text(MAX_PATH_BYTES);
+    }
+    if (entry.kind == DeltaEntryKind::Kept)
+    {
+        std::string const path = reader.Text(MAX_PATH_BYTES);
+        entry.sourcePath = path.empty() ? entry.path : path;
+        entry.sourceSize = entry.size;
+    }
+}
+
+void ReadEntries(Reader& reader, DeltaLimits const& limits, std::vector<DeltaEntry>& entries)
+{
+    std::uint64_t const count = reader.Count(limits.tree.maxEntries);
+    std::vector<std::uint64_t> shared(static_cast<std::size_t>(count));
+    std::generate(shared.begin(), shared.end(), [&reader] { return reader.Number(); });
+    std::string const* previous = nullptr;
+    std::uint64_t bytes = 0;
+    entries.resize(static_cast<std::size_t>(count));
+    for (std::size_t i = 0; i < entries.size() && reader.Error() == DeltaManifestError::None; ++i)
+    {
+        if (shared[i] > (previous ? previous->size() : 0) || shared[i] > MAX_PATH_BYTES)
+        {
+            return reader.Fail(DeltaManifestError::BadNumber);
+        }
+        entries[i].path = previous ? previous->substr(0, static_cast<std::size_t>(shared[i])) : std::string();
+        entries[i].path += reader.Text(MAX_PATH_BYTES);
+        previous = &entries[i].path;
+        // What is shared costs nothing in the manifest, but memory.
+        bytes += previous->size();
+        if (bytes > limits.maxManifestBytes)
+        {
+            return reader.Fail(DeltaManifestError::TextTooLong);
+        }
+    }
+    for (auto const read : {&ReadKind, &ReadSize, &ReadPlace})
+    {
+        for (std::size_t i = 0; i < entries.size() && reader.Error() == DeltaManifestError::None; ++i)
+        {
+            read(reader, entries[i]);
+        }
+    }
+}
+
+using IndicesByPath = std::map<std::string, std::uint64_t>;
+
+/// A source with the path of an entry is named by the entry.
+void AppendSource(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath const& indices,
+                  DeltaSource const& source)
+{
+    auto const same = indices.find(source.path);
+    AppendNumber(bytes, same == indices.end() ? 0 : same->second + 1);
+    if (same == indices.end())
+    {
+        AppendText(bytes, source.path);
+    }
+    std::uint64_t const likely = same == indices.end() ? 0 : manifest.entries[same->second].size;
+    AppendSigned(bytes, static_cast<std::int64_t>(source.size - likely));
+}
+
+DeltaSource ReadSource(Reader& reader, DeltaManifest const& manifest)
+{
+    DeltaSource source;
+    std::uint64_t const same = reader.Count(manifest.entries.size());
+    DeltaEntry const* const entry = same == 0 ? nullptr : &manifest.entries[static_cast<std::size_t>(same - 1)];
+    source.path = entry ? entry->path : reader.Text(MAX_PATH_BYTES);
+    source.size = (entry ? entry->size : 0) + static_cast<std::uint64_t>(reader.Signed());
+    return source;
+}
+
+void AppendUnit(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath const& indices, DeltaUnit const& unit)
+{
+    AppendNumber(bytes, unit.sources.size());
+    for (DeltaSource const& source : unit.sources)
+    {
+        AppendSource(bytes, manifest, indices, source);
+    }
+    AppendNumber(bytes, unit.targets.size());
+    std::int64_t next = 0;
+    for (std::uint32_t const target : unit.targets)
+    {
+        AppendSigned(bytes, std::int64_t(target) - next);
+        next = std::int64_t(target) + 1;
+    }
+    AppendNumber(bytes, unit.spanChanges.size());
+    for (SpanChange const& change : unit.spanChanges)
+    {
+        AppendSigned(bytes, change.offset);
+        AppendSigned(bytes, change.size);
+        AppendSigned(bytes, change.address);
+    }
+}
+
+DeltaUnit ReadUnit(Reader& reader, DeltaLimits const& limits, DeltaManifest const& manifest)
+{
+    DeltaUnit unit;
+    std::uint64_t const sources = reader.Count(limits.tree.maxEntries);
+    for (std::uint64_t i = 0; i < sources && reader.Error() == DeltaManifestError::None; ++i)
+    {
+        unit.sources.push_back(ReadSource(reader, manifest));
+    }
+    std::uint64_t const targets = reader.Count(manifest.entries.size());
+    std::uint64_t next = 0;
+    for (std::uint64_t i = 0; i < targets && reader.Error() == DeltaManifestError::None; ++i)
+    {
+        std::uint64_t const target = next + static_cast<std::uint64_t>(reader.Signed());
+        if (target >= manifest.entries.size())
+        {
+            reader.Fail(DeltaManifestError::BadUnit);
+        }
+        unit.targets.push_back(static_cast<std::uint32_t>(target));
+        next = target + 1;
+    }
+    std::uint64_t const spans = reader.Count(MAX_IMAGE_SPANS);
+    for (std::uint64_t i = 0; i < spans && reader.Error() == DeltaManifestError::None; ++i)
+    {
+        SpanChange change;
+        change.offset = reader.Signed();
+        change.size = reader.Signed();
+        change.address = reader.Signed();
+        unit.spanChanges.push_back(change);
+    }
+    return unit;
+}
+
+DeltaManifestVerdict BadUnit(std::string const& path)
+{
+    return {DeltaManifestError::BadUnit, UpdateFault::None, path};
+}
+
+DeltaManifestVerdict CheckSources(DeltaUnit const& unit, DeltaLimits const& limits, std::uint64_t& sources)
+{
+    std::uint64_t bytes = 0;
+    for (DeltaSource const& source : unit.sources)
+    {
+        if (!IsBelow(source.path))
+        {
+            return {DeltaManifestError::BadSource, UpdateFault::None, source.path};
+        }
+        if (source.size > limits.tree.maxBytes || bytes + source.size > limits.tree.maxBytes)
+        {
+            return {DeltaManifestError::TooManyBytes, UpdateFault::None, source.path};
+        }
+        bytes += source.size;
+    }
+    sources += unit.sources.size();
+    bool const isTooMuch = sources > limits.tree.maxEntries;
+    return {isTooMuch ? DeltaManifestError::TooManyEntries : DeltaManifestError::None, UpdateFault::None, {}};
+}
+
+} // namespace
+
+ByteBuffer EncodeJoinedManifest(DeltaManifest const& manifest)
+{
+    ByteBuffer bytes;
+    AppendText(bytes, manifest.baseVersion);
+    AppendText(bytes, manifest.targetVersion);
+    AppendHash(bytes, manifest.baseHash);
+    AppendHash(bytes, manifest.targetHash);
+    for (StoredStream const& stream : manifest.streams)
+    {
+        bytes.push_back(stream.packing);
+        AppendNumber(bytes, stream.size);
+    }
+    AppendEntries(bytes, manifest.entries);
+    IndicesByPath indices;
+    for (std::size_t i = 0; i < manifest.entries.size(); ++i)
+    {
+        indices.emplace(manifest.entries[i].path, i);
+    }
+    AppendNumber(bytes, manifest.units.size());
+    for (DeltaUnit const& unit : manifest.units)
+    {
+        AppendUnit(bytes, manifest, indices, unit);
+    }
+    return bytes;
+}
+
+void ReadJoinedManifest(Reader& reader, DeltaLimits const& limits, DeltaManifest& manifest)
+{
+    manifest.baseHash = reader.Hash();
+    manifest.targetHash = reader.Hash();
+    for (StoredStream& stream : manifest.streams)
+    {
+        stream.packing = reader.Byte();
+        stream.size = reader.Number();
+    }
+    ReadEntries(reader, limits, manifest.entries);
+    std::uint64_t const units = reader.Count(manifest.entries.size());
+    manifest.units.clear();
+    for (std::uint64_t i = 0; i < units && reader.Error() == DeltaManifestError::None; ++i)
+    {
+        manifest.units.push_back(ReadUnit(reader, limits, manifest));
+    }
+}
+
+DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const& limits)
+{
+    std::vector<bool> isMade(manifest.entries.size());
+    std::uint64_t sources = 0;
+    for (DeltaUnit const& unit : manifest.units)
+    {
+        if (DeltaManifestVerdict verdict = CheckSources(unit, limits, sources);
+            verdict.error != DeltaManifestError::None)
+        {
+            return verdict;
+        }
+        DeltaEntryKind const kind = unit.sources.empty() ? DeltaEntryKind::Whole : DeltaEntryKind::Patched;
+        for (std::uint32_t const target : unit.targets)
+        {
+            DeltaEntry const& entry = manifest.entries[target];
+            if (isMade[target] || entry.kind != kind)
+            {
+                return BadUnit(entry.path);
+            }
+            isMade[target] = true;
+        }
+        bool const isProgram = !unit.spanChanges.empty();
+        if (isProgram && (unit.sources.size() != 1 || unit.targets.size() != 1))
+        {
+            return BadUnit({});
+        }
+    }
+    for (std::size_t i = 0; i < manifest.entries.size(); ++i)
+    {
+        DeltaEntry const& entry = manifest.entries[i];
+        bool const isStored = entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
+        if (isStored != isMade[i])
+        {
+            return BadUnit(entry.path);
+        }
+    }
+    bool const isPacked = std::all_of(manifest.streams.begin(), manifest.streams.end(), [&limits](StoredStream stream)
+                                      { return stream.packing <= MOST_PACKINGS && stream.size <= limits.tree.maxBytes; });
+    return {isPacked ? DeltaManifestError::None : DeltaManifestError::BadPacking, UpdateFault::None, {}};
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,94 @@
+#include "Engine/core/delta/OldText.h"
+
+#include <algorithm>
+
+namespace Pelnar::Engine
+{
+
+PlainText::PlainText(std::vector<Bytes> files) : m_files(std::move(files))
+{
+    std::uint64_t end = 0;
+    for (Bytes const file : m_files)
+    {
+        end += file.size();
+        m_ends.push_back(end);
+    }
+}
+
+void PlainText::Start(std::uint64_t position, std::uint64_t, std::uint64_t size)
+{
+    m_position = position;
+    m_left = size;
+}
+
+Bytes PlainText::Next()
+{
+    if (m_left == 0)
+    {
+        return {};
+    }
+    auto const end = std::upper_bound(m_ends.begin(), m_ends.end(), m_position);
+    Bytes const file = m_files[static_cast<std::size_t>(end - m_ends.begin())];
+    std::uint64_t const offset = m_position - (*end - file.size());
+    Bytes const piece = file.substr(static_cast<std::size_t>(offset), static_cast<std::size_t>(m_left));
+    m_position += piece.size();
+    m_left -= piece.size();
+    return piece;
+}
+
+ProgramText::ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
+                         std::vector<PatchStep> const& steps)
+    : m_program(program)
+    , m_newSpans(std::move(newSpans))
+    , m_map(layout, m_newSpans, steps)
+    , m_scanner(program, layout)
+{
+}
+
+void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size)
+{
+    m_position = position;
+    m_left = size;
+    m_shift = newPosition - position;
+    m_scanner.Start(static_cast<std::size_t>(position), static_cast<std::size_t>(position + size));
+    m_hasField = m_scanner.Next(m_field);
+}
+
+Bytes ProgramText::Next()
+{
+    std::uint64_t const begin = m_position;
+    std::uint64_t end = begin + std::min<std::uint64_t>(m_left, m_piece.size());
+    std::copy_n(m_program.data() + begin, end - begin, m_piece.data());
+    while (m_hasField && m_field.position < end)
+    {
+        // A field over the piece's end is the next piece's.
+        if (m_field.position + m_field.Width() > end)
+        {
+            end = m_field.position;
+            break;
+        }
+        Change(m_field, m_piece.data() + (m_field.position - begin));
+        m_hasField = m_scanner.Next(m_field);
+    }
+    m_left -= end - begin;
+    m_position = end;
+    return {m_piece.data(), static_cast<std::size_t>(end - begin)};
+}
+
+void ProgramText::Change(AddressField const& field, std::uint8_t* bytes)
+{
+    std::uint64_t const position = field.position + m_shift;
+    if (position < m_newSpan.offset || position - m_newSpan.offset >= m_newSpan.size)
+    {
+        auto const isThere = [position](ImageSpan const& span)
+        { return position >= span.offset && position - span.offset < span.size; };
+        auto const found = std::find_if(m_newSpans.begin(), m_newSpans.end(), isThere);
+        // What is not loaded has no address: it is taken as standing where it stands in the file.
+        m_newSpan = found == m_newSpans.end() ? ImageSpan{static_cast<std::uint32_t>(position), 1, position} : *found;
+    }
+    std::uint64_t const address = m_newSpan.address + (position - m_newSpan.offset);
+    std::uint64_t const base = field.form == FieldForm::FromBase32 ? m_map.Find(field.base) : 0;
+    StoreField(field, address, m_map.Find(field.target), base, bytes);
+}
+
+} // namespace Pelnar::Engine

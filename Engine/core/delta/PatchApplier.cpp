@@ -1,0 +1,294 @@
+#include "Engine/core/delta/PatchApplier.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+bool PatchStreamReader::Take(std::uint8_t* target, std::size_t size)
+{
+    while (size > 0)
+    {
+        if (m_position == m_end && !Refill())
+        {
+            return false;
+        }
+        std::size_t const count = std::min(size, m_end - m_position);
+        std::copy_n(m_ahead.data() + m_position, count, target);
+        m_position += count;
+        target += count;
+        size -= count;
+    }
+    return true;
+}
+
+PatchVerdict PatchStreamReader::TakeNumber(std::uint64_t& number)
+{
+    number = 0;
+    for (int shift = 0;; shift += 7)
+    {
+        if (m_position == m_end && !Refill())
+        {
+            return PatchVerdict::SourceEnded;
+        }
+        std::uint8_t const byte = m_ahead[m_position++];
+        bool const isOverlong = byte == 0 && shift > 0;
+        bool const isTooLarge = shift == 63 && byte > 1;
+        if (isOverlong || isTooLarge)
+        {
+            return PatchVerdict::BadNumber;
+        }
+        number |= static_cast<std::uint64_t>(byte & 0x7F) << shift;
+        if (byte < 0x80)
+        {
+            return PatchVerdict::Applied;
+        }
+    }
+}
+
+bool PatchStreamReader::Refill()
+{
+    m_position = 0;
+    m_end = m_source(m_ahead.data(), m_ahead.size());
+    return m_end > 0;
+}
+
+PatchApplier::PatchApplier(PatchSources const& sources)
+    : m_steps(SourceOf(sources, PatchStream::Steps))
+    , m_same(SourceOf(sources, PatchStream::Same))
+    , m_changed(SourceOf(sources, PatchStream::Changed))
+    , m_difference(SourceOf(sources, PatchStream::Difference))
+    , m_extra(SourceOf(sources, PatchStream::Extra))
+{
+}
+
+PatchVerdict PatchApplier::Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink)
+{
+    StepRange range{old.Size(), m_position, newSize, true};
+    return Make(old, newSize, sink, [this, &range](PatchStep& step) { return TakeStep(range, step); });
+}
+
+PatchVerdict PatchApplier::TakeSteps(std::uint64_t oldSize, std::uint64_t newSize, std::size_t maxSteps,
+                                     std::vector<PatchStep>& steps)
+{
+    StepRange range{oldSize, m_position, newSize, true};
+    while (range.missing > 0)
+    {
+        PatchStep step;
+        if (steps.size() == maxSteps)
+        {
+            return PatchVerdict::TooManySteps;
+        }
+        if (PatchVerdict const verdict = TakeStep(range, step); verdict != PatchVerdict::Applied)
+        {
+            return verdict;
+        }
+        steps.push_back(step);
+    }
+    return PatchVerdict::Applied;
+}
+
+PatchVerdict PatchApplier::MakeBySteps(IOldText& old, std::vector<PatchStep> const& steps, std::uint64_t newSize,
+                                       ByteSink const& sink)
+{
+    auto next = steps.begin();
+    return Make(old, newSize, sink,
+                [&next](PatchStep& step)
+                {
+                    step = *next++;
+                    return PatchVerdict::Applied;
+                });
+}
+
+PatchVerdict PatchApplier::MakeWhole(std::uint64_t size, ByteSink const& sink)
+{
+    m_sink = &sink;
+    PatchVerdict const verdict = TakeExtra(size);
+    return verdict == PatchVerdict::Applied && !Flush() ? PatchVerdict::SinkRefused : verdict;
+}
+
+bool PatchApplier::IsUsedUp()
+{
+    return m_sameLeft == 0 && m_changedLeft == 0 && m_steps.IsAtEnd() && m_same.IsAtEnd() && m_changed.IsAtEnd() &&
+           m_difference.IsAtEnd() && m_extra.IsAtEnd();
+}
+
+ByteSource const& PatchApplier::SourceOf(PatchSources const& sources, PatchStream stream)
+{
+    return sources[static_cast<std::size_t>(stream)];
+}
+
+PatchVerdict PatchApplier::TakeStep(StepRange& range, PatchStep& step)
+{
+    for (std::uint64_t* const number : {&step.likeBytes, &step.extraBytes, &step.move})
+    {
+        if (PatchVerdict const verdict = m_steps.TakeNumber(*number); verdict != PatchVerdict::Applied)
+        {
+            return verdict;
+        }
+    }
+    // Only the first may do nothing but move: any number of such would be an endless loop.
+    if (step.likeBytes == 0 && step.extraBytes == 0 && !range.isFirst)
+    {
+        return PatchVerdict::BadNumber;
+    }
+    range.isFirst = false;
+    if (step.likeBytes > range.missing || step.extraBytes > range.missing - step.likeBytes)
+    {
+        return PatchVerdict::WrongSize;
+    }
+    if (step.likeBytes > range.oldSize - range.position)
+    {
+        return PatchVerdict::OutOfRange;
+    }
+    range.missing -= step.likeBytes + step.extraBytes;
+    range.position += step.likeBytes;
+    std::uint64_t const distance = step.move / 2 + step.move % 2;
+    bool const isBack = step.move % 2 != 0;
+    if (distance > (isBack ? range.position : range.oldSize - range.position))
+    {
+        return PatchVerdict::OutOfRange;
+    }
+    range.position = MovedBy(range.position, step.move);
+    return PatchVerdict::Applied;
+}
+
+template <class TakeNextStep>
+PatchVerdict PatchApplier::Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink,
+                                TakeNextStep const& takeNextStep)
+{
+    m_sink = &sink;
+    for (std::uint64_t made = 0; made < newSize;)
+    {
+        PatchStep step;
+        PatchVerdict verdict = takeNextStep(step);
+        verdict = verdict == PatchVerdict::Applied ? TakeLike(old, made, step.likeBytes) : verdict;
+        verdict = verdict == PatchVerdict::Applied ? TakeExtra(step.extraBytes) : verdict;
+        if (verdict != PatchVerdict::Applied)
+        {
+            return verdict;
+        }
+        made += step.likeBytes + step.extraBytes;
+        m_position = MovedBy(m_position + step.likeBytes, step.move);
+    }
+    return Flush() ? PatchVerdict::Applied : PatchVerdict::SinkRefused;
+}
+
+/// The next run, once the last is used up: they go on across steps.
+PatchVerdict PatchApplier::TakeRun()
+{
+    PatchVerdict verdict = PatchVerdict::Applied;
+    if (!m_isChangedNext)
+    {
+        verdict = m_same.TakeNumber(m_sameLeft);
+    }
+    else
+    {
+        verdict = m_changed.TakeNumber(m_changedLeft);
+        verdict = verdict == PatchVerdict::Applied && m_changedLeft == 0 ? PatchVerdict::BadNumber : verdict;
+    }
+    m_isChangedNext = !m_isChangedNext;
+    return verdict;
+}
+
+PatchVerdict PatchApplier::TakeLike(IOldText& old, std::uint64_t newPosition, std::uint64_t size)
+{
+    if (size > 0)
+    {
+        old.Start(m_position, newPosition, size);
+    }
+    while (size > 0)
+    {
+        Bytes const piece = old.Next();
+        if (PatchVerdict const verdict = TakeLike(piece); verdict != PatchVerdict::Applied)
+        {
+            return verdict;
+        }
+        size -= piece.size();
+    }
+    return PatchVerdict::Applied;
+}
+
+PatchVerdict PatchApplier::TakeLike(Bytes old)
+{
+    while (!old.empty())
+    {
+        if (m_sameLeft == 0 && m_changedLeft == 0)
+        {
+            if (PatchVerdict const verdict = TakeRun(); verdict != PatchVerdict::Applied)
+            {
+                return verdict;
+            }
+            continue;
+        }
+        std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
+        std::size_t const count = Room(std::min<std::uint64_t>(old.size(), left));
+        std::uint8_t* const target = m_piece.data() + m_filled;
+        if (&left == &m_sameLeft)
+        {
+            std::copy_n(old.data(), count, target);
+        }
+        else if (!m_difference.Take(target, count))
+        {
+            return PatchVerdict::SourceEnded;
+        }
+        else
+        {
+            std::transform(target, target + count, old.data(), target,
+                           [](std::uint8_t a, std::uint8_t b) { return static_cast<std::uint8_t>(a + b); });
+        }
+        left -= count;
+        old.remove_prefix(count);
+        if (!Advance(count))
+        {
+            return PatchVerdict::SinkRefused;
+        }
+    }
+    return PatchVerdict::Applied;
+}
+
+PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)
+{
+    while (size > 0)
+    {
+        std::size_t const count = Room(size);
+        if (!m_extra.Take(m_piece.data() + m_filled, count))
+        {
+            return PatchVerdict::SourceEnded;
+        }
+        size -= count;
+        if (!Advance(count))
+        {
+            return PatchVerdict::SinkRefused;
+        }
+    }
+    return PatchVerdict::Applied;
+}
+
+std::size_t PatchApplier::Room(std::uint64_t size) const
+{
+    return static_cast<std::size_t>(std::min<std::uint64_t>(size, m_piece.size() - m_filled));
+}
+
+bool PatchApplier::Advance(std::size_t count)
+{
+    m_filled += count;
+    return m_filled < m_piece.size() || Flush();
+}
+
+bool PatchApplier::Flush()
+{
+    std::size_t const count = std::exchange(m_filled, 0);
+    return count == 0 || (*m_sink)(Bytes(m_piece.data(), count));
+}
+
+PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)
+{
+    PlainText old({oldBytes});
+    PatchApplier applier(sources);
+    PatchVerdict const verdict = applier.Make(old, newSize, sink);
+    return verdict == PatchVerdict::Applied && !applier.IsUsedUp() ? PatchVerdict::WrongSize : verdict;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,91 @@
+// PatchApplier.h: makes files from the streams of patches, one after the other.
+// Thread: one at a time. Ownership: refers to the sources, which outlive it.
+#pragma once
+
+#include "Engine/core/delta/OldText.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// A stream read ahead: the numbers and most runs are a byte or two.
+class PatchStreamReader
+{
+public:
+    explicit PatchStreamReader(ByteSource const& source) : m_source(source) {}
+
+    [[nodiscard]] bool Take(std::uint8_t* target, std::size_t size);
+    PatchVerdict TakeNumber(std::uint64_t& number);
+    bool IsAtEnd() { return m_position == m_end && !Refill(); }
+
+private:
+    bool Refill();
+
+    ByteSource const& m_source;
+    std::array<std::uint8_t, 4 * 1024> m_ahead;
+    std::size_t m_position = 0;
+    std::size_t m_end = 0;
+};
+
+/// Constant memory but for the steps that are asked for; any bytes are safe. New bytes come in pieces of at most 64 KiB.
+class PatchApplier
+{
+public:
+    explicit PatchApplier(PatchSources const& sources);
+
+    /// What is made next starts from the beginning of an old text.
+    void StartText() { m_position = 0; }
+    /// Makes the next file, of \a newSize bytes, from where the last one has left the position in \a old.
+    [[nodiscard]] PatchVerdict Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink);
+    /// The steps of the next file, at most \a maxSteps, all within the old text, for a text that is made of them.
+    [[nodiscard]] PatchVerdict TakeSteps(std::uint64_t oldSize, std::uint64_t newSize, std::size_t maxSteps,
+                                         std::vector<PatchStep>& steps);
+    /// Makes the file whose \a steps have been taken.
+    [[nodiscard]] PatchVerdict MakeBySteps(IOldText& old, std::vector<PatchStep> const& steps, std::uint64_t newSize,
+                                           ByteSink const& sink);
+    /// Makes the next file from the extra stream alone.
+    [[nodiscard]] PatchVerdict MakeWhole(std::uint64_t size, ByteSink const& sink);
+    /// True when nothing of any stream is left.
+    [[nodiscard]] bool IsUsedUp();
+
+private:
+    /// What the steps of one file may still do.
+    struct StepRange
+    {
+        std::uint64_t oldSize;
+        std::uint64_t position; ///< in the old text; never past its end
+        std::uint64_t missing;  ///< bytes that no step has announced yet
+        bool isFirst;
+    };
+
+    static ByteSource const& SourceOf(PatchSources const& sources, PatchStream stream);
+    PatchVerdict TakeStep(StepRange& range, PatchStep& step);
+    template <class TakeNextStep>
+    PatchVerdict Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink, TakeNextStep const& takeNextStep);
+    PatchVerdict TakeRun();
+    PatchVerdict TakeLike(IOldText& old, std::uint64_t newPosition, std::uint64_t size);
+    PatchVerdict TakeLike(Bytes old);
+    PatchVerdict TakeExtra(std::uint64_t size);
+    std::size_t Room(std::uint64_t size) const;
+    [[nodiscard]] bool Advance(std::size_t count);
+    [[nodiscard]] bool Flush();
+
+    PatchStreamReader m_steps;
+    PatchStreamReader m_same;
+    PatchStreamReader m_changed;
+    PatchStreamReader m_difference;
+    PatchStreamReader m_extra;
+    ByteSink const* m_sink = nullptr; ///< of the file at hand
+    std::uint64_t m_position = 0;     ///< in the old text
+    std::uint64_t m_sameLeft = 0;
+    std::uint64_t m_changedLeft = 0;
+    bool m_isChangedNext = false;
+    std::array<std::uint8_t, 64 * 1024> m_piece;
+    std::size_t m_filled = 0;
+};
+
+} // namespace Pelnar::Engine

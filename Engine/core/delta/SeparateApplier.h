@@ -1,0 +1,30 @@
+// SeparateApplier.h: makes a tree from a container in which every file's data stand by themselves.
+// Thread: as for DeltaApplier.h. Ownership: descriptors stay the caller's.
+#pragma once
+
+#include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/DeltaContainer.h"
+
+#include <functional>
+
+namespace Pelnar::Engine
+{
+
+struct DeltaWork
+{
+    int containerFd;
+    int oldBundleFd;
+    int stagingFd;
+    std::uint64_t dataOffset;
+};
+
+/// Told after each entry that is made.
+using EntryDone = std::function<void(DeltaEntry const& entry)>;
+
+[[nodiscard]] DeltaOutcome ApplySeparateDelta(DeltaWork const& work, DeltaManifest const& manifest,
+                                              EntryDone const& done);
+
+/// What a patch that cannot be applied means for its container; errno is asked.
+[[nodiscard]] DeltaOutcome OutcomeOf(PatchVerdict verdict);
+
+} // namespace Pelnar::Engine

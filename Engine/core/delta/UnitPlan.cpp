@@ -1,0 +1,181 @@
+#include "Engine/core/delta/UnitPlan.h"
+
+#include "Engine/core/delta/ImageLayout.h"
+
+#include <algorithm>
+#include <cctype>
+#include <set>
+#include <tuple>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+// What is searched at once takes five times this in memory, and a unit's files are open together.
+constexpr std::uint64_t MAX_UNIT_BYTES = 128u << 20;
+constexpr std::size_t MAX_UNIT_FILES = 10000;
+
+std::string NameOf(std::string const& path)
+{
+    return path.substr(path.rfind('/') + 1);
+}
+
+/// The path without its numbers, which often are a version's.
+std::string PlainPath(std::string const& path)
+{
+    std::string plain;
+    std::copy_if(path.begin(), path.end(), std::back_inserter(plain),
+                 [](unsigned char c) { return !std::isdigit(c) && c != '.'; });
+    return plain;
+}
+
+/// Files in this order have their like beside them.
+std::tuple<std::string, std::string, std::string> OrderOf(std::string const& path)
+{
+    std::string const name = NameOf(path);
+    std::size_t const dot = name.rfind('.');
+    return {dot == std::string::npos ? std::string() : name.substr(dot), PlainPath(path), path};
+}
+
+SpanChange ChangeOf(ImageSpan const& from, ImageSpan const& to)
+{
+    return {std::int64_t(to.offset) - std::int64_t(from.offset), std::int64_t(to.size) - std::int64_t(from.size),
+            static_cast<std::int64_t>(to.address - from.address)};
+}
+
+std::vector<SpanChange> ChangesOf(ImageLayout const& from, ImageLayout const& to)
+{
+    std::vector<SpanChange> changes;
+    for (std::size_t i = 0; i < to.spans.size(); ++i)
+    {
+        changes.push_back(ChangeOf(i < from.spans.size() ? from.spans[i] : ImageSpan(), to.spans[i]));
+    }
+    return changes;
+}
+
+class Planner
+{
+public:
+    Planner(OldVersion const& old, std::filesystem::path newFolder, std::vector<DeltaEntry> const& entries)
+        : m_old(old), m_newFolder(std::move(newFolder)), m_entries(entries)
+    {
+        for (auto const& [path, file] : old.files)
+        {
+            m_pathsByPlainPath.emplace(PlainPath(path), path);
+        }
+        for (DeltaEntry const& entry : entries)
+        {
+            if (entry.kind == DeltaEntryKind::Kept)
+            {
+                m_usedPaths.insert(entry.sourcePath);
+            }
+        }
+    }
+
+    std::vector<DeltaUnit> Plan()
+    {
+        std::vector<std::uint32_t> others;
+        for (std::uint32_t i = 0; i < m_entries.size(); ++i)
+        {
+            if (m_entries[i].kind == DeltaEntryKind::Whole && !AddProgram(i))
+            {
+                others.push_back(i);
+            }
+        }
+        AddOthers(others);
+        return std::move(m_units);
+    }
+
+private:
+    std::string SourceFor(std::string const& path) const
+    {
+        auto const similar = m_pathsByPlainPath.find(PlainPath(path));
+        bool const isThere = m_old.files.count(path) != 0;
+        return isThere || similar == m_pathsByPlainPath.end() ? path : similar->second;
+    }
+
+    bool AddProgram(std::uint32_t target)
+    {
+        std::string const source = SourceFor(m_entries[target].path);
+        auto const found = m_old.files.find(source);
+        if (found == m_old.files.end())
+        {
+            return false;
+        }
+        std::optional<ImageLayout> const from = ReadImageLayout(OpenedFile(m_old.folder / source).Content());
+        std::optional<ImageLayout> const to =
+            from ? ReadImageLayout(OpenedFile(m_newFolder / m_entries[target].path).Content()) : std::nullopt;
+        if (!to)
+        {
+            return false;
+        }
+        m_units.push_back({{{source, found->second.size}}, {target}, ChangesOf(*from, *to)});
+        m_usedPaths.insert(source);
+        return true;
+    }
+
+    /// Everything else in one order, old and new files together, cut where it gets too much to be searched at once.
+    void AddOthers(std::vector<std::uint32_t> const& targets)
+    {
+        struct Item
+        {
+            std::string path;
+            std::uint64_t size;
+            bool isSource;
+            std::uint32_t target;
+        };
+        std::vector<Item> items;
+        for (auto const& [path, file] : m_old.files)
+        {
+            if (m_usedPaths.count(path) == 0)
+            {
+                items.push_back({path, file.size, true, 0});
+            }
+        }
+        for (std::uint32_t const target : targets)
+        {
+            items.push_back({m_entries[target].path, m_entries[target].size, false, target});
+        }
+        std::sort(items.begin(), items.end(),
+                  [](Item const& a, Item const& b)
+                  { return std::make_pair(OrderOf(a.path), !a.isSource) < std::make_pair(OrderOf(b.path), !b.isSource); });
+        DeltaUnit unit;
+        std::uint64_t bytes = 0;
+        for (Item const& item : items)
+        {
+            if (item.isSource && (bytes + item.size > MAX_UNIT_BYTES || unit.sources.size() == MAX_UNIT_FILES))
+            {
+                bytes = 0;
+                m_units.push_back(std::exchange(unit, {}));
+            }
+            if (item.isSource)
+            {
+                unit.sources.push_back({item.path, item.size});
+                bytes += item.size;
+            }
+            else
+            {
+                unit.targets.push_back(item.target);
+            }
+        }
+        m_units.push_back(unit);
+    }
+
+    OldVersion const& m_old;
+    std::filesystem::path m_newFolder;
+    std::vector<DeltaEntry> const& m_entries;
+    std::multimap<std::string, std::string> m_pathsByPlainPath;
+    std::set<std::string> m_usedPaths; ///< of old files that are kept or are programs' sources
+    std::vector<DeltaUnit> m_units;
+};
+
+} // namespace
+
+std::vector<DeltaUnit> PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
+                                 std::vector<DeltaEntry> const& entries)
+{
+    return Planner(old, newFolder, entries).Plan();
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,208 @@
+#include "Engine/core/delta/UnitSearch.h"
+
+#include "Engine/core/delta/AlignmentText.h"
+#include "Engine/core/delta/StepFinder.h"
+#include "Engine/core/delta/WorkCrew.h"
+
+#include <algorithm>
+#include <deque>
+#include <map>
+#include <new>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+/// Large files are searched piece by piece, so that all processors have work.
+constexpr std::size_t PIECE_BYTES = 8u << 20;
+/// Texts of which the indices are in memory together.
+constexpr std::uint64_t WAVE_BYTES = 128u << 20;
+
+/// The old files of one unit, as one text.
+class OldIndex
+{
+public:
+    OldIndex(DeltaUnit const& unit, std::filesystem::path const& folder)
+    {
+        for (DeltaSource const& source : unit.sources)
+        {
+            OpenedFile const file(folder / source.path);
+            m_text.insert(m_text.end(), file.Content().begin(), file.Content().end());
+        }
+        Bytes const plain(m_text.data(), m_text.size());
+        if (std::optional<ImageLayout> const layout =
+                unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
+        {
+            m_text = AlignmentTextOf(plain, *layout);
+        }
+        if (!m_index.Build(Bytes(m_text.data(), m_text.size())))
+        {
+            throw std::bad_alloc();
+        }
+    }
+
+    SuffixIndex const& Index() const { return m_index; }
+
+private:
+    ByteBuffer m_text;
+    SuffixIndex m_index;
+};
+
+/// A piece of a target's text: where it starts in the old text, and what it comes to.
+struct Piece
+{
+    std::size_t target;
+    std::size_t begin;
+    std::size_t size;
+    std::uint64_t start = 0;
+    std::uint64_t end = 0;
+    std::vector<PatchStep> steps;
+};
+
+class UnitWork
+{
+public:
+    UnitWork(DeltaUnit const& unit, std::filesystem::path const& oldFolder, std::filesystem::path const& newFolder,
+             std::vector<DeltaEntry> const& entries)
+        : m_unit(unit), m_oldFolder(oldFolder), m_newFolder(newFolder), m_entries(entries)
+    {
+        std::map<std::string, std::uint64_t> starts;
+        std::uint64_t start = 0;
+        for (DeltaSource const& source : unit.sources)
+        {
+            starts.emplace(source.path, start);
+            start += source.size;
+        }
+        for (std::size_t i = 0; i < unit.targets.size(); ++i)
+        {
+            DeltaEntry const& entry = entries[unit.targets[i]];
+            // Likely it starts where the old file of its path does, or else where the one before has.
+            auto const same = starts.find(entry.path);
+            std::uint64_t const before = m_pieces.empty() ? 0 : m_pieces.back().start;
+            std::uint64_t const begin = same == starts.end() ? before : same->second;
+            for (std::uint64_t at = 0; at < entry.size; at += PIECE_BYTES)
+            {
+                auto const size = static_cast<std::size_t>(std::min<std::uint64_t>(PIECE_BYTES, entry.size - at));
+                m_pieces.push_back({i, static_cast<std::size_t>(at), size, std::min(begin + at, start), 0, {}});
+            }
+        }
+    }
+
+    std::size_t PieceCount() const { return m_pieces.size(); }
+
+    void BuildIndex()
+    {
+        m_index.emplace(m_unit, m_oldFolder);
+        if (!m_unit.spanChanges.empty())
+        {
+            OpenedFile const program(m_newFolder / m_entries[m_unit.targets.front()].path);
+            std::optional<ImageLayout> const layout = ReadImageLayout(program.Content());
+            m_program = layout ? AlignmentTextOf(program.Content(), *layout) : ByteBuffer();
+        }
+    }
+
+    void Search(std::size_t number)
+    {
+        Piece& piece = m_pieces[number];
+        OpenedFile const file(m_newFolder / m_entries[m_unit.targets[piece.target]].path);
+        Bytes const text = m_program.empty() ? file.Content() : Bytes(m_program.data(), m_program.size());
+        piece.end = piece.start;
+        piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
+    }
+
+    UnitSteps Finish()
+    {
+        UnitSteps steps(m_unit.targets.size());
+        std::uint64_t position = 0;
+        for (Piece const& piece : m_pieces)
+        {
+            Append(steps[piece.target], piece, position);
+        }
+        return steps;
+    }
+
+private:
+    static std::uint64_t MoveFor(std::uint64_t from, std::uint64_t to)
+    {
+        return to < from ? (from - to) * 2 - 1 : (to - from) * 2;
+    }
+
+    /// Leads from where the last piece has ended to where this one starts.
+    static void Append(std::vector<PatchStep>& steps, Piece const& piece, std::uint64_t& position)
+    {
+        std::vector<PatchStep> next = piece.steps;
+        std::uint64_t start = piece.start;
+        bool const isIdle = !next.empty() && next.front().likeBytes == 0 && next.front().extraBytes == 0;
+        if (isIdle)
+        {
+            start = MovedBy(start, next.front().move);
+            next.erase(next.begin());
+        }
+        bool const usesOld = std::any_of(next.begin(), next.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
+        if (!usesOld)
+        {
+            // Of a piece that has nothing of the old text no position is kept.
+            next.assign(1, PatchStep{0, piece.size, 0});
+            start = position;
+        }
+        if (start != position && steps.empty())
+        {
+            steps.push_back({0, 0, MoveFor(position, start)});
+        }
+        else if (start != position)
+        {
+            steps.back().move = MoveFor(position, start); // the last step of a piece moves nowhere
+        }
+        steps.insert(steps.end(), next.begin(), next.end());
+        position = usesOld ? piece.end : position;
+    }
+
+    DeltaUnit const& m_unit;
+    std::filesystem::path const& m_oldFolder;
+    std::filesystem::path const& m_newFolder;
+    std::vector<DeltaEntry> const& m_entries;
+    std::vector<Piece> m_pieces;
+    std::optional<OldIndex> m_index;
+    ByteBuffer m_program; ///< as it is compared, when the unit's target is one
+};
+
+} // namespace
+
+std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units, std::filesystem::path const& oldFolder,
+                                   std::filesystem::path const& newFolder, std::vector<DeltaEntry> const& entries,
+                                   SearchProgress const& progress)
+{
+    std::uint64_t total = 0;
+    for (DeltaUnit const& unit : units)
+    {
+        total += UnitWork(unit, oldFolder, newFolder, entries).PieceCount() + 1;
+    }
+    std::uint64_t done = 0;
+    auto const told = [&done, total, &progress] { progress ? progress(++done, total) : void(); };
+    std::vector<UnitSteps> answer;
+    for (std::size_t first = 0; first < units.size();)
+    {
+        std::deque<UnitWork> wave;
+        std::vector<std::pair<std::size_t, std::size_t>> pieces;
+        std::uint64_t bytes = 0;
+        for (; first < units.size() && (wave.empty() || bytes < WAVE_BYTES); ++first)
+        {
+            UnitWork const& work = wave.emplace_back(units[first], oldFolder, newFolder, entries);
+            for (std::size_t i = 0; i < work.PieceCount(); ++i)
+            {
+                pieces.emplace_back(wave.size() - 1, i);
+            }
+            for (DeltaSource const& source : units[first].sources)
+            {
+                bytes += source.size;
+            }
+        }
+        DoAll(wave.size(), [&wave](std::size_t i) { wave[i].BuildIndex(); }, told);
+        DoAll(pieces.size(), [&wave, &pieces](std::size_t i) { wave[pieces[i].first].Search(pieces[i].second); }, told);
+        std::transform(wave.begin(), wave.end(), std::back_inserter(answer), [](UnitWork& work) { return work.Finish(); });
+    }
+    return answer;
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,16 @@
+// WorkCrew.h: does many pieces of work with all processors.
+// Thread: one caller at a time; the work is done in threads of the call, which have ended when it returns, and is told
+// of in the caller's.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+
+namespace Pelnar::Engine
+{
+
+/// Calls \a work with each number below \a count, of which it starts the lowest first, and \a told after each that is
+/// done, in the calling thread. An exception of any is thrown once the others have ended.
+void DoAll(std::size_t count, std::function<void(std::size_t)> const& work, std::function<void()> const& told);
+
+} // namespace Pelnar::Engine

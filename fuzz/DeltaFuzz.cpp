@@ -1,8 +1,12 @@
-// DeltaFuzz.cpp: any bytes as a delta's manifest and as the numbers of a patch: an accepted manifest is the one form of
-// what it says, and no patch makes more bytes than it may.
+// DeltaFuzz.cpp: any bytes as what a delta brings, in both formats: as a manifest, as the numbers of a patch, as packed
+// streams, as a program that is changed and as the steps that change it. An accepted manifest says the same when it is
+// written and read again, no patch makes more bytes than it may, and nothing reads outside what it is given.
 
 #include "Engine/core/delta/BinaryPatch.h"
 #include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/delta/PatchApplier.h"
+#include "Engine/core/delta/StreamUnpacker.h"
+#include "tests/delta/ForgedProgram.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -14,61 +18,157 @@ namespace
 
 using namespace Pelnar::Engine;
 
-void CheckManifest(Bytes bytes)
+constexpr std::uint64_t NEW_BYTES = 100000;
+constexpr std::size_t FEW_STEPS = 1000;
+
+void Require(bool holds)
 {
-    DeltaManifest manifest;
-    if (DecodeDeltaManifest(bytes, {}, manifest).error != DeltaManifestError::None)
-    {
-        return;
-    }
-    ByteBuffer const again = EncodeDeltaManifest(manifest);
-    if (Bytes(again.data(), again.size()) != bytes)
+    if (!holds)
     {
         std::abort();
     }
 }
 
-void CheckPatch(Bytes bytes)
+void CheckSeparateManifest(Bytes bytes)
 {
-    constexpr std::uint64_t NEW_BYTES = 100000;
-    ByteBuffer const oldBytes(1000, 7);
-    // The first byte says where the steps end and the runs begin.
-    std::size_t const split = bytes.empty() ? 0 : std::min<std::size_t>(bytes.front(), bytes.size());
-    auto const sourceOf = [](Bytes all)
+    DeltaManifest manifest;
+    if (DecodeDeltaManifest(bytes, {}, manifest).error == DeltaManifestError::None)
     {
-        return [rest = all](std::uint8_t* target, std::size_t size) mutable
-        {
-            std::size_t const count = std::min(size, rest.size());
-            std::copy_n(rest.begin(), count, target);
-            rest.remove_prefix(count);
-            return count;
-        };
+        // It is the one form of what it says.
+        ByteBuffer const again = EncodeDeltaManifest(manifest);
+        Require(Bytes(again.data(), again.size()) == bytes);
+    }
+}
+
+void CheckJoinedManifest(Bytes bytes)
+{
+    DeltaManifest manifest;
+    manifest.format = DeltaFormat::Joined;
+    if (DecodeDeltaManifest(bytes, {}, manifest).error != DeltaManifestError::None)
+    {
+        return;
+    }
+    ByteBuffer const again = EncodeDeltaManifest(manifest);
+    DeltaManifest second;
+    second.format = DeltaFormat::Joined;
+    Require(DecodeDeltaManifest(Bytes(again.data(), again.size()), {}, second).error == DeltaManifestError::None);
+    Require(second.entries == manifest.entries && second.units == manifest.units &&
+            second.streams == manifest.streams && second.targetHash == manifest.targetHash);
+}
+
+ByteSource SourceOf(Bytes all)
+{
+    return [rest = all](std::uint8_t* target, std::size_t size) mutable
+    {
+        std::size_t const count = std::min(size, rest.size());
+        std::copy_n(rest.begin(), count, target);
+        rest.remove_prefix(count);
+        return count;
     };
+}
+
+/// The first byte says where the steps end and the runs begin.
+PatchSources SourcesOf(Bytes bytes)
+{
+    std::size_t const split = bytes.empty() ? 0 : std::min<std::size_t>(bytes.front(), bytes.size());
     ByteSource const endless = [](std::uint8_t* target, std::size_t size)
     {
         std::fill_n(target, size, std::uint8_t(1));
         return size;
     };
     Bytes const runs = bytes.substr(split);
-    PatchSources const sources{sourceOf(bytes.substr(0, split)), sourceOf(runs), sourceOf(runs), endless, endless};
+    return {SourceOf(bytes.substr(0, split)), SourceOf(runs), SourceOf(runs), endless, endless};
+}
+
+void CheckPatch(Bytes bytes)
+{
+    ByteBuffer const oldBytes(1000, 7);
     std::uint64_t made = 0;
-    PatchVerdict const verdict = ApplyBinaryPatch(Bytes(oldBytes.data(), oldBytes.size()), sources, NEW_BYTES,
+    PatchVerdict const verdict = ApplyBinaryPatch(Bytes(oldBytes.data(), oldBytes.size()), SourcesOf(bytes), NEW_BYTES,
                                                   [&made](Bytes piece)
                                                   {
                                                       made += piece.size();
                                                       return true;
                                                   });
-    if (made > NEW_BYTES || (verdict == PatchVerdict::Applied && made != NEW_BYTES))
+    Require(made <= NEW_BYTES && (verdict != PatchVerdict::Applied || made == NEW_BYTES));
+}
+
+/// \a program, if it is one, changed by steps and to segments that \a bytes say.
+void CheckProgram(Bytes program, Bytes bytes)
+{
+    std::optional<ImageLayout> const layout = ReadImageLayout(program);
+    if (!layout)
     {
-        std::abort();
+        return;
     }
+    PatchSources const sources = SourcesOf(bytes);
+    PatchApplier applier(sources);
+    std::vector<PatchStep> steps;
+    if (applier.TakeSteps(program.size(), NEW_BYTES, FEW_STEPS, steps) != PatchVerdict::Applied)
+    {
+        return;
+    }
+    std::vector<ImageSpan> spans = layout->spans;
+    spans.front().address += bytes.empty() ? 0 : std::uint64_t(bytes.back()) << 24;
+    spans.back().offset += bytes.empty() ? 0 : bytes.front();
+    ProgramText text(program, *layout, spans, steps);
+    std::uint64_t made = 0;
+    PatchVerdict const verdict = applier.MakeBySteps(text, steps, NEW_BYTES,
+                                                     [&made](Bytes piece)
+                                                     {
+                                                         made += piece.size();
+                                                         return true;
+                                                     });
+    Require(made <= NEW_BYTES && (verdict != PatchVerdict::Applied || made == NEW_BYTES));
+}
+
+void CheckStream(Bytes bytes)
+{
+    if (bytes.empty())
+    {
+        return;
+    }
+    // A small window: its memory is had again for each input.
+    auto const unpacker = MakeUnpacker(bytes.front(), 12);
+    Bytes input = bytes.substr(1);
+    ByteBuffer made(2000);
+    for (int round = 0; round < 8; ++round)
+    {
+        std::size_t const before = input.size();
+        IUnpacker::Step const step = unpacker->Unpack(input, made.data(), made.size());
+        Require(step.made <= made.size() && input.size() <= before);
+        if (step.state != IUnpacker::State::Going)
+        {
+            return;
+        }
+    }
+}
+
+ByteBuffer const& SmallProgram(Pelnar::Testing::Processor processor)
+{
+    static ByteBuffer const x86 = Pelnar::Testing::ForgeProgram({Pelnar::Testing::Processor::X86, 20, 0, 0, 0, 0x1000});
+    static ByteBuffer const arm64 =
+        Pelnar::Testing::ForgeProgram({Pelnar::Testing::Processor::Arm64, 20, 0, 0, 0, 0x1000});
+    return processor == Pelnar::Testing::Processor::X86 ? x86 : arm64;
 }
 
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
 {
-    CheckManifest(Bytes(data, size));
-    CheckPatch(Bytes(data, size));
+    Bytes const bytes(data, size);
+    CheckSeparateManifest(bytes);
+    CheckJoinedManifest(bytes);
+    CheckPatch(bytes);
+    CheckStream(bytes);
+    CheckProgram(bytes, bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 64)));
+    for (auto const processor : {Pelnar::Testing::Processor::X86, Pelnar::Testing::Processor::Arm64})
+    {
+        // A right program with the input over a place of its own.
+        ByteBuffer program = SmallProgram(processor);
+        std::size_t const at = size < 2 ? 0 : (data[0] << 8 | data[1]) % program.size();
+        std::copy_n(data, std::min(size, program.size() - at), program.begin() + static_cast<std::ptrdiff_t>(at));
+        CheckProgram(Bytes(program.data(), program.size()), bytes);
+    }
     return 0;
 }

@@ -120,26 +120,35 @@ char const* KindName(Engine::DeltaEntryKind kind)
     return "unknown";
 }
 
-struct Totals
-{
-    std::size_t count = 0;
-    quint64 size = 0;
-    quint64 stored = 0;
-};
+constexpr char const* STREAM_NAMES[Engine::PATCH_STREAMS] = {"steps", "same", "changed", "difference", "extra"};
 
-Totals TotalsOf(Engine::DeltaManifest const& manifest, Engine::DeltaEntryKind kind)
+/// Where an entry comes from, when it is another path of the version before.
+QString OriginOf(Engine::DeltaEntry const& entry)
 {
-    Totals totals;
-    for (Engine::DeltaEntry const& entry : manifest.entries)
+    bool const isElsewhere = !entry.sourcePath.empty() && entry.sourcePath != entry.path;
+    return isElsewhere ? QStringLiteral(" (from %1)").arg(Printable(QString::fromStdString(entry.sourcePath)))
+                       : QString();
+}
+
+/// What files take of the container is known of each by itself in one format, of all together in the other.
+void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
+{
+    if (manifest.format == Engine::DeltaFormat::Separate)
     {
-        if (entry.kind == kind)
+        quint64 stored = 0;
+        for (Engine::DeltaEntry const& entry : manifest.entries)
         {
-            ++totals.count;
-            totals.size += entry.size;
-            totals.stored += entry.StoredBytes();
+            stored += entry.StoredBytes();
         }
+        console.Print(QStringLiteral("%1 bytes of data").arg(stored));
+        return;
     }
-    return totals;
+    QStringList parts;
+    for (std::size_t i = 0; i < Engine::PATCH_STREAMS; ++i)
+    {
+        parts << QStringLiteral("%1 of %2").arg(manifest.streams[i].size).arg(QLatin1String(STREAM_NAMES[i]));
+    }
+    console.Print(QStringLiteral("bytes of data: %1").arg(parts.join(QStringLiteral(", "))));
 }
 
 void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
@@ -150,49 +159,68 @@ void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManif
                       .arg(delta.size));
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
-        QString line = QStringLiteral("%1 %2 of %3 bytes  %4")
-                           .arg(QLatin1String(KindName(entry.kind)), -8)
-                           .arg(entry.StoredBytes(), 10)
-                           .arg(entry.size, 10)
-                           .arg(Printable(QString::fromStdString(entry.path)));
-        if (!entry.sourcePath.empty() && entry.sourcePath != entry.path)
-        {
-            line += QStringLiteral(" (from %1)").arg(Printable(QString::fromStdString(entry.sourcePath)));
-        }
-        console.Print(line);
+        console.Print(QStringLiteral("%1 %2 bytes  %3%4")
+                          .arg(QLatin1String(KindName(entry.kind)), -8)
+                          .arg(entry.size, 10)
+                          .arg(Printable(QString::fromStdString(entry.path)), OriginOf(entry)));
     }
     for (Engine::DeltaEntryKind const kind :
          {Engine::DeltaEntryKind::Kept, Engine::DeltaEntryKind::Patched, Engine::DeltaEntryKind::Whole})
     {
-        Totals const totals = TotalsOf(manifest, kind);
-        console.Print(QStringLiteral("%1 %2, %3 of %4 bytes in the delta")
+        std::size_t count = 0;
+        quint64 size = 0;
+        for (Engine::DeltaEntry const& entry : manifest.entries)
+        {
+            count += entry.kind == kind ? 1 : 0;
+            size += entry.kind == kind ? entry.size : 0;
+        }
+        console.Print(QStringLiteral("%1 %2 of %3 bytes")
                           .arg(QLatin1String(KindName(kind)), -8)
-                          .arg(CountOf(totals.count, QStringLiteral("file")))
-                          .arg(totals.stored)
-                          .arg(totals.size));
+                          .arg(CountOf(count, QStringLiteral("file")))
+                          .arg(size));
     }
+    ShowStored(console, manifest);
+}
+
+QJsonObject StreamsJson(Engine::DeltaManifest const& manifest)
+{
+    QJsonObject streams;
+    for (std::size_t i = 0; i < Engine::PATCH_STREAMS; ++i)
+    {
+        streams.insert(QLatin1String(STREAM_NAMES[i]), qint64(manifest.streams[i].size));
+    }
+    return streams;
 }
 
 void ShowJson(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
 {
+    bool const isJoined = manifest.format == Engine::DeltaFormat::Joined;
     QJsonArray entries;
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
         QJsonObject object{{QStringLiteral("path"), QString::fromStdString(entry.path)},
                            {QStringLiteral("kind"), QLatin1String(KindName(entry.kind))},
-                           {QStringLiteral("size"), qint64(entry.size)},
-                           {QStringLiteral("stored"), qint64(entry.StoredBytes())}};
+                           {QStringLiteral("size"), qint64(entry.size)}};
+        if (!isJoined)
+        {
+            object.insert(QStringLiteral("stored"), qint64(entry.StoredBytes()));
+        }
         if (!entry.sourcePath.empty())
         {
             object.insert(QStringLiteral("source"), QString::fromStdString(entry.sourcePath));
         }
         entries.append(object);
     }
-    console.PrintJson({{QStringLiteral("delta"), delta.name},
+    QJsonObject answer{{QStringLiteral("delta"), delta.name},
                        {QStringLiteral("baseVersion"), QString::fromStdString(manifest.baseVersion)},
                        {QStringLiteral("targetVersion"), QString::fromStdString(manifest.targetVersion)},
                        {QStringLiteral("size"), qint64(delta.size)},
-                       {QStringLiteral("entries"), entries}});
+                       {QStringLiteral("entries"), entries}};
+    if (isJoined)
+    {
+        answer.insert(QStringLiteral("streams"), StreamsJson(manifest));
+    }
+    console.PrintJson(answer);
 }
 
 void AddShow(CLI::App& delta, VerbContext& context)

@@ -343,7 +343,10 @@ class ManifestRule : public testing::TestWithParam<ManifestRow>
 
 TEST_P(ManifestRule, Holds)
 {
-    DeltaManifest const manifest{"1", "2", GetParam().entries};
+    DeltaManifest manifest;
+    manifest.baseVersion = "1";
+    manifest.targetVersion = "2";
+    manifest.entries = GetParam().entries;
     ByteBuffer const bytes = EncodeDeltaManifest(manifest);
     DeltaManifest decoded;
     DeltaManifestVerdict const verdict = DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded);
@@ -436,7 +439,8 @@ TEST(ManifestRule, DepthIsLimited)
 
 TEST(ManifestRule, LinksAreCounted)
 {
-    DeltaManifest manifest{"1", "2", {Kept("f", "f")}};
+    DeltaManifest manifest;
+    manifest.entries.push_back(Kept("f", "f"));
     for (int i = 0; i < 10001; ++i)
     {
         char name[8];

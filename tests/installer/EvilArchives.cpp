@@ -1,7 +1,7 @@
 #include "tests/installer/EvilArchives.h"
 
 #include "Engine/core/delta/ContentHasher.h"
-#include "Engine/core/delta/DeltaContainer.h"
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <algorithm>
@@ -74,8 +74,13 @@ void AddImpliedFolders(std::vector<ForgedEntry>& tree)
     tree.insert(tree.end(), implied.begin(), implied.end());
 }
 
-/// \a forged as a delta's entry; what the container brings of it is added to \a data.
-Engine::DeltaEntry WholeEntry(ForgedEntry const& forged, std::string& data)
+Engine::Bytes BytesOf(std::string const& text)
+{
+    return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
+}
+
+/// \a forged as a delta's entry.
+Engine::DeltaEntry EntryOf(ForgedEntry const& forged)
 {
     Engine::DeltaEntry entry;
     entry.path = forged.path;
@@ -89,15 +94,47 @@ Engine::DeltaEntry WholeEntry(ForgedEntry const& forged, std::string& data)
         entry.linkTarget = forged.content;
         return entry;
     }
-    Engine::Bytes const plain(reinterpret_cast<std::uint8_t const*>(forged.content.data()), forged.content.size());
-    Engine::ByteBuffer const stored = Engine::CompressForDelta(plain);
+    Engine::Bytes const plain = BytesOf(forged.content);
     entry.kind = Engine::DeltaEntryKind::Whole;
     entry.isExecutable = (forged.mode & 0100) != 0;
     entry.size = plain.size();
     entry.hash = Engine::HashOf(plain);
-    entry.wholeStored = stored.size();
-    data.append(stored.begin(), stored.end());
     return entry;
+}
+
+/// Adds what the container brings of \a files, one by one.
+std::string StoreSeparately(Engine::DeltaManifest& manifest, std::vector<std::string> const& files)
+{
+    std::string data;
+    for (std::size_t i = 0; i < files.size(); ++i)
+    {
+        Engine::ByteBuffer const stored = Engine::CompressForDelta(BytesOf(files[i]));
+        manifest.entries[i].wholeStored = stored.size();
+        data.append(stored.begin(), stored.end());
+    }
+    return data;
+}
+
+/// And joined in one stream.
+std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string> const& files)
+{
+    std::string all;
+    Engine::DeltaUnit unit;
+    for (std::size_t i = 0; i < files.size(); ++i)
+    {
+        if (manifest.entries[i].kind == Engine::DeltaEntryKind::Whole)
+        {
+            unit.targets.push_back(static_cast<std::uint32_t>(i));
+            all += files[i];
+        }
+    }
+    Engine::PackedStream const packed = Engine::PackStream(BytesOf(all), Engine::EXTRA_WINDOW_LOG);
+    manifest.format = Engine::DeltaFormat::Joined;
+    manifest.units.push_back(unit);
+    manifest.targetHash = Engine::HashOf(BytesOf(all));
+    manifest.baseHash = Engine::HashOf({});
+    manifest.streams[4] = {packed.packing, packed.bytes.size()};
+    return {packed.bytes.begin(), packed.bytes.end()};
 }
 
 /// Folders in folders, so that a file in the last lies \a depth names deep.
@@ -221,7 +258,7 @@ std::vector<Evil> EvilTrees()
     return trees;
 }
 
-std::string MakeWholeDelta(std::vector<ForgedEntry> tree)
+std::string MakeWholeDelta(std::vector<ForgedEntry> tree, Engine::DeltaFormat format)
 {
     for (ForgedEntry& entry : tree)
     {
@@ -234,24 +271,30 @@ std::string MakeWholeDelta(std::vector<ForgedEntry> tree)
     AddImpliedFolders(tree);
     std::stable_sort(tree.begin(), tree.end(),
                      [](ForgedEntry const& a, ForgedEntry const& b) { return a.path < b.path; });
-    Engine::DeltaManifest manifest{"1.0", "2.0", {}};
-    std::string data;
+    Engine::DeltaManifest manifest;
+    manifest.baseVersion = "1.0";
+    manifest.targetVersion = "2.0";
+    std::vector<std::string> files;
     for (ForgedEntry const& entry : tree)
     {
         if (!entry.path.empty()) // the bundle's own folder
         {
-            manifest.entries.push_back(WholeEntry(entry, data));
+            manifest.entries.push_back(EntryOf(entry));
+            files.push_back(manifest.entries.back().kind == Engine::DeltaEntryKind::Whole ? entry.content
+                                                                                          : std::string());
         }
     }
+    std::string const data = format == Engine::DeltaFormat::Joined ? StoreJoined(manifest, files)
+                                                                   : StoreSeparately(manifest, files);
     Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening(manifest);
     return std::string(opening.begin(), opening.end()) + data;
 }
 
-std::string MakeEvilDelta(Evil const& evil)
+std::string MakeEvilDelta(Evil const& evil, Engine::DeltaFormat format)
 {
     std::vector<ForgedEntry> tree = MakeBundle("2.0");
     tree.insert(tree.end(), evil.entries.begin(), evil.entries.end());
-    return MakeWholeDelta(tree);
+    return MakeWholeDelta(tree, format);
 }
 
 } // namespace Pelnar::Testing

@@ -2,6 +2,7 @@
 // Thread: any. Ownership: values only.
 #pragma once
 
+#include "Engine/core/delta/DeltaManifest.h"
 #include "Engine/core/payload/UpdateFault.h"
 #include "tests/installer/ArchiveForge.h"
 
@@ -28,8 +29,8 @@ std::vector<Evil> const& EvilArchives();
 /// Those of them that a delta can say as well: files, folders and links below the bundle's folder.
 std::vector<Evil> EvilTrees();
 /// A delta to the bundle APP of these entries, every file of which it brings whole.
-std::string MakeWholeDelta(std::vector<ForgedEntry> tree);
+std::string MakeWholeDelta(std::vector<ForgedEntry> tree, Engine::DeltaFormat format = Engine::DeltaFormat::Joined);
 /// One to a right bundle of version 2.0 and the evil entries.
-std::string MakeEvilDelta(Evil const& evil);
+std::string MakeEvilDelta(Evil const& evil, Engine::DeltaFormat format = Engine::DeltaFormat::Joined);
 
 } // namespace Pelnar::Testing

@@ -1,8 +1,9 @@
 // DeltaPreparationTest.cpp: deltas, right ones and every kind of wrong one, through the helper's real process: what
 // comes out is exactly the new version, or nothing.
 
-#include "Engine/core/delta/DeltaContainer.h"
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/delta/SeparateDelta.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/FaultChecks.h"
 
@@ -12,6 +13,7 @@
 #include <filesystem>
 #include <fstream>
 #include <random>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -72,11 +74,20 @@ std::string TextOf(ByteBuffer const& bytes)
     return {bytes.begin(), bytes.end()};
 }
 
-/// The right delta with its manifest, and the data behind it, changed.
-std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
+/// The same in the format before.
+std::string RightSeparateDelta()
+{
+    Workspace const old;
+    Workspace const fresh;
+    old.Put(BundleWithBlob("1.0"));
+    fresh.Put(BundleWithBlob("2.0"));
+    return MakeSeparateDelta(old.Path() + '/' + APP, fresh.Path() + '/' + APP);
+}
+
+/// The right delta \a whole with its manifest, and the data behind it, changed.
+std::string Changed(std::string const& whole, void (*change)(DeltaManifest& manifest, std::string& data))
 {
     Workspace const place;
-    std::string const whole = RightDelta();
     UniqueFd const container = WriteFile(place.Path() + "/delta", whole);
     DeltaManifest manifest;
     std::uint64_t dataOffset = 0;
@@ -84,6 +95,16 @@ std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data)
     std::string data = whole.substr(dataOffset);
     change(manifest, data);
     return TextOf(EncodeDeltaOpening(manifest)) + data;
+}
+
+std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
+{
+    return Changed(RightSeparateDelta(), change);
+}
+
+std::string JoinedDeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
+{
+    return Changed(RightDelta(), change);
 }
 
 DeltaEntry& EntryOf(DeltaManifest& manifest, DeltaEntryKind kind)
@@ -112,18 +133,24 @@ std::size_t OffsetOf(DeltaManifest const& manifest, DeltaEntryKind kind)
     return offset;
 }
 
-/// A patch of one step.
-void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
+ByteBuffer NumbersOf(std::vector<std::uint64_t> const& numbers)
 {
-    ByteBuffer steps;
+    ByteBuffer bytes;
     for (std::uint64_t number : numbers)
     {
         for (; number >= 0x80; number >>= 7)
         {
-            steps.push_back(static_cast<std::uint8_t>(number | 0x80));
+            bytes.push_back(static_cast<std::uint8_t>(number | 0x80));
         }
-        steps.push_back(static_cast<std::uint8_t>(number));
+        bytes.push_back(static_cast<std::uint8_t>(number));
     }
+    return bytes;
+}
+
+/// A patch of one step.
+void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
+{
+    ByteBuffer const steps = NumbersOf(numbers);
     ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()));
     std::size_t const offset = OffsetOf(manifest, DeltaEntryKind::Patched);
     DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
@@ -146,6 +173,37 @@ std::string DeltaWithBytesBehindAFrame()
             }
             data.insert(offset, "evil");
             entry.streamsStored[STREAM] += 4;
+        });
+}
+
+/// A joined one with bytes between the end of a stream and where its place in the container ends.
+template <std::size_t STREAM>
+std::string DeltaWithBytesBehindAStream()
+{
+    return JoinedDeltaWith(
+        [](DeltaManifest& manifest, std::string& data)
+        {
+            std::size_t offset = 0;
+            for (std::size_t i = 0; i <= STREAM; ++i)
+            {
+                offset += manifest.streams[i].size;
+            }
+            data.insert(offset, "evil");
+            manifest.streams[STREAM].size += 4;
+        });
+}
+
+/// A joined one whose stream of steps is another.
+std::string DeltaWithSteps(std::vector<std::uint64_t> const& numbers)
+{
+    static ByteBuffer steps;
+    steps = NumbersOf(numbers);
+    return JoinedDeltaWith(
+        [](DeltaManifest& manifest, std::string& data)
+        {
+            ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()), NUMBERS_WINDOW_LOG);
+            data.replace(0, manifest.streams[0].size, TextOf(stored));
+            manifest.streams[0] = {0, stored.size()};
         });
 }
 
@@ -183,9 +241,13 @@ PrepareJob DeltaJob(UpdateScene const& scene)
     return job;
 }
 
-TEST(Delta, RightOneIsPreparedAndInstalled)
+class RightDeltas : public testing::TestWithParam<std::string (*)()>
 {
-    UpdateScene scene(RightDelta());
+};
+
+TEST_P(RightDeltas, ArePreparedAndInstalled)
+{
+    UpdateScene scene(GetParam()());
     HelperOutcome const prepared = WithBase(scene).Prepare(DeltaJob(scene));
     ASSERT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
     Workspace const fresh;
@@ -198,6 +260,10 @@ TEST(Delta, RightOneIsPreparedAndInstalled)
     EXPECT_TRUE(TreeOf(AppIn(scene)) == expected);
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
 }
+
+INSTANTIATE_TEST_SUITE_P(Formats, RightDeltas, testing::Values(&RightDelta, &RightSeparateDelta),
+                         [](testing::TestParamInfo<std::string (*)()> const& info)
+                         { return info.index == 0 ? "Joined" : "Separate"; });
 
 TEST_P(EvilDelta, IsRefusedAndTheInstalledVersionStays)
 {
@@ -261,6 +327,70 @@ INSTANTIATE_TEST_SUITE_P(
                 EXPECT_EQ(::mkfifo(path.c_str(), 0644), 0);
             },
             UpdateFault::DeltaBaseDiffers},
+        Row{"BaseEditedByTheUserForASeparateOne", &RightSeparateDelta,
+            [](UpdateScene const& scene)
+            { std::ofstream(AppIn(scene) + "/Resources/blob", std::ios::in | std::ios::out).seekp(100) << "edited"; },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"BytesOfTheBaseEditedByTheUser", &RightDelta,
+            [](UpdateScene const& scene)
+            { std::ofstream(AppIn(scene) + "/Resources/blob", std::ios::in | std::ios::out).seekp(100) << "edited"; },
+            UpdateFault::DeltaBaseDiffers},
+        Row{"JoinedResultDiffers",
+            [] { return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.targetHash[0] ^= 1; }); },
+            &LeaveAlone, UpdateFault::DeltaResultDiffers},
+        Row{"JoinedStepBeyondTheBase", [] { return DeltaWithSteps({1, 0, 1u << 30, 19999, 0, 0}); }, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"JoinedStepBeforeTheBase", [] { return DeltaWithSteps({1, 0, 199, 19999, 0, 0}); }, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
+        Row{"JoinedStepOfMoreThanTheFile",
+            [] {
+                return DeltaWithSteps({~std::uint64_t(0), ~std::uint64_t(0), 0});
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"FileOfNoUnit",
+            [] { return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.units.pop_back(); }); },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"FileOfTwoUnits",
+            []
+            {
+                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&)
+                                       { manifest.units.push_back(manifest.units.back()); });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"UnitsSourceThatLeavesTheBundle",
+            []
+            {
+                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&)
+                                       { manifest.units.front().sources.front().path = "../../etc/passwd"; });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"ProgramOfSeveralFiles",
+            []
+            {
+                return JoinedDeltaWith(
+                    [](DeltaManifest& manifest, std::string&)
+                    {
+                        DeltaUnit& unit = manifest.units.front();
+                        unit.sources.push_back(unit.sources.front());
+                        unit.spanChanges.resize(1);
+                    });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"UnknownPacking",
+            []
+            { return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.streams[4].packing = 226; }); },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"OtherPacking",
+            [] {
+                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&)
+                                       { manifest.streams[4].packing ^= 1; });
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamSteps", &DeltaWithBytesBehindAStream<0>, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamSame", &DeltaWithBytesBehindAStream<1>, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamChanged", &DeltaWithBytesBehindAStream<2>, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamDifference", &DeltaWithBytesBehindAStream<3>, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamExtra", &DeltaWithBytesBehindAStream<4>, &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"PatchedResultDiffers",
             [] {
                 return DeltaWith([](DeltaManifest& manifest, std::string&)
@@ -347,25 +477,32 @@ INSTANTIATE_TEST_SUITE_P(
             UpdateFault::ContainerUnknown}),
     [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
 
-class EvilTreeOfADelta : public testing::TestWithParam<Evil>
+class EvilTreeOfADelta : public testing::TestWithParam<std::tuple<Evil, DeltaFormat>>
 {
 };
 
 TEST_P(EvilTreeOfADelta, IsRefusedAsItIsInAnArchive)
 {
-    UpdateScene scene(MakeEvilDelta(GetParam()));
+    Evil const& evil = std::get<0>(GetParam());
+    UpdateScene scene(MakeEvilDelta(evil, std::get<1>(GetParam())));
     HelperOutcome const outcome = scene.Prepare(DeltaJob(scene));
     EXPECT_EQ(outcome.exitStatus, 1);
     // In a delta the link comes before what lies below it.
-    bool const isOrdered = GetParam().name == std::string("ImpliedFolderThenLink");
-    EXPECT_EQ(outcome.Fault(), isOrdered ? UpdateFault::EntryUnderNoFolder : GetParam().fault);
+    bool const isOrdered = evil.name == std::string("ImpliedFolderThenLink");
+    EXPECT_EQ(outcome.Fault(), isOrdered ? UpdateFault::EntryUnderNoFolder : evil.fault);
     EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
     EXPECT_TRUE(scene.Place().Names(scene.StagingName() + '/' + APP).empty());
     EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta, testing::ValuesIn(EvilTrees()),
-                         [](testing::TestParamInfo<Evil> const& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta, 
+                         testing::Combine(testing::ValuesIn(EvilTrees()),
+                                          testing::Values(DeltaFormat::Separate, DeltaFormat::Joined)),
+                         [](testing::TestParamInfo<std::tuple<Evil, DeltaFormat>> const& info)
+                         {
+                             bool const isJoined = std::get<1>(info.param) == DeltaFormat::Joined;
+                             return std::get<0>(info.param).name + std::string(isJoined ? "Joined" : "");
+                         });
 
 TEST(Delta, InstallerProgramIsNotMadeByOne)
 {

@@ -1,0 +1,404 @@
+// JoinedDeltaTest.cpp: containers whose files' data are joined: what they make of whole trees, the rules for units, and
+// that the format before is still applied.
+
+#include "Engine/core/delta/DeltaApplier.h"
+#include "Engine/core/delta/DeltaContainerWriter.h"
+#include "Engine/core/delta/DeltaMaker.h"
+#include "Engine/core/delta/StreamUnpacker.h"
+#include "Engine/core/delta/TreeAccess.h"
+#include "tests/delta/ForgedProgram.h"
+#include "tests/delta/SeparateDelta.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <random>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+namespace fs = std::filesystem;
+
+std::string ReadFile(fs::path const& path)
+{
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+void WriteFile(fs::path const& path, std::string const& content)
+{
+    fs::create_directories(path.parent_path());
+    std::ofstream(path, std::ios::binary) << content;
+}
+
+std::string Text(ByteBuffer const& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
+std::string Noise(unsigned seed, std::size_t size)
+{
+    std::mt19937 random(seed);
+    std::string text(size, '\0');
+    std::generate(text.begin(), text.end(), [&random] { return static_cast<char>(random()); });
+    return text;
+}
+
+std::map<std::string, std::string> FilesOf(fs::path const& folder)
+{
+    std::map<std::string, std::string> files;
+    for (fs::directory_entry const& entry : fs::recursive_directory_iterator(folder))
+    {
+        if (entry.is_regular_file())
+        {
+            files[entry.path().lexically_relative(folder).string()] = ReadFile(entry.path());
+        }
+    }
+    return files;
+}
+
+class JoinedDelta : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_dir.isValid());
+        fs::create_directories(Old());
+        fs::create_directories(New());
+    }
+
+    fs::path Old() const { return fs::path(m_dir.path().toStdString()) / "old"; }
+    fs::path New() const { return fs::path(m_dir.path().toStdString()) / "new"; }
+    fs::path Staging() const { return fs::path(m_dir.path().toStdString()) / "staging"; }
+    fs::path Container() const { return fs::path(m_dir.path().toStdString()) / "update.delta"; }
+
+    DeltaReport Make()
+    {
+        UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+        return MakeDelta(Old(), "1.0", New(), "2.0", container.Get());
+    }
+
+    DeltaManifest Manifest(std::uint64_t& dataOffset)
+    {
+        DeltaManifest manifest;
+        UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
+        EXPECT_TRUE(ReadDeltaManifest(container.Get(), {}, manifest, dataOffset).HasSucceeded());
+        return manifest;
+    }
+
+    DeltaOutcome Apply()
+    {
+        fs::remove_all(Staging());
+        fs::create_directory(Staging());
+        UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
+        UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+        return ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {});
+    }
+
+    void ExpectTheNewVersion()
+    {
+        DeltaOutcome const outcome = Apply();
+        EXPECT_EQ(outcome.error, DeltaError::None) << outcome.path;
+        EXPECT_EQ(FilesOf(Staging()), FilesOf(New()));
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+TEST_F(JoinedDelta, ProgramThatOnlyMovedIsSmall)
+{
+    ProgramShape shape;
+    shape.functions = 400;
+    WriteFile(Old() / "Program", Text(ForgeProgram(shape)));
+    shape.insertedAt = 30;
+    shape.insertedBytes = 32;
+    WriteFile(New() / "Program", Text(ForgeProgram(shape)));
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.patchedFiles, 1u);
+    EXPECT_LT(report.containerBytes, 700u);
+    EXPECT_GT(MakeSeparateDelta(Old(), New()).size(), 3 * report.containerBytes);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, ProgramIsFoundUnderAnotherNumber)
+{
+    WriteFile(Old() / "lib/libtest.so.1.2.3", Text(ForgeProgram({})));
+    ProgramShape shape;
+    shape.insertedAt = 30;
+    shape.insertedBytes = 32;
+    WriteFile(New() / "lib/libtest.so.1.3.0", Text(ForgeProgram(shape)));
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.patchedFiles, 1u);
+    EXPECT_LT(report.containerBytes, 700u);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, FileThatMovedAndChangedIsMadeOfTheOldOne)
+{
+    std::string content = Noise(1, 30000);
+    WriteFile(Old() / "data/one.bin", content);
+    WriteFile(Old() / "data/other.bin", Noise(2, 30000));
+    content.replace(10000, 5, "other");
+    WriteFile(New() / "elsewhere/two.bin", content);
+    WriteFile(New() / "data/other.bin", Noise(2, 29000) + "changed");
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.patchedFiles, 2u);
+    EXPECT_LT(report.containerBytes, 600u);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, FilesOverOnePieceOfTheSearchAreMade)
+{
+    std::string content = Noise(3, 20u << 20);
+    WriteFile(Old() / "large", content);
+    content.insert(100, "inserted");
+    content.erase(9u << 20, 1000);
+    content.replace(19u << 20, 4, "four");
+    WriteFile(New() / "large", content);
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_LT(report.containerBytes, 600u);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, ManySmallFilesCostFewBytesEach)
+{
+    for (int i = 0; i < 500; ++i)
+    {
+        std::string const name = "resources/group" + std::to_string(i % 7) + "/file" + std::to_string(i);
+        std::string const content = Noise(static_cast<unsigned>(i), 400);
+        WriteFile(Old() / name, content + "version 1.0");
+        WriteFile(New() / name, content + "version 2.0");
+    }
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_LT(report.containerBytes, 500u * 8);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, NothingInCommonIsBroughtWhole)
+{
+    WriteFile(Old() / "a", Noise(4, 1000));
+    WriteFile(New() / "b", Noise(5, 1000));
+    WriteFile(New() / "empty", "");
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.wholeFiles, 2u);
+    EXPECT_LT(report.containerBytes, 1400u);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, EmptyVersionsAreVersions)
+{
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    ExpectTheNewVersion();
+    WriteFile(New() / "a", "new");
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    ExpectTheNewVersion();
+    fs::remove(New() / "a");
+    WriteFile(Old() / "a", "old");
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, ProgramWhoseOldFileIsNoneAnyMore)
+{
+    std::string const program = Text(ForgeProgram({}));
+    WriteFile(Old() / "Program", program);
+    ProgramShape shape;
+    shape.insertedBytes = 32;
+    WriteFile(New() / "Program", Text(ForgeProgram(shape)));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    for (std::size_t const at : {std::size_t(0), std::size_t(64), program.size() / 2, program.size() - 1})
+    {
+        std::string edited = program;
+        edited[at] = static_cast<char>(edited[at] + 1);
+        WriteFile(Old() / "Program", edited);
+        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers) << at;
+    }
+    WriteFile(Old() / "Program", program);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, FormatBeforeIsStillApplied)
+{
+    WriteFile(Old() / "patched", Noise(6, 5000) + "1");
+    WriteFile(New() / "patched", Noise(6, 5000) + "2");
+    WriteFile(Old() / "kept", "kept");
+    WriteFile(New() / "deep/kept", "kept");
+    WriteFile(New() / "whole", Noise(7, 100));
+    std::string const container = MakeSeparateDelta(Old(), New());
+    EXPECT_EQ(container[8], 2);
+    WriteFile(Container(), container);
+    ExpectTheNewVersion();
+}
+
+// The rules for units.
+
+struct UnitRow
+{
+    char const* name;
+    void (*change)(DeltaManifest& manifest);
+    DeltaManifestError error;
+};
+
+DeltaManifest RightManifest()
+{
+    DeltaManifest manifest;
+    manifest.format = DeltaFormat::Joined;
+    manifest.baseVersion = "1";
+    manifest.targetVersion = "2";
+    for (char const* const name : {"a", "ab", "b"})
+    {
+        DeltaEntry entry;
+        entry.path = name;
+        entry.kind = DeltaEntryKind::Patched;
+        entry.size = 10;
+        manifest.entries.push_back(entry);
+    }
+    manifest.entries[2].kind = DeltaEntryKind::Whole;
+    manifest.entries[2].isExecutable = true;
+    manifest.units.push_back({{{"ab", 30}, {"gone", 7}}, {1, 0}, {}});
+    manifest.units.push_back({{}, {2}, {}});
+    manifest.streams[4] = {1, 40};
+    return manifest;
+}
+
+class UnitRule : public testing::TestWithParam<UnitRow>
+{
+};
+
+TEST_P(UnitRule, Holds)
+{
+    DeltaManifest manifest = RightManifest();
+    GetParam().change(manifest);
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, GetParam().error);
+    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
+    DeltaManifest decoded;
+    decoded.format = DeltaFormat::Joined;
+    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, GetParam().error);
+    if (GetParam().error == DeltaManifestError::None)
+    {
+        EXPECT_EQ(decoded.entries, manifest.entries);
+        EXPECT_EQ(decoded.units, manifest.units);
+        EXPECT_EQ(decoded.streams, manifest.streams);
+        EXPECT_EQ(decoded.baseHash, manifest.baseHash);
+        EXPECT_EQ(decoded.targetHash, manifest.targetHash);
+    }
+}
+
+using Error = DeltaManifestError;
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, UnitRule,
+    testing::Values(
+        UnitRow{"Right", [](DeltaManifest&) {}, Error::None},
+        UnitRow{"Program",
+                [](DeltaManifest& manifest)
+                {
+                    manifest.units[0] = {{{"a", 12}}, {0}, {{0, -4096, 4096}, {1, 2, -3}}};
+                    manifest.units.push_back({{{"a", 12}}, {1}, {}});
+                },
+                Error::None},
+        UnitRow{"ProgramOfTwoSources", [](DeltaManifest& manifest) { manifest.units[0].spanChanges.resize(1); },
+                Error::BadUnit},
+        UnitRow{"NotMade", [](DeltaManifest& manifest) { manifest.units.pop_back(); }, Error::BadUnit},
+        UnitRow{"MadeTwice", [](DeltaManifest& manifest) { manifest.units[0].targets.push_back(0); }, Error::BadUnit},
+        UnitRow{"WholeOfASource", [](DeltaManifest& manifest) { manifest.units[1].sources.push_back({"x", 1}); },
+                Error::BadUnit},
+        UnitRow{"PatchedOfNone", [](DeltaManifest& manifest) { manifest.units[0].sources.clear(); }, Error::BadUnit},
+        UnitRow{"FolderAsTarget",
+                [](DeltaManifest& manifest) {
+                    manifest.entries[2] = DeltaEntry();
+                    manifest.entries[2].path = "b";
+                },
+                Error::BadUnit},
+        UnitRow{"SourceThatLeaves", [](DeltaManifest& manifest) { manifest.units[0].sources[1].path = "../x"; },
+                Error::BadSource},
+        UnitRow{"AbsoluteSource", [](DeltaManifest& manifest) { manifest.units[0].sources[1].path = "/x"; },
+                Error::BadSource},
+        UnitRow{"HugeSource", [](DeltaManifest& manifest) { manifest.units[0].sources[1].size = 1ull << 62; },
+                Error::TooManyBytes},
+        UnitRow{"HugeSourcesTogether",
+                [](DeltaManifest& manifest)
+                { manifest.units[0].sources.assign(2, {"x", (4ull << 30) - 1}); },
+                Error::TooManyBytes},
+        UnitRow{"UnknownPacking", [](DeltaManifest& manifest) { manifest.streams[0].packing = 226; },
+                Error::BadPacking},
+        UnitRow{"HugeStream", [](DeltaManifest& manifest) { manifest.streams[0].size = ~0ull; }, Error::BadPacking}),
+    [](testing::TestParamInfo<UnitRow> const& row) { return row.param.name; });
+
+TEST(JoinedManifest, EveryTruncationIsRefused)
+{
+    ByteBuffer const whole = EncodeDeltaManifest(RightManifest());
+    for (std::size_t size = 0; size < whole.size(); ++size)
+    {
+        DeltaManifest decoded;
+        decoded.format = DeltaFormat::Joined;
+        EXPECT_NE(DecodeDeltaManifest(Bytes(whole.data(), size), {}, decoded).error, Error::None) << size;
+    }
+}
+
+TEST(JoinedManifest, PathsThatShareTooMuchAreRefusedBeforeTheyFillTheMemory)
+{
+    DeltaManifest manifest;
+    manifest.format = DeltaFormat::Joined;
+    std::string const deep(60000, 'a');
+    for (int i = 0; i < 3000; ++i)
+    {
+        DeltaEntry entry;
+        entry.path = deep + std::to_string(10000 + i);
+        manifest.entries.push_back(entry);
+    }
+    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
+    EXPECT_LT(bytes.size(), 100000u);
+    DeltaManifest decoded;
+    decoded.format = DeltaFormat::Joined;
+    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, Error::TextTooLong);
+}
+
+// Streams.
+
+TEST(StreamUnpacker, NoDamageOfLzmaMakesMoreThanWasPacked)
+{
+    std::string const plain = Noise(9, 300) + std::string(5000, 'x') + Noise(9, 300);
+    Bytes const bytes(reinterpret_cast<std::uint8_t const*>(plain.data()), plain.size());
+    ByteBuffer const packed = PackByLzma(bytes, 4, NUMBERS_WINDOW_LOG);
+    for (std::size_t at = 0; at < packed.size(); ++at)
+    {
+        ByteBuffer damaged = packed;
+        damaged[at] ^= 0x20;
+        auto const unpacker = MakeUnpacker(4, NUMBERS_WINDOW_LOG);
+        Bytes input(damaged.data(), damaged.size());
+        ByteBuffer made(10000);
+        IUnpacker::Step const step = unpacker->Unpack(input, made.data(), made.size());
+        bool const isWhole = step.state == IUnpacker::State::Ended &&
+                             std::equal(plain.begin(), plain.end(), made.begin(),
+                                        [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; });
+        EXPECT_FALSE(isWhole && step.made == plain.size() && at + 5 < packed.size()) << at;
+        EXPECT_LE(step.made, made.size());
+    }
+}
+
+TEST(StreamUnpacker, PropertiesThatLzmaDoesNotKnowAreDamage)
+{
+    auto const unpacker = MakeUnpacker(225, NUMBERS_WINDOW_LOG);
+    Bytes input;
+    std::uint8_t byte = 0;
+    EXPECT_EQ(unpacker->Unpack(input, &byte, 1).state, IUnpacker::State::Damaged);
+}
+
+} // namespace

@@ -18,6 +18,12 @@ bool IsBundleForLinux(NewItem const& item)
     return item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
 }
 
+/// A tenth is the least for which a feed names one file more.
+bool SavesEnough(std::uint64_t deltaBytes, std::uint64_t archiveBytes)
+{
+    return deltaBytes <= archiveBytes && archiveBytes - deltaBytes >= (archiveBytes + 9) / 10;
+}
+
 bool HasDeltaFrom(NewItem const& item, QString const& baseVersion)
 {
     return std::any_of(item.deltas.begin(), item.deltas.end(),
@@ -146,16 +152,25 @@ void DeltaStage::TakeGiven(NewItem& item, QString const& fileName, QString const
         throw Refusal({path, 0, 0, QStringLiteral("is a second delta from %1 to %2").arg(baseVersion, item.versionText),
                        QStringLiteral("keep one of them")});
     }
-    ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), m_workplace.Unpack(item.fileName),
-               m_workplace.console.err);
+    ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), TreeOf(item), m_workplace.console.err);
     ArchiveSignature const signature = m_workplace.Sign(fileName);
-    if (signature.length >= item.signature.length)
+    if (!SavesEnough(signature.length, item.signature.length))
     {
-        m_workplace.Warn(path, QStringLiteral("left out: no smaller than the whole archive"),
-                         QStringLiteral("remove it; nobody would be served by it"));
+        m_workplace.Warn(path, QStringLiteral("left out: saves less than a tenth of the whole archive"),
+                         QStringLiteral("remove it; clients of that version take the archive"));
         return;
     }
     item.deltas.push_back({fileName, baseVersion, signature});
+}
+
+BundleTree const& DeltaStage::TreeOf(NewItem const& item)
+{
+    if (m_treeName != item.fileName)
+    {
+        m_tree.emplace(m_workplace.Unpack(item.fileName));
+        m_treeName = item.fileName;
+    }
+    return *m_tree;
 }
 
 void DeltaStage::Make(NewItem& item, Base const& base)
@@ -169,10 +184,14 @@ void DeltaStage::Make(NewItem& item, Base const& base)
                            .arg(QString::fromStdString(before.Information().version), base.versionText),
                        QStringLiteral("put the published archive back")});
     }
-    MakeDeltaFile(before, m_workplace.Unpack(item.fileName), m_workplace.PathOf(fileName), m_workplace.console.err);
-    if (OpenInputFile(m_workplace.PathOf(fileName)).size >= item.signature.length)
+    QString const path = m_workplace.PathOf(fileName);
+    MakeDeltaFile(before, TreeOf(item), path, m_workplace.console.err);
+    if (!SavesEnough(OpenInputFile(path).size, item.signature.length))
     {
-        QFile::remove(m_workplace.PathOf(fileName)); // nobody would be served by it
+        QFile::remove(path);
+        m_workplace.Warn(path, QStringLiteral("not published: saves less than a tenth of the whole archive"),
+                         QStringLiteral("nothing is to be done; clients of version %1 take the archive")
+                             .arg(base.versionText));
         return;
     }
     item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(fileName)});

@@ -4,6 +4,8 @@
 
 #include "Publisher/generate/Workplace.h"
 
+#include <optional>
+
 namespace Pelnar::Publisher
 {
 
@@ -18,7 +20,7 @@ public:
 
     /// Gives each of \a items the deltas to it that lie in the folder, and the newest bundle for Linux, unless a
     /// published one is newer, deltas from the \a count versions before it whose archives lie in the folder. A delta is
-    /// taken only when it makes the very bundle of the item's archive and is smaller than that. Throws Refusal.
+    /// taken only when it makes the very bundle of the item's archive and saves a tenth of that. Throws Refusal.
     void AddTo(std::vector<NewItem>& items, int count);
 
 private:
@@ -34,12 +36,16 @@ private:
     void TakeGiven(std::vector<NewItem>& items);
     void TakeGiven(NewItem& item, QString const& fileName, QString const& baseVersion);
     NewItem* NewestItem(std::vector<NewItem>& items) const;
+    BundleTree const& TreeOf(NewItem const& item);
     void Make(NewItem& item, Base const& base);
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;
     std::vector<FolderArchive> const& m_archives;
     std::vector<Base> m_bases; ///< newest first
+    // The bundle that was unpacked last: all deltas to it are made one after the other.
+    QString m_treeName;
+    std::optional<BundleTree> m_tree;
 };
 
 } // namespace Pelnar::Publisher

@@ -314,7 +314,7 @@ std::string PaddedTo(std::size_t size, std::string const& archive)
 }
 
 /// Puts two versions there that share nothing, and a delta between them. The archive of the second is \a larger bytes
-/// longer than the delta.
+/// longer than one of which the delta saves a tenth.
 void PutVersionsThatShareNothing(PublisherFolder const& folder, int larger)
 {
     std::string archive;
@@ -323,15 +323,13 @@ void PutVersionsThatShareNothing(PublisherFolder const& folder, int larger)
         BundleText text;
         text.version = std::to_string(version) + ".0";
         std::vector<ForgedEntry> bundle = MakePublishedBundle(text);
-        // Two files that are nearly the same: an archive has them once, a delta brings each.
-        bundle.back().content = Noise(10000, version);
-        bundle.push_back({"Test.app/twin", 'f', Noise(9999, version)});
+        bundle.back().content = Noise(20000, version);
         archive = MakeArchive(Container::TarGzip, bundle);
         folder.Put("Test-" + text.version + ".tar.gz", archive);
     }
     EXPECT_EQ(MakeGivenDelta(folder, "Test-1.0.tar.gz", "Test-2.0.tar.gz").status, 0);
-    int const deltaBytes = int(folder.ContentOf("given.delta").size());
-    folder.Put("Test-2.0.tar.gz", PaddedTo(std::size_t(deltaBytes + larger), archive));
+    int const leastBytes = (int(folder.ContentOf("given.delta").size()) * 10 + 8) / 9;
+    folder.Put("Test-2.0.tar.gz", PaddedTo(std::size_t(leastBytes + larger), archive));
 }
 
 struct SizeRow
@@ -350,29 +348,33 @@ class DeltaSize : public ::testing::TestWithParam<SizeRow>
 {
 };
 
-TEST_P(DeltaSize, GivenDeltaIsPublishedOnlyWhenItIsSmallerThanTheWhole)
+TEST_P(DeltaSize, GivenDeltaIsPublishedOnlyWhenItSavesATenth)
 {
     PublisherFolder const folder;
     PutVersionsThatShareNothing(folder, GetParam().archiveIsLargerBy);
     ToolRun const run = folder.Generate({QStringLiteral("--deltas"), QStringLiteral("0")});
     EXPECT_EQ(folder.Items()[0].deltas.size(), GetParam().deltas) << run.err;
-    EXPECT_EQ(run.err.find("given.delta: left out: no smaller than the whole archive") != std::string::npos,
+    EXPECT_EQ(run.err.find("given.delta: left out: saves less than a tenth of the whole archive") != std::string::npos,
               GetParam().deltas == 0)
         << run.err;
 }
 
-TEST_P(DeltaSize, MadeDeltaIsPublishedOnlyWhenItIsSmallerThanTheWhole)
+TEST_P(DeltaSize, MadeDeltaIsPublishedOnlyWhenItSavesATenth)
 {
     PublisherFolder const folder;
     PutVersionsThatShareNothing(folder, GetParam().archiveIsLargerBy);
     folder.Remove("given.delta");
-    folder.GeneratedFeed();
+    ToolRun const run = folder.Generate({});
+    EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_EQ(folder.Items()[0].deltas.size(), GetParam().deltas);
+    EXPECT_EQ(run.err.find("not published: saves less than a tenth of the whole archive") != std::string::npos,
+              GetParam().deltas == 0)
+        << run.err;
     EXPECT_EQ(QFile::exists(folder.PathOf("Test-1.0-2.0.delta")), GetParam().deltas == 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, DeltaSize,
-                         ::testing::Values(SizeRow{"Larger", -1, 0}, SizeRow{"Equal", 0, 0}, SizeRow{"Smaller", 1, 1}),
+                         ::testing::Values(SizeRow{"SavesLess", -1, 0}, SizeRow{"SavesATenth", 0, 1}, SizeRow{"SavesMore", 500, 1}),
                          [](auto const& row) { return std::string(row.param.name); });
 
 TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)

@@ -189,9 +189,9 @@ void DeltaStage::Make(NewItem& item, Base const& base)
     if (!SavesEnough(OpenInputFile(path).size, item.signature.length))
     {
         QFile::remove(path);
-        m_workplace.Warn(path, QStringLiteral("not published: saves less than a tenth of the whole archive"),
-                         QStringLiteral("nothing is to be done; clients of version %1 take the archive")
-                             .arg(base.versionText));
+        m_workplace.Warn(
+            path, QStringLiteral("not published: saves less than a tenth of the whole archive"),
+            QStringLiteral("nothing is to be done; clients of version %1 take the archive").arg(base.versionText));
         return;
     }
     item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(fileName)});

@@ -317,11 +317,15 @@ INSTANTIATE_TEST_SUITE_P(
                 Error::BadUnit},
         UnitRow{"NotMade", [](DeltaManifest& manifest) { manifest.units.pop_back(); }, Error::BadUnit},
         UnitRow{"MadeTwice", [](DeltaManifest& manifest) { manifest.units[0].targets.push_back(0); }, Error::BadUnit},
-        UnitRow{"WholeOfASource", [](DeltaManifest& manifest) { manifest.units[1].sources.push_back({"x", 1}); },
+        UnitRow{"WholeOfASource",
+                [](DeltaManifest& manifest) {
+                    manifest.units[1].sources.push_back({"x", 1});
+                },
                 Error::BadUnit},
         UnitRow{"PatchedOfNone", [](DeltaManifest& manifest) { manifest.units[0].sources.clear(); }, Error::BadUnit},
         UnitRow{"FolderAsTarget",
-                [](DeltaManifest& manifest) {
+                [](DeltaManifest& manifest)
+                {
                     manifest.entries[2] = DeltaEntry();
                     manifest.entries[2].path = "b";
                 },
@@ -333,8 +337,9 @@ INSTANTIATE_TEST_SUITE_P(
         UnitRow{"HugeSource", [](DeltaManifest& manifest) { manifest.units[0].sources[1].size = 1ull << 62; },
                 Error::TooManyBytes},
         UnitRow{"HugeSourcesTogether",
-                [](DeltaManifest& manifest)
-                { manifest.units[0].sources.assign(2, {"x", (4ull << 30) - 1}); },
+                [](DeltaManifest& manifest) {
+                    manifest.units[0].sources.assign(2, {"x", (4ull << 30) - 1});
+                },
                 Error::TooManyBytes},
         UnitRow{"UnknownPacking", [](DeltaManifest& manifest) { manifest.streams[0].packing = 226; },
                 Error::BadPacking},

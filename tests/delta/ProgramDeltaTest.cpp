@@ -1,5 +1,5 @@
-// ProgramDeltaTest.cpp: programs whose code only moved make small deltas, and whatever a file says of itself, what comes
-// out is the new file or nothing.
+// ProgramDeltaTest.cpp: programs whose code only moved make small deltas, and whatever a file says of itself, what
+// comes out is the new file or nothing.
 
 #include "Engine/core/delta/AlignmentText.h"
 #include "Engine/core/delta/PatchApplier.h"
@@ -244,8 +244,7 @@ std::uint64_t Forward(std::uint64_t distance)
 TEST(AddressMap, PlacesGoWithTheirRun)
 {
     // 100 bytes stay, 50 are new, 100 more stay, 20 are gone, the rest stays.
-    AddressMap const map(LayoutOf(1000), {{0, 1030, 0x1000}},
-                         {{100, 50, 0}, {100, 0, Forward(20)}, {780, 0, 0}});
+    AddressMap const map(LayoutOf(1000), {{0, 1030, 0x1000}}, {{100, 50, 0}, {100, 0, Forward(20)}, {780, 0, 0}});
     EXPECT_EQ(map.Find(0x1000), 0x1000u);
     EXPECT_EQ(map.Find(0x1000 + 99), 0x1000u + 99);
     EXPECT_EQ(map.Find(0x1000 + 100), 0x1000u + 150);
@@ -259,8 +258,7 @@ TEST(AddressMap, LongestRunCountsWhereSeveralOverlap)
 {
     // All 1000 bytes stay, then 10 from the middle are there once more, then all but the first once more.
     std::uint64_t const back = 2 * 500 - 1;
-    AddressMap const map(LayoutOf(1000), {{0, 2500, 0x1000}},
-                         {{1000, 0, back}, {10, 0, 2 * 509 - 1}, {999, 0, 0}});
+    AddressMap const map(LayoutOf(1000), {{0, 2500, 0x1000}}, {{1000, 0, back}, {10, 0, 2 * 509 - 1}, {999, 0, 0}});
     EXPECT_EQ(map.Find(0x1000 + 505), 0x1000u + 505);
     EXPECT_EQ(map.Find(0x1000 + 510), 0x1000u + 510);
     EXPECT_EQ(map.Find(0x1000 + 999), 0x1000u + 999);

@@ -284,8 +284,8 @@ std::string MakeWholeDelta(std::vector<ForgedEntry> tree, Engine::DeltaFormat fo
                                                                                           : std::string());
         }
     }
-    std::string const data = format == Engine::DeltaFormat::Joined ? StoreJoined(manifest, files)
-                                                                   : StoreSeparately(manifest, files);
+    std::string const data =
+        format == Engine::DeltaFormat::Joined ? StoreJoined(manifest, files) : StoreSeparately(manifest, files);
     Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening(manifest);
     return std::string(opening.begin(), opening.end()) + data;
 }

@@ -61,10 +61,10 @@ void FieldScanner::Start(std::size_t begin, std::size_t end)
     m_begin = begin;
     m_end = end;
     auto const& regions = m_layout.regions;
-    m_region = static_cast<std::size_t>(
-        std::partition_point(regions.begin(), regions.end(),
-                             [begin](ImageRegion const& region) { return region.end <= begin; }) -
-        regions.begin());
+    m_region = static_cast<std::size_t>(std::partition_point(regions.begin(), regions.end(),
+                                                             [begin](ImageRegion const& region)
+                                                             { return region.end <= begin; }) -
+                                        regions.begin());
     m_isInRegion = false;
     m_frame = 0;
 }
@@ -206,8 +206,8 @@ bool FieldScanner::IsArm64Field(AddressField& field) const
 /// The whole target of the ADRP at \a position, by the first instruction that adds to its page. Without one it stays.
 bool FieldScanner::FindPagePartner(std::size_t position, std::uint32_t reg, std::uint64_t& target) const
 {
-    std::size_t const end = std::min<std::size_t>(m_layout.regions[m_region].end,
-                                                  position + 4 * (ARM64_LOOK_AROUND + 1));
+    std::size_t const end =
+        std::min<std::size_t>(m_layout.regions[m_region].end, position + 4 * (ARM64_LOOK_AROUND + 1));
     for (std::size_t at = position + 4; at + 4 <= end; at += 4)
     {
         std::uint32_t const word = Word32(at);

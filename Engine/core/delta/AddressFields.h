@@ -13,15 +13,15 @@ namespace Pelnar::Engine
 
 enum class FieldForm : std::uint8_t
 {
-    Relative32,  ///< the distance of the target from the byte behind the field
-    FromField32, ///< and from the field itself
+    Relative32,      ///< the distance of the target from the byte behind the field
+    FromField32,     ///< and from the field itself
     BackFromField32, ///< the same, the other way
-    FromBase32,  ///< and from the region's base
-    Word64,      ///< the target
-    Branch26,    ///< AArch64: B and BL
-    Branch19,    ///< conditional branches, literals
-    Page21,      ///< ADRP
-    InPage12,    ///< what is added to an ADRP's page; by an addition, a load or a store
+    FromBase32,      ///< and from the region's base
+    Word64,          ///< the target
+    Branch26,        ///< AArch64: B and BL
+    Branch19,        ///< conditional branches, literals
+    Page21,          ///< ADRP
+    InPage12,        ///< what is added to an ADRP's page; by an addition, a load or a store
 };
 
 struct AddressField
@@ -62,10 +62,10 @@ private:
     ImageLayout const& m_layout;
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
-    std::size_t m_region = 0;         ///< the one that is entered, or the next
-    std::size_t m_position = 0;       ///< in the region that is entered
-    std::size_t m_regionEnd = 0;      ///< or the end of what is looked at
-    std::uint64_t m_shift = 0;        ///< of the region's addresses from its positions
+    std::size_t m_region = 0;    ///< the one that is entered, or the next
+    std::size_t m_position = 0;  ///< in the region that is entered
+    std::size_t m_regionEnd = 0; ///< or the end of what is looked at
+    std::uint64_t m_shift = 0;   ///< of the region's addresses from its positions
     bool m_isInRegion = false;
     std::size_t m_frame = 0; ///< where the code is named in the record whose shared part has been answered; 0 for none
 };

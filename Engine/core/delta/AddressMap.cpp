@@ -45,8 +45,8 @@ std::vector<AddressMap::Run> AddressMap::RunsOf(ImageLayout const& oldLayout, st
         for (ImageSpan const& span : oldLayout.spans)
         {
             std::uint64_t const begin = std::max<std::uint64_t>(span.offset, oldPosition);
-            std::uint64_t const end = std::min<std::uint64_t>(span.offset + std::uint64_t(span.size),
-                                                              oldPosition + step.likeBytes);
+            std::uint64_t const end =
+                std::min<std::uint64_t>(span.offset + std::uint64_t(span.size), oldPosition + step.likeBytes);
             std::optional<std::uint64_t> const newAddress =
                 begin < end ? AddressAt(newSpans, newPosition + (begin - oldPosition)) : std::nullopt;
             if (newAddress)

@@ -43,7 +43,7 @@ private:
     void MakeIndex();
 
     std::uint64_t m_lowest;
-    std::vector<Point> m_points;       ///< in ascending order; the first stands at 0
+    std::vector<Point> m_points;        ///< in ascending order; the first stands at 0
     std::vector<std::uint32_t> m_index; ///< for each page the first point behind its begin
 };
 

@@ -15,7 +15,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-
 std::uint64_t ReadFixed(std::uint8_t const* bytes)
 {
     std::uint64_t number = 0;

@@ -166,9 +166,9 @@ void Count(DeltaManifest const& manifest, DeltaReport& report)
 {
     auto const count = [&manifest](DeltaEntryKind kind)
     {
-        return static_cast<std::uint64_t>(
-            std::count_if(manifest.entries.begin(), manifest.entries.end(),
-                          [kind](DeltaEntry const& entry) { return entry.kind == kind; }));
+        return static_cast<std::uint64_t>(std::count_if(manifest.entries.begin(), manifest.entries.end(),
+                                                        [kind](DeltaEntry const& entry)
+                                                        { return entry.kind == kind; }));
     };
     report.keptFiles = count(DeltaEntryKind::Kept);
     report.patchedFiles = count(DeltaEntryKind::Patched);

@@ -74,9 +74,9 @@ bool operator==(SpanChange const& a, SpanChange const& b);
 /// Files that are made of the same old ones.
 struct DeltaUnit
 {
-    std::vector<DeltaSource> sources;     ///< one after the other; none for files that the container brings whole
-    std::vector<std::uint32_t> targets;   ///< indices of entries, in the order in which they are made
-    std::vector<SpanChange> spanChanges;  ///< a segment each of the one target, when it is a program's next version
+    std::vector<DeltaSource> sources;    ///< one after the other; none for files that the container brings whole
+    std::vector<std::uint32_t> targets;  ///< indices of entries, in the order in which they are made
+    std::vector<SpanChange> spanChanges; ///< a segment each of the one target, when it is a program's next version
 };
 
 bool operator==(DeltaUnit const& a, DeltaUnit const& b);
@@ -145,7 +145,8 @@ struct DeltaManifestVerdict
 
 /// REQUIRES: a manifest that CheckDeltaManifest accepts.
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
-/// Reads all \a bytes, which are of manifest.format, and applies every rule. Use \a manifest only if the verdict has no error.
+/// Reads all \a bytes, which are of manifest.format, and applies every rule. Use \a manifest only if the verdict has no
+/// error.
 [[nodiscard]] DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules that a decoded manifest keeps, for one that is being made.
 [[nodiscard]] DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits);

@@ -98,8 +98,8 @@ private:
     {
         Elf64_Shdr names{};
         std::uint64_t const namesAt = m_header.e_shoff + std::uint64_t(m_header.e_shstrndx) * sizeof names;
-        bool const hasNames = m_header.e_shnum <= MAX_SECTIONS && m_header.e_shoff <= m_file.size() &&
-                              ReadRecord(m_file, namesAt, names);
+        bool const hasNames =
+            m_header.e_shnum <= MAX_SECTIONS && m_header.e_shoff <= m_file.size() && ReadRecord(m_file, namesAt, names);
         for (std::size_t i = 0; hasNames && i < m_header.e_shnum; ++i)
         {
             Elf64_Shdr section;
@@ -162,8 +162,8 @@ private:
     /// In a program that may be loaded anywhere the addresses stand in its relocations; small numbers look like them.
     bool HoldsWords(Elf64_Shdr const& section, std::string_view name) const
     {
-        bool const isTable = section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_FINI_ARRAY ||
-                             name == ".got" || name == ".got.plt" || name == ".data.rel.ro";
+        bool const isTable = section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_FINI_ARRAY || name == ".got" ||
+                             name == ".got.plt" || name == ".data.rel.ro";
         return isTable || (m_header.e_type == ET_EXEC && section.sh_type == SHT_PROGBITS);
     }
 

@@ -33,9 +33,9 @@ enum class RegionKind : std::uint8_t
     Words,       ///< words of 8 bytes that may be addresses
     Dynamic,     ///< pairs of words, the second of which may be an address
     Relocations, ///< triples of words: an address, what to do there, what may be another address
-    Symbols,     ///< records of 24 bytes: the distance of a name from the region's base, and in the second word an address
-    Offsets,     ///< words of 4 bytes, each the distance of an address from the region's base
-    Frames,      ///< records of call frames, each of which names its code by the distance from the name
+    Symbols, ///< records of 24 bytes: the distance of a name from the region's base, and in the second word an address
+    Offsets, ///< words of 4 bytes, each the distance of an address from the region's base
+    Frames,  ///< records of call frames, each of which names its code by the distance from the name
 };
 
 struct ImageRegion

@@ -210,9 +210,9 @@ private:
         }
         for (DeltaUnit const& unit : m_manifest.units)
         {
-            isReadable = isReadable && std::all_of(unit.sources.begin(), unit.sources.end(),
-                                                   [&add](DeltaSource const& source)
-                                                   { return add(source.path, source.size); });
+            isReadable =
+                isReadable && std::all_of(unit.sources.begin(), unit.sources.end(),
+                                          [&add](DeltaSource const& source) { return add(source.path, source.size); });
         }
         bool const isExpected = isReadable && hasher.Finish() == m_manifest.baseHash;
         return {isExpected ? DeltaError::ResultDiffers : DeltaError::BaseDiffers, {}, 0};

@@ -13,7 +13,7 @@ namespace
 using namespace ManifestBytes;
 
 constexpr std::uint8_t EXECUTABLE_KIND = 0x10; ///< what an executable file's kind is more
-constexpr std::uint8_t MOST_PACKINGS = 225; ///< properties of LZMA are below this
+constexpr std::uint8_t MOST_PACKINGS = 225;    ///< properties of LZMA are below this
 
 bool IsFile(DeltaEntry const& entry)
 {
@@ -320,8 +320,10 @@ DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const
             return BadUnit(entry.path);
         }
     }
-    bool const isPacked = std::all_of(manifest.streams.begin(), manifest.streams.end(), [&limits](StoredStream stream)
-                                      { return stream.packing <= MOST_PACKINGS && stream.size <= limits.tree.maxBytes; });
+    bool const isPacked = std::all_of(manifest.streams.begin(), manifest.streams.end(),
+                                      [&limits](StoredStream stream) {
+                                          return stream.packing <= MOST_PACKINGS && stream.size <= limits.tree.maxBytes;
+                                      });
     return {isPacked ? DeltaManifestError::None : DeltaManifestError::BadPacking, UpdateFault::None, {}};
 }
 

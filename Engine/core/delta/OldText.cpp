@@ -38,10 +38,7 @@ Bytes PlainText::Next()
 
 ProgramText::ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
                          std::vector<PatchStep> const& steps)
-    : m_program(program)
-    , m_newSpans(std::move(newSpans))
-    , m_map(layout, m_newSpans, steps)
-    , m_scanner(program, layout)
+    : m_program(program), m_newSpans(std::move(newSpans)), m_map(layout, m_newSpans, steps), m_scanner(program, layout)
 {
 }
 

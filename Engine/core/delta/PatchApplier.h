@@ -31,7 +31,8 @@ private:
     std::size_t m_end = 0;
 };
 
-/// Constant memory but for the steps that are asked for; any bytes are safe. New bytes come in pieces of at most 64 KiB.
+/// Constant memory but for the steps that are asked for; any bytes are safe. New bytes come in pieces of at most 64
+/// KiB.
 class PatchApplier
 {
 public:

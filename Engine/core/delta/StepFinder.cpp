@@ -210,10 +210,10 @@ private:
     std::int64_t m_newSize;
 
     std::int64_t m_scan = 0; ///< the place in the new file that is looked at
-    TextMatch m_match;           ///< what the old file has for it
+    TextMatch m_match;       ///< what the old file has for it
     std::int64_t m_lastScan = 0;
     std::int64_t m_lastPosition;
-    std::int64_t m_offset; ///< of the current alignment: old position less new position
+    std::int64_t m_offset;  ///< of the current alignment: old position less new position
     std::int64_t m_end = 0; ///< in the old text, behind what the last step is like
     StepList m_steps;
 };
@@ -252,7 +252,8 @@ TextMatch SuffixIndex::Longest(Bytes wanted, std::int64_t expected) const
         {
             best = {m_order[middle], static_cast<std::int64_t>(common)};
         }
-        bool const isSuffixLess = common < wanted.size() && (common == suffix.size() || suffix[common] < wanted[common]);
+        bool const isSuffixLess =
+            common < wanted.size() && (common == suffix.size() || suffix[common] < wanted[common]);
         (isSuffixLess ? low : high) = isSuffixLess ? middle + 1 : middle;
     }
     bool const isWithin = expected >= 0 && expected <= static_cast<std::int64_t>(m_text.size()) - best.length;

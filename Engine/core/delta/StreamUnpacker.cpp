@@ -47,8 +47,7 @@ public:
         options.lc = properties % 9;
         options.lp = properties / 9 % 5;
         options.pb = properties / 45;
-        std::array<lzma_filter, 2> const filters{
-            {{LZMA_FILTER_LZMA1, &options}, {LZMA_VLI_UNKNOWN, nullptr}}};
+        std::array<lzma_filter, 2> const filters{{{LZMA_FILTER_LZMA1, &options}, {LZMA_VLI_UNKNOWN, nullptr}}};
         lzma_ret const answer = lzma_raw_decoder(&m_stream, filters.data());
         if (answer == LZMA_MEM_ERROR)
         {

@@ -137,9 +137,10 @@ private:
         {
             items.push_back({m_entries[target].path, m_entries[target].size, false, target});
         }
-        std::sort(items.begin(), items.end(),
-                  [](Item const& a, Item const& b)
-                  { return std::make_pair(OrderOf(a.path), !a.isSource) < std::make_pair(OrderOf(b.path), !b.isSource); });
+        std::sort(
+            items.begin(), items.end(),
+            [](Item const& a, Item const& b)
+            { return std::make_pair(OrderOf(a.path), !a.isSource) < std::make_pair(OrderOf(b.path), !b.isSource); });
         DeltaUnit unit;
         std::uint64_t bytes = 0;
         for (Item const& item : items)

@@ -31,8 +31,7 @@ public:
             m_text.insert(m_text.end(), file.Content().begin(), file.Content().end());
         }
         Bytes const plain(m_text.data(), m_text.size());
-        if (std::optional<ImageLayout> const layout =
-                unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
+        if (std::optional<ImageLayout> const layout = unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
         {
             m_text = AlignmentTextOf(plain, *layout);
         }
@@ -139,7 +138,8 @@ private:
             start = MovedBy(start, next.front().move);
             next.erase(next.begin());
         }
-        bool const usesOld = std::any_of(next.begin(), next.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
+        bool const usesOld =
+            std::any_of(next.begin(), next.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
         if (!usesOld)
         {
             // Of a piece that has nothing of the old text no position is kept.
@@ -198,9 +198,12 @@ std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units, std::fil
                 bytes += source.size;
             }
         }
-        DoAll(wave.size(), [&wave](std::size_t i) { wave[i].BuildIndex(); }, told);
-        DoAll(pieces.size(), [&wave, &pieces](std::size_t i) { wave[pieces[i].first].Search(pieces[i].second); }, told);
-        std::transform(wave.begin(), wave.end(), std::back_inserter(answer), [](UnitWork& work) { return work.Finish(); });
+        DoAll(
+            wave.size(), [&wave](std::size_t i) { wave[i].BuildIndex(); }, told);
+        DoAll(
+            pieces.size(), [&wave, &pieces](std::size_t i) { wave[pieces[i].first].Search(pieces[i].second); }, told);
+        std::transform(wave.begin(), wave.end(), std::back_inserter(answer),
+                       [](UnitWork& work) { return work.Finish(); });
     }
     return answer;
 }

@@ -19,8 +19,10 @@ using SearchProgress = std::function<void(std::uint64_t done, std::uint64_t tota
 
 /// The answer depends on the files alone, and on nothing of the machine. Throws std::filesystem::filesystem_error, and
 /// std::bad_alloc: an old text takes six times its size in memory.
-[[nodiscard]] std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units, std::filesystem::path const& oldFolder,
+[[nodiscard]] std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units,
+                                                 std::filesystem::path const& oldFolder,
                                                  std::filesystem::path const& newFolder,
-                                                 std::vector<DeltaEntry> const& entries, SearchProgress const& progress);
+                                                 std::vector<DeltaEntry> const& entries,
+                                                 SearchProgress const& progress);
 
 } // namespace Pelnar::Engine

@@ -338,10 +338,16 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"JoinedResultDiffers",
             [] { return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.targetHash[0] ^= 1; }); },
             &LeaveAlone, UpdateFault::DeltaResultDiffers},
-        Row{"JoinedStepBeyondTheBase", [] { return DeltaWithSteps({1, 0, 1u << 30, 19999, 0, 0}); }, &LeaveAlone,
-            UpdateFault::ContainerDamaged},
-        Row{"JoinedStepBeforeTheBase", [] { return DeltaWithSteps({1, 0, 199, 19999, 0, 0}); }, &LeaveAlone,
-            UpdateFault::ContainerDamaged},
+        Row{"JoinedStepBeyondTheBase",
+            [] {
+                return DeltaWithSteps({1, 0, 1u << 30, 19999, 0, 0});
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"JoinedStepBeforeTheBase",
+            [] {
+                return DeltaWithSteps({1, 0, 199, 19999, 0, 0});
+            },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"JoinedStepOfMoreThanTheFile",
             [] {
                 return DeltaWithSteps({~std::uint64_t(0), ~std::uint64_t(0), 0});
@@ -377,19 +383,21 @@ INSTANTIATE_TEST_SUITE_P(
             },
             &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"UnknownPacking",
-            []
-            { return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.streams[4].packing = 226; }); },
+            [] {
+                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&)
+                                       { manifest.streams[4].packing = 226; });
+            },
             &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"OtherPacking",
             [] {
-                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&)
-                                       { manifest.streams[4].packing ^= 1; });
+                return JoinedDeltaWith([](DeltaManifest& manifest, std::string&) { manifest.streams[4].packing ^= 1; });
             },
             &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"BytesBehindTheStreamSteps", &DeltaWithBytesBehindAStream<0>, &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"BytesBehindTheStreamSame", &DeltaWithBytesBehindAStream<1>, &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"BytesBehindTheStreamChanged", &DeltaWithBytesBehindAStream<2>, &LeaveAlone, UpdateFault::ContainerDamaged},
-        Row{"BytesBehindTheStreamDifference", &DeltaWithBytesBehindAStream<3>, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"BytesBehindTheStreamDifference", &DeltaWithBytesBehindAStream<3>, &LeaveAlone,
+            UpdateFault::ContainerDamaged},
         Row{"BytesBehindTheStreamExtra", &DeltaWithBytesBehindAStream<4>, &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"PatchedResultDiffers",
             [] {
@@ -495,7 +503,7 @@ TEST_P(EvilTreeOfADelta, IsRefusedAsItIsInAnArchive)
     EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta, 
+INSTANTIATE_TEST_SUITE_P(Table, EvilTreeOfADelta,
                          testing::Combine(testing::ValuesIn(EvilTrees()),
                                           testing::Values(DeltaFormat::Separate, DeltaFormat::Joined)),
                          [](testing::TestParamInfo<std::tuple<Evil, DeltaFormat>> const& info)

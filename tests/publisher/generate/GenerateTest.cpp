@@ -374,7 +374,8 @@ TEST_P(DeltaSize, MadeDeltaIsPublishedOnlyWhenItSavesATenth)
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, DeltaSize,
-                         ::testing::Values(SizeRow{"SavesLess", -1, 0}, SizeRow{"SavesATenth", 0, 1}, SizeRow{"SavesMore", 500, 1}),
+                         ::testing::Values(SizeRow{"SavesLess", -1, 0}, SizeRow{"SavesATenth", 0, 1},
+                                           SizeRow{"SavesMore", 500, 1}),
                          [](auto const& row) { return std::string(row.param.name); });
 
 TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)

@@ -102,8 +102,8 @@ private:
         {
             outcome.error = DeltaError::ResultDiffers;
         }
-        // Whatever the old file is, a patch reads and writes in bounds, and what comes out must have the new one's
-        // hash. The old one's only tells why it has not.
+        // No matter what the old file is, a patch reads and writes in bounds, and what comes out must have the new
+        // one's hash. The old one's only tells why it has not.
         bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
         return mayBeTheBase && HashOf(old.Content()) != entry.sourceHash ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
                                                                          : outcome;

@@ -1,5 +1,5 @@
-// ProgramDeltaTest.cpp: programs whose code only moved make small deltas, and whatever a file says of itself, what
-// comes out is the new file or nothing.
+// ProgramDeltaTest.cpp: programs whose code only moved make small deltas, and no matter what a file says of itself,
+// what comes out is the new file or nothing.
 
 #include "Engine/core/delta/AlignmentText.h"
 #include "Engine/core/delta/PatchApplier.h"

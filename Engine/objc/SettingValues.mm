@@ -5,6 +5,7 @@
 
 #include <glog/logging.h>
 
+#include <mutex>
 #include <utility>
 
 using namespace Pelnar::Foundation;
@@ -93,6 +94,33 @@ id ObjectIn(SettingPlace place, Setting setting)
                : [[[NSBundle mainBundle] infoDictionary] objectForKey:NameOfSetting(setting)];
 }
 
+/// One writer at a time: a slow disk makes no crowd of them, who would wait for each other's lock.
+struct Saving
+{
+    std::mutex mutex;
+    bool isAskedFor = false; ///< since the last saving has begun
+    bool isUnderWay = false;
+};
+
+Saving& ThisProcessSaves()
+{
+    static Saving saving;
+    return saving;
+}
+
+void SaveUntilNothingIsNew(Settings::UpdateDefaults& defaults)
+{
+    Saving& saving = ThisProcessSaves();
+    std::unique_lock lock(saving.mutex);
+    while (std::exchange(saving.isAskedFor, false))
+    {
+        lock.unlock();
+        (void)defaults.Save(); // the log says what failed
+        lock.lock();
+    }
+    saving.isUnderWay = false;
+}
+
 } // namespace
 
 NSString* NameOfSetting(Setting setting)
@@ -159,7 +187,16 @@ void SaveSettingsLater(Settings::UpdateDefaults::Changes const& changes, DiskCho
 {
     Settings::UpdateDefaults defaults = Defaults();
     defaults.Remember(changes);
-    chores.Run([defaults]() mutable { (void)defaults.Save(); });
+    Saving& saving = ThisProcessSaves();
+    {
+        std::lock_guard const lock(saving.mutex);
+        saving.isAskedFor = true;
+        if (std::exchange(saving.isUnderWay, true))
+        {
+            return; // who saves takes this next
+        }
+    }
+    chores.Run([defaults]() mutable { SaveUntilNothingIsNew(defaults); });
 }
 
 } // namespace Pelnar::Engine

@@ -2,6 +2,7 @@
 // the checks; with PELNAR_EVERY_PLACE=1 in the environment it makes a thousand.
 #include "tests/engine/CheckFixture.h"
 #include "tests/support/ProcessFootprint.h"
+#include "tests/support/TaggedFeed.h"
 
 #include <QDirIterator>
 #include <QTemporaryDir>
@@ -68,8 +69,10 @@ private:
             {
                 ProcessFootprint const now = MeasureFootprint();
                 return std::none_of(now.descriptors.begin(), now.descriptors.end(),
-                                    [](std::string const& path)
-                                    { return path.find("PelnarFeeds") != std::string::npos; });
+                                    [](std::string const& path) {
+                                        return path.find("PelnarFeeds") != std::string::npos ||
+                                               path.find("kept.feed") != std::string::npos;
+                                    });
             }));
     }
 
@@ -81,11 +84,18 @@ private:
         DelegateScript script;
         script.choose = [&ending](int number, std::vector<QString> const& versions)
         { return ending == Ending::Found ? ChooseFirst(number, versions) : ChooseNone(number, versions); };
+        TaggedFeed feed{FeedWith(ItemOf("2.0") + ItemOf("3.0")), "ETag: \"one\"\r\nConnection: close\r\n"};
         LoopbackServer server(
-            [&ending](QSslSocket& socket, QByteArray const&, int)
+            [&ending, &feed](QSslSocket& socket, QByteArray const& request, int)
             {
-                bool const isReadable = ending != Ending::Unreadable;
-                socket.write(OkAnswer(isReadable ? FeedWith(ItemOf("2.0") + ItemOf("3.0")) : QByteArray("<rss")));
+                if (ending == Ending::Unreadable)
+                {
+                    socket.write(OkAnswer("<rss"));
+                }
+                else
+                {
+                    feed.Answer(socket, request);
+                }
                 socket.disconnectFromHost();
             });
         UpdaterDriver driver(script);
@@ -107,6 +117,7 @@ private:
                 ASSERT_TRUE(driver.WaitForEnd());
             }
         }
+        EXPECT_EQ(feed.wholes, 1) << "the feed is kept";
         EXPECT_EQ(Count(driver, "asked"), 3 * ROUND / 5);
         EXPECT_EQ(Count(driver, "found 2.0"), ROUND / 5);
         EXPECT_EQ(Count(driver, "aborted 1001"), 2 * ROUND / 5);

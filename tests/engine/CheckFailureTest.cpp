@@ -1,6 +1,7 @@
 // CheckFailureTest.cpp: what a check does about a delegate that misbehaves, goes away or answers little, about settings
 // of the wrong kind, and about hostile text.
 #include "tests/engine/CheckFixture.h"
+#include "tests/support/ProcessFootprint.h"
 
 #include <QDir>
 #include <QFile>
@@ -404,6 +405,7 @@ TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
 
 TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
 {
+    int const threadsBefore = MeasureFootprint().threads;
     for (QByteArray const& bytes :
          {QByteArray("{ SUSkippedVersion = 5.1"), QByteArray("\0\xff\xfe<plist>\0", 12), QByteArray(40, '(')})
     {
@@ -416,6 +418,8 @@ TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
         driver.Probe();
         ASSERT_TRUE(driver.WaitForEnd());
         EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"})) << bytes.left(40).toStdString();
+        // What the check leaves to be saved must not undo what the next round spoils.
+        EXPECT_TRUE(WaitFor([threadsBefore] { return MeasureFootprint().threads <= threadsBefore; }));
     }
 }
 

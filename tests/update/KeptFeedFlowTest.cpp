@@ -4,6 +4,7 @@
 #include "Engine/core/update/UpdateFlow.h"
 #include "tests/engine/SignedFeedText.h"
 #include "tests/support/DialogDriver.h"
+#include "tests/support/LogCapture.h"
 #include "tests/support/TaggedFeed.h"
 #include "tests/update/ScriptedUpdate.h"
 
@@ -200,7 +201,10 @@ TEST_F(KeptFeedFlow, FeedThatANewerEngineRefusesIsFetchedAnew)
 {
     EXPECT_EQ(Check(), found);
     settings.check.feedLimits.maxItems = 0;
+    LogCapture log;
     EXPECT_EQ(Check().front(), "aborted 1000");
+    ASSERT_EQ(log.Of(google::GLOG_WARNING).size(), 1u);
+    EXPECT_NE(log.Of(google::GLOG_WARNING).front().text.find("is refused and removed"), std::string::npos);
     EXPECT_EQ(feed.unchanged, 1);
     EXPECT_EQ(feed.wholes, 2);
     NewProcess();

@@ -105,7 +105,9 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     {
         if (outcome.isUnchanged)
         {
-            // What was accepted once is not now. The server may have another one under the same name.
+            // The server may have another one under the same name.
+            LOG(WARNING) << "The kept update feed is refused and removed, and the whole one is asked for: "
+                         << refusal->sentence.English().toStdString();
             m_settings.feedStore->Keep(std::nullopt);
             m_fetcher.release()->deleteLater(); // it is on the stack below this call
             Fetch(std::nullopt);
@@ -176,6 +178,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
     {
         DropNearerLinks(item, m_feedReach);
     }
+    LOG_IF(INFO, outcome.isUnchanged) << "The server says that the update feed is the one that is kept here";
     Remember(outcome.bytes, terms, now);
     KeepFeed(outcome);
     return std::nullopt;

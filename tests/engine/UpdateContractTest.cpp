@@ -170,6 +170,33 @@ TEST_F(UpdateContract, MethodsOfAnUpdateThatTheDelegateLacksAreNotCalled)
     EXPECT_EQ(LastInstallation().targetPath, "") << "and it is installed on quit";
 }
 
+TEST_F(UpdateContract, DownloadGoesOnAsItBeganWhenAPersonWantsToBeAskedFromNowOn)
+{
+    MakeDriver();
+    driver->SetDownloadsAutomatically(true);
+    driver->CheckInBackground();
+    ASSERT_TRUE(WaitFor([this] { return !parts.requests.empty(); }));
+    driver->SetDownloadsAutomatically(false);
+    parts.FinishDownload();
+    parts.FinishPreparation();
+    EXPECT_EQ(driver->Events(), (Events{"asked", "found 5.1", "will install 5.1"}));
+    EXPECT_EQ(windows.open, "");
+    EXPECT_FALSE(driver->DownloadsAutomatically());
+}
+
+TEST_F(UpdateContract, OfferStaysOpenWhenAPersonWantsDownloadsFromNowOn)
+{
+    MakeDriver();
+    driver->SetDownloadsAutomatically(false);
+    driver->CheckInBackground();
+    ASSERT_TRUE(WaitFor([this] { return windows.open == "quiet update"; }));
+    driver->SetDownloadsAutomatically(true);
+    windows.Choose(UpdateChoice::InstallUpdate);
+    parts.FinishDownload();
+    parts.FinishPreparation();
+    EXPECT_EQ(windows.open, "quiet ready") << "it asks, as it began";
+}
+
 TEST_F(UpdateContract, FailureAfterTheDownloadIsTold)
 {
     MakeDriver();

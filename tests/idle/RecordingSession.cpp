@@ -57,7 +57,18 @@ bool SetRelaunchArguments(std::vector<std::string> const& arguments)
     return true;
 }
 
+Pelnar::AutomaticDownload AutomaticDownloads()
+{
+    return Pelnar::AutomaticDownload::On;
+}
+
+void SetAutomaticDownloads(Pelnar::AutomaticDownload wish)
+{
+    std::puts(wish == Pelnar::AutomaticDownload::On ? "session downloads" : "session asks");
+}
+
 } // namespace
 
-SessionExport const pelnarUpdateSession{PELNAR_SESSION_STAMP, &Session, &ConfirmGoodStart, &UnchangedFeedDays,
-                                        &SetRelaunchArguments};
+SessionExport const pelnarUpdateSession{
+    PELNAR_SESSION_STAMP,  &Session, &ConfirmGoodStart, &UnchangedFeedDays, &SetRelaunchArguments, &AutomaticDownloads,
+    &SetAutomaticDownloads};

@@ -3,6 +3,8 @@
 // Thread: the Qt main thread. Ownership: none.
 #pragma once
 
+#include <Pelnar/AutomaticDownloads.h>
+
 #include <string>
 #include <vector>
 
@@ -16,5 +18,8 @@ __attribute__((visibility("default"))) int DaysOfUnchangedFeed();
 /// See Pelnar::SetRelaunchArguments.
 [[nodiscard]] __attribute__((visibility("default"))) bool
 KeepRelaunchArguments(std::vector<std::string> const& arguments);
+/// See Pelnar::AutomaticDownloads and Pelnar::SetAutomaticDownloads.
+__attribute__((visibility("default"))) Pelnar::AutomaticDownload WishedDownloads();
+__attribute__((visibility("default"))) void WishDownloads(Pelnar::AutomaticDownload wish);
 
 } // namespace Pelnar::Engine

@@ -5,6 +5,7 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/UpdateTraces_p.h"
 #include "common/LogSite.h"
 
+#include <Pelnar/AutomaticDownloads.h>
 #include <Pelnar/FeedAge.h>
 #include <Pelnar/GoodStart.h>
 #include <Pelnar/RelaunchArguments.h>
@@ -36,6 +37,20 @@ int Pelnar::UnchangedFeedDays()
 {
     SessionExport const* const loaded = SessionLibrary::Instance().Load();
     return loaded ? loaded->unchangedFeedDays() : 0;
+}
+
+Pelnar::AutomaticDownload Pelnar::AutomaticDownloads()
+{
+    SessionExport const* const loaded = SessionLibrary::Instance().Load();
+    return loaded ? loaded->automaticDownloads() : AutomaticDownload::Off;
+}
+
+void Pelnar::SetAutomaticDownloads(AutomaticDownload wish)
+{
+    if (SessionExport const* const loaded = SessionLibrary::Instance().Load())
+    {
+        loaded->setAutomaticDownloads(wish);
+    }
 }
 
 bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)

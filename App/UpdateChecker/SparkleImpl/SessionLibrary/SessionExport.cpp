@@ -4,6 +4,10 @@
 
 #include <Pelnar/HostRequests_p.h>
 
-Pelnar::App::SessionExport const pelnarUpdateSession{
-    PELNAR_SESSION_STAMP, &Pelnar::App::LinkedSession, &Pelnar::Engine::ConfirmStart,
-    &Pelnar::Engine::DaysOfUnchangedFeed, &Pelnar::Engine::KeepRelaunchArguments};
+Pelnar::App::SessionExport const pelnarUpdateSession{PELNAR_SESSION_STAMP,
+                                                     &Pelnar::App::LinkedSession,
+                                                     &Pelnar::Engine::ConfirmStart,
+                                                     &Pelnar::Engine::DaysOfUnchangedFeed,
+                                                     &Pelnar::Engine::KeepRelaunchArguments,
+                                                     &Pelnar::Engine::WishedDownloads,
+                                                     &Pelnar::Engine::WishDownloads};

@@ -4,6 +4,8 @@
 
 #include "common/Export.h"
 
+#include <Pelnar/AutomaticDownloads.h>
+
 #include <string>
 #include <vector>
 
@@ -21,6 +23,8 @@ struct SessionExport
     void (*confirmGoodStart)();
     int (*unchangedFeedDays)();
     bool (*setRelaunchArguments)(std::vector<std::string> const& arguments);
+    AutomaticDownload (*automaticDownloads)();
+    void (*setAutomaticDownloads)(AutomaticDownload wish);
 };
 
 /// The name by which the library's one SessionExport is found.

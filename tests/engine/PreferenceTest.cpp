@@ -1,0 +1,122 @@
+// PreferenceTest.cpp: the public functions of a preference box, in installed applications of processes of their own.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <memory>
+#include <string>
+
+#include <sys/stat.h>
+
+namespace
+{
+
+/// One process of the application, with its box.
+class Box
+{
+public:
+    explicit Box(QTemporaryDir const& folder)
+    {
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("HOME"), folder.path());
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), folder.filePath(QStringLiteral("config")));
+        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), folder.path());
+        environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), folder.filePath(QStringLiteral("GNUstep.conf")));
+        m_process.setProcessEnvironment(environment);
+        m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        m_process.start(folder.filePath(QStringLiteral("Notely.app/Notely")), QStringList());
+    }
+    ~Box()
+    {
+        m_process.closeWriteChannel();
+        EXPECT_TRUE(m_process.waitForFinished());
+        EXPECT_EQ(m_process.exitCode(), 0);
+    }
+    Box(Box const&) = delete;
+    Box& operator=(Box const&) = delete;
+
+    std::string Ask(char const* line)
+    {
+        m_process.write(QByteArray(line) + '\n');
+        while (!m_process.canReadLine() && m_process.waitForReadyRead())
+        {
+        }
+        return m_process.readLine().trimmed().toStdString();
+    }
+
+private:
+    QProcess m_process;
+};
+
+class Preference : public ::testing::Test
+{
+protected:
+    Preference()
+    {
+        EXPECT_TRUE(QDir().mkpath(folder.filePath(QStringLiteral("Notely.app/Resources"))));
+        EXPECT_TRUE(
+            QFile::copy(QStringLiteral(PELNAR_PREFERENCE_HOST), folder.filePath(QStringLiteral("Notely.app/Notely"))));
+        Write("GNUstep.conf", "GNUSTEP_USER_DEFAULTS_DIR=" + folder.path().toLocal8Bit() + "/Defaults\n");
+        SetBundle({});
+    }
+
+    void SetBundle(QByteArray const& entries) const
+    {
+        Write("Notely.app/Resources/Info-gnustep.plist",
+              "{ CFBundleIdentifier = org.example.notely; CFBundleVersion = 1.0; NSExecutable = Notely; " + entries +
+                  "}");
+    }
+
+    void Write(char const* name, QByteArray const& text) const
+    {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    }
+
+    std::string Ask(char const* line) const { return Box(folder).Ask(line); }
+
+    QTemporaryDir const folder;
+};
+
+TEST_F(Preference, IsOffUntilThePersonOrTheBundleSaysOtherwise)
+{
+    EXPECT_EQ(Ask("get"), "off");
+    SetBundle("SUAutomaticallyUpdate = YES; ");
+    EXPECT_EQ(Ask("get"), "on");
+    EXPECT_EQ(Ask("off"), "off");
+    EXPECT_EQ(Ask("get"), "off") << "what the person says counts, in the next process too";
+    SetBundle("SUAutomaticallyUpdate = NO; ");
+    EXPECT_EQ(Ask("on"), "on");
+    EXPECT_EQ(Ask("get"), "on");
+}
+
+TEST_F(Preference, IsTheSameInEveryProcessThatRuns)
+{
+    Box first(folder);
+    Box second(folder);
+    EXPECT_EQ(first.Ask("get"), "off");
+    EXPECT_EQ(second.Ask("get"), "off");
+    EXPECT_EQ(first.Ask("on"), "on");
+    EXPECT_EQ(second.Ask("get"), "on");
+    EXPECT_EQ(second.Ask("off"), "off");
+    EXPECT_EQ(first.Ask("get"), "off");
+}
+
+TEST_F(Preference, ThatCannotBeSavedHoldsAsLongAsTheProcess)
+{
+    QFile file(folder.filePath(QStringLiteral("config")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly)) << "a file where the folder would be";
+    {
+        Box box(folder);
+        EXPECT_EQ(box.Ask("on"), "on");
+        EXPECT_EQ(box.Ask("get"), "on");
+    }
+    EXPECT_EQ(Ask("get"), "off");
+}
+
+} // namespace

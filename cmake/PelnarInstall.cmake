@@ -22,23 +22,25 @@ set_target_properties(pelnar_host_interfaces PROPERTIES EXPORT_NAME HostInterfac
 target_include_directories(pelnar_host_interfaces INTERFACE "$<INSTALL_INTERFACE:${PELNAR_INSTALL_INCLUDEDIR}>")
 install(TARGETS pelnar_host_interfaces EXPORT PelnarUpdateCheckerTargets)
 install(TARGETS ${PELNAR_INSTALLED_TARGETS} EXPORT PelnarUpdateCheckerTargets
-    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+    LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development)
 if(NOT APPLE)
     set_target_properties(pelnar_update_installer PROPERTIES EXPORT_NAME UpdateInstaller)
     install(TARGETS pelnar_update_installer EXPORT PelnarUpdateCheckerTargets
-        RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/pelnar")
+        RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/pelnar" COMPONENT runtime)
 endif()
-install(EXPORT PelnarUpdateCheckerTargets NAMESPACE Pelnar:: DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
+install(EXPORT PelnarUpdateCheckerTargets NAMESPACE Pelnar:: DESTINATION "${PELNAR_INSTALL_CMAKEDIR}"
+    COMPONENT development)
 
 # Private headers (_p.h), and those of the log, stay here.
-install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}"
+install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development
     FILES_MATCHING
     PATTERN "*.h"
     PATTERN "*_p.h" EXCLUDE
     PATTERN "PelnarSparkle*" EXCLUDE
     PATTERN "LogSite.h" EXCLUDE)
 
-install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" PATTERN "*_p.h" EXCLUDE)
+install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development
+    PATTERN "*_p.h" EXCLUDE)
 
 configure_package_config_file(cmake/PelnarUpdateCheckerConfig.cmake.in
     "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateCheckerConfig.cmake"
@@ -52,11 +54,12 @@ install(FILES
     cmake/PelnarBundle.cmake
     cmake/HostOperations.cpp
     cmake/PelnarHostFramework.cmake
-    DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
-install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}")
-install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}")
+    DESTINATION "${PELNAR_INSTALL_CMAKEDIR}" COMPONENT development)
+install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}" COMPONENT development)
+install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}" COMPONENT development)
 
 # Hosts link these. The update checker loads the others itself.
 set(PELNAR_PC_LIBRARIES "-lPelnarUpdateChecker -lPelnarHostFramework")
 configure_file(cmake/PelnarUpdateChecker.pc.in "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" @ONLY)
-install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"
+    COMPONENT development)

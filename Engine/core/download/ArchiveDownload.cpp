@@ -25,6 +25,8 @@ constexpr std::chrono::milliseconds PROGRESS_INTERVAL{100};
 constexpr std::chrono::seconds CHECKPOINT_INTERVAL{10};
 /// A connection that brought so much was worth the trouble: its end starts the count of attempts again.
 constexpr qint64 WORTHWHILE_BYTES = 1024 * 1024;
+/// Of the answers of one attempt, redirects among them.
+constexpr qint64 USUAL_HEAD_BYTES = 8 * 1024;
 
 /// True for what may be better in a moment.
 bool IsPassing(EngineError const& error)
@@ -175,6 +177,7 @@ private:
         ++m_spent.attempts;
         m_writer->Count(Spent());
         m_redirects = 0;
+        m_besideBody = 0;
         FetchRequest request = RequestFor(m_request.url, m_request.feedUrl);
         request.nearest = m_request.feedReach;
         request.rangeFields = RangeFields(m_partial);
@@ -191,11 +194,20 @@ private:
         m_transfer->Open();
     }
 
+    /// What one attempt brings beside the archive's bytes counts as well, but for usual heads.
+    void CountBesideBody(qint64 bytes)
+    {
+        qint64 const before = std::max<qint64>(m_besideBody - USUAL_HEAD_BYTES, 0);
+        m_besideBody += bytes;
+        m_spent.receivedBytes += static_cast<quint64>(std::max<qint64>(m_besideBody - USUAL_HEAD_BYTES, 0) - before);
+    }
+
     void DropTransfer()
     {
         if (m_transfer)
         {
             m_transfer->disconnect(this);
+            CountBesideBody(m_transfer->BytesBesideBody());
             m_transfer->Abort();
             m_transfer.release()->deleteLater(); // it may be the sender of this very call
         }
@@ -224,13 +236,15 @@ private:
         return static_cast<qint64>(Missing());
     }
 
-    /// Why the whole archive must not come; the request for it has been counted already.
-    std::optional<ErrorCause> JudgeRestart() const
+    /// Why so many bytes must not come; the request for them has been counted already.
+    std::optional<ErrorCause> JudgeBytes(std::uint64_t bytes) const
     {
         std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).receivedBytes;
-        bool const isWithin = m_spent.receivedBytes + m_partial.declaredBytes <= budget;
+        bool const isWithin = m_spent.receivedBytes + bytes <= budget;
         return isWithin ? std::nullopt : std::optional(ErrorCause::DownloadTooMuch);
     }
+
+    std::optional<ErrorCause> JudgeRestart() const { return JudgeBytes(m_partial.declaredBytes); }
 
     void BeginAnew(Validators const& validators)
     {
@@ -285,6 +299,11 @@ private:
 
     void Follow(HttpHead const& head, AddressReach answeredFrom)
     {
+        if (auto const cause = JudgeBytes(Missing()))
+        {
+            End(MakeError(*cause));
+            return;
+        }
         std::variant<FetchRequest, ErrorCause> const next = JudgeRedirect(
             m_sent, answeredFrom, head.Values("location"), ++m_redirects, m_request.insecureHttp, m_request.limits);
         if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
@@ -402,6 +421,7 @@ private:
     int m_redirects = 0;
     int m_resumes = 0;        ///< since a connection was worthwhile
     qint64 m_sinceResume = 0; ///< bytes of this connection
+    qint64 m_besideBody = 0;  ///< bytes of this attempt that are none of the archive
     bool m_hasReceived = false;
     bool m_hasAskedWhole = false;
     TransferRate m_rate;

@@ -71,6 +71,11 @@ struct HttpTransfer::Callbacks
 
     static int Debug(CURL*, curl_infotype type, char* bytes, size_t count, void* transfer)
     {
+        if (type == CURLINFO_DATA_IN)
+        {
+            static_cast<HttpTransfer*>(transfer)->m_rawBodyBytes += static_cast<qint64>(count);
+            return 0;
+        }
         // libcurl reads no further than an answer's end. Bytes that came together with it, it names here and drops.
         QByteArray const text = QByteArray::fromRawData(bytes, static_cast<int>(count));
         if (type == CURLINFO_TEXT && (text.startsWith("Excess found") || text.startsWith("Leftovers after chunking")))
@@ -184,6 +189,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHeadLine(QByteArray const& line)
         m_readBefore = BytesReadFrom(m_loop->SocketOf(m_curl->Handle()));
     }
     m_received += line.size();
+    m_headBytes += line.size();
     m_loop->NoteBytes();
     switch (m_reader.Take(line))
     {
@@ -406,6 +412,12 @@ EngineError HttpTransfer::ErrorAt(CURLcode code) const
     end.hasProxy = !m_curl->Proxy().IsDirect();
     end.text = m_curl->Text();
     return ErrorOf(end);
+}
+
+qint64 HttpTransfer::BytesBesideBody() const
+{
+    qint64 const body = m_received - m_headBytes;
+    return m_headBytes + std::max<qint64>(m_rawBodyBytes - body, 0);
 }
 
 bool HttpTransfer::IsMostlyFraming() const

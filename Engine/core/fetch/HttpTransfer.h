@@ -39,6 +39,8 @@ public:
     QByteArray const& Body() const { return m_body; }
     /// Where the answer came from: of the connection's address, or of the request's behind a proxy.
     AddressReach AnsweredFrom() const { return m_answeredFrom; }
+    /// What has come beside the body: heads, and the frames of chunks.
+    qint64 BytesBesideBody() const;
 
 Q_SIGNALS:
     void Completed();
@@ -92,6 +94,8 @@ private:
     QByteArray m_held; ///< of the body, what the sink had no room for
     qint64 m_bodyBytes = 0;
     qint64 m_received = 0;
+    qint64 m_headBytes = 0;
+    qint64 m_rawBodyBytes = 0;             ///< with the frames of chunks
     std::optional<qint64> m_readBefore;    ///< by the connection, when the answer began
     std::deque<qint64> m_receivedAtSample; ///< of the samples of one window, the oldest first
     std::optional<ErrorCause> m_refusal;

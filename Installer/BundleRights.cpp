@@ -128,9 +128,9 @@ bool GiveRights(int bundleFd, BundleRights const& rights)
     {
         Fail();
     }
-    if (rights.accessList.empty())
+    if (!hasList && rights.accessList.empty() && ::fremovexattr(bundleFd, ACCESS_LIST) != 0)
     {
-        RemoveAccessList(bundleFd, ".");
+        Fail();
     }
     if (::fchmod(bundleFd, rights.mode) != 0)
     {

@@ -10,6 +10,7 @@
 
 #include <QJsonArray>
 
+#include <algorithm>
 #include <memory>
 
 namespace Pelnar::Publisher
@@ -130,6 +131,12 @@ QString OriginOf(Engine::DeltaEntry const& entry)
                        : QString();
 }
 
+/// The joined format leaves the sizes of kept files to the version before.
+bool TellsSize(Engine::DeltaManifest const& manifest, Engine::DeltaEntry const& entry)
+{
+    return manifest.format == Engine::DeltaFormat::Separate || entry.kind != Engine::DeltaEntryKind::Kept;
+}
+
 /// What files take of the container is known of each by itself in one format, of all together in the other.
 void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
 {
@@ -159,25 +166,19 @@ void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManif
                       .arg(delta.size));
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
-        console.Print(QStringLiteral("%1 %2 bytes  %3%4")
+        console.Print(QStringLiteral("%1 %2  %3%4")
                           .arg(QLatin1String(KindName(entry.kind)), -8)
-                          .arg(entry.size, 10)
+                          .arg(TellsSize(manifest, entry) ? QStringLiteral("%1 bytes").arg(entry.size) : QString(), 16)
                           .arg(Printable(QString::fromStdString(entry.path)), OriginOf(entry)));
     }
     for (Engine::DeltaEntryKind const kind :
          {Engine::DeltaEntryKind::Kept, Engine::DeltaEntryKind::Patched, Engine::DeltaEntryKind::Whole})
     {
-        std::size_t count = 0;
-        quint64 size = 0;
-        for (Engine::DeltaEntry const& entry : manifest.entries)
-        {
-            count += entry.kind == kind ? 1 : 0;
-            size += entry.kind == kind ? entry.size : 0;
-        }
-        console.Print(QStringLiteral("%1 %2 of %3 bytes")
+        auto const count = std::count_if(manifest.entries.begin(), manifest.entries.end(),
+                                         [kind](Engine::DeltaEntry const& entry) { return entry.kind == kind; });
+        console.Print(QStringLiteral("%1 %2")
                           .arg(QLatin1String(KindName(kind)), -8)
-                          .arg(CountOf(count, QStringLiteral("file")))
-                          .arg(size));
+                          .arg(CountOf(std::size_t(count), QStringLiteral("file"))));
     }
     ShowStored(console, manifest);
 }
@@ -199,8 +200,11 @@ void ShowJson(Console const& console, InputFile const& delta, Engine::DeltaManif
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
         QJsonObject object{{QStringLiteral("path"), QString::fromStdString(entry.path)},
-                           {QStringLiteral("kind"), QLatin1String(KindName(entry.kind))},
-                           {QStringLiteral("size"), qint64(entry.size)}};
+                           {QStringLiteral("kind"), QLatin1String(KindName(entry.kind))}};
+        if (TellsSize(manifest, entry))
+        {
+            object.insert(QStringLiteral("size"), qint64(entry.size));
+        }
         if (!isJoined)
         {
             object.insert(QStringLiteral("stored"), qint64(entry.StoredBytes()));

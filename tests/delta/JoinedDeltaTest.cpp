@@ -94,14 +94,14 @@ protected:
         return manifest;
     }
 
-    DeltaOutcome Apply()
+    DeltaOutcome Apply(DeltaLimits const& limits = {})
     {
         fs::remove_all(Staging());
         fs::create_directory(Staging());
         UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
         UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        return ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {});
+        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits, {});
     }
 
     void ExpectTheNewVersion()
@@ -244,6 +244,22 @@ TEST_F(JoinedDelta, FormatBeforeIsStillApplied)
     EXPECT_EQ(container[8], 2);
     WriteFile(Container(), container);
     ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, KeptFilesCountWithTheSizesThatTheyHave)
+{
+    WriteFile(Old() / "kept", std::string(1000, 'x'));
+    WriteFile(New() / "kept", std::string(1000, 'x'));
+    WriteFile(New() / "new", "new");
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    DeltaLimits limits;
+    limits.tree.maxBytes = 1003;
+    EXPECT_TRUE(Apply(limits).HasSucceeded());
+    limits.tree.maxBytes = 1002;
+    DeltaOutcome const outcome = Apply(limits);
+    EXPECT_EQ(outcome.error, DeltaError::TreeRefused);
+    EXPECT_EQ(outcome.fault, UpdateFault::TooManyBytes);
+    EXPECT_TRUE(fs::is_empty(Staging()));
 }
 
 // The rules for units.

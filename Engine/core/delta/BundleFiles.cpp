@@ -20,7 +20,7 @@ DeltaOutcome SourceFailure()
     return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
 }
 
-DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const
+DeltaOutcome BundleFiles::Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const
 {
     file = m_old.OpenFile(path);
     if (!file)
@@ -33,8 +33,21 @@ DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, U
     {
         return {DeltaError::CannotRead, {}, errno};
     }
-    bool const isExpected = S_ISREG(status.st_mode) && static_cast<std::uint64_t>(status.st_size) == size;
-    return isExpected ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+    size = static_cast<std::uint64_t>(status.st_size);
+    return S_ISREG(status.st_mode) ? DeltaOutcome{} : DeltaOutcome{DeltaError::BaseDiffers, {}, 0};
+}
+
+DeltaOutcome BundleFiles::OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const
+{
+    std::uint64_t found = 0;
+    DeltaOutcome const outcome = Open(path, file, found);
+    return outcome.HasSucceeded() && found != size ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0} : outcome;
+}
+
+DeltaOutcome BundleFiles::FindSize(std::string const& path, std::uint64_t& size) const
+{
+    UniqueFd file;
+    return Open(path, file, size);
 }
 
 DeltaOutcome BundleFiles::MakeFolder(DeltaEntry const& entry)

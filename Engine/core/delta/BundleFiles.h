@@ -20,6 +20,8 @@ public:
 
     /// The old version's file \a path, if it is a plain file of \a size bytes.
     [[nodiscard]] DeltaOutcome OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const;
+    /// The size of the old version's file \a path, if it is a plain file.
+    [[nodiscard]] DeltaOutcome FindSize(std::string const& path, std::uint64_t& size) const;
     [[nodiscard]] DeltaOutcome MakeFolder(DeltaEntry const& entry);
     [[nodiscard]] DeltaOutcome MakeLink(DeltaEntry const& entry);
     [[nodiscard]] DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd& file);
@@ -29,6 +31,7 @@ public:
     [[nodiscard]] DeltaOutcome Hash(int fd, ContentHasher& hasher);
 
 private:
+    DeltaOutcome Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const;
     DeltaOutcome Copy(int source, int target, ContentHasher& hasher);
 
     TreeAccess m_old;

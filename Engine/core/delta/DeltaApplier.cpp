@@ -1,11 +1,42 @@
 #include "Engine/core/delta/DeltaApplier.h"
 
+#include "Engine/core/delta/BundleFiles.h"
 #include "Engine/core/delta/JoinedApplier.h"
 
+#include <memory>
 #include <numeric>
 
 namespace Pelnar::Engine
 {
+namespace
+{
+
+/// In the joined format only the old version tells the sizes of kept files. With them the tree is judged once more,
+/// before anything of it is made.
+DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaManifest& manifest)
+{
+    if (manifest.format != DeltaFormat::Joined)
+    {
+        return {};
+    }
+    auto const files = std::make_unique<BundleFiles>(oldBundleFd, -1);
+    for (DeltaEntry& entry : manifest.entries)
+    {
+        DeltaOutcome outcome;
+        if (entry.kind == DeltaEntryKind::Kept)
+        {
+            outcome = files->FindSize(entry.sourcePath, entry.size);
+        }
+        if (!outcome.HasSucceeded())
+        {
+            outcome.path = entry.path;
+            return outcome;
+        }
+    }
+    return OutcomeOf(CheckDeltaManifest(manifest, limits));
+}
+
+} // namespace
 
 DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLimits const& limits,
                         DeltaProgress const& progress)
@@ -13,6 +44,10 @@ DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLi
     DeltaManifest manifest;
     std::uint64_t dataOffset = 0;
     if (DeltaOutcome outcome = ReadDeltaManifest(containerFd, limits, manifest, dataOffset); !outcome.HasSucceeded())
+    {
+        return outcome;
+    }
+    if (DeltaOutcome outcome = FindKeptSizes(oldBundleFd, limits, manifest); !outcome.HasSucceeded())
     {
         return outcome;
     }

@@ -104,7 +104,7 @@ struct DeltaManifest
     std::vector<DeltaEntry> entries; ///< in ascending order of the paths' bytes; a folder stands before what it holds
 
     DeltaFormat format = DeltaFormat::Separate;
-    // Joined: entries have no hashes, and no source but kept ones.
+    // Joined: entries have no hashes, and no source but kept ones, whose sizes only the old version tells.
     std::vector<DeltaUnit> units;
     std::array<StoredStream, PATCH_STREAMS> streams{};
     ContentHash baseHash{};   ///< of all old files that are used: kept ones in their order, then those of the units

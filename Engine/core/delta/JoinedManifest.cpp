@@ -15,6 +15,12 @@ using namespace ManifestBytes;
 constexpr std::uint8_t EXECUTABLE_KIND = 0x10; ///< what an executable file's kind is more
 constexpr std::uint8_t MOST_PACKINGS = 225;    ///< properties of LZMA are below this
 
+/// A kept file's size is the old one's, which both ends can look up.
+bool HasSize(DeltaEntry const& entry)
+{
+    return entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
+}
+
 bool IsFile(DeltaEntry const& entry)
 {
     return entry.kind != DeltaEntryKind::Directory && entry.kind != DeltaEntryKind::SymbolicLink;
@@ -44,7 +50,7 @@ void AppendEntries(ByteBuffer& bytes, std::vector<DeltaEntry> const& entries)
         AppendText(rests, entry.path.substr(shared));
         kinds.push_back(static_cast<std::uint8_t>(static_cast<std::uint8_t>(entry.kind) |
                                                   (entry.isExecutable ? EXECUTABLE_KIND : 0)));
-        if (IsFile(entry))
+        if (HasSize(entry))
         {
             AppendNumber(sizes, entry.size);
         }
@@ -82,7 +88,7 @@ void ReadKind(Reader& reader, DeltaEntry& entry)
 
 void ReadSize(Reader& reader, DeltaEntry& entry)
 {
-    entry.size = IsFile(entry) ? reader.Number() : 0;
+    entry.size = HasSize(entry) ? reader.Number() : 0;
 }
 
 void ReadPlace(Reader& reader, DeltaEntry& entry)
@@ -95,7 +101,6 @@ void ReadPlace(Reader& reader, DeltaEntry& entry)
     {
         std::string const path = reader.Text(MAX_PATH_BYTES);
         entry.sourcePath = path.empty() ? entry.path : path;
-        entry.sourceSize = entry.size;
     }
 }
 

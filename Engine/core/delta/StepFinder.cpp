@@ -11,7 +11,7 @@ namespace
 {
 
 // A new alignment must explain this many bytes more than the current one to be worth a step.
-constexpr std::int64_t MIN_GAIN_BYTES = 8;
+constexpr std::int64_t MIN_GAIN_BYTES = 14;
 
 std::uint64_t WithSignAsLowestBit(std::int64_t number)
 {

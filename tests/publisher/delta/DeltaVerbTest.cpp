@@ -151,7 +151,7 @@ TEST_F(DeltaVerb, ShowTellsWhatIsKeptPatchedAndWhole)
     std::string const text = Show().out;
     EXPECT_NE(text.find("1.0 to 2.0"), std::string::npos) << text;
     EXPECT_NE(text.find("Resources/kept"), std::string::npos) << text;
-    EXPECT_NE(text.find("kept     1 file of 20000 bytes"), std::string::npos) << text;
+    EXPECT_NE(text.find("kept     1 file"), std::string::npos) << text;
 }
 
 TEST_F(DeltaVerb, KeySignsTheDelta)

@@ -3,7 +3,7 @@
 #include "Engine/core/payload/RelaunchArguments.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"
-#include "Installer/BundleInformation.h"
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Installer/BundleRights.h"
 #include "Installer/ChildProcess.h"
 #include "Installer/OutcomeNote.h"
@@ -85,7 +85,7 @@ UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptor
     {
         throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
     }
-    Engine::BundleInformation const information = ReadBundleInformation(target.Get(), job.targetName);
+    Engine::BundleInformation const information = Engine::ReadBundleInformation(target.Get(), job.targetName);
     if (information.identifier != job.bundleIdentifier || information.version != job.installedVersion)
     {
         throw UpdateRefusal(UpdateFault::TargetChanged);
@@ -117,15 +117,15 @@ void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, i
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
     }
-    CheckNewBundle(stagedFd, job.kind == PayloadKind::Installer ? job.stagedName : job.targetName,
-                   {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+    Engine::CheckNewBundle(stagedFd, job.kind == PayloadKind::Installer ? job.stagedName : job.targetName,
+                           {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
 }
 
 Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
 {
     try
     {
-        return ReadBundleInformation(stagedFd, job.stagedName).confirmsGoodStart
+        return Engine::ReadBundleInformation(stagedFd, job.stagedName).confirmsGoodStart
                    ? Engine::StartConfirmation::ByHost
                    : Engine::StartConfirmation::ByStarting;
     }

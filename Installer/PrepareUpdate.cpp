@@ -4,8 +4,8 @@
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/Ed25519Signature.h"
 #include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Engine/core/unpack/UnpackArchive.h"
-#include "Installer/BundleInformation.h"
 #include "Installer/Confinement.h"
 #include "Installer/SteadyArchive.h"
 
@@ -107,7 +107,7 @@ Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDesc
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
 {
     if (job.kind == PayloadKind::Installer &&
-        !ReadBundleInformation(descriptors.target, job.bundleName).allowsInstallerPrograms)
+        !Engine::ReadBundleInformation(descriptors.target, job.bundleName).allowsInstallerPrograms)
     {
         throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
     }
@@ -119,8 +119,8 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     archive.reset(); // what becomes of it does not matter any more
     // An installer program is started from where it was unpacked, a bundle from the installed one's place.
     std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
-    CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
-                   {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
+    Engine::CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
+                           {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
     if (!Engine::SyncTree(descriptors.staging))
     {
         Engine::ThrowErrno(errno, UpdateFault::SyncFailed);

@@ -4,7 +4,7 @@
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
-#include "Installer/BundleInformation.h"
+#include "Engine/core/unpack/CheckBundle.h"
 
 #include <cerrno>
 #include <climits>
@@ -63,8 +63,8 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     try
     {
         std::string const name = realPath.substr(realPath.rfind('/') + 1);
-        std::string const executable = ReadBundleInformation(bundle.Get(), name).executable;
-        CheckExecutable(bundle.Get(), executable);
+        std::string const executable = Engine::ReadBundleInformation(bundle.Get(), name).executable;
+        Engine::CheckExecutable(bundle.Get(), executable);
         if (IsProgramSafe(bundle, executable))
         {
             return {realPath, realPath + '/' + executable};

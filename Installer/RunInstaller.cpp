@@ -3,7 +3,7 @@
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/UpdateFault.h"
-#include "Installer/BundleInformation.h"
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Installer/ChildProcess.h"
 
 #include <algorithm>
@@ -76,7 +76,7 @@ void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const
     {
         throw UpdateRefusal(UpdateFault::InstallerNotStarted, ENAMETOOLONG);
     }
-    std::string const executable = ReadBundleInformation(stagedFd, job.stagedName).executable;
+    std::string const executable = Engine::ReadBundleInformation(stagedFd, job.stagedName).executable;
     int error = 0;
     pid_t const process =
         StartProgram({folder + '/' + executable, targetPath}, {EnvironmentOf(job.environment)}, error);

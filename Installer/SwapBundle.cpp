@@ -2,7 +2,7 @@
 
 #include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/StagingFolder.h"
-#include "Installer/BundleInformation.h"
+#include "Engine/core/unpack/CheckBundle.h"
 
 #include <cerrno>
 
@@ -73,7 +73,7 @@ std::optional<std::string> VersionOf(int folderFd, std::string const& name)
     }
     try
     {
-        std::string version = ReadBundleInformation(bundle.Get(), name).version;
+        std::string version = Engine::ReadBundleInformation(bundle.Get(), name).version;
         return version.empty() ? std::nullopt : std::optional(std::move(version));
     }
     catch (UpdateRefusal const&)

@@ -228,6 +228,7 @@ FaultDescription DescriptionOf(UpdateFault fault)
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                               "The description of the application in the update is too large: tell the publisher.")};
     case UpdateFault::InformationMalformed:
+    case UpdateFault::ExecutableNameInvalid:
         return {
             ErrorCode::Validation,
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
@@ -461,6 +462,7 @@ bool IsArchiveToBlame(UpdateFault fault)
     case UpdateFault::InformationMissing:
     case UpdateFault::InformationTooLarge:
     case UpdateFault::InformationMalformed:
+    case UpdateFault::ExecutableNameInvalid:
     case UpdateFault::IdentifierDiffers:
     case UpdateFault::VersionDiffers:
     case UpdateFault::VersionNotNewer:

@@ -201,7 +201,7 @@ INSTANTIATE_TEST_SUITE_P(
         BundleRow{"ExecutableOutsideTheBundle",
                   ZipWith(INFORMATION, "{CFBundleIdentifier = org.pelnar.test; CFBundleVersion = 2.0; "
                                        "NSExecutable = ../run; SUPublicEDKey = x;}"),
-                  UpdateFault::InformationMalformed},
+                  UpdateFault::ExecutableNameInvalid},
         BundleRow{"NoExecutable", ZipWithout("run"), UpdateFault::ExecutableMissing},
         BundleRow{"ExecutableWithoutTheRight", ZipWith("run", "#!/bin/sh\n", 0644), UpdateFault::ExecutableNotRunnable},
         BundleRow{"ExecutableIsText", ZipWith("run", "hello", 0755), UpdateFault::ExecutableForeign},

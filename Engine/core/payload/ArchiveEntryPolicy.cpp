@@ -278,21 +278,31 @@ UpdateFault ArchiveEntryPolicy::AddNode(std::string_view path, Node node)
 
 UpdateFault ArchiveEntryPolicy::Finish() const
 {
-    if (UpdateFault const fault = CheckBundle(); fault != UpdateFault::None)
+    std::vector<EntryRefusal> const first = FindRefusals(1);
+    return first.empty() ? UpdateFault::None : first.front().fault;
+}
+
+std::vector<EntryRefusal> ArchiveEntryPolicy::FindRefusals(std::size_t most) const
+{
+    if (EntryRefusal const refusal = CheckBundle(); refusal.fault != UpdateFault::None)
     {
-        return fault;
+        return {refusal};
     }
+    std::vector<EntryRefusal> refusals;
     for (auto const& [path, node] : m_nodes)
     {
-        if (node.type == ArchiveEntryType::SymbolicLink)
+        if (node.type != ArchiveEntryType::SymbolicLink || refusals.size() == most)
         {
-            if (UpdateFault const fault = FollowLink(path, node); fault != UpdateFault::None)
-            {
-                return fault;
-            }
+            continue;
+        }
+        if (UpdateFault const fault = FollowLink(path, node); fault != UpdateFault::None)
+        {
+            refusals.push_back({fault, path});
         }
     }
-    return UpdateFault::None;
+    std::sort(refusals.begin(), refusals.end(),
+              [](EntryRefusal const& a, EntryRefusal const& b) { return a.path < b.path; });
+    return refusals;
 }
 
 std::string ArchiveEntryPolicy::BundleName() const
@@ -300,23 +310,24 @@ std::string ArchiveEntryPolicy::BundleName() const
     return m_topLevel.front();
 }
 
-UpdateFault ArchiveEntryPolicy::CheckBundle() const
+EntryRefusal ArchiveEntryPolicy::CheckBundle() const
 {
     auto const isBundleName = [](std::string const& name)
     {
         return name.size() > BUNDLE_SUFFIX.size() &&
                name.compare(name.size() - BUNDLE_SUFFIX.size(), std::string::npos, BUNDLE_SUFFIX) == 0;
     };
-    if (std::none_of(m_topLevel.begin(), m_topLevel.end(), isBundleName))
+    auto const bundle = std::find_if(m_topLevel.begin(), m_topLevel.end(), isBundleName);
+    if (bundle == m_topLevel.end())
     {
-        return UpdateFault::BundleMissing;
+        return {UpdateFault::BundleMissing, m_topLevel.empty() ? std::string() : m_topLevel.front()};
     }
     if (m_topLevel.size() != 1)
     {
-        return UpdateFault::BundleNotAlone;
+        return {UpdateFault::BundleNotAlone, bundle == m_topLevel.begin() ? m_topLevel[1] : m_topLevel.front()};
     }
-    bool const isFolder = m_nodes.at(m_topLevel.front()).type == ArchiveEntryType::Folder;
-    return isFolder ? UpdateFault::None : UpdateFault::BundleNotAFolder;
+    bool const isFolder = m_nodes.at(*bundle).type == ArchiveEntryType::Folder;
+    return isFolder ? EntryRefusal{} : EntryRefusal{UpdateFault::BundleNotAFolder, *bundle};
 }
 
 UpdateFault ArchiveEntryPolicy::FollowLink(std::string_view path, Node const& link) const

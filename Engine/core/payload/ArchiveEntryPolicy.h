@@ -59,6 +59,13 @@ struct EntryAdmission
     std::uint32_t mode = 0;                ///< 0755 or 0644
 };
 
+/// An entry that the rules refuse.
+struct EntryRefusal
+{
+    UpdateFault fault = UpdateFault::None;
+    std::string path; ///< as the archive names it, or normalised
+};
+
 class ArchiveEntryPolicy
 {
 public:
@@ -69,6 +76,8 @@ public:
     /// Judges the tree once every entry is admitted: all of it is one folder "Name.app", and each link leads to
     /// something inside that folder.
     [[nodiscard]] UpdateFault Finish() const;
+    /// What Finish() refuses, at most \a most of it, in the order of the names.
+    [[nodiscard]] std::vector<EntryRefusal> FindRefusals(std::size_t most) const;
     /// The bundle folder's name. REQUIRES: Finish() answered None.
     [[nodiscard]] std::string BundleName() const;
 
@@ -82,7 +91,7 @@ private:
 
     UpdateFault AddFolders(std::string_view path);
     UpdateFault AddNode(std::string_view path, Node node);
-    UpdateFault CheckBundle() const;
+    EntryRefusal CheckBundle() const;
     UpdateFault FollowLink(std::string_view path, Node const& link) const;
 
     ArchiveLimits m_limits;

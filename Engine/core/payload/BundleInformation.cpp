@@ -65,6 +65,7 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     information.displayVersion = list->TextOf("CFBundleShortVersionString").value_or("");
     information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
     information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
+    information.nextPublicKey = list->TextOf("PelnarNextPublicEDKey").value_or("");
     information.purpose = PurposeOf(*list);
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
     information.confirmsGoodStart = IsTrue(list->TextOf("PelnarConfirmsGoodStart"));
@@ -72,7 +73,7 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     std::string const& executable = information.executable;
     if (executable.empty() || executable == "." || executable == ".." || executable.find('/') != std::string::npos)
     {
-        throw UpdateRefusal(UpdateFault::InformationMalformed);
+        throw UpdateRefusal(UpdateFault::ExecutableNameInvalid, 0, executable);
     }
     return information;
 }

@@ -26,6 +26,7 @@ struct BundleInformation
     std::string displayVersion;       ///< empty when the bundle gives none
     std::string minimumSystemVersion; ///< empty when the bundle gives none
     std::string publicKey;            ///< empty when the bundle trusts no key
+    std::string nextPublicKey;        ///< a second key that is trusted as well; empty when there is none
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;
@@ -33,7 +34,8 @@ struct BundleInformation
 };
 
 /// Reads \a text, the whole information file; \a bundleName is the name of the bundle's folder, after which an
-/// executable without a name of its own is named. Throws UpdateRefusal: InformationTooLarge, InformationMalformed.
+/// executable without a name of its own is named. Throws UpdateRefusal: InformationTooLarge, InformationMalformed,
+/// ExecutableNameInvalid.
 BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName);
 
 } // namespace Pelnar::Engine

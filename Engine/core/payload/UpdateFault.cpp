@@ -2,13 +2,14 @@
 
 #include <cerrno>
 #include <string>
+#include <utility>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-constexpr UpdateFault LAST_FAULT = UpdateFault::RightsNotKept;
+constexpr UpdateFault LAST_FAULT = UpdateFault::ExecutableNameInvalid;
 
 std::string Describe(UpdateFault fault, int errorNumber)
 {
@@ -184,6 +185,8 @@ std::string_view FaultName(UpdateFault fault)
         return "NewVersionFailed";
     case UpdateFault::RightsNotKept:
         return "RightsNotKept";
+    case UpdateFault::ExecutableNameInvalid:
+        return "ExecutableNameInvalid";
     }
     return "Unknown fault";
 }
@@ -201,8 +204,11 @@ std::optional<UpdateFault> FaultFromName(std::string_view name)
     return std::nullopt;
 }
 
-UpdateRefusal::UpdateRefusal(UpdateFault fault, int errorNumber)
-    : std::runtime_error(Describe(fault, errorNumber)), m_fault(fault), m_errorNumber(errorNumber)
+UpdateRefusal::UpdateRefusal(UpdateFault fault, int errorNumber, std::string entry)
+    : std::runtime_error(Describe(fault, errorNumber))
+    , m_fault(fault)
+    , m_errorNumber(errorNumber)
+    , m_entry(std::move(entry))
 {
 }
 

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <stdexcept>
+#include <string>
 #include <string_view>
 
 namespace Pelnar::Engine
@@ -102,6 +103,7 @@ enum class UpdateFault
     InstallationInterrupted, ///< the installing helper ended without a word
     NewVersionFailed,        ///< it did not start well, and the previous one is back
     RightsNotKept,
+    ExecutableNameInvalid, ///< the bundle's information names a program that is no file of its folder
 };
 
 /// The fault's stable name: its enumerator's.
@@ -113,14 +115,17 @@ std::optional<UpdateFault> FaultFromName(std::string_view name);
 class UpdateRefusal : public std::runtime_error
 {
 public:
-    explicit UpdateRefusal(UpdateFault fault, int errorNumber = 0);
+    /// \a entry: the name in the archive that is refused; empty for what is no matter of one entry.
+    explicit UpdateRefusal(UpdateFault fault, int errorNumber = 0, std::string entry = {});
 
     UpdateFault Fault() const { return m_fault; }
     int ErrorNumber() const { return m_errorNumber; } ///< errno of the call that failed; 0 when none did
+    std::string const& Entry() const { return m_entry; }
 
 private:
     UpdateFault m_fault;
     int m_errorNumber;
+    std::string m_entry;
 };
 
 /// Throws the fault that \a errorNumber stands for: NoSpace, NotPermitted, or else \a otherwise.

@@ -307,8 +307,8 @@ UpdateFault CheckLocal(Bytes local, Entry const& entry)
     return isClear ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// Reads every central record of \a records into \a entries.
-UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& entries)
+/// Reads every central record of \a records into \a entries; \a refused: the name in a record that is refused.
+UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& entries, Bytes& refused)
 {
     if (count > records.size() / CENTRAL_BYTES)
     {
@@ -323,14 +323,16 @@ UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& 
     {
         if (UpdateFault const fault = ReadCentral(records, entry); fault != UpdateFault::None)
         {
+            refused = entry.name;
             return fault;
         }
     }
     return records.empty() ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// Checks that the local entries fill everything up to \a directoryOffset. \a entries: in the order of their data.
-UpdateFault CheckLocals(Bytes archive, std::uint64_t directoryOffset, std::vector<Entry> const& entries)
+/// Checks that the local entries fill everything up to \a directoryOffset. \a entries: in the order of their data;
+/// \a refused: the name of one that is refused.
+UpdateFault CheckLocals(Bytes archive, std::uint64_t directoryOffset, std::vector<Entry> const& entries, Bytes& refused)
 {
     std::uint64_t expected = 0;
     for (std::size_t i = 0; i < entries.size(); ++i)
@@ -343,6 +345,7 @@ UpdateFault CheckLocals(Bytes archive, std::uint64_t directoryOffset, std::vecto
         if (UpdateFault const fault = CheckLocal(archive.substr(expected, end - expected), entries[i]);
             fault != UpdateFault::None)
         {
+            refused = entries[i].name;
             return fault;
         }
         expected = end;
@@ -357,18 +360,22 @@ ZipContents ReadZipStructure(Bytes archive)
     ZipContents contents;
     Directory directory;
     std::vector<Entry> entries;
+    Bytes refused;
     contents.fault = ReadDirectory(archive, directory);
     if (contents.fault == UpdateFault::None)
     {
-        contents.fault = ReadEntries(archive.substr(directory.offset, directory.size), directory.count, entries);
+        contents.fault =
+            ReadEntries(archive.substr(directory.offset, directory.size), directory.count, entries, refused);
     }
     if (contents.fault != UpdateFault::None)
     {
+        contents.refusedName.assign(refused.begin(), refused.end());
         return contents;
     }
     std::sort(entries.begin(), entries.end(),
               [](Entry const& a, Entry const& b) { return a.localOffset < b.localOffset; });
-    contents.fault = CheckLocals(archive, directory.offset, entries);
+    contents.fault = CheckLocals(archive, directory.offset, entries, refused);
+    contents.refusedName.assign(refused.begin(), refused.end());
     if (contents.fault == UpdateFault::None)
     {
         for (Entry const& entry : entries)

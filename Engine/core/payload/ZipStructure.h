@@ -21,6 +21,7 @@ struct ZipContents
     UpdateFault fault = UpdateFault::None;
     /// Of the entries, as they stand in the archive, in the order of their data. Empty when there is a fault.
     std::vector<std::string> names;
+    std::string refusedName; ///< of the entry that the fault is about; empty when it is about none alone
 };
 
 [[nodiscard]] ZipContents ReadZipStructure(Bytes archive);

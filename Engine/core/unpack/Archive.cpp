@@ -134,7 +134,7 @@ std::vector<std::string> ReadZipNames(int descriptor)
     ZipContents contents = ReadZipStructure(mapping.Content());
     if (contents.fault != UpdateFault::None)
     {
-        throw UpdateRefusal(contents.fault);
+        throw UpdateRefusal(contents.fault, 0, contents.refusedName);
     }
     return std::move(contents.names);
 }

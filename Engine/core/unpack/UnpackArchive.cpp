@@ -18,11 +18,19 @@ namespace
 
 constexpr std::uint64_t LARGE_FILE_BYTES = 128 << 10;
 
-void RefuseUnlessNone(UpdateFault fault)
+void RefuseUnlessNone(UpdateFault fault, std::string const& entry)
 {
     if (fault != UpdateFault::None)
     {
-        throw UpdateRefusal(fault);
+        throw UpdateRefusal(fault, 0, entry);
+    }
+}
+
+void RefuseUnlessWhole(ArchiveEntryPolicy const& policy)
+{
+    for (EntryRefusal const& refusal : policy.FindRefusals(1))
+    {
+        throw UpdateRefusal(refusal.fault, 0, refusal.path);
     }
 }
 
@@ -44,10 +52,10 @@ std::uint64_t JudgeEntries(int archiveFd, ArchiveContainer const& container)
     std::uint64_t total = 0;
     while (auto const entry = archive.Next())
     {
-        RefuseUnlessNone(policy.Admit(*entry).fault);
+        RefuseUnlessNone(policy.Admit(*entry).fault, entry->path);
         total += entry->type == ArchiveEntryType::File ? entry->size : 0;
     }
-    RefuseUnlessNone(policy.Finish());
+    RefuseUnlessWhole(policy);
     return total;
 }
 
@@ -178,14 +186,36 @@ UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const&
     while (auto const entry = archive.Next())
     {
         EntryAdmission const admission = policy.Admit(*entry);
-        RefuseUnlessNone(admission.fault);
+        RefuseUnlessNone(admission.fault, entry->path);
         if (!admission.path.empty())
         {
             writer.Write(archive, *entry, admission.path, admission.mode);
         }
     }
-    RefuseUnlessNone(policy.Finish());
+    RefuseUnlessWhole(policy);
     return {policy.BundleName(), writer.Digest()};
+}
+
+std::vector<EntryRefusal> FindRefusedEntries(int archiveFd, std::size_t most)
+{
+    ArchiveContainer const container = InspectContainer(archiveFd);
+    ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
+    Archive archive(archiveFd, container);
+    std::vector<EntryRefusal> refusals;
+    while (auto const entry = archive.Next())
+    {
+        UpdateFault const fault = policy.Admit(*entry).fault;
+        if (fault != UpdateFault::None)
+        {
+            refusals.push_back({fault, entry->path});
+        }
+        if (refusals.size() == most)
+        {
+            return refusals;
+        }
+    }
+    // What lies below a refused folder, or a link to a refused entry, is only its consequence.
+    return refusals.empty() ? policy.FindRefusals(most) : refusals;
 }
 
 } // namespace Pelnar::Engine

@@ -5,10 +5,12 @@
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/payload/ArchiveEntryPolicy.h"
 
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -25,5 +27,10 @@ using UnpackProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t
 /// Unpacks the archive open at \a archiveFd into the empty folder open at \a stagingFd. Throws UpdateRefusal; the
 /// folder then holds what was made and is for the caller to remove.
 UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const& progress);
+
+/// What the first pass refuses of the archive open at \a archiveFd, at most \a most entries of it, where the pass
+/// itself ends at the first: for a publisher, who mends them all. Throws UpdateRefusal where the archive cannot be read
+/// on.
+std::vector<EntryRefusal> FindRefusedEntries(int archiveFd, std::size_t most);
 
 } // namespace Pelnar::Engine

@@ -1,4 +1,4 @@
-#include "Installer/BundleInformation.h"
+#include "Engine/core/unpack/CheckBundle.h"
 
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/payload/PropertyList.h"
@@ -19,13 +19,10 @@
 /// The running program's own header, as the linker placed it.
 extern "C" ElfW(Ehdr) const __ehdr_start __attribute__((visibility("hidden")));
 
-namespace Pelnar::Installer
+namespace Pelnar::Engine
 {
 namespace
 {
-
-using Engine::UpdateFault;
-using Engine::UpdateRefusal;
 
 /// The components of "1.20.3"; nothing for any other kind of text.
 std::optional<std::vector<std::string>> DottedNumbers(std::string const& text)
@@ -78,20 +75,20 @@ bool IsNotNewer(std::string const& version, std::string const& installedVersion)
 
 std::string ReadInformation(int bundleFd)
 {
-    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(Engine::INFORMATION_PATH);
+    UniqueFd const file = TreeAccess(bundleFd).OpenFile(INFORMATION_PATH);
     struct stat status;
     if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     {
         throw UpdateRefusal(UpdateFault::InformationMissing, file ? 0 : errno);
     }
-    std::string text(Engine::PROPERTY_LIST_MAX_BYTES + 1, '\0');
+    std::string text(PROPERTY_LIST_MAX_BYTES + 1, '\0');
     std::size_t size = 0;
     while (size < text.size())
     {
         ssize_t const count = ::read(file.Get(), text.data() + size, text.size() - size);
         if (count < 0 && errno != EINTR)
         {
-            Engine::ThrowErrno(errno);
+            ThrowErrno(errno);
         }
         if (count == 0)
         {
@@ -103,47 +100,113 @@ std::string ReadInformation(int bundleFd)
     return text;
 }
 
-Engine::BundlePurpose PurposeOf(Engine::PayloadKind kind)
+BundlePurpose PurposeOf(PayloadKind kind)
 {
     switch (kind)
     {
-    case Engine::PayloadKind::WholeBundle:
-    case Engine::PayloadKind::Delta:
-        return Engine::BundlePurpose::Application;
-    case Engine::PayloadKind::Installer:
-        return Engine::BundlePurpose::InstallerProgram;
+    case PayloadKind::WholeBundle:
+    case PayloadKind::Delta:
+        return BundlePurpose::Application;
+    case PayloadKind::Installer:
+        return BundlePurpose::InstallerProgram;
     }
-    return Engine::BundlePurpose::Unknown;
+    return BundlePurpose::Unknown;
 }
 
-bool IsRunnableHere(char const* bytes, std::size_t size)
+struct NamedMachine
+{
+    char const* name;
+    Machine machine;
+};
+
+constexpr NamedMachine MACHINES[] = {
+    {"x86_64", {ELFCLASS64, ELFDATA2LSB, EM_X86_64}}, {"aarch64", {ELFCLASS64, ELFDATA2LSB, EM_AARCH64}},
+    {"i386", {ELFCLASS32, ELFDATA2LSB, EM_386}},      {"armhf", {ELFCLASS32, ELFDATA2LSB, EM_ARM}},
+    {"riscv64", {ELFCLASS64, ELFDATA2LSB, EM_RISCV}}, {"ppc64le", {ELFCLASS64, ELFDATA2LSB, EM_PPC64}},
+    {"s390x", {ELFCLASS64, ELFDATA2MSB, EM_S390}},
+};
+
+bool IsSame(Machine const& a, Machine const& b)
+{
+    return a.wordClass == b.wordClass && a.byteOrder == b.byteOrder && a.architecture == b.architecture;
+}
+
+std::uint16_t Number16(char const* bytes, unsigned char byteOrder)
+{
+    auto const first = static_cast<unsigned char>(bytes[0]);
+    auto const second = static_cast<unsigned char>(bytes[1]);
+    return static_cast<std::uint16_t>(byteOrder == ELFDATA2MSB ? first << 8 | second : second << 8 | first);
+}
+
+bool IsRunnableOn(Machine const& machine, char const* bytes, std::size_t size)
 {
     if (size >= 2 && bytes[0] == '#' && bytes[1] == '!')
     {
         return true;
     }
-    ElfW(Ehdr) header;
-    if (size < sizeof header)
+    // Both classes begin alike: the marks, then two numbers of 16 bits, type and machine.
+    if (size < (machine.wordClass == ELFCLASS32 ? sizeof(Elf32_Ehdr) : sizeof(Elf64_Ehdr)) ||
+        std::memcmp(bytes, ELFMAG, SELFMAG) != 0)
     {
         return false;
     }
-    std::memcpy(&header, bytes, sizeof header);
-    return std::memcmp(header.e_ident, ELFMAG, SELFMAG) == 0 &&
-           header.e_ident[EI_CLASS] == __ehdr_start.e_ident[EI_CLASS] &&
-           header.e_ident[EI_DATA] == __ehdr_start.e_ident[EI_DATA] && header.e_machine == __ehdr_start.e_machine &&
-           (header.e_type == ET_EXEC || header.e_type == ET_DYN);
+    auto const wordClass = static_cast<unsigned char>(bytes[EI_CLASS]);
+    auto const byteOrder = static_cast<unsigned char>(bytes[EI_DATA]);
+    std::uint16_t const type = Number16(bytes + EI_NIDENT, byteOrder);
+    std::uint16_t const architecture = Number16(bytes + EI_NIDENT + 2, byteOrder);
+    return wordClass == machine.wordClass && byteOrder == machine.byteOrder && architecture == machine.architecture &&
+           (type == ET_EXEC || type == ET_DYN);
 }
 
 } // namespace
 
-Engine::BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName)
+Machine OwnMachine()
 {
-    return Engine::ParseBundleInformation(ReadInformation(bundleFd), bundleName);
+    return {__ehdr_start.e_ident[EI_CLASS], __ehdr_start.e_ident[EI_DATA], __ehdr_start.e_machine};
+}
+
+std::optional<Machine> MachineOfName(std::string_view name)
+{
+    for (NamedMachine const& each : MACHINES)
+    {
+        if (name == each.name)
+        {
+            return each.machine;
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> MachineNames()
+{
+    std::vector<std::string> names;
+    for (NamedMachine const& each : MACHINES)
+    {
+        names.emplace_back(each.name);
+    }
+    return names;
+}
+
+std::string NameOf(Machine const& machine)
+{
+    for (NamedMachine const& each : MACHINES)
+    {
+        if (IsSame(each.machine, machine))
+        {
+            return each.name;
+        }
+    }
+    return "another machine";
+}
+
+BundleInformation ReadBundleInformation(int bundleFd, std::string const& bundleName)
+{
+    return ParseBundleInformation(ReadInformation(bundleFd), bundleName);
 }
 
 void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectation const& expectation)
 {
-    Engine::BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
+    BundleInformation const information = ReadBundleInformation(bundleFd, bundleName);
     if (information.purpose != PurposeOf(expectation.kind))
     {
         throw UpdateRefusal(UpdateFault::PayloadKindDiffers);
@@ -160,16 +223,16 @@ void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectati
     {
         throw UpdateRefusal(UpdateFault::VersionNotNewer);
     }
-    if (information.publicKey.empty() && expectation.kind != Engine::PayloadKind::Installer)
+    if (information.publicKey.empty() && expectation.kind != PayloadKind::Installer)
     {
         throw UpdateRefusal(UpdateFault::BundleKeyMissing); // it could never be updated again
     }
-    CheckExecutable(bundleFd, information.executable);
+    CheckExecutable(bundleFd, information.executable, expectation.machine);
 }
 
-void CheckExecutable(int bundleFd, std::string const& executable)
+void CheckExecutable(int bundleFd, std::string const& executable, Machine const& machine)
 {
-    Engine::UniqueFd const file = Engine::TreeAccess(bundleFd).OpenFile(executable);
+    UniqueFd const file = TreeAccess(bundleFd).OpenFile(executable);
     struct stat status;
     if (!file || ::fstat(file.Get(), &status) != 0)
     {
@@ -179,16 +242,16 @@ void CheckExecutable(int bundleFd, std::string const& executable)
     {
         throw UpdateRefusal(UpdateFault::ExecutableNotRunnable);
     }
-    char bytes[sizeof(ElfW(Ehdr))];
-    ssize_t const count = Engine::ReadUpTo(file.Get(), 0, bytes, sizeof bytes);
+    char bytes[sizeof(Elf64_Ehdr)];
+    ssize_t const count = ReadUpTo(file.Get(), 0, bytes, sizeof bytes);
     if (count < 0)
     {
-        Engine::ThrowErrno(errno);
+        ThrowErrno(errno);
     }
-    if (!IsRunnableHere(bytes, static_cast<std::size_t>(count)))
+    if (!IsRunnableOn(machine, bytes, static_cast<std::size_t>(count)))
     {
         throw UpdateRefusal(UpdateFault::ExecutableForeign);
     }
 }
 
-} // namespace Pelnar::Installer
+} // namespace Pelnar::Engine

@@ -47,6 +47,14 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
         return;
     }
     Core::Version const version = VersionFromStringNoexcept(delta.item->versionString);
+    QString const& itemVersion = item.full.item->versionString;
+    Core::Version const whole = VersionFromStringNoexcept(itemVersion);
+    if (version.IsValid() && whole.IsValid() && !IsSameVersion(version, whole))
+    {
+        findings.Add(
+            LintRule::DeltaVersion, delta.Place(),
+            QStringLiteral("it makes version %1, and its item is of %2").arg(delta.item->versionString, itemVersion));
+    }
     if (version.IsValid() && !IsOlderVersion(from, version))
     {
         findings.Add(LintRule::DeltaFromNotOlder, delta.Place(),

@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 #include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QDateTime>
@@ -155,7 +156,11 @@ void CheckDate(LintItem const& item, LintFindings& findings)
 void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings& findings)
 {
     QUrl const& url = download.item->fileUrl;
-    if (url.isEmpty())
+    if (IsOfThisDisk(WrittenAddress(download)))
+    {
+        // A rule of its own says so.
+    }
+    else if (url.isEmpty())
     {
         CheckMissingAddress(download, feed, findings);
     }

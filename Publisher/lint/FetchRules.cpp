@@ -1,8 +1,10 @@
 #include "Publisher/lint/FetchRules.h"
 
-#include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/fetch/FeedFetcher.h"
 #include "Engine/core/payload/Ed25519Signature.h"
-#include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/files/BundleTree.h"
+#include "Publisher/gate/ReleaseFiles.h"
 
 #include <QEventLoop>
 #include <QFile>
@@ -71,32 +73,13 @@ private:
         else
         {
             CheckSignature(download, file.handle());
+            CheckVersion(download, OpenInputFile(path));
         }
     }
 
     void Fetch(LintDownload const& download)
     {
-        Engine::FeedItem const& item = *download.item;
-        Engine::DownloadRequest request;
-        request.url = item.fileUrl;
-        request.declaredBytes = item.contentLength;
-        request.signature = item.edSignature;
-        request.folder = m_folder.path();
-        // Deliberate: plain http has its own rule; here the question is what stands at the address, wherever that is.
-        request.feedReach = Engine::AddressReach::ThisComputer;
-        request.insecureHttp = Engine::InsecureHttp::Anywhere;
-        Engine::ArchiveDownload archive(request);
-        Progress progress(m_console.err, item.fileUrl.fileName());
-        Engine::DownloadOutcome outcome;
-        QEventLoop loop;
-        archive.Start([&](Engine::DownloadProgress const& now)
-                      { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); },
-                      [&](Engine::DownloadOutcome finished)
-                      {
-                          outcome = std::move(finished);
-                          loop.quit();
-                      });
-        loop.exec();
+        Engine::DownloadOutcome outcome = FetchDownload(*download.item, m_folder.path(), m_console);
         if (outcome.error)
         {
             ReportError(download, *outcome.error);
@@ -104,6 +87,8 @@ private:
         else
         {
             CheckSignature(download, outcome.archive.Get());
+            CheckVersion(download,
+                         {std::move(outcome.archive), download.item->fileUrl.fileName(), download.item->contentLength});
         }
     }
 
@@ -133,6 +118,28 @@ private:
         }
     }
 
+    /// Of a bundle. What cannot be unpacked is check-release's matter.
+    void CheckVersion(LintDownload const& download, InputFile const& archive)
+    {
+        if (download.item->isDelta)
+        {
+            return;
+        }
+        RefusalList passedOver;
+        passedOver.Try(
+            [&]
+            {
+                BundleTree const bundle = BundleTree::Unpack(archive, [](std::uint64_t, std::uint64_t) {});
+                QString const inside = QString::fromStdString(bundle.Information().version);
+                if (inside != download.item->versionString)
+                {
+                    Report(LintRule::ArchiveVersion, download,
+                           QStringLiteral("%1 holds version %2, the feed says %3")
+                               .arg(archive.name, Printable(inside), download.item->versionString));
+                }
+            });
+    }
+
     void Report(LintRule rule, LintDownload const& download, QString const& what)
     {
         m_findings.Add(rule, download.Place(), what);
@@ -145,6 +152,51 @@ private:
     std::set<QString> m_checked;
 };
 
+class NotesFetch
+{
+public:
+    explicit NotesFetch(LintFindings& findings) : m_findings(findings) {}
+
+    void Check(LintElement const& item, QUrl const& feed)
+    {
+        for (LintElement const& child : item.children)
+        {
+            bool const isLink = child.name.IsFeeds("releaseNotesLink") || child.name.IsFeeds("fullReleaseNotesLink");
+            QUrl const address = isLink ? feed.resolved(QUrl(child.text.trimmed())) : QUrl();
+            if (!address.isEmpty() && m_checked.insert(address.toString(QUrl::FullyEncoded)).second)
+            {
+                Fetch(child, address);
+            }
+        }
+    }
+
+private:
+    void Fetch(LintElement const& link, QUrl const& address)
+    {
+        // Deliberate: any address may be asked, and any page may come; whether one comes is the question.
+        Engine::FeedFetcher fetcher(Engine::FetchLimits(), Engine::InsecureHttp::Anywhere);
+        Engine::FetchOutcome outcome;
+        QEventLoop loop;
+        fetcher.Start(address,
+                      [&](Engine::FetchOutcome fetched)
+                      {
+                          outcome = std::move(fetched);
+                          loop.quit();
+                      });
+        loop.exec();
+        if (outcome.error)
+        {
+            QString sentence = outcome.error->sentence.English();
+            sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
+            m_findings.Add(LintRule::NotesUnreachable, link.place,
+                           QStringLiteral("%1: %2").arg(address.toString(QUrl::FullyEncoded), sentence));
+        }
+    }
+
+    LintFindings& m_findings;
+    std::set<QString> m_checked;
+};
+
 } // namespace
 
 std::vector<LintFinding> CheckArchives(LintSubject const& subject, std::vector<std::string> const& publicKeys,
@@ -152,6 +204,11 @@ std::vector<LintFinding> CheckArchives(LintSubject const& subject, std::vector<s
 {
     LintFindings findings;
     ArchiveCheck check(publicKeys, console, findings);
+    NotesFetch notes(findings);
+    for (LintElement const* item : subject.itemElements)
+    {
+        notes.Check(*item, subject.address);
+    }
     for (LintPlatform const& platform : subject.platforms)
     {
         for (LintItem const& item : platform.items)

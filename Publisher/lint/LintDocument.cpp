@@ -32,6 +32,11 @@ LintElement StartElement(Engine::FeedWalker const& walker, LintPlace place)
     element.place = place;
     element.parserLine = walker.Line();
     element.parserColumn = walker.Column();
+    QXmlStreamNamespaceDeclarations const declarations = reader.namespaceDeclarations();
+    for (QXmlStreamNamespaceDeclaration const& declaration : declarations)
+    {
+        element.namespaces.push_back({declaration.prefix().toString(), declaration.namespaceUri().toString()});
+    }
     QXmlStreamAttributes const attributes = reader.attributes();
     for (QXmlStreamAttribute const& attribute : attributes)
     {

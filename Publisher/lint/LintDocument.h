@@ -38,6 +38,12 @@ struct LintAttribute
     QString value;
 };
 
+struct LintNamespace
+{
+    QString prefix;
+    QString uri;
+};
+
 struct LintElement
 {
     LintName name;
@@ -45,7 +51,8 @@ struct LintElement
     int parserLine = 0;
     int parserColumn = 0; ///< where the parser sees the element: at the end of its tag
     std::vector<LintAttribute> attributes;
-    QString text; ///< directly inside
+    std::vector<LintNamespace> namespaces; ///< declared here
+    QString text;                          ///< directly inside
     std::vector<LintElement> children;
 
     /// The attribute's value; nothing when it is absent.

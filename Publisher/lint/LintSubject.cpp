@@ -1,6 +1,7 @@
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>
+#include <set>
 #include <tuple>
 
 namespace Pelnar::Publisher
@@ -106,6 +107,7 @@ LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, Feed
 void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform platform)
 {
     LintPlatform& added = subject.platforms.emplace_back();
+    added.system = platform;
     added.parsed = Engine::ParseFeed(bytes, subject.address, platform).items;
     auto element = subject.itemElements.begin();
     for (Engine::FeedItem const& item : added.parsed)
@@ -120,6 +122,51 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform pla
         }
         added.items.push_back(LinkItem(item, **element, platform));
     }
+}
+
+/// A prefix that is meant for the feed's own namespace and bound to another.
+bool IsWrong(LintNamespace const& declared)
+{
+    bool const isAlmost = declared.uri.contains(QLatin1String("xml-namespaces/sparkle"), Qt::CaseInsensitive);
+    return !IsFeedNamespaceUri(declared.uri) && !declared.uri.isEmpty() &&
+           (isAlmost || declared.prefix == QLatin1String("sparkle"));
+}
+
+void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, LintFindings& findings)
+{
+    for (LintNamespace const& declared : element.namespaces)
+    {
+        if (IsWrong(declared) && uris.insert(declared.uri).second)
+        {
+            findings.Add(LintRule::WrongNamespace, element.place,
+                         QStringLiteral("the prefix %1 is bound to \"%2\"").arg(declared.prefix, declared.uri));
+        }
+    }
+    for (LintElement const& child : element.children)
+    {
+        FindWrongNamespaces(child, uris, findings);
+    }
+}
+
+/// \a bytes as they are meant: what follows from a wrong declaration is not told, only the declaration. A feed of
+/// another encoding than UTF-8 stays as it is.
+QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
+{
+    if (!Engine::ParseFeed(bytes, QUrl(), FeedPlatform::Linux).HasSucceeded())
+    {
+        return bytes;
+    }
+    std::set<QString> uris;
+    FindWrongNamespaces(ReadLintDocument(bytes), uris, findings);
+    QByteArray const right = "http://www.andymatuschak.org/xml-namespaces/sparkle";
+    for (QString const& uri : uris)
+    {
+        for (char const quote : {'"', '\''})
+        {
+            bytes.replace(quote + uri.toHtmlEscaped().toUtf8() + quote, quote + right + quote);
+        }
+    }
+    return bytes;
 }
 
 } // namespace
@@ -156,8 +203,10 @@ QString NameOf(Engine::FeedItem const& item)
     return item.title.isEmpty() ? QStringLiteral("an item") : QStringLiteral("item \"%1\"").arg(item.title);
 }
 
-LintResult LintFeed(QByteArray const& bytes, QUrl const& address)
+LintResult LintFeed(QByteArray const& written, QUrl const& address)
 {
+    LintFindings findings;
+    QByteArray const bytes = WithRightNamespace(written, findings);
     Engine::FeedParseResult const parsed = Engine::ParseFeed(bytes, address, FeedPlatform::MacOS);
     if (!parsed.HasSucceeded())
     {
@@ -169,15 +218,14 @@ LintResult LintFeed(QByteArray const& bytes, QUrl const& address)
     subject->itemElements = ItemElements(subject->root);
     AddPlatform(*subject, bytes, FeedPlatform::MacOS);
     AddPlatform(*subject, bytes, FeedPlatform::Linux);
-    LintFindings findings;
     if (subject->itemElements.empty())
     {
         LintPlace const place =
             subject->root.children.empty() ? subject->root.place : subject->root.children.front().place;
         findings.Add(LintRule::NoItems, place, QStringLiteral("the feed has no item"));
     }
-    for (auto* const check : {CheckNames, CheckTexts, CheckVersions, CheckSystems, CheckDownloads, CheckDeltas,
-                              CheckExtensions, CheckNotes})
+    for (auto* const check : {CheckNames, CheckTexts, CheckVersions, CheckSystems, CheckDownloads, CheckAddresses,
+                              CheckOffers, CheckDeltas, CheckExtensions, CheckNotes})
     {
         check(*subject, findings);
     }

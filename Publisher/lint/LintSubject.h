@@ -57,6 +57,7 @@ struct LintItem
 /// The feed as one platform's clients see it.
 struct LintPlatform
 {
+    Engine::FeedPlatform system = Engine::FeedPlatform::Linux;
     std::vector<Engine::FeedItem> parsed;
     std::vector<LintItem> items; ///< in the order of the feed
 };
@@ -82,6 +83,8 @@ void CheckTexts(LintSubject const& subject, LintFindings& findings);
 void CheckVersions(LintSubject const& subject, LintFindings& findings);
 void CheckSystems(LintSubject const& subject, LintFindings& findings);
 void CheckDownloads(LintSubject const& subject, LintFindings& findings);
+void CheckAddresses(LintSubject const& subject, LintFindings& findings);
+void CheckOffers(LintSubject const& subject, LintFindings& findings);
 void CheckDeltas(LintSubject const& subject, LintFindings& findings);
 void CheckExtensions(LintSubject const& subject, LintFindings& findings);
 void CheckNotes(LintSubject const& subject, LintFindings& findings);

@@ -2,6 +2,7 @@
 
 #include "Engine/core/SafeText.h"
 #include "Publisher/lint/LintSubject.h"
+#include "Publisher/lint/LintVocabulary.h"
 
 #include <map>
 #include <set>
@@ -49,12 +50,6 @@ bool IsOneOf(QString const& name, char const* const (&known)[N])
     return false;
 }
 
-bool IsAlmostTheFeeds(QString const& uri)
-{
-    return !uri.isEmpty() && !IsFeedNamespaceUri(uri) &&
-           uri.contains(QLatin1String("xml-namespaces/sparkle"), Qt::CaseInsensitive);
-}
-
 class NameCheck
 {
 public:
@@ -62,11 +57,9 @@ public:
 
     void Visit(LintElement const& element, bool isInItem)
     {
-        CheckNamespace(element.name, element.place);
         CheckElementName(element, isInItem);
         for (LintAttribute const& attribute : element.attributes)
         {
-            CheckNamespace(attribute.name, element.place);
             if (element.name.IsPlain("enclosure"))
             {
                 CheckAttributeName(attribute.name, element.place);
@@ -88,19 +81,6 @@ public:
     }
 
 private:
-    void CheckNamespace(LintName const& name, LintPlace place)
-    {
-        bool const hasUsualPrefix = name.qualified.startsWith(QLatin1String("sparkle:"));
-        if (IsAlmostTheFeeds(name.namespaceUri) || (hasUsualPrefix && !IsFeedNamespaceUri(name.namespaceUri)))
-        {
-            if (m_reportedNamespaces.insert(name.namespaceUri).second)
-            {
-                m_findings.Add(LintRule::WrongNamespace, place,
-                               QStringLiteral("%1 is in the namespace \"%2\"").arg(name.qualified, name.namespaceUri));
-            }
-        }
-    }
-
     void CheckElementName(LintElement const& element, bool isInItem)
     {
         QString const& local = element.name.local;
@@ -111,6 +91,10 @@ private:
         if (other)
         {
             ReportCase(element.name, other, element.place);
+        }
+        else if (isFeeds)
+        {
+            ReportMeant(element.name, element.place);
         }
         else if (isInItem && element.name.namespaceUri.isEmpty() && IsOneOf(local, FEED_ELEMENTS))
         {
@@ -129,10 +113,23 @@ private:
         {
             ReportCase(name, other, place);
         }
+        else if (isFeeds)
+        {
+            ReportMeant(name, place);
+        }
         else if (name.namespaceUri.isEmpty() && IsOneOf(name.local, FEED_ATTRIBUTES))
         {
             m_findings.Add(LintRule::NameWithoutNamespace, place,
                            QStringLiteral("the attribute %1 is not in the feed's namespace").arg(name.qualified));
+        }
+    }
+
+    void ReportMeant(LintName const& name, LintPlace place)
+    {
+        if (std::optional<QString> const meant = MeantName(name.local))
+        {
+            m_findings.Add(LintRule::NameMisspelt, place,
+                           QStringLiteral("%1 is not read; %2 may be meant").arg(name.qualified, *meant));
         }
     }
 
@@ -166,7 +163,6 @@ private:
     }
 
     LintFindings& m_findings;
-    std::set<QString> m_reportedNamespaces; ///< each once: one declaration has many uses
 };
 
 void CheckText(QString const& text, QString const& name, LintPlace place, LintFindings& findings)

@@ -5,6 +5,7 @@
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>
+#include <set>
 
 namespace Pelnar::Publisher
 {
@@ -63,10 +64,10 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
     }
 }
 
-void CheckLink(LintItem const& item, QUrl const& feed, LintFindings& findings)
+void CheckLink(LintItem const& item, LintFindings& findings)
 {
     QUrl const& url = item.full.item->releaseNotesUrl;
-    bool const isLocal = url.scheme() == feed.scheme() && url.isLocalFile();
+    bool const isLocal = url.isLocalFile(); // of a feed that is read before it is published, or another rule's matter
     if (!url.isEmpty() && url.scheme() != QLatin1String("https") && !isLocal && !Engine::IsLoopback(url))
     {
         findings.Add(LintRule::NotesInsecure,
@@ -75,16 +76,46 @@ void CheckLink(LintItem const& item, QUrl const& feed, LintFindings& findings)
     }
 }
 
+/// Clients take the first of two for one language.
+void CheckLanguages(LintElement const& item, LintFindings& findings)
+{
+    std::set<QString> met;
+    for (LintElement const& child : item.children)
+    {
+        if (!child.name.IsPlain("description") && !child.name.IsFeeds("releaseNotesLink"))
+        {
+            continue;
+        }
+        QString language;
+        for (LintAttribute const& attribute : child.attributes)
+        {
+            language = attribute.name.qualified == QLatin1String("xml:lang") ? attribute.value.trimmed() : language;
+        }
+        if (!met.insert(child.name.local + QLatin1Char(' ') + language.toLower()).second)
+        {
+            findings.Add(
+                LintRule::NotesRepeated, child.place,
+                language.isEmpty()
+                    ? QStringLiteral("another <%1> without a language").arg(child.name.qualified)
+                    : QStringLiteral("another <%1> of the language \"%2\"").arg(child.name.qualified, language));
+        }
+    }
+}
+
 } // namespace
 
 void CheckNotes(LintSubject const& subject, LintFindings& findings)
 {
+    for (LintElement const* item : subject.itemElements)
+    {
+        CheckLanguages(*item, findings);
+    }
     for (LintPlatform const& platform : subject.platforms)
     {
         for (LintItem const& item : platform.items)
         {
             CheckDescription(item, findings);
-            CheckLink(item, subject.address, findings);
+            CheckLink(item, findings);
         }
     }
 }

@@ -13,6 +13,9 @@ namespace
 
 using Engine::SignedFeedFault;
 
+/// A feed that is signed every week has more of its time left.
+constexpr int DAYS_LEFT = 7;
+
 QString TextOf(SignedFeedFault fault)
 {
     switch (fault)
@@ -94,6 +97,11 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
     {
         findings.Add(LintRule::FeedExpired, PlaceOf(subject, "expires"),
                      QStringLiteral("the feed expired at %1").arg(terms.expires.toString(Qt::ISODate)));
+    }
+    else if (terms.expires < now.addDays(DAYS_LEFT))
+    {
+        findings.Add(LintRule::FeedExpiresSoon, PlaceOf(subject, "expires"),
+                     QStringLiteral("the feed expires at %1").arg(terms.expires.toString(Qt::ISODate)));
     }
 }
 

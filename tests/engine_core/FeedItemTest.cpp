@@ -44,6 +44,17 @@ std::string At(QVariantMap const& map, char const* name)
 
 } // namespace
 
+TEST(FeedItem, TellsWhoSignedItAndWhomItTrusts)
+{
+    char const* const open = "<p:keys xmlns:p='https://pelnar.example/xml-namespaces/appcast' signer=' a1 ' ";
+    FeedItem const item = OnlyItem((QByteArray(open) + "trusted='a1  b2'/><keys signer='x'/>").constData());
+    EXPECT_EQ(Text(item.signerKey), "a1");
+    EXPECT_EQ(Text(item.trustedKeys.join(QLatin1Char(','))), "a1,b2");
+    FeedItem const other = OnlyItem("<keys signer='x' trusted='y'/><k:keys xmlns:k='urn:k' signer='z'/>");
+    EXPECT_TRUE(other.signerKey.isEmpty());
+    EXPECT_TRUE(other.trustedKeys.isEmpty());
+}
+
 TEST(FeedItem, TakesEveryPropertyOfAFullItem)
 {
     FeedItem const item = OnlyItem(FULL_ITEM);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <QVariantMap>
 
@@ -40,6 +41,8 @@ struct FeedItem
     QString versionString;
     QString displayVersionString; ///< empty when the feed gives none
     QString edSignature;
+    QString signerKey;        ///< id of the key that signed the downloads; empty when the feed does not say
+    QStringList trustedKeys;  ///< ids of the keys that this version's bundle trusts; empty when the feed does not say
     QString installationType; ///< empty when the feed says nothing
     QString deltaFrom;        ///< the version text that this delta starts from; deltas only
     bool isDelta = false;

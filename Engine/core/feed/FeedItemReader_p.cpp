@@ -274,6 +274,21 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     return std::move(element.value);
 }
 
+/// An element of this system's own: docs/formats/item-keys.md. Of several the first counts.
+QVariant ReadOwnChild(FeedWalker& walker, FeedItem& item)
+{
+    if (IsNamed(walker.Reader().name(), QLatin1String("keys")) && item.signerKey.isEmpty() &&
+        item.trustedKeys.isEmpty())
+    {
+        QXmlStreamAttributes const attributes = walker.Reader().attributes();
+        item.signerKey = CleanFeedText(attributes.value(QLatin1String("signer")).toString(), FeedTextKind::SingleLine);
+        item.trustedKeys =
+            CleanFeedText(attributes.value(QLatin1String("trusted")).toString(), FeedTextKind::SingleLine)
+                .split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    }
+    return ReadFeedElement(walker, FeedTextKind::SingleLine).value;
+}
+
 QVariant ReadDescription(FeedWalker& walker, FeedItemContext const& context, LocalizedText& description)
 {
     int const rank = LanguageRank(walker, context.languages);
@@ -344,6 +359,8 @@ FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemC
     delta.releaseNotesUrl = parent.releaseNotesUrl;
     delta.infoUrl = parent.infoUrl;
     delta.isCritical = parent.isCritical;
+    delta.signerKey = parent.signerKey;
+    delta.trustedKeys = parent.trustedKeys;
     delta.versionString = enclosure.version.isNull() ? parent.versionString : enclosure.version;
     delta.displayVersionString =
         enclosure.displayVersion.isNull() ? parent.displayVersionString : enclosure.displayVersion;
@@ -404,9 +421,10 @@ std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& 
     {
         QXmlStreamReader const& reader = walker.Reader();
         QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
-        QVariant value = reader.namespaceUri().isEmpty() ? ReadPlainChild(walker, context, draft)
-                         : IsFeedNamespace(reader.namespaceUri())
-                             ? ReadFeedChild(walker, context, draft)
+        QVariant value = reader.namespaceUri().isEmpty()          ? ReadPlainChild(walker, context, draft)
+                         : IsFeedNamespace(reader.namespaceUri()) ? ReadFeedChild(walker, context, draft)
+                         : reader.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE)
+                             ? ReadOwnChild(walker, draft.item)
                              : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
         AddFeedProperty(draft.item.properties, name, std::move(value));
     }

@@ -1,6 +1,6 @@
 // LintFetchTest.cpp: what the server has, beside what the feed says: size, reachability, signature.
 
-#include "tests/publisher/support/AppcastTool.h"
+#include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/LoopbackServer.h"
 
 #include <gtest/gtest.h>
@@ -56,6 +56,7 @@ protected:
     ToolRun Lint(QByteArray const& feed)
     {
         return RunTool({QStringLiteral("lint"), QStringLiteral("-"), QStringLiteral("--fetch"),
+                        QStringLiteral("--published-at"), QStringLiteral("http://127.0.0.1/appcast.xml"),
                         QStringLiteral("--public-key"), m_key.PublicKey()},
                        feed);
     }
@@ -100,6 +101,32 @@ TEST_F(LintFetch, TheSignatureOfOtherBytesIsAFinding)
     ToolRun const run = Lint(Feed(server.Url().toEncoded(), ARCHIVE.size(), m_key.Sign("other bytes")));
     EXPECT_EQ(run.out.find("<stdin>:2:7: error: archive-signature: "), 0u) << run.out;
     EXPECT_EQ(run.status, 1);
+}
+
+TEST_F(LintFetch, NotesThatAreGoneAreAFinding)
+{
+    LoopbackServer gone(Answering("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"));
+    LoopbackServer there(Answering(OkAnswer("<html>notes</html>")));
+    LoopbackServer server(Answering(OkAnswer(ARCHIVE)));
+    QByteArray const feed = Feed(server.Url().toEncoded(), ARCHIVE.size(), m_key.Sign(ARCHIVE));
+    auto const withNotes = [&](QUrl const& address)
+    {
+        return QByteArray(feed).replace("<item>", "<item><sparkle:releaseNotesLink>" + address.toEncoded() +
+                                                      "</sparkle:releaseNotesLink>");
+    };
+    EXPECT_NE(Lint(withNotes(gone.Url())).out.find("notes-unreachable: http://127.0.0.1:"), std::string::npos);
+    EXPECT_EQ(Lint(withNotes(there.Url())).out.find("notes-unreachable"), std::string::npos);
+}
+
+TEST_F(LintFetch, AnotherVersionInsideIsAFinding)
+{
+    BundleText text;
+    text.version = "5.0";
+    QByteArray const archive = QByteArray::fromStdString(MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    LoopbackServer server(Answering(OkAnswer(archive)));
+    ToolRun const run = Lint(Feed(server.Url().toEncoded(), archive.size(), m_key.Sign(archive)));
+    EXPECT_NE(run.out.find("archive-version: "), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("holds version 5.0, the feed says 5.1"), std::string::npos) << run.out;
 }
 
 TEST_F(LintFetch, AFeedBesideItsFilesIsCheckedBeforeItIsPublished)

@@ -49,6 +49,19 @@ QByteArray WithDeltas(QByteArray const& deltas)
     return "<item>" + Enclosure("5.1") + "\n<sparkle:deltas>" + deltas + "</sparkle:deltas></item>\n" + Item("5.0");
 }
 
+QByteArray Os(QByteArray const& name, QByteArray const& system)
+{
+    return "<item><enclosure url='https://dl.example.com/" + name + "'" + Good("5.1") + " sparkle:os='" + system +
+           "'/></item>";
+}
+
+/// An item of that version with the keys of signer and trust.
+QByteArray Keyed(QByteArray const& version, QByteArray const& signer, QByteArray const& trusted)
+{
+    return Item(version, "<pelnar:keys xmlns:pelnar='https://pelnar.example/xml-namespaces/appcast' signer='" + signer +
+                             "' trusted='" + trusted + "'/>");
+}
+
 QByteArray Nested(char const* tag, int depth)
 {
     QByteArray text;
@@ -113,10 +126,10 @@ void AddDocumentCases(std::vector<LintCase>& cases)
 void AddNameCases(std::vector<LintCase>& cases)
 {
     cases.push_back({"WrongNamespacePrefix", FeedOf(Item("5.1", "\n<sparkle:x xmlns:sparkle='urn:other'/>")),
-                     "wrong-namespace 3:1 sparkle:x is in the namespace \"urn:other\""});
+                     "wrong-namespace 3:1 the prefix sparkle is bound to \"urn:other\""});
     cases.push_back({"WrongNamespaceUri",
                      FeedOf(Item("5.1", "\n<s:x xmlns:s='https://www.andymatuschak.org/xml-namespaces/sparkle/'/>")),
-                     "wrong-namespace 3:1 s:x is in the namespace "
+                     "wrong-namespace 3:1 the prefix s is bound to "
                      "\"https://www.andymatuschak.org/xml-namespaces/sparkle/\""});
     cases.push_back({"AnyPrefixOfTheRealNamespacePasses",
                      FeedOf(Item("5.1", "<s:tags xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'/>")),
@@ -128,6 +141,18 @@ void AddNameCases(std::vector<LintCase>& cases)
                      "name-case 3:1 pubdate is not read, pubDate is"});
     cases.push_back({"NameCaseOfAttribute", FeedOf("<item>" + Enclosure("5.1", " sparkle:OS='linux'") + "</item>"),
                      "name-case 2:7 sparkle:OS is not read, os is"});
+    cases.push_back({"NameMisspeltElement",
+                     FeedOf(Item("5.1", "\n<sparkle:minimumSystemVerison>1</sparkle:minimumSystemVerison>")),
+                     "name-misspelt 3:1 sparkle:minimumSystemVerison is not read; minimumSystemVersion may be meant"});
+    cases.push_back({"NameMisspeltAttribute",
+                     FeedOf("<item>" + Enclosure("5.1", " sparkle:edSignatur='x'") + "</item>"),
+                     "name-misspelt 2:7 sparkle:edSignatur is not read; edSignature may be meant"});
+    cases.push_back({"UnknownNamePasses", FeedOf(Item("5.1", "<sparkle:whatever/>")), ""});
+    cases.push_back(
+        {"WrongNamespaceWithoutItsConsequences",
+         QByteArray(FeedOf(Item("5.1") + Item("5.0"))).replace("http://www.andymatuschak.org", "https://x.example"),
+         "wrong-namespace 1:1 the prefix sparkle is bound to "
+         "\"https://x.example/xml-namespaces/sparkle\""});
     cases.push_back({"ElementWithoutNamespace", FeedOf(Item("5.1", "\n<minimumSystemVersion>1</minimumSystemVersion>")),
                      "name-without-namespace 3:1 <minimumSystemVersion> is not in the feed's namespace"});
     cases.push_back({"AttributeWithoutNamespace", FeedOf("<item>" + Enclosure("5.1", " os='linux'") + "</item>"),
@@ -198,9 +223,79 @@ void AddVersionCases(std::vector<LintCase>& cases)
                          row.isShared ? "same-priority 3:" : ""});
     }
     cases.push_back({"AnInstallerBesideABundlePasses",
-                     FeedOf(Item("6.1") + "<item><enclosure url='https://a.example/a.sparkle_guided.pkg'" +
+                     FeedOf(Item("6.1") + "<item><enclosure url='https://a.example/a.sparkle_guided.zip'" +
                             Good("6.1") + "/></item>"),
                      ""});
+}
+
+void AddOfferCases(std::vector<LintCase>& cases)
+{
+    for (char const* const name : {"App.dmg", "App.PKG", "App.exe", "App.msi"})
+    {
+        cases.push_back({std::string("ForeignPackage") + QByteArray(name).replace('.', "").toStdString(),
+                         FeedOf(WithAddress("https://dl.example.com/" + QByteArray(name))),
+                         std::string("foreign-package 2:7 ") + name});
+    }
+    cases.push_back({"PackageForItsSystemPasses", FeedOf(Os("App.dmg", "macos") + Os("App.exe", "windows")), ""});
+    cases.push_back({"PolicyIgnored", FeedOf(Item("5.1", "\n<sparkle:channel>beta</sparkle:channel>")),
+                     "policy-ignored 3:1 <sparkle:channel> is \"beta\""});
+    cases.push_back({"PolicyOfHardware",
+                     FeedOf(Item("5.1", "\n<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>")),
+                     "policy-ignored 3:1 <sparkle:hardwareRequirements> is \"arm64\""});
+    cases.push_back(
+        {"KeyNotTrusted", FeedOf(Keyed("5.1", "bb", "bb") + Keyed("5.0", "aa", "aa")), "key-not-trusted 2:"});
+    cases.push_back(
+        {"KeyThatTheOlderTrustsPasses", FeedOf(Keyed("5.1", "bb", "bb") + Keyed("5.0", "aa", "aa bb")), ""});
+    cases.push_back({"KeyOfAnOlderItemPasses", FeedOf(Keyed("5.1", "aa", "bb") + Keyed("5.0", "aa", "aa")), ""});
+    cases.push_back({"DateOrder",
+                     FeedOf(Item("5.2", "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>") +
+                            Item("5.1", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>")),
+                     "date-order 2:1 5.2 is of 2019-01-07T10:00:00Z, and the older 5.1 of 2019-01-08T10:00:00Z"});
+    cases.push_back({"DatesInTheOrderOfVersionsPass",
+                     FeedOf(Item("5.2", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>") +
+                            Item("5.1", "<pubDate>Tue, 08 Jan 2019 12:00:00 +0200</pubDate>")),
+                     ""});
+}
+
+void AddAddressCases(std::vector<LintCase>& cases)
+{
+    struct Row
+    {
+        char const* name;
+        char const* address;
+        char const* finding;
+    };
+    Row const rows[] = {
+        {"LocalAddressOfAHome", "/home/me/a.zip", "local-address 2:7 /home/me/a.zip"},
+        {"LocalAddressOfAMac", "/Users/me/a.zip", "local-address 2:7 /Users/me/a.zip"},
+        {"LocalAddressOfWindows", "C:\\a.zip", "local-address 2:7 C:\\a.zip"},
+        {"LocalAddressInCapitals", "FILE:///a.zip", "local-address 2:7 FILE:///a.zip"},
+        {"NearAddressOfLoopback", "https://localhost:8000/a.zip", "near-address 2:7 https://localhost:8000/a.zip"},
+        {"NearAddressOfAPrivateNetwork", "https://192.168.1.7/a.zip", "near-address 2:7 "},
+        {"NearAddressOfAPrivateNetworkOfIPv6", "https://[fd00::1]/a.zip", "near-address 2:7 "},
+        {"NearAddressOfAnIntranet", "https://build/a.zip", "near-address 2:7 "},
+        {"NearAddressByItsEnding", "https://nas.local/a.zip", "near-address 2:7 "},
+        {"PublicAddressInDigitsPasses", "https://9.9.9.9/a.zip", ""},
+        {"WebPageDownload", "https://a.example/download.html", "web-page-download 2:7 "},
+        {"WebPageOfAFolder", "https://a.example/download/", "web-page-download 2:7 "},
+        {"DownloadWithoutAnEndingPasses", "https://a.example/download", ""},
+    };
+    for (Row const& row : rows)
+    {
+        cases.push_back({row.name, FeedOf(WithAddress(row.address)), row.finding});
+    }
+    cases.push_back({"LocalAddressInNotes",
+                     FeedOf(Item("5.1", "\n<description>&lt;img src='file:///home/me/a.png'></description>")),
+                     "local-address 3:1 file:///home/me/a.png"});
+    cases.push_back({"LocalAddressOfNotes",
+                     FeedOf(Item("5.1", "\n<sparkle:releaseNotesLink>/tmp/a.html</sparkle:releaseNotesLink>")),
+                     "local-address 3:1 /tmp/a.html"});
+    cases.push_back(
+        {"WordsAboutFilesPass", FeedOf(Item("5.1", "\n<description>Opens file: addresses</description>")), ""});
+    cases.push_back({"SharedAddress",
+                     FeedOf("<item><enclosure url='https://a.example/a.zip'" + Good("5.2") +
+                            "/></item>\n<item><enclosure url='https://a.example/a.zip'" + Good("5.1") + "/></item>"),
+                     "shared-address 3:7 https://a.example/a.zip is the address of item 5.2 in line 2 as well"});
 }
 
 void AddSystemCases(std::vector<LintCase>& cases)
@@ -230,7 +325,7 @@ void AddDownloadCases(std::vector<LintCase>& cases)
     cases.push_back(
         {"AddressScheme", FeedOf(WithAddress("javascript:alert(1)")), "address-scheme 2:7 javascript:alert(1)"});
     cases.push_back(
-        {"AddressOfFile", FeedOf(WithAddress("file:///etc/passwd")), "address-scheme 2:7 file:///etc/passwd"});
+        {"AddressOfFile", FeedOf(WithAddress("file:///etc/passwd")), "local-address 2:7 file:///etc/passwd"});
     cases.push_back({"AddressInsecure", FeedOf(WithAddress("http://a.example/a.zip")),
                      "address-insecure 2:7 http://a.example/a.zip"});
     cases.push_back({"AddressHost", FeedOf(WithAddress("https:/a.zip")), "address-host 2:7 https:/a.zip"});
@@ -255,8 +350,8 @@ void AddDownloadCases(std::vector<LintCase>& cases)
     cases.push_back({"DateUnusual", FeedOf(Item("5.1", "<pubDate>2019-01-07</pubDate>")),
                      "date-unusual 2:7 the date is \"2019-01-07\""});
     cases.push_back({"UsualDatesPass", FeedOf(Item("5.1", "<pubDate>Mon, 07 Jan 2019 10:00:00 GMT</pubDate>")), ""});
-    cases.push_back({"MarkerCase", FeedOf(WithAddress("https://a.example/a.Sparkle_Guided.pkg")),
-                     "marker-case 2:7 a.Sparkle_Guided.pkg"});
+    cases.push_back({"MarkerCase", FeedOf(WithAddress("https://a.example/a.Sparkle_Guided.zip")),
+                     "marker-case 2:7 a.Sparkle_Guided.zip"});
     cases.push_back({"SignatureMissing",
                      FeedOf("<item><enclosure url='https://a.example/a' length='1' sparkle:version='5.1'/></item>"),
                      "signature-missing 2:7 item 5.1 has no sparkle:edSignature"});
@@ -277,6 +372,9 @@ void AddDeltaCases(std::vector<LintCase>& cases)
                      "delta-from-repeated 4:1 it starts from 5.0.0, as the delta in line 3 does"});
     cases.push_back({"DeltaFromNotOlder", FeedOf(WithDeltas(Delta("5.1.0"))),
                      "delta-from-not-older 3:17 it leads from 5.1.0 to 5.1"});
+    cases.push_back({"DeltaVersion",
+                     FeedOf(WithDeltas(QByteArray(Delta("5.0")).replace("/>", " sparkle:version='5.0.5'/>"))),
+                     "delta-version 3:17 it makes version 5.0.5, and its item is of 5.1"});
     cases.push_back(
         {"DeltaBaseMissing", FeedOf(WithDeltas(Delta("4.9"))), "delta-base-missing 3:17 no item has the version 4.9"});
     cases.push_back({"DeltaLargerThanFull", FeedOf(WithDeltas(Delta("5.0", "9"))),
@@ -323,6 +421,15 @@ void AddNotesCases(std::vector<LintCase>& cases)
     cases.push_back({"NotesInsecure",
                      FeedOf(Item("5.1", "\n<sparkle:releaseNotesLink>http://a.example/n</sparkle:releaseNotesLink>")),
                      "notes-insecure 3:1 http://a.example/n"});
+    cases.push_back({"NotesRepeated",
+                     FeedOf(Item("5.1", "<description xml:lang='de'>a</description>\n<description xml:lang='de'>b"
+                                        "</description>")),
+                     "notes-repeated 3:1 another <description> of the language \"de\""});
+    cases.push_back({"NotesOfTwoLanguagesPass",
+                     FeedOf(Item("5.1", "<description>a</description><description xml:lang='de'>b</description>"
+                                        "<sparkle:releaseNotesLink xml:lang='de'>https://a.example/n"
+                                        "</sparkle:releaseNotesLink>")),
+                     ""});
     cases.push_back({"OrdinaryNotesPass",
                      FeedOf(Item("5.1", "<description>&lt;p&gt;Fast.&lt;/p&gt;</description><sparkle:releaseNotesLink>"
                                         "https://a.example/n</sparkle:releaseNotesLink>")),
@@ -342,8 +449,8 @@ std::vector<LintCase> const& LintCases()
     static std::vector<LintCase> const cases = []
     {
         std::vector<LintCase> made;
-        for (auto* const add : {AddDocumentCases, AddNameCases, AddVersionCases, AddSystemCases, AddDownloadCases,
-                                AddDeltaCases, AddExtensionCases, AddNotesCases})
+        for (auto* const add : {AddDocumentCases, AddNameCases, AddVersionCases, AddOfferCases, AddAddressCases,
+                                AddSystemCases, AddDownloadCases, AddDeltaCases, AddExtensionCases, AddNotesCases})
         {
             add(made);
         }

@@ -60,7 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
         SignatureRow{"NoExpiry", Signed(Content("7", "")), "feed-expires 1:74"},
         SignatureRow{"ExpiryOfAnotherForm", Signed(Content("7", "tomorrow")), "feed-expires 3:1"},
         SignatureRow{"Expired", Signed(Content("7", "2026-11-20T09:00:00Z")), "feed-expired 3:1"},
-        SignatureRow{"ExpiresInASecond", Signed(Content("7", "2026-11-20T09:00:01Z")), ""}),
+        SignatureRow{"ExpiresInASecond", Signed(Content("7", "2026-11-20T09:00:01Z")), "feed-expires-soon 3:1"},
+        SignatureRow{"ExpiresInAWeek", Signed(Content("7", "2026-11-27T09:00:00Z")), ""}),
     [](auto const& row) { return row.param.name; });
 
 TEST_P(LintSignature, FindsThisAndNothingElse)

@@ -3,6 +3,7 @@
 
 #include "Publisher/Verb.h"
 #include "Publisher/delta/DeltaVerb.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/GenerateVerb.h"
 #include "Publisher/keys/KeysVerbs.h"
 #include "Publisher/serve/ServeVerb.h"
@@ -17,6 +18,7 @@ void AddArchiveVerbs(CLI::App& program, VerbContext& context)
     AddSign(program, context);
     AddVerify(program, context);
     AddGenerate(program, context);
+    AddCheckRelease(program, context);
     AddSignFeed(program, context);
     AddDelta(program, context);
     AddServe(program, context);

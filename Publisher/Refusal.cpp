@@ -6,11 +6,95 @@
 namespace Pelnar::Publisher
 {
 
-Refusal::Refusal(Problem problem) : std::runtime_error(TextOf(problem).toStdString()), m_problem(std::move(problem)) {}
+Refusal::Refusal(Problem problem, RefusalCause cause) : Refusal(std::vector<Problem>{std::move(problem)}, cause) {}
+
+Refusal::Refusal(std::vector<Problem> problems, RefusalCause cause)
+    : std::runtime_error(TextOf(problems.front()).toStdString()), m_problems(std::move(problems)), m_cause(cause)
+{
+}
+
+void AsContent(std::function<void()> const& work)
+{
+    try
+    {
+        work();
+    }
+    catch (Refusal const& refusal)
+    {
+        throw Refusal(refusal.Reasons(), RefusalCause::Content);
+    }
+}
+
+bool RefusalList::Try(std::function<void()> const& work)
+{
+    try
+    {
+        work();
+        return true;
+    }
+    catch (Refusal const& refusal)
+    {
+        Add(refusal);
+    }
+    return false;
+}
+
+void RefusalList::Add(Problem problem, RefusalCause cause)
+{
+    m_problems.push_back(std::move(problem));
+    m_cause = cause == RefusalCause::Content ? cause : m_cause;
+}
+
+void RefusalList::Add(Refusal const& refusal)
+{
+    for (Problem const& problem : refusal.Reasons())
+    {
+        Add(problem, refusal.Cause());
+    }
+}
+
+void RefusalList::ThrowIfAny() const
+{
+    if (!m_problems.empty())
+    {
+        throw Refusal(m_problems, m_cause);
+    }
+}
 
 void RefuseFile(QString const& file, QString const& what, int errorNumber, QString const& mend)
 {
     throw Refusal({file, 0, 0, what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errorNumber)), mend});
+}
+
+namespace
+{
+
+ExitStatus PrintReasons(Console const& console, Refusal const& refusal)
+{
+    for (Problem const& problem : refusal.Reasons())
+    {
+        console.Refuse(problem);
+    }
+    return ExitStatus::Unusable;
+}
+
+} // namespace
+
+ExitStatus JudgeRelease(Console const& console, std::function<ExitStatus()> const& work)
+{
+    try
+    {
+        return work();
+    }
+    catch (Refusal const& refusal)
+    {
+        if (refusal.Cause() != RefusalCause::Content)
+        {
+            throw;
+        }
+        PrintReasons(console, refusal);
+    }
+    return ExitStatus::Findings;
 }
 
 void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> work)
@@ -24,7 +108,7 @@ void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> w
             }
             catch (Refusal const& refusal)
             {
-                context.status = context.console.Refuse(refusal.Reason());
+                context.status = PrintReasons(context.console, refusal);
             }
             catch (std::exception const& error)
             {

@@ -1,6 +1,7 @@
 // main.cpp: pelnar-appcast, the publisher's tool, on the streams of its process.
 
 #include "Publisher/Verb.h"
+#include "Publisher/files/Leftovers.h"
 
 #include <glog/logging.h>
 
@@ -39,6 +40,7 @@ void UseOwnWords()
 
 int main(int argc, char** argv)
 {
+    Pelnar::Publisher::RemoveLeftoversWhenInterrupted();
     KeepLibrariesQuiet(argv[0]);
     // Qt gets the program's name only: it would take some options for its own.
     int qtArgumentCount = 1;

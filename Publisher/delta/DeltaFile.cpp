@@ -61,11 +61,10 @@ ByteProgress BarFor(Progress& progress)
     return [&progress](std::uint64_t done, std::uint64_t total) { progress.Show(qint64(done), qint64(total)); };
 }
 
-Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
-                                  Output const& progressOutput)
+Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
+                              QString const& path, Output const& progressOutput)
 {
     CheckPair(oldBundle.Information(), newBundle.Information());
-    AtomicFile file(path);
     Engine::DeltaReport report;
     {
         Progress bar(progressOutput, QStringLiteral("Comparing"));
@@ -78,6 +77,14 @@ Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const&
     }
     TemporaryFolder const made;
     Apply(file.Descriptor(), path, oldBundle, made.Descriptor(), progressOutput);
+    return report;
+}
+
+Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
+                                  Output const& progressOutput)
+{
+    AtomicFile file(path);
+    Engine::DeltaReport const report = MakeDelta(oldBundle, newBundle, file, path, progressOutput);
     file.Commit(ExistingFile::Keep);
     return report;
 }

@@ -4,6 +4,7 @@
 
 #include "Engine/core/delta/DeltaMaker.h"
 #include "Publisher/Console.h"
+#include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/BundleTree.h"
 
 namespace Pelnar::Publisher
@@ -13,6 +14,10 @@ namespace Pelnar::Publisher
 /// what it should. Throws Refusal: for a file that is there already, for bundles of two products or of one version.
 Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
                                   Output const& progressOutput);
+
+/// The same into \a file, which is shown as \a path and keeps its hidden name.
+Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
+                              QString const& path, Output const& progressOutput);
 
 /// What the delta says of itself. Throws Refusal.
 Engine::DeltaManifest ReadDeltaFile(InputFile const& delta);

@@ -14,6 +14,7 @@ _pelnar_appcast()
             "/sign" | \
             "/verify" | \
             "/generate" | \
+            "/check-release" | \
             "/sign-feed" | \
             "/delta" | \
             "/serve" | \
@@ -33,10 +34,12 @@ _pelnar_appcast()
         "keys generate --format") words="xml gnustep bare" ;;
         "keys show --format") words="xml gnustep bare" ;;
         "keys export --form") words="seed secret-key" ;;
+        "generate --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
+        "check-release --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
     esac
     if [ -z "$words" ]; then
         case "$verb" in
-            "") words="explain lint matrix diff timeline keys sign verify generate sign-feed delta serve -h --help" ;;
+            "") words="explain lint matrix diff timeline keys sign verify generate check-release sign-feed delta serve -h --help" ;;
             "explain") words="-h --help --local-version --system-version --platform --published-at --after-delta --json" ;;
             "lint") words="-h --help --published-at --fetch --signed --public-key --strict --json --rules" ;;
             "matrix") words="-h --help --versions --systems --platform --published-at --expect --json" ;;
@@ -48,7 +51,8 @@ _pelnar_appcast()
             "keys export") words="-h --help --form --to-terminal" ;;
             "sign") words="-h --help --key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --url-prefix -o --output --title --link --deltas --sign-feed --valid-for" ;;
+            "generate") words="-h --help --key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --sign-feed --valid-for" ;;
+            "check-release") words="-h --help --machine --public-key" ;;
             "sign-feed") words="-h --help --key --valid-for --serial --accept-changes -o --output" ;;
             "delta") words="create apply show -h --help" ;;
             "delta create") words="-h --help -o --output --key" ;;

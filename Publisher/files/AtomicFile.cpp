@@ -54,16 +54,33 @@ void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path
 
 AtomicFile::AtomicFile(QString const& path) : m_path(path)
 {
-    QFileInfo const target(path);
-    QByteArray const folder = QFile::encodeName(target.absolutePath());
-    QByteArray hidden = folder + "/." + QFile::encodeName(target.fileName()) + ".XXXXXX";
+    QByteArray const folder = QFile::encodeName(QFileInfo(path).absolutePath());
     m_folder = Engine::UniqueFd(::open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    m_descriptor = Engine::UniqueFd(m_folder ? ::mkostemp(hidden.data(), O_CLOEXEC) : -1);
+    bool const canBeNamed = ::access("/proc/self/fd", X_OK) == 0;
+    if (m_folder && canBeNamed)
+    {
+        m_descriptor = Engine::UniqueFd(::openat(m_folder.Get(), ".", O_RDWR | O_TMPFILE | O_CLOEXEC, 0666));
+    }
+    if (!m_descriptor && m_folder)
+    {
+        MakeHidden(folder); // this file system has no files without names
+    }
     if (!m_descriptor)
     {
         RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
     }
+}
+
+void AtomicFile::MakeHidden(QByteArray const& folder)
+{
+    QByteArray hidden = folder + "/." + QFile::encodeName(QFileInfo(m_path).fileName()) + ".XXXXXX";
+    m_descriptor = Engine::UniqueFd(::mkostemp(hidden.data(), O_CLOEXEC));
+    if (!m_descriptor)
+    {
+        return;
+    }
     m_hiddenName = hidden.mid(folder.size() + 1);
+    m_leftover.emplace(hidden.toStdString());
     if (::fchmod(m_descriptor.Get(), NewFileMode()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
@@ -87,14 +104,44 @@ void AtomicFile::Write(QByteArray const& bytes)
     }
 }
 
+InputFile AtomicFile::ForReading() const
+{
+    Engine::UniqueFd copy(::fcntl(Descriptor(), F_DUPFD_CLOEXEC, 0));
+    struct stat status;
+    if (!copy || ::fstat(Descriptor(), &status) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be read"), errno, MEND);
+    }
+    return {std::move(copy), m_path, static_cast<std::uint64_t>(status.st_size)};
+}
+
+void AtomicFile::LinkHidden()
+{
+    // A link replaces nothing, so that the file comes to its name by a rename, as one that had a hidden name all along.
+    std::string const self = "/proc/self/fd/" + std::to_string(Descriptor());
+    QFileInfo const target(m_path);
+    QByteArray const hidden = '.' + QFile::encodeName(target.fileName()) + '.' + QByteArray::number(qint64(::getpid()));
+    m_leftover.emplace(QFile::encodeName(target.absolutePath()).toStdString() + '/' + hidden.toStdString());
+    if (::linkat(AT_FDCWD, self.c_str(), m_folder.Get(), hidden.constData(), AT_SYMLINK_FOLLOW) != 0)
+    {
+        RefuseFile(m_path, QStringLiteral("cannot be given its name"), errno, MEND);
+    }
+    m_hiddenName = hidden;
+}
+
 void AtomicFile::Commit(ExistingFile existing)
 {
     if (::fsync(Descriptor()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
     }
+    if (m_hiddenName.isEmpty())
+    {
+        LinkHidden();
+    }
     NameFinally(m_folder.Get(), m_hiddenName, m_path, existing);
     m_isCommitted = true;
+    m_leftover.reset();
     if (::fsync(m_folder.Get()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
@@ -116,6 +163,7 @@ NewFolder::NewFolder(QString const& path) : m_path(path)
         RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
     }
     m_hiddenName = hidden.mid(parent.size() + 1);
+    m_leftover.emplace(hidden.toStdString());
     m_folder = Engine::UniqueFd(::openat(m_parent.Get(), m_hiddenName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_folder)
     {
@@ -139,6 +187,7 @@ void NewFolder::Commit()
     }
     NameFinally(m_parent.Get(), m_hiddenName, m_path, ExistingFile::Keep);
     m_isCommitted = true;
+    m_leftover.reset();
 }
 
 } // namespace Pelnar::Publisher

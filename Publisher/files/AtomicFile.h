@@ -2,10 +2,13 @@
 // Thread: the main thread. Ownership: a scope object; what was not committed is gone when it goes.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Publisher/files/InputFile.h"
+#include "Publisher/files/Leftovers.h"
 
 #include <QByteArray>
 #include <QString>
+
+#include <optional>
 
 namespace Pelnar::Publisher
 {
@@ -20,20 +23,27 @@ enum class ExistingFile
 class AtomicFile
 {
 public:
-    /// Opens a hidden file in the folder of \a path, of the permissions that a new file has. Throws Refusal.
+    /// Opens a file without a name, or where there are none a hidden one, in the folder of \a path, of the permissions
+    /// that a new file has. Throws Refusal.
     explicit AtomicFile(QString const& path);
     ~AtomicFile();
     AtomicFile(AtomicFile const&) = delete;
     AtomicFile& operator=(AtomicFile const&) = delete;
 
     int Descriptor() const { return m_descriptor.Get(); }
+    /// What was written so far, under the name that it will have. Throws Refusal.
+    InputFile ForReading() const;
     void Write(QByteArray const& bytes);
     /// Writes everything to the disk and gives the file its name. Throws Refusal.
     void Commit(ExistingFile existing);
 
 private:
+    void MakeHidden(QByteArray const& folder);
+    void LinkHidden();
+
     QString m_path;
-    QByteArray m_hiddenName;
+    QByteArray m_hiddenName; ///< empty while the file has no name at all
+    std::optional<Leftover> m_leftover;
     Engine::UniqueFd m_folder;
     Engine::UniqueFd m_descriptor;
     bool m_isCommitted = false;
@@ -57,6 +67,7 @@ private:
     QString m_path;
     QByteArray m_hiddenName;
     Engine::UniqueFd m_parent;
+    std::optional<Leftover> m_leftover;
     Engine::UniqueFd m_folder;
     bool m_isCommitted = false;
 };

@@ -13,9 +13,12 @@
 
 #include <cerrno>
 #include <cstdlib>
+#include <ctime>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Pelnar::Publisher
 {
@@ -24,6 +27,7 @@ namespace
 
 namespace fs = std::filesystem;
 
+constexpr char TEMPORARY_PREFIX[] = "pelnar-appcast-";
 constexpr char MAC_INFORMATION_PATH[] = "Contents/Info.plist";
 
 Engine::UniqueFd OpenFolder(fs::path const& path)
@@ -31,19 +35,63 @@ Engine::UniqueFd OpenFolder(fs::path const& path)
     return Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
+/// Removes the folders of runs that were killed: those of this user that nobody holds. One that was only just made may
+/// be held a moment later, and stays.
+void RemoveAbandoned()
+{
+    constexpr int YOUNG_SECONDS = 60;
+    QDir const place(QDir::tempPath());
+    QStringList const names =
+        place.entryList({QLatin1String(TEMPORARY_PREFIX) + QLatin1Char('*')}, QDir::Dirs | QDir::NoSymLinks);
+    Engine::UniqueFd const parent = OpenFolder(QFile::encodeName(place.path()).toStdString());
+    for (QString const& name : names)
+    {
+        Engine::UniqueFd const folder(::openat(parent.Get(), QFile::encodeName(name).constData(),
+                                               O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+        struct stat status;
+        bool const isOwn = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid();
+        if (isOwn && ::time(nullptr) - status.st_ctime > YOUNG_SECONDS && ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0)
+        {
+            static_cast<void>(Engine::RemoveTree(parent.Get(), QFile::encodeName(name).toStdString()));
+        }
+    }
+}
+
+/// The refusal, and every other entry of the archive that is refused.
+std::vector<Problem> ProblemsOf(Engine::UpdateRefusal const& refusal, InputFile const& archive)
+{
+    constexpr std::size_t MOST = 20;
+    std::vector<Problem> problems;
+    try
+    {
+        for (Engine::EntryRefusal const& entry : Engine::FindRefusedEntries(archive.descriptor.Get(), MOST))
+        {
+            problems.push_back(ProblemOf(Engine::UpdateRefusal(entry.fault, 0, entry.path), archive.name));
+        }
+    }
+    catch (Engine::UpdateRefusal const&)
+    {
+        problems.clear(); // it says no more than the refusal
+    }
+    return problems.empty() ? std::vector<Problem>{ProblemOf(refusal, archive.name)} : problems;
+}
+
 } // namespace
 
 TemporaryFolder::TemporaryFolder()
 {
-    QByteArray path = QFile::encodeName(QDir::tempPath()) + "/pelnar-appcast-XXXXXX";
+    RemoveAbandoned();
+    QByteArray path = QFile::encodeName(QDir::tempPath()) + '/' + TEMPORARY_PREFIX + "XXXXXX";
     if (!::mkdtemp(path.data()))
     {
         RefuseFile(QDir::tempPath(), QStringLiteral("no folder for temporary files can be made there"), errno,
                    QStringLiteral("name another folder in TMPDIR"));
     }
     m_path = path.toStdString();
+    m_leftover.emplace(m_path);
     m_parent = OpenFolder(m_path.parent_path());
     m_folder = OpenFolder(m_path);
+    static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks nobody is told that it is held
 }
 
 TemporaryFolder::~TemporaryFolder()
@@ -74,7 +122,7 @@ BundleTree BundleTree::Unpack(InputFile const& archive, ByteProgress const& prog
     }
     catch (Engine::UpdateRefusal const& refusal)
     {
-        throw Refusal(ProblemOf(refusal, archive.name));
+        throw Refusal(ProblemsOf(refusal, archive), CauseOf(refusal.Fault()));
     }
 }
 
@@ -102,10 +150,10 @@ void BundleTree::ReadInformation(QString const& shownName)
     struct stat status;
     if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
     {
-        throw Refusal(ProblemOf(Engine::UpdateFault::InformationMissing, 0, shownName));
+        throw Refusal(ProblemOf(Engine::UpdateFault::InformationMissing, 0, shownName), RefusalCause::Content);
     }
     QString const shownPath = shownName + QLatin1Char('/') + QLatin1String(path);
-    InputFile const input{std::move(file), shownPath, static_cast<std::uint64_t>(status.st_size), 0};
+    InputFile const input{std::move(file), shownPath, static_cast<std::uint64_t>(status.st_size)};
     QByteArray const text =
         ReadInputFile(input, Engine::PROPERTY_LIST_MAX_BYTES, QStringLiteral("keep it below 1 MiB"));
     try
@@ -115,7 +163,7 @@ void BundleTree::ReadInformation(QString const& shownName)
     }
     catch (Engine::UpdateRefusal const& refusal)
     {
-        throw Refusal(ProblemOf(refusal, shownPath));
+        throw Refusal(ProblemOf(refusal, shownPath), CauseOf(refusal.Fault()));
     }
 }
 

@@ -6,10 +6,12 @@
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/payload/BundleInformation.h"
 #include "Publisher/files/InputFile.h"
+#include "Publisher/files/Leftovers.h"
 
 #include <filesystem>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace Pelnar::Publisher
@@ -19,7 +21,7 @@ namespace Pelnar::Publisher
 class TemporaryFolder
 {
 public:
-    /// Throws Refusal.
+    /// Removes what killed runs have left there, first. Throws Refusal.
     TemporaryFolder();
     ~TemporaryFolder();
     TemporaryFolder(TemporaryFolder const&) = delete;
@@ -30,8 +32,9 @@ public:
 
 private:
     std::filesystem::path m_path;
+    std::optional<Leftover> m_leftover;
     Engine::UniqueFd m_parent;
-    Engine::UniqueFd m_folder;
+    Engine::UniqueFd m_folder; ///< held, so that no later run takes the folder for one that was left behind
 };
 
 /// Told after each piece: bytes done so far, and in all.

@@ -2,7 +2,9 @@
 
 #include "Publisher/Console.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
@@ -103,6 +105,31 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::InformationMalformed:
         return {"the bundle's information file is no property list in text form",
                 "write it as XML or in the old style of braces (plutil -convert xml1)"};
+    case UpdateFault::ExecutableNameInvalid:
+        return {"the bundle's information file names a program that does not lie directly in the bundle's folder",
+                "write the name of a file in Name.app, without \"/\", as NSExecutable, and put the program there"};
+    case UpdateFault::IdentifierDiffers:
+        return {"the bundle is of another product than the installed one", "give it the product's CFBundleIdentifier"};
+    case UpdateFault::VersionDiffers:
+        return {"the bundle is of another version than the feed says",
+                "make CFBundleVersion and sparkle:version the same text"};
+    case UpdateFault::VersionNotNewer:
+        return {"the bundle is not newer than the installed one", "give it a greater CFBundleVersion"};
+    case UpdateFault::BundleKeyMissing:
+        return {"the bundle has no SUPublicEDKey and could never be updated again",
+                "add the entry that \"keys show\" prints to its information file"};
+    case UpdateFault::ExecutableMissing:
+        return {"the bundle has no program", "put the program there, or name it in NSExecutable"};
+    case UpdateFault::ExecutableNotRunnable:
+        return {"the bundle's program may not be executed", "chmod 755 the program, and pack it with its rights"};
+    case UpdateFault::ExecutableForeign:
+        return {"the bundle's program is not for the machine that the release is for",
+                "build it for that machine, or name the right one with --machine"};
+    case UpdateFault::PayloadKindDiffers:
+        return {"the bundle is of another kind than the feed says", "check PelnarPayloadKind in its information file"};
+    case UpdateFault::InstallerNotAllowed:
+        return {"installed versions do not run installer programs",
+                "publish a bundle, or first a version with PelnarAllowsInstallerPrograms = YES"};
     case UpdateFault::NoSpace:
         return {"there is no space left to unpack it", "name a folder with more space in TMPDIR"};
     case UpdateFault::NotPermitted:
@@ -118,13 +145,6 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::ArchiveInUse:
     case UpdateFault::DeltaBaseDiffers:
     case UpdateFault::DeltaResultDiffers:
-    case UpdateFault::IdentifierDiffers:
-    case UpdateFault::VersionDiffers:
-    case UpdateFault::VersionNotNewer:
-    case UpdateFault::BundleKeyMissing:
-    case UpdateFault::ExecutableMissing:
-    case UpdateFault::ExecutableNotRunnable:
-    case UpdateFault::ExecutableForeign:
     case UpdateFault::HostStillRunning:
     case UpdateFault::LockTimedOut:
     case UpdateFault::TargetMissing:
@@ -133,7 +153,6 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::OtherFileSystem:
     case UpdateFault::SwapFailed:
     case UpdateFault::SyncFailed:
-    case UpdateFault::InstallerNotAllowed:
     case UpdateFault::InstallerNotStarted:
     case UpdateFault::InstallerFailed:
     case UpdateFault::InstallerTimedOut:
@@ -144,7 +163,6 @@ Words WordsFor(UpdateFault fault)
     case UpdateFault::FolderUnsafe:
     case UpdateFault::ProcessHandlesUnavailable:
     case UpdateFault::SealedMemoryUnavailable:
-    case UpdateFault::PayloadKindDiffers: // told where both kinds are known
     case UpdateFault::InstallationInterrupted:
     case UpdateFault::NewVersionFailed:
     case UpdateFault::RightsNotKept:
@@ -199,7 +217,21 @@ Problem ProblemOf(UpdateFault fault, int errorNumber, QString const& name)
 
 Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name)
 {
-    return ProblemOf(refusal.Fault(), refusal.ErrorNumber(), name);
+    Problem problem = ProblemOf(refusal.Fault(), refusal.ErrorNumber(), name);
+    if (!refusal.Entry().empty())
+    {
+        problem.what += QStringLiteral(": \"%1\"").arg(Printable(QString::fromStdString(refusal.Entry())));
+    }
+    return problem;
+}
+
+RefusalCause CauseOf(UpdateFault fault)
+{
+    constexpr UpdateFault OF_THIS_COMPUTER[] = {UpdateFault::NoSpace, UpdateFault::NotPermitted, UpdateFault::DiskError,
+                                                UpdateFault::ArchiveUnreadable, UpdateFault::CryptographyUnavailable};
+    bool const isHere =
+        std::find(std::begin(OF_THIS_COMPUTER), std::end(OF_THIS_COMPUTER), fault) != std::end(OF_THIS_COMPUTER);
+    return isHere ? RefusalCause::Input : RefusalCause::Content;
 }
 
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)

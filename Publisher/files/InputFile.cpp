@@ -28,7 +28,7 @@ InputFile OpenInputFile(QString const& path)
     {
         throw Refusal({path, 0, 0, QStringLiteral("is no plain file"), QStringLiteral("name a file")});
     }
-    return {std::move(descriptor), path, static_cast<std::uint64_t>(status.st_size), status.st_mtim.tv_sec};
+    return {std::move(descriptor), path, static_cast<std::uint64_t>(status.st_size)};
 }
 
 QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString const& mend)

@@ -17,7 +17,6 @@ struct InputFile
     Engine::UniqueFd descriptor;
     QString name; ///< as the person typed it
     std::uint64_t size = 0;
-    std::int64_t changedAt = 0; ///< of its contents, in seconds since 1970
 };
 
 /// Throws Refusal unless \a path is a plain file that can be read. A link to one may stand in its place.

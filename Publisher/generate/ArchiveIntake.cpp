@@ -1,8 +1,8 @@
 #include "Publisher/generate/ArchiveIntake.h"
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
-#include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
+#include "Publisher/gate/ReleaseGate.h"
 
 #include <algorithm>
 #include <iterator>
@@ -11,6 +11,11 @@ namespace Pelnar::Publisher
 {
 namespace
 {
+
+Refusal ContentRefusal(Problem problem)
+{
+    return Refusal(std::move(problem), RefusalCause::Content);
+}
 
 bool IsInstaller(ArchiveKind kind)
 {
@@ -55,9 +60,9 @@ void CheckMacInstaller(InputFile const& file)
     bool const isSame = std::equal(std::begin(mark), std::end(mark), isImage ? IMAGE_MARK : PACKAGE_MARK);
     if (file.size > 0 && !(isRead && isSame)) // an empty file is told of when it is signed
     {
-        throw Refusal({file.name, 0, 0,
-                       isImage ? QStringLiteral("is no disk image") : QStringLiteral("is no installer package"),
-                       QStringLiteral("give it the ending of what it is")});
+        throw ContentRefusal({file.name, 0, 0,
+                              isImage ? QStringLiteral("is no disk image") : QStringLiteral("is no installer package"),
+                              QStringLiteral("give it the ending of what it is")});
     }
 }
 
@@ -68,44 +73,87 @@ void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePu
         return;
     }
     bool const isBundle = purpose == Engine::BundlePurpose::Application;
-    throw Refusal({path, 0, 0,
-                   isBundle ? QStringLiteral("its name is a bundle's, but the PelnarPayloadKind inside is another")
-                            : QStringLiteral("its name is an installer's, but inside it is not said to be one"),
-                   isBundle
-                       ? QStringLiteral("remove PelnarPayloadKind from the bundle's information file, or mark the "
-                                        "name of an installer with .sparkle_guided. or .sparkle_interactive.")
-                       : QStringLiteral("write PelnarPayloadKind = installer into the information file of a bundle "
-                                        "that installs the new version, or remove the mark from the name")});
+    throw ContentRefusal(
+        {path, 0, 0,
+         isBundle ? QStringLiteral("its name is a bundle's, but the PelnarPayloadKind inside is another")
+                  : QStringLiteral("its name is an installer's, but inside it is not said to be one"),
+         isBundle ? QStringLiteral("remove PelnarPayloadKind from the bundle's information file, or mark the "
+                                   "name of an installer with .sparkle_guided. or .sparkle_interactive.")
+                  : QStringLiteral("write PelnarPayloadKind = installer into the information file of a bundle "
+                                   "that installs the new version, or remove the mark from the name")});
 }
 
 } // namespace
 
-std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archives)
+std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archives, RefusalList& refusals)
 {
     for (FolderArchive const& archive : archives)
     {
-        if (archive.kind != ArchiveKind::Delta)
+        if (archive.kind == ArchiveKind::Delta)
         {
-            NewItem item = IsInstaller(archive.kind) ? TakeInstaller(archive) : TakeBundle(archive);
-            CheckClash(item);
-            m_items.push_back(std::move(item));
+            continue;
         }
+        refusals.Try(
+            [&]
+            {
+                NewItem item =
+                    IsInstaller(archive.kind) ? TakeInstaller(archive, refusals) : TakeBundle(archive, refusals);
+                CheckClash(item);
+                m_items.push_back(std::move(item));
+            });
+    }
+    CheckAmongEachOther(refusals);
+    CheckTrust(m_versions, refusals);
+    if (!refusals.IsEmpty())
+    {
+        return {};
     }
     // Signed last: what is wrong with another archive is told before the long work.
     for (NewItem& item : m_items)
     {
         item.signature = m_workplace.Sign(item.fileName);
+        item.signerId = m_workplace.KeyId();
     }
     return std::move(m_items);
 }
 
-NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive)
+/// Those of one run are clients of each other as well; each was judged before it knew all of them.
+void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
+{
+    std::vector<GatedVersion> fresh;
+    for (GatedVersion const& version : m_versions)
+    {
+        bool const isNew =
+            std::any_of(m_items.begin(), m_items.end(),
+                        [&](NewItem const& item) { return m_workplace.PathOf(item.fileName) == version.path; });
+        if (isNew && version.bundle)
+        {
+            fresh.push_back(version);
+        }
+    }
+    bool const hasInstaller =
+        std::any_of(fresh.begin(), fresh.end(), [](GatedVersion const& version) { return !version.HasClients(); });
+    bool const isOneName =
+        std::all_of(fresh.begin(), fresh.end(),
+                    [&](GatedVersion const& version) { return version.bundle->name == fresh.front().bundle->name; });
+    if ((isOneName && !hasInstaller) || !refusals.IsEmpty())
+    {
+        return; // what clients compare besides the folder's name was compared
+    }
+    for (GatedVersion const& version : fresh)
+    {
+        BundleTree const bundle = BundleTree::Unpack(OpenInputFile(version.path), [](std::uint64_t, std::uint64_t) {});
+        CheckBundleForClients(bundle, version, fresh, m_workplace.machine, refusals);
+    }
+}
+
+NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& refusals)
 {
     QString const path = m_workplace.PathOf(archive.fileName);
     BundleTree const bundle = m_workplace.Unpack(archive.fileName);
     Engine::BundleInformation const& information = bundle.Information();
     CheckPurpose(information, Engine::BundlePurpose::Application, path);
-    CheckBundle(bundle, path);
+    CheckProduct(information, path);
     NewItem item;
     item.platform = bundle.Platform();
     QString const bundleName = QString::fromStdString(bundle.Name());
@@ -115,12 +163,17 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive)
     item.minimumSystemVersion = QString::fromStdString(information.minimumSystemVersion);
     if (!item.minimumSystemVersion.isEmpty() && !WholeVersion(item.minimumSystemVersion).IsValid())
     {
-        throw Refusal(
+        throw ContentRefusal(
             {path, 0, 0,
              QStringLiteral("the bundle's LSMinimumSystemVersion \"%1\" is no version").arg(item.minimumSystemVersion),
              QStringLiteral("write one to four numbers with dots between them")});
     }
     Complete(item, archive);
+    GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
+    version.signerId = m_workplace.KeyId();
+    item.trustedIds = version.trustedIds;
+    CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
+    m_versions.push_back(std::move(version));
     return item;
 }
 
@@ -128,46 +181,30 @@ void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, Q
 {
     if (information.identifier.empty())
     {
-        throw Refusal({path, 0, 0, QStringLiteral("the bundle has no CFBundleIdentifier, so that clients refuse it"),
-                       QStringLiteral("write it into the bundle's information file")});
+        throw ContentRefusal({path, 0, 0,
+                              QStringLiteral("the bundle has no CFBundleIdentifier, so that clients refuse it"),
+                              QStringLiteral("write it into the bundle's information file")});
     }
     if (!m_identifier.empty() && m_identifier != information.identifier)
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("is of the product %1, while %2 is of %3")
-                           .arg(QString::fromStdString(information.identifier), m_identifierSource,
-                                QString::fromStdString(m_identifier)),
-                       QStringLiteral("give each product a folder of its own")});
+        throw ContentRefusal({path, 0, 0,
+                              QStringLiteral("is of the product %1, while %2 is of %3")
+                                  .arg(QString::fromStdString(information.identifier), m_identifierSource,
+                                       QString::fromStdString(m_identifier)),
+                              QStringLiteral("give each product a folder of its own")});
     }
     m_identifier = information.identifier;
     m_identifierSource = path;
 }
 
-void ArchiveIntake::CheckBundle(BundleTree const& bundle, QString const& path)
-{
-    Engine::BundleInformation const& information = bundle.Information();
-    CheckProduct(information, path);
-    if (information.publicKey.empty())
-    {
-        throw Refusal({path, 0, 0, QStringLiteral("the bundle has no SUPublicEDKey and could never be updated again"),
-                       QStringLiteral("add the entry that \"keys show\" prints to its information file")});
-    }
-    if (information.publicKey != m_workplace.key.PublicKeyText().toStdString())
-    {
-        m_workplace.Warn(path, QStringLiteral("the bundle trusts another key than the one that signs"),
-                         QStringLiteral("right only when the key is being changed: this key must be the one that the "
-                                        "version before trusts"));
-    }
-}
-
-NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive)
+NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive, RefusalList& refusals)
 {
     NewItem item;
     int const underscore = archive.stem.lastIndexOf(QLatin1Char('_'));
     bool const isForMac = HasMacEnding(archive.fileName);
     if (!isForMac && !archive.isNamedAsContainer)
     {
-        throw Refusal(
+        throw ContentRefusal(
             {m_workplace.PathOf(archive.fileName), 0, 0,
              QStringLiteral("is no installer that clients of any system take"),
              QStringLiteral("end its name with .pkg, .mpkg or .dmg for macOS; for Linux pack the bundle whose "
@@ -179,29 +216,34 @@ NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive)
     item.versionText = underscore < 0 ? QString() : archive.stem.mid(underscore + 1);
     Complete(item, archive);
     isForMac ? CheckMacInstaller(OpenInputFile(m_workplace.PathOf(archive.fileName)))
-             : TakeInstallerProgram(archive, item.versionText);
+             : TakeInstallerProgram(archive, item, refusals);
     return item;
 }
 
-void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, QString const& version)
+void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals)
 {
     QString const path = m_workplace.PathOf(archive.fileName);
     BundleTree const bundle = m_workplace.Unpack(archive.fileName);
     Engine::BundleInformation const& information = bundle.Information();
     if (bundle.Platform() != Engine::FeedPlatform::Linux)
     {
-        throw Refusal({path, 0, 0, QStringLiteral("holds a bundle for macOS, where installers are packages and images"),
-                       QStringLiteral("publish a .pkg, .mpkg or .dmg for macOS")});
+        throw ContentRefusal({path, 0, 0,
+                              QStringLiteral("holds a bundle for macOS, where installers are packages and images"),
+                              QStringLiteral("publish a .pkg, .mpkg or .dmg for macOS")});
     }
     CheckPurpose(information, Engine::BundlePurpose::InstallerProgram, path);
     CheckProduct(information, path);
-    if (information.version != version.toStdString())
+    if (information.version != item.versionText.toStdString())
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("is named after version %1, but installs \"%2\"")
-                           .arg(version, Printable(QString::fromStdString(information.version))),
-                       QStringLiteral("name it after the CFBundleVersion in its information file")});
+        throw ContentRefusal({path, 0, 0,
+                              QStringLiteral("is named after version %1, but installs \"%2\"")
+                                  .arg(item.versionText, Printable(QString::fromStdString(information.version))),
+                              QStringLiteral("name it after the CFBundleVersion in its information file")});
     }
+    GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
+    version.signerId = m_workplace.KeyId();
+    CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
+    m_versions.push_back(std::move(version));
 }
 
 void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)
@@ -212,13 +254,14 @@ void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)
     if (!item.version.IsValid())
     {
         bool const isBundle = item.kind == ArchiveKind::Bundle;
-        throw Refusal({path, 0, 0, QStringLiteral("\"%1\" is no version").arg(item.versionText),
-                       isBundle ? QStringLiteral("write one to four numbers with dots between them into the bundle's "
-                                                 "CFBundleVersion")
-                                : QStringLiteral("name an installer NAME_VERSION.sparkle_guided.ENDING, the version "
-                                                 "being one to four numbers with dots between them")});
+        throw ContentRefusal({path, 0, 0, QStringLiteral("\"%1\" is no version").arg(item.versionText),
+                              isBundle
+                                  ? QStringLiteral("write one to four numbers with dots between them into the bundle's "
+                                                   "CFBundleVersion")
+                                  : QStringLiteral("name an installer NAME_VERSION.sparkle_guided.ENDING, the version "
+                                                   "being one to four numbers with dots between them")});
     }
-    item.changedAt = OpenInputFile(path).changedAt;
+    item.publishedAt = m_workplace.publishedAt;
     item.notes = ReadReleaseNotes(m_workplace.folder, archive.stem);
 }
 
@@ -229,20 +272,21 @@ void ArchiveIntake::CheckClash(NewItem const& item) const
     {
         if (Clashes(item, other))
         {
-            throw Refusal({m_workplace.PathOf(item.fileName), 0, 0,
-                           QStringLiteral("is of version %1, and so is %2").arg(item.versionText, other.fileName),
-                           mend});
+            throw ContentRefusal(
+                {m_workplace.PathOf(item.fileName), 0, 0,
+                 QStringLiteral("is of version %1, and so is %2").arg(item.versionText, other.fileName), mend});
         }
     }
     for (PublishedItem const& published : m_feed.Items())
     {
         if (Clashes(item, published))
         {
-            throw Refusal({m_workplace.PathOf(item.fileName), 0, 0,
-                           QStringLiteral("is of version %1, which is published already as %2 (line %3 of the feed)")
-                               .arg(item.versionText, published.item.fileUrl.toString())
-                               .arg(published.item.line),
-                           mend});
+            throw ContentRefusal(
+                {m_workplace.PathOf(item.fileName), 0, 0,
+                 QStringLiteral("is of version %1, which is published already as %2 (line %3 of the feed)")
+                     .arg(item.versionText, published.item.fileUrl.toString())
+                     .arg(published.item.line),
+                 mend});
         }
     }
 }

@@ -2,6 +2,8 @@
 // Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
+#include "Publisher/Refusal.h"
+#include "Publisher/gate/GatedVersion.h"
 #include "Publisher/generate/Workplace.h"
 
 namespace Pelnar::Publisher
@@ -10,23 +12,28 @@ namespace Pelnar::Publisher
 class ArchiveIntake
 {
 public:
-    ArchiveIntake(Workplace const& workplace, PublishedFeed const& feed) : m_workplace(workplace), m_feed(feed) {}
+    /// \a published: the versions that clients have.
+    ArchiveIntake(Workplace const& workplace, PublishedFeed const& feed, std::vector<GatedVersion> published)
+        : m_workplace(workplace), m_feed(feed), m_versions(std::move(published))
+    {
+    }
 
-    /// Reads, judges and signs the bundles and installers among \a archives. Throws Refusal for what clients would
-    /// refuse or could not tell from something else.
-    std::vector<NewItem> Take(std::vector<FolderArchive> const& archives);
+    /// Reads and judges the bundles and installers among \a archives. What clients would refuse or could not tell from
+    /// something else is told in \a refusals; only when there is none the items are signed.
+    std::vector<NewItem> Take(std::vector<FolderArchive> const& archives, RefusalList& refusals);
 
 private:
-    NewItem TakeBundle(FolderArchive const& archive);
-    NewItem TakeInstaller(FolderArchive const& archive);
-    void TakeInstallerProgram(FolderArchive const& archive, QString const& version);
-    void CheckBundle(BundleTree const& bundle, QString const& path);
+    NewItem TakeBundle(FolderArchive const& archive, RefusalList& refusals);
+    NewItem TakeInstaller(FolderArchive const& archive, RefusalList& refusals);
+    void TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals);
     void CheckProduct(Engine::BundleInformation const& information, QString const& path);
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;
+    void CheckAmongEachOther(RefusalList& refusals);
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;
+    std::vector<GatedVersion> m_versions; ///< published ones, and new ones after them
     std::vector<NewItem> m_items;
     std::string m_identifier; ///< of the product, once a bundle told it
     QString m_identifierSource;

@@ -3,7 +3,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
 
-#include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -118,7 +118,8 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
             continue;
         }
         QString const path = m_workplace.PathOf(archive.fileName);
-        Engine::DeltaManifest const manifest = ReadDeltaFile(OpenInputFile(path));
+        Engine::DeltaManifest manifest;
+        AsContent([&] { manifest = ReadDeltaFile(OpenInputFile(path)); });
         QString const target = QString::fromStdString(manifest.targetVersion);
         auto const item = std::find_if(items.begin(), items.end(),
                                        [&target](NewItem const& other)
@@ -152,7 +153,11 @@ void DeltaStage::TakeGiven(NewItem& item, QString const& fileName, QString const
         throw Refusal({path, 0, 0, QStringLiteral("is a second delta from %1 to %2").arg(baseVersion, item.versionText),
                        QStringLiteral("keep one of them")});
     }
-    ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), TreeOf(item), m_workplace.console.err);
+    AsContent(
+        [&]
+        {
+            ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), TreeOf(item), m_workplace.console.err);
+        });
     ArchiveSignature const signature = m_workplace.Sign(fileName);
     if (!SavesEnough(signature.length, item.signature.length))
     {
@@ -182,19 +187,35 @@ void DeltaStage::Make(NewItem& item, Base const& base)
         throw Refusal({m_workplace.PathOf(base.fileName), 0, 0,
                        QStringLiteral("holds version %1, but is published as %2")
                            .arg(QString::fromStdString(before.Information().version), base.versionText),
-                       QStringLiteral("put the published archive back")});
+                       QStringLiteral("put the published archive back")},
+                      RefusalCause::Content);
     }
     QString const path = m_workplace.PathOf(fileName);
-    MakeDeltaFile(before, TreeOf(item), path, m_workplace.console.err);
-    if (!SavesEnough(OpenInputFile(path).size, item.signature.length))
+    if (QFileInfo::exists(path))
     {
-        QFile::remove(path);
+        throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("remove it")});
+    }
+    auto file = std::make_unique<AtomicFile>(path);
+    MakeDelta(before, TreeOf(item), *file, path, m_workplace.console.err);
+    InputFile const made = file->ForReading();
+    if (!SavesEnough(made.size, item.signature.length))
+    {
         m_workplace.Warn(
             path, QStringLiteral("not published: saves less than a tenth of the whole archive"),
             QStringLiteral("nothing is to be done; clients of version %1 take the archive").arg(base.versionText));
         return;
     }
-    item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(fileName)});
+    item.deltas.push_back({fileName, base.versionText, m_workplace.key.Sign(made)});
+    m_made.push_back(std::move(file));
+}
+
+void DeltaStage::Commit()
+{
+    for (std::unique_ptr<AtomicFile> const& file : m_made)
+    {
+        file->Commit(ExistingFile::Keep);
+    }
+    m_made.clear();
 }
 
 } // namespace Pelnar::Publisher

@@ -2,8 +2,10 @@
 // Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
+#include "Publisher/files/AtomicFile.h"
 #include "Publisher/generate/Workplace.h"
 
+#include <memory>
 #include <optional>
 
 namespace Pelnar::Publisher
@@ -20,8 +22,12 @@ public:
 
     /// Gives each of \a items the deltas to it that lie in the folder, and the newest bundle for Linux, unless a
     /// published one is newer, deltas from the \a count versions before it whose archives lie in the folder. A delta is
-    /// taken only when it makes the very bundle of the item's archive and saves a tenth of that. Throws Refusal.
+    /// taken only when it makes the very bundle of the item's archive and saves a tenth of that. Nothing is seen in the
+    /// folder until Commit. Throws Refusal.
     void AddTo(std::vector<NewItem>& items, int count);
+
+    /// Gives the deltas that were made their names in the folder. Throws Refusal.
+    void Commit();
 
 private:
     /// A bundle for Linux whose archive lies in the folder.
@@ -46,6 +52,7 @@ private:
     // The bundle that was unpacked last: all deltas to it are made one after the other.
     QString m_treeName;
     std::optional<BundleTree> m_tree;
+    std::vector<std::unique_ptr<AtomicFile>> m_made;
 };
 
 } // namespace Pelnar::Publisher

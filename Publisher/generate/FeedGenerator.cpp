@@ -1,18 +1,22 @@
 #include "Publisher/generate/FeedGenerator.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
-#include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"
+#include "Publisher/files/FolderLock.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
+#include "Publisher/generate/PublishedArchives.h"
 #include "Publisher/lint/LintReport.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
+#include <QDateTime>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <climits>
+#include <set>
 
 namespace Pelnar::Publisher
 {
@@ -23,46 +27,31 @@ constexpr char FEED_FILE[] = "appcast.xml";
 QString const FEED_PREFIX = QStringLiteral("sparkle");
 QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
-Engine::UpdateFault CheckSignature(Workplace const& workplace, InputFile const& file, Engine::FeedItem const& item)
+/// The moment of a build that must come out the same wherever it is made, else now. Never a time of the archive: a
+/// checkout or a copy gives files another. Throws Refusal.
+std::int64_t MomentOfPublication()
 {
-    Progress bar(workplace.console.err, QStringLiteral("Verifying"));
-    bar.Show(0, 1); // the verdict comes at once
-    return Engine::VerifyFileSignature(file.descriptor.Get(), item.edSignature.toStdString(),
-                                       {workplace.key.PublicKeyText().toStdString()});
+    QByteArray const text = qgetenv("SOURCE_DATE_EPOCH");
+    bool isNumber = false;
+    qint64 const seconds = text.toLongLong(&isNumber);
+    if (!text.isEmpty() && (!isNumber || seconds < 0))
+    {
+        throw Refusal({QString(), 0, 0,
+                       QStringLiteral("SOURCE_DATE_EPOCH is \"%1\"").arg(Printable(QString::fromLocal8Bit(text))),
+                       QStringLiteral("give the seconds since 1970, or unset it")});
+    }
+    return text.isEmpty() ? QDateTime::currentSecsSinceEpoch() : seconds;
 }
 
-/// The archives that are not in the feed. Those that are must be what the feed says.
-std::vector<FolderArchive> NewArchives(Workplace const& workplace, PublishedFeed const& feed,
-                                       std::vector<FolderArchive> const& archives)
+DownloadAddress AddressOf(GenerateRequest const& request)
 {
-    std::vector<FolderArchive> fresh;
-    for (FolderArchive const& archive : archives)
+    if (request.urlTemplate.empty() && request.urlPrefix.empty())
     {
-        Engine::FeedItem const* const item = workplace.FindPublished(feed, archive.fileName);
-        if (!item)
-        {
-            fresh.push_back(archive);
-            continue;
-        }
-        QString const path = workplace.PathOf(archive.fileName);
-        InputFile const file = OpenInputFile(path);
-        if (file.size != item->contentLength)
-        {
-            throw Refusal(
-                {path, 0, 0,
-                 QStringLiteral("is of %1 bytes, but is published with %2 (line %3 of the feed)")
-                     .arg(file.size)
-                     .arg(item->contentLength)
-                     .arg(item->line),
-                 QStringLiteral("put the published file back, and give a changed one a new version and name")});
-        }
-        if (CheckSignature(workplace, file, *item) != Engine::UpdateFault::None)
-        {
-            workplace.Warn(path, QStringLiteral("does not bear the published signature of this key"),
-                           QStringLiteral("right only for what another key signed; else put the published file back"));
-        }
+        throw Refusal({QString(), 0, 0, QStringLiteral("--url-prefix is required"),
+                       QStringLiteral("give it, or --url-template; see pelnar-appcast generate --help")});
     }
-    return fresh;
+    return request.urlTemplate.empty() ? DownloadAddress::UnderPrefix(QString::fromStdString(request.urlPrefix))
+                                       : DownloadAddress::ByPattern(QString::fromStdString(request.urlTemplate));
 }
 
 /// The feed that is published, or an empty one.
@@ -74,15 +63,6 @@ FeedContent ReadFeedFile(QString const& feedFile, SigningKey const& key)
     }
     QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, QStringLiteral("drop old items"));
     return ReadFeedContent(feedFile, bytes, key, ChangedFeed::Refused);
-}
-
-PublishedFeed OpenFeed(GenerateRequest const& request, QString const& feedFile, QByteArray const& content,
-                       QString const& title)
-{
-    QString const link = QString::fromStdString(request.link.empty() ? request.urlPrefix : request.link);
-    QUrl const address = DownloadAddress(QString::fromStdString(request.urlPrefix)).Of(QFileInfo(feedFile).fileName());
-    bool const isNew = !QFileInfo::exists(feedFile);
-    return PublishedFeed(feedFile, isNew ? EmptyFeedText(title, link).toUtf8() : content, address);
 }
 
 std::vector<Addition> AdditionsOf(std::vector<NewItem> const& items, PublishedFeed const& feed,
@@ -120,11 +100,6 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
         QStringLiteral("%1: %2 added, %3 kept").arg(feedFile, CountOf(items.size(), QStringLiteral("item"))).arg(kept));
 }
 
-QUrl FeedAddressOf(Workplace const& workplace, QString const& feedFile)
-{
-    return workplace.address.Of(QFileInfo(feedFile).fileName());
-}
-
 void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& address)
 {
     PublishedFeed const proof(feedFile, bytes, address);
@@ -133,64 +108,200 @@ void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& add
     file.Commit(ExistingFile::Replace);
 }
 
-/// What lint says of the whole feed, for what was published before may need mending as well.
-ExitStatus Judge(Console const& console, QString const& feedFile, QByteArray const& bytes, QUrl const& address)
+/// What a finding says, without the lines that move when items are added.
+std::pair<LintRule, QString> KindOf(LintFinding const& finding)
 {
-    std::vector<LintFinding> const findings = LintFeed(bytes, address).findings;
-    if (!findings.empty())
-    {
-        PrintFindings(feedFile, findings, console);
-    }
-    return StatusOf(findings, Strictness::Everything);
+    static QRegularExpression const LINE(QStringLiteral("line [0-9]+"));
+    return {finding.rule, QString(finding.what).replace(LINE, QStringLiteral("line"))};
 }
+
+/// Throws Refusal for errors that the feed did not have before.
+void RefuseNewErrors(QString const& feedFile, std::vector<LintFinding> const& before,
+                     std::vector<LintFinding> const& after)
+{
+    std::set<std::pair<LintRule, QString>> known;
+    for (LintFinding const& finding : before)
+    {
+        known.insert(KindOf(finding));
+    }
+    RefusalList refusals;
+    for (LintFinding const& finding : after)
+    {
+        LintRuleEntry const& entry = EntryOf(finding.rule);
+        if (entry.severity == Severity::Error && known.count(KindOf(finding)) == 0)
+        {
+            refusals.Add({feedFile, finding.place.line, finding.place.column,
+                          QStringLiteral("%1: %2").arg(QLatin1String(entry.name), finding.what),
+                          QString::fromLatin1(entry.mend)});
+        }
+    }
+    refusals.ThrowIfAny();
+}
+
+/// One run over a folder that it has for itself.
+class FeedRun
+{
+public:
+    FeedRun(GenerateRequest const& request, SigningKey const& key, Console const& console)
+        : m_request(request)
+        , m_key(key)
+        , m_console(console)
+        , m_workplace{QString::fromStdString(request.folder),
+                      AddressOf(request),
+                      key,
+                      console,
+                      *Engine::MachineOfName(request.machine),
+                      MomentOfPublication(),
+                      request.publicKeys}
+        , m_feedFile(request.feedFile.empty() ? m_workplace.PathOf(QLatin1String(FEED_FILE))
+                                              : QString::fromStdString(request.feedFile))
+        , m_address(m_workplace.address.OfFeed(QFileInfo(m_feedFile).fileName()))
+        , m_isNew(!QFileInfo::exists(m_feedFile))
+    {
+    }
+
+    QString const& FeedFile() const { return m_feedFile; }
+
+    ExitStatus Run()
+    {
+        std::vector<FolderArchive> const archives = ScanFolder(m_workplace.folder);
+        m_published = ReadFeedFile(m_feedFile, m_key);
+        PublishedFeed feed = OpenFeed(QString::fromStdString(m_request.title));
+        std::vector<NewItem> items = TakeNew(feed, archives);
+        DeltaStage deltas(m_workplace, feed, archives);
+        deltas.AddTo(items, m_request.deltaCount);
+        std::stable_sort(items.begin(), items.end(),
+                         [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
+        if (items.empty() && m_isNew)
+        {
+            throw Refusal({m_workplace.folder, 0, 0, QStringLiteral("holds no archive"),
+                           QStringLiteral("put zip or tar archives of bundles there, or installers whose names are "
+                                          "marked .sparkle_guided. or .sparkle_interactive.")});
+        }
+        std::size_t const kept = feed.Items().size();
+        QByteArray const bytes = FeedWith(items, feed);
+        std::vector<LintFinding> const findings = LintFeed(bytes, m_address).findings;
+        RefuseNewErrors(m_feedFile,
+                        m_isNew ? std::vector<LintFinding>() : LintFeed(m_published.bytes, m_address).findings,
+                        findings);
+        if (!items.empty() || m_terms)
+        {
+            deltas.Commit();
+            WriteFeed(m_feedFile, bytes, m_address);
+        }
+        Report(m_console, m_feedFile, items, kept);
+        TellIgnored(archives, items);
+        return Judge(findings);
+    }
+
+private:
+    PublishedFeed OpenFeed(QString const& title) const
+    {
+        QString const link = m_request.link.empty() ? LinkOfFiles() : QString::fromStdString(m_request.link);
+        return PublishedFeed(m_feedFile, m_isNew ? EmptyFeedText(title, link).toUtf8() : m_published.bytes, m_address);
+    }
+
+    QString LinkOfFiles() const
+    {
+        return m_request.urlTemplate.empty() ? QString::fromStdString(m_request.urlPrefix)
+                                             : m_address.resolved(QUrl(QStringLiteral("."))).toString();
+    }
+
+    std::vector<NewItem> TakeNew(PublishedFeed const& feed, std::vector<FolderArchive> const& archives) const
+    {
+        RefusalList refusals;
+        PublishedArchives published(m_workplace, feed);
+        std::vector<FolderArchive> const fresh = published.FindNew(archives, refusals);
+        bool const hasNewVersion =
+            std::any_of(fresh.begin(), fresh.end(),
+                        [](FolderArchive const& archive) { return archive.kind != ArchiveKind::Delta; });
+        std::vector<NewItem> items;
+        if (hasNewVersion)
+        {
+            ArchiveIntake intake(m_workplace, feed, published.Versions(refusals));
+            items = intake.Take(fresh, refusals);
+        }
+        refusals.ThrowIfAny();
+        return items;
+    }
+
+    /// The feed with \a items, signed when it is to be.
+    QByteArray FeedWith(std::vector<NewItem> const& items, PublishedFeed& feed)
+    {
+        if (m_request.title.empty() && !items.empty())
+        {
+            feed = OpenFeed(items.front().productName); // only now is the product's name known
+        }
+        QByteArray const bytes = feed.With(AdditionsOf(items, feed, m_workplace.address));
+        bool const isNewlySigned = m_request.isFeedSigned && !m_published.isSigned;
+        if (!isNewlySigned && (!m_published.isSigned || items.empty()))
+        {
+            return bytes;
+        }
+        SignedFeedBytes signedFeed =
+            SignFeed(m_feedFile, bytes, m_key, {{}, m_request.validDays, QDateTime::currentDateTimeUtc()});
+        m_terms = signedFeed.terms;
+        return signedFeed.bytes;
+    }
+
+    void TellIgnored(std::vector<FolderArchive> const& archives, std::vector<NewItem> const& items) const
+    {
+        QStringList ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
+        for (NewItem const& item : items)
+        {
+            for (NewDelta const& delta : item.deltas)
+            {
+                ignored.removeAll(delta.fileName);
+            }
+        }
+        if (!ignored.isEmpty())
+        {
+            m_console.Print(Printable(QStringLiteral("ignored, as neither archives nor notes of one: ") +
+                                      ignored.join(QStringLiteral(", "))));
+        }
+    }
+
+    /// What lint says of the whole feed, for what was published before may need mending as well.
+    ExitStatus Judge(std::vector<LintFinding> const& findings) const
+    {
+        if (m_terms)
+        {
+            m_console.Print(QStringLiteral("%1: %2").arg(m_feedFile, TextOf(*m_terms)));
+        }
+        if (!findings.empty())
+        {
+            PrintFindings(m_feedFile, findings, m_console);
+        }
+        return StatusOf(findings, Strictness::Everything);
+    }
+
+    GenerateRequest const& m_request;
+    SigningKey const& m_key;
+    Console const& m_console;
+    Workplace const m_workplace;
+    QString const m_feedFile;
+    QUrl const m_address;
+    bool const m_isNew;
+    FeedContent m_published;
+    std::optional<Engine::FeedTerms> m_terms; ///< of the signature that was made
+};
 
 } // namespace
 
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
 {
+    CheckPublicKeys(request.publicKeys);
     SigningKey const key = SigningKey::Load(QString::fromStdString(request.keyFile));
+    FeedRun const preview(request, key, console); // bad options are told before another run is waited for
     QString const folder = QString::fromStdString(request.folder);
-    Workplace const workplace{folder, DownloadAddress(QString::fromStdString(request.urlPrefix)), key, console};
-    QString const feedFile = request.feedFile.empty() ? workplace.PathOf(QLatin1String(FEED_FILE))
-                                                      : QString::fromStdString(request.feedFile);
-    std::vector<FolderArchive> const archives = ScanFolder(folder);
-    QString title = QString::fromStdString(request.title);
-    FeedContent const published = ReadFeedFile(feedFile, key);
-    PublishedFeed feed = OpenFeed(request, feedFile, published.bytes, title);
-
-    std::vector<NewItem> items = ArchiveIntake(workplace, feed).Take(NewArchives(workplace, feed, archives));
-    DeltaStage(workplace, feed, archives).AddTo(items, request.deltaCount);
-    std::stable_sort(items.begin(), items.end(),
-                     [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
-    if (items.empty() && !QFileInfo::exists(feedFile))
+    FolderLock const lock(folder, console);
+    QString const feedFolder = QFileInfo(preview.FeedFile()).absolutePath();
+    std::optional<FolderLock> feedLock;
+    if (!lock.Holds(feedFolder))
     {
-        throw Refusal({folder, 0, 0, QStringLiteral("holds no archive"),
-                       QStringLiteral("put zip or tar archives of bundles there, or installers whose names are marked "
-                                      ".sparkle_guided. or .sparkle_interactive.")});
+        feedLock.emplace(feedFolder, console);
     }
-    if (title.isEmpty() && !items.empty())
-    {
-        // Only now is the product's name known.
-        feed = OpenFeed(request, feedFile, published.bytes, items.front().productName);
-    }
-    QByteArray bytes = feed.With(AdditionsOf(items, feed, workplace.address));
-    bool const isNewlySigned = request.isFeedSigned && !published.isSigned;
-    std::optional<SignedFeedBytes> signedFeed;
-    if (isNewlySigned || (published.isSigned && !items.empty()))
-    {
-        signedFeed = SignFeed(feedFile, bytes, key, {{}, request.validDays, QDateTime::currentDateTimeUtc()});
-        bytes = signedFeed->bytes;
-    }
-    if (!items.empty() || signedFeed)
-    {
-        WriteFeed(feedFile, bytes, FeedAddressOf(workplace, feedFile));
-    }
-    Report(console, feedFile, items, feed.Items().size());
-    if (signedFeed)
-    {
-        console.Print(QStringLiteral("%1: %2").arg(feedFile, TextOf(signedFeed->terms)));
-    }
-    return Judge(console, feedFile, bytes, FeedAddressOf(workplace, feedFile));
+    return FeedRun(request, key, console).Run();
 }
 
 } // namespace Pelnar::Publisher

@@ -5,9 +5,12 @@
 #include "Publisher/Refusal.h"
 
 #include <QDir>
+#include <QLocale>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
+#include <map>
 
 namespace Pelnar::Publisher
 {
@@ -141,6 +144,43 @@ QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
     return format == Engine::ReleaseNotesFormat::Html ? text : QString::fromStdString(shown.html);
 }
 
+struct NotesFile
+{
+    QString fileName;
+    QString language;
+    Engine::ReleaseNotesFormat format;
+};
+
+/// "de" and "pt_BR" as xml:lang writes them; nothing for a text that names no language.
+std::optional<QString> LanguageOf(QString const& text)
+{
+    static QRegularExpression const FORM(QStringLiteral("^[A-Za-z]{2,3}([-_][A-Za-z0-9]{2,8})*$"));
+    bool const isLanguage = FORM.match(text).hasMatch() &&
+                            QLocale(QString(text).replace(QLatin1Char('-'), QLatin1Char('_'))) != QLocale::c();
+    return isLanguage ? QString(text).replace(QLatin1Char('_'), QLatin1Char('-')) : std::optional<QString>();
+}
+
+/// What \a name is as notes of the archive with that stem; nothing when it is none of its notes.
+std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
+{
+    for (NotesEnding const& ending : NOTES_ENDINGS)
+    {
+        std::optional<QString> const front = StemOf(name, ending.ending);
+        if (front == stem)
+        {
+            return NotesFile{name, {}, ending.format};
+        }
+        if (front && front->startsWith(stem + QLatin1Char('.')))
+        {
+            if (std::optional<QString> const language = LanguageOf(front->mid(stem.size() + 1)))
+            {
+                return NotesFile{name, *language, ending.format};
+            }
+        }
+    }
+    return std::nullopt;
+}
+
 void RefuseLink(QString const& path)
 {
     if (QFileInfo(path).isSymLink())
@@ -180,30 +220,51 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
     return archives;
 }
 
-std::optional<QString> ReadReleaseNotes(QString const& folder, QString const& stem)
+std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem)
 {
-    NotesEnding const* found = nullptr;
-    for (NotesEnding const& ending : NOTES_ENDINGS)
+    std::map<QString, NotesFile> byLanguage;
+    QDir const entries(folder);
+    QStringList const names = entries.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
+    for (QString const& name : names)
     {
-        QFileInfo const file(PathIn(folder, stem + QLatin1String(ending.ending)));
-        if (!file.exists() && !file.isSymLink())
+        std::optional<NotesFile> const notes = NotesOf(name, stem);
+        if (!notes)
         {
             continue;
         }
-        RefuseLink(file.filePath());
-        if (found)
+        RefuseLink(PathIn(folder, name));
+        auto const [known, isNew] = byLanguage.emplace(notes->language, *notes);
+        if (!isNew)
         {
-            throw Refusal({file.filePath(), 0, 0,
-                           QStringLiteral("there are notes in %1 as well").arg(stem + QLatin1String(found->ending)),
+            throw Refusal({PathIn(folder, name), 0, 0,
+                           QStringLiteral("there are notes in %1 as well").arg(known->second.fileName),
                            QStringLiteral("keep one of the two")});
         }
-        found = &ending;
     }
-    if (!found)
+    std::vector<ReleaseNotes> result;
+    for (auto const& [language, notes] : byLanguage)
     {
-        return std::nullopt;
+        result.push_back({language, ReadNotesFile(PathIn(folder, notes.fileName), notes.format)});
     }
-    return ReadNotesFile(PathIn(folder, stem + QLatin1String(found->ending)), found->format);
+    return result;
+}
+
+QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile)
+{
+    QStringList ignored;
+    QStringList const names = QDir(folder).entryList(QDir::Files | QDir::System, QDir::Name);
+    for (QString const& name : names)
+    {
+        bool const isKnown =
+            QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
+            std::any_of(archives.begin(), archives.end(),
+                        [&](FolderArchive const& each) { return each.fileName == name || NotesOf(name, each.stem); });
+        if (!isKnown)
+        {
+            ignored.append(name);
+        }
+    }
+    return ignored;
 }
 
 } // namespace Pelnar::Publisher

@@ -5,6 +5,7 @@
 #include "Publisher/files/InputFile.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <vector>
@@ -32,10 +33,20 @@ struct FolderArchive
 /// folder that cannot be read, and for a link with the name of an archive.
 std::vector<FolderArchive> ScanFolder(QString const& folder);
 
-/// The notes beside an archive as the text of an item's description: HTML that every client shows alike. Notes are
-/// STEM.html, .htm, .md, .markdown or .txt. Nothing when there are none. Throws Refusal: for several, for notes that
-/// cannot be read, are not UTF-8, or are over the limits with which clients show them.
-std::optional<QString> ReadReleaseNotes(QString const& folder, QString const& stem);
+/// Notes as the text of an item's description: HTML that every client shows alike.
+struct ReleaseNotes
+{
+    QString language; ///< as xml:lang writes it; empty for those that are for everybody else
+    QString html;
+};
+
+/// The notes beside an archive, those without a language first. Notes are STEM.html, .htm, .md, .markdown or .txt, and
+/// in a language STEM.LANGUAGE.html and so on. Throws Refusal: for several of one language, for notes that cannot be
+/// read, are not UTF-8, or are over the limits with which clients show them.
+std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem);
+
+/// The files of \a folder that are neither one of \a archives nor notes of one nor \a feedFile, hidden ones left out.
+QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile);
 
 /// The path of \a fileName in \a folder, as it is shown as well.
 QString PathIn(QString const& folder, QString const& fileName);

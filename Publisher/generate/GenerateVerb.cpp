@@ -1,6 +1,8 @@
 #include "Publisher/generate/GenerateVerb.h"
 
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/FeedGenerator.h"
 #include "Publisher/signfeed/SignFeedVerb.h"
 
@@ -17,14 +19,24 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "what is published stays as it is");
     verb.add_option("FOLDER", request->folder,
                     "Folder of zip and tar archives of bundles, installers, deltas, and release notes beside them "
-                    "(NAME.html, .md or .txt)")
+                    "(NAME.html, .md or .txt, and in a language NAME.de.html)")
         ->required();
     verb.add_option("--key", request->keyFile, "File of the private key, or \"-\" for standard input")
         ->required()
         ->type_name("FILE");
-    verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
+    CLI::Option* const prefix =
+        verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
+            ->type_name("URL");
+    verb.add_option("--url-template", request->urlTemplate,
+                    "Instead of a prefix, where each release has a place of its own: an address that ends in {file} "
+                    "and may hold {version}")
         ->type_name("URL")
-        ->required();
+        ->excludes(prefix);
+    request->machine = Engine::NameOf(Engine::OwnMachine());
+    AddMachineOption(verb, request->machine);
+    AddPublicKeysOption(verb, request->publicKeys,
+                        "A key that signed what is published and that no bundle in the folder trusts, in base64; may "
+                        "be given again");
     verb.add_option("-o,--output", request->feedFile, "Feed to write; without this appcast.xml in the folder")
         ->type_name("FILE");
     verb.add_option("--title", request->title, "Title of a new feed; without this the product's name");
@@ -37,7 +49,9 @@ void AddGenerate(CLI::App& program, VerbContext& context)
     verb.add_flag("--sign-feed", request->isFeedSigned,
                   "Sign the feed itself as well; one that has a signature is always signed again when it changes");
     AddValidForOption(verb, request->validDays);
-    SetWork(verb, context, [&context, request] { return GenerateFeed(*request, context.console); });
+    SetWork(verb, context,
+            [&context, request]
+            { return JudgeRelease(context.console, [&] { return GenerateFeed(*request, context.console); }); });
 }
 
 } // namespace Pelnar::Publisher

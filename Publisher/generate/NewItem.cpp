@@ -14,6 +14,9 @@ namespace
 
 QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
 
+QString const FILE_PLACE = QStringLiteral("{file}");
+QString const VERSION_PLACE = QStringLiteral("{version}");
+
 char const* PlatformName(Engine::FeedPlatform platform)
 {
     switch (platform)
@@ -84,14 +87,16 @@ public:
         QString const& shown = m_item.displayVersion.isEmpty() ? m_item.versionText : m_item.displayVersion;
         QStringList lines{QStringLiteral("<item>"),
                           Inner(Element(QStringLiteral("title"), m_item.productName + QLatin1Char(' ') + shown)),
-                          Inner(Element(QStringLiteral("pubDate"), DateText(m_item.changedAt)))};
+                          Inner(Element(QStringLiteral("pubDate"), DateText(m_item.publishedAt)))};
         if (!m_item.minimumSystemVersion.isEmpty())
         {
             lines << Inner(Element(m_feed + QStringLiteral("minimumSystemVersion"), m_item.minimumSystemVersion));
         }
-        if (m_item.notes)
+        for (ReleaseNotes const& notes : m_item.notes)
         {
-            lines << Inner(QStringLiteral("<description>%1</description>").arg(CharacterData(*m_item.notes)));
+            QString const language =
+                notes.language.isEmpty() ? QString() : Attribute(QStringLiteral("xml:lang"), notes.language);
+            lines << Inner(QStringLiteral("<description%1>%2</description>").arg(language, CharacterData(notes.html)));
         }
         lines << Inner(EnclosureText());
         if (!m_item.deltas.empty())
@@ -103,11 +108,22 @@ public:
             }
             lines << Inner(QStringLiteral("</%1deltas>").arg(m_feed));
         }
+        lines << Inner(KeysText());
         return lines << QStringLiteral("</item>");
     }
 
 private:
     static QString Inner(QString const& line) { return QStringLiteral("  ") + line; }
+
+    QString KeysText() const
+    {
+        QString const trusted = m_item.trustedIds.isEmpty()
+                                    ? QString()
+                                    : Attribute(QStringLiteral("trusted"), m_item.trustedIds.join(QLatin1Char(' ')));
+        return QStringLiteral("<pelnar:keys xmlns:pelnar=\"%1\"%2%3/>")
+            .arg(QLatin1String(Engine::OWN_FEED_NAMESPACE), Attribute(QStringLiteral("signer"), m_item.signerId),
+                 trusted);
+    }
 
     QString EnclosureText() const
     {
@@ -133,7 +149,8 @@ private:
     {
         QString const platform = Attribute(m_feed + QStringLiteral("os"), QLatin1String(PlatformName(m_item.platform)));
         return QStringLiteral("<enclosure") +
-               Attribute(QStringLiteral("url"), m_address.Of(fileName).toString(QUrl::FullyEncoded)) +
+               Attribute(QStringLiteral("url"),
+                         m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +
                Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform +
                Attribute(QStringLiteral("length"), QString::number(signature.length)) +
                Attribute(QStringLiteral("type"), QStringLiteral("application/octet-stream")) +
@@ -147,30 +164,51 @@ private:
 
 } // namespace
 
-DownloadAddress::DownloadAddress(QString const& prefix) : m_prefix(prefix)
+DownloadAddress DownloadAddress::UnderPrefix(QString const& prefix)
 {
-    if (!m_prefix.endsWith(QLatin1Char('/')))
-    {
-        m_prefix += QLatin1Char('/');
-    }
-    QUrl const url(m_prefix, QUrl::StrictMode);
+    bool const hasBraces = prefix.contains(QLatin1Char('{'));
+    QString const slash = prefix.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
+    return DownloadAddress(QStringLiteral("--url-prefix: \"%1\"").arg(prefix),
+                           hasBraces ? QString() : prefix + slash + FILE_PLACE);
+}
+
+DownloadAddress DownloadAddress::ByPattern(QString const& pattern)
+{
+    return DownloadAddress(QStringLiteral("--url-template: \"%1\"").arg(pattern), pattern);
+}
+
+DownloadAddress::DownloadAddress(QString option, QString pattern) : m_pattern(std::move(pattern))
+{
+    QUrl const url = Of(QStringLiteral("file"), QStringLiteral("1"));
     bool const isSecure = url.scheme() == QLatin1String("https");
     bool const isForDryRun = url.scheme() == QLatin1String("http") && IsThisComputer(url);
     bool const isPlain = url.userInfo().isEmpty() && !url.hasQuery() && !url.hasFragment();
-    if (!url.isValid() || url.host().isEmpty() || !isPlain || !(isSecure || isForDryRun))
+    bool const isComplete = m_pattern.count(FILE_PLACE) == 1 && m_pattern.endsWith(FILE_PLACE) &&
+                            !url.toString().contains(QLatin1Char('{')) &&
+                            !url.toString().contains(QLatin1String("%7B"));
+    if (!url.isValid() || url.host().isEmpty() || !isPlain || !isComplete || !(isSecure || isForDryRun))
     {
         throw Refusal({{},
                        0,
                        0,
-                       QStringLiteral("--url-prefix: \"%1\" is no folder that clients download from").arg(prefix),
+                       option + QStringLiteral(" is no place that clients download from"),
                        QStringLiteral("give an address such as https://updates.example.com/app/ (http only for this "
-                                      "computer)")});
+                                      "computer), or as a template https://updates.example.com/{version}/{file}")});
     }
 }
 
-QUrl DownloadAddress::Of(QString const& fileName) const
+QUrl DownloadAddress::Of(QString const& fileName, QString const& version) const
 {
-    return QUrl(m_prefix + QString::fromLatin1(QUrl::toPercentEncoding(fileName)), QUrl::StrictMode);
+    auto const encoded = [](QString const& text) { return QString::fromLatin1(QUrl::toPercentEncoding(text)); };
+    QString address = m_pattern;
+    address.replace(VERSION_PLACE, encoded(version)).replace(FILE_PLACE, encoded(fileName));
+    return QUrl(address, QUrl::StrictMode);
+}
+
+QUrl DownloadAddress::OfFeed(QString const& fileName) const
+{
+    bool const isFolder = !m_pattern.contains(VERSION_PLACE);
+    return isFolder ? Of(fileName, {}) : Of({}, {}).resolved(QUrl(QLatin1Char('/') + fileName));
 }
 
 QString ItemText(NewItem const& item, DownloadAddress const& address, QString const& feedPrefix,

@@ -32,9 +32,11 @@ struct NewItem
     Core::Version version;        ///< of versionText, all four components present
     QString displayVersion;       ///< empty when the bundle gives none
     QString minimumSystemVersion; ///< empty when the bundle gives none
-    std::int64_t changedAt = 0;   ///< of the archive, in seconds since 1970
-    std::optional<QString> notes; ///< HTML
+    std::int64_t publishedAt = 0; ///< in seconds since 1970
+    std::vector<ReleaseNotes> notes;
     ArchiveSignature signature;
+    QString signerId;       ///< of the key that signed
+    QStringList trustedIds; ///< of the keys that the bundle trusts
     std::vector<NewDelta> deltas;
 };
 
@@ -42,13 +44,19 @@ struct NewItem
 class DownloadAddress
 {
 public:
-    /// Throws Refusal unless \a prefix is the address of a folder that clients download from.
-    explicit DownloadAddress(QString const& prefix);
+    /// Of a folder. Throws Refusal unless \a prefix is the address of one that clients download from.
+    static DownloadAddress UnderPrefix(QString const& prefix);
+    /// \a pattern has "{file}" in it once, and "{version}" where the item's version stands. Throws Refusal.
+    static DownloadAddress ByPattern(QString const& pattern);
 
-    QUrl Of(QString const& fileName) const;
+    QUrl Of(QString const& fileName, QString const& version) const;
+    /// Where a feed of that name lies, as far as the pattern tells: relative addresses begin there.
+    QUrl OfFeed(QString const& fileName) const;
 
 private:
-    QString m_prefix; ///< ends in "/"
+    DownloadAddress(QString option, QString pattern);
+
+    QString m_pattern;
 };
 
 /// The item's text, without blanks before it and after it, its lines indented below \a indentation. \a feedPrefix is

@@ -36,6 +36,7 @@ public:
     /// what clients cannot read, and for a feed that cannot be added to (not UTF-8, without a channel).
     PublishedFeed(QString name, QByteArray bytes, QUrl const& address);
 
+    QString const& Name() const { return m_name; }
     std::vector<PublishedItem> const& Items() const { return m_items; }
     /// The prefix that is bound to the feed's namespace wherever an item may stand; empty when there is none.
     QString const& FeedPrefix() const { return m_feedPrefix; }

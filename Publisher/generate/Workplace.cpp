@@ -3,8 +3,8 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
 #include "Publisher/Progress.h"
 #include "Publisher/delta/DeltaFile.h"
+#include "Publisher/keys/KeyId.h"
 
-#include <algorithm>
 #include <ostream>
 
 namespace Pelnar::Publisher
@@ -39,23 +39,33 @@ void Workplace::Warn(QString const& path, QString const& what, QString const& me
                        << TextOf({path, 0, 0, what, mend}).toStdString() << '\n';
 }
 
+QString Workplace::KeyId() const
+{
+    return KeyIdOf(key.PublicKeyText().toStdString());
+}
+
 Engine::FeedItem const* Workplace::FindPublished(PublishedFeed const& feed, QString const& fileName) const
 {
-    QUrl const wanted = address.Of(fileName);
+    Engine::FeedItem const* sameName = nullptr;
     for (PublishedItem const& published : feed.Items())
     {
-        if (IsSameFile(published.item.fileUrl, wanted))
+        QUrl const wanted = address.Of(fileName, published.item.versionString);
+        std::vector<Engine::FeedItem const*> downloads{&published.item};
+        for (Engine::FeedItem const& delta : published.item.deltas)
         {
-            return &published.item;
+            downloads.push_back(&delta);
         }
-        auto const delta = std::find_if(published.item.deltas.begin(), published.item.deltas.end(),
-                                        [&wanted](auto const& other) { return IsSameFile(other.fileUrl, wanted); });
-        if (delta != published.item.deltas.end())
+        for (Engine::FeedItem const* const download : downloads)
         {
-            return &*delta;
+            if (IsSameFile(download->fileUrl, wanted))
+            {
+                return download;
+            }
+            bool const hasName = download->fileUrl.fileName(QUrl::FullyDecoded) == fileName;
+            sameName = hasName && !sameName ? download : sameName;
         }
     }
-    return nullptr;
+    return sameName;
 }
 
 Core::Version WholeVersion(QString const& text)

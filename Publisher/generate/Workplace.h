@@ -2,6 +2,7 @@
 // Thread: the main thread. Ownership: refers to the key and the console, which outlive it.
 #pragma once
 
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/Console.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/generate/FolderScan.h"
@@ -18,12 +19,19 @@ struct Workplace
     SigningKey const& key;
     Console const& console;
 
+    Engine::Machine machine;             ///< that programs for Linux are for
+    std::int64_t publishedAt = 0;        ///< of new items, in seconds since 1970
+    std::vector<std::string> publicKeys; ///< of keys, besides the one that signs, by which something was published
+
     QString PathOf(QString const& fileName) const { return PathIn(folder, fileName); }
+    /// Of the key that signs.
+    QString KeyId() const;
     BundleTree Unpack(QString const& fileName) const;
     ArchiveSignature Sign(QString const& fileName) const;
     /// Tells of what does not keep the feed from being made.
     void Warn(QString const& path, QString const& what, QString const& mend) const;
-    /// The item, or the delta, of \a feed that \a fileName is the download of; null for a file that is not published.
+    /// The item, or the delta, of \a feed that \a fileName is the download of, at its address or, for files that were
+    /// published elsewhere, by its name; null for a file that is not published.
     Engine::FeedItem const* FindPublished(PublishedFeed const& feed, QString const& fileName) const;
 };
 

@@ -255,7 +255,8 @@ ArchiveSignature SigningKey::Sign(InputFile const& archive) const
         throw Refusal({archive.name, 0, 0,
                        archive.size == 0 ? QStringLiteral("is empty")
                                          : QStringLiteral("is larger than the 16 GiB that clients download"),
-                       QStringLiteral("give the archive that is to be published")});
+                       QStringLiteral("give the archive that is to be published")},
+                      RefusalCause::Content);
     }
     Engine::FileMapping const mapping(archive.descriptor.Get(), archive.size);
     if (!mapping.IsValid())

@@ -2,7 +2,10 @@
 
 #include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"
+#include "Publisher/files/FolderLock.h"
 #include "Publisher/signfeed/FeedSigner.h"
+
+#include <QFileInfo>
 
 #include <climits>
 #include <memory>
@@ -26,6 +29,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
 {
     QString const name = QString::fromStdString(options.feed);
     QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
+    FolderLock const lock(QFileInfo(output).absolutePath(), console);
     QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
     SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;

@@ -131,6 +131,7 @@ std::vector<Surroundings> Locales()
 QProcessEnvironment EnvironmentWith(Surroundings const& surroundings)
 {
     QProcessEnvironment environment;
+    environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1767268800"));
     // What the leak checker lets pass in the C library.
     environment.insert(QStringLiteral("LSAN_OPTIONS"), qEnvironmentVariable("LSAN_OPTIONS"));
     for (std::string const& variable : surroundings.variables)

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDateTime>
 #include <QFile>
 
 #include <algorithm>
@@ -111,7 +112,10 @@ std::string InstallerOf(std::string const& version)
 TEST(Generate, InstallersAreNamedAfterTheirVersionAndStandBesideBundles)
 {
     PublisherFolder const folder;
-    folder.PutVersion("6.0");
+    BundleText bundle;
+    bundle.version = "6.0";
+    bundle.allowsInstallers = "YES";
+    folder.PutBundle(bundle);
     folder.Put("Test_6.0.sparkle_guided.pkg", "xar!guided");
     folder.Put("Test_6.0.1.sparkle_interactive.tar.xz", InstallerOf("6.0.1"));
     folder.GeneratedFeed();
@@ -151,6 +155,87 @@ TEST(Generate, NotesBesideAnArchiveBecomeItsDescription)
         ASSERT_EQ(folder.Items().size(), 1u);
         EXPECT_NE(Text(folder.Items()[0].description).find(row.description), std::string::npos)
             << Text(folder.Items()[0].description);
+    }
+}
+
+TEST(Generate, NotesInALanguageBecomeADescriptionInIt)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.1");
+    folder.Put("Test-1.1.md", "for all");
+    folder.Put("Test-1.1.de.md", "auf Deutsch");
+    folder.Put("Test-1.1.pt_BR.txt", "em portugues");
+    folder.Put("Test-1.1.backup.md", "no language");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("ignored, as neither archives nor notes of one: Test-1.1.backup.md\n"), std::string::npos)
+        << run.out;
+    QByteArray const feed = QByteArray::fromStdString(folder.ContentOf("appcast.xml"));
+    auto const shown = [&](char const* language)
+    {
+        return Text(Engine::ParseFeed(feed, QUrl(), FeedPlatform::Linux, {}, {QLatin1String(language)})
+                        .items.at(0)
+                        .description);
+    };
+    EXPECT_NE(shown("de-AT").find("auf Deutsch"), std::string::npos);
+    EXPECT_NE(shown("pt-BR").find("em portugues"), std::string::npos);
+    EXPECT_NE(shown("fr").find("for all"), std::string::npos);
+}
+
+TEST(Generate, DateIsNeverAFilesTime)
+{
+    PublisherFolder const folder;
+    qunsetenv("SOURCE_DATE_EPOCH");
+    folder.PutVersion("1.0", 3);
+    qint64 const before = QDateTime::currentSecsSinceEpoch();
+    std::string const feed = folder.GeneratedFeed();
+    QString date = folder.Items()[0].dateString;
+    qint64 const said = QDateTime::fromString(date, Qt::RFC2822Date).toSecsSinceEpoch();
+    EXPECT_GE(said, before);
+    EXPECT_LE(said, QDateTime::currentSecsSinceEpoch());
+    for (char const* const bad : {"yesterday", "-1"})
+    {
+        qputenv("SOURCE_DATE_EPOCH", bad);
+        EXPECT_EQ(folder.Generate().status, 2) << bad;
+    }
+}
+
+TEST(Generate, TemplateGivesEachReleaseAPlaceOfItsOwn)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    std::string const first = folder.GeneratedFeed();
+    folder.PutVersion("2.0");
+    QStringList const arguments{
+        QStringLiteral("generate"),       QString::fromStdString(folder.Path()),
+        QStringLiteral("--key"),          folder.KeyFile(),
+        QStringLiteral("--url-template"), QStringLiteral("https://cdn.example.com/v{version}/{file}")};
+    // Old versions stay where they were published.
+    ToolRun const run = RunTool(arguments);
+    EXPECT_EQ(run.status, 0) << run.err;
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 2u);
+    EXPECT_EQ(Text(items[0].fileUrl.toString()), "https://cdn.example.com/v2.0/Test-2.0.zip");
+    EXPECT_EQ(Text(items[0].deltas.at(0).fileUrl.toString()), "https://cdn.example.com/v2.0/Test-1.0-2.0.delta");
+    EXPECT_EQ(Text(items[1].fileUrl.toString()), "https://updates.example.com/test/Test-1.0.zip");
+    std::string const feed = folder.ContentOf("appcast.xml");
+    EXPECT_EQ(RunTool(arguments).status, 0);
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+}
+
+TEST(Generate, TemplateThatNamesNoFileIsRefused)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    for (char const* const pattern :
+         {"https://cdn.example.com/", "https://cdn.example.com/{version}", "https://cdn.example.com/{file}/x",
+          "https://cdn.example.com/{name}/{file}", "http://cdn.example.com/{file}", "{file}"})
+    {
+        ToolRun const run =
+            RunTool({QStringLiteral("generate"), QString::fromStdString(folder.Path()), QStringLiteral("--key"),
+                     folder.KeyFile(), QStringLiteral("--url-template"), QLatin1String(pattern)});
+        EXPECT_EQ(run.status, 2) << pattern;
+        EXPECT_NE(run.err.find("--url-template"), std::string::npos) << run.err;
     }
 }
 
@@ -390,7 +475,7 @@ TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
     folder.Remove("other.zip");
     folder.PutVersion("2.0");
     ToolRun const run = folder.Generate();
-    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.status, 1);
     EXPECT_NE(run.err.find("given.delta: makes another bundle than the archive of that version holds"),
               std::string::npos)
         << run.err;
@@ -426,19 +511,6 @@ TEST(Generate, OptionsNameFeedTitleAndLink)
     EXPECT_FALSE(QFile::exists(folder.PathOf("appcast.xml")));
 }
 
-TEST(Generate, BundleThatTrustsAnotherKeyIsPublishedWithAWarning)
-{
-    PublisherFolder const folder;
-    BundleText text;
-    text.version = "2.0";
-    text.publicKey = MakeKeyPair(9).publicKey;
-    folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
-    ToolRun const run = folder.Generate();
-    EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.err.find("warning: "), std::string::npos);
-    EXPECT_NE(run.err.find("trusts another key than the one that signs"), std::string::npos) << run.err;
-}
-
 TEST(Generate, FeedOfEverythingPassesTheStrictLint)
 {
     PublisherFolder const folder;
@@ -447,7 +519,8 @@ TEST(Generate, FeedOfEverythingPassesTheStrictLint)
         BundleText text;
         text.version = version;
         text.minimumSystem = "11.0";
-        folder.PutVersion(version);
+        text.allowsInstallers = "YES";
+        folder.PutBundle(text);
         folder.Put(std::string("Mac-") + version + ".tar.gz", MakeArchive(Container::TarGzip, MakeMacBundle(text)));
         folder.Put(std::string("Test-") + version + ".md", "# New\n\n* one\n* two <b>&</b>");
     }

@@ -4,6 +4,9 @@
 
 #include <QFile>
 
+#include <algorithm>
+
+#include <elf.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -33,11 +36,20 @@ std::string PropertyListOf(BundleText const& text)
     add("LSMinimumSystemVersion", text.minimumSystem);
     add("SUPublicEDKey", text.publicKey);
     add("PelnarPayloadKind", text.payloadKind);
+    add("PelnarNextPublicEDKey", text.nextKey);
+    add("NSExecutable", text.executable);
+    add("PelnarAllowsInstallerPrograms", text.allowsInstallers);
     return list + "</dict></plist>\n";
 }
 
+/// Of a bundle that names none.
+std::string ProgramOf(std::string const& bundleName)
+{
+    return bundleName.substr(0, bundleName.rfind('.'));
+}
+
 std::vector<ForgedEntry> MakeBundleWith(BundleText const& text, std::string const& name,
-                                        std::string const& informationPath)
+                                        std::string const& informationPath, std::string const& programPath)
 {
     std::string data(30000, '\0');
     unsigned state = 1;
@@ -47,7 +59,8 @@ std::vector<ForgedEntry> MakeBundleWith(BundleText const& text, std::string cons
         byte = static_cast<char>(state >> 16);
     }
     return {{name, 'd', {}, 0755},
-            {name + "/Test", 'f', "#!/bin/true\n" + text.version, 0755},
+            {name + '/' + programPath, 'f', text.program.empty() ? "#!/bin/true\n" + text.version : text.program,
+             text.programMode},
             {name + '/' + informationPath.substr(0, informationPath.find('/')), 'd', {}, 0755},
             {name + '/' + informationPath, 'f', PropertyListOf(text)},
             {name + "/data", 'f', data.substr(0, 15000) + text.version + data.substr(15000)}};
@@ -55,20 +68,32 @@ std::vector<ForgedEntry> MakeBundleWith(BundleText const& text, std::string cons
 
 } // namespace
 
+std::string ElfProgram(std::uint16_t machine)
+{
+    Elf64_Ehdr header{};
+    std::copy_n(ELFMAG, SELFMAG, header.e_ident);
+    header.e_ident[EI_CLASS] = ELFCLASS64;
+    header.e_ident[EI_DATA] = ELFDATA2LSB;
+    header.e_type = ET_DYN;
+    header.e_machine = machine;
+    return std::string(reinterpret_cast<char const*>(&header), sizeof header);
+}
+
 std::vector<ForgedEntry> MakePublishedBundle(BundleText const& text, std::string const& name)
 {
-    return MakeBundleWith(text, name, "Resources/Info-gnustep.plist");
+    return MakeBundleWith(text, name, "Resources/Info-gnustep.plist", ProgramOf(name));
 }
 
 std::vector<ForgedEntry> MakeMacBundle(BundleText const& text, std::string const& name)
 {
-    return MakeBundleWith(text, name, "Contents/Info.plist");
+    return MakeBundleWith(text, name, "Contents/Info.plist", "Contents/MacOS/" + ProgramOf(name));
 }
 
 PublisherFolder::PublisherFolder() : m_pair(MakeKeyPair(7))
 {
     WriteFile(m_private.Path() + "/key", Base64(std::string(32, '\7')));
     EXPECT_EQ(::chmod((m_private.Path() + "/key").c_str(), 0600), 0);
+    qputenv("SOURCE_DATE_EPOCH", QByteArray::number(qint64(FIRST_NOON + SECONDS_A_DAY)));
 }
 
 QString PublisherFolder::PathOf(std::string const& name) const
@@ -89,6 +114,11 @@ void PublisherFolder::PutVersion(std::string const& version, int day) const
     BundleText text;
     text.version = version;
     Put("Test-" + version + ".zip", MakeArchive(Container::Zip, MakePublishedBundle(text)), day);
+}
+
+void PublisherFolder::PutBundle(BundleText const& text) const
+{
+    Put("Test-" + text.version + ".zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
 }
 
 void PublisherFolder::Remove(std::string const& name) const
@@ -120,6 +150,17 @@ ToolRun PublisherFolder::Generate(QStringList const& more) const
     return RunTool(QStringList{QStringLiteral("generate"), QString::fromStdString(m_folder.Path()),
                                QStringLiteral("--key"), QString::fromStdString(m_private.Path() + "/key"),
                                QStringLiteral("--url-prefix"), QStringLiteral("https://updates.example.com/test")} +
+                   more);
+}
+
+ToolRun PublisherFolder::GenerateWithKey(char seed, QStringList const& more) const
+{
+    std::string const path = m_private.Path() + "/other-key";
+    WriteFile(path, Base64(std::string(32, seed)));
+    EXPECT_EQ(::chmod(path.c_str(), 0600), 0);
+    return RunTool(QStringList{QStringLiteral("generate"), QString::fromStdString(m_folder.Path()),
+                               QStringLiteral("--key"), QString::fromStdString(path), QStringLiteral("--url-prefix"),
+                               QStringLiteral("https://updates.example.com/test")} +
                    more);
 }
 

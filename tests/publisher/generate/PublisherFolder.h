@@ -23,31 +23,45 @@ struct BundleText
     std::string minimumSystem = {};
     std::string publicKey = MakeKeyPair(7).publicKey;
     std::string payloadKind = {};
+    std::string nextKey = {};
+    std::string executable = {}; ///< what NSExecutable says; empty for nothing
+    std::string allowsInstallers = {};
+    std::string program = {}; ///< empty for a script; the bytes of the program else
+    std::uint32_t programMode = 0755;
 };
+
+/// The header of a program for that machine, of the ELF numbers; a program as far as anybody looks.
+std::string ElfProgram(std::uint16_t machine);
 
 /// A bundle for Linux with a file that grows a little from version to version.
 std::vector<ForgedEntry> MakePublishedBundle(BundleText const& text, std::string const& name = "Test.app");
 /// The same for macOS.
 std::vector<ForgedEntry> MakeMacBundle(BundleText const& text, std::string const& name = "Test.app");
 
+/// Runs under SOURCE_DATE_EPOCH, noon of 2 January 2026.
 class PublisherFolder
 {
 public:
     PublisherFolder();
 
     QString PathOf(std::string const& name) const;
-    /// Writes a file that changed at noon of a day in January 2026.
+    /// Writes a file that changed at noon of a day in January 2026, which nothing may be concluded from.
     void Put(std::string const& name, std::string const& bytes, int day = 1) const;
     /// A zip of the bundle of that version, "Test-VERSION.zip".
     void PutVersion(std::string const& version, int day = 1) const;
+    /// A zip of that bundle, "Test-VERSION.zip".
+    void PutBundle(BundleText const& text) const;
     void Remove(std::string const& name) const;
     /// Makes \a user the owner of everything, the key included.
     void GiveTo(unsigned user) const;
     std::string ContentOf(std::string const& name) const;
     std::vector<std::string> Names() const { return m_folder.Names(); }
     std::string Path() const { return m_folder.Path(); }
+    QString KeyFile() const { return QString::fromStdString(m_private.Path() + "/key"); }
 
     ToolRun Generate(QStringList const& more = {}) const;
+    /// Signs with the key of \a seed instead.
+    ToolRun GenerateWithKey(char seed, QStringList const& more = {}) const;
     /// Runs it, expects that it is done, and reads the feed.
     std::string GeneratedFeed(QStringList const& more = {}) const;
     /// The items of the feed as a client reads them.

@@ -1,0 +1,25 @@
+// FolderLock.h: one run at a time writes into a folder.
+// Thread: the main thread. Ownership: a scope object; the lock ends with it and with the process.
+#pragma once
+
+#include "Engine/core/delta/TreeAccess.h"
+#include "Publisher/Console.h"
+
+namespace Pelnar::Publisher
+{
+
+class FolderLock
+{
+public:
+    /// Waits while another run holds \a folder, and says so first. Where the file system has no locks there is none.
+    /// Throws Refusal for a folder that cannot be opened.
+    FolderLock(QString const& folder, Console const& console);
+
+    /// Whether \a folder is the one that is held.
+    [[nodiscard]] bool Holds(QString const& folder) const;
+
+private:
+    Engine::UniqueFd m_folder;
+};
+
+} // namespace Pelnar::Publisher

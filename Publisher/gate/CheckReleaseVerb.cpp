@@ -1,0 +1,98 @@
+#include "Publisher/gate/CheckReleaseVerb.h"
+
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/FeedSource.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/gate/ReleaseCheck.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr char FEED_FILE[] = "appcast.xml";
+
+struct Options
+{
+    std::string release;
+    std::string machine = Engine::NameOf(Engine::OwnMachine());
+    std::vector<std::string> publicKeys;
+};
+
+ExitStatus Check(Options const& options, Console const& console)
+{
+    CheckPublicKeys(options.publicKeys);
+    QString const name = QString::fromStdString(options.release);
+    QFileInfo const place(name);
+    QString const feedName = place.isDir() ? QDir(name).filePath(QLatin1String(FEED_FILE)) : name;
+    auto source = ReadFeed(feedName, {}, console);
+    if (auto const* const problem = std::get_if<Problem>(&source))
+    {
+        throw Refusal(*problem);
+    }
+    FeedBytes& feed = std::get<FeedBytes>(source);
+    ReleaseCheckRequest request;
+    request.feedName = feed.name;
+    request.feedAddress = feed.address;
+    request.feed = std::move(feed.bytes);
+    request.folder = feed.address.isLocalFile() ? QFileInfo(feedName).path() : QString();
+    request.publicKeys = options.publicKeys;
+    request.machine = *Engine::MachineOfName(options.machine);
+    return CheckRelease(request, console);
+}
+
+} // namespace
+
+void AddMachineOption(CLI::App& verb, std::string& name)
+{
+    verb.add_option("--machine", name, "Machine that the programs in bundles for Linux are for")
+        ->type_name("NAME")
+        ->capture_default_str()
+        ->check(CLI::IsMember(Engine::MachineNames()));
+}
+
+void AddPublicKeysOption(CLI::App& verb, std::vector<std::string>& keys, std::string const& description)
+{
+    verb.add_option("--public-key", keys, description)->allow_extra_args(false)->type_name("KEY");
+}
+
+void CheckPublicKeys(std::vector<std::string> const& keys)
+{
+    for (std::string const& text : keys)
+    {
+        Engine::Ed25519Key key;
+        if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
+        {
+            throw Refusal({QString(), 0, 0,
+                           QStringLiteral("--public-key: \"%1\" is no Ed25519 key").arg(QString::fromStdString(text)),
+                           QStringLiteral("give the 32 bytes in base64 that pelnar-appcast keys show prints")});
+        }
+    }
+}
+
+void AddCheckRelease(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *program.add_subcommand(
+        "check-release",
+        "Judge what is published, or lies ready to be, as the clients of every version will: each archive is unpacked "
+        "and checked by the code that installs it, with the keys that the older bundles trust; exit status 1 when a "
+        "client would refuse something");
+    verb.add_option("RELEASE", options->release,
+                    "Folder with appcast.xml and its archives, the feed's file, or the address of the published feed, "
+                    "whose downloads are fetched then")
+        ->required();
+    AddMachineOption(verb, options->machine);
+    AddPublicKeysOption(verb, options->publicKeys,
+                        "A key that signed and that no bundle at hand trusts, in base64; may be given again");
+    SetWork(verb, context,
+            [&context, options]
+            { return JudgeRelease(context.console, [&] { return Check(*options, context.console); }); });
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,19 @@
+// CheckReleaseVerb.h: the verb "check-release": what is published, judged as installed clients judge it.
+// Thread: the main thread. Ownership: see Verb.h.
+#pragma once
+
+#include "Publisher/Verb.h"
+
+namespace Pelnar::Publisher
+{
+
+void AddCheckRelease(CLI::App& program, VerbContext& context);
+
+/// "--machine"; \a name is what it is without the option.
+void AddMachineOption(CLI::App& verb, std::string& name);
+/// "--public-key", which may be given again.
+void AddPublicKeysOption(CLI::App& verb, std::vector<std::string>& keys, std::string const& description);
+/// Throws Refusal for a text that is no key.
+void CheckPublicKeys(std::vector<std::string> const& keys);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,86 @@
+#include "Publisher/gate/GatedVersion.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/choice/FeedChoice.h"
+#include "Publisher/keys/KeyId.h"
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+Core::Version WholeVersion(QString const& text)
+{
+    return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
+}
+
+} // namespace
+
+bool IsOffered(GatedVersion const& newer, GatedVersion const& older)
+{
+    return older.HasClients() && older.platform == newer.platform && older.version.IsValid() &&
+           newer.version.IsValid() && older.version < newer.version;
+}
+
+std::vector<std::string> KeysOf(BundleTree const& bundle, QString const& path)
+{
+    Engine::BundleInformation const& information = bundle.Information();
+    std::vector<std::string> keys;
+    for (auto const& [name, text] : {std::pair("SUPublicEDKey", information.publicKey),
+                                     std::pair("PelnarNextPublicEDKey", information.nextPublicKey)})
+    {
+        Engine::Ed25519Key key;
+        if (text.empty())
+        {
+            continue;
+        }
+        if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
+        {
+            throw Refusal({path, 0, 0,
+                           QStringLiteral("%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
+                                          "could never be updated again")
+                               .arg(QLatin1String(name), Printable(QString::fromStdString(text).left(60))),
+                           QStringLiteral("write the entry that \"keys show\" prints")},
+                          RefusalCause::Content);
+        }
+        keys.push_back(text);
+    }
+    return keys;
+}
+
+GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind)
+{
+    Engine::BundleInformation const& information = bundle.Information();
+    GatedVersion version;
+    version.path = path;
+    version.versionText = QString::fromStdString(information.version);
+    version.version = WholeVersion(version.versionText);
+    version.platform = bundle.Platform();
+    version.kind = kind;
+    version.bundle =
+        GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path), information.allowsInstallerPrograms};
+    for (std::string const& key : version.bundle->publicKeys)
+    {
+        version.trustedIds.append(KeyIdOf(key));
+    }
+    return version;
+}
+
+GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)
+{
+    GatedVersion version;
+    version.path = QStringLiteral("%1:%2").arg(feedName).arg(item.line);
+    version.versionText = item.versionString;
+    version.version = WholeVersion(item.versionString);
+    version.platform = platform;
+    version.kind = UpdateTypeOf(item) == App::Session::UpdateType::INSTALLER ? Engine::PayloadKind::Installer
+                                                                             : Engine::PayloadKind::WholeBundle;
+    version.signerId = item.signerKey;
+    version.trustedIds = item.trustedKeys;
+    return version;
+}
+
+} // namespace Pelnar::Publisher

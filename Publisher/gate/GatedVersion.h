@@ -1,0 +1,54 @@
+// GatedVersion.h: one version as the gate sees it: as what installed clients are offered, and as a client itself.
+// Thread: any. Ownership: values only.
+#pragma once
+
+#include "Engine/core/payload/UpdateJob.h"
+#include "HostFramework/Version.h"
+#include "Publisher/files/BundleTree.h"
+
+#include <QStringList>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+/// What the gate needs of a bundle when it is at hand.
+struct GatedBundle
+{
+    std::string identifier;
+    std::string name; ///< of its folder
+    std::vector<std::string> publicKeys;
+    bool allowsInstallerPrograms = false;
+};
+
+struct GatedVersion
+{
+    QString path; ///< of the archive, or the feed's name and line
+    QString versionText;
+    Core::Version version; ///< all four components present
+    Engine::FeedPlatform platform = Engine::FeedPlatform::Linux;
+    Engine::PayloadKind kind = Engine::PayloadKind::WholeBundle;
+    QString signerId;       ///< of the key that signed its downloads; empty while unknown
+    QStringList trustedIds; ///< of the keys that its clients trust; empty while unknown
+    std::optional<GatedBundle> bundle;
+
+    /// Whether people run this version: an installer program is never installed itself.
+    [[nodiscard]] bool HasClients() const { return kind == Engine::PayloadKind::WholeBundle; }
+};
+
+/// Whether clients of \a older are offered \a newer.
+[[nodiscard]] bool IsOffered(GatedVersion const& newer, GatedVersion const& older);
+
+/// The keys that \a bundle trusts. Throws Refusal for a text that is no key: every key must be usable.
+std::vector<std::string> KeysOf(BundleTree const& bundle, QString const& path);
+
+/// What \a bundle, from the archive \a path, is to the gate. Throws Refusal for a key that is none.
+GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind);
+
+/// What the feed \a feedName says of \a item. The version is invalid when the item's cannot be read.
+GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,224 @@
+#include "Publisher/gate/ReleaseCheck.h"
+
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "Publisher/Progress.h"
+#include "Publisher/choice/FeedChoice.h"
+#include "Publisher/delta/DeltaFile.h"
+#include "Publisher/gate/ReleaseFiles.h"
+#include "Publisher/gate/ReleaseGate.h"
+#include "Publisher/keys/KeyId.h"
+#include "Publisher/lint/LintReport.h"
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using Engine::FeedItem;
+using Engine::FeedPlatform;
+
+/// The items of one platform whose downloads can be judged, oldest first.
+std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform platform)
+{
+    std::vector<FeedItem> items = Engine::ParseFeed(request.feed, request.feedAddress, platform).items;
+    items.erase(std::remove_if(items.begin(), items.end(),
+                               [](FeedItem const& item) {
+                                   return item.fileUrl.isEmpty() || item.contentLength == 0 ||
+                                          item.edSignature.isEmpty();
+                               }),
+                items.end()); // lint has told of them
+    std::stable_sort(items.begin(), items.end(),
+                     [platform](FeedItem const& a, FeedItem const& b)
+                     { return VersionOf(a, platform, {}).version < VersionOf(b, platform, {}).version; });
+    return items;
+}
+
+bool IsContainer(FeedItem const& item, FeedPlatform platform)
+{
+    bool const isInstaller = UpdateTypeOf(item) == App::Session::UpdateType::INSTALLER;
+    return platform == FeedPlatform::Linux || !isInstaller; // macOS has packages and images, which nothing reads here
+}
+
+class PlatformCheck
+{
+public:
+    PlatformCheck(ReleaseCheckRequest const& request, FeedPlatform platform, ReleaseFiles& files,
+                  Console const& console, RefusalList& refusals)
+        : m_request(request)
+        , m_platform(platform)
+        , m_files(files)
+        , m_console(console)
+        , m_refusals(refusals)
+        , m_keys(request.publicKeys)
+    {
+    }
+
+    /// \a items: oldest first, so that the clients of an item are known when it is judged.
+    void Check(std::vector<FeedItem> const& items)
+    {
+        for (FeedItem const& item : items)
+        {
+            GatedVersion version = VersionOf(item, m_platform, m_request.feedName);
+            m_refusals.Try([&] { CheckItem(item, items, version); });
+            m_versions.push_back(std::move(version));
+        }
+        CheckTrust(m_versions, m_refusals);
+    }
+
+private:
+    void CheckItem(FeedItem const& item, std::vector<FeedItem> const& items, GatedVersion& version)
+    {
+        std::optional<InputFile> const file = m_files.Open(item);
+        if (!file)
+        {
+            m_console.Print(QStringLiteral("%1: version %2 is not judged: %3 is not in the folder")
+                                .arg(version.path, item.versionString, item.fileUrl.fileName()));
+            return;
+        }
+        CheckLength(*file, item);
+        std::optional<BundleTree> bundle;
+        if (IsContainer(item, m_platform))
+        {
+            bundle = Unpack(*file);
+            TakeBundle(*bundle, *file, version);
+        }
+        version.signerId = CheckSignature(*file, item, version.signerId);
+        version.path = file->name;
+        if (bundle)
+        {
+            CheckBundleForClients(*bundle, version, m_versions, m_request.machine, m_refusals);
+            for (FeedItem const& delta : item.deltas)
+            {
+                m_refusals.Try([&] { CheckDelta(delta, items, *bundle); });
+            }
+        }
+        m_console.Print(QStringLiteral("%1: version %2, signed by the key %3%4")
+                            .arg(file->name, item.versionString, version.signerId,
+                                 version.trustedIds.isEmpty()
+                                     ? QString()
+                                     : QStringLiteral(", trusts ") + version.trustedIds.join(QLatin1Char(' '))));
+    }
+
+    void TakeBundle(BundleTree const& bundle, InputFile const& file, GatedVersion& version)
+    {
+        GatedVersion const inside = VersionOf(bundle, file.name, version.kind);
+        version.bundle = inside.bundle;
+        version.trustedIds = inside.trustedIds;
+        for (std::string const& key : inside.bundle->publicKeys)
+        {
+            if (std::find(m_keys.begin(), m_keys.end(), key) == m_keys.end())
+            {
+                m_keys.push_back(key);
+            }
+        }
+    }
+
+    BundleTree Unpack(InputFile const& file) const
+    {
+        Progress bar(m_console.err, QStringLiteral("Unpacking ") + file.name);
+        return BundleTree::Unpack(file, BarFor(bar));
+    }
+
+    static void CheckLength(InputFile const& file, FeedItem const& item)
+    {
+        if (file.size != item.contentLength)
+        {
+            throw Refusal(
+                {file.name, 0, 0,
+                 QStringLiteral("is of %1 bytes, but is published with %2 (line %3 of the feed)")
+                     .arg(file.size)
+                     .arg(item.contentLength)
+                     .arg(item.line),
+                 QStringLiteral("put the published file back, and give a changed one a new version and name")},
+                RefusalCause::Content);
+        }
+    }
+
+    /// The id of the key that signed.
+    QString CheckSignature(InputFile const& file, FeedItem const& item, QString const& saidId) const
+    {
+        if (std::optional<std::string> const signer = SignerOf(file, item.edSignature, m_keys))
+        {
+            return KeyIdOf(*signer);
+        }
+        throw Refusal(
+            {file.name, 0, 0,
+             QStringLiteral("does not bear the published signature (line %1 of the feed) by any key that a "
+                            "bundle at hand trusts")
+                 .arg(item.line),
+             saidId.isEmpty()
+                 ? QStringLiteral("put the published file back, or give the key that signed it with "
+                                  "--public-key")
+                 : QStringLiteral("put the published file back, or give the key %1 with --public-key").arg(saidId)},
+            RefusalCause::Content);
+    }
+
+    void CheckDelta(FeedItem const& delta, std::vector<FeedItem> const& items, BundleTree const& target) const
+    {
+        std::optional<InputFile> const file = m_files.Open(delta);
+        if (!file || delta.contentLength == 0 || delta.edSignature.isEmpty())
+        {
+            return;
+        }
+        CheckLength(*file, delta);
+        static_cast<void>(CheckSignature(*file, delta, delta.signerKey));
+        auto const base =
+            std::find_if(items.begin(), items.end(),
+                         [&](FeedItem const& item)
+                         { return IsContainer(item, m_platform) && item.versionString == delta.deltaFrom; });
+        std::optional<InputFile> const baseFile =
+            base == items.end() ? std::optional<InputFile>() : m_files.Open(*base);
+        if (baseFile)
+        {
+            AsContent([&] { ProveDelta(*file, Unpack(*baseFile), target, m_console.err); });
+        }
+    }
+
+    ReleaseCheckRequest const& m_request;
+    FeedPlatform const m_platform;
+    ReleaseFiles& m_files;
+    Console const& m_console;
+    RefusalList& m_refusals;
+    std::vector<std::string> m_keys; ///< those that were given, and those of the bundles so far
+    std::vector<GatedVersion> m_versions;
+};
+
+} // namespace
+
+ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& console)
+{
+    LintResult const lint = LintFeed(request.feed, request.feedAddress);
+    std::vector<LintFinding> errors;
+    std::copy_if(lint.findings.begin(), lint.findings.end(), std::back_inserter(errors),
+                 [](LintFinding const& finding) { return EntryOf(finding.rule).severity == Severity::Error; });
+    if (!errors.empty())
+    {
+        PrintFindings(request.feedName, errors, console);
+    }
+    RefusalList refusals;
+    ReleaseFiles files(request.folder, console);
+    std::vector<FeedItem> const linuxItems = ItemsOf(request, FeedPlatform::Linux);
+    std::vector<FeedItem> macItems = ItemsOf(request, FeedPlatform::MacOS);
+    // What both take was judged as Linux takes it, which is what runs here.
+    macItems.erase(std::remove_if(macItems.begin(), macItems.end(),
+                                  [&linuxItems](FeedItem const& item)
+                                  {
+                                      return std::any_of(linuxItems.begin(), linuxItems.end(),
+                                                         [&item](FeedItem const& other)
+                                                         { return other.fileUrl == item.fileUrl; });
+                                  }),
+                   macItems.end());
+    PlatformCheck(request, FeedPlatform::Linux, files, console, refusals).Check(linuxItems);
+    PlatformCheck(request, FeedPlatform::MacOS, files, console, refusals).Check(macItems);
+    refusals.ThrowIfAny();
+    if (linuxItems.empty() && macItems.empty() && errors.empty())
+    {
+        throw Refusal({request.feedName, 0, 0, QStringLiteral("offers nothing that could be judged"),
+                       QStringLiteral("name the feed that is published")});
+    }
+    return errors.empty() ? ExitStatus::Clean : ExitStatus::Findings;
+}
+
+} // namespace Pelnar::Publisher

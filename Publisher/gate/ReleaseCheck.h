@@ -1,0 +1,30 @@
+// ReleaseCheck.h: everything that a published feed offers, judged as the installed clients of its versions judge it.
+// Thread: the main thread, with Qt's event loop. Ownership: values only.
+#pragma once
+
+#include "Engine/core/unpack/CheckBundle.h"
+#include "Publisher/Console.h"
+
+#include <QByteArray>
+#include <QUrl>
+
+#include <string>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+struct ReleaseCheckRequest
+{
+    QString feedName;
+    QUrl feedAddress;
+    QByteArray feed;
+    QString folder; ///< of the downloads; empty when they are fetched
+    std::vector<std::string> publicKeys;
+    Engine::Machine machine;
+};
+
+/// Prints what was judged, and throws one Refusal for everything that a client would refuse.
+ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& console);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,89 @@
+#include "Publisher/gate/ReleaseFiles.h"
+
+#include "Engine/core/payload/Ed25519Signature.h"
+#include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+
+namespace Pelnar::Publisher
+{
+
+Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString const& folder, Console const& console)
+{
+    Engine::DownloadRequest request;
+    request.url = item.fileUrl;
+    request.declaredBytes = item.contentLength;
+    request.signature = item.edSignature;
+    request.folder = folder;
+    // Deliberate: plain http has its own rule; here the question is what stands at the address, wherever that is.
+    request.feedReach = Engine::AddressReach::ThisComputer;
+    request.insecureHttp = Engine::InsecureHttp::Anywhere;
+    Engine::ArchiveDownload archive(request);
+    Progress progress(console.err, QStringLiteral("Fetching ") + item.fileUrl.fileName());
+    Engine::DownloadOutcome outcome;
+    QEventLoop loop;
+    archive.Start([&](Engine::DownloadProgress const& now)
+                  { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); },
+                  [&](Engine::DownloadOutcome finished)
+                  {
+                      outcome = std::move(finished);
+                      loop.quit();
+                  });
+    loop.exec();
+    return outcome;
+}
+
+std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,
+                                    std::vector<std::string> const& publicKeys)
+{
+    auto const signer =
+        std::find_if(publicKeys.begin(), publicKeys.end(),
+                     [&](std::string const& key)
+                     {
+                         return Engine::VerifyFileSignature(file.descriptor.Get(), signature.toStdString(), {key}) ==
+                                Engine::UpdateFault::None;
+                     });
+    return signer == publicKeys.end() ? std::optional<std::string>() : *signer;
+}
+
+ReleaseFiles::ReleaseFiles(QString folder, Console const& console) : m_folder(std::move(folder)), m_console(console) {}
+
+std::optional<InputFile> ReleaseFiles::Open(Engine::FeedItem const& item)
+{
+    if (m_folder.isEmpty())
+    {
+        return Fetch(item);
+    }
+    QString const path = QDir(m_folder).filePath(item.fileUrl.fileName(QUrl::FullyDecoded));
+    return QFileInfo::exists(path) && !item.fileUrl.fileName().isEmpty() ? OpenInputFile(path)
+                                                                         : std::optional<InputFile>();
+}
+
+InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
+{
+    QString const name = item.fileUrl.toString(QUrl::FullyEncoded);
+    Engine::DownloadOutcome outcome = FetchDownload(item, m_fetched.path(), m_console);
+    if (outcome.error)
+    {
+        QString sentence = outcome.error->sentence.English();
+        sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
+        throw Refusal({name, 0, 0, QStringLiteral("cannot be fetched as the feed says it is: ") + sentence,
+                       QStringLiteral("upload the very file that was signed, before the feed")},
+                      RefusalCause::Content);
+    }
+    struct stat status;
+    if (::fstat(outcome.archive.Get(), &status) != 0)
+    {
+        RefuseFile(name, QStringLiteral("cannot be read"), errno, {});
+    }
+    return {std::move(outcome.archive), name, static_cast<std::uint64_t>(status.st_size)};
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,269 @@
+#include "Publisher/gate/ReleaseGate.h"
+
+#include "Publisher/files/FaultText.h"
+
+#include <algorithm>
+#include <cstring>
+#include <set>
+
+#include <elf.h>
+#include <sys/stat.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+using Engine::UpdateFault;
+
+/// What the beginning of a program says that it runs on.
+enum class ProgramKind
+{
+    Missing,
+    NotRunnable, ///< no plain file, or without the right to execute
+    Linux,
+    MacOS,
+    Script,
+    Other,
+};
+
+ProgramKind KindOf(BundleTree const& bundle, std::string const& path)
+{
+    constexpr std::uint32_t MAC_MARKS[] = {0xfeedface, 0xfeedfacf, 0xcefaedfe, 0xcffaedfe, 0xcafebabe, 0xbebafeca};
+    Engine::UniqueFd const file = Engine::TreeAccess(bundle.Descriptor()).OpenFile(path);
+    struct stat status;
+    if (!file || ::fstat(file.Get(), &status) != 0)
+    {
+        return ProgramKind::Missing;
+    }
+    char mark[4] = {};
+    bool const isRead = Engine::ReadUpTo(file.Get(), 0, mark, sizeof mark) == sizeof mark;
+    std::uint32_t number = 0;
+    std::memcpy(&number, mark, sizeof number);
+    if (isRead && std::memcmp(mark, ELFMAG, SELFMAG) == 0)
+    {
+        return ProgramKind::Linux;
+    }
+    if (!S_ISREG(status.st_mode) || (status.st_mode & S_IXUSR) == 0)
+    {
+        return ProgramKind::NotRunnable;
+    }
+    if (mark[0] == '#' && mark[1] == '!')
+    {
+        return ProgramKind::Script;
+    }
+    bool const isMac = isRead && std::find(std::begin(MAC_MARKS), std::end(MAC_MARKS), number) != std::end(MAC_MARKS);
+    return isMac ? ProgramKind::MacOS : ProgramKind::Other;
+}
+
+QString EntryText(BundleTree const& bundle, std::string const& path)
+{
+    return QStringLiteral(": \"%1\"").arg(Printable(QString::fromStdString(bundle.Name() + '/' + path)));
+}
+
+/// Nothing of macOS runs here: that the program is there and is none of Linux is what can be seen.
+void CheckMacProgram(BundleTree const& bundle, QString const& path, RefusalList& refusals)
+{
+    std::string const& name = bundle.Information().executable;
+    std::string const usual = "Contents/MacOS/" + name;
+    for (std::string const& place : {usual, "Contents/" + name, name, "bin/" + name})
+    {
+        if (KindOf(bundle, place) == ProgramKind::Linux)
+        {
+            refusals.Add({path, 0, 0,
+                          QStringLiteral("the bundle is laid out for macOS (Contents/Info.plist), but its program is "
+                                         "for Linux") +
+                              EntryText(bundle, place),
+                          QStringLiteral("put the information file at Resources/Info-gnustep.plist and the program "
+                                         "directly into the bundle's folder")});
+            return;
+        }
+    }
+    UpdateFault fault = UpdateFault::None;
+    switch (KindOf(bundle, usual))
+    {
+    case ProgramKind::Missing:
+        fault = UpdateFault::ExecutableMissing;
+        break;
+    case ProgramKind::NotRunnable:
+        fault = UpdateFault::ExecutableNotRunnable;
+        break;
+    case ProgramKind::Other:
+        fault = UpdateFault::ExecutableForeign;
+        break;
+    case ProgramKind::Linux:
+    case ProgramKind::MacOS:
+    case ProgramKind::Script:
+        return;
+    }
+    Problem problem = ProblemOf(fault, 0, path);
+    problem.what += EntryText(bundle, usual);
+    refusals.Add(std::move(problem));
+}
+
+/// The part of the bundle that a fault is about.
+QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& nameWhenInstalled)
+{
+    bool const isProgram = fault == UpdateFault::ExecutableMissing || fault == UpdateFault::ExecutableNotRunnable ||
+                           fault == UpdateFault::ExecutableForeign;
+    if (!isProgram)
+    {
+        return EntryText(bundle, Engine::INFORMATION_PATH);
+    }
+    // A bundle that names no program has the one that is named after the folder that it is installed as.
+    Engine::BundleInformation const information = Engine::ReadBundleInformation(bundle.Descriptor(), nameWhenInstalled);
+    return EntryText(bundle, information.executable);
+}
+
+/// The check of one client; reports a fault once, whichever client meets it first.
+class ClientCheck
+{
+public:
+    ClientCheck(BundleTree const& bundle, GatedVersion const& version, Engine::Machine const& machine,
+                RefusalList& refusals)
+        : m_bundle(bundle), m_version(version), m_machine(machine), m_refusals(refusals)
+    {
+    }
+
+    void CheckFor(GatedBundle const& installed, QString const& installedVersion)
+    {
+        bool const isInstaller = m_version.kind == Engine::PayloadKind::Installer;
+        if (isInstaller && !installed.allowsInstallerPrograms && !installedVersion.isEmpty())
+        {
+            Report(UpdateFault::InstallerNotAllowed, QString(), installedVersion);
+        }
+        if (m_version.platform == Engine::FeedPlatform::MacOS)
+        {
+            CheckMacIdentity(installed, installedVersion);
+            return;
+        }
+        std::string const& name = isInstaller ? m_bundle.Name() : installed.name;
+        try
+        {
+            Engine::CheckNewBundle(m_bundle.Descriptor(), name,
+                                   {m_version.kind, installed.identifier, m_version.versionText.toStdString(),
+                                    installedVersion.toStdString(), m_machine});
+        }
+        catch (Engine::UpdateRefusal const& refusal)
+        {
+            Report(refusal.Fault(), EntryOf(refusal.Fault(), m_bundle, name), installedVersion);
+        }
+    }
+
+private:
+    void CheckMacIdentity(GatedBundle const& installed, QString const& installedVersion)
+    {
+        Engine::BundleInformation const& information = m_bundle.Information();
+        UpdateFault const fault = information.identifier != installed.identifier ? UpdateFault::IdentifierDiffers
+                                  : information.version != m_version.versionText.toStdString()
+                                      ? UpdateFault::VersionDiffers
+                                  : information.publicKey.empty() ? UpdateFault::BundleKeyMissing
+                                                                  : UpdateFault::None;
+        if (fault != UpdateFault::None)
+        {
+            Report(fault, EntryText(m_bundle, "Contents/Info.plist"), installedVersion);
+        }
+    }
+
+    void Report(UpdateFault fault, QString const& entry, QString const& installedVersion)
+    {
+        if (!m_reported.insert(fault).second)
+        {
+            return;
+        }
+        Problem problem = ProblemOf(fault, 0, m_version.path);
+        problem.what += entry;
+        if (!installedVersion.isEmpty())
+        {
+            problem.what += QStringLiteral(" (seen by clients of version %1)").arg(installedVersion);
+        }
+        m_refusals.Add(std::move(problem), CauseOf(fault));
+    }
+
+    BundleTree const& m_bundle;
+    GatedVersion const& m_version;
+    Engine::Machine const& m_machine;
+    RefusalList& m_refusals;
+    std::set<UpdateFault> m_reported;
+};
+
+void CheckOwnKey(GatedVersion const& version, RefusalList& refusals)
+{
+    if (!version.HasClients() || version.signerId.isEmpty() || version.trustedIds.isEmpty() ||
+        version.trustedIds.contains(version.signerId))
+    {
+        return;
+    }
+    refusals.Add({version.path, 0, 0,
+                  QStringLiteral("version %1 is signed by the key %2, but its bundle trusts another key, %3; its "
+                                 "clients would refuse the next update by the same key")
+                      .arg(version.versionText, version.signerId, version.trustedIds.join(QStringLiteral(" and "))),
+                  QStringLiteral("write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; when "
+                                 "the key is being changed, the new one as PelnarNextPublicEDKey")});
+}
+
+/// The versions whose clients are offered \a version and cannot verify it, oldest first.
+QStringList StrandedBy(GatedVersion const& version, std::vector<GatedVersion> const& all)
+{
+    std::vector<GatedVersion const*> stranded;
+    for (GatedVersion const& older : all)
+    {
+        if (IsOffered(version, older) && !older.trustedIds.isEmpty() && !older.trustedIds.contains(version.signerId))
+        {
+            stranded.push_back(&older);
+        }
+    }
+    std::stable_sort(stranded.begin(), stranded.end(),
+                     [](GatedVersion const* a, GatedVersion const* b) { return a->version < b->version; });
+    QStringList texts;
+    for (GatedVersion const* const each : stranded)
+    {
+        texts.append(QStringLiteral("%1 (%2)").arg(each->versionText, each->path));
+    }
+    return texts;
+}
+
+} // namespace
+
+void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
+                           Engine::Machine const& machine, RefusalList& refusals)
+{
+    if (version.platform == Engine::FeedPlatform::MacOS)
+    {
+        CheckMacProgram(bundle, version.path, refusals);
+    }
+    ClientCheck check(bundle, version, machine, refusals);
+    bool hasClient = false;
+    for (GatedVersion const& older : all)
+    {
+        if (older.bundle && IsOffered(version, older))
+        {
+            hasClient = true;
+            check.CheckFor(*older.bundle, older.versionText);
+        }
+    }
+    if (!hasClient && version.bundle)
+    {
+        check.CheckFor(*version.bundle, QString());
+    }
+}
+
+void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
+{
+    for (GatedVersion const& version : all)
+    {
+        CheckOwnKey(version, refusals);
+        QStringList const stranded = version.signerId.isEmpty() ? QStringList() : StrandedBy(version, all);
+        if (!stranded.isEmpty())
+        {
+            refusals.Add({version.path, 0, 0,
+                          QStringLiteral("version %1 is signed by the key %2, which strands installed versions: they "
+                                         "would be offered it and refuse it for ever: %3")
+                              .arg(version.versionText, version.signerId, stranded.join(QStringLiteral(", "))),
+                          QStringLiteral("sign it with the key that they trust; whoever gives these versions up takes "
+                                         "their items and archives away")});
+        }
+    }
+}
+
+} // namespace Pelnar::Publisher

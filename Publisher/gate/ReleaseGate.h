@@ -1,0 +1,21 @@
+// ReleaseGate.h: what an installed client would refuse, found by the helper's own checks before it is published.
+// Thread: the main thread. Ownership: values only.
+#pragma once
+
+#include "Engine/core/unpack/CheckBundle.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/gate/GatedVersion.h"
+
+namespace Pelnar::Publisher
+{
+
+/// Judges the bundle of \a version as clients of every older one among \a all judge it; without an older one as a
+/// client of the same product would.
+void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
+                           Engine::Machine const& machine, RefusalList& refusals);
+
+/// Each version must trust the key that signs it, and each must be signed by a key that every older version trusts:
+/// a client that is offered what it cannot verify stays where it is for ever.
+void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,15 @@
+// KeyId.h: the short name of a public key, by which a feed says who signed and whom a version trusts.
+// Thread: any. Ownership: values only. docs/formats/item-keys.md.
+#pragma once
+
+#include <QString>
+
+#include <string>
+
+namespace Pelnar::Publisher
+{
+
+/// Sixteen hexadecimal digits; empty for a text that is no public key.
+QString KeyIdOf(std::string const& publicKey);
+
+} // namespace Pelnar::Publisher

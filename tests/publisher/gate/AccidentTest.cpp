@@ -1,0 +1,323 @@
+// AccidentTest.cpp: what a publisher does by accident, and "generate" must not publish: each with the file, the entry
+// and the mend in its error, exit status 1, and nothing changed in the folder.
+
+#include "tests/publisher/generate/PublisherFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <elf.h>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+BundleText Version(std::string const& version)
+{
+    BundleText text;
+    text.version = version;
+    return text;
+}
+
+class Accident : public ::testing::Test
+{
+protected:
+    /// \a said: parts of the error, in their order.
+    void ExpectRefused(ToolRun const& run, std::vector<std::string> const& said)
+    {
+        EXPECT_EQ(run.status, 1) << run.err;
+        EXPECT_EQ(run.out, "");
+        std::size_t place = 0;
+        for (std::string const& part : said)
+        {
+            place = run.err.find(part, place);
+            ASSERT_NE(place, std::string::npos) << '"' << part << "\" is not in: " << run.err;
+        }
+        EXPECT_EQ(m_folder.Names(), m_before);
+        EXPECT_EQ(m_folder.Names().size() > 1 ? FeedOrNothing() : "", m_feed);
+    }
+
+    /// Publishes what is there so far.
+    void Publish()
+    {
+        m_folder.GeneratedFeed();
+        Remember();
+    }
+
+    ToolRun Generate(QStringList const& more = {})
+    {
+        Remember();
+        return m_folder.Generate(more);
+    }
+
+    void Remember()
+    {
+        m_before = m_folder.Names();
+        m_feed = m_before.size() > 1 ? FeedOrNothing() : "";
+    }
+
+    std::string FeedOrNothing() const
+    {
+        for (std::string const& name : m_folder.Names())
+        {
+            if (name == "appcast.xml")
+            {
+                return m_folder.ContentOf(name);
+            }
+        }
+        return {};
+    }
+
+    PublisherFolder const m_folder;
+    std::vector<std::string> m_before;
+    std::string m_feed;
+};
+
+} // namespace
+
+TEST_F(Accident, BundleTrustsAnotherKeyThanTheOneThatSigns)
+{
+    BundleText text = Version("2.0");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: version 2.0 is signed by the key ", ", but its bundle trusts another key, ",
+                   "; write the entry that \"keys show\" prints", "PelnarNextPublicEDKey"});
+}
+
+TEST_F(Accident, KeyOfTheBundleIsGarbage)
+{
+    BundleText text = Version("2.0");
+    text.publicKey = "garbage";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: SUPublicEDKey \"garbage\" in the bundle's information file is no Ed25519 "
+                               "key",
+                               "; write the entry"});
+}
+
+TEST_F(Accident, SecondKeyOfTheBundleIsGarbage)
+{
+    BundleText text = Version("2.0");
+    text.nextKey = "AAAA";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: PelnarNextPublicEDKey \"AAAA\""});
+}
+
+TEST_F(Accident, NoProgram)
+{
+    BundleText text = Version("2.0");
+    text.executable = "run";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle has no program: \"Test.app/run\"; put the program there"});
+}
+
+TEST_F(Accident, ProgramIsNamedAfterAnotherFolder)
+{
+    m_folder.PutVersion("1.0");
+    Publish();
+    m_folder.Put("New.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("2.0"), "Other.app")));
+    // Installed, the bundle keeps the folder's name that it has, and its program is looked for under that.
+    ExpectRefused(Generate(),
+                  {"New.zip: the bundle has no program: \"Other.app/Test\" (seen by clients of version 1.0)"});
+}
+
+TEST_F(Accident, ProgramMayNotBeExecuted)
+{
+    BundleText text = Version("2.0");
+    text.programMode = 0644;
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program may not be executed: \"Test.app/Test\"; chmod 755"});
+}
+
+TEST_F(Accident, ProgramIsForAnotherMachine)
+{
+    BundleText text = Version("2.0");
+    text.program = ElfProgram(EM_AARCH64);
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate({QStringLiteral("--machine"), QStringLiteral("x86_64")}),
+                  {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
+                   "\"Test.app/Test\"; build it for that machine"});
+    EXPECT_EQ(m_folder.Generate({QStringLiteral("--machine"), QStringLiteral("aarch64")}).status, 0);
+}
+
+TEST_F(Accident, ProgramLiesInAFolderOfItsOwn)
+{
+    BundleText text = Version("2.0");
+    text.executable = "bin/x";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip/Resources/Info-gnustep.plist: the bundle's information file names a "
+                               "program that does not lie directly in the bundle's folder: \"bin/x\"; write the name"});
+}
+
+TEST_F(Accident, NewKeyStrandsVersions)
+{
+    m_folder.PutVersion("5.9");
+    m_folder.PutVersion("5.9.1");
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    Remember();
+    ExpectRefused(m_folder.GenerateWithKey(9),
+                  {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands installed versions", "5.9 (",
+                   "Test-5.9.zip)", "5.9.1 (", "; sign it with the key that they trust"});
+}
+
+TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    m_folder.Remove("Test-5.9.zip");
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    Remember();
+    // The feed has kept whom 5.9 trusts.
+    ExpectRefused(m_folder.GenerateWithKey(9),
+                  {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
+}
+
+TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
+{
+    BundleText both = Version("5.10");
+    both.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(both);
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(run.status, 0) << run.err;
+    // What the first key signed is known by the bundle that trusts it.
+    ToolRun const again = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(again.status, 0) << again.err;
+}
+
+TEST_F(Accident, ArchiveIsReplacedByOneOfTheSameSize)
+{
+    m_folder.PutVersion("1.0");
+    Publish();
+    std::string changed = m_folder.ContentOf("Test-1.0.zip");
+    changed[changed.size() / 2] = char(changed[changed.size() / 2] ^ 1);
+    m_folder.Put("Test-1.0.zip", changed);
+    ExpectRefused(Generate(), {"Test-1.0.zip: does not bear the published signature (line ", "; put the published file "
+                                                                                             "back"});
+}
+
+TEST_F(Accident, ArchiveIsReplacedByOneOfAnotherSize)
+{
+    m_folder.PutVersion("1.0");
+    Publish();
+    m_folder.PutVersion("2.0");
+    m_folder.Put("Test-1.0.zip", m_folder.ContentOf("Test-1.0.zip") + "x");
+    ExpectRefused(Generate(),
+                  {"Test-1.0.zip: is of ", " bytes, but is published with ", "; put the published file back"});
+}
+
+TEST_F(Accident, ArchiveIsReplacedByTheNextVersionUnderTheSameName)
+{
+    m_folder.Put("Test.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("1.0"))));
+    Publish();
+    m_folder.Put("Test.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("2.0"))));
+    ExpectRefused(Generate(), {"Test.zip: does not bear the published signature", "a new version and name"});
+}
+
+TEST_F(Accident, LayoutOfMacOSWithAProgramForLinux)
+{
+    BundleText text = Version("2.0");
+    text.program = ElfProgram(EM_X86_64);
+    m_folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, MakeMacBundle(text)));
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: the bundle is laid out for macOS (Contents/Info.plist), but its program is "
+                   "for Linux: \"Test.app/Contents/MacOS/Test\"; put the information file at"});
+}
+
+TEST_F(Accident, NotesLinkToTheDiskOfThePublisher)
+{
+    for (char const* const link : {"file:///home/me/notes.html", "file://localhost/tmp/x.png"})
+    {
+        m_folder.PutVersion("2.0");
+        m_folder.Put("Test-2.0.html", std::string("<p><a href=\"") + link + "\">news</a></p>");
+        ExpectRefused(Generate(), {"appcast.xml:", "local-address: ", link, "; "});
+    }
+}
+
+TEST_F(Accident, EveryNameThatTheRulesRefuseIsNamed)
+{
+    std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+    entries.push_back({"Test.app/Datei ", 'f', "x"});
+    entries.push_back({"Test.app/../../escaped", 'f', "x"});
+    entries.push_back({"Test.app/dir./file", 'f', "x"});
+    entries.push_back({"Test.app/DATA", 'f', "x"});
+    m_folder.Put("Test-2.0.tar.gz", MakeArchive(Container::TarGzip, entries));
+    ExpectRefused(Generate(),
+                  {"Test-2.0.tar.gz: an entry has a name that clients refuse: \"Test.app/Datei \"",
+                   "Test-2.0.tar.gz: an entry lies outside the folder that it is unpacked to: "
+                   "\"Test.app/../../escaped\"",
+                   "an entry has a name that clients refuse: \"Test.app/dir./file\"",
+                   "two entries differ only in case or in how their letters are encoded: \"Test.app/DATA\""});
+}
+
+TEST_F(Accident, EveryLinkThatLeadsAstrayIsNamed)
+{
+    std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+    entries.push_back({"Test.app/a", 'l', "absent"});
+    entries.push_back({"Test.app/b", 'l', "../../outside"});
+    m_folder.Put("Test-2.0.tar.gz", MakeArchive(Container::TarGzip, entries));
+    ExpectRefused(Generate(),
+                  {"a link leads nowhere: \"Test.app/a\"", "a link leads out of the bundle: \"Test.app/b\""});
+}
+
+TEST_F(Accident, EncryptedEntryIsNamed)
+{
+    std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+    entries.back().flags = 1;
+    m_folder.Put("Test-2.0.zip", MakeZip(entries));
+    ExpectRefused(Generate(), {"Test-2.0.zip: is encrypted: \"Test.app/data\""});
+}
+
+TEST_F(Accident, EntryBesideTheBundleIsNamed)
+{
+    std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+    entries.push_back({"README", 'f', "x"});
+    m_folder.Put("Test-2.0.zip", MakeZip(entries));
+    ExpectRefused(Generate(), {"Test-2.0.zip: does not hold one bundle alone: \"README\""});
+}
+
+TEST_F(Accident, WhatIsWrongWithSeveralArchivesIsToldAtOnce)
+{
+    BundleText first = Version("2.0");
+    first.executable = "run";
+    BundleText second = Version("3.0");
+    second.publicKey = "garbage";
+    m_folder.PutBundle(first);
+    m_folder.PutBundle(second);
+    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle has no program", "Test-3.0.zip: SUPublicEDKey \"garbage\""});
+}
+
+TEST_F(Accident, InstallerThatNoInstalledVersionRuns)
+{
+    m_folder.PutVersion("1.0");
+    Publish();
+    BundleText text = Version("2.0");
+    text.payloadKind = "installer";
+    m_folder.Put("Test_2.0.sparkle_guided.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    ExpectRefused(Generate(), {"Test_2.0.sparkle_guided.zip: installed versions do not run installer programs (seen by "
+                               "clients of version 1.0); publish a bundle"});
+}
+
+TEST_F(Accident, FeedKeepsWhomEachVersionTrusts)
+{
+    BundleText text = Version("2.0");
+    text.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    m_folder.GeneratedFeed();
+    std::vector<Engine::FeedItem> const items = m_folder.Items();
+    ASSERT_EQ(items.size(), 1u);
+    ASSERT_EQ(items[0].trustedKeys.size(), 2);
+    EXPECT_EQ(items[0].trustedKeys[0], items[0].signerKey);
+    EXPECT_EQ(items[0].signerKey.size(), 16);
+    EXPECT_NE(items[0].trustedKeys[1], items[0].signerKey);
+}
+
+} // namespace Pelnar::Testing

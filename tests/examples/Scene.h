@@ -1,14 +1,16 @@
 // Scene.h: what the examples in public headers take for granted: Qt, and a host with a window.
 #pragma once
 
-#include <QApplication>
-#include <QDesktopServices>
-#include <QFile>
-#include <QMessageBox>
-#include <QTimer>
+#include <QtWidgets>
 
 #include <memory>
 #include <string>
+
+/// As within a QObject.
+inline QString tr(char const* text)
+{
+    return QCoreApplication::translate("Host", text);
+}
 
 struct HostWindow
 {

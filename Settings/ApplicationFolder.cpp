@@ -1,6 +1,7 @@
 #include "Settings/ApplicationFolder.h"
 
 #include "Engine/core/payload/FolderSafety.h"
+#include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/payload/StagingFolder.h"
 
 #include <QCryptographicHash>
@@ -46,16 +47,6 @@ std::string HomeFolder()
     passwd* found = nullptr;
     bool const isKnown = ::getpwuid_r(::geteuid(), &entry, buffer.data(), buffer.size(), &found) == 0 && found;
     return isKnown && entry.pw_dir[0] == '/' ? entry.pw_dir : "";
-}
-
-/// Makes the folder and those above it. What fails shows when it is opened.
-void MakeFolders(std::string const& path)
-{
-    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
-    {
-        ::mkdir(path.substr(0, end).c_str(), S_IRWXU);
-    }
-    ::mkdir(path.c_str(), S_IRWXU);
 }
 
 OpenedFolder Refused(int errorNumber, std::string const& path, std::string const& why)
@@ -169,7 +160,7 @@ OpenedFolder OpenApplicationFolder(ApplicationFolder const& place, MissingFolder
     }
     if (missing == MissingFolder::Make)
     {
-        MakeFolders(place.base);
+        Engine::MakeFoldersAbove(place.Path());
     }
     UniqueFd const above(::open(place.base.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     struct stat status;

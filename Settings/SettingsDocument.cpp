@@ -53,6 +53,15 @@ Earlier versions kept the user defaults in `~/GNUstep/Defaults/<program>.plist`.
 there and sets `PelnarEarlierDefaultsTaken`. The old file stays as it is, and the host's own defaults stay in it. An old file
 that cannot be read is in the log, and is tried again at the next start.
 
+## Other files on Linux
+
+| Folder | What stands there |
+| --- | --- |
+| `$XDG_CACHE_HOME/<bundle identifier>/updates`, else below `~/.cache` | [archives](../formats/partial-download.md) and the [last feed](../formats/kept-feed.md), which can be had again |
+| `$XDG_STATE_HOME/<bundle identifier>/updates`, else below `~/.local/state` | what is known of [feeds](../formats/signed-feed.md) and of [installations](../formats/install-record.md) |
+
+Both have mode 0700. What earlier versions kept in `$XDG_CACHE_HOME/pelnar-updates` and in GNUstep's folder is taken over.
+
 [Why the settings live there](../decisions/0008-settings-in-xdg-folders.md).
 )";
 

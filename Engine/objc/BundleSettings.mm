@@ -3,6 +3,7 @@
 #include "Engine/core/PathText.h"
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/payload/StagingFolder.h"
+#include "Engine/objc/ApplicationPlaces_p.h"
 #include "Engine/objc/HelperLocation_p.h"
 #include "Engine/objc/SettingValues_p.h"
 #include "Foundation/FoundationText.h"
@@ -10,7 +11,6 @@
 #include <QDateTime>
 #include <QFileInfo>
 #include <QLocale>
-#include <QStandardPaths>
 
 #include <glog/logging.h>
 
@@ -170,7 +170,7 @@ id EntryOf(NSDictionary* record, NSString* name, Class kind)
 }
 
 /// What versions before this one kept in the user defaults; it counts until there is a file.
-FeedRecord ReadEarlierFeedRecord()
+FeedRecord ReadFeedRecordOfDefaults()
 {
     FeedRecord record;
     id const entries = [[NSUserDefaults standardUserDefaults] objectForKey:NameOfSetting(Setting::FeedRecord)];
@@ -214,11 +214,14 @@ void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
     }
 }
 
-/// Beside the user defaults, but not in them: those are named after the program, and writing them takes the disk's
-/// time.
-QString RecordPath()
+QString RecordPath() { return StateFolderOf(SettingText(Setting::BundleIdentifier)) + QStringLiteral("/feed"); }
+
+/// What earlier versions kept in a folder beside the user defaults, or in these.
+FeedRecord ReadEarlierFeedRecord()
 {
-    return FeedRecordPath(ToQString(GSDefaultsRootForUser(NSUserName())), SettingText(Setting::BundleIdentifier));
+    QString const folder = ToQString(GSDefaultsRootForUser(NSUserName()));
+    return ReadFeedRecordFile(FeedRecordPath(folder, SettingText(Setting::BundleIdentifier)))
+        .value_or(ReadFeedRecordOfDefaults());
 }
 
 BackOffState ReadBackOff()
@@ -240,14 +243,6 @@ BackOffState ReadBackOff()
     return state;
 }
 
-/// One folder for each application. It is named so that no identifier can lead elsewhere.
-QString DownloadFolderFor(QString const& identifier)
-{
-    QByteArray const name = QUrl::toPercentEncoding(identifier, {}, ".");
-    return QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + QStringLiteral("/pelnar-updates/") +
-           QString::fromLatin1(name);
-}
-
 } // namespace
 
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
@@ -262,7 +257,8 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
                             IsSettingTrueIn(SettingPlace::Defaults, Setting::UpdatesDisabled);
     settings.updates = isDisabled ? UpdateSwitch::Off : UpdateSwitch::On;
     settings.backOff = ReadBackOff();
-    settings.downloadFolder = DownloadFolderFor(settings.bundle.identifier);
+    settings.downloadFolder = DownloadFolderOf(settings.bundle.identifier);
+    settings.stateFolder = StateFolderOf(settings.bundle.identifier);
     return settings;
 }
 
@@ -282,7 +278,9 @@ std::optional<StartedApplication> ReadStartedApplication()
     application.helperProgram = HelperProgram();
     application.bundlePath = BundlePathText(ToQString([[NSBundle mainBundle] bundlePath]));
     application.version = SettingText(Setting::BundleVersion);
-    application.downloadFolder = DownloadFolderFor(ReadRunningBundle().identifier);
+    QString const identifier = SettingText(Setting::BundleIdentifier);
+    application.downloadFolder = DownloadFolderOf(identifier);
+    application.stateFolder = StateFolderOf(identifier);
     return application.version.isEmpty() ? std::nullopt : std::optional(application);
 }
 
@@ -319,7 +317,7 @@ void WriteBackOff(BackOffState const& state, DiskChores& chores)
 FeedFolder ReadFeedFolder()
 {
     QString const identifier = ReadRunningBundle().identifier;
-    return {DownloadFolderFor(identifier), identifier};
+    return {DownloadFolderOf(identifier), identifier};
 }
 
 FeedRecord ReadFeedRecord()

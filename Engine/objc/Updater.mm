@@ -114,7 +114,7 @@ void Updater::AttachToApplication()
             RecoverAtStart(*application, *m_startOwner, [this](StartOutcome const& outcome) { TakeStart(outcome); });
         }
         StartedApplication const started = application.value_or(StartedApplication());
-        m_memory = std::make_unique<InstallMemory>(started.downloadFolder, started.bundlePath, started.version);
+        m_memory = std::make_unique<InstallMemory>(started.stateFolder, started.downloadFolder, started.bundlePath, started.version);
         m_isDelegateToBeTold = m_memory->IsToBeTold();
         TellFailedInstallationLater();
     }

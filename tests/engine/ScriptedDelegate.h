@@ -141,6 +141,8 @@ void SetTextDefault(char const* key, char const* value);
 void SetListDefault(char const* key);
 /// Where the user defaults are kept.
 QString DefaultsFolder();
+/// Where the application's state is kept.
+QString StateFolder();
 /// Puts \a bytes in the place of the file with the user defaults.
 void SpoilDefaults(QByteArray const& bytes);
 /// Where versions before this one kept them, in a file named after the program.

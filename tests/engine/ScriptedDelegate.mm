@@ -378,6 +378,11 @@ void SetListDefault(char const* key)
 
 QString DefaultsFolder() { return QFile::decodeName(OwnDefaults().Path().c_str()); }
 
+QString StateFolder()
+{
+    return QFile::decodeName(Settings::FolderOf(Settings::BaseFolder::State, Identifier()).Path().c_str());
+}
+
 void SpoilDefaults(QByteArray const& bytes)
 {
     WriteWhole(DefaultsFolder() + QLatin1Char('/') + QLatin1String(Settings::DEFAULTS_FILE), bytes);

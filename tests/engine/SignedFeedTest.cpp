@@ -37,7 +37,7 @@ protected:
         return driver->Events();
     }
 
-    static QString RecordPath() { return FeedRecordPath(EarlierDefaultsFolder(), {}); }
+    static QString RecordPath() { return StateFolder() + QStringLiteral("/updates/feed"); }
 
     /// What the file says of the feed; it may still be on its way to the disk.
     static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
@@ -228,6 +228,21 @@ TEST_F(SignedFeedCheck, FloorOfTheDefaultsIsTakenOverOnceWhateverItsAddress)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
+TEST_F(SignedFeedCheck, FloorOfTheEarlierFileIsTakenOverOnce)
+{
+    QString const earlier = FeedRecordPath(EarlierDefaultsFolder(), {});
+    FeedRecord record;
+    record.serial = 8;
+    EXPECT_TRUE(KeepFeedRecordFile(earlier, {}, record));
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), Events{"aborted 3002"});
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
+    WaitForSerial(9);
+    EXPECT_EQ(ReadFeedRecordFile(earlier)->serial, 8) << "it is left as it is";
+    record.serial = 20;
+    EXPECT_TRUE(KeepFeedRecordFile(earlier, {}, record));
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
+}
+
 TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
 {
     for (QByteArray const& record :
@@ -270,7 +285,7 @@ TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
 
 TEST_F(SignedFeedCheck, FloorThatNoDiskKeepsHoldsAsLongAsTheProcess)
 {
-    ASSERT_TRUE(QDir().mkpath(EarlierDefaultsFolder()));
+    ASSERT_TRUE(QDir().mkpath(StateFolder()));
     QFile inTheWay(QFileInfo(RecordPath()).path());
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     LogCapture log;

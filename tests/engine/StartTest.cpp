@@ -9,6 +9,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QProcess>
 
 #include <algorithm>
@@ -73,20 +74,27 @@ protected:
     }
 
     QString Cache() const { return QString::fromStdString(m_scene.Downloads().Path() + "/cache"); }
-    /// Where the host keeps its downloads.
-    std::string DownloadFolder() const { return Cache().toStdString() + "/pelnar-updates/org%2Epelnar%2Etest"; }
+    QString State() const { return QString::fromStdString(m_scene.Downloads().Path() + "/state"); }
+    /// Where the host keeps its downloads, and what it knows of installations.
+    std::string DownloadFolder() const { return Cache().toStdString() + "/org.pelnar.test/updates"; }
+    std::string RecordFolder() const { return State().toStdString() + "/org.pelnar.test/updates"; }
+    /// Where versions before this one kept both.
+    std::string EarlierFolder() const { return Cache().toStdString() + "/pelnar-updates/org%2Epelnar%2Etest"; }
 
     /// A person's wish for 2.0, which the injected fault spoils.
-    void FailToInstall(std::string const& fault)
+    void FailToInstall(std::string const& fault) { FailToInstall(fault, DownloadFolder(), RecordFolder()); }
+
+    void FailToInstall(std::string const& fault, std::string const& downloads, std::string const& records)
     {
         Pelnar::Engine::InstallJob job = m_scene.PrepareForInstall();
         UpdateScene::KeepRecord(job);
         job.recordName = Pelnar::Engine::InstallRecordName(QString::fromStdString(BundlePath()));
         job.record->attempts = 1;
         job.targetPath.clear();
-        std::filesystem::create_directories(DownloadFolder());
-        std::ofstream(DownloadFolder() + "/" + ARCHIVE) << "the archive";
-        Pelnar::Engine::UniqueFd const records(::open(DownloadFolder().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        std::filesystem::create_directories(downloads);
+        std::filesystem::create_directories(records);
+        std::ofstream(downloads + "/" + ARCHIVE) << "the archive";
+        Pelnar::Engine::UniqueFd const opened(::open(records.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
         m_scene.Host().End();
         HelperStart start;
         start.before = {STRACE, "-f", "-qq", "-o", "/dev/null", "-e", "inject=" + fault};
@@ -95,7 +103,7 @@ protected:
                   {{Numbers::PARENT, m_scene.Place().Descriptor()},
                    {Numbers::STAGING, m_scene.StagingDescriptor()},
                    {Numbers::HOST, m_scene.Host().ProcessDescriptor()},
-                   {Numbers::RECORDS, records.Get()}},
+                   {Numbers::RECORDS, opened.Get()}},
                   start);
         m_scene.ReleaseStaging();
     }
@@ -109,6 +117,7 @@ protected:
         process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CACHE_HOME"), Cache());
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), State());
         if (!before.isEmpty())
         {
             // The leak checker needs to trace the process itself.
@@ -221,6 +230,26 @@ TEST_F(Start, AfterAnInstallationThatFailedTellsThePersonWhoAskedOnceAndWaitsWit
     EXPECT_TRUE(std::filesystem::exists(DownloadFolder() + "/" + ARCHIVE)) << "the next attempt need not download it";
 }
 
+TEST_F(Start, TakesOverWhatEarlierVersionsKnewOfAnInstallation)
+{
+    FailToInstall("renameat2:error=EPERM", EarlierFolder(), EarlierFolder());
+    EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4012;");
+    EXPECT_EQ(RunInBackground(), "asked;aborted 1002;") << "it is told once";
+    EXPECT_TRUE(std::filesystem::exists(DownloadFolder() + "/" + ARCHIVE));
+    EXPECT_FALSE(std::filesystem::exists(Cache().toStdString() + "/pelnar-updates")) << "nothing stays behind";
+}
+
+TEST_F(Start, LeavesALinkInThePlaceOfEarlierDownloadsAlone)
+{
+    std::string const elsewhere = m_scene.Downloads().Path() + "/elsewhere";
+    std::filesystem::create_directories(elsewhere);
+    std::filesystem::create_directories(Cache().toStdString() + "/pelnar-updates");
+    std::filesystem::create_symlink(elsewhere, EarlierFolder());
+    RunInBackground();
+    EXPECT_TRUE(std::filesystem::is_symlink(EarlierFolder()));
+    EXPECT_TRUE(std::filesystem::is_empty(elsewhere));
+}
+
 TEST_F(Start, AfterAHelperThatWasKilledTellsThePersonWhoAsked)
 {
     FailToInstall("renameat2:signal=KILL");
@@ -233,6 +262,8 @@ TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)
     ExpectWhole("2.0");
     EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
     EXPECT_TRUE(std::filesystem::is_empty(DownloadFolder()));
+    EXPECT_EQ(QDir(QString::fromStdString(RecordFolder())).entryList({QStringLiteral("*.installation")}),
+              QStringList());
 }
 
 TEST_F(StartWithAWord, KeepsANewVersionThatConfirms)

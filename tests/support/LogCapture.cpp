@@ -1,9 +1,22 @@
 #include "tests/support/LogCapture.h"
 
 #include <algorithm>
+#include <iterator>
+#include <mutex>
 
 namespace Pelnar::Testing
 {
+namespace
+{
+
+/// Threads write records while a test waits for one. One for all: few captures live at a time.
+std::mutex& Mutex()
+{
+    static std::mutex mutex;
+    return mutex;
+}
+
+} // namespace
 
 bool operator==(LogRecord const& a, LogRecord const& b)
 {
@@ -31,6 +44,7 @@ LogCapture::~LogCapture()
 
 std::vector<std::string> LogCapture::Texts() const
 {
+    std::lock_guard const lock(Mutex());
     std::vector<std::string> texts;
     for (LogRecord const& record : m_records)
     {
@@ -41,6 +55,7 @@ std::vector<std::string> LogCapture::Texts() const
 
 std::vector<LogRecord> LogCapture::Of(google::LogSeverity severity) const
 {
+    std::lock_guard const lock(Mutex());
     std::vector<LogRecord> records;
     std::copy_if(m_records.begin(), m_records.end(), std::back_inserter(records),
                  [severity](LogRecord const& record) { return record.severity == severity; });
@@ -49,12 +64,14 @@ std::vector<LogRecord> LogCapture::Of(google::LogSeverity severity) const
 
 bool LogCapture::Has(LogRecord const& record) const
 {
+    std::lock_guard const lock(Mutex());
     return std::find(m_records.begin(), m_records.end(), record) != m_records.end();
 }
 
 void LogCapture::send(google::LogSeverity severity, char const* full_filename, char const*, int line,
                       google::LogMessageTime const&, char const* message, size_t message_len)
 {
+    std::lock_guard const lock(Mutex());
     m_records.push_back({severity, full_filename, line, std::string(message, message_len)});
 }
 

@@ -30,18 +30,19 @@ protected:
         QDir(m_folder.path()).mkpath(QStringLiteral("App.app"));
         m_bundle = QFileInfo(m_folder.filePath(QStringLiteral("App.app"))).canonicalFilePath();
         m_downloads = m_folder.filePath(QStringLiteral("cache/downloads"));
+        m_records = m_folder.filePath(QStringLiteral("state/records"));
     }
 
     std::string Name() const { return InstallRecordName(m_bundle); }
-    UniqueFd Downloads() const
+    UniqueFd Records() const
     {
-        return UniqueFd(::open(QFile::encodeName(m_downloads).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        return UniqueFd(::open(QFile::encodeName(m_records).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
 
     /// As the helper does it, at the end of an attempt to install 2.0 over 1.0.
     InstallRecord Attempt(InstallWish wish, InstallState state)
     {
-        InstallAttempt const attempt(m_downloads, m_bundle);
+        InstallAttempt const attempt(m_records, m_bundle);
         InstallJob job;
         job.installedVersion = "1.0";
         job.expectedVersion = "2.0";
@@ -51,6 +52,7 @@ protected:
         job.record->secondsSinceEpoch = 1000000;
         job.record->fault = state == InstallState::Failed ? UpdateFault::SwapFailed : UpdateFault::None;
         WriteNote(attempt.Folder(), job.recordName, EncodeInstallRecord(*job.record));
+        EXPECT_TRUE(QDir().mkpath(m_downloads));
         QFile archive(m_downloads + QLatin1Char('/') + QLatin1String(ARCHIVE));
         EXPECT_TRUE(archive.open(QIODevice::WriteOnly));
         return *job.record;
@@ -59,18 +61,23 @@ protected:
     /// What the start of that version finds, and leaves on the disk.
     std::optional<InstallRecord> Start(char const* version)
     {
-        InstallMemory const memory(m_downloads, m_bundle, QString::fromLatin1(version));
+        InstallMemory const memory(m_records, m_downloads, m_bundle, QString::fromLatin1(version));
         m_isToBeTold = memory.IsToBeTold();
         return memory.Failure();
     }
 
-    std::optional<InstallRecord> OnDisk() const { return ReadInstallRecord(Downloads().Get(), Name()); }
-    QStringList Files() const { return QDir(m_downloads).entryList(QDir::Files | QDir::Hidden); }
+    std::optional<InstallRecord> OnDisk() const { return ReadInstallRecord(Records().Get(), Name()); }
+    QStringList Files() const
+    {
+        return QDir(m_downloads).entryList(QDir::Files | QDir::Hidden) +
+               QDir(m_records).entryList(QDir::Files | QDir::Hidden);
+    }
 
     static constexpr char ARCHIVE[] = "0123456789abcdef0123456789abcdef0123456789abcdef0123456789abcdef.archive";
     QTemporaryDir m_folder;
     QString m_bundle;
     QString m_downloads;
+    QString m_records;
     bool m_isToBeTold = false;
 };
 
@@ -82,8 +89,8 @@ QDateTime After(int hours)
 TEST_F(InstallMemoryTest, IsEmptyWithoutARecordOrAFolder)
 {
     EXPECT_FALSE(Start("1.0"));
-    EXPECT_FALSE(QDir(m_downloads).exists()) << "a start makes nothing";
-    InstallMemory const nothing({}, {}, {});
+    EXPECT_FALSE(QDir(m_downloads).exists() || QDir(m_records).exists()) << "a start makes nothing";
+    InstallMemory const nothing({}, {}, {}, {});
     EXPECT_FALSE(nothing.Failure());
 }
 
@@ -92,7 +99,7 @@ TEST_F(InstallMemoryTest, AttemptsOfOneVersionAreCounted)
     EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, 1u);
     EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, 2u);
     EXPECT_EQ(Attempt(InstallWish::Person, InstallState::Installing).attempts, 3u);
-    InstallAttempt const attempt(m_downloads, m_bundle);
+    InstallAttempt const attempt(m_records, m_bundle);
     InstallJob job;
     job.installedVersion = "1.0";
     job.expectedVersion = "2.1";
@@ -104,14 +111,14 @@ TEST_F(InstallMemoryTest, AttemptThatIsTakenBackLeavesWhatWasThere)
 {
     Attempt(InstallWish::Automatic, InstallState::Failed);
     auto const before = OnDisk();
-    InstallAttempt again(m_downloads, m_bundle);
+    InstallAttempt again(m_records, m_bundle);
     Attempt(InstallWish::Person, InstallState::Waiting);
     again.TakeBack();
     ASSERT_TRUE(OnDisk());
     EXPECT_EQ(EncodeInstallRecord(*OnDisk()), EncodeInstallRecord(*before));
 
-    RemoveNote(Downloads().Get(), Name());
-    InstallAttempt first(m_downloads, m_bundle);
+    RemoveNote(Records().Get(), Name());
+    InstallAttempt first(m_records, m_bundle);
     Attempt(InstallWish::Person, InstallState::Waiting);
     first.TakeBack();
     EXPECT_EQ(Files(), QStringList{QLatin1String(ARCHIVE)});
@@ -128,7 +135,7 @@ TEST_F(InstallMemoryTest, FailureIsToldOnceToAPersonWhoAsked)
         EXPECT_TRUE(m_isToBeTold);
     }
     {
-        InstallMemory memory(m_downloads, m_bundle, QStringLiteral("1.0"));
+        InstallMemory memory(m_records, m_downloads, m_bundle, QStringLiteral("1.0"));
         memory.SetTold();
         EXPECT_FALSE(memory.IsToBeTold());
     }
@@ -160,7 +167,7 @@ TEST_F(InstallMemoryTest, HelperThatRunsHasNotFailed)
 {
     InstallRecord record = Attempt(InstallWish::Person, InstallState::Installing);
     record.helper = MarkOfThisProcess();
-    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    WriteNote(Records().Get(), Name(), EncodeInstallRecord(record));
     EXPECT_FALSE(Start("1.0"));
     ASSERT_TRUE(OnDisk());
     EXPECT_EQ(OnDisk()->state, InstallState::Installing);
@@ -202,7 +209,7 @@ TEST_F(InstallMemoryTest, VersionThatWasInstalledAndNotStartedIsLoggedByItsFirst
     InstallRecord record = Attempt(InstallWish::Person, InstallState::Installed);
     record.fault = UpdateFault::RelaunchFailed;
     record.errorNumber = EAGAIN;
-    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    WriteNote(Records().Get(), Name(), EncodeInstallRecord(record));
     LogCapture log;
     EXPECT_FALSE(Start("2.0"));
     EXPECT_EQ(log.Texts(), std::vector<std::string>{
@@ -215,14 +222,14 @@ TEST_F(InstallMemoryTest, CountOfAttemptsThatIsFullStaysFull)
     constexpr std::uint64_t MOST = ~std::uint64_t{0};
     InstallRecord record = Attempt(InstallWish::Automatic, InstallState::Failed);
     record.attempts = MOST;
-    WriteNote(Downloads().Get(), Name(), EncodeInstallRecord(record));
+    WriteNote(Records().Get(), Name(), EncodeInstallRecord(record));
     EXPECT_EQ(Attempt(InstallWish::Automatic, InstallState::Failed).attempts, MOST);
 }
 
 TEST_F(InstallMemoryTest, RecordsOfOthersAndNonsenseSayNothing)
 {
     Attempt(InstallWish::Person, InstallState::Failed);
-    QFile file(m_downloads + QLatin1Char('/') + QString::fromStdString(Name()));
+    QFile file(m_records + QLatin1Char('/') + QString::fromStdString(Name()));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Append));
     file.write("x");
     file.close();

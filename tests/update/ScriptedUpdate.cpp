@@ -375,6 +375,7 @@ UpdateFixture::UpdateFixture()
     settings.bundle.publicKeys = QStringList{QString::fromLatin1(GOOD_KEY)};
     settings.check.bundleVersion = settings.bundle.version;
     settings.downloadFolder = downloads.path();
+    settings.stateFolder = downloads.filePath(QStringLiteral("state"));
 }
 
 FeedItem UpdateFixture::Item(char const* version) const

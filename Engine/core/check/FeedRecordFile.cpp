@@ -5,7 +5,6 @@
 #include "Engine/core/payload/FieldCodec_p.h"
 #include "Engine/core/payload/NoteFile.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
@@ -15,9 +14,11 @@
 
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace Pelnar::Engine
 {
@@ -43,7 +44,12 @@ QDateTime TimeOf(std::uint64_t seconds)
 
 UniqueFd OpenFolderOf(QString const& path)
 {
-    return UniqueFd(::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    UniqueFd folder(
+        ::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status;
+    bool const isOurs = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
+                        (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
+    return isOurs ? std::move(folder) : UniqueFd();
 }
 
 std::string NameOf(QString const& path)
@@ -103,11 +109,9 @@ std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
 
 bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedRecord const& ours)
 {
-    QString const folderPath = QFileInfo(path).path();
-    QDir().mkpath(QFileInfo(folderPath).path());
-    // Nobody else may hold the lock.
-    static_cast<void>(::mkdir(QFile::encodeName(folderPath).constData(), S_IRWXU));
-    UniqueFd const folder = OpenFolderOf(path);
+    std::string const folderPath = QFile::encodeName(QFileInfo(path).path()).toStdString();
+    MakeFoldersAbove(folderPath);
+    UniqueFd const folder = OpenPrivateFolder(folderPath);
     // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
     QLockFile lock(path + QStringLiteral(".lock"));
     LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))

@@ -139,7 +139,7 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
 
 bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& feed)
 {
-    QDir().mkpath(QFileInfo(folder.path).path());
+    MakeFoldersAbove(QFile::encodeName(folder.path).toStdString());
     std::string const shownPath = folder.path.toStdString();
     UniqueFd const descriptor = OpenFolder(folder);
     if (!descriptor)

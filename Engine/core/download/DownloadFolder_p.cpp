@@ -127,7 +127,7 @@ std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path)
     UniqueFd folder = OpenPrivateFolder(path);
     if (!folder && errno == ENOENT)
     {
-        QDir().mkpath(QFileInfo(shownPath).path());
+        MakeFoldersAbove(path);
         folder = OpenPrivateFolder(path);
     }
     if (!folder)

@@ -32,6 +32,14 @@ void SyncOrThrow(int descriptor)
 
 } // namespace
 
+void MakeFoldersAbove(std::string const& path)
+{
+    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
+    {
+        static_cast<void>(::mkdir(path.substr(0, end).c_str(), FOLDER_MODE));
+    }
+}
+
 UniqueFd OpenPrivateFolder(std::string const& path)
 {
     static_cast<void>(::mkdir(path.c_str(), FOLDER_MODE));

@@ -11,6 +11,9 @@
 namespace Pelnar::Engine
 {
 
+/// Makes what is missing of the folders above \a path, for this user alone. What fails shows when they are used.
+void MakeFoldersAbove(std::string const& path);
+
 /// Opens the folder \a path, or makes it. Without a folder in which nobody but this user can write there is none, and
 /// errno: EPERM for one of somebody else's or that others can write, ENOTDIR or ELOOP for what is no folder.
 UniqueFd OpenPrivateFolder(std::string const& path);

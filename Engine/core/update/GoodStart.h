@@ -23,6 +23,7 @@ struct StartedApplication
     QString bundlePath;          ///< absolute
     QString version;             ///< the running one
     QString downloadFolder = {}; ///< absolute
+    QString stateFolder = {};    ///< absolute
 };
 
 struct StartOutcome

@@ -5,7 +5,6 @@
 #include <glog/logging.h>
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
 
 #include <algorithm>
@@ -27,8 +26,9 @@ constexpr mode_t OTHERS_CAN_WRITE = 0022;
 
 UniqueFd MakeRecordFolder(QString const& path)
 {
-    QDir().mkpath(QFileInfo(path).path());
-    static_cast<void>(::mkdir(QFile::encodeName(path).constData(), FOLDER_MODE)); // it may be there
+    std::string const name = QFile::encodeName(path).toStdString();
+    MakeFoldersAbove(name);
+    static_cast<void>(::mkdir(name.c_str(), FOLDER_MODE)); // it may be there
     UniqueFd folder = OpenRecordFolder(path);
     if (!folder)
     {

@@ -15,7 +15,7 @@ namespace Pelnar::Engine
 
 /// Of the bundle at \a bundlePath, which is absolute and holds no link; no folder's and no archive's name is like it.
 std::string InstallRecordName(QString const& bundlePath);
-/// The folder of the downloads; not set when there is none of this user's that nobody else can write.
+/// The folder of the records; not set when there is none of this user's that nobody else can write.
 UniqueFd OpenRecordFolder(QString const& path);
 /// What the record says; nothing when there is none that can be read and understood.
 std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name);
@@ -23,7 +23,7 @@ std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& 
 class InstallAttempt
 {
 public:
-    /// \a folder, which is made if it is missing, is the downloads'. Throws UpdateRefusal.
+    /// \a folder, which is made if it is missing, holds the records. Throws UpdateRefusal.
     InstallAttempt(QString const& folder, QString const& bundlePath);
 
     int Folder() const { return m_folder.Get(); }

@@ -42,8 +42,9 @@ bool IsHeldBack(InstallRecord const& failure, QDateTime const& now)
     return failure.attempts >= MAX_AUTOMATIC_ATTEMPTS || IsHeldBack(BackOffState{attempts, TimeOf(failure)}, now);
 }
 
-InstallMemory::InstallMemory(QString const& folder, QString const& bundlePath, QString const& version)
-    : m_folder(folder)
+InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QString const& bundlePath,
+                             QString const& version)
+    : m_folder(folder), m_downloads(downloads)
 {
     UniqueFd const opened = OpenRecordFolder(folder);
     auto const bundle = opened ? OpenInstalledBundle(bundlePath) : OpenedTarget(EngineError());
@@ -73,7 +74,7 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
             << " was installed, but could not be started: " << FaultName(record.fault) << " (errno "
             << record.errorNumber << ")";
         Forget();
-        m_chores.Run([folder = m_folder] { ArchiveDownload::Clear(folder); });
+        m_chores.Run([folder = m_downloads] { ArchiveDownload::Clear(folder); });
         return;
     case PastInstallation::Dropped:
         // It was no attempt, but those before it count.

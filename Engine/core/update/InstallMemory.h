@@ -24,8 +24,9 @@ constexpr std::uint64_t MAX_AUTOMATIC_ATTEMPTS = 3;
 class InstallMemory
 {
 public:
-    /// \a folder is the downloads', \a bundlePath the running bundle's, \a version the running one. Reads one file.
-    InstallMemory(QString const& folder, QString const& bundlePath, QString const& version);
+    /// \a folder holds the records, \a downloads the archives; \a bundlePath is the running bundle's, \a version the
+    /// running one. Reads one file.
+    InstallMemory(QString const& folder, QString const& downloads, QString const& bundlePath, QString const& version);
 
     /// Of the last installation, which left this version in its place; nothing otherwise.
     std::optional<InstallRecord> const& Failure() const { return m_failure; }
@@ -39,6 +40,7 @@ private:
     void Keep(InstallRecord const& record);
 
     QString m_folder;
+    QString m_downloads;
     std::string m_name;
     std::optional<InstallRecord> m_failure;
     DiskChores m_chores;

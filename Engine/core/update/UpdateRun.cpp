@@ -352,7 +352,7 @@ std::optional<EngineError> UpdateRun::HandOver(InstallJob job, InstallWish wish,
     {
         if (!m_attempt)
         {
-            m_attempt = std::make_unique<InstallAttempt>(m_settings.downloadFolder, m_target->path);
+            m_attempt = std::make_unique<InstallAttempt>(m_settings.stateFolder, m_target->path);
         }
     }
     catch (UpdateRefusal const& refusal)

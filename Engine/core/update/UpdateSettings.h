@@ -44,6 +44,7 @@ struct UpdateSettings
     BackOffState backOff;
     AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
     QString downloadFolder;                         ///< absolute; this user's alone
+    QString stateFolder;                            ///< the same, for what must outlive a cleared cache
 };
 
 } // namespace Pelnar::Engine

@@ -1,0 +1,103 @@
+#include "Engine/objc/ApplicationPlaces_p.h"
+
+#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/payload/UpdateFault.h"
+#include "Settings/ApplicationFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QUrl>
+
+#include <glog/logging.h>
+
+#include <cerrno>
+#include <cstring>
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+using Settings::BaseFolder;
+
+/// The host may keep files of its own beside it, and others may be allowed to write there.
+constexpr char OWN_FOLDER[] = "updates";
+
+/// Empty for a person without a home.
+std::string PathIn(BaseFolder base, QString const& bundleIdentifier)
+{
+    Settings::ApplicationFolder const folder = Settings::FolderOf(base, bundleIdentifier);
+    return folder.base.empty() ? std::string() : folder.Path() + '/' + OWN_FOLDER;
+}
+
+std::string EarlierDownloadFolder(QString const& bundleIdentifier)
+{
+    std::string const base = Settings::BaseFolderPath(BaseFolder::Cache);
+    return base.empty() ? base
+                        : base + "/pelnar-updates/" + QUrl::toPercentEncoding(bundleIdentifier, {}, ".").toStdString();
+}
+
+/// The folder beneath an application's own; made for this user alone.
+UniqueFd OpenOwnFolder(BaseFolder base, QString const& bundleIdentifier)
+{
+    MakeFoldersAbove(PathIn(base, bundleIdentifier));
+    return OpenPrivateFolder(PathIn(base, bundleIdentifier));
+}
+
+void MoveRecord(int from, int to, std::string const& name)
+{
+    try
+    {
+        WriteNote(to, name, ReadNote(from, name));
+        RemoveNote(from, name);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        LOG(WARNING) << "The record of the last installation is not taken over: " << refusal.what();
+    }
+}
+
+void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString const& bundleIdentifier)
+{
+    QStringList const records =
+        QDir(QFile::decodeName(earlierPath.c_str())).entryList({QStringLiteral("*.installation")}, QDir::Files);
+    if (UniqueFd const state = records.isEmpty() ? UniqueFd() : OpenOwnFolder(BaseFolder::State, bundleIdentifier))
+    {
+        for (QString const& name : records)
+        {
+            MoveRecord(earlier.Get(), state.Get(), QFile::encodeName(name).toStdString());
+        }
+    }
+    std::string const path = PathIn(BaseFolder::Cache, bundleIdentifier);
+    MakeFoldersAbove(path);
+    bool const isMoved = ::renameat2(AT_FDCWD, earlierPath.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
+    PLOG_IF(WARNING, !isMoved && errno != EEXIST) << "The downloads in " << earlierPath << " are not taken over";
+    // The last application's is empty then.
+    static_cast<void>(::rmdir(earlierPath.substr(0, earlierPath.rfind('/')).c_str()));
+}
+
+} // namespace
+
+QString DownloadFolderOf(QString const& bundleIdentifier)
+{
+    std::string const earlierPath = EarlierDownloadFolder(bundleIdentifier);
+    UniqueFd const earlier(::open(earlierPath.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status;
+    if (earlier && ::fstat(earlier.Get(), &status) == 0 && status.st_uid == ::geteuid())
+    {
+        TakeOver(earlier, earlierPath, bundleIdentifier);
+    }
+    return QFile::decodeName(PathIn(BaseFolder::Cache, bundleIdentifier).c_str());
+}
+
+QString StateFolderOf(QString const& bundleIdentifier)
+{
+    return QFile::decodeName(PathIn(BaseFolder::State, bundleIdentifier).c_str());
+}
+
+} // namespace Pelnar::Engine

@@ -46,12 +46,16 @@ def install(packages, root, log):
     return True
 
 
+def why_not():
+    if os.getuid() != 0:
+        return "only root can install a Debian system"
+    return "" if shutil.which("debootstrap") else "debootstrap is not installed"
+
+
 def main():
     published, build, folder = map(pathlib.Path, sys.argv[1:4])
-    if os.getuid() != 0:
-        return skip("only root can install a Debian system")
-    if not shutil.which("debootstrap"):
-        return skip("debootstrap is not installed")
+    if reason := why_not():
+        return skip(reason)
     roots = folder / "roots"
     roots.mkdir(parents=True, exist_ok=True)
     for name, without in (("with_qt", ()), ("without_qt", ("qt",))):

@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 """The Debian packages that cpack makes, used on a system that has what they depend on and nothing else.
 
-Usage: debian_packages_test.py BUILD_FOLDER CXX_COMPILER
+Usage: debian_packages_test.py BUILD_FOLDER CXX_COMPILER [--on-debian]
 
-Ends with 77 where no packages or no mount namespace can be made.
+The system is made of this machine's packages, or with --on-debian installed by debootstrap; dpkg then installs the packages on it.
+Ends with 77 where no packages, no mount namespace or no such system can be made.
 """
 import json
 import os
@@ -19,6 +20,7 @@ BARE = HERE.parent / "bare"
 sys.path.insert(0, str(BARE))
 
 import baseline
+import debian_test
 
 STATUS_SKIPPED = 77
 NAMES = {"libpelnar-update-checker1", "libpelnar-update-checker-dev", "pelnar-appcast"}
@@ -88,7 +90,27 @@ def build_host(work, packages, compiler):
     return work / "host/tiny_host"
 
 
-def test(work, build, compiler):
+def make_system(root, needed, packages):
+    """A system with what the packages depend on, and them."""
+    baseline.make_root(needed, root)
+    for package in packages:
+        run("dpkg-deb", "--extract", package, root)
+
+
+def install_system(root, needed, packages):
+    """The same by debootstrap and dpkg; whether that could be."""
+    log = root.parent / "debootstrap.log"
+    if not debian_test.install(needed, root, log):
+        print(log.read_text()[-2000:])
+        return False
+    for package in packages:
+        shutil.copy2(package, root / "tmp")
+    print(run("chroot", root, "dpkg", "--install", *[f"/tmp/{package.name}" for package in packages],
+              env={"PATH": "/usr/sbin:/usr/bin:/sbin:/bin", "LC_ALL": "C.UTF-8"}))
+    return True
+
+
+def test(work, build, compiler, make_system):
     run("cpack", "-G", "DEB", "--config", build / "CPackConfig.cmake", "-B", work / "packages", cwd=work)
     packages = {run("dpkg-deb", "--field", file, "Package").strip(): file for file in (work / "packages").glob("*.deb")}
     expect(set(packages) == NAMES, f"the packages are {sorted(packages)}")
@@ -96,9 +118,9 @@ def test(work, build, compiler):
 
     root = work / "root"
     installed = [name for name in NAMES if not name.endswith("-dev")]
-    baseline.make_root(sorted({need for name in installed for need in depends(packages[name])} - NAMES), root)
-    for name in installed:
-        run("dpkg-deb", "--extract", packages[name], root)
+    needed = sorted({need for name in installed for need in depends(packages[name])} - NAMES)
+    if make_system(root, needed, [packages[name] for name in installed]) is False:
+        return skip("no Debian system could be installed")
     home = work / "home"
     home.mkdir(mode=0o755)
     shutil.copy2(HERE / "feed.xml", home)
@@ -110,19 +132,24 @@ def test(work, build, compiler):
     said = run_in(root, home, "/usr/bin/pelnar-appcast", "explain", "/home/person/feed.xml", "--local-version", "1.0", "--system-version", "12")
     expect("1.1" in said, f"the tool said {said}")
     print("Debian packages: a program and the tool run with what they depend on")
+    return 0
+
+
+def skip(reason):
+    # As GoogleTest writes it: scripts/skipped reads the reason.
+    print(f"{__file__}:0: Skipped\n{reason}")
+    return STATUS_SKIPPED
 
 
 def main():
     build, compiler = pathlib.Path(sys.argv[1]), sys.argv[2]
-    if reason := why_not():
-        # As GoogleTest writes it: scripts/skipped reads the reason.
-        print(f"{__file__}:0: Skipped\n{reason}")
-        return STATUS_SKIPPED
+    is_on_debian = sys.argv[3:] == ["--on-debian"]
+    if reason := why_not() or (is_on_debian and debian_test.why_not()):
+        return skip(reason)
     with tempfile.TemporaryDirectory() as folder:
         os.chmod(folder, 0o755)
         os.umask(0o022)
-        test(pathlib.Path(folder), build, compiler)
-    return 0
+        return test(pathlib.Path(folder), build, compiler, install_system if is_on_debian else make_system)
 
 
 if __name__ == "__main__":

@@ -160,6 +160,17 @@ INSTANTIATE_TEST_SUITE_P(
                    "pelnarUpdateSession"}),
     [](auto const& info) { return std::string(info.param.name); });
 
+TEST(MissingSession, IsToldInThePersonsLanguage)
+{
+    LibraryPlace const place;
+    ::setenv("LC_ALL", "de_DE.UTF-8", 1);
+    ::unsetenv("LANGUAGE");
+    QStringList const lines = place.Run({QStringLiteral("ask")});
+    ::unsetenv("LC_ALL");
+    EXPECT_EQ(lines.filter(QStringLiteral("Installieren Sie die Anwendung neu.")).size(), 1)
+        << qPrintable(lines.join(QLatin1Char('\n')));
+}
+
 TEST(UnreadableSession, FailsTheCheck)
 {
     if (::geteuid() == 0)

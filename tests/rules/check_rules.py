@@ -31,6 +31,7 @@ LAYERS = {
     },
     "App/UpdateChecker": {"App/UpdateChecker/SparkleImpl/UpdaterSparkle", "HostFramework", "common"},
     "App/UpdateChecker/SparkleImpl/SessionLibrary": {
+        "Engine/ui",
         "App/UpdateChecker/SparkleImpl/SparkleManager",
         "App/UpdateChecker/SparkleImpl/UpdaterSparkle",
         "HostFramework",
@@ -76,6 +77,9 @@ SESSION_DECISIONS = {
         "VersionText",
     )
 }
+# Of the engine's windows, the update checker has the translations, for what it says without the engine.
+SESSION_LIBRARY = "App/UpdateChecker/SparkleImpl/SessionLibrary"
+TRANSLATIONS = "Engine/ui/Translations.h"
 FRAMEWORK_READERS = (SESSION, "Engine/")
 PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/", "Settings/")
 
@@ -106,6 +110,8 @@ def check_include(path, header, root):
         return f"{layer} may not include {header}"
     if layer == SESSION and target == BACK_END and header != LENT_RECORD:
         return f"of the back end, the session may include {LENT_RECORD} only"
+    if layer == SESSION_LIBRARY and target == "Engine/ui" and header != TRANSLATIONS:
+        return f"of the engine, the update checker may include {TRANSLATIONS} only"
     if layer == "Publisher" and target == SESSION and header not in SESSION_DECISIONS:
         return "of the session, the publisher's tool may include its pure decisions only"
     if layer == BACK_END and target == "App/UpdateChecker" and header not in BACK_END_INTERFACE:
@@ -295,6 +301,8 @@ def self_test():
         ("layers", BACK_END + "/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "App/UpdateChecker/X.cpp", "#import <Sparkle/Sparkle.h>"),
         ("layers", SESSION + "/X.cpp", "#import <Sparkle/Sparkle.h>"),
+        ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),
+        ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/core/EngineError.h"'),
         ("layers", "Publisher/X.cpp", f'#include "{SESSION}/SparkleManager.h"'),
         ("layers", "Publisher/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "Publisher/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),
@@ -327,6 +335,7 @@ def self_test():
         (SESSION + "/X.mm", "#import <Sparkle/Sparkle.h>"),
         (SESSION + "/X.mm", f'#include "{LENT_RECORD}"'),
         (BACK_END + "/X.cpp", '#include "App/UpdateChecker/AbstractUpdaterImpl.h"'),
+        (SESSION_LIBRARY + "/X.cpp", f'#include "{TRANSLATIONS}"'),
         ("Publisher/X.cpp", f'#include "{SESSION}/AppcastJudgement_p.h"'),
         ("tests/app/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("Foundation/RaisedException.mm", "    @catch (NSException* exception)"),

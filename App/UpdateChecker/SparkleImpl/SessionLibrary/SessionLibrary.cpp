@@ -2,8 +2,12 @@
 
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/LibraryFile_p.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
+#include "Engine/ui/Translations.h"
 #include "HostFramework/SpontaneousDialog.h"
 #include "common/LogSite.h"
+
+#include <QCoreApplication>
+#include <QLocale>
 
 #include <climits>
 #include <cstring>
@@ -144,6 +148,11 @@ void SessionLibrary::Take(Answer const& answer)
     if (!m_loaded)
     {
         Core::Write(NOT_LOADED, "The update session cannot be loaded: " + answer.failure);
+        // Otherwise the engine does this for all that a person reads.
+        if (QCoreApplication::instance())
+        {
+            Engine::InstallTranslations(QLocale());
+        }
     }
     else if (auto const tell = std::exchange(m_whenLoaded, nullptr))
     {

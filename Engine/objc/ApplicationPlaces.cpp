@@ -100,4 +100,16 @@ QString StateFolderOf(QString const& bundleIdentifier)
     return QFile::decodeName(PathIn(BaseFolder::State, bundleIdentifier).c_str());
 }
 
+QString FeedRecordFileOf(QString const& bundleIdentifier)
+{
+    Settings::OpenedFolder const above = Settings::OpenApplicationFolder(
+        Settings::FolderOf(BaseFolder::State, bundleIdentifier), Settings::MissingFolder::Leave);
+    if (!above.folder && above.errorNumber != ENOENT)
+    {
+        LOG(WARNING) << "What is known of the feed is neither read nor saved: " << above.reason;
+        return {};
+    }
+    return StateFolderOf(bundleIdentifier) + QStringLiteral("/feed");
+}
+
 } // namespace Pelnar::Engine

@@ -15,4 +15,8 @@ QString DownloadFolderOf(QString const& bundleIdentifier);
 /// In the person's state: what is known of feeds and of installations.
 QString StateFolderOf(QString const& bundleIdentifier);
 
+/// The file of what is known of the feed; empty, which the log says, where somebody else could put another one in its
+/// place.
+QString FeedRecordFileOf(QString const& bundleIdentifier);
+
 } // namespace Pelnar::Engine

@@ -214,7 +214,7 @@ void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
     }
 }
 
-QString RecordPath() { return StateFolderOf(SettingText(Setting::BundleIdentifier)) + QStringLiteral("/feed"); }
+QString RecordPath() { return FeedRecordFileOf(SettingText(Setting::BundleIdentifier)); }
 
 /// What earlier versions kept in a folder beside the user defaults, or in these.
 FeedRecord ReadEarlierFeedRecord()

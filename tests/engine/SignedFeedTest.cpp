@@ -243,6 +243,21 @@ TEST_F(SignedFeedCheck, FloorOfTheEarlierFileIsTakenOverOnce)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
+TEST_F(SignedFeedCheck, FloorIsNotLookedForThroughALink)
+{
+    QTemporaryDir const elsewhere;
+    ASSERT_TRUE(QDir().mkpath(QFileInfo(StateFolder()).path()));
+    ASSERT_TRUE(QFile::link(elsewhere.path(), StateFolder()));
+    FeedRecord record;
+    record.serial = 8;
+    EXPECT_TRUE(KeepFeedRecordFile(elsewhere.filePath(QStringLiteral("updates/feed")), {}, record));
+    LogCapture log;
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "neither read nor saved: the folder "));
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), Events{"aborted 3002"}) << "the process remembers its own";
+    EXPECT_EQ(ReadFeedRecordFile(elsewhere.filePath(QStringLiteral("updates/feed")))->serial, 8);
+}
+
 TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
 {
     for (QByteArray const& record :

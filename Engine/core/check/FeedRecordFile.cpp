@@ -98,7 +98,7 @@ std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
 {
     try
     {
-        UniqueFd const folder = OpenFolderOf(path);
+        UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenFolderOf(path);
         return folder ? DecodeFeedRecord(ReadNote(folder.Get(), NameOf(path))) : std::nullopt;
     }
     catch (UpdateRefusal const&)
@@ -111,7 +111,13 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
 {
     std::string const folderPath = QFile::encodeName(QFileInfo(path).path()).toStdString();
     MakeFoldersAbove(folderPath);
-    UniqueFd const folder = OpenPrivateFolder(folderPath);
+    UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenPrivateFolder(folderPath);
+    if (!folder)
+    {
+        LOG(WARNING) << "What is known of the feed could not be saved in " << path.toStdString()
+                     << ": the folder cannot be used";
+        return false;
+    }
     // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
     QLockFile lock(path + QStringLiteral(".lock"));
     LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))

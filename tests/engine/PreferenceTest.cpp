@@ -19,7 +19,8 @@ namespace
 class Box
 {
 public:
-    explicit Box(QTemporaryDir const& folder)
+    /// The argument and the variable are escaped as the shell reads them.
+    explicit Box(QTemporaryDir const& folder, QByteArray const& argument = {}, QByteArray const& variable = {})
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("HOME"), folder.path());
@@ -28,7 +29,10 @@ public:
         environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), folder.filePath(QStringLiteral("GNUstep.conf")));
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_process.start(folder.filePath(QStringLiteral("Notely.app/Notely")), QStringList());
+        // By the shell: Qt makes texts of arguments and variables.
+        QByteArray const script = "export ODD=$'" + variable + "'; exec \"$0\" $'" + argument + "'";
+        m_process.start(QStringLiteral("/bin/bash"), {QStringLiteral("-c"), QString::fromLatin1(script),
+                                                      folder.filePath(QStringLiteral("Notely.app/Notely"))});
     }
     ~Box()
     {
@@ -105,6 +109,14 @@ TEST_F(Preference, IsTheSameInEveryProcessThatRuns)
     EXPECT_EQ(second.Ask("get"), "on");
     EXPECT_EQ(second.Ask("off"), "off");
     EXPECT_EQ(first.Ask("get"), "off");
+}
+
+TEST_F(Preference, IsThereWhereTheCommandLineOrTheEnvironmentIsNotInUtf8)
+{
+    char const odd[] = R"(caf\xe9 \xff)";
+    EXPECT_EQ(Box(folder, odd).Ask("on"), "on");
+    EXPECT_EQ(Box(folder, {}, odd).Ask("get"), "on");
+    EXPECT_EQ(Box(folder, odd, odd).Ask("get"), "on");
 }
 
 TEST_F(Preference, ThatCannotBeSavedHoldsAsLongAsTheProcess)

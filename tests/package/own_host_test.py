@@ -152,7 +152,7 @@ class OwnHost(unittest.TestCase):
         self.assertEqual(server.stdout.readline().strip().decode() + "/", address)
         documents = self.work / "documents"
         documents.mkdir()
-        document = os.fsencode(documents) + b"/--my \xc3\xbcbung.txt"
+        document = os.fsencode(documents) + b"/--my \xc3\xbcbung, caf\xe9.txt" # in UTF-8, and not
         self.update(applications / "Notely.app/Notely", document, documents)
 
     def update(self, program, document, documents):
@@ -163,7 +163,7 @@ class OwnHost(unittest.TestCase):
         environment = {b"HOME": os.fsencode(home), b"XDG_RUNTIME_DIR": os.fsencode(home), b"PATH": os.environb[b"PATH"],
                        b"GNUSTEP_CONFIG_FILE": os.fsencode(self.work / "GNUstep.conf"), b"LANG": b"C.UTF-8",
                        b"QT_QPA_PLATFORM": b"offscreen", b"QT_PLUGIN_PATH": os.fsencode(PLUGINS),
-                       b"QT_QPA_GENERIC_PLUGINS": b"PelnarClick", b"NOTELY_MARK": b"of the host \xc3\xbc"}
+                       b"QT_QPA_GENERIC_PLUGINS": b"PelnarClick", b"NOTELY_MARK": b"of the host \xff"}
         for name in (b"LSAN_OPTIONS", b"ASAN_OPTIONS"):
             if name in os.environb:
                 environment[name] = os.environb[name]

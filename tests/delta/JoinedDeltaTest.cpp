@@ -131,6 +131,19 @@ TEST_F(JoinedDelta, ProgramThatOnlyMovedIsSmall)
     ExpectTheNewVersion();
 }
 
+TEST_F(JoinedDelta, ProgramThatOnlyLooksAsIfItHadAddressesIsPatchedAsItIs)
+{
+    // The code moves, but what looks like its addresses stays: a program that is packed, for example.
+    ByteBuffer program = ForgeProgram({});
+    WriteFile(Old() / "Program", Text(program));
+    program.insert(program.begin() + 0x1000, 64, 0x90);
+    WriteFile(New() / "Program", Text(program));
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_LT(report.containerBytes, 400u);
+    ExpectTheNewVersion();
+}
+
 TEST_F(JoinedDelta, ProgramIsFoundUnderAnotherNumber)
 {
     WriteFile(Old() / "lib/libtest.so.1.2.3", Text(ForgeProgram({})));

@@ -31,8 +31,8 @@ public:
     ByteBuffer Make()
     {
         std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries);
-        std::vector<UnitSteps> const steps =
-            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        std::vector<UnitSteps> steps = SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        SearchPlainly(units, steps);
         AddKeptFiles();
         DeltaUnit whole;
         for (std::size_t i = 0; i < units.size(); ++i)
@@ -91,10 +91,6 @@ private:
             m_baseHasher.Add(texts.back());
         }
         m_writer.StartText();
-        if (!unit.spanChanges.empty() && steps.front().size() > MAX_MAPPED_STEPS)
-        {
-            unit.spanChanges.clear();
-        }
         PlainText plain(texts);
         for (std::size_t const number : made)
         {
@@ -106,6 +102,43 @@ private:
                                      : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
         m_manifest.units.push_back(std::move(unit));
+    }
+
+    /// False for a program whose fields are other than they look: a packed one, for example.
+    bool IsWorthForetelling(DeltaUnit const& unit, std::vector<PatchStep> const& steps) const
+    {
+        if (steps.size() > MAX_MAPPED_STEPS)
+        {
+            return false;
+        }
+        OpenedFile const source = OpenOld(unit.sources.front().path);
+        OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()].path);
+        ImageLayout const layout = *ReadImageLayout(source.Content());
+        ProgramText changed(source.Content(), layout, ChangedSpans(layout, unit.spanChanges), steps);
+        PlainText plain({source.Content()});
+        return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
+    }
+
+    /// Searches once more, as for any file, where a program's addresses are not worth it.
+    void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps) const
+    {
+        std::vector<std::size_t> numbers;
+        std::vector<DeltaUnit> plain;
+        for (std::size_t i = 0; i < units.size(); ++i)
+        {
+            if (!units[i].spanChanges.empty() && !IsWorthForetelling(units[i], steps[i].front()))
+            {
+                units[i].spanChanges.clear();
+                numbers.push_back(i);
+                plain.push_back(units[i]);
+            }
+        }
+        std::vector<UnitSteps> const found =
+            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        for (std::size_t i = 0; i < numbers.size(); ++i)
+        {
+            steps[numbers[i]] = found[i];
+        }
     }
 
     void AddProgram(Bytes program, std::vector<SpanChange> const& changes, std::vector<PatchStep> const& steps,

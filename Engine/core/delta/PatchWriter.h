@@ -9,6 +9,9 @@
 namespace Pelnar::Engine
 {
 
+/// How many of \a newBytes are like old ones by \a steps, which begin at the start of \a old, but differ from them.
+[[nodiscard]] std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes);
+
 class PatchWriter
 {
 public:

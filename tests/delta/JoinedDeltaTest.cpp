@@ -391,7 +391,7 @@ TEST(JoinedManifest, PathsThatShareTooMuchAreRefusedBeforeTheyFillTheMemory)
     DeltaManifest manifest;
     manifest.format = DeltaFormat::Joined;
     std::string const deep(60000, 'a');
-    for (int i = 0; i < 3000; ++i)
+    for (int i = 0; i < 1200; ++i)
     {
         DeltaEntry entry;
         entry.path = deep + std::to_string(10000 + i);

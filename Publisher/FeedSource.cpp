@@ -35,6 +35,20 @@ std::variant<FeedBytes, Problem> ReadStandardInput(Console const& console)
                      std::move(*bytes)};
 }
 
+QString MendOf(int httpStatus)
+{
+    switch (httpStatus)
+    {
+    case 401:
+    case 403:
+        return QStringLiteral("let everybody read the feed; clients have no password");
+    case 404:
+    case 410:
+        return QStringLiteral("check the address, and upload the feed there");
+    }
+    return QStringLiteral("look at the server's own log, and try again");
+}
+
 std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
 {
     // Deliberate: plain http is read here and reported by lint; the publisher harms nobody but the feed's clients.
@@ -50,6 +64,12 @@ std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
     loop.exec();
     if (outcome.error)
     {
+        if (outcome.error->cause == Engine::ErrorCause::HttpStatus)
+        {
+            return Problem{name, 0, 0,
+                           QStringLiteral("the server answered with status %1").arg(outcome.error->httpStatus),
+                           MendOf(outcome.error->httpStatus)};
+        }
         QString const& detail = outcome.error->detail;
         return Problem{name, 0, 0, outcome.error->sentence.English(),
                        detail.isEmpty() ? QString() : QStringLiteral("detail: ") + detail};

@@ -13,7 +13,11 @@ constexpr qint64 REDRAW_MILLISECONDS = 100;
 
 } // namespace
 
-Progress::Progress(Output const& output, QString label) : m_output(output), m_label(std::move(label)) {}
+Progress::Progress(Output const& output, QString label, std::chrono::milliseconds lineInterval)
+    : m_output(output), m_label(std::move(label)), m_lineInterval(lineInterval)
+{
+    m_sinceLine.start();
+}
 
 Progress::~Progress()
 {
@@ -25,6 +29,15 @@ Progress::~Progress()
 
 void Progress::Show(qint64 done, qint64 total)
 {
+    if (!m_output.isTerminal && total > 0 && m_sinceLine.elapsed() >= m_lineInterval.count())
+    {
+        m_sinceLine.start();
+        m_output.stream << QStringLiteral("%1: %2 %")
+                               .arg(m_label)
+                               .arg(int(double(std::clamp<qint64>(done, 0, total)) / double(total) * 100))
+                               .toStdString()
+                        << std::endl;
+    }
     bool const isRecent = m_sinceDrawn.isValid() && m_sinceDrawn.elapsed() < REDRAW_MILLISECONDS;
     if (!m_output.isTerminal || total <= 0 || (isRecent && done < total))
     {

@@ -1,10 +1,12 @@
-// Progress.h: a bar on a terminal while long work runs; nothing anywhere else.
+// Progress.h: a bar on a terminal while long work runs; anywhere else, as in the log of a build, a line now and then.
 // Thread: the main thread. Ownership: refers to the output, which outlives it.
 #pragma once
 
 #include "Publisher/Console.h"
 
 #include <QElapsedTimer>
+
+#include <chrono>
 
 namespace Pelnar::Publisher
 {
@@ -13,18 +15,21 @@ class Progress
 {
 public:
     /// \a output is the stream that no program reads: the error stream.
-    Progress(Output const& output, QString label);
+    Progress(Output const& output, QString label, std::chrono::milliseconds lineInterval = std::chrono::seconds(3));
     /// Wipes the bar.
     ~Progress();
     Progress(Progress const&) = delete;
     Progress& operator=(Progress const&) = delete;
 
-    /// Draws the bar at \a done of \a total steps or bytes, at most ten times a second.
+    /// Draws the bar at \a done of \a total steps or bytes, at most ten times a second. Without a terminal prints a
+    /// line when the last one, or the beginning, is longer ago than the interval.
     void Show(qint64 done, qint64 total);
 
 private:
     Output const& m_output;
     QString const m_label;
+    std::chrono::milliseconds const m_lineInterval;
+    QElapsedTimer m_sinceLine;
     QElapsedTimer m_sinceDrawn;
     int m_drawnWidth = 0;
 };

@@ -2,6 +2,10 @@
 
 #include <algorithm>
 #include <ostream>
+#include <sstream>
+
+#include <sys/ioctl.h>
+#include <unistd.h>
 
 namespace Pelnar::Publisher
 {
@@ -22,12 +26,52 @@ std::string UnderstoodPart(CLI::App const& program)
     return text;
 }
 
+/// Columns of a line; 0 for lines of any length.
+std::size_t WidthOf(Output const& output)
+{
+    constexpr int FEWEST = 40;
+    int width = qEnvironmentVariableIntValue("COLUMNS");
+    winsize size{};
+    if (width <= 0 && output.isTerminal && ::ioctl(STDOUT_FILENO, TIOCGWINSZ, &size) == 0)
+    {
+        width = size.ws_col;
+    }
+    return width <= 0 ? 0 : std::size_t(std::max(width, FEWEST));
+}
+
+/// \a text with its long lines broken at blanks. What goes on stands below the description of its option.
+std::string Wrapped(std::string const& text, std::size_t width)
+{
+    constexpr std::size_t DESCRIPTION_COLUMN = 30;
+    std::istringstream lines(text);
+    std::string result;
+    for (std::string line; std::getline(lines, line);)
+    {
+        bool const isOption = line.compare(0, 2, "  ") == 0 && width > DESCRIPTION_COLUMN + 8;
+        std::string const indent(isOption ? DESCRIPTION_COLUMN : 0, ' ');
+        while (width > 0 && line.size() > width)
+        {
+            std::size_t const blank = line.rfind(' ', width);
+            if (blank == std::string::npos || blank <= indent.size())
+            {
+                break;
+            }
+            result += line.substr(0, blank) + '\n';
+            line = indent + line.substr(blank + 1);
+        }
+        result += line + '\n';
+    }
+    return result;
+}
+
 ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& error, Console const& console)
 {
     if (error.get_exit_code() == int(CLI::ExitCodes::Success))
     {
-        // A request for help; whichever verb it was asked of describes itself.
-        program.exit(error, console.out.stream, console.err.stream);
+        // A request for help, in which the verb that was asked describes itself, or for the version.
+        std::ostringstream text;
+        program.exit(error, text, console.err.stream);
+        console.out.stream << Wrapped(text.str(), WidthOf(console.out));
         return ExitStatus::Clean;
     }
     return console.Refuse({QString(), 0, 0, QString::fromStdString(error.what()),
@@ -42,6 +86,8 @@ void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use
                      "Exit status: 0 clean, 1 findings, 2 bad arguments or unreadable input.",
                      PROGRAM_NAME);
     program.require_subcommand(1);
+    program.set_version_flag("--version", std::string(PROGRAM_NAME) + " " + PELNAR_VERSION,
+                             "Print the version and exit");
     AddFeedVerbs(program, context);
     AddArchiveVerbs(program, context);
     use(program);
@@ -64,6 +110,12 @@ ExitStatus RunProgram(std::vector<std::string> const& arguments, Console& consol
                     }
                 });
     console.out.stream.flush();
+    if (!console.out.stream)
+    {
+        console.Refuse({QStringLiteral("<stdout>"), 0, 0, QStringLiteral("cannot be written"),
+                        QStringLiteral("check the space on the disk, and who reads the output")});
+        return ExitStatus::Findings;
+    }
     return context.status;
 }
 

@@ -1,5 +1,5 @@
-// CommandDescription.h: the command line of the publisher's tool as a manual page and as a completion for bash, made
-// from the very description that it is parsed and helped by.
+// CommandDescription.h: the command line of the publisher's tool as a manual page and as completions for shells,
+// made from the very description that it is parsed and helped by.
 // Thread: the main thread. Ownership: values only.
 #pragma once
 
@@ -14,5 +14,9 @@ namespace Pelnar::Publisher
 std::string ManualPage(CLI::App const& program);
 /// To be sourced by bash.
 std::string BashCompletion(CLI::App const& program);
+/// A function file for zsh's fpath.
+std::string ZshCompletion(CLI::App const& program);
+/// To be read by fish.
+std::string FishCompletion(CLI::App const& program);
 
 } // namespace Pelnar::Publisher

@@ -29,8 +29,14 @@ Errors are lines on standard error: the file, the line and the column where they
 semicolon what to do about it.
 .SH ENVIRONMENT
 .TP
+.B COLUMNS
+How long a line of the help text is.
+.TP
 .B NO_COLOR
 When it is set to anything, nothing is printed in colour.
+.TP
+.B SOURCE_DATE_EPOCH
+Seconds since 1970: the date of new items, in place of the moment of the run.
 .TP
 .B TMPDIR
 Folder for what is unpacked for a while.
@@ -152,7 +158,12 @@ std::string ManualPage(CLI::App const& program)
             text += Synopsis(command) + ".br\n";
         }
     }
-    text += ".SH DESCRIPTION\n" + Roff(commands.front().description) + "\n.SH VERBS\n";
+    text += ".SH DESCRIPTION\n" + Roff(commands.front().description) + '\n';
+    for (DescribedOption const& option : commands.front().options)
+    {
+        text += option.names.back() == "--help" ? "" : OptionText(option);
+    }
+    text += ".SH VERBS\n";
     for (DescribedCommand const& command : commands)
     {
         if (command.path.empty())

@@ -1,14 +1,21 @@
 #include "Publisher/lint/LintVerb.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
 #include "Publisher/FeedOptions.h"
 #include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/lint/FetchRules.h"
 #include "Publisher/lint/LintReport.h"
 #include "Publisher/lint/SignatureRules.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <map>
 #include <ostream>
+#include <tuple>
 
 namespace Pelnar::Publisher
 {
@@ -17,52 +24,90 @@ namespace
 
 struct LintOptions
 {
-    std::string feed;
+    std::vector<std::string> feeds;
     std::string publishedAt;
     std::vector<std::string> publicKeys;
+    std::string baseline;
     bool isSignatureAsked = false;
     bool isFetching = false;
     bool isStrict = false;
     bool isJson = false;
+    bool isSarif = false;
+    bool isEach = false;
     bool isListingRules = false;
 };
 
-std::optional<Problem> ProblemOf(LintOptions const& options)
+using FeedFindings = std::pair<QString, std::vector<LintFinding>>;
+
+/// How often a feed has had a finding: lines move, what is found stays.
+using KnownFindings = std::map<std::tuple<QString, QString, QString>, int>;
+
+void CheckOptions(LintOptions const& options)
 {
-    if (options.feed.empty())
+    QString const mend = QStringLiteral("see pelnar-appcast lint --help");
+    if (options.feeds.empty())
     {
-        return Problem{QString(), 0, 0, QStringLiteral("FEED is required"),
-                       QStringLiteral("see pelnar-appcast lint --help")};
+        throw Refusal({QString(), 0, 0, QStringLiteral("FEED is required"), mend});
     }
-    for (std::string const& text : options.publicKeys)
+    if (options.feeds.size() > 1 && !options.publishedAt.empty())
     {
-        Engine::Ed25519Key key;
-        if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
-        {
-            return Problem{QString(), 0, 0,
-                           QStringLiteral("--public-key: \"%1\" is no Ed25519 key").arg(QString::fromStdString(text)),
-                           QStringLiteral("give the 32 bytes in base64 that pelnar-appcast keys show prints")};
-        }
+        throw Refusal({QString(), 0, 0, QStringLiteral("--published-at is of one feed"), mend});
     }
-    return std::nullopt;
+    CheckPublicKeys(options.publicKeys);
 }
 
-ExitStatus Lint(LintOptions const& options, Console const& console)
+KnownFindings ReadBaseline(std::string const& path)
 {
-    if (options.isListingRules)
+    KnownFindings known;
+    if (path.empty())
     {
-        console.out.stream << LintRulesAsMarkdown().toStdString();
-        return ExitStatus::Clean;
+        return known;
     }
-    if (std::optional<Problem> const problem = ProblemOf(options))
+    constexpr std::uint64_t MOST_BYTES = 64 << 20;
+    QString const name = QString::fromStdString(path);
+    QString const mend = QStringLiteral("give what an earlier run with --json printed");
+    QJsonObject const written = QJsonDocument::fromJson(ReadInputFile(OpenInputFile(name), MOST_BYTES, mend)).object();
+    bool const isOfOne = written.contains(QStringLiteral("findings"));
+    QJsonArray const feeds = isOfOne ? QJsonArray{written} : written.value(QStringLiteral("feeds")).toArray();
+    if (!isOfOne && !written.contains(QStringLiteral("feeds")))
     {
-        return console.Refuse(*problem);
+        throw Refusal({name, 0, 0, QStringLiteral("is not the JSON of pelnar-appcast lint"), mend});
     }
-    auto const source =
-        ReadFeed(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt), console);
+    for (QJsonValue const& feed : feeds)
+    {
+        QJsonArray const findings = feed[QStringLiteral("findings")].toArray();
+        for (QJsonValue const& finding : findings)
+        {
+            ++known[{feed[QStringLiteral("feed")].toString(), finding[QStringLiteral("rule")].toString(),
+                     finding[QStringLiteral("what")].toString()}];
+        }
+    }
+    return known;
+}
+
+/// Takes the known findings out; answers how many they were.
+std::size_t TakeOutKnown(FeedFindings& feed, KnownFindings& known)
+{
+    std::vector<LintFinding>& findings = feed.second;
+    std::size_t const before = findings.size();
+    findings.erase(
+        std::remove_if(
+            findings.begin(), findings.end(),
+            [&](LintFinding const& finding)
+            {
+                auto const found = known.find({feed.first, QLatin1String(EntryOf(finding.rule).name), finding.what});
+                return found != known.end() && found->second-- > 0;
+            }),
+        findings.end());
+    return before - findings.size();
+}
+
+FeedFindings LintOne(std::string const& name, LintOptions const& options, Console const& console)
+{
+    auto const source = ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console);
     if (auto const* const problem = std::get_if<Problem>(&source))
     {
-        return console.Refuse(*problem);
+        throw Refusal(*problem);
     }
     FeedBytes const& feed = std::get<FeedBytes>(source);
     LintResult result = LintFeed(feed.bytes, feed.address);
@@ -75,15 +120,59 @@ ExitStatus Lint(LintOptions const& options, Console const& console)
     {
         add(CheckArchives(*result.subject, options.publicKeys, console));
     }
+    return {feed.name, std::move(result.findings)};
+}
+
+void Print(std::vector<FeedFindings> const& feeds, std::size_t knownCount, LintOptions const& options,
+           Console const& console)
+{
+    if (options.isSarif)
+    {
+        console.PrintJson(SarifOf(feeds));
+        return;
+    }
     if (options.isJson)
     {
-        console.PrintJson(JsonOf(feed.name, result.findings));
+        QJsonArray list;
+        for (auto const& [name, findings] : feeds)
+        {
+            list.append(JsonOf(name, findings));
+        }
+        console.PrintJson(feeds.size() == 1 ? list.first().toObject() : QJsonObject{{QStringLiteral("feeds"), list}});
+        return;
     }
-    else
+    for (auto const& [name, findings] : feeds)
     {
-        PrintFindings(feed.name, result.findings, console);
+        options.isEach ? PrintFindings(name, findings, console) : PrintGroupedFindings(name, findings, console);
     }
-    return StatusOf(result.findings, options.isStrict ? Strictness::Everything : Strictness::ErrorsAndWarnings);
+    if (knownCount > 0)
+    {
+        console.Print(QStringLiteral("%1 known by the baseline").arg(CountOf(knownCount, QStringLiteral("finding"))));
+    }
+}
+
+ExitStatus Lint(LintOptions const& options, Console const& console)
+{
+    if (options.isListingRules)
+    {
+        console.out.stream << LintRulesAsMarkdown().toStdString();
+        return ExitStatus::Clean;
+    }
+    CheckOptions(options);
+    KnownFindings known = ReadBaseline(options.baseline);
+    Strictness const strictness = options.isStrict ? Strictness::Everything : Strictness::ErrorsAndWarnings;
+    std::vector<FeedFindings> feeds;
+    std::size_t knownCount = 0;
+    ExitStatus status = ExitStatus::Clean;
+    for (std::string const& name : options.feeds)
+    {
+        FeedFindings feed = LintOne(name, options, console);
+        knownCount += TakeOutKnown(feed, known);
+        status = std::max(status, StatusOf(feed.second, strictness));
+        feeds.push_back(std::move(feed));
+    }
+    Print(feeds, knownCount, options, console);
+    return status;
 }
 
 } // namespace
@@ -93,17 +182,21 @@ void AddLint(CLI::App& program, VerbContext& context)
     auto const options = std::make_shared<LintOptions>();
     CLI::App* const verb =
         program.add_subcommand("lint", "Finds what clients would refuse or misread, with place and mend");
-    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input");
+    verb->add_option("FEED", options->feeds, "Paths or addresses of feeds, or - for standard input");
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--fetch", options->isFetching, "Fetch every download and check its size and its signature");
     verb->add_flag("--signed", options->isSignatureAsked,
                    "The feed must be signed itself, as for clients that require it");
-    verb->add_option("--public-key", options->publicKeys,
-                     "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may be "
-                     "given again for a second key")
-        ->type_name("KEY");
+    AddPublicKeysOption(*verb, options->publicKeys,
+                        "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may "
+                        "be given again");
+    verb->add_option("--baseline", options->baseline,
+                     "What an earlier run with --json printed: its findings are known, and not told again")
+        ->type_name("FILE");
     verb->add_flag("--strict", options->isStrict, "Exit with 1 for notes as well");
     verb->add_flag("--json", options->isJson, "Print one JSON object");
+    verb->add_flag("--sarif", options->isSarif, "Print one SARIF log, for code hosts and editors");
+    verb->add_flag("--each", options->isEach, "Print every finding on a line of its own, not grouped by rule");
     verb->add_flag("--rules", options->isListingRules, "Print the table of all rules, in Markdown, and nothing else");
     SetWork(*verb, context, [options, &context] { return Lint(*options, context.console); });
 }

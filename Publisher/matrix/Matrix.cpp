@@ -99,7 +99,29 @@ QString OutcomeText(QJsonValue const& offered)
                           offered[QStringLiteral("updateType")].toString(),
                           offered[QStringLiteral("deltaFrom")].toString(),
                           {},
-                          0});
+                          0,
+                          {},
+                          offered[QStringLiteral("keyTrusted")].toBool(true)});
+}
+
+} // namespace
+
+namespace
+{
+
+/// False when the feed says which keys \a installed trusts, and \a signer is none of them.
+bool Trusts(std::vector<Engine::FeedItem> const& items, Core::Version const& installed, QString const& signer)
+{
+    return signer.isEmpty() ||
+           std::none_of(items.begin(), items.end(),
+                        [&](Engine::FeedItem const& item)
+                        {
+                            Core::Version const version =
+                                item.trustedKeys.isEmpty() || item.trustedKeys.contains(signer)
+                                    ? Core::Version()
+                                    : App::Session::VersionFromStringNoexcept(item.versionString);
+                            return version.IsValid() && App::Session::IsSameVersion(version, installed);
+                        });
 }
 
 } // namespace
@@ -116,7 +138,9 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
         std::vector<Outcome>& row = matrix.outcomes.emplace_back();
         for (NamedVersion const& system : systems)
         {
-            row.push_back(OutcomeFor(feed, {version.version, system.version}));
+            Outcome outcome = OutcomeFor(feed, {version.version, system.version});
+            outcome.isKeyTrusted = Trusts(items, version.version, outcome.signerKey);
+            row.push_back(std::move(outcome));
         }
     }
     matrix.stranded = FindStranded(matrix, NewestVersion(items));

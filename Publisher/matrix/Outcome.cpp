@@ -15,8 +15,13 @@ Outcome OutcomeFor(FeedChooser& feed, Client const& client)
     {
         return {};
     }
-    return {chosen->versionString, QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(*chosen))),
-            chosen->deltaFrom, chosen->fileUrl.toString(QUrl::FullyEncoded), chosen->contentLength};
+    return {chosen->versionString,
+            QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(*chosen))),
+            chosen->deltaFrom,
+            chosen->fileUrl.toString(QUrl::FullyEncoded),
+            chosen->contentLength,
+            chosen->signerKey,
+            true};
 }
 
 QString TextOf(Outcome const& outcome)
@@ -26,7 +31,8 @@ QString TextOf(Outcome const& outcome)
         return QStringLiteral("none");
     }
     QString const text = outcome.version + QLatin1Char(' ') + outcome.updateType;
-    return outcome.deltaFrom.isEmpty() ? text : text + QStringLiteral(" from ") + outcome.deltaFrom;
+    QString const from = outcome.deltaFrom.isEmpty() ? QString() : QStringLiteral(" from ") + outcome.deltaFrom;
+    return text + from + (outcome.isKeyTrusted ? QString() : QStringLiteral(" (key not trusted)"));
 }
 
 QJsonValue JsonOf(Outcome const& outcome)
@@ -35,7 +41,7 @@ QJsonValue JsonOf(Outcome const& outcome)
     {
         return QJsonValue::Null;
     }
-    return QJsonObject{
+    QJsonObject object{
         {QStringLiteral("version"), outcome.version},
         {QStringLiteral("updateType"), outcome.updateType},
         {QStringLiteral("deltaFrom"),
@@ -43,6 +49,11 @@ QJsonValue JsonOf(Outcome const& outcome)
         {QStringLiteral("url"), outcome.url},
         {QStringLiteral("length"), double(outcome.length)},
     };
+    if (!outcome.isKeyTrusted)
+    {
+        object.insert(QStringLiteral("keyTrusted"), false);
+    }
+    return object;
 }
 
 std::vector<NamedVersion> VersionsOfFeed(std::vector<Engine::FeedItem> const& items)

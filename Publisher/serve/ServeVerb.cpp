@@ -6,9 +6,11 @@
 #include "Publisher/files/InputFile.h"
 #include "Publisher/serve/FileServer.h"
 #include "Publisher/serve/HttpRequest.h"
+#include "Publisher/serve/ServedFile.h"
 
 #include <QEventLoop>
 #include <QFile>
+#include <QRegularExpression>
 #include <QSocketNotifier>
 
 #include <cerrno>
@@ -108,10 +110,22 @@ ExitStatus Serve(Console const& console, Options const& options)
             ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
     }
     ServerManners manners{ParseFaults(options.faults), {}};
+    for (ServerFault const& fault : manners.faults)
+    {
+        if (fault.kind != ServerFaultKind::Status && !OpenServedFile(folder.Get(), fault.name).file)
+        {
+            throw Refusal({{},
+                           0,
+                           0,
+                           QStringLiteral("--fault: \"%1\" is no file that is served").arg(fault.name),
+                           QStringLiteral("give its path below the folder")});
+        }
+    }
     for (std::string const& host : options.hosts)
     {
         QByteArray const hostName = HostName(QByteArray::fromStdString(host));
-        if (hostName.isEmpty())
+        static QRegularExpression const NAME(QStringLiteral("^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"));
+        if (hostName.isEmpty() || !NAME.match(QString::fromLatin1(hostName)).hasMatch())
         {
             throw Refusal({{},
                            0,
@@ -132,7 +146,10 @@ ExitStatus Serve(Console const& console, Options const& options)
                        QStringLiteral("leave --port away to get a free one")});
     }
     console.Print(server.Address());
-    console.out.stream.flush();
+    if (!console.out.stream.flush())
+    {
+        return ExitStatus::Findings; // nobody learns the address; told where the program ends
+    }
     QEventLoop loop;
     std::optional<QSocketNotifier> notifier;
     if (options.endsWithInput)

@@ -117,6 +117,14 @@ void ServerConnection::Read()
     {
         return; // one request a connection
     }
+    constexpr char TLS_HANDSHAKE = 0x16;
+    if (m_head.isEmpty() && bytes.startsWith(TLS_HANDSHAKE))
+    {
+        // Without this, both sides would wait for the other until one is tired of it.
+        m_log(QStringLiteral("? refused: https is asked for, and this server has no --tls"));
+        Reset();
+        return;
+    }
     m_head += bytes;
     int const end = m_head.indexOf("\r\n\r\n");
     if (end < 0 && m_head.size() <= MOST_HEAD_BYTES)

@@ -157,5 +157,11 @@ TEST(CommandDescription, ManualPageIsWellFormed)
     EXPECT_EQ(formatter.readAllStandardError().toStdString(), "");
 }
 
+TEST(CommandDescription, CompletionsOfOtherShellsAreTheProgramsOwn)
+{
+    EXPECT_EQ(SourceFile("Publisher/description/_pelnar-appcast"), OfProgram<std::string>(ZshCompletion)) << MEND;
+    EXPECT_EQ(SourceFile("Publisher/description/pelnar-appcast.fish"), OfProgram<std::string>(FishCompletion)) << MEND;
+}
+
 } // namespace
 } // namespace Pelnar::Testing

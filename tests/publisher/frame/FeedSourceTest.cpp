@@ -96,4 +96,14 @@ TEST_F(FeedSource, WhatAClientWouldNotFetchIsRefused)
     EXPECT_EQ(ReadBad(Write("<rss/>"), QStringLiteral("appcast.xml")).find("--published-at: \"appcast.xml\""), 0u);
 }
 
+TEST_F(FeedSource, MissingFeedSaysWhatToDo)
+{
+    Testing::LoopbackServer gone(Testing::Answering("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n"));
+    EXPECT_NE(ReadBad(gone.Url().toString())
+                  .find(": the server answered with status 404; check the address, and upload the feed there"),
+              std::string::npos);
+    Testing::LoopbackServer closed(Testing::Answering("HTTP/1.1 403 Forbidden\r\nContent-Length: 0\r\n\r\n"));
+    EXPECT_NE(ReadBad(closed.Url().toString()).find("status 403; let everybody read the feed"), std::string::npos);
+}
+
 } // namespace Pelnar::Publisher

@@ -4,6 +4,12 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <sstream>
+
 namespace Pelnar::Testing
 {
 
@@ -25,6 +31,66 @@ TEST(AppcastProgram, RefusesWhatItDoesNotUnderstand)
         EXPECT_EQ(run.out, "");
         EXPECT_EQ(run.err.find("error: "), 0u) << run.err;
         EXPECT_NE(run.err.find("; see pelnar-appcast --help\n"), std::string::npos) << run.err;
+    }
+}
+
+TEST(AppcastProgram, TellsItsVersion)
+{
+    ToolRun const run = RunAppcastProgram({QStringLiteral("--version")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out.find("pelnar-appcast "), 0u) << run.out;
+    EXPECT_NE(run.out.find_first_of("0123456789"), std::string::npos) << run.out;
+}
+
+TEST(AppcastProgram, BreaksItsHelpToTheColumnsThatThereAre)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("COLUMNS"), QStringLiteral("80"));
+    ToolRun const run = RunAppcastProgram({QStringLiteral("generate"), QStringLiteral("--help")}, {}, environment);
+    EXPECT_EQ(run.status, 0);
+    std::istringstream lines(run.out);
+    int count = 0;
+    for (std::string line; std::getline(lines, line); ++count)
+    {
+        EXPECT_LE(line.size(), 80u) << line;
+    }
+    EXPECT_GT(count, 20) << run.out;
+}
+
+TEST(AppcastProgram, OutputThatCannotBeWrittenIsAFailureOfEveryVerb)
+{
+    QTemporaryDir folder;
+    QFile feed(folder.filePath(QStringLiteral("appcast.xml")));
+    ASSERT_TRUE(feed.open(QIODevice::WriteOnly));
+    feed.write("<rss><channel></channel></rss>");
+    feed.close();
+    QString const name = feed.fileName();
+    QStringList const lines[] = {
+        {QStringLiteral("--help")},
+        {QStringLiteral("--version")},
+        {QStringLiteral("lint"), QStringLiteral("--rules")},
+        {QStringLiteral("lint"), name},
+        {QStringLiteral("lint"), name, QStringLiteral("--json")},
+        {QStringLiteral("explain"), name, QStringLiteral("--local-version"), QStringLiteral("1"),
+         QStringLiteral("--system-version"), QStringLiteral("11")},
+        {QStringLiteral("matrix"), name, QStringLiteral("--versions"), QStringLiteral("1"), QStringLiteral("--systems"),
+         QStringLiteral("11")},
+        {QStringLiteral("diff"), name, name},
+        {QStringLiteral("keys"), QStringLiteral("generate"), folder.filePath(QStringLiteral("key"))},
+        {QStringLiteral("keys"), QStringLiteral("show"), folder.filePath(QStringLiteral("key"))},
+        {QStringLiteral("keys"), QStringLiteral("export"), folder.filePath(QStringLiteral("key"))},
+        {QStringLiteral("sign"), name, QStringLiteral("--key"), folder.filePath(QStringLiteral("key"))},
+        {QStringLiteral("serve"), folder.path()},
+    };
+    for (QStringList const& line : lines)
+    {
+        QProcess process;
+        process.setStandardOutputFile(QStringLiteral("/dev/full"));
+        process.start(AppcastProgram(), line);
+        ASSERT_TRUE(process.waitForFinished(30000)) << line.join(QLatin1Char(' ')).toStdString();
+        EXPECT_EQ(process.exitCode(), 1) << line.join(QLatin1Char(' ')).toStdString();
+        EXPECT_TRUE(process.readAllStandardError().contains("error: <stdout>: cannot be written; check the space"))
+            << line.join(QLatin1Char(' ')).toStdString();
     }
 }
 

@@ -26,7 +26,17 @@ TEST(Progress, WritesNothingToAFile)
     std::ostringstream stream;
     Output const file{stream, false, false};
     Progress(file, QStringLiteral("app.zip")).Show(1, 2);
-    EXPECT_EQ(stream.str(), "");
+    EXPECT_EQ(stream.str(), "") << "short work is not worth a line";
+}
+
+TEST(Progress, WritesALineNowAndThenToAFile)
+{
+    std::ostringstream stream;
+    Output const file{stream, false, false};
+    Progress progress(file, QStringLiteral("app.zip"), std::chrono::milliseconds(0));
+    progress.Show(1, 4);
+    progress.Show(4, 4);
+    EXPECT_EQ(stream.str(), "app.zip: 25 %\napp.zip: 100 %\n");
 }
 
 } // namespace Pelnar::Publisher

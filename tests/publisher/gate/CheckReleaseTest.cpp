@@ -177,7 +177,8 @@ TEST_F(CheckRelease, DeltaThatMakesAnotherBundleIsNamed)
     std::string const signature = Base64(Sign(good, folder.Keys()));
     feed.replace(feed.find(signature), signature.size(), Base64(Sign(bad, folder.Keys())));
     folder.Put("appcast.xml", feed);
-    ExpectSaid(RunTool({QStringLiteral("check-release"), QString::fromStdString(folder.Path())}), {delta + "/", "is a damaged delta"});
+    ExpectSaid(RunTool({QStringLiteral("check-release"), QString::fromStdString(folder.Path())}),
+               {delta + "/", "is a damaged delta"});
 }
 
 TEST_F(CheckRelease, PublishedReleaseIsFetchedFromItsServer)

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSslSocket>
@@ -379,6 +380,33 @@ TEST_F(Serve, SlowFileComesInPieces)
     EXPECT_FALSE(Divide(bytes).body.empty());
     EXPECT_LT(Divide(bytes).body.size(), m_content.size());
     EXPECT_EQ(socket.state(), QAbstractSocket::ConnectedState);
+}
+
+TEST_F(Serve, SecureRequestOfAPlainPortFailsAtOnce)
+{
+    Server server({Folder()});
+    QSslSocket socket;
+    QElapsedTimer waiting;
+    waiting.start();
+    socket.connectToHostEncrypted(server.Address().host(), quint16(server.Address().port()));
+    EXPECT_FALSE(socket.waitForEncrypted(PATIENCE_MS));
+    EXPECT_LT(waiting.elapsed(), PATIENCE_MS / 2);
+    EXPECT_NE(Get(server.Address(), "/app_1.0.zip").head, "") << "others are served";
+}
+
+TEST_F(Serve, OptionsThatCanDoNothingAreRefused)
+{
+    for (QStringList const& more : {QStringList{QStringLiteral("--fault"), QStringLiteral("truncate:absent.zip:1")},
+                                    QStringList{QStringLiteral("--fault"), QStringLiteral("slow:absent.zip:1")},
+                                    QStringList{QStringLiteral("--host"), QStringLiteral("a,b")},
+                                    QStringList{QStringLiteral("--host"), QStringLiteral("a/b")},
+                                    QStringList{QStringLiteral("--port"), QStringLiteral("70000")}})
+    {
+        ToolRun const run = RunAppcastProgram(QStringList{QStringLiteral("serve"), Folder()} + more +
+                                              QStringList(QStringLiteral("--end-with-input")));
+        EXPECT_EQ(run.status, 2) << more.join(QLatin1Char(' ')).toStdString();
+        EXPECT_NE(run.err.find(more.first().toStdString()), std::string::npos) << run.err;
+    }
 }
 
 TEST_F(Serve, HttpsWithACertificate)

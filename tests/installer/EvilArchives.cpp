@@ -41,15 +41,23 @@ ForgedEntry WithOtherUnicodeName(ForgedEntry entry, std::string const& name)
     return entry;
 }
 
-/// Links that lead from one to the next, the last to a file.
-std::vector<ForgedEntry> ChainOfLinks(int length)
+/// Links that lead from one to the next, the last to \a target.
+std::vector<ForgedEntry> ChainOfLinks(int length, std::string const& target)
 {
     std::vector<ForgedEntry> entries;
     for (int i = 0; i < length; ++i)
     {
-        std::string const next = i + 1 < length ? "link" + std::to_string(i + 1) : "run"s;
+        std::string const next = i + 1 < length ? "link" + std::to_string(i + 1) : target;
         entries.push_back({"My App.app/link" + std::to_string(i), 'l', next});
     }
+    return entries;
+}
+
+/// And a file that would be written through them.
+std::vector<ForgedEntry> ThroughAChainOfLinks(int length)
+{
+    std::vector<ForgedEntry> entries = ChainOfLinks(length, "../../decoy");
+    entries.push_back({"My App.app/link0/x", 'f', "evil"});
     return entries;
 }
 
@@ -188,6 +196,9 @@ std::vector<Evil> const& EvilArchives()
         {"LinkOutThenThrough",
          {{"My App.app/l", 'l', "../../decoy"}, {"My App.app/l/x", 'f', "evil"}},
          UpdateFault::EntryUnderNoFolder},
+        {"LinkAbsoluteThenThrough",
+         {{"My App.app/l", 'l', "/tmp"}, {"My App.app/l/pelnar-evil", 'f', "evil"}},
+         UpdateFault::LinkEscapes},
         {"LinkInThenThrough",
          {{"My App.app/l", 'l', "Resources"}, {"My App.app/l/x", 'f', "evil"}},
          UpdateFault::EntryUnderNoFolder},
@@ -202,7 +213,8 @@ std::vector<Evil> const& EvilArchives()
         {"LinkLoopThenThrough",
          {{"My App.app/l", 'l', "m"}, {"My App.app/m", 'l', "l"}, {"My App.app/l/x", 'f', "evil"}},
          UpdateFault::EntryUnderNoFolder},
-        {"ChainOf40Links", ChainOfLinks(40), UpdateFault::LinkLoops},
+        {"ChainOf40Links", ChainOfLinks(40, "run"), UpdateFault::LinkLoops},
+        {"ChainOf40LinksOutThenThrough", ThroughAChainOfLinks(40), UpdateFault::EntryUnderNoFolder},
         {"LinkTargetNotUtf8", {{"My App.app/l", 'l', "\xff\xfe"}}, UpdateFault::LinkTargetInvalid},
         {"LinkTargetNotUtf8ThoughItSaysSo",
          {CalledUtf8({"My App.app/l", 'l', "\xff\xfe"})},

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 
@@ -99,7 +100,9 @@ TEST(Install, NothingHappensWhileTheHostLives)
     UpdateScene scene;
     InstallJob job = scene.PrepareForInstall();
     job.waitSeconds = 1;
+    auto const begin = std::chrono::steady_clock::now();
     HelperOutcome const outcome = scene.Install(job);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::seconds(job.waitSeconds));
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_EQ(outcome.Fault(), UpdateFault::HostStillRunning);
     EXPECT_EQ(outcome.output, "");
@@ -539,6 +542,8 @@ TEST(Relaunch, ProgramThatDoesNotStartIsReportedAndTheNewVersionStays)
     EXPECT_EQ(outcome.exitStatus, 1);
     EXPECT_NE(outcome.Find<InstalledReport>(), nullptr);
     EXPECT_EQ(outcome.Fault(), UpdateFault::RelaunchFailed);
+    UniqueFd const installed(::open((scene.Place().Path() + '/' + APP).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_TRUE(DigestTree(installed.Get()) == job.digest);
     EXPECT_EQ(scene.Place().StartedVersion(scene.StagingName() + "/" + APP), "1.0");
 }
 

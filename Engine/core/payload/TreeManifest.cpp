@@ -249,6 +249,20 @@ bool SyncTree(int folderFd)
     return ::fsync(folderFd) == 0;
 }
 
+namespace
+{
+
+/// Gives this user the rights to a folder that is to go. A failure shows when the folder cannot be removed.
+void UnlockFolder(int parentFd, std::string const& name, struct stat const& status)
+{
+    if ((status.st_mode & S_IRWXU) != S_IRWXU)
+    {
+        static_cast<void>(::fchmodat(parentFd, name.c_str(), S_IRWXU, AT_SYMLINK_NOFOLLOW));
+    }
+}
+
+} // namespace
+
 bool RemoveTree(int parentFd, std::string const& name)
 {
     struct stat status;
@@ -260,6 +274,7 @@ bool RemoveTree(int parentFd, std::string const& name)
     {
         return ::unlinkat(parentFd, name.c_str(), 0) == 0;
     }
+    UnlockFolder(parentFd, name, status);
     UniqueFd const root(::openat(parentFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     if (!root)
     {
@@ -270,6 +285,10 @@ bool RemoveTree(int parentFd, std::string const& name)
     {
         if (S_ISDIR(kind.st_mode))
         {
+            if (kind.st_dev == status.st_dev) // another disk's folder stays as it is
+            {
+                UnlockFolder(folderFd, entry, kind);
+            }
             folders.push_back(path);
         }
         else

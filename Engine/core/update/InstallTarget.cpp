@@ -5,6 +5,7 @@
 #include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/payload/TreeManifest.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -59,6 +60,8 @@ bool IsReadOnly(UniqueFd const& folder)
     return ::fstatvfs(folder.Get(), &status) == 0 && (status.f_flag & ST_RDONLY) != 0;
 }
 
+constexpr std::uint64_t PROTECTED = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
+
 struct Facts
 {
     bool isImmutable = false;
@@ -78,11 +81,27 @@ Facts FactsOf(UniqueFd const& folder)
     };
     if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &more) == 0) // else the rehearsal will tell
     {
-        constexpr std::uint64_t PROTECTED = STATX_ATTR_IMMUTABLE | STATX_ATTR_APPEND;
         facts.isImmutable = (more.stx_attributes & PROTECTED) != 0;
         facts.isMountRoot = (more.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
     }
     return facts;
+}
+
+/// True when something in the bundle could not be removed once the bundle is the previous version.
+bool HoldsProtectedFile(UniqueFd const& bundle)
+{
+    bool isFound = false;
+    auto const look = [&isFound](std::string const&, int parentFd, std::string const& name, struct stat const& status)
+    {
+        struct statx more
+        {
+        };
+        bool const isKnown = !isFound && !S_ISLNK(status.st_mode) &&
+                             ::statx(parentFd, name.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS, &more) == 0;
+        isFound = isFound || (isKnown && (more.stx_attributes & PROTECTED) != 0);
+    };
+    static_cast<void>(WalkTree(bundle.Get(), look)); // what cannot be read is no reason to refuse
+    return isFound;
 }
 
 /// Deliberate: by the effective user, and asked of the kernel, which knows of access lists too.
@@ -113,8 +132,11 @@ std::optional<ErrorCause> Obstacle(InstallTarget const& target)
         return ErrorCause::BundleOfAnotherUser;
     }
     // The bundle too: a folder that changes its parent is written, for it names it.
-    bool const isWritable = IsWritable(target.parent) && IsWritable(target.bundle);
-    return isWritable ? std::nullopt : std::optional(ErrorCause::BundleNotWritable);
+    if (!IsWritable(target.parent) || !IsWritable(target.bundle))
+    {
+        return ErrorCause::BundleNotWritable;
+    }
+    return HoldsProtectedFile(target.bundle) ? std::optional(ErrorCause::BundleImmutable) : std::nullopt;
 }
 
 /// \a text as one word for a shell.

@@ -311,30 +311,29 @@ TEST(InstallTarget, LackOfRoomIsToldInNumbers)
         });
 }
 
-class ProtectedFolder
+class ProtectedEntry
 {
 public:
-    ProtectedFolder(std::string const& path, int flag)
-        : m_folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC))
+    ProtectedEntry(std::string const& path, int flag) : m_entry(::open(path.c_str(), O_RDONLY | O_CLOEXEC))
     {
-        isProtected = ::ioctl(m_folder.Get(), FS_IOC_GETFLAGS, &m_before) == 0 && Set(m_before | flag);
+        isProtected = ::ioctl(m_entry.Get(), FS_IOC_GETFLAGS, &m_before) == 0 && Set(m_before | flag);
     }
-    ~ProtectedFolder()
+    ~ProtectedEntry()
     {
         if (isProtected)
         {
             EXPECT_TRUE(Set(m_before));
         }
     }
-    ProtectedFolder(ProtectedFolder const&) = delete;
-    ProtectedFolder& operator=(ProtectedFolder const&) = delete;
+    ProtectedEntry(ProtectedEntry const&) = delete;
+    ProtectedEntry& operator=(ProtectedEntry const&) = delete;
 
     bool isProtected = false;
 
 private:
-    bool Set(int flags) const { return ::ioctl(m_folder.Get(), FS_IOC_SETFLAGS, &flags) == 0; }
+    bool Set(int flags) const { return ::ioctl(m_entry.Get(), FS_IOC_SETFLAGS, &flags) == 0; }
 
-    UniqueFd m_folder;
+    UniqueFd m_entry;
     int m_before = 0;
 };
 
@@ -345,8 +344,28 @@ TEST(InstallTarget, ProtectedFoldersAreRefused)
     {
         for (std::string const& path : {scene.Parent(), scene.Bundle()})
         {
-            ProtectedFolder const folder(path, flag);
+            ProtectedEntry const folder(path, flag);
             if (!folder.isProtected)
+            {
+                GTEST_SKIP() << "this user or this disk cannot protect files from root";
+            }
+            scene.ExpectError(ErrorCause::BundleImmutable);
+        }
+    }
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
+/// A file that cannot be removed would keep the previous version on the disk for ever.
+TEST(InstallTarget, ProtectedFileAnywhereInTheBundleIsRefused)
+{
+    TargetScene const scene;
+    for (int const flag : {FS_IMMUTABLE_FL, FS_APPEND_FL})
+    {
+        for (char const* const path : {"/run", "/Resources", "/Resources/Info-gnustep.plist"})
+        {
+            SCOPED_TRACE(path);
+            ProtectedEntry const entry(scene.Bundle() + path, flag);
+            if (!entry.isProtected)
             {
                 GTEST_SKIP() << "this user or this disk cannot protect files from root";
             }

@@ -243,6 +243,30 @@ TEST(SharedFolder, OfTheUsersOwnGroupIsNobodyElses)
     }
 }
 
+/// The previous version goes whole, as its owner may give themselves the rights to its folders.
+TEST(ClosedFolders, OfThePreviousVersionAreNotLeftBehind)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    for (mode_t const mode : {0555, 0300, 0000})
+    {
+        SCOPED_TRACE(mode);
+        VictimScene victim;
+        InstallJob const job = victim.Prepare();
+        std::string const closed = victim.Path(APP) + "/closed";
+        std::filesystem::create_directories(closed + "/inner");
+        WriteFile(closed + "/inner/file", "x");
+        GiveTo(VICTIM, closed);
+        ASSERT_EQ(::chmod((closed + "/inner").c_str(), mode), 0);
+        ASSERT_EQ(::chmod(closed.c_str(), mode), 0);
+        HelperOutcome const installed = victim.scene.Install(job, victim.asVictim);
+        EXPECT_EQ(installed.exitStatus, 0) << FaultName(installed.Fault());
+        victim.scene.ReleaseStaging();
+        EXPECT_EQ(victim.scene.Recover("2.0", victim.asVictim).exitStatus, 0);
+        EXPECT_EQ(victim.scene.Place().StartedVersion(), "2.0");
+        EXPECT_EQ(victim.scene.Place().Names(), std::vector<std::string>{APP});
+    }
+}
+
 /// Locks everything below the folder that the attacker may open, until the other end of the pipe closes; how much that
 /// was.
 class LockHolder

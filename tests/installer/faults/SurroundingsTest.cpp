@@ -65,7 +65,7 @@ INSTANTIATE_TEST_SUITE_P(
         Surroundings{"StandardStreamsClosed", After("exec <&- >&- 2>&-"), {}},
         Surroundings{"SignalsIgnored", After("trap '' TERM HUP INT QUIT PIPE CHLD"), {}},
         Surroundings{"EndsOfChildrenIgnored", {"/usr/bin/env", "--ignore-signal=CHLD"}, {}},
-        Surroundings{"NoHome", {}, {"HOME="}},
+        Surroundings{"NoHome", {}, {"HOME="}}, Surroundings{"HomeUnset", {"/usr/bin/env", "-u", "HOME"}, {}},
         Surroundings{"HomeThatIsNot", {}, {"HOME=/nonexistent", "XDG_CONFIG_HOME=/nonexistent"}},
         Surroundings{"TurkishLocale", {}, {"LC_ALL=tr_TR.UTF-8", "LANG=tr_TR.UTF-8"}},
         Surroundings{"UnknownLocale", {}, {"LC_ALL=xx_YY.Nonsense"}},

@@ -606,6 +606,10 @@
         <translation>تعذّرت قراءة وصف التطبيق الموجود في التحديث. أبلغ الناشر بذلك.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>يسمّي التحديث برنامجًا خارج مجلده. أبلغ الناشر بذلك.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>التحديث لتطبيق آخر ولذلك رُفض. أبلغ الناشر بذلك.</translation>
     </message>

@@ -606,6 +606,10 @@
         <translation>Die Beschreibung der Anwendung im Update kann nicht gelesen werden. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>Das Update nennt ein Programm außerhalb seines Ordners. Bitte informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>Das Update gehört zu einer anderen Anwendung und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>

@@ -606,6 +606,10 @@
         <translation>La descripción de la aplicación de la actualización no se puede leer: informe al editor.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>La actualización indica un programa fuera de su carpeta: avise al editor.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>La actualización es de otra aplicación y se rechaza: informe al editor.</translation>
     </message>

@@ -606,6 +606,10 @@
         <translation>La description de l’application de la mise à jour est illisible&#xa0;: prévenez l’éditeur.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>La mise à jour désigne un programme hors de son dossier : prévenez l’éditeur.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>La mise à jour est celle d’une autre application et est refusée&#xa0;: prévenez l’éditeur.</translation>
     </message>

@@ -606,6 +606,10 @@
         <translation>אי אפשר לקרוא את תיאור היישום שבעדכון. יש להודיע ליצרן התוכנה.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>העדכון מציין תוכנית מחוץ לתיקייה שלו. יש להודיע ליצרן התוכנה.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>העדכון שייך ליישום אחר ולכן נדחה. יש להודיע ליצרן התוכנה.</translation>
     </message>

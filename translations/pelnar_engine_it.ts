@@ -606,6 +606,10 @@
         <translation>La descrizione dell’applicazione nell’aggiornamento non può essere letta: informare il produttore.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>L’aggiornamento indica un programma fuori dalla sua cartella: informa l’editore.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>L’aggiornamento è di un’altra applicazione e viene rifiutato: informare il produttore.</translation>
     </message>

@@ -606,6 +606,10 @@
         <translation>アップデートに含まれるアプリケーションの説明情報を読み取れません。発行元に連絡してください。</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>アップデートが自身のフォルダの外にあるプログラムを指定しています。発行元に連絡してください。</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>アップデートが別のアプリケーションのものであるため、拒否されました。発行元に連絡してください。</translation>
     </message>

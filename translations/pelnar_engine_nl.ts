@@ -606,6 +606,10 @@
         <translation>De beschrijving van de app in de update kan niet worden gelezen: informeer de uitgever.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>De update noemt een programma buiten de eigen map: meld dit aan de uitgever.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>De update is van een andere app en wordt geweigerd: informeer de uitgever.</translation>
     </message>

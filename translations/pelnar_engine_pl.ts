@@ -606,6 +606,10 @@
         <translation>Nie można odczytać opisu aplikacji w aktualizacji. Powiadom wydawcę.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>Aktualizacja wskazuje program spoza swojego folderu. Powiadom wydawcę.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>Aktualizacja dotyczy innej aplikacji i została odrzucona. Powiadom wydawcę.</translation>
     </message>

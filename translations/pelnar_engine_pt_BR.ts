@@ -606,6 +606,10 @@
         <translation>Não é possível ler a descrição do aplicativo na atualização: avise o fornecedor.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>A atualização indica um programa fora da sua pasta: avise o editor.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>A atualização é de outro aplicativo e foi recusada: avise o fornecedor.</translation>
     </message>

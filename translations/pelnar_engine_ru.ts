@@ -606,6 +606,10 @@
         <translation>Не удалось прочитать описание программы в обновлении. Сообщите об этом издателю.</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>В обновлении указана программа вне его папки. Сообщите об этом издателю.</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>Обновление предназначено для другой программы и отклонено. Сообщите об этом издателю.</translation>
     </message>

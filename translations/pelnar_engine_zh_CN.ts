@@ -606,6 +606,10 @@
         <translation>无法读取更新中应用程序的说明信息。请告知发布者。</translation>
     </message>
     <message>
+        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <translation>更新指定了其文件夹之外的程序。请告知发布者。</translation>
+    </message>
+    <message>
         <source>The update is of another application, and is refused: tell the publisher.</source>
         <translation>此更新属于另一个应用程序，已被拒绝。请告知发布者。</translation>
     </message>

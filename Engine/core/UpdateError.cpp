@@ -228,11 +228,14 @@ FaultDescription DescriptionOf(UpdateFault fault)
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                               "The description of the application in the update is too large: tell the publisher.")};
     case UpdateFault::InformationMalformed:
-    case UpdateFault::ExecutableNameInvalid:
         return {
             ErrorCode::Validation,
             QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                               "The description of the application in the update cannot be read: tell the publisher.")};
+    case UpdateFault::ExecutableNameInvalid:
+        return {ErrorCode::Validation,
+                QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                  "The update names a program outside of its folder: tell the publisher.")};
     case UpdateFault::IdentifierDiffers:
         return {ErrorCode::Validation,
                 QT_TRANSLATE_NOOP("PelnarEngine_Errors",

@@ -14,7 +14,7 @@ using namespace Pelnar::Engine;
 TEST(UpdateFault, EveryNameIsItsOwnAndLeadsBack)
 {
     std::set<std::string_view> names;
-    for (int value = 0; value <= static_cast<int>(UpdateFault::RightsNotKept); ++value)
+    for (int value = 0; value <= static_cast<int>(UpdateFault::ExecutableNameInvalid); ++value)
     {
         auto const fault = static_cast<UpdateFault>(value);
         EXPECT_TRUE(names.insert(FaultName(fault)).second) << FaultName(fault);

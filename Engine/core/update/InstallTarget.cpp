@@ -87,21 +87,32 @@ Facts FactsOf(UniqueFd const& folder)
     return facts;
 }
 
-/// True when something in the bundle could not be removed once the bundle is the previous version.
-bool HoldsProtectedFile(UniqueFd const& bundle)
+/// What in the bundle could not be removed once the bundle is the previous version.
+std::optional<ErrorCause> ObstacleWithin(UniqueFd const& bundle)
 {
-    bool isFound = false;
-    auto const look = [&isFound](std::string const&, int parentFd, std::string const& name, struct stat const& status)
+    std::optional<ErrorCause> cause;
+    uid_t const user = ::geteuid();
+    auto const look = [&](std::string const&, int parentFd, std::string const& name, struct stat const& status)
     {
+        if (cause || S_ISLNK(status.st_mode))
+        {
+            return;
+        }
         struct statx more
         {
         };
-        bool const isKnown = !isFound && !S_ISLNK(status.st_mode) &&
-                             ::statx(parentFd, name.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS, &more) == 0;
-        isFound = isFound || (isKnown && (more.stx_attributes & PROTECTED) != 0);
+        bool const isKnown = ::statx(parentFd, name.c_str(), AT_SYMLINK_NOFOLLOW, STATX_BASIC_STATS, &more) == 0;
+        if (isKnown && (more.stx_attributes & PROTECTED) != 0)
+        {
+            cause = ErrorCause::BundleImmutable;
+        }
+        else if (S_ISDIR(status.st_mode) && status.st_uid != user && user != 0) // the administrator empties any folder
+        {
+            cause = ErrorCause::BundleOfAnotherUser;
+        }
     };
     static_cast<void>(WalkTree(bundle.Get(), look)); // what cannot be read is no reason to refuse
-    return isFound;
+    return cause;
 }
 
 /// Deliberate: by the effective user, and asked of the kernel, which knows of access lists too.
@@ -136,7 +147,7 @@ std::optional<ErrorCause> Obstacle(InstallTarget const& target)
     {
         return ErrorCause::BundleNotWritable;
     }
-    return HoldsProtectedFile(target.bundle) ? std::optional(ErrorCause::BundleImmutable) : std::nullopt;
+    return ObstacleWithin(target.bundle);
 }
 
 /// \a text as one word for a shell.

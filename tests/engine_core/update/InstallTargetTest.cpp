@@ -392,6 +392,24 @@ TEST(InstallTarget, AnotherUsersBundleIsRefused)
     scene.ExpectError(ErrorCause::BundleOfAnotherUser); // the administrator would take it away from its owner
 }
 
+TEST(InstallTarget, AnotherUsersFolderInTheBundleIsRefused)
+{
+    REQUIRE_ADMINISTRATOR();
+    TargetScene const scene;
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
+    GiveTo(NOBODY, scene.Parent());
+    for (uid_t const owner : {uid_t{0}, SOMEBODY})
+    {
+        GiveTo(owner, scene.Bundle() + "/Resources");
+        AsUser const nobody(NOBODY);
+        scene.ExpectError(ErrorCause::BundleOfAnotherUser);
+    }
+    GiveTo(NOBODY, scene.Bundle() + "/Resources");
+    GiveTo(SOMEBODY, scene.Bundle() + "/run"); // a file goes with its folder
+    AsUser const nobody(NOBODY);
+    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+}
+
 TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
 {
     REQUIRE_ADMINISTRATOR();

@@ -61,7 +61,7 @@ protected:
     {
         EXPECT_EQ(output.RunningVersions(), (Names{"5.9", "5.10"})) << output.Text();
         EXPECT_TRUE(demo.Tree() == NewTree());
-        EXPECT_EQ(demo.Neighbours(), Names{"PelnarDemo.app"}) << "it has confirmed its good start";
+        EXPECT_EQ(demo.Neighbours(), Names{"PelnarDemo.app"}) << "it has confirmed its good start:\n" << output.Text();
         ExpectStarts("5.10");
     }
 

@@ -30,6 +30,8 @@ struct FolderName
     char const* bytes;
 };
 
+std::string const LONGEST_NAME(255, 'n');
+
 class FolderOfAnyName : public UpdateScenario, public testing::WithParamInterface<FolderName>
 {
 };
@@ -44,7 +46,8 @@ TEST_P(FolderOfAnyName, HoldsAnApplicationThatStartsAndIsUpdated)
 INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
                          testing::Values(FolderName{"NoUtf8", "a\xff\xfe\xc3"}, FolderName{"Backslash", "back\\slash"},
                                          FolderName{"QuotesAndALinesEnd", "it's \"one\"\nfolder"},
-                                         FolderName{"BeyondAscii", "\xc3\xa4\xe2\x82\xac"}),
+                                         FolderName{"BeyondAscii", "\xc3\xa4\xe2\x82\xac"},
+                                         FolderName{"Of255Bytes", LONGEST_NAME.c_str()}),
                          [](testing::TestParamInfo<FolderName> const& info) { return info.param.name; });
 
 /// The published bundles hold names beyond ASCII, and here the application stands under one.

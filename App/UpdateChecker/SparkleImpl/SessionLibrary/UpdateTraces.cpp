@@ -29,13 +29,11 @@ bool MayHaveUpdateFiles()
     {
         return true;
     }
-    // The program stands in the bundle, and the files beside the bundle.
+    // The program stands in the bundle, and the files beside the bundle. Deliberate: the kernel goes up from there, for
+    // the bundle's path may be another name of it, as "/proc/self/fd/N" is.
     std::string folder = program;
-    for (int level = 0; level < 2 && !folder.empty(); ++level)
-    {
-        folder.erase(folder.rfind('/'));
-    }
-    std::unique_ptr<DIR, decltype(&::closedir)> const stream(::opendir((folder + '/').c_str()), &::closedir);
+    folder.erase(folder.rfind('/'));
+    std::unique_ptr<DIR, decltype(&::closedir)> const stream(::opendir((folder + "/..").c_str()), &::closedir);
     while (dirent const* const entry = stream ? ::readdir(stream.get()) : nullptr)
     {
         std::string_view const name = entry->d_name;

@@ -45,7 +45,7 @@ struct GatedVersion
 /// The keys that \a bundle trusts. Throws Refusal for a text that is no key: every key must be usable.
 std::vector<std::string> KeysOf(BundleTree const& bundle, QString const& path);
 
-/// What \a bundle, from the archive \a path, is to the gate. Throws Refusal for a key that is none.
+/// What \a bundle, from the archive \a path, is to the gate. Throws Refusal when a key is malformed.
 GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind);
 
 /// What the feed \a feedName says of \a item. The version is invalid when the item's cannot be read.

@@ -260,8 +260,8 @@ void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
                           QStringLiteral("version %1 is signed by the key %2, which strands installed versions: they "
                                          "would be offered it and refuse it for ever: %3")
                               .arg(version.versionText, version.signerId, stranded.join(QStringLiteral(", "))),
-                          QStringLiteral("sign it with the key that they trust; whoever gives these versions up takes "
-                                         "their items and archives away")});
+                          QStringLiteral("sign it with the key that they trust; or, to give these versions up, remove "
+                                         "their items and archives")});
         }
     }
 }

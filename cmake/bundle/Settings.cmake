@@ -1,5 +1,5 @@
-# What the scripts of a bundle share: its settings, and how they end when something is wrong. Whoever runs a script may
-# set a value of its own before: `cmake -DBUNDLE_VERSION=1.3 -DSETTINGS=... -P MakeBundle.cmake`.
+# What the scripts of a bundle share: its settings, and how they end when something is wrong. To change a
+# value, set it before the script runs: `cmake -DBUNDLE_VERSION=1.3 -DSETTINGS=... -P MakeBundle.cmake`.
 
 cmake_policy(VERSION 3.25)
 

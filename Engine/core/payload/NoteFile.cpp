@@ -109,7 +109,7 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
     ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
     if (count < 0)
     {
-        ThrowErrno(errno); // no answer is not the answer that there is no file
+        ThrowErrno(errno); // the file may say something
     }
     bytes.resize(static_cast<std::size_t>(count));
     return bytes;

@@ -30,7 +30,7 @@ void FreeName(int folderFd, std::string const& name);
 
 /// What the file \a name says; empty when there is none, or when anybody else may have written it: it counts only when
 /// it is private and has no other name. REQUIRES: nobody else may write in the folder. Throws UpdateRefusal when it
-/// cannot be read: no answer is not the answer that there is none. A longer file is cut at \a maxBytes.
+/// cannot be read, since it may exist then. A longer file is cut at \a maxBytes.
 std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes = 64 * 1024);
 /// Puts the file in the place of what may be there, whole, and answers when it is on the disk. Throws UpdateRefusal:
 /// PermissionsUnavailable where the file system keeps no modes.

@@ -19,7 +19,9 @@
 int main(int argc, char** argv)
 {
     using namespace Pelnar::Testing;
+    QByteArray const state = qgetenv("XDG_STATE_HOME");
     Pelnar::Foundation::IsolatedUserDefaults const defaults;
+    qputenv("XDG_STATE_HOME", state); // the helper still writes there when this process has ended
     FLAGS_logtostderr = true;
     google::InitGoogleLogging(argv[0]);
     QApplication const application(argc, argv);

@@ -109,6 +109,7 @@ protected:
         QString const home = QString::fromStdString(m_home.Path());
         variables.insert(QStringLiteral("HOME"), home);
         variables.insert(QStringLiteral("XDG_CACHE_HOME"), home);
+        variables.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
         if (!variables.contains(QStringLiteral("QT_QPA_PLATFORM")))
         {
             variables.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));

@@ -74,13 +74,17 @@ AtomicFile::AtomicFile(QString const& path) : m_path(path)
 void AtomicFile::MakeHidden(QByteArray const& folder)
 {
     QByteArray hidden = folder + "/." + QFile::encodeName(QFileInfo(m_path).fileName()) + ".XXXXXX";
-    m_descriptor = Engine::UniqueFd(::mkostemp(hidden.data(), O_CLOEXEC));
+    m_leftover.emplace(
+        [this, &hidden]
+        {
+            m_descriptor = Engine::UniqueFd(::mkostemp(hidden.data(), O_CLOEXEC));
+            return m_descriptor ? hidden.toStdString() : std::string();
+        });
     if (!m_descriptor)
     {
         return;
     }
     m_hiddenName = hidden.mid(folder.size() + 1);
-    m_leftover.emplace(hidden.toStdString());
     if (::fchmod(m_descriptor.Get(), NewFileMode()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
@@ -158,12 +162,16 @@ NewFolder::NewFolder(QString const& path) : m_path(path)
     QByteArray const parent = QFile::encodeName(target.absolutePath());
     QByteArray hidden = parent + "/." + QFile::encodeName(target.fileName()) + ".XXXXXX";
     m_parent = Engine::UniqueFd(::open(parent.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!m_parent || !::mkdtemp(hidden.data()))
-    {
-        RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
-    }
+    m_leftover.emplace(
+        [this, &hidden]
+        {
+            if (!m_parent || !::mkdtemp(hidden.data()))
+            {
+                RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
+            }
+            return hidden.toStdString();
+        });
     m_hiddenName = hidden.mid(parent.size() + 1);
-    m_leftover.emplace(hidden.toStdString());
     m_folder = Engine::UniqueFd(::openat(m_parent.Get(), m_hiddenName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_folder)
     {

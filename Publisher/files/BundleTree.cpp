@@ -82,13 +82,17 @@ TemporaryFolder::TemporaryFolder()
 {
     RemoveAbandoned();
     QByteArray path = QFile::encodeName(QDir::tempPath()) + '/' + TEMPORARY_PREFIX + "XXXXXX";
-    if (!::mkdtemp(path.data()))
-    {
-        RefuseFile(QDir::tempPath(), QStringLiteral("no folder for temporary files can be made there"), errno,
-                   QStringLiteral("name another folder in TMPDIR"));
-    }
+    m_leftover.emplace(
+        [&path]
+        {
+            if (!::mkdtemp(path.data()))
+            {
+                RefuseFile(QDir::tempPath(), QStringLiteral("no folder for temporary files can be made there"), errno,
+                           QStringLiteral("name another folder in TMPDIR"));
+            }
+            return path.toStdString();
+        });
     m_path = path.toStdString();
-    m_leftover.emplace(m_path);
     m_parent = OpenFolder(m_path.parent_path());
     m_folder = OpenFolder(m_path);
     static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks nobody is told that it is held

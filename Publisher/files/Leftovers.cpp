@@ -42,8 +42,9 @@ sigset_t EndingSignals()
 void RemoveAll()
 {
     // The working thread goes on meanwhile: what it adds to a folder between two steps goes in the next round.
+    // Deliberate: the lock is kept, so that no thread makes another or ends the process first.
     constexpr int MOST_ROUNDS = 100;
-    std::lock_guard<std::mutex> const lock(Leftovers().mutex);
+    Leftovers().mutex.lock();
     for (std::string const& path : Leftovers().paths)
     {
         std::error_code error;
@@ -77,6 +78,16 @@ Leftover::Leftover(std::string path) : m_path(std::move(path))
     if (!m_path.empty())
     {
         std::lock_guard<std::mutex> const lock(Leftovers().mutex);
+        Leftovers().paths.insert(m_path);
+    }
+}
+
+Leftover::Leftover(std::function<std::string()> const& make)
+{
+    std::lock_guard<std::mutex> const lock(Leftovers().mutex);
+    m_path = make();
+    if (!m_path.empty())
+    {
         Leftovers().paths.insert(m_path);
     }
 }

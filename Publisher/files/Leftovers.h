@@ -2,6 +2,7 @@
 // Thread: any. Ownership: a scope object for each name; the process has one list of them.
 #pragma once
 
+#include <functional>
 #include <string>
 
 namespace Pelnar::Publisher
@@ -13,6 +14,9 @@ class Leftover
 public:
     /// \a path: absolute. Empty for nothing.
     explicit Leftover(std::string path);
+    /// Calls \a make, which makes the file or folder and returns its absolute path, or makes nothing and returns an
+    /// empty one. No signal ends the process between the two. What \a make throws is passed on.
+    explicit Leftover(std::function<std::string()> const& make);
     ~Leftover();
     Leftover(Leftover const&) = delete;
     Leftover& operator=(Leftover const&) = delete;

@@ -6,8 +6,11 @@
 #include <cerrno>
 #include <climits>
 #include <csignal>
+#include <filesystem>
+#include <fstream>
 #include <map>
 #include <set>
+#include <string>
 
 #include <linux/ptrace.h>
 #include <sys/syscall.h>
@@ -67,10 +70,30 @@ public:
                 m_end.waitStatus = process == m_root ? status : m_end.waitStatus;
             }
         }
+        KillUnheardOf();
         return m_end;
     }
 
 private:
+    /// A process whose parent was killed while it made it has not been heard of. It would stand still for ever.
+    static void KillUnheardOf()
+    {
+        std::string const tracer = "TracerPid:\t" + std::to_string(::gettid()) + '\n';
+        for (auto const& entry : std::filesystem::directory_iterator("/proc"))
+        {
+            std::string const name = entry.path().filename();
+            std::ifstream file(entry.path() / "status");
+            std::string status;
+            std::getline(file, status, '\0'); // the whole of it; empty when the process has just ended
+            if (name.find_first_not_of("0123456789") == std::string::npos && status.find(tracer) != std::string::npos)
+            {
+                pid_t const process = std::stoi(name);
+                ::kill(process, SIGKILL);
+                ::waitpid(process, nullptr, __WALL);
+            }
+        }
+    }
+
     void OnStop(pid_t process, int status)
     {
         int const signal = WSTOPSIG(status);

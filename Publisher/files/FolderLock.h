@@ -11,7 +11,7 @@ namespace Pelnar::Publisher
 class FolderLock
 {
 public:
-    /// Waits while another run holds \a folder, and says so first. Where the file system has no locks there is none.
+    /// Waits while another run holds \a folder, and says so first. A file system without locks is not waited for.
     /// Throws Refusal for a folder that cannot be opened.
     FolderLock(QString const& folder, Console const& console);
 

@@ -44,7 +44,7 @@ struct OldVersion
 [[nodiscard]] OldVersion ReadOldVersion(std::filesystem::path const& folder);
 
 /// Every folder, link and file of the new version, in the order of their paths: kept ones with their source, all other
-/// files as whole. Throws std::filesystem::filesystem_error, also for what is none of these.
+/// files as whole. Throws std::filesystem::filesystem_error, also for any other kind of entry.
 [[nodiscard]] std::vector<DeltaEntry> ReadNewVersion(std::filesystem::path const& folder, OldVersion const& old);
 
 } // namespace Pelnar::Engine

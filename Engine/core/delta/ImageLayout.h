@@ -59,7 +59,7 @@ struct ImageLayout
     bool IsInCode(std::uint64_t place) const { return place >= lowestCode && place < endOfCode; }
 };
 
-/// Spans of a program are few; a file that has more is none.
+/// A program has few spans; a file with more is not treated as a program.
 constexpr std::size_t MAX_IMAGE_SPANS = 16;
 constexpr std::size_t MAX_IMAGE_BYTES = 0x7FFFFFFE;
 

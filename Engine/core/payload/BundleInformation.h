@@ -26,7 +26,7 @@ struct BundleInformation
     std::string displayVersion;       ///< empty when the bundle gives none
     std::string minimumSystemVersion; ///< empty when the bundle gives none
     std::string publicKey;            ///< empty when the bundle trusts no key
-    std::string nextPublicKey;        ///< a second key that is trusted as well; empty when there is none
+    std::string nextPublicKey;        ///< a second trusted key, or empty
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;

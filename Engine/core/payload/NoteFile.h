@@ -14,8 +14,8 @@ namespace Pelnar::Engine
 /// Makes what is missing of the folders above \a path, for this user alone. What fails shows when they are used.
 void MakeFoldersAbove(std::string const& path);
 
-/// Opens the folder \a path, or makes it. Without a folder in which nobody but this user can write there is none, and
-/// errno: EPERM for one of somebody else's or that others can write, ENOTDIR or ELOOP for what is no folder.
+/// Opens the folder \a path, or makes it. The descriptor is empty, and errno set, when others can write there or the
+/// folder belongs to another user (EPERM), and when the path is not a folder (ENOTDIR, ELOOP).
 UniqueFd OpenPrivateFolder(std::string const& path);
 
 /// True for a regular file of this user's that nobody else may open.

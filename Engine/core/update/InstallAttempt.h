@@ -15,7 +15,7 @@ namespace Pelnar::Engine
 
 /// Of the bundle at \a bundlePath, which is absolute and holds no link; no folder's and no archive's name is like it.
 std::string InstallRecordName(QString const& bundlePath);
-/// The folder of the records; not set when there is none of this user's that nobody else can write.
+/// The folder of the records; not set without a folder that belongs to this user and that nobody else can write.
 UniqueFd OpenRecordFolder(QString const& path);
 /// What the record says; nothing when there is none that can be read and understood.
 std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name);

@@ -10,10 +10,8 @@
 
 #include <cerrno>
 
-#include <linux/magic.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/vfs.h>
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -81,18 +79,20 @@ void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& tar
     SwapBundle(descriptors.parent, standin.Name(), descriptors.staging, {{}, NEW_NAME, {}, {}});
 }
 
-/// An overlay moves none of the folders that it has from a layer below, and says so before it looks at where they are
-/// to go: to a place that is taken, so that nothing moves.
+/// Some file systems move no folder of this kind: an overlay, one of a layer below; with projects, one of another
+/// project. They say so before they look at the place that the folder is to go to. The place is taken, so nothing
+/// moves.
 void RehearseMove(RehearseDescriptors const& descriptors, std::string const& targetName)
 {
-    struct statfs status;
-    if (::fstatfs(descriptors.parent, &status) != 0 || status.f_type != OVERLAYFS_SUPER_MAGIC)
-    {
-        return;
-    }
     MakeFolder(descriptors.staging, FULL_NAME);
     MakeFolder(descriptors.staging, (std::string(FULL_NAME) + "/file").c_str());
-    if (::renameat(descriptors.parent, targetName.c_str(), descriptors.staging, FULL_NAME) != 0 && errno == EXDEV)
+    if (::renameat(descriptors.parent, targetName.c_str(), descriptors.staging, FULL_NAME) == 0)
+    {
+        // A file system that replaces a full folder is no place for an exchange.
+        static_cast<void>(::renameat(descriptors.staging, FULL_NAME, descriptors.parent, targetName.c_str()));
+        throw UpdateRefusal(UpdateFault::SwapFailed, ENOTEMPTY);
+    }
+    if (errno == EXDEV)
     {
         throw UpdateRefusal(UpdateFault::OtherFileSystem, EXDEV);
     }

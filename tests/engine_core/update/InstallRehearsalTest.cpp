@@ -6,18 +6,22 @@
 #include "Engine/core/payload/CloseDescriptors.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "tests/installer/FaultChecks.h"
+#include "tests/installer/LoopImage.h"
 #include "tests/installer/OtherUser.h"
 
 #include <gtest/gtest.h>
 
 #include <cerrno>
 #include <chrono>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
 #include <fcntl.h>
+#include <linux/fs.h>
 #include <sched.h>
 #include <sys/file.h>
+#include <sys/ioctl.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
@@ -50,6 +54,13 @@ std::string Told(std::string const& bundlePath, std::string const& helper = PELN
     return error->cause == ErrorCause::Fault
                ? std::string(FaultName(error->fault))
                : std::to_string(error->UnderlyingCode()) + ' ' + error->sentence.English().toStdString();
+}
+
+std::string ToldToBeOfALayer(std::string const& bundle)
+{
+    return "964 The application in " + bundle +
+           " belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it "
+           "there.";
 }
 
 /// An installed bundle alone in its folder, which it is after every rehearsal.
@@ -166,9 +177,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST(InstallRehearsal, BundleOnAnotherFileSystemThanItsFolderIsToldWithItsPath)
 {
     RehearsalScene const scene;
-    EXPECT_EQ(scene.ToldWithout(SYS_renameat2, EXDEV), "964 The application in " + scene.Bundle() +
-                                                           " belongs to a layer of the file system that cannot be "
-                                                           "replaced: copy it to another folder and start it there.");
+    EXPECT_EQ(scene.ToldWithout(SYS_renameat2, EXDEV), ToldToBeOfALayer(scene.Bundle()));
 }
 
 /// Where locks are refused the answer comes at once, says where the application stands, and leaves nothing behind.
@@ -256,8 +265,26 @@ TEST(InstallRehearsal, SystemThatRunsNothingFromMemoryIsNoObstacle)
     EXPECT_EQ(told, "ready");
 }
 
+/// What is told, where the bundle is as it was afterwards.
+std::string ToldWithoutAChange(std::string const& bundle)
+{
+    ContentHash const before = TreeOf(bundle);
+    std::string const answer = Told(bundle);
+    return TreeOf(bundle) == before ? answer : "changed";
+}
+
+struct OverlayRow
+{
+    char const* name;
+    char const* mountCommand; ///< the options and the place are added
+};
+
+class OverlayTest : public testing::TestWithParam<OverlayRow>
+{
+};
+
 /// The layers of an overlay: the application below, or above where this run of the system has written it.
-TEST(InstallRehearsal, LowerLayerOfAnOverlayIsTold)
+TEST_P(OverlayTest, LowerLayerIsTold)
 {
     for (bool const isBelow : {true, false})
     {
@@ -270,17 +297,17 @@ TEST(InstallRehearsal, LowerLayerOfAnOverlayIsTold)
         {
             layers.Put(MakeBundle("1.0"), "lower/apps/");
         }
-        std::string const folder = layers.Path() + "/merged/apps";
+        std::string const bundle = layers.Path() + "/merged/apps/" + APP;
         std::string const told = InOwnSystem(
             [&]() -> std::string
             {
                 std::string const disk = layers.Path() + "/disk";
-                std::string const options =
-                    "lowerdir=" + layers.Path() + "/lower,upperdir=" + disk + "/upper,workdir=" + disk + "/work";
-                bool const isMounted =
-                    ::mount("none", disk.c_str(), "tmpfs", 0, "mode=0755") == 0 &&
-                    ::mkdir((disk + "/upper").c_str(), 0755) == 0 && ::mkdir((disk + "/work").c_str(), 0755) == 0 &&
-                    ::mount("none", (layers.Path() + "/merged").c_str(), "overlay", 0, options.c_str()) == 0;
+                std::string const mount = std::string(GetParam().mountCommand) + " -o lowerdir=" + layers.Path() +
+                                          "/lower,upperdir=" + disk + "/upper,workdir=" + disk + "/work " +
+                                          layers.Path() + "/merged";
+                bool const isMounted = ::mount("none", disk.c_str(), "tmpfs", 0, "mode=0755") == 0 &&
+                                       ::mkdir((disk + "/upper").c_str(), 0755) == 0 &&
+                                       ::mkdir((disk + "/work").c_str(), 0755) == 0 && std::system(mount.c_str()) == 0;
                 if (!isMounted)
                 {
                     return "no overlay";
@@ -289,20 +316,48 @@ TEST(InstallRehearsal, LowerLayerOfAnOverlayIsTold)
                 {
                     layers.Put(MakeBundle("1.0"), "merged/apps/");
                 }
-                ContentHash const before = TreeOf(folder + '/' + APP);
-                std::string const answer = Told(folder + '/' + APP);
-                EXPECT_TRUE(TreeOf(folder + '/' + APP) == before);
-                return testing::Test::HasFailure() ? "changed" : answer;
+                return ToldWithoutAChange(bundle);
             });
         if (told == "no namespaces" || told == "no overlay")
         {
             GTEST_SKIP() << "this machine lets the test mount no overlay: " << told;
         }
-        EXPECT_EQ(told, isBelow ? "964 The application in " + folder + '/' + APP +
-                                      " belongs to a layer of the file system that cannot be replaced: copy it to "
-                                      "another folder and start it there."
-                                : "ready");
+        EXPECT_EQ(told, isBelow ? ToldToBeOfALayer(bundle) : "ready");
     }
+}
+
+INSTANTIATE_TEST_SUITE_P(InstallRehearsal, OverlayTest,
+                         testing::Values(OverlayRow{"OfTheKernel", "mount -t overlay none"},
+                                         OverlayRow{"OfAProgram", "fuse-overlayfs"}),
+                         [](testing::TestParamInfo<OverlayRow> const& info) { return info.param.name; });
+
+/// A folder that gives its project to what is made in it takes no folder of another project.
+TEST(InstallRehearsal, BundleOfAnotherProjectThanItsFolderIsTold)
+{
+    if (std::string const reason = WhyImagesCannotBeMounted(); !reason.empty())
+    {
+        GTEST_SKIP() << reason;
+    }
+    constexpr unsigned PROJECT = 7;
+    Workspace const place;
+    FileSystemKind const xfs = FileSystemKinds().at(2);
+    ASSERT_STREQ(xfs.type, "xfs");
+    std::string const image = place.Path() + "/image";
+    ASSERT_TRUE(MakeImage(xfs, image));
+    MountedImage const mounted(xfs, image, place.Path() + "/disk");
+    ASSERT_TRUE(mounted.IsMounted());
+    place.Put(MakeBundle("1.0"), "disk/");
+    std::string const bundle = mounted.Point() + '/' + APP;
+    EXPECT_EQ(ToldWithoutAChange(bundle), "ready");
+    {
+        UniqueFd const folder(::open(mounted.Point().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+        fsxattr attributes{};
+        ASSERT_EQ(::ioctl(folder.Get(), FS_IOC_FSGETXATTR, &attributes), 0);
+        attributes.fsx_xflags |= FS_XFLAG_PROJINHERIT;
+        attributes.fsx_projid = PROJECT;
+        ASSERT_EQ(::ioctl(folder.Get(), FS_IOC_FSSETXATTR, &attributes), 0);
+    }
+    EXPECT_EQ(ToldWithoutAChange(bundle), ToldToBeOfALayer(bundle));
 }
 
 TEST(InstallRehearsal, FileThatTakesNothingIsNotWrittenToForEver)

@@ -4,7 +4,7 @@
 // them all.
 
 #include "tests/installer/FaultChecks.h"
-#include "tests/installer/faults/LoopImage.h"
+#include "tests/installer/LoopImage.h"
 
 #include <gtest/gtest.h>
 

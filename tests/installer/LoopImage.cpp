@@ -1,4 +1,4 @@
-#include "tests/installer/faults/LoopImage.h"
+#include "tests/installer/LoopImage.h"
 
 #include "Engine/core/delta/TreeAccess.h"
 

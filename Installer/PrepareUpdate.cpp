@@ -2,8 +2,8 @@
 
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/Ed25519Signature.h"
 #include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/payload/TrustedKeys.h"
 #include "Engine/core/unpack/CheckBundle.h"
 #include "Engine/core/unpack/UnpackArchive.h"
 #include "Installer/Confinement.h"

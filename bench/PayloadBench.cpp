@@ -2,7 +2,7 @@
 // beside bsdtar, which leaves what it wrote to the kernel.
 
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TrustedKeys.h"
 #include "Engine/core/unpack/UnpackArchive.h"
 #include "bench/PayloadFixture.h"
 #include "bench/Ratios.h"

@@ -48,7 +48,7 @@ void CheckJob(std::string_view bytes)
     }
     if (auto const* prepare = std::get_if<PrepareJob>(&*job))
     {
-        Require(IsName(prepare->bundleName) && prepare->publicKeys.size() <= 2);
+        Require(IsName(prepare->bundleName) && prepare->publicKeys.Texts().size() <= TrustedKeys::MOST_KEYS);
     }
     if (auto const* recover = std::get_if<RecoverJob>(&*job))
     {

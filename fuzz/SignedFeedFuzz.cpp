@@ -97,7 +97,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     else
     {
         Require(feed.signature.empty(), "a refused feed has no signature");
-        auto const verified = VerifyFeed(bytes, QStringList(QString::fromLatin1(KEY)));
+        auto const verified = VerifyFeed(bytes, {KEY});
         Require(std::holds_alternative<EngineError>(verified), "what cannot be split is not believed");
     }
     if (feed.fault == SignedFeedFault::Missing && bytes.endsWith('\n'))

@@ -145,14 +145,8 @@ RunningBundle ReadRunningBundle()
     {
         bundle.shownName = QFileInfo(bundle.path).completeBaseName();
     }
-    for (Setting const key : {Setting::PublicKey, Setting::NextPublicKey})
-    {
-        QString const text = SettingText(key);
-        if (!text.isEmpty())
-        {
-            bundle.publicKeys.push_back(text);
-        }
-    }
+    bundle.publicKeys = {SettingText(Setting::PublicKey).toStdString(),
+                         SettingText(Setting::NextPublicKey).toStdString()};
     return bundle;
 }
 

@@ -2,7 +2,6 @@
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
-#include "Engine/core/payload/Ed25519Signature.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/KeyId.h"
@@ -25,28 +24,22 @@ bool IsOffered(GatedVersion const& newer, GatedVersion const& older)
            newer.version.IsValid() && older.version < newer.version;
 }
 
-std::vector<std::string> KeysOf(BundleTree const& bundle, QString const& path)
+Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path)
 {
-    Engine::BundleInformation const& information = bundle.Information();
-    std::vector<std::string> keys;
-    for (auto const& [name, text] : {std::pair("SUPublicEDKey", information.publicKey),
-                                     std::pair("PelnarNextPublicEDKey", information.nextPublicKey)})
+    Engine::TrustedKeys const& keys = bundle.Information().publicKeys;
+    for (std::string const& text : keys.Texts())
     {
-        Engine::Ed25519Key key;
-        if (text.empty())
+        if (KeyIdOf(text).isEmpty())
         {
-            continue;
+            throw Refusal(
+                {path, 0, 0,
+                 QStringLiteral("%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
+                                "could never be updated again")
+                     .arg(QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
+                          Printable(QString::fromStdString(text).left(60))),
+                 QStringLiteral("write the entry that \"keys show\" prints")},
+                RefusalCause::Content);
         }
-        if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
-        {
-            throw Refusal({path, 0, 0,
-                           QStringLiteral("%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
-                                          "could never be updated again")
-                               .arg(QLatin1String(name), Printable(QString::fromStdString(text).left(60))),
-                           QStringLiteral("write the entry that \"keys show\" prints")},
-                          RefusalCause::Content);
-        }
-        keys.push_back(text);
     }
     return keys;
 }
@@ -62,9 +55,9 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     version.kind = kind;
     version.bundle =
         GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path), information.allowsInstallerPrograms};
-    for (std::string const& key : version.bundle->publicKeys)
+    for (std::string const& id : version.bundle->publicKeys.Ids())
     {
-        version.trustedIds.append(KeyIdOf(key));
+        version.trustedIds.append(QString::fromStdString(id));
     }
     return version;
 }

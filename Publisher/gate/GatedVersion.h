@@ -10,7 +10,6 @@
 
 #include <optional>
 #include <string>
-#include <vector>
 
 namespace Pelnar::Publisher
 {
@@ -20,7 +19,7 @@ struct GatedBundle
 {
     std::string identifier;
     std::string name; ///< of its folder
-    std::vector<std::string> publicKeys;
+    Engine::TrustedKeys publicKeys;
     bool allowsInstallerPrograms = false;
 };
 
@@ -43,7 +42,7 @@ struct GatedVersion
 [[nodiscard]] bool IsOffered(GatedVersion const& newer, GatedVersion const& older);
 
 /// The keys that \a bundle trusts. Throws Refusal for a text that is no key: every key must be usable.
-std::vector<std::string> KeysOf(BundleTree const& bundle, QString const& path);
+Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path);
 
 /// What \a bundle, from the archive \a path, is to the gate. Throws Refusal when a key is malformed.
 GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind);

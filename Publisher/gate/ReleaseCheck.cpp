@@ -106,7 +106,7 @@ private:
         GatedVersion const inside = VersionOf(bundle, file.name, version.kind);
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
-        for (std::string const& key : inside.bundle->publicKeys)
+        for (std::string const& key : inside.bundle->publicKeys.Texts())
         {
             if (std::find(m_keys.begin(), m_keys.end(), key) == m_keys.end())
             {

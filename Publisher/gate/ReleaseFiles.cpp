@@ -1,6 +1,6 @@
 #include "Publisher/gate/ReleaseFiles.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TrustedKeys.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 

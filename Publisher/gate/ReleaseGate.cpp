@@ -157,8 +157,8 @@ private:
         UpdateFault const fault = information.identifier != installed.identifier ? UpdateFault::IdentifierDiffers
                                   : information.version != m_version.versionText.toStdString()
                                       ? UpdateFault::VersionDiffers
-                                  : information.publicKey.empty() ? UpdateFault::BundleKeyMissing
-                                                                  : UpdateFault::None;
+                                  : information.publicKeys.Texts().empty() ? UpdateFault::BundleKeyMissing
+                                                                           : UpdateFault::None;
         if (fault != UpdateFault::None)
         {
             Report(fault, EntryText(m_bundle, "Contents/Info.plist"), installedVersion);

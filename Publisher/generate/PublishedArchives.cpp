@@ -75,7 +75,7 @@ std::vector<std::string> PublishedArchives::KeysAtHand()
     {
         if (std::optional<GatedVersion> const& version = BundleOf(published, passedOver))
         {
-            std::vector<std::string> const& more = version->bundle->publicKeys;
+            std::vector<std::string> const& more = version->bundle->publicKeys.Texts();
             keys.insert(keys.end(), more.begin(), more.end());
         }
     }

@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// Sixteen hexadecimal digits; empty for a text that is no public key.
+/// Engine::KeyIdOf as the publisher's texts have it.
 QString KeyIdOf(std::string const& publicKey);
 
 } // namespace Pelnar::Publisher

@@ -1,7 +1,7 @@
 #include "Publisher/keys/SigningKey.h"
 
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TrustedKeys.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
 

@@ -2,7 +2,7 @@
 
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/SignedFeed.h"
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TrustedKeys.h"
 
 #include <algorithm>
 

@@ -66,7 +66,8 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, Signin
                        QStringLiteral("has a signature that is not alone on the last line, or is damaged"),
                        QStringLiteral("look at what changed the feed, and remove every line with a signature")});
     }
-    bool const isOurs = std::holds_alternative<QByteArray>(Engine::VerifyFeed(bytes, QStringList(key.PublicKeyText())));
+    bool const isOurs =
+        std::holds_alternative<QByteArray>(Engine::VerifyFeed(bytes, {key.PublicKeyText().toStdString()}));
     if (!isOurs && changed == ChangedFeed::Refused)
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
@@ -90,7 +91,7 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, Signing
     result.bytes += Engine::SignatureBlock(key.SignatureOf(result.bytes));
 
     // As a client will.
-    auto const verified = Engine::VerifyFeed(result.bytes, QStringList(key.PublicKeyText()));
+    auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
     auto const* const signedContent = std::get_if<QByteArray>(&verified);
     if (!signedContent ||
         !std::holds_alternative<Engine::FeedTerms>(Engine::ReadFeedTerms(ReadChannel(name, *signedContent))))

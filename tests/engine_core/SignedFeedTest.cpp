@@ -13,13 +13,13 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-QString KeyText(std::uint8_t seedByte = 7)
+std::string KeyText(std::uint8_t seedByte = 7)
 {
-    return QString::fromStdString(MakeKeyPair(seedByte).publicKey);
+    return MakeKeyPair(seedByte).publicKey;
 }
 
 /// The number of the error; 0 for a feed that is believed.
-int CauseOf(QByteArray const& feed, QStringList const& keys = {KeyText()})
+int CauseOf(QByteArray const& feed, TrustedKeys const& keys = {KeyText()})
 {
     auto const verified = VerifyFeed(feed, keys);
     auto const* const error = std::get_if<EngineError>(&verified);
@@ -64,15 +64,15 @@ TEST(SignedFeed, WithoutAUsableKeyNothingIsBelieved)
     int const keyMissing = 1000 + static_cast<int>(UpdateFault::KeyMissing);
     int const keyMalformed = 1000 + static_cast<int>(UpdateFault::KeyMalformed);
     EXPECT_EQ(CauseOf(feed, {}), keyMissing);
-    EXPECT_EQ(CauseOf(feed, {QStringLiteral("AAAA")}), keyMalformed);
-    EXPECT_EQ(CauseOf(feed, {KeyText(), QStringLiteral("AAAA")}), keyMalformed) << "every key must be usable";
+    EXPECT_EQ(CauseOf(feed, {"AAAA"}), keyMalformed);
+    EXPECT_EQ(CauseOf(feed, {KeyText(), "AAAA"}), keyMalformed) << "every key must be usable";
     for (Bytes32 const& point : PointsOfSmallOrder())
     {
-        EXPECT_EQ(CauseOf(feed, {QString::fromStdString(Base64(point))}), keyMalformed);
+        EXPECT_EQ(CauseOf(feed, {Base64(point)}), keyMalformed);
     }
     for (Bytes32 const& point : NonCanonicalEncodings())
     {
-        EXPECT_EQ(CauseOf(feed, {QString::fromStdString(Base64(point))}), keyMalformed);
+        EXPECT_EQ(CauseOf(feed, {Base64(point)}), keyMalformed);
     }
 }
 

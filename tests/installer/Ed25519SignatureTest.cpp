@@ -1,4 +1,4 @@
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/payload/TrustedKeys.h"
 #include "tests/installer/Ed25519Vectors.h"
 
 #include <gtest/gtest.h>
@@ -39,6 +39,34 @@ UpdateFault Verify(std::string const& message, std::string const& signature, std
 {
     MemoryFile const file(message);
     return VerifyFileSignature(file.Descriptor(), signature, keys);
+}
+
+TEST(TrustedKeys, NameTheirKeysByShortIds)
+{
+    std::string const first = MakeKeyPair(7).publicKey;
+    std::string const second = MakeKeyPair(8).publicKey;
+    TrustedKeys const keys{first, "", second};
+    EXPECT_EQ(keys.Texts(), (std::vector<std::string>{first, second}));
+    EXPECT_EQ(keys.Ids(), (std::vector<std::string>{KeyIdOf(first), KeyIdOf(second)}));
+    EXPECT_EQ(keys.Fault(), UpdateFault::None);
+    EXPECT_TRUE(IsKeyId(KeyIdOf(first)));
+    EXPECT_TRUE(keys.HasId(KeyIdOf(second)));
+    EXPECT_FALSE(keys.HasId(KeyIdOf(MakeKeyPair(9).publicKey)));
+    EXPECT_FALSE(keys.HasId(""));
+    // The first eight bytes of the hash that `printf KEY | base64 -d | sha256sum` prints.
+    EXPECT_EQ(KeyIdOf("11qYAYKxCrfVS/7TyWQHOg7hcvPapiMlrwIaaPcHURo="), "21fe31dfa154a261");
+    EXPECT_EQ(KeyIdOf("garbage"), "");
+    EXPECT_FALSE(IsKeyId("21FE31DFA154A261"));
+    EXPECT_FALSE(IsKeyId("21fe31dfa154a26"));
+}
+
+TEST(TrustedKeys, OneUnusableKeySpoilsAll)
+{
+    std::string const good = MakeKeyPair(7).publicKey;
+    EXPECT_EQ(TrustedKeys().Fault(), UpdateFault::KeyMissing);
+    EXPECT_EQ(TrustedKeys{""}.Fault(), UpdateFault::KeyMissing);
+    EXPECT_EQ((TrustedKeys{good, "AAAA"}).Fault(), UpdateFault::KeyMalformed);
+    EXPECT_EQ((TrustedKeys{"AAAA", good}).Fault(), UpdateFault::KeyMalformed);
 }
 
 class Ed25519Signature : public testing::Test

@@ -161,7 +161,7 @@ TEST(UpdateJob, HostilePrepareJobsAreRefused)
         EXPECT_FALSE(IsTaken(SomePrepareJob(), change));
     }
     // No key and no signature are for the verification to refuse, by their own names.
-    EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.publicKeys.clear(); }));
+    EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.publicKeys = {}; }));
     EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.signature.clear(); }));
 }
 

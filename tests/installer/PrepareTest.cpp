@@ -115,7 +115,7 @@ INSTANTIATE_TEST_SUITE_P(
         JobRow{"BadSignature", [](PrepareJob& job) { job.signature += "="; }, UpdateFault::SignatureMalformed},
         JobRow{"WrongSignature", [](PrepareJob& job) { job.signature = Base64(Sign("other", MakeKeyPair(7))); },
                UpdateFault::SignatureMismatch},
-        JobRow{"NoKey", [](PrepareJob& job) { job.publicKeys.clear(); }, UpdateFault::KeyMissing},
+        JobRow{"NoKey", [](PrepareJob& job) { job.publicKeys = {}; }, UpdateFault::KeyMissing},
         JobRow{"BadKey", [](PrepareJob& job) { job.publicKeys = {"AAAA"}; }, UpdateFault::KeyMalformed},
         JobRow{"SignedByTheNewKeyOnly", [](PrepareJob& job) { job.publicKeys = {MakeKeyPair(9).publicKey}; },
                UpdateFault::SignatureMismatch}),

@@ -16,7 +16,7 @@ using namespace Pelnar::Engine;
 class FeedTrustFlow : public UpdateFixture
 {
 protected:
-    FeedTrustFlow() { settings.check.publicKeys = QStringList(QString::fromStdString(MakeKeyPair(7).publicKey)); }
+    FeedTrustFlow() { settings.check.publicKeys = {MakeKeyPair(7).publicKey}; }
 
     /// A probe of \a feed, with what the last one stored.
     Notes Check(QByteArray const& feed, QString const& fileName = QStringLiteral("feed.xml"),
@@ -161,7 +161,7 @@ TEST_F(FeedTrustFlow, WhereNothingIsAskedForTheSignatureAndTheTermsChangeNothing
 TEST_F(FeedTrustFlow, WithoutAKeyNoFeedIsBelieved)
 {
     settings.check.feedSigning = FeedSigning::Required;
-    settings.check.publicKeys.clear();
+    settings.check.publicKeys = {};
     EXPECT_EQ(Check(SignedFeedOf("5.1")), (Notes{"aborted 3001", "check ended", "ended"}));
     ExpectRefused(1000 + static_cast<int>(UpdateFault::KeyMissing));
 }

@@ -23,7 +23,7 @@ class KeptFeedFlow : public UpdateFixture
 protected:
     KeptFeedFlow()
     {
-        settings.check.publicKeys = QStringList(QString::fromStdString(MakeKeyPair(7).publicKey));
+        settings.check.publicKeys = {MakeKeyPair(7).publicKey};
         settings.check.feedUrl = server.Url();
         NewProcess();
     }
@@ -181,7 +181,7 @@ TEST_F(KeptFeedFlow, KeptFeedIsVerifiedAnew)
 {
     RequireSigned(FAR_AHEAD);
     EXPECT_EQ(Check(), found);
-    settings.check.publicKeys = QStringList(QString::fromStdString(MakeKeyPair(8).publicKey));
+    settings.check.publicKeys = {MakeKeyPair(8).publicKey};
     EXPECT_EQ(Check(), (Notes{"aborted 3001", "check ended", "ended"}));
     EXPECT_EQ(feed.unchanged, 1);
     EXPECT_EQ(feed.wholes, 2);

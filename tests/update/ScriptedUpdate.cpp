@@ -372,7 +372,7 @@ UpdateFixture::UpdateFixture()
     settings.bundle.version = QStringLiteral("5.0");
     settings.bundle.shownName = QStringLiteral("App");
     settings.bundle.shownVersion = QStringLiteral("Five");
-    settings.bundle.publicKeys = QStringList{QString::fromLatin1(GOOD_KEY)};
+    settings.bundle.publicKeys = {GOOD_KEY};
     settings.check.bundleVersion = settings.bundle.version;
     settings.downloadFolder = downloads.path();
     settings.stateFolder = downloads.filePath(QStringLiteral("state"));

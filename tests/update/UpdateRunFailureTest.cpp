@@ -29,30 +29,32 @@ class RefusedBeforehand : public UpdateRunTest, public ::testing::WithParamInter
 };
 INSTANTIATE_TEST_SUITE_P(
     Reasons, RefusedBeforehand,
-    ::testing::Values(
-        Refusal{"NoKey", [](auto& settings, auto&, auto&) { settings.bundle.publicKeys.clear(); }, ErrorCause::Fault,
-                UpdateFault::KeyMissing},
-        Refusal{"BrokenKey",
-                [](auto& settings, auto&, auto&) { settings.bundle.publicKeys[0] = QStringLiteral("AAAA"); },
-                ErrorCause::Fault, UpdateFault::KeyMalformed},
-        Refusal{"BrokenSecondKey",
-                [](auto& settings, auto&, auto&) { settings.bundle.publicKeys.push_back(QStringLiteral("?")); },
-                ErrorCause::Fault, UpdateFault::KeyMalformed},
-        Refusal{"NoIdentifier", [](auto& settings, auto&, auto&) { settings.bundle.identifier.clear(); },
-                ErrorCause::BundleUnnamed, UpdateFault::None},
-        Refusal{"NoVersion", [](auto& settings, auto&, auto&) { settings.bundle.version.clear(); },
-                ErrorCause::BundleUnnamed, UpdateFault::None},
-        Refusal{"NoBundle", [](auto& settings, auto&, auto&) { settings.bundle.path.clear(); },
-                ErrorCause::BundleUnnamed, UpdateFault::None},
-        Refusal{"NoLength", [](auto&, auto& item, auto&) { item.contentLength = 0; }, ErrorCause::DownloadLengthInvalid,
-                UpdateFault::None},
-        Refusal{"NoSignature", [](auto&, auto& item, auto&) { item.edSignature.clear(); }, ErrorCause::Fault,
-                UpdateFault::SignatureMissing},
-        Refusal{"BrokenSignature", [](auto&, auto& item, auto&) { item.edSignature = QStringLiteral("AAAA"); },
-                ErrorCause::Fault, UpdateFault::SignatureMalformed},
-        Refusal{"TargetNotWritable",
-                [](auto&, auto&, auto& parts) { parts.targetError = MakeFaultError(UpdateFault::NotPermitted); },
-                ErrorCause::Fault, UpdateFault::NotPermitted}),
+    ::testing::Values(Refusal{"NoKey", [](auto& settings, auto&, auto&) { settings.bundle.publicKeys = {}; },
+                              ErrorCause::Fault, UpdateFault::KeyMissing},
+                      Refusal{"BrokenKey", [](auto& settings, auto&, auto&) { settings.bundle.publicKeys = {"AAAA"}; },
+                              ErrorCause::Fault, UpdateFault::KeyMalformed},
+                      Refusal{"BrokenSecondKey",
+                              [](auto& settings, auto&, auto&) {
+                                  settings.bundle.publicKeys = {GOOD_KEY, "?"};
+                              },
+                              ErrorCause::Fault, UpdateFault::KeyMalformed},
+                      Refusal{"NoIdentifier", [](auto& settings, auto&, auto&) { settings.bundle.identifier.clear(); },
+                              ErrorCause::BundleUnnamed, UpdateFault::None},
+                      Refusal{"NoVersion", [](auto& settings, auto&, auto&) { settings.bundle.version.clear(); },
+                              ErrorCause::BundleUnnamed, UpdateFault::None},
+                      Refusal{"NoBundle", [](auto& settings, auto&, auto&) { settings.bundle.path.clear(); },
+                              ErrorCause::BundleUnnamed, UpdateFault::None},
+                      Refusal{"NoLength", [](auto&, auto& item, auto&) { item.contentLength = 0; },
+                              ErrorCause::DownloadLengthInvalid, UpdateFault::None},
+                      Refusal{"NoSignature", [](auto&, auto& item, auto&) { item.edSignature.clear(); },
+                              ErrorCause::Fault, UpdateFault::SignatureMissing},
+                      Refusal{"BrokenSignature",
+                              [](auto&, auto& item, auto&) { item.edSignature = QStringLiteral("AAAA"); },
+                              ErrorCause::Fault, UpdateFault::SignatureMalformed},
+                      Refusal{"TargetNotWritable",
+                              [](auto&, auto&, auto& parts)
+                              { parts.targetError = MakeFaultError(UpdateFault::NotPermitted); },
+                              ErrorCause::Fault, UpdateFault::NotPermitted}),
     [](auto const& row) { return row.param.name; });
 
 TEST_P(RefusedBeforehand, NothingIsShownAndNothingFetched)
@@ -75,7 +77,7 @@ TEST_P(RefusedBeforehand, NothingIsShownAndNothingFetched)
 
 TEST_F(UpdateRunTest, KeyErrorsNameTheKey)
 {
-    for (QStringList const& keys : {QStringList(), QStringList{QStringLiteral("AAAA")}})
+    for (TrustedKeys const& keys : {TrustedKeys(), TrustedKeys{"AAAA"}})
     {
         settings.bundle.publicKeys = keys;
         StartInteractive();

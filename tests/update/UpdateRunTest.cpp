@@ -97,7 +97,7 @@ TEST_F(UpdateRunTest, OfferSaysWhatTheFeedAndTheBundleSay)
 
 TEST_F(UpdateRunTest, JobsSayWhatTheItemAndTheBundleSay)
 {
-    settings.bundle.publicKeys.push_back(QString::fromLatin1(GOOD_KEY));
+    settings.bundle.publicKeys = {GOOD_KEY, GOOD_KEY};
     host.relaunchPath = QStringLiteral("/opt/Other.app");
     StartInteractive();
     EXPECT_EQ(parts.neededBytes, 3000u);
@@ -114,7 +114,7 @@ TEST_F(UpdateRunTest, JobsSayWhatTheItemAndTheBundleSay)
     EXPECT_EQ(prepare.kind, PayloadKind::WholeBundle);
     EXPECT_EQ(prepare.archiveBytes, 1000u);
     EXPECT_EQ(prepare.signature, GOOD_SIGNATURE);
-    EXPECT_EQ(prepare.publicKeys.size(), 2u);
+    EXPECT_EQ(prepare.publicKeys.Texts().size(), 2u);
     EXPECT_EQ(prepare.bundleName, "App.app");
     EXPECT_EQ(prepare.bundleIdentifier, "example.app");
     EXPECT_EQ(prepare.expectedVersion, "5.1");

@@ -36,7 +36,7 @@ struct CheckSettings
     FetchLimits fetchLimits;
     FeedLimits feedLimits;
     FeedSigning feedSigning = FeedSigning::NotAsked;
-    QStringList publicKeys;          ///< of the running bundle, base64
+    TrustedKeys publicKeys;          ///< of the running bundle
     FeedRecord feedRecord;           ///< of the last check
     IFeedStore* feedStore = nullptr; ///< outlives the check; null when no feed is kept
 };

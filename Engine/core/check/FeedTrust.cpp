@@ -3,7 +3,6 @@
 #include "Engine/core/UpdateError.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/fetch/FetchPolicy.h"
-#include "Engine/core/payload/Ed25519Signature.h"
 
 #include <algorithm>
 
@@ -56,7 +55,7 @@ QDateTime MomentOf(QString const& text)
 
 } // namespace
 
-std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStringList const& publicKeys)
+std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys)
 {
     SignedFeed const feed = SplitSignedFeed(bytes);
     if (feed.fault == SignedFeedFault::Missing && BeginsAsWebPage(bytes))
@@ -66,11 +65,6 @@ std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStrin
     if (auto const cause = CauseOf(feed.fault))
     {
         return MakeError(*cause);
-    }
-    std::vector<std::string> keys;
-    for (QString const& key : publicKeys)
-    {
-        keys.push_back(key.toStdString());
     }
     std::string_view const content(bytes.constData(), static_cast<std::size_t>(feed.contentBytes));
     UpdateFault const verdict = VerifySignature(content, feed.signature, keys);

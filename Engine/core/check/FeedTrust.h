@@ -4,10 +4,10 @@
 
 #include "Engine/core/EngineError.h"
 #include "Engine/core/feed/FeedParser.h"
+#include "Engine/core/payload/TrustedKeys.h"
 
 #include <QByteArray>
 #include <QDateTime>
-#include <QStringList>
 
 #include <optional>
 #include <variant>
@@ -29,9 +29,9 @@ struct FeedTerms
     QDateTime expires; ///< from then on the feed is refused
 };
 
-/// The content of a feed that is signed, whole, by one of \a publicKeys (base64), or why it is refused. No byte is
+/// The content of a feed that is signed, whole, by one of \a keys, or why it is refused. No byte is
 /// looked at as XML.
-[[nodiscard]] std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, QStringList const& publicKeys);
+[[nodiscard]] std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys);
 
 /// The serial that \a text is, blanks around it left out: a positive decimal number without leading zeros, at most
 /// 9223372036854775807; 0 for anything else.

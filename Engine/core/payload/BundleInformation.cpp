@@ -64,8 +64,11 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
     information.version = list->TextOf("CFBundleVersion").value_or("");
     information.displayVersion = list->TextOf("CFBundleShortVersionString").value_or("");
     information.minimumSystemVersion = list->TextOf("LSMinimumSystemVersion").value_or("");
-    information.publicKey = list->TextOf("SUPublicEDKey").value_or("");
-    information.nextPublicKey = list->TextOf("PelnarNextPublicEDKey").value_or("");
+    if (std::optional<std::string> const first = list->TextOf("SUPublicEDKey"); first && !first->empty())
+    {
+        information.publicKeys = {*first, list->TextOf("PelnarNextPublicEDKey").value_or("")};
+    }
+    information.rootPublicKey = list->TextOf("PelnarRootPublicEDKey").value_or("");
     information.purpose = PurposeOf(*list);
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
     information.confirmsGoodStart = IsTrue(list->TextOf("PelnarConfirmsGoodStart"));

@@ -2,6 +2,8 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
+#include "Engine/core/payload/TrustedKeys.h"
+
 #include <string>
 #include <string_view>
 
@@ -25,8 +27,8 @@ struct BundleInformation
     std::string version;
     std::string displayVersion;       ///< empty when the bundle gives none
     std::string minimumSystemVersion; ///< empty when the bundle gives none
-    std::string publicKey;            ///< empty when the bundle trusts no key
-    std::string nextPublicKey;        ///< a second trusted key, or empty
+    TrustedKeys publicKeys;           ///< of SUPublicEDKey and PelnarNextPublicEDKey; none without the first
+    std::string rootPublicKey;        ///< of PelnarRootPublicEDKey; empty when the bundle has none
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;

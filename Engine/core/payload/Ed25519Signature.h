@@ -1,6 +1,5 @@
-// Ed25519Signature.h: the verdict on a downloaded archive or feed: is it signed by a key that the running bundle
-// trusts? Thread: any; no state beyond the cryptography library's one-time start. Ownership: descriptors stay the
-// caller's. A file is mapped: in a process where a truncated file must not end it with SIGBUS, do not verify one.
+// Ed25519Signature.h: public keys and signatures as texts, read strictly. What they verify: TrustedKeys.h.
+// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/payload/UpdateFault.h"
@@ -8,7 +7,6 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -28,14 +26,5 @@ std::optional<std::vector<std::uint8_t>> DecodeBase64(std::string_view text);
 [[nodiscard]] UpdateFault ParsePublicKey(std::string_view text, Ed25519Key& key);
 /// Writes the signature of \a text to \a signature: 64 bytes. Whether they mean anything is the verification's matter.
 [[nodiscard]] UpdateFault ParseSignature(std::string_view text, Ed25519SignatureBytes& signature);
-
-/// None when \a message bears a valid \a signature of one of the keys; every key must be usable, whichever signed.
-[[nodiscard]] UpdateFault VerifySignature(std::string_view message, std::string_view signature,
-                                          std::vector<std::string> const& publicKeys);
-
-/// None when the whole file behind \a descriptor bears a valid \a signature of one of the keys; every key must be
-/// usable, whichever signed. The file's read position is not touched.
-[[nodiscard]] UpdateFault VerifyFileSignature(int descriptor, std::string_view signature,
-                                              std::vector<std::string> const& publicKeys);
 
 } // namespace Pelnar::Engine

@@ -10,7 +10,6 @@ namespace
 {
 
 constexpr std::string_view MAGIC = "PELNARJ2";
-constexpr std::size_t MAX_KEYS = 2;
 constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
 constexpr std::uint64_t MAX_CREATION_MASK = 0777;
 constexpr auto LAST_PAYLOAD_KIND = static_cast<std::uint64_t>(PayloadKind::Installer);
@@ -29,7 +28,7 @@ void Write(FieldWriter& writer, PrepareJob const& job)
     writer.Number(static_cast<std::uint64_t>(job.kind));
     writer.Number(job.archiveBytes);
     writer.Text(job.signature);
-    writer.Texts(job.publicKeys);
+    writer.Texts(job.publicKeys.Texts());
     writer.Text(job.bundleName);
     writer.Text(job.bundleIdentifier);
     writer.Text(job.expectedVersion);
@@ -90,12 +89,13 @@ PrepareJob ReadPrepare(FieldReader& reader)
     job.kind = static_cast<PayloadKind>(kind);
     job.archiveBytes = reader.Number();
     job.signature = reader.Text();
-    job.publicKeys = reader.Texts();
+    std::vector<std::string> const keys = reader.Texts();
+    job.publicKeys = keys.size() <= TrustedKeys::MOST_KEYS ? TrustedKeys(keys) : TrustedKeys();
     job.bundleName = reader.Text();
     job.bundleIdentifier = reader.Text();
     job.expectedVersion = reader.Text();
     job.installedVersion = reader.Text();
-    if (kind > LAST_PAYLOAD_KIND || job.publicKeys.size() > MAX_KEYS || !IsName(job.bundleName) ||
+    if (kind > LAST_PAYLOAD_KIND || keys.size() > TrustedKeys::MOST_KEYS || !IsName(job.bundleName) ||
         job.bundleIdentifier.empty() || job.expectedVersion.empty() || job.installedVersion.empty())
     {
         reader.Refuse();

@@ -5,6 +5,7 @@
 
 #include "Engine/core/delta/DeltaManifest.h"
 #include "Engine/core/payload/InstallRecord.h"
+#include "Engine/core/payload/TrustedKeys.h"
 
 #include <cstdint>
 #include <optional>
@@ -44,7 +45,7 @@ struct PrepareJob
     PayloadKind kind = PayloadKind::WholeBundle;
     std::uint64_t archiveBytes = 0;      ///< as the feed declared them
     std::string signature;               ///< base64
-    std::vector<std::string> publicKeys; ///< base64; of the running bundle, one or two
+    TrustedKeys publicKeys;              ///< by which the host judges updates
     std::string bundleName;              ///< the installed bundle's folder name; what a delta's result is named
     std::string bundleIdentifier;        ///< the running bundle's
     std::string expectedVersion;         ///< the item's

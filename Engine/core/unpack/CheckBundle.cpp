@@ -223,7 +223,7 @@ void CheckNewBundle(int bundleFd, std::string const& bundleName, BundleExpectati
     {
         throw UpdateRefusal(UpdateFault::VersionNotNewer);
     }
-    if (information.publicKey.empty() && expectation.kind != PayloadKind::Installer)
+    if (information.publicKeys.Texts().empty() && expectation.kind != PayloadKind::Installer)
     {
         throw UpdateRefusal(UpdateFault::BundleKeyMissing); // it could never be updated again
     }

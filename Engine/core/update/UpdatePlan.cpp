@@ -50,18 +50,9 @@ PayloadKind KindOf(UpdateCandidate const& candidate)
 
 std::optional<EngineError> FaultOf(RunningBundle const& bundle)
 {
-    if (bundle.publicKeys.isEmpty())
+    if (UpdateFault const fault = bundle.publicKeys.Fault(); fault != UpdateFault::None)
     {
-        return MakeFaultError(UpdateFault::KeyMissing);
-    }
-    for (QString const& text : bundle.publicKeys)
-    {
-        Ed25519Key key;
-        UpdateFault const fault = ParsePublicKey(text.toStdString(), key);
-        if (fault != UpdateFault::None)
-        {
-            return MakeFaultError(fault);
-        }
+        return MakeFaultError(fault);
     }
     if (bundle.identifier.isEmpty() || bundle.version.isEmpty() || !QDir::isAbsolutePath(bundle.path))
     {
@@ -115,10 +106,7 @@ PrepareJob PreparationOf(UpdateCandidate const& candidate, RunningBundle const& 
     job.kind = KindOf(candidate);
     job.archiveBytes = candidate.item.contentLength;
     job.signature = candidate.item.edSignature.toStdString();
-    for (QString const& key : bundle.publicKeys)
-    {
-        job.publicKeys.push_back(key.toStdString());
-    }
+    job.publicKeys = bundle.publicKeys;
     job.bundleName = targetName;
     job.bundleIdentifier = bundle.identifier.toStdString();
     job.expectedVersion = candidate.item.versionString.toStdString();

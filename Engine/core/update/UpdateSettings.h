@@ -6,7 +6,6 @@
 #include "Engine/core/check/CheckRun.h"
 
 #include <QString>
-#include <QStringList>
 
 namespace Pelnar::Engine
 {
@@ -30,9 +29,9 @@ struct RunningBundle
     QString path; ///< absolute
     QString identifier;
     QString version;
-    QString shownName;      ///< for a person
-    QString shownVersion;   ///< for a person
-    QStringList publicKeys; ///< base64: the current one, then the next one if there is one
+    QString shownName;    ///< for a person
+    QString shownVersion; ///< for a person
+    TrustedKeys publicKeys;
 };
 
 struct UpdateSettings

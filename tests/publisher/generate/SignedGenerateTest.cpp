@@ -16,8 +16,7 @@ QStringList const SIGNING{QStringLiteral("--sign-feed")};
 
 bool IsBelieved(std::string const& feed)
 {
-    auto const verified = Engine::VerifyFeed(QByteArray::fromStdString(feed),
-                                             QStringList(QString::fromStdString(MakeKeyPair(7).publicKey)));
+    auto const verified = Engine::VerifyFeed(QByteArray::fromStdString(feed), {MakeKeyPair(7).publicKey});
     return std::holds_alternative<QByteArray>(verified);
 }
 

@@ -71,8 +71,7 @@ protected:
     static BelievedFeed Believe(QByteArray const& feed, std::uint8_t seedByte = 7)
     {
         BelievedFeed believed;
-        auto const verified =
-            Engine::VerifyFeed(feed, QStringList(QString::fromStdString(MakeKeyPair(seedByte).publicKey)));
+        auto const verified = Engine::VerifyFeed(feed, {MakeKeyPair(seedByte).publicKey});
         if (auto const* const error = std::get_if<Engine::EngineError>(&verified))
         {
             ADD_FAILURE() << error->sentence.English().toStdString() << '\n' << feed.toStdString();

@@ -18,15 +18,37 @@
 namespace
 {
 
-using MakeText = id (*)(id, SEL, char const*, NSStringEncoding);
+using MakeText = id (*)(id, SEL, char const*);
+using MakeEncodedText = id (*)(id, SEL, char const*, NSStringEncoding);
 
-MakeText makeText = nullptr; ///< Foundation's own
+// Foundation's own. The program's name is made by the first, all else by the second.
+MakeText makeText = nullptr;
+MakeEncodedText makeEncodedText = nullptr;
 
-/// A text that is in no such encoding is read byte by byte.
-id MakeAnyText(id self, SEL name, char const* text, NSStringEncoding encoding)
+/// A text that is in no encoding of Foundation's is read byte by byte. The call that made nothing has used up its
+/// object.
+id ReadByteByByte(char const* text)
 {
-    id const made = makeText(self, name, text, encoding);
-    return made || !text ? made : makeText(self, name, text, NSISOLatin1StringEncoding);
+    return makeEncodedText([NSString alloc], @selector(initWithCString:encoding:), text, NSISOLatin1StringEncoding);
+}
+
+id MakeAnyText(id self, SEL name, char const* text)
+{
+    id const made = makeText(self, name, text);
+    return made || !text ? made : ReadByteByByte(text);
+}
+
+id MakeAnyEncodedText(id self, SEL name, char const* text, NSStringEncoding encoding)
+{
+    id const made = makeEncodedText(self, name, text, encoding);
+    return made || !text ? made : ReadByteByByte(text);
+}
+
+/// Puts \a own in the place of Foundation's method, and returns that.
+template <typename Make> Make Replace(SEL name, Make own)
+{
+    Method const method = class_getInstanceMethod(object_getClass([NSString alloc]), name);
+    return reinterpret_cast<Make>(method_setImplementation(method, reinterpret_cast<IMP>(own)));
 }
 
 bool IsPlain(std::string_view text)
@@ -60,14 +82,14 @@ bool IsProcessPlain()
     {
         return;
     }
-    Method const method = class_getClassMethod(static_cast<Class>(objc_getClass("NSString")),
-                                               @selector(stringWithCString:encoding:));
-    makeText = reinterpret_cast<MakeText>(method_setImplementation(method, reinterpret_cast<IMP>(&MakeAnyText)));
+    makeText = Replace(@selector(initWithCString:), &MakeAnyText);
+    makeEncodedText = Replace(@selector(initWithCString:encoding:), &MakeAnyEncodedText);
     @autoreleasepool
     {
         (void)[NSProcessInfo processInfo];
     }
-    method_setImplementation(method, reinterpret_cast<IMP>(makeText));
+    (void)Replace(@selector(initWithCString:), makeText);
+    (void)Replace(@selector(initWithCString:encoding:), makeEncodedText);
 }
 
 @end

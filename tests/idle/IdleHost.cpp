@@ -8,6 +8,7 @@
 //   relaunch=TEXT  says what the next version is started with; two words when the text has a comma
 //   cd=FOLDER      changes the working directory
 //   move=FROM:TO   renames a file
+//   main           whether Foundation takes this thread for the main one
 // Built with PELNAR_OPENED_HOST it is a library of this; with PELNAR_PLAIN_HOST it is the same program without the
 // update checker, and knows the first word only.
 
@@ -38,6 +39,9 @@
 #include <fstream>
 #include <set>
 #include <string>
+#ifndef PELNAR_PLAIN_HOST
+#include <dlfcn.h>
+#endif
 
 namespace
 {
@@ -63,6 +67,24 @@ void PrintLibraries()
 #ifndef PELNAR_PLAIN_HOST
 
 using namespace Pelnar;
+
+/// Asks Foundation as Objective-C would: this host is not linked with it.
+void PrintWhetherThreadIsMain()
+{
+    void* const runtime = ::dlopen("libobjc.so.4", RTLD_LAZY | RTLD_NOLOAD);
+    if (!runtime)
+    {
+        std::puts("main: no Foundation");
+        return;
+    }
+    auto const classNamed = reinterpret_cast<void* (*)(char const*)>(::dlsym(runtime, "objc_lookUpClass"));
+    auto const selector = reinterpret_cast<void* (*)(char const*)>(::dlsym(runtime, "sel_registerName"));
+    using Method = signed char (*)(void*, void*);
+    auto const methodOf = reinterpret_cast<Method (*)(void*, void*)>(::dlsym(runtime, "objc_msg_lookup"));
+    void* const thread = classNamed("NSThread");
+    void* const question = selector("isMainThread");
+    std::printf("main %d\n", methodOf(thread, question)(thread, question));
+}
 
 std::string TextOf(Core::Version const& version)
 {
@@ -157,6 +179,10 @@ void Obey(Host& host, QString const& word)
             arguments.push_back(argument.toStdString());
         }
         std::printf("relaunch %d\n", SetRelaunchArguments(arguments));
+    }
+    else if (word == QLatin1String("main"))
+    {
+        PrintWhetherThreadIsMain();
     }
     else if (word.startsWith(QLatin1String("cd=")))
     {

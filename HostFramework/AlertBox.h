@@ -5,8 +5,7 @@
 //                  QMessageBox::Yes | QMessageBox::No, QApplication::activeWindow(), Qt::WindowFlags());
 //     bool const isToBeSaved = box.Exec() == QMessageBox::Yes;
 //
-// Thread: the Qt main thread. Ownership: the caller's, or the Qt parent's. Declared here, provided by the host
-// framework.
+// Thread: the Qt main thread. Ownership: the caller or the Qt parent. The host framework provides the definitions.
 #pragma once
 
 #include "common/Export.h"
@@ -16,9 +15,8 @@
 namespace Pelnar::Util
 {
 
-/// A QMessageBox, so that its operations (setInformativeText, addButton, clickedButton, setObjectName, close) apply.
-/// `text` is shown as plain text, no matter what it contains. The informative text may carry markup: callers escape
-/// what they insert into it.
+/// A QMessageBox, so its operations (setInformativeText, addButton, clickedButton, setObjectName, close) apply. `text`
+/// is always shown as plain text. The informative text may contain markup: callers escape inserted text.
 class PELNAR_EXPORT AlertBox : public QMessageBox
 {
     Q_OBJECT
@@ -34,7 +32,7 @@ public:
     AlertBox(Level level, QString const& title, QString const& text, StandardButtons buttons, QWidget* parent,
              Qt::WindowFlags flags);
 
-    /// Shows the box modally and returns when it is closed, with QDialog::exec's result.
+    /// Shows the box modally until it is closed. Returns the result of QDialog::exec.
     int Exec();
 };
 

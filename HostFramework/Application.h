@@ -24,7 +24,7 @@
 //         QWidget* window = nullptr;
 //     };
 //
-// Thread: the Qt main thread. Ownership: made by the host's main function; it owns the services it lends.
+// Thread: the Qt main thread. Ownership: the host's main function creates it; it owns the services that it lends.
 #pragma once
 
 #include "common/Export.h"
@@ -48,23 +48,23 @@ class PELNAR_EXPORT Application : public QApplication
     Q_OBJECT
 
 public:
-    /// As for QApplication: \a argc and \a argv must stay valid as long as the object.
+    /// As for QApplication: \a argc and \a argv must stay valid while the object lives.
     Application(int& argc, char** argv);
     ~Application() override;
 
     /// The process's application object. REQUIRES: it is a Pelnar::App::Application. (A check for updates that finds
-    /// another one does not start: std::logic_error.)
+    /// another object does not start and throws std::logic_error.)
     static Application* Instance() { return static_cast<Application*>(QCoreApplication::instance()); }
 
-    /// The three services of a check; the updater takes them once for each check, in this order. A check without a
-    /// customization or a links service does not start: std::logic_error. Without nag screens (null) a major update is
-    /// offered in the update dialog.
+    /// The three services of a check. The updater takes them once for each check, in this order. Without a
+    /// customization or a links service the check does not start and throws std::logic_error. Without nag screens
+    /// (null) a major update is offered in the update dialog.
     virtual std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const = 0;
     virtual std::shared_ptr<ICustomizationManager> GetCustomizationManager() const = 0;
     virtual std::shared_ptr<ILinksManager> GetLinksManager() const = 0;
 
-    /// Asks the application to quit so that an update can be installed; false when something (unsaved work, say) holds
-    /// it back.
+    /// Asks the application to quit so that an update can be installed. Returns false if something, such as unsaved
+    /// work, prevents this.
     virtual bool TryToQuit() = 0;
 };
 

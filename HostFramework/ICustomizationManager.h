@@ -1,4 +1,4 @@
-// ICustomizationManager.h: what the running application calls itself, and its version.
+// ICustomizationManager.h: the names and the version of the running application.
 //
 //     class NotesNames : public Pelnar::App::ICustomizationManager
 //     {
@@ -10,8 +10,8 @@
 //         std::string GetBundleNameSecondPart() const override { return "Notes"; }
 //     };
 //
-// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
-// host to implement.
+// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. The host implements
+// this interface.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -31,8 +31,8 @@ public:
     virtual std::string GetDisplayName() const = 0;
     /// The version of the running application.
     virtual Core::Version GetApplicationVersion() const = 0;
-    /// The two words of the application bundle's name: "First Second.app", or "First Second N.app" from
-    /// major version N = 2 on.
+    /// The two words of the application bundle's name: "First Second.app", or "First Second N.app" if the major version
+    /// N is at least 2.
     virtual std::string GetBundleNameFirstPart() const = 0;
     virtual std::string GetBundleNameSecondPart() const = 0;
 };

@@ -1,4 +1,4 @@
-// ILinksManager.h: the addresses behind the link keys.
+// ILinksManager.h: the addresses of the link keys.
 //
 //     class NotesLinks : public Pelnar::App::ILinksManager
 //     {
@@ -11,8 +11,8 @@
 //         }
 //     };
 //
-// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
-// host to implement.
+// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. The host implements
+// this interface.
 #pragma once
 
 #include "common/Export.h"
@@ -28,7 +28,7 @@ class PELNAR_EXPORT ILinksManager
 public:
     virtual ~ILinksManager() = default;
 
-    /// The address for \a key, or an empty string. The updater asks for URLKeys::SPARKLE_APPCAST_URL only.
+    /// Returns the address for \a key, or an empty string. The updater asks only for URLKeys::SPARKLE_APPCAST_URL.
     virtual QString GetLink(URLKeys key) const = 0;
 };
 

@@ -3,7 +3,7 @@
 //     Pelnar::ioPath const path("/opt/notes");
 //     std::string const& text = path.utf8string();
 //
-// Thread: a plain value. Ownership: its own text. Part of what a host framework provides.
+// A host framework provides this type.
 #pragma once
 
 #include <string>
@@ -16,7 +16,7 @@ class ioPath
 {
 public:
     ioPath() = default;
-    /// \a utf8 is taken as it is: no check that the path exists, no normalisation.
+    /// Stores \a utf8 unchanged. It does not check that the path exists and does not normalise it.
     explicit ioPath(std::string utf8)
         : m_utf8(std::move(utf8))
     {

@@ -7,8 +7,8 @@
 //         void Show(QString const&) override {}
 //     };
 //
-// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. An interface for the
-// host to implement.
+// Thread: the Qt main thread. Ownership: the application holds it by std::shared_ptr and lends it. The host implements
+// this interface.
 #pragma once
 
 #include "common/Export.h"
@@ -22,11 +22,11 @@ namespace Pelnar::App::NagScreen
 /// The nag screen that announces a new major version.
 inline QString const MajorUpdate = QStringLiteral("major_update");
 
-/// What Manager::GetContentState answers. A host may know more states; the updater then does nothing.
+/// The results of Manager::GetContentState. A host may define more states; the updater then does nothing.
 enum ContentState : int
 {
-    CONTENT_UNKNOWN = 0,     ///< not known yet: NagAvailable will tell
-    CONTENT_UNAVAILABLE = 1, ///< there is no content for this name
+    CONTENT_UNKNOWN = 0,     ///< not known yet; NagAvailable will report it
+    CONTENT_UNAVAILABLE = 1, ///< this name has no content
     CONTENT_AVAILABLE = 2,   ///< Show may be called
 };
 
@@ -43,7 +43,7 @@ public:
     virtual void Show(QString const& name) = 0;
 
 Q_SIGNALS:
-    /// Ends CONTENT_UNKNOWN for \a name.
+    /// Ends the state CONTENT_UNKNOWN of \a name.
     void NagAvailable(QString const& name, bool available);
 };
 

@@ -2,7 +2,7 @@
 //
 //     qInfo("Updates are chosen for system version %s", qPrintable(Pelnar::Util::OSVersion()));
 //
-// Thread: the Qt main thread. Ownership: none. Declared here, provided by the host framework.
+// Thread: the Qt main thread. The host framework provides the definition.
 #pragma once
 
 #include "common/Export.h"
@@ -12,8 +12,8 @@
 namespace Pelnar::Util
 {
 
-/// The running system's version as decimal components separated by "."; text that does not parse as a version makes
-/// the updater ignore the system bounds of feed items. The updater asks once in a process.
+/// Returns the running system's version as decimal components separated by ".". If the text does not parse as a
+/// version, the updater ignores the system bounds of feed items. The updater calls this once per process.
 PELNAR_EXPORT QString OSVersion();
 
 } // namespace Pelnar::Util

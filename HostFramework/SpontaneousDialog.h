@@ -3,7 +3,7 @@
 //     QMessageBox box(Pelnar::Util::SpontaneousDialog::findParent());
 //     box.exec();
 //
-// Thread: the Qt main thread. Ownership: none. Declared here, provided by the host framework.
+// Thread: the Qt main thread. The host framework provides the definition.
 #pragma once
 
 #include "common/Export.h"
@@ -20,7 +20,7 @@ namespace Pelnar::Util
 class PELNAR_EXPORT SpontaneousDialog
 {
 public:
-    /// A widget to parent the dialog, or null when the application shows none.
+    /// A widget as the dialog's parent, or null if the application shows none.
     static QWidget* findParent();
 };
 

@@ -1,11 +1,11 @@
-// Version.h: the version value that the host framework, the updater and the session share.
+// Version.h: the version value of the host framework, the updater and the session.
 //
 //     constexpr Pelnar::Core::Version installed(5, 9);
 //     constexpr Pelnar::Core::Version published(5, 10);
 //     static_assert(installed < published);
 //     static_assert(Pelnar::Core::Util::ShrinkVersion(installed, 3) == Pelnar::Core::Version(5, 9, 0));
 //
-// Thread: a plain value. Ownership: none. The interface is part of what a host framework provides.
+// The interface is part of a host framework.
 #pragma once
 
 #include <array>
@@ -14,8 +14,8 @@
 namespace Pelnar::Core
 {
 
-/// Four signed 32-bit components, most significant first; -1 marks an absent one. The default value has no component
-/// at all and is the invalid version.
+/// Four signed 32-bit components, most significant first; -1 marks an absent component. The default value has no
+/// component and is the invalid version.
 class Version
 {
 public:
@@ -34,11 +34,11 @@ public:
     constexpr std::int32_t Patch() const { return m_components[2]; }
     constexpr std::int32_t Build() const { return m_components[3]; }
 
-    /// All four, absent ones included.
+    /// All four components, including absent ones.
     constexpr std::array<std::int32_t, COMPONENT_COUNT> const& Components() const { return m_components; }
 
-    /// True when the first component is not -1 and no other one is below -1. Deliberate: absent components after the
-    /// first, wherever they stand, do not make a version invalid, and neither does a first component below -1.
+    /// True if the first component is not -1 and no other component is below -1. Deliberate: absent components after
+    /// the first, at any position, leave a version valid, and so does a first component below -1.
     constexpr bool IsValid() const
     {
         return m_components[0] != ABSENT && m_components[1] >= ABSENT && m_components[2] >= ABSENT &&
@@ -49,8 +49,8 @@ private:
     std::array<std::int32_t, COMPONENT_COUNT> m_components{ABSENT, ABSENT, ABSENT, ABSENT};
 };
 
-/// The comparisons look at the raw components, first to last: 5.1 is less than 5.1.0. Compare versions of unlike length
-/// after ShrinkVersion.
+/// The comparisons use the raw components, first to last: 5.1 is less than 5.1.0. To compare versions of different
+/// lengths, call ShrinkVersion first.
 constexpr bool operator<(Version const& a, Version const& b)
 {
     for (int i = 0; i < Version::COMPONENT_COUNT; ++i)
@@ -75,8 +75,9 @@ constexpr bool operator>=(Version const& a, Version const& b) { return !(a < b);
 namespace Util
 {
 
-/// The first \a componentCount components of \a version (1 to 4), absent ones read as 0; the rest is absent. An invalid
-/// version stays as it is. 5.1 and 5.1.0 are equal once both are shrunk to four components.
+/// Returns the first \a componentCount components of \a version (1 to 4). Absent ones become 0, and the remaining
+/// components become absent. An invalid version stays unchanged. 5.1 and 5.1.0 are equal after both are shrunk to four
+/// components.
 constexpr Version ShrinkVersion(Version const& version, int componentCount)
 {
     if (!version.IsValid())

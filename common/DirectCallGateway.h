@@ -1,9 +1,9 @@
-// DirectCallGateway.h: the default gateway; grants every request at once.
+// DirectCallGateway.h: the default gateway; it grants every request immediately.
 //
 //     auto const gateway = std::make_shared<Pelnar::ExternalStimulus::DirectCallGateway>();
 //     Pelnar::App::UpdateManager::CheckForUpdates(gateway, qApp, true, {}, {});
 //
-// Thread: the caller's. Ownership: no data, nothing pending.
+// Thread: the caller's. It keeps no data and no pending requests.
 #pragma once
 
 #include "common/IGateway.h"
@@ -14,9 +14,9 @@ namespace Pelnar::ExternalStimulus
 class PELNAR_EXPORT DirectCallGateway : public IGateway
 {
 public:
-    /// Calls the callback, unless it is empty, and returns after it; what it throws reaches the caller.
+    /// Calls the callback, unless it is empty, and returns after it. An exception of the callback reaches the caller.
     void ProposeAction(Action const& action) override;
-    /// Does nothing: nothing is ever pending.
+    /// Does nothing, because no request is ever pending.
     void CancelActions(std::string const& id) override;
 };
 

@@ -1,4 +1,4 @@
-// EventHandlerList.h: keeps handlers in the order of their addition and calls them over a snapshot.
+// EventHandlerList.h: keeps handlers in the order of their addition and calls a snapshot of them.
 //
 //     struct IListener
 //     {
@@ -8,11 +8,11 @@
 //     Pelnar::Core::EventHandlerList<IListener, Pelnar::Core::SyncExecutePolicy> listeners;
 //     listeners.PerformForEachEventHandler([](IListener* listener) { listener->OnChanged(7); });
 //
-// Thread: registering and notifying may come from any thread; whole passes run one after another.
-// Ownership: the list owns no handler. A handler may destroy the list; the pass that called it then ends.
-// Locks: `executeMutex` is held for a whole pass, `handlersMutex` for each look at the list and never while a handler
-// is called. A pass releases `handlersMutex` before it waits for `executeMutex`. Both are recursive, so that a handler
-// may register, unregister or start a pass of its own; it takes `handlersMutex` within the pass then.
+// Thread: any thread may register and notify; whole passes run one after another. Ownership: the list does not own its
+// handlers. A handler may destroy the list; the pass that called it then ends. Locks: `executeMutex` is held for a
+// whole pass, `handlersMutex` for each access to the list and never during a call of a handler. A pass releases
+// `handlersMutex` before it waits for `executeMutex`. Both are recursive, so that a handler may register, unregister or
+// start another pass; it takes `handlersMutex` within the pass then.
 #pragma once
 
 #include "common/EventPublisher.h"
@@ -27,7 +27,7 @@
 namespace Pelnar::Core
 {
 
-/// Handlers are called on the notifying thread, one after the other.
+/// Calls handlers on the notifying thread, one after the other.
 struct SyncExecutePolicy
 {
     static void Execute(std::function<void()> const& call) { call(); }
@@ -74,10 +74,10 @@ public:
         }
     }
 
-    /// Calls \a functor (anything std::invoke takes with a T*) for every handler registered when the pass starts.
-    /// Handlers removed meanwhile are still called in this pass, handlers added meanwhile only in the next one.
-    /// An exception of a handler ends the pass and reaches the caller; both mutexes are released. When a handler
-    /// destroys the list, the later ones are not called: they may have gone with it.
+    /// Calls \a functor (anything std::invoke accepts with a T*) for every handler that is registered when the pass
+    /// starts. A handler removed during the pass is still called in it. A handler added during the pass is called only
+    /// in the next one. An exception of a handler ends the pass and reaches the caller; both mutexes are released. If a
+    /// handler destroys the list, no later handler is called: they may have been destroyed with it.
     template <class F>
     void PerformForEachEventHandler(F functor)
     {
@@ -90,7 +90,7 @@ public:
             {
                 return;
             }
-            // Two words of capture fit the function's own buffer: no allocation for a handler.
+            // Two words of capture fit into the function's own buffer, so a handler needs no allocation.
             SyncExecutePolicy::Execute([&functor, handler] { std::invoke(functor, handler); });
         }
     }

@@ -1,10 +1,11 @@
-// EventPublisher.h: the place where handlers of one kind of event are registered.
+// EventPublisher.h: the interface at which handlers of one kind of event are registered.
 //
 //     using Observer = Pelnar::App::IUpdateManagerObserver;
 //     auto const follow = [](Pelnar::Core::EventPublisher<Observer>& publisher, Observer& observer)
 //     { publisher.RegisterEventHandler(&observer); };
 //
-// Thread: any. Ownership: the publisher owns no handler; a handler must be unregistered before it dies.
+// Thread: any. Ownership: the publisher does not own its handlers; a handler must be unregistered before it is
+// destroyed.
 #pragma once
 
 namespace Pelnar::Core
@@ -14,9 +15,9 @@ template <class T>
 class EventPublisher
 {
 public:
-    /// Appends \a handler; null and a handler that is registered already are ignored.
+    /// Appends \a handler. Null and a handler that is already registered are ignored.
     virtual void RegisterEventHandler(T* handler) = 0;
-    /// Removes \a handler, keeping the order of the others; null and an unknown handler are ignored.
+    /// Removes \a handler and keeps the order of the others. Null and an unknown handler are ignored.
     virtual void UnregisterEventHandler(T* handler) = 0;
     virtual ~EventPublisher() = default;
 };

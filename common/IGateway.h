@@ -1,4 +1,4 @@
-// IGateway.h: the seam through which the update manager asks the host to run something that the user will see.
+// IGateway.h: the interface through which the update manager asks the host to run something that the user will see.
 //
 //     class PatientGateway : public Pelnar::ExternalStimulus::IGateway
 //     {
@@ -24,8 +24,8 @@
 //         Pelnar::ExternalStimulus::Action m_waiting;
 //     };
 //
-// Thread: the Qt main thread. Ownership: held by std::shared_ptr; an action's callback may outlive the one who
-// proposed it and guards itself against that. A gateway may destroy its proposer, and stays alive until its call ends.
+// Thread: the Qt main thread. Ownership: held by std::shared_ptr. An action's callback may outlive the object that
+// proposed it, and is safe to call then. A gateway may destroy its proposer, and stays alive until its call ends.
 #pragma once
 
 #include "common/Export.h"
@@ -39,17 +39,17 @@ namespace Pelnar::ExternalStimulus
 struct Action
 {
     std::string id;                 ///< names the kind of request
-    std::function<void()> callback; ///< what to run when the host grants the request; may be empty
+    std::function<void()> callback; ///< runs when the host grants the request; may be empty
 };
 
 class PELNAR_EXPORT IGateway
 {
 public:
     virtual ~IGateway() = default;
-    /// Runs \a action's callback now, later or never, at the host's choice. Run it at most once: nothing checks this,
-    /// and each run of the update dialog's callback shows the dialog, as long as its manager lives.
+    /// Runs \a action's callback now, later or never, as the host chooses. Run it at most once. Nothing checks this,
+    /// and each run of the update dialog's callback shows the dialog while its manager lives.
     virtual void ProposeAction(Action const& action) = 0;
-    /// Forgets every action named \a id that has not been run yet.
+    /// Discards every action named \a id that has not run yet.
     virtual void CancelActions(std::string const& id) = 0;
 };
 

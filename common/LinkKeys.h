@@ -1,9 +1,9 @@
-// LinkKeys.h: the host framework's link keys and the name of each.
+// LinkKeys.h: the host framework's link keys and their names.
 //
 //     std::string const& name = Pelnar::LINK_KEY_NAMES.at(Pelnar::URLKeys::SPARKLE_APPCAST_URL);
 //
-// Thread: the table is built at load time and only read afterwards. Ownership: one table for each translation unit.
-// The numbers are part of the interface with the host framework; those missing here are its own.
+// Thread: the table is built at load time and only read afterwards. Ownership: each translation unit has its own table.
+// The numbers are part of the interface with the host framework; missing numbers belong to the framework.
 #pragma once
 
 #include <initializer_list>
@@ -60,8 +60,8 @@ enum class URLKeys : int
     CHANGELOG_URL = 66,
 };
 
-/// Puts every pair at the end of the map, since \a pairs is in the order of the keys; the first of two for one key
-/// stays.
+/// Puts every pair at the end of the map, because \a pairs is in the order of the keys. If a key appears twice, the
+/// first pair stays.
 inline std::map<URLKeys, std::string> MakeLinkKeyNames(std::initializer_list<std::pair<URLKeys, char const*>> pairs)
 {
     std::map<URLKeys, std::string> names;

@@ -3,8 +3,8 @@
 //     Pelnar::SharedNotNullPtr<QObject> const object(std::make_shared<QObject>()); // throws for null
 //     object->setObjectName(QStringLiteral("document"));
 //
-// Thread: as the pointer it wraps. Ownership: as the pointer it wraps; moving out of one copies, so that the source
-// keeps its promise.
+// Thread and ownership are those of the wrapped pointer. A move copies the pointer, so that the source is never null
+// either.
 #pragma once
 
 #include <memory>
@@ -21,7 +21,7 @@ class NotNull
 public:
     using element_type = typename std::pointer_traits<T>::element_type;
 
-    /// Throws std::logic_error with the text "NotNull can not initialized by null" when \a pointer is null.
+    /// Throws std::logic_error with the text "NotNull can not initialized by null" if \a pointer is null.
     template <class U, class = std::enable_if_t<std::is_convertible_v<U, T>>>
     NotNull(U pointer) : m_pointer(std::move(pointer))
     {

@@ -1,4 +1,4 @@
-// PropogateConstCreator.h: makes the pointer of a private implementation whose constness follows its owner's.
+// PropogateConstCreator.h: creates the pointer to a private implementation; its constness follows its owner's.
 //
 //     struct Impl
 //     {
@@ -7,7 +7,7 @@
 //     auto impl = Pelnar::details::PropogateConstCreator<std::unique_ptr<Impl>>::Create();
 //     impl->pages = 7; // by an owner that is not const
 //
-// Thread: the owner's. Ownership: as the pointer that is wrapped. The spelling of the name is the interface's.
+// Thread: the owner's. Ownership: that of the wrapped pointer. The spelling of the name is part of the interface.
 #pragma once
 
 #include <memory>
@@ -16,7 +16,7 @@
 namespace Pelnar::details
 {
 
-/// A pointer through which a const owner reaches a const object only.
+/// A pointer through which a const owner reaches only a const object.
 template <class Pointer>
 class PropogateConst
 {
@@ -44,7 +44,7 @@ struct PropogateConstCreator<std::unique_ptr<T>>
 {
     using type = PropogateConst<std::unique_ptr<T>>;
 
-    /// Makes the object with `new` and no arguments; what its constructor throws leaves here.
+    /// Creates the object with `new` and no arguments. An exception of its constructor propagates.
     static type Create() { return type(std::unique_ptr<T>(new T)); }
 };
 

@@ -1,4 +1,4 @@
-// ScopedFunctionCall.h: runs one function on entering a scope and another on every way out of it.
+// ScopedFunctionCall.h: runs one function at the start of a scope and another at every exit from it.
 //
 //     Pelnar::Core::ScopedFunctionCall const waiting([] { QApplication::setOverrideCursor(Qt::WaitCursor); },
 //                                                    [] { QApplication::restoreOverrideCursor(); }, true);
@@ -14,7 +14,7 @@ namespace Pelnar::Core
 class ScopedFunctionCall
 {
 public:
-    /// Runs \a onEnter at once, unless it is empty. \a active says whether the pair is called at all.
+    /// Runs \a onEnter immediately, unless it is empty. If \a active is false, neither function is called.
     ScopedFunctionCall(std::function<void()> const& onEnter, std::function<void()> const& onExit, bool active)
         : m_onExit(active ? onExit : std::function<void()>())
     {
@@ -24,7 +24,7 @@ public:
         }
     }
 
-    /// Runs the exit function, unless it is empty; it must not throw.
+    /// Runs the exit function, unless it is empty. It must not throw.
     ~ScopedFunctionCall()
     {
         if (m_onExit)

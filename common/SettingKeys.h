@@ -1,6 +1,5 @@
-// SettingKeys.h: every key of the information dictionary and of the user defaults that the update checker knows, in one
-// table. docs/guide/settings.md is made from it. Plain C++.
-// Thread: any; constants. Ownership: none.
+// SettingKeys.h: one table of every key of the information dictionary and of the user defaults that the update checker
+// reads. docs/guide/settings.md is generated from it. Plain C++, constants only.
 #pragma once
 
 #include <cstddef>
@@ -54,7 +53,7 @@ enum class SettingPlace
 {
     Information, ///< the bundle's information file
     Defaults,    ///< the user defaults
-    Both,        ///< the user default wins
+    Both,        ///< both; the user default has priority
 };
 
 struct SettingKey
@@ -63,7 +62,7 @@ struct SettingKey
     std::string_view name;
     SettingType type;
     SettingPlace place;
-    std::string_view whenAbsent; ///< what counts without the key
+    std::string_view whenAbsent; ///< what holds if the key is absent
     std::string_view meaning;
 };
 

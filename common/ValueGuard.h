@@ -1,9 +1,10 @@
-// ValueGuard.h: gives a variable another value for the length of a scope.
+// ValueGuard.h: gives a variable another value until the end of a scope.
 //
 //     bool isBusy = false;
 //     Pelnar::Core::ValueGuard<bool> const busy(isBusy, true); // until the end of this scope
 //
-// Thread: the variable's. Ownership: the guard refers to the variable, which outlives it or is told to be gone.
+// Thread: the variable's. Ownership: the guard refers to the variable. The variable must outlive the guard, or Forget()
+// must be called.
 #pragma once
 
 #include <utility>
@@ -15,10 +16,10 @@ template <class T>
 class ValueGuard
 {
 public:
-    /// Keeps a copy of \a variable's value and assigns \a value to it.
+    /// Keeps a copy of \a variable's value and assigns \a value to the variable.
     ValueGuard(T& variable, T value) : m_variable(&variable), m_previous(variable) { *m_variable = std::move(value); }
 
-    /// Assigns the old value back. A failure there ends the program: a half restored value must not be seen.
+    /// Restores the old value. A failure here ends the program, so that no code sees a half restored value.
     ~ValueGuard() noexcept
     {
         if (m_variable)
@@ -27,7 +28,7 @@ public:
         }
     }
 
-    /// The variable has died within the scope: nothing is assigned back.
+    /// The variable has been destroyed inside the scope: nothing is restored.
     void Forget() { m_variable = nullptr; }
 
     ValueGuard(ValueGuard const&) = delete;

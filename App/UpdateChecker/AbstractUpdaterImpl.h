@@ -1,5 +1,6 @@
-// AbstractUpdaterImpl.h: the back end that the update flow drives: it finds updates and shows the update dialog.
-// Thread: the one that owns the object, the Qt main thread. Ownership: the flow controller owns it; no Qt parent.
+// AbstractUpdaterImpl.h: the interface of a back end. A back end finds updates and shows the update dialog; the update
+// flow drives it. Thread: the Qt main thread, which owns the object. Ownership: the flow controller owns it; it has no
+// Qt parent.
 #pragma once
 
 #include "App/UpdateChecker/UpdateCheckResult.h"
@@ -25,21 +26,21 @@ public:
     AbstractUpdaterImpl();
     ~AbstractUpdaterImpl() override;
 
-    /// Starts a check and returns at once; exactly one NotifyCheckFinished follows, inside this call only when the back
-    /// end cannot start a check.
+    /// Starts a check and returns immediately. Exactly one NotifyCheckFinished follows. It comes inside this call only
+    /// if the back end cannot start a check.
     virtual void CheckForUpdates() = 0;
-    /// The version that the last check found offered; the default value before any check has finished.
+    /// The version that the last check found. It is the default value until a check has finished.
     virtual Core::Version GetRemoteVersion() const = 0;
-    /// Shows the user interface of the update just found. \a parentGetter may be empty; it is called at most once for a
-    /// dialog and may answer null.
+    /// Shows the user interface of the update that was just found. \a parentGetter may be empty. It is called at most
+    /// once for each dialog and may return null.
     virtual void ExecUpdateDialog(std::function<QWidget*()> const& parentGetter) = 0;
-    /// Withdraws the offered update and closes the dialog that is shown, if any.
+    /// Withdraws the offered update and closes its dialog if one is open.
     virtual void RejectUpdateAndHideDialog() = 0;
 
 Q_SIGNALS:
-    /// A check has an outcome, or could not start.
+    /// Reports the result of a check, or that the check could not start.
     void NotifyCheckFinished(UpdateCheckResult result);
-    /// The user has accepted an offered update.
+    /// Reports that the user accepted an offered update.
     void NotifyUserAcceptUpdate();
 };
 

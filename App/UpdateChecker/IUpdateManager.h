@@ -1,12 +1,12 @@
-// IUpdateManager.h: the live update manager, as the host sees it while a check runs.
+// IUpdateManager.h: the update manager of the running check, as the host sees it.
 //
 //     if (Pelnar::App::IUpdateManager* const manager = Pelnar::App::UpdateManager::GetCurrentUpdateManager())
 //     {
 //         manager->RejectUpdateAndHideDialog(); // the host needs the screen for itself
 //     }
 //
-// Thread: the Qt main thread. Ownership: the manager deletes itself; take the pointer from
-// UpdateManager::GetCurrentUpdateManager() each time and do not keep it.
+// Thread: the Qt main thread. Ownership: the manager deletes itself. Call UpdateManager::GetCurrentUpdateManager() each
+// time and do not keep the pointer.
 #pragma once
 
 #include "common/Export.h"
@@ -21,11 +21,11 @@ class IUpdateManagerObserver;
 class PELNAR_EXPORT IUpdateManager
 {
 public:
-    /// Adds \a observer at the end; null and an observer that is registered already are ignored.
+    /// Adds \a observer at the end. Null and an observer that is already registered are ignored.
     virtual void RegisterObserver(IUpdateManagerObserver* observer) = 0;
-    /// Removes \a observer; null and an unknown one are ignored.
+    /// Removes \a observer. Null and an unknown observer are ignored.
     virtual void UnregisterObserver(IUpdateManagerObserver* observer) = 0;
-    /// Closes the dialog that the running check shows, if any, as if the user had dismissed it.
+    /// Closes the dialog of the running check, as if the user had dismissed it. Without a dialog it does nothing.
     virtual void RejectUpdateAndHideDialog() = 0;
     virtual ~IUpdateManager() = default;
 };

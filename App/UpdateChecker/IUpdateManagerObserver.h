@@ -1,4 +1,4 @@
-// IUpdateManagerObserver.h: what the host's observers of a check are told.
+// IUpdateManagerObserver.h: the notifications that a host gets about a check.
 //
 //     class FoundVersion : public Pelnar::App::IUpdateManagerObserver
 //     {
@@ -14,8 +14,9 @@
 //         Pelnar::Core::Version version;
 //     };
 //
-// Thread: the Qt main thread. Ownership: the host's; an observer is unregistered, or its manager is gone, before it
-// dies. One that is unregistered by another within a notification is still called in it.
+// Thread: the Qt main thread. Ownership: the host owns the observer. It must live until it is unregistered or its
+// manager is destroyed. If one observer unregisters another during a notification, the other still receives this
+// notification.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -24,19 +25,21 @@
 namespace Pelnar::App
 {
 
-/// In each of these the observer may register and unregister observers, call the manager, start dialogs of its own and
-/// destroy the manager's Qt parent, and the manager with it: nobody is called after that. An exception ends the
-/// notification and the check, and propagates to the caller of the dialog.
+/// In each of these calls the observer may register and unregister observers, call the manager and open its own
+/// dialogs. It may also destroy the manager's Qt parent, and the manager with it; no further observer is called then.
+/// An exception ends the notification and the check, and propagates to the caller of the dialog.
 class PELNAR_EXPORT IUpdateManagerObserver
 {
 public:
-    /// The update dialog is about to be proposed; also in a silent check, and also when a check that the user asked for
-    /// found nothing newer. \a current is the running application's version, \a remote the one that the check reports.
+    /// The update dialog will be proposed next. This is also called in a silent check, and when a check that the user
+    /// requested found nothing newer. \a current is the running application's version, \a remote the version that the
+    /// check reports.
     virtual void OnUpdateFound(Core::Version const& current, Core::Version const& remote) = 0;
-    /// The user accepted the update in the dialog. No back end announces this today: an update is accepted in the
-    /// windows of the update framework, which tells its delegate of no such moment. What it throws ends no check.
+    /// The user accepted the update in the dialog. No back end calls this today: the user accepts an update in the
+    /// windows of the update framework, and the framework does not report this to its delegate. An exception from here
+    /// ends no check.
     virtual void OnUpdateAccepted(Core::Version const& current, Core::Version const& remote) = 0;
-    /// The update dialog is about to be executed.
+    /// The update dialog opens next.
     virtual void OnUpdateDialogOpening() = 0;
     /// The update dialog has returned.
     virtual void OnUpdateDialogClosed() = 0;

@@ -1,4 +1,4 @@
-// UpdateCheckMode.h: how a check was started, and so how much of it the user may see.
+// UpdateCheckMode.h: who started a check, and so how much of it the user sees.
 //
 //     Pelnar::App::UpdateManager::Initializer initializer(qApp);
 //     initializer.checkMode = Pelnar::App::UpdateCheckMode::Silent;
@@ -12,9 +12,9 @@ namespace Pelnar::App
 
 enum class UpdateCheckMode : std::int32_t
 {
-    UserInitiated = 0, ///< the user asked: every outcome leads to the update dialog
-    Automatic = 1,     ///< the application started it: dialogs only when there is an update
-    Silent = 2,        ///< observers are told, nothing is shown
+    UserInitiated = 0, ///< the user requested it: every result leads to the update dialog
+    Automatic = 1,     ///< the application started it: dialogs appear only if there is an update
+    Silent = 2,        ///< observers are notified, no dialog appears
 };
 
 } // namespace Pelnar::App

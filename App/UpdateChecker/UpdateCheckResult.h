@@ -1,10 +1,10 @@
-// UpdateCheckResult.h: the outcome of a check.
+// UpdateCheckResult.h: the result of a check.
 //
 //     using Pelnar::App::UpdateCheckResult;
 //     auto const isNewer = [](UpdateCheckResult result)
 //     { return result == UpdateCheckResult::UpdateAvailable || result == UpdateCheckResult::MajorUpdateAvailable; };
 //
-// Thread: a plain value. Qt knows its type, so that a result from another thread is queued.
+// The type is registered with Qt, so a result from another thread can be queued.
 #pragma once
 
 #include <QMetaType>
@@ -17,9 +17,9 @@ namespace Pelnar::App
 enum class UpdateCheckResult : std::int32_t
 {
     None = 0,                 ///< no result; treated as NoUpdate
-    NoUpdate = 1,             ///< nothing newer, or the check could not be started
-    UpdateAvailable = 2,      ///< newer, with a major version that is not greater
-    MajorUpdateAvailable = 3, ///< newer, with a greater major version
+    NoUpdate = 1,             ///< no newer version, or the check could not start
+    UpdateAvailable = 2,      ///< a newer version with the same or a lower major version
+    MajorUpdateAvailable = 3, ///< a newer version with a greater major version
 };
 
 } // namespace Pelnar::App

@@ -1,4 +1,4 @@
-// UpdateManager.h: the public front: starts a check; one self-deleting manager lives for each.
+// UpdateManager.h: the public entry point. It starts a check; each check has one manager that deletes itself.
 //
 //     using Pelnar::App::UpdateManager;
 //     // The menu's "Check for Updates": the person sees every outcome.
@@ -6,8 +6,8 @@
 //     // At the start of the application: the person sees an update, and nothing else.
 //     UpdateManager::CheckForUpdates(qApp, true, {}, {});
 //
-// Thread: the one that runs the event loop of the application object, a Pelnar::App::Application. Ownership: a manager
-// is a child of the given parent and deletes itself when its check is over; the host deletes none.
+// Thread: the thread that runs the event loop of the application object, a Pelnar::App::Application. Ownership: a
+// manager is a child of the given parent and deletes itself when its check is over. The host never deletes one.
 #pragma once
 
 #include "App/UpdateChecker/IUpdateManager.h"
@@ -34,36 +34,41 @@ class PELNAR_EXPORT UpdateManager : public QObject, public virtual IUpdateManage
     Q_INTERFACES(Pelnar::App::IUpdateManager)
 
 public:
-    /// What a check is started with.
+    /// The inputs of a check.
     struct PELNAR_EXPORT Initializer
     {
-        /// Everything but the parent at its default.
+        /// Everything except the parent has its default value.
         explicit Initializer(QObject* parentOfManager);
 
         QObject* parent; ///< Qt parent of the manager; may be null
         UpdateCheckMode checkMode = UpdateCheckMode::UserInitiated;
-        std::function<QWidget*()> parentWidgetGetter;        ///< parent of the update dialog; empty: the host's choice
-        QList<IUpdateManagerObserver*> observers;            ///< registered before the check starts; nulls are skipped
-        std::shared_ptr<ExternalStimulus::IGateway> gateway; ///< where the dialog is proposed; a DirectCallGateway
+        std::function<QWidget*()> parentWidgetGetter;        ///< parent of the update dialog; empty: the host chooses
+        QList<IUpdateManagerObserver*> observers;            ///< registered before the check starts; null entries are
+                                                             ///< skipped
+        std::shared_ptr<ExternalStimulus::IGateway> gateway; ///< where the dialog is proposed; by default a
+                                                             ///< DirectCallGateway
     };
 
-    // The entry points. While a manager lives each of them returns at once and does nothing. What the start of a check
-    // throws leaves here: std::logic_error when the host has no links or no customization service, and what the host
-    // throws itself. The manager is freed then, and further checks are dropped for the rest of the process. Where the
-    // application object is no Pelnar::App::Application, each call throws std::logic_error and no manager is made.
+    // The entry points. While a manager exists, each returns immediately and does nothing. An exception at the start of
+    // a check propagates to the caller: std::logic_error if the host has no links service or no customization service,
+    // and any exception of the host itself. Then the manager is freed, and further checks are ignored for the rest of
+    // the process. If the application object is not a Pelnar::App::Application, each call throws std::logic_error and
+    // creates no manager.
 
-    /// A check started by the user, or, when \a automatic, by the application; the dialog is run at once.
+    /// Starts a check that the user requested, or, if \a automatic is true, the application. The dialog runs
+    /// immediately.
     static void CheckForUpdates(QObject* parent, bool automatic, std::function<QWidget*()> parentWidgetGetter,
                                 QList<IUpdateManagerObserver*> const& observers);
-    /// The same, with the dialog proposed to \a gateway, which must not be null.
+    /// The same, but the dialog is proposed to \a gateway, which must not be null.
     static void CheckForUpdates(std::shared_ptr<ExternalStimulus::IGateway> const& gateway, QObject* parent,
                                 bool automatic, std::function<QWidget*()> parentWidgetGetter,
                                 QList<IUpdateManagerObserver*> const& observers);
-    /// A check with everything the caller filled in; the only way to a silent one.
+    /// Starts a check with all inputs from the caller. Only this overload can start a silent check.
     static void CheckForUpdates(Initializer const& initializer);
 
-    /// The live manager, or null. It is set before the host is first called. REQUIRES: no check has failed to start in
-    /// this process; after one the answer points to the manager that was freed, and stays what it is.
+    /// The existing manager, or null. It is set before the first call to the host. REQUIRES: every check in this
+    /// process could start. After a check that could not start, the result is a dangling pointer to the freed manager,
+    /// for the rest of the process.
     static IUpdateManager* GetCurrentUpdateManager();
 
     void RegisterObserver(IUpdateManagerObserver* observer) override;
@@ -75,7 +80,7 @@ private:
 
     explicit UpdateManager(Initializer const& initializer);
     ~UpdateManager() override;
-    /// Takes the host's services and starts the check. The host may destroy this object meanwhile.
+    /// Takes the host's services and starts the check. The host may destroy this object during the call.
     void Start(QList<IUpdateManagerObserver*> const& firstObservers);
 
     class PELNAR_PRIVATE Impl;

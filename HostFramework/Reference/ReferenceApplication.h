@@ -7,11 +7,11 @@
 //          std::make_shared<Pelnar::App::ReferenceCustomizationManager>(Pelnar::App::ReadCustomization(settings)),
 //          std::make_shared<Pelnar::App::ReferenceLinksManager>(Pelnar::App::ReadLinks(settings))});
 //
-// Thread: the Qt main thread. Ownership: made by the host's main function; shares the services with those who ask for
-// them and drops its part before QApplication goes, so that services may own windows.
+// Thread: the Qt main thread. Ownership: the host's main function creates it. It shares the services with their users
+// and releases its share before QApplication is destroyed, so that services may own windows.
 //
-// A host family with a framework of its own derives from App::Application in the same way: hand out the three services
-// and answer TryToQuit. Nothing else of this folder is then needed.
+// A host family with its own framework derives from App::Application in the same way: it returns the three services and
+// implements TryToQuit. It needs nothing else of this folder.
 #pragma once
 
 #include "HostFramework/Application.h"
@@ -19,10 +19,10 @@
 namespace Pelnar::App
 {
 
-/// What a host lends to the updater.
+/// The services that a host lends to the updater.
 struct ReferenceServices
 {
-    std::shared_ptr<NagScreen::Manager> nagScreenManager; ///< null: one without content
+    std::shared_ptr<NagScreen::Manager> nagScreenManager; ///< null: nag screens without content
     std::shared_ptr<ICustomizationManager> customizationManager;
     std::shared_ptr<ILinksManager> linksManager;
 };
@@ -32,22 +32,23 @@ class PELNAR_EXPORT ReferenceApplication : public Application
     Q_OBJECT
 
 public:
-    /// Without services: those that own widgets can only be made once this object lives.
+    /// Starts without services: services with widgets can be created only after this object.
     ReferenceApplication(int& argc, char** argv);
     ~ReferenceApplication() override;
 
-    /// Replaces all three services. Call it before the first check; a check that runs keeps those it was started with.
+    /// Replaces all three services. Call it before the first check; a running check keeps its services.
     void SetServices(ReferenceServices const& services);
 
-    /// Never null: a host without nag screens has none available.
+    /// Never null. If the host sets none, it returns nag screens without content.
     std::shared_ptr<NagScreen::Manager> GetNagScreenManager() const override;
-    /// Both throw std::logic_error when the host has not given the service to SetServices.
+    /// Both throw std::logic_error if SetServices did not get the service.
     std::shared_ptr<ICustomizationManager> GetCustomizationManager() const override;
     std::shared_ptr<ILinksManager> GetLinksManager() const override;
 
-    /// Sends a close event to every visible top-level window, modal ones first. When all accept, the event loops are
-    /// left and the answer is true. At the first refusal nothing quits and the answer is false; windows that were asked
-    /// before it stay as they are (a dialog counts as rejected). Also false while an earlier call is still asking.
+    /// Sends a close event to every visible top-level window, modal ones first. If all accept, it leaves the event
+    /// loops and returns true. At the first refusal it stops and returns false, and the application does not quit;
+    /// windows that were asked earlier keep their new state (a dialog counts as rejected). It also returns false while
+    /// an earlier call is still asking.
     bool TryToQuit() override;
 
 private:

@@ -1,10 +1,10 @@
-// ReferenceCustomizationManager.h: the customization service of the reference host framework, over a plain record that
-// a host fills itself or reads from a settings file.
+// ReferenceCustomizationManager.h: the customization service of the reference host framework. It returns the values of
+// a record that a host fills itself or reads from a settings file.
 //
 //     Pelnar::App::Customization const record{"Notes", Pelnar::Core::Version(5, 9), "Pelnar", "Notes"};
 //     auto const names = std::make_shared<Pelnar::App::ReferenceCustomizationManager>(record);
 //
-// Thread: the Qt main thread. Ownership: holds its own copy of the record.
+// Thread: the Qt main thread. Ownership: it holds its own copy of the record.
 #pragma once
 
 #include "HostFramework/ICustomizationManager.h"
@@ -25,9 +25,9 @@ struct Customization
 };
 
 /// Reads the record from the section [Application] of an ini file in UTF-8 with the keys DisplayName, Version,
-/// BundleNameFirstPart and BundleNameSecondPart. Text that holds a comma, a semicolon or a backslash stands in double
-/// quotes. Throws std::runtime_error, whose text names the file and the key, when the file cannot be read, a key is
-/// missing or empty, or Version is not a version.
+/// BundleNameFirstPart and BundleNameSecondPart. Put text with a comma, a semicolon or a backslash in double quotes.
+/// Throws std::runtime_error if the file cannot be read, a key is missing or empty, or Version is not a version. The
+/// error's text names the file and the key.
 PELNAR_EXPORT Customization ReadCustomization(QString const& iniPath);
 
 class PELNAR_EXPORT ReferenceCustomizationManager : public ICustomizationManager

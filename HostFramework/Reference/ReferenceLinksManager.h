@@ -1,11 +1,11 @@
-// ReferenceLinksManager.h: the links service of the reference host framework, over a plain table that a host fills
-// itself or reads from a settings file.
+// ReferenceLinksManager.h: the links service of the reference host framework. It returns the values of a table that a
+// host fills itself or reads from a settings file.
 //
 //     Pelnar::App::Links const table{
 //         {Pelnar::URLKeys::SPARKLE_APPCAST_URL, QStringLiteral("https://updates.example.com/appcast.xml")}};
 //     auto const links = std::make_shared<Pelnar::App::ReferenceLinksManager>(table);
 //
-// Thread: the Qt main thread. Ownership: holds its own copy of the table.
+// Thread: the Qt main thread. Ownership: it holds its own copy of the table.
 #pragma once
 
 #include "HostFramework/ILinksManager.h"
@@ -17,9 +17,9 @@ namespace Pelnar::App
 
 using Links = std::map<URLKeys, QString>;
 
-/// Reads the table from the section [Links] of an ini file in UTF-8, whose keys are the names of the link keys
-/// (SPARKLE_APPCAST_URL="https://…"); unknown names are left out. An address that holds a comma, a semicolon or a
-/// backslash stands in double quotes. Throws std::runtime_error, whose text names the file, when it cannot be read.
+/// Reads the table from the section [Links] of an ini file in UTF-8. The keys of the section are the names of the link
+/// keys (SPARKLE_APPCAST_URL="https://…"); unknown names are ignored. Put an address with a comma, a semicolon or a
+/// backslash in double quotes. Throws std::runtime_error if the file cannot be read; the error's text names the file.
 PELNAR_EXPORT Links ReadLinks(QString const& iniPath);
 
 class PELNAR_EXPORT ReferenceLinksManager : public ILinksManager

@@ -1,5 +1,5 @@
-// ReferenceNagScreenManager.h: the nag screens of the reference host framework: content that the host gives, at once or
-// later, and a window for each name. A name of which the host has said nothing has no nag screen.
+// ReferenceNagScreenManager.h: the nag screens of the reference host framework. The host sets the content, immediately
+// or later, and each name has a window. A name that the host has not set has no nag screen.
 //
 //     using Pelnar::App::NagScreen::ReferenceManager;
 //     auto const nagScreens = std::make_shared<ReferenceManager>();
@@ -9,7 +9,8 @@
 //     QObject::connect(nagScreens.get(), &ReferenceManager::LinkRequested,
 //                      [](QString const&, QUrl const& link) { QDesktopServices::openUrl(link); });
 //
-// Thread: the Qt main thread. Ownership: owns the windows that it shows; they go when they are closed or with it.
+// Thread: the Qt main thread. Ownership: it owns its windows. A window is destroyed when it is closed or with this
+// object.
 #pragma once
 
 #include "HostFramework/NagScreenManager.h"
@@ -25,12 +26,12 @@ QT_END_NAMESPACE
 namespace Pelnar::App::NagScreen
 {
 
-/// What a nag screen says. All text is shown as plain text.
+/// The content of a nag screen. All text is shown as plain text.
 struct Content
 {
     QString title;
     QString text;
-    QString actionText; ///< on the button that follows the link; no such button when empty
+    QString actionText; ///< text of the button that follows the link; if empty, there is no such button
     QUrl link;
 };
 
@@ -42,25 +43,24 @@ public:
     explicit ReferenceManager(QObject* parent = nullptr);
     ~ReferenceManager() override;
 
-    /// Says that the content of \a name is being loaded: the name is CONTENT_UNKNOWN until SetContent or SetUnavailable
-    /// follows. A major update that is found meanwhile waits, and so does every further check: call SetUnavailable when
-    /// loading fails. A name that has content keeps it.
+    /// Says that the content of \a name is being loaded. The name is CONTENT_UNKNOWN until SetContent or SetUnavailable
+    /// is called. A major update that is found meanwhile waits, and so does every further check: call SetUnavailable if
+    /// loading fails. A name with content keeps it.
     void ExpectContent(QString const& name);
-    /// Gives \a name its content, or takes it away. NagAvailable is emitted when this ends CONTENT_UNKNOWN.
+    /// Sets or removes the content of \a name. Emits NagAvailable if this ends CONTENT_UNKNOWN.
     void SetContent(QString const& name, Content const& content);
     void SetUnavailable(QString const& name);
 
     int GetContentState(QString const& name) const override;
 
-    /// Opens the window of \a name, or brings it to the front when it is open already. Does nothing but write a warning
-    /// when there is no content.
+    /// Opens the window of \a name, or brings an open window to the front. Without content it only writes a warning.
     void Show(QString const& name) override;
 
     /// The open window of \a name, or null. Its object name is "NagScreen_" + name.
     QWidget* Window(QString const& name) const;
 
 Q_SIGNALS:
-    /// The user wants to follow the link of \a name; the window is closing. The host opens it.
+    /// The user wants to follow the link of \a name; the window closes. The host opens the link.
     void LinkRequested(QString const& name, QUrl const& link);
 
 private:

@@ -1,11 +1,11 @@
-// ReferenceOSVersion.h: where the reference framework's OSVersion takes its answer from, and how a host replaces it.
+// ReferenceOSVersion.h: the source of the reference framework's OSVersion, and how a host overrides it.
 //
 //     Pelnar::Util::SetOSVersion(QStringLiteral("12.4")); // of the system outside, where the host runs in a container
 //
-// Thread: the Qt main thread. Ownership: the override is kept for the life of the process.
+// Thread: the Qt main thread. Ownership: the override is kept until the process ends.
 //
-// macOS: the system's own version, with its patch number. Linux: VERSION_ID of the first os-release file that exists; a
-// system without one (a rolling release) has an empty version, with which the updater ignores the system bounds of feed
+// macOS: the system's own version with its patch number. Linux: VERSION_ID of the first os-release file that exists. A
+// system without one (a rolling release) has an empty version, and the updater then ignores the system bounds of feed
 // items.
 #pragma once
 
@@ -19,18 +19,18 @@
 namespace Pelnar::Util
 {
 
-/// Makes OSVersion answer \a version from now on; a null string gives the system's own answer back. Call it before the
-/// first check: the updater asks once in a process.
+/// Makes OSVersion return \a version. A null string restores the system's own version. Call it before the first check:
+/// the updater asks once per process.
 PELNAR_EXPORT void SetOSVersion(QString const& version);
 
-/// The major, the minor and the patch number, with "." between them. Bounds of feed items name the patch number too.
+/// The major, minor and patch numbers, separated by ".". Bounds of feed items include the patch number too.
 PELNAR_EXPORT QString AllComponentsOf(QOperatingSystemVersion const& version);
 
-/// The value of VERSION_ID in \a osRelease, the content of an os-release file: quotes and escapes resolved, the last
-/// assignment wins; empty when there is none.
+/// The value of VERSION_ID in \a osRelease, the content of an os-release file. Quotes and escapes are resolved, and the
+/// last assignment counts. Empty if there is none.
 PELNAR_EXPORT QString VersionIdOf(QByteArray const& osRelease);
 
-/// VersionIdOf the first of \a paths that can be read; empty when none can.
+/// VersionIdOf the first of \a paths that can be read; empty if none can be read.
 PELNAR_EXPORT QString VersionIdFromFiles(QStringList const& paths);
 
 } // namespace Pelnar::Util

@@ -1,11 +1,11 @@
-// FeedAge.h: for how long an application has been getting the same update feed.
+// FeedAge.h: for how many days the application has received the same update feed.
 //
 //     if (Pelnar::UnchangedFeedDays() > 90)
 //     {
 //         qWarning("We publish every month: the update server sends an old feed.");
 //     }
 //
-// Thread: the Qt main thread. Ownership: none.
+// Thread: the Qt main thread.
 #pragma once
 
 namespace Pelnar
@@ -14,18 +14,18 @@ namespace Pelnar
 #ifdef __APPLE__
 inline int UnchangedFeedDays()
 {
-    return 0; // not counted there
+    return 0; // not counted on this system
 }
 #else
-/// The number of whole days between the first and the last check that were answered with the very bytes of the last
-/// feed; 0 as long as there was none. A check that fails counts for nothing.
+/// Returns the number of whole days between the first and the last check that received exactly the bytes of the last
+/// feed. Returns 0 if there was no feed yet. A failed check does not count.
 ///
-/// Anyone who stands between an application and its server can keep answering with an old feed, so that the application
-/// never hears of an update. A feed that must be signed says when it expires, and is refused then. Any other feed only
-/// grows old: from 180 days on every check logs a warning, and a host that publishes often may ask here, after a check,
-/// and tell a person to look at the publisher's page. Nothing else happens.
+/// An attacker between an application and its server can keep sending an old feed, so that the application never learns
+/// of an update. A feed that must be signed has an expiry date and is refused after it. Any other feed only becomes
+/// older. After 180 days every check logs a warning. A host that publishes often can call this after a check and ask
+/// the person to look at the publisher's page. The number has no other effect.
 ///
-/// Read from the user defaults; what cannot be read there counts as no feed. Throws nothing.
+/// The number comes from the user defaults. If they cannot be read, it is 0. Throws nothing.
 __attribute__((visibility("default"))) int UnchangedFeedDays();
 #endif
 

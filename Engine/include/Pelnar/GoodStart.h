@@ -1,9 +1,9 @@
-// GoodStart.h: an application's word that the version that runs has started well.
+// GoodStart.h: an application confirms that its running version has started well.
 //
 //     // The main window is shown, and documents can be opened.
 //     QTimer::singleShot(0, qApp, [] { Pelnar::ConfirmGoodStart(); });
 //
-// Thread: the Qt main thread. Ownership: none.
+// Thread: the Qt main thread.
 #pragma once
 
 namespace Pelnar
@@ -12,17 +12,18 @@ namespace Pelnar
 #ifdef __APPLE__
 inline void ConfirmGoodStart() {} // versions are not taken back there
 #else
-/// Says that the running version has started well: the version that an update has replaced is not needed any more and
-/// is removed, in the background. To be called once at every start, when the application is of use: its window is shown
-/// and its documents can be opened. More calls, and calls where there was no update, do nothing.
+/// Confirms that the running version has started well. The previous version is then no longer needed and is removed in
+/// the background. Call this once at every start, when the application is usable: its window is shown and its documents
+/// can be opened. More calls, and calls without an update, do nothing.
 ///
-/// It matters to bundles whose information file says PelnarConfirmsGoodStart = YES. After an update of such a bundle,
-/// each start that ends without this call is counted, and the third one puts the previous version back, as does the
-/// helper that has restarted the application when that ends at once twice. The version that was taken back is offered
-/// again only to a person who asks. Without the entry a version is kept once it has started, and nobody has to call.
+/// It matters for bundles whose information file says PelnarConfirmsGoodStart = YES. After an update of such a bundle,
+/// each start that ends without this call is counted, and the third one restores the previous version. The helper that
+/// has restarted the application also restores it if the application ends immediately twice. The rolled-back version is
+/// offered again only to a person who asks. Without the key, a version is kept once it has started, and no call is
+/// needed.
 ///
-/// REQUIRES: Qt's application object; without one an error is logged and nothing else happens. Returns at once; what
-/// fails is logged and tried again at the next start. Throws nothing.
+/// REQUIRES: Qt's application object. Without one, an error is logged and nothing else happens. Returns immediately. A
+/// failure is logged and tried again at the next start. Throws nothing.
 __attribute__((visibility("default"))) void ConfirmGoodStart();
 #endif
 

@@ -1,6 +1,6 @@
-// RelaunchArguments.h: the arguments that the next version of an application is started with.
-// An application that opens its documents by its command line comes back after an update with the document that was
-// open. Say so while the application quits, when it is known what is open:
+// RelaunchArguments.h: the arguments for the next version's start. An application that opens its documents by its
+// command line can reopen the same document after an update. Set the arguments while the application quits, when the
+// open documents are known:
 //
 //     bool Host::TryToQuit()
 //     {
@@ -25,21 +25,21 @@ namespace Pelnar
 #ifdef __APPLE__
 [[nodiscard]] inline bool SetRelaunchArguments(std::vector<std::string> const&)
 {
-    return false; // programs are started without arguments there
+    return false; // programs start without arguments on this system
 }
 #else
-/// After the update that is under way, or the next one, the new version is started with \a arguments behind its name.
-/// They are bytes: paths as the file system has them, in UTF-8 or not, empty ones, and ones that begin with a dash. The
-/// helper that installs the update does not look at them. Working folder, umask and environment of the new version are
-/// those that this process has when the person or the application agrees to the relaunch.
+/// Sets \a arguments for the new version's start after the current or the next update. They follow the program's name.
+/// They are bytes: paths as the file system has them, in UTF-8 or not; empty arguments and arguments that begin with a
+/// dash are allowed. The helper that installs the update does not interpret them. The new version gets the working
+/// folder, umask and environment that this process has when the person or the application agrees to the relaunch.
 ///
-/// What is said last before this process ends counts; an empty list takes back what was said before. The arguments are
-/// forgotten when an update ends without being installed: it was put off or cancelled, or it failed. They are not given
-/// to the previous version, which is started again when the new one cannot be installed or does not start well, and to
-/// nobody when the update is installed on quit without a relaunch. An application that simply ends forgets them.
+/// The last call before this process ends counts. An empty list removes earlier arguments. The arguments are discarded
+/// if an update ends without installation: postponed, cancelled or failed. The previous version, which starts again if
+/// the new one cannot be installed or does not start well, does not get them. If the update is installed on quit
+/// without a relaunch, no program gets them. An application that just ends discards them.
 ///
-/// False, with an error in the log, when the arguments cannot be given to a program: they are more than 1024, longer
-/// than 64 KiB with one byte more for each, or one holds a NUL; what was said before stays then. Throws nothing but
+/// Returns false and logs an error if a program cannot get the arguments: there are more than 1024, they are longer
+/// than 64 KiB with one additional byte for each, or one contains a NUL. The earlier arguments then stay. Throws only
 /// std::bad_alloc.
 [[nodiscard]] __attribute__((visibility("default"))) bool
 SetRelaunchArguments(std::vector<std::string> const& arguments);

@@ -1,7 +1,6 @@
-// SUErrors.h: the domain and codes of every error that the engine reports.
-// The error's localizedDescription is one sentence that says what happened and what to do, in the language of the engine's
-// windows; its description is the same in English, for logs. NSUnderlyingErrorKey holds the cause, with a domain of its
-// own, where there is one.
+// SUErrors.h: the domain and codes of every error that the engine reports. The error's localizedDescription says what
+// happened and what to do, in the language of the engine's windows. Its description is the same text in English, for
+// logs. NSUnderlyingErrorKey holds the cause, with its own domain, if there is one.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,4 +1,4 @@
-// SUStandardVersionComparator.h: the engine's own order of version texts, used when the delegate gives no comparator.
+// SUStandardVersionComparator.h: the engine's own order of version texts, used if the delegate has no comparator.
 // Thread: any. Ownership: the shared comparator lives as long as the process.
 #pragma once
 
@@ -12,8 +12,8 @@ SU_EXPORT
 
 + (SUStandardVersionComparator*)defaultComparator;
 
-/// Runs of digits compare as numbers of any length, runs of letters as text; a run of letters after equal parts makes a
-/// version older (a pre-release), a run of digits newer; points, blanks and hyphens separate.
+/// Runs of digits compare as numbers of any length, runs of letters as text. After equal parts, a run of letters makes
+/// a version older (a pre-release) and a run of digits makes it newer. Points, blanks and hyphens are separators.
 - (NSComparisonResult)compareVersion:(NSString*)versionA toVersion:(NSString*)versionB;
 
 @end

@@ -1,6 +1,5 @@
-// SUUpdater.h: the engine's front: one updater for the running bundle.
-// Thread: main, with Qt's event loop running. Ownership: the shared updater lives as long as the process; it does not
-// retain its delegate.
+// SUUpdater.h: the engine's main class: one updater for the running bundle. Thread: main, with Qt's event loop running.
+// Ownership: the shared updater lives as long as the process; it does not retain its delegate.
 #pragma once
 
 #import <Foundation/Foundation.h>
@@ -23,36 +22,37 @@ SU_EXPORT
     std::shared_ptr<Pelnar::Engine::Updater> m_updater;
 }
 
-/// The updater of the main bundle, the same object at every call.
+/// The updater of the main bundle; every call returns the same object.
 + (SUUpdater*)sharedUpdater;
 
 /// Not retained; nil to detach.
 @property (nonatomic, assign) id<SUUpdaterDelegate> delegate;
 
-/// The feed's address. When it has not been set: the main bundle's "SUFeedURL" (user default before information
+/// The feed's address. If it is not set, the main bundle's "SUFeedURL" counts (user default before information
 /// dictionary).
 @property (nonatomic, copy) NSURL* feedURL;
 
-/// Kept for the interface's sake: the engine starts no check by itself.
+/// Exists only for the interface: the engine starts no check by itself.
 @property (nonatomic, assign) BOOL automaticallyChecksForUpdates;
-/// Kept for the interface's sake: the engine sends no profile, no matter what the value is.
+/// Exists only for the interface: the engine sends no profile, with any value.
 @property (nonatomic, assign) BOOL sendsSystemProfile;
-/// The user default "SUAutomaticallyUpdate", else the information dictionary's, else NO. Setting it writes the default.
+/// The user default "SUAutomaticallyUpdate", else the information dictionary's value, else NO. The setter writes the
+/// user default.
 @property (nonatomic, assign) BOOL automaticallyDownloadsUpdates;
 
-/// YES from the start of a check until its last callback has returned to the event loop at the latest, so that a check
-/// started by a timer posted in that callback is accepted; YES too while a download, an extraction or a prepared
-/// installation is alive.
+/// YES from the start of a check. It is NO at the latest when the check's last callback has returned to the event loop,
+/// so that a timer posted in that callback can start another check. It is also YES during a download, an extraction or
+/// a prepared installation.
 @property (nonatomic, readonly) BOOL updateInProgress;
 
-/// The three checks. Each returns at once and answers through the delegate later; one that is started while another
+/// The three checks. Each returns immediately; the delegate gets the result later. A check that starts while another
 /// runs is ignored, with a log line.
 
-/// A probe: fetches the feed and reports; shows nothing and downloads nothing.
+/// A probe: fetches the feed and reports the result. It shows nothing and downloads nothing.
 - (void)checkForUpdateInformation;
-/// A check that the user did not ask for: nothing is shown unless an update is found.
+/// A check that the user did not request: it shows something only if it finds an update.
 - (void)checkForUpdatesInBackground;
-/// A check that the user asked for, with the engine's windows. \a sender is ignored.
+/// A check that the user requested, with the engine's windows. \a sender is ignored.
 - (void)checkForUpdates:(id)sender;
 
 @end

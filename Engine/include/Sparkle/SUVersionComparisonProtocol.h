@@ -1,12 +1,12 @@
-// SUVersionComparisonProtocol.h: orders the version texts of feed items.
-// Thread: main. Ownership: the delegate owns the comparator that it hands out.
+// SUVersionComparisonProtocol.h: orders the version texts of feed items. Thread: main. Ownership: the delegate owns its
+// comparator.
 #pragma once
 
 #import <Foundation/Foundation.h>
 
 @protocol SUVersionComparison <NSObject>
 
-/// NSOrderedAscending when \a versionA is older than \a versionB, NSOrderedDescending when it is newer.
+/// Returns NSOrderedAscending if \a versionA is older than \a versionB, NSOrderedDescending if it is newer.
 - (NSComparisonResult)compareVersion:(NSString*)versionA toVersion:(NSString*)versionB;
 
 @end

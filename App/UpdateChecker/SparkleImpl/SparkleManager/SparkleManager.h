@@ -1,6 +1,6 @@
-// SparkleManager.h: the process-wide session that lends the one updater of the framework to one check at a time.
-// Thread: the Qt main thread. Ownership: a singleton, made at first use, destroyed at process exit; it shares the
-// context of the updater that last took its lock.
+// SparkleManager.h: the session of the process. It lends the framework's only updater to one check at a time. Thread:
+// the Qt main thread. Ownership: a singleton, created at first use and destroyed at process exit. It shares the context
+// of the updater that last took its lock.
 #pragma once
 
 #include "common/Export.h"
@@ -19,23 +19,23 @@ class PELNAR_EXPORT SparkleManager
 public:
     static SparkleManager& GetInstance();
 
-    /// True when the caller now holds the session, which uses \a context from here on. False, logged, when another
-    /// updater holds it, the framework is still busy, or it raises an exception when it is asked or given the feed's
-    /// address. Nothing changes then, nor when an exception leaves here.
+    /// Returns true if the caller now holds the session. The session then uses \a context. Returns false and logs the
+    /// reason if another updater holds the session, if the framework is still busy, or if the framework raises an
+    /// exception when it is queried or gets the feed's address. Nothing changes if this returns false or throws.
     [[nodiscard]] bool LockUpdater(SharedNotNullPtr<SparkleUpdateContext> const& context);
-    /// Gives the session back: at once when it is idle, else when the running request ends.
-    /// REQUIRES: LockUpdater answered true.
+    /// Releases the session: immediately if it is idle, otherwise when the running request ends. REQUIRES: LockUpdater
+    /// returned true.
     void UnlockUpdaterWhenPossible();
 
-    // The commands. REQUIRES for each: the caller holds the session. None of them tests this.
+    // The commands. REQUIRES for each: the caller holds the session. No command checks this.
 
-    /// Starts an information-only check; the outcome comes through the context's checkFinishedCallback.
+    /// Starts an information-only check. The context's checkFinishedCallback reports the result.
     void CheckForUpdates();
-    /// Starts the framework's own check with its windows; for a context in background, a background check.
+    /// Starts the framework's own check with its windows. For a context in the background it starts a background check.
     void ShowUpdateDialog();
-    /// Closes the dialog that the session is showing, if any, as if the user had dismissed it.
+    /// Closes the dialog of the session, as if the user had dismissed it. Without a dialog it does nothing.
     void RejectUpdateAndHideDialog();
-    /// The framework's setting for downloading found updates without asking.
+    /// The framework's setting for downloading found updates without a question.
     bool AutomaticallyDownloadsUpdates() const;
     void SetAutomaticallyDownloadsUpdates(bool enabled);
 

@@ -1,5 +1,6 @@
-// UpdaterSparkle.h: the back end over the session: takes its lock, checks, shows the dialog, gives it back.
-// Thread: the Qt main thread. Ownership: owned by the flow controller; shares its context with the session.
+// UpdaterSparkle.h: the back end that uses the session: it takes the session's lock, checks, shows the dialog and
+// releases the lock. Thread: the Qt main thread. Ownership: the flow controller owns it; it shares its context with the
+// session.
 #pragma once
 
 #include "App/UpdateChecker/AbstractUpdaterImpl.h"
@@ -18,14 +19,13 @@ class PELNAR_EXPORT UpdaterSparkle : public AbstractUpdaterImpl
     Q_OBJECT
 
 public:
-    /// Asks the session for its lock; a refusal is no error, the operations then answer without the session. A session
-    /// that has to be loaded first is asked when it is, and a check waits for that; one that cannot be loaded counts as
-    /// a check that fails.
-    /// \a inBackground is true for a check that the user did not ask for. Throws std::logic_error when \a customization
-    /// is null.
+    /// Requests the session's lock. A refusal is not an error: the operations then work without the session. If the
+    /// session's library must be loaded first, the lock is requested after loading, and a check waits for that. If the
+    /// library cannot be loaded, the check fails. \a inBackground is true for a check that the user did not request.
+    /// Throws std::logic_error if \a customization is null.
     UpdaterSparkle(std::shared_ptr<ICustomizationManager> const& customization,
                    NotNull<std::shared_ptr<ILinksManager>> const& links, bool inBackground);
-    /// Gives the session back, if this object holds it, and makes its context's callback inert.
+    /// Releases the session if this object holds it, and disables its context's callback.
     ~UpdaterSparkle() override;
 
     void CheckForUpdates() override;

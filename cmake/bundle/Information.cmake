@@ -36,7 +36,7 @@ function(pelnar_property_list_text value result)
     set(${result} "\"${value}\"" PARENT_SCOPE)
 endfunction()
 
-# The key's text, from the file that `pelnar-appcast keys public` writes or from the entry that `keys generate` prints.
+# The key's text, from a file with what `pelnar-appcast keys show` prints or from the entry that `keys generate` prints.
 function(pelnar_read_public_key result)
     set(key "${BUNDLE_PUBLIC_KEY}")
     if(key STREQUAL "" AND NOT BUNDLE_PUBLIC_KEY_FILE STREQUAL "")

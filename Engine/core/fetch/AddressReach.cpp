@@ -23,7 +23,7 @@ constexpr std::array IPV4_SUBNETS = {
     Subnet{0x00000000, 8, AddressReach::ThisComputer}, // 0.0.0.0/8: connecting to 0.0.0.0 reaches this computer
     Subnet{0x7f000000, 8, AddressReach::ThisComputer}, // 127.0.0.0/8
     Subnet{0xa9fe0000, 16, AddressReach::Link},        // 169.254.0.0/16
-    Subnet{0xe0000000, 4, AddressReach::Link},         // 224.0.0.0/4: many receivers, never a server
+    Subnet{0xe0000000, 4, AddressReach::Link},         // 224.0.0.0/4: multicast, never a server
     Subnet{0xffffffff, 32, AddressReach::Link},
 };
 
@@ -46,7 +46,7 @@ bool Has(Q_IPV6ADDR const& address, int position, std::initializer_list<quint8> 
     return std::all_of(bytes.begin(), bytes.end(), [&](quint8 byte) { return address[position++] == byte; });
 }
 
-/// The IPv4 address that \a address stands for: mapped, compatible, translated or tunnelled.
+/// The IPv4 address that \a address contains: mapped, compatible, translated or tunnelled.
 std::optional<quint32> EmbeddedIPv4(Q_IPV6ADDR const& address)
 {
     bool const isMapped = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff});
@@ -62,7 +62,7 @@ std::optional<quint32> EmbeddedIPv4(Q_IPV6ADDR const& address)
     bool const isThroughTranslators = Has(address, 0, {0x20, 0x01, 0, 0});
     if (isThroughTranslators)
     {
-        return ~IPv4At(address, 12); // hidden from those that rewrite what looks like an address
+        return ~IPv4At(address, 12); // stored inverted, because some routers rewrite visible addresses
     }
     return Has(address, 0, {0x20, 0x02}) ? std::optional(IPv4At(address, 2)) : std::nullopt;
 }
@@ -94,7 +94,7 @@ bool IsOfAnInterface(QHostAddress const& address)
     std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> const owned(all, &freeifaddrs);
     for (ifaddrs const* entry = all; entry; entry = entry->ifa_next)
     {
-        // Mapped addresses equal the IPv4 ones that they stand for.
+        // Mapped addresses equal their IPv4 addresses.
         if (entry->ifa_addr && QHostAddress(entry->ifa_addr).isEqual(address, QHostAddress::ConvertV4MappedToIPv4))
         {
             return true;

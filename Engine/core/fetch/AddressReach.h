@@ -1,6 +1,6 @@
-// AddressReach.h: how near an address lies. A feed from the network must not make this computer talk to itself or to
-// its own link, under any name or notation: so the address that a connection is made to is judged, not its name.
-// Thread: any; no state. Ownership: values only.
+// AddressReach.h: how near an address is. A feed from the network must not make this computer connect to itself or to
+// its own link, under any name or notation. So the address of the connection is judged, not its name. Any thread; no
+// state.
 #pragma once
 
 #include <QHostAddress>
@@ -9,19 +9,19 @@
 namespace Pelnar::Engine
 {
 
-/// From far to near: what came from one place may lead to places that are as far or farther.
+/// From far to near: content from one place may lead to places at the same distance or farther.
 enum class AddressReach
 {
     Network,
-    Link,         ///< this computer's own link: no router passes it on
+    Link,         ///< this computer's own link, which no router forwards
     ThisComputer, ///< loopback, and every address of an interface of this computer
 };
 
-/// Of an address that a connection is made to. IPv4 addresses inside IPv6 ones count as what they are. The interfaces
-/// of this computer are asked.
+/// The reach of an address to connect to. IPv4 addresses inside IPv6 addresses count as IPv4 addresses. The function
+/// reads the interfaces of this computer.
 [[nodiscard]] AddressReach ReachOf(QHostAddress const& address);
 
-/// Of the host as \a url spells it, where that can be told without asking for its address; Network for other names.
+/// The reach of \a url's host, if its text alone shows it; Network for other names. It resolves no name.
 [[nodiscard]] AddressReach ReachOf(QUrl const& url);
 
 } // namespace Pelnar::Engine

@@ -18,10 +18,10 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Long enough for the second fetch of a check, short enough that no server minds.
+/// Long enough for the second fetch of a check, short enough for every server.
 constexpr std::chrono::seconds IDLE_TIME{30};
 constexpr long MOST_IDLE_CONNECTIONS = 4;
-/// So long may bytes be taken before the event loop has its turn again.
+/// Bytes may be read for this long before the event loop has its turn again.
 constexpr qint64 TURN_MS = 2;
 
 } // namespace
@@ -32,7 +32,7 @@ CurlLoop& CurlLoop::OfApplication()
     if (!loop)
     {
         static CURLcode const hasBegun = curl_global_init(CURL_GLOBAL_DEFAULT);
-        static_cast<void>(hasBegun); // what it could not do, each transfer will say
+        static_cast<void>(hasBegun); // each transfer reports what this could not do
         loop = new CurlLoop(QCoreApplication::instance());
     }
     return *loop;
@@ -61,7 +61,7 @@ void CurlLoop::AskSettings(QUrl const& url, QObject* receiver, std::function<voi
 {
     ConnectionSettings settings;
     std::optional<ProxyChoice> proxy;
-    // This computer is never asked for through another one.
+    // Requests to this computer never go through a proxy.
     if (ReachOf(url) == AddressReach::ThisComputer)
     {
         proxy = ProxyChoice();
@@ -197,7 +197,8 @@ int CurlLoop::SocketOf(CURL* transfer) const
 
 void CurlLoop::Drive(curl_socket_t socket, int events)
 {
-    // A call brings one record of a secure connection. While there are more, no turn of Qt's loop between two of them.
+    // A call brings one record of a secure connection. While there are more, Qt's loop gets no turn between two of
+    // them.
     QElapsedTimer clock;
     clock.start();
     do
@@ -219,7 +220,7 @@ void CurlLoop::TakeEnds()
             continue;
         }
         CURLcode const code = message->data.result;
-        CURL* const transfer = message->easy_handle; // the message goes with the removal
+        CURL* const transfer = message->easy_handle; // removal deletes the message
         std::function<void(CURLcode)> const done = m_running[transfer];
         Remove(transfer);
         QMetaObject::invokeMethod(
@@ -270,8 +271,8 @@ void CurlLoop::Unwatch(curl_socket_t socket)
     {
         if (notifier)
         {
-            notifier->setEnabled(false); // the number may stand for another socket soon
-            notifier->deleteLater();     // it may be the sender of this very call
+            notifier->setEnabled(false); // the number may belong to another socket soon
+            notifier->deleteLater();     // it may be the sender of this call
         }
     }
 }

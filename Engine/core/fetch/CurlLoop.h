@@ -1,6 +1,6 @@
-// CurlLoop.h: libcurl's transfers within Qt's event loop: sockets and timers wake it, nothing waits. Connections stay
-// open for a while, so that the next request to the same server needs no new one.
-// Thread: the application object's. Ownership: the application object owns the one loop; transfers are their makers'.
+// CurlLoop.h: runs libcurl's transfers in Qt's event loop. Sockets and timers wake it; nothing blocks. Connections stay
+// open for a while, so that the next request to the same server can reuse one. Thread: the application object's.
+// Ownership: the application object owns the only loop; the makers of transfers own them.
 #pragma once
 
 #include "Engine/core/fetch/ProxyChoice.h"
@@ -24,7 +24,7 @@ class QSocketNotifier;
 namespace Pelnar::Engine
 {
 
-/// What a connection needs to know of this computer.
+/// What a connection needs to know about this computer.
 struct ConnectionSettings
 {
     ProxyChoice proxy;
@@ -39,16 +39,17 @@ public:
     static CurlLoop& OfApplication();
     ~CurlLoop() override;
 
-    /// Calls \a ready with the settings for \a url: at once where they are at hand, else later, when \a receiver is
-    /// still there.
+    /// Calls \a ready with the settings for \a url: immediately if they are available, otherwise later, if \a receiver
+    /// still exists.
     void AskSettings(QUrl const& url, QObject* receiver, std::function<void(ConnectionSettings const&)> ready);
 
-    /// Runs \a transfer and calls \a done once, from the event loop. False when libcurl does not take it.
+    /// Runs \a transfer and calls \a done once, from the event loop. Returns false if libcurl does not accept the
+    /// transfer.
     [[nodiscard]] bool Add(CURL* transfer, std::function<void(CURLcode)> done);
-    /// Ends \a transfer if it still runs; its maker may destroy it afterwards. Not to be called by one of its
+    /// Ends \a transfer if it still runs. Its maker may destroy it afterwards. Not to be called by one of its
     /// callbacks.
     void Remove(CURL* transfer);
-    /// Called by a transfer's callback: bytes have come, and more may be there at once.
+    /// A transfer's callback calls this: bytes have arrived, and more may be available immediately.
     void NoteBytes() { m_hasBytes = true; }
     /// The socket that \a transfer uses, or -1.
     int SocketOf(CURL* transfer) const;
@@ -69,20 +70,20 @@ private:
     void Unwatch(curl_socket_t socket);
     QSocketNotifier* MakeNotifier(curl_socket_t socket, int type, int events);
     void SetTimer(long milliseconds);
-    /// Closes the connections that nobody has used for a while.
+    /// Closes the connections that have been idle for a while.
     void LetGo();
-    /// Forgets connections and authorities of a configuration that holds no longer.
+    /// Discards connections and authorities of an outdated configuration.
     void MindTrust(QSslConfiguration const& configuration);
 
     CURLM* m_multi = nullptr;
     std::map<CURL*, std::function<void(CURLcode)>> m_running;
     std::map<curl_socket_t, Socket> m_sockets;
-    std::optional<QSslConfiguration> m_trusted; ///< whose authorities m_trust has
+    std::optional<QSslConfiguration> m_trusted; ///< the configuration whose authorities m_trust has
     TrustStore m_trust;
     bool m_hasBytes = false;
     QTimer m_timer;
     QTimer m_idleTimer;
-    std::vector<std::future<void>> m_asking; ///< each waits for its end
+    std::vector<std::future<void>> m_asking; ///< destroying one waits for its end
 };
 
 } // namespace Pelnar::Engine

@@ -14,9 +14,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Read in one go before the event loop has its turn again.
+/// Read in one pass before the event loop has its turn again.
 constexpr long PASS_BYTES = 256 * 1024;
-/// Of OpenSSL: keys and signatures worth 112 bits.
+/// OpenSSL's level: keys and signatures of at least 112 bits of security.
 constexpr int LEAST_SECURITY_LEVEL = 2;
 constexpr char CIPHERS[] = "DEFAULT:!aNULL:!eNULL:!EXPORT:!LOW:!RC4:!3DES:!MD5";
 
@@ -30,7 +30,7 @@ QByteArray TargetOf(QUrl const& url)
     return url.hasQuery() ? target + '?' + url.query(QUrl::FullyEncoded).toLatin1() : target;
 }
 
-/// The name for a certificate: no final dot, no brackets, no zone.
+/// The name to compare with a certificate: no final dot, no brackets, no zone.
 QByteArray CertificateName(QUrl const& url)
 {
     QByteArray name = url.host(QUrl::FullyEncoded).toLatin1();
@@ -46,7 +46,7 @@ QByteArray CertificateName(QUrl const& url)
     return name;
 }
 
-/// Whether the server has ended a connection: shared by the connection and the request that asks.
+/// Whether the server has closed a secure connection. The connection and the request share it.
 using Goodbye = std::shared_ptr<bool>;
 
 int GoodbyeIndex()
@@ -57,8 +57,8 @@ int GoodbyeIndex()
     return index;
 }
 
-/// OpenSSL's own record of it does not outlive libcurl's closing of the connection, and nothing else may: libcurl frees
-/// then what the connection reads with.
+/// OpenSSL's own record does not outlive libcurl's close of the connection. Nothing else may outlive it either, because
+/// libcurl then frees what the connection reads with.
 void NoteGoodbye(SSL const* connection, int where, int alert)
 {
     auto* const goodbye = static_cast<Goodbye*>(SSL_get_ex_data(connection, GoodbyeIndex()));
@@ -92,7 +92,7 @@ void CurlRequest::SetAddress()
 {
     CURL* const easy = m_easy.get();
     QUrl const& url = m_request.url;
-    // Part by part, so that libcurl reads no other host out of the address than the one that was judged.
+    // Part by part, so that libcurl extracts the same host from the address as the one that was judged.
     m_address.reset(curl_url());
     curl_url_set(m_address.get(), CURLUPART_SCHEME, url.scheme().toLatin1().constData(), 0);
     QByteArray host = url.host(QUrl::FullyEncoded).toLatin1();
@@ -103,7 +103,7 @@ void CurlRequest::SetAddress()
         curl_url_set(m_address.get(), CURLUPART_PORT, QByteArray::number(url.port()).constData(), 0);
     }
     curl_easy_setopt(easy, CURLOPT_CURLU, m_address.get());
-    // To the byte as it was given: libcurl would rewrite what is encoded.
+    // Byte for byte as given: libcurl would rewrite encoded characters.
     bool const isForwarded = m_settings.proxy.kind == ProxyChoice::Kind::Http && url.scheme() == QLatin1String("http");
     QByteArray const target = isForwarded ? url.toEncoded() : TargetOf(url);
     curl_easy_setopt(easy, CURLOPT_REQUEST_TARGET, target.constData());
@@ -125,7 +125,7 @@ void CurlRequest::SetFields()
         m_fields.reset(all);
     }
     curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_fields.get());
-    curl_easy_setopt(easy, CURLOPT_HEADEROPT, long{CURLHEADER_SEPARATE}); // a proxy gets none of them
+    curl_easy_setopt(easy, CURLOPT_HEADEROPT, long{CURLHEADER_SEPARATE}); // a proxy gets none of these fields
 }
 
 void CurlRequest::SetSafety(FetchLimits const& limits)
@@ -139,10 +139,10 @@ void CurlRequest::SetSafety(FetchLimits const& limits)
     curl_easy_setopt(easy, CURLOPT_HTTP09_ALLOWED, 0L);
     curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, long{CURL_HTTP_VERSION_2TLS});
     curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // Without it, anyone who gives a name up waits for the system to look it up.
+    // Without it, cancelling a name lookup waits for the system to finish it.
     curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
     curl_easy_setopt(easy, CURLOPT_BUFFERSIZE, PASS_BYTES);
-    // Of two addresses of one kind, the first gets half of it.
+    // Of two addresses of one kind, the first gets half of this time.
     curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(limits.connectTimeout.count()));
     curl_easy_setopt(easy, CURLOPT_ERRORBUFFER, m_text.data());
 }
@@ -155,7 +155,7 @@ void CurlRequest::SetProxy()
     {
         m_fault = ErrorCause::ProxyFailed;
     }
-    // The environment was read already; libcurl must not read it in its own way.
+    // The engine has read the environment already; libcurl must not read it in another way.
     curl_easy_setopt(easy, CURLOPT_NOPROXY, "");
     curl_easy_setopt(easy, CURLOPT_PROXY, proxy.host.toUtf8().constData());
     if (proxy.IsDirect())
@@ -184,7 +184,7 @@ void CurlRequest::SetSecurity()
     curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 2L);
     curl_easy_setopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
     curl_easy_setopt(easy, CURLOPT_SSL_OPTIONS, long{CURLSSLOPT_NO_PARTIALCHAIN});
-    // The authorities come with the store, and from nowhere else.
+    // The authorities come only from the store.
     curl_easy_setopt(easy, CURLOPT_CAINFO, nullptr);
     curl_easy_setopt(easy, CURLOPT_CAPATH, nullptr);
     curl_easy_setopt(easy, CURLOPT_CA_CACHE_TIMEOUT, 0L);
@@ -194,7 +194,7 @@ void CurlRequest::SetSecurity()
         bool const isReady = static_cast<CurlRequest*>(request)->PrepareSecurity(static_cast<SSL_CTX*>(context));
         return isReady ? CURLE_OK : CURLE_SSL_CONNECT_ERROR;
     };
-    // A libcurl over another library than OpenSSL takes no such function.
+    // A libcurl over a library other than OpenSSL does not accept this function.
     bool const isSet = curl_easy_setopt(easy, CURLOPT_SSLVERSION, long{CURL_SSLVERSION_TLSv1_2}) == CURLE_OK &&
                        curl_easy_setopt(easy, CURLOPT_SSL_CTX_FUNCTION, prepare) == CURLE_OK;
     if (!isSet || !m_settings.trust)
@@ -209,20 +209,20 @@ bool CurlRequest::PrepareSecurity(SSL_CTX* context) const
     SSL_CTX_set_cert_store(context, m_settings.trust.get());
     X509_VERIFY_PARAM* const parameters = SSL_CTX_get0_param(context);
     QByteArray const name = CertificateName(m_request.url);
-    // As browsers do: the list of alternative names counts, and the subject's name never.
+    // As in browsers: only the list of alternative names counts, never the subject's name.
     X509_VERIFY_PARAM_set_hostflags(parameters,
                                     X509_CHECK_FLAG_NEVER_CHECK_SUBJECT | X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS);
     bool const isAddress = !QHostAddress(QString::fromLatin1(name)).isNull();
-    // Deliberate: OpenSSL takes an empty name for none, and would check nothing.
+    // Deliberate: for an empty name OpenSSL would check nothing.
     bool const isSet = name.isEmpty() ? false
                        : isAddress    ? X509_VERIFY_PARAM_set1_ip_asc(parameters, name.constData()) == 1
                                       : X509_VERIFY_PARAM_set1_host(parameters, name.constData(), 0) == 1;
-    // No matter what OpenSSL's configuration permits.
+    // Holds for every configuration of OpenSSL.
     bool const isStrong =
         SSL_CTX_set_min_proto_version(context, TLS1_2_VERSION) == 1 && SSL_CTX_set_cipher_list(context, CIPHERS) == 1;
     SSL_CTX_set_security_level(context, std::max(SSL_CTX_get_security_level(context), LEAST_SECURITY_LEVEL));
     SSL_CTX_set_info_callback(context, &NoteGoodbye);
-    // What libcurl would tell of every record is of no interest and takes time.
+    // libcurl's messages for every record are not used and take time.
     SSL_CTX_set_msg_callback(context, nullptr);
     return isSet && isStrong;
 }
@@ -250,7 +250,7 @@ void CurlRequest::WatchSecureConnection()
     auto goodbye = std::make_unique<Goodbye>(m_hasSaidGoodbye);
     if (SSL_set_ex_data(connection, GoodbyeIndex(), goodbye.get()) == 1)
     {
-        static_cast<void>(goodbye.release()); // the connection's
+        static_cast<void>(goodbye.release()); // now owned by the connection
     }
 }
 

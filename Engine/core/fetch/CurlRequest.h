@@ -1,5 +1,5 @@
-// CurlRequest.h: one request as libcurl takes it, with everything switched off that it would do unasked.
-// Thread: one at a time. Ownership: owns libcurl's handle; it stays where it is made, since libcurl holds its address.
+// CurlRequest.h: one request for libcurl, with all of libcurl's automatic features turned off. Thread: one at a time.
+// Ownership: owns libcurl's handle. It cannot move, because libcurl holds its address.
 #pragma once
 
 #include "Engine/core/fetch/CurlLoop.h"
@@ -22,19 +22,19 @@ public:
     CurlRequest(CurlRequest const&) = delete;
     CurlRequest& operator=(CurlRequest const&) = delete;
 
-    /// Why it must not be sent; nothing when it may.
+    /// Why the request must not be sent; empty if it may be sent.
     [[nodiscard]] std::optional<ErrorCause> Fault() const { return m_fault; }
     CURL* Handle() const { return m_easy.get(); }
     ProxyChoice const& Proxy() const { return m_settings.proxy; }
 
-    /// What libcurl says of its last failure.
+    /// libcurl's text for its last failure.
     QString Text() const { return QString::fromUtf8(m_text.data()); }
     long Number(CURLINFO info) const;
-    /// Watches for the server's end of the secure connection. REQUIRES: called by one of the handle's callbacks.
+    /// Watches for the server's close of the secure connection. REQUIRES: called by one of the handle's callbacks.
     void WatchSecureConnection();
-    /// True when OpenSSL has bytes of that connection that nobody has taken. REQUIRES: called by one of the callbacks.
+    /// True if OpenSSL has unread bytes of this connection. REQUIRES: called by one of the callbacks.
     [[nodiscard]] bool HasSecureBytes() const;
-    /// True when the server has said that nothing more comes over that connection.
+    /// True if the server has sent its close message on this connection.
     [[nodiscard]] bool HasSaidGoodbye() const;
 
 private:
@@ -44,7 +44,7 @@ private:
     void SetProxy();
     void SetSecurity();
     [[nodiscard]] bool PrepareSecurity(SSL_CTX* context) const;
-    /// libcurl's, and only until it closes the connection; null for none.
+    /// libcurl owns it, until it closes the connection; null for none.
     SSL* SecureConnection() const;
 
     FetchRequest m_request;
@@ -54,7 +54,7 @@ private:
     std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> m_address{nullptr, &curl_url_cleanup};
     std::array<char, CURL_ERROR_SIZE> m_text{};
     std::shared_ptr<bool> m_hasSaidGoodbye;
-    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy; ///< goes first: it uses the others
+    std::unique_ptr<CURL, decltype(&curl_easy_cleanup)> m_easy; ///< destroyed first: it uses the others
 };
 
 } // namespace Pelnar::Engine

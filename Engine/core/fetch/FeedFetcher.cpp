@@ -31,7 +31,7 @@ void FeedFetcher::Start(QUrl const& url, std::function<void(FetchOutcome)> finis
 {
     m_feedUrl = url;
     m_finished = std::move(finished);
-    // A refusal arrives like any other outcome: later.
+    // A refusal arrives later, like any other result.
     QTimer::singleShot(0, this, [this] { Begin(); });
 }
 
@@ -94,7 +94,7 @@ void FeedFetcher::Send(FetchRequest const& request)
 {
     m_request = request;
     FetchRequest sent = request;
-    // It is about the one address that answered, and is not passed on by a redirect.
+    // The condition is for the one address that answered; a redirect does not pass it on.
     m_isConditional = m_kept && m_kept->place == PlaceOf(m_feedUrl, request.url);
     if (m_isConditional)
     {
@@ -118,7 +118,7 @@ void FeedFetcher::TakeAnswer()
             Fail(MakeError(*cause));
             return;
         }
-        // The transfer is the sender of this very call.
+        // The transfer is the sender of this call.
         m_transfer.release()->deleteLater();
         Send(std::get<FetchRequest>(next));
         return;
@@ -150,7 +150,7 @@ void FeedFetcher::TakeUnchanged(HttpHead const& head)
     KeptFeed const kept = *std::exchange(m_kept, std::nullopt);
     if (head.status != STATUS_NOT_MODIFIED || !IsAbout(kept, head, m_transfer->AnsweredFrom()))
     {
-        // It does not mean the feed that is kept: the whole is asked for, once.
+        // The answer is not about the kept feed: the whole feed is requested, once.
         m_transfer.release()->deleteLater();
         Send(FetchRequest(m_request));
         return;

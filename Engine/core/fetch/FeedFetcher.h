@@ -1,6 +1,6 @@
-// FeedFetcher.h: brings the bytes of a feed from a server or a file, behind the rules and limits of FetchPolicy.h.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it drops the fetch and
-// nothing is called any more.
+// FeedFetcher.h: fetches the bytes of a feed from a server or a file, under the rules and limits of FetchPolicy.h.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it cancels the fetch, and no
+// callback follows.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -25,18 +25,18 @@ class HttpTransfer;
 struct FetchOutcome
 {
     std::optional<EngineError> error;
-    QUrl url;         ///< where the feed came from, after redirects, without user name and password
+    QUrl url;         ///< the address of the feed after redirects, without user name and password
     QByteArray bytes; ///< whole; empty on error
-    AddressReach reach = AddressReach::Network; ///< of the place where it came from
+    AddressReach reach = AddressReach::Network; ///< of the place that the feed came from
     bool isUnchanged = false;                   ///< the bytes are those of the kept feed
-    std::optional<KeptFeed> keepable; ///< the feed, when it may be kept; its time is not set if it has changed
+    std::optional<KeptFeed> keepable; ///< the feed, if it may be kept; its time is not set if it has changed
 };
 
 class FeedFetcher : public QObject
 {
     Q_OBJECT
 public:
-    /// The server that \a kept came from is told which version is here already.
+    /// The request to the server that \a kept came from carries the validator of the kept version.
     FeedFetcher(FetchLimits const& limits, InsecureHttp insecureHttp, std::optional<KeptFeed> kept = std::nullopt);
     ~FeedFetcher() override;
 
@@ -56,7 +56,7 @@ private:
     InsecureHttp m_insecureHttp;
     std::optional<KeptFeed> m_kept;
     QUrl m_feedUrl;
-    bool m_isConditional = false; ///< the request that is under way carries the condition of m_kept
+    bool m_isConditional = false; ///< the current request carries the condition of m_kept
     std::function<void(FetchOutcome)> m_finished;
     QTimer m_totalTimer;
     FetchRequest m_request;

@@ -32,7 +32,7 @@ bool IsVisibleAscii(QByteArray const& text)
     return std::all_of(text.begin(), text.end(), [](char character) { return character > ' ' && character < 0x7f; });
 }
 
-/// Judges an address for a network connection, no matter what led to it.
+/// Judges an address for a network connection, from every source.
 std::optional<ErrorCause> JudgeNetworkAddress(QUrl const& url, InsecureHttp insecureHttp)
 {
     if (url.host().isEmpty())

@@ -29,7 +29,7 @@ bool IsDigit(char character)
     return character >= '0' && character <= '9';
 }
 
-/// The status of "HTTP/1.1 200 OK" or "HTTP/2 200", or nothing.
+/// The status of "HTTP/1.1 200 OK" or "HTTP/2 200", or empty.
 std::optional<int> ParseStatusLine(QByteArray const& line)
 {
     constexpr std::array VERSIONS = {"HTTP/1.0 ", "HTTP/1.1 ", "HTTP/2 "};
@@ -57,7 +57,7 @@ std::optional<HeaderField> ParseField(QByteArray const& line)
     return HeaderField{line.left(colon).toLower(), line.mid(colon + 1).trimmed()};
 }
 
-/// A non-negative decimal number that fits, or nothing.
+/// A non-negative decimal number that fits, or empty.
 std::optional<qint64> ParseLength(QByteArray const& text)
 {
     if (text.isEmpty() || !std::all_of(text.begin(), text.end(), IsDigit))
@@ -139,7 +139,7 @@ HttpHeadReader::Progress HttpHeadReader::Take(QByteArray const& line)
     QByteArray const content = line.left(line.size() - 2);
     if (m_hasHead)
     {
-        return Progress::NeedsMore; // the trailer says nothing of use
+        return Progress::NeedsMore; // the trailer contains nothing useful
     }
     if (m_head.status == 0)
     {
@@ -162,14 +162,14 @@ HttpHeadReader::Progress HttpHeadReader::Take(QByteArray const& line)
 
 HttpHeadReader::Progress HttpHeadReader::EndHead()
 {
-    // It would switch to a protocol that was not asked for.
+    // It would switch to another protocol.
     if (m_head.status == STATUS_SWITCHING_PROTOCOLS)
     {
         return Fail(ErrorCause::MalformedHead);
     }
     if (m_head.status < 200)
     {
-        Restart(); // informational: the answer is still to come
+        Restart(); // informational: the final answer follows
         return Progress::NeedsMore;
     }
     m_hasHead = true;

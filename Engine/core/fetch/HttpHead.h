@@ -1,6 +1,6 @@
-// HttpHead.h: the head of one HTTP answer, read strictly and within a limit. What two readers might understand
-// differently (two lengths, a length beside chunks, folded lines, bare line ends) is refused, not interpreted.
-// Thread: one at a time. Ownership: values only.
+// HttpHead.h: the head of one HTTP answer, parsed strictly and within a limit. If two readers could understand a head
+// differently (two lengths, a length with chunks, folded lines, bare line ends), it is refused and not interpreted.
+// Thread: one at a time.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -21,18 +21,18 @@ struct HttpHead
 
     /// The values of every field named \a lowerCaseName.
     std::vector<QByteArray> Values(QByteArray const& lowerCaseName) const;
-    /// The value of the field, when it is there exactly once.
+    /// The value of the field if it appears exactly once.
     QByteArray OnlyValue(QByteArray const& lowerCaseName) const;
 };
 
-/// How the end of a body is known.
+/// How a body ends.
 struct BodyPlan
 {
     enum class Kind
     {
         Length,
         Chunks,
-        UntilClose, ///< by the connection's end, or by the protocol's own frames
+        UntilClose, ///< with the connection, or by the protocol's own frames
     };
     Kind kind = Kind::UntilClose;
     qint64 length = 0;
@@ -41,7 +41,7 @@ struct BodyPlan
 /// How \a head frames its body, or why it is refused.
 [[nodiscard]] std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head);
 
-/// Reads an answer's head line by line, with the informational heads before it and the trailer behind the body.
+/// Reads an answer's head line by line, with the informational heads before it and the trailer after the body.
 class HttpHeadReader
 {
 public:
@@ -55,12 +55,12 @@ public:
     /// \a maxBytes is the limit for all lines together.
     explicit HttpHeadReader(int maxBytes) : m_maxBytes(maxBytes) {}
 
-    /// Takes a whole line with its end. After Failed no more may be given.
+    /// Reads a whole line including its end. After Failed, no further call is allowed.
     Progress Take(QByteArray const& line);
-    /// The complete head was a question, to which another answer follows: it begins with the next line.
+    /// Another head follows the complete one, because that one was informational: it begins with the next line.
     void Restart();
 
-    /// True from the end of the final head on.
+    /// True once the final head has ended.
     [[nodiscard]] bool HasHead() const { return m_hasHead; }
     HttpHead const& Head() const { return m_head; }
     /// Why the last progress was Failed.

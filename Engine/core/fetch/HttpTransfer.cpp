@@ -16,15 +16,15 @@ namespace
 {
 
 constexpr int SAMPLES_IN_WINDOW = 20;
-/// So long may bytes wait for more before they go to the disk.
+/// Bytes may wait this long for more before they go to the disk.
 constexpr std::chrono::milliseconds REST_INTERVAL{10};
 constexpr int STATUS_NOT_MODIFIED = 304;
 constexpr int STATUS_PROXY_ASKS = 407;
-/// What chunks, records and their padding may take beside an answer: so much, and a quarter of the answer.
+/// Limit of the overhead of chunks, records and their padding: this number, plus a quarter of the answer.
 constexpr qint64 FREE_FRAMING_BYTES = 1024 * 1024;
 constexpr qint64 ANSWER_PER_FRAMING = 4;
 
-/// What has been read from \a socket since it was connected.
+/// The bytes read from \a socket since it was connected.
 std::optional<qint64> BytesReadFrom(int socket)
 {
     tcp_info info{};
@@ -38,7 +38,7 @@ std::optional<qint64> BytesReadFrom(int socket)
 
 } // namespace
 
-/// What libcurl calls, with the transfer as its pointer.
+/// The callbacks of libcurl, with the transfer as their pointer.
 struct HttpTransfer::Callbacks
 {
     static curl_socket_t OpenSocket(void* transfer, curlsocktype, curl_sockaddr* address)
@@ -76,7 +76,8 @@ struct HttpTransfer::Callbacks
             static_cast<HttpTransfer*>(transfer)->m_rawBodyBytes += static_cast<qint64>(count);
             return 0;
         }
-        // libcurl reads no further than an answer's end. Bytes that came together with it, it names here and drops.
+        // libcurl reads no further than an answer's end. If bytes arrive together with that end, it mentions them here
+        // and discards them.
         QByteArray const text = QByteArray::fromRawData(bytes, static_cast<int>(count));
         if (type == CURLINFO_TEXT && (text.startsWith("Excess found") || text.startsWith("Leftovers after chunking")))
         {
@@ -169,7 +170,7 @@ bool HttpTransfer::MayConnectTo(AddressReach reach)
 HttpTransfer::Verdict HttpTransfer::TakeConnection(QHostAddress const& server)
 {
     m_answeredFrom = m_curl->Proxy().IsDirect() ? ReachOf(server) : ReachOf(m_request.url);
-    // A connection that is used once more was judged by another request.
+    // Another request judged a reused connection.
     if (!MayConnectTo(m_answeredFrom))
     {
         return Verdict::Ends;
@@ -208,7 +209,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     HttpHead const& head = m_reader.Head();
     if (head.status == STATUS_PROXY_ASKS && !m_curl->Proxy().IsDirect())
     {
-        // libcurl may have an answer to that.
+        // libcurl may have an answer to this.
         m_refusal = ErrorCause::ProxyAsksForPassword;
         m_reader.Restart();
         return Verdict::GoesOn;
@@ -225,7 +226,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     if (!most)
     {
         m_isBodyUseless = true;
-        // It has no body, and its connection is as good as new.
+        // It has no body, so its connection can be reused.
         return head.status == STATUS_NOT_MODIFIED ? Verdict::GoesOn : Verdict::Ends;
     }
     m_limits.maxBodyBytes = *most;
@@ -243,7 +244,7 @@ qint64 HttpTransfer::HoldOrTake(char const* bytes, qint64 size)
 {
     if (!m_reader.HasHead())
     {
-        return size; // of an answer that another one follows
+        return size; // another answer follows this one
     }
     if (m_isBodyUseless)
     {
@@ -284,7 +285,7 @@ void HttpTransfer::Deliver(char const* bytes, qint64 size)
         if (count == 0)
         {
             m_held.append(bytes, static_cast<int>(size));
-            m_isHeld = true; // the sink says when it has room, and says it once
+            m_isHeld = true; // the sink reports once when it has space
             return;
         }
         std::memcpy(room.data, bytes, static_cast<std::size_t>(count));
@@ -348,7 +349,7 @@ void HttpTransfer::TakeEnd(CURLcode code)
 {
     if (!m_held.isEmpty())
     {
-        m_end = code; // what has come goes first
+        m_end = code; // received bytes are delivered first
         return;
     }
     if (m_isBodyUseless)
@@ -381,7 +382,7 @@ bool HttpTransfer::IsCut() const
 {
     bool const endsWithConnection =
         m_plan.kind == BodyPlan::Kind::UntilClose && m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
-    // libcurl takes the end of a secure connection for the end of the body, no matter who ended it.
+    // libcurl takes the end of a secure connection for the end of the body, even if an attacker ended it.
     return endsWithConnection && IsSecure() && !m_curl->HasSaidGoodbye();
 }
 
@@ -436,7 +437,7 @@ void HttpTransfer::SampleRate()
     }
     if (m_isHeld)
     {
-        m_receivedAtSample = {m_received}; // it is not the server that is slow
+        m_receivedAtSample = {m_received}; // the sink is slow, not the server
         return;
     }
     m_receivedAtSample.push_back(m_received);

@@ -1,5 +1,5 @@
-// IBodySink.h: who takes the body of an answer piece by piece, where a whole one would cost too much memory.
-// Thread: the transfer's. Ownership: the sink stays its owner's and lives as long as the transfer.
+// IBodySink.h: receives the body of an answer piece by piece, if a whole one would take too much memory. Thread: the
+// transfer's. Ownership: the sink's owner keeps it; it lives as long as the transfer.
 #pragma once
 
 #include <QtGlobal>
@@ -11,7 +11,7 @@ namespace Pelnar::Engine
 
 struct HttpHead;
 
-/// Where the next bytes of a body go.
+/// The buffer for the next bytes of a body.
 struct BodyRoom
 {
     char* data = nullptr;
@@ -24,13 +24,13 @@ class IBodySink
 public:
     virtual ~IBodySink() = default;
 
-    /// The head is there: how many bytes its body may have at most, or nothing when the body is of no use.
+    /// The head has arrived. Returns the maximum length of its body in bytes, or nothing if the body is useless.
     virtual std::optional<qint64> BeginBody(HttpHead const& head) = 0;
-    /// Room for the next bytes, the same until some are taken; none while nothing can be taken.
+    /// The buffer for the next bytes. It stays the same until Took(). It is empty while no byte can be taken.
     virtual BodyRoom Room() = 0;
-    /// The first \a bytes of the room are filled.
+    /// The first \a bytes of the buffer are filled.
     virtual void Took(qint64 bytes) = 0;
-    /// Nothing more has arrived for now.
+    /// No more bytes are available for now.
     virtual void Rest() = 0;
 };
 

@@ -13,7 +13,7 @@ namespace
 
 constexpr qint64 LONGEST_SECONDS = 30 * 24 * 3600;
 
-/// True when a field named \a lowerCaseName has \a word in its list.
+/// True if a field named \a lowerCaseName has \a word in its list.
 bool HasWord(HttpHead const& head, QByteArray const& lowerCaseName, QByteArray const& word)
 {
     for (QByteArray const& value : head.Values(lowerCaseName))
@@ -28,7 +28,8 @@ bool HasWord(HttpHead const& head, QByteArray const& lowerCaseName, QByteArray c
     return false;
 }
 
-/// Somebody on the network could give a feed of his own the validators of the true one, which would then stay.
+/// An attacker on the network could give a false feed the validators of the true one, and the false feed would then
+/// stay.
 bool IsFromWhoItSays(QUrl const& answered, AddressReach reach)
 {
     return answered.scheme() == QLatin1String("https") || reach == AddressReach::ThisComputer;
@@ -50,7 +51,8 @@ std::optional<KeptFeed> KeepableFeed(HttpHead const& head, QUrl const& feedUrl, 
     feed.place = PlaceOf(feedUrl, answered);
     feed.reach = reach;
     feed.validators = FeedValidators(head);
-    // What changes with anything else than the request's fields, which are always the same, is of one request.
+    // The request's fields are always the same. If an answer depends on anything else, it is valid for one request
+    // only.
     bool const mayBeKept = !ForbidsKeeping(head) && !HasWord(head, "vary", "*") && IsFromWhoItSays(answered, reach);
     return mayBeKept && !feed.validators.IsEmpty() ? std::optional(feed) : std::nullopt;
 }
@@ -73,7 +75,7 @@ bool IsAbout(KeptFeed const& feed, HttpHead const& head, AddressReach reach)
     bool const isTagSame = tags.empty() || (tags.size() == 1 && IsSameTag(tags.front(), feed.validators.entityTag));
     bool const isDateSame = !feed.validators.entityTag.isEmpty() || dates.empty() ||
                             (dates.size() == 1 && dates.front() == feed.validators.lastModified);
-    // A name that led elsewhere then would pass the feed of one place off as that of the other.
+    // If the name now resolves to another place, the feed of one place must not count as the feed of the other.
     return isTagSame && isDateSame && reach == feed.reach;
 }
 

@@ -1,6 +1,5 @@
-// KeptFeed.h: a feed that was accepted and is kept, so that an unchanged one need not be sent again: what may be kept,
-// what is asked with it, and which answer means "unchanged". Pure decisions.
-// Thread: any; no state.
+// KeptFeed.h: an accepted feed that is kept, so that an unchanged one need not be sent again: which feed may be kept,
+// which condition a request carries, and which answer means "unchanged". Pure functions.
 #pragma once
 
 #include "Engine/core/fetch/AddressReach.h"
@@ -17,32 +16,31 @@ namespace Pelnar::Engine
 struct KeptFeed
 {
     QByteArray place;                           ///< of PlaceOf()
-    AddressReach reach = AddressReach::Network; ///< of the place where it came from
+    AddressReach reach = AddressReach::Network; ///< of the place that it came from
     Validators validators;
-    qint64 cameAt = 0; ///< when its bytes came, in seconds since 1970
+    qint64 cameAt = 0; ///< when its bytes arrived, in seconds since 1970
     QByteArray bytes;
 };
 
-/// Stands for a feed's address, fragment left out, and for the address that answered in the end. A digest, so that
-/// nobody reads a password out of it.
+/// Identifies a feed's address, without its fragment, together with the address that answered in the end. It is a
+/// digest, so that it reveals no password.
 QByteArray PlaceOf(QUrl const& feedUrl, QUrl const& answered);
 
-/// The feed of the answer \a head, without its bytes and its time; nothing when it must not be kept or cannot be asked
-/// for again.
+/// The feed of the answer \a head, without its bytes and its time; empty if it must not be kept or has no validator.
 std::optional<KeptFeed> KeepableFeed(HttpHead const& head, QUrl const& feedUrl, QUrl const& answered,
                                      AddressReach reach);
 
-/// True when the server wants its answer to be forgotten.
+/// True if the server forbids storing its answer.
 [[nodiscard]] bool ForbidsKeeping(HttpHead const& head);
 
-/// What a request for \a feed carries, so that its bytes are not sent again.
+/// The field with which a request for \a feed avoids receiving the same bytes again.
 HeaderField ConditionOf(KeptFeed const& feed);
 
-/// True when the answer \a head (304) from \a reach means the very \a feed.
+/// True if the answer \a head (304) from \a reach is about exactly this \a feed.
 [[nodiscard]] bool IsAbout(KeptFeed const& feed, HttpHead const& head, AddressReach reach);
 
-/// True while \a feed may stand for what a server says is unchanged. A server that is wrong about it, or was while
-/// somebody else had it, is asked for the whole once in a while.
+/// True while \a feed may be used for an answer "unchanged". After that the whole feed is requested. This limits how
+/// long a wrong server, or an attacker who controlled it, can keep a feed in use.
 [[nodiscard]] bool IsFresh(KeptFeed const& feed, qint64 now);
 
 } // namespace Pelnar::Engine

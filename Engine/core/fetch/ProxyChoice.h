@@ -1,6 +1,5 @@
-// ProxyChoice.h: through which proxy a request goes: the application's own, else the environment's, else the system's.
-// Thread: any; the system's settings may take long to read, so they are asked for beside the event loop.
-// Ownership: values only.
+// ProxyChoice.h: the proxy of a request: the application's, else the environment's, else the system's. Thread: any. The
+// system's settings may take long to read, so a thread reads them.
 #pragma once
 
 #include <QByteArray>
@@ -18,10 +17,10 @@ struct ProxyChoice
     enum class Kind
     {
         Direct,
-        Http,            ///< asked to forward http, and to open a tunnel for https
-        Socks5,          ///< this computer looks the server's name up
-        Socks5WithNames, ///< the proxy does
-        Unknown,         ///< one that is not spoken here
+        Http,            ///< forwards http, and opens a tunnel for https
+        Socks5,          ///< this computer resolves the server's name
+        Socks5WithNames, ///< the proxy resolves the name
+        Unknown,         ///< not supported here
     };
     Kind kind = Kind::Direct;
     QString host;
@@ -32,14 +31,14 @@ struct ProxyChoice
     [[nodiscard]] bool IsDirect() const { return kind == Kind::Direct; }
 };
 
-/// The value of an environment variable, by its name; empty when it is not set.
+/// The value of an environment variable, by its name; empty if it is not set.
 using Environment = std::function<QByteArray(char const* name)>;
 QByteArray ValueInEnvironment(char const* name);
 
-/// What the application has set for \a url; nothing when it has set no proxy, or leaves it to the system.
+/// The application's proxy for \a url; empty if it has set no proxy, or leaves the choice to the system.
 [[nodiscard]] std::optional<ProxyChoice> ApplicationsProxy(QUrl const& url);
 
-/// What http_proxy, https_proxy, all_proxy and no_proxy say of \a url, in the spellings that curl knows; nothing when
+/// What http_proxy, https_proxy, all_proxy and no_proxy say about \a url, in the spellings that curl accepts; empty if
 /// no proxy is named.
 [[nodiscard]] std::optional<ProxyChoice> EnvironmentsProxy(QUrl const& url, Environment const& environment);
 

@@ -31,7 +31,7 @@ constexpr std::array CERTIFICATE_RULES = {
     CertificateRule{X509_V_ERR_CERT_HAS_EXPIRED, ErrorCause::CertificateExpired},
     CertificateRule{X509_V_ERR_HOSTNAME_MISMATCH, ErrorCause::CertificateWrongName},
     CertificateRule{X509_V_ERR_IP_ADDRESS_MISMATCH, ErrorCause::CertificateWrongName},
-    // libcurl compares the names once more, and has no number for that.
+    // libcurl compares the names again, and has no number for a mismatch.
     CertificateRule{X509_V_ERR_UNSPECIFIED, ErrorCause::CertificateWrongName},
 };
 
@@ -47,10 +47,10 @@ constexpr std::array CODE_RULES = {
     CodeRule{CURLE_OPERATION_TIMEDOUT, ErrorCause::ConnectTimeout},
     CodeRule{CURLE_SSL_CONNECT_ERROR, ErrorCause::HandshakeRefused},
     CodeRule{CURLE_SSL_CIPHER, ErrorCause::HandshakeRefused},
-    CodeRule{CURLE_UNSUPPORTED_PROTOCOL, ErrorCause::MalformedHead}, // what came is no answer of HTTP/1 or later
+    CodeRule{CURLE_UNSUPPORTED_PROTOCOL, ErrorCause::MalformedHead}, // the bytes are not an answer of HTTP/1 or later
     CodeRule{CURLE_WEIRD_SERVER_REPLY, ErrorCause::MalformedHead},
     CodeRule{CURLE_BAD_CONTENT_ENCODING, ErrorCause::TransferEncodingRefused},
-    CodeRule{CURLE_OUT_OF_MEMORY, ErrorCause::HeadTooLarge}, // also of a line that does not end
+    CodeRule{CURLE_OUT_OF_MEMORY, ErrorCause::HeadTooLarge}, // also for a line that does not end
     CodeRule{CURLE_GOT_NOTHING, ErrorCause::IncompleteHead},
 };
 
@@ -96,7 +96,7 @@ ErrorCause CauseOfProxy(long error)
                            : ErrorCause::ProxyFailed;
 }
 
-/// Of a connection that broke once it stood.
+/// The cause if an established connection breaks.
 ErrorCause CauseOfBreak(TransferEnd const& end)
 {
     switch (end.stage)
@@ -106,7 +106,7 @@ ErrorCause CauseOfBreak(TransferEnd const& end)
     case TransferStage::Waiting:
         return ErrorCause::IncompleteHead;
     case TransferStage::Body:
-        // libcurl has one code for both; the text alone tells a chunk that is wrong from one that did not come.
+        // libcurl has one code for both. Only the text distinguishes a wrong chunk from a missing one.
         return end.text.contains(QLatin1String("chunked-encoding")) ? ErrorCause::MalformedChunk
                                                                     : ErrorCause::IncompleteBody;
     }

@@ -1,5 +1,4 @@
-// TransferFault.h: why a transfer of libcurl's failed, in the engine's own words. Pure.
-// Thread: any; no state. Ownership: values only.
+// TransferFault.h: turns a failure of a libcurl transfer into the engine's own error. Pure functions.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -14,20 +13,20 @@ namespace Pelnar::Engine
 enum class TransferStage
 {
     Connecting,
-    Waiting, ///< the request is on its way
-    Body,    ///< the head of the answer is there
+    Waiting, ///< the request is being sent
+    Body,    ///< the head of the answer has arrived
 };
 
 struct TransferEnd
 {
     CURLcode code = CURLE_OK;
     TransferStage stage = TransferStage::Connecting;
-    int systemError = 0;       ///< errno of the last call that failed
-    long certificateError = 0; ///< OpenSSL's number; 0 for a certificate that was accepted or not seen
-    long proxyStatus = 0;      ///< of a proxy's answer to the request for a tunnel; 0 when there is none
+    int systemError = 0;       ///< errno of the last failed call
+    long certificateError = 0; ///< OpenSSL's number; 0 for a certificate that was accepted or not received
+    long proxyStatus = 0;      ///< status of a proxy's answer to the request for a tunnel; 0 if there is none
     long proxyError = 0;       ///< CURLproxycode
     bool hasProxy = false;
-    QString text; ///< libcurl's own
+    QString text; ///< libcurl's own text
 };
 
 /// REQUIRES: end.code is an error.

@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Qt tells only by comparison whether a configuration looks authorities up on demand: naming them ends that.
+/// Qt shows only by comparison whether a configuration looks up authorities on demand: reading them ends that.
 bool LooksUpOnDemand(QSslConfiguration const& configuration)
 {
     QSslConfiguration naming = configuration;
@@ -39,7 +39,7 @@ TrustStore MakeTrustStore(QSslConfiguration const& configuration)
                                                                       &X509_free);
         if (certificate)
         {
-            X509_STORE_add_cert(store.get(), certificate.get()); // one that is there already stays
+            X509_STORE_add_cert(store.get(), certificate.get()); // an authority that is already in the store stays
         }
     }
     return store;

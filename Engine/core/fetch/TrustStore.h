@@ -1,6 +1,6 @@
-// TrustStore.h: the authorities that Qt's default configuration trusts, in the form in which OpenSSL takes them, so
-// that a host that adds an authority of its own, or takes some away, says so once for both.
-// Thread: any. Making a store reads many files: it is done beside the event loop. Ownership: shared, by count.
+// TrustStore.h: the authorities that Qt's default configuration trusts, in OpenSSL's form. So a host that adds or
+// removes an authority does this once for both. Thread: any. Making a store reads many files, so a thread does it.
+// Ownership: shared, by count.
 #pragma once
 
 #include <QSslConfiguration>
@@ -14,8 +14,7 @@ namespace Pelnar::Engine
 
 using TrustStore = std::shared_ptr<x509_store_st>;
 
-/// Those that \a configuration names, and the system's where it leaves them to be looked up on demand; unset when
-/// memory is short.
+/// The authorities of \a configuration, and the system's if it looks them up on demand; empty if memory is short.
 [[nodiscard]] TrustStore MakeTrustStore(QSslConfiguration const& configuration);
 
 } // namespace Pelnar::Engine

@@ -27,7 +27,7 @@ bool IsStrongEntityTag(QByteArray const& tag)
                        });
 }
 
-/// Of the one form in which servers may write a date today; invalid for any other.
+/// Parses the one date form that servers may send today; invalid for any other form.
 QDateTime HttpDate(QByteArray const& text)
 {
     QDateTime date =
@@ -36,7 +36,7 @@ QDateTime HttpDate(QByteArray const& text)
     return date;
 }
 
-/// A file could have changed twice within the second that the date names, unless the second was over.
+/// A file could change twice within the second that the date names, unless this second was over.
 bool IsStrongDate(QByteArray const& lastModified, QByteArray const& answered)
 {
     QDateTime const modification = HttpDate(lastModified);

@@ -1,5 +1,5 @@
-// Validators.h: what a server says of the version of a file, so that a later request can ask for another one only.
-// Thread: any; no state.
+// Validators.h: a server's identification of one version of a file, with which a later request can ask only for a
+// changed version. Pure functions.
 #pragma once
 
 #include "Engine/core/fetch/HttpHead.h"
@@ -9,31 +9,32 @@
 namespace Pelnar::Engine
 {
 
-/// Empty where the server says nothing of use.
+/// Empty fields mean that the server sent nothing usable.
 struct Validators
 {
-    QByteArray entityTag;    ///< with its quotes, and with the sign of a weak one
-    QByteArray lastModified; ///< as it came
+    QByteArray entityTag;    ///< with its quotes and its weak mark
+    QByteArray lastModified; ///< as received
 
     [[nodiscard]] bool IsEmpty() const { return entityTag.isEmpty() && lastModified.isEmpty(); }
 };
 
-/// Those of an answer that can prove, later, that a file is the same to the byte: a strong entity tag; a date of
-/// modification that lies at least a second before the answer's own date.
+/// The validators of an answer that can prove later that a file is identical byte for byte: a strong entity tag; a
+/// modification date at least one second before the answer's own date.
 Validators StrongValidators(HttpHead const& head);
 
-/// As StrongValidators(), with weak entity tags. Without a date where there is an entity tag, be it a malformed one.
+/// Like StrongValidators(), but weak entity tags count too. The date is empty if there is an entity tag, even a
+/// malformed one.
 Validators FeedValidators(HttpHead const& head);
 
-/// False for what StrongValidators() never answers: bytes that a request must not carry.
+/// False for values that StrongValidators() never returns: a request must not carry such bytes.
 [[nodiscard]] bool AreUsable(Validators const& validators);
-/// False for what FeedValidators() never answers, and for none.
+/// False for values that FeedValidators() never returns, and for empty ones.
 [[nodiscard]] bool AreUsableForFeed(Validators const& validators);
 
-/// The validator that a request carries: the entity tag if there is one, else the date.
+/// The validator for a request: the entity tag if there is one, else the date.
 QByteArray const& PreferredValidator(Validators const& validators);
 
-/// True when two entity tags differ in their strength at most.
+/// True if two entity tags differ at most in their strength.
 [[nodiscard]] bool IsSameTag(QByteArray const& a, QByteArray const& b);
 
 } // namespace Pelnar::Engine

@@ -13,7 +13,7 @@ namespace
 
 using Kind = NotesElementKind;
 
-constexpr std::string_view WORD_BREAK = "\xE2\x80\x8B"; // U+200B: shows nothing, and a line may end there
+constexpr std::string_view WORD_BREAK = "\xE2\x80\x8B"; // U+200B: invisible; a line may end there
 
 NotesElement const& Known(std::string_view name)
 {
@@ -80,7 +80,7 @@ void NotesBuilder::AddText(std::string_view text)
         text.remove_prefix(character.size());
         bool const isMark = IsCombiningMark(character);
         m_marks = isMark ? m_marks + 1 : 0;
-        // Breaks of the writer's own would be counted as text here and as none when this comes in once more.
+        // The writer's own breaks would count as text here, but not when this output is filtered again.
         if (character == WORD_BREAK || m_marks > m_limits.maxMarks)
         {
             continue;
@@ -201,7 +201,7 @@ void NotesBuilder::EnsureInsideCell()
     }
 }
 
-/// A rich-text view fills every row up to the longest one.
+/// A rich-text view fills every row up to the length of the longest one.
 void NotesBuilder::CountCell()
 {
     OpenElement& table = m_open[IndexOfTable()];
@@ -237,7 +237,7 @@ void NotesBuilder::AddEnd(NotesElement const& element)
     }
 }
 
-/// Closes the innermost open element of \a kind that stands in the same cell.
+/// Closes the innermost open element of \a kind in the same cell.
 void NotesBuilder::CloseNearest(Kind kind)
 {
     for (std::size_t i = m_open.size(); i-- > 0;)
@@ -255,7 +255,7 @@ void NotesBuilder::CloseNearest(Kind kind)
     }
 }
 
-/// An item ends where the next one of the same list starts.
+/// An item ends at the start of the next item of the same list.
 void NotesBuilder::CloseNearestListItem()
 {
     for (std::size_t i = m_open.size(); i-- > 0;)
@@ -356,7 +356,7 @@ void NotesBuilder::RequireAtMost(std::size_t count, std::size_t limit, ReleaseNo
     }
 }
 
-/// The first reason stands.
+/// The first reason counts.
 void NotesBuilder::Refuse(ReleaseNotesRefusal refusal)
 {
     m_refusal = IsRefused() ? m_refusal : refusal;

@@ -1,5 +1,5 @@
-// ReleaseNotesBuilder_p.h: builds the markup that release notes are shown as, within the limits.
-// Thread: any. Ownership: the limits must outlive it.
+// ReleaseNotesBuilder_p.h: builds the displayed markup of release notes, within the limits. Thread: one at a time.
+// Ownership: the limits must outlive it.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesElements_p.h"
@@ -13,8 +13,8 @@
 namespace Pelnar::Engine
 {
 
-/// Writes the elements that come in so that they nest well, and refuses when a limit is passed. Every choice depends on
-/// the open elements alone, and what is written opens the same elements again: that makes the filter idempotent.
+/// Writes the incoming elements so that they nest well, and refuses when a limit is exceeded. Every choice depends only
+/// on the open elements, and the output opens the same elements again: this makes the filter idempotent.
 class NotesBuilder
 {
 public:
@@ -24,7 +24,7 @@ public:
     [[nodiscard]] ReleaseNotesRefusal Refusal() const { return m_refusal; }
 
     void Add(NotesToken const& token);
-    /// Closes what is open and hands the markup out.
+    /// Closes all open elements and returns the markup.
     [[nodiscard]] std::string Finish();
 
 private:
@@ -42,7 +42,7 @@ private:
     void OpenLink(NotesToken const& token);
     void OpenRow(NotesToken const& token);
     void OpenCell(NotesElement const& element, NotesToken const& token);
-    /// What is no row and no cell stands in a cell when a table is open.
+    /// If a table is open, content that is not a row or a cell goes into a cell.
     void EnsureInsideCell();
     void CloseNearest(NotesElementKind kind);
     void CloseNearestListItem();
@@ -55,7 +55,7 @@ private:
     void CountElement();
     void CountIn(NotesElement const& element);
     void CountText(std::size_t bytes);
-    /// What follows stands in another block of text.
+    /// The following text belongs to another block.
     void StartBlock();
     void RequireAtMost(std::size_t count, std::size_t limit, ReleaseNotesRefusal refusal);
     void Refuse(ReleaseNotesRefusal refusal);

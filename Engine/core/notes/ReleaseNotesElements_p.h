@@ -1,5 +1,4 @@
-// ReleaseNotesElements_p.h: the elements that release notes may use; everything else is left out.
-// Thread: any; a constant table. Ownership: none.
+// ReleaseNotesElements_p.h: the elements that release notes may use; all others are removed. A constant table.
 #pragma once
 
 #include <string_view>
@@ -21,23 +20,23 @@ enum class NotesElementKind
     Cell,
     LineBreak,
     Separator,
-    Image, ///< its text stands for it
+    Image, ///< its alternative text replaces it
 };
 
 struct NotesElement
 {
     std::string_view name;    ///< as written, in lower case
-    std::string_view shownAs; ///< the element that comes out; one that is shown as itself is its own
+    std::string_view shownAs; ///< the element in the output; itself if it is shown unchanged
     NotesElementKind kind;
 };
 
-/// The element of that name in lower case, or null when it is not allowed.
+/// The element with that name in lower case, or null if it is not allowed.
 [[nodiscard]] NotesElement const* FindNotesElement(std::string_view lowerCaseName);
 
-/// True for an element that starts a block of its own.
+/// True for an element that starts its own block.
 [[nodiscard]] bool IsBlockKind(NotesElementKind kind);
 
-/// True for an element whose content is no text for a person: it is dropped with what it holds.
+/// True for an element whose content is not for people: it is removed with its content.
 [[nodiscard]] bool IsDroppedWithContent(std::string_view lowerCaseName);
 
 } // namespace Pelnar::Engine

@@ -17,10 +17,10 @@ namespace
 
 using Kind = NotesElementKind;
 
-/// Escaping a byte makes six at most. Markup beyond that is more than the limits of elements allow.
+/// An escaped byte becomes at most six bytes. More markup than that exceeds the limits of elements.
 constexpr std::size_t HTML_BYTES_PER_NOTES_BYTE = 8;
 
-/// What a person can read of the markup, a line per block.
+/// The visible text of the markup, one line for each block.
 std::string TextOfHtml(std::string_view html)
 {
     std::string text;
@@ -49,7 +49,7 @@ std::string TextOfHtml(std::string_view html)
     return text;
 }
 
-/// As much of \a text as the limits allow, with no blank lines, so that what is cut off is cut off late.
+/// As much of \a text as the limits allow. Blank lines are removed, so that more text fits.
 std::string ShortenedText(std::string_view text, ReleaseNotesLimits const& limits)
 {
     constexpr std::string_view CUT_OFF = "…";

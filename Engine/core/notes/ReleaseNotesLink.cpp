@@ -35,8 +35,8 @@ bool IsPlainHost(std::string_view host)
            std::any_of(host.begin(), host.end(), IsAsciiAlphanumeric);
 }
 
-/// A name or an IPv6 address in brackets, with or without a port. A user name before the host is no part of it: it is
-/// there to make one host look like another.
+/// A name or an IPv6 address in brackets, with or without a port. A user name before the host is refused: attackers use
+/// it to make one host look like another.
 bool IsPlainAuthority(std::string_view authority)
 {
     if (!authority.empty() && authority.front() == '[')
@@ -57,7 +57,7 @@ bool IsPlainAuthority(std::string_view authority)
            (colon == std::string_view::npos || IsPort(authority.substr(colon + 1)));
 }
 
-/// Percent-encodes what may not stand in an address.
+/// Percent-encodes characters that are not allowed in an address.
 std::string Encoded(std::string_view text)
 {
     constexpr std::string_view KEPT = ":/?#[]@!$&'()*+,;=-._~";
@@ -129,7 +129,7 @@ std::optional<std::string> SafeLink(std::string_view address)
     {
         safe = SafeMailLink(address.substr(MAIL.size()));
     }
-    // Encoding makes an address longer, and one that came out has to come out again.
+    // Encoding lengthens an address, and an encoded address must be accepted again.
     return safe && safe->size() <= MAX_LINK_BYTES ? safe : std::nullopt;
 }
 
@@ -141,7 +141,7 @@ std::size_t BareLinkLength(std::string_view text)
                               : StartsWithIgnoringCase(text, "https://") ? 8
                                                                          : 0;
     std::string_view const host = text.substr(start, text.find_first_of(HOST_ENDS, start) - start);
-    // Tried first, so that a text full of wrong addresses is not read to its end again and again.
+    // Tested first, so that a text full of wrong addresses is not read to its end repeatedly.
     if (start == 0 || host.empty() || !IsHostCharacter(host.front()) || host.find('@') != std::string_view::npos)
     {
         return 0;

@@ -1,5 +1,4 @@
-// ReleaseNotesLink.h: which address of a link may be handed to the desktop when a person clicks it.
-// Thread: any; no state. Ownership: values only.
+// ReleaseNotesLink.h: which address of a link may be passed to the desktop when a person clicks it. Pure functions.
 #pragma once
 
 #include <optional>
@@ -9,13 +8,13 @@
 namespace Pelnar::Engine
 {
 
-/// The address in one normal form, or nothing when it must not be followed. Accepted are http and https with a plain
-/// host (no user name, no backslash, punycode for other alphabets) and mailto with an address alone: parameters of a
-/// mail, attachments among them, are cut off. What came out once comes out unchanged.
+/// The address in normal form, or empty if it must not be followed. Accepted are http and https with a plain host (no
+/// user name, no backslash, punycode for other alphabets), and mailto with only an address: parameters of a mail, such
+/// as attachments, are removed. A returned address is returned unchanged when passed again.
 [[nodiscard]] std::optional<std::string> SafeLink(std::string_view address);
 
-/// The length of the http or https address that starts at \a text in running text, without the punctuation that ends
-/// the sentence; 0 when none starts there.
+/// The length of the http or https address at the start of \a text in running text, without the punctuation that ends
+/// the sentence; 0 if none starts there.
 [[nodiscard]] std::size_t BareLinkLength(std::string_view text);
 
 } // namespace Pelnar::Engine

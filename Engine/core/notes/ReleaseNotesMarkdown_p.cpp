@@ -30,7 +30,7 @@ private:
     static std::string_view SpanName(MD_SPANTYPE type);
 
     std::size_t m_maxBytes;
-    std::size_t m_openImages = 0; ///< of an image only the words are kept
+    std::size_t m_openImages = 0; ///< only an image's text is kept
     std::string m_html;
 };
 
@@ -168,8 +168,8 @@ void HtmlWriter::AddText(MD_TEXTTYPE type, std::string_view text)
     }
 }
 
-/// What a callback of the parser does. Its answer ends the parsing once the writer is full; some of what was begun, the
-/// cells of a table's row say, is still reported after that.
+/// The action of a parser's callback. Its result ends the parsing once the writer is full. The parser still reports
+/// parts of what it has begun, such as the remaining cells of a table row.
 template <class Write>
 int UnlessFull(void* writer, Write const& write)
 {

@@ -1,6 +1,5 @@
-// ReleaseNotesMarkdown_p.h: the Markdown that release notes are written in (CommonMark, tables, strike-through), made
-// into HTML. The HTML is not safe yet: it passes through the same filter as notes in HTML.
-// Thread: any; no state. Ownership: values only.
+// ReleaseNotesMarkdown_p.h: turns the Markdown of release notes (CommonMark, tables, strike-through) into HTML. The
+// HTML is not safe yet: it passes through the same filter as notes in HTML. Pure functions.
 #pragma once
 
 #include <cstddef>

@@ -72,7 +72,7 @@ bool IsContinuation(char c)
     return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
 }
 
-/// The character at the start of \a text, which is not empty; one wrong byte is one U+FFFD.
+/// The character at the start of \a text, which is not empty; each wrong byte becomes one U+FFFD.
 Decoded DecodeUtf8(std::string_view text)
 {
     auto const first = static_cast<unsigned char>(text.front());
@@ -101,7 +101,7 @@ Decoded DecodeUtf8(std::string_view text)
     return {codePoint, length};
 }
 
-/// The code point to show for \a codePoint, or NO_CHARACTER to leave it out.
+/// The code point to show for \a codePoint, or NO_CHARACTER to remove it.
 std::uint32_t ShownCodePoint(std::uint32_t codePoint)
 {
     if (codePoint == 0x2028 || codePoint == 0x2029)
@@ -121,7 +121,7 @@ void AppendShown(std::string& out, std::uint32_t codePoint)
     }
 }
 
-/// What \a digits name, U+FFFD for no code point at all.
+/// The code point that \a digits name; U+FFFD if it does not exist.
 std::uint32_t CodePointOfDigits(std::string_view digits, std::uint32_t base)
 {
     std::uint32_t codePoint = 0;
@@ -135,7 +135,7 @@ std::uint32_t CodePointOfDigits(std::string_view digits, std::uint32_t base)
     return codePoint > 0x10FFFF || isSurrogate ? REPLACEMENT : codePoint;
 }
 
-/// Appends what the entity between "&" and ";" stands for; false when it is none that is known.
+/// Appends the text of the entity between "&" and ";"; false if the entity is unknown.
 [[nodiscard]] bool AppendEntity(std::string& out, std::string_view name)
 {
     if (name.size() > 1 && name.front() == '#')
@@ -256,7 +256,7 @@ std::string_view PrefixOfWholeCharacters(std::string_view text, std::size_t maxB
         return text;
     }
     std::size_t length = maxBytes;
-    // A character has at most three more bytes; what looks longer is no text anyway.
+    // A character has at most three more bytes; a longer sequence is not text.
     for (int i = 0; i < 3 && length > 0 && IsContinuation(text[length]); ++i)
     {
         --length;

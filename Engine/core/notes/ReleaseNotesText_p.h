@@ -1,5 +1,5 @@
-// ReleaseNotesText_p.h: the text level of the release-notes filter: clean UTF-8, entities, escaping, plain text.
-// Thread: any; no state. Ownership: values only.
+// ReleaseNotesText_p.h: the text level of the release-notes filter: clean UTF-8, entities, escaping, plain text. Pure
+// functions.
 #pragma once
 
 #include <cstddef>
@@ -18,21 +18,21 @@ namespace Pelnar::Engine
 [[nodiscard]] std::string_view TrimmedAscii(std::string_view text);
 [[nodiscard]] bool IsBlank(std::string_view text);
 
-/// The first bytes of \a text, at most \a maxBytes, that do not end within a character.
+/// The first bytes of \a text, at most \a maxBytes, that end between two characters.
 [[nodiscard]] std::string_view PrefixOfWholeCharacters(std::string_view text, std::size_t maxBytes);
 
 /// The first character of \a text, which is clean and not empty.
 [[nodiscard]] std::string_view FirstCharacter(std::string_view text);
 
-/// True for an accent that belongs to no one script and can be heaped on a letter.
+/// True for an accent that belongs to no single script and can be stacked on a letter.
 [[nodiscard]] bool IsCombiningMark(std::string_view character);
 
-/// Valid UTF-8 with "\n" for every kind of line end. Left out are control characters, the marks that reorder text, and
-/// the code points that a rich-text document keeps for its own structure.
+/// Valid UTF-8 with "\n" for every kind of line end. Removed are control characters, characters that reorder text, and
+/// the code points that a rich-text document uses for its own structure.
 [[nodiscard]] std::string CleanText(std::string_view text);
 
-/// Replaces the numeric entities and the well-known named ones; anything else that starts with "&" stays as it is.
-/// What CleanText leaves out does not come in again this way.
+/// Replaces the numeric entities and the well-known named ones; any other text that starts with "&" stays unchanged.
+/// Characters that CleanText removes do not return this way.
 [[nodiscard]] std::string DecodeEntities(std::string_view text);
 
 void AppendEscaped(std::string& out, std::string_view text);

@@ -10,7 +10,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// True when \a text starts with a "<" that opens markup and is no mere sign.
+/// True if \a text starts with a "<" that opens markup, and not with a plain sign.
 bool OpensMarkup(std::string_view text)
 {
     if (text.size() < 2 || text.front() != '<')
@@ -52,7 +52,7 @@ std::optional<NotesToken> NotesTokenizer::Next()
     return std::nullopt;
 }
 
-/// Takes the markup at the start; nothing when it was none that comes out.
+/// Takes the markup at the start; empty if it produces no token.
 std::optional<NotesToken> NotesTokenizer::TakeMarkup()
 {
     if (m_rest[1] == '!' || m_rest[1] == '?')
@@ -96,7 +96,7 @@ std::optional<NotesToken> NotesTokenizer::TakeTag(NotesToken::Kind kind)
     return token;
 }
 
-/// Takes one attribute; false when the tag ends instead, with ">" or nothing at the start.
+/// Takes one attribute; false if the tag ends instead, with ">" or nothing at the start.
 bool NotesTokenizer::TakeAttribute(NotesToken& token)
 {
     while (!m_rest.empty() && (IsAsciiSpace(m_rest.front()) || m_rest.front() == '/'))

@@ -1,7 +1,7 @@
-// ReleaseNotesTokenizer_p.h: cuts HTML into text, start tags and end tags, as forgiving as a browser and in linear
-// time. Comments, declarations and elements whose content is no text for a person never come out. A tag, a comment or
-// such an element that is never closed reaches to the end. Thread: any. Ownership: looks into the text that it was made
-// with, which must outlive it.
+// ReleaseNotesTokenizer_p.h: splits HTML into text, start tags and end tags, as tolerantly as a browser and in linear
+// time. Comments, declarations and elements whose content is not for people produce no token. A tag, a comment or such
+// an element that is never closed extends to the end. Thread: one at a time. Ownership: it refers to the text that it
+// was made with, which must outlive it.
 #pragma once
 
 #include <optional>
@@ -21,8 +21,8 @@ struct NotesToken
     };
 
     Kind kind = Kind::Text;
-    std::string text; ///< Text: with its entities replaced. Tags: the name in lower case.
-    // The attributes that anybody asks for, entities replaced; the first of several with one name counts.
+    std::string text; ///< For text: its content with entities replaced. For tags: the name in lower case.
+    // The attributes that the filter uses, entities replaced; of several with one name the first counts.
     std::optional<std::string> href;
     std::optional<std::string> dir;
     std::optional<std::string> alt;

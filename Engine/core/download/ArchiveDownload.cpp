@@ -23,12 +23,12 @@ namespace
 constexpr quint64 MAX_ARCHIVE_BYTES = quint64{16} << 30;
 constexpr std::chrono::milliseconds PROGRESS_INTERVAL{100};
 constexpr std::chrono::seconds CHECKPOINT_INTERVAL{10};
-/// A connection that brought so much was worth the trouble: its end starts the count of attempts again.
+/// After a connection brings this many bytes, the count of attempts starts again.
 constexpr qint64 WORTHWHILE_BYTES = 1024 * 1024;
-/// Of the answers of one attempt, redirects among them.
+/// For the heads of all answers of one attempt, including redirects.
 constexpr qint64 USUAL_HEAD_BYTES = 8 * 1024;
 
-/// True for what may be better in a moment.
+/// True for a failure that may disappear soon.
 bool IsPassing(EngineError const& error)
 {
     constexpr std::array CAUSES = {ErrorCause::HostNotFound,     ErrorCause::ConnectionRefused,
@@ -40,8 +40,7 @@ bool IsPassing(EngineError const& error)
            std::find(STATUSES.begin(), STATUSES.end(), error.httpStatus) != STATUSES.end();
 }
 
-/// True when the archive that this server has now cannot be the one of the feed, so that no part of it is worth
-/// keeping.
+/// True if the server's archive cannot be the archive of the feed, so that no part of it is worth keeping.
 bool IsAboutTheArchive(ErrorCause cause)
 {
     return cause == ErrorCause::DownloadLengthDiffers || cause == ErrorCause::SurplusBody;
@@ -77,7 +76,7 @@ public:
     {
         m_progress = std::move(progress);
         m_finished = std::move(finished);
-        // A refusal arrives like any other outcome: later.
+        // A refusal arrives later, like any other result.
         QTimer::singleShot(0, this, [this] { Begin(); });
     }
 
@@ -143,7 +142,7 @@ private:
         m_budgetTimer.start(std::chrono::seconds(seconds - std::min(seconds, m_spent.seconds)));
     }
 
-    /// Ends a download that is not worth the checks that it keeps away.
+    /// Ends a download that blocks checks for too little progress.
     void JudgePace()
     {
         std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).seconds;
@@ -158,15 +157,15 @@ private:
 
     quint64 Missing() const { return m_partial.declaredBytes - m_partial.bytes; }
 
-    /// With the time of this run.
+    /// The spending including this run.
     DownloadSpending Spent() const
     {
         DownloadSpending spent = m_spent;
-        spent.seconds += (static_cast<std::uint64_t>(m_clock.elapsed()) + 999) / 1000; // one that has begun counts
+        spent.seconds += (static_cast<std::uint64_t>(m_clock.elapsed()) + 999) / 1000; // a started second counts
         return spent;
     }
 
-    /// Asks for what is missing.
+    /// Requests the missing bytes.
     void Ask()
     {
         if (std::optional<ErrorCause> const cause = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()))
@@ -194,7 +193,7 @@ private:
         m_transfer->Open();
     }
 
-    /// What one attempt brings beside the archive's bytes counts as well, but for usual heads.
+    /// The overhead of an attempt counts too, except usual heads.
     void CountBesideBody(qint64 bytes)
     {
         qint64 const before = std::max<qint64>(m_besideBody - USUAL_HEAD_BYTES, 0);
@@ -209,7 +208,7 @@ private:
             m_transfer->disconnect(this);
             CountBesideBody(m_transfer->BytesBesideBody());
             m_transfer->Abort();
-            m_transfer.release()->deleteLater(); // it may be the sender of this very call
+            m_transfer.release()->deleteLater(); // it may be the sender of this call
         }
     }
 
@@ -236,7 +235,7 @@ private:
         return static_cast<qint64>(Missing());
     }
 
-    /// Why so many bytes must not come; the request for them has been counted already.
+    /// Why so many bytes are not allowed. The request for them is already counted.
     std::optional<ErrorCause> JudgeBytes(std::uint64_t bytes) const
     {
         std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).receivedBytes;
@@ -321,7 +320,7 @@ private:
             FinishArchive();
             return;
         }
-        // Where only the connection's end ends a body, a broken connection and a short body look alike.
+        // If only the connection's end ends a body, a broken connection and a short body look the same.
         std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
         BodyPlan const* const plan = std::get_if<BodyPlan>(&framing);
         bool const mayBeBroken = plan && plan->kind == BodyPlan::Kind::UntilClose;
@@ -353,7 +352,8 @@ private:
     void TakeFailure(EngineError const& failure)
     {
         bool const isTooLarge = failure.cause == ErrorCause::BodyTooLarge;
-        // The reader's limit was the declared length, and it has seen more than that, no matter what it handed on.
+        // The reader's limit was the declared length. The reader has received more than that, even if it passed on
+        // less.
         m_spent.receivedBytes += isTooLarge ? Missing() : 0;
         EngineError const error = isTooLarge ? MakeError(ErrorCause::DownloadLengthDiffers) : AsDownloadError(failure);
         DropTransfer();
@@ -369,14 +369,14 @@ private:
         m_sinceResume = 0;
     }
 
-    /// In the middle of a body or of a pause.
+    /// During a body or a pause.
     void Stop(ErrorCause cause)
     {
         DropTransfer();
         End(AsDownloadError(MakeError(cause)));
     }
 
-    /// Keeps what has arrived, if it is worth anything, and finishes.
+    /// Keeps useful bytes and finishes.
     void End(EngineError const& error)
     {
         StopTimers();
@@ -414,14 +414,14 @@ private:
     std::function<void(DownloadProgress const&)> m_progress;
     std::function<void(DownloadOutcome)> m_finished;
     std::unique_ptr<ArchiveWriter> m_writer;
-    PartialArchive m_partial; ///< with the bytes that wait to be written
+    PartialArchive m_partial; ///< including the bytes that wait to be written
     std::unique_ptr<HttpTransfer> m_transfer;
     FetchRequest m_sent;
-    std::optional<ResumeDecision> m_decision; ///< none while there is no answer, or one that leads elsewhere
+    std::optional<ResumeDecision> m_decision; ///< none while there is no answer, or only a redirect
     int m_redirects = 0;
-    int m_resumes = 0;        ///< since a connection was worthwhile
+    int m_resumes = 0;        ///< since the last worthwhile connection
     qint64 m_sinceResume = 0; ///< bytes of this connection
-    qint64 m_besideBody = 0;  ///< bytes of this attempt that are none of the archive
+    qint64 m_besideBody = 0;  ///< bytes of this attempt that do not belong to the archive
     bool m_hasReceived = false;
     bool m_hasAskedWhole = false;
     TransferRate m_rate;
@@ -429,7 +429,7 @@ private:
     QElapsedTimer m_clock;
     QTimer m_turnTimer;
     QTimer m_trialTimer;
-    std::uint64_t m_receivedBefore = 0; ///< this run
+    std::uint64_t m_receivedBefore = 0; ///< in this run
     QTimer m_budgetTimer;
     QTimer m_resumeTimer;
     QTimer m_checkpointTimer;

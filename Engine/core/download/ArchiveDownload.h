@@ -1,7 +1,7 @@
-// ArchiveDownload.h: brings one archive from a server to a file, in constant memory, and goes on where an interrupted
-// download of the same archive stopped, even one of a process that was killed. What an archive costs is limited over
-// all runs: DownloadBudget.h. Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker;
-// destroying it cancels the download, keeps what is on the disk for the next one, and nothing is called any more.
+// ArchiveDownload.h: downloads one archive to a file, in constant memory. It continues an interrupted download of the
+// same archive, even one of a killed process. DownloadBudget.h limits the cost of an archive over all runs. Thread: its
+// maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it cancels the download and keeps the bytes
+// on the disk for the next one; no callback follows.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -22,29 +22,30 @@ namespace Pelnar::Engine
 /// For whom an archive is downloaded.
 enum class DownloadFor
 {
-    Nobody, ///< it ends after a while, so that it keeps no check away; the next one goes on with it
-    Person, ///< who watches it, and may spend another budget when the first one is spent
+    Nobody, ///< it ends after a while, so that it blocks no check for longer; the next one continues it
+    Person, ///< who watches it, and may spend a second budget after the first one
 };
 
 struct DownloadRequest
 {
     QUrl url;
-    quint64 declaredBytes = 0; ///< the length that the feed gives; a body of any other length is refused
-    QString signature;         ///< as the feed gives it; with address and length it tells one archive from another
-    QUrl feedUrl;              ///< the feed's, whose user name and password its own origin gets as well
-    AddressReach feedReach = AddressReach::Network; ///< the archive is fetched from no nearer address
-    QString folder; ///< absolute; made if missing; this user's alone; where the file grows
+    quint64 declaredBytes = 0; ///< the length in the feed; a body of any other length is refused
+    QString signature;         ///< as in the feed; address, length and signature identify an archive
+    QUrl feedUrl;              ///< the feed's address; its user name and password also go to its own origin for
+                               ///< archives
+    AddressReach feedReach = AddressReach::Network; ///< the archive comes from no nearer address
+    QString folder; ///< absolute; created if missing; only this user may access it; contains the file
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits limits; ///< maxBodyBytes and totalTimeout do not apply to an archive
     DownloadFor purpose = DownloadFor::Nobody;
-    std::chrono::milliseconds unwatchedTurn = std::chrono::minutes(30); ///< how long one for nobody runs at a time
-    /// After so long one for nobody ends that cannot come to its end within its budget at the pace so far.
+    std::chrono::milliseconds unwatchedTurn = std::chrono::minutes(30); ///< the longest run of an automatic download
+    /// After this time an automatic download ends if its rate so far cannot complete it within its budget.
     std::chrono::milliseconds unwatchedTrial = std::chrono::minutes(1);
 };
 
 struct DownloadProgress
 {
-    quint64 doneBytes = 0; ///< with what was there before
+    quint64 doneBytes = 0; ///< including bytes of earlier runs
     quint64 totalBytes = 0;
     quint64 bytesPerSecond = 0; ///< over the last seconds; 0 while unknown
 };
@@ -52,8 +53,8 @@ struct DownloadProgress
 struct DownloadOutcome
 {
     std::optional<EngineError> error;
-    /// Opened for reading only, at its start; nobody has it open for writing, and while it or a copy of it is open no
-    /// other process downloads the same archive. Not set on error.
+    /// Opened for reading only, at its start. No process has it open for writing. While it or a copy of it is open, no
+    /// other process downloads the same archive. Empty on error.
     UniqueFd archive;
 };
 
@@ -65,17 +66,16 @@ public:
     ArchiveDownload(ArchiveDownload const&) = delete;
     ArchiveDownload& operator=(ArchiveDownload const&) = delete;
 
-    /// Both callbacks come from the event loop, \a progress at most some ten times a second, \a finished once and last;
-    /// either may destroy this object. REQUIRES: called once.
+    /// Both callbacks come from the event loop: \a progress at most about ten times a second, \a finished once and
+    /// last. Either may destroy this object. REQUIRES: called once.
     void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
 
-    /// Removes the file of \a request, whole or partial: for an archive that was refused, or is not needed any more.
-    /// What it has cost is remembered. Nothing happens when there is none. The room on the disk is free when the
-    /// answer, which may be unset, has been closed, and closing it takes the longer the larger the file is.
+    /// Removes the whole or partial file of \a request, after an archive was refused or is no longer needed. The record
+    /// of its cost stays. Without a file nothing happens. The disk space is free after the returned descriptor (which
+    /// may be empty) is closed. Closing takes longer for a larger file.
     [[nodiscard]] static UniqueFd Discard(DownloadRequest const& request);
 
-    /// Removes all archives in \a folder that nobody uses, and all that is known of them: for an application that needs
-    /// none. May take long.
+    /// Removes all unused archives in \a folder and their records, for an application that needs none. May take long.
     static void Clear(QString const& folder);
 
 private:

@@ -22,7 +22,7 @@ namespace
 constexpr std::size_t BUFFERS = 4;
 constexpr std::size_t BUFFER_BYTES = 256 * 1024;
 
-/// Whether the one who ends the writer waits for a piece of work that has begun.
+/// Whether the destructor waits for work that has begun.
 enum class Ending
 {
     Waits,
@@ -35,7 +35,7 @@ struct Work
     std::function<PartialFile::Fault(PartialFile&)> run;
 };
 
-/// Calls a copy, since the writer that holds \a function may go meanwhile.
+/// Calls a copy, because the writer that holds \a function may be destroyed during the call.
 template <typename Function, typename... Arguments>
 void Called(Function function, Arguments&&... arguments)
 {
@@ -44,12 +44,12 @@ void Called(Function function, Arguments&&... arguments)
 
 } // namespace
 
-/// What both threads hold, each as long as it needs it.
+/// Shared by both threads; each keeps it as long as needed.
 struct WriterState
 {
     explicit WriterState(PartialPlace place) : file(std::move(place)) {}
 
-    PartialFile file; ///< the working thread's, until it has ended
+    PartialFile file; ///< used by the working thread until it has ended
     std::array<std::vector<char>, BUFFERS> buffers;
 
     std::mutex mutex; ///< guards everything below
@@ -59,7 +59,7 @@ struct WriterState
     std::vector<std::size_t> freeBuffers;
     bool isRoomWanted = false;
     bool isStopped = false;
-    QObject* events = nullptr; ///< of the maker's thread; alive while not stopped
+    QObject* events = nullptr; ///< belongs to the maker's thread; alive while not stopped
 };
 
 class ArchiveWriter::Impl
@@ -89,7 +89,7 @@ public:
         m_state->changed.wait(lock, [this] { return m_state->running != Ending::Waits; });
         if (m_state->running == Ending::GoesOn)
         {
-            // A disk may take seconds to make things durable. The file is let go now; the rest touches nothing.
+            // A disk may take seconds for a sync. The file is unlocked now; the remaining work does not touch it.
             m_state->file.Unlock();
             lock.unlock();
             m_thread.detach();
@@ -101,7 +101,7 @@ public:
 
     void Start()
     {
-        // A signal meant for the process is none of this thread's; one about a file's size becomes an error of the
+        // A signal for the process must not arrive in this thread. A signal about a file's size becomes an error of the
         // call.
         SignalBlock const block;
         try
@@ -123,7 +123,7 @@ public:
         m_state->changed.notify_all();
     }
 
-    /// Adds work that has an answer for the maker's thread.
+    /// Adds work that returns an answer to the maker's thread.
     template <typename Answer>
     void AddAnswered(Answer answer)
     {
@@ -145,7 +145,7 @@ public:
             });
     }
 
-    /// Has the record say what is true by then.
+    /// Adds work that writes the state at that time into the record.
     void AddRecording()
     {
         Add(Ending::Waits, &PartialFile::StageRecord);
@@ -207,7 +207,7 @@ public:
     ArchiveWriterEvents const& Events() const { return m_events; }
 
 private:
-    /// Has \a call called in the maker's thread, unless the writer has ended by then.
+    /// Calls \a call in the maker's thread, unless the writer has ended by then.
     static void Post(WriterState& state, std::function<void()> call)
     {
         std::lock_guard const lock(state.mutex);
@@ -241,7 +241,7 @@ private:
             state->changed.notify_all();
             if (fault)
             {
-                return; // what was to follow built on this
+                return; // the following work depends on this
             }
         }
     }
@@ -287,7 +287,7 @@ void ArchiveWriter::Flush()
 
 void ArchiveWriter::Restart(Validators const& validators)
 {
-    m_impl->Flush(); // into the file, and away with it, but never behind the new start
+    m_impl->Flush(); // written before the restart discards it, never after the new start
     m_impl->Add(Ending::Waits, [validators](PartialFile& file) { return file.Restart(validators); });
     m_impl->AddRecording();
 }

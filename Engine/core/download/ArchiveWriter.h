@@ -1,7 +1,7 @@
-// ArchiveWriter.h: a partial file that a thread of its own works on, so that no disk, however slow, holds the event
-// loop up. Bytes wait in a few fixed buffers; when all are full there is no room until the disk has caught up.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it drops what has not
-// been written, lets the file's lock go, and nothing is called any more.
+// ArchiveWriter.h: a partial file with its own writing thread, so that a slow disk does not block the event loop. Bytes
+// wait in a few fixed buffers. When all are full, there is no space until the disk has caught up. Thread: its maker's,
+// with Qt's event loop. Ownership: its maker owns it. Destroying it discards unwritten bytes and releases the file's
+// lock; no callback follows.
 #pragma once
 
 #include "Engine/core/download/PartialFile.h"
@@ -13,13 +13,13 @@
 namespace Pelnar::Engine
 {
 
-/// What the writer tells, each from the event loop; each may destroy the writer.
+/// The writer's callbacks, each from the event loop. Each may destroy the writer.
 struct ArchiveWriterEvents
 {
     std::function<void(PartialArchive const&, DownloadSpending const&)> opened;
-    std::function<void()> roomMade; ///< after Room() had none
+    std::function<void()> roomMade; ///< after Room() returned an empty buffer
     std::function<void(UniqueFd)> finished;
-    std::function<void(EngineError const&)> failed; ///< the last of all
+    std::function<void(EngineError const&)> failed; ///< the last callback
 };
 
 class ArchiveWriter
@@ -33,18 +33,18 @@ public:
     void Open();
     BodyRoom Room();
     void Took(qint64 bytes);
-    /// Has what was taken written, though its buffer is not full.
+    /// Writes the taken bytes even if their buffer is not full.
     void Flush();
     void Restart(Validators const& validators);
-    /// Has the record tell what the archive has cost. REQUIRES: called before the first byte is taken.
+    /// Writes the archive's cost to the record. REQUIRES: called before the first byte is taken.
     void Count(DownloadSpending const& spent);
-    /// Makes durable what has been taken so far.
+    /// Makes the bytes taken so far durable.
     void Checkpoint(DownloadSpending const& spent);
-    /// Flushes and answers with finished; the descriptor is for reading only.
+    /// Flushes, then calls finished with a read-only descriptor.
     void Finish();
-    /// Flushes, and calls \a done when all is written; then the file is unlocked.
+    /// Flushes, and calls \a done when everything is written; then the file is unlocked.
     void Close(DownloadSpending const& spent, std::function<void()> done);
-    /// The same, and removes the file before.
+    /// The same, but removes the file first.
     void Remove(DownloadSpending const& spent, std::function<void()> done);
 
 private:

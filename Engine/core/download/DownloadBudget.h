@@ -1,6 +1,5 @@
-// DownloadBudget.h: what one archive may cost over all attempts and all runs of the application, so that no server can
-// keep a client downloading for ever. Pure decisions.
-// Thread: any; no state. Ownership: values only.
+// DownloadBudget.h: the cost limits of one archive over all attempts and all runs of the application. So no server can
+// keep a client downloading forever. Pure functions.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -12,12 +11,12 @@
 namespace Pelnar::Engine
 {
 
-/// What an archive has cost so far.
+/// The cost of an archive so far.
 struct DownloadSpending
 {
-    std::uint64_t receivedBytes = 0; ///< of bodies, those that were thrown away included
-    std::uint64_t attempts = 0;      ///< requests for the archive or its rest
-    std::uint64_t seconds = 0;       ///< while a download ran
+    std::uint64_t receivedBytes = 0; ///< body bytes, including discarded ones
+    std::uint64_t attempts = 0;      ///< requests for the archive or the rest of it
+    std::uint64_t seconds = 0;       ///< during which a download ran
 
     friend bool operator==(DownloadSpending const& a, DownloadSpending const& b)
     {
@@ -25,12 +24,12 @@ struct DownloadSpending
     }
 };
 
-/// The most that an archive may cost: twice its length; one attempt for each 64 KiB and 64 more; half an hour and the
-/// time that its length takes at 2 KiB/s, but no more than a day.
+/// The highest cost of an archive: twice its length; one attempt for each 64 KiB plus 64; half an hour plus the time
+/// for its length at 2 KiB/s, at most a day.
 [[nodiscard]] DownloadSpending BudgetOf(std::uint64_t declaredBytes);
 
-/// Why no request for \a missingBytes of an archive may be made; nothing when it may. A request that cannot bring the
-/// end of the archive within the budget is not made.
+/// Why no request for \a missingBytes of an archive may be made; empty if it may. A request that cannot complete the
+/// archive within the budget is not made.
 [[nodiscard]] std::optional<ErrorCause> JudgeSpending(DownloadSpending const& spent, std::uint64_t declaredBytes,
                                                       std::uint64_t missingBytes);
 

@@ -36,7 +36,7 @@ UniqueFd OpenAt(int folder, std::string const& name, int flags)
     return UniqueFd(descriptor);
 }
 
-/// Of the archive to which the file \a name belongs; empty for a file that no download made.
+/// The archive to which the file \a name belongs; empty for a file that no download created.
 std::string ArchiveNameOf(std::string const& name)
 {
     std::string const ending = name.size() > HASH_CHARACTERS ? name.substr(HASH_CHARACTERS) : std::string();
@@ -67,10 +67,10 @@ bool IsInUse(UniqueFd const& archive)
            errno == EWOULDBLOCK;
 }
 
-/// Removes the archive \a name unless somebody uses it; the answer tells.
+/// Removes the archive \a name unless it is in use. Returns true if it was removed.
 [[nodiscard]] bool HasRemoved(UniqueFd const& folder, std::string const& name, ArchiveRecord record)
 {
-    // The lock is held until the name has gone, so that nobody begins to use it meanwhile.
+    // The lock is held until the name is removed, so that no process starts to use the archive in between.
     UniqueFd const archive = OpenFileAt(folder, name, O_RDONLY);
     if (IsInUse(archive))
     {
@@ -112,7 +112,7 @@ bool IsSameFile(struct stat const& a, struct stat const& b)
 
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
 {
-    // A FIFO in the file's place must not hold the process up.
+    // A FIFO in the file's place must not block the process.
     return OpenAt(folder.Get(), name, flags | O_NONBLOCK);
 }
 

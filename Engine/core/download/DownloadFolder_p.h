@@ -1,6 +1,5 @@
-// DownloadFolder_p.h: the folder in which an application's archives grow: opened safely, with a share of its disk left
-// free, and cleared of what other downloads left.
-// Thread: any; no state. Ownership: descriptors are their caller's.
+// DownloadFolder_p.h: the folder with an application's archives. It is opened safely, keeps a share of its disk free,
+// and is cleared of other downloads' files. Any thread; no state. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -17,9 +16,9 @@ namespace Pelnar::Engine
 {
 
 constexpr char ARCHIVE_ENDING[] = ".archive";
-constexpr char RECORD_ENDING[] = ".record";     ///< behind an archive's name
-constexpr char STAGED_ENDING[] = ".record.new"; ///< as well
-/// After so long nobody counts on what was left here.
+constexpr char RECORD_ENDING[] = ".record";     ///< follows an archive's name
+constexpr char STAGED_ENDING[] = ".record.new"; ///< also follows it
+/// After this time a file left here is abandoned.
 constexpr std::time_t ABANDONED_SECONDS = 30 * 24 * 3600;
 
 template <typename Call>
@@ -34,20 +33,20 @@ int Retried(Call call)
 }
 
 QString Described(int errorNumber);
-/// The error of a call that opens or makes something.
+/// The error of a call that opens or creates something.
 EngineError OpenError(int errorNumber);
 
-/// A regular file of this user with one name, which nobody else can write.
+/// A regular file of this user with one name that no other user can write.
 [[nodiscard]] bool IsOurs(struct stat const& status);
 [[nodiscard]] bool IsSameFile(struct stat const& a, struct stat const& b);
 
-/// Without following links, and without waiting for what may stand in the file's place.
+/// Follows no links, and does not block on an object in the file's place.
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags);
 UniqueFd OpenFolderNamed(std::string const& path);
-/// Makes the folder if it is missing. Refuses one that is not this user's alone to write.
+/// Creates the folder if it is missing. Refuses a folder that other users can write.
 std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path);
 
-/// The room on the folder's disk, without the share that is left free.
+/// The space on the folder's disk, without the share that stays free.
 struct DiskRoom
 {
     std::uint64_t freeBytes = 0;
@@ -57,18 +56,17 @@ struct DiskRoom
 };
 DiskRoom RoomIn(UniqueFd const& folder);
 
-/// Of an archive that is not kept.
+/// The record of a removed archive.
 enum class ArchiveRecord
 {
-    Kept, ///< what the archive has cost is not forgotten
+    Kept, ///< the archive's cost is remembered
     Removed,
 };
 void RemoveArchive(UniqueFd const& folder, std::string const& name, ArchiveRecord record);
 
-/// Removes all archives but the one named \a keptName, unless somebody uses them. Their records are kept for a while, a
-/// few of them.
+/// Removes all archives except \a keptName and those in use. Some of their records are kept for a while.
 void RemoveOtherArchives(UniqueFd const& folder, std::string const& path, std::string const& keptName);
-/// Removes all archives and records, unless somebody uses them.
+/// Removes all archives and records that are not in use.
 void RemoveAllArchives(UniqueFd const& folder, std::string const& path);
 
 } // namespace Pelnar::Engine

@@ -23,17 +23,17 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Between opening a file and locking it somebody may have replaced it, but not again and again.
+/// Between opening and locking, another process may have replaced the file, but not repeatedly.
 constexpr int MAX_LOCK_ATTEMPTS = 10;
 
-/// Different after every start of the system; empty when it cannot be told.
+/// Different after every boot; empty if it cannot be read.
 std::string SystemStart()
 {
     QFile file(QStringLiteral("/proc/sys/kernel/random/boot_id"));
     return file.open(QIODevice::ReadOnly) ? file.read(64).trimmed().toStdString() : std::string();
 }
 
-/// \a record with what was spent so long ago that it does not count any more.
+/// \a record without costs that are too old to count.
 std::optional<PartialRecord> Recent(std::optional<PartialRecord> record, std::time_t written)
 {
     if (record && std::time(nullptr) - written > ABANDONED_SECONDS)
@@ -48,7 +48,7 @@ std::optional<PartialRecord> Recent(std::optional<PartialRecord> record, std::ti
 PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t declaredBytes, QString const& signature)
 {
     QByteArray const address = url.adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment).toEncoded();
-    // No address and no number holds a line's end, so that no two triples make the same text.
+    // Addresses and numbers contain no line feed, so two different triples never give the same text.
     QByteArray const text = address + '\n' + QByteArray::number(quint64{declaredBytes}) + '\n' + signature.toUtf8();
     QByteArray const name = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + ARCHIVE_ENDING;
     return {QFile::encodeName(folder).toStdString(), name.toStdString(), address.toStdString(), declaredBytes};
@@ -84,7 +84,7 @@ PartialFile::Fault PartialFile::Open()
     RemoveOtherArchives(m_folder, m_place.folder, m_place.name);
     if (m_found.bytes == m_place.declaredBytes)
     {
-        return std::nullopt; // nothing more is written
+        return std::nullopt; // no further write
     }
     if (Fault const fault = OpenWriter())
     {
@@ -101,7 +101,7 @@ void PartialFile::TakeRecord(PartialRecord const& record, FoundFile const& file)
 {
     m_found.bytes = TrustedBytes(record, file, m_place.url, m_place.declaredBytes);
     m_record.spent = record.spent;
-    // A program that was killed had no time to tell of all that it received.
+    // A killed program had no time to record all bytes that it received.
     m_record.spent.receivedBytes = std::max<std::uint64_t>(record.spent.receivedBytes, m_found.bytes);
     if (m_found.bytes > 0)
     {
@@ -177,8 +177,8 @@ PartialFile::Fault PartialFile::Lock()
             {
                 return MakeError(ErrorCause::DownloadBusy);
             }
-            // Deliberate: some network file systems lock no file that is opened for reading. There two processes may
-            // write the same file; then the archive's signature does not match, and it is fetched again.
+            // Deliberate: some network file systems cannot lock a file that is opened for reading. There, two processes
+            // may write the same file. Then the archive's signature does not match, and the archive is fetched again.
             if (errno != EBADF && errno != ENOLCK && errno != EOPNOTSUPP && errno != EINVAL && errno != ENOSYS)
             {
                 return OpenError(errno);
@@ -254,7 +254,7 @@ std::optional<PartialRecord> PartialFile::ReadRecord() const
 
 PartialFile::Fault PartialFile::Restart(Validators const& validators)
 {
-    // The record must never name a version of which the file still holds bytes of another.
+    // The record must never name a version while the file still has bytes of another one.
     if (Retried([this] { return ftruncate(m_writer.Get(), 0); }) != 0 || lseek(m_writer.Get(), 0, SEEK_SET) != 0)
     {
         return FailedWrite(errno);
@@ -267,7 +267,7 @@ PartialFile::Fault PartialFile::Restart(Validators const& validators)
 
 PartialFile::Fault PartialFile::Append(Bytes bytes)
 {
-    // Others write to the disk as well.
+    // Other programs write to the disk too.
     if (RoomIn(m_folder).UsableBytes() < bytes.size())
     {
         return FailedWrite(ENOSPC);
@@ -277,7 +277,7 @@ PartialFile::Fault PartialFile::Append(Bytes bytes)
         ssize_t const count = pwrite(m_writer.Get(), bytes.data(), bytes.size(), static_cast<off_t>(m_written));
         if (count == 0 || (count < 0 && errno != EINTR))
         {
-            return FailedWrite(count == 0 ? EIO : errno); // it would be written to for ever
+            return FailedWrite(count == 0 ? EIO : errno); // otherwise the loop would never end
         }
         std::size_t const written = count < 0 ? 0 : static_cast<std::size_t>(count);
         bytes.remove_prefix(written);
@@ -314,7 +314,7 @@ PartialFile::Fault PartialFile::SyncRecord()
 {
     if (m_record.durableBytes == 0)
     {
-        return std::nullopt; // to lose it is to lose nothing but a count
+        return std::nullopt; // losing it loses only a count
     }
     return Retried([this] { return fdatasync(m_staged.Get()); }) == 0 ? std::nullopt : Fault(FailedWrite(errno));
 }
@@ -363,10 +363,10 @@ void PartialFile::RemoveArchive()
 
 void PartialFile::Remove()
 {
-    // An open file keeps its blocks, no matter what its names are.
+    // An open file keeps its blocks even without names.
     if (m_writer && ftruncate(m_writer.Get(), 0) != 0)
     {
-        return; // a disk that refuses even this gives nothing back anyway
+        return; // a disk that refuses even this frees no space
     }
     Engine::RemoveArchive(m_folder, m_place.name, ArchiveRecord::Removed);
 }
@@ -387,7 +387,7 @@ EngineError PartialFile::FailedWrite(int errorNumber)
     case ENOMEM:
         return MakeError(ErrorCause::DownloadSystemBusy, Described(errorNumber));
     }
-    // A full disk is left as it was found, and what a failing one holds is not to be trusted.
+    // A full disk gets its space back, and the content of a failing disk is not reliable.
     Remove();
     switch (errorNumber)
     {

@@ -1,6 +1,6 @@
-// PartialFile.h: the file in which an archive grows, and the record beside it: opened without following anything that
-// somebody put there, locked against other processes, cut to what can be trusted.
-// Thread: one at a time. Ownership: its descriptors, but for the one that Finish() hands over.
+// PartialFile.h: the file of a partial archive and its record. It is opened without following links, locked against
+// other processes, and cut to the bytes that can be trusted. Thread: one at a time. Ownership: its descriptors, except
+// the one that Finish() hands over.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -15,19 +15,19 @@
 namespace Pelnar::Engine
 {
 
-/// Where an archive belongs.
+/// The location of an archive.
 struct PartialPlace
 {
     std::string folder;
-    std::string name; ///< of the archive's file; the record's is longer
+    std::string name; ///< of the archive's file; the record's name is longer
     std::string url;  ///< without user name and password
     std::uint64_t declaredBytes = 0;
 };
 
-/// The same archive has the same place in every run: its name is made of \a url, \a declaredBytes and \a signature.
+/// The same archive has the same place in every run: its name is made from \a url, \a declaredBytes and \a signature.
 PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t declaredBytes, QString const& signature);
 
-/// Every operation answers with what went wrong; nothing when all is well.
+/// Every operation returns its error, or an empty value on success.
 class PartialFile
 {
 public:
@@ -35,34 +35,35 @@ public:
 
     explicit PartialFile(PartialPlace place);
 
-    /// Makes the folder and the file if they are missing, locks the file, cuts it to what can be trusted, and removes
-    /// the application's other archives. Refuses a disk without room for the rest and for a share that is left free.
+    /// Creates the folder and the file if they are missing, locks the file, cuts it to the bytes that can be trusted,
+    /// and removes the application's other archives. Refuses a disk without space for the rest and for the share that
+    /// stays free.
     Fault Open();
-    /// What was there. REQUIRES: opened.
+    /// The bytes found. REQUIRES: opened.
     PartialArchive const& Found() const { return m_found; }
-    /// What the archive has cost, as far as it was told. REQUIRES: opened.
+    /// The recorded cost of the archive. REQUIRES: opened.
     DownloadSpending const& Spent() const { return m_record.spent; }
     void SetSpent(DownloadSpending const& spent) { m_record.spent = spent; }
 
-    /// Forgets every byte; from now on bytes of the version with \a validators come.
+    /// Discards every byte. The following bytes belong to the version with \a validators.
     Fault Restart(Validators const& validators);
     /// REQUIRES: the record was published after Open() and after every Restart().
     Fault Append(Bytes bytes);
 
-    /// The steps that make what has been written so far durable and then say so, in this order. Those that sync may
-    /// take long; they change nothing, so that nobody has to wait for them before the file is opened again. Without the
-    /// first, the others tell what is known besides.
+    /// The steps that make the written bytes durable and then record this, in this order. Steps that sync may take
+    /// long. They change nothing, so the file can be opened again without waiting for them. Without the first step, the
+    /// others record the remaining values.
     Fault SyncBytes();
     Fault StageRecord();
     Fault SyncRecord();
     Fault PublishRecord();
     Fault SyncFolder();
 
-    /// Ends the writing; the descriptor can only be read from, and keeps the lock.
+    /// Ends the writing. The returned descriptor is read-only and keeps the lock.
     UniqueFd Finish();
-    /// Lets another process, or another download of this one, have the file.
+    /// Releases the file for another process or another download of this one.
     void Unlock();
-    /// Removes the file and leaves the record, which tells what the archive has cost. REQUIRES: restarted.
+    /// Removes the file and keeps the record of the archive's cost. REQUIRES: restarted.
     void RemoveArchive();
 
 private:
@@ -70,33 +71,34 @@ private:
     Fault OpenReader();
     Fault Lock();
     Fault OpenWriter();
-    /// Frees the name for a file of ours.
+    /// Frees the name for this user's file.
     Fault MakeWay(std::string const& name);
     Fault CheckRoom() const;
     std::optional<PartialRecord> ReadRecord() const;
     void TakeRecord(PartialRecord const& record, FoundFile const& file);
-    /// Removes file and record, and gives the disk's blocks back.
+    /// Removes the file and the record, and frees the disk's blocks.
     void Remove();
     EngineError RoomError(int errorNumber) const;
-    /// What \a errorNumber, of a call that changes the file or the record, means; leaves nothing behind on a disk that
-    /// is full or fails.
+    /// The error for \a errorNumber, of a call that changes the file or the record. On a full or failing disk it
+    /// removes all files.
     EngineError FailedWrite(int errorNumber);
 
     PartialPlace m_place;
     UniqueFd m_folder;
-    UniqueFd m_reader; ///< holds the lock; nobody who only reads can break a later reader's lease
+    UniqueFd m_reader; ///< holds the lock; being read-only, it cannot break a later reader's lease
     UniqueFd m_writer;
-    UniqueFd m_staged; ///< the record that is to replace the one before
+    UniqueFd m_staged; ///< the record that will replace the current one
     PartialArchive m_found;
     PartialRecord m_record;
     std::uint64_t m_written = 0;
 };
 
-/// Removes the archive that PartialFile left at \a place, in use or not: who uses it keeps a file without a name. The
-/// record of what it cost stays. The answer, if there was a file, is the last hold on it, unless somebody uses it.
+/// Removes the archive that PartialFile left at \a place, even if it is in use: its user keeps a file without a name.
+/// The record of its cost stays. If there was a file, the returned descriptor is the last reference to it, unless the
+/// file is in use.
 [[nodiscard]] UniqueFd RemovePartialFile(PartialPlace const& place);
 
-/// Removes all archives in the folder and all that is known of them, unless somebody uses them.
+/// Removes all unused archives in the folder and their records.
 void ClearDownloadFolder(QString const& path);
 
 } // namespace Pelnar::Engine

@@ -1,6 +1,5 @@
-// PartialRecord.h: what is known of a partial archive beside its bytes, as the small file that stands beside it;
-// docs/formats/partial-download.md.
-// Thread: any; no state. Ownership: values only.
+// PartialRecord.h: the record of a partial archive, a small file next to it; docs/formats/partial-download.md. Pure
+// functions.
 #pragma once
 
 #include "Engine/core/download/DownloadBudget.h"
@@ -20,9 +19,9 @@ struct PartialRecord
 {
     std::string url; ///< without user name and password
     std::uint64_t declaredBytes = 0;
-    std::uint64_t fileNumber = 0;   ///< of the archive's file on its file system: no other file is meant
-    std::string systemStart;        ///< of the run of the system in which the file was written
-    std::uint64_t durableBytes = 0; ///< on the disk no matter what happens
+    std::uint64_t fileNumber = 0;   ///< inode number of the archive's file: the record is about no other file
+    std::string systemStart;        ///< the boot in which the file was written
+    std::uint64_t durableBytes = 0; ///< on the disk even after a power failure
     Validators validators;
     DownloadSpending spent = {}; ///< by all downloads of the archive
 
@@ -36,20 +35,20 @@ struct PartialRecord
 };
 
 std::string EncodePartialRecord(PartialRecord const& record);
-/// Nothing for bytes that are no record.
+/// Empty for bytes that are not a record.
 std::optional<PartialRecord> DecodePartialRecord(std::string_view bytes);
 
-/// The partial file as it is found on the disk.
+/// The partial file as found on the disk.
 struct FoundFile
 {
     std::uint64_t bytes = 0;
     std::uint64_t fileNumber = 0;
-    std::string systemStart; ///< of the present run of the system; empty when it cannot be told
+    std::string systemStart; ///< the current boot; empty if it cannot be read
 };
 
-/// How many bytes of \a file are surely the archive's of which \a record tells: all of them within one run of the
-/// system, since what a killed program wrote is not lost; after that, what was made durable. \a url and
-/// \a declaredBytes are those that are wanted.
+/// How many bytes of \a file certainly belong to the archive of \a record: all of them within one boot, because what a
+/// killed program wrote is not lost; after that only the durable ones. \a url and \a declaredBytes belong to the wanted
+/// archive.
 std::uint64_t TrustedBytes(PartialRecord const& record, FoundFile const& file, std::string const& url,
                            std::uint64_t declaredBytes);
 

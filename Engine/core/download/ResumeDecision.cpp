@@ -11,14 +11,14 @@ constexpr int STATUS_OK = 200;
 constexpr int STATUS_PARTIAL = 206;
 constexpr int STATUS_RANGE_NOT_SATISFIABLE = 416;
 
-/// The only description of the rest of \a partial that is understood.
+/// The only description of the rest of \a partial that is accepted.
 QByteArray RangeOfRest(PartialArchive const& partial)
 {
     return "bytes " + QByteArray::number(partial.bytes) + '-' + QByteArray::number(partial.declaredBytes - 1) + '/' +
            QByteArray::number(partial.declaredBytes);
 }
 
-/// Why a body cannot have \a bytes; nothing when it can.
+/// Why a body cannot have \a bytes; empty if it can.
 std::optional<ErrorCause> JudgeLength(HttpHead const& head, quint64 bytes)
 {
     std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
@@ -33,7 +33,7 @@ std::optional<ErrorCause> JudgeLength(HttpHead const& head, quint64 bytes)
 
 bool IsRestOf(PartialArchive const& partial, HttpHead const& head)
 {
-    // The validator must be told again: a server may know ranges and not know the condition on them.
+    // The answer must repeat the validator: a server may support ranges but not the condition on them.
     QByteArray const& asked = PreferredValidator(partial.validators);
     QByteArray const name = partial.validators.entityTag.isEmpty() ? "last-modified" : "etag";
     bool const isMultipart = head.OnlyValue("content-type").toLower().startsWith("multipart/");

@@ -1,6 +1,5 @@
-// ResumeDecision.h: what becomes of a partial archive when a server has answered: pure decisions on what is on the disk
+// ResumeDecision.h: what to do with a partial archive after a server's answer. Pure functions of the bytes on the disk
 // and the head of the answer.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -17,10 +16,10 @@ struct PartialArchive
 {
     quint64 bytes = 0; ///< on the disk, from the archive's start
     quint64 declaredBytes = 0;
-    Validators validators; ///< of the answer that they came from
+    Validators validators; ///< of the answer that the bytes came from
 };
 
-/// The fields of a request for the rest; none when the whole archive has to be asked for.
+/// The fields of a request for the rest; none if the whole archive must be requested.
 std::vector<HeaderField> RangeFields(PartialArchive const& partial);
 
 enum class ResumeStep
@@ -28,17 +27,17 @@ enum class ResumeStep
     Append,   ///< the body is the rest
     Restart,  ///< the body is the whole archive: begin at 0
     HandOver, ///< what is on the disk is the whole archive
-    AskWhole, ///< what is on the disk is of no use: forget it and ask for the whole
+    AskWhole, ///< the bytes on the disk are useless: discard them and request the whole archive
     Refuse,
 };
 
 struct ResumeDecision
 {
     ResumeStep step = ResumeStep::Refuse;
-    std::optional<EngineError> error; ///< of Refuse only
+    std::optional<EngineError> error; ///< for Refuse only
 };
 
-/// Judges the answer \a head, which leads nowhere else, to a request with RangeFields(\a partial).
+/// Judges the answer \a head, which is not a redirect, to a request with RangeFields(\a partial).
 [[nodiscard]] ResumeDecision DecideResume(PartialArchive const& partial, HttpHead const& head);
 
 } // namespace Pelnar::Engine

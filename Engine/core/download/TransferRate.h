@@ -1,5 +1,4 @@
-// TransferRate.h: how fast something comes, over its last seconds.
-// Thread: one at a time. Ownership: values only.
+// TransferRate.h: the rate of a transfer over its last seconds. Thread: one at a time.
 #pragma once
 
 #include <QElapsedTimer>
@@ -14,7 +13,7 @@ class TransferRate
 public:
     TransferRate();
 
-    /// \a doneBytes is all that has come by now.
+    /// \a doneBytes is the total so far.
     void Add(quint64 doneBytes);
     /// 0 while unknown.
     quint64 BytesPerSecond() const;

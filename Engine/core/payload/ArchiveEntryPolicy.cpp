@@ -56,7 +56,7 @@ bool HasDriveLetter(std::string_view path)
            ((path[0] >= 'a' && path[0] <= 'z') || (path[0] >= 'A' && path[0] <= 'Z'));
 }
 
-/// Two names that some file system takes for one fold to the same text.
+/// Names that some file system treats as equal fold to the same text.
 std::string Fold(std::string_view path)
 {
     bool const isAscii = std::all_of(path.begin(), path.end(),
@@ -96,7 +96,7 @@ UpdateFault CheckComponent(std::string_view name, ArchiveLimits const& limits)
     return name.size() > limits.maxNameBytes ? UpdateFault::EntryNameTooLong : UpdateFault::None;
 }
 
-/// Checks \a entry's path and writes it, without "./" before and "/" after it, to \a path.
+/// Checks \a entry's path and writes it to \a path, without a leading "./" and a trailing "/".
 UpdateFault NormalizePath(ArchiveEntry const& entry, ArchiveLimits const& limits, std::string& path)
 {
     std::string_view text = entry.path;
@@ -252,7 +252,7 @@ UpdateFault ArchiveEntryPolicy::AddNode(std::string_view path, Node node)
     auto const known = m_nodes.find(key);
     if (known != m_nodes.end())
     {
-        // A folder may be named once more than its contents implied it, and in no other case is a name used twice.
+        // A folder may be named once after its contents implied it. No other name is used twice.
         if (known->second.isImplied && node.type == ArchiveEntryType::Folder)
         {
             known->second.isImplied = false;
@@ -333,7 +333,7 @@ EntryRefusal ArchiveEntryPolicy::CheckBundle() const
 UpdateFault ArchiveEntryPolicy::FollowLink(std::string_view path, Node const& link) const
 {
     std::string place(ParentOf(path));
-    std::vector<std::string> pending; // components still to be walked, the next one last
+    std::vector<std::string> pending; // remaining components, the next one last
     auto const follow = [&pending](std::string const& target)
     {
         std::vector<std::string_view> const parts = Split(target);
@@ -354,7 +354,7 @@ UpdateFault ArchiveEntryPolicy::FollowLink(std::string_view path, Node const& li
             place = ParentOf(place);
             if (place.empty())
             {
-                return UpdateFault::LinkEscapes; // the folder above the bundle is not the bundle's any more
+                return UpdateFault::LinkEscapes; // the folder above the bundle does not belong to the bundle
             }
             continue;
         }

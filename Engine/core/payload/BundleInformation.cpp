@@ -40,7 +40,7 @@ BundlePurpose PurposeOf(PropertyListValue const& list)
     return text == "installer" ? BundlePurpose::InstallerProgram : BundlePurpose::Unknown;
 }
 
-/// A truth value as a person writes it; XML's own are "YES" and "NO" by now.
+/// A truth value as a person writes it. XML's own values are already "YES" and "NO" here.
 bool IsTrue(std::optional<std::string> const& text)
 {
     return text && (*text == "YES" || *text == "yes" || *text == "true" || *text == "1");

@@ -1,5 +1,4 @@
-// BundleInformation.h: what a bundle says of itself in its information file.
-// Thread: any; no state. Ownership: values only.
+// BundleInformation.h: the content of a bundle's information file. Pure functions.
 #pragma once
 
 #include "Engine/core/payload/TrustedKeys.h"
@@ -10,34 +9,33 @@
 namespace Pelnar::Engine
 {
 
-/// Where bundles of this system have the file, below the bundle's folder.
+/// The path of the file in bundles of this system, below the bundle's folder.
 constexpr char INFORMATION_PATH[] = "Resources/Info-gnustep.plist";
 
-/// What a bundle says that it is for, under PelnarPayloadKind.
+/// The bundle's purpose, from PelnarPayloadKind.
 enum class BundlePurpose
 {
-    Application,      ///< "application", or nothing said: it takes the installed bundle's place
+    Application,      ///< "application", or no value: it replaces the installed bundle
     InstallerProgram, ///< "installer": its program installs the new version
-    Unknown,          ///< anything else; no update may bring it
+    Unknown,          ///< any other value; no update may contain it
 };
 
 struct BundleInformation
 {
     std::string identifier;
     std::string version;
-    std::string displayVersion;       ///< empty when the bundle gives none
-    std::string minimumSystemVersion; ///< empty when the bundle gives none
-    TrustedKeys publicKeys;           ///< of SUPublicEDKey and PelnarNextPublicEDKey; none without the first
-    std::string rootPublicKey;        ///< of PelnarRootPublicEDKey; empty when the bundle has none
+    std::string displayVersion;       ///< empty if the bundle has none
+    std::string minimumSystemVersion; ///< empty if the bundle has none
+    TrustedKeys publicKeys;           ///< from SUPublicEDKey and PelnarNextPublicEDKey; none without the first
+    std::string rootPublicKey;        ///< from PelnarRootPublicEDKey; empty if the bundle has none
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;
-    bool confirmsGoodStart = false; ///< it tells when it has started well, and is not kept otherwise
+    bool confirmsGoodStart = false; ///< it confirms a good start, and is rolled back otherwise
 };
 
-/// Reads \a text, the whole information file; \a bundleName is the name of the bundle's folder, after which an
-/// executable without a name of its own is named. Throws UpdateRefusal: InformationTooLarge, InformationMalformed,
-/// ExecutableNameInvalid.
+/// Reads \a text, the whole information file. \a bundleName is the name of the bundle's folder; it is the default name
+/// of the executable. Throws UpdateRefusal: InformationTooLarge, InformationMalformed, ExecutableNameInvalid.
 BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName);
 
 } // namespace Pelnar::Engine

@@ -13,7 +13,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// As the kernel writes it; <dirent.h> has none for the bare call, and its streams take memory.
+/// The kernel's format. <dirent.h> has no type for the direct call, and its streams allocate memory.
 struct Entry
 {
     std::uint64_t number;
@@ -23,7 +23,7 @@ struct Entry
     char name[];
 };
 
-/// The number of that name; -1 when it is none.
+/// The number with that name; -1 if it is not a number.
 int NumberOf(char const* name)
 {
     int number = 0;

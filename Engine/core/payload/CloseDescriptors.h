@@ -1,13 +1,13 @@
-// CloseDescriptors.h: keeps what a process has open from the programs that it starts, on every kernel.
-// Thread: any. May be called between vfork and exec: it takes no memory and no lock.
+// CloseDescriptors.h: keeps a process's open descriptors from the programs that it starts, on every kernel. Thread:
+// any. May be called between vfork and exec: it allocates no memory and takes no lock.
 #pragma once
 
 namespace Pelnar::Engine
 {
 
-/// Every descriptor from \a first on is closed when this process becomes another program.
+/// Every descriptor from \a first on will be closed when this process executes another program.
 void CloseOnExecFrom(int first);
-/// Every descriptor from \a first on is closed.
+/// Closes every descriptor from \a first on.
 void CloseFrom(int first);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,5 @@
-// FieldCodec_p.h: values one behind the other in bytes: numbers with the little end first, texts behind their length.
-// Thread: one at a time. Ownership: a reader's bytes stay the caller's.
+// FieldCodec_p.h: values in a byte sequence: little-endian numbers, and texts after their length. Thread: one at a
+// time. Ownership: the caller owns a reader's bytes.
 #pragma once
 
 #include <cstdint>
@@ -24,7 +24,7 @@ private:
     std::string m_bytes;
 };
 
-/// Every read answers a value; whether all of them were there is asked once, at the end.
+/// Every read returns a value. IsWhole() tells once, at the end, whether all of them were present.
 class FieldReader
 {
 public:
@@ -36,9 +36,9 @@ public:
     /// Any bytes.
     std::string Blob();
     std::vector<std::string> Texts();
-    /// Declares the bytes wrong.
+    /// Marks the bytes as wrong.
     void Refuse() { m_isGood = false; }
-    /// True when everything was there and nothing is left over.
+    /// True if every value was present and nothing is left over.
     [[nodiscard]] bool IsWhole() const { return m_isGood && m_rest.empty(); }
 
 private:

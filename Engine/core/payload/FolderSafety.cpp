@@ -22,9 +22,9 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t DATABASE_BYTES = std::size_t{64} << 10; ///< for one entry of the users' or the groups' list
+constexpr std::size_t DATABASE_BYTES = std::size_t{64} << 10; ///< for one entry of the user or group database
 
-/// True when an access list stands beside the mode, whose group bits then speak for more than the group.
+/// True if there is an access list. The mode's group bits then apply to more than the group.
 bool HasAccessList(int fd)
 {
     std::string const path = "/proc/self/fd/" + std::to_string(fd);
@@ -32,14 +32,14 @@ bool HasAccessList(int fd)
     return size > 0 || (size < 0 && errno != ENODATA && errno != EOPNOTSUPP);
 }
 
-/// True when one of the users in the local list, other than this one, has the group as their own.
+/// True if another user in the local list has the group as their primary group.
 bool IsGroupOfAnotherUser(gid_t group)
 {
     std::unique_ptr<FILE, decltype(&::fclose)> const file(std::fopen("/etc/passwd", "re"), &::fclose);
     std::vector<char> buffer(DATABASE_BYTES);
     passwd entry{};
     passwd* found = nullptr;
-    // Deliberate: getpwent would move the place of a host that reads the list as well.
+    // Deliberate: getpwent would move the read position of a host that reads the list too.
     while (file && ::fgetpwent_r(file.get(), &entry, buffer.data(), buffer.size(), &found) == 0)
     {
         if (entry.pw_gid == group && entry.pw_uid != ::geteuid())
@@ -50,7 +50,7 @@ bool IsGroupOfAnotherUser(gid_t group)
     return !file;
 }
 
-/// True when the group is this user's own: named after the user, the user's first one, without any other member.
+/// True if the group is this user's own: named after the user, the user's primary group, and without any other member.
 bool IsPrivateGroup(gid_t group)
 {
     std::vector<char> userBuffer(DATABASE_BYTES);
@@ -77,7 +77,7 @@ bool IsPrivateGroup(gid_t group)
     return user.pw_gid == group && name == entry.gr_name && !IsGroupOfAnotherUser(group);
 }
 
-/// The number in the file's first line, \a column words behind its begin; the kernel's answers are short.
+/// The number in the file's first line, after \a column words. The kernel's lines are short.
 std::uint64_t NumberIn(char const* path, int column)
 {
     std::ifstream file(path);
@@ -89,7 +89,7 @@ std::uint64_t NumberIn(char const* path, int column)
     return file ? number : 0;
 }
 
-/// True when \a owner is the one user that stands for all those whom the namespace of this process does not know.
+/// True if \a owner is the substitute for all users that the namespace of this process does not map.
 bool IsHidden(uid_t owner)
 {
     constexpr std::uint64_t ALL_USERS = 0xffffffff;
@@ -113,7 +113,7 @@ FolderSafety JudgeItself(int fd, struct stat const& status)
     return FolderSafety::OpenToGroup;
 }
 
-/// True for a folder above that keeps everybody from the names of others.
+/// True for a folder above in which no user can change the names of others.
 bool IsSafeAbove(FolderSafety safety, struct stat const& status)
 {
     bool const isOpen = safety == FolderSafety::Shared || safety == FolderSafety::OpenToGroup;

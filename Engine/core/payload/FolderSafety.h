@@ -1,5 +1,5 @@
-// FolderSafety.h: who besides this user and the administrator may change what stands in a folder.
-// Thread: any; no state. Ownership: descriptors stay the caller's.
+// FolderSafety.h: who besides this user and the administrator may change the content of a folder. Any thread; no state.
+// Ownership: callers own their descriptors.
 #pragma once
 
 #include <string>
@@ -12,34 +12,34 @@ namespace Pelnar::Engine
 enum class FolderSafety
 {
     Safe,
-    OfAnotherUser, ///< it belongs to somebody who is neither this user nor the administrator
-    OwnerHidden,   ///< a user namespace hides whose it is: the administrator looks like any other user there
-    OpenToGroup,   ///< a group may write there that has other members
+    OfAnotherUser, ///< it belongs to a user who is neither this user nor the administrator
+    OwnerHidden,   ///< a user namespace hides the owner: the administrator looks like any other user there
+    OpenToGroup,   ///< a group with other members may write there
     OpenToAll,
-    Shared, ///< everybody may write there, but only the owner of a name may take it away: a folder such as /tmp
+    Shared, ///< all users may write there, but only the owner of a name may remove it: a folder such as /tmp
     Unreadable,
 };
 
-/// The first folder on the way up that is not safe.
+/// The first unsafe folder on the way up.
 struct FolderFinding
 {
     FolderSafety safety = FolderSafety::Safe;
-    std::string path; ///< of that folder; empty when there is none, or its path cannot be told
+    std::string path; ///< of that folder; empty if there is none, or its path cannot be read
     gid_t group = 0;  ///< for OpenToGroup
 };
 
-/// Looks at the open folder and at each one above it. The folder itself is never Shared and safe; those above it may
-/// be, for nobody else takes this user's names away there. A group that has no member but this user counts as nobody.
+/// Examines the open folder and each one above it. For the folder itself, Shared is not safe. For those above, Shared
+/// is safe, because no other user can remove this user's names there. A group without members other than this user is
+/// safe.
 FolderFinding LookUpToTheRoot(int folderFd);
 
-/// True when LookUpToTheRoot finds nothing.
+/// True if LookUpToTheRoot finds nothing.
 [[nodiscard]] bool IsSafeUpToTheRoot(int folderFd);
 
-/// True when nobody but this user and the administrator may change what is open there: a file's bytes, a folder's
-/// names.
+/// True if only this user and the administrator may change the open object: a file's bytes, a folder's names.
 [[nodiscard]] bool IsSafeByItself(int fd);
 
-/// The group's name, else its number.
+/// The group's name, otherwise its number.
 std::string GroupName(gid_t group);
 
 } // namespace Pelnar::Engine

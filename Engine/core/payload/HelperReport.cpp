@@ -45,7 +45,7 @@ template <typename Number>
 bool ReadNumber(std::string_view text, Number& number)
 {
     auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    // One number has one text: no sign, no zero in front.
+    // A number has exactly one text: no sign, no leading zero.
     return error == std::errc() && end == text.data() + text.size() && std::to_string(number) == text && text[0] != '-';
 }
 

@@ -1,6 +1,6 @@
-// HelperReport.h: what the installer's helper tells the host, one line of text each.
-// Thread: any; plain values. The host trusts no helper: its decoder takes the lines of docs/formats/helper-report.md
-// and nothing else, and no text of an archive ever stands in one.
+// HelperReport.h: the lines that the installer's helper writes to the host. Pure functions. The host does not trust the
+// helper: its decoder accepts only the lines of docs/formats/helper-report.md, and no text of an archive appears in
+// them.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
@@ -25,20 +25,20 @@ enum class HelperPhase
 
 enum class RecoveryAction
 {
-    Nothing,          ///< no update was under way
+    Nothing,          ///< no update was in progress
     KeptPrevious,     ///< the new version is installed and has not started yet
-    ConfirmedNew,     ///< the new version has started: the previous one is gone
-    DroppedStaged,    ///< the swap had not happened: the prepared version is gone
-    RestoredPrevious, ///< the bundle was missing: the previous version is back
-    CountedStart,     ///< the new version has started and is to tell whether it did so well
-    RolledBack        ///< the new version never told that it started well: the previous version is back
+    ConfirmedNew,     ///< the new version has started: the previous one is removed
+    DroppedStaged,    ///< the swap had not happened: the prepared version is removed
+    RestoredPrevious, ///< the bundle was missing: the previous version is restored
+    CountedStart,     ///< the new version has started and must confirm a good start
+    RolledBack        ///< the new version never confirmed a good start: the previous version is restored
 };
 
 enum class RelaunchedBundle
 {
-    Answered,      ///< the path that was asked for
-    Target,        ///< the installed bundle, as asked
-    TargetInstead, ///< the installed bundle, for the path that was asked for is not safe or did not start
+    Answered,      ///< the requested path
+    Target,        ///< the installed bundle, as requested
+    TargetInstead, ///< the installed bundle, because the requested path is not safe or did not start
 };
 
 struct ProgressReport
@@ -59,7 +59,7 @@ struct RecoveredReport
 {
     RecoveryAction action;
 };
-/// Before a RecoveredReport: the version that was taken back for the one that asks.
+/// Before a RecoveredReport: the version that was rolled back to the version that asks.
 struct FailedVersionReport
 {
     std::string version;
@@ -68,7 +68,7 @@ struct RelaunchedReport
 {
     RelaunchedBundle bundle;
 };
-/// Nothing stands in the way of an installation.
+/// An installation is possible.
 struct RehearsedReport
 {
 };
@@ -81,12 +81,12 @@ struct RefusedReport
 using HelperReport = std::variant<ProgressReport, PreparedReport, InstalledReport, RecoveredReport, FailedVersionReport,
                                   RelaunchedReport, RehearsedReport, RefusedReport>;
 
-constexpr std::size_t HELPER_REPORT_MAX_BYTES = 1024;     ///< of a line, its end included
-constexpr std::size_t HELPER_REPORT_MAX_TEXT_BYTES = 255; ///< of a name or a version in one
+constexpr std::size_t HELPER_REPORT_MAX_BYTES = 1024;     ///< of a line, including its end
+constexpr std::size_t HELPER_REPORT_MAX_TEXT_BYTES = 255; ///< of a name or a version in a line
 
-/// The line, with its end.
+/// The line, including its end.
 std::string EncodeHelperReport(HelperReport const& report);
-/// The report of a line without its end; nothing when it is none.
+/// The report in a line without its end; empty if the line is not a report.
 std::optional<HelperReport> DecodeHelperReport(std::string_view line);
 
 } // namespace Pelnar::Engine

@@ -8,9 +8,9 @@ namespace
 {
 
 constexpr std::string_view MAGIC = "PELNARI1";
-constexpr std::uint64_t MAX_ERROR_NUMBER = 4095; // of the kernel's
+constexpr std::uint64_t MAX_ERROR_NUMBER = 4095; // the kernel's largest
 
-/// The one number of \a reader as an enumerator up to \a last.
+/// Reads one number from \a reader as an enumerator up to \a last.
 template <typename Enum>
 Enum ReadEnum(FieldReader& reader, Enum last)
 {
@@ -61,7 +61,7 @@ std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes)
     auto const fault = FaultFromName(reader.Text());
     std::uint64_t const errorNumber = reader.Number();
     record.told = ReadEnum(reader, FailureTold::Yes);
-    // What was installed may have a fault as well: the new version could not be started.
+    // An installed version may have a fault too: it could not be started.
     bool const mayHaveFault = record.state == InstallState::Failed || record.state == InstallState::Installed;
     bool const needsFault = record.state == InstallState::Failed;
     bool const isGood = reader.IsWhole() && !record.fromVersion.empty() && !record.toVersion.empty() &&
@@ -86,7 +86,7 @@ PastInstallation JudgePastInstallation(InstallRecord const& record, std::string_
     switch (record.state)
     {
     case InstallState::Waiting:
-        // Anyone who agreed to an installation at once waits for the new version.
+        // A person who agreed to an immediate installation waits for the new version.
         return helper == HelperLife::Runs              ? PastInstallation::UnderWay
                : record.wish == InstallWish::Automatic ? PastInstallation::Dropped
                                                        : PastInstallation::Failed;

@@ -1,6 +1,6 @@
-// InstallRecord.h: what is kept of an installation beside the downloads, so that the next start of the application
-// knows how it ended, and what that means. Pure: reading and writing files is done elsewhere.
-// Thread: any; plain values. The format is described in docs/formats/install-record.md.
+// InstallRecord.h: the record of an installation, kept with the downloads. The next start of the application reads from
+// it how the installation ended. Pure functions; other code reads and writes the files. The format is in
+// docs/formats/install-record.md.
 #pragma once
 
 #include "Engine/core/payload/ProcessMark.h"
@@ -22,17 +22,17 @@ enum class InstallState : std::uint8_t
     Installed = 3,
 };
 
-/// Who wanted this installation.
+/// Who requested this installation.
 enum class InstallWish : std::uint8_t
 {
     Automatic = 0,
-    Person = 1, ///< a person asked for it, or for a start of the new version
+    Person = 1, ///< a person requested it, or a start of the new version
 };
 
 enum class FailureTold : std::uint8_t
 {
     No = 0,
-    Yes = 1, ///< to the person who asked
+    Yes = 1, ///< the person who asked
 };
 
 struct InstallRecord
@@ -40,19 +40,19 @@ struct InstallRecord
     std::string fromVersion;
     std::string toVersion;
     InstallWish wish = InstallWish::Automatic;
-    std::uint64_t attempts = 1; ///< to install this version, this one included
+    std::uint64_t attempts = 1; ///< to install this version, including this one
     InstallState state = InstallState::Waiting;
-    std::uint64_t secondsSinceEpoch = 0;   ///< of the state
-    ProcessMark helper = {};               ///< that writes the record
-    UpdateFault fault = UpdateFault::None; ///< of a failure, or why the new version was not started
-    int errorNumber = 0;                   ///< of the fault: an errno, or 0
+    std::uint64_t secondsSinceEpoch = 0;   ///< when the state began
+    ProcessMark helper = {};               ///< the process that writes the record
+    UpdateFault fault = UpdateFault::None; ///< after a failure, or why the new version was not started
+    int errorNumber = 0;                   ///< for the fault: an errno, or 0
     FailureTold told = FailureTold::No;
 };
 
 constexpr std::size_t INSTALL_RECORD_MAX_BYTES = 4096;
 
 std::string EncodeInstallRecord(InstallRecord const& record);
-/// Nothing when \a bytes are none.
+/// Empty if \a bytes are not a record.
 std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes);
 
 enum class HelperLife
@@ -61,12 +61,12 @@ enum class HelperLife
     Ended,
 };
 
-/// What a record says to a version of the application that has been started.
+/// What a record means for a version of the application that has started.
 enum class PastInstallation
 {
     UnderWay, ///< its helper still runs
-    Over,     ///< the update is installed, or another version is: nothing is left to do
-    Dropped,  ///< nothing was installed, and nobody waits to hear of it: the session ended, say
+    Over,     ///< the update or another version is installed: nothing remains to do
+    Dropped,  ///< nothing was installed and no person needs to know: for example, the session ended
     Failed,
 };
 

@@ -74,7 +74,7 @@ void FreeName(int folderFd, std::string const& name)
     {
         return;
     }
-    // Deliberate: what is in a folder is not ours to remove.
+    // Deliberate: a folder's content does not belong to this user's update.
     bool const isFolder = errno == EISDIR || errno == EPERM;
     if (!isFolder || ::renameat(folderFd, name.c_str(), folderFd, AsideName().c_str()) != 0)
     {
@@ -100,7 +100,7 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
 {
     UniqueFd const file(::openat(folderFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
-    // Another name of the file may stand where others can reach it. Without any, it was replaced this very moment.
+    // Another name of the file may be where others can access it. Without any name, the file was just replaced.
     if (!file || !IsPrivateFile(file.Get()) || ::fstat(file.Get(), &status) != 0 || status.st_nlink > 1)
     {
         return {};
@@ -109,7 +109,7 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
     ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
     if (count < 0)
     {
-        ThrowErrno(errno); // the file may say something
+        ThrowErrno(errno); // the file may have content
     }
     bytes.resize(static_cast<std::size_t>(count));
     return bytes;

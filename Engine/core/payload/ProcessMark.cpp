@@ -11,11 +11,11 @@ namespace Pelnar::Engine
 
 std::uint64_t StartTimeOf(std::uint64_t process)
 {
-    constexpr int WORDS_TO_START_TIME = 19; // from the state on
+    constexpr int WORDS_TO_START_TIME = 19; // counted from the state
     std::ifstream file("/proc/" + std::to_string(process) + "/stat");
     std::string text;
-    std::getline(file, text, '\0');              // a program's name may hold a line's end
-    std::size_t const nameEnd = text.rfind(')'); // and anything else
+    std::getline(file, text, '\0');              // a program's name may contain a line feed
+    std::size_t const nameEnd = text.rfind(')'); // and any other character
     std::istringstream words(nameEnd == std::string::npos ? std::string() : text.substr(nameEnd + 1));
     std::string state;
     words >> state;

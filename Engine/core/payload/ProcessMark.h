@@ -1,5 +1,4 @@
-// ProcessMark.h: how a process is told from a later one of the same number.
-// Thread: any; plain values. Ownership: values only.
+// ProcessMark.h: distinguishes a process from a later one with the same number. Pure values; any thread.
 #pragma once
 
 #include <cstdint>
@@ -10,16 +9,16 @@ namespace Pelnar::Engine
 struct ProcessMark
 {
     std::uint64_t number = 0;    ///< 0: none
-    std::uint64_t startTime = 0; ///< as the kernel counts it; 0 when it is not known
+    std::uint64_t startTime = 0; ///< in the kernel's ticks; 0 if unknown
 
     bool operator==(ProcessMark const& other) const { return number == other.number && startTime == other.startTime; }
 };
 
-/// When the process of that number started, as the kernel counts; 0 when there is none, or it has ended.
+/// When the process with that number started, in the kernel's ticks; 0 if there is none, or it has ended.
 std::uint64_t StartTimeOf(std::uint64_t process);
 
 ProcessMark MarkOfThisProcess();
-/// False too when the mark's start time is not known.
+/// Also false if the mark's start time is unknown.
 [[nodiscard]] bool IsRunning(ProcessMark const& process);
 
 } // namespace Pelnar::Engine

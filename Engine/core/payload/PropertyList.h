@@ -1,5 +1,4 @@
-// PropertyList.h: a small strict reader of property lists as text, in the old style of braces and in XML.
-// Thread: any; no state. Ownership: values only.
+// PropertyList.h: a small strict reader of text property lists, in the old style of braces and in XML. Pure functions.
 #pragma once
 
 #include <optional>
@@ -15,7 +14,7 @@ struct PropertyListValue
 {
     enum class Kind
     {
-        Text, ///< strings, numbers, dates, truth values, data: as they are written
+        Text, ///< strings, numbers, dates, truth values, data: as written
         List,
         Dictionary,
     };
@@ -25,7 +24,7 @@ struct PropertyListValue
     std::vector<PropertyListValue> items;                              ///< List
     std::vector<std::pair<std::string, PropertyListValue>> properties; ///< Dictionary, in the file's order
 
-    /// The text under \a key; nothing when there is none, or no text.
+    /// The text under \a key; empty if there is none, or it is not text.
     std::optional<std::string> TextOf(std::string_view key) const;
 };
 
@@ -33,8 +32,8 @@ constexpr std::size_t PROPERTY_LIST_MAX_BYTES = std::size_t{1} << 20;
 constexpr int PROPERTY_LIST_MAX_DEPTH = 32;
 constexpr std::size_t PROPERTY_LIST_MAX_KEYS = 4096; ///< in one dictionary
 
-/// The value of \a text; nothing when it is over one of the limits, names a key twice, or is not
-/// a property list from its first byte to its last.
+/// The value of \a text. Empty if the text exceeds a limit, names a key twice, or is not a property list from its first
+/// byte to its last.
 std::optional<PropertyListValue> ParsePropertyList(std::string_view text);
 
 } // namespace Pelnar::Engine

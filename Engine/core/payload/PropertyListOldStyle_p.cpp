@@ -115,7 +115,7 @@ bool ReadDictionary(PropertyListCursor& cursor, int depth, PropertyListValue& va
             return false;
         }
         SkipOldStyleBlanks(cursor);
-        // The last property may stand without its semicolon.
+        // The last property may omit its semicolon.
         if (!cursor.Take(";") && cursor.Next() != '}')
         {
             return false;
@@ -181,7 +181,7 @@ bool ReadOldStyleValue(PropertyListCursor& cursor, int depth, PropertyListValue&
     {
         return ReadList(cursor, depth, value);
     }
-    if (cursor.Take("<")) // data in hexadecimal, or a number, truth value or date behind a star
+    if (cursor.Take("<")) // data in hexadecimal, or a number, truth value or date after a star
     {
         auto const body = cursor.TakeUntil(">");
         value.text = body.value_or("");

@@ -1,5 +1,5 @@
-// PropertyListReader_p.h: what the readers of both styles of property list share: a place in the text and its steps.
-// Thread: one at a time. Ownership: the text stays the caller's.
+// PropertyListReader_p.h: a position in the text and its operations, shared by the readers of both styles of property
+// list. Thread: one at a time. Ownership: the caller owns the text.
 #pragma once
 
 #include "Engine/core/payload/PropertyList.h"
@@ -16,9 +16,9 @@ public:
     /// The next character, or NUL at the end.
     char Next() const { return m_rest.empty() ? '\0' : m_rest.front(); }
     void Skip(std::size_t count = 1) { m_rest.remove_prefix(count); }
-    /// Takes \a word away if it comes next.
+    /// Consumes \a word if it comes next.
     bool Take(std::string_view word);
-    /// Takes everything before \a mark and the mark itself; nothing when the mark does not come.
+    /// Consumes everything before \a mark and the mark itself; empty if the mark does not appear.
     std::optional<std::string_view> TakeUntil(std::string_view mark);
     void SkipBlanks();
 
@@ -26,9 +26,9 @@ private:
     std::string_view m_rest;
 };
 
-/// Puts \a key and \a value into \a dictionary; false when the key is there already or the dictionary is full.
+/// Puts \a key and \a value into \a dictionary; false if the key already exists or the dictionary is full.
 [[nodiscard]] bool AddProperty(PropertyListValue& dictionary, std::string key, PropertyListValue value);
-/// Writes the code point in UTF-8; false when it is none that text may hold.
+/// Writes the code point in UTF-8; false if text must not contain it.
 [[nodiscard]] bool AppendCodePoint(std::string& text, unsigned long codePoint);
 
 bool ReadOldStyleValue(PropertyListCursor& cursor, int depth, PropertyListValue& value);

@@ -53,7 +53,7 @@ bool AppendReference(std::string_view name, std::string& text)
     return error == std::errc() && end == name.data() + name.size() && AppendCodePoint(text, codePoint);
 }
 
-/// Character data up to and with the end tag of \a element.
+/// Character data up to and including the end tag of \a element.
 bool ReadElementText(PropertyListCursor& cursor, std::string_view element, std::string& text)
 {
     for (;;)
@@ -81,7 +81,7 @@ bool ReadElementText(PropertyListCursor& cursor, std::string_view element, std::
     }
 }
 
-/// The name of the start tag that comes next, without attributes; \a isEmpty tells "<name/>".
+/// The name of the next start tag, without attributes; \a isEmpty reports "<name/>".
 std::optional<std::string_view> ReadStartTag(PropertyListCursor& cursor, bool& isEmpty)
 {
     if (!cursor.Take("<"))
@@ -188,7 +188,7 @@ bool ReadXmlPropertyList(PropertyListCursor& cursor, PropertyListValue& value)
     }
     if (cursor.Take("<!DOCTYPE plist"))
     {
-        // A declaration with a body of its own could define entities.
+        // A declaration with its own body could define entities.
         auto const declaration = cursor.TakeUntil(">");
         if (!declaration || declaration->find('[') != std::string_view::npos || !SkipMisc(cursor))
         {

@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Each argument's NUL is counted as one byte, and its length is written as eight.
+/// Each argument's NUL is counted as one byte, and its length is written as eight bytes.
 constexpr std::size_t MAX_FILE_BYTES =
     RELAUNCH_ARGUMENTS_MAX_BYTES + 8 * RELAUNCH_ARGUMENTS_MAX_COUNT + RELAUNCH_ARGUMENTS_MAGIC.size() + 8;
 

@@ -1,6 +1,5 @@
-// RelaunchArguments.h: the arguments that an application wants its next version to be started with, and the bytes in
-// which the helper reads them. The format is described in docs/formats/update-job.md.
-// Thread: any; plain values. Ownership: none.
+// RelaunchArguments.h: the arguments for the next version's start, and the bytes in which the helper reads them. The
+// format is in docs/formats/update-job.md. Pure functions.
 #pragma once
 
 #include "Engine/include/Pelnar/RelaunchLimits_p.h"
@@ -13,15 +12,15 @@
 namespace Pelnar::Engine
 {
 
-/// The bytes before the first list of arguments: who reads no more than them reads none.
+/// The bytes before the first list of arguments. A reader that finds only these bytes finds no arguments.
 constexpr std::string_view RELAUNCH_ARGUMENTS_MAGIC = "PELNARA1";
 
-/// REQUIRES: nothing is wrong with \a arguments.
+/// REQUIRES: \a arguments are valid.
 std::string EncodeRelaunchArguments(std::vector<std::string> const& arguments);
-/// The arguments of \a bytes; nothing unless they are whole, with nothing wrong with them.
+/// The arguments of \a bytes; empty unless they are complete and valid.
 std::optional<std::vector<std::string>> DecodeRelaunchArguments(std::string_view bytes);
 
-/// What the regular file \a fd says, read from its beginning; none when it does not say a whole list. The file's
+/// The arguments in the regular file \a fd, read from its beginning; none if the list is incomplete. The file's
 /// position is neither used nor changed.
 std::vector<std::string> ReadRelaunchArguments(int fd);
 

@@ -23,8 +23,8 @@ namespace
 constexpr std::size_t TARGET_HASH_BYTES = 8;
 constexpr std::size_t RANDOM_BYTES = 8;
 constexpr mode_t PRIVATE_MODE = 0700;
-constexpr mode_t ALL_RIGHTS = 0777; ///< a folder may inherit the group of the one that it is made in, and a bit says so
-/// A new folder that others have tidied away is made again, but not for ever.
+constexpr mode_t ALL_RIGHTS = 0777; ///< a folder may inherit the group of its parent, and a bit shows this
+/// A new folder that others have removed is created again, but only this often.
 constexpr int MAX_ATTEMPTS = 20;
 constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
@@ -56,8 +56,8 @@ std::string RandomText()
     return Hexadecimal(Bytes(random, sizeof random));
 }
 
-/// Opens and locks the folder that was just made; nothing when somebody has tidied it away: between its making and its
-/// locking it looks abandoned.
+/// Opens and locks the folder that was just created. Empty if another process has removed it: between its creation and
+/// its locking it looks abandoned.
 UniqueFd LockNew(int parentFd, std::string const& name)
 {
     UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));

@@ -19,7 +19,8 @@ namespace
 constexpr std::size_t READ_BYTES = std::size_t{256} << 10;
 constexpr std::size_t LINK_BYTES = 4096;
 
-/// The folder of \a path below \a folderFd, reached name by name so that no link is followed and no path is too long.
+/// The folder of \a path below \a folderFd, opened name by name, so that no link is followed and a path may have any
+/// length.
 UniqueFd OpenFolder(int folderFd, std::string const& path)
 {
     constexpr int FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
@@ -33,7 +34,7 @@ UniqueFd OpenFolder(int folderFd, std::string const& path)
     return folder;
 }
 
-/// The names in an open folder, in an order of their own; false, with errno, when they cannot be read.
+/// The names in an open folder, in any order; false, with errno, if they cannot be read.
 bool ListFolder(UniqueFd const& folder, std::vector<std::string>& names)
 {
     int const copy = ::fcntl(folder.Get(), F_DUPFD_CLOEXEC, 0);
@@ -133,7 +134,7 @@ ContentHash TreeManifest::Digest() const
     ContentHasher hasher;
     for (Entry const* const entry : entries)
     {
-        // Neither a path nor a link's target holds a NUL, so that no two lists of entries give the same bytes.
+        // Paths and link targets contain no NUL, so two different lists of entries never give the same bytes.
         std::string text(1, entry->kind);
         text += entry->path + '\0' + std::to_string(entry->mode) + '\0' + std::to_string(entry->size) + '\0' +
                 entry->linkTarget + '\0';
@@ -232,7 +233,7 @@ bool SyncTree(int folderFd)
     {
         if (S_ISLNK(status.st_mode))
         {
-            return; // it is its folder's
+            return; // belongs to its folder
         }
         UniqueFd const entry(::openat(parentFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
         if (isSynced && (!entry || ::fsync(entry.Get()) != 0))
@@ -252,7 +253,7 @@ bool SyncTree(int folderFd)
 namespace
 {
 
-/// Gives this user the rights to a folder that is to go. A failure shows when the folder cannot be removed.
+/// Gives this user the rights to a folder that will be removed. A failure appears when the folder cannot be removed.
 void UnlockFolder(int parentFd, std::string const& name, struct stat const& status)
 {
     if ((status.st_mode & S_IRWXU) != S_IRWXU)
@@ -285,7 +286,7 @@ bool RemoveTree(int parentFd, std::string const& name)
     {
         if (S_ISDIR(kind.st_mode))
         {
-            if (kind.st_dev == status.st_dev) // another disk's folder stays as it is
+            if (kind.st_dev == status.st_dev) // a folder on another disk stays unchanged
             {
                 UnlockFolder(folderFd, entry, kind);
             }
@@ -293,7 +294,7 @@ bool RemoveTree(int parentFd, std::string const& name)
         }
         else
         {
-            // A failure shows when the folder that holds the entry cannot be removed.
+            // A failure appears when the folder that holds the entry cannot be removed.
             static_cast<void>(::unlinkat(folderFd, entry.c_str(), 0));
         }
     };

@@ -1,6 +1,6 @@
-// TreeManifest.h: a folder's tree as one hash, the way to compute it from a folder on disk, and the way to remove one.
-// Thread: one at a time. Ownership: values only; descriptors stay the caller's.
-// The hash covers names, kinds, modes, link targets, sizes and contents: two trees with one hash install the same.
+// TreeManifest.h: computes one hash of a folder's tree on disk, and removes trees. Thread: one at a time. Ownership:
+// callers own their descriptors. The hash covers names, kinds, modes, link targets, sizes and contents: two trees with
+// the same hash install the same.
 #pragma once
 
 #include "Engine/core/delta/ContentHasher.h"
@@ -22,7 +22,7 @@ public:
     void AddFile(std::string path, std::uint32_t mode, std::uint64_t size, ContentHash const& content);
     void AddLink(std::string path, std::string target);
 
-    /// The hash of what was added, in any order.
+    /// The hash of all added entries, in any order.
     [[nodiscard]] ContentHash Digest() const;
 
 private:
@@ -39,23 +39,24 @@ private:
     std::vector<Entry> m_entries;
 };
 
-/// The hash of the tree below \a folderFd, its own folder left out. Throws UpdateRefusal: StagedTreeChanged for what an
-/// update never makes (other kinds of file, another owner), DiskError and its kin for what cannot be read. Files that
-/// have the permission bits of packed ones as far as \a bitsWithin allows them count as packed.
+/// The hash of the tree below \a folderFd, without its own folder. Throws UpdateRefusal: StagedTreeChanged for objects
+/// that an update never creates (other kinds of file, another owner), DiskError and related faults for unreadable
+/// objects. A file counts as packed if its permission bits equal those of a packed file as far as \a bitsWithin allows
+/// them.
 [[nodiscard]] ContentHash DigestTree(int folderFd, std::uint32_t bitsWithin = 0777);
 
-/// Removes the entry \a name of the folder \a parentFd with all that is in it, and follows no link; what lies on
-/// another file system stays. True when nothing of that name is left.
+/// Removes the entry \a name of the folder \a parentFd with all its content. It follows no link, and leaves objects on
+/// another file system. Returns true if nothing with that name is left.
 [[nodiscard]] bool RemoveTree(int parentFd, std::string const& name);
 
 /// Writes all files and folders below \a folderFd, and the folder itself, to the disk: by one call for the file system,
-/// which takes half the time of a call for each, or one by one where the system lacks it. False, with errno, when one of
-/// them may not be there. That is final, for the kernel forgets what it could not write.
+/// which takes half the time of a call for each, or one by one if the system lacks that call. Returns false and sets
+/// errno if one of them may be missing on the disk. This is final, because the kernel forgets what it could not write.
 [[nodiscard]] bool SyncTree(int folderFd);
 
-/// Calls \a visit for each entry below \a folderFd, folders before what they hold: the path from there, the folder that
-/// holds the entry, the entry's name and status. Constant number of open files, any depth. False, with errno, when a
-/// folder cannot be read.
+/// Calls \a visit for each entry below \a folderFd, folders before their content: the path from there, the folder that
+/// holds the entry, the entry's name and status. It opens a constant number of files at any depth. Returns false and
+/// sets errno if a folder cannot be read.
 using TreeVisit =
     std::function<void(std::string const& path, int parentFd, std::string const& name, struct stat const& status)>;
 [[nodiscard]] bool WalkTree(int folderFd, TreeVisit const& visit);

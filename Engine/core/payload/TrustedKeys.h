@@ -1,6 +1,7 @@
-// TrustedKeys.h: the public keys by which a bundle judges archives, deltas and feeds, and the one way to verify by
-// them. Thread: any; no state beyond the cryptography library's one-time start. Ownership: descriptors stay the
-// caller's. A file is mapped: in a process where a truncated file must not end it with SIGBUS, do not verify one.
+// TrustedKeys.h: the public keys with which a bundle verifies archives, deltas and feeds, and the only way to verify
+// with them. Any thread; the only state is the cryptography library's one-time start. Ownership: callers own their
+// descriptors. A file is mapped: do not verify one in a process that SIGBUS must not end, because a truncated file
+// causes it.
 #pragma once
 
 #include "Engine/core/payload/Ed25519Signature.h"
@@ -13,29 +14,29 @@
 namespace Pelnar::Engine
 {
 
-/// The short name of a key (docs/formats/item-keys.md): the first eight bytes of its SHA-256, as sixteen hexadecimal
-/// digits in lower case; empty for a text that is no public key.
+/// The short name of a key (docs/formats/item-keys.md): the first eight bytes of its SHA-256, as sixteen lower-case
+/// hexadecimal digits; empty for a text that is not a public key.
 [[nodiscard]] std::string KeyIdOf(std::string_view publicKey);
 
-/// Whether \a text has the form of a key's id.
+/// True if \a text has the form of a key's id.
 [[nodiscard]] bool IsKeyId(std::string_view text);
 
-/// The keys of one bundle, in the order in which it names them.
+/// The keys of one bundle, in the bundle's order.
 class TrustedKeys
 {
 public:
     static constexpr std::size_t MOST_KEYS = 2;
 
     TrustedKeys() = default;
-    /// Implicit: a list of keys in base64 is what a bundle has. Empty texts are left out.
+    /// Implicit, because a bundle has a list of keys in base64. Empty texts are ignored.
     TrustedKeys(std::vector<std::string> const& texts);
     TrustedKeys(std::initializer_list<std::string> texts);
 
-    /// In base64, as they were given.
+    /// In base64, as given.
     [[nodiscard]] std::vector<std::string> const& Texts() const { return m_texts; }
-    /// None when there is a key and every one is usable; KeyMissing, KeyMalformed.
+    /// None if there is a key and every key is usable; otherwise KeyMissing or KeyMalformed.
     [[nodiscard]] UpdateFault Fault() const { return m_fault; }
-    /// Of the usable keys.
+    /// The ids of the usable keys.
     [[nodiscard]] std::vector<std::string> const& Ids() const { return m_ids; }
     [[nodiscard]] bool HasId(std::string_view id) const;
     /// REQUIRES: no fault.
@@ -50,12 +51,13 @@ private:
     UpdateFault m_fault = UpdateFault::KeyMissing;
 };
 
-/// None when \a message bears a valid \a signature of one of the keys; every key must be usable, whichever signed.
+/// None if \a signature is a valid signature of \a message by one of the keys. Every key must be usable, also those
+/// that did not sign.
 [[nodiscard]] UpdateFault VerifySignature(std::string_view message, std::string_view signature,
                                           TrustedKeys const& keys);
 
-/// None when the whole file behind \a descriptor bears a valid \a signature of one of the keys; every key must be
-/// usable, whichever signed. The file's read position is not touched.
+/// None if \a signature is a valid signature of the whole file behind \a descriptor by one of the keys. Every key must
+/// be usable, also those that did not sign. The file's read position does not change.
 [[nodiscard]] UpdateFault VerifyFileSignature(int descriptor, std::string_view signature, TrustedKeys const& keys);
 
 } // namespace Pelnar::Engine

@@ -103,7 +103,7 @@ PrepareJob ReadPrepare(FieldReader& reader)
     return job;
 }
 
-/// What is started, and what is kept of it.
+/// The fields about the program to start and the record to keep.
 void ReadAfterwards(FieldReader& reader, InstallJob& job)
 {
     job.targetPath = reader.Text();

@@ -1,6 +1,5 @@
-// UpdateJob.h: what the host asks of the installer's helper, and the bytes in which it does.
-// Thread: any; plain values. The format and the descriptors that go with it are described in
-// docs/formats/update-job.md.
+// UpdateJob.h: the request of the host to the installer's helper, and its bytes. Pure functions. The format and the
+// descriptors are in docs/formats/update-job.md.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
@@ -17,7 +16,7 @@
 namespace Pelnar::Engine
 {
 
-/// The numbers under which the helper finds what it inherits.
+/// The numbers of the descriptors that the helper inherits.
 struct HelperDescriptors
 {
     static constexpr int JOB = 3;
@@ -43,36 +42,36 @@ enum class PayloadKind : std::uint8_t
 struct PrepareJob
 {
     PayloadKind kind = PayloadKind::WholeBundle;
-    std::uint64_t archiveBytes = 0;      ///< as the feed declared them
+    std::uint64_t archiveBytes = 0;      ///< as declared in the feed
     std::string signature;               ///< base64
-    TrustedKeys publicKeys;              ///< by which the host judges updates
-    std::string bundleName;              ///< the installed bundle's folder name; what a delta's result is named
+    TrustedKeys publicKeys;              ///< with which the host judges updates
+    std::string bundleName;              ///< the installed bundle's folder name; the name for a delta's result
     std::string bundleIdentifier;        ///< the running bundle's
-    std::string expectedVersion;         ///< the item's
+    std::string expectedVersion;         ///< the item's version
     std::string installedVersion;        ///< the running bundle's
 };
 
-/// Once the host has ended, put the staged bundle in the installed one's place, or run the staged installer program;
-/// then start what is asked for.
+/// After the host has ended: put the staged bundle in the place of the installed one, or run the staged installer
+/// program. Then start the requested program.
 struct InstallJob
 {
     PayloadKind kind = PayloadKind::WholeBundle; ///< of the prepared update; a delta's result is a whole bundle
     std::string targetName;                      ///< of the installed bundle's folder
-    std::string stagingName;                     ///< of the staging folder, beside it
+    std::string stagingName;                     ///< of the staging folder, next to the bundle
     std::string stagedName;                      ///< of the new bundle's folder, in the staging folder
     ContentHash digest{};                        ///< of the new bundle's tree
     std::string bundleIdentifier;
     std::string expectedVersion;
     std::string installedVersion;
-    std::uint64_t waitSeconds = 0;         ///< for the host to end; 0: as long as it takes
-    std::uint64_t installerSeconds = 3600; ///< for an installer program to end
-    std::string targetPath;                ///< absolute; to be started afterwards; empty: start nothing
+    std::uint64_t waitSeconds = 0;         ///< for the host's end; 0: no limit
+    std::uint64_t installerSeconds = 3600; ///< for an installer program's end
+    std::string targetPath;                ///< absolute; started afterwards; empty: start nothing
     std::string relaunchPath;              ///< absolute; started instead of targetPath if it is safe; may be empty
-    std::vector<std::string> environment;  ///< of what is started, "NAME=value"
-    std::string workingFolder;             ///< of what is started; absolute; empty: the root
-    std::uint64_t creationMask = 022;      ///< of what is started: its umask
-    std::string recordName;                ///< of the file that keeps the outcome; empty: it is not kept
-    std::optional<InstallRecord> record;   ///< as it is when nothing has happened; set with the name
+    std::vector<std::string> environment;  ///< for the started program, "NAME=value"
+    std::string workingFolder;             ///< for the started program; absolute; empty: the root
+    std::uint64_t creationMask = 022;      ///< umask of the started program
+    std::string recordName;                ///< of the file that keeps the outcome; empty: the outcome is not kept
+    std::optional<InstallRecord> record;   ///< before anything has happened; set together with the name
 };
 
 enum class RecoverPurpose : std::uint8_t
@@ -81,16 +80,17 @@ enum class RecoverPurpose : std::uint8_t
     Confirmation = 1, ///< it has started well
 };
 
-/// Finish or undo what an interrupted helper left beside the bundle.
+/// Finish or undo what an interrupted helper left next to the bundle.
 struct RecoverJob
 {
     std::string targetName;
-    std::string runningVersion; ///< of the bundle that asks, and so has started
+    std::string runningVersion; ///< of the bundle that asks, which is running
     RecoverPurpose purpose = RecoverPurpose::Start;
-    std::uint64_t hostProcess = 0; ///< the number of the process that asks; 0: not told
+    std::uint64_t hostProcess = 0; ///< the number of the process that asks; 0: unknown
 };
 
-/// Do beside the bundle what an update will do, with folders that are made for it, and report what stands in the way.
+/// Do the steps of an update next to the bundle, with folders created for this purpose, and report what prevents an
+/// update.
 struct RehearseJob
 {
     std::string targetName;
@@ -98,11 +98,12 @@ struct RehearseJob
 
 using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob, RehearseJob>;
 
-/// With as many variables as the kernel gives a program at most, six mebibytes, and all else.
+/// Enough for the kernel's maximum of environment variables, six mebibytes, and everything else.
 constexpr std::size_t UPDATE_JOB_MAX_BYTES = std::size_t{8} << 20;
 
 std::string EncodeUpdateJob(UpdateJob const& job);
-/// The job of \a bytes; nothing unless they are one, whole, with every name a single component, every path absolute.
+/// The job in \a bytes. Empty unless they are one complete job, every name is a single component and every path is
+/// absolute.
 std::optional<UpdateJob> DecodeUpdateJob(std::string_view bytes);
 
 } // namespace Pelnar::Engine

@@ -33,7 +33,7 @@ constexpr std::uint16_t METHOD_STORED = 0;
 constexpr std::uint16_t METHOD_DEFLATED = 8;
 constexpr std::uint16_t EXTRA_ZIP64 = 1;
 constexpr std::uint16_t EXTRA_UNICODE_NAME = 0x7075;
-constexpr std::size_t UNICODE_NAME_OFFSET = 5; // behind a version and the checksum of the plain name
+constexpr std::size_t UNICODE_NAME_OFFSET = 5; // after a version and the checksum of the plain name
 constexpr std::uint16_t IN_EXTRA_16 = 0xffff;
 constexpr std::uint32_t IN_EXTRA_32 = 0xffffffff;
 
@@ -76,8 +76,8 @@ struct Directory
     std::uint64_t size;
 };
 
-/// The body of the extra field \a kind; nothing when the extra fields do not fill \a extra exactly or it stands twice.
-/// An empty answer means that there is none.
+/// The body of the extra field \a kind. No value if the extra fields do not fill \a extra exactly or the field appears
+/// twice. An empty body means that there is no such field.
 std::optional<Bytes> FindExtra(Bytes extra, std::uint16_t kind)
 {
     Bytes found;
@@ -103,7 +103,7 @@ std::optional<Bytes> FindExtra(Bytes extra, std::uint16_t kind)
     return found;
 }
 
-/// False when an extra field gives the entry another name: some readers take that one, others do not.
+/// False if an extra field gives the entry another name: some readers use it, others do not.
 bool HasOneName(Bytes extra, Bytes name)
 {
     std::optional<Bytes> const other = FindExtra(extra, EXTRA_UNICODE_NAME);
@@ -111,7 +111,7 @@ bool HasOneName(Bytes extra, Bytes name)
            (other->empty() || (other->size() >= UNICODE_NAME_OFFSET && other->substr(UNICODE_NAME_OFFSET) == name));
 }
 
-/// Replaces \a number by the next one of the 64-bit field when it only says "see there".
+/// Replaces \a number by the next one of the 64-bit field if it only refers to that field.
 bool TakeFromExtra(Bytes& extra, std::uint64_t& number)
 {
     if (number != IN_EXTRA_32)
@@ -131,7 +131,7 @@ UpdateFault ReadDirectory(Bytes archive, Directory& directory)
 {
     if (archive.size() < END_BYTES || ReadAt<std::uint32_t>(archive, archive.size() - END_BYTES) != END_SIGNATURE)
     {
-        return UpdateFault::ContainerAmbiguous; // cut short, or something behind the end
+        return UpdateFault::ContainerAmbiguous; // truncated, or followed by extra bytes
     }
     std::uint64_t end = archive.size() - END_BYTES;
     auto const disk = ReadAt<std::uint16_t>(archive, end + 4);
@@ -173,7 +173,7 @@ UpdateFault ReadDirectory(Bytes archive, Directory& directory)
     return isRightBefore ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// The kind of file that \a record gives its entry, if it gives one: readers differ in what they make of odd ones.
+/// Checks the kind of file that \a record declares, if it declares one: readers differ in how they treat odd kinds.
 UpdateFault CheckFileType(Bytes record)
 {
     constexpr std::uint8_t MADE_BY_UNIX = 3;
@@ -185,7 +185,7 @@ UpdateFault CheckFileType(Bytes record)
     return !isTold || isUsual ? UpdateFault::None : UpdateFault::EntryTypeRefused;
 }
 
-/// Reads the central record at the front of \a rest and takes it away.
+/// Reads the central record at the front of \a rest and removes it.
 UpdateFault ReadCentral(Bytes& rest, Entry& entry)
 {
     if (!HasRoom(rest, 0, CENTRAL_BYTES) || ReadAt<std::uint32_t>(rest, 0) != CENTRAL_SIGNATURE)
@@ -237,12 +237,12 @@ UpdateFault ReadCentral(Bytes& rest, Entry& entry)
     {
         return UpdateFault::ContainerAmbiguous;
     }
-    // Readers differ in where a name with a NUL ends, and in whether a backslash separates folders.
+    // Readers differ on where a name with a NUL ends, and on whether a backslash separates folders.
     bool const isClear = entry.name.find(std::uint8_t{0}) == Bytes::npos && entry.name.find('\\') == Bytes::npos;
     return isClear ? UpdateFault::None : UpdateFault::EntryNameInvalid;
 }
 
-/// True when what stands between the data's end and the next entry is a right data descriptor and nothing else.
+/// True if exactly one correct data descriptor is between the data's end and the next entry.
 bool IsDescriptor(Bytes gap, Entry const& entry)
 {
     if (gap.size() == 16 || gap.size() == 24)
@@ -262,7 +262,7 @@ bool IsDescriptor(Bytes gap, Entry const& entry)
     return said.stored == entry.sizes.stored && said.plain == entry.sizes.plain;
 }
 
-/// Checks the local entry that fills \a local, from its header to the next one's.
+/// Checks the local entry that fills \a local, from its header to the next entry's header.
 UpdateFault CheckLocal(Bytes local, Entry const& entry)
 {
     if (!HasRoom(local, 0, LOCAL_BYTES) || ReadAt<std::uint32_t>(local, 0) != LOCAL_SIGNATURE)
@@ -300,14 +300,14 @@ UpdateFault CheckLocal(Bytes local, Entry const& entry)
     {
         return isSame && gap.empty() ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
     }
-    // What is said behind the data may be left out before it, each number for itself.
+    // Each number that follows the data may be missing before it.
     bool const isClear = (checksum == 0 || checksum == entry.checksum) &&
                          (sizes.stored == 0 || sizes.stored == entry.sizes.stored) &&
                          (sizes.plain == 0 || sizes.plain == entry.sizes.plain) && IsDescriptor(gap, entry);
     return isClear ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// Reads every central record of \a records into \a entries; \a refused: the name in a record that is refused.
+/// Reads every central record of \a records into \a entries. \a refused: the name in a refused record.
 UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& entries, Bytes& refused)
 {
     if (count > records.size() / CENTRAL_BYTES)
@@ -316,7 +316,7 @@ UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& 
     }
     if (count > ArchiveLimits().maxEntries)
     {
-        return UpdateFault::TooManyEntries; // before there is memory for them
+        return UpdateFault::TooManyEntries; // before memory is allocated for them
     }
     entries.resize(count);
     for (Entry& entry : entries)
@@ -330,8 +330,8 @@ UpdateFault ReadEntries(Bytes records, std::uint64_t count, std::vector<Entry>& 
     return records.empty() ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// Checks that the local entries fill everything up to \a directoryOffset. \a entries: in the order of their data;
-/// \a refused: the name of one that is refused.
+/// Checks that the local entries fill everything up to \a directoryOffset. \a entries: in the order of their data. \a
+/// refused: the name of a refused entry.
 UpdateFault CheckLocals(Bytes archive, std::uint64_t directoryOffset, std::vector<Entry> const& entries, Bytes& refused)
 {
     std::uint64_t expected = 0;

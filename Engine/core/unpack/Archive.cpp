@@ -52,8 +52,8 @@ bool IsAscii(std::string_view text)
                        [](char character) { return static_cast<unsigned char>(character) < 0x80; });
 }
 
-/// The library turns names of which the archive says that they are UTF-8 into the locale's own, and composes them on
-/// the way. In the locale "C", which needs no file, it cannot: it says so, and leaves the bytes as they are.
+/// If an archive declares names as UTF-8, the library converts them to the locale's encoding and composes characters.
+/// In the locale "C", which needs no file, it cannot convert: it reports this and leaves the bytes unchanged.
 class PlainLocale
 {
 public:
@@ -77,7 +77,7 @@ private:
     locale_t m_previous;
 };
 
-/// True when the library may only have complained of a name that it could not convert.
+/// True if the library may have complained only about a name that it could not convert.
 bool HasForeignText(archive_entry* entry)
 {
     char const* const texts[] = {archive_entry_pathname(entry), archive_entry_symlink(entry),
@@ -256,11 +256,11 @@ Archive::Archive(int descriptor, ArchiveContainer const& container)
     bool isGood = true;
     if (filter != ARCHIVE_FILTER_NONE)
     {
-        // One filter, named: the library would otherwise look for filters under filters.
+        // One explicit filter: otherwise the library would look for nested filters.
         isGood = archive_read_support_format_tar(handle) == ARCHIVE_OK &&
                  archive_read_append_filter(handle, filter) == ARCHIVE_OK;
     }
-    // Without memory the library forgets what it is given, and would read from nowhere.
+    // If memory is short, the library loses these settings and would read from nowhere.
     isGood = isGood && archive_read_set_read_callback(handle, &Source::Read) == ARCHIVE_OK &&
              archive_read_set_skip_callback(handle, &Source::Skip) == ARCHIVE_OK &&
              archive_read_set_seek_callback(handle, &Source::Seek) == ARCHIVE_OK &&
@@ -314,7 +314,8 @@ std::optional<ArchiveEntry> Archive::Next()
     return entry;
 }
 
-/// The library drops a name that it cannot convert, and with it the slash by which an entry without a mode is a folder.
+/// The library drops a name that it cannot convert. With the name it drops the final slash, which marks an entry
+/// without a mode as a folder.
 void Archive::TakeNameOfZipEntry(ArchiveEntry& entry)
 {
     if (m_entries == m_container.names.size())

@@ -1,7 +1,7 @@
-// Archive.h: one pass over the entries of an update archive: a zip, or a tar under gzip, bzip2, xz or Zstandard.
-// Thread: one at a time. Ownership: the archive's descriptor stays the caller's; its read position is not used.
-// Names and link targets are the archive's own bytes. No locale has a say in them, so that the helper, which has none,
-// and the publisher's tool, which has the user's, read the same.
+// Archive.h: one pass over the entries of an update archive: a zip, or a tar in gzip, bzip2, xz or Zstandard. Thread:
+// one at a time. Ownership: the caller owns the archive's descriptor; its read position is not used. Names and link
+// targets are the archive's own bytes, independent of any locale. So the helper, which has no locale, and the
+// publisher's tool, which has the user's, read the same names.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -22,7 +22,7 @@ struct archive_entry;
 namespace Pelnar::Engine
 {
 
-/// What an archive's first bytes say that it is.
+/// The kind of archive, from its first bytes.
 enum class ContainerKind
 {
     Zip,
@@ -35,29 +35,29 @@ enum class ContainerKind
 struct ArchiveContainer
 {
     ContainerKind kind = ContainerKind::Zip;
-    std::vector<std::string> names; ///< a zip's, in the order of its entries
+    std::vector<std::string> names; ///< for a zip, in the order of its entries
 };
 
-/// What the archive is, and for a zip that it can be read in one way only. Throws UpdateRefusal: ContainerUnknown,
-/// ArchiveUnreadable, or what ReadZipStructure() finds.
+/// Finds the kind of the archive, and checks that a zip can be read in only one way. Throws UpdateRefusal:
+/// ContainerUnknown, ArchiveUnreadable, or a fault of ReadZipStructure().
 ArchiveContainer InspectContainer(int descriptor);
 
 class Archive
 {
 public:
-    /// \a container: of that descriptor; it outlives this object. Throws UpdateRefusal: ArchiveUnreadable,
+    /// \a container belongs to that descriptor and outlives this object. Throws UpdateRefusal: ArchiveUnreadable,
     /// ContainerDamaged.
     Archive(int descriptor, ArchiveContainer const& container);
     ~Archive();
     Archive(Archive const&) = delete;
     Archive& operator=(Archive const&) = delete;
 
-    /// The next entry; nothing after the last. Throws UpdateRefusal: ContainerDamaged for everything that the reader
-    /// finds wrong or only odd, ContainerAmbiguous when it reads another entry than the container names.
+    /// The next entry; empty after the last. Throws UpdateRefusal: ContainerDamaged for every error or warning of the
+    /// reader, ContainerAmbiguous if it reads another entry than the container names.
     std::optional<ArchiveEntry> Next();
-    /// The entry's time of last change, if it has one.
+    /// The entry's modification time, if it has one.
     std::optional<timespec> ModificationTime() const;
-    /// Hands the contents of the entry to \a sink in pieces, in order. Throws UpdateRefusal: ContainerDamaged when they
+    /// Passes the contents of the entry to \a sink in pieces, in order. Throws UpdateRefusal: ContainerDamaged if they
     /// are not exactly \a size bytes.
     void ReadContents(std::uint64_t size, std::function<void(Bytes)> const& sink);
 
@@ -72,7 +72,7 @@ private:
     std::size_t m_entries = 0; ///< read so far
     std::unique_ptr<Source> m_source;
     std::unique_ptr<Reader> m_reader;
-    archive_entry* m_entry = nullptr; // the reader's
+    archive_entry* m_entry = nullptr; // owned by the reader
 };
 
 } // namespace Pelnar::Engine

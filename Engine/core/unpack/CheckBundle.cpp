@@ -16,7 +16,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-/// The running program's own header, as the linker placed it.
+/// The running program's own header, where the linker placed it.
 extern "C" ElfW(Ehdr) const __ehdr_start __attribute__((visibility("hidden")));
 
 namespace Pelnar::Engine
@@ -24,7 +24,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// The components of "1.20.3"; nothing for any other kind of text.
+/// The components of "1.20.3"; empty for any other text.
 std::optional<std::vector<std::string>> DottedNumbers(std::string const& text)
 {
     std::vector<std::string> numbers(1);
@@ -58,8 +58,8 @@ std::optional<std::vector<std::string>> DottedNumbers(std::string const& text)
     return numbers;
 }
 
-/// The order of two versions is the application's own matter, decided before the download. What no order may allow is
-/// checked here: the same version again, or a lower one where both are plain numbers.
+/// The application decides the order of two versions, before the download. This checks what no order may allow: the
+/// same version again, or a lower one if both are plain numbers.
 bool IsNotNewer(std::string const& version, std::string const& installedVersion)
 {
     auto const offered = DottedNumbers(version);
@@ -144,7 +144,7 @@ bool IsRunnableOn(Machine const& machine, char const* bytes, std::size_t size)
     {
         return true;
     }
-    // Both classes begin alike: the marks, then two numbers of 16 bits, type and machine.
+    // Both classes begin with the same fields: the marks, then two numbers of 16 bits, type and machine.
     if (size < (machine.wordClass == ELFCLASS32 ? sizeof(Elf32_Ehdr) : sizeof(Elf64_Ehdr)) ||
         std::memcmp(bytes, ELFMAG, SELFMAG) != 0)
     {

@@ -44,7 +44,7 @@ std::uint64_t SizeOf(int descriptor)
     return static_cast<std::uint64_t>(status.st_size);
 }
 
-/// The first pass: how many bytes there will be.
+/// The first pass; returns the total number of bytes.
 std::uint64_t JudgeEntries(int archiveFd, ArchiveContainer const& container)
 {
     ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
@@ -155,8 +155,8 @@ private:
         }
         if (entry.size >= LARGE_FILE_BYTES)
         {
-            // The disk begins while the next file is unpacked: less is left for the sync at the end, which alone
-            // counts.
+            // The disk begins to write while the next file is unpacked. This shortens the sync at the end, and only
+            // that sync counts.
             static_cast<void>(::sync_file_range(file.Get(), 0, 0, SYNC_FILE_RANGE_WRITE));
         }
         m_manifest.AddFile(Below(path), mode, entry.size, hasher.Finish());
@@ -179,7 +179,7 @@ UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const&
     std::uint64_t const total = JudgeEntries(archiveFd, container);
     progress(0, total);
 
-    // Judged again as it is read again: nothing is taken over from the first pass but that there was one.
+    // Judged again when read again: the only information from the first pass is that it succeeded.
     ArchiveEntryPolicy policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
     Archive archive(archiveFd, container);
     BundleWriter writer(stagingFd, total, progress);
@@ -214,7 +214,7 @@ std::vector<EntryRefusal> FindRefusedEntries(int archiveFd, std::size_t most)
             return refusals;
         }
     }
-    // What lies below a refused folder, or a link to a refused entry, is only its consequence.
+    // Refusals below a refused folder, and of a link to a refused entry, are only consequences.
     return refusals.empty() ? policy.FindRefusals(most) : refusals;
 }
 

@@ -14,6 +14,7 @@ enum class Setting
     AllowsFeedUrlInDefaults,
     PublicKey,
     NextPublicKey,
+    RootPublicKey,
     RequiresSignedFeed,
     AllowsInsecureFeeds,
     MaximumFeedBytes,
@@ -75,6 +76,10 @@ inline constexpr SettingKey SETTING_KEYS[] = {
      "The public key, in base64, that updates and feeds are signed with."},
     {Setting::NextPublicKey, "PelnarNextPublicEDKey", SettingType::Text, SettingPlace::Information, "one key counts",
      "A second public key that is trusted as well, for a change of keys."},
+    {Setting::RootPublicKey, "PelnarRootPublicEDKey", SettingType::Text, SettingPlace::Information,
+     "the bundle's own keys count",
+     "The public key, in base64, that says in the feed which keys are valid. They count in the place of the two "
+     "above."},
     {Setting::RequiresSignedFeed, "PelnarRequiresSignedFeed", SettingType::Boolean, SettingPlace::Information, "NO",
      "A feed that is not signed is refused. Any value but a plain NO counts as YES."},
     {Setting::AllowsInsecureFeeds, "PelnarAllowsInsecureFeeds", SettingType::Boolean, SettingPlace::Information, "NO",

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>لا يقبل وكيل الشبكة اسم المستخدم وكلمة المرور. تحقق من إعدادات الوكيل.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>لا يذكر موجز التحديثات أي المفاتيح صالحة. جرّب شبكة أخرى، وأبلغ الناشر إذا لم يفد ذلك.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>قائمة المفاتيح الصالحة في موجز التحديثات تالفة. أبلغ الناشر.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>قائمة المفاتيح الصالحة في موجز التحديثات ليست من ناشر هذا التطبيق. جرّب شبكة أخرى، وأبلغ الناشر إذا لم يفد ذلك.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>قائمة المفاتيح الصالحة في موجز التحديثات تخص تطبيقًا آخر. أبلغ الناشر.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>قائمة المفاتيح الصالحة في موجز التحديثات أقدم من قائمة سابقة. جرّب شبكة أخرى، وأبلغ الناشر إذا لم يفد ذلك.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>انتهت صلاحية قائمة المفاتيح في موجز التحديثات. تحقق من ساعة هذا الحاسوب، وأبلغ الناشر إذا كانت صحيحة.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>المفتاح الجذري لهذا التطبيق تالف. أعد تثبيت التطبيق من ناشره.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>Der Netzwerk-Proxy nimmt Ihren Benutzernamen und Ihr Passwort nicht an. Prüfen Sie die Proxy-Einstellungen.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Der Update-Feed sagt nicht, welche Schlüssel gültig sind. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>Die Liste der gültigen Schlüssel im Update-Feed ist beschädigt. Informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Die Liste der gültigen Schlüssel im Update-Feed stammt nicht vom Herausgeber dieser Anwendung. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>Die Liste der gültigen Schlüssel im Update-Feed gilt für eine andere Anwendung. Informieren Sie den Herausgeber.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Die Liste der gültigen Schlüssel im Update-Feed ist älter als eine frühere. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Die Liste der gültigen Schlüssel im Update-Feed ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>Der Stammschlüssel dieser Anwendung ist beschädigt. Installieren Sie die Anwendung neu vom Herausgeber.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>El proxy de red no acepta su nombre de usuario y contraseña. Compruebe la configuración del proxy.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>El canal de actualizaciones no indica qué claves son válidas. Pruebe con otra red e informe al editor si eso no ayuda.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>La lista de claves válidas del canal de actualizaciones está dañada. Informe al editor.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>La lista de claves válidas del canal de actualizaciones no procede del editor de esta aplicación. Pruebe con otra red e informe al editor si eso no ayuda.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>La lista de claves válidas del canal de actualizaciones es de otra aplicación. Informe al editor.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>La lista de claves válidas del canal de actualizaciones es más antigua que una anterior. Pruebe con otra red e informe al editor si eso no ayuda.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>La lista de claves válidas del canal de actualizaciones ha caducado. Compruebe el reloj de este equipo e informe al editor si es correcto.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>La clave raíz de esta aplicación está dañada. Vuelva a instalar la aplicación desde su editor.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>Le proxy réseau n’accepte pas votre nom d’utilisateur et votre mot de passe. Vérifiez les réglages du proxy.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Le flux de mises à jour n’indique pas quelles clés sont valides. Essayez un autre réseau et prévenez l’éditeur si cela n’aide pas.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>La liste des clés valides du flux de mises à jour est endommagée. Prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>La liste des clés valides du flux de mises à jour ne provient pas de l’éditeur de cette application. Essayez un autre réseau et prévenez l’éditeur si cela n’aide pas.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>La liste des clés valides du flux de mises à jour concerne une autre application. Prévenez l’éditeur.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>La liste des clés valides du flux de mises à jour est plus ancienne qu’une précédente. Essayez un autre réseau et prévenez l’éditeur si cela n’aide pas.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>La liste des clés valides du flux de mises à jour a expiré. Vérifiez l’horloge de cet ordinateur et prévenez l’éditeur si elle est juste.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>La clé racine de cette application est endommagée. Réinstallez l’application depuis son éditeur.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>פרוקסי הרשת אינו מקבל את שם המשתמש והסיסמה שלך. יש לבדוק את הגדרות הפרוקסי.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>הזנת העדכונים אינה מציינת אילו מפתחות תקפים. יש לנסות רשת אחרת, ולהודיע למפיץ אם זה לא עוזר.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>רשימת המפתחות התקפים בהזנת העדכונים פגומה. יש להודיע למפיץ.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>רשימת המפתחות התקפים בהזנת העדכונים אינה של מפיץ היישום הזה. יש לנסות רשת אחרת, ולהודיע למפיץ אם זה לא עוזר.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>רשימת המפתחות התקפים בהזנת העדכונים מיועדת ליישום אחר. יש להודיע למפיץ.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>רשימת המפתחות התקפים בהזנת העדכונים ישנה מרשימה קודמת. יש לנסות רשת אחרת, ולהודיע למפיץ אם זה לא עוזר.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>תוקפה של רשימת המפתחות בהזנת העדכונים פג. יש לבדוק את שעון המחשב, ולהודיע למפיץ אם הוא מדויק.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>מפתח השורש של היישום הזה פגום. יש להתקין את היישום מחדש מהמפיץ.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

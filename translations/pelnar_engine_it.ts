@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>Il proxy di rete non accetta il tuo nome utente e la tua password. Controlla le impostazioni del proxy.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Il feed degli aggiornamenti non indica quali chiavi sono valide. Provi un’altra rete e informi l’editore se non basta.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>L’elenco delle chiavi valide nel feed degli aggiornamenti è danneggiato. Informi l’editore.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>L’elenco delle chiavi valide nel feed degli aggiornamenti non proviene dall’editore di questa applicazione. Provi un’altra rete e informi l’editore se non basta.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>L’elenco delle chiavi valide nel feed degli aggiornamenti è per un’altra applicazione. Informi l’editore.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>L’elenco delle chiavi valide nel feed degli aggiornamenti è più vecchio di uno precedente. Provi un’altra rete e informi l’editore se non basta.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>L’elenco delle chiavi valide nel feed degli aggiornamenti è scaduto. Controlli l’orologio di questo computer e informi l’editore se è giusto.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>La chiave radice di questa applicazione è danneggiata. Reinstalli l’applicazione dal suo editore.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

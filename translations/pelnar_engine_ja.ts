@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>ネットワークプロキシがユーザー名とパスワードを受け付けません。プロキシの設定を確認してください。</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新フィードに有効な鍵が示されていません。別のネットワークで試し、それでも解決しない場合は発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>更新フィードにある有効な鍵の一覧が壊れています。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新フィードにある有効な鍵の一覧は、このアプリケーションの発行元のものではありません。別のネットワークで試し、それでも解決しない場合は発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>更新フィードにある有効な鍵の一覧は、別のアプリケーションのものです。発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新フィードにある有効な鍵の一覧は、以前のものより古くなっています。別のネットワークで試し、それでも解決しない場合は発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>更新フィードにある有効な鍵の一覧の有効期限が切れています。このコンピューターの時計を確認し、正しい場合は発行元に連絡してください。</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>このアプリケーションのルート鍵が壊れています。発行元から入手してアプリケーションを再インストールしてください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

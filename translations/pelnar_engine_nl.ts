@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>De netwerkproxy accepteert uw gebruikersnaam en wachtwoord niet. Controleer de proxy-instellingen.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>De updatefeed vermeldt niet welke sleutels geldig zijn. Probeer een ander netwerk en meld het aan de uitgever als dat niet helpt.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>De lijst met geldige sleutels in de updatefeed is beschadigd. Meld het aan de uitgever.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>De lijst met geldige sleutels in de updatefeed komt niet van de uitgever van deze toepassing. Probeer een ander netwerk en meld het aan de uitgever als dat niet helpt.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>De lijst met geldige sleutels in de updatefeed is voor een andere toepassing. Meld het aan de uitgever.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>De lijst met geldige sleutels in de updatefeed is ouder dan een eerdere. Probeer een ander netwerk en meld het aan de uitgever als dat niet helpt.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>De lijst met geldige sleutels in de updatefeed is verlopen. Controleer de klok van deze computer en meld het aan de uitgever als die goed staat.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>De hoofdsleutel van deze toepassing is beschadigd. Installeer de toepassing opnieuw via de uitgever.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

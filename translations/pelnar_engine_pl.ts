@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>Serwer proxy nie przyjmuje Twojej nazwy użytkownika i hasła. Sprawdź ustawienia serwera proxy.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Kanał aktualizacji nie podaje, które klucze są ważne. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>Lista ważnych kluczy w kanale aktualizacji jest uszkodzona. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Lista ważnych kluczy w kanale aktualizacji nie pochodzi od wydawcy tej aplikacji. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>Lista ważnych kluczy w kanale aktualizacji dotyczy innej aplikacji. Powiadom wydawcę.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Lista ważnych kluczy w kanale aktualizacji jest starsza niż poprzednia. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Lista ważnych kluczy w kanale aktualizacji wygasła. Sprawdź zegar tego komputera i powiadom wydawcę, jeśli jest ustawiony prawidłowo.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>Klucz główny tej aplikacji jest uszkodzony. Zainstaluj aplikację ponownie od jej wydawcy.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

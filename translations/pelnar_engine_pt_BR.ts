@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>O proxy de rede não aceita seu nome de usuário e sua senha. Verifique as configurações do proxy.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>O feed de atualizações não informa quais chaves são válidas. Tente outra rede e avise o editor se isso não ajudar.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>A lista de chaves válidas no feed de atualizações está danificada. Avise o editor.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>A lista de chaves válidas no feed de atualizações não é do editor deste aplicativo. Tente outra rede e avise o editor se isso não ajudar.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>A lista de chaves válidas no feed de atualizações é de outro aplicativo. Avise o editor.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>A lista de chaves válidas no feed de atualizações é mais antiga que uma anterior. Tente outra rede e avise o editor se isso não ajudar.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>A lista de chaves válidas no feed de atualizações expirou. Verifique o relógio deste computador e avise o editor se ele estiver certo.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>A chave raiz deste aplicativo está danificada. Instale o aplicativo novamente a partir do editor.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>Сетевой прокси не принимает ваши имя пользователя и пароль. Проверьте настройки прокси.</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>В ленте обновлений не указано, какие ключи действительны. Попробуйте другую сеть и сообщите издателю, если это не поможет.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>Список действительных ключей в ленте обновлений повреждён. Сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Список действительных ключей в ленте обновлений создан не издателем этого приложения. Попробуйте другую сеть и сообщите издателю, если это не поможет.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>Список действительных ключей в ленте обновлений относится к другому приложению. Сообщите издателю.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>Список действительных ключей в ленте обновлений старее полученного ранее. Попробуйте другую сеть и сообщите издателю, если это не поможет.</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>Срок действия списка ключей в ленте обновлений истёк. Проверьте часы этого компьютера и сообщите издателю, если они верны.</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>Корневой ключ этого приложения повреждён. Установите приложение заново от его издателя.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

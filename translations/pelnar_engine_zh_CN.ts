@@ -825,6 +825,34 @@
         <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
         <translation>网络代理不接受您的用户名和密码。请检查代理设置。</translation>
     </message>
+    <message>
+        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新源没有说明哪些密钥有效。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <translation>更新源中的有效密钥列表已损坏。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新源中的有效密钥列表并非来自此应用程序的发布者。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <translation>更新源中的有效密钥列表属于另一个应用程序。请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <translation>更新源中的有效密钥列表比之前的更旧。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <translation>更新源中的有效密钥列表已过期。请检查此计算机的时钟，如果时钟正确，请告知发布者。</translation>
+    </message>
+    <message>
+        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <translation>此应用程序的根密钥已损坏。请从发布者处重新安装此应用程序。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -242,6 +242,34 @@ char const* SentenceOf(ErrorCause cause)
             "PelnarEngine_Errors",
             "The update feed has expired: check the clock of this computer, and tell the publisher if it is right.");
 
+    case ErrorCause::KeyStatementMissing:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The update feed does not say which keys are valid. Try another network, and tell the "
+                                 "publisher if that does not help.");
+    case ErrorCause::KeyStatementMalformed:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The list of valid keys in the update feed is damaged. Tell the publisher.");
+    case ErrorCause::KeyStatementSignatureWrong:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The list of valid keys in the update feed is not from this application's publisher. "
+                                 "Try another network, and tell the publisher if that does not help.");
+    case ErrorCause::KeyStatementForAnother:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The list of valid keys in the update feed is for another application. Tell the "
+                                 "publisher.");
+    case ErrorCause::KeyStatementReplayed:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The list of valid keys in the update feed is older than an earlier one. Try another "
+                                 "network, and tell the publisher if that does not help.");
+    case ErrorCause::KeyStatementExpired:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The list of valid keys in the update feed has expired. Check the clock of this "
+                                 "computer, and tell the publisher if it is right.");
+    case ErrorCause::RootKeyMalformed:
+        return QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                 "The root key of this application is damaged. Install the application again from its "
+                                 "publisher.");
+
     case ErrorCause::ForeignItem:
         return QT_TRANSLATE_NOOP(
             "PelnarEngine_Errors",

@@ -123,6 +123,15 @@ enum class ErrorCause
     FeedReplayed = 762,
     FeedExpired = 763,
 
+    // What the publisher's root key says of the keys that sign.
+    KeyStatementMissing = 770,
+    KeyStatementMalformed = 771,
+    KeyStatementSignatureWrong = 772,
+    KeyStatementForAnother = 773,
+    KeyStatementReplayed = 774,
+    KeyStatementExpired = 775,
+    RootKeyMalformed = 776,
+
     // The application's own answers.
     ForeignItem = 800,
     DelegateRaised = 801,

@@ -245,6 +245,8 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.check = ReadCheckSettings(feedUrl);
     settings.bundle = ReadRunningBundle();
     settings.check.publicKeys = settings.bundle.publicKeys;
+    settings.check.rootPublicKey = SettingText(Setting::RootPublicKey).toStdString();
+    settings.check.bundleIdentifier = settings.bundle.identifier.toStdString();
     settings.automaticDownload = ReadAutomaticDownload();
     // It does not matter which of the two says so: an administrator's word must not be undone by a default.
     bool const isDisabled = IsSettingTrueIn(SettingPlace::Information, Setting::UpdatesDisabled) ||

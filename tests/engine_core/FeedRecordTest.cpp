@@ -104,6 +104,22 @@ TEST_F(FeedRecordFileTest, IsReadAsItWasWritten)
     EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup) << "nobody else holds its lock";
 }
 
+TEST_F(FeedRecordFileTest, KeepsWhatItKnowsOfKeys)
+{
+    FeedRecord withKeys = record;
+    withKeys.keySerial = 12;
+    withKeys.serialSigner = "21fe31dfa154a261";
+    EXPECT_TRUE(KeepFeedRecordFile(path, {}, record));
+    EXPECT_TRUE(KeepFeedRecordFile(path, {}, withKeys));
+    auto const read = ReadFeedRecordFile(path);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->keySerial, 12);
+    EXPECT_EQ(read->serialSigner, "21fe31dfa154a261");
+    EXPECT_EQ(read->serial, 7);
+    EXPECT_TRUE(KeepFeedRecordFile(path, {}, record));
+    EXPECT_EQ(ReadFeedRecordFile(path)->keySerial, 12) << "no process lowers it";
+}
+
 TEST_F(FeedRecordFileTest, EachBundleHasItsOwnWhateverItIsCalled)
 {
     std::set<QString> paths;

@@ -1,6 +1,6 @@
 // FeedTrustFlowTest.cpp: what becomes of feeds, signed and not, as the clock goes on and as others are played back.
 #include "Engine/core/update/UpdateFlow.h"
-#include "tests/engine/SignedFeedText.h"
+#include "tests/engine/KeyStatementText.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/LogCapture.h"
 #include "tests/update/ScriptedUpdate.h"
@@ -170,6 +170,86 @@ TEST_F(FeedTrustFlow, WhatCannotBeRememberedKeepsNoUpdateAway)
 {
     host.throwsIn = "store feed record";
     EXPECT_EQ(Check(FeedWith(ItemOf("5.1"))), found);
+}
+
+/// A signed feed with a key statement.
+QByteArray FeedUnder(StatementText const& statement, QByteArray const& serial, std::uint8_t signer,
+                     std::uint8_t root = ROOT_SEED)
+{
+    QByteArray const line = StatementLineOf(statement, root);
+    return Signed(FeedWith(TermsOf(serial, FAR_AHEAD) + ItemOf("5.1")) + line, signer);
+}
+
+std::string IdOf(std::uint8_t seed)
+{
+    return KeyIdOf(MakeKeyPair(seed).publicKey);
+}
+
+/// A bundle with a root key, whose own signing key is that of seed 7.
+class RootKeyFlow : public FeedTrustFlow
+{
+protected:
+    RootKeyFlow()
+    {
+        settings.check.feedSigning = FeedSigning::Required;
+        settings.check.rootPublicKey = MakeKeyPair(ROOT_SEED).publicKey;
+        settings.check.bundleIdentifier = "com.example.app";
+    }
+};
+
+TEST_F(RootKeyFlow, StatementCountsInThePlaceOfTheBundlesOwnKeys)
+{
+    EXPECT_EQ(Check(FeedUnder({"1", FAR_AHEAD}, "10", 7)), found);
+    StatementText const next{"2", FAR_AHEAD, {"com.example.app"}, {8}, {IdOf(7)}};
+    EXPECT_EQ(Check(FeedUnder(next, "11", 8)), found) << "a key that the bundle has never heard of";
+    EXPECT_EQ(host.feedRecord->keySerial, 2);
+    EXPECT_EQ(host.feedRecord->serialSigner, IdOf(8));
+    settings.check.feedRecord = *host.feedRecord;
+    EXPECT_EQ(Check(FeedUnder(next, "12", 7)), (Notes{"aborted 3001", "check ended", "ended"}));
+    ExpectRefused(757);
+}
+
+TEST_F(RootKeyFlow, DownloadsAreJudgedByTheStatementsKeys)
+{
+    StatementText const next{"2", FAR_AHEAD, {"com.example.app"}, {8}, {}};
+    std::vector<TrustedKeys> judged;
+    host.onFound = [&judged](FoundUpdate const& update) { judged.push_back(update.publicKeys); };
+    EXPECT_EQ(Check(FeedUnder(next, "11", 8)), found);
+    ASSERT_EQ(judged.size(), 1u);
+    EXPECT_EQ(judged[0].Texts(), std::vector<std::string>{MakeKeyPair(8).publicKey});
+}
+
+TEST_F(RootKeyFlow, StatementIsNeverLeftOutAndNeverOlder)
+{
+    EXPECT_EQ(Check(FeedUnder({"5", FAR_AHEAD}, "10", 7)), found);
+    settings.check.feedRecord = *host.feedRecord;
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "11")), refused);
+    ExpectRefused(770);
+    EXPECT_EQ(Check(FeedUnder({"4", FAR_AHEAD}, "11", 7)), refused);
+    ExpectRefused(774);
+    EXPECT_EQ(Check(FeedUnder({"6", FAR_AHEAD}, "11", 7, 7)), refused) << "signed by the signing key";
+    ExpectRefused(772);
+    EXPECT_EQ(Check(FeedUnder({"5", FAR_AHEAD}, "11", 7)), found) << "the same one again";
+}
+
+TEST_F(RootKeyFlow, StatementCountsWithoutASignedFeedAsWell)
+{
+    settings.check.feedSigning = FeedSigning::NotAsked;
+    QByteArray const feed = FeedWith(ItemOf("5.1"));
+    EXPECT_EQ(Check(feed), refused);
+    ExpectRefused(770);
+    EXPECT_EQ(Check(feed + StatementLineOf(StatementText{"9", FAR_AHEAD})), found);
+    EXPECT_EQ(host.feedRecord->keySerial, 9);
+}
+
+TEST_F(RootKeyFlow, SerialThatAThiefHasRaisedCountsNoMoreOnceItsKeyIsRevoked)
+{
+    EXPECT_EQ(Check(FeedUnder({"1", FAR_AHEAD}, "9223372036854775807", 7)), found);
+    settings.check.feedRecord = *host.feedRecord;
+    EXPECT_EQ(Check(FeedUnder({"2", FAR_AHEAD, {"com.example.app"}, {8}, {}}, "12", 8)), refused);
+    ExpectRefused(762);
+    EXPECT_EQ(Check(FeedUnder({"2", FAR_AHEAD, {"com.example.app"}, {8}, {IdOf(7)}}, "12", 8)), found);
+    EXPECT_EQ(host.feedRecord->serial, 12);
 }
 
 } // namespace

@@ -52,6 +52,10 @@ int ScriptedHost::CompareVersions(QString const& a, QString const& b)
 void ScriptedHost::TellFound(FoundUpdate const& found)
 {
     Note(found.place.delta ? "found delta" : "found");
+    if (onFound)
+    {
+        onFound(found);
+    }
 }
 
 void ScriptedHost::TellAborted(EngineError const& told)
@@ -374,6 +378,7 @@ UpdateFixture::UpdateFixture()
     settings.bundle.shownVersion = QStringLiteral("Five");
     settings.bundle.publicKeys = {GOOD_KEY};
     settings.check.bundleVersion = settings.bundle.version;
+    settings.check.publicKeys = settings.bundle.publicKeys;
     settings.downloadFolder = downloads.path();
     settings.stateFolder = downloads.filePath(QStringLiteral("state"));
 }

@@ -66,6 +66,7 @@ public:
     std::string throwsIn; ///< the note at which the delegate throws
     std::function<void(Engine::RelaunchWish)> installNow;
     std::optional<Engine::EngineError> error;
+    std::function<void(Engine::FoundUpdate const&)> onFound;
     std::function<void()> onEnded;
     std::size_t itemCount = 0;
     std::optional<Engine::FeedRecord> feedRecord;

@@ -139,11 +139,22 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 
 std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
 {
+    QDateTime const now = m_now();
+    auto believed = BelieveKeys(
+        outcome.bytes,
+        {m_settings.publicKeys, m_settings.rootPublicKey, m_settings.bundleIdentifier, m_settings.feedRecord.keySerial},
+        now);
+    if (auto const* const error = std::get_if<EngineError>(&believed))
+    {
+        return *error;
+    }
+    m_keys = std::get<BelievedKeys>(std::move(believed));
+    m_settings.feedRecord = UnderKeys(m_settings.feedRecord, m_keys);
     bool const mustBeSigned = m_settings.feedSigning == FeedSigning::Required;
     QByteArray content = outcome.bytes;
     if (mustBeSigned)
     {
-        auto verified = VerifyFeed(outcome.bytes, m_settings.publicKeys);
+        auto verified = VerifyFeed(outcome.bytes, m_keys.keys);
         if (auto const* const error = std::get_if<EngineError>(&verified))
         {
             return *error;
@@ -157,20 +168,15 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         // The declaration that many pages begin with would count as an error of its own.
         return BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error);
     }
-    QDateTime const now = m_now();
     std::optional<FeedTerms> terms;
     if (mustBeSigned)
     {
-        auto const said = ReadFeedTerms(result.channel);
-        if (auto const* const error = std::get_if<EngineError>(&said))
+        auto judged = JudgeTerms(outcome, result.channel, now);
+        if (auto const* const error = std::get_if<EngineError>(&judged))
         {
             return *error;
         }
-        terms = std::get<FeedTerms>(said);
-        if (auto const error = JudgeFeedTerms(*terms, m_settings.feedRecord.serial, now))
-        {
-            return error;
-        }
+        terms = std::get<FeedTerms>(std::move(judged));
     }
     m_items = std::move(result.items);
     m_feedReach = outcome.reach;
@@ -182,6 +188,24 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
     Remember(outcome.bytes, terms, now);
     KeepFeed(outcome);
     return std::nullopt;
+}
+
+std::variant<FeedTerms, EngineError> CheckRun::JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                                          QDateTime const& now) const
+{
+    auto said = ReadFeedTerms(channel);
+    if (std::holds_alternative<EngineError>(said))
+    {
+        return said;
+    }
+    FeedTerms& terms = std::get<FeedTerms>(said);
+    if (auto const error = JudgeFeedTerms(terms, m_settings.feedRecord.serial, now))
+    {
+        return *error;
+    }
+    // Only a root key can revoke the key that signed.
+    terms.signer = m_settings.rootPublicKey.empty() ? std::string() : FeedSigner(outcome.bytes, m_keys.keys);
+    return said;
 }
 
 void CheckRun::KeepFeed(FetchOutcome const& outcome)
@@ -267,7 +291,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     }
     // What is used instead is the same update: anyone who agrees to one version must not get another.
     bool const isSameVersion = fallback && order(At(*fallback).versionString, At(answer.place).versionString) == 0;
-    return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach};
+    return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach, m_keys.keys};
 }
 
 FeedItem const& CheckRun::At(ItemPlace const& place) const

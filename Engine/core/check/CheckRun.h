@@ -37,6 +37,8 @@ struct CheckSettings
     FeedLimits feedLimits;
     FeedSigning feedSigning = FeedSigning::NotAsked;
     TrustedKeys publicKeys;          ///< of the running bundle
+    std::string rootPublicKey;       ///< base64; empty when the running bundle has none
+    std::string bundleIdentifier;    ///< of the running bundle
     FeedRecord feedRecord;           ///< of the last check
     IFeedStore* feedStore = nullptr; ///< outlives the check; null when no feed is kept
 };
@@ -54,6 +56,7 @@ struct FoundUpdate
     ItemPlace place;
     std::optional<ItemPlace> fallback; ///< of a delta: the whole item of the same version, if the application gave one
     AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
+    TrustedKeys publicKeys;                         ///< by which its downloads are judged
 };
 
 /// What the application answered when it was asked for the best item.
@@ -112,6 +115,9 @@ private:
     void TakeFeed(FetchOutcome const& outcome);
     /// The items of what was fetched become the run's, or an error says why not.
     std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
+    /// The terms of a feed that must be signed, or why it is refused.
+    std::variant<FeedTerms, EngineError> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                                    QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
     /// Asks the host and judges its answer: what to offer, or nothing; an error when the answer is of no use.
@@ -130,6 +136,7 @@ private:
     AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;
     bool m_hasPutOff = false;
+    BelievedKeys m_keys; ///< by which the loaded feed was judged
 };
 
 } // namespace Pelnar::Engine

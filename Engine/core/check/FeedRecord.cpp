@@ -19,6 +19,17 @@ QString AddressOf(QUrl const& url)
 
 } // namespace
 
+FeedRecord UnderKeys(FeedRecord record, BelievedKeys const& keys)
+{
+    if (std::find(keys.revoked.begin(), keys.revoked.end(), record.serialSigner) != keys.revoked.end())
+    {
+        record.serial = 0;
+        record.serialSigner.clear();
+    }
+    record.keySerial = std::max(record.keySerial, keys.serial);
+    return record;
+}
+
 FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
                      std::optional<FeedTerms> const& terms, QDateTime const& now)
 {
@@ -30,15 +41,23 @@ FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const
                          record.firstSeen.isValid() && record.firstSeen <= now;
     after.firstSeen = isKnown ? record.firstSeen : now;
     after.lastSeen = now;
-    after.serial = terms ? std::max(terms->serial, record.serial) : record.serial;
+    bool const isHighest = terms && terms->serial >= record.serial;
+    after.serial = isHighest ? terms->serial : record.serial;
+    after.serialSigner = isHighest ? terms->signer : record.serialSigner;
+    after.keySerial = record.keySerial;
     return after;
 }
 
 FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours)
 {
-    bool const isTheirsLater = stored.address == ours.address && stored.serial > ours.serial;
-    FeedRecord kept = isTheirsLater ? stored : ours;
-    kept.serial = std::max(stored.serial, ours.serial);
+    if (stored.keySerial != ours.keySerial)
+    {
+        return stored.keySerial > ours.keySerial ? stored : ours;
+    }
+    bool const isSerialTheirs = stored.serial > ours.serial;
+    FeedRecord kept = isSerialTheirs && stored.address == ours.address ? stored : ours;
+    kept.serial = isSerialTheirs ? stored.serial : ours.serial;
+    kept.serialSigner = isSerialTheirs ? stored.serialSigner : ours.serialSigner;
     return kept;
 }
 

@@ -26,6 +26,7 @@ namespace
 {
 
 constexpr std::string_view MAGIC = "PELNARF1";
+constexpr std::string_view MAGIC_WITH_KEYS = "PELNARF2"; ///< of a bundle with a root key
 constexpr int LONGEST_WAIT_MS = 500;
 
 /// No feed can have come before 1970.
@@ -61,29 +62,40 @@ std::string NameOf(QString const& path)
 
 std::string EncodeFeedRecord(FeedRecord const& record)
 {
-    FieldWriter writer(MAGIC);
+    bool const hasKeys = record.keySerial != 0 || !record.serialSigner.empty();
+    FieldWriter writer(hasKeys ? MAGIC_WITH_KEYS : MAGIC);
     writer.Text(record.address.toStdString());
     writer.Text(record.digest.toStdString());
     writer.Number(NumberOf(record.firstSeen));
     writer.Number(NumberOf(record.lastSeen));
     writer.Number(static_cast<std::uint64_t>(record.serial));
+    if (hasKeys)
+    {
+        writer.Text(record.serialSigner);
+        writer.Number(static_cast<std::uint64_t>(record.keySerial));
+    }
     return writer.Finish();
 }
 
 std::optional<FeedRecord> DecodeFeedRecord(std::string_view bytes)
 {
-    FieldReader reader(bytes, MAGIC);
+    bool const hasKeys = bytes.substr(0, MAGIC_WITH_KEYS.size()) == MAGIC_WITH_KEYS;
+    FieldReader reader(bytes, hasKeys ? MAGIC_WITH_KEYS : MAGIC);
     FeedRecord record;
     record.address = QString::fromStdString(reader.Text());
     record.digest = QString::fromStdString(reader.Text());
     record.firstSeen = TimeOf(reader.Number());
     record.lastSeen = TimeOf(reader.Number());
     std::uint64_t const serial = reader.Number();
-    if (!reader.IsWhole() || serial > static_cast<std::uint64_t>(std::numeric_limits<qint64>::max()))
+    record.serialSigner = hasKeys ? reader.Text() : std::string();
+    std::uint64_t const keySerial = hasKeys ? reader.Number() : 0;
+    constexpr auto HIGHEST = static_cast<std::uint64_t>(std::numeric_limits<qint64>::max());
+    if (!reader.IsWhole() || serial > HIGHEST || keySerial > HIGHEST)
     {
         return std::nullopt;
     }
     record.serial = static_cast<qint64>(serial);
+    record.keySerial = static_cast<qint64>(keySerial);
     return record;
 }
 

@@ -42,17 +42,6 @@ bool IsDigit(QChar character)
     return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
-/// Invalid for anything but a moment in the one form.
-QDateTime MomentOf(QString const& text)
-{
-    QLatin1String const form(DATE_FORM);
-    bool const isOfForm = text.size() == form.size() &&
-                          std::equal(text.begin(), text.end(), form.begin(),
-                                     [](QChar character, char wanted)
-                                     { return wanted == '0' ? IsDigit(character) : character == QLatin1Char(wanted); });
-    return isOfForm ? QDateTime::fromString(text, Qt::ISODate) : QDateTime();
-}
-
 } // namespace
 
 std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys)
@@ -87,6 +76,24 @@ qint64 FeedSerial(QString const& text)
     return isDecimal ? digits.toLongLong() : 0;
 }
 
+QDateTime FeedMoment(QString const& text)
+{
+    QLatin1String const form(DATE_FORM);
+    bool const isOfForm = text.size() == form.size() &&
+                          std::equal(text.begin(), text.end(), form.begin(),
+                                     [](QChar character, char wanted)
+                                     { return wanted == '0' ? IsDigit(character) : character == QLatin1Char(wanted); });
+    return isOfForm ? QDateTime::fromString(text, Qt::ISODate) : QDateTime();
+}
+
+std::string FeedSigner(QByteArray const& feed, TrustedKeys const& keys)
+{
+    auto const signer = std::find_if(keys.Texts().begin(), keys.Texts().end(),
+                                     [&](std::string const& key)
+                                     { return std::holds_alternative<QByteArray>(VerifyFeed(feed, {key})); });
+    return signer == keys.Texts().end() ? std::string() : KeyIdOf(*signer);
+}
+
 std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
 {
     FeedTerms terms;
@@ -95,7 +102,7 @@ std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
     {
         return MakeError(ErrorCause::FeedSerialUnusable);
     }
-    terms.expires = channel.expirations.size() == 1 ? MomentOf(channel.expirations.front().trimmed()) : QDateTime();
+    terms.expires = channel.expirations.size() == 1 ? FeedMoment(channel.expirations.front().trimmed()) : QDateTime();
     if (!terms.expires.isValid())
     {
         return MakeError(ErrorCause::FeedExpiryUnusable);

@@ -10,6 +10,7 @@
 #include <QDateTime>
 
 #include <optional>
+#include <string>
 #include <variant>
 
 namespace Pelnar::Engine
@@ -25,8 +26,9 @@ enum class FeedSigning
 /// What a signed feed says of itself.
 struct FeedTerms
 {
-    qint64 serial = 0; ///< from 1; grows with every feed that is signed
-    QDateTime expires; ///< from then on the feed is refused
+    qint64 serial = 0;       ///< from 1; grows with every feed that is signed
+    QDateTime expires;       ///< from then on the feed is refused
+    std::string signer = {}; ///< id of the key that signed; empty where nobody asked
 };
 
 /// The content of a feed that is signed, whole, by one of \a keys, or why it is refused. No byte is
@@ -36,6 +38,12 @@ struct FeedTerms
 /// The serial that \a text is, blanks around it left out: a positive decimal number without leading zeros, at most
 /// 9223372036854775807; 0 for anything else.
 [[nodiscard]] qint64 FeedSerial(QString const& text);
+
+/// The moment that \a text is, in the one form that feeds have; invalid for anything else.
+[[nodiscard]] QDateTime FeedMoment(QString const& text);
+
+/// The id of that one of \a keys which signed \a feed; empty when none did.
+[[nodiscard]] std::string FeedSigner(QByteArray const& feed, TrustedKeys const& keys);
 
 /// What \a channel says, or why a client that requires signed feeds refuses it: each must be there once and be
 /// readable.

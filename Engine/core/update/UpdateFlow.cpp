@@ -89,6 +89,7 @@ void UpdateFlow::TellFound(FoundUpdate const& found)
 {
     m_host.TellFound(found);
     m_settings.feedReach = found.feedReach;
+    m_settings.bundle.publicKeys = found.publicKeys;
     m_candidates.push_back(CandidateAt(found.place));
     if (found.fallback)
     {

@@ -29,9 +29,9 @@ struct RunningBundle
     QString path; ///< absolute
     QString identifier;
     QString version;
-    QString shownName;    ///< for a person
-    QString shownVersion; ///< for a person
-    TrustedKeys publicKeys;
+    QString shownName;      ///< for a person
+    QString shownVersion;   ///< for a person
+    TrustedKeys publicKeys; ///< its own, and once a check has found something those by which that was judged
 };
 
 struct UpdateSettings

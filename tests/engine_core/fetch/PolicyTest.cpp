@@ -190,7 +190,7 @@ TEST(EngineErrors, CodesAreThePublishedOnes)
         auto const own = ownCodes.find(error.cause);
         int const ofItsGroup = cause >= 700 && cause < 750   ? 1000
                                : cause >= 750 && cause < 760 ? 3001
-                               : cause >= 760 && cause < 770 ? 3002
+                               : cause >= 760 && cause < 780 ? 3002
                                                              : 1002;
         EXPECT_EQ(static_cast<int>(error.code), own != ownCodes.end() ? own->second : ofItsGroup) << cause;
     }

@@ -1,5 +1,4 @@
-// BackOff.h: how long checks that nobody asked for are held back after failures. Pure decisions.
-// Thread: any; no state. Ownership: values only.
+// BackOff.h: how long automatic checks wait after failures. Pure functions.
 #pragma once
 
 #include <QDateTime>
@@ -9,11 +8,11 @@
 namespace Pelnar::Engine
 {
 
-/// What is kept of the checks so far, in the user defaults.
+/// The record of earlier checks, in the user defaults.
 struct BackOffState
 {
-    int failures = 0;      ///< background checks in a row that failed, downloads and preparations included
-    QDateTime lastFailure; ///< invalid when there is none
+    int failures = 0;      ///< failed background checks in a row, including downloads and preparations
+    QDateTime lastFailure; ///< invalid if there is none
 
     bool operator==(BackOffState const& other) const
     {
@@ -22,14 +21,14 @@ struct BackOffState
     bool operator!=(BackOffState const& other) const { return !(*this == other); }
 };
 
-/// Failures in a row after which the log speaks of more than bad luck.
+/// After this many failures in a row the log says more.
 constexpr int FAILURES_TO_TELL = 3;
 
 /// After \a failures in a row: 1, 2, 4 … hours, at most 24.
 [[nodiscard]] std::chrono::hours BackOffAfter(int failures);
 
-/// Whether a check that nobody asked for has to wait at \a now. A failure that lies in the future, because the clock
-/// was set back, holds nothing up.
+/// True if an automatic check has to wait at \a now. A failure in the future, because the clock was set back, delays
+/// nothing.
 [[nodiscard]] bool IsHeldBack(BackOffState const& state, QDateTime const& now);
 
 [[nodiscard]] BackOffState AfterFailure(BackOffState const& state, QDateTime const& now);

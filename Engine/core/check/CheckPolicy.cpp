@@ -18,13 +18,13 @@ OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order
     {
         return OfferVerdict::Skipped;
     }
-    // Deliberate: that version only. What failed says nothing of an older one that is newer than the bundle.
+    // Deliberate: only that version. Its failure says nothing about an older version that is newer than the bundle.
     if (!question.failedVersion.isEmpty() &&
         (question.itemVersion == question.failedVersion || order(question.failedVersion, question.itemVersion) == 0))
     {
         return OfferVerdict::Failed;
     }
-    // A probe may be the first half of a check that a person asked for.
+    // A probe may be the first half of a check that a person requested.
     if (question.kind == CheckKind::Background && !question.heldBackVersion.isEmpty() &&
         (question.itemVersion == question.heldBackVersion ||
          order(question.heldBackVersion, question.itemVersion) == 0))

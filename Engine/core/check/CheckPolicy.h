@@ -1,5 +1,4 @@
-// CheckPolicy.h: whether the item that was chosen is offered. Pure decisions.
-// Thread: any; no state. Ownership: values only.
+// CheckPolicy.h: whether the chosen item is offered. Pure functions.
 #pragma once
 
 #include "Engine/core/feed/FeedItem.h"
@@ -16,11 +15,11 @@ namespace Pelnar::Engine
 enum class CheckKind
 {
     Probe,       ///< reports only
-    Background,  ///< not asked for by the user
-    Interactive, ///< asked for by the user
+    Background,  ///< the user did not request it
+    Interactive, ///< the user requested it
 };
 
-/// Negative when the first version is older than the second, positive when it is newer. May throw.
+/// Negative if the first version is older than the second, positive if it is newer. May throw.
 using VersionOrder = std::function<int(QString const&, QString const&)>;
 
 enum class OfferVerdict
@@ -28,26 +27,26 @@ enum class OfferVerdict
     Offered,
     NotNewer, ///< than the running bundle
     Skipped,  ///< the user skipped this version or a newer one
-    Failed,   ///< this version was installed, did not start well and was taken back
-    HeldBack, ///< it could not be installed, and nobody asks
+    Failed,   ///< this version was installed, did not start well and was rolled back
+    HeldBack, ///< it could not be installed, and no person asks
 };
 
 struct OfferQuestion
 {
     CheckKind kind = CheckKind::Probe;
     QString itemVersion;
-    QString bundleVersion;  ///< empty when the bundle gives none: the choice stands
-    QString skippedVersion; ///< empty when the user skipped none
-    QString failedVersion;  ///< empty when none was taken back for the running one
-    /// Its installation has failed, so background checks do not offer it; empty when no version is held back.
+    QString bundleVersion;  ///< empty if the bundle has none: the choice is offered
+    QString skippedVersion; ///< empty if the user skipped none
+    QString failedVersion;  ///< empty if no version was rolled back to the running one
+    /// Its installation failed, so background checks do not offer it; empty if no version is held back.
     QString heldBackVersion = {};
 };
 
-/// Lets exceptions of \a order through.
+/// Exceptions of \a order propagate.
 [[nodiscard]] OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order);
 
-/// The engine's own choice, for an application that makes none: the position of the newest item with a download; of
-/// equals the first; nothing when no item has one. Lets exceptions of \a order through.
+/// The engine's own choice for an application that does not choose: the position of the newest item with a download. Of
+/// equal items the first; empty if no item has a download. Exceptions of \a order propagate.
 [[nodiscard]] std::optional<int> NewestItem(std::vector<FeedItem> const& items, VersionOrder const& order);
 
 } // namespace Pelnar::Engine

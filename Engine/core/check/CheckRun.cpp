@@ -14,7 +14,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// A disk that hangs costs a check no more.
+/// A disk that hangs delays a check at most this long.
 constexpr std::chrono::seconds LONGEST_WAIT_FOR_STORE{3};
 
 char const* NameOf(OfferVerdict verdict)
@@ -35,7 +35,7 @@ char const* NameOf(OfferVerdict verdict)
     return "Unknown OfferVerdict";
 }
 
-/// A feed from elsewhere gives nobody a link into this computer to click at.
+/// A feed from another computer must not give a person a link into this computer.
 void DropNearerLinks(FeedItem& item, AddressReach feedReach)
 {
     for (QUrl* const link : {&item.releaseNotesUrl, &item.infoUrl})
@@ -105,7 +105,7 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     {
         if (outcome.isUnchanged)
         {
-            // The server may have another one under the same name.
+            // The server may have another feed with the same tag.
             LOG(WARNING) << "The kept update feed is refused and removed, and the whole one is asked for: "
                          << refusal->sentence.English().toStdString();
             m_settings.feedStore->Keep(std::nullopt);
@@ -165,7 +165,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         ParseFeed(content, outcome.url, m_settings.platform, m_settings.feedLimits, m_settings.languages);
     if (!result.HasSucceeded())
     {
-        // The declaration that many pages begin with would count as an error of its own.
+        // Many pages begin with a declaration that would otherwise be reported as another error.
         return BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error);
     }
     std::optional<FeedTerms> terms;
@@ -230,7 +230,7 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const&
     LOG_IF(WARNING, days >= STALE_FEED_DAYS)
         << "The update feed has not changed for " << days
         << " days: unless nothing was published, newer ones do not get through to this computer";
-    // What cannot be remembered must not keep an update away.
+    // A failure to store this must not prevent an update.
     (void)FailureOf("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
 }
 
@@ -241,8 +241,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     std::optional<ItemPlace> fallback;
     if (answer.kind == BestItemAnswer::Kind::Place && answer.place.delta)
     {
-        // The whole item to fall back on: asked for once, no matter what the answer is. What is offered stays the
-        // delta.
+        // The full item as the fallback: requested once, with any answer. The delta remains the offer.
         BestItemAnswer const second = m_host.AskForBestItem();
         if (second.kind == BestItemAnswer::Kind::Foreign)
         {
@@ -289,7 +288,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     {
         return std::nullopt;
     }
-    // What is used instead is the same update: anyone who agrees to one version must not get another.
+    // The fallback is the same update: a person who agrees to one version must not get another.
     bool const isSameVersion = fallback && order(At(*fallback).versionString, At(answer.place).versionString) == 0;
     return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach, m_keys.keys};
 }
@@ -311,14 +310,14 @@ void CheckRun::Tell(std::optional<FoundUpdate> const& found)
     }
     else if (!found && m_kind != CheckKind::Probe)
     {
-        // After the other message and in the same turn: it is what ends a silent download's wait.
+        // After the other message and in the same turn: it ends the wait of a silent download.
         Abort(MakeError(ErrorCause::NoUpdate));
     }
 }
 
 void CheckRun::Abort(EngineError const& error)
 {
-    // It has been told as far as it can be; the check ends all the same.
+    // The report was attempted; the check ends in any case.
     (void)FailureOf("updater:didAbortWithError:", [this, &error] { m_host.TellAborted(error); });
 }
 

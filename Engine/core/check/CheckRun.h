@@ -1,6 +1,5 @@
-// CheckRun.h: one check, from the feed's address to the outcome: fetch, parse, ask, judge, tell.
-// Thread: the one that made it, with Qt's event loop. Ownership: the updater owns the run and is its host; the run owns
-// the fetch and the items.
+// CheckRun.h: one check, from the feed's address to the result: fetch, parse, ask, judge, report. Thread: its maker's,
+// with Qt's event loop. Ownership: the updater owns the run and is its host; the run owns the fetch and the items.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -50,7 +49,7 @@ struct ItemPlace
     std::optional<int> delta;
 };
 
-/// What a check leads to.
+/// The result of a check.
 struct FoundUpdate
 {
     ItemPlace place;
@@ -59,37 +58,37 @@ struct FoundUpdate
     TrustedKeys publicKeys;                         ///< by which its downloads are judged
 };
 
-/// What the application answered when it was asked for the best item.
+/// The application's answer to the question for the best item.
 struct BestItemAnswer
 {
     enum class Kind
     {
         None,
         Place,
-        Foreign,  ///< something that is not of this feed
+        Foreign,  ///< an item that does not belong to this feed
         NotAsked, ///< the application leaves the choice to the engine
     };
     Kind kind = Kind::None;
     ItemPlace place;
 };
 
-/// The updater as a check sees it. What an operation throws is taken for a failure of the application.
+/// The updater as a check sees it. An exception of an operation counts as a failure of the application.
 class ICheckHost
 {
 public:
     virtual ~ICheckHost() = default;
 
-    /// The feed can be read and, where it must, is signed: to be remembered for the next check.
+    /// The feed was read, and verified if required: store it for the next check.
     virtual void StoreFeedRecord(FeedRecord const& record) = 0;
     /// \a items live as long as the run.
     virtual void FeedLoaded(std::vector<FeedItem> const& items) = 0;
     virtual BestItemAnswer AskForBestItem() = 0;
-    /// As VersionOrder.
+    /// Like VersionOrder.
     virtual int CompareVersions(QString const& a, QString const& b) = 0;
     virtual void TellFound(FoundUpdate const& found) = 0;
     virtual void TellNotFound() = 0;
     virtual void TellAborted(EngineError const& error) = 0;
-    /// The last call. The run may be deleted later (deleteLater) from here on.
+    /// The last call. The run may be deleted later (deleteLater) from now on.
     virtual void CheckEnded() = 0;
 };
 
@@ -99,28 +98,29 @@ class CheckRun : public QObject
 public:
     CheckRun(CheckKind kind, CheckSettings settings, ICheckHost& host, std::function<QDateTime()> now);
 
-    /// Everything that the host hears comes later, from the event loop.
+    /// Every call of the host comes later, from the event loop.
     void Start();
-    /// In place of Start: the check ends with \a error, and nothing is fetched.
+    /// Instead of Start: the check ends with \a error, and nothing is fetched.
     void Refuse(EngineError const& error);
 
-    /// Whether there is an update that is not offered for now: a skipped one, or one that did not start well.
+    /// True if an update exists but is not offered for now: it was skipped or did not start well.
     [[nodiscard]] bool HasPutOff() const { return m_hasPutOff; }
 
 private:
-    /// The first of two calls begins: by the store's answer, or without it.
+    /// The store's answer and the time-out both call this; the first call starts the fetch.
     void FetchOnce(std::optional<KeptFeed> const& kept);
-    /// \a kept need not be sent again, if its server has no other feed by now.
+    /// \a kept need not be sent again if it is still current.
     void Fetch(std::optional<KeptFeed> kept);
     void TakeFeed(FetchOutcome const& outcome);
-    /// The items of what was fetched become the run's, or an error says why not.
+    /// The fetched items become the run's; otherwise an error says why.
     std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
     /// The terms of a feed that must be signed, or why it is refused.
     std::variant<FeedTerms, EngineError> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
                                                     QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
-    /// Asks the host and judges its answer: what to offer, or nothing; an error when the answer is of no use.
+    /// Asks the host and judges its answer. Returns the update to offer, or nothing; sets an error if the answer is
+    /// unusable.
     std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
     FeedItem const& At(ItemPlace const& place) const;
     void Tell(std::optional<FoundUpdate> const& found);

@@ -1,5 +1,4 @@
-// DelegateCall.h: the one place where failures of the application's code end.
-// Thread: the caller's. Ownership: values only.
+// DelegateCall.h: the one place that catches failures of the application's code. Thread: the caller's.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -10,8 +9,8 @@
 namespace Pelnar::Engine
 {
 
-/// Runs \a call, which asks or tells the application something that goes by the name \a what in the log. The error that
-/// stands for what it throws, or nothing.
+/// Runs \a call, which asks or notifies the application; \a what is its name in the log. Returns the error for an
+/// exception, or nothing.
 [[nodiscard]] std::optional<EngineError> FailureOf(char const* what, std::function<void()> const& call);
 
 } // namespace Pelnar::Engine

@@ -36,7 +36,7 @@ FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const
     FeedRecord after;
     after.address = AddressOf(url);
     after.digest = QString::fromLatin1(QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toHex());
-    // A time that lies ahead was written under a wrong clock.
+    // A time in the future was written under a wrong clock.
     bool const isKnown = record.address == after.address && record.digest == after.digest &&
                          record.firstSeen.isValid() && record.firstSeen <= now;
     after.firstSeen = isKnown ? record.firstSeen : now;

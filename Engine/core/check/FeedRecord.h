@@ -1,5 +1,4 @@
-// FeedRecord.h: what is remembered of an application's feed from check to check. Pure decisions.
-// Thread: any; no state. Ownership: values only.
+// FeedRecord.h: the record of an application's feed from check to check. Pure functions.
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"
@@ -15,7 +14,7 @@
 namespace Pelnar::Engine
 {
 
-/// One for each application: its bundle's identifier names it, whichever feed it asks.
+/// One for each application. The bundle's identifier selects it, for every feed address.
 struct FeedRecord
 {
     QString address;               ///< of the last feed, without credentials and fragment
@@ -27,7 +26,7 @@ struct FeedRecord
     qint64 keySerial = 0;          ///< the highest of all key statements that were believed; 0 without one
 };
 
-/// From so many days on the log warns of a feed that does not change: an old one may be all that gets through.
+/// After this many days the log warns about an unchanged feed: an attacker may be blocking newer ones.
 constexpr int STALE_FEED_DAYS = 180;
 
 /// \a record as it counts under \a keys: a serial that a revoked key signed does not, so that a thief of that key has
@@ -43,7 +42,7 @@ constexpr int STALE_FEED_DAYS = 180;
 /// the higher serial of the two. The record under the newer key statement counts alone.
 [[nodiscard]] FeedRecord FeedRecordToKeep(FeedRecord const& stored, FeedRecord const& ours);
 
-/// For how many whole days the same bytes have been coming, as far as checks were made.
+/// For how many whole days the same bytes have arrived, as far as checks were made.
 [[nodiscard]] int UnchangedDays(FeedRecord const& record);
 
 } // namespace Pelnar::Engine

@@ -29,7 +29,7 @@ constexpr std::string_view MAGIC = "PELNARF1";
 constexpr std::string_view MAGIC_WITH_KEYS = "PELNARF2"; ///< of a bundle with a root key
 constexpr int LONGEST_WAIT_MS = 500;
 
-/// No feed can have come before 1970.
+/// No feed can have arrived before 1970.
 std::uint64_t NumberOf(QDateTime const& time)
 {
     return time.isValid() ? static_cast<std::uint64_t>(std::max<qint64>(0, time.toSecsSinceEpoch())) : 0;
@@ -37,7 +37,7 @@ std::uint64_t NumberOf(QDateTime const& time)
 
 QDateTime TimeOf(std::uint64_t seconds)
 {
-    // Later than the year 9999 no clock of ours goes.
+    // The last second of the year 9999.
     constexpr std::uint64_t LATEST = 253402300799;
     return seconds == 0 || seconds > LATEST ? QDateTime()
                                             : QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC);
@@ -130,7 +130,7 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
                      << ": the folder cannot be used";
         return false;
     }
-    // Between the reading and the writing no other process of this user may write; one that hangs cannot hold this one.
+    // Between reading and writing no other process of this user may write; a hanging process cannot block this one.
     QLockFile lock(path + QStringLiteral(".lock"));
     LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
         << "What is known of the feed is stored without the lock that keeps other processes from doing so";

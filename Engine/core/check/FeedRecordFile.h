@@ -1,5 +1,5 @@
-// FeedRecordFile.h: what is remembered of a feed, as a file; docs/formats/signed-feed.md.
-// Thread: any; several processes may keep records in one file at once. Ownership: values only.
+// FeedRecordFile.h: the record of a feed as a file; docs/formats/signed-feed.md. Thread: any; several processes may use
+// one file at the same time.
 #pragma once
 
 #include "Engine/core/check/FeedRecord.h"
@@ -14,18 +14,18 @@ namespace Pelnar::Engine
 {
 
 std::string EncodeFeedRecord(FeedRecord const& record);
-/// Nothing for bytes that are no record.
+/// Empty for bytes that are not a record.
 std::optional<FeedRecord> DecodeFeedRecord(std::string_view bytes);
 
-/// The file of the application that is called \a bundleIdentifier, in \a folder.
+/// The file of the application with \a bundleIdentifier, in \a folder.
 QString FeedRecordPath(QString const& folder, QString const& bundleIdentifier);
 
-/// Nothing without a file that can be read.
+/// Empty without a readable file.
 std::optional<FeedRecord> ReadFeedRecordFile(QString const& path);
 
-/// Has the file at \a path hold \a ours, or what another process stored if FeedRecordToKeep() says so; \a earlier is
-/// what was remembered elsewhere, before there was such a file. On the disk when it answers, which may take long. False
-/// when that failed, which the log says.
+/// Stores \a ours in the file at \a path, or the other process's record if FeedRecordToKeep() selects it. \a earlier is
+/// a record from another place, from before this file existed. The record is on the disk on return, which may take
+/// long. Returns false and logs the reason if this failed.
 [[nodiscard]] bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedRecord const& ours);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,4 @@
-// FeedTrust.h: whether a feed that must be signed is believed. Pure decisions.
-// Thread: any; no state. Ownership: values only.
+// FeedTrust.h: whether a feed that must be signed is accepted. Pure functions.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -16,14 +15,14 @@
 namespace Pelnar::Engine
 {
 
-/// What an application asks of its feed.
+/// Whether an application requires a signature of its feed.
 enum class FeedSigning
 {
-    NotAsked, ///< a signature is a comment like any other
+    NotAsked, ///< a signature is ignored like any comment
     Required,
 };
 
-/// What a signed feed says of itself.
+/// The serial and expiry date of a signed feed.
 struct FeedTerms
 {
     qint64 serial = 0;       ///< from 1; grows with every feed that is signed
@@ -31,12 +30,11 @@ struct FeedTerms
     std::string signer = {}; ///< id of the key that signed; empty where nobody asked
 };
 
-/// The content of a feed that is signed, whole, by one of \a keys, or why it is refused. No byte is
-/// looked at as XML.
+/// The content of a feed that one of \a keys signed as a whole, or why it is refused. No byte is parsed as XML.
 [[nodiscard]] std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys);
 
-/// The serial that \a text is, blanks around it left out: a positive decimal number without leading zeros, at most
-/// 9223372036854775807; 0 for anything else.
+/// Parses \a text as a serial, ignoring blanks around it: a positive decimal number without leading zeros, at most
+/// 9223372036854775807; 0 for any other text.
 [[nodiscard]] qint64 FeedSerial(QString const& text);
 
 /// The moment that \a text is, in the one form that feeds have; invalid for anything else.
@@ -49,8 +47,8 @@ struct FeedTerms
 /// readable.
 [[nodiscard]] std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel);
 
-/// Why a feed that was verified is refused: it is older than the one with the serial \a floor (0 when there was none),
-/// or has expired at \a now.
+/// Why a verified feed is refused: it is older than the feed with the serial \a floor (0 if there was none), or has
+/// expired at \a now.
 [[nodiscard]] std::optional<EngineError> JudgeFeedTerms(FeedTerms const& terms, qint64 floor, QDateTime const& now);
 
 } // namespace Pelnar::Engine

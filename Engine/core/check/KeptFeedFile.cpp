@@ -24,7 +24,7 @@ constexpr std::string_view MAGIC = "PELNARK1";
 constexpr char NAME[] = "kept.feed";
 constexpr int LONGEST_WAIT_MS = 500;
 constexpr std::size_t DIGEST_BYTES = 32;
-/// More than everything takes that stands beside the feed's bytes.
+/// More than all fields except the feed's bytes can take.
 constexpr qint64 MAX_OTHER_BYTES = 8 * 1024;
 
 std::string DigestOf(std::string_view bytes)
@@ -70,7 +70,7 @@ void Write(FeedFolder const& place, UniqueFd const& folder, std::optional<KeptFe
     }
     catch (UpdateRefusal const&)
     {
-        // A full disk gets its room back, and the feed before is of no use any more.
+        // A full disk gets its space back, and the previous feed is no longer useful.
         RemoveNote(folder.Get(), NAME);
         throw;
     }
@@ -126,7 +126,7 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
     try
     {
         UniqueFd const descriptor = OpenFolder(folder);
-        // A byte more than may be there is read, so that a longer file shows.
+        // Reads one byte more than allowed, to detect a longer file.
         auto const most = static_cast<std::size_t>(maxBytes + MAX_OTHER_BYTES + 1);
         return descriptor ? DecodeKeptFeed(ReadNote(descriptor.Get(), NAME, most), folder.bundleIdentifier, maxBytes)
                           : std::nullopt;

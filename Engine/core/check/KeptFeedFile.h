@@ -1,5 +1,5 @@
-// KeptFeedFile.h: a kept feed as a file; docs/formats/kept-feed.md.
-// Thread: any; several processes may use one file at once.
+// KeptFeedFile.h: a kept feed as a file; docs/formats/kept-feed.md. Thread: any; several processes may use one file at
+// the same time.
 #pragma once
 
 #include "Engine/core/fetch/KeptFeed.h"
@@ -21,14 +21,14 @@ struct FeedFolder
 };
 
 std::string EncodeKeptFeed(KeptFeed const& feed, QString const& bundleIdentifier);
-/// Nothing for bytes that are no kept feed, one of another application, or one of more than \a maxBytes.
+/// Empty for bytes that are not a kept feed, belong to another application, or have a feed of more than \a maxBytes.
 std::optional<KeptFeed> DecodeKeptFeed(std::string_view bytes, QString const& bundleIdentifier, qint64 maxBytes);
 
-/// Nothing without a file that this user alone can have written. May take long.
+/// Empty unless there is a file that only this user can have written. May take long.
 std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxBytes);
 
-/// Has the folder hold \a feed, or none. On the disk when it answers, which may take long. False when that failed,
-/// which the log says.
+/// Stores \a feed in the folder, or removes the file. The change is on the disk on return, which may take long. Returns
+/// false and logs the reason if this failed.
 [[nodiscard]] bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& feed);
 
 } // namespace Pelnar::Engine

@@ -32,7 +32,7 @@ bool IsSeparator(QChar character)
     return character == QLatin1Char('.') || character == QLatin1Char('-') || character.isSpace();
 }
 
-/// Hands out the parts of a version text from left to right; an End part for ever after the last.
+/// Returns the parts of a version text from left to right, and an End part at each call after the last.
 class PartReader
 {
 public:

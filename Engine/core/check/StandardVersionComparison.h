@@ -1,5 +1,4 @@
-// StandardVersionComparison.h: the engine's own order of version texts.
-// Thread: any; no state. Ownership: values only.
+// StandardVersionComparison.h: the engine's own order of version texts. Pure functions.
 #pragma once
 
 #include <QString>
@@ -7,7 +6,7 @@
 namespace Pelnar::Engine
 {
 
-/// Negative when \a a is older than \a b, positive when it is newer, 0 when neither. The rules stand at
+/// Negative if \a a is older than \a b, positive if it is newer, 0 if neither. The rules are documented at
 /// SUStandardVersionComparator.
 [[nodiscard]] int CompareVersionTexts(QString const& a, QString const& b);
 

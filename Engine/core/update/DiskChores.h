@@ -1,5 +1,5 @@
-// DiskChores.h: work on the disk that would hold an event loop up, done beside it.
-// Thread: the one that made it. Ownership: its end waits for every chore.
+// DiskChores.h: runs slow disk work in threads, so that it does not block an event loop. Thread: its maker's.
+// Ownership: its destructor waits for every chore.
 #pragma once
 
 #include <functional>
@@ -12,12 +12,12 @@ namespace Pelnar::Engine
 class DiskChores
 {
 public:
-    /// Has \a chore run in a thread of its own, or here when there is no thread to be had. \a chore does not throw,
-    /// and what it holds is let go there too.
+    /// Runs \a chore in its own thread, or here if no thread can be created. \a chore does not throw. Its captured
+    /// objects are destroyed in the same thread.
     void Run(std::function<void()> chore);
 
 private:
-    std::vector<std::future<void>> m_running; // each waits for its end
+    std::vector<std::future<void>> m_running; // destroying one waits for its end
 };
 
 } // namespace Pelnar::Engine

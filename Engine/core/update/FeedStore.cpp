@@ -22,7 +22,7 @@ void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::
     std::unique_lock lock(m_mutex);
     std::optional<Wish> const wish = m_wish;
     lock.unlock();
-    // A disk that hangs gets no second reader.
+    // A hanging disk gets no second reader.
     if (wish || m_isReading)
     {
         QMetaObject::invokeMethod(
@@ -50,7 +50,7 @@ void FeedStore::Keep(std::optional<KeptFeed> feed)
         m_isWishNew = true;
         if (std::exchange(m_isWriting, true))
         {
-            return; // who writes takes this one next
+            return; // the writing thread takes this wish next
         }
     }
     m_chores.Run([this] { WriteWishes(); });

@@ -1,6 +1,6 @@
-// FeedStore.h: the kept feed of an application: on the disk, and in memory until it is there.
-// Thread: the one that made it, with Qt's event loop; it reads and writes beside that loop. Ownership: the updater's.
-// Its end waits for what it reads and writes.
+// FeedStore.h: the kept feed of an application, on the disk, and in memory until it is written. Thread: its maker's,
+// with Qt's event loop; threads do the reading and writing. Ownership: the updater's. Its destructor waits for these
+// threads.
 #pragma once
 
 #include "Engine/core/check/IFeedStore.h"
@@ -24,7 +24,7 @@ public:
     void Keep(std::optional<KeptFeed> feed) override;
 
 private:
-    /// What the disk should hold.
+    /// The content that the disk should have.
     struct Wish
     {
         std::optional<KeptFeed> feed;
@@ -35,10 +35,10 @@ private:
     FeedFolder const m_folder;
     bool m_isReading = false;
     std::mutex m_mutex;
-    std::optional<Wish> m_wish; ///< until it is on the disk; for ever when it cannot be written
-    bool m_isWishNew = false;   ///< nobody has begun to write it
+    std::optional<Wish> m_wish; ///< until it is on the disk, or until the process ends if it cannot be written
+    bool m_isWishNew = false;   ///< no thread has begun to write it
     bool m_isWriting = false;
-    DiskChores m_chores; ///< the first to go
+    DiskChores m_chores; ///< destroyed first
 };
 
 } // namespace Pelnar::Engine

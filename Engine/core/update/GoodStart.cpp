@@ -18,7 +18,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// One helper and what it has told so far.
+/// One helper and its reports so far.
 class Recovery : public QObject
 {
 public:
@@ -33,11 +33,11 @@ public:
         m_helper.Start(
             job, {-1, parentFd, -1}, [this](HelperReport const& report) { Take(report); },
             [this](HelperEnd end) { Finish(end); });
-        // A host that ends at once, well or not, has started all the same.
+        // A host that ends immediately, well or not, has started in any case.
         m_helper.Release();
     }
 
-    /// Answers from the event loop, as if a helper had.
+    /// Answers from the event loop, as a helper would.
     void AnswerLater()
     {
         QMetaObject::invokeMethod(
@@ -80,12 +80,12 @@ private:
 void Recover(RecoverPurpose purpose, StartedApplication const& application, QObject& owner,
              std::function<void(StartOutcome const&)> done)
 {
-    auto* const recovery = new Recovery(application.helperProgram, owner, std::move(done)); // its owner's
+    auto* const recovery = new Recovery(application.helperProgram, owner, std::move(done)); // owned by owner
     auto const opened = OpenInstalledBundle(application.bundlePath);
     auto const* const bundle = std::get_if<InstallTarget>(&opened);
     if (!bundle || !HasUpdateFiles(bundle->parent.Get(), bundle->name))
     {
-        recovery->AnswerLater(); // the usual case, which costs no process
+        recovery->AnswerLater(); // the usual case, which needs no process
         return;
     }
     try

@@ -45,7 +45,7 @@ UniqueFd SealedJob(std::string const& job)
     return file;
 }
 
-/// A copy beyond the numbers that the helper's descriptors get.
+/// A copy with a number above those of the helper's descriptors.
 UniqueFd CopyHigh(int descriptor)
 {
     UniqueFd copy(::fcntl(descriptor, F_DUPFD_CLOEXEC, HelperDescriptors::COUNT));
@@ -56,17 +56,17 @@ UniqueFd CopyHigh(int descriptor)
     return copy;
 }
 
-/// Everything that the child needs, made before there is one: between vfork and exec it may call almost nothing.
+/// Everything that the child needs, prepared before the child exists: between vfork and exec almost no call is allowed.
 struct Launch
 {
     int program = -1;
-    std::string programPath; ///< the same, for a system that starts nothing by its descriptor
+    std::string programPath; ///< the same, for a system that cannot start a program from its descriptor
     char const* mode = nullptr;
     std::array<int, HelperDescriptors::COUNT> sources{}; ///< by number; -1: to be closed
-    int error = 0;                                       ///< an errno when the child does not become the helper
+    int error = 0;                                       ///< an errno if the child does not become the helper
 };
 
-/// The child's life until it is the helper; an errno when it does not become one. It runs in the parent's memory, with
+/// Runs in the child until it becomes the helper; returns an errno if it does not. It runs in the parent's memory, with
 /// every signal blocked.
 int Become(Launch const& launch)
 {
@@ -76,7 +76,7 @@ int Become(Launch const& launch)
     standard.sa_handler = SIG_DFL;
     for (int signal = 1; signal < NSIG; ++signal)
     {
-        ::sigaction(signal, &standard, nullptr); // those that cannot be set need not be
+        ::sigaction(signal, &standard, nullptr); // signals that cannot be set need no change
     }
     for (int number = HelperDescriptors::JOB; number < HelperDescriptors::COUNT; ++number)
     {
@@ -90,7 +90,7 @@ int Become(Launch const& launch)
             return errno;
         }
     }
-    // Only marked: the program itself is among them.
+    // Only marked for closing: the program itself is among them.
     CloseOnExecFrom(HelperDescriptors::COUNT);
     sigset_t none;
     ::sigemptyset(&none);
@@ -112,9 +112,10 @@ int RunChild(void* launch)
     ::_exit(EXIT_FAILURE);
 }
 
-/// The child and a pidfd of it. Deliberate: it runs in this process' memory until it is the helper, since a fork would
-/// copy the tables of a host that may be large, and posix_spawn starts no program from a descriptor. Its pidfd comes
-/// with it: a host may reap every child at once, and then the number may be another process'.
+/// Creates the child and a pidfd of it. Deliberate: the child runs in this process's memory until it becomes the
+/// helper. A fork would copy the page tables of a possibly large host, and posix_spawn cannot start a program from a
+/// descriptor. The pidfd is created with the child: a host may reap every child immediately, and then the number may
+/// belong to another process.
 void Fork(Launch& launch, LaunchedHelper& helper)
 {
     SignalBlock const block;
@@ -169,7 +170,7 @@ LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::strin
     LaunchedHelper helper;
     helper.reports = UniqueFd(ends[0]);
     UniqueFd const writer(ends[1]);
-    if (::fcntl(helper.reports.Get(), F_SETFL, O_NONBLOCK) != 0) // the writing end is another opening
+    if (::fcntl(helper.reports.Get(), F_SETFL, O_NONBLOCK) != 0) // the writing end is a separate open file
     {
         Fail();
     }

@@ -1,6 +1,6 @@
-// HelperLaunch_p.h: how the helper's process comes to be: from bytes that nobody can change any more, with nothing of
-// the host's but what it is given.
-// Thread: any. Ownership: descriptors belong to the objects; the process is the caller's child to wait for.
+// HelperLaunch_p.h: starts the helper's process from bytes that nobody can change any more. The process gets only what
+// is listed here from the host. Thread: any. Ownership: the objects own the descriptors; the caller waits for the child
+// process.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -15,10 +15,10 @@
 namespace Pelnar::Engine
 {
 
-/// What the report's pipe holds at most.
+/// The most that the report's pipe can hold.
 constexpr std::size_t HELPER_PIPE_BYTES = std::size_t{64} << 10;
 
-/// Throws what a failed pidfd_open means.
+/// Throws the error for a failed pidfd_open.
 [[noreturn]] void ThrowNoProcess(int errorNumber);
 
 struct LaunchedHelper
@@ -29,12 +29,12 @@ struct LaunchedHelper
 };
 
 /// Starts the program with \a mode as its one argument, no environment, no signal blocked or handled, and these
-/// descriptors: the standard streams, the job, the report and \a inherited by their numbers. Throws UpdateRefusal.
+/// descriptors: the standard streams, the job, the report, and \a inherited by their numbers. Throws UpdateRefusal.
 LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::string const& job,
                             std::map<int, int> const& inherited);
 
-/// Waits for the end of a child. Its exit status, or a signal's number below zero; nothing when that is not known: a
-/// host that reaps every child, or ignores the ends of children, has taken the answer away.
+/// Waits for the end of a child. Returns its exit status, or a negated signal number. Empty if it is unknown: a host
+/// that reaps every child, or ignores the ends of children, has removed the status.
 std::optional<int> Reap(UniqueFd const& process);
 
 } // namespace Pelnar::Engine

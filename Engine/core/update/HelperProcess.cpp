@@ -85,7 +85,7 @@ void WaitForEnd(UniqueFd const& process)
     }
 }
 
-/// The end that a helper tells of by its last report: each mode has one.
+/// The end that a helper announces by its last report: each mode has one.
 std::optional<HelperEnd> EndToldBy(HelperReport const& report)
 {
     if (std::holds_alternative<RefusedReport>(report))
@@ -112,7 +112,7 @@ public:
     void Kill();
 
 private:
-    /// An object that a callback of ours may have destroyed is asked through one of these.
+    /// Tells whether a callback has destroyed an object.
     using Witness = std::weak_ptr<bool>;
 
     void Read();
@@ -125,10 +125,10 @@ private:
     std::function<void(HelperEnd)> m_ended;
     std::shared_ptr<bool> m_isAlive = std::make_shared<bool>(true);
     UniqueFd m_process;              ///< until it has been reaped
-    std::optional<HelperEnd> m_told; ///< by the last report
+    std::optional<HelperEnd> m_told; ///< from the last report
     UniqueFd m_reports;
-    QSocketNotifier* m_reportNotifier = nullptr; // this object's child
-    QSocketNotifier* m_endNotifier = nullptr;    // this object's child
+    QSocketNotifier* m_reportNotifier = nullptr; // a child of this object
+    QSocketNotifier* m_endNotifier = nullptr;    // a child of this object
     std::string m_line;
     bool m_isReleased = false;
     bool m_isDistrusted = false;
@@ -136,7 +136,7 @@ private:
 
 HelperProcess::Impl::~Impl()
 {
-    // The notifiers go before the descriptors that they watch.
+    // The notifiers are destroyed before the descriptors that they watch.
     delete m_reportNotifier;
     delete m_endNotifier;
     if (!m_isReleased)
@@ -182,11 +182,11 @@ void HelperProcess::Impl::Read()
     }
     else if (count == 0 || (errno != EAGAIN && errno != EINTR))
     {
-        m_reportNotifier->setEnabled(false); // its end is told by the process' own
+        m_reportNotifier->setEnabled(false); // the process's own notifier reports its end
     }
 }
 
-/// False when this object was destroyed meanwhile.
+/// False if a callback destroyed this object.
 bool HelperProcess::Impl::TakeLines()
 {
     Witness const witness = m_isAlive;
@@ -202,7 +202,7 @@ bool HelperProcess::Impl::TakeLines()
             return true;
         }
         m_told = EndToldBy(*decoded);
-        auto const report = m_report; // a callback may destroy the one that is kept
+        auto const report = m_report; // a callback may destroy the stored one
         report(*decoded);
         if (witness.expired())
         {
@@ -229,7 +229,7 @@ void HelperProcess::Impl::Finish()
 {
     m_endNotifier->setEnabled(false);
     m_reportNotifier->setEnabled(false);
-    // What the process wrote before it ended is still in the pipe, and nobody adds to it without end.
+    // The output of the ended process is still in the pipe, and no process can extend it endlessly.
     for (std::size_t left = HELPER_PIPE_BYTES; left > 0 && !m_isDistrusted;)
     {
         char buffer[READ_BYTES];
@@ -272,7 +272,7 @@ void HelperProcess::Release()
 
 void HelperProcess::Kill()
 {
-    // With the notifiers goes what they would still tell.
+    // This destroys the notifiers, so no further event is reported.
     m_impl->Kill();
     m_impl.reset();
 }

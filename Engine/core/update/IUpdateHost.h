@@ -1,6 +1,6 @@
-// IUpdateHost.h: the updater's delegate as a check and the update that it leads to see it.
-// What an operation throws is taken for a failure of the application. Any of them may run an event loop of its own.
-// Thread: the Qt main thread. Ownership: outlives what it hosts.
+// IUpdateHost.h: the updater's delegate as a check and its update see it. An exception of an operation counts as a
+// failure of the application. Any operation may run its own event loop. Thread: the Qt main thread. Ownership: outlives
+// the checks and updates that use it.
 #pragma once
 
 #include "Engine/core/check/BackOff.h"
@@ -13,7 +13,7 @@
 namespace Pelnar::Engine
 {
 
-/// Whether the application comes back after an installation that is asked for at once.
+/// Whether the application restarts after an immediate installation.
 enum class RelaunchWish
 {
     StayClosed,
@@ -26,25 +26,25 @@ enum class RelaunchAnswer
     Allowed,
 };
 
-/// CheckEnded is called when the feed has been dealt with, and is not the last call.
+/// CheckEnded is called when the feed has been processed, and is not the last call.
 class IUpdateHost : public ICheckHost
 {
 public:
-    /// The update of \a place is prepared. \a installNow installs it at once, during this call or later; it may be kept
-    /// for as long as anybody likes, and does nothing when it is called a second time or too late.
+    /// The update of \a place is prepared. \a installNow installs it immediately, during this call or later. It may be
+    /// kept for any time. It does nothing when called a second time or too late.
     virtual void TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow) = 0;
     virtual void TellCancelledInstallOnQuit(ItemPlace const& place) = 0;
     virtual RelaunchAnswer ShouldRelaunch() = 0;
-    /// Of the bundle to start after the installation; empty for the installed one.
+    /// The bundle to start after the installation; empty for the installed one.
     virtual QString PathToRelaunch() = 0;
     /// The installing helper waits for this process to end.
     virtual void TellWillRelaunch() = 0;
 
-    /// A person wants to hear no more of this version.
+    /// A person does not want to see this version again.
     virtual void SkipVersion(QString const& version) = 0;
     virtual void StoreBackOff(BackOffState const& state) = 0;
 
-    /// The last call. The check may be deleted later (deleteLater) from here on.
+    /// The last call. The check may be deleted later (deleteLater) from now on.
     virtual void UpdateEnded() = 0;
 };
 

@@ -1,6 +1,6 @@
-// IUpdateParts.h: what an update does to the world, one operation each, so that its course can be driven without a
-// server, a helper or a clock.
-// Thread: the Qt main thread. Ownership: outlives the updates that use it; what it makes is its caller's.
+// IUpdateParts.h: the side effects of an update, one operation each, so that tests can run an update without a server,
+// a helper or a clock. Thread: the Qt main thread. Ownership: outlives the updates that use it; the caller owns the
+// created objects.
 #pragma once
 
 #include "Engine/core/download/ArchiveDownload.h"
@@ -18,7 +18,7 @@
 namespace Pelnar::Engine
 {
 
-/// As ArchiveDownload.
+/// Like ArchiveDownload.
 class IDownload
 {
 public:
@@ -27,7 +27,7 @@ public:
                        std::function<void(DownloadOutcome)> finished) = 0;
 };
 
-/// As HelperProcess.
+/// Like HelperProcess.
 class IHelper
 {
 public:
@@ -42,19 +42,19 @@ class IUpdateParts
 {
 public:
     virtual ~IUpdateParts() = default;
-    /// As OpenInstallTarget, told from the event loop, unless these parts are gone by then. An error too when the
-    /// helper cannot be used.
+    /// Like OpenInstallTarget. The result comes from the event loop, unless these parts are destroyed by then. It is
+    /// also an error if the helper cannot be used.
     virtual void OpenTarget(QString const& bundlePath, quint64 neededBytes,
                             std::function<void(OpenedTarget)> opened) = 0;
     virtual std::unique_ptr<IDownload> MakeDownload(DownloadRequest const& request) = 0;
-    /// As ArchiveDownload::Discard.
+    /// Like ArchiveDownload::Discard.
     virtual void DiscardDownload(DownloadRequest const& request) = 0;
-    /// As ArchiveDownload::Clear; nobody waits for it.
+    /// Like ArchiveDownload::Clear, without waiting.
     virtual void ClearDownloads(QString const& folder) = 0;
     virtual std::unique_ptr<IHelper> MakeHelper() = 0;
-    /// The end of \a update, for which nobody waits.
+    /// Destroys \a update, without waiting.
     virtual void DiscardUpdate(std::unique_ptr<PreparedUpdate> update) = 0;
-    /// \a attempt is taken back; nobody waits for that either.
+    /// Takes back \a attempt, without waiting.
     virtual void DiscardAttempt(std::unique_ptr<InstallAttempt> attempt) = 0;
     virtual QDateTime Now() = 0;
 };

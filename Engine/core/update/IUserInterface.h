@@ -1,7 +1,7 @@
-// IUserInterface.h: the windows of an update, as the engine drives them.
-// One window at a time: showing one puts the one before away without an answer. Every callback is called at most once,
-// after its window has gone, and may show the next window or destroy the user interface.
-// Thread: the Qt main thread. Ownership: the engine owns it; it keeps each callback as long as its window.
+// IUserInterface.h: the windows of an update, as the engine controls them. One window is open at a time: opening one
+// closes the previous one without an answer. Every callback is called at most once, after its window is closed. It may
+// open the next window or destroy the user interface. Thread: the Qt main thread. Ownership: the engine owns it; it
+// keeps each callback as long as its window.
 #pragma once
 
 #include "Engine/core/Sentence.h"
@@ -17,15 +17,15 @@ class IUserInterface
 public:
     virtual ~IUserInterface() = default;
 
-    /// Only for a check that a person asked for.
+    /// Only for a check that a person requested.
     virtual void ShowChecking(std::function<void()> onCancelled) = 0;
     virtual void ShowUpToDate(NamedVersion const& installed, std::function<void()> onClosed) = 0;
     virtual void ShowUpdate(UpdateOffer const& offer, CheckOrigin origin,
                             std::function<void(UpdateChoice)> onChosen) = 0;
-    /// Notes that came after the update window was shown; nothing when another window is shown by now.
+    /// Sets release notes that arrived after the update window opened. Does nothing if another window is open.
     virtual void ReplaceReleaseNotes(ReleaseNotes const& notes) = 0;
     virtual void ShowDownload(NamedVersion const& update, std::function<void()> onCancelled) = 0;
-    /// Nothing when no download is shown.
+    /// Does nothing if no download is shown.
     virtual void SetProgress(UpdateProgress const& progress) = 0;
     virtual void ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
                                     std::function<void(ReadyChoice)> onChosen) = 0;
@@ -33,7 +33,7 @@ public:
     virtual void ShowError(Sentence const& sentence, std::function<void()> onClosed) = 0;
     /// For a person who asks again while a window waits for an answer.
     virtual void BringToFront() = 0;
-    /// Puts the window away without an answer.
+    /// Closes the window without an answer.
     virtual void Close() = 0;
 };
 

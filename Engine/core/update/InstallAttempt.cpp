@@ -28,7 +28,7 @@ UniqueFd MakeRecordFolder(QString const& path)
 {
     std::string const name = QFile::encodeName(path).toStdString();
     MakeFoldersAbove(name);
-    static_cast<void>(::mkdir(name.c_str(), FOLDER_MODE)); // it may be there
+    static_cast<void>(::mkdir(name.c_str(), FOLDER_MODE)); // the folder may exist
     UniqueFd folder = OpenRecordFolder(path);
     if (!folder)
     {
@@ -82,7 +82,8 @@ void InstallAttempt::Describe(InstallJob& job, InstallWish wish) const
     record.wish = wish;
     bool const isAgain =
         m_before && m_before->fromVersion == record.fromVersion && m_before->toVersion == record.toVersion;
-    record.attempts = isAgain ? std::max(m_before->attempts, m_before->attempts + 1) : 1; // never less by one more
+    record.attempts = isAgain ? std::max(m_before->attempts, m_before->attempts + 1) : 1; // never fewer because of one
+                                                                                          // more attempt
     job.recordName = m_name;
     job.record = std::move(record);
 }

@@ -1,6 +1,6 @@
-// InstallAttempt.h: the record of an installation that is about to be handed to the helper, which keeps its outcome in
-// it. See docs/formats/install-record.md.
-// Thread: one at a time. Ownership: its descriptor. What it has begun stays when it goes.
+// InstallAttempt.h: the record of an installation that will be handed to the helper. The helper writes the outcome into
+// it. See docs/formats/install-record.md. Thread: one at a time. Ownership: it owns its descriptor. A started attempt
+// survives this object.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -13,23 +13,24 @@
 namespace Pelnar::Engine
 {
 
-/// Of the bundle at \a bundlePath, which is absolute and holds no link; no folder's and no archive's name is like it.
+/// The record's name for the bundle at \a bundlePath, which is absolute and contains no link. No folder and no archive
+/// has such a name.
 std::string InstallRecordName(QString const& bundlePath);
-/// The folder of the records; not set without a folder that belongs to this user and that nobody else can write.
+/// The folder of the records; empty unless it belongs to this user and no other user can write it.
 UniqueFd OpenRecordFolder(QString const& path);
-/// What the record says; nothing when there is none that can be read and understood.
+/// The record's content; empty if no record can be read and parsed.
 std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name);
 
 class InstallAttempt
 {
 public:
-    /// \a folder, which is made if it is missing, holds the records. Throws UpdateRefusal.
+    /// \a folder holds the records and is created if it is missing. Throws UpdateRefusal.
     InstallAttempt(QString const& folder, QString const& bundlePath);
 
     int Folder() const { return m_folder.Get(); }
-    /// Has the helper keep the outcome of \a job.
+    /// Makes the helper write the outcome of \a job.
     void Describe(InstallJob& job, InstallWish wish) const;
-    /// As if it had never been begun. REQUIRES: no helper has it any more.
+    /// Restores the state before the attempt. REQUIRES: no helper uses it any more.
     void TakeBack();
 
 private:

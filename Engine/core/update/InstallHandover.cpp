@@ -29,7 +29,7 @@ std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, P
         m_helper.reset();
         return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
     }
-    // From the first moment: this process may be killed in the next.
+    // Immediately: this process may be killed next.
     m_helper->Release();
     m_update = &update;
     m_update->GiveToHelper();
@@ -56,7 +56,7 @@ void InstallHandover::Take(HelperReport const& report)
     auto const* const progress = std::get_if<ProgressReport>(&report);
     if (progress && progress->phase == HelperPhase::Waiting && m_waiting)
     {
-        // This object may be gone when the call returns.
+        // The call may destroy this object.
         auto const tell = std::exchange(m_waiting, nullptr);
         tell();
     }
@@ -64,7 +64,7 @@ void InstallHandover::Take(HelperReport const& report)
 
 void InstallHandover::End()
 {
-    // No matter what it says of itself: a helper that ends while its host runs has installed nothing.
+    // A helper that ends while its host runs has installed nothing, even if it reports success.
     m_update->TakeBack();
     auto const tell = std::move(m_failed);
     tell(m_refused ? MakeFaultError(m_refused->fault, m_refused->errorNumber) : MakeError(ErrorCause::HelperFailed));

@@ -1,7 +1,6 @@
-// InstallHandover.h: a prepared update in the hands of the helper that installs it once this process has ended,
-// however it ends.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker. Destroying it leaves the helper to
-// its work; nothing is called any more.
+// InstallHandover.h: hands a prepared update to the helper, which installs it after this process has ended in any way.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it lets the helper continue; no
+// callback follows.
 #pragma once
 
 #include "Engine/core/update/IUpdateParts.h"
@@ -19,17 +18,17 @@ class InstallHandover
 public:
     explicit InstallHandover(IUpdateParts& parts) : m_parts(parts) {}
 
-    /// Starts the helper with \a job, which \a update completes and becomes the helper's, and whose record stands in
-    /// the folder \a recordsFd. An error when that is not
-    /// possible; then nothing is called, and \a update stays the caller's. Else \a waiting comes once the helper waits
-    /// for the end of this process, and \a failed once and last if the helper ends before this process does; either may
-    /// destroy this object. REQUIRES: called once; \a update outlives this object.
+    /// Starts the helper with \a job. \a update completes the job and then belongs to the helper. The job's record is
+    /// in the folder \a recordsFd. Returns an error if this is impossible; then no callback follows and \a update stays
+    /// the caller's. Otherwise \a waiting comes once the helper waits for the end of this process, and \a failed, once
+    /// and last, if the helper ends before this process. Either may destroy this object. REQUIRES: called once; \a
+    /// update outlives this object.
     [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd,
                                                    InstallJob job, std::function<void()> waiting,
                                                    std::function<void(EngineError const&)> failed);
 
-    /// Ends the helper, which still waits; the update is the caller's again and nothing is called any more. Nothing
-    /// happens when there is none.
+    /// Ends the waiting helper. The update belongs to the caller again, and no callback follows. Without a helper it
+    /// does nothing.
     void Cancel();
 
 private:

@@ -77,7 +77,7 @@ void InstallMemory::Settle(InstallRecord record, PastInstallation meaning)
         m_chores.Run([folder = m_downloads] { ArchiveDownload::Clear(folder); });
         return;
     case PastInstallation::Dropped:
-        // It was no attempt, but those before it count.
+        // This was not an attempt, but earlier ones count.
         if (--record.attempts == 0)
         {
             Forget();

@@ -1,6 +1,6 @@
-// InstallMemory.h: what a start of the application finds of the last installation, which ended when nobody was there to
-// hear of it. What is over, it forgets, and with it the archive that was kept for one more attempt.
-// Thread: the one that made it. Ownership: its end waits for what it still writes or removes.
+// InstallMemory.h: the result of the last installation, as a start of the application finds it. It removes a completed
+// record, together with the archive that was kept for another attempt. Thread: its maker's. Ownership: its destructor
+// waits for its pending writes and removals.
 #pragma once
 
 #include "Engine/core/payload/InstallRecord.h"
@@ -15,22 +15,22 @@
 namespace Pelnar::Engine
 {
 
-/// So many attempts to install a version fail before only a person's wish leads to another.
+/// After this many failed attempts to install a version, only a person's request starts another.
 constexpr std::uint64_t MAX_AUTOMATIC_ATTEMPTS = 3;
 
-/// Whether an installation that nobody asks for has to wait at \a now, after the one that \a failure tells of.
+/// True if an automatic installation has to wait at \a now, after the failed one that \a failure records.
 [[nodiscard]] bool IsHeldBack(InstallRecord const& failure, QDateTime const& now);
 
 class InstallMemory
 {
 public:
-    /// \a folder holds the records, \a downloads the archives; \a bundlePath is the running bundle's, \a version the
-    /// running one. Reads one file.
+    /// \a folder holds the records, \a downloads the archives. \a bundlePath is the running bundle's path, \a version
+    /// the running version. Reads one file.
     InstallMemory(QString const& folder, QString const& downloads, QString const& bundlePath, QString const& version);
 
-    /// Of the last installation, which left this version in its place; nothing otherwise.
+    /// The failure of the last installation that left this version in place; empty otherwise.
     std::optional<InstallRecord> const& Failure() const { return m_failure; }
-    /// A person asked for that installation, and has not heard of its end.
+    /// A person requested that installation and has not seen its result.
     [[nodiscard]] bool IsToBeTold() const;
     void SetTold();
 

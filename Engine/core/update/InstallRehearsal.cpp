@@ -25,7 +25,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr std::chrono::seconds LONGEST_REHEARSAL{60};
 
-/// What the helper wrote until it ended, or until its time was over.
+/// The helper's output until it ended, or until its time-out.
 std::string ReadReports(UniqueFd const& reports)
 {
     std::string text;
@@ -50,7 +50,7 @@ std::string ReadReports(UniqueFd const& reports)
 }
 
 /// Ends the helper if it has not ended by itself. Its report says more than its status, which a host that reaps every
-/// child takes away.
+/// child removes.
 void End(LaunchedHelper const& helper)
 {
     ::syscall(SYS_pidfd_send_signal, helper.process.Get(), SIGKILL, nullptr, 0);

@@ -1,6 +1,6 @@
-// InstallRehearsal.h: whether this system lets an update be installed, found out before it is downloaded: the helper
-// does beside the bundle all that it will do for the update, with folders of its own. Thread: any; it waits for the
-// helper, for a minute at most. Ownership: everything that is made goes again.
+// InstallRehearsal.h: checks before a download whether this system lets an update be installed. The helper does every
+// step of an update next to the bundle, with its own folders. Thread: any; it waits for the helper, at most one minute.
+// It removes everything that it created.
 #pragma once
 
 #include "Engine/core/update/InstallTarget.h"
@@ -11,7 +11,7 @@
 namespace Pelnar::Engine
 {
 
-/// The error of an installation that cannot succeed; nothing when nothing stands in its way.
+/// The error of an installation that cannot succeed; empty if it can.
 std::optional<EngineError> RehearseInstallation(InstallTarget const& target, SealedProgram& helper);
 
 } // namespace Pelnar::Engine

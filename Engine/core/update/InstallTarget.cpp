@@ -79,7 +79,7 @@ Facts FactsOf(UniqueFd const& folder)
     struct statx more
     {
     };
-    if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &more) == 0) // else the rehearsal will tell
+    if (::statx(folder.Get(), "", AT_EMPTY_PATH, STATX_BASIC_STATS, &more) == 0) // otherwise the rehearsal will show it
     {
         facts.isImmutable = (more.stx_attributes & PROTECTED) != 0;
         facts.isMountRoot = (more.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0;
@@ -87,7 +87,7 @@ Facts FactsOf(UniqueFd const& folder)
     return facts;
 }
 
-/// What in the bundle could not be removed once the bundle is the previous version.
+/// Finds content of the bundle that could not be removed once the bundle is the previous version.
 std::optional<ErrorCause> ObstacleWithin(UniqueFd const& bundle)
 {
     std::optional<ErrorCause> cause;
@@ -106,19 +106,20 @@ std::optional<ErrorCause> ObstacleWithin(UniqueFd const& bundle)
         {
             cause = ErrorCause::BundleImmutable;
         }
-        else if (S_ISDIR(status.st_mode) && status.st_uid != user && user != 0) // the administrator empties any folder
+        else if (S_ISDIR(status.st_mode) && status.st_uid != user && user != 0) // the administrator can empty any
+                                                                                // folder
         {
             cause = ErrorCause::BundleOfAnotherUser;
         }
     };
-    static_cast<void>(WalkTree(bundle.Get(), look)); // what cannot be read is no reason to refuse
+    static_cast<void>(WalkTree(bundle.Get(), look)); // unreadable content is no reason to refuse
     return cause;
 }
 
-/// Deliberate: by the effective user, and asked of the kernel, which knows of access lists too.
+/// Deliberate: for the effective user, and by the kernel, which includes access lists.
 bool IsWritable(UniqueFd const& folder)
 {
-    // The last is a filter's answer to a call that it does not know: the rehearsal will tell.
+    // EPERM is a filter's answer to an unknown call: the rehearsal will show the truth.
     return ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) == 0 || errno == EPERM;
 }
 
@@ -142,7 +143,7 @@ std::optional<ErrorCause> Obstacle(InstallTarget const& target)
     {
         return ErrorCause::BundleOfAnotherUser;
     }
-    // The bundle too: a folder that changes its parent is written, for it names it.
+    // The bundle too: a folder that gets a new parent is written, because it contains its parent's entry.
     if (!IsWritable(target.parent) || !IsWritable(target.bundle))
     {
         return ErrorCause::BundleNotWritable;
@@ -163,7 +164,7 @@ EngineError ErrorWith(ErrorCause cause, std::string const& path, std::initialize
     return error;
 }
 
-/// What others could change between here and the root.
+/// Finds folders up to the root that other users could change.
 std::optional<EngineError> Intruders(InstallTarget const& target, std::string const& path)
 {
     for (UniqueFd const* const folder : {&target.bundle, &target.parent})
@@ -196,7 +197,7 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
     struct statvfs status;
     if (::fstatvfs(target.parent.Get(), &status) != 0)
     {
-        return std::nullopt; // the writing will tell
+        return std::nullopt; // the write will show it
     }
     quint64 const freeBytes = static_cast<quint64>(status.f_bavail) * status.f_frsize;
     quint64 const reserve = DiskReserve(static_cast<quint64>(status.f_blocks) * status.f_frsize);
@@ -204,7 +205,7 @@ std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neede
     {
         return std::nullopt;
     }
-    quint64 const allBytes = std::max(neededBytes, neededBytes + reserve); // of the two a number too large for both
+    quint64 const allBytes = std::max(neededBytes, neededBytes + reserve); // the larger one, if the sum overflows
     EngineError error = MakeRoomError(ErrorCause::NoRoomForUpdate, allBytes, freeBytes);
     error.detail = EscapedRemoteText(target.path);
     return error;
@@ -240,7 +241,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     std::string path = PathBytes(bundlePath);
     while (path.size() > 1 && path.back() == '/')
     {
-        path.pop_back(); // a link with a slash behind it is followed
+        path.pop_back(); // a link followed by a slash would be resolved
     }
     std::size_t const slash = path.rfind('/');
     std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);

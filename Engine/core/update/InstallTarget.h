@@ -1,5 +1,5 @@
-// InstallTarget.h: the installed bundle that an update is to replace, opened once, and whether it can be.
-// Thread: any. Ownership: the descriptors are the object's; anyone who updates the bundle acts through them only.
+// InstallTarget.h: the installed bundle that an update will replace, opened once, and whether it can be replaced.
+// Thread: any. Ownership: the object owns the descriptors; all code that updates the bundle uses only them.
 #pragma once
 
 #include "Engine/core/EngineError.h"
@@ -24,19 +24,19 @@ struct InstallTarget
 
 using OpenedTarget = std::variant<InstallTarget, EngineError>;
 
-/// Opens the bundle at \a bundlePath, no matter whose it is.
+/// Opens the bundle at \a bundlePath, of any owner.
 OpenedTarget OpenInstalledBundle(QString const& bundlePath);
 
-/// Opens the bundle at \a bundlePath and finds out, before anything is downloaded, whether it may be replaced: owned by
-/// no package manager, on a file system that can be written, in folders that only this user or the administrator can
-/// change, with room for \a neededBytes beside it. Otherwise one error that names what is in the way and what to do.
-/// Reads the package manager's lists, which takes its time.
+/// Opens the bundle at \a bundlePath and checks, before a download, that it may be replaced: no package manager owns
+/// it, its file system can be written, only this user or the administrator can change its folders, and there is space
+/// for \a neededBytes next to it. Otherwise returns one error that names the obstacle and says what to do. Reads the
+/// package manager's lists, which may take long.
 OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources);
 
-/// What a fault before the download is to a person who wants to know where the application is installed.
+/// The error for a fault before the download, with the place where the application is installed.
 EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int errorNumber);
 
-/// \a error; in the numbers of the disk when it is for want of room there.
+/// \a error; with the disk's numbers if it is about missing space.
 EngineError WithRoom(EngineError const& error, InstallTarget const& target, quint64 neededBytes);
 
 } // namespace Pelnar::Engine

@@ -37,7 +37,7 @@ bool WriteAt(int fd, std::string_view bytes, std::size_t place)
 
 KeptArguments& KeptArguments::OfProcess()
 {
-    static KeptArguments& arguments = *new KeptArguments; // a host may speak as late as it likes
+    static KeptArguments& arguments = *new KeptArguments; // a host may call at any later time
     return arguments;
 }
 
@@ -57,7 +57,7 @@ bool KeptArguments::Keep(std::vector<std::string> const& arguments)
 void KeptArguments::Forget()
 {
     m_arguments.clear();
-    // No helper waits any more: the next one gets a file of its own.
+    // No helper waits any more: the next one gets its own file.
     m_file = UniqueFd();
 }
 
@@ -86,7 +86,7 @@ bool KeptArguments::Write() const
 {
     std::string const bytes = EncodeRelaunchArguments(m_arguments);
     std::size_t const begin = RELAUNCH_ARGUMENTS_MAGIC.size();
-    // The first bytes come last: a process that is killed in between leaves a file that says nothing.
+    // The first bytes are written last: a process killed in between leaves an incomplete file, which counts as empty.
     return ::ftruncate(m_file.Get(), 0) == 0 && WriteAt(m_file.Get(), std::string_view(bytes).substr(begin), begin) &&
            WriteAt(m_file.Get(), RELAUNCH_ARGUMENTS_MAGIC, 0);
 }

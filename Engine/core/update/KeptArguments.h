@@ -1,6 +1,6 @@
-// KeptArguments.h: what this application wants its next version to be started with, in a memory file that a helper
-// reads once this process has ended: what was said last counts, however late it was said.
-// Thread: main. Ownership: one for the process, as long as it lives; a shared file is its receiver's.
+// KeptArguments.h: the arguments for the next version's start, in a memory file that a helper reads after this process
+// has ended. The last arguments count, at any time. Thread: main. Ownership: one for the process, for its whole life;
+// the receiver owns a shared file.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -16,13 +16,13 @@ class KeptArguments
 public:
     static KeptArguments& OfProcess();
 
-    /// From now on these are wanted. False, logged, when they cannot be given to a program; what was wanted before
-    /// stays.
+    /// Sets the arguments. Returns false and logs the reason if a program cannot get them; the earlier arguments then
+    /// stay.
     [[nodiscard]] bool Keep(std::vector<std::string> const& arguments);
-    /// None is wanted any more.
+    /// Removes the arguments.
     void Forget();
 
-    /// The file, which says what is wanted now and whenever that changes. Throws UpdateRefusal.
+    /// The file, which always has the current arguments. Throws UpdateRefusal.
     UniqueFd Share();
 
 private:
@@ -30,7 +30,7 @@ private:
     [[nodiscard]] bool Write() const;
 
     std::vector<std::string> m_arguments;
-    UniqueFd m_file; ///< since it was shared
+    UniqueFd m_file; ///< set once it was shared
 };
 
 } // namespace Pelnar::Engine

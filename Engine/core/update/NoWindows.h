@@ -1,5 +1,5 @@
-// NoWindows.h: the user interface of a program without one: nobody is asked, so every update is put off.
-// Thread: the one that made it, with Qt's event loop. Ownership: as IUserInterface.
+// NoWindows.h: the user interface of a program without windows: no person can answer, so every update is postponed.
+// Thread: its maker's, with Qt's event loop. Ownership: like IUserInterface.
 #pragma once
 
 #include "Engine/core/update/IUserInterface.h"
@@ -25,7 +25,7 @@ public:
     void Close() override {}
 
 private:
-    QObject m_context; ///< of answers that are on their way
+    QObject m_context; ///< of pending answers
 };
 
 } // namespace Pelnar::Engine

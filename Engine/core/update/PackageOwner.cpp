@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// True for a name that stands in a command as it is.
+/// True for a name that needs no quotes in a command.
 bool IsPlainName(QString const& name)
 {
     static QRegularExpression const PLAIN(QStringLiteral("^[A-Za-z0-9][A-Za-z0-9+._-]*$"));
@@ -25,7 +25,7 @@ bool IsBelow(QString const& path, QString const& folder)
            path.startsWith(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
 }
 
-/// The names under which a package may list the path: a folder of the root and its namesake in /usr may be one.
+/// The names under which a package may list the path: a folder of the root may be the same as its namesake in /usr.
 QStringList NamesOf(QString const& path)
 {
     QStringList names{path};
@@ -78,7 +78,7 @@ std::optional<PackageOwner> OwnerByDpkg(QString const& bundlePath, PackageSource
     return std::nullopt;
 }
 
-/// The value of "name" in the group "Application" of the file by which a sandbox describes itself.
+/// The value of "name" in the group "Application" of the file with which a sandbox describes itself.
 QString NameInFlatpak(QString const& fileName)
 {
     QFile file(fileName);
@@ -104,7 +104,8 @@ QString NameInFlatpak(QString const& fileName)
 
 std::optional<PackageOwner> OwnerByFlatpak(QString const& bundlePath, PackageSources const& sources)
 {
-    // What a sandboxed application keeps elsewhere, as in the person's own folder, is not the package's.
+    // An application in a sandbox may keep files elsewhere, such as in the person's own folder. Those do not belong to
+    // the package.
     if (!IsBelow(bundlePath, QStringLiteral("/app")) && !IsBelow(bundlePath, QStringLiteral("/usr")))
     {
         return std::nullopt;
@@ -115,7 +116,7 @@ std::optional<PackageOwner> OwnerByFlatpak(QString const& bundlePath, PackageSou
                : std::nullopt;
 }
 
-/// A snap stands in FOLDER/NAME/REVISION.
+/// A snap is in FOLDER/NAME/REVISION.
 std::optional<PackageOwner> OwnerBySnap(QString const& bundlePath, PackageSources const& sources)
 {
     QString name;
@@ -134,7 +135,7 @@ std::optional<PackageOwner> OwnerBySnap(QString const& bundlePath, PackageSource
 
 std::optional<PackageOwner> OwnerByAppImage(QString const& bundlePath, PackageSources const& sources)
 {
-    // The variables go on to every program that is started from the image: the bundle must stand in it.
+    // Every program that is started from the image inherits the variables, so the bundle must be inside the image.
     bool const isInImage = sources.appImageVariable.startsWith(QLatin1Char('/')) &&
                            IsBelow(bundlePath + QLatin1Char('/'), sources.appFolderVariable);
     return isInImage ? std::optional(PackageOwner{PackageManager::AppImage, sources.appImageVariable, {}})

@@ -1,5 +1,4 @@
-// PackageOwner.h: whether somebody else than this engine keeps an application up to date, and how a person asks them.
-// Thread: any. Ownership: values only.
+// PackageOwner.h: whether a package manager keeps an application up to date, and how a person uses it. Thread: any.
 #pragma once
 
 #include <QString>
@@ -14,30 +13,30 @@ enum class PackageManager
     Dpkg,
     Flatpak,
     Snap,
-    AppImage, ///< the application stands in an image that is mounted read-only; the person replaces the image's file
+    AppImage, ///< the application is in an image that is mounted read-only; the person replaces the image's file
 };
 
 struct PackageOwner
 {
     PackageManager manager;
-    QString package; ///< its name there; of an AppImage the image's path
+    QString package; ///< its name there; for an AppImage the image's path
     QString command; ///< what a person types to update it; empty for an AppImage
 };
 
-/// Where the answer is looked up; the defaults are the system's own. Tests name other places.
+/// Where the answer is looked up. The defaults are the system's places; tests set others.
 struct PackageSources
 {
     QString dpkgInfoFolder = QStringLiteral("/var/lib/dpkg/info"); ///< the *.list files of installed packages
     QString flatpakInfoFile = QStringLiteral("/.flatpak-info");
     QString snapFolder = QStringLiteral("/snap");
-    QString snapVariable;      ///< of the environment: SNAP
-    QString appImageVariable;  ///< of the environment: APPIMAGE
-    QString appFolderVariable; ///< of the environment: APPDIR, where the image is mounted
+    QString snapVariable;      ///< from the environment: SNAP
+    QString appImageVariable;  ///< from the environment: APPIMAGE
+    QString appFolderVariable; ///< from the environment: APPDIR, where the image is mounted
 
     static PackageSources OfThisProcess();
 };
 
-/// The owner of the bundle at the absolute path \a bundlePath; nothing when it is nobody's.
+/// The owner of the bundle at the absolute path \a bundlePath; empty if no package manager owns it.
 std::optional<PackageOwner> FindPackageOwner(QString const& bundlePath, PackageSources const& sources);
 
 } // namespace Pelnar::Engine

@@ -30,7 +30,7 @@ PreparedUpdate::PreparedUpdate(UniqueFd parent, StagingFolder staging)
 
 PreparedUpdate::~PreparedUpdate()
 {
-    // What cannot be removed now is abandoned, and goes with the next recovery.
+    // A folder that cannot be removed now is abandoned, and the next recovery removes it.
     bool const isGone = m_isHelpers || RemoveTree(m_parent.Get(), m_staging.Name());
     LOG_IF(WARNING, !isGone) << "The prepared update could not be removed; it goes when the application starts again";
 }

@@ -1,6 +1,5 @@
-// PreparedUpdate.h: the staging folder of an update, first empty, then with the checked bundle in it.
-// Thread: one at a time. Ownership: the object owns the folder and removes it at its end, unless a helper has taken it
-// over by then.
+// PreparedUpdate.h: the staging folder of an update, first empty, then with the checked bundle in it. Thread: one at a
+// time. Ownership: the object owns the folder and removes it at its end, unless a helper owns it by then.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"
@@ -17,7 +16,7 @@ namespace Pelnar::Engine
 class PreparedUpdate
 {
 public:
-    /// Makes a fresh folder beside \a target. Throws UpdateRefusal.
+    /// Creates a fresh folder next to \a target. Throws UpdateRefusal.
     static std::unique_ptr<PreparedUpdate> Begin(InstallTarget const& target);
     ~PreparedUpdate();
     PreparedUpdate(PreparedUpdate const&) = delete;

@@ -20,7 +20,7 @@ constexpr char MASK_LINE[] = "Umask:";
 std::string WorkingFolder()
 {
     char path[PATH_MAX];
-    // A folder that cannot be reached from the root has a name that is no path.
+    // A folder that cannot be reached from the root has a name that is not a path.
     return ::getcwd(path, sizeof path) && path[0] == '/' ? std::string(path) : std::string();
 }
 

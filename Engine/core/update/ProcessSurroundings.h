@@ -1,5 +1,5 @@
-// ProcessSurroundings.h: what this process would pass on to a program that it starts, for the helper to do it later.
-// Thread: any. Ownership: values only.
+// ProcessSurroundings.h: properties that a program started by this process would inherit. The helper sets them later.
+// Thread: any.
 #pragma once
 
 #include <cstdint>
@@ -8,9 +8,9 @@
 namespace Pelnar::Engine
 {
 
-/// Absolute; empty when there is none any more.
+/// Absolute; empty if the folder no longer exists.
 std::string WorkingFolder();
-/// The umask, read without changing it: other threads may be making files.
+/// The umask, read without changing it: other threads may be creating files.
 std::uint64_t CreationMask();
 
 } // namespace Pelnar::Engine

@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr unsigned NOT_EXECUTABLE_MEMORY = 0x8; // MFD_NOEXEC_SEAL, which the oldest supported headers do not name
+constexpr unsigned NOT_EXECUTABLE_MEMORY = 0x8; // MFD_NOEXEC_SEAL, which the oldest supported headers do not define
 constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
 [[noreturn]] void Fail()
@@ -27,12 +27,12 @@ UniqueFd MakeMemoryFile(char const* name, unsigned flags)
     UniqueFd file(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | flags));
     if (!file && errno == EINVAL)
     {
-        file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING)); // a kernel before the flag
+        file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING)); // a kernel without the flag
     }
     if (!file && errno == EACCES && (flags & EXECUTABLE_MEMORY) == 0)
     {
-        file =
-            UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | NOT_EXECUTABLE_MEMORY)); // it must be said
+        file = UniqueFd(::memfd_create(name, MFD_CLOEXEC | MFD_ALLOW_SEALING | NOT_EXECUTABLE_MEMORY)); // some kernels
+                                                                                                        // require it
     }
     if (!file && (errno == ENOSYS || errno == EPERM))
     {

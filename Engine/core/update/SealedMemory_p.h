@@ -1,6 +1,6 @@
-// SealedMemory_p.h: files in memory that nobody can change once they are sealed.
-// Thread: any. Ownership: the caller's. Each function throws UpdateRefusal where the system refuses: HelperUnusable,
-// and SealedMemoryUnavailable where it has no such files.
+// SealedMemory_p.h: files in memory that nobody can change after they are sealed. Thread: any. Ownership: the caller's.
+// Each function throws UpdateRefusal if the system refuses: HelperUnusable, or SealedMemoryUnavailable if it has no
+// such files.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -8,9 +8,9 @@
 namespace Pelnar::Engine
 {
 
-constexpr unsigned EXECUTABLE_MEMORY = 0x10; ///< MFD_EXEC, which the oldest supported headers do not name
+constexpr unsigned EXECUTABLE_MEMORY = 0x10; ///< MFD_EXEC, which the oldest supported headers do not define
 
-/// An empty file, named for anyone who looks at the process, with these further flags of memfd_create.
+/// An empty file, with this name in lists of open files, and with these further flags of memfd_create.
 UniqueFd MakeMemoryFile(char const* name, unsigned flags);
 void AppendToMemory(UniqueFd const& file, Bytes bytes);
 void SealMemory(UniqueFd const& file);

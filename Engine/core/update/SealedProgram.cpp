@@ -73,12 +73,12 @@ UniqueFd SealedCopyOf(std::string const& path)
         {
             throw;
         }
-        // Some systems run no program from memory. The open file will do: only its owner may change it.
+        // Some systems run no program from memory. The open file is safe enough: only its owner may change it.
         return source;
     }
     ReadWhole(source.Get(), [&copy](Bytes bytes) { AppendToMemory(copy, bytes); });
     SealMemory(copy);
-    // A file that somebody writes while it is read can give a copy that was never in it.
+    // If the file is written while it is read, the copy may have content that the file never had.
     if (HashOfFile(copy.Get()) != HashOfFile(source.Get()))
     {
         throw UpdateRefusal(UpdateFault::HelperUnusable);

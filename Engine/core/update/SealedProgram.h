@@ -1,7 +1,7 @@
-// SealedProgram.h: a copy of the helper's program in memory that nobody can change. It is made when it is first wanted
-// and kept: a disk that is busy with an update may take its time over a few bytes that it was not asked for lately, and
-// a process goes on with the helper that it began with, no matter what is installed meanwhile.
-// Thread: any. Ownership: the copy goes with the object; anyone who started the program has it still.
+// SealedProgram.h: a copy of the helper's program in memory that nobody can change. It is made at the first use and
+// kept. A disk that is busy with an update may be slow to read the program again, and a process must continue with the
+// helper that it started with, even after an installation. Thread: any. Ownership: the object owns the copy; a started
+// program keeps it.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -12,24 +12,23 @@
 namespace Pelnar::Engine
 {
 
-/// What the helper is called, among the processes too.
+/// The helper's name, also in the list of processes.
 constexpr char HELPER_NAME[] = "pelnar-update-installer";
 
 class SealedProgram
 {
 public:
-    /// Touches nothing yet. \a path is absolute.
+    /// Reads nothing yet. \a path is absolute.
     explicit SealedProgram(std::string path) : m_path(std::move(path)) {}
 
-    /// The copy, which is made now unless there is one; where the system runs no program from memory, the file itself,
-    /// opened once. Throws UpdateRefusal: HelperUnusable when the file is no
-    /// regular one, when anybody but the administrator and this user could change it, or when it did change while it
-    /// was copied; then the next call tries again.
+    /// Returns the copy, and makes it at the first call. If the system runs no program from memory, it returns the file
+    /// itself, opened once. Throws UpdateRefusal: HelperUnusable if the file is not regular, if a user other than the
+    /// administrator and this user could change it, or if it changed during the copy; then the next call tries again.
     int Descriptor();
 
 private:
     std::string m_path;
-    std::mutex m_mutex; ///< guards what follows
+    std::mutex m_mutex; ///< guards the members below
     UniqueFd m_copy;
 };
 

@@ -52,7 +52,7 @@ std::optional<EngineError> UpdateFlow::Refusal() const
     {
         return MakeError(ErrorCause::UpdatesDisabled);
     }
-    // A probe may be the first half of a check that a person asked for: it is never held back.
+    // A probe may be the first half of a check that a person requested: it is never delayed.
     if (m_kind == CheckKind::Background && IsHeldBack(m_settings.backOff, m_parts.Now()))
     {
         return MakeError(ErrorCause::HeldBack);
@@ -62,8 +62,8 @@ std::optional<EngineError> UpdateFlow::Refusal() const
 
 void UpdateFlow::CloseChecking()
 {
-    // What another check left open, an error say, stays. Once the check is on the stack it cannot be cancelled any
-    // more.
+    // A window of another check, such as an error, stays. Once the check is on the stack, it can no longer be
+    // cancelled.
     if (m_kind == CheckKind::Interactive)
     {
         m_windows.Close();
@@ -99,7 +99,7 @@ void UpdateFlow::TellFound(FoundUpdate const& found)
 
 void UpdateFlow::TellNotFound()
 {
-    // An archive of a version that is only put off may be wanted yet.
+    // An archive of a version that is only postponed may still be needed.
     if (!m_check->HasPutOff())
     {
         m_parts.ClearDownloads(m_settings.downloadFolder);

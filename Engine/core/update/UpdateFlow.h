@@ -1,6 +1,5 @@
-// UpdateFlow.h: one check for updates, with its windows, and the update that it leads to.
-// Thread: the Qt main thread. Ownership: the updater owns the flow and is its host; host, windows and parts outlive it.
-// The flow owns the check and the update.
+// UpdateFlow.h: one check for updates with its windows, and its update. Thread: the Qt main thread. Ownership: the
+// updater owns the flow and is its host; host, windows and parts outlive it. The flow owns the check and the update.
 #pragma once
 
 #include "Engine/core/update/UpdateRun.h"
@@ -23,11 +22,11 @@ public:
                IUpdateParts& parts);
     ~UpdateFlow() override;
 
-    /// Everything that the host hears comes later, from the event loop.
+    /// Every call of the host comes later, from the event loop.
     void Start();
-    /// A person asks again: what waits for an answer comes to the front.
+    /// A person asks again: the window that waits for an answer comes to the front.
     void BringToFront() { m_windows.BringToFront(); }
-    /// As UpdateRun.
+    /// Like UpdateRun.
     void GiveUpInstallation();
 
 private:
@@ -40,7 +39,7 @@ private:
     void TellAborted(EngineError const& error) override;
     void CheckEnded() override;
 
-    /// Why this check is not made at all.
+    /// Why this check does not run at all.
     std::optional<EngineError> Refusal() const;
     UpdateCandidate CandidateAt(ItemPlace const& place) const;
     void CloseChecking();
@@ -55,9 +54,9 @@ private:
     IUserInterface& m_windows;
     IUpdateParts& m_parts;
     std::unique_ptr<CheckRun> m_check;
-    std::vector<FeedItem> const* m_items = nullptr; ///< the check's
+    std::vector<FeedItem> const* m_items = nullptr; ///< owned by the check
     std::vector<UpdateCandidate> m_candidates;      ///< of the found update
-    std::optional<EngineError> m_error;             ///< the last one that was told
+    std::optional<EngineError> m_error;             ///< the last one that was reported
     std::unique_ptr<UpdateRun> m_update;
 };
 

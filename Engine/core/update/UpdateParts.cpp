@@ -71,7 +71,7 @@ void UpdateParts::OpenTarget(QString const& bundlePath, quint64 neededBytes, std
 
 void UpdateParts::DiscardDownload(DownloadRequest const& request)
 {
-    // Only the names go here and now, so that another download of the same archive finds none of it.
+    // Only the names are removed immediately, so that another download of the same archive does not find them.
     auto const archive = std::make_shared<UniqueFd>(ArchiveDownload::Discard(request));
     m_chores.Run([archive] { *archive = UniqueFd(); });
 }

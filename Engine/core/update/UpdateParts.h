@@ -1,5 +1,5 @@
-// UpdateParts.h: what an update does to the world, for real.
-// Thread: the Qt main thread. Ownership: outlives the updates that use it; what it makes is its caller's.
+// UpdateParts.h: the real side effects of an update. Thread: the Qt main thread. Ownership: outlives the updates that
+// use it; the caller owns the created objects.
 #pragma once
 
 #include "Engine/core/PathText.h"
@@ -31,7 +31,7 @@ public:
 
 private:
     std::shared_ptr<SealedProgram> m_helperProgram;
-    QObject m_context; ///< what is told from the event loop ends with it
+    QObject m_context; ///< pending events of the event loop end with it
     DiskChores m_chores;
 };
 

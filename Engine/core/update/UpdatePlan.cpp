@@ -145,10 +145,10 @@ bool CountsForBackOff(EngineError const& error)
     {
         return IsArchiveToBlame(error.fault);
     }
-    // A pause counts too: anyone who changes the feed at every check must not get a turn at every check.
+    // A pause counts too: an attacker who changes the feed at every check must not get a request at every check.
     bool const isDownloads =
         error.cause >= ErrorCause::DownloadLengthInvalid && error.cause <= ErrorCause::DownloadPaused;
-    // The other causes from DelegateRaised on speak of this computer and of the application.
+    // The other causes from DelegateRaised on are about this computer and the application.
     return isDownloads || (error.cause != ErrorCause::NoUpdate && error.cause < ErrorCause::DelegateRaised);
 }
 

@@ -1,6 +1,5 @@
-// UpdatePlan.h: the decisions of an update that need nothing but values: how it is shown, which archives it may be made
-// of, what it may need, which relaunch path counts. Pure.
-// Thread: any; no state. Ownership: values only.
+// UpdatePlan.h: the decisions of an update that need only values: how it is shown, which archives may be used, what it
+// may need, which relaunch path counts. Pure functions.
 #pragma once
 
 #include "Engine/core/download/ArchiveDownload.h"
@@ -23,7 +22,7 @@ enum class UpdateManner
 [[nodiscard]] UpdateManner MannerOf(CheckKind kind, AutomaticDownload automaticDownload);
 [[nodiscard]] CheckOrigin OriginOf(CheckKind kind);
 
-/// One archive that an update can be made of.
+/// One archive from which an update can be made.
 struct UpdateCandidate
 {
     FeedItem item;
@@ -31,12 +30,12 @@ struct UpdateCandidate
 };
 [[nodiscard]] PayloadKind KindOf(UpdateCandidate const& candidate);
 
-/// Why no update of \a bundle can be verified or matched; nothing when that is possible.
+/// Why no update of \a bundle can be verified or matched; empty if it can.
 [[nodiscard]] std::optional<EngineError> FaultOf(RunningBundle const& bundle);
-/// Why \a item is not even worth a download; nothing when it is.
+/// Why \a item is not worth a download; empty if it is.
 [[nodiscard]] std::optional<EngineError> FaultOf(FeedItem const& item);
 
-/// The room to look for beside the bundle: an estimate, from the archives' lengths, of what they unpack to.
+/// The space that must be free next to the bundle: an estimate of the unpacked size, from the archives' lengths.
 [[nodiscard]] quint64 NeededBytes(std::vector<UpdateCandidate> const& candidates);
 
 [[nodiscard]] DownloadRequest DownloadOf(FeedItem const& item, UpdateSettings const& settings);
@@ -47,7 +46,7 @@ struct UpdateCandidate
 [[nodiscard]] QString ShownVersionOf(FeedItem const& item);
 [[nodiscard]] UpdateOffer OfferOf(FeedItem const& item, RunningBundle const& bundle);
 
-/// Whether a person hears of an update's end by \a error in a window: after a check or an update of their own.
+/// Whether a person sees the \a error at an update's end in a window: after a check or an update that they requested.
 enum class PersonAsked
 {
     No,
@@ -55,14 +54,14 @@ enum class PersonAsked
 };
 [[nodiscard]] bool IsShown(EngineError const& error, PersonAsked asked);
 
-/// Whether \a error says that a server, a feed or an archive is of no use, so that asking again at once is too soon.
+/// True if \a error means that a server, a feed or an archive is unusable, so that the next request must wait.
 [[nodiscard]] bool CountsForBackOff(EngineError const& error);
 
-/// The bytes of the application's answer \a path for the helper; empty, with a log line, when it can be no bundle's
+/// The bytes of the application's answer \a path for the helper; empty, with a log line, if it cannot be a bundle's
 /// path.
 [[nodiscard]] std::string RelaunchPathOf(QString const& path);
 
-/// Those entries of \a environment ("NAME=value" each, ended by a null pointer) that can be given to a program.
+/// The entries of \a environment ("NAME=value" each, ended by a null pointer) that can be passed to a program.
 [[nodiscard]] std::vector<std::string> EnvironmentOf(char const* const* environment);
 
 } // namespace Pelnar::Engine

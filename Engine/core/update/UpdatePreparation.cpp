@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 
 UpdatePreparation::~UpdatePreparation()
 {
-    m_helper.reset(); // first: nobody writes into the folder while it is removed
+    m_helper.reset(); // first: no process may write into the folder while it is removed
     if (m_update)
     {
         m_parts.DiscardUpdate(std::move(m_update));
@@ -43,7 +43,7 @@ void UpdatePreparation::Take(HelperReport const& report)
 {
     if (auto const* const progress = std::get_if<ProgressReport>(&report))
     {
-        // This object may be gone when the call returns.
+        // The call may destroy this object.
         auto const tell = m_progress;
         tell(*progress);
     }

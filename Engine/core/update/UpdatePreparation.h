@@ -1,6 +1,6 @@
-// UpdatePreparation.h: one archive, verified and unpacked by the helper into a fresh folder beside the bundle.
-// Thread: the one that made it, with Qt's event loop. Ownership: owned by its maker; destroying it kills the helper,
-// removes the folder, and nothing is called any more.
+// UpdatePreparation.h: the helper verifies one archive and unpacks it into a fresh folder next to the bundle. Thread:
+// its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it kills the helper and removes the
+// folder; no callback follows.
 #pragma once
 
 #include "Engine/core/update/IUpdateParts.h"
@@ -24,8 +24,8 @@ public:
     UpdatePreparation(UpdatePreparation const&) = delete;
     UpdatePreparation& operator=(UpdatePreparation const&) = delete;
 
-    /// An error when it could not be begun; then nothing is called. Else both callbacks come from the event loop,
-    /// \a finished once and last, and either may destroy this object. REQUIRES: called once.
+    /// Returns an error if it cannot begin; then no callback follows. Otherwise both callbacks come from the event
+    /// loop, \a finished once and last. Either may destroy this object. REQUIRES: called once.
     [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PrepareJob const& job, UniqueFd archive,
                                                    std::function<void(ProgressReport const&)> progress,
                                                    std::function<void(Outcome)> finished);

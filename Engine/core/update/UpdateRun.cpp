@@ -22,8 +22,7 @@ namespace
 {
 
 /// How long an update waits for an application that was asked to quit. A person may have answered "stay open" to a
-/// question about unsaved work: an application that comes back hours later, when it is closed at last, would be a
-/// surprise.
+/// question about unsaved work. If they close the application hours later, a restart would be a surprise.
 constexpr std::uint64_t RELAUNCH_WAIT_SECONDS = 600;
 
 } // namespace
@@ -68,7 +67,7 @@ void UpdateRun::Start()
 
 void UpdateRun::Begin()
 {
-    // Everything that can be refused is refused before a person is bothered and a byte is fetched.
+    // Every possible refusal comes before a person is asked and a byte is fetched.
     if (auto fault = FaultOf(m_settings.bundle))
     {
         Finish(std::move(fault));
@@ -123,7 +122,7 @@ void UpdateRun::TakeChoice(UpdateChoice choice)
         Finish(std::nullopt);
         return;
     case UpdateChoice::InstallUpdate:
-        // From here on a person waits, no matter who asked for the check.
+        // From now on a person waits, even if the check was automatic.
         m_asked = PersonAsked::Yes;
         Download();
         return;
@@ -188,7 +187,7 @@ void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
 {
     if (auto const* const error = std::get_if<EngineError>(&outcome))
     {
-        // While the disk still holds what did fit.
+        // Before the partial files are removed, so that the numbers show the full disk.
         EngineError const told = WithRoom(*error, *m_target, NeededBytes(m_candidates));
         m_preparation.reset();
         FailCandidate(told);
@@ -337,7 +336,7 @@ void UpdateRun::DropPrepared()
 InstallJob UpdateRun::InstallationJob() const
 {
     InstallJob job;
-    // What a delta made is a whole bundle by now.
+    // The result of a delta is a whole bundle here.
     job.kind = KindOf(Current()) == PayloadKind::Installer ? PayloadKind::Installer : PayloadKind::WholeBundle;
     job.targetName = m_target->name;
     job.bundleIdentifier = m_settings.bundle.identifier.toStdString();
@@ -415,7 +414,7 @@ void UpdateRun::Relaunch()
     job.environment = EnvironmentOf(environ);
     job.workingFolder = WorkingFolder();
     job.creationMask = CreationMask();
-    // Anyone who wants the new version to start waits for it.
+    // A person who wants the new version to start waits for it.
     auto const error = HandOver(std::move(job), InstallWish::Person, Guarded(&UpdateRun::TellRelaunch));
     if (error)
     {
@@ -427,7 +426,7 @@ void UpdateRun::Relaunch()
 
 void UpdateRun::TellRelaunch()
 {
-    // What it throws changes nothing: the helper waits, and gives up in time if the application stays.
+    // An exception changes nothing: the helper waits, and gives up after its time limit if the application stays.
     (void)FailureOf("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
 }
 
@@ -473,7 +472,7 @@ bool UpdateRun::HasToldHost(char const* what, std::function<void()> const& call)
 
 void UpdateRun::Finish(std::optional<EngineError> error)
 {
-    // What another check left open, an error say, stays.
+    // A window of another check, such as an error, stays.
     bool const mayShowWindow = HasWindows() && m_phase != Phase::Starting;
     m_phase = Phase::Ended;
     m_download.reset();

@@ -1,8 +1,7 @@
-// UpdateRun.h: one update, from the item that is offered to the helper that installs it: ask, download, prepare, ask
-// again, hand over. A check that nobody asked for in an application that downloads by itself leaves out the asking.
-// Thread: the Qt main thread. Ownership: owned by its maker, as are host, windows and parts, which outlive it.
-// Destroying it in the middle removes what was prepared, tells nobody, and leaves a helper that was handed an update to
-// its work.
+// UpdateRun.h: one update, from the offered item to the helper that installs it: ask, download, prepare, ask again,
+// hand over. An automatic check in an application that downloads automatically skips the first question. Thread: the Qt
+// main thread. Ownership: its maker owns it; host, windows and parts outlive it. Destroying it before its end removes
+// the prepared files and notifies nobody. A helper that already has the update continues.
 #pragma once
 
 #include "Engine/core/update/IUpdateHost.h"
@@ -26,7 +25,7 @@ namespace Pelnar::Engine
 /// How an update ended while the application runs.
 struct UpdateEnd
 {
-    std::optional<EngineError> error; ///< not set when a person put the update off or the application refused it
+    std::optional<EngineError> error; ///< empty if a person postponed the update or the application refused it
     PersonAsked asked = PersonAsked::No;
 };
 
@@ -40,11 +39,11 @@ public:
               IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts, std::function<void(UpdateEnd)> ended);
     ~UpdateRun() override;
 
-    /// Everything happens later, from the event loop; \a ended comes once and last, and may delete this object later
+    /// Everything happens later, from the event loop. \a ended comes once and last, and may delete this object later
     /// (deleteLater).
     void Start();
 
-    /// The session of the desktop ends: what waits for the application's end is not installed.
+    /// The desktop session ends: an update that waits for the application's end is not installed.
     void GiveUpInstallation();
 
 private:
@@ -54,10 +53,10 @@ private:
         Asking,
         Downloading,
         Preparing,
-        Ready,       ///< prepared; a person, or the application, is being asked
-        Deciding,    ///< the application decides about an installation at once
-        Armed,       ///< a helper waits for the application's end, to install without relaunch
-        Relaunching, ///< a helper waits for the application's end, to install and start it again
+        Ready,       ///< prepared; a person or the application is being asked
+        Deciding,    ///< the application decides about an immediate installation
+        Armed,       ///< a helper waits for the application's end, to install without a relaunch
+        Relaunching, ///< a helper waits for the application's end, to install and restart it
         Ended,
     };
 
@@ -88,11 +87,11 @@ private:
     std::optional<EngineError> HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting);
     NamedVersion NamedUpdate() const;
     bool HasWindows() const { return m_manner == UpdateManner::Windows; }
-    /// \a call for a later time, dropped when this object has gone by then.
+    /// Wraps \a call for a later time; it is dropped if this object is destroyed by then.
     template <typename... Arguments>
     std::function<void(Arguments...)> Guarded(void (UpdateRun::*call)(Arguments...));
-    /// Runs \a call, which asks or tells the application \a what. False when the update ended because it failed, or
-    /// when this object has gone meanwhile.
+    /// Runs \a call, which asks or notifies the application (\a what in the log). Returns false if the update ended
+    /// because the call failed, or if this object was destroyed meanwhile.
     [[nodiscard]] bool HasToldHost(char const* what, std::function<void()> const& call);
 
     UpdateManner m_manner;
@@ -110,7 +109,7 @@ private:
     std::unique_ptr<IDownload> m_download;
     std::unique_ptr<UpdatePreparation> m_preparation;
     std::unique_ptr<PreparedUpdate> m_prepared;
-    std::unique_ptr<InstallAttempt> m_attempt; ///< since the first handover
+    std::unique_ptr<InstallAttempt> m_attempt; ///< set at the first handover
     std::unique_ptr<InstallHandover> m_handover;
 };
 

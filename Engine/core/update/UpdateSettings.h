@@ -1,5 +1,4 @@
-// UpdateSettings.h: what a check and the update that it leads to must know of the running application.
-// Thread: plain values. Ownership: their own data.
+// UpdateSettings.h: what a check and its update must know about the running application.
 #pragma once
 
 #include "Engine/core/check/BackOff.h"
@@ -16,14 +15,14 @@ enum class AutomaticDownload
     On,
 };
 
-/// The one switch that keeps the engine from sending anything.
+/// The switch that stops the engine from sending anything.
 enum class UpdateSwitch
 {
     On,
     Off,
 };
 
-/// The bundle that runs, and that an update is to replace.
+/// The running bundle, which an update will replace.
 struct RunningBundle
 {
     QString path; ///< absolute
@@ -41,9 +40,9 @@ struct UpdateSettings
     AutomaticDownload automaticDownload = AutomaticDownload::Off;
     UpdateSwitch updates = UpdateSwitch::On;
     BackOffState backOff;
-    AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
-    QString downloadFolder;                         ///< absolute; this user's alone
-    QString stateFolder;                            ///< the same, for what must outlive a cleared cache
+    AddressReach feedReach = AddressReach::Network; ///< of the place that the feed came from
+    QString downloadFolder;                         ///< absolute; only for this user
+    QString stateFolder;                            ///< the same, for files that must outlive a cleared cache
 };
 
 } // namespace Pelnar::Engine

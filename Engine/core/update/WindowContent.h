@@ -1,6 +1,5 @@
-// WindowContent.h: what the engine's windows show and what a person may answer, as plain values.
-// Text that a server gave is marked so; every window shows it as plain text on one line, and shortens it.
-// Thread: plain values. Ownership: their own data.
+// WindowContent.h: the content of the engine's windows and a person's possible answers, as plain values. Text from a
+// server is marked as such; every window shows it as shortened plain text on one line.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"
@@ -11,7 +10,7 @@
 namespace Pelnar::Engine
 {
 
-/// Who asked for the check. A window that nobody asked for does not take the focus and has no default button.
+/// Who requested the check. A window of an automatic check does not take the focus and has no default button.
 enum class CheckOrigin
 {
     User,
@@ -39,17 +38,17 @@ enum class UpdateImportance
 
 struct ReleaseNotes
 {
-    QString text; ///< given by a server; empty when there are none or they stand elsewhere
+    QString text; ///< from a server; empty if there are none or they are at a link
     ReleaseNotesFormat format = ReleaseNotesFormat::Html;
-    QUrl address; ///< given by a server: where the notes can be read in a browser; may be empty
+    QUrl address; ///< from a server: where the notes can be read in a browser; may be empty
 };
 
 struct UpdateOffer
 {
     QString applicationName;
     QString currentVersion;
-    QString version;       ///< given by a server
-    QString title;         ///< given by a server; may be empty
+    QString version;       ///< from a server
+    QString title;         ///< from a server; may be empty
     quint64 sizeBytes = 0; ///< 0 when unknown
     UpdateImportance importance = UpdateImportance::Ordinary;
     ReleaseNotes notes;
@@ -59,13 +58,13 @@ struct UpdateOffer
 struct NamedVersion
 {
     QString applicationName;
-    QString version; ///< of an update: given by a server
+    QString version; ///< for an update: from a server
 };
 
 enum class UpdatePhase
 {
     Downloading,
-    Preparing, ///< verifying and unpacking: the bytes are those of the archive, the rate does not count
+    Preparing, ///< verifying and unpacking: the bytes are those of the archive; the rate is not used
 };
 
 struct UpdateProgress

@@ -1,6 +1,5 @@
-// FoundationText.h: text and addresses between Qt and Foundation.
-// Thread: any; what is returned to Foundation is autoreleased, so the caller needs a pool. Ownership: values.
-// Objective-C++ only.
+// FoundationText.h: converts text and addresses between Qt and Foundation. Thread: any. Ownership: returned Foundation
+// objects are autoreleased, so the caller needs a pool. Objective-C++ only.
 #pragma once
 
 #if !defined(__OBJC__)
@@ -21,7 +20,7 @@ namespace Pelnar::Foundation
 
 /// nil gives a null string.
 QString ToQString(NSString* text);
-/// Puts \a text in the place of what \a result held, into the same memory where that suffices; nil makes it empty.
+/// Replaces the content of \a result with \a text, in the same memory if it is large enough; nil makes it empty.
 void CopyText(NSString* text, QString& result);
 /// Never nil; an unpaired surrogate becomes "?".
 NSString* ToNSString(QString const& text);
@@ -29,7 +28,7 @@ NSString* ToNSString(QString const& text);
 /// nil gives an empty string.
 std::string ToUtf8(NSString* text);
 
-/// nil gives an empty address; text that Qt does not take as an address gives an invalid one.
+/// nil gives an empty address; text that Qt does not accept as an address gives an invalid one.
 QUrl ToQUrl(NSURL* url);
 /// nil for an empty or invalid address.
 NSURL* ToNSURL(QUrl const& url);

@@ -15,8 +15,8 @@ QString ToQString(NSString* text)
 
 void CopyText(NSString* text, QString& result)
 {
-    // getCharacters:range: copies straight into the string; UTF8String would convert twice and leave an autoreleased
-    // buffer behind.
+    // getCharacters:range: copies directly into the string. UTF8String would convert twice and leave an autoreleased
+    // buffer.
     static_assert(sizeof(unichar) == sizeof(QChar), "both are UTF-16 code units");
     NSUInteger const length = [text length];
     result.resize(static_cast<int>(length));
@@ -27,7 +27,7 @@ NSString* ToNSString(QString const& text)
 {
     if (!text.isValidUtf16())
     {
-        // Foundation makes no string of unpaired surrogates; the round trip replaces them.
+        // Foundation cannot make a string of unpaired surrogates; the round trip replaces them.
         return ToNSString(QString::fromUtf8(text.toUtf8()));
     }
     return [NSString stringWithCharacters:reinterpret_cast<unichar const*>(text.utf16())

@@ -1,7 +1,7 @@
-// IsolatedUserDefaults.h: gives this process user defaults of its own, and a cache folder where the environment names
-// none, so that tests and tools never touch those of the person who runs them. Plain C++.
-// Thread: main, before Foundation is first used and before other threads start. Ownership: a scope object; the defaults
-// are removed with it, so it must outlive the last use of Foundation.
+// IsolatedUserDefaults.h: gives this process its own user defaults, and a cache folder if the environment names none,
+// so that tests and tools never change those of the person who runs them. Plain C++. Thread: main, before Foundation is
+// first used and before other threads start. Ownership: a scope object. It removes the defaults at its end, so it must
+// outlive the last use of Foundation.
 #pragma once
 
 #include <memory>
@@ -12,8 +12,8 @@ namespace Pelnar::Foundation
 class IsolatedUserDefaults
 {
 public:
-    /// Sends the process's user defaults to a place that nobody else uses and that is empty. Ends the process with a
-    /// sentence when that cannot be done.
+    /// Moves the process's user defaults to an empty place that nothing else uses. If this fails, it ends the process
+    /// with a message.
     IsolatedUserDefaults();
     ~IsolatedUserDefaults();
     IsolatedUserDefaults(IsolatedUserDefaults const&) = delete;

@@ -26,7 +26,8 @@ namespace
     return !reason && [identifier isEqual:[[NSBundle mainBundle] bundleIdentifier]];
 }
 
-/// What the bundle says of itself and where the defaults go are two things: a value that is written must come back.
+/// The bundle's identifier and the place of the defaults are independent: this checks that a written value can be read
+/// back.
 [[nodiscard]] bool DefaultsGoTo(NSString* identifier)
 {
     NSString* const key = @"PelnarIsolationProbe";

@@ -20,8 +20,8 @@ struct IsolatedUserDefaults::Impl
 namespace
 {
 
-/// GNUstep copies the environment when it is loaded, which a linked library is before main: where it is there already,
-/// it is made to copy again. Looked up by name, because this file is also of use to programs without Foundation.
+/// GNUstep copies the environment when it is loaded; for a linked library this is before main. If GNUstep is loaded,
+/// this makes it copy again. The function is looked up by name, because programs without Foundation use this file too.
 void RefreshFoundationsEnvironment()
 {
     using Initialize = void (*)(int, char**, char**);
@@ -50,8 +50,8 @@ void RefreshFoundationsEnvironment()
 
 IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
 {
-    // Foundation keeps user defaults in the home folder of the password database, no matter what HOME says; only this
-    // variable moves them, and it must be set before Foundation is first used.
+    // Foundation keeps user defaults in the home folder of the password database and ignores HOME. Only this variable
+    // moves them, and it must be set before Foundation is first used.
     QByteArray const folder = QFile::encodeName(m_impl->folder.path());
     QFile config(m_impl->folder.filePath(QStringLiteral("GNUstep.conf")));
     if (!config.open(QIODevice::WriteOnly) || config.write("GNUSTEP_USER_DEFAULTS_DIR=" + folder + "/Defaults\n") < 0)
@@ -59,13 +59,13 @@ IsolatedUserDefaults::IsolatedUserDefaults() : m_impl(std::make_unique<Impl>())
         qFatal("cannot write %s", qPrintable(config.fileName()));
     }
     config.close();
-    // Foundation passes over one that others may change, no matter what the mask for new files is.
+    // Foundation ignores a file that others may change, so this does not depend on the umask.
     config.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     qputenv("GNUSTEP_CONFIG_FILE", QFile::encodeName(config.fileName()));
-    // Where the update checker keeps its own, and what it knows of feeds.
+    // The update checker's own settings, and its records of feeds.
     qputenv("XDG_CONFIG_HOME", folder + "/config");
     qputenv("XDG_STATE_HOME", folder + "/state");
-    // The engine keeps feeds there. A program that is started several times is given one folder for all its runs.
+    // The engine keeps feeds there. A program that is started several times gets one folder for all its runs.
     if (!qEnvironmentVariableIsSet("XDG_CACHE_HOME"))
     {
         qputenv("XDG_CACHE_HOME", folder + "/Cache");

@@ -1,5 +1,5 @@
-// ManualReferences.h: stops the compiler where references are counted automatically.
-// Objective-C++ only. The sources retain and release by hand, through Retained.h.
+// ManualReferences.h: makes the compiler fail under automatic reference counting. Objective-C++ only. The sources
+// retain and release manually, through Retained.h.
 #pragma once
 
 #if __has_feature(objc_arc)

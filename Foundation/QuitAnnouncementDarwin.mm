@@ -19,7 +19,7 @@ void AnnounceQuitOf(QCoreApplication& application)
 {
     @autoreleasepool
     {
-        // A Qt that announces the end itself is heard here: those who wait must not hear of it twice.
+        // Detects a Qt that posts the notification itself: it must not be posted twice.
         [[NSNotificationCenter defaultCenter] addObserverForName:NSApplicationWillTerminateNotification
                                                           object:nil
                                                            queue:nil

@@ -1,8 +1,7 @@
-// RaisedException.h: the one place where exceptions raised by Foundation code are caught.
-// Thread: any. Ownership: values only. C++ and Objective-C++.
-// An Objective-C exception can be caught in Objective-C++ only, and a C++ exception in C++ only; with GNUstep a C++
-// `catch` in an Objective-C++ file ends the process. This helper carries the first kind over to C++ and lets the second
-// pass through.
+// RaisedException.h: the one place that catches exceptions raised by Foundation code. Thread: any. C++ and
+// Objective-C++. Only Objective-C++ can catch an Objective-C exception, and only C++ can catch a C++ exception; with
+// GNUstep a C++ `catch` in an Objective-C++ file ends the process. This helper converts the first kind for C++ and lets
+// the second pass through.
 #pragma once
 
 #include <functional>
@@ -13,19 +12,19 @@
 namespace Pelnar::Foundation
 {
 
-/// Runs \a call. When it raises an NSException: that exception's reason in UTF-8, empty for a nil or empty reason.
-/// Nothing when it returns. C++ exceptions leave here as they are.
+/// Runs \a call. If it raises an NSException, returns the exception's reason in UTF-8, empty for a nil or empty reason.
+/// If it returns, the result has no value. C++ exceptions propagate unchanged.
 [[nodiscard]] std::optional<std::string> ReasonRaisedBy(std::function<void()> const& call);
 
-/// What a raised NSException becomes for C++ callers; what() is its reason.
+/// A raised NSException for C++ callers; what() is its reason.
 class RaisedException : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-/// Runs \a call and throws RaisedException when it raises an NSException, so that a C++ catch-all may hold it, rethrow
-/// it and ask for its diagnostic text. C++ exceptions leave here as they are.
+/// Runs \a call and throws RaisedException if it raises an NSException, so that a C++ catch-all can hold it, rethrow it
+/// and read its diagnostic text. C++ exceptions propagate unchanged.
 void CallTranslatingRaised(std::function<void()> const& call);
 
 } // namespace Pelnar::Foundation

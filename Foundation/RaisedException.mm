@@ -8,7 +8,7 @@ namespace Pelnar::Foundation
 namespace
 {
 
-/// GNUstep answers a placeholder for a nil reason, always the same object.
+/// GNUstep returns a placeholder for a nil reason, always the same object.
 bool IsPlaceholder(NSString* reason)
 {
     return reason == [[NSException exceptionWithName:NSGenericException reason:nil userInfo:nil] reason];
@@ -32,7 +32,7 @@ std::optional<std::string> ReasonRaisedBy(std::function<void()> const& call)
 
 void CallTranslatingRaised(std::function<void()> const& call)
 {
-    // Thrown outside the handler: a C++ exception does not start inside an Objective-C one.
+    // Thrown outside the handler: a C++ exception must not start inside an Objective-C handler.
     if (std::optional<std::string> const reason = ReasonRaisedBy(call))
     {
         throw RaisedException(*reason);

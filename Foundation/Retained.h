@@ -1,7 +1,7 @@
-// Retained.h: the owner of a reference to a Foundation object, given back on every way out of a scope.
-// Thread: the object's. Objective-C++ only.
-// Pools are the language's @autoreleasepool: on a raised exception, which stands in the pool itself, it leaves the
-// objects to the pool around it. A scope object would free the exception while it is under way.
+// Retained.h: owns a reference to a Foundation object and releases it at every exit from a scope. Thread: the object's.
+// Objective-C++ only. Pools are the language's @autoreleasepool. A raised exception is itself in the pool;
+// @autoreleasepool then leaves the objects to the enclosing pool, while a scope object would free the exception during
+// its propagation.
 #pragma once
 
 #if !defined(__OBJC__)
@@ -30,7 +30,7 @@ public:
         result.m_object = object;
         return result;
     }
-    /// Takes a reference of its own.
+    /// Takes a new reference.
     static Retained Share(T* object) { return Adopt([object retain]); }
 
     Retained(Retained const& other)
@@ -49,7 +49,7 @@ public:
     ~Retained() { [m_object release]; }
 
     T* Get() const { return m_object; }
-    /// The object for a caller who owns nothing of it: good until the pool that is open now is drained.
+    /// The object for a caller that does not own it: valid until the current pool is drained.
     T* Autorelease() const { return [[m_object retain] autorelease]; }
     explicit operator bool() const { return m_object != nil; }
     void Reset() { *this = Retained(); }

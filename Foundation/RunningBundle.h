@@ -1,5 +1,5 @@
-// RunningBundle.h: whether the running program is the executable of an application bundle. Plain C++.
-// Thread: any. Ownership: values. Asks the file system alone, so that Foundation need not be in use yet.
+// RunningBundle.h: whether the running program is the executable of an application bundle. Plain C++. Thread: any. It
+// uses only the file system, so that Foundation need not be in use yet.
 #pragma once
 
 #include <QString>
@@ -7,8 +7,7 @@
 namespace Pelnar::Foundation
 {
 
-/// The information file of the bundle that the running program is the executable of; empty when there is no such
-/// bundle.
+/// The information file of the bundle whose executable is the running program; empty if there is no such bundle.
 QString InformationFileOfRunningBundle();
 
 } // namespace Pelnar::Foundation

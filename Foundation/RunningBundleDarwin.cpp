@@ -22,7 +22,7 @@ QString RunningProgram()
 
 QString InformationFileOfRunningBundle()
 {
-    // The executable stands in Contents/MacOS.
+    // The executable is in Contents/MacOS.
     QString const folder = QFileInfo(RunningProgram()).canonicalPath();
     QFileInfo const file(folder + QStringLiteral("/../Info.plist"));
     return file.isFile() ? file.canonicalFilePath() : QString();

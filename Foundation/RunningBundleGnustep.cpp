@@ -13,7 +13,7 @@ namespace Pelnar::Foundation
 
 QString InformationFileOfRunningBundle()
 {
-    // By bytes: not every path is a text.
+    // As bytes: not every path is valid text.
     char program[PATH_MAX];
     if (!::realpath("/proc/self/exe", program))
     {

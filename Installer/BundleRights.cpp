@@ -20,7 +20,7 @@ using Engine::UpdateRefusal;
 
 constexpr char ACCESS_LIST[] = "system.posix_acl_access";
 constexpr std::size_t ACCESS_LIST_MAX_BYTES = 64 * 1024; // of an attribute
-constexpr mode_t CARRIED_BITS = 03777;                   // all but the one that lends the owner's rights
+constexpr mode_t CARRIED_BITS = 03777;                   // all bits except set-user-ID, which grants the owner's rights
 constexpr uid_t SAME_OWNER = static_cast<uid_t>(-1);
 
 std::string AccessListOf(int bundleFd)
@@ -40,13 +40,13 @@ std::string AccessListOf(int bundleFd)
     throw UpdateRefusal(UpdateFault::RightsNotKept, errno);
 }
 
-/// Whether it makes a difference to anybody which group the files belong to.
+/// True if the group of the files makes a difference to any user.
 bool IsGroupOfUse(BundleRights const& rights)
 {
     return ((rights.mode >> 3) & 07) != (rights.mode & 07) || !rights.accessList.empty();
 }
 
-/// A list that a new file got from the folder in which it was made.
+/// Removes an access list that a new file inherited from its parent folder.
 void RemoveAccessList(int folderFd, std::string const& name)
 {
     std::string const path = "/proc/self/fd/" + std::to_string(folderFd) + '/' + name;
@@ -56,7 +56,7 @@ void RemoveAccessList(int folderFd, std::string const& name)
     }
 }
 
-/// What is in the bundle.
+/// Sets the rights of the bundle's content.
 void GiveRightsWithin(int bundleFd, BundleRights const& rights, BundleRights const& present)
 {
     mode_t const bits = BitsWithin(rights);
@@ -123,7 +123,7 @@ bool GiveRights(int bundleFd, BundleRights const& rights)
     {
         GiveRightsWithin(bundleFd, rights, present);
     }
-    // The folder last, in this order: another owner takes bits away, and a list is a part of the mode.
+    // The folder last, in this order: a change of the owner clears bits, and an access list includes the mode.
     if (!isOfGroup && ::fchown(bundleFd, SAME_OWNER, rights.group) != 0 && IsGroupOfUse(rights))
     {
         Fail();

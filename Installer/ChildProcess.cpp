@@ -55,7 +55,7 @@ pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, in
     std::vector<char*> const arguments = Pointers(words);
     std::vector<char*> const variables = Pointers(surroundings.environment);
     pid_t process = -1;
-    // Both are inherited, and this process has them back at once.
+    // The child inherits both; this process restores its own immediately.
     bool const isElsewhere = !surroundings.workingFolder.empty() && ::chdir(surroundings.workingFolder.c_str()) == 0;
     mode_t const ownMask = ::umask(surroundings.creationMask);
     error = ::posix_spawn(&process, arguments[0], nullptr, &attributes, arguments.data(), variables.data());

@@ -1,5 +1,5 @@
-// ChildProcess.h: starting a program, and waiting for a process' end.
-// Thread: any. Ownership: descriptors stay the caller's; a started process is the caller's child.
+// ChildProcess.h: starts a program, and waits for a process's end. Thread: any. Ownership: callers own their
+// descriptors; a started process is the caller's child.
 #pragma once
 
 #include <cstdint>
@@ -11,21 +11,21 @@
 namespace Pelnar::Installer
 {
 
-/// What a started program finds.
+/// The surroundings of a started program.
 struct Surroundings
 {
-    std::vector<std::string> environment; ///< exactly this
-    std::string workingFolder = {};       ///< empty, or not to be entered: the root
+    std::vector<std::string> environment; ///< the complete environment
+    std::string workingFolder = {};       ///< empty, or if it cannot be entered: the root
     mode_t creationMask = 022;
 };
 
-/// Starts the program that the first word names by its absolute path, with the words as its arguments, in a session of
-/// its own, with no signal blocked. -1, with \a error an errno, when it does not start. REQUIRES: the process' only
-/// thread, which stands in the root.
+/// Starts a program. The first word is its absolute path; all words are its arguments. It runs in its own session with
+/// no signal blocked. Returns -1 and sets \a error to an errno if it does not start. REQUIRES: this thread is the only
+/// one of the process, and its working folder is the root.
 pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, int& error);
 
-/// Waits until the process behind a pidfd has ended, at most \a seconds, 0: as long as it takes. False when it has not.
-/// Throws UpdateRefusal: DescriptorUnusable.
+/// Waits until the process behind a pidfd has ended, at most \a seconds; 0 means no limit. Returns false if it has not
+/// ended. Throws UpdateRefusal: DescriptorUnusable.
 [[nodiscard]] bool WaitForEnd(int processFd, std::uint64_t seconds);
 
 } // namespace Pelnar::Installer

@@ -16,7 +16,7 @@ namespace Pelnar::Installer
 namespace
 {
 
-// The kernel's numbers, beyond what the oldest supported headers name.
+// The kernel's numbers; the oldest supported headers do not define all of them.
 constexpr std::uint64_t EXECUTE = 1u << 0;
 constexpr std::uint64_t WRITE_FILE = 1u << 1;
 constexpr std::uint64_t READ_FILE = 1u << 2;
@@ -42,7 +42,7 @@ struct Ruleset
     std::uint64_t scopes;
 };
 
-/// The rights to take away that a kernel of \a version knows, and how many bytes of them it reads.
+/// The rights that a kernel of \a version can restrict, and how many bytes of the structure it reads.
 Ruleset RulesetOf(long version, std::size_t& bytes)
 {
     Ruleset ruleset{ALL_OF_VERSION_1, 0, 0};
@@ -90,7 +90,7 @@ void ConfineTo(int writableFolderFd, std::vector<int> const& readableFolderFds)
     long const version = ::syscall(SYS_landlock_create_ruleset, nullptr, 0, LANDLOCK_CREATE_RULESET_VERSION);
     if (version < 1)
     {
-        return; // a kernel without it: the entry policy stands alone
+        return; // a kernel without Landlock: only the entry policy protects
     }
     std::size_t bytes = 0;
     Ruleset const ruleset = RulesetOf(version, bytes);

@@ -1,5 +1,5 @@
-// Confinement.h: takes rights away from the running process for good.
-// Thread: the process' only one; irrevocable. Ownership: descriptors stay the caller's.
+// Confinement.h: restricts the rights of the running process permanently. Thread: the process's only one; irrevocable.
+// Ownership: callers own their descriptors.
 #pragma once
 
 #include <vector>
@@ -7,9 +7,9 @@
 namespace Pelnar::Installer
 {
 
-/// From here on the process gains no privileges; where the kernel has Landlock, it opens and makes files only below
-/// \a writableFolderFd, reads besides only below \a readableFolderFds, makes no device, FIFO or socket, runs no program
-/// and opens no connection. Throws UpdateRefusal: ConfinementFailed when the kernel has it and does not do it.
+/// From now on the process gains no privileges. If the kernel has Landlock, the process opens and creates files only
+/// below \a writableFolderFd, also reads below \a readableFolderFds, creates no device, FIFO or socket, runs no program
+/// and opens no connection. Throws UpdateRefusal: ConfinementFailed if the kernel has Landlock but refuses.
 void ConfineTo(int writableFolderFd, std::vector<int> const& readableFolderFds);
 
 } // namespace Pelnar::Installer

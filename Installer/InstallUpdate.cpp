@@ -43,7 +43,7 @@ constexpr int MAX_REFUSALS = 20;
 constexpr int REFUSAL_PAUSE_MS = 100;
 constexpr mode_t PACKED_BITS = 0777;
 
-/// A signal must not end the process while it waits for nothing any more.
+/// No signal may end the process once it no longer waits.
 void BlockSignals()
 {
     sigset_t signals;
@@ -77,7 +77,8 @@ bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
            open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
-/// The installed bundle must still be the one that the update was prepared for, and let an installer program run.
+/// Checks that the installed bundle is still the one that the update was prepared for, and that it allows an installer
+/// program.
 UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
 {
     UniqueFd target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
@@ -97,7 +98,7 @@ UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptor
     return target;
 }
 
-/// The staged bundle. Whether it is still the one that was prepared, CheckStaged() tells.
+/// The staged bundle. CheckStaged() checks that it is still the prepared one.
 UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors)
 {
     UniqueFd staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
@@ -129,7 +130,7 @@ Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
                    ? Engine::StartConfirmation::ByHost
                    : Engine::StartConfirmation::ByStarting;
     }
-    catch (UpdateRefusal const& refusal) // it could be read when it was prepared
+    catch (UpdateRefusal const& refusal) // it was readable when it was prepared
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged, refusal.ErrorNumber());
     }
@@ -139,7 +140,7 @@ Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
 void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
 {
     SwapLock const lock(descriptors.parent, job.targetName);
-    // The version that asked for this has run: what an earlier update kept for it is not needed any more.
+    // The version that requested this has run, so the version kept by an earlier update is no longer needed.
     static_cast<void>(
         RecoverSwap(descriptors.parent, {job.targetName, job.installedVersion, Engine::RecoverPurpose::Confirmation}));
     UniqueFd const target = CheckTarget(job, descriptors);
@@ -150,7 +151,7 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
         report.SendProgress(HelperPhase::Installing, 0, 0);
         RunInstaller(job, staged.Get(), Engine::RealPathOf(descriptors.parent, job.targetName));
         report.Send(Engine::InstalledReport{});
-        // What stays behind is removed at the next start.
+        // The next start removes what is left.
         static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
         return;
     }
@@ -163,8 +164,8 @@ void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors,
     journal.confirmation = ConfirmationOf(job, staged.Get());
     WriteSwapJournal(descriptors.parent, job.targetName, journal);
     report.SendProgress(HelperPhase::Installing, 0, 0);
-    // Behind the journal, whose syncs take their time: as little as possible lies between the check and the swap. A
-    // refusal here finds the previous version in its place, which is what the journal says to keep.
+    // After the journal, whose syncs take time: as little as possible is between the check and the swap. A refusal here
+    // leaves the previous version in place, and the journal says to keep it.
     CheckStaged(job, descriptors, staged.Get(), BitsWithin(rights));
     SwapBundle(descriptors.parent, job.targetName, descriptors.staging, journal);
     report.Send(Engine::InstalledReport{});
@@ -177,7 +178,7 @@ struct Failure
     int errorNumber = 0;
 };
 
-/// Runs \a work; what it throws.
+/// Runs \a work and returns its failure.
 template <typename Work>
 std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
 {
@@ -191,7 +192,7 @@ std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
     {
         failure = {refusal.Fault(), refusal.ErrorNumber()};
     }
-    catch (std::exception const&) // memory ran out
+    catch (std::exception const&) // out of memory
     {
         failure = {UpdateFault::DiskError, ENOMEM};
     }
@@ -199,7 +200,7 @@ std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
     return failure;
 }
 
-/// The child's whole life; its exit status.
+/// The whole work of the child; returns its exit status.
 int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report, int failureFd)
 {
     auto const failure = FailureOf([&] { InstallLocked(job, descriptors, report); }, report);
@@ -207,13 +208,13 @@ int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors
     {
         return 0;
     }
-    // The pipe has room for it, and the parent reads it when this process has ended.
+    // The pipe has space for it, and the parent reads it after this process has ended.
     static_cast<void>(!::write(failureFd, &*failure, sizeof *failure));
     return EXIT_REFUSED;
 }
 
-/// True when the child ended well. A system that refuses to tell is asked again some times; after that the swap lock,
-/// which the child holds at work, keeps this process from what it does.
+/// True if the child ended well. If the system gives no answer, it is asked again a limited number of times. After that
+/// the swap lock, which the child holds while it works, keeps the two apart.
 bool WaitForChild(pid_t child)
 {
     int status = 0;
@@ -232,7 +233,7 @@ bool WaitForChild(pid_t child)
     return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// Has a child install the update. Nothing when it is installed.
+/// Lets a child install the update. Empty if it is installed.
 std::optional<Failure> InstallInChild(InstallJob const& job, InstallDescriptors const& descriptors,
                                       ReportChannel& report)
 {
@@ -265,7 +266,7 @@ std::optional<Failure> InstallInChild(InstallJob const& job, InstallDescriptors 
     return isTold ? failure : Failure();
 }
 
-/// After a failure: the target is made whole, and what was prepared is removed unless the target came from it.
+/// After a failure: repairs the target, and removes the prepared files unless the target came from them.
 void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
 {
     try
@@ -276,7 +277,7 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
         {
             report.Send(Engine::RecoveredReport{action});
         }
-        // A journal that still stands keeps one folder: this update's, or that of one that came first.
+        // An existing journal protects one folder: this update's, or an earlier one's.
         auto const journal = ReadSwapJournal(descriptors.parent, job.targetName);
         bool const isKept = journal && journal->stagingName == job.stagingName;
         if (!isKept && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName))
@@ -303,7 +304,7 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     }
     catch (UpdateRefusal const& refusal)
     {
-        note.Fail(refusal.Fault(), refusal.ErrorNumber()); // a host that ends just now does not hear of it
+        note.Fail(refusal.Fault(), refusal.ErrorNumber()); // a host that ends at this moment gets no report
         throw;
     }
     BlockSignals();
@@ -312,7 +313,7 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     if (failure)
     {
         note.Fail(failure->fault, failure->errorNumber);
-        // Who did not get the lock has touched nothing, and would wait for it once more.
+        // Without the lock nothing was changed, and cleaning up would wait for it again.
         if (failure->fault != UpdateFault::LockTimedOut)
         {
             TidyUp(job, descriptors, report);
@@ -329,10 +330,10 @@ bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors,
     Arguments const arguments = Engine::ReadRelaunchArguments(descriptors.arguments);
     if (!failure && AwaitsConfirmation(job, descriptors.parent))
     {
-        ::close(descriptors.staging); // its lock would keep the folder when nobody needs it any more
+        ::close(descriptors.staging); // its lock would protect the folder when it is no longer needed
         return StartAndWatch(job, arguments, descriptors.parent, report, note);
     }
-    // They were meant for the new version.
+    // The arguments are for the new version.
     StartResult const started = StartAgain(job, failure ? Arguments() : arguments, report);
     auto const* const refusal = std::get_if<UpdateRefusal>(&started);
     if (refusal && !failure)

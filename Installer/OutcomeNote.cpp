@@ -60,7 +60,7 @@ void OutcomeNote::TryToWrite(InstallState state, UpdateFault fault, int errorNum
     {
         Write(state);
     }
-    catch (std::exception const&) // see above; memory may have run out too
+    catch (std::exception const&) // as above; memory may have run out too
     {
     }
 }

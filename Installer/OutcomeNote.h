@@ -1,6 +1,6 @@
-// OutcomeNote.h: how an installation ends, written where the next start of the application reads it: anyone who asked
-// may be gone by then. Nothing is kept for a job that names no record. Thread: the process' only one. Ownership: the
-// job and the folder's descriptor stay the caller's, which outlive it.
+// OutcomeNote.h: writes the outcome of an installation where the next start of the application reads it, because the
+// host has ended. For a job without a record name nothing is written. Thread: the process's only one. Ownership: the
+// caller owns the job and the folder's descriptor; both outlive it.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"
@@ -13,15 +13,15 @@ class OutcomeNote
 public:
     OutcomeNote(Engine::InstallJob const& job, int recordsFd);
 
-    /// This process waits. Throws UpdateRefusal: without a record nothing is begun.
+    /// This process waits. Throws UpdateRefusal: without a record no installation begins.
     void Begin();
 
-    // From here on nobody is there to hear of a record that cannot be written. The one before it stays, which says that
-    // this process has not come to an end.
+    // From now on no process can be told that a record cannot be written. The previous record stays; it says that this
+    // process did not reach its end.
     void EnterInstallation();
     void Fail(Engine::UpdateFault fault, int errorNumber);
     void Succeed();
-    /// What was installed could not be started.
+    /// The installed version could not be started.
     void FailStart(Engine::UpdateFault fault, int errorNumber);
 
 private:

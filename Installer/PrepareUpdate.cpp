@@ -84,7 +84,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
     return {job.bundleName, Engine::DigestTree(bundle.Get())};
 }
 
-/// Verifies the archive open at \a archiveFd and unpacks it. REQUIRES: nobody changes it meanwhile.
+/// Verifies the archive open at \a archiveFd and unpacks it. REQUIRES: no process changes it meanwhile.
 Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
                                       int archiveFd, ReportChannel& report)
 {
@@ -111,13 +111,13 @@ void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& desc
     {
         throw UpdateRefusal(UpdateFault::InstallerNotAllowed);
     }
-    // Before the confinement, in which a copy could not be made nameless.
+    // Before the confinement, which would prevent an unnamed copy.
     std::optional<SteadyArchive> archive(std::in_place, descriptors.archive, job.archiveBytes, descriptors.staging);
     bool const isDelta = job.kind == PayloadKind::Delta;
     ConfineTo(descriptors.staging, isDelta ? std::vector<int>{descriptors.target} : std::vector<int>());
     Engine::UnpackedBundle const bundle = UnpackVerified(job, descriptors, archive->Descriptor(), report);
-    archive.reset(); // what becomes of it does not matter any more
-    // An installer program is started from where it was unpacked, a bundle from the installed one's place.
+    archive.reset(); // changes to it no longer matter
+    // An installer program is started from where it was unpacked, a bundle from the installed bundle's place.
     std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
     Engine::CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
                            {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});

@@ -1,5 +1,5 @@
 // PrepareUpdate.h: the helper's first half: from a downloaded archive to a checked bundle in the staging folder.
-// Thread: the process' only one; the process is confined for good. Ownership: descriptors stay the caller's.
+// Thread: the process's only one; the process is confined permanently. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"
@@ -12,10 +12,10 @@ struct PrepareDescriptors
 {
     int archive;
     int staging;
-    int target; ///< the installed bundle's folder; deltas and installer programs only
+    int target; ///< the installed bundle's folder; only for deltas and installer programs
 };
 
-/// Throws UpdateRefusal. On success the prepared bundle has been reported, and every byte of it is on the disk.
+/// Throws UpdateRefusal. On success it has reported the prepared bundle, and every byte of the bundle is on the disk.
 void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report);
 
 } // namespace Pelnar::Installer

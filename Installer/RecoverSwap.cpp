@@ -54,7 +54,7 @@ TargetState LookAtTarget(int parentFd, std::string const& targetName, SwapJourna
                                              : TargetState::Foreign;
 }
 
-/// Under which name the previous version stands in the staging folder; empty when it does not.
+/// The name of the previous version in the staging folder; empty if it is not there.
 std::string FindPrevious(UniqueFd const& staging, SwapJournal const& journal)
 {
     for (std::string const& name : {std::string(Engine::PREVIOUS_BUNDLE_NAME), journal.stagedName})
@@ -67,7 +67,7 @@ std::string FindPrevious(UniqueFd const& staging, SwapJournal const& journal)
     return {};
 }
 
-/// The folder that the journal names, if it is one of this bundle's that nobody else has made or can enter.
+/// The folder that the journal names, if it belongs to this bundle and no other user can have created or can enter it.
 UniqueFd OpenStaging(int parentFd, std::string const& targetName, std::string const& name)
 {
     std::string const prefix = Engine::UpdateFilePrefix(targetName);
@@ -75,7 +75,7 @@ UniqueFd OpenStaging(int parentFd, std::string const& targetName, std::string co
     return folder && Engine::IsPrivateFolder(folder.Get()) ? std::move(folder) : UniqueFd();
 }
 
-/// A staging folder that \a name names and nobody holds: an open descriptor with its lock, else nothing.
+/// A staging folder named \a name without a lock: returns an open descriptor with its lock, otherwise an empty one.
 UniqueFd OpenAbandoned(int parentFd, std::string const& name)
 {
     UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
@@ -107,7 +107,7 @@ void RemoveAbandonedFolders(int parentFd, std::string const& targetName, std::st
     {
         if (UniqueFd const folder = OpenAbandoned(parentFd, name))
         {
-            // What stays behind is tried again at the next start.
+            // The next start tries to remove what is left.
             static_cast<void>(Engine::RemoveTree(parentFd, name));
         }
     }
@@ -123,7 +123,7 @@ void CountStart(int parentFd, Engine::RecoverJob const& job, SwapJournal journal
 void RollBack(int parentFd, std::string const& targetName, UniqueFd const& staging, std::string const& previousName,
               SwapJournal const& journal)
 {
-    // First the note: a version that failed must not be installed again and again by those who do not know of it.
+    // The note first: a failed version must not be installed repeatedly by processes that do not know of the failure.
     Engine::WriteNote(parentFd, Engine::FailedVersionName(targetName),
                       Engine::EncodeFailedVersion({journal.fromVersion, journal.toVersion}));
     SwapBack(parentFd, targetName, staging.Get(), previousName, journal);
@@ -138,14 +138,15 @@ RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal
     if (target == TargetState::Missing && !staging && HasName(parentFd, journal.stagingName))
     {
         throw Engine::UpdateRefusal(
-            Engine::UpdateFault::StagedTreeChanged); // it may hold the last version that is left
+            Engine::UpdateFault::StagedTreeChanged); // it may contain the only remaining version
     }
     bool const awaitsHost =
         journal.confirmation == StartConfirmation::ByHost && job.purpose != Engine::RecoverPurpose::Confirmation;
     RecoveryAction const decided = Engine::DecideRecovery(
         {target, !previousName.empty(), job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
     bool const isOneMoreStart = decided == RecoveryAction::CountedStart || decided == RecoveryAction::RolledBack;
-    // While the process of the last counted start runs, who asks is it again, or another instance beside it.
+    // While the process of the last counted start runs, the request comes from this process, or from another instance
+    // that runs in parallel.
     RecoveryAction const action =
         isOneMoreStart && Engine::IsRunning(journal.lastStarted) ? RecoveryAction::KeptPrevious : decided;
     switch (action)
@@ -170,21 +171,21 @@ RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal
     case RecoveryAction::DroppedStaged:
         break;
     }
-    // The journal goes first: a folder without one is known to be abandoned, and a journal without its folder would
-    // have to be told from one whose folder is half gone.
+    // The journal is removed first. A folder without a journal is known to be abandoned. A journal without its folder
+    // would look like a journal with a half removed folder.
     Engine::RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     return action;
 }
 
-/// The folder must stay: what is in it is needed, or runs.
+/// The folder must stay: its content is needed or is running.
 bool IsStagingKept(RecoveryAction action)
 {
     return action == RecoveryAction::KeptPrevious || action == RecoveryAction::CountedStart ||
            action == RecoveryAction::RolledBack;
 }
 
-/// The version that was taken back for the running one. The note goes once any other version runs, and so does one that
-/// counts for nothing.
+/// The version that was rolled back to the running one. The note is removed once any other version runs, or if it is
+/// invalid.
 std::string FailedVersionFor(int parentFd, Engine::RecoverJob const& job)
 {
     std::string const name = Engine::FailedVersionName(job.targetName);
@@ -215,12 +216,12 @@ Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
     }
     else if (HasName(parentFd, job.targetName))
     {
-        // One that cannot be read says nothing of a bundle that is there.
+        // An unreadable journal says nothing about an existing bundle.
         Engine::RemoveNote(parentFd, Engine::SwapJournalName(job.targetName));
     }
     else
     {
-        return recovery; // nothing is thrown away while the bundle is missing
+        return recovery; // nothing is deleted while the bundle is missing
     }
     RemoveAbandonedFolders(parentFd, job.targetName, keptName);
     return recovery;

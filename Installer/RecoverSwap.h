@@ -1,5 +1,5 @@
-// RecoverSwap.h: puts right what an interrupted update left beside a bundle, and tidies up what nobody uses any more.
-// Thread: the process' only one. Ownership: descriptors stay the caller's.
+// RecoverSwap.h: repairs what an interrupted update left next to a bundle, and removes unused files. Thread: the
+// process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"
@@ -13,15 +13,14 @@ namespace Pelnar::Installer
 struct Recovery
 {
     Engine::RecoveryAction action = Engine::RecoveryAction::Nothing;
-    std::string failedVersion; ///< taken back earlier for the version that asks; empty when none was
+    std::string failedVersion; ///< rolled back earlier to the version that asks; empty if there is none
 };
 
-/// What \a job asks for; nobody runs when it names no version. May be interrupted anywhere and run again. Throws
-/// UpdateRefusal. REQUIRES: the swap lock of the folder open at \a parentFd.
+/// Does what \a job requests. A job without a version means that no version runs. May be interrupted at any point and
+/// run again. Throws UpdateRefusal. REQUIRES: the swap lock of the folder open at \a parentFd.
 Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job);
 
-/// Takes the new version of \a targetName back that stands there without a confirmation. Throws UpdateRefusal.
-/// REQUIRES: the swap lock.
+/// Rolls back the installed, unconfirmed new version of \a targetName. Throws UpdateRefusal. REQUIRES: the swap lock.
 Engine::RecoveryAction RollBackSwap(int parentFd, std::string const& targetName);
 
 } // namespace Pelnar::Installer

@@ -26,12 +26,12 @@ using Engine::StagingFolder;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
-constexpr long PATIENCE_SECONDS = 5; ///< who holds the lock longer installs an update
+constexpr long PATIENCE_SECONDS = 5; ///< a process that holds the lock for longer installs an update
 constexpr char NEW_NAME[] = "new";
 constexpr char FULL_NAME[] = "full";
 constexpr mode_t PRIVATE_MODE = 0700;
 
-/// A folder in the parent that goes again.
+/// A temporary folder in the parent.
 class Standin
 {
 public:
@@ -68,7 +68,7 @@ Engine::UniqueFd OpenFolder(int parentFd, std::string const& name)
     return folder;
 }
 
-/// The exchange of a folder that has the bundle's rights with one beside the bundle, with all that makes it last.
+/// Exchanges a folder that has the bundle's rights with one next to the bundle, and syncs as the update does.
 void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     Standin const standin(descriptors.parent, targetName);
@@ -79,16 +79,16 @@ void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& tar
     SwapBundle(descriptors.parent, standin.Name(), descriptors.staging, {{}, NEW_NAME, {}, {}});
 }
 
-/// Some file systems move no folder of this kind: an overlay, one of a layer below; with projects, one of another
-/// project. They say so before they look at the place that the folder is to go to. The place is taken, so nothing
-/// moves.
+/// Some file systems do not move certain folders: an overlay does not move folders of a lower layer, and with projects
+/// a folder of another project cannot move. They report this before they check the destination. The destination exists,
+/// so nothing moves.
 void RehearseMove(RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     MakeFolder(descriptors.staging, FULL_NAME);
     MakeFolder(descriptors.staging, (std::string(FULL_NAME) + "/file").c_str());
     if (::renameat(descriptors.parent, targetName.c_str(), descriptors.staging, FULL_NAME) == 0)
     {
-        // A file system that replaces a full folder is no place for an exchange.
+        // A file system that replaces a non-empty folder is not safe for an exchange.
         static_cast<void>(::renameat(descriptors.staging, FULL_NAME, descriptors.parent, targetName.c_str()));
         throw UpdateRefusal(UpdateFault::SwapFailed, ENOTEMPTY);
     }

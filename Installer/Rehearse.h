@@ -1,6 +1,5 @@
-// Rehearse.h: does beside an installed bundle what an update will do there, with folders that are made for it, so that
-// what this system refuses is known before anything is downloaded.
-// Thread: the process' only one. Ownership: descriptors stay the caller's.
+// Rehearse.h: does the steps of an update next to an installed bundle, with its own folders, so that a refusal of this
+// system is known before a download. Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"
@@ -11,11 +10,12 @@ namespace Pelnar::Installer
 struct RehearseDescriptors
 {
     int parent;
-    int staging; ///< an empty staging folder; what is put there stays for its owner to remove
+    int staging; ///< an empty staging folder; its owner removes what is put there
     int host;    ///< a pidfd
 };
 
-/// Throws UpdateRefusal with what an update would meet, but LockTimedOut sooner. This process is confined afterwards.
+/// Throws UpdateRefusal with the error that an update would meet; LockTimedOut comes sooner. This process is confined
+/// afterwards.
 void Rehearse(Engine::RehearseJob const& job, RehearseDescriptors const& descriptors);
 
 } // namespace Pelnar::Installer

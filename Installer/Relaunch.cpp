@@ -72,7 +72,7 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     }
     catch (UpdateRefusal const&)
     {
-        // Not a bundle, or none that runs here.
+        // It is not a bundle, or not for this machine.
     }
     throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
 }

@@ -1,5 +1,5 @@
-// Relaunch.h: starts a bundle's program after an update.
-// Thread: any. Ownership: values only; the started process is the caller's child, whether it waits for it or not.
+// Relaunch.h: starts a bundle's program after an update. Thread: any. Ownership: the started process is the caller's
+// child.
 #pragma once
 
 #include "Installer/ChildProcess.h"
@@ -12,7 +12,7 @@
 namespace Pelnar::Installer
 {
 
-/// A program to start and its bundle: real paths, which no link can turn elsewhere any more.
+/// A program to start and its bundle, as real paths without links.
 struct RelaunchTarget
 {
     std::string bundlePath;
@@ -20,13 +20,13 @@ struct RelaunchTarget
 };
 
 /// The program of the bundle at \a bundlePath. Throws UpdateRefusal: RelaunchPathUnsafe unless it is an absolute path
-/// without ".." to a real folder which only the administrator and this user can change, up to the root, and which is a
-/// bundle whose program this machine can run.
+/// without ".." to a real folder, only the administrator and this user can change it up to the root, and it is a bundle
+/// whose program this machine can run.
 RelaunchTarget FindRelaunchTarget(std::string const& bundlePath);
 
-/// Starts the program with its path and \a arguments, its own session and no signal blocked; without the arguments
-/// where the system starts nothing with so many beside its environment. Answers its number. Throws UpdateRefusal:
-/// RelaunchFailed.
+/// Starts the program with its path and \a arguments, in its own session and with no signal blocked. If the system
+/// cannot start a program with so many arguments together with its environment, it starts without them. Returns the
+/// process's number. Throws UpdateRefusal: RelaunchFailed.
 pid_t Relaunch(RelaunchTarget const& target, std::vector<std::string> const& arguments,
                Surroundings const& surroundings);
 

@@ -1,5 +1,5 @@
-// ReportChannel.h: the helper's side of the report pipe.
-// Thread: the helper's only one. Ownership: the descriptor is inherited and stays open to the end.
+// ReportChannel.h: the helper's side of the report pipe. Thread: the helper's only one. Ownership: the descriptor is
+// inherited and stays open to the end.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"
@@ -12,9 +12,9 @@ class ReportChannel
 public:
     explicit ReportChannel(int descriptor) : m_descriptor(descriptor) {}
 
-    /// Writes one line, whole. A reader that has gone is no failure: what to do then is the signal SIGPIPE's matter.
+    /// Writes one whole line. A closed reader is not a failure: the signal SIGPIPE decides what happens.
     void Send(Engine::HelperReport const& report) const;
-    /// A progress line at the start, at the end and at most every 4 MiB in between.
+    /// Writes a progress line at the start, at the end and at most every 4 MiB in between.
     void SendProgress(Engine::HelperPhase phase, std::uint64_t doneBytes, std::uint64_t totalBytes);
 
 private:

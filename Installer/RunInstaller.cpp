@@ -27,7 +27,7 @@ using Engine::UpdateRefusal;
 
 constexpr char SEARCH_PATH[] = "PATH=/usr/sbin:/usr/bin:/sbin:/bin";
 
-/// What a program needs to know of the person and the screen, and nothing that its loader or its libraries obey.
+/// Variables about the person and the screen. None of them affects the program's loader or libraries.
 constexpr std::string_view VARIABLES[] = {"HOME",
                                           "USER",
                                           "LOGNAME",

@@ -21,7 +21,7 @@ using Engine::UpdateRefusal;
 constexpr std::size_t PIECE_BYTES = std::size_t{1} << 20;
 constexpr char COPY_NAME[] = ".archive";
 
-/// A new file that has no name any more.
+/// A new file that has already lost its name.
 Engine::UniqueFd MakeNameless(int folderFd)
 {
     Engine::UniqueFd file(::openat(folderFd, COPY_NAME, O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
@@ -81,7 +81,7 @@ SteadyArchive::Lease::Lease(int descriptor)
 
 SteadyArchive::Lease::~Lease()
 {
-    // It would outlive the process, for the host has the same opening of the file, and hold up anyone who writes next.
+    // The lease would outlive the process, because the host shares the open file, and would delay the next writer.
     ::fcntl(archiveFd, F_SETLEASE, F_UNLCK);
 }
 

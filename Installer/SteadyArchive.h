@@ -1,7 +1,7 @@
-// SteadyArchive.h: an update's archive that stays as it is while it is verified and unpacked.
-// Thread: one. Ownership: the archive's descriptor stays the caller's; a scope object, for the time of the reading.
-// The kernel gives a lease on the file and ends this process when somebody opens the file to change it. Where there are
-// no leases (some network file systems, somebody else's file) a private copy is read instead.
+// SteadyArchive.h: keeps an update's archive unchanged while it is verified and unpacked. Thread: one. Ownership: the
+// caller owns the archive's descriptor; this is a scope object for the time of reading. The kernel gives a lease on the
+// file and ends this process if another one opens the file to change it. Without a lease (on some network file systems,
+// or for another user's file) a private copy is read instead.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -14,9 +14,9 @@ namespace Pelnar::Installer
 class SteadyArchive
 {
 public:
-    /// Needs the right to make and to remove a file in the folder open at \a stagingFd. Throws UpdateRefusal:
-    /// ArchiveInUse when somebody has the file open for writing, ArchiveLengthDiffers unless it is a plain file of
-    /// \a archiveBytes, ArchiveUnreadable, or what keeps a copy from being made.
+    /// Needs the right to create and remove a file in the folder open at \a stagingFd. Throws UpdateRefusal:
+    /// ArchiveInUse if a process has the file open for writing, ArchiveLengthDiffers unless it is a regular file of \a
+    /// archiveBytes, ArchiveUnreadable, or the error that prevents a copy.
     SteadyArchive(int archiveFd, std::uint64_t archiveBytes, int stagingFd);
 
     /// The file to read.
@@ -35,7 +35,7 @@ private:
     };
 
     Lease m_lease;
-    Engine::UniqueFd m_copy; ///< only where no lease is held
+    Engine::UniqueFd m_copy; ///< set only without a lease
 };
 
 } // namespace Pelnar::Installer

@@ -32,7 +32,7 @@ bool Exchange(int firstFd, std::string const& first, int secondFd, std::string c
     return ::syscall(SYS_renameat2, firstFd, first.c_str(), secondFd, second.c_str(), RENAME_EXCHANGE) == 0;
 }
 
-/// True for the errors by which a kernel or a file system says that it does not know the flag.
+/// True for the errors with which a kernel or a file system rejects an unknown flag.
 bool IsUnsupported(int errorNumber)
 {
     return errorNumber == EINVAL || errorNumber == ENOSYS || errorNumber == EOPNOTSUPP;
@@ -107,7 +107,7 @@ void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engi
     {
         return;
     }
-    // The kernel may have lost either half of the swap: undo it in memory, where all is still known.
+    // The kernel may have lost either half of the swap: undo it in memory, where both are still known.
     int const errorNumber = errno;
     if (isExchanged)
     {

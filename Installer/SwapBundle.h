@@ -1,5 +1,5 @@
-// SwapBundle.h: the steps of putting one bundle in another's place, each durable before the next begins.
-// Thread: the process' only one. Ownership: descriptors stay the caller's.
+// SwapBundle.h: the steps that replace one bundle by another, each durable before the next begins. Thread: the
+// process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -11,22 +11,21 @@
 namespace Pelnar::Installer
 {
 
-/// The version of the bundle \a name in the folder; nothing when it cannot be told.
+/// The version of the bundle \a name in the folder; empty if it cannot be read.
 std::optional<std::string> VersionOf(int folderFd, std::string const& name);
 
-/// What is written in the journal of \a targetName; nothing when there is none, or none that can be understood.
+/// The journal of \a targetName; empty if there is none, or it is invalid.
 std::optional<Engine::SwapJournal> ReadSwapJournal(int parentFd, std::string const& targetName);
 /// Throws UpdateRefusal. REQUIRES: the swap lock.
 void WriteSwapJournal(int parentFd, std::string const& targetName, Engine::SwapJournal const& journal);
 
-/// Puts journal.stagedName of the staging folder in the target's place and the target in the staging folder, and
-/// answers when both folders are on the disk; or puts everything back and throws UpdateRefusal: OtherFileSystem,
-/// SwapFailed, SyncFailed. REQUIRES: the swap lock; the journal is written.
+/// Exchanges journal.stagedName of the staging folder with the target, and returns when both folders are on the disk.
+/// Otherwise it restores everything and throws UpdateRefusal: OtherFileSystem, SwapFailed, SyncFailed. REQUIRES: the
+/// swap lock; the journal is written.
 void SwapBundle(int parentFd, std::string const& targetName, int stagingFd, Engine::SwapJournal const& journal);
 
-/// The way back: puts \a previousName of the staging folder in the target's place and the target in the staging folder.
-/// Wherever it stops, what stands there can be recovered by the journal. Throws UpdateRefusal: SwapFailed, SyncFailed.
-/// REQUIRES: the swap lock; the journal still stands.
+/// The reverse: exchanges \a previousName of the staging folder with the target. If it stops at any point, the journal
+/// allows recovery. Throws UpdateRefusal: SwapFailed, SyncFailed. REQUIRES: the swap lock; the journal exists.
 void SwapBack(int parentFd, std::string const& targetName, int stagingFd, std::string const& previousName,
               Engine::SwapJournal const& journal);
 

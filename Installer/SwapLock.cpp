@@ -24,11 +24,11 @@ using Engine::UniqueFd;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
-constexpr long ALARM_REPEAT_SECONDS = 1; // for a signal that comes before the call it is to interrupt
+constexpr long ALARM_REPEAT_SECONDS = 1; // for a signal that arrives before the call that it must interrupt
 constexpr mode_t LOCK_MODE = 0600;
-/// Each holder takes its file away, so that those who wait open another; there are not so many of them.
+/// Each holder removes its file, so that waiting processes open another one; there are fewer holders than this.
 constexpr int MAX_FILES = 1000;
-/// What stands in the file's place is taken away, but not again and again.
+/// A foreign object in the file's place is removed, but only this often.
 constexpr int MAX_FOREIGN_FILES = 3;
 
 sig_atomic_t volatile isTimeOver = 0;
@@ -38,7 +38,7 @@ void OnAlarm(int)
     isTimeOver = 1;
 }
 
-/// Interrupts a waiting system call once its time is over.
+/// Interrupts a blocking system call after a time limit.
 class AlarmScope
 {
 public:
@@ -66,20 +66,20 @@ private:
     struct sigaction m_previous;
 };
 
-/// The lock's file, which is made when there is none that only this user may open. How many names it has does not
-/// matter: nobody else can open it by any of them.
+/// The lock file. It is created if there is none that only this user may open. Its number of names does not matter: no
+/// other user can open it under any name.
 UniqueFd OpenLockFile(int parentFd, std::string const& name)
 {
     for (int attempt = 0; attempt < MAX_FOREIGN_FILES; ++attempt)
     {
-        // For writing too: some network file systems lock no file that is opened for reading only.
+        // For writing too: some network file systems cannot lock a file that is opened read-only.
         UniqueFd file(
             ::openat(parentFd, name.c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, LOCK_MODE));
         if (file && Engine::IsPrivateFile(file.Get()))
         {
             return file;
         }
-        // A link, a folder, a socket, somebody else's file.
+        // A link, a folder, a socket, another user's file.
         bool const isForeign = file || errno == ELOOP || errno == EISDIR || errno == ENXIO || errno == EACCES;
         if (!isForeign)
         {
@@ -90,7 +90,7 @@ UniqueFd OpenLockFile(int parentFd, std::string const& name)
     throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
 }
 
-/// False when the time was over first.
+/// False if the time limit came first.
 [[nodiscard]] bool Lock(UniqueFd const& file)
 {
     while (isTimeOver == 0)

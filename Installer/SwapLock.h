@@ -1,7 +1,7 @@
-// SwapLock.h: holds all other helpers off one installed bundle.
-// The lock is the kernel's, on a file beside the bundle that nobody but this user may open: who can only read the
-// folder cannot take it. The file goes with the lock; one that a killed holder left is used again. Thread: the process'
-// only one. Ownership: the parent's descriptor stays the caller's and outlives the object.
+// SwapLock.h: keeps all other helpers away from one installed bundle. It is the kernel's lock on a file next to the
+// bundle that only this user may open, so a user who can only read the folder cannot take it. The file is removed with
+// the lock; a file that a killed holder left is reused. Thread: the process's only one. Ownership: the caller owns the
+// parent's descriptor, which outlives the object.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -17,7 +17,7 @@ class SwapLock
 {
 public:
     /// Waits for the lock of the bundle \a targetName in the folder open at \a parentFd. Throws UpdateRefusal:
-    /// LockTimedOut, LocksUnavailable, and FolderUnsafe for a folder in which others may put names or take them away.
+    /// LockTimedOut, LocksUnavailable, and FolderUnsafe for a folder in which other users may create or remove names.
     SwapLock(int parentFd, std::string const& targetName, long patienceSeconds = SWAP_LOCK_SECONDS);
     ~SwapLock();
     SwapLock(SwapLock const&) = delete;

@@ -30,11 +30,11 @@ using Engine::UpdateRefusal;
 
 enum class StartEnd
 {
-    Settled, ///< confirmed, or ended by a person, or somebody else has taken the matter over
+    Settled, ///< confirmed, ended by a person, or handled by another process
     Failed,
 };
 
-/// A person's way to end a program, or the session's.
+/// A person's or the session's way to end a program.
 bool IsEndedOnPurpose(int status)
 {
     if (WIFEXITED(status))
@@ -45,7 +45,7 @@ bool IsEndedOnPurpose(int status)
     return signal == SIGTERM || signal == SIGINT || signal == SIGHUP || signal == SIGQUIT;
 }
 
-/// Becomes readable when a file goes from the folder; -1 when the system has no more of these to give.
+/// Becomes readable when a file is removed from the folder; -1 if the system has no more watches.
 UniqueFd WatchFolder(int folderFd)
 {
     UniqueFd watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
@@ -65,19 +65,19 @@ void Drain(UniqueFd const& watch)
     }
 }
 
-/// Waits for the end of the process while the journal stands.
+/// Waits for the end of the process while the journal exists.
 StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
 {
     UniqueFd const watch = WatchFolder(parentFd);
     UniqueFd const ended(static_cast<int>(::syscall(SYS_pidfd_open, process, 0)));
     if (!ended)
     {
-        return StartEnd::Settled; // the starts that are counted must do
+        return StartEnd::Settled; // the counted starts decide
     }
-    // While it waits, and only then, the session may end this process: the starts that are counted do the rest.
+    // Only while it waits may the session end this process: the counted starts decide then.
     sigset_t none;
     ::sigemptyset(&none);
-    // Asked after the watch is there: a journal that goes now is noticed.
+    // Checked after the watch exists: the removal of the journal from now on is noticed.
     while (AwaitsConfirmation(job, parentFd))
     {
         pollfd waiting[] = {{ended.Get(), POLLIN, 0}, {watch.Get(), POLLIN, 0}};
@@ -94,7 +94,7 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
         {
             int status = 0;
             bool const isReaped = ::waitpid(process, &status, 0) == process;
-            SwapLock const lock(parentFd, job.targetName); // a confirmation that is on its way counts
+            SwapLock const lock(parentFd, job.targetName); // waits for a confirmation in progress
             bool const isSettled = !isReaped || IsEndedOnPurpose(status) || !AwaitsConfirmation(job, parentFd);
             return isSettled ? StartEnd::Settled : StartEnd::Failed;
         }
@@ -110,7 +110,7 @@ StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parent
     {
         return StartEnd::Failed;
     }
-    // Another bundle says nothing of the one that was installed.
+    // A relaunch of another bundle says nothing about the installed one.
     bool const isTarget = started->path == Engine::RealPathOf(parentFd, job.targetName);
     return isTarget ? WaitForStart(job, parentFd, started->process) : StartEnd::Settled;
 }
@@ -161,7 +161,7 @@ bool AwaitsConfirmation(InstallJob const& job, int parentFd)
     }
     catch (UpdateRefusal const&)
     {
-        return false; // what cannot be read now is for the next start to decide
+        return false; // the next start decides about an unreadable journal
     }
 }
 
@@ -183,7 +183,7 @@ bool StartAndWatch(InstallJob const& job, Arguments const& arguments, int parent
     report.Send(Engine::RecoveredReport{action});
     if (action != Engine::RecoveryAction::RolledBack)
     {
-        return true; // somebody else has taken the matter over
+        return true; // another process has handled it
     }
     note.Fail(Engine::UpdateFault::NewVersionFailed, 0);
     static_cast<void>(StartAgain(job, {}, report));

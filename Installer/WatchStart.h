@@ -1,5 +1,5 @@
-// WatchStart.h: starting what an update leaves, and standing by a new version that has yet to tell that it started
-// well. Thread: the process' only one. Ownership: descriptors stay the caller's.
+// WatchStart.h: starts the bundle after an update, and watches a new version that must confirm a good start. Thread:
+// the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateFault.h"
@@ -21,22 +21,22 @@ using Arguments = std::vector<std::string>;
 struct StartedBundle
 {
     pid_t process;
-    std::string path; ///< the bundle's real one
+    std::string path; ///< the bundle's real path
 };
 
 using StartResult = std::variant<StartedBundle, Engine::UpdateRefusal>;
 
-/// Starts the answered path if that can be done, else the installed bundle, with \a arguments, and reports it; why not
-/// when neither starts.
+/// Starts the answered path if possible, otherwise the installed bundle, with \a arguments, and reports it. The result
+/// says why neither started.
 StartResult StartAgain(Engine::InstallJob const& job, Arguments const& arguments, ReportChannel const& report);
 
-/// True when the update of \a job is installed and its start is the host's to confirm, as far as can be told.
+/// True if the update of \a job is installed and the host must confirm its start, as far as this can be read.
 [[nodiscard]] bool AwaitsConfirmation(Engine::InstallJob const& job, int parentFd);
 
-/// Starts the new version with \a arguments and answers once its start is confirmed, or a person has ended it. When it
-/// fails (it does not start, or ends by itself with another status than 0) it is started once more; when that fails
-/// too, the previous version is put back and started without them, and \a note says so. False when it was. REQUIRES:
-/// AwaitsConfirmation.
+/// Starts the new version with \a arguments. Returns true once its start is confirmed, or a person has ended it. If it
+/// fails (it does not start, or ends by itself with a status other than 0), it is started once more. If that fails too,
+/// the previous version is restored and started without the arguments, \a note records this, and the result is false.
+/// REQUIRES: AwaitsConfirmation.
 [[nodiscard]] bool StartAndWatch(Engine::InstallJob const& job, Arguments const& arguments, int parentFd,
                                  ReportChannel const& report, OutcomeNote& note);
 

@@ -1,4 +1,4 @@
-// The installer's helper. It takes one word, "prepare", "install", "recover" or "rehearse", and everything else from
+// The installer's helper. It takes one word, "prepare", "install", "recover" or "rehearse"; everything else comes from
 // inherited descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other
 // argument.
 
@@ -23,7 +23,7 @@
 #include <unistd.h>
 
 #if __has_feature(address_sanitizer)
-/// A process that is confined, or traced, cannot be searched for leaks at its end; all other checks stay on.
+/// The leak checker cannot examine a confined or traced process at its end; all other checks stay on.
 extern "C" int __lsan_is_turned_off()
 {
     return 1;
@@ -42,8 +42,8 @@ constexpr int EXIT_REFUSED = 1;
 constexpr int EXIT_USAGE = 2;
 constexpr mode_t CREATION_MASK = 022;
 
-/// Starts this program again without environment: nothing that was set for the host, above all nothing that its
-/// dynamic loader obeys, goes with it.
+/// Starts this program again without an environment, so that no variable of the host affects it, especially none of the
+/// dynamic loader.
 void DropEnvironment(char** arguments)
 {
     if (*environ)
@@ -54,8 +54,8 @@ void DropEnvironment(char** arguments)
     }
 }
 
-/// The standard streams exist, nothing inherited goes on to a program started from here, and what was not announced is
-/// closed.
+/// Ensures that the standard streams exist, keeps inherited descriptors from programs started here, and closes
+/// descriptors that were not announced.
 void SettleDescriptors()
 {
     for (int descriptor = 0; descriptor < HelperDescriptors::JOB; ++descriptor)
@@ -128,7 +128,7 @@ Job ReadJobOfKind()
 
 bool Prepare(Installer::ReportChannel& report)
 {
-    // Nobody reads the report any more when the host has gone: then SIGPIPE ends this process, which is right.
+    // After the host's end no process reads the report: SIGPIPE then ends this process, as intended.
     auto const job = ReadJobOfKind<Engine::PrepareJob>();
     RequireStaging();
     bool const hasTarget = job.kind != Engine::PayloadKind::WholeBundle;
@@ -144,9 +144,9 @@ bool Prepare(Installer::ReportChannel& report)
 
 bool Install(Installer::ReportChannel& report)
 {
-    // The host is expected to go, and its session with it.
+    // The host will end, and its session with it.
     ::signal(SIGPIPE, SIG_IGN);
-    ::signal(SIGCHLD, SIG_DFL); // who ignores it is not told how a child has ended
+    ::signal(SIGCHLD, SIG_DFL); // if it is ignored, the system does not report how a child has ended
     ::setsid();
     auto const job = ReadJobOfKind<Engine::InstallJob>();
     RequireFolder(HelperDescriptors::PARENT);
@@ -204,7 +204,7 @@ int main(int count, char** arguments)
     DropEnvironment(arguments);
     SettleDescriptors();
     ::umask(CREATION_MASK);
-    ::signal(SIGXFSZ, SIG_IGN); // a file that may not grow is an error of the call that writes it
+    ::signal(SIGXFSZ, SIG_IGN); // a file that may not grow causes an error of the writing call
     if (::chdir("/") != 0)
     {
         return EXIT_USAGE;
@@ -218,7 +218,7 @@ int main(int count, char** arguments)
     {
         report.Send(Engine::RefusedReport{refusal.Fault(), refusal.ErrorNumber()});
     }
-    catch (std::exception const&) // memory ran out
+    catch (std::exception const&) // out of memory
     {
         report.Send(Engine::RefusedReport{UpdateFault::DiskError, ENOMEM});
     }

@@ -26,7 +26,7 @@ namespace
 using Engine::UniqueFd;
 
 constexpr std::size_t USER_ENTRY_BYTES = std::size_t{64} << 10;
-constexpr int LONGEST_NAME = 200; ///< leaves room below what file systems allow
+constexpr int LONGEST_NAME = 200; ///< leaves space below the limit of file systems
 constexpr int KEPT_OF_LONG_NAME = 120;
 
 std::string AbsolutePathIn(char const* variable)
@@ -65,7 +65,7 @@ bool IsOpenToOthers(int folder, struct stat const& status)
     {
         return false;
     }
-    // A group without another member counts as nobody.
+    // A group without other members is safe.
     Engine::FolderFinding const finding = Engine::LookUpToTheRoot(folder);
     return finding.safety != Engine::FolderSafety::Safe && finding.path == Engine::RealPathOf(folder);
 }
@@ -168,7 +168,7 @@ OpenedFolder OpenApplicationFolder(ApplicationFolder const& place, MissingFolder
     {
         return Failed(errno, place.base);
     }
-    // What the administrator leaves in a person's home, the person cannot change any more.
+    // The person could no longer change files that the administrator leaves in their home.
     if (status.st_uid != ::geteuid() && status.st_uid != 0)
     {
         return Refused(EPERM, place.base, "belongs to another user");

@@ -1,6 +1,6 @@
-// ApplicationFolder.h: where an application keeps what belongs to one person: settings, state and caches, each in a
-// folder named after the bundle's identifier, as the XDG rules say. Linux.
-// Thread: any; BaseFolderPath() and FolderOf() read the environment. Ownership: values; descriptors are the caller's.
+// ApplicationFolder.h: the folders of an application for one person: settings, state and caches. Each is named after
+// the bundle's identifier, by the XDG rules. Linux. Thread: any; BaseFolderPath() and FolderOf() read the environment.
+// Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
@@ -19,27 +19,27 @@ enum class BaseFolder
     Cache,  ///< XDG_CACHE_HOME
 };
 
-/// The folder that the environment names, or the usual one in the person's home; a relative value is ignored. Empty
-/// when the person has no home.
+/// The folder that the environment names, or the default one in the person's home; a relative value is ignored. Empty
+/// if the person has no home.
 std::string BaseFolderPath(BaseFolder base);
 
-/// The name of the folder of the application \a bundleIdentifier: one name that leads nowhere else, no matter what the
-/// identifier says. Without an identifier it is made of the name of the program's file.
+/// The name of the folder of the application \a bundleIdentifier: one name that stays inside the base folder, for any
+/// identifier. Without an identifier it is made from the name of the program's file.
 std::string ApplicationFolderName(QString const& bundleIdentifier);
 
-/// One of an application's folders. It need not exist.
+/// One of an application's folders. It may be missing.
 struct ApplicationFolder
 {
-    std::string base; ///< absolute; empty when there is none
+    std::string base; ///< absolute; empty if there is none
     std::string name;
 
     std::string Path() const { return base + '/' + name; }
 };
 
-/// REQUIRES: nobody changes the environment meanwhile.
+/// REQUIRES: no thread changes the environment meanwhile.
 ApplicationFolder FolderOf(BaseFolder base, QString const& bundleIdentifier);
 
-/// The name of the program's file, by which name or link it may have been started.
+/// The name of the program's file, independent of the name or link by which it was started.
 std::string RunningProgramName();
 
 enum class MissingFolder
@@ -48,16 +48,16 @@ enum class MissingFolder
     Leave,
 };
 
-/// An open folder, or why there is none.
+/// An open folder, or why it is not open.
 struct OpenedFolder
 {
     Engine::UniqueFd folder;
-    int errorNumber = 0; ///< ENOENT when it is missing
-    std::string reason;  ///< for the log; empty when the folder is open
+    int errorNumber = 0; ///< ENOENT if it is missing
+    std::string reason;  ///< for the log; empty if the folder is open
 };
 
-/// Opens the application's folder, without following a link that stands in its place. Refused is a folder that belongs
-/// to another user or that others can change. A missing one is made for this user alone.
+/// Opens the application's folder without following a link in its place. Refuses a folder that belongs to another user
+/// or that others can change. A missing folder is created for this user alone.
 OpenedFolder OpenApplicationFolder(ApplicationFolder const& place, MissingFolder missing);
 
 } // namespace Pelnar::Settings

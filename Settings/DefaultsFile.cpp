@@ -43,7 +43,7 @@ struct ReadFile
     {
         Missing,
         Good,
-        Unusable, ///< it will never do
+        Unusable, ///< permanently
         Unreadable,
     };
 
@@ -98,7 +98,7 @@ ReadFile ReadOpenFile(UniqueFd const& file, std::size_t maxBytes)
 
 ReadFile ReadFileAt(int folder, std::string const& name, std::size_t maxBytes)
 {
-    // A FIFO in the file's place must not hold the process up.
+    // A FIFO in the file's place must not block the process.
     UniqueFd const file(::openat(folder, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
     if (file)
     {
@@ -122,7 +122,7 @@ bool IsTaken(DefaultsEntries const& entries)
     return found != entries.end() && MeaningOf(found->second, key.type) == QVariant(true);
 }
 
-/// Puts into \a entries what the earlier files know beyond them; says whether every one could be asked.
+/// Adds values of the earlier files that \a entries do not have. Returns true if every file could be read.
 [[nodiscard]] bool AddEarlier(DefaultsEntries& entries, QStringList const& earlierFiles)
 {
     bool isComplete = true;
@@ -150,7 +150,7 @@ bool IsTaken(DefaultsEntries const& entries)
     return isComplete;
 }
 
-/// Takes over what earlier versions left, and marks that it is done.
+/// Copies the values of earlier versions, and marks that this is done.
 void TakeEarlier(DefaultsEntries& entries, QStringList const& earlierFiles)
 {
     if (!earlierFiles.isEmpty() && !IsTaken(entries) && AddEarlier(entries, earlierFiles))
@@ -159,7 +159,7 @@ void TakeEarlier(DefaultsEntries& entries, QStringList const& earlierFiles)
     }
 }
 
-/// Between the reading and the writing no other process of this user may write. One that hangs cannot hold this one.
+/// Between reading and writing no other process of this user may write. A hanging process cannot block this one.
 class FolderLock
 {
 public:
@@ -189,11 +189,11 @@ public:
         }
     }
 
-    /// Why there is no lock; empty when it is held.
+    /// Why there is no lock; empty if it is held.
     std::string const& Failure() const { return m_failure; }
 
 private:
-    /// For file systems of a network that know no other locks.
+    /// For network file systems that have no other locks.
     void LockByName(std::string const& folder)
     {
         m_named = std::make_unique<QLockFile>(QFile::decodeName((folder + '/' + LOCK_FILE + ".name").c_str()));
@@ -214,7 +214,7 @@ bool NotSaved(std::string const& place, std::string const& reason)
     return false;
 }
 
-/// What is not ours to change gets another name, so that nobody loses it.
+/// An object that must not be changed is renamed, so that its content is not lost.
 bool HasRoom(int folder, ReadFile const& file, std::string const& place)
 {
     if (file.state == ReadFile::State::Unreadable)
@@ -252,7 +252,7 @@ DefaultsEntries ReadDefaults(ApplicationFolder const& place, QStringList const& 
     }
     if (!IsTaken(entries))
     {
-        (void)AddEarlier(entries, earlierFiles); // the next change takes them over
+        (void)AddEarlier(entries, earlierFiles); // the next change copies them
     }
     return entries;
 }

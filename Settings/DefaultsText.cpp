@@ -73,7 +73,7 @@ void Append(std::string& out, PropertyListValue const& value, int depth)
     }
 }
 
-/// Without the sign by which the old style marks a number, a truth value or a date.
+/// Without the prefix with which the old style marks a number, a truth value or a date.
 QString PlainTextOf(std::string const& text)
 {
     constexpr std::string_view MARKS[] = {"*I", "*R", "*D"};

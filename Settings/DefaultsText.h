@@ -1,5 +1,4 @@
-// DefaultsText.h: user defaults as the text of a property list, and what one of its values means.
-// Thread: any; no state. Ownership: values only.
+// DefaultsText.h: user defaults as the text of a property list, and the meaning of one value. Pure functions.
 #pragma once
 
 #include "Engine/core/payload/PropertyList.h"
@@ -15,17 +14,17 @@
 namespace Pelnar::Settings
 {
 
-/// Every entry of the list, those that nobody here knows included.
+/// Every entry of the list, including unknown ones.
 using DefaultsEntries = std::map<std::string, Engine::PropertyListValue>;
 
-/// Nothing for text that is no dictionary; an empty text is an empty dictionary.
+/// Empty for text that is not a dictionary; an empty text is an empty dictionary.
 std::optional<DefaultsEntries> ParseDefaults(std::string_view text);
 
-/// One entry a line, for a person to read and to change.
+/// One entry on each line, for a person to read and change.
 std::string FormatDefaults(DefaultsEntries const& entries);
 
-/// The value as \a type has it: text, a boolean, a number (qlonglong) or a time. What is of another type comes as the
-/// text that it is, or as a null value of type list when it is no text.
+/// The value as \a type: text, a boolean, a number (qlonglong) or a time. A value of another type becomes its text, or
+/// a null value of type list if it is not text.
 QVariant MeaningOf(Engine::PropertyListValue const& value, Core::SettingType type);
 
 /// The entry that MeaningOf() reads as \a value.

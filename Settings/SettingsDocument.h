@@ -1,5 +1,4 @@
-// SettingsDocument.h: the page about all settings, made from their table.
-// Thread: any; no state. Ownership: values only.
+// SettingsDocument.h: the page about all settings, generated from their table. Pure functions.
 #pragma once
 
 #include <string>

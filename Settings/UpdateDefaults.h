@@ -1,7 +1,6 @@
 // UpdateDefaults.h: the user defaults of the update checker: on Linux a file in the person's XDG folders, on macOS the
-// user defaults of the application. Plain C++.
-// Thread: any; several processes of one application may save at once. Ownership: values; what is remembered belongs to
-// the process.
+// user defaults of the application. Plain C++. Thread: any; several processes of one application may save at the same
+// time. Ownership: the process owns remembered values.
 #pragma once
 
 #include "common/SettingKeys.h"
@@ -19,21 +18,21 @@ namespace Pelnar::Settings
 class UpdateDefaults
 {
 public:
-    /// A value of no type takes the key away.
+    /// An empty value removes the key.
     using Changes = std::map<Core::Setting, QVariant>;
 
-    /// The defaults of the application \a bundleIdentifier. \a earlierFiles are property lists of earlier versions:
-    /// what they know of the keys is taken over once, the first ones first, and only where there is no value yet. They
-    /// are never changed.
+    /// The defaults of the application \a bundleIdentifier. \a earlierFiles are property lists of earlier versions.
+    /// Their values are copied once, earlier files first, and only for keys without a value. The files are never
+    /// changed.
     explicit UpdateDefaults(QString const& bundleIdentifier, QStringList earlierFiles = {});
 
-    /// Nothing without the key; a value of the wrong type is a text or a list.
+    /// Empty without the key; a value of the wrong type is a text or a list.
     QVariant Value(Core::Setting setting) const;
 
-    /// Has Value() answer \a changes from now on, in the whole process. Nothing is on the disk yet.
+    /// Makes Value() return \a changes from now on, in the whole process. Nothing is on the disk yet.
     void Remember(Changes const& changes);
-    /// Puts what is remembered on the disk, beside what other processes have saved meanwhile. When that fails, which
-    /// the log says, it stays remembered.
+    /// Writes the remembered values to the disk, and keeps what other processes have saved meanwhile. If this fails,
+    /// the log says so and the values stay remembered.
     [[nodiscard]] bool Save();
 
 private:

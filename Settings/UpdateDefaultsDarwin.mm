@@ -52,7 +52,7 @@ id ObjectFor(QVariant const& value)
 
 } // namespace
 
-/// The system names the user defaults after the bundle, and nothing has stood elsewhere.
+/// The system names the user defaults after the bundle, and no values are elsewhere.
 UpdateDefaults::UpdateDefaults(QString const&, QStringList) {}
 
 QVariant UpdateDefaults::Value(Core::Setting setting) const

@@ -9,7 +9,7 @@ namespace Pelnar::Settings
 namespace
 {
 
-/// What is not on the disk yet, or cannot be brought there, of each application.
+/// The values of each application that are not on the disk yet, or cannot be written.
 struct Remembered
 {
     std::mutex mutex;
@@ -29,7 +29,7 @@ UpdateDefaults::Changes ChangesOf(std::string const& application)
     return remembered.changes[application];
 }
 
-/// What has been remembered again meanwhile stays.
+/// Values that were remembered again meanwhile stay.
 void Forget(std::string const& application, UpdateDefaults::Changes const& saved)
 {
     Remembered& remembered = InThisProcess();

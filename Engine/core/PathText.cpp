@@ -12,14 +12,14 @@ constexpr ushort FIRST_SURROGATE = 0xDC80; ///< for the byte 0x80
 constexpr ushort LAST_SURROGATE = 0xDCFF;
 constexpr int FIRST_BYTE = 0x80;
 
-/// The one character that the text begins with and its bytes; nothing when it begins with no character.
+/// The one character at the start of the text, and its number of bytes; empty if the text starts with an invalid byte.
 QString FirstCharacter(std::string const& bytes, std::size_t begin, std::size_t& size)
 {
     std::size_t const most = std::min(MAX_CHARACTER_BYTES, bytes.size() - begin);
     for (size = 1; size <= most; ++size)
     {
         QByteArray const piece(bytes.data() + begin, static_cast<int>(size));
-        // A text that begins with the mark of its byte order loses it; with a letter before it, it does not begin so.
+        // A text that begins with a byte order mark loses it. A letter in front prevents this.
         QString const text = QString::fromUtf8('x' + piece).mid(1);
         if (text.toUtf8() == piece)
         {

@@ -1,6 +1,5 @@
-// PathText.h: paths as texts, and back. A path on Linux is bytes, of any kind: what is no UTF-8 in them becomes
-// unpaired surrogates, U+DC80 to U+DCFF, of which no text has any.
-// Thread: any; no state. Ownership: values only.
+// PathText.h: converts paths to texts and back. A path on Linux is any sequence of bytes. Bytes that are not UTF-8
+// become unpaired surrogates, U+DC80 to U+DCFF, which no text contains. Pure functions.
 #pragma once
 
 #include <QString>
@@ -11,7 +10,7 @@ namespace Pelnar::Engine
 {
 
 QString PathText(std::string const& bytes);
-/// The bytes of which PathText made the text; of any other text its UTF-8.
+/// The bytes from which PathText made the text; for any other text its UTF-8.
 std::string PathBytes(QString const& text);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,5 @@
-// SafeText.h: which characters of others' texts are shown to a person or written to a log: one rule for all places.
-// Thread: any; no state. Ownership: values only.
+// SafeText.h: which characters of foreign texts are shown to a person or written to a log: one rule for all places.
+// Pure functions.
 #pragma once
 
 #include <QChar>
@@ -8,19 +8,19 @@
 namespace Pelnar::Engine
 {
 
-/// True for a character beyond ASCII as IsHidden().
+/// IsHidden() for a character beyond ASCII.
 [[nodiscard]] bool IsHiddenBeyondAscii(char32_t codePoint);
 
-/// True for a character that a person does not see, or that changes how others are seen. These are: controls (line ends
-/// and tabs too), line and paragraph separators, direction marks, joiners and other characters without a width,
-/// variation selectors, annotations, tags, single surrogates, private use, and numbers that Unicode gives no character.
-/// A place that wants line ends and tabs asks for them first.
+/// True for a character that is invisible, or that changes how others are displayed. These are: controls (including
+/// line ends and tabs), line and paragraph separators, direction marks, joiners and other characters of zero width,
+/// variation selectors, annotations, tags, single surrogates, private use, and unassigned code points that Unicode
+/// reserves as noncharacters. A caller that allows line ends and tabs tests for them first.
 [[nodiscard]] inline bool IsHidden(char32_t codePoint)
 {
     return codePoint < 0x20 || (codePoint >= 0x7F && IsHiddenBeyondAscii(codePoint));
 }
 
-/// The character at \a index and how many units it has; half a character is one of its own.
+/// The character at \a index and its number of units; an unpaired surrogate counts as one character.
 struct CodePoint
 {
     char32_t value = 0;
@@ -28,7 +28,7 @@ struct CodePoint
 };
 [[nodiscard]] CodePoint CodePointAt(ushort const* units, int index, int size);
 
-/// \a text with \a replacement in the place of each hidden character.
+/// \a text with \a replacement in place of each hidden character.
 [[nodiscard]] QString WithoutHidden(QString const& text, QChar replacement);
 
 } // namespace Pelnar::Engine

@@ -11,10 +11,10 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// As wide as its neighbours, and so with a blank of its own.
+/// As wide as its neighbours, so it includes its own blank.
 constexpr QChar IDEOGRAPHIC_FULL_STOP(0x3002);
 
-/// Deliberate: not QString::arg, which would look for places in what was put in before.
+/// Deliberate: not QString::arg, which would search for place markers in inserted values.
 QString Filled(QString const& text, QVector<QString> const& values)
 {
     QString filled;

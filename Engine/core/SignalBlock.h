@@ -1,6 +1,6 @@
-// SignalBlock.h: keeps every signal from the calling thread for a while: what it starts meanwhile, a thread or a
-// process, begins with none of the host's handlers able to run in it. Thread: the one whose signals are meant.
-// Ownership: a scope's object, which puts back what was blocked before.
+// SignalBlock.h: blocks every signal in the calling thread. A thread or a process that is started meanwhile begins with
+// all of them blocked, so none of the host's handlers can run in it. Thread: the one whose signals it blocks.
+// Ownership: a scope object; it restores the previous mask.
 #pragma once
 
 #include <csignal>

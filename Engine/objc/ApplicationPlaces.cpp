@@ -25,7 +25,7 @@ namespace
 
 using Settings::BaseFolder;
 
-/// The host may keep files of its own beside it, and others may be allowed to write there.
+/// The host may keep its own files next to it, and other users may be allowed to write there.
 constexpr char OWN_FOLDER[] = "updates";
 
 /// Empty for a person without a home.
@@ -42,7 +42,7 @@ std::string EarlierDownloadFolder(QString const& bundleIdentifier)
                         : base + "/pelnar-updates/" + QUrl::toPercentEncoding(bundleIdentifier, {}, ".").toStdString();
 }
 
-/// The folder beneath an application's own; made for this user alone.
+/// The engine's folder inside the application's folder; created for this user alone.
 UniqueFd OpenOwnFolder(BaseFolder base, QString const& bundleIdentifier)
 {
     MakeFoldersAbove(PathIn(base, bundleIdentifier));
@@ -77,7 +77,7 @@ void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString c
     MakeFoldersAbove(path);
     bool const isMoved = ::renameat2(AT_FDCWD, earlierPath.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
     PLOG_IF(WARNING, !isMoved && errno != EEXIST) << "The downloads in " << earlierPath << " are not taken over";
-    // The last application's is empty then.
+    // The parent folder is empty if this was the last application.
     static_cast<void>(::rmdir(earlierPath.substr(0, earlierPath.rfind('/')).c_str()));
 }
 

@@ -1,6 +1,5 @@
-// ApplicationPlaces_p.h: the folders in which the engine keeps what belongs to an application: archives and feeds that
-// can be had again, and what must outlive a cleared cache. Plain C++.
-// Thread: main. Ownership: values only.
+// ApplicationPlaces_p.h: the folders with the engine's files of an application: archives and feeds, which can be
+// downloaded again, and files that must outlive a cleared cache. Plain C++. Thread: main.
 #pragma once
 
 #include <QString>
@@ -8,15 +7,14 @@
 namespace Pelnar::Engine
 {
 
-/// Of the application \a bundleIdentifier, in the person's cache. What versions before this one left in their place
-/// there is moved into it, and their records of installations into the other folder.
+/// The folder of the application \a bundleIdentifier in the person's cache. Files of earlier versions are moved into
+/// it, and their records of installations into the state folder.
 QString DownloadFolderOf(QString const& bundleIdentifier);
 
-/// In the person's state: what is known of feeds and of installations.
+/// In the person's state folder: the records of feeds and of installations.
 QString StateFolderOf(QString const& bundleIdentifier);
 
-/// The file of what is known of the feed; empty, which the log says, where somebody else could put another one in its
-/// place.
+/// The file of the feed's record. Empty, with a log line, if another user could replace the file.
 QString FeedRecordFileOf(QString const& bundleIdentifier);
 
 } // namespace Pelnar::Engine

@@ -32,12 +32,12 @@ namespace
 
 constexpr long long MAX_FEED_BYTES = 1LL << 30;
 
-/// A record on its way to the disk, which a check that begins meanwhile must not miss.
+/// A record that is being written to the disk. A check that begins meanwhile must see it.
 struct WaitingRecord
 {
     std::mutex mutex;
     std::optional<FeedRecord> record;
-    bool isNew = false; ///< not taken by who writes
+    bool isNew = false; ///< the writing thread has not taken it
     bool isBeingWritten = false;
 };
 
@@ -59,7 +59,7 @@ FeedSigning ReadFeedSigning()
                                    ToQString(object).toLower())
                              : [object isKindOfClass:[NSNumber class]] && ![object boolValue];
     bool const isYes = isText ? [object boolValue] : [object isKindOfClass:[NSNumber class]] && [object boolValue];
-    // Deliberate: a misspelt entry asks for the safe side.
+    // Deliberate: a misspelt value selects the safe side.
     LOG_IF(WARNING, !isNo && !isYes) << "The setting " << KeyOf(Setting::RequiresSignedFeed).name
                                      << " is not a boolean and counts as YES";
     return isNo ? FeedSigning::NotAsked : FeedSigning::Required;
@@ -82,7 +82,7 @@ FeedPlatform ReadPlatform()
 QString ReadSkippedVersion()
 {
     QString const version = SettingText(Setting::SkippedVersion);
-    // A comparator may call a text that is no version equal to every version; it would hide all updates for ever.
+    // A comparator may treat a text that is not a version as equal to every version; it would hide all updates forever.
     bool const hasDigit =
         std::any_of(version.begin(), version.end(), [](QChar character) { return character.isDigit(); });
     if (!version.isEmpty() && !hasDigit)
@@ -150,7 +150,7 @@ RunningBundle ReadRunningBundle()
     return bundle;
 }
 
-/// Nil when the record has no such entry of that class.
+/// Nil if the record has no such entry of that class.
 id EntryOf(NSDictionary* record, NSString* name, Class kind)
 {
     id const entry = [record objectForKey:name];
@@ -163,7 +163,7 @@ id EntryOf(NSDictionary* record, NSString* name, Class kind)
     return entry;
 }
 
-/// What versions before this one kept in the user defaults; it counts until there is a file.
+/// The record of earlier versions in the user defaults; it counts until there is a file.
 FeedRecord ReadFeedRecordOfDefaults()
 {
     FeedRecord record;
@@ -187,7 +187,7 @@ FeedRecord ReadFeedRecordOfDefaults()
     return record;
 }
 
-/// One after the other, until none is new: a slow disk makes no crowd of writers.
+/// Writes one record after the other until no new one waits, so that a slow disk never has several writers.
 void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
 {
     WaitingRecord& waiting = Waiting();
@@ -201,7 +201,7 @@ void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
         lock.lock();
     }
     waiting.isBeingWritten = false;
-    // What no disk keeps is remembered as long as the process lives.
+    // A record that cannot be written stays in memory until the process ends.
     if (isKept)
     {
         waiting.record.reset();
@@ -210,7 +210,7 @@ void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
 
 QString RecordPath() { return FeedRecordFileOf(SettingText(Setting::BundleIdentifier)); }
 
-/// What earlier versions kept in a folder beside the user defaults, or in these.
+/// The record of earlier versions, in a folder next to the user defaults or in the user defaults.
 FeedRecord ReadEarlierFeedRecord()
 {
     QString const folder = ToQString(GSDefaultsRootForUser(NSUserName()));
@@ -248,7 +248,7 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.check.rootPublicKey = SettingText(Setting::RootPublicKey).toStdString();
     settings.check.bundleIdentifier = settings.bundle.identifier.toStdString();
     settings.automaticDownload = ReadAutomaticDownload();
-    // It does not matter which of the two says so: an administrator's word must not be undone by a default.
+    // Either place can disable updates: a user default must not undo an administrator's decision.
     bool const isDisabled = IsSettingTrueIn(SettingPlace::Information, Setting::UpdatesDisabled) ||
                             IsSettingTrueIn(SettingPlace::Defaults, Setting::UpdatesDisabled);
     settings.updates = isDisabled ? UpdateSwitch::Off : UpdateSwitch::On;
@@ -333,7 +333,7 @@ void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores)
         waiting.isNew = true;
         if (std::exchange(waiting.isBeingWritten, true))
         {
-            return; // who writes takes this one next
+            return; // the writing thread takes this record next
         }
     }
     chores.Run([path = RecordPath(), earlier = ReadEarlierFeedRecord()] { WriteWaitingRecords(path, earlier); });

@@ -1,6 +1,5 @@
-// BundleSettings_p.h: what the running bundle and the user defaults say about updates; the keys stand in
-// common/SettingKeys.h. Plain C++.
-// Thread: main. Ownership: values only.
+// BundleSettings_p.h: the update settings of the running bundle and of the user defaults; the keys are in
+// common/SettingKeys.h. Plain C++. Thread: main.
 #pragma once
 
 #include "Engine/core/check/KeptFeedFile.h"
@@ -13,31 +12,31 @@
 namespace Pelnar::Engine
 {
 
-/// The settings of a check of the feed at \a feedUrl, and of what it leads to.
+/// The settings for a check of the feed at \a feedUrl, and for its update.
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl);
 
-/// A bundle's path as PathText, without the stand-in by which a program that runs under an odd path is known to
-/// Foundation.
+/// A bundle's path as PathText. A program with a path that Foundation cannot use runs under a substitute path, which
+/// this replaces.
 QString BundlePathText(QString const& path);
 
-/// The running bundle's path and version; nothing when the program runs from no bundle that says a version.
+/// The running bundle's path and version; empty unless the program runs from a bundle that has a version.
 std::optional<StartedApplication> ReadStartedApplication();
 
-/// Empty when the bundle names no feed.
+/// Empty if the bundle names no feed.
 QUrl ReadFeedUrl();
 
 AutomaticDownload ReadAutomaticDownload();
 void WriteAutomaticDownload(AutomaticDownload value);
 
 void WriteSkippedVersion(QString const& version);
-/// Both have \a chores put it on the disk; it counts at once.
+/// For both, \a chores writes to the disk; the new value counts immediately.
 void WriteLastCheckTime(DiskChores& chores);
 void WriteBackOff(BackOffState const& state, DiskChores& chores);
-/// Where the feed of the last check is kept.
+/// The place of the last check's kept feed.
 FeedFolder ReadFeedFolder();
 FeedRecord ReadFeedRecord();
-/// Has \a chores store \a ours, unless another process of the application has stored a record of a later feed
-/// meanwhile. ReadFeedRecord() knows of it at once.
+/// Makes \a chores store \a ours, unless another process of the application has stored a record of a later feed
+/// meanwhile. ReadFeedRecord() returns it immediately.
 void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,5 @@
-// HelperLocation_p.h: where the installer's helper stands: at a fixed place relative to the engine's library, in the
-// build tree as in an installation. Plain C++. Thread: any. Ownership: values only.
+// HelperLocation_p.h: the path of the installer's helper: a fixed place relative to the engine's library, in the build
+// tree and in an installation. Plain C++. Thread: any.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,7 @@
 namespace Pelnar::Engine
 {
 
-/// Absolute; empty when the library does not know its own place.
+/// Absolute; empty if the library cannot find its own path.
 QString HelperProgram();
 
 } // namespace Pelnar::Engine

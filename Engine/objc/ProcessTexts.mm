@@ -1,7 +1,6 @@
-// ProcessTexts.mm: has Foundation take a command line and an environment that are in no encoding of its own. Foundation
-// makes strings of all of them when it is first used, and ends the process at one that makes none: a document's path,
-// say, that is not in UTF-8.
-// Thread: the one that loads the library. Ownership: none.
+// ProcessTexts.mm: lets Foundation accept a command line and an environment with texts outside its encoding. At its
+// first use Foundation makes strings of all these texts, and ends the process at the first one that it cannot convert,
+// such as a document's path that is not UTF-8. Thread: the one that loads the library.
 
 #import <Foundation/Foundation.h>
 
@@ -21,12 +20,11 @@ namespace
 using MakeText = id (*)(id, SEL, char const*);
 using MakeEncodedText = id (*)(id, SEL, char const*, NSStringEncoding);
 
-// Foundation's own. The program's name is made by the first, all else by the second.
+// Foundation's own methods. The first converts the program's name, the second all other texts.
 MakeText makeText = nullptr;
 MakeEncodedText makeEncodedText = nullptr;
 
-/// A text that is in no encoding of Foundation's is read byte by byte. The call that made nothing has used up its
-/// object.
+/// A text outside Foundation's encoding is read byte by byte. The failed call has consumed its object.
 id ReadByteByByte(char const* text)
 {
     return makeEncodedText([NSString alloc], @selector(initWithCString:encoding:), text, NSISOLatin1StringEncoding);
@@ -44,7 +42,7 @@ id MakeAnyEncodedText(id self, SEL name, char const* text, NSStringEncoding enco
     return made || !text ? made : ReadByteByByte(text);
 }
 
-/// Puts \a own in the place of Foundation's method, and returns that.
+/// Replaces Foundation's method with \a own, and returns the previous one.
 template <typename Make> Make Replace(SEL name, Make own)
 {
     Method const method = class_getInstanceMethod(object_getClass([NSString alloc]), name);
@@ -75,7 +73,8 @@ bool IsProcessPlain()
 
 @implementation PelnarProcessTexts
 
-/// Before Foundation is first used from here. What is not plain may still be in the encoding; then nothing changes.
+/// Runs before Foundation is first used from here. A text beyond ASCII may still be in Foundation's encoding; then
+/// nothing changes.
 + (void)load
 {
     if (IsProcessPlain())

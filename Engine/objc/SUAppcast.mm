@@ -37,7 +37,7 @@ class AppcastContents
         m_contents = std::make_shared<AppcastContents>();
         for (FeedItem const& item : items)
         {
-            // Thousands of items leave no more behind than one.
+            // Bounds the autoreleased objects of thousands of items.
             @autoreleasepool
             {
                 auto const object = Retained<SUAppcastItem>::Adopt([[SUAppcastItem alloc] initWithFeedItem:item]);

@@ -16,7 +16,7 @@ NSString* TextOrNil(QString const& text) { return text.isEmpty() ? nil : ToNSStr
 
 NSString* TextOr(QString const& text, NSString* otherwise) { return text.isEmpty() ? otherwise : ToNSString(text); }
 
-/// REQUIRES: \a value is made of strings, maps and lists only, as properties of a feed item are.
+/// REQUIRES: \a value consists only of strings, maps and lists, like the properties of a feed item.
 id ToFoundation(QVariant const& value)
 {
     if (value.type() == QVariant::Map)
@@ -91,8 +91,8 @@ class AppcastItemContents
     bool isDelta;
     bool isCritical;
     Retained<NSString> installationType;
-    /// Made when they are first asked for, which is seldom: a delta repeats all those of its item, and a feed may have
-    /// many of both.
+    /// Made at the first request, which is rare: a delta repeats all properties of its item, and a feed may have many
+    /// of both.
     NSDictionary* Properties()
     {
         std::call_once(propertiesMade,

@@ -1,5 +1,5 @@
-// SUAppcastItem_p.h: makes an item of the feed into an object; for the engine only.
-// Thread: main. Ownership: the caller owns what it allocates.
+// SUAppcastItem_p.h: makes an object of a feed item; for the engine only. Thread: main. Ownership: the caller owns what
+// it allocates.
 #pragma once
 
 #import <Sparkle/SUAppcastItem.h>
@@ -8,11 +8,11 @@
 
 @interface SUAppcastItem (Engine)
 
-/// Takes over everything that \a item says, its deltas included. The objects of the deltas are made here, once.
+/// Copies everything of \a item, including its deltas. The objects of the deltas are created here, once.
 - (id)initWithFeedItem:(Pelnar::Engine::FeedItem const&)item;
-/// The object of delta number \a position of the item that this one was made of.
+/// The object of delta number \a position of the item that this object was made of.
 - (SUAppcastItem*)deltaAtPosition:(size_t)position;
-/// The position of \a candidate, which is compared and never called, among the deltas; -1 when it is none of them.
+/// The position of \a candidate among the deltas; -1 if it is not one of them. It is compared and gets no message.
 - (int)positionOfDelta:(id)candidate;
 
 @end

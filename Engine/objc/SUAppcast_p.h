@@ -1,5 +1,5 @@
-// SUAppcast_p.h: makes the items of a feed into an appcast and tells which of them an object is; for the engine only.
-// Thread: main. Ownership: the caller owns what it allocates.
+// SUAppcast_p.h: makes an appcast of a feed's items, and finds the item of an object; for the engine only. Thread:
+// main. Ownership: the caller owns what it allocates.
 #pragma once
 
 #import <Sparkle/SUAppcast.h>
@@ -13,8 +13,8 @@
 
 - (id)initWithFeedItems:(std::vector<Pelnar::Engine::FeedItem> const&)items;
 - (SUAppcastItem*)itemAtPlace:(Pelnar::Engine::ItemPlace const&)place;
-/// Where \a candidate stands. It is compared and never called, since an object that is not of this appcast may be
-/// anything, even gone.
+/// The position of \a candidate. It is compared and gets no message, because an object from elsewhere may be of any
+/// class, even deallocated.
 - (std::optional<Pelnar::Engine::ItemPlace>)placeOfItem:(id)candidate;
 
 @end

@@ -1,5 +1,5 @@
-// SUUpdater_p.h: the updater's entries for tests and for the engine's plain C++ face; for the engine only.
-// Thread: main. Ownership: none.
+// SUUpdater_p.h: the updater's operations for tests and for the engine's plain C++ interface; for the engine only.
+// Thread: main.
 #pragma once
 
 #import <Sparkle/SUUpdater.h>
@@ -14,10 +14,10 @@ class IUserInterface;
 
 @interface SUUpdater (Engine)
 
-/// Takes the place of the limits that ship, the feed's size excepted, from the next check on.
+/// Replaces the default limits from the next check on, except the feed's size.
 - (void)setFetchLimits:(Pelnar::Engine::FetchLimits const&)limits;
 
-/// Take the place of what ships from the next check on; a null pointer puts what ships back. Not owned.
+/// Each replaces the default from the next check on; a null pointer restores the default. Not owned.
 - (void)setUpdateParts:(Pelnar::Engine::IUpdateParts*)parts;
 - (void)setUpdateWindows:(Pelnar::Engine::IUserInterface*)windows;
 

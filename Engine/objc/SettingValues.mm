@@ -19,8 +19,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Where earlier versions kept the defaults: in a file named after the program, or after the name that it was called
-/// by.
+/// The files of earlier versions: named after the program, or after the name by which it was started.
 QStringList EarlierDefaultsFiles()
 {
     QString const folder = ToQString(GSDefaultsRootForUser(NSUserName())) + QLatin1Char('/');
@@ -40,7 +39,7 @@ Settings::UpdateDefaults Defaults()
     return Settings::UpdateDefaults(SettingText(Setting::BundleIdentifier), EarlierDefaultsFiles());
 }
 
-/// Nil for no value at all; of no class that a setting has when it is not what the setting should be.
+/// Nil for no value. If the value has another type than the setting, an object of a class that no setting has.
 id ObjectOf(QVariant const& value, SettingType type)
 {
     if (!value.isValid())
@@ -68,8 +67,8 @@ id ObjectOf(QVariant const& value, SettingType type)
     return [NSNull null];
 }
 
-/// As Foundation looks defaults up, but for the application's own: what the command line says comes before them, what
-/// all applications of the person share and what the host registered comes behind.
+/// Foundation's order of lookup with the application's own values in the middle: first the command line, then the
+/// application, then values for all applications of the person and values that the host registered.
 id DefaultObject(Setting setting)
 {
     NSUserDefaults* const shared = [NSUserDefaults standardUserDefaults];
@@ -94,11 +93,11 @@ id ObjectIn(SettingPlace place, Setting setting)
                : [[[NSBundle mainBundle] infoDictionary] objectForKey:NameOfSetting(setting)];
 }
 
-/// One writer at a time: a slow disk makes no crowd of them, who would wait for each other's lock.
+/// One writer at a time, so that a slow disk never has several writers that wait for one lock.
 struct Saving
 {
     std::mutex mutex;
-    bool isAskedFor = false; ///< since the last saving has begun
+    bool isAskedFor = false; ///< since the last save began
     bool isUnderWay = false;
 };
 
@@ -115,7 +114,7 @@ void SaveUntilNothingIsNew(Settings::UpdateDefaults& defaults)
     while (std::exchange(saving.isAskedFor, false))
     {
         lock.unlock();
-        (void)defaults.Save(); // the log says what failed
+        (void)defaults.Save(); // the log has the failure
         lock.lock();
     }
     saving.isUnderWay = false;
@@ -157,7 +156,7 @@ QString SettingTextIn(SettingPlace place, Setting setting)
 
 bool IsSettingTrueIn(SettingPlace place, Setting setting)
 {
-    // A property list of the old style has no booleans, only text.
+    // A property list in the old style has no booleans, only text.
     id const object = ObjectIn(place, setting);
     if (!object)
     {
@@ -180,7 +179,7 @@ void SaveSettings(Settings::UpdateDefaults::Changes const& changes)
 {
     Settings::UpdateDefaults defaults = Defaults();
     defaults.Remember(changes);
-    (void)defaults.Save(); // the log says what failed
+    (void)defaults.Save(); // the log has the failure
 }
 
 void SaveSettingsLater(Settings::UpdateDefaults::Changes const& changes, DiskChores& chores)
@@ -193,7 +192,7 @@ void SaveSettingsLater(Settings::UpdateDefaults::Changes const& changes, DiskCho
         saving.isAskedFor = true;
         if (std::exchange(saving.isUnderWay, true))
         {
-            return; // who saves takes this next
+            return; // the saving thread takes this value next
         }
     }
     chores.Run([defaults]() mutable { SaveUntilNothingIsNew(defaults); });

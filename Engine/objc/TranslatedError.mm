@@ -10,7 +10,7 @@ using Pelnar::Foundation::ToNSString;
 namespace
 {
 
-/// Of the user information: what a log shows.
+/// A key of the user information; its value is shown in logs.
 NSString* const ENGLISH_DESCRIPTION_KEY = @"PelnarEnglishDescription";
 
 NSError* UnderlyingErrorOf(EngineError const& error)

@@ -27,7 +27,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// The updater that has been tied to the application object.
+/// The updater that is connected to the application object.
 Updater* runningUpdater = nullptr;
 
 } // namespace
@@ -107,7 +107,7 @@ void Updater::AttachToApplication()
     @autoreleasepool
     {
         std::optional<StartedApplication> const application = ReadStartedApplication();
-        // Otherwise, which is nearly always, no check has to wait.
+        // Otherwise, which is the usual case, no check has to wait.
         if (application && HasUnfinishedUpdate(application->bundlePath))
         {
             m_isRecovering = true;
@@ -144,7 +144,7 @@ void Updater::TellFailedInstallationLater()
 
 void Updater::TellFailedInstallation()
 {
-    // A check that is under way would be taken for the failed one. Its end leads here again.
+    // A person would mistake a running check for the failed one. Its end calls this function again.
     if (!m_isDelegateToBeTold || IsInProgress())
     {
         return;
@@ -201,7 +201,7 @@ void Updater::PrepareForCheck()
 
 void Updater::Abandon()
 {
-    // The application object forgets its routines when it has run them.
+    // The application object discards its routines after it has run them.
     Updater* const updater = std::exchange(runningUpdater, nullptr);
     updater->m_flow.reset();
     updater->m_startOwner.reset();
@@ -339,7 +339,7 @@ void Updater::CheckEnded()
 
 SUAppcastItem* Updater::ItemAt(ItemPlace const& place) const
 {
-    // Of the two that an update can be made of, only the first may be a delta.
+    // Of the two items for one update, only the first may be a delta.
     return m_fallback && !place.delta ? m_fallback.Get() : m_found.Get();
 }
 

@@ -1,6 +1,6 @@
-// Updater_p.h: what stands behind SUUpdater: the delegate, the settings, the check that runs and its update.
-// Thread: main, with Qt's event loop. Ownership: owned by its SUUpdater, to which it points back; it owns the flow, the
-// windows and the parts. The delegate is not retained. Objective-C++ only.
+// Updater_p.h: the implementation of SUUpdater: the delegate, the settings, the running check and its update. Thread:
+// main, with Qt's event loop. Ownership: its SUUpdater owns it, and it points back; it owns the flow, the windows and
+// the parts. The delegate is not retained. Objective-C++ only.
 #pragma once
 
 #import <Sparkle/Sparkle.h>
@@ -36,13 +36,13 @@ public:
     /// See Pelnar::ConfirmGoodStart.
     void ConfirmStart();
 
-    /// For tests: takes the place of what ships, from the next check on. The bundle's own feed size stays.
+    /// For tests: replaces the default limits from the next check on. The bundle's own feed size stays.
     void SetFetchLimits(FetchLimits const& limits) { m_fetchLimits = limits; }
-    /// For tests: take the place of what ships, from the next check on; a null pointer puts what ships back.
+    /// For tests: replaces the default from the next check on; a null pointer restores the default.
     void SetParts(IUpdateParts* parts) { m_testParts = parts; }
     void SetWindows(IUserInterface* windows) { m_testWindows = windows; }
 
-    /// Values that nothing reads but their own accessors.
+    /// Values that only their own accessors read.
     struct
     {
         BOOL automaticallyChecksForUpdates = NO;
@@ -50,17 +50,18 @@ public:
     } keptForTheInterface;
 
 private:
-    /// Ends the running check without a word: windows and sockets do not outlive the application object, this object
-    /// does.
+    /// Ends the running check without a notification: windows and sockets do not outlive the application object, but
+    /// this object does.
     static void Abandon();
-    /// Called early, and again whenever the application object may be a new one: ties this object to it, and finishes
-    /// or undoes an update that was interrupted.
+    /// Called early, and again when the application object may be a new one. It connects this object to the application
+    /// object, and finishes or undoes an interrupted update.
     void AttachToApplication();
     void TakeStart(StartOutcome const& outcome);
-    /// Tells of an installation that failed when nobody was there to hear of it, once no check is under way.
+    /// Reports a failed earlier installation once no check is in progress.
     void TellFailedInstallationLater();
     void TellFailedInstallation();
-    /// What a check needs and the application object must outlive, made once for each application object.
+    /// Creates the objects that a check needs and that the application object must outlive, once for each application
+    /// object.
     void PrepareForCheck();
     void StartFlow(CheckKind kind);
     IUpdateParts& Parts() { return m_testParts ? *m_testParts : *m_parts; }
@@ -90,20 +91,20 @@ private:
     std::optional<FetchLimits> m_fetchLimits;
     IUpdateParts* m_testParts = nullptr;
     IUserInterface* m_testWindows = nullptr;
-    Foundation::Retained<SUAppcast> m_appcast; ///< while a feed is dealt with
+    Foundation::Retained<SUAppcast> m_appcast; ///< while a feed is processed
     Foundation::Retained<SUAppcastItem> m_found;
     Foundation::Retained<SUAppcastItem> m_fallback;
-    std::unique_ptr<QObject> m_startOwner; ///< of what looks after the start, as long as the application object lives
+    std::unique_ptr<QObject> m_startOwner; ///< owns the work at the start, while the application object lives
     bool m_isRecovering = false;
-    QString m_failedVersion;                 ///< that was taken back for the running one
-    std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may tell of a failed version
+    QString m_failedVersion;                 ///< the version that was rolled back to the running one
+    std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may report a failed version
     std::unique_ptr<InstallMemory> m_memory;
-    bool m_isDelegateToBeTold = false; ///< of the installation that failed
+    bool m_isDelegateToBeTold = false; ///< about the failed installation
     std::unique_ptr<IUpdateParts> m_parts;
-    std::unique_ptr<DiskChores> m_chores; ///< what a check leaves to be written
+    std::unique_ptr<DiskChores> m_chores; ///< writes what a check stores
     std::unique_ptr<FeedStore> m_feedStore;
     std::unique_ptr<IUserInterface> m_windows;
-    std::unique_ptr<UpdateFlow> m_flow; ///< the first to go
+    std::unique_ptr<UpdateFlow> m_flow; ///< destroyed first
 };
 
 } // namespace Pelnar::Engine

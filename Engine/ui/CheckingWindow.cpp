@@ -14,7 +14,7 @@ CheckingWindow::CheckingWindow() : EngineWindow(QStringLiteral("PelnarEngine_che
                QCoreApplication::translate("PelnarEngine_CheckingWindow", "Checking for updates…"));
     AddProgressBar(QStringLiteral("PelnarEngine_progressBar"),
                    QCoreApplication::translate("PelnarEngine_CheckingWindow", "Checking for updates…"));
-    // Enter does not cancel: nobody means that.
+    // Enter does not cancel: no person intends that.
     AddAnswer(QStringLiteral("PelnarEngine_cancelButton"),
               QCoreApplication::translate("PelnarEngine_EngineWindow", "&Cancel"), ButtonPlace::End, cancel)
         ->setFocus();

@@ -1,5 +1,5 @@
-// DesktopWindows.h: the engine's windows on the desktop of the running application, and the end of its session there.
-// Thread: the Qt main thread, with an application object. Ownership: the caller's.
+// DesktopWindows.h: the engine's windows on the desktop, and the end of the desktop session. Thread: the Qt main
+// thread, with an application object. Ownership: the caller's.
 #pragma once
 
 #include "Engine/core/update/IUserInterface.h"
@@ -10,12 +10,12 @@
 namespace Pelnar::Engine
 {
 
-/// Windows in the language of the default locale whose links the desktop opens; the user interface of a program without
-/// one when the application object cannot show windows.
+/// Windows in the language of the default locale, whose links the desktop opens. If the application object cannot show
+/// windows, it returns the user interface without windows.
 std::unique_ptr<IUserInterface> MakeDesktopWindows();
 
-/// Calls \a ended when the desktop's session is about to end, for as long as the application object lives. A desktop
-/// that does not tell calls nothing.
+/// Calls \a ended when the desktop session is about to end, while the application object lives. On a desktop that does
+/// not report this, it calls nothing.
 void WatchSessionEnd(std::function<void()> ended);
 
 } // namespace Pelnar::Engine

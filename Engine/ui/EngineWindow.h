@@ -1,6 +1,7 @@
-// EngineWindow.h: what all windows of the engine share: texts beside an icon, a row of buttons, one answer.
-// It belongs to no window of the host, keeps no application alive, and takes the focus only when a person asked.
-// Thread: the Qt main thread. Ownership: the maker's; its texts are those of the language at that time.
+// EngineWindow.h: the common parts of all windows of the engine: texts next to an icon, a row of buttons, one answer.
+// It belongs to no window of the host, does not keep the application running, and takes the focus only if a person
+// requested the check. Thread: the Qt main thread. Ownership: the maker's. Its texts are in the language of its
+// creation time.
 #pragma once
 
 #include "Engine/core/update/WindowContent.h"
@@ -24,17 +25,17 @@ class EngineWindow : public QDialog
     Q_OBJECT
 
 public:
-    /// Shows the window: in front and with the focus when a person asked for the check, else without either.
+    /// Shows the window: in front and with the focus if a person requested the check, otherwise without both.
     void Present();
     void BringToFront();
 
-    /// Esc and the close button are an answer too: each window says which.
+    /// Esc and the close button are an answer too: each window defines which.
     void reject() override;
 
 protected:
     enum class ButtonPlace
     {
-        Start, ///< apart from the answers that go on
+        Start, ///< separate from the answers that continue
         End,
     };
 
@@ -42,23 +43,23 @@ protected:
 
     QLabel* AddHeading(QString const& objectName, QString const& text);
     QLabel* AddText(QString const& objectName, QString const& text);
-    /// A text that is not of the language of the windows; it keeps its own direction.
+    /// A text that is not in the language of the windows; it keeps its own direction.
     QLabel* AddGivenText(QString const& objectName, QString const& text);
-    /// Makes a text of ours run in the direction of the windows even when it starts with a name in other letters.
+    /// Gives an own text the direction of the windows, even if it starts with a name in another script.
     [[nodiscard]] QString Directed(QString const& text) const;
     QProgressBar* AddProgressBar(QString const& objectName, QString const& accessibleName);
     void AddContent(QWidget* widget);
-    /// Buttons are added from the first to the last in reading direction; a click gives the answer \a onClicked.
+    /// Buttons are added from first to last in reading direction; a click gives the answer \a onClicked.
     QPushButton* AddAnswer(QString const& objectName, QString const& text, ButtonPlace place,
                            std::function<void()> onClicked);
-    /// "OK", for a window that leaves no choice; Enter, Esc and the close button give it too.
+    /// "OK", for a window with one choice; Enter, Esc and the close button give it too.
     void AddOnlyAnswer(std::function<void()> const& onGiven);
     /// The answer of Esc and of the close button.
     void SetDismissal(std::function<void()> onDismissed);
-    /// The button that Enter presses in a window that a person asked for; otherwise \a quiet has the focus.
+    /// The button that Enter presses in a window that a person requested; in other windows \a quiet has the focus.
     void SetDefaultAnswer(QPushButton* button, QWidget* quiet);
     void ShowWarningIcon();
-    /// After a change of content: nothing is cut off, and the window never shrinks under the pointer.
+    /// After a change of content: the window grows so that nothing is cut off. It never shrinks under the pointer.
     void GrowToContent();
 
 private:

@@ -14,7 +14,7 @@ ErrorWindow::ErrorWindow(Sentence const& sentence)
     ShowWarningIcon();
     AddHeading(QStringLiteral("PelnarEngine_heading"),
                QCoreApplication::translate("PelnarEngine_ErrorWindow", "The update could not be completed"));
-    // The sentence may name a command to use.
+    // The sentence may contain a command to copy.
     AddText(QStringLiteral("PelnarEngine_detail"), ShownSentence(sentence, layoutDirection()))
         ->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     AddOnlyAnswer([this] { Q_EMIT Closed(); });

@@ -37,7 +37,7 @@ void NotesBrowser::ActivateIfSafe(QUrl const& address)
     }
 }
 
-/// A person sees where a link leads before clicking it. An encoded address holds no markup.
+/// A person sees the target of a link before a click. An encoded address contains no markup.
 void NotesBrowser::TellAddress(QUrl const& address)
 {
     setToolTip(QString::fromLatin1(SafeUrl(address).toEncoded()));

@@ -1,5 +1,5 @@
-// NotesBrowser.h: shows release notes. It loads nothing, from nowhere, and follows no link by itself: a clicked http,
-// https or mailto link is told by a signal. Thread: the Qt main thread. Ownership: by its parent.
+// NotesBrowser.h: shows release notes. It loads nothing and follows no link: a signal reports a clicked http, https or
+// mailto link. Thread: the Qt main thread. Ownership: by its parent.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"

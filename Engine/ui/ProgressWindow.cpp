@@ -38,13 +38,13 @@ ProgressWindow::ProgressWindow(NamedVersion const& update)
     m_amount = AddText(QStringLiteral("PelnarEngine_amount"),
                        QCoreApplication::translate("PelnarEngine_ProgressWindow", "Waiting for the server…"));
     m_speed = AddText(QStringLiteral("PelnarEngine_speed"), QString());
-    // They change all the time: a line that wraps now and then would make the window jump.
+    // These texts change all the time: with word wrap the window would jump.
     for (QLabel* const label : {m_amount, m_speed})
     {
         label->setWordWrap(false);
         label->setMinimumWidth(0);
     }
-    // Enter does not cancel: nobody means that.
+    // Enter does not cancel: no person intends that.
     AddAnswer(QStringLiteral("PelnarEngine_cancelButton"),
               QCoreApplication::translate("PelnarEngine_EngineWindow", "&Cancel"), ButtonPlace::End, cancel)
         ->setFocus();

@@ -1,5 +1,5 @@
-// ReadyWindow.h: an update is downloaded, verified and unpacked; installing it relaunches the application.
-// Thread: the Qt main thread. Ownership: the maker's.
+// ReadyWindow.h: offers to install an update that is downloaded, verified and unpacked; the installation restarts the
+// application. Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

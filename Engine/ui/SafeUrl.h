@@ -1,5 +1,4 @@
-// SafeUrl.h: the rule for links (Engine/core/notes/ReleaseNotesLink.h) on Qt's addresses.
-// Thread: any; no state. Ownership: values only.
+// SafeUrl.h: applies the rule for links (Engine/core/notes/ReleaseNotesLink.h) to QUrl. Pure functions.
 #pragma once
 
 #include <QUrl>
@@ -7,7 +6,7 @@
 namespace Pelnar::Engine
 {
 
-/// \a address in normal form; empty when it must not be followed.
+/// \a address in normal form; empty if it must not be followed.
 [[nodiscard]] QUrl SafeUrl(QUrl const& address);
 
 } // namespace Pelnar::Engine

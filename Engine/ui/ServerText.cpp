@@ -15,7 +15,7 @@ constexpr int MAX_INSERTED_CHARACTERS = 200;
 
 QString OneLine(QString const& text, int maxCharacters)
 {
-    // Twice what is shown leaves enough after blanks are joined; a megabyte is never read to its end.
+    // Twice the shown length is enough after blanks are joined; a megabyte is never read to its end.
     QString const start = text.left(2 * maxCharacters + 2);
     QString shown;
     for (int index = 0; index < start.size();)
@@ -62,7 +62,8 @@ QString ShownSentence(Sentence const& sentence, Qt::LayoutDirection direction)
         [direction](QString const& text)
         {
             QString const line = OneLine(text, MAX_INSERTED_CHARACTERS);
-            // Between words that run the other way, the slashes of a path and the dashes of a command would go astray.
+            // Between words of the other direction, the slashes of a path and the dashes of a command would be
+            // displayed in the wrong place.
             bool const isAgainstTheSentence = line.isRightToLeft() != (direction == Qt::RightToLeft);
             return isAgainstTheSentence ? QChar(FIRST_STRONG_ISOLATE) + line + QChar(END_OF_ISOLATE) : line;
         });

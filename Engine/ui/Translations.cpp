@@ -5,7 +5,8 @@
 
 #include <array>
 
-/// The library is linked statically, so nothing else makes its resources known. The macro does not work in a namespace.
+/// The library is linked statically, so its resources must be registered explicitly. The macro does not work in a
+/// namespace.
 static void InitTranslationResources()
 {
     Q_INIT_RESOURCE(engine_translations);

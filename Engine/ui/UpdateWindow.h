@@ -1,5 +1,5 @@
-// UpdateWindow.h: offers an update: what is new, how large it is, and whether to install it.
-// Thread: the Qt main thread. Ownership: the maker's.
+// UpdateWindow.h: offers an update: what is new, its size, and whether to install it. Thread: the Qt main thread.
+// Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"
@@ -18,7 +18,7 @@ class UpdateWindow : public EngineWindow
 public:
     UpdateWindow(UpdateOffer const& offer, CheckOrigin origin);
 
-    /// Shows \a notes in place of those before. Notes that stand elsewhere are offered by a button.
+    /// Shows \a notes in place of the previous ones. For notes at a link it shows a button.
     void SetReleaseNotes(ReleaseNotes const& notes);
 
 Q_SIGNALS:

@@ -30,7 +30,7 @@ void WidgetUserInterface::Show(Window* window, Signal answered, Callback callbac
     QObject::connect(window, answered, window,
                      [this, callback](auto... answer)
                      {
-                         // Both are kept from here on: the callback may show the next window or destroy this object.
+                         // Both are copied: the callback may show the next window or destroy this object.
                          Callback const kept = callback;
                          m_window.reset();
                          kept(answer...);

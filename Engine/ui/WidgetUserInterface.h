@@ -1,6 +1,5 @@
-// WidgetUserInterface.h: the user interface of windows.
-// Thread: the Qt main thread. Ownership: owns the window that is shown; a window that has gone is deleted by the event
-// loop, because it may still be in the middle of telling its answer.
+// WidgetUserInterface.h: the user interface with windows. Thread: the Qt main thread. Ownership: it owns the open
+// window. The event loop deletes a closed window, because it may still be delivering its answer.
 #pragma once
 
 #include "Engine/core/update/IUserInterface.h"
@@ -20,7 +19,7 @@ class UpdateWindow;
 class WidgetUserInterface final : public IUserInterface
 {
 public:
-    /// \a openLink hands an address that a person clicked to the desktop; http, https and mailto only.
+    /// \a openLink passes an address that a person clicked to the desktop; http, https and mailto only.
     explicit WidgetUserInterface(std::function<void(QUrl const&)> openLink);
     ~WidgetUserInterface() override;
 
@@ -42,7 +41,7 @@ private:
         void operator()(EngineWindow* window) const;
     };
 
-    /// Puts \a window in the place of the one before; its signal \a answered ends it and calls \a callback.
+    /// Replaces the open window with \a window. The window's signal \a answered ends it and calls \a callback.
     template <typename Window, typename Signal, typename Callback>
     void Show(Window* window, Signal answered, Callback callback);
 

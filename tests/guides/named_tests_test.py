@@ -73,6 +73,6 @@ if __name__ == "__main__":
     SOURCE, BUILD = (pathlib.Path(argument).resolve() for argument in sys.argv[1:3])
     TESTS, missing = tests_of(BUILD)
     if missing:
-        print(f"skipped: the test programs are not all built, so that their tests are not known: {' '.join(missing)}")
+        print(f"{__file__}:0: Skipped\nthe tests of programs that are not built are not known: {' '.join(missing)}")
         sys.exit(SKIPPED)
     unittest.main(argv=sys.argv[:1])

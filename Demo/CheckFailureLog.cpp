@@ -11,8 +11,8 @@ namespace
 
 constexpr std::string_view SESSION_FILE = "App/UpdateChecker/SparkleImpl/SparkleManager";
 
-/// The errors after which the answer "no update" means "not known". Not among them: two items of the same rank, and an
-/// item that turns out not to be newer.
+/// The errors after which "no update" means "unknown". Not included: two items of the same rank, and an item that is
+/// not newer.
 constexpr int FAILURE_LINES[] = {
     475, // no context
     484, // no callback to report to

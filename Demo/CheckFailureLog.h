@@ -1,9 +1,9 @@
-// CheckFailureLog.h: learns from the log that a check could not be completed.
-// Thread: records may come from any thread; read it on the main thread once the check is over. Ownership: a scope
-// object; it listens while it lives.
+// CheckFailureLog.h: finds out from the log that a check could not be completed. Thread: records may come from any
+// thread; read the result on the main thread once the check is over. Ownership: a scope object; it listens while it
+// lives.
 //
-// To its host every failed check is one that found nothing. The log tells the two apart: a record is known by its file
-// and line, which do not change.
+// To its host a failed check looks like one that finds nothing. The log distinguishes the two: a record is identified
+// by its file and line, which do not change.
 #pragma once
 
 #include <glog/logging.h>
@@ -22,10 +22,10 @@ public:
     CheckFailureLog(CheckFailureLog const&) = delete;
     CheckFailureLog& operator=(CheckFailureLog const&) = delete;
 
-    /// Takes no notice of later records: the search is over, what follows is the update dialog's business.
+    /// Ignores later records: the search is over, and the rest belongs to the update dialog.
     void StopListening();
 
-    /// What the first failure's record says, without the writing function's name; empty when nothing failed.
+    /// The text of the first failure's record, without the writing function's name; empty if nothing failed.
     std::string FirstFailure() const;
 
 private:

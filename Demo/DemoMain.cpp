@@ -1,6 +1,6 @@
-// DemoMain.cpp: pelnar-demo, a small real host application of the update checker, for people and for scripts.
-// From a bundle it is an application like any other, whose name and version are the bundle's; from elsewhere it keeps
-// user defaults of its own, which go with it.
+// DemoMain.cpp: pelnar-demo, a small real host application of the update checker, for people and for scripts. In a
+// bundle it is an ordinary application with the bundle's name and version. Elsewhere it uses temporary user defaults,
+// which are removed at its end.
 
 #include "Demo/DemoBundle.h"
 #include "Demo/DemoOptions.h"
@@ -76,11 +76,11 @@ int RunDemo(App::ReferenceApplication& application, DemoOptions const& options)
     bool const isDismissing = options.script == Script::CheckOnce || options.script == Script::ShowDialogs;
     WindowCamera camera(options.screenshotFolder, isDismissing ? WindowCamera::AfterPicture::DismissDialogs
                                                                : WindowCamera::AfterPicture::LeaveOpen);
-    // Dialogs without a title of their own bear it.
+    // Dialogs without a title use it.
     QGuiApplication::setApplicationDisplayName(QString::fromStdString(options.customization.displayName));
     DemoWindow window(options);
     window.show();
-    // When the event loop runs, the window is drawn and answers: that is a good start.
+    // When the event loop runs, the window is drawn and reacts: this is a good start.
     QTimer::singleShot(0, &window, [] { ConfirmGoodStart(); });
     ScriptRun script(application, window, camera, options);
     script.Start();
@@ -95,7 +95,7 @@ int Main(int argc, char** argv)
     {
         defaults.emplace();
     }
-    // Qt gets the program's name only: it would take --platform for an option of its own.
+    // Qt gets only the program's name: it would take --platform for its own option.
     int qtArgumentCount = 1;
     App::ReferenceApplication application(qtArgumentCount, argv);
     FLAGS_logtostderr = true;

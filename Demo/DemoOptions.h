@@ -1,5 +1,4 @@
 // DemoOptions.h: the command line of pelnar-demo.
-// Thread: any. Ownership: plain values.
 #pragma once
 
 #include "App/UpdateChecker/UpdateCheckMode.h"
@@ -18,18 +17,18 @@ namespace Pelnar::Demo
 enum class NagContent
 {
     Available, ///< a major update shows the nag screen
-    None,      ///< a major update takes the way of any other
-    Later,     ///< not known until the content arrives, some seconds after the start
+    None,      ///< a major update is handled like any other
+    Later,     ///< unknown until the content arrives, some seconds after the start
 };
 
 enum class Script
 {
     None,        ///< a person uses the window
     CheckOnce,   ///< one check, every dialog dismissed, then quit
-    ShowDialogs, ///< every dialog and the nag screen, dismissed at once, then quit
-    Start,       ///< the window alone, then quit
-    Answer,      ///< one check, the windows that it leads to answered by clicks, then quit
-    Update,      ///< the same, but it is the update that makes the application quit
+    ShowDialogs, ///< every dialog and the nag screen, dismissed immediately, then quit
+    Start,       ///< only the window, then quit
+    Answer,      ///< one check, its windows answered by clicks, then quit
+    Update,      ///< the same, but the update makes the application quit
 };
 
 struct DemoOptions
@@ -42,18 +41,18 @@ struct DemoOptions
     NagContent nagContent = NagContent::Available;
     Script script = Script::None;
     QString screenshotFolder;  ///< null: no pictures
-    std::vector<Click> clicks; ///< of Answer and Update
+    std::vector<Click> clicks; ///< for Answer and Update
 };
 
-/// What the program calls itself when it runs from no bundle.
+/// The name and version of the program outside a bundle.
 App::Customization UnbundledApplication();
 
-/// \a arguments begin with the program's name; \a application is what they need not say. Throws std::runtime_error
-/// whose text says what is wrong with them. Prints the help and ends the process when it is asked for.
+/// \a arguments begin with the program's name; \a application has the default values. Throws std::runtime_error whose
+/// text says what is wrong with the arguments. Prints the help and ends the process if an argument requests it.
 DemoOptions ParseDemoOptions(QStringList const& arguments, App::Customization const& application);
 
-/// \a arguments, or, when they are only the program's name, those of the environment variable PELNAR_DEMO_OPTIONS: an
-/// application that an update starts again gets no arguments, but the environment of the one before it.
+/// \a arguments, or, if they are only the program's name, those of the environment variable PELNAR_DEMO_OPTIONS: an
+/// application restarted by an update gets no arguments, but the environment of the previous process.
 QStringList ArgumentsOrEnvironment(QStringList const& arguments);
 
 } // namespace Pelnar::Demo

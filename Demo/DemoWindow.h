@@ -1,5 +1,5 @@
-// DemoWindow.h: the window of a small host application: its version, "Check for Updates…", and what observers are told.
-// Thread: the Qt main thread. Ownership: made and owned by the main function; it owns the checks that it starts.
+// DemoWindow.h: the window of a small host application: its version, "Check for Updates…", and the notifications of
+// observers. Thread: the Qt main thread. Ownership: the main function creates and owns it; it owns its checks.
 #pragma once
 
 #include "Demo/DemoOptions.h"
@@ -31,7 +31,7 @@ public:
     void AddLine(QString const& line);
 
 Q_SIGNALS:
-    /// The manager of a check is gone.
+    /// The manager of a check has been destroyed.
     void CheckEnded();
 
 private:

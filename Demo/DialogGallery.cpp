@@ -11,7 +11,7 @@ namespace Pelnar::Demo
 namespace
 {
 
-/// Two updaters at once: the second one is refused the session.
+/// Two updaters at the same time: the session refuses the second one.
 void ShowAlreadyRunning(App::ReferenceApplication const& application, QWidget* parent)
 {
     auto const makeUpdater = [&]

@@ -1,6 +1,5 @@
-// DialogGallery.h: shows every dialog of the update checker and the nag screen, one after the other.
-// Thread: the Qt main thread; each dialog runs a nested event loop, until somebody closes it. Ownership: nothing is
-// kept.
+// DialogGallery.h: shows every dialog of the update checker and the nag screen, one after the other. Thread: the Qt
+// main thread; each dialog runs a nested event loop until it is closed.
 #pragma once
 
 #include "HostFramework/Reference/ReferenceApplication.h"

@@ -1,6 +1,6 @@
-// EngineDefaults.h: what a demo host and the update engine tell each other through Foundation: user defaults and the
-// running bundle's information. Plain C++.
-// Thread: main. Ownership: values only; registered defaults last as long as the process and are never stored.
+// EngineDefaults.h: the values that a demo host and the update engine exchange through Foundation: user defaults and
+// the running bundle's information. Plain C++. Thread: main. Ownership: registered defaults last as long as the process
+// and are never stored.
 #pragma once
 
 #include <QString>
@@ -8,10 +8,10 @@
 namespace Pelnar::Demo
 {
 
-/// Which platform's items of a feed count: "macos" or "linux". The engine's own platform when it is not called.
+/// Selects the platform whose feed items count: "macos" or "linux". Without a call, the engine's own platform counts.
 void SetFeedPlatform(QString const& platform);
 
-/// The text under \a key in the running bundle's information file; empty when there is none.
+/// The text under \a key in the running bundle's information file; empty if there is none.
 QString BundleText(QString const& key);
 
 } // namespace Pelnar::Demo

@@ -1,7 +1,7 @@
-// PlainPathGnustep.cpp: lets the program start in every folder. GNUstep's Foundation ends a process, before its main
-// function, whose path is no UTF-8, and finds no bundle in a path with a backslash. Such a program starts itself again
-// by another name of its folder, "/proc/self/fd/N", and tells Foundation of that one.
-// Thread: the main one, before any library is initialized; no Qt, no memory is taken.
+// PlainPathGnustep.cpp: lets the program start in every folder. If a process's path is not UTF-8, GNUstep's Foundation
+// ends the process before its main function; in a path with a backslash it finds no bundle. Such a program restarts
+// itself through another name of its folder, "/proc/self/fd/N", and gives Foundation this name. Thread: the main one,
+// before any library is initialized; no Qt, no memory allocation.
 
 #include <cstdint>
 #include <cstdio>
@@ -21,9 +21,9 @@ namespace
 constexpr char PROGRAM[] = "/proc/self/exe";
 constexpr char ALIAS_FORMAT[] = "/proc/self/fd/%d/%s";
 
-/// The other name of the running program; empty when it needs none.
+/// The other name of the running program; empty if it needs none.
 char alias[PATH_MAX];
-std::size_t folderSize = 0; ///< of the part of it that is the folder's
+std::size_t folderSize = 0; ///< length of the folder's part of it
 
 bool IsPlain(char const* path)
 {
@@ -38,7 +38,7 @@ bool IsSameFile(char const* first, char const* second)
     return ::stat(first, &a) == 0 && ::stat(second, &b) == 0 && a.st_dev == b.st_dev && a.st_ino == b.st_ino;
 }
 
-/// Takes \a name for the alias if this process was started by it.
+/// Uses \a name as the alias if this process was started by it.
 bool TakeAlias(char const* name)
 {
     int folder = -1;
@@ -47,7 +47,7 @@ bool TakeAlias(char const* name)
     {
         return false;
     }
-    ::fcntl(folder, F_SETFD, FD_CLOEXEC); // what this program starts has no use for it
+    ::fcntl(folder, F_SETFD, FD_CLOEXEC); // programs started from here do not need it
     std::snprintf(alias, sizeof alias, "%s", name);
     folderSize = static_cast<std::size_t>(std::strrchr(alias, '/') - alias);
     return true;
@@ -77,7 +77,7 @@ __attribute__((section(".preinit_array"), used)) void (*const START)(int, char**
 
 } // namespace
 
-// Deliberate: in the place of the C library's, by which Foundation would learn where the program really is.
+// Deliberate: replaces the C library's function, which would show Foundation the program's real path.
 
 extern "C" __attribute__((visibility("default"))) ssize_t readlink(char const* path, char* buffer, std::size_t size)
 {
@@ -106,7 +106,7 @@ extern "C" __attribute__((visibility("default"))) char* realpath(char const* pat
     return resolved;
 }
 
-/// What a hardened library calls instead.
+/// The function that a hardened library calls instead.
 extern "C" __attribute__((visibility("default"))) char* __realpath_chk(char const* path, char* resolved, std::size_t)
 {
     return realpath(path, resolved);

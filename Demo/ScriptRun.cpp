@@ -15,7 +15,7 @@ namespace Pelnar::Demo
 namespace
 {
 
-/// For all of an update on a slow computer.
+/// For a whole update on a slow computer.
 constexpr std::chrono::seconds PATIENCE(90);
 
 QString VisibleWindows()
@@ -57,7 +57,7 @@ void ScriptRun::Start()
 {
     if (m_script != Script::None)
     {
-        // The last picture of the window holds all notifications.
+        // The last picture of the window contains all notifications.
         connect(&m_application, &QCoreApplication::aboutToQuit, this, [this] { m_camera.TakePicture(m_window); });
     }
     QTimer::singleShot(0, this, &ScriptRun::Begin);

@@ -1,5 +1,5 @@
-// ScriptRun.h: a demonstration that nobody has to attend: what pelnar-demo does by itself.
-// Thread: the Qt main thread. Ownership: the main function's; application, window and camera outlive it.
+// ScriptRun.h: a demonstration without a person: the automatic actions of pelnar-demo. Thread: the Qt main thread.
+// Ownership: the main function's; application, window and camera outlive it.
 #pragma once
 
 #include "Demo/DemoOptions.h"
@@ -29,7 +29,7 @@ public:
 
     /// Begins with the next pass of the event loop; the script ends the application.
     void Start();
-    /// False, and said on standard error, when the application ends before its script does.
+    /// False, with a message on standard error, if the application ends before its script.
     [[nodiscard]] bool IsComplete() const;
 
 private:

@@ -1,6 +1,6 @@
-// UpdateCheckMain.cpp: pelnar-update-check, a host without windows that runs one real check.
-// It needs no display and touches no settings of the person who runs it. Its gateway grants the update dialog at once;
-// what the dialog would open belongs to an event loop that has ended by then.
+// UpdateCheckMain.cpp: pelnar-update-check, a host without windows that runs one real check. It needs no display and
+// changes no settings of the person who runs it. Its gateway grants the update dialog immediately. Windows of the
+// dialog would need an event loop, which has ended by then.
 
 #include "Demo/CheckFailureLog.h"
 #include "Demo/CheckRun.h"
@@ -33,7 +33,7 @@ void PrintLine(std::FILE* stream, QByteArray const& line)
     std::fflush(stream);
 }
 
-/// Grants every request at once; the first one also tells that the search is over.
+/// Grants every request immediately; the first one also reports that the search is over.
 class TerminalGateway : public ExternalStimulus::IGateway
 {
 public:
@@ -56,7 +56,7 @@ private:
 App::ReferenceServices MakeServices(UpdateCheckOptions const& options)
 {
     auto const nagScreens = std::make_shared<App::NagScreen::ReferenceManager>();
-    // Without a nag screen a major update takes the way of any other, and observers hear its version.
+    // Without a nag screen a major update is handled like any other, and observers get its version.
     nagScreens->SetUnavailable(App::NagScreen::MajorUpdate);
     return {nagScreens,
             std::make_shared<App::ReferenceCustomizationManager>(
@@ -100,7 +100,7 @@ int RunCheck(App::ReferenceApplication& application, UpdateCheckOptions const& o
         check.checkMode = options.mode;
         check.observers = {&recorder};
         check.gateway = std::make_shared<TerminalGateway>(failures);
-        // The queued call runs inside exec, where leaving has an effect.
+        // The queued call runs inside exec, where quitting has an effect.
         QTimer::singleShot(0, &owner, [check] { StartCheck(check, [] { QCoreApplication::exit(); }); });
         QCoreApplication::exec();
     }
@@ -125,7 +125,7 @@ int RunCheck(App::ReferenceApplication& application, UpdateCheckOptions const& o
     return ExitStatusOf(outcome, options.outcomeInExitStatus);
 }
 
-/// What Qt has to say goes to the log, which is quiet unless it is asked for: the program's own lines stand alone.
+/// Qt's messages go to the log, which is quiet by default: only the program's own lines appear.
 void WriteQtMessage(QtMsgType type, QMessageLogContext const&, QString const& message)
 {
     google::LogSeverity const severity = type == QtFatalMsg      ? google::GLOG_FATAL
@@ -155,10 +155,10 @@ void SpeakUp()
 int Main(int argc, char** argv)
 {
     StartQuietLogging(argv[0]);
-    qunsetenv("XDG_CACHE_HOME"); // what this program fetches is not kept
+    qunsetenv("XDG_CACHE_HOME"); // this program keeps no fetched files
     Foundation::IsolatedUserDefaults const defaults;
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    // Qt gets the program's name only: it would take --platform for an option of its own.
+    // Qt gets only the program's name: it would take --platform for its own option.
     int qtArgumentCount = 1;
     App::ReferenceApplication application(qtArgumentCount, argv);
     QApplication::setQuitOnLastWindowClosed(false);

@@ -58,7 +58,7 @@ struct Options
 
 using Parsed = std::variant<UpdateCheckOptions, UsageError, UsageHelp>;
 
-/// The values of a line whose required options are there.
+/// The values of a line that has the required options.
 Parsed ReadValues(QCommandLineParser const& parser, Options const& options)
 {
     QString const version = QStringLiteral("a version such as 5.10");

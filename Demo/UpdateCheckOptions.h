@@ -1,5 +1,4 @@
 // UpdateCheckOptions.h: the command line of pelnar-update-check.
-// Thread: any. Ownership: plain values.
 #pragma once
 
 #include "App/UpdateChecker/UpdateCheckMode.h"

@@ -77,7 +77,7 @@ void WindowCamera::TakeAgainAtHalf(QWidget& window)
                                   return;
                               }
                               disconnect(*connection);
-                              // Later, when the texts beside the bar have been changed as well.
+                              // Later, when the texts next to the bar have changed too.
                               QTimer::singleShot(0, this,
                                                  [this, shown]
                                                  {

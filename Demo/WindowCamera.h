@@ -1,5 +1,5 @@
-// WindowCamera.h: leaves a picture of every window that opens, for a demonstration that nobody watches.
-// Thread: the Qt main thread. Ownership: watches the application while it lives.
+// WindowCamera.h: saves a picture of every window that opens, for a demonstration without a person. Thread: the Qt main
+// thread. Ownership: observes the application while it lives.
 #pragma once
 
 #include <QDir>
@@ -20,19 +20,19 @@ public:
     enum class AfterPicture
     {
         LeaveOpen,
-        DismissDialogs, ///< closes a dialog as its close button does
+        DismissDialogs, ///< closes a dialog like its close button
     };
 
-    /// Pictures go to \a folder as "<object name>.png"; a null path takes none.
+    /// Pictures are saved in \a folder as "<object name>.png"; with a null path none are saved.
     WindowCamera(QString const& folder, AfterPicture afterPicture);
 
-    /// Takes a picture now, in the place of an earlier one of the same name.
+    /// Takes a picture now; it replaces an earlier one with the same name.
     void TakePicture(QWidget& window) const;
-    /// False when a picture could not be written.
+    /// False if a picture could not be written.
     [[nodiscard]] bool HasWrittenAll() const { return m_hasWrittenAll; }
 
 Q_SIGNALS:
-    /// The window has been shown, and its picture taken.
+    /// The window has been shown and its picture taken.
     void WindowShown(QWidget* window);
 
 protected:
@@ -40,7 +40,7 @@ protected:
 
 private:
     void HandleShown(QWidget& window);
-    /// A window that opens with an empty progress bar is more telling once half is done.
+    /// For a window that opens with an empty progress bar, a picture at half progress says more.
     void TakeAgainAtHalf(QWidget& window);
 
     QString m_folder;

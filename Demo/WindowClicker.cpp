@@ -53,7 +53,7 @@ void WindowClicker::Take(QWidget& window)
     }
     Q_EMIT Clicking(Pending());
     ++m_next;
-    // A click in a window that runs an event loop of its own ends that loop; what follows comes later.
+    // A click in a window with its own event loop ends that loop; what follows comes later.
     button->click();
     if (m_next == m_clicks.size())
     {

@@ -1,5 +1,5 @@
-// WindowClicker.h: answers windows in the place of a person: one click in each window of a list, in its order.
-// Thread: the Qt main thread. Ownership: the caller's; the windows are only looked at.
+// WindowClicker.h: answers windows instead of a person: one click in each window of a list, in this order. Thread: the
+// Qt main thread. Ownership: the caller's; it owns no window.
 #pragma once
 
 #include <QObject>
@@ -29,19 +29,19 @@ class WindowClicker : public QObject
 public:
     explicit WindowClicker(std::vector<Click> clicks);
 
-    /// Clicks in \a window, which has just been shown, if it is the next one's turn. A window that tells of an error is
-    /// a failure when it is not its turn.
+    /// Clicks in \a window, which has just been shown, if it is next in the list. An error window that is not next is a
+    /// failure.
     void Take(QWidget& window);
 
-    /// What is still waited for, as "WINDOW/BUTTON"; empty when every click was made.
+    /// The remaining clicks, as "WINDOW/BUTTON"; empty after every click.
     QString Pending() const;
 
 Q_SIGNALS:
-    /// Just before a click.
+    /// Emitted just before a click.
     void Clicking(QString const& what);
-    /// After the last click has done its work.
+    /// Emitted after the last click has had its effect.
     void Done();
-    /// Nothing is clicked any more.
+    /// No further click follows.
     void Failed(QString const& sentence);
 
 private:

@@ -25,7 +25,7 @@ google::LogSeverity ToGlog(LogSeverity severity)
 
 bool LogFile::IsProgressEnabled() const
 {
-    // What VLOG_IS_ON expands to, with this file's name in place of the compiler's.
+    // The expansion of VLOG_IS_ON, with this file's name instead of the compiler's.
     return m_flag.level ? *m_flag.level >= PROGRESS_LEVEL
                         : google::InitVLOG3__(&m_flag, &FLAGS_v, m_path, PROGRESS_LEVEL);
 }

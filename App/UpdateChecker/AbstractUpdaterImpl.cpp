@@ -5,7 +5,7 @@ namespace Pelnar::App
 
 AbstractUpdaterImpl::AbstractUpdaterImpl()
 {
-    // By the name in the signal's signature: that is how Qt looks for it when a result comes from another thread.
+    // With the name in the signal's signature: Qt looks it up by this name for a result from another thread.
     qRegisterMetaType<UpdateCheckResult>("UpdateCheckResult");
 }
 AbstractUpdaterImpl::~AbstractUpdaterImpl() = default;

@@ -16,9 +16,10 @@ namespace Pelnar
 namespace
 {
 
-constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< what glog calls a process whose host does not use it
+constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< the name that glog gives a process whose host does not use
+                                                       ///< glog
 
-/// True while this thread is in the handler: its own records are not for it.
+/// True while this thread is in the handler: the handler does not get its own records.
 thread_local bool isInHandler = false;
 
 LogSeverity ToSeverity(google::LogSeverity severity)
@@ -45,8 +46,8 @@ struct StoredRecord
     std::string text;
 };
 
-/// glog's sink of the process. Records are stored in send(), where glog's locks are held, and handed over in
-/// WaitTillSent(), where the handler may log itself.
+/// glog's only sink in the process. send(), which runs under glog's locks, stores records. WaitTillSent() delivers
+/// them; there the handler itself may log.
 class LogRelay final : private google::LogSink
 {
 public:
@@ -62,8 +63,8 @@ public:
     }
 
 private:
-    /// Sees to it that glog is initialized, and that its records go to the handler alone or to standard error alone,
-    /// unless the host has done so.
+    /// Initializes glog and sends its records only to the handler or only to standard error, unless the host has done
+    /// so.
     void TakeGlog(bool hasHandler)
     {
         if (!m_isGlogOurs)
@@ -127,7 +128,7 @@ private:
 
     void Call(StoredRecord const& record)
     {
-        // Held for the length of the call: the handler may replace itself.
+        // Held during the call: the handler may replace itself.
         std::shared_ptr<LogHandler const> const handler = Handler();
         if (!handler)
         {
@@ -139,7 +140,7 @@ private:
         }
         catch (...)
         {
-            // Deliberate: anyone who logs is not the one to hear of it, and may be a destructor.
+            // Deliberate: the caller that logs must not get the exception, and may be a destructor.
         }
     }
 
@@ -149,8 +150,8 @@ private:
         return m_handler;
     }
 
-    std::recursive_mutex m_calls; ///< of the one who is in the handler or replaces it
-    std::mutex m_records;         ///< of what follows
+    std::recursive_mutex m_calls; ///< held while the handler runs or is replaced
+    std::mutex m_records;         ///< guards the members below
     std::shared_ptr<LogHandler const> m_handler;
     std::vector<StoredRecord> m_waiting;
     bool m_isGlogOurs = false;
@@ -160,7 +161,7 @@ private:
 
 void SetLogHandler(LogHandler handler)
 {
-    static LogRelay& relay = *new LogRelay; // a process may log until its very end
+    static LogRelay& relay = *new LogRelay; // a process may log until its end
     relay.Replace(std::move(handler));
 }
 

@@ -15,7 +15,7 @@ namespace Pelnar::App
 namespace
 {
 
-/// The only record of the live manager.
+/// The only record of the current manager.
 IUpdateManager* s_updateManager = nullptr;
 
 UpdateManager::Initializer MakeInitializer(QObject* parent, bool automatic,
@@ -67,8 +67,8 @@ void UpdateManager::CheckForUpdates(Initializer const& initializer)
         return;
     }
     RequireHostApplication();
-    // Apart from the construction: the host, which is called from here on, may destroy the manager. An exception that
-    // left the constructor would then destroy it once more.
+    // Separate from the construction: from here on the host is called and may destroy the manager. An exception from
+    // the constructor would then destroy it a second time.
     QPointer<UpdateManager> const manager(new UpdateManager(initializer)); // deletes itself
     bool hasStarted = false;
     Core::ScopedFunctionCall const freeUnlessStarted(
@@ -129,11 +129,11 @@ void UpdateManager::Start(QList<IUpdateManagerObserver*> const& firstObservers)
 
 UpdateManager::~UpdateManager()
 {
-    // Before the back end goes, so that nothing it does on its way out reaches an observer.
+    // Before the back end is destroyed, so that none of its last notifications reaches an observer.
     impl->observers.PerformForEachEventHandler([this](IUpdateManagerObserver* observer)
                                                { UnregisterObserver(observer); });
     s_updateManager = nullptr;
-    // Now rather than with the QObject children, which go only when this is no UpdateManager any more.
+    // Now and not with the QObject children: they are destroyed when this object is no longer an UpdateManager.
     impl.reset();
 }
 
@@ -149,7 +149,7 @@ void UpdateManager::UnregisterObserver(IUpdateManagerObserver* observer)
 
 void UpdateManager::RejectUpdateAndHideDialog()
 {
-    // The host may ask for it before there is a back end: its services are taken first.
+    // The host may call this before the back end exists: its services are taken first.
     if (impl->updater)
     {
         impl->updater->RejectUpdateAndHideDialog();

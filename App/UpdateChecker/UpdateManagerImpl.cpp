@@ -26,7 +26,7 @@ UpdateManager::Impl::Impl(UpdateManager& owner, std::shared_ptr<ExternalStimulus
 
 UpdateManager::Impl::~Impl()
 {
-    // What the services, the gateway and the back end say while they are destroyed reaches nobody any more.
+    // From now on no notification of the services, the gateway or the back end reaches an observer.
     m_isEnding = true;
     if (updater)
     {
@@ -57,7 +57,7 @@ void UpdateManager::Impl::CheckFinished(UpdateCheckResult result)
 {
     if (result < UpdateCheckResult::UpdateAvailable)
     {
-        // A check that the user asked for always leads to the dialog, which then tells that nothing is newer.
+        // A check that the user requested always leads to the dialog, which then says that nothing is newer.
         if (checkMode == UpdateCheckMode::UserInitiated)
         {
             ProposeDialog();
@@ -101,7 +101,7 @@ void UpdateManager::Impl::ProposeNagOrDialog()
         ProposeNag();
         return;
     }
-    // Deliberate: as for an unknown result, a state of the host's own ends nothing.
+    // Deliberate: like an unknown result, a host's own state ends nothing.
 }
 
 void UpdateManager::Impl::WaitForNag()
@@ -143,7 +143,7 @@ void UpdateManager::Impl::ProposeDialog()
 void UpdateManager::Impl::RunDialog()
 {
     QPointer<Impl> const self(this);
-    // From here on every way out, an exception included, ends the flow. The manager's Qt parent may end it even sooner.
+    // From now on every exit, including an exception, ends the flow. The manager's Qt parent may end it earlier.
     Core::ScopedFunctionCall const deleteOnExit(
         nullptr,
         [self]

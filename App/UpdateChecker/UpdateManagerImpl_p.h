@@ -1,8 +1,8 @@
-// UpdateManagerImpl_p.h: the flow controller: runs one check from its start to the end of its manager.
-// Thread: the Qt main thread. Ownership: the manager deletes it explicitly and is its Qt parent too; it owns the back
-// end and shares the host's services. The fields are destroyed in reverse order: the services, the observer list, and
-// only then the back end. Wherever the host is called it may destroy this object, by way of the manager's Qt parent:
-// what follows such a call looks at a guarded pointer first, and a service is held for the length of its call.
+// UpdateManagerImpl_p.h: the flow controller: it runs one check from its start to the end of its manager. Thread: the
+// Qt main thread. Ownership: the manager deletes it explicitly and is also its Qt parent. It owns the back end and
+// shares the host's services. The fields are destroyed in reverse order: the services, the observer list, then the back
+// end. Every call of the host may destroy this object through the manager's Qt parent. So code after such a call first
+// checks a guarded pointer, and a service is held during its call.
 #pragma once
 
 #include "App/UpdateChecker/AbstractUpdaterImpl.h"
@@ -31,21 +31,21 @@ public:
     Impl(UpdateManager& owner, std::shared_ptr<ExternalStimulus::IGateway> const& proposalGateway);
     ~Impl() override;
 
-    /// Makes the back end and connects it. Throws std::logic_error, with nothing changed, when there is no links
-    /// or no customization service. REQUIRES: the services and checkMode are set.
+    /// Creates the back end and connects it. Throws std::logic_error, with nothing changed, if there is no links or no
+    /// customization service. REQUIRES: the services and checkMode are set.
     void InitializeUpdater();
 
-    /// The back end's check has an outcome: ends the flow, shows the nag or proposes the dialog.
+    /// The back end's check has a result: ends the flow, shows the nag screen or proposes the dialog.
     void CheckFinished(UpdateCheckResult result);
-    /// The user accepted the update; quitting and installing are the back end's business.
+    /// The user accepted the update; the back end handles quitting and installing.
     void UserAcceptUpdate();
-    /// Asks the gateway to run the dialog; what it is given does nothing once this object is on its way out.
+    /// Asks the gateway to run the dialog. The callback does nothing once this object is being destroyed.
     void ProposeDialog();
-    /// Shows the nag of a major update, unless the check is silent, and ends the flow.
+    /// Shows the nag screen of a major update, unless the check is silent, and ends the flow.
     void ProposeNag();
     Core::Version GetCurrentVersion() const;
     Core::Version GetRemoteVersion() const;
-    /// The only way in which the flow ends. Harmless when repeated.
+    /// The only way in which the flow ends. A second call has no effect.
     void DeleteManager();
 
     UpdateManager& manager;
@@ -63,7 +63,7 @@ private:
     void WaitForNag();
     void RunDialog();
     using VersionsEvent = void (IUpdateManagerObserver::*)(Core::Version const& current, Core::Version const& remote);
-    /// False when the host has destroyed this object meanwhile.
+    /// False if the host has destroyed this object meanwhile.
     [[nodiscard]] bool TellVersions(VersionsEvent event);
 
     bool m_isEnding = false; ///< the fields are being destroyed

@@ -13,8 +13,8 @@ namespace Pelnar::Engine
 
 /// True for a character that is invisible, or that changes how others are displayed. These are: controls (including
 /// line ends and tabs), line and paragraph separators, direction marks, joiners and other characters of zero width,
-/// variation selectors, annotations, tags, single surrogates, private use, and unassigned code points that Unicode
-/// reserves as noncharacters. A caller that allows line ends and tabs tests for them first.
+/// variation selectors, annotations, tags, single surrogates, private use, and noncharacters. A caller that allows line
+/// ends and tabs tests for them first.
 [[nodiscard]] inline bool IsHidden(char32_t codePoint)
 {
     return codePoint < 0x20 || (codePoint >= 0x7F && IsHiddenBeyondAscii(codePoint));

@@ -23,7 +23,7 @@ bool MayBeEscaped(char character)
     return character == '"' || character == '\\' || character == '$' || character == '`';
 }
 
-/// The value as a shell would read it: quoted as a whole or not at all.
+/// The value as a shell reads it: quoted as a whole or not at all.
 QByteArray Unquote(QByteArray const& value)
 {
     char const quote = value.size() >= 2 ? value.front() : '\0';
@@ -70,7 +70,7 @@ void SetOSVersion(QString const& version)
 
 QString AllComponentsOf(QOperatingSystemVersion const& version)
 {
-    // A number that the system leaves out is a negative one here.
+    // A number that the system omits is negative here.
     return QStringLiteral("%1.%2.%3")
         .arg(version.majorVersion())
         .arg(std::max(0, version.minorVersion()))

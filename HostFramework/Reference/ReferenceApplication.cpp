@@ -93,8 +93,8 @@ bool ReferenceApplication::TryToQuit()
         {
             continue;
         }
-        // Deliberate: the event alone, not QWidget::close. A window that accepts stays open, so that a refusal by a
-        // later one leaves the user's windows as they were.
+        // Deliberate: only the event, not QWidget::close. A window that accepts stays open, so that a later refusal
+        // leaves the user's windows unchanged.
         QCloseEvent event;
         QCoreApplication::sendEvent(window, &event);
         if (!event.isAccepted())

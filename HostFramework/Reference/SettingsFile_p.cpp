@@ -24,7 +24,7 @@ SettingsFile::SettingsFile(QString const& iniPath) : m_path(iniPath), m_settings
 
 QString SettingsFile::Text(QString const& section, QString const& key) const
 {
-    // An unquoted comma makes a list of the value; a list of one is the usual case.
+    // An unquoted comma turns the value into a list; a list of one element is the usual case.
     QStringList const parts = m_settings.value(section + QLatin1Char('/') + key).toStringList();
     return parts.join(QLatin1Char(',')).trimmed();
 }

@@ -1,5 +1,5 @@
-// SettingsFile_p.h: reads text from an ini file and says what is wrong with it. Private to the reference framework.
-// Thread: one at a time. Ownership: a scope object; the file is read when it is made.
+// SettingsFile_p.h: reads text from an ini file and reports what is wrong with it. Private to the reference framework.
+// Thread: one at a time. Ownership: a scope object; it reads the file when it is created.
 #pragma once
 
 #include <QSettings>
@@ -13,14 +13,14 @@ namespace Pelnar::App
 class SettingsFile
 {
 public:
-    /// Throws std::runtime_error when \a iniPath cannot be read or is not an ini file.
+    /// Throws std::runtime_error if \a iniPath cannot be read or is not an ini file.
     explicit SettingsFile(QString const& iniPath);
 
-    /// The value without surrounding blanks; empty when there is none.
+    /// The value without surrounding blanks; empty if there is none.
     QString Text(QString const& section, QString const& key) const;
-    /// The same, but throws std::runtime_error when there is none.
+    /// The same, but throws std::runtime_error if there is none.
     QString RequiredText(QString const& section, QString const& key) const;
-    /// How messages name a key: the file, the section and the key.
+    /// The name of a key in messages: the file, the section and the key.
     std::string Describe(QString const& section, QString const& key) const;
 
 private:

@@ -1,4 +1,4 @@
-// What a host says to the engine and asks of it without a check, passed on.
+// Passes on the host's calls and questions to the engine outside a check.
 
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionLibrary_p.h"
@@ -25,7 +25,7 @@ Pelnar::Core::LogSite const ARGUMENTS_REFUSED{Pelnar::Core::LogSeverity::Error, 
 void Pelnar::ConfirmGoodStart()
 {
     SessionLibrary& library = SessionLibrary::Instance();
-    // Loaded before this returns, which it seldom is: a host that ends right after the call has started well, too.
+    // Loads before it returns, which is rarely needed: a host that ends right after the call has started well, too.
     SessionExport const* const loaded = App::MayHaveUpdateFiles() ? library.Load() : library.Loaded();
     if (loaded)
     {

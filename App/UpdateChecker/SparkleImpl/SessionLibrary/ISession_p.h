@@ -1,5 +1,5 @@
-// ISession_p.h: the session as the back end uses it, whichever library it stands in.
-// Thread: the Qt main thread. Ownership: the session is its library's and lives as long as the process.
+// ISession_p.h: the session as the back end uses it, independent of the library that contains it. Thread: the Qt main
+// thread. Ownership: its library owns the session, which lives as long as the process.
 #pragma once
 
 #include "common/NotNull.h"
@@ -11,7 +11,7 @@ namespace Pelnar::App
 
 struct SparkleUpdateContext;
 
-/// The operations of SparkleManager that a back end calls; they are explained there.
+/// The operations of SparkleManager that a back end calls, with the same contracts.
 class ISession
 {
 public:

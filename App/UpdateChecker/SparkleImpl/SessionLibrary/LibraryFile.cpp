@@ -23,11 +23,11 @@ using DynamicEntry = ElfW(Dyn);
 constexpr std::uint64_t MAX_TABLE_BYTES = 16 * 1024 * 1024; ///< more than any table of a real library
 constexpr std::size_t MAX_LIBRARIES = 512;
 
-/// A library's file. It is read and never mapped: a mapped file that is cut short meanwhile ends the process.
+/// A library's file. It is read and never mapped: if a mapped file is truncated meanwhile, the process dies.
 class LibraryFile
 {
 public:
-    /// A pipe or a device is opened too, but does not hold the caller up.
+    /// A pipe or a device is opened too, but does not block the caller.
     explicit LibraryFile(std::string const& path)
         : m_descriptor(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC))
     {
@@ -42,7 +42,7 @@ public:
     LibraryFile(LibraryFile const&) = delete;
     LibraryFile& operator=(LibraryFile const&) = delete;
 
-    /// What is wrong with the file; nothing when Needed() may be asked.
+    /// What is wrong with the file; empty if Needed() may be called.
     std::optional<std::string> Fault()
     {
         struct stat status;
@@ -66,7 +66,7 @@ public:
         return isWhole ? std::nullopt : std::optional<std::string>("was cut short");
     }
 
-    /// The names of the libraries that this one needs. REQUIRES: Fault() said nothing.
+    /// The names of the libraries that this one needs. REQUIRES: Fault() returned nothing.
     std::vector<std::string> Needed() const
     {
         std::vector<DynamicEntry> const entries = DynamicEntries();
@@ -77,7 +77,7 @@ public:
             textAddress = entry.d_tag == DT_STRTAB ? entry.d_un.d_ptr : textAddress;
             textSize = entry.d_tag == DT_STRSZ ? entry.d_un.d_val : textSize;
         }
-        // One more than is read: every name in it has an end.
+        // One byte more than is read, so that every name ends with NUL.
         std::string text(textSize <= MAX_TABLE_BYTES ? textSize + 1 : 0, '\0');
         if (text.empty() || !ReadAt(OffsetOf(textAddress), text.data(), textSize))
         {
@@ -119,7 +119,7 @@ private:
         return entries;
     }
 
-    /// Where the file holds what is loaded at \a address; behind every file when it holds nothing of it.
+    /// The file offset of the content that is loaded at \a address; past every file's end if there is none.
     std::uint64_t OffsetOf(std::uint64_t address) const
     {
         for (Segment const& segment : m_segments)

@@ -1,5 +1,5 @@
-// LibraryFile_p.h: whether a shared library and what it needs from its own folder are whole files.
-// Thread: any. Ownership: none. Linux only.
+// LibraryFile_p.h: checks that a shared library and the libraries that it needs from its own folder are whole files.
+// Thread: any. Linux only.
 #pragma once
 
 #include <optional>
@@ -8,9 +8,9 @@
 namespace Pelnar::App
 {
 
-/// What is wrong with the library at \a path, or with a library of the same folder that it needs: one that cannot be
-/// read, is no library of this kind of machine, or was cut short. Nothing when the loader may have them. A library that
-/// it needs and that stands elsewhere is not looked at.
+/// What is wrong with the library at \a path, or with a library that it needs from the same folder: it cannot be read,
+/// is not a library for this kind of machine, or is truncated. Empty if the loader may load them. Needed libraries in
+/// other folders are not checked.
 [[nodiscard]] std::optional<std::string> FaultOfLibrary(std::string const& path);
 
 } // namespace Pelnar::App

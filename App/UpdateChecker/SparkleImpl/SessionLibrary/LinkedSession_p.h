@@ -1,5 +1,5 @@
-// LinkedSession_p.h: the session that this library or program is linked with.
-// Thread: the Qt main thread. Ownership: lives as long as the process.
+// LinkedSession_p.h: the session that is linked into this library or program. Thread: the Qt main thread. Ownership:
+// lives as long as the process.
 #pragma once
 
 namespace Pelnar::App
@@ -7,7 +7,7 @@ namespace Pelnar::App
 
 class ISession;
 
-/// Makes no session yet: the first operation does.
+/// Creates no session yet: the first operation does.
 ISession& LinkedSession();
 
 } // namespace Pelnar::App

@@ -1,6 +1,5 @@
-// OpenSession_p.h: how a back end gets the session.
-// Thread: the Qt main thread. Ownership: none. Where the session is linked, OpenLinkedSession.cpp answers; where it
-// stands in a library of its own, OpenLoadedSession.cpp.
+// OpenSession_p.h: gives a back end the session. Thread: the Qt main thread. OpenLinkedSession.cpp implements it for a
+// linked session, OpenLoadedSession.cpp for a session in its own library.
 #pragma once
 
 #include <QtGlobal>
@@ -16,8 +15,8 @@ namespace Pelnar::App
 
 class ISession;
 
-/// Calls \a use once with the session: inside this call when the session is there, otherwise later from the event loop,
-/// and then only if \a context lives. A session that cannot be loaded is null, and the log says why.
+/// Calls \a use once with the session: inside this call if the session is available, otherwise later from the event
+/// loop, and then only if \a context lives. If the session cannot be loaded, it is null and the log says why.
 void OpenSession(QObject& context, std::function<void(ISession*)> const& use);
 
 } // namespace Pelnar::App

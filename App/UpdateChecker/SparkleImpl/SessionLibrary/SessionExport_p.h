@@ -1,5 +1,5 @@
-// SessionExport_p.h: what the library of the session and the engine offers to the update checker, which loads it.
-// Thread: the Qt main thread. Ownership: the library's, which stays loaded.
+// SessionExport_p.h: the interface of the library with the session and the engine to the update checker, which loads
+// it. Thread: the Qt main thread. Ownership: the library's, which stays loaded.
 #pragma once
 
 #include "common/Export.h"
@@ -16,8 +16,8 @@ class ISession;
 
 struct SessionExport
 {
-    /// PELNAR_SESSION_STAMP of the build that made the library. It stays the first field: it is read before it is known
-    /// what the others are.
+    /// PELNAR_SESSION_STAMP of the build that made the library. It must stay the first field: it is read before the
+    /// meaning of the others is known.
     char const* stamp;
     ISession& (*session)();
     void (*confirmGoodStart)();
@@ -27,7 +27,7 @@ struct SessionExport
     void (*setAutomaticDownloads)(AutomaticDownload wish);
 };
 
-/// The name by which the library's one SessionExport is found.
+/// The name of the library's only SessionExport.
 inline constexpr char SESSION_EXPORT_NAME[] = "pelnarUpdateSession";
 
 } // namespace Pelnar::App

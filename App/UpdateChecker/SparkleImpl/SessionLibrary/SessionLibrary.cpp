@@ -31,20 +31,21 @@ std::string LastLoaderError()
     return text ? text : "the loader does not say why";
 }
 
-/// Has the session use the host framework that this library uses: the session's library names none, and where a host is
-/// itself opened by a program, the loader would find none for it.
+/// Lets the session use the host framework that this library uses. The session's library names no framework. If a
+/// program itself opens the host, the loader would find none.
 void LendHostFramework()
 {
     Dl_info framework{};
     if (::dladdr(reinterpret_cast<void const*>(&Util::SpontaneousDialog::findParent), &framework) != 0)
     {
-        // It stays loaded. What is linked with the program is there for everybody already, and a program is refused.
+        // It stays loaded. A framework that is linked with the program is visible already, and dlopen refuses a
+        // program.
         (void)::dlopen(framework.dli_fname, RTLD_LAZY | RTLD_NOLOAD | RTLD_GLOBAL);
     }
 }
 
-/// The folder that this library was loaded from; empty when that cannot be told. It is the loader's own answer: the
-/// path may be relative, and the working directory another one by now.
+/// The folder that this library was loaded from; empty if it cannot be read. The loader gives it: the path may be
+/// relative, and the working directory may have changed.
 std::string OwnFolder()
 {
     Dl_info own{};
@@ -102,7 +103,7 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
                                        return answer;
                                    });
         }
-        catch (std::system_error const&) // there is no thread to be had
+        catch (std::system_error const&) // no thread can be created
         {
             use(Load());
             return;
@@ -119,7 +120,7 @@ SessionLibrary::Answer SessionLibrary::Open()
         return {nullptr, "the folder of this library is not known"};
     }
     std::string const path = folder + "/" PELNAR_SESSION_LIBRARY;
-    // The loader maps a file that was cut short, and the process dies where it ends.
+    // The loader maps a truncated file, and the process dies where the file ends.
     if (std::optional<std::string> const fault = FaultOfLibrary(path))
     {
         return {nullptr, *fault};
@@ -148,7 +149,7 @@ void SessionLibrary::Take(Answer const& answer)
     if (!m_loaded)
     {
         Core::Write(NOT_LOADED, "The update session cannot be loaded: " + answer.failure);
-        // Otherwise the engine does this for all that a person reads.
+        // The message for the person needs translations, which otherwise the engine installs.
         if (QCoreApplication::instance())
         {
             Engine::InstallTranslations(QLocale());
@@ -171,7 +172,7 @@ void SessionLibrary::TellWaiters()
     {
         TakeLoading();
     }
-    // Who is told may ask again.
+    // A callback may ask again.
     for (Waiter const& waiter : std::exchange(m_waiters, {}))
     {
         if (waiter.context)

@@ -29,8 +29,8 @@ bool MayHaveUpdateFiles()
     {
         return true;
     }
-    // The program stands in the bundle, and the files beside the bundle. Deliberate: the kernel goes up from there, for
-    // the bundle's path may be another name of it, as "/proc/self/fd/N" is.
+    // The program is in the bundle, and the files are next to the bundle. Deliberate: the kernel walks up from there,
+    // because the bundle's path may be an alias such as "/proc/self/fd/N".
     std::string folder = program;
     folder.erase(folder.rfind('/'));
     std::unique_ptr<DIR, decltype(&::closedir)> const stream(::opendir((folder + "/..").c_str()), &::closedir);

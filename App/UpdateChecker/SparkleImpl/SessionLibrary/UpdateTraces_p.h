@@ -1,12 +1,12 @@
-// UpdateTraces_p.h: whether an update may have left something beside the running bundle, told without the engine.
-// Thread: any. Ownership: none. Linux only.
+// UpdateTraces_p.h: whether an update may have left files next to the running bundle, found without the engine. Thread:
+// any. Linux only.
 #pragma once
 
 namespace Pelnar::App
 {
 
-/// False when the folder that holds the running program's bundle holds no file of an update, of this bundle or of
-/// another one; also true when that cannot be told.
+/// False if the folder that holds the running program's bundle has no file of an update, of this bundle or another one.
+/// Also true if this cannot be read.
 [[nodiscard]] bool MayHaveUpdateFiles();
 
 } // namespace Pelnar::App

@@ -9,7 +9,7 @@ Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
 {
     if (subject.systemVersion.IsValid())
     {
-        // Bounds that are missing or do not parse impose nothing.
+        // A bound that is missing or does not parse has no effect.
         if (item.MinimumSystem().IsValid() && subject.versionLess(subject.systemVersion, item.MinimumSystem()))
         {
             return Judgement::SYSTEM_TOO_OLD;
@@ -36,7 +36,7 @@ Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
     {
         return Judgement::URL_INVALID;
     }
-    // Deliberate: a date that can be read in this form is refused. The dates that feeds normally carry cannot.
+    // Deliberate: a date that can be read in this form is refused. The usual dates of feeds cannot.
     if (item.Date().isValid())
     {
         return Judgement::DATE_REFUSED;

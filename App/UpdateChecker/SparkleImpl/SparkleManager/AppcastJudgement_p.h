@@ -1,6 +1,5 @@
-// AppcastJudgement_p.h: the rules by which a feed item is judged and one of two is preferred. Plain C++, private to the
-// session; a publisher's tool may ask them too. Thread: the caller's. Ownership: none.
-// Nothing here logs: the answers say which rule gave them.
+// AppcastJudgement_p.h: the rules that judge a feed item and prefer one of two. Plain C++, private to the session; the
+// publisher's tool uses them too. Thread: the caller's. Nothing here logs: the results say which rule applied.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/ItemRecord_p.h"
@@ -12,10 +11,11 @@
 namespace Pelnar::App::Session
 {
 
-/// What items are judged against. REQUIRES: both operators are set; what is missing throws std::bad_function_call.
+/// The installation that items are judged for. REQUIRES: both operators are set; a missing one throws
+/// std::bad_function_call.
 struct SelectionSubject
 {
-    Core::Version const& systemVersion; ///< of the running system; the invalid version switches its bounds off
+    Core::Version const& systemVersion; ///< of the running system; with the invalid version, system bounds are ignored
     Core::Version const& localVersion;  ///< of the running application
     std::function<bool(Core::Version const&, Core::Version const&)> const& versionLess;
     std::function<bool(Core::Version const&, Core::Version const&)> const& versionEqual;
@@ -28,11 +28,11 @@ enum class Judgement : std::int32_t
     SYSTEM_TOO_NEW = 1,     ///< the running system is newer than the item's maximum
     VERSION_UNREADABLE = 2, ///< the item's version is absent or does not parse
     VERSION_OLDER = 3,      ///< older than the running application
-    VERSION_EQUAL = 4,      ///< the running application's version
+    VERSION_EQUAL = 4,      ///< the same version as the running application
     URL_INVALID = 5,        ///< the download has no valid address
     DATE_REFUSED = 6,       ///< the date is in Qt's text form
     LENGTH_ZERO = 7,        ///< the download has no length
-    VALID = 8,              ///< none
+    VALID = 8,              ///< no test failed
 };
 
 /// A name for tools and test messages, such as "system-too-old"; "unknown" for a value outside the nine.
@@ -62,7 +62,7 @@ constexpr char const* JudgementName(Judgement judgement)
     return "unknown";
 }
 
-/// Stops at the first test that \a item fails; later properties stay unread.
+/// Stops at the first test that \a item fails and does not read later properties.
 Judgement Judge(ItemRecord& item, SelectionSubject const& subject);
 
 enum class PreferenceRule : std::int32_t
@@ -71,7 +71,7 @@ enum class PreferenceRule : std::int32_t
     WANTED_TYPE = 1,  ///< the kind of package that the priority list names first
     SAME_ADDRESS = 2, ///< the same download: the first of the two
     LATER_DATE = 3,
-    SMALLER_LENGTH = 4, ///< the first of the two when the lengths are equal
+    SMALLER_LENGTH = 4, ///< the first of the two if the lengths are equal
 };
 
 /// A name for tools and test messages, such as "newer-version"; "unknown" for a value outside the five.
@@ -95,18 +95,18 @@ constexpr char const* PreferenceRuleName(PreferenceRule rule)
 
 struct Preference
 {
-    ItemRecord& item; ///< one of the two that were given
+    ItemRecord& item; ///< one of the two arguments
     PreferenceRule rule;
 };
 
-/// The newer of two valid items or, of one version, the one whose kind of package is wanted more; nothing when both are
+/// The newer of two valid items or, for the same version, the one with the preferred kind of package; empty if both are
 /// equal in this.
 std::optional<Preference> PreferByVersionAndType(ItemRecord& a, ItemRecord& b, SelectionSubject const& subject);
 
-/// Decides between two valid items that PreferByVersionAndType does not tell apart.
+/// Decides between two valid items that PreferByVersionAndType finds equal.
 Preference PreferByDownload(ItemRecord& a, ItemRecord& b);
 
-/// Whether a delta that starts from the version \a deltaFrom, as the feed writes it, serves the running application.
+/// True if a delta from the version \a deltaFrom, as the feed writes it, fits the running application.
 [[nodiscard]] bool StartsFromRunningVersion(QString const& deltaFrom, SelectionSubject const& subject);
 
 } // namespace Pelnar::App::Session

@@ -1,7 +1,6 @@
 // AppcastSelection.mm: the session's answers about feed items: their kind, their extensions, whether one may be offered
-// and which is the best.
-// Thread: the Qt main thread. Ownership: items belong to the framework; what is kept of one lives no longer than the
-// answer that it is made for.
+// and which is the best. Thread: the Qt main thread. Ownership: the framework owns items; copies of their properties
+// live no longer than one answer.
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 
@@ -30,7 +29,7 @@ using Foundation::ToUtf8;
 namespace
 {
 
-/// Every text goes through \a text, which the items of one answer share: most are parsed and forgotten.
+/// Every text uses the buffer \a text, which the items of one answer share: most texts are parsed and discarded.
 class FoundationItem final : public Session::IItemSource
 {
   public:
@@ -55,7 +54,7 @@ class FoundationItem final : public Session::IItemSource
     QString& m_text;
 };
 
-/// An item for the length of one answer: read and judged once, however often the rules ask.
+/// An item during one answer: read and judged once, for any number of rules.
 struct Candidate
 {
     Candidate(SUAppcastItem* feedItem, QString& text) : item(feedItem), source(feedItem, text), record(source) {}
@@ -82,7 +81,7 @@ Session::SelectionSubject SubjectOf(SparkleManager::Impl const& session)
     return {SystemVersion(), context.localVersion, context.versionLess, context.versionEqual};
 }
 
-/// The guards run, and write their records, at every call; \a candidate is judged at the first. Null stands for nil.
+/// Guards run and log on every call. The verdict of \a candidate is computed once and cached. Null stands for nil.
 bool Validate(SparkleManager::Impl const& session, Candidate* candidate)
 {
     SystemVersion();
@@ -90,7 +89,7 @@ bool Validate(SparkleManager::Impl const& session, Candidate* candidate)
     {
         return false;
     }
-    // Deliberate: the operators are looked at, and missed on record, before a missing item is noticed.
+    // Deliberate: the operators are checked, and their absence is logged, before a missing item is noticed.
     bool const hasOperators = session.EnsureVersionOperators();
     if (!candidate || !hasOperators)
     {
@@ -103,7 +102,7 @@ bool Validate(SparkleManager::Impl const& session, Candidate* candidate)
     return *candidate->judgement == Session::Judgement::VALID;
 }
 
-/// Null for nil, and null when neither is valid.
+/// Null for nil, and null if neither is valid.
 Candidate* SelectBest(SparkleManager::Impl const& session, Candidate* a, Candidate* b)
 {
     bool const isValidA = Validate(session, a);
@@ -122,16 +121,17 @@ Candidate* SelectBest(SparkleManager::Impl const& session, Candidate* a, Candida
     return &Session::PreferByDownload(a->record, b->record).item == &a->record ? a : b;
 }
 
-/// Keeps the best of the items that it is offered one after the other.
+/// Keeps the best of the items that are offered one after the other.
 class Contest
 {
   public:
     explicit Contest(SparkleManager::Impl const& session) : m_session(session) {}
 
-    /// nil when no offer was valid.
+    /// nil if no offered item was valid.
     SUAppcastItem* Best() const { return m_best ? m_best->item : nil; }
 
-    /// Brings no pool of its own, which would cost as much as the rest: the answer's pool takes what the getters leave.
+    /// Opens no separate pool, which would cost as much as the rest: the answer's pool keeps the getters' temporary
+    /// objects.
     void Offer(SUAppcastItem* item)
     {
         std::optional<Candidate>& place = m_best && m_best == &*m_places[0] ? m_places[1] : m_places[0];
@@ -141,7 +141,7 @@ class Contest
   private:
     SparkleManager::Impl const& m_session;
     QString m_text;
-    std::optional<Candidate> m_places[2]; ///< of the best and of its challenger
+    std::optional<Candidate> m_places[2]; ///< the best item and its challenger
     Candidate* m_best = nullptr;
 };
 
@@ -193,7 +193,7 @@ QVariantMap SparkleManager::Impl::DetectExtensions(SUAppcastItem* item) const
             {
                 continue;
             }
-            // Deliberate: a value that is no text keeps its key, with an invalid variant.
+            // Deliberate: a value that is not text keeps its key, with an invalid variant.
             QVariant text;
             if ([value isKindOfClass:[NSString class]])
             {
@@ -237,7 +237,7 @@ SUAppcastItem* SparkleManager::Impl::SelectBestOfAppcast(SUAppcast* appcast)
     Foundation::Retained<SUAppcastItem> best;
     @autoreleasepool
     {
-        // A dictionary made for this answer may be all that keeps a delta: the answer has to outlive the pool.
+        // Only a dictionary made for this answer may retain a delta: the answer must outlive the pool.
         best = Foundation::Retained<SUAppcastItem>::Share(ChooseFromAppcast(appcast));
     }
     return best.Autorelease();
@@ -251,7 +251,7 @@ SUAppcastItem* SparkleManager::Impl::ChooseFromAppcast(SUAppcast* appcast)
         bestItemIsDelta = false;
         return nil;
     }
-    // Held for the length of the choice: an operator may replace the context.
+    // Held during the choice: an operator may replace the context.
     std::shared_ptr<SparkleUpdateContext> const lent = context;
     Contest contest(*this);
     OfferItems(*this, items, contest);
@@ -261,7 +261,7 @@ SUAppcastItem* SparkleManager::Impl::ChooseFromAppcast(SUAppcast* appcast)
         Write(Sites::BEST_ITEM_NOT_DETECTED, "Best valid SUAppcastItem was NOT detected.");
         return nil;
     }
-    // After an answer that was a delta, the framework asks for a full item to fall back on.
+    // If an answer was a delta, the framework asks next for a full item as the fallback.
     if (!bestItemIsDelta)
     {
         OfferDeltas(*this, [contest.Best() deltaUpdates], contest);
@@ -275,7 +275,7 @@ SUAppcastItem* SparkleManager::Impl::ChooseFromAppcast(SUAppcast* appcast)
 
 void SparkleManager::Impl::PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const
 {
-    // The ten sites stand in one file, so one answer is for all; the texts cost more than the choice.
+    // The ten sites are in one file, so one check covers all; the texts cost more than the choice.
     if (!IsEnabled(Sites::DUMP_ITEM))
     {
         return;

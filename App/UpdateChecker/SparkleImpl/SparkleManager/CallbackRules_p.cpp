@@ -10,7 +10,7 @@ OutcomeReaction ReactionToFound(State state)
     case State::FETCHING_INFO:
         return OutcomeReaction::ReportAndIdle;
     case State::PREPARING_TO_SHOW_CHANGELOG:
-        // From here on the framework's own windows have the word.
+        // From now on the framework's own windows continue.
         return OutcomeReaction::Idle;
     case State::SILENT_DOWNLOADING:
         return OutcomeReaction::Nothing;
@@ -31,7 +31,7 @@ OutcomeReaction ReactionToNotFound(State state)
     case State::PREPARING_TO_SHOW_CHANGELOG:
         return OutcomeReaction::Idle;
     case State::SILENT_DOWNLOADING:
-        // Deliberate: the framework follows up with an abort, which ends the request.
+        // Deliberate: the framework then sends an abort, which ends the request.
         return OutcomeReaction::Nothing;
     case State::WAITING:
     case State::SILENT_INSTALLING:

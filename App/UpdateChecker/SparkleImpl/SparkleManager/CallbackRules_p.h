@@ -1,5 +1,5 @@
-// CallbackRules_p.h: what each of the framework's callbacks means in each state. Plain C++, private to the session.
-// Thread: values. A value outside the six states has no behaviour anywhere.
+// CallbackRules_p.h: the meaning of each of the framework's callbacks in each state. Plain C++, private to the session.
+// Pure functions. A value outside the six states has no behaviour anywhere.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
@@ -7,13 +7,13 @@
 namespace Pelnar::App::Session
 {
 
-/// What the end of a check asks of the session.
+/// What the session must do at the end of a check.
 enum class OutcomeReaction
 {
-    Nothing,          ///< the request goes on, or is over already
-    ReportAndIdle,    ///< the context asked: it is told, then the session is idle
-    Idle,             ///< nobody asked: the session is idle
-    ShowErrorAndIdle, ///< the user asked for an installation: he is told, then the session is idle
+    Nothing,          ///< the request continues, or has already ended
+    ReportAndIdle,    ///< the context requested it: it is notified, then the session is idle
+    Idle,             ///< nobody requested it: the session is idle
+    ShowErrorAndIdle, ///< the user requested an installation: they see the error, then the session is idle
     Unspecified,      ///< one error record and nothing else
 };
 
@@ -31,7 +31,7 @@ enum class RelaunchReaction
 
 RelaunchReaction ReactionToRelaunch(State state);
 
-/// True when the callback ends an installation on quit that the session knows of.
+/// True if the callback ends an installation on quit that the session knows of.
 [[nodiscard]] bool IsCancelledInstallExpected(State state);
 
 } // namespace Pelnar::App::Session

@@ -6,7 +6,7 @@ namespace Pelnar::App::Session
 namespace Extensions
 {
 
-// Each is built from the one before it, at load time and in this order.
+// Each is built from the previous one, at load time and in this order.
 QString const VERSION = QStringLiteral("1");
 QString const PREFIX = QStringLiteral("pelnar") + VERSION + QStringLiteral("_");
 QString const KEY_OVERRIDE_PATH_TO_RELAUNCH = (PREFIX + QStringLiteral("OverridePathToRelaunch")).toUpper();

@@ -11,7 +11,7 @@ std::optional<std::string> DiagnosticOf(std::function<void()> const& call)
 {
     try
     {
-        // The diagnostic throws the exception again, which a raised NSException does not survive: it is translated.
+        // The diagnostic rethrows the exception. A raised NSException would end the process, so it is translated first.
         Foundation::CallTranslatingRaised(call);
     }
     catch (...)

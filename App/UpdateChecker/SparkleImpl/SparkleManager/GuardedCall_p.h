@@ -1,4 +1,4 @@
-// GuardedCall_p.h: the session's one catch-all. Plain C++, private to the session. Thread: any.
+// GuardedCall_p.h: the session's only catch-all. Plain C++, private to the session. Thread: any.
 #pragma once
 
 #include <functional>
@@ -8,7 +8,7 @@
 namespace Pelnar::App::Session
 {
 
-/// Runs \a call and holds back what it throws or raises: the diagnostic text of that, or nothing when it returns.
+/// Runs \a call and catches its exception. Returns the exception's diagnostic text, or nothing if the call returns.
 [[nodiscard]] std::optional<std::string> DiagnosticOf(std::function<void()> const& call);
 
 } // namespace Pelnar::App::Session

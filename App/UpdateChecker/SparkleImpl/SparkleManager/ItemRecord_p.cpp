@@ -40,7 +40,7 @@ QString const& ItemRecord::AddressText()
     return Once(m_addressText,
                 [this]
                 {
-                    // A copy of its own: a text that is shared would make the source allocate for the next one.
+                    // A separate copy: with a shared text the source would have to allocate for the next one.
                     QString const& text = m_source.FileAddress();
                     return QString(text.constData(), text.size());
                 });

@@ -1,7 +1,6 @@
-// ItemRecord_p.h: one feed item as the rules of the selection see it. Plain C++, private to the session.
-// Thread: the caller's, one at a time. Ownership: a record refers to its source, which must outlive it.
-// A record asks its source for a property at most once, and not before a rule wants it: what a rule never looks at is
-// never read.
+// ItemRecord_p.h: one feed item as the rules of the selection see it. Plain C++, private to the session. Thread: the
+// caller's, one at a time. Ownership: a record refers to its source, which must outlive it. A record reads a property
+// from its source at most once, and only when a rule needs it.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
@@ -17,8 +16,8 @@
 namespace Pelnar::App::Session
 {
 
-/// Where the properties of an item come from, as the feed gives them; an absent text is empty. A text is good until the
-/// next one is asked for.
+/// The source of an item's properties, as the feed writes them; an absent text is empty. A text is valid until the next
+/// one is read.
 class IItemSource
 {
 public:
@@ -40,13 +39,13 @@ class ItemRecord
 public:
     explicit ItemRecord(IItemSource const& source) : m_source(source) {}
 
-    /// The invalid version where the text is empty or does not parse.
+    /// The invalid version if the text is empty or does not parse.
     Core::Version const& MinimumSystem();
     Core::Version const& MaximumSystem();
     Core::Version const& Version();
     [[nodiscard]] bool HasValidAddress();
     QUrl const& Address();
-    /// The item's date, if its text is in Qt's text form; an invalid date otherwise.
+    /// The item's date if its text is in Qt's text form; an invalid date otherwise.
     QDate const& Date();
     std::uint64_t Length();
     UpdateType Type();

@@ -1,6 +1,6 @@
 // LogSites_p.h: every record that the session writes, by name: severity, line and prefix. Plain C++, private to the
-// session. Thread: constants. The file, lines and signatures are what readers of logs know the session by: they stay
-// fixed while the code moves.
+// session. Constants. Readers of logs recognise the session's records by file, line and signature, so these stay fixed
+// when the code moves.
 #pragma once
 
 #include "common/LogSite.h"

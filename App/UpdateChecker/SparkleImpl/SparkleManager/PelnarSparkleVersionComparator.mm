@@ -27,7 +27,7 @@ using Pelnar::Foundation::ToQString;
         {
             return [[SUStandardVersionComparator defaultComparator] compareVersion:versionA toVersion:versionB];
         }
-        // Held for the length of the calls: an operator may replace the context.
+        // Held during the calls: an operator may replace the context.
         std::shared_ptr<Pelnar::App::SparkleUpdateContext> const lent = m_impl->context;
         return static_cast<NSComparisonResult>(
             OrderOfVersions(ToQString(versionA), ToQString(versionB), lent->versionLess, lent->versionEqual));

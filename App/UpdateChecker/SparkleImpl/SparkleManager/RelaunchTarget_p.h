@@ -1,5 +1,5 @@
-// RelaunchTarget_p.h: which bundle is started after an installation. Plain C++, private to the session.
-// Thread: the Qt main thread.
+// RelaunchTarget_p.h: which bundle is started after an installation. Plain C++, private to the session. Thread: the Qt
+// main thread.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
@@ -15,9 +15,9 @@
 namespace Pelnar::App::Session
 {
 
-/// The path to start after \a remoteVersion has been installed by an installer: the feed's own when it is absolute,
-/// else \a rule's. Nothing, when the running bundle is to be started: for every other kind of update, or without a
-/// rule. Writes the records of its findings; looks at no file.
+/// The path to start after an installer has installed \a remoteVersion: the feed's own path if it is absolute,
+/// otherwise \a rule's. Empty if the running bundle must be started: for every other kind of update, or without a rule.
+/// Writes the records of its findings; reads no file.
 std::optional<QString> RelaunchPathAfter(UpdateType type, QVariantMap const& extensions,
                                          std::function<ioPath(Core::Version const&)> const& rule,
                                          Core::Version const& remoteVersion);

@@ -31,7 +31,7 @@ public:
 
     AlertBox* operator->() const { return m_box; }
 
-    /// The button that ended the dialog; null when there is none, or when the dialog is gone.
+    /// The button that ended the dialog; null if there is none, or if the dialog was destroyed.
     QAbstractButton* Run(std::function<void()>& closeDialog)
     {
         Core::ValueGuard<std::function<void()>> const guard(closeDialog,

@@ -1,6 +1,6 @@
-// SessionDialogs_p.h: the two dialogs that the session itself shows. Plain C++, private to the session.
-// Thread: the Qt main thread; each runs a nested event loop. Ownership: a dialog lives as long as its call; when its
-// parent dies meanwhile, it counts as dismissed.
+// SessionDialogs_p.h: the two dialogs of the session itself. Plain C++, private to the session. Thread: the Qt main
+// thread; each runs a nested event loop. Ownership: a dialog lives as long as its call. If its parent is destroyed
+// meanwhile, it counts as dismissed.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -16,14 +16,14 @@ QT_END_NAMESPACE
 namespace Pelnar::App::Session
 {
 
-/// While a dialog runs, \a closeDialog closes it; afterwards it is what it was before.
+/// While a dialog runs, \a closeDialog closes it; afterwards \a closeDialog has its previous value.
 void ShowUpdateError(QString const& text, QWidget* parent, std::function<void()>& closeDialog);
 
 enum class ReadyToInstallAnswer
 {
     SkipThisVersion,
     InstallAndRelaunch,
-    RemindLater, ///< also when the dialog was closed in any other way
+    RemindLater, ///< also if the dialog was closed in any other way
 };
 
 /// Asks whether the downloaded \a version of \a applicationName may be installed now. \a closeDialog as above.

@@ -47,11 +47,11 @@ bool SparkleManager::Impl::EnsureVersionOperators() const
 
 bool SparkleManager::Impl::EnsureRemoteVersionIsGreaterThanLocal() const
 {
-    // Held for the length of the calls: an operator may replace the context.
+    // Held during the calls: an operator may replace the context.
     std::shared_ptr<SparkleUpdateContext> const lent = context;
     Core::Version const& local = lent->localVersion;
     Core::Version const& remote = lent->remoteVersion;
-    // Deliberate: "less" and "not equal" are both asked, though a sound pair of operators would make one enough.
+    // Deliberate: both "less" and "not equal" are checked, although one is enough for consistent operators.
     return Ensure(lent->versionLess(local, remote) && !lent->versionEqual(local, remote),
                   Session::Sites::ENSURE_REMOTE_GREATER, "Remote version is not greater than local version");
 }

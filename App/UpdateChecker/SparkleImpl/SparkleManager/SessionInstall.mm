@@ -19,18 +19,18 @@ using Session::ReadyToInstallAnswer;
 using Session::RelaunchReaction;
 using Session::State;
 
-// Where the framework's immediate installation takes "relaunch" and "show user interface".
+// The positions of "relaunch" and "show user interface" among the arguments of the framework's immediate installation.
 constexpr NSInteger RELAUNCH_ARGUMENT = 2;
 constexpr NSInteger USER_INTERFACE_ARGUMENT = 3;
 
-/// Runs \a invocation with that one argument replaced; the other stays as the framework preset it.
+/// Runs \a invocation with this one argument replaced; the other keeps the framework's preset value.
 void InvokeWith(NSInvocation* invocation, NSInteger argument, BOOL value)
 {
     [invocation setArgument:&value atIndex:argument];
     [invocation invoke];
 }
 
-/// Runs \a call; what it throws or raises ends here, on record.
+/// Runs \a call and logs its exception, which does not propagate.
 void RecordFailure(std::function<void()> const& call)
 {
     std::optional<std::string> const failure = Session::DiagnosticOf(call);
@@ -40,8 +40,8 @@ void RecordFailure(std::function<void()> const& call)
     }
 }
 
-/// In the shared defaults, where the framework and the host look, and in the update checker's own, which on Linux stand
-/// elsewhere.
+/// In the shared defaults, where the framework and the host read it, and in the update checker's own defaults, which
+/// are in another file on Linux.
 void StoreSkippedVersion(NSString* version)
 {
     Core::SettingKey const& key = Core::KeyOf(Core::Setting::SkippedVersion);
@@ -50,7 +50,7 @@ void StoreSkippedVersion(NSString* version)
     [shared synchronize];
     Settings::UpdateDefaults own(Foundation::ToQString([[NSBundle mainBundle] bundleIdentifier]));
     own.Remember({{key.setting, Foundation::ToQString(version)}});
-    (void)own.Save(); // the log says what failed
+    (void)own.Save(); // the log has the failure
 }
 
 } // namespace
@@ -58,10 +58,10 @@ void StoreSkippedVersion(NSString* version)
 void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* invocation)
 {
     Session::WriteCurrentState(Session::Sites::WILL_INSTALL, state);
-    // The framework may let go of both while the dialog's event loop runs.
+    // The framework may release both while the dialog's event loop runs.
     auto const keptItem = Foundation::Retained<SUAppcastItem>::Share(item);
     auto const keptInvocation = Foundation::Retained<NSInvocation>::Share(invocation);
-    // The invocation runs once on every path: what fails until then, an operator of the context say, declines.
+    // The invocation runs once on every path: a failure before it, such as of an operator of the context, declines.
     ReadyToInstallAnswer answer = ReadyToInstallAnswer::RemindLater;
     RecordFailure(
         [this, &answer]
@@ -155,7 +155,7 @@ NSString* SparkleManager::Impl::PathToRelaunch()
     Session::WriteCurrentState(Session::Sites::RELAUNCH_PATH, state);
     if (EnsureContext() && EnsureRemoteVersion())
     {
-        // Held for the length of the call: the rule may replace the context.
+        // Held during the call: the rule may replace the context.
         std::shared_ptr<SparkleUpdateContext> const lent = context;
         std::optional<QString> path;
         std::optional<std::string> const failure = Session::DiagnosticOf(

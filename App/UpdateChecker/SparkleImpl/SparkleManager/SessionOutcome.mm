@@ -115,12 +115,12 @@ void SparkleManager::Impl::DidAbort(NSError* error)
     case OutcomeReaction::Nothing:
         return;
     case OutcomeReaction::ReportAndIdle:
-        // No guard: CheckForUpdates enters this state with a context only, and a context is never taken away.
+        // No guard: CheckForUpdates enters this state only with a context, and a context is never removed.
         ReportNoNewerVersion();
         return;
     case OutcomeReaction::ShowErrorAndIdle:
     {
-        // On every way out: an error that cannot be shown must leave nobody locked out.
+        // At every exit: an error that cannot be shown must not leave the session locked.
         Core::ScopedFunctionCall const idle(
             nullptr, [this] { SwitchToIdle(); }, true);
         Session::ShowUpdateError(Foundation::ToQString([error localizedDescription]), DialogParent(), closeDialog);
@@ -137,7 +137,7 @@ void SparkleManager::Impl::DidAbort(NSError* error)
 
 QWidget* SparkleManager::Impl::DialogParent() const
 {
-    // A copy: the getter may replace itself, or the whole context.
+    // A copy: the getter may replace itself or the whole context.
     std::function<QWidget*()> const getter = context ? context->parentWidgetGetter : nullptr;
     if (!getter)
     {

@@ -103,7 +103,7 @@ void SparkleManager::ShowUpdateDialog()
         return;
     }
     bool const inBackground = m_impl->context->inBackground;
-    // Deliberate: a check in background without automatic download counts as one with windows.
+    // Deliberate: a background check without automatic download counts as a check with windows.
     m_impl->SetState(inBackground && AutomaticallyDownloadsUpdates() ? State::SILENT_DOWNLOADING
                                                                      : State::PREPARING_TO_SHOW_CHANGELOG);
     m_impl->updateType = UpdateType::UNKNOWN;
@@ -135,7 +135,7 @@ void SparkleManager::ShowUpdateDialog()
 void SparkleManager::RejectUpdateAndHideDialog()
 {
     WriteCurrentState(Session::Sites::REJECT, m_impl->state);
-    // A copy: what the closing sets off may show another dialog, which sets a function of its own.
+    // A copy: closing may open another dialog, which sets its own function.
     std::function<void()> const closeDialog = m_impl->closeDialog;
     if (closeDialog)
     {
@@ -162,7 +162,7 @@ SparkleManager::Impl::~Impl()
     SetState(State::WAITING);
     Unlock();
     DestroyUpdater();
-    // The fields follow in the reverse order of their declaration: closeDialog, extensions, context.
+    // The fields are destroyed next, in reverse order of their declaration: closeDialog, extensions, context.
 }
 
 void SparkleManager::Impl::CreateUpdater()
@@ -179,12 +179,12 @@ void SparkleManager::Impl::CreateUpdater()
             {
                 if (!isCreated)
                 {
-                    // The delegate goes with this object; the updater is the framework's and stays.
+                    // The delegate is destroyed with this object; the framework owns the updater, which stays.
                     [updater.Get() setDelegate:nil];
                 }
             },
             true);
-        // The delegate hands out the comparator, and the updater may ask the delegate as soon as it has one.
+        // The delegate returns the comparator, and the updater may ask for it as soon as it has a delegate.
         comparator =
             Retained<PelnarSparkleVersionComparator>::Adopt([[PelnarSparkleVersionComparator alloc] initWithImpl:this]);
         delegate =
@@ -201,7 +201,7 @@ void SparkleManager::Impl::DestroyUpdater()
     Core::Write(Session::Sites::DESTROY_UPDATER);
     @autoreleasepool
     {
-        // Detached first, so that the updater never calls a delegate that is gone.
+        // Detached first, so that the updater never calls a destroyed delegate.
         [updater.Get() setDelegate:nil];
         updater.Reset();
         delegate.Reset();
@@ -212,8 +212,8 @@ void SparkleManager::Impl::DestroyUpdater()
 bool SparkleManager::Impl::Lock()
 {
     WriteCurrentState(Session::Sites::LOCK, state);
-    // Deliberate: the state is not asked. An idle updater can be lent what the last request left behind; one that
-    // is still busy can not, for instance with a download that outlived its holder. One that does not say counts as
+    // Deliberate: the state is not checked. An idle updater can be lent with the remains of the last request. A busy
+    // one cannot, for example during a download that outlived its holder. An updater that does not answer counts as
     // busy.
     bool isBusy = true;
     std::optional<std::string> const reason =

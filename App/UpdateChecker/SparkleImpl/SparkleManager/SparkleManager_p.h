@@ -1,6 +1,6 @@
-// SparkleManager_p.h: the session's implementation record, for the session's own sources. Objective-C++ only.
-// Thread: the Qt main thread; `locked` alone is atomic, so that a lock attempt cannot slip between test and set.
-// Ownership: the session owns the framework's objects below; the delegate and the comparator point back without owning.
+// SparkleManager_p.h: the session's implementation record, for the session's own sources. Objective-C++ only. Thread:
+// the Qt main thread; only `locked` is atomic, so that no other attempt to lock comes between test and set. Ownership:
+// the session owns the framework's objects below; the delegate and the comparator keep non-owning pointers back.
 #pragma once
 
 #if !defined(__OBJC__)
@@ -43,7 +43,7 @@ public:
 
     // Lock, context and state.
     [[nodiscard]] bool Lock();
-    /// May raise what the framework raises for the feed's address; LockUpdater undoes what was done until then.
+    /// May raise the framework's exception for the feed's address; LockUpdater then undoes the completed steps.
     void SetContext(SharedNotNullPtr<SparkleUpdateContext> const& newContext);
     void Unlock();
     void UnlockIfRequested();
@@ -55,20 +55,20 @@ public:
     /// Ends a request whose holder waits: no newer version was found. REQUIRES: a context.
     void ReportNoNewerVersion();
 
-    // Guards: true silently, or one error record and false. All but the first REQUIRE a context.
+    // Guards: return true without a record, or false with one error record. All except the first REQUIRE a context.
     [[nodiscard]] bool EnsureContext() const;
     [[nodiscard]] bool EnsureCheckFinishedCallback() const;
     [[nodiscard]] bool EnsureLocalVersion() const;
     [[nodiscard]] bool EnsureRemoteVersion() const;
     [[nodiscard]] bool EnsureVersionOperators() const;
-    /// Throws std::bad_function_call when an operator that it needs is missing.
+    /// Throws std::bad_function_call if a needed operator is missing.
     [[nodiscard]] bool EnsureRemoteVersionIsGreaterThanLocal() const;
 
     // The framework's objects.
     void CreateUpdater();
     void DestroyUpdater();
 
-    // The framework's callbacks, one each; the delegate only forwards.
+    // One function for each of the framework's callbacks; the delegate only forwards.
     void DidFindValidUpdate(SUAppcastItem* item);
     void DidNotFindUpdate();
     void DidAbort(NSError* error);
@@ -82,13 +82,13 @@ public:
     Session::UpdateType DetectUpdateType(SUAppcastItem* item) const;
     QVariantMap DetectExtensions(SUAppcastItem* item) const;
     [[nodiscard]] bool ValidateAppcastItem(SUAppcastItem* item) const;
-    /// Either may be nil; nil when neither is valid.
+    /// Either may be nil; returns nil if neither is valid.
     SUAppcastItem* SelectBestValidAppcastItem(SUAppcastItem* a, SUAppcastItem* b) const;
     /// The delegate's whole answer; writes its records and bestItemIsDelta.
     SUAppcastItem* SelectBestOfAppcast(SUAppcast* appcast);
     void PrintDebugSUAppcastItemInfo(SUAppcastItem* item, std::string const& prefix) const;
 
-    // The comparator is made before the delegate, which hands it out.
+    // The comparator is created before the delegate, which returns it.
     Foundation::Retained<SUUpdater> updater;
     Foundation::Retained<PelnarSparkleUpdaterDelegate> delegate;
     Foundation::Retained<PelnarSparkleVersionComparator> comparator;
@@ -96,21 +96,21 @@ public:
     std::atomic<bool> locked{false};
     bool unlockRequested = false; ///< unlock when a callback next returns the state to WAITING
     Session::State state = Session::State::WAITING;
-    Session::UpdateType updateType = Session::UpdateType::UNKNOWN; ///< of the update last reported
-    QVariantMap extensions;                                        ///< of the update last reported
+    Session::UpdateType updateType = Session::UpdateType::UNKNOWN; ///< of the last reported update
+    QVariantMap extensions;                                        ///< of the last reported update
     bool bestItemIsDelta = false;
     std::function<void()> closeDialog; ///< set while the session shows a dialog
 
 private:
-    /// REQUIRES: an open pool, which may be all that keeps the answer.
-    SUAppcastItem* ChooseFromAppcast(SUAppcast* appcast);
-    void ReportFoundVersion(SUAppcastItem* item);
-    void WriteExtensions() const;
-    /// What the context's getter answers; null without a getter, and for one that fails, which is recorded. The getter
-    /// may replace the context.
-    QWidget* DialogParent() const;
-    [[nodiscard]] bool IsInstallable() const;
-    QString InstalledApplicationName() const;
+  /// REQUIRES: an open pool, which may be the only owner of the answer.
+  SUAppcastItem* ChooseFromAppcast(SUAppcast* appcast);
+  void ReportFoundVersion(SUAppcastItem* item);
+  void WriteExtensions() const;
+  /// The result of the context's getter; null without a getter, and if it fails, which is logged. The getter may
+  /// replace the context.
+  QWidget* DialogParent() const;
+  [[nodiscard]] bool IsInstallable() const;
+  QString InstalledApplicationName() const;
 };
 
 } // namespace Pelnar::App

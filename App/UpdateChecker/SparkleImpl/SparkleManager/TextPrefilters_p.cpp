@@ -9,7 +9,7 @@ namespace
 {
 
 constexpr char16_t SPACE = u' ';
-/// A host that is shorter is within every limit of host names and of their labels.
+/// A shorter host is within every limit of host names and of their labels.
 constexpr int PLAIN_HOST_LENGTH_LIMIT = 62;
 
 constexpr bool IsLowerLetter(char16_t unit)
@@ -43,15 +43,15 @@ constexpr bool IsPlainInPath(char16_t unit)
     return unit < 128 && PLAIN_IN_PATH.isPlain[unit];
 }
 
-/// True when \a host can be nothing but a valid name: labels of lower-case letters, single inner hyphens and digits, of
-/// which the last has letters only (else it might be read as a number). Two hyphens might begin an encoded label.
+/// True if \a host is certainly a valid name: labels of lower-case letters, single inner hyphens and digits. The last
+/// label has only letters, because otherwise it might be read as a number. Two hyphens might begin an encoded label.
 bool IsPlainHost(QStringView host)
 {
     if (host.isEmpty() || host.size() >= PLAIN_HOST_LENGTH_LIMIT)
     {
         return false;
     }
-    bool hasOnlyLetters = true; // the label that is being read
+    bool hasOnlyLetters = true; // about the current label
     char16_t previous = u'.';
     for (QChar const character : host)
     {
@@ -94,7 +94,7 @@ bool IsCertainlyValidAddress(QStringView text)
     {
         return false;
     }
-    bool isPlain = true; // looked at once at the end: nearly every address is plain
+    bool isPlain = true; // checked once at the end: nearly every address is plain
     for (qsizetype i = hostLength; i < rest.size(); ++i)
     {
         isPlain &= IsPlainInPath(rest[i].unicode());
@@ -102,9 +102,9 @@ bool IsCertainlyValidAddress(QStringView text)
     return isPlain;
 }
 
-/// Qt takes the last but one of the parts between blanks as the day of the month. A printable ASCII character in it
-/// that no number has rules the date out; so does the lack of such a part. Every date of the form that feeds carry
-/// ends in a time of day and a zone, and so falls here.
+/// Qt takes the second to last of the parts between blanks as the day of the month. If this part is missing, or
+/// contains a printable ASCII character that no number has, the text is not a date. Every usual date of a feed ends in
+/// a time of day and a zone, and so is decided here.
 bool IsCertainlyNoTextDate(QStringView text)
 {
     qsizetype position = text.size();

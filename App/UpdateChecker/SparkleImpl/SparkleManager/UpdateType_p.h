@@ -1,5 +1,5 @@
-// UpdateType_p.h: the kinds of update package, their names and the order in which they are wanted. Plain C++, private
-// to the session. Thread: values and constants.
+// UpdateType_p.h: the kinds of update package, their names and their order of preference. Plain C++, private to the
+// session. Constants and pure functions.
 #pragma once
 
 #include <QList>
@@ -12,13 +12,13 @@ namespace Pelnar::App::Session
 
 enum class UpdateType : std::int32_t
 {
-    UNKNOWN = 0,   ///< not classified; detection never answers it
+    UNKNOWN = 0,   ///< not classified; detection never returns it
     INSTALLER = 1, ///< the download's file name marks a guided or interactive installation
     BUNDLE = 2,    ///< any other full download
     DELTA = 3,     ///< a delta update
 };
 
-/// The name that every record prints; "Unknown UpdateType" for a value outside the four.
+/// The name in every record; "Unknown UpdateType" for a value outside the four.
 constexpr char const* UpdateTypeName(UpdateType type)
 {
     switch (type)

@@ -1,5 +1,5 @@
-// VersionOperators_p.h: how versions are compared: their components, absent ones read as 0. Plain C++, private to the
-// updater; the back end lends these two to the session. Thread: any; no state.
+// VersionOperators_p.h: compares versions by their components, with absent ones as 0. Plain C++, private to the
+// updater; the back end lends these two functions to the session. Pure functions.
 #pragma once
 
 #include "HostFramework/Version.h"

@@ -17,12 +17,12 @@ int OrderOfVersions(QString const& versionA, QString const& versionB, VersionOpe
             QString const separator = QStringLiteral(".");
             Core::Version const a = Util::VersionFromString(versionA, separator);
             Core::Version const b = Util::VersionFromString(versionB, separator);
-            // Deliberate: equality is asked first and wins over the order.
+            // Deliberate: equality is checked first and has priority over the order.
             order = equal(a, b) ? 0 : less(a, b) ? -1 : 1;
         });
     if (failure)
     {
-        // Deliberate: versions that cannot be compared count as the same; the framework's own comparator is not asked.
+        // Deliberate: versions that cannot be compared count as equal; the framework's own comparator is not used.
         Core::Write(Sites::COMPARE_DIAGNOSTIC, *failure);
         Core::Write(Sites::COMPARE_VERSIONS,
                     "versionA=\"" + versionA.toStdString() + "\", versionB=\"" + versionB.toStdString() + "\"");

@@ -1,5 +1,4 @@
-// RelaunchPath_p.h: where the application lives once a given version of it is installed.
-// Thread: any. Ownership: none.
+// RelaunchPath_p.h: the path of the application after a given version of it is installed. Pure functions.
 #pragma once
 
 #include "HostFramework/IoPath.h"
@@ -10,8 +9,8 @@
 namespace Pelnar::App
 {
 
-/// "/Applications/First Second.app", or "/Applications/First Second N.app" from major version N = 2 on. The parts are
-/// in UTF-8. Whether the path exists is not looked at.
+/// "/Applications/First Second.app", or "/Applications/First Second N.app" if the major version N is at least 2. The
+/// parts are in UTF-8. It does not check that the path exists.
 [[nodiscard]] ioPath RelaunchPathFor(std::string const& bundleNameFirstPart, std::string const& bundleNameSecondPart,
                                      Core::Version const& version);
 

@@ -58,10 +58,10 @@ public:
     void StartWaitingCheck(ISession* opened, AbstractUpdaterImpl& owner);
 
     std::shared_ptr<SparkleUpdateContext> context;
-    ISession* session = nullptr;      ///< null until it is open, and when it cannot be opened
-    bool isOpeningSession = true;     ///< the session is being loaded: what it would be asked has to wait
+    ISession* session = nullptr;      ///< null until it is open, and if it cannot be opened
+    bool isOpeningSession = true;     ///< the session is being loaded: its operations must wait
     bool isCheckWaiting = false;      ///< for the session
-    bool locked = false;              ///< the session is this updater's, from its opening to the end of the updater
+    bool locked = false;              ///< this updater holds the session, from its opening to the end of the updater
     std::function<void()> hideDialog; ///< set while the alert is open
 };
 
@@ -84,7 +84,8 @@ UpdaterSparkle::Impl::Impl(NotNull<std::shared_ptr<ICustomizationManager>> const
                         "Call SparkleUpdateContext::checkFinishedCallback without live AbstractUpdaterImpl!");
             return;
         }
-        // The updater is the timer's context: Qt drops the call when it dies first, and this object with it.
+        // The updater is the timer's context: Qt drops the call if the updater, and this object with it, is destroyed
+        // first.
         QTimer::singleShot(0, Qt::PreciseTimer, guarded.data(),
                            [updater = guarded.data(), this]
                            {
@@ -113,7 +114,7 @@ void UpdaterSparkle::Impl::TakeSession(ISession* opened)
     session = opened;
     if (!session)
     {
-        // As after any check that fails.
+        // As after every failed check.
         context->remoteVersion = context->localVersion;
         return;
     }
@@ -123,7 +124,7 @@ void UpdaterSparkle::Impl::TakeSession(ISession* opened)
 void UpdaterSparkle::Impl::StartWaitingCheck(ISession* opened, AbstractUpdaterImpl& owner)
 {
     QPointer<AbstractUpdaterImpl> const self(&owner);
-    // The host's call has returned, so nothing may be thrown here: a check that cannot be started is one that fails.
+    // The host's call has returned, so nothing may be thrown here. A check that cannot start counts as failed.
     std::string failure;
     try
     {
@@ -138,7 +139,7 @@ void UpdaterSparkle::Impl::StartWaitingCheck(ISession* opened, AbstractUpdaterIm
     {
         failure = exception.what();
     }
-    catch (...) // the framework's
+    catch (...) // an exception of the framework
     {
         failure = "an exception of another kind";
     }
@@ -158,7 +159,7 @@ UpdaterSparkle::Impl::~Impl()
     {
         session->UnlockUpdaterWhenPossible();
     }
-    // After the unlocking, and also without the lock: a session that keeps the context must not call into this object.
+    // After the unlocking, and also without the lock: a session that keeps the context must not call this object.
     context->checkFinishedCallback = nullptr;
 }
 
@@ -199,8 +200,8 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
         return;
     }
 
-    // The getter and the alert's event loop may see this updater deleted, by the Qt parent of its manager, and the
-    // alert deleted with its own parent. Nothing below may then touch either.
+    // During the getter and the alert's event loop, the Qt parent of the manager may delete this updater, and the
+    // alert's own parent may delete the alert. After that no code below may use either.
     QPointer<UpdaterSparkle> const self(this);
     QWidget* const parent = parentGetter ? parentGetter() : nullptr;
     if (!self)
@@ -238,7 +239,7 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
 
 void UpdaterSparkle::RejectUpdateAndHideDialog()
 {
-    // A copy: what the closing sets off may end with this object.
+    // A copy: closing may destroy this object.
     std::function<void()> const hideDialog = m_impl->hideDialog;
     if (hideDialog)
     {

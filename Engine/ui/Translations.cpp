@@ -33,8 +33,8 @@ constexpr std::array TRANSLATIONS = {
     Translation{QLocale::Chinese, "zh_CN"},
 };
 
-/// The translation of one language, or nothing. Brazilian Portuguese stands for all Portuguese; simplified Chinese does
-/// not stand for traditional.
+/// The translation of one language; empty if there is none. Brazilian Portuguese serves all Portuguese; simplified
+/// Chinese does not serve traditional Chinese.
 QString NameFor(QLocale const& language)
 {
     for (Translation const& translation : TRANSLATIONS)

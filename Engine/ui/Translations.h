@@ -13,7 +13,7 @@ namespace Pelnar::Engine
 /// The names of all translations, like "de" or "pt_BR"; "en" is among them.
 [[nodiscard]] QStringList TranslationNames();
 
-/// The translation for the first language of \a locale's preferred ones that there is one for; "en" when there is none.
+/// The translation for the first of \a locale's preferred languages that has one; "en" if none has.
 [[nodiscard]] QString TranslationNameFor(QLocale const& locale);
 
 /// Installs the translation for \a locale in place of the one installed before. Windows that are shown already keep

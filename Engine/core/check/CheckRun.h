@@ -36,10 +36,10 @@ struct CheckSettings
     FeedLimits feedLimits;
     FeedSigning feedSigning = FeedSigning::NotAsked;
     TrustedKeys publicKeys;          ///< of the running bundle
-    std::string rootPublicKey;       ///< base64; empty when the running bundle has none
+    std::string rootPublicKey;       ///< base64; empty if the running bundle has none
     std::string bundleIdentifier;    ///< of the running bundle
-    FeedRecord feedRecord;           ///< of the last check
-    IFeedStore* feedStore = nullptr; ///< outlives the check; null when no feed is kept
+    FeedRecord feedRecord;           ///< from the last check
+    IFeedStore* feedStore = nullptr; ///< outlives the check; null if no feed is kept
 };
 
 /// An item of the loaded feed, or a delta of one.
@@ -53,9 +53,9 @@ struct ItemPlace
 struct FoundUpdate
 {
     ItemPlace place;
-    std::optional<ItemPlace> fallback; ///< of a delta: the whole item of the same version, if the application gave one
-    AddressReach feedReach = AddressReach::Network; ///< of the place where the feed came from
-    TrustedKeys publicKeys;                         ///< by which its downloads are judged
+    std::optional<ItemPlace> fallback; ///< for a delta: the full item of the same version, if the application gave one
+    AddressReach feedReach = AddressReach::Network; ///< of the place that the feed came from
+    TrustedKeys publicKeys;                         ///< with which its downloads are verified
 };
 
 /// The application's answer to the question for the best item.
@@ -136,7 +136,7 @@ private:
     AddressReach m_feedReach = AddressReach::Network;
     std::vector<FeedItem> m_items;
     bool m_hasPutOff = false;
-    BelievedKeys m_keys; ///< by which the loaded feed was judged
+    BelievedKeys m_keys; ///< with which the loaded feed was verified
 };
 
 } // namespace Pelnar::Engine

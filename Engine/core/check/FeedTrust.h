@@ -25,9 +25,9 @@ enum class FeedSigning
 /// The serial and expiry date of a signed feed.
 struct FeedTerms
 {
-    qint64 serial = 0;       ///< from 1; grows with every feed that is signed
+    qint64 serial = 0;       ///< from 1; grows with every signed feed
     QDateTime expires;       ///< from then on the feed is refused
-    std::string signer = {}; ///< id of the key that signed; empty where nobody asked
+    std::string signer = {}; ///< id of the key that signed; empty if it was not requested
 };
 
 /// The content of a feed that one of \a keys signed as a whole, or why it is refused. No byte is parsed as XML.
@@ -37,13 +37,13 @@ struct FeedTerms
 /// 9223372036854775807; 0 for any other text.
 [[nodiscard]] qint64 FeedSerial(QString const& text);
 
-/// The moment that \a text is, in the one form that feeds have; invalid for anything else.
+/// Parses \a text as a time in the one form that feeds use; invalid for any other text.
 [[nodiscard]] QDateTime FeedMoment(QString const& text);
 
-/// The id of that one of \a keys which signed \a feed; empty when none did.
+/// The id of the key among \a keys that signed \a feed; empty if none did.
 [[nodiscard]] std::string FeedSigner(QByteArray const& feed, TrustedKeys const& keys);
 
-/// What \a channel says, or why a client that requires signed feeds refuses it: each must be there once and be
+/// The terms in \a channel, or why a client that requires signed feeds refuses it: each must appear once and be
 /// readable.
 [[nodiscard]] std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel);
 

@@ -14,13 +14,13 @@ QByteArray const LINE_START = QByteArrayLiteral("<!-- pelnar-keys: ");
 QByteArray const LINE_END = QByteArrayLiteral(" -->\n");
 constexpr char ALGORITHM[] = "ed25519";
 
-/// Takes a text apart, line by line.
+/// Splits a text into lines.
 class StatementReader
 {
 public:
     explicit StatementReader(std::string_view text) : m_rest(text) {}
 
-    /// The rest of the next line behind \a word and a blank; nothing when the next line is another one.
+    /// The rest of the next line after \a word and a blank; empty if the next line has another word.
     std::optional<std::string> Take(std::string_view word)
     {
         std::size_t const end = m_rest.find('\n');
@@ -34,7 +34,7 @@ public:
         return std::string(line.substr(word.size() + 1));
     }
 
-    /// All lines that follow with \a word, \a most of them.
+    /// All following lines with \a word, at most \a most.
     std::vector<std::string> TakeAll(std::string_view word, std::size_t most)
     {
         std::vector<std::string> values;
@@ -128,7 +128,8 @@ std::optional<KeyStatement> ParseKeyStatement(std::string_view text)
     statement.bundles = reader.TakeAll("bundle", KeyStatement::MOST_BUNDLES);
     statement.validKeys = reader.TakeAll("valid", TrustedKeys::MOST_KEYS);
     statement.revoked = reader.TakeAll("revoked", KeyStatement::MOST_REVOKED);
-    // Written again it must be the same: no blank, no leading zero and no NUL makes a second spelling.
+    // The statement, written again, must give the same text: no blank, no leading zero and no NUL gives a second
+    // spelling.
     bool const isWhole = isOurs && reader.IsAtEnd() && IsUsable(statement) && TextOf(statement) == text;
     return isWhole ? std::optional(std::move(statement)) : std::nullopt;
 }
@@ -167,7 +168,7 @@ std::variant<SignedKeyStatement, KeyStatementFault> FindKeyStatement(QByteArray 
     }
     int const valueStart = start + LINE_START.size();
     int const end = feed.indexOf(LINE_END, valueStart);
-    // The longest line that a statement can make; what is longer is not taken apart.
+    // The longest possible line of a statement; a longer line is not parsed.
     constexpr int MOST_LINE_BYTES = int(KeyStatement::MOST_BYTES) / 3 * 4 + 256;
     bool const isAlone = (start == 0 || feed.at(start - 1) == '\n') && feed.lastIndexOf(LINE_START) == start;
     if (end < 0 || !isAlone || end - valueStart > MOST_LINE_BYTES)

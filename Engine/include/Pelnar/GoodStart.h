@@ -10,7 +10,7 @@ namespace Pelnar
 {
 
 #ifdef __APPLE__
-inline void ConfirmGoodStart() {} // versions are not taken back there
+inline void ConfirmGoodStart() {} // no version is rolled back on this system
 #else
 /// Confirms that the running version has started well. The previous version is then no longer needed and is removed in
 /// the background. Call this once at every start, when the application is usable: its window is shown and its documents

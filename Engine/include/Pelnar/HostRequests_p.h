@@ -1,6 +1,5 @@
-// HostRequests_p.h: what the update checker passes on from a host to the engine. Hosts call the functions of the public
-// headers beside this one, which load the engine first.
-// Thread: the Qt main thread. Ownership: none.
+// HostRequests_p.h: the calls of a host that the update checker passes on to the engine. Hosts call the functions of
+// the public headers in this folder, which load the engine first. Thread: the Qt main thread.
 #pragma once
 
 #include <Pelnar/AutomaticDownloads.h>

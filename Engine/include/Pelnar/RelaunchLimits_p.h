@@ -1,5 +1,4 @@
-// RelaunchLimits_p.h: which arguments a program can be started with after an update.
-// Thread: any. Ownership: none. Not for hosts.
+// RelaunchLimits_p.h: which arguments a program can be started with after an update. Pure functions. Not for hosts.
 #pragma once
 
 #include <cstddef>
@@ -10,10 +9,10 @@ namespace Pelnar::Engine
 {
 
 constexpr std::size_t RELAUNCH_ARGUMENTS_MAX_COUNT = 1024;
-/// All arguments together, each with the NUL that ends it. A system starts a program with many times that.
+/// All arguments together, including the NUL that ends each. A system can start a program with many times as much.
 constexpr std::size_t RELAUNCH_ARGUMENTS_MAX_BYTES = std::size_t{64} << 10;
 
-/// What is wrong with \a arguments, as the end of a sentence; null when a program can be started with them.
+/// What is wrong with \a arguments, as the end of a sentence; null if a program can be started with them.
 inline char const* FaultOfRelaunchArguments(std::vector<std::string> const& arguments)
 {
     if (arguments.size() > RELAUNCH_ARGUMENTS_MAX_COUNT)

@@ -1,5 +1,5 @@
-// UpdateFiles_p.h: how the names of all files begin that an update makes beside a bundle.
-// Thread: any. Ownership: none. Not for hosts.
+// UpdateFiles_p.h: the start of the names of all files that an update creates next to a bundle. Constants. Not for
+// hosts.
 #pragma once
 
 #include <string_view>
@@ -8,7 +8,8 @@ namespace Pelnar::Engine
 {
 
 inline constexpr std::string_view UPDATE_FILES_BEGIN = ".pelnar-";
-/// Things of others that stood in an update's way begin like this. They belong to no update.
+/// The start of the names of other users' objects that were renamed because they were in the way. They belong to no
+/// update.
 inline constexpr std::string_view ASIDE_FILES_BEGIN = ".pelnar-aside-";
 
 } // namespace Pelnar::Engine

@@ -2,14 +2,84 @@
 
 #include "Publisher/choice/ClientOptions.h"
 
+#include <QJsonArray>
+
 namespace Pelnar::Publisher
 {
+namespace
+{
+
+constexpr char const* ANY_MACHINE = "any";
+
+QStringList ChannelsOf(InstallationOptions const& options)
+{
+    QStringList channels;
+    for (QString const& channel : QString::fromStdString(options.channels).split(QLatin1Char(',')))
+    {
+        if (!channel.trimmed().isEmpty())
+        {
+            channels.append(channel.trimmed());
+        }
+    }
+    return channels;
+}
+
+} // namespace
 
 void AddPlatformOption(CLI::App& verb, std::string& platform)
 {
     verb.add_option("--platform", platform, "Whose items count")
         ->capture_default_str()
         ->check(CLI::IsMember(PlatformNames()));
+}
+
+void AddInstallationOptions(CLI::App& verb, InstallationOptions& options)
+{
+    options.machine = Engine::OwnMachineName().toStdString();
+    verb.add_option("--machine", options.machine,
+                    "Machine of the clients, such as x86_64 or aarch64, or \"any\"; default: this one")
+        ->type_name("NAME");
+    verb.add_option("--channels", options.channels, "Channels that the clients list, with commas between them")
+        ->type_name("LIST");
+    verb.add_option(
+            "--rollout-group", options.rolloutGroup,
+            "Answer as for automatic checks in this group of a staged rollout; default: as for a person who asks")
+        ->check(CLI::Range(1, Engine::ROLLOUT_GROUPS))
+        ->type_name("N");
+    verb.add_option("--at", options.moment,
+                    "Moment of the check for a staged rollout, as 2030-01-31T12:00:00Z; default: now")
+        ->type_name("TIME");
+}
+
+std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options)
+{
+    Engine::Installation installation;
+    installation.machine = options.machine == ANY_MACHINE ? QString() : QString::fromStdString(options.machine);
+    installation.channels = ChannelsOf(options);
+    installation.now = QDateTime::currentDateTimeUtc();
+    if (!options.moment.empty())
+    {
+        QString const moment = QString::fromStdString(options.moment);
+        installation.now = QDateTime::fromString(moment, Qt::ISODate);
+        if (!installation.now.isValid())
+        {
+            return Problem{QString(), 0, 0, QStringLiteral("--at: \"%1\" is no moment").arg(moment),
+                           QStringLiteral("write it as 2030-01-31T12:00:00Z")};
+        }
+    }
+    if (options.rolloutGroup > 0)
+    {
+        installation.rolloutGroup = [group = options.rolloutGroup - 1](QString const&) { return group; };
+    }
+    return installation;
+}
+
+void AddInstallation(QJsonObject& object, InstallationOptions const& options)
+{
+    object.insert(QStringLiteral("machine"), QString::fromStdString(options.machine));
+    object.insert(QStringLiteral("channels"), QJsonArray::fromStringList(ChannelsOf(options)));
+    object.insert(QStringLiteral("rolloutGroup"),
+                  options.rolloutGroup > 0 ? QJsonValue(options.rolloutGroup) : QJsonValue(QJsonValue::Null));
 }
 
 void AddPublishedAtOption(CLI::App& verb, std::string& address)

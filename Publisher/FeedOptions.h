@@ -2,15 +2,36 @@
 // Thread: the main thread. Ownership: the values are the verb's and outlive its command line.
 #pragma once
 
+#include "Engine/core/feed/ReleasePolicy.h"
+#include "Publisher/Console.h"
+
+#include <QJsonObject>
+
 #include <CLI/CLI.hpp>
 
 #include <string>
+#include <variant>
 
 namespace Pelnar::Publisher
 {
 
 /// "--platform"; the value that \a platform has is the default.
 void AddPlatformOption(CLI::App& verb, std::string& platform);
+/// What a command line says of the installations that it asks about, beside their versions and systems.
+struct InstallationOptions
+{
+    std::string machine;
+    std::string channels;
+    int rolloutGroup = 0; ///< from 1; 0 for a person who asks
+    std::string moment;
+};
+
+/// "--machine", "--channels", "--rollout-group" and "--at".
+void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
+[[nodiscard]] std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options);
+/// The members "machine", "channels" and "rolloutGroup" that the JSON of several verbs has.
+void AddInstallation(QJsonObject& object, InstallationOptions const& options);
+
 /// "--published-at".
 void AddPublishedAtOption(CLI::App& verb, std::string& address);
 

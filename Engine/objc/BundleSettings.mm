@@ -118,6 +118,7 @@ CheckSettings ReadCheckSettings(QUrl const& feedUrl)
     settings.skippedVersion = ReadSkippedVersion();
     settings.languages = QLocale().uiLanguages();
     settings.platform = ReadPlatform();
+    settings.machine = OwnMachineName();
     settings.insecureHttp =
         IsSettingTrue(Setting::AllowsInsecureFeeds) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
     settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();

@@ -68,7 +68,7 @@ QString OwnPlatformName()
 }
 
 std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& publishedAt,
-                                            Engine::FeedPlatform platform, Console const& console)
+                                            Engine::FeedTarget const& target, Console const& console)
 {
     std::variant<FeedBytes, Problem> source = ReadFeed(name, publishedAt, console);
     if (auto const* const problem = std::get_if<Problem>(&source))
@@ -76,7 +76,7 @@ std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& 
         return *problem;
     }
     ParsedFeed feed{std::get<FeedBytes>(std::move(source)), {}};
-    Engine::FeedParseResult parsed = Engine::ParseFeed(feed.source.bytes, feed.source.address, platform);
+    Engine::FeedParseResult parsed = Engine::ParseFeed(feed.source.bytes, feed.source.address, target);
     if (!parsed.HasSucceeded())
     {
         QString const& detail = parsed.error.detail;

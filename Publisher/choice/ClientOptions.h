@@ -51,6 +51,6 @@ struct ParsedFeed
 
 /// Reads and parses a feed as a client does.
 [[nodiscard]] std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& publishedAt,
-                                                          Engine::FeedPlatform platform, Console const& console);
+                                                          Engine::FeedTarget const& target, Console const& console);
 
 } // namespace Pelnar::Publisher

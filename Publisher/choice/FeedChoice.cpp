@@ -2,10 +2,16 @@
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "HostFramework/VersionText.h"
 
+#include <algorithm>
 #include <functional>
+#include <iterator>
 #include <map>
 #include <unordered_map>
+#include <unordered_set>
+#include <utility>
 
 namespace Pelnar::Publisher
 {
@@ -69,6 +75,18 @@ private:
     std::function<bool(Core::Version const&, Core::Version const&)> const m_isSame = App::Session::IsSameVersion;
 };
 
+/// As the session's comparator: texts that cannot be compared count as the same.
+int OrderOfTexts(QString const& textA, QString const& textB)
+{
+    Core::Version const a = App::Session::VersionFromStringNoexcept(textA);
+    Core::Version const b = App::Session::VersionFromStringNoexcept(textB);
+    if (!a.IsValid() || !b.IsValid() || App::Session::IsSameVersion(a, b))
+    {
+        return 0;
+    }
+    return App::Session::IsOlderVersion(a, b) ? -1 : 1;
+}
+
 /// Keeps the best of the items that it is offered one after the other.
 class Contest
 {
@@ -108,12 +126,15 @@ private:
 };
 
 /// The deltas that the session meets.
-std::vector<FeedItem const*> MetDeltas(FeedItem const& full)
+std::vector<FeedItem const*> MetDeltas(FeedItem const& full, Engine::Installation const& installation)
 {
     std::map<QString, FeedItem const*> lastOfText;
     for (FeedItem const& delta : full.deltas)
     {
-        lastOfText[delta.deltaFrom] = &delta;
+        if (!Engine::IsLeftOut(PolicyOf(delta, installation)))
+        {
+            lastOfText[delta.deltaFrom] = &delta;
+        }
     }
     std::vector<FeedItem const*> met;
     for (FeedItem const& delta : full.deltas)
@@ -131,7 +152,7 @@ std::vector<FeedItem const*> MetDeltas(FeedItem const& full)
 class FeedChooser::Impl
 {
 public:
-    explicit Impl(std::vector<FeedItem> const& items);
+    Impl(std::vector<FeedItem> const& items, Engine::Installation installation);
 
     FeedChoice Choose(Client const& client);
     FeedItem const* Chosen(Client const& client);
@@ -140,46 +161,81 @@ private:
     using Candidates = std::vector<Candidate*>;
 
     FeedChoice ChooseAmong(Candidates const& candidates, Client const& client);
-    Candidates Finalists(Core::Version const& systemVersion);
+    Candidates Finalists(Core::Version const& systemVersion, std::vector<FeedItem const*> const& leftOut);
+    /// The items that are left out for the version of \a client, and not for every one.
+    std::vector<FeedItem const*> LeftOut(Client const& client) const;
     Candidate& CandidateOf(FeedItem const& item) { return m_candidates.try_emplace(&item, item).first->second; }
 
+    Engine::Installation const m_installation;
     std::unordered_map<FeedItem const*, Candidate> m_candidates; ///< items and deltas that were looked at
-    Candidates m_all;
-    std::map<Core::Version, Candidates> m_finalists; ///< by system version
+    Candidates m_all;                                            ///< but for those that are left out for every version
+    std::vector<FeedItem const*> m_bound;                        ///< those of them that depend on the version
+    std::map<std::pair<Core::Version, std::vector<FeedItem const*>>, Candidates> m_finalists; ///< by system version
 };
 
-FeedChooser::Impl::Impl(std::vector<FeedItem> const& items)
+FeedChooser::Impl::Impl(std::vector<FeedItem> const& items, Engine::Installation installation)
+    : m_installation(std::move(installation))
 {
     for (FeedItem const& item : items)
     {
-        m_all.push_back(&CandidateOf(item));
+        bool const isBound = Engine::DependsOnVersion(item);
+        if (isBound || !Engine::IsLeftOut(PolicyOf(item, m_installation)))
+        {
+            m_all.push_back(&CandidateOf(item));
+        }
+        if (isBound)
+        {
+            m_bound.push_back(&item);
+        }
     }
+}
+
+std::vector<FeedItem const*> FeedChooser::Impl::LeftOut(Client const& client) const
+{
+    std::vector<FeedItem const*> leftOut;
+    if (m_bound.empty())
+    {
+        return leftOut;
+    }
+    Engine::Installation const installation = InstallationOf(client, m_installation);
+    std::copy_if(m_bound.begin(), m_bound.end(), std::back_inserter(leftOut),
+                 [&](FeedItem const* item) { return Engine::IsLeftOut(PolicyOf(*item, installation)); });
+    return leftOut;
 }
 
 FeedChoice FeedChooser::Impl::Choose(Client const& client)
 {
-    return ChooseAmong(m_all, client);
+    std::vector<FeedItem const*> const leftOut = LeftOut(client);
+    Candidates candidates;
+    std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(candidates),
+                 [&](Candidate const* candidate)
+                 { return std::find(leftOut.begin(), leftOut.end(), &candidate->item) == leftOut.end(); });
+    return ChooseAmong(candidates, client);
 }
 
 FeedItem const* FeedChooser::Impl::Chosen(Client const& client)
 {
-    auto const [finalists, isNew] = m_finalists.try_emplace(client.systemVersion);
+    std::vector<FeedItem const*> leftOut = LeftOut(client);
+    auto const [finalists, isNew] = m_finalists.try_emplace({client.systemVersion, leftOut});
     if (isNew)
     {
-        finalists->second = Finalists(client.systemVersion);
+        finalists->second = Finalists(client.systemVersion, leftOut);
     }
     return ChooseAmong(finalists->second, client).chosen;
 }
 
 /// The items of the newest version that this system can take, in the order of the feed. No other item can win: the
 /// newer version is preferred before anything else is compared.
-FeedChooser::Impl::Candidates FeedChooser::Impl::Finalists(Core::Version const& systemVersion)
+FeedChooser::Impl::Candidates FeedChooser::Impl::Finalists(Core::Version const& systemVersion,
+                                                           std::vector<FeedItem const*> const& leftOut)
 {
     Subject const subject({OLDER_THAN_ALL, systemVersion});
+    std::unordered_set<FeedItem const*> const absent(leftOut.begin(), leftOut.end());
     Candidates finalists;
     for (Candidate* const candidate : m_all)
     {
-        if (App::Session::Judge(candidate->record, subject.Get()) != Judgement::VALID)
+        if (absent.count(&candidate->item) != 0 ||
+            App::Session::Judge(candidate->record, subject.Get()) != Judgement::VALID)
         {
             continue;
         }
@@ -209,7 +265,7 @@ FeedChoice FeedChooser::Impl::ChooseAmong(Candidates const& candidates, Client c
     choice.full = contest.Best();
     if (choice.full && client.previousAnswer == PreviousAnswer::None)
     {
-        for (FeedItem const* delta : MetDeltas(*choice.full))
+        for (FeedItem const* delta : MetDeltas(*choice.full, InstallationOf(client, m_installation)))
         {
             if (App::Session::StartsFromRunningVersion(delta->deltaFrom, subject.Get()))
             {
@@ -222,7 +278,11 @@ FeedChoice FeedChooser::Impl::ChooseAmong(Candidates const& candidates, Client c
     return choice;
 }
 
-FeedChooser::FeedChooser(std::vector<FeedItem> const& items) : m_impl(std::make_unique<Impl>(items)) {}
+FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
+    : m_impl(std::make_unique<Impl>(items, std::move(installation)))
+{
+}
+
 FeedChooser::~FeedChooser() = default;
 
 FeedChoice FeedChooser::Choose(Client const& client)
@@ -235,9 +295,22 @@ FeedItem const* FeedChooser::Chosen(Client const& client)
     return m_impl->Chosen(client);
 }
 
-FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client)
+FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client,
+                          Engine::Installation const& installation)
 {
-    return FeedChooser(items).Choose(client);
+    return FeedChooser(items, installation).Choose(client);
+}
+
+Engine::Installation InstallationOf(Client const& client, Engine::Installation installation)
+{
+    installation.version =
+        Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
+    return installation;
+}
+
+Engine::PolicyVerdict PolicyOf(FeedItem const& item, Engine::Installation const& installation)
+{
+    return Engine::JudgePolicy(item, installation, OrderOfTexts);
 }
 
 Judgement JudgeFeedItem(FeedItem const& item, Client const& client)

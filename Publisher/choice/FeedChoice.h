@@ -4,7 +4,7 @@
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
-#include "Engine/core/feed/FeedItem.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "HostFramework/Version.h"
 
 #include <QVariantMap>
@@ -50,8 +50,8 @@ struct FeedChoice
 class FeedChooser
 {
 public:
-    /// \a items must outlive it.
-    explicit FeedChooser(std::vector<Engine::FeedItem> const& items);
+    /// \a items must outlive it. \a installation is what all clients have in common; its version is each client's.
+    explicit FeedChooser(std::vector<Engine::FeedItem> const& items, Engine::Installation installation = {});
     ~FeedChooser();
     FeedChooser(FeedChooser const&) = delete;
     FeedChooser& operator=(FeedChooser const&) = delete;
@@ -69,7 +69,13 @@ private:
 };
 
 /// The choice of one client: see FeedChooser::Choose.
-FeedChoice ChooseFromFeed(std::vector<Engine::FeedItem> const& items, Client const& client);
+FeedChoice ChooseFromFeed(std::vector<Engine::FeedItem> const& items, Client const& client,
+                          Engine::Installation const& installation = {});
+
+/// \a installation with the version of \a client.
+Engine::Installation InstallationOf(Client const& client, Engine::Installation installation);
+/// The engine's verdict on \a item, or a delta.
+Engine::PolicyVerdict PolicyOf(Engine::FeedItem const& item, Engine::Installation const& installation);
 
 /// The first test that \a item, or a delta, fails for \a client.
 App::Session::Judgement JudgeFeedItem(Engine::FeedItem const& item, Client const& client);

@@ -40,10 +40,10 @@ _pelnar_appcast()
     if [ -z "$words" ]; then
         case "$verb" in
             "") words="explain lint matrix diff timeline keys sign verify generate check-release sign-feed delta serve -h --help --version" ;;
-            "explain") words="-h --help --local-version --system-version --platform --published-at --after-delta --json" ;;
+            "explain") words="-h --help --local-version --system-version --platform --machine --channels --rollout-group --at --published-at --after-delta --json" ;;
             "lint") words="-h --help --published-at --fetch --signed --public-key --baseline --strict --json --sarif --each --rules" ;;
-            "matrix") words="-h --help --versions --systems --platform --published-at --expect --json" ;;
-            "diff") words="-h --help --versions --platform --published-at --json" ;;
+            "matrix") words="-h --help --versions --systems --platform --machine --channels --rollout-group --at --published-at --expect --json" ;;
+            "diff") words="-h --help --versions --platform --machine --channels --rollout-group --at --published-at --json" ;;
             "timeline") words="-h --help --json" ;;
             "keys") words="generate show export -h --help" ;;
             "keys generate") words="-h --help --format" ;;

@@ -17,6 +17,7 @@ struct DiffOptions
     std::string newFeed;
     std::string publishedAt;
     std::string platform = OwnPlatformName().toStdString();
+    InstallationOptions installation;
     std::string versions;
     bool isJson = false;
 };
@@ -53,14 +54,19 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
 {
     QString const platform = QString::fromStdString(options.platform);
     QString const publishedAt = QString::fromStdString(options.publishedAt);
-    auto const before =
-        ReadItems(QString::fromStdString(options.oldFeed), publishedAt, PlatformFromName(platform), console);
+    auto const read = InstallationOf(options.installation);
+    if (auto const* const problem = std::get_if<Problem>(&read))
+    {
+        return console.Refuse(*problem);
+    }
+    auto const& installation = std::get<Engine::Installation>(read);
+    Engine::FeedTarget const target(PlatformFromName(platform), installation.machine);
+    auto const before = ReadItems(QString::fromStdString(options.oldFeed), publishedAt, target, console);
     if (auto const* const problem = std::get_if<Problem>(&before))
     {
         return console.Refuse(*problem);
     }
-    auto const after =
-        ReadItems(QString::fromStdString(options.newFeed), publishedAt, PlatformFromName(platform), console);
+    auto const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
     if (auto const* const problem = std::get_if<Problem>(&after))
     {
         return console.Refuse(*problem);
@@ -78,10 +84,12 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
         return console.Refuse(*problem);
     }
     std::vector<OutcomeChange> const changes =
-        DiffFeeds(oldItems, newItems, std::get<std::vector<NamedVersion>>(versions));
+        DiffFeeds(oldItems, newItems, std::get<std::vector<NamedVersion>>(versions), installation);
     if (options.isJson)
     {
-        console.PrintJson(JsonOf(changes, oldSource.name, newSource.name, platform));
+        QJsonObject json = JsonOf(changes, oldSource.name, newSource.name, platform);
+        AddInstallation(json, options.installation);
+        console.PrintJson(json);
     }
     else
     {
@@ -111,6 +119,7 @@ void AddDiff(CLI::App& program, VerbContext& context)
                      "Installed versions with commas between them; default: all that either feed names, and 0")
         ->type_name("LIST");
     AddPlatformOption(*verb, options->platform);
+    AddInstallationOptions(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--json", options->isJson, "Print one JSON object");
     SetWork(*verb, context, [options, &context] { return Diff(*options, context.console); });

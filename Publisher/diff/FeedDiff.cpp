@@ -152,11 +152,12 @@ std::vector<SystemRange> SystemRanges(std::vector<Engine::FeedItem> const& oldIt
 
 std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldItems,
                                      std::vector<Engine::FeedItem> const& newItems,
-                                     std::vector<NamedVersion> const& versions)
+                                     std::vector<NamedVersion> const& versions,
+                                     Engine::Installation const& installation)
 {
     std::vector<SystemRange> const ranges = SystemRanges(oldItems, newItems);
-    FeedChooser oldFeed(oldItems);
-    FeedChooser newFeed(newItems);
+    FeedChooser oldFeed(oldItems, installation);
+    FeedChooser newFeed(newItems, installation);
     std::vector<OutcomeChange> changes;
     for (NamedVersion const& version : versions)
     {

@@ -38,7 +38,8 @@ struct OutcomeChange
 /// The changes for \a versions, ranges with the same change joined.
 std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldItems,
                                      std::vector<Engine::FeedItem> const& newItems,
-                                     std::vector<NamedVersion> const& versions);
+                                     std::vector<NamedVersion> const& versions,
+                                     Engine::Installation const& installation = {});
 
 /// Lines for a person, one for all versions with the same change: "5.0 to 5.2 on all systems: none -> 5.3 BUNDLE".
 QStringList TextOf(std::vector<OutcomeChange> const& changes, std::vector<NamedVersion> const& versions);

@@ -17,6 +17,7 @@ struct ExplainOptions
     std::string localVersion;
     std::string systemVersion;
     std::string platform = OwnPlatformName().toStdString();
+    InstallationOptions installation;
     bool isAfterDelta = false;
     bool isJson = false;
 };
@@ -34,9 +35,15 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
             return console.Refuse(*problem);
         }
     }
+    auto const installation = InstallationOf(options.installation);
+    if (auto const* const problem = std::get_if<Problem>(&installation))
+    {
+        return console.Refuse(*problem);
+    }
     QString const platform = QString::fromStdString(options.platform);
-    auto const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                                PlatformFromName(platform), console);
+    auto const feed =
+        ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                  {PlatformFromName(platform), std::get<Engine::Installation>(installation).machine}, console);
     if (auto const* const problem = std::get_if<Problem>(&feed))
     {
         return console.Refuse(*problem);
@@ -44,12 +51,15 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
     PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::Delta : PreviousAnswer::None;
     Explanation const explanation =
         ExplainFeed(std::get<ParsedFeed>(feed).items,
-                    {std::get<NamedVersion>(local).version, std::get<NamedVersion>(system).version, previous});
+                    {std::get<NamedVersion>(local).version, std::get<NamedVersion>(system).version, previous},
+                    std::get<Engine::Installation>(installation));
     ExplainQuestion const question{std::get<ParsedFeed>(feed).source.name, std::get<NamedVersion>(local).text,
                                    std::get<NamedVersion>(system).text, platform, previous};
     if (options.isJson)
     {
-        console.PrintJson(JsonOf(explanation, question));
+        QJsonObject json = JsonOf(explanation, question);
+        AddInstallation(json, options.installation);
+        console.PrintJson(json);
     }
     else
     {
@@ -74,6 +84,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
         ->required()
         ->type_name("V");
     AddPlatformOption(*verb, options->platform);
+    AddInstallationOptions(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");

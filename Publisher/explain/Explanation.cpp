@@ -60,8 +60,11 @@ QString KindOf(FeedItem const& item)
 class Explainer
 {
 public:
-    Explainer(std::vector<FeedItem> const& items, Client const& client)
-        : m_items(items), m_client(client), m_choice(ChooseFromFeed(items, client))
+    Explainer(std::vector<FeedItem> const& items, Client const& client, Engine::Installation const& installation)
+        : m_items(items)
+        , m_client(client)
+        , m_installation(InstallationOf(client, installation))
+        , m_choice(ChooseFromFeed(items, client, installation))
     {
     }
 
@@ -91,8 +94,14 @@ private:
         result.index = index;
         result.updateType = UpdateTypeOf(item);
         result.verdict = JudgeFeedItem(item, m_client);
+        result.policy = PolicyOf(item, m_installation);
         result.extensions = ExtensionsOf(item);
-        if (result.verdict != Judgement::VALID)
+        if (Engine::IsLeftOut(result.policy))
+        {
+            result.standing = Standing::LeftOut;
+            result.detail = Engine::ReasonOf(result.policy, item, m_installation);
+        }
+        else if (result.verdict != Judgement::VALID)
         {
             result.standing = Standing::Refused;
             result.detail = FailedTest(item, result.verdict, m_client);
@@ -101,6 +110,10 @@ private:
         {
             result.standing = Standing::Chosen;
             result.detail = QStringLiteral("chosen");
+            if (result.policy != Engine::PolicyVerdict::Plain)
+            {
+                result.detail += QStringLiteral(": ") + Engine::ReasonOf(result.policy, item, m_installation);
+            }
         }
         else
         {
@@ -113,6 +126,10 @@ private:
     /// A delta that the client never looks at keeps its verdict; the detail says why it does not count.
     void LookAtDelta(ItemExplanation& delta, FeedItem const& parent) const
     {
+        if (delta.standing == Standing::LeftOut)
+        {
+            return;
+        }
         QString reason;
         if (&parent != m_choice.full)
         {
@@ -188,14 +205,23 @@ private:
 
     std::vector<FeedItem> const& m_items;
     Client const m_client;
+    Engine::Installation const m_installation;
     FeedChoice const m_choice;
 };
 
 } // namespace
 
-Explanation ExplainFeed(std::vector<FeedItem> const& items, Client const& client)
+char const* ItemExplanation::VerdictName() const
 {
-    return Explainer(items, client).Explain();
+    bool const isOfPolicy = Engine::IsLeftOut(policy) ||
+                            (policy != Engine::PolicyVerdict::Plain && verdict == App::Session::Judgement::VALID);
+    return isOfPolicy ? Engine::NameOf(policy) : App::Session::JudgementName(verdict);
+}
+
+Explanation ExplainFeed(std::vector<FeedItem> const& items, Client const& client,
+                        Engine::Installation const& installation)
+{
+    return Explainer(items, client, installation).Explain();
 }
 
 } // namespace Pelnar::Publisher

@@ -18,6 +18,7 @@ enum class Standing
     Chosen,
     Lost,     ///< valid, and another was preferred
     Refused,  ///< fails a test
+    LeftOut,  ///< by the engine: the session does not see it
     NotAsked, ///< a delta that the client does not look at
 };
 
@@ -27,10 +28,14 @@ struct ItemExplanation
     int index = 0; ///< in the feed, or among the deltas of the item; from 0
     App::Session::UpdateType updateType = App::Session::UpdateType::UNKNOWN;
     App::Session::Judgement verdict = App::Session::Judgement::VALID; ///< of a delta that is not asked for, too
+    Engine::PolicyVerdict policy = Engine::PolicyVerdict::Plain;
     Standing standing = Standing::Refused;
     QString detail; ///< the test with the two values that it compared, or how the item lost
     QVariantMap extensions;
     std::vector<ItemExplanation> deltas;
+
+    /// "other-channel", "version-older", "valid".
+    [[nodiscard]] char const* VerdictName() const;
 };
 
 struct Explanation
@@ -40,6 +45,7 @@ struct Explanation
     std::vector<ItemExplanation> items;
 };
 
-Explanation ExplainFeed(std::vector<Engine::FeedItem> const& items, Client const& client);
+Explanation ExplainFeed(std::vector<Engine::FeedItem> const& items, Client const& client,
+                        Engine::Installation const& installation = {});
 
 } // namespace Pelnar::Publisher

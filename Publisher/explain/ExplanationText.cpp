@@ -9,7 +9,6 @@ namespace Pelnar::Publisher
 namespace
 {
 
-using App::Session::Judgement;
 using Engine::FeedItem;
 
 QString AddressOf(FeedItem const& item)
@@ -48,7 +47,7 @@ QJsonObject JsonOfItem(ItemExplanation const& explained)
         {QStringLiteral("url"), AddressOf(item)},
         {QStringLiteral("length"), double(item.contentLength)},
         {QStringLiteral("updateType"), TypeName(explained.updateType)},
-        {QStringLiteral("verdict"), QLatin1String(App::Session::JudgementName(explained.verdict))},
+        {QStringLiteral("verdict"), QLatin1String(explained.VerdictName())},
         {QStringLiteral("detail"), explained.detail},
         {QStringLiteral("extensions"), JsonOfExtensions(explained.extensions)},
     };
@@ -75,6 +74,7 @@ Emphasis EmphasisOf(Standing standing)
     case Standing::Lost:
         return Emphasis::None;
     case Standing::Refused:
+    case Standing::LeftOut:
         return Emphasis::Bad;
     case Standing::NotAsked:
         return Emphasis::Dim;
@@ -106,7 +106,7 @@ void PrintItem(ItemExplanation const& explained, QString const& indent, Console 
            << console.out.Styled(explained.standing == Standing::Chosen ? Emphasis::Bold : Emphasis::None,
                                  Printable(HeadOf(explained)))
            << '\n';
-    QString const verdict = QLatin1String(App::Session::JudgementName(explained.verdict));
+    QString const verdict = QLatin1String(explained.VerdictName());
     QString const detail = explained.detail.isEmpty() ? QString() : QStringLiteral(": ") + Printable(explained.detail);
     stream << inner.toStdString() << console.out.Styled(EmphasisOf(explained.standing), verdict + detail) << '\n';
     if (!item.fileUrl.isEmpty())

@@ -1,12 +1,11 @@
 // DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 #include "Engine/core/payload/Ed25519Signature.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
-
-#include <QDateTime>
 
 #include <algorithm>
 
@@ -144,10 +143,7 @@ void CheckDate(LintItem const& item, LintFindings& findings)
     {
         findings.Add(LintRule::DateTextForm, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
     }
-    // Qt's reader of the RSS form does not know the names of time zones.
-    else if (QString known = text;
-             !QDateTime::fromString(known.replace(QLatin1String(" GMT"), QLatin1String(" +0000")), Qt::RFC2822Date)
-                  .isValid())
+    else if (!Engine::FeedTime(text).isValid())
     {
         findings.Add(LintRule::DateUnusual, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
     }

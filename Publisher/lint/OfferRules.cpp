@@ -2,6 +2,7 @@
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QDateTime>
@@ -87,12 +88,6 @@ void CheckTrust(std::vector<LintItem> const& items, LintFindings& findings)
     }
 }
 
-QDateTime DateOf(Engine::FeedItem const& item)
-{
-    QString text = item.dateString;
-    return QDateTime::fromString(text.replace(QLatin1String(" GMT"), QLatin1String(" +0000")), Qt::RFC2822Date);
-}
-
 /// Told once: in a feed with several lines of versions it may be meant.
 void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
 {
@@ -105,7 +100,8 @@ void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
     std::vector<Dated> dated;
     for (LintItem const& item : items)
     {
-        Dated const each{&item, VersionFromStringNoexcept(item.full.item->versionString), DateOf(*item.full.item)};
+        Dated const each{&item, VersionFromStringNoexcept(item.full.item->versionString),
+                         Engine::FeedTime(item.full.item->dateString)};
         if (each.version.IsValid() && each.date.isValid())
         {
             dated.push_back(each);

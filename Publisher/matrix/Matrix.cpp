@@ -14,12 +14,17 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// The invalid version when no item has a readable one.
-Core::Version NewestVersion(std::vector<Engine::FeedItem> const& items)
+/// Of what is meant for such installations of some version. The invalid version when no item has a readable one.
+Core::Version NewestVersion(std::vector<Engine::FeedItem> const& items, Engine::Installation installation)
 {
+    installation.version.clear();
     Core::Version newest;
     for (Engine::FeedItem const& item : items)
     {
+        if (Engine::IsLeftOut(PolicyOf(item, installation)))
+        {
+            continue;
+        }
         Core::Version const version = App::Session::VersionFromStringNoexcept(item.versionString);
         if (version.IsValid() && (!newest.IsValid() || App::Session::IsOlderVersion(newest, version)))
         {
@@ -127,9 +132,9 @@ bool Trusts(std::vector<Engine::FeedItem> const& items, Core::Version const& ins
 } // namespace
 
 Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedVersion> const& versions,
-                  std::vector<NamedVersion> const& systems)
+                  std::vector<NamedVersion> const& systems, Engine::Installation const& installation)
 {
-    FeedChooser feed(items);
+    FeedChooser feed(items, installation);
     Matrix matrix;
     matrix.versions = versions;
     matrix.systems = systems;
@@ -143,7 +148,7 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
             row.push_back(std::move(outcome));
         }
     }
-    matrix.stranded = FindStranded(matrix, NewestVersion(items));
+    matrix.stranded = FindStranded(matrix, NewestVersion(items, installation));
     return matrix;
 }
 

@@ -34,7 +34,7 @@ struct Matrix
 
 /// REQUIRES: every version is valid; systems may be unknown.
 Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedVersion> const& versions,
-                  std::vector<NamedVersion> const& systems);
+                  std::vector<NamedVersion> const& systems, Engine::Installation const& installation = {});
 
 QJsonObject JsonOf(Matrix const& matrix);
 /// Lines for a person: a table, and what is stranded.

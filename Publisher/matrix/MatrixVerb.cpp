@@ -20,6 +20,7 @@ struct MatrixOptions
     std::string feed;
     std::string publishedAt;
     std::string platform = OwnPlatformName().toStdString();
+    InstallationOptions installation;
     std::string versions;
     std::string systems;
     std::string expectation;
@@ -88,7 +89,9 @@ ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expecte
 {
     if (options.isJson)
     {
-        console.PrintJson(JsonOf(matrix));
+        QJsonObject json = JsonOf(matrix);
+        AddInstallation(json, options.installation);
+        console.PrintJson(json);
     }
     else
     {
@@ -124,9 +127,15 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
         return console.Refuse(*problem);
     }
     auto const& expected = std::get<std::vector<ExpectedCell>>(expectation);
+    auto const read = InstallationOf(options.installation);
+    if (auto const* const problem = std::get_if<Problem>(&read))
+    {
+        return console.Refuse(*problem);
+    }
+    auto const& installation = std::get<Engine::Installation>(read);
     QString const platform = QString::fromStdString(options.platform);
     auto const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                                PlatformFromName(platform), console);
+                                {PlatformFromName(platform), installation.machine}, console);
     if (auto const* const problem = std::get_if<Problem>(&feed))
     {
         return console.Refuse(*problem);
@@ -141,8 +150,8 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
             return console.Refuse(*problem);
         }
     }
-    Matrix matrix =
-        MakeMatrix(items, std::get<std::vector<NamedVersion>>(versions), std::get<std::vector<NamedVersion>>(systems));
+    Matrix matrix = MakeMatrix(items, std::get<std::vector<NamedVersion>>(versions),
+                               std::get<std::vector<NamedVersion>>(systems), installation);
     matrix.feed = std::get<ParsedFeed>(feed).source.name;
     matrix.platform = platform;
     return Answer(matrix, expected, options, console);
@@ -163,6 +172,7 @@ void AddMatrix(CLI::App& program, VerbContext& context)
                      "Versions of the operating system with commas between them; \"unknown\" may be one")
         ->type_name("LIST");
     AddPlatformOption(*verb, options->platform);
+    AddInstallationOptions(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_option("--expect", options->expectation,
                      "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "

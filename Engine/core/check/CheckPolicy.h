@@ -1,11 +1,10 @@
 // CheckPolicy.h: whether the chosen item is offered. Pure functions.
 #pragma once
 
-#include "Engine/core/feed/FeedItem.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 
 #include <QString>
 
-#include <functional>
 #include <optional>
 #include <vector>
 
@@ -18,9 +17,6 @@ enum class CheckKind
     Background,  ///< the user did not request it
     Interactive, ///< the user requested it
 };
-
-/// Negative if the first version is older than the second, positive if it is newer. May throw.
-using VersionOrder = std::function<int(QString const&, QString const&)>;
 
 enum class OfferVerdict
 {

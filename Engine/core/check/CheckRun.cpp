@@ -123,6 +123,7 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     std::optional<EngineError> const failure = FailureOf("the choice of an update",
                                                          [this, &found, &error]
                                                          {
+                                                             ApplyPolicy();
                                                              m_host.FeedLoaded(m_items);
                                                              found = Choose(error);
                                                          });
@@ -161,8 +162,8 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         }
         content = std::get<QByteArray>(std::move(verified));
     }
-    FeedParseResult result =
-        ParseFeed(content, outcome.url, m_settings.platform, m_settings.feedLimits, m_settings.languages);
+    FeedParseResult result = ParseFeed(content, outcome.url, {m_settings.platform, m_settings.machine},
+                                       m_settings.feedLimits, m_settings.languages);
     if (!result.HasSucceeded())
     {
         // Many pages begin with a declaration that would otherwise be reported as another error.
@@ -232,6 +233,19 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const&
         << " days: unless nothing was published, newer ones do not get through to this computer";
     // A failure to store this must not prevent an update.
     (void)FailureOf("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
+}
+
+void CheckRun::ApplyPolicy()
+{
+    Installation installation{m_settings.bundleVersion, m_settings.machine, m_settings.channels, {}, m_now()};
+    // Deliberate: a probe counts as automatic, since every check begins with one. A person who asks is shown the window
+    // also when the probe has found nothing, and the check of that window is theirs.
+    if (m_kind != CheckKind::Interactive)
+    {
+        installation.rolloutGroup = m_settings.rolloutGroup;
+    }
+    LeaveOut(m_items, installation,
+             [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); });
 }
 
 std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)

@@ -31,6 +31,10 @@ struct CheckSettings
     QString heldBackVersion; ///< see OfferQuestion
     QStringList languages;
     FeedPlatform platform = FeedPlatform::Linux;
+    QString machine;      ///< see Installation
+    QStringList channels; ///< see Installation
+    /// See Installation; of no account in a check that a person asked for.
+    std::function<int(QString const&)> rolloutGroup;
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits fetchLimits;
     FeedLimits feedLimits;
@@ -119,6 +123,8 @@ private:
                                                     QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
+    /// Leaves out what is not meant for this installation.
+    void ApplyPolicy();
     /// Asks the host and judges its answer. Returns the update to offer, or nothing; sets an error if the answer is
     /// unusable.
     std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);

@@ -26,6 +26,22 @@ namespace Pelnar::Engine
     return inherited;
 }
 
+/// What an item says of the installations that it is meant for: ReleasePolicy.h. A delta has its parent's.
+struct ItemPolicy
+{
+    QString channel;              ///< empty: for all
+    QStringList machines;         ///< of the enclosure; empty: for all
+    QStringList hardware;         ///< that the item requires; empty: none
+    QString criticalBelow;        ///< critical for versions before this one; empty: for all, if it is critical
+    QStringList informationalFor; ///< installed versions
+    QString informationalBelow;
+    QString minimumUpdateVersion;     ///< the oldest version that can be updated to it
+    QString minimumAutoupdateVersion; ///< the oldest version that is updated to it without being asked
+    qint64 rolloutSeconds = 0;        ///< from one group of a staged rollout to the next; 0: not staged
+    bool isInformational = false;     ///< for every version, unless the two above name some
+    bool isWithdrawn = false;
+};
+
 struct FeedItem
 {
     QString title;
@@ -47,6 +63,7 @@ struct FeedItem
     QString deltaFrom;        ///< the version text that this delta starts from; deltas only
     bool isDelta = false;
     bool isCritical = false;
+    ItemPolicy policy;
     /// Every child element by its qualified name (feed namespace names under "sparkle:", no matter which prefix the
     /// feed uses; a foreign name that is written with the prefix "sparkle" as "{namespace}name"), then attributes of
     /// the item where the name is free. Text is a QString; an element with attributes or children is a QVariantMap of

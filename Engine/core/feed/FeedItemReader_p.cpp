@@ -1,7 +1,9 @@
 // FeedItemReader_p.cpp: one <item> of a feed with its deltas.
 #include "Engine/core/feed/FeedItemReader_p.h"
 
+#include "Engine/core/feed/FeedPolicyReader_p.h"
 #include "Engine/core/feed/FeedProperties_p.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 
 #include <limits>
 
@@ -23,6 +25,7 @@ struct Enclosure
     QString installationType;
     QString operatingSystem;
     QString deltaFrom;
+    QString machines;
     int line = 0;
     int column = 0;
 };
@@ -44,12 +47,14 @@ struct ItemDraft
     QString link;
     QString versionElement;
     QString displayVersionElement;
-    std::optional<Enclosure> enclosure; ///< the first for the platform
+    QString hardware;
+    QString rolloutInterval;
+    std::optional<Enclosure> enclosure; ///< the first for the platform, for its machine if there is one
     bool hasForeignEnclosure = false;
     std::vector<Enclosure> deltas;
 };
 
-bool IsFor(FeedPlatform platform, QString const& operatingSystem)
+bool IsForSystem(FeedPlatform platform, QString const& operatingSystem)
 {
     if (operatingSystem.isNull())
     {
@@ -63,6 +68,11 @@ bool IsFor(FeedPlatform platform, QString const& operatingSystem)
         return operatingSystem.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
     }
     return false;
+}
+
+bool IsBetterFor(QString const& machine, Enclosure const& enclosure, Enclosure const& best)
+{
+    return !SuitsMachine(WordsOf(best.machines), machine) && SuitsMachine(WordsOf(enclosure.machines), machine);
 }
 
 /// 0 for the most wanted language; behind the wanted ones a text without a language, then one in another.
@@ -127,6 +137,10 @@ QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
         return IsNamed(name, QLatin1String("url"))      ? &enclosure.url
                : IsNamed(name, QLatin1String("length")) ? &enclosure.length
                                                         : nullptr;
+    }
+    if (attribute.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE))
+    {
+        return IsNamed(name, QLatin1String("machine")) ? &enclosure.machines : nullptr;
     }
     if (!IsFeedNamespace(attribute.namespaceUri()))
     {
@@ -204,7 +218,7 @@ QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclo
         Enclosure enclosure = ReadEnclosure(walker);
         AddFeedProperty(properties, name, enclosure.attributes);
         // Without the version that it starts from a delta serves nobody.
-        if (!enclosure.deltaFrom.isNull() && IsFor(platform, enclosure.operatingSystem))
+        if (!enclosure.deltaFrom.isNull() && IsForSystem(platform, enclosure.operatingSystem))
         {
             deltas.push_back(std::move(enclosure));
         }
@@ -233,19 +247,26 @@ void TakeIfFirst(QString& value, QString&& text)
 /// Where the text of the feed's own element \a name goes, or null.
 QString* FeedTextPlace(ItemDraft& draft, QStringRef name)
 {
-    if (IsNamed(name, QLatin1String("version")))
+    ItemPolicy& policy = draft.item.policy;
+    std::pair<QLatin1String, QString*> const places[] = {
+        {QLatin1String("version"), &draft.versionElement},
+        {QLatin1String("shortVersionString"), &draft.displayVersionElement},
+        {QLatin1String("minimumSystemVersion"), &draft.item.minimumSystemVersion},
+        {QLatin1String("maximumSystemVersion"), &draft.item.maximumSystemVersion},
+        {QLatin1String("channel"), &policy.channel},
+        {QLatin1String("hardwareRequirements"), &draft.hardware},
+        {QLatin1String("phasedRolloutInterval"), &draft.rolloutInterval},
+        {QLatin1String("minimumUpdateVersion"), &policy.minimumUpdateVersion},
+        {QLatin1String("minimumAutoupdateVersion"), &policy.minimumAutoupdateVersion},
+    };
+    for (auto const& [text, place] : places)
     {
-        return &draft.versionElement;
+        if (IsNamed(name, text))
+        {
+            return place;
+        }
     }
-    if (IsNamed(name, QLatin1String("shortVersionString")))
-    {
-        return &draft.displayVersionElement;
-    }
-    if (IsNamed(name, QLatin1String("minimumSystemVersion")))
-    {
-        return &draft.item.minimumSystemVersion;
-    }
-    return IsNamed(name, QLatin1String("maximumSystemVersion")) ? &draft.item.maximumSystemVersion : nullptr;
+    return nullptr;
 }
 
 QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
@@ -259,6 +280,7 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     QString* const place = FeedTextPlace(draft, name);
     bool const isTags = IsNamed(name, QLatin1String("tags"));
     bool const isCritical = IsNamed(name, QLatin1String("criticalUpdate"));
+    bool const isInformational = IsNamed(name, QLatin1String("informationalUpdate"));
     bool const isReleaseNotes = IsNamed(name, QLatin1String("releaseNotesLink"));
     int const rank = isReleaseNotes ? LanguageRank(walker, context.languages) : 0;
     FeedElement element = ReadFeedElement(walker, FeedTextKind::SingleLine);
@@ -270,13 +292,22 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     {
         TakeIfBetter(draft.releaseNotes, rank, std::move(element.text));
     }
-    draft.item.isCritical = draft.item.isCritical || isCritical || (isTags && element.hasFeedCriticalUpdate);
+    else if (isInformational)
+    {
+        TakeInformational(draft.item.policy, element.value);
+    }
+    if (isCritical || (isTags && element.hasFeedCriticalUpdate))
+    {
+        TakeCritical(draft.item, isCritical ? element.value.toMap().value(QStringLiteral("sparkle:version")).toString()
+                                            : QString());
+    }
     return std::move(element.value);
 }
 
 /// An element of this system's own: docs/formats/item-keys.md. Of several the first counts.
 QVariant ReadOwnChild(FeedWalker& walker, FeedItem& item)
 {
+    item.policy.isWithdrawn = item.policy.isWithdrawn || IsNamed(walker.Reader().name(), QLatin1String("withdrawn"));
     if (IsNamed(walker.Reader().name(), QLatin1String("keys")) && item.signerKey.isEmpty() &&
         item.trustedKeys.isEmpty())
     {
@@ -308,11 +339,11 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     {
         Enclosure enclosure = ReadEnclosure(walker);
         QVariant value = enclosure.attributes;
-        if (!IsFor(context.platform, enclosure.operatingSystem))
+        if (!IsForSystem(context.platform, enclosure.operatingSystem))
         {
             draft.hasForeignEnclosure = true;
         }
-        else if (!draft.enclosure)
+        else if (!draft.enclosure || IsBetterFor(context.machine, enclosure, *draft.enclosure))
         {
             draft.enclosure = std::move(enclosure);
         }
@@ -345,6 +376,7 @@ void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext 
     item.contentLength = FeedLength(QStringRef(&enclosure.length), context.limits.maxContentLength);
     item.edSignature = enclosure.edSignature;
     item.installationType = enclosure.installationType;
+    item.policy.machines = WordsOf(enclosure.machines);
 }
 
 FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemContext const& context)
@@ -359,6 +391,7 @@ FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemC
     delta.releaseNotesUrl = parent.releaseNotesUrl;
     delta.infoUrl = parent.infoUrl;
     delta.isCritical = parent.isCritical;
+    delta.policy = parent.policy;
     delta.signerKey = parent.signerKey;
     delta.trustedKeys = parent.trustedKeys;
     delta.versionString = enclosure.version.isNull() ? parent.versionString : enclosure.version;
@@ -369,6 +402,10 @@ FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemC
     delta.line = enclosure.line;
     delta.column = enclosure.column;
     ApplyEnclosure(delta, enclosure, context);
+    if (delta.policy.machines.isEmpty())
+    {
+        delta.policy.machines = parent.policy.machines;
+    }
     delta.inheritedProperties = parent.properties;
     delta.properties = enclosure.attributes;
     delta.properties.insert(QStringLiteral("enclosure"), enclosure.attributes);
@@ -383,6 +420,8 @@ FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
     item.descriptionFormat = std::move(draft.description.format);
     item.releaseNotesUrl = FeedAddress(draft.releaseNotes.text, context.feedUrl);
     item.infoUrl = FeedAddress(draft.link, context.feedUrl);
+    item.policy.hardware = WordsOf(draft.hardware);
+    item.policy.rolloutSeconds = RolloutSeconds(draft.rolloutInterval);
     item.versionString = std::move(draft.versionElement);
     item.displayVersionString = std::move(draft.displayVersionElement);
     if (draft.enclosure)

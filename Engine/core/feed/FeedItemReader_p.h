@@ -14,6 +14,7 @@ struct FeedItemContext
 {
     QUrl const& feedUrl;
     FeedPlatform platform;
+    QString const& machine;
     FeedLimits const& limits;
     QStringList const& languages;
 };

@@ -129,8 +129,8 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
 
 } // namespace
 
-FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlatform platform, FeedLimits const& limits,
-                          QStringList const& languages)
+FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedTarget const& target,
+                          FeedLimits const& limits, QStringList const& languages)
 {
     FeedParseResult result;
     FeedDocument const document = DecodeFeed(bytes);
@@ -148,7 +148,8 @@ FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlat
     }
     FeedWalker walker(document.utf8, document.text, limits);
     FeedChannel channel;
-    std::vector<FeedItem> items = ReadItems(walker, {feedUrl, platform, limits, languages}, channel);
+    std::vector<FeedItem> items =
+        ReadItems(walker, {feedUrl, target.platform, target.machine, limits, languages}, channel);
     result.error = walker.Error();
     if (result.HasSucceeded())
     {

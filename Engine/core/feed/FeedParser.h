@@ -13,6 +13,7 @@
 #include <QStringList>
 #include <QUrl>
 
+#include <utility>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -23,6 +24,19 @@ enum class FeedPlatform
 {
     MacOS,
     Linux,
+};
+
+/// Which of an item's enclosures is taken.
+struct FeedTarget
+{
+    // Deliberate: not explicit. Most readers of a feed know no machine.
+    FeedTarget(FeedPlatform thePlatform, QString theMachine = {})
+        : platform(thePlatform), machine(std::move(theMachine))
+    {
+    }
+
+    FeedPlatform platform;
+    QString machine; ///< as OwnMachineName(); empty when it does not count
 };
 
 /// What a feed may ask of the parser. The defaults are what the engine ships with.
@@ -80,10 +94,11 @@ struct FeedParseResult
 };
 
 /// Parses \a bytes, whole, in time linear in their number. Relative addresses resolve against \a feedUrl. An item whose
-/// enclosures all name other platforms is left out; a document without items is a feed without items. Of a text given
-/// in several languages (xml:lang) the one for the first of \a languages (most wanted first, as of
-/// QLocale::uiLanguages()) is taken, else the one that names no language, else the first.
-[[nodiscard]] FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedPlatform platform,
+/// enclosures all name other platforms is left out. Of several for the platform the first for the machine is taken,
+/// else the first. A document without items is a feed without items. Of a text given in several languages (xml:lang)
+/// the one for the first of \a languages (most wanted first, as of QLocale::uiLanguages()) is taken, else the one that
+/// names no language, else the first.
+[[nodiscard]] FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedTarget const& target,
                                         FeedLimits const& limits = {}, QStringList const& languages = {});
 
 } // namespace Pelnar::Engine

@@ -25,7 +25,10 @@ ToolRun Explain(QString const& file, QString const& localVersion, QString const&
     return RunTool({QStringLiteral("explain"), QDir(qEnvironmentVariable(FOLDER_VARIABLE)).filePath(file),
                     QStringLiteral("--local-version"), localVersion, QStringLiteral("--system-version"), systemVersion,
                     QStringLiteral("--platform"), QStringLiteral("macos"), QStringLiteral("--published-at"),
-                    QStringLiteral("https://feeds.example.com/appcast.xml"), QStringLiteral("--json")});
+                    QStringLiteral("https://feeds.example.com/appcast.xml"), QStringLiteral("--json"),
+                    // The table knows the choice among all items of a feed.
+                    QStringLiteral("--machine"), QStringLiteral("any"), QStringLiteral("--channels"),
+                    QStringLiteral("beta,prerelease")});
 }
 
 /// Outcome, version, delta_from, length and url, with tabs between them.

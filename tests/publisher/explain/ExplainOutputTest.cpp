@@ -73,9 +73,10 @@ TEST(ExplainOutput, TheJsonHasTheDocumentedMembers)
     ToolRun const run = RunTool(Line({QStringLiteral("--json")}), FEED);
     EXPECT_EQ(run.status, 0);
     QJsonObject const object = run.Json();
-    EXPECT_EQ(object.keys(), (QStringList{QStringLiteral("chosen"), QStringLiteral("feed"), QStringLiteral("items"),
-                                          QStringLiteral("localVersion"), QStringLiteral("platform"),
-                                          QStringLiteral("systemVersion")}));
+    EXPECT_EQ(object.keys(), (QStringList{QStringLiteral("channels"), QStringLiteral("chosen"), QStringLiteral("feed"),
+                                          QStringLiteral("items"), QStringLiteral("localVersion"),
+                                          QStringLiteral("machine"), QStringLiteral("platform"),
+                                          QStringLiteral("rolloutGroup"), QStringLiteral("systemVersion")}));
     EXPECT_EQ(object[QStringLiteral("feed")], QStringLiteral("<stdin>"));
     EXPECT_EQ(object[QStringLiteral("localVersion")], QStringLiteral("5.1"));
     EXPECT_EQ(object[QStringLiteral("systemVersion")], QStringLiteral("12"));

@@ -15,12 +15,14 @@ char const* const ENCLOSURE = "<enclosure url='a.zip' length='9' s:version='5.1'
 class ExplainedFeed
 {
 public:
-    explicit ExplainedFeed(QByteArray const& items, Client const& client = {Core::Version(5, 0), Core::Version(12, 3)})
-        : m_feed(Engine::ParseFeed("<rss xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" +
+    explicit ExplainedFeed(QByteArray const& items, Client const& client = {Core::Version(5, 0), Core::Version(12, 3)},
+                           Engine::Installation const& installation = {})
+        : m_feed(Engine::ParseFeed("<rss xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+                                   "xmlns:p='https://pelnar.example/xml-namespaces/appcast'><channel>" +
                                        items + "</channel></rss>",
                                    QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")),
                                    Engine::FeedPlatform::Linux))
-        , m_explanation(ExplainFeed(m_feed.items, client))
+        , m_explanation(ExplainFeed(m_feed.items, client, installation))
     {
         EXPECT_TRUE(m_feed.HasSucceeded()) << m_feed.error.sentence.English().toStdString();
     }
@@ -36,7 +38,7 @@ private:
 
 std::string Said(ItemExplanation const& item)
 {
-    return std::string(App::Session::JudgementName(item.verdict)) + ": " + item.detail.toStdString();
+    return std::string(item.VerdictName()) + ": " + item.detail.toStdString();
 }
 
 struct FailureRow
@@ -213,6 +215,75 @@ TEST(Explanation, GivesTheExtensionsThatTheHostIsHanded)
     EXPECT_EQ(feed.Item(0).extensions.value(QStringLiteral("PELNAR1_CHANNEL")).toString().toStdString(), "beta");
     EXPECT_FALSE(feed.Item(0).extensions.value(QStringLiteral("PELNAR1_ODD")).isValid());
     EXPECT_EQ(feed.Delta(0, 0).extensions.value(QStringLiteral("PELNAR1_CHANNEL")).toString().toStdString(), "delta");
+}
+
+namespace
+{
+
+struct PolicyRow
+{
+    char const* name;
+    char const* elements;
+    char const* said;
+    Standing standing;
+};
+
+class PolicyOfAnItem : public ::testing::TestWithParam<PolicyRow>
+{
+};
+
+/// Automatic checks of the second group, right after the item's date.
+Engine::Installation StagedInstallation()
+{
+    Engine::Installation installation;
+    installation.machine = QStringLiteral("x86_64");
+    installation.channels = QStringList{QStringLiteral("nightly")};
+    installation.rolloutGroup = [](QString const&) { return 1; };
+    installation.now = QDateTime(QDate(2030, 1, 7), QTime(12, 0), Qt::UTC);
+    return installation;
+}
+
+} // namespace
+
+TEST_P(PolicyOfAnItem, IsTheVerdictBeforeTheSessionsOwn)
+{
+    QByteArray const item = QByteArray("<item><pubDate>Mon, 07 Jan 2030 10:00:00 +0000</pubDate>") +
+                            GetParam().elements + "<enclosure url='b.zip' length='9' s:version='5.2'/></item>";
+    ExplainedFeed const feed(QByteArray("<item>") + ENCLOSURE + "</item>" + item,
+                             {Core::Version(5, 0), Core::Version(12, 3)}, StagedInstallation());
+    EXPECT_EQ(Said(feed.Item(1)), GetParam().said);
+    EXPECT_EQ(feed.Item(1).standing, GetParam().standing);
+    int const chosen = GetParam().standing == Standing::Chosen ? 1 : 0;
+    EXPECT_EQ(feed.Get().chosenIndex, chosen);
+    EXPECT_EQ(feed.Get().chosen, feed.Item(chosen).item);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    , PolicyOfAnItem,
+    ::testing::Values(
+        PolicyRow{"Withdrawn", "<p:withdrawn/>", "withdrawn: the publisher has withdrawn it", Standing::LeftOut},
+        PolicyRow{"OtherChannel", "<s:channel>beta</s:channel>", "other-channel: channel \"beta\", listed: nightly",
+                  Standing::LeftOut},
+        PolicyRow{"OwnChannel", "<s:channel>nightly</s:channel>", "valid: chosen", Standing::Chosen},
+        PolicyRow{"OtherArchitecture", "<s:hardwareRequirements>arm64</s:hardwareRequirements>",
+                  "other-architecture: it is for arm64, this is x86_64", Standing::LeftOut},
+        PolicyRow{"NeedsAnother", "<s:minimumUpdateVersion>5.1</s:minimumUpdateVersion>",
+                  "needs-another-version-first: installed 5.0 < 5.1, from which it can be updated", Standing::LeftOut},
+        PolicyRow{"NotYetRolledOut", "<s:phasedRolloutInterval>86400</s:phasedRolloutInterval>",
+                  "not-yet-rolled-out: group 2 of 7 gets it at 2030-01-08T10:00:00Z", Standing::LeftOut},
+        PolicyRow{"Informational", "<s:informationalUpdate/>",
+                  "informational: chosen: a link is shown, and nothing is downloaded", Standing::Chosen}),
+    [](auto const& info) { return std::string(info.param.name); });
+
+TEST(Explanation, DeltaOfAnotherMachineIsLeftOutAndTheOneBeforeItCounts)
+{
+    ExplainedFeed const feed("<item><enclosure url='a.zip' length='9' s:version='5.1'/><s:deltas>"
+                             "<enclosure url='d1' length='2' s:version='5.1' s:deltaFrom='5.0'/>"
+                             "<enclosure url='d2' length='1' s:version='5.1' s:deltaFrom='5.0' p:machine='aarch64'/>"
+                             "</s:deltas></item>",
+                             {Core::Version(5, 0), Core::Version(12, 3)}, StagedInstallation());
+    EXPECT_EQ(feed.Get().chosen, feed.Delta(0, 0).item);
+    EXPECT_EQ(Said(feed.Delta(0, 1)), "other-architecture: it is for aarch64, this is x86_64");
 }
 
 } // namespace Pelnar::Publisher

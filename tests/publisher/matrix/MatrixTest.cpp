@@ -84,12 +84,21 @@ TEST(Matrix, NamesVersionsThatNobodyCanLeave)
 
 TEST(Matrix, TheJsonHasTheDocumentedMembers)
 {
-    QJsonObject const object = RunTool(Of("5.1", "11,12") + QStringList(QStringLiteral("--json")), FEED).Json();
+    QJsonObject const object =
+        RunTool(Of("5.1", "11,12") + QStringList{QStringLiteral("--json"), QStringLiteral("--machine"),
+                                                 QStringLiteral("aarch64"), QStringLiteral("--channels"),
+                                                 QStringLiteral("beta, rc"), QStringLiteral("--rollout-group"),
+                                                 QStringLiteral("7")},
+                FEED)
+            .Json();
     EXPECT_EQ(
         object,
         (QJsonObject{
             {QStringLiteral("feed"), QStringLiteral("<stdin>")},
             {QStringLiteral("platform"), QStringLiteral("linux")},
+            {QStringLiteral("machine"), QStringLiteral("aarch64")},
+            {QStringLiteral("channels"), QJsonArray{QStringLiteral("beta"), QStringLiteral("rc")}},
+            {QStringLiteral("rolloutGroup"), 7},
             {QStringLiteral("versions"), QJsonArray{QStringLiteral("5.1")}},
             {QStringLiteral("systems"), QJsonArray{QStringLiteral("11"), QStringLiteral("12")}},
             {QStringLiteral("cells"),

@@ -1,0 +1,230 @@
+// ReleasePolicy.cpp: for which installations an item of a feed is meant.
+#include "Engine/core/feed/ReleasePolicy.h"
+
+#include "Engine/core/EngineError.h"
+
+#include <QSysInfo>
+
+#include <glog/logging.h>
+
+#include <algorithm>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+/// One spelling for each machine.
+QString MachineOf(QString const& word)
+{
+    static std::pair<QLatin1String, QLatin1String> const OTHER_NAMES[] = {
+        {QLatin1String("arm64"), QLatin1String("aarch64")},
+        {QLatin1String("amd64"), QLatin1String("x86_64")},
+    };
+    QString const machine = word.toLower();
+    for (auto const& [other, name] : OTHER_NAMES)
+    {
+        if (machine == other)
+        {
+            return name;
+        }
+    }
+    return machine;
+}
+
+bool IsOtherChannel(FeedItem const& item, Installation const& installation)
+{
+    return !item.policy.channel.isEmpty() && !installation.channels.contains(item.policy.channel);
+}
+
+bool NeedsAnother(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    QString const& minimum = item.policy.minimumUpdateVersion;
+    return !minimum.isEmpty() && !installation.version.isEmpty() && order(installation.version, minimum) < 0;
+}
+
+bool IsToWait(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    if (!installation.rolloutGroup || item.policy.rolloutSeconds == 0)
+    {
+        return false;
+    }
+    QDateTime const time = RolloutTime(item, installation.rolloutGroup(item.versionString));
+    return time.isValid() && installation.now < time && !IsCriticalFor(item, installation, order);
+}
+
+bool IsInformational(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    ItemPolicy const& policy = item.policy;
+    if (!policy.isInformational || (policy.informationalFor.isEmpty() && policy.informationalBelow.isEmpty()))
+    {
+        return policy.isInformational;
+    }
+    if (installation.version.isEmpty())
+    {
+        return false;
+    }
+    bool const isNamed = std::any_of(policy.informationalFor.begin(), policy.informationalFor.end(),
+                                     [&](QString const& version) { return order(installation.version, version) == 0; });
+    return isNamed ||
+           (!policy.informationalBelow.isEmpty() && order(installation.version, policy.informationalBelow) < 0);
+}
+
+QString Quoted(QString const& text)
+{
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+QString NamesOf(QStringList const& names)
+{
+    return names.isEmpty() ? QStringLiteral("none") : names.join(QStringLiteral(", "));
+}
+
+bool IsKept(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    PolicyVerdict const verdict = JudgePolicy(item, installation, order);
+    LOG_IF(INFO, IsLeftOut(verdict)) << "The feed's " << (item.isDelta ? "delta to " : "item ")
+                                     << EscapedRemoteText(item.versionString).toStdString() << " is left out ("
+                                     << NameOf(verdict)
+                                     << "): " << EscapedRemoteText(ReasonOf(verdict, item, installation)).toStdString();
+    return !IsLeftOut(verdict);
+}
+
+} // namespace
+
+char const* NameOf(PolicyVerdict verdict)
+{
+    switch (verdict)
+    {
+    case PolicyVerdict::Withdrawn:
+        return "withdrawn";
+    case PolicyVerdict::OtherArchitecture:
+        return "other-architecture";
+    case PolicyVerdict::OtherChannel:
+        return "other-channel";
+    case PolicyVerdict::NeedsAnotherVersionFirst:
+        return "needs-another-version-first";
+    case PolicyVerdict::NotYetRolledOut:
+        return "not-yet-rolled-out";
+    case PolicyVerdict::Informational:
+        return "informational";
+    case PolicyVerdict::Plain:
+        return "";
+    }
+    return "Unknown PolicyVerdict";
+}
+
+PolicyVerdict JudgePolicy(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    if (item.policy.isWithdrawn)
+    {
+        return PolicyVerdict::Withdrawn;
+    }
+    if (!SuitsMachine(item.policy.machines, installation.machine) ||
+        !SuitsMachine(item.policy.hardware, installation.machine))
+    {
+        return PolicyVerdict::OtherArchitecture;
+    }
+    if (IsOtherChannel(item, installation))
+    {
+        return PolicyVerdict::OtherChannel;
+    }
+    if (NeedsAnother(item, installation, order))
+    {
+        return PolicyVerdict::NeedsAnotherVersionFirst;
+    }
+    if (IsToWait(item, installation, order))
+    {
+        return PolicyVerdict::NotYetRolledOut;
+    }
+    return IsInformational(item, installation, order) ? PolicyVerdict::Informational : PolicyVerdict::Plain;
+}
+
+QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const& installation)
+{
+    switch (verdict)
+    {
+    case PolicyVerdict::Withdrawn:
+        return QStringLiteral("the publisher has withdrawn it");
+    case PolicyVerdict::OtherArchitecture:
+        return QStringLiteral("it is for %1, this is %2")
+            .arg(NamesOf(SuitsMachine(item.policy.machines, installation.machine) ? item.policy.hardware
+                                                                                  : item.policy.machines),
+                 installation.machine);
+    case PolicyVerdict::OtherChannel:
+        return QStringLiteral("channel %1, listed: %2")
+            .arg(Quoted(item.policy.channel), NamesOf(installation.channels));
+    case PolicyVerdict::NeedsAnotherVersionFirst:
+        return QStringLiteral("installed %1 < %2, from which it can be updated")
+            .arg(installation.version, item.policy.minimumUpdateVersion);
+    case PolicyVerdict::NotYetRolledOut:
+    {
+        int const group = installation.rolloutGroup(item.versionString);
+        return QStringLiteral("group %1 of %2 gets it at %3")
+            .arg(group + 1)
+            .arg(ROLLOUT_GROUPS)
+            .arg(RolloutTime(item, group).toUTC().toString(Qt::ISODate));
+    }
+    case PolicyVerdict::Informational:
+        return QStringLiteral("a link is shown, and nothing is downloaded");
+    case PolicyVerdict::Plain:
+        break;
+    }
+    return {};
+}
+
+bool IsCriticalFor(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+{
+    QString const& bound = item.policy.criticalBelow;
+    return item.isCritical &&
+           (bound.isEmpty() || installation.version.isEmpty() || order(installation.version, bound) < 0);
+}
+
+bool DependsOnVersion(FeedItem const& item)
+{
+    ItemPolicy const& policy = item.policy;
+    return !policy.minimumUpdateVersion.isEmpty() || (policy.rolloutSeconds != 0 && item.isCritical);
+}
+
+void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order)
+{
+    auto const isLeftOut = [&](FeedItem const& item) { return !IsKept(item, installation, order); };
+    items.erase(std::remove_if(items.begin(), items.end(), isLeftOut), items.end());
+    for (FeedItem& item : items)
+    {
+        item.isCritical = IsCriticalFor(item, installation, order);
+        item.policy.isInformational = IsInformational(item, installation, order);
+        LeaveOut(item.deltas, installation, order);
+    }
+}
+
+QString OwnMachineName()
+{
+    return MachineOf(QSysInfo::buildCpuArchitecture());
+}
+
+bool SuitsMachine(QStringList const& machines, QString const& machine)
+{
+    return machines.isEmpty() || machine.isEmpty() ||
+           std::any_of(machines.begin(), machines.end(),
+                       [own = MachineOf(machine)](QString const& each) { return MachineOf(each) == own; });
+}
+
+QString VersionLine(QString const& version)
+{
+    return version.section(QLatin1Char('.'), 0, 1);
+}
+
+QDateTime FeedTime(QString text)
+{
+    // Qt's reader of this form does not know the names of time zones.
+    return QDateTime::fromString(text.replace(QLatin1String(" GMT"), QLatin1String(" +0000")), Qt::RFC2822Date);
+}
+
+QDateTime RolloutTime(FeedItem const& item, int group)
+{
+    QDateTime const published = item.policy.rolloutSeconds == 0 ? QDateTime() : FeedTime(item.dateString);
+    return published.isValid() ? published.addSecs(group * item.policy.rolloutSeconds) : QDateTime();
+}
+
+} // namespace Pelnar::Engine

@@ -6,7 +6,7 @@
 #include "HostFramework/SpontaneousDialog.h"
 #include "HostFramework/VersionText.h"
 
-#include <QStringList>
+#include <QRegularExpression>
 #include <QSysInfo>
 
 #include <stdexcept>
@@ -50,20 +50,15 @@ QString OSVersion()
 
 Core::Version VersionFromString(QString const& text, QString const& separator)
 {
-    std::int32_t components[] = {Core::Version::ABSENT, Core::Version::ABSENT, Core::Version::ABSENT,
-                                 Core::Version::ABSENT};
-    QStringList const parts = text.split(separator);
-    bool isVersion = parts.size() <= Core::Version::COMPONENT_COUNT;
-    for (int i = 0; isVersion && i < parts.size(); ++i)
-    {
-        components[i] = parts[i].toInt(&isVersion);
-        isVersion = isVersion && components[i] >= 0;
-    }
-    if (!isVersion)
+    QRegularExpression const shape(
+        QStringLiteral("^\\d{1,9}(%1\\d{1,9}){0,3}\\z").arg(QRegularExpression::escape(separator)));
+    if (!shape.match(text).hasMatch())
     {
         throw std::invalid_argument("\"" + text.toStdString() + "\" is not a version");
     }
-    return Core::Version(components[0], components[1], components[2], components[3]);
+    QStringList const parts = text.split(separator);
+    auto const part = [&parts](int i) { return i < parts.size() ? parts[i].toInt() : Core::Version::ABSENT; };
+    return Core::Version(part(0), part(1), part(2), part(3));
 }
 
 QString VersionToString(Core::Version const& version, VersionToStringDetail, QString const& separator)
@@ -71,11 +66,10 @@ QString VersionToString(Core::Version const& version, VersionToStringDetail, QSt
     QStringList parts;
     for (std::int32_t const component : version.Components())
     {
-        if (component == Core::Version::ABSENT)
+        if (component != Core::Version::ABSENT)
         {
-            break;
+            parts.append(QString::number(component));
         }
-        parts.append(QString::number(component));
     }
     return parts.join(separator);
 }

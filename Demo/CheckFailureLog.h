@@ -1,6 +1,6 @@
-// CheckFailureLog.h: finds out from the log that a check could not be completed. Thread: records may come from any
-// thread; read the result on the main thread once the check is over. Ownership: a scope object; it listens while it
-// lives.
+// CheckFailureLog.h: finds out from the log that a check could not be completed.
+// Thread: records may come from any thread; read the result on the main thread once the check is over. Ownership: a
+// scope object; it listens while it lives.
 //
 // To its host a failed check looks like one that finds nothing. The log distinguishes the two: a record is identified
 // by its file and line, which do not change.

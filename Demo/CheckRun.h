@@ -1,5 +1,6 @@
 // CheckRun.h: the common handling of a check in both demo hosts: start it, convert its values from and to text, notice
-// its end. Thread: the Qt main thread.
+// its end.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "App/UpdateChecker/UpdateManager.h"

@@ -1,4 +1,5 @@
-// DemoBundle.h: the bundle that a demo host runs from, if there is one. Plain C++. Thread: main.
+// DemoBundle.h: the bundle that a demo host runs from, if there is one. Plain C++.
+// Thread: main.
 #pragma once
 
 #include "HostFramework/Reference/ReferenceCustomizationManager.h"

@@ -1,5 +1,6 @@
 // DemoWindow.h: the window of a small host application: its version, "Check for Updates…", and the notifications of
-// observers. Thread: the Qt main thread. Ownership: the main function creates and owns it; it owns its checks.
+// observers.
+// Thread: the Qt main thread. Ownership: the main function creates and owns it; it owns its checks.
 #pragma once
 
 #include "Demo/DemoOptions.h"

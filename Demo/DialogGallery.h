@@ -1,5 +1,5 @@
-// DialogGallery.h: shows every dialog of the update checker and the nag screen, one after the other. Thread: the Qt
-// main thread; each dialog runs a nested event loop until it is closed.
+// DialogGallery.h: shows every dialog of the update checker and the nag screen, one after the other.
+// Thread: the Qt main thread; each dialog runs a nested event loop until it is closed.
 #pragma once
 
 #include "HostFramework/Reference/ReferenceApplication.h"

@@ -1,6 +1,6 @@
 // EngineDefaults.h: the values that a demo host and the update engine exchange through Foundation: user defaults and
-// the running bundle's information. Plain C++. Thread: main. Ownership: registered defaults last as long as the process
-// and are never stored.
+// the running bundle's information. Plain C++.
+// Thread: main. Ownership: registered defaults last as long as the process and are never stored.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
-// NamedAuthorities.h: lets a person name the certificate authorities that a demo host trusts. Thread: the Qt main
-// thread, before the first request.
+// NamedAuthorities.h: lets a person name the certificate authorities that a demo host trusts.
+// Thread: the Qt main thread, before the first request.
 #pragma once
 
 namespace Pelnar::Demo

@@ -1,5 +1,5 @@
-// NotificationRecorder.h: an observer that converts each notification to a plain value and passes it on. Thread: the Qt
-// main thread. Ownership: the host's; it outlives the checks that it observes.
+// NotificationRecorder.h: an observer that converts each notification to a plain value and passes it on.
+// Thread: the Qt main thread. Ownership: the host's; it outlives the checks that it observes.
 #pragma once
 
 #include "App/UpdateChecker/IUpdateManagerObserver.h"

@@ -1,7 +1,7 @@
 // PlainPathGnustep.cpp: lets the program start in every folder. If a process's path is not UTF-8, GNUstep's Foundation
 // ends the process before its main function; in a path with a backslash it finds no bundle. Such a program restarts
-// itself through another name of its folder, "/proc/self/fd/N", and gives Foundation this name. Thread: the main one,
-// before any library is initialized; no Qt, no memory allocation.
+// itself through another name of its folder, "/proc/self/fd/N", and gives Foundation this name.
+// Thread: the main one, before any library is initialized; no Qt, no memory allocation.
 
 #include <cstdint>
 #include <cstdio>

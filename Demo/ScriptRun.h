@@ -1,5 +1,5 @@
-// ScriptRun.h: a demonstration without a person: the automatic actions of pelnar-demo. Thread: the Qt main thread.
-// Ownership: the main function's; application, window and camera outlive it.
+// ScriptRun.h: a demonstration without a person: the automatic actions of pelnar-demo.
+// Thread: the Qt main thread. Ownership: the main function's; application, window and camera outlive it.
 #pragma once
 
 #include "Demo/DemoOptions.h"

@@ -1,5 +1,5 @@
-// WindowCamera.h: saves a picture of every window that opens, for a demonstration without a person. Thread: the Qt main
-// thread. Ownership: observes the application while it lives.
+// WindowCamera.h: saves a picture of every window that opens, for a demonstration without a person.
+// Thread: the Qt main thread. Ownership: observes the application while it lives.
 #pragma once
 
 #include <QDir>

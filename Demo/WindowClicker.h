@@ -1,5 +1,5 @@
-// WindowClicker.h: answers windows instead of a person: one click in each window of a list, in this order. Thread: the
-// Qt main thread. Ownership: the caller's; it owns no window.
+// WindowClicker.h: answers windows instead of a person: one click in each window of a list, in this order.
+// Thread: the Qt main thread. Ownership: the caller's; it owns no window.
 #pragma once
 
 #include <QObject>

@@ -1,7 +1,7 @@
 // IsolatedUserDefaults.h: gives this process its own user defaults, and a cache folder if the environment names none,
-// so that tests and tools never change those of the person who runs them. Plain C++. Thread: main, before Foundation is
-// first used and before other threads start. Ownership: a scope object. It removes the defaults at its end, so it must
-// outlive the last use of Foundation.
+// so that tests and tools never change those of the person who runs them. Plain C++.
+// Thread: main, before Foundation is first used and before other threads start. Ownership: a scope object. It removes
+// the defaults at its end, so it must outlive the last use of Foundation.
 #pragma once
 
 #include <memory>

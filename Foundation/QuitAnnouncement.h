@@ -1,5 +1,5 @@
-// QuitAnnouncement.h: announces the application's end to all code in the process that waits for it. Plain C++. Thread:
-// the Qt main thread. Ownership: a connection that ends with the application object.
+// QuitAnnouncement.h: announces the application's end to all code in the process that waits for it. Plain C++.
+// Thread: the Qt main thread. Ownership: a connection that ends with the application object.
 #pragma once
 
 #include <QtGlobal>

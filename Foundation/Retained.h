@@ -1,7 +1,7 @@
-// Retained.h: owns a reference to a Foundation object and releases it at every exit from a scope. Thread: the object's.
-// Objective-C++ only. Pools are the language's @autoreleasepool. A raised exception is itself in the pool;
-// @autoreleasepool then leaves the objects to the enclosing pool, while a scope object would free the exception during
-// its propagation.
+// Retained.h: owns a reference to a Foundation object and releases it at every exit from a scope.
+// Thread: the object's. Objective-C++ only. Pools are the language's @autoreleasepool. A raised exception is itself in
+// the pool; @autoreleasepool then leaves the objects to the enclosing pool, while a scope object would free the
+// exception during its propagation.
 #pragma once
 
 #if !defined(__OBJC__)

@@ -1,5 +1,5 @@
-// RecoverSwap.h: repairs what an interrupted update left next to a bundle, and removes unused files. Thread: the
-// process's only one. Ownership: callers own their descriptors.
+// RecoverSwap.h: repairs what an interrupted update left next to a bundle, and removes unused files.
+// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"

@@ -1,5 +1,6 @@
 // Rehearse.h: does the steps of an update next to an installed bundle, with its own folders, so that a refusal of this
-// system is known before a download. Thread: the process's only one. Ownership: callers own their descriptors.
+// system is known before a download.
+// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"

@@ -1,5 +1,5 @@
-// ReportChannel.h: the helper's side of the report pipe. Thread: the helper's only one. Ownership: the descriptor is
-// inherited and stays open to the end.
+// ReportChannel.h: the helper's side of the report pipe.
+// Thread: the helper's only one. Ownership: the descriptor is inherited and stays open to the end.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"

@@ -1,5 +1,5 @@
-// RunInstaller.h: runs the installer program of a verified and checked bundle. Thread: the process's only one.
-// Ownership: callers own their descriptors.
+// RunInstaller.h: runs the installer program of a verified and checked bundle.
+// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateJob.h"

@@ -1,7 +1,7 @@
-// SteadyArchive.h: keeps an update's archive unchanged while it is verified and unpacked. Thread: one. Ownership: the
-// caller owns the archive's descriptor; this is a scope object for the time of reading. The kernel gives a lease on the
-// file and ends this process if another one opens the file to change it. Without a lease (on some network file systems,
-// or for another user's file) a private copy is read instead.
+// SteadyArchive.h: keeps an update's archive unchanged while it is verified and unpacked.
+// Thread: one. Ownership: the caller owns the archive's descriptor; this is a scope object for the time of reading. The
+// kernel gives a lease on the file and ends this process if another one opens the file to change it. Without a lease
+// (on some network file systems, or for another user's file) a private copy is read instead.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -1,5 +1,5 @@
-// SwapBundle.h: the steps that replace one bundle by another, each durable before the next begins. Thread: the
-// process's only one. Ownership: callers own their descriptors.
+// SwapBundle.h: the steps that replace one bundle by another, each durable before the next begins.
+// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

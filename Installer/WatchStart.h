@@ -1,5 +1,5 @@
-// WatchStart.h: starts the bundle after an update, and watches a new version that must confirm a good start. Thread:
-// the process's only one. Ownership: callers own their descriptors.
+// WatchStart.h: starts the bundle after an update, and watches a new version that must confirm a good start.
+// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/payload/UpdateFault.h"

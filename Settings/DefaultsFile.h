@@ -1,5 +1,5 @@
-// DefaultsFile.h: the file of an application's user defaults. Linux. Thread: any; several processes may change one file
-// at the same time.
+// DefaultsFile.h: the file of an application's user defaults. Linux.
+// Thread: any; several processes may change one file at the same time.
 #pragma once
 
 #include "Settings/ApplicationFolder.h"

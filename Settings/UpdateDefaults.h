@@ -1,6 +1,7 @@
 // UpdateDefaults.h: the user defaults of the update checker: on Linux a file in the person's XDG folders, on macOS the
-// user defaults of the application. Plain C++. Thread: any; several processes of one application may save at the same
-// time. Ownership: the process owns remembered values.
+// user defaults of the application. Plain C++.
+// Thread: any; several processes of one application may save at the same time. Ownership: the process owns remembered
+// values.
 #pragma once
 
 #include "common/SettingKeys.h"

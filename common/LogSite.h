@@ -1,7 +1,7 @@
-// LogSite.h: a named place in the log: severity, source file, line and message prefix. Thread: any (glog's rules).
-// Ownership: files and sites are objects of static duration and refer to text of static duration. The file and line of
-// a record are part of the interface and stay fixed when the code moves. So they are data here and never come from the
-// compiler.
+// LogSite.h: a named place in the log: severity, source file, line and message prefix.
+// Thread: any (glog's rules). Ownership: files and sites are objects of static duration and refer to text of static
+// duration. The file and line of a record are part of the interface and stay fixed when the code moves. So they are
+// data here and never come from the compiler.
 #pragma once
 
 #include <glog/logging.h>

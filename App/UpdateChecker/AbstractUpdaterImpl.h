@@ -1,6 +1,6 @@
 // AbstractUpdaterImpl.h: the interface of a back end. A back end finds updates and shows the update dialog; the update
-// flow drives it. Thread: the Qt main thread, which owns the object. Ownership: the flow controller owns it; it has no
-// Qt parent.
+// flow drives it.
+// Thread: the Qt main thread, which owns the object. Ownership: the flow controller owns it; it has no Qt parent.
 #pragma once
 
 #include "App/UpdateChecker/UpdateCheckResult.h"

@@ -1,8 +1,8 @@
-// UpdateManagerImpl_p.h: the flow controller: it runs one check from its start to the end of its manager. Thread: the
-// Qt main thread. Ownership: the manager deletes it explicitly and is also its Qt parent. It owns the back end and
-// shares the host's services. The fields are destroyed in reverse order: the services, the observer list, then the back
-// end. Every call of the host may destroy this object through the manager's Qt parent. So code after such a call first
-// checks a guarded pointer, and a service is held during its call.
+// UpdateManagerImpl_p.h: the flow controller: it runs one check from its start to the end of its manager.
+// Thread: the Qt main thread. Ownership: the manager deletes it explicitly and is also its Qt parent. It owns the back
+// end and shares the host's services. The fields are destroyed in reverse order: the services, the observer list, then
+// the back end. Every call of the host may destroy this object through the manager's Qt parent. So code after such a
+// call first checks a guarded pointer, and a service is held during its call.
 #pragma once
 
 #include "App/UpdateChecker/AbstractUpdaterImpl.h"

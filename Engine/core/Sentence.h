@@ -1,5 +1,6 @@
 // Sentence.h: one or more sentences of the engine for a person, in English for logs and in the person's language for a
-// window. Thread: any, except for Translated. The text is a literal.
+// window.
+// Thread: any, except for Translated. The text is a literal.
 #pragma once
 
 #include <QString>

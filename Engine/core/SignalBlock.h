@@ -1,6 +1,6 @@
 // SignalBlock.h: blocks every signal in the calling thread. A thread or a process that is started meanwhile begins with
-// all of them blocked, so none of the host's handlers can run in it. Thread: the one whose signals it blocks.
-// Ownership: a scope object; it restores the previous mask.
+// all of them blocked, so none of the host's handlers can run in it.
+// Thread: the one whose signals it blocks. Ownership: a scope object; it restores the previous mask.
 #pragma once
 
 #include <csignal>

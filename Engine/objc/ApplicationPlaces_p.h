@@ -1,5 +1,6 @@
 // ApplicationPlaces_p.h: the folders with the engine's files of an application: archives and feeds, which can be
-// downloaded again, and files that must outlive a cleared cache. Plain C++. Thread: main.
+// downloaded again, and files that must outlive a cleared cache. Plain C++.
+// Thread: main.
 #pragma once
 
 #include <QString>

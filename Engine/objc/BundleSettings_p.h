@@ -1,5 +1,6 @@
 // BundleSettings_p.h: the update settings of the running bundle and of the user defaults; the keys are in
-// common/SettingKeys.h. Plain C++. Thread: main.
+// common/SettingKeys.h. Plain C++.
+// Thread: main.
 #pragma once
 
 #include "Engine/core/check/KeptFeedFile.h"

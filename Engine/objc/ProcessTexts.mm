@@ -1,6 +1,7 @@
 // ProcessTexts.mm: lets Foundation accept a command line and an environment with texts outside its encoding. At its
 // first use Foundation makes strings of all these texts, and ends the process at the first one that it cannot convert,
-// such as a document's path that is not UTF-8. Thread: the one that loads the library.
+// such as a document's path that is not UTF-8.
+// Thread: the one that loads the library.
 
 #import <Foundation/Foundation.h>
 

@@ -1,6 +1,6 @@
 // SettingValues_p.h: the values of the settings, from the bundle's information dictionary and from the user defaults. A
-// value of the wrong type counts as absent, with a warning. Objective-C++. Thread: main. Ownership: returned Foundation
-// objects are autoreleased, so the caller needs a pool.
+// value of the wrong type counts as absent, with a warning. Objective-C++.
+// Thread: main. Ownership: returned Foundation objects are autoreleased, so the caller needs a pool.
 #pragma once
 
 #include "Engine/core/update/DiskChores.h"

@@ -1,6 +1,6 @@
-// Updater_p.h: the implementation of SUUpdater: the delegate, the settings, the running check and its update. Thread:
-// main, with Qt's event loop. Ownership: its SUUpdater owns it, and it points back; it owns the flow, the windows and
-// the parts. The delegate is not retained. Objective-C++ only.
+// Updater_p.h: the implementation of SUUpdater: the delegate, the settings, the running check and its update.
+// Thread: main, with Qt's event loop. Ownership: its SUUpdater owns it, and it points back; it owns the flow, the
+// windows and the parts. The delegate is not retained. Objective-C++ only.
 #pragma once
 
 #import <Sparkle/Sparkle.h>

@@ -1,5 +1,5 @@
-// CheckingWindow.h: shows that a requested check is running, with a button to cancel it. Thread: the Qt main thread.
-// Ownership: the maker's.
+// CheckingWindow.h: shows that a requested check is running, with a button to cancel it.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

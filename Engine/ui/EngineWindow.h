@@ -1,7 +1,7 @@
 // EngineWindow.h: the common parts of all windows of the engine: texts next to an icon, a row of buttons, one answer.
 // It belongs to no window of the host, does not keep the application running, and takes the focus only if a person
-// requested the check. Thread: the Qt main thread. Ownership: the maker's. Its texts are in the language of its
-// creation time.
+// requested the check.
+// Thread: the Qt main thread. Ownership: the maker's. Its texts are in the language of its creation time.
 #pragma once
 
 #include "Engine/core/update/WindowContent.h"

@@ -1,5 +1,5 @@
-// ErrorWindow.h: reports that a requested update could not be completed. Thread: the Qt main thread. Ownership: the
-// maker's.
+// ErrorWindow.h: reports that a requested update could not be completed.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/core/Sentence.h"

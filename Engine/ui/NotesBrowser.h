@@ -1,5 +1,6 @@
 // NotesBrowser.h: shows release notes. It loads nothing and follows no link: a signal reports a clicked http, https or
-// mailto link. Thread: the Qt main thread. Ownership: by its parent.
+// mailto link.
+// Thread: the Qt main thread. Ownership: by its parent.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"

@@ -1,5 +1,5 @@
-// ProgressText.h: sizes, rates and times as text, in the person's language and number format. Thread: the Qt main
-// thread (translations).
+// ProgressText.h: sizes, rates and times as text, in the person's language and number format.
+// Thread: the Qt main thread (translations).
 #pragma once
 
 #include "Engine/core/update/WindowContent.h"

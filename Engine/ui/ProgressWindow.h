@@ -1,5 +1,5 @@
-// ProgressWindow.h: shows that an update is downloaded, then verified and unpacked, with a button to cancel. Thread:
-// the Qt main thread. Ownership: the maker's.
+// ProgressWindow.h: shows that an update is downloaded, then verified and unpacked, with a button to cancel.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

@@ -1,5 +1,6 @@
 // ReadyWindow.h: offers to install an update that is downloaded, verified and unpacked; the installation restarts the
-// application. Thread: the Qt main thread. Ownership: the maker's.
+// application.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

@@ -1,4 +1,5 @@
-// ServerText.h: prepares text from a server for a label. Thread: any, except sentences, which need the Qt main thread.
+// ServerText.h: prepares text from a server for a label.
+// Thread: any, except sentences, which need the Qt main thread.
 #pragma once
 
 #include "Engine/core/Sentence.h"

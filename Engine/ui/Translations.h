@@ -1,6 +1,7 @@
 // Translations.h: the languages of the engine's windows and of the update dialogs (contexts "PelnarEngine_…" and
-// "SparkleUpdater"). The translations are compiled into the library. Thread: the Qt main thread, with an application
-// object. Ownership: the application object owns the installed translators.
+// "SparkleUpdater"). The translations are compiled into the library.
+// Thread: the Qt main thread, with an application object. Ownership: the application object owns the installed
+// translators.
 #pragma once
 
 #include <QLocale>

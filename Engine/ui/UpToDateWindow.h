@@ -1,5 +1,5 @@
-// UpToDateWindow.h: reports after a requested check that there is no update. Thread: the Qt main thread. Ownership: the
-// maker's.
+// UpToDateWindow.h: reports after a requested check that there is no update.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

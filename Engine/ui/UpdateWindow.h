@@ -1,5 +1,5 @@
-// UpdateWindow.h: offers an update: what is new, its size, and whether to install it. Thread: the Qt main thread.
-// Ownership: the maker's.
+// UpdateWindow.h: offers an update: what is new, its size, and whether to install it.
+// Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
 #include "Engine/ui/EngineWindow.h"

@@ -1,5 +1,6 @@
-// WidgetUserInterface.h: the user interface with windows. Thread: the Qt main thread. Ownership: it owns the open
-// window. The event loop deletes a closed window, because it may still be delivering its answer.
+// WidgetUserInterface.h: the user interface with windows.
+// Thread: the Qt main thread. Ownership: it owns the open window. The event loop deletes a closed window, because it
+// may still be delivering its answer.
 #pragma once
 
 #include "Engine/core/update/IUserInterface.h"

@@ -1,5 +1,6 @@
-// CheckRun.h: one check, from the feed's address to the result: fetch, parse, ask, judge, report. Thread: its maker's,
-// with Qt's event loop. Ownership: the updater owns the run and is its host; the run owns the fetch and the items.
+// CheckRun.h: one check, from the feed's address to the result: fetch, parse, ask, judge, report.
+// Thread: its maker's, with Qt's event loop. Ownership: the updater owns the run and is its host; the run owns the
+// fetch and the items.
 #pragma once
 
 #include "Engine/core/EngineError.h"

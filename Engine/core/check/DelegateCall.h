@@ -1,4 +1,5 @@
-// DelegateCall.h: the one place that catches failures of the application's code. Thread: the caller's.
+// DelegateCall.h: the one place that catches failures of the application's code.
+// Thread: the caller's.
 #pragma once
 
 #include "Engine/core/EngineError.h"

@@ -1,5 +1,5 @@
-// FeedRecordFile.h: the record of a feed as a file; docs/formats/signed-feed.md. Thread: any; several processes may use
-// one file at the same time.
+// FeedRecordFile.h: the record of a feed as a file; docs/formats/signed-feed.md.
+// Thread: any; several processes may use one file at the same time.
 #pragma once
 
 #include "Engine/core/check/FeedRecord.h"

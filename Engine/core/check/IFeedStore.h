@@ -1,5 +1,5 @@
-// IFeedStore.h: stores the last accepted feed for the next check. Thread: the check's. Ownership: outlives the checks
-// that use it.
+// IFeedStore.h: stores the last accepted feed for the next check.
+// Thread: the check's. Ownership: outlives the checks that use it.
 #pragma once
 
 #include "Engine/core/fetch/KeptFeed.h"

@@ -1,5 +1,5 @@
-// KeptFeedFile.h: a kept feed as a file; docs/formats/kept-feed.md. Thread: any; several processes may use one file at
-// the same time.
+// KeptFeedFile.h: a kept feed as a file; docs/formats/kept-feed.md.
+// Thread: any; several processes may use one file at the same time.
 #pragma once
 
 #include "Engine/core/fetch/KeptFeed.h"

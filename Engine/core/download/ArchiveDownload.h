@@ -1,7 +1,7 @@
 // ArchiveDownload.h: downloads one archive to a file, in constant memory. It continues an interrupted download of the
-// same archive, even one of a killed process. DownloadBudget.h limits the cost of an archive over all runs. Thread: its
-// maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it cancels the download and keeps the bytes
-// on the disk for the next one; no callback follows.
+// same archive, even one of a killed process. DownloadBudget.h limits the cost of an archive over all runs.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it cancels the download and keeps
+// the bytes on the disk for the next one; no callback follows.
 #pragma once
 
 #include "Engine/core/EngineError.h"

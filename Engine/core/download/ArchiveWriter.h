@@ -1,7 +1,7 @@
 // ArchiveWriter.h: a partial file with its own writing thread, so that a slow disk does not block the event loop. Bytes
-// wait in a few fixed buffers. When all are full, there is no space until the disk has caught up. Thread: its maker's,
-// with Qt's event loop. Ownership: its maker owns it. Destroying it discards unwritten bytes and releases the file's
-// lock; no callback follows.
+// wait in a few fixed buffers. When all are full, there is no space until the disk has caught up.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it discards unwritten bytes and
+// releases the file's lock; no callback follows.
 #pragma once
 
 #include "Engine/core/download/PartialFile.h"

@@ -1,6 +1,6 @@
 // PartialFile.h: the file of a partial archive and its record. It is opened without following links, locked against
-// other processes, and cut to the bytes that can be trusted. Thread: one at a time. Ownership: its descriptors, except
-// the one that Finish() hands over.
+// other processes, and cut to the bytes that can be trusted.
+// Thread: one at a time. Ownership: its descriptors, except the one that Finish() hands over.
 #pragma once
 
 #include "Engine/core/EngineError.h"

@@ -1,4 +1,5 @@
-// TransferRate.h: the rate of a transfer over its last seconds. Thread: one at a time.
+// TransferRate.h: the rate of a transfer over its last seconds.
+// Thread: one at a time.
 #pragma once
 
 #include <QElapsedTimer>

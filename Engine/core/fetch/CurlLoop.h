@@ -1,6 +1,7 @@
 // CurlLoop.h: runs libcurl's transfers in Qt's event loop. Sockets and timers wake it; nothing blocks. Connections stay
-// open for a while, so that the next request to the same server can reuse one. Thread: the application object's.
-// Ownership: the application object owns the only loop; the makers of transfers own them.
+// open for a while, so that the next request to the same server can reuse one.
+// Thread: the application object's. Ownership: the application object owns the only loop; the makers of transfers own
+// them.
 #pragma once
 
 #include "Engine/core/fetch/ProxyChoice.h"

@@ -1,5 +1,5 @@
-// CurlRequest.h: one request for libcurl, with all of libcurl's automatic features turned off. Thread: one at a time.
-// Ownership: owns libcurl's handle. It cannot move, because libcurl holds its address.
+// CurlRequest.h: one request for libcurl, with all of libcurl's automatic features turned off.
+// Thread: one at a time. Ownership: owns libcurl's handle. It cannot move, because libcurl holds its address.
 #pragma once
 
 #include "Engine/core/fetch/CurlLoop.h"

@@ -1,7 +1,7 @@
 // HttpTransfer.h: one request and its answer through libcurl, with the deadlines of a connection and the refusals of an
-// answer. It follows no redirect, stores nothing and decompresses nothing. Thread: the application object's. Ownership:
-// its maker owns it, and may delete it later (deleteLater) from a slot. It emits exactly one of its two signals, once.
-// The sink must live until then.
+// answer. It follows no redirect, stores nothing and decompresses nothing.
+// Thread: the application object's. Ownership: its maker owns it, and may delete it later (deleteLater) from a slot. It
+// emits exactly one of its two signals, once. The sink must live until then.
 #pragma once
 
 #include "Engine/core/fetch/CurlRequest.h"

@@ -1,5 +1,5 @@
-// IBodySink.h: receives the body of an answer piece by piece, if a whole one would take too much memory. Thread: the
-// transfer's. Ownership: the sink's owner keeps it; it lives as long as the transfer.
+// IBodySink.h: receives the body of an answer piece by piece, if a whole one would take too much memory.
+// Thread: the transfer's. Ownership: the sink's owner keeps it; it lives as long as the transfer.
 #pragma once
 
 #include <QtGlobal>

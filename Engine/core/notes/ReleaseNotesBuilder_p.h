@@ -1,5 +1,5 @@
-// ReleaseNotesBuilder_p.h: builds the displayed markup of release notes, within the limits. Thread: one at a time.
-// Ownership: the limits must outlive it.
+// ReleaseNotesBuilder_p.h: builds the displayed markup of release notes, within the limits.
+// Thread: one at a time. Ownership: the limits must outlive it.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesElements_p.h"

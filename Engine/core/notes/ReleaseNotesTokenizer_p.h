@@ -1,7 +1,7 @@
 // ReleaseNotesTokenizer_p.h: splits HTML into text, start tags and end tags, as tolerantly as a browser and in linear
 // time. Comments, declarations and elements whose content is not for people produce no token. A tag, a comment or such
-// an element that is never closed extends to the end. Thread: one at a time. Ownership: it refers to the text that it
-// was made with, which must outlive it.
+// an element that is never closed extends to the end.
+// Thread: one at a time. Ownership: it refers to the text that it was made with, which must outlive it.
 #pragma once
 
 #include <optional>

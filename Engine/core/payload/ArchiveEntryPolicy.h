@@ -1,6 +1,7 @@
 // ArchiveEntryPolicy.h: which entries an update archive may have. Pure: it sees descriptions, never a file, and keeps a
-// model of the tree that the admitted entries would make. Thread: one at a time. Use one policy for one pass over one
-// archive. The first refusal is final for the whole archive.
+// model of the tree that the admitted entries would make.
+// Thread: one at a time. Use one policy for one pass over one archive. The first refusal is final for the whole
+// archive.
 #pragma once
 
 #include "Engine/core/payload/UpdateFault.h"

@@ -1,5 +1,5 @@
-// FieldCodec_p.h: values in a byte sequence: little-endian numbers, and texts after their length. Thread: one at a
-// time. Ownership: the caller owns a reader's bytes.
+// FieldCodec_p.h: values in a byte sequence: little-endian numbers, and texts after their length.
+// Thread: one at a time. Ownership: the caller owns a reader's bytes.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,7 @@
 // NoteFile.h: the small files of an update that outlive the process that wrote them, next to the bundle and next to the
-// downloads. Thread: any, but one at a time for each file; next to a bundle the swap lock ensures this. Ownership:
-// callers own their descriptors.
+// downloads.
+// Thread: any, but one at a time for each file; next to a bundle the swap lock ensures this. Ownership: callers own
+// their descriptors.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -1,5 +1,6 @@
 // PropertyListReader_p.h: a position in the text and its operations, shared by the readers of both styles of property
-// list. Thread: one at a time. Ownership: the caller owns the text.
+// list.
+// Thread: one at a time. Ownership: the caller owns the text.
 #pragma once
 
 #include "Engine/core/payload/PropertyList.h"

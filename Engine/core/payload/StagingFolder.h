@@ -1,7 +1,7 @@
-// StagingFolder.h: the fresh folder next to an installed bundle in which its next version is created. Thread: one at a
-// time. Ownership: the object holds the folder's descriptor and the kernel's lock, which marks the folder as in use. A
-// process that inherits the descriptor shares the lock. The folder itself stays when the object is destroyed: the
-// helper removes it.
+// StagingFolder.h: the fresh folder next to an installed bundle in which its next version is created.
+// Thread: one at a time. Ownership: the object holds the folder's descriptor and the kernel's lock, which marks the
+// folder as in use. A process that inherits the descriptor shares the lock. The folder itself stays when the object is
+// destroyed: the helper removes it.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

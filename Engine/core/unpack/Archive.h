@@ -1,6 +1,6 @@
-// Archive.h: one pass over the entries of an update archive: a zip, or a tar in gzip, bzip2, xz or Zstandard. Thread:
-// one at a time. Ownership: the caller owns the archive's descriptor; its read position is not used. Names and link
-// targets are the archive's own bytes, independent of any locale. So the helper, which has no locale, and the
+// Archive.h: one pass over the entries of an update archive: a zip, or a tar in gzip, bzip2, xz or Zstandard.
+// Thread: one at a time. Ownership: the caller owns the archive's descriptor; its read position is not used. Names and
+// link targets are the archive's own bytes, independent of any locale. So the helper, which has no locale, and the
 // publisher's tool, which has the user's, read the same names.
 #pragma once
 

@@ -1,5 +1,5 @@
-// DiskChores.h: runs slow disk work in threads, so that it does not block an event loop. Thread: its maker's.
-// Ownership: its destructor waits for every chore.
+// DiskChores.h: runs slow disk work in threads, so that it does not block an event loop.
+// Thread: its maker's. Ownership: its destructor waits for every chore.
 #pragma once
 
 #include <functional>

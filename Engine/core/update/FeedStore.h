@@ -1,6 +1,6 @@
-// FeedStore.h: the kept feed of an application, on the disk, and in memory until it is written. Thread: its maker's,
-// with Qt's event loop; threads do the reading and writing. Ownership: the updater's. Its destructor waits for these
-// threads.
+// FeedStore.h: the kept feed of an application, on the disk, and in memory until it is written.
+// Thread: its maker's, with Qt's event loop; threads do the reading and writing. Ownership: the updater's. Its
+// destructor waits for these threads.
 #pragma once
 
 #include "Engine/core/check/IFeedStore.h"

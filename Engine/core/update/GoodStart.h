@@ -1,8 +1,9 @@
 // GoodStart.h: what the engine does for a bundle that has just started. It finishes or undoes an interrupted update,
 // and records whether a new version starts well. A new version whose information file says PelnarConfirmsGoodStart =
 // YES is kept only if it calls ConfirmGoodStart: every start without that call is counted, and the third one restores
-// the previous version. Any other new version is kept once it has started. Thread: the Qt main thread. Ownership: \a
-// owner owns the running work. If it is destroyed, no callback follows, but the work is completed.
+// the previous version. Any other new version is kept once it has started.
+// Thread: the Qt main thread. Ownership: \a owner owns the running work. If it is destroyed, no callback follows, but
+// the work is completed.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"

@@ -1,6 +1,7 @@
 // HelperProcess.h: the installer's helper as the host sees it: started with a job and inherited descriptors, observed
-// through its report, ended by the host. Thread: its maker's, with Qt's event loop. Ownership: its maker owns it.
-// Destroying it kills a helper that was not released; no callback follows.
+// through its report, ended by the host.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it kills a helper that was not
+// released; no callback follows.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -1,6 +1,6 @@
 // IUpdateHost.h: the updater's delegate as a check and its update see it. An exception of an operation counts as a
-// failure of the application. Any operation may run its own event loop. Thread: the Qt main thread. Ownership: outlives
-// the checks and updates that use it.
+// failure of the application. Any operation may run its own event loop.
+// Thread: the Qt main thread. Ownership: outlives the checks and updates that use it.
 #pragma once
 
 #include "Engine/core/check/BackOff.h"

@@ -1,6 +1,6 @@
 // IUpdateParts.h: the side effects of an update, one operation each, so that tests can run an update without a server,
-// a helper or a clock. Thread: the Qt main thread. Ownership: outlives the updates that use it; the caller owns the
-// created objects.
+// a helper or a clock.
+// Thread: the Qt main thread. Ownership: outlives the updates that use it; the caller owns the created objects.
 #pragma once
 
 #include "Engine/core/download/ArchiveDownload.h"

@@ -1,7 +1,7 @@
 // IUserInterface.h: the windows of an update, as the engine controls them. One window is open at a time: opening one
 // closes the previous one without an answer. Every callback is called at most once, after its window is closed. It may
-// open the next window or destroy the user interface. Thread: the Qt main thread. Ownership: the engine owns it; it
-// keeps each callback as long as its window.
+// open the next window or destroy the user interface.
+// Thread: the Qt main thread. Ownership: the engine owns it; it keeps each callback as long as its window.
 #pragma once
 
 #include "Engine/core/Sentence.h"

@@ -1,6 +1,6 @@
 // InstallAttempt.h: the record of an installation that will be handed to the helper. The helper writes the outcome into
-// it. See docs/formats/install-record.md. Thread: one at a time. Ownership: it owns its descriptor. A started attempt
-// survives this object.
+// it. See docs/formats/install-record.md.
+// Thread: one at a time. Ownership: it owns its descriptor. A started attempt survives this object.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

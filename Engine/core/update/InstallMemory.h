@@ -1,6 +1,6 @@
 // InstallMemory.h: the result of the last installation, as a start of the application finds it. It removes a completed
-// record, together with the archive that was kept for another attempt. Thread: its maker's. Ownership: its destructor
-// waits for its pending writes and removals.
+// record, together with the archive that was kept for another attempt.
+// Thread: its maker's. Ownership: its destructor waits for its pending writes and removals.
 #pragma once
 
 #include "Engine/core/payload/InstallRecord.h"

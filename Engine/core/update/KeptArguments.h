@@ -1,6 +1,6 @@
 // KeptArguments.h: the arguments for the next version's start, in a memory file that a helper reads after this process
-// has ended. The last arguments count, at any time. Thread: main. Ownership: one for the process, for its whole life;
-// the receiver owns a shared file.
+// has ended. The last arguments count, at any time.
+// Thread: main. Ownership: one for the process, for its whole life; the receiver owns a shared file.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -1,5 +1,6 @@
-// PreparedUpdate.h: the staging folder of an update, first empty, then with the checked bundle in it. Thread: one at a
-// time. Ownership: the object owns the folder and removes it at its end, unless a helper owns it by then.
+// PreparedUpdate.h: the staging folder of an update, first empty, then with the checked bundle in it.
+// Thread: one at a time. Ownership: the object owns the folder and removes it at its end, unless a helper owns it by
+// then.
 #pragma once
 
 #include "Engine/core/payload/HelperReport.h"

@@ -1,5 +1,6 @@
-// UpdateFlow.h: one check for updates with its windows, and its update. Thread: the Qt main thread. Ownership: the
-// updater owns the flow and is its host; host, windows and parts outlive it. The flow owns the check and the update.
+// UpdateFlow.h: one check for updates with its windows, and its update.
+// Thread: the Qt main thread. Ownership: the updater owns the flow and is its host; host, windows and parts outlive it.
+// The flow owns the check and the update.
 #pragma once
 
 #include "Engine/core/update/UpdateRun.h"

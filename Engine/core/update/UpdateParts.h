@@ -1,5 +1,5 @@
-// UpdateParts.h: the real side effects of an update. Thread: the Qt main thread. Ownership: outlives the updates that
-// use it; the caller owns the created objects.
+// UpdateParts.h: the real side effects of an update.
+// Thread: the Qt main thread. Ownership: outlives the updates that use it; the caller owns the created objects.
 #pragma once
 
 #include "Engine/core/PathText.h"

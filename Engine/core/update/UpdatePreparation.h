@@ -1,6 +1,6 @@
-// UpdatePreparation.h: the helper verifies one archive and unpacks it into a fresh folder next to the bundle. Thread:
-// its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it kills the helper and removes the
-// folder; no callback follows.
+// UpdatePreparation.h: the helper verifies one archive and unpacks it into a fresh folder next to the bundle.
+// Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it kills the helper and removes
+// the folder; no callback follows.
 #pragma once
 
 #include "Engine/core/update/IUpdateParts.h"

@@ -1,7 +1,7 @@
 // UpdateRun.h: one update, from the offered item to the helper that installs it: ask, download, prepare, ask again,
-// hand over. An automatic check in an application that downloads automatically skips the first question. Thread: the Qt
-// main thread. Ownership: its maker owns it; host, windows and parts outlive it. Destroying it before its end removes
-// the prepared files and notifies nobody. A helper that already has the update continues.
+// hand over. An automatic check in an application that downloads automatically skips the first question.
+// Thread: the Qt main thread. Ownership: its maker owns it; host, windows and parts outlive it. Destroying it before
+// its end removes the prepared files and notifies nobody. A helper that already has the update continues.
 #pragma once
 
 #include "Engine/core/update/IUpdateHost.h"

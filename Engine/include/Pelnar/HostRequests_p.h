@@ -1,5 +1,6 @@
 // HostRequests_p.h: the calls of a host that the update checker passes on to the engine. Hosts call the functions of
-// the public headers in this folder, which load the engine first. Thread: the Qt main thread.
+// the public headers in this folder, which load the engine first.
+// Thread: the Qt main thread.
 #pragma once
 
 #include <Pelnar/AutomaticDownloads.h>

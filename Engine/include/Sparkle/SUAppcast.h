@@ -1,5 +1,5 @@
-// SUAppcast.h: the items of a loaded feed, in the order of the feed; immutable. Thread: any after creation, in practice
-// main. Ownership: it retains its items.
+// SUAppcast.h: the items of a loaded feed, in the order of the feed; immutable.
+// Thread: any after creation, in practice main. Ownership: it retains its items.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,5 +1,6 @@
-// SUAppcastItem.h: one item of a feed, or one of its deltas; immutable. Thread: any after creation, in practice main.
-// Ownership: the appcast retains it. An item is a reference: the delegate returns the same object that it received.
+// SUAppcastItem.h: one item of a feed, or one of its deltas; immutable.
+// Thread: any after creation, in practice main. Ownership: the appcast retains it. An item is a reference: the delegate
+// returns the same object that it received.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,5 +1,6 @@
-// SUUpdater.h: the engine's main class: one updater for the running bundle. Thread: main, with Qt's event loop running.
-// Ownership: the shared updater lives as long as the process; it does not retain its delegate.
+// SUUpdater.h: the engine's main class: one updater for the running bundle.
+// Thread: main, with Qt's event loop running. Ownership: the shared updater lives as long as the process; it does not
+// retain its delegate.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,6 +1,6 @@
-// SUUpdaterDelegate.h: the questions and notifications of the engine to its delegate. Thread: main, from Qt's event
-// loop. Ownership: the updater does not retain its delegate. Every method is optional; the engine does not call a
-// missing one.
+// SUUpdaterDelegate.h: the questions and notifications of the engine to its delegate.
+// Thread: main, from Qt's event loop. Ownership: the updater does not retain its delegate. Every method is optional;
+// the engine does not call a missing one.
 #pragma once
 
 #import <Foundation/Foundation.h>

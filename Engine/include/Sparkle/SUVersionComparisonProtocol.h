@@ -1,5 +1,5 @@
-// SUVersionComparisonProtocol.h: orders the version texts of feed items. Thread: main. Ownership: the delegate owns its
-// comparator.
+// SUVersionComparisonProtocol.h: orders the version texts of feed items.
+// Thread: main. Ownership: the delegate owns its comparator.
 #pragma once
 
 #import <Foundation/Foundation.h>

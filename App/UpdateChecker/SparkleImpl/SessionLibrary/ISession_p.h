@@ -1,5 +1,5 @@
-// ISession_p.h: the session as the back end uses it, independent of the library that contains it. Thread: the Qt main
-// thread. Ownership: its library owns the session, which lives as long as the process.
+// ISession_p.h: the session as the back end uses it, independent of the library that contains it.
+// Thread: the Qt main thread. Ownership: its library owns the session, which lives as long as the process.
 #pragma once
 
 #include "common/NotNull.h"

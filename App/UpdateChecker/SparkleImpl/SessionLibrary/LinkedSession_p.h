@@ -1,5 +1,5 @@
-// LinkedSession_p.h: the session that is linked into this library or program. Thread: the Qt main thread. Ownership:
-// lives as long as the process.
+// LinkedSession_p.h: the session that is linked into this library or program.
+// Thread: the Qt main thread. Ownership: lives as long as the process.
 #pragma once
 
 namespace Pelnar::App

@@ -1,5 +1,6 @@
-// OpenSession_p.h: gives a back end the session. Thread: the Qt main thread. OpenLinkedSession.cpp implements it for a
-// linked session, OpenLoadedSession.cpp for a session in its own library.
+// OpenSession_p.h: gives a back end the session.
+// Thread: the Qt main thread. OpenLinkedSession.cpp implements it for a linked session, OpenLoadedSession.cpp for a
+// session in its own library.
 #pragma once
 
 #include <QtGlobal>

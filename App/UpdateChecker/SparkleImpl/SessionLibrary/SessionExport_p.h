@@ -1,5 +1,6 @@
 // SessionExport_p.h: the interface of the library with the session and the engine to the update checker, which loads
-// it. Thread: the Qt main thread. Ownership: the library's, which stays loaded.
+// it.
+// Thread: the Qt main thread. Ownership: the library's, which stays loaded.
 #pragma once
 
 #include "common/Export.h"

@@ -1,7 +1,8 @@
 // SessionLibrary_p.h: loads the library with the session and the engine, once, at its first use. So a host pays for the
 // engine at its first check and not at its start. The library must be in the same folder as this one and from the same
-// build. Thread: the Qt main thread; a separate thread does the loading. Ownership: a singleton. Its destructor waits
-// for a running load. The library stays loaded.
+// build.
+// Thread: the Qt main thread; a separate thread does the loading. Ownership: a singleton. Its destructor waits for a
+// running load. The library stays loaded.
 #pragma once
 
 #include <QObject>

@@ -1,5 +1,6 @@
 // AppcastJudgement_p.h: the rules that judge a feed item and prefer one of two. Plain C++, private to the session; the
-// publisher's tool uses them too. Thread: the caller's. Nothing here logs: the results say which rule applied.
+// publisher's tool uses them too.
+// Thread: the caller's. Nothing here logs: the results say which rule applied.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/ItemRecord_p.h"

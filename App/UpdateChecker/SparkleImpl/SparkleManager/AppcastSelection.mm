@@ -1,6 +1,7 @@
 // AppcastSelection.mm: the session's answers about feed items: their kind, their extensions, whether one may be offered
-// and which is the best. Thread: the Qt main thread. Ownership: the framework owns items; copies of their properties
-// live no longer than one answer.
+// and which is the best.
+// Thread: the Qt main thread. Ownership: the framework owns items; copies of their properties live no longer than one
+// answer.
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 

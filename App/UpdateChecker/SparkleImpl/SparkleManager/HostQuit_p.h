@@ -1,5 +1,5 @@
-// HostQuit_p.h: asks the host application to quit for an installation. Plain C++, private to the session. Thread: the
-// Qt main thread.
+// HostQuit_p.h: asks the host application to quit for an installation. Plain C++, private to the session.
+// Thread: the Qt main thread.
 #pragma once
 
 namespace Pelnar::App::Session

@@ -1,6 +1,6 @@
-// ItemRecord_p.h: one feed item as the rules of the selection see it. Plain C++, private to the session. Thread: the
-// caller's, one at a time. Ownership: a record refers to its source, which must outlive it. A record reads a property
-// from its source at most once, and only when a rule needs it.
+// ItemRecord_p.h: one feed item as the rules of the selection see it. Plain C++, private to the session.
+// Thread: the caller's, one at a time. Ownership: a record refers to its source, which must outlive it. A record reads
+// a property from its source at most once, and only when a rule needs it.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"

@@ -1,5 +1,6 @@
 // PelnarSparkleVersionComparator.h: orders the version texts of a feed with the operators of the lent context.
-// Objective-C++ only. Thread: the Qt main thread. Ownership: the session owns it; it keeps a non-owning pointer back.
+// Objective-C++ only.
+// Thread: the Qt main thread. Ownership: the session owns it; it keeps a non-owning pointer back.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"

@@ -1,5 +1,5 @@
-// RelaunchTarget_p.h: which bundle is started after an installation. Plain C++, private to the session. Thread: the Qt
-// main thread.
+// RelaunchTarget_p.h: which bundle is started after an installation. Plain C++, private to the session.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"

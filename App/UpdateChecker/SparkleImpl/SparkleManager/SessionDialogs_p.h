@@ -1,6 +1,6 @@
-// SessionDialogs_p.h: the two dialogs of the session itself. Plain C++, private to the session. Thread: the Qt main
-// thread; each runs a nested event loop. Ownership: a dialog lives as long as its call. If its parent is destroyed
-// meanwhile, it counts as dismissed.
+// SessionDialogs_p.h: the two dialogs of the session itself. Plain C++, private to the session.
+// Thread: the Qt main thread; each runs a nested event loop. Ownership: a dialog lives as long as its call. If its
+// parent is destroyed meanwhile, it counts as dismissed.
 #pragma once
 
 #include "HostFramework/Version.h"

@@ -1,6 +1,6 @@
-// SparkleManager.h: the session of the process. It lends the framework's only updater to one check at a time. Thread:
-// the Qt main thread. Ownership: a singleton, created at first use and destroyed at process exit. It shares the context
-// of the updater that last took its lock.
+// SparkleManager.h: the session of the process. It lends the framework's only updater to one check at a time.
+// Thread: the Qt main thread. Ownership: a singleton, created at first use and destroyed at process exit. It shares the
+// context of the updater that last took its lock.
 #pragma once
 
 #include "common/Export.h"

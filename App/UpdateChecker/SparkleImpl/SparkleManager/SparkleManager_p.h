@@ -1,6 +1,7 @@
-// SparkleManager_p.h: the session's implementation record, for the session's own sources. Objective-C++ only. Thread:
-// the Qt main thread; only `locked` is atomic, so that no other attempt to lock comes between test and set. Ownership:
-// the session owns the framework's objects below; the delegate and the comparator keep non-owning pointers back.
+// SparkleManager_p.h: the session's implementation record, for the session's own sources. Objective-C++ only.
+// Thread: the Qt main thread; only `locked` is atomic, so that no other attempt to lock comes between test and set.
+// Ownership: the session owns the framework's objects below; the delegate and the comparator keep non-owning pointers
+// back.
 #pragma once
 
 #if !defined(__OBJC__)

@@ -1,6 +1,6 @@
 // TextPrefilters_p.h: Qt's answers to two questions about the texts of a feed item, computed without Qt where they are
-// certain. Plain C++, private to the session. Thread: any. Each result equals Qt's for every text; the tests compare
-// both over random texts.
+// certain. Plain C++, private to the session.
+// Thread: any. Each result equals Qt's for every text; the tests compare both over random texts.
 #pragma once
 
 #include <QDate>

@@ -1,5 +1,5 @@
-// VersionOrder_p.h: the order of two version texts by a context's operators. Plain C++, private to the session. Thread:
-// the Qt main thread.
+// VersionOrder_p.h: the order of two version texts by a context's operators. Plain C++, private to the session.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "HostFramework/Version.h"

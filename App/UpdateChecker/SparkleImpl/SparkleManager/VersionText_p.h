@@ -1,5 +1,6 @@
 // VersionText_p.h: versions from the texts of a feed, for callers that expect malformed text. Plain C++, private to the
-// session. Thread: any.
+// session.
+// Thread: any.
 #pragma once
 
 #include "HostFramework/Version.h"

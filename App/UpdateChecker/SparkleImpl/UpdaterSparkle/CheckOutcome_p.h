@@ -1,5 +1,5 @@
-// CheckOutcome_p.h: the result of a finished check, computed from the two versions of its context. Thread: the Qt main
-// thread, like the context.
+// CheckOutcome_p.h: the result of a finished check, computed from the two versions of its context.
+// Thread: the Qt main thread, like the context.
 #pragma once
 
 #include "App/UpdateChecker/UpdateCheckResult.h"

@@ -1,5 +1,6 @@
-// SparkleUpdateContext.h: the record that gives an updater's rules and data to the process-wide session. Thread: the Qt
-// main thread; no lock. Ownership: shared by the updater that created it and the session that it is lent to.
+// SparkleUpdateContext.h: the record that gives an updater's rules and data to the process-wide session.
+// Thread: the Qt main thread; no lock. Ownership: shared by the updater that created it and the session that it is lent
+// to.
 #pragma once
 
 #include "HostFramework/IoPath.h"

@@ -1,6 +1,6 @@
 // UpdaterSparkle.h: the back end that uses the session: it takes the session's lock, checks, shows the dialog and
-// releases the lock. Thread: the Qt main thread. Ownership: the flow controller owns it; it shares its context with the
-// session.
+// releases the lock.
+// Thread: the Qt main thread. Ownership: the flow controller owns it; it shares its context with the session.
 #pragma once
 
 #include "App/UpdateChecker/AbstractUpdaterImpl.h"

@@ -132,3 +132,25 @@ def macro_records(root):
                 if not writer.start() <= call.start() < writer.end():
                     records.add((severity, text_of(split(until(text, call.end(), ")")[0], "+"))))
     return records
+
+
+SITE_ROW = re.compile(r"^\| (?P<file>\w+):(?P<line>\d+) \| (?P<severity>\w+) \|(?: `(?P<text>.*?)`)? \| (?P<rest>.*) \|$", re.MULTILINE)
+TEXT_ROW = re.compile(r"^\| (?P<severity>Info|Warning|Error) \| `(?P<text>.*?)` \| (?P<rest>.*) \|$", re.MULTILINE)
+PAGE = "docs/guide/log-lines.md"
+
+
+def shown_records(page):
+    """The records of the page's rows, as session_records() and macro_records() give those of the sources."""
+    sites = [(row["file"], int(row["line"]), row["severity"], row["text"] or "") for row in SITE_ROW.finditer(page)]
+    return sites, [(row["severity"], row["text"]) for row in TEXT_ROW.finditer(page)]
+
+
+def findings(root):
+    """What the page lacks, has twice or has of nothing."""
+    page = (root / PAGE).read_text(encoding="utf-8")
+    found = []
+    for written, shown in zip((session_records(root), macro_records(root)), shown_records(page)):
+        found += [f"no row for the record {record}" for record in written - set(shown)]
+        found += [f"nothing writes the record {record}" for record in set(shown) - written]
+        found += [f"two rows for the record {record}" for record in set(shown) if shown.count(record) > 1]
+    return sorted(found)

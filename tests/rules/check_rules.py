@@ -9,6 +9,11 @@ import pathlib
 import re
 import sys
 
+sys.dont_write_bytecode = True
+sys.path.append(str(pathlib.Path(__file__).resolve().parent.parent / "guides"))
+import links # noqa: E402
+import log_lines # noqa: E402
+
 SOURCE_ENDINGS = {".cpp", ".h", ".mm"}
 
 # What a folder may include from the project, besides itself. A longer path wins over a shorter one.
@@ -263,6 +268,10 @@ def check_documents(root):
     for path in ["CONTRIBUTING.md", "README.md", "docs/architecture.md"]:
         for number, rule, said in check_document((root / path).read_text(encoding="utf-8"), files):
             findings.append(f"{path}:{number}: {rule}: {said}")
+    findings += [f"{log_lines.PAGE}:1: log-lines: {said}" for said in log_lines.findings(root)]
+    for document in links.documents(root):
+        path = document.relative_to(root).as_posix()
+        findings += [f"{path}:1: dead-link: {target}" for target in links.dead_links(root, document)]
     return findings
 
 

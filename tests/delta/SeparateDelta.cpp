@@ -21,7 +21,7 @@ void AddPatch(DeltaEntry& entry, Bytes oldBytes, Bytes newBytes, ByteBuffer& dat
     entry.kind = DeltaEntryKind::Patched;
     entry.sourcePath = entry.path;
     entry.sourceSize = oldBytes.size();
-    entry.sourceHash = HashOf(oldBytes);
+    entry.sourceHash = HashOf(oldBytes, HashKind::Blake2b);
     for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
     {
         ByteBuffer const stored = CompressForDelta(Bytes(patch.streams[i].data(), patch.streams[i].size()));
@@ -42,6 +42,11 @@ std::string MakeSeparateDelta(std::filesystem::path const& oldFolder, std::files
     ByteBuffer data;
     for (DeltaEntry& entry : manifest.entries)
     {
+        bool const isFile = entry.kind == DeltaEntryKind::Whole || entry.kind == DeltaEntryKind::Kept;
+        if (isFile)
+        {
+            entry.hash = HashOf(OpenedFile(newFolder / entry.path).Content(), HashKind::Blake2b);
+        }
         if (entry.kind != DeltaEntryKind::Whole)
         {
             continue;

@@ -106,7 +106,7 @@ Engine::DeltaEntry EntryOf(ForgedEntry const& forged)
     entry.kind = Engine::DeltaEntryKind::Whole;
     entry.isExecutable = (forged.mode & 0100) != 0;
     entry.size = plain.size();
-    entry.hash = Engine::HashOf(plain);
+    entry.hash = Engine::HashOf(plain, Engine::HashKind::Blake2b);
     return entry;
 }
 
@@ -127,6 +127,7 @@ std::string StoreSeparately(Engine::DeltaManifest& manifest, std::vector<std::st
 std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string> const& files)
 {
     std::string all;
+    Engine::ContentHasher hashes;
     Engine::DeltaUnit unit;
     for (std::size_t i = 0; i < files.size(); ++i)
     {
@@ -134,12 +135,14 @@ std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string
         {
             unit.targets.push_back(static_cast<std::uint32_t>(i));
             all += files[i];
+            Engine::ContentHash const hash = Engine::HashOf(BytesOf(files[i]));
+            hashes.Add(Engine::Bytes(hash.data(), hash.size()));
         }
     }
     Engine::PackedStream const packed = Engine::PackStream(BytesOf(all), Engine::EXTRA_WINDOW_LOG);
     manifest.format = Engine::DeltaFormat::Joined;
     manifest.units.push_back(unit);
-    manifest.targetHash = Engine::HashOf(BytesOf(all));
+    manifest.targetHash = hashes.Finish();
     manifest.baseHash = Engine::HashOf({});
     manifest.streams[4] = {packed.packing, packed.bytes.size()};
     return {packed.bytes.begin(), packed.bytes.end()};

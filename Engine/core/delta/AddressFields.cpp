@@ -1,8 +1,13 @@
 #include "Engine/core/delta/AddressFields.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <utility>
+
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
 
 namespace Pelnar::Engine
 {
@@ -10,12 +15,6 @@ namespace
 {
 
 constexpr std::size_t ARM64_LOOK_AROUND = 8; ///< instructions between an ADRP and what adds to its page
-
-std::uint64_t SignExtended(std::uint64_t value, unsigned bits)
-{
-    std::uint64_t const sign = std::uint64_t(1) << (bits - 1);
-    return ((value & ((sign << 1) - 1)) ^ sign) - sign;
-}
 
 bool IsPageAddress(std::uint32_t word)
 {
@@ -49,12 +48,52 @@ std::uint32_t BaseRegister(std::uint32_t word)
     return word >> 5 & 31;
 }
 
-void Store32(std::uint32_t value, std::uint8_t* bytes)
+using SixteenBytes = std::uint8_t __attribute__((vector_size(16)));
+
+SixteenBytes Load(std::uint8_t const* bytes)
 {
-    std::memcpy(bytes, &value, sizeof value);
+    SixteenBytes loaded;
+    std::memcpy(&loaded, bytes, sizeof loaded);
+    return loaded;
+}
+
+/// A bit for each byte of \a mask whose highest bit is set.
+std::uint32_t BitsOf(SixteenBytes mask)
+{
+#ifdef __SSE2__
+    return static_cast<std::uint32_t>(_mm_movemask_epi8(reinterpret_cast<__m128i>(mask)));
+#else
+    std::uint32_t bits = 0;
+    for (unsigned i = 0; i < 16; ++i)
+    {
+        bits |= std::uint32_t(mask[i] >> 7) << i;
+    }
+    return bits;
+#endif
+}
+
+/// A bit for each of 16 \a bytes behind which a field may stand. The highest byte of a field's distance tells of most
+/// distances that they lead out of the program: it is at most \a reach from 0.
+std::uint32_t OpeningsAmong(std::uint8_t const* bytes, std::uint8_t reach)
+{
+    SixteenBytes const first = Load(bytes);
+    SixteenBytes const second = Load(bytes + 1);
+    SixteenBytes const highest = Load(bytes + 4) + reach;
+    auto const isBranch = (first & 0xFE) == 0xE8;
+    auto const isMemory = (first & 0xC7) == 0x05;
+    auto const isConditional = (first == 0x0F) & ((second & 0xF0) == 0x80);
+    auto const isNear = highest <= static_cast<std::uint8_t>(std::min(2 * reach, 0xFF));
+    return BitsOf(reinterpret_cast<SixteenBytes>(((isBranch | isMemory) & isNear) | isConditional));
 }
 
 } // namespace
+
+FieldScanner::FieldScanner(Bytes file, ImageLayout const& layout)
+    : m_file(file)
+    , m_layout(layout)
+    , m_reach(static_cast<unsigned>(std::min<std::uint64_t>((layout.end - layout.lowest) >> 24, 127)) + 1)
+{
+}
 
 void FieldScanner::Start(std::size_t begin, std::size_t end)
 {
@@ -67,20 +106,6 @@ void FieldScanner::Start(std::size_t begin, std::size_t end)
                                         regions.begin());
     m_isInRegion = false;
     m_frame = 0;
-}
-
-bool FieldScanner::Next(AddressField& field)
-{
-    while (m_isInRegion || EnterRegion())
-    {
-        if (NextInRegion(field))
-        {
-            return true;
-        }
-        m_isInRegion = false;
-        ++m_region;
-    }
-    return false;
 }
 
 bool FieldScanner::EnterRegion()
@@ -96,6 +121,9 @@ bool FieldScanner::EnterRegion()
         if (m_position < m_regionEnd)
         {
             m_isInRegion = true;
+            m_openings = 0;
+            m_openingsEnd = 0;
+            m_isInX86Code = region.kind == RegionKind::X86Code;
             return true;
         }
     }
@@ -124,33 +152,20 @@ bool FieldScanner::NextInRegion(AddressField& field)
     return false;
 }
 
-bool FieldScanner::NextInX86Code(AddressField& field)
+/// Looks at the 16 bytes from m_position on. Without a jump for each: one byte of ten is an opening, and none can be
+/// foretold.
+void FieldScanner::FindX86Openings()
 {
-    field.form = FieldForm::Relative32;
-    while (m_position + 5 <= m_regionEnd)
+    constexpr std::size_t AHEAD = 16 + 4;
+    std::array<std::uint8_t, AHEAD> last{};
+    std::uint8_t const* bytes = m_file.data() + m_position;
+    if (m_file.size() - m_position < AHEAD)
     {
-        std::uint8_t const byte = m_file[m_position];
-        bool const isBranch = byte == 0xE8 || byte == 0xE9;
-        bool const isMemory = (byte & 0xC7) == 0x05;
-        bool const isConditional = byte == 0x0F && (m_file[m_position + 1] & 0xF0) == 0x80;
-        ++m_position;
-        if (!isBranch && !isMemory && !isConditional)
-        {
-            continue;
-        }
-        field.position = m_position + (isConditional ? 1 : 0);
-        if (field.position + 4 > m_regionEnd)
-        {
-            continue;
-        }
-        field.target = Address(field.position) + 4 + SignExtended(Word32(field.position), 32);
-        if (isMemory ? m_layout.IsInImage(field.target) : m_layout.IsInCode(field.target))
-        {
-            m_position = field.position + 4;
-            return true;
-        }
+        std::copy_n(bytes, m_file.size() - m_position, last.data());
+        bytes = last.data();
     }
-    return false;
+    m_openings = OpeningsAmong(bytes, static_cast<std::uint8_t>(m_reach));
+    m_openingsEnd = m_position + 16;
 }
 
 bool FieldScanner::NextInArm64Code(AddressField& field)
@@ -336,29 +351,15 @@ bool FieldScanner::NextFrame(AddressField& field)
     return false;
 }
 
-std::uint32_t FieldScanner::Word32(std::size_t position) const
-{
-    std::uint32_t word;
-    std::memcpy(&word, m_file.data() + position, sizeof word);
-    return word;
-}
-
-std::uint64_t FieldScanner::Word64(std::size_t position) const
-{
-    std::uint64_t word;
-    std::memcpy(&word, m_file.data() + position, sizeof word);
-    return word;
-}
-
-void StoreField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
-                std::uint8_t* bytes)
+void StoreOtherField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
+                     std::uint8_t* bytes)
 {
     std::uint32_t word;
     std::memcpy(&word, bytes, sizeof word);
     switch (field.form)
     {
     case FieldForm::Relative32:
-        return Store32(static_cast<std::uint32_t>(target - address - 4), bytes);
+        break;
     case FieldForm::FromField32:
         return Store32(static_cast<std::uint32_t>(target - address), bytes);
     case FieldForm::BackFromField32:

@@ -5,8 +5,10 @@
 
 #include "Engine/core/delta/ImageLayout.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace Pelnar::Engine
 {
@@ -33,10 +35,19 @@ struct AddressField
     std::size_t Width() const { return form == FieldForm::Word64 ? 8 : 4; }
 };
 
+/// The number of \a bits with its sign.
+inline std::uint64_t SignExtended(std::uint64_t value, unsigned bits)
+{
+    std::uint64_t const sign = std::uint64_t(1) << (bits - 1);
+    return ((value & ((sign << 1) - 1)) ^ sign) - sign;
+}
+
+// Defined here as far as each byte of code or each of its fields needs it, of which a program has hundreds of
+// thousands.
 class FieldScanner
 {
 public:
-    FieldScanner(Bytes file, ImageLayout const& layout) : m_file(file), m_layout(layout) {}
+    FieldScanner(Bytes file, ImageLayout const& layout);
 
     /// From here on Next() answers the fields that stand whole between \a begin and \a end, in ascending order, none
     /// in another.
@@ -47,6 +58,7 @@ private:
     bool EnterRegion();
     bool NextInRegion(AddressField& field);
     bool NextInX86Code(AddressField& field);
+    void FindX86Openings();
     bool NextInArm64Code(AddressField& field);
     bool NextWord(AddressField& field);
     bool NextOffset(AddressField& field);
@@ -55,24 +67,94 @@ private:
     bool IsArm64Field(AddressField& field) const;
     bool FindPagePartner(std::size_t position, std::uint32_t reg, std::uint64_t& target) const;
     bool FindPageBefore(std::size_t position, std::uint32_t reg, std::uint64_t& page) const;
-    std::uint32_t Word32(std::size_t position) const;
-    std::uint64_t Word64(std::size_t position) const;
+    std::uint32_t Word32(std::size_t position) const { return Word<std::uint32_t>(position); }
+    std::uint64_t Word64(std::size_t position) const { return Word<std::uint64_t>(position); }
+    template <class Number>
+    Number Word(std::size_t position) const
+    {
+        Number word;
+        std::memcpy(&word, m_file.data() + position, sizeof word);
+        return word;
+    }
     std::uint64_t Address(std::size_t position) const { return position + m_shift; }
     Bytes m_file;
     ImageLayout const& m_layout;
+    unsigned m_reach; ///< how far the highest byte of a distance of 32 bits within the image is from 0
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
-    std::size_t m_region = 0;    ///< the one that is entered, or the next
-    std::size_t m_position = 0;  ///< in the region that is entered
-    std::size_t m_regionEnd = 0; ///< or the end of what is looked at
-    std::uint64_t m_shift = 0;   ///< of the region's addresses from its positions
+    std::size_t m_region = 0;      ///< the one that is entered, or the next
+    std::size_t m_position = 0;    ///< in the region that is entered
+    std::size_t m_regionEnd = 0;   ///< or the end of what is looked at
+    std::uint32_t m_openings = 0;  ///< a bit for each of the 16 bytes before m_openingsEnd: a field may stand behind it
+    std::size_t m_openingsEnd = 0; ///< 0 when no bytes have been looked at
+    std::uint64_t m_shift = 0;     ///< of the region's addresses from its positions
     bool m_isInRegion = false;
+    bool m_isInX86Code = false;
     std::size_t m_frame = 0; ///< where the code is named in the record whose shared part has been answered; 0 for none
 };
 
+inline bool FieldScanner::Next(AddressField& field)
+{
+    while (m_isInRegion || EnterRegion())
+    {
+        if (m_isInX86Code ? NextInX86Code(field) : NextInRegion(field))
+        {
+            return true;
+        }
+        m_isInRegion = false;
+        ++m_region;
+    }
+    return false;
+}
+
+inline bool FieldScanner::NextInX86Code(AddressField& field)
+{
+    while (m_position + 5 <= m_regionEnd)
+    {
+        m_openings &= m_position < m_openingsEnd ? ~0u << (m_position + 16 - m_openingsEnd) : 0;
+        if (m_openings == 0)
+        {
+            m_position = std::max(m_position, m_openingsEnd);
+            FindX86Openings();
+            continue;
+        }
+        std::size_t const position = m_openingsEnd - 16 + static_cast<std::size_t>(__builtin_ctz(m_openings));
+        m_openings &= m_openings - 1;
+        std::uint8_t const opening = m_file[position];
+        std::size_t const at = position + (opening == 0x0F ? 2 : 1);
+        if (at + 4 > m_regionEnd)
+        {
+            continue;
+        }
+        bool const isMemory = (opening & 0xC7) == 0x05;
+        std::uint64_t const target = Address(at) + 4 + SignExtended(Word32(at), 32);
+        if (isMemory ? m_layout.IsInImage(target) : m_layout.IsInCode(target))
+        {
+            field.form = FieldForm::Relative32;
+            field.position = at;
+            field.target = target;
+            m_position = at + 4;
+            return true;
+        }
+    }
+    return false;
+}
+
+void StoreOtherField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
+                     std::uint8_t* bytes);
+
+inline void Store32(std::uint32_t value, std::uint8_t* bytes)
+{
+    std::memcpy(bytes, &value, sizeof value);
+}
+
 /// Writes \a field as it is in a file where it stands at \a address and its target at \a target. \a bytes are the
 /// field's own from the old file. \a base is where the region's base has gone.
-void StoreField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
-                std::uint8_t* bytes);
+inline void StoreField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
+                       std::uint8_t* bytes)
+{
+    field.form == FieldForm::Relative32 ? Store32(static_cast<std::uint32_t>(target - address - 4), bytes)
+                                        : StoreOtherField(field, address, target, base, bytes);
+}
 
 } // namespace Pelnar::Engine

@@ -5,13 +5,6 @@
 
 namespace Pelnar::Engine
 {
-namespace
-{
-
-constexpr unsigned PAGE_BITS = 12;
-
-} // namespace
-
 AddressMap::AddressMap(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
                        std::vector<PatchStep> const& steps)
     : m_lowest(oldLayout.lowest)
@@ -122,29 +115,17 @@ void AddressMap::TakeRuns(std::vector<Run> const& runs)
 void AddressMap::MakeIndex()
 {
     std::size_t const pages = (m_points.back().begin >> PAGE_BITS) + 2;
-    m_index.resize(pages);
+    m_pages.resize(pages);
     std::size_t point = 0;
     for (std::size_t page = 0; page < pages; ++page)
     {
-        while (point < m_points.size() && m_points[point].begin >> PAGE_BITS < page)
+        while (point < m_points.size() && m_points[point].begin <= page << PAGE_BITS)
         {
             ++point;
         }
-        m_index[page] = static_cast<std::uint32_t>(point);
+        // The first point stands at 0, so there is one before.
+        m_pages[page] = {static_cast<std::uint32_t>(point), m_points[point - 1].shift};
     }
-}
-
-std::uint64_t AddressMap::Find(std::uint64_t address) const
-{
-    auto const wanted = static_cast<std::uint32_t>(address - m_lowest);
-    std::size_t const page = std::min<std::size_t>(wanted >> PAGE_BITS, m_index.size() - 2);
-    auto const begin = m_points.begin() + m_index[page];
-    auto const end = m_points.begin() + m_index[page + 1];
-    auto const behind = std::upper_bound(begin, page == wanted >> PAGE_BITS ? end : m_points.end(), wanted,
-                                         [](std::uint32_t value, Point const& point) { return value < point.begin; });
-    // The first point stands at 0, so there is one before.
-    std::uint32_t const shift = (behind - 1)->shift;
-    return address + static_cast<std::uint64_t>(static_cast<std::int32_t>(shift));
 }
 
 } // namespace Pelnar::Engine

@@ -64,7 +64,10 @@ constexpr std::size_t MAX_PATCH_SOURCE_BYTES = 0x7FFFFFFE;
 /// number, which is smaller only where the stream ends or cannot be read.
 using ByteSource = std::function<std::size_t(std::uint8_t* target, std::size_t size)>;
 using PatchSources = std::array<ByteSource, PATCH_STREAMS>;
-/// Takes the next bytes of the new file; false when they cannot be written.
+/// The pieces in which new bytes come are no larger.
+constexpr std::size_t PATCH_PIECE_BYTES = 128 * 1024;
+/// Takes the next bytes of the new file, which stay as they are until the next call returns; false when they cannot be
+/// written.
 using ByteSink = std::function<bool(Bytes bytes)>;
 
 enum class PatchVerdict
@@ -78,7 +81,8 @@ enum class PatchVerdict
     SinkRefused,  ///< the new bytes could not be written
 };
 
-/// Makes the \a newSize bytes of the new file in pieces of at most 64 KiB. Constant memory; any bytes are safe.
+/// Makes the \a newSize bytes of the new file in pieces of at most PATCH_PIECE_BYTES. Constant memory; any bytes are
+/// safe.
 [[nodiscard]] PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize,
                                             ByteSink const& sink);
 

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <stdexcept>
 
 namespace Pelnar::Engine
 {
@@ -50,14 +51,21 @@ DeltaOutcome BundleFiles::FindSize(std::string const& path, std::uint64_t& size)
     return Open(path, file, size);
 }
 
-DeltaOutcome BundleFiles::MakeFolder(DeltaEntry const& entry)
+DeltaOutcome BundleFiles::Make(DeltaEntry const& entry, ContentHasher& hasher)
 {
-    return m_staging.MakeFolder(entry.path) ? DeltaOutcome{} : WriteFailure();
-}
-
-DeltaOutcome BundleFiles::MakeLink(DeltaEntry const& entry)
-{
-    return m_staging.MakeLink(entry.path, entry.linkTarget) ? DeltaOutcome{} : WriteFailure();
+    switch (entry.kind)
+    {
+    case DeltaEntryKind::Directory:
+        return m_staging.MakeFolder(entry.path) ? DeltaOutcome{} : WriteFailure();
+    case DeltaEntryKind::SymbolicLink:
+        return m_staging.MakeLink(entry.path, entry.linkTarget) ? DeltaOutcome{} : WriteFailure();
+    case DeltaEntryKind::Kept:
+        return Keep(entry, hasher);
+    case DeltaEntryKind::Patched:
+    case DeltaEntryKind::Whole:
+        break;
+    }
+    throw std::logic_error("a file that data make");
 }
 
 DeltaOutcome BundleFiles::MakeFile(DeltaEntry const& entry, UniqueFd& file)

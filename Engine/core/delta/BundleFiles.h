@@ -22,15 +22,16 @@ public:
     [[nodiscard]] DeltaOutcome OpenOld(std::string const& path, std::uint64_t size, UniqueFd& file) const;
     /// The size of the old version's file \a path, if it is a plain file.
     [[nodiscard]] DeltaOutcome FindSize(std::string const& path, std::uint64_t& size) const;
-    [[nodiscard]] DeltaOutcome MakeFolder(DeltaEntry const& entry);
-    [[nodiscard]] DeltaOutcome MakeLink(DeltaEntry const& entry);
+    /// Makes a folder, a link or a kept file, and adds what the file holds to \a hasher. REQUIRES: none of the other
+    /// kinds.
+    [[nodiscard]] DeltaOutcome Make(DeltaEntry const& entry, ContentHasher& hasher);
     [[nodiscard]] DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd& file);
-    /// Clones or copies the old file, and adds what the new one holds to \a hasher.
-    [[nodiscard]] DeltaOutcome Keep(DeltaEntry const& entry, ContentHasher& hasher);
     /// Adds what \a fd holds to \a hasher.
     [[nodiscard]] DeltaOutcome Hash(int fd, ContentHasher& hasher);
 
 private:
+    /// Clones or copies the old file.
+    DeltaOutcome Keep(DeltaEntry const& entry, ContentHasher& hasher);
     DeltaOutcome Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const;
     DeltaOutcome Copy(int source, int target, ContentHasher& hasher);
 

@@ -1,5 +1,4 @@
-// ContentHasher.h: the hash of bytes that come in pieces: BLAKE2b with 32 bytes of output, which is fast on processors
-// without instructions for hashes, too.
+// ContentHasher.h: the hash of bytes that come in pieces.
 // Thread: one at a time. Ownership: its own state.
 #pragma once
 
@@ -10,15 +9,21 @@
 namespace Pelnar::Engine
 {
 
+enum class HashKind
+{
+    Sha256,  ///< processors have instructions for it: more than twice as fast as the other
+    Blake2b, ///< with 32 bytes of output: of names on disks and of deltas in the separate format
+};
+
 class ContentHasher
 {
 public:
     /// Throws std::bad_alloc when the library cannot make a state.
-    ContentHasher();
+    explicit ContentHasher(HashKind kind = HashKind::Sha256);
     ~ContentHasher();
 
     void Add(Bytes bytes);
-    /// The hash of everything added; call it once, last.
+    /// The hash of everything added since the beginning or the last call. REQUIRES: for BLAKE2b, the first call.
     [[nodiscard]] ContentHash Finish();
 
 private:
@@ -26,6 +31,6 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-[[nodiscard]] ContentHash HashOf(Bytes bytes);
+[[nodiscard]] ContentHash HashOf(Bytes bytes, HashKind kind = HashKind::Sha256);
 
 } // namespace Pelnar::Engine

@@ -81,11 +81,13 @@ ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
 PackedStream PackStream(Bytes bytes, int windowLog)
 {
     PackedStream best{0, CompressForDelta(bytes, windowLog)};
+    // LZMA takes several times as long to unpack.
+    std::size_t const worthwhile = best.bytes.size() - best.bytes.size() / 10;
     std::size_t const tries = bytes.size() > MOST_BYTES_TO_TRY ? 1 : std::size(PACKINGS);
     for (std::size_t i = 0; i < tries; ++i)
     {
         ByteBuffer packed = PackByLzma(bytes, PACKINGS[i], windowLog);
-        if (packed.size() < best.bytes.size())
+        if (packed.size() < std::min(worthwhile, best.bytes.size()))
         {
             best = {PACKINGS[i], std::move(packed)};
         }

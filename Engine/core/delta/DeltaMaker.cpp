@@ -40,8 +40,8 @@ public:
             AddUnit(units[i], steps[i], whole);
         }
         AddWholeFiles(whole);
-        m_manifest.baseHash = m_baseHasher.Finish();
-        m_manifest.targetHash = m_targetHasher.Finish();
+        m_manifest.baseHash = m_baseHashes.Finish();
+        m_manifest.targetHash = m_targetHashes.Finish();
         return Pack(m_writer.Finish());
     }
 
@@ -49,15 +49,16 @@ private:
     OpenedFile OpenOld(std::string const& path) const { return OpenedFile(m_old.folder / path); }
     OpenedFile OpenNew(std::string const& path) const { return OpenedFile(m_newFolder / path); }
 
+    static void AddTo(ContentHasher& hashes, ContentHash const& hash) { hashes.Add(Bytes(hash.data(), hash.size())); }
+
     void AddKeptFiles()
     {
         for (DeltaEntry const& entry : m_manifest.entries)
         {
             if (entry.kind == DeltaEntryKind::Kept)
             {
-                OpenedFile const file = OpenOld(entry.sourcePath);
-                m_baseHasher.Add(file.Content());
-                m_targetHasher.Add(file.Content());
+                AddTo(m_baseHashes, entry.hash);
+                AddTo(m_targetHashes, entry.hash);
             }
         }
     }
@@ -88,7 +89,7 @@ private:
         for (DeltaSource const& source : unit.sources)
         {
             texts.push_back(sources.emplace_back(m_old.folder / source.path).Content());
-            m_baseHasher.Add(texts.back());
+            AddTo(m_baseHashes, m_old.files.at(source.path).hash);
         }
         m_writer.StartText();
         PlainText plain(texts);
@@ -97,7 +98,7 @@ private:
             DeltaEntry& entry = m_manifest.entries[targets[number]];
             entry.kind = DeltaEntryKind::Patched;
             OpenedFile const file = OpenNew(entry.path);
-            m_targetHasher.Add(file.Content());
+            AddTo(m_targetHashes, entry.hash);
             unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
                                      : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
@@ -153,9 +154,9 @@ private:
     {
         for (std::uint32_t const target : whole.targets)
         {
-            OpenedFile const file = OpenNew(m_manifest.entries[target].path);
-            m_targetHasher.Add(file.Content());
-            m_writer.AddWhole(file.Content());
+            DeltaEntry const& entry = m_manifest.entries[target];
+            AddTo(m_targetHashes, entry.hash);
+            m_writer.AddWhole(OpenNew(entry.path).Content());
         }
         if (!whole.targets.empty())
         {
@@ -191,8 +192,8 @@ private:
     DeltaManifest& m_manifest;
     DeltaMakerProgress const& m_progress;
     PatchWriter m_writer;
-    ContentHasher m_baseHasher;
-    ContentHasher m_targetHasher;
+    ContentHasher m_baseHashes;
+    ContentHasher m_targetHashes;
 };
 
 void Count(DeltaManifest const& manifest, DeltaReport& report)

@@ -107,8 +107,8 @@ struct DeltaManifest
     // Joined: entries have no hashes, and no source but kept ones, whose sizes only the old version tells.
     std::vector<DeltaUnit> units;
     std::array<StoredStream, PATCH_STREAMS> streams{};
-    ContentHash baseHash{};   ///< of all old files that are used: kept ones in their order, then those of the units
-    ContentHash targetHash{}; ///< of all new files: kept ones in their order, then those of the units
+    ContentHash baseHash{};   ///< of the hashes of all old files that are used: kept ones, then those of the units
+    ContentHash targetHash{}; ///< of the hashes of all new files: kept ones in their order, then those of the units
 };
 
 /// What a manifest may ask for.

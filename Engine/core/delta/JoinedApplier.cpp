@@ -2,6 +2,7 @@
 
 #include "Engine/core/delta/BundleFiles.h"
 #include "Engine/core/delta/PatchApplier.h"
+#include "Engine/core/delta/PieceWriter.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -72,7 +73,7 @@ public:
         {
             return {DeltaError::Damaged, {}, 0};
         }
-        return m_hasher.Finish() == m_manifest.targetHash ? DeltaOutcome{} : Culprit();
+        return m_hashes.Finish() == m_manifest.targetHash ? DeltaOutcome{} : Culprit();
     }
 
 private:
@@ -81,26 +82,21 @@ private:
     {
         for (DeltaEntry const& entry : m_manifest.entries)
         {
-            DeltaOutcome outcome;
-            switch (entry.kind)
+            bool const isStored = entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
+            if (isStored)
             {
-            case DeltaEntryKind::Directory:
-                outcome = m_files.MakeFolder(entry);
-                break;
-            case DeltaEntryKind::SymbolicLink:
-                outcome = m_files.MakeLink(entry);
-                break;
-            case DeltaEntryKind::Kept:
-                outcome = m_files.Keep(entry, m_hasher);
-                break;
-            case DeltaEntryKind::Patched:
-            case DeltaEntryKind::Whole:
                 continue;
             }
+            ContentHasher hasher;
+            DeltaOutcome outcome = m_files.Make(entry, hasher);
             if (!outcome.HasSucceeded())
             {
                 outcome.path = entry.path;
                 return outcome;
+            }
+            if (entry.kind == DeltaEntryKind::Kept)
+            {
+                AddTo(m_hashes, hasher.Finish());
             }
             m_done(entry);
         }
@@ -148,15 +144,21 @@ private:
                 outcome = unit.spanChanges.empty() ? MakeFile(entry, file, old)
                                                    : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
             }
+            ContentHash hash;
+            bool const isWritten = m_writer.Finish(hash);
+            outcome = outcome.HasSucceeded() && !isWritten ? WriteFailure() : outcome;
             if (!outcome.HasSucceeded())
             {
                 outcome.path = entry.path;
                 return outcome;
             }
+            AddTo(m_hashes, hash);
             m_done(entry);
         }
         return {};
     }
+
+    static void AddTo(ContentHasher& hashes, ContentHash const& hash) { hashes.Add(Bytes(hash.data(), hash.size())); }
 
     DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd const& file, IOldText& old)
     {
@@ -187,21 +189,21 @@ private:
 
     ByteSink SinkOf(UniqueFd const& file)
     {
-        return [this, &file](Bytes bytes)
-        {
-            m_hasher.Add(bytes);
-            return WriteAll(file.Get(), bytes);
-        };
+        return [this, &file](Bytes bytes) { return m_writer.Add(file.Get(), bytes); };
     }
 
     /// Why the new files have another hash: the old ones have, too, or it is the delta's own fault.
     DeltaOutcome Culprit()
     {
-        ContentHasher hasher;
-        auto const add = [this, &hasher](std::string const& path, std::uint64_t size)
+        ContentHasher hashes;
+        auto const add = [this, &hashes](std::string const& path, std::uint64_t size)
         {
             UniqueFd file;
-            return m_files.OpenOld(path, size, file).HasSucceeded() && m_files.Hash(file.Get(), hasher).HasSucceeded();
+            ContentHasher hasher;
+            bool const isRead =
+                m_files.OpenOld(path, size, file).HasSucceeded() && m_files.Hash(file.Get(), hasher).HasSucceeded();
+            AddTo(hashes, hasher.Finish());
+            return isRead;
         };
         bool isReadable = true;
         for (DeltaEntry const& entry : m_manifest.entries)
@@ -214,7 +216,7 @@ private:
                 isReadable && std::all_of(unit.sources.begin(), unit.sources.end(),
                                           [&add](DeltaSource const& source) { return add(source.path, source.size); });
         }
-        bool const isExpected = isReadable && hasher.Finish() == m_manifest.baseHash;
+        bool const isExpected = isReadable && hashes.Finish() == m_manifest.baseHash;
         return {isExpected ? DeltaError::ResultDiffers : DeltaError::BaseDiffers, {}, 0};
     }
 
@@ -224,7 +226,8 @@ private:
     std::vector<DeltaStream> m_streams;
     PatchSources m_sources;
     PatchApplier m_patches;
-    ContentHasher m_hasher;
+    ContentHasher m_hashes; ///< of the files' hashes
+    PieceWriter m_writer;   ///< last, as it may still read what the others hold
 };
 
 } // namespace

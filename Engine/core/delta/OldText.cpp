@@ -1,6 +1,7 @@
 #include "Engine/core/delta/OldText.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -38,7 +39,11 @@ Bytes PlainText::Next()
 
 ProgramText::ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
                          std::vector<PatchStep> const& steps)
-    : m_program(program), m_newSpans(std::move(newSpans)), m_map(layout, m_newSpans, steps), m_scanner(program, layout)
+    : m_program(program)
+    , m_newSpans(std::move(newSpans))
+    , m_map(layout, m_newSpans, steps)
+    , m_scanner(program, layout)
+    , m_isUnmoved(m_map.IsUnchanged() && m_newSpans == layout.spans)
 {
 }
 
@@ -47,6 +52,10 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
     m_position = position;
     m_left = size;
     m_shift = newPosition - position;
+    if (IsAsItIs())
+    {
+        return;
+    }
     m_scanner.Start(static_cast<std::size_t>(position), static_cast<std::size_t>(position + size));
     m_hasField = m_scanner.Next(m_field);
 }
@@ -54,6 +63,11 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
 Bytes ProgramText::Next()
 {
     std::uint64_t const begin = m_position;
+    if (IsAsItIs())
+    {
+        m_position += m_left;
+        return m_program.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(std::exchange(m_left, 0)));
+    }
     std::uint64_t end = begin + std::min<std::uint64_t>(m_left, m_piece.size());
     std::copy_n(m_program.data() + begin, end - begin, m_piece.data());
     while (m_hasField && m_field.position < end)

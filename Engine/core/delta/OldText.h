@@ -56,11 +56,14 @@ public:
 
 private:
     void Change(AddressField const& field, std::uint8_t* bytes);
+    /// True for a run of a program of which nothing has moved, at its old place.
+    bool IsAsItIs() const { return m_isUnmoved && m_shift == 0; }
 
     Bytes m_program;
     std::vector<ImageSpan> m_newSpans;
     AddressMap m_map;
     FieldScanner m_scanner;
+    bool m_isUnmoved;
     AddressField m_field; ///< the next one
     bool m_hasField = false;
     std::uint64_t m_position = 0;

@@ -224,7 +224,7 @@ PatchVerdict PatchApplier::TakeLike(Bytes old)
         }
         std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
         std::size_t const count = Room(std::min<std::uint64_t>(old.size(), left));
-        std::uint8_t* const target = m_piece.data() + m_filled;
+        std::uint8_t* const target = m_pieces[m_current].data() + m_filled;
         if (&left == &m_sameLeft)
         {
             std::copy_n(old.data(), count, target);
@@ -253,7 +253,7 @@ PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)
     while (size > 0)
     {
         std::size_t const count = Room(size);
-        if (!m_extra.Take(m_piece.data() + m_filled, count))
+        if (!m_extra.Take(m_pieces[m_current].data() + m_filled, count))
         {
             return PatchVerdict::SourceEnded;
         }
@@ -268,19 +268,21 @@ PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)
 
 std::size_t PatchApplier::Room(std::uint64_t size) const
 {
-    return static_cast<std::size_t>(std::min<std::uint64_t>(size, m_piece.size() - m_filled));
+    return static_cast<std::size_t>(std::min<std::uint64_t>(size, PATCH_PIECE_BYTES - m_filled));
 }
 
 bool PatchApplier::Advance(std::size_t count)
 {
     m_filled += count;
-    return m_filled < m_piece.size() || Flush();
+    return m_filled < PATCH_PIECE_BYTES || Flush();
 }
 
 bool PatchApplier::Flush()
 {
     std::size_t const count = std::exchange(m_filled, 0);
-    return count == 0 || (*m_sink)(Bytes(m_piece.data(), count));
+    Bytes const piece(m_pieces[m_current].data(), count);
+    m_current = (m_current + 1) % m_pieces.size();
+    return count == 0 || (*m_sink)(piece);
 }
 
 PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)

@@ -31,8 +31,8 @@ private:
     std::size_t m_end = 0;
 };
 
-/// Constant memory but for the steps that are asked for; any bytes are safe. New bytes come in pieces of at most 64
-/// KiB.
+/// Constant memory but for the steps that are asked for; any bytes are safe. New bytes come in pieces of at most
+/// PATCH_PIECE_BYTES.
 class PatchApplier
 {
 public:
@@ -85,8 +85,9 @@ private:
     std::uint64_t m_sameLeft = 0;
     std::uint64_t m_changedLeft = 0;
     bool m_isChangedNext = false;
-    std::array<std::uint8_t, 64 * 1024> m_piece;
-    std::size_t m_filled = 0;
+    std::array<std::array<std::uint8_t, PATCH_PIECE_BYTES>, 2> m_pieces; ///< filled in turn
+    std::size_t m_current = 0;
+    std::size_t m_filled = 0; ///< bytes of the current piece
 };
 
 } // namespace Pelnar::Engine

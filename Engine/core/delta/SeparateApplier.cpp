@@ -28,13 +28,9 @@ public:
         switch (entry.kind)
         {
         case DeltaEntryKind::Directory:
-            outcome = m_files.MakeFolder(entry);
-            break;
         case DeltaEntryKind::SymbolicLink:
-            outcome = m_files.MakeLink(entry);
-            break;
         case DeltaEntryKind::Kept:
-            outcome = Keep(entry);
+            outcome = MakeWithoutData(entry);
             break;
         case DeltaEntryKind::Patched:
             outcome = Patch(entry);
@@ -48,11 +44,12 @@ public:
     }
 
 private:
-    DeltaOutcome Keep(DeltaEntry const& entry)
+    DeltaOutcome MakeWithoutData(DeltaEntry const& entry)
     {
-        ContentHasher hasher;
-        DeltaOutcome const outcome = m_files.Keep(entry, hasher);
-        bool const differs = outcome.HasSucceeded() && hasher.Finish() != entry.hash;
+        ContentHasher hasher(HashKind::Blake2b);
+        DeltaOutcome const outcome = m_files.Make(entry, hasher);
+        bool const isKept = outcome.HasSucceeded() && entry.kind == DeltaEntryKind::Kept;
+        bool const differs = isKept && hasher.Finish() != entry.hash;
         return differs ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0} : outcome;
     }
 
@@ -84,7 +81,7 @@ private:
         std::transform(streams.begin(), streams.end(), sources.begin(),
                        [](DeltaStream& stream)
                        { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
-        ContentHasher hasher;
+        ContentHasher hasher(HashKind::Blake2b);
         errno = 0;
         PatchVerdict const verdict = ApplyBinaryPatch(old.Content(), sources, entry.size,
                                                       [&hasher, &target](Bytes bytes)
@@ -105,8 +102,9 @@ private:
         // No matter what the old file is, a patch reads and writes in bounds, and what comes out must have the new
         // one's hash. The old one's only tells why it has not.
         bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
-        return mayBeTheBase && HashOf(old.Content()) != entry.sourceHash ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
-                                                                         : outcome;
+        return mayBeTheBase && HashOf(old.Content(), HashKind::Blake2b) != entry.sourceHash
+                   ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
+                   : outcome;
     }
 
     DeltaOutcome TakeWhole(DeltaEntry const& entry)
@@ -117,7 +115,7 @@ private:
             return made;
         }
         DeltaStream whole(m_containerFd, m_dataOffset, {0, entry.wholeStored});
-        ContentHasher hasher;
+        ContentHasher hasher(HashKind::Blake2b);
         errno = 0;
         for (std::uint64_t missing = entry.size; missing > 0;)
         {

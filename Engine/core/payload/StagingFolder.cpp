@@ -42,7 +42,8 @@ std::string Hexadecimal(Bytes bytes)
 
 std::string NameFor(std::string_view targetName)
 {
-    ContentHash const hash = HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()));
+    ContentHash const hash =
+        HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()), HashKind::Blake2b);
     return std::string(UPDATE_FILES_BEGIN) + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
 }
 

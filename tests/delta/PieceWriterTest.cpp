@@ -1,0 +1,100 @@
+#include "Engine/core/delta/PieceWriter.h"
+
+#include "Engine/core/delta/TreeAccess.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <string>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+constexpr std::size_t LARGE = 100000; ///< a piece that is written in the background
+constexpr std::size_t SMALL = 100;
+
+UniqueFd NewFile()
+{
+    return UniqueFd(::memfd_create("pieces", MFD_CLOEXEC));
+}
+
+std::string ContentOf(int fd)
+{
+    std::string content(static_cast<std::size_t>(::lseek(fd, 0, SEEK_END)), '\0');
+    EXPECT_EQ(ReadUpTo(fd, 0, content.data(), content.size()), static_cast<ssize_t>(content.size()));
+    return content;
+}
+
+Bytes View(std::string const& text)
+{
+    return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
+}
+
+TEST(PieceWriter, WritesLargeAndSmallPiecesInTheirOrder)
+{
+    PieceWriter writer;
+    for (int round = 0; round < 20; ++round)
+    {
+        UniqueFd const file = NewFile();
+        std::string whole;
+        // Two buffers in turn, as the contract allows.
+        std::string pieces[2];
+        for (int i = 0; i < 7; ++i)
+        {
+            std::string& piece = pieces[i % 2];
+            piece.assign(i % 3 == 2 ? SMALL : LARGE, static_cast<char>('a' + i + round));
+            whole += piece;
+            ASSERT_TRUE(writer.Add(file.Get(), View(piece)));
+        }
+        ContentHash hash;
+        ASSERT_TRUE(writer.Finish(hash));
+        EXPECT_EQ(ContentOf(file.Get()), whole);
+        EXPECT_EQ(hash, HashOf(View(whole)));
+    }
+}
+
+TEST(PieceWriter, TellsOfAFileThatCannotBeWrittenAndGoesOnWithTheNext)
+{
+    PieceWriter writer;
+    UniqueFd const full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+    ASSERT_TRUE(full);
+    std::string const piece(LARGE, 'x');
+    bool const isTaken = writer.Add(full.Get(), View(piece));
+    ContentHash hash;
+    errno = 0;
+    EXPECT_FALSE(writer.Finish(hash));
+    EXPECT_TRUE(isTaken) << "the failure is known only behind";
+    EXPECT_EQ(errno, ENOSPC);
+
+    UniqueFd const file = NewFile();
+    EXPECT_TRUE(writer.Add(file.Get(), View(piece)));
+    EXPECT_TRUE(writer.Finish(hash));
+    EXPECT_EQ(ContentOf(file.Get()), piece);
+}
+
+TEST(PieceWriter, TakesNoMoreOfAFileOnceAPieceIsLost)
+{
+    PieceWriter writer;
+    UniqueFd const full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+    std::string const piece(LARGE, 'x');
+    static_cast<void>(writer.Add(full.Get(), View(piece)));
+    errno = 0;
+    EXPECT_FALSE(writer.Add(full.Get(), View(piece)));
+    EXPECT_EQ(errno, ENOSPC);
+}
+
+TEST(PieceWriter, AnEmptyFileHasTheHashOfNothing)
+{
+    PieceWriter writer;
+    ContentHash hash;
+    ASSERT_TRUE(writer.Finish(hash));
+    EXPECT_EQ(hash, HashOf({}));
+}
+
+} // namespace

@@ -29,6 +29,7 @@ public:
         Question = 2,
     };
 
+    /// \a level selects the icon. \a buttons are the possible answers. \a parent may be null.
     AlertBox(Level level, QString const& title, QString const& text, StandardButtons buttons, QWidget* parent,
              Qt::WindowFlags flags);
 

@@ -12,6 +12,7 @@
 namespace Pelnar
 {
 
+/// The text of a path, in UTF-8. The default value is empty.
 class ioPath
 {
 public:
@@ -22,6 +23,7 @@ public:
     {
     }
 
+    /// The text as given, in UTF-8.
     std::string const& utf8string() const { return m_utf8; }
 
 private:

@@ -30,6 +30,7 @@ enum ContentState : int
     CONTENT_AVAILABLE = 2,   ///< Show may be called
 };
 
+/// Shows nag screens. A nag screen is identified by its name.
 class PELNAR_EXPORT Manager : public QObject
 {
     Q_OBJECT
@@ -38,6 +39,7 @@ public:
     explicit Manager(QObject* parent = nullptr);
     ~Manager() override;
 
+    /// Whether \a name has content: a ContentState, or a further state of the host.
     virtual int GetContentState(QString const& name) const = 0;
     /// Shows the nag screen \a name and returns without waiting for the user.
     virtual void Show(QString const& name) = 0;

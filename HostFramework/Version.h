@@ -23,12 +23,14 @@ public:
     static constexpr std::int32_t ABSENT = -1;
 
     constexpr Version() = default;
+    /// Takes each number unchanged; see IsValid().
     explicit constexpr Version(std::int32_t majorNumber, std::int32_t minorNumber = ABSENT,
                                std::int32_t patchNumber = ABSENT, std::int32_t buildNumber = ABSENT)
         : m_components{majorNumber, minorNumber, patchNumber, buildNumber}
     {
     }
 
+    // Each component, ABSENT if the version does not have it.
     constexpr std::int32_t Major() const { return m_components[0]; }
     constexpr std::int32_t Minor() const { return m_components[1]; }
     constexpr std::int32_t Patch() const { return m_components[2]; }

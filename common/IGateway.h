@@ -36,6 +36,7 @@
 namespace Pelnar::ExternalStimulus
 {
 
+/// A request to run something that the user will see.
 struct Action
 {
     std::string id;                 ///< names the kind of request

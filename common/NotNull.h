@@ -15,6 +15,7 @@
 namespace Pelnar
 {
 
+/// A pointer of type T that is checked once, when it is created.
 template <class T>
 class NotNull
 {
@@ -39,6 +40,7 @@ public:
     NotNull(NotNull const&) = default;
     NotNull& operator=(NotNull const&) = default;
 
+    /// The wrapped pointer, never null.
     T const& Get() const { return m_pointer; }
     operator T const&() const { return m_pointer; }
     element_type& operator*() const { return *m_pointer; }
@@ -48,6 +50,7 @@ private:
     T m_pointer;
 };
 
+/// A shared pointer that is never null.
 template <class T>
 using SharedNotNullPtr = NotNull<std::shared_ptr<T>>;
 

@@ -12,6 +12,7 @@
 namespace Pelnar::Core
 {
 
+/// Restores a variable's value at the end of a scope.
 template <class T>
 class ValueGuard
 {

@@ -28,6 +28,7 @@ QT_END_NAMESPACE
 namespace Pelnar::App
 {
 
+/// One check, from its start to its end. The static operations create it.
 class PELNAR_EXPORT UpdateManager : public QObject, public virtual IUpdateManager
 {
     Q_OBJECT
@@ -71,6 +72,7 @@ public:
     /// for the rest of the process.
     static IUpdateManager* GetCurrentUpdateManager();
 
+    // See IUpdateManager.
     void RegisterObserver(IUpdateManagerObserver* observer) override;
     void UnregisterObserver(IUpdateManagerObserver* observer) override;
     void RejectUpdateAndHideDialog() override;

@@ -16,6 +16,7 @@
 namespace Pelnar::App
 {
 
+/// The values that ICustomizationManager returns.
 struct Customization
 {
     std::string displayName;          ///< UTF-8
@@ -30,6 +31,7 @@ struct Customization
 /// error's text names the file and the key.
 PELNAR_EXPORT Customization ReadCustomization(QString const& iniPath);
 
+/// Returns the values of a Customization.
 class PELNAR_EXPORT ReferenceCustomizationManager : public ICustomizationManager
 {
 public:

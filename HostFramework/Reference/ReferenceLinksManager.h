@@ -15,6 +15,7 @@
 namespace Pelnar::App
 {
 
+/// The address for each link key.
 using Links = std::map<URLKeys, QString>;
 
 /// Reads the table from the section [Links] of an ini file in UTF-8. The keys of the section are the names of the link
@@ -22,6 +23,7 @@ using Links = std::map<URLKeys, QString>;
 /// backslash in double quotes. Throws std::runtime_error if the file cannot be read; the error's text names the file.
 PELNAR_EXPORT Links ReadLinks(QString const& iniPath);
 
+/// Returns the addresses of a table of Links; an empty string for a key that the table does not have.
 class PELNAR_EXPORT ReferenceLinksManager : public ILinksManager
 {
 public:

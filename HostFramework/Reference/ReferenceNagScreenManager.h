@@ -32,9 +32,10 @@ struct Content
     QString title;
     QString text;
     QString actionText; ///< text of the button that follows the link; if empty, there is no such button
-    QUrl link;
+    QUrl link;          ///< the target of that button
 };
 
+/// Nag screens with plain text and one link.
 class PELNAR_EXPORT ReferenceManager : public Manager
 {
     Q_OBJECT
@@ -49,6 +50,7 @@ public:
     void ExpectContent(QString const& name);
     /// Sets or removes the content of \a name. Emits NagAvailable if this ends CONTENT_UNKNOWN.
     void SetContent(QString const& name, Content const& content);
+    /// Says that \a name has no content. Emits NagAvailable if this ends CONTENT_UNKNOWN.
     void SetUnavailable(QString const& name);
 
     int GetContentState(QString const& name) const override;

@@ -88,7 +88,7 @@ void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const
     bool const isInTime = ended && WaitForEnd(ended.Get(), job.installerSeconds);
     if (!isInTime)
     {
-        ::kill(-process, SIGKILL); // the session's first process leads a group of the same number
+        ::kill(-process, SIGKILL); // the process group of the session's first process has the same number
     }
     int const status = Reap(process);
     if (!isInTime)

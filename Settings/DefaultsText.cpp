@@ -107,7 +107,7 @@ QVariant NumberOf(QString const& text)
     return isNumber ? QVariant(number) : QVariant(text);
 }
 
-/// As XML has it, or as the old style does: "2026-01-31 23:59:59 +0100".
+/// In the form of XML, or of the old style: "2026-01-31 23:59:59 +0100".
 QVariant TimeOf(QString const& text)
 {
     QDateTime time = QDateTime::fromString(text, Qt::ISODate);

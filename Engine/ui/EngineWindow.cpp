@@ -42,7 +42,7 @@ EngineWindow::EngineWindow(QString const& objectName, CheckOrigin origin)
     setObjectName(objectName);
     setWindowTitle(QCoreApplication::translate("PelnarEngine_EngineWindow", "Software Update"));
     setLayoutDirection(DirectionOfTexts());
-    // The host decides when it quits, not the last of these windows.
+    // Closing the last of these windows must not quit the host.
     setAttribute(Qt::WA_QuitOnClose, false);
     setAttribute(Qt::WA_ShowWithoutActivating, origin == CheckOrigin::Background);
 
@@ -173,7 +173,7 @@ void EngineWindow::GrowToContent()
 {
     layout()->activate();
     int const wanted = std::max(width(), layout()->totalMinimumSize().width());
-    // The height that wrapped texts need at that width is no part of the minimum size.
+    // The minimum size does not include the height that wrapped texts need at this width.
     resize(wanted, std::max(height(), layout()->totalHeightForWidth(wanted)));
 }
 

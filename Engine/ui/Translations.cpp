@@ -82,7 +82,7 @@ void InstallTranslations(QLocale const& locale)
     InitTranslationResources();
     auto* const translator = new QTranslator(application);
     translator->setObjectName(objectName);
-    // Not by locale: QTranslator would take other languages of the person's list into account again.
+    // Not by locale: QTranslator would again consider other languages of the person's list.
     QString const file = QStringLiteral(":/pelnar/engine/translations/pelnar_engine_") + TranslationNameFor(locale);
     if (!translator->load(file))
     {

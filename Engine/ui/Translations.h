@@ -11,14 +11,14 @@
 namespace Pelnar::Engine
 {
 
-/// The names of all translations, like "de" or "pt_BR"; "en" is among them.
+/// The names of all translations, such as "de" or "pt_BR", including "en".
 [[nodiscard]] QStringList TranslationNames();
 
 /// The translation for the first of \a locale's preferred languages that has one; "en" if none has.
 [[nodiscard]] QString TranslationNameFor(QLocale const& locale);
 
-/// Installs the translation for \a locale in place of the one installed before. Windows that are shown already keep
-/// their texts. The layout direction of the application stays as it is: the engine's windows follow their own texts.
+/// Installs the translation for \a locale in place of the previous one. Open windows keep their texts. The layout
+/// direction of the application does not change: the engine's windows follow their own texts.
 void InstallTranslations(QLocale const& locale);
 
 } // namespace Pelnar::Engine

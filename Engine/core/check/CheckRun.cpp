@@ -238,8 +238,8 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const&
 void CheckRun::ApplyPolicy()
 {
     Installation installation{m_settings.bundleVersion, m_settings.machine, m_settings.channels, {}, m_now()};
-    // Deliberate: a probe counts as automatic, since every check begins with one. A person who asks is shown the window
-    // also when the probe has found nothing, and the check of that window is theirs.
+    // Deliberate: a probe counts as automatic, because every check begins with one. A person who asks sees the window
+    // even if the probe found nothing, and the check of that window counts as theirs.
     if (m_kind != CheckKind::Interactive)
     {
         installation.rolloutGroup = m_settings.rolloutGroup;

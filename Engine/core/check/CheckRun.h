@@ -34,7 +34,7 @@ struct CheckSettings
     FeedPlatform platform = FeedPlatform::Linux;
     QString machine;      ///< see Installation
     QStringList channels; ///< see Installation
-    /// See Installation; of no account in a check that a person asked for.
+    /// See Installation; ignored in a check that a person requested.
     std::function<int(QString const&)> rolloutGroup;
     InsecureHttp insecureHttp = InsecureHttp::LoopbackOnly;
     FetchLimits fetchLimits;
@@ -124,7 +124,7 @@ private:
                                                     QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
-    /// Leaves out what is not meant for this installation.
+    /// Removes the items that are not for this installation.
     void ApplyPolicy();
     /// Asks the host and judges its answer. Returns the update to offer, or nothing; sets an error if the answer is
     /// unusable.

@@ -30,7 +30,7 @@ struct RunningBundle
     QString version;
     QString shownName;      ///< for a person
     QString shownVersion;   ///< for a person
-    TrustedKeys publicKeys; ///< its own, and once a check has found something those by which that was judged
+    TrustedKeys publicKeys; ///< its own; after a check has found an update, the keys that verified the feed
 };
 
 struct UpdateSettings

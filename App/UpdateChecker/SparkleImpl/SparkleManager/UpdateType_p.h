@@ -35,12 +35,12 @@ constexpr char const* UpdateTypeName(UpdateType type)
     return "Unknown UpdateType";
 }
 
-/// Most wanted first. Deliberate: the two differ; a major update wants its installer before a delta.
+/// Most preferred first. Deliberate: the two lists differ; a major update prefers its installer to a delta.
 extern QList<UpdateType> const UPDATE_TYPE_PRIORITIES_FOR_MAJOR_UPDATE;
 extern QList<UpdateType> const UPDATE_TYPE_PRIORITIES_FOR_MINOR_UPDATE;
 
-/// The kind of a download: a delta before anything else is looked at, else by its fully decoded file name, in which
-/// the markers are searched anywhere and with their case.
+/// The kind of a download: DELTA if \a isDelta; otherwise from its fully decoded file name. The markers may be at any
+/// position in the name; their case counts.
 UpdateType DetectUpdateType(bool isDelta, QString const& fileName);
 
 } // namespace Pelnar::App::Session

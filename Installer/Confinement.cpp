@@ -1,7 +1,7 @@
 #include "Installer/Confinement.h"
 
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <cerrno>
 #include <cstdint>

@@ -1,9 +1,9 @@
 #include "Installer/Relaunch.h"
 
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/unpack/CheckBundle.h"
 
 #include <cerrno>

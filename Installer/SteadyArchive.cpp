@@ -1,6 +1,6 @@
 #include "Installer/SteadyArchive.h"
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <algorithm>
 #include <cerrno>

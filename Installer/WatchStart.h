@@ -2,7 +2,7 @@
 // Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Installer/OutcomeNote.h"
 #include "Installer/ReportChannel.h"

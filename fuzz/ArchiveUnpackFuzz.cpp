@@ -4,8 +4,8 @@
 // reach the entries.
 
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/unpack/UnpackArchive.h"
 #include "tests/installer/ArchiveForge.h"
 

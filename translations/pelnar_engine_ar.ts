@@ -762,10 +762,6 @@
         <translation>ينتمي التطبيق الموجود في %1 إلى طبقة من نظام الملفات لا يمكن استبدالها: انسخه إلى مجلد آخر وشغّله من هناك.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>فشل التحديث لسبب غير معروف. أعد المحاولة لاحقًا.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>موجز التحديثات غير موقّع كما يشترط هذا التطبيق. جرّب شبكة أخرى، وأبلغ الناشر إذا استمرت المشكلة.</translation>
     </message>

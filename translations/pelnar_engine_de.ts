@@ -762,10 +762,6 @@
         <translation>Die Anwendung in %1 gehört zu einer Schicht des Dateisystems, die nicht ersetzt werden kann: Kopieren Sie sie in einen anderen Ordner und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>Die Aktualisierung ist aus einem unbekannten Grund fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>Der Update-Feed ist nicht signiert, wie es diese Anwendung verlangt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>La aplicación de %1 pertenece a una capa del sistema de archivos que no se puede reemplazar: cópiela a otra carpeta e iníciela allí.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>La actualización falló por un motivo desconocido: inténtelo de nuevo más tarde.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>El canal de actualizaciones no está firmado, como exige esta aplicación: pruebe con otra red e informe al editor si el problema continúa.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>L’application dans %1 fait partie d’une couche du système de fichiers qui ne peut pas être remplacée&#xa0;: copiez-la dans un autre dossier et ouvrez-la à cet endroit.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>La mise à jour a échoué pour une raison inconnue&#xa0;: réessayez plus tard.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>Le flux de mises à jour n’est pas signé, comme cette application l’exige&#xa0;: essayez un autre réseau et, si le problème persiste, prévenez l’éditeur.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>היישום שב־%1 שייך לשכבה של מערכת הקבצים שלא ניתן להחליף: העתיקו אותו לתיקייה אחרת והפעילו אותו משם.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>העדכון נכשל מסיבה לא ידועה. יש לנסות שוב מאוחר יותר.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>ערוץ העדכונים אינו חתום, כפי שהיישום דורש. יש לנסות ברשת אחרת, ואם הבעיה נמשכת להודיע ליצרן התוכנה.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>L’applicazione in %1 appartiene a un livello del file system che non può essere sostituito: copiala in un’altra cartella e avviala da lì.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>L’aggiornamento non è riuscito per un motivo sconosciuto: riprovare più tardi.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>Il feed degli aggiornamenti non è firmato, come richiede questa applicazione: provare con un’altra rete e, se il problema persiste, informare il produttore.</translation>
     </message>

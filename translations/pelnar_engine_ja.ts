@@ -762,10 +762,6 @@
         <translation>%1 にあるアプリケーションは、置き換えることのできないファイルシステムのレイヤーに属しています: 別のフォルダにコピーし、そこから起動してください。</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>不明な理由でアップデートに失敗しました。しばらくしてからもう一度お試しください。</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>このアプリケーションに必要な署名がアップデートフィードにありません。別のネットワークでお試しください。それでも解決しない場合は、発行元に連絡してください。</translation>
     </message>

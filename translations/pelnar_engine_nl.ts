@@ -762,10 +762,6 @@
         <translation>Het programma in %1 hoort bij een laag van het bestandssysteem die niet kan worden vervangen: kopieer het naar een andere map en start het daar.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>De update is om een onbekende reden mislukt: probeer het later opnieuw.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>De updatefeed is niet ondertekend, zoals deze app vereist: probeer een ander netwerk en informeer de uitgever als het probleem blijft.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>Aplikacja w %1 należy do warstwy systemu plików, której nie można zastąpić: skopiuj ją do innego folderu i uruchom stamtąd.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>Aktualizacja nie powiodła się z nieznanego powodu. Spróbuj ponownie później.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>Kanał aktualizacji nie jest podpisany, czego wymaga ta aplikacja. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>O aplicativo em %1 pertence a uma camada do sistema de arquivos que não pode ser substituída: copie-o para outra pasta e inicie-o ali.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>A atualização falhou por um motivo desconhecido: tente novamente mais tarde.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>O feed de atualizações não está assinado, como este aplicativo exige: tente outra rede e, se o problema continuar, avise o fornecedor.</translation>
     </message>

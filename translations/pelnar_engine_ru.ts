@@ -762,10 +762,6 @@
         <translation>Приложение в %1 относится к слою файловой системы, который нельзя заменить: скопируйте его в другую папку и запустите оттуда.</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>Обновление не удалось по неизвестной причине. Повторите попытку позже.</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>Лента обновлений не подписана, как того требует эта программа. Попробуйте другую сеть, а если это не поможет, сообщите издателю.</translation>
     </message>

@@ -762,10 +762,6 @@
         <translation>%1 中的应用程序属于文件系统中无法替换的层：请将其复制到其他文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The update failed for a reason that is not known: try again later.</source>
-        <translation>更新因未知原因失败。请稍后再试。</translation>
-    </message>
-    <message>
         <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
         <translation>更新源没有此应用程序所要求的签名。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>

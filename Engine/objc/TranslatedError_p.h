@@ -4,7 +4,7 @@
 
 #import <Foundation/Foundation.h>
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 @interface PelnarTranslatedError : NSError
 

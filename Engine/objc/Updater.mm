@@ -5,8 +5,8 @@
 #import "Engine/objc/SUUpdater_p.h"
 #import "Engine/objc/TranslatedError_p.h"
 
-#include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/UpdateParts.h"
 #include "Engine/objc/BundleSettings_p.h"
 #include "Engine/objc/HelperLocation_p.h"

@@ -1,8 +1,8 @@
 #include "Publisher/files/BundleTree.h"
 
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/PropertyList.h"
 #include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/payload/UpdateFault.h"
 #include "Engine/core/unpack/UnpackArchive.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"

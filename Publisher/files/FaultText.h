@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/delta/DeltaContainer.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Publisher/Refusal.h"
 
 namespace Pelnar::Publisher

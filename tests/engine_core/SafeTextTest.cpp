@@ -1,6 +1,6 @@
 // SafeTextTest.cpp: which characters are hidden, and that every place that shows others' texts hides them.
 #include "Engine/core/SafeText.h"
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Engine/ui/ServerText.h"
 #include "Publisher/Console.h"

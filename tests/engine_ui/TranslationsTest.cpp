@@ -1,10 +1,11 @@
 // Every text of the windows and of the update dialogs, in every language.
 
 #include "Engine/ui/Translations.h"
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/FeedWalker_p.h"
 #include "Engine/ui/EngineWindow.h"
 #include "tests/engine_ui/WindowsFixture.h"
+#include "tests/support/EveryFault.h"
 
 #include <QDir>
 #include <QFile>
@@ -116,17 +117,17 @@ QString FileOf(QString const& name)
 std::map<QString, Sentence> EverySentence()
 {
     std::vector<Sentence> sentences;
-    for (int cause = 0; cause <= static_cast<int>(ErrorCause::Fault); ++cause)
+    for (ErrorCause const cause : EveryCause())
     {
-        EngineError const error = MakeError(static_cast<ErrorCause>(cause));
+        EngineError const error = MakeError(cause);
         sentences.push_back(error.sentence);
         sentences.push_back(AsDownloadError(error).sentence);
     }
-    for (int fault = 0; FaultName(static_cast<UpdateFault>(fault)) != "Unknown fault"; ++fault)
+    for (UpdateFault const fault : EveryUpdateFault())
     {
-        sentences.push_back(MakeFaultError(static_cast<UpdateFault>(fault)).sentence);
+        sentences.push_back(MakeFaultError(fault).sentence);
     }
-    for (int kind = static_cast<int>(FeedErrorKind::Malformed); kind <= static_cast<int>(FeedErrorKind::NotAFeed);
+    for (int kind = static_cast<int>(FeedErrorKind::Malformed); kind <= static_cast<int>(FeedErrorKind::TooMuchMarkup);
          ++kind)
     {
         sentences.push_back(MakeFeedError(static_cast<FeedErrorKind>(kind), 1, 1, {}).sentence);

@@ -1,6 +1,6 @@
 #include "tests/engine_ui/WindowCases.h"
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 namespace Pelnar::Testing
 {

@@ -1,6 +1,6 @@
 // What each window shows, and how the windows follow one another.
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/ui/NotesBrowser.h"
 #include "Engine/ui/ProgressText.h"
 #include "Engine/ui/ServerText.h"

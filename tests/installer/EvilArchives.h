@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "tests/installer/ArchiveForge.h"
 
 #include <iosfwd>

@@ -85,6 +85,9 @@ SESSION_DECISIONS = {
 # Of the engine's windows, the update checker has the translations, for what it says without the engine.
 SESSION_LIBRARY = "App/UpdateChecker/SparkleImpl/SessionLibrary"
 TRANSLATIONS = "Engine/ui/Translations.h"
+# An error's header brings sentences along, and no parser.
+FAULTS = "Engine/core/faults/"
+BELOW_FAULTS = {"Engine/core/SafeText.h", "Engine/core/Sentence.h"}
 FRAMEWORK_READERS = (SESSION, "Engine/")
 PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/", "Settings/")
 
@@ -109,6 +112,8 @@ def check_include(path, header, root):
     target = layer_of(header)
     if target is None:
         return f"{layer} may not include {header}"
+    if path.startswith(FAULTS) and not header.startswith(FAULTS) and header not in BELOW_FAULTS:
+        return "of the engine, the faults may include their sentences and the text made safe to show only"
     if target == layer:
         return None
     if target not in LAYERS[layer]:
@@ -311,7 +316,8 @@ def self_test():
         ("layers", "App/UpdateChecker/X.cpp", "#import <Sparkle/Sparkle.h>"),
         ("layers", SESSION + "/X.cpp", "#import <Sparkle/Sparkle.h>"),
         ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),
-        ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/core/EngineError.h"'),
+        ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/core/faults/EngineError.h"'),
+        ("layers", FAULTS + "X.h", '#include "Engine/core/feed/FeedParser.h"'),
         ("layers", "Publisher/X.cpp", f'#include "{SESSION}/SparkleManager.h"'),
         ("layers", "Publisher/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "Publisher/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),

@@ -1,6 +1,6 @@
 #include "tests/update/ScriptedUpdate.h"
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,5 +1,5 @@
 #include "Engine/core/update/UpdatePlan.h"
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <gtest/gtest.h>
 

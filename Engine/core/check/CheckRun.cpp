@@ -1,6 +1,7 @@
 #include "Engine/core/check/CheckRun.h"
 
 #include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/feed/FeedError.h"
 
 #include <QTimer>
 

@@ -3,11 +3,11 @@
 // fetch and the items.
 #pragma once
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/check/CheckPolicy.h"
 #include "Engine/core/check/FeedRecord.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/IFeedStore.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/fetch/FeedFetcher.h"
 

@@ -2,7 +2,7 @@
 // Thread: the caller's.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <functional>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "Engine/core/check/FeedTrust.h"
 
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 

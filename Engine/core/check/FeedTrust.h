@@ -1,7 +1,7 @@
 // FeedTrust.h: whether a feed that must be signed is accepted. Pure functions.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/payload/TrustedKeys.h"
 

@@ -1,7 +1,7 @@
 #include "Engine/core/check/KeptFeedFile.h"
 
-#include "Engine/core/UpdateError.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/payload/FieldCodec_p.h"
 #include "Engine/core/payload/NoteFile.h"
 

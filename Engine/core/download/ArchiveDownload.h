@@ -4,8 +4,8 @@
 // the bytes on the disk for the next one; no callback follows.
 #pragma once
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 
 #include <QString>

@@ -2,7 +2,7 @@
 // keep a client downloading forever. Pure functions.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <chrono>
 #include <cstdint>

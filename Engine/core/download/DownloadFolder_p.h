@@ -3,8 +3,8 @@
 // Any thread; no state. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <cerrno>
 #include <ctime>

@@ -1,8 +1,8 @@
 #include "Engine/core/download/PartialFile.h"
 
 #include "Engine/core/download/DownloadFolder_p.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/UpdateFault.h"
 
 #include <QCryptographicHash>
 #include <QFile>

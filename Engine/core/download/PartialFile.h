@@ -3,9 +3,9 @@
 // Thread: one at a time. Ownership: its descriptors, except the one that Finish() hands over.
 #pragma once
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/delta/TreeAccess.h"
 #include "Engine/core/download/PartialRecord.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <QString>
 

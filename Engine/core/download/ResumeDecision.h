@@ -2,7 +2,7 @@
 // and the head of the answer.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/fetch/HttpHead.h"
 #include "Engine/core/fetch/Validators.h"
 

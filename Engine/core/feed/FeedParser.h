@@ -6,6 +6,7 @@
 #pragma once
 
 #include "Engine/core/Sentence.h"
+#include "Engine/core/faults/ErrorCause.h"
 #include "Engine/core/feed/FeedItem.h"
 
 #include <QByteArray>
@@ -51,18 +52,21 @@ struct FeedLimits
     quint64 maxContentLength = quint64(16) << 30; ///< bytes; a longer download counts as a length that is too large
 };
 
+/// The numbers are those of the causes.
 enum class FeedErrorKind
 {
-    None,
-    Malformed,    ///< not well-formed XML, bytes that are not of its encoding, or text after the root element
-    DocumentType, ///< a document type declaration
-    TooDeep,
-    TooManyAttributes,
-    TagTooLong,
-    TooMuchMarkup,
-    TooManyItems,
-    TooManyNamespaces,
-    NotAFeed, ///< a web page, such as a login page that a network serves in the feed's place
+    None = 0,
+    /// Not well-formed XML, bytes that are not of its encoding, or text after the root element.
+    Malformed = static_cast<int>(ErrorCause::FeedMalformed),
+    DocumentType = static_cast<int>(ErrorCause::FeedDocumentType),
+    TooDeep = static_cast<int>(ErrorCause::FeedTooDeep),
+    TooManyAttributes = static_cast<int>(ErrorCause::FeedTooManyAttributes),
+    TagTooLong = static_cast<int>(ErrorCause::FeedTagTooLong),
+    TooManyItems = static_cast<int>(ErrorCause::FeedTooManyItems),
+    TooManyNamespaces = static_cast<int>(ErrorCause::FeedTooManyNamespaces),
+    /// A web page, such as a login page that a network serves in the feed's place.
+    NotAFeed = static_cast<int>(ErrorCause::FeedIsWebPage),
+    TooMuchMarkup = static_cast<int>(ErrorCause::FeedTooMuchMarkup),
 };
 
 struct FeedParseError

@@ -3,7 +3,7 @@
 // callback follows.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 #include "Engine/core/fetch/KeptFeed.h"
 

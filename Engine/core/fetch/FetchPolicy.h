@@ -1,7 +1,7 @@
 // FetchPolicy.h: what may be fetched, where a redirect may lead, and which fields a request carries. Pure functions.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/fetch/AddressReach.h"
 
 #include <QByteArray>

@@ -3,7 +3,7 @@
 // Thread: one at a time.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 
 #include <QByteArray>

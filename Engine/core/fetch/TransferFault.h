@@ -1,7 +1,7 @@
 // TransferFault.h: turns a failure of a libcurl transfer into the engine's own error. Pure functions.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <QString>
 

@@ -4,7 +4,7 @@
 // archive.
 #pragma once
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,7 +1,7 @@
 #include "Engine/core/payload/BundleInformation.h"
 
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/PropertyList.h"
-#include "Engine/core/payload/UpdateFault.h"
 
 #include <algorithm>
 #include <optional>

@@ -1,7 +1,7 @@
 // Ed25519Signature.h: strict parsing of public keys and signatures. TrustedKeys.h verifies with them. Pure functions.
 #pragma once
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <array>
 #include <cstdint>

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <cstdint>
 #include <optional>

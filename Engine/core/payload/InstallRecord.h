@@ -3,8 +3,8 @@
 // docs/formats/install-record.md.
 #pragma once
 
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/ProcessMark.h"
-#include "Engine/core/payload/UpdateFault.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #include "Engine/core/payload/StagingFolder.h"
 
 #include "Engine/core/delta/ContentHasher.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/include/Pelnar/UpdateFiles_p.h"
 
 #include <cerrno>

@@ -1,7 +1,7 @@
 #include "Engine/core/payload/TreeManifest.h"
 
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <string>
 #include <vector>

@@ -1,8 +1,8 @@
 #include "Engine/core/unpack/CheckBundle.h"
 
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/payload/PropertyList.h"
-#include "Engine/core/payload/UpdateFault.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -1,6 +1,6 @@
 #include "Engine/core/update/InstallHandover.h"
 
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/KeptArguments.h"
 
 #include <utility>

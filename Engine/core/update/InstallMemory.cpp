@@ -1,8 +1,8 @@
 #include "Engine/core/update/InstallMemory.h"
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/check/BackOff.h"
 #include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/payload/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallTarget.h"

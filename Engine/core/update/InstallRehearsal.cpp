@@ -1,6 +1,6 @@
 #include "Engine/core/update/InstallRehearsal.h"
 
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/payload/HelperReport.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "Engine/core/update/HelperLaunch_p.h"

@@ -1,8 +1,8 @@
 #include "Engine/core/update/InstallTarget.h"
 
 #include "Engine/core/PathText.h"
-#include "Engine/core/UpdateError.h"
 #include "Engine/core/download/DownloadBudget.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/payload/FolderSafety.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/core/payload/TreeManifest.h"

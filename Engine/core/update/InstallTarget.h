@@ -2,8 +2,8 @@
 // Thread: any. Ownership: the object owns the descriptors; all code that updates the bundle uses only them.
 #pragma once
 
-#include "Engine/core/EngineError.h"
 #include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/PackageOwner.h"
 
 #include <QString>

@@ -1,6 +1,6 @@
 #include "Engine/core/update/SealedMemory_p.h"
 
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
 
 #include <cerrno>
 

@@ -1,7 +1,6 @@
 #include "Engine/core/update/UpdatePlan.h"
 
 #include "Engine/core/PathText.h"
-#include "Engine/core/UpdateError.h"
 #include "Engine/core/payload/Ed25519Signature.h"
 
 #include <QDir>
@@ -141,15 +140,20 @@ bool IsShown(EngineError const& error, PersonAsked asked)
 
 bool CountsForBackOff(EngineError const& error)
 {
-    if (error.cause == ErrorCause::Fault)
+    switch (BlameOf(error))
     {
-        return IsArchiveToBlame(error.fault);
+    case Blame::Network:
+    case Blame::Server:
+    case Blame::Feed:
+    case Blame::Archive:
+        return true;
+    case Blame::Nobody:
+    case Blame::Publisher:
+    case Blame::Application:
+    case Blame::Computer:
+        return false;
     }
-    // A pause counts too: an attacker who changes the feed at every check must not get a request at every check.
-    bool const isDownloads =
-        error.cause >= ErrorCause::DownloadLengthInvalid && error.cause <= ErrorCause::DownloadPaused;
-    // The other causes from DelegateRaised on are about this computer and the application.
-    return isDownloads || (error.cause != ErrorCause::NoUpdate && error.cause < ErrorCause::DelegateRaised);
+    return false;
 }
 
 std::string RelaunchPathOf(QString const& path)

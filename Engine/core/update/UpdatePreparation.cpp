@@ -1,6 +1,6 @@
 #include "Engine/core/update/UpdatePreparation.h"
 
-#include "Engine/core/UpdateError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <utility>
 

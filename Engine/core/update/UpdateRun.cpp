@@ -1,8 +1,8 @@
 #include "Engine/core/update/UpdateRun.h"
 
 #include "Engine/core/PathText.h"
-#include "Engine/core/UpdateError.h"
 #include "Engine/core/check/DelegateCall.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/KeptArguments.h"
 #include "Engine/core/update/ProcessSurroundings.h"
 
@@ -208,7 +208,7 @@ void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
 
 void UpdateRun::FailCandidate(EngineError const& error)
 {
-    if (error.cause == ErrorCause::Fault && IsArchiveToBlame(error.fault))
+    if (BlameOf(error) == Blame::Archive)
     {
         m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
     }

@@ -1,4 +1,5 @@
-#include "Engine/core/payload/UpdateFault.h"
+#include "Engine/core/faults/UpdateFault.h"
+#include "tests/support/EveryFault.h"
 
 #include <gtest/gtest.h>
 
@@ -14,9 +15,8 @@ using namespace Pelnar::Engine;
 TEST(UpdateFault, EveryNameIsItsOwnAndLeadsBack)
 {
     std::set<std::string_view> names;
-    for (int value = 0; value <= static_cast<int>(UpdateFault::ExecutableNameInvalid); ++value)
+    for (UpdateFault const fault : Pelnar::Testing::EveryUpdateFault())
     {
-        auto const fault = static_cast<UpdateFault>(value);
         EXPECT_TRUE(names.insert(FaultName(fault)).second) << FaultName(fault);
         EXPECT_EQ(FaultFromName(FaultName(fault)), fault);
     }

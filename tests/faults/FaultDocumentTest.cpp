@@ -1,0 +1,96 @@
+// docs/faults.md is made here, from the tables, and compared.
+
+#include "Engine/core/faults/FaultTable.h"
+#include "tests/support/EveryFault.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <sstream>
+#include <string>
+
+#include <QtGlobal>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+using namespace Engine;
+
+std::string NameOf(Blame blame)
+{
+    switch (blame)
+    {
+    case Blame::Nobody:
+        return "nobody";
+    case Blame::Network:
+        return "the network";
+    case Blame::Server:
+        return "the server";
+    case Blame::Feed:
+        return "the feed";
+    case Blame::Archive:
+        return "the archive";
+    case Blame::Publisher:
+        return "the publisher";
+    case Blame::Application:
+        return "the installed application";
+    case Blame::Computer:
+        return "the computer";
+    }
+    return "unknown";
+}
+
+std::string Start(FaultEntry const& entry)
+{
+    std::ostringstream text;
+    text << "| " << entry.number << " | `" << entry.name << "` | " << static_cast<int>(entry.code) << " | "
+         << NameOf(entry.blame) << " | " << entry.sentence;
+    if (entry.downloadSentence != nullptr)
+    {
+        text << "<br>Of an archive: " << entry.downloadSentence;
+    }
+    return text.str();
+}
+
+std::string Faults()
+{
+    std::ostringstream text;
+    text << "# Faults\n\n"
+            "Made from `Engine/core/faults/ErrorCauses.def` and `Engine/core/faults/UpdateFaults.def`; do not edit. "
+            "The code\n"
+            "of an error is the published one; its number is the code of the underlying error in\n"
+            "`PelnarUpdateCheckErrorDomain`. Numbers and names never change their meaning.\n\n"
+            "## Checks, downloads and the application's own part\n\n"
+            "| Number | Name | Code | Who has to mend it | What a person reads |\n"
+            "| --- | --- | --- | --- | --- |\n";
+    for (ErrorCause const cause : EveryCause())
+    {
+        text << Start(EntryOf(cause)) << " |\n";
+    }
+    text << "\n## Archives and installations\n\n"
+            "The name is what the helper [reports](formats/helper-report.md). The last two columns are what "
+            "`pelnar-appcast` says of an\n"
+            "archive.\n\n"
+            "| Number | Name | Code | Who has to mend it | What a person reads | What the publisher reads | Mend |\n"
+            "| --- | --- | --- | --- | --- | --- | --- |\n";
+    auto const row = [&text](UpdateFault fault, std::string const& what, std::string const& mend)
+    { text << Start(EntryOf(fault)) << " | " << what << " | " << mend << " |\n"; };
+#define PELNAR_FAULT(name, number, code, blame, sentence, what, mend) row(UpdateFault::name, what, mend);
+#include "Engine/core/faults/UpdateFaults.def"
+    return text.str();
+}
+
+TEST(FaultDocument, IsMadeFromTheTables)
+{
+    std::string const made = Faults();
+    std::ofstream(PELNAR_FAULTS_MADE) << made;
+    std::ifstream document(PELNAR_FAULTS_DOCUMENT);
+    std::stringstream text;
+    text << document.rdbuf();
+    EXPECT_EQ(text.str(), made) << "make it again: cp " PELNAR_FAULTS_MADE " docs/faults.md";
+}
+
+} // namespace
+} // namespace Pelnar::Testing

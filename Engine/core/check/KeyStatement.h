@@ -2,7 +2,7 @@
 // functions; no byte is parsed as XML.
 #pragma once
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/payload/TrustedKeys.h"
 
 #include <QByteArray>

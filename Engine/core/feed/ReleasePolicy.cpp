@@ -1,7 +1,7 @@
 // ReleasePolicy.cpp: for which installations an item of a feed is meant.
 #include "Engine/core/feed/ReleasePolicy.h"
 
-#include "Engine/core/EngineError.h"
+#include "Engine/core/faults/EngineError.h"
 
 #include <QSysInfo>
 

@@ -124,13 +124,14 @@ TEST(EngineError, CodesAreThePublishedOnes)
         auto const own = ownCodes.find(error.cause);
         int const ofItsGroup = cause >= 700 && cause < 750    ? 1000
                                : cause >= 750 && cause < 760  ? 3001
-                               : cause >= 760 && cause < 770  ? 3002
+                               : cause >= 760 && cause < 780  ? 3002
                                : cause >= 900 && cause < 950  ? 2001
                                : cause >= 950 && cause < 1000 ? 4012
                                                               : 1002;
         EXPECT_EQ(static_cast<int>(error.code), own != ownCodes.end() ? own->second : ofItsGroup) << cause;
     }
 }
+
 TEST(EngineError, RemoteTextIsEscapedCutAndKeptOutOfTheSentence)
 {
     QString const hostile =

@@ -8,6 +8,7 @@ import sys
 import tempfile
 import unittest
 
+sys.dont_write_bytecode = True
 from links import CODE, LINK, dead_links, documents
 
 

@@ -9,6 +9,7 @@ import sys
 import tempfile
 import unittest
 
+sys.dont_write_bytecode = True
 from log_lines import PAGE, SITE_ROW, TEXT_ROW, findings, macro_records, session_records
 
 

@@ -8,6 +8,7 @@ import sys
 import tempfile
 import unittest
 
+sys.dont_write_bytecode = True
 from named_tests import is_there, named, tests_of
 
 SKIPPED = 77

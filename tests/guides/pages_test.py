@@ -16,6 +16,7 @@ import sys
 import tempfile
 import unittest
 
+sys.dont_write_bytecode = True
 from page_script import blocks, run_page
 
 PAGE_PORT = "8000"

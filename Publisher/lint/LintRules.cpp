@@ -34,10 +34,11 @@ QString LintRulesAsMarkdown()
 {
     QString text = QStringLiteral(
         "# The rules of `pelnar-appcast lint`\n\n"
-        "Made by `pelnar-appcast lint --rules`; do not edit. An error means that clients refuse or lose something, a\n"
-        "warning that they may do something else than was meant, a note that it works and could be better. The exit\n"
-        "status is 1 when there is an error or a warning, with `--strict` when there is anything.\n\n"
-        "| Rule | Severity | What it finds | Mend |\n"
+        "`pelnar-appcast lint --rules` generates this page; do not edit it. An error means that clients refuse or\n"
+        "lose something. A warning means that they may do something unintended. A note means that the feed works but\n"
+        "could be better. The exit status is 1 if there is an error or a warning; with `--strict`, if there is any\n"
+        "finding.\n\n"
+        "| Rule | Severity | Finding | Correction |\n"
         "| --- | --- | --- | --- |\n");
     for (LintRuleEntry const& entry : LintRules())
     {

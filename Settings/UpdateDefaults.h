@@ -1,9 +1,10 @@
 // UpdateDefaults.h: the user defaults of the update checker: on Linux a file in the person's XDG folders, on macOS the
 // user defaults of the application. Plain C++.
 // Thread: any; several processes of one application may save at the same time. Ownership: the process owns remembered
-// values.
+// values. On Linux the engine's library holds them, for the session too.
 #pragma once
 
+#include "common/Export.h"
 #include "common/SettingKeys.h"
 
 #include <QString>
@@ -16,7 +17,7 @@
 namespace Pelnar::Settings
 {
 
-class UpdateDefaults
+class PELNAR_EXPORT UpdateDefaults
 {
 public:
     /// An empty value removes the key.

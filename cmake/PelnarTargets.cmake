@@ -34,3 +34,23 @@ function(pelnar_uncounted name)
         target_link_options(${name} PRIVATE -noprofilelib)
     endif()
 endfunction()
+
+# pelnar_exports(<name>): the shared library shows what <name>.map beside its list names, under the versions that stand there,
+# and nothing else. macOS has no such versions.
+function(pelnar_exports name)
+    if(NOT APPLE)
+        set(map "${CMAKE_CURRENT_SOURCE_DIR}/${name}.map")
+        target_link_options(${name} PRIVATE "LINKER:--version-script=${map}")
+        set_property(TARGET ${name} APPEND PROPERTY LINK_DEPENDS "${map}")
+    endif()
+endfunction()
+
+# pelnar_describe_types(<name>...): the debugging information of these targets has the whole of every type that they name, also of
+# interfaces that others implement. The kept description of the libraries' binary interface is made of it.
+function(pelnar_describe_types)
+    if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT PELNAR_SANITIZE AND NOT PELNAR_COVERAGE)
+        foreach(name IN LISTS ARGN)
+            target_compile_options(${name} PRIVATE -fstandalone-debug)
+        endforeach()
+    endif()
+endfunction()

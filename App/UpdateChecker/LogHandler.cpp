@@ -1,5 +1,7 @@
 #include <Pelnar/LogHandler.h>
 
+#include "common/LogReadiness.h"
+
 #include <glog/logging.h>
 
 #include <algorithm>
@@ -15,9 +17,6 @@ namespace Pelnar
 {
 namespace
 {
-
-constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< the name that glog gives a process whose host does not use
-                                                       ///< glog
 
 /// True while this thread is in the handler: the handler does not get its own records.
 thread_local bool isInHandler = false;
@@ -67,20 +66,10 @@ private:
     /// so.
     void TakeGlog(bool hasHandler)
     {
-        if (!m_isGlogOurs)
+        if (Core::ReadyLog() == Core::GlogOwner::UpdateChecker)
         {
-            if (google::IsGoogleLoggingInitialized())
-            {
-                return;
-            }
-            google::InitGoogleLogging(PROGRAM_NAME);
-            m_isGlogOurs = true;
-            for (google::LogSeverity severity = google::GLOG_INFO; severity < google::NUM_SEVERITIES; ++severity)
-            {
-                google::SetLogDestination(severity, "");
-            }
+            FLAGS_stderrthreshold = hasHandler ? google::GLOG_FATAL : google::GLOG_INFO;
         }
-        FLAGS_stderrthreshold = hasHandler ? google::GLOG_FATAL : google::GLOG_INFO;
     }
 
     void send(google::LogSeverity severity, char const* full_filename, char const*, int line,
@@ -154,7 +143,6 @@ private:
     std::mutex m_records;         ///< guards the members below
     std::shared_ptr<LogHandler const> m_handler;
     std::vector<StoredRecord> m_waiting;
-    bool m_isGlogOurs = false;
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/UpdateManagerImpl_p.h"
 #include "HostFramework/Application.h"
 #include "common/DirectCallGateway.h"
+#include "common/LogReadiness.h"
 #include "common/ScopedFunctionCall.h"
 
 #include <QPointer>
@@ -67,6 +68,7 @@ void UpdateManager::CheckForUpdates(Initializer const& initializer)
         return;
     }
     RequireHostApplication();
+    (void)Core::ReadyLog();
     // Separate from the construction: from here on the host is called and may destroy the manager. An exception from
     // the constructor would then destroy it a second time.
     QPointer<UpdateManager> const manager(new UpdateManager(initializer)); // deletes itself

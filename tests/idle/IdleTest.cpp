@@ -70,6 +70,7 @@ TEST(CheckedHost, HasEachLibraryOnce)
 {
     LibraryPlace place;
     LibraryPlace::Copy(QStringLiteral(PELNAR_SESSION), place.SessionPath());
+    LibraryPlace::Copy(QStringLiteral(PELNAR_ENGINE), place.EnginePath());
     QStringList const lines =
         place.Run({QStringLiteral("check"), QStringLiteral("check"), QStringLiteral("libraries")});
     EXPECT_EQ(lines.count(QStringLiteral("found 5.9 5.10")), 2) << qPrintable(lines.join(QLatin1Char('\n')));

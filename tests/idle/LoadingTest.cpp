@@ -57,14 +57,10 @@ std::ostream& operator<<(std::ostream& out, BadLibrary const& row)
     return out << row.name;
 }
 
+/// The session looks for the engine in its own folder.
 void CopySession(LibraryPlace const& place)
 {
     LibraryPlace::Copy(QStringLiteral(PELNAR_SESSION), place.SessionPath());
-}
-
-void CopyEngine(LibraryPlace const& place)
-{
-    CopySession(place);
     LibraryPlace::Copy(QStringLiteral(PELNAR_ENGINE), place.EnginePath());
 }
 
@@ -143,7 +139,7 @@ INSTANTIATE_TEST_SUITE_P(
                    [](LibraryPlace const& place) { CopySession(place), Truncate(place.SessionPath(), 1, 10); },
                    "was cut short"},
         BadLibrary{"EngineCutToATenth",
-                   [](LibraryPlace const& place) { CopyEngine(place), Truncate(place.EnginePath(), 1, 10); },
+                   [](LibraryPlace const& place) { CopySession(place), Truncate(place.EnginePath(), 1, 10); },
                    "libPelnarUpdateEngine.so.1: was cut short"},
         BadLibrary{"BrokenHeader", BreakHeader, "was cut short"},
         BadLibrary{"OtherMachine",
@@ -191,6 +187,7 @@ TEST(RepairedSession, ServesTheNextCheck)
     LibraryPlace place;
     QString const aside = place.Path(QStringLiteral("aside"));
     LibraryPlace::Copy(QStringLiteral(PELNAR_SESSION), aside);
+    LibraryPlace::Copy(QStringLiteral(PELNAR_ENGINE), place.EnginePath());
     QStringList const lines =
         place.Run({QStringLiteral("check"), QStringLiteral("move=") + aside + QLatin1Char(':') + place.SessionPath(),
                    QStringLiteral("check"), QStringLiteral("ask")});

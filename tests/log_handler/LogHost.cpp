@@ -1,6 +1,7 @@
 // LogHost.cpp: a host that checks once, against a feed that is not there, and writes what its log handler gets to
 // standard output. Its words say what else it does: "own-glog" initializes glog first, "handler" sets a handler,
-// "replaced" sets another one instead, "removed" takes it back.
+// "replaced" sets another one instead, "removed" takes it back, "refused-arguments" says what no program can be started
+// with.
 
 #include "App/UpdateChecker/UpdateManager.h"
 #include "Foundation/IsolatedUserDefaults.h"
@@ -9,6 +10,7 @@
 #include "HostFramework/Reference/ReferenceLinksManager.h"
 
 #include <Pelnar/LogHandler.h>
+#include <Pelnar/RelaunchArguments.h>
 
 #include <glog/logging.h>
 
@@ -51,6 +53,10 @@ void Obey(std::string const& word, char const* program)
     else if (word == "removed")
     {
         SetLogHandler({});
+    }
+    else if (word == "refused-arguments")
+    {
+        (void)SetRelaunchArguments({std::string("a\0b", 3)});
     }
 }
 

@@ -72,7 +72,8 @@ TEST_F(LogProgram, HandlerThatIsReplacedGetsNothingMore)
 TEST_F(LogProgram, WithoutItsHandlerStandardErrorGetsTheRecordsAndNoWarningOfGlogs)
 {
     for (QStringList const& words :
-         {QStringList{QStringLiteral("handler"), QStringLiteral("removed")}, QStringList{QStringLiteral("removed")}})
+         {QStringList{QStringLiteral("handler"), QStringLiteral("removed")}, QStringList{QStringLiteral("removed")},
+          QStringList(), QStringList{QStringLiteral("refused-arguments")}})
     {
         Run(words);
         EXPECT_EQ(output.toStdString(), "");

@@ -47,10 +47,14 @@ class Bundles(unittest.TestCase):
         (cls.work / "GNUstep.conf").write_text(f"GNUSTEP_USER_DEFAULTS_DIR={cls.work}/Defaults\n")
         cls.environment = {"PATH": os.environ["PATH"], "LANG": "C.UTF-8", "HOME": str(cls.work), "QT_QPA_PLATFORM": "offscreen",
                            "XDG_RUNTIME_DIR": str(cls.work), "GNUSTEP_CONFIG_FILE": str(cls.work / "GNUstep.conf")}
-        run("cmake", "-S", cls.work / "source", "-B", cls.build, "-G", "Ninja", f"-DCMAKE_CXX_COMPILER={CXX_COMPILER}",
+        cls.configure(cls.work / "source", cls.build)
+        run("cmake", "--build", cls.build, "--target", *[f"{target}_bundle" for target in NAMES])
+
+    @classmethod
+    def configure(cls, source, build):
+        run("cmake", "-S", source, "-B", build, "-G", "Ninja", f"-DCMAKE_CXX_COMPILER={CXX_COMPILER}",
             f"-DCMAKE_PREFIX_PATH={cls.installed}", f"-DHOST_SOURCE={HERE}/host/main.cpp",
             f"-DFEED={(HERE / 'feed.xml').as_uri()}")
-        run("cmake", "--build", cls.build, "--target", *[f"{target}_bundle" for target in NAMES])
 
     @classmethod
     def make_sources(cls):
@@ -123,7 +127,7 @@ class Bundles(unittest.TestCase):
             self.assertTrue((bundle / name).is_file(), name)
         libraries = {path.name for path in bundle.glob("lib*/**/*.so*")}
         for name in ("libPelnarUpdateChecker.so.1", "libPelnarUpdateSession.so.1", "libPelnarUpdateEngine.so.1",
-                     "libPelnarHostFramework.so.1", "libcurl.so.4", "libplugin.so", "libpart.so.2"):
+                     "libPelnarHostFramework.so.1", "libcurl.so.4", "libplugin.so", "libpart.so.2", "libpiece.so"):
             self.assertIn(name, libraries)
         baseline = [line.split()[1] for line in (SOURCE / "cmake/bundle/Baseline.txt").read_text().splitlines()
                     if line and not line.startswith("#")]
@@ -175,6 +179,17 @@ class Bundles(unittest.TestCase):
         self.assertTrue(all(" 0/0 " in line and " 1980-01-01 " in line for line in listing.splitlines()), listing)
         names = run("tar", "--list", "--zstd", "--file", archive).splitlines()
         self.assertEqual(names[0], "plain.app/")
+
+    def test_builds_in_other_folders_give_the_same_archive(self):
+        run("cmake", "--build", self.build, "--target", "plain_archive")
+        archive = (self.build / "plain_bundle/plain-1.0.tar.zst").read_bytes()
+        elsewhere = self.work / "a folder with a much longer name" / "s"
+        shutil.copytree(self.work / "source", elsewhere)
+        for build in (self.work / "b", elsewhere / "build/of/it"):
+            with self.subTest(build.name):
+                self.configure(elsewhere, build)
+                run("cmake", "--build", build, "--target", "plain_archive")
+                self.assertEqual((build / "plain_bundle/plain-1.0.tar.zst").read_bytes(), archive)
 
     def test_what_is_wrong_is_said_in_a_sentence(self):
         wrong = {

@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionLibrary_p.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/UpdateTraces_p.h"
+#include "common/LogReadiness.h"
 #include "common/LogSite.h"
 
 #include <Pelnar/AutomaticDownloads.h>
@@ -57,6 +58,7 @@ bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)
 {
     if (char const* const fault = Engine::FaultOfRelaunchArguments(arguments))
     {
+        (void)Core::ReadyLog();
         Core::Write(ARGUMENTS_REFUSED, std::string("The arguments for the next start are refused, since ") + fault);
         return false;
     }

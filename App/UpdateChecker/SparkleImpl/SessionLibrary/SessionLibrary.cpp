@@ -4,6 +4,7 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
 #include "Engine/ui/Translations.h"
 #include "HostFramework/SpontaneousDialog.h"
+#include "common/LogReadiness.h"
 #include "common/LogSite.h"
 
 #include <QCoreApplication>
@@ -71,6 +72,7 @@ SessionExport const* SessionLibrary::Load()
 {
     if (!m_loaded)
     {
+        (void)Core::ReadyLog();
         if (m_loading.valid())
         {
             TakeLoading();
@@ -90,6 +92,7 @@ void SessionLibrary::LoadThen(QObject& context, std::function<void(SessionExport
         use(m_loaded);
         return;
     }
+    (void)Core::ReadyLog();
     if (!m_loading.valid())
     {
         try

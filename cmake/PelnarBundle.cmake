@@ -15,7 +15,7 @@
 #       RESOURCES file-or-folder ...          # into Resources
 #       LIBRARIES target-or-file ...          # shared libraries and plugins that are opened at run time
 #       LICENSES file ...                     # the application's own, and those of libraries that belong to no package
-#       QT OUTSIDE | INSIDE                   # INSIDE brings Qt and its platform plugins
+#       QT OUTSIDE | INSIDE                   # INSIDE brings Qt, its platform plugins and its own translations
 #       SYSTEM_LIBRARIES INSIDE | OUTSIDE     # OUTSIDE makes a bundle for this very system
 #       COMPRESSION 19                        # of the archive, as zstd counts
 #       DESTINATION <folder>  COMPONENT <name>)
@@ -136,11 +136,17 @@ function(pelnar_write_bundle_settings target file)
     if(TARGET Qt5::QXcbIntegrationPlugin)
         set(BUNDLE_QT_PLUGINS "$<TARGET_FILE:Qt5::QXcbIntegrationPlugin>")
     endif()
+    set(BUNDLE_QT_TRANSLATIONS)
+    if(TARGET Qt5::qmake)
+        get_target_property(qmake Qt5::qmake IMPORTED_LOCATION)
+        execute_process(COMMAND "${qmake}" -query QT_INSTALL_TRANSLATIONS
+            OUTPUT_VARIABLE BUNDLE_QT_TRANSLATIONS OUTPUT_STRIP_TRAILING_WHITESPACE)
+    endif()
     set(BUNDLE_STRIP_PROGRAM "${CMAKE_STRIP}")
     set(BUNDLE_OBJDUMP "${CMAKE_OBJDUMP}")
     set(text "")
     foreach(name IN ITEMS ${PELNAR_BUNDLE_ONE_VALUE} ${PELNAR_BUNDLE_MANY_VALUES} PROGRAM PROJECT_LIBRARIES
-            OPENED_LIBRARIES HELPER LIBRARY_FOLDER HELPER_FOLDER PROJECT_LICENSES QT_PLUGINS STRIP_PROGRAM OBJDUMP)
+            OPENED_LIBRARIES HELPER LIBRARY_FOLDER HELPER_FOLDER PROJECT_LICENSES QT_PLUGINS QT_TRANSLATIONS STRIP_PROGRAM OBJDUMP)
         string(APPEND text "pelnar_bundle_setting(BUNDLE_${name} [===[${BUNDLE_${name}}]===])\n")
     endforeach()
     file(GENERATE OUTPUT "${file}" CONTENT "${text}" TARGET ${target})

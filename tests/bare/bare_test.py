@@ -117,6 +117,19 @@ class Computer:
         self.binds.append([str(folder), place, access])
         return folder
 
+    def take_own_root(self):
+        """Has the system for this test alone, which may then add to it: the files are the same ones."""
+        root = self.work / "root"
+        subprocess.run(["cp", "--archive", "--link", self.root, root], check=True)
+        self.root = root
+        return root
+
+    def move_into(self, root, folder):
+        """Puts the bundle into a folder of the system, as a package would."""
+        (root / folder.lstrip("/")).mkdir(parents=True)
+        self.app = self.app.rename(root / folder.lstrip("/") / self.app.name)
+        self.program = f"{folder}/{self.app.name}/PelnarDemo"
+
     def give_to_person(self, folder):
         if os.getuid() == 0:
             subprocess.run(["chown", "-R", f"{USER}:{USER}", folder], check=True)
@@ -223,6 +236,29 @@ def in_an_app_image(computer, server):
     expect_told(computer, server, f"replace the file {HOME}/PelnarDemo.AppImage by the new version's")
 
 
+def in_a_flatpak(computer, server):
+    root = computer.take_own_root()
+    computer.move_into(root, "/app")
+    (root / ".flatpak-info").write_text("[Application]\nname=com.example.demo\nruntime=org.example.Platform\n")
+    expect_told(computer, server, "\"flatpak update com.example.demo\"")
+
+
+def in_a_snap(computer, server):
+    computer.move_into(computer.take_own_root(), "/snap/pelnar-demo/x1/opt")
+    computer.variables = {"SNAP": "/snap/pelnar-demo/x1", "SNAP_NAME": "pelnar-demo"}
+    expect_told(computer, server, "\"snap refresh pelnar-demo\"")
+
+
+def in_a_debian_package(computer, server):
+    root = computer.take_own_root()
+    computer.move_into(root, "/usr/lib/pelnar-demo")
+    lists = root / "var/lib/dpkg/info"
+    lists.mkdir(parents=True, exist_ok=True)
+    (lists / "pelnar-demo.list").write_text("/.\n/usr\n/usr/lib\n/usr/lib/pelnar-demo\n" + "".join(
+        f"/usr/lib/pelnar-demo/{path.relative_to(computer.app.parent)}\n" for path in [computer.app, *sorted(computer.app.rglob("*"))]))
+    expect_told(computer, server, " pelnar-demo\"")
+
+
 def in_opt_of_root(computer, server):
     folder = computer.mount_at("/opt", "rw")
     if os.getuid() == 0:
@@ -306,7 +342,7 @@ def missing_library(computer, server):
 
 CASES = {case.__name__: case for case in (
     interactively, silently, by_delta, refused, taken_back, among_blanks_and_letters, by_a_link_to_the_program,
-    by_a_link_to_the_folder, on_a_read_only_disk, in_an_app_image, in_opt_of_root,
+    by_a_link_to_the_folder, on_a_read_only_disk, in_an_app_image, in_a_flatpak, in_a_snap, in_a_debian_package, in_opt_of_root,
     on_a_display, with_qt_inside, missing_library)}
 
 
@@ -324,7 +360,8 @@ def main():
         # As GoogleTest writes it: scripts/skipped reads the reason.
         print(f"{__file__}:0: Skipped\nno mount namespace can be made here ({reason})")
         return STATUS_SKIPPED
-    with tempfile.TemporaryDirectory() as work:
+    # Beside the systems, so that their files can be linked.
+    with tempfile.TemporaryDirectory(dir=roots.parent, prefix="work-") as work:
         os.chmod(work, 0o755)
         server = Server(build / "Publisher/pelnar-appcast", published, published / "site")
         try:

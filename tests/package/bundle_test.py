@@ -157,6 +157,17 @@ class Bundles(unittest.TestCase):
         self.assertIn("/usr/share/common-licenses/", referred)
         self.assertTrue(list((bundle / "licenses/common-licenses").glob("*GPL*")))
 
+    def test_qt_inside_brings_its_own_translations(self):
+        run("cmake", "--build", self.build, "--target", "spoken_bundle")
+        bundle = self.build / "spoken_bundle/spoken.app"
+        is_loaded, folder, word = run(bundle / "spoken", env={**self.environment, "QT_QPA_PLATFORM": "minimal"}).split("\n")[:3]
+        self.assertEqual((is_loaded, word), ("1", "Abbrechen"))
+        self.assertEqual(pathlib.Path(folder).resolve(), (bundle / "translations").resolve())
+        rows = [line.split("\t") for line in (bundle / "licenses/list.txt").read_text().splitlines()]
+        self.assertIn("translations/qtbase_de.qm", {row[0] for row in rows})
+        result = self.script("MakeBundle", "spoken", f"-DDESTINATION={self.work}/wrong", f"-DBUNDLE_QT_TRANSLATIONS={self.work}")
+        self.assertIn("Install them; Debian's package is qttranslations5-l10n", " ".join(result.stderr.split()))
+
     def test_cmake_install_makes_the_same_bundle(self):
         destination = self.work / "staged"
         run("cmake", "--install", self.build, "--prefix", "/prefix", "--component", "plain_bundle",

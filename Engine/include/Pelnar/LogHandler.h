@@ -46,9 +46,9 @@ using LogHandler = std::function<void(LogRecord const&)>;
 /// ends before the process can remove its handler safely.
 ///
 /// A host that uses glog itself calls google::InitGoogleLogging() before its first call of the update checker. Its log
-/// then also goes where it went before. For any other host this call or the first check initializes glog, and such a host
-/// must not initialize glog later: glog ends a process that does this twice. The records then go only to the handler, not
-/// to a file and not to standard error. Without a handler they go to standard error.
+/// then also goes where it went before. For any other host this call or the first check initializes glog, and such a
+/// host must not initialize glog later: glog ends a process that does this twice. The records then go only to the
+/// handler, not to a file and not to standard error. Without a handler they go to standard error.
 ///
 /// Exceptions of the handler are swallowed. Records that the handler itself writes by glog go to glog's destinations
 /// and not to the handler. The handler may replace itself. It must not wait for another thread, which may be waiting to

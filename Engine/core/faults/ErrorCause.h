@@ -1,5 +1,5 @@
-// ErrorCause.h: what failed in a check, a download or the application's own part of an update, and the published codes.
-// Thread: constants. A new cause is a row of ErrorCauses.def.
+// ErrorCause.h: the causes of a failure in a check, a download or the application's own part of an update, and the
+// published codes. Constants. A new cause is a row of ErrorCauses.def.
 #pragma once
 
 namespace Pelnar::Engine
@@ -27,7 +27,7 @@ enum class ErrorCode
     NotWritable = 4012,
 };
 
-/// What happened. The numbers are published: they are the codes of the underlying errors and never change.
+/// The causes. The numbers are published: they are the codes of the underlying errors and never change.
 enum class ErrorCause
 {
 #define PELNAR_CAUSE(name, number, code, blame, sentence) name = number,

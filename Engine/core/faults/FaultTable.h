@@ -1,5 +1,4 @@
-// FaultTable.h: what the tables ErrorCauses.def and UpdateFaults.def say of one failure.
-// Thread: any; constants.
+// FaultTable.h: one failure's row of the tables ErrorCauses.def and UpdateFaults.def. Constants.
 #pragma once
 
 #include "Engine/core/faults/ErrorCause.h"
@@ -8,16 +7,16 @@
 namespace Pelnar::Engine
 {
 
-/// Who has to mend it.
+/// Who has to correct it.
 enum class Blame
 {
-    Nobody,      ///< it was wished for, or it passes by itself
-    Network,     ///< the way to the server
-    Server,      ///< what the server answers
-    Feed,        ///< its address, what stands in it, or what was chosen from it
-    Archive,     ///< what was downloaded: another download may help
+    Nobody,      ///< it was requested, or it passes by itself
+    Network,     ///< the connection to the server
+    Server,      ///< the server's answers
+    Feed,        ///< the feed's address, its content, or the choice from it
+    Archive,     ///< the downloaded archive: another download may help
     Publisher,   ///< another download does not help
-    Application, ///< as it is installed, or what it answers
+    Application, ///< its installation, or its answers
     Computer,    ///< its disk, its system, the rights of its user
 };
 
@@ -28,12 +27,12 @@ struct FaultEntry
     ErrorCode code;
     Blame blame;
     char const* sentence;         ///< for a person: what happened and what to do
-    char const* downloadSentence; ///< instead of it where an archive was fetched, not the feed; or nullptr
+    char const* downloadSentence; ///< replaces it if an archive was fetched and not the feed; may be nullptr
 };
 
-/// A number that has no row is described as ErrorCause::Fault is.
+/// For a number without a row, the row of ErrorCause::Fault.
 FaultEntry const& EntryOf(ErrorCause cause);
-/// A number that has no row is described as UpdateFault::None is.
+/// For a number without a row, the row of UpdateFault::None.
 FaultEntry const& EntryOf(UpdateFault fault);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,6 @@
-// UpdateFault.h: every reason for which an update is not prepared or not installed, and the exception that carries one.
-// Thread: any; plain values. The names are part of the helper's report format: a name is never given a second meaning.
+// UpdateFault.h: every reason why an update is not prepared or not installed, and the exception that carries one. The
+// names are part of the helper's report format: the meaning of a name never changes.
+// Thread: any; plain values.
 #pragma once
 
 #include <optional>
@@ -17,20 +18,20 @@ enum class UpdateFault
 #include "Engine/core/faults/UpdateFaults.def"
 };
 
-/// The fault's stable name: its enumerator's.
+/// The fault's stable name, which is its enumerator's.
 std::string_view FaultName(UpdateFault fault);
-/// The fault of that name; nothing for any other text.
+/// The fault with that name; empty for any other text.
 std::optional<UpdateFault> FaultFromName(std::string_view name);
 
-/// Thrown where an update must stop; caught once, in the helper's main function.
+/// Thrown to stop an update; caught once, in the helper's main function.
 class UpdateRefusal : public std::runtime_error
 {
 public:
-    /// \a entry: the name in the archive that is refused; empty for what is no matter of one entry.
+    /// \a entry: the name of the refused entry in the archive; empty if the refusal is not about one entry.
     explicit UpdateRefusal(UpdateFault fault, int errorNumber = 0, std::string entry = {});
 
     UpdateFault Fault() const { return m_fault; }
-    int ErrorNumber() const { return m_errorNumber; } ///< errno of the call that failed; 0 when none did
+    int ErrorNumber() const { return m_errorNumber; } ///< errno of the failed call; 0 if no call failed
     std::string const& Entry() const { return m_entry; }
 
 private:
@@ -39,7 +40,7 @@ private:
     std::string m_entry;
 };
 
-/// Throws the fault that \a errorNumber stands for: NoSpace, NotPermitted, or else \a otherwise.
+/// Throws the fault for \a errorNumber: NoSpace or NotPermitted, otherwise \a otherwise.
 [[noreturn]] void ThrowErrno(int errorNumber, UpdateFault otherwise = UpdateFault::DiskError);
 
 } // namespace Pelnar::Engine

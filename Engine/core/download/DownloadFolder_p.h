@@ -1,6 +1,6 @@
 // DownloadFolder_p.h: the folder with an application's archives. It is opened safely, keeps a share of its disk free,
 // and is cleared of other downloads' files.
-// Any thread; no state. Ownership: callers own their descriptors.
+// Thread: any; no state. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"

@@ -1,6 +1,6 @@
 // AddressReach.h: how near an address is. A feed from the network must not make this computer connect to itself or to
 // its own link, under any name or notation. So the address of the connection is judged, not its name.
-// Any thread; no state.
+// Thread: any; no state.
 #pragma once
 
 #include <QHostAddress>

@@ -29,7 +29,7 @@ struct FetchOutcome
     QByteArray bytes; ///< whole; empty on error
     AddressReach reach = AddressReach::Network; ///< of the place that the feed came from
     bool isUnchanged = false;                   ///< the bytes are those of the kept feed
-    std::optional<KeptFeed> keepable; ///< the feed, if it may be kept; its time is not set if it has changed
+    std::optional<KeptFeed> keepable;           ///< the feed, if it may be kept; its time is not set if it has changed
 };
 
 class FeedFetcher : public QObject

@@ -1,5 +1,5 @@
 // FolderSafety.h: who besides this user and the administrator may change the content of a folder.
-// Any thread; no state. Ownership: callers own their descriptors.
+// Thread: any; no state. Ownership: callers own their descriptors.
 #pragma once
 
 #include <string>

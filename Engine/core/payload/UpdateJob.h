@@ -42,13 +42,13 @@ enum class PayloadKind : std::uint8_t
 struct PrepareJob
 {
     PayloadKind kind = PayloadKind::WholeBundle;
-    std::uint64_t archiveBytes = 0;      ///< as declared in the feed
-    std::string signature;               ///< base64
-    TrustedKeys publicKeys;              ///< with which the host judges updates
-    std::string bundleName;              ///< the installed bundle's folder name; the name for a delta's result
-    std::string bundleIdentifier;        ///< the running bundle's
-    std::string expectedVersion;         ///< the item's version
-    std::string installedVersion;        ///< the running bundle's
+    std::uint64_t archiveBytes = 0; ///< as declared in the feed
+    std::string signature;          ///< base64
+    TrustedKeys publicKeys;         ///< with which the host judges updates
+    std::string bundleName;         ///< the installed bundle's folder name; the name for a delta's result
+    std::string bundleIdentifier;   ///< the running bundle's
+    std::string expectedVersion;    ///< the item's version
+    std::string installedVersion;   ///< the running bundle's
 };
 
 /// After the host has ended: put the staged bundle in the place of the installed one, or run the staged installer

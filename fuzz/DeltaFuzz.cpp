@@ -1,9 +1,11 @@
 // DeltaFuzz.cpp: any bytes as what a delta brings, in both formats: as a manifest, as the numbers of a patch, as packed
-// streams, as a program that is changed and as the steps that change it. An accepted manifest says the same when it is
-// written and read again, no patch makes more bytes than it may, and nothing reads outside what it is given.
+// streams, as a packed text and its recipe, as a program that is changed and as the steps that change it. An accepted
+// manifest says the same when it is written and read again, no patch makes more bytes than it may, and nothing reads
+// outside what it is given.
 
 #include "Engine/core/delta/BinaryPatch.h"
 #include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/StreamUnpacker.h"
 #include "tests/delta/ForgedProgram.h"
@@ -144,6 +146,29 @@ void CheckStream(Bytes bytes)
     }
 }
 
+/// The input as a file of gzip's kind, as a recipe, and as what stands behind the beginning of a right one.
+void CheckPackedText(Bytes bytes)
+{
+    constexpr std::size_t MOST_BYTES = 4096;
+    static constexpr std::uint8_t OPENING[] = {10, 0x1F, 0x8B, 8, 0, 0, 0, 0, 0, 2, 3, 9, 8};
+    if (std::optional<ByteBuffer> const text = UnpackText(bytes))
+    {
+        std::optional<ByteBuffer> const recipe = FindRecipe(bytes, Bytes(text->data(), text->size()));
+        std::optional<ByteBuffer> const made = recipe ? PackByRecipe(Bytes(recipe->data(), recipe->size()),
+                                                                     Bytes(text->data(), text->size()), bytes.size())
+                                                      : std::nullopt;
+        Require(!recipe || (made && Bytes(made->data(), made->size()) == bytes));
+    }
+    ByteBuffer recipe(std::begin(OPENING), std::end(OPENING));
+    recipe.insert(recipe.end(), bytes.begin(), bytes.end());
+    ByteBuffer const text(500, 7);
+    for (Bytes const tried : {bytes, Bytes(recipe.data(), recipe.size())})
+    {
+        std::optional<ByteBuffer> const made = PackByRecipe(tried, Bytes(text.data(), text.size()), MOST_BYTES);
+        Require(!made || made->size() <= MOST_BYTES);
+    }
+}
+
 ByteBuffer const& SmallProgram(Pelnar::Testing::Processor processor)
 {
     static ByteBuffer const x86 = Pelnar::Testing::ForgeProgram({Pelnar::Testing::Processor::X86, 20, 0, 0, 0, 0x1000});
@@ -161,6 +186,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     CheckJoinedManifest(bytes);
     CheckPatch(bytes);
     CheckStream(bytes);
+    CheckPackedText(bytes);
     CheckProgram(bytes, bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 64)));
     for (auto const processor : {Pelnar::Testing::Processor::X86, Pelnar::Testing::Processor::Arm64})
     {

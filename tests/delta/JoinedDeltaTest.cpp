@@ -7,6 +7,7 @@
 #include "Engine/core/delta/StreamUnpacker.h"
 #include "Engine/core/delta/TreeAccess.h"
 #include "tests/delta/ForgedProgram.h"
+#include "tests/delta/PackedFiles.h"
 #include "tests/delta/SeparateDelta.h"
 
 #include <gtest/gtest.h>
@@ -129,6 +130,79 @@ TEST_F(JoinedDelta, ProgramThatOnlyMovedIsSmall)
     EXPECT_LT(report.containerBytes, 700u);
     EXPECT_GT(MakeSeparateDelta(Old(), New()).size(), 3 * report.containerBytes);
     ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, APackedTextCostsWhatIsNewInTheText)
+{
+    std::string const text = WordsOf(1, 100000);
+    std::string const file = GzipOf("One more line.\n" + text);
+    WriteFile(Old() / "changes.gz", GzipOf(text));
+    WriteFile(New() / "changes.gz", file);
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.patchedFiles, 1u);
+    EXPECT_LT(report.containerBytes, file.size() / 20);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, ManyPackedTextsAndOthersComeOutAsTheyAre)
+{
+    for (unsigned i = 0; i < 8; ++i)
+    {
+        std::string const text = WordsOf(i, 1000 + i * 30000);
+        std::string const name = "texts/" + std::to_string(i) + ".gz";
+        WriteFile(Old() / name, GzipOf(text, 9 - static_cast<int>(i)));
+        WriteFile(New() / name, GzipOf(text.substr(100) + "an end", 9 - static_cast<int>(i), 8 + i % 2));
+        WriteFile(Old() / ("plain" + std::to_string(i)), text);
+        WriteFile(New() / ("plain" + std::to_string(i)), "a beginning" + text);
+    }
+    WriteFile(Old() / "other.gz", GzipOf(WordsOf(20, 9000)));
+    WriteFile(New() / "other.gz", GzipOf(Noise(21, 9000))); // has nothing of the old text
+    WriteFile(Old() / "stored.gz", GzipOf(WordsOf(22, 9000), 0));
+    WriteFile(New() / "stored.gz", GzipOf(WordsOf(22, 8000), 0)); // has no recipe
+    WriteFile(New() / "new.gz", GzipOf(WordsOf(23, 9000)));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, TellsThatThePackedTextOfTheOldVersionIsAnother)
+{
+    std::string const text = WordsOf(1, 50000);
+    std::string const file = GzipOf(text);
+    WriteFile(Old() / "changes.gz", file);
+    WriteFile(New() / "changes.gz", GzipOf("One more line.\n" + text));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    // Of the same size, which is asked first.
+    for (std::string other : {GzipOf(WordsOf(2, 60000)), Noise(3, file.size())})
+    {
+        ASSERT_GE(other.size(), file.size());
+        other.resize(file.size());
+        WriteFile(Old() / "changes.gz", other);
+        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+    }
+    // Another text in a right file.
+    std::string changed = text;
+    std::swap(changed[20000], changed[20001]);
+    WriteFile(Old() / "changes.gz", GzipOf(text, 0));
+    WriteFile(New() / "changes.gz", GzipOf("One more line.\n" + text));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    WriteFile(Old() / "changes.gz", GzipOf(changed, 0));
+    EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+}
+
+TEST_F(JoinedDelta, AUnitOfAPackedTextIsOfOneFile)
+{
+    WriteFile(Old() / "changes.gz", GzipOf(WordsOf(1, 50000)));
+    WriteFile(New() / "changes.gz", GzipOf(WordsOf(1, 49000)));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    std::uint64_t dataOffset = 0;
+    DeltaManifest manifest = Manifest(dataOffset);
+    auto const isPacked = [](DeltaUnit const& unit) { return unit.textBytes == 49000; };
+    auto const unit = std::find_if(manifest.units.begin(), manifest.units.end(), isPacked);
+    ASSERT_NE(unit, manifest.units.end());
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, DeltaManifestError::None);
+    unit->sources.push_back({"other", 7});
+    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, DeltaManifestError::BadUnit);
 }
 
 TEST_F(JoinedDelta, ProgramThatOnlyLooksAsIfItHadAddressesIsPatchedAsItIs)

@@ -2,6 +2,7 @@
 
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/JoinedApplier.h"
+#include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/PatchWriter.h"
 #include "Engine/core/delta/UnitPlan.h"
 #include "Engine/core/delta/UnitSearch.h"
@@ -99,8 +100,9 @@ private:
             entry.kind = DeltaEntryKind::Patched;
             OpenedFile const file = OpenNew(entry.path);
             AddTo(m_targetHashes, entry.hash);
-            unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
-                                     : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
+            unit.textBytes > 0         ? AddPacked(texts.front(), steps[number], file.Content())
+            : unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
+                                       : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
         m_manifest.units.push_back(std::move(unit));
     }
@@ -148,6 +150,16 @@ private:
         ImageLayout const layout = *ReadImageLayout(program);
         ProgramText old(program, layout, ChangedSpans(layout, changes), steps);
         m_writer.Add(old, steps, newBytes);
+    }
+
+    void AddPacked(Bytes oldFile, std::vector<PatchStep> const& steps, Bytes newFile)
+    {
+        ByteBuffer const oldText = UnpackText(oldFile).value();
+        ByteBuffer const newText = UnpackText(newFile).value();
+        ByteBuffer const recipe = FindRecipe(newFile, Bytes(newText.data(), newText.size())).value();
+        PlainText old({Bytes(oldText.data(), oldText.size())});
+        m_writer.AddRecord(Bytes(recipe.data(), recipe.size()));
+        m_writer.Add(old, steps, Bytes(newText.data(), newText.size()));
     }
 
     void AddWholeFiles(DeltaUnit const& whole)

@@ -179,7 +179,8 @@ bool operator==(SpanChange const& a, SpanChange const& b)
 
 bool operator==(DeltaUnit const& a, DeltaUnit const& b)
 {
-    return a.sources == b.sources && a.targets == b.targets && a.spanChanges == b.spanChanges;
+    return a.sources == b.sources && a.targets == b.targets && a.spanChanges == b.spanChanges &&
+           a.textBytes == b.textBytes;
 }
 
 bool operator==(StoredStream const& a, StoredStream const& b)

@@ -77,6 +77,7 @@ struct DeltaUnit
     std::vector<DeltaSource> sources;    ///< one after the other; none for files that the container brings whole
     std::vector<std::uint32_t> targets;  ///< indices of entries, in the order in which they are made
     std::vector<SpanChange> spanChanges; ///< a segment each of the one target, when it is a program's next version
+    std::uint64_t textBytes = 0; ///< of the text in the one target, when it is made from the text in the one source
 };
 
 bool operator==(DeltaUnit const& a, DeltaUnit const& b);

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/JoinedApplier.h"
 
 #include "Engine/core/delta/BundleFiles.h"
+#include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/PieceWriter.h"
 
@@ -141,8 +142,9 @@ private:
             DeltaOutcome outcome = m_files.MakeFile(entry, file);
             if (outcome.HasSucceeded())
             {
-                outcome = unit.spanChanges.empty() ? MakeFile(entry, file, old)
-                                                   : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
+                outcome = unit.textBytes > 0         ? MakePacked(entry, file, base.files.front(), unit.textBytes)
+                          : unit.spanChanges.empty() ? MakeFile(entry, file, old)
+                                                     : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
             }
             ContentHash hash;
             bool const isWritten = m_writer.Finish(hash);
@@ -187,6 +189,42 @@ private:
         return OutcomeOf(verdict);
     }
 
+    DeltaOutcome MakePacked(DeltaEntry const& entry, UniqueFd const& file, Bytes oldFile, std::uint64_t textBytes)
+    {
+        std::optional<ByteBuffer> const oldText = UnpackText(oldFile);
+        if (!oldText)
+        {
+            return {DeltaError::BaseDiffers, {}, 0};
+        }
+        errno = 0;
+        ByteBuffer recipe;
+        ByteBuffer text;
+        text.reserve(static_cast<std::size_t>(textBytes));
+        PatchVerdict verdict = m_patches.TakeRecord(entry.size, recipe);
+        if (verdict == PatchVerdict::Applied)
+        {
+            PlainText old({Bytes(oldText->data(), oldText->size())});
+            verdict = m_patches.Make(old, textBytes,
+                                     [&text](Bytes piece)
+                                     {
+                                         text.insert(text.end(), piece.begin(), piece.end());
+                                         return true;
+                                     });
+        }
+        if (verdict != PatchVerdict::Applied)
+        {
+            return OutcomeOf(verdict);
+        }
+        std::optional<ByteBuffer> packed = PackByRecipe(
+            Bytes(recipe.data(), recipe.size()), Bytes(text.data(), text.size()), static_cast<std::size_t>(entry.size));
+        if (!packed || packed->size() != entry.size)
+        {
+            return Culprit();
+        }
+        m_packed = std::move(*packed);
+        return m_writer.Add(file.Get(), Bytes(m_packed.data(), m_packed.size())) ? DeltaOutcome{} : WriteFailure();
+    }
+
     ByteSink SinkOf(UniqueFd const& file)
     {
         return [this, &file](Bytes bytes) { return m_writer.Add(file.Get(), bytes); };
@@ -226,6 +264,7 @@ private:
     std::vector<DeltaStream> m_streams;
     PatchSources m_sources;
     PatchApplier m_patches;
+    ByteBuffer m_packed;    ///< the file that is written
     ContentHasher m_hashes; ///< of the files' hashes
     PieceWriter m_writer;   ///< last, as it may still read what the others hold
 };

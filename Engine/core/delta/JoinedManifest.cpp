@@ -1,6 +1,7 @@
 #include "Engine/core/delta/JoinedManifest.h"
 
 #include "Engine/core/delta/ImageLayout.h"
+#include "Engine/core/delta/PackedText.h"
 
 #include <algorithm>
 #include <map>
@@ -12,8 +13,9 @@ namespace
 
 using namespace ManifestBytes;
 
-constexpr std::uint8_t EXECUTABLE_KIND = 0x10; ///< what an executable file's kind is more
-constexpr std::uint8_t MOST_PACKINGS = 225;    ///< properties of LZMA are below this
+constexpr std::uint8_t EXECUTABLE_KIND = 0x10;             ///< what an executable file's kind is more
+constexpr std::uint64_t PACKED_TEXT = MAX_IMAGE_SPANS + 1; ///< in the place of a number of segments
+constexpr std::uint8_t MOST_PACKINGS = 225;                ///< properties of LZMA are below this
 
 /// A kept file's size is the old one's, which both ends can look up.
 bool HasSize(DeltaEntry const& entry)
@@ -177,6 +179,12 @@ void AppendUnit(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath 
         AppendSigned(bytes, std::int64_t(target) - next);
         next = std::int64_t(target) + 1;
     }
+    if (unit.textBytes > 0)
+    {
+        AppendNumber(bytes, PACKED_TEXT);
+        AppendNumber(bytes, unit.textBytes);
+        return;
+    }
     AppendNumber(bytes, unit.spanChanges.size());
     for (SpanChange const& change : unit.spanChanges)
     {
@@ -206,7 +214,12 @@ DeltaUnit ReadUnit(Reader& reader, DeltaLimits const& limits, DeltaManifest cons
         unit.targets.push_back(static_cast<std::uint32_t>(target));
         next = target + 1;
     }
-    std::uint64_t const spans = reader.Count(MAX_IMAGE_SPANS);
+    std::uint64_t const spans = reader.Count(PACKED_TEXT);
+    if (spans == PACKED_TEXT)
+    {
+        unit.textBytes = reader.Count(MAX_PACKED_TEXT_BYTES);
+        return unit;
+    }
     for (std::uint64_t i = 0; i < spans && reader.Error() == DeltaManifestError::None; ++i)
     {
         SpanChange change;
@@ -310,8 +323,8 @@ DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const
             }
             isMade[target] = true;
         }
-        bool const isProgram = !unit.spanChanges.empty();
-        if (isProgram && (unit.sources.size() != 1 || unit.targets.size() != 1))
+        bool const isOfOne = !unit.spanChanges.empty() || unit.textBytes > 0;
+        if (isOfOne && (unit.sources.size() != 1 || unit.targets.size() != 1))
         {
             return BadUnit({});
         }

@@ -114,6 +114,18 @@ public:
         return text;
     }
 
+    /// The next \a size bytes.
+    Bytes Raw(std::uint64_t size)
+    {
+        if (size > m_rest.size())
+        {
+            return Fail(DeltaManifestError::Truncated), Bytes();
+        }
+        Bytes const bytes = m_rest.substr(0, static_cast<std::size_t>(size));
+        m_rest.remove_prefix(bytes.size());
+        return bytes;
+    }
+
     ContentHash Hash()
     {
         ContentHash hash{};

@@ -108,6 +108,32 @@ PatchVerdict PatchApplier::MakeWhole(std::uint64_t size, ByteSink const& sink)
     return verdict == PatchVerdict::Applied && !Flush() ? PatchVerdict::SinkRefused : verdict;
 }
 
+PatchVerdict PatchApplier::TakeRecord(std::uint64_t maxBytes, ByteBuffer& record)
+{
+    std::uint64_t size = 0;
+    if (PatchVerdict const verdict = m_extra.TakeNumber(size); verdict != PatchVerdict::Applied)
+    {
+        return verdict;
+    }
+    if (size > maxBytes)
+    {
+        return PatchVerdict::WrongSize;
+    }
+    // Its room comes with its bytes: a size is soon said.
+    record.clear();
+    for (std::uint64_t left = size; left > 0;)
+    {
+        std::size_t const count = static_cast<std::size_t>(std::min<std::uint64_t>(left, PATCH_PIECE_BYTES));
+        record.resize(record.size() + count);
+        if (!m_extra.Take(record.data() + record.size() - count, count))
+        {
+            return PatchVerdict::SourceEnded;
+        }
+        left -= count;
+    }
+    return PatchVerdict::Applied;
+}
+
 bool PatchApplier::IsUsedUp()
 {
     return m_sameLeft == 0 && m_changedLeft == 0 && m_steps.IsAtEnd() && m_same.IsAtEnd() && m_changed.IsAtEnd() &&

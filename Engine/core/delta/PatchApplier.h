@@ -50,6 +50,8 @@ public:
                                            ByteSink const& sink);
     /// Makes the next file from the extra stream alone.
     [[nodiscard]] PatchVerdict MakeWhole(std::uint64_t size, ByteSink const& sink);
+    /// The next record of the extra stream, of at most \a maxBytes.
+    [[nodiscard]] PatchVerdict TakeRecord(std::uint64_t maxBytes, ByteBuffer& record);
     /// True when nothing of any stream is left.
     [[nodiscard]] bool IsUsedUp();
 

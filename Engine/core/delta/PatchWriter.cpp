@@ -74,6 +74,12 @@ void PatchWriter::Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes 
     }
 }
 
+void PatchWriter::AddRecord(Bytes record)
+{
+    AppendNumber(m_patch[PatchStream::Extra], record.size());
+    AddWhole(record);
+}
+
 void PatchWriter::AddWhole(Bytes newBytes)
 {
     ByteBuffer& stream = m_patch[PatchStream::Extra];

@@ -19,6 +19,7 @@ public:
     void StartText() { m_position = 0; }
     /// Writes what makes \a newBytes of \a old by \a steps, from where the last file has left the position in \a old.
     void Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes);
+    void AddRecord(Bytes record);
     void AddWhole(Bytes newBytes);
     /// Everything that has been written; call it once, last.
     [[nodiscard]] BinaryPatch Finish();

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/UnitPlan.h"
 
 #include "Engine/core/delta/ImageLayout.h"
+#include "Engine/core/delta/PackedText.h"
 
 #include <algorithm>
 #include <cctype>
@@ -78,7 +79,7 @@ public:
         std::vector<std::uint32_t> others;
         for (std::uint32_t i = 0; i < m_entries.size(); ++i)
         {
-            if (m_entries[i].kind == DeltaEntryKind::Whole && !AddProgram(i))
+            if (m_entries[i].kind == DeltaEntryKind::Whole && !AddProgram(i) && !AddPacked(i))
             {
                 others.push_back(i);
             }
@@ -110,7 +111,30 @@ private:
         {
             return false;
         }
-        m_units.push_back({{{source, found->second.size}}, {target}, ChangesOf(*from, *to)});
+        m_units.push_back({{{source, found->second.size}}, {target}, ChangesOf(*from, *to), 0});
+        m_usedPaths.insert(source);
+        return true;
+    }
+
+    bool AddPacked(std::uint32_t target)
+    {
+        std::string const source = SourceFor(m_entries[target].path);
+        auto const found = m_old.files.find(source);
+        if (found == m_old.files.end() || found->second.size > MAX_PACKED_TEXT_BYTES ||
+            m_entries[target].size > MAX_PACKED_TEXT_BYTES)
+        {
+            return false;
+        }
+        std::optional<ByteBuffer> const from = UnpackText(OpenedFile(m_old.folder / source).Content());
+        OpenedFile const file(m_newFolder / m_entries[target].path);
+        std::optional<ByteBuffer> const to = from ? UnpackText(file.Content()) : std::nullopt;
+        bool const hasRecipe = to && !to->empty() && FindRecipe(file.Content(), Bytes(to->data(), to->size()));
+        if (!hasRecipe)
+        {
+            return false;
+        }
+        DeltaUnit unit{{{source, found->second.size}}, {target}, {}, to->size()};
+        m_units.push_back(std::move(unit));
         m_usedPaths.insert(source);
         return true;
     }

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/UnitSearch.h"
 
 #include "Engine/core/delta/AlignmentText.h"
+#include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/StepFinder.h"
 #include "Engine/core/delta/WorkCrew.h"
 
@@ -31,6 +32,10 @@ public:
             m_text.insert(m_text.end(), file.Content().begin(), file.Content().end());
         }
         Bytes const plain(m_text.data(), m_text.size());
+        if (unit.textBytes > 0)
+        {
+            m_text = UnpackText(plain).value();
+        }
         if (std::optional<ImageLayout> const layout = unit.spanChanges.empty() ? std::nullopt : ReadImageLayout(plain))
         {
             m_text = AlignmentTextOf(plain, *layout);
@@ -80,9 +85,10 @@ public:
             auto const same = starts.find(entry.path);
             std::uint64_t const before = m_pieces.empty() ? 0 : m_pieces.back().start;
             std::uint64_t const begin = same == starts.end() ? before : same->second;
-            for (std::uint64_t at = 0; at < entry.size; at += PIECE_BYTES)
+            std::uint64_t const bytes = unit.textBytes > 0 ? unit.textBytes : entry.size;
+            for (std::uint64_t at = 0; at < bytes; at += PIECE_BYTES)
             {
-                auto const size = static_cast<std::size_t>(std::min<std::uint64_t>(PIECE_BYTES, entry.size - at));
+                auto const size = static_cast<std::size_t>(std::min<std::uint64_t>(PIECE_BYTES, bytes - at));
                 m_pieces.push_back({i, static_cast<std::size_t>(at), size, std::min(begin + at, start), 0, {}});
             }
         }
@@ -93,11 +99,15 @@ public:
     void BuildIndex()
     {
         m_index.emplace(m_unit, m_oldFolder);
+        if (m_unit.textBytes > 0)
+        {
+            m_changed = UnpackText(OpenedFile(m_newFolder / m_entries[m_unit.targets.front()].path).Content()).value();
+        }
         if (!m_unit.spanChanges.empty())
         {
             OpenedFile const program(m_newFolder / m_entries[m_unit.targets.front()].path);
             std::optional<ImageLayout> const layout = ReadImageLayout(program.Content());
-            m_program = layout ? AlignmentTextOf(program.Content(), *layout) : ByteBuffer();
+            m_changed = layout ? AlignmentTextOf(program.Content(), *layout) : ByteBuffer();
         }
     }
 
@@ -105,7 +115,7 @@ public:
     {
         Piece& piece = m_pieces[number];
         OpenedFile const file(m_newFolder / m_entries[m_unit.targets[piece.target]].path);
-        Bytes const text = m_program.empty() ? file.Content() : Bytes(m_program.data(), m_program.size());
+        Bytes const text = m_changed.empty() ? file.Content() : Bytes(m_changed.data(), m_changed.size());
         piece.end = piece.start;
         piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
     }
@@ -164,7 +174,7 @@ private:
     std::vector<DeltaEntry> const& m_entries;
     std::vector<Piece> m_pieces;
     std::optional<OldIndex> m_index;
-    ByteBuffer m_program; ///< as it is compared, when the unit's target is one
+    ByteBuffer m_changed; ///< the target as it is compared, when that is not as it is
 };
 
 } // namespace

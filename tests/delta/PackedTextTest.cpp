@@ -1,0 +1,130 @@
+// PackedTextTest.cpp: files of gzip's kind as texts and recipes, and back to the very bytes.
+
+#include "Engine/core/delta/PackedText.h"
+#include "tests/delta/PackedFiles.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+using namespace Pelnar::Testing;
+
+Bytes View(std::string const& text)
+{
+    return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
+}
+
+Bytes View(ByteBuffer const& bytes)
+{
+    return {bytes.data(), bytes.size()};
+}
+
+std::string Text(ByteBuffer const& bytes)
+{
+    return {bytes.begin(), bytes.end()};
+}
+
+/// Expects that \a file comes apart and together again; answers its recipe.
+ByteBuffer ExpectTheWayBack(std::string const& file, std::string const& text)
+{
+    std::optional<ByteBuffer> const unpacked = UnpackText(View(file));
+    EXPECT_TRUE(unpacked && Text(*unpacked) == text);
+    std::optional<ByteBuffer> const recipe = FindRecipe(View(file), View(text));
+    EXPECT_TRUE(recipe);
+    std::optional<ByteBuffer> const made =
+        recipe ? PackByRecipe(View(*recipe), View(text), file.size()) : std::optional<ByteBuffer>();
+    EXPECT_TRUE(made && Text(*made) == file);
+    return recipe.value_or(ByteBuffer());
+}
+
+/// What the program gzip makes of \a text. It ends blocks elsewhere than zlib.
+std::string GzipProgramsOf(std::string const& text, std::string const& options)
+{
+    QTemporaryDir const folder;
+    std::string const path = folder.path().toStdString() + "/text";
+    std::ofstream(path, std::ios::binary) << text;
+    EXPECT_EQ(std::system(("gzip " + options + ' ' + path).c_str()), 0);
+    std::ifstream in(path + ".gz", std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
+}
+
+TEST(PackedText, EveryLevelOfZlibHasARecipe)
+{
+    for (std::size_t const size : {std::size_t(1), std::size_t(300), std::size_t(60000)})
+    {
+        std::string const text = WordsOf(1, size);
+        for (int level = 1; level <= 9; ++level)
+        {
+            for (int const memory : {8, 9})
+            {
+                SCOPED_TRACE(testing::Message() << size << " bytes, level " << level << ", memory " << memory);
+                std::string const file = GzipOf(text, level, memory);
+                EXPECT_LT(ExpectTheWayBack(file, text).size(), 100 + file.size() / 20);
+            }
+        }
+    }
+}
+
+TEST(PackedText, WhatTheProgramGzipMakesHasARecipe)
+{
+    std::string const text = WordsOf(2, 150000);
+    for (char const* const options : {"-9n", "-6n", "-1n", "-9N"})
+    {
+        SCOPED_TRACE(options);
+        std::string const file = GzipProgramsOf(text, options);
+        EXPECT_LT(ExpectTheWayBack(file, text).size(), file.size() / 20);
+    }
+}
+
+TEST(PackedText, OtherFilesAreNoTexts)
+{
+    std::string const file = GzipOf(WordsOf(3, 5000));
+    EXPECT_FALSE(UnpackText({}));
+    EXPECT_FALSE(UnpackText(View(WordsOf(4, 5000))));
+    EXPECT_FALSE(UnpackText(View(file.substr(0, file.size() - 1))));
+    EXPECT_FALSE(UnpackText(View(file + 'x'))) << "something behind the text";
+    EXPECT_FALSE(UnpackText(View(file + file))) << "two texts";
+    EXPECT_FALSE(UnpackText(View(GzipOf(std::string(MAX_PACKED_TEXT_BYTES + 1, 'x'))))) << "longer than memory allows";
+}
+
+TEST(PackedText, AnUnknownPackerHasNoRecipe)
+{
+    // Some other text's tokens.
+    std::string const text = WordsOf(5, 5000);
+    std::string const file = GzipOf(text);
+    EXPECT_FALSE(FindRecipe(View(file), View(WordsOf(6, 5000))));
+    // Blocks that are stored as they are.
+    EXPECT_FALSE(FindRecipe(View(GzipOf(text, 0)), View(text)));
+}
+
+TEST(PackedText, BrokenRecipesMakeNothingLargerThanAllowed)
+{
+    std::string const text = WordsOf(7, 3000);
+    std::string const file = GzipOf(text);
+    ByteBuffer const recipe = FindRecipe(View(file), View(text)).value();
+    for (std::size_t size = 0; size < recipe.size(); ++size)
+    {
+        EXPECT_FALSE(PackByRecipe(View(recipe).substr(0, size), View(text), file.size())) << size;
+    }
+    EXPECT_FALSE(PackByRecipe(View(recipe), View(text), file.size() - 1));
+    for (std::size_t at = 0; at < recipe.size(); ++at)
+    {
+        for (std::uint8_t const bits : {0x01, 0x80, 0xFF})
+        {
+            ByteBuffer changed = recipe;
+            changed[at] = static_cast<std::uint8_t>(changed[at] ^ bits);
+            std::optional<ByteBuffer> const made = PackByRecipe(View(changed), View(text), file.size());
+            EXPECT_TRUE(!made || made->size() <= file.size()) << at;
+        }
+    }
+}
+
+} // namespace

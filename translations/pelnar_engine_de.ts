@@ -42,195 +42,195 @@
         <translation>Sie verwenden die neueste Version.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it again from its publisher.</source>
+        <source>This application has no address for its updates. Reinstall it from its publisher.</source>
         <translation>Diese Anwendung gibt nicht an, wo ihre Updates veröffentlicht werden. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application again.</source>
+        <source>The address of the update feed is not valid. Reinstall the application.</source>
         <translation>Die Adresse des Update-Feeds ist keine gültige Adresse. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
-        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
+        <source>This kind of address is not allowed for the update feed. It must begin with https.</source>
         <translation>Die Adresse des Update-Feeds ist von einer nicht erlaubten Art. Sie muss mit https beginnen.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not secure: it must begin with https.</source>
+        <source>The address of the update feed is not secure. It must begin with https.</source>
         <translation>Die Adresse des Update-Feeds ist nicht sicher. Sie muss mit https beginnen.</translation>
     </message>
     <message>
-        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <source>The update server was not found. Check your internet connection and try again.</source>
         <translation>Der Update-Server wurde nicht gefunden. Prüfen Sie die Internetverbindung, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update server refused the connection: try again later.</source>
+        <source>The update server refused the connection. Try again later.</source>
         <translation>Der Update-Server hat die Verbindung abgelehnt. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <source>The update server cannot be reached from this network. Check the connection and try again.</source>
         <translation>Der Update-Server ist aus diesem Netzwerk nicht erreichbar. Prüfen Sie die Verbindung, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <source>The update server did not accept the connection in time. Check the connection and try again.</source>
         <translation>Der Update-Server hat die Verbindung nicht rechtzeitig angenommen. Prüfen Sie die Verbindung, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The connection to the update server failed: try again later.</source>
+        <source>The connection to the update server failed. Try again later.</source>
         <translation>Die Verbindung zum Update-Server ist fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <source>The network proxy did not let the connection through. Check the proxy settings.</source>
         <translation>Der Netzwerk-Proxy hat die Verbindung nicht durchgelassen. Prüfen Sie die Proxy-Einstellungen.</translation>
     </message>
     <message>
-        <source>The update server took too long to answer: try again later.</source>
+        <source>The update server took too long to respond. Try again later.</source>
         <translation>Der Update-Server hat zu lange für die Antwort gebraucht. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update server answers too slowly: try again later.</source>
+        <source>The update server responds too slowly. Try again later.</source>
         <translation>Der Update-Server antwortet zu langsam. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is self-signed and cannot be trusted. Try another network, or contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers ist nur von ihm selbst signiert, seine Identität ist also nicht bewiesen. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate comes from an unknown authority. Try another network, or contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers stammt von einer Zertifizierungsstelle, die dieser Computer nicht kennt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate is not valid yet. If the clock of this computer is right, contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers ist noch nicht gültig. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is for another server. Try another network, or contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers wurde für einen anderen Server ausgestellt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is not valid. Try another network, or contact the publisher.</source>
         <translation>Das Zertifikat des Update-Servers ist nicht annehmbar. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
-        <translation>Es kam keine sichere Verbindung zum Update-Server zustande, weil er keine ausreichend starke anbietet. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The update server does not support a secure connection (TLS 1.2 or later). Contact the publisher.</source>
+        <translation>Der Update-Server unterstützt keine sichere Verbindung (TLS 1.2 oder neuer). Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <source>This computer cannot make secure connections. Install the OpenSSL library.</source>
         <translation>Dieser Computer kann keine sicheren Verbindungen herstellen. Installieren Sie die OpenSSL-Bibliothek.</translation>
     </message>
     <message>
-        <source>The update server closed the connection before it answered: try again later.</source>
+        <source>The update server closed the connection before it responded. Try again later.</source>
         <translation>Der Update-Server hat die Verbindung geschlossen, bevor er geantwortet hat. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update feed arrived incomplete: try again.</source>
+        <source>The update feed is incomplete. Try again.</source>
         <translation>Der Update-Feed ist unvollständig angekommen. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <source>The update server&apos;s response has too many headers. Contact the publisher.</source>
         <translation>Die Antwort des Update-Servers hat zu viele Kopfzeilen. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update feed is too large: tell the publisher.</source>
+        <source>The update feed is too large. Contact the publisher.</source>
         <translation>Der Update-Feed ist zu groß. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <source>The update server&apos;s response is not valid HTTP. Try another network.</source>
         <translation>Die Antwort des Update-Servers ist kein korrektes HTTP. Versuchen Sie es in einem anderen Netzwerk.</translation>
     </message>
     <message>
-        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the feed. Contact the publisher.</source>
         <translation>Der Update-Server macht widersprüchliche Angaben zur Länge des Feeds. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server sent more than it announced: tell the publisher.</source>
+        <source>The update server sent more data than it announced. Contact the publisher.</source>
         <translation>Der Update-Server hat mehr gesendet als angekündigt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is broken in its parts: try again.</source>
-        <translation>Die Antwort des Update-Servers ist in ihren Teilen beschädigt. Versuchen Sie es noch einmal.</translation>
+        <source>The update server sent an invalid response. Try again later.</source>
+        <translation>Der Update-Server hat eine ungültige Antwort gesendet. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the feed in an unexpected way. Contact the publisher.</source>
         <translation>Der Update-Server überträgt den Feed auf eine Weise, die nicht verlangt war. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the feed compressed, which is not supported. Contact the publisher.</source>
         <translation>Der Update-Server hat den Feed komprimiert gesendet, was nicht verlangt war. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server answered with status %1: try again later.</source>
+        <source>The update server responded with status %1. Try again later.</source>
         <translation>Der Update-Server hat mit dem Status %1 geantwortet. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <source>The update server redirects to a less secure address. Contact the publisher.</source>
         <translation>Der Update-Server verweist auf eine weniger sichere Adresse. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <source>The update server redirects to a kind of address that is not allowed. Contact the publisher.</source>
         <translation>Der Update-Server verweist auf eine Adresse von einer nicht erlaubten Art. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <source>The update server redirects to something that is not an address. Contact the publisher.</source>
         <translation>Der Update-Server verweist auf etwas, das keine Adresse ist. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <source>The update server redirects without giving an address. Contact the publisher.</source>
         <translation>Der Update-Server verweist auf eine andere Adresse, ohne sie zu nennen. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server points from address to address without end: tell the publisher.</source>
+        <source>The update server redirects from address to address without end. Contact the publisher.</source>
         <translation>Der Update-Server verweist endlos von Adresse zu Adresse. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The file with the update feed does not exist: check its address.</source>
+        <source>The file with the update feed does not exist. Check its address.</source>
         <translation>Die Datei mit dem Update-Feed gibt es nicht. Prüfen Sie ihre Adresse.</translation>
     </message>
     <message>
-        <source>The address of the update feed names a folder or a device: it must name a file.</source>
+        <source>The address of the update feed is a folder or a device. It must be a file.</source>
         <translation>Die Adresse des Update-Feeds nennt einen Ordner oder ein Gerät. Sie muss eine Datei nennen.</translation>
     </message>
     <message>
-        <source>The file with the update feed is too large: check its address.</source>
+        <source>The file with the update feed is too large. Check its address.</source>
         <translation>Die Datei mit dem Update-Feed ist zu groß. Prüfen Sie ihre Adresse.</translation>
     </message>
     <message>
-        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <source>The file with the update feed cannot be read. Check its permissions.</source>
         <translation>Die Datei mit dem Update-Feed kann nicht gelesen werden. Prüfen Sie ihre Zugriffsrechte.</translation>
     </message>
     <message>
-        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <source>The update feed is a file on another computer. Copy it to this computer.</source>
         <translation>Der Update-Feed ist eine Datei eines anderen Computers. Kopieren Sie sie auf diesen.</translation>
     </message>
     <message>
-        <source>The update feed cannot be read: tell the publisher.</source>
+        <source>The update feed cannot be read. Contact the publisher.</source>
         <translation>Der Update-Feed kann nicht gelesen werden. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <source>A web page arrived instead of the update feed. If this network asks you to sign in, sign in and try again.</source>
         <translation>Anstelle des Update-Feeds kam eine Webseite. Melden Sie sich in diesem Netzwerk an, wenn es das verlangt, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application again.</source>
+        <source>The application chose an update that is not in the feed. Reinstall the application.</source>
         <translation>Die Anwendung hat ein Update gewählt, das nicht im Feed steht. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
-        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <source>The application failed while it checked the updates. Restart it and try again.</source>
         <translation>Die Anwendung hat beim Prüfen der Updates versagt. Starten Sie sie neu, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <source>The length of the update in the feed is not valid. Contact the publisher.</source>
         <translation>Der Feed nennt eine Länge des Updates, die nicht stimmen kann. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <source>The update on the server does not have the length stated in the feed. Try again later, or contact the publisher.</source>
         <translation>Das Update auf dem Server ist nicht so lang, wie der Feed angibt. Versuchen Sie es später noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <source>The update server sent the wrong part of the update. Try again later.</source>
         <translation>Der Update-Server hat einen anderen Teil des Updates gesendet als verlangt. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
@@ -250,131 +250,131 @@
         <translation>Das Update ist noch nicht vollständig heruntergeladen. Die nächste Suche setzt den Download fort.</translation>
     </message>
     <message>
-        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <source>Another copy of the application is downloading this update. Wait until it has finished.</source>
         <translation>Eine andere Instanz der Anwendung lädt dieses Update gerade. Warten Sie, bis sie fertig ist.</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <source>The folder for downloaded updates cannot be used. Check its permissions and its disk.</source>
         <translation>Der Ordner für geladene Updates kann nicht verwendet werden. Prüfen Sie seine Zugriffsrechte und seinen Datenträger.</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <source>The folder for downloaded updates does not belong to you alone. Remove it and try again.</source>
         <translation>Der Ordner für geladene Updates gehört nicht Ihnen allein. Entfernen Sie ihn, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <source>The download needs %1 more disk space, but only %2 are free. Free some space and try again.</source>
         <translation>Das Update braucht noch %1 auf dem Datenträger, auf dem %2 frei sind. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
-        <translation>Das Update braucht %1 mehr, als Ihr Kontingent auf dem Datenträger mit %2 freiem Platz zulässt. Entfernen Sie eigene Dateien, und versuchen Sie es noch einmal.</translation>
+        <source>Your disk quota is too small for the update, which needs %1. Remove some of your files and try again.</source>
+        <translation>Ihr Kontingent auf dem Datenträger reicht für das Update nicht aus, das %1 braucht. Entfernen Sie eigene Dateien, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
-        <translation>Das Update ist als Datei größer, als der Datenträger für geladene Updates aufnehmen kann. Bitten Sie um Hilfe.</translation>
+        <source>The disk for downloaded updates cannot hold a file as large as this update. Ask the administrator of this computer.</source>
+        <translation>Das Update ist als Datei größer, als der Datenträger für geladene Updates aufnehmen kann. Wenden Sie sich an die Person, die diesen Computer verwaltet.</translation>
     </message>
     <message>
-        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <source>The disk failed while the update was saved. Check the disk and try again.</source>
         <translation>Der Datenträger hat versagt, während das Update darauf geschrieben wurde. Prüfen Sie den Datenträger, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <source>The computer has too little memory or too many open files. Close other applications and try again.</source>
         <translation>Der Computer hat zu wenig Arbeitsspeicher oder zu viele offene Dateien für den Download. Schließen Sie andere Anwendungen, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <source>The application&apos;s folder was not found, so it cannot be updated. Start it from where it is installed.</source>
         <translation>Der Ordner der Anwendung wurde nicht gefunden, sie kann also nicht aktualisiert werden. Starten Sie sie von dort, wo sie installiert ist.</translation>
     </message>
     <message>
-        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <source>The application was started through a link, so it cannot be updated. Start it from the folder that the link points to.</source>
         <translation>Die Anwendung wurde über eine Verknüpfung gestartet, sie kann also nicht aktualisiert werden. Starten Sie sie aus dem Ordner, auf den die Verknüpfung zeigt.</translation>
     </message>
     <message>
-        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <source>The application was installed by %1, which also updates it. Use the command &quot;%2&quot;.</source>
         <translation>Die Anwendung wurde von %1 installiert und wird auch von dort aktualisiert. Verwenden Sie den Befehl „%2“.</translation>
     </message>
     <message>
-        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <source>The application runs from an image file. Replace the file %1 with the file of the new version.</source>
         <translation>Die Anwendung läuft aus einer Image-Datei. Ersetzen Sie die Datei %1 durch die der neuen Version.</translation>
     </message>
     <message>
-        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <source>The application is on a disk that cannot be written. Copy it to another folder and start it there.</source>
         <translation>Die Anwendung liegt auf einem Datenträger, der nicht beschrieben werden kann. Kopieren Sie sie in einen anderen Ordner, und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
         <translation>Der Ordner der Anwendung ist ein eigener Datenträger und kann deshalb nicht ersetzt werden. Kopieren Sie ihn in einen anderen Ordner, und starten Sie die Anwendung dort.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>
         <translation>Die Anwendung ist gegen jede Änderung geschützt. Bitten Sie die Person, die sie geschützt hat, das Dateiattribut „immutable“ oder „append only“ zu entfernen.</translation>
     </message>
     <message>
-        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <source>The application belongs to another user of this computer. Ask them or the administrator to update it.</source>
         <translation>Die Anwendung gehört einer anderen Person an diesem Computer. Bitten Sie diese Person oder die Systemverwaltung, sie zu aktualisieren.</translation>
     </message>
     <message>
-        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <source>You may not change the application&apos;s folder. Ask the administrator to update the application.</source>
         <translation>Sie dürfen den Ordner der Anwendung nicht ändern. Bitten Sie die Systemverwaltung, sie zu aktualisieren.</translation>
     </message>
     <message>
-        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <source>Other users of this computer can change the application&apos;s folder, so it is not updated there. Ask the administrator to correct its permissions.</source>
         <translation>Andere Personen an diesem Computer könnten den Ordner der Anwendung ändern, deshalb wird sie dort nicht aktualisiert. Bitten Sie die Systemverwaltung, die Zugriffsrechte zu berichtigen.</translation>
     </message>
     <message>
-        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
-        <translation>Für das Update ist kein Platz: Es braucht %1, und %2 sind frei. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
+        <source>The update needs %1 of disk space, but only %2 are free. Free some space and try again.</source>
+        <translation>Das Update braucht %1 auf dem Datenträger, frei sind aber nur %2. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
+        <source>Updates of this application are turned off. Ask the administrator of this computer.</source>
         <translation>Updates dieser Anwendung sind abgeschaltet. Wenden Sie sich an die Person, die diesen Computer verwaltet.</translation>
     </message>
     <message>
-        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <source>The last checks for updates failed, so the next one waits. Check for updates yourself to try now.</source>
         <translation>Die letzten Suchen nach Updates sind fehlgeschlagen, deshalb wartet die nächste. Suchen Sie von Hand, um es sofort zu versuchen.</translation>
     </message>
     <message>
-        <source>The update was cancelled: check for updates to begin again.</source>
+        <source>The update was cancelled. Check for updates to start again.</source>
         <translation>Die Aktualisierung wurde abgebrochen. Suchen Sie nach Updates, um neu zu beginnen.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
+        <source>This application does not state its identifier and version, so it cannot be updated. Reinstall it from its publisher.</source>
         <translation>Diese Anwendung gibt ihre Kennung und Version nicht an, daher kann ihr kein Update zugeordnet werden. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly. Try again, or reinstall the application.</source>
         <translation>Das Programm, das Updates installiert, wurde unerwartet beendet. Versuchen Sie es noch einmal, und installieren Sie die Anwendung neu, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The check for updates failed: try again later.</source>
+        <source>The check for updates failed. Try again later.</source>
         <translation>Die Suche nach Updates ist fehlgeschlagen. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The download address in the feed is not valid: tell the publisher.</source>
+        <source>The download address in the feed is not valid. Contact the publisher.</source>
         <translation>Der Feed nennt als Adresse des Updates etwas, das keine Adresse ist. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <source>This kind of download address is not allowed. Contact the publisher.</source>
         <translation>Die Adresse des Updates ist von einer nicht erlaubten Art und nicht https. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <source>The download address is not secure because it does not begin with https. Contact the publisher.</source>
         <translation>Die Adresse des Updates ist nicht sicher, weil sie nicht mit https beginnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <source>The connection broke during the download. Try again to continue the download.</source>
         <translation>Die Verbindung brach ab, während das Update geladen wurde. Versuchen Sie es noch einmal, es geht dort weiter.</translation>
     </message>
     <message>
-        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the update. Contact the publisher.</source>
         <translation>Der Update-Server macht widersprüchliche Angaben zur Länge des Updates. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the update in an unexpected way. Contact the publisher.</source>
         <translation>Der Update-Server überträgt das Update auf eine Weise, die nicht verlangt war. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the update compressed, which is not supported. Contact the publisher.</source>
         <translation>Der Update-Server hat das Update komprimiert gesendet, was nicht verlangt war. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
@@ -382,7 +382,7 @@
         <translation>Zeile %1 des Feeds ist kein wohlgeformtes XML.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <source>Line %1 of the feed has a document type declaration, which is not allowed.</source>
         <translation>Zeile %1 des Feeds hat eine Dokumenttyp-Deklaration, die ein Feed nicht haben darf.</translation>
     </message>
     <message>
@@ -398,7 +398,7 @@
         <translation>Zeile %1 des Feeds hat ein Tag mit mehr als %2 Bytes.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <source>Line %1 of the feed exceeds the limit of %2 elements and attributes.</source>
         <translation>Zeile %1 des Feeds überschreitet die %2 Elemente und Attribute, die ein Feed haben darf.</translation>
     </message>
     <message>
@@ -410,7 +410,7 @@
         <translation>In Zeile %1 des Feeds sind mehr als %2 Namensräume deklariert.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>In Zeile %1 des Feeds beginnt eine Webseite, wo ein Feed erwartet wurde.</translation>
     </message>
     <message>
@@ -418,395 +418,395 @@
         <translation>Zeile %1 des Feeds hat einen unbekannten Fehler.</translation>
     </message>
     <message>
-        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>
         <translation>Die Anwendung wurde von der Paketverwaltung des Systems installiert und wird auch von dort aktualisiert. Verwenden Sie den Befehl „%1“.</translation>
     </message>
     <message>
-        <source>The update could not be installed: try again later.</source>
+        <source>The update could not be installed. Try again later.</source>
         <translation>Das Update konnte nicht installiert werden. Versuchen Sie es später noch einmal.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
+        <source>The program that installs updates did not understand its task. Reinstall the application.</source>
         <translation>Das Programm, das Updates installiert, hat seinen Auftrag nicht verstanden. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
-        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <source>The program that installs updates could not use the files that it received. Try again.</source>
         <translation>Das Programm, das Updates installiert, konnte die übergebenen Dateien nicht verwenden. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
+        <source>The program that installs updates is missing, or other users can change it. Reinstall the application.</source>
         <translation>Das Programm, das Updates installiert, fehlt oder könnte von anderen verändert werden. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
-        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <source>The update could not be unpacked in a confined process. Tell the publisher which system this is.</source>
         <translation>Das Update konnte nicht, wie es sein muss, in einem abgeschotteten Prozess entpackt werden. Teilen Sie dem Herausgeber mit, welches System dies ist.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>This application has no public key (SUPublicEDKey), so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>Diese Anwendung hat keinen öffentlichen Schlüssel unter SUPublicEDKey, daher lässt sich die Echtheit von Updates nicht beweisen. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>The public key of this application (SUPublicEDKey) is damaged, so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>Der öffentliche Schlüssel dieser Anwendung unter SUPublicEDKey ist beschädigt, daher lässt sich die Echtheit von Updates nicht beweisen. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not signed. Contact the publisher.</source>
         <translation>Das Update ist nicht signiert und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
-        <translation>Die Signatur des Updates ist keine Signatur, und das Update wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The update was refused because its signature is not valid. Contact the publisher.</source>
+        <translation>Das Update wurde abgelehnt, weil seine Signatur ungültig ist. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update was refused because it is damaged or not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Das Update wurde nicht vom Herausgeber dieser Anwendung signiert oder unterwegs beschädigt und wird abgelehnt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
+        <source>Signatures cannot be verified on this computer. Reinstall libsodium.</source>
         <translation>Auf diesem Computer können keine Signaturen überprüft werden. Installieren Sie die libsodium-Bibliothek neu.</translation>
     </message>
     <message>
-        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is empty. Try again, or contact the publisher.</source>
         <translation>Das geladene Update ist leer. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <source>The downloaded update cannot be read from the disk. Check the disk and try again.</source>
         <translation>Das geladene Update kann nicht vom Datenträger gelesen werden. Prüfen Sie den Datenträger, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is longer or shorter than the feed says. Try again, or contact the publisher.</source>
         <translation>Das geladene Update ist länger oder kürzer, als der Feed angibt. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <source>Another program changed the downloaded update while it was being verified. Close that program and try again.</source>
         <translation>Ein anderes Programm hat das geladene Update verändert, während es überprüft wurde. Schließen Sie es, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update has an unknown format. Contact the publisher.</source>
         <translation>Das Update ist auf eine unbekannte Weise gepackt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The archive of the update is damaged: tell the publisher.</source>
+        <source>The archive of the update is damaged. Contact the publisher.</source>
         <translation>Das Archiv des Updates ist beschädigt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive can be read in more than one way. Contact the publisher.</source>
         <translation>Das Archiv des Updates lässt sich auf mehr als eine Weise lesen und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive is encrypted. Contact the publisher.</source>
         <translation>Das Archiv des Updates ist verschlüsselt und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update uses an unknown compression. Contact the publisher.</source>
         <translation>Das Archiv des Updates ist auf eine unbekannte Weise komprimiert. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a file with a name that is not allowed. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei mit einem nicht erlaubten Namen. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <source>The update contains a file with a name that is too long. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei mit einem zu langen Namen. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file outside the application. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei, die außerhalb der Anwendung landen würde, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The folders of the update are too deep: tell the publisher.</source>
+        <source>The folders of the update are nested too deeply. Contact the publisher.</source>
         <translation>Die Ordner des Updates sind zu tief verschachtelt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains more than files, folders and links. Contact the publisher.</source>
         <translation>Das Update enthält etwas, das weder Datei noch Ordner noch Verknüpfung ist, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a hard link. Contact the publisher.</source>
         <translation>Das Update enthält einen Hardlink und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file with holes. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei mit Lücken und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file without a size. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei ohne Größenangabe und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains the same file twice. Contact the publisher.</source>
         <translation>Das Update enthält dieselbe Datei zweimal und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains file names that differ only in case or accents. Contact the publisher.</source>
         <translation>Das Update enthält Dateien, deren Namen sich nur in Groß- und Kleinschreibung oder Akzenten unterscheiden, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file inside something that is not a folder. Contact the publisher.</source>
         <translation>Das Update enthält eine Datei unterhalb von etwas, das kein Ordner ist, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a link to a name that is not allowed. Contact the publisher.</source>
         <translation>Das Update enthält eine Verknüpfung mit einem nicht erlaubten Ziel. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a link that leads outside the application. Contact the publisher.</source>
         <translation>Das Update enthält eine Verknüpfung, die aus der Anwendung hinausführt, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <source>The update contains a link that leads nowhere. Contact the publisher.</source>
         <translation>Das Update enthält eine Verknüpfung, die ins Leere führt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <source>The update contains a link that leads back to itself. Contact the publisher.</source>
         <translation>Das Update enthält eine Verknüpfung, die auf sich selbst zurückführt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has too many files: tell the publisher.</source>
+        <source>The update contains too many files. Contact the publisher.</source>
         <translation>Das Update enthält zu viele Dateien. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update has too many links: tell the publisher.</source>
+        <source>The update contains too many links. Contact the publisher.</source>
         <translation>Das Update enthält zu viele Verknüpfungen. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <source>The update is too large when it is unpacked. Contact the publisher.</source>
         <translation>Das Update ist entpackt zu groß. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
+        <source>The installed application was changed, so the small update does not fit it. Reinstall the application.</source>
         <translation>Die installierte Anwendung wurde verändert, sodass das kleine Update nicht zu ihr passt. Installieren Sie die Anwendung neu.</translation>
     </message>
     <message>
-        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
-        <translation>Was das kleine Update aus der Anwendung gemacht hat, ist nicht, was es sein soll. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The small update produced a wrong result. Contact the publisher.</source>
+        <translation>Das kleine Update hat ein falsches Ergebnis geliefert. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update holds no application: tell the publisher.</source>
+        <source>The update contains no application. Contact the publisher.</source>
         <translation>Das Update enthält keine Anwendung. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update holds more than one application: tell the publisher.</source>
+        <source>The update contains more than one application. Contact the publisher.</source>
         <translation>Das Update enthält mehr als eine Anwendung. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The application in the update is not a folder: tell the publisher.</source>
+        <source>The application in the update is not a folder. Contact the publisher.</source>
         <translation>Die Anwendung im Update ist kein Ordner. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The application in the update does not describe itself: tell the publisher.</source>
-        <translation>Die Anwendung im Update beschreibt sich nicht. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The application in the update has no information file. Contact the publisher.</source>
+        <translation>Der Anwendung im Update fehlt die Informationsdatei. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The description of the application in the update is too large: tell the publisher.</source>
-        <translation>Die Beschreibung der Anwendung im Update ist zu groß. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The information file of the application in the update is too large. Contact the publisher.</source>
+        <translation>Die Informationsdatei der Anwendung im Update ist zu groß. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The description of the application in the update cannot be read: tell the publisher.</source>
-        <translation>Die Beschreibung der Anwendung im Update kann nicht gelesen werden. Bitte informieren Sie den Herausgeber.</translation>
+        <source>The information file of the application in the update cannot be read. Contact the publisher.</source>
+        <translation>Die Informationsdatei der Anwendung im Update kann nicht gelesen werden. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <source>The update names a program outside its folder. Contact the publisher.</source>
         <translation>Das Update nennt ein Programm außerhalb seines Ordners. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it belongs to another application. Contact the publisher.</source>
         <translation>Das Update gehört zu einer anderen Anwendung und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <source>The update was refused because its version is not the one in the feed. Contact the publisher.</source>
         <translation>Das Update hat eine andere Version, als der Feed angibt, und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not newer than the installed application. Contact the publisher.</source>
         <translation>Das Update ist nicht neuer als die installierte Anwendung und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <source>The application in the update has no public key, so it could never be updated again. Contact the publisher.</source>
         <translation>Die Anwendung im Update hat keinen öffentlichen Schlüssel, sodass sie nie wieder aktualisiert werden könnte. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <source>The contents of the update do not match its file name. Contact the publisher.</source>
         <translation>Der Inhalt des Updates passt nicht zu seinem Dateinamen. Wenden Sie sich an den Herausgeber.</translation>
     </message>
     <message>
-        <source>The application in the update has no program to start: tell the publisher.</source>
+        <source>The application in the update has no program to start. Contact the publisher.</source>
         <translation>Die Anwendung im Update hat kein Programm, das gestartet werden kann. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The program in the update may not be started: tell the publisher.</source>
+        <source>The program in the update may not be started. Contact the publisher.</source>
         <translation>Das Programm im Update darf nicht gestartet werden. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <source>The program in the update is for another kind of computer. Contact the publisher.</source>
         <translation>Das Programm im Update ist für eine andere Art von Computer bestimmt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <source>The update is a program of its own, which this application does not allow. Contact the publisher.</source>
         <translation>Das Update ist ein eigenes Programm, was diese Anwendung nicht erlaubt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not start. Try again, or contact the publisher.</source>
         <translation>Das mit dem Update gelieferte Programm ist nicht gestartet. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not install it. Try again, or contact the publisher.</source>
         <translation>Das mit dem Update gelieferte Programm hat es nicht installiert. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <source>The program that comes with the update took too long and was stopped. Try again.</source>
         <translation>Das mit dem Update gelieferte Programm hat zu lange gebraucht und wurde beendet. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <source>There is not enough space on the disk for the update. Free some space and try again.</source>
         <translation>Auf dem Datenträger ist nicht genug Platz für das Update. Schaffen Sie Platz, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
+        <source>You may not change the folder that holds the application. Ask the person who installed the application.</source>
         <translation>Der Ordner, in dem die Anwendung liegt, darf von Ihnen nicht geändert werden. Wenden Sie sich an die Person, die sie installiert hat.</translation>
     </message>
     <message>
-        <source>The disk reported an error: check it and try again.</source>
+        <source>The disk reported an error. Check the disk and try again.</source>
         <translation>Der Datenträger hat einen Fehler gemeldet. Prüfen Sie ihn, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <source>The application did not close, so the update was not installed. Save your work, check for updates again and let the application close.</source>
         <translation>Die Anwendung wurde nicht beendet, deshalb wurde das Update nicht installiert. Sichern Sie Ihre Arbeit, suchen Sie noch einmal nach Updates, und lassen Sie die Anwendung sich beenden.</translation>
     </message>
     <message>
-        <source>Another update of this application is being installed: wait for its end.</source>
+        <source>Another update of this application is being installed. Wait until it has finished.</source>
         <translation>Ein anderes Update dieser Anwendung wird gerade installiert. Warten Sie, bis es fertig ist.</translation>
     </message>
     <message>
-        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <source>The application is no longer where it was when the update began. Start it from its place and try again.</source>
         <translation>Die installierte Anwendung ist nicht mehr dort, wo sie zu Beginn der Aktualisierung war. Starten Sie sie von ihrem Platz aus, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <source>The application was changed while the update was being prepared. Restart it and try again.</source>
         <translation>Die installierte Anwendung wurde verändert, während das Update vorbereitet wurde. Starten Sie sie neu, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <source>The prepared update was changed before it was installed, so it was discarded. Try again.</source>
         <translation>Das vorbereitete Update wurde vor der Installation verändert und deshalb verworfen. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
+        <source>The prepared update and the application are on different disks. Try again, or reinstall the application.</source>
         <translation>Das vorbereitete Update und die Anwendung liegen auf verschiedenen Datenträgern. Versuchen Sie es noch einmal, und installieren Sie die Anwendung neu, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <source>The new version could not replace the old one, which is unchanged. Try again.</source>
         <translation>Die neue Version konnte nicht an die Stelle der alten gesetzt werden, die unverändert ist. Versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <source>The disk did not confirm that the update is saved. Check the disk and try again.</source>
         <translation>Der Datenträger hat nicht bestätigt, dass er das Update gespeichert hat. Prüfen Sie ihn, und versuchen Sie es noch einmal.</translation>
     </message>
     <message>
-        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <source>The application that should start after the update may not be started. Start it yourself.</source>
         <translation>Die Anwendung, die nach der Aktualisierung gestartet werden soll, darf nicht gestartet werden. Starten Sie die Anwendung von Hand.</translation>
     </message>
     <message>
-        <source>The updated application did not start: start it by hand.</source>
+        <source>The updated application did not start. Start it yourself.</source>
         <translation>Die aktualisierte Anwendung ist nicht gestartet. Starten Sie die Anwendung von Hand.</translation>
     </message>
     <message>
-        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;. Start it outside the container to update it.</source>
         <translation>Die Anwendung läuft in einem Container, der den Besitzer des Ordners „%1“ verbirgt. Starten Sie die Anwendung außerhalb des Containers, um sie zu aktualisieren.</translation>
     </message>
     <message>
-        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>Das Update würde ändern, wer die Anwendung öffnen darf, und wurde nicht installiert. Bitten Sie die Person, die die Anwendung installiert hat, sie zu aktualisieren.</translation>
     </message>
     <message>
-        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <source>The new version did not start, so the previous one was restored. Contact the publisher.</source>
         <translation>Die neue Version ist nicht gestartet, und die vorherige ist wieder da. Informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The installation of the update was interrupted: check for updates again.</source>
+        <source>The installation of the update was interrupted. Check for updates again.</source>
         <translation>Die Installation des Updates wurde unterbrochen. Suchen Sie erneut nach Updates.</translation>
     </message>
     <message>
-        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
-        <translation>Am Speicherort der Anwendung lassen sich keine Dateien sperren: Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk.</translation>
+        <source>Files cannot be locked where the application is installed. Move it to a folder on a local disk.</source>
+        <translation>Am Speicherort der Anwendung lassen sich keine Dateien sperren. Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk.</translation>
     </message>
     <message>
-        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
-        <translation>Das Laufwerk, auf dem die Anwendung liegt, speichert keine Dateirechte: Verschieben Sie die Anwendung auf ein anderes Laufwerk.</translation>
+        <source>The disk that holds the application does not store file permissions. Move the application to another disk.</source>
+        <translation>Das Laufwerk, auf dem die Anwendung liegt, speichert keine Dateirechte. Verschieben Sie die Anwendung auf ein anderes Laufwerk.</translation>
     </message>
     <message>
-        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
-        <translation>Andere Benutzer dürfen den Ordner ändern, in dem die Anwendung liegt: Verschieben Sie die Anwendung in einen eigenen Ordner.</translation>
+        <source>Other users can change the folder that holds the application. Move the application to a folder of your own.</source>
+        <translation>Andere Benutzer dürfen den Ordner ändern, in dem die Anwendung liegt. Verschieben Sie die Anwendung in einen eigenen Ordner.</translation>
     </message>
     <message>
-        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>Dieses System bietet pidfd_open nicht, das für Updates nötig ist: Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
+        <source>This system does not provide pidfd_open, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dieses System bietet pidfd_open nicht, das für Updates nötig ist. Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
     </message>
     <message>
-        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>Dieses System bietet memfd_create nicht, das für Updates nötig ist: Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
+        <source>This system does not provide memfd_create, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Dieses System bietet memfd_create nicht, das für Updates nötig ist. Installieren Sie einen neueren Kernel oder erlauben Sie den Aufruf im Container oder in der Sandbox.</translation>
     </message>
     <message>
-        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
-        <translation>Jeder Benutzer dieses Computers darf in den Ordner %1 schreiben, in dem die Anwendung liegt: Verschieben Sie die Anwendung in einen eigenen Ordner und starten Sie sie dort.</translation>
+        <source>All users of this computer can write to the folder %1, which holds the application. Move the application to a folder of your own and start it there.</source>
+        <translation>Jeder Benutzer dieses Computers darf in den Ordner %1 schreiben, in dem die Anwendung liegt. Verschieben Sie die Anwendung in einen eigenen Ordner und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
-        <translation>Die Mitglieder der Gruppe „%1“ dürfen den Ordner der Anwendung ändern: Verwenden Sie den Befehl „%2“.</translation>
+        <source>The members of the group &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>Die Mitglieder der Gruppe „%1“ dürfen den Ordner der Anwendung ändern. Verwenden Sie den Befehl „%2“.</translation>
     </message>
     <message>
-        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
-        <translation>Die Anwendung liegt in %1, wo sich keine Dateien sperren lassen: Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk und starten Sie sie dort.</translation>
+        <source>The application is installed in %1, where files cannot be locked. Move it to a folder on a local disk and start it there.</source>
+        <translation>Die Anwendung liegt in %1, wo sich keine Dateien sperren lassen. Verschieben Sie sie in einen Ordner auf einem lokalen Laufwerk und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
-        <translation>Die Anwendung in %1 gehört zu einer Schicht des Dateisystems, die nicht ersetzt werden kann: Kopieren Sie sie in einen anderen Ordner und starten Sie sie dort.</translation>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced. Copy it to another folder and start it there.</source>
+        <translation>Die Anwendung in %1 gehört zu einer Schicht des Dateisystems, die nicht ersetzt werden kann. Kopieren Sie sie in einen anderen Ordner und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is not signed, but this application requires a signature. Try another network, or contact the publisher.</source>
         <translation>Der Update-Feed ist nicht signiert, wie es diese Anwendung verlangt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was refused because it continues after its signature. Try another network, or contact the publisher.</source>
         <translation>Der Update-Feed geht hinter seiner Signatur weiter und wird abgelehnt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <source>The update feed was refused because it has more than one signature. Contact the publisher.</source>
         <translation>Der Update-Feed hat mehr als eine Signatur und wird abgelehnt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <source>Something was added to the update feed after its signature. Try another network, or contact the publisher.</source>
         <translation>Dem Update-Feed wurde nach seiner Signatur etwas hinzugefügt. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <source>The line endings of the update feed were changed, so its signature does not match. Contact the publisher.</source>
         <translation>Die Zeilenenden des Update-Feeds wurden umgeschrieben, sodass seine Signatur nicht passt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know. Reinstall the application from its publisher.</source>
         <translation>Der Update-Feed ist auf eine Weise signiert, die diese Version nicht kennt. Installieren Sie die Anwendung aus der Quelle des Herausgebers neu.</translation>
     </message>
     <message>
-        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <source>The signature of the update feed is damaged. Try again, or contact the publisher.</source>
         <translation>Die Signatur des Update-Feeds ist beschädigt. Versuchen Sie es noch einmal, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was changed or is not signed by this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Der Update-Feed wurde nicht vom Herausgeber dieser Anwendung signiert oder nachträglich verändert. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <source>The update feed has no usable serial number. Contact the publisher.</source>
         <translation>Der Update-Feed hat keine brauchbare laufende Nummer. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <source>The update feed does not state how long it is valid. Contact the publisher.</source>
         <translation>Der Update-Feed gibt nicht an, wie lange er gilt. Bitte informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>Der Update-Feed ist älter als ein früher empfangener. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn es dabei bleibt.</translation>
     </message>
     <message>
-        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Der Update-Feed ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
     </message>
     <message>
@@ -818,35 +818,35 @@
         <translation>Der Netzwerk-Proxy verweigert die Verbindung zum Update-Server. Fragen Sie den Administrator Ihres Netzwerks.</translation>
     </message>
     <message>
-        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <source>The network proxy does not accept your user name and password. Check the proxy settings.</source>
         <translation>Der Netzwerk-Proxy nimmt Ihren Benutzernamen und Ihr Passwort nicht an. Prüfen Sie die Proxy-Einstellungen.</translation>
     </message>
     <message>
-        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <source>The update feed does not say which keys are valid. Try another network, or contact the publisher.</source>
         <translation>Der Update-Feed sagt nicht, welche Schlüssel gültig sind. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is damaged. Contact the publisher.</source>
         <translation>Die Liste der gültigen Schlüssel im Update-Feed ist beschädigt. Informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Die Liste der gültigen Schlüssel im Update-Feed stammt nicht vom Herausgeber dieser Anwendung. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is for another application. Contact the publisher.</source>
         <translation>Die Liste der gültigen Schlüssel im Update-Feed gilt für eine andere Anwendung. Informieren Sie den Herausgeber.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>Die Liste der gültigen Schlüssel im Update-Feed ist älter als eine frühere. Versuchen Sie es in einem anderen Netzwerk, und informieren Sie den Herausgeber, wenn das nicht hilft.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The list of valid keys in the update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Die Liste der gültigen Schlüssel im Update-Feed ist abgelaufen. Prüfen Sie die Uhr dieses Computers, und informieren Sie den Herausgeber, wenn sie richtig geht.</translation>
     </message>
     <message>
-        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>Der Stammschlüssel dieser Anwendung ist beschädigt. Installieren Sie die Anwendung neu vom Herausgeber.</translation>
     </message>
 </context>

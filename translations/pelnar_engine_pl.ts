@@ -42,195 +42,195 @@
         <translation>Używasz najnowszej wersji.</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it again from its publisher.</source>
+        <source>This application has no address for its updates. Reinstall it from its publisher.</source>
         <translation>Ta aplikacja nie podaje, gdzie są publikowane jej aktualizacje. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application again.</source>
+        <source>The address of the update feed is not valid. Reinstall the application.</source>
         <translation>Adres kanału aktualizacji nie jest prawidłowym adresem. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
+        <source>This kind of address is not allowed for the update feed. It must begin with https.</source>
         <translation>Adres kanału aktualizacji jest niedozwolonego rodzaju. Musi zaczynać się od https.</translation>
     </message>
     <message>
-        <source>The address of the update feed is not secure: it must begin with https.</source>
+        <source>The address of the update feed is not secure. It must begin with https.</source>
         <translation>Adres kanału aktualizacji nie jest bezpieczny. Musi zaczynać się od https.</translation>
     </message>
     <message>
-        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <source>The update server was not found. Check your internet connection and try again.</source>
         <translation>Nie znaleziono serwera aktualizacji. Sprawdź połączenie z internetem i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update server refused the connection: try again later.</source>
+        <source>The update server refused the connection. Try again later.</source>
         <translation>Serwer aktualizacji odrzucił połączenie. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <source>The update server cannot be reached from this network. Check the connection and try again.</source>
         <translation>Serwer aktualizacji jest nieosiągalny z tej sieci. Sprawdź połączenie i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <source>The update server did not accept the connection in time. Check the connection and try again.</source>
         <translation>Serwer aktualizacji nie przyjął połączenia na czas. Sprawdź połączenie i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The connection to the update server failed: try again later.</source>
+        <source>The connection to the update server failed. Try again later.</source>
         <translation>Połączenie z serwerem aktualizacji nie powiodło się. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <source>The network proxy did not let the connection through. Check the proxy settings.</source>
         <translation>Sieciowy serwer proxy nie przepuścił połączenia. Sprawdź ustawienia serwera proxy.</translation>
     </message>
     <message>
-        <source>The update server took too long to answer: try again later.</source>
+        <source>The update server took too long to respond. Try again later.</source>
         <translation>Serwer aktualizacji zbyt długo nie odpowiadał. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update server answers too slowly: try again later.</source>
+        <source>The update server responds too slowly. Try again later.</source>
         <translation>Serwer aktualizacji odpowiada zbyt wolno. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is self-signed and cannot be trusted. Try another network, or contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji jest podpisany tylko przez niego samego, więc jego tożsamość nie jest potwierdzona. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate comes from an unknown authority. Try another network, or contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji pochodzi od urzędu, którego ten komputer nie zna. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji wygasł. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate is not valid yet. If the clock of this computer is right, contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji nie jest jeszcze ważny. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is for another server. Try another network, or contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji wystawiono dla innego serwera. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is not valid. Try another network, or contact the publisher.</source>
         <translation>Certyfikat serwera aktualizacji jest nie do przyjęcia. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
-        <translation>Nie nawiązano bezpiecznego połączenia z serwerem aktualizacji, ponieważ nie oferuje on wystarczająco silnego. Powiadom wydawcę.</translation>
+        <source>The update server does not support a secure connection (TLS 1.2 or later). Contact the publisher.</source>
+        <translation>Serwer aktualizacji nie obsługuje bezpiecznego połączenia (TLS 1.2 lub nowszy). Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <source>This computer cannot make secure connections. Install the OpenSSL library.</source>
         <translation>Ten komputer nie może nawiązywać bezpiecznych połączeń. Zainstaluj bibliotekę OpenSSL.</translation>
     </message>
     <message>
-        <source>The update server closed the connection before it answered: try again later.</source>
+        <source>The update server closed the connection before it responded. Try again later.</source>
         <translation>Serwer aktualizacji zamknął połączenie, zanim odpowiedział. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update feed arrived incomplete: try again.</source>
+        <source>The update feed is incomplete. Try again.</source>
         <translation>Kanał aktualizacji dotarł niekompletny. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <source>The update server&apos;s response has too many headers. Contact the publisher.</source>
         <translation>Odpowiedź serwera aktualizacji ma zbyt wiele nagłówków. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed is too large: tell the publisher.</source>
+        <source>The update feed is too large. Contact the publisher.</source>
         <translation>Kanał aktualizacji jest zbyt duży. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <source>The update server&apos;s response is not valid HTTP. Try another network.</source>
         <translation>Odpowiedź serwera aktualizacji nie jest prawidłowym HTTP. Spróbuj w innej sieci.</translation>
     </message>
     <message>
-        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the feed. Contact the publisher.</source>
         <translation>Serwer aktualizacji podaje sprzeczne długości kanału. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server sent more than it announced: tell the publisher.</source>
+        <source>The update server sent more data than it announced. Contact the publisher.</source>
         <translation>Serwer aktualizacji przysłał więcej, niż zapowiedział. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is broken in its parts: try again.</source>
-        <translation>Odpowiedź serwera aktualizacji jest uszkodzona. Spróbuj ponownie.</translation>
+        <source>The update server sent an invalid response. Try again later.</source>
+        <translation>Serwer aktualizacji wysłał nieprawidłową odpowiedź. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the feed in an unexpected way. Contact the publisher.</source>
         <translation>Serwer aktualizacji przesyła kanał w sposób, o który nie proszono. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the feed compressed, which is not supported. Contact the publisher.</source>
         <translation>Serwer aktualizacji przysłał skompresowany kanał, o co nie proszono. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server answered with status %1: try again later.</source>
+        <source>The update server responded with status %1. Try again later.</source>
         <translation>Serwer aktualizacji odpowiedział kodem stanu %1. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <source>The update server redirects to a less secure address. Contact the publisher.</source>
         <translation>Serwer aktualizacji kieruje pod mniej bezpieczny adres. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <source>The update server redirects to a kind of address that is not allowed. Contact the publisher.</source>
         <translation>Serwer aktualizacji kieruje pod adres niedozwolonego rodzaju. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <source>The update server redirects to something that is not an address. Contact the publisher.</source>
         <translation>Serwer aktualizacji kieruje do czegoś, co nie jest adresem. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <source>The update server redirects without giving an address. Contact the publisher.</source>
         <translation>Serwer aktualizacji kieruje pod inny adres, ale go nie podaje. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server points from address to address without end: tell the publisher.</source>
+        <source>The update server redirects from address to address without end. Contact the publisher.</source>
         <translation>Serwer aktualizacji bez końca kieruje z adresu na adres. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The file with the update feed does not exist: check its address.</source>
+        <source>The file with the update feed does not exist. Check its address.</source>
         <translation>Plik z kanałem aktualizacji nie istnieje. Sprawdź jego adres.</translation>
     </message>
     <message>
-        <source>The address of the update feed names a folder or a device: it must name a file.</source>
+        <source>The address of the update feed is a folder or a device. It must be a file.</source>
         <translation>Adres kanału aktualizacji wskazuje folder lub urządzenie. Musi wskazywać plik.</translation>
     </message>
     <message>
-        <source>The file with the update feed is too large: check its address.</source>
+        <source>The file with the update feed is too large. Check its address.</source>
         <translation>Plik z kanałem aktualizacji jest zbyt duży. Sprawdź jego adres.</translation>
     </message>
     <message>
-        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <source>The file with the update feed cannot be read. Check its permissions.</source>
         <translation>Nie można odczytać pliku z kanałem aktualizacji. Sprawdź jego uprawnienia.</translation>
     </message>
     <message>
-        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <source>The update feed is a file on another computer. Copy it to this computer.</source>
         <translation>Kanał aktualizacji jest plikiem na innym komputerze. Skopiuj go na ten komputer.</translation>
     </message>
     <message>
-        <source>The update feed cannot be read: tell the publisher.</source>
+        <source>The update feed cannot be read. Contact the publisher.</source>
         <translation>Nie można odczytać kanału aktualizacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <source>A web page arrived instead of the update feed. If this network asks you to sign in, sign in and try again.</source>
         <translation>Zamiast kanału aktualizacji nadeszła strona internetowa. Zaloguj się do tej sieci, jeśli tego wymaga, i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application again.</source>
+        <source>The application chose an update that is not in the feed. Reinstall the application.</source>
         <translation>Aplikacja wybrała aktualizację, której nie ma w kanale. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <source>The application failed while it checked the updates. Restart it and try again.</source>
         <translation>Aplikacja zawiodła podczas przeglądania aktualizacji. Uruchom ją ponownie i spróbuj jeszcze raz.</translation>
     </message>
     <message>
-        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <source>The length of the update in the feed is not valid. Contact the publisher.</source>
         <translation>Kanał podaje niemożliwą długość aktualizacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <source>The update on the server does not have the length stated in the feed. Try again later, or contact the publisher.</source>
         <translation>Aktualizacja na serwerze nie ma długości podanej w kanale. Spróbuj ponownie później, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <source>The update server sent the wrong part of the update. Try again later.</source>
         <translation>Serwer aktualizacji przysłał inną część aktualizacji, niż proszono. Spróbuj ponownie później.</translation>
     </message>
     <message>
@@ -250,131 +250,131 @@
         <translation>Aktualizacja nie została jeszcze w całości pobrana. Następne sprawdzenie będzie kontynuować pobieranie.</translation>
     </message>
     <message>
-        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <source>Another copy of the application is downloading this update. Wait until it has finished.</source>
         <translation>Inna kopia aplikacji pobiera tę aktualizację. Poczekaj, aż skończy.</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <source>The folder for downloaded updates cannot be used. Check its permissions and its disk.</source>
         <translation>Nie można użyć folderu pobranych aktualizacji. Sprawdź jego uprawnienia i dysk.</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <source>The folder for downloaded updates does not belong to you alone. Remove it and try again.</source>
         <translation>Folder pobranych aktualizacji nie należy tylko do Ciebie. Usuń go i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <source>The download needs %1 more disk space, but only %2 are free. Free some space and try again.</source>
         <translation>Aktualizacja potrzebuje jeszcze %1 na dysku, na którym jest wolne %2. Zwolnij miejsce i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
-        <translation>Aktualizacja potrzebuje o %1 więcej, niż pozwala Twój limit na dysku, na którym jest wolne %2. Usuń swoje pliki i spróbuj ponownie.</translation>
+        <source>Your disk quota is too small for the update, which needs %1. Remove some of your files and try again.</source>
+        <translation>Twój limit na dysku nie wystarcza na aktualizację, która potrzebuje %1. Usuń część swoich plików i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
-        <translation>Aktualizacja jest plikiem zbyt dużym dla dysku pobranych aktualizacji. Poproś o pomoc.</translation>
+        <source>The disk for downloaded updates cannot hold a file as large as this update. Ask the administrator of this computer.</source>
+        <translation>Aktualizacja jest plikiem zbyt dużym dla dysku pobranych aktualizacji. Zapytaj osobę, która zarządza tym komputerem.</translation>
     </message>
     <message>
-        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <source>The disk failed while the update was saved. Check the disk and try again.</source>
         <translation>Dysk zawiódł podczas zapisywania aktualizacji. Sprawdź dysk i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <source>The computer has too little memory or too many open files. Close other applications and try again.</source>
         <translation>Komputer ma za mało pamięci lub zbyt wiele otwartych plików, aby pobierać. Zamknij inne aplikacje i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <source>The application&apos;s folder was not found, so it cannot be updated. Start it from where it is installed.</source>
         <translation>Nie znaleziono folderu aplikacji, więc nie można jej zaktualizować. Uruchom ją z miejsca, w którym jest zainstalowana.</translation>
     </message>
     <message>
-        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <source>The application was started through a link, so it cannot be updated. Start it from the folder that the link points to.</source>
         <translation>Aplikację uruchomiono przez dowiązanie, więc nie można jej zaktualizować. Uruchom ją z folderu, na który wskazuje dowiązanie.</translation>
     </message>
     <message>
-        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <source>The application was installed by %1, which also updates it. Use the command &quot;%2&quot;.</source>
         <translation>Aplikację zainstalował %1, który też ją aktualizuje. Użyj polecenia „%2”.</translation>
     </message>
     <message>
-        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <source>The application runs from an image file. Replace the file %1 with the file of the new version.</source>
         <translation>Aplikacja działa z pliku obrazu. Zastąp plik %1 plikiem nowej wersji.</translation>
     </message>
     <message>
-        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <source>The application is on a disk that cannot be written. Copy it to another folder and start it there.</source>
         <translation>Aplikacja znajduje się na dysku, na którym nie można zapisywać. Skopiuj ją do innego folderu i tam uruchom.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
         <translation>Folder aplikacji jest osobnym dyskiem, więc nie można go zastąpić. Skopiuj go do innego folderu i tam uruchom aplikację.</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>
         <translation>Aplikacja jest chroniona przed wszelkimi zmianami. Poproś osobę, która ją chroni, o usunięcie atrybutu pliku „immutable” lub „append only”.</translation>
     </message>
     <message>
-        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <source>The application belongs to another user of this computer. Ask them or the administrator to update it.</source>
         <translation>Aplikacja należy do innego użytkownika tego komputera. Poproś tę osobę lub administratora o jej zaktualizowanie.</translation>
     </message>
     <message>
-        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <source>You may not change the application&apos;s folder. Ask the administrator to update the application.</source>
         <translation>Nie masz prawa zmieniać folderu aplikacji. Poproś administratora o jej zaktualizowanie.</translation>
     </message>
     <message>
-        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <source>Other users of this computer can change the application&apos;s folder, so it is not updated there. Ask the administrator to correct its permissions.</source>
         <translation>Inni użytkownicy tego komputera mogliby zmienić folder aplikacji, więc nie jest tam aktualizowana. Poproś administratora o poprawienie uprawnień.</translation>
     </message>
     <message>
-        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
-        <translation>Nie ma miejsca na aktualizację. Potrzeba %1, a wolne jest %2. Zwolnij miejsce i spróbuj ponownie.</translation>
+        <source>The update needs %1 of disk space, but only %2 are free. Free some space and try again.</source>
+        <translation>Aktualizacja potrzebuje %1 miejsca, a wolne jest tylko %2. Zwolnij miejsce i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
+        <source>Updates of this application are turned off. Ask the administrator of this computer.</source>
         <translation>Aktualizacje tej aplikacji są wyłączone. Zapytaj osobę, która zarządza tym komputerem.</translation>
     </message>
     <message>
-        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <source>The last checks for updates failed, so the next one waits. Check for updates yourself to try now.</source>
         <translation>Ostatnie sprawdzania aktualizacji nie powiodły się, więc następne czeka. Sprawdź ręcznie, aby spróbować od razu.</translation>
     </message>
     <message>
-        <source>The update was cancelled: check for updates to begin again.</source>
+        <source>The update was cancelled. Check for updates to start again.</source>
         <translation>Aktualizacja została anulowana. Sprawdź aktualizacje, aby zacząć od nowa.</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
+        <source>This application does not state its identifier and version, so it cannot be updated. Reinstall it from its publisher.</source>
         <translation>Ta aplikacja nie podaje swojego identyfikatora i wersji, więc nie można do niej dopasować żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly. Try again, or reinstall the application.</source>
         <translation>Program instalujący aktualizacje nieoczekiwanie zakończył działanie. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The check for updates failed: try again later.</source>
+        <source>The check for updates failed. Try again later.</source>
         <translation>Sprawdzanie aktualizacji nie powiodło się. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The download address in the feed is not valid: tell the publisher.</source>
+        <source>The download address in the feed is not valid. Contact the publisher.</source>
         <translation>Kanał podaje adres aktualizacji, który nie jest adresem. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <source>This kind of download address is not allowed. Contact the publisher.</source>
         <translation>Adres aktualizacji jest niedozwolonego rodzaju, innego niż https. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <source>The download address is not secure because it does not begin with https. Contact the publisher.</source>
         <translation>Adres aktualizacji nie jest bezpieczny, ponieważ nie zaczyna się od https. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <source>The connection broke during the download. Try again to continue the download.</source>
         <translation>Połączenie zostało przerwane podczas pobierania aktualizacji. Spróbuj ponownie, a pobieranie będzie kontynuowane.</translation>
     </message>
     <message>
-        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the update. Contact the publisher.</source>
         <translation>Serwer aktualizacji podaje sprzeczne długości aktualizacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the update in an unexpected way. Contact the publisher.</source>
         <translation>Serwer aktualizacji przesyła aktualizację w sposób, o który nie proszono. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the update compressed, which is not supported. Contact the publisher.</source>
         <translation>Serwer aktualizacji przysłał skompresowaną aktualizację, o co nie proszono. Powiadom wydawcę.</translation>
     </message>
     <message>
@@ -382,7 +382,7 @@
         <translation>Wiersz %1 kanału nie jest poprawnie sformułowanym XML.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <source>Line %1 of the feed has a document type declaration, which is not allowed.</source>
         <translation>Wiersz %1 kanału ma deklarację typu dokumentu, której kanał mieć nie może.</translation>
     </message>
     <message>
@@ -398,7 +398,7 @@
         <translation>Wiersz %1 kanału ma znacznik dłuższy niż %2 bajtów.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <source>Line %1 of the feed exceeds the limit of %2 elements and attributes.</source>
         <translation>Wiersz %1 kanału przekracza liczbę %2 elementów i atrybutów, które kanał może mieć.</translation>
     </message>
     <message>
@@ -410,7 +410,7 @@
         <translation>Wiersz %1 kanału deklaruje więcej przestrzeni nazw niż %2.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>W wierszu %1 kanału zaczyna się strona internetowa, a oczekiwano kanału.</translation>
     </message>
     <message>
@@ -418,395 +418,395 @@
         <translation>Wiersz %1 kanału zawiera nieznany błąd.</translation>
     </message>
     <message>
-        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>
         <translation>Aplikację zainstalował menedżer pakietów systemu, który też ją aktualizuje. Użyj polecenia „%1”.</translation>
     </message>
     <message>
-        <source>The update could not be installed: try again later.</source>
+        <source>The update could not be installed. Try again later.</source>
         <translation>Nie udało się zainstalować aktualizacji. Spróbuj ponownie później.</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
+        <source>The program that installs updates did not understand its task. Reinstall the application.</source>
         <translation>Program instalujący aktualizacje nie zrozumiał, o co go poproszono. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <source>The program that installs updates could not use the files that it received. Try again.</source>
         <translation>Program instalujący aktualizacje nie mógł użyć otrzymanych plików. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
+        <source>The program that installs updates is missing, or other users can change it. Reinstall the application.</source>
         <translation>Brakuje programu instalującego aktualizacje lub mógłby go zmienić ktoś inny. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <source>The update could not be unpacked in a confined process. Tell the publisher which system this is.</source>
         <translation>Nie udało się rozpakować aktualizacji w odizolowanym procesie, jak to konieczne. Poinformuj wydawcę, jaki to system.</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>This application has no public key (SUPublicEDKey), so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>Ta aplikacja nie ma klucza publicznego SUPublicEDKey, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>The public key of this application (SUPublicEDKey) is damaged, so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>Klucz publiczny SUPublicEDKey tej aplikacji jest uszkodzony, więc nie można potwierdzić autentyczności żadnej aktualizacji. Zainstaluj ją ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not signed. Contact the publisher.</source>
         <translation>Aktualizacja nie jest podpisana i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
-        <translation>Podpis aktualizacji nie jest podpisem, a aktualizacja została odrzucona. Powiadom wydawcę.</translation>
+        <source>The update was refused because its signature is not valid. Contact the publisher.</source>
+        <translation>Aktualizacja została odrzucona, ponieważ jej podpis jest nieprawidłowy. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update was refused because it is damaged or not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Aktualizacja nie została podpisana przez wydawcę tej aplikacji lub uszkodziła się po drodze i została odrzucona. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
+        <source>Signatures cannot be verified on this computer. Reinstall libsodium.</source>
         <translation>Na tym komputerze nie można weryfikować podpisów. Zainstaluj ponownie bibliotekę libsodium.</translation>
     </message>
     <message>
-        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is empty. Try again, or contact the publisher.</source>
         <translation>Pobrana aktualizacja jest pusta. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <source>The downloaded update cannot be read from the disk. Check the disk and try again.</source>
         <translation>Nie można odczytać pobranej aktualizacji z dysku. Sprawdź dysk i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is longer or shorter than the feed says. Try again, or contact the publisher.</source>
         <translation>Pobrana aktualizacja jest dłuższa lub krótsza, niż podaje kanał. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <source>Another program changed the downloaded update while it was being verified. Close that program and try again.</source>
         <translation>Inny program zmienił pobraną aktualizację podczas jej weryfikowania. Zamknij go i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update has an unknown format. Contact the publisher.</source>
         <translation>Aktualizacja jest spakowana w nieznany sposób. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The archive of the update is damaged: tell the publisher.</source>
+        <source>The archive of the update is damaged. Contact the publisher.</source>
         <translation>Archiwum aktualizacji jest uszkodzone. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive can be read in more than one way. Contact the publisher.</source>
         <translation>Archiwum aktualizacji można odczytać na więcej niż jeden sposób i zostało odrzucone. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive is encrypted. Contact the publisher.</source>
         <translation>Archiwum aktualizacji jest zaszyfrowane i zostało odrzucone. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update uses an unknown compression. Contact the publisher.</source>
         <translation>Archiwum aktualizacji jest skompresowane w nieznany sposób. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a file with a name that is not allowed. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik o niedozwolonej nazwie. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <source>The update contains a file with a name that is too long. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik o zbyt długiej nazwie. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file outside the application. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik, który znalazłby się poza aplikacją, i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The folders of the update are too deep: tell the publisher.</source>
+        <source>The folders of the update are nested too deeply. Contact the publisher.</source>
         <translation>Foldery aktualizacji są zbyt głęboko zagnieżdżone. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains more than files, folders and links. Contact the publisher.</source>
         <translation>Aktualizacja zawiera coś, co nie jest plikiem, folderem ani dowiązaniem, i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a hard link. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dowiązanie twarde i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file with holes. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik z dziurami i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file without a size. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik bez rozmiaru i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains the same file twice. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dwa razy ten sam plik i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains file names that differ only in case or accents. Contact the publisher.</source>
         <translation>Aktualizacja zawiera pliki, których nazwy różnią się tylko wielkością liter lub akcentami, i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file inside something that is not a folder. Contact the publisher.</source>
         <translation>Aktualizacja zawiera plik pod czymś, co nie jest folderem, i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a link to a name that is not allowed. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dowiązanie do niedozwolonej nazwy. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a link that leads outside the application. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dowiązanie prowadzące poza aplikację i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <source>The update contains a link that leads nowhere. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dowiązanie prowadzące donikąd. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <source>The update contains a link that leads back to itself. Contact the publisher.</source>
         <translation>Aktualizacja zawiera dowiązanie prowadzące z powrotem do siebie. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has too many files: tell the publisher.</source>
+        <source>The update contains too many files. Contact the publisher.</source>
         <translation>Aktualizacja zawiera zbyt wiele plików. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update has too many links: tell the publisher.</source>
+        <source>The update contains too many links. Contact the publisher.</source>
         <translation>Aktualizacja zawiera zbyt wiele dowiązań. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <source>The update is too large when it is unpacked. Contact the publisher.</source>
         <translation>Aktualizacja jest po rozpakowaniu zbyt duża. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
+        <source>The installed application was changed, so the small update does not fit it. Reinstall the application.</source>
         <translation>Zainstalowana aplikacja została zmieniona, więc mała aktualizacja do niej nie pasuje. Zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
-        <translation>Mała aktualizacja nie zrobiła z aplikacji tego, co powinna. Powiadom wydawcę.</translation>
+        <source>The small update produced a wrong result. Contact the publisher.</source>
+        <translation>Mała aktualizacja dała nieprawidłowy wynik. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update holds no application: tell the publisher.</source>
+        <source>The update contains no application. Contact the publisher.</source>
         <translation>Aktualizacja nie zawiera aplikacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update holds more than one application: tell the publisher.</source>
+        <source>The update contains more than one application. Contact the publisher.</source>
         <translation>Aktualizacja zawiera więcej niż jedną aplikację. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The application in the update is not a folder: tell the publisher.</source>
+        <source>The application in the update is not a folder. Contact the publisher.</source>
         <translation>Aplikacja w aktualizacji nie jest folderem. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The application in the update does not describe itself: tell the publisher.</source>
-        <translation>Aplikacja w aktualizacji nie zawiera swojego opisu. Powiadom wydawcę.</translation>
+        <source>The application in the update has no information file. Contact the publisher.</source>
+        <translation>Aplikacja w aktualizacji nie ma pliku informacyjnego. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The description of the application in the update is too large: tell the publisher.</source>
-        <translation>Opis aplikacji w aktualizacji jest zbyt duży. Powiadom wydawcę.</translation>
+        <source>The information file of the application in the update is too large. Contact the publisher.</source>
+        <translation>Plik informacyjny aplikacji w aktualizacji jest zbyt duży. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The description of the application in the update cannot be read: tell the publisher.</source>
-        <translation>Nie można odczytać opisu aplikacji w aktualizacji. Powiadom wydawcę.</translation>
+        <source>The information file of the application in the update cannot be read. Contact the publisher.</source>
+        <translation>Nie można odczytać pliku informacyjnego aplikacji w aktualizacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <source>The update names a program outside its folder. Contact the publisher.</source>
         <translation>Aktualizacja wskazuje program spoza swojego folderu. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it belongs to another application. Contact the publisher.</source>
         <translation>Aktualizacja dotyczy innej aplikacji i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <source>The update was refused because its version is not the one in the feed. Contact the publisher.</source>
         <translation>Aktualizacja jest w innej wersji, niż podaje kanał, i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not newer than the installed application. Contact the publisher.</source>
         <translation>Aktualizacja nie jest nowsza niż zainstalowana aplikacja i została odrzucona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <source>The application in the update has no public key, so it could never be updated again. Contact the publisher.</source>
         <translation>Aplikacja w aktualizacji nie ma klucza publicznego, więc już nigdy nie można by jej zaktualizować. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <source>The contents of the update do not match its file name. Contact the publisher.</source>
         <translation>Zawartość aktualizacji nie zgadza się z nazwą jej pliku. Skontaktuj się z wydawcą.</translation>
     </message>
     <message>
-        <source>The application in the update has no program to start: tell the publisher.</source>
+        <source>The application in the update has no program to start. Contact the publisher.</source>
         <translation>Aplikacja w aktualizacji nie ma programu do uruchomienia. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The program in the update may not be started: tell the publisher.</source>
+        <source>The program in the update may not be started. Contact the publisher.</source>
         <translation>Programu w aktualizacji nie wolno uruchomić. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <source>The program in the update is for another kind of computer. Contact the publisher.</source>
         <translation>Program w aktualizacji jest przeznaczony dla innego rodzaju komputera. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <source>The update is a program of its own, which this application does not allow. Contact the publisher.</source>
         <translation>Aktualizacja jest osobnym programem, na co ta aplikacja nie pozwala. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not start. Try again, or contact the publisher.</source>
         <translation>Program dołączony do aktualizacji nie uruchomił się. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not install it. Try again, or contact the publisher.</source>
         <translation>Program dołączony do aktualizacji nie zainstalował jej. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <source>The program that comes with the update took too long and was stopped. Try again.</source>
         <translation>Program dołączony do aktualizacji działał zbyt długo i został zakończony. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <source>There is not enough space on the disk for the update. Free some space and try again.</source>
         <translation>Na dysku nie ma dość miejsca na aktualizację. Zwolnij trochę i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
+        <source>You may not change the folder that holds the application. Ask the person who installed the application.</source>
         <translation>Ten użytkownik nie może zmieniać folderu, w którym jest aplikacja. Zapytaj osobę, która ją zainstalowała.</translation>
     </message>
     <message>
-        <source>The disk reported an error: check it and try again.</source>
+        <source>The disk reported an error. Check the disk and try again.</source>
         <translation>Dysk zgłosił błąd. Sprawdź go i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <source>The application did not close, so the update was not installed. Save your work, check for updates again and let the application close.</source>
         <translation>Aplikacja nie zamknęła się, więc aktualizacja nie została zainstalowana. Zapisz swoją pracę, sprawdź aktualizacje ponownie i pozwól aplikacji się zamknąć.</translation>
     </message>
     <message>
-        <source>Another update of this application is being installed: wait for its end.</source>
+        <source>Another update of this application is being installed. Wait until it has finished.</source>
         <translation>Trwa instalowanie innej aktualizacji tej aplikacji. Poczekaj na jego koniec.</translation>
     </message>
     <message>
-        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <source>The application is no longer where it was when the update began. Start it from its place and try again.</source>
         <translation>Zainstalowanej aplikacji nie ma tam, gdzie była na początku aktualizacji. Uruchom ją z jej miejsca i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <source>The application was changed while the update was being prepared. Restart it and try again.</source>
         <translation>Zainstalowana aplikacja została zmieniona podczas przygotowywania aktualizacji. Uruchom ją ponownie i spróbuj jeszcze raz.</translation>
     </message>
     <message>
-        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <source>The prepared update was changed before it was installed, so it was discarded. Try again.</source>
         <translation>Przygotowana aktualizacja została zmieniona przed instalacją i ją odrzucono. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
+        <source>The prepared update and the application are on different disks. Try again, or reinstall the application.</source>
         <translation>Przygotowana aktualizacja i aplikacja są na różnych dyskach. Spróbuj ponownie, a jeśli problem nie zniknie, zainstaluj aplikację ponownie.</translation>
     </message>
     <message>
-        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <source>The new version could not replace the old one, which is unchanged. Try again.</source>
         <translation>Nowej wersji nie udało się umieścić w miejscu starej, która pozostała bez zmian. Spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <source>The disk did not confirm that the update is saved. Check the disk and try again.</source>
         <translation>Dysk nie potwierdził, że zawiera aktualizację. Sprawdź go i spróbuj ponownie.</translation>
     </message>
     <message>
-        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <source>The application that should start after the update may not be started. Start it yourself.</source>
         <translation>Aplikacji, która ma się uruchomić po aktualizacji, nie wolno uruchomić. Uruchom ją ręcznie.</translation>
     </message>
     <message>
-        <source>The updated application did not start: start it by hand.</source>
+        <source>The updated application did not start. Start it yourself.</source>
         <translation>Zaktualizowana aplikacja nie uruchomiła się. Uruchom ją ręcznie.</translation>
     </message>
     <message>
-        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;. Start it outside the container to update it.</source>
         <translation>Aplikacja działa w kontenerze, który ukrywa właściciela folderu „%1”. Uruchom ją poza kontenerem, aby ją zaktualizować.</translation>
     </message>
     <message>
-        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>Aktualizacja nie może zachować uprawnień do otwierania aplikacji i nie została zainstalowana. Poproś osobę, która zainstalowała aplikację, o jej aktualizację.</translation>
     </message>
     <message>
-        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <source>The new version did not start, so the previous one was restored. Contact the publisher.</source>
         <translation>Nowa wersja nie uruchomiła się i przywrócono poprzednią. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The installation of the update was interrupted: check for updates again.</source>
+        <source>The installation of the update was interrupted. Check for updates again.</source>
         <translation>Instalacja aktualizacji została przerwana. Sprawdź ponownie dostępność aktualizacji.</translation>
     </message>
     <message>
-        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
-        <translation>W miejscu instalacji aplikacji nie można blokować plików: przenieś ją do folderu na dysku lokalnym.</translation>
+        <source>Files cannot be locked where the application is installed. Move it to a folder on a local disk.</source>
+        <translation>W miejscu instalacji aplikacji nie można blokować plików. Przenieś ją do folderu na dysku lokalnym.</translation>
     </message>
     <message>
-        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
-        <translation>Dysk, na którym znajduje się aplikacja, nie przechowuje uprawnień plików: przenieś aplikację na inny dysk.</translation>
+        <source>The disk that holds the application does not store file permissions. Move the application to another disk.</source>
+        <translation>Dysk, na którym znajduje się aplikacja, nie przechowuje uprawnień plików. Przenieś aplikację na inny dysk.</translation>
     </message>
     <message>
-        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
-        <translation>Inni użytkownicy mogą zmieniać folder, w którym znajduje się aplikacja: przenieś aplikację do własnego folderu.</translation>
+        <source>Other users can change the folder that holds the application. Move the application to a folder of your own.</source>
+        <translation>Inni użytkownicy mogą zmieniać folder, w którym znajduje się aplikacja. Przenieś aplikację do własnego folderu.</translation>
     </message>
     <message>
-        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>Ten system nie udostępnia pidfd_open, którego wymagają aktualizacje: zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
+        <source>This system does not provide pidfd_open, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ten system nie udostępnia pidfd_open, którego wymagają aktualizacje. Zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
     </message>
     <message>
-        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>Ten system nie udostępnia memfd_create, którego wymagają aktualizacje: zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
+        <source>This system does not provide memfd_create, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>Ten system nie udostępnia memfd_create, którego wymagają aktualizacje. Zainstaluj nowsze jądro lub zezwól na to wywołanie w kontenerze lub piaskownicy.</translation>
     </message>
     <message>
-        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
-        <translation>Każdy użytkownik tego komputera może zapisywać w folderze %1, w którym znajduje się aplikacja: przenieś aplikację do własnego folderu i uruchom ją stamtąd.</translation>
+        <source>All users of this computer can write to the folder %1, which holds the application. Move the application to a folder of your own and start it there.</source>
+        <translation>Każdy użytkownik tego komputera może zapisywać w folderze %1, w którym znajduje się aplikacja. Przenieś aplikację do własnego folderu i uruchom ją stamtąd.</translation>
     </message>
     <message>
-        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
-        <translation>Członkowie grupy „%1” mogą zmieniać folder aplikacji: użyj polecenia „%2”.</translation>
+        <source>The members of the group &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>Członkowie grupy „%1” mogą zmieniać folder aplikacji. Użyj polecenia „%2”.</translation>
     </message>
     <message>
-        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
-        <translation>Aplikacja jest zainstalowana w %1, gdzie nie można blokować plików: przenieś ją do folderu na dysku lokalnym i uruchom stamtąd.</translation>
+        <source>The application is installed in %1, where files cannot be locked. Move it to a folder on a local disk and start it there.</source>
+        <translation>Aplikacja jest zainstalowana w %1, gdzie nie można blokować plików. Przenieś ją do folderu na dysku lokalnym i uruchom stamtąd.</translation>
     </message>
     <message>
-        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
-        <translation>Aplikacja w %1 należy do warstwy systemu plików, której nie można zastąpić: skopiuj ją do innego folderu i uruchom stamtąd.</translation>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced. Copy it to another folder and start it there.</source>
+        <translation>Aplikacja w %1 należy do warstwy systemu plików, której nie można zastąpić. Skopiuj ją do innego folderu i uruchom stamtąd.</translation>
     </message>
     <message>
-        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is not signed, but this application requires a signature. Try another network, or contact the publisher.</source>
         <translation>Kanał aktualizacji nie jest podpisany, czego wymaga ta aplikacja. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was refused because it continues after its signature. Try another network, or contact the publisher.</source>
         <translation>Kanał aktualizacji ma dalszy ciąg za swoim podpisem i został odrzucony. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <source>The update feed was refused because it has more than one signature. Contact the publisher.</source>
         <translation>Kanał aktualizacji ma więcej niż jeden podpis i został odrzucony. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <source>Something was added to the update feed after its signature. Try another network, or contact the publisher.</source>
         <translation>Do kanału aktualizacji dodano coś po jego podpisaniu. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <source>The line endings of the update feed were changed, so its signature does not match. Contact the publisher.</source>
         <translation>Końce wierszy kanału aktualizacji zostały zmienione, więc jego podpis się nie zgadza. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know. Reinstall the application from its publisher.</source>
         <translation>Kanał aktualizacji jest podpisany w sposób, którego ta wersja nie zna. Zainstaluj aplikację ponownie ze strony wydawcy.</translation>
     </message>
     <message>
-        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <source>The signature of the update feed is damaged. Try again, or contact the publisher.</source>
         <translation>Podpis kanału aktualizacji jest uszkodzony. Spróbuj ponownie, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was changed or is not signed by this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Kanał aktualizacji nie został podpisany przez wydawcę tej aplikacji lub został później zmieniony. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <source>The update feed has no usable serial number. Contact the publisher.</source>
         <translation>Kanał aktualizacji nie ma użytecznego numeru seryjnego. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <source>The update feed does not state how long it is valid. Contact the publisher.</source>
         <translation>Kanał aktualizacji nie podaje, jak długo jest ważny. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>Kanał aktualizacji jest starszy niż wcześniej otrzymany. Spróbuj w innej sieci, a jeśli problem nie zniknie, powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Kanał aktualizacji stracił ważność. Sprawdź zegar tego komputera, a jeśli jest dobrze ustawiony, powiadom wydawcę.</translation>
     </message>
     <message>
@@ -818,35 +818,35 @@
         <translation>Serwer proxy odmawia połączenia z serwerem aktualizacji. Zwróć się do administratora sieci.</translation>
     </message>
     <message>
-        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <source>The network proxy does not accept your user name and password. Check the proxy settings.</source>
         <translation>Serwer proxy nie przyjmuje Twojej nazwy użytkownika i hasła. Sprawdź ustawienia serwera proxy.</translation>
     </message>
     <message>
-        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <source>The update feed does not say which keys are valid. Try another network, or contact the publisher.</source>
         <translation>Kanał aktualizacji nie podaje, które klucze są ważne. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is damaged. Contact the publisher.</source>
         <translation>Lista ważnych kluczy w kanale aktualizacji jest uszkodzona. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>Lista ważnych kluczy w kanale aktualizacji nie pochodzi od wydawcy tej aplikacji. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is for another application. Contact the publisher.</source>
         <translation>Lista ważnych kluczy w kanale aktualizacji dotyczy innej aplikacji. Powiadom wydawcę.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>Lista ważnych kluczy w kanale aktualizacji jest starsza niż poprzednia. Spróbuj w innej sieci i powiadom wydawcę, jeśli to nie pomoże.</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The list of valid keys in the update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>Lista ważnych kluczy w kanale aktualizacji wygasła. Sprawdź zegar tego komputera i powiadom wydawcę, jeśli jest ustawiony prawidłowo.</translation>
     </message>
     <message>
-        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>Klucz główny tej aplikacji jest uszkodzony. Zainstaluj aplikację ponownie od jej wydawcy.</translation>
     </message>
 </context>

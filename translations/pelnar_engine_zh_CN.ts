@@ -42,195 +42,195 @@
         <translation>您使用的已是最新版本。</translation>
     </message>
     <message>
-        <source>This application does not say where its updates are published: install it again from its publisher.</source>
+        <source>This application has no address for its updates. Reinstall it from its publisher.</source>
         <translation>此应用程序未指明更新的发布位置。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The address of the update feed is not a valid address: install the application again.</source>
+        <source>The address of the update feed is not valid. Reinstall the application.</source>
         <translation>更新源的地址无效。请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The address of the update feed is of a kind that is not allowed: it must begin with https.</source>
-        <translation>更新源的地址类型不受允许：必须以 https 开头。</translation>
+        <source>This kind of address is not allowed for the update feed. It must begin with https.</source>
+        <translation>更新源的地址类型不受允许。必须以 https 开头。</translation>
     </message>
     <message>
-        <source>The address of the update feed is not secure: it must begin with https.</source>
-        <translation>更新源的地址不安全：必须以 https 开头。</translation>
+        <source>The address of the update feed is not secure. It must begin with https.</source>
+        <translation>更新源的地址不安全。必须以 https 开头。</translation>
     </message>
     <message>
-        <source>The update server was not found: check the connection to the internet and try again.</source>
+        <source>The update server was not found. Check your internet connection and try again.</source>
         <translation>找不到更新服务器。请检查互联网连接，然后重试。</translation>
     </message>
     <message>
-        <source>The update server refused the connection: try again later.</source>
+        <source>The update server refused the connection. Try again later.</source>
         <translation>更新服务器拒绝了连接。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update server cannot be reached from this network: check the connection and try again.</source>
+        <source>The update server cannot be reached from this network. Check the connection and try again.</source>
         <translation>无法从此网络访问更新服务器。请检查连接，然后重试。</translation>
     </message>
     <message>
-        <source>The update server did not accept the connection in time: check the connection and try again.</source>
+        <source>The update server did not accept the connection in time. Check the connection and try again.</source>
         <translation>更新服务器未及时接受连接。请检查连接，然后重试。</translation>
     </message>
     <message>
-        <source>The connection to the update server failed: try again later.</source>
+        <source>The connection to the update server failed. Try again later.</source>
         <translation>连接更新服务器失败。请稍后再试。</translation>
     </message>
     <message>
-        <source>The network proxy did not let the connection through: check the proxy&apos;s settings.</source>
+        <source>The network proxy did not let the connection through. Check the proxy settings.</source>
         <translation>网络代理未放行该连接。请检查代理设置。</translation>
     </message>
     <message>
-        <source>The update server took too long to answer: try again later.</source>
+        <source>The update server took too long to respond. Try again later.</source>
         <translation>更新服务器响应时间过长。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update server answers too slowly: try again later.</source>
+        <source>The update server responds too slowly. Try again later.</source>
         <translation>更新服务器响应过慢。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is signed by itself only, so its identity is unproved: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is self-signed and cannot be trusted. Try another network, or contact the publisher.</source>
         <translation>更新服务器的证书仅由其自身签名，身份无法证实。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate comes from an authority that this computer does not know: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate comes from an unknown authority. Try another network, or contact the publisher.</source>
         <translation>更新服务器的证书由此计算机不认识的机构签发。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>更新服务器的证书已过期。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not valid yet: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update server&apos;s certificate is not valid yet. If the clock of this computer is right, contact the publisher.</source>
         <translation>更新服务器的证书尚未生效。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate was made for another server: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is for another server. Try another network, or contact the publisher.</source>
         <translation>更新服务器的证书是为其他服务器签发的。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s certificate is not acceptable: try another network, and tell the publisher if it stays so.</source>
+        <source>The update server&apos;s certificate is not valid. Try another network, or contact the publisher.</source>
         <translation>更新服务器的证书不可接受。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server offers no secure connection that is strong enough: tell the publisher.</source>
-        <translation>更新服务器未提供足够强的加密方式，无法建立安全连接。请告知发布者。</translation>
+        <source>The update server does not support a secure connection (TLS 1.2 or later). Contact the publisher.</source>
+        <translation>更新服务器不支持安全连接（TLS 1.2 或更高版本）。请告知发布者。</translation>
     </message>
     <message>
-        <source>This computer cannot make secure connections: install its OpenSSL library.</source>
+        <source>This computer cannot make secure connections. Install the OpenSSL library.</source>
         <translation>此计算机无法建立安全连接。请安装 OpenSSL 库。</translation>
     </message>
     <message>
-        <source>The update server closed the connection before it answered: try again later.</source>
+        <source>The update server closed the connection before it responded. Try again later.</source>
         <translation>更新服务器在响应之前关闭了连接。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update feed arrived incomplete: try again.</source>
+        <source>The update feed is incomplete. Try again.</source>
         <translation>收到的更新源不完整。请重试。</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer has too many headers: tell the publisher.</source>
+        <source>The update server&apos;s response has too many headers. Contact the publisher.</source>
         <translation>更新服务器响应的标头过多。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed is too large: tell the publisher.</source>
+        <source>The update feed is too large. Contact the publisher.</source>
         <translation>更新源过大。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is not proper HTTP: try another network.</source>
+        <source>The update server&apos;s response is not valid HTTP. Try another network.</source>
         <translation>更新服务器的响应不是正确的 HTTP。请换一个网络再试。</translation>
     </message>
     <message>
-        <source>The update server states the feed&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the feed. Contact the publisher.</source>
         <translation>更新服务器给出的更新源长度自相矛盾。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server sent more than it announced: tell the publisher.</source>
+        <source>The update server sent more data than it announced. Contact the publisher.</source>
         <translation>更新服务器发送的数据多于其声明的数量。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server&apos;s answer is broken in its parts: try again.</source>
-        <translation>更新服务器的响应已损坏。请重试。</translation>
+        <source>The update server sent an invalid response. Try again later.</source>
+        <translation>更新服务器发送了无效的响应。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update server transfers the feed in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the feed in an unexpected way. Contact the publisher.</source>
         <translation>更新服务器以未请求的方式传输更新源。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server sent the feed compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the feed compressed, which is not supported. Contact the publisher.</source>
         <translation>更新服务器发送了未请求的压缩更新源。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server answered with status %1: try again later.</source>
+        <source>The update server responded with status %1. Try again later.</source>
         <translation>更新服务器返回了状态 %1。请稍后再试。</translation>
     </message>
     <message>
-        <source>The update server points to an address that is less secure: tell the publisher.</source>
+        <source>The update server redirects to a less secure address. Contact the publisher.</source>
         <translation>更新服务器指向一个安全性较低的地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server points to an address of a kind that is not allowed: tell the publisher.</source>
+        <source>The update server redirects to a kind of address that is not allowed. Contact the publisher.</source>
         <translation>更新服务器指向一个类型不受允许的地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server points to something that is not an address: tell the publisher.</source>
+        <source>The update server redirects to something that is not an address. Contact the publisher.</source>
         <translation>更新服务器指向的内容不是地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server points to another address without naming it: tell the publisher.</source>
+        <source>The update server redirects without giving an address. Contact the publisher.</source>
         <translation>更新服务器指向另一个地址，但未给出该地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server points from address to address without end: tell the publisher.</source>
+        <source>The update server redirects from address to address without end. Contact the publisher.</source>
         <translation>更新服务器不断从一个地址指向另一个地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The file with the update feed does not exist: check its address.</source>
+        <source>The file with the update feed does not exist. Check its address.</source>
         <translation>更新源文件不存在。请检查其地址。</translation>
     </message>
     <message>
-        <source>The address of the update feed names a folder or a device: it must name a file.</source>
-        <translation>更新源的地址指向文件夹或设备：必须指向文件。</translation>
+        <source>The address of the update feed is a folder or a device. It must be a file.</source>
+        <translation>更新源的地址指向文件夹或设备。必须指向文件。</translation>
     </message>
     <message>
-        <source>The file with the update feed is too large: check its address.</source>
+        <source>The file with the update feed is too large. Check its address.</source>
         <translation>更新源文件过大。请检查其地址。</translation>
     </message>
     <message>
-        <source>The file with the update feed cannot be read: check its permissions.</source>
+        <source>The file with the update feed cannot be read. Check its permissions.</source>
         <translation>无法读取更新源文件。请检查其权限。</translation>
     </message>
     <message>
-        <source>The update feed is a file of another computer: copy it to this one.</source>
+        <source>The update feed is a file on another computer. Copy it to this computer.</source>
         <translation>更新源是另一台计算机上的文件。请将其复制到此计算机。</translation>
     </message>
     <message>
-        <source>The update feed cannot be read: tell the publisher.</source>
+        <source>The update feed cannot be read. Contact the publisher.</source>
         <translation>无法读取更新源。请告知发布者。</translation>
     </message>
     <message>
-        <source>A web page came in place of the update feed: sign in to this network if it asks for it, and try again.</source>
+        <source>A web page arrived instead of the update feed. If this network asks you to sign in, sign in and try again.</source>
         <translation>收到的是网页，而不是更新源。如果此网络要求登录，请先登录，然后重试。</translation>
     </message>
     <message>
-        <source>The application chose an update that is not in the feed: install the application again.</source>
+        <source>The application chose an update that is not in the feed. Reinstall the application.</source>
         <translation>应用程序选择了更新源中没有的更新。请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The application failed while it looked at the updates: restart it and try again.</source>
+        <source>The application failed while it checked the updates. Restart it and try again.</source>
         <translation>应用程序在查看更新时出错。请重新启动应用程序，然后重试。</translation>
     </message>
     <message>
-        <source>The feed gives a length of the update that cannot be right: tell the publisher.</source>
+        <source>The length of the update in the feed is not valid. Contact the publisher.</source>
         <translation>更新源给出的更新长度不可能正确。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update on the server is not as long as the feed says: try again later, and tell the publisher if it stays so.</source>
+        <source>The update on the server does not have the length stated in the feed. Try again later, or contact the publisher.</source>
         <translation>服务器上更新的长度与更新源所述不符。请稍后再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server sent another part of the update than was asked for: try again later.</source>
+        <source>The update server sent the wrong part of the update. Try again later.</source>
         <translation>更新服务器发送的不是所请求的那部分更新。请稍后再试。</translation>
     </message>
     <message>
@@ -250,131 +250,131 @@
         <translation>更新尚未下载完成。下次检查时将继续下载。</translation>
     </message>
     <message>
-        <source>Another copy of the application is downloading this update: wait until it has finished.</source>
+        <source>Another copy of the application is downloading this update. Wait until it has finished.</source>
         <translation>应用程序的另一个副本正在下载此更新。请等待其完成。</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates cannot be used: check its permissions and its disk.</source>
+        <source>The folder for downloaded updates cannot be used. Check its permissions and its disk.</source>
         <translation>无法使用存放已下载更新的文件夹。请检查其权限和所在磁盘。</translation>
     </message>
     <message>
-        <source>The folder for downloaded updates is not yours alone: remove it, and try again.</source>
+        <source>The folder for downloaded updates does not belong to you alone. Remove it and try again.</source>
         <translation>存放已下载更新的文件夹并非您一人所有。请将其删除，然后重试。</translation>
     </message>
     <message>
-        <source>The update needs %1 more on the disk, where %2 are free: make room and try again.</source>
+        <source>The download needs %1 more disk space, but only %2 are free. Free some space and try again.</source>
         <translation>更新还需要 %1 磁盘空间，目前可用空间为 %2。请释放空间，然后重试。</translation>
     </message>
     <message>
-        <source>The update needs %1 more than your quota on the disk leaves, which has %2 free: remove files of yours and try again.</source>
-        <translation>更新所需空间超出您的磁盘配额 %1，目前可用空间为 %2。请删除您的一些文件，然后重试。</translation>
+        <source>Your disk quota is too small for the update, which needs %1. Remove some of your files and try again.</source>
+        <translation>您的磁盘配额不足，更新需要 %1。请删除您的一些文件，然后重试。</translation>
     </message>
     <message>
-        <source>The update is a larger file than the disk for downloaded updates can hold: ask for help.</source>
-        <translation>更新文件过大，存放已下载更新的磁盘无法容纳。请寻求帮助。</translation>
+        <source>The disk for downloaded updates cannot hold a file as large as this update. Ask the administrator of this computer.</source>
+        <translation>更新文件过大，存放已下载更新的磁盘无法容纳。请咨询此计算机的管理者。</translation>
     </message>
     <message>
-        <source>The disk failed while the update was written to it: check the disk and try again.</source>
+        <source>The disk failed while the update was saved. Check the disk and try again.</source>
         <translation>写入更新时磁盘出现故障。请检查磁盘，然后重试。</translation>
     </message>
     <message>
-        <source>The computer has too little memory or too many open files for the download: close other applications and try again.</source>
+        <source>The computer has too little memory or too many open files. Close other applications and try again.</source>
         <translation>计算机内存不足或打开的文件过多，无法下载。请关闭其他应用程序，然后重试。</translation>
     </message>
     <message>
-        <source>The application&apos;s folder was not found, so it cannot be updated: start it from where it is installed.</source>
+        <source>The application&apos;s folder was not found, so it cannot be updated. Start it from where it is installed.</source>
         <translation>找不到应用程序的文件夹，无法更新。请从安装位置启动应用程序。</translation>
     </message>
     <message>
-        <source>The application was started through a link, so it cannot be updated: start it from the folder that the link points to.</source>
+        <source>The application was started through a link, so it cannot be updated. Start it from the folder that the link points to.</source>
         <translation>应用程序是通过链接启动的，无法更新。请从链接指向的文件夹启动应用程序。</translation>
     </message>
     <message>
-        <source>The application was installed by %1, which updates it too: use the command &quot;%2&quot;.</source>
+        <source>The application was installed by %1, which also updates it. Use the command &quot;%2&quot;.</source>
         <translation>应用程序由 %1 安装，也由其更新。请使用命令“%2”。</translation>
     </message>
     <message>
-        <source>The application runs from an image file: replace the file %1 by the new version&apos;s.</source>
+        <source>The application runs from an image file. Replace the file %1 with the file of the new version.</source>
         <translation>应用程序从映像文件运行。请将文件 %1 替换为新版本的文件。</translation>
     </message>
     <message>
-        <source>The application stands on a disk that cannot be written: copy it to another folder and start it there.</source>
+        <source>The application is on a disk that cannot be written. Copy it to another folder and start it there.</source>
         <translation>应用程序位于无法写入的磁盘上。请将其复制到其他文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced: copy it to another folder and start it there.</source>
+        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
         <translation>应用程序的文件夹是一个独立的磁盘，无法替换。请将其复制到其他文件夹并从那里启动应用程序。</translation>
     </message>
     <message>
-        <source>The application is protected against every change: ask the person who protected it to take the file attribute &quot;immutable&quot; or &quot;append only&quot; away.</source>
+        <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>
         <translation>应用程序受到保护，无法进行任何更改。请让设置保护的人移除文件属性“immutable”或“append only”。</translation>
     </message>
     <message>
-        <source>The application belongs to another user of this computer: ask them, or the administrator, to update it.</source>
+        <source>The application belongs to another user of this computer. Ask them or the administrator to update it.</source>
         <translation>应用程序属于此计算机的其他用户。请让该用户或管理员进行更新。</translation>
     </message>
     <message>
-        <source>You may not change the folder of the application: ask the administrator to update it.</source>
+        <source>You may not change the application&apos;s folder. Ask the administrator to update the application.</source>
         <translation>您无权更改应用程序的文件夹。请让管理员进行更新。</translation>
     </message>
     <message>
-        <source>Other users of this computer could change the application&apos;s folder, so it is not updated there: ask the administrator to set its permissions right.</source>
+        <source>Other users of this computer can change the application&apos;s folder, so it is not updated there. Ask the administrator to correct its permissions.</source>
         <translation>此计算机的其他用户可能更改应用程序的文件夹，因此不在该处更新。请让管理员修正其权限。</translation>
     </message>
     <message>
-        <source>There is no room for the update: it needs %1, and %2 are free. Make room and try again.</source>
-        <translation>没有足够的空间用于更新：需要 %1，可用空间为 %2。请释放空间，然后重试。</translation>
+        <source>The update needs %1 of disk space, but only %2 are free. Free some space and try again.</source>
+        <translation>更新需要 %1 的空间，但可用空间只有 %2。请释放空间，然后重试。</translation>
     </message>
     <message>
-        <source>Updates of this application are switched off: ask the administrator of this computer.</source>
+        <source>Updates of this application are turned off. Ask the administrator of this computer.</source>
         <translation>此应用程序的更新已关闭。请咨询此计算机的管理者。</translation>
     </message>
     <message>
-        <source>The last checks for updates failed, so the next one waits: check by hand to try at once.</source>
+        <source>The last checks for updates failed, so the next one waits. Check for updates yourself to try now.</source>
         <translation>最近几次检查更新失败，因此下一次检查已推迟。如需立即尝试，请手动检查。</translation>
     </message>
     <message>
-        <source>The update was cancelled: check for updates to begin again.</source>
+        <source>The update was cancelled. Check for updates to start again.</source>
         <translation>更新已取消。如需重新开始，请检查更新。</translation>
     </message>
     <message>
-        <source>This application does not say its identifier and version, so that no update can be matched to it: install it again from its publisher.</source>
+        <source>This application does not state its identifier and version, so it cannot be updated. Reinstall it from its publisher.</source>
         <translation>此应用程序未注明其标识符和版本，无法为其匹配更新。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The program that installs updates ended unexpectedly: try again, and install the application again if it stays so.</source>
+        <source>The program that installs updates ended unexpectedly. Try again, or reinstall the application.</source>
         <translation>安装更新的程序意外结束。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The check for updates failed: try again later.</source>
+        <source>The check for updates failed. Try again later.</source>
         <translation>检查更新失败。请稍后再试。</translation>
     </message>
     <message>
-        <source>The download address in the feed is not valid: tell the publisher.</source>
+        <source>The download address in the feed is not valid. Contact the publisher.</source>
         <translation>更新源给出的更新地址不是地址。请告知发布者。</translation>
     </message>
     <message>
-        <source>The address of the update is of a kind that is not allowed, not https: tell the publisher.</source>
+        <source>This kind of download address is not allowed. Contact the publisher.</source>
         <translation>更新的地址类型不受允许，不是 https。请告知发布者。</translation>
     </message>
     <message>
-        <source>The address of the update is not secure, since it does not begin with https: tell the publisher.</source>
+        <source>The download address is not secure because it does not begin with https. Contact the publisher.</source>
         <translation>更新的地址不以 https 开头，不安全。请告知发布者。</translation>
     </message>
     <message>
-        <source>The connection broke while the update was downloaded: try again, it goes on from there.</source>
+        <source>The connection broke during the download. Try again to continue the download.</source>
         <translation>下载更新时连接中断。请重试，下载将从中断处继续。</translation>
     </message>
     <message>
-        <source>The update server states the update&apos;s length in contradictory ways: tell the publisher.</source>
+        <source>The update server states contradictory lengths for the update. Contact the publisher.</source>
         <translation>更新服务器给出的更新长度自相矛盾。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server transfers the update in a way that was not asked for: tell the publisher.</source>
+        <source>The update server transfers the update in an unexpected way. Contact the publisher.</source>
         <translation>更新服务器以未请求的方式传输更新。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update server sent the update compressed, which was not asked for: tell the publisher.</source>
+        <source>The update server sent the update compressed, which is not supported. Contact the publisher.</source>
         <translation>更新服务器发送了未请求的压缩更新。请告知发布者。</translation>
     </message>
     <message>
@@ -382,7 +382,7 @@
         <translation>更新源第 %1 行不是格式正确的 XML。</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has a document type declaration, which a feed may not have.</source>
+        <source>Line %1 of the feed has a document type declaration, which is not allowed.</source>
         <translation>更新源第 %1 行有文档类型声明，更新源中不允许使用。</translation>
     </message>
     <message>
@@ -398,7 +398,7 @@
         <translation>更新源第 %1 行有一个标记超过 %2 字节。</translation>
     </message>
     <message>
-        <source>Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have.</source>
+        <source>Line %1 of the feed exceeds the limit of %2 elements and attributes.</source>
         <translation>更新源第 %1 行超出了更新源允许的 %2 个元素和属性。</translation>
     </message>
     <message>
@@ -410,7 +410,7 @@
         <translation>更新源第 %1 行声明的命名空间超过 %2 个。</translation>
     </message>
     <message>
-        <source>Line %1 of the feed begins a web page where a feed was expected.</source>
+        <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>更新源第 %1 行开始的是网页，而不是更新源。</translation>
     </message>
     <message>
@@ -418,395 +418,395 @@
         <translation>更新源第 %1 行有未知错误。</translation>
     </message>
     <message>
-        <source>The application was installed by the system&apos;s package manager, which updates it too: use the command &quot;%1&quot;.</source>
+        <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>
         <translation>应用程序由系统的软件包管理器安装，也由其更新。请使用命令“%1”。</translation>
     </message>
     <message>
-        <source>The update could not be installed: try again later.</source>
+        <source>The update could not be installed. Try again later.</source>
         <translation>无法安装更新。请稍后再试。</translation>
     </message>
     <message>
-        <source>The program that installs updates did not understand what it was asked for: install the application again.</source>
+        <source>The program that installs updates did not understand its task. Reinstall the application.</source>
         <translation>安装更新的程序未能理解所给的任务。请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The program that installs updates could not use the files that it was given: try again.</source>
+        <source>The program that installs updates could not use the files that it received. Try again.</source>
         <translation>安装更新的程序无法使用所给的文件。请重试。</translation>
     </message>
     <message>
-        <source>The program that installs updates is missing or could be changed by others: install the application again.</source>
+        <source>The program that installs updates is missing, or other users can change it. Reinstall the application.</source>
         <translation>安装更新的程序缺失，或可能被他人更改。请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The update could not be unpacked in a confined process, as it must be: tell the publisher which system this is.</source>
+        <source>The update could not be unpacked in a confined process. Tell the publisher which system this is.</source>
         <translation>更新必须在隔离的进程中解压，但未能做到。请告知发布者这是什么系统。</translation>
     </message>
     <message>
-        <source>This application has no public key under SUPublicEDKey, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>This application has no public key (SUPublicEDKey), so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>此应用程序在 SUPublicEDKey 下没有公钥，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The public key of this application under SUPublicEDKey is damaged, so that no update can be proved genuine: install it again from its publisher.</source>
+        <source>The public key of this application (SUPublicEDKey) is damaged, so updates cannot be verified. Reinstall it from its publisher.</source>
         <translation>此应用程序在 SUPublicEDKey 下的公钥已损坏，无法证明更新的真实性。请从发布者处获取并重新安装。</translation>
     </message>
     <message>
-        <source>The update is not signed, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not signed. Contact the publisher.</source>
         <translation>更新没有签名，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The signature of the update is not a signature, and the update is refused: tell the publisher.</source>
-        <translation>更新的签名不是有效的签名，已被拒绝。请告知发布者。</translation>
+        <source>The update was refused because its signature is not valid. Contact the publisher.</source>
+        <translation>更新的签名无效，更新已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update was not signed by this application&apos;s publisher, or was damaged on its way, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update was refused because it is damaged or not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>更新不是由此应用程序的发布者签名的，或在传输中损坏，已被拒绝。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>Signatures cannot be verified on this computer: install its libsodium library again.</source>
+        <source>Signatures cannot be verified on this computer. Reinstall libsodium.</source>
         <translation>此计算机无法验证签名。请重新安装 libsodium 库。</translation>
     </message>
     <message>
-        <source>The downloaded update is empty: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is empty. Try again, or contact the publisher.</source>
         <translation>下载的更新是空的。请重试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The downloaded update cannot be read from the disk: check the disk and try again.</source>
+        <source>The downloaded update cannot be read from the disk. Check the disk and try again.</source>
         <translation>无法从磁盘读取下载的更新。请检查磁盘，然后重试。</translation>
     </message>
     <message>
-        <source>The downloaded update is longer or shorter than the feed says: try again, and tell the publisher if it stays so.</source>
+        <source>The downloaded update is longer or shorter than the feed says. Try again, or contact the publisher.</source>
         <translation>下载的更新比更新源所述的更长或更短。请重试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>Another program changed the downloaded update while it was being verified: close it and try again.</source>
+        <source>Another program changed the downloaded update while it was being verified. Close that program and try again.</source>
         <translation>另一个程序在验证期间更改了下载的更新。请关闭该程序，然后重试。</translation>
     </message>
     <message>
-        <source>The update is packed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update has an unknown format. Contact the publisher.</source>
         <translation>更新的打包方式未知。请告知发布者。</translation>
     </message>
     <message>
-        <source>The archive of the update is damaged: tell the publisher.</source>
+        <source>The archive of the update is damaged. Contact the publisher.</source>
         <translation>更新的压缩包已损坏。请告知发布者。</translation>
     </message>
     <message>
-        <source>The archive of the update can be read in more than one way, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive can be read in more than one way. Contact the publisher.</source>
         <translation>更新的压缩包有多种读取方式，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The archive of the update is encrypted, and is refused: tell the publisher.</source>
+        <source>The update was refused because its archive is encrypted. Contact the publisher.</source>
         <translation>更新的压缩包已加密，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The archive of the update is compressed in a way that is not known: tell the publisher.</source>
+        <source>The archive of the update uses an unknown compression. Contact the publisher.</source>
         <translation>更新的压缩包使用未知的压缩方式。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a file with a name that is not allowed. Contact the publisher.</source>
         <translation>更新中有文件的名称不受允许。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file with a name that is too long: tell the publisher.</source>
+        <source>The update contains a file with a name that is too long. Contact the publisher.</source>
         <translation>更新中有文件的名称过长。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file that would land outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file outside the application. Contact the publisher.</source>
         <translation>更新中有文件会落到应用程序之外，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The folders of the update are too deep: tell the publisher.</source>
+        <source>The folders of the update are nested too deeply. Contact the publisher.</source>
         <translation>更新的文件夹层级过深。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has something that is neither file nor folder nor link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains more than files, folders and links. Contact the publisher.</source>
         <translation>更新中有既非文件、也非文件夹或链接的内容，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a hard link, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a hard link. Contact the publisher.</source>
         <translation>更新中有硬链接，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file with holes, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file with holes. Contact the publisher.</source>
         <translation>更新中有带空洞的文件，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file without a size, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file without a size. Contact the publisher.</source>
         <translation>更新中有未注明大小的文件，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has the same file twice, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains the same file twice. Contact the publisher.</source>
         <translation>更新中同一个文件出现两次，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has files whose names differ in case or accents only, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains file names that differ only in case or accents. Contact the publisher.</source>
         <translation>更新中有文件的名称仅大小写或重音符号不同，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a file below something that is no folder, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a file inside something that is not a folder. Contact the publisher.</source>
         <translation>更新中有文件位于并非文件夹的内容之下，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a link to a name that is not allowed: tell the publisher.</source>
+        <source>The update contains a link to a name that is not allowed. Contact the publisher.</source>
         <translation>更新中有链接指向不受允许的名称。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a link that leads outside of the application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it contains a link that leads outside the application. Contact the publisher.</source>
         <translation>更新中有链接指向应用程序之外，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a link that leads nowhere: tell the publisher.</source>
+        <source>The update contains a link that leads nowhere. Contact the publisher.</source>
         <translation>更新中有链接没有目标。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has a link that leads back to itself: tell the publisher.</source>
+        <source>The update contains a link that leads back to itself. Contact the publisher.</source>
         <translation>更新中有链接指回自身。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has too many files: tell the publisher.</source>
+        <source>The update contains too many files. Contact the publisher.</source>
         <translation>更新中的文件过多。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update has too many links: tell the publisher.</source>
+        <source>The update contains too many links. Contact the publisher.</source>
         <translation>更新中的链接过多。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update is too large once it is unpacked: tell the publisher.</source>
+        <source>The update is too large when it is unpacked. Contact the publisher.</source>
         <translation>更新解压后过大。请告知发布者。</translation>
     </message>
     <message>
-        <source>The installed application was changed, so that the small update does not fit it: install the application again.</source>
+        <source>The installed application was changed, so the small update does not fit it. Reinstall the application.</source>
         <translation>已安装的应用程序被更改过，增量更新不适用。请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>What the small update made of the application is not what it should be: tell the publisher.</source>
-        <translation>应用增量更新后的结果与预期不符。请告知发布者。</translation>
+        <source>The small update produced a wrong result. Contact the publisher.</source>
+        <translation>增量更新的结果不正确。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update holds no application: tell the publisher.</source>
+        <source>The update contains no application. Contact the publisher.</source>
         <translation>更新中没有应用程序。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update holds more than one application: tell the publisher.</source>
+        <source>The update contains more than one application. Contact the publisher.</source>
         <translation>更新中有多个应用程序。请告知发布者。</translation>
     </message>
     <message>
-        <source>The application in the update is not a folder: tell the publisher.</source>
+        <source>The application in the update is not a folder. Contact the publisher.</source>
         <translation>更新中的应用程序不是文件夹。请告知发布者。</translation>
     </message>
     <message>
-        <source>The application in the update does not describe itself: tell the publisher.</source>
-        <translation>更新中的应用程序没有自身的说明信息。请告知发布者。</translation>
+        <source>The application in the update has no information file. Contact the publisher.</source>
+        <translation>更新中的应用程序没有信息文件。请告知发布者。</translation>
     </message>
     <message>
-        <source>The description of the application in the update is too large: tell the publisher.</source>
-        <translation>更新中应用程序的说明信息过大。请告知发布者。</translation>
+        <source>The information file of the application in the update is too large. Contact the publisher.</source>
+        <translation>更新中应用程序的信息文件过大。请告知发布者。</translation>
     </message>
     <message>
-        <source>The description of the application in the update cannot be read: tell the publisher.</source>
-        <translation>无法读取更新中应用程序的说明信息。请告知发布者。</translation>
+        <source>The information file of the application in the update cannot be read. Contact the publisher.</source>
+        <translation>无法读取更新中应用程序的信息文件。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update names a program outside of its folder: tell the publisher.</source>
+        <source>The update names a program outside its folder. Contact the publisher.</source>
         <translation>更新指定了其文件夹之外的程序。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update is of another application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it belongs to another application. Contact the publisher.</source>
         <translation>此更新属于另一个应用程序，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update is of another version than the feed says, and is refused: tell the publisher.</source>
+        <source>The update was refused because its version is not the one in the feed. Contact the publisher.</source>
         <translation>更新的版本与更新源所述不符，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update is not newer than the installed application, and is refused: tell the publisher.</source>
+        <source>The update was refused because it is not newer than the installed application. Contact the publisher.</source>
         <translation>更新不比已安装的应用程序新，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>The application in the update has no public key, so that it could never be updated again: tell the publisher.</source>
+        <source>The application in the update has no public key, so it could never be updated again. Contact the publisher.</source>
         <translation>更新中的应用程序没有公钥，以后将无法再更新。请告知发布者。</translation>
     </message>
     <message>
-        <source>The contents of the update do not match its file name: tell the publisher.</source>
+        <source>The contents of the update do not match its file name. Contact the publisher.</source>
         <translation>更新的内容与其文件名不符。请联系发布者。</translation>
     </message>
     <message>
-        <source>The application in the update has no program to start: tell the publisher.</source>
+        <source>The application in the update has no program to start. Contact the publisher.</source>
         <translation>更新中的应用程序没有可启动的程序。请告知发布者。</translation>
     </message>
     <message>
-        <source>The program in the update may not be started: tell the publisher.</source>
+        <source>The program in the update may not be started. Contact the publisher.</source>
         <translation>更新中的程序不允许启动。请告知发布者。</translation>
     </message>
     <message>
-        <source>The program in the update is made for another kind of computer: tell the publisher.</source>
+        <source>The program in the update is for another kind of computer. Contact the publisher.</source>
         <translation>更新中的程序适用于其他类型的计算机。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update is a program of its own, which this application does not allow: tell the publisher.</source>
+        <source>The update is a program of its own, which this application does not allow. Contact the publisher.</source>
         <translation>更新是一个独立的程序，此应用程序不允许这样的更新。请告知发布者。</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not start: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not start. Try again, or contact the publisher.</source>
         <translation>更新附带的程序未能启动。请重试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The program that comes with the update did not install it: try again, and tell the publisher if it stays so.</source>
+        <source>The program that comes with the update did not install it. Try again, or contact the publisher.</source>
         <translation>更新附带的程序未能安装更新。请重试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The program that comes with the update took too long and was ended: try again.</source>
+        <source>The program that comes with the update took too long and was stopped. Try again.</source>
         <translation>更新附带的程序耗时过长，已被终止。请重试。</translation>
     </message>
     <message>
-        <source>There is not enough room on the disk for the update: free some and try again.</source>
+        <source>There is not enough space on the disk for the update. Free some space and try again.</source>
         <translation>磁盘空间不足，无法更新。请释放空间，然后重试。</translation>
     </message>
     <message>
-        <source>The folder that holds the application may not be changed by this user: ask the person who installed it.</source>
+        <source>You may not change the folder that holds the application. Ask the person who installed the application.</source>
         <translation>此用户无权更改应用程序所在的文件夹。请咨询安装它的人。</translation>
     </message>
     <message>
-        <source>The disk reported an error: check it and try again.</source>
+        <source>The disk reported an error. Check the disk and try again.</source>
         <translation>磁盘报告了错误。请检查磁盘，然后重试。</translation>
     </message>
     <message>
-        <source>The application did not close, so that the update was not installed: save your work, check for updates again and let it close.</source>
+        <source>The application did not close, so the update was not installed. Save your work, check for updates again and let the application close.</source>
         <translation>应用程序未关闭，因此未安装更新。请保存您的工作，再次检查更新，并让应用程序关闭。</translation>
     </message>
     <message>
-        <source>Another update of this application is being installed: wait for its end.</source>
+        <source>Another update of this application is being installed. Wait until it has finished.</source>
         <translation>正在安装此应用程序的另一个更新。请等待其完成。</translation>
     </message>
     <message>
-        <source>The installed application is not where it was when the update began: start it from its place and try again.</source>
+        <source>The application is no longer where it was when the update began. Start it from its place and try again.</source>
         <translation>已安装的应用程序不在更新开始时的位置。请从原位置启动，然后重试。</translation>
     </message>
     <message>
-        <source>The installed application was changed while the update was being prepared: start it again and try again.</source>
+        <source>The application was changed while the update was being prepared. Restart it and try again.</source>
         <translation>准备更新期间，已安装的应用程序被更改。请重新启动应用程序，然后重试。</translation>
     </message>
     <message>
-        <source>The prepared update was changed before it could be installed, and was dropped: try again.</source>
+        <source>The prepared update was changed before it was installed, so it was discarded. Try again.</source>
         <translation>准备好的更新在安装前被更改，已被丢弃。请重试。</translation>
     </message>
     <message>
-        <source>The prepared update and the application are on different disks: try again, and install the application again if it stays so.</source>
+        <source>The prepared update and the application are on different disks. Try again, or reinstall the application.</source>
         <translation>准备好的更新与应用程序位于不同的磁盘上。请重试；如果问题仍然存在，请重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The new version could not be put in the place of the old one, which is as it was: try again.</source>
+        <source>The new version could not replace the old one, which is unchanged. Try again.</source>
         <translation>无法用新版本替换旧版本，旧版本保持不变。请重试。</translation>
     </message>
     <message>
-        <source>The disk did not confirm that it holds the update: check it and try again.</source>
+        <source>The disk did not confirm that the update is saved. Check the disk and try again.</source>
         <translation>磁盘未确认已保存更新。请检查磁盘，然后重试。</translation>
     </message>
     <message>
-        <source>The application that should be started after the update may not be started: start it by hand.</source>
+        <source>The application that should start after the update may not be started. Start it yourself.</source>
         <translation>更新后应启动的应用程序不允许启动。请手动启动。</translation>
     </message>
     <message>
-        <source>The updated application did not start: start it by hand.</source>
+        <source>The updated application did not start. Start it yourself.</source>
         <translation>更新后的应用程序未能启动。请手动启动。</translation>
     </message>
     <message>
-        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;: start it outside of the container to update it.</source>
+        <source>The application runs in a container that hides the owner of the folder &quot;%1&quot;. Start it outside the container to update it.</source>
         <translation>应用程序运行在一个隐藏文件夹“%1”所有者的容器中。请在容器外启动应用程序以进行更新。</translation>
     </message>
     <message>
-        <source>The update cannot keep who may open the application, and was not installed: ask the person who installed the application to update it.</source>
+        <source>The update would change who may open the application, so it was not installed. Ask the person who installed the application to update it.</source>
         <translation>此更新无法保留谁可以打开该应用程序的设置，因此未安装。请让安装该应用程序的人来更新。</translation>
     </message>
     <message>
-        <source>The new version did not start, and the previous one is back: tell the publisher.</source>
+        <source>The new version did not start, so the previous one was restored. Contact the publisher.</source>
         <translation>新版本无法启动，已恢复先前的版本。请告知发布者。</translation>
     </message>
     <message>
-        <source>The installation of the update was interrupted: check for updates again.</source>
+        <source>The installation of the update was interrupted. Check for updates again.</source>
         <translation>更新的安装被中断。请再次检查更新。</translation>
     </message>
     <message>
-        <source>Files cannot be locked where the application is installed: move it to a folder on a local disk.</source>
-        <translation>应用程序所在的位置无法锁定文件：请将其移动到本地磁盘上的文件夹。</translation>
+        <source>Files cannot be locked where the application is installed. Move it to a folder on a local disk.</source>
+        <translation>应用程序所在的位置无法锁定文件。请将其移动到本地磁盘上的文件夹。</translation>
     </message>
     <message>
-        <source>The disk that holds the application does not keep file permissions: move the application to another disk.</source>
-        <translation>应用程序所在的磁盘不保存文件权限：请将应用程序移动到其他磁盘。</translation>
+        <source>The disk that holds the application does not store file permissions. Move the application to another disk.</source>
+        <translation>应用程序所在的磁盘不保存文件权限。请将应用程序移动到其他磁盘。</translation>
     </message>
     <message>
-        <source>Other users may change the folder that holds the application: move the application to a folder of your own.</source>
-        <translation>其他用户可以更改应用程序所在的文件夹：请将应用程序移动到您自己的文件夹。</translation>
+        <source>Other users can change the folder that holds the application. Move the application to a folder of your own.</source>
+        <translation>其他用户可以更改应用程序所在的文件夹。请将应用程序移动到您自己的文件夹。</translation>
     </message>
     <message>
-        <source>This system does not provide pidfd_open, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>此系统不提供更新所需的 pidfd_open：请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
+        <source>This system does not provide pidfd_open, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>此系统不提供更新所需的 pidfd_open。请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
     </message>
     <message>
-        <source>This system does not provide memfd_create, which updates need: install a newer kernel, or allow the call in the container or sandbox.</source>
-        <translation>此系统不提供更新所需的 memfd_create：请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
+        <source>This system does not provide memfd_create, which updates need. Install a newer kernel, or allow the call in the container or sandbox.</source>
+        <translation>此系统不提供更新所需的 memfd_create。请安装较新的内核，或在容器或沙盒中允许此调用。</translation>
     </message>
     <message>
-        <source>Every user of this computer may write to the folder %1, which holds the application: move the application to a folder of your own and start it there.</source>
-        <translation>此计算机的所有用户都可以写入应用程序所在的文件夹 %1：请将应用程序移动到您自己的文件夹并从那里启动。</translation>
+        <source>All users of this computer can write to the folder %1, which holds the application. Move the application to a folder of your own and start it there.</source>
+        <translation>此计算机的所有用户都可以写入应用程序所在的文件夹 %1。请将应用程序移动到您自己的文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The members of the group &quot;%1&quot; may change the folder of the application: use the command &quot;%2&quot;.</source>
-        <translation>组“%1”的成员可以更改应用程序的文件夹：请使用命令“%2”。</translation>
+        <source>The members of the group &quot;%1&quot; can change the application&apos;s folder. Use the command &quot;%2&quot;.</source>
+        <translation>组“%1”的成员可以更改应用程序的文件夹。请使用命令“%2”。</translation>
     </message>
     <message>
-        <source>The application is installed in %1, where files cannot be locked: move it to a folder on a local disk and start it there.</source>
-        <translation>应用程序安装在无法锁定文件的 %1 中：请将其移动到本地磁盘上的文件夹并从那里启动。</translation>
+        <source>The application is installed in %1, where files cannot be locked. Move it to a folder on a local disk and start it there.</source>
+        <translation>应用程序安装在无法锁定文件的 %1 中。请将其移动到本地磁盘上的文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The application in %1 belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it there.</source>
-        <translation>%1 中的应用程序属于文件系统中无法替换的层：请将其复制到其他文件夹并从那里启动。</translation>
+        <source>The application in %1 belongs to a layer of the file system that cannot be replaced. Copy it to another folder and start it there.</source>
+        <translation>%1 中的应用程序属于文件系统中无法替换的层。请将其复制到其他文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The update feed is not signed, as this application requires: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is not signed, but this application requires a signature. Try another network, or contact the publisher.</source>
         <translation>更新源没有此应用程序所要求的签名。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed goes on behind its signature, and is refused: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was refused because it continues after its signature. Try another network, or contact the publisher.</source>
         <translation>更新源在其签名之后还有内容，已被拒绝。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed has more than one signature, and is refused: tell the publisher.</source>
+        <source>The update feed was refused because it has more than one signature. Contact the publisher.</source>
         <translation>更新源有多个签名，已被拒绝。请告知发布者。</translation>
     </message>
     <message>
-        <source>Something was added to the update feed after its signature: try another network, and tell the publisher if it stays so.</source>
+        <source>Something was added to the update feed after its signature. Try another network, or contact the publisher.</source>
         <translation>更新源在签名之后被添加了内容。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The line ends of the update feed were rewritten, so that its signature does not fit: tell the publisher.</source>
+        <source>The line endings of the update feed were changed, so its signature does not match. Contact the publisher.</source>
         <translation>更新源的换行符被改写，签名不匹配。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed is signed in a way that this version does not know: install the application again from its publisher.</source>
+        <source>The update feed is signed in a way that this version does not know. Reinstall the application from its publisher.</source>
         <translation>更新源的签名方式是此版本所不知道的。请从发布者处获取并重新安装应用程序。</translation>
     </message>
     <message>
-        <source>The signature of the update feed is damaged: try again, and tell the publisher if it stays so.</source>
+        <source>The signature of the update feed is damaged. Try again, or contact the publisher.</source>
         <translation>更新源的签名已损坏。请重试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed was not signed by this application&apos;s publisher, or was changed afterwards: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed was changed or is not signed by this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>更新源不是由此应用程序的发布者签名的，或在签名后被更改。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed has no usable serial number: tell the publisher.</source>
+        <source>The update feed has no usable serial number. Contact the publisher.</source>
         <translation>更新源没有可用的序列号。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed does not say how long it holds: tell the publisher.</source>
+        <source>The update feed does not state how long it is valid. Contact the publisher.</source>
         <translation>更新源未注明有效期。请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed is older than one that came before: try another network, and tell the publisher if it stays so.</source>
+        <source>The update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>更新源比之前收到的更旧。请换一个网络再试；如果问题仍然存在，请告知发布者。</translation>
     </message>
     <message>
-        <source>The update feed has expired: check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>更新源已过期。请检查此计算机的时钟；如果时间正确，请告知发布者。</translation>
     </message>
     <message>
@@ -818,35 +818,35 @@
         <translation>网络代理拒绝连接到更新服务器。请咨询您的网络管理员。</translation>
     </message>
     <message>
-        <source>The network proxy does not accept your user name and password. Check the proxy&apos;s settings.</source>
+        <source>The network proxy does not accept your user name and password. Check the proxy settings.</source>
         <translation>网络代理不接受您的用户名和密码。请检查代理设置。</translation>
     </message>
     <message>
-        <source>The update feed does not say which keys are valid. Try another network, and tell the publisher if that does not help.</source>
+        <source>The update feed does not say which keys are valid. Try another network, or contact the publisher.</source>
         <translation>更新源没有说明哪些密钥有效。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is damaged. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is damaged. Contact the publisher.</source>
         <translation>更新源中的有效密钥列表已损坏。请告知发布者。</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is not from this application&apos;s publisher. Try another network, or contact the publisher.</source>
         <translation>更新源中的有效密钥列表并非来自此应用程序的发布者。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is for another application. Tell the publisher.</source>
+        <source>The list of valid keys in the update feed is for another application. Contact the publisher.</source>
         <translation>更新源中的有效密钥列表属于另一个应用程序。请告知发布者。</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, and tell the publisher if that does not help.</source>
+        <source>The list of valid keys in the update feed is older than an earlier one. Try another network, or contact the publisher.</source>
         <translation>更新源中的有效密钥列表比之前的更旧。请换一个网络重试，如果仍无法解决，请告知发布者。</translation>
     </message>
     <message>
-        <source>The list of valid keys in the update feed has expired. Check the clock of this computer, and tell the publisher if it is right.</source>
+        <source>The list of valid keys in the update feed has expired. If the clock of this computer is right, contact the publisher.</source>
         <translation>更新源中的有效密钥列表已过期。请检查此计算机的时钟，如果时钟正确，请告知发布者。</translation>
     </message>
     <message>
-        <source>The root key of this application is damaged. Install the application again from its publisher.</source>
+        <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>此应用程序的根密钥已损坏。请从发布者处重新安装此应用程序。</translation>
     </message>
 </context>

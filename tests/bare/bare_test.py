@@ -233,7 +233,7 @@ def on_a_read_only_disk(computer, server):
 def in_an_app_image(computer, server):
     computer.mount_at("/mnt", "ro")
     computer.variables = {"APPDIR": "/mnt", "APPIMAGE": f"{HOME}/PelnarDemo.AppImage"}
-    expect_told(computer, server, f"replace the file {HOME}/PelnarDemo.AppImage by the new version's")
+    expect_told(computer, server, f"replace the file {HOME}/PelnarDemo.AppImage with the file of the new version")
 
 
 def in_a_flatpak(computer, server):
@@ -266,7 +266,7 @@ def in_opt_of_root(computer, server):
     else:
         # Nobody else can give a folder to root; what is left is one that its person may not write.
         folder.chmod(0o555)
-        expect_told(computer, server, "You may not change the folder of the application")
+        expect_told(computer, server, "You may not change the application's folder")
         folder.chmod(0o755)
 
 

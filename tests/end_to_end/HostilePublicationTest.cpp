@@ -32,7 +32,7 @@ TEST_F(UpdateScenario, ASignedFeedThatIsPlayedBackIsRefusedAndTheNextOneIsTaken)
     {
         DemoOutput const output = Run(server, feed, Script("user", "check"));
         EXPECT_FALSE(output.Says(FOUND)) << output.Text();
-        EXPECT_EQ(output.Count("The update feed is older than one that came before"), 1) << feed << output.Text();
+        EXPECT_EQ(output.Count("The update feed is older than an earlier one"), 1) << feed << output.Text();
         EXPECT_TRUE(demo.Tree() == installed) << feed;
         EXPECT_EQ(demo.Neighbours(), Names{"PelnarDemo.app"}) << feed;
         EXPECT_FALSE(demo.HasDownloaded()) << feed;

@@ -173,8 +173,8 @@ TEST_P(EveryCheck, FoundWithoutAKeyInTheBundleFetchesNothingAndEndsIdle)
     EXPECT_EQ(server.Requests().size(), 1u) << "nothing but the feed is fetched";
     for (ToldError const& error : driver.Errors())
     {
-        EXPECT_EQ(error.sentence, "This application has no public key under SUPublicEDKey, so that no update can be "
-                                  "proved genuine: install it again from its publisher.");
+        EXPECT_EQ(error.sentence, "This application has no public key (SUPublicEDKey), so updates cannot be verified. "
+                                  "Reinstall it from its publisher.");
     }
 }
 
@@ -223,8 +223,8 @@ TEST_P(EveryCheck, FailureIsToldInThePersonsLanguageAndLoggedInEnglish)
     (driver.*GetParam().start)();
     ASSERT_TRUE(driver.WaitForEnd());
     ASSERT_EQ(driver.Errors().size(), 1u);
-    EXPECT_EQ(driver.Errors()[0].sentence, "[The update server answered with status 500: try again later.]");
-    EXPECT_EQ(driver.Errors()[0].description, "The update server answered with status 500: try again later.");
+    EXPECT_EQ(driver.Errors()[0].sentence, "[The update server responded with status 500. Try again later.]");
+    EXPECT_EQ(driver.Errors()[0].description, "The update server responded with status 500. Try again later.");
 }
 
 TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
@@ -237,7 +237,7 @@ TEST_P(EveryCheck, FeedThatCannotBeFetchedAbortsOnceAndEndsIdle)
     EXPECT_EQ(driver.Events(), Events{"aborted 1002"});
     ASSERT_EQ(driver.Errors().size(), 1u);
     EXPECT_EQ(driver.Errors()[0].domain, "SUSparkleErrorDomain");
-    EXPECT_EQ(driver.Errors()[0].sentence, "The update server answered with status 500: try again later.");
+    EXPECT_EQ(driver.Errors()[0].sentence, "The update server responded with status 500. Try again later.");
     EXPECT_EQ(driver.Errors()[0].underlyingDomain, "PelnarHTTPStatusErrorDomain");
     EXPECT_EQ(driver.Errors()[0].underlyingCode, 500);
     EXPECT_TRUE(WaitFor([] { return IsRecentDateDefault("SULastCheckTime"); }));

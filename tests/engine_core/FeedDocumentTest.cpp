@@ -152,7 +152,7 @@ TEST(FeedDocument, AWebPageIsNoFeed)
         EXPECT_TRUE(result.items.empty());
     }
     EXPECT_EQ(Text(Parse("<html/>").error.sentence.English()),
-              "Line 1 of the feed begins a web page where a feed was expected.");
+              "Line 1 of the feed begins a web page instead of a feed.");
     EXPECT_TRUE(Parse(Feed("<item><html/></item>")).HasSucceeded());
 }
 

@@ -105,9 +105,9 @@ TEST(EngineError, UnreadableFeedSaysWhatToDoAndThenNamesTheLine)
     error.kind = FeedErrorKind::TooDeep;
     error.sentence = Sentence("Line %1 is %2.", {QStringLiteral("4"), QStringLiteral("%1")});
     EXPECT_EQ(MakeFeedError(error).sentence.English(),
-              QStringLiteral("The update feed cannot be read: tell the publisher. Line 4 is %1."));
+              QStringLiteral("The update feed cannot be read. Contact the publisher. Line 4 is %1."));
     EXPECT_EQ(MakeFeedError(error).sentence.Translated(),
-              QStringLiteral("The update feed cannot be read: tell the publisher. Line 4 is %1."));
+              QStringLiteral("The update feed cannot be read. Contact the publisher. Line 4 is %1."));
 }
 
 TEST(EngineError, CodesAreThePublishedOnes)
@@ -164,14 +164,19 @@ TEST(EngineError, IsDescribedAsUnknownByANumberWithoutARow)
     EXPECT_EQ(MakeFaultError(static_cast<UpdateFault>(-1)).code, ErrorCode::Installation);
 }
 
-TEST(UpdateError, EverySentenceSaysWhatHappenedAndWhatToDo)
+TEST(EngineError, SaysWhatHappenedAndThenWhatToDoInTwoShortSentences)
 {
-    for (UpdateFault const fault : Pelnar::Testing::EveryUpdateFault())
+    for (EngineError const& error : EveryError())
     {
-        QString const sentence = MakeFaultError(fault).sentence.English();
-        EXPECT_TRUE(sentence.endsWith(QLatin1Char('.'))) << sentence.toStdString();
-        EXPECT_EQ(sentence.count(QLatin1String(": ")), 1) << sentence.toStdString();
-        EXPECT_EQ(sentence.count(QLatin1Char('.')), 1) << "one sentence: " << sentence.toStdString();
+        QString const text = error.sentence.English();
+        std::string const shown = text.toStdString();
+        EXPECT_EQ(text.count(QLatin1Char('.')) - text.count(QStringLiteral("1.2")),
+                  error.cause == ErrorCause::NoUpdate ? 1 : 2)
+            << shown;
+        EXPECT_TRUE(text.endsWith(QLatin1Char('.'))) << shown;
+        EXPECT_FALSE(text.contains(QLatin1Char(':'))) << shown;
+        EXPECT_FALSE(text.contains(QLatin1String("Please"))) << shown;
+        EXPECT_LE(text.size(), 150) << shown;
     }
 }
 

@@ -89,7 +89,7 @@ TEST(FaultDocument, IsMadeFromTheTables)
     std::ifstream document(PELNAR_FAULTS_DOCUMENT);
     std::stringstream text;
     text << document.rdbuf();
-    EXPECT_EQ(text.str(), made) << "make it again: cp " PELNAR_FAULTS_MADE " docs/faults.md";
+    EXPECT_TRUE(text.str() == made) << "make it again: cp " PELNAR_FAULTS_MADE " docs/faults.md";
 }
 
 } // namespace

@@ -47,10 +47,9 @@ Sentence SentenceOf(FeedErrorKind kind, int line, FeedLimits const& limits)
         return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed is not well-formed XML."),
                         {lineText});
     case FeedErrorKind::DocumentType:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                              "Line %1 of the feed has a document type declaration, which a feed may not have."),
-            {lineText});
+        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                          "Line %1 of the feed has a document type declaration, which is not allowed."),
+                        {lineText});
     case FeedErrorKind::TooDeep:
         return Sentence(
             QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed nests elements more than %2 levels deep."),
@@ -64,10 +63,9 @@ Sentence SentenceOf(FeedErrorKind kind, int line, FeedLimits const& limits)
             QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has a tag of more than %2 bytes."),
             {lineText, QString::number(limits.maxTagBytes)});
     case FeedErrorKind::TooMuchMarkup:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                              "Line %1 of the feed goes beyond the %2 elements and attributes that a feed may have."),
-            {lineText, QString::number(limits.maxMarkup)});
+        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                          "Line %1 of the feed exceeds the limit of %2 elements and attributes."),
+                        {lineText, QString::number(limits.maxMarkup)});
     case FeedErrorKind::TooManyItems:
         return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
                                           "Line %1 of the feed has item number %2, but only %3 are allowed."),
@@ -77,9 +75,9 @@ Sentence SentenceOf(FeedErrorKind kind, int line, FeedLimits const& limits)
             QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has more than %2 namespaces declared."),
             {lineText, QString::number(limits.maxNamespaces)});
     case FeedErrorKind::NotAFeed:
-        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                          "Line %1 of the feed begins a web page where a feed was expected."),
-                        {lineText});
+        return Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed begins a web page instead of a feed."),
+            {lineText});
     }
     return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has an unknown error."), {lineText});
 }

@@ -45,10 +45,10 @@ EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
         error.sentence = Sentence(text, {QStringLiteral("Snap"), owner.command});
         break;
     case PackageManager::Dpkg:
-        error.sentence = Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                                    "The application was installed by the system's package manager, "
-                                                    "which updates it too: use the command \"%1\"."),
-                                  {owner.command});
+        error.sentence = Sentence(
+            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The application was installed by the system's package manager, "
+                                                     "which also updates it. Use the command \"%1\"."),
+            {owner.command});
         break;
     }
     return error;

@@ -59,7 +59,7 @@ std::string Told(std::string const& bundlePath, std::string const& helper = PELN
 std::string ToldToBeOfALayer(std::string const& bundle)
 {
     return "964 The application in " + bundle +
-           " belongs to a layer of the file system that cannot be replaced: copy it to another folder and start it "
+           " belongs to a layer of the file system that cannot be replaced. Copy it to another folder and start it "
            "there.";
 }
 
@@ -188,7 +188,7 @@ TEST(InstallRehearsal, LocksThatCannotBeHadAreTold)
         RehearsalScene const scene;
         EXPECT_EQ(scene.ToldWithout(SYS_flock, errorNumber),
                   "963 The application is installed in " + scene.Folder() +
-                      ", where files cannot be locked: move it to a folder on a local disk and start it there.");
+                      ", where files cannot be locked. Move it to a folder on a local disk and start it there.");
     }
 }
 

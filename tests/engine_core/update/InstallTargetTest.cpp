@@ -478,8 +478,8 @@ TEST(InstallTarget, UserNamespaceThatHidesTheOwnersOfFoldersIsNamed)
         GTEST_SKIP() << "this user may make no user namespace";
     }
     EXPECT_EQ(answer,
-              "The application runs in a container that hides the owner of the folder \"/tmp\": start it outside "
-              "of the container to update it.");
+              "The application runs in a container that hides the owner of the folder \"/tmp\". Start it outside "
+              "the container to update it.");
 }
 
 TEST(InstallTarget, FoldersThatOthersMayChangeAreRefused)
@@ -558,8 +558,7 @@ TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
                     return error ? error->sentence.English().toStdString() : std::string("opened");
                 });
             std::string const refusal =
-                "The members of the group \"ours\" may change the folder of the application: use the command \"chmod "
-                "g-w '" +
+                "The members of the group \"ours\" can change the application's folder. Use the command \"chmod g-w '" +
                 path + "'\".";
             EXPECT_EQ(told, row.isPrivate ? "opened" : refusal);
             ASSERT_EQ(::chmod(path.c_str(), 0755), 0);

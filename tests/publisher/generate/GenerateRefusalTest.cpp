@@ -105,7 +105,7 @@ std::vector<RefusalRow> RefusedArchives()
          [](auto const& folder) {
              folder.Put("Test.zip", MakeArchive(Container::Zip, {{"Test.app/Contents/Info.plist", 'f', "bplist00"}}));
          },
-         "Contents/Info.plist: the bundle's information file is no property list in text form"},
+         "Contents/Info.plist: the bundle's information file is not a property list in text form"},
         {"version that is none", Bundle([](BundleText& text) { text.version = "2.0b1"; }), "\"2.0b1\" is no version"},
         {"version that overflows", Bundle([](BundleText& text) { text.version = "2147483648"; }), "is no version"},
         {"no version", Bundle([](BundleText& text) { text.version.clear(); }), "\"\" is no version"},

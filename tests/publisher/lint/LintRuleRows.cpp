@@ -100,7 +100,7 @@ void AddDocumentCases(std::vector<LintCase>& cases)
 {
     cases.push_back({"MalformedXml", "<rss>\n<item></rss>", "malformed-xml 2:13 Opening and ending tag mismatch"});
     cases.push_back({"DocumentType", "<!DOCTYPE rss>\n<rss/>",
-                     "document-type 1:1 Line 1 of the feed has a document type declaration, which a feed may not"});
+                     "document-type 1:1 Line 1 of the feed has a document type declaration, which is not"});
     cases.push_back({"TooDeep", Nested("a", 65), "too-deep 1:196"});
     cases.push_back({"TooManyAttributes", "<rss" + Attributes(257) + "/>", "too-many-attributes 1:1"});
     cases.push_back({"TagTooLong", "<rss a='" + QByteArray(70000, 'x') + "'/>", "tag-too-long 1:1"});

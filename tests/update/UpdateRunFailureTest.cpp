@@ -145,7 +145,7 @@ TEST_F(UpdateRunTest, LackOfRoomWhileItIsUnpackedIsToldInNumbers)
     ASSERT_TRUE(end && end->error);
     EXPECT_EQ(end->error->cause, ErrorCause::NoRoomForUpdate);
     QString const sentence = end->error->sentence.English();
-    EXPECT_TRUE(sentence.contains(QStringLiteral("it needs 3.4 PB, and "))) << sentence.toStdString();
+    EXPECT_TRUE(sentence.contains(QStringLiteral("The update needs 3.4 PB of disk space, "))) << sentence.toStdString();
     EXPECT_TRUE(sentence.contains(QStringLiteral(" are free"))) << sentence.toStdString();
 }
 

@@ -304,8 +304,11 @@ TEST_F(DownloadFaultTest, DiskThatIsFullAtAnyWriteIsToldInNumbersAndLeftAsItWas)
     {
         ErrorCause const cause = isQuota ? ErrorCause::DownloadQuotaReached : ErrorCause::DownloadNoRoom;
         EXPECT_EQ(end.cause, static_cast<int>(cause)) << where << ": " << end.all;
-        EXPECT_NE(end.all.find("The update needs "), std::string::npos) << where << ": " << end.all;
-        EXPECT_NE(end.all.find(" free"), std::string::npos) << where << ": " << end.all;
+        EXPECT_NE(end.all.find(isQuota ? "Your disk quota is too small for the update, which needs "
+                                       : "The download needs "),
+                  std::string::npos)
+            << where << ": " << end.all;
+        EXPECT_EQ(end.all.find(" are free") == std::string::npos, isQuota) << where << ": " << end.all;
         EXPECT_EQ(end.all.find('%'), std::string::npos) << where << ": " << end.all;
         EXPECT_TRUE(Files().isEmpty()) << where;
         ExpectNextRunBringsTheArchive(where);

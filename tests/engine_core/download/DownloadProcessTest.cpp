@@ -221,7 +221,7 @@ TEST_F(FullDisk, OfAnySizeIsToldInNumbersAndLeftAsItWas)
             continue;
         }
         EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::DownloadNoRoom)) << report.all.toStdString();
-        EXPECT_TRUE(report.all.contains(QLatin1String("The update needs "))) << report.all.toStdString();
+        EXPECT_TRUE(report.all.contains(QLatin1String("The download needs "))) << report.all.toStdString();
         EXPECT_TRUE(report.all.contains(QLatin1String(" are free"))) << report.all.toStdString();
         EXPECT_FALSE(report.all.contains(QLatin1Char('%'))) << report.all.toStdString();
         if (mebibytes < 4)

@@ -71,7 +71,7 @@ TEST_F(SecureFetchTest, ExpiredCertificateIsRefusedAndTheClockIsNamed)
                           certificates.Signed("127.0.0.1", now.addDays(-20), now.addDays(-10)));
     FetchOutcome const outcome = Fetch(server.Url());
     ASSERT_EQ(CauseOf(outcome), ErrorCause::CertificateExpired);
-    EXPECT_TRUE(outcome.error->sentence.English().contains(QLatin1String("check the clock")));
+    EXPECT_TRUE(outcome.error->sentence.English().contains(QLatin1String("the clock of this computer")));
     EXPECT_TRUE(server.Requests().empty());
 }
 
@@ -82,7 +82,7 @@ TEST_F(SecureFetchTest, CertificateNotYetValidIsRefusedAndTheClockIsNamed)
                           certificates.Signed("127.0.0.1", now.addDays(10), now.addDays(20)));
     FetchOutcome const outcome = Fetch(server.Url());
     ASSERT_EQ(CauseOf(outcome), ErrorCause::CertificateNotYetValid);
-    EXPECT_TRUE(outcome.error->sentence.English().contains(QLatin1String("check the clock")));
+    EXPECT_TRUE(outcome.error->sentence.English().contains(QLatin1String("the clock of this computer")));
 }
 
 TEST_F(SecureFetchTest, CertificateOfAnotherNameIsRefused)

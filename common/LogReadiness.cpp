@@ -9,7 +9,8 @@ namespace Pelnar::Core
 namespace
 {
 
-constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< what glog calls a process whose host does not use it
+constexpr char PROGRAM_NAME[] = "PelnarUpdateChecker"; ///< the name that glog gives a process whose host does not use
+                                                       ///< glog
 
 } // namespace
 

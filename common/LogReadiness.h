@@ -1,5 +1,5 @@
-// LogReadiness.h: lets records be written by glog before a host has initialized it, of which glog would warn.
-// Thread: any. Ownership: none. It is linked into one library of the process, which remembers who has initialized glog.
+// LogReadiness.h: initializes glog before a record is written, because glog would otherwise warn.
+// Thread: any. It is linked into one library of the process, which remembers who has initialized glog.
 #pragma once
 
 namespace Pelnar::Core
@@ -8,10 +8,10 @@ namespace Pelnar::Core
 enum class GlogOwner
 {
     Host,
-    UpdateChecker, ///< records go to standard error, and into no file
+    UpdateChecker, ///< records go to standard error, and to no file
 };
 
-/// Initializes glog, unless that is done already; says who has done it.
+/// Initializes glog unless it is initialized; returns who has initialized it.
 GlogOwner ReadyLog();
 
 } // namespace Pelnar::Core

@@ -233,7 +233,7 @@ def on_a_read_only_disk(computer, server):
 def in_an_app_image(computer, server):
     computer.mount_at("/mnt", "ro")
     computer.variables = {"APPDIR": "/mnt", "APPIMAGE": f"{HOME}/PelnarDemo.AppImage"}
-    expect_told(computer, server, f"replace the file {HOME}/PelnarDemo.AppImage with the file of the new version")
+    expect_told(computer, server, f"Replace the file {HOME}/PelnarDemo.AppImage with the file of the new version")
 
 
 def in_a_flatpak(computer, server):

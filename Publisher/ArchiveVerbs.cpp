@@ -3,6 +3,7 @@
 
 #include "Publisher/Verb.h"
 #include "Publisher/delta/DeltaVerb.h"
+#include "Publisher/edit/EditVerbs.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/GenerateVerb.h"
 #include "Publisher/keys/KeysVerbs.h"
@@ -20,6 +21,7 @@ void AddArchiveVerbs(CLI::App& program, VerbContext& context)
     AddGenerate(program, context);
     AddCheckRelease(program, context);
     AddSignFeed(program, context);
+    AddEdits(program, context);
     AddDelta(program, context);
     AddServe(program, context);
 }

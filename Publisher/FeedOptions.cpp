@@ -41,14 +41,18 @@ void AddInstallationOptions(CLI::App& verb, InstallationOptions& options)
         ->type_name("NAME");
     verb.add_option("--channels", options.channels, "Channels that the clients list, with commas between them")
         ->type_name("LIST");
+    verb.add_option("--at", options.moment,
+                    "Moment of the check for a staged rollout, as 2030-01-31T12:00:00Z; default: now")
+        ->type_name("TIME");
+}
+
+void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
+{
     verb.add_option(
             "--rollout-group", options.rolloutGroup,
             "Answer as for automatic checks in this group of a staged rollout; default: as for a person who asks")
         ->check(CLI::Range(1, Engine::ROLLOUT_GROUPS))
         ->type_name("N");
-    verb.add_option("--at", options.moment,
-                    "Moment of the check for a staged rollout, as 2030-01-31T12:00:00Z; default: now")
-        ->type_name("TIME");
 }
 
 std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options)

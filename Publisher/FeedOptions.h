@@ -26,8 +26,10 @@ struct InstallationOptions
     std::string moment;
 };
 
-/// "--machine", "--channels", "--rollout-group" and "--at".
+/// "--machine", "--channels" and "--at".
 void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
+/// "--rollout-group".
+void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
 [[nodiscard]] std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options);
 /// The members "machine", "channels" and "rolloutGroup" that the JSON of several verbs has.
 void AddInstallation(QJsonObject& object, InstallationOptions const& options);

@@ -6,6 +6,7 @@
 #include "Publisher/explain/ExplainVerb.h"
 #include "Publisher/lint/LintVerb.h"
 #include "Publisher/matrix/MatrixVerb.h"
+#include "Publisher/simulate/SimulateVerb.h"
 #include "Publisher/timeline/TimelineVerb.h"
 
 namespace Pelnar::Publisher
@@ -17,6 +18,7 @@ void AddFeedVerbs(CLI::App& program, VerbContext& context)
     AddLint(program, context);
     AddMatrix(program, context);
     AddDiff(program, context);
+    AddSimulate(program, context);
     AddTimeline(program, context);
 }
 

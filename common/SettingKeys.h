@@ -19,6 +19,7 @@ enum class Setting
     AllowsInsecureFeeds,
     MaximumFeedBytes,
     FeedPlatform,
+    Channels,
     UpdatesDisabled,
     AutomaticallyUpdate,
     ConfirmsGoodStart,
@@ -88,6 +89,9 @@ inline constexpr SettingKey SETTING_KEYS[] = {
      "The size of the largest feed that is read, from 1 to 1073741824 bytes."},
     {Setting::FeedPlatform, "PelnarFeedPlatform", SettingType::Text, SettingPlace::Both, "`linux`",
      "Whose items of the feed count: `macos` or `linux`."},
+    {Setting::Channels, "PelnarChannels", SettingType::Text, SettingPlace::Both, "no channel",
+     "The channels of the feed whose items count as well, with commas between them. `Pelnar::SetChannels()` writes "
+     "it."},
     {Setting::UpdatesDisabled, "PelnarUpdatesDisabled", SettingType::Boolean, SettingPlace::Both, "NO",
      "Nothing is sent, and every check fails at once. A YES in one of the two places is enough."},
     {Setting::AutomaticallyUpdate, "SUAutomaticallyUpdate", SettingType::Boolean, SettingPlace::Both, "NO",

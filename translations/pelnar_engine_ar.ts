@@ -987,6 +987,15 @@
         <source>&amp;Install Update</source>
         <translation>تثبيت التحديث (&amp;I)</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>يتوفر الآن %1 %2؛ الإصدار المثبت لديك هو %3. توضح صفحته كيفية الحصول عليه.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>&amp;فتح الصفحة</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

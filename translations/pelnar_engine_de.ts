@@ -975,6 +975,15 @@
         <source>&amp;Install Update</source>
         <translation>Update &amp;installieren</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 ist jetzt verfügbar, Sie haben %3. Die Seite dieser Version beschreibt, wie Sie sie erhalten.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>Seite ö&amp;ffnen</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

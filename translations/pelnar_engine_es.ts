@@ -975,6 +975,15 @@
         <source>&amp;Install Update</source>
         <translation>&amp;Instalar actualización</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 ya está disponible; usted tiene la versión %3. Su página explica cómo obtenerla.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>&amp;Abrir su página</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

@@ -975,6 +975,15 @@
         <source>&amp;Install Update</source>
         <translation>Ins&amp;taller la mise à jour</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 est maintenant disponible ; vous avez la version %3. Sa page indique comment l’obtenir.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>&amp;Ouvrir sa page</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

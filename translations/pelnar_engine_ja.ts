@@ -972,6 +972,15 @@
         <source>&amp;Install Update</source>
         <translation>アップデートをインストール(&amp;I)</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 が利用可能です（現在のバージョンは %3）。入手方法はこのバージョンのページに書かれています。</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>ページを開く(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

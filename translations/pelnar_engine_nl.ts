@@ -975,6 +975,15 @@
         <source>&amp;Install Update</source>
         <translation>Update &amp;installeren</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 is nu beschikbaar; u hebt %3. De pagina van deze versie vertelt hoe u die krijgt.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>Pa&amp;gina openen</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

@@ -978,6 +978,15 @@
         <source>&amp;Install Update</source>
         <translation>&amp;Zainstaluj aktualizację</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>Dostępna jest wersja %2 programu %1; zainstalowana wersja to %3. Na jej stronie opisano, jak ją uzyskać.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>&amp;Otwórz stronę</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

@@ -978,6 +978,15 @@
         <source>&amp;Install Update</source>
         <translation>&amp;Установить обновление</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>Доступна версия %2 программы %1; у вас установлена %3. На её странице сказано, как её получить.</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>&amp;Открыть страницу</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

@@ -972,6 +972,15 @@
         <source>&amp;Install Update</source>
         <translation>安装更新(&amp;I)</translation>
     </message>
+    <message>
+        <source>%1 %2 is now available; you have %3. Its page says how to get it.</source>
+        <comment>%1 is the application&apos;s name, %2 the new version, %3 the installed version</comment>
+        <translation>%1 %2 现已可用，您当前的版本是 %3。其页面说明了获取方法。</translation>
+    </message>
+    <message>
+        <source>&amp;Open Its Page</source>
+        <translation>打开页面(&amp;O)</translation>
+    </message>
 </context>
 <context>
     <name>SparkleUpdater</name>

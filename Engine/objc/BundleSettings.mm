@@ -2,6 +2,7 @@
 
 #include "Engine/core/PathText.h"
 #include "Engine/core/check/FeedRecordFile.h"
+#include "Engine/core/check/RolloutSeed.h"
 #include "Engine/core/payload/StagingFolder.h"
 #include "Engine/objc/ApplicationPlaces_p.h"
 #include "Engine/objc/HelperLocation_p.h"
@@ -119,6 +120,7 @@ CheckSettings ReadCheckSettings(QUrl const& feedUrl)
     settings.languages = QLocale().uiLanguages();
     settings.platform = ReadPlatform();
     settings.machine = OwnMachineName();
+    settings.channels = ReadChannels();
     settings.insecureHttp =
         IsSettingTrue(Setting::AllowsInsecureFeeds) ? InsecureHttp::Anywhere : InsecureHttp::LoopbackOnly;
     settings.fetchLimits.maxBodyBytes = ReadMaxFeedBytes();
@@ -256,6 +258,8 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.backOff = ReadBackOff();
     settings.downloadFolder = DownloadFolderOf(settings.bundle.identifier);
     settings.stateFolder = StateFolderOf(settings.bundle.identifier);
+    settings.check.rolloutGroup = [folder = settings.stateFolder](QString const& version)
+    { return RolloutGroup(RolloutSeed(folder), version); };
     return settings;
 }
 
@@ -290,6 +294,30 @@ QUrl ReadFeedUrl()
 AutomaticDownload ReadAutomaticDownload()
 {
     return IsSettingTrue(Setting::AutomaticallyUpdate) ? AutomaticDownload::On : AutomaticDownload::Off;
+}
+
+QStringList ReadChannels()
+{
+    QString const text = SettingText(Setting::Channels);
+    QStringList channels;
+    for (QString const& name : text.split(QLatin1Char(','), Qt::SkipEmptyParts))
+    {
+        QString const channel = name.trimmed();
+        if (IsChannelName(channel))
+        {
+            channels.append(channel);
+        }
+        else if (!channel.isEmpty())
+        {
+            WarnOfType(Setting::Channels, "a list of names with commas between them");
+        }
+    }
+    return channels;
+}
+
+void WriteChannels(QStringList const& channels)
+{
+    SaveSettings({{Setting::Channels, channels.join(QLatin1Char(','))}});
 }
 
 void WriteAutomaticDownload(AutomaticDownload value)

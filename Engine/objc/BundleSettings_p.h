@@ -27,6 +27,9 @@ std::optional<StartedApplication> ReadStartedApplication();
 QUrl ReadFeedUrl();
 
 AutomaticDownload ReadAutomaticDownload();
+/// The channels that are listed; none without the setting.
+QStringList ReadChannels();
+void WriteChannels(QStringList const& channels);
 void WriteAutomaticDownload(AutomaticDownload value);
 
 void WriteSkippedVersion(QString const& version);

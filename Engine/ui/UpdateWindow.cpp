@@ -24,7 +24,7 @@ UpdateWindow::UpdateWindow(UpdateOffer const& offer, CheckOrigin origin)
 {
     AddTexts(offer);
     AddNotes(offer.notes);
-    AddAnswers();
+    AddAnswers(offer);
 }
 
 void UpdateWindow::AddTexts(UpdateOffer const& offer)
@@ -34,11 +34,16 @@ void UpdateWindow::AddTexts(UpdateOffer const& offer)
                QCoreApplication::translate("PelnarEngine_UpdateWindow", "A new version of %1 is available!",
                                            "%1 is the application's name")
                    .arg(name));
+    QString const detail =
+        offer.form == UpdateForm::Page
+            ? QCoreApplication::translate("PelnarEngine_UpdateWindow",
+                                          "%1 %2 is now available; you have %3. Its page says how to get it.",
+                                          "%1 is the application's name, %2 the new version, %3 the installed version")
+            : QCoreApplication::translate("PelnarEngine_UpdateWindow",
+                                          "%1 %2 is now available; you have %3. Would you like to download it now?",
+                                          "%1 is the application's name, %2 the new version, %3 the installed version");
     AddText(QStringLiteral("PelnarEngine_detail"),
-            QCoreApplication::translate("PelnarEngine_UpdateWindow",
-                                        "%1 %2 is now available; you have %3. Would you like to download it now?",
-                                        "%1 is the application's name, %2 the new version, %3 the installed version")
-                .arg(name, ShownVersion(offer.version), ShownVersion(offer.currentVersion)));
+            detail.arg(name, ShownVersion(offer.version), ShownVersion(offer.currentVersion)));
     if (offer.importance == UpdateImportance::Critical)
     {
         AddText(QStringLiteral("PelnarEngine_importance"),
@@ -79,21 +84,46 @@ void UpdateWindow::AddNotes(ReleaseNotes const& notes)
     SetReleaseNotes(notes);
 }
 
-void UpdateWindow::AddAnswers()
+QPushButton* UpdateWindow::AddAgreement(UpdateOffer const& offer)
+{
+    if (offer.form == UpdateForm::Download)
+    {
+        return AddAnswer(QStringLiteral("PelnarEngine_installButton"),
+                         QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Install Update"), ButtonPlace::End,
+                         [this] { Q_EMIT Chosen(UpdateChoice::InstallUpdate); });
+    }
+    QUrl const page = SafeUrl(offer.page);
+    if (page.isEmpty())
+    {
+        return nullptr;
+    }
+    QPushButton* const button =
+        AddAnswer(QStringLiteral("PelnarEngine_pageButton"),
+                  QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Open Its Page"), ButtonPlace::End,
+                  [this, page]
+                  {
+                      Q_EMIT LinkActivated(page);
+                      Q_EMIT Chosen(UpdateChoice::RemindMeLater);
+                  });
+    button->setToolTip(QString::fromLatin1(page.toEncoded()));
+    return button;
+}
+
+void UpdateWindow::AddAnswers(UpdateOffer const& offer)
 {
     auto const choose = [this](UpdateChoice choice) { return [this, choice] { Q_EMIT Chosen(choice); }; };
-    AddAnswer(QStringLiteral("PelnarEngine_skipButton"),
-              QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Skip This Version"), ButtonPlace::Start,
-              choose(UpdateChoice::SkipThisVersion));
+    if (offer.importance != UpdateImportance::Critical)
+    {
+        AddAnswer(QStringLiteral("PelnarEngine_skipButton"),
+                  QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Skip This Version"), ButtonPlace::Start,
+                  choose(UpdateChoice::SkipThisVersion));
+    }
     QPushButton* const remindButton =
         AddAnswer(QStringLiteral("PelnarEngine_remindButton"),
                   QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Remind Me Later"), ButtonPlace::End,
                   choose(UpdateChoice::RemindMeLater));
-    QPushButton* const installButton =
-        AddAnswer(QStringLiteral("PelnarEngine_installButton"),
-                  QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Install Update"), ButtonPlace::End,
-                  choose(UpdateChoice::InstallUpdate));
-    SetDefaultAnswer(installButton, remindButton);
+    QPushButton* const agreement = AddAgreement(offer);
+    SetDefaultAnswer(agreement ? agreement : remindButton, remindButton);
     SetDismissal(choose(UpdateChoice::RemindMeLater));
 }
 

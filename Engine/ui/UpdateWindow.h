@@ -29,7 +29,8 @@ Q_SIGNALS:
 private:
     void AddTexts(UpdateOffer const& offer);
     void AddNotes(ReleaseNotes const& notes);
-    void AddAnswers();
+    void AddAnswers(UpdateOffer const& offer);
+    QPushButton* AddAgreement(UpdateOffer const& offer);
 
     NotesBrowser* m_notes = nullptr;
     QPushButton* m_linkButton = nullptr;

@@ -120,6 +120,7 @@ void AddDiff(CLI::App& program, VerbContext& context)
         ->type_name("LIST");
     AddPlatformOption(*verb, options->platform);
     AddInstallationOptions(*verb, options->installation);
+    AddRolloutGroupOption(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--json", options->isJson, "Print one JSON object");
     SetWork(*verb, context, [options, &context] { return Diff(*options, context.console); });

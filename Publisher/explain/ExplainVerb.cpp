@@ -85,6 +85,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
         ->type_name("V");
     AddPlatformOption(*verb, options->platform);
     AddInstallationOptions(*verb, options->installation);
+    AddRolloutGroupOption(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");

@@ -22,10 +22,14 @@ using Engine::FeedPlatform;
 /// The items of one platform whose downloads can be judged, oldest first.
 std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform platform)
 {
-    std::vector<FeedItem> items = Engine::ParseFeed(request.feed, request.feedAddress, platform).items;
+    QString const machine = QString::fromStdString(Engine::NameOf(request.machine));
+    std::vector<FeedItem> items = Engine::ParseFeed(request.feed, request.feedAddress, {platform, machine}).items;
     items.erase(std::remove_if(items.begin(), items.end(),
-                               [](FeedItem const& item) {
-                                   return item.fileUrl.isEmpty() || item.contentLength == 0 ||
+                               [&machine](FeedItem const& item)
+                               {
+                                   // For another machine there is a run of its own.
+                                   return !Engine::SuitsMachine(item.policy.machines, machine) ||
+                                          item.fileUrl.isEmpty() || item.contentLength == 0 ||
                                           item.edSignature.isEmpty();
                                }),
                 items.end()); // lint has told of them

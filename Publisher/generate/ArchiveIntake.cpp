@@ -1,6 +1,8 @@
 #include "Publisher/generate/ArchiveIntake.h"
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 
@@ -27,7 +29,8 @@ bool Clashes(NewItem const& item, PublishedItem const& published)
 {
     bool const isInstaller = UpdateTypeOf(published.item) == App::Session::UpdateType::INSTALLER;
     return published.version.IsValid() && published.version == item.version && isInstaller == IsInstaller(item.kind) &&
-           published.platforms.count(item.platform) != 0;
+           published.platforms.count(item.platform) != 0 &&
+           Engine::SuitsMachine(published.item.policy.machines, item.machine);
 }
 
 bool Clashes(NewItem const& item, NewItem const& other)
@@ -81,6 +84,26 @@ void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePu
                                    "name of an installer with .sparkle_guided. or .sparkle_interactive.")
                   : QStringLiteral("write PelnarPayloadKind = installer into the information file of a bundle "
                                    "that installs the new version, or remove the mark from the name")});
+}
+
+/// The machine that the header of the program in \a bundle names; empty for another system, for a script, and for a
+/// program that the gate refuses.
+QString MachineOf(BundleTree const& bundle)
+{
+    QStringList machines;
+    for (std::string const& name : Engine::MachineNames())
+    {
+        try
+        {
+            Engine::CheckExecutable(bundle.Descriptor(), bundle.Information().executable, *Engine::MachineOfName(name));
+            machines.append(QString::fromStdString(name));
+        }
+        catch (Engine::UpdateRefusal const&)
+        {
+            continue;
+        }
+    }
+    return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines.first() : QString();
 }
 
 } // namespace
@@ -173,6 +196,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     version.signerId = m_workplace.KeyId();
     item.trustedIds = version.trustedIds;
     CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
+    item.machine = MachineOf(bundle);
     m_versions.push_back(std::move(version));
     return item;
 }
@@ -243,6 +267,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
     version.signerId = m_workplace.KeyId();
     CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
+    item.machine = MachineOf(bundle);
     m_versions.push_back(std::move(version));
 }
 

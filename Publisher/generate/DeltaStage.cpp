@@ -1,5 +1,6 @@
 #include "Publisher/generate/DeltaStage.h"
 
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
 
@@ -102,8 +103,10 @@ NewItem* DeltaStage::NewestItem(std::vector<NewItem>& items) const
     }
     bool const isNewest =
         newest && std::none_of(m_feed.Items().begin(), m_feed.Items().end(),
-                               [newest](PublishedItem const& published) {
+                               [newest](PublishedItem const& published)
+                               {
                                    return published.platforms.count(Engine::FeedPlatform::Linux) != 0 &&
+                                          Engine::SuitsMachine(published.item.policy.machines, newest->machine) &&
                                           newest->version < published.version;
                                });
     return isNewest ? newest : nullptr;
@@ -154,8 +157,7 @@ void DeltaStage::TakeGiven(NewItem& item, QString const& fileName, QString const
                        QStringLiteral("keep one of them")});
     }
     AsContent(
-        [&]
-        {
+        [&] {
             ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), TreeOf(item), m_workplace.console.err);
         });
     ArchiveSignature const signature = m_workplace.Sign(fileName);

@@ -148,10 +148,15 @@ private:
     QString Enclosure(QString const& fileName, QString const& more, ArchiveSignature const& signature) const
     {
         QString const platform = Attribute(m_feed + QStringLiteral("os"), QLatin1String(PlatformName(m_item.platform)));
+        QString const machine =
+            m_item.machine.isEmpty()
+                ? QString()
+                : Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) +
+                      Attribute(QStringLiteral("pelnar:machine"), m_item.machine);
         return QStringLiteral("<enclosure") +
                Attribute(QStringLiteral("url"),
                          m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +
-               Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform +
+               Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform + machine +
                Attribute(QStringLiteral("length"), QString::number(signature.length)) +
                Attribute(QStringLiteral("type"), QStringLiteral("application/octet-stream")) +
                Attribute(m_feed + QStringLiteral("edSignature"), signature.signature) + QStringLiteral("/>");

@@ -56,6 +56,9 @@ char const* SeverityName(Severity severity);
     RULE(PlatformFirst, "platform-first", Warning, "Another platform's items come before those without sparkle:os; a client that does not know sparkle:os takes them.", "put the items without sparkle:os first, or publish a feed for each platform") \
     RULE(ForeignPackage, "foreign-package", Warning, "A package of another system is offered to clients for Linux, which cannot open it.", "give the enclosure the sparkle:os of its system, such as sparkle:os=\"macos\"") \
     RULE(PolicyIgnored, "policy-ignored", Warning, "An item states in the feed's namespace who may get it, but clients do not know that name: they offer the item to everybody.", "publish the item in a separate feed for these people, or remove the element") \
+    RULE(PolicyUnreadable, "policy-unreadable", Warning, "An element that says who gets an item has a value that clients do not read as it is meant.", "write the value in the form that docs/formats/item-policy.md tells") \
+    RULE(StagedWithoutDate, "staged-without-date", Warning, "A staged item has no date that clients read, so that everybody is offered it at once.", "give the item a pubDate as in Mon, 07 Jan 2019 10:00:00 +0000") \
+    RULE(InformationalWithoutPage, "informational-without-page", Warning, "An informational item has neither a link nor release notes at a link, so that its window leads nowhere.", "give the item a <link> to the page that says how to get the version") \
     RULE(KeyNotTrusted, "key-not-trusted", Error, "An item is signed by a key that an older version in the feed does not trust; clients of that version get the offer and always refuse it.", "sign the item with the key that the older version trusts") \
     /* Downloads. */ \
     RULE(AddressMissing, "address-missing", Error, "An item has no enclosure with a valid address.", "give the enclosure a url") \

@@ -1,9 +1,11 @@
 // NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
 
 #include "Engine/core/SafeText.h"
+#include "Engine/core/feed/FeedParser.h"
 #include "Publisher/lint/LintSubject.h"
 #include "Publisher/lint/LintVocabulary.h"
 
+#include <algorithm>
 #include <map>
 #include <set>
 
@@ -139,6 +141,19 @@ private:
                        QStringLiteral("%1 is not read, %2 is").arg(name.qualified, QLatin1String(other)));
     }
 
+    /// Behind the system, whose enclosure it makes another one.
+    static QString MachineOf(LintElement const& enclosure)
+    {
+        auto const machine =
+            std::find_if(enclosure.attributes.begin(), enclosure.attributes.end(),
+                         [](LintAttribute const& attribute)
+                         {
+                             return attribute.name.local == QLatin1String("machine") &&
+                                    attribute.name.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE);
+                         });
+        return machine == enclosure.attributes.end() ? QString() : QLatin1Char(' ') + machine->value;
+    }
+
     void CheckRepetitions(LintElement const& item)
     {
         std::set<QString> met;
@@ -154,7 +169,7 @@ private:
                                QStringLiteral("another <%1> of the item").arg(child.name.qualified));
             }
             if (child.name.IsPlain("enclosure") &&
-                !platforms.insert(child.FeedAttribute("os").value_or(QString()).toLower()).second)
+                !platforms.insert(child.FeedAttribute("os").value_or(QString()).toLower() + MachineOf(child)).second)
             {
                 m_findings.Add(LintRule::RepeatedEnclosure, child.place,
                                QStringLiteral("another enclosure of the item for the same platform"));

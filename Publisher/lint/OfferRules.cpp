@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
 #include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QDateTime>
@@ -19,13 +20,7 @@ using App::Session::IsOlderVersion;
 using App::Session::VersionFromStringNoexcept;
 
 /// Elements that say who gets an item, and that clients do not know.
-constexpr char const* POLICIES[] = {"channel",
-                                    "hardwareRequirements",
-                                    "phasedRolloutInterval",
-                                    "informationalUpdate",
-                                    "minimumAutoupdateVersion",
-                                    "minimumUpdateVersion",
-                                    "ignoreSkippedUpgradesBelowVersion"};
+constexpr char const* POLICIES[] = {"ignoreSkippedUpgradesBelowVersion"};
 
 void CheckPolicies(LintElement const& item, LintFindings& findings)
 {
@@ -40,6 +35,70 @@ void CheckPolicies(LintElement const& item, LintFindings& findings)
                          text.isEmpty() ? QStringLiteral("<%1>").arg(child.name.qualified)
                                         : QStringLiteral("<%1> is \"%2\"").arg(child.name.qualified, text));
         }
+    }
+}
+
+bool IsVersion(QString const& text)
+{
+    return text.isEmpty() || VersionFromStringNoexcept(text).IsValid();
+}
+
+bool IsMachine(QString const& name)
+{
+    std::vector<std::string> names = Engine::MachineNames();
+    names.insert(names.end(), {"arm64", "amd64"});
+    return std::find(names.begin(), names.end(), name.toLower().toStdString()) != names.end();
+}
+
+/// What \a item says of the installations that it is meant for, as far as it can be read from single values.
+void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
+{
+    Engine::FeedItem const& item = *lintItem.full.item;
+    Engine::ItemPolicy const& policy = item.policy;
+    LintPlace const place = lintItem.full.element->place;
+    auto const add = [&](QString const& what) { findings.Add(LintRule::PolicyUnreadable, place, what); };
+    if (!policy.channel.isEmpty() && !Engine::IsChannelName(policy.channel))
+    {
+        add(QStringLiteral("no application can list the channel \"%1\"").arg(policy.channel));
+    }
+    for (QString const& machine : policy.machines + policy.hardware)
+    {
+        if (!IsMachine(machine))
+        {
+            add(QStringLiteral("no client is on the machine \"%1\"").arg(machine));
+        }
+    }
+    for (QString const& version : QStringList{policy.criticalBelow, policy.informationalBelow,
+                                              policy.minimumUpdateVersion, policy.minimumAutoupdateVersion} +
+                                      policy.informationalFor)
+    {
+        if (!IsVersion(version))
+        {
+            add(QStringLiteral("\"%1\" is no version, and bounds nothing").arg(version));
+        }
+    }
+}
+
+void CheckStaging(LintItem const& lintItem, LintFindings& findings)
+{
+    Engine::FeedItem const& item = *lintItem.full.item;
+    for (LintElement const& child : lintItem.full.element->children)
+    {
+        if (child.name.IsFeeds("phasedRolloutInterval") && item.policy.rolloutSeconds == 0)
+        {
+            findings.Add(
+                LintRule::PolicyUnreadable, child.place,
+                QStringLiteral("\"%1\" is no number of seconds from 1 to ten years").arg(child.text.trimmed()));
+        }
+    }
+    if (item.policy.rolloutSeconds != 0 && !Engine::FeedTime(item.dateString).isValid())
+    {
+        findings.Add(LintRule::StagedWithoutDate, lintItem.full.element->place,
+                     QStringLiteral("the date of %1 is \"%2\"").arg(NameOf(item), item.dateString));
+    }
+    if (item.policy.isInformational && item.infoUrl.isEmpty() && item.releaseNotesUrl.isEmpty())
+    {
+        findings.Add(LintRule::InformationalWithoutPage, lintItem.full.element->place, NameOf(item));
     }
 }
 
@@ -138,6 +197,8 @@ void CheckOffers(LintSubject const& subject, LintFindings& findings)
         CheckDates(platform.items, findings);
         for (LintItem const& item : platform.items)
         {
+            CheckPolicyValues(item, findings);
+            CheckStaging(item, findings);
             if (platform.system == Engine::FeedPlatform::Linux)
             {
                 CheckPackage(item, findings);

@@ -123,6 +123,16 @@ bool ShareSystem(Engine::FeedItem const& a, Engine::FeedItem const& b)
            !isBelow(b.maximumSystemVersion, a.minimumSystemVersion);
 }
 
+/// Whether some machine takes both, and neither is withdrawn.
+bool ShareClients(Engine::FeedItem const& a, Engine::FeedItem const& b)
+{
+    bool const shareMachine =
+        a.policy.machines.isEmpty() || b.policy.machines.isEmpty() ||
+        std::any_of(a.policy.machines.begin(), a.policy.machines.end(),
+                    [&](QString const& machine) { return Engine::SuitsMachine(b.policy.machines, machine); });
+    return shareMachine && !a.policy.isWithdrawn && !b.policy.isWithdrawn;
+}
+
 void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)
 {
     for (auto later = items.begin(); later != items.end(); ++later)
@@ -134,7 +144,7 @@ void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)
             Engine::FeedItem const& other = *earlier->full.item;
             Core::Version const otherVersion = VersionFromStringNoexcept(other.versionString);
             if (otherVersion.IsValid() && IsSameVersion(version, otherVersion) &&
-                UpdateTypeOf(item) == UpdateTypeOf(other) && ShareSystem(item, other))
+                UpdateTypeOf(item) == UpdateTypeOf(other) && ShareSystem(item, other) && ShareClients(item, other))
             {
                 findings.Add(LintRule::SamePriority, later->full.Place(),
                              QStringLiteral("%1 has the version and the kind of the item in line %2")

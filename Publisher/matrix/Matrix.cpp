@@ -57,6 +57,38 @@ std::vector<Stranded> FindStranded(Matrix const& matrix, Core::Version const& ne
     return result;
 }
 
+bool IsWithdrawn(std::vector<Engine::FeedItem> const& items, Core::Version const& version)
+{
+    return std::any_of(items.begin(), items.end(),
+                       [&](Engine::FeedItem const& item)
+                       {
+                           Core::Version const own = item.policy.isWithdrawn
+                                                         ? App::Session::VersionFromStringNoexcept(item.versionString)
+                                                         : Core::Version();
+                           return own.IsValid() && App::Session::IsSameVersion(own, version);
+                       });
+}
+
+std::vector<Withdrawn> FindWithdrawn(Matrix const& matrix, std::vector<Engine::FeedItem> const& items)
+{
+    std::vector<Withdrawn> result;
+    for (std::size_t row = 0; row < matrix.versions.size(); ++row)
+    {
+        if (!IsWithdrawn(items, matrix.versions[row].version))
+        {
+            continue;
+        }
+        Withdrawn withdrawn{matrix.versions[row].text, {}};
+        for (Outcome const& outcome : matrix.outcomes[row])
+        {
+            withdrawn.next.append(TextOf(outcome));
+        }
+        withdrawn.next.removeDuplicates();
+        result.push_back(withdrawn);
+    }
+    return result;
+}
+
 QString Row(QStringList const& cells, std::vector<int> const& widths)
 {
     QString line;
@@ -148,6 +180,7 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
             row.push_back(std::move(outcome));
         }
     }
+    matrix.withdrawn = FindWithdrawn(matrix, items);
     matrix.stranded = FindStranded(matrix, NewestVersion(items, installation));
     return matrix;
 }
@@ -171,12 +204,19 @@ QJsonObject JsonOf(Matrix const& matrix)
                                     {QStringLiteral("systems"), QJsonArray::fromStringList(each.systems)},
                                     {QStringLiteral("everywhere"), each.isEverywhere}});
     }
+    QJsonArray withdrawn;
+    for (Withdrawn const& each : matrix.withdrawn)
+    {
+        withdrawn.append(QJsonObject{{QStringLiteral("version"), each.version},
+                                     {QStringLiteral("next"), QJsonArray::fromStringList(each.next)}});
+    }
     return {{QStringLiteral("feed"), matrix.feed},
             {QStringLiteral("platform"), matrix.platform},
             {QStringLiteral("versions"), TextsOf(matrix.versions)},
             {QStringLiteral("systems"), TextsOf(matrix.systems)},
             {QStringLiteral("cells"), cells},
-            {QStringLiteral("stranded"), stranded}};
+            {QStringLiteral("stranded"), stranded},
+            {QStringLiteral("withdrawn"), withdrawn}};
 }
 
 QStringList TextOf(Matrix const& matrix)
@@ -206,6 +246,11 @@ QStringList TextOf(Matrix const& matrix)
     for (QStringList const& row : rows)
     {
         lines.append(Row(row, widths));
+    }
+    for (Withdrawn const& each : matrix.withdrawn)
+    {
+        lines.append(QStringLiteral("withdrawn %1: those who have it get %2")
+                         .arg(each.version, each.next.join(QStringLiteral(", "))));
     }
     return lines + StrandedLines(matrix.stranded);
 }

@@ -22,6 +22,13 @@ struct Stranded
     bool isEverywhere = false; ///< on all systems of the matrix: nobody can leave this version
 };
 
+/// A version that was withdrawn, for those who have it already.
+struct Withdrawn
+{
+    QString version;
+    QStringList next; ///< what they are offered on some system, each once; "none" among them
+};
+
 struct Matrix
 {
     QString feed;
@@ -30,6 +37,7 @@ struct Matrix
     std::vector<NamedVersion> systems;
     std::vector<std::vector<Outcome>> outcomes; ///< by version, then by system
     std::vector<Stranded> stranded;
+    std::vector<Withdrawn> withdrawn;
 };
 
 /// REQUIRES: every version is valid; systems may be unknown.

@@ -173,6 +173,7 @@ void AddMatrix(CLI::App& program, VerbContext& context)
         ->type_name("LIST");
     AddPlatformOption(*verb, options->platform);
     AddInstallationOptions(*verb, options->installation);
+    AddRolloutGroupOption(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_option("--expect", options->expectation,
                      "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "

@@ -119,6 +119,25 @@ TEST_F(Preference, IsThereWhereTheCommandLineOrTheEnvironmentIsNotInUtf8)
     EXPECT_EQ(Box(folder, odd, odd).Ask("get"), "on");
 }
 
+TEST_F(Preference, ChannelsAreTheBundlesUntilThePersonListsOthers)
+{
+    EXPECT_EQ(Ask("channels"), "");
+    SetBundle("PelnarChannels = \"beta, nightly\"; ");
+    EXPECT_EQ(Ask("channels"), "beta nightly");
+    EXPECT_EQ(Ask("channels rc"), "rc");
+    EXPECT_EQ(Ask("channels"), "rc") << "in the next process too";
+    EXPECT_EQ(Ask("channels none"), "");
+    EXPECT_EQ(Ask("channels"), "") << "no channel is a choice as well";
+}
+
+TEST_F(Preference, ChannelsWithNamesThatCannotBeListedChangeNothing)
+{
+    EXPECT_EQ(Ask("channels beta"), "beta");
+    EXPECT_EQ(Ask("channels rc a,b"), "refused:beta");
+    EXPECT_EQ(Ask("channels \x01"), "refused:beta");
+    EXPECT_EQ(Ask("channels"), "beta");
+}
+
 TEST_F(Preference, ThatCannotBeSavedHoldsAsLongAsTheProcess)
 {
     QFile file(folder.filePath(QStringLiteral("config")));

@@ -41,12 +41,49 @@ WindowCase UpdateCase(char const* name, CheckOrigin origin)
             "PelnarEngine_updateWindow",
             origin,
             [origin](IUserInterface& ui, Recorder const& hear)
-            { ui.ShowUpdate(FullOffer(), origin, [hear](UpdateChoice choice) { hear(NameOf(choice)); }); },
+            {
+                UpdateOffer offer = FullOffer();
+                offer.importance = UpdateImportance::Ordinary;
+                ui.ShowUpdate(offer, origin, [hear](UpdateChoice choice) { hear(NameOf(choice)); });
+            },
             {{"PelnarEngine_skipButton", "skip"},
              {"PelnarEngine_remindButton", "remind"},
              {"PelnarEngine_installButton", "install"}},
             "remind",
             origin == CheckOrigin::User ? "PelnarEngine_installButton" : ""};
+}
+
+WindowCase CriticalCase()
+{
+    return {"update_critical",
+            "PelnarEngine_updateWindow",
+            CheckOrigin::User,
+            [](IUserInterface& ui, Recorder const& hear)
+            { ui.ShowUpdate(FullOffer(), CheckOrigin::User, [hear](UpdateChoice choice) { hear(NameOf(choice)); }); },
+            {{"PelnarEngine_remindButton", "remind"}, {"PelnarEngine_installButton", "install"}},
+            "remind",
+            "PelnarEngine_installButton"};
+}
+
+WindowCase PageCase()
+{
+    return {"update_page",
+            "PelnarEngine_updateWindow",
+            CheckOrigin::User,
+            [](IUserInterface& ui, Recorder const& hear)
+            {
+                UpdateOffer offer = FullOffer();
+                offer.importance = UpdateImportance::Ordinary;
+                offer.form = UpdateForm::Page;
+                offer.page = QUrl(QStringLiteral("https://tidepool.example/2.1"));
+                offer.sizeBytes = 0;
+                ui.ShowUpdate(offer, CheckOrigin::User, [hear](UpdateChoice choice) { hear(NameOf(choice)); });
+            },
+            {{"PelnarEngine_skipButton", "skip"},
+             {"PelnarEngine_remindButton", "remind"},
+             {"PelnarEngine_pageButton", "remind"}},
+            "remind",
+            "PelnarEngine_pageButton"};
 }
 
 WindowCase ReadyCase(char const* name, CheckOrigin origin)
@@ -116,6 +153,8 @@ std::vector<WindowCase> AllWindowCases()
          "PelnarEngine_okButton"},
         UpdateCase("update", CheckOrigin::User),
         UpdateCase("update_nobody_asked_for", CheckOrigin::Background),
+        CriticalCase(),
+        PageCase(),
         {"progress",
          "PelnarEngine_progressWindow",
          CheckOrigin::User,

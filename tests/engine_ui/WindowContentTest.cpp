@@ -69,6 +69,36 @@ TEST_F(WindowContent, UpdateShowsBothVersionsSizeTitleAndNotes)
     EXPECT_FALSE(Part<QPushButton>("PelnarEngine_showNotesButton")->isVisible());
 }
 
+TEST_F(WindowContent, CriticalUpdateCannotBeSkipped)
+{
+    ShowOffer(FullOffer());
+    EXPECT_FALSE(HasPart("PelnarEngine_skipButton"));
+}
+
+TEST_F(WindowContent, UpdateWithAPageOpensItAndDownloadsNothing)
+{
+    UpdateOffer offer = FullOffer();
+    offer.form = UpdateForm::Page;
+    offer.page = QUrl(QStringLiteral("https://tidepool.example/2.1"));
+    ShowOffer(offer);
+    EXPECT_EQ(TextOf("PelnarEngine_detail"),
+              QStringLiteral("Tidepool 2.1.0 is now available; you have 2.0.3. Its page says how to get it."));
+    EXPECT_FALSE(HasPart("PelnarEngine_installButton"));
+    Part<QPushButton>("PelnarEngine_pageButton")->click();
+    EXPECT_EQ(Links(), std::vector<QUrl>{offer.page});
+    EXPECT_EQ(m_choices, 1);
+}
+
+TEST_F(WindowContent, PageThatMayNotBeOpenedHasNoButton)
+{
+    UpdateOffer offer = FullOffer();
+    offer.form = UpdateForm::Page;
+    offer.page = QUrl(QStringLiteral("file:///etc/passwd"));
+    ShowOffer(offer);
+    EXPECT_FALSE(HasPart("PelnarEngine_pageButton"));
+    EXPECT_FALSE(HasPart("PelnarEngine_installButton"));
+}
+
 TEST_F(WindowContent, UpdateLeavesOutWhatTheFeedDoesNotSay)
 {
     UpdateOffer offer = FullOffer();

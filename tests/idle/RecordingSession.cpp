@@ -67,8 +67,25 @@ void SetAutomaticDownloads(Pelnar::AutomaticDownload wish)
     std::puts(wish == Pelnar::AutomaticDownload::On ? "session downloads" : "session asks");
 }
 
+std::vector<std::string> Channels()
+{
+    return {"beta"};
+}
+
+bool SetChannels(std::vector<std::string> const& names)
+{
+    std::printf("session channels %d\n", static_cast<int>(names.size()));
+    return true;
+}
+
 } // namespace
 
-SessionExport const pelnarUpdateSession{
-    PELNAR_SESSION_STAMP,  &Session, &ConfirmGoodStart, &UnchangedFeedDays, &SetRelaunchArguments, &AutomaticDownloads,
-    &SetAutomaticDownloads};
+SessionExport const pelnarUpdateSession{PELNAR_SESSION_STAMP,
+                                        &Session,
+                                        &ConfirmGoodStart,
+                                        &UnchangedFeedDays,
+                                        &SetRelaunchArguments,
+                                        &AutomaticDownloads,
+                                        &SetAutomaticDownloads,
+                                        &Channels,
+                                        &SetChannels};

@@ -109,6 +109,84 @@ TEST_F(UpdateFlowTest, UnaskedUpdateIsOfferedQuietly)
     EXPECT_EQ(notes, (Notes{"found", "check ended", "window quiet update", "skip 5.1", "ended"}));
 }
 
+TEST_F(UpdateFlowTest, InformationalUpdateIsAWindowWithItsPageAlsoWhenAutomatic)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1", "<sparkle:informationalUpdate/><link>https://a.example/5.1</link>"))));
+    settings.automaticDownload = AutomaticDownload::On;
+    RunToWindow(CheckKind::Background, "quiet update");
+    ASSERT_TRUE(windows.offer);
+    EXPECT_EQ(windows.offer->form, UpdateForm::Page);
+    EXPECT_EQ(windows.offer->page, QUrl(QStringLiteral("https://a.example/5.1")));
+    EXPECT_EQ(windows.offer->sizeBytes, 0u);
+    windows.Choose(UpdateChoice::RemindMeLater);
+    EXPECT_EQ(notes, (Notes{"found", "check ended", "aborted 4007", "window quiet update", "ended"}))
+        << "who waits for a silent download is told that there is none";
+    EXPECT_TRUE(parts.requests.empty());
+}
+
+TEST_F(UpdateFlowTest, InformationalUpdateForOthersIsAnOrdinaryOne)
+{
+    Publish(FeedWith(Signed(ItemOf("5.1", "<sparkle:informationalUpdate><sparkle:belowVersion>5.0"
+                                          "</sparkle:belowVersion></sparkle:informationalUpdate>"))));
+    RunToWindow(CheckKind::Interactive, "update");
+    ASSERT_TRUE(windows.offer);
+    EXPECT_EQ(windows.offer->form, UpdateForm::Download);
+}
+
+TEST_F(UpdateFlowTest, VersionThatIsTooOldForASilentUpdateIsAsked)
+{
+    settings.automaticDownload = AutomaticDownload::On;
+    Publish(
+        FeedWith(Signed(ItemOf("5.1", "<sparkle:minimumAutoupdateVersion>5.05</sparkle:minimumAutoupdateVersion>"))));
+    RunToWindow(CheckKind::Background, "quiet update");
+    EXPECT_EQ(notes, (Notes{"found", "check ended", "aborted 4007", "window quiet update"}));
+    windows.Choose(UpdateChoice::InstallUpdate);
+    EXPECT_EQ(parts.requests.size(), 1u);
+    flow.reset();
+
+    Publish(
+        FeedWith(Signed(ItemOf("5.1", "<sparkle:minimumAutoupdateVersion>5.0</sparkle:minimumAutoupdateVersion>"))));
+    Begin(CheckKind::Background);
+    EXPECT_TRUE(WaitForDownload()) << "silent";
+}
+
+TEST_F(UpdateFlowTest, CriticalUpdateIsOfferedThoughItWasSkipped)
+{
+    settings.check.skippedVersion = QStringLiteral("5.1");
+    Publish(FeedWith(Signed(ItemOf("5.1", "<sparkle:criticalUpdate sparkle:version='5.05'/>"))));
+    RunToWindow(CheckKind::Background, "quiet update");
+    ASSERT_TRUE(windows.offer);
+    EXPECT_EQ(windows.offer->importance, UpdateImportance::Critical);
+    windows.Choose(UpdateChoice::RemindMeLater);
+    Publish(FeedWith(Signed(ItemOf("5.1", "<sparkle:criticalUpdate sparkle:version='5.0'/>"))));
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"not found", "aborted 1001", "check ended", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, StagedUpdateIsAPersonsAtOnce)
+{
+    settings.check.rolloutGroup = [](QString const&) { return 6; };
+    parts.now = QDateTime(QDate(2019, 1, 8), QTime(0, 0), Qt::UTC);
+    Publish(FeedWith(Signed(ItemOf("5.1", "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>"))));
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"not found", "check ended", "ended"}));
+    EXPECT_EQ(Run(CheckKind::Background), (Notes{"not found", "aborted 1001", "check ended", "ended"}));
+    EXPECT_EQ(host.itemCount, 0u) << "the application is not asked about it";
+    RunToWindow(CheckKind::Interactive, "update");
+    windows.Choose(UpdateChoice::RemindMeLater);
+    parts.now = QDateTime(QDate(2019, 1, 13), QTime(10, 0), Qt::UTC);
+    EXPECT_EQ(Run(CheckKind::Probe), (Notes{"found", "check ended", "ended"}));
+}
+
+TEST_F(UpdateFlowTest, ItemOfAnotherChannelHidesNoOtherOne)
+{
+    Publish(FeedWith(Signed(ItemOf("5.2", "<sparkle:channel>beta</sparkle:channel>")) + Signed(ItemOf("5.1"))));
+    RunToWindow(CheckKind::Interactive, "update");
+    EXPECT_EQ(host.itemCount, 1u);
+    windows.Choose(UpdateChoice::RemindMeLater);
+    settings.check.channels = QStringList{QStringLiteral("beta")};
+    RunToWindow(CheckKind::Interactive, "update");
+    EXPECT_EQ(host.itemCount, 2u);
+}
+
 TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
 {
     Publish(FeedWith(ItemOf("5.1")));

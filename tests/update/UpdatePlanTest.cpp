@@ -25,7 +25,10 @@ TEST(UpdatePlan, OnlyABackgroundCheckThatDownloadsByItselfIsSilent)
           Row{CheckKind::Interactive, AutomaticDownload::On, UpdateManner::Windows, CheckOrigin::User},
           Row{CheckKind::Interactive, AutomaticDownload::Off, UpdateManner::Windows, CheckOrigin::User}})
     {
-        EXPECT_EQ(MannerOf(row.kind, row.automatic), row.manner);
+        FeedItem item;
+        EXPECT_EQ(MannerOf(row.kind, row.automatic, item), row.manner);
+        item.policy.isToBeAsked = true;
+        EXPECT_EQ(MannerOf(row.kind, row.automatic, item), UpdateManner::Windows);
         EXPECT_EQ(OriginOf(row.kind), row.origin);
     }
 }

@@ -13,7 +13,7 @@ OfferVerdict JudgeOffer(OfferQuestion const& question, VersionOrder const& order
     {
         return OfferVerdict::Offered;
     }
-    if (!question.skippedVersion.isEmpty() &&
+    if (!question.isCritical && !question.skippedVersion.isEmpty() &&
         (question.itemVersion == question.skippedVersion || order(question.skippedVersion, question.itemVersion) >= 0))
     {
         return OfferVerdict::Skipped;

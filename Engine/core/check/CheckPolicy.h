@@ -36,6 +36,7 @@ struct OfferQuestion
     QString failedVersion;  ///< empty if no version was rolled back to the running one
     /// Its installation failed, so background checks do not offer it; empty if no version is held back.
     QString heldBackVersion = {};
+    bool isCritical = false; ///< then a skip does not count
 };
 
 /// Exceptions of \a order propagate.

@@ -289,7 +289,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     }
     OfferVerdict const verdict =
         JudgeOffer({m_kind, At(answer.place).versionString, m_settings.bundleVersion, m_settings.skippedVersion,
-                    m_settings.failedVersion, m_settings.heldBackVersion},
+                    m_settings.failedVersion, m_settings.heldBackVersion, At(answer.place).isCritical},
                    order);
     LOG_IF(INFO, verdict != OfferVerdict::Offered)
         << "Update " << EscapedRemoteText(At(answer.place).versionString).toStdString() << " is " << NameOf(verdict);

@@ -39,6 +39,7 @@ struct ItemPolicy
     QString minimumAutoupdateVersion; ///< the oldest version that is updated to it without being asked
     qint64 rolloutSeconds = 0;        ///< from one group of a staged rollout to the next; 0: not staged
     bool isInformational = false;     ///< for every version, unless the two above name some
+    bool isToBeAsked = false;         ///< settled by LeaveOut: it is not downloaded before a person has agreed
     bool isWithdrawn = false;
 };
 

@@ -70,9 +70,10 @@ bool IsInformational(FeedItem const& item, Installation const& installation, Ver
            (!policy.informationalBelow.isEmpty() && order(installation.version, policy.informationalBelow) < 0);
 }
 
-QString Quoted(QString const& text)
+bool IsTooOldForAutomatic(FeedItem const& item, Installation const& installation, VersionOrder const& order)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    QString const& minimum = item.policy.minimumAutoupdateVersion;
+    return !minimum.isEmpty() && !installation.version.isEmpty() && order(installation.version, minimum) < 0;
 }
 
 QString NamesOf(QStringList const& names)
@@ -153,7 +154,7 @@ QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const
                  installation.machine);
     case PolicyVerdict::OtherChannel:
         return QStringLiteral("channel %1, listed: %2")
-            .arg(Quoted(item.policy.channel), NamesOf(installation.channels));
+            .arg(item.policy.channel, NamesOf(installation.channels));
     case PolicyVerdict::NeedsAnotherVersionFirst:
         return QStringLiteral("installed %1 < %2, from which it can be updated")
             .arg(installation.version, item.policy.minimumUpdateVersion);
@@ -194,8 +195,18 @@ void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, Ve
     {
         item.isCritical = IsCriticalFor(item, installation, order);
         item.policy.isInformational = IsInformational(item, installation, order);
+        item.policy.isToBeAsked = item.policy.isInformational || IsTooOldForAutomatic(item, installation, order);
         LeaveOut(item.deltas, installation, order);
     }
+}
+
+bool IsChannelName(QString const& name)
+{
+    return !name.isEmpty() && std::none_of(name.begin(), name.end(),
+                                           [](QChar character) {
+                                               return character.isSpace() || character == QLatin1Char(',') ||
+                                                      character.category() == QChar::Other_Control;
+                                           });
 }
 
 QString OwnMachineName()

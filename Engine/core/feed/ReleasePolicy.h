@@ -66,8 +66,11 @@ enum class PolicyVerdict
 [[nodiscard]] bool DependsOnVersion(FeedItem const& item);
 
 /// Removes what is not meant for \a installation from \a items and their deltas, each with a record in the log, and
-/// settles what is critical for it. Lets exceptions of \a order through.
+/// settles what is critical, informational and to be asked for there. Lets exceptions of \a order through.
 void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order);
+
+/// Whether a setting can list a channel of that name, and a feed name it.
+[[nodiscard]] bool IsChannelName(QString const& name);
 
 /// The machine that this program was built for, as feeds name it: "x86_64", "aarch64".
 [[nodiscard]] QString OwnMachineName();

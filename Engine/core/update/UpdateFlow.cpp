@@ -125,6 +125,13 @@ void UpdateFlow::CheckEnded()
         End(m_kind == CheckKind::Interactive ? PersonAsked::Yes : PersonAsked::No);
         return;
     }
+    bool const isSilentRequest =
+        m_kind == CheckKind::Background && m_settings.automaticDownload == AutomaticDownload::On;
+    if (isSilentRequest && m_candidates.front().item.policy.isToBeAsked)
+    {
+        // The application waits for a silent download, which does not come: what follows is the windows' affair.
+        (void)FailureOf("updater:didAbortWithError:", [this] { m_host.TellAborted(MakeError(ErrorCause::Cancelled)); });
+    }
     m_update = std::make_unique<UpdateRun>(m_kind, std::move(m_candidates), m_settings, m_host, m_windows, m_parts,
                                            [this](UpdateEnd const& end) { EndUpdate(end); });
     m_update->Start();

@@ -23,10 +23,11 @@ constexpr char const* INSTALLER_MARKS[] = {".sparkle_guided.", ".sparkle_interac
 
 } // namespace
 
-UpdateManner MannerOf(CheckKind kind, AutomaticDownload automaticDownload)
+UpdateManner MannerOf(CheckKind kind, AutomaticDownload automaticDownload, FeedItem const& item)
 {
-    return kind == CheckKind::Background && automaticDownload == AutomaticDownload::On ? UpdateManner::Silent
-                                                                                       : UpdateManner::Windows;
+    bool const isSilent =
+        kind == CheckKind::Background && automaticDownload == AutomaticDownload::On && !item.policy.isToBeAsked;
+    return isSilent ? UpdateManner::Silent : UpdateManner::Windows;
 }
 
 CheckOrigin OriginOf(CheckKind kind)
@@ -127,6 +128,12 @@ UpdateOffer OfferOf(FeedItem const& item, RunningBundle const& bundle)
     offer.title = item.title;
     offer.sizeBytes = item.contentLength;
     offer.importance = item.isCritical ? UpdateImportance::Critical : UpdateImportance::Ordinary;
+    if (item.policy.isInformational)
+    {
+        offer.form = UpdateForm::Page;
+        offer.page = item.infoUrl.isEmpty() ? item.releaseNotesUrl : item.infoUrl;
+        offer.sizeBytes = 0;
+    }
     offer.notes.text = item.description;
     offer.notes.format = ReleaseNotesFormatFromText(item.descriptionFormat.toStdString());
     offer.notes.address = item.releaseNotesUrl;

@@ -19,7 +19,7 @@ enum class UpdateManner
     Windows,
     Silent,
 };
-[[nodiscard]] UpdateManner MannerOf(CheckKind kind, AutomaticDownload automaticDownload);
+[[nodiscard]] UpdateManner MannerOf(CheckKind kind, AutomaticDownload automaticDownload, FeedItem const& item);
 [[nodiscard]] CheckOrigin OriginOf(CheckKind kind);
 
 /// One archive from which an update can be made.

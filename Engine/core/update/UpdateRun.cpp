@@ -42,7 +42,7 @@ std::function<void(Arguments...)> UpdateRun::Guarded(void (UpdateRun::*call)(Arg
 UpdateRun::UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, UpdateSettings const& settings,
                      IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts,
                      std::function<void(UpdateEnd)> ended)
-    : m_manner(MannerOf(kind, settings.automaticDownload))
+    : m_manner(MannerOf(kind, settings.automaticDownload, candidates.front().item))
     , m_origin(OriginOf(kind))
     , m_candidates(std::move(candidates))
     , m_settings(settings)
@@ -67,6 +67,11 @@ void UpdateRun::Start()
 
 void UpdateRun::Begin()
 {
+    if (Current().item.policy.isInformational)
+    {
+        Ask();
+        return;
+    }
     // Every possible refusal comes before a person is asked and a byte is fetched.
     if (auto fault = FaultOf(m_settings.bundle))
     {

@@ -36,6 +36,13 @@ enum class UpdateImportance
     Critical,
 };
 
+/// What a person can do with an offered update.
+enum class UpdateForm
+{
+    Download,
+    Page, ///< read a page that says how to get it; nothing is downloaded
+};
+
 struct ReleaseNotes
 {
     QString text; ///< from a server; empty if there are none or they are at a link
@@ -47,10 +54,12 @@ struct UpdateOffer
 {
     QString applicationName;
     QString currentVersion;
-    QString version;       ///< from a server
-    QString title;         ///< from a server; may be empty
-    quint64 sizeBytes = 0; ///< 0 when unknown
-    UpdateImportance importance = UpdateImportance::Ordinary;
+    QString version;                                          ///< from a server
+    QString title;                                            ///< from a server; may be empty
+    quint64 sizeBytes = 0;                                    ///< 0 when unknown
+    UpdateImportance importance = UpdateImportance::Ordinary; ///< a critical one cannot be skipped
+    UpdateForm form = UpdateForm::Download;
+    QUrl page; ///< from a server; may be empty
     ReleaseNotes notes;
 };
 

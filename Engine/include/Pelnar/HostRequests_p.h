@@ -21,5 +21,8 @@ KeepRelaunchArguments(std::vector<std::string> const& arguments);
 /// See Pelnar::AutomaticDownloads and Pelnar::SetAutomaticDownloads.
 __attribute__((visibility("default"))) Pelnar::AutomaticDownload WishedDownloads();
 __attribute__((visibility("default"))) void WishDownloads(Pelnar::AutomaticDownload wish);
+/// See Pelnar::Channels and Pelnar::SetChannels.
+__attribute__((visibility("default"))) std::vector<std::string> ListedChannels();
+[[nodiscard]] __attribute__((visibility("default"))) bool ListChannels(std::vector<std::string> const& names);
 
 } // namespace Pelnar::Engine

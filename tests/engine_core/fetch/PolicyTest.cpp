@@ -64,6 +64,13 @@ TEST(OfferPolicy, NewerThanTheBundleAndNotSkipped)
     }
 }
 
+TEST(OfferPolicy, CriticalVersionIsOfferedThoughItWasSkipped)
+{
+    OfferQuestion critical = question(CheckKind::Background, "5.1", "5.0", "5.1");
+    critical.isCritical = true;
+    EXPECT_EQ(JudgeOffer(critical, &CompareVersionTexts), OfferVerdict::Offered);
+}
+
 TEST(OfferPolicy, ExceptionsOfTheOrderPass)
 {
     EXPECT_THROW((void)JudgeOffer(question(CheckKind::Probe, "x", "5.0", ""),

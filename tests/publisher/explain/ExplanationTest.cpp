@@ -262,7 +262,7 @@ INSTANTIATE_TEST_SUITE_P(
     , PolicyOfAnItem,
     ::testing::Values(
         PolicyRow{"Withdrawn", "<p:withdrawn/>", "withdrawn: the publisher has withdrawn it", Standing::LeftOut},
-        PolicyRow{"OtherChannel", "<s:channel>beta</s:channel>", "other-channel: channel \"beta\", listed: nightly",
+        PolicyRow{"OtherChannel", "<s:channel>beta</s:channel>", "other-channel: channel beta, listed: nightly",
                   Standing::LeftOut},
         PolicyRow{"OwnChannel", "<s:channel>nightly</s:channel>", "valid: chosen", Standing::Chosen},
         PolicyRow{"OtherArchitecture", "<s:hardwareRequirements>arm64</s:hardwareRequirements>",

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <elf.h>
+
 #include <QDateTime>
 #include <QFile>
 
@@ -55,6 +57,56 @@ TEST(Generate, ItemSaysWhatTheBundleSays)
     EXPECT_EQ(Text(item.edSignature), Base64(Sign(archive, folder.Keys())));
     EXPECT_TRUE(folder.Items(FeedPlatform::MacOS).empty());
     EXPECT_NE(feed.find("<title>My Test</title>"), std::string::npos) << feed;
+}
+
+TEST(Generate, ItemSaysTheMachineOfItsProgramAndTwoMachinesShareAFeed)
+{
+    PublisherFolder const first;
+    PublisherFolder const second;
+    BundleText text;
+    text.version = "2.0";
+    text.program = ElfProgram(EM_X86_64);
+    first.PutBundle(text);
+    EXPECT_EQ(first.Generate({QStringLiteral("--machine"), QStringLiteral("x86_64")}).status, 0);
+    text.program = ElfProgram(EM_AARCH64);
+    second.Put("Test-2.0-aarch64.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    ToolRun const run = second.Generate({QStringLiteral("--machine"), QStringLiteral("aarch64"),
+                                         QStringLiteral("--output"), first.PathOf("appcast.xml")});
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    std::vector<Engine::FeedItem> const items = first.Items();
+    ASSERT_EQ(items.size(), 2u) << first.ContentOf("appcast.xml");
+    QStringList const machines = items[0].policy.machines + items[1].policy.machines;
+    EXPECT_TRUE(machines.contains(QStringLiteral("x86_64"))) << machines.join(QLatin1Char(' ')).toStdString();
+    EXPECT_TRUE(machines.contains(QStringLiteral("aarch64"))) << machines.join(QLatin1Char(' ')).toStdString();
+    EXPECT_EQ(machines.size(), 2);
+    std::string const feed = first.ContentOf("appcast.xml");
+    EXPECT_EQ(first.Generate({QStringLiteral("--machine"), QStringLiteral("x86_64")}).status, 0);
+    EXPECT_EQ(first.ContentOf("appcast.xml"), feed) << "running it again changes nothing";
+}
+
+TEST(Generate, ScriptIsForEveryMachine)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    EXPECT_EQ(folder.GeneratedFeed().find("machine"), std::string::npos);
+}
+
+TEST(Generate, WithdrawnVersionIsNotPublishedAgain)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("1.1");
+    (void)folder.GeneratedFeed();
+    ASSERT_EQ(RunTool({QStringLiteral("withdraw"), folder.PathOf("appcast.xml"), QStringLiteral("1.1")}).status, 0);
+    std::string const feed = folder.ContentOf("appcast.xml");
+    EXPECT_EQ(folder.Generate().status, 0);
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+    folder.PutVersion("1.2");
+    EXPECT_EQ(folder.Generate().status, 0);
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 3u);
+    EXPECT_FALSE(items[0].policy.isWithdrawn);
+    EXPECT_TRUE(items[1].policy.isWithdrawn);
 }
 
 TEST(Generate, EveryContainerOfABundleIsRead)

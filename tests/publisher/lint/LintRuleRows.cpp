@@ -237,11 +237,10 @@ void AddOfferCases(std::vector<LintCase>& cases)
                          std::string("foreign-package 2:7 ") + name});
     }
     cases.push_back({"PackageForItsSystemPasses", FeedOf(Os("App.dmg", "macos") + Os("App.exe", "windows")), ""});
-    cases.push_back({"PolicyIgnored", FeedOf(Item("5.1", "\n<sparkle:channel>beta</sparkle:channel>")),
-                     "policy-ignored 3:1 <sparkle:channel> is \"beta\""});
-    cases.push_back({"PolicyOfHardware",
-                     FeedOf(Item("5.1", "\n<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>")),
-                     "policy-ignored 3:1 <sparkle:hardwareRequirements> is \"arm64\""});
+    cases.push_back({"PolicyIgnored",
+                     FeedOf(Item("5.1", "\n<sparkle:ignoreSkippedUpgradesBelowVersion>5</sparkle:"
+                                        "ignoreSkippedUpgradesBelowVersion>")),
+                     "policy-ignored 3:1 <sparkle:ignoreSkippedUpgradesBelowVersion> is \"5\""});
     cases.push_back(
         {"KeyNotTrusted", FeedOf(Keyed("5.1", "bb", "bb") + Keyed("5.0", "aa", "aa")), "key-not-trusted 2:"});
     cases.push_back(
@@ -255,6 +254,55 @@ void AddOfferCases(std::vector<LintCase>& cases)
                      FeedOf(Item("5.2", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>") +
                             Item("5.1", "<pubDate>Tue, 08 Jan 2019 12:00:00 +0200</pubDate>")),
                      ""});
+}
+
+void AddPolicyCases(std::vector<LintCase>& cases)
+{
+    std::string const date = "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>";
+    struct Row
+    {
+        char const* name;
+        std::string elements;
+        char const* found;
+    };
+    for (Row const& row :
+         {Row{"PolicyChannelPasses", "<sparkle:channel>beta</sparkle:channel>", ""},
+          Row{"PolicyChannelOfTwoWords", "<sparkle:channel>beta 2</sparkle:channel>",
+              "policy-unreadable 2:1 no application can list the channel \"beta 2\""},
+          Row{"PolicyHardwarePasses", "<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>", ""},
+          Row{"PolicyHardwareOfNobody", "<sparkle:hardwareRequirements>abacus</sparkle:hardwareRequirements>",
+              "policy-unreadable 2:1 no client is on the machine \"abacus\""},
+          Row{"PolicyMinimumPasses", "<sparkle:minimumUpdateVersion>5.0</sparkle:minimumUpdateVersion>", ""},
+          Row{"PolicyMinimumOfNoVersion", "<sparkle:minimumUpdateVersion>five</sparkle:minimumUpdateVersion>",
+              "policy-unreadable 2:1 \"five\" is no version, and bounds nothing"},
+          Row{"PolicyAutomaticMinimumOfNoVersion",
+              "<sparkle:minimumAutoupdateVersion>five</sparkle:minimumAutoupdateVersion>",
+              "policy-unreadable 2:1 \"five\" is no version, and bounds nothing"},
+          Row{"PolicyCriticalForNoVersion", "<sparkle:criticalUpdate sparkle:version='x'/>",
+              "policy-unreadable 2:1 \"x\" is no version, and bounds nothing"},
+          Row{"StagedPasses", date + "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>", ""},
+          Row{"StagedInNoNumber", date + "\n<sparkle:phasedRolloutInterval>day</sparkle:phasedRolloutInterval>",
+              "policy-unreadable 3:1 \"day\" is no number of seconds from 1 to ten years"},
+          Row{"StagedWithoutDate", "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>",
+              "staged-without-date 2:1 the date of item 5.1 is \"\""},
+          Row{"InformationalPasses", "<sparkle:informationalUpdate/><link>https://a.example/5.1</link>", ""},
+          Row{"InformationalWithoutPage", "<sparkle:informationalUpdate/>", "informational-without-page 2:1 item 5.1"}})
+    {
+        cases.push_back({row.name, FeedOf(Item("5.1", QByteArray::fromStdString(row.elements))), row.found});
+    }
+    QByteArray const own = " xmlns:p='https://pelnar.example/xml-namespaces/appcast'";
+    cases.push_back({"OneVersionForTwoMachinesPasses",
+                     FeedOf("<item>" + Enclosure("5.1", own + " p:machine='x86_64'") + "</item><item>" +
+                            Enclosure("5.1", own + " p:machine='aarch64'") + "</item>"),
+                     ""});
+    cases.push_back({"EnclosuresForTwoMachinesPass",
+                     FeedOf("<item>" + Enclosure("5.1", own + " p:machine='x86_64'") +
+                            Enclosure("5.1", own + " p:machine='aarch64'") + "</item>"),
+                     ""});
+    cases.push_back({"MachineOfNobody", FeedOf("<item>" + Enclosure("5.1", own + " p:machine='abacus'") + "</item>"),
+                     "policy-unreadable 2:1 no client is on the machine \"abacus\""});
+    cases.push_back({"WithdrawnItemBesideItsSuccessorPasses",
+                     FeedOf("<item><p:withdrawn" + own + "/>" + Enclosure("5.1") + "</item>" + Item("5.1")), ""});
 }
 
 void AddAddressCases(std::vector<LintCase>& cases)
@@ -449,8 +497,9 @@ std::vector<LintCase> const& LintCases()
     static std::vector<LintCase> const cases = []
     {
         std::vector<LintCase> made;
-        for (auto* const add : {AddDocumentCases, AddNameCases, AddVersionCases, AddOfferCases, AddAddressCases,
-                                AddSystemCases, AddDownloadCases, AddDeltaCases, AddExtensionCases, AddNotesCases})
+        for (auto* const add :
+             {AddDocumentCases, AddNameCases, AddVersionCases, AddOfferCases, AddPolicyCases, AddAddressCases,
+              AddSystemCases, AddDownloadCases, AddDeltaCases, AddExtensionCases, AddNotesCases})
         {
             add(made);
         }

@@ -82,6 +82,26 @@ TEST(Matrix, NamesVersionsThatNobodyCanLeave)
     EXPECT_EQ(run.out.find("5.2\n"), std::string::npos) << run.out;
 }
 
+TEST(Matrix, WithdrawnVersionSaysWhereItsPeopleGo)
+{
+    QByteArray const feed =
+        "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+        "xmlns:p='https://pelnar.example/xml-namespaces/appcast'>"
+        "<item><enclosure url='https://a.example/3.zip' length='3' sparkle:version='5.3'/>"
+        "<sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion></item>"
+        "<item><p:withdrawn/><enclosure url='https://a.example/2.zip' length='3' sparkle:version='5.2'/></item>"
+        "<item><enclosure url='https://a.example/1.zip' length='3' sparkle:version='5.1'/></item></rss>";
+    ToolRun const run = RunTool(Of("from-feed", "11,12"), feed);
+    EXPECT_NE(run.out.find("withdrawn 5.2: those who have it get none, 5.3 BUNDLE\n"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("5.1        none   5.3 BUNDLE"), std::string::npos) << run.out;
+    QJsonArray const withdrawn = RunTool(Of("from-feed", "11,12") + QStringList(QStringLiteral("--json")), feed)
+                                     .Json()[QStringLiteral("withdrawn")]
+                                     .toArray();
+    EXPECT_EQ(withdrawn, (QJsonArray{QJsonObject{{QStringLiteral("version"), QStringLiteral("5.2")},
+                                                 {QStringLiteral("next"),
+                                                  QJsonArray{QStringLiteral("none"), QStringLiteral("5.3 BUNDLE")}}}}));
+}
+
 TEST(Matrix, TheJsonHasTheDocumentedMembers)
 {
     QJsonObject const object =
@@ -99,6 +119,7 @@ TEST(Matrix, TheJsonHasTheDocumentedMembers)
             {QStringLiteral("machine"), QStringLiteral("aarch64")},
             {QStringLiteral("channels"), QJsonArray{QStringLiteral("beta"), QStringLiteral("rc")}},
             {QStringLiteral("rolloutGroup"), 7},
+            {QStringLiteral("withdrawn"), QJsonArray()},
             {QStringLiteral("versions"), QJsonArray{QStringLiteral("5.1")}},
             {QStringLiteral("systems"), QJsonArray{QStringLiteral("11"), QStringLiteral("12")}},
             {QStringLiteral("cells"),

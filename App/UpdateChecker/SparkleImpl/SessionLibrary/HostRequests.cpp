@@ -7,6 +7,7 @@
 #include "common/LogSite.h"
 
 #include <Pelnar/AutomaticDownloads.h>
+#include <Pelnar/Channels.h>
 #include <Pelnar/FeedAge.h>
 #include <Pelnar/GoodStart.h>
 #include <Pelnar/RelaunchArguments.h>
@@ -52,6 +53,18 @@ void Pelnar::SetAutomaticDownloads(AutomaticDownload wish)
     {
         loaded->setAutomaticDownloads(wish);
     }
+}
+
+std::vector<std::string> Pelnar::Channels()
+{
+    SessionExport const* const loaded = SessionLibrary::Instance().Load();
+    return loaded ? loaded->channels() : std::vector<std::string>();
+}
+
+bool Pelnar::SetChannels(std::vector<std::string> const& names)
+{
+    SessionExport const* const loaded = SessionLibrary::Instance().Load();
+    return loaded && loaded->setChannels(names);
 }
 
 bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)

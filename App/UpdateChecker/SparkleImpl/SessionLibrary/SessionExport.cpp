@@ -10,4 +10,6 @@ Pelnar::App::SessionExport const pelnarUpdateSession{PELNAR_SESSION_STAMP,
                                                      &Pelnar::Engine::DaysOfUnchangedFeed,
                                                      &Pelnar::Engine::KeepRelaunchArguments,
                                                      &Pelnar::Engine::WishedDownloads,
-                                                     &Pelnar::Engine::WishDownloads};
+                                                     &Pelnar::Engine::WishDownloads,
+                                                     &Pelnar::Engine::ListedChannels,
+                                                     &Pelnar::Engine::ListChannels};

@@ -26,6 +26,8 @@ struct SessionExport
     bool (*setRelaunchArguments)(std::vector<std::string> const& arguments);
     AutomaticDownload (*automaticDownloads)();
     void (*setAutomaticDownloads)(AutomaticDownload wish);
+    std::vector<std::string> (*channels)();
+    bool (*setChannels)(std::vector<std::string> const& names);
 };
 
 /// The name of the library's only SessionExport.

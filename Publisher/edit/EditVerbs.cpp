@@ -1,0 +1,169 @@
+#include "Publisher/edit/EditVerbs.h"
+
+#include "Engine/core/feed/SignedFeed.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/edit/FeedEdits.h"
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/files/FolderLock.h"
+#include "Publisher/signfeed/FeedSigner.h"
+#include "Publisher/signfeed/SignFeedVerb.h"
+
+#include <QFileInfo>
+
+#include <climits>
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct EditOptions
+{
+    std::string feed;
+    std::string version;
+    std::string channel;
+    std::string notes;
+    int keptVersions = 0;
+    std::string key;
+    int validDays = SigningTerms().validDays;
+    bool isDryRun = false;
+};
+
+using Edit = void (*)(FeedEdit& feed, EditOptions const& options);
+
+bool HasSignature(QByteArray const& bytes)
+{
+    return Engine::SplitSignedFeed(bytes).fault != Engine::SignedFeedFault::Missing;
+}
+
+void Store(QString const& name, QByteArray const& bytes)
+{
+    AtomicFile file(name);
+    file.Write(bytes);
+    file.Commit(ExistingFile::Replace);
+}
+
+/// Writes \a edited, signed by the key if one was given.
+void Store(QString const& name, QByteArray const& edited, bool wasSigned, EditOptions const& options,
+           Console const& console)
+{
+    if (options.key.empty())
+    {
+        Store(name, edited);
+        if (wasSigned)
+        {
+            console.Print(QStringLiteral("%1: its signature does not fit any more; sign it again with "
+                                         "pelnar-appcast sign-feed --accept-changes")
+                              .arg(name));
+        }
+        return;
+    }
+    SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
+    SignedFeedBytes const feed = SignFeed(name, edited, key, {{}, options.validDays, QDateTime::currentDateTimeUtc()});
+    Store(name, feed.bytes);
+    console.Print(QStringLiteral("%1: %2").arg(name, TextOf(feed.terms)));
+}
+
+ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
+{
+    QString const name = QString::fromStdString(options.feed);
+    FolderLock const lock(QFileInfo(name).absolutePath(), console);
+    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
+    bool const wasSigned = HasSignature(bytes);
+    if (!options.key.empty())
+    {
+        SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
+        bytes = ReadFeedContent(name, bytes, key, ChangedFeed::Refused).bytes;
+    }
+    FeedEdit feed(name, bytes);
+    edit(feed, options);
+    for (QString const& line : feed.Differences())
+    {
+        console.Print(Printable(line));
+    }
+    if (!feed.HasChanges())
+    {
+        console.Print(QStringLiteral("%1: nothing to change").arg(name));
+        return ExitStatus::Clean;
+    }
+    FeedEdit const proof(name, feed.Bytes());
+    if (options.isDryRun)
+    {
+        console.Print(QStringLiteral("%1: not written, as this is a dry run").arg(name));
+        return ExitStatus::Clean;
+    }
+    Store(name, feed.Bytes(), wasSigned, options, console);
+    return ExitStatus::Clean;
+}
+
+CLI::App& AddVerb(CLI::App& program, VerbContext& context, std::shared_ptr<EditOptions> const& options,
+                  char const* name, char const* what, Edit edit)
+{
+    CLI::App& verb = *program.add_subcommand(name, what);
+    verb.add_option("FEED", options->feed, "File of the feed; every byte that is not meant stays as it is")->required();
+    verb.add_flag("--dry-run", options->isDryRun, "Show what would be changed, and write nothing");
+    verb.add_option("--key", options->key,
+                    "File of the private key, or \"-\" for standard input: signs the changed feed. Without it a signed "
+                    "feed must be signed again")
+        ->type_name("FILE");
+    AddValidForOption(verb, options->validDays);
+    SetWork(verb, context, [options, edit, &context] { return Run(edit, *options, context.console); });
+    return verb;
+}
+
+void AddVersion(CLI::App& verb, EditOptions& options)
+{
+    verb.add_option("VERSION", options.version, "Version of the items")->required();
+}
+
+} // namespace
+
+void AddEdits(CLI::App& program, VerbContext& context)
+{
+    auto const promotion = std::make_shared<EditOptions>();
+    CLI::App& promote = AddVerb(
+        program, context, promotion, "promote", "Takes a version out of its channel, so that everybody is offered it",
+        [](FeedEdit& feed, EditOptions const& options)
+        { Promote(feed, QString::fromStdString(options.version), QString::fromStdString(options.channel)); });
+    AddVersion(promote, *promotion);
+    promote.add_option("--to", promotion->channel, "Put it into this channel instead")->type_name("CHANNEL");
+
+    auto const withdrawal = std::make_shared<EditOptions>();
+    AddVersion(AddVerb(program, context, withdrawal, "withdraw",
+                       "Marks a version as withdrawn: it is offered to nobody, and its archive is not published again",
+                       [](FeedEdit& feed, EditOptions const& options)
+                       { Withdraw(feed, QString::fromStdString(options.version)); }),
+               *withdrawal);
+
+    auto const notes = std::make_shared<EditOptions>();
+    CLI::App& editNotes =
+        AddVerb(program, context, notes, "edit-notes", "Replaces the release notes that a version has in the feed",
+                [](FeedEdit& feed, EditOptions const& options)
+                {
+                    QFileInfo const file(QString::fromStdString(options.notes));
+                    std::vector<ReleaseNotes> const fresh = ReadReleaseNotes(file.path(), file.completeBaseName());
+                    if (fresh.empty())
+                    {
+                        throw Refusal({file.filePath(), 0, 0, QStringLiteral("is no file of release notes"),
+                                       QStringLiteral("give a file that ends in .html, .md or .txt")});
+                    }
+                    EditNotes(feed, QString::fromStdString(options.version), fresh);
+                });
+    AddVersion(editNotes, *notes);
+    editNotes
+        .add_option("NOTES", notes->notes,
+                    "File of the notes: NAME.html, .md or .txt; those in a language, NAME.de.html, come with it")
+        ->required();
+
+    auto const pruning = std::make_shared<EditOptions>();
+    AddVerb(program, context, pruning, "prune",
+            "Removes old items from a feed; refuses when a client would be offered something else then",
+            [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); })
+        .add_option("--keep", pruning->keptVersions, "How many versions stay; withdrawn ones stay beside them")
+        ->required()
+        ->type_name("N")
+        ->check(CLI::Range(1, 2000));
+}
+
+} // namespace Pelnar::Publisher

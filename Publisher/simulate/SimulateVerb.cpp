@@ -1,0 +1,150 @@
+#include "Publisher/simulate/SimulateVerb.h"
+
+#include "Publisher/FeedOptions.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/matrix/Outcome.h"
+#include "Publisher/simulate/SimulationPicture.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct SimulateOptions
+{
+    std::string feed;
+    std::string publishedAt;
+    std::string platform = OwnPlatformName().toStdString();
+    InstallationOptions installation;
+    std::string versions;
+    std::string systemVersion = UNKNOWN_SYSTEM;
+    std::string picture;
+    int clients = 1000;
+    int days = 10;
+    std::uint32_t seed = 1;
+    bool isJson = false;
+};
+
+/// The value, or its problem as a Refusal.
+template <class T>
+T Need(std::variant<T, Problem> value)
+{
+    if (auto const* const problem = std::get_if<Problem>(&value))
+    {
+        throw Refusal(*problem);
+    }
+    return std::get<T>(std::move(value));
+}
+
+/// The moment of the command line, else that of the newest item whose date can be read, else now.
+QDateTime StartOf(std::vector<Engine::FeedItem> const& items, SimulateOptions const& options, QDateTime const& given)
+{
+    QDateTime newest;
+    for (Engine::FeedItem const& item : items)
+    {
+        QDateTime const time = Engine::FeedTime(item.dateString);
+        newest = time.isValid() && (!newest.isValid() || newest < time) ? time : newest;
+    }
+    return options.installation.moment.empty() && newest.isValid() ? newest.toUTC() : given;
+}
+
+QJsonObject JsonOf(Simulation const& simulation, SimulateOptions const& options, QString const& feed,
+                   QDateTime const& start)
+{
+    QJsonArray days;
+    for (std::size_t day = 0; day < simulation.counts.size(); ++day)
+    {
+        QJsonArray counts;
+        std::copy(simulation.counts[day].begin(), simulation.counts[day].end(), std::back_inserter(counts));
+        days.append(counts);
+    }
+    return {{QStringLiteral("feed"), feed},
+            {QStringLiteral("platform"), QString::fromStdString(options.platform)},
+            {QStringLiteral("clients"), options.clients},
+            {QStringLiteral("start"), start.toUTC().toString(Qt::ISODate)},
+            {QStringLiteral("versions"), QJsonArray::fromStringList(simulation.versions)},
+            {QStringLiteral("counts"), days}};
+}
+
+ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
+{
+    SimulationRequest request;
+    request.installation = Need(InstallationOf(options.installation));
+    request.systemVersion =
+        Need(ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion)))
+            .version;
+    ParsedFeed const feed = Need(
+        ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                  {PlatformFromName(QString::fromStdString(options.platform)), request.installation.machine}, console));
+    request.startVersions = options.versions.empty()
+                                ? VersionsOfFeed(feed.items)
+                                : Need(ParseVersionList(QStringLiteral("--versions"),
+                                                        QString::fromStdString(options.versions), ParseLocalVersion));
+    if (request.startVersions.empty())
+    {
+        throw Refusal({feed.source.name, 0, 0, QStringLiteral("names no version to begin with"),
+                       QStringLiteral("give --versions")});
+    }
+    request.clients = options.clients;
+    request.days = options.days;
+    request.seed = options.seed;
+    request.start = StartOf(feed.items, options, request.installation.now);
+    Simulation const simulation = Simulate(feed.items, request);
+    if (!options.picture.empty())
+    {
+        AtomicFile file(QString::fromStdString(options.picture));
+        file.Write(PictureOf(simulation, request.start));
+        file.Commit(ExistingFile::Replace);
+    }
+    if (options.isJson)
+    {
+        console.PrintJson(JsonOf(simulation, options, feed.source.name, request.start));
+        return ExitStatus::Clean;
+    }
+    for (QString const& line : TextOf(simulation, request.start))
+    {
+        console.Print(Printable(line));
+    }
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddSimulate(CLI::App& program, VerbContext& context)
+{
+    auto const options = std::make_shared<SimulateOptions>();
+    CLI::App* const verb = program.add_subcommand(
+        "simulate", "Draws who has which version when: clients that check once a day and take what they are offered");
+    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
+    verb->add_option("--clients", options->clients, "How many clients")
+        ->type_name("N")
+        ->check(CLI::Range(1, 1000000))
+        ->capture_default_str();
+    verb->add_option("--days", options->days, "For how many days")
+        ->type_name("D")
+        ->check(CLI::Range(1, 3650))
+        ->capture_default_str();
+    verb->add_option("--versions", options->versions,
+                     "Versions that the clients begin with in turn, with commas between them; default: all that the "
+                     "feed names")
+        ->type_name("LIST");
+    verb->add_option("--system-version", options->systemVersion, "Version of the clients' operating system")
+        ->type_name("V")
+        ->capture_default_str();
+    verb->add_option("--seed", options->seed, "Another number gives the clients other hours and other groups")
+        ->type_name("NUMBER")
+        ->capture_default_str();
+    verb->add_option("--svg", options->picture, "Write a picture as well")->type_name("FILE");
+    AddPlatformOption(*verb, options->platform);
+    AddInstallationOptions(*verb, options->installation);
+    AddPublishedAtOption(*verb, options->publishedAt);
+    verb->add_flag("--json", options->isJson, "Print one JSON object");
+    SetWork(*verb, context, [options, &context] { return RunSimulation(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

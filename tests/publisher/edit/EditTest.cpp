@@ -1,0 +1,191 @@
+// EditTest.cpp: single items of a published feed are changed, and every other byte stays.
+
+#include "tests/publisher/support/AppcastTool.h"
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QTemporaryDir>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+QByteArray Item(QByteArray const& version, QByteArray const& inside = {})
+{
+    return "    <item>\n      <title>App " + version + " &amp; more</title>\n" + inside + "      <enclosure url='App-" +
+           version + ".zip' sparkle:version='" + version +
+           "' length='9'\n                 type='application/octet-stream'/>\n    </item>\n";
+}
+
+QByteArray FeedWith(QByteArray const& items)
+{
+    return "<?xml version='1.0'?>\n<!-- ours, 100 % -->\n<rss version='2.0' "
+           "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'>\n  <channel>\n    "
+           "<title>App</title>\n" +
+           items + "  </channel>\n</rss>\n";
+}
+
+QByteArray const BETA = "      <sparkle:channel>beta</sparkle:channel>\n";
+QByteArray const WITHDRAWN =
+    "      <pelnar:withdrawn xmlns:pelnar=\"https://pelnar.example/xml-namespaces/appcast\"/>\n";
+
+class EditTest : public ::testing::Test
+{
+protected:
+    QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
+
+    void Write(char const* name, QByteArray const& bytes) const
+    {
+        QFile file(Path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    std::string Feed() const
+    {
+        QFile file(Path("appcast.xml"));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll().toStdString();
+    }
+
+    ToolRun Run(char const* verb, QStringList const& more) const
+    {
+        return RunTool(QStringList{QString::fromLatin1(verb), Path("appcast.xml")} + more);
+    }
+
+private:
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
+    QTemporaryDir m_folder;
+};
+
+} // namespace
+
+TEST_F(EditTest, PromotionTakesTheChannelOut)
+{
+    Write("appcast.xml", FeedWith(Item("5.2", BETA) + Item("5.1")));
+    ToolRun const run = Run("promote", {QStringLiteral("5.2.0")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "- <sparkle:channel>beta</sparkle:channel>\n");
+    EXPECT_EQ(Feed(), FeedWith(Item("5.2") + Item("5.1")).toStdString());
+}
+
+TEST_F(EditTest, PromotionIntoAChannelWritesIt)
+{
+    Write("appcast.xml", FeedWith(Item("5.2", BETA) + Item("5.1")));
+    EXPECT_EQ(Run("promote", {QStringLiteral("5.2"), QStringLiteral("--to"), QStringLiteral("rc")}).status, 0);
+    EXPECT_EQ(Run("promote", {QStringLiteral("5.1"), QStringLiteral("--to"), QStringLiteral("rc")}).status, 0);
+    QByteArray const channel = "<sparkle:channel xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\">"
+                               "rc</sparkle:channel>\n";
+    QByteArray expected = FeedWith(Item("5.2", "      " + channel) + Item("5.1"));
+    expected.replace("      <title>App 5.1", "      " + channel + "      <title>App 5.1");
+    EXPECT_EQ(Feed(), expected.toStdString());
+    EXPECT_EQ(Run("promote", {QStringLiteral("5.1"), QStringLiteral("--to"), QStringLiteral("a b")}).status, 2);
+    EXPECT_EQ(Feed(), expected.toStdString());
+}
+
+TEST_F(EditTest, WithdrawnItemIsMarkedOnce)
+{
+    QByteArray const feed = FeedWith(Item("5.2") + Item("5.1"));
+    Write("appcast.xml", feed);
+    EXPECT_EQ(Run("withdraw", {QStringLiteral("5.2")}).status, 0);
+    QByteArray expected = feed;
+    expected.replace("      <title>App 5.2", WITHDRAWN + "      <title>App 5.2");
+    EXPECT_EQ(Feed(), expected.toStdString());
+    ToolRun const again = Run("withdraw", {QStringLiteral("5.2")});
+    EXPECT_EQ(again.status, 0);
+    EXPECT_NE(again.out.find("nothing to change"), std::string::npos);
+    EXPECT_EQ(Feed(), expected.toStdString());
+    ToolRun const explained =
+        RunTool({QStringLiteral("explain"), Path("appcast.xml"), QStringLiteral("--local-version"),
+                 QStringLiteral("5.0"), QStringLiteral("--system-version"), QStringLiteral("12")});
+    EXPECT_NE(explained.out.find("withdrawn: the publisher has withdrawn it"), std::string::npos) << explained.out;
+    EXPECT_NE(explained.out.find("is offered: 5.1"), std::string::npos) << explained.out;
+}
+
+TEST_F(EditTest, DryRunWritesNothing)
+{
+    QByteArray const feed = FeedWith(Item("5.2", BETA) + Item("5.1"));
+    Write("appcast.xml", feed);
+    ToolRun const run = Run("promote", {QStringLiteral("5.2"), QStringLiteral("--dry-run")});
+    EXPECT_EQ(run.status, 0);
+    EXPECT_EQ(run.out.find("- <sparkle:channel>beta</sparkle:channel>\n"), 0u) << run.out;
+    EXPECT_NE(run.out.find("dry run"), std::string::npos);
+    EXPECT_EQ(Feed(), feed.toStdString());
+}
+
+TEST_F(EditTest, VersionThatIsNotThereIsRefused)
+{
+    QByteArray const feed = FeedWith(Item("5.2"));
+    Write("appcast.xml", feed);
+    for (char const* const verb : {"promote", "withdraw"})
+    {
+        ToolRun const run = Run(verb, {QStringLiteral("5.3")});
+        EXPECT_EQ(run.status, 2);
+        EXPECT_NE(run.err.find("has no item of version \"5.3\""), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(Feed(), feed.toStdString());
+}
+
+TEST_F(EditTest, NotesTakeThePlaceOfTheOnesBefore)
+{
+    Write("appcast.xml", FeedWith(Item("5.2", "      <description>old</description>\n"
+                                              "      <description xml:lang='de'>alt</description>\n") +
+                                  Item("5.1")));
+    Write("App-5.2.html", "<p>new]]></p>");
+    EXPECT_EQ(Run("edit-notes", {QStringLiteral("5.2"), Path("App-5.2.html")}).status, 0);
+    QByteArray const fresh = "      <description><![CDATA[<p>new]]]]><![CDATA[></p>]]></description>\n";
+    EXPECT_EQ(Feed(), FeedWith(Item("5.2", fresh) + Item("5.1")).toStdString());
+    EXPECT_EQ(Run("edit-notes", {QStringLiteral("5.1"), Path("App-5.2.html")}).status, 0);
+    QByteArray expected = FeedWith(Item("5.2", fresh) + Item("5.1"));
+    expected.replace("      <title>App 5.1", fresh + "      <title>App 5.1");
+    EXPECT_EQ(Feed(), expected.toStdString());
+    EXPECT_EQ(Run("edit-notes", {QStringLiteral("5.1"), Path("none.html")}).status, 2);
+}
+
+TEST_F(EditTest, PruningKeepsTheNewestAndWhatIsWithdrawn)
+{
+    QByteArray const withdrawn = Item("4.8").replace("      <title", WITHDRAWN + "      <title");
+    Write("appcast.xml", FeedWith(Item("5.2") + Item("5.1") + Item("5.0") + withdrawn + Item("4.7")));
+    ToolRun const run = Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(Feed(), FeedWith(Item("5.2") + Item("5.1") + withdrawn).toStdString());
+    EXPECT_NE(Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")}).out.find("nothing to change"),
+              std::string::npos);
+}
+
+TEST_F(EditTest, PruningThatTakesAnUpdateAwayIsRefused)
+{
+    QByteArray const feed =
+        FeedWith(Item("5.2", "      <sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion>\n") + Item("5.1") +
+                 Item("5.0"));
+    Write("appcast.xml", feed);
+    ToolRun const run = Run("prune", {QStringLiteral("--keep"), QStringLiteral("1")});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("a client would get something else: 0, 5.0 on systems below 12: 5.1 BUNDLE -> none"),
+              std::string::npos)
+        << run.err;
+    EXPECT_EQ(Feed(), feed.toStdString());
+    EXPECT_EQ(Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")}).status, 0);
+}
+
+TEST_F(EditTest, SignedFeedIsSignedAgainOrSaidToNeedIt)
+{
+    Write("appcast.xml", FeedWith(Item("5.2") + Item("5.1")));
+    ASSERT_EQ(RunTool({QStringLiteral("keys"), QStringLiteral("generate"), Path("key")}).status, 0);
+    ASSERT_EQ(Run("sign-feed", {QStringLiteral("--key"), Path("key")}).status, 0);
+    ToolRun const run = Run("withdraw", {QStringLiteral("5.2"), QStringLiteral("--key"), Path("key")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("signed with serial"), std::string::npos) << run.out;
+    EXPECT_EQ(Run("sign-feed", {QStringLiteral("--key"), Path("key")}).status, 0) << "the signature fits";
+    ToolRun const bare = Run("withdraw", {QStringLiteral("5.1")});
+    EXPECT_EQ(bare.status, 0);
+    EXPECT_NE(bare.out.find("sign it again"), std::string::npos) << bare.out;
+    EXPECT_NE(Run("sign-feed", {QStringLiteral("--key"), Path("key")}).status, 0);
+    EXPECT_EQ(Run("sign-feed", {QStringLiteral("--key"), Path("key"), QStringLiteral("--accept-changes")}).status, 0);
+}
+
+} // namespace Pelnar::Testing

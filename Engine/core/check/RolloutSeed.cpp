@@ -26,7 +26,8 @@ char const* const FILE_NAME = "rollout-seed";
 QByteArray Draw()
 {
     std::array<quint32, SEED_BYTES / sizeof(quint32)> numbers{};
-    QRandomGenerator::system()->fillRange(numbers.data(), static_cast<qsizetype>(numbers.size()));
+    QRandomGenerator generator = QRandomGenerator::securelySeeded();
+    generator.fillRange(numbers.data(), static_cast<qsizetype>(numbers.size()));
     return QByteArray(reinterpret_cast<char const*>(numbers.data()), SEED_BYTES);
 }
 

@@ -277,6 +277,28 @@ TEST_P(Languages, HasMnemonicsThatDifferInEachWindow)
     }
 }
 
+TEST_P(Languages, ShowsItsLongestSentenceOfAnErrorWhole)
+{
+    InstallTranslations(QLocale(Name()));
+    Sentence longest;
+    for (auto const& [source, sentence] : EverySentence())
+    {
+        if (longest.IsEmpty() || sentence.Translated().size() > longest.Translated().size())
+        {
+            longest = sentence;
+        }
+    }
+    Ui().ShowError(longest, [] {});
+    QCoreApplication::processEvents();
+    auto* const label = Part<QLabel>("PelnarEngine_detail");
+    EXPECT_TRUE(label->wordWrap());
+    EXPECT_GE(label->height(), label->heightForWidth(label->width())) << qPrintable(label->text());
+    EXPECT_GE(label->width(), label->minimumSizeHint().width());
+    QString const folder = qEnvironmentVariable("PELNAR_PICTURES");
+    EXPECT_TRUE(folder.isEmpty() || label->window()->grab().save(folder + QStringLiteral("/longest-error-") + Name() +
+                                                                 QStringLiteral(".png")));
+}
+
 TEST_P(Languages, FitsIntoEveryWindow)
 {
     InstallTranslations(QLocale(Name()));

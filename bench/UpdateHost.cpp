@@ -40,7 +40,7 @@ private:
     void Download(OpenedTarget opened)
     {
         FailOn(opened);
-        m_target = std::move(std::get<InstallTarget>(opened));
+        m_target = *std::move(opened);
         m_download = m_parts.MakeDownload(m_request);
         m_download->Start([](DownloadProgress const&) {}, [this](DownloadOutcome outcome) { Prepare(outcome); });
     }
@@ -75,7 +75,7 @@ private:
     void Install(UpdatePreparation::Outcome& outcome)
     {
         FailOn(outcome);
-        m_update = std::move(std::get<std::unique_ptr<PreparedUpdate>>(outcome));
+        m_update = *std::move(outcome);
         InstallJob job;
         job.targetName = m_target.name;
         job.bundleIdentifier = m_identifier;
@@ -96,11 +96,11 @@ private:
     }
 
     template <typename Wanted>
-    static void FailOn(std::variant<Wanted, EngineError> const& outcome)
+    static void FailOn(Result<Wanted> const& outcome)
     {
-        if (auto const* const error = std::get_if<EngineError>(&outcome))
+        if (!outcome)
         {
-            FailOn(std::optional(*error));
+            FailOn(std::optional(outcome.error()));
         }
     }
 

@@ -74,6 +74,7 @@ else()
     pkg_check_modules(zstd REQUIRED IMPORTED_TARGET libzstd)
     pkg_check_modules(lzma REQUIRED IMPORTED_TARGET liblzma)
     pkg_check_modules(md4c REQUIRED IMPORTED_TARGET md4c>=0.4.8)
+    find_package(tl-expected 1.0 REQUIRED)
     find_package(CURL 7.87 REQUIRED)
     find_package(OpenSSL 3.0 REQUIRED)
     find_library(PELNAR_UNISTRING unistring REQUIRED) # it has no pkg-config file

@@ -40,7 +40,7 @@ void CheckRecord(std::string_view bytes)
     Require(TrustedBytes(*record, file, record->url, record->declaredBytes) <= record->declaredBytes);
     // What may be asked for never leads beyond the budget.
     DownloadSpending const budget = BudgetOf(record->declaredBytes);
-    if (!JudgeSpending(record->spent, record->declaredBytes, record->declaredBytes))
+    if (JudgeSpending(record->spent, record->declaredBytes, record->declaredBytes))
     {
         Require(record->spent.receivedBytes <= budget.receivedBytes - record->declaredBytes);
         Require(record->spent.attempts < budget.attempts && record->spent.seconds < budget.seconds);
@@ -99,7 +99,7 @@ void CheckHead(PartialArchive const& partial, HttpHead const& head)
     }
     CheckDecision(partial, head, DecideResume(partial, head));
     Require(AreUsable(StrongValidators(head)));
-    if (auto const framing = JudgeFraming(head); auto const* const plan = std::get_if<BodyPlan>(&framing))
+    if (Result<BodyPlan> const plan = JudgeFraming(head))
     {
         Require(plan->length >= 0);
         Require(plan->kind != BodyPlan::Kind::Chunks || head.Values("content-length").empty());

@@ -1,6 +1,7 @@
 // FeedItemTest.cpp: every property of an item, of its deltas and of what a feed adds to it.
 #include "Engine/core/fetch/FetchPolicy.h"
 #include "tests/engine_core/FeedFixture.h"
+#include "tests/support/CauseOf.h"
 
 #include <gtest/gtest.h>
 
@@ -299,8 +300,13 @@ TEST(FeedAddress, OfAnArchiveIsSecureOrIsNotFetched)
     for (Row const& row : rows)
     {
         FeedItem const item = OnlyItem(QByteArray("<enclosure url=\"") + row.text.c_str() + "\"/>");
-        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::LoopbackOnly), row.cause) << row.text;
-        EXPECT_EQ(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::Anywhere), row.causeWithOptIn) << row.text;
+        EXPECT_EQ(
+            Testing::CauseOf(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::LoopbackOnly)),
+            row.cause)
+            << row.text;
+        EXPECT_EQ(Testing::CauseOf(JudgeArchiveAddress(item.fileUrl, AddressReach::Network, InsecureHttp::Anywhere)),
+                  row.causeWithOptIn)
+            << row.text;
     }
 }
 

@@ -282,7 +282,7 @@ void ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes, std::fu
     }
     if (targetError)
     {
-        opened(*targetError);
+        opened(Failure(*targetError));
         return;
     }
     InstallTarget target;

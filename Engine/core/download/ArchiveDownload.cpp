@@ -83,10 +83,11 @@ public:
 private:
     void Begin()
     {
-        if (std::optional<ErrorCause> const cause =
-                JudgeArchiveAddress(m_request.url, m_request.feedReach, m_request.insecureHttp))
+        if (Result<void> const address =
+                JudgeArchiveAddress(m_request.url, m_request.feedReach, m_request.insecureHttp);
+            !address)
         {
-            Finish({AsDownloadError(MakeError(*cause)), {}});
+            Finish({AsDownloadError(address.error()), {}});
             return;
         }
         if (m_request.declaredBytes == 0 || m_request.declaredBytes > MAX_ARCHIVE_BYTES)
@@ -119,7 +120,7 @@ private:
             m_writer->Finish();
             return;
         }
-        if (m_request.purpose == DownloadFor::Person && JudgeSpending(m_spent, m_partial.declaredBytes, Missing()))
+        if (m_request.purpose == DownloadFor::Person && !JudgeSpending(m_spent, m_partial.declaredBytes, Missing()))
         {
             m_spent = {m_partial.bytes, 0, 0};
         }
@@ -168,9 +169,9 @@ private:
     /// Requests the missing bytes.
     void Ask()
     {
-        if (std::optional<ErrorCause> const cause = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()))
+        if (Result<void> const spending = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()); !spending)
         {
-            End(MakeError(*cause));
+            End(spending.error());
             return;
         }
         ++m_spent.attempts;
@@ -221,9 +222,9 @@ private:
         m_decision = DecideResume(m_partial, head);
         if (m_decision->step == ResumeStep::Restart)
         {
-            if (auto const cause = JudgeRestart())
+            if (Result<void> const budget = JudgeRestart(); !budget)
             {
-                m_decision = {ResumeStep::Refuse, MakeError(*cause)};
+                m_decision = {ResumeStep::Refuse, budget.error()};
                 return std::nullopt;
             }
             BeginAnew(StrongValidators(head));
@@ -235,15 +236,15 @@ private:
         return static_cast<qint64>(Missing());
     }
 
-    /// Why so many bytes are not allowed. The request for them is already counted.
-    std::optional<ErrorCause> JudgeBytes(std::uint64_t bytes) const
+    /// Fails if so many bytes are not allowed. The request for them is already counted.
+    Result<void> JudgeBytes(std::uint64_t bytes) const
     {
         std::uint64_t const budget = BudgetOf(m_partial.declaredBytes).receivedBytes;
         bool const isWithin = m_spent.receivedBytes + bytes <= budget;
-        return isWithin ? std::nullopt : std::optional(ErrorCause::DownloadTooMuch);
+        return isWithin ? Result<void>() : Failure(ErrorCause::DownloadTooMuch);
     }
 
-    std::optional<ErrorCause> JudgeRestart() const { return JudgeBytes(m_partial.declaredBytes); }
+    Result<void> JudgeRestart() const { return JudgeBytes(m_partial.declaredBytes); }
 
     void BeginAnew(Validators const& validators)
     {
@@ -298,19 +299,19 @@ private:
 
     void Follow(HttpHead const& head, AddressReach answeredFrom)
     {
-        if (auto const cause = JudgeBytes(Missing()))
+        if (Result<void> const budget = JudgeBytes(Missing()); !budget)
         {
-            End(MakeError(*cause));
+            End(budget.error());
             return;
         }
-        std::variant<FetchRequest, ErrorCause> const next = JudgeRedirect(
-            m_sent, answeredFrom, head.Values("location"), ++m_redirects, m_request.insecureHttp, m_request.limits);
-        if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
+        Result<FetchRequest> const next = JudgeRedirect(m_sent, answeredFrom, head.Values("location"), ++m_redirects,
+                                                        m_request.insecureHttp, m_request.limits);
+        if (!next)
         {
-            End(AsDownloadError(MakeError(*cause)));
+            End(AsDownloadError(next.error()));
             return;
         }
-        Send(std::get<FetchRequest>(next));
+        Send(*next);
     }
 
     void TakeBodyEnd(HttpHead const& head)
@@ -321,8 +322,7 @@ private:
             return;
         }
         // If only the connection's end ends a body, a broken connection and a short body look the same.
-        std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
-        BodyPlan const* const plan = std::get_if<BodyPlan>(&framing);
+        Result<BodyPlan> const plan = JudgeFraming(head);
         bool const mayBeBroken = plan && plan->kind == BodyPlan::Kind::UntilClose;
         TakeFailure(MakeError(mayBeBroken ? ErrorCause::IncompleteBody : ErrorCause::DownloadLengthDiffers));
     }
@@ -340,9 +340,9 @@ private:
             TakeFailure(MakeError(ErrorCause::DownloadRangeWrong));
             return;
         }
-        if (auto const cause = JudgeRestart())
+        if (Result<void> const budget = JudgeRestart(); !budget)
         {
-            End(MakeError(*cause));
+            End(budget.error());
             return;
         }
         BeginAnew({});

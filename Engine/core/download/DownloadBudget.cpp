@@ -28,23 +28,22 @@ DownloadSpending BudgetOf(std::uint64_t declaredBytes)
     return budget;
 }
 
-std::optional<ErrorCause> JudgeSpending(DownloadSpending const& spent, std::uint64_t declaredBytes,
-                                        std::uint64_t missingBytes)
+Result<void> JudgeSpending(DownloadSpending const& spent, std::uint64_t declaredBytes, std::uint64_t missingBytes)
 {
     DownloadSpending const budget = BudgetOf(declaredBytes);
     if (spent.receivedBytes > budget.receivedBytes || budget.receivedBytes - spent.receivedBytes < missingBytes)
     {
-        return ErrorCause::DownloadTooMuch;
+        return Failure(ErrorCause::DownloadTooMuch);
     }
     if (spent.attempts >= budget.attempts)
     {
-        return ErrorCause::DownloadTooOften;
+        return Failure(ErrorCause::DownloadTooOften);
     }
     if (spent.seconds >= budget.seconds)
     {
-        return ErrorCause::DownloadTooLong;
+        return Failure(ErrorCause::DownloadTooLong);
     }
-    return std::nullopt;
+    return {};
 }
 
 std::uint64_t DiskReserve(std::uint64_t diskBytes)

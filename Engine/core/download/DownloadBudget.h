@@ -2,11 +2,10 @@
 // keep a client downloading forever. Pure functions.
 #pragma once
 
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 
 #include <chrono>
 #include <cstdint>
-#include <optional>
 
 namespace Pelnar::Engine
 {
@@ -28,10 +27,10 @@ struct DownloadSpending
 /// for its length at 2 KiB/s, at most a day.
 [[nodiscard]] DownloadSpending BudgetOf(std::uint64_t declaredBytes);
 
-/// Why no request for \a missingBytes of an archive may be made; empty if it may. A request that cannot complete the
+/// Fails if no request for \a missingBytes of an archive may be made. A request that cannot complete the
 /// archive within the budget is not made.
-[[nodiscard]] std::optional<ErrorCause> JudgeSpending(DownloadSpending const& spent, std::uint64_t declaredBytes,
-                                                      std::uint64_t missingBytes);
+[[nodiscard]] Result<void> JudgeSpending(DownloadSpending const& spent, std::uint64_t declaredBytes,
+                                         std::uint64_t missingBytes);
 
 /// How much of a disk of \a diskBytes downloads leave free: a twentieth, at least 256 MiB and at most 4 GiB, but never
 /// more than a quarter of the disk.

@@ -121,7 +121,7 @@ UniqueFd OpenFolderNamed(std::string const& path)
     return OpenAt(AT_FDCWD, path, O_RDONLY | O_DIRECTORY);
 }
 
-std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path)
+Result<UniqueFd> OpenDownloadFolder(std::string const& path)
 {
     QString const shownPath = QFile::decodeName(path.c_str());
     UniqueFd folder = OpenPrivateFolder(path);
@@ -133,7 +133,7 @@ std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path)
     if (!folder)
     {
         bool const isUnsafe = errno == EPERM || errno == ENOTDIR || errno == ELOOP;
-        return isUnsafe ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno);
+        return Failure(isUnsafe ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno));
     }
     return folder;
 }

@@ -4,12 +4,11 @@
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 
 #include <cerrno>
 #include <ctime>
 #include <string>
-#include <variant>
 
 #include <sys/stat.h>
 
@@ -45,7 +44,7 @@ EngineError OpenError(int errorNumber);
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags);
 UniqueFd OpenFolderNamed(std::string const& path);
 /// Creates the folder if it is missing. Refuses a folder that other users can write.
-std::variant<UniqueFd, EngineError> OpenDownloadFolder(std::string const& path);
+[[nodiscard]] Result<UniqueFd> OpenDownloadFolder(std::string const& path);
 
 /// The space on the folder's disk, without the share that stays free.
 struct DiskRoom

@@ -113,12 +113,12 @@ void PartialFile::TakeRecord(PartialRecord const& record, FoundFile const& file)
 
 PartialFile::Fault PartialFile::OpenFolder()
 {
-    std::variant<UniqueFd, EngineError> folder = OpenDownloadFolder(m_place.folder);
-    if (auto const* const error = std::get_if<EngineError>(&folder))
+    Result<UniqueFd> folder = OpenDownloadFolder(m_place.folder);
+    if (!folder)
     {
-        return *error;
+        return folder.error();
     }
-    m_folder = std::get<UniqueFd>(std::move(folder));
+    m_folder = *std::move(folder);
     return std::nullopt;
 }
 

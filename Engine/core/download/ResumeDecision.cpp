@@ -18,17 +18,16 @@ QByteArray RangeOfRest(PartialArchive const& partial)
            QByteArray::number(partial.declaredBytes);
 }
 
-/// Why a body cannot have \a bytes; empty if it can.
-std::optional<ErrorCause> JudgeLength(HttpHead const& head, quint64 bytes)
+/// Fails if a body cannot have \a bytes.
+Result<void> JudgeLength(HttpHead const& head, quint64 bytes)
 {
-    std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
-    if (ErrorCause const* const cause = std::get_if<ErrorCause>(&framing))
+    Result<BodyPlan> const plan = JudgeFraming(head);
+    if (!plan)
     {
-        return *cause;
+        return Failure(plan.error());
     }
-    BodyPlan const& plan = std::get<BodyPlan>(framing);
-    bool const isOther = plan.kind == BodyPlan::Kind::Length && static_cast<quint64>(plan.length) != bytes;
-    return isOther ? std::optional(ErrorCause::DownloadLengthDiffers) : std::nullopt;
+    bool const isOther = plan->kind == BodyPlan::Kind::Length && static_cast<quint64>(plan->length) != bytes;
+    return isOther ? Failure(ErrorCause::DownloadLengthDiffers) : Result<void>();
 }
 
 bool IsRestOf(PartialArchive const& partial, HttpHead const& head)
@@ -63,8 +62,9 @@ ResumeDecision DecideResume(PartialArchive const& partial, HttpHead const& head)
     bool const hasAskedForRest = !RangeFields(partial).empty();
     if (head.status == STATUS_OK)
     {
-        std::optional<ErrorCause> const cause = JudgeLength(head, partial.declaredBytes);
-        return cause ? Refuse(*cause) : ResumeDecision{ResumeStep::Restart, std::nullopt};
+        Result<void> const length = JudgeLength(head, partial.declaredBytes);
+        return length ? ResumeDecision{ResumeStep::Restart, std::nullopt}
+                      : ResumeDecision{ResumeStep::Refuse, length.error()};
     }
     if (head.status == STATUS_PARTIAL)
     {
@@ -72,7 +72,7 @@ ResumeDecision DecideResume(PartialArchive const& partial, HttpHead const& head)
         {
             return Refuse(ErrorCause::DownloadRangeWrong);
         }
-        bool const isRest = IsRestOf(partial, head) && !JudgeLength(head, partial.declaredBytes - partial.bytes);
+        bool const isRest = IsRestOf(partial, head) && JudgeLength(head, partial.declaredBytes - partial.bytes);
         return {isRest ? ResumeStep::Append : ResumeStep::AskWhole, std::nullopt};
     }
     if (head.status == STATUS_RANGE_NOT_SATISFIABLE)

@@ -37,9 +37,9 @@ void FeedFetcher::Start(QUrl const& url, std::function<void(FetchOutcome)> finis
 
 void FeedFetcher::Begin()
 {
-    if (std::optional<ErrorCause> const cause = JudgeFeedAddress(m_feedUrl, m_insecureHttp))
+    if (Result<void> const address = JudgeFeedAddress(m_feedUrl, m_insecureHttp); !address)
     {
-        Fail(MakeError(*cause));
+        Fail(address.error());
         return;
     }
     if (m_feedUrl.isLocalFile())
@@ -111,16 +111,16 @@ void FeedFetcher::TakeAnswer()
     HttpHead const& head = m_transfer->Head();
     if (IsRedirect(head.status))
     {
-        std::variant<FetchRequest, ErrorCause> const next = JudgeRedirect(
-            m_request, m_transfer->AnsweredFrom(), head.Values("location"), ++m_redirects, m_insecureHttp, m_limits);
-        if (ErrorCause const* const cause = std::get_if<ErrorCause>(&next))
+        Result<FetchRequest> const next = JudgeRedirect(m_request, m_transfer->AnsweredFrom(), head.Values("location"),
+                                                        ++m_redirects, m_insecureHttp, m_limits);
+        if (!next)
         {
-            Fail(MakeError(*cause));
+            Fail(next.error());
             return;
         }
         // The transfer is the sender of this call.
         m_transfer.release()->deleteLater();
-        Send(std::get<FetchRequest>(next));
+        Send(*next);
         return;
     }
     if (m_isConditional && (head.status == STATUS_NOT_MODIFIED || head.status == STATUS_CONDITION_FAILED))

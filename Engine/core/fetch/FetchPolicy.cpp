@@ -33,17 +33,17 @@ bool IsVisibleAscii(QByteArray const& text)
 }
 
 /// Judges an address for a network connection, from every source.
-std::optional<ErrorCause> JudgeNetworkAddress(QUrl const& url, InsecureHttp insecureHttp)
+Result<void> JudgeNetworkAddress(QUrl const& url, InsecureHttp insecureHttp)
 {
     if (url.host().isEmpty())
     {
-        return ErrorCause::InvalidAddress;
+        return Failure(ErrorCause::InvalidAddress);
     }
     if (IsHttp(url) && insecureHttp == InsecureHttp::LoopbackOnly && !IsLoopback(url))
     {
-        return ErrorCause::InsecureAddress;
+        return Failure(ErrorCause::InsecureAddress);
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace
@@ -59,37 +59,37 @@ bool IsSameOrigin(QUrl const& a, QUrl const& b)
     return a.scheme() == b.scheme() && a.host() == b.host() && PortOf(a) == PortOf(b);
 }
 
-std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp)
+Result<void> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp)
 {
     if (url.isEmpty())
     {
-        return ErrorCause::NoFeedAddress;
+        return Failure(ErrorCause::NoFeedAddress);
     }
     if (!url.isValid() || url.isRelative())
     {
-        return ErrorCause::InvalidAddress;
+        return Failure(ErrorCause::InvalidAddress);
     }
     if (url.isLocalFile())
     {
         // A host name would make it a network share.
-        return url.host().isEmpty() || IsLoopback(url) ? std::nullopt : std::optional(ErrorCause::FileOnOtherHost);
+        return url.host().isEmpty() || IsLoopback(url) ? Result<void>() : Failure(ErrorCause::FileOnOtherHost);
     }
     return JudgeArchiveAddress(url, AddressReach::ThisComputer, insecureHttp);
 }
 
-std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach, InsecureHttp insecureHttp)
+Result<void> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach, InsecureHttp insecureHttp)
 {
     if (!url.isValid() || url.isRelative())
     {
-        return ErrorCause::InvalidAddress;
+        return Failure(ErrorCause::InvalidAddress);
     }
     if (!IsHttp(url) && !IsHttps(url))
     {
-        return ErrorCause::SchemeRefused;
+        return Failure(ErrorCause::SchemeRefused);
     }
     if (ReachOf(url) > feedReach)
     {
-        return ErrorCause::AddressNotPublic;
+        return Failure(ErrorCause::AddressNotPublic);
     }
     return JudgeNetworkAddress(url, insecureHttp);
 }
@@ -122,40 +122,40 @@ bool IsRedirect(int status)
     return false;
 }
 
-std::variant<FetchRequest, ErrorCause> JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom,
-                                                     std::vector<QByteArray> const& locations, int hop,
-                                                     InsecureHttp insecureHttp, FetchLimits const& limits)
+Result<FetchRequest> JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom,
+                                   std::vector<QByteArray> const& locations, int hop, InsecureHttp insecureHttp,
+                                   FetchLimits const& limits)
 {
     if (hop > limits.maxRedirects)
     {
-        return ErrorCause::TooManyRedirects;
+        return Failure(ErrorCause::TooManyRedirects);
     }
     if (locations.empty() || locations.front().isEmpty())
     {
-        return ErrorCause::RedirectWithoutLocation;
+        return Failure(ErrorCause::RedirectWithoutLocation);
     }
     QByteArray const& location = locations.front();
     QUrl const target = QUrl::fromEncoded(location, QUrl::StrictMode);
     if (locations.size() > 1 || location.size() > MAX_LOCATION_BYTES || !IsVisibleAscii(location) || !target.isValid())
     {
-        return ErrorCause::RedirectInvalid;
+        return Failure(ErrorCause::RedirectInvalid);
     }
     QUrl const url = request.url.resolved(target).adjusted(QUrl::RemoveUserInfo | QUrl::RemoveFragment);
     if (!IsHttp(url) && !IsHttps(url))
     {
-        return ErrorCause::RedirectScheme;
+        return Failure(ErrorCause::RedirectScheme);
     }
     if (url.host().isEmpty())
     {
-        return ErrorCause::RedirectInvalid;
+        return Failure(ErrorCause::RedirectInvalid);
     }
-    if ((IsHttps(request.url) && !IsHttps(url)) || JudgeNetworkAddress(url, insecureHttp))
+    if ((IsHttps(request.url) && !IsHttps(url)) || !JudgeNetworkAddress(url, insecureHttp))
     {
-        return ErrorCause::RedirectDowngrade;
+        return Failure(ErrorCause::RedirectDowngrade);
     }
     if (ReachOf(url) > answeredFrom)
     {
-        return ErrorCause::AddressNotPublic;
+        return Failure(ErrorCause::AddressNotPublic);
     }
     FetchRequest next;
     next.url = url;

@@ -1,15 +1,13 @@
 // FetchPolicy.h: what may be fetched, where a redirect may lead, and which fields a request carries. Pure functions.
 #pragma once
 
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/fetch/AddressReach.h"
 
 #include <QByteArray>
 #include <QUrl>
 
 #include <chrono>
-#include <optional>
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -59,13 +57,12 @@ struct FetchRequest
 /// Same scheme, host and port, including default ports.
 [[nodiscard]] bool IsSameOrigin(QUrl const& a, QUrl const& b);
 
-/// Why a feed must not be fetched from \a url; empty if it may.
-[[nodiscard]] std::optional<ErrorCause> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp);
+/// Fails if a feed must not be fetched from \a url.
+[[nodiscard]] Result<void> JudgeFeedAddress(QUrl const& url, InsecureHttp insecureHttp);
 
-/// Why an archive must not be downloaded from \a url, which a feed from \a feedReach names; empty if it may. An archive
-/// is never a file of this computer.
-[[nodiscard]] std::optional<ErrorCause> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach,
-                                                            InsecureHttp insecureHttp);
+/// Fails if an archive must not be downloaded from \a url, which a feed from \a feedReach names. An archive is never a
+/// file of this computer.
+[[nodiscard]] Result<void> JudgeArchiveAddress(QUrl const& url, AddressReach feedReach, InsecureHttp insecureHttp);
 
 /// The first request for \a url. User name and password of the address become an authorization field. If \a url has
 /// none and the same origin as \a feedUrl, those of \a feedUrl are used.
@@ -77,9 +74,9 @@ FetchRequest RequestFor(QUrl const& url, QUrl const& feedUrl = QUrl());
 /// The request after the answer \a location to \a request, as hop number \a hop (from 1), or why the redirect is not
 /// followed. The fields stay while the origin stays the same. User name and password in \a location are removed. The
 /// redirect never leads to an address nearer than \a answeredFrom, where the answer came from.
-[[nodiscard]] std::variant<FetchRequest, ErrorCause>
-JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom, std::vector<QByteArray> const& locations, int hop,
-              InsecureHttp insecureHttp, FetchLimits const& limits);
+[[nodiscard]] Result<FetchRequest> JudgeRedirect(FetchRequest const& request, AddressReach answeredFrom,
+                                                 std::vector<QByteArray> const& locations, int hop,
+                                                 InsecureHttp insecureHttp, FetchLimits const& limits);
 
 /// True for bytes that begin as a web page, such as a network's login page, even if they parse as XML.
 [[nodiscard]] bool BeginsAsWebPage(QByteArray const& bytes);

@@ -90,13 +90,13 @@ QByteArray HttpHead::OnlyValue(QByteArray const& lowerCaseName) const
     return values.size() == 1 ? values.front() : QByteArray();
 }
 
-std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head)
+Result<BodyPlan> JudgeFraming(HttpHead const& head)
 {
     for (QByteArray const& encoding : head.Values("content-encoding"))
     {
         if (encoding.toLower() != "identity")
         {
-            return ErrorCause::ContentEncodingRefused;
+            return Failure(ErrorCause::ContentEncodingRefused);
         }
     }
     std::vector<QByteArray> const lengths = head.Values("content-length");
@@ -105,11 +105,11 @@ std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head)
     {
         if (transfers.size() > 1 || transfers.front().toLower() != "chunked")
         {
-            return ErrorCause::TransferEncodingRefused;
+            return Failure(ErrorCause::TransferEncodingRefused);
         }
         if (!lengths.empty())
         {
-            return ErrorCause::ContradictoryLength;
+            return Failure(ErrorCause::ContradictoryLength);
         }
         return BodyPlan{BodyPlan::Kind::Chunks, 0};
     }
@@ -120,7 +120,7 @@ std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head)
     std::optional<qint64> const length = ParseLength(lengths.front());
     if (lengths.size() > 1 || !length)
     {
-        return ErrorCause::ContradictoryLength;
+        return Failure(ErrorCause::ContradictoryLength);
     }
     return BodyPlan{BodyPlan::Kind::Length, *length};
 }

@@ -3,12 +3,11 @@
 // Thread: one at a time.
 #pragma once
 
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/fetch/FetchPolicy.h"
 
 #include <QByteArray>
 
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -39,7 +38,7 @@ struct BodyPlan
 };
 
 /// How \a head frames its body, or why it is refused.
-[[nodiscard]] std::variant<BodyPlan, ErrorCause> JudgeFraming(HttpHead const& head);
+[[nodiscard]] Result<BodyPlan> JudgeFraming(HttpHead const& head);
 
 /// Reads an answer's head line by line, with the informational heads before it and the trailer after the body.
 class HttpHeadReader

@@ -230,12 +230,12 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
         return head.status == STATUS_NOT_MODIFIED ? Verdict::GoesOn : Verdict::Ends;
     }
     m_limits.maxBodyBytes = *most;
-    std::variant<BodyPlan, ErrorCause> const framing = JudgeFraming(head);
-    if (ErrorCause const* const cause = std::get_if<ErrorCause>(&framing))
+    Result<BodyPlan> const framing = JudgeFraming(head);
+    if (!framing)
     {
-        return Refuse(*cause);
+        return Refuse(framing.error().cause);
     }
-    m_plan = std::get<BodyPlan>(framing);
+    m_plan = *framing;
     bool const isTooLong = m_plan.kind == BodyPlan::Kind::Length && m_plan.length > m_limits.maxBodyBytes;
     return isTooLong ? Refuse(ErrorCause::BodyTooLarge) : Verdict::GoesOn;
 }

@@ -81,8 +81,7 @@ void Recover(RecoverPurpose purpose, StartedApplication const& application, QObj
              std::function<void(StartOutcome const&)> done)
 {
     auto* const recovery = new Recovery(application.helperProgram, owner, std::move(done)); // owned by owner
-    auto const opened = OpenInstalledBundle(application.bundlePath);
-    auto const* const bundle = std::get_if<InstallTarget>(&opened);
+    OpenedTarget const bundle = OpenInstalledBundle(application.bundlePath);
     if (!bundle || !HasUpdateFiles(bundle->parent.Get(), bundle->name))
     {
         recovery->AnswerLater(); // the usual case, which needs no process
@@ -105,8 +104,7 @@ void Recover(RecoverPurpose purpose, StartedApplication const& application, QObj
 
 bool HasUnfinishedUpdate(QString const& bundlePath)
 {
-    auto const opened = OpenInstalledBundle(bundlePath);
-    auto const* const bundle = std::get_if<InstallTarget>(&opened);
+    OpenedTarget const bundle = OpenInstalledBundle(bundlePath);
     return bundle && HasUpdateFiles(bundle->parent.Get(), bundle->name);
 }
 

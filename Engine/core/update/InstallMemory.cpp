@@ -47,8 +47,11 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
     : m_folder(folder), m_downloads(downloads)
 {
     UniqueFd const opened = OpenRecordFolder(folder);
-    auto const bundle = opened ? OpenInstalledBundle(bundlePath) : OpenedTarget(EngineError());
-    auto const* const target = std::get_if<InstallTarget>(&bundle);
+    if (!opened)
+    {
+        return;
+    }
+    OpenedTarget const target = OpenInstalledBundle(bundlePath);
     if (!target)
     {
         return;

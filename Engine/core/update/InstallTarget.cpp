@@ -247,7 +247,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     std::string const name = slash == std::string::npos ? std::string() : path.substr(slash + 1);
     if (path.empty() || path.front() != '/' || name.empty() || name == "." || name == "..")
     {
-        return Error(ErrorCause::BundleMissing, path);
+        return Failure(Error(ErrorCause::BundleMissing, path));
     }
     InstallTarget target;
     target.name = name;
@@ -255,17 +255,17 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     struct stat status;
     if (!target.parent || ::fstatat(target.parent.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
     {
-        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+        return Failure(Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path));
     }
     if (S_ISLNK(status.st_mode))
     {
-        return Error(ErrorCause::BundleIsLink, path);
+        return Failure(Error(ErrorCause::BundleIsLink, path));
     }
     target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
     std::string const realPath = target.bundle ? RealPathOf(target.parent.Get(), name) : std::string();
     if (realPath.empty())
     {
-        return Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path);
+        return Failure(Error(errno == EACCES ? ErrorCause::BundleNotWritable : ErrorCause::BundleMissing, path));
     }
     target.path = PathText(realPath);
     return target;
@@ -274,25 +274,24 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
 OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources)
 {
     auto opened = OpenInstalledBundle(bundlePath);
-    auto* const target = std::get_if<InstallTarget>(&opened);
-    if (!target)
+    if (!opened)
     {
         return opened;
     }
-    std::string const path = PathBytes(target->path);
-    if (auto const owner = FindPackageOwner(target->path, sources))
+    std::string const path = PathBytes(opened->path);
+    if (auto const owner = FindPackageOwner(opened->path, sources))
     {
-        return ErrorOf(*owner, path);
+        return Failure(ErrorOf(*owner, path));
     }
-    if (auto const cause = Obstacle(*target))
+    if (auto const cause = Obstacle(*opened))
     {
-        return Error(*cause, path);
+        return Failure(Error(*cause, path));
     }
-    for (auto const& error : {Intruders(*target, path), LackOfRoom(*target, neededBytes)})
+    for (auto const& error : {Intruders(*opened, path), LackOfRoom(*opened, neededBytes)})
     {
         if (error)
         {
-            return *error;
+            return Failure(*error);
         }
     }
     return opened;

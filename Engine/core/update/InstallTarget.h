@@ -3,13 +3,12 @@
 #pragma once
 
 #include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/update/PackageOwner.h"
 
 #include <QString>
 
 #include <string>
-#include <variant>
 
 namespace Pelnar::Engine
 {
@@ -22,7 +21,7 @@ struct InstallTarget
     QString path;     ///< absolute, without any link
 };
 
-using OpenedTarget = std::variant<InstallTarget, EngineError>;
+using OpenedTarget = Result<InstallTarget>;
 
 /// Opens the bundle at \a bundlePath, of any owner.
 OpenedTarget OpenInstalledBundle(QString const& bundlePath);

@@ -45,11 +45,11 @@ OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, Pack
                             SealedProgram& helper)
 {
     OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
-    if (auto const* const target = std::get_if<InstallTarget>(&opened))
+    if (opened)
     {
-        if (auto error = RehearseInstallation(*target, helper))
+        if (auto error = RehearseInstallation(*opened, helper))
         {
-            return *std::move(error);
+            return Failure(*std::move(error));
         }
     }
     return opened;

@@ -67,11 +67,11 @@ void UpdatePreparation::End(HelperEnd end)
     }
     else if (end == HelperEnd::Refused && m_refused)
     {
-        tell(MakeFaultError(m_refused->fault, m_refused->errorNumber));
+        tell(Failure(MakeFaultError(m_refused->fault, m_refused->errorNumber)));
     }
     else
     {
-        tell(MakeError(ErrorCause::HelperFailed));
+        tell(Failure(ErrorCause::HelperFailed));
     }
 }
 

@@ -9,7 +9,6 @@
 #include <functional>
 #include <memory>
 #include <optional>
-#include <variant>
 
 namespace Pelnar::Engine
 {
@@ -17,7 +16,7 @@ namespace Pelnar::Engine
 class UpdatePreparation
 {
 public:
-    using Outcome = std::variant<std::unique_ptr<PreparedUpdate>, EngineError>;
+    using Outcome = Result<std::unique_ptr<PreparedUpdate>>;
 
     explicit UpdatePreparation(IUpdateParts& parts) : m_parts(parts) {}
     ~UpdatePreparation();

@@ -91,12 +91,12 @@ void UpdateRun::Begin()
 
 void UpdateRun::TakeTarget(OpenedTarget target)
 {
-    if (auto const* const error = std::get_if<EngineError>(&target))
+    if (!target)
     {
-        Finish(*error);
+        Finish(target.error());
         return;
     }
-    m_target = std::get<InstallTarget>(std::move(target));
+    m_target = *std::move(target);
     if (HasWindows())
     {
         Ask();
@@ -190,16 +190,16 @@ void UpdateRun::Prepare(UniqueFd archive)
 
 void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
 {
-    if (auto const* const error = std::get_if<EngineError>(&outcome))
+    if (!outcome)
     {
         // Before the partial files are removed, so that the numbers show the full disk.
-        EngineError const told = WithRoom(*error, *m_target, NeededBytes(m_candidates));
+        EngineError const told = WithRoom(outcome.error(), *m_target, NeededBytes(m_candidates));
         m_preparation.reset();
         FailCandidate(told);
         return;
     }
     m_preparation.reset();
-    m_prepared = std::get<std::unique_ptr<PreparedUpdate>>(std::move(outcome));
+    m_prepared = *std::move(outcome);
     m_phase = Phase::Ready;
     if (HasWindows())
     {

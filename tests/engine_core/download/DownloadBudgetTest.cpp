@@ -2,6 +2,7 @@
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
+#include "tests/support/CauseOf.h"
 
 #include <QElapsedTimer>
 
@@ -531,7 +532,7 @@ TEST(DownloadBudget, IsJudgedBeforeEachRequest)
     };
     for (auto const& row : rows)
     {
-        EXPECT_EQ(JudgeSpending(row.spent, 1000, row.missing), row.cause) << row.name;
+        EXPECT_EQ(CauseOf(JudgeSpending(row.spent, 1000, row.missing)), row.cause) << row.name;
     }
 }
 

@@ -40,10 +40,10 @@ std::string Told(std::string const& bundlePath, std::string const& helper = PELN
     PackageSources sources;
     sources.dpkgInfoFolder = QStringLiteral("/nonexistent");
     auto const opened = OpenInstallTarget(PathText(bundlePath), 1, sources);
-    auto const* const target = std::get_if<InstallTarget>(&opened);
+    auto const* const target = opened ? &opened.value() : nullptr;
     if (!target)
     {
-        return "refused: " + std::get<EngineError>(opened).sentence.English().toStdString();
+        return "refused: " + opened.error().sentence.English().toStdString();
     }
     SealedProgram program(helper);
     auto const error = RehearseInstallation(*target, program);

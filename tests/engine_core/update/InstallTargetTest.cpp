@@ -46,7 +46,7 @@ public:
     std::string Bundle() const { return Parent() + '/' + APP; }
     std::string const& Above() const { return m_place.Path(); }
 
-    std::variant<InstallTarget, EngineError> Open(std::string const& path, quint64 neededBytes = 1) const
+    OpenedTarget Open(std::string const& path, quint64 neededBytes = 1) const
     {
         return OpenInstallTarget(PathText(path), neededBytes, m_sources);
     }
@@ -55,7 +55,7 @@ public:
     EngineError ExpectError(ErrorCause cause, std::string const& path = {}, quint64 neededBytes = 1) const
     {
         auto const answer = Open(path.empty() ? Bundle() : path, neededBytes);
-        auto const* const error = std::get_if<EngineError>(&answer);
+        auto const* const error = answer ? nullptr : &answer.error();
         EXPECT_NE(error, nullptr);
         EngineError const told = error ? *error : EngineError{};
         EXPECT_EQ(static_cast<int>(told.cause), static_cast<int>(cause)) << told.sentence.English().toStdString();
@@ -78,7 +78,7 @@ private:
                 KillAtCall(SYS_execve);
                 KillAtCall(SYS_execveat);
                 auto const answer = Open(path.empty() ? Bundle() : path, neededBytes);
-                auto const* const error = std::get_if<EngineError>(&answer);
+                auto const* const error = answer ? nullptr : &answer.error();
                 return error ? std::to_string(static_cast<int>(error->cause)) : std::string("opened");
             });
     }
@@ -139,8 +139,8 @@ TEST(InstallTarget, IsOpenedWithItsRealPath)
     for (std::string const& path : {scene.Bundle(), scene.Bundle() + "/", scene.Bundle() + "//"})
     {
         auto const answer = scene.Open(path);
-        auto const* const target = std::get_if<InstallTarget>(&answer);
-        ASSERT_NE(target, nullptr) << std::get<EngineError>(answer).sentence.English().toStdString();
+        auto const* const target = answer ? &answer.value() : nullptr;
+        ASSERT_NE(target, nullptr) << answer.error().sentence.English().toStdString();
         EXPECT_EQ(target->path.toStdString(), scene.Bundle());
         EXPECT_EQ(target->name, APP);
         struct stat bundle;
@@ -157,8 +157,8 @@ TEST(InstallTarget, LinkAboveItIsFollowedOnce)
     std::string const link = scene.Above() + "/link";
     ASSERT_EQ(::symlink(scene.Parent().c_str(), link.c_str()), 0);
     auto const answer = scene.Open(link + '/' + APP);
-    ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer));
-    EXPECT_EQ(std::get<InstallTarget>(answer).path.toStdString(), scene.Bundle());
+    ASSERT_TRUE(answer.has_value());
+    EXPECT_EQ(answer.value().path.toStdString(), scene.Bundle());
 }
 
 /// What was opened through a link is what is updated, wherever the link leads by then.
@@ -173,7 +173,7 @@ TEST(InstallTarget, LinkAboveItThatIsTurnedLaterLeadsNowhereElse)
     PackageSources sources;
     sources.dpkgInfoFolder = QStringLiteral("/nonexistent");
     auto const opened = OpenInstallTarget(PathText(link + '/' + APP), 1, sources);
-    auto const* const target = std::get_if<InstallTarget>(&opened);
+    auto const* const target = opened ? &opened.value() : nullptr;
     ASSERT_NE(target, nullptr);
     InstallJob job = scene.PrepareForInstall();
     job.targetPath = PathBytes(target->path);
@@ -200,9 +200,9 @@ TEST(InstallTarget, NamesMayHoldAnythingThatCanBeWritten)
     {
         std::filesystem::rename(scene.Bundle(), scene.Parent() + '/' + name);
         auto const answer = scene.Open(scene.Parent() + '/' + name);
-        ASSERT_TRUE(std::holds_alternative<InstallTarget>(answer)) << name;
-        EXPECT_EQ(std::get<InstallTarget>(answer).name, name);
-        EXPECT_EQ(PathBytes(std::get<InstallTarget>(answer).path), scene.Parent() + '/' + name);
+        ASSERT_TRUE(answer.has_value()) << name;
+        EXPECT_EQ(answer.value().name, name);
+        EXPECT_EQ(PathBytes(answer.value().path), scene.Parent() + '/' + name);
         std::filesystem::rename(scene.Parent() + '/' + name, scene.Bundle());
     }
 }
@@ -238,8 +238,8 @@ TEST(InstallTarget, LinkOrNothingInItsPlaceIsRefused)
     for (char const* const path : {"relative/My App.app", "/", "", "/.", "/tmp/.."})
     {
         auto const answer = scene.Open(path);
-        ASSERT_TRUE(std::holds_alternative<EngineError>(answer)) << path;
-        EXPECT_EQ(std::get<EngineError>(answer).cause, ErrorCause::BundleMissing) << path;
+        ASSERT_FALSE(answer.has_value()) << path;
+        EXPECT_EQ(answer.error().cause, ErrorCause::BundleMissing) << path;
     }
 }
 
@@ -299,7 +299,7 @@ TEST(InstallTarget, LackOfRoomIsToldInNumbers)
             Mount const small("tmpfs", "none", scene.Parent(), 0, "size=1m,mode=0755");
             ASSERT_EQ(::mkdir(scene.Bundle().c_str(), 0755), 0);
             // A quarter of so small a disk stays free, as in a download.
-            EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle(), quint64{3} << 18)));
+            EXPECT_TRUE(scene.Open(scene.Bundle(), quint64{3} << 18).has_value());
             scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{3} << 18) + 1);
             EngineError const error =
                 scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{1} << 30) + (quint64{1} << 29));
@@ -352,7 +352,7 @@ TEST(InstallTarget, ProtectedFoldersAreRefused)
             scene.ExpectError(ErrorCause::BundleImmutable);
         }
     }
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+    EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 /// A file that cannot be removed would keep the previous version on the disk for ever.
@@ -372,7 +372,7 @@ TEST(InstallTarget, ProtectedFileAnywhereInTheBundleIsRefused)
             scene.ExpectError(ErrorCause::BundleImmutable);
         }
     }
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+    EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 TEST(InstallTarget, AnotherUsersBundleIsRefused)
@@ -407,7 +407,7 @@ TEST(InstallTarget, AnotherUsersFolderInTheBundleIsRefused)
     GiveTo(NOBODY, scene.Bundle() + "/Resources");
     GiveTo(SOMEBODY, scene.Bundle() + "/run"); // a file goes with its folder
     AsUser const nobody(NOBODY);
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+    EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
@@ -423,7 +423,7 @@ TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
     GiveTo(NOBODY, scene.Parent());
     {
         AsUser const nobody(NOBODY);
-        EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+        EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
         ASSERT_EQ(::chmod(scene.Bundle().c_str(), 0555), 0);
         scene.ExpectError(ErrorCause::BundleNotWritable);
         ASSERT_EQ(::chmod(scene.Bundle().c_str(), 0755), 0);
@@ -456,7 +456,7 @@ TEST(InstallTarget, UserNamespaceThatHidesTheOwnersOfFoldersIsNamed)
     auto const open = [&scene]
     {
         auto const opened = scene.Open(scene.Bundle());
-        auto const* const error = std::get_if<EngineError>(&opened);
+        auto const* const error = opened ? nullptr : &opened.error();
         return !error                                          ? std::string("opened")
                : error->cause == ErrorCause::BundleOwnerHidden ? error->sentence.English().toStdString()
                                                                : std::to_string(static_cast<int>(error->cause));
@@ -491,7 +491,7 @@ TEST(InstallTarget, FoldersThatOthersMayChangeAreRefused)
         scene.ExpectError(ErrorCause::BundleFolderUnsafe);
         ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
     }
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+    EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 TEST(InstallTarget, FolderThatAllMayWriteToHoldsNoApplicationEvenWhereNamesAreSafe)
@@ -506,7 +506,7 @@ TEST(InstallTarget, FolderThatAllMayWriteToHoldsNoApplicationEvenWhereNamesAreSa
         ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
     }
     ASSERT_EQ(::chmod(scene.Above().c_str(), 01777), 0); // as /tmp: what stands in it belongs to its owner
-    EXPECT_TRUE(std::holds_alternative<InstallTarget>(scene.Open(scene.Bundle())));
+    EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 struct GroupRow
@@ -554,7 +554,7 @@ TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
                         return std::string("files are judged in another way");
                     }
                     auto const answer = scene.Open(scene.Bundle());
-                    auto const* const error = std::get_if<EngineError>(&answer);
+                    auto const* const error = answer ? nullptr : &answer.error();
                     return error ? error->sentence.English().toStdString() : std::string("opened");
                 });
             std::string const refusal =

@@ -55,7 +55,7 @@ TEST_F(UpdatePartsTest, TargetIsToldFromTheEventLoop)
 {
     Open();
     OpenedTarget const answer = Answer();
-    auto const* const target = std::get_if<InstallTarget>(&answer);
+    auto const* const target = answer ? &answer.value() : nullptr;
     ASSERT_NE(target, nullptr);
     EXPECT_EQ(target->name, APP);
 }
@@ -66,7 +66,7 @@ TEST_F(UpdatePartsTest, ObstacleIsToldBeforeTheHelperIsLookedAt)
     std::filesystem::remove_all(place.Path() + '/' + APP);
     Open();
     OpenedTarget const answer = Answer();
-    auto const* const error = std::get_if<EngineError>(&answer);
+    auto const* const error = answer ? nullptr : &answer.error();
     ASSERT_NE(error, nullptr);
     EXPECT_EQ(error->cause, ErrorCause::BundleMissing);
 }
@@ -76,7 +76,7 @@ TEST_F(UpdatePartsTest, HelperThatCannotBeUsedIsToldBeforeADownload)
     UseHelper("/nonexistent");
     Open();
     OpenedTarget const answer = Answer();
-    auto const* const error = std::get_if<EngineError>(&answer);
+    auto const* const error = answer ? nullptr : &answer.error();
     ASSERT_NE(error, nullptr);
     EXPECT_EQ(error->cause, ErrorCause::Fault);
     EXPECT_EQ(error->fault, UpdateFault::HelperUnusable);
@@ -97,7 +97,7 @@ TEST_F(UpdatePartsTest, HelperIsTheOneThatWasThereWhenTheTargetWasOpened)
     std::filesystem::copy_file(PELNAR_INSTALLER_PROGRAM, program);
     UseHelper(program);
     Open();
-    ASSERT_TRUE(std::holds_alternative<InstallTarget>(Answer()));
+    ASSERT_TRUE(Answer().has_value());
     std::filesystem::remove(program);
     auto const helper = parts->MakeHelper();
     std::optional<HelperEnd> end;
@@ -123,7 +123,7 @@ TEST_F(UpdatePartsTest, DiscardedUpdateIsGoneWithTheParts)
 {
     Open();
     OpenedTarget const answer = Answer();
-    auto update = PreparedUpdate::Begin(std::get<InstallTarget>(answer));
+    auto update = PreparedUpdate::Begin(answer.value());
     ASSERT_EQ(::mkdirat(update->Descriptor(), APP, 0700), 0);
     ASSERT_EQ(place.Names().size(), 2u);
     parts->DiscardUpdate(std::move(update));

@@ -1,4 +1,0 @@
-// EngineError.h: has moved.
-#pragma once
-
-#include "Engine/core/faults/EngineError.h" // IWYU pragma: export

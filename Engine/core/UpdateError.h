@@ -1,4 +1,0 @@
-// UpdateError.h: has moved.
-#pragma once
-
-#include "Engine/core/faults/EngineError.h" // IWYU pragma: export

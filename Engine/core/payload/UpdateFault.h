@@ -1,4 +1,0 @@
-// UpdateFault.h: has moved.
-#pragma once
-
-#include "Engine/core/faults/UpdateFault.h" // IWYU pragma: export

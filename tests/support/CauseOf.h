@@ -1,0 +1,18 @@
+// CauseOf.h: why a step of the host failed, for tests that compare it.
+#pragma once
+
+#include "Engine/core/faults/Result.h"
+
+#include <optional>
+
+namespace Pelnar::Testing
+{
+
+/// Empty if it succeeded.
+template <typename Value>
+std::optional<Engine::ErrorCause> CauseOf(Engine::Result<Value> const& result)
+{
+    return result ? std::nullopt : std::optional(result.error().cause);
+}
+
+} // namespace Pelnar::Testing

@@ -62,29 +62,29 @@ ByteProgress BarFor(Progress& progress)
 }
 
 Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
-                              QString const& path, Output const& progressOutput)
+                              QString const& path, DeltaManner const& manner)
 {
     CheckPair(oldBundle.Information(), newBundle.Information());
     Engine::DeltaReport report;
     {
-        Progress bar(progressOutput, QStringLiteral("Comparing"));
+        Progress bar(manner.progressOutput, QStringLiteral("Comparing"));
         report = Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
-                                   newBundle.Information().version, file.Descriptor(), {}, BarFor(bar));
+                                   newBundle.Information().version, file.Descriptor(), {}, BarFor(bar), manner.effort);
     }
     if (!report.outcome.HasSucceeded())
     {
         throw Refusal(ProblemOf(report.outcome, path));
     }
     TemporaryFolder const made;
-    Apply(file.Descriptor(), path, oldBundle, made.Descriptor(), progressOutput);
+    Apply(file.Descriptor(), path, oldBundle, made.Descriptor(), manner.progressOutput);
     return report;
 }
 
 Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
-                                  Output const& progressOutput)
+                                  DeltaManner const& manner)
 {
     AtomicFile file(path);
-    Engine::DeltaReport const report = MakeDelta(oldBundle, newBundle, file, path, progressOutput);
+    Engine::DeltaReport const report = MakeDelta(oldBundle, newBundle, file, path, manner);
     file.Commit(ExistingFile::Keep);
     return report;
 }

@@ -10,14 +10,20 @@
 namespace Pelnar::Publisher
 {
 
+struct DeltaManner
+{
+    Output const& progressOutput;
+    Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
+};
+
 /// Writes the delta from \a oldBundle to \a newBundle to the new file \a path, once it has been applied and has made
 /// what it should. Throws Refusal: for a file that is there already, for bundles of two products or of one version.
 Engine::DeltaReport MakeDeltaFile(BundleTree const& oldBundle, BundleTree const& newBundle, QString const& path,
-                                  Output const& progressOutput);
+                                  DeltaManner const& manner);
 
 /// The same into \a file, which is shown as \a path and keeps its hidden name.
 Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& newBundle, AtomicFile const& file,
-                              QString const& path, Output const& progressOutput);
+                              QString const& path, DeltaManner const& manner);
 
 /// What the delta says of itself. Throws Refusal.
 Engine::DeltaManifest ReadDeltaFile(InputFile const& delta);

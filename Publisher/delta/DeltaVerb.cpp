@@ -18,6 +18,10 @@ namespace Pelnar::Publisher
 namespace
 {
 
+constexpr char const* LOW_EFFORT = "low";
+constexpr char const* USUAL_EFFORT = "usual";
+constexpr char const* HIGH_EFFORT = "high";
+
 BundleTree OpenBundle(Console const& console, std::string const& path)
 {
     QString const name = QString::fromStdString(path);
@@ -31,6 +35,7 @@ struct CreateOptions
     std::string newBundle;
     std::string output;
     std::string key;
+    std::string effort = USUAL_EFFORT;
 };
 
 ExitStatus Create(Console const& console, CreateOptions const& options)
@@ -40,7 +45,7 @@ ExitStatus Create(Console const& console, CreateOptions const& options)
         options.key.empty() ? std::optional<SigningKey>() : SigningKey::Load(QString::fromStdString(options.key));
     BundleTree const before = OpenBundle(console, options.oldBundle);
     BundleTree const after = OpenBundle(console, options.newBundle);
-    Engine::DeltaReport const report = MakeDeltaFile(before, after, output, console.err);
+    Engine::DeltaReport const report = MakeDeltaFile(before, after, output, {console.err, EffortOf(options.effort)});
     QString const baseVersion = QString::fromStdString(before.Information().version);
     console.Print(QStringLiteral("%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole")
                       .arg(output, baseVersion, QString::fromStdString(after.Information().version))
@@ -67,6 +72,7 @@ void AddCreate(CLI::App& delta, VerbContext& context)
     verb.add_option("--key", options->key,
                     "File of the private key, or \"-\": sign the delta and print the attributes of its enclosure")
         ->type_name("FILE");
+    AddEffortOption(verb, options->effort);
     SetWork(verb, context, [&context, options] { return Create(context.console, *options); });
 }
 
@@ -259,6 +265,25 @@ void AddDelta(CLI::App& program, VerbContext& context)
     AddCreate(delta, context);
     AddApply(delta, context);
     AddShow(delta, context);
+}
+
+void AddEffortOption(CLI::App& verb, std::string& effort)
+{
+    verb.add_option(
+            "--effort", effort,
+            "How hard deltas are packed. \"low\" takes up to a quarter less time; deltas are 4 to 7 % larger, much "
+            "larger where gzip files change, and clients apply them fastest. \"high\" takes up to a half longer "
+            "and saves 3 to 5 %; clients need up to a half longer")
+        ->type_name("NAME")
+        ->capture_default_str()
+        ->check(CLI::IsMember({LOW_EFFORT, USUAL_EFFORT, HIGH_EFFORT}));
+}
+
+Engine::DeltaEffort EffortOf(std::string const& name)
+{
+    return name == LOW_EFFORT    ? Engine::DeltaEffort::Low
+           : name == HIGH_EFFORT ? Engine::DeltaEffort::High
+                                 : Engine::DeltaEffort::Usual;
 }
 
 } // namespace Pelnar::Publisher

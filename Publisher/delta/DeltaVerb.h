@@ -2,11 +2,17 @@
 // Thread: the main thread. Ownership: see Verb.h.
 #pragma once
 
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Publisher/Verb.h"
 
 namespace Pelnar::Publisher
 {
 
 void AddDelta(CLI::App& program, VerbContext& context);
+
+/// Adds the option "--effort" to \a verb.
+void AddEffortOption(CLI::App& verb, std::string& effort);
+/// REQUIRES: what that option accepts.
+Engine::DeltaEffort EffortOf(std::string const& name);
 
 } // namespace Pelnar::Publisher

@@ -41,7 +41,9 @@ _pelnar_appcast()
         "keys show --format") words="xml gnustep bare" ;;
         "keys export --form") words="seed secret-key" ;;
         "generate --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
+        "generate --effort") words="low usual high" ;;
         "check-release --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
+        "delta create --effort") words="low usual high" ;;
     esac
     if [ -z "$words" ]; then
         case "$verb" in
@@ -58,7 +60,7 @@ _pelnar_appcast()
             "keys export") words="-h --help --form --to-terminal" ;;
             "sign") words="-h --help --key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --sign-feed --valid-for" ;;
+            "generate") words="-h --help --key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --sign-feed --valid-for" ;;
             "check-release") words="-h --help --machine --public-key" ;;
             "sign-feed") words="-h --help --key --valid-for --serial --accept-changes -o --output" ;;
             "promote") words="-h --help --dry-run --key --valid-for --to" ;;
@@ -66,7 +68,7 @@ _pelnar_appcast()
             "edit-notes") words="-h --help --dry-run --key --valid-for" ;;
             "prune") words="-h --help --dry-run --key --valid-for --keep" ;;
             "delta") words="create apply show -h --help" ;;
-            "delta create") words="-h --help -o --output --key" ;;
+            "delta create") words="-h --help -o --output --key --effort" ;;
             "delta apply") words="-h --help -o --output" ;;
             "delta show") words="-h --help --json" ;;
             "serve") words="-h --help --host --port --fault --tls --end-with-input" ;;

@@ -7,6 +7,7 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
@@ -34,7 +35,7 @@ bool HasDeltaFrom(NewItem const& item, QString const& baseVersion)
 
 } // namespace
 
-void DeltaStage::AddTo(std::vector<NewItem>& items, int count)
+void DeltaStage::AddTo(std::vector<NewItem>& items, DeltaChoice const& choice)
 {
     m_bases = FindBases(items);
     TakeGiven(items);
@@ -43,16 +44,11 @@ void DeltaStage::AddTo(std::vector<NewItem>& items, int count)
     {
         return;
     }
-    int made = 0;
-    for (Base const& base : m_bases)
+    for (Base const& base : BasesFor(*newest, choice))
     {
-        if (made < count && base.version < newest->version)
+        if (!HasDeltaFrom(*newest, base.versionText))
         {
-            ++made;
-            if (!HasDeltaFrom(*newest, base.versionText))
-            {
-                Make(*newest, base);
-            }
+            Make(*newest, base, choice.effort);
         }
     }
     // Newest base first, no matter in which order they came.
@@ -88,6 +84,29 @@ std::vector<DeltaStage::Base> DeltaStage::FindBases(std::vector<NewItem> const& 
         }
     }
     std::stable_sort(bases.begin(), bases.end(), [](Base const& a, Base const& b) { return b.version < a.version; });
+    return bases;
+}
+
+std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaChoice const& choice) const
+{
+    std::vector<Base> bases;
+    std::copy_if(m_bases.begin(), m_bases.end(), std::back_inserter(bases),
+                 [&newest](Base const& base) { return base.version < newest.version; });
+    if (!choice.clients.empty())
+    {
+        std::vector<Base> chosen;
+        for (ClientShare const& client : choice.clients)
+        {
+            auto const base = std::find_if(bases.begin(), bases.end(),
+                                           [&client](Base const& other) { return other.version == client.version; });
+            if (base != bases.end())
+            {
+                chosen.push_back(*base);
+            }
+        }
+        bases = std::move(chosen);
+    }
+    bases.resize(std::min(bases.size(), static_cast<std::size_t>(choice.count)));
     return bases;
 }
 
@@ -180,7 +199,7 @@ BundleTree const& DeltaStage::TreeOf(NewItem const& item)
     return *m_tree;
 }
 
-void DeltaStage::Make(NewItem& item, Base const& base)
+void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effort)
 {
     QString const fileName = QStringLiteral("%1-%2-%3.delta").arg(item.productName, base.versionText, item.versionText);
     BundleTree const before = m_workplace.Unpack(base.fileName);
@@ -198,7 +217,7 @@ void DeltaStage::Make(NewItem& item, Base const& base)
         throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("remove it")});
     }
     auto file = std::make_unique<AtomicFile>(path);
-    MakeDelta(before, TreeOf(item), *file, path, m_workplace.console.err);
+    MakeDelta(before, TreeOf(item), *file, path, {m_workplace.console.err, effort});
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.signature.length))
     {

@@ -2,7 +2,9 @@
 // Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
+#include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Publisher/files/AtomicFile.h"
+#include "Publisher/generate/ClientShares.h"
 #include "Publisher/generate/Workplace.h"
 
 #include <memory>
@@ -10,6 +12,14 @@
 
 namespace Pelnar::Publisher
 {
+
+/// Which versions before the newest get a delta to it, and how it is made.
+struct DeltaChoice
+{
+    int count = 0;                    ///< at most
+    std::vector<ClientShare> clients; ///< empty: the newest; else those with the largest shares
+    Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
+};
 
 class DeltaStage
 {
@@ -21,10 +31,10 @@ public:
     }
 
     /// Gives each of \a items the deltas to it that lie in the folder, and the newest bundle for Linux, unless a
-    /// published one is newer, deltas from the \a count versions before it whose archives lie in the folder. A delta is
+    /// published one is newer, deltas from versions before it whose archives lie in the folder. A delta is
     /// taken only when it makes the very bundle of the item's archive and saves a tenth of that. Nothing is seen in the
     /// folder until Commit. Throws Refusal.
-    void AddTo(std::vector<NewItem>& items, int count);
+    void AddTo(std::vector<NewItem>& items, DeltaChoice const& choice);
 
     /// Gives the deltas that were made their names in the folder. Throws Refusal.
     void Commit();
@@ -39,11 +49,13 @@ private:
     };
 
     std::vector<Base> FindBases(std::vector<NewItem> const& items) const;
+    /// The bases before \a newest that get a delta to it.
+    std::vector<Base> BasesFor(NewItem const& newest, DeltaChoice const& choice) const;
     void TakeGiven(std::vector<NewItem>& items);
     void TakeGiven(NewItem& item, QString const& fileName, QString const& baseVersion);
     NewItem* NewestItem(std::vector<NewItem>& items) const;
     BundleTree const& TreeOf(NewItem const& item);
-    void Make(NewItem& item, Base const& base);
+    void Make(NewItem& item, Base const& base, Engine::DeltaEffort effort);
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;

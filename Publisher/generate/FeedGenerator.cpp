@@ -1,6 +1,7 @@
 #include "Publisher/generate/FeedGenerator.h"
 
 #include "Publisher/Refusal.h"
+#include "Publisher/delta/DeltaVerb.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
@@ -52,6 +53,12 @@ DownloadAddress AddressOf(GenerateRequest const& request)
     }
     return request.urlTemplate.empty() ? DownloadAddress::UnderPrefix(QString::fromStdString(request.urlPrefix))
                                        : DownloadAddress::ByPattern(QString::fromStdString(request.urlTemplate));
+}
+
+std::vector<ClientShare> ClientsOf(GenerateRequest const& request)
+{
+    return request.clientsFile.empty() ? std::vector<ClientShare>()
+                                       : ReadClientShares(QString::fromStdString(request.clientsFile));
 }
 
 /// The feed that is published, or an empty one.
@@ -169,7 +176,7 @@ public:
         PublishedFeed feed = OpenFeed(QString::fromStdString(m_request.title));
         std::vector<NewItem> items = TakeNew(feed, archives);
         DeltaStage deltas(m_workplace, feed, archives);
-        deltas.AddTo(items, m_request.deltaCount);
+        deltas.AddTo(items, {m_request.deltaCount, ClientsOf(m_request), EffortOf(m_request.deltaEffort)});
         std::stable_sort(items.begin(), items.end(),
                          [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
         if (items.empty() && m_isNew)

@@ -24,6 +24,8 @@ struct GenerateRequest
     std::string title;                   ///< of a new feed; empty for the product's name
     std::string link;                    ///< of a new feed; empty for the address of the files
     int deltaCount = 3;                  ///< how many versions before the newest get a delta to it
+    std::string clientsFile;             ///< of the shares by which these are chosen; empty for the newest ones
+    std::string deltaEffort = "usual";   ///< a name that EffortOf knows
     bool isFeedSigned = false;           ///< a feed that has a signature is signed again in any case
     int validDays = 30;                  ///< until the feed's signature expires
 };

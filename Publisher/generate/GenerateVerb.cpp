@@ -2,6 +2,7 @@
 
 #include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/delta/DeltaVerb.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/generate/FeedGenerator.h"
 #include "Publisher/signfeed/SignFeedVerb.h"
@@ -46,6 +47,11 @@ void AddGenerate(CLI::App& program, VerbContext& context)
         ->type_name("NUMBER")
         ->check(CLI::Range(0, 100))
         ->capture_default_str();
+    verb.add_option("--clients", request->clientsFile,
+                    "File with the versions that clients run, a line each: the version and its share, any number. "
+                    "Those with the largest shares get the deltas, instead of the newest")
+        ->type_name("FILE");
+    AddEffortOption(verb, request->deltaEffort);
     verb.add_flag("--sign-feed", request->isFeedSigned,
                   "Sign the feed itself as well; one that has a signature is always signed again when it changes");
     AddValidForOption(verb, request->validDays);

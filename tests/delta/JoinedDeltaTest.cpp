@@ -145,6 +145,25 @@ TEST_F(JoinedDelta, APackedTextCostsWhatIsNewInTheText)
     ExpectTheNewVersion();
 }
 
+TEST_F(JoinedDelta, EveryEffortMakesTheNewVersionAndMoreMakesItSmaller)
+{
+    std::string const text = WordsOf(1, 60000);
+    WriteFile(Old() / "changes.gz", GzipOf(text));
+    WriteFile(New() / "changes.gz", GzipOf("One more line.\n" + text));
+    WriteFile(New() / "words", WordsOf(2, 100000));
+    std::vector<std::uint64_t> sizes;
+    for (DeltaEffort const effort : {DeltaEffort::Low, DeltaEffort::Usual, DeltaEffort::High})
+    {
+        UniqueFd const container(open(Container().c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600));
+        DeltaReport const report = MakeDelta(Old(), "1.0", New(), "2.0", container.Get(), {}, {}, effort);
+        ASSERT_TRUE(report.outcome.HasSucceeded());
+        sizes.push_back(report.containerBytes);
+        ExpectTheNewVersion();
+    }
+    EXPECT_LT(sizes[1], sizes[0]);
+    EXPECT_LE(sizes[2], sizes[1]);
+}
+
 TEST_F(JoinedDelta, ManyPackedTextsAndOthersComeOutAsTheyAre)
 {
     for (unsigned i = 0; i < 8; ++i)

@@ -12,7 +12,20 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr int COMPRESSION_LEVEL = 19;
+int LevelOf(DeltaEffort effort)
+{
+    switch (effort)
+    {
+    case DeltaEffort::Low:
+        return 9;
+    case DeltaEffort::Usual:
+        return 19;
+    case DeltaEffort::High:
+        return 22;
+    }
+    return 0;
+}
+
 /// One more than the properties of LZMA: 3, 0 and 4 bits of the byte before; nothing of the position.
 constexpr std::uint8_t PACKINGS[] = {4, 1, 5};
 /// Larger streams are packed in one way: each costs a second for two megabytes.
@@ -28,7 +41,7 @@ void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
 
 } // namespace
 
-ByteBuffer CompressForDelta(Bytes bytes, int windowLog)
+ByteBuffer CompressForDelta(Bytes bytes, int windowLog, DeltaEffort effort)
 {
     std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> const context(ZSTD_createCCtx(), ZSTD_freeCCtx);
     ByteBuffer stored(bytes.empty() ? 0 : ZSTD_compressBound(bytes.size()));
@@ -40,7 +53,7 @@ ByteBuffer CompressForDelta(Bytes bytes, int windowLog)
     {
         throw std::bad_alloc();
     }
-    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_compressionLevel, COMPRESSION_LEVEL);
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_compressionLevel, LevelOf(effort));
     ZSTD_CCtx_setParameter(context.get(), ZSTD_c_enableLongDistanceMatching, 1);
     ZSTD_CCtx_setParameter(context.get(), ZSTD_c_windowLog, windowLog);
     std::size_t const size = ZSTD_compress2(context.get(), stored.data(), stored.size(), bytes.data(), bytes.size());
@@ -78,12 +91,16 @@ ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
     return packed;
 }
 
-PackedStream PackStream(Bytes bytes, int windowLog)
+PackedStream PackStream(Bytes bytes, int windowLog, DeltaEffort effort)
 {
-    PackedStream best{0, CompressForDelta(bytes, windowLog)};
-    // LZMA takes several times as long to unpack.
-    std::size_t const worthwhile = best.bytes.size() - best.bytes.size() / 10;
-    std::size_t const tries = bytes.size() > MOST_BYTES_TO_TRY ? 1 : std::size(PACKINGS);
+    PackedStream best{0, CompressForDelta(bytes, windowLog, effort)};
+    if (effort == DeltaEffort::Low)
+    {
+        return best;
+    }
+    bool const isHigh = effort == DeltaEffort::High;
+    std::size_t const worthwhile = isHigh ? best.bytes.size() : best.bytes.size() - best.bytes.size() / 10;
+    std::size_t const tries = isHigh && bytes.size() <= MOST_BYTES_TO_TRY ? std::size(PACKINGS) : 1;
     for (std::size_t i = 0; i < tries; ++i)
     {
         ByteBuffer packed = PackByLzma(bytes, PACKINGS[i], windowLog);

@@ -10,8 +10,17 @@ namespace Pelnar::Engine
 /// The header and the compressed manifest that open a container.
 [[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
 
-/// zstd's answer at the level that containers are made with; nothing for nothing.
-[[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes, int windowLog = DELTA_WINDOW_LOG);
+/// How long packing may take, and unpacking.
+enum class DeltaEffort
+{
+    Low,   ///< zstd at a low level; packed texts stay packed
+    Usual, ///< zstd at a high level, or LZMA where that saves a tenth: it takes several times as long to unpack
+    High,  ///< zstd at its highest level and LZMA in several ways: the smallest counts
+};
+
+/// zstd's answer; nothing for nothing.
+[[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes, int windowLog = DELTA_WINDOW_LOG,
+                                          DeltaEffort effort = DeltaEffort::Usual);
 
 /// LZMA's answer for one less than \a packing as its properties; nothing for nothing.
 [[nodiscard]] ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog);
@@ -22,7 +31,7 @@ struct PackedStream
     ByteBuffer bytes;
 };
 
-/// The smallest answer.
-[[nodiscard]] PackedStream PackStream(Bytes bytes, int windowLog);
+/// The best answer for \a effort.
+[[nodiscard]] PackedStream PackStream(Bytes bytes, int windowLog, DeltaEffort effort = DeltaEffort::Usual);
 
 } // namespace Pelnar::Engine

@@ -23,16 +23,23 @@ namespace fs = std::filesystem;
 class Maker
 {
 public:
-    Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, DeltaMakerProgress const& progress)
-        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_progress(progress)
+    struct Manner
+    {
+        DeltaMakerProgress const& progress;
+        DeltaEffort effort;
+    };
+
+    Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, Manner manner)
+        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_manner(manner)
     {
     }
 
     /// Completes the manifest, and answers the data that go with it.
     ByteBuffer Make()
     {
-        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries);
-        std::vector<UnitSteps> steps = SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_manner.effort);
+        std::vector<UnitSteps> steps =
+            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_manner.progress);
         SearchPlainly(units, steps);
         AddKeptFiles();
         DeltaUnit whole;
@@ -137,7 +144,7 @@ private:
             }
         }
         std::vector<UnitSteps> const found =
-            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_manner.progress);
         for (std::size_t i = 0; i < numbers.size(); ++i)
         {
             steps[numbers[i]] = found[i];
@@ -181,13 +188,13 @@ private:
         std::array<PackedStream, PATCH_STREAMS> packed;
         DoAll(
             PATCH_STREAMS,
-            [&packed, &patch](std::size_t i)
+            [this, &packed, &patch](std::size_t i)
             {
                 // The last is the largest as a rule.
                 std::size_t const number = PATCH_STREAMS - 1 - i;
                 ByteBuffer const& plain = patch.streams[number];
-                packed[number] =
-                    PackStream(Bytes(plain.data(), plain.size()), WindowLogOf(static_cast<PatchStream>(number)));
+                packed[number] = PackStream(Bytes(plain.data(), plain.size()),
+                                            WindowLogOf(static_cast<PatchStream>(number)), m_manner.effort);
             },
             [] {});
         ByteBuffer data;
@@ -202,7 +209,7 @@ private:
     fs::path m_newFolder;
     OldVersion const& m_old;
     DeltaManifest& m_manifest;
-    DeltaMakerProgress const& m_progress;
+    Manner m_manner;
     PatchWriter m_writer;
     ContentHasher m_baseHashes;
     ContentHasher m_targetHashes;
@@ -225,7 +232,7 @@ void Count(DeltaManifest const& manifest, DeltaReport& report)
 
 DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion, fs::path const& newBundle,
                       std::string const& targetVersion, int containerFd, DeltaLimits const& limits,
-                      DeltaMakerProgress const& progress)
+                      DeltaMakerProgress const& progress, DeltaEffort effort)
 {
     DeltaReport report;
     DeltaManifest manifest;
@@ -237,7 +244,7 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
     {
         OldVersion const old = ReadOldVersion(oldBundle);
         manifest.entries = ReadNewVersion(newBundle, old);
-        data = Maker(newBundle, old, manifest, progress).Make();
+        data = Maker(newBundle, old, manifest, {progress, effort}).Make();
     }
     catch (fs::filesystem_error const& error)
     {

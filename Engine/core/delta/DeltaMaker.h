@@ -2,7 +2,7 @@
 // Thread: any. Ownership: values only. A publisher's work: it reads trees that the publisher trusts.
 #pragma once
 
-#include "Engine/core/delta/DeltaContainer.h"
+#include "Engine/core/delta/DeltaContainerWriter.h"
 
 #include <filesystem>
 #include <functional>
@@ -24,11 +24,10 @@ struct DeltaReport
 using DeltaMakerProgress = std::function<void(std::uint64_t donePieces, std::uint64_t totalPieces)>;
 
 /// Writes the delta from the folder \a oldBundle to the folder \a newBundle into the file open at \a containerFd, which
-/// must be empty. All processors work on it. The same two folders
-/// always make the same bytes.
+/// must be empty. All processors work on it. The same two folders and the same effort always make the same bytes.
 [[nodiscard]] DeltaReport MakeDelta(std::filesystem::path const& oldBundle, std::string const& baseVersion,
                                     std::filesystem::path const& newBundle, std::string const& targetVersion,
                                     int containerFd, DeltaLimits const& limits = {},
-                                    DeltaMakerProgress const& progress = {});
+                                    DeltaMakerProgress const& progress = {}, DeltaEffort effort = DeltaEffort::Usual);
 
 } // namespace Pelnar::Engine

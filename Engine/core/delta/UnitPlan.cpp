@@ -58,8 +58,9 @@ std::vector<SpanChange> ChangesOf(ImageLayout const& from, ImageLayout const& to
 class Planner
 {
 public:
-    Planner(OldVersion const& old, std::filesystem::path newFolder, std::vector<DeltaEntry> const& entries)
-        : m_old(old), m_newFolder(std::move(newFolder)), m_entries(entries)
+    Planner(OldVersion const& old, std::filesystem::path newFolder, std::vector<DeltaEntry> const& entries,
+            DeltaEffort effort)
+        : m_old(old), m_newFolder(std::move(newFolder)), m_entries(entries), m_effort(effort)
     {
         for (auto const& [path, file] : old.files)
         {
@@ -120,7 +121,7 @@ private:
     {
         std::string const source = SourceFor(m_entries[target].path);
         auto const found = m_old.files.find(source);
-        if (found == m_old.files.end() || found->second.size > MAX_PACKED_TEXT_BYTES ||
+        if (m_effort == DeltaEffort::Low || found == m_old.files.end() || found->second.size > MAX_PACKED_TEXT_BYTES ||
             m_entries[target].size > MAX_PACKED_TEXT_BYTES)
         {
             return false;
@@ -190,6 +191,7 @@ private:
     OldVersion const& m_old;
     std::filesystem::path m_newFolder;
     std::vector<DeltaEntry> const& m_entries;
+    DeltaEffort m_effort;
     std::multimap<std::string, std::string> m_pathsByPlainPath;
     std::set<std::string> m_usedPaths; ///< of old files that are kept or are programs' sources
     std::vector<DeltaUnit> m_units;
@@ -198,9 +200,9 @@ private:
 } // namespace
 
 std::vector<DeltaUnit> PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
-                                 std::vector<DeltaEntry> const& entries)
+                                 std::vector<DeltaEntry> const& entries, DeltaEffort effort)
 {
-    return Planner(old, newFolder, entries).Plan();
+    return Planner(old, newFolder, entries, effort).Plan();
 }
 
 } // namespace Pelnar::Engine

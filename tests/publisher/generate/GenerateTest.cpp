@@ -9,6 +9,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <algorithm>
 
@@ -288,6 +289,48 @@ TEST(Generate, TemplateThatNamesNoFileIsRefused)
                      folder.KeyFile(), QStringLiteral("--url-template"), QLatin1String(pattern)});
         EXPECT_EQ(run.status, 2) << pattern;
         EXPECT_NE(run.err.find("--url-template"), std::string::npos) << run.err;
+    }
+}
+
+TEST(Generate, DeltasLeadFromTheVersionsThatMostClientsRun)
+{
+    PublisherFolder const folder;
+    for (char const* const version : {"1.0", "1.9", "1.10", "2.0"})
+    {
+        folder.PutVersion(version);
+    }
+    QTemporaryDir const place;
+    QString const clients = place.filePath(QStringLiteral("clients"));
+    QFile file(clients);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("# of last week\n1.10 3\n\n0.9  70\n1.0\t25.5\n2.0 90\n1.9 20\n");
+    file.close();
+    folder.GeneratedFeed({QStringLiteral("--deltas"), QStringLiteral("2"), QStringLiteral("--clients"), clients});
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 4u);
+    ASSERT_EQ(items[0].deltas.size(), 2u) << "0.9 is not in the folder, and 2.0 is the newest";
+    EXPECT_EQ(Text(items[0].deltas[0].deltaFrom), "1.9");
+    EXPECT_EQ(Text(items[0].deltas[1].deltaFrom), "1.0");
+}
+
+TEST(Generate, AListOfClientsThatSaysNothingIsRefused)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    QTemporaryDir const place;
+    for (char const* const text :
+         {"1.0\n", "1.0 many\n", "1.0 0\n", "1.0 -1\n", "one 5\n", "1.0 5 7\n", "1.0 inf\n", "1.0 5\n1.0.0 6\n"})
+    {
+        SCOPED_TRACE(text);
+        QString const clients = place.filePath(QStringLiteral("clients"));
+        QFile file(clients);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+        file.close();
+        ToolRun const run = folder.Generate({QStringLiteral("--clients"), clients});
+        EXPECT_NE(run.status, 0);
+        EXPECT_NE(run.err.find("clients:"), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("a version and its share"), std::string::npos) << run.err;
     }
 }
 

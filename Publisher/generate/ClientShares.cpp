@@ -1,0 +1,62 @@
+#include "Publisher/generate/ClientShares.h"
+
+#include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
+#include "Publisher/generate/Workplace.h"
+
+#include <QRegularExpression>
+#include <QStringList>
+
+#include <algorithm>
+#include <cmath>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr int MAX_BYTES = 1 << 20;
+
+[[noreturn]] void RefuseLine(QString const& name, int line, QString const& what)
+{
+    throw Refusal({name, line, 0, what, QStringLiteral("write a version and its share, such as: 1.4.2 0.35")});
+}
+
+} // namespace
+
+std::vector<ClientShare> ReadClientShares(QString const& name)
+{
+    static QRegularExpression const BLANKS(QStringLiteral("\\s+"));
+    QByteArray const bytes = ReadInputFile(OpenInputFile(name), MAX_BYTES, QStringLiteral("keep it below 1 MiB"));
+    std::vector<ClientShare> clients;
+    int number = 0;
+    for (QString const& text : QString::fromUtf8(bytes).split(QLatin1Char('\n')))
+    {
+        ++number;
+        QString const line = text.trimmed();
+        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+        {
+            continue;
+        }
+        QStringList const words = line.split(BLANKS);
+        bool isNumber = false;
+        ClientShare const client{WholeVersion(words.front()), words.size() == 2 ? words.back().toDouble(&isNumber) : 0};
+        if (!client.version.IsValid() || !isNumber || !std::isfinite(client.share) || !(client.share > 0))
+        {
+            RefuseLine(name, number, QStringLiteral("\"%1\" is not a version and a share").arg(Printable(line)));
+        }
+        bool const isKnown =
+            std::any_of(clients.begin(), clients.end(),
+                        [&client](ClientShare const& other) { return other.version == client.version; });
+        if (isKnown)
+        {
+            RefuseLine(name, number, QStringLiteral("version %1 stands there twice").arg(Printable(words.front())));
+        }
+        clients.push_back(client);
+    }
+    std::stable_sort(clients.begin(), clients.end(),
+                     [](ClientShare const& a, ClientShare const& b) { return a.share > b.share; });
+    return clients;
+}
+
+} // namespace Pelnar::Publisher

@@ -62,7 +62,7 @@ std::vector<ClientShare> ClientsOf(GenerateRequest const& request)
 }
 
 /// The feed that is published, or an empty one.
-FeedContent ReadFeedFile(QString const& feedFile, SigningKey const& key)
+FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
 {
     if (!QFileInfo::exists(feedFile))
     {
@@ -149,7 +149,7 @@ void RefuseNewErrors(QString const& feedFile, std::vector<LintFinding> const& be
 class FeedRun
 {
 public:
-    FeedRun(GenerateRequest const& request, SigningKey const& key, Console const& console)
+    FeedRun(GenerateRequest const& request, ISigner const& key, Console const& console)
         : m_request(request)
         , m_key(key)
         , m_console(console)
@@ -283,7 +283,7 @@ private:
     }
 
     GenerateRequest const& m_request;
-    SigningKey const& m_key;
+    ISigner const& m_key;
     Console const& m_console;
     Workplace const m_workplace;
     QString const m_feedFile;
@@ -298,8 +298,8 @@ private:
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
 {
     CheckPublicKeys(request.publicKeys);
-    SigningKey const key = SigningKey::Load(QString::fromStdString(request.keyFile));
-    FeedRun const preview(request, key, console); // bad options are told before another run is waited for
+    std::unique_ptr<ISigner> const signer = LoadSigner(request.signer);
+    FeedRun const preview(request, *signer, console); // bad options are told before another run is waited for
     QString const folder = QString::fromStdString(request.folder);
     FolderLock const lock(folder, console);
     QString const feedFolder = QFileInfo(preview.FeedFile()).absolutePath();
@@ -308,7 +308,7 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
     {
         feedLock.emplace(feedFolder, console);
     }
-    return FeedRun(request, key, console).Run();
+    return FeedRun(request, *signer, console).Run();
 }
 
 } // namespace Pelnar::Publisher

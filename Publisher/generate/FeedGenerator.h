@@ -5,6 +5,7 @@
 #pragma once
 
 #include "Publisher/Console.h"
+#include "Publisher/keys/Signer.h"
 
 #include <string>
 #include <vector>
@@ -15,7 +16,7 @@ namespace Pelnar::Publisher
 struct GenerateRequest
 {
     std::string folder;
-    std::string keyFile;
+    SignerOptions signer;
     std::string urlPrefix;               ///< where the folder's files are published
     std::string urlTemplate;             ///< the same with "{file}" and "{version}" in it; one of the two is empty
     std::string machine;                 ///< that the programs for Linux are for

@@ -22,9 +22,7 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "Folder of zip and tar archives of bundles, installers, deltas, and release notes beside them "
                     "(NAME.html, .md or .txt, and in a language NAME.de.html)")
         ->required();
-    verb.add_option("--key", request->keyFile, "File of the private key, or \"-\" for standard input")
-        ->required()
-        ->type_name("FILE");
+    AddSignerOptions(verb, request->signer);
     CLI::Option* const prefix =
         verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
             ->type_name("URL");

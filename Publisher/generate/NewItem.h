@@ -5,7 +5,7 @@
 #include "Engine/core/feed/FeedParser.h"
 #include "HostFramework/Version.h"
 #include "Publisher/generate/FolderScan.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 
 #include <QUrl>
 

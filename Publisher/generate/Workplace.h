@@ -16,7 +16,7 @@ struct Workplace
 {
     QString folder;
     DownloadAddress address;
-    SigningKey const& key;
+    ISigner const& key;
     Console const& console;
 
     Engine::Machine machine;             ///< that programs for Linux are for

@@ -7,7 +7,7 @@
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 
 #include <memory>
 
@@ -42,33 +42,26 @@ ExitStatus Verify(Console const& console, QString const& archiveName, std::strin
 
 } // namespace
 
-QString AttributesOf(ArchiveSignature const& signature)
-{
-    return QStringLiteral("sparkle:edSignature=\"%1\" length=\"%2\"").arg(signature.signature).arg(signature.length);
-}
-
 void AddSign(CLI::App& program, VerbContext& context)
 {
     struct Options
     {
         std::string archive;
-        std::string key;
+        SignerOptions signer;
     };
     auto const options = std::make_shared<Options>();
     CLI::App& verb =
         *program.add_subcommand("sign", "Sign an archive and print the attributes for its enclosure in the feed");
     verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta to sign")->required();
-    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")
-        ->required()
-        ->type_name("FILE");
+    AddSignerOptions(verb, options->signer);
     SetWork(verb, context,
             [&context, options]
             {
                 InputFile const archive = OpenInputFile(QString::fromStdString(options->archive));
-                SigningKey const key = SigningKey::Load(QString::fromStdString(options->key));
+                std::unique_ptr<ISigner> const signer = LoadSigner(options->signer);
                 Progress bar(context.console.err, QStringLiteral("Signing"));
                 bar.Show(0, 1); // the signature is made at once
-                context.console.Print(AttributesOf(key.Sign(archive)));
+                context.console.Print(AttributesOf(signer->Sign(archive)));
                 return ExitStatus::Clean;
             });
 }

@@ -1,6 +1,5 @@
 #include "Publisher/keys/SigningKey.h"
 
-#include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/payload/TrustedKeys.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
@@ -250,14 +249,7 @@ void SigningKey::Save(QString const& path) const
 
 ArchiveSignature SigningKey::Sign(InputFile const& archive) const
 {
-    if (archive.size == 0 || archive.size > Engine::FeedLimits().maxContentLength)
-    {
-        throw Refusal({archive.name, 0, 0,
-                       archive.size == 0 ? QStringLiteral("is empty")
-                                         : QStringLiteral("is larger than the 16 GiB that clients download"),
-                       QStringLiteral("give the archive that is to be published")},
-                      RefusalCause::Content);
-    }
+    CheckArchiveSize(archive);
     Engine::FileMapping const mapping(archive.descriptor.Get(), archive.size);
     if (!mapping.IsValid())
     {

@@ -3,9 +3,8 @@
 // wiped; it never leaves it but through SecretText. The file is described in docs/formats/signing-key.md.
 #pragma once
 
-#include "Publisher/files/InputFile.h"
+#include "Publisher/keys/Signer.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <cstddef>
@@ -43,16 +42,7 @@ enum class KeyForm
     SecretKey, ///< base64 of 64 bytes: the seed and the public key
 };
 
-struct ArchiveSignature
-{
-    QString signature; ///< base64
-    quint64 length = 0;
-};
-
-/// The attributes for the archive's enclosure in a feed.
-QString AttributesOf(ArchiveSignature const& signature);
-
-class SigningKey
+class SigningKey final : public ISigner
 {
 public:
     static SigningKey Generate();
@@ -60,17 +50,13 @@ public:
     /// read, a link, a file of another user, and for what is no key.
     static SigningKey Load(QString const& path);
 
-    /// Base64 of 32 bytes.
-    QString PublicKeyText() const;
+    QString PublicKeyText() const override;
     /// The private key in that form and the line's end. Ends in a NUL.
     SecretBytes SecretText(KeyForm form) const;
     /// Writes the seed to a new file that only its owner may read. Throws Refusal, when there is a file as well.
     void Save(QString const& path) const;
-    /// Throws Refusal: for an archive that is empty or longer than a feed may promise, and when the check that clients
-    /// make does not accept the signature.
-    ArchiveSignature Sign(InputFile const& archive) const;
-    /// Base64 of the signature of \a message.
-    std::string SignatureOf(QByteArray const& message) const;
+    ArchiveSignature Sign(InputFile const& archive) const override;
+    std::string SignatureOf(QByteArray const& message) const override;
 
 private:
     explicit SigningKey(SecretBytes secret);

@@ -53,7 +53,7 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
 
 } // namespace
 
-FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, SigningKey const& key, ChangedFeed changed)
+FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigner const& key, ChangedFeed changed)
 {
     Engine::SignedFeed const feed = Engine::SplitSignedFeed(bytes);
     if (feed.fault == Engine::SignedFeedFault::Missing)
@@ -77,8 +77,7 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, Signin
     return {bytes.left(feed.contentBytes), true};
 }
 
-SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, SigningKey const& key,
-                         SigningTerms const& terms)
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms)
 {
     SignedFeedBytes result;
     result.terms.serial = NextSerial(name, ReadChannel(name, content), terms);

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 
 #include <optional>
 
@@ -40,12 +40,11 @@ struct SignedFeedBytes
 /// Takes \a bytes apart; \a name is shown. Throws Refusal: for a signature that is not where and how it must be, and,
 /// unless \a changed accepts it, for one that does not fit: anyone who signs by a timetable must not sign what somebody
 /// else has written into the feed.
-FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, SigningKey const& key, ChangedFeed changed);
+FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigner const& key, ChangedFeed changed);
 
 /// Writes the terms into \a content and signs it. Throws Refusal: for what clients cannot read, for what is not UTF-8
 /// or has no channel, and for a serial that would not grow.
-SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, SigningKey const& key,
-                         SigningTerms const& terms);
+SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms);
 
 /// "signed with serial 8, expires 2026-12-20T08:00:00Z"
 QString TextOf(Engine::FeedTerms const& terms);

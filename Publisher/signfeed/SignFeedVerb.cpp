@@ -18,7 +18,7 @@ namespace
 struct SignFeedOptions
 {
     std::string feed;
-    std::string key;
+    SignerOptions signer;
     std::string output;
     std::optional<qint64> serial;
     int validDays = SigningTerms().validDays;
@@ -31,11 +31,11 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
     FolderLock const lock(QFileInfo(output).absolutePath(), console);
     QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
-    SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
+    std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
-    FeedContent const content = ReadFeedContent(name, bytes, key, changed);
+    FeedContent const content = ReadFeedContent(name, bytes, *signer, changed);
     SignedFeedBytes const feed =
-        SignFeed(name, content.bytes, key, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
+        SignFeed(name, content.bytes, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
     AtomicFile file(output);
     file.Write(feed.bytes);
     file.Commit(ExistingFile::Replace);
@@ -60,9 +60,7 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
         "sign-feed", "Sign a feed, or sign it again before its signature expires: it gets a new serial and a new date, "
                      "and keeps every other byte; a feed that was changed since is not signed again");
     verb.add_option("FEED", options->feed, "File of the feed")->required();
-    verb.add_option("--key", options->key, "File of the private key, or \"-\" for standard input")
-        ->required()
-        ->type_name("FILE");
+    AddSignerOptions(verb, options->signer);
     AddValidForOption(verb, options->validDays);
     // As text: the number would be cut to the greatest one that fits.
     verb.add_option_function<std::string>(

@@ -1,0 +1,148 @@
+#include "Publisher/keys/CommandSigner.h"
+
+#include "Publisher/Refusal.h"
+#include "Publisher/keys/KeyId.h"
+
+#include <QProcess>
+
+#include <cerrno>
+#include <chrono>
+
+#include <sys/mman.h>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+/// A person may have to find the token and type its number.
+constexpr std::chrono::minutes LONGEST_RUN{10};
+constexpr int MOST_OUTPUT_BYTES = 4096;
+
+[[noreturn]] void RefuseSigner(QString const& what, QString const& mend)
+{
+    throw Refusal({QStringLiteral("--signer"), 0, 0, what, mend});
+}
+
+/// Base64 of the signature that a program printed: as it is, or as bytes.
+std::string SignatureIn(QByteArray const& output)
+{
+    QByteArray const text =
+        output.size() == int(Engine::ED25519_SIGNATURE_BYTES) ? output.toBase64() : output.trimmed();
+    Engine::Ed25519SignatureBytes signature;
+    if (Engine::ParseSignature(text.toStdString(), signature) != Engine::UpdateFault::None)
+    {
+        RefuseSigner(output.isEmpty()
+                         ? QStringLiteral("the program printed nothing")
+                         : QStringLiteral("the program printed %1 bytes that are no signature").arg(output.size()),
+                     QStringLiteral("let it write the 64 bytes of the Ed25519 signature, or their base64, to standard "
+                                    "output, and everything else to standard error"));
+    }
+    return text.toStdString();
+}
+
+/// What \a process prints until it ends.
+QByteArray OutputOf(QProcess& process)
+{
+    if (!process.waitForStarted())
+    {
+        RefuseSigner(
+            QStringLiteral("the program \"%1\" cannot be started: %2").arg(process.program(), process.errorString()),
+            QStringLiteral("give the command as you type it; it is started without a shell"));
+    }
+    QByteArray output;
+    auto const end = std::chrono::steady_clock::now() + LONGEST_RUN;
+    auto const take = [&]
+    {
+        output += process.readAllStandardOutput();
+        if (output.size() > MOST_OUTPUT_BYTES || std::chrono::steady_clock::now() > end)
+        {
+            process.kill();
+            process.waitForFinished();
+            RefuseSigner(output.size() > MOST_OUTPUT_BYTES
+                             ? QStringLiteral("the program printed more than a signature")
+                             : QStringLiteral("the program did not end within ten minutes"),
+                         QStringLiteral("let it write the signature and end"));
+        }
+    };
+    while (process.state() != QProcess::NotRunning)
+    {
+        process.waitForReadyRead(1000);
+        take();
+    }
+    take();
+    return output;
+}
+
+} // namespace
+
+CommandSigner::CommandSigner(QString const& command, std::string publicKey)
+    : m_command(QProcess::splitCommand(command)), m_publicKey(std::move(publicKey))
+{
+    if (m_command.isEmpty())
+    {
+        RefuseSigner(QStringLiteral("names no program"), QStringLiteral("give the command as you type it"));
+    }
+    if (KeyIdOf(m_publicKey).isEmpty())
+    {
+        throw Refusal({QStringLiteral("--signer-key"), 0, 0,
+                       m_publicKey.empty() ? QStringLiteral("is required with --signer")
+                                           : QStringLiteral("\"%1\" is no Ed25519 key")
+                                                 .arg(Printable(QString::fromStdString(m_publicKey).left(60))),
+                       QStringLiteral("give the public key of the program that signs, 32 bytes in base64")});
+    }
+}
+
+QString CommandSigner::PublicKeyText() const
+{
+    return QString::fromStdString(m_publicKey);
+}
+
+std::string CommandSigner::Run(int descriptor, QString const& name) const
+{
+    QProcess process;
+    process.setProgram(m_command.first());
+    process.setArguments(m_command.mid(1));
+    // Opened once more: the program reads from the beginning, and no other process can put another file there.
+    process.setStandardInputFile(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
+    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process.start(QIODevice::ReadOnly);
+    QByteArray const output = OutputOf(process);
+    if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
+    {
+        RefuseSigner(process.exitStatus() != QProcess::NormalExit
+                         ? QStringLiteral("the program was ended by a signal")
+                         : QStringLiteral("the program failed with exit status %1").arg(process.exitCode()),
+                     QStringLiteral("see what it said, and run this again"));
+    }
+    std::string signature = SignatureIn(output);
+    if (Engine::VerifyFileSignature(descriptor, signature, {m_publicKey}) != Engine::UpdateFault::None)
+    {
+        RefuseSigner(
+            QStringLiteral("what the program printed is no signature of %1 by the key %2")
+                .arg(name, KeyIdOf(m_publicKey)),
+            QStringLiteral("check which key the program signs with, and that it signs the bytes themselves, not "
+                           "their hash"));
+    }
+    return signature;
+}
+
+ArchiveSignature CommandSigner::Sign(InputFile const& archive) const
+{
+    CheckArchiveSize(archive);
+    return {QString::fromStdString(Run(archive.descriptor.Get(), archive.name)), archive.size};
+}
+
+std::string CommandSigner::SignatureOf(QByteArray const& message) const
+{
+    Engine::UniqueFd const file(::memfd_create("feed", MFD_CLOEXEC));
+    if (!file ||
+        !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<unsigned char const*>(message.constData()),
+                                                    std::size_t(message.size()))))
+    {
+        RefuseFile(QStringLiteral("the feed"), QStringLiteral("cannot be handed to the program"), errno, {});
+    }
+    return Run(file.Get(), QStringLiteral("the feed"));
+}
+
+} // namespace Pelnar::Publisher

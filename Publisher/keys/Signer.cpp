@@ -1,0 +1,66 @@
+#include "Publisher/keys/Signer.h"
+
+#include "Engine/core/feed/FeedParser.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/keys/CommandSigner.h"
+#include "Publisher/keys/SigningKey.h"
+
+namespace Pelnar::Publisher
+{
+
+QString TextOf(std::vector<KeyedSignature> const& signatures)
+{
+    QStringList texts;
+    for (KeyedSignature const& each : signatures)
+    {
+        texts.append(each.keyId + QLatin1Char(':') + each.signature);
+    }
+    return texts.join(QLatin1Char(' '));
+}
+
+QString AttributesOf(ArchiveSignature const& signature)
+{
+    return QStringLiteral("sparkle:edSignature=\"%1\" length=\"%2\"").arg(signature.signature).arg(signature.length);
+}
+
+void CheckArchiveSize(InputFile const& archive)
+{
+    if (archive.size == 0 || archive.size > Engine::FeedLimits().maxContentLength)
+    {
+        throw Refusal({archive.name, 0, 0,
+                       archive.size == 0 ? QStringLiteral("is empty")
+                                         : QStringLiteral("is larger than the 16 GiB that clients download"),
+                       QStringLiteral("give the archive that is to be published")},
+                      RefusalCause::Content);
+    }
+}
+
+void AddSignerOptions(CLI::App& verb, SignerOptions& options)
+{
+    verb.add_option("--key", options.keyFile, "File of the private key, or \"-\" for standard input")
+        ->type_name("FILE");
+    verb.add_option("--signer", options.command,
+                    "Instead of a private key, a program that signs: what is to be signed is its standard input, and "
+                    "the signature, 64 bytes or their base64, its standard output")
+        ->type_name("COMMAND");
+    verb.add_option("--signer-key", options.publicKey, "The public key of that program, in base64")->type_name("KEY");
+}
+
+std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options)
+{
+    if (options.keyFile.empty() == options.command.empty())
+    {
+        throw Refusal({QString(), 0, 0,
+                       options.keyFile.empty() ? QStringLiteral("--key is required")
+                                               : QStringLiteral("--key and --signer cannot both sign"),
+                       QStringLiteral("give --key with the file of the private key, or --signer with a program that "
+                                      "signs")});
+    }
+    if (options.command.empty())
+    {
+        return std::make_unique<SigningKey>(SigningKey::Load(QString::fromStdString(options.keyFile)));
+    }
+    return std::make_unique<CommandSigner>(QString::fromStdString(options.command), options.publicKey);
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,70 @@
+// Signer.h: what signs archives and feeds: a private key at hand, or a program of the publisher's that has one.
+// Thread: the main thread. Ownership: a signer is its caller's.
+#pragma once
+
+#include "Engine/core/payload/TrustedKeys.h"
+#include "Publisher/Verb.h"
+#include "Publisher/files/InputFile.h"
+
+#include <QByteArray>
+#include <QString>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+/// A signature beside the one that every client reads.
+struct KeyedSignature
+{
+    QString keyId;
+    QString signature; ///< base64
+};
+
+struct ArchiveSignature
+{
+    QString signature; ///< base64
+    quint64 length = 0;
+    std::vector<KeyedSignature> all = {}; ///< of every key that signed, when more than one did
+};
+
+/// The attributes for the archive's enclosure in a feed.
+QString AttributesOf(ArchiveSignature const& signature);
+
+/// The value of the attribute that holds several signatures: docs/formats/item-keys.md.
+QString TextOf(std::vector<KeyedSignature> const& signatures);
+
+class ISigner
+{
+public:
+    virtual ~ISigner() = default;
+
+    /// Base64 of 32 bytes.
+    [[nodiscard]] virtual QString PublicKeyText() const = 0;
+    /// Throws Refusal: for an archive that is empty or longer than a feed may promise, and when the check that clients
+    /// make does not accept the signature.
+    [[nodiscard]] virtual ArchiveSignature Sign(InputFile const& archive) const = 0;
+    /// Base64 of the signature of \a message. Throws Refusal.
+    [[nodiscard]] virtual std::string SignatureOf(QByteArray const& message) const = 0;
+};
+
+/// Throws Refusal for an archive that no feed may promise.
+void CheckArchiveSize(InputFile const& archive);
+
+/// How a command line names what signs.
+struct SignerOptions
+{
+    std::string keyFile;   ///< of the private key, or "-"
+    std::string command;   ///< of the publisher's program
+    std::string publicKey; ///< of that program
+};
+
+/// "--key", "--signer" and "--signer-key".
+void AddSignerOptions(CLI::App& verb, SignerOptions& options);
+
+/// What \a options name. Throws Refusal: unless they name one of the two, and for what cannot sign.
+std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options);
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,125 @@
+// SignerTest.cpp: "--signer": a program of the publisher's makes the signature, and what it makes is looked at.
+
+#include "tests/installer/InstallerFixture.h"
+#include "tests/publisher/support/AppcastTool.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+class ProgramThatSigns : public ::testing::Test
+{
+protected:
+    QString PathOf(std::string const& name) const { return QString::fromStdString(m_folder.Path() + '/' + name); }
+
+    QString Put(std::string const& name, std::string const& bytes) const
+    {
+        WriteFile(m_folder.Path() + '/' + name, bytes);
+        return PathOf(name);
+    }
+
+    std::string ContentOf(std::string const& name) const
+    {
+        QFile file(PathOf(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll().toStdString();
+    }
+
+    /// Signs the archive by a shell script.
+    ToolRun SignBy(std::string const& script, std::uint8_t keySeed = 7) const
+    {
+        return RunTool({QStringLiteral("sign"), Put("a.zip", m_archive), QStringLiteral("--signer"),
+                        QStringLiteral("/bin/sh \"%1\"").arg(Put("a script.sh", script)),
+                        QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(keySeed).publicKey)});
+    }
+
+    void ExpectRefused(std::string const& script, std::string const& reason) const
+    {
+        ToolRun const run = SignBy(script);
+        EXPECT_EQ(run.status, 2) << script;
+        EXPECT_EQ(run.out, "") << script;
+        EXPECT_NE(run.err.find(reason), std::string::npos) << run.err;
+    }
+
+    std::string const m_archive = std::string("an archive\0 with any bytes\n", 27);
+    std::string const m_signature = Base64(Sign(m_archive, MakeKeyPair(7)));
+
+private:
+    Workspace m_folder;
+};
+
+} // namespace
+
+TEST_F(ProgramThatSigns, ReadsTheArchiveAndWritesTheSignature)
+{
+    std::string const seen = PathOf("seen").toStdString();
+    ToolRun const run = SignBy("cat > '" + seen + "'\necho a word to the person >&2\necho '" + m_signature + "'\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "sparkle:edSignature=\"" + m_signature + "\" length=\"27\"\n");
+    EXPECT_EQ(ContentOf("seen"), m_archive);
+}
+
+TEST_F(ProgramThatSigns, MayWriteTheBytesThemselves)
+{
+    ToolRun const run = SignBy("printf %s '" + m_signature + "' | base64 -d\n");
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(run.out, "sparkle:edSignature=\"" + m_signature + "\" length=\"27\"\n");
+}
+
+TEST_F(ProgramThatSigns, MayLeaveTheArchiveUnread)
+{
+    EXPECT_EQ(SignBy("exec <&-\necho '" + m_signature + "'\n").status, 0);
+}
+
+TEST_F(ProgramThatSigns, EachFailureIsTold)
+{
+    ExpectRefused("exit 3\n", "the program failed with exit status 3");
+    ExpectRefused("echo '" + m_signature + "'\nexit 1\n", "the program failed with exit status 1");
+    ExpectRefused("kill -9 $$\n", "the program was ended by a signal");
+    ExpectRefused("", "the program printed nothing");
+    ExpectRefused("echo signed\n", "the program printed 7 bytes that are no signature");
+    ExpectRefused("echo '" + m_signature + " " + m_signature + "'\n", "that are no signature");
+    ExpectRefused("yes\n", "the program printed more than a signature");
+    ExpectRefused("echo '" + Base64(Sign("other", MakeKeyPair(7))) + "'\n", "is no signature of ");
+}
+
+TEST_F(ProgramThatSigns, SignatureOfAnotherKeyIsRefused)
+{
+    ToolRun const run = SignBy("echo '" + m_signature + "'\n", 8);
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("is no signature of "), std::string::npos) << run.err;
+}
+
+TEST_F(ProgramThatSigns, IsNamedWithItsKeyAndInsteadOfAPrivateKey)
+{
+    auto const refusal = [this](QStringList const& options)
+    {
+        ToolRun const run = RunTool(QStringList{QStringLiteral("sign"), Put("a.zip", m_archive)} + options);
+        EXPECT_EQ(run.status, 2);
+        return run.err;
+    };
+    QString const key = QString::fromStdString(MakeKeyPair(7).publicKey);
+    EXPECT_NE(refusal({}).find("--key is required"), std::string::npos);
+    EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral("true")}).find("is required with --signer"),
+              std::string::npos);
+    EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral("true"), QStringLiteral("--key"), PathOf("key")})
+                  .find("--key and --signer cannot both sign"),
+              std::string::npos);
+    EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral(" "), QStringLiteral("--signer-key"), key})
+                  .find("names no program"),
+              std::string::npos);
+    EXPECT_NE(refusal({QStringLiteral("--signer"), PathOf("missing"), QStringLiteral("--signer-key"), key})
+                  .find("cannot be started"),
+              std::string::npos);
+    EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral("true"), QStringLiteral("--signer-key"),
+                       QStringLiteral("garbage")})
+                  .find("is no Ed25519 key"),
+              std::string::npos);
+}
+
+} // namespace Pelnar::Testing

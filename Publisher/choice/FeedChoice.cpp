@@ -44,6 +44,11 @@ private:
     QString const m_fileAddress;
 };
 
+Core::Version WholeVersionOf(Core::Version const& version)
+{
+    return Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT);
+}
+
 /// As the version of a client: compares as older than every version of an item.
 Core::Version const OLDER_THAN_ALL;
 
@@ -74,18 +79,6 @@ private:
     std::function<bool(Core::Version const&, Core::Version const&)> const m_isOlder = App::Session::IsOlderVersion;
     std::function<bool(Core::Version const&, Core::Version const&)> const m_isSame = App::Session::IsSameVersion;
 };
-
-/// As the session's comparator: texts that cannot be compared count as the same.
-int OrderOfTexts(QString const& textA, QString const& textB)
-{
-    Core::Version const a = App::Session::VersionFromStringNoexcept(textA);
-    Core::Version const b = App::Session::VersionFromStringNoexcept(textB);
-    if (!a.IsValid() || !b.IsValid() || App::Session::IsSameVersion(a, b))
-    {
-        return 0;
-    }
-    return App::Session::IsOlderVersion(a, b) ? -1 : 1;
-}
 
 /// Keeps the best of the items that it is offered one after the other.
 class Contest
@@ -162,14 +155,19 @@ private:
 
     FeedChoice ChooseAmong(Candidates const& candidates, Client const& client);
     Candidates Finalists(Core::Version const& systemVersion, std::vector<FeedItem const*> const& leftOut);
+    /// As InstallationOf, with the keys of that version.
+    Engine::Installation InstallationFor(Client const& client) const;
+    std::vector<FeedItem const*> const& UntrustedBy(QStringList const& keys);
     /// The items that are left out for the version of \a client, and not for every one.
-    std::vector<FeedItem const*> LeftOut(Client const& client) const;
+    std::vector<FeedItem const*> LeftOut(Client const& client);
     Candidate& CandidateOf(FeedItem const& item) { return m_candidates.try_emplace(&item, item).first->second; }
 
     Engine::Installation const m_installation;
     std::unordered_map<FeedItem const*, Candidate> m_candidates; ///< items and deltas that were looked at
     Candidates m_all;                                            ///< but for those that are left out for every version
     std::vector<FeedItem const*> m_bound;                        ///< those of them that depend on the version
+    std::map<Core::Version, QStringList> m_trusted;              ///< ids of keys, by the versions that trust them
+    std::map<QStringList, std::vector<FeedItem const*>> m_untrusted; ///< what those who trust these ids do not take
     std::map<std::pair<Core::Version, std::vector<FeedItem const*>>, Candidates> m_finalists; ///< by system version
 };
 
@@ -187,19 +185,51 @@ FeedChooser::Impl::Impl(std::vector<FeedItem> const& items, Engine::Installation
         {
             m_bound.push_back(&item);
         }
+        Core::Version const version =
+            item.trustedKeys.isEmpty() ? Core::Version() : App::Session::VersionFromStringNoexcept(item.versionString);
+        if (version.IsValid())
+        {
+            m_trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
+        }
     }
 }
 
-std::vector<FeedItem const*> FeedChooser::Impl::LeftOut(Client const& client) const
+Engine::Installation FeedChooser::Impl::InstallationFor(Client const& client) const
+{
+    Engine::Installation installation = InstallationOf(client, m_installation);
+    auto const known = m_trusted.find(WholeVersionOf(client.localVersion));
+    if (installation.trustedKeys.isEmpty() && known != m_trusted.end())
+    {
+        installation.trustedKeys = known->second;
+    }
+    return installation;
+}
+
+std::vector<FeedItem const*> const& FeedChooser::Impl::UntrustedBy(QStringList const& keys)
+{
+    auto const [untrusted, isNew] = m_untrusted.try_emplace(keys);
+    for (auto candidate = m_all.begin(); isNew && candidate != m_all.end(); ++candidate)
+    {
+        if (!Engine::SignatureFor((*candidate)->item, keys))
+        {
+            untrusted->second.push_back(&(*candidate)->item);
+        }
+    }
+    return untrusted->second;
+}
+
+std::vector<FeedItem const*> FeedChooser::Impl::LeftOut(Client const& client)
 {
     std::vector<FeedItem const*> leftOut;
-    if (m_bound.empty())
+    if (m_bound.empty() && m_trusted.empty() && m_installation.trustedKeys.isEmpty())
     {
         return leftOut;
     }
-    Engine::Installation const installation = InstallationOf(client, m_installation);
-    std::copy_if(m_bound.begin(), m_bound.end(), std::back_inserter(leftOut),
-                 [&](FeedItem const* item) { return Engine::IsLeftOut(PolicyOf(*item, installation)); });
+    Engine::Installation const installation = InstallationFor(client);
+    auto const isLeftOut = [&](FeedItem const* item) { return Engine::IsLeftOut(PolicyOf(*item, installation)); };
+    std::copy_if(m_bound.begin(), m_bound.end(), std::back_inserter(leftOut), isLeftOut);
+    std::vector<FeedItem const*> const& untrusted = UntrustedBy(installation.trustedKeys);
+    std::copy_if(untrusted.begin(), untrusted.end(), std::back_inserter(leftOut), isLeftOut);
     return leftOut;
 }
 
@@ -265,7 +295,7 @@ FeedChoice FeedChooser::Impl::ChooseAmong(Candidates const& candidates, Client c
     choice.full = contest.Best();
     if (choice.full && client.previousAnswer == PreviousAnswer::None)
     {
-        for (FeedItem const* delta : MetDeltas(*choice.full, InstallationOf(client, m_installation)))
+        for (FeedItem const* delta : MetDeltas(*choice.full, InstallationFor(client)))
         {
             if (App::Session::StartsFromRunningVersion(delta->deltaFrom, subject.Get()))
             {
@@ -306,6 +336,35 @@ Engine::Installation InstallationOf(Client const& client, Engine::Installation i
     installation.version =
         Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
     return installation;
+}
+
+int OrderOfTexts(QString const& textA, QString const& textB)
+{
+    Core::Version const a = App::Session::VersionFromStringNoexcept(textA);
+    Core::Version const b = App::Session::VersionFromStringNoexcept(textB);
+    if (!a.IsValid() || !b.IsValid() || App::Session::IsSameVersion(a, b))
+    {
+        return 0;
+    }
+    return App::Session::IsOlderVersion(a, b) ? -1 : 1;
+}
+
+Engine::Installation InstallationAmong(std::vector<FeedItem> const& items, Client const& client,
+                                       Engine::Installation installation)
+{
+    Engine::Installation among = InstallationOf(client, std::move(installation));
+    for (FeedItem const& item : items)
+    {
+        bool const isAsked = among.trustedKeys.isEmpty() && !item.trustedKeys.isEmpty();
+        Core::Version const version =
+            isAsked ? App::Session::VersionFromStringNoexcept(item.versionString) : Core::Version();
+        if (version.IsValid() && App::Session::IsSameVersion(version, client.localVersion))
+        {
+            among.trustedKeys = item.trustedKeys;
+        }
+    }
+    among.stones = Engine::SteppingStonesOf(items, among, OrderOfTexts);
+    return among;
 }
 
 Engine::PolicyVerdict PolicyOf(FeedItem const& item, Engine::Installation const& installation)

@@ -63,7 +63,7 @@ public:
     Explainer(std::vector<FeedItem> const& items, Client const& client, Engine::Installation const& installation)
         : m_items(items)
         , m_client(client)
-        , m_installation(InstallationOf(client, installation))
+        , m_installation(InstallationAmong(items, client, installation))
         , m_choice(ChooseFromFeed(items, client, installation))
     {
     }

@@ -18,6 +18,11 @@ Core::Version WholeVersion(QString const& text)
 
 } // namespace
 
+Engine::KeyedVersion KeysOf(GatedVersion const& version)
+{
+    return {version.versionText, version.signerIds, version.HasClients() ? version.trustedIds : QStringList()};
+}
+
 bool IsOffered(GatedVersion const& newer, GatedVersion const& older)
 {
     return older.HasClients() && older.platform == newer.platform && older.version.IsValid() &&
@@ -71,7 +76,7 @@ GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platfo
     version.platform = platform;
     version.kind = UpdateTypeOf(item) == App::Session::UpdateType::INSTALLER ? Engine::PayloadKind::Installer
                                                                              : Engine::PayloadKind::WholeBundle;
-    version.signerId = item.signerKey;
+    version.signerIds = Engine::SignersOf(item);
     version.trustedIds = item.trustedKeys;
     return version;
 }

@@ -2,6 +2,7 @@
 // Thread: any. Ownership: values only.
 #pragma once
 
+#include "Engine/core/feed/KeyPaths.h"
 #include "Engine/core/payload/UpdateJob.h"
 #include "HostFramework/Version.h"
 #include "Publisher/files/BundleTree.h"
@@ -30,13 +31,16 @@ struct GatedVersion
     Core::Version version; ///< all four components present
     Engine::FeedPlatform platform = Engine::FeedPlatform::Linux;
     Engine::PayloadKind kind = Engine::PayloadKind::WholeBundle;
-    QString signerId;       ///< of the key that signed its downloads; empty while unknown
+    QStringList signerIds;  ///< of the keys that signed its download; empty while unknown
     QStringList trustedIds; ///< of the keys that its clients trust; empty while unknown
     std::optional<GatedBundle> bundle;
 
     /// Whether people run this version: an installer program is never installed itself.
     [[nodiscard]] bool HasClients() const { return kind == Engine::PayloadKind::WholeBundle; }
 };
+
+/// Its keys, for the paths from one version to another.
+[[nodiscard]] Engine::KeyedVersion KeysOf(GatedVersion const& version);
 
 /// Whether clients of \a older are offered \a newer.
 [[nodiscard]] bool IsOffered(GatedVersion const& newer, GatedVersion const& older);

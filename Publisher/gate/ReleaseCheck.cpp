@@ -30,7 +30,7 @@ std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform p
                                    // For another machine there is a run of its own.
                                    return !Engine::SuitsMachine(item.policy.machines, machine) ||
                                           item.fileUrl.isEmpty() || item.contentLength == 0 ||
-                                          item.edSignature.isEmpty();
+                                          (item.edSignature.isEmpty() && item.signatures.empty());
                                }),
                 items.end()); // lint has told of them
     std::stable_sort(items.begin(), items.end(),
@@ -88,7 +88,7 @@ private:
             bundle = Unpack(*file);
             TakeBundle(*bundle, *file, version);
         }
-        version.signerId = CheckSignature(*file, item, version.signerId);
+        version.signerIds = CheckSignatures(*file, item);
         version.path = file->name;
         if (bundle)
         {
@@ -99,7 +99,7 @@ private:
             }
         }
         m_console.Print(QStringLiteral("%1: version %2, signed by the key %3%4")
-                            .arg(file->name, item.versionString, version.signerId,
+                            .arg(file->name, item.versionString, version.signerIds.join(QLatin1Char(' ')),
                                  version.trustedIds.isEmpty()
                                      ? QString()
                                      : QStringLiteral(", trusts ") + version.trustedIds.join(QLatin1Char(' '))));
@@ -140,34 +140,73 @@ private:
         }
     }
 
-    /// The id of the key that signed.
-    QString CheckSignature(InputFile const& file, FeedItem const& item, QString const& saidId) const
+    /// The ids of the keys that signed. What the feed says of them must be so: clients choose the signature by it.
+    QStringList CheckSignatures(InputFile const& file, FeedItem const& item) const
     {
-        if (std::optional<std::string> const signer = SignerOf(file, item.edSignature, m_keys))
+        QStringList ids;
+        if (!item.edSignature.isEmpty())
         {
-            return KeyIdOf(*signer);
+            ids.append(CheckSignature(file, item));
         }
-        throw Refusal(
-            {file.name, 0, 0,
-             QStringLiteral("does not bear the published signature (line %1 of the feed) by any key that a "
-                            "bundle at hand trusts")
-                 .arg(item.line),
-             saidId.isEmpty()
-                 ? QStringLiteral("put the published file back, or give the key that signed it with "
-                                  "--public-key")
-                 : QStringLiteral("put the published file back, or give the key %1 with --public-key").arg(saidId)},
-            RefusalCause::Content);
+        for (Engine::FeedSignature const& each : item.signatures)
+        {
+            auto const key = std::find_if(m_keys.begin(), m_keys.end(),
+                                          [&](std::string const& text) { return KeyIdOf(text) == each.keyId; });
+            if (key != m_keys.end() && !SignerOf(file, each.signature, {*key}))
+            {
+                throw Refusal(
+                    {file.name, 0, 0,
+                     QStringLiteral("does not bear the published signature of the key %1 (line %2 of the feed)")
+                         .arg(each.keyId)
+                         .arg(item.line),
+                     QStringLiteral("put the published file back, or sign it again by that key")},
+                    RefusalCause::Content);
+            }
+            ids.append(each.keyId);
+        }
+        ids.removeDuplicates();
+        return ids;
+    }
+
+    QString CheckSignature(InputFile const& file, FeedItem const& item) const
+    {
+        std::optional<std::string> const signer = SignerOf(file, item.edSignature, m_keys);
+        QString const& said = item.signerKey;
+        if (!signer)
+        {
+            throw Refusal(
+                {file.name, 0, 0,
+                 QStringLiteral("does not bear the published signature (line %1 of the feed) by any key that a "
+                                "bundle at hand trusts")
+                     .arg(item.line),
+                 said.isEmpty()
+                     ? QStringLiteral("put the published file back, or give the key that signed it with --public-key")
+                     : QStringLiteral("put the published file back, or give the key %1 with --public-key").arg(said)},
+                RefusalCause::Content);
+        }
+        QString const id = KeyIdOf(*signer);
+        if (!said.isEmpty() && said != id)
+        {
+            throw Refusal({file.name, 0, 0,
+                           QStringLiteral("is signed by the key %1, but the feed says %2 (line %3); clients that trust "
+                                          "the first would leave it out")
+                               .arg(id, said)
+                               .arg(item.line),
+                           QStringLiteral("write signer=\"%1\" into the item's pelnar:keys").arg(id)},
+                          RefusalCause::Content);
+        }
+        return id;
     }
 
     void CheckDelta(FeedItem const& delta, std::vector<FeedItem> const& items, BundleTree const& target) const
     {
         std::optional<InputFile> const file = m_files.Open(delta);
-        if (!file || delta.contentLength == 0 || delta.edSignature.isEmpty())
+        if (!file || delta.contentLength == 0 || (delta.edSignature.isEmpty() && delta.signatures.empty()))
         {
             return;
         }
         CheckLength(*file, delta);
-        static_cast<void>(CheckSignature(*file, delta, delta.signerKey));
+        static_cast<void>(CheckSignatures(*file, delta));
         auto const base =
             std::find_if(items.begin(), items.end(),
                          [&](FeedItem const& item)

@@ -1,5 +1,6 @@
 #include "Publisher/gate/ReleaseGate.h"
 
+#include "Publisher/choice/FeedChoice.h"
 #include "Publisher/files/FaultText.h"
 
 #include <algorithm>
@@ -187,28 +188,53 @@ private:
     std::set<UpdateFault> m_reported;
 };
 
+bool HasCommon(QStringList const& a, QStringList const& b)
+{
+    return std::any_of(a.begin(), a.end(), [&b](QString const& id) { return b.contains(id); });
+}
+
+QString KeyText(QStringList const& ids)
+{
+    return ids.join(QStringLiteral(" and "));
+}
+
 void CheckOwnKey(GatedVersion const& version, RefusalList& refusals)
 {
-    if (!version.HasClients() || version.signerId.isEmpty() || version.trustedIds.isEmpty() ||
-        version.trustedIds.contains(version.signerId))
+    if (!version.HasClients() || version.signerIds.isEmpty() || version.trustedIds.isEmpty() ||
+        HasCommon(version.trustedIds, version.signerIds))
     {
         return;
     }
     refusals.Add({version.path, 0, 0,
                   QStringLiteral("version %1 is signed by the key %2, but its bundle trusts another key, %3; its "
                                  "clients would refuse the next update by the same key")
-                      .arg(version.versionText, version.signerId, version.trustedIds.join(QStringLiteral(" and "))),
+                      .arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
                   QStringLiteral("write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; when "
                                  "the key is being changed, the new one as PelnarNextPublicEDKey")});
 }
 
-/// The versions whose clients are offered \a version and cannot verify it, oldest first.
+/// Whether clients of \a older get to \a version or beyond it, at once or by versions between that bring its key.
+bool IsReachedFrom(GatedVersion const& older, GatedVersion const& version, std::vector<GatedVersion> const& all)
+{
+    std::vector<Engine::KeyedVersion> offered;
+    for (GatedVersion const& each : all)
+    {
+        if (IsOffered(each, older))
+        {
+            offered.push_back(KeysOf(each));
+        }
+    }
+    std::vector<Engine::KeyedVersion> const steps = SteppingStonesFrom(KeysOf(older), offered, OrderOfTexts);
+    return IsReached(KeysOf(version), steps, OrderOfTexts);
+}
+
+/// The versions whose clients never get to \a version, oldest first.
 QStringList StrandedBy(GatedVersion const& version, std::vector<GatedVersion> const& all)
 {
     std::vector<GatedVersion const*> stranded;
     for (GatedVersion const& older : all)
     {
-        if (IsOffered(version, older) && !older.trustedIds.isEmpty() && !older.trustedIds.contains(version.signerId))
+        if (IsOffered(version, older) && !older.trustedIds.isEmpty() && !IsReachedFrom(older, version, all))
         {
             stranded.push_back(&older);
         }
@@ -253,15 +279,17 @@ void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
     for (GatedVersion const& version : all)
     {
         CheckOwnKey(version, refusals);
-        QStringList const stranded = version.signerId.isEmpty() ? QStringList() : StrandedBy(version, all);
+        QStringList const stranded = version.signerIds.isEmpty() ? QStringList() : StrandedBy(version, all);
         if (!stranded.isEmpty())
         {
-            refusals.Add({version.path, 0, 0,
-                          QStringLiteral("version %1 is signed by the key %2, which strands installed versions: they "
-                                         "would be offered it and refuse it for ever: %3")
-                              .arg(version.versionText, version.signerId, stranded.join(QStringLiteral(", "))),
-                          QStringLiteral("sign it with the key that they trust; or, to give these versions up, remove "
-                                         "their items and archives")});
+            refusals.Add(
+                {version.path, 0, 0,
+                 QStringLiteral("version %1 is signed by the key %2, which strands installed versions: they do "
+                                "not trust it, and no version before it brings it to them: %3")
+                     .arg(version.versionText, KeyText(version.signerIds), stranded.join(QStringLiteral(", "))),
+                 QStringLiteral("publish a version before it, signed by the key that they trust, whose bundle "
+                                "trusts both keys; or sign this one by both; or, to give these versions up, "
+                                "remove their items and archives")});
         }
     }
 }

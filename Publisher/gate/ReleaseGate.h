@@ -14,8 +14,8 @@ namespace Pelnar::Publisher
 void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version, std::vector<GatedVersion> const& all,
                            Engine::Machine const& machine, RefusalList& refusals);
 
-/// Each version must trust the key that signs it, and each must be signed by a key that every older version trusts:
-/// a client that is offered what it cannot verify stays where it is for ever.
+/// Each version must trust a key that signs it, and every older version must get to each: by a key that it trusts, or
+/// by versions between them that bring another one. A client without such a path stays where it is for ever.
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals);
 
 } // namespace Pelnar::Publisher

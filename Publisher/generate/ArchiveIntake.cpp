@@ -193,7 +193,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     }
     Complete(item, archive);
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
-    version.signerId = m_workplace.KeyId();
+    version.signerIds = m_workplace.KeyIds();
     item.trustedIds = version.trustedIds;
     CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
     item.machine = MachineOf(bundle);
@@ -265,7 +265,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
                               QStringLiteral("name it after the CFBundleVersion in its information file")});
     }
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
-    version.signerId = m_workplace.KeyId();
+    version.signerIds = m_workplace.KeyIds();
     CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
     item.machine = MachineOf(bundle);
     m_versions.push_back(std::move(version));

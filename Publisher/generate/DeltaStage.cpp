@@ -226,7 +226,7 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
             QStringLiteral("nothing is to be done; clients of version %1 take the archive").arg(base.versionText));
         return;
     }
-    item.deltas.push_back({fileName, base.versionText, m_workplace.key.Sign(made)});
+    item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(made)});
     m_made.push_back(std::move(file));
 }
 

@@ -149,13 +149,14 @@ void RefuseNewErrors(QString const& feedFile, std::vector<LintFinding> const& be
 class FeedRun
 {
 public:
-    FeedRun(GenerateRequest const& request, ISigner const& key, Console const& console)
+    FeedRun(GenerateRequest const& request, ISigner const& key, ISigner const* secondKey, Console const& console)
         : m_request(request)
         , m_key(key)
         , m_console(console)
         , m_workplace{QString::fromStdString(request.folder),
                       AddressOf(request),
                       key,
+                      secondKey,
                       console,
                       *Engine::MachineOfName(request.machine),
                       MomentOfPublication(),
@@ -293,13 +294,31 @@ private:
     std::optional<Engine::FeedTerms> m_terms; ///< of the signature that was made
 };
 
+/// Null without one.
+std::unique_ptr<ISigner> LoadSecondKey(GenerateRequest const& request, ISigner const& first)
+{
+    if (request.secondKeyFile.empty())
+    {
+        return nullptr;
+    }
+    std::unique_ptr<ISigner> second = LoadSigner({request.secondKeyFile, {}, {}});
+    if (second->PublicKeyText() == first.PublicKeyText())
+    {
+        throw Refusal({QStringLiteral("--second-key"), 0, 0, QStringLiteral("is the key that signs anyway"),
+                       QStringLiteral("name another key, or none")});
+    }
+    return second;
+}
+
 } // namespace
 
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
 {
     CheckPublicKeys(request.publicKeys);
     std::unique_ptr<ISigner> const signer = LoadSigner(request.signer);
-    FeedRun const preview(request, *signer, console); // bad options are told before another run is waited for
+    std::unique_ptr<ISigner> const second = LoadSecondKey(request, *signer);
+    FeedRun const preview(request, *signer, second.get(),
+                          console); // bad options are told before another run is waited for
     QString const folder = QString::fromStdString(request.folder);
     FolderLock const lock(folder, console);
     QString const feedFolder = QFileInfo(preview.FeedFile()).absolutePath();
@@ -308,7 +327,7 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
     {
         feedLock.emplace(feedFolder, console);
     }
-    return FeedRun(request, *signer, console).Run();
+    return FeedRun(request, *signer, second.get(), console).Run();
 }
 
 } // namespace Pelnar::Publisher

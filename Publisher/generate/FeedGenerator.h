@@ -17,6 +17,7 @@ struct GenerateRequest
 {
     std::string folder;
     SignerOptions signer;
+    std::string secondKeyFile;           ///< of a key that signs archives as well; empty for none
     std::string urlPrefix;               ///< where the folder's files are published
     std::string urlTemplate;             ///< the same with "{file}" and "{version}" in it; one of the two is empty
     std::string machine;                 ///< that the programs for Linux are for

@@ -23,6 +23,10 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "(NAME.html, .md or .txt, and in a language NAME.de.html)")
         ->required();
     AddSignerOptions(verb, request->signer);
+    verb.add_option(
+            "--second-key", request->secondKeyFile,
+            "File of a second private key that signs the archives as well, for clients that trust only that one")
+        ->type_name("FILE");
     CLI::Option* const prefix =
         verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
             ->type_name("URL");

@@ -159,7 +159,16 @@ private:
                Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform + machine +
                Attribute(QStringLiteral("length"), QString::number(signature.length)) +
                Attribute(QStringLiteral("type"), QStringLiteral("application/octet-stream")) +
-               Attribute(m_feed + QStringLiteral("edSignature"), signature.signature) + QStringLiteral("/>");
+               Attribute(m_feed + QStringLiteral("edSignature"), signature.signature) + MoreSignatures(signature) +
+               QStringLiteral("/>");
+    }
+
+    static QString MoreSignatures(ArchiveSignature const& signature)
+    {
+        return signature.all.empty()
+                   ? QString()
+                   : Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) +
+                         Attribute(QStringLiteral("pelnar:signatures"), TextOf(signature.all));
     }
 
     NewItem const& m_item;

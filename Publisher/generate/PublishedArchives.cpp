@@ -125,7 +125,11 @@ std::vector<GatedVersion> PublishedArchives::Versions(RefusalList& refusals)
                                              [&](Published const& each) { return each.item == &published.item; });
             if (atHand != m_published.end())
             {
-                version.signerId = m_signerIds[atHand->archive.fileName];
+                QString const plainId = m_signerIds[atHand->archive.fileName];
+                if (!plainId.isEmpty() && !version.signerIds.contains(plainId))
+                {
+                    version.signerIds.append(plainId);
+                }
                 std::optional<GatedVersion> const& inside = BundleOf(*atHand, refusals);
                 if (inside && inside->platform == platform)
                 {

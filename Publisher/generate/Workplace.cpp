@@ -30,7 +30,17 @@ ArchiveSignature Workplace::Sign(QString const& fileName) const
 {
     Progress bar(console.err, QStringLiteral("Signing ") + fileName);
     bar.Show(0, 1); // the signature is made at once
-    return key.Sign(OpenInputFile(PathOf(fileName)));
+    return Sign(OpenInputFile(PathOf(fileName)));
+}
+
+ArchiveSignature Workplace::Sign(InputFile const& archive) const
+{
+    ArchiveSignature signature = key.Sign(archive);
+    if (secondKey)
+    {
+        signature.all = {{KeyId(), signature.signature}, {KeyIds().last(), secondKey->Sign(archive).signature}};
+    }
+    return signature;
 }
 
 void Workplace::Warn(QString const& path, QString const& what, QString const& mend) const
@@ -42,6 +52,16 @@ void Workplace::Warn(QString const& path, QString const& what, QString const& me
 QString Workplace::KeyId() const
 {
     return KeyIdOf(key.PublicKeyText().toStdString());
+}
+
+QStringList Workplace::KeyIds() const
+{
+    QStringList ids{KeyId()};
+    if (secondKey)
+    {
+        ids.append(KeyIdOf(secondKey->PublicKeyText().toStdString()));
+    }
+    return ids;
 }
 
 Engine::FeedItem const* Workplace::FindPublished(PublishedFeed const& feed, QString const& fileName) const

@@ -17,6 +17,7 @@ struct Workplace
     QString folder;
     DownloadAddress address;
     ISigner const& key;
+    ISigner const* secondKey; ///< that signs as well; null without one
     Console const& console;
 
     Engine::Machine machine;             ///< that programs for Linux are for
@@ -26,8 +27,11 @@ struct Workplace
     QString PathOf(QString const& fileName) const { return PathIn(folder, fileName); }
     /// Of the key that signs.
     QString KeyId() const;
+    /// Of every key that signs.
+    QStringList KeyIds() const;
     BundleTree Unpack(QString const& fileName) const;
     ArchiveSignature Sign(QString const& fileName) const;
+    ArchiveSignature Sign(InputFile const& archive) const;
     /// Tells of what does not keep the feed from being made.
     void Warn(QString const& path, QString const& what, QString const& mend) const;
     /// The item, or the delta, of \a feed that \a fileName is the download of, at its address or, for files that were

@@ -137,11 +137,13 @@ void AddExport(CLI::App& keys, VerbContext& context)
 
 void AddKeys(CLI::App& program, VerbContext& context)
 {
-    CLI::App& keys = *program.add_subcommand("keys", "Make and show the key with which archives are signed");
+    CLI::App& keys = *program.add_subcommand("keys", "Make, show and change the keys with which archives are signed");
     keys.require_subcommand(1);
     AddGenerate(keys, context);
     AddShow(keys, context);
     AddExport(keys, context);
+    AddState(keys, context);
+    AddRotate(keys, context);
 }
 
 } // namespace Pelnar::Publisher

@@ -8,6 +8,9 @@ namespace Pelnar::Publisher
 {
 
 void AddKeys(CLI::App& program, VerbContext& context);
+/// "keys state" and "keys rotate".
+void AddState(CLI::App& keys, VerbContext& context);
+void AddRotate(CLI::App& keys, VerbContext& context);
 void AddSign(CLI::App& program, VerbContext& context);
 void AddVerify(CLI::App& program, VerbContext& context);
 

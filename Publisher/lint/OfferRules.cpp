@@ -4,12 +4,14 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Engine/core/unpack/CheckBundle.h"
+#include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QDateTime>
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 
 namespace Pelnar::Publisher
 {
@@ -116,33 +118,45 @@ void CheckPackage(LintItem const& item, LintFindings& findings)
     }
 }
 
-bool IsOffered(Engine::FeedItem const& newer, Engine::FeedItem const& older)
+Engine::KeyedVersion KeysOf(Engine::FeedItem const& item)
 {
-    Core::Version const a = VersionFromStringNoexcept(older.versionString);
-    Core::Version const b = VersionFromStringNoexcept(newer.versionString);
-    return a.IsValid() && b.IsValid() && IsOlderVersion(a, b);
+    return {item.versionString, Engine::SignersOf(item), item.trustedKeys};
 }
 
 void CheckTrust(std::vector<LintItem> const& items, LintFindings& findings)
 {
+    std::vector<Engine::KeyedVersion> all;
     for (LintItem const& item : items)
     {
-        Engine::FeedItem const& newer = *item.full.item;
-        QStringList stranded;
-        for (LintItem const& other : items)
+        all.push_back(KeysOf(*item.full.item));
+    }
+    std::vector<QStringList> stranded(items.size());
+    for (Engine::KeyedVersion const& older : all)
+    {
+        std::optional<std::vector<Engine::KeyedVersion>> stones;
+        for (std::size_t i = 0; i < items.size(); ++i)
         {
-            Engine::FeedItem const& older = *other.full.item;
-            bool const isKnown = !newer.signerKey.isEmpty() && !older.trustedKeys.isEmpty();
-            if (isKnown && !older.trustedKeys.contains(newer.signerKey) && IsOffered(newer, older))
+            Engine::FeedItem const& newer = *items[i].full.item;
+            if (Engine::SignatureFor(newer, older.trusted) || OrderOfTexts(older.version, newer.versionString) >= 0)
             {
-                stranded.append(older.versionString);
+                continue;
+            }
+            stones = stones ? stones : SteppingStonesFrom(older, all, OrderOfTexts);
+            if (!IsReached(all[i], *stones, OrderOfTexts))
+            {
+                stranded[i].append(older.version);
             }
         }
-        if (!stranded.isEmpty())
+    }
+    for (std::size_t i = 0; i < items.size(); ++i)
+    {
+        if (!stranded[i].isEmpty())
         {
-            findings.Add(LintRule::KeyNotTrusted, item.full.Place(),
-                         QStringLiteral("%1 is signed by the key %2, which these do not trust: %3")
-                             .arg(NameOf(newer), newer.signerKey, stranded.join(QStringLiteral(", "))));
+            findings.Add(LintRule::KeyNotTrusted, items[i].full.Place(),
+                         QStringLiteral("%1 is signed by the key %2, which these do not trust, and no version between "
+                                        "brings it to them: %3")
+                             .arg(NameOf(*items[i].full.item), all[i].signers.join(QStringLiteral(" and ")),
+                                  stranded[i].join(QStringLiteral(", "))));
         }
     }
 }

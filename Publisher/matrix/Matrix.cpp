@@ -136,29 +136,7 @@ QString OutcomeText(QJsonValue const& offered)
                           offered[QStringLiteral("updateType")].toString(),
                           offered[QStringLiteral("deltaFrom")].toString(),
                           {},
-                          0,
-                          {},
-                          offered[QStringLiteral("keyTrusted")].toBool(true)});
-}
-
-} // namespace
-
-namespace
-{
-
-/// False when the feed says which keys \a installed trusts, and \a signer is none of them.
-bool Trusts(std::vector<Engine::FeedItem> const& items, Core::Version const& installed, QString const& signer)
-{
-    return signer.isEmpty() ||
-           std::none_of(items.begin(), items.end(),
-                        [&](Engine::FeedItem const& item)
-                        {
-                            Core::Version const version =
-                                item.trustedKeys.isEmpty() || item.trustedKeys.contains(signer)
-                                    ? Core::Version()
-                                    : App::Session::VersionFromStringNoexcept(item.versionString);
-                            return version.IsValid() && App::Session::IsSameVersion(version, installed);
-                        });
+                          0});
 }
 
 } // namespace
@@ -175,9 +153,7 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
         std::vector<Outcome>& row = matrix.outcomes.emplace_back();
         for (NamedVersion const& system : systems)
         {
-            Outcome outcome = OutcomeFor(feed, {version.version, system.version});
-            outcome.isKeyTrusted = Trusts(items, version.version, outcome.signerKey);
-            row.push_back(std::move(outcome));
+            row.push_back(OutcomeFor(feed, {version.version, system.version}));
         }
     }
     matrix.withdrawn = FindWithdrawn(matrix, items);

@@ -15,13 +15,8 @@ Outcome OutcomeFor(FeedChooser& feed, Client const& client)
     {
         return {};
     }
-    return {chosen->versionString,
-            QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(*chosen))),
-            chosen->deltaFrom,
-            chosen->fileUrl.toString(QUrl::FullyEncoded),
-            chosen->contentLength,
-            chosen->signerKey,
-            true};
+    return {chosen->versionString, QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(*chosen))),
+            chosen->deltaFrom, chosen->fileUrl.toString(QUrl::FullyEncoded), chosen->contentLength};
 }
 
 QString TextOf(Outcome const& outcome)
@@ -32,7 +27,7 @@ QString TextOf(Outcome const& outcome)
     }
     QString const text = outcome.version + QLatin1Char(' ') + outcome.updateType;
     QString const from = outcome.deltaFrom.isEmpty() ? QString() : QStringLiteral(" from ") + outcome.deltaFrom;
-    return text + from + (outcome.isKeyTrusted ? QString() : QStringLiteral(" (key not trusted)"));
+    return text + from;
 }
 
 QJsonValue JsonOf(Outcome const& outcome)
@@ -49,10 +44,6 @@ QJsonValue JsonOf(Outcome const& outcome)
         {QStringLiteral("url"), outcome.url},
         {QStringLiteral("length"), double(outcome.length)},
     };
-    if (!outcome.isKeyTrusted)
-    {
-        object.insert(QStringLiteral("keyTrusted"), false);
-    }
     return object;
 }
 

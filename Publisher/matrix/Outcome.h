@@ -21,15 +21,13 @@ struct Outcome
     QString deltaFrom; ///< empty for a full item
     QString url;
     quint64 length = 0;
-    QString signerKey;         ///< id; empty when the feed does not say
-    bool isKeyTrusted = true; ///< false when the feed says that the client does not trust the key that signed
 
     [[nodiscard]] bool IsUpdate() const { return !version.isEmpty(); }
 };
 
 Outcome OutcomeFor(FeedChooser& feed, Client const& client);
 
-/// "5.2 DELTA from 5.1", or "none"; " (key not trusted)" behind what the client would refuse.
+/// "5.2 DELTA from 5.1", or "none".
 QString TextOf(Outcome const& outcome);
 /// Null for none.
 QJsonValue JsonOf(Outcome const& outcome);

@@ -1,5 +1,6 @@
 #include "Publisher/signfeed/FeedSigner.h"
 
+#include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/signfeed/FeedTermsText.h"
@@ -75,6 +76,48 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
                        QStringLiteral("look at what changed, and say sign-feed --accept-changes if it is right")});
     }
     return {bytes.left(feed.contentBytes), true};
+}
+
+QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray const& line, ISigner const& key)
+{
+    auto const given = Engine::FindKeyStatement(line);
+    auto const* const found = std::get_if<Engine::SignedKeyStatement>(&given);
+    auto const statement = found ? Engine::ParseKeyStatement(found->text) : std::nullopt;
+    QString const option = QStringLiteral("--key-statement");
+    if (!statement || found->size != line.size())
+    {
+        throw Refusal({option, 0, 0, QStringLiteral("is no key statement"),
+                       QStringLiteral("give the file with the one line that \"keys state\" printed")});
+    }
+    QString const id = QString::fromStdString(Engine::KeyIdOf(key.PublicKeyText().toStdString()));
+    if (!statement->validKeys.HasId(id.toStdString()))
+    {
+        throw Refusal({option, 0, 0,
+                       QStringLiteral("does not say that the key %1 is valid, which signs the feed").arg(id),
+                       QStringLiteral("sign with a key that is valid by it, or make another statement")});
+    }
+    auto const published = Engine::FindKeyStatement(content);
+    if (std::get_if<Engine::KeyStatementFault>(&published) &&
+        std::get<Engine::KeyStatementFault>(published) == Engine::KeyStatementFault::Malformed)
+    {
+        throw Refusal({name, 0, 0, QStringLiteral("has a key statement that is damaged or stands twice"),
+                       QStringLiteral("remove every line with one")});
+    }
+    auto const* const place = std::get_if<Engine::SignedKeyStatement>(&published);
+    auto const before = place ? Engine::ParseKeyStatement(place->text) : std::nullopt;
+    if (before && before->serial > statement->serial)
+    {
+        throw Refusal({option, 0, 0,
+                       QStringLiteral("has the serial %1, and the published one has %2, which clients go on asking for")
+                           .arg(statement->serial)
+                           .arg(before->serial),
+                       QStringLiteral("make a statement with a greater --serial")});
+    }
+    if (place)
+    {
+        return content.replace(place->offset, place->size, line);
+    }
+    return content + (content.endsWith('\n') ? "" : "\n") + line;
 }
 
 SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms)

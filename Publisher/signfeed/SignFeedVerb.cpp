@@ -20,6 +20,7 @@ struct SignFeedOptions
     std::string feed;
     SignerOptions signer;
     std::string output;
+    std::string keyStatement;
     std::optional<qint64> serial;
     int validDays = SigningTerms().validDays;
     bool isAcceptingChanges = false;
@@ -34,8 +35,17 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
     FeedContent const content = ReadFeedContent(name, bytes, *signer, changed);
+    QByteArray bare = content.bytes;
+    if (!options.keyStatement.empty())
+    {
+        InputFile const statement = OpenInputFile(QString::fromStdString(options.keyStatement));
+        constexpr std::uint64_t MOST_LINE_BYTES = 64 * 1024;
+        bare = WithKeyStatement(name, bare,
+                                ReadInputFile(statement, MOST_LINE_BYTES, QStringLiteral("give the statement's file")),
+                                *signer);
+    }
     SignedFeedBytes const feed =
-        SignFeed(name, content.bytes, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
+        SignFeed(name, bare, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
     AtomicFile file(output);
     file.Write(feed.bytes);
     file.Commit(ExistingFile::Replace);
@@ -75,6 +85,9 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
                 bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
                 return isSerial ? std::string() : text + " is no number from 1 to 9223372036854775807";
             });
+    verb.add_option("--key-statement", options->keyStatement,
+                    "File with the line that \"keys state\" printed: it takes the place of the feed's key statement")
+        ->type_name("FILE");
     verb.add_flag("--accept-changes", options->isAcceptingChanges,
                   "Sign a feed as well that was changed after it was signed, or was signed by another key");
     verb.add_option("-o,--output", options->output, "File to write; without this FEED itself")->type_name("FILE");

@@ -172,6 +172,41 @@ TEST_F(FeedTrustFlow, WhatCannotBeRememberedKeepsNoUpdateAway)
     EXPECT_EQ(Check(FeedWith(ItemOf("5.1"))), found);
 }
 
+/// What each known attack on an update system meets here. The attacks on a download stand beside its own tests.
+TEST_F(FeedTrustFlow, KnownAttacksOnAFeed)
+{
+    settings.check.feedSigning = FeedSigning::Required;
+    QByteArray const good = SignedFeedOf("5.1", "7", "2030-01-01T00:00:00Z");
+    ASSERT_EQ(Check(good), found);
+    settings.check.feedRecord = *host.feedRecord;
+    auto const expect = [this](QByteArray const& feed, int cause)
+    {
+        EXPECT_EQ(Check(feed).front().substr(0, 7), "aborted") << cause;
+        ExpectRefused(cause);
+    };
+    // Arbitrary software: a feed of the attacker's own.
+    expect(Signed(FeedWith(TermsOf("8", FAR_AHEAD) + ItemOf("9.9")), 99), 757);
+    // Rollback: an older feed of the publisher's.
+    expect(SignedFeedOf("5.0", "6", "2030-01-01T00:00:00Z"), 762);
+    // Malicious mirror: one byte of the feed is another one.
+    QByteArray changed = good;
+    changed.replace("5.1", "5.2");
+    expect(changed, 757);
+    // Mix and match: an item of one feed beside the terms of another.
+    QByteArray mixed = SignedFeedOf("5.1", "8", "2030-01-01T00:00:00Z");
+    mixed.replace(mixed.indexOf("<item>"), 0, ItemOf("5.3"));
+    expect(mixed, 757);
+    // Endless data: a feed over the limit is not read to its end.
+    settings.check.fetchLimits.maxBodyBytes = 1000;
+    expect(good + QByteArray(1000, ' '), 602);
+    settings.check.fetchLimits.maxBodyBytes = 1 << 20;
+    // Rollback in a feed that is believed: an older version is no update.
+    EXPECT_EQ(Check(SignedFeedOf("4.0", "8", "2030-01-01T00:00:00Z")).front(), "not found");
+    // Indefinite freeze: the same feed for ever.
+    parts.now = QDateTime::fromString(QStringLiteral("2030-01-01T00:00:00Z"), Qt::ISODate);
+    expect(SignedFeedOf("5.1", "9", "2030-01-01T00:00:00Z"), 763);
+}
+
 /// A signed feed with a key statement.
 QByteArray FeedUnder(StatementText const& statement, QByteArray const& serial, std::uint8_t signer,
                      std::uint8_t root = ROOT_SEED)

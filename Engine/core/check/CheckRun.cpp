@@ -238,7 +238,12 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const&
 
 void CheckRun::ApplyPolicy()
 {
-    Installation installation{m_settings.bundleVersion, m_settings.machine, m_settings.channels, {}, m_now()};
+    Installation installation{m_settings.bundleVersion, m_settings.machine, m_settings.channels, {}, m_now(), {}, {}};
+    for (std::string const& id :
+         m_keys.keys.Fault() == UpdateFault::None ? m_keys.keys.Ids() : std::vector<std::string>())
+    {
+        installation.trustedKeys.append(QString::fromStdString(id));
+    }
     // Deliberate: a probe counts as automatic, because every check begins with one. A person who asks sees the window
     // even if the probe found nothing, and the check of that window counts as theirs.
     if (m_kind != CheckKind::Interactive)

@@ -43,6 +43,13 @@ struct ItemPolicy
     bool isWithdrawn = false;
 };
 
+/// A signature of an item's download, and the id of the key that made it.
+struct FeedSignature
+{
+    QString keyId;
+    QString signature;
+};
+
 struct FeedItem
 {
     QString title;
@@ -58,7 +65,8 @@ struct FeedItem
     QString versionString;
     QString displayVersionString; ///< empty when the feed gives none
     QString edSignature;
-    QString signerKey;        ///< id of the key that signed the downloads; empty when the feed does not say
+    QString signerKey;                     ///< id of the key that made edSignature; empty when the feed does not say
+    std::vector<FeedSignature> signatures; ///< those that the enclosure has beside edSignature, each with its key's id
     QStringList trustedKeys;  ///< ids of the keys that this version's bundle trusts; empty when the feed does not say
     QString installationType; ///< empty when the feed says nothing
     QString deltaFrom;        ///< the version text that this delta starts from; deltas only

@@ -4,6 +4,7 @@
 #include "Engine/core/feed/FeedPolicyReader_p.h"
 #include "Engine/core/feed/FeedProperties_p.h"
 #include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/payload/TrustedKeys.h"
 
 #include <limits>
 
@@ -26,6 +27,7 @@ struct Enclosure
     QString operatingSystem;
     QString deltaFrom;
     QString machines;
+    QString signatures;
     int line = 0;
     int column = 0;
 };
@@ -140,7 +142,9 @@ QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
     }
     if (attribute.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE))
     {
-        return IsNamed(name, QLatin1String("machine")) ? &enclosure.machines : nullptr;
+        return IsNamed(name, QLatin1String("machine"))      ? &enclosure.machines
+               : IsNamed(name, QLatin1String("signatures")) ? &enclosure.signatures
+                                                            : nullptr;
     }
     if (!IsFeedNamespace(attribute.namespaceUri()))
     {
@@ -370,6 +374,23 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     return std::move(element.value);
 }
 
+/// Words of a key's id, a colon and a signature; what has another form is left out.
+std::vector<FeedSignature> SignaturesIn(QString const& text)
+{
+    constexpr std::size_t MOST_SIGNATURES = 8;
+    std::vector<FeedSignature> signatures;
+    for (QString const& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+    {
+        QString const id = word.section(QLatin1Char(':'), 0, 0);
+        QString const signature = word.section(QLatin1Char(':'), 1);
+        if (IsKeyId(id.toStdString()) && !signature.isEmpty() && signatures.size() < MOST_SIGNATURES)
+        {
+            signatures.push_back({id, signature});
+        }
+    }
+    return signatures;
+}
+
 void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext const& context)
 {
     item.fileUrl = FeedAddress(enclosure.url, context.feedUrl);
@@ -377,6 +398,7 @@ void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext 
     item.edSignature = enclosure.edSignature;
     item.installationType = enclosure.installationType;
     item.policy.machines = WordsOf(enclosure.machines);
+    item.signatures = SignaturesIn(enclosure.signatures);
 }
 
 FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemContext const& context)

@@ -70,6 +70,16 @@ bool IsInformational(FeedItem const& item, Installation const& installation, Ver
            (!policy.informationalBelow.isEmpty() && order(installation.version, policy.informationalBelow) < 0);
 }
 
+KeyedVersion KeysOf(FeedItem const& item)
+{
+    return {item.versionString, SignersOf(item), item.trustedKeys};
+}
+
+bool HasTrustedSignature(FeedItem const& item, Installation const& installation)
+{
+    return SignatureFor(item, installation.trustedKeys).has_value();
+}
+
 bool IsTooOldForAutomatic(FeedItem const& item, Installation const& installation, VersionOrder const& order)
 {
     QString const& minimum = item.policy.minimumAutoupdateVersion;
@@ -103,6 +113,8 @@ char const* NameOf(PolicyVerdict verdict)
         return "other-architecture";
     case PolicyVerdict::OtherChannel:
         return "other-channel";
+    case PolicyVerdict::KeyNotTrusted:
+        return "key-not-trusted";
     case PolicyVerdict::NeedsAnotherVersionFirst:
         return "needs-another-version-first";
     case PolicyVerdict::NotYetRolledOut:
@@ -130,6 +142,11 @@ PolicyVerdict JudgePolicy(FeedItem const& item, Installation const& installation
     {
         return PolicyVerdict::OtherChannel;
     }
+    if (!HasTrustedSignature(item, installation) && !IsInformational(item, installation, order))
+    {
+        return IsBehindStone(KeysOf(item), installation.stones, order) ? PolicyVerdict::NeedsAnotherVersionFirst
+                                                                       : PolicyVerdict::KeyNotTrusted;
+    }
     if (NeedsAnother(item, installation, order))
     {
         return PolicyVerdict::NeedsAnotherVersionFirst;
@@ -155,7 +172,15 @@ QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const
     case PolicyVerdict::OtherChannel:
         return QStringLiteral("channel %1, listed: %2")
             .arg(item.policy.channel, NamesOf(installation.channels));
+    case PolicyVerdict::KeyNotTrusted:
+        return QStringLiteral("signed by the key %1, trusted: %2")
+            .arg(NamesOf(SignersOf(item)), NamesOf(installation.trustedKeys));
     case PolicyVerdict::NeedsAnotherVersionFirst:
+        if (!HasTrustedSignature(item, installation))
+        {
+            return QStringLiteral("signed by the key %1, which a version before it brings; trusted: %2")
+                .arg(NamesOf(SignersOf(item)), NamesOf(installation.trustedKeys));
+        }
         return QStringLiteral("installed %1 < %2, from which it can be updated")
             .arg(installation.version, item.policy.minimumUpdateVersion);
     case PolicyVerdict::NotYetRolledOut:
@@ -187,7 +212,35 @@ bool DependsOnVersion(FeedItem const& item)
     return !policy.minimumUpdateVersion.isEmpty() || (policy.rolloutSeconds != 0 && item.isCritical);
 }
 
-void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order)
+std::vector<KeyedVersion> SteppingStonesOf(std::vector<FeedItem> const& items, Installation const& installation,
+                                           VersionOrder const& order)
+{
+    bool const isAllTrusted =
+        installation.version.isEmpty() ||
+        std::all_of(items.begin(), items.end(),
+                    [&installation](FeedItem const& item) { return HasTrustedSignature(item, installation); });
+    if (isAllTrusted)
+    {
+        return {};
+    }
+    Installation withoutKeys = installation;
+    withoutKeys.trustedKeys.clear();
+    withoutKeys.rolloutGroup = nullptr; // what is staged comes in time
+    std::vector<KeyedVersion> versions;
+    for (FeedItem const& item : items)
+    {
+        if (JudgePolicy(item, withoutKeys, order) == PolicyVerdict::Plain)
+        {
+            versions.push_back(KeysOf(item));
+        }
+    }
+    return SteppingStonesFrom({installation.version, {}, installation.trustedKeys}, versions, order);
+}
+
+namespace
+{
+
+void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order)
 {
     auto const isLeftOut = [&](FeedItem const& item) { return !IsKept(item, installation, order); };
     items.erase(std::remove_if(items.begin(), items.end(), isLeftOut), items.end());
@@ -196,8 +249,18 @@ void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, Ve
         item.isCritical = IsCriticalFor(item, installation, order);
         item.policy.isInformational = IsInformational(item, installation, order);
         item.policy.isToBeAsked = item.policy.isInformational || IsTooOldForAutomatic(item, installation, order);
-        LeaveOut(item.deltas, installation, order);
+        item.edSignature = SignatureFor(item, installation.trustedKeys).value_or(item.edSignature);
+        LeaveOutAmong(item.deltas, installation, order);
     }
+}
+
+} // namespace
+
+void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order)
+{
+    Installation here = installation;
+    here.stones = SteppingStonesOf(items, installation, order);
+    LeaveOutAmong(items, here, order);
 }
 
 bool IsChannelName(QString const& name)

@@ -3,7 +3,7 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
-#include "Engine/core/feed/FeedItem.h"
+#include "Engine/core/feed/KeyPaths.h"
 
 #include <QDateTime>
 
@@ -12,9 +12,6 @@
 
 namespace Pelnar::Engine
 {
-
-/// Negative when the first version is older than the second, positive when it is newer. May throw.
-using VersionOrder = std::function<int(QString const&, QString const&)>;
 
 /// The groups of a staged rollout; the first gets an item at once, and each of the others one interval later.
 constexpr int ROLLOUT_GROUPS = 7;
@@ -29,6 +26,8 @@ struct Installation
     /// theirs at once.
     std::function<int(QString const& version)> rolloutGroup;
     QDateTime now;
+    QStringList trustedKeys;          ///< ids; empty when they are not known: no item is left out for them
+    std::vector<KeyedVersion> stones; ///< that it takes one after the other; see SteppingStonesOf
 };
 
 /// The first reason why an item is not like any other for an installation, in the order of the tests.
@@ -37,6 +36,7 @@ enum class PolicyVerdict
     Withdrawn,
     OtherArchitecture,
     OtherChannel,
+    KeyNotTrusted, ///< and no version of the feed leads to the key
     NeedsAnotherVersionFirst,
     NotYetRolledOut,
     Informational, ///< offered as a link only: everything before it is not offered at all
@@ -59,6 +59,11 @@ enum class PolicyVerdict
 /// Why \a verdict was given, for a log or a publisher: what the item says and what the installation is.
 [[nodiscard]] QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const& installation);
 
+/// The versions of \a items that \a installation takes one after the other, where one of them bears no signature that
+/// it can verify; else none. Lets exceptions of \a order through.
+[[nodiscard]] std::vector<KeyedVersion> SteppingStonesOf(std::vector<FeedItem> const& items,
+                                                         Installation const& installation, VersionOrder const& order);
+
 /// Whether \a item is critical for the installed version. Lets exceptions of \a order through.
 [[nodiscard]] bool IsCriticalFor(FeedItem const& item, Installation const& installation, VersionOrder const& order);
 
@@ -66,7 +71,8 @@ enum class PolicyVerdict
 [[nodiscard]] bool DependsOnVersion(FeedItem const& item);
 
 /// Removes what is not meant for \a installation from \a items and their deltas, each with a record in the log, and
-/// settles what is critical, informational and to be asked for there. Lets exceptions of \a order through.
+/// settles what is critical, informational and to be asked for there, and which signature it verifies. Lets exceptions of
+/// \a order through.
 void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order);
 
 /// Whether a setting can list a channel of that name, and a feed name it.

@@ -1,11 +1,13 @@
 // AccidentTest.cpp: what a publisher does by accident, and "generate" must not publish: each with the file, the entry
 // and the mend in its error, exit status 1, and nothing changed in the folder.
 
+#include "Engine/core/payload/TrustedKeys.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>
 
 #include <elf.h>
+#include <sys/stat.h>
 
 namespace Pelnar::Testing
 {
@@ -160,7 +162,72 @@ TEST_F(Accident, NewKeyStrandsVersions)
     Remember();
     ExpectRefused(m_folder.GenerateWithKey(9),
                   {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands installed versions", "5.9 (",
-                   "Test-5.9.zip)", "5.9.1 (", "; sign it with the key that they trust"});
+                   "Test-5.9.zip)", "5.9.1 (", "; publish a version before it, signed by the key that they trust"});
+}
+
+TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    BundleText bridge = Version("5.10");
+    bridge.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(bridge);
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(run.status, 0) << run.err;
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.err;
+    // The old version's clients take the one between, and its clients the new one.
+    auto const explained = [this](char const* version)
+    {
+        return RunTool({QStringLiteral("explain"), m_folder.PathOf("appcast.xml"), QStringLiteral("--local-version"),
+                        QLatin1String(version), QStringLiteral("--system-version"), QStringLiteral("unknown"),
+                        QStringLiteral("--platform"), QStringLiteral("linux")})
+            .out;
+    };
+    EXPECT_NE(explained("5.9").find("needs-another-version-first"), std::string::npos) << explained("5.9");
+    EXPECT_EQ(explained("5.10").find("needs-another-version-first"), std::string::npos) << explained("5.10");
+}
+
+TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsNone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    m_folder.Put("second", Base64(std::string(32, '\x9')) + '\n');
+    EXPECT_EQ(::chmod(m_folder.PathOf("second").toStdString().c_str(), 0600), 0);
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.Generate({QStringLiteral("--second-key"), m_folder.PathOf("second")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    std::vector<Engine::FeedItem> const items = m_folder.Items();
+    ASSERT_EQ(items.size(), 2u);
+    ASSERT_EQ(items[0].signatures.size(), 2u);
+    EXPECT_EQ(items[0].signatures[0].signature, items[0].edSignature);
+    EXPECT_EQ(items[0].signatures[0].keyId, items[0].signerKey);
+    EXPECT_EQ(items[0].signatures[1].keyId.toStdString(), Engine::KeyIdOf(MakeKeyPair(9).publicKey));
+    EXPECT_EQ(items[0].signatures[1].signature.toStdString(),
+              Base64(Sign(m_folder.ContentOf("Test-5.11.zip"), MakeKeyPair(9))));
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.err;
+}
+
+TEST_F(Accident, FeedSaysTheWrongKey)
+{
+    m_folder.PutVersion("5.9");
+    std::string feed = m_folder.GeneratedFeed();
+    std::string const id = Engine::KeyIdOf(MakeKeyPair(7).publicKey);
+    std::string const said = "signer=\"" + id;
+    ASSERT_NE(feed.find(said), std::string::npos) << feed;
+    feed.replace(feed.find(said), said.size(), "signer=\"0123456789abcdef");
+    m_folder.Put("appcast.xml", feed);
+    ToolRun const run = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find("is signed by the key " + id + ", but the feed says 0123456789abcdef"), std::string::npos)
+        << run.err;
 }
 
 TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)

@@ -241,11 +241,13 @@ void AddOfferCases(std::vector<LintCase>& cases)
                      FeedOf(Item("5.1", "\n<sparkle:ignoreSkippedUpgradesBelowVersion>5</sparkle:"
                                         "ignoreSkippedUpgradesBelowVersion>")),
                      "policy-ignored 3:1 <sparkle:ignoreSkippedUpgradesBelowVersion> is \"5\""});
-    cases.push_back(
-        {"KeyNotTrusted", FeedOf(Keyed("5.1", "bb", "bb") + Keyed("5.0", "aa", "aa")), "key-not-trusted 2:"});
-    cases.push_back(
-        {"KeyThatTheOlderTrustsPasses", FeedOf(Keyed("5.1", "bb", "bb") + Keyed("5.0", "aa", "aa bb")), ""});
-    cases.push_back({"KeyOfAnOlderItemPasses", FeedOf(Keyed("5.1", "aa", "bb") + Keyed("5.0", "aa", "aa")), ""});
+    QByteArray const a(16, 'a');
+    QByteArray const b(16, 'b');
+    cases.push_back({"KeyNotTrusted", FeedOf(Keyed("5.1", b, b) + Keyed("5.0", a, a)), "key-not-trusted 2:"});
+    cases.push_back({"KeyThatTheOlderTrustsPasses", FeedOf(Keyed("5.1", b, b) + Keyed("5.0", a, a + ' ' + b)), ""});
+    cases.push_back({"KeyOfAnOlderItemPasses", FeedOf(Keyed("5.1", a, b) + Keyed("5.0", a, a)), ""});
+    cases.push_back({"KeyThatAVersionBetweenBringsPasses",
+                     FeedOf(Keyed("5.2", b, b) + Keyed("5.1", a, a + ' ' + b) + Keyed("5.0", a, a)), ""});
     cases.push_back({"DateOrder",
                      FeedOf(Item("5.2", "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>") +
                             Item("5.1", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>")),

@@ -1,0 +1,174 @@
+// RotateVerb.cpp: "keys rotate": how far a feed is in the change from one signing key to another, and what comes next.
+
+#include "Publisher/FeedOptions.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/choice/ClientOptions.h"
+#include "Publisher/choice/FeedChoice.h"
+#include "Publisher/keys/KeysVerbs.h"
+#include "Publisher/signfeed/FeedSigner.h"
+
+#include <algorithm>
+#include <memory>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+struct Options
+{
+    std::string feed;
+    std::string oldKey;
+    std::string newKey;
+    std::string platform = OwnPlatformName().toStdString();
+};
+
+/// The versions of a feed by what they have to do with the two keys, in the order of the feed.
+struct RotationState
+{
+    QStringList bridges;    ///< signed by the old key, trust both
+    QStringList byNewKey;   ///< signed by the new key
+    QStringList onlyOld;    ///< trust the old key and not the new one
+    QStringList withoutOld; ///< trust the new key and not the old one
+    QStringList unknown;    ///< of which the feed does not say what they trust
+    bool isFeedSigned = false;
+    bool isFeedByNewKey = false;
+};
+
+RotationState StateOf(ParsedFeed const& feed, Options const& options)
+{
+    QString const oldId = QString::fromStdString(Engine::KeyIdOf(options.oldKey));
+    QString const newId = QString::fromStdString(Engine::KeyIdOf(options.newKey));
+    RotationState state;
+    for (Engine::FeedItem const& item : feed.items)
+    {
+        QStringList const signers = Engine::SignersOf(item);
+        bool const trustsOld = item.trustedKeys.contains(oldId);
+        bool const trustsNew = item.trustedKeys.contains(newId);
+        auto const note = [&item](QStringList& list, bool isSo)
+        {
+            if (isSo)
+            {
+                list.append(item.versionString);
+            }
+        };
+        note(state.bridges, signers.contains(oldId) && trustsNew);
+        note(state.byNewKey, signers.contains(newId));
+        note(state.onlyOld, trustsOld && !trustsNew);
+        note(state.withoutOld, trustsNew && !trustsOld);
+        note(state.unknown, item.trustedKeys.isEmpty() && !item.policy.isInformational);
+    }
+    QByteArray const& bytes = feed.source.bytes;
+    std::string const signer = Engine::FeedSigner(bytes, {options.oldKey, options.newKey});
+    state.isFeedSigned = !signer.empty();
+    state.isFeedByNewKey = signer == newId.toStdString();
+    return state;
+}
+
+QString NamesOf(QStringList const& versions)
+{
+    return versions.join(QStringLiteral(", "));
+}
+
+class Guide
+{
+public:
+    explicit Guide(Console const& console) : m_console(console) {}
+
+    void Step(QString const& what, QStringList const& doneBy, QStringList const& waitsFor, QString const& more = {})
+    {
+        bool const isDone = !doneBy.isEmpty();
+        bool const isNext = !isDone && !m_hasNext;
+        m_hasNext = m_hasNext || isNext;
+        QString const state = isDone               ? QStringLiteral("done")
+                              : !isNext            ? QStringLiteral("later")
+                              : waitsFor.isEmpty() ? QStringLiteral("now")
+                                                   : QStringLiteral("wait");
+        m_console.Print(QStringLiteral("%1. %2: %3%4")
+                            .arg(++m_count)
+                            .arg(state, what, isDone ? QStringLiteral(" (%1)").arg(NamesOf(doneBy)) : QString()));
+        if (!isDone && !waitsFor.isEmpty())
+        {
+            m_console.Print(QStringLiteral("   must be gone first, since they trust the old key only: ") +
+                            NamesOf(waitsFor));
+        }
+        if (!isDone && !more.isEmpty())
+        {
+            m_console.Print(QStringLiteral("   ") + more);
+        }
+    }
+
+private:
+    Console const& m_console;
+    int m_count = 0;
+    bool m_hasNext = false;
+};
+
+void Print(RotationState const& state, Console const& console)
+{
+    Guide guide(console);
+    guide.Step(QStringLiteral("publish a version that is signed by the old key and whose bundle trusts both keys"),
+               state.bridges, {},
+               QStringLiteral("the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"));
+    guide.Step(
+        QStringLiteral("sign the next version with the new key; its bundle still trusts both keys"), state.byNewKey, {},
+        state.onlyOld.isEmpty() || state.bridges.isEmpty() ? QString()
+                                                           : QStringLiteral("%1 take %2 first, which stays in the feed")
+                                                                 .arg(NamesOf(state.onlyOld), NamesOf(state.bridges)));
+    if (state.isFeedSigned)
+    {
+        guide.Step(QStringLiteral("sign the feed with the new key"),
+                   state.isFeedByNewKey ? QStringList(QStringLiteral("the feed")) : QStringList(), state.onlyOld);
+    }
+    guide.Step(QStringLiteral("publish a version whose bundle trusts the new key only"), state.withoutOld,
+               state.isFeedSigned && !state.isFeedByNewKey ? state.onlyOld : QStringList());
+    guide.Step(QStringLiteral("destroy the old private key"), {}, state.onlyOld);
+    if (!state.unknown.isEmpty())
+    {
+        console.Print(QStringLiteral("The feed does not say which keys these trust; count them as the old key's: ") +
+                      NamesOf(state.unknown));
+    }
+}
+
+ExitStatus Rotate(Options const& options, Console const& console)
+{
+    if (options.oldKey == options.newKey)
+    {
+        throw Refusal({QStringLiteral("--to"), 0, 0, QStringLiteral("is the same key as --from"),
+                       QStringLiteral("make a new key with \"keys generate\"")});
+    }
+    auto const feed = ReadItems(QString::fromStdString(options.feed), QString(),
+                                PlatformFromName(QString::fromStdString(options.platform)), console);
+    if (auto const* const problem = std::get_if<Problem>(&feed))
+    {
+        throw Refusal(*problem);
+    }
+    Print(StateOf(std::get<ParsedFeed>(feed), options), console);
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddRotate(CLI::App& keys, VerbContext& context)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *keys.add_subcommand(
+        "rotate",
+        "Say how far a feed is in the change from one signing key to another, what the next step is, and which "
+        "installed versions must be gone before it");
+    verb.add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
+    auto const isKey = [](std::string const& text)
+    { return Engine::KeyIdOf(text).empty() ? text + " is no Ed25519 key" : std::string(); };
+    verb.add_option("--from", options->oldKey, "The public key that signs until now, in base64")
+        ->required()
+        ->type_name("KEY")
+        ->check(isKey);
+    verb.add_option("--to", options->newKey, "The public key that is to sign, in base64")
+        ->required()
+        ->type_name("KEY")
+        ->check(isKey);
+    AddPlatformOption(verb, options->platform);
+    SetWork(verb, context, [&context, options] { return Rotate(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,110 @@
+// StateVerb.cpp: "keys state": the root key says which signing keys are valid.
+
+#include "Engine/core/check/FeedTrust.h"
+#include "Engine/core/check/KeyStatement.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/keys/KeyId.h"
+#include "Publisher/keys/KeysVerbs.h"
+#include "Publisher/keys/SigningKey.h"
+
+#include <memory>
+#include <ostream>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr int USUAL_DAYS = 365;
+
+struct Options
+{
+    std::string rootKey;
+    std::string serial;
+    std::vector<std::string> bundles;
+    std::vector<std::string> validKeys;
+    std::vector<std::string> revoked;
+    int validDays = USUAL_DAYS;
+};
+
+/// The ids of keys that are given by id or as a whole.
+std::vector<std::string> IdsOf(std::vector<std::string> const& texts)
+{
+    std::vector<std::string> ids;
+    for (std::string const& text : texts)
+    {
+        ids.push_back(Engine::IsKeyId(text) ? text : Engine::KeyIdOf(text));
+        if (ids.back().empty())
+        {
+            throw Refusal({QStringLiteral("--revoke"), 0, 0,
+                           QStringLiteral("\"%1\" is neither a key nor the id of one")
+                               .arg(Printable(QString::fromStdString(text).left(60))),
+                           QStringLiteral("give the public key in base64, or the 16 digits of its id")});
+        }
+    }
+    return ids;
+}
+
+ExitStatus State(Options const& options, Console const& console)
+{
+    SigningKey const root = SigningKey::Load(QString::fromStdString(options.rootKey));
+    Engine::KeyStatement statement;
+    statement.serial = Engine::FeedSerial(QString::fromStdString(options.serial));
+    statement.expires = QDateTime::currentDateTimeUtc().addDays(options.validDays);
+    statement.bundles = options.bundles;
+    statement.validKeys = options.validKeys;
+    statement.revoked = IdsOf(options.revoked);
+    std::string const text = Engine::TextOf(statement);
+    if (!Engine::ParseKeyStatement(text))
+    {
+        throw Refusal({{},
+                       0,
+                       0,
+                       QStringLiteral("clients would not take this statement"),
+                       QStringLiteral("give a serial from 1, one bundle to eight, one or two valid keys, at most 64 "
+                                      "revoked ones, each once, and revoke no valid key")});
+    }
+    if (statement.validKeys.HasId(Engine::KeyIdOf(root.PublicKeyText().toStdString())))
+    {
+        throw Refusal({QStringLiteral("--valid"), 0, 0, QStringLiteral("names the root key itself"),
+                       QStringLiteral("sign updates with another key, so that the root key stays offline")});
+    }
+    QByteArray const line = Engine::KeyStatementLine(text, root.SignatureOf(QByteArray::fromStdString(text)));
+    console.out.stream.write(line.constData(), line.size());
+    return ExitStatus::Clean;
+}
+
+} // namespace
+
+void AddState(CLI::App& keys, VerbContext& context)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *keys.add_subcommand(
+        "state", "Say with the root key which signing keys are valid and which are revoked, and print the line for the "
+                 "feed; needs no network");
+    verb.add_option("--root-key", options->rootKey, "File of the root key, or \"-\" for standard input")
+        ->required()
+        ->type_name("FILE");
+    verb.add_option("--serial", options->serial, "Number of the statement, above that of the last one")
+        ->required()
+        ->type_name("NUMBER");
+    verb.add_option("--bundle", options->bundles, "Identifier of the bundle that it is for; may be given again")
+        ->required()
+        ->allow_extra_args(false)
+        ->type_name("IDENTIFIER");
+    verb.add_option("--valid", options->validKeys, "Public key that is valid, in base64; may be given twice")
+        ->required()
+        ->allow_extra_args(false)
+        ->type_name("KEY");
+    verb.add_option("--revoke", options->revoked,
+                    "Public key, or its id, that must never count again; may be given again")
+        ->allow_extra_args(false)
+        ->type_name("KEY");
+    verb.add_option("--valid-for", options->validDays, "Days until the statement counts no more")
+        ->type_name("DAYS")
+        ->check(CLI::Range(1, 3650))
+        ->capture_default_str();
+    SetWork(verb, context, [&context, options] { return State(*options, context.console); });
+}
+
+} // namespace Pelnar::Publisher

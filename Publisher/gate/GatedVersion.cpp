@@ -16,6 +16,16 @@ Core::Version WholeVersion(QString const& text)
     return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
 }
 
+QStringList TextsOf(std::vector<std::string> const& ids)
+{
+    QStringList texts;
+    for (std::string const& id : ids)
+    {
+        texts.append(QString::fromStdString(id));
+    }
+    return texts;
+}
+
 } // namespace
 
 Engine::KeyedVersion KeysOf(GatedVersion const& version)
@@ -58,11 +68,22 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     version.version = WholeVersion(version.versionText);
     version.platform = bundle.Platform();
     version.kind = kind;
-    version.bundle =
-        GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path), information.allowsInstallerPrograms};
-    for (std::string const& id : version.bundle->publicKeys.Ids())
+    version.bundle = GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path),
+                                 information.allowsInstallerPrograms, information.rootPublicKey};
+    // With a root key the feed's key statement says whom clients trust, and it may say something else tomorrow.
+    if (information.rootPublicKey.empty())
     {
-        version.trustedIds.append(QString::fromStdString(id));
+        version.trustedIds = TextsOf(version.bundle->publicKeys.Ids());
+    }
+    else if (KeyIdOf(information.rootPublicKey).isEmpty())
+    {
+        throw Refusal(
+            {path, 0, 0,
+             QStringLiteral("PelnarRootPublicEDKey \"%1\" in the bundle's information file is no Ed25519 key; "
+                            "its clients would refuse every feed")
+                 .arg(Printable(QString::fromStdString(information.rootPublicKey).left(60))),
+             QStringLiteral("write the public key that \"keys show\" prints for the root key")},
+            RefusalCause::Content);
     }
     return version;
 }

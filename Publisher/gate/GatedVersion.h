@@ -22,6 +22,7 @@ struct GatedBundle
     std::string name; ///< of its folder
     Engine::TrustedKeys publicKeys;
     bool allowsInstallerPrograms = false;
+    std::string rootKey = {}; ///< empty when the bundle names none
 };
 
 struct GatedVersion
@@ -32,7 +33,7 @@ struct GatedVersion
     Engine::FeedPlatform platform = Engine::FeedPlatform::Linux;
     Engine::PayloadKind kind = Engine::PayloadKind::WholeBundle;
     QStringList signerIds;  ///< of the keys that signed its download; empty while unknown
-    QStringList trustedIds; ///< of the keys that its clients trust; empty while unknown
+    QStringList trustedIds; ///< of the keys that its clients trust; empty while unknown, and with a root key
     std::optional<GatedBundle> bundle;
 
     /// Whether people run this version: an installer program is never installed itself.

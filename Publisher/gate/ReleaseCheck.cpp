@@ -1,6 +1,7 @@
 #include "Publisher/gate/ReleaseCheck.h"
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "Engine/core/check/KeyStatement.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/delta/DeltaFile.h"
@@ -110,13 +111,39 @@ private:
         GatedVersion const inside = VersionOf(bundle, file.name, version.kind);
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
-        for (std::string const& key : inside.bundle->publicKeys.Texts())
+        Engine::TrustedKeys const keys = KeysOfClients(*inside.bundle, file.name);
+        if (!inside.bundle->rootKey.empty())
+        {
+            for (std::string const& id : keys.Ids())
+            {
+                version.trustedIds.append(QString::fromStdString(id));
+            }
+        }
+        for (std::string const& key : keys.Texts())
         {
             if (std::find(m_keys.begin(), m_keys.end(), key) == m_keys.end())
             {
                 m_keys.push_back(key);
             }
         }
+    }
+
+    /// The bundle's own keys or, with a root key, those of the feed's key statement. Throws Refusal when clients would
+    /// not believe that.
+    Engine::TrustedKeys KeysOfClients(GatedBundle const& bundle, QString const& path) const
+    {
+        auto const believed = Engine::BelieveKeys(
+            m_request.feed, {bundle.publicKeys, bundle.rootKey, bundle.identifier, 0}, QDateTime::currentDateTimeUtc());
+        if (auto const* const error = std::get_if<Engine::EngineError>(&believed))
+        {
+            throw Refusal({path, 0, 0,
+                           QStringLiteral("its clients would refuse the feed, whose key statement they ask for: %1")
+                               .arg(error->sentence.English()),
+                           QStringLiteral("make one with \"keys state\", and put it into the feed with \"sign-feed "
+                                          "--key-statement\"")},
+                          RefusalCause::Content);
+        }
+        return std::get<Engine::BelievedKeys>(believed).keys;
     }
 
     BundleTree Unpack(InputFile const& file) const

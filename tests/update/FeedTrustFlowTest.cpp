@@ -207,6 +207,36 @@ TEST_F(FeedTrustFlow, KnownAttacksOnAFeed)
     expect(SignedFeedOf("5.1", "9", "2030-01-01T00:00:00Z"), 763);
 }
 
+TEST_F(FeedTrustFlow, ItemsThatTheBundlesKeysCannotVerifyAreLeftOut)
+{
+    std::string const ours = KeyIdOf(MakeKeyPair(7).publicKey);
+    std::string const other = KeyIdOf(MakeKeyPair(8).publicKey);
+    auto const keyed = [](QByteArray item, std::string const& signer, std::string const& trusted)
+    {
+        item.replace("length=", "sparkle:edSignature=\"x\" length=");
+        return item.replace("</item>", QByteArray::fromStdString(
+                                           "<keys xmlns='https://pelnar.example/xml-namespaces/appcast' signer='" +
+                                           signer + "' trusted='" + trusted + "'/></item>"));
+    };
+    QByteArray const bridge = keyed(ItemOf("5.1"), ours, ours + ' ' + other);
+    QByteArray const next = keyed(ItemOf("5.2"), other, other);
+    LogCapture log;
+    EXPECT_EQ(Check(FeedWith(next + bridge)), found);
+    EXPECT_EQ(host.itemCount, 1u);
+    auto const records = log.Of(google::GLOG_INFO);
+    EXPECT_TRUE(std::any_of(records.begin(), records.end(),
+                            [](LogRecord const& record) {
+                                return record.text.find("item 5.2 is left out (needs-another-version-first)") !=
+                                       std::string::npos;
+                            }));
+    settings.check.publicKeys = {MakeKeyPair(7).publicKey, MakeKeyPair(8).publicKey};
+    EXPECT_EQ(Check(FeedWith(next + bridge)), found);
+    EXPECT_EQ(host.itemCount, 2u);
+    settings.check.publicKeys = {};
+    EXPECT_EQ(Check(FeedWith(next + bridge)), found);
+    EXPECT_EQ(host.itemCount, 2u) << "a bundle without keys is told so later";
+}
+
 /// A signed feed with a key statement.
 QByteArray FeedUnder(StatementText const& statement, QByteArray const& serial, std::uint8_t signer,
                      std::uint8_t root = ROOT_SEED)

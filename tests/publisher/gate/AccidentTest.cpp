@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+
 #include <elf.h>
 #include <sys/stat.h>
 
@@ -21,8 +23,14 @@ BundleText Version(std::string const& version)
     return text;
 }
 
+/// Feeds are read in an event loop.
 class Accident : public ::testing::Test
 {
+    int m_count = 1;
+    char m_name[1] = {};
+    char* m_arguments[2] = {m_name, nullptr};
+    QCoreApplication const m_application{m_count, m_arguments};
+
 protected:
     /// \a said: parts of the error, in their order.
     void ExpectRefused(ToolRun const& run, std::vector<std::string> const& said)

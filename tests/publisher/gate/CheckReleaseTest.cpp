@@ -1,5 +1,6 @@
 // CheckReleaseTest.cpp: "check-release" over a folder and over a server: what is published as clients will judge it.
 
+#include "tests/engine/KeyStatementText.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/LoopbackServer.h"
 
@@ -43,11 +44,14 @@ public:
                    Base64(Sign(archive, MakeKeyPair(signerSeed))) + "\"/></item>\n";
     }
 
+    /// Behind the feed's root element.
+    void Append(std::string const& text) { m_end += text; }
+
     ToolRun Check(QStringList const& more = {}) const
     {
         m_folder.Put("appcast.xml",
                      "<rss xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\"><channel>\n" +
-                         m_items + "</channel></rss>\n");
+                         m_items + "</channel></rss>\n" + m_end);
         return RunTool(QStringList{QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())} + more);
     }
 
@@ -56,6 +60,7 @@ public:
 private:
     PublisherFolder m_folder;
     std::string m_items;
+    std::string m_end;
 };
 
 /// Feeds are read in an event loop.
@@ -124,6 +129,26 @@ TEST_F(CheckRelease, VersionInsideMustBeTheFeeds)
     release.Folder().Put("Test.zip", archive);
     release.AddItem("2.1", "https://updates.example.com/Test.zip", archive);
     ExpectSaid(release.Check(), {"Test.zip: the bundle is of another version than the feed says", "CFBundleVersion"});
+}
+
+TEST_F(CheckRelease, BundleWithARootKeyAsksForAStatementInTheFeed)
+{
+    HandMadeRelease release;
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    release.Add(text, 8);
+    ExpectSaid(release.Check(), {"Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for"});
+    // The statement counts in the place of the bundle's own key.
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    statement.validSeeds = {8};
+    release.Append(StatementLineOf(statement).toStdString());
+    ToolRun const run = release.Check();
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    text.rootKey = "garbage";
+    text.version = "1.1";
+    release.Add(text, 8);
+    ExpectSaid(release.Check(), {"PelnarRootPublicEDKey \"garbage\""});
 }
 
 TEST_F(CheckRelease, ArchiveThatWasReplacedIsNamed)

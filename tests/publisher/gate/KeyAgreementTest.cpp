@@ -5,6 +5,7 @@
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 
+#include <glog/logging.h>
 #include <gtest/gtest.h>
 
 #include <random>
@@ -147,6 +148,7 @@ bool IsRefusedForTheNewest(Release const& release)
 
 TEST(KeyAgreement, WhatTheGateLetsThroughEveryClientTakes)
 {
+    FLAGS_minloglevel = google::GLOG_WARNING;
     RandomReleases releases(20261122);
     int accepted = 0;
     int refused = 0;

@@ -37,6 +37,7 @@ std::string PropertyListOf(BundleText const& text)
     add("SUPublicEDKey", text.publicKey);
     add("PelnarPayloadKind", text.payloadKind);
     add("PelnarNextPublicEDKey", text.nextKey);
+    add("PelnarRootPublicEDKey", text.rootKey);
     add("NSExecutable", text.executable);
     add("PelnarAllowsInstallerPrograms", text.allowsInstallers);
     return list + "</dict></plist>\n";

@@ -24,6 +24,7 @@ struct BundleText
     std::string publicKey = MakeKeyPair(7).publicKey;
     std::string payloadKind = {};
     std::string nextKey = {};
+    std::string rootKey = {};
     std::string executable = {}; ///< what NSExecutable says; empty for nothing
     std::string allowsInstallers = {};
     std::string program = {}; ///< empty for a script; the bytes of the program else

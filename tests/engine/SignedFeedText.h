@@ -34,14 +34,14 @@ inline QByteArray BlockOf(QByteArray const& signature)
 }
 
 /// The signature of \a content by the key pair with that seed byte.
-inline QByteArray FeedSignature(QByteArray const& content, std::uint8_t seedByte = 7)
+inline QByteArray SignatureOfFeed(QByteArray const& content, std::uint8_t seedByte = 7)
 {
     return QByteArray::fromStdString(Base64(Sign(content.toStdString(), MakeKeyPair(seedByte))));
 }
 
 inline QByteArray Signed(QByteArray const& content, std::uint8_t seedByte = 7)
 {
-    return content + BlockOf(FeedSignature(content, seedByte));
+    return content + BlockOf(SignatureOfFeed(content, seedByte));
 }
 
 constexpr char FAR_AHEAD[] = "9999-12-31T23:59:59Z";
@@ -64,7 +64,7 @@ struct SpoiltFeed
 inline std::vector<SpoiltFeed> SpoiltFeeds()
 {
     QByteArray const content = FeedWith(TermsOf("7", FAR_AHEAD) + ItemOf("5.1"));
-    QByteArray const signature = FeedSignature(content);
+    QByteArray const signature = SignatureOfFeed(content);
     QByteArray const block = BlockOf(signature);
     QByteArray const rootEnd = "</rss>\n";
     QByteArray withoutEnd = content;
@@ -114,7 +114,7 @@ inline std::vector<SpoiltFeed> SpoiltFeeds()
         {"ContentOfLineFeedsNowCarriageReturns", QByteArray(content).replace("\n", "\r\n") + block, 757},
         {"ContentShorter", content.mid(1) + block, 757},
         {"ContentLonger", content + "\n" + block, 757},
-        {"SignatureOfSomethingElse", content + BlockOf(FeedSignature("something else")), 757},
+        {"SignatureOfSomethingElse", content + BlockOf(SignatureOfFeed("something else")), 757},
         {"MalleableSignature", content + BlockOf(malleable), 757},
         {"ZeroSignature", content + BlockOf(QByteArray(64, '\0').toBase64()), 757},
         {"WebPage", "<!DOCTYPE html>\n<html><head><title>Sign in</title></head></html>\n", 707},

@@ -145,7 +145,7 @@ TEST_F(FeedTrustFlow, WhereNothingIsAskedForTheSignatureAndTheTermsChangeNothing
     settings.check.feedRecord = AfterFeed({}, QUrl::fromLocalFile(folder.filePath(QStringLiteral("feed.xml"))), "",
                                           FeedTerms{100, parts.now}, parts.now);
     EXPECT_EQ(Check(plain), found);
-    QByteArray const block = BlockOf(FeedSignature("something else"));
+    QByteArray const block = BlockOf(SignatureOfFeed("something else"));
     for (QByteArray const& feed :
          {SignedFeedOf("5.1", "7"), SignedFeedOf("5.1", "7", "1970-01-02T00:00:00Z"),
           SignedFeedOf("5.1", "none", "never"), Signed(plain, 9), plain + block, plain + block + block,

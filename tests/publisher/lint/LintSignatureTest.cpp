@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
         SignatureRow{"LineEnd", Signed(Content()).chopped(1) + "\r\n", "feed-signature-unreadable 5:1"},
         SignatureRow{"OtherAlgorithm", Signed(Content()).replace("ed25519", "dsa"), "feed-signature-unreadable 5:1"},
         SignatureRow{"Damaged", Content() + BlockOf("AAAA"), "feed-signature-unreadable 5:1"},
-        SignatureRow{"NotAlone", Content() + "  " + BlockOf(FeedSignature("")), "feed-signature-unreadable 5:3"},
+        SignatureRow{"NotAlone", Content() + "  " + BlockOf(SignatureOfFeed("")), "feed-signature-unreadable 5:3"},
         SignatureRow{"NoSerial", Signed(Content("")), "feed-serial 1:74"},
         SignatureRow{"SerialOfZero", Signed(Content("0")), "feed-serial 2:1"},
         SignatureRow{"NoExpiry", Signed(Content("7", "")), "feed-expires 1:74"},

@@ -40,7 +40,7 @@ def run(*command, **options):
 
 
 def symbols(library, which):
-    lines = run("nm", "-D", "-C", which, library).splitlines()
+    lines = run("nm", "-D", "-C", "--without-symbol-versions", which, library).splitlines()
     return {line.split(maxsplit=1 if which == "--undefined-only" else 2)[-1] for line in lines}
 
 

@@ -5,6 +5,7 @@
 #include "Publisher/edit/FeedEdits.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
+#include "Publisher/keys/SigningKey.h"
 #include "Publisher/signfeed/FeedSigner.h"
 #include "Publisher/signfeed/SignFeedVerb.h"
 

@@ -9,6 +9,7 @@ _pelnar_appcast()
             "/lint" | \
             "/matrix" | \
             "/diff" | \
+            "/simulate" | \
             "/timeline" | \
             "/keys" | \
             "/sign" | \
@@ -16,6 +17,10 @@ _pelnar_appcast()
             "/generate" | \
             "/check-release" | \
             "/sign-feed" | \
+            "/promote" | \
+            "/withdraw" | \
+            "/edit-notes" | \
+            "/prune" | \
             "/delta" | \
             "/serve" | \
             "keys/generate" | \
@@ -33,20 +38,24 @@ _pelnar_appcast()
         "explain --platform") words="macos linux" ;;
         "matrix --platform") words="macos linux" ;;
         "diff --platform") words="macos linux" ;;
+        "simulate --platform") words="macos linux" ;;
         "keys generate --format") words="xml gnustep bare" ;;
         "keys show --format") words="xml gnustep bare" ;;
         "keys export --form") words="seed secret-key" ;;
         "keys rotate --platform") words="macos linux" ;;
         "generate --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
+        "generate --effort") words="low usual high" ;;
         "check-release --machine") words="x86_64 aarch64 i386 armhf riscv64 ppc64le s390x" ;;
+        "delta create --effort") words="low usual high" ;;
     esac
     if [ -z "$words" ]; then
         case "$verb" in
-            "") words="explain lint matrix diff timeline keys sign verify generate check-release sign-feed delta serve -h --help --version" ;;
-            "explain") words="-h --help --local-version --system-version --platform --machine --channels --rollout-group --at --published-at --after-delta --json" ;;
+            "") words="explain lint matrix diff simulate timeline keys sign verify generate check-release sign-feed promote withdraw edit-notes prune delta serve -h --help --version" ;;
+            "explain") words="-h --help --local-version --system-version --platform --machine --channels --at --rollout-group --published-at --after-delta --json" ;;
             "lint") words="-h --help --published-at --fetch --signed --public-key --baseline --strict --json --sarif --each --rules" ;;
-            "matrix") words="-h --help --versions --systems --platform --machine --channels --rollout-group --at --published-at --expect --json" ;;
-            "diff") words="-h --help --versions --platform --machine --channels --rollout-group --at --published-at --json" ;;
+            "matrix") words="-h --help --versions --systems --platform --machine --channels --at --rollout-group --published-at --expect --json" ;;
+            "diff") words="-h --help --versions --platform --machine --channels --at --rollout-group --published-at --json" ;;
+            "simulate") words="-h --help --clients --days --versions --system-version --seed --svg --platform --machine --channels --at --published-at --json" ;;
             "timeline") words="-h --help --json" ;;
             "keys") words="generate show export state rotate -h --help" ;;
             "keys generate") words="-h --help --format" ;;
@@ -56,11 +65,15 @@ _pelnar_appcast()
             "keys rotate") words="-h --help --from --to --platform" ;;
             "sign") words="-h --help --key --signer --signer-key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --signer --signer-key --second-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --sign-feed --valid-for" ;;
+            "generate") words="-h --help --key --signer --signer-key --second-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --sign-feed --valid-for" ;;
             "check-release") words="-h --help --machine --public-key" ;;
             "sign-feed") words="-h --help --key --signer --signer-key --valid-for --serial --key-statement --accept-changes -o --output" ;;
+            "promote") words="-h --help --dry-run --key --valid-for --to" ;;
+            "withdraw") words="-h --help --dry-run --key --valid-for" ;;
+            "edit-notes") words="-h --help --dry-run --key --valid-for" ;;
+            "prune") words="-h --help --dry-run --key --valid-for --keep" ;;
             "delta") words="create apply show -h --help" ;;
-            "delta create") words="-h --help -o --output --key" ;;
+            "delta create") words="-h --help -o --output --key --effort" ;;
             "delta apply") words="-h --help -o --output" ;;
             "delta show") words="-h --help --json" ;;
             "serve") words="-h --help --host --port --fault --tls --end-with-input" ;;

@@ -126,7 +126,7 @@ TEST(CommandDescription, CompletionOffersVerbsOptionsChoicesAndFiles)
 {
     QString const nothing = QLatin1String("");
     EXPECT_EQ(Completions({QStringLiteral("ke")}), QStringList(QStringLiteral("keys")));
-    EXPECT_EQ(Completions({QStringLiteral("keys"), QStringLiteral("s")}), QStringList(QStringLiteral("show")));
+    EXPECT_EQ(Completions({QStringLiteral("keys"), QStringLiteral("sh")}), QStringList(QStringLiteral("show")));
     EXPECT_EQ(Completions({QStringLiteral("keys"), QStringLiteral("show"), QStringLiteral("--f")}),
               QStringList(QStringLiteral("--format")));
     EXPECT_EQ(Completions({QStringLiteral("keys"), QStringLiteral("show"), QStringLiteral("--format"), nothing}),

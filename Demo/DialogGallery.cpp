@@ -1,6 +1,6 @@
 #include "Demo/DialogGallery.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionDialogs_p.h"
+#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionDialogs.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
 #include "HostFramework/ICustomizationManager.h"
 #include "HostFramework/ILinksManager.h"

@@ -1,7 +1,7 @@
 #include "Installer/BundleRights.h"
 
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/TreeManifest.h"
 
 #include <cerrno>
 

@@ -1,6 +1,6 @@
 #include "Installer/Confinement.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/faults/UpdateFault.h"
 
 #include <cerrno>

@@ -1,9 +1,10 @@
 #include "Installer/InstallUpdate.h"
 
-#include "Engine/core/payload/RelaunchArguments.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/helper/RelaunchArguments.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Installer/BundleRights.h"
 #include "Installer/ChildProcess.h"
 #include "Installer/OutcomeNote.h"
@@ -180,7 +181,7 @@ struct Failure
 
 /// Runs \a work and returns its failure.
 template <typename Work>
-std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
+std::optional<Failure> CallDelegate(Work const& work, ReportChannel const& report)
 {
     Failure failure;
     try
@@ -203,7 +204,7 @@ std::optional<Failure> FailureOf(Work const& work, ReportChannel const& report)
 /// The whole work of the child; returns its exit status.
 int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report, int failureFd)
 {
-    auto const failure = FailureOf([&] { InstallLocked(job, descriptors, report); }, report);
+    auto const failure = CallDelegate([&] { InstallLocked(job, descriptors, report); }, report);
     if (!failure)
     {
         return 0;

@@ -3,7 +3,7 @@
 // child. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Installer/ReportChannel.h"
 
 namespace Pelnar::Installer

@@ -1,6 +1,6 @@
 #include "Installer/OutcomeNote.h"
 
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 
 #include <ctime>
 #include <exception>

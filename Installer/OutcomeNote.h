@@ -3,7 +3,7 @@
 // Thread: the process's only one. Ownership: the caller owns the job and the folder's descriptor; both outlive it.
 #pragma once
 
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 namespace Pelnar::Installer
 {

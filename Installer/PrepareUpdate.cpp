@@ -1,11 +1,12 @@
 #include "Installer/PrepareUpdate.h"
 
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/archive/UnpackArchive.h"
+#include "Engine/core/base/TreeAccess.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/delta/DeltaApplier.h"
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/payload/TrustedKeys.h"
-#include "Engine/core/unpack/CheckBundle.h"
-#include "Engine/core/unpack/UnpackArchive.h"
 #include "Installer/Confinement.h"
 #include "Installer/SteadyArchive.h"
 

@@ -2,7 +2,7 @@
 // Thread: the process's only one; the process is confined permanently. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Installer/ReportChannel.h"
 
 namespace Pelnar::Installer

@@ -1,9 +1,9 @@
 #include "Installer/RecoverSwap.h"
 
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/SwapJournal.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "Installer/ChildProcess.h"
 #include "Installer/SwapBundle.h"
 

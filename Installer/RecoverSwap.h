@@ -2,8 +2,8 @@
 // Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 #include <string>
 

@@ -1,8 +1,8 @@
 #include "Installer/Rehearse.h"
 
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Installer/BundleRights.h"
 #include "Installer/Confinement.h"
 #include "Installer/SwapBundle.h"

@@ -3,7 +3,7 @@
 // Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 namespace Pelnar::Installer
 {

@@ -1,10 +1,10 @@
 #include "Installer/Relaunch.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/TreeAccess.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/FolderSafety.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/helper/FolderSafety.h"
+#include "Engine/core/helper/StagingFolder.h"
 
 #include <cerrno>
 #include <climits>

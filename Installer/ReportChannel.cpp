@@ -1,6 +1,6 @@
 #include "Installer/ReportChannel.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 namespace Pelnar::Installer
 {

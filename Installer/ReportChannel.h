@@ -2,7 +2,7 @@
 // Thread: the helper's only one. Ownership: the descriptor is inherited and stays open to the end.
 #pragma once
 
-#include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/helper/HelperReport.h"
 
 namespace Pelnar::Installer
 {

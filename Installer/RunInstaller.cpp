@@ -1,9 +1,9 @@
 #include "Installer/RunInstaller.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Installer/ChildProcess.h"
 
 #include <algorithm>

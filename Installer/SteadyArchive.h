@@ -4,7 +4,7 @@
 // (on some network file systems, or for another user's file) a private copy is read instead.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <cstdint>
 

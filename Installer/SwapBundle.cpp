@@ -1,8 +1,8 @@
 #include "Installer/SwapBundle.h"
 
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
 
 #include <cerrno>
 

@@ -2,8 +2,8 @@
 // Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/helper/SwapJournal.h"
 
 #include <optional>
 #include <string>

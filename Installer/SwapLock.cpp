@@ -1,9 +1,9 @@
 #include "Installer/SwapLock.h"
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/FolderSafety.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/helper/FolderSafety.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
 
 #include <cerrno>
 

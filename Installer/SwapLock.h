@@ -4,7 +4,7 @@
 // Thread: the process's only one. Ownership: the caller owns the parent's descriptor, which outlives the object.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <string>
 

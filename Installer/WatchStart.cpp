@@ -1,8 +1,8 @@
 #include "Installer/WatchStart.h"
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "Installer/RecoverSwap.h"
 #include "Installer/Relaunch.h"
 #include "Installer/SwapBundle.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Installer/OutcomeNote.h"
 #include "Installer/ReportChannel.h"
 

@@ -2,9 +2,9 @@
 // inherited descriptors: see docs/formats/update-job.md. It reads no environment, no configuration and no other
 // argument.
 
-#include "Engine/core/payload/CloseDescriptors.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/base/CloseDescriptors.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Installer/InstallUpdate.h"
 #include "Installer/PrepareUpdate.h"
 #include "Installer/RecoverSwap.h"

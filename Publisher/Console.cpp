@@ -1,6 +1,6 @@
 #include "Publisher/Console.h"
 
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 
 #include <QJsonDocument>
 

@@ -1,8 +1,8 @@
 #include "Settings/ApplicationFolder.h"
 
-#include "Engine/core/payload/FolderSafety.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/helper/FolderSafety.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
 
 #include <QCryptographicHash>
 #include <QUrl>

@@ -3,7 +3,7 @@
 // Thread: any; BaseFolderPath() and FolderOf() read the environment. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <QString>
 

@@ -1,8 +1,8 @@
 #include "Settings/DefaultsFile.h"
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/StagingFolder.h"
 
 #include <QFile>
 #include <QLockFile>

@@ -1,7 +1,7 @@
 // DefaultsText.h: user defaults as the text of a property list, and the meaning of one value. Pure functions.
 #pragma once
 
-#include "Engine/core/payload/PropertyList.h"
+#include "Engine/core/bundle/PropertyList.h"
 #include "common/SettingKeys.h"
 
 #include <QVariant>

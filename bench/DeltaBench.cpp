@@ -2,9 +2,9 @@
 // versions are the two folders that PELNAR_BENCH_VERSIONS names ("OLD:NEW"; the script debian-versions makes such), or
 // this process' libraries and a made-up next version of them.
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
-#include "Engine/core/delta/TreeAccess.h"
 #include "bench/PayloadFixture.h"
 #include "bench/Ratios.h"
 

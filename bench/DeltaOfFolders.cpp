@@ -1,9 +1,9 @@
 // DeltaOfFolders.cpp: makes the delta between two folders, or applies it, and prints the seconds that it takes.
 // Usage: delta_of_folders make OLD NEW DELTA; delta_of_folders apply DELTA OLD EMPTY-FOLDER
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
-#include "Engine/core/delta/TreeAccess.h"
 
 #include <sys/resource.h>
 

@@ -1,9 +1,9 @@
 // PayloadBench.cpp: an archive's signature verified, beside the library's bare call; a zip unpacked and on the disk,
 // beside bsdtar, which leaves what it wrote to the kernel.
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/TrustedKeys.h"
-#include "Engine/core/unpack/UnpackArchive.h"
+#include "Engine/core/archive/UnpackArchive.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "bench/PayloadFixture.h"
 #include "bench/Ratios.h"
 

@@ -1,6 +1,6 @@
 #include "bench/PayloadFixture.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <chrono>
 #include <cstdlib>

@@ -3,7 +3,7 @@
 // bsdtar's time. And how much memory a host takes for an update of 1 GiB, and how long its event loop is held up
 // meanwhile.
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "bench/DownloadServer.h"
 #include "bench/PayloadFixture.h"
 #include "bench/Ratios.h"

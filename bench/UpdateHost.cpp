@@ -5,7 +5,7 @@
 
 #include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallHandover.h"
-#include "Engine/core/update/UpdateParts.h"
+#include "Engine/core/update/UpdateEnvironment.h"
 #include "Engine/core/update/UpdatePreparation.h"
 #include "bench/MeteredApplication.h"
 #include "bench/ProcessMemory.h"
@@ -112,7 +112,7 @@ private:
         }
     }
 
-    UpdateParts m_parts{QStringLiteral(PELNAR_INSTALLER_PROGRAM)};
+    UpdateEnvironment m_parts{QStringLiteral(PELNAR_INSTALLER_PROGRAM)};
     DownloadRequest m_request;
     std::string m_key;
     std::string m_identifier;

@@ -1,6 +1,6 @@
 // VersionsBench.cpp: two versions of four components parsed and compared, beside Qt's own version class.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "bench/Ratios.h"
 
 #include <benchmark/benchmark.h>

@@ -31,12 +31,17 @@ endif()
 install(EXPORT PelnarUpdateCheckerTargets NAMESPACE Pelnar:: DESTINATION "${PELNAR_INSTALL_CMAKEDIR}"
     COMPONENT development)
 
-# Private headers (_p.h), and those of the log, stay here.
+# Headers that are private to a folder (_p.h) or to the project stay here.
 install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development
     FILES_MATCHING
     PATTERN "*.h"
     PATTERN "*_p.h" EXCLUDE
     PATTERN "PelnarSparkle*" EXCLUDE
+    PATTERN "Choice" EXCLUDE
+    PATTERN "SessionLibrary" EXCLUDE
+    PATTERN "SessionDialogs.h" EXCLUDE
+    PATTERN "RelaunchLimits.h" EXCLUDE
+    PATTERN "UpdateFiles.h" EXCLUDE
     PATTERN "LogSite.h" EXCLUDE)
 
 install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development

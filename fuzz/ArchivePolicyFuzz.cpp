@@ -2,7 +2,7 @@
 // of those that it admits: nothing is ever made outside the bundle's folder, through a link, or twice, and in an
 // archive that is accepted every link leads to something inside.
 
-#include "Engine/core/payload/ArchiveEntryPolicy.h"
+#include "Engine/core/archive/ArchiveEntryRules.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -178,7 +178,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     limits.maxEntries = 40;
     limits.maxLinks = 20;
     limits.maxBytes = 1u << 20;
-    ArchiveEntryPolicy policy(limits);
+    ArchiveEntryRules policy(limits);
     Model model;
     std::uint64_t bytes = 0;
     while (!input.IsEmpty())

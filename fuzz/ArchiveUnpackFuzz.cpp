@@ -3,10 +3,11 @@
 // first byte says whether the rest is an archive as it is or a tar that is put under gzip first, so that mutations
 // reach the entries.
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/archive/UnpackArchive.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/unpack/UnpackArchive.h"
 #include "tests/installer/ArchiveForge.h"
 
 #include <cstddef>

@@ -1,11 +1,11 @@
 // HelperFormatsFuzz.cpp: any bytes as a job, as a program's arguments, as a swap's journal, as an installation's record
 // and as a line of the helper's report: what is accepted is the one form of what it says.
 
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/InstallRecord.h"
-#include "Engine/core/payload/RelaunchArguments.h"
-#include "Engine/core/payload/SwapJournal.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/InstallRecord.h"
+#include "Engine/core/helper/RelaunchArguments.h"
+#include "Engine/core/helper/SwapJournal.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 #include <cstddef>
 #include <cstdint>

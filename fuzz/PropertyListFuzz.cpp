@@ -1,7 +1,7 @@
 // PropertyListFuzz.cpp: any bytes as a property list: the limits hold, and a value that is accepted, written in the old
 // style, reads as the same value.
 
-#include "Engine/core/payload/PropertyList.h"
+#include "Engine/core/bundle/PropertyList.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -4,7 +4,7 @@
 // Input: how much there is, how much there is to be, which validators are known (a byte each), then the answer.
 
 #include "Engine/core/download/PartialRecord.h"
-#include "Engine/core/download/ResumeDecision.h"
+#include "Engine/core/download/ResumeRules.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -53,7 +53,7 @@ bool HasOnly(HttpHead const& head, QByteArray const& name, QByteArray const& val
     return values.size() == 1 && values.front() == value;
 }
 
-void CheckDecision(PartialArchive const& partial, HttpHead const& head, ResumeDecision const& decision)
+void CheckDecision(PartialArchive const& partial, HttpHead const& head, ResumeRules const& decision)
 {
     quint64 const missing = partial.declaredBytes - partial.bytes;
     std::vector<QByteArray> const lengths = head.Values("content-length");

@@ -2,11 +2,11 @@
 // looks like a signature is part of what is believed, and a signature that is added to any bytes is found again. The
 // same bytes as the record of a feed, and as a kept feed with its digest and without.
 
+#include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/KeptFeedFile.h"
 #include "Engine/core/feed/SignedFeed.h"
-#include "Engine/core/payload/Ed25519Signature.h"
 
 #include <QCryptographicHash>
 
@@ -44,12 +44,13 @@ void RequireWhole(QByteArray const& bytes, SignedFeed const& feed)
 void RequireTerms(QByteArray const& bytes)
 {
     FeedParseResult const feed = ParseFeed(bytes, QUrl(), FeedPlatform::Linux);
-    auto const said = ReadFeedTerms(feed.channel);
-    if (auto const* const terms = std::get_if<FeedTerms>(&said))
+    auto const said = ReadFeedValidity(feed.channel);
+    if (auto const* const terms = std::get_if<FeedValidity>(&said))
     {
         Require(feed.HasSucceeded() && terms->serial > 0 && terms->expires.isValid(), "terms are usable");
-        Require(!JudgeFeedTerms(*terms, terms->serial, terms->expires.addSecs(-1)), "the same feed again is accepted");
-        Require(JudgeFeedTerms(*terms, 0, terms->expires).has_value(), "an expired feed is refused");
+        Require(!JudgeFeedValidity(*terms, terms->serial, terms->expires.addSecs(-1)),
+                "the same feed again is accepted");
+        Require(JudgeFeedValidity(*terms, 0, terms->expires).has_value(), "an expired feed is refused");
     }
 }
 

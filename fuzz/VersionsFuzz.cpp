@@ -1,7 +1,7 @@
 // VersionsFuzz.cpp: three versions, one a line of UTF-8: parsing keeps its promises, and the order of versions shrunk
 // to four components is an order.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"
 
 #include <QByteArray>

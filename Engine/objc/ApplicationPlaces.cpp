@@ -1,7 +1,7 @@
 #include "Engine/objc/ApplicationPlaces_p.h"
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 #include "Settings/ApplicationFolder.h"
 
 #include <QDir>

@@ -1,9 +1,9 @@
 #include "Engine/objc/BundleSettings_p.h"
 
-#include "Engine/core/PathText.h"
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/check/RolloutSeed.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Engine/objc/ApplicationPlaces_p.h"
 #include "Engine/objc/HelperLocation_p.h"
 #include "Engine/objc/SettingValues_p.h"

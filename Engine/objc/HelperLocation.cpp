@@ -1,6 +1,6 @@
 #include "Engine/objc/HelperLocation_p.h"
 
-#include "Engine/core/PathText.h"
+#include "Engine/core/base/PathText.h"
 
 #include <QDir>
 

@@ -48,24 +48,24 @@ class AppcastContents
     return self;
 }
 
-- (SUAppcastItem*)itemAtPlace:(ItemPlace const&)place
+- (SUAppcastItem*)itemAtPlace:(ItemIndex const&)place
 {
     SUAppcastItem* const item = [m_contents->items.Get() objectAtIndex:static_cast<NSUInteger>(place.item)];
     return place.delta ? [item deltaAtPosition:static_cast<size_t>(*place.delta)] : item;
 }
 
-- (std::optional<ItemPlace>)placeOfItem:(id)candidate
+- (std::optional<ItemIndex>)placeOfItem:(id)candidate
 {
     int position = 0;
     for (SUAppcastItem* const item in m_contents->items.Get())
     {
         if (item == candidate)
         {
-            return ItemPlace{position, std::nullopt};
+            return ItemIndex{position, std::nullopt};
         }
         if (int const delta = [item positionOfDelta:candidate]; delta >= 0)
         {
-            return ItemPlace{position, delta};
+            return ItemIndex{position, delta};
         }
         ++position;
     }

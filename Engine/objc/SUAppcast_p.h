@@ -12,9 +12,9 @@
 @interface SUAppcast (Engine)
 
 - (id)initWithFeedItems:(std::vector<Pelnar::Engine::FeedItem> const&)items;
-- (SUAppcastItem*)itemAtPlace:(Pelnar::Engine::ItemPlace const&)place;
+- (SUAppcastItem*)itemAtPlace:(Pelnar::Engine::ItemIndex const&)place;
 /// The position of \a candidate. It is compared and gets no message, because an object from elsewhere may be of any
 /// class, even deallocated.
-- (std::optional<Pelnar::Engine::ItemPlace>)placeOfItem:(id)candidate;
+- (std::optional<Pelnar::Engine::ItemIndex>)placeOfItem:(id)candidate;
 
 @end

@@ -49,22 +49,22 @@ using namespace Pelnar::Foundation;
 
 - (BOOL)automaticallyChecksForUpdates
 {
-    return m_updater->keptForTheInterface.automaticallyChecksForUpdates;
+    return m_updater->unusedSettings.automaticallyChecksForUpdates;
 }
 
 - (void)setAutomaticallyChecksForUpdates:(BOOL)value
 {
-    m_updater->keptForTheInterface.automaticallyChecksForUpdates = value;
+    m_updater->unusedSettings.automaticallyChecksForUpdates = value;
 }
 
 - (BOOL)sendsSystemProfile
 {
-    return m_updater->keptForTheInterface.sendsSystemProfile;
+    return m_updater->unusedSettings.sendsSystemProfile;
 }
 
 - (void)setSendsSystemProfile:(BOOL)value
 {
-    m_updater->keptForTheInterface.sendsSystemProfile = value;
+    m_updater->unusedSettings.sendsSystemProfile = value;
 }
 
 - (BOOL)automaticallyDownloadsUpdates
@@ -122,7 +122,7 @@ using namespace Pelnar::Foundation;
     m_updater->SetFetchLimits(limits);
 }
 
-- (void)setUpdateParts:(IUpdateParts*)parts
+- (void)setUpdateEnvironment:(IUpdateEnvironment*)parts
 {
     m_updater->SetParts(parts);
 }

@@ -4,11 +4,11 @@
 
 #import <Sparkle/SUUpdater.h>
 
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 namespace Pelnar::Engine
 {
-class IUpdateParts;
+class IUpdateEnvironment;
 class IUserInterface;
 } // namespace Pelnar::Engine
 
@@ -18,7 +18,7 @@ class IUserInterface;
 - (void)setFetchLimits:(Pelnar::Engine::FetchLimits const&)limits;
 
 /// Each replaces the default from the next check on; a null pointer restores the default. Not owned.
-- (void)setUpdateParts:(Pelnar::Engine::IUpdateParts*)parts;
+- (void)setUpdateEnvironment:(Pelnar::Engine::IUpdateEnvironment*)parts;
 - (void)setUpdateWindows:(Pelnar::Engine::IUserInterface*)windows;
 
 /// See Pelnar::ConfirmGoodStart.

@@ -7,7 +7,7 @@
 
 #include "Engine/core/check/DelegateCall.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/update/UpdateParts.h"
+#include "Engine/core/update/UpdateEnvironment.h"
 #include "Engine/objc/BundleSettings_p.h"
 #include "Engine/objc/HelperLocation_p.h"
 #include "Engine/ui/DesktopWindows.h"
@@ -160,7 +160,7 @@ void Updater::TellFailedInstallation()
     if (m_delegate)
     {
         m_isDelegateToBeTold = false;
-        (void)FailureOf("updater:didAbortWithError:", [this, &error] { TellAborted(error); });
+        (void)CallDelegate("updater:didAbortWithError:", [this, &error] { TellAborted(error); });
     }
 }
 
@@ -185,7 +185,7 @@ void Updater::PrepareForCheck()
     {
         return;
     }
-    m_parts = std::make_unique<UpdateParts>(HelperProgram());
+    m_parts = std::make_unique<UpdateEnvironment>(HelperProgram());
     m_chores = std::make_unique<DiskChores>();
     m_feedStore = std::make_unique<FeedStore>(ReadFeedFolder());
     m_windows = MakeDesktopWindows();
@@ -248,9 +248,9 @@ BestItemAnswer Updater::AskForBestItem()
                 {
                     return;
                 }
-                std::optional<ItemPlace> const place = [m_appcast.Get() placeOfItem:item];
+                std::optional<ItemIndex> const place = [m_appcast.Get() placeOfItem:item];
                 answer.kind = place ? BestItemAnswer::Kind::Place : BestItemAnswer::Kind::Foreign;
-                answer.place = place.value_or(ItemPlace{});
+                answer.place = place.value_or(ItemIndex{});
             }
         });
     return answer;
@@ -337,13 +337,13 @@ void Updater::CheckEnded()
     m_appcast.Reset();
 }
 
-SUAppcastItem* Updater::ItemAt(ItemPlace const& place) const
+SUAppcastItem* Updater::ItemAt(ItemIndex const& place) const
 {
     // Of the two items for one update, only the first may be a delta.
     return m_fallback && !place.delta ? m_fallback.Get() : m_found.Get();
 }
 
-void Updater::TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow)
+void Updater::TellWillInstallOnQuit(ItemIndex const& place, std::function<void(RelaunchWish)> const& installNow)
 {
     CallTranslatingRaised(
         [this, &place, &installNow]
@@ -361,7 +361,7 @@ void Updater::TellWillInstallOnQuit(ItemPlace const& place, std::function<void(R
         });
 }
 
-void Updater::TellCancelledInstallOnQuit(ItemPlace const& place)
+void Updater::TellCancelledInstallOnQuit(ItemIndex const& place)
 {
     CallTranslatingRaised(
         [this, &place]

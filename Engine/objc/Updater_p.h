@@ -39,7 +39,7 @@ public:
     /// For tests: replaces the default limits from the next check on. The bundle's own feed size stays.
     void SetFetchLimits(FetchLimits const& limits) { m_fetchLimits = limits; }
     /// For tests: replaces the default from the next check on; a null pointer restores the default.
-    void SetParts(IUpdateParts* parts) { m_testParts = parts; }
+    void SetParts(IUpdateEnvironment* parts) { m_testParts = parts; }
     void SetWindows(IUserInterface* windows) { m_testWindows = windows; }
 
     /// Values that only their own accessors read.
@@ -47,7 +47,7 @@ public:
     {
         BOOL automaticallyChecksForUpdates = NO;
         BOOL sendsSystemProfile = NO;
-    } keptForTheInterface;
+    } unusedSettings;
 
 private:
     /// Ends the running check without a notification: windows and sockets do not outlive the application object, but
@@ -64,9 +64,9 @@ private:
     /// object.
     void PrepareForCheck();
     void StartFlow(CheckKind kind);
-    IUpdateParts& Parts() { return m_testParts ? *m_testParts : *m_parts; }
+    IUpdateEnvironment& Parts() { return m_testParts ? *m_testParts : *m_parts; }
     IUserInterface& Windows() { return m_testWindows ? *m_testWindows : *m_windows; }
-    SUAppcastItem* ItemAt(ItemPlace const& place) const;
+    SUAppcastItem* ItemAt(ItemIndex const& place) const;
 
     void StoreFeedRecord(FeedRecord const& record) override;
     void FeedLoaded(std::vector<FeedItem> const& items) override;
@@ -76,8 +76,8 @@ private:
     void TellNotFound() override;
     void TellAborted(EngineError const& error) override;
     void CheckEnded() override;
-    void TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow) override;
-    void TellCancelledInstallOnQuit(ItemPlace const& place) override;
+    void TellWillInstallOnQuit(ItemIndex const& place, std::function<void(RelaunchWish)> const& installNow) override;
+    void TellCancelledInstallOnQuit(ItemIndex const& place) override;
     RelaunchAnswer ShouldRelaunch() override;
     QString PathToRelaunch() override;
     void TellWillRelaunch() override;
@@ -89,7 +89,7 @@ private:
     id<SUUpdaterDelegate> m_delegate = nil;
     QUrl m_feedUrl;
     std::optional<FetchLimits> m_fetchLimits;
-    IUpdateParts* m_testParts = nullptr;
+    IUpdateEnvironment* m_testParts = nullptr;
     IUserInterface* m_testWindows = nullptr;
     Foundation::Retained<SUAppcast> m_appcast; ///< while a feed is processed
     Foundation::Retained<SUAppcastItem> m_found;
@@ -100,7 +100,7 @@ private:
     std::optional<CheckKind> m_waitingCheck; ///< until the recovery has ended, which may report a failed version
     std::unique_ptr<InstallMemory> m_memory;
     bool m_isDelegateToBeTold = false; ///< about the failed installation
-    std::unique_ptr<IUpdateParts> m_parts;
+    std::unique_ptr<IUpdateEnvironment> m_parts;
     std::unique_ptr<DiskChores> m_chores; ///< writes what a check stores
     std::unique_ptr<FeedStore> m_feedStore;
     std::unique_ptr<IUserInterface> m_windows;

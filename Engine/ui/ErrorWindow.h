@@ -2,7 +2,7 @@
 // Thread: the Qt main thread. Ownership: the maker's.
 #pragma once
 
-#include "Engine/core/Sentence.h"
+#include "Engine/core/faults/Sentence.h"
 #include "Engine/ui/EngineWindow.h"
 
 namespace Pelnar::Engine

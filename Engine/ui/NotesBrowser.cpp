@@ -14,7 +14,7 @@ NotesBrowser::NotesBrowser(QWidget* parent) : QTextBrowser(parent)
     setUndoRedoEnabled(false);
     setTabChangesFocus(true);
     connect(this, &QTextBrowser::anchorClicked, this, &NotesBrowser::ActivateIfSafe);
-    connect(this, qOverload<QUrl const&>(&QTextBrowser::highlighted), this, &NotesBrowser::TellAddress);
+    connect(this, qOverload<QUrl const&>(&QTextBrowser::highlighted), this, &NotesBrowser::ShowAddressTooltip);
 }
 
 void NotesBrowser::ShowNotes(QString const& text, ReleaseNotesFormat format)
@@ -38,7 +38,7 @@ void NotesBrowser::ActivateIfSafe(QUrl const& address)
 }
 
 /// A person sees the target of a link before a click. An encoded address contains no markup.
-void NotesBrowser::TellAddress(QUrl const& address)
+void NotesBrowser::ShowAddressTooltip(QUrl const& address)
 {
     setToolTip(QString::fromLatin1(SafeUrl(address).toEncoded()));
 }

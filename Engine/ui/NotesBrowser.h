@@ -28,7 +28,7 @@ Q_SIGNALS:
 
 private:
     void ActivateIfSafe(QUrl const& address);
-    void TellAddress(QUrl const& address);
+    void ShowAddressTooltip(QUrl const& address);
 };
 
 } // namespace Pelnar::Engine

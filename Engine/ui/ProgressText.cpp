@@ -1,6 +1,6 @@
 #include "Engine/ui/ProgressText.h"
 
-#include "Engine/core/Sentence.h"
+#include "Engine/core/faults/Sentence.h"
 
 #include <QCoreApplication>
 #include <QLocale>

@@ -2,7 +2,7 @@
 // Thread: any, except sentences, which need the Qt main thread.
 #pragma once
 
-#include "Engine/core/Sentence.h"
+#include "Engine/core/faults/Sentence.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "Publisher/choice/ClientOptions.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
 namespace Pelnar::Publisher
 {

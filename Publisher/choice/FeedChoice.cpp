@@ -1,8 +1,8 @@
 #include "Publisher/choice/FeedChoice.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"
 
 #include <algorithm>

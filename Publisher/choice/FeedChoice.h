@@ -3,7 +3,7 @@
 // Thread: any. Ownership: a choice points into the items that it was made from.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "HostFramework/Version.h"
 

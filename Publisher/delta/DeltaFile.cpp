@@ -1,7 +1,7 @@
 #include "Publisher/delta/DeltaFile.h"
 
+#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/delta/DeltaApplier.h"
-#include "Engine/core/payload/TreeManifest.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/AtomicFile.h"

@@ -1,7 +1,7 @@
 #include "Publisher/diff/FeedDiff.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
 #include <algorithm>
 #include <limits>

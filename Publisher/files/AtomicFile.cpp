@@ -1,6 +1,6 @@
 #include "Publisher/files/AtomicFile.h"
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/base/TreeWalk.h"
 #include "Publisher/Refusal.h"
 
 #include <QFile>

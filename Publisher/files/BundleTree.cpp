@@ -1,9 +1,10 @@
 #include "Publisher/files/BundleTree.h"
 
+#include "Engine/core/archive/UnpackArchive.h"
+#include "Engine/core/base/TreeAccess.h"
+#include "Engine/core/base/TreeWalk.h"
+#include "Engine/core/bundle/PropertyList.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/PropertyList.h"
-#include "Engine/core/payload/TreeManifest.h"
-#include "Engine/core/unpack/UnpackArchive.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
 

@@ -2,9 +2,9 @@
 // Thread: the main thread. Ownership: a scope object; what it unpacked is removed with it.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/bundle/BundleInformation.h"
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/payload/BundleInformation.h"
 #include "Publisher/files/InputFile.h"
 #include "Publisher/files/Leftovers.h"
 

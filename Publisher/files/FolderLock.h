@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: a scope object; the lock ends with it and with the process.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Publisher/Console.h"
 
 namespace Pelnar::Publisher

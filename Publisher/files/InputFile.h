@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: the descriptor is the object's.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <QByteArray>
 #include <QString>

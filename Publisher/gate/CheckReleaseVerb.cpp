@@ -1,6 +1,6 @@
 #include "Publisher/gate/CheckReleaseVerb.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/bundle/Ed25519Signature.h"
 #include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/gate/ReleaseCheck.h"

@@ -1,7 +1,7 @@
 #include "Publisher/gate/GatedVersion.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/KeyId.h"

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/feed/KeyPaths.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "HostFramework/Version.h"
 #include "Publisher/files/BundleTree.h"
 

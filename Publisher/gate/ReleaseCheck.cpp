@@ -1,6 +1,6 @@
 #include "Publisher/gate/ReleaseCheck.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/check/KeyStatement.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"

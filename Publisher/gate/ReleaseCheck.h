@@ -2,7 +2,7 @@
 // Thread: the main thread, with Qt's event loop. Ownership: values only.
 #pragma once
 
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Console.h"
 
 #include <QByteArray>

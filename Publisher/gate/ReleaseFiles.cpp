@@ -1,6 +1,6 @@
 #include "Publisher/gate/ReleaseFiles.h"
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 

@@ -1,5 +1,6 @@
 #include "Publisher/gate/ReleaseGate.h"
 
+#include "Engine/core/base/TreeAccess.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/files/FaultText.h"
 

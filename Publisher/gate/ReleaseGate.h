@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: values only.
 #pragma once
 
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/gate/GatedVersion.h"
 

@@ -1,8 +1,8 @@
 #include "Publisher/generate/ArchiveIntake.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleasePolicy.h"
-#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 

@@ -291,7 +291,7 @@ private:
     QUrl const m_address;
     bool const m_isNew;
     FeedContent m_published;
-    std::optional<Engine::FeedTerms> m_terms; ///< of the signature that was made
+    std::optional<Engine::FeedValidity> m_terms; ///< of the signature that was made
 };
 
 /// Null without one.

@@ -1,6 +1,6 @@
 #include "Publisher/generate/FolderScan.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Publisher/Refusal.h"
 

@@ -1,6 +1,6 @@
 #include "Publisher/generate/GenerateVerb.h"
 
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaVerb.h"
 #include "Publisher/gate/CheckReleaseVerb.h"

@@ -1,5 +1,6 @@
 #include "Publisher/generate/PublishedArchives.h"
 
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Progress.h"
 #include "Publisher/gate/ReleaseFiles.h"

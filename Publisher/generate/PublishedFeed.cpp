@@ -1,6 +1,6 @@
 #include "Publisher/generate/PublishedFeed.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Refusal.h"
 
 #include <QXmlStreamReader>

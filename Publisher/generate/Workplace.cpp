@@ -1,6 +1,6 @@
 #include "Publisher/generate/Workplace.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Progress.h"
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/keys/KeyId.h"

@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: refers to the key and the console, which outlive it.
 #pragma once
 
-#include "Engine/core/unpack/CheckBundle.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Console.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/generate/FolderScan.h"

@@ -1,6 +1,6 @@
 #include "Publisher/keys/KeyId.h"
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 
 namespace Pelnar::Publisher
 {

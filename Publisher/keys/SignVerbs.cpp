@@ -3,7 +3,7 @@
 
 #include "Publisher/keys/KeysVerbs.h"
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"

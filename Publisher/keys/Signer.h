@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: a signer is its caller's.
 #pragma once
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Verb.h"
 #include "Publisher/files/InputFile.h"
 

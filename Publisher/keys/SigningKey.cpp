@@ -1,6 +1,6 @@
 #include "Publisher/keys/SigningKey.h"
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
 

@@ -1,9 +1,9 @@
 // AddressRules.cpp: addresses that nobody but the publisher reaches, that lead to something else than an update, or
 // that two versions share.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 

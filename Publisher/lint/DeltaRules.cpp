@@ -1,7 +1,7 @@
 // DeltaRules.cpp: deltas that no client takes, or that only chance decides between.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>

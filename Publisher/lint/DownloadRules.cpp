@@ -1,9 +1,9 @@
 // DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/TextPrefilters.h"
+#include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/feed/ReleasePolicy.h"
-#include "Engine/core/fetch/FetchPolicy.h"
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 

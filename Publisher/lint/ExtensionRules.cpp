@@ -1,6 +1,6 @@
 // ExtensionRules.cpp: extensions that never reach the host, or not with the value that was meant.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/LintSubject.h"
 

@@ -1,7 +1,7 @@
 #include "Publisher/lint/FetchRules.h"
 
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/fetch/FeedFetcher.h"
-#include "Engine/core/payload/TrustedKeys.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/gate/ReleaseFiles.h"

@@ -1,7 +1,7 @@
 #include "Publisher/lint/LintDocument.h"
 
-#include "Engine/core/feed/FeedEncoding_p.h"
-#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/feed/FeedEncoding.h"
+#include "Engine/core/feed/FeedWalker.h"
 
 #include <algorithm>
 #include <iterator>

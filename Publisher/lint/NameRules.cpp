@@ -1,6 +1,6 @@
 // NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
 
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Publisher/lint/LintSubject.h"
 #include "Publisher/lint/LintVocabulary.h"

@@ -1,6 +1,6 @@
 // NotesRules.cpp: release notes as clients lay them out.
 
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Publisher/lint/LintSubject.h"
 

@@ -1,9 +1,9 @@
 // OfferRules.cpp: to whom items are offered that were meant for others, and who cannot take what is offered.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleasePolicy.h"
-#include "Engine/core/unpack/CheckBundle.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/LintSubject.h"
 

@@ -1,8 +1,8 @@
 #include "Publisher/lint/SignatureRules.h"
 
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/SignedFeed.h"
-#include "Engine/core/payload/TrustedKeys.h"
 
 #include <algorithm>
 
@@ -82,7 +82,7 @@ LintPlace PlaceOf(LintSubject const& subject, char const* name)
 
 void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime const& now, LintFindings& findings)
 {
-    auto const said = Engine::ReadFeedTerms(ChannelOf(subject, bytes));
+    auto const said = Engine::ReadFeedValidity(ChannelOf(subject, bytes));
     if (auto const* const error = std::get_if<Engine::EngineError>(&said))
     {
         bool const isSerial = error->cause == Engine::ErrorCause::FeedSerialUnusable;
@@ -92,8 +92,8 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
                               : QStringLiteral("the date is missing, stands twice or is of another form"));
         return;
     }
-    Engine::FeedTerms const& terms = std::get<Engine::FeedTerms>(said);
-    if (Engine::JudgeFeedTerms(terms, 0, now))
+    Engine::FeedValidity const& terms = std::get<Engine::FeedValidity>(said);
+    if (Engine::JudgeFeedValidity(terms, 0, now))
     {
         findings.Add(LintRule::FeedExpired, PlaceOf(subject, "expires"),
                      QStringLiteral("the feed expired at %1").arg(terms.expires.toString(Qt::ISODate)));

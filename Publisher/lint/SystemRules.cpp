@@ -1,7 +1,7 @@
 // SystemRules.cpp: which systems and platforms an item is for.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>

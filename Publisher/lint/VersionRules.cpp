@@ -1,7 +1,7 @@
 // VersionRules.cpp: versions that clients cannot read or tell apart, and items that only chance decides between.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/LintSubject.h"
 

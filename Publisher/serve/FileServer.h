@@ -3,7 +3,7 @@
 // A server for dry runs: GET and HEAD, one request a connection.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Publisher/serve/ServerFault.h"
 
 #include <QSslCertificate>

@@ -1,6 +1,7 @@
 #include "Publisher/serve/ServedFile.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/base/TreeAccess.h"
+#include "Engine/core/bundle/Ed25519Signature.h"
 
 #include <QFile>
 #include <QStringList>

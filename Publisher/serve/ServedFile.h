@@ -2,7 +2,7 @@
 // Thread: any. Ownership: the folder's descriptor stays the caller's.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <QString>
 

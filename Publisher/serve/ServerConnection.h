@@ -2,7 +2,7 @@
 // Thread: the main thread. Ownership: deletes itself when the connection ends; the folder outlives it.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Publisher/serve/FileServer.h"
 #include "Publisher/serve/HttpRequest.h"
 

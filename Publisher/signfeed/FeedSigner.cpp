@@ -3,7 +3,7 @@
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/signfeed/FeedTermsText.h"
+#include "Publisher/signfeed/FeedValidityText.h"
 
 #include <algorithm>
 #include <limits>
@@ -136,7 +136,7 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
     auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
     auto const* const signedContent = std::get_if<QByteArray>(&verified);
     if (!signedContent ||
-        !std::holds_alternative<Engine::FeedTerms>(Engine::ReadFeedTerms(ReadChannel(name, *signedContent))))
+        !std::holds_alternative<Engine::FeedValidity>(Engine::ReadFeedValidity(ReadChannel(name, *signedContent))))
     {
         throw Refusal({name, 0, 0, QStringLiteral("clients would not take the signature"),
                        QStringLiteral("remove what looks like a signature from the feed's texts")});
@@ -144,7 +144,7 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
     return result;
 }
 
-QString TextOf(Engine::FeedTerms const& terms)
+QString TextOf(Engine::FeedValidity const& terms)
 {
     return QStringLiteral("signed with serial %1, expires %2").arg(terms.serial).arg(MomentText(terms.expires));
 }

@@ -34,7 +34,7 @@ struct SigningTerms
 struct SignedFeedBytes
 {
     QByteArray bytes;
-    Engine::FeedTerms terms;
+    Engine::FeedValidity terms;
 };
 
 /// Takes \a bytes apart; \a name is shown. Throws Refusal: for a signature that is not where and how it must be, and,
@@ -52,6 +52,6 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray 
 SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms);
 
 /// "signed with serial 8, expires 2026-12-20T08:00:00Z"
-QString TextOf(Engine::FeedTerms const& terms);
+QString TextOf(Engine::FeedValidity const& terms);
 
 } // namespace Pelnar::Publisher

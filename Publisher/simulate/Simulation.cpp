@@ -1,7 +1,7 @@
 #include "Publisher/simulate/Simulation.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/check/RolloutSeed.h"
 
 #include <algorithm>

@@ -2,7 +2,7 @@
 // Thread: any. Ownership: values; sites are of static duration.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
 
 #include <QString>
 

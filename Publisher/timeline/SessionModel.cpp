@@ -1,6 +1,6 @@
 #include "Publisher/timeline/SessionModel.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/CallbackRules_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/CallbackRules.h"
 
 #include <QStringList>
 

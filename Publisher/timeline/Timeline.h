@@ -3,7 +3,7 @@
 // Thread: any. Ownership: values only.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/SessionState.h"
 #include "Publisher/timeline/SessionLog.h"
 
 #include <QString>

@@ -1,7 +1,8 @@
 // ArchiveNamesTest.cpp: names beyond ASCII in the archives of every packer: the helper, which has no locale and is
 // confined, and the publisher's tool, in the locale of the one who runs it, make the same tree of them.
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Publisher/files/BundleTree.h"
 #include "tests/archives/Packers.h"
 #include "tests/installer/InstallerFixture.h"

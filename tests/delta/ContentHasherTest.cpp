@@ -1,4 +1,4 @@
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
 
 #include <gtest/gtest.h>
 

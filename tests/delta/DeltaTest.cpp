@@ -1,7 +1,7 @@
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
-#include "Engine/core/delta/TreeAccess.h"
 
 #include <gtest/gtest.h>
 

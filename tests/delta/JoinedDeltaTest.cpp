@@ -1,11 +1,11 @@
 // JoinedDeltaTest.cpp: containers whose files' data are joined: what they make of whole trees, the rules for units, and
 // that the format before is still applied.
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/DeltaMaker.h"
 #include "Engine/core/delta/StreamUnpacker.h"
-#include "Engine/core/delta/TreeAccess.h"
 #include "tests/delta/ForgedProgram.h"
 #include "tests/delta/PackedFiles.h"
 #include "tests/delta/SeparateDelta.h"

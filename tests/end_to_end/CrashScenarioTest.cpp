@@ -1,6 +1,6 @@
 // CrashScenarioTest.cpp: the installed application crashes or is killed in the middle of an update, or runs several
 // times at once. Real processes throughout.
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "tests/end_to_end/UpdateScenario.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "tests/end_to_end/InstalledDemo.h"
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <gtest/gtest.h>
 

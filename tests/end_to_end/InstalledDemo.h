@@ -3,7 +3,7 @@
 // Thread: one. Ownership: scope objects; folders and processes end with them.
 #pragma once
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
 
 #include <QProcess>
 #include <QStringList>

@@ -2,7 +2,7 @@
 // Thread: main. Ownership: a scope object; the updater is the process's own.
 #pragma once
 
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <QString>
 #include <QUrl>
@@ -15,7 +15,7 @@
 
 namespace Pelnar::Engine
 {
-class IUpdateParts;
+class IUpdateEnvironment;
 class IUserInterface;
 } // namespace Pelnar::Engine
 
@@ -97,7 +97,7 @@ public:
     QUrl Feed() const;
     void SetLimits(Engine::FetchLimits const& limits);
     /// Until this object goes: the server, the helper and the windows of updates are these.
-    void SetUpdate(Engine::IUpdateParts& parts, Engine::IUserInterface& windows);
+    void SetUpdate(Engine::IUpdateEnvironment& parts, Engine::IUserInterface& windows);
     void RemoveDelegate();
 
     void Probe();

@@ -257,13 +257,13 @@ UpdaterDriver::UpdaterDriver(DelegateScript script) : m_impl(std::make_unique<Im
 UpdaterDriver::~UpdaterDriver()
 {
     RemoveDelegate();
-    [[SUUpdater sharedUpdater] setUpdateParts:nullptr];
+    [[SUUpdater sharedUpdater] setUpdateEnvironment:nullptr];
     [[SUUpdater sharedUpdater] setUpdateWindows:nullptr];
 }
 
-void UpdaterDriver::SetUpdate(Engine::IUpdateParts& parts, Engine::IUserInterface& windows)
+void UpdaterDriver::SetUpdate(Engine::IUpdateEnvironment& parts, Engine::IUserInterface& windows)
 {
-    [[SUUpdater sharedUpdater] setUpdateParts:&parts];
+    [[SUUpdater sharedUpdater] setUpdateEnvironment:&parts];
     [[SUUpdater sharedUpdater] setUpdateWindows:&windows];
 }
 

@@ -1,5 +1,5 @@
 // FeedDocumentTest.cpp: which bytes are a feed: encodings, well-formedness, namespaces, characters that do harm.
-#include "Engine/core/feed/FeedEncoding_p.h"
+#include "Engine/core/feed/FeedEncoding.h"
 #include "tests/engine_core/FeedFixture.h"
 
 #include <gtest/gtest.h>

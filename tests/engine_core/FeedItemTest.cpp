@@ -1,5 +1,5 @@
 // FeedItemTest.cpp: every property of an item, of its deltas and of what a feed adds to it.
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "tests/engine_core/FeedFixture.h"
 #include "tests/support/CauseOf.h"
 

@@ -42,7 +42,7 @@ TEST(FeedRecordTest, DaysCountFromTheFirstToTheLastTimeOfTheSameBytes)
 
 TEST(FeedRecordTest, SerialOutlivesAnyAddressAndTheDaysDoNot)
 {
-    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedTerms{7, At(0)}, At(10 * DAY));
+    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedValidity{7, At(0)}, At(10 * DAY));
     for (char const* const address :
          {"https://feeds.example.com/appcast.xml", "http://feeds.example.com/appcast.xml?channel=beta",
           "https://feeds.example.com/appcast.xml?channel=beta&", "file:///appcast.xml", ""})
@@ -57,18 +57,18 @@ TEST(FeedRecordTest, SerialOutlivesAnyAddressAndTheDaysDoNot)
 
 TEST(FeedRecordTest, FragmentMakesNoOtherAddress)
 {
-    FeedRecord record = AfterFeed({}, FEED, "feed", FeedTerms{7, At(0)}, At(10 * DAY));
+    FeedRecord record = AfterFeed({}, FEED, "feed", FeedValidity{7, At(0)}, At(10 * DAY));
     QUrl withFragment = FEED;
     withFragment.setFragment(QStringLiteral("x"));
-    record = AfterFeed(record, withFragment, "feed", FeedTerms{7, At(0)}, At(20 * DAY));
+    record = AfterFeed(record, withFragment, "feed", FeedValidity{7, At(0)}, At(20 * DAY));
     EXPECT_EQ(UnchangedDays(record), 10);
     EXPECT_EQ(record.serial, 7);
 }
 
 TEST(FeedRecordTest, LowerSerialNeverReplacesAHigherOne)
 {
-    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedTerms{7, At(0)}, At(0));
-    EXPECT_EQ(AfterFeed(record, FEED, "feed", FeedTerms{6, At(0)}, At(0)).serial, 7);
+    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedValidity{7, At(0)}, At(0));
+    EXPECT_EQ(AfterFeed(record, FEED, "feed", FeedValidity{6, At(0)}, At(0)).serial, 7);
 }
 
 class FeedRecordFileTest : public ::testing::Test
@@ -84,7 +84,7 @@ protected:
 
     QTemporaryDir folder;
     QString path = FeedRecordPath(folder.path(), QStringLiteral("example.app"));
-    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedTerms{7, At(0)}, At(10 * DAY));
+    FeedRecord const record = AfterFeed({}, FEED, "feed", FeedValidity{7, At(0)}, At(10 * DAY));
 };
 
 TEST_F(FeedRecordFileTest, IsReadAsItWasWritten)
@@ -189,7 +189,7 @@ TEST(FeedRecordTest, SerialIsOfVerifiedFeedsOnly)
 {
     FeedRecord record = AfterFeed({}, FEED, SignedFeedOf("5.1", "99"), std::nullopt, At(0));
     EXPECT_EQ(record.serial, 0);
-    record = AfterFeed(record, FEED, "signed", FeedTerms{7, At(0)}, At(0));
+    record = AfterFeed(record, FEED, "signed", FeedValidity{7, At(0)}, At(0));
     EXPECT_EQ(record.serial, 7);
     record = AfterFeed(record, FEED, "not asked to be signed", std::nullopt, At(0));
     EXPECT_EQ(record.serial, 7);
@@ -197,11 +197,11 @@ TEST(FeedRecordTest, SerialIsOfVerifiedFeedsOnly)
 
 TEST(FeedRecordTest, OfTwoProcessesTheHigherSerialIsKept)
 {
-    FeedRecord const lower = AfterFeed({}, FEED, "old", FeedTerms{7, At(0)}, At(20 * DAY));
-    FeedRecord const higher = AfterFeed({}, FEED, "new", FeedTerms{8, At(0)}, At(10 * DAY));
-    FeedRecord const equal = AfterFeed({}, FEED, "also", FeedTerms{7, At(0)}, At(10 * DAY));
+    FeedRecord const lower = AfterFeed({}, FEED, "old", FeedValidity{7, At(0)}, At(20 * DAY));
+    FeedRecord const higher = AfterFeed({}, FEED, "new", FeedValidity{8, At(0)}, At(10 * DAY));
+    FeedRecord const equal = AfterFeed({}, FEED, "also", FeedValidity{7, At(0)}, At(10 * DAY));
     FeedRecord const elsewhere =
-        AfterFeed({}, QUrl(QStringLiteral("https://example.com/other")), "x", FeedTerms{9, At(0)}, At(0));
+        AfterFeed({}, QUrl(QStringLiteral("https://example.com/other")), "x", FeedValidity{9, At(0)}, At(0));
     EXPECT_EQ(FeedRecordToKeep(higher, lower).digest, higher.digest);
     EXPECT_EQ(FeedRecordToKeep(lower, higher).digest, higher.digest);
     EXPECT_EQ(FeedRecordToKeep(equal, lower).digest, lower.digest) << "ours is the later of equals";

@@ -1,5 +1,5 @@
 // SafeTextTest.cpp: which characters are hidden, and that every place that shows others' texts hides them.
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Engine/ui/ServerText.h"

@@ -116,27 +116,27 @@ FeedChannel ChannelOf(QByteArray const& inChannel)
 
 int CauseOfTerms(QByteArray const& inChannel)
 {
-    auto const said = ReadFeedTerms(ChannelOf(inChannel));
+    auto const said = ReadFeedValidity(ChannelOf(inChannel));
     auto const* const error = std::get_if<EngineError>(&said);
     return error ? error->UnderlyingCode() : 0;
 }
 
-TEST(FeedTermsTest, AreReadFromTheChannel)
+TEST(FeedValidityTest, AreReadFromTheChannel)
 {
-    auto const said = ReadFeedTerms(ChannelOf(TermsOf(" 9223372036854775807\n", "\n2027-02-28T23:59:58Z ")));
-    ASSERT_TRUE(std::holds_alternative<FeedTerms>(said));
-    EXPECT_EQ(std::get<FeedTerms>(said).serial, std::numeric_limits<qint64>::max());
-    EXPECT_EQ(std::get<FeedTerms>(said).expires, QDateTime(QDate(2027, 2, 28), QTime(23, 59, 58), Qt::UTC));
+    auto const said = ReadFeedValidity(ChannelOf(TermsOf(" 9223372036854775807\n", "\n2027-02-28T23:59:58Z ")));
+    ASSERT_TRUE(std::holds_alternative<FeedValidity>(said));
+    EXPECT_EQ(std::get<FeedValidity>(said).serial, std::numeric_limits<qint64>::max());
+    EXPECT_EQ(std::get<FeedValidity>(said).expires, QDateTime(QDate(2027, 2, 28), QTime(23, 59, 58), Qt::UTC));
 }
 
-TEST(FeedTermsTest, MayStandBehindTheItemsAndInPieces)
+TEST(FeedValidityTest, MayStandBehindTheItemsAndInPieces)
 {
-    auto const said = ReadFeedTerms(ChannelOf(ItemOf("5.1") + TermsOf("1<!-- -->2<?x?>", FAR_AHEAD)));
-    ASSERT_TRUE(std::holds_alternative<FeedTerms>(said));
-    EXPECT_EQ(std::get<FeedTerms>(said).serial, 12);
+    auto const said = ReadFeedValidity(ChannelOf(ItemOf("5.1") + TermsOf("1<!-- -->2<?x?>", FAR_AHEAD)));
+    ASSERT_TRUE(std::holds_alternative<FeedValidity>(said));
+    EXPECT_EQ(std::get<FeedValidity>(said).serial, 12);
 }
 
-TEST(FeedTermsTest, SerialIsOnePositiveDecimalNumber)
+TEST(FeedValidityTest, SerialIsOnePositiveDecimalNumber)
 {
     for (char const* const serial : {"0", "-1", "+1", "01", "1.0", "1e3", "0x10", "1 2", "", "seven",
                                      "9223372036854775808", "99999999999999999999999", "\xD9\xA1", "<a>1</a>2x",
@@ -148,7 +148,7 @@ TEST(FeedTermsTest, SerialIsOnePositiveDecimalNumber)
     EXPECT_EQ(CauseOfTerms(TermsOf("1", FAR_AHEAD) + TermsOf("1", "")), 760) << "twice";
 }
 
-TEST(FeedTermsTest, ExpiryIsOneMomentOfUniversalTime)
+TEST(FeedValidityTest, ExpiryIsOneMomentOfUniversalTime)
 {
     for (char const* const expires :
          {"", "2027-02-30T00:00:00Z", "2027-13-01T00:00:00Z", "2027-01-01", "2027-01-01T00:00:00",
@@ -160,7 +160,7 @@ TEST(FeedTermsTest, ExpiryIsOneMomentOfUniversalTime)
     EXPECT_EQ(CauseOfTerms(TermsOf("1", FAR_AHEAD) + TermsOf("", FAR_AHEAD)), 761) << "twice";
 }
 
-TEST(FeedTermsTest, CountInTheChannelAndInTheirNamespaceOnly)
+TEST(FeedValidityTest, CountInTheChannelAndInTheirNamespaceOnly)
 {
     QByteArray const terms = TermsOf("1", FAR_AHEAD);
     EXPECT_EQ(CauseOfTerms(terms), 0);
@@ -172,7 +172,7 @@ TEST(FeedTermsTest, CountInTheChannelAndInTheirNamespaceOnly)
     EXPECT_EQ(CauseOfTerms("</channel><other>" + terms + "</other><channel>"), 760);
 }
 
-TEST(FeedTermsTest, ItemsAreReadAsIfTheTermsWereNotThere)
+TEST(FeedValidityTest, ItemsAreReadAsIfTheTermsWereNotThere)
 {
     QByteArray const hidden = TermsOf("1", "").replace(">1<", ">" + ItemOf("5.3") + "<");
     FeedParseResult const result = ParseFeed(FeedWith(ItemOf("5.1") + hidden + ItemOf("5.2")),
@@ -186,22 +186,22 @@ QDateTime At(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
 
-TEST(FeedTermsTest, SerialMayStayAndGrowAndNeverFall)
+TEST(FeedValidityTest, SerialMayStayAndGrowAndNeverFall)
 {
-    FeedTerms const terms{7, At(1000)};
+    FeedValidity const terms{7, At(1000)};
     for (auto const& [floor, cause] : {std::pair<qint64, int>(0, 0), {6, 0}, {7, 0}, {8, 762}})
     {
-        auto const error = JudgeFeedTerms(terms, floor, At(999));
+        auto const error = JudgeFeedValidity(terms, floor, At(999));
         EXPECT_EQ(error ? error->UnderlyingCode() : 0, cause) << floor;
     }
 }
 
-TEST(FeedTermsTest, ExpiryIsTheFirstMomentThatIsTooLate)
+TEST(FeedValidityTest, ExpiryIsTheFirstMomentThatIsTooLate)
 {
-    FeedTerms const terms{7, At(1000)};
-    EXPECT_FALSE(JudgeFeedTerms(terms, 0, At(999)));
-    EXPECT_EQ(JudgeFeedTerms(terms, 0, At(1000))->UnderlyingCode(), 763);
-    EXPECT_EQ(JudgeFeedTerms(terms, 8, At(1000))->UnderlyingCode(), 762) << "older counts first";
+    FeedValidity const terms{7, At(1000)};
+    EXPECT_FALSE(JudgeFeedValidity(terms, 0, At(999)));
+    EXPECT_EQ(JudgeFeedValidity(terms, 0, At(1000))->UnderlyingCode(), 763);
+    EXPECT_EQ(JudgeFeedValidity(terms, 8, At(1000))->UnderlyingCode(), 762) << "older counts first";
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include "Engine/ui/Translations.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/feed/FeedWalker.h"
 #include "Engine/ui/EngineWindow.h"
 #include "tests/engine_ui/WindowsFixture.h"
 #include "tests/support/EveryFault.h"

@@ -105,7 +105,7 @@ def session_records(root):
     for path, text in sources(root):
         if SITE_FILE.search(text):
             files[path] = SITE_FILE.search(text)["path"]
-    table_file = next(file for path, file in files.items() if path.name == "LogSites_p.cpp")
+    table_file = next(file for path, file in files.items() if path.name == "LogSites.cpp")
     for path, text in sources(root):
         for pattern, file in ((TABLE_ROW, table_file), (SINGLE_SITE, files.get(path))):
             for site in pattern.finditer(text):

@@ -68,14 +68,14 @@ void f() { Warn("One " + two); Warn(three + '/' + "four"); }
         self.assertEqual(macro_records(self.root), {("Warning", "One …"), ("Warning", "…/four")})
 
     def test_log_sites(self):
-        self.write("App/LogSites_p.h", """
+        self.write("App/LogSites.h", """
     SITE(FIRST, Progress, 1, "void F()")   \\
     SITE(SECOND, Error, 2,                 \\
          "void G(int)")                    \\
     SITE(THIRD, Warning, 3, "")            \\
     SITE(UNUSED, Error, 4, "")
 """)
-        self.write("App/LogSites_p.cpp", 'Core::LogFile const FILE{"App/Session"};\n')
+        self.write("App/LogSites.cpp", 'Core::LogFile const FILE{"App/Session"};\n')
         self.write("App/C.cpp", """
 Core::LogFile const LOG_FILE("App/C");
 Core::LogSite const OWN{Core::LogSeverity::Error, LOG_FILE, 9, ""};
@@ -100,8 +100,8 @@ void f()
                                                       ("Session", 4, "Error", None)})
 
     def test_a_page_that_differs_is_found(self):
-        self.write("App/LogSites_p.h", 'SITE(FIRST, Error, 1, "")\n')
-        self.write("App/LogSites_p.cpp", 'Core::LogFile const FILE{"App/Session"};\nvoid f() { Write(Sites::FIRST, "a"); }\n')
+        self.write("App/LogSites.h", 'SITE(FIRST, Error, 1, "")\n')
+        self.write("App/LogSites.cpp", 'Core::LogFile const FILE{"App/Session"};\nvoid f() { Write(Sites::FIRST, "a"); }\n')
         self.write("Engine/A.cpp", 'void f() { LOG(INFO) << "b"; }\n')
         site, text = "| Session:1 | Error | `a` | It. | Do. |\n", "| Info | `b` | It. | Do. |\n"
         for page, expected in ((site + text, 0), (site, 1), (text, 1), (site + text + text, 1), (site + text.replace("Info", "Error"), 2),

@@ -32,7 +32,7 @@ protected:
     int m_files = 0;
 };
 
-std::string FailureOf(std::function<void()> const& call)
+std::string CallDelegate(std::function<void()> const& call)
 {
     try
     {
@@ -68,9 +68,9 @@ TEST_F(Settings, MissingKeysAreNamed)
             content += &line == &leftOut ? QByteArray() : line;
         }
         QString const path = Write(content);
-        EXPECT_EQ(FailureOf([&] { ReadCustomization(path); }), path.toStdString() + ": [Application] " +
-                                                                   leftOut.left(leftOut.indexOf('=')).toStdString() +
-                                                                   " is missing");
+        EXPECT_EQ(CallDelegate([&] { ReadCustomization(path); }), path.toStdString() + ": [Application] " +
+                                                                      leftOut.left(leftOut.indexOf('=')).toStdString() +
+                                                                      " is missing");
     }
 }
 
@@ -80,7 +80,7 @@ TEST_F(Settings, AnInvalidVersionIsQuoted)
     {
         QString const path = Write(QByteArray("[Application]\nDisplayName=D\nVersion=") + text +
                                    "\nBundleNameFirstPart=A\nBundleNameSecondPart=B\n");
-        EXPECT_EQ(FailureOf([&] { ReadCustomization(path); }),
+        EXPECT_EQ(CallDelegate([&] { ReadCustomization(path); }),
                   path.toStdString() + ": [Application] Version: \"" + text +
                       "\" is not a version: one to four numbers separated by \".\" are expected");
     }
@@ -89,16 +89,17 @@ TEST_F(Settings, AnInvalidVersionIsQuoted)
 TEST_F(Settings, AFileThatCannotBeReadIsNamed)
 {
     QString const absent = m_folder.filePath(QStringLiteral("absent.ini"));
-    EXPECT_EQ(FailureOf([&] { ReadCustomization(absent); }), "cannot read the settings file " + absent.toStdString());
-    EXPECT_EQ(FailureOf([&] { ReadLinks(absent); }), "cannot read the settings file " + absent.toStdString());
-    EXPECT_EQ(FailureOf([&] { ReadLinks(m_folder.path()); }),
+    EXPECT_EQ(CallDelegate([&] { ReadCustomization(absent); }),
+              "cannot read the settings file " + absent.toStdString());
+    EXPECT_EQ(CallDelegate([&] { ReadLinks(absent); }), "cannot read the settings file " + absent.toStdString());
+    EXPECT_EQ(CallDelegate([&] { ReadLinks(m_folder.path()); }),
               "cannot read the settings file " + m_folder.path().toStdString());
 }
 
 TEST_F(Settings, AMalformedFileIsNamed)
 {
     QString const path = Write("[Application\nDisplayName\n=\n");
-    EXPECT_EQ(FailureOf([&] { ReadLinks(path); }), "the settings file " + path.toStdString() + " is malformed");
+    EXPECT_EQ(CallDelegate([&] { ReadLinks(path); }), "the settings file " + path.toStdString() + " is malformed");
 }
 
 TEST_F(Settings, LinksAnswerTheirKeysAndNothingElse)

@@ -1,6 +1,6 @@
 // RecordingSession.cpp: a session of this build that never lends itself, and prints what is asked of it.
 
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
 
 #include <cstdio>

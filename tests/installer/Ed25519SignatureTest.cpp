@@ -1,4 +1,4 @@
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "tests/installer/Ed25519Vectors.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "tests/installer/EvilArchives.h"
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "tests/installer/InstallerFixture.h"
 

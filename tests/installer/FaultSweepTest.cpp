@@ -1,8 +1,8 @@
 // FaultSweepTest.cpp: kills and failing system calls at every place of the helper's life. The default run takes every
 // seventh place; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Sanitizers.h"
 

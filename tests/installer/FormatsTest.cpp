@@ -1,6 +1,7 @@
 #include "tests/installer/InstallerFixture.h"
 
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/bundle/PayloadKind.h"
+#include "Engine/core/helper/SwapJournal.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // GoodStartTest.cpp: new versions that must tell that they started well, and what becomes of those that do not.
 
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/SwapJournal.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/InstallerFixture.h"
 

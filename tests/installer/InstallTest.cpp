@@ -1,7 +1,7 @@
-#include "Engine/core/payload/FolderSafety.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/SwapJournal.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/helper/FolderSafety.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "Installer/Relaunch.h"
 #include "tests/installer/InstallerFixture.h"
 

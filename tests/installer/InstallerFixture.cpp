@@ -1,6 +1,6 @@
 #include "tests/installer/InstallerFixture.h"
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 
 #include <gtest/gtest.h>
 

@@ -2,9 +2,9 @@
 // Thread: one. Ownership: scope objects; folders and processes end with them.
 #pragma once
 
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "tests/installer/ArchiveForge.h"
 #include "tests/installer/CallTracer.h"
 #include "tests/installer/Ed25519Vectors.h"

@@ -1,5 +1,6 @@
 // InstallerProgramTest.cpp: archives that bring a program which installs the new version by itself.
 
+#include "Engine/core/bundle/PayloadKind.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

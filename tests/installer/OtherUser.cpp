@@ -1,6 +1,6 @@
 #include "tests/installer/OtherUser.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // OutcomeTest.cpp: what is kept of an installation when nobody is there any more to hear of it.
 
-#include "Engine/core/payload/InstallRecord.h"
+#include "Engine/core/helper/InstallRecord.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

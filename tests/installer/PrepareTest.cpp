@@ -1,4 +1,4 @@
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "Installer/Confinement.h"
 #include "tests/installer/InstallerFixture.h"
 

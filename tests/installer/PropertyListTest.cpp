@@ -1,4 +1,4 @@
-#include "Engine/core/payload/PropertyList.h"
+#include "Engine/core/bundle/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // What a program is started with after an update: the arguments that the host gave last, from the file of which the
 // helper knows, beside the folder and the environment of the host.
-#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/helper/RelaunchArguments.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

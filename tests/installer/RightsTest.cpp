@@ -1,6 +1,6 @@
 // RightsTest.cpp: who may use the application after an update, and what its program finds when it is started again.
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/InstallerFixture.h"
 

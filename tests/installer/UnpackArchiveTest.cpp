@@ -1,6 +1,6 @@
-#include "Engine/core/unpack/UnpackArchive.h"
+#include "Engine/core/archive/UnpackArchive.h"
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/InstallerFixture.h"
 

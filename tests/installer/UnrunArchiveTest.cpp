@@ -1,6 +1,7 @@
 // UnrunArchiveTest.cpp: an archive full of programs that would leave a trace. None of them runs before the archive is
 // verified, the installed bundle has allowed it and the host has ended; then the one runs that the archive names.
 
+#include "Engine/core/bundle/PayloadKind.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

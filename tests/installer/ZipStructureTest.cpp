@@ -1,6 +1,6 @@
-#include "Engine/core/payload/ZipStructure.h"
+#include "Engine/core/archive/ZipStructure.h"
 
-#include "Engine/core/payload/ArchiveEntryPolicy.h"
+#include "Engine/core/archive/ArchiveEntryRules.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>

@@ -24,12 +24,42 @@ LAYERS = {
     "Foundation": set(),
     "Settings": {"Engine/core", "Foundation", "common"},
     "Engine/include": set(),
-    "Engine/core": {"Engine/include"},
+    # The rooms of the engine's core: each knows those above it in this list that it names.
+    "Engine/core/base": set(),
+    "Engine/core/faults": {"Engine/core/base"},
+    "Engine/core/notes": {"Engine/core/base"},
+    "Engine/core/bundle": {"Engine/core/base", "Engine/core/faults"},
+    "Engine/core/archive": {"Engine/core/base", "Engine/core/faults"},
+    "Engine/core/delta": {"Engine/core/archive", "Engine/core/base", "Engine/core/faults"},
+    "Engine/core/helper": {"Engine/core/base", "Engine/core/bundle", "Engine/core/faults", "common"},
+    "Engine/core/fetch": {"Engine/core/base", "Engine/core/faults"},
+    "Engine/core/feed": {"Engine/core/base", "Engine/core/bundle", "Engine/core/faults"},
+    "Engine/core/download": {"Engine/core/base", "Engine/core/faults", "Engine/core/fetch", "Engine/core/helper"},
+    "Engine/core/check": {
+        "Engine/core/base",
+        "Engine/core/bundle",
+        "Engine/core/faults",
+        "Engine/core/feed",
+        "Engine/core/fetch",
+        "Engine/core/helper",
+    },
+    "Engine/core/update": {
+        "Engine/core/archive",
+        "Engine/core/base",
+        "Engine/core/bundle",
+        "Engine/core/check",
+        "Engine/core/download",
+        "Engine/core/faults",
+        "Engine/core/feed",
+        "Engine/core/fetch",
+        "Engine/core/helper",
+        "Engine/core/notes",
+    },
     "Engine/objc": {"Engine/core", "Engine/include", "Engine/ui", "Foundation", "Settings", "common"},
     "Engine/ui": {"Engine/core"},
     "Installer": {"Engine/core"},
     "Publisher": {
-        "App/UpdateChecker/SparkleImpl/SparkleManager",
+        "App/UpdateChecker/SparkleImpl/Choice",
         "Engine/core",
         "HostFramework",
         "common",
@@ -44,12 +74,15 @@ LAYERS = {
     },
     "App/UpdateChecker/SparkleImpl/UpdaterSparkle": {
         "App/UpdateChecker",
+        "App/UpdateChecker/SparkleImpl/Choice",
         "App/UpdateChecker/SparkleImpl/SessionLibrary",
         "App/UpdateChecker/SparkleImpl/SparkleManager",
         "HostFramework",
         "common",
     },
+    "App/UpdateChecker/SparkleImpl/Choice": {"HostFramework", "common"},
     "App/UpdateChecker/SparkleImpl/SparkleManager": {
+        "App/UpdateChecker/SparkleImpl/Choice",
         "App/UpdateChecker/SparkleImpl/UpdaterSparkle",
         "Foundation",
         "HostFramework",
@@ -66,32 +99,21 @@ BACK_END_INTERFACE = {
     "App/UpdateChecker/AbstractUpdaterImpl.h",
     "App/UpdateChecker/UpdateCheckResult.h",
 }
-# Of the session, the publisher's tool knows the decisions, which ask nobody and change nothing.
-SESSION_DECISIONS = {
-    f"{SESSION}/{name}_p.h"
-    for name in (
-        "AppcastJudgement",
-        "CallbackRules",
-        "Extensions",
-        "ItemRecord",
-        "LogSites",
-        "SessionState",
-        "TextPrefilters",
-        "UpdateType",
-        "VersionOperators",
-        "VersionText",
-    )
-}
 # Of the engine's windows, the update checker has the translations, for what it says without the engine.
 SESSION_LIBRARY = "App/UpdateChecker/SparkleImpl/SessionLibrary"
 TRANSLATIONS = "Engine/ui/Translations.h"
 # An error's header brings sentences along, and no parser.
 FAULTS = "Engine/core/faults/"
-BELOW_FAULTS = {"Engine/core/SafeText.h", "Engine/core/Sentence.h"}
+BELOW_FAULTS = {"Engine/core/base/SafeText.h", "Engine/core/faults/Sentence.h"}
 FRAMEWORK_READERS = (SESSION, "Engine/")
 PRODUCT_FOLDERS = ("App/", "common/", "HostFramework/", "Foundation/", "Engine/", "Installer/", "Publisher/", "Demo/", "Settings/")
 
 INCLUDE = re.compile(r'^\s*#\s*(?:include|import)\s+["<]([^">]+)[">]')
+
+
+def may_include(layer, target):
+    """The allowed targets may be named by a folder that holds them."""
+    return any(target == allowed or target.startswith(allowed + "/") for allowed in LAYERS[layer])
 
 
 def layer_of(path):
@@ -109,6 +131,8 @@ def check_include(path, header, root):
         return None
     if layer is None or not (root / header).exists():
         return None
+    if header.endswith("_p.h") and pathlib.PurePosixPath(header).parent != pathlib.PurePosixPath(path).parent:
+        return f"{header} is private to its folder"
     target = layer_of(header)
     if target is None:
         return f"{layer} may not include {header}"
@@ -116,14 +140,12 @@ def check_include(path, header, root):
         return "of the engine, the faults may include their sentences and the text made safe to show only"
     if target == layer:
         return None
-    if target not in LAYERS[layer]:
+    if not may_include(layer, target):
         return f"{layer} may not include {header}"
     if layer == SESSION and target == BACK_END and header != LENT_RECORD:
         return f"of the back end, the session may include {LENT_RECORD} only"
     if layer == SESSION_LIBRARY and target == "Engine/ui" and header != TRANSLATIONS:
         return f"of the engine, the update checker may include {TRANSLATIONS} only"
-    if layer == "Publisher" and target == SESSION and header not in SESSION_DECISIONS:
-        return "of the session, the publisher's tool may include its pure decisions only"
     if layer == BACK_END and target == "App/UpdateChecker" and header not in BACK_END_INTERFACE:
         return "of the front, the back end may include the updater interface only"
     return None
@@ -171,9 +193,9 @@ LINE_RULES = [
     ),
     (
         "hidden-characters",
-        lambda p: p.startswith(PRODUCT_FOLDERS) and p != "Engine/core/SafeText.cpp",
+        lambda p: p.startswith(PRODUCT_FOLDERS) and p != "Engine/core/base/SafeText.cpp",
         re.compile(r"[<>]=?\s*0x(?:200|20[26]|E00)[0-9A-Fa-f]+|\bOther_Format\b", re.IGNORECASE),
-        "which characters are hidden is decided in Engine/core/SafeText.cpp only",
+        "which characters are hidden is decided in Engine/core/base/SafeText.cpp only",
     ),
     (
         "switch-default",
@@ -306,7 +328,7 @@ def self_test():
     forbidden = [
         ("layers", "common/X.cpp", '#include "HostFramework/Version.h"'),
         ("layers", "HostFramework/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
-        ("layers", "Engine/core/X.cpp", '#include "Foundation/Retained.h"'),
+        ("layers", "Engine/core/update/X.cpp", '#include "Foundation/Retained.h"'),
         ("layers", "Engine/objc/X.mm", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "Engine/objc/X.mm", '#include "HostFramework/Version.h"'),
         ("layers", "App/UpdateChecker/X.cpp", '#include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"'),
@@ -319,9 +341,13 @@ def self_test():
         ("layers", SESSION_LIBRARY + "/X.cpp", '#include "Engine/core/faults/EngineError.h"'),
         ("layers", FAULTS + "X.h", '#include "Engine/core/feed/FeedParser.h"'),
         ("layers", "Publisher/X.cpp", f'#include "{SESSION}/SparkleManager.h"'),
+        ("layers", "Publisher/X.cpp", '#include "Engine/core/update/SealedMemory_p.h"'),
+        ("layers", "Engine/core/base/X.cpp", '#include "Engine/core/faults/UpdateFault.h"'),
+        ("layers", "Engine/core/helper/X.cpp", '#include "Engine/core/delta/DeltaApplier.h"'),
+        ("layers", "Engine/core/fetch/X.cpp", '#include "Engine/core/update/UpdateRun.h"'),
         ("layers", "Publisher/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("layers", "Publisher/X.cpp", '#include "Engine/ui/UpdateWindow.h"'),
-        ("layers", "Engine/core/X.cpp", '#include "tests/support/LogCapture.h"'),
+        ("layers", "Engine/core/update/X.cpp", '#include "tests/support/LogCapture.h"'),
         ("catch-in-objective-c++", SESSION + "/X.mm", "    catch (...)"),
         ("try-outside-helper", "Engine/objc/X.mm", "    @try"),
         ("compiler-made-log-site", "App/UpdateChecker/X.cpp", 'LOG(ERROR) << "x";'),
@@ -351,7 +377,7 @@ def self_test():
         (SESSION + "/X.mm", f'#include "{LENT_RECORD}"'),
         (BACK_END + "/X.cpp", '#include "App/UpdateChecker/AbstractUpdaterImpl.h"'),
         (SESSION_LIBRARY + "/X.cpp", f'#include "{TRANSLATIONS}"'),
-        ("Publisher/X.cpp", f'#include "{SESSION}/AppcastJudgement_p.h"'),
+        ("Publisher/X.cpp", f'#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"'),
         ("tests/app/X.cpp", '#include "App/UpdateChecker/UpdateManager.h"'),
         ("Foundation/RaisedException.mm", "    @catch (NSException* exception)"),
         (SESSION + "/X.mm", "    // a catch (here) would end the process"),

@@ -2,8 +2,8 @@
 // Thread: the Qt main thread. Every function acts on the process's one session.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/SessionState.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 
 #include <QVariantMap>
 

@@ -1,6 +1,6 @@
 // FeedReachTest.cpp: what a feed may name depends on where the feed itself came from.
 #include "Engine/core/update/UpdateFlow.h"
-#include "Engine/core/update/UpdatePlan.h"
+#include "Engine/core/update/UpdateRules.h"
 #include "tests/engine/FeedText.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/LoopbackServer.h"

@@ -143,7 +143,7 @@ TEST_F(FeedTrustFlow, WhereNothingIsAskedForTheSignatureAndTheTermsChangeNothing
 {
     QByteArray const plain = FeedWith(ItemOf("5.1"));
     settings.check.feedRecord = AfterFeed({}, QUrl::fromLocalFile(folder.filePath(QStringLiteral("feed.xml"))), "",
-                                          FeedTerms{100, parts.now}, parts.now);
+                                          FeedValidity{100, parts.now}, parts.now);
     EXPECT_EQ(Check(plain), found);
     QByteArray const block = BlockOf(SignatureOfFeed("something else"));
     for (QByteArray const& feed :

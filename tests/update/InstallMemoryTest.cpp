@@ -1,7 +1,7 @@
 // InstallMemoryTest.cpp: what one start of an application leaves of an installation for the next.
 #include "Engine/core/update/InstallMemory.h"
 
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
 #include "tests/support/LogCapture.h"
 

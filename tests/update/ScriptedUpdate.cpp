@@ -64,7 +64,7 @@ void ScriptedHost::TellAborted(EngineError const& told)
     Note("aborted " + std::to_string(static_cast<int>(told.code)));
 }
 
-void ScriptedHost::TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& install)
+void ScriptedHost::TellWillInstallOnQuit(ItemIndex const& place, std::function<void(RelaunchWish)> const& install)
 {
     installNow = install;
     Note(place.delta ? "will install delta on quit" : "will install on quit");
@@ -74,7 +74,7 @@ void ScriptedHost::TellWillInstallOnQuit(ItemPlace const& place, std::function<v
     }
 }
 
-void ScriptedHost::TellCancelledInstallOnQuit(ItemPlace const& place)
+void ScriptedHost::TellCancelledInstallOnQuit(ItemIndex const& place)
 {
     Note(place.delta ? "cancelled delta" : "cancelled");
 }

@@ -3,8 +3,8 @@
 // Thread: main. Ownership: scope objects of the fixture.
 #pragma once
 
+#include "Engine/core/update/IUpdateEnvironment.h"
 #include "Engine/core/update/IUpdateHost.h"
-#include "Engine/core/update/IUpdateParts.h"
 #include "Engine/core/update/IUserInterface.h"
 #include "Engine/core/update/UpdateSettings.h"
 #include "tests/support/TestApplication.h"
@@ -40,9 +40,9 @@ public:
     void TellNotFound() override { Note("not found"); }
     void TellAborted(Engine::EngineError const& error) override;
     void CheckEnded() override { Note("check ended"); }
-    void TellWillInstallOnQuit(Engine::ItemPlace const& place,
+    void TellWillInstallOnQuit(Engine::ItemIndex const& place,
                                std::function<void(Engine::RelaunchWish)> const& installNow) override;
-    void TellCancelledInstallOnQuit(Engine::ItemPlace const& place) override;
+    void TellCancelledInstallOnQuit(Engine::ItemIndex const& place) override;
     Engine::RelaunchAnswer ShouldRelaunch() override;
     QString PathToRelaunch() override;
     void TellWillRelaunch() override { Note("will relaunch"); }
@@ -118,7 +118,7 @@ private:
 
 class ScriptedHelper;
 
-class ScriptedParts final : public Engine::IUpdateParts
+class ScriptedParts final : public Engine::IUpdateEnvironment
 {
 public:
     /// Installed bundles are folders of \a applications.

@@ -1,5 +1,6 @@
 // UpdateRunFailureTest.cpp: what an update does about everything that can go wrong on its way, and about being
 // destroyed.
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/faults/EngineError.h"
 #include "tests/update/UpdateRunFixture.h"
 

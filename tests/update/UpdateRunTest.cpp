@@ -1,5 +1,6 @@
 // UpdateRunTest.cpp: the course of an update that goes well, or that somebody decides against.
-#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/bundle/PayloadKind.h"
+#include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/update/KeptArguments.h"
 #include "tests/update/UpdateRunFixture.h"
 

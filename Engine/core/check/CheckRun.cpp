@@ -121,13 +121,13 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 
     std::optional<EngineError> error;
     std::optional<FoundUpdate> found;
-    std::optional<EngineError> const failure = FailureOf("the choice of an update",
-                                                         [this, &found, &error]
-                                                         {
-                                                             ApplyPolicy();
-                                                             m_host.FeedLoaded(m_items);
-                                                             found = Choose(error);
-                                                         });
+    std::optional<EngineError> const failure = CallDelegate("the choice of an update",
+                                                            [this, &found, &error]
+                                                            {
+                                                                ApplyPolicy();
+                                                                m_host.FeedLoaded(m_items);
+                                                                found = Choose(error);
+                                                            });
     if (failure || error)
     {
         Abort(failure ? *failure : *error);
@@ -170,7 +170,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         // Many pages begin with a declaration that would otherwise be reported as another error.
         return BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error);
     }
-    std::optional<FeedTerms> terms;
+    std::optional<FeedValidity> terms;
     if (mustBeSigned)
     {
         auto judged = JudgeTerms(outcome, result.channel, now);
@@ -178,7 +178,7 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
         {
             return *error;
         }
-        terms = std::get<FeedTerms>(std::move(judged));
+        terms = std::get<FeedValidity>(std::move(judged));
     }
     m_items = std::move(result.items);
     m_feedReach = outcome.reach;
@@ -192,16 +192,16 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
     return std::nullopt;
 }
 
-std::variant<FeedTerms, EngineError> CheckRun::JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
-                                                          QDateTime const& now) const
+std::variant<FeedValidity, EngineError> CheckRun::JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                                             QDateTime const& now) const
 {
-    auto said = ReadFeedTerms(channel);
+    auto said = ReadFeedValidity(channel);
     if (std::holds_alternative<EngineError>(said))
     {
         return said;
     }
-    FeedTerms& terms = std::get<FeedTerms>(said);
-    if (auto const error = JudgeFeedTerms(terms, m_settings.feedRecord.serial, now))
+    FeedValidity& terms = std::get<FeedValidity>(said);
+    if (auto const error = JudgeFeedValidity(terms, m_settings.feedRecord.serial, now))
     {
         return *error;
     }
@@ -225,7 +225,7 @@ void CheckRun::KeepFeed(FetchOutcome const& outcome)
     m_settings.feedStore->Keep(std::move(feed));
 }
 
-void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now)
+void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedValidity> const& terms, QDateTime const& now)
 {
     FeedRecord const record = AfterFeed(m_settings.feedRecord, m_settings.feedUrl, bytes, terms, now);
     int const days = UnchangedDays(record);
@@ -233,7 +233,7 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedTerms> const&
         << "The update feed has not changed for " << days
         << " days: unless nothing was published, newer ones do not get through to this computer";
     // A failure to store this must not prevent an update.
-    (void)FailureOf("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
+    (void)CallDelegate("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
 }
 
 void CheckRun::ApplyPolicy()
@@ -258,7 +258,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
 {
     VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
     BestItemAnswer answer = m_host.AskForBestItem();
-    std::optional<ItemPlace> fallback;
+    std::optional<ItemIndex> fallback;
     if (answer.kind == BestItemAnswer::Kind::Place && answer.place.delta)
     {
         // The full item as the fallback: requested once, with any answer. The delta remains the offer.
@@ -313,7 +313,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     return FoundUpdate{answer.place, isSameVersion ? fallback : std::nullopt, m_feedReach, m_keys.keys};
 }
 
-FeedItem const& CheckRun::At(ItemPlace const& place) const
+FeedItem const& CheckRun::At(ItemIndex const& place) const
 {
     FeedItem const& item = m_items.at(static_cast<size_t>(place.item));
     return place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item;
@@ -322,8 +322,8 @@ FeedItem const& CheckRun::At(ItemPlace const& place) const
 void CheckRun::Tell(std::optional<FoundUpdate> const& found)
 {
     std::optional<EngineError> const failure =
-        found ? FailureOf("updater:didFindValidUpdate:", [this, &found] { m_host.TellFound(*found); })
-              : FailureOf("updaterDidNotFindUpdate:", [this] { m_host.TellNotFound(); });
+        found ? CallDelegate("updater:didFindValidUpdate:", [this, &found] { m_host.TellFound(*found); })
+              : CallDelegate("updaterDidNotFindUpdate:", [this] { m_host.TellNotFound(); });
     if (failure)
     {
         Abort(*failure);
@@ -338,7 +338,7 @@ void CheckRun::Tell(std::optional<FoundUpdate> const& found)
 void CheckRun::Abort(EngineError const& error)
 {
     // The report was attempted; the check ends in any case.
-    (void)FailureOf("updater:didAbortWithError:", [this, &error] { m_host.TellAborted(error); });
+    (void)CallDelegate("updater:didAbortWithError:", [this, &error] { m_host.TellAborted(error); });
 }
 
 } // namespace Pelnar::Engine

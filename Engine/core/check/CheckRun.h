@@ -3,7 +3,7 @@
 // fetch and the items.
 #pragma once
 
-#include "Engine/core/check/CheckPolicy.h"
+#include "Engine/core/check/CheckRules.h"
 #include "Engine/core/check/FeedRecord.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/IFeedStore.h"
@@ -48,7 +48,7 @@ struct CheckSettings
 };
 
 /// An item of the loaded feed, or a delta of one.
-struct ItemPlace
+struct ItemIndex
 {
     int item = 0;
     std::optional<int> delta;
@@ -57,8 +57,8 @@ struct ItemPlace
 /// The result of a check.
 struct FoundUpdate
 {
-    ItemPlace place;
-    std::optional<ItemPlace> fallback; ///< for a delta: the full item of the same version, if the application gave one
+    ItemIndex place;
+    std::optional<ItemIndex> fallback; ///< for a delta: the full item of the same version, if the application gave one
     AddressReach feedReach = AddressReach::Network; ///< of the place that the feed came from
     TrustedKeys publicKeys;                         ///< with which its downloads are verified
 };
@@ -74,7 +74,7 @@ struct BestItemAnswer
         NotAsked, ///< the application leaves the choice to the engine
     };
     Kind kind = Kind::None;
-    ItemPlace place;
+    ItemIndex place;
 };
 
 /// The updater as a check sees it. An exception of an operation counts as a failure of the application.
@@ -120,16 +120,16 @@ private:
     /// The fetched items become the run's; otherwise an error says why.
     std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
     /// The terms of a feed that must be signed, or why it is refused.
-    std::variant<FeedTerms, EngineError> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
-                                                    QDateTime const& now) const;
+    std::variant<FeedValidity, EngineError> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                                       QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
-    void Remember(QByteArray const& bytes, std::optional<FeedTerms> const& terms, QDateTime const& now);
+    void Remember(QByteArray const& bytes, std::optional<FeedValidity> const& terms, QDateTime const& now);
     /// Removes the items that are not for this installation.
     void ApplyPolicy();
     /// Asks the host and judges its answer. Returns the update to offer, or nothing; sets an error if the answer is
     /// unusable.
     std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
-    FeedItem const& At(ItemPlace const& place) const;
+    FeedItem const& At(ItemIndex const& place) const;
     void Tell(std::optional<FoundUpdate> const& found);
     void Abort(EngineError const& error);
 

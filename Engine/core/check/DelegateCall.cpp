@@ -7,7 +7,7 @@
 namespace Pelnar::Engine
 {
 
-std::optional<EngineError> FailureOf(char const* what, std::function<void()> const& call)
+std::optional<EngineError> CallDelegate(char const* what, std::function<void()> const& call)
 {
     QString reason;
     try

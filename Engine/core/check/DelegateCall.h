@@ -12,6 +12,6 @@ namespace Pelnar::Engine
 
 /// Runs \a call, which asks or notifies the application; \a what is its name in the log. Returns the error for an
 /// exception, or nothing.
-[[nodiscard]] std::optional<EngineError> FailureOf(char const* what, std::function<void()> const& call);
+[[nodiscard]] std::optional<EngineError> CallDelegate(char const* what, std::function<void()> const& call);
 
 } // namespace Pelnar::Engine

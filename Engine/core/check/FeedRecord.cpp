@@ -31,7 +31,7 @@ FeedRecord UnderKeys(FeedRecord record, BelievedKeys const& keys)
 }
 
 FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
-                     std::optional<FeedTerms> const& terms, QDateTime const& now)
+                     std::optional<FeedValidity> const& terms, QDateTime const& now)
 {
     FeedRecord after;
     after.address = AddressOf(url);

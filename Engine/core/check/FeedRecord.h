@@ -35,7 +35,7 @@ constexpr int STALE_FEED_DAYS = 180;
 
 /// \a record after \a bytes, a readable feed, arrived from \a url. \a terms are those of a verified feed.
 [[nodiscard]] FeedRecord AfterFeed(FeedRecord const& record, QUrl const& url, QByteArray const& bytes,
-                                   std::optional<FeedTerms> const& terms, QDateTime const& now);
+                                   std::optional<FeedValidity> const& terms, QDateTime const& now);
 
 /// Merges \a ours, the record after this process's check, with \a stored, which another process of the application may
 /// have written during the check. For the same address the one with the higher serial is kept, otherwise ours, with the

@@ -1,9 +1,9 @@
 #include "Engine/core/check/FeedRecordFile.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/base/FieldCodec.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/payload/FieldCodec_p.h"
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/SignedFeed.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <algorithm>
 
@@ -94,9 +94,9 @@ std::string FeedSigner(QByteArray const& feed, TrustedKeys const& keys)
     return signer == keys.Texts().end() ? std::string() : KeyIdOf(*signer);
 }
 
-std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
+std::variant<FeedValidity, EngineError> ReadFeedValidity(FeedChannel const& channel)
 {
-    FeedTerms terms;
+    FeedValidity terms;
     terms.serial = channel.serials.size() == 1 ? FeedSerial(channel.serials.front()) : 0;
     if (terms.serial == 0)
     {
@@ -110,7 +110,7 @@ std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel)
     return terms;
 }
 
-std::optional<EngineError> JudgeFeedTerms(FeedTerms const& terms, qint64 floor, QDateTime const& now)
+std::optional<EngineError> JudgeFeedValidity(FeedValidity const& terms, qint64 floor, QDateTime const& now)
 {
     if (terms.serial < floor)
     {

@@ -1,9 +1,9 @@
 // FeedTrust.h: whether a feed that must be signed is accepted. Pure functions.
 #pragma once
 
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/payload/TrustedKeys.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -23,7 +23,7 @@ enum class FeedSigning
 };
 
 /// The serial and expiry date of a signed feed.
-struct FeedTerms
+struct FeedValidity
 {
     qint64 serial = 0;       ///< from 1; grows with every signed feed
     QDateTime expires;       ///< from then on the feed is refused
@@ -45,10 +45,11 @@ struct FeedTerms
 
 /// The terms in \a channel, or why a client that requires signed feeds refuses it: each must appear once and be
 /// readable.
-[[nodiscard]] std::variant<FeedTerms, EngineError> ReadFeedTerms(FeedChannel const& channel);
+[[nodiscard]] std::variant<FeedValidity, EngineError> ReadFeedValidity(FeedChannel const& channel);
 
 /// Why a verified feed is refused: it is older than the feed with the serial \a floor (0 if there was none), or has
 /// expired at \a now.
-[[nodiscard]] std::optional<EngineError> JudgeFeedTerms(FeedTerms const& terms, qint64 floor, QDateTime const& now);
+[[nodiscard]] std::optional<EngineError> JudgeFeedValidity(FeedValidity const& terms, qint64 floor,
+                                                           QDateTime const& now);
 
 } // namespace Pelnar::Engine

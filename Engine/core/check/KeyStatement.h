@@ -2,8 +2,8 @@
 // functions; no byte is parsed as XML.
 #pragma once
 
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/payload/TrustedKeys.h"
 
 #include <QByteArray>
 #include <QDateTime>

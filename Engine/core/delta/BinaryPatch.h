@@ -5,6 +5,8 @@
 // that moved a little differs in few bytes and by small numbers, which compress well.
 #pragma once
 
+#include "Engine/core/base/Bytes.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -16,9 +18,6 @@
 
 namespace Pelnar::Engine
 {
-
-using Bytes = std::basic_string_view<std::uint8_t>;
-using ByteBuffer = std::vector<std::uint8_t>;
 
 /// The streams of a patch. Numbers are variable: seven bits a byte, lowest first, the high bit set on all but the last.
 enum class PatchStream : std::uint8_t

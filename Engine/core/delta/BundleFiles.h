@@ -2,9 +2,9 @@
 // Thread: one at a time. Ownership: the folders' descriptors stay the caller's.
 #pragma once
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
+#include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/delta/DeltaContainer.h"
-#include "Engine/core/delta/TreeAccess.h"
 
 #include <array>
 #include <cstdint>

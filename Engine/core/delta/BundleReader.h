@@ -3,8 +3,9 @@
 // publisher trusts.
 #pragma once
 
-#include "Engine/core/delta/ContentHasher.h"
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/ContentHasher.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/delta/DeltaManifest.h"
 
 #include <filesystem>
 #include <map>

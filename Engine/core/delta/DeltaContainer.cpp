@@ -1,7 +1,7 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/StreamUnpacker.h"
-#include "Engine/core/delta/TreeAccess.h"
 
 #include <sys/stat.h>
 #include <unistd.h>

@@ -30,16 +30,16 @@ public:
     };
 
     Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, Manner manner)
-        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_manner(manner)
+        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_mode(manner)
     {
     }
 
     /// Completes the manifest, and answers the data that go with it.
     ByteBuffer Make()
     {
-        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_manner.effort);
+        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_mode.effort);
         std::vector<UnitSteps> steps =
-            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_manner.progress);
+            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_mode.progress);
         SearchPlainly(units, steps);
         AddKeptFiles();
         DeltaUnit whole;
@@ -144,7 +144,7 @@ private:
             }
         }
         std::vector<UnitSteps> const found =
-            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_manner.progress);
+            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_mode.progress);
         for (std::size_t i = 0; i < numbers.size(); ++i)
         {
             steps[numbers[i]] = found[i];
@@ -194,7 +194,7 @@ private:
                 std::size_t const number = PATCH_STREAMS - 1 - i;
                 ByteBuffer const& plain = patch.streams[number];
                 packed[number] = PackStream(Bytes(plain.data(), plain.size()),
-                                            WindowLogOf(static_cast<PatchStream>(number)), m_manner.effort);
+                                            WindowLogOf(static_cast<PatchStream>(number)), m_mode.effort);
             },
             [] {});
         ByteBuffer data;
@@ -209,7 +209,7 @@ private:
     fs::path m_newFolder;
     OldVersion const& m_old;
     DeltaManifest& m_manifest;
-    Manner m_manner;
+    Manner m_mode;
     PatchWriter m_writer;
     ContentHasher m_baseHashes;
     ContentHasher m_targetHashes;

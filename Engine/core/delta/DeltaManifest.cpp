@@ -139,7 +139,7 @@ ArchiveEntryType TypeOf(DeltaEntryKind kind)
 }
 
 /// Judges \a entry as an archive's, below ROOT.
-UpdateFault Admit(ArchiveEntryPolicy& policy, DeltaEntry const& entry)
+UpdateFault Admit(ArchiveEntryRules& policy, DeltaEntry const& entry)
 {
     ArchiveEntry admitted;
     admitted.path = std::string(ROOT) + '/' + entry.path;
@@ -238,7 +238,7 @@ DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits,
 
 DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimits const& limits)
 {
-    ArchiveEntryPolicy policy(limits.tree);
+    ArchiveEntryRules policy(limits.tree);
     ArchiveEntry root;
     root.path = ROOT;
     root.type = ArchiveEntryType::Folder;

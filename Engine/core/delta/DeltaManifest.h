@@ -2,8 +2,9 @@
 // Thread: any; no state. Ownership: values only. The format is described in docs/formats/delta.md.
 #pragma once
 
+#include "Engine/core/archive/ArchiveEntryRules.h"
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/delta/BinaryPatch.h"
-#include "Engine/core/payload/ArchiveEntryPolicy.h"
 
 #include <array>
 #include <cstdint>
@@ -12,8 +13,6 @@
 
 namespace Pelnar::Engine
 {
-
-using ContentHash = std::array<std::uint8_t, 32>;
 
 enum class DeltaEntryKind : std::uint8_t
 {

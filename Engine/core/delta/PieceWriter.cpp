@@ -1,6 +1,6 @@
 #include "Engine/core/delta/PieceWriter.h"
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <cerrno>
 #include <system_error>

@@ -2,7 +2,7 @@
 // Thread: one at a time uses it. Ownership: its thread; descriptors and pieces stay the caller's.
 #pragma once
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
 
 #include <condition_variable>
 #include <mutex>

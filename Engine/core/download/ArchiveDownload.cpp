@@ -254,11 +254,11 @@ private:
         m_rate = TransferRate();
     }
 
-    BodyRoom Room() override { return m_writer->Room(); }
-    void Rest() override { m_writer->Flush(); }
-    void Took(qint64 bytes) override
+    BodyBuffer Buffer() override { return m_writer->Buffer(); }
+    void Idle() override { m_writer->Flush(); }
+    void Commit(qint64 bytes) override
     {
-        m_writer->Took(bytes);
+        m_writer->Commit(bytes);
         m_partial.bytes += static_cast<quint64>(bytes);
         m_spent.receivedBytes += static_cast<quint64>(bytes);
         m_hasReceived = true;
@@ -417,7 +417,7 @@ private:
     PartialArchive m_partial; ///< including the bytes that wait to be written
     std::unique_ptr<HttpTransfer> m_transfer;
     FetchRequest m_sent;
-    std::optional<ResumeDecision> m_decision; ///< none while there is no answer, or only a redirect
+    std::optional<ResumeRules> m_decision; ///< none while there is no answer, or only a redirect
     int m_redirects = 0;
     int m_resumes = 0;        ///< since the last worthwhile connection
     qint64 m_sinceResume = 0; ///< bytes of this connection

@@ -4,9 +4,9 @@
 // the bytes on the disk for the next one; no callback follows.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <QString>
 #include <QUrl>

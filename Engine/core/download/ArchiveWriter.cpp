@@ -1,6 +1,6 @@
 #include "Engine/core/download/ArchiveWriter.h"
 
-#include "Engine/core/SignalBlock.h"
+#include "Engine/core/base/SignalBlock.h"
 
 #include <QObject>
 
@@ -154,7 +154,7 @@ public:
         Add(Ending::GoesOn, &PartialFile::SyncFolder);
     }
 
-    BodyRoom Room()
+    BodyBuffer Buffer()
     {
         if (!m_current)
         {
@@ -171,7 +171,7 @@ public:
         return {m_state->buffers[*m_current].data() + m_filled, static_cast<qint64>(BUFFER_BYTES - m_filled)};
     }
 
-    void Took(qint64 bytes)
+    void Commit(qint64 bytes)
     {
         m_filled += static_cast<std::size_t>(bytes);
         if (m_filled == BUFFER_BYTES)
@@ -270,14 +270,14 @@ void ArchiveWriter::Open()
     m_impl->Start();
 }
 
-BodyRoom ArchiveWriter::Room()
+BodyBuffer ArchiveWriter::Buffer()
 {
-    return m_impl->Room();
+    return m_impl->Buffer();
 }
 
-void ArchiveWriter::Took(qint64 bytes)
+void ArchiveWriter::Commit(qint64 bytes)
 {
-    m_impl->Took(bytes);
+    m_impl->Commit(bytes);
 }
 
 void ArchiveWriter::Flush()

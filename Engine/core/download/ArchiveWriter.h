@@ -17,7 +17,7 @@ namespace Pelnar::Engine
 struct ArchiveWriterEvents
 {
     std::function<void(PartialArchive const&, DownloadSpending const&)> opened;
-    std::function<void()> roomMade; ///< after Room() returned an empty buffer
+    std::function<void()> roomMade; ///< after Buffer() returned an empty buffer
     std::function<void(UniqueFd)> finished;
     std::function<void(EngineError const&)> failed; ///< the last callback
 };
@@ -31,8 +31,8 @@ public:
     ArchiveWriter& operator=(ArchiveWriter const&) = delete;
 
     void Open();
-    BodyRoom Room();
-    void Took(qint64 bytes);
+    BodyBuffer Buffer();
+    void Commit(qint64 bytes);
     /// Writes the taken bytes even if their buffer is not full.
     void Flush();
     void Restart(Validators const& validators);

@@ -1,7 +1,7 @@
 #include "Engine/core/download/DownloadFolder_p.h"
 
 #include "Engine/core/download/DownloadBudget.h"
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 
 #include <QDir>
 #include <QFile>

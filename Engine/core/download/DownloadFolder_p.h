@@ -3,7 +3,7 @@
 // Thread: any; no state. Ownership: callers own their descriptors.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/faults/Result.h"
 
 #include <cerrno>

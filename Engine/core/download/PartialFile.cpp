@@ -2,7 +2,7 @@
 
 #include "Engine/core/download/DownloadFolder_p.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -3,7 +3,7 @@
 // Thread: one at a time. Ownership: its descriptors, except the one that Finish() hands over.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/download/PartialRecord.h"
 #include "Engine/core/faults/EngineError.h"
 

@@ -1,6 +1,6 @@
 #include "Engine/core/download/PartialRecord.h"
 
-#include "Engine/core/payload/FieldCodec_p.h"
+#include "Engine/core/base/FieldCodec.h"
 
 #include <algorithm>
 

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/download/DownloadBudget.h"
-#include "Engine/core/download/ResumeDecision.h"
+#include "Engine/core/download/ResumeRules.h"
 
 #include <cstdint>
 #include <optional>

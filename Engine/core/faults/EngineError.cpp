@@ -1,6 +1,6 @@
 #include "Engine/core/faults/EngineError.h"
 
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 
 namespace Pelnar::Engine
 {

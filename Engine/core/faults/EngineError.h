@@ -3,8 +3,8 @@
 // Thread: any; no state. Ownership: values only.
 #pragma once
 
-#include "Engine/core/Sentence.h"
 #include "Engine/core/faults/FaultTable.h"
+#include "Engine/core/faults/Sentence.h"
 
 #include <QString>
 

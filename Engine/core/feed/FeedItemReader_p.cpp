@@ -1,10 +1,10 @@
 // FeedItemReader_p.cpp: one <item> of a feed with its deltas.
 #include "Engine/core/feed/FeedItemReader_p.h"
 
+#include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/feed/FeedPolicyReader_p.h"
 #include "Engine/core/feed/FeedProperties_p.h"
 #include "Engine/core/feed/ReleasePolicy.h"
-#include "Engine/core/payload/TrustedKeys.h"
 
 #include <limits>
 

@@ -2,7 +2,7 @@
 // Thread: any, one at a time. Ownership: values only; the walker and the context outlive the call.
 #pragma once
 
-#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/feed/FeedWalker.h"
 
 #include <optional>
 

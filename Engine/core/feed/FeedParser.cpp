@@ -1,10 +1,10 @@
 // FeedParser.cpp: from the bytes of a feed to its items: decode, scan the tags, read.
 #include "Engine/core/feed/FeedParser.h"
 
-#include "Engine/core/feed/FeedEncoding_p.h"
+#include "Engine/core/feed/FeedEncoding.h"
 #include "Engine/core/feed/FeedItemReader_p.h"
 #include "Engine/core/feed/FeedPrescan_p.h"
-#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/feed/FeedWalker.h"
 
 namespace Pelnar::Engine
 {

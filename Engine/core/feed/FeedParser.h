@@ -5,8 +5,8 @@
 // title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
 #pragma once
 
-#include "Engine/core/Sentence.h"
 #include "Engine/core/faults/ErrorCause.h"
+#include "Engine/core/faults/Sentence.h"
 #include "Engine/core/feed/FeedItem.h"
 
 #include <QByteArray>

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/feed/FeedText_p.h"
-#include "Engine/core/feed/FeedWalker_p.h"
+#include "Engine/core/feed/FeedWalker.h"
 
 #include <QVariantMap>
 

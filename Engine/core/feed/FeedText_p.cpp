@@ -1,7 +1,7 @@
 // FeedText_p.cpp: single values of a feed.
 #include "Engine/core/feed/FeedText_p.h"
 
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 
 #include <algorithm>
 #include <utility>

@@ -1,6 +1,6 @@
 #include "Engine/core/feed/KeyPaths.h"
 
-#include "Engine/core/payload/TrustedKeys.h"
+#include "Engine/core/bundle/TrustedKeys.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "Engine/core/feed/SignedFeed.h"
 
-#include "Engine/core/payload/Ed25519Signature.h"
+#include "Engine/core/bundle/Ed25519Signature.h"
 
 #include <algorithm>
 

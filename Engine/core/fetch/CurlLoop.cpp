@@ -1,6 +1,6 @@
 #include "Engine/core/fetch/CurlLoop.h"
 
-#include "Engine/core/SignalBlock.h"
+#include "Engine/core/base/SignalBlock.h"
 #include "Engine/core/fetch/AddressReach.h"
 
 #include <QCoreApplication>

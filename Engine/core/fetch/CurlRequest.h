@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/fetch/CurlLoop.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <array>
 #include <memory>

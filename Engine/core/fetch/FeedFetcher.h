@@ -1,10 +1,10 @@
-// FeedFetcher.h: fetches the bytes of a feed from a server or a file, under the rules and limits of FetchPolicy.h.
+// FeedFetcher.h: fetches the bytes of a feed from a server or a file, under the rules and limits of FetchRules.h.
 // Thread: its maker's, with Qt's event loop. Ownership: its maker owns it. Destroying it cancels the fetch, and no
 // callback follows.
 #pragma once
 
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Engine/core/fetch/KeptFeed.h"
 
 #include <QByteArray>

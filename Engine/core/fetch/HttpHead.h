@@ -4,7 +4,7 @@
 #pragma once
 
 #include "Engine/core/faults/Result.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <QByteArray>
 

@@ -98,7 +98,7 @@ HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limit
     m_restTimer.setSingleShot(true);
     connect(&m_connectTimer, &QTimer::timeout, this, [this] { Fail(MakeError(ErrorCause::ConnectTimeout)); });
     connect(&m_rateTimer, &QTimer::timeout, this, &HttpTransfer::SampleRate);
-    connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Rest(); });
+    connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Idle(); });
 }
 
 bool HttpTransfer::IsSecure() const
@@ -280,7 +280,7 @@ void HttpTransfer::Deliver(char const* bytes, qint64 size)
     }
     while (size > 0)
     {
-        BodyRoom const room = m_sink->Room();
+        BodyBuffer const room = m_sink->Buffer();
         qint64 const count = std::min(room.size, size);
         if (count == 0)
         {
@@ -289,7 +289,7 @@ void HttpTransfer::Deliver(char const* bytes, qint64 size)
             return;
         }
         std::memcpy(room.data, bytes, static_cast<std::size_t>(count));
-        m_sink->Took(count);
+        m_sink->Commit(count);
         bytes += count;
         size -= count;
     }
@@ -306,7 +306,7 @@ bool HttpTransfer::DeliverHeld()
         QByteArray const held = std::exchange(m_held, {});
         Deliver(held.constData(), held.size());
     }
-    m_isHeld = !m_held.isEmpty() || (m_sink && m_sink->Room().size == 0);
+    m_isHeld = !m_held.isEmpty() || (m_sink && m_sink->Buffer().size == 0);
     return !m_isHeld;
 }
 
@@ -395,7 +395,7 @@ void HttpTransfer::TakeWhole()
     }
     if (m_sink)
     {
-        m_sink->Rest();
+        m_sink->Idle();
     }
     Close();
     Q_EMIT Completed();

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Engine/core/fetch/CurlRequest.h"
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Engine/core/fetch/HttpHead.h"
 #include "Engine/core/fetch/IBodySink.h"
 #include "Engine/core/fetch/TransferFault.h"

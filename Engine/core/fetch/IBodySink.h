@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 struct HttpHead;
 
 /// The buffer for the next bytes of a body.
-struct BodyRoom
+struct BodyBuffer
 {
     char* data = nullptr;
     qint64 size = 0;
@@ -26,12 +26,12 @@ public:
 
     /// The head has arrived. Returns the maximum length of its body in bytes, or nothing if the body is useless.
     virtual std::optional<qint64> BeginBody(HttpHead const& head) = 0;
-    /// The buffer for the next bytes. It stays the same until Took(). It is empty while no byte can be taken.
-    virtual BodyRoom Room() = 0;
+    /// The buffer for the next bytes. It stays the same until Commit(). It is empty while no byte can be taken.
+    virtual BodyBuffer Buffer() = 0;
     /// The first \a bytes of the buffer are filled.
-    virtual void Took(qint64 bytes) = 0;
+    virtual void Commit(qint64 bytes) = 0;
     /// No more bytes are available for now.
-    virtual void Rest() = 0;
+    virtual void Idle() = 0;
 };
 
 } // namespace Pelnar::Engine

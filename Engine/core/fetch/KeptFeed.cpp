@@ -1,6 +1,6 @@
 #include "Engine/core/fetch/KeptFeed.h"
 
-#include "Engine/core/fetch/FetchPolicy.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <QCryptographicHash>
 

@@ -1,6 +1,6 @@
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 
-#include "Engine/core/SafeText.h"
+#include "Engine/core/base/SafeText.h"
 #include "Engine/core/notes/ReleaseNotesLink.h"
 
 #include <algorithm>

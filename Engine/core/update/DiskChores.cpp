@@ -1,6 +1,6 @@
 #include "Engine/core/update/DiskChores.h"
 
-#include "Engine/core/SignalBlock.h"
+#include "Engine/core/base/SignalBlock.h"
 
 #include <algorithm>
 #include <chrono>

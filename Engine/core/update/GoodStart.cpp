@@ -1,7 +1,7 @@
 #include "Engine/core/update/GoodStart.h"
 
-#include "Engine/core/PathText.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/base/PathText.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Engine/core/update/HelperProcess.h"
 #include "Engine/core/update/InstallTarget.h"
 

@@ -6,7 +6,7 @@
 // the work is completed.
 #pragma once
 
-#include "Engine/core/payload/HelperReport.h"
+#include "Engine/core/helper/HelperReport.h"
 
 #include <QObject>
 #include <QString>

@@ -1,9 +1,9 @@
 #include "Engine/core/update/HelperLaunch_p.h"
 
-#include "Engine/core/SignalBlock.h"
+#include "Engine/core/base/CloseDescriptors.h"
+#include "Engine/core/base/SignalBlock.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/CloseDescriptors.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Engine/core/update/SealedMemory_p.h"
 
 #include <array>

@@ -3,7 +3,7 @@
 // Thread: any. Ownership: the objects own the descriptors; the caller waits for the child process.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/update/SealedProgram.h"
 
 #include <map>

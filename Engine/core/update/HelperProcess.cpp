@@ -26,7 +26,7 @@ namespace
 constexpr int EXIT_REFUSED = 1;
 constexpr std::size_t READ_BYTES = 4096;
 
-std::map<int, int> NumbersOf(PrepareJob const& job, HelperInheritance const& inherited)
+std::map<int, int> DescriptorMap(PrepareJob const& job, HelperInheritance const& inherited)
 {
     std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
                                {HelperDescriptors::ARCHIVE, inherited.archiveOrParent}};
@@ -37,7 +37,7 @@ std::map<int, int> NumbersOf(PrepareJob const& job, HelperInheritance const& inh
     return numbers;
 }
 
-std::map<int, int> NumbersOf(InstallJob const& job, HelperInheritance const& inherited)
+std::map<int, int> DescriptorMap(InstallJob const& job, HelperInheritance const& inherited)
 {
     std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
                                {HelperDescriptors::PARENT, inherited.archiveOrParent},
@@ -53,12 +53,12 @@ std::map<int, int> NumbersOf(InstallJob const& job, HelperInheritance const& inh
     return numbers;
 }
 
-std::map<int, int> NumbersOf(RecoverJob const&, HelperInheritance const& inherited)
+std::map<int, int> DescriptorMap(RecoverJob const&, HelperInheritance const& inherited)
 {
     return {{HelperDescriptors::PARENT, inherited.archiveOrParent}};
 }
 
-std::map<int, int> NumbersOf(RehearseJob const&, HelperInheritance const& inherited)
+std::map<int, int> DescriptorMap(RehearseJob const&, HelperInheritance const& inherited)
 {
     return {{HelperDescriptors::STAGING, inherited.staging},
             {HelperDescriptors::PARENT, inherited.archiveOrParent},
@@ -159,7 +159,7 @@ void HelperProcess::Impl::Kill()
 void HelperProcess::Impl::Start(UpdateJob const& job, HelperInheritance const& inherited,
                                 std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
 {
-    auto const numbers = std::visit([&inherited](auto const& kind) { return NumbersOf(kind, inherited); }, job);
+    auto const numbers = std::visit([&inherited](auto const& kind) { return DescriptorMap(kind, inherited); }, job);
     LaunchedHelper helper = LaunchHelper(*m_program, ModeOf(job), EncodeUpdateJob(job), numbers);
     m_process = std::move(helper.process);
     m_reports = std::move(helper.reports);

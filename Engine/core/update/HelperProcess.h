@@ -4,9 +4,9 @@
 // released; no callback follows.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Engine/core/update/SealedProgram.h"
 
 #include <functional>

@@ -32,8 +32,8 @@ class IUpdateHost : public ICheckHost
 public:
     /// The update of \a place is prepared. \a installNow installs it immediately, during this call or later. It may be
     /// kept for any time. It does nothing when called a second time or too late.
-    virtual void TellWillInstallOnQuit(ItemPlace const& place, std::function<void(RelaunchWish)> const& installNow) = 0;
-    virtual void TellCancelledInstallOnQuit(ItemPlace const& place) = 0;
+    virtual void TellWillInstallOnQuit(ItemIndex const& place, std::function<void(RelaunchWish)> const& installNow) = 0;
+    virtual void TellCancelledInstallOnQuit(ItemIndex const& place) = 0;
     virtual RelaunchAnswer ShouldRelaunch() = 0;
     /// The bundle to start after the installation; empty for the installed one.
     virtual QString PathToRelaunch() = 0;

@@ -4,7 +4,7 @@
 // Thread: the Qt main thread. Ownership: the engine owns it; it keeps each callback as long as its window.
 #pragma once
 
-#include "Engine/core/Sentence.h"
+#include "Engine/core/faults/Sentence.h"
 #include "Engine/core/update/WindowContent.h"
 
 #include <functional>

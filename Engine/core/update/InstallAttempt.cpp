@@ -1,6 +1,6 @@
 #include "Engine/core/update/InstallAttempt.h"
 
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 
 #include <glog/logging.h>
 

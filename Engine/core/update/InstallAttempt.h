@@ -3,8 +3,8 @@
 // Thread: one at a time. Ownership: it owns its descriptor. A started attempt survives this object.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 #include <QString>
 

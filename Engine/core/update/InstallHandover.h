@@ -3,7 +3,7 @@
 // callback follows.
 #pragma once
 
-#include "Engine/core/update/IUpdateParts.h"
+#include "Engine/core/update/IUpdateEnvironment.h"
 #include "Engine/core/update/PreparedUpdate.h"
 
 #include <functional>
@@ -16,7 +16,7 @@ namespace Pelnar::Engine
 class InstallHandover
 {
 public:
-    explicit InstallHandover(IUpdateParts& parts) : m_parts(parts) {}
+    explicit InstallHandover(IUpdateEnvironment& parts) : m_parts(parts) {}
 
     /// Starts the helper with \a job. \a update completes the job and then belongs to the helper. The job's record is
     /// in the folder \a recordsFd. Returns an error if this is impossible; then no callback follows and \a update stays
@@ -35,7 +35,7 @@ private:
     void Take(HelperReport const& report);
     void End();
 
-    IUpdateParts& m_parts;
+    IUpdateEnvironment& m_parts;
     PreparedUpdate* m_update = nullptr;
     std::function<void()> m_waiting;
     std::function<void(EngineError const&)> m_failed;

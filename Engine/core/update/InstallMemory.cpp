@@ -3,7 +3,7 @@
 #include "Engine/core/check/BackOff.h"
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/payload/NoteFile.h"
+#include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallTarget.h"
 

@@ -3,7 +3,7 @@
 // Thread: its maker's. Ownership: its destructor waits for its pending writes and removals.
 #pragma once
 
-#include "Engine/core/payload/InstallRecord.h"
+#include "Engine/core/helper/InstallRecord.h"
 #include "Engine/core/update/DiskChores.h"
 
 #include <QDateTime>

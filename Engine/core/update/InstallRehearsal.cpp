@@ -1,8 +1,8 @@
 #include "Engine/core/update/InstallRehearsal.h"
 
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Engine/core/update/HelperLaunch_p.h"
 #include "Engine/core/update/HelperProcess.h"
 #include "Engine/core/update/PreparedUpdate.h"

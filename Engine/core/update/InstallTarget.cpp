@@ -1,11 +1,11 @@
 #include "Engine/core/update/InstallTarget.h"
 
-#include "Engine/core/PathText.h"
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/payload/FolderSafety.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/helper/FolderSafety.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/base/TreeWalk.h"
 
 #include <algorithm>
 #include <cerrno>

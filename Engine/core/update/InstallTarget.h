@@ -2,7 +2,7 @@
 // Thread: any. Ownership: the object owns the descriptors; all code that updates the bundle uses only them.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/faults/Result.h"
 #include "Engine/core/update/PackageOwner.h"
 

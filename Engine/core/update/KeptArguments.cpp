@@ -1,7 +1,7 @@
 #include "Engine/core/update/KeptArguments.h"
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/update/SealedMemory_p.h"
 
 #include <glog/logging.h>

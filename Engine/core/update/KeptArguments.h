@@ -3,7 +3,7 @@
 // Thread: main. Ownership: one for the process, for its whole life; the receiver owns a shared file.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <string>
 #include <vector>

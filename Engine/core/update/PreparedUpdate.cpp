@@ -1,6 +1,6 @@
 #include "Engine/core/update/PreparedUpdate.h"
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/base/TreeWalk.h"
 
 #include <glog/logging.h>
 
@@ -31,7 +31,7 @@ PreparedUpdate::PreparedUpdate(UniqueFd parent, StagingFolder staging)
 PreparedUpdate::~PreparedUpdate()
 {
     // A folder that cannot be removed now is abandoned, and the next recovery removes it.
-    bool const isGone = m_isHelpers || RemoveTree(m_parent.Get(), m_staging.Name());
+    bool const isGone = m_isOwnedByHelper || RemoveTree(m_parent.Get(), m_staging.Name());
     LOG_IF(WARNING, !isGone) << "The prepared update could not be removed; it goes when the application starts again";
 }
 

@@ -3,9 +3,9 @@
 // then.
 #pragma once
 
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/StagingFolder.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/StagingFolder.h"
+#include "Engine/core/helper/UpdateJob.h"
 #include "Engine/core/update/InstallTarget.h"
 
 #include <memory>
@@ -30,8 +30,8 @@ public:
     /// Puts the folder and the bundle into \a job.
     void Describe(InstallJob& job) const;
 
-    void GiveToHelper() { m_isHelpers = true; }
-    void TakeBack() { m_isHelpers = false; }
+    void GiveToHelper() { m_isOwnedByHelper = true; }
+    void TakeBack() { m_isOwnedByHelper = false; }
 
 private:
     PreparedUpdate(UniqueFd parent, StagingFolder staging);
@@ -39,7 +39,7 @@ private:
     UniqueFd m_parent;
     StagingFolder m_staging;
     PreparedReport m_bundle{};
-    bool m_isHelpers = false;
+    bool m_isOwnedByHelper = false;
 };
 
 } // namespace Pelnar::Engine

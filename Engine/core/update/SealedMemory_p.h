@@ -3,7 +3,7 @@
 // SealedMemoryUnavailable if it has no such files.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 namespace Pelnar::Engine
 {

@@ -1,8 +1,8 @@
 #include "Engine/core/update/SealedProgram.h"
 
-#include "Engine/core/delta/ContentHasher.h"
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/FolderSafety.h"
+#include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/update/SealedMemory_p.h"
 
 #include <cerrno>

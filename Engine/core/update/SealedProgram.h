@@ -4,7 +4,7 @@
 // Thread: any. Ownership: the object owns the copy; a started program keeps it.
 #pragma once
 
-#include "Engine/core/delta/TreeAccess.h"
+#include "Engine/core/base/Descriptor.h"
 
 #include <mutex>
 #include <string>

@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 {
 
 UpdateFlow::UpdateFlow(CheckKind kind, UpdateSettings settings, IUpdateHost& host, IUserInterface& windows,
-                       IUpdateParts& parts)
+                       IUpdateEnvironment& parts)
     : m_kind(kind)
     , m_settings(std::move(settings))
     , m_host(host)
@@ -77,7 +77,7 @@ void UpdateFlow::FeedLoaded(std::vector<FeedItem> const& items)
     m_host.FeedLoaded(items);
 }
 
-UpdateCandidate UpdateFlow::CandidateAt(ItemPlace const& place) const
+UpdateCandidate UpdateFlow::CandidateAt(ItemIndex const& place) const
 {
     FeedItem const& item = m_items->at(static_cast<size_t>(place.item));
     UpdateCandidate candidate{place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item, place};
@@ -130,7 +130,8 @@ void UpdateFlow::CheckEnded()
     if (isSilentRequest && m_candidates.front().item.policy.isToBeAsked)
     {
         // The application waits for a silent download, which does not come: what follows is the windows' affair.
-        (void)FailureOf("updater:didAbortWithError:", [this] { m_host.TellAborted(MakeError(ErrorCause::Cancelled)); });
+        (void)CallDelegate("updater:didAbortWithError:",
+                           [this] { m_host.TellAborted(MakeError(ErrorCause::Cancelled)); });
     }
     m_update = std::make_unique<UpdateRun>(m_kind, std::move(m_candidates), m_settings, m_host, m_windows, m_parts,
                                            [this](UpdateEnd const& end) { EndUpdate(end); });
@@ -141,7 +142,7 @@ void UpdateFlow::CancelCheck()
 {
     m_check.reset();
     m_error = MakeError(ErrorCause::Cancelled);
-    (void)FailureOf("updater:didAbortWithError:", [this] { m_host.TellAborted(*m_error); });
+    (void)CallDelegate("updater:didAbortWithError:", [this] { m_host.TellAborted(*m_error); });
     m_host.CheckEnded();
     End(PersonAsked::Yes);
 }
@@ -152,7 +153,7 @@ void UpdateFlow::EndUpdate(UpdateEnd const& end)
     m_error = end.error;
     if (m_error)
     {
-        (void)FailureOf("updater:didAbortWithError:", [this] { m_host.TellAborted(*m_error); });
+        (void)CallDelegate("updater:didAbortWithError:", [this] { m_host.TellAborted(*m_error); });
     }
     End(asked);
 }
@@ -194,7 +195,7 @@ void UpdateFlow::RememberOutcome()
     }
     if (state != m_settings.backOff)
     {
-        (void)FailureOf("the storing of a failure", [this, &state] { m_host.StoreBackOff(state); });
+        (void)CallDelegate("the storing of a failure", [this, &state] { m_host.StoreBackOff(state); });
     }
 }
 

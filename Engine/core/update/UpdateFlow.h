@@ -20,7 +20,7 @@ class UpdateFlow : public QObject, private ICheckHost
 
 public:
     UpdateFlow(CheckKind kind, UpdateSettings settings, IUpdateHost& host, IUserInterface& windows,
-               IUpdateParts& parts);
+               IUpdateEnvironment& parts);
     ~UpdateFlow() override;
 
     /// Every call of the host comes later, from the event loop.
@@ -42,7 +42,7 @@ private:
 
     /// Why this check does not run at all.
     std::optional<EngineError> Refusal() const;
-    UpdateCandidate CandidateAt(ItemPlace const& place) const;
+    UpdateCandidate CandidateAt(ItemIndex const& place) const;
     void CloseChecking();
     void CancelCheck();
     void EndUpdate(UpdateEnd const& end);
@@ -53,7 +53,7 @@ private:
     UpdateSettings m_settings;
     IUpdateHost& m_host;
     IUserInterface& m_windows;
-    IUpdateParts& m_parts;
+    IUpdateEnvironment& m_parts;
     std::unique_ptr<CheckRun> m_check;
     std::vector<FeedItem> const* m_items = nullptr; ///< owned by the check
     std::vector<UpdateCandidate> m_candidates;      ///< of the found update

@@ -1,5 +1,6 @@
 #include "Engine/core/update/UpdatePreparation.h"
 
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/faults/EngineError.h"
 
 #include <utility>

@@ -3,7 +3,7 @@
 // the folder; no callback follows.
 #pragma once
 
-#include "Engine/core/update/IUpdateParts.h"
+#include "Engine/core/update/IUpdateEnvironment.h"
 #include "Engine/core/update/PreparedUpdate.h"
 
 #include <functional>
@@ -18,7 +18,7 @@ class UpdatePreparation
 public:
     using Outcome = Result<std::unique_ptr<PreparedUpdate>>;
 
-    explicit UpdatePreparation(IUpdateParts& parts) : m_parts(parts) {}
+    explicit UpdatePreparation(IUpdateEnvironment& parts) : m_parts(parts) {}
     ~UpdatePreparation();
     UpdatePreparation(UpdatePreparation const&) = delete;
     UpdatePreparation& operator=(UpdatePreparation const&) = delete;
@@ -33,7 +33,7 @@ private:
     void Take(HelperReport const& report);
     void End(HelperEnd end);
 
-    IUpdateParts& m_parts;
+    IUpdateEnvironment& m_parts;
     std::function<void(ProgressReport const&)> m_progress;
     std::function<void(Outcome)> m_finished;
     std::optional<PreparedReport> m_prepared;

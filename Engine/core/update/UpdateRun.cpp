@@ -1,6 +1,7 @@
 #include "Engine/core/update/UpdateRun.h"
 
-#include "Engine/core/PathText.h"
+#include "Engine/core/base/PathText.h"
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/check/DelegateCall.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/KeptArguments.h"
@@ -40,9 +41,9 @@ std::function<void(Arguments...)> UpdateRun::Guarded(void (UpdateRun::*call)(Arg
 }
 
 UpdateRun::UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, UpdateSettings const& settings,
-                     IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts,
+                     IUpdateHost& host, IUserInterface& windows, IUpdateEnvironment& parts,
                      std::function<void(UpdateEnd)> ended)
-    : m_manner(MannerOf(kind, settings.automaticDownload, candidates.front().item))
+    : m_mode(ModeOf(kind, settings.automaticDownload, candidates.front().item))
     , m_origin(OriginOf(kind))
     , m_candidates(std::move(candidates))
     , m_settings(settings)
@@ -118,7 +119,8 @@ void UpdateRun::TakeChoice(UpdateChoice choice)
     switch (choice)
     {
     case UpdateChoice::SkipThisVersion:
-        if (HasToldHost("the skipping of a version", [this] { m_host.SkipVersion(Current().item.versionString); }))
+        if (NotifyHostOrFinish("the skipping of a version",
+                               [this] { m_host.SkipVersion(Current().item.versionString); }))
         {
             Finish(std::nullopt);
         }
@@ -251,15 +253,15 @@ void UpdateRun::AskToInstall()
 
 void UpdateRun::OfferOnQuit()
 {
-    ItemPlace const place = Current().place;
+    ItemIndex const place = Current().place;
     auto const installNow = Guarded(&UpdateRun::InstallNow);
-    if (HasToldHost("updater:willInstallUpdateOnQuit:immediateInstallationInvocation:",
-                    [this, place, &installNow] { m_host.TellWillInstallOnQuit(place, installNow); }) &&
+    if (NotifyHostOrFinish("updater:willInstallUpdateOnQuit:immediateInstallationInvocation:",
+                           [this, place, &installNow] { m_host.TellWillInstallOnQuit(place, installNow); }) &&
         m_phase == Phase::Ready)
     {
         if (m_isGivenUp)
         {
-            DropAtTheDelegatesWish();
+            DropDeclinedUpdate();
         }
         else
         {
@@ -278,13 +280,13 @@ void UpdateRun::InstallNow(RelaunchWish wish)
     bool const wasArmed = m_phase == Phase::Armed;
     m_phase = Phase::Deciding;
     RelaunchAnswer answer = RelaunchAnswer::Refused;
-    if (!HasToldHost("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    if (!NotifyHostOrFinish("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
     {
         return;
     }
     if (answer == RelaunchAnswer::Refused || m_isGivenUp)
     {
-        DropAtTheDelegatesWish();
+        DropDeclinedUpdate();
         return;
     }
     switch (wish)
@@ -305,9 +307,9 @@ void UpdateRun::InstallNow(RelaunchWish wish)
     }
 }
 
-void UpdateRun::DropAtTheDelegatesWish()
+void UpdateRun::DropDeclinedUpdate()
 {
-    ItemPlace const place = Current().place;
+    ItemIndex const place = Current().place;
     if (m_handover)
     {
         m_handover->Cancel();
@@ -315,8 +317,8 @@ void UpdateRun::DropAtTheDelegatesWish()
     }
     DropAttempt();
     DropPrepared();
-    if (HasToldHost("updater:didCancelInstallUpdateOnQuit:",
-                    [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
+    if (NotifyHostOrFinish("updater:didCancelInstallUpdateOnQuit:",
+                           [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
     {
         Finish(std::nullopt);
     }
@@ -391,20 +393,20 @@ void UpdateRun::AskAtQuit()
         return;
     }
     RelaunchAnswer answer = RelaunchAnswer::Refused;
-    if (!HasToldHost("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    if (!NotifyHostOrFinish("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
     {
         return;
     }
     if (answer == RelaunchAnswer::Refused)
     {
-        DropAtTheDelegatesWish();
+        DropDeclinedUpdate();
     }
 }
 
 void UpdateRun::Relaunch()
 {
     QString path;
-    if (!HasToldHost("pathToRelaunchForUpdater:", [this, &path] { path = m_host.PathToRelaunch(); }))
+    if (!NotifyHostOrFinish("pathToRelaunchForUpdater:", [this, &path] { path = m_host.PathToRelaunch(); }))
     {
         return;
     }
@@ -432,7 +434,7 @@ void UpdateRun::Relaunch()
 void UpdateRun::TellRelaunch()
 {
     // An exception changes nothing: the helper waits, and gives up after its time limit if the application stays.
-    (void)FailureOf("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
+    (void)CallDelegate("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
 }
 
 void UpdateRun::FailHandover(EngineError const& error)
@@ -445,7 +447,7 @@ void UpdateRun::GiveUpInstallation()
     m_isGivenUp = true;
     if (m_phase == Phase::Armed || m_phase == Phase::Relaunching)
     {
-        DropAtTheDelegatesWish();
+        DropDeclinedUpdate();
     }
 }
 
@@ -459,10 +461,10 @@ NamedVersion UpdateRun::NamedUpdate() const
     return {m_settings.bundle.shownName, ShownVersionOf(Current().item)};
 }
 
-bool UpdateRun::HasToldHost(char const* what, std::function<void()> const& call)
+bool UpdateRun::NotifyHostOrFinish(char const* what, std::function<void()> const& call)
 {
     QPointer<UpdateRun> const self(this);
-    auto const failure = FailureOf(what, call);
+    auto const failure = CallDelegate(what, call);
     if (!self || m_phase == Phase::Ended)
     {
         return false;

@@ -4,12 +4,12 @@
 // its end removes the prepared files and notifies nobody. A helper that already has the update continues.
 #pragma once
 
+#include "Engine/core/update/IUpdateEnvironment.h"
 #include "Engine/core/update/IUpdateHost.h"
-#include "Engine/core/update/IUpdateParts.h"
 #include "Engine/core/update/IUserInterface.h"
 #include "Engine/core/update/InstallHandover.h"
-#include "Engine/core/update/UpdatePlan.h"
 #include "Engine/core/update/UpdatePreparation.h"
+#include "Engine/core/update/UpdateRules.h"
 #include "Engine/core/update/UpdateSettings.h"
 
 #include <QObject>
@@ -36,7 +36,8 @@ class UpdateRun : public QObject
 public:
     /// \a candidates are the archives to try, the best first, all of one version. REQUIRES: there is at least one.
     UpdateRun(CheckKind kind, std::vector<UpdateCandidate> candidates, UpdateSettings const& settings,
-              IUpdateHost& host, IUserInterface& windows, IUpdateParts& parts, std::function<void(UpdateEnd)> ended);
+              IUpdateHost& host, IUserInterface& windows, IUpdateEnvironment& parts,
+              std::function<void(UpdateEnd)> ended);
     ~UpdateRun() override;
 
     /// Everything happens later, from the event loop. \a ended comes once and last, and may delete this object later
@@ -71,7 +72,7 @@ private:
     void AskToInstall();
     void OfferOnQuit();
     void InstallNow(RelaunchWish wish);
-    void DropAtTheDelegatesWish();
+    void DropDeclinedUpdate();
     void DropAttempt();
     void DropPrepared();
     void Arm();
@@ -86,21 +87,21 @@ private:
     InstallJob InstallationJob() const;
     std::optional<EngineError> HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting);
     NamedVersion NamedUpdate() const;
-    bool HasWindows() const { return m_manner == UpdateManner::Windows; }
+    bool HasWindows() const { return m_mode == UpdateMode::Windows; }
     /// Wraps \a call for a later time; it is dropped if this object is destroyed by then.
     template <typename... Arguments>
     std::function<void(Arguments...)> Guarded(void (UpdateRun::*call)(Arguments...));
     /// Runs \a call, which asks or notifies the application (\a what in the log). Returns false if the update ended
     /// because the call failed, or if this object was destroyed meanwhile.
-    [[nodiscard]] bool HasToldHost(char const* what, std::function<void()> const& call);
+    [[nodiscard]] bool NotifyHostOrFinish(char const* what, std::function<void()> const& call);
 
-    UpdateManner m_manner;
+    UpdateMode m_mode;
     CheckOrigin m_origin;
     std::vector<UpdateCandidate> m_candidates;
     UpdateSettings m_settings;
     IUpdateHost& m_host;
     IUserInterface& m_windows;
-    IUpdateParts& m_parts;
+    IUpdateEnvironment& m_parts;
     std::function<void(UpdateEnd)> m_ended;
     Phase m_phase = Phase::Starting;
     PersonAsked m_asked;

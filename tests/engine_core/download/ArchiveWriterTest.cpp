@@ -49,7 +49,7 @@ protected:
         for (qint64 position = 0; position < bytes.size();)
         {
             int const roomsBefore = roomsMade;
-            BodyRoom const room = writer->Room();
+            BodyBuffer const room = writer->Buffer();
             if (room.size == 0)
             {
                 ++waits;
@@ -58,7 +58,7 @@ protected:
             }
             qint64 const count = std::min<qint64>(room.size, bytes.size() - position);
             std::memcpy(room.data, bytes.constData() + position, static_cast<std::size_t>(count));
-            writer->Took(count);
+            writer->Commit(count);
             position += count;
         }
         return waits;

@@ -30,9 +30,9 @@ long PeakKibibytes()
 /// Hands one piece over and has it made durable.
 void Put(ArchiveWriter& writer, DownloadSpending const& spent)
 {
-    BodyRoom const room = writer.Room();
+    BodyBuffer const room = writer.Buffer();
     std::memset(room.data, 7, PIECE_BYTES);
-    writer.Took(PIECE_BYTES);
+    writer.Commit(PIECE_BYTES);
     writer.Checkpoint(spent);
 }
 

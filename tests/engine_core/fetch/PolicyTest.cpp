@@ -1,5 +1,5 @@
 // PolicyTest.cpp: offering an item, ordering version texts: the engine's other decisions on plain values.
-#include "Engine/core/check/CheckPolicy.h"
+#include "Engine/core/check/CheckRules.h"
 #include "Engine/core/check/StandardVersionComparison.h"
 
 #include <gtest/gtest.h>

@@ -22,13 +22,13 @@ class NarrowSink : public IBodySink
 {
 public:
     std::optional<qint64> BeginBody(HttpHead const&) override { return qint64{1} << 40; }
-    BodyRoom Room() override { return isOpen ? BodyRoom{m_room.data(), qint64(m_room.size())} : BodyRoom(); }
-    void Took(qint64 bytes) override
+    BodyBuffer Buffer() override { return isOpen ? BodyBuffer{m_room.data(), qint64(m_room.size())} : BodyBuffer(); }
+    void Commit(qint64 bytes) override
     {
         taken.append(m_room.data(), static_cast<int>(bytes));
         isOpen = taken.size() < closesAt || closesAt == 0;
     }
-    void Rest() override { ++rests; }
+    void Idle() override { ++rests; }
 
     QByteArray taken;
     bool isOpen = true;

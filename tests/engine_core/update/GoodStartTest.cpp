@@ -1,8 +1,8 @@
 // GoodStartTest.cpp: what an application that has just been started asks of the helper, from within it.
 
 #include "Engine/core/update/GoodStart.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/LogCapture.h"

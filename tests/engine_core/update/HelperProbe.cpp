@@ -1,8 +1,8 @@
 // A helper that does what its job names: the new version's name is the order. It is started like the real one.
 
-#include "Engine/core/delta/TreeAccess.h"
-#include "Engine/core/payload/HelperReport.h"
-#include "Engine/core/payload/UpdateJob.h"
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/helper/HelperReport.h"
+#include "Engine/core/helper/UpdateJob.h"
 
 #include <algorithm>
 #include <cstdlib>

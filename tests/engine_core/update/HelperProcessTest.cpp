@@ -1,6 +1,6 @@
 #include "Engine/core/update/HelperProcess.h"
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/payload/FolderSafety.h"
+#include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/update/HelperLaunch_p.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"

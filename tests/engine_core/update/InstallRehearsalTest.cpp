@@ -2,9 +2,9 @@
 // calls are made to fail by a filter, in processes of their own.
 
 #include "Engine/core/update/InstallRehearsal.h"
-#include "Engine/core/PathText.h"
-#include "Engine/core/payload/CloseDescriptors.h"
-#include "Engine/core/payload/StagingFolder.h"
+#include "Engine/core/base/CloseDescriptors.h"
+#include "Engine/core/base/PathText.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/LoopImage.h"
 #include "tests/installer/OtherUser.h"

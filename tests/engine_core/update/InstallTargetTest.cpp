@@ -1,6 +1,6 @@
 #include "Engine/core/update/InstallTarget.h"
-#include "Engine/core/PathText.h"
-#include "Engine/core/payload/FolderSafety.h"
+#include "Engine/core/base/PathText.h"
+#include "Engine/core/helper/FolderSafety.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/installer/OtherUser.h"
 #include "tests/support/Container.h"

@@ -1,6 +1,6 @@
 // The arguments for the next start: what was said last counts, for a helper that waits already as well.
 #include "Engine/core/update/KeptArguments.h"
-#include "Engine/core/payload/RelaunchArguments.h"
+#include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/update/HelperProcess.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"

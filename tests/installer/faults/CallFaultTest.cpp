@@ -2,7 +2,7 @@
 // before all of its processes are killed at once. The default run takes a sample of the places; with
 // PELNAR_EVERY_PLACE=1 in the environment it takes them all.
 
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Sanitizers.h"
 

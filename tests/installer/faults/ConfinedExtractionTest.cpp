@@ -1,7 +1,7 @@
 // ConfinedExtractionTest.cpp: hostile archives meet one line of defence at a time: an extractor without any rules in
 // the helper's confinement, and the helper's rules on a kernel that cannot confine.
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "Installer/Confinement.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/FaultChecks.h"

@@ -1,6 +1,7 @@
 // DeltaPreparationTest.cpp: deltas, right ones and every kind of wrong one, through the helper's real process: what
 // comes out is exactly the new version, or nothing.
 
+#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/DeltaMaker.h"
 #include "tests/delta/SeparateDelta.h"
@@ -133,7 +134,7 @@ std::size_t OffsetOf(DeltaManifest const& manifest, DeltaEntryKind kind)
     return offset;
 }
 
-ByteBuffer NumbersOf(std::vector<std::uint64_t> const& numbers)
+ByteBuffer DescriptorMap(std::vector<std::uint64_t> const& numbers)
 {
     ByteBuffer bytes;
     for (std::uint64_t number : numbers)
@@ -150,7 +151,7 @@ ByteBuffer NumbersOf(std::vector<std::uint64_t> const& numbers)
 /// A patch of one step.
 void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
 {
-    ByteBuffer const steps = NumbersOf(numbers);
+    ByteBuffer const steps = DescriptorMap(numbers);
     ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()));
     std::size_t const offset = OffsetOf(manifest, DeltaEntryKind::Patched);
     DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
@@ -197,7 +198,7 @@ std::string DeltaWithBytesBehindAStream()
 std::string DeltaWithSteps(std::vector<std::uint64_t> const& numbers)
 {
     static ByteBuffer steps;
-    steps = NumbersOf(numbers);
+    steps = DescriptorMap(numbers);
     return JoinedDeltaWith(
         [](DeltaManifest& manifest, std::string& data)
         {

@@ -1,7 +1,7 @@
 // LockTest.cpp: who holds a lock is the kernel's knowledge alone: it ends with its holder, however that ends, and
 // neither that a file is there nor the number of a process stands for it.
 
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Container.h"
 

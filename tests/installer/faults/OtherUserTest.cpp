@@ -2,8 +2,8 @@
 // was, hold locks, and lend files. Both users are real ones.
 
 #include "tests/installer/OtherUser.h"
-#include "Engine/core/payload/NoteFile.h"
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/NoteFile.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 
 #include <gtest/gtest.h>

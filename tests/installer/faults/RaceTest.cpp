@@ -2,7 +2,7 @@
 // thread that runs beside it. The default run takes a sample of the places; with PELNAR_EVERY_PLACE=1 in the
 // environment it takes them all.
 
-#include "Engine/core/payload/SwapJournal.h"
+#include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
 
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // DeltaVerbTest.cpp: the verb "delta".
 
-#include "Engine/core/payload/TreeManifest.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"

@@ -1,7 +1,7 @@
 // PolicyAgreementTest.cpp: random feeds with policies: what a client takes, after its engine has left out what is meant
 // for others, is what explain, matrix, diff and simulate say.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOrder_p.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/feed/ReleasePolicy.h"

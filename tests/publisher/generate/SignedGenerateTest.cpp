@@ -24,9 +24,9 @@ qint64 SerialOf(std::string const& feed)
 {
     Engine::FeedParseResult const parsed =
         Engine::ParseFeed(QByteArray::fromStdString(feed), QUrl(), Engine::FeedPlatform::Linux);
-    auto const said = Engine::ReadFeedTerms(parsed.channel);
-    EXPECT_TRUE(std::holds_alternative<Engine::FeedTerms>(said)) << feed;
-    return std::holds_alternative<Engine::FeedTerms>(said) ? std::get<Engine::FeedTerms>(said).serial : 0;
+    auto const said = Engine::ReadFeedValidity(parsed.channel);
+    EXPECT_TRUE(std::holds_alternative<Engine::FeedValidity>(said)) << feed;
+    return std::holds_alternative<Engine::FeedValidity>(said) ? std::get<Engine::FeedValidity>(said).serial : 0;
 }
 
 TEST(SignedGenerate, FeedIsSignedWhenAsked)

@@ -31,7 +31,7 @@ QString Regular(char const* text)
 struct BelievedFeed
 {
     QByteArray content;
-    Engine::FeedTerms terms;
+    Engine::FeedValidity terms;
 };
 
 class SignFeedTest : public ::testing::Test
@@ -80,10 +80,10 @@ protected:
         believed.content = std::get<QByteArray>(verified);
         Engine::FeedParseResult const parsed = Engine::ParseFeed(believed.content, QUrl(), Engine::FeedPlatform::Linux);
         EXPECT_TRUE(parsed.HasSucceeded());
-        auto const said = Engine::ReadFeedTerms(parsed.channel);
-        EXPECT_TRUE(std::holds_alternative<Engine::FeedTerms>(said)) << feed.toStdString();
-        believed.terms =
-            std::holds_alternative<Engine::FeedTerms>(said) ? std::get<Engine::FeedTerms>(said) : Engine::FeedTerms();
+        auto const said = Engine::ReadFeedValidity(parsed.channel);
+        EXPECT_TRUE(std::holds_alternative<Engine::FeedValidity>(said)) << feed.toStdString();
+        believed.terms = std::holds_alternative<Engine::FeedValidity>(said) ? std::get<Engine::FeedValidity>(said)
+                                                                            : Engine::FeedValidity();
         return believed;
     }
 

@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 // ParserCallsTest.cpp: stands in for the host's parser, so that its calls can be counted.
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"
 
 #include <gtest/gtest.h>

@@ -2,8 +2,8 @@
 // Thread: the test's. Ownership: values.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "tests/session/selection/PlainSelection.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "HostFramework/OSVersion.h"
 #include "HostFramework/VersionText.h"

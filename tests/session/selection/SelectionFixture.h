@@ -3,8 +3,8 @@
 // Thread: the Qt main thread. Ownership: the fixture owns its session and shares the context.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/SessionState.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "tests/session/ScriptedSparkle.h"
 

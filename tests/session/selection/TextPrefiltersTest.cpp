@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/TextPrefilters_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/TextPrefilters.h"
 
 #include "tests/support/Sanitizers.h"
 

@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "tests/session/selection/PlainItem.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
 #include <gtest/gtest.h>
 

@@ -6,12 +6,12 @@
 #include "common/LogReadiness.h"
 #include "common/LogSite.h"
 
+#include "common/RelaunchLimits.h"
 #include <Pelnar/AutomaticDownloads.h>
 #include <Pelnar/Channels.h>
 #include <Pelnar/FeedAge.h>
 #include <Pelnar/GoodStart.h>
 #include <Pelnar/RelaunchArguments.h>
-#include <Pelnar/RelaunchLimits_p.h>
 
 using Pelnar::App::SessionExport;
 using Pelnar::App::SessionLibrary;

@@ -1,6 +1,6 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/LinkedSession_p.h"
 
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
 
 namespace Pelnar::App

@@ -1,5 +1,5 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/LinkedSession_p.h"
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession.h"
 
 namespace Pelnar::App
 {

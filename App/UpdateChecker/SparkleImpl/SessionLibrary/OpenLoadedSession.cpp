@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession_p.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionLibrary_p.h"
 

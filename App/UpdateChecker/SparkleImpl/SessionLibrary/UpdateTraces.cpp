@@ -1,6 +1,6 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/UpdateTraces_p.h"
 
-#include <Pelnar/UpdateFiles_p.h>
+#include "common/UpdateFiles.h"
 
 #include <climits>
 #include <cstdlib>

@@ -5,11 +5,11 @@
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/AppcastJudgement_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/Extensions_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/ItemRecord_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionText_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/ItemRecord.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 #include "Foundation/FoundationText.h"
 #include "HostFramework/OSVersion.h"

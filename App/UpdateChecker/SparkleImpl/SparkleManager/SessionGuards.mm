@@ -1,4 +1,4 @@
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 

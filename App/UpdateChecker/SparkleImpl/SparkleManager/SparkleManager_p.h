@@ -8,9 +8,9 @@
 #error "SparkleManager_p.h is for the session's Objective-C++ sources."
 #endif
 
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionState_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/SessionState.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/UpdateType_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Foundation/Retained.h"
 
 #import <Sparkle/Sparkle.h>

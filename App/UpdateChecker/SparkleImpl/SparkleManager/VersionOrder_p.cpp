@@ -1,7 +1,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOrder_p.h"
 
+#include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/GuardedCall_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/LogSites_p.h"
 #include "HostFramework/VersionText.h"
 
 namespace Pelnar::App::Session

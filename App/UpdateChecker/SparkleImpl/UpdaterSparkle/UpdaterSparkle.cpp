@@ -1,8 +1,8 @@
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
 
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession_p.h"
-#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession_p.h"
-#include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOperators_p.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession.h"
+#include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"

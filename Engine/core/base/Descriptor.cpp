@@ -1,0 +1,86 @@
+#include "Engine/core/base/Descriptor.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <sys/mman.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+
+UniqueFd::~UniqueFd()
+{
+    if (m_fd >= 0)
+    {
+        close(m_fd);
+    }
+}
+
+FileMapping::FileMapping(int fd, std::size_t size)
+{
+    if (size == 0)
+    {
+        // The system maps no empty range.
+        m_isValid = true;
+        return;
+    }
+    void* const address = mmap(nullptr, size, PROT_READ, MAP_PRIVATE, fd, 0);
+    if (address != MAP_FAILED)
+    {
+        m_isValid = true;
+        m_content = Bytes(static_cast<std::uint8_t const*>(address), size);
+    }
+}
+
+FileMapping::~FileMapping()
+{
+    if (!m_content.empty())
+    {
+        munmap(const_cast<std::uint8_t*>(m_content.data()), m_content.size());
+    }
+}
+
+bool WriteAll(int fd, Bytes bytes)
+{
+    while (!bytes.empty())
+    {
+        ssize_t const written = write(fd, bytes.data(), bytes.size());
+        if (written == 0)
+        {
+            errno = EIO; // a file that takes nothing and says nothing would be written to for ever
+        }
+        if (written == 0 || (written < 0 && errno != EINTR))
+        {
+            return false;
+        }
+        bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size)
+{
+    std::size_t done = 0;
+    while (done < size)
+    {
+        ssize_t const count =
+            pread(fd, static_cast<char*>(target) + done, size - done, static_cast<off_t>(offset + done));
+        if (count < 0 && errno == EINTR)
+        {
+            continue;
+        }
+        if (count < 0)
+        {
+            return -1;
+        }
+        if (count == 0)
+        {
+            break;
+        }
+        done += static_cast<std::size_t>(count);
+    }
+    return static_cast<ssize_t>(done);
+}
+
+} // namespace Pelnar::Engine

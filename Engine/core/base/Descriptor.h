@@ -1,0 +1,60 @@
+// Descriptor.h: open files: closed with their scope, mapped, read and written whole.
+#pragma once
+
+#include "Engine/core/base/Bytes.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
+
+#include <sys/types.h>
+
+namespace Pelnar::Engine
+{
+
+/// Closes a descriptor on every way out of a scope.
+class UniqueFd
+{
+public:
+    UniqueFd() = default;
+    explicit UniqueFd(int fd) : m_fd(fd) {}
+    UniqueFd(UniqueFd&& other) noexcept : m_fd(std::exchange(other.m_fd, -1)) {}
+    UniqueFd& operator=(UniqueFd&& other) noexcept
+    {
+        std::swap(m_fd, other.m_fd);
+        return *this;
+    }
+    ~UniqueFd();
+
+    int Get() const { return m_fd; }
+    explicit operator bool() const { return m_fd >= 0; }
+
+private:
+    int m_fd = -1;
+};
+
+/// A file's bytes, mapped to be read.
+class FileMapping
+{
+public:
+    /// The first \a size bytes of the file open at \a fd.
+    FileMapping(int fd, std::size_t size);
+    ~FileMapping();
+    FileMapping(FileMapping const&) = delete;
+    FileMapping& operator=(FileMapping const&) = delete;
+
+    [[nodiscard]] bool IsValid() const { return m_isValid; }
+    Bytes Content() const { return m_content; }
+
+private:
+    bool m_isValid = false;
+    Bytes m_content;
+};
+
+/// False, with errno, when not every byte could be written.
+[[nodiscard]] bool WriteAll(int fd, Bytes bytes);
+
+/// Bytes of the file from \a offset on, fewer than \a size only where it ends; their number, or -1 with errno.
+[[nodiscard]] ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size);
+
+} // namespace Pelnar::Engine

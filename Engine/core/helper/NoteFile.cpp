@@ -1,0 +1,146 @@
+#include "Engine/core/helper/NoteFile.h"
+
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/faults/UpdateFault.h"
+#include "Engine/core/helper/StagingFolder.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <stdio.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+constexpr mode_t FOLDER_MODE = 0700;
+constexpr mode_t NOTE_MODE = 0600;
+constexpr mode_t OTHERS_CAN_WRITE = 0022;
+constexpr mode_t ALL_BITS = 07777;
+
+void SyncOrThrow(int descriptor)
+{
+    if (::fsync(descriptor) != 0)
+    {
+        ThrowErrno(errno, UpdateFault::SyncFailed);
+    }
+}
+
+} // namespace
+
+void MakeFoldersAbove(std::string const& path)
+{
+    for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
+    {
+        static_cast<void>(::mkdir(path.substr(0, end).c_str(), FOLDER_MODE));
+    }
+}
+
+UniqueFd OpenPrivateFolder(std::string const& path)
+{
+    static_cast<void>(::mkdir(path.c_str(), FOLDER_MODE));
+    UniqueFd folder;
+    do
+    {
+        folder = UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    } while (!folder && errno == EINTR);
+    struct stat status;
+    if (!folder || ::fstat(folder.Get(), &status) != 0)
+    {
+        return UniqueFd();
+    }
+    if (status.st_uid != ::geteuid() || (status.st_mode & OTHERS_CAN_WRITE) != 0)
+    {
+        errno = EPERM;
+        return UniqueFd();
+    }
+    return folder;
+}
+
+bool IsPrivateFile(int fd)
+{
+    struct stat status;
+    return ::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() &&
+           (status.st_mode & ALL_BITS) == NOTE_MODE;
+}
+
+void FreeName(int folderFd, std::string const& name)
+{
+    if (::unlinkat(folderFd, name.c_str(), 0) == 0 || errno == ENOENT)
+    {
+        return;
+    }
+    // Deliberate: a folder's content does not belong to this user's update.
+    bool const isFolder = errno == EISDIR || errno == EPERM;
+    if (!isFolder || ::renameat(folderFd, name.c_str(), folderFd, AsideName().c_str()) != 0)
+    {
+        ThrowErrno(errno);
+    }
+}
+
+bool RenameOver(int folderFd, std::string const& from, std::string const& to)
+{
+    if (::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0)
+    {
+        return true;
+    }
+    if (errno != EISDIR)
+    {
+        return false;
+    }
+    FreeName(folderFd, to);
+    return ::renameat(folderFd, from.c_str(), folderFd, to.c_str()) == 0;
+}
+
+std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes)
+{
+    UniqueFd const file(::openat(folderFd, name.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC));
+    struct stat status;
+    // Another name of the file may be where others can access it. Without any name, the file was just replaced.
+    if (!file || !IsPrivateFile(file.Get()) || ::fstat(file.Get(), &status) != 0 || status.st_nlink > 1)
+    {
+        return {};
+    }
+    std::string bytes(std::min(maxBytes, static_cast<std::size_t>(status.st_size)), '\0');
+    ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
+    if (count < 0)
+    {
+        ThrowErrno(errno); // the file may have content
+    }
+    bytes.resize(static_cast<std::size_t>(count));
+    return bytes;
+}
+
+void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
+{
+    std::string const newName = name + ".new";
+    FreeName(folderFd, newName);
+    UniqueFd const file(
+        ::openat(folderFd, newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, NOTE_MODE));
+    if (!file || !WriteAll(file.Get(), Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
+    {
+        ThrowErrno(errno);
+    }
+    if (!IsPrivateFile(file.Get()))
+    {
+        throw UpdateRefusal(UpdateFault::PermissionsUnavailable);
+    }
+    SyncOrThrow(file.Get());
+    if (!RenameOver(folderFd, newName, name))
+    {
+        ThrowErrno(errno);
+    }
+    SyncOrThrow(folderFd);
+}
+
+void RemoveNote(int folderFd, std::string const& name)
+{
+    FreeName(folderFd, name);
+    FreeName(folderFd, name + ".new");
+}
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,42 @@
+// NoteFile.h: the small files of an update that outlive the process that wrote them, next to the bundle and next to the
+// downloads.
+// Thread: any, but one at a time for each file; next to a bundle the swap lock ensures this. Ownership: callers own
+// their descriptors.
+#pragma once
+
+#include "Engine/core/base/Descriptor.h"
+
+#include <string>
+#include <string_view>
+
+namespace Pelnar::Engine
+{
+
+/// Creates the missing folders above \a path, for this user alone. Failures appear when the folders are used.
+void MakeFoldersAbove(std::string const& path);
+
+/// Opens the folder \a path, or creates it. The descriptor is empty, and errno is set, if others can write there or the
+/// folder belongs to another user (EPERM), and if the path is not a folder (ENOTDIR, ELOOP).
+UniqueFd OpenPrivateFolder(std::string const& path);
+
+/// True for a regular file of this user that no other user may open.
+[[nodiscard]] bool IsPrivateFile(int fd);
+
+/// Removes the object with this name: a file or a link is deleted, a folder is renamed. Throws UpdateRefusal.
+void FreeName(int folderFd, std::string const& name);
+
+/// Renames a file to a name that may be in use, even by a folder. Returns false and sets errno if it cannot. Throws
+/// UpdateRefusal if a folder cannot be renamed.
+[[nodiscard]] bool RenameOver(int folderFd, std::string const& from, std::string const& to);
+
+/// The content of the file \a name. Empty if there is no such file, or if another user may have written it: the file
+/// counts only if it is private and has no other name. REQUIRES: no other user may write in the folder. Throws
+/// UpdateRefusal if the file cannot be read, because it may exist then. A longer file is cut at \a maxBytes.
+std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes = 64 * 1024);
+/// Replaces the file as a whole, and returns when it is on the disk. Throws UpdateRefusal: PermissionsUnavailable if
+/// the file system keeps no modes.
+void WriteNote(int folderFd, std::string const& name, std::string_view bytes);
+/// Throws UpdateRefusal.
+void RemoveNote(int folderFd, std::string const& name);
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,105 @@
+#include "Engine/core/update/UpdateEnvironment.h"
+
+#include "Engine/core/update/InstallRehearsal.h"
+
+#include <utility>
+
+namespace Pelnar::Engine
+{
+namespace
+{
+
+class Download final : public IDownload
+{
+public:
+    explicit Download(DownloadRequest const& request) : m_download(request) {}
+
+    void Start(std::function<void(DownloadProgress const&)> progress,
+               std::function<void(DownloadOutcome)> finished) override
+    {
+        m_download.Start(std::move(progress), std::move(finished));
+    }
+
+private:
+    ArchiveDownload m_download;
+};
+
+class Helper final : public IHelper
+{
+public:
+    explicit Helper(std::shared_ptr<SealedProgram> program) : m_process(std::move(program)) {}
+
+    void Start(UpdateJob const& job, HelperInheritance const& inherited,
+               std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) override
+    {
+        m_process.Start(job, inherited, std::move(report), std::move(ended));
+    }
+    void Release() override { m_process.Release(); }
+    void Kill() override { m_process.Kill(); }
+
+private:
+    HelperProcess m_process;
+};
+
+OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources,
+                            SealedProgram& helper)
+{
+    OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
+    if (opened)
+    {
+        if (auto error = RehearseInstallation(*opened, helper))
+        {
+            return Failure(*std::move(error));
+        }
+    }
+    return opened;
+}
+
+} // namespace
+
+void UpdateEnvironment::OpenTarget(QString const& bundlePath, quint64 neededBytes,
+                                   std::function<void(OpenedTarget)> opened)
+{
+    m_chores.Run(
+        [this, bundlePath, neededBytes, opened, sources = PackageSources::OfThisProcess()]
+        {
+            auto const target =
+                std::make_shared<OpenedTarget>(OpenWithHelper(bundlePath, neededBytes, sources, *m_helperProgram));
+            QMetaObject::invokeMethod(
+                &m_context, [opened, target] { opened(std::move(*target)); }, Qt::QueuedConnection);
+        });
+}
+
+void UpdateEnvironment::DiscardDownload(DownloadRequest const& request)
+{
+    // Only the names are removed immediately, so that another download of the same archive does not find them.
+    auto const archive = std::make_shared<UniqueFd>(ArchiveDownload::Discard(request));
+    m_chores.Run([archive] { *archive = UniqueFd(); });
+}
+
+void UpdateEnvironment::ClearDownloads(QString const& folder)
+{
+    m_chores.Run([folder] { ArchiveDownload::Clear(folder); });
+}
+
+std::unique_ptr<IDownload> UpdateEnvironment::MakeDownload(DownloadRequest const& request)
+{
+    return std::make_unique<Download>(request);
+}
+
+std::unique_ptr<IHelper> UpdateEnvironment::MakeHelper()
+{
+    return std::make_unique<Helper>(m_helperProgram);
+}
+
+void UpdateEnvironment::DiscardAttempt(std::unique_ptr<InstallAttempt> attempt)
+{
+    m_chores.Run([shared = std::shared_ptr<InstallAttempt>(std::move(attempt))] { shared->TakeBack(); });
+}
+
+void UpdateEnvironment::DiscardUpdate(std::unique_ptr<PreparedUpdate> update)
+{
+    m_chores.Run([shared = std::shared_ptr<PreparedUpdate>(std::move(update))]() mutable { shared.reset(); });
+}
+
+} // namespace Pelnar::Engine

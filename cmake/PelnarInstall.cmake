@@ -42,6 +42,7 @@ install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDE
     PATTERN "SessionDialogs.h" EXCLUDE
     PATTERN "RelaunchLimits.h" EXCLUDE
     PATTERN "UpdateFiles.h" EXCLUDE
+    PATTERN "LogReadiness.h" EXCLUDE
     PATTERN "LogSite.h" EXCLUDE)
 
 install(DIRECTORY Engine/include/Pelnar DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development

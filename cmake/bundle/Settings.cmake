@@ -10,7 +10,12 @@ function(pelnar_bundle_setting name)
 endfunction()
 
 function(pelnar_bundle_fail)
-    list(JOIN ARGN "" text)
+    # Not as a list, from which the semicolons of a text would be missing.
+    set(text)
+    math(EXPR last "${ARGC} - 1")
+    foreach(place RANGE ${last})
+        string(APPEND text "${ARGV${place}}")
+    endforeach()
     message(FATAL_ERROR "${BUNDLE_NAME}.app: ${text}")
 endfunction()
 

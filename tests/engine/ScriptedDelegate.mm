@@ -408,6 +408,24 @@ void WriteEarlierDefaults(QByteArray const& bytes)
     }
 }
 
+QString OwnDefault(QString const& key)
+{
+    @autoreleasepool
+    {
+        NSString* const value = [[NSUserDefaults standardUserDefaults] stringForKey:ToNSString(key)];
+        return value ? ToQString(value) : QString();
+    }
+}
+
+void StoreOwnDefault(QString const& key, QString const& value)
+{
+    @autoreleasepool
+    {
+        [[NSUserDefaults standardUserDefaults] setObject:ToNSString(value) forKey:ToNSString(key)];
+        [[NSUserDefaults standardUserDefaults] synchronize];
+    }
+}
+
 QString TextDefault(char const* key)
 {
     QVariant const value = DefaultNamed(key);

@@ -1,5 +1,6 @@
 // SettingsHost.cpp: a host application that has the engine read or change one user default, and says it.
-// Usage: Notely get | on | off
+// Usage: Notely get | on | off [OWN]   with OWN, it also stores that text in its own defaults, before and after, and
+//                                      says what it reads there
 
 #include "tests/engine/ScriptedDelegate.h"
 
@@ -17,11 +18,23 @@ int main(int argc, char** argv)
     google::InitGoogleLogging(argv[0]);
     QCoreApplication const application(argc, argv);
     UpdaterDriver driver({});
-    QString const wish = QCoreApplication::arguments().at(1);
-    if (wish != QLatin1String("get"))
+    QStringList const words = QCoreApplication::arguments().mid(1);
+    bool const hasOwn = words.size() == 2;
+    if (hasOwn)
     {
-        driver.SetDownloadsAutomatically(wish == QLatin1String("on"));
+        StoreOwnDefault(QStringLiteral("Before"), words[1]);
+    }
+    if (words[0] != QLatin1String("get"))
+    {
+        driver.SetDownloadsAutomatically(words[0] == QLatin1String("on"));
     }
     std::printf("%s", driver.DownloadsAutomatically() ? "on" : "off");
+    if (hasOwn)
+    {
+        StoreOwnDefault(QStringLiteral("After"), words[1]);
+        std::printf(" %s %s %s", qUtf8Printable(OwnDefault(QStringLiteral("Before"))),
+                    qUtf8Printable(OwnDefault(QStringLiteral("After"))),
+                    qUtf8Printable(OwnDefault(QStringLiteral("SUAutomaticallyUpdate"))));
+    }
     return EXIT_SUCCESS;
 }

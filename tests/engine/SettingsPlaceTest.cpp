@@ -57,12 +57,12 @@ protected:
 
     bool IsThere(char const* name) const { return QFileInfo::exists(Path(name)); }
 
-    /// What the application says, started by the path \a name and told \a wish.
-    std::string Run(char const* wish, char const* name = "Notely.app/Notely")
+    /// What the application says, started by the path \a name and told \a wishes, with blanks between them.
+    std::string Run(char const* wishes, char const* name = "Notely.app/Notely")
     {
         QProcess process;
         process.setProcessEnvironment(environment);
-        process.start(Path(name), {QString::fromLatin1(wish)});
+        process.start(Path(name), QString::fromLatin1(wishes).split(QLatin1Char(' ')));
         EXPECT_TRUE(process.waitForFinished());
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         log = process.readAllStandardError().toStdString();
@@ -149,6 +149,17 @@ TEST_F(SettingsPlace, BrokenOldFileIsLeftAndSaid)
     EXPECT_EQ(Run("on"), "on");
     EXPECT_EQ(Run("get"), "on");
     EXPECT_EQ(Read(EARLIER), "{ SUAutomaticallyUpdate = YES;");
+}
+
+TEST_F(SettingsPlace, HostThatUsesFoundationKeepsItsOwnDefaults)
+{
+    EXPECT_EQ(Run("on one"), "on one one ");
+    EXPECT_NE(Read(EARLIER).find("one"), std::string::npos) << "where Foundation keeps them";
+    EXPECT_EQ(Read(EARLIER).find("SUAutomaticallyUpdate"), std::string::npos) << Read(EARLIER);
+    EXPECT_EQ(Read(IN_HOME).find("Before"), std::string::npos) << Read(IN_HOME);
+    EXPECT_EQ(Run("off two"), "off two two ");
+    EXPECT_EQ(Run("get"), "off");
+    EXPECT_NE(Read(EARLIER).find("two"), std::string::npos) << Read(EARLIER);
 }
 
 TEST_F(SettingsPlace, CommandLineAndSharedDefaultsStillCount)

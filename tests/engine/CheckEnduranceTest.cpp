@@ -39,17 +39,17 @@ protected:
         WaitForWriters();
     }
 
-    int TemporaryFiles() const
+    QStringList TemporaryFiles() const
     {
-        int count = 0;
+        QStringList names;
         QDirIterator entries(m_temporary.path(), QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
                              QDirIterator::Subdirectories);
         while (entries.hasNext())
         {
-            entries.next();
-            ++count;
+            names.append(entries.next());
         }
-        return count;
+        names.sort();
+        return names;
     }
 
 private:
@@ -61,18 +61,22 @@ private:
         NoServer,
     };
 
-    /// What the checks leave to be written is written beside them.
-    static void WaitForWriters()
+    /// What the checks leave to be written is written beside them, and then gets its name.
+    void WaitForWriters() const
     {
         EXPECT_TRUE(WaitFor(
-            []
+            [this]
             {
                 ProcessFootprint const now = MeasureFootprint();
-                return std::none_of(now.descriptors.begin(), now.descriptors.end(),
-                                    [](std::string const& path) {
-                                        return path.find("PelnarFeeds") != std::string::npos ||
-                                               path.find("kept.feed") != std::string::npos;
-                                    });
+                QStringList const files = TemporaryFiles();
+                bool const isNamed =
+                    std::none_of(files.begin(), files.end(),
+                                 [](QString const& path) { return path.endsWith(QLatin1String(".new")); });
+                return isNamed && std::none_of(now.descriptors.begin(), now.descriptors.end(),
+                                               [](std::string const& path) {
+                                                   return path.find("PelnarFeeds") != std::string::npos ||
+                                                          path.find("kept.feed") != std::string::npos;
+                                               });
             }));
     }
 
@@ -149,7 +153,7 @@ TEST_F(CheckEndurance, ThousandChecksLeaveNothingBehind)
     bool const isEvery = std::getenv("PELNAR_EVERY_PLACE") != nullptr;
     Check(isEvery ? 10 : 5);
     ProcessFootprint const before = MeasureFootprint();
-    int const filesBefore = TemporaryFiles();
+    QStringList const filesBefore = TemporaryFiles();
     Check(isEvery ? 1000 / ROUND : 5);
     ProcessFootprint const after = ExpectNoGrowth(before);
     EXPECT_EQ(TemporaryFiles(), filesBefore);

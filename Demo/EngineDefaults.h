@@ -11,7 +11,7 @@ namespace Pelnar::Demo
 /// Selects the platform whose feed items count: "macos" or "linux". Without a call, the engine's own platform counts.
 void SetFeedPlatform(QString const& platform);
 
-/// The text under \a key in the running bundle's information file; empty if there is none.
+/// The text under \a key in the running bundle's information file, or an empty text.
 QString BundleText(QString const& key);
 
 } // namespace Pelnar::Demo

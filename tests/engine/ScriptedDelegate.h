@@ -149,7 +149,7 @@ void SpoilDefaults(QByteArray const& bytes);
 QString EarlierDefaultsFolder();
 /// Puts \a bytes in the place of that file.
 void WriteEarlierDefaults(QByteArray const& bytes);
-/// A default of the host's own, which Foundation keeps; empty if there is none.
+/// A default that the host itself stored through Foundation, or an empty text.
 QString OwnDefault(QString const& key);
 void StoreOwnDefault(QString const& key, QString const& value);
 /// Empty when there is no such default, or it is no text.

@@ -14,7 +14,7 @@ struct ProcessMark
     bool operator==(ProcessMark const& other) const { return number == other.number && startTime == other.startTime; }
 };
 
-/// When the process with that number started, in the kernel's ticks; 0 if there is none, or it has ended.
+/// The start time of a running process, in the kernel's ticks; 0 if no process with that number runs.
 std::uint64_t StartTimeOf(std::uint64_t process);
 
 ProcessMark MarkOfThisProcess();

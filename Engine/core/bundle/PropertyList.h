@@ -24,7 +24,7 @@ struct PropertyListValue
     std::vector<PropertyListValue> items;                              ///< List
     std::vector<std::pair<std::string, PropertyListValue>> properties; ///< Dictionary, in the file's order
 
-    /// The text under \a key; empty if there is none, or it is not text.
+    /// The text under \a key, or an empty text if the value is missing or of another kind.
     std::optional<std::string> TextOf(std::string_view key) const;
 };
 

@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 struct BackOffState
 {
     int failures = 0;      ///< failed background checks in a row, including downloads and preparations
-    QDateTime lastFailure; ///< invalid if there is none
+    QDateTime lastFailure; ///< invalid while no failure is stored
 
     bool operator==(BackOffState const& other) const
     {

@@ -119,7 +119,8 @@ private:
         return entries;
     }
 
-    /// The file offset of the content that is loaded at \a address; past every file's end if there is none.
+    /// The file offset of the content that is loaded at \a address. If the file loads nothing there, the offset lies
+    /// behind the end of any file.
     std::uint64_t OffsetOf(std::uint64_t address) const
     {
         for (Segment const& segment : m_segments)

@@ -31,7 +31,7 @@ public:
 
     AlertBox* operator->() const { return m_box; }
 
-    /// The button that ended the dialog; null if there is none, or if the dialog was destroyed.
+    /// The button that ended the dialog. Null if the dialog ended without a button, or was destroyed.
     QAbstractButton* Run(std::function<void()>& closeDialog)
     {
         Core::ValueGuard<std::function<void()>> const guard(closeDialog,

@@ -1,5 +1,6 @@
 #include "Publisher/files/InputFile.h"
 
+#include "Engine/core/base/Descriptor.h"
 #include "Publisher/Refusal.h"
 
 #include <QFile>
@@ -39,21 +40,11 @@ QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString 
                        QStringLiteral("is of %1 bytes, where at most %2 are read").arg(file.size).arg(maxBytes), mend});
     }
     QByteArray bytes(static_cast<int>(file.size), '\0');
-    int done = 0;
-    while (done < bytes.size())
+    ssize_t const count = Engine::ReadUpTo(file.descriptor.Get(), 0, bytes.data(), std::size_t(bytes.size()));
+    if (count != bytes.size())
     {
-        ssize_t const count =
-            ::pread(file.descriptor.Get(), bytes.data() + done, static_cast<std::size_t>(bytes.size() - done), done);
-        if (count < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (count <= 0)
-        {
-            RefuseFile(file.name, QStringLiteral("cannot be read to its end"), count < 0 ? errno : EIO,
-                       QStringLiteral("check the disk, and that nobody changes the file meanwhile"));
-        }
-        done += static_cast<int>(count);
+        RefuseFile(file.name, QStringLiteral("cannot be read to its end"), count < 0 ? errno : EIO,
+                   QStringLiteral("check the disk, and that nobody changes the file meanwhile"));
     }
     return bytes;
 }

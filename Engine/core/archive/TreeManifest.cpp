@@ -30,18 +30,14 @@ ContentHash HashFile(int parentFd, std::string const& name, std::uint64_t& size)
     size = 0;
     for (;;)
     {
-        ssize_t const count = ::read(file.Get(), buffer.data(), buffer.size());
+        ssize_t const count = ReadUpTo(file.Get(), size, buffer.data(), buffer.size());
+        if (count < 0)
+        {
+            ThrowErrno(errno);
+        }
         if (count == 0)
         {
             return hasher.Finish();
-        }
-        if (count < 0)
-        {
-            if (errno == EINTR)
-            {
-                continue;
-            }
-            ThrowErrno(errno);
         }
         hasher.Add(Bytes(buffer.data(), static_cast<std::size_t>(count)));
         size += static_cast<std::uint64_t>(count);

@@ -83,4 +83,16 @@ ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size)
     return static_cast<ssize_t>(done);
 }
 
+std::optional<std::string> ReadStart(int fd, std::size_t maxBytes)
+{
+    std::string bytes(maxBytes, '\0');
+    ssize_t const count = ReadUpTo(fd, 0, bytes.data(), bytes.size());
+    if (count < 0)
+    {
+        return std::nullopt;
+    }
+    bytes.resize(static_cast<std::size_t>(count));
+    return bytes;
+}
+
 } // namespace Pelnar::Engine

@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include <sys/types.h>
@@ -56,5 +58,8 @@ private:
 
 /// Bytes of the file from \a offset on, fewer than \a size only where it ends; their number, or -1 with errno.
 [[nodiscard]] ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size);
+
+/// The first bytes of the file, at most \a maxBytes; empty, with errno, when they cannot be read.
+[[nodiscard]] std::optional<std::string> ReadStart(int fd, std::size_t maxBytes);
 
 } // namespace Pelnar::Engine

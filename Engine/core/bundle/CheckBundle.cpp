@@ -1,5 +1,6 @@
 #include "Engine/core/bundle/CheckBundle.h"
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/bundle/PropertyList.h"
 #include "Engine/core/faults/UpdateFault.h"
@@ -81,23 +82,12 @@ std::string ReadInformation(int bundleFd)
     {
         throw UpdateRefusal(UpdateFault::InformationMissing, file ? 0 : errno);
     }
-    std::string text(PROPERTY_LIST_MAX_BYTES + 1, '\0');
-    std::size_t size = 0;
-    while (size < text.size())
+    std::optional<std::string> text = ReadStart(file.Get(), PROPERTY_LIST_MAX_BYTES + 1);
+    if (!text)
     {
-        ssize_t const count = ::read(file.Get(), text.data() + size, text.size() - size);
-        if (count < 0 && errno != EINTR)
-        {
-            ThrowErrno(errno);
-        }
-        if (count == 0)
-        {
-            break;
-        }
-        size += count < 0 ? 0 : static_cast<std::size_t>(count);
+        ThrowErrno(errno);
     }
-    text.resize(size);
-    return text;
+    return *std::move(text);
 }
 
 BundlePurpose PurposeOf(PayloadKind kind)

@@ -1,10 +1,11 @@
 #include "Engine/core/bundle/TrustedKeys.h"
 
+#include "Engine/core/base/Descriptor.h"
+
 #include <sodium.h>
 
 #include <algorithm>
 
-#include <sys/mman.h>
 #include <sys/stat.h>
 
 namespace Pelnar::Engine
@@ -13,32 +14,6 @@ namespace
 {
 
 constexpr std::size_t ID_BYTES = 8;
-
-/// A file's bytes, mapped for reading while this lives.
-class MappedFile
-{
-public:
-    MappedFile(int descriptor, std::size_t size)
-        : m_size(size), m_bytes(::mmap(nullptr, size, PROT_READ, MAP_PRIVATE, descriptor, 0))
-    {
-    }
-    ~MappedFile()
-    {
-        if (IsMapped())
-        {
-            ::munmap(m_bytes, m_size);
-        }
-    }
-    MappedFile(MappedFile const&) = delete;
-    MappedFile& operator=(MappedFile const&) = delete;
-
-    bool IsMapped() const { return m_bytes != MAP_FAILED; }
-    unsigned char const* Bytes() const { return static_cast<unsigned char const*>(m_bytes); }
-
-private:
-    std::size_t m_size;
-    void* m_bytes;
-};
 
 UpdateFault ReadSignature(std::string_view text, TrustedKeys const& keys, Ed25519SignatureBytes& signature)
 {
@@ -143,12 +118,8 @@ UpdateFault VerifyFileSignature(int descriptor, std::string_view signatureText, 
         return UpdateFault::ArchiveEmpty;
     }
     auto const size = static_cast<std::size_t>(status.st_size);
-    MappedFile const file(descriptor, size);
-    if (!file.IsMapped())
-    {
-        return UpdateFault::ArchiveUnreadable;
-    }
-    return Judge(keys, signature, file.Bytes(), size);
+    FileMapping const file(descriptor, size);
+    return file.IsValid() ? Judge(keys, signature, file.Content().data(), size) : UpdateFault::ArchiveUnreadable;
 }
 
 } // namespace Pelnar::Engine

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QUrl>
 
-#include <array>
 #include <cerrno>
 #include <ctime>
 #include <utility>
@@ -235,21 +234,8 @@ std::optional<PartialRecord> PartialFile::ReadRecord() const
     {
         return std::nullopt;
     }
-    std::array<char, MAX_PARTIAL_RECORD_BYTES + 1> bytes{};
-    std::size_t size = 0;
-    for (;;)
-    {
-        ssize_t const count = read(file.Get(), bytes.data() + size, bytes.size() - size);
-        if (count < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (count <= 0)
-        {
-            return count == 0 ? Recent(DecodePartialRecord({bytes.data(), size}), status.st_mtime) : std::nullopt;
-        }
-        size += static_cast<std::size_t>(count);
-    }
+    std::optional<std::string> const bytes = ReadStart(file.Get(), MAX_PARTIAL_RECORD_BYTES + 1);
+    return bytes ? Recent(DecodePartialRecord(*bytes), status.st_mtime) : std::nullopt;
 }
 
 PartialFile::Fault PartialFile::Restart(Validators const& validators)

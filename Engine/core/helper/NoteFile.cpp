@@ -105,14 +105,13 @@ std::string ReadNote(int folderFd, std::string const& name, std::size_t maxBytes
     {
         return {};
     }
-    std::string bytes(std::min(maxBytes, static_cast<std::size_t>(status.st_size)), '\0');
-    ssize_t const count = ReadUpTo(file.Get(), 0, bytes.data(), bytes.size());
-    if (count < 0)
+    std::optional<std::string> bytes =
+        ReadStart(file.Get(), std::min(maxBytes, static_cast<std::size_t>(status.st_size)));
+    if (!bytes)
     {
         ThrowErrno(errno); // the file may have content
     }
-    bytes.resize(static_cast<std::size_t>(count));
-    return bytes;
+    return *std::move(bytes);
 }
 
 void WriteNote(int folderFd, std::string const& name, std::string_view bytes)

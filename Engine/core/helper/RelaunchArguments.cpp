@@ -1,11 +1,9 @@
 #include "Engine/core/helper/RelaunchArguments.h"
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/FieldCodec.h"
 
-#include <cerrno>
-
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace Pelnar::Engine
 {
@@ -44,18 +42,8 @@ std::vector<std::string> ReadRelaunchArguments(int fd)
     {
         return {};
     }
-    std::string bytes(MAX_FILE_BYTES + 1, '\0');
-    std::size_t size = 0;
-    while (size < bytes.size())
-    {
-        ssize_t const count = ::pread(fd, bytes.data() + size, bytes.size() - size, static_cast<off_t>(size));
-        if (count == 0 || (count < 0 && errno != EINTR))
-        {
-            break;
-        }
-        size += count < 0 ? 0 : static_cast<std::size_t>(count);
-    }
-    return DecodeRelaunchArguments(std::string_view(bytes).substr(0, size)).value_or(std::vector<std::string>());
+    std::optional<std::string> const bytes = ReadStart(fd, MAX_FILE_BYTES + 1);
+    return bytes ? DecodeRelaunchArguments(*bytes).value_or(std::vector<std::string>()) : std::vector<std::string>();
 }
 
 } // namespace Pelnar::Engine

@@ -1,6 +1,7 @@
 #include "Engine/core/update/SealedProgram.h"
 
 #include "Engine/core/base/ContentHasher.h"
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/update/SealedMemory_p.h"
@@ -24,22 +25,19 @@ template <typename Sink>
 void ReadWhole(int fd, Sink const& sink)
 {
     std::vector<std::uint8_t> buffer(COPY_BYTES);
-    for (off_t place = 0;;)
+    for (std::uint64_t place = 0;;)
     {
-        ssize_t const count = ::pread(fd, buffer.data(), buffer.size(), place);
+        ssize_t const count = ReadUpTo(fd, place, buffer.data(), buffer.size());
+        if (count < 0)
+        {
+            throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+        }
         if (count == 0)
         {
             return;
         }
-        if (count > 0)
-        {
-            sink(Bytes(buffer.data(), static_cast<std::size_t>(count)));
-            place += count;
-        }
-        else if (errno != EINTR)
-        {
-            throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
-        }
+        sink(Bytes(buffer.data(), static_cast<std::size_t>(count)));
+        place += static_cast<std::uint64_t>(count);
     }
 }
 

@@ -63,20 +63,35 @@ UpdateRun::~UpdateRun()
 void UpdateRun::Start()
 {
     QMetaObject::invokeMethod(
-        this, [this] { Begin(); }, Qt::QueuedConnection);
+        this, [this] { Take(RunEvent::Started); }, Qt::QueuedConnection);
 }
 
-void UpdateRun::Begin()
+void UpdateRun::Take(RunEvent event)
+{
+    if (auto const transition = TransitionAt(m_phase, event, m_mode))
+    {
+        m_phase = transition->next;
+        (static_cast<IUpdateSteps*>(this)->*transition->step)();
+    }
+}
+
+void UpdateRun::Fail(RunEvent event, EngineError error)
+{
+    m_error = std::move(error);
+    Take(event);
+}
+
+void UpdateRun::OpenTarget()
 {
     if (Current().item.policy.isInformational)
     {
-        Ask();
+        Take(RunEvent::PageOffered);
         return;
     }
     // Every possible refusal comes before a person is asked and a byte is fetched.
     if (auto fault = FaultOf(m_settings.bundle))
     {
-        Finish(std::move(fault));
+        Fail(RunEvent::Refused, *std::move(fault));
         return;
     }
     auto const isUseless = [](UpdateCandidate const& candidate) { return FaultOf(candidate.item).has_value(); };
@@ -84,7 +99,7 @@ void UpdateRun::Begin()
     m_candidates.erase(std::remove_if(m_candidates.begin(), m_candidates.end(), isUseless), m_candidates.end());
     if (m_candidates.empty())
     {
-        Finish(fault);
+        Fail(RunEvent::Refused, *fault);
         return;
     }
     m_parts.OpenTarget(m_settings.bundle.path, NeededBytes(m_candidates), Guarded(&UpdateRun::TakeTarget));
@@ -94,23 +109,15 @@ void UpdateRun::TakeTarget(OpenedTarget target)
 {
     if (!target)
     {
-        Finish(target.error());
+        Fail(RunEvent::Refused, target.error());
         return;
     }
     m_target = *std::move(target);
-    if (HasWindows())
-    {
-        Ask();
-    }
-    else
-    {
-        Download();
-    }
+    Take(RunEvent::TargetOpened);
 }
 
 void UpdateRun::Ask()
 {
-    m_phase = Phase::Asking;
     m_windows.ShowUpdate(OfferOf(Current().item, m_settings.bundle), m_origin, Guarded(&UpdateRun::TakeChoice));
 }
 
@@ -119,26 +126,29 @@ void UpdateRun::TakeChoice(UpdateChoice choice)
     switch (choice)
     {
     case UpdateChoice::SkipThisVersion:
-        if (NotifyHostOrFinish("the skipping of a version",
-                               [this] { m_host.SkipVersion(Current().item.versionString); }))
-        {
-            Finish(std::nullopt);
-        }
+        Take(RunEvent::Skipped);
         return;
     case UpdateChoice::RemindMeLater:
-        Finish(std::nullopt);
+        Take(RunEvent::PutOff);
         return;
     case UpdateChoice::InstallUpdate:
         // From now on a person waits, even if the check was automatic.
         m_asked = PersonAsked::Yes;
-        Download();
+        Take(RunEvent::Agreed);
         return;
+    }
+}
+
+void UpdateRun::Skip()
+{
+    if (NotifyHostOrFinish("the skipping of a version", [this] { m_host.SkipVersion(Current().item.versionString); }))
+    {
+        Take(RunEvent::PutOff);
     }
 }
 
 void UpdateRun::Download()
 {
-    m_phase = Phase::Downloading;
     if (HasWindows())
     {
         m_windows.ShowDownload(NamedUpdate(), Guarded(&UpdateRun::Cancel));
@@ -164,17 +174,17 @@ void UpdateRun::Download()
             }
             else
             {
-                Prepare(std::move(outcome.archive));
+                m_archive = std::move(outcome.archive);
+                Take(RunEvent::Downloaded);
             }
         });
 }
 
-void UpdateRun::Prepare(UniqueFd archive)
+void UpdateRun::Prepare()
 {
-    m_phase = Phase::Preparing;
     m_preparation = std::make_unique<UpdatePreparation>(m_parts);
     auto const error = m_preparation->Start(
-        *m_target, PreparationOf(Current(), m_settings.bundle, m_target->name), std::move(archive),
+        *m_target, PreparationOf(Current(), m_settings.bundle, m_target->name), std::move(m_archive),
         [this](ProgressReport const& progress)
         {
             if (HasWindows())
@@ -202,15 +212,7 @@ void UpdateRun::TakePrepared(UpdatePreparation::Outcome outcome)
     }
     m_preparation.reset();
     m_prepared = *std::move(outcome);
-    m_phase = Phase::Ready;
-    if (HasWindows())
-    {
-        AskToInstall();
-    }
-    else
-    {
-        OfferOnQuit();
-    }
+    Take(RunEvent::Prepared);
 }
 
 void UpdateRun::FailCandidate(EngineError const& error)
@@ -219,11 +221,12 @@ void UpdateRun::FailCandidate(EngineError const& error)
     {
         m_parts.DiscardDownload(DownloadOf(Current().item, m_settings));
     }
-    if (m_candidates.size() < 2)
-    {
-        Finish(error);
-        return;
-    }
+    Fail(m_candidates.size() < 2 ? RunEvent::LastCandidateFailed : RunEvent::CandidateFailed, error);
+}
+
+void UpdateRun::DownloadNext()
+{
+    EngineError const error = *std::exchange(m_error, std::nullopt);
     LOG(WARNING) << "The small update failed, and the whole one is fetched: " << error.sentence.English().toStdString()
                  << " " << error.detail.toStdString();
     m_candidates.erase(m_candidates.begin());
@@ -232,23 +235,20 @@ void UpdateRun::FailCandidate(EngineError const& error)
 
 void UpdateRun::AskToInstall()
 {
-    m_windows.ShowReadyToInstall(NamedUpdate(), m_origin,
-                                 [self = QPointer<UpdateRun>(this)](ReadyChoice choice)
-                                 {
-                                     if (!self)
-                                     {
-                                         return;
-                                     }
-                                     switch (choice)
-                                     {
-                                     case ReadyChoice::Later:
-                                         self->Cancel();
-                                         return;
-                                     case ReadyChoice::InstallAndRelaunch:
-                                         self->InstallNow(RelaunchWish::Relaunch);
-                                         return;
-                                     }
-                                 });
+    m_windows.ShowReadyToInstall(NamedUpdate(), m_origin, Guarded(&UpdateRun::TakeReadyChoice));
+}
+
+void UpdateRun::TakeReadyChoice(ReadyChoice choice)
+{
+    switch (choice)
+    {
+    case ReadyChoice::Later:
+        Cancel();
+        return;
+    case ReadyChoice::InstallAndRelaunch:
+        InstallNow(RelaunchWish::Relaunch);
+        return;
+    }
 }
 
 void UpdateRun::OfferOnQuit()
@@ -256,80 +256,69 @@ void UpdateRun::OfferOnQuit()
     ItemIndex const place = Current().place;
     auto const installNow = Guarded(&UpdateRun::InstallNow);
     if (NotifyHostOrFinish("updater:willInstallUpdateOnQuit:immediateInstallationInvocation:",
-                           [this, place, &installNow] { m_host.TellWillInstallOnQuit(place, installNow); }) &&
-        m_phase == Phase::Ready)
+                           [this, place, &installNow] { m_host.TellWillInstallOnQuit(place, installNow); }))
     {
-        if (m_isGivenUp)
-        {
-            DropDeclinedUpdate();
-        }
-        else
-        {
-            Arm();
-        }
+        Take(m_isGivenUp ? RunEvent::Declined : RunEvent::Offered);
     }
 }
 
 void UpdateRun::InstallNow(RelaunchWish wish)
 {
-    if (m_phase != Phase::Ready && m_phase != Phase::Armed)
+    if (!TransitionAt(m_phase, RunEvent::InstallNow, m_mode))
     {
         LOG(WARNING) << "The update is being installed already, or has ended; the installation at once is ignored";
         return;
     }
-    bool const wasArmed = m_phase == Phase::Armed;
-    m_phase = Phase::Deciding;
+    m_wish = wish;
+    Take(RunEvent::InstallNow);
+}
+
+void UpdateRun::AskHost()
+{
     RelaunchAnswer answer = RelaunchAnswer::Refused;
-    if (!NotifyHostOrFinish("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    if (NotifyHostOrFinish("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
     {
-        return;
-    }
-    if (answer == RelaunchAnswer::Refused || m_isGivenUp)
-    {
-        DropDeclinedUpdate();
-        return;
-    }
-    switch (wish)
-    {
-    case RelaunchWish::StayClosed:
-        if (wasArmed)
-        {
-            m_phase = Phase::Armed;
-        }
-        else
-        {
-            Arm();
-        }
-        return;
-    case RelaunchWish::Relaunch:
-        Relaunch();
-        return;
+        bool const isDeclined = answer == RelaunchAnswer::Refused || m_isGivenUp;
+        Take(isDeclined                         ? RunEvent::Declined
+             : m_wish == RelaunchWish::Relaunch ? RunEvent::RelaunchAllowed
+                                                : RunEvent::InstallAllowed);
     }
 }
 
-void UpdateRun::DropDeclinedUpdate()
+void UpdateRun::AskForPath()
 {
-    ItemIndex const place = Current().place;
+    QString path;
+    if (NotifyHostOrFinish("pathToRelaunchForUpdater:", [this, &path] { path = m_host.PathToRelaunch(); }))
+    {
+        m_relaunchPath = path;
+        Take(m_isGivenUp ? RunEvent::Declined : RunEvent::PathGiven);
+    }
+}
+
+void UpdateRun::Drop()
+{
+    Clear();
+    if (NotifyHostOrFinish("updater:didCancelInstallUpdateOnQuit:",
+                           [this, place = Current().place] { m_host.TellCancelledInstallOnQuit(place); }))
+    {
+        Take(RunEvent::Dropped);
+    }
+}
+
+void UpdateRun::Clear()
+{
+    m_download.reset();
+    m_preparation.reset();
     if (m_handover)
     {
         m_handover->Cancel();
         m_handover.reset();
     }
-    DropAttempt();
-    DropPrepared();
-    if (NotifyHostOrFinish("updater:didCancelInstallUpdateOnQuit:",
-                           [this, place] { m_host.TellCancelledInstallOnQuit(place); }))
-    {
-        Finish(std::nullopt);
-    }
-}
-
-void UpdateRun::DropAttempt()
-{
     if (m_attempt)
     {
         m_parts.DiscardAttempt(std::move(m_attempt));
     }
+    DropPrepared();
 }
 
 void UpdateRun::DropPrepared()
@@ -352,7 +341,7 @@ InstallJob UpdateRun::InstallationJob() const
     return job;
 }
 
-std::optional<EngineError> UpdateRun::HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting)
+bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
 {
     try
     {
@@ -363,53 +352,38 @@ std::optional<EngineError> UpdateRun::HandOver(InstallJob job, InstallWish wish,
     }
     catch (UpdateRefusal const& refusal)
     {
-        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+        FailHandover(MakeFaultError(refusal.Fault(), refusal.ErrorNumber()));
+        return false;
     }
     m_attempt->Describe(job, wish);
     m_handover = std::make_unique<InstallHandover>(m_parts);
-    return m_handover->Start(*m_target, *m_prepared, m_attempt->Folder(), std::move(job), std::move(waiting),
-                             Guarded(&UpdateRun::FailHandover));
+    auto const error = m_handover->Start(
+        *m_target, *m_prepared, m_attempt->Folder(), std::move(job), [this] { Take(RunEvent::HelperWaits); },
+        [this](EngineError const& failure) { FailHandover(failure); });
+    if (error)
+    {
+        FailHandover(*error);
+    }
+    return !error;
 }
 
 void UpdateRun::Arm()
 {
-    auto const wish = m_asked == PersonAsked::Yes ? InstallWish::Person : InstallWish::Automatic;
-    auto const error = HandOver(InstallationJob(), wish, [] {});
-    if (error)
-    {
-        Finish(*error);
-        return;
-    }
-    m_phase = Phase::Armed;
-    LOG(INFO) << "Update " << EscapedRemoteText(Current().item.versionString).toStdString()
-              << " is installed when the application ends";
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &UpdateRun::AskAtQuit);
-}
-
-void UpdateRun::AskAtQuit()
-{
-    if (m_phase != Phase::Armed)
+    if (m_handover)
     {
         return;
     }
-    RelaunchAnswer answer = RelaunchAnswer::Refused;
-    if (!NotifyHostOrFinish("updaterShouldRelaunchApplication:", [this, &answer] { answer = m_host.ShouldRelaunch(); }))
+    if (HandOver(InstallationJob(), m_asked == PersonAsked::Yes ? InstallWish::Person : InstallWish::Automatic))
     {
-        return;
-    }
-    if (answer == RelaunchAnswer::Refused)
-    {
-        DropDeclinedUpdate();
+        LOG(INFO) << "Update " << EscapedRemoteText(Current().item.versionString).toStdString()
+                  << " is installed when the application ends";
+        connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this,
+                [this] { Take(RunEvent::ApplicationQuits); });
     }
 }
 
 void UpdateRun::Relaunch()
 {
-    QString path;
-    if (!NotifyHostOrFinish("pathToRelaunchForUpdater:", [this, &path] { path = m_host.PathToRelaunch(); }))
-    {
-        return;
-    }
     if (m_handover)
     {
         m_handover->Cancel();
@@ -417,18 +391,12 @@ void UpdateRun::Relaunch()
     InstallJob job = InstallationJob();
     job.waitSeconds = RELAUNCH_WAIT_SECONDS;
     job.targetPath = PathBytes(m_target->path);
-    job.relaunchPath = path == m_settings.bundle.path ? std::string() : RelaunchPathOf(path);
+    job.relaunchPath = m_relaunchPath == m_settings.bundle.path ? std::string() : RelaunchPathOf(m_relaunchPath);
     job.environment = EnvironmentOf(environ);
     job.workingFolder = WorkingFolder();
     job.creationMask = CreationMask();
     // A person who wants the new version to start waits for it.
-    auto const error = HandOver(std::move(job), InstallWish::Person, Guarded(&UpdateRun::TellRelaunch));
-    if (error)
-    {
-        Finish(*error);
-        return;
-    }
-    m_phase = Phase::Relaunching;
+    (void)HandOver(std::move(job), InstallWish::Person);
 }
 
 void UpdateRun::TellRelaunch()
@@ -439,21 +407,18 @@ void UpdateRun::TellRelaunch()
 
 void UpdateRun::FailHandover(EngineError const& error)
 {
-    Finish(error);
+    Fail(RunEvent::HelperFailed, error);
 }
 
 void UpdateRun::GiveUpInstallation()
 {
     m_isGivenUp = true;
-    if (m_phase == Phase::Armed || m_phase == Phase::Relaunching)
-    {
-        DropDeclinedUpdate();
-    }
+    Take(RunEvent::SessionEnds);
 }
 
 void UpdateRun::Cancel()
 {
-    Finish(MakeError(ErrorCause::Cancelled));
+    Fail(RunEvent::Cancelled, MakeError(ErrorCause::Cancelled));
 }
 
 NamedVersion UpdateRun::NamedUpdate() const
@@ -465,39 +430,33 @@ bool UpdateRun::NotifyHostOrFinish(char const* what, std::function<void()> const
 {
     QPointer<UpdateRun> const self(this);
     auto const failure = CallDelegate(what, call);
-    if (!self || m_phase == Phase::Ended)
+    if (!self || m_phase == RunPhase::Ended)
     {
         return false;
     }
     if (failure)
     {
-        Finish(failure);
+        Fail(RunEvent::HostRaised, *failure);
         return false;
     }
     return true;
 }
 
-void UpdateRun::Finish(std::optional<EngineError> error)
+void UpdateRun::Finish()
 {
-    // A window of another check, such as an error, stays.
-    bool const mayShowWindow = HasWindows() && m_phase != Phase::Starting;
-    m_phase = Phase::Ended;
-    m_download.reset();
-    m_preparation.reset();
-    if (m_handover)
-    {
-        m_handover->Cancel();
-        m_handover.reset();
-    }
-    DropAttempt();
-    DropPrepared();
-    KeptArguments::OfProcess().Forget();
-    if (mayShowWindow)
+    Clear();
+    if (HasWindows())
     {
         m_windows.Close();
     }
+    End();
+}
+
+void UpdateRun::End()
+{
+    KeptArguments::OfProcess().Forget();
     auto const ended = std::move(m_ended);
-    ended({std::move(error), m_asked});
+    ended({std::move(m_error), m_asked});
 }
 
 } // namespace Pelnar::Engine

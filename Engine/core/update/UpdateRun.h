@@ -1,5 +1,5 @@
 // UpdateRun.h: one update, from the offered item to the helper that installs it: ask, download, prepare, ask again,
-// hand over. An automatic check in an application that downloads automatically skips the first question.
+// hand over. PhaseRules.h says which step follows what; here the steps are carried out.
 // Thread: the Qt main thread. Ownership: its maker owns it; host, windows and parts outlive it. Destroying it before
 // its end removes the prepared files and notifies nobody. A helper that already has the update continues.
 #pragma once
@@ -8,8 +8,8 @@
 #include "Engine/core/update/IUpdateHost.h"
 #include "Engine/core/update/IUserInterface.h"
 #include "Engine/core/update/InstallHandover.h"
+#include "Engine/core/update/PhaseRules.h"
 #include "Engine/core/update/UpdatePreparation.h"
-#include "Engine/core/update/UpdateRules.h"
 #include "Engine/core/update/UpdateSettings.h"
 
 #include <QObject>
@@ -29,7 +29,7 @@ struct UpdateEnd
     PersonAsked asked = PersonAsked::No;
 };
 
-class UpdateRun : public QObject
+class UpdateRun : public QObject, private IUpdateSteps
 {
     Q_OBJECT
 
@@ -48,44 +48,43 @@ public:
     void GiveUpInstallation();
 
 private:
-    enum class Phase
-    {
-        Starting,
-        Asking,
-        Downloading,
-        Preparing,
-        Ready,       ///< prepared; a person or the application is being asked
-        Deciding,    ///< the application decides about an immediate installation
-        Armed,       ///< a helper waits for the application's end, to install without a relaunch
-        Relaunching, ///< a helper waits for the application's end, to install and restart it
-        Ended,
-    };
+    void OpenTarget() override;
+    void Ask() override;
+    void Skip() override;
+    void Download() override;
+    void Prepare() override;
+    void DownloadNext() override;
+    void AskToInstall() override;
+    void OfferOnQuit() override;
+    void AskHost() override;
+    void AskForPath() override;
+    void Arm() override;
+    void Relaunch() override;
+    void TellRelaunch() override;
+    void Drop() override;
+    void End() override;
+    void Finish() override;
 
-    void Begin();
-    void TakeTarget(OpenedTarget target);
-    void Ask();
-    void TakeChoice(UpdateChoice choice);
-    void Download();
-    void Prepare(UniqueFd archive);
-    void TakePrepared(UpdatePreparation::Outcome outcome);
+    /// Goes to the next phase and does its step, which may destroy this object.
+    void Take(RunEvent event);
+    /// The same; \a error is told if the update ends.
+    void Fail(RunEvent event, EngineError error);
     void FailCandidate(EngineError const& error);
-    void AskToInstall();
-    void OfferOnQuit();
+    void TakeTarget(OpenedTarget target);
+    void TakeChoice(UpdateChoice choice);
+    void TakePrepared(UpdatePreparation::Outcome outcome);
+    void TakeReadyChoice(ReadyChoice choice);
     void InstallNow(RelaunchWish wish);
-    void DropDeclinedUpdate();
-    void DropAttempt();
-    void DropPrepared();
-    void Arm();
-    void AskAtQuit();
-    void Relaunch();
-    void TellRelaunch();
-    void FailHandover(EngineError const& error);
     void Cancel();
-    void Finish(std::optional<EngineError> error);
+    void FailHandover(EngineError const& error);
+    /// Ends what the update has begun and removes what it has prepared.
+    void Clear();
+    void DropPrepared();
 
     UpdateCandidate const& Current() const { return m_candidates.front(); }
     InstallJob InstallationJob() const;
-    std::optional<EngineError> HandOver(InstallJob job, InstallWish wish, std::function<void()> waiting);
+    /// False if the update ended, since no helper could take it.
+    [[nodiscard]] bool HandOver(InstallJob job, InstallWish wish);
     NamedVersion NamedUpdate() const;
     bool HasWindows() const { return m_mode == UpdateMode::Windows; }
     /// Wraps \a call for a later time; it is dropped if this object is destroyed by then.
@@ -103,15 +102,19 @@ private:
     IUserInterface& m_windows;
     IUpdateEnvironment& m_parts;
     std::function<void(UpdateEnd)> m_ended;
-    Phase m_phase = Phase::Starting;
+    RunPhase m_phase = RunPhase::Starting;
     PersonAsked m_asked;
     bool m_isGivenUp = false;
+    std::optional<EngineError> m_error; ///< of the update's end
     std::optional<InstallTarget> m_target;
     std::unique_ptr<IDownload> m_download;
+    UniqueFd m_archive; ///< downloaded, not yet prepared
     std::unique_ptr<UpdatePreparation> m_preparation;
     std::unique_ptr<PreparedUpdate> m_prepared;
     std::unique_ptr<InstallAttempt> m_attempt; ///< set at the first handover
     std::unique_ptr<InstallHandover> m_handover;
+    RelaunchWish m_wish = RelaunchWish::StayClosed;
+    QString m_relaunchPath; ///< the application's answer
 };
 
 } // namespace Pelnar::Engine

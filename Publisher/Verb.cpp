@@ -78,6 +78,23 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
                            QString::fromStdString("see " + UnderstoodPart(program) + " --help")});
 }
 
+/// An empty value is a variable of a script that was never set; no verb goes on with one.
+void RefuseEmptyValues(CLI::App& app)
+{
+    for (CLI::Option* const option : app.get_options())
+    {
+        if (option->get_items_expected_max() > 0)
+        {
+            option->check([](std::string const& value)
+                          { return value.empty() ? std::string("no value is given") : std::string(); });
+        }
+    }
+    for (CLI::App* const verb : app.get_subcommands({}))
+    {
+        RefuseEmptyValues(*verb);
+    }
+}
+
 } // namespace
 
 void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use)
@@ -90,6 +107,7 @@ void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use
                              "Print the version and exit");
     AddFeedVerbs(program, context);
     AddArchiveVerbs(program, context);
+    RefuseEmptyValues(program);
     use(program);
 }
 

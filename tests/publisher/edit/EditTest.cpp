@@ -130,6 +130,27 @@ TEST_F(EditTest, VersionThatIsNotThereIsRefused)
     EXPECT_EQ(Feed(), feed.toStdString());
 }
 
+TEST_F(EditTest, EmptyVersionChangesNoItemWithoutOne)
+{
+    Write("notes.md", "New");
+    QByteArray const feed = FeedWith("    <item/>\n    <item><title>News</title></item>\n" + Item("5.2"));
+    Write("appcast.xml", feed);
+    for (QByteArray const& arguments : {"withdraw", "promote --to beta", "edit-notes notes.md"})
+    {
+        QList<QByteArray> words = arguments.split(' ');
+        QByteArray const verb = words.takeFirst();
+        QStringList more{QString()};
+        for (QByteArray const& word : words)
+        {
+            more.append(word == "notes.md" ? Path("notes.md") : QString::fromLatin1(word));
+        }
+        ToolRun const run = Run(verb.constData(), more);
+        EXPECT_EQ(run.status, 2);
+        EXPECT_NE(run.err.find("VERSION: no value is given"), std::string::npos) << run.err;
+        EXPECT_EQ(Feed(), feed.toStdString());
+    }
+}
+
 TEST_F(EditTest, NotesTakeThePlaceOfTheOnesBefore)
 {
     Write("appcast.xml", FeedWith(Item("5.2", "      <description>old</description>\n"

@@ -1,5 +1,6 @@
 // ProgramTest.cpp: the command line as a person types it: help, and what is not understood.
 
+#include "Publisher/Verb.h"
 #include "tests/publisher/support/AppcastTool.h"
 
 #include <gtest/gtest.h>
@@ -12,6 +13,27 @@
 
 namespace Pelnar::Testing
 {
+namespace
+{
+
+/// Calls \a use with each option of \a app and its verbs that takes a value, and with the verbs that lead to it.
+void ForEachValue(CLI::App& app, QStringList const& verbs,
+                  std::function<void(QStringList const&, CLI::Option const&)> const& use)
+{
+    for (CLI::Option const* const option : app.get_options())
+    {
+        if (option->get_items_expected_max() > 0)
+        {
+            use(verbs, *option);
+        }
+    }
+    for (CLI::App* const verb : app.get_subcommands({}))
+    {
+        ForEachValue(*verb, verbs + QStringList(QString::fromStdString(verb->get_name())), use);
+    }
+}
+
+} // namespace
 
 TEST(AppcastProgram, DescribesItself)
 {
@@ -32,6 +54,36 @@ TEST(AppcastProgram, RefusesWhatItDoesNotUnderstand)
         EXPECT_EQ(run.err.find("error: "), 0u) << run.err;
         EXPECT_NE(run.err.find("; see pelnar-appcast --help\n"), std::string::npos) << run.err;
     }
+}
+
+TEST(AppcastProgram, EmptyValueOfAnyOptionIsRefused)
+{
+    std::istringstream in;
+    std::ostringstream out;
+    Publisher::Console console{in, {out}, {out}};
+    Publisher::VerbContext context{console};
+    int values = 0;
+    Publisher::WithProgram(
+        context,
+        [&values](CLI::App& program)
+        {
+            ForEachValue(program, {},
+                         [&values](QStringList const& verbs, CLI::Option const& option)
+                         {
+                             QString const name = QString::fromStdString(option.get_name());
+                             bool const isNamed = name.startsWith(QLatin1Char('-'));
+                             ToolRun const run = RunTool(verbs + (isNamed ? QStringList(name) : QStringList()) +
+                                                         QStringList(QString()));
+                             EXPECT_EQ(run.status, 2) << verbs.join(QLatin1Char(' ')).toStdString();
+                             EXPECT_EQ(run.out, "");
+                             EXPECT_EQ(run.err.find("error: "), 0u) << run.err;
+                             EXPECT_NE(run.err.find(isNamed ? name.toStdString() + ": " : ": no value is given"),
+                                       std::string::npos)
+                                 << run.err;
+                             ++values;
+                         });
+        });
+    EXPECT_GT(values, 60);
 }
 
 TEST(AppcastProgram, TellsItsVersion)

@@ -3,12 +3,15 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/KeyId.h"
 
+#include <QFile>
 #include <QProcess>
 
 #include <cerrno>
 #include <chrono>
+#include <memory>
 
 #include <sys/mman.h>
+#include <wordexp.h>
 
 namespace Pelnar::Publisher
 {
@@ -22,6 +25,25 @@ constexpr int MOST_OUTPUT_BYTES = 4096;
 [[noreturn]] void RefuseSigner(QString const& what, QString const& mend)
 {
     throw Refusal({QStringLiteral("--signer"), 0, 0, what, mend});
+}
+
+/// The words of \a command, as a shell splits it; no command is run to make them.
+QStringList WordsOf(QString const& command)
+{
+    wordexp_t words{};
+    int const fault = ::wordexp(QFile::encodeName(command).constData(), &words, WRDE_NOCMD | WRDE_UNDEF);
+    std::unique_ptr<wordexp_t, void (*)(wordexp_t*)> const owner(&words, &::wordfree);
+    if (fault != 0)
+    {
+        RefuseSigner(QStringLiteral("\"%1\" is not the line of one command").arg(Printable(command.left(200))),
+                     QStringLiteral("close every quote, set every variable, and put what has pipes into a script"));
+    }
+    QStringList texts;
+    for (std::size_t i = 0; i < words.we_wordc; ++i)
+    {
+        texts.append(QFile::decodeName(words.we_wordv[i]));
+    }
+    return texts;
 }
 
 /// Base64 of the signature that a program printed: as it is, or as bytes.
@@ -48,7 +70,7 @@ QByteArray OutputOf(QProcess& process)
     {
         RefuseSigner(
             QStringLiteral("the program \"%1\" cannot be started: %2").arg(process.program(), process.errorString()),
-            QStringLiteral("give the command as you type it; it is started without a shell"));
+            QStringLiteral("give the command as you type it, with the path of its program"));
     }
     QByteArray output;
     auto const end = std::chrono::steady_clock::now() + LONGEST_RUN;
@@ -77,7 +99,7 @@ QByteArray OutputOf(QProcess& process)
 } // namespace
 
 CommandSigner::CommandSigner(QString const& command, std::string publicKey)
-    : m_command(QProcess::splitCommand(command)), m_publicKey(std::move(publicKey))
+    : m_command(WordsOf(command)), m_publicKey(std::move(publicKey))
 {
     if (m_command.isEmpty())
     {

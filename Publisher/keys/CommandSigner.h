@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// The program is started once for each signature, without a shell. What it says on standard error is shown. Every
+/// The program is started once for each signature; its line is split as a shell does it. What it says on standard error is shown. Every
 /// signature is verified at once.
 class CommandSigner final : public ISigner
 {

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace Pelnar::Testing
 {
@@ -74,6 +75,30 @@ TEST_F(ProgramThatSigns, MayWriteTheBytesThemselves)
 TEST_F(ProgramThatSigns, MayLeaveTheArchiveUnread)
 {
     EXPECT_EQ(SignBy("exec <&-\necho '" + m_signature + "'\n").status, 0);
+}
+
+TEST_F(ProgramThatSigns, IsGivenAsAShellSplitsIt)
+{
+    QString const archive = Put("a.zip", m_archive);
+    QString const home = Put("it's mine.sh", "echo '" + m_signature + "'\n");
+    qputenv("PELNAR_TEST_HOME", QFile::encodeName(QFileInfo(home).path()));
+    for (char const* const command :
+         {"sh \"$PELNAR_TEST_HOME/it's mine.sh\"", "sh \"$PELNAR_TEST_HOME\"/it\\'s' mine'.sh",
+          "sh -c 'sh \"$0\"' \"${PELNAR_TEST_HOME}/it's mine.sh\""})
+    {
+        ToolRun const run =
+            RunTool({QStringLiteral("sign"), archive, QStringLiteral("--signer"), QString::fromLatin1(command),
+                     QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(7).publicKey)});
+        EXPECT_EQ(run.status, 0) << command << run.err;
+    }
+    for (char const* const command : {"sh 'open", "sh | cat", "sh; sh", "sh $(true)", "sh $PELNAR_NEVER_SET", "(sh)"})
+    {
+        ToolRun const run =
+            RunTool({QStringLiteral("sign"), archive, QStringLiteral("--signer"), QString::fromLatin1(command),
+                     QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(7).publicKey)});
+        EXPECT_EQ(run.status, 2) << command;
+        EXPECT_NE(run.err.find("is not the line of one command"), std::string::npos) << command << run.err;
+    }
 }
 
 TEST_F(ProgramThatSigns, EachFailureIsTold)

@@ -80,7 +80,7 @@ bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
 
 /// Checks that the installed bundle is still the one that the update was prepared for, and that it allows an installer
 /// program.
-UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptors)
+UniqueFd CheckTarget(InstallJob const& job, Engine::InstallDescriptors const& descriptors)
 {
     UniqueFd target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
     if (!target)
@@ -100,7 +100,7 @@ UniqueFd CheckTarget(InstallJob const& job, InstallDescriptors const& descriptor
 }
 
 /// The staged bundle. CheckStaged() checks that it is still the prepared one.
-UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors)
+UniqueFd OpenStaged(InstallJob const& job, Engine::InstallDescriptors const& descriptors)
 {
     UniqueFd staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
     if (!staged)
@@ -110,7 +110,7 @@ UniqueFd OpenStaged(InstallJob const& job, InstallDescriptors const& descriptors
     return staged;
 }
 
-void CheckStaged(InstallJob const& job, InstallDescriptors const& descriptors, int stagedFd, mode_t bitsWithin)
+void CheckStaged(InstallJob const& job, Engine::InstallDescriptors const& descriptors, int stagedFd, mode_t bitsWithin)
 {
     bool const isInPlace = Engine::IsPrivateFolder(descriptors.staging) &&
                            IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
@@ -138,7 +138,7 @@ Engine::StartConfirmation ConfirmationOf(InstallJob const& job, int stagedFd)
 }
 
 /// Everything between the host's end and the relaunch.
-void InstallLocked(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+void InstallLocked(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report)
 {
     SwapLock const lock(descriptors.parent, job.targetName);
     // The version that requested this has run, so the version kept by an earlier update is no longer needed.
@@ -202,7 +202,8 @@ std::optional<Failure> CallDelegate(Work const& work, ReportChannel const& repor
 }
 
 /// The whole work of the child; returns its exit status.
-int RunInstallation(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report, int failureFd)
+int RunInstallation(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report,
+                    int failureFd)
 {
     auto const failure = CallDelegate([&] { InstallLocked(job, descriptors, report); }, report);
     if (!failure)
@@ -235,7 +236,7 @@ bool WaitForChild(pid_t child)
 }
 
 /// Lets a child install the update. Empty if it is installed.
-std::optional<Failure> InstallInChild(InstallJob const& job, InstallDescriptors const& descriptors,
+std::optional<Failure> InstallInChild(InstallJob const& job, Engine::InstallDescriptors const& descriptors,
                                       ReportChannel& report)
 {
     int ends[2];
@@ -268,7 +269,7 @@ std::optional<Failure> InstallInChild(InstallJob const& job, InstallDescriptors 
 }
 
 /// After a failure: repairs the target, and removes the prepared files unless the target came from them.
-void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+void TidyUp(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report)
 {
     try
     {
@@ -294,7 +295,7 @@ void TidyUp(InstallJob const& job, InstallDescriptors const& descriptors, Report
 
 } // namespace
 
-bool InstallUpdate(InstallJob const& job, InstallDescriptors const& descriptors, ReportChannel& report)
+bool InstallUpdate(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report)
 {
     OutcomeNote note(job, descriptors.records);
     note.Begin();

@@ -64,7 +64,7 @@ Engine::UniqueFd OpenBundle(int stagingFd, std::string const& name)
     return bundle;
 }
 
-Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
+Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, Engine::PrepareDescriptors const& descriptors,
                                          int archiveFd, Engine::DeltaProgress const& progress)
 {
     if (!Engine::TreeAccess(descriptors.staging).MakeFolder(job.bundleName))
@@ -86,7 +86,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, PrepareD
 }
 
 /// Verifies the archive open at \a archiveFd and unpacks it. REQUIRES: no process changes it meanwhile.
-Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors,
+Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, Engine::PrepareDescriptors const& descriptors,
                                       int archiveFd, ReportChannel& report)
 {
     report.SendProgress(HelperPhase::Verifying, 0, job.archiveBytes);
@@ -105,7 +105,7 @@ Engine::UnpackedBundle UnpackVerified(Engine::PrepareJob const& job, PrepareDesc
 
 } // namespace
 
-void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report)
+void PrepareUpdate(Engine::PrepareJob const& job, Engine::PrepareDescriptors const& descriptors, ReportChannel& report)
 {
     if (job.kind == PayloadKind::Installer &&
         !Engine::ReadBundleInformation(descriptors.target, job.bundleName).allowsInstallerPrograms)

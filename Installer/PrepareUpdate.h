@@ -8,14 +8,7 @@
 namespace Pelnar::Installer
 {
 
-struct PrepareDescriptors
-{
-    int archive;
-    int staging;
-    int target; ///< the installed bundle's folder; only for deltas and installer programs
-};
-
 /// Throws UpdateRefusal. On success it has reported the prepared bundle, and every byte of the bundle is on the disk.
-void PrepareUpdate(Engine::PrepareJob const& job, PrepareDescriptors const& descriptors, ReportChannel& report);
+void PrepareUpdate(Engine::PrepareJob const& job, Engine::PrepareDescriptors const& descriptors, ReportChannel& report);
 
 } // namespace Pelnar::Installer

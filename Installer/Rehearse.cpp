@@ -69,7 +69,7 @@ Engine::UniqueFd OpenFolder(int parentFd, std::string const& name)
 }
 
 /// Exchanges a folder that has the bundle's rights with one next to the bundle, and syncs as the update does.
-void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& targetName)
+void RehearseSwap(Engine::RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     Standin const standin(descriptors.parent, targetName);
     MakeFolder(descriptors.staging, NEW_NAME);
@@ -82,7 +82,7 @@ void RehearseSwap(RehearseDescriptors const& descriptors, std::string const& tar
 /// Some file systems do not move certain folders: an overlay does not move folders of a lower layer, and with projects
 /// a folder of another project cannot move. They report this before they check the destination. The destination exists,
 /// so nothing moves.
-void RehearseMove(RehearseDescriptors const& descriptors, std::string const& targetName)
+void RehearseMove(Engine::RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     MakeFolder(descriptors.staging, FULL_NAME);
     MakeFolder(descriptors.staging, (std::string(FULL_NAME) + "/file").c_str());
@@ -110,7 +110,7 @@ void RequireProcessHandle(int hostFd)
 
 } // namespace
 
-void Rehearse(Engine::RehearseJob const& job, RehearseDescriptors const& descriptors)
+void Rehearse(Engine::RehearseJob const& job, Engine::RehearseDescriptors const& descriptors)
 {
     RequireProcessHandle(descriptors.host);
     {

@@ -8,15 +8,8 @@
 namespace Pelnar::Installer
 {
 
-struct RehearseDescriptors
-{
-    int parent;
-    int staging; ///< an empty staging folder; its owner removes what is put there
-    int host;    ///< a pidfd
-};
-
 /// Throws UpdateRefusal with the error that an update would meet; LockTimedOut comes sooner. This process is confined
 /// afterwards.
-void Rehearse(Engine::RehearseJob const& job, RehearseDescriptors const& descriptors);
+void Rehearse(Engine::RehearseJob const& job, Engine::RehearseDescriptors const& descriptors);
 
 } // namespace Pelnar::Installer

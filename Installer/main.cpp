@@ -137,7 +137,7 @@ bool Prepare(Installer::ReportChannel& report)
         RequireFolder(HelperDescriptors::TARGET);
     }
     Installer::PrepareUpdate(
-        job, {HelperDescriptors::ARCHIVE, HelperDescriptors::STAGING, hasTarget ? HelperDescriptors::TARGET : -1},
+        job, {HelperDescriptors::STAGING, HelperDescriptors::ARCHIVE, hasTarget ? HelperDescriptors::TARGET : -1},
         report);
     return true;
 }
@@ -156,7 +156,7 @@ bool Install(Installer::ReportChannel& report)
         RequireFolder(HelperDescriptors::RECORDS);
     }
     return Installer::InstallUpdate(job,
-                                    {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST,
+                                    {HelperDescriptors::STAGING, HelperDescriptors::PARENT, HelperDescriptors::HOST,
                                      HelperDescriptors::RECORDS, HelperDescriptors::ARGUMENTS},
                                     report);
 }
@@ -182,7 +182,7 @@ bool Rehearse(Installer::ReportChannel& report)
     auto const job = ReadJobOfKind<Engine::RehearseJob>();
     RequireFolder(HelperDescriptors::PARENT);
     RequireStaging();
-    Installer::Rehearse(job, {HelperDescriptors::PARENT, HelperDescriptors::STAGING, HelperDescriptors::HOST});
+    Installer::Rehearse(job, {HelperDescriptors::STAGING, HelperDescriptors::PARENT, HelperDescriptors::HOST});
     report.Send(Engine::RehearsedReport{});
     return true;
 }

@@ -234,7 +234,7 @@ public:
         }
     }
 
-    void Start(UpdateJob const& job, HelperInheritance const& inherited,
+    void Start(UpdateJob const& job, std::map<int, int> const& inherited,
                std::function<void(HelperReport const&)> onReport, std::function<void(HelperEnd)> onEnded) override
     {
         if (m_parts.isHelperMissing)
@@ -245,8 +245,9 @@ public:
         m_parts.m_notes.push_back(std::string("helper ") + modes[job.index()]);
         m_parts.jobs.push_back(job);
         m_parts.m_helper = this;
-        staging = inherited.staging;
-        m_parts.arguments = UniqueFd(inherited.arguments < 0 ? -1 : ::dup(inherited.arguments));
+        staging = inherited.at(HelperDescriptors::STAGING);
+        auto const arguments = inherited.find(HelperDescriptors::ARGUMENTS);
+        m_parts.arguments = UniqueFd(arguments == inherited.end() ? -1 : ::dup(arguments->second));
         report = std::move(onReport);
         ended = std::move(onEnded);
     }

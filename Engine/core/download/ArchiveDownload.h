@@ -58,17 +58,26 @@ struct DownloadOutcome
     UniqueFd archive;
 };
 
-class ArchiveDownload
+class IDownload
+{
+public:
+    virtual ~IDownload() = default;
+    /// Both callbacks come from the event loop: \a progress at most about ten times a second, \a finished once and
+    /// last. Either may destroy this object. REQUIRES: called once.
+    virtual void Start(std::function<void(DownloadProgress const&)> progress,
+                       std::function<void(DownloadOutcome)> finished) = 0;
+};
+
+class ArchiveDownload final : public IDownload
 {
 public:
     explicit ArchiveDownload(DownloadRequest request);
-    ~ArchiveDownload();
+    ~ArchiveDownload() override;
     ArchiveDownload(ArchiveDownload const&) = delete;
     ArchiveDownload& operator=(ArchiveDownload const&) = delete;
 
-    /// Both callbacks come from the event loop: \a progress at most about ten times a second, \a finished once and
-    /// last. Either may destroy this object. REQUIRES: called once.
-    void Start(std::function<void(DownloadProgress const&)> progress, std::function<void(DownloadOutcome)> finished);
+    void Start(std::function<void(DownloadProgress const&)> progress,
+               std::function<void(DownloadOutcome)> finished) override;
 
     /// Removes the whole or partial file of \a request, after an archive was refused or is no longer needed. The record
     /// of its cost stays. Without a file nothing happens. The disk space is free after the returned descriptor (which

@@ -90,6 +90,32 @@ struct RehearseJob
     std::string targetName;
 };
 
+/// The descriptors of each kind of job, besides job and report: the host's own numbers, or the helper's.
+struct PrepareDescriptors
+{
+    int staging = -1;
+    int archive = -1;
+    int target = -1; ///< the installed bundle's folder; only for deltas and installer programs
+};
+struct InstallDescriptors
+{
+    int staging = -1;   ///< locked by the host
+    int parent = -1;    ///< the folder that holds the installed bundle
+    int host = -1;      ///< a pidfd
+    int records = -1;   ///< the folder of the outcome's record, if one is kept
+    int arguments = -1; ///< the file of the new version's arguments, if a program is started
+};
+struct RecoverDescriptors
+{
+    int parent = -1;
+};
+struct RehearseDescriptors
+{
+    int staging = -1; ///< empty; its owner removes what is put there
+    int parent = -1;
+    int host = -1;
+};
+
 using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob, RehearseJob>;
 
 /// Enough for the kernel's maximum of environment variables, six mebibytes, and everything else.

@@ -31,7 +31,7 @@ public:
     void Start(RecoverJob const& job, int parentFd)
     {
         m_helper.Start(
-            job, {-1, parentFd, -1}, [this](HelperReport const& report) { Take(report); },
+            job, DescriptorMap(job, {parentFd}), [this](HelperReport const& report) { Take(report); },
             [this](HelperEnd end) { Finish(end); });
         // A host that ends immediately, well or not, has started in any case.
         m_helper.Release();

@@ -26,45 +26,6 @@ namespace
 constexpr int EXIT_REFUSED = 1;
 constexpr std::size_t READ_BYTES = 4096;
 
-std::map<int, int> DescriptorMap(PrepareJob const& job, HelperInheritance const& inherited)
-{
-    std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
-                               {HelperDescriptors::ARCHIVE, inherited.archiveOrParent}};
-    if (job.kind != PayloadKind::WholeBundle)
-    {
-        numbers[HelperDescriptors::TARGET] = inherited.targetOrHost;
-    }
-    return numbers;
-}
-
-std::map<int, int> DescriptorMap(InstallJob const& job, HelperInheritance const& inherited)
-{
-    std::map<int, int> numbers{{HelperDescriptors::STAGING, inherited.staging},
-                               {HelperDescriptors::PARENT, inherited.archiveOrParent},
-                               {HelperDescriptors::HOST, inherited.targetOrHost}};
-    if (job.record)
-    {
-        numbers[HelperDescriptors::RECORDS] = inherited.records;
-    }
-    if (!job.targetPath.empty())
-    {
-        numbers[HelperDescriptors::ARGUMENTS] = inherited.arguments;
-    }
-    return numbers;
-}
-
-std::map<int, int> DescriptorMap(RecoverJob const&, HelperInheritance const& inherited)
-{
-    return {{HelperDescriptors::PARENT, inherited.archiveOrParent}};
-}
-
-std::map<int, int> DescriptorMap(RehearseJob const&, HelperInheritance const& inherited)
-{
-    return {{HelperDescriptors::STAGING, inherited.staging},
-            {HelperDescriptors::PARENT, inherited.archiveOrParent},
-            {HelperDescriptors::HOST, inherited.targetOrHost}};
-}
-
 char const* ModeOf(UpdateJob const& job)
 {
     constexpr char const* MODES[] = {"prepare", "install", "recover", "rehearse"};
@@ -100,13 +61,51 @@ std::optional<HelperEnd> EndToldBy(HelperReport const& report)
 
 } // namespace
 
+std::map<int, int> DescriptorMap(PrepareJob const& job, PrepareDescriptors const& own)
+{
+    std::map<int, int> numbers{{HelperDescriptors::STAGING, own.staging}, {HelperDescriptors::ARCHIVE, own.archive}};
+    if (job.kind != PayloadKind::WholeBundle)
+    {
+        numbers[HelperDescriptors::TARGET] = own.target;
+    }
+    return numbers;
+}
+
+std::map<int, int> DescriptorMap(InstallJob const& job, InstallDescriptors const& own)
+{
+    std::map<int, int> numbers{{HelperDescriptors::STAGING, own.staging},
+                               {HelperDescriptors::PARENT, own.parent},
+                               {HelperDescriptors::HOST, own.host}};
+    if (job.record)
+    {
+        numbers[HelperDescriptors::RECORDS] = own.records;
+    }
+    if (!job.targetPath.empty())
+    {
+        numbers[HelperDescriptors::ARGUMENTS] = own.arguments;
+    }
+    return numbers;
+}
+
+std::map<int, int> DescriptorMap(RecoverJob const&, RecoverDescriptors const& own)
+{
+    return {{HelperDescriptors::PARENT, own.parent}};
+}
+
+std::map<int, int> DescriptorMap(RehearseJob const&, RehearseDescriptors const& own)
+{
+    return {{HelperDescriptors::STAGING, own.staging},
+            {HelperDescriptors::PARENT, own.parent},
+            {HelperDescriptors::HOST, own.host}};
+}
+
 class HelperProcess::Impl : public QObject
 {
 public:
     explicit Impl(std::shared_ptr<SealedProgram> program) : m_program(std::move(program)) {}
     ~Impl() override;
 
-    void Start(UpdateJob const& job, HelperInheritance const& inherited,
+    void Start(UpdateJob const& job, std::map<int, int> const& inherited,
                std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);
     void Release() { m_isReleased = true; }
     void Kill();
@@ -156,11 +155,10 @@ void HelperProcess::Impl::Kill()
     }
 }
 
-void HelperProcess::Impl::Start(UpdateJob const& job, HelperInheritance const& inherited,
+void HelperProcess::Impl::Start(UpdateJob const& job, std::map<int, int> const& inherited,
                                 std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
 {
-    auto const numbers = std::visit([&inherited](auto const& kind) { return DescriptorMap(kind, inherited); }, job);
-    LaunchedHelper helper = LaunchHelper(*m_program, ModeOf(job), EncodeUpdateJob(job), numbers);
+    LaunchedHelper helper = LaunchHelper(*m_program, ModeOf(job), EncodeUpdateJob(job), inherited);
     m_process = std::move(helper.process);
     m_reports = std::move(helper.reports);
     m_report = std::move(report);
@@ -259,7 +257,7 @@ HelperProcess::HelperProcess(std::shared_ptr<SealedProgram> program)
 
 HelperProcess::~HelperProcess() = default;
 
-void HelperProcess::Start(UpdateJob const& job, HelperInheritance const& inherited,
+void HelperProcess::Start(UpdateJob const& job, std::map<int, int> const& inherited,
                           std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended)
 {
     m_impl->Start(job, inherited, std::move(report), std::move(ended));

@@ -10,22 +10,11 @@
 #include "Engine/core/update/SealedProgram.h"
 
 #include <functional>
+#include <map>
 #include <memory>
 
 namespace Pelnar::Engine
 {
-
-/// The descriptors that the helper inherits besides job and report; see HelperDescriptors. The host keeps its own
-/// copies.
-struct HelperInheritance
-{
-    int staging = -1;
-    int archiveOrParent = -1; ///< prepare: the archive; install, recover: the folder that holds the bundle
-    int targetOrHost = -1;    ///< prepare, except for a whole bundle: the installed bundle; install: a pidfd of the
-                              ///< host
-    int records = -1;         ///< install: the folder of the record, if one is kept
-    int arguments = -1;       ///< install: the file of the new version's arguments, if a program is started
-};
 
 enum class HelperEnd
 {
@@ -34,25 +23,42 @@ enum class HelperEnd
     Crashed, ///< by a signal, by any other exit status, or with an invalid report
 };
 
-class HelperProcess
+/// The descriptors that a job needs, by their numbers in the helper. The host keeps its own copies.
+std::map<int, int> DescriptorMap(PrepareJob const& job, PrepareDescriptors const& own);
+std::map<int, int> DescriptorMap(InstallJob const& job, InstallDescriptors const& own);
+std::map<int, int> DescriptorMap(RecoverJob const& job, RecoverDescriptors const& own);
+std::map<int, int> DescriptorMap(RehearseJob const& job, RehearseDescriptors const& own);
+
+class IHelper
+{
+public:
+    virtual ~IHelper() = default;
+
+    /// Starts the helper with the mode of \a job: the sealed program, an empty environment, the job in a sealed memory
+    /// file, and no other descriptor than \a inherited. Both callbacks come later, from the event loop: \a report for
+    /// each line, \a ended once and last. Either may destroy this object. Throws UpdateRefusal if the helper cannot be
+    /// started; then no callback follows. REQUIRES: called once.
+    virtual void Start(UpdateJob const& job, std::map<int, int> const& inherited,
+                       std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) = 0;
+
+    /// From now on the helper survives this object and this process.
+    virtual void Release() = 0;
+    /// Ends the helper, released or not, and waits for its end. No callback follows. REQUIRES: the last call.
+    virtual void Kill() = 0;
+};
+
+class HelperProcess final : public IHelper
 {
 public:
     explicit HelperProcess(std::shared_ptr<SealedProgram> program);
-    ~HelperProcess();
+    ~HelperProcess() override;
     HelperProcess(HelperProcess const&) = delete;
     HelperProcess& operator=(HelperProcess const&) = delete;
 
-    /// Starts the helper with the mode of \a job: the sealed program, an empty environment, the job in a sealed memory
-    /// file, and no other inherited descriptor. Both callbacks come later, from the event loop: \a report for each
-    /// line, \a ended once and last. Either may destroy this object. Throws UpdateRefusal if the helper cannot be
-    /// started; then no callback follows. REQUIRES: called once.
-    void Start(UpdateJob const& job, HelperInheritance const& inherited,
-               std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended);
-
-    /// From now on the helper survives this object and this process.
-    void Release();
-    /// Ends the helper, released or not, and waits for its end. No callback follows. REQUIRES: the last call.
-    void Kill();
+    void Start(UpdateJob const& job, std::map<int, int> const& inherited,
+               std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) override;
+    void Release() override;
+    void Kill() override;
 
 private:
     class Impl;

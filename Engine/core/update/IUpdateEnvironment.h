@@ -18,26 +18,6 @@
 namespace Pelnar::Engine
 {
 
-/// Like ArchiveDownload.
-class IDownload
-{
-public:
-    virtual ~IDownload() = default;
-    virtual void Start(std::function<void(DownloadProgress const&)> progress,
-                       std::function<void(DownloadOutcome)> finished) = 0;
-};
-
-/// Like HelperProcess.
-class IHelper
-{
-public:
-    virtual ~IHelper() = default;
-    virtual void Start(UpdateJob const& job, HelperInheritance const& inherited,
-                       std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) = 0;
-    virtual void Release() = 0;
-    virtual void Kill() = 0;
-};
-
 class IUpdateEnvironment
 {
 public:

@@ -21,7 +21,7 @@ std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, P
         UniqueFd const arguments = job.targetPath.empty() ? UniqueFd() : KeptArguments::OfProcess().Share();
         m_helper = m_parts.MakeHelper();
         m_helper->Start(
-            job, {update.Descriptor(), target.parent.Get(), host.Get(), recordsFd, arguments.Get()},
+            job, DescriptorMap(job, {update.Descriptor(), target.parent.Get(), host.Get(), recordsFd, arguments.Get()}),
             [this](HelperReport const& report) { Take(report); }, [this](HelperEnd) { End(); });
     }
     catch (UpdateRefusal const& refusal)

@@ -82,10 +82,10 @@ std::optional<EngineError> RehearseInstallation(InstallTarget const& target, Sea
     {
         auto const folder = PreparedUpdate::Begin(target);
         UniqueFd const host = OpenProcess();
-        LaunchedHelper const launched = LaunchHelper(helper, "rehearse", EncodeUpdateJob(RehearseJob{target.name}),
-                                                     {{HelperDescriptors::STAGING, folder->Descriptor()},
-                                                      {HelperDescriptors::PARENT, target.parent.Get()},
-                                                      {HelperDescriptors::HOST, host.Get()}});
+        RehearseJob const job{target.name};
+        LaunchedHelper const launched =
+            LaunchHelper(helper, "rehearse", EncodeUpdateJob(job),
+                         DescriptorMap(job, {folder->Descriptor(), target.parent.Get(), host.Get()}));
         std::string const reports = ReadReports(launched.reports);
         End(launched);
         return Judge(target, reports);

@@ -9,38 +9,6 @@ namespace Pelnar::Engine
 namespace
 {
 
-class Download final : public IDownload
-{
-public:
-    explicit Download(DownloadRequest const& request) : m_download(request) {}
-
-    void Start(std::function<void(DownloadProgress const&)> progress,
-               std::function<void(DownloadOutcome)> finished) override
-    {
-        m_download.Start(std::move(progress), std::move(finished));
-    }
-
-private:
-    ArchiveDownload m_download;
-};
-
-class Helper final : public IHelper
-{
-public:
-    explicit Helper(std::shared_ptr<SealedProgram> program) : m_process(std::move(program)) {}
-
-    void Start(UpdateJob const& job, HelperInheritance const& inherited,
-               std::function<void(HelperReport const&)> report, std::function<void(HelperEnd)> ended) override
-    {
-        m_process.Start(job, inherited, std::move(report), std::move(ended));
-    }
-    void Release() override { m_process.Release(); }
-    void Kill() override { m_process.Kill(); }
-
-private:
-    HelperProcess m_process;
-};
-
 OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources,
                             SealedProgram& helper)
 {
@@ -84,12 +52,12 @@ void UpdateEnvironment::ClearDownloads(QString const& folder)
 
 std::unique_ptr<IDownload> UpdateEnvironment::MakeDownload(DownloadRequest const& request)
 {
-    return std::make_unique<Download>(request);
+    return std::make_unique<ArchiveDownload>(request);
 }
 
 std::unique_ptr<IHelper> UpdateEnvironment::MakeHelper()
 {
-    return std::make_unique<Helper>(m_helperProgram);
+    return std::make_unique<HelperProcess>(m_helperProgram);
 }
 
 void UpdateEnvironment::DiscardAttempt(std::unique_ptr<InstallAttempt> attempt)

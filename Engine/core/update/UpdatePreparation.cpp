@@ -30,8 +30,8 @@ std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target,
         m_helper = m_parts.MakeHelper();
         int const base = job.kind == PayloadKind::WholeBundle ? -1 : target.bundle.Get();
         m_helper->Start(
-            job, {m_update->Descriptor(), archive.Get(), base}, [this](HelperReport const& report) { Take(report); },
-            [this](HelperEnd end) { End(end); });
+            job, DescriptorMap(job, {m_update->Descriptor(), archive.Get(), base}),
+            [this](HelperReport const& report) { Take(report); }, [this](HelperEnd end) { End(end); });
         return std::nullopt;
     }
     catch (UpdateRefusal const& refusal)

@@ -88,7 +88,7 @@ public:
     void Start()
     {
         m_helper->Start(
-            m_job, {m_place.Descriptor(), m_far.Get(), -1},
+            m_job, DescriptorMap(m_job, {m_place.Descriptor(), m_far.Get()}),
             [this](HelperReport const& report)
             {
                 reports.push_back(report);
@@ -258,7 +258,7 @@ TEST_F(HelperProcesses, MayBeDestroyedByWhatItCalls)
     job.expectedVersion = "0";
     bool hasEnded = false;
     helper->Start(
-        job, {place.Descriptor(), place.Descriptor(), -1}, [](HelperReport const&) {},
+        job, DescriptorMap(job, {place.Descriptor(), place.Descriptor()}), [](HelperReport const&) {},
         [&](HelperEnd)
         {
             helper.reset();
@@ -311,20 +311,22 @@ TEST_P(HostThatReaps, IsTheSameToAHelper)
     std::optional<HelperEnd> end;
     auto const ended = [&end](HelperEnd told) { end = told; };
     auto const report = [](HelperReport const&) {};
+    PrepareJob const prepareJob = scene.MakePrepareJob();
+    auto const numbers = DescriptorMap(prepareJob, {scene.StagingDescriptor(), archive.Get()});
     HelperProcess prepare(program);
-    prepare.Start(scene.MakePrepareJob(), {scene.StagingDescriptor(), archive.Get(), -1}, report, ended);
+    prepare.Start(prepareJob, numbers, report, ended);
     EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
     EXPECT_EQ(end, HelperEnd::Done);
 
     end.reset();
     HelperProcess again(program); // the staging folder is not empty any more
-    again.Start(scene.MakePrepareJob(), {scene.StagingDescriptor(), archive.Get(), -1}, report, ended);
+    again.Start(prepareJob, numbers, report, ended);
     EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
     EXPECT_EQ(end, HelperEnd::Refused);
 
     end.reset();
     HelperProcess recover(program);
-    recover.Start(RecoverJob{APP, "1.0"}, {-1, scene.Place().Descriptor(), -1}, report, ended);
+    recover.Start(RecoverJob{APP, "1.0"}, DescriptorMap(RecoverJob(), {scene.Place().Descriptor()}), report, ended);
     EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
     EXPECT_EQ(end, HelperEnd::Done);
 
@@ -463,9 +465,10 @@ TEST_F(HelperProcesses, ProgramOfAnotherUserIsNotStarted)
 TEST_F(HelperProcesses, MissingDescriptorIsRefusedBeforeAnythingStarts)
 {
     HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_HELPER_PROBE));
-    EXPECT_THROW(helper.Start(
-                     RecoverJob{APP, "1.0"}, {}, [](HelperReport const&) {}, [](HelperEnd) {}),
-                 UpdateRefusal);
+    EXPECT_THROW(
+        helper.Start(
+            RecoverJob{APP, "1.0"}, DescriptorMap(RecoverJob(), {}), [](HelperReport const&) {}, [](HelperEnd) {}),
+        UpdateRefusal);
 }
 
 /// The real helper, from an archive to the new version in the old one's place.
@@ -479,8 +482,10 @@ TEST_F(HelperProcesses, DrivesAWholeUpdate)
     auto const ended = [&ends](HelperEnd end) { ends.push_back(end); };
 
     UniqueFd const archive(::open((scene.Downloads().Path() + "/update").c_str(), O_RDONLY | O_CLOEXEC));
+    PrepareJob const prepareJob = scene.MakePrepareJob();
+    auto const numbers = DescriptorMap(prepareJob, {scene.StagingDescriptor(), archive.Get()});
     HelperProcess prepare(program);
-    prepare.Start(scene.MakePrepareJob(), {scene.StagingDescriptor(), archive.Get(), -1}, report, ended);
+    prepare.Start(prepareJob, numbers, report, ended);
     ASSERT_TRUE(WaitFor([&ends] { return !ends.empty(); }));
     EXPECT_EQ(ends.back(), HelperEnd::Done);
     auto const* const prepared = std::get_if<PreparedReport>(&reports.back());
@@ -496,8 +501,10 @@ TEST_F(HelperProcesses, DrivesAWholeUpdate)
     job.expectedVersion = "2.0";
     job.installedVersion = "1.0";
     HelperProcess install(program);
-    install.Start(job, {scene.StagingDescriptor(), scene.Place().Descriptor(), scene.Host().ProcessDescriptor()},
-                  report, ended);
+    install.Start(
+        job,
+        DescriptorMap(job, {scene.StagingDescriptor(), scene.Place().Descriptor(), scene.Host().ProcessDescriptor()}),
+        report, ended);
     EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
     scene.Host().End();
     ASSERT_TRUE(WaitFor([&ends] { return ends.size() == 2; }));
@@ -507,7 +514,7 @@ TEST_F(HelperProcesses, DrivesAWholeUpdate)
 
     scene.ReleaseStaging();
     HelperProcess recover(program);
-    recover.Start(RecoverJob{APP, "2.0"}, {-1, scene.Place().Descriptor(), -1}, report, ended);
+    recover.Start(RecoverJob{APP, "2.0"}, DescriptorMap(RecoverJob(), {scene.Place().Descriptor()}), report, ended);
     ASSERT_TRUE(WaitFor([&ends] { return ends.size() == 3; }));
     EXPECT_EQ(ends.back(), HelperEnd::Done);
     ASSERT_TRUE(std::holds_alternative<RecoveredReport>(reports.back()));
@@ -525,7 +532,7 @@ TEST_F(HelperProcesses, RefusalOfTheHelperIsTold)
     UniqueFd const archive(::open((scene.Downloads().Path() + "/update").c_str(), O_RDONLY | O_CLOEXEC));
     HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM));
     helper.Start(
-        job, {scene.StagingDescriptor(), archive.Get(), -1},
+        job, DescriptorMap(job, {scene.StagingDescriptor(), archive.Get()}),
         [&reports](HelperReport const& told) { reports.push_back(told); },
         [&ends](HelperEnd end) { ends.push_back(end); });
     ASSERT_TRUE(WaitFor([&ends] { return !ends.empty(); }));

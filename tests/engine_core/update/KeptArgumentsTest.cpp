@@ -100,8 +100,8 @@ TEST_F(KeptArgumentsTest, ReachTheNewVersionThroughTheHelperThatWaited)
         UniqueFd const arguments = kept.Share();
         helper.Start(
             job,
-            {scene.StagingDescriptor(), scene.Place().Descriptor(), scene.Host().ProcessDescriptor(),
-             scene.Downloads().Descriptor(), arguments.Get()},
+            DescriptorMap(job, {scene.StagingDescriptor(), scene.Place().Descriptor(), scene.Host().ProcessDescriptor(),
+                                scene.Downloads().Descriptor(), arguments.Get()}),
             [&isWaiting](HelperReport const& report)
             {
                 auto const* const progress = std::get_if<ProgressReport>(&report);

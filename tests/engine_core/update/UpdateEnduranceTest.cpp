@@ -50,31 +50,33 @@ private:
     {
         StagingFolder const staging = StagingFolder::Create(scene.Place().Descriptor(), APP);
         UniqueFd const archive(::open((scene.Downloads().Path() + "/update").c_str(), O_RDONLY | O_CLOEXEC));
-        auto const prepared = Run<PreparedReport>(scene.MakePrepareJob(), {staging.Descriptor(), archive.Get(), -1});
+        auto const prepared =
+            Run<PreparedReport>(scene.MakePrepareJob(), PrepareDescriptors{staging.Descriptor(), archive.Get()});
         ASSERT_TRUE(prepared);
         InstallJob job = scene.MakeInstallJob(prepared->digest);
         job.stagingName = staging.Name();
         StubHost host;
         host.End();
-        ASSERT_TRUE(
-            Run<InstalledReport>(job, {staging.Descriptor(), scene.Place().Descriptor(), host.ProcessDescriptor()}));
+        ASSERT_TRUE(Run<InstalledReport>(
+            job, InstallDescriptors{staging.Descriptor(), scene.Place().Descriptor(), host.ProcessDescriptor()}));
     }
 
     RecoveryAction Start(std::string const& version)
     {
-        auto const recovered = Run<RecoveredReport>(RecoverJob{APP, version}, {-1, scene.Place().Descriptor(), -1});
+        auto const recovered =
+            Run<RecoveredReport>(RecoverJob{APP, version}, RecoverDescriptors{scene.Place().Descriptor()});
         return recovered ? recovered->action : RecoveryAction::Nothing;
     }
 
     /// Runs a helper to its end; what it reported of this kind.
-    template <typename Report>
-    std::optional<Report> Run(UpdateJob const& job, HelperInheritance const& inherited)
+    template <typename Report, typename Job, typename Descriptors>
+    std::optional<Report> Run(Job const& job, Descriptors const& own)
     {
         std::optional<Report> found;
         std::optional<HelperEnd> end;
         HelperProcess helper(std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM));
         helper.Start(
-            job, inherited,
+            job, DescriptorMap(job, own),
             [&found](HelperReport const& report)
             {
                 if (auto const* const wanted = std::get_if<Report>(&report))

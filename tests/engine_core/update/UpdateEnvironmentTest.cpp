@@ -103,7 +103,7 @@ TEST_F(UpdateEnvironmentTest, HelperIsTheOneThatWasThereWhenTheTargetWasOpened)
     auto const helper = parts->MakeHelper();
     std::optional<HelperEnd> end;
     helper->Start(
-        RecoverJob{APP, "1.0"}, {-1, place.Descriptor(), -1}, [](HelperReport const&) {},
+        RecoverJob{APP, "1.0"}, DescriptorMap(RecoverJob(), {place.Descriptor()}), [](HelperReport const&) {},
         [&end](HelperEnd told) { end = told; });
     ASSERT_TRUE(WaitFor([&end] { return end.has_value(); }));
     EXPECT_EQ(end, HelperEnd::Done);

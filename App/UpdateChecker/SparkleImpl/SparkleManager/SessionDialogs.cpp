@@ -1,12 +1,9 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SessionDialogs.h"
 
-#include "HostFramework/AlertBox.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RunningBox.h"
 #include "HostFramework/VersionText.h"
-#include "common/ValueGuard.h"
 
 #include <QCoreApplication>
-#include <QPointer>
-#include <QPushButton>
 
 namespace Pelnar::App::Session
 {
@@ -14,41 +11,6 @@ namespace
 {
 
 using Util::AlertBox;
-
-/// Owns a dialog whose parent may delete it while it runs.
-class RunningBox
-{
-public:
-    RunningBox(AlertBox::Level level, QString const& text, QMessageBox::StandardButtons buttons, QWidget* parent,
-               QString const& objectName)
-        : m_box(new AlertBox(level, QString(), text, buttons, parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint))
-    {
-        m_box->setObjectName(objectName);
-    }
-    ~RunningBox() { delete m_box; }
-    RunningBox(RunningBox const&) = delete;
-    RunningBox& operator=(RunningBox const&) = delete;
-
-    AlertBox* operator->() const { return m_box; }
-
-    /// The button that ended the dialog. Null if the dialog ended without a button, or was destroyed.
-    QAbstractButton* Run(std::function<void()>& closeDialog)
-    {
-        Core::ValueGuard<std::function<void()>> const guard(closeDialog,
-                                                            [box = m_box]
-                                                            {
-                                                                if (box)
-                                                                {
-                                                                    box->close();
-                                                                }
-                                                            });
-        (void)m_box->Exec();
-        return m_box ? m_box->clickedButton() : nullptr;
-    }
-
-private:
-    QPointer<AlertBox> m_box;
-};
 
 QString Translate(char const* text)
 {

@@ -5,13 +5,11 @@
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/OpenSession.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
+#include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RunningBox.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
-#include "HostFramework/AlertBox.h"
 #include "HostFramework/ICustomizationManager.h"
 #include "HostFramework/ILinksManager.h"
 #include "common/LogSite.h"
-#include "common/ScopedFunctionCall.h"
-#include "common/ValueGuard.h"
 
 #include <QCoreApplication>
 #include <QPointer>
@@ -200,8 +198,7 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
         return;
     }
 
-    // During the getter and the alert's event loop, the Qt parent of the manager may delete this updater, and the
-    // alert's own parent may delete the alert. After that no code below may use either.
+    // During the getter and the alert's event loop, the Qt parent of the manager may delete this updater.
     QPointer<UpdaterSparkle> const self(this);
     QWidget* const parent = parentGetter ? parentGetter() : nullptr;
     if (!self)
@@ -209,32 +206,11 @@ void UpdaterSparkle::ExecUpdateDialog(std::function<QWidget*()> const& parentGet
         return;
     }
     bool const isMissing = !m_impl->session && !m_impl->isOpeningSession;
-    QPointer<Util::AlertBox> const alert(new Util::AlertBox(
-        Util::AlertBox::Information, QString(), isMissing ? MissingSessionText() : RunningUpdateText(), QMessageBox::Ok,
-        parent, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint));
-    Core::ScopedFunctionCall const deleteAlert(
-        nullptr, [alert] { delete alert.data(); }, true);
-    alert->setObjectName(isMissing ? QStringLiteral("SparkleUpdater_updaterIsMissingDialog")
-                                   : QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
-    Core::ValueGuard<std::function<void()>> hideGuard(m_impl->hideDialog,
-                                                      [alert]
-                                                      {
-                                                          if (alert)
-                                                          {
-                                                              alert->close();
-                                                          }
-                                                      });
-    Core::ScopedFunctionCall const forgetDeadUpdater(
-        nullptr,
-        [self, &hideGuard]
-        {
-            if (!self)
-            {
-                hideGuard.Forget();
-            }
-        },
-        true);
-    alert->Exec();
+    RunningBox alert(Util::AlertBox::Information, isMissing ? MissingSessionText() : RunningUpdateText(),
+                     QMessageBox::Ok, parent,
+                     isMissing ? QStringLiteral("SparkleUpdater_updaterIsMissingDialog")
+                               : QStringLiteral("SparkleUpdater_updateIsAlreadyRunningDialog"));
+    (void)alert.Run(m_impl->hideDialog, this);
 }
 
 void UpdaterSparkle::RejectUpdateAndHideDialog()

@@ -1,6 +1,5 @@
 #include "Installer/PrepareUpdate.h"
 
-#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/archive/UnpackArchive.h"
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/base/TreeWalk.h"
@@ -72,8 +71,9 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, Engine::
         Engine::ThrowErrno(errno);
     }
     Engine::UniqueFd const bundle = OpenBundle(descriptors.staging, job.bundleName);
+    Engine::ContentHash digest{};
     Engine::DeltaOutcome const outcome =
-        Engine::ApplyDelta(archiveFd, descriptors.target, bundle.Get(), Engine::DeltaLimits(), progress);
+        Engine::ApplyDelta(archiveFd, descriptors.target, bundle.Get(), Engine::DeltaLimits(), progress, digest);
     if (!outcome.HasSucceeded())
     {
         if (outcome.error == Engine::DeltaError::CannotWrite)
@@ -82,7 +82,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, Engine::
         }
         throw UpdateRefusal(FaultOf(outcome), outcome.systemError);
     }
-    return {job.bundleName, Engine::DigestTree(bundle.Get())};
+    return {job.bundleName, digest};
 }
 
 /// Verifies the archive open at \a archiveFd and unpacks it. REQUIRES: no process changes it meanwhile.

@@ -157,7 +157,9 @@ void ApplyTheDelta(benchmark::State& state)
                      UniqueFd const container(::open(material.delta.c_str(), O_RDONLY | O_CLOEXEC));
                      UniqueFd const old(::open(material.old.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
                      UniqueFd const staging(::open(folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-                     benchmark::DoNotOptimize(ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {}).error);
+                     ContentHash digest;
+                     benchmark::DoNotOptimize(
+                         ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {}, digest).error);
                  });
 }
 BENCHMARK(ApplyTheDelta)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);

@@ -30,7 +30,8 @@ DeltaOutcome Apply(std::vector<std::string> const& arguments)
     UniqueFd const container(::open(arguments[1].c_str(), O_RDONLY | O_CLOEXEC));
     UniqueFd const old(::open(arguments[2].c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     UniqueFd const folder(::open(arguments[3].c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    return ApplyDelta(container.Get(), old.Get(), folder.Get(), {}, {});
+    ContentHash digest;
+    return ApplyDelta(container.Get(), old.Get(), folder.Get(), {}, {}, digest);
 }
 
 } // namespace

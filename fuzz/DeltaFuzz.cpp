@@ -154,9 +154,10 @@ void CheckPackedText(Bytes bytes)
     if (std::optional<ByteBuffer> const text = UnpackText(bytes))
     {
         std::optional<ByteBuffer> const recipe = FindRecipe(bytes, Bytes(text->data(), text->size()));
-        std::optional<ByteBuffer> const made = recipe ? PackByRecipe(Bytes(recipe->data(), recipe->size()),
-                                                                     Bytes(text->data(), text->size()), bytes.size())
-                                                      : std::nullopt;
+        std::optional<ByteBuffer> const made = recipe
+                                                   ? PackByRecipe(Bytes(recipe->data(), recipe->size()),
+                                                                  Bytes(text->data(), text->size()), bytes.size(), {})
+                                                   : std::nullopt;
         Require(!recipe || (made && Bytes(made->data(), made->size()) == bytes));
     }
     ByteBuffer recipe(std::begin(OPENING), std::end(OPENING));
@@ -164,9 +165,19 @@ void CheckPackedText(Bytes bytes)
     ByteBuffer const text(500, 7);
     for (Bytes const tried : {bytes, Bytes(recipe.data(), recipe.size())})
     {
-        std::optional<ByteBuffer> const made = PackByRecipe(tried, Bytes(text.data(), text.size()), MOST_BYTES);
+        std::optional<ByteBuffer> const made = PackByRecipe(tried, Bytes(text.data(), text.size()), MOST_BYTES, {});
         Require(!made || made->size() <= MOST_BYTES);
     }
+    // The input as the packed data of a text that is equal to the new one.
+    static ByteBuffer const longText(100000, 7);
+    Bytes const view(longText.data(), longText.size());
+    std::optional<DeflateTokens> const tokens = TokensLike({view, bytes, {{view.size(), 0, 0}}}, view, {6, 8});
+    std::size_t sum = 0;
+    for (DeflateToken const token : tokens.value_or(DeflateTokens()))
+    {
+        sum += token.length > 0 ? token.length : 1u;
+    }
+    Require(!tokens || sum == view.size());
 }
 
 ByteBuffer const& SmallProgram(Pelnar::Testing::Processor processor)

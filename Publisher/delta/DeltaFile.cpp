@@ -41,17 +41,21 @@ void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformatio
     }
 }
 
-void Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd, Output const& progressOutput)
+/// The digest of the bundle that was made.
+Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd,
+                          Output const& progressOutput)
 {
     Progress bar(progressOutput, QStringLiteral("Applying"));
     // Deliberate: no signature is asked for. The container is checked against all that it says, and what is made here
     // is looked at or hashed, never started.
+    Engine::ContentHash digest{};
     Engine::DeltaOutcome const outcome =
-        Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar));
+        Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);
     if (!outcome.HasSucceeded())
     {
         throw Refusal(ProblemOf(outcome, name));
     }
+    return digest;
 }
 
 } // namespace
@@ -111,8 +115,9 @@ void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree 
                 Output const& progressOutput)
 {
     TemporaryFolder const made;
-    ApplyDeltaFile(delta, oldBundle, made.Descriptor(), progressOutput);
-    if (Engine::DigestTree(made.Descriptor()) != Engine::DigestTree(newBundle.Descriptor()))
+    Engine::ContentHash const digest =
+        Apply(delta.descriptor.Get(), delta.name, oldBundle, made.Descriptor(), progressOutput);
+    if (digest != Engine::DigestTree(newBundle.Descriptor()))
     {
         throw Refusal({delta.name, 0, 0, QStringLiteral("makes another bundle than the archive of that version holds"),
                        QStringLiteral("remove the delta; it is made again where it is wanted")});

@@ -1,3 +1,4 @@
+#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
@@ -107,13 +108,14 @@ protected:
         UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
         UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits,
-                          [this](std::uint64_t done, std::uint64_t total) { m_progress.emplace_back(done, total); });
+        auto const progress = [this](std::uint64_t done, std::uint64_t total) { m_progress.emplace_back(done, total); };
+        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits, progress, m_digest);
     }
 
     void MakeOrFail() { ASSERT_TRUE(Make().outcome.HasSucceeded()); }
 
     std::vector<std::pair<std::uint64_t, std::uint64_t>> m_progress;
+    ContentHash m_digest{};
 
 private:
     QTemporaryDir m_dir;
@@ -131,6 +133,8 @@ TEST_F(Delta, MakesExactlyTheNewVersion)
     DeltaOutcome const outcome = Apply();
     EXPECT_EQ(outcome.error, DeltaError::None) << outcome.path;
     EXPECT_EQ(Describe(Staging()), Describe(New()));
+    UniqueFd const made(open(Staging().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    EXPECT_EQ(m_digest, DigestTree(made.Get()));
 }
 
 TEST_F(Delta, SameFoldersMakeTheSameBytes)
@@ -214,7 +218,7 @@ TEST_F(Delta, LinkInTheStagingFolderIsNotFollowed)
     UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
     fs::create_directory(Root() / "outside");
     fs::create_symlink(Root() / "outside", Staging() / "Resources");
-    DeltaOutcome const outcome = ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {});
+    DeltaOutcome const outcome = ApplyDelta(container.Get(), old.Get(), staging.Get(), {}, {}, m_digest);
     EXPECT_EQ(outcome.error, DeltaError::CannotWrite);
     EXPECT_EQ(outcome.path, "Resources");
     EXPECT_TRUE(fs::is_empty(Root() / "outside"));

@@ -102,7 +102,7 @@ protected:
         UniqueFd const container(open(Container().c_str(), O_RDONLY | O_CLOEXEC));
         UniqueFd const old(open(Old().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
         UniqueFd const staging(open(Staging().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits, {});
+        return ApplyDelta(container.Get(), old.Get(), staging.Get(), limits, {}, m_digest);
     }
 
     void ExpectTheNewVersion()
@@ -113,6 +113,7 @@ protected:
     }
 
 private:
+    ContentHash m_digest{};
     QTemporaryDir m_dir;
 };
 

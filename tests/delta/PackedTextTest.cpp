@@ -40,7 +40,7 @@ ByteBuffer ExpectTheWayBack(std::string const& file, std::string const& text)
     std::optional<ByteBuffer> const recipe = FindRecipe(View(file), View(text));
     EXPECT_TRUE(recipe);
     std::optional<ByteBuffer> const made =
-        recipe ? PackByRecipe(View(*recipe), View(text), file.size()) : std::optional<ByteBuffer>();
+        recipe ? PackByRecipe(View(*recipe), View(text), file.size(), {}) : std::optional<ByteBuffer>();
     EXPECT_TRUE(made && Text(*made) == file);
     return recipe.value_or(ByteBuffer());
 }
@@ -112,18 +112,77 @@ TEST(PackedText, BrokenRecipesMakeNothingLargerThanAllowed)
     ByteBuffer const recipe = FindRecipe(View(file), View(text)).value();
     for (std::size_t size = 0; size < recipe.size(); ++size)
     {
-        EXPECT_FALSE(PackByRecipe(View(recipe).substr(0, size), View(text), file.size())) << size;
+        EXPECT_FALSE(PackByRecipe(View(recipe).substr(0, size), View(text), file.size(), {})) << size;
     }
-    EXPECT_FALSE(PackByRecipe(View(recipe), View(text), file.size() - 1));
+    EXPECT_FALSE(PackByRecipe(View(recipe), View(text), file.size() - 1, {}));
     for (std::size_t at = 0; at < recipe.size(); ++at)
     {
         for (std::uint8_t const bits : {0x01, 0x80, 0xFF})
         {
             ByteBuffer changed = recipe;
             changed[at] = static_cast<std::uint8_t>(changed[at] ^ bits);
-            std::optional<ByteBuffer> const made = PackByRecipe(View(changed), View(text), file.size());
+            std::optional<ByteBuffer> const made = PackByRecipe(View(changed), View(text), file.size(), {});
             EXPECT_TRUE(!made || made->size() <= file.size()) << at;
         }
+    }
+}
+
+/// A text, and another one with something new before it and in it.
+struct TwoTexts
+{
+    std::string const before = WordsOf(8, 400000);
+    std::string const added = WordsOf(9, 700);
+    std::string const after = added + before.substr(0, 200000) + "changed" + before.substr(200005);
+    std::vector<PatchStep> const steps{{0, added.size(), 0}, {200000, 7, 10}, {before.size() - 200005, 0, 0}};
+};
+
+TEST(PackedText, TokensOfTheOldTextAreCopied)
+{
+    TwoTexts const texts;
+    for (int level = 4; level <= 9; ++level)
+    {
+        for (int const memory : {8, 9})
+        {
+            SCOPED_TRACE(testing::Message() << "level " << level << ", memory " << memory);
+            std::string const oldFile = GzipOf(texts.before, level, memory);
+            std::string const file = GzipOf(texts.after, level, memory);
+            PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
+            ByteBuffer const recipe = FindRecipe(View(file), View(texts.after)).value();
+            ByteBuffer const faster = FasterRecipe(recipe, View(file), View(texts.after), base);
+            EXPECT_NE(faster, recipe);
+            EXPECT_EQ(Text(PackByRecipe(View(faster), View(texts.after), file.size(), base).value()), file);
+            EXPECT_FALSE(PackByRecipe(View(faster), View(texts.after), file.size(), {})) << "there is nothing to copy";
+        }
+    }
+}
+
+TEST(PackedText, TokensOfAnotherPackerAreNotCopied)
+{
+    TwoTexts const texts;
+    std::string const oldFile = GzipOf(texts.before, 6);
+    std::string const file = GzipOf(texts.after, 9);
+    PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
+    ByteBuffer const recipe = FindRecipe(View(file), View(texts.after)).value();
+    EXPECT_EQ(FasterRecipe(recipe, View(file), View(texts.after), base), recipe);
+}
+
+TEST(PackedText, DamagedTokensOfTheOldTextMakeNothingLargerThanAllowed)
+{
+    TwoTexts const texts;
+    std::string const oldFile = GzipOf(texts.before);
+    std::string const file = GzipOf(texts.after);
+    PackedBase const base{View(texts.before), PackedDataOf(View(oldFile)), texts.steps};
+    ByteBuffer const recipe =
+        FasterRecipe(FindRecipe(View(file), View(texts.after)).value(), View(file), View(texts.after), base);
+    for (std::size_t at = 0; at < oldFile.size(); at += 4001)
+    {
+        std::string damaged = oldFile;
+        damaged[at] = static_cast<char>(damaged[at] ^ 0x55);
+        PackedBase const other{View(texts.before), View(damaged).substr(10), texts.steps};
+        std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), View(texts.after), file.size(), other);
+        EXPECT_TRUE(!made || made->size() <= file.size()) << at;
+        PackedBase const shorter{View(texts.before), View(oldFile).substr(10, at), texts.steps};
+        EXPECT_FALSE(PackByRecipe(View(recipe), View(texts.after), file.size(), shorter)) << at;
     }
 }
 

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/DeflateCodes.h"
 
 #include <algorithm>
+#include <cstring>
 
 namespace Pelnar::Engine
 {
@@ -64,9 +65,13 @@ std::uint32_t BitReader::Peek(unsigned count) const
 {
     std::size_t const first = m_position / 8;
     std::uint32_t word = 0;
-    for (std::size_t i = 0; i < 3 && first + i < m_bytes.size(); ++i)
+    if (first + sizeof word <= m_bytes.size())
     {
-        word |= std::uint32_t(m_bytes[first + i]) << (8 * i);
+        std::memcpy(&word, m_bytes.data() + first, sizeof word);
+    }
+    for (std::size_t i = first; i < m_bytes.size() && first + sizeof word > m_bytes.size(); ++i)
+    {
+        word |= std::uint32_t(m_bytes[i]) << (8 * (i - first));
     }
     return word >> (m_position % 8) & ((1u << count) - 1);
 }
@@ -80,17 +85,11 @@ std::uint32_t BitReader::Take(unsigned count)
 
 void BitWriter::Put(std::uint32_t bits, unsigned count)
 {
-    while (count > 0)
+    m_bits |= (bits & ((std::uint64_t(1) << count) - 1)) << m_count;
+    for (m_count += count; m_count >= 8; m_count -= 8)
     {
-        if (m_used == 0)
-        {
-            m_bytes.push_back(0);
-        }
-        unsigned const now = std::min(count, 8 - m_used);
-        m_bytes.back() = static_cast<std::uint8_t>(m_bytes.back() | (bits & ((1u << now) - 1)) << m_used);
-        m_used = (m_used + now) % 8;
-        bits >>= now;
-        count -= now;
+        m_bytes.push_back(static_cast<std::uint8_t>(m_bits));
+        m_bits >>= 8;
     }
 }
 

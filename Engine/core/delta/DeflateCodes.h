@@ -32,14 +32,17 @@ private:
 class BitWriter
 {
 public:
+    /// The lowest \a count of \a bits, at most 16.
     void Put(std::uint32_t bits, unsigned count);
+    /// The full bytes.
     ByteBuffer& Buffer() { return m_bytes; }
-    /// What follows begins with a byte.
-    void EndByte() { m_used = 0; }
+    /// Fills the last byte with zeros.
+    void EndByte() { Put(0, (8 - m_count) % 8); }
 
 private:
     ByteBuffer m_bytes;
-    unsigned m_used = 0; ///< bits of the last byte; 0 when it is full
+    std::uint64_t m_bits = 0;
+    unsigned m_count = 0; ///< of the bits that fill no byte yet
 };
 
 constexpr unsigned MAX_CODE_BITS = 15;

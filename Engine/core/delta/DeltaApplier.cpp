@@ -1,5 +1,6 @@
 #include "Engine/core/delta/DeltaApplier.h"
 
+#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/delta/BundleFiles.h"
 #include "Engine/core/delta/JoinedApplier.h"
 
@@ -36,10 +37,34 @@ DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaMani
     return OutcomeOf(CheckDeltaManifest(manifest, limits));
 }
 
+/// By the hashes of what was written.
+ContentHash DigestOf(std::vector<DeltaEntry> const& entries)
+{
+    TreeManifest tree;
+    for (DeltaEntry const& entry : entries)
+    {
+        switch (entry.kind)
+        {
+        case DeltaEntryKind::Directory:
+            tree.AddFolder(entry.path, 0755);
+            break;
+        case DeltaEntryKind::SymbolicLink:
+            tree.AddLink(entry.path, entry.linkTarget);
+            break;
+        case DeltaEntryKind::Kept:
+        case DeltaEntryKind::Patched:
+        case DeltaEntryKind::Whole:
+            tree.AddFile(entry.path, entry.isExecutable ? 0755 : 0644, entry.size, entry.hash);
+            break;
+        }
+    }
+    return tree.Digest();
+}
+
 } // namespace
 
 DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLimits const& limits,
-                        DeltaProgress const& progress)
+                        DeltaProgress const& progress, ContentHash& digest)
 {
     DeltaManifest manifest;
     std::uint64_t dataOffset = 0;
@@ -64,8 +89,15 @@ DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLi
         }
     };
     DeltaWork const work{containerFd, oldBundleFd, stagingFd, dataOffset};
-    return manifest.format == DeltaFormat::Joined ? ApplyJoinedDelta(work, manifest, entryDone)
-                                                  : ApplySeparateDelta(work, manifest, entryDone);
+    bool const isJoined = manifest.format == DeltaFormat::Joined;
+    DeltaOutcome outcome =
+        isJoined ? ApplyJoinedDelta(work, manifest, entryDone) : ApplySeparateDelta(work, manifest, entryDone);
+    if (outcome.HasSucceeded())
+    {
+        // The separate format's hashes are of another kind.
+        digest = isJoined ? DigestOf(manifest.entries) : DigestTree(stagingFd);
+    }
+    return outcome;
 }
 
 } // namespace Pelnar::Engine

@@ -16,10 +16,10 @@ using DeltaProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t 
 
 /// Fills the empty folder open at \a stagingFd with the new version. \a oldBundleFd is the old version's folder;
 /// nothing outside these two folders is reached, no matter which links they hold. Files get mode 0644 or 0755, folders
-/// 0755. Every file's bytes have been compared with the manifest's hash when the answer is success; after a failure the
-/// staging folder holds what was made and is for the caller to remove.
+/// 0755. On success, every file's bytes have been compared with the manifest's hash while they were written, and
+/// \a digest is the hash that DigestTree has for the tree. After a failure the caller removes what was made.
 /// REQUIRES: the container's signature has been verified over this very descriptor.
 [[nodiscard]] DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLimits const& limits,
-                                      DeltaProgress const& progress);
+                                      DeltaProgress const& progress, ContentHash& digest);
 
 } // namespace Pelnar::Engine

@@ -84,7 +84,8 @@ private:
         unit.targets.clear();
         for (std::size_t i = 0; i < targets.size(); ++i)
         {
-            bool const isMade = UsesOld(steps[i]);
+            bool const isTooMuch = unit.textBytes > 0 && steps[i].size() > MAX_MAPPED_STEPS;
+            bool const isMade = UsesOld(steps[i]) && !isTooMuch;
             (isMade ? unit : whole).targets.push_back(targets[i]);
             made.insert(made.end(), isMade ? 1 : 0, i);
         }
@@ -163,10 +164,12 @@ private:
     {
         ByteBuffer const oldText = UnpackText(oldFile).value();
         ByteBuffer const newText = UnpackText(newFile).value();
-        ByteBuffer const recipe = FindRecipe(newFile, Bytes(newText.data(), newText.size())).value();
-        PlainText old({Bytes(oldText.data(), oldText.size())});
+        Bytes const text(newText.data(), newText.size());
+        PackedBase const base{Bytes(oldText.data(), oldText.size()), PackedDataOf(oldFile), steps};
+        ByteBuffer const recipe = FasterRecipe(FindRecipe(newFile, text).value(), newFile, text, base);
+        PlainText old({base.text});
         m_writer.AddRecord(Bytes(recipe.data(), recipe.size()));
-        m_writer.Add(old, steps, Bytes(newText.data(), newText.size()));
+        m_writer.Add(old, steps, text);
     }
 
     void AddWholeFiles(DeltaUnit const& whole)

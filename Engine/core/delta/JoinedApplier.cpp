@@ -1,6 +1,7 @@
 #include "Engine/core/delta/JoinedApplier.h"
 
 #include "Engine/core/delta/BundleFiles.h"
+#include "Engine/core/delta/KeptFiles.h"
 #include "Engine/core/delta/PackedText.h"
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/PieceWriter.h"
@@ -36,6 +37,11 @@ PatchSources SourcesOf(std::vector<DeltaStream>& streams)
     return sources;
 }
 
+Bytes View(ByteBuffer const& bytes)
+{
+    return {bytes.data(), bytes.size()};
+}
+
 /// The old files of a unit.
 struct UnitBase
 {
@@ -46,24 +52,32 @@ struct UnitBase
 class Applier
 {
 public:
-    Applier(DeltaWork const& work, DeltaManifest const& manifest, EntryDone const& done)
+    Applier(DeltaWork const& work, DeltaManifest& manifest, EntryDone const& done)
         : m_manifest(manifest)
         , m_done(done)
         , m_files(work.oldBundleFd, work.stagingFd)
         , m_streams(OpenStreams(work, manifest))
         , m_sources(SourcesOf(m_streams))
         , m_patches(m_sources)
+        , m_kept(work, manifest.entries)
     {
     }
 
     DeltaOutcome Apply()
     {
         errno = 0;
-        DeltaOutcome outcome = MakeEntries();
+        DeltaOutcome outcome = MakeFoldersAndLinks();
+        if (!outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        m_kept.Start();
         for (auto unit = m_manifest.units.begin(); outcome.HasSucceeded() && unit != m_manifest.units.end(); ++unit)
         {
             outcome = MakeUnit(*unit);
+            m_kept.Report(m_done);
         }
+        outcome = outcome.HasSucceeded() ? m_kept.Finish(m_done) : outcome;
         if (!outcome.HasSucceeded())
         {
             return outcome;
@@ -74,17 +88,16 @@ public:
         {
             return {DeltaError::Damaged, {}, 0};
         }
-        return m_hashes.Finish() == m_manifest.targetHash ? DeltaOutcome{} : Culprit();
+        return HashOfAll() == m_manifest.targetHash ? DeltaOutcome{} : Culprit();
     }
 
 private:
-    /// Everything but what the units make: nothing is ever made below a link or a file, for folders come first.
-    DeltaOutcome MakeEntries()
+    /// Folders come before their content, so nothing is ever made below a link or a file.
+    DeltaOutcome MakeFoldersAndLinks()
     {
         for (DeltaEntry const& entry : m_manifest.entries)
         {
-            bool const isStored = entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
-            if (isStored)
+            if (entry.kind != DeltaEntryKind::Directory && entry.kind != DeltaEntryKind::SymbolicLink)
             {
                 continue;
             }
@@ -95,13 +108,29 @@ private:
                 outcome.path = entry.path;
                 return outcome;
             }
-            if (entry.kind == DeltaEntryKind::Kept)
-            {
-                AddTo(m_hashes, hasher.Finish());
-            }
             m_done(entry);
         }
         return {};
+    }
+
+    ContentHash HashOfAll() const
+    {
+        ContentHasher hashes;
+        for (DeltaEntry const& entry : m_manifest.entries)
+        {
+            if (entry.kind == DeltaEntryKind::Kept)
+            {
+                AddTo(hashes, entry.hash);
+            }
+        }
+        for (DeltaUnit const& unit : m_manifest.units)
+        {
+            for (std::uint32_t const target : unit.targets)
+            {
+                AddTo(hashes, m_manifest.entries[target].hash);
+            }
+        }
+        return hashes.Finish();
     }
 
     DeltaOutcome OpenBase(DeltaUnit const& unit, UnitBase& base) const
@@ -137,7 +166,7 @@ private:
         PlainText old(base.files);
         for (std::uint32_t const target : unit.targets)
         {
-            DeltaEntry const& entry = m_manifest.entries[target];
+            DeltaEntry& entry = m_manifest.entries[target];
             UniqueFd file;
             DeltaOutcome outcome = m_files.MakeFile(entry, file);
             if (outcome.HasSucceeded())
@@ -146,15 +175,13 @@ private:
                           : unit.spanChanges.empty() ? MakeFile(entry, file, old)
                                                      : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
             }
-            ContentHash hash;
-            bool const isWritten = m_writer.Finish(hash);
+            bool const isWritten = m_writer.Finish(entry.hash);
             outcome = outcome.HasSucceeded() && !isWritten ? WriteFailure() : outcome;
             if (!outcome.HasSucceeded())
             {
                 outcome.path = entry.path;
                 return outcome;
             }
-            AddTo(m_hashes, hash);
             m_done(entry);
         }
         return {};
@@ -200,29 +227,33 @@ private:
         ByteBuffer recipe;
         ByteBuffer text;
         text.reserve(static_cast<std::size_t>(textBytes));
+        auto const append = [&text](Bytes piece)
+        {
+            text.insert(text.end(), piece.begin(), piece.end());
+            return true;
+        };
+        PackedBase base{View(*oldText), PackedDataOf(oldFile), {}};
         PatchVerdict verdict = m_patches.TakeRecord(entry.size, recipe);
+        verdict = verdict == PatchVerdict::Applied
+                      ? m_patches.TakeSteps(base.text.size(), textBytes, MAX_MAPPED_STEPS, base.steps)
+                      : verdict;
         if (verdict == PatchVerdict::Applied)
         {
-            PlainText old({Bytes(oldText->data(), oldText->size())});
-            verdict = m_patches.Make(old, textBytes,
-                                     [&text](Bytes piece)
-                                     {
-                                         text.insert(text.end(), piece.begin(), piece.end());
-                                         return true;
-                                     });
+            PlainText old({base.text});
+            verdict = m_patches.MakeBySteps(old, base.steps, textBytes, append);
         }
         if (verdict != PatchVerdict::Applied)
         {
             return OutcomeOf(verdict);
         }
-        std::optional<ByteBuffer> packed = PackByRecipe(
-            Bytes(recipe.data(), recipe.size()), Bytes(text.data(), text.size()), static_cast<std::size_t>(entry.size));
+        std::optional<ByteBuffer> packed =
+            PackByRecipe(View(recipe), View(text), static_cast<std::size_t>(entry.size), base);
         if (!packed || packed->size() != entry.size)
         {
             return Culprit();
         }
         m_packed = std::move(*packed);
-        return m_writer.Add(file.Get(), Bytes(m_packed.data(), m_packed.size())) ? DeltaOutcome{} : WriteFailure();
+        return m_writer.Add(file.Get(), View(m_packed)) ? DeltaOutcome{} : WriteFailure();
     }
 
     ByteSink SinkOf(UniqueFd const& file)
@@ -258,15 +289,15 @@ private:
         return {isExpected ? DeltaError::ResultDiffers : DeltaError::BaseDiffers, {}, 0};
     }
 
-    DeltaManifest const& m_manifest;
+    DeltaManifest& m_manifest;
     EntryDone const& m_done;
     BundleFiles m_files;
     std::vector<DeltaStream> m_streams;
     PatchSources m_sources;
     PatchApplier m_patches;
-    ByteBuffer m_packed;    ///< the file that is written
-    ContentHasher m_hashes; ///< of the files' hashes
-    PieceWriter m_writer;   ///< last, as it may still read what the others hold
+    KeptFiles m_kept;
+    ByteBuffer m_packed;  ///< the file that is written
+    PieceWriter m_writer; ///< last, as it may still read what the others hold
 };
 
 } // namespace
@@ -285,7 +316,7 @@ std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanC
     return spans;
 }
 
-DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest const& manifest, EntryDone const& done)
+DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest& manifest, EntryDone const& done)
 {
     // Its buffers are large for a stack.
     auto const applier = std::make_unique<Applier>(work, manifest, done);

@@ -10,8 +10,8 @@
 namespace Pelnar::Engine
 {
 
-[[nodiscard]] DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest const& manifest,
-                                            EntryDone const& done);
+/// Notes the hash of each file in \a manifest.
+[[nodiscard]] DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest& manifest, EntryDone const& done);
 
 /// The segments of a program whose old version has those of \a layout.
 [[nodiscard]] std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanChange> const& changes);

@@ -47,6 +47,7 @@ public:
 
     DeltaManifestError Error() const { return m_error; }
     bool IsAtEnd() const { return m_rest.empty(); }
+    std::size_t Left() const { return m_rest.size(); }
 
     std::uint8_t Byte()
     {

@@ -1,12 +1,10 @@
 #include "Engine/core/delta/PackedText.h"
 
-#include "Engine/core/delta/DeflateCodes.h"
 #include "Engine/core/delta/ManifestBytes.h"
 
 #include <zlib.h>
 
 #include <algorithm>
-#include <memory>
 #include <new>
 
 namespace Pelnar::Engine
@@ -18,6 +16,10 @@ constexpr std::size_t FIXED_OPENING_BYTES = 10;
 constexpr std::size_t CLOSING_BYTES = 8;
 constexpr int WINDOW_BITS = -15; ///< deflated data by themselves
 constexpr std::uint64_t MAX_BLOCKS = 1u << 16;
+constexpr std::uint8_t MOST_LEVEL = 9;
+constexpr std::uint8_t MOST_MEMORY = 9;
+constexpr std::uint8_t USUAL_MEMORY = 8;
+constexpr std::uint8_t LIKE_BASE = 16; ///< what the level is more if tokens are copied from the old text
 constexpr std::uint8_t TOLD_EXTRA = 4;
 constexpr std::uint8_t TOLD_NAME = 8;
 constexpr std::uint8_t TOLD_REMARK = 16;
@@ -44,87 +46,6 @@ std::size_t OpeningBytes(Bytes file)
     return end < file.size() ? end : 0;
 }
 
-/// \a text deflated as the most common packers do it.
-ByteBuffer Deflate(Bytes text, int level, int memory)
-{
-    z_stream stream{};
-    if (deflateInit2(&stream, level, Z_DEFLATED, WINDOW_BITS, memory, Z_DEFAULT_STRATEGY) != Z_OK)
-    {
-        throw std::bad_alloc();
-    }
-    ByteBuffer packed(deflateBound(&stream, static_cast<uLong>(text.size())));
-    stream.next_in = const_cast<Bytef*>(text.data());
-    stream.avail_in = static_cast<uInt>(text.size());
-    stream.next_out = packed.data();
-    stream.avail_out = static_cast<uInt>(packed.size());
-    static_cast<void>(deflate(&stream, Z_FINISH)); // there is room for all
-    packed.resize(stream.total_out);
-    deflateEnd(&stream);
-    return packed;
-}
-
-/// The tokens of deflated data, one block after the other.
-class TokenReader
-{
-public:
-    explicit TokenReader(Bytes bytes) : m_bits(bytes), m_codes(std::make_unique<BlockCodes>()) {}
-
-    BitReader& Bits() { return m_bits; }
-    BlockKind Kind() const { return m_kind; }
-    bool IsLastBlock() const { return m_isLast; }
-
-    /// False for a block that is stored as it is, or broken.
-    [[nodiscard]] bool StartBlock()
-    {
-        m_isLast = m_bits.Take(1) != 0;
-        m_kind = static_cast<BlockKind>(m_bits.Take(2));
-        return m_kind == BlockKind::Fixed     ? m_codes->SetFixed()
-               : m_kind == BlockKind::Dynamic ? m_codes->ReadDynamic(m_bits)
-                                              : false;
-    }
-    [[nodiscard]] bool Next(DeflateToken& token, bool& isEnd) { return m_codes->Read(m_bits, token, isEnd); }
-
-private:
-    BitReader m_bits;
-    std::unique_ptr<BlockCodes> m_codes;
-    BlockKind m_kind = BlockKind::Stored;
-    bool m_isLast = false;
-};
-
-/// The tokens of all blocks as if there were none.
-class TokenStream
-{
-public:
-    explicit TokenStream(Bytes bytes) : m_reader(bytes) {}
-
-    [[nodiscard]] bool Next(DeflateToken& token)
-    {
-        for (bool isEnd = true;;)
-        {
-            if (!m_isInBlock && (m_isOver || !m_reader.StartBlock()))
-            {
-                return false;
-            }
-            m_isInBlock = true;
-            if (!m_reader.Next(token, isEnd))
-            {
-                return false;
-            }
-            if (!isEnd)
-            {
-                return true;
-            }
-            m_isInBlock = false;
-            m_isOver = m_reader.IsLastBlock();
-        }
-    }
-
-private:
-    TokenReader m_reader;
-    bool m_isInBlock = false;
-    bool m_isOver = false;
-};
-
 /// What is told of a block, and the bits that stand before its tokens.
 void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes data, std::size_t begin,
                  std::size_t end)
@@ -143,6 +64,7 @@ void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes
             copy.Put(bits.Take(now), now);
             left -= now;
         }
+        copy.EndByte();
         recipe.insert(recipe.end(), copy.Buffer().begin(), copy.Buffer().end());
     }
 }
@@ -189,25 +111,23 @@ void AppendBytes(ByteBuffer& recipe, Bytes bytes)
 class Packer
 {
 public:
-    Packer(Bytes recipe, Bytes text, std::size_t maxSize) : m_recipe(recipe), m_text(text), m_maxSize(maxSize) {}
+    Packer(Bytes recipe, Bytes text, std::size_t maxSize, PackedBase const& base)
+        : m_recipe(recipe), m_text(text), m_maxSize(maxSize), m_base(base)
+    {
+    }
 
     std::optional<ByteBuffer> Pack()
     {
         Bytes const opening = TakeBytes();
-        std::uint8_t const level = m_recipe.Byte();
-        std::uint8_t const memory = m_recipe.Byte();
-        bool const isKnown = level >= 1 && level <= 9 && memory >= 1 && memory <= 9;
-        std::uint64_t const blocks = m_recipe.Count(MAX_BLOCKS);
-        if (!isKnown || m_recipe.Error() != DeltaManifestError::None)
+        m_bits.Buffer().assign(opening.begin(), opening.end());
+        if (!FindTokens())
         {
             return std::nullopt;
         }
-        m_bits.Buffer().assign(opening.begin(), opening.end());
-        ByteBuffer const packed = Deflate(m_text, level, memory);
-        TokenStream tokens(Bytes(packed.data(), packed.size()));
+        std::uint64_t const blocks = m_recipe.Count(MAX_BLOCKS);
         for (std::uint64_t i = 0; i < blocks; ++i)
         {
-            if (!WriteBlock(tokens, i + 1 == blocks))
+            if (!WriteBlock(i + 1 == blocks))
             {
                 return std::nullopt;
             }
@@ -223,7 +143,22 @@ public:
 private:
     Bytes TakeBytes() { return m_recipe.Raw(m_recipe.Number()); }
 
-    bool WriteBlock(TokenStream& tokens, bool isLast)
+    bool FindTokens()
+    {
+        std::uint8_t const level = m_recipe.Byte();
+        DeflateManner const manner{level & ~LIKE_BASE, m_recipe.Byte()};
+        bool const isKnown =
+            manner.level >= 1 && manner.level <= MOST_LEVEL && manner.memory >= 1 && manner.memory <= MOST_MEMORY;
+        std::optional<DeflateTokens> tokens;
+        if (isKnown)
+        {
+            tokens = level == manner.level ? TokensOf(m_text, manner) : TokensLike(m_base, m_text, manner);
+        }
+        m_tokens = std::move(tokens).value_or(DeflateTokens());
+        return tokens.has_value();
+    }
+
+    bool WriteBlock(bool isLast)
     {
         auto const kind = static_cast<BlockKind>(m_recipe.Byte());
         std::uint64_t const count = m_recipe.Number();
@@ -233,10 +168,9 @@ private:
         {
             return false;
         }
-        DeflateToken token;
         for (std::uint64_t i = 0; i < count; ++i)
         {
-            bool const isWritten = tokens.Next(token) && m_codes->Write(m_bits, token);
+            bool const isWritten = m_next < m_tokens.size() && m_codes->Write(m_bits, m_tokens[m_next++]);
             if (!isWritten || m_bits.Buffer().size() > m_maxSize)
             {
                 return false;
@@ -267,9 +201,18 @@ private:
     ManifestBytes::Reader m_recipe;
     Bytes m_text;
     std::size_t m_maxSize;
+    PackedBase const& m_base;
+    DeflateTokens m_tokens;
+    std::size_t m_next = 0; ///< of the tokens
     BitWriter m_bits;
     std::unique_ptr<BlockCodes> m_codes = std::make_unique<BlockCodes>();
 };
+
+bool IsRecipe(ByteBuffer const& recipe, Bytes text, Bytes file, PackedBase const& base)
+{
+    std::optional<ByteBuffer> const made = PackByRecipe(Bytes(recipe.data(), recipe.size()), text, file.size(), base);
+    return made && Bytes(made->data(), made->size()) == file;
+}
 
 } // namespace
 
@@ -302,17 +245,22 @@ std::optional<ByteBuffer> UnpackText(Bytes file)
     return isOne ? std::optional<ByteBuffer>(std::move(text)) : std::nullopt;
 }
 
-std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize)
+Bytes PackedDataOf(Bytes file)
 {
-    return Packer(recipe, text, maxSize).Pack();
+    std::size_t const opening = OpeningBytes(file);
+    return opening == 0 ? Bytes() : file.substr(opening);
+}
+
+std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize, PackedBase const& base)
+{
+    return Packer(recipe, text, maxSize, base).Pack();
 }
 
 std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
 {
-    std::size_t const opening = OpeningBytes(file);
+    Bytes const data = PackedDataOf(file);
     std::size_t dataBytes = 0;
     ByteBuffer blocks;
-    Bytes const data = opening == 0 ? Bytes() : file.substr(opening);
     if (data.empty() || !AppendBlocks(blocks, data, dataBytes) || dataBytes > data.size())
     {
         return std::nullopt;
@@ -320,22 +268,31 @@ std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
     // Most files come from the strongest level or the usual one; the memory is that of gzip, or of zlib by default.
     for (std::uint8_t const level : {9, 6, 8, 7, 5, 4, 3, 2, 1})
     {
-        for (std::uint8_t const memory : {9, 8})
+        for (std::uint8_t const memory : {MOST_MEMORY, USUAL_MEMORY})
         {
             ByteBuffer recipe;
-            AppendBytes(recipe, file.substr(0, opening));
+            AppendBytes(recipe, file.substr(0, file.size() - data.size()));
             recipe.push_back(level);
             recipe.push_back(memory);
             recipe.insert(recipe.end(), blocks.begin(), blocks.end());
             AppendBytes(recipe, data.substr(dataBytes));
-            std::optional<ByteBuffer> const made = PackByRecipe(Bytes(recipe.data(), recipe.size()), text, file.size());
-            if (made && Bytes(made->data(), made->size()) == file)
+            if (IsRecipe(recipe, text, file, {}))
             {
                 return recipe;
             }
         }
     }
     return std::nullopt;
+}
+
+ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base)
+{
+    ByteBuffer faster = recipe;
+    ManifestBytes::Reader reader(Bytes(recipe.data(), recipe.size()));
+    std::uint64_t const opening = reader.Number();
+    static_cast<void>(reader.Raw(opening));
+    faster[recipe.size() - reader.Left()] |= LIKE_BASE;
+    return IsRecipe(faster, text, file, base) ? faster : recipe;
 }
 
 } // namespace Pelnar::Engine

@@ -4,7 +4,7 @@
 // packer decides beyond the text, where its blocks end and the codes of each, is its recipe, which is small.
 #pragma once
 
-#include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/DeflateTokens.h"
 
 #include <optional>
 
@@ -17,11 +17,18 @@ constexpr std::size_t MAX_PACKED_TEXT_BYTES = 4u << 20;
 /// The text in a file of one gzip member; nothing for another file and for a longer text.
 [[nodiscard]] std::optional<ByteBuffer> UnpackText(Bytes file);
 
-/// The file with \a text in it that \a recipe tells; nothing when the recipe is broken or asks for more than \a maxSize
-/// bytes.
-[[nodiscard]] std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize);
+/// The packed data of a file that UnpackText accepts, and the bytes behind them.
+[[nodiscard]] Bytes PackedDataOf(Bytes file);
 
-/// The recipe by which \a text becomes \a file again; nothing when no known packer has made it.
+/// Packs \a text as \a recipe says; nothing if the recipe is damaged or makes more than \a maxSize bytes. \a base is
+/// what the text was made from.
+[[nodiscard]] std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize,
+                                                     PackedBase const& base);
+
+/// The recipe that packs \a text to \a file again, from any base; nothing if another packer than zlib made the file.
 [[nodiscard]] std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text);
+
+/// The recipe that copies tokens from \a base, if it packs \a text to \a file again, else \a recipe.
+[[nodiscard]] ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base);
 
 } // namespace Pelnar::Engine

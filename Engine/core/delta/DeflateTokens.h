@@ -1,0 +1,64 @@
+// DeflateTokens.h: the tokens that zlib makes of a text: bytes, and repetitions of the text before.
+// Thread: any; no state. Ownership: values only; a reader refers to its bytes, which outlive it. Any bytes are safe.
+// Finding repetitions is nearly all that packing costs. Where a text equals an old one, its tokens are the old text's.
+#pragma once
+
+#include "Engine/core/delta/DeflateCodes.h"
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+namespace Pelnar::Engine
+{
+
+/// Reads the tokens of deflated data, one block after the other.
+class TokenReader
+{
+public:
+    explicit TokenReader(Bytes bytes) : m_bits(bytes), m_codes(std::make_unique<BlockCodes>()) {}
+
+    BitReader& Bits() { return m_bits; }
+    BlockKind Kind() const { return m_kind; }
+    bool IsLastBlock() const { return m_isLast; }
+
+    /// False for a stored block and for a damaged one.
+    [[nodiscard]] bool StartBlock();
+    /// The next token of the block; \a isEnd instead at its end. False for damaged data.
+    [[nodiscard]] bool Next(DeflateToken& token, bool& isEnd) { return m_codes->Read(m_bits, token, isEnd); }
+    /// The next token of all blocks. False at their end and for damaged data.
+    [[nodiscard]] bool Next(DeflateToken& token);
+
+private:
+    BitReader m_bits;
+    std::unique_ptr<BlockCodes> m_codes;
+    BlockKind m_kind = BlockKind::Stored;
+    bool m_isLast = false;
+    bool m_isInBlock = false;
+};
+
+/// The parameters of zlib that decide which tokens it makes.
+struct DeflateManner
+{
+    int level;
+    int memory;
+};
+
+/// A packed text, and the steps that make another text of it.
+struct PackedBase
+{
+    Bytes text;
+    Bytes data; ///< the text deflated
+    std::vector<PatchStep> steps;
+};
+
+using DeflateTokens = std::vector<DeflateToken>;
+
+/// The tokens of \a text; nothing if zlib stores a part of it. Throws std::bad_alloc.
+[[nodiscard]] std::optional<DeflateTokens> TokensOf(Bytes text, DeflateManner manner);
+
+/// The same tokens, if \a base was deflated in the same manner: copied from it as far as the texts are equal, found by
+/// zlib elsewhere. If it was not, the tokens may be others. Nothing if no part can be copied. Throws std::bad_alloc.
+[[nodiscard]] std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateManner manner);
+
+} // namespace Pelnar::Engine

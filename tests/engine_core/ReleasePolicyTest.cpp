@@ -1,8 +1,6 @@
 // ReleasePolicyTest.cpp: for which installations an item is meant: what a feed says, the verdict, and its name.
 
-#include "Engine/core/feed/ReleasePolicy.h"
-#include "Engine/core/feed/FeedParser.h"
-#include "tests/engine_core/FeedFixture.h"
+#include "tests/engine_core/PolicyFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -14,42 +12,6 @@ namespace
 using Engine::FeedItem;
 using Engine::Installation;
 using Engine::PolicyVerdict;
-
-/// Versions of one digit after a dot at most.
-int OrderOf(QString const& a, QString const& b)
-{
-    double const difference = a.toDouble() - b.toDouble();
-    return difference < 0 ? -1 : difference > 0 ? 1 : 0;
-}
-
-FeedItem ItemWith(QByteArray const& elements, QByteArray const& attributes = {},
-                  Engine::FeedTarget const& target = Engine::FeedPlatform::Linux)
-{
-    QByteArray const feed = "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
-                            "xmlns:pelnar='https://pelnar.example/xml-namespaces/appcast'><channel><item>"
-                            "<pubDate>Mon, 07 Jan 2030 10:00:00 +0000</pubDate>" +
-                            elements + "<enclosure url='a.zip' length='1' sparkle:version='6.0' " + attributes +
-                            "/></item></channel></rss>";
-    Engine::FeedParseResult const result =
-        Engine::ParseFeed(feed, QUrl(QStringLiteral("https://feeds.example.com/a.xml")), target);
-    EXPECT_EQ(result.items.size(), 1U) << feed.toStdString();
-    return result.items.empty() ? FeedItem() : result.items.front();
-}
-
-QDateTime Moment(char const* text)
-{
-    return QDateTime::fromString(QLatin1String(text), Qt::ISODate);
-}
-
-Installation Client(char const* version = "5.0", char const* machine = "x86_64", QStringList const& channels = {})
-{
-    Installation installation;
-    installation.version = QLatin1String(version);
-    installation.machine = QLatin1String(machine);
-    installation.channels = channels;
-    installation.now = Moment("2030-01-08T10:00:00Z");
-    return installation;
-}
 
 Installation InGroup(int group, char const* moment, char const* version = "5.0")
 {
@@ -245,156 +207,72 @@ TEST(ReleasePolicy, LineOfAVersionIsItsFirstTwoNumbers)
     EXPECT_EQ(Engine::VersionLine(QStringLiteral("5")).toStdString(), "5");
 }
 
-namespace
+TEST(ReleasePolicy, ReasonSaysWhatTheItemAsksForAndWhatIsThere)
 {
-
-QString const KEY_A = QStringLiteral("aaaaaaaaaaaaaaaa");
-QString const KEY_B = QStringLiteral("bbbbbbbbbbbbbbbb");
-QString const KEY_C = QStringLiteral("cccccccccccccccc");
-
-/// An item signed by \a signer, whose bundle trusts \a trusted.
-FeedItem Keyed(char const* version, QString const& signer, QStringList const& trusted)
-{
-    FeedItem item;
-    item.versionString = QLatin1String(version);
-    item.edSignature = QStringLiteral("plain");
-    item.signerKey = signer;
-    item.trustedKeys = trusted;
-    return item;
-}
-
-Installation Trusting(QStringList const& keys, char const* version = "5.0")
-{
-    Installation installation = Client(version);
-    installation.trustedKeys = keys;
-    return installation;
-}
-
-/// What stays of \a items, with the signatures that are verified.
-std::string Left(std::vector<FeedItem> items, Installation const& installation)
-{
-    Engine::LeaveOut(items, installation, OrderOf);
-    std::string texts;
-    for (FeedItem const& item : items)
+    struct
     {
-        texts += item.versionString.toStdString() + ':' + item.edSignature.toStdString() + ' ';
-    }
-    return texts;
-}
-
-/// The name of the verdict on the last of \a items.
-std::string Verdict(std::vector<FeedItem> const& items, Installation installation)
-{
-    installation.stones = Engine::SteppingStonesOf(items, installation, OrderOf);
-    PolicyVerdict const verdict = Engine::JudgePolicy(items.back(), installation, OrderOf);
-    EXPECT_EQ(verdict == PolicyVerdict::Plain, Engine::ReasonOf(verdict, items.back(), installation).isEmpty());
-    return Engine::NameOf(verdict);
-}
-
-} // namespace
-
-TEST(KeyPaths, SignaturesOfAnEnclosureAreReadWithTheirKeys)
-{
-    FeedItem const item =
-        ItemWith("<pelnar:keys signer='aaaaaaaaaaaaaaaa' trusted='aaaaaaaaaaaaaaaa'/>",
-                 "sparkle:edSignature='plain' pelnar:signatures='aaaaaaaaaaaaaaaa:one bbbbbbbbbbbbbbbb:two= B:three "
-                 "cccccccccccccccc: CCCCCCCCCCCCCCCC:four five'");
-    ASSERT_EQ(item.signatures.size(), 2u);
-    EXPECT_EQ(item.signatures[1].keyId, KEY_B);
-    EXPECT_EQ(item.signatures[1].signature.toStdString(), "two=");
-    EXPECT_EQ(Engine::SignersOf(item), (QStringList{KEY_A, KEY_B}));
-    QByteArray many;
-    for (int i = 0; i < 9; ++i)
+        char const* elements;
+        char const* attributes;
+        char const* reason;
+    } const ROWS[] = {
+        {"<pelnar:withdrawn/>", "", "the publisher has withdrawn it"},
+        {"", "pelnar:machine='aarch64 riscv64'", "it is for aarch64, riscv64, this is x86_64"},
+        {"<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>", "pelnar:machine='x86_64'",
+         "it is for arm64, this is x86_64"},
+        {BETA, "", "channel beta, listed: none"},
+        {"<pelnar:keys signer='bbbbbbbbbbbbbbbb' trusted=''/>", "sparkle:edSignature='plain'",
+         "signed by the key bbbbbbbbbbbbbbbb, trusted: aaaaaaaaaaaaaaaa"},
+        {"<sparkle:minimumUpdateVersion>5.1</sparkle:minimumUpdateVersion>", "",
+         "installed 5.0 < 5.1, from which it can be updated"},
+        {"<sparkle:informationalUpdate/>", "", "a link is shown, and nothing is downloaded"},
+        {"", "", ""},
+    };
+    Installation here = Client();
+    here.trustedKeys = QStringList(QStringLiteral("aaaaaaaaaaaaaaaa"));
+    for (auto const& row : ROWS)
     {
-        many += "000000000000000" + QByteArray::number(i) + ":x ";
+        FeedItem const item = ItemWith(row.elements, row.attributes);
+        EXPECT_EQ(Engine::ReasonOf(Engine::JudgePolicy(item, here, OrderOf), item, here).toStdString(), row.reason);
     }
-    EXPECT_EQ(ItemWith("", "pelnar:signatures='" + many + "'").signatures.size(), 8u) << "bounded";
+    FeedItem const beta = ItemWith(BETA);
+    EXPECT_EQ(Engine::ReasonOf(PolicyVerdict::OtherChannel, beta,
+                               Client("5.0", "x86_64", {QStringLiteral("alpha"), QStringLiteral("nightly")}))
+                  .toStdString(),
+              "channel beta, listed: alpha, nightly");
 }
 
-TEST(KeyPaths, ABundleVerifiesTheSignatureOfAKeyThatItTrusts)
+TEST(ReleasePolicy, WhatIsToBeAskedIsSettledForTheInstalledVersion)
 {
-    FeedItem item = Keyed("6.0", KEY_A, {});
-    item.signatures = {{KEY_B, QStringLiteral("second")}};
-    EXPECT_EQ(Left({item}, Trusting({})), "6.0:plain ") << "nothing is known of its keys";
-    EXPECT_EQ(Left({item}, Trusting({KEY_A})), "6.0:plain ");
-    EXPECT_EQ(Left({item}, Trusting({KEY_B})), "6.0:second ");
-    EXPECT_EQ(Left({item}, Trusting({KEY_C, KEY_B})), "6.0:second ");
-    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "");
-    item.signerKey.clear();
-    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "nobody says whose it is: the download will show it";
-    item.signerKey = QStringLiteral("a key");
-    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "no id says nothing";
-    item.edSignature.clear();
-    item.signerKey = KEY_A;
-    EXPECT_EQ(Left({item}, Trusting({KEY_A})), "") << "there is no signature of that key";
-    item.signatures.clear();
-    EXPECT_EQ(Left({item}, Trusting({KEY_A})), "6.0: ") << "without any signature it is refused by its own name";
-}
-
-TEST(KeyPaths, DeltaOfAnotherKeyIsLeftOutAlone)
-{
-    FeedItem item = Keyed("6.0", KEY_A, {});
-    item.signatures = {{KEY_B, QStringLiteral("second")}};
-    FeedItem delta = Keyed("6.0", KEY_A, {});
-    delta.isDelta = true;
-    item.deltas = {delta};
-    std::vector<FeedItem> items{item};
-    Engine::LeaveOut(items, Trusting({KEY_B}), OrderOf);
-    ASSERT_EQ(items.size(), 1u);
-    EXPECT_TRUE(items[0].deltas.empty());
-    items = {item};
-    Engine::LeaveOut(items, Trusting({KEY_A}), OrderOf);
-    EXPECT_EQ(items[0].deltas.size(), 1u);
-}
-
-TEST(KeyPaths, AVersionThatBringsTheKeyComesFirst)
-{
-    FeedItem const bridge = Keyed("5.5", KEY_A, {KEY_A, KEY_B});
-    FeedItem const next = Keyed("6.0", KEY_B, {KEY_B});
-    EXPECT_EQ(Left({bridge, next}, Trusting({KEY_A})), "5.5:plain ");
-    EXPECT_EQ(Verdict({bridge, next}, Trusting({KEY_A})), "needs-another-version-first");
-    EXPECT_EQ(Left({bridge, next}, Trusting({KEY_A, KEY_B}, "5.5")), "5.5:plain 6.0:plain ");
-    EXPECT_EQ(Verdict({next}, Trusting({KEY_A})), "key-not-trusted");
-    EXPECT_EQ(Verdict({Keyed("7.0", KEY_A, {KEY_A, KEY_B}), next}, Trusting({KEY_A})), "key-not-trusted")
-        << "the other one is newer";
-    EXPECT_EQ(Verdict({Keyed("4.0", KEY_A, {KEY_A, KEY_B}), next}, Trusting({KEY_A})), "key-not-trusted")
-        << "the other one is older than what runs";
-    FeedItem withdrawn = bridge;
-    withdrawn.policy.isWithdrawn = true;
-    EXPECT_EQ(Verdict({withdrawn, next}, Trusting({KEY_A})), "key-not-trusted");
-    FeedItem informational = next;
-    informational.policy.isInformational = true;
-    EXPECT_EQ(Verdict({informational}, Trusting({KEY_A})), "informational") << "nothing of it is verified";
-}
-
-TEST(KeyPaths, SeveralVersionsMayBringOneKeyAfterTheOther)
-{
-    std::vector<FeedItem> items{Keyed("7.0", KEY_C, {KEY_C}), Keyed("6.0", KEY_B, {KEY_B, KEY_C}),
-                                Keyed("5.5", KEY_A, {KEY_A, KEY_B}), Keyed("8.0", KEY_C, {KEY_C})};
-    EXPECT_EQ(Verdict(items, Trusting({KEY_A})), "needs-another-version-first");
-    items.erase(items.begin() + 1);
-    EXPECT_EQ(Verdict(items, Trusting({KEY_A})), "key-not-trusted");
-}
-
-TEST(KeyPaths, AVersionThatIsJumpedOverBringsNoKey)
-{
-    std::vector<FeedItem> const items{Keyed("5.5", KEY_A, {KEY_B}), Keyed("5.6", KEY_A, {KEY_A}),
-                                      Keyed("6.0", KEY_B, {KEY_B})};
-    EXPECT_EQ(Verdict(items, Trusting({KEY_A})), "key-not-trusted") << "the client takes 5.6";
-}
-
-TEST(KeyPaths, SearchIsBounded)
-{
-    auto const key = [](int i) { return QStringLiteral("%1").arg(i, 16, 16, QLatin1Char('0')); };
-    std::vector<FeedItem> items;
-    for (int i = 1; i < 40; ++i)
+    auto const settled = [](char const* elements, char const* version = "5.0")
     {
-        items.push_back(Keyed("", key(i), {key(i + 1)}));
-        items.back().versionString = QString::number(5 + 0.01 * i);
+        std::vector<FeedItem> items{ItemWith(elements)};
+        Engine::LeaveOut(items, Client(version), OrderOf);
+        Engine::ItemPolicy const policy = items.empty() ? Engine::ItemPolicy() : items.front().policy;
+        return std::string(policy.isInformational ? "page " : "") + (policy.isToBeAsked ? "ask" : "");
+    };
+    EXPECT_EQ(settled(""), "");
+    EXPECT_EQ(settled("<sparkle:informationalUpdate/>"), "page ask");
+    char const* const below = "<sparkle:informationalUpdate><sparkle:belowVersion>5.0</sparkle:belowVersion>"
+                              "</sparkle:informationalUpdate>";
+    EXPECT_EQ(settled(below), "");
+    EXPECT_EQ(settled(below, "4.9"), "page ask");
+    EXPECT_EQ(settled(below, ""), "") << "the installed version is not known";
+    char const* const automatic = "<sparkle:minimumAutoupdateVersion>5.1</sparkle:minimumAutoupdateVersion>";
+    EXPECT_EQ(settled(automatic), "ask");
+    EXPECT_EQ(settled(automatic, "5.1"), "");
+    EXPECT_EQ(settled(automatic, ""), "");
+}
+
+TEST(ReleasePolicy, ChannelHasANameThatAListCanHold)
+{
+    for (char const* const name : {"beta", "b", "release-candidate_2", "\xC3\xA9t\xC3\xA9"})
+    {
+        EXPECT_TRUE(Engine::IsChannelName(QString::fromUtf8(name))) << name;
     }
-    std::vector<Engine::KeyedVersion> const stones = Engine::SteppingStonesOf(items, Trusting({key(1)}), OrderOf);
-    ASSERT_EQ(stones.size(), Engine::MOST_STEPPING_STONES);
-    EXPECT_EQ(stones.back().version.toStdString(), "5.16");
+    for (char const* const name : {"", " ", "two words", "a,b", "tab\t", "line\n", "bell\a"})
+    {
+        EXPECT_FALSE(Engine::IsChannelName(QString::fromUtf8(name))) << name;
+    }
 }
 
 } // namespace Pelnar::Testing

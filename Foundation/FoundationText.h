@@ -20,8 +20,6 @@ namespace Pelnar::Foundation
 
 /// nil gives a null string.
 QString ToQString(NSString* text);
-/// Replaces the content of \a result with \a text, in the same memory if it is large enough; nil makes it empty.
-void CopyText(NSString* text, QString& result);
 /// Never nil; an unpaired surrogate becomes "?".
 NSString* ToNSString(QString const& text);
 

@@ -5,22 +5,17 @@ namespace Pelnar::Foundation
 
 QString ToQString(NSString* text)
 {
-    QString result;
-    if (text)
+    if (!text)
     {
-        CopyText(text, result);
+        return QString();
     }
-    return result;
-}
-
-void CopyText(NSString* text, QString& result)
-{
     // getCharacters:range: copies directly into the string. UTF8String would convert twice and leave an autoreleased
     // buffer.
     static_assert(sizeof(unichar) == sizeof(QChar), "both are UTF-16 code units");
     NSUInteger const length = [text length];
-    result.resize(static_cast<int>(length));
+    QString result(static_cast<int>(length), Qt::Uninitialized);
     [text getCharacters:reinterpret_cast<unichar*>(result.data()) range:NSMakeRange(0, length)];
+    return result;
 }
 
 NSString* ToNSString(QString const& text)

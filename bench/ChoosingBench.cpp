@@ -41,8 +41,8 @@ void ChoosePlainly(benchmark::State& state)
 }
 BENCHMARK(ChoosePlainly)->Arg(10)->Arg(1000)->Arg(20000);
 
-StatedRatio const FEW_ITEMS_RATIO("Choose/10", "ChoosePlainly/10", 0.10);
-StatedRatio const MANY_ITEMS_RATIO("Choose/1000", "ChoosePlainly/1000", 0.10);
-StatedRatio const VERY_MANY_ITEMS_RATIO("Choose/20000", "ChoosePlainly/20000", 0.10);
+StatedRatio const FEW_ITEMS_RATIO("Choose/10", "ChoosePlainly/10", 0.30);
+StatedRatio const MANY_ITEMS_RATIO("Choose/1000", "ChoosePlainly/1000", 0.30);
+StatedRatio const VERY_MANY_ITEMS_RATIO("Choose/20000", "ChoosePlainly/20000", 0.30);
 
 } // namespace

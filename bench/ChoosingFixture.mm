@@ -160,11 +160,20 @@ ChoosingFixture::ChoosingFixture(int itemCount) : m_data(std::make_unique<Data>(
 
 ChoosingFixture::~ChoosingFixture() = default;
 
-int ChoosingFixture::Choose() { return IndexOf(m_data->session.SelectBestOfAppcast(m_data->Feed())); }
+int ChoosingFixture::Choose()
+{
+    @autoreleasepool
+    {
+        return IndexOf(m_data->session.SelectBestOfAppcast(m_data->Feed()));
+    }
+}
 
 int ChoosingFixture::ChoosePlainly()
 {
-    return IndexOf(Testing::Plain::SelectBestOfAppcast(m_data->session, m_data->Feed()));
+    @autoreleasepool
+    {
+        return IndexOf(Testing::Plain::SelectBestOfAppcast(m_data->session, m_data->Feed()));
+    }
 }
 
 } // namespace Pelnar::Bench

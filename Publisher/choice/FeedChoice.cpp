@@ -1,16 +1,16 @@
 #include "Publisher/choice/FeedChoice.h"
 
+#include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"
 
 #include <algorithm>
+#include <deque>
 #include <functional>
-#include <iterator>
+#include <list>
 #include <map>
-#include <unordered_map>
-#include <unordered_set>
 #include <utility>
 
 namespace Pelnar::Publisher
@@ -18,31 +18,18 @@ namespace Pelnar::Publisher
 namespace
 {
 
+using App::Session::IsOlderVersion;
 using App::Session::ItemRecord;
 using App::Session::Judgement;
-using App::Session::SelectionSubject;
+using App::Session::VersionFromStringNoexcept;
 using Engine::FeedItem;
 
-class FeedItemSource final : public App::Session::IItemSource
+App::Session::SelectionSubject SubjectOf(Client const& client)
 {
-public:
-    explicit FeedItemSource(FeedItem const& item)
-        : m_item(item), m_fileAddress(item.fileUrl.toString(QUrl::FullyEncoded))
-    {
-    }
-
-    QString const& MinimumSystemVersion() const override { return m_item.minimumSystemVersion; }
-    QString const& MaximumSystemVersion() const override { return m_item.maximumSystemVersion; }
-    QString const& VersionString() const override { return m_item.versionString; }
-    QString const& FileAddress() const override { return m_fileAddress; }
-    QString const& DateString() const override { return m_item.dateString; }
-    std::uint64_t ContentLength() const override { return m_item.contentLength; }
-    bool IsDelta() const override { return m_item.isDelta; }
-
-private:
-    FeedItem const& m_item;
-    QString const m_fileAddress;
-};
+    static std::function<bool(Core::Version const&, Core::Version const&)> const isOlder = IsOlderVersion;
+    static std::function<bool(Core::Version const&, Core::Version const&)> const isSame = App::Session::IsSameVersion;
+    return {client.systemVersion, client.localVersion, isOlder, isSame};
+}
 
 Core::Version WholeVersionOf(Core::Version const& version)
 {
@@ -53,92 +40,173 @@ Core::Version WholeVersionOf(Core::Version const& version)
 Core::Version const OLDER_THAN_ALL;
 
 /// An item as the rules see it.
-struct Candidate
+class Candidate final : public App::Session::IItemSource, public ItemRecord
 {
-    explicit Candidate(FeedItem const& feedItem) : item(feedItem), source(feedItem), record(source) {}
+public:
+    explicit Candidate(FeedItem const& feedItem) : ItemRecord(static_cast<IItemSource const&>(*this)), item(feedItem) {}
     Candidate(Candidate const&) = delete;
     Candidate& operator=(Candidate const&) = delete;
 
+    QString MinimumSystemVersion() const override { return item.minimumSystemVersion; }
+    QString MaximumSystemVersion() const override { return item.maximumSystemVersion; }
+    QString VersionString() const override { return item.versionString; }
+    QString FileAddress() const override { return item.fileUrl.toString(QUrl::FullyEncoded); }
+    QString DateString() const override { return item.dateString; }
+    std::uint64_t ContentLength() const override { return item.contentLength; }
+    bool IsDelta() const override { return item.isDelta; }
+
     FeedItem const& item;
-    FeedItemSource const source;
-    ItemRecord record;
 };
 
-/// The rules refer to the operators that they are lent.
-class Subject
+FeedItem const& ItemOf(ItemRecord const& record)
 {
-public:
-    explicit Subject(Client const& client) : m_client(client) {}
-    Subject(Subject const&) = delete;
-    Subject& operator=(Subject const&) = delete;
+    return static_cast<Candidate const&>(record).item;
+}
 
-    SelectionSubject Get() const { return {m_client.systemVersion, m_client.localVersion, m_isOlder, m_isSame}; }
-
-private:
-    Client const m_client;
-    std::function<bool(Core::Version const&, Core::Version const&)> const m_isOlder = App::Session::IsOlderVersion;
-    std::function<bool(Core::Version const&, Core::Version const&)> const m_isSame = App::Session::IsSameVersion;
-};
-
-/// Keeps the best of the items that it is offered one after the other.
-class Contest
+/// A full item, with what the policies of many clients read of it.
+struct FullItem
 {
-public:
-    explicit Contest(SelectionSubject const& subject) : m_subject(subject) {}
-
-    void Offer(Candidate& candidate)
+    FullItem(FeedItem const& item, Engine::Installation const& installation)
+        : candidate(item)
+        , minimumUpdate(VersionFromStringNoexcept(item.policy.minimumUpdateVersion))
+        , criticalBelow(VersionFromStringNoexcept(item.policy.criticalBelow))
+        , dependsOnVersion(Engine::DependsOnVersion(item))
     {
-        if (App::Session::Judge(candidate.record, m_subject) != Judgement::VALID)
+        QDateTime const time = installation.rolloutGroup && item.policy.rolloutSeconds != 0
+                                   ? Engine::RolloutTime(item, installation.rolloutGroup(item.versionString))
+                                   : QDateTime();
+        isStaged = time.isValid() && installation.now < time;
+        for (FeedItem const& delta : item.deltas)
         {
-            return;
+            deltaStarts.push_back(WholeVersionOf(VersionFromStringNoexcept(delta.deltaFrom)));
         }
-        Candidate* challenger = &candidate;
-        if (!m_best)
-        {
-            m_best = challenger;
-            return;
-        }
-        std::optional<App::Session::Preference> const byType =
-            App::Session::PreferByVersionAndType(m_best->record, challenger->record, m_subject);
-        App::Session::Preference const preference =
-            byType ? *byType : App::Session::PreferByDownload(m_best->record, challenger->record);
-        if (&preference.item == &challenger->record)
-        {
-            std::swap(m_best, challenger);
-        }
-        m_duels.push_back({&m_best->item, &challenger->item, preference.rule});
     }
 
-    FeedItem const* Best() const { return m_best ? &m_best->item : nullptr; }
-    std::vector<Duel> const& Duels() const { return m_duels; }
+    /// A part of the policy that costs a hundredth of the whole.
+    bool IsCertainlyLeftOut(Core::Version const& version) const
+    {
+        bool const mayBeCritical =
+            candidate.item.isCritical && (!criticalBelow.IsValid() || IsOlderVersion(version, criticalBelow));
+        return IsOlderVersion(version, minimumUpdate) || (isStaged && !mayBeCritical);
+    }
 
-private:
-    SelectionSubject const m_subject;
-    Candidate* m_best = nullptr;
-    std::vector<Duel> m_duels;
+    Candidate candidate;
+    Core::Version const minimumUpdate; ///< invalid: every version can be updated
+    Core::Version const criticalBelow;
+    bool const dependsOnVersion;
+    bool isStaged = false;                  ///< and this group has to wait
+    std::vector<Core::Version> deltaStarts; ///< of each of the item's deltas
 };
 
-/// The deltas that the session meets.
-std::vector<FeedItem const*> MetDeltas(FeedItem const& full, Engine::Installation const& installation)
+using FullItems = std::vector<FullItem*>;
+
+/// The engine's verdicts for one client. The installation is made when it is first needed, which is seldom.
+class ClientPolicy
 {
-    std::map<QString, FeedItem const*> lastOfText;
-    for (FeedItem const& delta : full.deltas)
+public:
+    ClientPolicy(Client const& client, Engine::Installation const& common, QStringList const& trustedKeys)
+        : m_client(client), m_common(common), m_trustedKeys(trustedKeys)
     {
-        if (!Engine::IsLeftOut(PolicyOf(delta, installation)))
+    }
+
+    bool IsLeftOut(FeedItem const& item)
+    {
+        if (!m_installation)
         {
-            lastOfText[delta.deltaFrom] = &delta;
+            m_installation = InstallationOf(m_client, m_common);
+            m_installation->trustedKeys = m_trustedKeys;
+        }
+        return Engine::IsLeftOut(PolicyOf(item, *m_installation));
+    }
+
+    bool IsLeftOut(FullItem const& full)
+    {
+        FeedItem const& item = full.candidate.item;
+        bool const isCertain = !full.dependsOnVersion && Engine::SignatureFor(item, m_trustedKeys);
+        return !isCertain && (full.IsCertainlyLeftOut(m_client.localVersion) || IsLeftOut(item));
+    }
+
+private:
+    Client const& m_client;
+    Engine::Installation const& m_common;
+    QStringList const& m_trustedKeys;
+    std::optional<Engine::Installation> m_installation;
+};
+
+/// The contest of one client.
+class FeedContest final : public App::Session::IContestHost
+{
+public:
+    FeedContest(FullItems const& items, Client const& client, ClientPolicy& policy)
+        : m_items(items), m_client(client), m_policy(policy)
+    {
+    }
+
+    FeedChoice Run()
+    {
+        App::Session::Contest contest(*this);
+        if (contest.Run(m_client.previousAnswer))
+        {
+            m_choice.chosen = &ItemOf(*contest.Best());
+            m_choice.full = m_choice.full ? m_choice.full : m_choice.chosen;
+        }
+        return std::move(m_choice);
+    }
+
+    bool CanJudge() const override { return true; }
+    App::Session::SelectionSubject Subject() const override { return SubjectOf(m_client); }
+
+    void OfferItems(App::Session::Contest& contest) override
+    {
+        for (FullItem* const full : m_items)
+        {
+            contest.Offer(full->candidate);
         }
     }
-    std::vector<FeedItem const*> met;
-    for (FeedItem const& delta : full.deltas)
+
+    void OfferDeltas(ItemRecord& best, App::Session::Contest& contest) override
     {
-        if (lastOfText[delta.deltaFrom] == &delta)
+        m_choice.full = &ItemOf(best);
+        for (FeedItem const* const delta : MetDeltas())
         {
+            contest.OfferDelta(delta->deltaFrom, m_deltas.emplace_back(*delta));
+        }
+    }
+
+    void OnPreferred(App::Session::Preference const& preferred, ItemRecord& other) override
+    {
+        m_choice.duels.push_back({&ItemOf(preferred.item), &ItemOf(other), preferred.rule});
+    }
+
+private:
+    /// Those that start from this version; of several with the same text the last.
+    std::vector<FeedItem const*> MetDeltas()
+    {
+        FullItem const& full =
+            **std::find_if(m_items.begin(), m_items.end(),
+                           [this](FullItem const* each) { return &each->candidate.item == m_choice.full; });
+        Core::Version const local = WholeVersionOf(m_client.localVersion);
+        std::vector<FeedItem const*> met;
+        for (std::size_t i = 0; i < full.deltaStarts.size(); ++i)
+        {
+            FeedItem const& delta = m_choice.full->deltas[i];
+            if (!(full.deltaStarts[i] == local) || m_policy.IsLeftOut(delta))
+            {
+                continue;
+            }
+            auto const isSameText = [&delta](FeedItem const* each) { return each->deltaFrom == delta.deltaFrom; };
+            met.erase(std::remove_if(met.begin(), met.end(), isSameText), met.end());
             met.push_back(&delta);
         }
+        return met;
     }
-    return met;
-}
+
+    FullItems const& m_items;
+    Client const& m_client;
+    ClientPolicy& m_policy;
+    std::list<Candidate> m_deltas;
+    FeedChoice m_choice;
+};
 
 } // namespace
 
@@ -151,161 +219,114 @@ public:
     FeedItem const* Chosen(Client const& client);
 
 private:
-    using Candidates = std::vector<Candidate*>;
+    /// Those who run this system and trust the keys with these ids.
+    using Clients = std::pair<Core::Version, QStringList>;
 
-    FeedChoice ChooseAmong(Candidates const& candidates, Client const& client);
-    Candidates Finalists(Core::Version const& systemVersion, std::vector<FeedItem const*> const& leftOut);
-    /// As InstallationOf, with the keys of that version.
-    Engine::Installation InstallationFor(Client const& client) const;
-    std::vector<FeedItem const*> const& UntrustedBy(QStringList const& keys);
-    /// The items that are left out for the version of \a client, and not for every one.
-    std::vector<FeedItem const*> LeftOut(Client const& client);
-    Candidate& CandidateOf(FeedItem const& item) { return m_candidates.try_emplace(&item, item).first->second; }
+    QStringList const& TrustedBy(Core::Version const& version) const;
+    FullItems const& WithinReach(Clients const& clients);
 
     Engine::Installation const m_installation;
-    std::unordered_map<FeedItem const*, Candidate> m_candidates; ///< items and deltas that were looked at
-    Candidates m_all;                                            ///< but for those that are left out for every version
-    std::vector<FeedItem const*> m_bound;                        ///< those of them that depend on the version
-    std::map<Core::Version, QStringList> m_trusted;              ///< ids of keys, by the versions that trust them
-    std::map<QStringList, std::vector<FeedItem const*>> m_untrusted; ///< what those who trust these ids do not take
-    std::map<std::pair<Core::Version, std::vector<FeedItem const*>>, Candidates> m_finalists; ///< by system version
+    std::deque<FullItem> m_items; ///< but for those that are left out for every version
+    FullItems m_newestFirst;
+    std::map<Core::Version, QStringList> m_trusted; ///< ids of keys, by the versions that trust them
+    std::map<Clients, FullItems> m_withinReach;
+    std::pair<Clients const, FullItems> const* m_lastReach = nullptr;
 };
 
 FeedChooser::Impl::Impl(std::vector<FeedItem> const& items, Engine::Installation installation)
     : m_installation(std::move(installation))
 {
+    Engine::Installation withoutKeys = m_installation;
+    withoutKeys.trustedKeys.clear();
     for (FeedItem const& item : items)
     {
-        bool const isBound = Engine::DependsOnVersion(item);
-        if (isBound || !Engine::IsLeftOut(PolicyOf(item, m_installation)))
+        if (Engine::DependsOnVersion(item) || !Engine::IsLeftOut(PolicyOf(item, withoutKeys)))
         {
-            m_all.push_back(&CandidateOf(item));
-        }
-        if (isBound)
-        {
-            m_bound.push_back(&item);
+            m_newestFirst.push_back(&m_items.emplace_back(item, m_installation));
         }
         Core::Version const version =
-            item.trustedKeys.isEmpty() ? Core::Version() : App::Session::VersionFromStringNoexcept(item.versionString);
+            item.trustedKeys.isEmpty() ? Core::Version() : VersionFromStringNoexcept(item.versionString);
         if (version.IsValid())
         {
             m_trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
         }
     }
+    std::stable_sort(m_newestFirst.begin(), m_newestFirst.end(),
+                     [](FullItem* a, FullItem* b)
+                     { return IsOlderVersion(b->candidate.Version(), a->candidate.Version()); });
 }
 
-Engine::Installation FeedChooser::Impl::InstallationFor(Client const& client) const
+QStringList const& FeedChooser::Impl::TrustedBy(Core::Version const& version) const
 {
-    Engine::Installation installation = InstallationOf(client, m_installation);
-    auto const known = m_trusted.find(WholeVersionOf(client.localVersion));
-    if (installation.trustedKeys.isEmpty() && known != m_trusted.end())
+    auto const known = m_installation.trustedKeys.isEmpty() ? m_trusted.find(WholeVersionOf(version)) : m_trusted.end();
+    return known != m_trusted.end() ? known->second : m_installation.trustedKeys;
+}
+
+/// What some of \a clients may be offered, the newest first, down to the first version that is left out for none of
+/// them. Nothing older can win, because the newer version is preferred before anything else is compared.
+FullItems const& FeedChooser::Impl::WithinReach(Clients const& clients)
+{
+    if (m_lastReach && m_lastReach->first == clients)
     {
-        installation.trustedKeys = known->second;
+        return m_lastReach->second;
     }
-    return installation;
-}
-
-std::vector<FeedItem const*> const& FeedChooser::Impl::UntrustedBy(QStringList const& keys)
-{
-    auto const [untrusted, isNew] = m_untrusted.try_emplace(keys);
-    for (auto candidate = m_all.begin(); isNew && candidate != m_all.end(); ++candidate)
+    auto const [reach, isNew] = m_withinReach.try_emplace(clients);
+    Candidate* certain = nullptr;
+    for (auto each = m_newestFirst.begin(); isNew && each != m_newestFirst.end(); ++each)
     {
-        if (!Engine::SignatureFor((*candidate)->item, keys))
+        Candidate& candidate = (*each)->candidate;
+        if (certain && IsOlderVersion(candidate.Version(), certain->Version()))
         {
-            untrusted->second.push_back(&(*candidate)->item);
+            break;
+        }
+        bool const isTrusted = Engine::SignatureFor(candidate.item, clients.second).has_value();
+        if ((isTrusted || candidate.item.policy.isInformational) &&
+            App::Session::Judge(candidate, SubjectOf({OLDER_THAN_ALL, clients.first})) == Judgement::VALID)
+        {
+            reach->second.push_back(*each);
+            certain = isTrusted && !(*each)->dependsOnVersion ? &candidate : certain;
         }
     }
-    return untrusted->second;
-}
-
-std::vector<FeedItem const*> FeedChooser::Impl::LeftOut(Client const& client)
-{
-    std::vector<FeedItem const*> leftOut;
-    if (m_bound.empty() && m_trusted.empty() && m_installation.trustedKeys.isEmpty())
-    {
-        return leftOut;
-    }
-    Engine::Installation const installation = InstallationFor(client);
-    auto const isLeftOut = [&](FeedItem const* item) { return Engine::IsLeftOut(PolicyOf(*item, installation)); };
-    std::copy_if(m_bound.begin(), m_bound.end(), std::back_inserter(leftOut), isLeftOut);
-    std::vector<FeedItem const*> const& untrusted = UntrustedBy(installation.trustedKeys);
-    std::copy_if(untrusted.begin(), untrusted.end(), std::back_inserter(leftOut), isLeftOut);
-    return leftOut;
+    m_lastReach = &*reach;
+    return reach->second;
 }
 
 FeedChoice FeedChooser::Impl::Choose(Client const& client)
 {
-    std::vector<FeedItem const*> const leftOut = LeftOut(client);
-    Candidates candidates;
-    std::copy_if(m_all.begin(), m_all.end(), std::back_inserter(candidates),
-                 [&](Candidate const* candidate)
-                 { return std::find(leftOut.begin(), leftOut.end(), &candidate->item) == leftOut.end(); });
-    return ChooseAmong(candidates, client);
+    ClientPolicy policy(client, m_installation, TrustedBy(client.localVersion));
+    FullItems kept;
+    for (FullItem& full : m_items)
+    {
+        if (!policy.IsLeftOut(full))
+        {
+            kept.push_back(&full);
+        }
+    }
+    return FeedContest(kept, client, policy).Run();
 }
 
 FeedItem const* FeedChooser::Impl::Chosen(Client const& client)
 {
-    std::vector<FeedItem const*> leftOut = LeftOut(client);
-    auto const [finalists, isNew] = m_finalists.try_emplace({client.systemVersion, leftOut});
-    if (isNew)
+    QStringList const& trustedKeys = TrustedBy(client.localVersion);
+    FullItems const& reach = WithinReach({client.systemVersion, trustedKeys});
+    if (reach.empty() || !IsOlderVersion(client.localVersion, reach.front()->candidate.Version()))
     {
-        finalists->second = Finalists(client.systemVersion, leftOut);
+        return nullptr;
     }
-    return ChooseAmong(finalists->second, client).chosen;
-}
-
-/// The items of the newest version that this system can take, in the order of the feed. No other item can win: the
-/// newer version is preferred before anything else is compared.
-FeedChooser::Impl::Candidates FeedChooser::Impl::Finalists(Core::Version const& systemVersion,
-                                                           std::vector<FeedItem const*> const& leftOut)
-{
-    Subject const subject({OLDER_THAN_ALL, systemVersion});
-    std::unordered_set<FeedItem const*> const absent(leftOut.begin(), leftOut.end());
-    Candidates finalists;
-    for (Candidate* const candidate : m_all)
+    ClientPolicy policy(client, m_installation, trustedKeys);
+    FullItems finalists;
+    for (FullItem* const full : reach)
     {
-        if (absent.count(&candidate->item) != 0 ||
-            App::Session::Judge(candidate->record, subject.Get()) != Judgement::VALID)
+        if (!finalists.empty() && IsOlderVersion(full->candidate.Version(), finalists.front()->candidate.Version()))
         {
-            continue;
+            break;
         }
-        if (!finalists.empty() &&
-            App::Session::IsOlderVersion(finalists.front()->record.Version(), candidate->record.Version()))
+        if (!policy.IsLeftOut(*full))
         {
-            finalists.clear();
-        }
-        if (finalists.empty() ||
-            App::Session::IsSameVersion(finalists.front()->record.Version(), candidate->record.Version()))
-        {
-            finalists.push_back(candidate);
+            finalists.push_back(full);
         }
     }
-    return finalists;
-}
-
-FeedChoice FeedChooser::Impl::ChooseAmong(Candidates const& candidates, Client const& client)
-{
-    Subject const subject(client);
-    Contest contest(subject.Get());
-    for (Candidate* const candidate : candidates)
-    {
-        contest.Offer(*candidate);
-    }
-    FeedChoice choice;
-    choice.full = contest.Best();
-    if (choice.full && client.previousAnswer == PreviousAnswer::None)
-    {
-        for (FeedItem const* delta : MetDeltas(*choice.full, InstallationFor(client)))
-        {
-            if (App::Session::StartsFromRunningVersion(delta->deltaFrom, subject.Get()))
-            {
-                contest.Offer(CandidateOf(*delta));
-            }
-        }
-    }
-    choice.chosen = contest.Best();
-    choice.duels = contest.Duels();
-    return choice;
+    return FeedContest(finalists, client, policy).Run().chosen;
 }
 
 FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
@@ -340,13 +361,13 @@ Engine::Installation InstallationOf(Client const& client, Engine::Installation i
 
 int OrderOfTexts(QString const& textA, QString const& textB)
 {
-    Core::Version const a = App::Session::VersionFromStringNoexcept(textA);
-    Core::Version const b = App::Session::VersionFromStringNoexcept(textB);
+    Core::Version const a = VersionFromStringNoexcept(textA);
+    Core::Version const b = VersionFromStringNoexcept(textB);
     if (!a.IsValid() || !b.IsValid() || App::Session::IsSameVersion(a, b))
     {
         return 0;
     }
-    return App::Session::IsOlderVersion(a, b) ? -1 : 1;
+    return IsOlderVersion(a, b) ? -1 : 1;
 }
 
 Engine::Installation InstallationAmong(std::vector<FeedItem> const& items, Client const& client,
@@ -356,8 +377,7 @@ Engine::Installation InstallationAmong(std::vector<FeedItem> const& items, Clien
     for (FeedItem const& item : items)
     {
         bool const isAsked = among.trustedKeys.isEmpty() && !item.trustedKeys.isEmpty();
-        Core::Version const version =
-            isAsked ? App::Session::VersionFromStringNoexcept(item.versionString) : Core::Version();
+        Core::Version const version = isAsked ? VersionFromStringNoexcept(item.versionString) : Core::Version();
         if (version.IsValid() && App::Session::IsSameVersion(version, client.localVersion))
         {
             among.trustedKeys = item.trustedKeys;
@@ -375,18 +395,18 @@ Engine::PolicyVerdict PolicyOf(FeedItem const& item, Engine::Installation const&
 Judgement JudgeFeedItem(FeedItem const& item, Client const& client)
 {
     Candidate candidate(item);
-    return App::Session::Judge(candidate.record, Subject(client).Get());
+    return App::Session::Judge(candidate, SubjectOf(client));
 }
 
 App::Session::UpdateType UpdateTypeOf(FeedItem const& item)
 {
-    return Candidate(item).record.Type();
+    return Candidate(item).Type();
 }
 
 bool ServesClient(FeedItem const& delta, Client const& client)
 {
-    return client.previousAnswer == PreviousAnswer::None &&
-           App::Session::StartsFromRunningVersion(delta.deltaFrom, Subject(client).Get());
+    return client.previousAnswer == PreviousAnswer::NONE &&
+           App::Session::StartsFromRunningVersion(delta.deltaFrom, SubjectOf(client));
 }
 
 QVariantMap ExtensionsOf(FeedItem const& item)

@@ -3,7 +3,7 @@
 // Thread: any. Ownership: a choice points into the items that it was made from.
 #pragma once
 
-#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "HostFramework/Version.h"
 
@@ -16,19 +16,14 @@
 namespace Pelnar::Publisher
 {
 
-/// What the session answered last in the same check. After a delta the framework asks for a full item to fall back on.
-enum class PreviousAnswer
-{
-    None,
-    Delta,
-};
+using App::Session::PreviousAnswer;
 
 /// Who asks. REQUIRES: a valid local version.
 struct Client
 {
     Core::Version localVersion;
     Core::Version systemVersion; ///< the invalid version switches the bounds of items off
-    PreviousAnswer previousAnswer = PreviousAnswer::None;
+    PreviousAnswer previousAnswer = PreviousAnswer::NONE;
 };
 
 /// Two valid items, of which one was preferred.

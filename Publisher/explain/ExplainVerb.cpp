@@ -48,7 +48,7 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
     {
         return console.Refuse(*problem);
     }
-    PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::Delta : PreviousAnswer::None;
+    PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::DELTA : PreviousAnswer::NONE;
     Explanation const explanation =
         ExplainFeed(std::get<ParsedFeed>(feed).items,
                     {std::get<NamedVersion>(local).version, std::get<NamedVersion>(system).version, previous},

@@ -135,7 +135,7 @@ private:
         {
             reason = QStringLiteral("not looked at: item is not the best full one");
         }
-        else if (m_client.previousAnswer == PreviousAnswer::Delta)
+        else if (m_client.previousAnswer == PreviousAnswer::DELTA)
         {
             reason = QStringLiteral("not looked at: the previous answer was a delta");
         }

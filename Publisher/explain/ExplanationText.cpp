@@ -153,7 +153,7 @@ void PrintExplanation(Explanation const& explanation, ExplainQuestion const& que
     QString const asked =
         QStringLiteral("%1 on system %2%3 is offered: ")
             .arg(question.localVersion, question.systemVersion,
-                 question.previousAnswer == PreviousAnswer::Delta ? QStringLiteral(", after a delta answer,")
+                 question.previousAnswer == PreviousAnswer::DELTA ? QStringLiteral(", after a delta answer,")
                                                                   : QString());
     console.out.stream << asked.toStdString()
                        << console.out.Styled(explanation.chosen ? Emphasis::Good : Emphasis::Warning,

@@ -17,7 +17,7 @@ struct ExplainQuestion
     QString localVersion;
     QString systemVersion;
     QString platform;
-    PreviousAnswer previousAnswer = PreviousAnswer::None;
+    PreviousAnswer previousAnswer = PreviousAnswer::NONE;
 };
 
 void PrintExplanation(Explanation const& explanation, ExplainQuestion const& question, Console const& console);

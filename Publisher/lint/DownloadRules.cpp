@@ -1,6 +1,5 @@
 // DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
 
-#include "App/UpdateChecker/SparkleImpl/Choice/TextPrefilters.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Engine/core/fetch/FetchRules.h"
@@ -139,7 +138,7 @@ void CheckDate(LintItem const& item, LintFindings& findings)
     auto const date = std::find_if(children.begin(), children.end(),
                                    [](LintElement const& child) { return child.name.IsPlain("pubDate"); });
     LintPlace const place = date == children.end() ? item.full.element->place : date->place;
-    if (App::Session::TextDate(text).isValid())
+    if (QDate::fromString(text, Qt::TextDate).isValid())
     {
         findings.Add(LintRule::DateTextForm, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
     }

@@ -176,7 +176,7 @@ TEST(ExplainedDelta, OfTheInstalledVersionIsChosen)
 TEST(ExplainedDelta, DoesNotCountAfterADeltaAnswer)
 {
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1")),
-                             {Core::Version(5, 0), Core::Version(12, 3), PreviousAnswer::Delta});
+                             {Core::Version(5, 0), Core::Version(12, 3), PreviousAnswer::DELTA});
     EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
     EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: the previous answer was a delta");
 }

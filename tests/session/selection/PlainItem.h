@@ -26,11 +26,11 @@ struct PlainItem final : App::Session::IItemSource
     bool isDelta = false;
     mutable std::vector<std::string> reads; ///< the properties that were read, in order
 
-    QString const& MinimumSystemVersion() const override { return Read("minimumSystem", minimumSystem); }
-    QString const& MaximumSystemVersion() const override { return Read("maximumSystem", maximumSystem); }
-    QString const& VersionString() const override { return Read("version", version); }
-    QString const& FileAddress() const override { return Read("address", address); }
-    QString const& DateString() const override { return Read("date", date); }
+    QString MinimumSystemVersion() const override { return Read("minimumSystem", minimumSystem); }
+    QString MaximumSystemVersion() const override { return Read("maximumSystem", maximumSystem); }
+    QString VersionString() const override { return Read("version", version); }
+    QString FileAddress() const override { return Read("address", address); }
+    QString DateString() const override { return Read("date", date); }
     std::uint64_t ContentLength() const override { return Read("length", length); }
     bool IsDelta() const override { return Read("isDelta", isDelta); }
 

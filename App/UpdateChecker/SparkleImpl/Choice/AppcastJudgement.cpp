@@ -32,7 +32,7 @@ Judgement Judge(ItemRecord& item, SelectionSubject const& subject)
     {
         return Judgement::VERSION_EQUAL;
     }
-    if (!item.HasValidAddress())
+    if (!item.Address().isValid())
     {
         return Judgement::URL_INVALID;
     }

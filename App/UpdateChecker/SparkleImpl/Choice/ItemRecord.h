@@ -16,17 +16,16 @@
 namespace Pelnar::App::Session
 {
 
-/// The source of an item's properties, as the feed writes them; an absent text is empty. A text is valid until the next
-/// one is read.
+/// The source of an item's properties, as the feed writes them; an absent text is empty.
 class IItemSource
 {
 public:
-    virtual QString const& MinimumSystemVersion() const = 0;
-    virtual QString const& MaximumSystemVersion() const = 0;
-    virtual QString const& VersionString() const = 0;
+    virtual QString MinimumSystemVersion() const = 0;
+    virtual QString MaximumSystemVersion() const = 0;
+    virtual QString VersionString() const = 0;
     /// The download's address.
-    virtual QString const& FileAddress() const = 0;
-    virtual QString const& DateString() const = 0;
+    virtual QString FileAddress() const = 0;
+    virtual QString DateString() const = 0;
     virtual std::uint64_t ContentLength() const = 0;
     virtual bool IsDelta() const = 0;
 
@@ -43,7 +42,6 @@ public:
     Core::Version const& MinimumSystem();
     Core::Version const& MaximumSystem();
     Core::Version const& Version();
-    [[nodiscard]] bool HasValidAddress();
     QUrl const& Address();
     /// The item's date if its text is in Qt's text form; an invalid date otherwise.
     QDate const& Date();
@@ -51,13 +49,10 @@ public:
     UpdateType Type();
 
 private:
-    QString const& AddressText();
-
     IItemSource const& m_source;
     std::optional<Core::Version> m_minimumSystem;
     std::optional<Core::Version> m_maximumSystem;
     std::optional<Core::Version> m_version;
-    std::optional<QString> m_addressText;
     std::optional<QUrl> m_address;
     std::optional<QDate> m_date;
     std::optional<std::uint64_t> m_length;

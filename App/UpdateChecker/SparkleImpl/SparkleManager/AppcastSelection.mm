@@ -5,9 +5,8 @@
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"
 
-#include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
-#include "App/UpdateChecker/SparkleImpl/Choice/ItemRecord.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
@@ -30,43 +29,30 @@ using Foundation::ToUtf8;
 namespace
 {
 
-/// Every text uses the buffer \a text, which the items of one answer share: most texts are parsed and discarded.
-class FoundationItem final : public Session::IItemSource
+/// An item during one answer: read once, for any number of rules.
+class Candidate final : public Session::IItemSource, public Session::ItemRecord
 {
   public:
-    FoundationItem(SUAppcastItem* item, QString& text) : m_item(item), m_text(text) {}
-
-    QString const& MinimumSystemVersion() const override { return Copy([m_item minimumSystemVersion]); }
-    QString const& MaximumSystemVersion() const override { return Copy([m_item maximumSystemVersion]); }
-    QString const& VersionString() const override { return Copy([m_item versionString]); }
-    QString const& FileAddress() const override { return Copy([[m_item fileURL] absoluteString]); }
-    QString const& DateString() const override { return Copy([m_item dateString]); }
-    std::uint64_t ContentLength() const override { return [m_item contentLength]; }
-    bool IsDelta() const override { return [m_item isDeltaUpdate]; }
-
-  private:
-    QString const& Copy(NSString* text) const
-    {
-        Foundation::CopyText(text, m_text);
-        return m_text;
-    }
-
-    SUAppcastItem* const m_item;
-    QString& m_text;
-};
-
-/// An item during one answer: read and judged once, for any number of rules.
-struct Candidate
-{
-    Candidate(SUAppcastItem* feedItem, QString& text) : item(feedItem), source(feedItem, text), record(source) {}
+    explicit Candidate(SUAppcastItem* feedItem) : ItemRecord(static_cast<IItemSource const&>(*this)), item(feedItem) {}
     Candidate(Candidate const&) = delete;
     Candidate& operator=(Candidate const&) = delete;
 
+    QString MinimumSystemVersion() const override { return ToQString([item minimumSystemVersion]); }
+    QString MaximumSystemVersion() const override { return ToQString([item maximumSystemVersion]); }
+    QString VersionString() const override { return ToQString([item versionString]); }
+    QString FileAddress() const override { return ToQString([[item fileURL] absoluteString]); }
+    QString DateString() const override { return ToQString([item dateString]); }
+    std::uint64_t ContentLength() const override { return [item contentLength]; }
+    bool IsDelta() const override { return [item isDeltaUpdate]; }
+
     SUAppcastItem* const item;
-    FoundationItem const source;
-    Session::ItemRecord record;
-    std::optional<Session::Judgement> judgement;
 };
+
+/// nil for null.
+SUAppcastItem* ItemOf(Session::ItemRecord const* record)
+{
+    return record ? static_cast<Candidate const*>(record)->item : nil;
+}
 
 /// Asked for once in a process. If the text does not parse, system bounds are ignored for the rest of the process.
 Core::Version const& SystemVersion()
@@ -75,99 +61,68 @@ Core::Version const& SystemVersion()
     return version;
 }
 
-/// REQUIRES: the session has a context.
-Session::SelectionSubject SubjectOf(SparkleManager::Impl const& session)
-{
-    SparkleUpdateContext const& context = *session.context;
-    return {SystemVersion(), context.localVersion, context.versionLess, context.versionEqual};
-}
-
-/// Guards run and log on every call. The verdict of \a candidate is computed once and cached. Null stands for nil.
-bool Validate(SparkleManager::Impl const& session, Candidate* candidate)
-{
-    SystemVersion();
-    if (!session.EnsureContext() || !session.EnsureLocalVersion())
-    {
-        return false;
-    }
-    // Deliberate: the operators are checked, and their absence is logged, before a missing item is noticed.
-    bool const hasOperators = session.EnsureVersionOperators();
-    if (!candidate || !hasOperators)
-    {
-        return false;
-    }
-    if (!candidate->judgement)
-    {
-        candidate->judgement = Session::Judge(candidate->record, SubjectOf(session));
-    }
-    return *candidate->judgement == Session::Judgement::VALID;
-}
-
-/// Null for nil, and null if neither is valid.
-Candidate* SelectBest(SparkleManager::Impl const& session, Candidate* a, Candidate* b)
-{
-    bool const isValidA = Validate(session, a);
-    bool const isValidB = Validate(session, b);
-    if (!isValidA || !isValidB)
-    {
-        return isValidA ? a : isValidB ? b : nullptr;
-    }
-    std::optional<Session::Preference> const byType =
-        Session::PreferByVersionAndType(a->record, b->record, SubjectOf(session));
-    if (byType)
-    {
-        return &byType->item == &a->record ? a : b;
-    }
-    Write(Sites::SAME_PRIORITIES, "!!! ACHTUNG !!! Detected two SUAppcastItem's with same priorities!");
-    return &Session::PreferByDownload(a->record, b->record).item == &a->record ? a : b;
-}
-
-/// Keeps the best of the items that are offered one after the other.
-class Contest
+/// The session's guards and records around a contest among \a items.
+class AppcastContest final : public Session::IContestHost
 {
   public:
-    explicit Contest(SparkleManager::Impl const& session) : m_session(session) {}
+    explicit AppcastContest(SparkleManager::Impl const& session, NSArray* items = nil)
+        : m_session(session), m_items(items)
+    {
+    }
 
-    /// nil if no offered item was valid.
-    SUAppcastItem* Best() const { return m_best ? m_best->item : nil; }
+    bool CanJudge() const override
+    {
+        SystemVersion();
+        return m_session.EnsureContext() && m_session.EnsureLocalVersion() && m_session.EnsureVersionOperators();
+    }
+
+    Session::SelectionSubject Subject() const override
+    {
+        SparkleUpdateContext const& context = *m_session.context;
+        return {SystemVersion(), context.localVersion, context.versionLess, context.versionEqual};
+    }
 
     /// Opens no separate pool, which would cost as much as the rest: the answer's pool keeps the getters' temporary
     /// objects.
-    void Offer(SUAppcastItem* item)
+    void OfferItems(Session::Contest& contest) override
     {
-        std::optional<Candidate>& place = m_best && m_best == &*m_places[0] ? m_places[1] : m_places[0];
-        m_best = SelectBest(m_session, m_best, &place.emplace(item, m_text));
+        for (SUAppcastItem* item in m_items)
+        {
+            m_session.PrintDebugSUAppcastItemInfo(item, "");
+            contest.Offer(Read(item, contest));
+        }
+    }
+
+    void OfferDeltas(Session::ItemRecord& full, Session::Contest& contest) override
+    {
+        NSDictionary* const deltas = [ItemOf(&full) deltaUpdates];
+        for (NSString* key in [deltas keyEnumerator])
+        {
+            SUAppcastItem* const delta = [deltas objectForKey:key];
+            m_session.PrintDebugSUAppcastItemInfo(delta, "delta from " + ToUtf8(key));
+            contest.OfferDelta(ToQString(key), Read(delta, contest));
+        }
+    }
+
+    void OnPreferred(Session::Preference const& preferred, Session::ItemRecord&) override
+    {
+        if (preferred.rule >= Session::PreferenceRule::SAME_ADDRESS)
+        {
+            Write(Sites::SAME_PRIORITIES, "!!! ACHTUNG !!! Detected two SUAppcastItem's with same priorities!");
+        }
     }
 
   private:
+    Session::ItemRecord& Read(SUAppcastItem* item, Session::Contest const& contest)
+    {
+        bool const isFirstTaken = m_places[0] && contest.Best() == &*m_places[0];
+        return m_places[isFirstTaken ? 1 : 0].emplace(item);
+    }
+
     SparkleManager::Impl const& m_session;
-    QString m_text;
+    NSArray* const m_items;
     std::optional<Candidate> m_places[2]; ///< the best item and its challenger
-    Candidate* m_best = nullptr;
 };
-
-void OfferItems(SparkleManager::Impl const& session, NSArray* items, Contest& contest)
-{
-    for (SUAppcastItem* item in items)
-    {
-        session.PrintDebugSUAppcastItemInfo(item, "");
-        contest.Offer(item);
-    }
-}
-
-/// Offers those deltas of the best full item that start from the running version.
-void OfferDeltas(SparkleManager::Impl const& session, NSDictionary* deltas, Contest& contest)
-{
-    for (NSString* key in [deltas keyEnumerator])
-    {
-        SUAppcastItem* const delta = [deltas objectForKey:key];
-        session.PrintDebugSUAppcastItemInfo(delta, "delta from " + ToUtf8(key));
-        if (Session::StartsFromRunningVersion(ToQString(key), SubjectOf(session)))
-        {
-            contest.Offer(delta);
-        }
-    }
-}
 
 } // namespace
 
@@ -175,8 +130,7 @@ Session::UpdateType SparkleManager::Impl::DetectUpdateType(SUAppcastItem* item) 
 {
     @autoreleasepool
     {
-        QString text;
-        return Candidate(item, text).record.Type();
+        return Candidate(item).Type();
     }
 }
 
@@ -214,9 +168,8 @@ bool SparkleManager::Impl::ValidateAppcastItem(SUAppcastItem* item) const
 {
     @autoreleasepool
     {
-        QString text;
-        Candidate candidate(item, text);
-        return Validate(*this, item ? &candidate : nullptr);
+        Candidate candidate(item);
+        return Session::IsValid(item ? &candidate : nullptr, AppcastContest(*this));
     }
 }
 
@@ -224,11 +177,10 @@ SUAppcastItem* SparkleManager::Impl::SelectBestValidAppcastItem(SUAppcastItem* a
 {
     @autoreleasepool
     {
-        QString text;
-        Candidate candidateA(a, text);
-        Candidate candidateB(b, text);
-        Candidate const* const best = SelectBest(*this, a ? &candidateA : nullptr, b ? &candidateB : nullptr);
-        return best ? best->item : nil;
+        Candidate candidateA(a);
+        Candidate candidateB(b);
+        AppcastContest host(*this);
+        return ItemOf(Session::BetterOf(a ? &candidateA : nullptr, b ? &candidateB : nullptr, host));
     }
 }
 
@@ -254,20 +206,15 @@ SUAppcastItem* SparkleManager::Impl::ChooseFromAppcast(SUAppcast* appcast)
     }
     // Held during the choice: an operator may replace the context.
     std::shared_ptr<SparkleUpdateContext> const lent = context;
-    Contest contest(*this);
-    OfferItems(*this, items, contest);
-    if (!contest.Best())
+    AppcastContest host(*this, items);
+    Session::Contest contest(host);
+    if (!contest.Run(bestItemIsDelta ? Session::PreviousAnswer::DELTA : Session::PreviousAnswer::NONE))
     {
         bestItemIsDelta = false;
         Write(Sites::BEST_ITEM_NOT_DETECTED, "Best valid SUAppcastItem was NOT detected.");
         return nil;
     }
-    // If an answer was a delta, the framework asks next for a full item as the fallback.
-    if (!bestItemIsDelta)
-    {
-        OfferDeltas(*this, [contest.Best() deltaUpdates], contest);
-    }
-    SUAppcastItem* const best = contest.Best();
+    SUAppcastItem* const best = ItemOf(contest.Best());
     bestItemIsDelta = [best isDeltaUpdate];
     Write(Sites::BEST_ITEM_DETECTED, "Best valid SUAppcastItem was detected:");
     PrintDebugSUAppcastItemInfo(best, "");

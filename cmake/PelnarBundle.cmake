@@ -6,7 +6,8 @@
 #       IDENTIFIER com.example.notes
 #       VERSION 1.2                           # without it, the project's
 #       PUBLIC_KEY "..."                      # what `pelnar-appcast keys generate` prints; or PUBLIC_KEY_FILE <file>
-#       NEXT_PUBLIC_KEY "..."                 # the key that follows it
+#       NEXT_PUBLIC_KEY "..."                 # the key that follows it; or NEXT_PUBLIC_KEY_FILE <file>
+#       ROOT_PUBLIC_KEY "..."                 # the key that says in the feed which keys count; or ROOT_PUBLIC_KEY_FILE <file>
 #       DISPLAY_NAME "My Notes"  DISPLAY_VERSION "1.2 (spring)"  FEED_URL https://...
 #       OPTIONS PelnarConfirmsGoodStart ...   # truth values of the information file that are YES
 #       INFORMATION "Key=text" ...            # further entries of the information file
@@ -29,7 +30,7 @@ cmake_policy(VERSION 3.25)
 set(PELNAR_BUNDLE_SCRIPTS "${CMAKE_CURRENT_LIST_DIR}/bundle")
 
 set(PELNAR_BUNDLE_ONE_VALUE NAME IDENTIFIER VERSION DISPLAY_NAME DISPLAY_VERSION PUBLIC_KEY PUBLIC_KEY_FILE
-    NEXT_PUBLIC_KEY FEED_URL ICON LINK DESKTOP_ENTRY QT SYSTEM_LIBRARIES COMPRESSION DESTINATION COMPONENT)
+    NEXT_PUBLIC_KEY NEXT_PUBLIC_KEY_FILE ROOT_PUBLIC_KEY ROOT_PUBLIC_KEY_FILE FEED_URL ICON LINK DESKTOP_ENTRY QT SYSTEM_LIBRARIES COMPRESSION DESTINATION COMPONENT)
 set(PELNAR_BUNDLE_MANY_VALUES CATEGORIES OPTIONS INFORMATION TRANSLATIONS RESOURCES LIBRARIES LICENSES)
 
 function(pelnar_add_bundle target)
@@ -55,7 +56,7 @@ function(pelnar_add_bundle target)
     pelnar_bundle_default(BUNDLE_COMPRESSION 19)
     pelnar_bundle_default(BUNDLE_DESTINATION ".")
     pelnar_bundle_default(BUNDLE_COMPONENT ${target}_bundle)
-    foreach(kind IN ITEMS PUBLIC_KEY_FILE ICON DESKTOP_ENTRY TRANSLATIONS RESOURCES LICENSES)
+    foreach(kind IN ITEMS PUBLIC_KEY_FILE NEXT_PUBLIC_KEY_FILE ROOT_PUBLIC_KEY_FILE ICON DESKTOP_ENTRY TRANSLATIONS RESOURCES LICENSES)
         pelnar_bundle_make_absolute(BUNDLE_${kind})
     endforeach()
     if(APPLE)

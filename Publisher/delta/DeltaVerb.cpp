@@ -6,7 +6,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/files/AtomicFile.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 
 #include <QJsonArray>
 
@@ -34,15 +34,14 @@ struct CreateOptions
     std::string oldBundle;
     std::string newBundle;
     std::string output;
-    std::string key;
+    SignerOptions signer;
     std::string effort = USUAL_EFFORT;
 };
 
 ExitStatus Create(Console const& console, CreateOptions const& options)
 {
     QString const output = QString::fromStdString(options.output);
-    std::optional<SigningKey> const key =
-        options.key.empty() ? std::optional<SigningKey>() : SigningKey::Load(QString::fromStdString(options.key));
+    std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     BundleTree const before = OpenBundle(console, options.oldBundle);
     BundleTree const after = OpenBundle(console, options.newBundle);
     Engine::DeltaReport const report = MakeDeltaFile(before, after, output, {console.err, EffortOf(options.effort)});
@@ -53,10 +52,10 @@ ExitStatus Create(Console const& console, CreateOptions const& options)
                       .arg(CountOf(report.keptFiles, QStringLiteral("file")))
                       .arg(report.patchedFiles)
                       .arg(report.wholeFiles));
-    if (key)
+    if (signer)
     {
         console.Print(QStringLiteral("sparkle:deltaFrom=\"%1\" %2")
-                          .arg(baseVersion.toHtmlEscaped(), AttributesOf(key->Sign(OpenInputFile(output)))));
+                          .arg(baseVersion.toHtmlEscaped(), AttributesOf(signer->Sign(OpenInputFile(output)))));
     }
     return ExitStatus::Clean;
 }
@@ -69,9 +68,7 @@ void AddCreate(CLI::App& delta, VerbContext& context)
     verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
     verb.add_option("NEW", options->newBundle, "Bundle, or archive of it, that the delta makes")->required();
     verb.add_option("-o,--output", options->output, "New file for the delta")->required()->type_name("FILE");
-    verb.add_option("--key", options->key,
-                    "File of the private key, or \"-\": sign the delta and print the attributes of its enclosure")
-        ->type_name("FILE");
+    AddSignerOptions(verb, options->signer, ": sign the delta and print the attributes of its enclosure");
     AddEffortOption(verb, options->effort);
     SetWork(verb, context, [&context, options] { return Create(context.console, *options); });
 }

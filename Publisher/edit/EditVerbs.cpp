@@ -5,7 +5,7 @@
 #include "Publisher/edit/FeedEdits.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FolderLock.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 #include "Publisher/signfeed/FeedSigner.h"
 #include "Publisher/signfeed/SignFeedVerb.h"
 
@@ -26,7 +26,7 @@ struct EditOptions
     std::string channel;
     std::string notes;
     int keptVersions = 0;
-    std::string key;
+    SignerOptions signer;
     int validDays = SigningTerms().validDays;
     bool isDryRun = false;
 };
@@ -45,11 +45,11 @@ void Store(QString const& name, QByteArray const& bytes)
     file.Commit(ExistingFile::Replace);
 }
 
-/// Writes \a edited, signed by the key if one was given.
-void Store(QString const& name, QByteArray const& edited, bool wasSigned, EditOptions const& options,
+/// Writes \a edited, signed by \a signer unless it is null.
+void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigner const* signer, int validDays,
            Console const& console)
 {
-    if (options.key.empty())
+    if (!signer)
     {
         Store(name, edited);
         if (wasSigned)
@@ -60,8 +60,7 @@ void Store(QString const& name, QByteArray const& edited, bool wasSigned, EditOp
         }
         return;
     }
-    SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
-    SignedFeedBytes const feed = SignFeed(name, edited, key, {{}, options.validDays, QDateTime::currentDateTimeUtc()});
+    SignedFeedBytes const feed = SignFeed(name, edited, *signer, {{}, validDays, QDateTime::currentDateTimeUtc()});
     Store(name, feed.bytes);
     console.Print(QStringLiteral("%1: %2").arg(name, TextOf(feed.terms)));
 }
@@ -72,10 +71,10 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     FolderLock const lock(QFileInfo(name).absolutePath(), console);
     QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
     bool const wasSigned = HasSignature(bytes);
-    if (!options.key.empty())
+    std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
+    if (signer)
     {
-        SigningKey const key = SigningKey::Load(QString::fromStdString(options.key));
-        bytes = ReadFeedContent(name, bytes, key, ChangedFeed::Refused).bytes;
+        bytes = ReadFeedContent(name, bytes, *signer, ChangedFeed::Refused).bytes;
     }
     FeedEdit feed(name, bytes);
     edit(feed, options);
@@ -94,7 +93,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
         console.Print(QStringLiteral("%1: not written, as this is a dry run").arg(name));
         return ExitStatus::Clean;
     }
-    Store(name, feed.Bytes(), wasSigned, options, console);
+    Store(name, feed.Bytes(), wasSigned, signer.get(), options.validDays, console);
     return ExitStatus::Clean;
 }
 
@@ -104,10 +103,7 @@ CLI::App& AddVerb(CLI::App& program, VerbContext& context, std::shared_ptr<EditO
     CLI::App& verb = *program.add_subcommand(name, what);
     verb.add_option("FEED", options->feed, "File of the feed; every byte that is not meant stays as it is")->required();
     verb.add_flag("--dry-run", options->isDryRun, "Show what would be changed, and write nothing");
-    verb.add_option("--key", options->key,
-                    "File of the private key, or \"-\" for standard input: signs the changed feed. Without it a signed "
-                    "feed must be signed again")
-        ->type_name("FILE");
+    AddSignerOptions(verb, options->signer, ": sign the changed feed. Without it a signed feed must be signed again");
     AddValidForOption(verb, options->validDays);
     SetWork(verb, context, [options, edit, &context] { return Run(edit, *options, context.console); });
     return verb;

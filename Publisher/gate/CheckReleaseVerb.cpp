@@ -1,5 +1,6 @@
 #include "Publisher/gate/CheckReleaseVerb.h"
 
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
@@ -20,7 +21,7 @@ constexpr char FEED_FILE[] = "appcast.xml";
 struct Options
 {
     std::string release;
-    std::string machine = Engine::NameOf(Engine::OwnMachine());
+    std::vector<std::string> machines;
     std::vector<std::string> publicKeys;
 };
 
@@ -42,17 +43,19 @@ ExitStatus Check(Options const& options, Console const& console)
     request.feed = std::move(feed.bytes);
     request.folder = feed.address.isLocalFile() ? QFileInfo(feedName).path() : QString();
     request.publicKeys = options.publicKeys;
-    request.machine = *Engine::MachineOfName(options.machine);
+    request.machines = options.machines;
     return CheckRelease(request, console);
 }
 
 } // namespace
 
-void AddMachineOption(CLI::App& verb, std::string& name)
+void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise)
 {
-    verb.add_option("--machine", name, "Machine that the programs in bundles for Linux are for")
+    verb.add_option("--machine", names,
+                    "Machine that the programs in bundles for Linux are for; may be given again; without this " +
+                        otherwise)
         ->type_name("NAME")
-        ->capture_default_str()
+        ->allow_extra_args(false)
         ->check(CLI::IsMember(Engine::MachineNames()));
 }
 
@@ -87,7 +90,7 @@ void AddCheckRelease(CLI::App& program, VerbContext& context)
                     "Folder with appcast.xml and its archives, the feed's file, or the address of the published feed, "
                     "whose downloads are fetched then")
         ->required();
-    AddMachineOption(verb, options->machine);
+    AddMachineOption(verb, options->machines, "it is this one, and every other that the feed names");
     AddPublicKeysOption(verb, options->publicKeys,
                         "A key that signed and that no bundle at hand trusts, in base64; may be given again");
     SetWork(verb, context,

@@ -9,8 +9,8 @@ namespace Pelnar::Publisher
 
 void AddCheckRelease(CLI::App& program, VerbContext& context);
 
-/// "--machine"; \a name is what it is without the option.
-void AddMachineOption(CLI::App& verb, std::string& name);
+/// "--machine", which may be given again; \a otherwise says what happens without it.
+void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise);
 /// "--public-key", which may be given again.
 void AddPublicKeysOption(CLI::App& verb, std::vector<std::string>& keys, std::string const& description);
 /// Throws Refusal for a text that is no key.

@@ -2,6 +2,8 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/KeyId.h"
@@ -14,6 +16,26 @@ namespace
 Core::Version WholeVersion(QString const& text)
 {
     return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
+}
+
+/// The machine that the header of the program in \a bundle names. None for another system, for a script, and for a
+/// program that the gate refuses.
+QStringList MachinesOf(BundleTree const& bundle)
+{
+    QStringList machines;
+    for (std::string const& name : Engine::MachineNames())
+    {
+        try
+        {
+            Engine::CheckExecutable(bundle.Descriptor(), bundle.Information().executable, *Engine::MachineOfName(name));
+            machines.append(QString::fromStdString(name));
+        }
+        catch (Engine::UpdateRefusal const&)
+        {
+            continue;
+        }
+    }
+    return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines : QStringList();
 }
 
 QStringList TextsOf(std::vector<std::string> const& ids)
@@ -36,7 +58,8 @@ Engine::KeyedVersion KeysOf(GatedVersion const& version)
 bool IsOffered(GatedVersion const& newer, GatedVersion const& older)
 {
     return older.HasClients() && older.platform == newer.platform && older.version.IsValid() &&
-           newer.version.IsValid() && older.version < newer.version;
+           newer.version.IsValid() && older.version < newer.version &&
+           Engine::ShareMachine(older.machines, newer.machines);
 }
 
 Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path)
@@ -68,6 +91,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     version.version = WholeVersion(version.versionText);
     version.platform = bundle.Platform();
     version.kind = kind;
+    version.machines = MachinesOf(bundle);
     version.bundle = GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path),
                                  information.allowsInstallerPrograms, information.rootPublicKey};
     // With a root key the feed's key statement says whom clients trust, and it may say something else tomorrow.
@@ -97,6 +121,7 @@ GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platfo
     version.platform = platform;
     version.kind = UpdateTypeOf(item) == App::Session::UpdateType::INSTALLER ? Engine::PayloadKind::Installer
                                                                              : Engine::PayloadKind::WholeBundle;
+    version.machines = item.policy.machines;
     version.signerIds = Engine::SignersOf(item);
     version.trustedIds = item.trustedKeys;
     return version;

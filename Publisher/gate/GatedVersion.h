@@ -32,8 +32,9 @@ struct GatedVersion
     Core::Version version; ///< all four components present
     Engine::FeedPlatform platform = Engine::FeedPlatform::Linux;
     Engine::PayloadKind kind = Engine::PayloadKind::WholeBundle;
-    QStringList signerIds;  ///< of the keys that signed its download; empty while unknown
-    QStringList trustedIds; ///< of the keys that its clients trust; empty while unknown, and with a root key
+    QStringList machines = {}; ///< that its program is for; empty for every one
+    QStringList signerIds;     ///< of the keys that signed its download; empty while unknown
+    QStringList trustedIds;    ///< of the keys that its clients trust; empty while unknown, and with a root key
     std::optional<GatedBundle> bundle;
 
     /// Whether people run this version: an installer program is never installed itself.

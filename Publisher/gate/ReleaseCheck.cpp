@@ -1,7 +1,9 @@
 #include "Publisher/gate/ReleaseCheck.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/check/KeyStatement.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/delta/DeltaFile.h"
@@ -11,6 +13,7 @@
 #include "Publisher/lint/LintReport.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace Pelnar::Publisher
 {
@@ -20,20 +23,44 @@ namespace
 using Engine::FeedItem;
 using Engine::FeedPlatform;
 
+/// Those that are judged. What names no machine is judged for the first.
+std::vector<std::string> MachinesOf(ReleaseCheckRequest const& request)
+{
+    std::vector<std::string> names = request.machines;
+    if (names.empty())
+    {
+        names = Engine::MachineNames();
+        names.insert(names.begin(), Engine::NameOf(Engine::OwnMachine()));
+    }
+    return names;
+}
+
+/// Lint has told of the others.
+bool CanBeJudged(FeedItem const& item)
+{
+    return !item.fileUrl.isEmpty() && item.contentLength != 0 &&
+           !(item.edSignature.isEmpty() && item.signatures.empty());
+}
+
 /// The items of one platform whose downloads can be judged, oldest first.
 std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform platform)
 {
-    QString const machine = QString::fromStdString(Engine::NameOf(request.machine));
-    std::vector<FeedItem> items = Engine::ParseFeed(request.feed, request.feedAddress, {platform, machine}).items;
-    items.erase(std::remove_if(items.begin(), items.end(),
-                               [&machine](FeedItem const& item)
-                               {
-                                   // For another machine there is a run of its own.
-                                   return !Engine::SuitsMachine(item.policy.machines, machine) ||
-                                          item.fileUrl.isEmpty() || item.contentLength == 0 ||
-                                          (item.edSignature.isEmpty() && item.signatures.empty());
-                               }),
-                items.end()); // lint has told of them
+    std::vector<FeedItem> items;
+    for (std::string const& name : MachinesOf(request))
+    {
+        QString const machine = QString::fromStdString(name);
+        for (FeedItem& item : Engine::ParseFeed(request.feed, request.feedAddress, {platform, machine}).items)
+        {
+            bool const isKnown =
+                std::any_of(items.begin(), items.end(),
+                            [&item](FeedItem const& other)
+                            { return std::tie(other.line, other.fileUrl) == std::tie(item.line, item.fileUrl); });
+            if (!isKnown && CanBeJudged(item) && Engine::SuitsMachine(item.policy.machines, machine))
+            {
+                items.push_back(std::move(item));
+            }
+        }
+    }
     std::stable_sort(items.begin(), items.end(),
                      [platform](FeedItem const& a, FeedItem const& b)
                      { return VersionOf(a, platform, {}).version < VersionOf(b, platform, {}).version; });
@@ -93,7 +120,7 @@ private:
         version.path = file->name;
         if (bundle)
         {
-            CheckBundleForClients(*bundle, version, m_versions, m_request.machine, m_refusals);
+            CheckBundleForClients(*bundle, version, m_versions, MachineFor(item), m_refusals);
             for (FeedItem const& delta : item.deltas)
             {
                 m_refusals.Try([&] { CheckDelta(delta, items, *bundle); });
@@ -104,6 +131,16 @@ private:
                                  version.trustedIds.isEmpty()
                                      ? QString()
                                      : QStringLiteral(", trusts ") + version.trustedIds.join(QLatin1Char(' '))));
+    }
+
+    Engine::Machine MachineFor(FeedItem const& item) const
+    {
+        std::vector<std::string> const names = MachinesOf(m_request);
+        auto const name =
+            std::find_if(names.begin(), names.end(),
+                         [&item](std::string const& each)
+                         { return Engine::SuitsMachine(item.policy.machines, QString::fromStdString(each)); });
+        return Engine::MachineOfName(name == names.end() ? names.front() : *name).value_or(Engine::OwnMachine());
     }
 
     void TakeBundle(BundleTree const& bundle, InputFile const& file, GatedVersion& version)
@@ -234,10 +271,13 @@ private:
         }
         CheckLength(*file, delta);
         static_cast<void>(CheckSignatures(*file, delta));
-        auto const base =
-            std::find_if(items.begin(), items.end(),
-                         [&](FeedItem const& item)
-                         { return IsContainer(item, m_platform) && item.versionString == delta.deltaFrom; });
+        auto const base = std::find_if(items.begin(), items.end(),
+                                       [&](FeedItem const& item)
+                                       {
+                                           return IsContainer(item, m_platform) &&
+                                                  item.versionString == delta.deltaFrom &&
+                                                  Engine::ShareMachine(item.policy.machines, delta.policy.machines);
+                                       });
         std::optional<InputFile> const baseFile =
             base == items.end() ? std::optional<InputFile>() : m_files.Open(*base);
         if (baseFile)

@@ -2,7 +2,6 @@
 // Thread: the main thread, with Qt's event loop. Ownership: values only.
 #pragma once
 
-#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Console.h"
 
 #include <QByteArray>
@@ -21,7 +20,7 @@ struct ReleaseCheckRequest
     QByteArray feed;
     QString folder; ///< of the downloads; empty when they are fetched
     std::vector<std::string> publicKeys;
-    Engine::Machine machine;
+    std::vector<std::string> machines; ///< names; empty for this one, and all that the feed names
 };
 
 /// Prints what was judged, and throws one Refusal for everything that a client would refuse.

@@ -30,13 +30,13 @@ bool Clashes(NewItem const& item, PublishedItem const& published)
     bool const isInstaller = UpdateTypeOf(published.item) == App::Session::UpdateType::INSTALLER;
     return published.version.IsValid() && published.version == item.version && isInstaller == IsInstaller(item.kind) &&
            published.platforms.count(item.platform) != 0 &&
-           Engine::SuitsMachine(published.item.policy.machines, item.machine);
+           Engine::ShareMachine(published.item.policy.machines, item.machines);
 }
 
 bool Clashes(NewItem const& item, NewItem const& other)
 {
     return other.version == item.version && IsInstaller(other.kind) == IsInstaller(item.kind) &&
-           other.platform == item.platform;
+           other.platform == item.platform && Engine::ShareMachine(other.machines, item.machines);
 }
 
 constexpr char const* MAC_PACKAGE_ENDINGS[] = {".pkg", ".mpkg"};
@@ -86,26 +86,6 @@ void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePu
                                    "that installs the new version, or remove the mark from the name")});
 }
 
-/// The machine that the header of the program in \a bundle names; empty for another system, for a script, and for a
-/// program that the gate refuses.
-QString MachineOf(BundleTree const& bundle)
-{
-    QStringList machines;
-    for (std::string const& name : Engine::MachineNames())
-    {
-        try
-        {
-            Engine::CheckExecutable(bundle.Descriptor(), bundle.Information().executable, *Engine::MachineOfName(name));
-            machines.append(QString::fromStdString(name));
-        }
-        catch (Engine::UpdateRefusal const&)
-        {
-            continue;
-        }
-    }
-    return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines.first() : QString();
-}
-
 } // namespace
 
 std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archives, RefusalList& refusals)
@@ -125,6 +105,7 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
                 m_items.push_back(std::move(item));
             });
     }
+    CheckMachines(refusals);
     CheckAmongEachOther(refusals);
     CheckTrust(m_versions, refusals);
     if (!refusals.IsEmpty())
@@ -146,10 +127,7 @@ void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
     std::vector<GatedVersion> fresh;
     for (GatedVersion const& version : m_versions)
     {
-        bool const isNew =
-            std::any_of(m_items.begin(), m_items.end(),
-                        [&](NewItem const& item) { return m_workplace.PathOf(item.fileName) == version.path; });
-        if (isNew && version.bundle)
+        if (IsNew(version))
         {
             fresh.push_back(version);
         }
@@ -165,9 +143,57 @@ void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
     }
     for (GatedVersion const& version : fresh)
     {
-        BundleTree const bundle = BundleTree::Unpack(OpenInputFile(version.path), [](std::uint64_t, std::uint64_t) {});
-        CheckBundleForClients(bundle, version, fresh, m_workplace.machine, refusals);
+        JudgeAgain(version, fresh, MachineFor(version), refusals);
     }
+}
+
+/// A program for a machine that the release is not for.
+void ArchiveIntake::CheckMachines(RefusalList& refusals)
+{
+    for (GatedVersion const& version : m_versions)
+    {
+        QString const own = QString::fromStdString(Engine::NameOf(MainMachine()));
+        auto const isBeside = [&](GatedVersion const& other)
+        {
+            return other.version == version.version && other.platform == version.platform &&
+                   other.kind == version.kind && Engine::SuitsMachine(other.machines, own);
+        };
+        std::vector<std::string> const& named = m_workplace.machines;
+        bool const isMeant =
+            named.empty()
+                ? std::any_of(m_versions.begin(), m_versions.end(), isBeside)
+                : std::any_of(named.begin(), named.end(),
+                              [&](std::string const& name)
+                              { return Engine::SuitsMachine(version.machines, QString::fromStdString(name)); });
+        if (IsNew(version) && !isMeant)
+        {
+            JudgeAgain(version, m_versions, MainMachine(), refusals);
+        }
+    }
+}
+
+bool ArchiveIntake::IsNew(GatedVersion const& version) const
+{
+    return version.bundle &&
+           std::any_of(m_items.begin(), m_items.end(),
+                       [&](NewItem const& item) { return m_workplace.PathOf(item.fileName) == version.path; });
+}
+
+Engine::Machine ArchiveIntake::MainMachine() const
+{
+    return m_workplace.machines.empty() ? Engine::OwnMachine() : *Engine::MachineOfName(m_workplace.machines.front());
+}
+
+Engine::Machine ArchiveIntake::MachineFor(GatedVersion const& version) const
+{
+    return version.machines.isEmpty() ? MainMachine() : *Engine::MachineOfName(version.machines.first().toStdString());
+}
+
+void ArchiveIntake::JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
+                               Engine::Machine const& machine, RefusalList& refusals)
+{
+    BundleTree const bundle = BundleTree::Unpack(OpenInputFile(version.path), [](std::uint64_t, std::uint64_t) {});
+    CheckBundleForClients(bundle, version, clients, machine, refusals);
 }
 
 NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& refusals)
@@ -195,8 +221,8 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
     version.signerIds = m_workplace.KeyIds();
     item.trustedIds = version.trustedIds;
-    CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
-    item.machine = MachineOf(bundle);
+    CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
+    item.machines = version.machines;
     m_versions.push_back(std::move(version));
     return item;
 }
@@ -266,8 +292,8 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     }
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
     version.signerIds = m_workplace.KeyIds();
-    CheckBundleForClients(bundle, version, m_versions, m_workplace.machine, refusals);
-    item.machine = MachineOf(bundle);
+    CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
+    item.machines = version.machines;
     m_versions.push_back(std::move(version));
 }
 

@@ -2,6 +2,7 @@
 // Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/gate/GatedVersion.h"
 #include "Publisher/generate/Workplace.h"
@@ -29,7 +30,14 @@ private:
     void CheckProduct(Engine::BundleInformation const& information, QString const& path);
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;
+    void CheckMachines(RefusalList& refusals);
     void CheckAmongEachOther(RefusalList& refusals);
+    /// Unpacks the archive of \a version once more.
+    static void JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
+                           Engine::Machine const& machine, RefusalList& refusals);
+    [[nodiscard]] bool IsNew(GatedVersion const& version) const;
+    Engine::Machine MainMachine() const;
+    Engine::Machine MachineFor(GatedVersion const& version) const;
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;

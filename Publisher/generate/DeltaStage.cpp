@@ -39,16 +39,15 @@ void DeltaStage::AddTo(std::vector<NewItem>& items, DeltaChoice const& choice)
 {
     m_bases = FindBases(items);
     TakeGiven(items);
-    NewItem* const newest = NewestItem(items);
-    if (!newest)
+    for (NewItem& item : items)
     {
-        return;
-    }
-    for (Base const& base : BasesFor(*newest, choice))
-    {
-        if (!HasDeltaFrom(*newest, base.versionText))
+        std::vector<Base> const bases = IsNewest(item, items) ? BasesFor(item, choice) : std::vector<Base>();
+        for (Base const& base : bases)
         {
-            Make(*newest, base, choice.effort);
+            if (!HasDeltaFrom(item, base.versionText))
+            {
+                Make(item, base, choice.effort);
+            }
         }
     }
     // Newest base first, no matter in which order they came.
@@ -67,7 +66,7 @@ std::vector<DeltaStage::Base> DeltaStage::FindBases(std::vector<NewItem> const& 
     {
         if (IsBundleForLinux(item))
         {
-            bases.push_back({item.fileName, item.versionText, item.version});
+            bases.push_back({item.fileName, item.versionText, item.version, item.machines});
         }
     }
     for (FolderArchive const& archive : m_archives)
@@ -79,7 +78,7 @@ std::vector<DeltaStage::Base> DeltaStage::FindBases(std::vector<NewItem> const& 
             bool const isForLinux = published.platforms.count(Engine::FeedPlatform::Linux) != 0;
             if (item == &published.item && isForLinux && published.version.IsValid())
             {
-                bases.push_back({archive.fileName, item->versionString, published.version});
+                bases.push_back({archive.fileName, item->versionString, published.version, item->policy.machines});
             }
         }
     }
@@ -91,7 +90,8 @@ std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaC
 {
     std::vector<Base> bases;
     std::copy_if(m_bases.begin(), m_bases.end(), std::back_inserter(bases),
-                 [&newest](Base const& base) { return base.version < newest.version; });
+                 [&newest](Base const& base)
+                 { return base.version < newest.version && Engine::ShareMachine(base.machines, newest.machines); });
     if (!choice.clients.empty())
     {
         std::vector<Base> chosen;
@@ -110,25 +110,22 @@ std::vector<DeltaStage::Base> DeltaStage::BasesFor(NewItem const& newest, DeltaC
     return bases;
 }
 
-NewItem* DeltaStage::NewestItem(std::vector<NewItem>& items) const
+bool DeltaStage::IsNewest(NewItem const& item, std::vector<NewItem> const& items) const
 {
-    NewItem* newest = nullptr;
-    for (NewItem& item : items)
-    {
-        if (IsBundleForLinux(item) && (!newest || newest->version < item.version))
-        {
-            newest = &item;
-        }
-    }
-    bool const isNewest =
-        newest && std::none_of(m_feed.Items().begin(), m_feed.Items().end(),
-                               [newest](PublishedItem const& published)
-                               {
-                                   return published.platforms.count(Engine::FeedPlatform::Linux) != 0 &&
-                                          Engine::SuitsMachine(published.item.policy.machines, newest->machine) &&
-                                          newest->version < published.version;
-                               });
-    return isNewest ? newest : nullptr;
+    return IsBundleForLinux(item) &&
+           std::none_of(items.begin(), items.end(),
+                        [&](NewItem const& other)
+                        {
+                            return IsBundleForLinux(other) && item.version < other.version &&
+                                   Engine::ShareMachine(item.machines, other.machines);
+                        }) &&
+           std::none_of(m_feed.Items().begin(), m_feed.Items().end(),
+                        [&](PublishedItem const& other)
+                        {
+                            return other.platforms.count(Engine::FeedPlatform::Linux) != 0 &&
+                                   item.version < other.version &&
+                                   Engine::ShareMachine(item.machines, other.item.policy.machines);
+                        });
 }
 
 void DeltaStage::TakeGiven(std::vector<NewItem>& items)
@@ -143,42 +140,51 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         Engine::DeltaManifest manifest;
         AsContent([&] { manifest = ReadDeltaFile(OpenInputFile(path)); });
         QString const target = QString::fromStdString(manifest.targetVersion);
-        auto const item = std::find_if(items.begin(), items.end(),
-                                       [&target](NewItem const& other)
-                                       { return IsBundleForLinux(other) && other.versionText == target; });
-        if (item == items.end())
+        QString const start = QString::fromStdString(manifest.baseVersion);
+        bool hasTarget = false;
+        bool isTaken = false;
+        RefusalList refusals; // of one version there may be bundles for several machines; the delta is of one
+        for (NewItem& item : items)
         {
-            m_workplace.Warn(
-                path, QStringLiteral("left out: makes version %1, which gets no new item").arg(Printable(target)),
-                QStringLiteral("remove it; deltas are published together with the version they make"));
-            continue;
+            bool const isTarget = IsBundleForLinux(item) && item.versionText == target;
+            hasTarget = hasTarget || isTarget;
+            auto const base = std::find_if(m_bases.begin(), m_bases.end(),
+                                           [&](Base const& each)
+                                           {
+                                               return each.versionText == start && each.version < item.version &&
+                                                      Engine::ShareMachine(each.machines, item.machines);
+                                           });
+            if (isTarget && !isTaken && base != m_bases.end())
+            {
+                isTaken = refusals.Try([&] { TakeGiven(item, *base, archive.fileName); });
+            }
         }
-        TakeGiven(*item, archive.fileName, QString::fromStdString(manifest.baseVersion));
+        if (!isTaken)
+        {
+            refusals.ThrowIfAny();
+            m_workplace.Warn(
+                path,
+                hasTarget ? QStringLiteral("left out: starts from version %1, whose archive is not in the folder")
+                                .arg(Printable(start))
+                          : QStringLiteral("left out: makes version %1, which gets no new item").arg(Printable(target)),
+                hasTarget ? QStringLiteral("put that archive into the folder, so that the delta can be proved")
+                          : QStringLiteral("remove it; deltas are published together with the version they make"));
+        }
     }
 }
 
-void DeltaStage::TakeGiven(NewItem& item, QString const& fileName, QString const& baseVersion)
+void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileName)
 {
     QString const path = m_workplace.PathOf(fileName);
-    auto const base = std::find_if(m_bases.begin(), m_bases.end(),
-                                   [&baseVersion](Base const& other) { return other.versionText == baseVersion; });
-    if (base == m_bases.end() || !(base->version < item.version))
+    AsContent(
+        [&]
+        { ProveDelta(OpenInputFile(path), m_workplace.Unpack(base.fileName), TreeOf(item), m_workplace.console.err); });
+    if (HasDeltaFrom(item, base.versionText))
     {
-        m_workplace.Warn(path,
-                         QStringLiteral("left out: starts from version %1, whose archive is not in the folder")
-                             .arg(Printable(baseVersion)),
-                         QStringLiteral("put that archive into the folder, so that the delta can be proved"));
-        return;
-    }
-    if (HasDeltaFrom(item, baseVersion))
-    {
-        throw Refusal({path, 0, 0, QStringLiteral("is a second delta from %1 to %2").arg(baseVersion, item.versionText),
+        throw Refusal({path, 0, 0,
+                       QStringLiteral("is a second delta from %1 to %2").arg(base.versionText, item.versionText),
                        QStringLiteral("keep one of them")});
     }
-    AsContent(
-        [&] {
-            ProveDelta(OpenInputFile(path), m_workplace.Unpack(base->fileName), TreeOf(item), m_workplace.console.err);
-        });
     ArchiveSignature const signature = m_workplace.Sign(fileName);
     if (!SavesEnough(signature.length, item.signature.length))
     {
@@ -186,7 +192,7 @@ void DeltaStage::TakeGiven(NewItem& item, QString const& fileName, QString const
                          QStringLiteral("remove it; clients of that version take the archive"));
         return;
     }
-    item.deltas.push_back({fileName, baseVersion, signature});
+    item.deltas.push_back({fileName, base.versionText, signature});
 }
 
 BundleTree const& DeltaStage::TreeOf(NewItem const& item)
@@ -199,9 +205,25 @@ BundleTree const& DeltaStage::TreeOf(NewItem const& item)
     return *m_tree;
 }
 
+QString DeltaStage::DeltaName(NewItem const& item, Base const& base) const
+{
+    QString const name = QStringLiteral("%1-%2-%3").arg(item.productName, base.versionText, item.versionText);
+    bool const isForSome =
+        std::any_of(m_bases.begin(), m_bases.end(),
+                    [&item](Base const& other) {
+                        return other.version == item.version && !Engine::ShareMachine(other.machines, item.machines);
+                    }) ||
+        std::any_of(m_feed.Items().begin(), m_feed.Items().end(),
+                    [&item](PublishedItem const& other) {
+                        return other.version == item.version &&
+                               !Engine::ShareMachine(other.item.policy.machines, item.machines);
+                    });
+    return (isForSome ? name + QLatin1Char('-') + item.machines.first() : name) + QStringLiteral(".delta");
+}
+
 void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effort)
 {
-    QString const fileName = QStringLiteral("%1-%2-%3.delta").arg(item.productName, base.versionText, item.versionText);
+    QString const fileName = DeltaName(item, base);
     BundleTree const before = m_workplace.Unpack(base.fileName);
     if (WholeVersion(QString::fromStdString(before.Information().version)) != base.version)
     {

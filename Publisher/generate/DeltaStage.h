@@ -46,14 +46,18 @@ private:
         QString fileName;
         QString versionText;
         Core::Version version;
+        QStringList machines; ///< empty for every one
     };
 
     std::vector<Base> FindBases(std::vector<NewItem> const& items) const;
     /// The bases before \a newest that get a delta to it.
     std::vector<Base> BasesFor(NewItem const& newest, DeltaChoice const& choice) const;
     void TakeGiven(std::vector<NewItem>& items);
-    void TakeGiven(NewItem& item, QString const& fileName, QString const& baseVersion);
-    NewItem* NewestItem(std::vector<NewItem>& items) const;
+    void TakeGiven(NewItem& item, Base const& base, QString const& fileName);
+    /// Whether clients of its machine are offered nothing newer.
+    [[nodiscard]] bool IsNewest(NewItem const& item, std::vector<NewItem> const& items) const;
+    /// The name of the delta to \a item. Tells the machine when the same version has a bundle for another.
+    QString DeltaName(NewItem const& item, Base const& base) const;
     BundleTree const& TreeOf(NewItem const& item);
     void Make(NewItem& item, Base const& base, Engine::DeltaEffort effort);
 

@@ -158,7 +158,7 @@ public:
                       key,
                       secondKey,
                       console,
-                      *Engine::MachineOfName(request.machine),
+                      request.machines,
                       MomentOfPublication(),
                       request.publicKeys}
         , m_feedFile(request.feedFile.empty() ? m_workplace.PathOf(QLatin1String(FEED_FILE))
@@ -297,11 +297,11 @@ private:
 /// Null without one.
 std::unique_ptr<ISigner> LoadSecondKey(GenerateRequest const& request, ISigner const& first)
 {
-    if (request.secondKeyFile.empty())
+    if (!request.secondSigner.IsGiven())
     {
         return nullptr;
     }
-    std::unique_ptr<ISigner> second = LoadSigner({request.secondKeyFile, {}, {}});
+    std::unique_ptr<ISigner> second = LoadSigner(request.secondSigner);
     if (second->PublicKeyText() == first.PublicKeyText())
     {
         throw Refusal({QStringLiteral("--second-key"), 0, 0, QStringLiteral("is the key that signs anyway"),

@@ -17,10 +17,10 @@ struct GenerateRequest
 {
     std::string folder;
     SignerOptions signer;
-    std::string secondKeyFile;           ///< of a key that signs archives as well; empty for none
-    std::string urlPrefix;               ///< where the folder's files are published
+    SignerOptions secondSigner{"--second-key", "--second-signer"}; ///< of archives as well, if it is given
+    std::string urlPrefix;                                         ///< where the folder's files are published
     std::string urlTemplate;             ///< the same with "{file}" and "{version}" in it; one of the two is empty
-    std::string machine;                 ///< that the programs for Linux are for
+    std::vector<std::string> machines;   ///< that the programs for Linux are for; empty: see Workplace
     std::vector<std::string> publicKeys; ///< by which something was published, besides the one that signs now
     std::string feedFile;                ///< empty for appcast.xml in the folder
     std::string title;                   ///< of a new feed; empty for the product's name

@@ -1,6 +1,5 @@
 #include "Publisher/generate/GenerateVerb.h"
 
-#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaVerb.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
@@ -23,10 +22,8 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "(NAME.html, .md or .txt, and in a language NAME.de.html)")
         ->required();
     AddSignerOptions(verb, request->signer);
-    verb.add_option(
-            "--second-key", request->secondKeyFile,
-            "File of a second private key that signs the archives as well, for clients that trust only that one")
-        ->type_name("FILE");
+    AddSignerOptions(verb, request->secondSigner,
+                     ": a second key that signs the archives as well, for clients that trust only that one");
     CLI::Option* const prefix =
         verb.add_option("--url-prefix", request->urlPrefix, "Address at which the folder's files are published")
             ->type_name("URL");
@@ -35,8 +32,8 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "and may hold {version}")
         ->type_name("URL")
         ->excludes(prefix);
-    request->machine = Engine::NameOf(Engine::OwnMachine());
-    AddMachineOption(verb, request->machine);
+    AddMachineOption(verb, request->machines,
+                     "it is this one, and every other that has an archive of the same version beside that for this one");
     AddPublicKeysOption(verb, request->publicKeys,
                         "A key that signed what is published and that no bundle in the folder trusts, in base64; may "
                         "be given again");

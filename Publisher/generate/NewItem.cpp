@@ -149,10 +149,10 @@ private:
     {
         QString const platform = Attribute(m_feed + QStringLiteral("os"), QLatin1String(PlatformName(m_item.platform)));
         QString const machine =
-            m_item.machine.isEmpty()
+            m_item.machines.isEmpty()
                 ? QString()
                 : Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) +
-                      Attribute(QStringLiteral("pelnar:machine"), m_item.machine);
+                      Attribute(QStringLiteral("pelnar:machine"), m_item.machines.join(QLatin1Char(' ')));
         return QStringLiteral("<enclosure") +
                Attribute(QStringLiteral("url"),
                          m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +

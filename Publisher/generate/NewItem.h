@@ -32,7 +32,7 @@ struct NewItem
     Core::Version version;        ///< of versionText, all four components present
     QString displayVersion;       ///< empty when the bundle gives none
     QString minimumSystemVersion; ///< empty when the bundle gives none
-    QString machine;              ///< that the header of the program names; empty where that is not read
+    QStringList machines;         ///< that its program is for; empty for every one
     std::int64_t publishedAt = 0; ///< in seconds since 1970
     std::vector<ReleaseNotes> notes;
     ArchiveSignature signature;

@@ -1,7 +1,6 @@
 #include "Publisher/generate/PublishedArchives.h"
 
 #include "Engine/core/bundle/PayloadKind.h"
-#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Progress.h"
 #include "Publisher/gate/ReleaseFiles.h"
 #include "Publisher/keys/KeyId.h"
@@ -112,13 +111,8 @@ std::optional<GatedVersion> const& PublishedArchives::BundleOf(Published const& 
 std::vector<GatedVersion> PublishedArchives::Versions(RefusalList& refusals)
 {
     std::vector<GatedVersion> versions;
-    QString const machine = QString::fromStdString(Engine::NameOf(m_workplace.machine));
     for (PublishedItem const& published : m_feed.Items())
     {
-        if (!Engine::SuitsMachine(published.item.policy.machines, machine))
-        {
-            continue; // its clients are offered nothing of this run
-        }
         for (Engine::FeedPlatform const platform : published.platforms)
         {
             GatedVersion version = VersionOf(published.item, platform, m_feed.Name());

@@ -1,6 +1,7 @@
 #include "Publisher/generate/PublishedFeed.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 
 #include <QXmlStreamReader>
@@ -27,7 +28,13 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
     // Read as clients read it first: what they refuse must not be added to.
     for (Engine::FeedPlatform const platform : PLATFORMS)
     {
-        TakeItems(platform, address);
+        TakeItems({platform}, address);
+    }
+    bool const namesMachines = std::any_of(
+        m_items.begin(), m_items.end(), [](PublishedItem const& each) { return !each.item.policy.machines.isEmpty(); });
+    for (std::string const& machine : namesMachines ? Engine::MachineNames() : std::vector<std::string>())
+    {
+        TakeItems({Engine::FeedPlatform::Linux, QString::fromStdString(machine)}, address);
     }
     if ((m_hasMark ? BYTE_ORDER_MARK + m_text.toUtf8() : m_text.toUtf8()) != m_bytes)
     {
@@ -37,9 +44,9 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
     FindItems();
 }
 
-void PublishedFeed::TakeItems(Engine::FeedPlatform platform, QUrl const& address)
+void PublishedFeed::TakeItems(Engine::FeedTarget const& target, QUrl const& address)
 {
-    Engine::FeedParseResult const feed = Engine::ParseFeed(m_bytes, address, platform);
+    Engine::FeedParseResult const feed = Engine::ParseFeed(m_bytes, address, target);
     if (!feed.HasSucceeded())
     {
         throw Refusal({m_name, feed.error.line, feed.error.column, feed.error.sentence.English(),
@@ -48,15 +55,18 @@ void PublishedFeed::TakeItems(Engine::FeedPlatform platform, QUrl const& address
     for (Engine::FeedItem const& item : feed.items)
     {
         auto const known = std::find_if(m_items.begin(), m_items.end(),
-                                        [&item](PublishedItem const& other)
-                                        { return other.item.line == item.line && other.item.column == item.column; });
+                                        [&item](PublishedItem const& other) {
+                                            return other.item.line == item.line && other.item.column == item.column &&
+                                                   other.item.fileUrl == item.fileUrl;
+                                        });
         if (known != m_items.end())
         {
-            known->platforms.insert(platform);
+            known->platforms.insert(target.platform);
             continue;
         }
         Core::Version const version = App::Session::VersionFromStringNoexcept(item.versionString);
-        m_items.push_back({item, {platform}, Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT), -1});
+        m_items.push_back(
+            {item, {target.platform}, Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT), -1});
     }
 }
 

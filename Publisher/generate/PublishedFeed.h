@@ -14,6 +14,7 @@
 namespace Pelnar::Publisher
 {
 
+/// An item with one of its downloads: it may have one for each system and machine.
 struct PublishedItem
 {
     Engine::FeedItem item;
@@ -48,7 +49,7 @@ public:
 
 private:
     void FindItems();
-    void TakeItems(Engine::FeedPlatform platform, QUrl const& address);
+    void TakeItems(Engine::FeedTarget const& target, QUrl const& address);
     int PlaceFor(Core::Version const& version) const;
 
     QString m_name;

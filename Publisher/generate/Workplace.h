@@ -2,7 +2,6 @@
 // Thread: the main thread. Ownership: refers to the key and the console, which outlive it.
 #pragma once
 
-#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Console.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/generate/FolderScan.h"
@@ -20,7 +19,9 @@ struct Workplace
     ISigner const* secondKey; ///< that signs as well; null without one
     Console const& console;
 
-    Engine::Machine machine;             ///< that programs for Linux are for
+    /// Names of those that programs for Linux are for. Empty: this one, and any other that a version has an archive for
+    /// beside this one's: a program for another machine alone is built for it by accident.
+    std::vector<std::string> machines;
     std::int64_t publishedAt = 0;        ///< of new items, in seconds since 1970
     std::vector<std::string> publicKeys; ///< of keys, besides the one that signs, by which something was published
 

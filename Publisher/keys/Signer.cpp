@@ -35,26 +35,30 @@ void CheckArchiveSize(InputFile const& archive)
     }
 }
 
-void AddSignerOptions(CLI::App& verb, SignerOptions& options)
+void AddSignerOptions(CLI::App& verb, SignerOptions& options, std::string const& purpose)
 {
-    verb.add_option("--key", options.keyFile, "File of the private key, or \"-\" for standard input")
+    std::string const command = options.commandOption;
+    verb.add_option(options.keyOption, options.keyFile,
+                    "File of the private key, or \"-\" for standard input" + purpose)
         ->type_name("FILE");
-    verb.add_option("--signer", options.command,
+    verb.add_option(command, options.command,
                     "Instead of a private key, a program that signs: what is to be signed is its standard input, and "
                     "the signature, 64 bytes or their base64, its standard output")
         ->type_name("COMMAND");
-    verb.add_option("--signer-key", options.publicKey, "The public key of that program, in base64")->type_name("KEY");
+    verb.add_option(command + "-key", options.publicKey, "The public key of that program, in base64")->type_name("KEY");
 }
 
 std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options)
 {
     if (options.keyFile.empty() == options.command.empty())
     {
+        QString const key = QLatin1String(options.keyOption);
+        QString const command = QLatin1String(options.commandOption);
         throw Refusal({QString(), 0, 0,
-                       options.keyFile.empty() ? QStringLiteral("--key is required")
-                                               : QStringLiteral("--key and --signer cannot both sign"),
-                       QStringLiteral("give --key with the file of the private key, or --signer with a program that "
-                                      "signs")});
+                       options.keyFile.empty() ? QStringLiteral("%1 is required").arg(key)
+                                               : QStringLiteral("%1 and %2 cannot both sign").arg(key, command),
+                       QStringLiteral("give %1 with the file of the private key, or %2 with a program that signs")
+                           .arg(key, command)});
     }
     if (options.command.empty())
     {

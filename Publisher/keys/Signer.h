@@ -56,13 +56,19 @@ void CheckArchiveSize(InputFile const& archive);
 /// How a command line names what signs.
 struct SignerOptions
 {
-    std::string keyFile;   ///< of the private key, or "-"
-    std::string command;   ///< of the publisher's program
-    std::string publicKey; ///< of that program
+    char const* keyOption = "--key";
+    char const* commandOption = "--signer";
+    std::string keyFile = {};   ///< of the private key, or "-"
+    std::string command = {};   ///< of the publisher's program
+    std::string publicKey = {}; ///< of that program
+
+    /// Whether the command line names something that signs, even if it does so in a wrong way.
+    [[nodiscard]] bool IsGiven() const { return !keyFile.empty() || !command.empty() || !publicKey.empty(); }
 };
 
-/// "--key", "--signer" and "--signer-key".
-void AddSignerOptions(CLI::App& verb, SignerOptions& options);
+/// The two options that \a options name, and "--signer-key" or what it is called there. \a purpose says what is signed
+/// by the key in the file.
+void AddSignerOptions(CLI::App& verb, SignerOptions& options, std::string const& purpose = {});
 
 /// What \a options name. Throws Refusal: unless they name one of the two, and for what cannot sign.
 std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options);

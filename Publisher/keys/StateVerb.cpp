@@ -5,7 +5,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/KeyId.h"
 #include "Publisher/keys/KeysVerbs.h"
-#include "Publisher/keys/SigningKey.h"
+#include "Publisher/keys/Signer.h"
 
 #include <memory>
 #include <ostream>
@@ -19,7 +19,7 @@ constexpr int USUAL_DAYS = 365;
 
 struct Options
 {
-    std::string rootKey;
+    SignerOptions root{"--root-key", "--signer"};
     std::string serial;
     std::vector<std::string> bundles;
     std::vector<std::string> validKeys;
@@ -47,7 +47,7 @@ std::vector<std::string> IdsOf(std::vector<std::string> const& texts)
 
 ExitStatus State(Options const& options, Console const& console)
 {
-    SigningKey const root = SigningKey::Load(QString::fromStdString(options.rootKey));
+    std::unique_ptr<ISigner> const root = LoadSigner(options.root);
     Engine::KeyStatement statement;
     statement.serial = Engine::FeedSerial(QString::fromStdString(options.serial));
     statement.expires = QDateTime::currentDateTimeUtc().addDays(options.validDays);
@@ -64,12 +64,12 @@ ExitStatus State(Options const& options, Console const& console)
                        QStringLiteral("give a serial from 1, one bundle to eight, one or two valid keys, at most 64 "
                                       "revoked ones, each once, and revoke no valid key")});
     }
-    if (statement.validKeys.HasId(Engine::KeyIdOf(root.PublicKeyText().toStdString())))
+    if (statement.validKeys.HasId(Engine::KeyIdOf(root->PublicKeyText().toStdString())))
     {
         throw Refusal({QStringLiteral("--valid"), 0, 0, QStringLiteral("names the root key itself"),
                        QStringLiteral("sign updates with another key, so that the root key stays offline")});
     }
-    QByteArray const line = Engine::KeyStatementLine(text, root.SignatureOf(QByteArray::fromStdString(text)));
+    QByteArray const line = Engine::KeyStatementLine(text, root->SignatureOf(QByteArray::fromStdString(text)));
     console.out.stream.write(line.constData(), line.size());
     return ExitStatus::Clean;
 }
@@ -82,9 +82,7 @@ void AddState(CLI::App& keys, VerbContext& context)
     CLI::App& verb = *keys.add_subcommand(
         "state", "Say with the root key which signing keys are valid and which are revoked, and print the line for the "
                  "feed; needs no network");
-    verb.add_option("--root-key", options->rootKey, "File of the root key, or \"-\" for standard input")
-        ->required()
-        ->type_name("FILE");
+    AddSignerOptions(verb, options->root, ", of the root key");
     verb.add_option("--serial", options->serial, "Number of the statement, above that of the last one")
         ->required()
         ->type_name("NUMBER");

@@ -126,11 +126,7 @@ bool ShareSystem(Engine::FeedItem const& a, Engine::FeedItem const& b)
 /// Whether some machine takes both, and neither is withdrawn.
 bool ShareClients(Engine::FeedItem const& a, Engine::FeedItem const& b)
 {
-    bool const shareMachine =
-        a.policy.machines.isEmpty() || b.policy.machines.isEmpty() ||
-        std::any_of(a.policy.machines.begin(), a.policy.machines.end(),
-                    [&](QString const& machine) { return Engine::SuitsMachine(b.policy.machines, machine); });
-    return shareMachine && !a.policy.isWithdrawn && !b.policy.isWithdrawn;
+    return Engine::ShareMachine(a.policy.machines, b.policy.machines) && !a.policy.isWithdrawn && !b.policy.isWithdrawn;
 }
 
 void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)

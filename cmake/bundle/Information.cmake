@@ -36,26 +36,37 @@ function(pelnar_property_list_text value result)
     set(${result} "\"${value}\"" PARENT_SCOPE)
 endfunction()
 
-# The key's text, from a file with what `pelnar-appcast keys show` prints or from the entry that `keys generate` prints.
-function(pelnar_read_public_key result)
-    set(key "${BUNDLE_PUBLIC_KEY}")
-    if(key STREQUAL "" AND NOT BUNDLE_PUBLIC_KEY_FILE STREQUAL "")
-        file(READ "${BUNDLE_PUBLIC_KEY_FILE}" key)
+# The text of the key that the argument <name> or <name>_FILE gives: a file with what `pelnar-appcast keys show` prints, or the entry
+# that `keys generate` prints. Empty when neither is given.
+function(pelnar_read_public_key name result)
+    set(key "${BUNDLE_${name}}")
+    if(key STREQUAL "" AND NOT "${BUNDLE_${name}_FILE}" STREQUAL "")
+        file(READ "${BUNDLE_${name}_FILE}" key)
+        set(key "${key} ") # an empty file names a key, and a wrong one
     endif()
-    if(NOT key MATCHES "([A-Za-z0-9+/]+=)")
-        pelnar_bundle_fail("it trusts no key, so it could install no update. Make a key with `pelnar-appcast keys generate` and "
-            "set PUBLIC_KEY to what it prints.")
-    endif()
-    set(key "${CMAKE_MATCH_1}")
-    string(LENGTH "${key}" length)
-    if(NOT length EQUAL 44)
-        pelnar_bundle_fail("\"${key}\" is no public key. Set PUBLIC_KEY to what `pelnar-appcast keys generate` printed.")
+    if(NOT key STREQUAL "")
+        string(REGEX MATCH "[A-Za-z0-9+/]+=" text "${key}")
+        string(LENGTH "${text}" length)
+        if(NOT length EQUAL 44)
+            pelnar_bundle_fail("\"${key}\" is no public key. Set ${name} to what `pelnar-appcast keys generate` printed.")
+        endif()
+        set(key "${text}")
     endif()
     set(${result} "${key}" PARENT_SCOPE)
 endfunction()
 
 function(pelnar_write_information file)
-    pelnar_read_public_key(key)
+    pelnar_read_public_key(PUBLIC_KEY key)
+    pelnar_read_public_key(NEXT_PUBLIC_KEY BUNDLE_NEXT_KEY)
+    pelnar_read_public_key(ROOT_PUBLIC_KEY BUNDLE_ROOT_KEY)
+    if(key STREQUAL "")
+        pelnar_bundle_fail("it trusts no key, so it could install no update. Make a key with `pelnar-appcast keys generate` and "
+            "set PUBLIC_KEY to what it prints.")
+    endif()
+    if(key STREQUAL BUNDLE_ROOT_KEY OR (key STREQUAL BUNDLE_NEXT_KEY) OR
+            (BUNDLE_ROOT_KEY AND BUNDLE_ROOT_KEY STREQUAL BUNDLE_NEXT_KEY))
+        pelnar_bundle_fail("two of its keys are one. Make a key for each of PUBLIC_KEY, NEXT_PUBLIC_KEY and ROOT_PUBLIC_KEY.")
+    endif()
     set(entries
         "CFBundleIdentifier=${BUNDLE_IDENTIFIER}"
         "CFBundleName=${BUNDLE_DISPLAY_NAME}"
@@ -64,7 +75,7 @@ function(pelnar_write_information file)
         "SUBundleName=${BUNDLE_DISPLAY_NAME}"
         "SUPublicEDKey=${key}")
     foreach(pair IN ITEMS CFBundleShortVersionString=DISPLAY_VERSION SUFeedURL=FEED_URL
-            PelnarNextPublicEDKey=NEXT_PUBLIC_KEY)
+            PelnarNextPublicEDKey=NEXT_KEY PelnarRootPublicEDKey=ROOT_KEY)
         string(REGEX MATCH "^(.+)=(.+)$" pair "${pair}")
         set(name "${CMAKE_MATCH_1}")
         if(NOT BUNDLE_${CMAKE_MATCH_2} STREQUAL "")

@@ -202,6 +202,18 @@ class Bundles(unittest.TestCase):
                 run("cmake", "--build", build, "--target", "plain_archive")
                 self.assertEqual((build / "plain_bundle/plain-1.0.tar.zst").read_bytes(), archive)
 
+    def test_the_root_key_and_the_second_key_come_from_a_text_or_a_file(self):
+        destination = self.work / "with root"
+        file = self.work / "next.pub"
+        file.write_text("<key>SUPublicEDKey</key>\n<string>EjRWeJASNFZ4kBI0VniQEjRWeJASNFZ4kBI0VniQEjQ=</string>\n")
+        result = self.script("MakeBundle", "plain", f"-DDESTINATION={destination}", "-DBUNDLE_NEXT_PUBLIC_KEY=",
+                             f"-DBUNDLE_NEXT_PUBLIC_KEY_FILE={file}",
+                             "-DBUNDLE_ROOT_PUBLIC_KEY=NFZ4kBI0VniQEjRWeJASNFZ4kBI0VniQEjRWeJASNFY=")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        text = (destination / "plain.app/Resources/Info-gnustep.plist").read_text()
+        self.assertIn('PelnarNextPublicEDKey = "EjRWeJASNFZ4kBI0VniQEjRWeJASNFZ4kBI0VniQEjQ=";', text)
+        self.assertIn('PelnarRootPublicEDKey = "NFZ4kBI0VniQEjRWeJASNFZ4kBI0VniQEjRWeJASNFY=";', text)
+
     def test_what_is_wrong_is_said_in_a_sentence(self):
         wrong = {
             "-DBUNDLE_NAME=a/b": "Choose a NAME without a slash",
@@ -214,7 +226,11 @@ class Bundles(unittest.TestCase):
             "-DBUNDLE_OPTIONS=PelnarConfirmGoodStart": "there is no option \"PelnarConfirmGoodStart\"",
             "-DBUNDLE_INFORMATION=key": "Write INFORMATION \"Key=text\"",
             "-DBUNDLE_PUBLIC_KEY=": "Make a key with `pelnar-appcast keys generate`",
-            "-DBUNDLE_PUBLIC_KEY=abc=": "is no public key",
+            "-DBUNDLE_PUBLIC_KEY=abc=": "is no public key. Set PUBLIC_KEY to",
+            "-DBUNDLE_NEXT_PUBLIC_KEY=garbage": "is no public key. Set NEXT_PUBLIC_KEY to",
+            "-DBUNDLE_ROOT_PUBLIC_KEY=AAAA": "is no public key. Set ROOT_PUBLIC_KEY to",
+            f"-DBUNDLE_ROOT_PUBLIC_KEY_FILE={os.devnull}": "is no public key. Set ROOT_PUBLIC_KEY to",
+            "-DBUNDLE_ROOT_PUBLIC_KEY=q83vEjRWeJASNFZ4kBI0VniQEjRWeJASNFZ4kBI0Vng=": "two of its keys are one",
             "-DBUNDLE_LINK=a b": "Set LINK to a name of letters and digits",
             "-DBUNDLE_LICENSES=": "Name the file of its text under LICENSES",
             "-DBUNDLE_QT=MAYBE": "Set QT to OUTSIDE or INSIDE",

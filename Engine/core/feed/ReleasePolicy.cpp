@@ -170,8 +170,7 @@ QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const
                                                                                   : item.policy.machines),
                  installation.machine);
     case PolicyVerdict::OtherChannel:
-        return QStringLiteral("channel %1, listed: %2")
-            .arg(item.policy.channel, NamesOf(installation.channels));
+        return QStringLiteral("channel %1, listed: %2").arg(item.policy.channel, NamesOf(installation.channels));
     case PolicyVerdict::KeyNotTrusted:
         return QStringLiteral("signed by the key %1, trusted: %2")
             .arg(NamesOf(SignersOf(item)), NamesOf(installation.trustedKeys));
@@ -282,6 +281,12 @@ bool SuitsMachine(QStringList const& machines, QString const& machine)
     return machines.isEmpty() || machine.isEmpty() ||
            std::any_of(machines.begin(), machines.end(),
                        [own = MachineOf(machine)](QString const& each) { return MachineOf(each) == own; });
+}
+
+bool ShareMachine(QStringList const& a, QStringList const& b)
+{
+    return a.isEmpty() ||
+           std::any_of(a.begin(), a.end(), [&b](QString const& machine) { return SuitsMachine(b, machine); });
 }
 
 QString VersionLine(QString const& version)

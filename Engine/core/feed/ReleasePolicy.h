@@ -71,8 +71,8 @@ enum class PolicyVerdict
 [[nodiscard]] bool DependsOnVersion(FeedItem const& item);
 
 /// Removes what is not meant for \a installation from \a items and their deltas, each with a record in the log, and
-/// settles what is critical, informational and to be asked for there, and which signature it verifies. Lets exceptions of
-/// \a order through.
+/// settles what is critical, informational and to be asked for there, and which signature it verifies. Lets exceptions
+/// of \a order through.
 void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order);
 
 /// Whether a setting can list a channel of that name, and a feed name it.
@@ -83,6 +83,9 @@ void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, Ve
 
 /// Whether a program for one of \a machines runs on \a machine. True when there are none, or it is empty.
 [[nodiscard]] bool SuitsMachine(QStringList const& machines, QString const& machine);
+
+/// Whether some machine takes what is for \a a and what is for \a b.
+[[nodiscard]] bool ShareMachine(QStringList const& a, QStringList const& b);
 
 /// The part of a version that its rollout groups belong to: its first two components.
 [[nodiscard]] QString VersionLine(QString const& version);

@@ -166,6 +166,23 @@ TEST_F(DeltaVerb, KeySignsTheDelta)
         << run.out;
 }
 
+TEST_F(DeltaVerb, ProgramOfThePublishersSignsTheDelta)
+{
+    Put("key", Base64(std::string(32, '\7')));
+    ASSERT_EQ(::chmod(PathOf("key").toStdString().c_str(), 0600), 0);
+    Put("sign.sh", "cat > \"$0.in\"\n'" + AppcastProgram().toStdString() + "' sign \"$0.in\" --key '" +
+                       PathOf("key").toStdString() + "' | cut -d '\"' -f 2\n");
+    QStringList const program{QStringLiteral("--signer"), QStringLiteral("/bin/sh \"%1\"").arg(PathOf("sign.sh"))};
+    EXPECT_NE(Create("old.zip", "new.tar.xz", program).err.find("is required with --signer"), std::string::npos);
+    EXPECT_FALSE(QFile::exists(PathOf("d.delta")));
+    ToolRun const run =
+        Create("old.zip", "new.tar.xz",
+               program + QStringList{QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(7).publicKey)});
+    ASSERT_EQ(run.status, 0) << run.err;
+    std::string const signature = Base64(Sign(ContentOf("d.delta"), MakeKeyPair(7)));
+    EXPECT_NE(run.out.find("sparkle:edSignature=\"" + signature), std::string::npos) << run.out;
+}
+
 TEST_F(DeltaVerb, NothingIsMadeOfBundlesThatDoNotBelongTogether)
 {
     auto otherProduct = MakeBundle("2.0");

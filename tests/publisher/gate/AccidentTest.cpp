@@ -2,6 +2,7 @@
 // and the mend in its error, exit status 1, and nothing changed in the folder.
 
 #include "Engine/core/bundle/TrustedKeys.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>
@@ -148,6 +149,25 @@ TEST_F(Accident, ProgramIsForAnotherMachine)
                   {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
                    "\"Test.app/Test\"; build it for that machine"});
     EXPECT_EQ(m_folder.Generate({QStringLiteral("--machine"), QStringLiteral("aarch64")}).status, 0);
+}
+
+TEST_F(Accident, ProgramOfANewVersionIsForAnotherMachineAlone)
+{
+    BundleText text = Version("1.0");
+    bool const isIntel = Engine::OwnMachineName() == QLatin1String("x86_64");
+    text.program = ElfProgram(isIntel ? EM_X86_64 : EM_AARCH64);
+    m_folder.PutBundle(text);
+    Publish();
+    text = Version("2.0");
+    text.program = ElfProgram(isIntel ? EM_AARCH64 : EM_X86_64);
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
+                               "\"Test.app/Test\"",
+                               "build it for that machine"});
+    // In the company of the same version for this machine it is meant.
+    text.program = ElfProgram(isIntel ? EM_X86_64 : EM_AARCH64);
+    m_folder.Put("Test-2.0-this.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    EXPECT_EQ(m_folder.Generate().status, 0);
 }
 
 TEST_F(Accident, ProgramLiesInAFolderOfItsOwn)

@@ -88,6 +88,21 @@ TEST(PublishedFeed, PrefixIsTheOneThatTheFeedBinds)
     EXPECT_EQ(Read("<rss xmlns:sparkle=\"http://example.com/\"><channel></channel></rss>").FeedPrefix(), QString());
 }
 
+TEST(PublishedFeed, EveryDownloadOfAnItemForTwoMachinesIsKnown)
+{
+    Publisher::PublishedFeed const feed(
+        QStringLiteral("feed"),
+        "<rss xmlns:p='https://pelnar.example/xml-namespaces/appcast' "
+        "xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel><item>"
+        "<enclosure url='https://dl.example.com/a.zip' sparkle:version='1.0' p:machine='x86_64'/>"
+        "<enclosure url='https://dl.example.com/b.zip' sparkle:version='1.0' p:machine='aarch64'/>"
+        "</item></channel></rss>",
+        QUrl());
+    ASSERT_EQ(feed.Items().size(), 2u);
+    EXPECT_EQ(feed.Items()[0].item.policy.machines, QStringList{QStringLiteral("x86_64")});
+    EXPECT_EQ(feed.Items()[1].item.policy.machines, QStringList{QStringLiteral("aarch64")});
+}
+
 TEST(PublishedFeed, ItemsOfEveryPlatformAreKnown)
 {
     PublishedFeed const feed = Read(Feed("<item><enclosure url=\"a\" s:os=\"linux\" s:version=\"1.0\"/></item>"

@@ -147,4 +147,54 @@ TEST_F(ProgramThatSigns, IsNamedWithItsKeyAndInsteadOfAPrivateKey)
               std::string::npos);
 }
 
+TEST_F(ProgramThatSigns, IsTakenByEveryVerbThatSigns)
+{
+    for (char const* const verb :
+         {"sign", "sign-feed", "generate", "delta create", "keys state", "promote", "withdraw", "edit-notes", "prune"})
+    {
+        ToolRun const run = RunTool(QString::fromLatin1(verb).split(QLatin1Char(' ')) << QStringLiteral("--help"));
+        EXPECT_NE(run.out.find("--signer COMMAND"), std::string::npos) << verb;
+        EXPECT_NE(run.out.find("--signer-key KEY"), std::string::npos) << verb;
+    }
+    EXPECT_NE(RunTool({QStringLiteral("generate"), QStringLiteral("--help")}).out.find("--second-signer COMMAND"),
+              std::string::npos);
+}
+
+TEST_F(ProgramThatSigns, SignsAStatementOfTheRootKeyAndAWithdrawal)
+{
+    Put("key", Base64(std::string(32, '\7')));
+    ASSERT_TRUE(QFile::setPermissions(PathOf("key"), QFile::ReadOwner | QFile::WriteOwner));
+    QString const script =
+        Put("sign.sh", "cat > \"$0.in\"\n'" + AppcastProgram().toStdString() + "' sign \"$0.in\" --key '" +
+                           PathOf("key").toStdString() + "' | cut -d '\"' -f 2\n");
+    QStringList const signer{QStringLiteral("--signer"), QStringLiteral("/bin/sh \"%1\"").arg(script),
+                             QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(7).publicKey)};
+    ToolRun const stated =
+        RunTool(QStringList{QStringLiteral("keys"), QStringLiteral("state"), QStringLiteral("--bundle"),
+                            QStringLiteral("org.pelnar.test"), QStringLiteral("--serial"), QStringLiteral("1"),
+                            QStringLiteral("--valid"), QString::fromStdString(MakeKeyPair(8).publicKey)} +
+                signer);
+    EXPECT_EQ(stated.status, 0) << stated.err;
+    EXPECT_EQ(stated.out.find("<!-- pelnar-keys: ed25519 "), 0u) << stated.out;
+
+    Put("appcast.xml", "<rss xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\"><channel>\n<item>\n"
+                       "<enclosure url=\"https://updates.example.com/a.zip\" sparkle:version=\"1.0\"/></item>\n"
+                       "</channel></rss>\n");
+    QStringList const withdraw{QStringLiteral("withdraw"), PathOf("appcast.xml"), QStringLiteral("1.0")};
+    ToolRun const withdrawn = RunTool(withdraw + signer);
+    EXPECT_EQ(withdrawn.status, 0) << withdrawn.err;
+    EXPECT_NE(ContentOf("appcast.xml").find("<!-- pelnar-signature: "), std::string::npos);
+}
+
+TEST_F(ProgramThatSigns, KeyOnStandardInputSignsAnEditedFeed)
+{
+    Put("appcast.xml", "<rss xmlns:sparkle=\"http://www.andymatuschak.org/xml-namespaces/sparkle\"><channel>\n<item>\n"
+                       "<enclosure url=\"https://updates.example.com/a.zip\" sparkle:version=\"1.0\"/></item>\n"
+                       "</channel></rss>\n");
+    ToolRun const run = RunAppcastProgram({QStringLiteral("withdraw"), PathOf("appcast.xml"), QStringLiteral("1.0"),
+                                           QStringLiteral("--key"), QStringLiteral("-")},
+                                          QByteArray(32, '\7').toBase64() + '\n');
+    EXPECT_EQ(run.status, 0) << run.err;
+}
+
 } // namespace Pelnar::Testing

@@ -79,6 +79,14 @@ TEST_F(RolloutSeedTest, WhatCannotBeStoredIsTheLastGroup)
     EXPECT_EQ(RolloutGroup({}, QStringLiteral("5.1")), 6);
 }
 
+TEST(RolloutGroup, IsTheSameInEveryVersionOfTheEngine)
+{
+    EXPECT_EQ(RolloutGroup("one installation", QStringLiteral("5.1")), 5);
+    EXPECT_EQ(RolloutGroup("one installation", QStringLiteral("5.2")), 3);
+    EXPECT_EQ(RolloutGroup("another one", QStringLiteral("5.1")), 6);
+    EXPECT_EQ(RolloutGroup("another one", QStringLiteral("10.0")), 2);
+}
+
 TEST(RolloutGroup, IsTheSameInALineOfVersionsAndSpreadOverLinesAndInstallations)
 {
     std::array<int, 7> byLine{};

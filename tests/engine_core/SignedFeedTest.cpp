@@ -58,6 +58,14 @@ TEST(SignedFeed, EitherKeyOfTheBundleMayHaveSigned)
     EXPECT_EQ(CauseOf(feed, {KeyText(9), KeyText(8)}), 757);
 }
 
+TEST(SignedFeed, SignerIsTheKeyThatSigned)
+{
+    QByteArray const feed = SignedFeedOf("5.1");
+    EXPECT_EQ(FeedSigner(feed, {KeyText(9), KeyText(7)}), KeyIdOf(KeyText(7)));
+    EXPECT_EQ(FeedSigner(feed, {KeyText(9), KeyText(8)}), "");
+    EXPECT_EQ(FeedSigner(feed, {}), "");
+}
+
 TEST(SignedFeed, WithoutAUsableKeyNothingIsBelieved)
 {
     QByteArray const feed = SignedFeedOf("5.1");

@@ -11,6 +11,7 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
 #include <climits>
 #include <memory>
 
@@ -140,7 +141,15 @@ void AddEdits(CLI::App& program, VerbContext& context)
                 {
                     QFileInfo const file(QString::fromStdString(options.notes));
                     std::vector<ReleaseNotes> const fresh = ReadReleaseNotes(file.path(), file.completeBaseName());
-                    if (fresh.empty())
+                    bool const isRead =
+                        std::any_of(fresh.begin(), fresh.end(),
+                                    [&file](ReleaseNotes const& each) { return each.fileName == file.fileName(); });
+                    if (!file.exists())
+                    {
+                        throw Refusal({file.filePath(), 0, 0, QStringLiteral("does not exist"),
+                                       QStringLiteral("check the name of the file of release notes")});
+                    }
+                    if (!isRead)
                     {
                         throw Refusal({file.filePath(), 0, 0, QStringLiteral("is no file of release notes"),
                                        QStringLiteral("give a file that ends in .html, .md or .txt")});

@@ -244,7 +244,7 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
     std::vector<ReleaseNotes> result;
     for (auto const& [language, notes] : byLanguage)
     {
-        result.push_back({language, ReadNotesFile(PathIn(folder, notes.fileName), notes.format)});
+        result.push_back({language, ReadNotesFile(PathIn(folder, notes.fileName), notes.format), notes.fileName});
     }
     return result;
 }

@@ -38,6 +38,7 @@ struct ReleaseNotes
 {
     QString language; ///< as xml:lang writes it; empty for those that are for everybody else
     QString html;
+    QString fileName; ///< in their folder
 };
 
 /// The notes beside an archive, those without a language first. Notes are STEM.html, .htm, .md, .markdown or .txt, and

@@ -167,6 +167,24 @@ TEST_F(EditTest, NotesTakeThePlaceOfTheOnesBefore)
     EXPECT_EQ(Run("edit-notes", {QStringLiteral("5.1"), Path("none.html")}).status, 2);
 }
 
+TEST_F(EditTest, NotesAreReadFromTheFileThatIsNamed)
+{
+    QByteArray const feed = FeedWith(Item("5.2"));
+    Write("appcast.xml", feed);
+    Write("notes.md", "New");
+    Write("notes.pdf", "%PDF");
+    for (auto const& [name, reason] :
+         {std::pair("notes.html", "notes.html: does not exist; check the name of the file of release notes"),
+          std::pair("notes.pdf", "notes.pdf: is no file of release notes; give a file that ends in .html, .md or .txt"),
+          std::pair("notes", "notes: does not exist")})
+    {
+        ToolRun const run = Run("edit-notes", {QStringLiteral("5.2"), Path(name)});
+        EXPECT_EQ(run.status, 2);
+        EXPECT_NE(run.err.find(reason), std::string::npos) << run.err;
+    }
+    EXPECT_EQ(Feed(), feed.toStdString());
+}
+
 TEST_F(EditTest, PruningKeepsTheNewestAndWhatIsWithdrawn)
 {
     QByteArray const withdrawn = Item("4.8").replace("      <title", WITHDRAWN + "      <title");

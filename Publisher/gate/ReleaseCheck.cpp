@@ -171,16 +171,16 @@ private:
     {
         auto const believed = Engine::BelieveKeys(
             m_request.feed, {bundle.publicKeys, bundle.rootKey, bundle.identifier, 0}, QDateTime::currentDateTimeUtc());
-        if (auto const* const error = std::get_if<Engine::EngineError>(&believed))
+        if (!believed)
         {
             throw Refusal({path, 0, 0,
                            QStringLiteral("its clients would refuse the feed, whose key statement they ask for: %1")
-                               .arg(error->sentence.English()),
+                               .arg(believed.error().sentence.English()),
                            QStringLiteral("make one with \"keys state\", and put it into the feed with \"sign-feed "
                                           "--key-statement\"")},
                           RefusalCause::Content);
         }
-        return std::get<Engine::BelievedKeys>(believed).keys;
+        return believed->keys;
     }
 
     BundleTree Unpack(InputFile const& file) const

@@ -82,26 +82,25 @@ LintPlace PlaceOf(LintSubject const& subject, char const* name)
 
 void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime const& now, LintFindings& findings)
 {
-    auto const said = Engine::ReadFeedValidity(ChannelOf(subject, bytes));
-    if (auto const* const error = std::get_if<Engine::EngineError>(&said))
+    auto const terms = Engine::ReadFeedValidity(ChannelOf(subject, bytes));
+    if (!terms)
     {
-        bool const isSerial = error->cause == Engine::ErrorCause::FeedSerialUnusable;
+        bool const isSerial = terms.error().cause == Engine::ErrorCause::FeedSerialUnusable;
         findings.Add(isSerial ? LintRule::FeedSerial : LintRule::FeedExpires,
                      PlaceOf(subject, isSerial ? "serial" : "expires"),
                      isSerial ? QStringLiteral("the serial is missing, stands twice or is no positive number")
                               : QStringLiteral("the date is missing, stands twice or is of another form"));
         return;
     }
-    Engine::FeedValidity const& terms = std::get<Engine::FeedValidity>(said);
-    if (Engine::JudgeFeedValidity(terms, 0, now))
+    if (!Engine::JudgeFeedValidity(*terms, 0, now))
     {
         findings.Add(LintRule::FeedExpired, PlaceOf(subject, "expires"),
-                     QStringLiteral("the feed expired at %1").arg(terms.expires.toString(Qt::ISODate)));
+                     QStringLiteral("the feed expired at %1").arg(terms->expires.toString(Qt::ISODate)));
     }
-    else if (terms.expires < now.addDays(DAYS_LEFT))
+    else if (terms->expires < now.addDays(DAYS_LEFT))
     {
         findings.Add(LintRule::FeedExpiresSoon, PlaceOf(subject, "expires"),
-                     QStringLiteral("the feed expires at %1").arg(terms.expires.toString(Qt::ISODate)));
+                     QStringLiteral("the feed expires at %1").arg(terms->expires.toString(Qt::ISODate)));
     }
 }
 

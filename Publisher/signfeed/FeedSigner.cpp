@@ -67,8 +67,7 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
                        QStringLiteral("has a signature that is not alone on the last line, or is damaged"),
                        QStringLiteral("look at what changed the feed, and remove every line with a signature")});
     }
-    bool const isOurs =
-        std::holds_alternative<QByteArray>(Engine::VerifyFeed(bytes, {key.PublicKeyText().toStdString()}));
+    bool const isOurs = Engine::VerifyFeed(bytes, {key.PublicKeyText().toStdString()}).has_value();
     if (!isOurs && changed == ChangedFeed::Refused)
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
@@ -81,10 +80,9 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
 QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray const& line, ISigner const& key)
 {
     auto const given = Engine::FindKeyStatement(line);
-    auto const* const found = std::get_if<Engine::SignedKeyStatement>(&given);
-    auto const statement = found ? Engine::ParseKeyStatement(found->text) : std::nullopt;
+    auto const statement = given ? Engine::ParseKeyStatement(given->text) : std::nullopt;
     QString const option = QStringLiteral("--key-statement");
-    if (!statement || found->size != line.size())
+    if (!statement || given->size != line.size())
     {
         throw Refusal({option, 0, 0, QStringLiteral("is no key statement"),
                        QStringLiteral("give the file with the one line that \"keys state\" printed")});
@@ -97,14 +95,12 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray 
                        QStringLiteral("sign with a key that is valid by it, or make another statement")});
     }
     auto const published = Engine::FindKeyStatement(content);
-    if (std::get_if<Engine::KeyStatementFault>(&published) &&
-        std::get<Engine::KeyStatementFault>(published) == Engine::KeyStatementFault::Malformed)
+    if (!published && published.error().cause == Engine::ErrorCause::KeyStatementMalformed)
     {
         throw Refusal({name, 0, 0, QStringLiteral("has a key statement that is damaged or stands twice"),
                        QStringLiteral("remove every line with one")});
     }
-    auto const* const place = std::get_if<Engine::SignedKeyStatement>(&published);
-    auto const before = place ? Engine::ParseKeyStatement(place->text) : std::nullopt;
+    auto const before = published ? Engine::ParseKeyStatement(published->text) : std::nullopt;
     if (before && before->serial > statement->serial)
     {
         throw Refusal({option, 0, 0,
@@ -113,9 +109,9 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray 
                            .arg(before->serial),
                        QStringLiteral("make a statement with a greater --serial")});
     }
-    if (place)
+    if (published)
     {
-        return content.replace(place->offset, place->size, line);
+        return content.replace(published->offset, published->size, line);
     }
     return content + (content.endsWith('\n') ? "" : "\n") + line;
 }
@@ -134,9 +130,7 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
 
     // As a client will.
     auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
-    auto const* const signedContent = std::get_if<QByteArray>(&verified);
-    if (!signedContent ||
-        !std::holds_alternative<Engine::FeedValidity>(Engine::ReadFeedValidity(ReadChannel(name, *signedContent))))
+    if (!verified || !Engine::ReadFeedValidity(ReadChannel(name, *verified)))
     {
         throw Refusal({name, 0, 0, QStringLiteral("clients would not take the signature"),
                        QStringLiteral("remove what looks like a signature from the feed's texts")});

@@ -32,8 +32,7 @@ KeyTrust Trust()
 int CauseOf(QByteArray const& feed, KeyTrust const& trust = Trust())
 {
     auto const believed = BelieveKeys(feed, trust, Moment("2026-11-22T12:00:00Z"));
-    auto const* const error = std::get_if<EngineError>(&believed);
-    return error ? error->UnderlyingCode() : 0;
+    return believed ? 0 : believed.error().UnderlyingCode();
 }
 
 QByteArray FeedOf(QByteArray const& line)
@@ -134,29 +133,28 @@ TEST(KeyStatement, StandsInAFeedOnceAndAloneOnItsLine)
 {
     QByteArray const line = StatementLineOf(StatementText());
     QByteArray const feed = FeedOf(line);
-    auto const found = FindKeyStatement(feed);
-    auto const* const statement = std::get_if<SignedKeyStatement>(&found);
+    auto const statement = FindKeyStatement(feed);
     ASSERT_TRUE(statement);
     EXPECT_EQ(statement->text, TextOf(StatementText()));
     EXPECT_EQ(feed.mid(statement->offset, statement->size), line);
     EXPECT_EQ(KeyStatementLine(statement->text, statement->signature), line);
-    EXPECT_TRUE(std::holds_alternative<SignedKeyStatement>(FindKeyStatement(Signed(feed))));
+    EXPECT_TRUE(FindKeyStatement(Signed(feed)));
 
-    EXPECT_EQ(std::get<KeyStatementFault>(FindKeyStatement(FeedOf(""))), KeyStatementFault::Missing);
+    EXPECT_EQ(FindKeyStatement(FeedOf("")).error().cause, ErrorCause::KeyStatementMissing);
     QByteArray crossed = line;
     crossed.replace(" -->\n", " -->\r\n");
     QByteArray unknown = line;
     unknown.replace("ed25519", "ed448");
     QByteArray const longest = StatementLineOf(std::string(8192, 'a'));
-    EXPECT_TRUE(std::holds_alternative<SignedKeyStatement>(FindKeyStatement(FeedOf(longest))));
+    EXPECT_TRUE(FindKeyStatement(FeedOf(longest)));
     for (QByteArray const& bad :
          {line + line, ' ' + line, line.chopped(1), crossed, unknown, StatementLineOf(std::string(8193, 'a')),
           StatementLineOf(std::string(100000, 'a')), QByteArray("<!-- pelnar-keys: ed25519 -->\n"),
           QByteArray("<!-- pelnar-keys:  -->\n"), QByteArray("<!-- pelnar-keys: ")})
     {
         auto const refused = FindKeyStatement(FeedOf(bad));
-        ASSERT_TRUE(std::holds_alternative<KeyStatementFault>(refused)) << bad.left(200).toStdString();
-        EXPECT_EQ(std::get<KeyStatementFault>(refused), KeyStatementFault::Malformed);
+        ASSERT_FALSE(refused) << bad.left(200).toStdString();
+        EXPECT_EQ(refused.error().cause, ErrorCause::KeyStatementMalformed);
     }
 }
 
@@ -165,9 +163,9 @@ TEST(KeyStatement, WithoutARootKeyTheBundlesOwnKeysCount)
     KeyTrust trust = Trust();
     trust.rootKey.clear();
     auto const believed = BelieveKeys(FeedOf("<!-- pelnar-keys: nonsense"), trust, Moment("2026-11-22T12:00:00Z"));
-    ASSERT_TRUE(std::holds_alternative<BelievedKeys>(believed));
-    EXPECT_EQ(std::get<BelievedKeys>(believed).keys.Texts(), std::vector<std::string>{KeyOf(7)});
-    EXPECT_EQ(std::get<BelievedKeys>(believed).serial, 0);
+    ASSERT_TRUE(believed);
+    EXPECT_EQ(believed->keys.Texts(), std::vector<std::string>{KeyOf(7)});
+    EXPECT_EQ(believed->serial, 0);
 }
 
 TEST(KeyStatement, WithARootKeyItCountsInThePlaceOfTheBundlesOwnKeys)
@@ -176,10 +174,10 @@ TEST(KeyStatement, WithARootKeyItCountsInThePlaceOfTheBundlesOwnKeys)
     statement.validSeeds = {8};
     statement.revoked = {KeyIdOf(KeyOf(7))};
     auto const believed = BelieveKeys(FeedOf(StatementLineOf(statement)), Trust(), Moment("2026-11-22T12:00:00Z"));
-    ASSERT_TRUE(std::holds_alternative<BelievedKeys>(believed));
-    EXPECT_EQ(std::get<BelievedKeys>(believed).keys.Texts(), std::vector<std::string>{KeyOf(8)});
-    EXPECT_EQ(std::get<BelievedKeys>(believed).serial, 3);
-    EXPECT_EQ(std::get<BelievedKeys>(believed).revoked, statement.revoked);
+    ASSERT_TRUE(believed);
+    EXPECT_EQ(believed->keys.Texts(), std::vector<std::string>{KeyOf(8)});
+    EXPECT_EQ(believed->serial, 3);
+    EXPECT_EQ(believed->revoked, statement.revoked);
 }
 
 TEST(KeyStatement, EachRefusalHasANumberOfItsOwn)

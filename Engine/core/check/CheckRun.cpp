@@ -102,83 +102,83 @@ void CheckRun::Refuse(EngineError const& error)
 
 void CheckRun::TakeFeed(FetchOutcome const& outcome)
 {
-    if (std::optional<EngineError> const refusal = outcome.error ? outcome.error : ReadFeed(outcome))
+    Result<void> const read = outcome.error ? Failure(*outcome.error) : ReadFeed(outcome);
+    if (!read)
     {
         if (outcome.isUnchanged)
         {
             // The server may have another feed with the same tag.
             LOG(WARNING) << "The kept update feed is refused and removed, and the whole one is asked for: "
-                         << refusal->sentence.English().toStdString();
+                         << read.error().sentence.English().toStdString();
             m_settings.feedStore->Keep(std::nullopt);
             m_fetcher.release()->deleteLater(); // it is on the stack below this call
             Fetch(std::nullopt);
             return;
         }
-        Abort(*refusal);
+        Abort(read.error());
         m_host.CheckEnded();
         return;
     }
 
-    std::optional<EngineError> error;
-    std::optional<FoundUpdate> found;
-    std::optional<EngineError> const failure = CallDelegate("the choice of an update",
-                                                            [this, &found, &error]
-                                                            {
-                                                                ApplyPolicy();
-                                                                m_host.FeedLoaded(m_items);
-                                                                found = Choose(error);
-                                                            });
-    if (failure || error)
+    Result<std::optional<FoundUpdate>> found;
+    Result<void> const called = CallDelegate("the choice of an update",
+                                             [this, &found]
+                                             {
+                                                 ApplyPolicy();
+                                                 m_host.FeedLoaded(m_items);
+                                                 found = Choose();
+                                             });
+    if (called && found)
     {
-        Abort(failure ? *failure : *error);
+        Tell(*found);
     }
     else
     {
-        Tell(found);
+        Abort(called ? found.error() : called.error());
     }
     m_host.CheckEnded();
 }
 
-std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
+Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
 {
     QDateTime const now = m_now();
     auto believed = BelieveKeys(
         outcome.bytes,
         {m_settings.publicKeys, m_settings.rootPublicKey, m_settings.bundleIdentifier, m_settings.feedRecord.keySerial},
         now);
-    if (auto const* const error = std::get_if<EngineError>(&believed))
+    if (!believed)
     {
-        return *error;
+        return Failure(believed.error());
     }
-    m_keys = std::get<BelievedKeys>(std::move(believed));
+    m_keys = *std::move(believed);
     m_settings.feedRecord = UnderKeys(m_settings.feedRecord, m_keys);
     bool const mustBeSigned = m_settings.feedSigning == FeedSigning::Required;
     QByteArray content = outcome.bytes;
     if (mustBeSigned)
     {
         auto verified = VerifyFeed(outcome.bytes, m_keys.keys);
-        if (auto const* const error = std::get_if<EngineError>(&verified))
+        if (!verified)
         {
-            return *error;
+            return Failure(verified.error());
         }
-        content = std::get<QByteArray>(std::move(verified));
+        content = *std::move(verified);
     }
     FeedParseResult result = ParseFeed(content, outcome.url, {m_settings.platform, m_settings.machine},
                                        m_settings.feedLimits, m_settings.languages);
     if (!result.HasSucceeded())
     {
         // Many pages begin with a declaration that would otherwise be reported as another error.
-        return BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error);
+        return Failure(BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error));
     }
     std::optional<FeedValidity> terms;
     if (mustBeSigned)
     {
         auto judged = JudgeTerms(outcome, result.channel, now);
-        if (auto const* const error = std::get_if<EngineError>(&judged))
+        if (!judged)
         {
-            return *error;
+            return Failure(judged.error());
         }
-        terms = std::get<FeedValidity>(std::move(judged));
+        terms = *std::move(judged);
     }
     m_items = std::move(result.items);
     m_feedReach = outcome.reach;
@@ -189,25 +189,24 @@ std::optional<EngineError> CheckRun::ReadFeed(FetchOutcome const& outcome)
     LOG_IF(INFO, outcome.isUnchanged) << "The server says that the update feed is the one that is kept here";
     Remember(outcome.bytes, terms, now);
     KeepFeed(outcome);
-    return std::nullopt;
+    return {};
 }
 
-std::variant<FeedValidity, EngineError> CheckRun::JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
-                                                             QDateTime const& now) const
+Result<FeedValidity> CheckRun::JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                          QDateTime const& now) const
 {
-    auto said = ReadFeedValidity(channel);
-    if (std::holds_alternative<EngineError>(said))
+    Result<FeedValidity> terms = ReadFeedValidity(channel);
+    if (!terms)
     {
-        return said;
+        return terms;
     }
-    FeedValidity& terms = std::get<FeedValidity>(said);
-    if (auto const error = JudgeFeedValidity(terms, m_settings.feedRecord.serial, now))
+    if (Result<void> const verdict = JudgeFeedValidity(*terms, m_settings.feedRecord.serial, now); !verdict)
     {
-        return *error;
+        return Failure(verdict.error());
     }
     // Only a root key can revoke the key that signed.
-    terms.signer = m_settings.rootPublicKey.empty() ? std::string() : FeedSigner(outcome.bytes, m_keys.keys);
-    return said;
+    terms->signer = m_settings.rootPublicKey.empty() ? std::string() : FeedSigner(outcome.bytes, m_keys.keys);
+    return terms;
 }
 
 void CheckRun::KeepFeed(FetchOutcome const& outcome)
@@ -254,7 +253,7 @@ void CheckRun::ApplyPolicy()
              [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); });
 }
 
-std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
+Result<std::optional<FoundUpdate>> CheckRun::Choose()
 {
     VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
     BestItemAnswer answer = m_host.AskForBestItem();
@@ -277,8 +276,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
     case BestItemAnswer::Kind::None:
         return std::nullopt;
     case BestItemAnswer::Kind::Foreign:
-        error = MakeError(ErrorCause::ForeignItem);
-        return std::nullopt;
+        return Failure(ErrorCause::ForeignItem);
     case BestItemAnswer::Kind::NotAsked:
     {
         std::optional<int> const newest = NewestItem(m_items, order);
@@ -302,7 +300,7 @@ std::optional<FoundUpdate> CheckRun::Choose(std::optional<EngineError>& error)
         verdict == OfferVerdict::Skipped || verdict == OfferVerdict::Failed || verdict == OfferVerdict::HeldBack;
     if (verdict == OfferVerdict::HeldBack)
     {
-        error = MakeError(ErrorCause::HeldBack);
+        return Failure(ErrorCause::HeldBack);
     }
     if (verdict != OfferVerdict::Offered)
     {
@@ -321,12 +319,12 @@ FeedItem const& CheckRun::At(ItemIndex const& place) const
 
 void CheckRun::Tell(std::optional<FoundUpdate> const& found)
 {
-    std::optional<EngineError> const failure =
+    Result<void> const told =
         found ? CallDelegate("updater:didFindValidUpdate:", [this, &found] { m_host.TellFound(*found); })
               : CallDelegate("updaterDidNotFindUpdate:", [this] { m_host.TellNotFound(); });
-    if (failure)
+    if (!told)
     {
-        Abort(*failure);
+        Abort(told.error());
     }
     else if (!found && m_kind != CheckKind::Probe)
     {

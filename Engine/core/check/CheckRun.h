@@ -117,18 +117,17 @@ private:
     /// \a kept need not be sent again if it is still current.
     void Fetch(std::optional<KeptFeed> kept);
     void TakeFeed(FetchOutcome const& outcome);
-    /// The fetched items become the run's; otherwise an error says why.
-    std::optional<EngineError> ReadFeed(FetchOutcome const& outcome);
+    /// The fetched items become the run's.
+    Result<void> ReadFeed(FetchOutcome const& outcome);
     /// The terms of a feed that must be signed, or why it is refused.
-    std::variant<FeedValidity, EngineError> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
-                                                       QDateTime const& now) const;
+    Result<FeedValidity> JudgeTerms(FetchOutcome const& outcome, FeedChannel const& channel,
+                                    QDateTime const& now) const;
     void KeepFeed(FetchOutcome const& outcome);
     void Remember(QByteArray const& bytes, std::optional<FeedValidity> const& terms, QDateTime const& now);
     /// Removes the items that are not for this installation.
     void ApplyPolicy();
-    /// Asks the host and judges its answer. Returns the update to offer, or nothing; sets an error if the answer is
-    /// unusable.
-    std::optional<FoundUpdate> Choose(std::optional<EngineError>& error);
+    /// Asks the host and judges its answer. Returns the update to offer, or nothing; fails if the answer is unusable.
+    Result<std::optional<FoundUpdate>> Choose();
     FeedItem const& At(ItemIndex const& place) const;
     void Tell(std::optional<FoundUpdate> const& found);
     void Abort(EngineError const& error);

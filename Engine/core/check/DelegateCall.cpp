@@ -3,17 +3,18 @@
 #include <glog/logging.h>
 
 #include <exception>
+#include <utility>
 
 namespace Pelnar::Engine
 {
 
-std::optional<EngineError> CallDelegate(char const* what, std::function<void()> const& call)
+Result<void> CallDelegate(char const* what, std::function<void()> const& call)
 {
     QString reason;
     try
     {
         call();
-        return std::nullopt;
+        return {};
     }
     catch (std::exception const& exception)
     {
@@ -25,7 +26,7 @@ std::optional<EngineError> CallDelegate(char const* what, std::function<void()> 
     }
     EngineError error = MakeError(ErrorCause::DelegateRaised, reason);
     LOG(ERROR) << "Exception from the updater's delegate in " << what << ": " << error.detail.toStdString();
-    return error;
+    return Failure(std::move(error));
 }
 
 } // namespace Pelnar::Engine

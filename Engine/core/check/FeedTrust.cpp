@@ -1,6 +1,5 @@
 #include "Engine/core/check/FeedTrust.h"
 
-#include "Engine/core/faults/EngineError.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/fetch/FetchRules.h"
 
@@ -44,26 +43,26 @@ bool IsDigit(QChar character)
 
 } // namespace
 
-std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys)
+Result<QByteArray> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys)
 {
     SignedFeed const feed = SplitSignedFeed(bytes);
     if (feed.fault == SignedFeedFault::Missing && BeginsAsWebPage(bytes))
     {
-        return MakeError(ErrorCause::FeedIsWebPage);
+        return Failure(ErrorCause::FeedIsWebPage);
     }
     if (auto const cause = CauseOf(feed.fault))
     {
-        return MakeError(*cause);
+        return Failure(*cause);
     }
     std::string_view const content(bytes.constData(), static_cast<std::size_t>(feed.contentBytes));
     UpdateFault const verdict = VerifySignature(content, feed.signature, keys);
     if (verdict == UpdateFault::SignatureMismatch)
     {
-        return MakeError(ErrorCause::FeedSignatureWrong);
+        return Failure(ErrorCause::FeedSignatureWrong);
     }
     if (verdict != UpdateFault::None)
     {
-        return MakeFaultError(verdict);
+        return Failure(MakeFaultError(verdict));
     }
     return bytes.left(feed.contentBytes);
 }
@@ -89,38 +88,37 @@ QDateTime FeedMoment(QString const& text)
 std::string FeedSigner(QByteArray const& feed, TrustedKeys const& keys)
 {
     auto const signer = std::find_if(keys.Texts().begin(), keys.Texts().end(),
-                                     [&](std::string const& key)
-                                     { return std::holds_alternative<QByteArray>(VerifyFeed(feed, {key})); });
+                                     [&](std::string const& key) { return VerifyFeed(feed, {key}).has_value(); });
     return signer == keys.Texts().end() ? std::string() : KeyIdOf(*signer);
 }
 
-std::variant<FeedValidity, EngineError> ReadFeedValidity(FeedChannel const& channel)
+Result<FeedValidity> ReadFeedValidity(FeedChannel const& channel)
 {
     FeedValidity terms;
     terms.serial = channel.serials.size() == 1 ? FeedSerial(channel.serials.front()) : 0;
     if (terms.serial == 0)
     {
-        return MakeError(ErrorCause::FeedSerialUnusable);
+        return Failure(ErrorCause::FeedSerialUnusable);
     }
     terms.expires = channel.expirations.size() == 1 ? FeedMoment(channel.expirations.front().trimmed()) : QDateTime();
     if (!terms.expires.isValid())
     {
-        return MakeError(ErrorCause::FeedExpiryUnusable);
+        return Failure(ErrorCause::FeedExpiryUnusable);
     }
     return terms;
 }
 
-std::optional<EngineError> JudgeFeedValidity(FeedValidity const& terms, qint64 floor, QDateTime const& now)
+Result<void> JudgeFeedValidity(FeedValidity const& terms, qint64 floor, QDateTime const& now)
 {
     if (terms.serial < floor)
     {
-        return MakeError(ErrorCause::FeedReplayed);
+        return Failure(ErrorCause::FeedReplayed);
     }
     if (now >= terms.expires)
     {
-        return MakeError(ErrorCause::FeedExpired);
+        return Failure(ErrorCause::FeedExpired);
     }
-    return std::nullopt;
+    return {};
 }
 
 } // namespace Pelnar::Engine

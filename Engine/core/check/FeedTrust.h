@@ -2,15 +2,13 @@
 #pragma once
 
 #include "Engine/core/bundle/TrustedKeys.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/feed/FeedParser.h"
 
 #include <QByteArray>
 #include <QDateTime>
 
-#include <optional>
 #include <string>
-#include <variant>
 
 namespace Pelnar::Engine
 {
@@ -31,7 +29,7 @@ struct FeedValidity
 };
 
 /// The content of a feed that one of \a keys signed as a whole, or why it is refused. No byte is parsed as XML.
-[[nodiscard]] std::variant<QByteArray, EngineError> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys);
+[[nodiscard]] Result<QByteArray> VerifyFeed(QByteArray const& bytes, TrustedKeys const& keys);
 
 /// Parses \a text as a serial, ignoring blanks around it: a positive decimal number without leading zeros, at most
 /// 9223372036854775807; 0 for any other text.
@@ -45,11 +43,10 @@ struct FeedValidity
 
 /// The terms in \a channel, or why a client that requires signed feeds refuses it: each must appear once and be
 /// readable.
-[[nodiscard]] std::variant<FeedValidity, EngineError> ReadFeedValidity(FeedChannel const& channel);
+[[nodiscard]] Result<FeedValidity> ReadFeedValidity(FeedChannel const& channel);
 
-/// Why a verified feed is refused: it is older than the feed with the serial \a floor (0 if there was none), or has
-/// expired at \a now.
-[[nodiscard]] std::optional<EngineError> JudgeFeedValidity(FeedValidity const& terms, qint64 floor,
-                                                           QDateTime const& now);
+/// Fails if a verified feed is refused: it is older than the feed with the serial \a floor (0 if there was none), or
+/// has expired at \a now.
+[[nodiscard]] Result<void> JudgeFeedValidity(FeedValidity const& terms, qint64 floor, QDateTime const& now);
 
 } // namespace Pelnar::Engine

@@ -93,21 +93,20 @@ std::optional<std::string> TextOfBase64(QByteArray const& base64)
                                                               : std::nullopt;
 }
 
-std::variant<BelievedKeys, EngineError> Judge(KeyStatement const& statement, KeyTrust const& trust,
-                                              QDateTime const& now)
+Result<BelievedKeys> Judge(KeyStatement const& statement, KeyTrust const& trust, QDateTime const& now)
 {
     std::vector<std::string> const& bundles = statement.bundles;
     if (std::find(bundles.begin(), bundles.end(), trust.bundleIdentifier) == bundles.end())
     {
-        return MakeError(ErrorCause::KeyStatementForAnother);
+        return Failure(ErrorCause::KeyStatementForAnother);
     }
     if (statement.serial < trust.lowestSerial)
     {
-        return MakeError(ErrorCause::KeyStatementReplayed);
+        return Failure(ErrorCause::KeyStatementReplayed);
     }
     if (now >= statement.expires)
     {
-        return MakeError(ErrorCause::KeyStatementExpired);
+        return Failure(ErrorCause::KeyStatementExpired);
     }
     return BelievedKeys{statement.validKeys, statement.serial, statement.revoked};
 }
@@ -159,12 +158,12 @@ QByteArray KeyStatementLine(std::string const& text, std::string const& signatur
            QByteArray::fromStdString(signature) + LINE_END;
 }
 
-std::variant<SignedKeyStatement, KeyStatementFault> FindKeyStatement(QByteArray const& feed)
+Result<SignedKeyStatement> FindKeyStatement(QByteArray const& feed)
 {
     int const start = feed.indexOf(LINE_START);
     if (start < 0)
     {
-        return KeyStatementFault::Missing;
+        return Failure(ErrorCause::KeyStatementMissing);
     }
     int const valueStart = start + LINE_START.size();
     int const end = feed.indexOf(LINE_END, valueStart);
@@ -173,39 +172,37 @@ std::variant<SignedKeyStatement, KeyStatementFault> FindKeyStatement(QByteArray 
     bool const isAlone = (start == 0 || feed.at(start - 1) == '\n') && feed.lastIndexOf(LINE_START) == start;
     if (end < 0 || !isAlone || end - valueStart > MOST_LINE_BYTES)
     {
-        return KeyStatementFault::Malformed;
+        return Failure(ErrorCause::KeyStatementMalformed);
     }
     QList<QByteArray> const parts = feed.mid(valueStart, end - valueStart).split(' ');
     std::optional<std::string> text = parts.size() == 3 ? TextOfBase64(parts.at(1)) : std::nullopt;
     Ed25519SignatureBytes signature;
     if (!text || parts.at(0) != ALGORITHM || ParseSignature(parts.at(2).toStdString(), signature) != UpdateFault::None)
     {
-        return KeyStatementFault::Malformed;
+        return Failure(ErrorCause::KeyStatementMalformed);
     }
     return SignedKeyStatement{std::move(*text), parts.at(2).toStdString(), start, end + LINE_END.size() - start};
 }
 
-std::variant<BelievedKeys, EngineError> BelieveKeys(QByteArray const& feed, KeyTrust const& trust, QDateTime const& now)
+Result<BelievedKeys> BelieveKeys(QByteArray const& feed, KeyTrust const& trust, QDateTime const& now)
 {
     if (trust.rootKey.empty())
     {
         return BelievedKeys{trust.ownKeys, 0, {}};
     }
-    auto const found = FindKeyStatement(feed);
-    if (auto const* const fault = std::get_if<KeyStatementFault>(&found))
+    Result<SignedKeyStatement> const line = FindKeyStatement(feed);
+    if (!line)
     {
-        return MakeError(*fault == KeyStatementFault::Missing ? ErrorCause::KeyStatementMissing
-                                                              : ErrorCause::KeyStatementMalformed);
+        return Failure(line.error());
     }
-    auto const& line = std::get<SignedKeyStatement>(found);
-    UpdateFault const verdict = VerifySignature(line.text, line.signature, {trust.rootKey});
+    UpdateFault const verdict = VerifySignature(line->text, line->signature, {trust.rootKey});
     if (verdict != UpdateFault::None)
     {
-        return MakeError(verdict == UpdateFault::KeyMalformed ? ErrorCause::RootKeyMalformed
-                                                              : ErrorCause::KeyStatementSignatureWrong);
+        return Failure(verdict == UpdateFault::KeyMalformed ? ErrorCause::RootKeyMalformed
+                                                            : ErrorCause::KeyStatementSignatureWrong);
     }
-    std::optional<KeyStatement> const statement = ParseKeyStatement(line.text);
-    return statement ? Judge(*statement, trust, now) : MakeError(ErrorCause::KeyStatementMalformed);
+    std::optional<KeyStatement> const statement = ParseKeyStatement(line->text);
+    return statement ? Judge(*statement, trust, now) : Failure(ErrorCause::KeyStatementMalformed);
 }
 
 } // namespace Pelnar::Engine

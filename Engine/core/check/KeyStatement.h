@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Engine/core/bundle/TrustedKeys.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -11,7 +11,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -49,14 +48,9 @@ struct SignedKeyStatement
     int size = 0;   ///< of the line, including its end
 };
 
-enum class KeyStatementFault
-{
-    Missing,
-    Malformed, ///< appears twice, shares its line with other text, or has a wrong form
-};
-
-/// Finds the statement in the bytes of a feed.
-[[nodiscard]] std::variant<SignedKeyStatement, KeyStatementFault> FindKeyStatement(QByteArray const& feed);
+/// Finds the statement in the bytes of a feed. KeyStatementMalformed: it appears twice, shares its line with other
+/// text, or has a wrong form.
+[[nodiscard]] Result<SignedKeyStatement> FindKeyStatement(QByteArray const& feed);
 
 /// The root key of a bundle, and the serial that it remembers.
 struct KeyTrust
@@ -78,7 +72,6 @@ struct BelievedKeys
 /// Without a root key the bundle's own keys. With one, the keys of the statement in \a feed, or why it is refused: it
 /// must exist, be signed by the root key, be for this bundle, have no lower serial than an earlier accepted one, and
 /// not be expired at \a now.
-[[nodiscard]] std::variant<BelievedKeys, EngineError> BelieveKeys(QByteArray const& feed, KeyTrust const& trust,
-                                                                  QDateTime const& now);
+[[nodiscard]] Result<BelievedKeys> BelieveKeys(QByteArray const& feed, KeyTrust const& trust, QDateTime const& now);
 
 } // namespace Pelnar::Engine

@@ -23,4 +23,9 @@ inline tl::unexpected<EngineError> Failure(ErrorCause cause, QString const& remo
     return Failure(MakeError(cause, remoteDetail));
 }
 
+inline tl::unexpected<EngineError> Failure(UpdateRefusal const& refusal)
+{
+    return Failure(MakeFaultError(refusal.Fault(), refusal.ErrorNumber()));
+}
+
 } // namespace Pelnar::Engine

@@ -429,14 +429,14 @@ NamedVersion UpdateRun::NamedUpdate() const
 bool UpdateRun::NotifyHostOrFinish(char const* what, std::function<void()> const& call)
 {
     QPointer<UpdateRun> const self(this);
-    auto const failure = CallDelegate(what, call);
+    Result<void> const called = CallDelegate(what, call);
     if (!self || m_phase == RunPhase::Ended)
     {
         return false;
     }
-    if (failure)
+    if (!called)
     {
-        Fail(RunEvent::HostRaised, *failure);
+        Fail(RunEvent::HostRaised, called.error());
         return false;
     }
     return true;

@@ -103,8 +103,7 @@ int CauseOf(QByteArray const& feed)
 {
     auto const believed =
         Engine::BelieveKeys(feed, {{KeyOf(7)}, KeyOf(42), "com.example.app", 0}, QDateTime::currentDateTimeUtc());
-    auto const* const error = std::get_if<Engine::EngineError>(&believed);
-    return error ? error->UnderlyingCode() : 0;
+    return believed ? 0 : believed.error().UnderlyingCode();
 }
 
 } // namespace
@@ -116,7 +115,8 @@ TEST_F(KeyChange, StatementIsOneThatClientsBelieve)
     QByteArray const feed = "<rss/>\n" + QByteArray::fromStdString(run.out);
     EXPECT_EQ(CauseOf(feed), 0);
     auto const found = Engine::FindKeyStatement(feed);
-    auto const statement = Engine::ParseKeyStatement(std::get<Engine::SignedKeyStatement>(found).text);
+    ASSERT_TRUE(found);
+    auto const statement = Engine::ParseKeyStatement(found->text);
     ASSERT_TRUE(statement);
     EXPECT_EQ(statement->serial, 4);
     EXPECT_EQ(statement->validKeys.Texts(), std::vector<std::string>{KeyOf(8)});

@@ -72,18 +72,17 @@ protected:
     {
         BelievedFeed believed;
         auto const verified = Engine::VerifyFeed(feed, {MakeKeyPair(seedByte).publicKey});
-        if (auto const* const error = std::get_if<Engine::EngineError>(&verified))
+        if (!verified)
         {
-            ADD_FAILURE() << error->sentence.English().toStdString() << '\n' << feed.toStdString();
+            ADD_FAILURE() << verified.error().sentence.English().toStdString() << '\n' << feed.toStdString();
             return believed;
         }
-        believed.content = std::get<QByteArray>(verified);
+        believed.content = *verified;
         Engine::FeedParseResult const parsed = Engine::ParseFeed(believed.content, QUrl(), Engine::FeedPlatform::Linux);
         EXPECT_TRUE(parsed.HasSucceeded());
         auto const said = Engine::ReadFeedValidity(parsed.channel);
-        EXPECT_TRUE(std::holds_alternative<Engine::FeedValidity>(said)) << feed.toStdString();
-        believed.terms = std::holds_alternative<Engine::FeedValidity>(said) ? std::get<Engine::FeedValidity>(said)
-                                                                            : Engine::FeedValidity();
+        EXPECT_TRUE(said) << feed.toStdString();
+        believed.terms = said.value_or(Engine::FeedValidity());
         return believed;
     }
 

@@ -117,9 +117,9 @@ void Download(benchmark::State& state, Transport transport)
         growth = std::max(growth, static_cast<double>(Pelnar::Bench::KibibytesOf("VmHWM:") - before) / 1024);
         stall = std::max(stall, TheScene().application.LongestStallMilliseconds());
         static_cast<void>(ArchiveDownload::Discard(request));
-        if (outcome.error)
+        if (!outcome)
         {
-            state.SkipWithError(qPrintable(outcome.error->sentence.English()));
+            state.SkipWithError(qPrintable(outcome.error().sentence.English()));
             return;
         }
     }

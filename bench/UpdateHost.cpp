@@ -58,7 +58,7 @@ private:
 
     void Prepare(DownloadOutcome& downloaded)
     {
-        FailOn(downloaded.error);
+        FailOn(downloaded);
         PrepareJob job;
         job.archiveBytes = m_request.declaredBytes;
         job.signature = m_request.signature.toStdString();
@@ -68,7 +68,7 @@ private:
         job.expectedVersion = "2.0";
         job.installedVersion = "1.0";
         FailOn(m_preparation.Start(
-            m_target, job, std::move(downloaded.archive), [](ProgressReport const&) {},
+            m_target, job, *std::move(downloaded), [](ProgressReport const&) {},
             [this](UpdatePreparation::Outcome outcome) { Install(outcome); }));
     }
 
@@ -100,17 +100,11 @@ private:
     {
         if (!outcome)
         {
-            FailOn(std::optional(outcome.error()));
+            FailOn(outcome.error());
         }
     }
 
-    static void FailOn(std::optional<EngineError> const& error)
-    {
-        if (error)
-        {
-            qFatal("%s", qPrintable(error->sentence.English()));
-        }
-    }
+    static void FailOn(EngineError const& error) { qFatal("%s", qPrintable(error.sentence.English())); }
 
     UpdateEnvironment m_parts{QStringLiteral(PELNAR_INSTALLER_PROGRAM)};
     DownloadRequest m_request;

@@ -70,20 +70,20 @@ InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
 {
     QString const name = item.fileUrl.toString(QUrl::FullyEncoded);
     Engine::DownloadOutcome outcome = FetchDownload(item, m_fetched.path(), m_console);
-    if (outcome.error)
+    if (!outcome)
     {
-        QString sentence = outcome.error->sentence.English();
+        QString sentence = outcome.error().sentence.English();
         sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
         throw Refusal({name, 0, 0, QStringLiteral("cannot be fetched as the feed says it is: ") + sentence,
                        QStringLiteral("upload the very file that was signed, before the feed")},
                       RefusalCause::Content);
     }
     struct stat status;
-    if (::fstat(outcome.archive.Get(), &status) != 0)
+    if (::fstat(outcome->Get(), &status) != 0)
     {
         RefuseFile(name, QStringLiteral("cannot be read"), errno, {});
     }
-    return {std::move(outcome.archive), name, static_cast<std::uint64_t>(status.st_size)};
+    return {*std::move(outcome), name, static_cast<std::uint64_t>(status.st_size)};
 }
 
 } // namespace Pelnar::Publisher

@@ -80,15 +80,15 @@ private:
     void Fetch(LintDownload const& download)
     {
         Engine::DownloadOutcome outcome = FetchDownload(*download.item, m_folder.path(), m_console);
-        if (outcome.error)
+        if (!outcome)
         {
-            ReportError(download, *outcome.error);
+            ReportError(download, outcome.error());
         }
         else
         {
-            CheckSignature(download, outcome.archive.Get());
+            CheckSignature(download, outcome->Get());
             CheckVersion(download,
-                         {std::move(outcome.archive), download.item->fileUrl.fileName(), download.item->contentLength});
+                         {*std::move(outcome), download.item->fileUrl.fileName(), download.item->contentLength});
         }
     }
 

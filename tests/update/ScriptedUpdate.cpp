@@ -329,14 +329,14 @@ void ScriptedParts::FinishDownload()
     auto const progress = m_progress;
     progress({10, 1000, 5});
     auto const finished = std::exchange(m_finished, nullptr);
-    finished({std::nullopt, UniqueFd(::open("/dev/null", O_RDONLY | O_CLOEXEC))});
+    finished(UniqueFd(::open("/dev/null", O_RDONLY | O_CLOEXEC)));
 }
 
 void ScriptedParts::FailDownload(ErrorCause cause)
 {
     ASSERT_TRUE(m_finished);
     auto const finished = std::exchange(m_finished, nullptr);
-    finished({MakeError(cause), UniqueFd()});
+    finished(Failure(cause));
 }
 
 void ScriptedParts::Report(HelperReport const& report)

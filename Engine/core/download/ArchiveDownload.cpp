@@ -87,12 +87,12 @@ private:
                 JudgeArchiveAddress(m_request.url, m_request.feedReach, m_request.insecureHttp);
             !address)
         {
-            Finish({AsDownloadError(address.error()), {}});
+            Finish(Failure(AsDownloadError(address.error())));
             return;
         }
         if (m_request.declaredBytes == 0 || m_request.declaredBytes > MAX_ARCHIVE_BYTES)
         {
-            Finish({MakeError(ErrorCause::DownloadLengthInvalid), {}});
+            Finish(Failure(ErrorCause::DownloadLengthInvalid));
             return;
         }
         ArchiveWriterEvents events;
@@ -105,8 +105,8 @@ private:
                 m_transfer->ReadOn();
             }
         };
-        events.finished = [this](UniqueFd archive) { Finish({std::nullopt, std::move(archive)}); };
-        events.failed = [this](EngineError const& error) { Finish({error, {}}); };
+        events.finished = [this](UniqueFd archive) { Finish(std::move(archive)); };
+        events.failed = [this](EngineError const& error) { Finish(Failure(error)); };
         m_writer = std::make_unique<ArchiveWriter>(PlaceFor(m_request), std::move(events));
         m_writer->Open();
     }
@@ -380,7 +380,7 @@ private:
     void End(EngineError const& error)
     {
         StopTimers();
-        auto const done = [this, error] { Finish({error, {}}); };
+        auto const done = [this, error] { Finish(Failure(error)); };
         IsAboutTheArchive(error.cause) ? m_writer->Remove(Spent(), done) : m_writer->Close(Spent(), done);
     }
 

@@ -5,7 +5,7 @@
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/fetch/FetchRules.h"
 
 #include <QString>
@@ -14,7 +14,6 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <optional>
 
 namespace Pelnar::Engine
 {
@@ -50,13 +49,9 @@ struct DownloadProgress
     quint64 bytesPerSecond = 0; ///< over the last seconds; 0 while unknown
 };
 
-struct DownloadOutcome
-{
-    std::optional<EngineError> error;
-    /// Opened for reading only, at its start. No process has it open for writing. While it or a copy of it is open, no
-    /// other process downloads the same archive. Empty on error.
-    UniqueFd archive;
-};
+/// The archive, opened for reading only, at its start. No process has it open for writing. While it or a copy of it is
+/// open, no other process downloads the same archive.
+using DownloadOutcome = Result<UniqueFd>;
 
 class IDownload
 {

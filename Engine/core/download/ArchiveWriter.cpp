@@ -32,7 +32,7 @@ enum class Ending
 struct Work
 {
     Ending ending;
-    std::function<PartialFile::Fault(PartialFile&)> run;
+    std::function<Result<void>(PartialFile&)> run;
 };
 
 /// Calls a copy, because the writer that holds \a function may be destroyed during the call.
@@ -116,7 +116,7 @@ public:
         }
     }
 
-    void Add(Ending ending, std::function<PartialFile::Fault(PartialFile&)> run)
+    void Add(Ending ending, std::function<Result<void>(PartialFile&)> run)
     {
         std::lock_guard const lock(m_state->mutex);
         m_state->works.push_back({ending, std::move(run)});
@@ -131,7 +131,7 @@ public:
             [state = m_state.get(), answer](PartialFile& file)
             {
                 Post(*state, answer(file));
-                return PartialFile::Fault();
+                return Result<void>();
             });
     }
 
@@ -141,7 +141,7 @@ public:
             [spent](PartialFile& file)
             {
                 file.SetSpent(spent);
-                return PartialFile::Fault();
+                return Result<void>();
             });
     }
 
@@ -190,16 +190,16 @@ public:
             [state = m_state.get(), events = &m_events, index = *m_current, size = m_filled](PartialFile& file)
             {
                 auto const* const bytes = reinterpret_cast<std::uint8_t const*>(state->buffers[index].data());
-                PartialFile::Fault fault = file.Append(Bytes(bytes, size));
+                Result<void> written = file.Append(Bytes(bytes, size));
                 std::unique_lock lock(state->mutex);
                 state->freeBuffers.push_back(index);
                 bool const isWanted = std::exchange(state->isRoomWanted, false);
                 lock.unlock();
-                if (isWanted && !fault)
+                if (isWanted && written)
                 {
                     Post(*state, [events] { Called(events->roomMade); });
                 }
-                return fault;
+                return written;
             });
         m_current.reset();
     }
@@ -231,15 +231,15 @@ private:
             state->works.pop_front();
             state->running = work.ending;
             lock.unlock();
-            PartialFile::Fault const fault = work.run(state->file);
-            if (fault)
+            Result<void> const done = work.run(state->file);
+            if (!done)
             {
-                Post(*state, [events, error = *fault] { Called(events->failed, error); });
+                Post(*state, [events, error = done.error()] { Called(events->failed, error); });
             }
             lock.lock();
             state->running.reset();
             state->changed.notify_all();
-            if (fault)
+            if (!done)
             {
                 return; // the following work depends on this
             }

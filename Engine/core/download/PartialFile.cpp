@@ -55,23 +55,19 @@ PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t decla
 
 PartialFile::PartialFile(PartialPlace place) : m_place(std::move(place)) {}
 
-PartialFile::Fault PartialFile::Open()
+Result<void> PartialFile::Open()
 {
     m_found = {0, m_place.declaredBytes, {}};
-    if (Fault const fault = OpenFolder())
+    if (Result<void> const locked = OpenFolder().and_then([this] { return Lock(); }); !locked)
     {
-        return fault;
-    }
-    if (Fault const fault = Lock())
-    {
-        return fault;
+        return locked;
     }
     struct stat status
     {
     };
     if (fstat(m_reader.Get(), &status) != 0)
     {
-        return OpenError(errno);
+        return Failure(OpenError(errno));
     }
     FoundFile const file{static_cast<std::uint64_t>(status.st_size), status.st_ino, SystemStart()};
     m_record = {m_place.url, m_place.declaredBytes, file.fileNumber, file.systemStart, 0, {}, {}};
@@ -83,15 +79,15 @@ PartialFile::Fault PartialFile::Open()
     RemoveOtherArchives(m_folder, m_place.folder, m_place.name);
     if (m_found.bytes == m_place.declaredBytes)
     {
-        return std::nullopt; // no further write
+        return {}; // no further write
     }
-    if (Fault const fault = OpenWriter())
+    if (Result<void> const done = OpenWriter(); !done)
     {
-        return fault;
+        return done;
     }
     if (file.bytes > m_found.bytes && Retried([this] { return ftruncate(m_writer.Get(), off_t(m_found.bytes)); }) != 0)
     {
-        return FailedWrite(errno);
+        return Failure(FailedWrite(errno));
     }
     return CheckRoom();
 }
@@ -110,18 +106,18 @@ void PartialFile::TakeRecord(PartialRecord const& record, FoundFile const& file)
     }
 }
 
-PartialFile::Fault PartialFile::OpenFolder()
+Result<void> PartialFile::OpenFolder()
 {
     Result<UniqueFd> folder = OpenDownloadFolder(m_place.folder);
     if (!folder)
     {
-        return folder.error();
+        return Failure(folder.error());
     }
     m_folder = *std::move(folder);
-    return std::nullopt;
+    return {};
 }
 
-PartialFile::Fault PartialFile::OpenReader()
+Result<void> PartialFile::OpenReader()
 {
     for (int attempt = 0; attempt < MAX_LOCK_ATTEMPTS; ++attempt)
     {
@@ -131,56 +127,56 @@ PartialFile::Fault PartialFile::OpenReader()
         };
         if (m_reader && fstat(m_reader.Get(), &status) == 0 && IsOurs(status))
         {
-            return std::nullopt;
+            return {};
         }
         if (!m_reader && (errno == EMFILE || errno == ENFILE || errno == ENOMEM))
         {
-            return OpenError(errno);
+            return Failure(OpenError(errno));
         }
         if (!m_reader && (errno == ENOSPC || errno == EDQUOT))
         {
-            return RoomError(errno);
+            return Failure(RoomError(errno));
         }
-        if (Fault const fault = MakeWay(m_place.name))
+        if (Result<void> const done = MakeWay(m_place.name); !done)
         {
-            return fault;
+            return done;
         }
     }
-    return MakeError(ErrorCause::DownloadFolderUnusable, Described(EEXIST));
+    return Failure(ErrorCause::DownloadFolderUnusable, Described(EEXIST));
 }
 
-PartialFile::Fault PartialFile::MakeWay(std::string const& name)
+Result<void> PartialFile::MakeWay(std::string const& name)
 {
     try
     {
         FreeName(m_folder.Get(), name);
-        return std::nullopt;
+        return {};
     }
     catch (UpdateRefusal const& refusal)
     {
-        return OpenError(refusal.ErrorNumber());
+        return Failure(OpenError(refusal.ErrorNumber()));
     }
 }
 
-PartialFile::Fault PartialFile::Lock()
+Result<void> PartialFile::Lock()
 {
     for (int attempt = 0; attempt < MAX_LOCK_ATTEMPTS; ++attempt)
     {
-        if (Fault const fault = OpenReader())
+        if (Result<void> const done = OpenReader(); !done)
         {
-            return fault;
+            return done;
         }
         if (Retried([this] { return flock(m_reader.Get(), LOCK_EX | LOCK_NB); }) != 0)
         {
             if (errno == EWOULDBLOCK)
             {
-                return MakeError(ErrorCause::DownloadBusy);
+                return Failure(ErrorCause::DownloadBusy);
             }
             // Deliberate: some network file systems cannot lock a file that is opened for reading. There, two processes
             // may write the same file. Then the archive's signature does not match, and the archive is fetched again.
             if (errno != EBADF && errno != ENOLCK && errno != EOPNOTSUPP && errno != EINVAL && errno != ENOSYS)
             {
-                return OpenError(errno);
+                return Failure(OpenError(errno));
             }
         }
         struct stat locked
@@ -193,13 +189,13 @@ PartialFile::Fault PartialFile::Lock()
             fstatat(m_folder.Get(), m_place.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
             IsSameFile(locked, named))
         {
-            return std::nullopt;
+            return {};
         }
     }
-    return MakeError(ErrorCause::DownloadBusy);
+    return Failure(ErrorCause::DownloadBusy);
 }
 
-PartialFile::Fault PartialFile::OpenWriter()
+Result<void> PartialFile::OpenWriter()
 {
     m_writer = OpenFileAt(m_folder, m_place.name, O_WRONLY);
     struct stat reader
@@ -210,18 +206,18 @@ PartialFile::Fault PartialFile::OpenWriter()
     };
     if (!m_writer || fstat(m_reader.Get(), &reader) != 0 || fstat(m_writer.Get(), &writer) != 0)
     {
-        return OpenError(errno);
+        return Failure(OpenError(errno));
     }
-    return IsSameFile(reader, writer) ? std::nullopt : Fault(MakeError(ErrorCause::DownloadBusy));
+    return IsSameFile(reader, writer) ? Result<void>() : Failure(MakeError(ErrorCause::DownloadBusy));
 }
 
-PartialFile::Fault PartialFile::CheckRoom() const
+Result<void> PartialFile::CheckRoom() const
 {
     std::uint64_t const missing = m_place.declaredBytes - m_written;
     DiskRoom const room = RoomIn(m_folder);
     return room.UsableBytes() < missing
-               ? Fault(MakeRoomError(ErrorCause::DownloadNoRoom, missing + room.reservedBytes, room.freeBytes))
-               : std::nullopt;
+               ? Failure(MakeRoomError(ErrorCause::DownloadNoRoom, missing + room.reservedBytes, room.freeBytes))
+               : Result<void>();
 }
 
 std::optional<PartialRecord> PartialFile::ReadRecord() const
@@ -238,94 +234,94 @@ std::optional<PartialRecord> PartialFile::ReadRecord() const
     return bytes ? Recent(DecodePartialRecord(*bytes), status.st_mtime) : std::nullopt;
 }
 
-PartialFile::Fault PartialFile::Restart(Validators const& validators)
+Result<void> PartialFile::Restart(Validators const& validators)
 {
     // The record must never name a version while the file still has bytes of another one.
     if (Retried([this] { return ftruncate(m_writer.Get(), 0); }) != 0 || lseek(m_writer.Get(), 0, SEEK_SET) != 0)
     {
-        return FailedWrite(errno);
+        return Failure(FailedWrite(errno));
     }
     m_written = 0;
     m_record.durableBytes = 0;
     m_record.validators = validators;
-    return std::nullopt;
+    return {};
 }
 
-PartialFile::Fault PartialFile::Append(Bytes bytes)
+Result<void> PartialFile::Append(Bytes bytes)
 {
     // Other programs write to the disk too.
     if (RoomIn(m_folder).UsableBytes() < bytes.size())
     {
-        return FailedWrite(ENOSPC);
+        return Failure(FailedWrite(ENOSPC));
     }
     while (!bytes.empty())
     {
         ssize_t const count = pwrite(m_writer.Get(), bytes.data(), bytes.size(), static_cast<off_t>(m_written));
         if (count == 0 || (count < 0 && errno != EINTR))
         {
-            return FailedWrite(count == 0 ? EIO : errno); // otherwise the loop would never end
+            return Failure(FailedWrite(count == 0 ? EIO : errno)); // otherwise the loop would never end
         }
         std::size_t const written = count < 0 ? 0 : static_cast<std::size_t>(count);
         bytes.remove_prefix(written);
         m_written += written;
     }
-    return std::nullopt;
+    return {};
 }
 
-PartialFile::Fault PartialFile::SyncBytes()
+Result<void> PartialFile::SyncBytes()
 {
     std::uint64_t const written = m_written;
     if (Retried([this] { return fdatasync(m_writer.Get()); }) != 0)
     {
-        return FailedWrite(errno);
+        return Failure(FailedWrite(errno));
     }
     m_record.durableBytes = written;
-    return std::nullopt;
+    return {};
 }
 
-PartialFile::Fault PartialFile::StageRecord()
+Result<void> PartialFile::StageRecord()
 {
     std::string const name = m_place.name + STAGED_ENDING;
-    if (Fault const fault = MakeWay(name))
+    if (Result<void> const done = MakeWay(name); !done)
     {
-        return fault;
+        return done;
     }
     m_staged = OpenFileAt(m_folder, name, O_WRONLY | O_CREAT | O_EXCL);
     std::string const bytes = EncodePartialRecord(m_record);
     Bytes const all(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size());
-    return m_staged && WriteAll(m_staged.Get(), all) ? std::nullopt : Fault(FailedWrite(errno));
+    return m_staged && WriteAll(m_staged.Get(), all) ? Result<void>() : Failure(FailedWrite(errno));
 }
 
-PartialFile::Fault PartialFile::SyncRecord()
+Result<void> PartialFile::SyncRecord()
 {
     if (m_record.durableBytes == 0)
     {
-        return std::nullopt; // losing it loses only a count
+        return {}; // losing it loses only a count
     }
-    return Retried([this] { return fdatasync(m_staged.Get()); }) == 0 ? std::nullopt : Fault(FailedWrite(errno));
+    return Retried([this] { return fdatasync(m_staged.Get()); }) == 0 ? Result<void>() : Failure(FailedWrite(errno));
 }
 
-PartialFile::Fault PartialFile::PublishRecord()
+Result<void> PartialFile::PublishRecord()
 {
     std::string const staged = m_place.name + STAGED_ENDING;
     std::string const name = m_place.name + RECORD_ENDING;
     try
     {
-        return RenameOver(m_folder.Get(), staged, name) ? std::nullopt : Fault(FailedWrite(errno));
+        return RenameOver(m_folder.Get(), staged, name) ? Result<void>() : Failure(FailedWrite(errno));
     }
     catch (UpdateRefusal const& refusal)
     {
-        return FailedWrite(refusal.ErrorNumber());
+        return Failure(FailedWrite(refusal.ErrorNumber()));
     }
 }
 
-PartialFile::Fault PartialFile::SyncFolder()
+Result<void> PartialFile::SyncFolder()
 {
     if (m_record.durableBytes == 0)
     {
-        return std::nullopt;
+        return {};
     }
-    return Retried([this] { return fsync(m_folder.Get()); }) == 0 ? std::nullopt : Fault(FailedWrite(errno));
+    return Retried([this] { return fsync(m_folder.Get()); }) == 0 ? Result<void>() : Failure(FailedWrite(errno));
 }
 
 UniqueFd PartialFile::Finish()

@@ -5,7 +5,7 @@
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/download/PartialRecord.h"
-#include "Engine/core/faults/EngineError.h"
+#include "Engine/core/faults/Result.h"
 
 #include <QString>
 
@@ -27,18 +27,15 @@ struct PartialPlace
 /// The same archive has the same place in every run: its name is made from \a url, \a declaredBytes and \a signature.
 PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t declaredBytes, QString const& signature);
 
-/// Every operation returns its error, or an empty value on success.
 class PartialFile
 {
 public:
-    using Fault = std::optional<EngineError>;
-
     explicit PartialFile(PartialPlace place);
 
     /// Creates the folder and the file if they are missing, locks the file, cuts it to the bytes that can be trusted,
     /// and removes the application's other archives. Refuses a disk without space for the rest and for the share that
     /// stays free.
-    Fault Open();
+    Result<void> Open();
     /// The bytes found. REQUIRES: opened.
     PartialArchive const& Found() const { return m_found; }
     /// The recorded cost of the archive. REQUIRES: opened.
@@ -46,18 +43,18 @@ public:
     void SetSpent(DownloadSpending const& spent) { m_record.spent = spent; }
 
     /// Discards every byte. The following bytes belong to the version with \a validators.
-    Fault Restart(Validators const& validators);
+    Result<void> Restart(Validators const& validators);
     /// REQUIRES: the record was published after Open() and after every Restart().
-    Fault Append(Bytes bytes);
+    Result<void> Append(Bytes bytes);
 
     /// The steps that make the written bytes durable and then record this, in this order. Steps that sync may take
     /// long. They change nothing, so the file can be opened again without waiting for them. Without the first step, the
     /// others record the remaining values.
-    Fault SyncBytes();
-    Fault StageRecord();
-    Fault SyncRecord();
-    Fault PublishRecord();
-    Fault SyncFolder();
+    Result<void> SyncBytes();
+    Result<void> StageRecord();
+    Result<void> SyncRecord();
+    Result<void> PublishRecord();
+    Result<void> SyncFolder();
 
     /// Ends the writing. The returned descriptor is read-only and keeps the lock.
     UniqueFd Finish();
@@ -67,13 +64,13 @@ public:
     void RemoveArchive();
 
 private:
-    Fault OpenFolder();
-    Fault OpenReader();
-    Fault Lock();
-    Fault OpenWriter();
+    Result<void> OpenFolder();
+    Result<void> OpenReader();
+    Result<void> Lock();
+    Result<void> OpenWriter();
     /// Frees the name for this user's file.
-    Fault MakeWay(std::string const& name);
-    Fault CheckRoom() const;
+    Result<void> MakeWay(std::string const& name);
+    Result<void> CheckRoom() const;
     std::optional<PartialRecord> ReadRecord() const;
     void TakeRecord(PartialRecord const& record, FoundFile const& file);
     /// Removes the file and the record, and frees the disk's blocks.

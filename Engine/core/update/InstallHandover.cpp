@@ -8,9 +8,8 @@
 namespace Pelnar::Engine
 {
 
-std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd,
-                                                  InstallJob job, std::function<void()> waiting,
-                                                  std::function<void(EngineError const&)> failed)
+Result<void> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd, InstallJob job,
+                                    std::function<void()> waiting, std::function<void(EngineError const&)> failed)
 {
     m_waiting = std::move(waiting);
     m_failed = std::move(failed);
@@ -27,13 +26,13 @@ std::optional<EngineError> InstallHandover::Start(InstallTarget const& target, P
     catch (UpdateRefusal const& refusal)
     {
         m_helper.reset();
-        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+        return Failure(refusal);
     }
     // Immediately: this process may be killed next.
     m_helper->Release();
     m_update = &update;
     m_update->GiveToHelper();
-    return std::nullopt;
+    return {};
 }
 
 void InstallHandover::Cancel()

@@ -19,13 +19,12 @@ public:
     explicit InstallHandover(IUpdateEnvironment& parts) : m_parts(parts) {}
 
     /// Starts the helper with \a job. \a update completes the job and then belongs to the helper. The job's record is
-    /// in the folder \a recordsFd. Returns an error if this is impossible; then no callback follows and \a update stays
+    /// in the folder \a recordsFd. Fails if this is impossible; then no callback follows and \a update stays
     /// the caller's. Otherwise \a waiting comes once the helper waits for the end of this process, and \a failed, once
     /// and last, if the helper ends before this process. Either may destroy this object. REQUIRES: called once; \a
     /// update outlives this object.
-    [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd,
-                                                   InstallJob job, std::function<void()> waiting,
-                                                   std::function<void(EngineError const&)> failed);
+    [[nodiscard]] Result<void> Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd, InstallJob job,
+                                     std::function<void()> waiting, std::function<void(EngineError const&)> failed);
 
     /// Ends the waiting helper. The update belongs to the caller again, and no callback follows. Without a helper it
     /// does nothing.

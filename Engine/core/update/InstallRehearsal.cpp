@@ -57,26 +57,26 @@ void End(LaunchedHelper const& helper)
     static_cast<void>(Reap(helper.process));
 }
 
-std::optional<EngineError> Judge(InstallTarget const& target, std::string const& reports)
+Result<void> Judge(InstallTarget const& target, std::string const& reports)
 {
     for (std::size_t begin = 0, end = 0; (end = reports.find('\n', begin)) != std::string::npos; begin = end + 1)
     {
         auto const report = DecodeHelperReport(std::string_view(reports).substr(begin, end - begin));
         if (report && std::holds_alternative<RehearsedReport>(*report))
         {
-            return std::nullopt;
+            return {};
         }
         if (auto const* const refused = report ? std::get_if<RefusedReport>(&*report) : nullptr)
         {
-            return MakeTargetError(target, refused->fault, refused->errorNumber);
+            return Failure(MakeTargetError(target, refused->fault, refused->errorNumber));
         }
     }
-    return MakeError(ErrorCause::HelperFailed);
+    return Failure(ErrorCause::HelperFailed);
 }
 
 } // namespace
 
-std::optional<EngineError> RehearseInstallation(InstallTarget const& target, SealedProgram& helper)
+Result<void> RehearseInstallation(InstallTarget const& target, SealedProgram& helper)
 {
     try
     {
@@ -92,7 +92,7 @@ std::optional<EngineError> RehearseInstallation(InstallTarget const& target, Sea
     }
     catch (UpdateRefusal const& refusal)
     {
-        return MakeTargetError(target, refusal.Fault(), refusal.ErrorNumber());
+        return Failure(MakeTargetError(target, refusal.Fault(), refusal.ErrorNumber()));
     }
 }
 

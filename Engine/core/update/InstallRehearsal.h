@@ -6,12 +6,10 @@
 #include "Engine/core/update/InstallTarget.h"
 #include "Engine/core/update/SealedProgram.h"
 
-#include <optional>
-
 namespace Pelnar::Engine
 {
 
-/// The error of an installation that cannot succeed; empty if it can.
-std::optional<EngineError> RehearseInstallation(InstallTarget const& target, SealedProgram& helper);
+/// Fails if an installation cannot succeed.
+[[nodiscard]] Result<void> RehearseInstallation(InstallTarget const& target, SealedProgram& helper);
 
 } // namespace Pelnar::Engine

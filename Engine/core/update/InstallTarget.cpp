@@ -1,11 +1,11 @@
 #include "Engine/core/update/InstallTarget.h"
 
 #include "Engine/core/base/PathText.h"
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/helper/StagingFolder.h"
-#include "Engine/core/base/TreeWalk.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -45,10 +45,10 @@ EngineError ErrorOf(PackageOwner const& owner, std::string const& path)
         error.sentence = Sentence(text, {QStringLiteral("Snap"), owner.command});
         break;
     case PackageManager::Dpkg:
-        error.sentence = Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "The application was installed by the system's package manager, "
-                                                     "which also updates it. Use the command \"%1\"."),
-            {owner.command});
+        error.sentence = Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
+                                                    "The application was installed by the system's package manager, "
+                                                    "which also updates it. Use the command \"%1\"."),
+                                  {owner.command});
         break;
     }
     return error;
@@ -164,8 +164,8 @@ EngineError ErrorWith(ErrorCause cause, std::string const& path, std::initialize
     return error;
 }
 
-/// Finds folders up to the root that other users could change.
-std::optional<EngineError> Intruders(InstallTarget const& target, std::string const& path)
+/// Fails if other users could change a folder up to the root.
+Result<void> JudgeFolders(InstallTarget const& target, std::string const& path)
 {
     for (UniqueFd const* const folder : {&target.bundle, &target.parent})
     {
@@ -176,39 +176,39 @@ std::optional<EngineError> Intruders(InstallTarget const& target, std::string co
         case FolderSafety::Safe:
             continue;
         case FolderSafety::Shared:
-            return ErrorWith(ErrorCause::BundleInSharedFolder, path, {place});
+            return Failure(ErrorWith(ErrorCause::BundleInSharedFolder, path, {place}));
         case FolderSafety::OpenToGroup:
-            return ErrorWith(
+            return Failure(ErrorWith(
                 ErrorCause::BundleOpenToGroup, path,
-                {QString::fromStdString(GroupName(finding.group)), QStringLiteral("chmod g-w ") + Quoted(place)});
+                {QString::fromStdString(GroupName(finding.group)), QStringLiteral("chmod g-w ") + Quoted(place)}));
         case FolderSafety::OwnerHidden:
-            return ErrorWith(ErrorCause::BundleOwnerHidden, path, {place});
+            return Failure(ErrorWith(ErrorCause::BundleOwnerHidden, path, {place}));
         case FolderSafety::OfAnotherUser:
         case FolderSafety::OpenToAll:
         case FolderSafety::Unreadable:
-            return Error(ErrorCause::BundleFolderUnsafe, path);
+            return Failure(Error(ErrorCause::BundleFolderUnsafe, path));
         }
     }
-    return std::nullopt;
+    return {};
 }
 
-std::optional<EngineError> LackOfRoom(InstallTarget const& target, quint64 neededBytes)
+Result<void> JudgeRoom(InstallTarget const& target, quint64 neededBytes)
 {
     struct statvfs status;
     if (::fstatvfs(target.parent.Get(), &status) != 0)
     {
-        return std::nullopt; // the write will show it
+        return {}; // the write will show it
     }
     quint64 const freeBytes = static_cast<quint64>(status.f_bavail) * status.f_frsize;
     quint64 const reserve = DiskReserve(static_cast<quint64>(status.f_blocks) * status.f_frsize);
     if (freeBytes >= neededBytes && freeBytes - neededBytes >= reserve)
     {
-        return std::nullopt;
+        return {};
     }
     quint64 const allBytes = std::max(neededBytes, neededBytes + reserve); // the larger one, if the sum overflows
     EngineError error = MakeRoomError(ErrorCause::NoRoomForUpdate, allBytes, freeBytes);
     error.detail = EscapedRemoteText(target.path);
-    return error;
+    return Failure(std::move(error));
 }
 
 } // namespace
@@ -232,8 +232,8 @@ EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int 
 EngineError WithRoom(EngineError const& error, InstallTarget const& target, quint64 neededBytes)
 {
     bool const isForRoom = error.cause == ErrorCause::Fault && error.fault == UpdateFault::NoSpace;
-    auto const lack = isForRoom ? LackOfRoom(target, neededBytes) : std::nullopt;
-    return lack.value_or(error);
+    Result<void> const room = isForRoom ? JudgeRoom(target, neededBytes) : Result<void>();
+    return room ? error : room.error();
 }
 
 OpenedTarget OpenInstalledBundle(QString const& bundlePath)
@@ -287,14 +287,8 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
     {
         return Failure(Error(*cause, path));
     }
-    for (auto const& error : {Intruders(*opened, path), LackOfRoom(*opened, neededBytes)})
-    {
-        if (error)
-        {
-            return Failure(*error);
-        }
-    }
-    return opened;
+    Result<void> const verdict = JudgeFolders(*opened, path).and_then([&] { return JudgeRoom(*opened, neededBytes); });
+    return verdict ? std::move(opened) : Failure(verdict.error());
 }
 
 } // namespace Pelnar::Engine

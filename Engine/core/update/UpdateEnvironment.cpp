@@ -15,9 +15,9 @@ OpenedTarget OpenWithHelper(QString const& bundlePath, quint64 neededBytes, Pack
     OpenedTarget opened = OpenInstallTarget(bundlePath, neededBytes, sources);
     if (opened)
     {
-        if (auto error = RehearseInstallation(*opened, helper))
+        if (Result<void> const rehearsed = RehearseInstallation(*opened, helper); !rehearsed)
         {
-            return Failure(*std::move(error));
+            return Failure(rehearsed.error());
         }
     }
     return opened;

@@ -27,9 +27,9 @@ UpdateFlow::~UpdateFlow() = default;
 
 void UpdateFlow::Start()
 {
-    if (auto const refusal = Refusal())
+    if (Result<void> const verdict = JudgeStart(); !verdict)
     {
-        m_check->Refuse(*refusal);
+        m_check->Refuse(verdict.error());
         return;
     }
     if (m_kind == CheckKind::Interactive)
@@ -46,18 +46,18 @@ void UpdateFlow::Start()
     m_check->Start();
 }
 
-std::optional<EngineError> UpdateFlow::Refusal() const
+Result<void> UpdateFlow::JudgeStart() const
 {
     if (m_settings.updates == UpdateSwitch::Off)
     {
-        return MakeError(ErrorCause::UpdatesDisabled);
+        return Failure(ErrorCause::UpdatesDisabled);
     }
     // A probe may be the first half of a check that a person requested: it is never delayed.
     if (m_kind == CheckKind::Background && IsHeldBack(m_settings.backOff, m_parts.Now()))
     {
-        return MakeError(ErrorCause::HeldBack);
+        return Failure(ErrorCause::HeldBack);
     }
-    return std::nullopt;
+    return {};
 }
 
 void UpdateFlow::CloseChecking()

@@ -40,8 +40,8 @@ private:
     void TellAborted(EngineError const& error) override;
     void CheckEnded() override;
 
-    /// Why this check does not run at all.
-    std::optional<EngineError> Refusal() const;
+    /// Fails if this check does not run at all.
+    Result<void> JudgeStart() const;
     UpdateCandidate CandidateAt(ItemIndex const& place) const;
     void CloseChecking();
     void CancelCheck();

@@ -17,10 +17,9 @@ UpdatePreparation::~UpdatePreparation()
     }
 }
 
-std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target, PrepareJob const& job,
-                                                    UniqueFd archive,
-                                                    std::function<void(ProgressReport const&)> progress,
-                                                    std::function<void(Outcome)> finished)
+Result<void> UpdatePreparation::Start(InstallTarget const& target, PrepareJob const& job, UniqueFd archive,
+                                      std::function<void(ProgressReport const&)> progress,
+                                      std::function<void(Outcome)> finished)
 {
     m_progress = std::move(progress);
     m_finished = std::move(finished);
@@ -32,11 +31,11 @@ std::optional<EngineError> UpdatePreparation::Start(InstallTarget const& target,
         m_helper->Start(
             job, DescriptorMap(job, {m_update->Descriptor(), archive.Get(), base}),
             [this](HelperReport const& report) { Take(report); }, [this](HelperEnd end) { End(end); });
-        return std::nullopt;
+        return {};
     }
     catch (UpdateRefusal const& refusal)
     {
-        return MakeFaultError(refusal.Fault(), refusal.ErrorNumber());
+        return Failure(refusal);
     }
 }
 

@@ -23,11 +23,11 @@ public:
     UpdatePreparation(UpdatePreparation const&) = delete;
     UpdatePreparation& operator=(UpdatePreparation const&) = delete;
 
-    /// Returns an error if it cannot begin; then no callback follows. Otherwise both callbacks come from the event
+    /// Fails if it cannot begin; then no callback follows. Otherwise both callbacks come from the event
     /// loop, \a finished once and last. Either may destroy this object. REQUIRES: called once.
-    [[nodiscard]] std::optional<EngineError> Start(InstallTarget const& target, PrepareJob const& job, UniqueFd archive,
-                                                   std::function<void(ProgressReport const&)> progress,
-                                                   std::function<void(Outcome)> finished);
+    [[nodiscard]] Result<void> Start(InstallTarget const& target, PrepareJob const& job, UniqueFd archive,
+                                     std::function<void(ProgressReport const&)> progress,
+                                     std::function<void(Outcome)> finished);
 
 private:
     void Take(HelperReport const& report);

@@ -48,32 +48,32 @@ PayloadKind KindOf(UpdateCandidate const& candidate)
     return isInstaller ? PayloadKind::Installer : PayloadKind::WholeBundle;
 }
 
-std::optional<EngineError> FaultOf(RunningBundle const& bundle)
+Result<void> JudgeBundle(RunningBundle const& bundle)
 {
     if (UpdateFault const fault = bundle.publicKeys.Fault(); fault != UpdateFault::None)
     {
-        return MakeFaultError(fault);
+        return Failure(MakeFaultError(fault));
     }
     if (bundle.identifier.isEmpty() || bundle.version.isEmpty() || !QDir::isAbsolutePath(bundle.path))
     {
-        return MakeError(ErrorCause::BundleUnnamed);
+        return Failure(ErrorCause::BundleUnnamed);
     }
-    return std::nullopt;
+    return {};
 }
 
-std::optional<EngineError> FaultOf(FeedItem const& item)
+Result<void> JudgeItem(FeedItem const& item)
 {
     if (item.contentLength == 0)
     {
-        return MakeError(ErrorCause::DownloadLengthInvalid);
+        return Failure(ErrorCause::DownloadLengthInvalid);
     }
     if (item.edSignature.isEmpty())
     {
-        return MakeFaultError(UpdateFault::SignatureMissing);
+        return Failure(MakeFaultError(UpdateFault::SignatureMissing));
     }
     Ed25519SignatureBytes signature;
     UpdateFault const fault = ParseSignature(item.edSignature.toStdString(), signature);
-    return fault == UpdateFault::None ? std::nullopt : std::optional(MakeFaultError(fault));
+    return fault == UpdateFault::None ? Result<void>() : Failure(MakeFaultError(fault));
 }
 
 quint64 NeededBytes(std::vector<UpdateCandidate> const& candidates)

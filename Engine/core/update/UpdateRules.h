@@ -7,7 +7,6 @@
 #include "Engine/core/update/UpdateSettings.h"
 #include "Engine/core/update/WindowContent.h"
 
-#include <optional>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -30,10 +29,10 @@ struct UpdateCandidate
 };
 [[nodiscard]] PayloadKind KindOf(UpdateCandidate const& candidate);
 
-/// Why no update of \a bundle can be verified or matched; empty if it can.
-[[nodiscard]] std::optional<EngineError> FaultOf(RunningBundle const& bundle);
-/// Why \a item is not worth a download; empty if it is.
-[[nodiscard]] std::optional<EngineError> FaultOf(FeedItem const& item);
+/// Fails if no update of \a bundle can be verified or matched.
+[[nodiscard]] Result<void> JudgeBundle(RunningBundle const& bundle);
+/// Fails if \a item is not worth a download.
+[[nodiscard]] Result<void> JudgeItem(FeedItem const& item);
 
 /// The space that must be free next to the bundle: an estimate of the unpacked size, from the archives' lengths.
 [[nodiscard]] quint64 NeededBytes(std::vector<UpdateCandidate> const& candidates);

@@ -89,17 +89,17 @@ void UpdateRun::OpenTarget()
         return;
     }
     // Every possible refusal comes before a person is asked and a byte is fetched.
-    if (auto fault = FaultOf(m_settings.bundle))
+    if (Result<void> const verdict = JudgeBundle(m_settings.bundle); !verdict)
     {
-        Fail(RunEvent::Refused, *std::move(fault));
+        Fail(RunEvent::Refused, verdict.error());
         return;
     }
-    auto const isUseless = [](UpdateCandidate const& candidate) { return FaultOf(candidate.item).has_value(); };
-    auto const fault = FaultOf(m_candidates.back().item);
+    auto const isUseless = [](UpdateCandidate const& candidate) { return !JudgeItem(candidate.item); };
+    Result<void> const verdict = JudgeItem(m_candidates.back().item);
     m_candidates.erase(std::remove_if(m_candidates.begin(), m_candidates.end(), isUseless), m_candidates.end());
     if (m_candidates.empty())
     {
-        Fail(RunEvent::Refused, *fault);
+        Fail(RunEvent::Refused, verdict.error());
         return;
     }
     m_parts.OpenTarget(m_settings.bundle.path, NeededBytes(m_candidates), Guarded(&UpdateRun::TakeTarget));
@@ -168,13 +168,13 @@ void UpdateRun::Download()
         [this](DownloadOutcome outcome)
         {
             m_download.reset();
-            if (outcome.error)
+            if (!outcome)
             {
-                FailCandidate(*outcome.error);
+                FailCandidate(outcome.error());
             }
             else
             {
-                m_archive = std::move(outcome.archive);
+                m_archive = *std::move(outcome);
                 Take(RunEvent::Downloaded);
             }
         });
@@ -183,7 +183,7 @@ void UpdateRun::Download()
 void UpdateRun::Prepare()
 {
     m_preparation = std::make_unique<UpdatePreparation>(m_parts);
-    auto const error = m_preparation->Start(
+    Result<void> const started = m_preparation->Start(
         *m_target, PreparationOf(Current(), m_settings.bundle, m_target->name), std::move(m_archive),
         [this](ProgressReport const& progress)
         {
@@ -193,10 +193,10 @@ void UpdateRun::Prepare()
             }
         },
         [this](UpdatePreparation::Outcome outcome) { TakePrepared(std::move(outcome)); });
-    if (error)
+    if (!started)
     {
         m_preparation.reset();
-        FailCandidate(*error);
+        FailCandidate(started.error());
     }
 }
 
@@ -352,19 +352,19 @@ bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
     }
     catch (UpdateRefusal const& refusal)
     {
-        FailHandover(MakeFaultError(refusal.Fault(), refusal.ErrorNumber()));
+        FailHandover(Failure(refusal).value());
         return false;
     }
     m_attempt->Describe(job, wish);
     m_handover = std::make_unique<InstallHandover>(m_parts);
-    auto const error = m_handover->Start(
+    Result<void> const started = m_handover->Start(
         *m_target, *m_prepared, m_attempt->Folder(), std::move(job), [this] { Take(RunEvent::HelperWaits); },
         [this](EngineError const& failure) { FailHandover(failure); });
-    if (error)
+    if (!started)
     {
-        FailHandover(*error);
+        FailHandover(started.error());
     }
-    return !error;
+    return started.has_value();
 }
 
 void UpdateRun::Arm()

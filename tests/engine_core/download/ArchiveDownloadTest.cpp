@@ -564,7 +564,7 @@ TEST_F(ArchiveDownloadTest, MayBeDestroyedByItsOwnCallbacks)
                     [&](DownloadOutcome const& outcome)
                     {
                         download.reset();
-                        isFinished = !outcome.error;
+                        isFinished = outcome.has_value();
                     });
     EXPECT_TRUE(WaitFor([&] { return isFinished; }));
 

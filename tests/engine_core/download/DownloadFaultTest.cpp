@@ -160,10 +160,10 @@ protected:
             DownloadRequest request = RequestFor(m_server.Url(), SIZE);
             ASSERT_EQ(request.folder, Folder());
             PartialFile file(PlaceOf(Folder(), m_server.Url(), SIZE, request.signature));
-            ASSERT_FALSE(file.Open());
-            ASSERT_FALSE(file.Restart({m_partTag, {}}));
-            ASSERT_FALSE(file.StageRecord() || file.SyncRecord() || file.PublishRecord() || file.SyncFolder());
-            ASSERT_FALSE(file.Append(
+            ASSERT_TRUE(file.Open());
+            ASSERT_TRUE(file.Restart({m_partTag, {}}));
+            ASSERT_TRUE(file.StageRecord() && file.SyncRecord() && file.PublishRecord() && file.SyncFolder());
+            ASSERT_TRUE(file.Append(
                 {reinterpret_cast<std::uint8_t const*>(m_part.constData()), static_cast<std::size_t>(m_part.size())}));
         }
     }
@@ -304,9 +304,9 @@ TEST_F(DownloadFaultTest, DiskThatIsFullAtAnyWriteIsToldInNumbersAndLeftAsItWas)
     {
         ErrorCause const cause = isQuota ? ErrorCause::DownloadQuotaReached : ErrorCause::DownloadNoRoom;
         EXPECT_EQ(end.cause, static_cast<int>(cause)) << where << ": " << end.all;
-        EXPECT_NE(end.all.find(isQuota ? "Your disk quota is too small for the update, which needs "
-                                       : "The download needs "),
-                  std::string::npos)
+        EXPECT_NE(
+            end.all.find(isQuota ? "Your disk quota is too small for the update, which needs " : "The download needs "),
+            std::string::npos)
             << where << ": " << end.all;
         EXPECT_EQ(end.all.find(" are free") == std::string::npos, isQuota) << where << ": " << end.all;
         EXPECT_EQ(end.all.find('%'), std::string::npos) << where << ": " << end.all;

@@ -62,16 +62,15 @@ protected:
         EXPECT_TRUE(WaitFor([&outcome] { return outcome.has_value(); }, 60000)) << "no outcome";
         QCoreApplication::processEvents();
         EXPECT_EQ(calls, 1);
-        if (outcome && outcome->error)
+        if (outcome && !*outcome)
         {
-            EXPECT_FALSE(outcome->archive) << "no archive comes with an error";
-            result.error = *outcome->error;
-            result.cause = outcome->error->cause;
-            EXPECT_EQ(outcome->error->code, Engine::ErrorCode::Download);
+            result.error = outcome->error();
+            result.cause = result.error.cause;
+            EXPECT_EQ(result.error.code, Engine::ErrorCode::Download);
         }
-        if (outcome && outcome->archive)
+        else if (outcome)
         {
-            result.archive = std::move(outcome->archive);
+            result.archive = **std::move(outcome);
             QFile file;
             EXPECT_TRUE(file.open(result.archive.Get(), QIODevice::ReadOnly));
             result.bytes = file.readAll();

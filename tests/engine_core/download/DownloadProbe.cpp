@@ -90,8 +90,8 @@ int main(int argc, char** argv)
                    [before](DownloadOutcome const& outcome)
                    {
                        std::printf("cause=%d grown=%ld sentence=%s\n",
-                                   outcome.error ? static_cast<int>(outcome.error->cause) : 0, PeakKibibytes() - before,
-                                   outcome.error ? qPrintable(outcome.error->sentence.English()) : "");
+                                   outcome ? 0 : static_cast<int>(outcome.error().cause), PeakKibibytes() - before,
+                                   outcome ? "" : qPrintable(outcome.error().sentence.English()));
                        QCoreApplication::quit();
                    });
     return QCoreApplication::exec();

@@ -40,20 +40,20 @@ protected:
     std::string ArchivePath() const { return Place().folder + '/' + Place().name; }
     std::string RecordPath() const { return ArchivePath() + ".record"; }
 
-    static ErrorCause CauseOf(PartialFile::Fault const& fault) { return fault ? fault->cause : ErrorCause::NoUpdate; }
+    static ErrorCause CauseOf(Result<void> const& done) { return done ? ErrorCause::NoUpdate : done.error().cause; }
 
     /// The steps that tell the disk what is known, without those that make bytes durable.
-    static PartialFile::Fault Record(PartialFile& file)
+    static Result<void> Record(PartialFile& file)
     {
         for (auto const step : {&PartialFile::StageRecord, &PartialFile::SyncRecord, &PartialFile::PublishRecord,
                                 &PartialFile::SyncFolder})
         {
-            if (PartialFile::Fault const fault = (file.*step)())
+            if (Result<void> const done = (file.*step)(); !done)
             {
-                return fault;
+                return done;
             }
         }
-        return std::nullopt;
+        return {};
     }
 
     static void Restart(PartialFile& file)
@@ -371,10 +371,12 @@ TEST_F(PartialFileTest, FinishedFileCannotBeWrittenAndStaysLocked)
 TEST_F(PartialFileTest, DiskWithoutRoomIsRefusedBeforeAnythingComes)
 {
     PartialFile file(Place(quint64{1} << 60));
-    PartialFile::Fault const fault = file.Open();
-    ASSERT_EQ(CauseOf(fault), ErrorCause::DownloadNoRoom);
-    EXPECT_TRUE(fault->sentence.English().contains(QLatin1String("needs"))) << fault->sentence.English().toStdString();
-    EXPECT_FALSE(fault->sentence.English().contains(QLatin1Char('%'))) << fault->sentence.English().toStdString();
+    Result<void> const opened = file.Open();
+    ASSERT_EQ(CauseOf(opened), ErrorCause::DownloadNoRoom);
+    EXPECT_TRUE(opened.error().sentence.English().contains(QLatin1String("needs")))
+        << opened.error().sentence.English().toStdString();
+    EXPECT_FALSE(opened.error().sentence.English().contains(QLatin1Char('%')))
+        << opened.error().sentence.English().toStdString();
 }
 
 TEST_F(PartialFileTest, OtherArchivesGoUnlessTheyAreInUse)

@@ -46,14 +46,15 @@ std::string Told(std::string const& bundlePath, std::string const& helper = PELN
         return "refused: " + opened.error().sentence.English().toStdString();
     }
     SealedProgram program(helper);
-    auto const error = RehearseInstallation(*target, program);
-    if (!error)
+    Result<void> const rehearsed = RehearseInstallation(*target, program);
+    if (rehearsed)
     {
         return "ready";
     }
-    return error->cause == ErrorCause::Fault
-               ? std::string(FaultName(error->fault))
-               : std::to_string(error->UnderlyingCode()) + ' ' + error->sentence.English().toStdString();
+    EngineError const& error = rehearsed.error();
+    return error.cause == ErrorCause::Fault
+               ? std::string(FaultName(error.fault))
+               : std::to_string(error.UnderlyingCode()) + ' ' + error.sentence.English().toStdString();
 }
 
 std::string ToldToBeOfALayer(std::string const& bundle)

@@ -52,7 +52,7 @@ _pelnar_appcast()
         case "$verb" in
             "") words="explain lint matrix diff simulate timeline keys sign verify generate check-release sign-feed promote withdraw edit-notes prune delta serve -h --help --version" ;;
             "explain") words="-h --help --local-version --system-version --platform --machine --channels --at --rollout-group --published-at --after-delta --json" ;;
-            "lint") words="-h --help --published-at --fetch --signed --public-key --baseline --strict --json --sarif --each --rules" ;;
+            "lint") words="-h --help --published-at --fetch --signed --public-key --root-public-key --previous --baseline --strict --json --sarif --each --rules" ;;
             "matrix") words="-h --help --versions --systems --platform --machine --channels --at --rollout-group --published-at --expect --json" ;;
             "diff") words="-h --help --versions --platform --machine --channels --at --rollout-group --published-at --json" ;;
             "simulate") words="-h --help --clients --days --versions --system-version --seed --svg --platform --machine --channels --at --published-at --json" ;;
@@ -65,7 +65,7 @@ _pelnar_appcast()
             "keys rotate") words="-h --help --from --to --platform" ;;
             "sign") words="-h --help --key --signer --signer-key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --signer --signer-key --second-key --second-signer --second-signer-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --sign-feed --valid-for" ;;
+            "generate") words="-h --help --key --signer --signer-key --second-key --second-signer --second-signer-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --key-statement --sign-feed --valid-for" ;;
             "check-release") words="-h --help --machine --public-key" ;;
             "sign-feed") words="-h --help --key --signer --signer-key --valid-for --serial --key-statement --accept-changes -o --output" ;;
             "promote") words="-h --help --dry-run --key --signer --signer-key --valid-for --to" ;;

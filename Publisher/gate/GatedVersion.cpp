@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
@@ -110,6 +111,26 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
             RefusalCause::Content);
     }
     return version;
+}
+
+void BelieveStatement(GatedVersion& version, QByteArray const& feed)
+{
+    GatedBundle& bundle = version.bundle.value();
+    auto const believed = Engine::BelieveKeys(feed, {bundle.publicKeys, bundle.rootKey, bundle.identifier, 0},
+                                              QDateTime::currentDateTimeUtc());
+    if (!believed)
+    {
+        throw Refusal({version.path, 0, 0,
+                       QStringLiteral("its clients would refuse the feed, whose key statement they ask for: %1")
+                           .arg(believed.error().sentence.English()),
+                       QStringLiteral("make one with \"keys state\", and put it into the feed with the option "
+                                      "--key-statement of generate or sign-feed")},
+                      RefusalCause::Content);
+    }
+    Engine::TrustedKeys const& keys = believed->keys;
+    bundle.knownKeys = bundle.publicKeys.Texts();
+    bundle.knownKeys.insert(bundle.knownKeys.end(), keys.Texts().begin(), keys.Texts().end());
+    version.trustedIds = TextsOf(keys.Ids());
 }
 
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)

@@ -22,7 +22,8 @@ struct GatedBundle
     std::string name; ///< of its folder
     Engine::TrustedKeys publicKeys;
     bool allowsInstallerPrograms = false;
-    std::string rootKey = {}; ///< empty when the bundle names none
+    std::string rootKey = {};                ///< empty when the bundle names none
+    std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement says are valid
 };
 
 struct GatedVersion
@@ -52,6 +53,10 @@ Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path);
 
 /// What \a bundle, from the archive \a path, is to the gate. Throws Refusal when a key is malformed.
 GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind);
+
+/// Gives \a version, when its bundle names a root key, the keys that the key statement in \a feed says are valid.
+/// Throws Refusal when its clients would not believe that, and so refuse the feed.
+void BelieveStatement(GatedVersion& version, QByteArray const& feed);
 
 /// What the feed \a feedName says of \a item. The version is invalid when the item's cannot be read.
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);

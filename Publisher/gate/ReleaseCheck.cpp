@@ -2,7 +2,6 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/bundle/CheckBundle.h"
-#include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
@@ -10,6 +9,7 @@
 #include "Publisher/gate/ReleaseFiles.h"
 #include "Publisher/gate/ReleaseGate.h"
 #include "Publisher/keys/KeyId.h"
+#include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
 
 #include <algorithm>
@@ -145,42 +145,17 @@ private:
 
     void TakeBundle(BundleTree const& bundle, InputFile const& file, GatedVersion& version)
     {
-        GatedVersion const inside = VersionOf(bundle, file.name, version.kind);
+        GatedVersion inside = VersionOf(bundle, file.name, version.kind);
+        BelieveStatement(inside, m_request.feed);
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
-        Engine::TrustedKeys const keys = KeysOfClients(*inside.bundle, file.name);
-        if (!inside.bundle->rootKey.empty())
-        {
-            for (std::string const& id : keys.Ids())
-            {
-                version.trustedIds.append(QString::fromStdString(id));
-            }
-        }
-        for (std::string const& key : keys.Texts())
+        for (std::string const& key : inside.bundle->knownKeys)
         {
             if (std::find(m_keys.begin(), m_keys.end(), key) == m_keys.end())
             {
                 m_keys.push_back(key);
             }
         }
-    }
-
-    /// The bundle's own keys or, with a root key, those of the feed's key statement. Throws Refusal when clients would
-    /// not believe that.
-    Engine::TrustedKeys KeysOfClients(GatedBundle const& bundle, QString const& path) const
-    {
-        auto const believed = Engine::BelieveKeys(
-            m_request.feed, {bundle.publicKeys, bundle.rootKey, bundle.identifier, 0}, QDateTime::currentDateTimeUtc());
-        if (!believed)
-        {
-            throw Refusal({path, 0, 0,
-                           QStringLiteral("its clients would refuse the feed, whose key statement they ask for: %1")
-                               .arg(believed.error().sentence.English()),
-                           QStringLiteral("make one with \"keys state\", and put it into the feed with \"sign-feed "
-                                          "--key-statement\"")},
-                          RefusalCause::Content);
-        }
-        return believed->keys;
     }
 
     BundleTree Unpack(InputFile const& file) const
@@ -299,7 +274,10 @@ private:
 
 ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& console)
 {
-    LintResult const lint = LintFeed(request.feed, request.feedAddress);
+    LintResult lint = LintFeed(request.feed, request.feedAddress);
+    std::vector<LintFinding> const ofKeys =
+        CheckKeyStatement(request.feed, lint.subject.get(), {{}, {}, QDateTime::currentDateTimeUtc()});
+    lint.findings.insert(lint.findings.end(), ofKeys.begin(), ofKeys.end());
     std::vector<LintFinding> errors;
     std::copy_if(lint.findings.begin(), lint.findings.end(), std::back_inserter(errors),
                  [](LintFinding const& finding) { return EntryOf(finding.rule).severity == Severity::Error; });

@@ -199,11 +199,31 @@ QString KeyText(QStringList const& ids)
     return ids.join(QStringLiteral(" and "));
 }
 
-void CheckOwnKey(GatedVersion const& version, RefusalList& refusals)
+void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& all, RefusalList& refusals)
 {
     if (!version.HasClients() || version.signerIds.isEmpty() || version.trustedIds.isEmpty() ||
         HasCommon(version.trustedIds, version.signerIds))
     {
+        return;
+    }
+    // What a root key has said since counts for those who have the version as well.
+    bool const followsRoot = version.bundle && !version.bundle->rootKey.empty();
+    bool const goesOn =
+        std::any_of(all.begin(), all.end(),
+                    [&version](GatedVersion const& newer)
+                    { return IsOffered(newer, version) && HasCommon(version.trustedIds, newer.signerIds); });
+    if (followsRoot && goesOn)
+    {
+        return;
+    }
+    if (followsRoot)
+    {
+        refusals.Add({version.path, 0, 0,
+                      QStringLiteral("version %1 is signed by the key %2, but by the feed's key statement its clients "
+                                     "trust %3")
+                          .arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
+                      QStringLiteral("sign it by a valid key, or name the key in a new statement, which \"keys state\" "
+                                     "makes")});
         return;
     }
     refusals.Add({version.path, 0, 0,
@@ -279,7 +299,7 @@ void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
 {
     for (GatedVersion const& version : all)
     {
-        CheckOwnKey(version, refusals);
+        CheckOwnKey(version, all, refusals);
         QStringList const stranded = version.signerIds.isEmpty() ? QStringList() : StrandedBy(version, all);
         if (!stranded.isEmpty())
         {

@@ -221,6 +221,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
     version.signerIds = m_workplace.KeyIds();
     item.trustedIds = version.trustedIds;
+    BelieveStatement(version, m_feed.With({}));
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
     item.machines = version.machines;
     m_versions.push_back(std::move(version));

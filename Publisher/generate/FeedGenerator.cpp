@@ -8,6 +8,7 @@
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/generate/PublishedArchives.h"
+#include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
@@ -188,11 +189,9 @@ public:
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
-        std::vector<LintFinding> const findings = LintFeed(bytes, m_address).findings;
-        RefuseNewErrors(m_feedFile,
-                        m_isNew ? std::vector<LintFinding>() : LintFeed(m_published.bytes, m_address).findings,
-                        findings);
-        if (!items.empty() || m_terms)
+        std::vector<LintFinding> const findings = FindingsOf(bytes);
+        RefuseNewErrors(m_feedFile, m_isNew ? std::vector<LintFinding>() : FindingsOf(m_published.bytes), findings);
+        if (m_terms || bytes != m_published.bytes)
         {
             deltas.Commit();
             WriteFeed(m_feedFile, bytes, m_address);
@@ -206,7 +205,21 @@ private:
     PublishedFeed OpenFeed(QString const& title) const
     {
         QString const link = m_request.link.empty() ? LinkOfFiles() : QString::fromStdString(m_request.link);
-        return PublishedFeed(m_feedFile, m_isNew ? EmptyFeedText(title, link).toUtf8() : m_published.bytes, m_address);
+        QByteArray bytes = m_isNew ? EmptyFeedText(title, link).toUtf8() : m_published.bytes;
+        if (!m_request.keyStatementFile.empty())
+        {
+            bytes = WithKeyStatement(m_feedFile, bytes, QString::fromStdString(m_request.keyStatementFile), m_key);
+        }
+        return PublishedFeed(m_feedFile, bytes, m_address);
+    }
+
+    std::vector<LintFinding> FindingsOf(QByteArray const& bytes) const
+    {
+        LintResult lint = LintFeed(bytes, m_address);
+        std::vector<LintFinding> const more =
+            CheckKeyStatement(bytes, lint.subject.get(), {{}, {}, QDateTime::currentDateTimeUtc()});
+        lint.findings.insert(lint.findings.end(), more.begin(), more.end());
+        return lint.findings;
     }
 
     QString LinkOfFiles() const
@@ -242,7 +255,7 @@ private:
         }
         QByteArray const bytes = feed.With(AdditionsOf(items, feed, m_workplace.address));
         bool const isNewlySigned = m_request.isFeedSigned && !m_published.isSigned;
-        if (!isNewlySigned && (!m_published.isSigned || items.empty()))
+        if (!isNewlySigned && (!m_published.isSigned || bytes == m_published.bytes))
         {
             return bytes;
         }

@@ -28,6 +28,7 @@ struct GenerateRequest
     int deltaCount = 3;                  ///< how many versions before the newest get a delta to it
     std::string clientsFile;             ///< of the shares by which these are chosen; empty for the newest ones
     std::string deltaEffort = "usual";   ///< a name that EffortOf knows
+    std::string keyStatementFile;        ///< of the line that is put into the feed; empty for none
     bool isFeedSigned = false;           ///< a feed that has a signature is signed again in any case
     int validDays = 30;                  ///< until the feed's signature expires
 };

@@ -32,8 +32,9 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "and may hold {version}")
         ->type_name("URL")
         ->excludes(prefix);
-    AddMachineOption(verb, request->machines,
-                     "it is this one, and every other that has an archive of the same version beside that for this one");
+    AddMachineOption(
+        verb, request->machines,
+        "it is this one, and every other that has an archive of the same version beside that for this one");
     AddPublicKeysOption(verb, request->publicKeys,
                         "A key that signed what is published and that no bundle in the folder trusts, in base64; may "
                         "be given again");
@@ -51,6 +52,7 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "Those with the largest shares get the deltas, instead of the newest")
         ->type_name("FILE");
     AddEffortOption(verb, request->deltaEffort);
+    AddKeyStatementOption(verb, request->keyStatementFile);
     verb.add_flag("--sign-feed", request->isFeedSigned,
                   "Sign the feed itself as well; one that has a signature is always signed again when it changes");
     AddValidForOption(verb, request->validDays);

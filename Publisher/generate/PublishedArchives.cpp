@@ -76,7 +76,7 @@ std::vector<std::string> PublishedArchives::KeysAtHand()
     {
         if (std::optional<GatedVersion> const& version = BundleOf(published, passedOver))
         {
-            std::vector<std::string> const& more = version->bundle->publicKeys.Texts();
+            std::vector<std::string> const& more = version->bundle->knownKeys;
             keys.insert(keys.end(), more.begin(), more.end());
         }
     }
@@ -95,9 +95,11 @@ std::optional<GatedVersion> const& PublishedArchives::BundleOf(Published const& 
     if (published.archive.kind == ArchiveKind::Bundle)
     {
         bool const isRead = refusals.Try(
-            [&] {
+            [&]
+            {
                 version =
                     VersionOf(m_workplace.Unpack(name), m_workplace.PathOf(name), Engine::PayloadKind::WholeBundle);
+                BelieveStatement(*version, m_feed.With({}));
             });
         if (!isRead)
         {

@@ -109,6 +109,16 @@ char const* SeverityName(Severity severity);
     RULE(FeedExpires, "feed-expires", Error, "A signed feed does not have exactly one expiry date, such as 2027-01-31T12:00:00Z; clients that require a signature refuse it.", "sign it with pelnar-appcast sign-feed") \
     RULE(FeedExpiresSoon, "feed-expires-soon", Warning, "A signed feed expires within seven days; after that, clients that require a signature refuse it.", "sign it again with pelnar-appcast sign-feed, best with a timed job") \
     RULE(FeedExpired, "feed-expired", Error, "A signed feed has expired; clients that require a signature refuse it.", "sign it again with pelnar-appcast sign-feed before it expires, best with a timed job") \
+    RULE(SerialLower, "serial-lower", Error, "The serial of the feed or of its key statement is lower than in the feed published before (with --previous); clients that know the higher one refuse the feed.", "sign the feed again, with a greater --serial, and put the latest key statement into it") \
+    /* The root key's statement. */ \
+    RULE(KeyStatementMissing, "key-statement-missing", Error, "The feed has no key statement (with --root-public-key); clients with a root key refuse it.", "make a statement with pelnar-appcast keys state, and put it into the feed with sign-feed --key-statement") \
+    RULE(KeyStatementUnreadable, "key-statement-unreadable", Error, "The key statement is not exactly one whole line of the right form; clients with a root key refuse the feed.", "remove every line with a statement, and put the one into the feed that pelnar-appcast keys state printed") \
+    RULE(KeyStatementWrong, "key-statement-wrong", Error, "The key statement is not signed by a given root key (with --root-public-key).", "make the statement with the root key that the bundles name") \
+    RULE(KeyStatementExpired, "key-statement-expired", Error, "The key statement has expired; clients with a root key refuse the feed.", "make a statement with the next serial, and put it into the feed with sign-feed --key-statement") \
+    RULE(KeyStatementExpiresSoon, "key-statement-expires-soon", Warning, "The key statement expires within thirty days; after that, clients with a root key refuse the feed.", "make a statement with the next serial, and put it into the feed with sign-feed --key-statement") \
+    RULE(KeyNotValid, "key-not-valid", Error, "The feed, or the newest item for somebody, is signed by a key that is not valid by the key statement; clients with a root key refuse it.", "sign it by a valid key, or make a statement that names the key") \
+    RULE(KeyRevoked, "key-revoked", Note, "An older item is signed by a revoked key; clients with a root key never take it.", "nothing, if a newer version is for the same people; prune removes old items") \
+    RULE(KeyUnused, "key-unused", Note, "A key is valid by the key statement, but signed nothing.", "check that the key is the one that is meant, unless it is kept in reserve") \
     /* What the server has, with --fetch. */ \
     RULE(ArchiveUnreachable, "archive-unreachable", Error, "A download cannot be fetched (with --fetch).", "publish the file at this address before the feed") \
     RULE(ArchiveLength, "archive-length", Error, "The size of a download differs from the feed (with --fetch).", "write the file's size as length, or publish the right file") \

@@ -6,6 +6,7 @@
 #include "Publisher/files/InputFile.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/lint/FetchRules.h"
+#include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
 #include "Publisher/lint/SignatureRules.h"
 
@@ -27,6 +28,8 @@ struct LintOptions
     std::vector<std::string> feeds;
     std::string publishedAt;
     std::vector<std::string> publicKeys;
+    std::vector<std::string> rootKeys;
+    std::string previous;
     std::string baseline;
     bool isSignatureAsked = false;
     bool isFetching = false;
@@ -49,11 +52,12 @@ void CheckOptions(LintOptions const& options)
     {
         throw Refusal({QString(), 0, 0, QStringLiteral("FEED is required"), mend});
     }
-    if (options.feeds.size() > 1 && !options.publishedAt.empty())
+    if (options.feeds.size() > 1 && !(options.publishedAt.empty() && options.previous.empty()))
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("--published-at is of one feed"), mend});
+        throw Refusal({QString(), 0, 0, QStringLiteral("--published-at and --previous are of one feed"), mend});
     }
     CheckPublicKeys(options.publicKeys);
+    CheckPublicKeys(options.rootKeys);
 }
 
 KnownFindings ReadBaseline(std::string const& path)
@@ -102,20 +106,33 @@ std::size_t TakeOutKnown(FeedFindings& feed, KnownFindings& known)
     return before - findings.size();
 }
 
-FeedFindings LintOne(std::string const& name, LintOptions const& options, Console const& console)
+FeedBytes Read(std::string const& name, LintOptions const& options, Console const& console)
 {
-    auto const source = ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console);
+    auto source = ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console);
     if (auto const* const problem = std::get_if<Problem>(&source))
     {
         throw Refusal(*problem);
     }
-    FeedBytes const& feed = std::get<FeedBytes>(source);
+    return std::get<FeedBytes>(std::move(source));
+}
+
+FeedFindings LintOne(std::string const& name, LintOptions const& options, Console const& console)
+{
+    FeedBytes const feed = Read(name, options, console);
     LintResult result = LintFeed(feed.bytes, feed.address);
     auto const add = [&result](std::vector<LintFinding> const& findings)
     { result.findings.insert(result.findings.end(), findings.begin(), findings.end()); };
     FeedSigningWish const wish = options.isSignatureAsked ? FeedSigningWish::Signed : FeedSigningWish::None;
     add(CheckFeedSignature(feed.bytes, result.subject.get(),
                            {options.publicKeys, wish, QDateTime::currentDateTimeUtc()}));
+    QByteArray const previous =
+        options.previous.empty() ? QByteArray() : Read(options.previous, options, console).bytes;
+    add(CheckKeyStatement(feed.bytes, result.subject.get(),
+                          {options.rootKeys, previous, QDateTime::currentDateTimeUtc()}));
+    if (result.subject)
+    {
+        add(CheckKeyUse(feed.bytes, *result.subject));
+    }
     if (result.subject && options.isFetching)
     {
         add(CheckArchives(*result.subject, options.publicKeys, console));
@@ -190,6 +207,15 @@ void AddLint(CLI::App& program, VerbContext& context)
     AddPublicKeysOption(*verb, options->publicKeys,
                         "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may "
                         "be given again");
+    verb->add_option(
+            "--root-public-key", options->rootKeys,
+            "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement by it; may be "
+            "given again")
+        ->allow_extra_args(false)
+        ->type_name("KEY");
+    verb->add_option("--previous", options->previous,
+                     "The feed that was published before: no serial may be lower than there")
+        ->type_name("FEED");
     verb->add_option("--baseline", options->baseline,
                      "What an earlier run with --json printed: its findings are known, and not told again")
         ->type_name("FILE");

@@ -39,17 +39,6 @@ QString TextOf(SignedFeedFault fault)
     return QStringLiteral("there is no signature");
 }
 
-LintPlace PlaceOf(QByteArray const& bytes, int offset)
-{
-    if (offset < 0)
-    {
-        return {1, 1};
-    }
-    int const lineStart = offset == 0 ? 0 : bytes.lastIndexOf('\n', offset - 1) + 1;
-    int const line = 1 + int(std::count(bytes.begin(), bytes.begin() + offset, '\n'));
-    return {line, QString::fromUtf8(bytes.constData() + lineStart, offset - lineStart).size() + 1};
-}
-
 Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& bytes)
 {
     return Engine::ParseFeed(bytes, subject.address, Engine::FeedPlatform::Linux).channel;
@@ -105,6 +94,17 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
 }
 
 } // namespace
+
+LintPlace PlaceOf(QByteArray const& bytes, int offset)
+{
+    if (offset < 0)
+    {
+        return {1, 1};
+    }
+    int const lineStart = offset == 0 ? 0 : bytes.lastIndexOf('\n', offset - 1) + 1;
+    int const line = 1 + int(std::count(bytes.begin(), bytes.begin() + offset, '\n'));
+    return {line, QString::fromUtf8(bytes.constData() + lineStart, offset - lineStart).size() + 1};
+}
 
 std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject const* subject,
                                             FeedSignatureQuestion const& question)

@@ -22,6 +22,9 @@ struct FeedSignatureQuestion
     QDateTime now; ///< in UTC
 };
 
+/// The place of the byte at \a offset; the beginning for a negative one.
+LintPlace PlaceOf(QByteArray const& bytes, int offset);
+
 /// \a subject is null when clients refuse the document.
 std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject const* subject,
                                             FeedSignatureQuestion const& question);

@@ -77,8 +77,11 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
     return {bytes.left(feed.contentBytes), true};
 }
 
-QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray const& line, ISigner const& key)
+QByteArray WithKeyStatement(QString const& name, QByteArray content, QString const& statementFile, ISigner const& key)
 {
+    constexpr std::uint64_t MOST_LINE_BYTES = 64 * 1024;
+    QByteArray const line =
+        ReadInputFile(OpenInputFile(statementFile), MOST_LINE_BYTES, QStringLiteral("give the statement's file"));
     auto const given = Engine::FindKeyStatement(line);
     auto const statement = given ? Engine::ParseKeyStatement(given->text) : std::nullopt;
     QString const option = QStringLiteral("--key-statement");

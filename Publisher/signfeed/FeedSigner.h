@@ -42,10 +42,10 @@ struct SignedFeedBytes
 /// else has written into the feed.
 FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigner const& key, ChangedFeed changed);
 
-/// \a content with the key statement \a line, as "keys state" prints it, in the place of the one that is there or at
-/// the end. Throws Refusal: for what is no such line, for a serial below the published one, and when \a key is not
-/// valid by it.
-QByteArray WithKeyStatement(QString const& name, QByteArray content, QByteArray const& line, ISigner const& key);
+/// \a content with the key statement in the file \a statementFile, as "keys state" prints it, in the place of the one
+/// that is there or at the end. Throws Refusal: for what is no such line, for a serial below the published one, and
+/// when \a key is not valid by it.
+QByteArray WithKeyStatement(QString const& name, QByteArray content, QString const& statementFile, ISigner const& key);
 
 /// Writes the terms into \a content and signs it. Throws Refusal: for what clients cannot read, for what is not UTF-8
 /// or has no channel, and for a serial that would not grow.

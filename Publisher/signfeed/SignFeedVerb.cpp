@@ -38,11 +38,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     QByteArray bare = content.bytes;
     if (!options.keyStatement.empty())
     {
-        InputFile const statement = OpenInputFile(QString::fromStdString(options.keyStatement));
-        constexpr std::uint64_t MOST_LINE_BYTES = 64 * 1024;
-        bare = WithKeyStatement(name, bare,
-                                ReadInputFile(statement, MOST_LINE_BYTES, QStringLiteral("give the statement's file")),
-                                *signer);
+        bare = WithKeyStatement(name, bare, QString::fromStdString(options.keyStatement), *signer);
     }
     SignedFeedBytes const feed =
         SignFeed(name, bare, *signer, {options.serial, options.validDays, QDateTime::currentDateTimeUtc()});
@@ -54,6 +50,13 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
 }
 
 } // namespace
+
+void AddKeyStatementOption(CLI::App& verb, std::string& file)
+{
+    verb.add_option("--key-statement", file,
+                    "File with the line that \"keys state\" printed: it takes the place of the feed's key statement")
+        ->type_name("FILE");
+}
 
 void AddValidForOption(CLI::App& verb, int& days)
 {
@@ -85,9 +88,7 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
                 bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
                 return isSerial ? std::string() : text + " is no number from 1 to 9223372036854775807";
             });
-    verb.add_option("--key-statement", options->keyStatement,
-                    "File with the line that \"keys state\" printed: it takes the place of the feed's key statement")
-        ->type_name("FILE");
+    AddKeyStatementOption(verb, options->keyStatement);
     verb.add_flag("--accept-changes", options->isAcceptingChanges,
                   "Sign a feed as well that was changed after it was signed, or was signed by another key");
     verb.add_option("-o,--output", options->output, "File to write; without this FEED itself")->type_name("FILE");

@@ -9,6 +9,9 @@ namespace Pelnar::Publisher
 
 void AddSignFeed(CLI::App& program, VerbContext& context);
 
+/// "--key-statement", the name of a file.
+void AddKeyStatementOption(CLI::App& verb, std::string& file);
+
 /// "--valid-for"; \a days is what it is without the option.
 void AddValidForOption(CLI::App& verb, int& days);
 

@@ -3,6 +3,7 @@
 
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/feed/ReleasePolicy.h"
+#include "tests/engine/KeyStatementText.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>
@@ -79,7 +80,14 @@ protected:
         return {};
     }
 
+    QString PutStatement(StatementText const& statement, std::uint8_t rootSeed = ROOT_SEED) const
+    {
+        WriteFile(m_besides.Path() + "/statement", StatementLineOf(statement, rootSeed).toStdString());
+        return QString::fromStdString(m_besides.Path() + "/statement");
+    }
+
     PublisherFolder const m_folder;
+    Workspace const m_besides;
     std::vector<std::string> m_before;
     std::string m_feed;
 };
@@ -286,6 +294,59 @@ TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
     // What the first key signed is known by the bundle that trusts it.
     ToolRun const again = m_folder.GenerateWithKey(9);
     EXPECT_EQ(again.status, 0) << again.err;
+}
+
+TEST_F(Accident, RootKeyWithoutAStatementOrWithOneThatClientsRefuse)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    std::string const refusal = "Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for: ";
+    ExpectRefused(Generate(), {refusal, "--key-statement of generate or sign-feed"});
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    auto const generateWith = [&](StatementText const& given, std::uint8_t rootSeed = ROOT_SEED) {
+        return Generate({QStringLiteral("--key-statement"), PutStatement(given, rootSeed)});
+    };
+    ExpectRefused(generateWith(statement, 9), {refusal});
+    StatementText other = statement;
+    other.bundles = {"org.pelnar.other"};
+    ExpectRefused(generateWith(other), {refusal});
+    StatementText expired = statement;
+    expired.expires = "2020-01-01T00:00:00Z";
+    ExpectRefused(generateWith(expired), {refusal});
+    StatementText ofAnotherKey = statement;
+    ofAnotherKey.validSeeds = {9};
+    EXPECT_EQ(generateWith(ofAnotherKey).status, 2) << "the key that signs is not valid by it";
+    ToolRun const run = generateWith(statement);
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.out << check.err;
+}
+
+TEST_F(Accident, RevokedKeySignsANewVersion)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    QString const option = QStringLiteral("--key-statement");
+    EXPECT_EQ(m_folder.Generate({option, PutStatement(statement)}).status, 0);
+    statement.serial = "4";
+    statement.validSeeds = {9};
+    statement.revoked = {Engine::KeyIdOf(MakeKeyPair(7).publicKey)};
+    text.version = "2.0";
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    // The new key signs: older versions hear of it by the statement, and what the old key has signed stays.
+    ToolRun const run = m_folder.GenerateWithKey(9, {option, PutStatement(statement)});
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    Remember();
+    text.version = "3.0";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-3.0.zip: version 3.0 is signed by the key ",
+                               "but by the feed's key statement its clients trust ", "sign it by a valid key"});
 }
 
 TEST_F(Accident, ArchiveIsReplacedByOneOfTheSameSize)

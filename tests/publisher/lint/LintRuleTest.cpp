@@ -50,13 +50,27 @@ INSTANTIATE_TEST_SUITE_P(, LintRules, ::testing::ValuesIn(LintCases()), [](auto 
 
 TEST(LintRuleTable, EveryRuleHasATest)
 {
-    std::set<std::string> tested = {"archive-unreachable",  "archive-length",
+    std::set<std::string> tested = {"archive-unreachable",
+                                    "archive-length",
                                     "archive-signature", // by the fetch test
-                                    "feed-unsigned",        "feed-signature-unreadable",
-                                    "feed-signature-wrong", "feed-serial",
-                                    "feed-expires",         "feed-expired",
-                                    "feed-expires-soon",                          // by the signature test
-                                    "archive-version",      "notes-unreachable"}; // by the fetch test
+                                    "feed-unsigned",
+                                    "feed-signature-unreadable",
+                                    "feed-signature-wrong",
+                                    "feed-serial",
+                                    "feed-expires",
+                                    "feed-expired",
+                                    "feed-expires-soon", // by the signature test
+                                    "serial-lower",
+                                    "key-statement-missing",
+                                    "key-statement-unreadable",
+                                    "key-statement-wrong",
+                                    "key-statement-expired",
+                                    "key-statement-expires-soon",
+                                    "key-not-valid",
+                                    "key-revoked",
+                                    "key-unused", // by the test of key statements
+                                    "archive-version",
+                                    "notes-unreachable"}; // by the fetch test
     for (LintCase const& row : LintCases())
     {
         tested.insert(row.finding.substr(0, row.finding.find(' ')));

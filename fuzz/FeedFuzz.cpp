@@ -2,6 +2,7 @@
 // same answer.
 
 #include "Engine/core/feed/FeedParser.h"
+#include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/choice/FeedChoice.h"
 
 #include <QByteArray>
@@ -132,6 +133,39 @@ void RequireHonestChoice(std::vector<FeedItem> const& items)
     Require(choice == nullptr || (choice->contentLength > 0 && choice->fileUrl.isValid()), "a choice can be fetched");
 }
 
+/// What a client leaves out before it chooses, once it trusts a key, lists a channel and waits for its group.
+void RequireHonestPolicy(std::vector<FeedItem> const& items)
+{
+    auto const group = [](QString const&) { return 3; };
+    Engine::Installation asking{QStringLiteral("1.2"),
+                                QStringLiteral("x86_64"),
+                                {QStringLiteral("beta")},
+                                group,
+                                QDateTime::fromSecsSinceEpoch(1800000000, Qt::UTC),
+                                {QStringLiteral("0123456789abcdef")},
+                                {}};
+    std::vector<FeedItem> left = items;
+    Engine::LeaveOut(left, asking, Publisher::OrderOfTexts);
+    std::vector<FeedItem> again = items;
+    Engine::LeaveOut(again, asking, Publisher::OrderOfTexts);
+    Require(left.size() == again.size(), "the same items are left out");
+    asking.stones = Engine::SteppingStonesOf(items, asking, Publisher::OrderOfTexts);
+    Require(asking.stones.size() <= Engine::MOST_STEPPING_STONES, "the way to a key is bounded");
+    auto kept = left.begin();
+    for (FeedItem const& item : items)
+    {
+        bool const isLeftOut = Engine::IsLeftOut(Engine::JudgePolicy(item, asking, Publisher::OrderOfTexts));
+        Require(isLeftOut || kept != left.end(), "what the policy allows stays");
+        if (!isLeftOut)
+        {
+            Require(kept->line == item.line && kept->column == item.column, "the order stays");
+            Require(!kept->policy.isWithdrawn && kept->deltas.size() <= item.deltas.size(), "no delta is added");
+            ++kept;
+        }
+    }
+    Require(kept == left.end(), "what the policy leaves out does not stay");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size)
@@ -166,5 +200,6 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         RequirePromises(item, limits);
     }
     RequireHonestChoice(result.items);
+    RequireHonestPolicy(result.items);
     return 0;
 }

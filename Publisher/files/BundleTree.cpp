@@ -29,6 +29,7 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr char TEMPORARY_PREFIX[] = "pelnar-appcast-";
+constexpr char UNHELD_PREFIX[] = "pelnar-appcast.new-"; ///< of one that is not held yet
 constexpr char MAC_INFORMATION_PATH[] = "Contents/Info.plist";
 
 Engine::UniqueFd OpenFolder(fs::path const& path)
@@ -36,14 +37,15 @@ Engine::UniqueFd OpenFolder(fs::path const& path)
     return Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-/// Removes the folders of runs that were killed: those of this user that nobody holds. One that was only just made may
-/// be held a moment later, and stays.
+/// Removes the folders of runs that were killed: those of this user that nobody holds. One that was made a moment ago
+/// and is about to be held stays.
 void RemoveAbandoned()
 {
     constexpr int YOUNG_SECONDS = 60;
     QDir const place(QDir::tempPath());
-    QStringList const names =
-        place.entryList({QLatin1String(TEMPORARY_PREFIX) + QLatin1Char('*')}, QDir::Dirs | QDir::NoSymLinks);
+    QStringList const names = place.entryList(
+        {QLatin1String(TEMPORARY_PREFIX) + QLatin1Char('*'), QLatin1String(UNHELD_PREFIX) + QLatin1Char('*')},
+        QDir::Dirs | QDir::NoSymLinks);
     Engine::UniqueFd const parent = OpenFolder(QFile::encodeName(place.path()).toStdString());
     for (QString const& name : names)
     {
@@ -51,7 +53,9 @@ void RemoveAbandoned()
                                                O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         struct stat status;
         bool const isOwn = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid();
-        if (isOwn && ::time(nullptr) - status.st_ctime > YOUNG_SECONDS && ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0)
+        bool const isHeldSoon =
+            name.startsWith(QLatin1String(UNHELD_PREFIX)) && ::time(nullptr) - status.st_ctime <= YOUNG_SECONDS;
+        if (isOwn && !isHeldSoon && ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0)
         {
             static_cast<void>(Engine::RemoveTree(parent.Get(), QFile::encodeName(name).toStdString()));
         }
@@ -82,21 +86,28 @@ std::vector<Problem> ProblemsOf(Engine::UpdateRefusal const& refusal, InputFile 
 TemporaryFolder::TemporaryFolder()
 {
     RemoveAbandoned();
-    QByteArray path = QFile::encodeName(QDir::tempPath()) + '/' + TEMPORARY_PREFIX + "XXXXXX";
+    QByteArray const place = QFile::encodeName(QDir::tempPath()) + '/';
+    QByteArray unheld = place + UNHELD_PREFIX + "XXXXXX";
     m_leftover.emplace(
-        [&path]
+        [&]
         {
-            if (!::mkdtemp(path.data()))
+            bool isMade = ::mkdtemp(unheld.data()) != nullptr;
+            QByteArray const path = place + TEMPORARY_PREFIX + unheld.right(6);
+            if (isMade)
+            {
+                m_folder = OpenFolder(unheld.toStdString());
+                static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks nobody removes it
+                isMade = ::rename(unheld.constData(), path.constData()) == 0;
+            }
+            if (!isMade)
             {
                 RefuseFile(QDir::tempPath(), QStringLiteral("no folder for temporary files can be made there"), errno,
                            QStringLiteral("name another folder in TMPDIR"));
             }
+            m_path = path.toStdString();
             return path.toStdString();
         });
-    m_path = path.toStdString();
     m_parent = OpenFolder(m_path.parent_path());
-    m_folder = OpenFolder(m_path);
-    static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks nobody is told that it is held
 }
 
 TemporaryFolder::~TemporaryFolder()

@@ -6,6 +6,7 @@
 
 #include <QDir>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -69,7 +70,7 @@ std::optional<InputFile> ReleaseFiles::Open(Engine::FeedItem const& item)
 InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
 {
     QString const name = item.fileUrl.toString(QUrl::FullyEncoded);
-    Engine::DownloadOutcome outcome = FetchDownload(item, m_fetched.path(), m_console);
+    Engine::DownloadOutcome outcome = FetchDownload(item, QFile::decodeName(m_fetched.Path().c_str()), m_console);
     if (!outcome)
     {
         QString sentence = outcome.error().sentence.English();

@@ -5,9 +5,8 @@
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/feed/FeedItem.h"
 #include "Publisher/Console.h"
+#include "Publisher/files/BundleTree.h"
 #include "Publisher/files/InputFile.h"
-
-#include <QTemporaryDir>
 
 #include <optional>
 #include <string>
@@ -39,7 +38,7 @@ private:
 
     QString const m_folder;
     Console const& m_console;
-    QTemporaryDir m_fetched;
+    TemporaryFolder const m_fetched;
 };
 
 } // namespace Pelnar::Publisher

@@ -9,7 +9,6 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
-#include <QTemporaryDir>
 
 #include <set>
 
@@ -79,7 +78,8 @@ private:
 
     void Fetch(LintDownload const& download)
     {
-        Engine::DownloadOutcome outcome = FetchDownload(*download.item, m_folder.path(), m_console);
+        Engine::DownloadOutcome outcome =
+            FetchDownload(*download.item, QFile::decodeName(m_folder.Path().c_str()), m_console);
         if (!outcome)
         {
             ReportError(download, outcome.error());
@@ -148,7 +148,7 @@ private:
     std::vector<std::string> const& m_publicKeys;
     Console const& m_console;
     LintFindings& m_findings;
-    QTemporaryDir m_folder;
+    TemporaryFolder const m_folder;
     std::set<QString> m_checked;
 };
 

@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Every test that docs/guide/security.md and docs/fault-model.md name exists in this build.
+"""Every test that docs/guide/security.md, docs/fault-model.md and the table of known attacks name exists in this build.
 
 Usage: named_tests_test.py SOURCE_FOLDER BUILD_FOLDER
 """
@@ -31,6 +31,17 @@ class Documents(unittest.TestCase):
 
     def test_fault_model(self):
         self.expect_names("docs/fault-model.md", 300)
+
+    def test_every_known_attack_names_a_test(self):
+        path = "docs/formats/key-statement.md"
+        table = (SOURCE / path).read_text(encoding="utf-8").split("\n## Known attacks", 1)[1]
+        rows = [row for row in table.splitlines() if row.startswith("| ")][2:]
+        self.assertEqual([row.split(" | ")[0][2:] for row in rows], [
+            "arbitrary software", "endless data", "extraneous dependencies", "fast-forward", "indefinite freeze", "malicious mirror",
+            "mix and match", "rollback", "slow retrieval", "vulnerability to key compromise", "wrong software"])
+        for row in rows:
+            self.assertTrue(named(row)[0], row)
+        self.expect_names(path, 30)
 
     def test_every_promise_names_a_test(self):
         page = (SOURCE / "docs/guide/security.md").read_text(encoding="utf-8")

@@ -96,6 +96,64 @@ TEST_P(InterruptedRun, LeavesNothingBehind)
 INSTANTIATE_TEST_SUITE_P(By, InterruptedRun, ::testing::Values(SIGINT, SIGTERM, SIGHUP),
                          [](auto const& row) { return "Signal" + std::to_string(row.param); });
 
+TEST(KilledRun, LeavesNothingInTheFolderAndTheNextRunClearsTheTemporaryOne)
+{
+    PublisherFolder const folder;
+    PutLargeVersions(folder);
+    std::vector<std::string> const before = folder.Names();
+    QTemporaryDir temporary;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+    int killed = 0;
+    for (int delayMs : {0, 30, 120, 400, 800})
+    {
+        QProcess process;
+        process.setProcessEnvironment(environment);
+        process.start(AppcastProgram(), Arguments(folder));
+        QElapsedTimer waiting;
+        waiting.start();
+        while (QDir(temporary.path()).isEmpty() && process.state() != QProcess::NotRunning &&
+               waiting.elapsed() < PATIENCE_MS)
+        {
+            process.waitForFinished(1);
+        }
+        if (process.waitForFinished(delayMs))
+        {
+            break;
+        }
+        process.kill();
+        ASSERT_TRUE(process.waitForFinished(PATIENCE_MS));
+        ++killed;
+        EXPECT_EQ(folder.Names(), before) << delayMs;
+    }
+    EXPECT_GE(killed, 1);
+    ToolRun const run = RunAppcastProgram(Arguments(folder), {}, environment);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_TRUE(QDir(temporary.path()).isEmpty())
+        << QDir(temporary.path()).entryList().join(QLatin1Char(' ')).toStdString();
+}
+
+TEST(KilledRun, FolderOfARunThatWorksIsLeftToIt)
+{
+    PublisherFolder const folder;
+    PutLargeVersions(folder);
+    QTemporaryDir temporary;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(AppcastProgram(), Arguments(folder));
+    for (int i = 0; i < 10; ++i)
+    {
+        PublisherFolder const other;
+        other.PutVersion("1.0");
+        EXPECT_EQ(RunAppcastProgram(Arguments(other), {}, environment).status, 0);
+    }
+    ASSERT_TRUE(process.waitForFinished(PATIENCE_MS));
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    EXPECT_TRUE(QDir(temporary.path()).isEmpty());
+}
+
 TEST(TwoRuns, SecondSaysThatItWaitsAndGoesOn)
 {
     PublisherFolder const folder;

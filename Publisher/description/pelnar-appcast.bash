@@ -65,7 +65,7 @@ _pelnar_appcast()
             "keys rotate") words="-h --help --from --to --platform" ;;
             "sign") words="-h --help --key --signer --signer-key" ;;
             "verify") words="-h --help --signature --public-key" ;;
-            "generate") words="-h --help --key --signer --signer-key --second-key --second-signer --second-signer-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --key-statement --sign-feed --valid-for" ;;
+            "generate") words="-h --help --key --signer --signer-key --second-key --second-signer --second-signer-key --url-prefix --url-template --machine --public-key -o --output --title --link --deltas --clients --effort --recompress --key-statement --sign-feed --valid-for" ;;
             "check-release") words="-h --help --machine --public-key" ;;
             "sign-feed") words="-h --help --key --signer --signer-key --valid-for --serial --key-statement --accept-changes -o --output" ;;
             "promote") words="-h --help --dry-run --key --signer --signer-key --valid-for --to" ;;

@@ -120,6 +120,7 @@ complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l link -r 
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l deltas -r -d 'How many versions before the newest get a delta to it'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l clients -r -d 'File with the versions that clients run'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l effort -r -f -a 'low usual high' -d 'How hard deltas are packed. "low" takes up to a quarter less time'
+complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l recompress -d 'Pack each new bundle for Linux a second time'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l key-statement -r -d 'File with the line that "keys state" printed'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l sign-feed -d 'Sign the feed itself as well'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from generate' -l valid-for -r -d 'Days until the signature expires'

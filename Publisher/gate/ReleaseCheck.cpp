@@ -1,6 +1,7 @@
 #include "Publisher/gate/ReleaseCheck.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Progress.h"
@@ -121,6 +122,10 @@ private:
         if (bundle)
         {
             CheckBundleForClients(*bundle, version, m_versions, MachineFor(item), m_refusals);
+            for (FeedItem const& recompressed : item.recompressed)
+            {
+                m_refusals.Try([&] { CheckRecompressed(recompressed, *bundle); });
+            }
             for (FeedItem const& delta : item.deltas)
             {
                 m_refusals.Try([&] { CheckDelta(delta, items, *bundle); });
@@ -235,6 +240,27 @@ private:
                           RefusalCause::Content);
         }
         return id;
+    }
+
+    void CheckRecompressed(FeedItem const& recompressed, BundleTree const& target) const
+    {
+        std::optional<InputFile> const file = m_files.Open(recompressed);
+        if (!file)
+        {
+            return;
+        }
+        CheckLength(*file, recompressed);
+        static_cast<void>(CheckSignatures(*file, recompressed));
+        BundleTree const bundle = Unpack(*file);
+        if (bundle.Name() != target.Name() ||
+            Engine::DigestTree(bundle.Descriptor()) != Engine::DigestTree(target.Descriptor()))
+        {
+            throw Refusal({file->name, 0, 0,
+                           QStringLiteral("holds another bundle than the archive of the item (line %1 of the feed)")
+                               .arg(recompressed.line),
+                           QStringLiteral("remove the element pelnar:recompressed, or pack the archive's bundle")},
+                          RefusalCause::Content);
+        }
     }
 
     void CheckDelta(FeedItem const& delta, std::vector<FeedItem> const& items, BundleTree const& target) const

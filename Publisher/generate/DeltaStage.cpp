@@ -3,6 +3,7 @@
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
+#include "Publisher/generate/RecompressStage.h"
 
 #include <QFileInfo>
 
@@ -18,12 +19,6 @@ bool IsBundleForLinux(NewItem const& item)
 {
     // The container is this engine's own: no client on another system reads it.
     return item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
-}
-
-/// A tenth is the least for which a feed names one file more.
-bool SavesEnough(std::uint64_t deltaBytes, std::uint64_t archiveBytes)
-{
-    return deltaBytes <= archiveBytes && archiveBytes - deltaBytes >= (archiveBytes + 9) / 10;
 }
 
 bool HasDeltaFrom(NewItem const& item, QString const& baseVersion)
@@ -186,7 +181,7 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
                        QStringLiteral("keep one of them")});
     }
     ArchiveSignature const signature = m_workplace.Sign(fileName);
-    if (!SavesEnough(signature.length, item.signature.length))
+    if (!SavesEnough(signature.length, item.LeastBytes()))
     {
         m_workplace.Warn(path, QStringLiteral("left out: saves less than a tenth of the whole archive"),
                          QStringLiteral("remove it; clients of that version take the archive"));
@@ -241,7 +236,7 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
     auto file = std::make_unique<AtomicFile>(path);
     MakeDelta(before, TreeOf(item), *file, path, {m_workplace.console.err, effort});
     InputFile const made = file->ForReading();
-    if (!SavesEnough(made.size, item.signature.length))
+    if (!SavesEnough(made.size, item.LeastBytes()))
     {
         m_workplace.Warn(
             path, QStringLiteral("not published: saves less than a tenth of the whole archive"),

@@ -8,6 +8,7 @@
 #include "Publisher/generate/ArchiveIntake.h"
 #include "Publisher/generate/DeltaStage.h"
 #include "Publisher/generate/PublishedArchives.h"
+#include "Publisher/generate/RecompressStage.h"
 #include "Publisher/lint/KeyStatementRules.h"
 #include "Publisher/lint/LintReport.h"
 #include "Publisher/signfeed/FeedSigner.h"
@@ -97,6 +98,12 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
         console.Print(QStringLiteral("added %1, version %2, %3 bytes")
                           .arg(item.fileName, item.versionText)
                           .arg(item.signature.length));
+        if (item.recompressed)
+        {
+            console.Print(QStringLiteral("  and as %1, %2 bytes")
+                              .arg(item.recompressed->fileName)
+                              .arg(item.recompressed->signature.length));
+        }
         for (NewDelta const& delta : item.deltas)
         {
             console.Print(QStringLiteral("  with %1, from version %2, %3 bytes")
@@ -177,6 +184,11 @@ public:
         m_published = ReadFeedFile(m_feedFile, m_key);
         PublishedFeed feed = OpenFeed(QString::fromStdString(m_request.title));
         std::vector<NewItem> items = TakeNew(feed, archives);
+        RecompressStage recompressed(m_workplace, archives);
+        if (m_request.isRecompressed)
+        {
+            recompressed.AddTo(items);
+        }
         DeltaStage deltas(m_workplace, feed, archives);
         deltas.AddTo(items, {m_request.deltaCount, ClientsOf(m_request), EffortOf(m_request.deltaEffort)});
         std::stable_sort(items.begin(), items.end(),
@@ -193,6 +205,7 @@ public:
         RefuseNewErrors(m_feedFile, m_isNew ? std::vector<LintFinding>() : FindingsOf(m_published.bytes), findings);
         if (m_terms || bytes != m_published.bytes)
         {
+            recompressed.Commit();
             deltas.Commit();
             WriteFeed(m_feedFile, bytes, m_address);
         }
@@ -270,6 +283,7 @@ private:
         QStringList ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
         for (NewItem const& item : items)
         {
+            ignored.removeAll(item.recompressed ? item.recompressed->fileName : QString());
             for (NewDelta const& delta : item.deltas)
             {
                 ignored.removeAll(delta.fileName);

@@ -29,6 +29,7 @@ struct GenerateRequest
     std::string clientsFile;             ///< of the shares by which these are chosen; empty for the newest ones
     std::string deltaEffort = "usual";   ///< a name that EffortOf knows
     std::string keyStatementFile;        ///< of the line that is put into the feed; empty for none
+    bool isRecompressed = false;         ///< new bundles are packed a second time
     bool isFeedSigned = false;           ///< a feed that has a signature is signed again in any case
     int validDays = 30;                  ///< until the feed's signature expires
 };

@@ -52,6 +52,9 @@ void AddGenerate(CLI::App& program, VerbContext& context)
                     "Those with the largest shares get the deltas, instead of the newest")
         ->type_name("FILE");
     AddEffortOption(verb, request->deltaEffort);
+    verb.add_flag("--recompress", request->isRecompressed,
+                  "Pack each new bundle for Linux a second time, as a zstd tar with a long window, and name it in the "
+                  "feed beside the archive; older clients take the archive");
     AddKeyStatementOption(verb, request->keyStatementFile);
     verb.add_flag("--sign-feed", request->isFeedSigned,
                   "Sign the feed itself as well; one that has a signature is always signed again when it changes");

@@ -99,6 +99,11 @@ public:
             lines << Inner(QStringLiteral("<description%1>%2</description>").arg(language, CharacterData(notes.html)));
         }
         lines << Inner(EnclosureText());
+        if (m_item.recompressed)
+        {
+            lines << Inner(Enclosure(QStringLiteral("pelnar:recompressed"), m_item.recompressed->fileName, {},
+                                     m_item.recompressed->signature));
+        }
         if (!m_item.deltas.empty())
         {
             lines << Inner(QStringLiteral("<%1deltas>").arg(m_feed));
@@ -136,27 +141,29 @@ private:
         {
             more += Attribute(m_feed + QStringLiteral("installationType"), QLatin1String(type));
         }
-        return Enclosure(m_item.fileName, more, m_item.signature);
+        return Enclosure(QStringLiteral("enclosure"), m_item.fileName, more, m_item.signature);
     }
 
     QString DeltaText(NewDelta const& delta) const
     {
-        return Enclosure(delta.fileName, Attribute(m_feed + QStringLiteral("deltaFrom"), delta.baseVersion),
-                         delta.signature);
+        return Enclosure(QStringLiteral("enclosure"), delta.fileName,
+                         Attribute(m_feed + QStringLiteral("deltaFrom"), delta.baseVersion), delta.signature);
     }
 
-    QString Enclosure(QString const& fileName, QString const& more, ArchiveSignature const& signature) const
+    QString Enclosure(QString const& element, QString const& fileName, QString const& more,
+                      ArchiveSignature const& signature) const
     {
         QString const platform = Attribute(m_feed + QStringLiteral("os"), QLatin1String(PlatformName(m_item.platform)));
-        QString const machine =
-            m_item.machines.isEmpty()
-                ? QString()
-                : Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) +
-                      Attribute(QStringLiteral("pelnar:machine"), m_item.machines.join(QLatin1Char(' ')));
-        return QStringLiteral("<enclosure") +
+        QString const machine = m_item.machines.isEmpty() ? QString()
+                                                          : Attribute(QStringLiteral("pelnar:machine"),
+                                                                      m_item.machines.join(QLatin1Char(' ')));
+        bool const isOwn = element != QLatin1String("enclosure") || !machine.isEmpty() || !signature.all.empty();
+        QString const own =
+            isOwn ? Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) : QString();
+        return QStringLiteral("<") + element +
                Attribute(QStringLiteral("url"),
                          m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +
-               Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform + machine +
+               Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform + own + machine +
                Attribute(QStringLiteral("length"), QString::number(signature.length)) +
                Attribute(QStringLiteral("type"), QStringLiteral("application/octet-stream")) +
                Attribute(m_feed + QStringLiteral("edSignature"), signature.signature) + MoreSignatures(signature) +
@@ -165,10 +172,8 @@ private:
 
     static QString MoreSignatures(ArchiveSignature const& signature)
     {
-        return signature.all.empty()
-                   ? QString()
-                   : Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) +
-                         Attribute(QStringLiteral("pelnar:signatures"), TextOf(signature.all));
+        return signature.all.empty() ? QString()
+                                     : Attribute(QStringLiteral("pelnar:signatures"), TextOf(signature.all));
     }
 
     NewItem const& m_item;

@@ -22,6 +22,12 @@ struct NewDelta
     ArchiveSignature signature;
 };
 
+struct NewArchive
+{
+    QString fileName;
+    ArchiveSignature signature;
+};
+
 struct NewItem
 {
     QString fileName;
@@ -36,9 +42,13 @@ struct NewItem
     std::int64_t publishedAt = 0; ///< in seconds since 1970
     std::vector<ReleaseNotes> notes;
     ArchiveSignature signature;
-    QString signerId;       ///< of the key that signed
-    QStringList trustedIds; ///< of the keys that the bundle trusts
+    QString signerId;                       ///< of the key that signed
+    QStringList trustedIds;                 ///< of the keys that the bundle trusts
+    std::optional<NewArchive> recompressed; ///< the same bundle in a smaller archive
     std::vector<NewDelta> deltas;
+
+    /// Bytes that a client downloads without a delta.
+    std::uint64_t LeastBytes() const { return recompressed ? recompressed->signature.length : signature.length; }
 };
 
 /// Where the files of the feed's folder are published.

@@ -118,8 +118,13 @@ std::vector<GatedVersion> PublishedArchives::Versions(RefusalList& refusals)
         for (Engine::FeedPlatform const platform : published.platforms)
         {
             GatedVersion version = VersionOf(published.item, platform, m_feed.Name());
-            auto const atHand = std::find_if(m_published.begin(), m_published.end(),
-                                             [&](Published const& each) { return each.item == &published.item; });
+            auto const atHand =
+                std::find_if(m_published.begin(), m_published.end(),
+                             [&](Published const& each)
+                             {
+                                 auto const& more = published.item.recompressed;
+                                 return each.item == &published.item || (!more.empty() && each.item == &more.front());
+                             });
             if (atHand != m_published.end())
             {
                 QString const plainId = m_signerIds[atHand->archive.fileName];

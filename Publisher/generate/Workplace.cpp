@@ -5,6 +5,8 @@
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/keys/KeyId.h"
 
+#include <algorithm>
+#include <iterator>
 #include <ostream>
 
 namespace Pelnar::Publisher
@@ -71,9 +73,10 @@ Engine::FeedItem const* Workplace::FindPublished(PublishedFeed const& feed, QStr
     {
         QUrl const wanted = address.Of(fileName, published.item.versionString);
         std::vector<Engine::FeedItem const*> downloads{&published.item};
-        for (Engine::FeedItem const& delta : published.item.deltas)
+        for (std::vector<Engine::FeedItem> const* const more : {&published.item.recompressed, &published.item.deltas})
         {
-            downloads.push_back(&delta);
+            std::transform(more->begin(), more->end(), std::back_inserter(downloads),
+                           [](Engine::FeedItem const& item) { return &item; });
         }
         for (Engine::FeedItem const* const download : downloads)
         {

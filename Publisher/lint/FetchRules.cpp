@@ -214,6 +214,10 @@ std::vector<LintFinding> CheckArchives(LintSubject const& subject, std::vector<s
         for (LintItem const& item : platform.items)
         {
             check.Check(item.full);
+            for (Engine::FeedItem const& recompressed : item.full.item->recompressed)
+            {
+                check.Check({&recompressed, item.full.element, item.full.enclosure});
+            }
             for (LintDownload const& delta : item.deltas)
             {
                 check.Check(delta);

@@ -56,6 +56,33 @@ TEST(FeedItem, TellsWhoSignedItAndWhomItTrusts)
     EXPECT_TRUE(other.trustedKeys.isEmpty());
 }
 
+TEST(FeedItem, ASmallerArchiveOfTheBundleStandsBesideTheOneForAllClients)
+{
+    QByteArray const enclosure = "<enclosure url='https://a.example/App.zip' length='100' sparkle:edSignature='eg=='/>";
+    auto const recompressed = [](QByteArray const& attributes)
+    {
+        return "<p:recompressed xmlns:p='https://pelnar.example/xml-namespaces/appcast' url='App.tar.zst' " +
+               attributes + "/>";
+    };
+    FeedItem const item = OnlyItem((recompressed("length='60' sparkle:edSignature='eh=='") + enclosure +
+                                    recompressed("length='50' sparkle:edSignature='ei=='"))
+                                       .constData());
+    EXPECT_EQ(Text(item.fileUrl.fileName()), "App.zip");
+    EXPECT_EQ(item.contentLength, 100u);
+    ASSERT_EQ(item.recompressed.size(), 1u);
+    EXPECT_EQ(Text(item.recompressed[0].fileUrl.fileName()), "App.tar.zst");
+    EXPECT_EQ(item.recompressed[0].contentLength, 60u) << "the first counts";
+    EXPECT_EQ(Text(item.recompressed[0].edSignature), "eh==");
+    for (char const* const unusable :
+         {"length='60'", "sparkle:edSignature='eh=='", "length='-1' sparkle:edSignature='eh=='",
+          "length='60' sparkle:edSignature='eh==' sparkle:os='windows'", "length='0' sparkle:edSignature='eh=='"})
+    {
+        EXPECT_TRUE(OnlyItem((enclosure + recompressed(unusable)).constData()).recompressed.empty()) << unusable;
+    }
+    EXPECT_TRUE(OnlyItem(recompressed("length='60' sparkle:edSignature='eh=='").constData()).recompressed.empty())
+        << "beside nothing";
+}
+
 TEST(FeedItem, TakesEveryPropertyOfAFullItem)
 {
     FeedItem const item = OnlyItem(FULL_ITEM);

@@ -101,6 +101,18 @@ TEST_F(UpdateFlowTest, FoundUpdateIsOfferedAndPutOff)
     EXPECT_EQ(windows.open, "");
 }
 
+TEST_F(UpdateFlowTest, TheSmallerArchiveIsDownloaded)
+{
+    settings.automaticDownload = AutomaticDownload::On;
+    Publish(FeedWith(Signed(ItemOf("5.1", "<p:recompressed xmlns:p=\"https://pelnar.example/xml-namespaces/appcast\" "
+                                          "url=\"Pelnar-5.1.tar.zst\" length=\"600\"/>"))));
+    Begin(CheckKind::Background);
+    ASSERT_TRUE(WaitForDownload());
+    ASSERT_EQ(parts.requests.size(), 1u);
+    EXPECT_EQ(parts.requests[0].url.fileName(), QStringLiteral("Pelnar-5.1.tar.zst"));
+    EXPECT_EQ(parts.requests[0].declaredBytes, 600u);
+}
+
 TEST_F(UpdateFlowTest, UnaskedUpdateIsOfferedQuietly)
 {
     Publish(FeedWith(Signed(ItemOf("5.1"))));

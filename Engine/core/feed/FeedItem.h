@@ -83,6 +83,7 @@ struct FeedItem
     /// properties cost no copy each; AllProperties() overlays the two.
     QVariantMap inheritedProperties;
     std::vector<FeedItem> deltas;
+    std::vector<FeedItem> recompressed; ///< at most one: the same bundle in a smaller archive, with its download alone
     int line = 0;   ///< where the item's (or the delta's) start tag ends, from 1
     int column = 0; ///< from 1
 

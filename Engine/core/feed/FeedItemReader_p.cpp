@@ -54,6 +54,7 @@ struct ItemDraft
     std::optional<Enclosure> enclosure; ///< the first for the platform, for its machine if there is one
     bool hasForeignEnclosure = false;
     std::vector<Enclosure> deltas;
+    std::optional<Enclosure> recompressed; ///< the first for the platform and the machine
 };
 
 bool IsForSystem(FeedPlatform platform, QString const& operatingSystem)
@@ -308,9 +309,27 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     return std::move(element.value);
 }
 
-/// An element of this system's own: docs/formats/item-keys.md. Of several the first counts.
-QVariant ReadOwnChild(FeedWalker& walker, FeedItem& item)
+QVariant ReadRecompressed(FeedWalker& walker, FeedItemContext const& context, std::optional<Enclosure>& recompressed)
 {
+    Enclosure enclosure = ReadEnclosure(walker);
+    QVariant value = enclosure.attributes;
+    bool const isForThis = IsForSystem(context.platform, enclosure.operatingSystem) &&
+                           SuitsMachine(WordsOf(enclosure.machines), context.machine);
+    if (isForThis && !recompressed)
+    {
+        recompressed = std::move(enclosure);
+    }
+    return value;
+}
+
+/// An element of this system's own: docs/formats/item-keys.md, item-archives.md. Of several the first counts.
+QVariant ReadOwnChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
+{
+    if (IsNamed(walker.Reader().name(), QLatin1String("recompressed")))
+    {
+        return ReadRecompressed(walker, context, draft.recompressed);
+    }
+    FeedItem& item = draft.item;
     item.policy.isWithdrawn = item.policy.isWithdrawn || IsNamed(walker.Reader().name(), QLatin1String("withdrawn"));
     if (IsNamed(walker.Reader().name(), QLatin1String("keys")) && item.signerKey.isEmpty() &&
         item.trustedKeys.isEmpty())
@@ -401,6 +420,21 @@ void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext 
     item.signatures = SignaturesIn(enclosure.signatures);
 }
 
+/// Nothing if it cannot be downloaded and verified.
+std::vector<FeedItem> MakeRecompressed(FeedItem const& parent, Enclosure const& enclosure,
+                                       FeedItemContext const& context)
+{
+    FeedItem recompressed;
+    recompressed.versionString = parent.versionString;
+    recompressed.signerKey = parent.signerKey;
+    recompressed.line = enclosure.line;
+    recompressed.column = enclosure.column;
+    ApplyEnclosure(recompressed, enclosure, context);
+    bool const isSigned = !recompressed.edSignature.isEmpty() || !recompressed.signatures.empty();
+    bool const isUsable = recompressed.fileUrl.isValid() && recompressed.contentLength > 0 && isSigned;
+    return isUsable ? std::vector<FeedItem>{recompressed} : std::vector<FeedItem>();
+}
+
 FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemContext const& context)
 {
     FeedItem delta;
@@ -462,6 +496,10 @@ FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
     {
         item.versionString = VersionInFileName(item.fileUrl);
     }
+    if (draft.enclosure && draft.recompressed)
+    {
+        item.recompressed = MakeRecompressed(item, *draft.recompressed, context);
+    }
     item.deltas.reserve(draft.deltas.size());
     for (Enclosure const& delta : draft.deltas)
     {
@@ -485,7 +523,7 @@ std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& 
         QVariant value = reader.namespaceUri().isEmpty()          ? ReadPlainChild(walker, context, draft)
                          : IsFeedNamespace(reader.namespaceUri()) ? ReadFeedChild(walker, context, draft)
                          : reader.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE)
-                             ? ReadOwnChild(walker, draft.item)
+                             ? ReadOwnChild(walker, context, draft)
                              : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
         AddFeedProperty(draft.item.properties, name, std::move(value));
     }

@@ -249,6 +249,11 @@ void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installatio
         item.policy.isInformational = IsInformational(item, installation, order);
         item.policy.isToBeAsked = item.policy.isInformational || IsTooOldForAutomatic(item, installation, order);
         item.edSignature = SignatureFor(item, installation.trustedKeys).value_or(item.edSignature);
+        for (FeedItem& recompressed : item.recompressed)
+        {
+            recompressed.edSignature =
+                SignatureFor(recompressed, installation.trustedKeys).value_or(recompressed.edSignature);
+        }
         LeaveOutAmong(item.deltas, installation, order);
     }
 }

@@ -82,6 +82,12 @@ UpdateCandidate UpdateFlow::CandidateAt(ItemIndex const& place) const
     FeedItem const& item = m_items->at(static_cast<size_t>(place.item));
     UpdateCandidate candidate{place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item, place};
     candidate.item.deltas.clear();
+    for (FeedItem const& recompressed : std::exchange(candidate.item.recompressed, {}))
+    {
+        candidate.item.fileUrl = recompressed.fileUrl;
+        candidate.item.contentLength = recompressed.contentLength;
+        candidate.item.edSignature = recompressed.edSignature;
+    }
     return candidate;
 }
 

@@ -1,0 +1,84 @@
+#include "Publisher/generate/RecompressStage.h"
+
+#include "Engine/core/archive/TreeManifest.h"
+#include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
+#include "Publisher/delta/DeltaFile.h"
+#include "Publisher/generate/ZstdTar.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace Pelnar::Publisher
+{
+namespace
+{
+
+constexpr char ENDING[] = ".tar.zst";
+
+} // namespace
+
+bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes)
+{
+    return bytes <= archiveBytes && archiveBytes - bytes >= (archiveBytes + 9) / 10;
+}
+
+void RecompressStage::AddTo(std::vector<NewItem>& items)
+{
+    for (NewItem& item : items)
+    {
+        auto const archive =
+            std::find_if(m_archives.begin(), m_archives.end(),
+                         [&item](FolderArchive const& each) { return each.fileName == item.fileName; });
+        bool const isBundleForLinux = item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
+        if (isBundleForLinux && archive != m_archives.end() && !item.fileName.endsWith(QLatin1String(ENDING)))
+        {
+            Pack(item, archive->stem);
+        }
+    }
+}
+
+void RecompressStage::Pack(NewItem& item, QString const& stem)
+{
+    QString const fileName = stem + QLatin1String(ENDING);
+    QString const path = m_workplace.PathOf(fileName);
+    if (QFileInfo::exists(path))
+    {
+        throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("remove it")});
+    }
+    BundleTree const bundle = m_workplace.Unpack(item.fileName);
+    auto file = std::make_unique<AtomicFile>(path);
+    {
+        Progress bar(m_workplace.console.err, QStringLiteral("Packing ") + fileName);
+        WriteZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));
+    }
+    InputFile const made = file->ForReading();
+    if (!SavesEnough(made.size, item.signature.length))
+    {
+        m_workplace.Warn(path, QStringLiteral("not published: saves less than a tenth of the archive"),
+                         QStringLiteral("nothing is to be done; clients take the archive"));
+        return;
+    }
+    // Clients must get the very bundle that was judged.
+    BundleTree const again = BundleTree::Unpack(made, [](std::uint64_t, std::uint64_t) {});
+    if (again.Name() != bundle.Name() ||
+        Engine::DigestTree(again.Descriptor()) != Engine::DigestTree(bundle.Descriptor()))
+    {
+        throw Refusal({path, 0, 0, QStringLiteral("holds another bundle than %1").arg(item.fileName),
+                       QStringLiteral("leave out --recompress")});
+    }
+    item.recompressed = NewArchive{fileName, m_workplace.Sign(made)};
+    m_made.push_back(std::move(file));
+}
+
+void RecompressStage::Commit()
+{
+    for (std::unique_ptr<AtomicFile> const& file : m_made)
+    {
+        file->Commit(ExistingFile::Keep);
+    }
+    m_made.clear();
+}
+
+} // namespace Pelnar::Publisher

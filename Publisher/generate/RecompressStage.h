@@ -1,0 +1,41 @@
+// RecompressStage.h: packs new bundles a second time, so that clients download less.
+// Thread: the main thread. Ownership: refers to the workplace and the archives, which outlive it.
+#pragma once
+
+#include "Publisher/files/AtomicFile.h"
+#include "Publisher/generate/Workplace.h"
+
+#include <memory>
+#include <vector>
+
+namespace Pelnar::Publisher
+{
+
+/// True if a download of \a bytes saves a tenth of one of \a archiveBytes. Less is not worth another file.
+[[nodiscard]] bool SavesEnough(std::uint64_t bytes, std::uint64_t archiveBytes);
+
+class RecompressStage
+{
+public:
+    /// \a archives: everything in the folder.
+    RecompressStage(Workplace const& workplace, std::vector<FolderArchive> const& archives)
+        : m_workplace(workplace), m_archives(archives)
+    {
+    }
+
+    /// Gives each bundle for Linux among \a items a tar of the same bundle, packed by zstd, if that saves a tenth.
+    /// Files appear in the folder only with Commit. Throws Refusal.
+    void AddTo(std::vector<NewItem>& items);
+
+    /// Gives the archives their names in the folder. Throws Refusal.
+    void Commit();
+
+private:
+    void Pack(NewItem& item, QString const& stem);
+
+    Workplace const& m_workplace;
+    std::vector<FolderArchive> const& m_archives;
+    std::vector<std::unique_ptr<AtomicFile>> m_made;
+};
+
+} // namespace Pelnar::Publisher

@@ -1,0 +1,172 @@
+// RecompressTest.cpp: "generate --recompress": a second archive of the same bundle, for clients that know it.
+
+#include "Engine/core/archive/TreeManifest.h"
+#include "Publisher/files/BundleTree.h"
+#include "tests/publisher/generate/PublisherFolder.h"
+#include "tests/support/TestApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <elf.h>
+
+#include <QFile>
+
+#include <random>
+
+namespace Pelnar::Testing
+{
+namespace
+{
+
+std::string Noise(std::size_t size)
+{
+    std::mt19937 random(5);
+    std::string noise(size, '\0');
+    for (char& byte : noise)
+    {
+        byte = static_cast<char>(random());
+    }
+    return noise;
+}
+
+/// Bundles repeat more than the 32 KiB that a zip looks back.
+enum class Repetition
+{
+    Much,
+    None,
+};
+
+std::vector<ForgedEntry> BundleOf(std::string const& version, Repetition repetition)
+{
+    BundleText text;
+    text.version = version;
+    text.program = ElfProgram(EM_X86_64);
+    std::vector<ForgedEntry> bundle = MakePublishedBundle(text);
+    std::string const noise = Noise(200000);
+    bundle.push_back({"Test.app/long/" + std::string(120, 'n'), 'f', noise, 0755});
+    if (repetition == Repetition::Much)
+    {
+        bundle.push_back({"Test.app/\xC3\xA9t\xC3\xA9", 'f', noise});
+        bundle.push_back({"Test.app/link", 'l', "data"});
+    }
+    return bundle;
+}
+
+void PutZip(PublisherFolder const& folder, std::string const& version, Repetition repetition = Repetition::Much)
+{
+    folder.Put("Test-" + version + ".zip", MakeArchive(Container::Zip, BundleOf(version, repetition)));
+}
+
+QStringList const RECOMPRESS{QStringLiteral("--recompress"), QStringLiteral("--machine"), QStringLiteral("x86_64")};
+
+Engine::ContentHash DigestOf(QString const& archive)
+{
+    Publisher::BundleTree const bundle = Publisher::BundleTree::Open(archive, [](std::uint64_t, std::uint64_t) {});
+    return Engine::DigestTree(bundle.Descriptor());
+}
+
+class Recompress : public ::testing::Test
+{
+protected:
+    PublisherFolder const folder;
+
+private:
+    TestApplication<> m_application; ///< check-release needs an event loop
+};
+
+TEST_F(Recompress, FeedNamesBothArchivesOfOneBundle)
+{
+    PutZip(folder, "2.0");
+    ToolRun const run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    EXPECT_NE(run.out.find("and as Test-2.0.tar.zst, "), std::string::npos) << run.out;
+    std::string const packed = folder.ContentOf("Test-2.0.tar.zst");
+    EXPECT_LT(packed.size() * 10, folder.ContentOf("Test-2.0.zip").size() * 9);
+    EXPECT_EQ(DigestOf(folder.PathOf("Test-2.0.tar.zst")), DigestOf(folder.PathOf("Test-2.0.zip")));
+    std::vector<Engine::FeedItem> const items = folder.Items();
+    ASSERT_EQ(items.size(), 1u);
+    EXPECT_EQ(items[0].fileUrl.fileName(), QStringLiteral("Test-2.0.zip")) << "what older clients read";
+    ASSERT_EQ(items[0].recompressed.size(), 1u) << folder.ContentOf("appcast.xml");
+    Engine::FeedItem const& recompressed = items[0].recompressed[0];
+    EXPECT_EQ(recompressed.fileUrl.fileName(), QStringLiteral("Test-2.0.tar.zst"));
+    EXPECT_EQ(recompressed.contentLength, packed.size());
+    EXPECT_EQ(recompressed.edSignature.toStdString(), Base64(Sign(packed, folder.Keys())));
+    ToolRun const gate = RunTool({QStringLiteral("check-release"), folder.PathOf("appcast.xml")});
+    EXPECT_EQ(gate.status, 0) << gate.out << gate.err;
+}
+
+TEST_F(Recompress, SameBundleMakesTheSameBytesAndRunningAgainChangesNothing)
+{
+    PublisherFolder const other;
+    for (PublisherFolder const* const each : {&folder, &other})
+    {
+        PutZip(*each, "2.0");
+        ASSERT_EQ(each->Generate(RECOMPRESS).status, 0);
+    }
+    EXPECT_EQ(folder.ContentOf("Test-2.0.tar.zst"), other.ContentOf("Test-2.0.tar.zst"));
+    std::string const feed = folder.ContentOf("appcast.xml");
+    EXPECT_EQ(folder.Generate(RECOMPRESS).status, 0);
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+    PutZip(folder, "3.0");
+    EXPECT_EQ(folder.Generate(RECOMPRESS).status, 0);
+    EXPECT_EQ(folder.Items().front().deltas.size(), 1u) << "an item with two archives is one base";
+}
+
+TEST_F(Recompress, ArchiveThatSavesLessThanATenthIsNotPublished)
+{
+    PutZip(folder, "2.0", Repetition::None);
+    ToolRun const run = folder.Generate(RECOMPRESS);
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.tar.zst: not published: saves less than a tenth of the archive"),
+              std::string::npos)
+        << run.err;
+    EXPECT_TRUE(folder.Items().front().recompressed.empty());
+    EXPECT_FALSE(QFile::exists(folder.PathOf("Test-2.0.tar.zst")));
+}
+
+TEST_F(Recompress, FileOfThatNameIsNotReplaced)
+{
+    PutZip(folder, "2.0");
+    ASSERT_EQ(folder.Generate({QStringLiteral("--machine"), QStringLiteral("x86_64")}).status, 0);
+    PutZip(folder, "3.0");
+    folder.Put("Test-3.0.tar.zst", "another");
+    EXPECT_NE(folder.Generate(RECOMPRESS).status, 0);
+    EXPECT_EQ(folder.ContentOf("Test-3.0.tar.zst"), "another");
+    EXPECT_EQ(folder.Items().size(), 1u);
+}
+
+TEST_F(Recompress, TwoKeysAndAMachineMakeAFeedThatCanBeRead)
+{
+    PutZip(folder, "2.0");
+    folder.Put("second-key", Base64(std::string(32, '\x9')));
+    ASSERT_TRUE(QFile::setPermissions(folder.PathOf("second-key"), QFile::ReadOwner | QFile::WriteOwner));
+    ToolRun const run =
+        folder.Generate(RECOMPRESS + QStringList{QStringLiteral("--second-key"), folder.PathOf("second-key")});
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    ASSERT_EQ(folder.Items().size(), 1u);
+    EXPECT_EQ(folder.Items()[0].signatures.size(), 2u);
+    EXPECT_EQ(folder.Items()[0].recompressed.at(0).signatures.size(), 2u);
+}
+
+TEST_F(Recompress, CheckReleaseRefusesAnotherBundleInIt)
+{
+    PutZip(folder, "2.0");
+    ASSERT_EQ(folder.Generate(RECOMPRESS).status, 0);
+    std::vector<ForgedEntry> bundle = BundleOf("2.0", Repetition::Much);
+    bundle.back().content = "long";
+    std::string const other = MakeArchive(Container::TarZstandard, bundle);
+    Engine::FeedItem const before = folder.Items()[0].recompressed.at(0);
+    folder.Put("Test-2.0.tar.zst", other);
+    QString feed = QString::fromStdString(folder.ContentOf("appcast.xml"));
+    feed.replace(before.edSignature, QString::fromStdString(Base64(Sign(other, folder.Keys()))));
+    feed.replace(QStringLiteral("length=\"%1\"").arg(before.contentLength),
+                 QStringLiteral("length=\"%1\"").arg(other.size()));
+    folder.Put("appcast.xml", feed.toStdString());
+    ToolRun const gate = RunTool({QStringLiteral("check-release"), folder.PathOf("appcast.xml")});
+    EXPECT_NE(gate.status, 0);
+    EXPECT_NE(gate.err.find("holds another bundle than the archive of the item"), std::string::npos)
+        << gate.out << gate.err;
+}
+
+} // namespace
+} // namespace Pelnar::Testing

@@ -78,7 +78,16 @@ std::vector<Problem> ProblemsOf(Engine::UpdateRefusal const& refusal, InputFile 
     {
         problems.clear(); // it says no more than the refusal
     }
-    return problems.empty() ? std::vector<Problem>{ProblemOf(refusal, archive.name)} : problems;
+    if (problems.empty())
+    {
+        problems = {ProblemOf(refusal, archive.name)};
+    }
+    if (refusal.Fault() == Engine::UpdateFault::BundleNotAlone)
+    {
+        problems.front().mend +=
+            QStringLiteral("; \"__MACOSX\" and \"._\" files of macOS stay out with COPYFILE_DISABLE=1 tar and zip -X");
+    }
+    return problems;
 }
 
 } // namespace

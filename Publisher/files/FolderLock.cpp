@@ -19,7 +19,7 @@ FolderLock::FolderLock(QString const& folder, Console const& console)
 {
     if (!m_folder)
     {
-        RefuseFile(folder, QStringLiteral("cannot be read"), errno, QStringLiteral("name the folder of the archives"));
+        RefuseFile(folder, QStringLiteral("cannot be read"), errno, QStringLiteral("name a folder that is there"));
     }
     if (::flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
     {

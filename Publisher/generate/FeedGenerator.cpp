@@ -37,7 +37,8 @@ std::int64_t MomentOfPublication()
     QByteArray const text = qgetenv("SOURCE_DATE_EPOCH");
     bool isNumber = false;
     qint64 const seconds = text.toLongLong(&isNumber);
-    if (!text.isEmpty() && (!isNumber || seconds < 0))
+    constexpr qint64 LAST_MOMENT = 253402300799; // of the year 9999: no date has more digits
+    if (!text.isEmpty() && (!isNumber || seconds < 0 || seconds > LAST_MOMENT))
     {
         throw Refusal({QString(), 0, 0,
                        QStringLiteral("SOURCE_DATE_EPOCH is \"%1\"").arg(Printable(QString::fromLocal8Bit(text))),
@@ -195,7 +196,11 @@ public:
                          [](NewItem const& a, NewItem const& b) { return b.version < a.version; });
         if (items.empty() && m_isNew)
         {
-            throw Refusal({m_workplace.folder, 0, 0, QStringLiteral("holds no archive"),
+            QStringList const ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
+            throw Refusal({m_workplace.folder, 0, 0,
+                           ignored.isEmpty() ? QStringLiteral("holds no archive")
+                                             : QStringLiteral("holds no archive, only ") +
+                                                   Printable(ignored.join(QStringLiteral(", "))),
                            QStringLiteral("put zip or tar archives of bundles there, or installers whose names are "
                                           "marked .sparkle_guided. or .sparkle_interactive.")});
         }
@@ -211,6 +216,8 @@ public:
         }
         Report(m_console, m_feedFile, items, kept);
         TellIgnored(archives, items);
+        TellOtherNotes(feed, archives);
+        TellUnreadable(archives);
         return Judge(findings);
     }
 
@@ -293,6 +300,51 @@ private:
         {
             m_console.Print(Printable(QStringLiteral("ignored, as neither archives nor notes of one: ") +
                                       ignored.join(QStringLiteral(", "))));
+        }
+    }
+
+    /// What is published keeps its notes: those that lie beside its archive may be others by now.
+    void TellOtherNotes(PublishedFeed const& feed, std::vector<FolderArchive> const& archives) const
+    {
+        for (FolderArchive const& archive : archives)
+        {
+            Engine::FeedItem const* const item = m_workplace.FindPublished(feed, archive.fileName);
+            NewItem written;
+            RefusalList passedOver; // what cannot be read is of no release that is made now
+            bool const isRead =
+                passedOver.Try([&] { written.notes = ReadReleaseNotes(m_workplace.folder, archive.stem); });
+            if (!item || item->isDelta || !item->releaseNotesUrl.isEmpty() || !isRead || written.notes.empty())
+            {
+                continue;
+            }
+            QString text = EmptyFeedText({}, {});
+            text.insert(text.indexOf(QLatin1String("</channel>")),
+                        ItemText(written, m_workplace.address, FEED_PREFIX, {}));
+            std::vector<Engine::FeedItem> const read =
+                Engine::ParseFeed(text.toUtf8(), m_address, written.platform).items;
+            if (!read.empty() && read.front().description != item->description)
+            {
+                m_workplace.Warn(m_workplace.PathOf(archive.fileName),
+                                 QStringLiteral("the notes beside it are not those that version %1 has in the feed")
+                                     .arg(Printable(item->versionString)),
+                                 QStringLiteral("put them into the feed with \"edit-notes\", or leave it so"));
+            }
+        }
+    }
+
+    void TellUnreadable(std::vector<FolderArchive> const& archives) const
+    {
+        QStringList names{QFileInfo(m_feedFile).absoluteFilePath()};
+        for (FolderArchive const& archive : archives)
+        {
+            names.append(archive.fileName);
+        }
+        QStringList const unreadable = UnreadableForOthers(m_workplace.folder, names);
+        if (!unreadable.isEmpty())
+        {
+            m_workplace.Warn(unreadable.join(QStringLiteral(", ")),
+                             QStringLiteral("may not be read by every user, so perhaps not by the web server"),
+                             QStringLiteral("chmod 644 what is uploaded, and set the umask to 022"));
         }
     }
 

@@ -5,11 +5,14 @@
 #include "Publisher/Refusal.h"
 
 #include <QDir>
+#include <QFile>
 #include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
+#include <filesystem>
+#include <iterator>
 #include <map>
 
 namespace Pelnar::Publisher
@@ -252,19 +255,34 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile)
 {
     QStringList ignored;
-    QStringList const names = QDir(folder).entryList(QDir::Files | QDir::System, QDir::Name);
-    for (QString const& name : names)
+    std::error_code error;
+    // Deliberate: not by QDir, which leaves names out that cannot be decoded.
+    for (auto const& entry : std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), error))
     {
+        QString const name = QFile::decodeName(entry.path().filename().c_str());
         bool const isKnown =
-            QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
+            name.startsWith(QLatin1Char('.')) || QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
             std::any_of(archives.begin(), archives.end(),
                         [&](FolderArchive const& each) { return each.fileName == name || NotesOf(name, each.stem); });
         if (!isKnown)
         {
-            ignored.append(name);
+            ignored.append(entry.is_directory(error) ? name + QLatin1Char('/') : name);
         }
     }
+    ignored.sort();
     return ignored;
+}
+
+QStringList UnreadableForOthers(QString const& folder, QStringList const& names)
+{
+    QStringList unreadable;
+    std::copy_if(names.begin(), names.end(), std::back_inserter(unreadable),
+                 [&folder](QString const& name)
+                 {
+                     QFileInfo const file(PathIn(folder, name));
+                     return file.exists() && !file.permission(QFile::ReadOther);
+                 });
+    return unreadable;
 }
 
 } // namespace Pelnar::Publisher

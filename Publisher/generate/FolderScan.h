@@ -46,8 +46,12 @@ struct ReleaseNotes
 /// read, are not UTF-8, or are over the limits with which clients show them.
 std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem);
 
-/// The files of \a folder that are neither one of \a archives nor notes of one nor \a feedFile, hidden ones left out.
+/// What \a folder has besides \a archives, notes of one, and \a feedFile; folders end in "/". Hidden files are left out,
+/// those whose names cannot be decoded are not.
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile);
+
+/// Those of \a names, files of \a folder, that only some users may read: a web server is another user.
+QStringList UnreadableForOthers(QString const& folder, QStringList const& names);
 
 /// The path of \a fileName in \a folder, as it is shown as well.
 QString PathIn(QString const& folder, QString const& fileName);

@@ -123,8 +123,13 @@ Engine::KeyedVersion KeysOf(Engine::FeedItem const& item)
     return {item.versionString, Engine::SignersOf(item), item.trustedKeys};
 }
 
-void CheckTrust(std::vector<LintItem> const& items, LintFindings& findings)
+/// \a machine: only the items for it lead from one to another.
+void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFindings& findings)
 {
+    items.erase(std::remove_if(items.begin(), items.end(),
+                               [&machine](LintItem const& item)
+                               { return !Engine::SuitsMachine(item.full.item->policy.machines, machine); }),
+                items.end());
     std::vector<Engine::KeyedVersion> all;
     for (LintItem const& item : items)
     {
@@ -159,6 +164,18 @@ void CheckTrust(std::vector<LintItem> const& items, LintFindings& findings)
                                   stranded[i].join(QStringLiteral(", "))));
         }
     }
+}
+
+/// Those that \a items name; without one any.
+QStringList MachinesOf(std::vector<LintItem> const& items)
+{
+    QStringList machines;
+    for (LintItem const& item : items)
+    {
+        machines += item.full.item->policy.machines;
+    }
+    machines.removeDuplicates();
+    return machines.isEmpty() ? QStringList{QString()} : machines;
 }
 
 /// Told once: in a feed with several lines of versions it may be meant.
@@ -207,7 +224,10 @@ void CheckOffers(LintSubject const& subject, LintFindings& findings)
     }
     for (LintPlatform const& platform : subject.platforms)
     {
-        CheckTrust(platform.items, findings);
+        for (QString const& machine : MachinesOf(platform.items))
+        {
+            CheckTrust(platform.items, machine, findings);
+        }
         CheckDates(platform.items, findings);
         for (LintItem const& item : platform.items)
         {

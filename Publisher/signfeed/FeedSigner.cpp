@@ -48,6 +48,16 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
         throw Refusal({name, 0, 0, QStringLiteral("has the greatest serial that there is"),
                        QStringLiteral("publish a feed at another address")});
     }
+    // A serial without the option is the time. A clock that was set back makes an expiry that has passed.
+    constexpr qint64 A_DAY = 86400;
+    constexpr qint64 LAST_TIME = 4102444800; // of 2100; what is above is no time
+    if (!terms.serial && published > terms.now.toSecsSinceEpoch() + A_DAY && published < LAST_TIME)
+    {
+        throw Refusal({name, 0, 0,
+                       QStringLiteral("was signed at %1 by its serial, but the clock of this computer says %2")
+                           .arg(MomentText(QDateTime::fromSecsSinceEpoch(published, Qt::UTC)), MomentText(terms.now)),
+                       QStringLiteral("set the clock, or give sign-feed a --serial")});
+    }
     // The time, so that a feed that is made from nothing is not below the one that clients have seen.
     return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
 }

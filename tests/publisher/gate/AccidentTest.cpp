@@ -440,6 +440,20 @@ TEST_F(Accident, EntryBesideTheBundleIsNamed)
     ExpectRefused(Generate(), {"Test-2.0.zip: does not hold one bundle alone: \"README\""});
 }
 
+TEST_F(Accident, FilesThatMacOSPutsBesideTheBundleAreNamedWithTheirMend)
+{
+    std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+    entries.push_back({"__MACOSX", 'd', {}, 0755});
+    entries.push_back({"__MACOSX/._Test.app", 'f', "x"});
+    m_folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, entries));
+    ExpectRefused(Generate(), {"Test-2.0.zip: does not hold one bundle alone: \"__MACOSX\"", "COPYFILE_DISABLE=1"});
+    m_folder.Remove("Test-2.0.zip");
+    entries = MakePublishedBundle(Version("2.0"));
+    entries.insert(entries.begin(), {"._Test.app", 'f', "x"});
+    m_folder.Put("Test-2.0.tar.xz", MakeArchive(Container::TarXz, entries));
+    ExpectRefused(Generate(), {"Test-2.0.tar.xz: does not hold one bundle alone", "COPYFILE_DISABLE=1"});
+}
+
 TEST_F(Accident, WhatIsWrongWithSeveralArchivesIsToldAtOnce)
 {
     BundleText first = Version("2.0");

@@ -9,6 +9,7 @@
 #include <elf.h>
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -316,6 +317,54 @@ TEST(Generate, NotesInALanguageBecomeADescriptionInIt)
     EXPECT_NE(shown("fr").find("for all"), std::string::npos);
 }
 
+TEST(Generate, NotesThatChangedSinceAreToldAndNotTaken)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.Put("Test-1.0.txt", "x <&> ]]>\r\n\ty\r\n");
+    folder.Put("Test-1.0.de.txt", "deutsch");
+    std::string const feed = folder.GeneratedFeed();
+    EXPECT_EQ(folder.Generate().err, "");
+    folder.Put("Test-1.0.txt", "other");
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.err.find("Test-1.0.zip: the notes beside it are not those that version 1.0 has in the feed; put them "
+                           "into the feed with \"edit-notes\""),
+              std::string::npos)
+        << run.err;
+    EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
+}
+
+TEST(Generate, EverythingThatIsIgnoredIsListed)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.Put("Test-1.1.7z", "x");
+    folder.Put("Test-\xff.zip", "x");
+    ASSERT_TRUE(QDir(QString::fromStdString(folder.Path())).mkdir(QStringLiteral("old")));
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.out.find("Test-1.1.7z"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("Test-\xEF\xBF\xBD.zip"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("old/"), std::string::npos) << run.out;
+    folder.Remove("Test-1.0.zip");
+    folder.Remove("appcast.xml");
+    EXPECT_NE(folder.Generate().err.find(": holds no archive, only Test-1.1.7z"), std::string::npos);
+}
+
+TEST(Generate, FilesThatAWebServerMayNotReadAreTold)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("2.0");
+    EXPECT_EQ(folder.Generate().err, "");
+    ASSERT_EQ(::chmod(folder.PathOf("Test-1.0.zip").toStdString().c_str(), 0640), 0);
+    ToolRun const run = folder.Generate();
+    EXPECT_EQ(run.status, 0);
+    EXPECT_NE(run.err.find("Test-1.0.zip: may not be read by every user"), std::string::npos) << run.err;
+    EXPECT_EQ(run.err.find("Test-2.0.zip"), std::string::npos) << run.err;
+}
+
 TEST(Generate, DateIsNeverAFilesTime)
 {
     PublisherFolder const folder;
@@ -327,7 +376,7 @@ TEST(Generate, DateIsNeverAFilesTime)
     qint64 const said = QDateTime::fromString(date, Qt::RFC2822Date).toSecsSinceEpoch();
     EXPECT_GE(said, before);
     EXPECT_LE(said, QDateTime::currentSecsSinceEpoch());
-    for (char const* const bad : {"yesterday", "-1"})
+    for (char const* const bad : {"yesterday", "-1", "253402300800"})
     {
         qputenv("SOURCE_DATE_EPOCH", bad);
         EXPECT_EQ(folder.Generate().status, 2) << bad;

@@ -248,6 +248,20 @@ void AddOfferCases(std::vector<LintCase>& cases)
     cases.push_back({"KeyOfAnOlderItemPasses", FeedOf(Keyed("5.1", a, b) + Keyed("5.0", a, a)), ""});
     cases.push_back({"KeyThatAVersionBetweenBringsPasses",
                      FeedOf(Keyed("5.2", b, b) + Keyed("5.1", a, a + ' ' + b) + Keyed("5.0", a, a)), ""});
+    auto const onMachine = [](QByteArray item, char const* machine)
+    {
+        return item.replace("<enclosure",
+                            QByteArray("<enclosure xmlns:m='https://pelnar.example/xml-namespaces/appcast' "
+                                       "m:machine='") +
+                                machine + "'");
+    };
+    cases.push_back(
+        {"KeyThatAVersionForAnotherMachineBrings",
+         FeedOf(onMachine(Keyed("5.2", b, b), "aarch64") + onMachine(Keyed("5.1", a, a + ' ' + b), "x86_64") +
+                onMachine(Keyed("5.0", a, a), "aarch64")),
+         "key-not-trusted 2:"});
+    cases.push_back({"KeyOfAnotherMachinePasses",
+                     FeedOf(onMachine(Keyed("5.2", b, b), "x86_64") + onMachine(Keyed("5.0", a, a), "aarch64")), ""});
     cases.push_back({"DateOrder",
                      FeedOf(Item("5.2", "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>") +
                             Item("5.1", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>")),

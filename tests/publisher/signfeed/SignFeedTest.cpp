@@ -151,6 +151,15 @@ TEST_F(SignFeedTest, SerialIsTheTimeOrTheNextOne)
     EXPECT_EQ(Believe(SignedContent()).terms.serial, 9000000000000000001);
 }
 
+TEST_F(SignFeedTest, ClockThatWasSetBackIsTold)
+{
+    Put(PLAIN);
+    QByteArray const feed =
+        SignedContent({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 100000)});
+    ExpectRefused(Run(), "by its serial, but the clock of this computer says ", feed);
+    EXPECT_EQ(Run({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 200000)}).status, 0);
+}
+
 TEST_F(SignFeedTest, SerialThatWouldNotGrowIsRefused)
 {
     Put(PLAIN);

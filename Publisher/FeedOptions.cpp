@@ -1,6 +1,9 @@
 #include "Publisher/FeedOptions.h"
 
+#include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientOptions.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
+#include "Publisher/keys/KeyId.h"
 
 #include <QJsonArray>
 
@@ -55,7 +58,14 @@ void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
         ->type_name("N");
 }
 
-std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options)
+void AddTrustedKeysOption(CLI::App& verb, InstallationOptions& options)
+{
+    AddPublicKeysOption(verb, options.publicKeys,
+                        "Key that the client trusts, in base64; may be given again; default: those that the feed says "
+                        "its version trusts");
+}
+
+Engine::Installation InstallationOf(InstallationOptions const& options)
 {
     Engine::Installation installation;
     installation.machine = options.machine == ANY_MACHINE ? QString() : QString::fromStdString(options.machine);
@@ -67,13 +77,18 @@ std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions c
         installation.now = QDateTime::fromString(moment, Qt::ISODate);
         if (!installation.now.isValid())
         {
-            return Problem{QString(), 0, 0, QStringLiteral("--at: \"%1\" is no moment").arg(moment),
-                           QStringLiteral("write it as 2030-01-31T12:00:00Z")};
+            throw Refusal({QString(), 0, 0, QStringLiteral("--at: \"%1\" is no moment").arg(moment),
+                           QStringLiteral("write it as 2030-01-31T12:00:00Z")});
         }
     }
     if (options.rolloutGroup > 0)
     {
         installation.rolloutGroup = [group = options.rolloutGroup - 1](QString const&) { return group; };
+    }
+    CheckPublicKeys(options.publicKeys);
+    for (std::string const& key : options.publicKeys)
+    {
+        installation.trustedKeys.append(KeyIdOf(key));
     }
     return installation;
 }

@@ -3,14 +3,13 @@
 #pragma once
 
 #include "Engine/core/feed/ReleasePolicy.h"
-#include "Publisher/Console.h"
 
 #include <QJsonObject>
 
 #include <CLI/CLI.hpp>
 
 #include <string>
-#include <variant>
+#include <vector>
 
 namespace Pelnar::Publisher
 {
@@ -24,13 +23,17 @@ struct InstallationOptions
     std::string channels;
     int rolloutGroup = 0; ///< from 1; 0 for a person who asks
     std::string moment;
+    std::vector<std::string> publicKeys; ///< empty: what the feed says that a version trusts
 };
 
 /// "--machine", "--channels" and "--at".
 void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
 /// "--rollout-group".
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
-[[nodiscard]] std::variant<Engine::Installation, Problem> InstallationOf(InstallationOptions const& options);
+/// "--public-key", which may be given again.
+void AddTrustedKeysOption(CLI::App& verb, InstallationOptions& options);
+/// Throws Refusal.
+[[nodiscard]] Engine::Installation InstallationOf(InstallationOptions const& options);
 /// The members "machine", "channels" and "rolloutGroup" that the JSON of several verbs has.
 void AddInstallation(QJsonObject& object, InstallationOptions const& options);
 

@@ -6,6 +6,8 @@
 
 #include <functional>
 #include <stdexcept>
+#include <utility>
+#include <variant>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -34,6 +36,17 @@ private:
     std::vector<Problem> m_problems;
     RefusalCause m_cause;
 };
+
+/// The value, or its problem as a Refusal.
+template <class T>
+T Need(std::variant<T, Problem> value)
+{
+    if (auto const* const problem = std::get_if<Problem>(&value))
+    {
+        throw Refusal(*problem);
+    }
+    return std::get<T>(std::move(value));
+}
 
 /// Does \a work; a Refusal in it becomes one whose cause is Content.
 void AsContent(std::function<void()> const& work);

@@ -1,53 +1,35 @@
 #include "Publisher/choice/ClientOptions.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Publisher/Refusal.h"
 
 namespace Pelnar::Publisher
 {
-namespace
-{
-
-Problem BadVersion(QString const& option, QString const& text)
-{
-    return {QString(), 0, 0, QStringLiteral("%1: \"%2\" is no version").arg(option, text),
-            QStringLiteral("give one to four numbers with dots between them, such as 5.1.2")};
-}
-
-} // namespace
-
-std::variant<NamedVersion, Problem> ParseLocalVersion(QString const& option, QString const& text)
+NamedVersion ParseLocalVersion(QString const& option, QString const& text)
 {
     Core::Version const version = App::Session::VersionFromStringNoexcept(text);
     if (!version.IsValid())
     {
-        return BadVersion(option, text);
+        throw Refusal({QString(), 0, 0, QStringLiteral("%1: \"%2\" is no version").arg(option, text),
+                       QStringLiteral("give one to four numbers with dots between them, such as 5.1.2")});
     }
-    return NamedVersion{text, version};
+    return {text, version};
 }
 
-std::variant<NamedVersion, Problem> ParseSystemVersion(QString const& option, QString const& text)
+NamedVersion ParseSystemVersion(QString const& option, QString const& text)
 {
-    if (text == QLatin1String(UNKNOWN_SYSTEM))
-    {
-        return NamedVersion{text, Core::Version()};
-    }
-    return ParseLocalVersion(option, text);
+    return text == QLatin1String(UNKNOWN_SYSTEM) ? NamedVersion{text, Core::Version()}
+                                                 : ParseLocalVersion(option, text);
 }
 
-std::variant<std::vector<NamedVersion>, Problem>
-ParseVersionList(QString const& option, QString const& text,
-                 std::variant<NamedVersion, Problem> (*parse)(QString const&, QString const&))
+std::vector<NamedVersion> ParseVersionList(QString const& option, QString const& text,
+                                           NamedVersion (*parse)(QString const&, QString const&))
 {
     std::vector<NamedVersion> versions;
     QStringList const entries = text.split(QLatin1Char(','));
     for (QString const& entry : entries)
     {
-        std::variant<NamedVersion, Problem> const version = parse(option, entry.trimmed());
-        if (auto const* const problem = std::get_if<Problem>(&version))
-        {
-            return *problem;
-        }
-        versions.push_back(std::get<NamedVersion>(version));
+        versions.push_back(parse(option, entry.trimmed()));
     }
     return versions;
 }
@@ -67,23 +49,18 @@ QString OwnPlatformName()
     return QStringLiteral("linux");
 }
 
-std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& publishedAt,
-                                            Engine::FeedTarget const& target, Console const& console)
+ParsedFeed ReadItems(QString const& name, QString const& publishedAt, Engine::FeedTarget const& target,
+                     Console const& console)
 {
-    std::variant<FeedBytes, Problem> source = ReadFeed(name, publishedAt, console);
-    if (auto const* const problem = std::get_if<Problem>(&source))
-    {
-        return *problem;
-    }
-    ParsedFeed feed{std::get<FeedBytes>(std::move(source)), {}};
+    ParsedFeed feed{Need(ReadFeed(name, publishedAt, console)), {}};
     Engine::FeedParseResult parsed = Engine::ParseFeed(feed.source.bytes, feed.source.address, target);
     if (!parsed.HasSucceeded())
     {
         QString const& detail = parsed.error.detail;
-        return Problem{feed.source.name, parsed.error.line, parsed.error.column,
-                       parsed.error.sentence.English() +
-                           (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
-                       QStringLiteral("pelnar-appcast lint says what to mend")};
+        throw Refusal(
+            {feed.source.name, parsed.error.line, parsed.error.column,
+             parsed.error.sentence.English() + (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
+             QStringLiteral("pelnar-appcast lint says what to mend")});
     }
     feed.items = std::move(parsed.items);
     return feed;

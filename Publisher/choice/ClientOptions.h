@@ -11,7 +11,6 @@
 #include <QStringList>
 
 #include <optional>
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -27,14 +26,13 @@ struct NamedVersion
     Core::Version version;
 };
 
-/// \a option is the name that a problem mentions.
-[[nodiscard]] std::variant<NamedVersion, Problem> ParseLocalVersion(QString const& option, QString const& text);
+/// Throws Refusal for a text that is no version. \a option is the name that it mentions.
+[[nodiscard]] NamedVersion ParseLocalVersion(QString const& option, QString const& text);
 /// As ParseLocalVersion; "unknown" is the invalid version.
-[[nodiscard]] std::variant<NamedVersion, Problem> ParseSystemVersion(QString const& option, QString const& text);
-/// A list with commas between its entries, each read by one of the two above; empty entries are problems.
-[[nodiscard]] std::variant<std::vector<NamedVersion>, Problem>
-ParseVersionList(QString const& option, QString const& text,
-                 std::variant<NamedVersion, Problem> (*parse)(QString const&, QString const&));
+[[nodiscard]] NamedVersion ParseSystemVersion(QString const& option, QString const& text);
+/// A list with commas between its entries, each read by one of the two above; an empty entry is refused.
+[[nodiscard]] std::vector<NamedVersion> ParseVersionList(QString const& option, QString const& text,
+                                                         NamedVersion (*parse)(QString const&, QString const&));
 
 /// The names of platforms on a command line, in the order of the help text.
 std::vector<std::string> PlatformNames();
@@ -49,8 +47,8 @@ struct ParsedFeed
     std::vector<Engine::FeedItem> items;
 };
 
-/// Reads and parses a feed as a client does.
-[[nodiscard]] std::variant<ParsedFeed, Problem> ReadItems(QString const& name, QString const& publishedAt,
-                                                          Engine::FeedTarget const& target, Console const& console);
+/// Reads and parses a feed as a client does. Throws Refusal.
+[[nodiscard]] ParsedFeed ReadItems(QString const& name, QString const& publishedAt, Engine::FeedTarget const& target,
+                                   Console const& console);
 
 } // namespace Pelnar::Publisher

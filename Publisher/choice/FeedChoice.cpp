@@ -149,6 +149,7 @@ public:
         {
             m_choice.chosen = &ItemOf(*contest.Best());
             m_choice.full = m_choice.full ? m_choice.full : m_choice.chosen;
+            FindRivals(*contest.Best());
         }
         return std::move(m_choice);
     }
@@ -179,6 +180,31 @@ public:
     }
 
 private:
+    /// A delta that is preferred to each of the others, first or second, is chosen in every order.
+    void FindRivals(ItemRecord& best)
+    {
+        bool isDefinite = true;
+        std::vector<FeedItem const*> rivals{m_choice.chosen};
+        for (Candidate& delta : m_deltas)
+        {
+            if (!m_choice.chosen->isDelta || &delta == &best || !App::Session::IsValid(&delta, *this) ||
+                App::Session::PreferByVersionAndType(best, delta, Subject()))
+            {
+                continue;
+            }
+            rivals.push_back(&delta.item);
+            isDefinite = isDefinite && &App::Session::PreferByDownload(best, delta).item == &best &&
+                         &App::Session::PreferByDownload(delta, best).item == &best;
+        }
+        if (!isDefinite)
+        {
+            std::sort(rivals.begin(), rivals.end(),
+                      [](FeedItem const* a, FeedItem const* b) { return a->deltaFrom < b->deltaFrom; });
+            m_choice.chosen = rivals.front();
+            m_choice.rivals.assign(rivals.begin() + 1, rivals.end());
+        }
+    }
+
     /// Those that start from this version; of several with the same text the last.
     std::vector<FeedItem const*> MetDeltas()
     {
@@ -216,7 +242,7 @@ public:
     Impl(std::vector<FeedItem> const& items, Engine::Installation installation);
 
     FeedChoice Choose(Client const& client);
-    FeedItem const* Chosen(Client const& client);
+    FeedChoice Answer(Client const& client);
 
 private:
     /// Those who run this system and trust the keys with these ids.
@@ -305,13 +331,13 @@ FeedChoice FeedChooser::Impl::Choose(Client const& client)
     return FeedContest(kept, client, policy).Run();
 }
 
-FeedItem const* FeedChooser::Impl::Chosen(Client const& client)
+FeedChoice FeedChooser::Impl::Answer(Client const& client)
 {
     QStringList const& trustedKeys = TrustedBy(client.localVersion);
     FullItems const& reach = WithinReach({client.systemVersion, trustedKeys});
     if (reach.empty() || !IsOlderVersion(client.localVersion, reach.front()->candidate.Version()))
     {
-        return nullptr;
+        return {};
     }
     ClientPolicy policy(client, m_installation, trustedKeys);
     FullItems finalists;
@@ -326,7 +352,7 @@ FeedItem const* FeedChooser::Impl::Chosen(Client const& client)
             finalists.push_back(full);
         }
     }
-    return FeedContest(finalists, client, policy).Run().chosen;
+    return FeedContest(finalists, client, policy).Run();
 }
 
 FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
@@ -341,9 +367,9 @@ FeedChoice FeedChooser::Choose(Client const& client)
     return m_impl->Choose(client);
 }
 
-FeedItem const* FeedChooser::Chosen(Client const& client)
+FeedChoice FeedChooser::Answer(Client const& client)
 {
-    return m_impl->Chosen(client);
+    return m_impl->Answer(client);
 }
 
 FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client,

@@ -38,7 +38,10 @@ struct FeedChoice
 {
     Engine::FeedItem const* chosen = nullptr; ///< an item or a delta; null when there is nothing to offer
     Engine::FeedItem const* full = nullptr;   ///< the best full item, whose deltas were looked at
-    std::vector<Duel> duels;                  ///< in the order in which they were decided
+    /// Other deltas that may be chosen instead. Deltas of one start have no defined order when their texts differ, such
+    /// as 5 and 5.0. They are sorted by that text, and chosen is the first of all.
+    std::vector<Engine::FeedItem const*> rivals;
+    std::vector<Duel> duels; ///< in the order in which they were decided
 };
 
 /// A feed that many clients choose from. What the rules read of an item is kept for the next client.
@@ -51,12 +54,10 @@ public:
     FeedChooser(FeedChooser const&) = delete;
     FeedChooser& operator=(FeedChooser const&) = delete;
 
-    /// The choice of \a client. Of several deltas with the same deltaFrom text the last counts, as for the session,
-    /// which meets them by that text; those whose texts differ are met in the order of the feed.
     FeedChoice Choose(Client const& client);
 
-    /// The item or delta that Choose answers for \a client. The whole feed is looked at once for each system version.
-    Engine::FeedItem const* Chosen(Client const& client);
+    /// As Choose, but tells only of duels between items that may win, and is fast for many clients.
+    FeedChoice Answer(Client const& client);
 
 private:
     class Impl;

@@ -10,6 +10,7 @@ complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l machine -
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l channels -r -d 'Channels that the clients list'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l at -r -d 'Moment of the check for a staged rollout'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l rollout-group -r -d 'Answer as for automatic checks in this group of a staged rollout'
+complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l public-key -r -d 'Key that the client trusts'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l published-at -r -d 'Address of the published feed'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l after-delta -d 'Answer as when the client has been given a delta and asks for a full item to fall back on'
 complete -c pelnar-appcast -n '__fish_seen_subcommand_from explain' -l json -d 'Print one JSON object'

@@ -50,59 +50,51 @@ QJsonObject JsonOf(std::vector<OutcomeChange> const& changes, QString const& old
             {QStringLiteral("changes"), list}};
 }
 
+QJsonArray JsonOf(std::vector<ItemChange> const& changes)
+{
+    QJsonArray list;
+    for (ItemChange const& change : changes)
+    {
+        list.append(QJsonObject{{QStringLiteral("version"), change.version},
+                                {QStringLiteral("what"), QLatin1String(change.what)},
+                                {QStringLiteral("before"), change.before},
+                                {QStringLiteral("after"), change.after}});
+    }
+    return list;
+}
+
 ExitStatus Diff(DiffOptions const& options, Console const& console)
 {
     QString const platform = QString::fromStdString(options.platform);
     QString const publishedAt = QString::fromStdString(options.publishedAt);
-    auto const read = InstallationOf(options.installation);
-    if (auto const* const problem = std::get_if<Problem>(&read))
-    {
-        return console.Refuse(*problem);
-    }
-    auto const& installation = std::get<Engine::Installation>(read);
+    Engine::Installation const installation = InstallationOf(options.installation);
     Engine::FeedTarget const target(PlatformFromName(platform), installation.machine);
-    auto const before = ReadItems(QString::fromStdString(options.oldFeed), publishedAt, target, console);
-    if (auto const* const problem = std::get_if<Problem>(&before))
-    {
-        return console.Refuse(*problem);
-    }
-    auto const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
-    if (auto const* const problem = std::get_if<Problem>(&after))
-    {
-        return console.Refuse(*problem);
-    }
-    auto const& [oldSource, oldItems] = std::get<ParsedFeed>(before);
-    auto const& [newSource, newItems] = std::get<ParsedFeed>(after);
-    std::variant<std::vector<NamedVersion>, Problem> versions = VersionsOfBoth(oldItems, newItems);
-    if (!options.versions.empty())
-    {
-        versions =
-            ParseVersionList(QStringLiteral("--versions"), QString::fromStdString(options.versions), ParseLocalVersion);
-    }
-    if (auto const* const problem = std::get_if<Problem>(&versions))
-    {
-        return console.Refuse(*problem);
-    }
-    std::vector<OutcomeChange> const changes =
-        DiffFeeds(oldItems, newItems, std::get<std::vector<NamedVersion>>(versions), installation);
+    ParsedFeed const before = ReadItems(QString::fromStdString(options.oldFeed), publishedAt, target, console);
+    ParsedFeed const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
+    std::vector<NamedVersion> const versions =
+        options.versions.empty() ? VersionsOfBoth(before.items, after.items)
+                                 : ParseVersionList(QStringLiteral("--versions"),
+                                                    QString::fromStdString(options.versions), ParseLocalVersion);
+    std::vector<OutcomeChange> const changes = DiffFeeds(before.items, after.items, versions, installation);
+    std::vector<ItemChange> const itemChanges = DiffItems(before.items, after.items);
+    bool const isSame = changes.empty() && itemChanges.empty();
     if (options.isJson)
     {
-        QJsonObject json = JsonOf(changes, oldSource.name, newSource.name, platform);
+        QJsonObject json = JsonOf(changes, before.source.name, after.source.name, platform);
+        json.insert(QStringLiteral("items"), JsonOf(itemChanges));
         AddInstallation(json, options.installation);
         console.PrintJson(json);
+        return isSame ? ExitStatus::Clean : ExitStatus::Findings;
     }
-    else
+    for (QString const& line : TextOf(itemChanges) + TextOf(changes, versions))
     {
-        for (QString const& line : TextOf(changes, std::get<std::vector<NamedVersion>>(versions)))
-        {
-            console.Print(Printable(line));
-        }
-        if (changes.empty())
-        {
-            console.Print(QStringLiteral("no client gets anything else"));
-        }
+        console.Print(Printable(line));
     }
-    return changes.empty() ? ExitStatus::Clean : ExitStatus::Findings;
+    if (changes.empty())
+    {
+        console.Print(QStringLiteral("no client gets anything else"));
+    }
+    return isSame ? ExitStatus::Clean : ExitStatus::Findings;
 }
 
 } // namespace

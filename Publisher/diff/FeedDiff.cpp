@@ -4,6 +4,8 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
 #include <algorithm>
+#include <deque>
+#include <iterator>
 #include <limits>
 #include <map>
 
@@ -61,10 +63,16 @@ void AddBorders(std::vector<Engine::FeedItem> const& items, std::vector<Border>&
     }
 }
 
-bool IsSame(Outcome const& a, Outcome const& b)
+bool IsSameItem(Engine::FeedItem const* a, Engine::FeedItem const* b)
 {
-    return a.version == b.version && a.updateType == b.updateType && a.deltaFrom == b.deltaFrom && a.url == b.url &&
-           a.length == b.length;
+    return a == b || (a && b && a->versionString == b->versionString && a->deltaFrom == b->deltaFrom &&
+                      a->isDelta == b->isDelta && a->contentLength == b->contentLength && a->fileUrl == b->fileUrl);
+}
+
+bool IsSame(FeedChoice const& a, FeedChoice const& b)
+{
+    return IsSameItem(a.chosen, b.chosen) &&
+           std::equal(a.rivals.begin(), a.rivals.end(), b.rivals.begin(), b.rivals.end(), IsSameItem);
 }
 
 QString LongTextOf(Outcome const& outcome)
@@ -85,7 +93,8 @@ QString EffectOf(OutcomeChange const& change)
              isOtherDownload ? LongTextOf(change.after) : after);
 }
 
-/// "5.0 to 5.2, 5.4": \a changed, where three or more follow each other among \a versions the first and the last.
+/// "5.0 to 5.2, 5.4": \a changed, where three or more follow each other among \a versions the first and the last. Both
+/// are in the same order.
 QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& versions)
 {
     QStringList runs;
@@ -95,11 +104,12 @@ QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& vers
         runs += run.size() < 3 ? run : QStringList(run.first() + QStringLiteral(" to ") + run.last());
         run.clear();
     };
+    auto next = changed.begin();
     for (NamedVersion const& version : versions)
     {
-        if (changed.contains(version.text))
+        if (next != changed.end() && *next == version.text)
         {
-            run.append(version.text);
+            run.append(*next++);
         }
         else
         {
@@ -109,6 +119,53 @@ QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& vers
     endRun();
     return runs.join(QStringLiteral(", "));
 }
+
+QString OrNone(QString const& text)
+{
+    return text.isEmpty() ? QStringLiteral("none") : text;
+}
+
+QString InformationalText(Engine::FeedItem const& item)
+{
+    QStringList versions = item.policy.informationalFor;
+    if (!item.policy.informationalBelow.isEmpty())
+    {
+        versions.append(QStringLiteral("below ") + item.policy.informationalBelow);
+    }
+    QString const whom = versions.isEmpty() ? QStringLiteral("yes") : versions.join(QStringLiteral(", "));
+    return OrNone(item.policy.isInformational ? whom : QString());
+}
+
+QString CriticalText(Engine::FeedItem const& item)
+{
+    QString const& bound = item.policy.criticalBelow;
+    QString const whom = bound.isEmpty() ? QStringLiteral("yes") : QStringLiteral("below ") + bound;
+    return OrNone(item.isCritical ? whom : QString());
+}
+
+QString StageText(Engine::FeedItem const& item)
+{
+    qint64 const seconds = item.policy.rolloutSeconds;
+    return OrNone(seconds == 0 ? QString() : QStringLiteral("%1 seconds").arg(seconds));
+}
+
+struct ItemProperty
+{
+    char const* name;
+    QString (*text)(Engine::FeedItem const& item);
+};
+
+constexpr ItemProperty ITEM_PROPERTIES[] = {
+    {"withdrawn", [](auto const& item) { return OrNone(QLatin1String(item.policy.isWithdrawn ? "yes" : "")); }},
+    {"channel", [](auto const& item) { return OrNone(item.policy.channel); }},
+    {"informational", InformationalText},
+    {"critical", CriticalText},
+    {"phasedRolloutInterval", StageText},
+    {"minimumUpdateVersion", [](auto const& item) { return OrNone(item.policy.minimumUpdateVersion); }},
+    {"minimumAutoupdateVersion", [](auto const& item) { return OrNone(item.policy.minimumAutoupdateVersion); }},
+    {"minimumSystemVersion", [](auto const& item) { return OrNone(item.minimumSystemVersion); }},
+    {"maximumSystemVersion", [](auto const& item) { return OrNone(item.maximumSystemVersion); }},
+};
 
 } // namespace
 
@@ -158,30 +215,74 @@ std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldIte
     std::vector<SystemRange> const ranges = SystemRanges(oldItems, newItems);
     FeedChooser oldFeed(oldItems, installation);
     FeedChooser newFeed(newItems, installation);
-    std::vector<OutcomeChange> changes;
-    for (NamedVersion const& version : versions)
+    // A system's items are looked at once, so that systems come before versions.
+    std::vector<std::vector<OutcomeChange>> changesOf(versions.size());
+    std::vector<std::pair<FeedChoice, FeedChoice>> last(versions.size());
+    for (SystemRange const& range : ranges)
     {
-        bool isContinued = false; // the last change reaches to this range
-        for (SystemRange const& range : ranges)
+        for (std::size_t i = 0; i < versions.size(); ++i)
         {
-            Client const client{version.version, range.first};
-            Outcome const before = OutcomeFor(oldFeed, client);
-            Outcome const after = OutcomeFor(newFeed, client);
-            if (IsSame(before, after))
+            Client const client{versions[i].version, range.first};
+            std::pair<FeedChoice, FeedChoice> now{oldFeed.Answer(client), newFeed.Answer(client)};
+            bool const isChanged = !IsSame(now.first, now.second);
+            if (isChanged && IsSame(now.first, last[i].first) && IsSame(now.second, last[i].second))
             {
-                isContinued = false;
-                continue;
+                changesOf[i].back().systems.to = range.to;
             }
-            if (isContinued && IsSame(changes.back().before, before) && IsSame(changes.back().after, after))
+            else if (isChanged)
             {
-                changes.back().systems.to = range.to;
-                continue;
+                changesOf[i].push_back({versions[i].text, range, OutcomeOf(now.first), OutcomeOf(now.second)});
             }
-            changes.push_back({version.text, range, before, after});
-            isContinued = true;
+            last[i] = std::move(now);
+        }
+    }
+    std::vector<OutcomeChange> changes;
+    for (std::vector<OutcomeChange>& each : changesOf)
+    {
+        std::move(each.begin(), each.end(), std::back_inserter(changes));
+    }
+    return changes;
+}
+
+std::vector<ItemChange> DiffItems(std::vector<Engine::FeedItem> const& oldItems,
+                                  std::vector<Engine::FeedItem> const& newItems)
+{
+    using Kind = std::pair<QString, App::Session::UpdateType>;
+    std::map<Kind, std::deque<Engine::FeedItem const*>> known;
+    for (Engine::FeedItem const& item : oldItems)
+    {
+        known[{item.versionString, UpdateTypeOf(item)}].push_back(&item);
+    }
+    std::vector<ItemChange> changes;
+    for (Engine::FeedItem const& item : newItems)
+    {
+        std::deque<Engine::FeedItem const*>& same = known[{item.versionString, UpdateTypeOf(item)}];
+        for (ItemProperty const& property : ITEM_PROPERTIES)
+        {
+            QString const after = property.text(item);
+            QString const before = same.empty() ? after : property.text(*same.front());
+            if (before != after)
+            {
+                changes.push_back({item.versionString, property.name, before, after});
+            }
+        }
+        if (!same.empty())
+        {
+            same.pop_front();
         }
     }
     return changes;
+}
+
+QStringList TextOf(std::vector<ItemChange> const& changes)
+{
+    QStringList lines;
+    for (ItemChange const& change : changes)
+    {
+        lines.append(QStringLiteral("item %1: %2 %3 -> %4")
+                         .arg(change.version, QLatin1String(change.what), change.before, change.after));
+    }
+    return lines;
 }
 
 QStringList TextOf(std::vector<OutcomeChange> const& changes, std::vector<NamedVersion> const& versions)

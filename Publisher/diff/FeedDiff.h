@@ -41,6 +41,22 @@ std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldIte
                                      std::vector<NamedVersion> const& versions,
                                      Engine::Installation const& installation = {});
 
+/// A change of what an item says of the installations that it is meant for.
+struct ItemChange
+{
+    QString version;
+    char const* what = ""; ///< a name that stays, such as "channel" or "withdrawn"
+    QString before;        ///< "none", "yes", "beta", "below 5.1"
+    QString after;
+};
+
+/// The changes of the items that both feeds have: those of one version and kind, in their order.
+std::vector<ItemChange> DiffItems(std::vector<Engine::FeedItem> const& oldItems,
+                                  std::vector<Engine::FeedItem> const& newItems);
+
+/// Lines for a person: "item 5.3: channel none -> beta".
+QStringList TextOf(std::vector<ItemChange> const& changes);
+
 /// Lines for a person, one for all versions with the same change: "5.0 to 5.2 on all systems: none -> 5.3 BUNDLE".
 QStringList TextOf(std::vector<OutcomeChange> const& changes, std::vector<NamedVersion> const& versions);
 

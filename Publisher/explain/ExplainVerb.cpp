@@ -5,6 +5,8 @@
 #include "Publisher/choice/ClientOptions.h"
 #include "Publisher/explain/ExplanationText.h"
 
+#include <QJsonArray>
+
 namespace Pelnar::Publisher
 {
 namespace
@@ -24,41 +26,22 @@ struct ExplainOptions
 
 ExitStatus Explain(ExplainOptions const& options, Console const& console)
 {
-    auto const local =
+    NamedVersion const local =
         ParseLocalVersion(QStringLiteral("--local-version"), QString::fromStdString(options.localVersion));
-    auto const system =
+    NamedVersion const system =
         ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion));
-    for (auto const* version : {&local, &system})
-    {
-        if (auto const* const problem = std::get_if<Problem>(version))
-        {
-            return console.Refuse(*problem);
-        }
-    }
-    auto const installation = InstallationOf(options.installation);
-    if (auto const* const problem = std::get_if<Problem>(&installation))
-    {
-        return console.Refuse(*problem);
-    }
+    Engine::Installation const installation = InstallationOf(options.installation);
     QString const platform = QString::fromStdString(options.platform);
-    auto const feed =
-        ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                  {PlatformFromName(platform), std::get<Engine::Installation>(installation).machine}, console);
-    if (auto const* const problem = std::get_if<Problem>(&feed))
-    {
-        return console.Refuse(*problem);
-    }
+    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                                      {PlatformFromName(platform), installation.machine}, console);
     PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::DELTA : PreviousAnswer::NONE;
-    Explanation const explanation =
-        ExplainFeed(std::get<ParsedFeed>(feed).items,
-                    {std::get<NamedVersion>(local).version, std::get<NamedVersion>(system).version, previous},
-                    std::get<Engine::Installation>(installation));
-    ExplainQuestion const question{std::get<ParsedFeed>(feed).source.name, std::get<NamedVersion>(local).text,
-                                   std::get<NamedVersion>(system).text, platform, previous};
+    Explanation const explanation = ExplainFeed(feed.items, {local.version, system.version, previous}, installation);
+    ExplainQuestion const question{feed.source.name, local.text, system.text, platform, previous};
     if (options.isJson)
     {
         QJsonObject json = JsonOf(explanation, question);
         AddInstallation(json, options.installation);
+        json.insert(QStringLiteral("trustedKeys"), QJsonArray::fromStringList(installation.trustedKeys));
         console.PrintJson(json);
     }
     else
@@ -86,6 +69,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
     AddPlatformOption(*verb, options->platform);
     AddInstallationOptions(*verb, options->installation);
     AddRolloutGroupOption(*verb, options->installation);
+    AddTrustedKeysOption(*verb, options->installation);
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");

@@ -72,6 +72,7 @@ public:
     {
         Explanation result;
         result.chosen = m_choice.chosen;
+        result.rivals = m_choice.rivals;
         result.chosenIndex = m_choice.full ? int(m_choice.full - m_items.data()) : 0;
         for (FeedItem const& item : m_items)
         {
@@ -109,11 +110,16 @@ private:
         else if (&item == m_choice.chosen)
         {
             result.standing = Standing::Chosen;
-            result.detail = QStringLiteral("chosen");
+            result.detail = QStringLiteral("chosen") + OtherAnswers(item);
             if (result.policy != Engine::PolicyVerdict::Plain)
             {
                 result.detail += QStringLiteral(": ") + Engine::ReasonOf(result.policy, item, m_installation);
             }
+        }
+        else if (std::count(m_choice.rivals.begin(), m_choice.rivals.end(), &item) != 0)
+        {
+            result.standing = Standing::Rival;
+            result.detail = QStringLiteral("may be chosen") + OtherAnswers(item);
         }
         else
         {
@@ -156,6 +162,19 @@ private:
                                ? reason
                                : reason + QStringLiteral("; ") + delta.detail;
         }
+    }
+
+    /// Empty when the answer is definite.
+    QString OtherAnswers(FeedItem const& item) const
+    {
+        QStringList others;
+        for (FeedItem const* const other : m_choice.rivals)
+        {
+            others.append(NameOf(other == &item ? *m_choice.chosen : *other));
+        }
+        return others.isEmpty() ? QString()
+                                : QStringLiteral(", or %1: no rule defines the order of these deltas")
+                                      .arg(others.join(QStringLiteral(", or ")));
     }
 
     QString NameOf(FeedItem const& item) const

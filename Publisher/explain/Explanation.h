@@ -16,6 +16,7 @@ namespace Pelnar::Publisher
 enum class Standing
 {
     Chosen,
+    Rival,    ///< a delta that may be chosen instead: see FeedChoice
     Lost,     ///< valid, and another was preferred
     Refused,  ///< fails a test
     LeftOut,  ///< by the engine: the session does not see it
@@ -41,7 +42,8 @@ struct ItemExplanation
 struct Explanation
 {
     Engine::FeedItem const* chosen = nullptr;
-    int chosenIndex = 0; ///< of the item that was chosen or whose delta was
+    std::vector<Engine::FeedItem const*> rivals; ///< of the chosen delta: see FeedChoice
+    int chosenIndex = 0;                         ///< of the item that was chosen or whose delta was
     std::vector<ItemExplanation> items;
 };
 

@@ -21,9 +21,15 @@ QString TypeName(App::Session::UpdateType type)
     return QLatin1String(App::Session::UpdateTypeName(type));
 }
 
-QJsonValue JsonOfDeltaFrom(FeedItem const& item)
+QJsonObject JsonOfDownload(FeedItem const& item)
 {
-    return item.isDelta ? QJsonValue(item.deltaFrom) : QJsonValue(QJsonValue::Null);
+    return {
+        {QStringLiteral("deltaFrom"), item.isDelta ? QJsonValue(item.deltaFrom) : QJsonValue(QJsonValue::Null)},
+        {QStringLiteral("version"), item.versionString},
+        {QStringLiteral("url"), AddressOf(item)},
+        {QStringLiteral("length"), double(item.contentLength)},
+        {QStringLiteral("updateType"), TypeName(UpdateTypeOf(item))},
+    };
 }
 
 QJsonObject JsonOfExtensions(QVariantMap const& extensions)
@@ -71,6 +77,8 @@ Emphasis EmphasisOf(Standing standing)
     {
     case Standing::Chosen:
         return Emphasis::Good;
+    case Standing::Rival:
+        return Emphasis::Warning;
     case Standing::Lost:
         return Emphasis::None;
     case Standing::Refused:
@@ -133,10 +141,20 @@ QString AnswerOf(Explanation const& explanation)
     }
     FeedItem const& chosen = *explanation.chosen;
     QString const place = QStringLiteral("item %1").arg(explanation.chosenIndex);
+    QString download = place;
+    if (chosen.isDelta)
+    {
+        download = QStringLiteral("the delta from %1").arg(chosen.deltaFrom);
+        for (FeedItem const* const rival : explanation.rivals)
+        {
+            download += QStringLiteral(" or from %1").arg(rival->deltaFrom);
+        }
+        download += QStringLiteral(" of ") + place;
+    }
     return QStringLiteral("%1 as %2, %3, %4")
-        .arg(chosen.versionString, TypeName(UpdateTypeOf(chosen)),
-             chosen.isDelta ? QStringLiteral("the delta from %1 of %2").arg(chosen.deltaFrom, place) : place,
-             SizeOf(chosen));
+        .arg(chosen.versionString, TypeName(UpdateTypeOf(chosen)), download,
+             explanation.rivals.empty() ? SizeOf(chosen)
+                                        : QStringLiteral("as their order decides, which no rule defines"));
 }
 
 } // namespace
@@ -167,14 +185,15 @@ QJsonObject JsonOf(Explanation const& explanation, ExplainQuestion const& questi
     if (explanation.chosen)
     {
         FeedItem const& item = *explanation.chosen;
-        chosen = QJsonObject{
-            {QStringLiteral("index"), explanation.chosenIndex},
-            {QStringLiteral("deltaFrom"), JsonOfDeltaFrom(item)},
-            {QStringLiteral("version"), item.versionString},
-            {QStringLiteral("url"), AddressOf(item)},
-            {QStringLiteral("length"), double(item.contentLength)},
-            {QStringLiteral("updateType"), TypeName(UpdateTypeOf(item))},
-        };
+        QJsonObject answer = JsonOfDownload(item);
+        answer.insert(QStringLiteral("index"), explanation.chosenIndex);
+        QJsonArray rivals;
+        for (FeedItem const* const rival : explanation.rivals)
+        {
+            rivals.append(JsonOfDownload(*rival));
+        }
+        answer.insert(QStringLiteral("rivals"), rivals);
+        chosen = answer;
     }
     QJsonArray items;
     for (ItemExplanation const& item : explanation.items)

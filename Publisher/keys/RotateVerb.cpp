@@ -137,13 +137,9 @@ ExitStatus Rotate(Options const& options, Console const& console)
         throw Refusal({QStringLiteral("--to"), 0, 0, QStringLiteral("is the same key as --from"),
                        QStringLiteral("make a new key with \"keys generate\"")});
     }
-    auto const feed = ReadItems(QString::fromStdString(options.feed), QString(),
-                                PlatformFromName(QString::fromStdString(options.platform)), console);
-    if (auto const* const problem = std::get_if<Problem>(&feed))
-    {
-        throw Refusal(*problem);
-    }
-    Print(StateOf(std::get<ParsedFeed>(feed), options), console);
+    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString(),
+                                      PlatformFromName(QString::fromStdString(options.platform)), console);
+    Print(StateOf(feed, options), console);
     return ExitStatus::Clean;
 }
 

@@ -2,6 +2,7 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Publisher/Refusal.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -57,24 +58,28 @@ std::vector<Stranded> FindStranded(Matrix const& matrix, Core::Version const& ne
     return result;
 }
 
-bool IsWithdrawn(std::vector<Engine::FeedItem> const& items, Core::Version const& version)
+std::vector<Core::Version> WithdrawnVersions(std::vector<Engine::FeedItem> const& items)
 {
-    return std::any_of(items.begin(), items.end(),
-                       [&](Engine::FeedItem const& item)
-                       {
-                           Core::Version const own = item.policy.isWithdrawn
-                                                         ? App::Session::VersionFromStringNoexcept(item.versionString)
-                                                         : Core::Version();
-                           return own.IsValid() && App::Session::IsSameVersion(own, version);
-                       });
+    std::vector<Core::Version> versions;
+    for (Engine::FeedItem const& item : items)
+    {
+        if (item.policy.isWithdrawn)
+        {
+            versions.push_back(App::Session::VersionFromStringNoexcept(item.versionString));
+        }
+    }
+    std::sort(versions.begin(), versions.end(), App::Session::IsOlderVersion);
+    return versions;
 }
 
 std::vector<Withdrawn> FindWithdrawn(Matrix const& matrix, std::vector<Engine::FeedItem> const& items)
 {
+    std::vector<Core::Version> const versions = WithdrawnVersions(items);
     std::vector<Withdrawn> result;
     for (std::size_t row = 0; row < matrix.versions.size(); ++row)
     {
-        if (!IsWithdrawn(items, matrix.versions[row].version))
+        if (!std::binary_search(versions.begin(), versions.end(), matrix.versions[row].version,
+                                App::Session::IsOlderVersion))
         {
             continue;
         }
@@ -129,16 +134,6 @@ QJsonArray TextsOf(std::vector<NamedVersion> const& versions)
     return texts;
 }
 
-/// The outcome that a cell of the JSON describes.
-QString OutcomeText(QJsonValue const& offered)
-{
-    return TextOf(Outcome{offered[QStringLiteral("version")].toString(),
-                          offered[QStringLiteral("updateType")].toString(),
-                          offered[QStringLiteral("deltaFrom")].toString(),
-                          {},
-                          0});
-}
-
 } // namespace
 
 Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedVersion> const& versions,
@@ -153,7 +148,7 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
         std::vector<Outcome>& row = matrix.outcomes.emplace_back();
         for (NamedVersion const& system : systems)
         {
-            row.push_back(OutcomeFor(feed, {version.version, system.version}));
+            row.push_back(OutcomeOf(feed.Answer({version.version, system.version})));
         }
     }
     matrix.withdrawn = FindWithdrawn(matrix, items);
@@ -231,28 +226,31 @@ QStringList TextOf(Matrix const& matrix)
     return lines + StrandedLines(matrix.stranded);
 }
 
-std::variant<std::vector<ExpectedCell>, Problem> ParseExpectation(QString const& file, QByteArray const& json)
+std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const& json)
 {
-    Problem const bad{file, 0, 0, QStringLiteral("not the JSON of pelnar-appcast matrix"),
-                      QStringLiteral("write it with pelnar-appcast matrix FEED ... --json")};
     QJsonValue const cells = QJsonDocument::fromJson(json).object().value(QStringLiteral("cells"));
-    if (!cells.isArray())
-    {
-        return bad;
-    }
-    std::vector<ExpectedCell> expected;
     QJsonArray const list = cells.toArray();
+    bool isGood = cells.isArray();
+    std::vector<ExpectedCell> expected;
     for (QJsonValue const& cell : list)
     {
-        auto const local = ParseLocalVersion(file, cell[QStringLiteral("localVersion")].toString());
-        auto const system = ParseSystemVersion(file, cell[QStringLiteral("systemVersion")].toString());
-        QJsonValue const offered = cell[QStringLiteral("offered")];
-        if (std::holds_alternative<Problem>(local) || std::holds_alternative<Problem>(system) ||
-            !(offered.isNull() || offered.isObject()))
+        auto const versionAt = [&cell](char const* name)
         {
-            return bad;
-        }
-        expected.push_back({std::get<NamedVersion>(local), std::get<NamedVersion>(system), OutcomeText(offered)});
+            QString const text = cell[QLatin1String(name)].toString();
+            return NamedVersion{text, App::Session::VersionFromStringNoexcept(text)};
+        };
+        NamedVersion const local = versionAt("localVersion");
+        NamedVersion const system = versionAt("systemVersion");
+        QJsonValue const offered = cell[QStringLiteral("offered")];
+        isGood = isGood && local.version.IsValid() &&
+                 (system.version.IsValid() || system.text == QLatin1String(UNKNOWN_SYSTEM)) &&
+                 (offered.isNull() || offered.isObject());
+        expected.push_back({local, system, TextOf(OutcomeOf(offered))});
+    }
+    if (!isGood)
+    {
+        throw Refusal({file, 0, 0, QStringLiteral("not the JSON of pelnar-appcast matrix"),
+                       QStringLiteral("write it with pelnar-appcast matrix FEED ... --json")});
     }
     return expected;
 }

@@ -8,7 +8,6 @@
 #include <QJsonObject>
 #include <QStringList>
 
-#include <variant>
 #include <vector>
 
 namespace Pelnar::Publisher
@@ -56,9 +55,8 @@ struct ExpectedCell
     QString outcome; ///< as TextOf says it
 };
 
-/// Reads the JSON of an earlier run. \a file is named in problems.
-[[nodiscard]] std::variant<std::vector<ExpectedCell>, Problem> ParseExpectation(QString const& file,
-                                                                                QByteArray const& json);
+/// Reads the JSON of an earlier run. Throws Refusal, which names \a file.
+[[nodiscard]] std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const& json);
 
 /// One line for every cell that is not as expected; addresses and sizes may change.
 QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& expected);

@@ -27,20 +27,20 @@ struct MatrixOptions
     bool isJson = false;
 };
 
-using Versions = std::variant<std::vector<NamedVersion>, Problem>;
+using Versions = std::vector<NamedVersion>;
 
-std::variant<std::vector<ExpectedCell>, Problem> ReadExpectation(MatrixOptions const& options)
+std::vector<ExpectedCell> ReadExpectation(MatrixOptions const& options)
 {
     if (options.expectation.empty())
     {
-        return std::vector<ExpectedCell>();
+        return {};
     }
     QString const name = QString::fromStdString(options.expectation);
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
     {
-        return Problem{name, 0, 0, QStringLiteral("cannot be read: ") + file.errorString(),
-                       QStringLiteral("give the JSON that an earlier run of matrix wrote")};
+        throw Refusal({name, 0, 0, QStringLiteral("cannot be read: ") + file.errorString(),
+                       QStringLiteral("give the JSON that an earlier run of matrix wrote")});
     }
     return ParseExpectation(name, file.readAll());
 }
@@ -117,42 +117,17 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
 {
     if (options.expectation.empty() && (options.versions.empty() || options.systems.empty()))
     {
-        return console.Refuse({QString(), 0, 0,
-                               QStringLiteral("--versions and --systems are required without --expect"),
-                               QStringLiteral("see pelnar-appcast matrix --help")});
+        throw Refusal({QString(), 0, 0, QStringLiteral("--versions and --systems are required without --expect"),
+                       QStringLiteral("see pelnar-appcast matrix --help")});
     }
-    auto const expectation = ReadExpectation(options);
-    if (auto const* const problem = std::get_if<Problem>(&expectation))
-    {
-        return console.Refuse(*problem);
-    }
-    auto const& expected = std::get<std::vector<ExpectedCell>>(expectation);
-    auto const read = InstallationOf(options.installation);
-    if (auto const* const problem = std::get_if<Problem>(&read))
-    {
-        return console.Refuse(*problem);
-    }
-    auto const& installation = std::get<Engine::Installation>(read);
+    std::vector<ExpectedCell> const expected = ReadExpectation(options);
+    Engine::Installation const installation = InstallationOf(options.installation);
     QString const platform = QString::fromStdString(options.platform);
-    auto const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                                {PlatformFromName(platform), installation.machine}, console);
-    if (auto const* const problem = std::get_if<Problem>(&feed))
-    {
-        return console.Refuse(*problem);
-    }
-    std::vector<Engine::FeedItem> const& items = std::get<ParsedFeed>(feed).items;
-    Versions const versions = InstalledVersions(options, expected, items);
-    Versions const systems = Systems(options, expected);
-    for (Versions const* list : {&versions, &systems})
-    {
-        if (auto const* const problem = std::get_if<Problem>(list))
-        {
-            return console.Refuse(*problem);
-        }
-    }
-    Matrix matrix = MakeMatrix(items, std::get<std::vector<NamedVersion>>(versions),
-                               std::get<std::vector<NamedVersion>>(systems), installation);
-    matrix.feed = std::get<ParsedFeed>(feed).source.name;
+    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
+                                      {PlatformFromName(platform), installation.machine}, console);
+    Matrix matrix = MakeMatrix(feed.items, InstalledVersions(options, expected, feed.items), Systems(options, expected),
+                               installation);
+    matrix.feed = feed.source.name;
     matrix.platform = platform;
     return Answer(matrix, expected, options, console);
 }

@@ -3,20 +3,43 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 
+#include <QJsonArray>
+
 #include <algorithm>
+#include <iterator>
 
 namespace Pelnar::Publisher
 {
 
-Outcome OutcomeFor(FeedChooser& feed, Client const& client)
+Outcome OutcomeOf(FeedChoice const& choice)
 {
-    Engine::FeedItem const* const chosen = feed.Chosen(client);
-    if (!chosen)
+    if (!choice.chosen)
     {
         return {};
     }
-    return {chosen->versionString, QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(*chosen))),
-            chosen->deltaFrom, chosen->fileUrl.toString(QUrl::FullyEncoded), chosen->contentLength};
+    Engine::FeedItem const& chosen = *choice.chosen;
+    Outcome outcome{chosen.versionString, QLatin1String(App::Session::UpdateTypeName(UpdateTypeOf(chosen))),
+                    chosen.deltaFrom,     chosen.fileUrl.toString(QUrl::FullyEncoded),
+                    chosen.contentLength, {}};
+    for (Engine::FeedItem const* const rival : choice.rivals)
+    {
+        outcome.rivals.push_back(OutcomeOf(FeedChoice{rival, nullptr, {}, {}}));
+    }
+    return outcome;
+}
+
+Outcome OutcomeOf(QJsonValue const& json)
+{
+    Outcome outcome{json[QStringLiteral("version")].toString(),
+                    json[QStringLiteral("updateType")].toString(),
+                    json[QStringLiteral("deltaFrom")].toString(),
+                    {},
+                    0,
+                    {}};
+    QJsonArray const rivals = json[QStringLiteral("rivals")].toArray();
+    std::transform(rivals.begin(), rivals.end(), std::back_inserter(outcome.rivals),
+                   [](QJsonValue const& rival) { return OutcomeOf(rival); });
+    return outcome;
 }
 
 QString TextOf(Outcome const& outcome)
@@ -25,9 +48,13 @@ QString TextOf(Outcome const& outcome)
     {
         return QStringLiteral("none");
     }
-    QString const text = outcome.version + QLatin1Char(' ') + outcome.updateType;
-    QString const from = outcome.deltaFrom.isEmpty() ? QString() : QStringLiteral(" from ") + outcome.deltaFrom;
-    return text + from;
+    QString text = outcome.version + QLatin1Char(' ') + outcome.updateType;
+    text += outcome.deltaFrom.isEmpty() ? QString() : QStringLiteral(" from ") + outcome.deltaFrom;
+    for (Outcome const& rival : outcome.rivals)
+    {
+        text += QStringLiteral(" or from ") + rival.deltaFrom;
+    }
+    return text;
 }
 
 QJsonValue JsonOf(Outcome const& outcome)
@@ -44,6 +71,15 @@ QJsonValue JsonOf(Outcome const& outcome)
         {QStringLiteral("url"), outcome.url},
         {QStringLiteral("length"), double(outcome.length)},
     };
+    QJsonArray rivals;
+    for (Outcome const& rival : outcome.rivals)
+    {
+        rivals.append(JsonOf(rival));
+    }
+    if (!rivals.isEmpty())
+    {
+        object.insert(QStringLiteral("rivals"), rivals);
+    }
     return object;
 }
 

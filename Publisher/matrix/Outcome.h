@@ -21,13 +21,16 @@ struct Outcome
     QString deltaFrom; ///< empty for a full item
     QString url;
     quint64 length = 0;
+    std::vector<Outcome> rivals; ///< of which the client may take one instead: see FeedChoice
 
     [[nodiscard]] bool IsUpdate() const { return !version.isEmpty(); }
 };
 
-Outcome OutcomeFor(FeedChooser& feed, Client const& client);
+Outcome OutcomeOf(FeedChoice const& choice);
+/// What JsonOf wrote; addresses and lengths are left out.
+Outcome OutcomeOf(QJsonValue const& json);
 
-/// "5.2 DELTA from 5.1", or "none".
+/// "5.2 DELTA from 5.1", "5.2 DELTA from 5.1 or from 5.1.0", or "none".
 QString TextOf(Outcome const& outcome);
 /// Null for none.
 QJsonValue JsonOf(Outcome const& outcome);

@@ -30,17 +30,6 @@ struct SimulateOptions
     bool isJson = false;
 };
 
-/// The value, or its problem as a Refusal.
-template <class T>
-T Need(std::variant<T, Problem> value)
-{
-    if (auto const* const problem = std::get_if<Problem>(&value))
-    {
-        throw Refusal(*problem);
-    }
-    return std::get<T>(std::move(value));
-}
-
 /// The moment of the command line, else that of the newest item whose date can be read, else now.
 QDateTime StartOf(std::vector<Engine::FeedItem> const& items, SimulateOptions const& options, QDateTime const& given)
 {
@@ -74,17 +63,16 @@ QJsonObject JsonOf(Simulation const& simulation, SimulateOptions const& options,
 ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
 {
     SimulationRequest request;
-    request.installation = Need(InstallationOf(options.installation));
+    request.installation = InstallationOf(options.installation);
     request.systemVersion =
-        Need(ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion)))
-            .version;
-    ParsedFeed const feed = Need(
+        ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion)).version;
+    ParsedFeed const feed =
         ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                  {PlatformFromName(QString::fromStdString(options.platform)), request.installation.machine}, console));
+                  {PlatformFromName(QString::fromStdString(options.platform)), request.installation.machine}, console);
     request.startVersions = options.versions.empty()
                                 ? VersionsOfFeed(feed.items)
-                                : Need(ParseVersionList(QStringLiteral("--versions"),
-                                                        QString::fromStdString(options.versions), ParseLocalVersion));
+                                : ParseVersionList(QStringLiteral("--versions"),
+                                                   QString::fromStdString(options.versions), ParseLocalVersion);
     if (request.startVersions.empty())
     {
         throw Refusal({feed.source.name, 0, 0, QStringLiteral("names no version to begin with"),

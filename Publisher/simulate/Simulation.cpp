@@ -40,7 +40,7 @@ public:
         if (isNew)
         {
             Client const client{version.version, systemVersion};
-            Engine::FeedItem const* const item = m_chooser.Chosen(client);
+            Engine::FeedItem const* const item = m_chooser.Answer(client).chosen;
             bool const isTaken =
                 item && PolicyOf(*item, InstallationOf(client, installation)) != Engine::PolicyVerdict::Informational;
             if (isTaken)

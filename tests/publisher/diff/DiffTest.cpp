@@ -3,6 +3,7 @@
 #include "Engine/core/feed/FeedParser.h"
 #include "Publisher/diff/FeedDiff.h"
 #include "tests/publisher/support/AppcastTool.h"
+#include "tests/support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
@@ -12,6 +13,7 @@
 #include <QJsonObject>
 #include <QTemporaryDir>
 
+#include <ctime>
 #include <random>
 
 namespace Pelnar::Testing
@@ -37,8 +39,9 @@ QByteArray Maximum(QByteArray const& version)
 
 QByteArray FeedOf(QByteArray const& items)
 {
-    return "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" + items +
-           "</channel></rss>";
+    return "<rss xmlns:sparkle='http://www.andymatuschak.org/xml-namespaces/sparkle' "
+           "xmlns:p='https://pelnar.example/xml-namespaces/appcast'><channel>" +
+           items + "</channel></rss>";
 }
 
 std::vector<Engine::FeedItem> ItemsOf(QByteArray const& items)
@@ -86,7 +89,8 @@ TEST_F(Diff, ANewVersionReachesAllThatAreOlder)
 TEST_F(Diff, NamesTheSystemsByTheBoundsOfBothFeeds)
 {
     ToolRun const run = Run(Item("5.1", Maximum("12")), Item("5.1", Minimum("11")));
-    EXPECT_EQ(run.out, "0 on systems below 11: 5.1 BUNDLE -> none\n0 on systems above 12: none -> 5.1 BUNDLE\n");
+    EXPECT_EQ(run.out, "item 5.1: minimumSystemVersion none -> 11\nitem 5.1: maximumSystemVersion 12 -> none\n"
+                       "0 on systems below 11: 5.1 BUNDLE -> none\n0 on systems above 12: none -> 5.1 BUNDLE\n");
 }
 
 TEST_F(Diff, JoinsRangesWithTheSameChange)
@@ -127,6 +131,86 @@ TEST_F(Diff, FeedsThatCannotBeReadAreRefused)
               2);
 }
 
+TEST_F(Diff, TellsOfItemsThatAreMeantForOthersNow)
+{
+    struct Row
+    {
+        char const* before;
+        char const* after;
+        char const* line;
+    };
+    Row const rows[] = {
+        {"", "<sparkle:channel>beta</sparkle:channel>", "item 5.1: channel none -> beta\n"},
+        {"", "<p:withdrawn/>", "item 5.1: withdrawn none -> yes\n"},
+        {"", "<sparkle:criticalUpdate/>", "item 5.1: critical none -> yes\n"},
+        {"<sparkle:criticalUpdate/>", "<sparkle:criticalUpdate sparkle:version='5.0'/>",
+         "item 5.1: critical yes -> below 5.0\n"},
+        {"", "<sparkle:informationalUpdate/>", "item 5.1: informational none -> yes\n"},
+        {"<sparkle:informationalUpdate/>",
+         "<sparkle:informationalUpdate><sparkle:version>4</sparkle:version><sparkle:belowVersion>3"
+         "</sparkle:belowVersion></sparkle:informationalUpdate>",
+         "item 5.1: informational yes -> 4, below 3\n"},
+        {"<sparkle:phasedRolloutInterval>3600</sparkle:phasedRolloutInterval>", "",
+         "item 5.1: phasedRolloutInterval 3600 seconds -> none\n"},
+        {"", "<sparkle:minimumUpdateVersion>4</sparkle:minimumUpdateVersion>",
+         "item 5.1: minimumUpdateVersion none -> 4\n"},
+        {"", "<sparkle:minimumAutoupdateVersion>4</sparkle:minimumAutoupdateVersion>",
+         "item 5.1: minimumAutoupdateVersion none -> 4\n"},
+        {"", "<sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion>",
+         "item 5.1: minimumSystemVersion none -> 12\n"},
+        {"<sparkle:maximumSystemVersion>12</sparkle:maximumSystemVersion>", "",
+         "item 5.1: maximumSystemVersion 12 -> none\n"},
+    };
+    for (Row const& row : rows)
+    {
+        QByteArray const other = Item("5.0");
+        ToolRun const run = Run(other + Item("5.1", row.before), Item("5.1", row.after) + other);
+        EXPECT_EQ(run.out.substr(0, run.out.find('\n') + 1), row.line);
+        EXPECT_EQ(run.status, 1);
+    }
+    QJsonArray const items = Run(Item("5.1"), Item("5.1", "<p:withdrawn/>"), {QStringLiteral("--json")})
+                                 .Json()
+                                 .value(QStringLiteral("items"))
+                                 .toArray();
+    ASSERT_EQ(items.size(), 1);
+    EXPECT_EQ(items.at(0).toObject(), (QJsonObject{{QStringLiteral("version"), QStringLiteral("5.1")},
+                                                   {QStringLiteral("what"), QStringLiteral("withdrawn")},
+                                                   {QStringLiteral("before"), QStringLiteral("none")},
+                                                   {QStringLiteral("after"), QStringLiteral("yes")}}));
+}
+
+TEST_F(Diff, SaysNothingOfDeltasWhoseOrderChangesNothing)
+{
+    QByteArray const a = "<enclosure url='https://a.example/a' length='3' sparkle:deltaFrom='5'/>";
+    QByteArray const b = "<enclosure url='https://a.example/b' length='3' sparkle:deltaFrom='5.0'/>";
+    auto const with = [](QByteArray const& deltas)
+    { return Item("5.1", "<sparkle:deltas>" + deltas + "</sparkle:deltas>"); };
+    EXPECT_EQ(Run(with(a + b), with(b + a)).status, 0);
+    ToolRun const run = Run(with(a), with(a + b));
+    EXPECT_EQ(run.out, "5 on all systems: 5.1 DELTA from 5 -> 5.1 DELTA from 5 or from 5.0\n");
+}
+
+TEST(FeedDiff, ComparesTheLargestFeedsQuickly)
+{
+    std::vector<Engine::FeedItem> oldItems;
+    for (int i = 1; i <= 2000; ++i)
+    {
+        Engine::FeedItem item;
+        item.versionString = QStringLiteral("5.%1").arg(i);
+        item.fileUrl = QUrl(QStringLiteral("https://a.example/%1.zip").arg(i));
+        item.contentLength = 9;
+        item.policy.minimumUpdateVersion = QStringLiteral("5.%1").arg(2000 - i);
+        item.minimumSystemVersion = QString::number(i % 50);
+        oldItems.push_back(item);
+    }
+    std::vector<Engine::FeedItem> newItems = oldItems;
+    newItems.back().contentLength = 10;
+    std::clock_t const start = std::clock();
+    EXPECT_FALSE(Publisher::DiffFeeds(oldItems, newItems, Publisher::VersionsOfFeed(oldItems)).empty());
+    double const seconds = double(std::clock() - start) / CLOCKS_PER_SEC;
+    EXPECT_LT(seconds, IS_SANITIZED ? 200 : 20) << "a release build takes a tenth";
+}
+
 TEST(SystemRanges, LeaveNoSystemOut)
 {
     auto const ranges =
@@ -164,8 +248,8 @@ TEST(SystemRanges, WithinARangeEverySystemHasTheSameOutcome)
                 holder = isBelow ? holder : &range;
             }
             ASSERT_NE(holder, nullptr);
-            EXPECT_EQ(Publisher::TextOf(Publisher::OutcomeFor(chooser, {Core::Version(1), system})),
-                      Publisher::TextOf(Publisher::OutcomeFor(chooser, {Core::Version(1), holder->first})))
+            EXPECT_EQ(Publisher::TextOf(Publisher::OutcomeOf(chooser.Answer({Core::Version(1), system}))),
+                      Publisher::TextOf(Publisher::OutcomeOf(chooser.Answer({Core::Version(1), holder->first}))))
                 << items.toStdString();
         }
     }

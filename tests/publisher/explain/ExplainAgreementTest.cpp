@@ -141,7 +141,7 @@ TEST(ExplainAgreement, OneReadingOfAFeedServesManyClients)
             {
                 Publisher::Client const client{local, system};
                 Engine::FeedItem const* const chosen = Publisher::ChooseFromFeed(feed.items, client).chosen;
-                ASSERT_EQ(Text(chooser.Chosen(client)), Text(chosen)) << bytes.toStdString();
+                ASSERT_EQ(Text(chooser.Answer(client).chosen), Text(chosen)) << bytes.toStdString();
                 ASSERT_EQ(Text(chooser.Choose(client).chosen), Text(chosen)) << bytes.toStdString();
                 updates += chosen ? 1 : 0;
             }

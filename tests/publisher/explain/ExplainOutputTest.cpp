@@ -60,6 +60,64 @@ TEST(ExplainOutput, SaysNoUpdate)
     EXPECT_EQ(run.out, "<stdin>: 0 items for macos\n5.1 on system 12 is offered: no update\n");
 }
 
+TEST(ExplainOutput, SaysThatNoRuleDefinesTheOrderOfDeltasOfOneStart)
+{
+    QByteArray const feed = R"(<rss xmlns:sparkle="http://www.andymatuschak.org/xml-namespaces/sparkle"><channel>
+<item><enclosure url="https://dl.example.com/5.2.zip" length="2000" sparkle:version="5.2"/>
+<sparkle:deltas><enclosure url="https://dl.example.com/b" length="300" sparkle:deltaFrom="5.1.0"/>
+<enclosure url="https://dl.example.com/a" length="300" sparkle:deltaFrom="5.1"/></sparkle:deltas></item>
+</channel></rss>)";
+    ToolRun const run = RunTool(Line({}), feed);
+    EXPECT_EQ(run.out, R"(<stdin>: 1 item for macos
+item 0: 5.2  BUNDLE  2000 bytes
+  valid: lost to the delta from 5.1.0: kind, DELTA is wanted before BUNDLE
+  https://dl.example.com/5.2.zip
+  delta 0, from 5.1.0: 5.2  DELTA  300 bytes
+    valid: may be chosen, or the delta from 5.1: no rule defines the order of these deltas
+    https://dl.example.com/b
+  delta 1, from 5.1: 5.2  DELTA  300 bytes
+    valid: chosen, or the delta from 5.1.0: no rule defines the order of these deltas
+    https://dl.example.com/a
+5.1 on system 12 is offered: 5.2 as DELTA, the delta from 5.1 or from 5.1.0 of item 0, as their order decides, which no rule defines
+)");
+    QJsonObject const chosen =
+        RunTool(Line({QStringLiteral("--json")}), feed).Json().value(QStringLiteral("chosen")).toObject();
+    EXPECT_EQ(chosen.value(QStringLiteral("deltaFrom")).toString(), QStringLiteral("5.1"));
+    QJsonArray const rivals = chosen.value(QStringLiteral("rivals")).toArray();
+    ASSERT_EQ(rivals.size(), 1);
+    EXPECT_EQ(rivals.at(0).toObject().value(QStringLiteral("deltaFrom")).toString(), QStringLiteral("5.1.0"));
+    EXPECT_EQ(rivals.at(0).toObject().value(QStringLiteral("url")).toString(),
+              QStringLiteral("https://dl.example.com/b"));
+}
+
+TEST(ExplainOutput, AsksWhatAClientTakesThatTrustsTheseKeys)
+{
+    // Points of the curve that are short to write.
+    QString const one = QString::fromLatin1(QByteArray(32, 6).toBase64());
+    QString const two = QString::fromLatin1(QByteArray(32, 25).toBase64());
+    QStringList const both = Line({QStringLiteral("--public-key"), one, QStringLiteral("--public-key"), two});
+    QJsonArray const ids = RunTool(both + QStringList(QStringLiteral("--json")), FEED)
+                               .Json()
+                               .value(QStringLiteral("trustedKeys"))
+                               .toArray();
+    ASSERT_EQ(ids.size(), 2);
+    QByteArray const keys = "<p:keys xmlns:p='https://pelnar.example/xml-namespaces/appcast' signer='" +
+                            ids.at(1).toString().toLatin1() + "'/>";
+    QByteArray const feed = QByteArray(FEED)
+                                .replace("<title>Pelnar 5.2", keys + "<title>Pelnar 5.2")
+                                .replace("<enclosure", "<enclosure sparkle:edSignature='c2ln'");
+    EXPECT_NE(RunTool(both, feed).out.find("is offered: 5.2"), std::string::npos);
+    ToolRun const other = RunTool(Line({QStringLiteral("--public-key"), one}), feed);
+    EXPECT_NE(other.out.find("key-not-trusted: signed by the key " + ids.at(1).toString().toStdString() +
+                             ", trusted: " + ids.at(0).toString().toStdString()),
+              std::string::npos)
+        << other.out;
+    EXPECT_NE(other.out.find("is offered: no update"), std::string::npos);
+    ToolRun const bad = RunTool(Line({QStringLiteral("--public-key"), QStringLiteral("garbage")}), FEED);
+    EXPECT_EQ(bad.status, 2);
+    EXPECT_NE(bad.err.find("--public-key: \"garbage\" is no Ed25519 key"), std::string::npos) << bad.err;
+}
+
 TEST(ExplainOutput, AnswersAfterADelta)
 {
     ToolRun const run = RunTool(Line({QStringLiteral("--after-delta")}), FEED);
@@ -73,10 +131,11 @@ TEST(ExplainOutput, TheJsonHasTheDocumentedMembers)
     ToolRun const run = RunTool(Line({QStringLiteral("--json")}), FEED);
     EXPECT_EQ(run.status, 0);
     QJsonObject const object = run.Json();
-    EXPECT_EQ(object.keys(), (QStringList{QStringLiteral("channels"), QStringLiteral("chosen"), QStringLiteral("feed"),
-                                          QStringLiteral("items"), QStringLiteral("localVersion"),
-                                          QStringLiteral("machine"), QStringLiteral("platform"),
-                                          QStringLiteral("rolloutGroup"), QStringLiteral("systemVersion")}));
+    EXPECT_EQ(object.keys(),
+              (QStringList{QStringLiteral("channels"), QStringLiteral("chosen"), QStringLiteral("feed"),
+                           QStringLiteral("items"), QStringLiteral("localVersion"), QStringLiteral("machine"),
+                           QStringLiteral("platform"), QStringLiteral("rolloutGroup"), QStringLiteral("systemVersion"),
+                           QStringLiteral("trustedKeys")}));
     EXPECT_EQ(object[QStringLiteral("feed")], QStringLiteral("<stdin>"));
     EXPECT_EQ(object[QStringLiteral("localVersion")], QStringLiteral("5.1"));
     EXPECT_EQ(object[QStringLiteral("systemVersion")], QStringLiteral("12"));
@@ -87,7 +146,8 @@ TEST(ExplainOutput, TheJsonHasTheDocumentedMembers)
                            {QStringLiteral("version"), QStringLiteral("5.2")},
                            {QStringLiteral("url"), QStringLiteral("https://dl.example.com/5.1-5.2.delta")},
                            {QStringLiteral("length"), 300},
-                           {QStringLiteral("updateType"), QStringLiteral("DELTA")}}));
+                           {QStringLiteral("updateType"), QStringLiteral("DELTA")},
+                           {QStringLiteral("rivals"), QJsonArray()}}));
     QJsonArray const items = object[QStringLiteral("items")].toArray();
     ASSERT_EQ(items.size(), 2);
     EXPECT_EQ(items[0].toObject()[QStringLiteral("extensions")].toObject(),

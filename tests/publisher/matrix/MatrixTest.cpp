@@ -195,4 +195,20 @@ TEST(Matrix, BadArgumentsAreRefused)
               "5.1.2\n");
 }
 
+TEST_F(MatrixGate, NamesEveryDeltaThatMayBeTaken)
+{
+    QByteArray const two = QByteArray(FEED).replace(
+        "</sparkle:deltas>",
+        "<enclosure url='https://dl.example.com/e' length='3' sparkle:deltaFrom='5.1.0'/></sparkle:deltas>");
+    ToolRun const run = RunTool(Of("5.1", "12"), two);
+    EXPECT_NE(run.out.find("5.2 DELTA from 5.1 or from 5.1.0"), std::string::npos) << run.out;
+    QString const expectation = Expectation(two);
+    EXPECT_EQ(RunTool(Line({QStringLiteral("--expect"), expectation}), two).status, 0);
+    ToolRun const other = RunTool(Line({QStringLiteral("--expect"), expectation}), FEED);
+    EXPECT_EQ(other.status, 1);
+    EXPECT_NE(other.err.find("5.1 on 12: 5.2 DELTA from 5.1, expected 5.2 DELTA from 5.1 or from 5.1.0"),
+              std::string::npos)
+        << other.err;
+}
+
 } // namespace Pelnar::Testing

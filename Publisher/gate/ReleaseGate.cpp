@@ -9,6 +9,7 @@
 #include <set>
 
 #include <elf.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 
 namespace Pelnar::Publisher
@@ -114,7 +115,15 @@ QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& 
     }
     // A bundle that names no program has the one that is named after the folder that it is installed as.
     Engine::BundleInformation const information = Engine::ReadBundleInformation(bundle.Descriptor(), nameWhenInstalled);
-    return EntryText(bundle, information.executable);
+    QString text = EntryText(bundle, information.executable);
+    struct stat status;
+    if (::fstatat(bundle.Descriptor(), information.executable.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
+    {
+        text += S_ISLNK(status.st_mode)   ? QStringLiteral(" is a link")
+                : S_ISDIR(status.st_mode) ? QStringLiteral(" is a folder")
+                                          : QString();
+    }
+    return text;
 }
 
 /// The check of one client; reports a fault once, whichever client meets it first.

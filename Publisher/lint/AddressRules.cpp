@@ -3,7 +3,6 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
-#include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
@@ -24,12 +23,21 @@ using App::Session::VersionFromStringNoexcept;
 /// Of no place that a client on another network reaches.
 bool IsNear(QUrl const& url)
 {
-    QString const host = url.host();
-    QHostAddress const address(host);
+    QString host = url.host();
+    while (host.endsWith(QLatin1Char('.')))
+    {
+        host.chop(1); // the root of all names
+    }
+    QHostAddress address(host);
+    bool holdsIPv4 = false;
+    quint32 const number = address.toIPv4Address(&holdsIPv4);
+    address = holdsIPv4 ? QHostAddress(number) : address; // that an address of IPv6 may hold
     if (!address.isNull())
     {
         static QPair<QHostAddress, int> const PRIVATE[] = {
+            QHostAddress::parseSubnet(QStringLiteral("0.0.0.0/8")),
             QHostAddress::parseSubnet(QStringLiteral("10.0.0.0/8")),
+            QHostAddress::parseSubnet(QStringLiteral("100.64.0.0/10")),
             QHostAddress::parseSubnet(QStringLiteral("172.16.0.0/12")),
             QHostAddress::parseSubnet(QStringLiteral("192.168.0.0/16")),
             QHostAddress::parseSubnet(QStringLiteral("169.254.0.0/16")),
@@ -40,7 +48,7 @@ bool IsNear(QUrl const& url)
                                                    [&](auto const& subnet) { return address.isInSubnet(subnet); });
     }
     constexpr char const* ENDINGS[] = {".localhost", ".local", ".internal", ".lan", ".home.arpa"};
-    return Engine::IsLoopback(url) || (!host.isEmpty() && !host.contains(QLatin1Char('.'))) ||
+    return (!host.isEmpty() && !host.contains(QLatin1Char('.'))) ||
            std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
                        [&](char const* ending) { return host.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
 }
@@ -51,7 +59,8 @@ bool IsWebPage(LintDownload const& download)
     QString const path = download.item->fileUrl.path();
     QString const type =
         download.enclosure ? download.enclosure->PlainAttribute("type").value_or(QString()).trimmed() : QString();
-    return path.isEmpty() || type.startsWith(QLatin1String("text/html"), Qt::CaseInsensitive) ||
+    return path.isEmpty() || path.contains(QLatin1String("/releases/tag/")) ||
+           type.startsWith(QLatin1String("text/html"), Qt::CaseInsensitive) ||
            std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
                        [&](char const* ending) { return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
 }

@@ -104,10 +104,11 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
     }
 }
 
-/// Packages of other systems that clients for Linux are offered.
+/// Packages of other systems, and of other formats, that clients for Linux are offered.
 void CheckPackage(LintItem const& item, LintFindings& findings)
 {
-    constexpr char const* ENDINGS[] = {".dmg", ".pkg", ".mpkg", ".exe", ".msi", ".msix", ".apk", ".ipa"};
+    constexpr char const* ENDINGS[] = {".dmg", ".pkg", ".mpkg", ".exe",      ".msi", ".msix",    ".apk", ".ipa",
+                                       ".deb", ".rpm", ".snap", ".appimage", ".run", ".flatpak", ".7z",  ".rar"};
     QString const name = item.full.item->fileUrl.fileName();
     bool const isForeign =
         std::any_of(std::begin(ENDINGS), std::end(ENDINGS),

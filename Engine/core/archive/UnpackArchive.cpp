@@ -214,8 +214,16 @@ std::vector<EntryRefusal> FindRefusedEntries(int archiveFd, std::size_t most)
             return refusals;
         }
     }
-    // Refusals below a refused folder, and of a link to a refused entry, are only consequences.
-    return refusals.empty() ? policy.FindRefusals(most) : refusals;
+    // Of a link to a refused entry, and below a refused folder, other refusals are only consequences.
+    bool const isFirst = refusals.empty();
+    for (EntryRefusal& refusal : policy.FindRefusals(most - refusals.size()))
+    {
+        if (isFirst || refusal.fault == UpdateFault::LinkEscapes)
+        {
+            refusals.push_back(std::move(refusal));
+        }
+    }
+    return refusals;
 }
 
 } // namespace Pelnar::Engine

@@ -148,6 +148,24 @@ TEST_F(Accident, ProgramMayNotBeExecuted)
     ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program may not be executed: \"Test.app/Test\"; chmod 755"});
 }
 
+TEST_F(Accident, ProgramIsALinkOrAFolder)
+{
+    for (bool const isLink : {true, false})
+    {
+        std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
+        for (ForgedEntry& entry : entries)
+        {
+            if (entry.path == "Test.app/Test")
+            {
+                entry = isLink ? ForgedEntry{entry.path, 'l', "data"} : ForgedEntry{entry.path, 'd', {}, 0755};
+            }
+        }
+        m_folder.Put("Test-2.0.tar.xz", MakeArchive(Container::TarXz, entries));
+        ExpectRefused(Generate(),
+                      {"Test-2.0.tar.xz: ", isLink ? "\"Test.app/Test\" is a link" : "\"Test.app/Test\" is a folder"});
+    }
+}
+
 TEST_F(Accident, ProgramIsForAnotherMachine)
 {
     BundleText text = Version("2.0");
@@ -422,6 +440,9 @@ TEST_F(Accident, EveryLinkThatLeadsAstrayIsNamed)
     m_folder.Put("Test-2.0.tar.gz", MakeArchive(Container::TarGzip, entries));
     ExpectRefused(Generate(),
                   {"a link leads nowhere: \"Test.app/a\"", "a link leads out of the bundle: \"Test.app/b\""});
+    entries.push_back({"Test.app/c", 'l', "/etc/passwd"});
+    m_folder.Put("Test-2.0.tar.gz", MakeArchive(Container::TarGzip, entries));
+    ExpectRefused(Generate(), {"\"Test.app/c\"", "a link leads out of the bundle: \"Test.app/b\""});
 }
 
 TEST_F(Accident, EncryptedEntryIsNamed)

@@ -230,7 +230,7 @@ void AddVersionCases(std::vector<LintCase>& cases)
 
 void AddOfferCases(std::vector<LintCase>& cases)
 {
-    for (char const* const name : {"App.dmg", "App.PKG", "App.exe", "App.msi"})
+    for (char const* const name : {"App.dmg", "App.PKG", "App.exe", "App.msi", "App.deb", "App.AppImage"})
     {
         cases.push_back({std::string("ForeignPackage") + QByteArray(name).replace('.', "").toStdString(),
                          FeedOf(WithAddress("https://dl.example.com/" + QByteArray(name))),
@@ -339,6 +339,11 @@ void AddAddressCases(std::vector<LintCase>& cases)
         {"NearAddressOfAPrivateNetworkOfIPv6", "https://[fd00::1]/a.zip", "near-address 2:7 "},
         {"NearAddressOfAnIntranet", "https://build/a.zip", "near-address 2:7 "},
         {"NearAddressByItsEnding", "https://nas.local/a.zip", "near-address 2:7 "},
+        {"NearAddressWithADotAtItsEnd", "https://localhost./a.zip", "near-address 2:7 "},
+        {"NearAddressInsideOneOfIPv6", "https://[::ffff:10.0.0.1]/a.zip", "near-address 2:7 "},
+        {"NearAddressOfNoHost", "https://0.0.0.0/a.zip", "near-address 2:7 "},
+        {"NearAddressBehindAProvider", "https://100.64.0.1/a.zip", "near-address 2:7 "},
+        {"WebPageOfARelease", "https://a.example/x/releases/tag/v1", "web-page-download 2:7 "},
         {"PublicAddressInDigitsPasses", "https://9.9.9.9/a.zip", ""},
         {"WebPageDownload", "https://a.example/download.html", "web-page-download 2:7 "},
         {"WebPageOfAFolder", "https://a.example/download/", "web-page-download 2:7 "},

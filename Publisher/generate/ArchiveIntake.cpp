@@ -223,9 +223,37 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     item.trustedIds = version.trustedIds;
     BelieveStatement(version, m_feed.With({}));
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
+    WarnOf(version);
     item.machines = version.machines;
     m_versions.push_back(std::move(version));
     return item;
+}
+
+/// Of what clients take, and the publisher hardly means.
+void ArchiveIntake::WarnOf(GatedVersion const& version) const
+{
+    auto const newer =
+        std::find_if(m_versions.begin(), m_versions.end(),
+                     [&](GatedVersion const& other) { return !IsNew(other) && IsOffered(other, version); });
+    if (newer != m_versions.end())
+    {
+        m_workplace.Warn(version.path,
+                         QStringLiteral("is of version %1, and %2 is published already, which clients take instead")
+                             .arg(version.versionText, newer->versionText),
+                         QStringLiteral("give it a greater version, unless it is for those who cannot take the newer"));
+    }
+    auto const rooted =
+        std::find_if(m_versions.begin(), m_versions.end(),
+                     [&](GatedVersion const& other)
+                     { return other.bundle && !other.bundle->rootKey.empty() && IsOffered(version, other); });
+    if (rooted != m_versions.end() && version.bundle->rootKey.empty())
+    {
+        m_workplace.Warn(version.path,
+                         QStringLiteral("names no root key, as version %1 does; no statement can save its clients from "
+                                        "a stolen key")
+                             .arg(rooted->versionText),
+                         QStringLiteral("write PelnarRootPublicEDKey into the bundle's information file"));
+    }
 }
 
 void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, QString const& path)

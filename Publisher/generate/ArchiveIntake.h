@@ -28,6 +28,7 @@ private:
     NewItem TakeInstaller(FolderArchive const& archive, RefusalList& refusals);
     void TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals);
     void CheckProduct(Engine::BundleInformation const& information, QString const& path);
+    void WarnOf(GatedVersion const& version) const;
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;
     void CheckMachines(RefusalList& refusals);

@@ -342,6 +342,25 @@ TEST_F(Accident, RootKeyWithoutAStatementOrWithOneThatClientsRefuse)
     EXPECT_EQ(check.status, 0) << check.out << check.err;
 }
 
+TEST_F(Accident, NewVersionForgetsTheRootKeyOrIsOlder)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    EXPECT_EQ(m_folder.Generate({QStringLiteral("--key-statement"), PutStatement(statement)}).status, 0);
+    m_folder.PutVersion("2.0");
+    ToolRun run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: names no root key, as version 1.0 does"), std::string::npos) << run.err;
+    m_folder.PutVersion("0.9");
+    run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-0.9.zip: is of version 0.9, and "), std::string::npos) << run.err;
+    EXPECT_EQ(run.err.find("root key"), std::string::npos) << run.err;
+}
+
 TEST_F(Accident, RevokedKeySignsANewVersion)
 {
     BundleText text = Version("1.0");

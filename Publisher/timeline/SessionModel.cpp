@@ -12,7 +12,8 @@ namespace Pelnar::Publisher
 namespace
 {
 
-using App::Session::OutcomeReaction;
+using App::Session::AbortReaction;
+using App::Session::CheckReaction;
 using App::Session::State;
 namespace Sites = App::Session::Sites;
 
@@ -35,19 +36,16 @@ QString NameOf(std::optional<State> state)
     return state ? QString::fromLatin1(App::Session::StateName(*state)) : QStringLiteral("unknown");
 }
 
-bool EndsRequest(OutcomeReaction reaction)
+bool EndsWithResult(State state)
 {
-    switch (reaction)
-    {
-    case OutcomeReaction::ReportAndIdle:
-    case OutcomeReaction::Idle:
-    case OutcomeReaction::ShowErrorAndIdle:
-        return true;
-    case OutcomeReaction::Nothing:
-    case OutcomeReaction::Unspecified:
-        return false;
-    }
-    return false;
+    CheckReaction const reaction = App::Session::ReactionToResult(state);
+    return reaction == CheckReaction::ReportAndIdle || reaction == CheckReaction::Idle;
+}
+
+bool EndsWithAbort(State state)
+{
+    AbortReaction const reaction = App::Session::ReactionToAbort(state);
+    return reaction != AbortReaction::Nothing && reaction != AbortReaction::Unspecified;
 }
 
 /// Whether the operation may switch from the one state to the other: the session's own table.
@@ -73,22 +71,17 @@ bool MaySwitch(Core::LogSite const* site, State from, State to)
     {
         return false;
     }
-    return (site == &Sites::FOUND && EndsRequest(App::Session::ReactionToFound(from))) ||
-           (site == &Sites::NOT_FOUND && EndsRequest(App::Session::ReactionToNotFound(from))) ||
-           (site == &Sites::ABORTED && EndsRequest(App::Session::ReactionToAbort(from))) ||
+    return ((site == &Sites::FOUND || site == &Sites::NOT_FOUND) && EndsWithResult(from)) ||
+           (site == &Sites::ABORTED && EndsWithAbort(from)) ||
            (site == &Sites::DID_CANCEL && App::Session::IsCancelledInstallExpected(from));
 }
 
 /// Whether the session has a behaviour for the callback in the state.
 bool IsExpected(Core::LogSite const* site, State state)
 {
-    if (site == &Sites::FOUND)
+    if (site == &Sites::FOUND || site == &Sites::NOT_FOUND)
     {
-        return App::Session::ReactionToFound(state) != OutcomeReaction::Unspecified;
-    }
-    if (site == &Sites::NOT_FOUND)
-    {
-        return App::Session::ReactionToNotFound(state) != OutcomeReaction::Unspecified;
+        return App::Session::ReactionToResult(state) != CheckReaction::Unspecified;
     }
     if (site == &Sites::SHOULD_RELAUNCH)
     {

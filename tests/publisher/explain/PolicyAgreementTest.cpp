@@ -1,8 +1,10 @@
-// PolicyAgreementTest.cpp: random feeds with policies: what a client takes, after its engine has left out what is meant
-// for others, is what explain, matrix, diff and simulate say.
+// PolicyAgreementTest.cpp: random feeds with policies, keys, signatures and key statements: what a client takes, after
+// its engine has left out what is meant for others, is what explain, matrix, diff and simulate say.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOrder_p.h"
+#include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
@@ -12,6 +14,7 @@
 #include "Publisher/matrix/Matrix.h"
 #include "Publisher/simulate/Simulation.h"
 #include "tests/corpus/ShippedChoice.h"
+#include "tests/engine/KeyStatementText.h"
 
 #include <gtest/gtest.h>
 
@@ -34,6 +37,26 @@ int FeedCount()
     return qEnvironmentVariableIsSet("PELNAR_EVERY_PLACE") ? 10000 : 400;
 }
 
+constexpr std::uint8_t KEY_SEEDS = 4;
+
+std::string KeyOf(int seed)
+{
+    static std::vector<std::string> keys;
+    for (int i = int(keys.size()); i <= KEY_SEEDS; ++i)
+    {
+        keys.push_back(MakeKeyPair(std::uint8_t(i + 1)).publicKey);
+    }
+    return keys[std::size_t(seed)];
+}
+
+/// How a client comes to its keys.
+enum class KeySource
+{
+    Feed,      ///< the tool is not told, and the feed says what the version trusts
+    Bundle,    ///< the bundle's own, which the tool is told
+    Statement, ///< of a root key, in the feed
+};
+
 class PolicyGenerator
 {
 public:
@@ -48,6 +71,28 @@ public:
             text += Item(i);
         }
         return text + "</channel></rss>";
+    }
+
+    KeySource Source() { return KeySource(Number(3)); }
+
+    QStringList BundleKeys()
+    {
+        QStringList ids(Id());
+        ids.append(Number(2) == 0 ? Id() : QString());
+        ids.removeAll(QString());
+        ids.removeDuplicates();
+        return ids;
+    }
+
+    /// Most are for this client and hold.
+    QByteArray Statement()
+    {
+        StatementText statement;
+        statement.serial = OneOf({"2", "3", "4", "9"});
+        statement.expires = OneOf({"9999-12-31T23:59:59Z", "2031-01-01T00:00:00Z", "2030-01-10T12:00:00Z"});
+        statement.bundles = {OneOf({"com.example.app", "com.example.app", "com.example.app", "com.example.other"})};
+        statement.validSeeds = {std::uint8_t(1 + Number(KEY_SEEDS))};
+        return StatementLineOf(statement, Number(6) == 0 ? ROOT_SEED + 1 : ROOT_SEED);
     }
 
     Engine::Installation Installation()
@@ -71,6 +116,21 @@ private:
 
     /// Most of the time nothing.
     QByteArray Sometimes(QByteArray const& text) { return Number(4) == 0 ? text : QByteArray(); }
+    QString Id() { return QString::fromStdString(Engine::KeyIdOf(KeyOf(Number(KEY_SEEDS)))); }
+
+    QByteArray Keys()
+    {
+        QByteArray const signer = Number(4) == 0 ? "key" : Id().toLatin1();
+        return Sometimes("<p:keys signer='" + signer + "' trusted='" + BundleKeys().join(QLatin1Char(' ')).toLatin1() +
+                         "'/>");
+    }
+
+    QByteArray Signatures()
+    {
+        QByteArray const plain = Number(2) == 0 ? " s:edSignature='c2ln'" : "";
+        return plain + Sometimes(" p:signatures='" + Id().toLatin1() + ":c2ln " + Id().toLatin1() + ":c2lo'");
+    }
+
     QByteArray Machine()
     {
         return Sometimes(QByteArray(" p:machine='") + OneOf({"x86_64", "aarch64", "x86_64 aarch64", "abacus"}) + "'");
@@ -84,13 +144,13 @@ private:
     QByteArray Enclosure(char const* version, int number)
     {
         return "<enclosure url='https://x.example/" + QByteArray::number(number) + ".zip' length='" +
-               QByteArray::number(1 + Number(3)) + "' s:version='" + version + "'" + Machine();
+               QByteArray::number(1 + Number(3)) + "' s:version='" + version + "'" + Machine() + Signatures();
     }
 
     QByteArray Item(int number)
     {
         char const* const version = OneOf({"5.1", "5.1.0", "5.2", "6", "6.1", "5", "4.9", "6.x"});
-        QByteArray item = "<item>" + Enclosure(version, number) + "/>";
+        QByteArray item = "<item>" + Enclosure(version, number) + "/>" + Keys();
         item += QByteArray("<pubDate>") +
                 OneOf({"Mon, 07 Jan 2019 10:00:00 +0000", "Wed, 09 Jan 2030 10:00:00 +0000",
                        "Mon, 07 Jan 2041 10:00:00 GMT", "soon", ""}) +
@@ -103,8 +163,11 @@ private:
                                                              "</s:belowVersion></s:informationalUpdate>"}));
         item += Number(8) == 0 ? "<p:withdrawn/>" : "";
         item += "<s:deltas>";
-        // No two deltas start from one version: the order in which they are met is not defined.
-        item += Number(2) == 0 ? Enclosure(version, number) + " s:deltaFrom='5.0'/>" : QByteArray();
+        for (char const* start : {"5.0", "5", "5.0.0", "5.0"})
+        {
+            item += Number(3) == 0 ? Enclosure(version, number + Number(2)) + " s:deltaFrom='" + start + "'/>"
+                                   : QByteArray();
+        }
         return item + "</s:deltas></item>";
     }
 
@@ -121,21 +184,38 @@ std::string Text(QString const& version, QString const& deltaFrom, QString const
     return (version + QLatin1Char('|') + deltaFrom + QLatin1Char('|') + url).toStdString();
 }
 
-std::string Text(FeedItem const* item)
+/// All that a client may take, where no rule defines the order of deltas.
+using Answers = std::set<std::string>;
+
+Answers AnswersOf(Publisher::Explanation const& explanation)
 {
-    return item ? Text(item->versionString, item->deltaFrom, item->fileUrl.toString(QUrl::FullyEncoded)) : "none";
+    std::vector<FeedItem const*> items = explanation.rivals;
+    items.push_back(explanation.chosen);
+    Answers answers;
+    for (FeedItem const* item : items)
+    {
+        answers.insert(item ? Text(item->versionString, item->deltaFrom, item->fileUrl.toString(QUrl::FullyEncoded))
+                            : "none");
+    }
+    return answers;
 }
 
-std::string Text(Publisher::Outcome const& outcome)
+Answers AnswersOf(Publisher::Outcome const& outcome)
 {
-    return outcome.IsUpdate() ? Text(outcome.version, outcome.deltaFrom, outcome.url) : "none";
+    Answers answers{outcome.IsUpdate() ? Text(outcome.version, outcome.deltaFrom, outcome.url) : "none"};
+    for (Publisher::Outcome const& rival : outcome.rivals)
+    {
+        answers.merge(AnswersOf(rival));
+    }
+    return answers;
 }
 
 /// One random feed and one random client of it.
 struct Case
 {
     explicit Case(PolicyGenerator& generator)
-        : bytes(generator.Feed())
+        : source(generator.Source())
+        , bytes(generator.Feed() + (source == KeySource::Statement ? generator.Statement() : QByteArray()))
         , installation(generator.Installation())
         , localText(QLatin1String(generator.Version()))
         , client{Util::VersionFromString(localText, QStringLiteral(".")), Core::Version(12, 3)}
@@ -143,8 +223,22 @@ struct Case
                                   {Engine::FeedPlatform::Linux, installation.machine})
                     .items)
     {
+        if (source == KeySource::Bundle)
+        {
+            installation.trustedKeys = generator.BundleKeys();
+        }
+        else if (source == KeySource::Statement)
+        {
+            Engine::KeyTrust const trust{{KeyOf(0)}, MakeKeyPair(ROOT_SEED).publicKey, "com.example.app", 3};
+            auto const believed = Engine::BelieveKeys(bytes, trust, NOW);
+            isRefused = !believed;
+            installation.trustedKeys =
+                isRefused ? QStringList() : QStringList(QString::fromStdString(believed->keys.Ids().front()));
+        }
     }
 
+    KeySource source;
+    bool isRefused = false; ///< the client refuses the statement, and so the feed
     QByteArray bytes;
     Engine::Installation installation;
     QString localText;
@@ -152,12 +246,26 @@ struct Case
     std::vector<FeedItem> items;
 };
 
+/// The keys of the bundle: what the feed says of its version, where the tool is not told.
+QStringList KeysOf(Case const& each)
+{
+    auto const isOwn = [&each](FeedItem const& item)
+    {
+        return each.source == KeySource::Feed && !item.trustedKeys.isEmpty() &&
+               App::Session::VersionFromStringNoexcept(item.versionString).IsValid() &&
+               SessionOrder(item.versionString, each.localText) == 0;
+    };
+    auto const own = std::find_if(each.items.begin(), each.items.end(), isOwn);
+    return own == each.items.end() ? each.installation.trustedKeys : own->trustedKeys;
+}
+
 /// What the engine lets through.
 std::vector<FeedItem> Kept(Case const& each)
 {
     std::vector<FeedItem> kept = each.items;
     Engine::Installation installation = each.installation;
     installation.version = each.localText;
+    installation.trustedKeys = KeysOf(each);
     Engine::LeaveOut(kept, installation, SessionOrder);
     return kept;
 }
@@ -199,20 +307,20 @@ std::set<int> LeftOutByExplain(Publisher::Explanation const& explanation)
     return left;
 }
 
-std::string ByMatrix(Case const& each)
+Answers ByMatrix(Case const& each)
 {
-    return Text(Publisher::MakeMatrix(each.items, {{each.localText, each.client.localVersion}},
-                                      {{QLatin1String(SYSTEM), each.client.systemVersion}}, each.installation)
-                    .outcomes.front()
-                    .front());
+    return AnswersOf(Publisher::MakeMatrix(each.items, {{each.localText, each.client.localVersion}},
+                                           {{QLatin1String(SYSTEM), each.client.systemVersion}}, each.installation)
+                         .outcomes.front()
+                         .front());
 }
 
 /// No bound of a system stands in these feeds, so that there is one change at most.
-std::string ByDiff(Case const& each)
+Answers ByDiff(Case const& each)
 {
     std::vector<Publisher::OutcomeChange> const changes =
         Publisher::DiffFeeds({}, each.items, {{each.localText, each.client.localVersion}}, each.installation);
-    return changes.empty() ? "none" : Text(changes.front().after);
+    return AnswersOf(changes.empty() ? Publisher::Outcome() : changes.front().after);
 }
 
 /// Whether a staged item reaches its groups at different times of these days.
@@ -243,19 +351,25 @@ QString BySimulation(Case const& each)
     return {};
 }
 
+/// Whether \a choice, one of \a items or of their deltas, is a page.
+bool IsPage(ShippedChoice const& choice, std::vector<FeedItem> const& items)
+{
+    return std::any_of(items.begin(), items.end(),
+                       [&](FeedItem const& item)
+                       {
+                           bool const isChosen = item.versionString == choice.version &&
+                                                 item.deltaFrom == choice.deltaFrom &&
+                                                 choice.url == item.fileUrl.toString(QUrl::FullyEncoded);
+                           return (isChosen && item.policy.isInformational) || IsPage(choice, item.deltas);
+                       });
+}
+
 /// The version that the client has after the check of a day.
 QString NextVersion(Case const& each)
 {
     std::vector<FeedItem> const kept = Kept(each);
     std::optional<ShippedChoice> const choice = ChooseFromFeed(kept, each.client.localVersion);
-    bool const isPage = choice && std::any_of(kept.begin(), kept.end(),
-                                              [&](FeedItem const& item)
-                                              {
-                                                  return item.policy.isInformational &&
-                                                         item.versionString == choice->version &&
-                                                         choice->url == item.fileUrl.toString(QUrl::FullyEncoded);
-                                              });
-    return choice && !isPage ? choice->version : each.localText;
+    return choice && !IsPage(*choice, kept) ? choice->version : each.localText;
 }
 
 } // namespace
@@ -267,16 +381,26 @@ TEST(PolicyAgreement, EveryVerbSaysWhatTheClientTakes)
     int updates = 0;
     int leftOut = 0;
     int simulated = 0;
+    int refused = 0;
+    int undefined = 0;
+    int untrusted = 0;
     for (int i = 0; i < FeedCount(); ++i)
     {
         Case const each(generator);
-        SCOPED_TRACE(each.bytes.toStdString() + each.localText.toStdString());
+        if (each.isRefused)
+        {
+            ++refused;
+            continue;
+        }
+        SCOPED_TRACE(each.bytes.toStdString() + each.localText.toStdString() + " trusts " +
+                     KeysOf(each).join(QLatin1Char(' ')).toStdString());
         std::string const shipped = Shipped(each);
         Publisher::Explanation const explanation = Publisher::ExplainFeed(each.items, each.client, each.installation);
-        ASSERT_EQ(Text(explanation.chosen), shipped);
+        Answers const answers = AnswersOf(explanation);
+        ASSERT_EQ(answers.count(shipped), 1u) << shipped;
         ASSERT_EQ(LeftOutByExplain(explanation), LeftOutByTheEngine(each));
-        ASSERT_EQ(ByMatrix(each), shipped);
-        ASSERT_EQ(ByDiff(each), shipped);
+        ASSERT_EQ(ByMatrix(each), answers);
+        ASSERT_EQ(ByDiff(each), answers);
         if (each.installation.rolloutGroup && !DividesGroups(each))
         {
             ASSERT_TRUE(SessionOrder(BySimulation(each), NextVersion(each)) == 0);
@@ -284,12 +408,19 @@ TEST(PolicyAgreement, EveryVerbSaysWhatTheClientTakes)
         }
         updates += shipped == "none" ? 0 : 1;
         leftOut += int(LeftOutByExplain(explanation).size());
+        undefined += answers.size() > 1 ? 1 : 0;
+        untrusted += std::count_if(explanation.items.begin(), explanation.items.end(),
+                                   [](Publisher::ItemExplanation const& item)
+                                   { return item.policy == PolicyVerdict::KeyNotTrusted; });
     }
     // The generator reaches every kind of answer.
     EXPECT_GT(updates, FeedCount() / 5);
     EXPECT_LT(updates, FeedCount());
     EXPECT_GT(leftOut, FeedCount() / 2);
-    EXPECT_GT(simulated, FeedCount() / 10);
+    EXPECT_GT(simulated, FeedCount() / 20);
+    EXPECT_GT(refused, FeedCount() / 20);
+    EXPECT_GT(undefined, FeedCount() / 100);
+    EXPECT_GT(untrusted, FeedCount() / 20);
 }
 
 } // namespace Pelnar::Testing

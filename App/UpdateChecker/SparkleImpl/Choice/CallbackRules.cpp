@@ -3,60 +3,42 @@
 namespace Pelnar::App::Session
 {
 
-OutcomeReaction ReactionToFound(State state)
+CheckReaction ReactionToResult(State state)
 {
     switch (state)
     {
     case State::FETCHING_INFO:
-        return OutcomeReaction::ReportAndIdle;
+        return CheckReaction::ReportAndIdle;
     case State::PREPARING_TO_SHOW_CHANGELOG:
         // From now on the framework's own windows continue.
-        return OutcomeReaction::Idle;
+        return CheckReaction::Idle;
     case State::SILENT_DOWNLOADING:
-        return OutcomeReaction::Nothing;
+        // Deliberate: a download follows, or the framework sends an abort, which ends the request.
+        return CheckReaction::Nothing;
     case State::WAITING:
     case State::SILENT_INSTALLING:
     case State::SILENT_ABORTING:
         break;
     }
-    return OutcomeReaction::Unspecified;
+    return CheckReaction::Unspecified;
 }
 
-OutcomeReaction ReactionToNotFound(State state)
-{
-    switch (state)
-    {
-    case State::FETCHING_INFO:
-        return OutcomeReaction::ReportAndIdle;
-    case State::PREPARING_TO_SHOW_CHANGELOG:
-        return OutcomeReaction::Idle;
-    case State::SILENT_DOWNLOADING:
-        // Deliberate: the framework then sends an abort, which ends the request.
-        return OutcomeReaction::Nothing;
-    case State::WAITING:
-    case State::SILENT_INSTALLING:
-    case State::SILENT_ABORTING:
-        break;
-    }
-    return OutcomeReaction::Unspecified;
-}
-
-OutcomeReaction ReactionToAbort(State state)
+AbortReaction ReactionToAbort(State state)
 {
     switch (state)
     {
     case State::WAITING:
     case State::SILENT_ABORTING:
-        return OutcomeReaction::Nothing;
+        return AbortReaction::Nothing;
     case State::FETCHING_INFO:
-        return OutcomeReaction::ReportAndIdle;
+        return AbortReaction::ReportAndIdle;
     case State::PREPARING_TO_SHOW_CHANGELOG:
     case State::SILENT_DOWNLOADING:
-        return OutcomeReaction::Idle;
+        return AbortReaction::Idle;
     case State::SILENT_INSTALLING:
-        return OutcomeReaction::ShowErrorAndIdle;
+        return AbortReaction::ShowErrorAndIdle;
     }
-    return OutcomeReaction::Unspecified;
+    return AbortReaction::Unspecified;
 }
 
 RelaunchReaction ReactionToRelaunch(State state)

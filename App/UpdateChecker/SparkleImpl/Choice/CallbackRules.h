@@ -7,19 +7,28 @@
 namespace Pelnar::App::Session
 {
 
-/// What the session must do at the end of a check.
-enum class OutcomeReaction
+/// What the session must do when a check has found an update, or none.
+enum class CheckReaction
 {
-    Nothing,          ///< the request continues, or has already ended
-    ReportAndIdle,    ///< the context requested it: it is notified, then the session is idle
-    Idle,             ///< nobody requested it: the session is idle
+    Nothing,       ///< the request continues
+    ReportAndIdle, ///< the context requested it: it is notified, then the session is idle
+    Idle,          ///< nobody requested it: the session is idle
+    Unspecified,   ///< one error record and nothing else
+};
+
+CheckReaction ReactionToResult(State state);
+
+/// What the session must do when the framework gives up.
+enum class AbortReaction
+{
+    Nothing,          ///< the request has already ended
+    ReportAndIdle,    ///< as above
+    Idle,             ///< as above
     ShowErrorAndIdle, ///< the user requested an installation: they see the error, then the session is idle
     Unspecified,      ///< one error record and nothing else
 };
 
-OutcomeReaction ReactionToFound(State state);
-OutcomeReaction ReactionToNotFound(State state);
-OutcomeReaction ReactionToAbort(State state);
+AbortReaction ReactionToAbort(State state);
 
 /// Whether the application may be relaunched after an installation.
 enum class RelaunchReaction

@@ -12,7 +12,8 @@
 namespace Pelnar::App
 {
 
-using Session::OutcomeReaction;
+using Session::AbortReaction;
+using Session::CheckReaction;
 using Session::State;
 
 void SparkleManager::Impl::DidFindValidUpdate(SUAppcastItem* item)
@@ -24,21 +25,20 @@ void SparkleManager::Impl::DidFindValidUpdate(SUAppcastItem* item)
     extensions = DetectExtensions(item);
     WriteExtensions();
 
-    switch (Session::ReactionToFound(state))
+    switch (Session::ReactionToResult(state))
     {
-    case OutcomeReaction::Nothing:
+    case CheckReaction::Nothing:
         return;
-    case OutcomeReaction::Idle:
+    case CheckReaction::Idle:
         SwitchToIdle();
         return;
-    case OutcomeReaction::ReportAndIdle:
+    case CheckReaction::ReportAndIdle:
         if (EnsureContext() && EnsureCheckFinishedCallback())
         {
             ReportFoundVersion(item);
         }
         return;
-    case OutcomeReaction::ShowErrorAndIdle:
-    case OutcomeReaction::Unspecified:
+    case CheckReaction::Unspecified:
         break;
     }
     Session::WriteUnspecifiedState(Session::Sites::FOUND_UNSPECIFIED, state);
@@ -86,21 +86,20 @@ void SparkleManager::Impl::ReportFoundVersion(SUAppcastItem* item)
 void SparkleManager::Impl::DidNotFindUpdate()
 {
     Session::WriteCurrentState(Session::Sites::NOT_FOUND, state);
-    switch (Session::ReactionToNotFound(state))
+    switch (Session::ReactionToResult(state))
     {
-    case OutcomeReaction::Nothing:
+    case CheckReaction::Nothing:
         return;
-    case OutcomeReaction::Idle:
+    case CheckReaction::Idle:
         SwitchToIdle();
         return;
-    case OutcomeReaction::ReportAndIdle:
+    case CheckReaction::ReportAndIdle:
         if (EnsureContext() && EnsureCheckFinishedCallback())
         {
             ReportNoNewerVersion();
         }
         return;
-    case OutcomeReaction::ShowErrorAndIdle:
-    case OutcomeReaction::Unspecified:
+    case CheckReaction::Unspecified:
         break;
     }
     Session::WriteUnspecifiedState(Session::Sites::NOT_FOUND_UNSPECIFIED, state);
@@ -112,13 +111,13 @@ void SparkleManager::Impl::DidAbort(NSError* error)
     Core::Write(Session::Sites::ABORTED_ERROR, Foundation::ToUtf8([error description]));
     switch (Session::ReactionToAbort(state))
     {
-    case OutcomeReaction::Nothing:
+    case AbortReaction::Nothing:
         return;
-    case OutcomeReaction::ReportAndIdle:
+    case AbortReaction::ReportAndIdle:
         // No guard: CheckForUpdates enters this state only with a context, and a context is never removed.
         ReportNoNewerVersion();
         return;
-    case OutcomeReaction::ShowErrorAndIdle:
+    case AbortReaction::ShowErrorAndIdle:
     {
         // At every exit: an error that cannot be shown must not leave the session locked.
         Core::ScopedFunctionCall const idle(
@@ -126,10 +125,10 @@ void SparkleManager::Impl::DidAbort(NSError* error)
         Session::ShowUpdateError(Foundation::ToQString([error localizedDescription]), DialogParent(), closeDialog);
         return;
     }
-    case OutcomeReaction::Idle:
+    case AbortReaction::Idle:
         SwitchToIdle();
         return;
-    case OutcomeReaction::Unspecified:
+    case AbortReaction::Unspecified:
         break;
     }
     Session::WriteUnspecifiedState(Session::Sites::ABORTED_UNSPECIFIED, state);

@@ -1,9 +1,9 @@
 #include "Publisher/FeedSource.h"
 
-#include "Engine/core/fetch/FeedFetcher.h"
+#include "Engine/core/fetch/FeedFile.h"
+#include "Publisher/late/LatePart.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFileInfo>
 
 namespace Pelnar::Publisher
@@ -51,30 +51,19 @@ QString MendOf(int httpStatus)
 
 std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
 {
-    // Deliberate: plain http is read here and reported by lint; the publisher harms nobody but the feed's clients.
-    Engine::FeedFetcher fetcher(Engine::FetchLimits(), Engine::InsecureHttp::Anywhere);
-    Engine::FetchOutcome outcome;
-    QEventLoop loop;
-    fetcher.Start(url,
-                  [&](Engine::FetchOutcome fetched)
-                  {
-                      outcome = std::move(fetched);
-                      loop.quit();
-                  });
-    loop.exec();
-    if (outcome.error)
+    Engine::FetchOutcome outcome = FetchAddress(url);
+    if (!outcome.error)
     {
-        if (outcome.error->cause == Engine::ErrorCause::HttpStatus)
-        {
-            return Problem{name, 0, 0,
-                           QStringLiteral("the server answered with status %1").arg(outcome.error->httpStatus),
-                           MendOf(outcome.error->httpStatus)};
-        }
-        QString const& detail = outcome.error->detail;
-        return Problem{name, 0, 0, outcome.error->sentence.English(),
-                       detail.isEmpty() ? QString() : QStringLiteral("detail: ") + detail};
+        return FeedBytes{name, outcome.url, std::move(outcome.bytes)};
     }
-    return FeedBytes{name, outcome.url, std::move(outcome.bytes)};
+    if (outcome.error->cause == Engine::ErrorCause::HttpStatus)
+    {
+        return Problem{name, 0, 0, QStringLiteral("the server answered with status %1").arg(outcome.error->httpStatus),
+                       MendOf(outcome.error->httpStatus)};
+    }
+    QString const& detail = outcome.error->detail;
+    return Problem{name, 0, 0, outcome.error->sentence.English(),
+                   detail.isEmpty() ? QString() : QStringLiteral("detail: ") + detail};
 }
 
 std::variant<FeedBytes, Problem> ReadNamed(QString const& name, Console const& console)
@@ -87,6 +76,28 @@ std::variant<FeedBytes, Problem> ReadNamed(QString const& name, Console const& c
 }
 
 } // namespace
+
+Engine::FetchOutcome FetchAddress(QUrl const& address)
+{
+    if (!address.isLocalFile())
+    {
+        return LoadLatePart().fetchFeed(address);
+    }
+    Engine::FetchOutcome outcome;
+    outcome.url = address;
+    Engine::Result<QByteArray> bytes =
+        Engine::JudgeFeedAddress(address, Engine::InsecureHttp::Anywhere)
+            .and_then([&] { return Engine::ReadFeedFile(address, Engine::FetchLimits().maxBodyBytes); });
+    if (bytes)
+    {
+        outcome.bytes = *std::move(bytes);
+    }
+    else
+    {
+        outcome.error = bytes.error();
+    }
+    return outcome;
+}
 
 std::variant<FeedBytes, Problem> ReadFeed(QString const& name, QString const& publishedAt, Console const& console)
 {

@@ -3,6 +3,7 @@
 // What a client would not fetch (too large, too slow, a web page) is refused here as well, in the same words.
 #pragma once
 
+#include "Engine/core/fetch/FeedFetcher.h"
 #include "Publisher/Console.h"
 
 #include <QByteArray>
@@ -25,5 +26,9 @@ struct FeedBytes
 /// \a publishedAt: where the feed will be published; empty stands for where it was read.
 [[nodiscard]] std::variant<FeedBytes, Problem> ReadFeed(QString const& name, QString const& publishedAt,
                                                         Console const& console);
+
+/// What is at \a address, as a client fetches it: a file of this computer, or what a server sends. Throws Refusal if
+/// the late part cannot be loaded.
+[[nodiscard]] Engine::FetchOutcome FetchAddress(QUrl const& address);
 
 } // namespace Pelnar::Publisher

@@ -3,9 +3,9 @@
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/late/LatePart.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 
@@ -26,19 +26,9 @@ Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString cons
     // Deliberate: plain http has its own rule; here the question is what stands at the address, wherever that is.
     request.feedReach = Engine::AddressReach::ThisComputer;
     request.insecureHttp = Engine::InsecureHttp::Anywhere;
-    Engine::ArchiveDownload archive(request);
     Progress progress(console.err, QStringLiteral("Fetching ") + item.fileUrl.fileName());
-    Engine::DownloadOutcome outcome;
-    QEventLoop loop;
-    archive.Start([&](Engine::DownloadProgress const& now)
-                  { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); },
-                  [&](Engine::DownloadOutcome finished)
-                  {
-                      outcome = std::move(finished);
-                      loop.quit();
-                  });
-    loop.exec();
-    return outcome;
+    return LoadLatePart().download(request, [&](Engine::DownloadProgress const& now)
+                              { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); });
 }
 
 std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,

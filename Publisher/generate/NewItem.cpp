@@ -1,9 +1,9 @@
 #include "Publisher/generate/NewItem.h"
 
+#include "Engine/core/fetch/AddressReach.h"
 #include "Publisher/Refusal.h"
 
 #include <QDateTime>
-#include <QHostAddress>
 #include <QLocale>
 #include <QStringList>
 
@@ -66,11 +66,6 @@ QString CharacterData(QString text)
 {
     return QStringLiteral("<![CDATA[") + text.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>")) +
            QStringLiteral("]]>");
-}
-
-bool IsThisComputer(QUrl const& url)
-{
-    return url.host() == QLatin1String("localhost") || QHostAddress(url.host()).isLoopback();
 }
 
 /// The lines of one item.
@@ -200,7 +195,7 @@ DownloadAddress::DownloadAddress(QString option, QString pattern) : m_pattern(st
 {
     QUrl const url = Of(QStringLiteral("file"), QStringLiteral("1"));
     bool const isSecure = url.scheme() == QLatin1String("https");
-    bool const isForDryRun = url.scheme() == QLatin1String("http") && IsThisComputer(url);
+    bool const isForDryRun = url.scheme() == QLatin1String("http") && Engine::IsLoopback(url);
     bool const isPlain = url.userInfo().isEmpty() && !url.hasQuery() && !url.hasFragment();
     bool const isComplete = m_pattern.count(FILE_PLACE) == 1 && m_pattern.endsWith(FILE_PLACE) &&
                             !url.toString().contains(QLatin1Char('{')) &&

@@ -4,7 +4,7 @@
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
-#include "Publisher/generate/ZstdTar.h"
+#include "Publisher/late/LatePart.h"
 
 #include <QFileInfo>
 
@@ -51,7 +51,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     auto file = std::make_unique<AtomicFile>(path);
     {
         Progress bar(m_workplace.console.err, QStringLiteral("Packing ") + fileName);
-        WriteZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));
+        LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));
     }
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.signature.length))

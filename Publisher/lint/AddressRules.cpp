@@ -3,11 +3,11 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/fetch/AddressReach.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <QHash>
-#include <QHostAddress>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -20,6 +20,30 @@ namespace
 
 using App::Session::VersionFromStringNoexcept;
 
+/// An address of this computer, of its link, or of a network that others cannot see.
+bool IsPrivate(Engine::NumericAddress const& address)
+{
+    struct Subnet
+    {
+        std::uint32_t start;
+        int bits;
+    };
+    constexpr Subnet PRIVATE[] = {{0x00000000, 8},  {0x0a000000, 8},  {0x64400000, 10}, {0x7f000000, 8},
+                                  {0xa9fe0000, 16}, {0xac100000, 12}, {0xc0a80000, 16}};
+    Engine::NumericAddress mapped = address;
+    bool const isCompatible = std::all_of(address.begin(), address.begin() + 12, [](auto byte) { return byte == 0; });
+    if (isCompatible)
+    {
+        mapped[10] = mapped[11] = 0xff;
+    }
+    if (std::optional<std::uint32_t> const ipv4 = Engine::IPv4Of(mapped))
+    {
+        return std::any_of(std::begin(PRIVATE), std::end(PRIVATE),
+                           [&](Subnet const& subnet) { return (*ipv4 ^ subnet.start) >> (32 - subnet.bits) == 0; });
+    }
+    return (address[0] & 0xfe) == 0xfc || (address[0] == 0xfe && (address[1] & 0xc0) == 0x80);
+}
+
 /// Of no place that a client on another network reaches.
 bool IsNear(QUrl const& url)
 {
@@ -28,24 +52,9 @@ bool IsNear(QUrl const& url)
     {
         host.chop(1); // the root of all names
     }
-    QHostAddress address(host);
-    bool holdsIPv4 = false;
-    quint32 const number = address.toIPv4Address(&holdsIPv4);
-    address = holdsIPv4 ? QHostAddress(number) : address; // that an address of IPv6 may hold
-    if (!address.isNull())
+    if (std::optional<Engine::NumericAddress> const address = Engine::NumericAddressOf(host))
     {
-        static QPair<QHostAddress, int> const PRIVATE[] = {
-            QHostAddress::parseSubnet(QStringLiteral("0.0.0.0/8")),
-            QHostAddress::parseSubnet(QStringLiteral("10.0.0.0/8")),
-            QHostAddress::parseSubnet(QStringLiteral("100.64.0.0/10")),
-            QHostAddress::parseSubnet(QStringLiteral("172.16.0.0/12")),
-            QHostAddress::parseSubnet(QStringLiteral("192.168.0.0/16")),
-            QHostAddress::parseSubnet(QStringLiteral("169.254.0.0/16")),
-            QHostAddress::parseSubnet(QStringLiteral("fc00::/7")),
-            QHostAddress::parseSubnet(QStringLiteral("fe80::/10")),
-        };
-        return address.isLoopback() || std::any_of(std::begin(PRIVATE), std::end(PRIVATE),
-                                                   [&](auto const& subnet) { return address.isInSubnet(subnet); });
+        return IsPrivate(*address);
     }
     constexpr char const* ENDINGS[] = {".localhost", ".local", ".internal", ".lan", ".home.arpa"};
     return (!host.isEmpty() && !host.contains(QLatin1Char('.'))) ||

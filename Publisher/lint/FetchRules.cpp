@@ -1,12 +1,11 @@
 #include "Publisher/lint/FetchRules.h"
 
 #include "Engine/core/bundle/TrustedKeys.h"
-#include "Engine/core/fetch/FeedFetcher.h"
+#include "Publisher/FeedSource.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/gate/ReleaseFiles.h"
 
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 
@@ -174,16 +173,7 @@ private:
     void Fetch(LintElement const& link, QUrl const& address)
     {
         // Deliberate: any address may be asked, and any page may come; whether one comes is the question.
-        Engine::FeedFetcher fetcher(Engine::FetchLimits(), Engine::InsecureHttp::Anywhere);
-        Engine::FetchOutcome outcome;
-        QEventLoop loop;
-        fetcher.Start(address,
-                      [&](Engine::FetchOutcome fetched)
-                      {
-                          outcome = std::move(fetched);
-                          loop.quit();
-                      });
-        loop.exec();
+        Engine::FetchOutcome const outcome = FetchAddress(address);
         if (outcome.error)
         {
             QString sentence = outcome.error->sentence.English();

@@ -1,171 +1,18 @@
-// ServeVerb.cpp: "serve": a test server for a publisher's dry run.
+// ServeVerb.cpp: the command line of "serve".
 
 #include "Publisher/serve/ServeVerb.h"
 
 #include "Publisher/Refusal.h"
-#include "Publisher/files/InputFile.h"
-#include "Publisher/serve/FileServer.h"
-#include "Publisher/serve/HttpRequest.h"
-#include "Publisher/serve/ServedFile.h"
+#include "Publisher/late/LatePart.h"
 
-#include <QEventLoop>
-#include <QFile>
-#include <QRegularExpression>
-#include <QSocketNotifier>
-
-#include <cerrno>
 #include <memory>
-#include <ostream>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace Pelnar::Publisher
 {
-namespace
-{
-
-constexpr std::uint64_t MOST_PEM_BYTES = 1 << 20;
-
-struct Options
-{
-    std::string folder;
-    std::uint16_t port = 0;
-    std::vector<std::string> faults;
-    std::vector<std::string> hosts;
-    std::vector<std::string> tls;
-    bool endsWithInput = false;
-};
-
-ServerCertificate ReadCertificate(QString const& certificateFile, QString const& keyFile)
-{
-    QString const mend = QStringLiteral("give the files of the server: certificate chain, then key, both PEM");
-    QByteArray const key = ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend);
-    ServerCertificate certificate;
-    certificate.chain =
-        QSslCertificate::fromData(ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend), QSsl::Pem);
-    if (certificate.chain.isEmpty())
-    {
-        throw Refusal({certificateFile, 0, 0, QStringLiteral("holds no certificate"), mend});
-    }
-    for (QSsl::KeyAlgorithm const algorithm : {QSsl::Rsa, QSsl::Ec})
-    {
-        certificate.key = QSslKey(key, algorithm);
-        if (!certificate.key.isNull())
-        {
-            return certificate;
-        }
-    }
-    throw Refusal({keyFile, 0, 0, QStringLiteral("holds no RSA or EC key without a password"), mend});
-}
-
-std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
-{
-    std::vector<ServerFault> faults;
-    for (std::string const& text : texts)
-    {
-        std::optional<ServerFault> fault = ParseServerFault(QString::fromStdString(text));
-        if (!fault)
-        {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--fault: \"%1\" is no fault").arg(QString::fromStdString(text)),
-                           QStringLiteral("say truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or "
-                                          "drop:NAME:BYTES")});
-        }
-        faults.push_back(std::move(*fault));
-    }
-    return faults;
-}
-
-/// Ends the loop when standard input does.
-void EndWithInput(QSocketNotifier& notifier, QEventLoop& loop)
-{
-    QObject::connect(&notifier, &QSocketNotifier::activated, &loop,
-                     [&notifier, &loop]
-                     {
-                         char bytes[256];
-                         ssize_t const count = ::read(STDIN_FILENO, bytes, sizeof bytes);
-                         if (count == 0 || (count < 0 && errno != EINTR && errno != EAGAIN))
-                         {
-                             notifier.setEnabled(false);
-                             loop.quit();
-                         }
-                     });
-}
-
-ExitStatus Serve(Console const& console, Options const& options)
-{
-    QString const name = QString::fromStdString(options.folder);
-    Engine::UniqueFd folder(::open(QFile::encodeName(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (!folder)
-    {
-        RefuseFile(name, QStringLiteral("cannot be served"), errno, QStringLiteral("name the folder of the feed"));
-    }
-    std::optional<ServerCertificate> certificate;
-    if (!options.tls.empty())
-    {
-        certificate =
-            ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
-    }
-    ServerManners manners{ParseFaults(options.faults), {}};
-    for (ServerFault const& fault : manners.faults)
-    {
-        if (fault.kind != ServerFaultKind::Status && !OpenServedFile(folder.Get(), fault.name).file)
-        {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--fault: \"%1\" is no file that is served").arg(fault.name),
-                           QStringLiteral("give its path below the folder")});
-        }
-    }
-    for (std::string const& host : options.hosts)
-    {
-        QByteArray const hostName = HostName(QByteArray::fromStdString(host));
-        static QRegularExpression const NAME(QStringLiteral("^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"));
-        if (hostName.isEmpty() || !NAME.match(QString::fromLatin1(hostName)).hasMatch())
-        {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--host: \"%1\" is no name").arg(QString::fromStdString(host)),
-                           QStringLiteral("give a name such as updates.example.com")});
-        }
-        manners.hosts.push_back(hostName);
-    }
-    FileServer server(std::move(folder), std::move(manners), std::move(certificate),
-                      [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
-    if (!server.Listen(options.port))
-    {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("port %1 cannot be listened on").arg(options.port),
-                       QStringLiteral("leave --port away to get a free one")});
-    }
-    console.Print(server.Address());
-    if (!console.out.stream.flush())
-    {
-        return ExitStatus::Findings; // nobody learns the address; told where the program ends
-    }
-    QEventLoop loop;
-    std::optional<QSocketNotifier> notifier;
-    if (options.endsWithInput)
-    {
-        notifier.emplace(STDIN_FILENO, QSocketNotifier::Read);
-        EndWithInput(*notifier, loop);
-    }
-    loop.exec();
-    return ExitStatus::Clean;
-}
-
-} // namespace
 
 void AddServe(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<Options>();
+    auto const options = std::make_shared<ServeOptions>();
     CLI::App& verb = *program.add_subcommand(
         "serve", "Serve a folder to this computer only, for a dry run of a feed, until it is interrupted; the first "
                  "line printed is the address");
@@ -188,7 +35,7 @@ void AddServe(CLI::App& program, VerbContext& context)
         ->type_name("CERTIFICATE KEY")
         ->expected(2);
     verb.add_flag("--end-with-input", options->endsWithInput, "End when standard input does, for scripts");
-    SetWork(verb, context, [&context, options] { return Serve(context.console, *options); });
+    SetWork(verb, context, [&context, options] { return LoadLatePart().serve(context.console, *options); });
 }
 
 } // namespace Pelnar::Publisher

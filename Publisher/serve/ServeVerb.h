@@ -4,8 +4,22 @@
 
 #include "Publisher/Verb.h"
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
 namespace Pelnar::Publisher
 {
+
+struct ServeOptions
+{
+    std::string folder;
+    std::uint16_t port = 0;
+    std::vector<std::string> faults;
+    std::vector<std::string> hosts;
+    std::vector<std::string> tls;
+    bool endsWithInput = false;
+};
 
 void AddServe(CLI::App& program, VerbContext& context);
 

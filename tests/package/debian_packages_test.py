@@ -49,7 +49,8 @@ def check_contents(packages):
     for name, parts in {"libpelnar-update-checker1": ["libPelnarUpdateChecker.so.1.0.0", "pelnar-update-installer", "copyright"],
                         "libpelnar-update-checker-dev": ["libPelnarUpdateChecker.so ->", "PelnarBundle.cmake", "MakeBundle.cmake",
                                                          "UpdateManager.h", "PelnarUpdateChecker.pc", "copyright"],
-                        "pelnar-appcast": ["usr/bin/pelnar-appcast", "pelnar-appcast.1", "copyright"]}.items():
+                        "pelnar-appcast": ["usr/bin/pelnar-appcast", "pelnar/pelnar-appcast-late.so", "pelnar-appcast.1",
+                                           "copyright"]}.items():
         for part in parts:
             expect(part in contents[name], f"{name} has no {part}")
     expect(".h\n" not in contents["libpelnar-update-checker1"], "headers are in the package of the libraries")
@@ -58,7 +59,10 @@ def check_contents(packages):
     library = depends(packages["libpelnar-update-checker1"])
     for needed in ("libc6", "libcurl4", "libqt5widgets5", "libgnustep-base1.28"):
         expect(needed in library, f"the libraries' package does not depend on {needed}")
-    expect("libpelnar-update-checker1" in depends(packages["pelnar-appcast"]), "the tool's package depends on no libraries")
+    tool = depends(packages["pelnar-appcast"])
+    for needed in ("libc6", "libqt5core5a", "libcurl4", "libqt5network5", "libarchive13"):
+        expect(needed in tool, f"the tool's package does not depend on {needed}")
+    expect(not {"libqt5widgets5", "libqt5gui5", "libpelnar-update-checker1"} & set(tool), f"the tool's package depends on {tool}")
 
 
 def run_in(root, home, *command):
@@ -66,7 +70,8 @@ def run_in(root, home, *command):
     if os.getuid() == 0:
         run("chown", "-R", "1000:1000", home)
     return run(sys.executable, BARE / "enter.py", json.dumps({"root": str(root), "binds": [[str(home), "/home/person", "rw"]],
-                                                              "environment": environment, "command": list(command)}))
+                                                              "environment": environment, "command": list(command)}),
+               stdin=subprocess.DEVNULL)
 
 
 def why_not():
@@ -131,6 +136,8 @@ def test(work, build, compiler, make_system):
     expect("SUPublicEDKey" in key, f"the tool said {key}")
     said = run_in(root, home, "/usr/bin/pelnar-appcast", "explain", "/home/person/feed.xml", "--local-version", "1.0", "--system-version", "12")
     expect("1.1" in said, f"the tool said {said}")
+    said = run_in(root, home, "/usr/bin/pelnar-appcast", "serve", "/home/person", "--end-with-input")
+    expect("http://127.0.0.1:" in said, f"the tool said {said}")
     print("Debian packages: a program and the tool run with what they depend on")
     return 0
 

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 #include <memory>
-#include <optional>
 
+#include <arpa/inet.h>
 #include <ifaddrs.h>
+#include <netinet/in.h>
 
 namespace Pelnar::Engine
 {
@@ -14,7 +16,7 @@ namespace
 
 struct Subnet
 {
-    quint32 address;
+    std::uint32_t address;
     int bits;
     AddressReach reach;
 };
@@ -27,7 +29,7 @@ constexpr std::array IPV4_SUBNETS = {
     Subnet{0xffffffff, 32, AddressReach::Link},
 };
 
-AddressReach ReachOfIPv4(quint32 address)
+AddressReach ReachOfIPv4(std::uint32_t address)
 {
     auto const isInside = [address](Subnet const& subnet)
     { return (address ^ subnet.address) >> (32 - subnet.bits) == 0; };
@@ -35,27 +37,37 @@ AddressReach ReachOfIPv4(quint32 address)
     return found == IPV4_SUBNETS.end() ? AddressReach::Network : found->reach;
 }
 
-quint32 IPv4At(Q_IPV6ADDR const& address, int start)
+std::uint32_t IPv4At(NumericAddress const& address, std::size_t start)
 {
-    return quint32{address[start]} << 24 | quint32{address[start + 1]} << 16 | quint32{address[start + 2]} << 8 |
-           quint32{address[start + 3]};
+    return std::uint32_t{address[start]} << 24 | std::uint32_t{address[start + 1]} << 16 |
+           std::uint32_t{address[start + 2]} << 8 | std::uint32_t{address[start + 3]};
 }
 
-bool Has(Q_IPV6ADDR const& address, int position, std::initializer_list<quint8> bytes)
+bool Has(NumericAddress const& address, std::size_t position, std::initializer_list<std::uint8_t> bytes)
 {
-    return std::all_of(bytes.begin(), bytes.end(), [&](quint8 byte) { return address[position++] == byte; });
+    return std::all_of(bytes.begin(), bytes.end(), [&](std::uint8_t byte) { return address[position++] == byte; });
+}
+
+NumericAddress Mapped(in_addr const& address)
+{
+    NumericAddress mapped{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff};
+    std::memcpy(&mapped[12], &address, sizeof address);
+    return mapped;
 }
 
 /// The IPv4 address that \a address contains: mapped, compatible, translated or tunnelled.
-std::optional<quint32> EmbeddedIPv4(Q_IPV6ADDR const& address)
+std::optional<std::uint32_t> EmbeddedIPv4(NumericAddress const& address)
 {
-    bool const isMapped = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff});
+    if (std::optional<std::uint32_t> const mapped = IPv4Of(address))
+    {
+        return mapped;
+    }
     bool const isCompatible = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0});
     bool const isTranslated = Has(address, 0, {0, 0x64, 0xff, 0x9b, 0, 0, 0, 0, 0, 0, 0, 0}) ||
                               Has(address, 0, {0, 0x64, 0xff, 0x9b, 0, 1}) ||
                               Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff, 0, 0});
     bool const isInOneSite = Has(address, 8, {0, 0, 0x5e, 0xfe}) || Has(address, 8, {2, 0, 0x5e, 0xfe});
-    if (isMapped || isCompatible || isTranslated || isInOneSite)
+    if (isCompatible || isTranslated || isInOneSite)
     {
         return IPv4At(address, 12);
     }
@@ -67,9 +79,9 @@ std::optional<quint32> EmbeddedIPv4(Q_IPV6ADDR const& address)
     return Has(address, 0, {0x20, 0x02}) ? std::optional(IPv4At(address, 2)) : std::nullopt;
 }
 
-AddressReach ReachOfIPv6(Q_IPV6ADDR const& address)
+AddressReach ReachByNumber(NumericAddress const& address)
 {
-    if (std::optional<quint32> const embedded = EmbeddedIPv4(address))
+    if (std::optional<std::uint32_t> const embedded = EmbeddedIPv4(address))
     {
         return ReachOfIPv4(*embedded); // :: and ::1 are 0.0.0.0 and 0.0.0.1
     }
@@ -78,13 +90,7 @@ AddressReach ReachOfIPv6(Q_IPV6ADDR const& address)
     return isLinkLocal || isMulticast ? AddressReach::Link : AddressReach::Network;
 }
 
-AddressReach ReachByNumber(QHostAddress const& address)
-{
-    return address.protocol() == QAbstractSocket::IPv4Protocol ? ReachOfIPv4(address.toIPv4Address())
-                                                               : ReachOfIPv6(address.toIPv6Address());
-}
-
-bool IsOfAnInterface(QHostAddress const& address)
+bool IsOfAnInterface(NumericAddress const& address)
 {
     ifaddrs* all = nullptr;
     if (getifaddrs(&all) != 0)
@@ -94,8 +100,7 @@ bool IsOfAnInterface(QHostAddress const& address)
     std::unique_ptr<ifaddrs, decltype(&freeifaddrs)> const owned(all, &freeifaddrs);
     for (ifaddrs const* entry = all; entry; entry = entry->ifa_next)
     {
-        // Mapped addresses equal their IPv4 addresses.
-        if (entry->ifa_addr && QHostAddress(entry->ifa_addr).isEqual(address, QHostAddress::ConvertV4MappedToIPv4))
+        if (entry->ifa_addr && NumericAddressOf(*entry->ifa_addr) == address)
         {
             return true;
         }
@@ -105,7 +110,41 @@ bool IsOfAnInterface(QHostAddress const& address)
 
 } // namespace
 
-AddressReach ReachOf(QHostAddress const& address)
+std::optional<NumericAddress> NumericAddressOf(QString const& host)
+{
+    QByteArray const text = host.section(QLatin1Char('%'), 0, 0).toLatin1();
+    in_addr ipv4{};
+    if (inet_pton(AF_INET, text.constData(), &ipv4) == 1)
+    {
+        return Mapped(ipv4);
+    }
+    NumericAddress ipv6;
+    return inet_pton(AF_INET6, text.constData(), ipv6.data()) == 1 ? std::optional(ipv6) : std::nullopt;
+}
+
+std::optional<NumericAddress> NumericAddressOf(sockaddr const& address)
+{
+    switch (address.sa_family)
+    {
+    case AF_INET:
+        return Mapped(reinterpret_cast<sockaddr_in const&>(address).sin_addr);
+    case AF_INET6:
+    {
+        NumericAddress ipv6;
+        std::memcpy(ipv6.data(), &reinterpret_cast<sockaddr_in6 const&>(address).sin6_addr, ipv6.size());
+        return ipv6;
+    }
+    }
+    return std::nullopt;
+}
+
+std::optional<std::uint32_t> IPv4Of(NumericAddress const& address)
+{
+    bool const isMapped = Has(address, 0, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0xff, 0xff});
+    return isMapped ? std::optional(IPv4At(address, 12)) : std::nullopt;
+}
+
+AddressReach ReachOf(NumericAddress const& address)
 {
     AddressReach const reach = ReachByNumber(address);
     return reach != AddressReach::ThisComputer && IsOfAnInterface(address) ? AddressReach::ThisComputer : reach;
@@ -122,8 +161,17 @@ AddressReach ReachOf(QUrl const& url)
     {
         return AddressReach::ThisComputer;
     }
-    QHostAddress const address(host);
-    return address.isNull() ? AddressReach::Network : ReachByNumber(address);
+    std::optional<NumericAddress> const address = NumericAddressOf(host);
+    return address ? ReachByNumber(*address) : AddressReach::Network;
+}
+
+bool IsLoopback(QUrl const& url)
+{
+    QString const host = url.host();
+    std::optional<NumericAddress> const address = NumericAddressOf(host);
+    constexpr NumericAddress IPV6_LOOPBACK{0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1};
+    return host == QLatin1String("localhost") ||
+           (address && (address == IPV6_LOOPBACK || IPv4Of(*address).value_or(0) >> 24 == 127));
 }
 
 } // namespace Pelnar::Engine

@@ -1,7 +1,5 @@
 #include "Engine/core/fetch/CurlRequest.h"
 
-#include <QHostAddress>
-
 #include <algorithm>
 #include <utility>
 #include <vector>
@@ -212,7 +210,7 @@ bool CurlRequest::PrepareSecurity(SSL_CTX* context) const
     // As in browsers: only the list of alternative names counts, never the subject's name.
     X509_VERIFY_PARAM_set_hostflags(parameters,
                                     X509_CHECK_FLAG_NEVER_CHECK_SUBJECT | X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS);
-    bool const isAddress = !QHostAddress(QString::fromLatin1(name)).isNull();
+    bool const isAddress = NumericAddressOf(QString::fromLatin1(name)).has_value();
     // Deliberate: for an empty name OpenSSL would check nothing.
     bool const isSet = name.isEmpty() ? false
                        : isAddress    ? X509_VERIFY_PARAM_set1_ip_asc(parameters, name.constData()) == 1

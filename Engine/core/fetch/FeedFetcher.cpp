@@ -1,9 +1,7 @@
 #include "Engine/core/fetch/FeedFetcher.h"
 
+#include "Engine/core/fetch/FeedFile.h"
 #include "Engine/core/fetch/HttpTransfer.h"
-
-#include <QFile>
-#include <QFileInfo>
 
 #include <utility>
 #include <variant>
@@ -53,39 +51,15 @@ void FeedFetcher::Begin()
 
 void FeedFetcher::ReadFile()
 {
-    QString const path = m_feedUrl.toLocalFile();
-    QFileInfo const info(path);
-    if (!info.exists())
+    Result<QByteArray> const bytes = ReadFeedFile(m_feedUrl, m_limits.maxBodyBytes);
+    if (!bytes)
     {
-        Fail(MakeError(ErrorCause::FileNotFound));
-        return;
-    }
-    // Opening a pipe would wait for a writer, and a device may have no end.
-    if (!info.isFile())
-    {
-        Fail(MakeError(ErrorCause::FileNotRegular));
-        return;
-    }
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-    {
-        Fail(MakeError(ErrorCause::FileUnreadable, file.errorString()));
-        return;
-    }
-    QByteArray const bytes = file.read(m_limits.maxBodyBytes + 1);
-    if (file.error() != QFileDevice::NoError)
-    {
-        Fail(MakeError(ErrorCause::FileUnreadable, file.errorString()));
-        return;
-    }
-    if (bytes.size() > m_limits.maxBodyBytes)
-    {
-        Fail(MakeError(ErrorCause::FileTooLarge));
+        Fail(bytes.error());
         return;
     }
     FetchOutcome outcome;
     outcome.url = m_feedUrl;
-    outcome.bytes = bytes;
+    outcome.bytes = *bytes;
     outcome.reach = AddressReach::ThisComputer;
     Finish(std::move(outcome));
 }

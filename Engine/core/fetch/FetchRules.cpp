@@ -1,7 +1,5 @@
 #include "Engine/core/fetch/FetchRules.h"
 
-#include <QHostAddress>
-
 #include <algorithm>
 
 namespace Pelnar::Engine
@@ -47,12 +45,6 @@ Result<void> JudgeNetworkAddress(QUrl const& url, InsecureHttp insecureHttp)
 }
 
 } // namespace
-
-bool IsLoopback(QUrl const& url)
-{
-    QString const host = url.host();
-    return host == QLatin1String("localhost") || QHostAddress(host).isLoopback();
-}
 
 bool IsSameOrigin(QUrl const& a, QUrl const& b)
 {

@@ -24,6 +24,9 @@ constexpr int STATUS_PROXY_ASKS = 407;
 constexpr qint64 FREE_FRAMING_BYTES = 1024 * 1024;
 constexpr qint64 ANSWER_PER_FRAMING = 4;
 
+/// Stands for an address of an unknown family: "::", which only a feed from this computer may lead to.
+constexpr NumericAddress NEAREST{};
+
 /// The bytes read from \a socket since it was connected.
 std::optional<qint64> BytesReadFrom(int socket)
 {
@@ -44,16 +47,17 @@ struct HttpTransfer::Callbacks
     static curl_socket_t OpenSocket(void* transfer, curlsocktype, curl_sockaddr* address)
     {
         // Refused before a packet is sent.
-        return static_cast<HttpTransfer*>(transfer)->MayConnectTo(ReachOf(QHostAddress(&address->addr)))
+        return static_cast<HttpTransfer*>(transfer)->MayConnectTo(
+                   ReachOf(NumericAddressOf(address->addr).value_or(NEAREST)))
                    ? socket(address->family, address->socktype | SOCK_CLOEXEC, address->protocol)
                    : CURL_SOCKET_BAD;
     }
 
     static int BeforeRequest(void* transfer, char* server, char*, int, int)
     {
-        QHostAddress const address(QString::fromLatin1(server));
-        return static_cast<HttpTransfer*>(transfer)->TakeConnection(address) == Verdict::GoesOn ? CURL_PREREQFUNC_OK
-                                                                                                : CURL_PREREQFUNC_ABORT;
+        AddressReach const reach = ReachOf(NumericAddressOf(QString::fromLatin1(server)).value_or(NEAREST));
+        return static_cast<HttpTransfer*>(transfer)->TakeConnection(reach) == Verdict::GoesOn ? CURL_PREREQFUNC_OK
+                                                                                              : CURL_PREREQFUNC_ABORT;
     }
 
     static size_t HeadLine(char* bytes, size_t, size_t count, void* transfer)
@@ -167,9 +171,9 @@ bool HttpTransfer::MayConnectTo(AddressReach reach)
     return false;
 }
 
-HttpTransfer::Verdict HttpTransfer::TakeConnection(QHostAddress const& server)
+HttpTransfer::Verdict HttpTransfer::TakeConnection(AddressReach server)
 {
-    m_answeredFrom = m_curl->Proxy().IsDirect() ? ReachOf(server) : ReachOf(m_request.url);
+    m_answeredFrom = m_curl->Proxy().IsDirect() ? server : ReachOf(m_request.url);
     // Another request judged a reused connection.
     if (!MayConnectTo(m_answeredFrom))
     {

@@ -57,7 +57,7 @@ private:
     void Begin(ConnectionSettings const& settings);
 
     [[nodiscard]] bool MayConnectTo(AddressReach reach);
-    [[nodiscard]] Verdict TakeConnection(QHostAddress const& server);
+    [[nodiscard]] Verdict TakeConnection(AddressReach server);
     [[nodiscard]] Verdict TakeHeadLine(QByteArray const& line);
     [[nodiscard]] Verdict TakeHead();
     /// How many of \a size bytes were taken: all, or none while there is no space.

@@ -13,9 +13,9 @@ namespace
 
 using namespace Pelnar::Engine;
 
-QHostAddress Address(char const* text)
+NumericAddress Address(char const* text)
 {
-    return QHostAddress(QString::fromLatin1(text));
+    return NumericAddressOf(QString::fromLatin1(text)).value();
 }
 
 TEST(AddressReach, OfThisComputer)
@@ -53,7 +53,8 @@ TEST(AddressReach, EveryInterfacesAddressIsOfThisComputer)
 {
     for (QHostAddress const& address : QNetworkInterface::allAddresses())
     {
-        EXPECT_EQ(ReachOf(address), AddressReach::ThisComputer) << address.toString().toStdString();
+        EXPECT_EQ(ReachOf(NumericAddressOf(address.toString()).value()), AddressReach::ThisComputer)
+            << address.toString().toStdString();
     }
 }
 

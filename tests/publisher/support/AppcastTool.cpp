@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -50,7 +52,13 @@ ToolRun RunAppcastProgram(QStringList const& arguments, QByteArray const& standa
     process.start(AppcastProgram(), arguments);
     process.write(standardInput);
     process.closeWriteChannel();
-    bool const hasEnded = process.waitForFinished(PATIENCE_MS);
+    QDeadlineTimer const patience(PATIENCE_MS);
+    while (process.state() != QProcess::NotRunning && !patience.hasExpired())
+    {
+        process.waitForFinished(10);
+        QCoreApplication::processEvents(); // the program may ask a server of the test's
+    }
+    bool const hasEnded = process.state() == QProcess::NotRunning;
     ToolRun result;
     result.out = process.readAllStandardOutput().toStdString();
     result.err = process.readAllStandardError().toStdString();

@@ -1,4 +1,4 @@
-#include "Publisher/generate/ZstdTar.h"
+#include "Publisher/late/ZstdTar.h"
 
 #include "Engine/core/base/Descriptor.h"
 #include "Publisher/Refusal.h"

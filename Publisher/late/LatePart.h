@@ -1,0 +1,38 @@
+// LatePart.h: what most runs of the tool do without: servers, being one, and writing archives. It is a library of its
+// own, which is loaded when a verb needs it first: libcurl, OpenSSL, Qt Network and libarchive bring fifty libraries.
+// Thread: the main thread, with Qt's event loop. Ownership: the library's, which stays loaded.
+#pragma once
+
+#include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/fetch/FeedFetcher.h"
+#include "Publisher/files/BundleTree.h"
+#include "Publisher/serve/ServeVerb.h"
+#include "common/Export.h"
+
+#include <functional>
+
+namespace Pelnar::Publisher
+{
+
+struct LatePart
+{
+    /// Of the build that made the library. It stays the first field: it is read before the meaning of the others is
+    /// known.
+    char const* version;
+    /// Fetches a feed, or another small page, from any address.
+    Engine::FetchOutcome (*fetchFeed)(QUrl const& address);
+    Engine::DownloadOutcome (*download)(Engine::DownloadRequest const& request,
+                                        std::function<void(Engine::DownloadProgress const&)> const& progress);
+    /// Serves until it is interrupted. Throws Refusal.
+    ExitStatus (*serve)(Console const& console, ServeOptions const& options);
+    /// WriteZstdTar.
+    void (*writeZstdTar)(BundleTree const& bundle, std::int64_t time, int fd, QString const& name,
+                         ByteProgress const& progress);
+};
+
+/// Loads the library at the first call. Throws Refusal if it, or a library that it needs, cannot be loaded.
+[[nodiscard]] LatePart const& LoadLatePart();
+
+} // namespace Pelnar::Publisher
+
+extern "C" PELNAR_EXPORT Pelnar::Publisher::LatePart const pelnarAppcastLate;

@@ -3,10 +3,11 @@
 // folder for that, so that no disk is timed; TMPDIR names another folder.
 
 #include "Engine/core/download/ArchiveDownload.h"
-#include "bench/DownloadServer.h"
 #include "bench/MeteredApplication.h"
 #include "bench/ProcessMemory.h"
 #include "bench/Ratios.h"
+#include "tests/support/FileServer.h"
+#include "tests/support/TestCertificates.h"
 
 #include <benchmark/benchmark.h>
 
@@ -16,19 +17,23 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QTemporaryDir>
 
 #include <algorithm>
 #include <memory>
+#include <vector>
 
 namespace
 {
 
 using namespace Pelnar::Engine;
-using Pelnar::Bench::DownloadServer;
-using Pelnar::Bench::Transport;
+using Pelnar::Testing::FileServer;
+
+enum class Transport
+{
+    Plain,
+    Secure,
+};
 
 constexpr quint64 ARCHIVE_BYTES = quint64{256} << 20;
 constexpr double MOST_GROWTH_MEBIBYTES = 4;
@@ -41,22 +46,47 @@ QString FolderForFiles()
     return !qEnvironmentVariableIsSet("TMPDIR") && QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
 }
 
+/// A file with bytes that do not repeat soon.
+void MakeArchive(QString const& path)
+{
+    QFile file(path);
+    std::vector<quint32> piece((1 << 20) / sizeof(quint32));
+    qint64 const bytes = qint64(piece.size() * sizeof(quint32));
+    quint32 number = 1;
+    bool isGood = file.open(QIODevice::WriteOnly);
+    for (quint64 done = 0; isGood && done < ARCHIVE_BYTES; done += quint64(bytes))
+    {
+        std::generate(piece.begin(), piece.end(), [&number] { return number = number * 1664525 + 1013904223; });
+        isGood = file.write(reinterpret_cast<char const*>(piece.data()), bytes) == bytes;
+    }
+    if (!isGood || !file.setPermissions(file.permissions() | QFile::ReadOther))
+    {
+        qFatal("no space for the archive");
+    }
+}
+
 /// One for the whole run, with everything that the measured parts need.
 struct Scene
 {
     Scene()
     {
-        QSslConfiguration configuration = QSslConfiguration::defaultConfiguration();
-        configuration.setCaCertificates(QSslCertificate::fromPath(server.AuthorityFile()));
-        QSslConfiguration::setDefaultConfiguration(configuration);
+        static_cast<void>(certificates.Signed("127.0.0.1"));
+        MakeArchive(served.filePath(QStringLiteral("archive.zip")));
+        plain = std::make_unique<FileServer>(QStringList{served.path()});
+        secure = std::make_unique<FileServer>(QStringList{served.path(), QStringLiteral("--tls"),
+                                                          certificates.CertificateFile(), certificates.KeyFile()});
     }
 
-    DownloadServer server{ARCHIVE_BYTES};
     int argumentCount = 1;
     char name[6] = "bench";
     char* arguments[2] = {name, nullptr};
     Pelnar::Bench::MeteredApplication application{argumentCount, arguments};
     QTemporaryDir folder{FolderForFiles() + QStringLiteral("/pelnar-bench-XXXXXX")};
+    QTemporaryDir served{FolderForFiles() + QStringLiteral("/pelnar-served-XXXXXX")};
+    Pelnar::Testing::TestCertificates certificates;
+    Pelnar::Testing::TrustedAuthority trusted{certificates.Authority()};
+    std::unique_ptr<FileServer> plain;
+    std::unique_ptr<FileServer> secure;
 };
 
 Scene& TheScene()
@@ -65,10 +95,16 @@ Scene& TheScene()
     return scene;
 }
 
+QUrl ArchiveAt(Transport transport)
+{
+    FileServer const& server = transport == Transport::Plain ? *TheScene().plain : *TheScene().secure;
+    return server.Url(QStringLiteral("/archive.zip"));
+}
+
 DownloadRequest RequestFor(Transport transport)
 {
     DownloadRequest request;
-    request.url = TheScene().server.Url(transport);
+    request.url = ArchiveAt(transport);
     request.declaredBytes = ARCHIVE_BYTES;
     request.feedReach = AddressReach::ThisComputer;
     request.purpose = DownloadFor::Person;
@@ -143,11 +179,11 @@ void DownloadByCurl(benchmark::State& state, Transport transport)
     QStringList const arguments{QStringLiteral("--silent"),
                                 QStringLiteral("--fail"),
                                 QStringLiteral("--cacert"),
-                                TheScene().server.AuthorityFile(),
+                                TheScene().certificates.AuthorityFile(),
                                 QStringLiteral("--http1.1"),
                                 QStringLiteral("--output"),
                                 file,
-                                TheScene().server.Url(transport).toString()};
+                                ArchiveAt(transport).toString()};
     for (auto _ : state)
     {
         (void)_;

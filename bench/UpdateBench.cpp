@@ -4,11 +4,11 @@
 // meanwhile.
 
 #include "Engine/core/base/Descriptor.h"
-#include "bench/DownloadServer.h"
 #include "bench/PayloadFixture.h"
 #include "bench/Ratios.h"
 #include "tests/installer/Ed25519Vectors.h"
 #include "tests/installer/InstallerFixture.h"
+#include "tests/support/FileServer.h"
 
 #include <benchmark/benchmark.h>
 
@@ -42,6 +42,7 @@ public:
     {
         std::string const root = FreshPath("release");
         std::filesystem::create_directory(root);
+        std::filesystem::create_directory(folder);
         Testing::Workspace const place(root);
         place.Put(Testing::MakeBundle("2.0"));
         for (std::size_t i = 0; i < sizes.size(); ++i)
@@ -56,15 +57,18 @@ public:
         file = Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
         Engine::FileMapping const content(file.Get(), bytes);
         crypto_sign_detached(signature.data(), nullptr, content.Content().data(), bytes, keys.secret.data());
-        server = std::make_unique<Bench::DownloadServer>(::fcntl(file.Get(), F_DUPFD_CLOEXEC, 0), bytes);
+        server = std::make_unique<Testing::FileServer>(QStringList{QString::fromStdString(folder)});
     }
 
-    std::string const path = FreshPath("archive") + ".zip";
+    std::string Url() const { return server->Url(QStringLiteral("/archive.zip")).toString().toStdString(); }
+
+    std::string const folder = FreshPath("served");
+    std::string const path = folder + "/archive.zip";
     std::uint64_t bytes = 0;
     Engine::UniqueFd file;
     Testing::KeyPair const keys = Testing::MakeKeyPair(1);
     std::array<std::uint8_t, crypto_sign_BYTES> signature{};
-    std::unique_ptr<Bench::DownloadServer> server;
+    std::unique_ptr<Testing::FileServer> server;
 };
 
 /// A bundle of many files, most of them small.
@@ -98,11 +102,11 @@ UpdateResult UpdateBy(Release const& release)
     Testing::Workspace const place(root);
     place.Put(Testing::MakeBundle("1.0"));
     Bench::Settle();
-    std::string const command =
-        std::string("exec '") + PELNAR_BENCH_UPDATE_HOST + "' '" +
-        release.server->Url(Bench::Transport::Plain).toString().toStdString() + "' " + std::to_string(release.bytes) +
-        " '" + Testing::Base64({release.signature.begin(), release.signature.end()}) + "' '" + release.keys.publicKey +
-        "' '" + place.Path() + '/' + Testing::APP + "' '" + Testing::IDENTIFIER + "' '" + FreshPath("downloads") + '\'';
+    std::string const command = std::string("exec '") + PELNAR_BENCH_UPDATE_HOST + "' '" + release.Url() + "' " +
+                                std::to_string(release.bytes) + " '" +
+                                Testing::Base64({release.signature.begin(), release.signature.end()}) + "' '" +
+                                release.keys.publicKey + "' '" + place.Path() + '/' + Testing::APP + "' '" +
+                                Testing::IDENTIFIER + "' '" + FreshPath("downloads") + '\'';
     UpdateResult result;
     std::string text;
     result.seconds = Bench::SecondsOf(
@@ -156,10 +160,8 @@ void UpdateFloors(benchmark::State& state)
         Bench::Settle();
         bool isGood = true;
         double const download = Bench::SecondsOf(
-            [&]
-            {
-                isGood = Bench::Run({"curl", "--silent", "--fail", "--http1.1", "--output", downloaded,
-                                     release.server->Url(Bench::Transport::Plain).toString().toStdString()});
+            [&] {
+                isGood = Bench::Run({"curl", "--silent", "--fail", "--http1.1", "--output", downloaded, release.Url()});
             });
         double const verification = Bench::SecondsOf(
             [&]

@@ -25,10 +25,19 @@ namespace
 
 constexpr int PATIENCE_MS = 100000;
 constexpr int LOOK_AGAIN_MS = 10;
-constexpr int SERVER_PATIENCE_MS = 30000;
 constexpr QDir::Filters ALL_ENTRIES = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
 constexpr char RUNNING_PREFIX[] = "Pelnar Demo ";
 constexpr char RUNNING_SUFFIX[] = " is running";
+
+QStringList OptionsOf(QStringList const& faults)
+{
+    QStringList options;
+    for (QString const& fault : faults)
+    {
+        options += {QStringLiteral("--fault"), fault};
+    }
+    return options;
+}
 
 QString Published(char const* name)
 {
@@ -198,49 +207,21 @@ void PublishedSite::Run(char const* verb, char const* name, QStringList const& m
     EXPECT_EQ(QProcess::execute(QStringLiteral(PELNAR_APPCAST_PROGRAM), arguments + more), 0) << verb;
 }
 
-UpdateServer::UpdateServer(QStringList const& faults)
-{
-    Start(Published("site"), faults);
-}
+UpdateServer::UpdateServer(QStringList const& faults) : UpdateServer(Published("site"), faults) {}
 
-UpdateServer::UpdateServer(PublishedSite const& site)
-{
-    Start(site.Path(), {});
-}
+UpdateServer::UpdateServer(PublishedSite const& site) : UpdateServer(site.Path(), {}) {}
 
-void UpdateServer::Start(QString const& folder, QStringList const& faults)
+UpdateServer::UpdateServer(QString const& folder, QStringList const& faults)
+    : m_server(QStringList{folder, QStringLiteral("--tls"), Published("server.pem"), Published("server.key")} +
+               OptionsOf(faults))
 {
-    QStringList arguments{QStringLiteral("serve"),
-                          QStringLiteral("--end-with-input"),
-                          folder,
-                          QStringLiteral("--tls"),
-                          Published("server.pem"),
-                          Published("server.key")};
-    for (QString const& fault : faults)
-    {
-        arguments += {QStringLiteral("--fault"), fault};
-    }
-    m_process.start(QStringLiteral(PELNAR_APPCAST_PROGRAM), arguments);
-    while (!m_process.canReadLine() && m_process.waitForReadyRead(SERVER_PATIENCE_MS))
-    {
-    }
-    m_address = QString::fromLatin1(m_process.readLine()).trimmed();
-    EXPECT_TRUE(m_address.startsWith(QLatin1String("https://127.0.0.1:")))
-        << m_process.readAllStandardError().toStdString();
-}
-
-UpdateServer::~UpdateServer()
-{
-    m_process.closeWriteChannel();
-    m_process.waitForFinished(SERVER_PATIENCE_MS);
+    EXPECT_EQ(m_server.Address().scheme(), QStringLiteral("https")) << m_server.Log().toStdString();
 }
 
 std::vector<std::string> UpdateServer::EndAndListAnswers()
 {
-    m_process.closeWriteChannel();
-    EXPECT_TRUE(m_process.waitForFinished(SERVER_PATIENCE_MS));
     std::vector<std::string> answers;
-    for (QByteArray const& line : m_process.readAllStandardError().split('\n'))
+    for (QByteArray const& line : m_server.Log().split('\n'))
     {
         QList<QByteArray> const words = line.split(' ');
         if (words.size() > 2)

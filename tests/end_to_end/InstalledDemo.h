@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Engine/core/base/ContentHasher.h"
+#include "tests/support/FileServer.h"
 
 #include <QProcess>
 #include <QStringList>
@@ -59,19 +60,17 @@ public:
     /// \a faults are what the server is told to do wrong.
     explicit UpdateServer(QStringList const& faults = {});
     explicit UpdateServer(PublishedSite const& site);
-    ~UpdateServer();
 
-    QString Url(QString const& feed) const { return m_address + QLatin1Char('/') + feed; }
+    QString Url(QString const& feed) const { return m_server.Address().toString() + QLatin1Char('/') + feed; }
     /// Ends the server; the names of the files that it was asked for in requests that it answered with their bytes.
     std::vector<std::string> EndAndListServedFiles();
     /// Ends the server; its answers, as the file's name, a blank, and the status.
     std::vector<std::string> EndAndListAnswers();
 
 private:
-    void Start(QString const& folder, QStringList const& faults);
+    UpdateServer(QString const& folder, QStringList const& faults);
 
-    QProcess m_process;
-    QString m_address;
+    FileServer m_server;
 };
 
 class InstalledDemo

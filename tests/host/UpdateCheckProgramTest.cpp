@@ -2,10 +2,11 @@
 
 #include "tests/host/DemoFeeds.h"
 #include "tests/host/DemoProgram.h"
+#include "tests/support/ServerThread.h"
 
 #include <gtest/gtest.h>
-#include <httplib.h>
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -15,9 +16,7 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <future>
 #include <ostream>
-#include <thread>
 
 namespace Pelnar::Testing
 {
@@ -277,58 +276,35 @@ TEST(CheckProgramOptions, APersonsUserDefaultsAreNotTouched)
 
 // --- over the network ---
 
-/// Serves on a free port of the loopback interface while it lives.
-class LoopbackServer
+/// The program's servers run in threads of their own, which need an application.
+class CheckProgramOverTheNetwork : public ::testing::Test
 {
-public:
-    explicit LoopbackServer(httplib::Server::Handler handler)
-    {
-        m_server.Get("/feed.xml", std::move(handler));
-        m_port = m_server.bind_to_any_port("127.0.0.1");
-        m_thread = std::thread([this] { m_server.listen_after_bind(); });
-    }
-    ~LoopbackServer()
-    {
-        m_server.stop();
-        m_thread.join();
-    }
-
-    QString FeedAddress() const { return QStringLiteral("http://127.0.0.1:%1/feed.xml").arg(m_port); }
-
-private:
-    httplib::Server m_server;
-    int m_port = 0;
-    std::thread m_thread;
+    int m_argumentCount = 0;
+    QCoreApplication m_application{m_argumentCount, nullptr};
 };
 
-TEST(CheckProgramOverTheNetwork, ReadsTheFeedOfALoopbackServer)
+TEST_F(CheckProgramOverTheNetwork, ReadsTheFeedOfALoopbackServer)
 {
-    LoopbackServer const server(
-        [](httplib::Request const&, httplib::Response& response) {
-            response.set_content(FeedOf({{"6.0.1", "", ""}}).toStdString(), "application/rss+xml");
-        });
-    ProgramResult const result = Check(server.FeedAddress(), {QStringLiteral("--exit-code")});
+    ServerThread const server(Answering(OkAnswer(FeedOf({{"6.0.1", "", ""}}))));
+    ProgramResult const result = Check(server.Url().toString(), {QStringLiteral("--exit-code")});
     EXPECT_EQ(result.lines, (Lines{FOUND_MAJOR, OPENING, CLOSED, MAJOR})) << result.errors;
     EXPECT_EQ(result.status, 11);
 }
 
-TEST(CheckProgramOverTheNetwork, AnErrorOfTheServerIsAFailure)
+TEST_F(CheckProgramOverTheNetwork, AnErrorOfTheServerIsAFailure)
 {
-    LoopbackServer const server([](httplib::Request const&, httplib::Response& response) { response.status = 503; });
-    ProgramResult const result = Check(server.FeedAddress(), {QStringLiteral("--mode=silent")});
+    ServerThread const server(Answering("HTTP/1.1 503 Busy\r\nContent-Length: 0\r\n\r\n"));
+    ProgramResult const result = Check(server.Url().toString(), {QStringLiteral("--mode=silent")});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.lines, Lines());
     EXPECT_NE(result.errors.find("503"), std::string::npos) << result.errors;
 }
 
-TEST(CheckProgramOverTheNetwork, AServerThatDoesNotAnswerEndsWithTheTimeout)
+TEST_F(CheckProgramOverTheNetwork, AServerThatDoesNotAnswerEndsWithTheTimeout)
 {
-    std::promise<void> programHasEnded;
-    std::shared_future<void> const ended = programHasEnded.get_future().share();
-    LoopbackServer const server([ended](httplib::Request const&, httplib::Response&) { ended.wait(); });
+    ServerThread const server(Silent());
     ProgramResult const result =
-        Check(server.FeedAddress(), {QStringLiteral("--mode=silent"), QStringLiteral("--timeout=1")});
-    programHasEnded.set_value();
+        Check(server.Url().toString(), {QStringLiteral("--mode=silent"), QStringLiteral("--timeout=1")});
     EXPECT_EQ(result.status, 1);
     EXPECT_EQ(result.errors, FAILURE_START + "no answer within 1 s\n");
 }

@@ -2,7 +2,7 @@
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
 #include "tests/support/EveryFault.h"
-#include "tests/support/Http2Server.h"
+#include "tests/support/FileServer.h"
 #include "tests/support/TestCertificates.h"
 
 #include <QProcess>
@@ -68,15 +68,17 @@ TEST_F(ArchiveDownloadTest, BringsItOverHttp2)
     TestCertificates certificates;
     TrustedAuthority const trusted(certificates.Authority());
     (void)certificates.Signed("127.0.0.1");
-    Http2Server server(certificates);
+    // More than all buffers hold, so that the transfer has to wait for the disk now and then.
+    QByteArray const large = MakeArchive(48 * 1024 * 1024);
+    QTemporaryDir served;
+    QFile file(served.filePath(QStringLiteral("file")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(large) == large.size() && file.flush());
+    FileServer const server(served.path(), {certificates.CertificateFile(), certificates.KeyFile()});
     if (!server.IsThere())
     {
         GTEST_SKIP() << "there is no nghttpd here";
     }
-    // More than all buffers hold, so that the transfer has to wait for the disk now and then.
-    QByteArray const large = MakeArchive(48 * 1024 * 1024);
-    QUrl const url = server.Serve(large);
-    DownloadResult const result = Run(RequestFor(url, large.size()));
+    DownloadResult const result = Run(RequestFor(server.Url(QStringLiteral("/file")), large.size()));
     EXPECT_EQ(result.cause, ErrorCause::NoUpdate);
     EXPECT_TRUE(result.bytes == large);
 }

@@ -3,9 +3,9 @@
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
-#include "tests/engine_core/download/ServerThread.h"
 #include "tests/installer/CallTracer.h"
 #include "tests/support/Sanitizers.h"
+#include "tests/support/ServerThread.h"
 
 #include <algorithm>
 #include <cerrno>

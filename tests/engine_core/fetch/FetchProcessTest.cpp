@@ -1,7 +1,7 @@
 // FetchProcessTest.cpp: a fetch seen from outside its process: which calls it makes of the system, how much memory it
 // takes, what a wrong clock or a missing network does to it.
 #include "tests/engine_core/fetch/FetchHarness.h"
-#include "tests/support/Http2Server.h"
+#include "tests/support/FileServer.h"
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/ProgramOutput.h"
 #include "tests/support/Sanitizers.h"
@@ -323,16 +323,26 @@ protected:
         }
     }
 
+    /// Serves \a bytes, changed at \a time, at the address that is returned.
+    QUrl Serve(QByteArray const& bytes, QDateTime const& time = QDateTime::currentDateTime())
+    {
+        QFile file(served.filePath(QStringLiteral("file")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush());
+        EXPECT_TRUE(file.setFileTime(time, QFileDevice::FileModificationTime));
+        return server.Url(QStringLiteral("/file"));
+    }
+
+    QTemporaryDir served;
     TestCertificates certificates;
     TrustedAuthority trusted{certificates.Authority()};
     ServerIdentity identity = certificates.Signed("127.0.0.1");
-    Http2Server server{certificates};
+    FileServer server{served.path(), {certificates.CertificateFile(), certificates.KeyFile()}};
 };
 
 TEST_F(Http2, FeedIsFetched)
 {
     QByteArray const body(3 * 1024 * 1024, 'x');
-    QUrl const url = server.Serve(body);
+    QUrl const url = Serve(body);
     EXPECT_EQ(Fetch(url).bytes, body);
     EXPECT_EQ(Fetch(url).bytes, body) << "over the same connection";
 }
@@ -340,8 +350,7 @@ TEST_F(Http2, FeedIsFetched)
 TEST_F(Http2, UnchangedFeedIsNotSentAgain)
 {
     QByteArray const body(1000, 'x');
-    QUrl const url = server.Serve(body);
-    server.SetTime(QDateTime(QDate(2016, 11, 6), QTime(8, 49, 37), Qt::UTC));
+    QUrl const url = Serve(body, QDateTime(QDate(2016, 11, 6), QTime(8, 49, 37), Qt::UTC));
     FetchOutcome const first = Fetch(url);
     ASSERT_TRUE(first.keepable) << "it says when the file was changed";
     FetchOutcome const again = Fetch(url, ShortLimits(), InsecureHttp::LoopbackOnly, first.keepable);
@@ -352,7 +361,7 @@ TEST_F(Http2, UnchangedFeedIsNotSentAgain)
 
 TEST_F(Http2, FeedThatIsTooLargeOrMissingIsRefused)
 {
-    EXPECT_EQ(CauseOf(Fetch(server.Serve(QByteArray(5 * 1024 * 1024, 'x')))), ErrorCause::BodyTooLarge);
+    EXPECT_EQ(CauseOf(Fetch(Serve(QByteArray(5 * 1024 * 1024, 'x')))), ErrorCause::BodyTooLarge);
     FetchOutcome const outcome = Fetch(server.Url(QStringLiteral("/missing")));
     ASSERT_EQ(CauseOf(outcome), ErrorCause::HttpStatus);
     EXPECT_EQ(outcome.error->httpStatus, 404);

@@ -2,6 +2,7 @@
 
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"
+#include "tests/support/FileServer.h"
 #include "tests/support/TestCertificates.h"
 
 #include <gtest/gtest.h>
@@ -23,37 +24,13 @@ namespace
 
 constexpr int PATIENCE_MS = 30000;
 
-/// The program serving a folder, until the object goes.
-class Server
+/// The program, which has to end well.
+class Server : public FileServer
 {
 public:
-    explicit Server(QStringList const& arguments)
-    {
-        m_process.start(AppcastProgram(),
-                        QStringList{QStringLiteral("serve"), QStringLiteral("--end-with-input")} + arguments);
-        while (!m_process.canReadLine() && m_process.waitForReadyRead(PATIENCE_MS))
-        {
-        }
-        m_address = QUrl(QString::fromUtf8(m_process.readLine().trimmed()));
-    }
+    using FileServer::FileServer;
     ~Server() { EXPECT_EQ(End(), 0); }
-
-    QUrl const& Address() const { return m_address; }
-    int End()
-    {
-        m_process.closeWriteChannel();
-        EXPECT_TRUE(m_process.state() == QProcess::NotRunning || m_process.waitForFinished(PATIENCE_MS));
-        return m_process.exitCode();
-    }
-    std::string Log()
-    {
-        End();
-        return m_process.readAllStandardError().toStdString();
-    }
-
-private:
-    QProcess m_process;
-    QUrl m_address;
+    std::string Log() { return FileServer::Log().toStdString(); }
 };
 
 struct Answer

@@ -1,4 +1,5 @@
 // ServerThread.h: a LoopbackServer in a thread of its own, for tests that block while another process uses it.
+// Needs an application object.
 // Thread: the test's makes and destroys it; the script runs in the server's. Ownership: a scope object.
 #pragma once
 

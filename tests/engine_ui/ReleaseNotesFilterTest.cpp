@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -383,10 +384,23 @@ TEST(ReleaseNotesLimits, MarkdownThatGrowsAThousandfoldStopsGrowing)
 {
     std::string const table =
         Repeated("a|", 1000) + "\n" + Repeated("---|", 1000) + "\n" + Repeated("a|\n", 10000); // 10 million cells
-    std::string const html = MarkdownToHtml(table, 50000);
+    std::string const html = MarkdownToHtml(table, 50000).html;
     EXPECT_GT(html.size(), 50000U);
     EXPECT_LT(html.size(), 51000U);
     EXPECT_EQ(FilterReleaseNotes(table, Format::Markdown).refusal, Refusal::TooManyCells);
+}
+
+TEST(ReleaseNotesLimits, LongTitlesAndAddressesWithManyUsesCostLittleTime)
+{
+    std::string const uses = "\n\n" + Repeated("[a] ![a] ", 10000);
+    for (std::string const& text :
+         {"[a]: /b '" + Repeated("&amp;c", 20000) + "'" + uses, "[a]: /b" + Repeated("&amp;c", 20000) + uses})
+    {
+        auto const start = std::chrono::steady_clock::now();
+        EXPECT_EQ(FilterReleaseNotes(text, Format::Markdown).refusal, Refusal::TooLong);
+        EXPECT_LT(std::chrono::steady_clock::now() - start,
+                  std::chrono::seconds(5)); // some take a minute without limits
+    }
 }
 
 TEST(ReleaseNotesLimits, TextThatIsTooLongIsCutWithinItsLimits)

@@ -102,18 +102,18 @@ FilteredReleaseNotes AsPlainText(std::string_view cleanNotes, ReleaseNotesFormat
     return {Rebuilt(html, limits).html, refusal};
 }
 
-std::string ToHtml(std::string_view cleanNotes, ReleaseNotesFormat format, ReleaseNotesLimits const& limits)
+NotesHtml ToHtml(std::string_view cleanNotes, ReleaseNotesFormat format, ReleaseNotesLimits const& limits)
 {
     switch (format)
     {
     case ReleaseNotesFormat::PlainText:
-        return PlainTextToHtml(cleanNotes, BareLinks::MadeClickable);
+        return {PlainTextToHtml(cleanNotes, BareLinks::MadeClickable)};
     case ReleaseNotesFormat::Markdown:
         return MarkdownToHtml(cleanNotes, HTML_BYTES_PER_NOTES_BYTE * limits.maxBytes);
     case ReleaseNotesFormat::Html:
         break;
     }
-    return std::string(cleanNotes);
+    return {std::string(cleanNotes)};
 }
 
 } // namespace
@@ -136,7 +136,12 @@ FilteredReleaseNotes FilterReleaseNotes(std::string_view notes, ReleaseNotesForm
     {
         return AsPlainText(clean, format, ReleaseNotesRefusal::TooLong, limits);
     }
-    FilteredReleaseNotes const rebuilt = Rebuilt(ToHtml(clean, format, limits), limits);
+    NotesHtml const unsafe = ToHtml(clean, format, limits);
+    FilteredReleaseNotes rebuilt = Rebuilt(unsafe.html, limits);
+    if (rebuilt.refusal == ReleaseNotesRefusal::None && !unsafe.isWhole)
+    {
+        rebuilt.refusal = ReleaseNotesRefusal::TooLong;
+    }
     return rebuilt.refusal == ReleaseNotesRefusal::None ? rebuilt : AsPlainText(clean, format, rebuilt.refusal, limits);
 }
 

@@ -9,7 +9,14 @@
 namespace Pelnar::Engine
 {
 
-/// Stops soon after \a maxHtmlBytes: a wide table with many short rows can grow a thousandfold.
-[[nodiscard]] std::string MarkdownToHtml(std::string_view cleanText, std::size_t maxHtmlBytes);
+struct NotesHtml
+{
+    std::string html;
+    bool isWhole = true;
+};
+
+/// Stops soon after \a maxHtmlBytes, because a wide table with many short rows can grow a thousandfold, and after links
+/// that cost the parser too much.
+[[nodiscard]] NotesHtml MarkdownToHtml(std::string_view cleanText, std::size_t maxHtmlBytes);
 
 } // namespace Pelnar::Engine

@@ -1,6 +1,7 @@
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 
 #include "Engine/core/base/SafeText.h"
+#include "Engine/core/notes/ReleaseNotesEntities_p.h"
 #include "Engine/core/notes/ReleaseNotesLink.h"
 
 #include <algorithm>
@@ -16,22 +17,6 @@ constexpr std::uint32_t REPLACEMENT = 0xFFFD;
 constexpr std::uint32_t NO_CHARACTER = 0;
 constexpr std::string_view NO_BREAK_SPACE = "\xC2\xA0";
 
-struct NamedEntity
-{
-    std::string_view name;
-    std::uint32_t codePoint;
-};
-
-constexpr std::array NAMED_ENTITIES = {
-    NamedEntity{"amp", '&'},       NamedEntity{"apos", '\''},    NamedEntity{"bull", 0x2022},
-    NamedEntity{"copy", 0xA9},     NamedEntity{"euro", 0x20AC},  NamedEntity{"gt", '>'},
-    NamedEntity{"hellip", 0x2026}, NamedEntity{"laquo", 0xAB},   NamedEntity{"larr", 0x2190},
-    NamedEntity{"ldquo", 0x201C},  NamedEntity{"lsquo", 0x2018}, NamedEntity{"lt", '<'},
-    NamedEntity{"mdash", 0x2014},  NamedEntity{"middot", 0xB7},  NamedEntity{"nbsp", 0xA0},
-    NamedEntity{"ndash", 0x2013},  NamedEntity{"quot", '"'},     NamedEntity{"raquo", 0xBB},
-    NamedEntity{"rarr", 0x2192},   NamedEntity{"rdquo", 0x201D}, NamedEntity{"reg", 0xAE},
-    NamedEntity{"rsquo", 0x2019},  NamedEntity{"times", 0xD7},   NamedEntity{"trade", 0x2122},
-};
 constexpr std::size_t MAX_ENTITY_BYTES = 10; // "&#x10FFFF;" and every name above
 
 void AppendUtf8(std::string& out, std::uint32_t codePoint)
@@ -119,45 +104,6 @@ void AppendShown(std::string& out, std::uint32_t codePoint)
     {
         AppendUtf8(out, shown);
     }
-}
-
-/// The code point that \a digits name; U+FFFD if it does not exist.
-std::uint32_t CodePointOfDigits(std::string_view digits, std::uint32_t base)
-{
-    std::uint32_t codePoint = 0;
-    for (char const c : digits)
-    {
-        auto const letter = static_cast<unsigned char>(c | 0x20);
-        std::uint32_t const digit = IsAsciiDigit(c) ? static_cast<unsigned char>(c) - '0' : letter - 'a' + 10U;
-        codePoint = codePoint * base + digit; // at most seven digits: no overflow
-    }
-    bool const isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    return codePoint > 0x10FFFF || isSurrogate ? REPLACEMENT : codePoint;
-}
-
-/// Appends the text of the entity between "&" and ";"; false if the entity is unknown.
-[[nodiscard]] bool AppendEntity(std::string& out, std::string_view name)
-{
-    if (name.size() > 1 && name.front() == '#')
-    {
-        bool const isHex = (name[1] | 0x20) == 'x';
-        std::string_view const digits = name.substr(isHex ? 2 : 1);
-        if (digits.empty() || digits.size() > 7 ||
-            !std::all_of(digits.begin(), digits.end(), isHex ? IsAsciiHexDigit : IsAsciiDigit))
-        {
-            return false;
-        }
-        AppendShown(out, CodePointOfDigits(digits, isHex ? 16 : 10));
-        return true;
-    }
-    auto const* const entity = std::find_if(NAMED_ENTITIES.begin(), NAMED_ENTITIES.end(),
-                                            [name](NamedEntity const& known) { return known.name == name; });
-    if (entity == NAMED_ENTITIES.end())
-    {
-        return false;
-    }
-    AppendUtf8(out, entity->codePoint);
-    return true;
 }
 
 void AppendLine(std::string& out, std::string_view line, BareLinks bareLinks)
@@ -310,8 +256,11 @@ std::string DecodeEntities(std::string_view text)
             break;
         }
         std::size_t const semicolon = text.substr(0, MAX_ENTITY_BYTES).find(';');
-        if (semicolon != std::string_view::npos && AppendEntity(decoded, text.substr(1, semicolon - 1)))
+        std::optional<std::uint32_t> const codePoint =
+            semicolon == std::string_view::npos ? std::nullopt : CodePointOfEntity(text.substr(1, semicolon - 1));
+        if (codePoint)
         {
+            AppendShown(decoded, *codePoint);
             text.remove_prefix(semicolon + 1);
             continue;
         }

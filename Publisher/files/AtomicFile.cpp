@@ -121,6 +121,10 @@ InputFile AtomicFile::ForReading() const
 
 void AtomicFile::LinkHidden()
 {
+    if (!m_hiddenName.isEmpty())
+    {
+        return;
+    }
     // A link replaces nothing, so that the file comes to its name by a rename, as one that had a hidden name all along.
     std::string const self = "/proc/self/fd/" + std::to_string(Descriptor());
     QFileInfo const target(m_path);
@@ -133,23 +137,78 @@ void AtomicFile::LinkHidden()
     m_hiddenName = hidden;
 }
 
-void AtomicFile::Commit(ExistingFile existing)
+void AtomicFile::Sync() const
 {
     if (::fsync(Descriptor()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
     }
-    if (m_hiddenName.isEmpty())
-    {
-        LinkHidden();
-    }
-    NameFinally(m_folder.Get(), m_hiddenName, m_path, existing);
-    m_isCommitted = true;
-    m_leftover.reset();
+}
+
+void AtomicFile::SyncFolder() const
+{
     if (::fsync(m_folder.Get()) != 0)
     {
         RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
     }
+}
+
+void AtomicFile::NameForNow()
+{
+    LinkHidden();
+    QFileInfo const target(m_path);
+    m_named.emplace(
+        [&]
+        {
+            NameFinally(m_folder.Get(), m_hiddenName, m_path, ExistingFile::Keep);
+            return QFile::encodeName(target.absoluteFilePath()).toStdString();
+        });
+    m_hiddenName = QFile::encodeName(target.fileName());
+    m_leftover.reset();
+}
+
+void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last)
+{
+    // What takes its time comes first: between the first name and the last there is little left to be interrupted in.
+    last.Sync();
+    last.LinkHidden();
+    for (std::unique_ptr<AtomicFile> const& file : files)
+    {
+        file->Sync();
+    }
+    for (std::unique_ptr<AtomicFile> const& file : files)
+    {
+        file->NameForNow();
+    }
+    if (!files.empty())
+    {
+        files.front()->SyncFolder();
+    }
+    for (std::unique_ptr<AtomicFile> const& file : files)
+    {
+        file->m_named.reset(); // or a signal would take it from under the last one
+    }
+    last.Name(ExistingFile::Replace);
+    for (std::unique_ptr<AtomicFile> const& file : files)
+    {
+        file->m_isCommitted = true;
+    }
+    last.SyncFolder();
+}
+
+void AtomicFile::Commit(ExistingFile existing)
+{
+    Sync();
+    LinkHidden();
+    Name(existing);
+    SyncFolder();
+}
+
+void AtomicFile::Name(ExistingFile existing)
+{
+    NameFinally(m_folder.Get(), m_hiddenName, m_path, existing);
+    m_isCommitted = true;
+    m_leftover.reset();
 }
 
 NewFolder::NewFolder(QString const& path) : m_path(path)

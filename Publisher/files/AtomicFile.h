@@ -8,7 +8,9 @@
 #include <QByteArray>
 #include <QString>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace Pelnar::Publisher
 {
@@ -36,14 +38,22 @@ public:
     void Write(QByteArray const& bytes);
     /// Writes everything to the disk and gives the file its name. Throws Refusal.
     void Commit(ExistingFile existing);
+    /// Gives \a files, of one folder, their names, which must be free, and then \a last its own, which may be in use.
+    /// When one cannot be named or the process is told to end, those that are named already go. Throws Refusal.
+    static void CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last);
 
 private:
     void MakeHidden(QByteArray const& folder);
     void LinkHidden();
+    void Sync() const;
+    void SyncFolder() const;
+    void Name(ExistingFile existing);
+    void NameForNow();
 
     QString m_path;
     QByteArray m_hiddenName; ///< empty while the file has no name at all
     std::optional<Leftover> m_leftover;
+    std::optional<Leftover> m_named; ///< its final name, while that may still go
     Engine::UniqueFd m_folder;
     Engine::UniqueFd m_descriptor;
     bool m_isCommitted = false;

@@ -247,13 +247,4 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
     m_made.push_back(std::move(file));
 }
 
-void DeltaStage::Commit()
-{
-    for (std::unique_ptr<AtomicFile> const& file : m_made)
-    {
-        file->Commit(ExistingFile::Keep);
-    }
-    m_made.clear();
-}
-
 } // namespace Pelnar::Publisher

@@ -33,11 +33,11 @@ public:
     /// Gives each of \a items the deltas to it that lie in the folder, and the newest bundle for Linux, unless a
     /// published one is newer, deltas from versions before it whose archives lie in the folder. A delta is
     /// taken only when it makes the very bundle of the item's archive and saves a tenth of that. Nothing is seen in the
-    /// folder until Commit. Throws Refusal.
+    /// folder before the feed is there. Throws Refusal.
     void AddTo(std::vector<NewItem>& items, DeltaChoice const& choice);
 
-    /// Gives the deltas that were made their names in the folder. Throws Refusal.
-    void Commit();
+    /// The files that were made, which have no names yet.
+    std::vector<std::unique_ptr<AtomicFile>>& Made() { return m_made; }
 
 private:
     /// A bundle for Linux whose archive lies in the folder.

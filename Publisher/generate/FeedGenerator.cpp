@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <iterator>
 #include <set>
 
 namespace Pelnar::Publisher
@@ -116,12 +117,14 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
         QStringLiteral("%1: %2 added, %3 kept").arg(feedFile, CountOf(items.size(), QStringLiteral("item"))).arg(kept));
 }
 
-void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& address)
+/// With \a made, which the feed names.
+void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& address,
+               std::vector<std::unique_ptr<AtomicFile>> const& made)
 {
     PublishedFeed const proof(feedFile, bytes, address);
     AtomicFile file(feedFile);
     file.Write(bytes);
-    file.Commit(ExistingFile::Replace);
+    AtomicFile::CommitTogether(made, file);
 }
 
 /// What a finding says, without the lines that move when items are added.
@@ -210,9 +213,9 @@ public:
         RefuseNewErrors(m_feedFile, m_isNew ? std::vector<LintFinding>() : FindingsOf(m_published.bytes), findings);
         if (m_terms || bytes != m_published.bytes)
         {
-            recompressed.Commit();
-            deltas.Commit();
-            WriteFeed(m_feedFile, bytes, m_address);
+            std::vector<std::unique_ptr<AtomicFile>> made = std::move(recompressed.Made());
+            std::move(deltas.Made().begin(), deltas.Made().end(), std::back_inserter(made));
+            WriteFeed(m_feedFile, bytes, m_address, made);
         }
         Report(m_console, m_feedFile, items, kept);
         TellIgnored(archives, items);

@@ -72,13 +72,4 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     m_made.push_back(std::move(file));
 }
 
-void RecompressStage::Commit()
-{
-    for (std::unique_ptr<AtomicFile> const& file : m_made)
-    {
-        file->Commit(ExistingFile::Keep);
-    }
-    m_made.clear();
-}
-
 } // namespace Pelnar::Publisher

@@ -24,11 +24,11 @@ public:
     }
 
     /// Gives each bundle for Linux among \a items a tar of the same bundle, packed by zstd, if that saves a tenth.
-    /// Files appear in the folder only with Commit. Throws Refusal.
+    /// Files appear in the folder only with the feed. Throws Refusal.
     void AddTo(std::vector<NewItem>& items);
 
-    /// Gives the archives their names in the folder. Throws Refusal.
-    void Commit();
+    /// The files that were made, which have no names yet.
+    std::vector<std::unique_ptr<AtomicFile>>& Made() { return m_made; }
 
 private:
     void Pack(NewItem& item, QString const& stem);

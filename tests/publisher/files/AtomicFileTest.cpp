@@ -11,6 +11,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -114,6 +115,58 @@ TEST_P(AtomicFiles, TellWhenTheirNameMayNotSurvive)
 INSTANTIATE_TEST_SUITE_P(Every, AtomicFiles, ::testing::Values(ExistingFile::Replace, ExistingFile::Keep),
                          [](auto const& row)
                          { return std::string(row.param == ExistingFile::Keep ? "New" : "Replaced"); });
+
+class FilesTogether : public AtomicFiles
+{
+protected:
+    /// Two files, and a feed that takes another's place.
+    void Publish(std::vector<std::string> const& names = {"a.delta", "b.delta"})
+    {
+        std::vector<std::unique_ptr<AtomicFile>> files;
+        for (std::string const& name : names)
+        {
+            files.push_back(std::make_unique<AtomicFile>(QString::fromStdString(m_folder.Path() + '/' + name)));
+            files.back()->Write("delta");
+        }
+        AtomicFile feed(Path());
+        feed.Write("new");
+        calls.clear();
+        AtomicFile::CommitTogether(files, feed);
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Once, FilesTogether, ::testing::Values(ExistingFile::Replace),
+                         [](auto const&) { return std::string("Replaced"); });
+
+TEST_P(FilesTogether, AreAllOnTheDiskBeforeTheFirstGetsItsNameAndTheFeedIsTheLast)
+{
+    WriteFile(m_folder.Path() + "/appcast.xml", "old");
+    Publish();
+    EXPECT_EQ(calls, (std::vector<std::string>{"sync file", "sync file", "sync file", "rename", "rename", "sync folder",
+                                               "rename", "sync folder"}));
+    EXPECT_EQ(Content(), "new");
+    EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"a.delta", "appcast.xml", "b.delta"}));
+}
+
+TEST_P(FilesTogether, GoAgainWhenOneOfThemOrTheFeedGetsNoName)
+{
+    WriteFile(m_folder.Path() + "/appcast.xml", "old");
+    WriteFile(m_folder.Path() + "/b.delta", "another's");
+    EXPECT_THROW(Publish(), Publisher::Refusal);
+    EXPECT_EQ(Content(), "old");
+    EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"appcast.xml", "b.delta"}));
+    EXPECT_TRUE(QFile::remove(Path()));
+    ASSERT_EQ(::mkdir(Path().toStdString().c_str(), 0755), 0); // no file takes its place
+    EXPECT_THROW(Publish({"c.delta"}), Publisher::Refusal);
+    EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"appcast.xml", "b.delta"}));
+}
+
+TEST_P(FilesTogether, StayWhenOnlyTheFeedsNameMayNotSurvive)
+{
+    failingCall = "sync folder";
+    EXPECT_THROW(Publish({}), Publisher::Refusal);
+    EXPECT_EQ(Content(), "new");
+}
 
 } // namespace
 } // namespace Pelnar::Testing

@@ -14,8 +14,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace Pelnar::Installer
 {

@@ -13,6 +13,10 @@ namespace
 {
 
 constexpr char const* PROGRAM_NAME = "pelnar-appcast";
+/// In the order of the help text.
+constexpr decltype(&AddExplain) VERBS[] = {AddExplain,      AddLint,     AddMatrix, AddDiff,   AddSimulate,
+                                           AddTimeline,     AddKeys,     AddSign,   AddVerify, AddGenerate,
+                                           AddCheckRelease, AddSignFeed, AddEdits,  AddDelta,  AddServe};
 
 /// The command line as far as its verbs were understood: "pelnar-appcast keys show".
 std::string UnderstoodPart(CLI::App const& program)
@@ -105,8 +109,10 @@ void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use
     program.require_subcommand(1);
     program.set_version_flag("--version", std::string(PROGRAM_NAME) + " " + PELNAR_VERSION,
                              "Print the version and exit");
-    AddFeedVerbs(program, context);
-    AddArchiveVerbs(program, context);
+    for (auto* const add : VERBS)
+    {
+        add(program, context);
+    }
     RefuseEmptyValues(program);
     use(program);
 }

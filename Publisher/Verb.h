@@ -20,13 +20,28 @@ struct VerbContext
     ExitStatus status = ExitStatus::Clean;
 };
 
-// A verb lives in a folder of its own, whose header declares `void Add…(CLI::App& program, VerbContext& context)`: it
-// adds one verb, or a verb with verbs of its own, and leaves a callback with it that does the work when it was named.
-
-/// The verbs that look at feeds and logs.
-void AddFeedVerbs(CLI::App& program, VerbContext& context);
-/// The verbs that make and check keys, archives, deltas and whole feeds.
-void AddArchiveVerbs(CLI::App& program, VerbContext& context);
+// A verb lives in a folder of its own. Each of these adds one verb, or a verb with verbs of its own, and leaves a
+// callback with it that does the work when it was named. More of a verb's folder is for its neighbours: `…Verb.h`
+// there.
+void AddExplain(CLI::App& program, VerbContext& context);
+void AddLint(CLI::App& program, VerbContext& context);
+void AddMatrix(CLI::App& program, VerbContext& context);
+void AddDiff(CLI::App& program, VerbContext& context);
+void AddSimulate(CLI::App& program, VerbContext& context);
+void AddTimeline(CLI::App& program, VerbContext& context);
+void AddKeys(CLI::App& program, VerbContext& context);
+/// "keys state" and "keys rotate".
+void AddState(CLI::App& keys, VerbContext& context);
+void AddRotate(CLI::App& keys, VerbContext& context);
+void AddSign(CLI::App& program, VerbContext& context);
+void AddVerify(CLI::App& program, VerbContext& context);
+void AddGenerate(CLI::App& program, VerbContext& context);
+void AddCheckRelease(CLI::App& program, VerbContext& context);
+void AddSignFeed(CLI::App& program, VerbContext& context);
+/// "promote", "withdraw", "edit-notes" and "prune".
+void AddEdits(CLI::App& program, VerbContext& context);
+void AddDelta(CLI::App& program, VerbContext& context);
+void AddServe(CLI::App& program, VerbContext& context);
 
 /// Calls \a use with the program's whole command line, to run or to describe it.
 void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use);

@@ -11,7 +11,6 @@
 #include <glog/logging.h>
 
 #include <cerrno>
-#include <cstring>
 
 #include <fcntl.h>
 #include <stdio.h>

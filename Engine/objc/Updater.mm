@@ -230,29 +230,39 @@ void Updater::FeedLoaded(std::vector<FeedItem> const& items)
         });
 }
 
-BestItemAnswer Updater::AskForBestItem()
+void Updater::CallIfImplemented(SEL method, std::function<void()> const& call) const
 {
-    BestItemAnswer answer;
     CallTranslatingRaised(
-        [this, &answer]
+        [this, method, &call]
         {
             @autoreleasepool
             {
-                if (![m_delegate respondsToSelector:@selector(bestValidUpdateInAppcast:forUpdater:)])
+                if ([m_delegate respondsToSelector:method])
                 {
-                    answer.kind = BestItemAnswer::Kind::NotAsked;
-                    return;
+                    call();
                 }
-                SUAppcastItem* const item = [m_delegate bestValidUpdateInAppcast:m_appcast.Get() forUpdater:m_face];
-                if (!item)
-                {
-                    return;
-                }
-                std::optional<ItemIndex> const place = [m_appcast.Get() placeOfItem:item];
-                answer.kind = place ? BestItemAnswer::Kind::Place : BestItemAnswer::Kind::Foreign;
-                answer.place = place.value_or(ItemIndex{});
             }
         });
+}
+
+BestItemAnswer Updater::AskForBestItem()
+{
+    BestItemAnswer answer;
+    answer.kind = BestItemAnswer::Kind::NotAsked;
+    CallIfImplemented(@selector(bestValidUpdateInAppcast:forUpdater:),
+                      [this, &answer]
+                      {
+                          answer = BestItemAnswer();
+                          SUAppcastItem* const item = [m_delegate bestValidUpdateInAppcast:m_appcast.Get()
+                                                                                forUpdater:m_face];
+                          if (!item)
+                          {
+                              return;
+                          }
+                          std::optional<ItemIndex> const place = [m_appcast.Get() placeOfItem:item];
+                          answer.kind = place ? BestItemAnswer::Kind::Place : BestItemAnswer::Kind::Foreign;
+                          answer.place = place.value_or(ItemIndex{});
+                      });
     return answer;
 }
 
@@ -290,42 +300,22 @@ void Updater::TellFound(FoundUpdate const& found)
                 m_fallback = found.fallback
                                  ? Retained<SUAppcastItem>::Share([m_appcast.Get() itemAtPlace:*found.fallback])
                                  : Retained<SUAppcastItem>();
-                if ([m_delegate respondsToSelector:@selector(updater:didFindValidUpdate:)])
-                {
-                    [m_delegate updater:m_face didFindValidUpdate:m_found.Get()];
-                }
             }
         });
+    CallIfImplemented(@selector(updater:didFindValidUpdate:),
+                      [this] { [m_delegate updater:m_face didFindValidUpdate:m_found.Get()]; });
 }
 
 void Updater::TellNotFound()
 {
-    CallTranslatingRaised(
-        [this]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(updaterDidNotFindUpdate:)])
-                {
-                    [m_delegate updaterDidNotFindUpdate:m_face];
-                }
-            }
-        });
+    CallIfImplemented(@selector(updaterDidNotFindUpdate:), [this] { [m_delegate updaterDidNotFindUpdate:m_face]; });
 }
 
 void Updater::TellAborted(EngineError const& error)
 {
-    CallTranslatingRaised(
-        [this, &error]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(updater:didAbortWithError:)])
-                {
-                    [m_delegate updater:m_face didAbortWithError:[PelnarTranslatedError errorWithError:error]];
-                }
-            }
-        });
+    CallIfImplemented(@selector(updater:didAbortWithError:),
+                      [this, &error]
+                      { [m_delegate updater:m_face didAbortWithError:[PelnarTranslatedError errorWithError:error]]; });
 }
 
 void Updater::CheckEnded()
@@ -345,85 +335,47 @@ SUAppcastItem* Updater::ItemAt(ItemIndex const& place) const
 
 void Updater::TellWillInstallOnQuit(ItemIndex const& place, std::function<void(RelaunchWish)> const& installNow)
 {
-    CallTranslatingRaised(
-        [this, &place, &installNow]
-        {
-            @autoreleasepool
-            {
-                SEL const method = @selector(updater:willInstallUpdateOnQuit:immediateInstallationInvocation:);
-                if ([m_delegate respondsToSelector:method])
-                {
-                    [m_delegate updater:m_face
-                                willInstallUpdateOnQuit:ItemAt(place)
-                        immediateInstallationInvocation:[PelnarImmediateInstallation invocationCalling:installNow]];
-                }
-            }
-        });
+    CallIfImplemented(@selector(updater:willInstallUpdateOnQuit:immediateInstallationInvocation:),
+                      [this, &place, &installNow]
+                      {
+                          [m_delegate updater:m_face
+                                      willInstallUpdateOnQuit:ItemAt(place)
+                              immediateInstallationInvocation:[PelnarImmediateInstallation
+                                                                  invocationCalling:installNow]];
+                      });
 }
 
 void Updater::TellCancelledInstallOnQuit(ItemIndex const& place)
 {
-    CallTranslatingRaised(
-        [this, &place]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(updater:didCancelInstallUpdateOnQuit:)])
-                {
-                    [m_delegate updater:m_face didCancelInstallUpdateOnQuit:ItemAt(place)];
-                }
-            }
-        });
+    CallIfImplemented(@selector(updater:didCancelInstallUpdateOnQuit:),
+                      [this, &place] { [m_delegate updater:m_face didCancelInstallUpdateOnQuit:ItemAt(place)]; });
 }
 
 RelaunchAnswer Updater::ShouldRelaunch()
 {
     RelaunchAnswer answer = RelaunchAnswer::Allowed;
-    CallTranslatingRaised(
-        [this, &answer]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(updaterShouldRelaunchApplication:)] &&
-                    ![m_delegate updaterShouldRelaunchApplication:m_face])
-                {
-                    answer = RelaunchAnswer::Refused;
-                }
-            }
-        });
+    CallIfImplemented(@selector(updaterShouldRelaunchApplication:),
+                      [this, &answer]
+                      {
+                          BOOL const isAllowed = [m_delegate updaterShouldRelaunchApplication:m_face];
+                          answer = isAllowed ? RelaunchAnswer::Allowed : RelaunchAnswer::Refused;
+                      });
     return answer;
 }
 
 QString Updater::PathToRelaunch()
 {
     QString path;
-    CallTranslatingRaised(
-        [this, &path]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(pathToRelaunchForUpdater:)])
-                {
-                    path = BundlePathText(ToQString([m_delegate pathToRelaunchForUpdater:m_face]));
-                }
-            }
-        });
+    CallIfImplemented(@selector(pathToRelaunchForUpdater:),
+                      [this, &path]
+                      { path = BundlePathText(ToQString([m_delegate pathToRelaunchForUpdater:m_face])); });
     return path;
 }
 
 void Updater::TellWillRelaunch()
 {
-    CallTranslatingRaised(
-        [this]
-        {
-            @autoreleasepool
-            {
-                if ([m_delegate respondsToSelector:@selector(updaterWillRelaunchApplication:)])
-                {
-                    [m_delegate updaterWillRelaunchApplication:m_face];
-                }
-            }
-        });
+    CallIfImplemented(@selector(updaterWillRelaunchApplication:),
+                      [this] { [m_delegate updaterWillRelaunchApplication:m_face]; });
 }
 
 void Updater::SkipVersion(QString const& version)

@@ -67,6 +67,9 @@ private:
     IUpdateEnvironment& Parts() { return m_testParts ? *m_testParts : *m_parts; }
     IUserInterface& Windows() { return m_testWindows ? *m_testWindows : *m_windows; }
     SUAppcastItem* ItemAt(ItemIndex const& place) const;
+    /// Does \a call, which calls the delegate's \a method, if the delegate has that method. What it raises becomes a
+    /// C++ exception.
+    void CallIfImplemented(SEL method, std::function<void()> const& call) const;
 
     void StoreFeedRecord(FeedRecord const& record) override;
     void FeedLoaded(std::vector<FeedItem> const& items) override;

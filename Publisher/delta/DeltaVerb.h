@@ -8,8 +8,6 @@
 namespace Pelnar::Publisher
 {
 
-void AddDelta(CLI::App& program, VerbContext& context);
-
 /// Adds the option "--effort" to \a verb.
 void AddEffortOption(CLI::App& verb, std::string& effort);
 /// REQUIRES: what that option accepts.

@@ -1,4 +1,4 @@
-#include "Publisher/edit/EditVerbs.h"
+#include "Publisher/Verb.h"
 
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/Refusal.h"

@@ -1,4 +1,4 @@
-#include "Publisher/explain/ExplainVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"

@@ -14,7 +14,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <ctime>
 
 #include <fcntl.h>
 #include <sys/file.h>

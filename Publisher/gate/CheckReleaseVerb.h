@@ -7,8 +7,6 @@
 namespace Pelnar::Publisher
 {
 
-void AddCheckRelease(CLI::App& program, VerbContext& context);
-
 /// "--machine", which may be given again; \a otherwise says what happens without it.
 void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise);
 /// "--public-key", which may be given again.

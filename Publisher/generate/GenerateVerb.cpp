@@ -1,4 +1,4 @@
-#include "Publisher/generate/GenerateVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaVerb.h"

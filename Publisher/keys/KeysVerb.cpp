@@ -1,13 +1,10 @@
 // KeysVerb.cpp: "keys": makes, shows and exports the key with which archives are signed.
 
-#include "Publisher/keys/KeysVerbs.h"
-
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/SigningKey.h"
 
 #include <map>
 #include <memory>
-#include <ostream>
 
 namespace Pelnar::Publisher
 {
@@ -50,7 +47,7 @@ void AddFormOption(CLI::App& verb, std::shared_ptr<PublicKeyForm> const& form)
         ->default_str("xml");
 }
 
-void AddGenerate(CLI::App& keys, VerbContext& context)
+void AddGenerateKey(CLI::App& keys, VerbContext& context)
 {
     struct Options
     {
@@ -139,7 +136,7 @@ void AddKeys(CLI::App& program, VerbContext& context)
 {
     CLI::App& keys = *program.add_subcommand("keys", "Make, show and change the keys with which archives are signed");
     keys.require_subcommand(1);
-    AddGenerate(keys, context);
+    AddGenerateKey(keys, context);
     AddShow(keys, context);
     AddExport(keys, context);
     AddState(keys, context);

@@ -4,10 +4,8 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientOptions.h"
 #include "Publisher/choice/FeedChoice.h"
-#include "Publisher/keys/KeysVerbs.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
-#include <algorithm>
 #include <memory>
 
 namespace Pelnar::Publisher

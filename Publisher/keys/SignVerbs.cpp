@@ -1,8 +1,6 @@
 // SignVerbs.cpp: "sign" and "verify": the signature of an archive, made, and judged by the code that clients judge
 // with.
 
-#include "Publisher/keys/KeysVerbs.h"
-
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"

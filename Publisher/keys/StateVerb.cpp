@@ -4,11 +4,9 @@
 #include "Engine/core/check/KeyStatement.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/KeyId.h"
-#include "Publisher/keys/KeysVerbs.h"
 #include "Publisher/keys/Signer.h"
 
 #include <memory>
-#include <ostream>
 
 namespace Pelnar::Publisher
 {

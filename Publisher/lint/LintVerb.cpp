@@ -1,4 +1,4 @@
-#include "Publisher/lint/LintVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/FeedSource.h"

@@ -1,7 +1,6 @@
 #include "Publisher/lint/LintVocabulary.h"
 
 #include <algorithm>
-#include <iterator>
 #include <vector>
 
 namespace Pelnar::Publisher

@@ -6,7 +6,6 @@
 #include "Publisher/lint/LintVocabulary.h"
 
 #include <algorithm>
-#include <map>
 #include <set>
 
 namespace Pelnar::Publisher

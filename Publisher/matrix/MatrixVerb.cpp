@@ -1,4 +1,4 @@
-#include "Publisher/matrix/MatrixVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"

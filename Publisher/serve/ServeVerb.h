@@ -21,6 +21,4 @@ struct ServeOptions
     bool endsWithInput = false;
 };
 
-void AddServe(CLI::App& program, VerbContext& context);
-
 } // namespace Pelnar::Publisher

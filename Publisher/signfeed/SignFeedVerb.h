@@ -7,8 +7,6 @@
 namespace Pelnar::Publisher
 {
 
-void AddSignFeed(CLI::App& program, VerbContext& context);
-
 /// "--key-statement", the name of a file.
 void AddKeyStatementOption(CLI::App& verb, std::string& file);
 

@@ -1,4 +1,4 @@
-#include "Publisher/simulate/SimulateVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"

@@ -1,4 +1,4 @@
-#include "Publisher/timeline/TimelineVerb.h"
+#include "Publisher/Verb.h"
 
 #include "Publisher/Refusal.h"
 #include "Publisher/timeline/Timeline.h"

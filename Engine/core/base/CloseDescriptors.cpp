@@ -1,7 +1,6 @@
 #include "Engine/core/base/CloseDescriptors.h"
 
 #include <cstdint>
-#include <cstring>
 
 #include <fcntl.h>
 #include <linux/close_range.h>

@@ -1,6 +1,5 @@
 #include "Engine/core/base/Descriptor.h"
 
-#include <algorithm>
 #include <cerrno>
 
 #include <sys/mman.h>

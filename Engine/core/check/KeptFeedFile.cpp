@@ -6,9 +6,7 @@
 #include "Engine/core/helper/NoteFile.h"
 
 #include <QCryptographicHash>
-#include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QLockFile>
 
 #include <glog/logging.h>

@@ -1,8 +1,8 @@
 #include "Engine/core/check/RolloutSeed.h"
 
+#include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/feed/ReleasePolicy.h"
 #include "Engine/core/helper/NoteFile.h"
-#include "Engine/core/faults/UpdateFault.h"
 
 #include <QCryptographicHash>
 #include <QFile>
@@ -12,7 +12,6 @@
 #include <glog/logging.h>
 
 #include <array>
-#include <optional>
 
 namespace Pelnar::Engine
 {

@@ -3,7 +3,6 @@
 #include "Engine/core/delta/AddressFields.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace Pelnar::Engine
 {

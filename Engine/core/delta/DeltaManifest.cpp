@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <numeric>
 #include <set>
-#include <string_view>
 
 namespace Pelnar::Engine
 {

@@ -11,9 +11,7 @@
 #include <glog/logging.h>
 
 #include <algorithm>
-#include <array>
 #include <utility>
-#include <variant>
 
 namespace Pelnar::Engine
 {
@@ -27,24 +25,6 @@ constexpr std::chrono::seconds CHECKPOINT_INTERVAL{10};
 constexpr qint64 WORTHWHILE_BYTES = 1024 * 1024;
 /// For the heads of all answers of one attempt, including redirects.
 constexpr qint64 USUAL_HEAD_BYTES = 8 * 1024;
-
-/// True for a failure that may disappear soon.
-bool IsPassing(EngineError const& error)
-{
-    constexpr std::array CAUSES = {ErrorCause::HostNotFound,     ErrorCause::ConnectionRefused,
-                                   ErrorCause::ConnectTimeout,   ErrorCause::NetworkUnreachable,
-                                   ErrorCause::ConnectionFailed, ErrorCause::ProxyFailed,
-                                   ErrorCause::IncompleteHead,   ErrorCause::IncompleteBody};
-    constexpr std::array STATUSES = {500, 502, 503, 504};
-    return std::find(CAUSES.begin(), CAUSES.end(), error.cause) != CAUSES.end() ||
-           std::find(STATUSES.begin(), STATUSES.end(), error.httpStatus) != STATUSES.end();
-}
-
-/// True if the server's archive cannot be the archive of the feed, so that no part of it is worth keeping.
-bool IsAboutTheArchive(ErrorCause cause)
-{
-    return cause == ErrorCause::DownloadLengthDiffers || cause == ErrorCause::SurplusBody;
-}
 
 PartialPlace PlaceFor(DownloadRequest const& request)
 {

@@ -1,6 +1,7 @@
 #include "Engine/core/download/ResumeRules.h"
 
-#include <variant>
+#include <algorithm>
+#include <array>
 
 namespace Pelnar::Engine
 {
@@ -85,6 +86,22 @@ ResumeRules DecideResume(PartialArchive const& partial, HttpHead const& head)
                                : Refuse(ErrorCause::DownloadRangeWrong);
     }
     return {ResumeStep::Refuse, MakeHttpStatusError(head.status)};
+}
+
+bool IsPassing(EngineError const& error)
+{
+    constexpr std::array CAUSES = {ErrorCause::HostNotFound,     ErrorCause::ConnectionRefused,
+                                   ErrorCause::ConnectTimeout,   ErrorCause::NetworkUnreachable,
+                                   ErrorCause::ConnectionFailed, ErrorCause::ProxyFailed,
+                                   ErrorCause::IncompleteHead,   ErrorCause::IncompleteBody};
+    constexpr std::array STATUSES = {500, 502, 503, 504};
+    return std::find(CAUSES.begin(), CAUSES.end(), error.cause) != CAUSES.end() ||
+           std::find(STATUSES.begin(), STATUSES.end(), error.httpStatus) != STATUSES.end();
+}
+
+bool IsAboutTheArchive(ErrorCause cause)
+{
+    return cause == ErrorCause::DownloadLengthDiffers || cause == ErrorCause::SurplusBody;
 }
 
 } // namespace Pelnar::Engine

@@ -40,4 +40,10 @@ struct ResumeRules
 /// Judges the answer \a head, which is not a redirect, to a request with RangeFields(\a partial).
 [[nodiscard]] ResumeRules DecideResume(PartialArchive const& partial, HttpHead const& head);
 
+/// True for a failure that may disappear soon.
+[[nodiscard]] bool IsPassing(EngineError const& error);
+
+/// True if the server's archive cannot be the archive of the feed, so that no part of it is worth keeping.
+[[nodiscard]] bool IsAboutTheArchive(ErrorCause cause);
+
 } // namespace Pelnar::Engine

@@ -1,7 +1,7 @@
 // FeedItemReader_p.cpp: one <item> of a feed with its deltas.
 #include "Engine/core/feed/FeedItemReader_p.h"
 
-#include "Engine/core/bundle/TrustedKeys.h"
+#include "Engine/core/feed/FeedEnclosure_p.h"
 #include "Engine/core/feed/FeedPolicyReader_p.h"
 #include "Engine/core/feed/FeedProperties_p.h"
 #include "Engine/core/feed/ReleasePolicy.h"
@@ -13,24 +13,6 @@ namespace Pelnar::Engine
 
 namespace
 {
-
-/// What one <enclosure> says; its texts are null when the attribute is absent.
-struct Enclosure
-{
-    QVariantMap attributes;
-    QString url;
-    QString length;
-    QString version;
-    QString displayVersion;
-    QString edSignature;
-    QString installationType;
-    QString operatingSystem;
-    QString deltaFrom;
-    QString machines;
-    QString signatures;
-    int line = 0;
-    int column = 0;
-};
 
 /// The best so far of a text that may stand in several languages.
 struct LocalizedText
@@ -51,29 +33,13 @@ struct ItemDraft
     QString displayVersionElement;
     QString hardware;
     QString rolloutInterval;
-    std::optional<Enclosure> enclosure; ///< the first for the platform, for its machine if there is one
+    std::optional<FeedEnclosure> enclosure; ///< the first for the platform, for its machine if there is one
     bool hasForeignEnclosure = false;
-    std::vector<Enclosure> deltas;
-    std::optional<Enclosure> recompressed; ///< the first for the platform and the machine
+    std::vector<FeedEnclosure> deltas;
+    std::optional<FeedEnclosure> recompressed; ///< the first for the platform and the machine
 };
 
-bool IsForSystem(FeedPlatform platform, QString const& operatingSystem)
-{
-    if (operatingSystem.isNull())
-    {
-        return true;
-    }
-    switch (platform)
-    {
-    case FeedPlatform::MacOS:
-        return operatingSystem.compare(QLatin1String("macos"), Qt::CaseInsensitive) == 0;
-    case FeedPlatform::Linux:
-        return operatingSystem.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
-    }
-    return false;
-}
-
-bool IsBetterFor(QString const& machine, Enclosure const& enclosure, Enclosure const& best)
+bool IsBetterFor(QString const& machine, FeedEnclosure const& enclosure, FeedEnclosure const& best)
 {
     return !SuitsMachine(WordsOf(best.machines), machine) && SuitsMachine(WordsOf(enclosure.machines), machine);
 }
@@ -131,84 +97,12 @@ QString FormatOf(FeedWalker const& walker)
     return {};
 }
 
-/// The member of \a enclosure that an attribute fills, or null.
-QString* MemberFor(Enclosure& enclosure, QXmlStreamAttribute const& attribute)
-{
-    QStringRef const name = attribute.name();
-    if (attribute.namespaceUri().isEmpty())
-    {
-        return IsNamed(name, QLatin1String("url"))      ? &enclosure.url
-               : IsNamed(name, QLatin1String("length")) ? &enclosure.length
-                                                        : nullptr;
-    }
-    if (attribute.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE))
-    {
-        return IsNamed(name, QLatin1String("machine"))      ? &enclosure.machines
-               : IsNamed(name, QLatin1String("signatures")) ? &enclosure.signatures
-                                                            : nullptr;
-    }
-    if (!IsFeedNamespace(attribute.namespaceUri()))
-    {
-        return nullptr;
-    }
-    static std::pair<QLatin1String, QString Enclosure::*> const MEMBERS[] = {
-        {QLatin1String("version"), &Enclosure::version},
-        {QLatin1String("shortVersionString"), &Enclosure::displayVersion},
-        {QLatin1String("edSignature"), &Enclosure::edSignature},
-        {QLatin1String("installationType"), &Enclosure::installationType},
-        {QLatin1String("os"), &Enclosure::operatingSystem},
-        {QLatin1String("deltaFrom"), &Enclosure::deltaFrom},
-    };
-    for (auto const& [text, member] : MEMBERS)
-    {
-        if (IsNamed(name, text))
-        {
-            return &(enclosure.*member);
-        }
-    }
-    return nullptr;
-}
-
-/// A function of its own: attributes that are held over the reader's next step are copied by it.
-void TakeAttributes(FeedWalker& walker, Enclosure& enclosure)
-{
-    QXmlStreamAttributes const attributes = walker.Reader().attributes();
-    for (QXmlStreamAttribute const& attribute : attributes)
-    {
-        QString text = CleanFeedText(attribute.value().toString(), FeedTextKind::SingleLine);
-        QString const& name =
-            walker.PropertyName(attribute.namespaceUri(), attribute.name(), attribute.qualifiedName());
-        *enclosure.attributes.insert(name, QVariant()) = text;
-        if (QString* const member = MemberFor(enclosure, attribute))
-        {
-            *member = text.isNull() ? QStringLiteral("") : std::move(text);
-        }
-    }
-}
-
-/// Reads the <enclosure> just entered, to its end.
-Enclosure ReadEnclosure(FeedWalker& walker)
-{
-    Enclosure enclosure;
-    enclosure.line = walker.Line();
-    enclosure.column = walker.Column();
-    TakeAttributes(walker, enclosure);
-    while (walker.EnterChild())
-    {
-        // An enclosure has no content of its own; what a feed puts there is kept like any property.
-        QXmlStreamReader const& reader = walker.Reader();
-        QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
-        AddFeedProperty(enclosure.attributes, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
-    }
-    return enclosure;
-}
-
 bool IsPlainElement(QXmlStreamReader const& reader, QLatin1String name)
 {
     return reader.namespaceUri().isEmpty() && IsNamed(reader.name(), name);
 }
 
-QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclosure>& deltas)
+QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<FeedEnclosure>& deltas)
 {
     QVariantMap properties = ReadFeedAttributes(walker);
     while (walker.EnterChild())
@@ -220,10 +114,10 @@ QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<Enclo
             AddFeedProperty(properties, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);
             continue;
         }
-        Enclosure enclosure = ReadEnclosure(walker);
+        FeedEnclosure enclosure = ReadFeedEnclosure(walker);
         AddFeedProperty(properties, name, enclosure.attributes);
         // Without the version that it starts from a delta serves nobody.
-        if (!enclosure.deltaFrom.isNull() && IsForSystem(platform, enclosure.operatingSystem))
+        if (!enclosure.deltaFrom.isNull() && IsFor(platform, enclosure))
         {
             deltas.push_back(std::move(enclosure));
         }
@@ -309,12 +203,13 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     return std::move(element.value);
 }
 
-QVariant ReadRecompressed(FeedWalker& walker, FeedItemContext const& context, std::optional<Enclosure>& recompressed)
+QVariant ReadRecompressed(FeedWalker& walker, FeedItemContext const& context,
+                          std::optional<FeedEnclosure>& recompressed)
 {
-    Enclosure enclosure = ReadEnclosure(walker);
+    FeedEnclosure enclosure = ReadFeedEnclosure(walker);
     QVariant value = enclosure.attributes;
-    bool const isForThis = IsForSystem(context.platform, enclosure.operatingSystem) &&
-                           SuitsMachine(WordsOf(enclosure.machines), context.machine);
+    bool const isForThis =
+        IsFor(context.platform, enclosure) && SuitsMachine(WordsOf(enclosure.machines), context.machine);
     if (isForThis && !recompressed)
     {
         recompressed = std::move(enclosure);
@@ -360,9 +255,9 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     QXmlStreamReader const& reader = walker.Reader();
     if (IsNamed(reader.name(), QLatin1String("enclosure")))
     {
-        Enclosure enclosure = ReadEnclosure(walker);
+        FeedEnclosure enclosure = ReadFeedEnclosure(walker);
         QVariant value = enclosure.attributes;
-        if (!IsForSystem(context.platform, enclosure.operatingSystem))
+        if (!IsFor(context.platform, enclosure))
         {
             draft.hasForeignEnclosure = true;
         }
@@ -393,35 +288,18 @@ QVariant ReadPlainChild(FeedWalker& walker, FeedItemContext const& context, Item
     return std::move(element.value);
 }
 
-/// Words of a key's id, a colon and a signature; what has another form is left out.
-std::vector<FeedSignature> SignaturesIn(QString const& text)
-{
-    constexpr std::size_t MOST_SIGNATURES = 8;
-    std::vector<FeedSignature> signatures;
-    for (QString const& word : text.split(QLatin1Char(' '), Qt::SkipEmptyParts))
-    {
-        QString const id = word.section(QLatin1Char(':'), 0, 0);
-        QString const signature = word.section(QLatin1Char(':'), 1);
-        if (IsKeyId(id.toStdString()) && !signature.isEmpty() && signatures.size() < MOST_SIGNATURES)
-        {
-            signatures.push_back({id, signature});
-        }
-    }
-    return signatures;
-}
-
-void ApplyEnclosure(FeedItem& item, Enclosure const& enclosure, FeedItemContext const& context)
+void ApplyEnclosure(FeedItem& item, FeedEnclosure const& enclosure, FeedItemContext const& context)
 {
     item.fileUrl = FeedAddress(enclosure.url, context.feedUrl);
     item.contentLength = FeedLength(QStringRef(&enclosure.length), context.limits.maxContentLength);
     item.edSignature = enclosure.edSignature;
     item.installationType = enclosure.installationType;
     item.policy.machines = WordsOf(enclosure.machines);
-    item.signatures = SignaturesIn(enclosure.signatures);
+    item.signatures = SignaturesIn(enclosure);
 }
 
 /// Nothing if it cannot be downloaded and verified.
-std::vector<FeedItem> MakeRecompressed(FeedItem const& parent, Enclosure const& enclosure,
+std::vector<FeedItem> MakeRecompressed(FeedItem const& parent, FeedEnclosure const& enclosure,
                                        FeedItemContext const& context)
 {
     FeedItem recompressed;
@@ -435,7 +313,7 @@ std::vector<FeedItem> MakeRecompressed(FeedItem const& parent, Enclosure const& 
     return isUsable ? std::vector<FeedItem>{recompressed} : std::vector<FeedItem>();
 }
 
-FeedItem MakeDelta(FeedItem const& parent, Enclosure const& enclosure, FeedItemContext const& context)
+FeedItem MakeDelta(FeedItem const& parent, FeedEnclosure const& enclosure, FeedItemContext const& context)
 {
     FeedItem delta;
     delta.title = parent.title;
@@ -501,7 +379,7 @@ FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
         item.recompressed = MakeRecompressed(item, *draft.recompressed, context);
     }
     item.deltas.reserve(draft.deltas.size());
-    for (Enclosure const& delta : draft.deltas)
+    for (FeedEnclosure const& delta : draft.deltas)
     {
         item.deltas.push_back(MakeDelta(item, delta, context));
     }

@@ -11,11 +11,9 @@
 #include <utility>
 #include <variant>
 
-#include <fcntl.h>
 #include <poll.h>
 #include <signal.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine

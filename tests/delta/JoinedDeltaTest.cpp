@@ -28,6 +28,8 @@ using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 namespace fs = std::filesystem;
 
+using Error = DeltaManifestError;
+
 std::string ReadFile(fs::path const& path)
 {
     std::ifstream in(path, std::ios::binary);
@@ -43,14 +45,6 @@ void WriteFile(fs::path const& path, std::string const& content)
 std::string Text(ByteBuffer const& bytes)
 {
     return {bytes.begin(), bytes.end()};
-}
-
-std::string Noise(unsigned seed, std::size_t size)
-{
-    std::mt19937 random(seed);
-    std::string text(size, '\0');
-    std::generate(text.begin(), text.end(), [&random] { return static_cast<char>(random()); });
-    return text;
 }
 
 std::map<std::string, std::string> FilesOf(fs::path const& folder)
@@ -367,166 +361,6 @@ TEST_F(JoinedDelta, KeptFilesCountWithTheSizesThatTheyHave)
     EXPECT_EQ(outcome.error, DeltaError::TreeRefused);
     EXPECT_EQ(outcome.fault, UpdateFault::TooManyBytes);
     EXPECT_TRUE(fs::is_empty(Staging()));
-}
-
-// The rules for units.
-
-struct UnitRow
-{
-    char const* name;
-    void (*change)(DeltaManifest& manifest);
-    DeltaManifestError error;
-};
-
-DeltaManifest RightManifest()
-{
-    DeltaManifest manifest;
-    manifest.format = DeltaFormat::Joined;
-    manifest.baseVersion = "1";
-    manifest.targetVersion = "2";
-    for (char const* const name : {"a", "ab", "b"})
-    {
-        DeltaEntry entry;
-        entry.path = name;
-        entry.kind = DeltaEntryKind::Patched;
-        entry.size = 10;
-        manifest.entries.push_back(entry);
-    }
-    manifest.entries[2].kind = DeltaEntryKind::Whole;
-    manifest.entries[2].isExecutable = true;
-    manifest.units.push_back({{{"ab", 30}, {"gone", 7}}, {1, 0}, {}});
-    manifest.units.push_back({{}, {2}, {}});
-    manifest.streams[4] = {1, 40};
-    return manifest;
-}
-
-class UnitRule : public testing::TestWithParam<UnitRow>
-{
-};
-
-TEST_P(UnitRule, Holds)
-{
-    DeltaManifest manifest = RightManifest();
-    GetParam().change(manifest);
-    EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, GetParam().error);
-    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
-    DeltaManifest decoded;
-    decoded.format = DeltaFormat::Joined;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, GetParam().error);
-    if (GetParam().error == DeltaManifestError::None)
-    {
-        EXPECT_EQ(decoded.entries, manifest.entries);
-        EXPECT_EQ(decoded.units, manifest.units);
-        EXPECT_EQ(decoded.streams, manifest.streams);
-        EXPECT_EQ(decoded.baseHash, manifest.baseHash);
-        EXPECT_EQ(decoded.targetHash, manifest.targetHash);
-    }
-}
-
-using Error = DeltaManifestError;
-
-INSTANTIATE_TEST_SUITE_P(
-    Rows, UnitRule,
-    testing::Values(
-        UnitRow{"Right", [](DeltaManifest&) {}, Error::None},
-        UnitRow{"Program",
-                [](DeltaManifest& manifest)
-                {
-                    manifest.units[0] = {{{"a", 12}}, {0}, {{0, -4096, 4096}, {1, 2, -3}}};
-                    manifest.units.push_back({{{"a", 12}}, {1}, {}});
-                },
-                Error::None},
-        UnitRow{"ProgramOfTwoSources", [](DeltaManifest& manifest) { manifest.units[0].spanChanges.resize(1); },
-                Error::BadUnit},
-        UnitRow{"NotMade", [](DeltaManifest& manifest) { manifest.units.pop_back(); }, Error::BadUnit},
-        UnitRow{"MadeTwice", [](DeltaManifest& manifest) { manifest.units[0].targets.push_back(0); }, Error::BadUnit},
-        UnitRow{"WholeOfASource",
-                [](DeltaManifest& manifest) {
-                    manifest.units[1].sources.push_back({"x", 1});
-                },
-                Error::BadUnit},
-        UnitRow{"PatchedOfNone", [](DeltaManifest& manifest) { manifest.units[0].sources.clear(); }, Error::BadUnit},
-        UnitRow{"FolderAsTarget",
-                [](DeltaManifest& manifest)
-                {
-                    manifest.entries[2] = DeltaEntry();
-                    manifest.entries[2].path = "b";
-                },
-                Error::BadUnit},
-        UnitRow{"SourceThatLeaves", [](DeltaManifest& manifest) { manifest.units[0].sources[1].path = "../x"; },
-                Error::BadSource},
-        UnitRow{"AbsoluteSource", [](DeltaManifest& manifest) { manifest.units[0].sources[1].path = "/x"; },
-                Error::BadSource},
-        UnitRow{"HugeSource", [](DeltaManifest& manifest) { manifest.units[0].sources[1].size = 1ull << 62; },
-                Error::TooManyBytes},
-        UnitRow{"HugeSourcesTogether",
-                [](DeltaManifest& manifest) {
-                    manifest.units[0].sources.assign(2, {"x", (4ull << 30) - 1});
-                },
-                Error::TooManyBytes},
-        UnitRow{"UnknownPacking", [](DeltaManifest& manifest) { manifest.streams[0].packing = 226; },
-                Error::BadPacking},
-        UnitRow{"HugeStream", [](DeltaManifest& manifest) { manifest.streams[0].size = ~0ull; }, Error::BadPacking}),
-    [](testing::TestParamInfo<UnitRow> const& row) { return row.param.name; });
-
-TEST(JoinedManifest, EveryTruncationIsRefused)
-{
-    ByteBuffer const whole = EncodeDeltaManifest(RightManifest());
-    for (std::size_t size = 0; size < whole.size(); ++size)
-    {
-        DeltaManifest decoded;
-        decoded.format = DeltaFormat::Joined;
-        EXPECT_NE(DecodeDeltaManifest(Bytes(whole.data(), size), {}, decoded).error, Error::None) << size;
-    }
-}
-
-TEST(JoinedManifest, PathsThatShareTooMuchAreRefusedBeforeTheyFillTheMemory)
-{
-    DeltaManifest manifest;
-    manifest.format = DeltaFormat::Joined;
-    std::string const deep(60000, 'a');
-    for (int i = 0; i < 1200; ++i)
-    {
-        DeltaEntry entry;
-        entry.path = deep + std::to_string(10000 + i);
-        manifest.entries.push_back(entry);
-    }
-    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
-    EXPECT_LT(bytes.size(), 100000u);
-    DeltaManifest decoded;
-    decoded.format = DeltaFormat::Joined;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, Error::TextTooLong);
-}
-
-// Streams.
-
-TEST(StreamUnpacker, NoDamageOfLzmaMakesMoreThanWasPacked)
-{
-    std::string const plain = Noise(9, 300) + std::string(5000, 'x') + Noise(9, 300);
-    Bytes const bytes(reinterpret_cast<std::uint8_t const*>(plain.data()), plain.size());
-    ByteBuffer const packed = PackByLzma(bytes, 4, NUMBERS_WINDOW_LOG);
-    for (std::size_t at = 0; at < packed.size(); ++at)
-    {
-        ByteBuffer damaged = packed;
-        damaged[at] ^= 0x20;
-        auto const unpacker = MakeUnpacker(4, NUMBERS_WINDOW_LOG);
-        Bytes input(damaged.data(), damaged.size());
-        ByteBuffer made(10000);
-        IUnpacker::Step const step = unpacker->Unpack(input, made.data(), made.size());
-        bool const isWhole = step.state == IUnpacker::State::Ended &&
-                             std::equal(plain.begin(), plain.end(), made.begin(),
-                                        [](char a, std::uint8_t b) { return static_cast<std::uint8_t>(a) == b; });
-        EXPECT_FALSE(isWhole && step.made == plain.size() && at + 5 < packed.size()) << at;
-        EXPECT_LE(step.made, made.size());
-    }
-}
-
-TEST(StreamUnpacker, PropertiesThatLzmaDoesNotKnowAreDamage)
-{
-    auto const unpacker = MakeUnpacker(225, NUMBERS_WINDOW_LOG);
-    Bytes input;
-    std::uint8_t byte = 0;
-    EXPECT_EQ(unpacker->Unpack(input, &byte, 1).state, IUnpacker::State::Damaged);
 }
 
 } // namespace

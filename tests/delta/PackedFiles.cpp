@@ -2,6 +2,7 @@
 
 #include <zlib.h>
 
+#include <algorithm>
 #include <random>
 #include <stdexcept>
 
@@ -39,6 +40,14 @@ std::string GzipOf(std::string const& text, int level, int memory)
     file.resize(stream.total_out);
     deflateEnd(&stream);
     return answer == Z_STREAM_END ? file : throw std::runtime_error("zlib cannot end");
+}
+
+std::string Noise(unsigned seed, std::size_t size)
+{
+    std::mt19937 random(seed);
+    std::string text(size, '\0');
+    std::generate(text.begin(), text.end(), [&random] { return static_cast<char>(random()); });
+    return text;
 }
 
 } // namespace Pelnar::Testing

@@ -1,6 +1,7 @@
 // CheckContractTest.cpp: what the session may rely on when it uses the engine's updater: how a check is started, how an
 // item is chosen, which outcome is told in which order, when the updater is idle.
 #include "tests/engine/CheckFixture.h"
+#include "tests/engine/StoredDefaults.h"
 #include "tests/support/TaggedFeed.h"
 
 #include <QTimer>

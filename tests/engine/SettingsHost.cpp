@@ -3,6 +3,7 @@
 //                                      says what it reads there
 
 #include "tests/engine/ScriptedDelegate.h"
+#include "tests/engine/StoredDefaults.h"
 
 #include <glog/logging.h>
 

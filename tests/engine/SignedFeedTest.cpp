@@ -3,6 +3,7 @@
 #include "Engine/core/check/FeedRecordFile.h"
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/SignedFeedText.h"
+#include "tests/engine/StoredDefaults.h"
 #include "tests/support/ProcessFootprint.h"
 
 #include <Pelnar/HostRequests_p.h>

@@ -2,6 +2,7 @@
 // application quits, and when the updater is idle. A server and a helper that the test plays, a real delegate and a
 // real invocation, in a program that is the executable of a bundle of its own.
 #include "tests/engine/CheckFixture.h"
+#include "tests/engine/StoredDefaults.h"
 #include "tests/update/ScriptedUpdate.h"
 
 #include <QDir>

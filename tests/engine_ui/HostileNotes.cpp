@@ -127,13 +127,10 @@ void ReplaceAll(std::string& text, std::string const& what, std::string const& b
     }
 }
 
-void AddExhausting(std::vector<HostileNotes>& all)
+void AddExhaustingHtml(std::vector<HostileNotes>& all)
 {
     auto const html = [&all](char const* name, std::string text) {
         all.push_back({std::string("exhaust.") + name, ReleaseNotesFormat::Html, std::move(text)});
-    };
-    auto const markdown = [&all](char const* name, std::string text) {
-        all.push_back({std::string("exhaust.markdown_") + name, ReleaseNotesFormat::Markdown, std::move(text)});
     };
     html("nested_tables", Repeated("<table><tr><td>", 20) + "x" + Repeated("</td></tr></table>", 20));
     html("nested_tables_never_closed", Repeated("<table><tr><td>x", 5000));
@@ -171,6 +168,13 @@ void AddExhausting(std::vector<HostileNotes>& all)
                                      "c\xEF\xBF\xBC"
                                      "d&#xFDD0;&#65532;&#0;&#xD800;&#1114112;");
     html("no_utf8", "\xFF\xFE\xC0\x80\xED\xA0\x80\xF5\x80\x80\x80 \xE2\x82");
+}
+
+void AddExhaustingMarkdown(std::vector<HostileNotes>& all)
+{
+    auto const markdown = [&all](char const* name, std::string text) {
+        all.push_back({std::string("exhaust.markdown_") + name, ReleaseNotesFormat::Markdown, std::move(text)});
+    };
     markdown("brackets", Repeated("[", 250000));
     markdown("bracket_pairs", Repeated("[a](", 60000));
     markdown("links_in_links", Repeated("[a", 60000) + Repeated("](b)", 20000));
@@ -239,7 +243,8 @@ std::vector<HostileNotes> AllHostileNotes(std::string const& canaryPath, std::st
         ReplaceAll(notes.text, "%PATH%", canaryPath);
         ReplaceAll(notes.text, "%HOST%", canaryAddress);
     }
-    AddExhausting(all);
+    AddExhaustingHtml(all);
+    AddExhaustingMarkdown(all);
     return all;
 }
 

@@ -1,5 +1,6 @@
 // The session's two dialogs: what they show, what each way out of them does, and how they are closed from elsewhere.
 
+#include "tests/session/SessionDialogFixture.h"
 #include "tests/session/SessionFixture.h"
 #include "tests/support/DialogDriver.h"
 
@@ -18,60 +19,6 @@ namespace
 
 using namespace Pelnar::Testing;
 using Records = std::vector<LogRecord>;
-using Calls = std::vector<std::pair<bool, bool>>;
-
-QString const READY = QStringLiteral("SparkleUpdater_updateIsReadyToInstallDialog");
-QString const FAILED = QStringLiteral("SparkleUpdater_updateErrorDialog");
-QString const SKIPPED_KEY = QStringLiteral("SUSkippedVersion");
-
-/// Keeps a picture of \a box in the folder that PELNAR_PICTURES names, if any.
-void Picture(QWidget* box, QString const& name)
-{
-    QString const folder = qEnvironmentVariable("PELNAR_PICTURES");
-    if (!folder.isEmpty())
-    {
-        EXPECT_TRUE(box->grab().save(QDir(folder).filePath(name + QStringLiteral(".png"))));
-    }
-}
-
-class SessionDialog : public SessionTest
-{
-protected:
-    /// Offers version 6.1.2 and lets \a act deal with the dialog.
-    void OfferAnd(std::function<void(QMessageBox*)> act)
-    {
-        LendWithRemote(State::SILENT_DOWNLOADING, Version(6, 1, 2));
-        DialogDriver driver(READY,
-                            [act](QWidget* widget)
-                            {
-                                auto* const box = qobject_cast<QMessageBox*>(widget);
-                                ASSERT_TRUE(box);
-                                act(box);
-                            });
-        Callbacks::WillInstallOnQuit(MakeItem(QStringLiteral("6.1.2")), m_invocation);
-        EXPECT_FALSE(IsDialogClosable()) << "the function for closing went with the dialog";
-    }
-    void OfferAndClick(char const* button)
-    {
-        OfferAnd([button](QMessageBox* box) { ClickButton(box, QString::fromLatin1(button)); });
-    }
-    void FailAnd(std::function<void(QMessageBox*)> act)
-    {
-        LendIn(State::SILENT_INSTALLING);
-        DialogDriver driver(FAILED, [act](QWidget* widget) { act(qobject_cast<QMessageBox*>(widget)); });
-        Callbacks::DidAbort({QStringLiteral("D"), 4005, QStringLiteral("The <b>disk</b> is full & \u00e9.")});
-        EXPECT_FALSE(IsDialogClosable());
-        EXPECT_EQ(GetFields().state, State::WAITING);
-    }
-    void ExpectRemindedLater()
-    {
-        EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
-        EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
-        EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
-    }
-
-    ScriptedInvocation m_invocation{true, false};
-};
 
 TEST_F(SessionDialog, ReadyToInstallShowsItsTextsAndButtons)
 {
@@ -290,122 +237,6 @@ TEST_F(SessionDialog, ReadyToInstallSurvivesTheDeathOfItsParent)
     ExpectRemindedLater();
 }
 
-TEST_F(SessionDialog, DialogsHaveTheContextsParent)
-{
-    QWidget parent;
-    Context().parentWidgetGetter = [&parent] { return &parent; };
-    OfferAnd(
-        [&parent](QMessageBox* box)
-        {
-            EXPECT_EQ(box->parentWidget(), &parent);
-            box->close();
-        });
-    FailAnd(
-        [&parent](QMessageBox* box)
-        {
-            EXPECT_EQ(box->parentWidget(), &parent);
-            box->close();
-        });
-    EXPECT_TRUE(parent.children().isEmpty()) << "the dialogs are gone";
-}
-
-struct FailingGetter
-{
-    char const* name;
-    std::function<QWidget*()> getter;
-};
-
-void PrintTo(FailingGetter const& row, std::ostream* out)
-{
-    *out << row.name;
-}
-
-class FailingParentGetter : public SessionDialog, public ::testing::WithParamInterface<FailingGetter>
-{
-protected:
-    void ExpectRecord()
-    {
-        ASSERT_EQ(Log().Of(google::GLOG_ERROR).size(), m_errors);
-        EXPECT_EQ(Log().Of(google::GLOG_ERROR).back().line, 466);
-        EXPECT_EQ(Log()
-                      .Of(google::GLOG_ERROR)
-                      .back()
-                      .text.find("QWidget *Pelnar::App::SparkleManager::Impl::DialogParent() const: "),
-                  0U);
-    }
-    std::size_t m_errors = 1;
-};
-
-TEST_P(FailingParentGetter, CountsAsNoParentOfReadyToInstall)
-{
-    Context().parentWidgetGetter = GetParam().getter;
-    OfferAnd(
-        [](QMessageBox* box)
-        {
-            EXPECT_EQ(box->parentWidget(), nullptr);
-            ClickButton(box, QStringLiteral("Install and Relaunch"));
-        });
-    EXPECT_EQ(m_invocation.Calls(), (Calls{{true, true}})) << "once";
-    EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING);
-    ExpectRecord();
-}
-
-TEST_P(FailingParentGetter, CountsAsNoParentOfTheError)
-{
-    Context().parentWidgetGetter = GetParam().getter;
-    m_errors = 2; // the aborted installation is recorded first
-    FailAnd(
-        [](QMessageBox* box)
-        {
-            EXPECT_EQ(box->parentWidget(), nullptr);
-            box->close();
-        });
-    ExpectRecord();
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, FailingParentGetter,
-    ::testing::Values(FailingGetter{"Throws", []() -> QWidget* { throw std::runtime_error("no parent"); }},
-                      FailingGetter{"ThrowsNoStandardException", []() -> QWidget* { throw 7; }},
-                      FailingGetter{"Raises", []() -> QWidget* { RaiseException(QStringLiteral("raised")); }}),
-    [](auto const& info) { return std::string(info.param.name); });
-
-TEST_F(SessionDialog, ParentGetterMayReplaceItsOwnContext)
-{
-    auto own = std::make_shared<Pelnar::App::SparkleUpdateContext>(Context());
-    own->remoteVersion = Version(6, 1, 2);
-    own->parentWidgetGetter = [this, sentinel = std::make_shared<int>(7)]() -> QWidget*
-    {
-        Session().UnlockUpdaterWhenPossible();
-        EXPECT_TRUE(Session().LockUpdater(SharedContext()));
-        EXPECT_EQ(*sentinel, 7);
-        return nullptr;
-    };
-    SetFields({own, true, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
-    own.reset();
-    DialogDriver driver(READY,
-                        [](QWidget* box)
-                        {
-                            EXPECT_EQ(qobject_cast<QMessageBox*>(box)->text(),
-                                      QStringLiteral("A new version of Pelnar Studio 6 is ready to install"));
-                            ClickButton(box, QStringLiteral("Remind Me Later"));
-                        });
-    Callbacks::WillInstallOnQuit(MakeItem(QStringLiteral("6.1.2")), m_invocation);
-    ExpectRemindedLater();
-}
-
-TEST_F(SessionDialog, ParentGetterMayBeReplacedByItsOwnCall)
-{
-    Context().parentWidgetGetter = [this, sentinel = std::make_shared<int>(7)]() -> QWidget*
-    {
-        Context().parentWidgetGetter = nullptr;
-        EXPECT_EQ(*sentinel, 7);
-        return nullptr;
-    };
-    OfferAnd([](QMessageBox* box) { box->close(); });
-    ExpectRemindedLater();
-}
-
 TEST_F(SessionDialog, SkipOfAnItemThatRaisesStillInvokes)
 {
     LendWithRemote(State::SILENT_DOWNLOADING);
@@ -416,63 +247,6 @@ TEST_F(SessionDialog, SkipOfAnItemThatRaisesStillInvokes)
     EXPECT_EQ(m_invocation.Calls(), (Calls{{false, false}}));
     EXPECT_EQ(GetFields().state, State::SILENT_ABORTING);
     EXPECT_EQ(UserDefault(SKIPPED_KEY), std::nullopt);
-}
-
-TEST_F(SessionDialog, DialogsWithoutGetterHaveNoParent)
-{
-    OfferAnd(
-        [](QMessageBox* box)
-        {
-            EXPECT_EQ(box->parentWidget(), nullptr);
-            box->close();
-        });
-}
-
-TEST_F(SessionDialog, ErrorShowsItsTextAndOneButton)
-{
-    FailAnd(
-        [](QMessageBox* box)
-        {
-            EXPECT_EQ(box->text(), QStringLiteral("The <b>disk</b> is full & \u00e9."));
-            EXPECT_EQ(box->textFormat(), Qt::PlainText);
-            EXPECT_TRUE(box->informativeText().isEmpty());
-            EXPECT_TRUE(box->windowTitle().isEmpty());
-            EXPECT_EQ(box->icon(), QMessageBox::Critical) << "level 1";
-            EXPECT_EQ(box->standardButtons(), QMessageBox::Ok);
-            EXPECT_EQ(box->buttons().size(), 1);
-            EXPECT_EQ(box->windowFlags() & Qt::Dialog, Qt::Dialog);
-            EXPECT_TRUE(box->windowFlags() & Qt::MSWindowsFixedSizeDialogHint);
-            EXPECT_EQ(box->parentWidget(), nullptr);
-            EXPECT_TRUE(IsDialogClosable());
-            EXPECT_EQ(GetFields().state, State::SILENT_INSTALLING) << "until the dialog is closed";
-            Picture(box, QStringLiteral("update-error"));
-            ClickButton(box, QStringLiteral("OK"));
-        });
-    EXPECT_TRUE(GetFields().locked);
-}
-
-TEST_F(SessionDialog, ErrorThatCannotBeShownLocksNobodyOut)
-{
-    LendIn(State::SILENT_INSTALLING);
-    Session().UnlockUpdaterWhenPossible();
-    // What a host's own dialog may do when it is shown.
-    class Refusing : public QObject
-    {
-    public:
-        bool eventFilter(QObject* object, QEvent* event) override
-        {
-            if (event->type() == QEvent::Show && object->objectName() == FAILED)
-            {
-                throw std::runtime_error("no dialog");
-            }
-            return false;
-        }
-    } refusing;
-    qApp->installEventFilter(&refusing);
-    EXPECT_THROW(Callbacks::DidAbort({QStringLiteral("D"), 4005, QStringLiteral("text")}), std::runtime_error);
-    EXPECT_EQ(GetFields().state, State::WAITING);
-    EXPECT_FALSE(GetFields().locked);
-    EXPECT_FALSE(IsDialogClosable());
 }
 
 TEST_F(SessionDialog, OfferThatCannotBeShownIsDeclined)
@@ -495,59 +269,6 @@ TEST_F(SessionDialog, OfferThatCannotBeShownIsDeclined)
     ExpectRemindedLater();
     EXPECT_FALSE(IsDialogClosable());
     EXPECT_EQ(Log().Of(google::GLOG_ERROR).size(), 1U);
-}
-
-TEST_F(SessionDialog, RejectClosesTheError)
-{
-    FailAnd([this](QMessageBox*) { Session().RejectUpdateAndHideDialog(); });
-}
-
-TEST_F(SessionDialog, RejectTwiceClosesTheErrorOnce)
-{
-    FailAnd(
-        [this](QMessageBox*)
-        {
-            Session().RejectUpdateAndHideDialog();
-            Session().RejectUpdateAndHideDialog();
-        });
-    Session().RejectUpdateAndHideDialog();
-}
-
-TEST_F(SessionDialog, RejectAfterTheHolderLeftClosesTheErrorAndUnlocks)
-{
-    FailAnd(
-        [this](QMessageBox*)
-        {
-            Session().UnlockUpdaterWhenPossible();
-            Session().RejectUpdateAndHideDialog();
-        });
-    EXPECT_FALSE(GetFields().locked);
-}
-
-TEST_F(SessionDialog, ErrorSurvivesTheDeathOfItsParent)
-{
-    auto parent = std::make_unique<QWidget>();
-    Context().parentWidgetGetter = [&parent] { return parent.get(); };
-    FailAnd([&parent](QMessageBox*) { parent.reset(); });
-}
-
-TEST_F(SessionDialog, ErrorOverReadyToInstallGivesTheFirstDialogItsClosingBack)
-{
-    OfferAnd(
-        [this](QMessageBox* ready)
-        {
-            SetState(State::SILENT_INSTALLING);
-            DialogDriver driver(FAILED,
-                                [this, ready](QWidget*)
-                                {
-                                    Session().RejectUpdateAndHideDialog();
-                                    EXPECT_TRUE(ready->isVisible()) << "only the dialog on top";
-                                });
-            Callbacks::DidAbort({QStringLiteral("D"), 1, QStringLiteral("e")});
-            EXPECT_TRUE(IsDialogClosable());
-            Session().RejectUpdateAndHideDialog();
-        });
-    ExpectRemindedLater();
 }
 
 } // namespace

@@ -361,18 +361,40 @@ TEST_F(DownloadFaultTest, ShortWritesAreGoneOnWith)
         });
 }
 
-/// What a record may call durable while a download makes checkpoints.
-class CheckpointFaultTest : public DownloadFaultTest
+/// What a download that makes checkpoints has written and synced, by its calls.
+struct Checkpoints
 {
-protected:
-    /// The probe writes three pieces with a checkpoint after each, in the order of a download.
-    End WriteWithCheckpoints(CallVisitor const& visitor)
+    qint64 written = 0;
+    qint64 synced = 0;
+    std::optional<qint64> syncing;
+    bool isRecordSynced = false;
+    std::vector<bool> renames; ///< whether the record had been synced
+    int syncs = 0;
+
+    void See(CallStop const& stop)
     {
-        return Probe({"--checkpoints", Folder().toStdString()}, visitor);
+        std::string const path = stop.call == SYS_openat ? std::string() : DescriptorPath(stop);
+        bool const isArchive = path.size() > 8 && path.compare(path.size() - 8, 8, ".archive") == 0;
+        bool const isRecord = path.size() > 11 && path.compare(path.size() - 11, 11, ".record.new") == 0;
+        isRecordSynced =
+            isRecord ? stop.call == SYS_fdatasync || (isRecordSynced && stop.call != SYS_write) : isRecordSynced;
+        if (stop.call == SYS_renameat || stop.call == SYS_renameat2)
+        {
+            renames.push_back(std::exchange(isRecordSynced, false));
+        }
+        if (isArchive && stop.call == SYS_pwrite64)
+        {
+            written += static_cast<qint64>(stop.arguments[2]);
+        }
+        if (isArchive && stop.call == SYS_fdatasync)
+        {
+            syncing = written;
+            ++syncs;
+        }
     }
 };
 
-TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
+TEST_F(DownloadFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
 {
     int calls = 1;
     int checkpoints = 0;
@@ -380,47 +402,29 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
     for (int killAt = 0; killAt < calls; ++killAt)
     {
         RemoveFolder();
-        qint64 written = 0;
-        qint64 synced = 0;
-        std::optional<qint64> syncing;
-        int seen = 0;
-        bool isRecordSynced = false;
-        std::vector<bool> renames; ///< whether the record had been synced
-        End const end = WriteWithCheckpoints(
-            [&](CallStop const& stop)
-            {
-                seen = stop.index + 1;
-                // The call before has been made by now.
-                synced = std::exchange(syncing, std::nullopt).value_or(synced);
-                if (stop.index == killAt && killAt > 0)
-                {
-                    return CallVerdict::KillAll();
-                }
-                std::string const path = stop.call == SYS_openat ? std::string() : DescriptorPath(stop);
-                bool const isArchive = path.size() > 8 && path.compare(path.size() - 8, 8, ".archive") == 0;
-                bool const isRecord = path.size() > 11 && path.compare(path.size() - 11, 11, ".record.new") == 0;
-                isRecordSynced = isRecord ? stop.call == SYS_fdatasync || (isRecordSynced && stop.call != SYS_write)
-                                          : isRecordSynced;
-                if (stop.call == SYS_renameat || stop.call == SYS_renameat2)
-                {
-                    renames.push_back(std::exchange(isRecordSynced, false));
-                }
-                if (isArchive && stop.call == SYS_pwrite64)
-                {
-                    written += static_cast<qint64>(stop.arguments[2]);
-                }
-                if (isArchive && stop.call == SYS_fdatasync)
-                {
-                    syncing = written;
-                    ++checkpoints;
-                }
-                return CallVerdict::GoOn();
-            });
+        Checkpoints seen;
+        int seenCalls = 0;
+        // The probe writes three pieces with a checkpoint after each, in the order of a download.
+        End const end = Probe({"--checkpoints", Folder().toStdString()},
+                              [&](CallStop const& stop)
+                              {
+                                  seenCalls = stop.index + 1;
+                                  // The call before has been made by now.
+                                  seen.synced = std::exchange(seen.syncing, std::nullopt).value_or(seen.synced);
+                                  if (stop.index == killAt && killAt > 0)
+                                  {
+                                      return CallVerdict::KillAll();
+                                  }
+                                  seen.See(stop);
+                                  return CallVerdict::GoOn();
+                              });
         kills += end.faults;
-        calls = std::max(calls, killAt == 0 ? seen : calls);
+        checkpoints += seen.syncs;
+        calls = std::max(calls, killAt == 0 ? seenCalls : calls);
         if (killAt == 0)
         {
-            EXPECT_EQ(renames, std::vector<bool>({false, true, true, true, true})) << "the first calls nothing durable";
+            EXPECT_EQ(seen.renames, std::vector<bool>({false, true, true, true, true}))
+                << "the first calls nothing durable";
         }
         QStringList const names = Files(QStringLiteral(".record"));
         if (names.isEmpty())
@@ -431,7 +435,7 @@ TEST_F(CheckpointFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
         ASSERT_TRUE(file.open(QIODevice::ReadOnly));
         std::optional<PartialRecord> const record = DecodePartialRecord(file.readAll().toStdString());
         ASSERT_TRUE(record) << "a record is whole or not there, at call " << killAt;
-        EXPECT_LE(record->durableBytes, static_cast<std::uint64_t>(synced)) << "at call " << killAt;
+        EXPECT_LE(record->durableBytes, static_cast<std::uint64_t>(seen.synced)) << "at call " << killAt;
     }
     EXPECT_GT(calls, 25);
     EXPECT_GE(kills * 10, static_cast<std::size_t>(calls) * 9);

@@ -181,4 +181,10 @@ std::vector<Engine::FeedItem> PublisherFolder::Items(Engine::FeedPlatform platfo
     return std::move(feed.items);
 }
 
+ToolRun MakeGivenDelta(PublisherFolder const& folder, char const* from, char const* to)
+{
+    return RunTool({QStringLiteral("delta"), QStringLiteral("create"), folder.PathOf(from), folder.PathOf(to),
+                    QStringLiteral("-o"), folder.PathOf("given.delta")});
+}
+
 } // namespace Pelnar::Testing

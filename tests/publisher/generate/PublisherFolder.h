@@ -75,4 +75,7 @@ private:
     KeyPair m_pair;
 };
 
+/// A delta of the person's own between two archives of the folder.
+ToolRun MakeGivenDelta(PublisherFolder const& folder, char const* from, char const* to);
+
 } // namespace Pelnar::Testing

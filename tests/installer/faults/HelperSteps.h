@@ -1,0 +1,112 @@
+// HelperSteps.h: the steps of an update that the helper does, each ready to be run with a fault.
+#pragma once
+
+#include "Engine/core/helper/SwapJournal.h"
+#include "tests/installer/FaultChecks.h"
+#include "tests/support/Sanitizers.h"
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <iterator>
+
+#include <sys/syscall.h>
+
+namespace Pelnar::Testing
+{
+
+enum class Step
+{
+    Preparation,
+    Installation,
+    InstallationWithoutExchange,
+    Recovery,
+};
+
+inline std::string StepName(Step step)
+{
+    switch (step)
+    {
+    case Step::Preparation:
+        return "Preparation";
+    case Step::Installation:
+        return "Installation";
+    case Step::InstallationWithoutExchange:
+        return "InstallationWithoutExchange";
+    case Step::Recovery:
+        return "Recovery";
+    }
+    return {};
+}
+
+inline void PrintTo(Step step, std::ostream* out)
+{
+    *out << StepName(step);
+}
+
+enum class InstallOutcome
+{
+    Kept,
+    NotKept,
+};
+
+/// A scene that stands right before a step.
+class Subject
+{
+public:
+    explicit Subject(Step step, InstallOutcome outcome = InstallOutcome::Kept) : m_step(step)
+    {
+        if (step != Step::Preparation)
+        {
+            m_job = scene.PrepareForInstall();
+            if (outcome == InstallOutcome::Kept)
+            {
+                UpdateScene::KeepRecord(m_job);
+            }
+            scene.Host().End();
+        }
+        if (step == Step::Recovery)
+        {
+            m_job.targetPath.clear();
+            EXPECT_EQ(scene.Install(m_job).exitStatus, 0);
+            scene.ReleaseStaging();
+        }
+    }
+
+    HelperOutcome Run(CallVisitor const& visitor)
+    {
+        HelperStart start;
+        start.atEveryCall = visitor;
+        return Run(start);
+    }
+
+    HelperOutcome Run(HelperStart start)
+    {
+        switch (m_step)
+        {
+        case Step::Preparation:
+            return scene.Prepare(scene.MakePrepareJob(), start);
+        case Step::InstallationWithoutExchange:
+            start.atEveryCall = [visitor = start.atEveryCall](CallStop const& stop)
+            {
+                CallVerdict const verdict = visitor ? visitor(stop) : CallVerdict::GoOn();
+                bool const isRefused = stop.call == SYS_renameat2 && verdict.kind == CallVerdict::Kind::GoOn;
+                return isRefused ? CallVerdict::Fail(EINVAL) : verdict;
+            };
+            return scene.Install(m_job, start);
+        case Step::Installation:
+            return scene.Install(m_job, start);
+        case Step::Recovery:
+            return scene.Recover("2.0", start);
+        }
+        return {};
+    }
+
+    UpdateScene scene;
+
+private:
+    Step m_step;
+    Engine::InstallJob m_job;
+};
+
+} // namespace Pelnar::Testing

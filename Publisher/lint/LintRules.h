@@ -58,6 +58,7 @@ char const* SeverityName(Severity severity);
     RULE(PolicyIgnored, "policy-ignored", Warning, "An item states in the feed's namespace who may get it, but clients do not know that name: they offer the item to everybody.", "publish the item in a separate feed for these people, or remove the element") \
     RULE(PolicyUnreadable, "policy-unreadable", Warning, "An element that says who gets an item has a value that clients do not read as it is meant.", "write the value in the form that docs/formats/item-policy.md tells") \
     RULE(StagedWithoutDate, "staged-without-date", Warning, "A staged item has no date that clients read, so that everybody is offered it at once.", "give the item a pubDate as in Mon, 07 Jan 2019 10:00:00 +0000") \
+    RULE(StagedInFuture, "staged-in-future", Note, "A staged item has a date in the future; until then only people who ask are offered it.", "correct the date, unless the item is to wait") \
     RULE(InformationalWithoutPage, "informational-without-page", Warning, "An informational item has neither a link nor release notes at a link, so that its window leads nowhere.", "give the item a <link> to the page that says how to get the version") \
     RULE(KeyNotTrusted, "key-not-trusted", Error, "An item is signed by a key that an older version in the feed does not trust, and no version between the two brings that key: its clients never get the item.", "sign the item with the key that the older version trusts as well, or publish a version between that trusts both") \
     /* Downloads. */ \

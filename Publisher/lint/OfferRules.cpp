@@ -93,9 +93,11 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
                 QStringLiteral("\"%1\" is no number of seconds from 1 to ten years").arg(child.text.trimmed()));
         }
     }
-    if (item.policy.rolloutSeconds != 0 && !Engine::FeedTime(item.dateString).isValid())
+    QDateTime const date = Engine::FeedTime(item.dateString);
+    bool const isInFuture = date.isValid() && date > QDateTime::currentDateTimeUtc();
+    if (item.policy.rolloutSeconds != 0 && (!date.isValid() || isInFuture))
     {
-        findings.Add(LintRule::StagedWithoutDate, lintItem.full.element->place,
+        findings.Add(isInFuture ? LintRule::StagedInFuture : LintRule::StagedWithoutDate, lintItem.full.element->place,
                      QStringLiteral("the date of %1 is \"%2\"").arg(NameOf(item), item.dateString));
     }
     if (item.policy.isInformational && item.infoUrl.isEmpty() && item.releaseNotesUrl.isEmpty())

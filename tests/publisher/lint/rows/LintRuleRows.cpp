@@ -301,6 +301,11 @@ void AddPolicyCases(std::vector<LintCase>& cases)
               "policy-unreadable 3:1 \"day\" is no number of seconds from 1 to ten years"},
           Row{"StagedWithoutDate", "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>",
               "staged-without-date 2:1 the date of item 5.1 is \"\""},
+          Row{"StagedInFuture",
+              "<pubDate>Mon, 07 Jan 2999 10:00:00 +0000</pubDate>"
+              "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>",
+              "staged-in-future 2:1 the date of item 5.1 is \"Mon, 07 Jan 2999 10:00:00 +0000\""},
+          Row{"FutureOfNoStagesPasses", "<pubDate>Mon, 07 Jan 2999 10:00:00 +0000</pubDate>", ""},
           Row{"InformationalPasses", "<sparkle:informationalUpdate/><link>https://a.example/5.1</link>", ""},
           Row{"InformationalWithoutPage", "<sparkle:informationalUpdate/>", "informational-without-page 2:1 item 5.1"}})
     {

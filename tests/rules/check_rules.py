@@ -231,6 +231,46 @@ LINE_RULES = [
 ]
 
 
+LONGEST_FILE = 450
+LONGEST_FUNCTION = 60
+ROWS_FOLDER = "/rows/" # of tests that are one long table; tables of the product end in .def
+BODY_OPENING = re.compile(r"( *)\{$")
+NO_FUNCTION = re.compile(r"\s*(?:if|for|while|switch|do|else|try|catch|@try|@catch|@autoreleasepool)\b")
+TYPE_OR_NAMESPACE = re.compile(r"\b(?:namespace|struct|class|enum|union|extern)\b[^()]*$")
+TABLE_OPENING = re.compile(r"( *)(?:.*(?:= |return )|(?!.*\b(?:else|do|try)\b).*\w)\{$")
+PACKED_TABLE_OPENING = re.compile(r"= \{[^}]*,$")
+
+
+def lines_of_function(body):
+    """How many lines of the body are no rows of a table: of a list in braces that is a value."""
+    count, end_of_table = 0, None
+    for line in body:
+        if end_of_table is not None:
+            end_of_table = None if end_of_table.match(line) else end_of_table
+            continue
+        count += 1
+        table = TABLE_OPENING.match(line)
+        if table:
+            end_of_table = re.compile(table.group(1) + "}")
+        elif PACKED_TABLE_OPENING.search(line):
+            end_of_table = re.compile(r".*};$")
+    return count
+
+
+def long_functions(lines):
+    """The line of each function's opening brace that is too far from its closing one."""
+    for index, line in enumerate(lines):
+        opening = BODY_OPENING.match(line)
+        head = lines[index - 1] if index else ""
+        if not opening or NO_FUNCTION.match(head) or TYPE_OR_NAMESPACE.search(head) or not re.search(r"[)\w>\]]$", head):
+            continue
+        closing = opening.group(1) + "}"
+        end = next((i for i in range(index + 1, len(lines)) if lines[i].startswith(closing)), len(lines))
+        length = lines_of_function(lines[index + 1 : end])
+        if length > LONGEST_FUNCTION:
+            yield index + 1, length
+
+
 def strip_comment(line):
     """The line without a trailing // comment; text in quotes keeps its slashes."""
     out, quote, i = [], None, 0
@@ -258,6 +298,10 @@ def check_text(path, text, root):
     if not path.startswith(("tests/", "fuzz/", "bench/")) and path.endswith(".h"):
         if not lines or not lines[0].startswith("// " + pathlib.PurePosixPath(path).name + ": "):
             findings.append((1, "header-opening", "a header opens with its name and what it is"))
+    if len(lines) > LONGEST_FILE and ROWS_FOLDER not in path:
+        findings.append((1, "long-file", f"{len(lines)} lines, {LONGEST_FILE} at most: split it by subject"))
+    for number, length in long_functions(lines):
+        findings.append((number, "long-function", f"{length} lines, {LONGEST_FUNCTION} at most, rows of tables apart"))
     for number, line in enumerate(lines, 1):
         include = INCLUDE.match(line)
         if include:
@@ -370,6 +414,10 @@ def self_test():
         ("sleep-in-test", "tests/app/X.cpp", "QThread::msleep(5);"),
         ("left-over", "common/X.cpp", "// TODO later"),
         ("header-opening", "common/X.h", "#pragma once"),
+        ("long-file", "tests/app/X.cpp", "\n" * 451),
+        ("long-function", "common/X.cpp", "void F()\n{\n" + "    G();\n" * 61 + "}\n"),
+        ("long-function", "common/X.cpp", "void X::F() const\n{\n    if (a)\n    {\n" + "        G();\n" * 60 + "    }\n}\n"),
+        ("long-function", "common/X.cpp", "void F()\n{\n    Row const rows[] = {\n        {1},\n    };\n" + "    G();\n" * 60 + "}\n"),
     ]
     allowed = [
         ("common/X.cpp", '#include "common/NotNull.h"'),
@@ -387,6 +435,11 @@ def self_test():
         ("Engine/core/X.cpp", "    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYPEER, 1L);"),
         ("Engine/core/X.cpp", "    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 2L);"),
         ("common/X.h", opening),
+        ("tests/app/X.cpp", "\n" * 450),
+        ("tests/app/rows/X.cpp", "\n" * 451),
+        ("common/X.cpp", "void F()\n{\n" + "    G();\n" * 60 + "}\n"),
+        ("common/X.cpp", "void F()\n{\n    Row const rows[] = {\n" + "        {1},\n" * 90 + "    };\n}\n"),
+        ("common/X.cpp", "class X\n{\npublic:\n" + "    void F();\n" * 90 + "};\n"),
     ]
     failures = []
     tree = EveryHeaderExists()

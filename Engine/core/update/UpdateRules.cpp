@@ -114,6 +114,18 @@ PrepareJob PreparationOf(UpdateCandidate const& candidate, RunningBundle const& 
     return job;
 }
 
+InstallJob InstallationOf(UpdateCandidate const& candidate, RunningBundle const& bundle, std::string const& targetName)
+{
+    InstallJob job;
+    // The result of a delta is a whole bundle here.
+    job.kind = KindOf(candidate) == PayloadKind::Installer ? PayloadKind::Installer : PayloadKind::WholeBundle;
+    job.targetName = targetName;
+    job.bundleIdentifier = bundle.identifier.toStdString();
+    job.expectedVersion = candidate.item.versionString.toStdString();
+    job.installedVersion = bundle.version.toStdString();
+    return job;
+}
+
 QString ShownVersionOf(FeedItem const& item)
 {
     return item.displayVersionString.isEmpty() ? item.versionString : item.displayVersionString;

@@ -40,6 +40,8 @@ struct UpdateCandidate
 [[nodiscard]] DownloadRequest DownloadOf(FeedItem const& item, UpdateSettings const& settings);
 [[nodiscard]] PrepareJob PreparationOf(UpdateCandidate const& candidate, RunningBundle const& bundle,
                                        std::string const& targetName);
+[[nodiscard]] InstallJob InstallationOf(UpdateCandidate const& candidate, RunningBundle const& bundle,
+                                        std::string const& targetName);
 
 /// The version of \a item for a person.
 [[nodiscard]] QString ShownVersionOf(FeedItem const& item);

@@ -329,18 +329,6 @@ void UpdateRun::DropPrepared()
     }
 }
 
-InstallJob UpdateRun::InstallationJob() const
-{
-    InstallJob job;
-    // The result of a delta is a whole bundle here.
-    job.kind = KindOf(Current()) == PayloadKind::Installer ? PayloadKind::Installer : PayloadKind::WholeBundle;
-    job.targetName = m_target->name;
-    job.bundleIdentifier = m_settings.bundle.identifier.toStdString();
-    job.expectedVersion = Current().item.versionString.toStdString();
-    job.installedVersion = m_settings.bundle.version.toStdString();
-    return job;
-}
-
 bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
 {
     try
@@ -352,17 +340,17 @@ bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
     }
     catch (UpdateRefusal const& refusal)
     {
-        FailHandover(Failure(refusal).value());
+        Fail(RunEvent::HelperFailed, Failure(refusal).value());
         return false;
     }
     m_attempt->Describe(job, wish);
     m_handover = std::make_unique<InstallHandover>(m_parts);
     Result<void> const started = m_handover->Start(
         *m_target, *m_prepared, m_attempt->Folder(), std::move(job), [this] { Take(RunEvent::HelperWaits); },
-        [this](EngineError const& failure) { FailHandover(failure); });
+        [this](EngineError const& failure) { Fail(RunEvent::HelperFailed, failure); });
     if (!started)
     {
-        FailHandover(started.error());
+        Fail(RunEvent::HelperFailed, started.error());
     }
     return started.has_value();
 }
@@ -373,7 +361,8 @@ void UpdateRun::Arm()
     {
         return;
     }
-    if (HandOver(InstallationJob(), m_asked == PersonAsked::Yes ? InstallWish::Person : InstallWish::Automatic))
+    if (HandOver(InstallationOf(Current(), m_settings.bundle, m_target->name),
+                 m_asked == PersonAsked::Yes ? InstallWish::Person : InstallWish::Automatic))
     {
         LOG(INFO) << "Update " << EscapedRemoteText(Current().item.versionString).toStdString()
                   << " is installed when the application ends";
@@ -388,7 +377,7 @@ void UpdateRun::Relaunch()
     {
         m_handover->Cancel();
     }
-    InstallJob job = InstallationJob();
+    InstallJob job = InstallationOf(Current(), m_settings.bundle, m_target->name);
     job.waitSeconds = RELAUNCH_WAIT_SECONDS;
     job.targetPath = PathBytes(m_target->path);
     job.relaunchPath = m_relaunchPath == m_settings.bundle.path ? std::string() : RelaunchPathOf(m_relaunchPath);
@@ -403,11 +392,6 @@ void UpdateRun::TellRelaunch()
 {
     // An exception changes nothing: the helper waits, and gives up after its time limit if the application stays.
     (void)CallDelegate("updaterWillRelaunchApplication:", [this] { m_host.TellWillRelaunch(); });
-}
-
-void UpdateRun::FailHandover(EngineError const& error)
-{
-    Fail(RunEvent::HelperFailed, error);
 }
 
 void UpdateRun::GiveUpInstallation()

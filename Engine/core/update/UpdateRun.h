@@ -76,13 +76,11 @@ private:
     void TakeReadyChoice(ReadyChoice choice);
     void InstallNow(RelaunchWish wish);
     void Cancel();
-    void FailHandover(EngineError const& error);
     /// Ends what the update has begun and removes what it has prepared.
     void Clear();
     void DropPrepared();
 
     UpdateCandidate const& Current() const { return m_candidates.front(); }
-    InstallJob InstallationJob() const;
     /// False if the update ended, since no helper could take it.
     [[nodiscard]] bool HandOver(InstallJob job, InstallWish wish);
     NamedVersion NamedUpdate() const;

@@ -10,8 +10,14 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
 #include <system_error>
 #include <utility>
+
+#include <linux/tcp.h>
+#include <netinet/in.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
 
 namespace Pelnar::Engine
 {
@@ -193,6 +199,25 @@ int CurlLoop::SocketOf(CURL* transfer) const
     auto const found = std::find_if(m_sockets.begin(), m_sockets.end(),
                                     [transfer](auto const& entry) { return entry.second.transfer == transfer; });
     return found == m_sockets.end() ? -1 : found->first;
+}
+
+std::optional<qint64> CurlLoop::BytesReadFor(CURL* transfer) const
+{
+    int const socket = SocketOf(transfer);
+    tcp_info info{};
+    socklen_t size = sizeof info;
+    int waiting = 0;
+    bool const isKnown = socket >= 0 && getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 &&
+                         size >= offsetof(tcp_info, tcpi_bytes_received) + sizeof info.tcpi_bytes_received &&
+                         ioctl(socket, FIONREAD, &waiting) == 0;
+    return isKnown ? std::optional(static_cast<qint64>(info.tcpi_bytes_received) - waiting) : std::nullopt;
+}
+
+bool CurlLoop::HasUnreadBytes(CURL* transfer) const
+{
+    char byte = 0;
+    int const socket = SocketOf(transfer);
+    return socket >= 0 && recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT) > 0;
 }
 
 void CurlLoop::Drive(curl_socket_t socket, int events)

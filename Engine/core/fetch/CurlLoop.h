@@ -52,8 +52,10 @@ public:
     void Remove(CURL* transfer);
     /// A transfer's callback calls this: bytes have arrived, and more may be available immediately.
     void NoteBytes() { m_hasBytes = true; }
-    /// The socket that \a transfer uses, or -1.
-    int SocketOf(CURL* transfer) const;
+    /// The bytes that arrived on the connection of \a transfer since it was made.
+    std::optional<qint64> BytesReadFor(CURL* transfer) const;
+    /// True if more bytes wait on the connection of \a transfer.
+    [[nodiscard]] bool HasUnreadBytes(CURL* transfer) const;
 
 private:
     struct Socket
@@ -64,6 +66,8 @@ private:
     };
 
     explicit CurlLoop(QObject* parent);
+    /// The socket that \a transfer uses, or -1.
+    int SocketOf(CURL* transfer) const;
     [[nodiscard]] bool Begin();
     void Drive(curl_socket_t socket, int events);
     void TakeEnds();

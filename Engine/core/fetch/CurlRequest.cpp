@@ -232,6 +232,19 @@ long CurlRequest::Number(CURLINFO info) const
     return number;
 }
 
+TransferEnd CurlRequest::EndWith(CURLcode code) const
+{
+    TransferEnd end;
+    end.code = code;
+    end.systemError = static_cast<int>(Number(CURLINFO_OS_ERRNO));
+    end.certificateError = Number(CURLINFO_SSL_VERIFYRESULT);
+    end.proxyStatus = Number(CURLINFO_HTTP_CONNECTCODE);
+    end.proxyError = Number(CURLINFO_PROXY_ERROR);
+    end.hasProxy = !Proxy().IsDirect();
+    end.text = QString::fromUtf8(m_text.data());
+    return end;
+}
+
 void CurlRequest::WatchSecureConnection()
 {
     SSL* const connection = SecureConnection();

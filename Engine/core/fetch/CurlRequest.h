@@ -4,6 +4,7 @@
 
 #include "Engine/core/fetch/CurlLoop.h"
 #include "Engine/core/fetch/FetchRules.h"
+#include "Engine/core/fetch/TransferFault.h"
 
 #include <array>
 #include <memory>
@@ -27,8 +28,8 @@ public:
     CURL* Handle() const { return m_easy.get(); }
     ProxyChoice const& Proxy() const { return m_settings.proxy; }
 
-    /// libcurl's text for its last failure.
-    QString Text() const { return QString::fromUtf8(m_text.data()); }
+    /// How the transfer ended, except at which stage.
+    TransferEnd EndWith(CURLcode code) const;
     long Number(CURLINFO info) const;
     /// Watches for the server's close of the secure connection. REQUIRES: called by one of the handle's callbacks.
     void WatchSecureConnection();

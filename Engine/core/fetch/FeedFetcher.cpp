@@ -4,6 +4,7 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
 #include <utility>
+#include <variant>
 
 namespace Pelnar::Engine
 {

@@ -1,13 +1,9 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
 #include <algorithm>
-#include <cstddef>
 #include <cstring>
 #include <utility>
 
-#include <linux/tcp.h>
-#include <netinet/in.h>
-#include <sys/ioctl.h>
 #include <sys/socket.h>
 
 namespace Pelnar::Engine
@@ -26,18 +22,6 @@ constexpr qint64 ANSWER_PER_FRAMING = 4;
 
 /// Stands for an address of an unknown family: "::", which only a feed from this computer may lead to.
 constexpr NumericAddress NEAREST{};
-
-/// The bytes read from \a socket since it was connected.
-std::optional<qint64> BytesReadFrom(int socket)
-{
-    tcp_info info{};
-    socklen_t size = sizeof info;
-    int waiting = 0;
-    bool const isKnown = socket >= 0 && getsockopt(socket, IPPROTO_TCP, TCP_INFO, &info, &size) == 0 &&
-                         size >= offsetof(tcp_info, tcpi_bytes_received) + sizeof info.tcpi_bytes_received &&
-                         ioctl(socket, FIONREAD, &waiting) == 0;
-    return isKnown ? std::optional(static_cast<qint64>(info.tcpi_bytes_received) - waiting) : std::nullopt;
-}
 
 } // namespace
 
@@ -191,7 +175,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHeadLine(QByteArray const& line)
 {
     if (!m_readBefore)
     {
-        m_readBefore = BytesReadFrom(m_loop->SocketOf(m_curl->Handle()));
+        m_readBefore = m_loop->BytesReadFor(m_curl->Handle());
     }
     m_received += line.size();
     m_headBytes += line.size();
@@ -316,13 +300,7 @@ bool HttpTransfer::DeliverHeld()
 
 bool HttpTransfer::HasSurplus() const
 {
-    if (IsSecure())
-    {
-        return m_curl->HasSecureBytes();
-    }
-    char byte = 0;
-    int const socket = m_loop->SocketOf(m_curl->Handle());
-    return socket >= 0 && recv(socket, &byte, 1, MSG_PEEK | MSG_DONTWAIT) > 0;
+    return IsSecure() ? m_curl->HasSecureBytes() : m_loop->HasUnreadBytes(m_curl->Handle());
 }
 
 HttpTransfer::Verdict HttpTransfer::Refuse(ErrorCause cause)
@@ -407,15 +385,8 @@ void HttpTransfer::TakeWhole()
 
 EngineError HttpTransfer::ErrorAt(CURLcode code) const
 {
-    TransferEnd end;
-    end.code = code;
+    TransferEnd end = m_curl->EndWith(code);
     end.stage = m_stage;
-    end.systemError = static_cast<int>(m_curl->Number(CURLINFO_OS_ERRNO));
-    end.certificateError = m_curl->Number(CURLINFO_SSL_VERIFYRESULT);
-    end.proxyStatus = m_curl->Number(CURLINFO_HTTP_CONNECTCODE);
-    end.proxyError = m_curl->Number(CURLINFO_PROXY_ERROR);
-    end.hasProxy = !m_curl->Proxy().IsDirect();
-    end.text = m_curl->Text();
     return ErrorOf(end);
 }
 
@@ -427,7 +398,7 @@ qint64 HttpTransfer::BytesBesideBody() const
 
 bool HttpTransfer::IsMostlyFraming() const
 {
-    auto const read = m_readBefore ? BytesReadFrom(m_loop->SocketOf(m_curl->Handle())) : std::nullopt;
+    auto const read = m_readBefore ? m_loop->BytesReadFor(m_curl->Handle()) : std::nullopt;
     qint64 const framing = read ? *read - *m_readBefore - m_received : 0;
     return framing > FREE_FRAMING_BYTES + m_received / ANSWER_PER_FRAMING;
 }

@@ -1,0 +1,235 @@
+// KeyAccidentTest.cpp: accidents with keys, which would leave clients without updates: "generate" publishes none.
+
+#include "Engine/core/bundle/TrustedKeys.h"
+#include "Engine/core/feed/ReleasePolicy.h"
+#include "tests/publisher/gate/AccidentFixture.h"
+
+#include <sys/stat.h>
+
+namespace Pelnar::Testing
+{
+
+TEST_F(Accident, BundleTrustsAnotherKeyThanTheOneThatSigns)
+{
+    BundleText text = Version("2.0");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: version 2.0 is signed by the key ", ", but its bundle trusts another key, ",
+                   "; write the entry that \"keys show\" prints", "PelnarNextPublicEDKey"});
+}
+
+TEST_F(Accident, KeyOfTheBundleIsGarbage)
+{
+    BundleText text = Version("2.0");
+    text.publicKey = "garbage";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: SUPublicEDKey \"garbage\" in the bundle's information file is no Ed25519 "
+                               "key",
+                               "; write the entry"});
+}
+
+TEST_F(Accident, SecondKeyOfTheBundleIsGarbage)
+{
+    BundleText text = Version("2.0");
+    text.nextKey = "AAAA";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-2.0.zip: PelnarNextPublicEDKey \"AAAA\""});
+}
+
+TEST_F(Accident, NewKeyStrandsVersions)
+{
+    m_folder.PutVersion("5.9");
+    m_folder.PutVersion("5.9.1");
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    Remember();
+    ExpectRefused(m_folder.GenerateWithKey(9),
+                  {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands installed versions", "5.9 (",
+                   "Test-5.9.zip)", "5.9.1 (", "; publish a version before it, signed by the key that they trust"});
+}
+
+TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    BundleText bridge = Version("5.10");
+    bridge.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(bridge);
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(run.status, 0) << run.err;
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.err;
+    // The old version's clients take the one between, and its clients the new one.
+    auto const explained = [this](char const* version)
+    {
+        return RunTool({QStringLiteral("explain"), m_folder.PathOf("appcast.xml"), QStringLiteral("--local-version"),
+                        QLatin1String(version), QStringLiteral("--system-version"), QStringLiteral("unknown"),
+                        QStringLiteral("--platform"), QStringLiteral("linux")})
+            .out;
+    };
+    EXPECT_NE(explained("5.9").find("needs-another-version-first"), std::string::npos) << explained("5.9");
+    EXPECT_EQ(explained("5.10").find("needs-another-version-first"), std::string::npos) << explained("5.10");
+}
+
+TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsNone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    m_folder.Put("second", Base64(std::string(32, '\x9')) + '\n');
+    EXPECT_EQ(::chmod(m_folder.PathOf("second").toStdString().c_str(), 0600), 0);
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.Generate({QStringLiteral("--second-key"), m_folder.PathOf("second")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    std::vector<Engine::FeedItem> const items = m_folder.Items();
+    ASSERT_EQ(items.size(), 2u);
+    ASSERT_EQ(items[0].signatures.size(), 2u);
+    EXPECT_EQ(items[0].signatures[0].signature, items[0].edSignature);
+    EXPECT_EQ(items[0].signatures[0].keyId, items[0].signerKey);
+    EXPECT_EQ(items[0].signatures[1].keyId.toStdString(), Engine::KeyIdOf(MakeKeyPair(9).publicKey));
+    EXPECT_EQ(items[0].signatures[1].signature.toStdString(),
+              Base64(Sign(m_folder.ContentOf("Test-5.11.zip"), MakeKeyPair(9))));
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.err;
+}
+
+TEST_F(Accident, FeedSaysTheWrongKey)
+{
+    m_folder.PutVersion("5.9");
+    std::string feed = m_folder.GeneratedFeed();
+    std::string const id = Engine::KeyIdOf(MakeKeyPair(7).publicKey);
+    std::string const said = "signer=\"" + id;
+    ASSERT_NE(feed.find(said), std::string::npos) << feed;
+    feed.replace(feed.find(said), said.size(), "signer=\"0123456789abcdef");
+    m_folder.Put("appcast.xml", feed);
+    ToolRun const run = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find("is signed by the key " + id + ", but the feed says 0123456789abcdef"), std::string::npos)
+        << run.err;
+}
+
+TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
+{
+    m_folder.PutVersion("5.9");
+    Publish();
+    m_folder.Remove("Test-5.9.zip");
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    Remember();
+    // The feed has kept whom 5.9 trusts.
+    ExpectRefused(m_folder.GenerateWithKey(9),
+                  {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
+}
+
+TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
+{
+    BundleText both = Version("5.10");
+    both.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(both);
+    Publish();
+    BundleText text = Version("5.11");
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    ToolRun const run = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(run.status, 0) << run.err;
+    // What the first key signed is known by the bundle that trusts it.
+    ToolRun const again = m_folder.GenerateWithKey(9);
+    EXPECT_EQ(again.status, 0) << again.err;
+}
+
+TEST_F(Accident, RootKeyWithoutAStatementOrWithOneThatClientsRefuse)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    std::string const refusal = "Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for: ";
+    ExpectRefused(Generate(), {refusal, "--key-statement of generate or sign-feed"});
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    auto const generateWith = [&](StatementText const& given, std::uint8_t rootSeed = ROOT_SEED) {
+        return Generate({QStringLiteral("--key-statement"), PutStatement(given, rootSeed)});
+    };
+    ExpectRefused(generateWith(statement, 9), {refusal});
+    StatementText other = statement;
+    other.bundles = {"org.pelnar.other"};
+    ExpectRefused(generateWith(other), {refusal});
+    StatementText expired = statement;
+    expired.expires = "2020-01-01T00:00:00Z";
+    ExpectRefused(generateWith(expired), {refusal});
+    StatementText ofAnotherKey = statement;
+    ofAnotherKey.validSeeds = {9};
+    EXPECT_EQ(generateWith(ofAnotherKey).status, 2) << "the key that signs is not valid by it";
+    ToolRun const run = generateWith(statement);
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
+    EXPECT_EQ(check.status, 0) << check.out << check.err;
+}
+
+TEST_F(Accident, NewVersionForgetsTheRootKeyOrIsOlder)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    EXPECT_EQ(m_folder.Generate({QStringLiteral("--key-statement"), PutStatement(statement)}).status, 0);
+    m_folder.PutVersion("2.0");
+    ToolRun run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: names no root key, as version 1.0 does"), std::string::npos) << run.err;
+    m_folder.PutVersion("0.9");
+    run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-0.9.zip: is of version 0.9, and "), std::string::npos) << run.err;
+    EXPECT_EQ(run.err.find("root key"), std::string::npos) << run.err;
+}
+
+TEST_F(Accident, RevokedKeySignsANewVersion)
+{
+    BundleText text = Version("1.0");
+    text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
+    m_folder.PutBundle(text);
+    StatementText statement;
+    statement.bundles = {text.identifier};
+    QString const option = QStringLiteral("--key-statement");
+    EXPECT_EQ(m_folder.Generate({option, PutStatement(statement)}).status, 0);
+    statement.serial = "4";
+    statement.validSeeds = {9};
+    statement.revoked = {Engine::KeyIdOf(MakeKeyPair(7).publicKey)};
+    text.version = "2.0";
+    text.publicKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    // The new key signs: older versions hear of it by the statement, and what the old key has signed stays.
+    ToolRun const run = m_folder.GenerateWithKey(9, {option, PutStatement(statement)});
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    Remember();
+    text.version = "3.0";
+    m_folder.PutBundle(text);
+    ExpectRefused(Generate(), {"Test-3.0.zip: version 3.0 is signed by the key ",
+                               "but by the feed's key statement its clients trust ", "sign it by a valid key"});
+}
+
+TEST_F(Accident, FeedKeepsWhomEachVersionTrusts)
+{
+    BundleText text = Version("2.0");
+    text.nextKey = MakeKeyPair(9).publicKey;
+    m_folder.PutBundle(text);
+    m_folder.GeneratedFeed();
+    std::vector<Engine::FeedItem> const items = m_folder.Items();
+    ASSERT_EQ(items.size(), 1u);
+    ASSERT_EQ(items[0].trustedKeys.size(), 2);
+    EXPECT_EQ(items[0].trustedKeys[0], items[0].signerKey);
+    EXPECT_EQ(items[0].signerKey.size(), 16);
+    EXPECT_NE(items[0].trustedKeys[1], items[0].signerKey);
+}
+
+} // namespace Pelnar::Testing

@@ -4,7 +4,6 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
-#include "HostFramework/VersionText.h"
 
 #include <algorithm>
 #include <deque>
@@ -376,46 +375,6 @@ FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& clie
                           Engine::Installation const& installation)
 {
     return FeedChooser(items, installation).Choose(client);
-}
-
-Engine::Installation InstallationOf(Client const& client, Engine::Installation installation)
-{
-    installation.version =
-        Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
-    return installation;
-}
-
-int OrderOfTexts(QString const& textA, QString const& textB)
-{
-    Core::Version const a = VersionFromStringNoexcept(textA);
-    Core::Version const b = VersionFromStringNoexcept(textB);
-    if (!a.IsValid() || !b.IsValid() || App::Session::IsSameVersion(a, b))
-    {
-        return 0;
-    }
-    return IsOlderVersion(a, b) ? -1 : 1;
-}
-
-Engine::Installation InstallationAmong(std::vector<FeedItem> const& items, Client const& client,
-                                       Engine::Installation installation)
-{
-    Engine::Installation among = InstallationOf(client, std::move(installation));
-    for (FeedItem const& item : items)
-    {
-        bool const isAsked = among.trustedKeys.isEmpty() && !item.trustedKeys.isEmpty();
-        Core::Version const version = isAsked ? VersionFromStringNoexcept(item.versionString) : Core::Version();
-        if (version.IsValid() && App::Session::IsSameVersion(version, client.localVersion))
-        {
-            among.trustedKeys = item.trustedKeys;
-        }
-    }
-    among.stones = Engine::SteppingStonesOf(items, among, OrderOfTexts);
-    return among;
-}
-
-Engine::PolicyVerdict PolicyOf(FeedItem const& item, Engine::Installation const& installation)
-{
-    return Engine::JudgePolicy(item, installation, OrderOfTexts);
 }
 
 Judgement JudgeFeedItem(FeedItem const& item, Client const& client)

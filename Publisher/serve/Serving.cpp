@@ -66,6 +66,26 @@ std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
     return faults;
 }
 
+std::vector<QByteArray> ParseHosts(std::vector<std::string> const& hosts)
+{
+    static QRegularExpression const NAME(QStringLiteral("^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"));
+    std::vector<QByteArray> names;
+    for (std::string const& host : hosts)
+    {
+        QByteArray const name = HostName(QByteArray::fromStdString(host));
+        if (name.isEmpty() || !NAME.match(QString::fromLatin1(name)).hasMatch())
+        {
+            throw Refusal({{},
+                           0,
+                           0,
+                           QStringLiteral("--host: \"%1\" is no name").arg(QString::fromStdString(host)),
+                           QStringLiteral("give a name such as updates.example.com")});
+        }
+        names.push_back(name);
+    }
+    return names;
+}
+
 /// Ends the loop when standard input does.
 void EndWithInput(QSocketNotifier& notifier, QEventLoop& loop)
 {
@@ -110,20 +130,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
                            QStringLiteral("give its path below the folder")});
         }
     }
-    for (std::string const& host : options.hosts)
-    {
-        QByteArray const hostName = HostName(QByteArray::fromStdString(host));
-        static QRegularExpression const NAME(QStringLiteral("^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"));
-        if (hostName.isEmpty() || !NAME.match(QString::fromLatin1(hostName)).hasMatch())
-        {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--host: \"%1\" is no name").arg(QString::fromStdString(host)),
-                           QStringLiteral("give a name such as updates.example.com")});
-        }
-        manners.hosts.push_back(hostName);
-    }
+    manners.hosts = ParseHosts(options.hosts);
     FileServer server(std::move(folder), std::move(manners), std::move(certificate),
                       [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
     if (!server.Listen(options.port))

@@ -73,7 +73,7 @@ CurlRequest::CurlRequest(FetchRequest const& request, FetchLimits const& limits,
 {
     if (!m_easy)
     {
-        m_fault = ErrorCause::ConnectionFailed;
+        m_fault = MakeError(ErrorCause::ConnectionFailed);
         return;
     }
     SetAddress();
@@ -151,7 +151,8 @@ void CurlRequest::SetProxy()
     ProxyChoice const& proxy = m_settings.proxy;
     if (proxy.kind == ProxyChoice::Kind::Unknown)
     {
-        m_fault = ErrorCause::ProxyFailed;
+        m_fault = MakeError(ErrorCause::ProxyFailed,
+                            QStringLiteral("the proxy's address must begin with http, socks5 or socks5h"));
     }
     // The engine has read the environment already; libcurl must not read it in another way.
     curl_easy_setopt(easy, CURLOPT_NOPROXY, "");
@@ -197,7 +198,7 @@ void CurlRequest::SetSecurity()
                        curl_easy_setopt(easy, CURLOPT_SSL_CTX_FUNCTION, prepare) == CURLE_OK;
     if (!isSet || !m_settings.trust)
     {
-        m_fault = ErrorCause::SecureConnectionUnavailable;
+        m_fault = MakeError(ErrorCause::SecureConnectionUnavailable);
     }
 }
 

@@ -24,7 +24,7 @@ public:
     CurlRequest& operator=(CurlRequest const&) = delete;
 
     /// Why the request must not be sent; empty if it may be sent.
-    [[nodiscard]] std::optional<ErrorCause> Fault() const { return m_fault; }
+    [[nodiscard]] std::optional<EngineError> const& Fault() const { return m_fault; }
     CURL* Handle() const { return m_easy.get(); }
     ProxyChoice const& Proxy() const { return m_settings.proxy; }
 
@@ -50,7 +50,7 @@ private:
 
     FetchRequest m_request;
     ConnectionSettings m_settings;
-    std::optional<ErrorCause> m_fault;
+    std::optional<EngineError> m_fault;
     std::unique_ptr<curl_slist, decltype(&curl_slist_free_all)> m_fields{nullptr, &curl_slist_free_all};
     std::unique_ptr<CURLU, decltype(&curl_url_cleanup)> m_address{nullptr, &curl_url_cleanup};
     std::array<char, CURL_ERROR_SIZE> m_text{};

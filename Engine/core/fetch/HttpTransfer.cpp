@@ -115,9 +115,9 @@ void HttpTransfer::Open()
 void HttpTransfer::Begin(ConnectionSettings const& settings)
 {
     m_curl = std::make_unique<CurlRequest>(m_request, m_limits, settings);
-    if (std::optional<ErrorCause> const fault = m_curl->Fault())
+    if (std::optional<EngineError> const fault = m_curl->Fault())
     {
-        Fail(MakeError(*fault));
+        Fail(*fault);
         return;
     }
     CURL* const easy = m_curl->Handle();

@@ -264,7 +264,9 @@ TEST_F(EnvironmentProxyFetch, ApplicationsOwnGoesBeforeIt)
 TEST_F(EnvironmentProxyFetch, OneThatIsNotSpokenHereIsAnErrorAndNoWayRound)
 {
     Set("https_proxy", "https://127.0.0.1:1");
-    EXPECT_EQ(CauseOf(FetchAnywhere(secure.Url(QStringLiteral("/feed.xml"), NAME))), ErrorCause::ProxyFailed);
+    FetchOutcome const outcome = FetchAnywhere(secure.Url(QStringLiteral("/feed.xml"), NAME));
+    ASSERT_EQ(CauseOf(outcome), ErrorCause::ProxyFailed);
+    EXPECT_TRUE(outcome.error->detail.contains(QLatin1String("must begin with http, socks5"))) << "the log says why";
     EXPECT_EQ(secure.Connections(), 0);
 }
 

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 
 #include <cerrno>
+#include <csignal>
 #include <cstdlib>
 
 #include <fcntl.h>
@@ -28,12 +29,18 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr char TEMPORARY_PREFIX[] = "pelnar-appcast-";
-constexpr char UNHELD_PREFIX[] = "pelnar-appcast.new-"; ///< of one that is not held yet
+constexpr char UNHELD_PREFIX[] = "pelnar-appcast.new-"; ///< of one that its process, by its number, does not hold yet
 constexpr char MAC_INFORMATION_PATH[] = "Contents/Info.plist";
 
 Engine::UniqueFd OpenFolder(fs::path const& path)
 {
     return Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+}
+
+/// Whether there is a process with that number.
+bool IsRunning(QString const& number)
+{
+    return ::kill(pid_t(number.toInt()), 0) == 0 || errno != ESRCH;
 }
 
 /// Removes the folders of runs that were killed: those of this user that nobody holds. One that was made a moment ago
@@ -52,8 +59,9 @@ void RemoveAbandoned()
                                                O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         struct stat status;
         bool const isOwn = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid();
-        bool const isHeldSoon =
-            name.startsWith(QLatin1String(UNHELD_PREFIX)) && ::time(nullptr) - status.st_ctime <= YOUNG_SECONDS;
+        bool const isHeldSoon = name.startsWith(QLatin1String(UNHELD_PREFIX)) &&
+                                IsRunning(name.section(QLatin1Char('-'), 2, 2)) &&
+                                ::time(nullptr) - status.st_ctime <= YOUNG_SECONDS;
         if (isOwn && !isHeldSoon && ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0)
         {
             static_cast<void>(Engine::RemoveTree(parent.Get(), QFile::encodeName(name).toStdString()));
@@ -95,7 +103,7 @@ TemporaryFolder::TemporaryFolder()
 {
     RemoveAbandoned();
     QByteArray const place = QFile::encodeName(QDir::tempPath()) + '/';
-    QByteArray unheld = place + UNHELD_PREFIX + "XXXXXX";
+    QByteArray unheld = place + UNHELD_PREFIX + QByteArray::number(qint64(::getpid())) + "-XXXXXX";
     m_leftover.emplace(
         [&]
         {

@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>المفتاح الجذري لهذا التطبيق تالف. أعد تثبيت التطبيق من ناشره.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>موجز التحديثات فارغ. أعد المحاولة لاحقًا أو اتصل بالناشر.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>Der Stammschlüssel dieser Anwendung ist beschädigt. Installieren Sie die Anwendung neu vom Herausgeber.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>Der Update-Feed ist leer. Versuchen Sie es später noch einmal, oder informieren Sie den Herausgeber.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

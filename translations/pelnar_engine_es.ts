@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>La clave raíz de esta aplicación está dañada. Vuelva a instalar la aplicación desde su editor.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>El canal de actualizaciones está vacío. Inténtelo más tarde o póngase en contacto con el editor.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>La clé racine de cette application est endommagée. Réinstallez l’application depuis son éditeur.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>Le flux de mises à jour est vide. Réessayez plus tard ou contactez l’éditeur.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>מפתח השורש של היישום הזה פגום. יש להתקין את היישום מחדש מהמפיץ.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>ערוץ העדכונים ריק. יש לנסות שוב מאוחר יותר או להודיע ליצרן התוכנה.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

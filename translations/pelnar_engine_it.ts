@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>La chiave radice di questa applicazione è danneggiata. Reinstalli l’applicazione dal suo editore.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>Il feed degli aggiornamenti è vuoto. Riprovare più tardi o informare il produttore.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

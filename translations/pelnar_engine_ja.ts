@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>このアプリケーションのルート鍵が壊れています。発行元から入手してアプリケーションを再インストールしてください。</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>アップデートフィードが空です。後でもう一度試すか、発行元に連絡してください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

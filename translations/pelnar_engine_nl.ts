@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>De hoofdsleutel van deze toepassing is beschadigd. Installeer de toepassing opnieuw via de uitgever.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>De updatefeed is leeg. Probeer het later opnieuw of neem contact op met de uitgever.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

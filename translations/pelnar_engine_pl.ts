@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>Klucz główny tej aplikacji jest uszkodzony. Zainstaluj aplikację ponownie od jej wydawcy.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>Kanał aktualizacji jest pusty. Spróbuj ponownie później lub powiadom wydawcę.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The root key of this application is damaged. Reinstall the application from its publisher.</source>
         <translation>A chave raiz deste aplicativo está danificada. Instale o aplicativo novamente a partir do editor.</translation>
     </message>
+    <message>
+        <source>The update feed is empty. Try again later, or contact the publisher.</source>
+        <translation>O feed de atualizações está vazio. Tente novamente mais tarde ou avise o fornecedor.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -294,6 +294,20 @@ TEST_F(CheckContract, WithoutABundleVersionTheChoiceStands)
 }
 
 // The portal of a hotel.
+TEST_F(CheckContract, EmptyFeedIsAnErrorOfItsOwn)
+{
+    for (char const* const body : {"", " \r\n"})
+    {
+        LoopbackServer server(Answering(OkAnswer(body)));
+        UpdaterDriver driver({&ChooseFirst, &CompareNumbers, {}, {}});
+        driver.SetFeed(server.Url());
+        driver.Probe();
+        ASSERT_TRUE(driver.WaitForEnd());
+        EXPECT_EQ(driver.Events(), Events{"aborted 1000"});
+        EXPECT_EQ(driver.Errors()[0].underlyingCode, 709);
+    }
+}
+
 TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
 {
     LoopbackServer server(Answering(OkAnswer("<!DOCTYPE html><html><head><title>Login</title></head><body/></html>")));

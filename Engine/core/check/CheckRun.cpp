@@ -141,6 +141,10 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 
 Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
 {
+    if (outcome.bytes.trimmed().isEmpty())
+    {
+        return Failure(ErrorCause::FeedEmpty);
+    }
     QDateTime const now = m_now();
     auto believed = BelieveKeys(
         outcome.bytes,

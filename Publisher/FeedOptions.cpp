@@ -58,13 +58,6 @@ void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
         ->type_name("N");
 }
 
-void AddTrustedKeysOption(CLI::App& verb, InstallationOptions& options)
-{
-    AddPublicKeysOption(verb, options.publicKeys,
-                        "Key that the client trusts, in base64; may be given again; default: those that the feed says "
-                        "its version trusts");
-}
-
 Engine::Installation InstallationOf(InstallationOptions const& options)
 {
     Engine::Installation installation;

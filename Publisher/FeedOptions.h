@@ -30,8 +30,6 @@ struct InstallationOptions
 void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
 /// "--rollout-group".
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
-/// "--public-key", which may be given again.
-void AddTrustedKeysOption(CLI::App& verb, InstallationOptions& options);
 /// Throws Refusal.
 [[nodiscard]] Engine::Installation InstallationOf(InstallationOptions const& options);
 /// The members "machine", "channels" and "rolloutGroup" that the JSON of several verbs has.

@@ -143,12 +143,6 @@ QString CriticalText(Engine::FeedItem const& item)
     return OrNone(item.isCritical ? whom : QString());
 }
 
-QString StageText(Engine::FeedItem const& item)
-{
-    qint64 const seconds = item.policy.rolloutSeconds;
-    return OrNone(seconds == 0 ? QString() : QStringLiteral("%1 seconds").arg(seconds));
-}
-
 struct ItemProperty
 {
     char const* name;
@@ -160,7 +154,8 @@ constexpr ItemProperty ITEM_PROPERTIES[] = {
     {"channel", [](auto const& item) { return OrNone(item.policy.channel); }},
     {"informational", InformationalText},
     {"critical", CriticalText},
-    {"phasedRolloutInterval", StageText},
+    {"phasedRolloutInterval", [](auto const& item)
+     { return OrNone(item.policy.rolloutSeconds == 0 ? QString() : QString::number(item.policy.rolloutSeconds)); }},
     {"minimumUpdateVersion", [](auto const& item) { return OrNone(item.policy.minimumUpdateVersion); }},
     {"minimumAutoupdateVersion", [](auto const& item) { return OrNone(item.policy.minimumAutoupdateVersion); }},
     {"minimumSystemVersion", [](auto const& item) { return OrNone(item.minimumSystemVersion); }},

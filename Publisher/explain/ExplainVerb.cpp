@@ -4,6 +4,7 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/ClientOptions.h"
 #include "Publisher/explain/ExplanationText.h"
+#include "Publisher/gate/CheckReleaseVerb.h"
 
 #include <QJsonArray>
 
@@ -69,7 +70,9 @@ void AddExplain(CLI::App& program, VerbContext& context)
     AddPlatformOption(*verb, options->platform);
     AddInstallationOptions(*verb, options->installation);
     AddRolloutGroupOption(*verb, options->installation);
-    AddTrustedKeysOption(*verb, options->installation);
+    AddPublicKeysOption(*verb, options->installation.publicKeys,
+                        "Key that the client trusts, in base64; may be given again; default: those that the feed says "
+                        "its version trusts");
     AddPublishedAtOption(*verb, options->publishedAt);
     verb->add_flag("--after-delta", options->isAfterDelta,
                    "Answer as when the client has been given a delta and asks for a full item to fall back on");

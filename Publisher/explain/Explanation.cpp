@@ -71,8 +71,7 @@ public:
     Explanation Explain() const
     {
         Explanation result;
-        result.chosen = m_choice.chosen;
-        result.rivals = m_choice.rivals;
+        result.choice = m_choice;
         result.chosenIndex = m_choice.full ? int(m_choice.full - m_items.data()) : 0;
         for (FeedItem const& item : m_items)
         {

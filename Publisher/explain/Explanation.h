@@ -41,9 +41,8 @@ struct ItemExplanation
 
 struct Explanation
 {
-    Engine::FeedItem const* chosen = nullptr;
-    std::vector<Engine::FeedItem const*> rivals; ///< of the chosen delta: see FeedChoice
-    int chosenIndex = 0;                         ///< of the item that was chosen or whose delta was
+    FeedChoice choice;
+    int chosenIndex = 0; ///< of the item that was chosen or whose delta was
     std::vector<ItemExplanation> items;
 };
 

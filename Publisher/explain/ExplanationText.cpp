@@ -1,5 +1,7 @@
 #include "Publisher/explain/ExplanationText.h"
 
+#include "Publisher/matrix/Outcome.h"
+
 #include <QJsonArray>
 
 #include <ostream>
@@ -19,17 +21,6 @@ QString AddressOf(FeedItem const& item)
 QString TypeName(App::Session::UpdateType type)
 {
     return QLatin1String(App::Session::UpdateTypeName(type));
-}
-
-QJsonObject JsonOfDownload(FeedItem const& item)
-{
-    return {
-        {QStringLiteral("deltaFrom"), item.isDelta ? QJsonValue(item.deltaFrom) : QJsonValue(QJsonValue::Null)},
-        {QStringLiteral("version"), item.versionString},
-        {QStringLiteral("url"), AddressOf(item)},
-        {QStringLiteral("length"), double(item.contentLength)},
-        {QStringLiteral("updateType"), TypeName(UpdateTypeOf(item))},
-    };
 }
 
 QJsonObject JsonOfExtensions(QVariantMap const& extensions)
@@ -135,17 +126,17 @@ void PrintItem(ItemExplanation const& explained, QString const& indent, Console 
 
 QString AnswerOf(Explanation const& explanation)
 {
-    if (!explanation.chosen)
+    if (!explanation.choice.chosen)
     {
         return QStringLiteral("no update");
     }
-    FeedItem const& chosen = *explanation.chosen;
+    FeedItem const& chosen = *explanation.choice.chosen;
     QString const place = QStringLiteral("item %1").arg(explanation.chosenIndex);
     QString download = place;
     if (chosen.isDelta)
     {
         download = QStringLiteral("the delta from %1").arg(chosen.deltaFrom);
-        for (FeedItem const* const rival : explanation.rivals)
+        for (FeedItem const* const rival : explanation.choice.rivals)
         {
             download += QStringLiteral(" or from %1").arg(rival->deltaFrom);
         }
@@ -153,8 +144,8 @@ QString AnswerOf(Explanation const& explanation)
     }
     return QStringLiteral("%1 as %2, %3, %4")
         .arg(chosen.versionString, TypeName(UpdateTypeOf(chosen)), download,
-             explanation.rivals.empty() ? SizeOf(chosen)
-                                        : QStringLiteral("as their order decides, which no rule defines"));
+             explanation.choice.rivals.empty() ? SizeOf(chosen)
+                                               : QStringLiteral("as their order decides, which no rule defines"));
 }
 
 } // namespace
@@ -174,25 +165,18 @@ void PrintExplanation(Explanation const& explanation, ExplainQuestion const& que
                  question.previousAnswer == PreviousAnswer::DELTA ? QStringLiteral(", after a delta answer,")
                                                                   : QString());
     console.out.stream << asked.toStdString()
-                       << console.out.Styled(explanation.chosen ? Emphasis::Good : Emphasis::Warning,
+                       << console.out.Styled(explanation.choice.chosen ? Emphasis::Good : Emphasis::Warning,
                                              Printable(AnswerOf(explanation)))
                        << '\n';
 }
 
 QJsonObject JsonOf(Explanation const& explanation, ExplainQuestion const& question)
 {
-    QJsonValue chosen(QJsonValue::Null);
-    if (explanation.chosen)
+    QJsonValue chosen = JsonOf(OutcomeOf(explanation.choice));
+    if (chosen.isObject())
     {
-        FeedItem const& item = *explanation.chosen;
-        QJsonObject answer = JsonOfDownload(item);
+        QJsonObject answer = chosen.toObject();
         answer.insert(QStringLiteral("index"), explanation.chosenIndex);
-        QJsonArray rivals;
-        for (FeedItem const* const rival : explanation.rivals)
-        {
-            rivals.append(JsonOfDownload(*rival));
-        }
-        answer.insert(QStringLiteral("rivals"), rivals);
         chosen = answer;
     }
     QJsonArray items;

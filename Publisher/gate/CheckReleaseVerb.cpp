@@ -31,12 +31,7 @@ ExitStatus Check(Options const& options, Console const& console)
     QString const name = QString::fromStdString(options.release);
     QFileInfo const place(name);
     QString const feedName = place.isDir() ? QDir(name).filePath(QLatin1String(FEED_FILE)) : name;
-    auto source = ReadFeed(feedName, {}, console);
-    if (auto const* const problem = std::get_if<Problem>(&source))
-    {
-        throw Refusal(*problem);
-    }
-    FeedBytes& feed = std::get<FeedBytes>(source);
+    FeedBytes feed = Need(ReadFeed(feedName, {}, console));
     ReleaseCheckRequest request;
     request.feedName = feed.name;
     request.feedAddress = feed.address;

@@ -108,12 +108,7 @@ std::size_t TakeOutKnown(FeedFindings& feed, KnownFindings& known)
 
 FeedBytes Read(std::string const& name, LintOptions const& options, Console const& console)
 {
-    auto source = ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console);
-    if (auto const* const problem = std::get_if<Problem>(&source))
-    {
-        throw Refusal(*problem);
-    }
-    return std::get<FeedBytes>(std::move(source));
+    return Need(ReadFeed(QString::fromStdString(name), QString::fromStdString(options.publishedAt), console));
 }
 
 FeedFindings LintOne(std::string const& name, LintOptions const& options, Console const& console)

@@ -151,7 +151,7 @@ TEST_F(Diff, TellsOfItemsThatAreMeantForOthersNow)
          "</sparkle:belowVersion></sparkle:informationalUpdate>",
          "item 5.1: informational yes -> 4, below 3\n"},
         {"<sparkle:phasedRolloutInterval>3600</sparkle:phasedRolloutInterval>", "",
-         "item 5.1: phasedRolloutInterval 3600 seconds -> none\n"},
+         "item 5.1: phasedRolloutInterval 3600 -> none\n"},
         {"", "<sparkle:minimumUpdateVersion>4</sparkle:minimumUpdateVersion>",
          "item 5.1: minimumUpdateVersion none -> 4\n"},
         {"", "<sparkle:minimumAutoupdateVersion>4</sparkle:minimumAutoupdateVersion>",

@@ -146,8 +146,7 @@ TEST(ExplainOutput, TheJsonHasTheDocumentedMembers)
                            {QStringLiteral("version"), QStringLiteral("5.2")},
                            {QStringLiteral("url"), QStringLiteral("https://dl.example.com/5.1-5.2.delta")},
                            {QStringLiteral("length"), 300},
-                           {QStringLiteral("updateType"), QStringLiteral("DELTA")},
-                           {QStringLiteral("rivals"), QJsonArray()}}));
+                           {QStringLiteral("updateType"), QStringLiteral("DELTA")}}));
     QJsonArray const items = object[QStringLiteral("items")].toArray();
     ASSERT_EQ(items.size(), 2);
     EXPECT_EQ(items[0].toObject()[QStringLiteral("extensions")].toObject(),

@@ -65,7 +65,7 @@ TEST_P(FailedTest, IsNamedWithTheTwoValuesThatItCompared)
     ExplainedFeed const feed(GetParam().item);
     EXPECT_EQ(Said(feed.Item(0)), GetParam().said);
     EXPECT_EQ(feed.Item(0).standing, Standing::Refused);
-    EXPECT_EQ(feed.Get().chosen, nullptr);
+    EXPECT_EQ(feed.Get().choice.chosen, nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -121,7 +121,7 @@ TEST_P(LostItem, SaysToWhomAndWhy)
     EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
     EXPECT_EQ(Said(feed.Item(1)), std::string("valid: lost to item 0: ") + GetParam().said);
     EXPECT_EQ(feed.Item(1).standing, Standing::Lost);
-    EXPECT_EQ(feed.Get().chosen, feed.Item(0).item);
+    EXPECT_EQ(feed.Get().choice.chosen, feed.Item(0).item);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -169,7 +169,7 @@ TEST(ExplainedDelta, OfTheInstalledVersionIsChosen)
     EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: starts from 4.9, installed is 5.0");
     EXPECT_EQ(feed.Delta(0, 0).standing, Standing::NotAsked);
     EXPECT_EQ(Said(feed.Delta(0, 1)), "valid: chosen");
-    EXPECT_EQ(feed.Get().chosen, feed.Delta(0, 1).item);
+    EXPECT_EQ(feed.Get().choice.chosen, feed.Delta(0, 1).item);
     EXPECT_EQ(feed.Get().chosenIndex, 0);
 }
 
@@ -255,7 +255,7 @@ TEST_P(PolicyOfAnItem, IsTheVerdictBeforeTheSessionsOwn)
     EXPECT_EQ(feed.Item(1).standing, GetParam().standing);
     int const chosen = GetParam().standing == Standing::Chosen ? 1 : 0;
     EXPECT_EQ(feed.Get().chosenIndex, chosen);
-    EXPECT_EQ(feed.Get().chosen, feed.Item(chosen).item);
+    EXPECT_EQ(feed.Get().choice.chosen, feed.Item(chosen).item);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -282,7 +282,7 @@ TEST(Explanation, DeltaOfAnotherMachineIsLeftOutAndTheOneBeforeItCounts)
                              "<enclosure url='d2' length='1' s:version='5.1' s:deltaFrom='5.0' p:machine='aarch64'/>"
                              "</s:deltas></item>",
                              {Core::Version(5, 0), Core::Version(12, 3)}, StagedInstallation());
-    EXPECT_EQ(feed.Get().chosen, feed.Delta(0, 0).item);
+    EXPECT_EQ(feed.Get().choice.chosen, feed.Delta(0, 0).item);
     EXPECT_EQ(Said(feed.Delta(0, 1)), "other-architecture: it is for aarch64, this is x86_64");
 }
 

@@ -189,8 +189,8 @@ using Answers = std::set<std::string>;
 
 Answers AnswersOf(Publisher::Explanation const& explanation)
 {
-    std::vector<FeedItem const*> items = explanation.rivals;
-    items.push_back(explanation.chosen);
+    std::vector<FeedItem const*> items = explanation.choice.rivals;
+    items.push_back(explanation.choice.chosen);
     Answers answers;
     for (FeedItem const* item : items)
     {

@@ -277,8 +277,7 @@ struct ShortDelimiters
     }
 };
 
-/// \a text with three signs or more in every column of those lines. The search ends after links with that many bytes of
-/// attributes.
+/// \a text with three signs or more in every column of those lines.
 std::string WithWideDelimiters(std::string_view text)
 {
     MD_PARSER parser = {}; // tables are paragraphs here

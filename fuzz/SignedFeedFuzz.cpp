@@ -44,9 +44,9 @@ void RequireWhole(QByteArray const& bytes, SignedFeed const& feed)
 void RequireTerms(QByteArray const& bytes)
 {
     FeedParseResult const feed = ParseFeed(bytes, QUrl(), FeedPlatform::Linux);
-    if (auto const terms = ReadFeedValidity(feed.channel))
+    if (auto const terms = ReadFeedValidity(feed.value_or(FeedContent()).channel))
     {
-        Require(feed.HasSucceeded() && terms->serial > 0 && terms->expires.isValid(), "terms are usable");
+        Require(feed && terms->serial > 0 && terms->expires.isValid(), "terms are usable");
         Require(JudgeFeedValidity(*terms, terms->serial, terms->expires.addSecs(-1)).has_value(),
                 "the same feed again is accepted");
         Require(!JudgeFeedValidity(*terms, 0, terms->expires), "an expired feed is refused");

@@ -402,8 +402,8 @@
         <translation>يتجاوز السطر %1 من الموجز عدد العناصر والسمات المسموح به، وهو %2.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>يحتوي السطر %1 من الموجز على العنصر رقم %2، والمسموح به %3 فقط.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>يحتوي السطر %1 من الموجز على العنصر رقم %3، والمسموح به %2 فقط.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>تبدأ في السطر %1 من الموجز صفحة ويب بدلًا من الموجز المتوقع.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>يحتوي السطر %1 من الموجز على خطأ غير معروف.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

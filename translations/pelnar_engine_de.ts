@@ -402,8 +402,8 @@
         <translation>Zeile %1 des Feeds überschreitet die %2 Elemente und Attribute, die ein Feed haben darf.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>Zeile %1 des Feeds hat den Eintrag Nummer %2, aber nur %3 sind erlaubt.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>Zeile %1 des Feeds hat den Eintrag Nummer %3, aber nur %2 sind erlaubt.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>In Zeile %1 des Feeds beginnt eine Webseite, wo ein Feed erwartet wurde.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>Zeile %1 des Feeds hat einen unbekannten Fehler.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>La línea %1 del canal supera los %2 elementos y atributos que puede tener un canal.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>La línea %1 del canal tiene el artículo número %2, pero solo se permiten %3.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>La línea %1 del canal tiene el artículo número %3, pero solo se permiten %2.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>La línea %1 del canal empieza una página web donde se esperaba un canal.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>La línea %1 del canal tiene un error desconocido.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -239,7 +239,7 @@
     </message>
     <message>
         <source>The connection to the update server broke too many times. Try again later.</source>
-        <translation>La connexion au serveur de mises à jour s'est interrompue trop souvent. Réessayez plus tard.</translation>
+        <translation>La connexion au serveur de mises à jour s&apos;est interrompue trop souvent. Réessayez plus tard.</translation>
     </message>
     <message>
         <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
@@ -247,7 +247,7 @@
     </message>
     <message>
         <source>The update is not downloaded completely yet. The next check continues the download.</source>
-        <translation>La mise à jour n'est pas encore entièrement téléchargée. La prochaine vérification poursuivra le téléchargement.</translation>
+        <translation>La mise à jour n&apos;est pas encore entièrement téléchargée. La prochaine vérification poursuivra le téléchargement.</translation>
     </message>
     <message>
         <source>Another copy of the application is downloading this update. Wait until it has finished.</source>
@@ -402,8 +402,8 @@
         <translation>La ligne %1 du flux dépasse les %2 éléments et attributs qu’un flux peut contenir.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>La ligne %1 du flux contient l’élément numéro %2, mais seuls %3 sont autorisés.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>La ligne %1 du flux contient l’élément numéro %3, mais seuls %2 sont autorisés.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>La ligne %1 du flux commence une page web là où un flux était attendu.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>La ligne %1 du flux contient une erreur inconnue.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>שורה %1 של הערוץ חורגת מ-%2 הרכיבים והמאפיינים המותרים בערוץ.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>בשורה %1 של הערוץ נמצא פריט מספר %2, אך מותרים רק %3.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>בשורה %1 של הערוץ נמצא פריט מספר %3, אך מותרים רק %2.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>בשורה %1 של הערוץ מתחיל דף אינטרנט במקום ערוץ.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>בשורה %1 של הערוץ יש שגיאה לא ידועה.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>The update server sent twice the size of the update, but never the whole update. Try again later.</source>
-        <translation>Il server degli aggiornamenti ha inviato il doppio della dimensione dell'aggiornamento, ma mai l'aggiornamento completo. Riprovi più tardi.</translation>
+        <translation>Il server degli aggiornamenti ha inviato il doppio della dimensione dell&apos;aggiornamento, ma mai l&apos;aggiornamento completo. Riprovi più tardi.</translation>
     </message>
     <message>
         <source>The connection to the update server broke too many times. Try again later.</source>
@@ -243,11 +243,11 @@
     </message>
     <message>
         <source>The download of the update took too long and was stopped. Try again on a faster connection.</source>
-        <translation>Il download dell'aggiornamento ha richiesto troppo tempo ed è stato interrotto. Riprovi con una connessione più veloce.</translation>
+        <translation>Il download dell&apos;aggiornamento ha richiesto troppo tempo ed è stato interrotto. Riprovi con una connessione più veloce.</translation>
     </message>
     <message>
         <source>The update is not downloaded completely yet. The next check continues the download.</source>
-        <translation>L'aggiornamento non è ancora stato scaricato completamente. Il prossimo controllo continuerà il download.</translation>
+        <translation>L&apos;aggiornamento non è ancora stato scaricato completamente. Il prossimo controllo continuerà il download.</translation>
     </message>
     <message>
         <source>Another copy of the application is downloading this update. Wait until it has finished.</source>
@@ -402,8 +402,8 @@
         <translation>La riga %1 del feed supera i %2 elementi e attributi che un feed può avere.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>La riga %1 del feed contiene la voce numero %2, ma ne sono consentite solo %3.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>La riga %1 del feed contiene la voce numero %3, ma ne sono consentite solo %2.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>Alla riga %1 del feed inizia una pagina web dove era atteso un feed.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>La riga %1 del feed contiene un errore sconosciuto.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>フィードの %1 行目で、フィードに許可される %2 個の要素と属性を超えています。</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>フィードの %1 行目に %2 番目の項目がありますが、許可されるのは %3 個までです。</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>フィードの %1 行目に %3 番目の項目がありますが、許可されるのは %2 個までです。</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>フィードの %1 行目から、フィードではなく Web ページが始まっています。</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>フィードの %1 行目に不明なエラーがあります。</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

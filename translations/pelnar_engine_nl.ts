@@ -402,8 +402,8 @@
         <translation>Regel %1 van de feed overschrijdt de %2 elementen en attributen die een feed mag hebben.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>Regel %1 van de feed heeft item nummer %2, maar er zijn er maar %3 toegestaan.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>Regel %1 van de feed heeft item nummer %3, maar er zijn er maar %2 toegestaan.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>Op regel %1 van de feed begint een webpagina waar een feed werd verwacht.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>Regel %1 van de feed heeft een onbekende fout.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>Wiersz %1 kanału przekracza liczbę %2 elementów i atrybutów, które kanał może mieć.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>Wiersz %1 kanału ma pozycję numer %2, a dozwolonych jest tylko %3.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>Wiersz %1 kanału ma pozycję numer %3, a dozwolonych jest tylko %2.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>W wierszu %1 kanału zaczyna się strona internetowa, a oczekiwano kanału.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>Wiersz %1 kanału zawiera nieznany błąd.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>A linha %1 do feed ultrapassa os %2 elementos e atributos que um feed pode ter.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>A linha %1 do feed tem o item número %2, mas apenas %3 são permitidos.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>A linha %1 do feed tem o item número %3, mas apenas %2 são permitidos.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>A linha %1 do feed começa uma página da web onde se esperava um feed.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>A linha %1 do feed tem um erro desconhecido.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

@@ -402,8 +402,8 @@
         <translation>Строка %1 ленты превышает допустимое число элементов и атрибутов: %2.</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>Строка %1 ленты содержит элемент номер %2, но допустимо только %3.</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>Строка %1 ленты содержит элемент номер %3, но допустимо только %2.</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>В строке %1 ленты начинается веб-страница, хотя ожидалась лента.</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>Строка %1 ленты содержит неизвестную ошибку.</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

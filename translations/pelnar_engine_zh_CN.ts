@@ -402,8 +402,8 @@
         <translation>更新源第 %1 行超出了更新源允许的 %2 个元素和属性。</translation>
     </message>
     <message>
-        <source>Line %1 of the feed has item number %2, but only %3 are allowed.</source>
-        <translation>更新源第 %1 行是第 %2 个项目，但只允许 %3 个。</translation>
+        <source>Line %1 of the feed has item number %3, but only %2 are allowed.</source>
+        <translation>更新源第 %1 行是第 %3 个项目，但只允许 %2 个。</translation>
     </message>
     <message>
         <source>Line %1 of the feed has more than %2 namespaces declared.</source>
@@ -412,10 +412,6 @@
     <message>
         <source>Line %1 of the feed begins a web page instead of a feed.</source>
         <translation>更新源第 %1 行开始的是网页，而不是更新源。</translation>
-    </message>
-    <message>
-        <source>Line %1 of the feed has an unknown error.</source>
-        <translation>更新源第 %1 行有未知错误。</translation>
     </message>
     <message>
         <source>The application was installed by the system&apos;s package manager, which also updates it. Use the command &quot;%1&quot;.</source>

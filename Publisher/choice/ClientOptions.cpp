@@ -54,15 +54,15 @@ ParsedFeed ReadItems(QString const& name, QString const& publishedAt, Engine::Fe
 {
     ParsedFeed feed{Need(ReadFeed(name, publishedAt, console)), {}};
     Engine::FeedParseResult parsed = Engine::ParseFeed(feed.source.bytes, feed.source.address, target);
-    if (!parsed.HasSucceeded())
+    if (!parsed)
     {
-        QString const& detail = parsed.error.detail;
+        QString const& detail = parsed.error().detail;
         throw Refusal(
-            {feed.source.name, parsed.error.line, parsed.error.column,
-             parsed.error.sentence.English() + (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
+            {feed.source.name, parsed.error().line, parsed.error().column,
+             parsed.error().sentence.English() + (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
              QStringLiteral("pelnar-appcast lint says what to mend")});
     }
-    feed.items = std::move(parsed.items);
+    feed.items = std::move(parsed->items);
     return feed;
 }
 

@@ -34,12 +34,12 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
     for (Engine::FeedPlatform const platform : PLATFORMS)
     {
         Engine::FeedParseResult const feed = Engine::ParseFeed(bytes, QUrl(), platform);
-        if (!feed.HasSucceeded())
+        if (!feed)
         {
-            throw Refusal({m_name, feed.error.line, feed.error.column, feed.error.sentence.English(),
+            throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
                            QStringLiteral("mend the feed first")});
         }
-        for (Engine::FeedItem const& item : feed.items)
+        for (Engine::FeedItem const& item : feed->items)
         {
             for (EditedItem& each : m_items)
             {

@@ -64,8 +64,10 @@ void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArr
 {
     for (Engine::FeedPlatform const platform : {Engine::FeedPlatform::Linux, Engine::FeedPlatform::MacOS})
     {
-        std::vector<Engine::FeedItem> const old = Engine::ParseFeed(before, QUrl(), platform).items;
-        std::vector<Engine::FeedItem> const fresh = Engine::ParseFeed(after, QUrl(), platform).items;
+        std::vector<Engine::FeedItem> const old =
+            Engine::ParseFeed(before, QUrl(), platform).value_or(Engine::FeedContent()).items;
+        std::vector<Engine::FeedItem> const fresh =
+            Engine::ParseFeed(after, QUrl(), platform).value_or(Engine::FeedContent()).items;
         std::vector<NamedVersion> versions = VersionsOfFeed(old);
         versions.insert(versions.begin(), NamedVersion{QStringLiteral("0"), Core::Version(0)});
         Engine::Installation everywhere;

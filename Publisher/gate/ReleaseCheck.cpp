@@ -50,7 +50,9 @@ std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform p
     for (std::string const& name : MachinesOf(request))
     {
         QString const machine = QString::fromStdString(name);
-        for (FeedItem& item : Engine::ParseFeed(request.feed, request.feedAddress, {platform, machine}).items)
+        for (FeedItem& item : Engine::ParseFeed(request.feed, request.feedAddress, {platform, machine})
+                                  .value_or(Engine::FeedContent())
+                                  .items)
         {
             bool const isKnown =
                 std::any_of(items.begin(), items.end(),

@@ -324,7 +324,7 @@ private:
             text.insert(text.indexOf(QLatin1String("</channel>")),
                         ItemText(written, m_workplace.address, FEED_PREFIX, {}));
             std::vector<Engine::FeedItem> const read =
-                Engine::ParseFeed(text.toUtf8(), m_address, written.platform).items;
+                Engine::ParseFeed(text.toUtf8(), m_address, written.platform).value_or(Engine::FeedContent()).items;
             if (!read.empty() && read.front().description != item->description)
             {
                 m_workplace.Warn(m_workplace.PathOf(archive.fileName),

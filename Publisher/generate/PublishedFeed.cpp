@@ -47,12 +47,12 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
 void PublishedFeed::TakeItems(Engine::FeedTarget const& target, QUrl const& address)
 {
     Engine::FeedParseResult const feed = Engine::ParseFeed(m_bytes, address, target);
-    if (!feed.HasSucceeded())
+    if (!feed)
     {
-        throw Refusal({m_name, feed.error.line, feed.error.column, feed.error.sentence.English(),
+        throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
                        QStringLiteral("mend the feed, or move it away to begin a new one")});
     }
-    for (Engine::FeedItem const& item : feed.items)
+    for (Engine::FeedItem const& item : feed->items)
     {
         auto const known = std::find_if(m_items.begin(), m_items.end(),
                                         [&item](PublishedItem const& other) {

@@ -107,8 +107,8 @@ void CheckFeedSigner(QByteArray const& bytes, Engine::TrustedKeys const& valid, 
 
 qint64 FeedSerialOf(QByteArray const& bytes)
 {
-    auto const validity =
-        Engine::ReadFeedValidity(Engine::ParseFeed(bytes, QUrl(), Engine::FeedPlatform::Linux).channel);
+    auto const validity = Engine::ReadFeedValidity(
+        Engine::ParseFeed(bytes, QUrl(), Engine::FeedPlatform::Linux).value_or(Engine::FeedContent()).channel);
     return validity ? validity->serial : 0;
 }
 

@@ -9,40 +9,30 @@ namespace Pelnar::Publisher
 namespace
 {
 
-using Engine::FeedErrorKind;
+using Engine::ErrorCause;
 using Engine::FeedPlatform;
 
-LintRule RuleOf(FeedErrorKind kind)
+LintRule RuleOf(ErrorCause cause)
 {
-    switch (kind)
-    {
-    case FeedErrorKind::None:
-    case FeedErrorKind::Malformed:
-        return LintRule::MalformedXml;
-    case FeedErrorKind::DocumentType:
-        return LintRule::DocumentType;
-    case FeedErrorKind::TooDeep:
-        return LintRule::TooDeep;
-    case FeedErrorKind::TooManyAttributes:
-        return LintRule::TooManyAttributes;
-    case FeedErrorKind::TagTooLong:
-        return LintRule::TagTooLong;
-    case FeedErrorKind::TooMuchMarkup:
-        return LintRule::TooMuchMarkup;
-    case FeedErrorKind::TooManyItems:
-        return LintRule::TooManyItems;
-    case FeedErrorKind::TooManyNamespaces:
-        return LintRule::TooManyNamespaces;
-    case FeedErrorKind::NotAFeed:
-        return LintRule::NotAFeed;
-    }
-    return LintRule::MalformedXml;
+    constexpr std::pair<ErrorCause, LintRule> RULES[] = {
+        {ErrorCause::FeedDocumentType, LintRule::DocumentType},
+        {ErrorCause::FeedTooDeep, LintRule::TooDeep},
+        {ErrorCause::FeedTooManyAttributes, LintRule::TooManyAttributes},
+        {ErrorCause::FeedTagTooLong, LintRule::TagTooLong},
+        {ErrorCause::FeedTooMuchMarkup, LintRule::TooMuchMarkup},
+        {ErrorCause::FeedTooManyItems, LintRule::TooManyItems},
+        {ErrorCause::FeedTooManyNamespaces, LintRule::TooManyNamespaces},
+        {ErrorCause::FeedIsWebPage, LintRule::NotAFeed},
+    };
+    auto const* const row =
+        std::find_if(std::begin(RULES), std::end(RULES), [cause](auto const& each) { return each.first == cause; });
+    return row == std::end(RULES) ? LintRule::MalformedXml : row->second;
 }
 
 LintFinding FindingOf(Engine::FeedParseError const& error)
 {
     QString const what = error.detail.isEmpty() ? error.sentence.English() : error.detail;
-    return {RuleOf(error.kind),
+    return {RuleOf(error.cause),
             {error.line, error.column},
             what.endsWith(QLatin1Char('.')) ? what.left(what.size() - 1) : what};
 }
@@ -108,7 +98,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform pla
 {
     LintPlatform& added = subject.platforms.emplace_back();
     added.system = platform;
-    added.parsed = Engine::ParseFeed(bytes, subject.address, platform).items;
+    added.parsed = Engine::ParseFeed(bytes, subject.address, platform).value_or(Engine::FeedContent()).items;
     auto element = subject.itemElements.begin();
     for (Engine::FeedItem const& item : added.parsed)
     {
@@ -152,7 +142,7 @@ void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, Li
 /// another encoding than UTF-8 stays as it is.
 QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
 {
-    if (!Engine::ParseFeed(bytes, QUrl(), FeedPlatform::Linux).HasSucceeded())
+    if (!Engine::ParseFeed(bytes, QUrl(), FeedPlatform::Linux))
     {
         return bytes;
     }
@@ -208,9 +198,9 @@ LintResult LintFeed(QByteArray const& written, QUrl const& address)
     LintFindings findings;
     QByteArray const bytes = WithRightNamespace(written, findings);
     Engine::FeedParseResult const parsed = Engine::ParseFeed(bytes, address, FeedPlatform::MacOS);
-    if (!parsed.HasSucceeded())
+    if (!parsed)
     {
-        return {{FindingOf(parsed.error)}, nullptr};
+        return {{FindingOf(parsed.error())}, nullptr};
     }
     auto subject = std::make_unique<LintSubject>();
     subject->address = address;

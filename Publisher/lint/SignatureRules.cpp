@@ -41,7 +41,9 @@ QString TextOf(SignedFeedFault fault)
 
 Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& bytes)
 {
-    return Engine::ParseFeed(bytes, subject.address, Engine::FeedPlatform::Linux).channel;
+    return Engine::ParseFeed(bytes, subject.address, Engine::FeedPlatform::Linux)
+        .value_or(Engine::FeedContent())
+        .channel;
 }
 
 /// Of the element of the channel that has this name, or of the channel, or of the document.

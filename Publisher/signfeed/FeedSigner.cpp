@@ -21,12 +21,12 @@ int LineOf(QByteArray const& bytes, int offset)
 Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
 {
     Engine::FeedParseResult const feed = Engine::ParseFeed(content, QUrl(), Engine::FeedPlatform::Linux);
-    if (!feed.HasSucceeded())
+    if (!feed)
     {
-        throw Refusal({name, feed.error.line, feed.error.column, feed.error.sentence.English(),
+        throw Refusal({name, feed.error().line, feed.error().column, feed.error().sentence.English(),
                        QStringLiteral("mend the feed; clients do not read it")});
     }
-    return feed.channel;
+    return feed->channel;
 }
 
 /// What the feed's serial must be above.

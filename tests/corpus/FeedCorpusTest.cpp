@@ -72,9 +72,9 @@ Engine::FeedParseResult ParseFile(QString const& name)
 void ExpectChoice(Row const& row, Engine::FeedParseResult const& feed)
 {
     SCOPED_TRACE(row.file.toStdString() + ", local " + row.localVersion.toStdString());
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
+    EXPECT_TRUE(feed.has_value()) << feed.error().sentence.English().toStdString();
     Core::Version const localVersion = Util::VersionFromString(row.localVersion, QStringLiteral("."));
-    std::optional<ShippedChoice> const choice = ChooseFromFeed(feed.items, localVersion);
+    std::optional<ShippedChoice> const choice = ChooseFromFeed(feed.value().items, localVersion);
     QStringList const answer =
         choice ? QStringList{choice->version, choice->deltaFrom, QString::number(choice->length), choice->url}
                : QStringList{QString(), QString(), QString(), QString()};
@@ -175,9 +175,9 @@ TEST_F(FeedCorpus, MalformedFeedsAreErrorsAndTheOthersAreNot)
         Engine::FeedParseResult const feed = ParseFile(row.file);
         bool const isMalformed = row.outcome == QLatin1String("malformed");
         malformed += isMalformed ? 1 : 0;
-        EXPECT_EQ(int(feed.error.kind),
-                  int(isMalformed ? Engine::FeedErrorKind::Malformed : Engine::FeedErrorKind::None))
-            << row.file.toStdString() << ": " << feed.error.sentence.English().toStdString();
+        EXPECT_EQ(feed ? Engine::ErrorCause::NoUpdate : feed.error().cause,
+                  isMalformed ? Engine::ErrorCause::FeedMalformed : Engine::ErrorCause::NoUpdate)
+            << row.file.toStdString();
     }
     std::printf("%d feeds, %d of them malformed\n", int(files.size()), malformed);
 }

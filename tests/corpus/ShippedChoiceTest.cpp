@@ -15,8 +15,8 @@ std::optional<ShippedChoice> Choose(QByteArray const& items, Core::Version const
     Engine::FeedParseResult const feed = Engine::ParseFeed(
         "<rss xmlns:s='http://www.andymatuschak.org/xml-namespaces/sparkle'><channel>" + items + "</channel></rss>",
         QUrl(QStringLiteral("https://feeds.example.com/app/appcast.xml")), Engine::FeedPlatform::MacOS);
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
-    return ChooseFromFeed(feed.items, localVersion);
+    EXPECT_TRUE(feed.has_value()) << feed.error().sentence.English().toStdString();
+    return ChooseFromFeed(feed.value().items, localVersion);
 }
 
 char const* const ITEM_WITH_DELTA = R"(<item>

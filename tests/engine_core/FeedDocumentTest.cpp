@@ -29,12 +29,12 @@ char const* const SAMPLE = R"(<?xml version="1.0" encoding="utf-8"?>
 
 std::string TitleOf(FeedParseResult const& result)
 {
-    return result.items.size() == 1 ? Text(result.items[0].title) : "refused: " + Text(result.error.sentence.English());
+    return result ? Text(result->items.at(0).title) : "refused: " + Text(result.error().sentence.English());
 }
 
-FeedErrorKind KindOf(QByteArray const& bytes)
+ErrorCause KindOf(QByteArray const& bytes)
 {
-    return Parse(bytes).error.kind;
+    return Parse(bytes).error().cause;
 }
 
 } // namespace
@@ -42,27 +42,26 @@ FeedErrorKind KindOf(QByteArray const& bytes)
 TEST(FeedDocument, TruncatedAtAnyByteIsAnError)
 {
     QByteArray const sample(SAMPLE);
-    ASSERT_TRUE(Parse(sample).HasSucceeded());
+    ASSERT_TRUE(Parse(sample).has_value());
     for (int size = 0; size < sample.trimmed().size(); ++size)
     {
         FeedParseResult const result = Parse(sample.left(size));
-        EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::Malformed)) << size;
-        EXPECT_TRUE(result.items.empty()) << size;
-        EXPECT_GE(result.error.line, 1) << size;
-        EXPECT_FALSE(result.error.detail.isEmpty()) << size;
+        EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedMalformed)) << size;
+        EXPECT_GE(result.error().line, 1) << size;
+        EXPECT_FALSE(result.error().detail.isEmpty()) << size;
     }
 }
 
 TEST(FeedDocument, OnlyCommentsAndBlanksMayFollowTheRoot)
 {
     QByteArray const sample(SAMPLE);
-    EXPECT_TRUE(Parse(sample + "\n\n<!-- a signature block: c2ln -->\n").HasSucceeded());
-    EXPECT_TRUE(Parse(sample + "<?pi?>").HasSucceeded());
+    EXPECT_TRUE(Parse(sample + "\n\n<!-- a signature block: c2ln -->\n").has_value());
+    EXPECT_TRUE(Parse(sample + "<?pi?>").has_value());
     for (char const* junk : {"junk", "<rss/>", "</rss>", "<![CDATA[x]]>", "&amp;", "<", "\xEF\xBB\xBF", "\x1A"})
     {
-        EXPECT_EQ(int(KindOf(sample + junk)), int(FeedErrorKind::Malformed)) << junk;
+        EXPECT_EQ(int(KindOf(sample + junk)), int(ErrorCause::FeedMalformed)) << junk;
     }
-    EXPECT_EQ(int(KindOf(sample + QByteArray(1, '\0'))), int(FeedErrorKind::Malformed));
+    EXPECT_EQ(int(KindOf(sample + QByteArray(1, '\0'))), int(ErrorCause::FeedMalformed));
 }
 
 TEST(FeedDocument, WhatIsNotWellFormedIsAnErrorAndNeverAFeedWithoutItems)
@@ -102,10 +101,9 @@ TEST(FeedDocument, WhatIsNotWellFormedIsAnErrorAndNeverAFeedWithoutItems)
     for (Row const& row : rows)
     {
         FeedParseResult const result = Parse(row.bytes);
-        EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::Malformed)) << row.name;
-        EXPECT_TRUE(result.items.empty()) << row.name;
-        EXPECT_EQ(Text(result.error.sentence.English()),
-                  "Line " + std::to_string(result.error.line) + " of the feed is not well-formed XML.")
+        EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedMalformed)) << row.name;
+        EXPECT_EQ(Text(result.error().sentence.English()),
+                  "Line " + std::to_string(result.error().line) + " of the feed is not well-formed XML.")
             << row.name;
     }
 }
@@ -113,21 +111,21 @@ TEST(FeedDocument, WhatIsNotWellFormedIsAnErrorAndNeverAFeedWithoutItems)
 TEST(FeedDocument, AnErrorNamesItsPlaceAndQuotesNothing)
 {
     FeedParseResult const result = Parse("<rss>\r\n<item>\n</item>\r\n<item a=\"1\" \xC2\x9B/></rss>");
-    EXPECT_EQ(result.error.line, 4);
-    EXPECT_EQ(result.error.column, 15); // the reader looks ahead of the character that it refuses
-    EXPECT_EQ(Text(result.error.sentence.English()), "Line 4 of the feed is not well-formed XML.");
-    EXPECT_FALSE(result.error.detail.contains(QChar(0x9B)));
+    EXPECT_EQ(result.error().line, 4);
+    EXPECT_EQ(result.error().column, 15); // the reader looks ahead of the character that it refuses
+    EXPECT_EQ(Text(result.error().sentence.English()), "Line 4 of the feed is not well-formed XML.");
+    EXPECT_FALSE(result.error().detail.contains(QChar(0x9B)));
     FeedLimits limits;
     limits.maxTagBytes = 20;
     FeedParseResult const tooLong =
         Parse("<rss>\r\n<item>\n</item>\r\xC3\xA9<item a=\"123456789012345\"/></rss>", FeedPlatform::MacOS, limits);
-    EXPECT_EQ(tooLong.error.line, 4);
-    EXPECT_EQ(tooLong.error.column, 2);
+    EXPECT_EQ(tooLong.error().line, 4);
+    EXPECT_EQ(tooLong.error().column, 2);
 }
 
 TEST(FeedDocument, ItemsBeforeAnErrorAreNotAnswered)
 {
-    EXPECT_TRUE(Parse("<rss><item><title>a</title></item><item></rss>").items.empty());
+    EXPECT_FALSE(Parse("<rss><item><title>a</title></item><item></rss>"));
 }
 
 TEST(FeedDocument, WithoutItemsIsAnEmptyFeed)
@@ -136,8 +134,8 @@ TEST(FeedDocument, WithoutItemsIsAnEmptyFeed)
                               "<a:rss xmlns:a='u'/>", "<rss><a:item xmlns:a='u'/></rss>"})
     {
         FeedParseResult const result = Parse(bytes);
-        EXPECT_TRUE(result.HasSucceeded()) << bytes;
-        EXPECT_TRUE(result.items.empty()) << bytes;
+        EXPECT_TRUE(result.has_value()) << bytes;
+        EXPECT_TRUE(result.value().items.empty()) << bytes;
     }
 }
 
@@ -148,12 +146,11 @@ TEST(FeedDocument, AWebPageIsNoFeed)
                               "<html><body><br>Please log in</body></html>"})
     {
         FeedParseResult const result = Parse(bytes);
-        EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::NotAFeed)) << bytes;
-        EXPECT_TRUE(result.items.empty());
+        EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedIsWebPage)) << bytes;
     }
-    EXPECT_EQ(Text(Parse("<html/>").error.sentence.English()),
+    EXPECT_EQ(Text(Parse("<html/>").error().sentence.English()),
               "Line 1 of the feed begins a web page instead of a feed.");
-    EXPECT_TRUE(Parse(Feed("<item><html/></item>")).HasSucceeded());
+    EXPECT_TRUE(Parse(Feed("<item><html/></item>")).has_value());
 }
 
 TEST(FeedDocument, TakesItemsWithoutAChannelAndNoItemOfAnItem)
@@ -221,7 +218,7 @@ TEST(FeedEncoding, OneThatIsWrongOrUnknownIsAnError)
     };
     for (Row const& row : rows)
     {
-        EXPECT_EQ(int(KindOf(row.bytes)), int(FeedErrorKind::Malformed)) << row.name;
+        EXPECT_EQ(int(KindOf(row.bytes)), int(ErrorCause::FeedMalformed)) << row.name;
     }
 }
 
@@ -251,9 +248,9 @@ TEST(FeedEncoding, BadUtf8IsRefusedWhereverItStands)
         {
             QByteArray const start = "<rss>\n" + QByteArray(before, 'x');
             FeedParseResult const result = Parse(start + row.sequence + "</rss>");
-            EXPECT_EQ(int(result.error.kind), int(FeedErrorKind::Malformed)) << row.name << before;
-            EXPECT_EQ(result.error.line, 2) << row.name << before;
-            EXPECT_EQ(result.error.column, before + 1) << row.name << before;
+            EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedMalformed)) << row.name << before;
+            EXPECT_EQ(result.error().line, 2) << row.name << before;
+            EXPECT_EQ(result.error().column, before + 1) << row.name << before;
         }
     }
 }
@@ -281,15 +278,15 @@ TEST(FeedNamespace, OnlyTheUriCountsWhateverThePrefix)
 {
     FeedParseResult const renamed = Parse(R"(<rss xmlns:x="http://www.andymatuschak.org/xml-namespaces/sparkle"><item>
         <x:version>1</x:version><enclosure url="a" x:edSignature="s" edSignature="t"/></item></rss>)");
-    ASSERT_EQ(renamed.items.size(), 1u);
-    EXPECT_EQ(Text(renamed.items[0].versionString), "1");
-    EXPECT_EQ(Text(renamed.items[0].edSignature), "s");
-    EXPECT_TRUE(renamed.items[0].properties.contains(QStringLiteral("sparkle:version")));
+    ASSERT_EQ(renamed.value().items.size(), 1u);
+    EXPECT_EQ(Text(renamed.value().items[0].versionString), "1");
+    EXPECT_EQ(Text(renamed.value().items[0].edSignature), "s");
+    EXPECT_TRUE(renamed.value().items[0].properties.contains(QStringLiteral("sparkle:version")));
 
     FeedParseResult const defaulted = Parse(R"(<rss><item><version
         xmlns="http://www.andymatuschak.org/xml-namespaces/sparkle">1</version></item></rss>)");
-    ASSERT_EQ(defaulted.items.size(), 1u);
-    EXPECT_EQ(Text(defaulted.items[0].versionString), "1");
+    ASSERT_EQ(defaulted.value().items.size(), 1u);
+    EXPECT_EQ(Text(defaulted.value().items[0].versionString), "1");
 }
 
 TEST(FeedNamespace, AnotherUriUnderTheUsualPrefixIsForeign)
@@ -298,8 +295,8 @@ TEST(FeedNamespace, AnotherUriUnderTheUsualPrefixIsForeign)
         <sparkle:version>1</sparkle:version><sparkle:criticalUpdate/><sparkle:minimumSystemVersion>99</sparkle:minimumSystemVersion>
         <enclosure url="A_7.zip" sparkle:version="2" sparkle:os="windows" sparkle:edSignature="s"/>
         <sparkle:deltas><enclosure url="a" sparkle:deltaFrom="1"/></sparkle:deltas></item></rss>)");
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.detail);
-    FeedItem const& item = result.items[0];
+    ASSERT_EQ(result.value().items.size(), 1u);
+    FeedItem const& item = result.value().items[0];
     EXPECT_EQ(Text(item.versionString), "7");
     EXPECT_FALSE(item.isCritical);
     EXPECT_TRUE(item.minimumSystemVersion.isEmpty());
@@ -314,9 +311,9 @@ TEST(FeedNamespace, APrefixMayBeBoundAgainInside)
     FeedParseResult const result =
         Parse(R"(<rss xmlns:s="u"><item xmlns:s="http://www.andymatuschak.org/xml-namespaces/sparkle">
         <s:version>1</s:version><s:shortVersionString xmlns:s="v">2</s:shortVersionString></item></rss>)");
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.detail);
-    EXPECT_EQ(Text(result.items[0].versionString), "1");
-    EXPECT_TRUE(result.items[0].displayVersionString.isEmpty());
+    ASSERT_EQ(result.value().items.size(), 1u);
+    EXPECT_EQ(Text(result.value().items[0].versionString), "1");
+    EXPECT_TRUE(result.value().items[0].displayVersionString.isEmpty());
 }
 
 TEST(FeedNamespace, ElementsOfRssHaveNone)

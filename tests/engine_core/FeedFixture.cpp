@@ -9,9 +9,9 @@ namespace Pelnar::Engine::Tests
 FeedItem OnlyItem(QByteArray const& content, FeedPlatform platform, QStringList const& languages)
 {
     FeedParseResult const result = Parse(Feed("<item>" + content + "</item>\n"), platform, {}, languages);
-    EXPECT_EQ(Text(result.error.sentence.English()), "");
-    EXPECT_EQ(result.items.size(), 1u);
-    return result.items.size() == 1 ? result.items.front() : FeedItem();
+    EXPECT_EQ(result ? "" : Text(result.error().sentence.English()), "");
+    EXPECT_TRUE(result && result->items.size() == 1u);
+    return result && result->items.size() == 1 ? result->items.front() : FeedItem();
 }
 
 } // namespace Pelnar::Engine::Tests

@@ -153,7 +153,7 @@ TEST(FeedPlatforms, TakesTheFirstEnclosureForThePlatformAndLeavesForeignItemsOut
     auto names = [&](FeedPlatform platform)
     {
         std::string text;
-        for (FeedItem const& item : Parse(Feed(items), platform).items)
+        for (FeedItem const& item : Parse(Feed(items), platform).value_or(FeedContent()).items)
         {
             text += Text(item.title) + "=" + Text(item.fileUrl.fileName()) + ";";
         }
@@ -259,8 +259,8 @@ TEST(FeedProperties, HoldEveryChildByItsQualifiedNameThenTheItemsAttributes)
             <twice>1</twice><twice>2</twice><twice a="3"/>
             <pelnar1_Element>value</pelnar1_Element><mixed>a<b>c</b>d<b/></mixed>
         </item></channel></rss>)");
-    ASSERT_EQ(result.items.size(), 1u) << Text(result.error.sentence.English()) << Text(result.error.detail);
-    QVariantMap const properties = result.items[0].properties;
+    ASSERT_EQ(result.value().items.size(), 1u);
+    QVariantMap const properties = result.value().items[0].properties;
     EXPECT_EQ(QStringList(properties.keys()).join(QLatin1Char(' ')).toStdString(),
               "dc:creator dc:x empty enclosure flat mixed noted pelnar1_Attribute pelnar1_Element sparkle:tags "
               "sparkle:version sparkle:z title twice");

@@ -110,6 +110,7 @@ TEST(FeedLength, IsExactUpToTheLargestNumberWhenTheLimitIsLifted)
     auto length = [&](QByteArray const& text)
     {
         return Parse(Feed("<item><enclosure url='a' length='" + text + "'/></item>"), FeedPlatform::MacOS, limits)
+            .value()
             .items.at(0)
             .contentLength;
     };

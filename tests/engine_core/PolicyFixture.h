@@ -30,8 +30,8 @@ inline FeedItem ItemWith(QByteArray const& elements, QByteArray const& attribute
                             "/></item></channel></rss>";
     Engine::FeedParseResult const result =
         Engine::ParseFeed(feed, QUrl(QStringLiteral("https://feeds.example.com/a.xml")), target);
-    EXPECT_EQ(result.items.size(), 1U) << feed.toStdString();
-    return result.items.empty() ? FeedItem() : result.items.front();
+    EXPECT_TRUE(result && result->items.size() == 1U) << feed.toStdString();
+    return result && !result->items.empty() ? result->items.front() : FeedItem();
 }
 
 inline QDateTime Moment(char const* text)

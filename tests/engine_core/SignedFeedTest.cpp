@@ -116,8 +116,8 @@ FeedChannel ChannelOf(QByteArray const& inChannel)
 {
     FeedParseResult const result =
         ParseFeed(FeedWith(inChannel), QUrl(QStringLiteral("https://feeds.example.com/a")), FeedPlatform::Linux);
-    EXPECT_TRUE(result.HasSucceeded());
-    return result.channel;
+    EXPECT_TRUE(result.has_value());
+    return result.value_or(FeedContent()).channel;
 }
 
 int CauseOfTerms(QByteArray const& inChannel)
@@ -182,8 +182,8 @@ TEST(FeedValidityTest, ItemsAreReadAsIfTheTermsWereNotThere)
     QByteArray const hidden = TermsOf("1", "").replace(">1<", ">" + ItemOf("5.3") + "<");
     FeedParseResult const result = ParseFeed(FeedWith(ItemOf("5.1") + hidden + ItemOf("5.2")),
                                              QUrl(QStringLiteral("https://feeds.example.com/a")), FeedPlatform::Linux);
-    ASSERT_EQ(result.items.size(), 3u);
-    EXPECT_EQ(result.items[1].versionString, QStringLiteral("5.3"));
+    ASSERT_EQ(result.value().items.size(), 3u);
+    EXPECT_EQ(result.value().items[1].versionString, QStringLiteral("5.3"));
 }
 
 QDateTime At(qint64 seconds)

@@ -122,15 +122,14 @@ std::map<QString, Sentence> EverySentence()
         EngineError const error = MakeError(cause);
         sentences.push_back(error.sentence);
         sentences.push_back(AsDownloadError(error).sentence);
+        if (char const* const line = EntryOf(cause).lineSentence)
+        {
+            sentences.push_back(Sentence(line, {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3")}));
+        }
     }
     for (UpdateFault const fault : EveryUpdateFault())
     {
         sentences.push_back(MakeFaultError(fault).sentence);
-    }
-    for (int kind = static_cast<int>(FeedErrorKind::Malformed); kind <= static_cast<int>(FeedErrorKind::TooMuchMarkup);
-         ++kind)
-    {
-        sentences.push_back(MakeFeedError(static_cast<FeedErrorKind>(kind), 1, 1, {}).sentence);
     }
     std::map<QString, Sentence> byText;
     for (Sentence const& sentence : sentences)

@@ -1,5 +1,5 @@
 #include "Engine/core/faults/EngineError.h"
-#include "Engine/core/feed/FeedError.h"
+#include "Engine/core/feed/FeedParser.h"
 #include "tests/support/EveryFault.h"
 
 #include <gtest/gtest.h>
@@ -87,14 +87,14 @@ TEST(EngineError, OfAStatusHasTheStatusAsItsNumberInADomainOfItsOwn)
 
 TEST(EngineError, OfAFeedHasTheNumberOfItsKind)
 {
-    for (FeedErrorKind const kind :
-         {FeedErrorKind::Malformed, FeedErrorKind::DocumentType, FeedErrorKind::TooDeep,
-          FeedErrorKind::TooManyAttributes, FeedErrorKind::TagTooLong, FeedErrorKind::TooManyItems,
-          FeedErrorKind::TooManyNamespaces, FeedErrorKind::TooMuchMarkup, FeedErrorKind::NotAFeed})
+    for (ErrorCause const cause :
+         {ErrorCause::FeedMalformed, ErrorCause::FeedDocumentType, ErrorCause::FeedTooDeep,
+          ErrorCause::FeedTooManyAttributes, ErrorCause::FeedTagTooLong, ErrorCause::FeedTooManyItems,
+          ErrorCause::FeedTooManyNamespaces, ErrorCause::FeedTooMuchMarkup, ErrorCause::FeedIsWebPage})
     {
         FeedParseError error;
-        error.kind = kind;
-        EXPECT_EQ(MakeFeedError(error).UnderlyingCode(), static_cast<int>(kind));
+        error.cause = cause;
+        EXPECT_EQ(MakeFeedError(error).UnderlyingCode(), static_cast<int>(cause));
         EXPECT_EQ(MakeFeedError(error).code, ErrorCode::AppcastParse);
     }
 }
@@ -102,7 +102,7 @@ TEST(EngineError, OfAFeedHasTheNumberOfItsKind)
 TEST(EngineError, UnreadableFeedSaysWhatToDoAndThenNamesTheLine)
 {
     FeedParseError error;
-    error.kind = FeedErrorKind::TooDeep;
+    error.cause = ErrorCause::FeedTooDeep;
     error.sentence = Sentence("Line %1 is %2.", {QStringLiteral("4"), QStringLiteral("%1")});
     EXPECT_EQ(MakeFeedError(error).sentence.English(),
               QStringLiteral("The update feed cannot be read. Contact the publisher. Line 4 is %1."));

@@ -1,7 +1,6 @@
 #include "Engine/core/check/CheckRun.h"
 
 #include "Engine/core/check/DelegateCall.h"
-#include "Engine/core/feed/FeedError.h"
 
 #include <QTimer>
 
@@ -169,22 +168,22 @@ Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
     }
     FeedParseResult result = ParseFeed(content, outcome.url, {m_settings.platform, m_settings.machine},
                                        m_settings.feedLimits, m_settings.languages);
-    if (!result.HasSucceeded())
+    if (!result)
     {
         // Many pages begin with a declaration that would otherwise be reported as another error.
-        return Failure(BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error));
+        return Failure(BeginsAsWebPage(content) ? MakeError(ErrorCause::FeedIsWebPage) : MakeFeedError(result.error()));
     }
     std::optional<FeedValidity> terms;
     if (mustBeSigned)
     {
-        auto judged = JudgeTerms(outcome, result.channel, now);
+        auto judged = JudgeTerms(outcome, result->channel, now);
         if (!judged)
         {
             return Failure(judged.error());
         }
         terms = *std::move(judged);
     }
-    m_items = std::move(result.items);
+    m_items = std::move(result->items);
     m_feedReach = outcome.reach;
     for (FeedItem& item : m_items)
     {

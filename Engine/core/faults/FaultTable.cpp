@@ -12,9 +12,11 @@ namespace
 
 constexpr std::array CAUSES = {
 #define PELNAR_CAUSE(name, number, code, blame, sentence)                                                              \
-    FaultEntry{number, #name, ErrorCode::code, Blame::blame, sentence, nullptr},
+    FaultEntry{number, #name, ErrorCode::code, Blame::blame, sentence},
 #define PELNAR_CAUSE_OF_BOTH(name, number, code, blame, sentence, download)                                            \
     FaultEntry{number, #name, ErrorCode::code, Blame::blame, sentence, download},
+#define PELNAR_CAUSE_IN_FEED(name, number, code, blame, sentence, line)                                                \
+    FaultEntry{number, #name, ErrorCode::code, Blame::blame, sentence, nullptr, line},
 #include "Engine/core/faults/ErrorCauses.def"
 };
 
@@ -22,7 +24,7 @@ constexpr int FIRST_FAULT = static_cast<int>(ErrorCause::Fault);
 
 constexpr std::array FAULTS = {
 #define PELNAR_FAULT(name, number, code, blame, sentence, what, mend)                                                  \
-    FaultEntry{FIRST_FAULT + (number), #name, ErrorCode::code, Blame::blame, sentence, nullptr},
+    FaultEntry{FIRST_FAULT + (number), #name, ErrorCode::code, Blame::blame, sentence},
 #include "Engine/core/faults/UpdateFaults.def"
 };
 

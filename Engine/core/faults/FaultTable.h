@@ -26,8 +26,9 @@ struct FaultEntry
     char const* name;
     ErrorCode code;
     Blame blame;
-    char const* sentence;         ///< for a person: what happened and what to do
-    char const* downloadSentence; ///< replaces it if an archive was fetched and not the feed; may be nullptr
+    char const* sentence;                   ///< for a person: what happened and what to do
+    char const* downloadSentence = nullptr; ///< replaces it if an archive was fetched and not the feed
+    char const* lineSentence = nullptr;     ///< follows it, and names the line of the feed
 };
 
 /// For a number without a row, the row of ErrorCause::Fault.

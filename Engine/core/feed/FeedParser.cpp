@@ -13,7 +13,7 @@ namespace
 {
 
 /// An error at a byte of \a utf8. Lines end as XML says: at a line feed, or at a carriage return without one.
-FeedParseError ErrorAt(FeedErrorKind kind, QByteArray const& utf8, int offset, FeedLimits const& limits)
+FeedParseError ErrorAt(ErrorCause cause, QByteArray const& utf8, int offset, int limit)
 {
     int line = 1;
     int lineStart = 0;
@@ -27,7 +27,7 @@ FeedParseError ErrorAt(FeedErrorKind kind, QByteArray const& utf8, int offset, F
         }
     }
     int const column = QString::fromUtf8(utf8.constData() + lineStart, offset - lineStart).size() + 1;
-    return MakeFeedError(kind, line, column, limits);
+    return MakeParseError(cause, line, column, limit);
 }
 
 bool IsWebPage(QXmlStreamReader const& reader)
@@ -110,14 +110,14 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         }
         if (walker.Depth() == 1 && IsWebPage(walker.Reader()))
         {
-            walker.Refuse(FeedErrorKind::NotAFeed);
+            walker.Refuse(ErrorCause::FeedIsWebPage);
         }
         // Deliberate: an item counts wherever it stands; published feeds leave the channel out.
         else if (IsItem(walker.Reader()))
         {
             if (++met > context.limits.maxItems)
             {
-                walker.Refuse(FeedErrorKind::TooManyItems);
+                walker.Refuse(ErrorCause::FeedTooManyItems, context.limits.maxItems);
             }
             else if (std::optional<FeedItem> item = ReadFeedItem(walker, context))
             {
@@ -132,29 +132,34 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
 FeedParseResult ParseFeed(QByteArray const& bytes, QUrl const& feedUrl, FeedTarget const& target,
                           FeedLimits const& limits, QStringList const& languages)
 {
-    FeedParseResult result;
     FeedDocument const document = DecodeFeed(bytes);
     if (!document.isDecodable)
     {
-        result.error = ErrorAt(FeedErrorKind::Malformed, bytes, document.badOffset, limits);
-        result.error.detail = QStringLiteral("The bytes are not text of the encoding that the feed is in.");
-        return result;
+        FeedParseError error = ErrorAt(ErrorCause::FeedMalformed, bytes, document.badOffset, 0);
+        error.detail = QStringLiteral("The bytes are not text of the encoding that the feed is in.");
+        return tl::unexpected(std::move(error));
     }
     FeedPrescanFinding const finding = PrescanFeed(document.utf8, limits);
-    if (finding.kind != FeedErrorKind::None)
+    if (finding.cause)
     {
-        result.error = ErrorAt(finding.kind, document.utf8, finding.offset, limits);
-        return result;
+        return tl::unexpected(ErrorAt(*finding.cause, document.utf8, finding.offset, finding.limit));
     }
     FeedWalker walker(document.utf8, document.text, limits);
-    FeedChannel channel;
-    std::vector<FeedItem> items =
-        ReadItems(walker, {feedUrl, target.platform, target.machine, limits, languages}, channel);
-    result.error = walker.Error();
-    if (result.HasSucceeded())
+    FeedContent content;
+    content.items = ReadItems(walker, {feedUrl, target.platform, target.machine, limits, languages}, content.channel);
+    if (walker.Error())
     {
-        result.items = std::move(items);
-        result.channel = std::move(channel);
+        return tl::unexpected(*walker.Error());
+    }
+    return content;
+}
+
+EngineError MakeFeedError(FeedParseError const& error)
+{
+    EngineError result = MakeError(error.cause, error.detail);
+    if (result.cause != ErrorCause::FeedIsWebPage)
+    {
+        result.sentence = result.sentence.FollowedBy(error.sentence);
     }
     return result;
 }

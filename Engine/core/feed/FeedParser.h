@@ -5,8 +5,7 @@
 // title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
 #pragma once
 
-#include "Engine/core/faults/ErrorCause.h"
-#include "Engine/core/faults/Sentence.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/feed/FeedItem.h"
 
 #include <QByteArray>
@@ -52,31 +51,16 @@ struct FeedLimits
     quint64 maxContentLength = quint64(16) << 30; ///< bytes; a longer download counts as a length that is too large
 };
 
-/// The numbers are those of the causes.
-enum class FeedErrorKind
-{
-    None = 0,
-    /// Not well-formed XML, bytes that are not of its encoding, or text after the root element.
-    Malformed = static_cast<int>(ErrorCause::FeedMalformed),
-    DocumentType = static_cast<int>(ErrorCause::FeedDocumentType),
-    TooDeep = static_cast<int>(ErrorCause::FeedTooDeep),
-    TooManyAttributes = static_cast<int>(ErrorCause::FeedTooManyAttributes),
-    TagTooLong = static_cast<int>(ErrorCause::FeedTagTooLong),
-    TooManyItems = static_cast<int>(ErrorCause::FeedTooManyItems),
-    TooManyNamespaces = static_cast<int>(ErrorCause::FeedTooManyNamespaces),
-    /// A web page, such as a login page that a network serves in the feed's place.
-    NotAFeed = static_cast<int>(ErrorCause::FeedIsWebPage),
-    TooMuchMarkup = static_cast<int>(ErrorCause::FeedTooMuchMarkup),
-};
-
 struct FeedParseError
 {
-    FeedErrorKind kind = FeedErrorKind::None;
-    int line = 0;      ///< from 1
-    int column = 0;    ///< from 1
+    ErrorCause cause = ErrorCause::FeedMalformed; ///< one of the feed's bytes
+    int line = 0;                                 ///< from 1
+    int column = 0;                               ///< from 1
     Sentence sentence; ///< one sentence that names the line and says what is wrong; no byte of the feed stands in it
-    QString detail;    ///< the XML reader's own words for Malformed, else empty
+    QString detail;    ///< the XML reader's own words for FeedMalformed, else empty
 };
+/// \a error as that of a check.
+EngineError MakeFeedError(FeedParseError const& error);
 
 /// What the channel says of the feed itself, in elements of OWN_FEED_NAMESPACE; docs/formats/signed-feed.md.
 struct FeedChannel
@@ -88,14 +72,12 @@ struct FeedChannel
 /// Of the elements that are this system's own.
 constexpr char OWN_FEED_NAMESPACE[] = "https://pelnar.example/xml-namespaces/appcast";
 
-struct FeedParseResult
+struct FeedContent
 {
-    FeedParseError error;        ///< kind is None on success
-    std::vector<FeedItem> items; ///< in the order of the feed; empty on error
+    std::vector<FeedItem> items; ///< in the order of the feed
     FeedChannel channel;
-
-    [[nodiscard]] bool HasSucceeded() const { return error.kind == FeedErrorKind::None; }
 };
+using FeedParseResult = tl::expected<FeedContent, FeedParseError>;
 
 /// Parses \a bytes, whole, in time linear in their number. Relative addresses resolve against \a feedUrl. An item whose
 /// enclosures all name other platforms is left out. Of several for the platform the first for the machine is taken,

@@ -149,7 +149,8 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
         {
             // Any other declaration is one of a document type, or not well-formed.
             bool const isDocumentType = StartsWith(rest, "<!DOCTYPE"sv);
-            return {isDocumentType ? FeedErrorKind::DocumentType : FeedErrorKind::None, static_cast<int>(at)};
+            return isDocumentType ? FeedPrescanFinding{ErrorCause::FeedDocumentType, static_cast<int>(at), 0}
+                                  : FeedPrescanFinding();
         }
         else
         {
@@ -162,11 +163,11 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
             Tag const tag = ScanTag(text, at, limits);
             if (tag.attributes > limits.maxAttributes)
             {
-                return {FeedErrorKind::TooManyAttributes, static_cast<int>(at)};
+                return {ErrorCause::FeedTooManyAttributes, static_cast<int>(at), limits.maxAttributes};
             }
             if (tag.isTooLong)
             {
-                return {FeedErrorKind::TagTooLong, static_cast<int>(at)};
+                return {ErrorCause::FeedTagTooLong, static_cast<int>(at), limits.maxTagBytes};
             }
             at = tag.end;
         }

@@ -5,13 +5,16 @@
 
 #include "Engine/core/feed/FeedParser.h"
 
+#include <optional>
+
 namespace Pelnar::Engine
 {
 
 struct FeedPrescanFinding
 {
-    FeedErrorKind kind = FeedErrorKind::None; ///< DocumentType, TooManyAttributes, TagTooLong or None
-    int offset = 0;                           ///< of the "<"
+    std::optional<ErrorCause> cause; ///< FeedDocumentType, FeedTooManyAttributes, FeedTagTooLong or nothing
+    int offset = 0;                  ///< of the "<"
+    int limit = 0;                   ///< that is exceeded
 };
 
 /// The first refusal in \a utf8. Knows tags, comments, CDATA sections and processing instructions; what is not

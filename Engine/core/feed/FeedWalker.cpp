@@ -35,53 +35,6 @@ QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qu
     return qualifiedName.toString();
 }
 
-/// It names the line first.
-Sentence SentenceOf(FeedErrorKind kind, int line, FeedLimits const& limits)
-{
-    QString const lineText = QString::number(line);
-    switch (kind)
-    {
-    case FeedErrorKind::None:
-        return {};
-    case FeedErrorKind::Malformed:
-        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed is not well-formed XML."),
-                        {lineText});
-    case FeedErrorKind::DocumentType:
-        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                          "Line %1 of the feed has a document type declaration, which is not allowed."),
-                        {lineText});
-    case FeedErrorKind::TooDeep:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed nests elements more than %2 levels deep."),
-            {lineText, QString::number(limits.maxDepth)});
-    case FeedErrorKind::TooManyAttributes:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has a tag with more than %2 attributes."),
-            {lineText, QString::number(limits.maxAttributes)});
-    case FeedErrorKind::TagTooLong:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has a tag of more than %2 bytes."),
-            {lineText, QString::number(limits.maxTagBytes)});
-    case FeedErrorKind::TooMuchMarkup:
-        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                          "Line %1 of the feed exceeds the limit of %2 elements and attributes."),
-                        {lineText, QString::number(limits.maxMarkup)});
-    case FeedErrorKind::TooManyItems:
-        return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors",
-                                          "Line %1 of the feed has item number %2, but only %3 are allowed."),
-                        {lineText, QString::number(limits.maxItems + 1), QString::number(limits.maxItems)});
-    case FeedErrorKind::TooManyNamespaces:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has more than %2 namespaces declared."),
-            {lineText, QString::number(limits.maxNamespaces)});
-    case FeedErrorKind::NotAFeed:
-        return Sentence(
-            QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed begins a web page instead of a feed."),
-            {lineText});
-    }
-    return Sentence(QT_TRANSLATE_NOOP("PelnarEngine_Errors", "Line %1 of the feed has an unknown error."), {lineText});
-}
-
 } // namespace
 
 bool IsFeedNamespace(QStringRef namespaceUri)
@@ -89,14 +42,11 @@ bool IsFeedNamespace(QStringRef namespaceUri)
     return IsEqual(FEED_NAMESPACE, namespaceUri);
 }
 
-FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimits const& limits)
+FeedParseError MakeParseError(ErrorCause cause, int line, int column, int limit)
 {
-    FeedParseError error;
-    error.kind = kind;
-    error.line = line;
-    error.column = column;
-    error.sentence = SentenceOf(kind, line, limits);
-    return error;
+    Sentence const sentence(EntryOf(cause).lineSentence,
+                            {QString::number(line), QString::number(limit), QString::number(limit + 1)});
+    return {cause, line, column, sentence, {}};
 }
 
 FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits const& documentLimits)
@@ -115,7 +65,7 @@ FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits c
 
 QXmlStreamReader::TokenType FeedWalker::Advance()
 {
-    if (error.kind != FeedErrorKind::None)
+    if (error)
     {
         return QXmlStreamReader::Invalid;
     }
@@ -125,13 +75,13 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
     case QXmlStreamReader::Invalid:
         if (reader.hasError())
         {
-            Refuse(FeedErrorKind::Malformed);
+            Refuse(ErrorCause::FeedMalformed);
             // The reader quotes the character that it met.
-            error.detail = CleanFeedText(reader.errorString(), FeedTextKind::SingleLine);
+            error->detail = CleanFeedText(reader.errorString(), FeedTextKind::SingleLine);
         }
         break;
     case QXmlStreamReader::DTD:
-        Refuse(FeedErrorKind::DocumentType);
+        Refuse(ErrorCause::FeedDocumentType);
         break;
     case QXmlStreamReader::StartElement:
         ++depth;
@@ -150,8 +100,8 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
             reader.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) != 0)
         {
             // What the reader would see from here on is not what was scanned.
-            Refuse(FeedErrorKind::Malformed);
-            error.detail = QStringLiteral("The XML declaration is ambiguous.");
+            Refuse(ErrorCause::FeedMalformed);
+            error->detail = QStringLiteral("The XML declaration is ambiguous.");
         }
         break;
     case QXmlStreamReader::NoToken:
@@ -162,14 +112,14 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
     case QXmlStreamReader::ProcessingInstruction:
         break;
     }
-    return error.kind == FeedErrorKind::None ? token : QXmlStreamReader::Invalid;
+    return error ? QXmlStreamReader::Invalid : token;
 }
 
 void FeedWalker::CheckStart()
 {
     if (depth > limits.maxDepth)
     {
-        Refuse(FeedErrorKind::TooDeep);
+        Refuse(ErrorCause::FeedTooDeep, limits.maxDepth);
         return;
     }
     int const attributes = reader.attributes().size();
@@ -177,7 +127,7 @@ void FeedWalker::CheckStart()
     markup += 1 + attributes;
     if (markup > limits.maxMarkup)
     {
-        Refuse(FeedErrorKind::TooMuchMarkup);
+        Refuse(ErrorCause::FeedTooMuchMarkup, limits.maxMarkup);
         return;
     }
     int const declared = reader.namespaceDeclarations().size();
@@ -187,7 +137,7 @@ void FeedWalker::CheckStart()
         namespacesByDepth.emplace_back(depth, declared);
         if (namespacesInScope > limits.maxNamespaces)
         {
-            Refuse(FeedErrorKind::TooManyNamespaces);
+            Refuse(ErrorCause::FeedTooManyNamespaces, limits.maxNamespaces);
         }
     }
 }
@@ -227,9 +177,9 @@ bool FeedWalker::EnterChild(QString* text)
     }
 }
 
-void FeedWalker::Refuse(FeedErrorKind kind)
+void FeedWalker::Refuse(ErrorCause cause, int limit)
 {
-    error = MakeFeedError(kind, Line(), Column(), limits);
+    error = MakeParseError(cause, Line(), Column(), limit);
 }
 
 QString const& FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)

@@ -6,6 +6,7 @@
 
 #include <QXmlStreamReader>
 
+#include <optional>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -22,10 +23,10 @@ public:
     /// Steps into the next child element of the one entered last, or past its end: then false. Text directly inside is
     /// appended to \a text, if there is one.
     [[nodiscard]] bool EnterChild(QString* text = nullptr);
-    /// Refuses the document at the place reached.
-    void Refuse(FeedErrorKind kind);
+    /// Refuses the document at the place reached, which exceeds \a limit.
+    void Refuse(ErrorCause cause, int limit = 0);
 
-    [[nodiscard]] FeedParseError const& Error() const { return error; }
+    [[nodiscard]] std::optional<FeedParseError> const& Error() const { return error; }
     [[nodiscard]] QXmlStreamReader const& Reader() const { return reader; }
     [[nodiscard]] int Depth() const { return depth; }
     /// Of the tag just entered. Asking is cheap, the attributes themselves are not.
@@ -50,7 +51,7 @@ private:
     QXmlStreamReader reader;
     FeedLimits const& limits;
     bool isUtf8; ///< what was scanned and what is read are the same bytes
-    FeedParseError error;
+    std::optional<FeedParseError> error;
     int depth = 0;
     int markup = 0; ///< elements and attributes so far
     bool hasAttributes = false;
@@ -61,8 +62,8 @@ private:
     QString otherName;       ///< the last one that found no room among them
 };
 
-/// An error of \a kind at a place, with its sentence.
-[[nodiscard]] FeedParseError MakeFeedError(FeedErrorKind kind, int line, int column, FeedLimits const& limits);
+/// An error at a place, with its sentence. \a limit is what the feed exceeds, if there is a limit.
+[[nodiscard]] FeedParseError MakeParseError(ErrorCause cause, int line, int column, int limit);
 
 /// Whether \a namespaceUri is the feed's own.
 [[nodiscard]] bool IsFeedNamespace(QStringRef namespaceUri);

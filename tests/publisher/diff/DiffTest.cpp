@@ -48,6 +48,7 @@ std::vector<Engine::FeedItem> ItemsOf(QByteArray const& items)
 {
     return Engine::ParseFeed(FeedOf(items), QUrl(QStringLiteral("https://a.example/appcast.xml")),
                              Engine::FeedPlatform::Linux)
+        .value()
         .items;
 }
 

@@ -106,9 +106,9 @@ TEST(ExplainAgreement, TheToolChoosesWhatTheShippedUpdaterChooses)
         QByteArray const bytes = generator.Feed();
         Engine::FeedParseResult const feed = Engine::ParseFeed(
             bytes, QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")), Engine::FeedPlatform::MacOS);
-        ASSERT_TRUE(feed.HasSucceeded()) << bytes.toStdString();
-        Publisher::FeedChoice const choice = Publisher::ChooseFromFeed(feed.items, client);
-        std::optional<ShippedChoice> const shipped = ChooseFromFeed(feed.items, client.localVersion);
+        ASSERT_TRUE(feed.has_value()) << bytes.toStdString();
+        Publisher::FeedChoice const choice = Publisher::ChooseFromFeed(feed.value().items, client);
+        std::optional<ShippedChoice> const shipped = ChooseFromFeed(feed.value().items, client.localVersion);
         ASSERT_EQ(Text(choice.chosen), Text(shipped)) << bytes.toStdString();
         if (choice.chosen)
         {
@@ -132,7 +132,7 @@ TEST(ExplainAgreement, OneReadingOfAFeedServesManyClients)
         QByteArray const bytes = generator.Feed();
         Engine::FeedParseResult const feed = Engine::ParseFeed(
             bytes, QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")), Engine::FeedPlatform::MacOS);
-        Publisher::FeedChooser chooser(feed.items);
+        Publisher::FeedChooser chooser(feed.value().items);
         for (Core::Version const& system :
              {Core::Version(12, 3), Core::Version(), Core::Version(10), Core::Version(13)})
         {
@@ -140,7 +140,7 @@ TEST(ExplainAgreement, OneReadingOfAFeedServesManyClients)
                  {Core::Version(5, 0), Core::Version(4), Core::Version(5, 1), Core::Version(6)})
             {
                 Publisher::Client const client{local, system};
-                Engine::FeedItem const* const chosen = Publisher::ChooseFromFeed(feed.items, client).chosen;
+                Engine::FeedItem const* const chosen = Publisher::ChooseFromFeed(feed.value().items, client).chosen;
                 ASSERT_EQ(Text(chooser.Answer(client).chosen), Text(chosen)) << bytes.toStdString();
                 ASSERT_EQ(Text(chooser.Choose(client).chosen), Text(chosen)) << bytes.toStdString();
                 updates += chosen ? 1 : 0;

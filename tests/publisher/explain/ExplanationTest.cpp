@@ -22,9 +22,9 @@ public:
                                        items + "</channel></rss>",
                                    QUrl(QStringLiteral("https://feeds.example.com/appcast.xml")),
                                    Engine::FeedPlatform::Linux))
-        , m_explanation(ExplainFeed(m_feed.items, client, installation))
+        , m_explanation(ExplainFeed(m_feed.value().items, client, installation))
     {
-        EXPECT_TRUE(m_feed.HasSucceeded()) << m_feed.error.sentence.English().toStdString();
+        EXPECT_TRUE(m_feed.has_value()) << m_feed.error().sentence.English().toStdString();
     }
 
     Explanation const& Get() const { return m_explanation; }

@@ -221,6 +221,7 @@ struct Case
         , client{Util::VersionFromString(localText, QStringLiteral(".")), Core::Version(12, 3)}
         , items(Engine::ParseFeed(bytes, QUrl(QStringLiteral("https://feeds.example.com/a.xml")),
                                   {Engine::FeedPlatform::Linux, installation.machine})
+                    .value()
                     .items)
     {
         if (source == KeySource::Bundle)

@@ -188,6 +188,7 @@ TEST(Generate, NotesInALanguageBecomeADescriptionInIt)
     auto const shown = [&](char const* language)
     {
         return Text(Engine::ParseFeed(feed, QUrl(), FeedPlatform::Linux, {}, {QLatin1String(language)})
+                        .value()
                         .items.at(0)
                         .description);
     };

@@ -177,8 +177,8 @@ std::vector<Engine::FeedItem> PublisherFolder::Items(Engine::FeedPlatform platfo
     Engine::FeedParseResult feed =
         Engine::ParseFeed(QByteArray::fromStdString(ContentOf("appcast.xml")),
                           QUrl(QStringLiteral("https://updates.example.com/test/appcast.xml")), platform);
-    EXPECT_TRUE(feed.HasSucceeded()) << feed.error.sentence.English().toStdString();
-    return std::move(feed.items);
+    EXPECT_TRUE(feed.has_value()) << feed.error().sentence.English().toStdString();
+    return std::move(feed.value().items);
 }
 
 ToolRun MakeGivenDelta(PublisherFolder const& folder, char const* from, char const* to)

@@ -23,7 +23,7 @@ qint64 SerialOf(std::string const& feed)
 {
     Engine::FeedParseResult const parsed =
         Engine::ParseFeed(QByteArray::fromStdString(feed), QUrl(), Engine::FeedPlatform::Linux);
-    auto const said = Engine::ReadFeedValidity(parsed.channel);
+    auto const said = Engine::ReadFeedValidity(parsed.value().channel);
     EXPECT_TRUE(said) << feed;
     return said ? said->serial : 0;
 }

@@ -79,8 +79,8 @@ protected:
         }
         believed.content = *verified;
         Engine::FeedParseResult const parsed = Engine::ParseFeed(believed.content, QUrl(), Engine::FeedPlatform::Linux);
-        EXPECT_TRUE(parsed.HasSucceeded());
-        auto const said = Engine::ReadFeedValidity(parsed.channel);
+        EXPECT_TRUE(parsed.has_value());
+        auto const said = Engine::ReadFeedValidity(parsed.value().channel);
         EXPECT_TRUE(said) << feed.toStdString();
         believed.terms = said.value_or(Engine::FeedValidity());
         return believed;

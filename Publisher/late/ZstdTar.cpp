@@ -42,6 +42,8 @@ public:
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_windowLog, WINDOW_LOG);
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_enableLongDistanceMatching, 1);
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_checksumFlag, 1);
+        // Without this a thread takes four windows, and a bundle is packed by one.
+        ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_jobSize, 1 << WINDOW_LOG);
         // The number of threads does not change the bytes, unless it is 0. A library without threads refuses it.
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_nbWorkers,
                                static_cast<int>(std::max(1u, std::thread::hardware_concurrency())));

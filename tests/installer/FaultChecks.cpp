@@ -1,10 +1,13 @@
 #include "tests/installer/FaultChecks.h"
 
 #include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/delta/DeltaMaker.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <fstream>
+#include <iterator>
 
 #include <fcntl.h>
 
@@ -23,6 +26,21 @@ ContentHash TreeOf(std::string const& path)
 {
     UniqueFd const folder(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     return folder ? Engine::DigestTree(folder.Get()) : ContentHash{};
+}
+
+std::string DeltaToTheNextVersion()
+{
+    Workspace const old;
+    Workspace const fresh;
+    old.Put(MakeBundle("1.0"));
+    fresh.Put(MakeBundle("2.0"));
+    std::string const path = old.Path() + "/delta";
+    UniqueFd const container(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
+    Engine::DeltaReport const report =
+        Engine::MakeDelta(old.Path() + '/' + APP, "1.0", fresh.Path() + '/' + APP, "2.0", container.Get());
+    EXPECT_TRUE(report.outcome.HasSucceeded());
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), {}};
 }
 
 Versions::Versions()

@@ -15,6 +15,9 @@ bool IsEveryPlaceWanted();
 /// The hash of the tree of the folder at \a path; of nothing when there is none.
 Engine::ContentHash TreeOf(std::string const& path);
 
+/// The delta from the installed version to the next one.
+std::string DeltaToTheNextVersion();
+
 /// The trees of both versions, as they are when whole.
 struct Versions
 {

@@ -61,24 +61,41 @@ void UntilKilled(Place const& place, std::vector<std::string> const& options, At
     EXPECT_TRUE(IS_SANITIZED && place.call == "read" && !wasReached) << "no process was killed";
 }
 
-TEST(Faults, PreparationKilledAnywhereHarmsNothing)
+PrepareJob JobOf(UpdateScene const& scene, PayloadKind kind)
+{
+    PrepareJob job = scene.MakePrepareJob();
+    job.kind = kind;
+    return job;
+}
+
+void SweepPreparation(std::string const& archive, PayloadKind kind)
 {
     Versions const versions;
-    UpdateScene traced;
-    std::vector<Place> const places =
-        PlacesOf({}, [&](HelperStart const& start) { traced.Prepare(traced.MakePrepareJob(), start); });
+    UpdateScene traced(archive);
+    std::vector<Place> const places = PlacesOf(
+        {}, [&](HelperStart const& start) { EXPECT_EQ(traced.Prepare(JobOf(traced, kind), start).exitStatus, 0); });
     for (Place const& place : places)
     {
         UntilKilled(place, {},
                     [&](Traced const& killed)
                     {
-                        UpdateScene scene;
-                        HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), killed.Start());
+                        UpdateScene scene(archive);
+                        HelperOutcome const outcome = scene.Prepare(JobOf(scene, kind), killed.Start());
                         EXPECT_EQ(outcome.signal, killed.Kills() > 0 ? SIGKILL : 0);
                         EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
                         ExpectRecovered(scene, versions);
                     });
     }
+}
+
+TEST(Faults, PreparationKilledAnywhereHarmsNothing)
+{
+    SweepPreparation(MakeArchive(Container::Zip, MakeBundle("2.0")), PayloadKind::WholeBundle);
+}
+
+TEST(Faults, PreparationByADeltaKilledAnywhereHarmsNothing)
+{
+    SweepPreparation(DeltaToTheNextVersion(), PayloadKind::Delta);
 }
 
 void SweepInstallation(std::vector<std::string> const& options)

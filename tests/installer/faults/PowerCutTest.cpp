@@ -107,6 +107,7 @@ protected:
         return tree;
     }
     Versions const versions;
+    std::string archive = MakeArchive(Container::Zip, MakeBundle("2.0"));
 
     /// The bundle may be missing until the helper has recovered it.
     void AllowMissing() { m_isMissingAllowed = true; }
@@ -123,7 +124,7 @@ private:
         ASSERT_TRUE(disk.IsMounted());
         m_isNewCertain = false;
         std::optional<UpdateScene> scene;
-        scene.emplace(MakeArchive(Container::Zip, MakeBundle("2.0")), disk.Point());
+        scene.emplace(archive, disk.Point());
         prepareScene(*scene);
         ::syncfs(scene->Place().Descriptor());
         std::string const placeBelow = scene->Place().Path().substr(disk.Point().size());
@@ -210,6 +211,18 @@ TEST_P(PowerCut, AnywhereInThePreparationHarmsNothing)
 {
     CutEverywhere([](UpdateScene&) {}, [](UpdateScene& scene, HelperStart const& start)
                   { EXPECT_EQ(scene.Prepare(scene.MakePrepareJob(), start).exitStatus, 0); });
+}
+
+TEST_P(PowerCut, AnywhereInThePreparationByADeltaHarmsNothing)
+{
+    archive = DeltaToTheNextVersion();
+    CutEverywhere([](UpdateScene&) {},
+                  [](UpdateScene& scene, HelperStart const& start)
+                  {
+                      PrepareJob job = scene.MakePrepareJob();
+                      job.kind = PayloadKind::Delta;
+                      EXPECT_EQ(scene.Prepare(job, start).exitStatus, 0);
+                  });
 }
 
 TEST_P(PowerCut, AnywhereInTheInstallationLeavesOneOfTheVersions)

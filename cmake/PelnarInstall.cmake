@@ -39,6 +39,7 @@ install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDE
     PATTERN "PelnarSparkle*" EXCLUDE
     PATTERN "Choice" EXCLUDE
     PATTERN "SessionLibrary" EXCLUDE
+    PATTERN "RunningBox.h" EXCLUDE
     PATTERN "SessionDialogs.h" EXCLUDE
     PATTERN "RelaunchLimits.h" EXCLUDE
     PATTERN "UpdateFiles.h" EXCLUDE

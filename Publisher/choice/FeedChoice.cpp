@@ -235,69 +235,64 @@ private:
 
 } // namespace
 
-class FeedChooser::Impl
+struct FeedChooser::Data
 {
-public:
-    Impl(std::vector<FeedItem> const& items, Engine::Installation installation);
-
-    FeedChoice Choose(Client const& client);
-    FeedChoice Answer(Client const& client);
-
-private:
     /// Those who run this system and trust the keys with these ids.
     using Clients = std::pair<Core::Version, QStringList>;
 
     QStringList const& TrustedBy(Core::Version const& version) const;
     FullItems const& WithinReach(Clients const& clients);
 
-    Engine::Installation const m_installation;
-    std::deque<FullItem> m_items; ///< but for those that are left out for every version
-    FullItems m_newestFirst;
-    std::map<Core::Version, QStringList> m_trusted; ///< ids of keys, by the versions that trust them
-    std::map<Clients, FullItems> m_withinReach;
-    std::pair<Clients const, FullItems> const* m_lastReach = nullptr;
+    Engine::Installation const installation;
+    std::deque<FullItem> items; ///< but for those that are left out for every version
+    FullItems newestFirst;
+    std::map<Core::Version, QStringList> trusted; ///< ids of keys, by the versions that trust them
+    std::map<Clients, FullItems> withinReach;
+    std::pair<Clients const, FullItems> const* lastReach = nullptr;
 };
 
-FeedChooser::Impl::Impl(std::vector<FeedItem> const& items, Engine::Installation installation)
-    : m_installation(std::move(installation))
+FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
+    : m_data(new Data{std::move(installation), {}, {}, {}, {}})
 {
-    Engine::Installation withoutKeys = m_installation;
+    Engine::Installation withoutKeys = m_data->installation;
     withoutKeys.trustedKeys.clear();
     for (FeedItem const& item : items)
     {
         if (Engine::DependsOnVersion(item) || !Engine::IsLeftOut(PolicyOf(item, withoutKeys)))
         {
-            m_newestFirst.push_back(&m_items.emplace_back(item, m_installation));
+            m_data->newestFirst.push_back(&m_data->items.emplace_back(item, m_data->installation));
         }
         Core::Version const version =
             item.trustedKeys.isEmpty() ? Core::Version() : VersionFromStringNoexcept(item.versionString);
         if (version.IsValid())
         {
-            m_trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
+            m_data->trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
         }
     }
-    std::stable_sort(m_newestFirst.begin(), m_newestFirst.end(),
+    std::stable_sort(m_data->newestFirst.begin(), m_data->newestFirst.end(),
                      [](FullItem* a, FullItem* b)
                      { return IsOlderVersion(b->candidate.Version(), a->candidate.Version()); });
 }
 
-QStringList const& FeedChooser::Impl::TrustedBy(Core::Version const& version) const
+FeedChooser::~FeedChooser() = default;
+
+QStringList const& FeedChooser::Data::TrustedBy(Core::Version const& version) const
 {
-    auto const known = m_installation.trustedKeys.isEmpty() ? m_trusted.find(WholeVersionOf(version)) : m_trusted.end();
-    return known != m_trusted.end() ? known->second : m_installation.trustedKeys;
+    auto const known = installation.trustedKeys.isEmpty() ? trusted.find(WholeVersionOf(version)) : trusted.end();
+    return known != trusted.end() ? known->second : installation.trustedKeys;
 }
 
 /// What some of \a clients may be offered, the newest first, down to the first version that is left out for none of
 /// them. Nothing older can win, because the newer version is preferred before anything else is compared.
-FullItems const& FeedChooser::Impl::WithinReach(Clients const& clients)
+FullItems const& FeedChooser::Data::WithinReach(Clients const& clients)
 {
-    if (m_lastReach && m_lastReach->first == clients)
+    if (lastReach && lastReach->first == clients)
     {
-        return m_lastReach->second;
+        return lastReach->second;
     }
-    auto const [reach, isNew] = m_withinReach.try_emplace(clients);
+    auto const [reach, isNew] = withinReach.try_emplace(clients);
     Candidate* certain = nullptr;
-    for (auto each = m_newestFirst.begin(); isNew && each != m_newestFirst.end(); ++each)
+    for (auto each = newestFirst.begin(); isNew && each != newestFirst.end(); ++each)
     {
         Candidate& candidate = (*each)->candidate;
         if (certain && IsOlderVersion(candidate.Version(), certain->Version()))
@@ -312,15 +307,15 @@ FullItems const& FeedChooser::Impl::WithinReach(Clients const& clients)
             certain = isTrusted && !(*each)->dependsOnVersion ? &candidate : certain;
         }
     }
-    m_lastReach = &*reach;
+    lastReach = &*reach;
     return reach->second;
 }
 
-FeedChoice FeedChooser::Impl::Choose(Client const& client)
+FeedChoice FeedChooser::Choose(Client const& client)
 {
-    ClientPolicy policy(client, m_installation, TrustedBy(client.localVersion));
+    ClientPolicy policy(client, m_data->installation, m_data->TrustedBy(client.localVersion));
     FullItems kept;
-    for (FullItem& full : m_items)
+    for (FullItem& full : m_data->items)
     {
         if (!policy.IsLeftOut(full))
         {
@@ -330,15 +325,15 @@ FeedChoice FeedChooser::Impl::Choose(Client const& client)
     return FeedContest(kept, client, policy).Run();
 }
 
-FeedChoice FeedChooser::Impl::Answer(Client const& client)
+FeedChoice FeedChooser::Answer(Client const& client)
 {
-    QStringList const& trustedKeys = TrustedBy(client.localVersion);
-    FullItems const& reach = WithinReach({client.systemVersion, trustedKeys});
+    QStringList const& trustedKeys = m_data->TrustedBy(client.localVersion);
+    FullItems const& reach = m_data->WithinReach({client.systemVersion, trustedKeys});
     if (reach.empty() || !IsOlderVersion(client.localVersion, reach.front()->candidate.Version()))
     {
         return {};
     }
-    ClientPolicy policy(client, m_installation, trustedKeys);
+    ClientPolicy policy(client, m_data->installation, trustedKeys);
     FullItems finalists;
     for (FullItem* const full : reach)
     {
@@ -352,23 +347,6 @@ FeedChoice FeedChooser::Impl::Answer(Client const& client)
         }
     }
     return FeedContest(finalists, client, policy).Run();
-}
-
-FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
-    : m_impl(std::make_unique<Impl>(items, std::move(installation)))
-{
-}
-
-FeedChooser::~FeedChooser() = default;
-
-FeedChoice FeedChooser::Choose(Client const& client)
-{
-    return m_impl->Choose(client);
-}
-
-FeedChoice FeedChooser::Answer(Client const& client)
-{
-    return m_impl->Answer(client);
 }
 
 FeedChoice ChooseFromFeed(std::vector<FeedItem> const& items, Client const& client,

@@ -49,8 +49,8 @@ public:
     FeedChoice Answer(Client const& client);
 
 private:
-    class Impl;
-    std::unique_ptr<Impl> m_impl;
+    struct Data;
+    std::unique_ptr<Data> m_data;
 };
 
 /// The choice of one client: see FeedChooser::Choose.

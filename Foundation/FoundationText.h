@@ -1,5 +1,5 @@
 // FoundationText.h: converts text and addresses between Qt and Foundation.
-// Thread: any. Ownership: returned Foundation objects are autoreleased, so the caller needs a pool. Objective-C++ only.
+// Ownership: returned Foundation objects are autoreleased, so the caller needs a pool. Objective-C++ only.
 #pragma once
 
 #if !defined(__OBJC__)

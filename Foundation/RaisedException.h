@@ -1,6 +1,6 @@
 // RaisedException.h: the one place that catches exceptions raised by Foundation code.
-// Thread: any. C++ and Objective-C++. Only Objective-C++ can catch an Objective-C exception, and only C++ can catch a
-// C++ exception; with GNUstep a C++ `catch` in an Objective-C++ file ends the process. This helper converts the first
+// C++ and Objective-C++. Only Objective-C++ can catch an Objective-C exception, and only C++ can catch a C++
+// exception; with GNUstep a C++ `catch` in an Objective-C++ file ends the process. This helper converts the first
 // kind for C++ and lets the second pass through.
 #pragma once
 

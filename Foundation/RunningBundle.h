@@ -1,5 +1,5 @@
 // RunningBundle.h: whether the running program is the executable of an application bundle. Plain C++.
-// Thread: any. It uses only the file system, so that Foundation need not be in use yet.
+// It uses only the file system, so that Foundation need not be in use yet.
 #pragma once
 
 #include <QString>

@@ -5,7 +5,7 @@
 //     auto const detail = VersionToStringDetail::PresentComponents;
 //     QString const name = VersionToString(version, detail, QStringLiteral("_")); // "5_10"
 //
-// Thread: any. The host framework provides the definitions.
+// The host framework provides the definitions.
 #pragma once
 
 #include "HostFramework/Version.h"

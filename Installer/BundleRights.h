@@ -1,5 +1,4 @@
 // BundleRights.h: copies the access rights of the installed bundle to its replacement.
-// Thread: any. Ownership: callers own their descriptors.
 #pragma once
 
 #include <string>

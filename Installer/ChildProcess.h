@@ -1,5 +1,5 @@
 // ChildProcess.h: starts a program, and waits for a process's end.
-// Thread: any. Ownership: callers own their descriptors; a started process is the caller's child.
+// Ownership: callers own their descriptors; a started process is the caller's child.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // Confinement.h: restricts the rights of the running process permanently.
-// Thread: the process's only one; irrevocable. Ownership: callers own their descriptors.
+// Thread: the process's only one; irrevocable.
 #pragma once
 
 #include <vector>

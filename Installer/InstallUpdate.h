@@ -1,6 +1,5 @@
 // InstallUpdate.h: the helper's second half: from a prepared bundle and an ended host to a running new version.
-// Thread: the process's only one. A child process does the swap, so that this one can repair the state after a killed
-// child. Ownership: callers own their descriptors.
+// A child process does the swap, so that this one can repair the state after a killed child.
 #pragma once
 
 #include "Engine/core/helper/UpdateJob.h"

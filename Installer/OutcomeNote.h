@@ -1,6 +1,6 @@
 // OutcomeNote.h: writes the outcome of an installation where the next start of the application reads it, because the
 // host has ended. For a job without a record name nothing is written.
-// Thread: the process's only one. Ownership: the caller owns the job and the folder's descriptor; both outlive it.
+// Ownership: the caller owns the job and the folder's descriptor; both outlive it.
 #pragma once
 
 #include "Engine/core/helper/UpdateJob.h"

@@ -1,5 +1,5 @@
 // PrepareUpdate.h: the helper's first half: from a downloaded archive to a checked bundle in the staging folder.
-// Thread: the process's only one; the process is confined permanently. Ownership: callers own their descriptors.
+// Thread: the process's only one; the process is confined permanently.
 #pragma once
 
 #include "Engine/core/helper/UpdateJob.h"

@@ -1,5 +1,4 @@
 // RecoverSwap.h: repairs what an interrupted update left next to a bundle, and removes unused files.
-// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/helper/HelperReport.h"

@@ -1,6 +1,5 @@
 // Rehearse.h: does the steps of an update next to an installed bundle, with its own folders, so that a refusal of this
 // system is known before a download.
-// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/helper/UpdateJob.h"

@@ -1,5 +1,5 @@
 // Relaunch.h: starts a bundle's program after an update.
-// Thread: any. Ownership: the started process is the caller's child.
+// Ownership: the started process is the caller's child.
 #pragma once
 
 #include "Installer/ChildProcess.h"

@@ -1,5 +1,4 @@
 // RunInstaller.h: runs the installer program of a verified and checked bundle.
-// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/helper/UpdateJob.h"

@@ -1,5 +1,4 @@
 // SwapBundle.h: the steps that replace one bundle by another, each durable before the next begins.
-// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

@@ -1,7 +1,7 @@
 // SwapLock.h: keeps all other helpers away from one installed bundle. It is the kernel's lock on a file next to the
 // bundle that only this user may open, so a user who can only read the folder cannot take it. The file is removed with
 // the lock; a file that a killed holder left is reused.
-// Thread: the process's only one. Ownership: the caller owns the parent's descriptor, which outlives the object.
+// Ownership: the caller owns the parent's descriptor, which outlives the object.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

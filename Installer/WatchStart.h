@@ -1,5 +1,4 @@
 // WatchStart.h: starts the bundle after an update, and watches a new version that must confirm a good start.
-// Thread: the process's only one. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/faults/UpdateFault.h"

@@ -1,5 +1,5 @@
 // Console.h: what a verb of the publisher's tool reads, prints and answers with.
-// Thread: the main thread. Ownership: streams belong to the caller, which outlives the verb.
+// Ownership: streams belong to the caller, which outlives the verb.
 #pragma once
 
 #include <QByteArray>
@@ -17,9 +17,9 @@ namespace Pelnar::Publisher
 /// The program's exit status, and what a script may conclude from it.
 enum class ExitStatus : std::int32_t
 {
-    Clean = 0,    ///< done, and nothing to object to
-    Findings = 1, ///< done, and something is wrong with what was looked at
-    Unusable = 2, ///< not done: bad arguments, or input that cannot be read
+    Clean = 0,    ///< done, no problem found
+    Findings = 1, ///< done, and the input has problems
+    Unusable = 2, ///< not done: bad arguments or unreadable input
 };
 
 /// Why a verb cannot do what it was asked. Printed as "FILE:LINE:COLUMN: what; mend"; parts that are empty or 0 are
@@ -83,7 +83,7 @@ QString Printable(QString const& text);
 /// "1 item", "2 items".
 QString CountOf(std::size_t count, QString const& singular);
 
-/// At most \a maxBytes of \a stream, to its end; nothing when there is more.
+/// The whole of \a stream; nothing if it has more than \a maxBytes.
 std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes);
 
 } // namespace Pelnar::Publisher

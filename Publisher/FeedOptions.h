@@ -1,5 +1,5 @@
 // FeedOptions.h: the options of a command line that several verbs about feeds share.
-// Thread: the main thread. Ownership: the values are the verb's and outlive its command line.
+// Ownership: the values are the verb's and outlive its command line.
 #pragma once
 
 #include "Engine/core/feed/ReleasePolicy.h"

@@ -1,6 +1,6 @@
 // FeedSource.h: the bytes of a feed that is named by a path, by an address, or by "-" for standard input.
-// Thread: the main thread, with Qt's event loop. Ownership: values only.
-// What a client would not fetch (too large, too slow, a web page) is refused here as well, in the same words.
+// Thread: the main thread, with Qt's event loop. What a client would not fetch (too large, too slow, a web page) is
+// refused here as well, in the same words.
 #pragma once
 
 #include "Engine/core/fetch/FeedFetcher.h"

@@ -1,5 +1,5 @@
-// Progress.h: a bar on a terminal while long work runs; anywhere else, as in the log of a build, a line now and then.
-// Thread: the main thread. Ownership: refers to the output, which outlives it.
+// Progress.h: shows how far long work is: a bar on a terminal, and a line every few seconds anywhere else. Ownership:
+// refers to the output, which outlives it.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -21,8 +21,8 @@ public:
     Progress(Progress const&) = delete;
     Progress& operator=(Progress const&) = delete;
 
-    /// Draws the bar at \a done of \a total steps or bytes, at most ten times a second. Without a terminal prints a
-    /// line when the last one, or the beginning, is longer ago than the interval.
+    /// Draws the bar at \a done of \a total steps or bytes, at most ten times a second. Without a terminal, prints at
+    /// most one line in each interval.
     void Show(qint64 done, qint64 total);
 
 private:

@@ -1,5 +1,4 @@
 // Refusal.h: how code deep inside a verb stops it, and where that is caught.
-// Thread: the main thread. Ownership: values only.
 #pragma once
 
 #include "Publisher/Verb.h"
@@ -48,19 +47,19 @@ T Need(std::variant<T, Problem> value)
     return std::get<T>(std::move(value));
 }
 
-/// Does \a work; a Refusal in it becomes one whose cause is Content.
+/// Runs \a work. A Refusal that it throws gets the cause Content.
 void AsContent(std::function<void()> const& work);
 
-/// Refusals that are told together, so that a person mends all of them before the next run.
+/// Refusals that are printed together, so that a person can correct all of them before the next run.
 class RefusalList
 {
 public:
-    /// Does \a work and keeps the Refusal that it throws. Answers whether it threw none.
+    /// Runs \a work and keeps the Refusal that it throws. Returns true if it throws none.
     bool Try(std::function<void()> const& work);
     void Add(Problem problem, RefusalCause cause = RefusalCause::Content);
     void Add(Refusal const& refusal);
     [[nodiscard]] bool IsEmpty() const { return m_problems.empty(); }
-    /// Throws one Refusal for all of them. The cause is Content when that of one is.
+    /// Throws one Refusal for all problems. Its cause is Content if one of them has that cause.
     void ThrowIfAny() const;
 
 private:
@@ -71,11 +70,10 @@ private:
 /// Throws a Refusal about \a file for which a system call answered \a errorNumber.
 [[noreturn]] void RefuseFile(QString const& file, QString const& what, int errorNumber, QString const& mend);
 
-/// Leaves \a work with \a verb, to be done when the verb was named. A Refusal in it is printed, and the status is
-/// ExitStatus::Unusable; so is every other failure (memory, disk), in the words that it brings.
+/// Makes \a verb run \a work. A Refusal or any other exception is printed, and the status is then ExitStatus::Unusable.
 void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> work);
 
-/// Does \a work of a verb that judges a release: a Refusal whose cause is Content is its answer, ExitStatus::Findings.
+/// Runs \a work of a verb that judges a release. A Refusal with the cause Content gives ExitStatus::Findings.
 ExitStatus JudgeRelease(Console const& console, std::function<ExitStatus()> const& work);
 
 } // namespace Pelnar::Publisher

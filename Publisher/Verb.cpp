@@ -18,7 +18,7 @@ constexpr decltype(&AddExplain) VERBS[] = {AddExplain,      AddLint,     AddMatr
                                            AddTimeline,     AddKeys,     AddSign,   AddVerify, AddGenerate,
                                            AddCheckRelease, AddSignFeed, AddEdits,  AddDelta,  AddServe};
 
-/// The command line as far as its verbs were understood: "pelnar-appcast keys show".
+/// The verbs of the command line that were understood: "pelnar-appcast keys show".
 std::string UnderstoodPart(CLI::App const& program)
 {
     std::string text = PROGRAM_NAME;
@@ -43,7 +43,7 @@ std::size_t WidthOf(Output const& output)
     return width <= 0 ? 0 : std::size_t(std::max(width, FEWEST));
 }
 
-/// \a text with its long lines broken at blanks. What goes on stands below the description of its option.
+/// Breaks long lines of \a text at blanks. The rest of a line is indented to the option's description.
 std::string Wrapped(std::string const& text, std::size_t width)
 {
     constexpr std::size_t DESCRIPTION_COLUMN = 30;
@@ -82,7 +82,7 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
                            QString::fromStdString("see " + UnderstoodPart(program) + " --help")});
 }
 
-/// An empty value is a variable of a script that was never set; no verb goes on with one.
+/// An empty value usually comes from an unset variable of a script, so no verb accepts one.
 void RefuseEmptyValues(CLI::App& app)
 {
     for (CLI::Option* const option : app.get_options())
@@ -125,7 +125,7 @@ ExitStatus RunProgram(std::vector<std::string> const& arguments, Console& consol
                 {
                     try
                     {
-                        // The parser takes its arguments last first.
+                        // The parser expects the arguments in reverse order.
                         program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
                     }
                     catch (CLI::ParseError const& error)

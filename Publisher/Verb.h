@@ -1,5 +1,5 @@
 // Verb.h: how the verbs of the publisher's tool join its command line.
-// Thread: the main thread. Ownership: the program owns its verbs; the console outlives it.
+// Ownership: the program owns its verbs; the console outlives it.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -20,9 +20,8 @@ struct VerbContext
     ExitStatus status = ExitStatus::Clean;
 };
 
-// A verb lives in a folder of its own. Each of these adds one verb, or a verb with verbs of its own, and leaves a
-// callback with it that does the work when it was named. More of a verb's folder is for its neighbours: `…Verb.h`
-// there.
+// A verb lives in a folder of its own. Each of these functions adds one verb, or a verb with verbs of its own, and the
+// callback that does its work. If other folders need more of a verb, its folder has a header for them.
 void AddExplain(CLI::App& program, VerbContext& context);
 void AddLint(CLI::App& program, VerbContext& context);
 void AddMatrix(CLI::App& program, VerbContext& context);

@@ -1,6 +1,6 @@
 // ApplicationFolder.h: the folders of an application for one person: settings, state and caches. Each is named after
 // the bundle's identifier, by the XDG rules. Linux.
-// Thread: any; BaseFolderPath() and FolderOf() read the environment. Ownership: callers own their descriptors.
+// Thread: any; BaseFolderPath() and FolderOf() read the environment.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

@@ -1,5 +1,5 @@
 // NotificationBench.h: an event of two numbers, for observers of the list and for slots of a signal.
-// Thread: the benchmark's. Ownership: none.
+// Thread: the benchmark's.
 #pragma once
 
 #include <QObject>

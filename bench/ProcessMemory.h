@@ -1,5 +1,4 @@
 // ProcessMemory.h: what the running process has in memory.
-// Thread: any. Ownership: values.
 #pragma once
 
 namespace Pelnar::Bench

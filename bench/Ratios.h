@@ -1,5 +1,5 @@
 // Ratios.h: a benchmark's figures as ratios to its peer's of the same run, which is what stays when the machine
-// changes. Thread: main. Ownership: values.
+// changes. Thread: main.
 #pragma once
 
 #include <string>

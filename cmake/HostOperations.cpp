@@ -12,7 +12,7 @@
 namespace Pelnar
 {
 
-/// Deliberate: kept although nobody calls it.
+/// Deliberate: kept although no function calls it.
 __attribute__((used)) void AskForEveryHostOperation()
 {
     QString const text = Util::OSVersion();

@@ -4,8 +4,7 @@
 //     auto const follow = [](Pelnar::Core::EventPublisher<Observer>& publisher, Observer& observer)
 //     { publisher.RegisterEventHandler(&observer); };
 //
-// Thread: any. Ownership: the publisher does not own its handlers; a handler must be unregistered before it is
-// destroyed.
+// Ownership: the publisher does not own its handlers; a handler must be unregistered before it is destroyed.
 #pragma once
 
 namespace Pelnar::Core

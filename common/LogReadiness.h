@@ -1,5 +1,5 @@
 // LogReadiness.h: initializes glog before a record is written, because glog would otherwise warn.
-// Thread: any. It is linked into one library of the process, which remembers who has initialized glog.
+// It is linked into one library of the process, which remembers who has initialized glog.
 #pragma once
 
 namespace Pelnar::Core

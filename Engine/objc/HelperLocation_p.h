@@ -1,6 +1,5 @@
 // HelperLocation_p.h: the path of the installer's helper: a fixed place relative to the engine's library, in the build
 // tree and in an installation. Plain C++.
-// Thread: any.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // SUAppcastItem_p.h: makes an object of a feed item; for the engine only.
-// Thread: main. Ownership: the caller owns what it allocates.
+// Thread: main.
 #pragma once
 
 #import <Sparkle/SUAppcastItem.h>

@@ -1,5 +1,5 @@
 // SUAppcast_p.h: makes an appcast of a feed's items, and finds the item of an object; for the engine only.
-// Thread: main. Ownership: the caller owns what it allocates.
+// Thread: main.
 #pragma once
 
 #import <Sparkle/SUAppcast.h>

@@ -1,5 +1,5 @@
 // DesktopWindows.h: the engine's windows on the desktop, and the end of the desktop session.
-// Thread: the Qt main thread, with an application object. Ownership: the caller's.
+// Thread: the Qt main thread, with an application object.
 #pragma once
 
 #include "Engine/core/update/IUserInterface.h"

@@ -23,7 +23,7 @@ struct Client
 /// \a installation with the version of \a client.
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation);
 /// \a installation with the version of \a client, with the keys that \a items say this version trusts, unless it has
-/// keys already, and with what leads it to others.
+/// keys already, and with the versions that lead to other keys.
 Engine::Installation InstallationAmong(std::vector<Engine::FeedItem> const& items, Client const& client,
                                        Engine::Installation installation);
 /// Negative when the first version is older than the second, positive when it is newer; 0 for what cannot be compared,

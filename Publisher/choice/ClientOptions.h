@@ -1,5 +1,4 @@
 // ClientOptions.h: the versions and platforms by which a command line describes clients.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

@@ -1,6 +1,6 @@
 // FeedChoice.h: which item of a feed a client takes, and how each of the others loses. The rules are the session's own;
 // only the items come from the parser without Foundation between them.
-// Thread: any. Ownership: a choice points into the items that it was made from.
+// Ownership: a choice points into the items that it was made from.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"

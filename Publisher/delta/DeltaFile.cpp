@@ -46,8 +46,8 @@ Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& ol
                           Output const& progressOutput)
 {
     Progress bar(progressOutput, QStringLiteral("Applying"));
-    // Deliberate: no signature is asked for. The container is checked against all that it says, and what is made here
-    // is looked at or hashed, never started.
+    // Deliberate: no signature is required. The container is checked against its own hashes, and the result is only
+    // read, never run.
     Engine::ContentHash digest{};
     Engine::DeltaOutcome const outcome =
         Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);

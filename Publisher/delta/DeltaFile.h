@@ -1,5 +1,4 @@
 // DeltaFile.h: makes, reads and proves the delta between two bundles.
-// Thread: the main thread. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/DeltaMaker.h"

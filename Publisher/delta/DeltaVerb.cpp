@@ -80,7 +80,7 @@ struct ApplyOptions
     std::string output;
 };
 
-/// Makes the new bundle under a hidden name, so that what has the right name is whole.
+/// Makes the new bundle under a hidden name first, so that a bundle with the final name is always complete.
 ExitStatus Apply(Console const& console, ApplyOptions const& options)
 {
     QString const output = QString::fromStdString(options.output);
@@ -126,7 +126,7 @@ char const* KindName(Engine::DeltaEntryKind kind)
 
 constexpr char const* STREAM_NAMES[Engine::PATCH_STREAMS] = {"steps", "same", "changed", "difference", "extra"};
 
-/// Where an entry comes from, when it is another path of the version before.
+/// The entry's path in the previous version, if it differs.
 QString OriginOf(Engine::DeltaEntry const& entry)
 {
     bool const isElsewhere = !entry.sourcePath.empty() && entry.sourcePath != entry.path;
@@ -134,13 +134,13 @@ QString OriginOf(Engine::DeltaEntry const& entry)
                        : QString();
 }
 
-/// The joined format leaves the sizes of kept files to the version before.
+/// The joined format does not store the sizes of kept files.
 bool TellsSize(Engine::DeltaManifest const& manifest, Engine::DeltaEntry const& entry)
 {
     return manifest.format == Engine::DeltaFormat::Separate || entry.kind != Engine::DeltaEntryKind::Kept;
 }
 
-/// What files take of the container is known of each by itself in one format, of all together in the other.
+/// The separate format knows the packed size of each file, the joined format only the sum.
 void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
 {
     if (manifest.format == Engine::DeltaFormat::Separate)

@@ -1,5 +1,4 @@
 // DeltaVerb.h: the verb "delta": small updates from one version of a bundle to another.
-// Thread: the main thread. Ownership: see Verb.h.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainerWriter.h"

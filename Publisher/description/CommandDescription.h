@@ -1,6 +1,5 @@
-// CommandDescription.h: the command line of the publisher's tool as a manual page and as completions for shells,
-// made from the very description that it is parsed and helped by.
-// Thread: the main thread. Ownership: values only.
+// CommandDescription.h: the command line of the publisher's tool as a manual page and as completions for shells, made
+// from the same definition that parses it and prints its help.
 #pragma once
 
 #include <CLI/CLI.hpp>

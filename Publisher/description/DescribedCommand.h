@@ -1,5 +1,4 @@
 // DescribedCommand.h: one verb of a command line and its options, as plain texts.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <CLI/CLI.hpp>

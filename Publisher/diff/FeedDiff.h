@@ -1,5 +1,4 @@
 // FeedDiff.h: two feeds by their effect: which clients get something else from the second.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Publisher/matrix/Outcome.h"

@@ -1,5 +1,4 @@
 // FeedEdit.h: a published feed whose items are changed at single places, with every other byte as it was.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

@@ -39,7 +39,7 @@ QString DescriptionText(ReleaseNotes const& notes)
     return QStringLiteral("<description%1><![CDATA[%2]]></description>").arg(language, html);
 }
 
-/// The versions of the items, newest first; those that cannot be read are none.
+/// The readable versions of the items, newest first.
 std::vector<Core::Version> VersionsOf(FeedEdit const& feed)
 {
     std::vector<Core::Version> versions;

@@ -1,5 +1,5 @@
-// FeedEdits.h: what a publisher does to the items of a published feed. Thread: any. Ownership: values only.
-// All of them throw Refusal and have changed nothing then.
+// FeedEdits.h: what a publisher does to the items of a published feed. All of them throw Refusal and have changed
+// nothing then.
 #pragma once
 
 #include "Publisher/edit/FeedEdit.h"

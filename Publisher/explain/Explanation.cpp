@@ -185,7 +185,7 @@ private:
         return QStringLiteral("item %1").arg(&item - m_items.data());
     }
 
-    /// Empty when \a item met nobody.
+    /// Empty if \a item was compared with no other item.
     QString HowLost(FeedItem const& item) const
     {
         auto const duel = std::find_if(m_choice.duels.begin(), m_choice.duels.end(),

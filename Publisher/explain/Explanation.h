@@ -1,5 +1,5 @@
 // Explanation.h: what a client makes of every item and delta of a feed, and why.
-// Thread: any. Ownership: an explanation points into the items that it was made from.
+// Ownership: an explanation points into the items that it was made from.
 #pragma once
 
 #include "Publisher/choice/FeedChoice.h"

@@ -1,5 +1,4 @@
 // ExplanationText.h: an explanation as text for a person, and as JSON. docs/formats/explain-json.md holds the schema.
-// Thread: any; no state. Ownership: none.
 #pragma once
 
 #include "Publisher/Console.h"

@@ -1,5 +1,5 @@
 // AtomicFile.h: a new file or folder that is seen under its name only when it is complete.
-// Thread: the main thread. Ownership: a scope object; what was not committed is gone when it goes.
+// Ownership: a scope object; what was not committed is gone when it goes.
 #pragma once
 
 #include "Publisher/files/InputFile.h"

@@ -43,8 +43,8 @@ bool IsRunning(QString const& number)
     return ::kill(pid_t(number.toInt()), 0) == 0 || errno != ESRCH;
 }
 
-/// Removes the folders of runs that were killed: those of this user that nobody holds. One that was made a moment ago
-/// and is about to be held stays.
+/// Removes the folders of runs that were killed: those of this user without a lock. One that was made a moment ago and
+/// is about to be held stays.
 void RemoveAbandoned()
 {
     constexpr int YOUNG_SECONDS = 60;

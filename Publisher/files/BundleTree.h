@@ -1,5 +1,5 @@
 // BundleTree.h: a bundle on disk, given as its folder or taken out of an archive by the rules by which clients unpack.
-// Thread: the main thread. Ownership: a scope object; what it unpacked is removed with it.
+// Ownership: a scope object; what it unpacked is removed with it.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

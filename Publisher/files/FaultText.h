@@ -1,5 +1,4 @@
 // FaultText.h: what a publisher is told of an archive that clients would refuse.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainer.h"

@@ -1,5 +1,5 @@
 // FolderLock.h: one run at a time writes into a folder.
-// Thread: the main thread. Ownership: a scope object; the lock ends with it and with the process.
+// Ownership: a scope object; the lock ends with it and with the process.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

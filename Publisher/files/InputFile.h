@@ -1,5 +1,5 @@
 // InputFile.h: a plain file that a person named, open for reading.
-// Thread: the main thread. Ownership: the descriptor is the object's.
+// Ownership: the descriptor is the object's.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

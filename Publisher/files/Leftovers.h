@@ -1,5 +1,5 @@
 // Leftovers.h: what a run must not leave behind when it is interrupted: hidden files, folders for temporary files.
-// Thread: any. Ownership: a scope object for each name; the process has one list of them.
+// Ownership: a scope object for each name; the process has one list of them.
 #pragma once
 
 #include <functional>

@@ -1,5 +1,4 @@
 // CheckReleaseVerb.h: the verb "check-release": what is published, judged as installed clients judge it.
-// Thread: the main thread. Ownership: see Verb.h.
 #pragma once
 
 #include "Publisher/Verb.h"

@@ -95,7 +95,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     version.machines = MachinesOf(bundle);
     version.bundle = GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path),
                                  information.allowsInstallerPrograms, information.rootPublicKey};
-    // With a root key the feed's key statement says whom clients trust, and it may say something else tomorrow.
+    // With a root key, the feed's key statement says which keys clients trust, and it can change.
     if (information.rootPublicKey.empty())
     {
         version.trustedIds = TextsOf(version.bundle->publicKeys.Ids());

@@ -1,5 +1,4 @@
-// GatedVersion.h: one version as the gate sees it: as what installed clients are offered, and as a client itself.
-// Thread: any. Ownership: values only.
+// GatedVersion.h: one version as the gate sees it: an update for installed clients, and later a client itself.
 #pragma once
 
 #include "Engine/core/feed/KeyPaths.h"

@@ -317,7 +317,7 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
     ReleaseFiles files(request.folder, console);
     std::vector<FeedItem> const linuxItems = ItemsOf(request, FeedPlatform::Linux);
     std::vector<FeedItem> macItems = ItemsOf(request, FeedPlatform::MacOS);
-    // What both take was judged as Linux takes it, which is what runs here.
+    // Items for both platforms were already checked as items for Linux.
     macItems.erase(std::remove_if(macItems.begin(), macItems.end(),
                                   [&linuxItems](FeedItem const& item)
                                   {

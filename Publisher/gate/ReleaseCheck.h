@@ -1,5 +1,5 @@
 // ReleaseCheck.h: everything that a published feed offers, judged as the installed clients of its versions judge it.
-// Thread: the main thread, with Qt's event loop. Ownership: values only.
+// Thread: the main thread, with Qt's event loop.
 #pragma once
 
 #include "Publisher/Console.h"

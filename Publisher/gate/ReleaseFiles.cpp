@@ -23,12 +23,12 @@ Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString cons
     request.declaredBytes = item.contentLength;
     request.signature = item.edSignature;
     request.folder = folder;
-    // Deliberate: plain http has its own rule; here the question is what stands at the address, wherever that is.
+    // Deliberate: http addresses are allowed here, because another rule reports them.
     request.feedReach = Engine::AddressReach::ThisComputer;
     request.insecureHttp = Engine::InsecureHttp::Anywhere;
     Progress progress(console.err, QStringLiteral("Fetching ") + item.fileUrl.fileName());
     return LoadLatePart().download(request, [&](Engine::DownloadProgress const& now)
-                              { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); });
+                                   { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); });
 }
 
 std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,

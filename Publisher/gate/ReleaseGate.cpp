@@ -64,7 +64,7 @@ QString EntryText(BundleTree const& bundle, std::string const& path)
     return QStringLiteral(": \"%1\"").arg(Printable(QString::fromStdString(bundle.Name() + '/' + path)));
 }
 
-/// Nothing of macOS runs here: that the program is there and is none of Linux is what can be seen.
+/// Programs for macOS cannot run here. Only this is checked: the program exists, and it is not one for Linux.
 void CheckMacProgram(BundleTree const& bundle, QString const& path, RefusalList& refusals)
 {
     std::string const& name = bundle.Information().executable;
@@ -113,7 +113,7 @@ QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& 
     {
         return EntryText(bundle, Engine::INFORMATION_PATH);
     }
-    // A bundle that names no program has the one that is named after the folder that it is installed as.
+    // A bundle that names no program runs the one with the name of its folder.
     Engine::BundleInformation const information = Engine::ReadBundleInformation(bundle.Descriptor(), nameWhenInstalled);
     QString text = EntryText(bundle, information.executable);
     struct stat status;

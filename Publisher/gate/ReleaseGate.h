@@ -1,5 +1,4 @@
 // ReleaseGate.h: what an installed client would refuse, found by the helper's own checks before it is published.
-// Thread: the main thread. Ownership: values only.
 #pragma once
 
 #include "Engine/core/bundle/CheckBundle.h"
@@ -15,7 +14,7 @@ void CheckBundleForClients(BundleTree const& bundle, GatedVersion const& version
                            Engine::Machine const& machine, RefusalList& refusals);
 
 /// Each version must trust a key that signs it, and every older version must get to each: by a key that it trusts, or
-/// by versions between them that bring another one. A client without such a path stays where it is for ever.
+/// by versions between them that bring another one. A client without such a path never gets another update.
 void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals);
 
 } // namespace Pelnar::Publisher

@@ -50,7 +50,7 @@ bool HasMacEnding(QString const& fileName)
                        { return fileName.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
 }
 
-/// What an installer for macOS is must show in its bytes, as its name says it: a package begins, an image ends so.
+/// The bytes of an installer for macOS must match its name: a package has a mark at its start, an image at its end.
 void CheckMacInstaller(InputFile const& file)
 {
     constexpr char PACKAGE_MARK[] = {'x', 'a', 'r', '!'};
@@ -112,7 +112,7 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
     {
         return {};
     }
-    // Signed last: what is wrong with another archive is told before the long work.
+    // Signed last, so that problems of other archives are reported before the long work.
     for (NewItem& item : m_items)
     {
         item.signature = m_workplace.Sign(item.fileName);
@@ -121,7 +121,7 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
     return std::move(m_items);
 }
 
-/// Those of one run are clients of each other as well; each was judged before it knew all of them.
+/// Versions of one run are clients of each other too. Each was checked before all of them were known.
 void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
 {
     std::vector<GatedVersion> fresh;

@@ -1,5 +1,5 @@
 // ArchiveIntake.h: from archives that are not published yet to the items that a feed gets for them.
-// Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
+// Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
 #include "Engine/core/bundle/CheckBundle.h"
@@ -19,8 +19,8 @@ public:
     {
     }
 
-    /// Reads and judges the bundles and installers among \a archives. What clients would refuse or could not tell from
-    /// something else is told in \a refusals; only when there is none the items are signed.
+    /// Reads and judges the bundles and installers among \a archives. \a refusals gets what clients would refuse or
+    /// confuse. The items are signed only if it stays empty.
     std::vector<NewItem> Take(std::vector<FolderArchive> const& archives, RefusalList& refusals);
 
 private:

@@ -1,5 +1,4 @@
 // ClientShares.h: the versions that clients run, as their publisher counts them.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "HostFramework/Version.h"

@@ -1,5 +1,5 @@
 // DeltaStage.h: the deltas of a feed's new items: those that lie in the folder, proved, and those that are made.
-// Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
+// Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainerWriter.h"

@@ -1,7 +1,6 @@
-// FeedGenerator.h: from a folder of archives to a feed: what is new in the folder is read, signed and added; what is
-// published stays as it is. Thread: the main thread. Ownership: values only.
-// Nothing is lost or left when it is interrupted: deltas get their names when all of them are whole and proved and the
-// feed is ready, which is written last, at once.
+// FeedGenerator.h: makes a feed from a folder of archives. It reads, signs and adds what is new, and leaves published
+// items unchanged. An interruption loses nothing and leaves nothing behind: deltas get their names once all are proved
+// and the feed is ready, and the feed is replaced last.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -34,9 +33,9 @@ struct GenerateRequest
     int validDays = 30;                  ///< until the feed's signature expires
 };
 
-/// Writes the feed, or leaves it when nothing is new, and prints what the strictest lint finds in it, which makes the
-/// status ExitStatus::Findings. What clients would refuse of what is new, or of what is published and lies in the
-/// folder, is told all at once. Throws Refusal, and has touched nothing then.
+/// Writes the feed if something is new, and prints what the strictest lint finds in it; a finding gives
+/// ExitStatus::Findings. Throws one Refusal for everything in the folder that clients would refuse, and has then
+/// changed nothing.
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console);
 
 } // namespace Pelnar::Publisher

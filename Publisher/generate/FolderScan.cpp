@@ -163,7 +163,7 @@ std::optional<QString> LanguageOf(QString const& text)
     return isLanguage ? QString(text).replace(QLatin1Char('_'), QLatin1Char('-')) : std::optional<QString>();
 }
 
-/// What \a name is as notes of the archive with that stem; nothing when it is none of its notes.
+/// The notes that the file \a name is for the archive with that stem; nothing if it is not one of its notes.
 std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
 {
     for (NotesEnding const& ending : NOTES_ENDINGS)

@@ -1,5 +1,5 @@
-// FolderScan.h: what of a publisher's folder belongs into a feed: archives of bundles, installers, deltas, and the
-// notes beside them. Thread: the main thread. Ownership: values only.
+// FolderScan.h: the files of a publisher's folder that belong in a feed: archives of bundles, installers, deltas, and
+// their notes.
 #pragma once
 
 #include "Publisher/files/InputFile.h"
@@ -46,8 +46,8 @@ struct ReleaseNotes
 /// read, are not UTF-8, or are over the limits with which clients show them.
 std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem);
 
-/// What \a folder has besides \a archives, notes of one, and \a feedFile; folders end in "/". Hidden files are left out,
-/// those whose names cannot be decoded are not.
+/// What \a folder has besides \a archives, notes of one, and \a feedFile; folders end in "/". Hidden files are left
+/// out, those whose names cannot be decoded are not.
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile);
 
 /// Those of \a names, files of \a folder, that only some users may read: a web server is another user.

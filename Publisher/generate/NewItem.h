@@ -1,5 +1,4 @@
 // NewItem.h: an item that a feed is to get, and its text in the feed.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

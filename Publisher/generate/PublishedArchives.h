@@ -1,5 +1,5 @@
 // PublishedArchives.h: the archives of a folder that a feed offers already: unchanged, and clients of what is new.
-// Thread: the main thread. Ownership: refers to the workplace and the feed, which outlive it.
+// Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
 #include "Publisher/Refusal.h"

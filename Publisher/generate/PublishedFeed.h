@@ -1,5 +1,4 @@
 // PublishedFeed.h: a feed as it is published, to which items are added without a change to anything else.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

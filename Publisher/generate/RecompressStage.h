@@ -1,5 +1,5 @@
 // RecompressStage.h: packs new bundles a second time, so that clients download less.
-// Thread: the main thread. Ownership: refers to the workplace and the archives, which outlive it.
+// Ownership: refers to the workplace and the archives, which outlive it.
 #pragma once
 
 #include "Publisher/files/AtomicFile.h"

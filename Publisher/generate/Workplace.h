@@ -1,5 +1,5 @@
 // Workplace.h: what every step of making a feed works with: the folder, the key, the console.
-// Thread: the main thread. Ownership: refers to the key and the console, which outlive it.
+// Ownership: refers to the key and the console, which outlive it.
 #pragma once
 
 #include "Publisher/Console.h"

@@ -1,5 +1,5 @@
 // CommandSigner.h: signs by a program of the publisher's: a hardware token, a key service.
-// Thread: the main thread, which waits for the program. Ownership: values only.
+// Thread: the main thread, which waits for the program.
 #pragma once
 
 #include "Publisher/keys/Signer.h"
@@ -9,8 +9,8 @@
 namespace Pelnar::Publisher
 {
 
-/// The program is started once for each signature; its line is split as a shell does it. What it says on standard error is shown. Every
-/// signature is verified at once.
+/// The program is started once for each signature; its line is split as a shell does it. What it says on standard error
+/// is shown. Every signature is verified at once.
 class CommandSigner final : public ISigner
 {
 public:

@@ -1,5 +1,5 @@
-// KeyId.h: the short name of a public key, by which a feed says who signed and whom a version trusts.
-// Thread: any. Ownership: values only. docs/formats/item-keys.md.
+// KeyId.h: the short name of a public key, by which a feed says who signed and whom a version trusts. See
+// docs/formats/item-keys.md.
 #pragma once
 
 #include <QString>

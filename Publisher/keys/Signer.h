@@ -1,5 +1,5 @@
 // Signer.h: what signs archives and feeds: a private key at hand, or a program of the publisher's that has one.
-// Thread: the main thread. Ownership: a signer is its caller's.
+// Ownership: a signer is its caller's.
 #pragma once
 
 #include "Engine/core/bundle/TrustedKeys.h"

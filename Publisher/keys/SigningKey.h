@@ -1,6 +1,6 @@
-// SigningKey.h: the private key with which a publisher signs archives and feeds.
-// Thread: the main thread. Ownership: the secret stands in memory that is locked, guarded, left out of core files and
-// wiped; it never leaves it but through SecretText. The file is described in docs/formats/signing-key.md.
+// SigningKey.h: the private key with which a publisher signs archives and feeds. Ownership: the secret is in memory
+// that is locked, guarded, excluded from core files and wiped. Only SecretText copies it out. The file is described in
+// docs/formats/signing-key.md.
 #pragma once
 
 #include "Publisher/keys/Signer.h"

@@ -1,5 +1,4 @@
 // AddressForms.h: what an address in a feed looks like as it is written.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Publisher/lint/LintSubject.h"

@@ -1,5 +1,4 @@
-// AddressRules.cpp: addresses that nobody but the publisher reaches, that lead to something else than an update, or
-// that two versions share.
+// AddressRules.cpp: addresses that only the publisher can reach, that lead to no update, or that two versions share.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -86,7 +85,7 @@ void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFi
     {
         return;
     }
-    // A dry run's feed lies as near as its downloads do.
+    // In a dry run, the feed and its downloads are on the same computer.
     if (IsNear(url) && !(IsNear(feed) && !feed.isLocalFile()))
     {
         findings.Add(LintRule::NearAddress, download.Place(), url.toString(QUrl::FullyEncoded));

@@ -27,7 +27,7 @@ bool IsLocalFile(QUrl const& url)
     return url.scheme() == QLatin1String("file");
 }
 
-/// Of an address that is there.
+/// For an address that exists.
 void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindings& findings)
 {
     QString const text = Shortened(url.toString(QUrl::FullyEncoded));
@@ -57,7 +57,7 @@ void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindin
     }
 }
 
-/// Of an address that clients take for none.
+/// For an address that clients treat as missing.
 void CheckMissingAddress(LintDownload const& download, QUrl const& feed, LintFindings& findings)
 {
     QString const text = download.enclosure ? download.enclosure->PlainAttribute("url").value_or(QString()) : QString();

@@ -16,7 +16,7 @@ bool IsExtension(QString const& local)
     return App::Session::ExtensionKey(local).has_value();
 }
 
-/// "pelnar2_Channel", "pelnarChannel": meant for us and not heard.
+/// Names such as "pelnar2_Channel" and "pelnarChannel": they look like extensions, but clients ignore them.
 bool IsAlmostExtension(QString const& local)
 {
     return local.startsWith(QLatin1String("pelnar"), Qt::CaseInsensitive) && !IsExtension(local);

@@ -1,5 +1,5 @@
 // FetchRules.h: what the servers have, beside what the feed says of it.
-// Thread: the main thread, with Qt's event loop. Ownership: values only.
+// Thread: the main thread, with Qt's event loop.
 #pragma once
 
 #include "Publisher/Console.h"

@@ -1,5 +1,5 @@
-// KeyStatementRules.h: what is wrong with the root key's statement in a feed, and with what the feed is signed by after
-// it; docs/formats/key-statement.md. Thread: any. Ownership: values only.
+// KeyStatementRules.h: what is wrong with the root key's statement in a feed, and with what the feed is signed by
+// after it; docs/formats/key-statement.md.
 #pragma once
 
 #include "Publisher/lint/LintSubject.h"

@@ -1,5 +1,5 @@
 // LintDocument.h: a feed as it is written, element by element, with places; what the parser drops is still here.
-// Thread: any. Ownership: a tree of values; pointers into it live as long as it does.
+// Ownership: a tree of values; pointers into it live as long as it does.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

@@ -1,5 +1,4 @@
 // LintReport.h: findings as text for a person, and as JSON. docs/formats/lint-json.md holds the schema.
-// Thread: any; no state. Ownership: none.
 #pragma once
 
 #include "Publisher/Console.h"

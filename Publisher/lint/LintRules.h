@@ -1,6 +1,5 @@
 // LintRules.h: every rule of `pelnar-appcast lint`, once: its name, how much it matters, what it finds and the mend.
-// Thread: constants. Ownership: none.
-// The command line, the reports and docs/lint-rules.md are all made from this table.
+// Thread: constants. The command line, the reports and docs/lint-rules.md are all made from this table.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // LintSubject.h: what the rules look at, and where they write what they find.
-// Thread: any. Ownership: a subject owns its document and items; findings are values.
+// Ownership: a subject owns its document and items; findings are values.
 #pragma once
 
 #include "Publisher/lint/LintDocument.h"

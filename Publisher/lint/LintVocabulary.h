@@ -1,5 +1,4 @@
 // LintVocabulary.h: the names of the feed's namespace, and which of them somebody may have meant.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include <QString>

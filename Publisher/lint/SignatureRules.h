@@ -1,5 +1,4 @@
 // SignatureRules.h: what is wrong with the signature of a feed itself; docs/formats/signed-feed.md.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Publisher/lint/LintSubject.h"

@@ -1,5 +1,5 @@
 // Matrix.h: who gets what: every installed version on every system.
-// Thread: any. Ownership: values only. docs/formats/matrix-json.md holds the schema of the JSON.
+// docs/formats/matrix-json.md holds the schema of the JSON.
 #pragma once
 
 #include "Publisher/matrix/Outcome.h"
@@ -18,7 +18,7 @@ struct Stranded
 {
     QString version;
     QStringList systems;
-    bool isEverywhere = false; ///< on all systems of the matrix: nobody can leave this version
+    bool isEverywhere = false; ///< on all systems of the matrix: clients of this version never get an update
 };
 
 /// A version that was withdrawn, for those who have it already.

@@ -1,5 +1,4 @@
 // Outcome.h: what one client takes from a feed, as a value that can be compared with another feed's.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Publisher/choice/ClientOptions.h"

@@ -30,8 +30,8 @@ using ServerLog = std::function<void(QString const& line)>;
 struct ServerManners
 {
     std::vector<ServerFault> faults;
-    /// Names beside those of this computer under which it may be asked. A page of another site that leads its own name
-    /// here reads nothing.
+    /// More host names that requests may use. Other names are refused, so that a web page cannot read the folder under
+    /// its own name.
     std::vector<QByteArray> hosts;
 };
 

@@ -1,5 +1,4 @@
 // HttpRequest.h: what the test server understands of a request, and the range of a file that it asks for.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <QByteArray>

@@ -1,5 +1,4 @@
 // ServeVerb.h: the verb "serve": a test server for a publisher's dry run.
-// Thread: the main thread. Ownership: see Verb.h.
 #pragma once
 
 #include "Publisher/Verb.h"

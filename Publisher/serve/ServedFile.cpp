@@ -17,7 +17,7 @@ namespace
 {
 
 constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
-/// Private keys are smaller; what is larger is an archive.
+/// A larger file is no private key but an archive.
 constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
 /// The lengths of a signing key: its seed, and the seed with the public key.
 constexpr std::size_t SIGNING_KEY_BYTES[] = {32, 64};
@@ -29,7 +29,7 @@ bool HasDottedName(QString const& path)
                        [](QString const& name) { return name.startsWith(QLatin1Char('.')); });
 }
 
-/// True when a folder on the way to \a path lets nobody but its owner in.
+/// True if only its owner may enter a folder on the way to \a path.
 bool IsInPrivateFolder(int folderFd, QString const& path)
 {
     for (int end = path.indexOf(QLatin1Char('/')); end >= 0; end = path.indexOf(QLatin1Char('/'), end + 1))

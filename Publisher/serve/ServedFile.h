@@ -1,5 +1,5 @@
-// ServedFile.h: which files of a served folder leave it, and which a publisher keeps to itself.
-// Thread: any. Ownership: the folder's descriptor stays the caller's.
+// ServedFile.h: which files of a folder are served, and which are hidden. Ownership: the folder's descriptor stays the
+// caller's.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// A file of the folder, open, or why it stays there.
+/// An open file of the folder, or the reason why it is hidden.
 struct ServedFile
 {
     Engine::UniqueFd file;

@@ -120,7 +120,7 @@ void ServerConnection::Read()
     constexpr char TLS_HANDSHAKE = 0x16;
     if (m_head.isEmpty() && bytes.startsWith(TLS_HANDSHAKE))
     {
-        // Without this, both sides would wait for the other until one is tired of it.
+        // Otherwise both sides would wait for each other until a time-out.
         m_log(QStringLiteral("? refused: https is asked for, and this server has no --tls"));
         Reset();
         return;
@@ -243,7 +243,7 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
 void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders,
                                     QString const& remark)
 {
-    // Beside 304 the length would be the file's.
+    // In a 304 response, the length would be that of the file.
     m_socket.write("HTTP/1.1 " + QByteArray::number(status) + ' ' + ReasonOf(status) + "\r\n" + extraHeaders +
                    (status == 304 ? "" : "Content-Length: 0\r\n") + "Connection: close\r\n\r\n");
     m_log(QStringLiteral("%1 /%2 ").arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
@@ -258,7 +258,7 @@ void ServerConnection::SendBody()
     m_untilFault = isCut ? m_fault->number : -1;
     if (m_fault && m_fault->kind == ServerFaultKind::Slow)
     {
-        // At least a byte at a time: what is slower than a step is sent in longer steps.
+        // Sends at least one byte at a time; lower rates use longer intervals.
         qint64 const piece = std::max<qint64>(1, m_fault->number / SLOW_STEPS_PER_SECOND);
         m_pace.setInterval(int(std::max<qint64>(1, 1000 * piece / m_fault->number)));
         connect(&m_pace, &QTimer::timeout, this, [this, piece] { SendBytes(piece); });
@@ -311,7 +311,7 @@ void ServerConnection::Reset()
 {
     m_pace.stop();
     m_file = Engine::UniqueFd();
-    // What was promised so far leaves first; closing then resets instead of ending.
+    // Sends what was promised so far. Then closing resets the connection instead of ending it.
     m_socket.flush();
     linger const now{1, 0};
     ::setsockopt(int(m_socket.socketDescriptor()), SOL_SOCKET, SO_LINGER, &now, sizeof now);

@@ -1,5 +1,5 @@
 // ServerConnection.h: one connection of the test server: a request, its answer, the fault that was asked for.
-// Thread: the main thread. Ownership: deletes itself when the connection ends; the folder outlives it.
+// Ownership: deletes itself when the connection ends; the folder outlives it.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

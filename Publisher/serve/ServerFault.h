@@ -1,5 +1,4 @@
 // ServerFault.h: what the test server does wrong on demand, and the text in which it is asked for.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,5 @@
 // Serving.h: the work of the verb "serve".
-// Thread: the main thread, with Qt's event loop. Ownership: values only.
+// Thread: the main thread, with Qt's event loop.
 #pragma once
 
 #include "Publisher/serve/ServeVerb.h"

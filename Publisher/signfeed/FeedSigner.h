@@ -1,5 +1,5 @@
-// FeedSigner.h: a feed gets a serial, an expiry and a signature, and stays what it was in every other byte.
-// Thread: the main thread. Ownership: values only. The format stands in docs/formats/signed-feed.md.
+// FeedSigner.h: gives a feed a serial, an expiry and a signature, and changes no other byte. The format stands in
+// docs/formats/signed-feed.md.
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"
@@ -10,7 +10,7 @@
 namespace Pelnar::Publisher
 {
 
-/// What is done about a feed whose signature is not of the key at hand and of the bytes that are there now.
+/// What to do with a feed whose signature does not match the given key and the current bytes.
 enum class ChangedFeed
 {
     Refused,

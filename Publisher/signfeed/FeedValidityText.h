@@ -1,5 +1,4 @@
 // FeedValidityText.h: where a feed's text says its serial and its expiry, and other values in their place.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"

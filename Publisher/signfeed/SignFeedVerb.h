@@ -1,5 +1,4 @@
 // SignFeedVerb.h: the verb "sign-feed", and the options that say how a feed is signed.
-// Thread: the main thread. Ownership: see Verb.h.
 #pragma once
 
 #include "Publisher/Verb.h"

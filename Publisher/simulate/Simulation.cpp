@@ -66,7 +66,7 @@ public:
         m_request.installation.rolloutGroup = nullptr;
     }
 
-    /// One check that nobody asked for.
+    /// One automatic check.
     void Check(SimulatedClient& client, QDateTime const& now)
     {
         std::vector<bool> const waits = Waiting(client, now);

@@ -1,5 +1,4 @@
 // Simulation.h: who has which version when: clients that check a feed once a day and take what they are offered.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Publisher/choice/ClientOptions.h"

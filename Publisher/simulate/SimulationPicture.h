@@ -1,5 +1,4 @@
 // SimulationPicture.h: a simulation as a picture: how many clients have each version, from day to day.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Publisher/simulate/Simulation.h"

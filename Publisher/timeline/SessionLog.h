@@ -1,5 +1,5 @@
 // SessionLog.h: the session's records out of a log: each known by its file and line.
-// Thread: any. Ownership: values; sites are of static duration.
+// Ownership: values; sites are of static duration.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"

@@ -1,5 +1,5 @@
-// SessionModel.h: follows a session record by record: what it must be in, and what may come next.
-// Thread: one at a time. Ownership: its own events.
+// SessionModel.h: follows a session record by record: its state, and what may come next. Thread: one at a time.
+// Ownership: its own events.
 #pragma once
 
 #include "Publisher/timeline/Timeline.h"

@@ -1,6 +1,5 @@
-// Timeline.h: what a session did, rebuilt from its records: states, the holder of its lock, callbacks; and every order
-// of records that the session cannot have written.
-// Thread: any. Ownership: values only.
+// Timeline.h: what a session did, rebuilt from its log records: states, the holder of its lock, callbacks, and every
+// sequence of records that the session cannot write.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/SessionState.h"
@@ -36,8 +35,8 @@ struct TimelineEvent
     QString time;
     EventKind kind = EventKind::Process;
     QString text;
-    int holder = 0; ///< whose turn it is: counts those who took the lock, from 1; 0 while nobody holds it
-    int check = 0;  ///< counts commands that start one, from 1; 0 before the first
+    int holder = 0;                           ///< the holder of the lock, counted from 1; 0 while it is free
+    int check = 0;                            ///< counts commands that start one, from 1; 0 before the first
     std::optional<App::Session::State> state; ///< after the event; nothing while it is unknown
 };
 

@@ -1,5 +1,5 @@
 // UpdateManagerTestAccess.h: the way of the tests to a live manager's flow and back end.
-// Thread: the Qt main thread. Ownership: none.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "App/UpdateChecker/UpdateManagerImpl_p.h"

@@ -1,5 +1,5 @@
 // Packers.h: the programs of this machine that pack folders, each as publishers call it.
-// Thread: one. Ownership: values only.
+// Thread: one.
 #pragma once
 
 #include <iosfwd>

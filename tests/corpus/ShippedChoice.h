@@ -1,6 +1,6 @@
 // ShippedChoice.h: what the shipped updater offers out of a feed: the engine's parser, its appcast objects and the
 // session's delegate. Plain C++.
-// Thread: the Qt main thread. Ownership: values only.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "Engine/core/feed/FeedItem.h"

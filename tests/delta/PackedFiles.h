@@ -1,5 +1,4 @@
 // PackedFiles.h: texts, and files of gzip's kind with them.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"

@@ -1,5 +1,5 @@
 // CheckFixture.h: what the tests of a check share. Plain C++.
-// Thread: main. Ownership: values.
+// Thread: main.
 #pragma once
 
 #include "tests/engine/FeedText.h"

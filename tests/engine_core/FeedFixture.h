@@ -1,5 +1,4 @@
 // FeedFixture.h: feeds written in a test, parsed with the engine's own limits.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

@@ -1,5 +1,4 @@
 // HostileNotes.h: release notes that try to load, to run, to deceive or to exhaust.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"

@@ -1,5 +1,4 @@
 // SafeMarkup.h: the strict grammar of what the release-notes filter may put out, checked by other means than its own.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include <string>

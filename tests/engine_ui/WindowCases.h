@@ -1,5 +1,5 @@
 // WindowCases.h: every window of the engine in every way it can be shown, as rows for tests.
-// Thread: the Qt main thread. Ownership: values only.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "Engine/ui/WidgetUserInterface.h"

@@ -1,5 +1,4 @@
 // ArchiveForge.h: writes zip and tar archives byte by byte, right ones and any kind of wrong ones.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <cstdint>

@@ -1,5 +1,5 @@
 // CallTracer.h: runs a process and all that it forks one system call at a time, and lets a test decide at each of them.
-// Thread: the one that starts the process; it is the tracer. Ownership: values only. Linux on x86-64.
+// Thread: the one that starts the process; it is the tracer. Linux on x86-64.
 #pragma once
 
 #include <array>

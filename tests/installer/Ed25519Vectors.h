@@ -1,6 +1,5 @@
 // Ed25519Vectors.h: makes keys, signatures and the odd points that forgeries are made of. Nothing is a recorded value:
 // the points of small order are found by multiplying points of the whole curve by the prime order.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <array>

@@ -1,5 +1,4 @@
 // EvilArchives.h: entries that no update archive may hold, each with the fault that says why.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"

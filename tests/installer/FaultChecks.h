@@ -1,5 +1,5 @@
 // FaultChecks.h: what holds after every fault: the bundle is exactly one of the two versions, and starts.
-// Thread: the test's. Ownership: values only.
+// Thread: the test's.
 #pragma once
 
 #include "tests/installer/InstallerFixture.h"

@@ -1,5 +1,5 @@
-// OtherUser.h: pieces of a test that run as another user of this machine, or under a filter of system calls, each in a
-// process of its own. Thread: one. Ownership: values only.
+// OtherUser.h: pieces of a test that run as another user of this machine, or under a filter of system calls, each in
+// a process of its own. Thread: one.
 #pragma once
 
 #include <functional>

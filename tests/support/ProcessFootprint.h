@@ -1,5 +1,4 @@
 // ProcessFootprint.h: what this process holds of the system, for tests of what must not grow.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <string>

@@ -1,5 +1,5 @@
 // ProgramOutput.h: what a program of the tests prints when it runs, perhaps under a tracer.
-// Thread: main, with Qt's event loop, which goes on meanwhile: the test may be the program's server. Ownership: values.
+// Thread: main, with Qt's event loop, which goes on meanwhile: the test may be the program's server.
 #pragma once
 
 #include <QString>

@@ -1,5 +1,4 @@
 // Sanitizers.h: whether this build is watched by the address sanitizer, for tests whose work must then be less.
-// Thread: any. Ownership: none.
 #pragma once
 
 namespace Pelnar::Testing

@@ -132,7 +132,7 @@ TEST_F(UpdateFlowTest, InformationalUpdateIsAWindowWithItsPageAlsoWhenAutomatic)
     EXPECT_EQ(windows.offer->sizeBytes, 0u);
     windows.Choose(UpdateChoice::RemindMeLater);
     EXPECT_EQ(notes, (Notes{"found", "check ended", "aborted 4007", "window quiet update", "ended"}))
-        << "who waits for a silent download is told that there is none";
+        << "a person who waits for a silent download hears that there is no update";
     EXPECT_TRUE(parts.requests.empty());
 }
 

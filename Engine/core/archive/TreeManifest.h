@@ -1,6 +1,6 @@
 // TreeManifest.h: computes one hash of a folder's tree on disk, and removes trees.
-// Thread: one at a time. Ownership: callers own their descriptors. The hash covers names, kinds, modes, link targets,
-// sizes and contents: two trees with the same hash install the same.
+// Thread: one at a time. The hash covers names, kinds, modes, link targets, sizes and contents: two trees with the
+// same hash install the same.
 #pragma once
 
 #include "Engine/core/base/ContentHasher.h"

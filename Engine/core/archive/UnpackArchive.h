@@ -1,7 +1,7 @@
 // UnpackArchive.h: unpacks a verified archive as a bundle into the staging folder.
-// Thread: one at a time. Ownership: callers own their descriptors. There are two passes: the first judges every entry,
-// and the second writes only if all are admitted. No entry's name is ever resolved through a link. The only metadata
-// taken are the execute permission and the modification time.
+// Thread: one at a time. There are two passes: the first judges every entry, and the second writes only if all are
+// admitted. No entry's name is ever resolved through a link. The only metadata taken are the execute permission and
+// the modification time.
 #pragma once
 
 #include "Engine/core/archive/ArchiveEntryRules.h"

@@ -1,5 +1,5 @@
 // CloseDescriptors.h: keeps a process's open descriptors from the programs that it starts, on every kernel.
-// Thread: any. May be called between vfork and exec: it allocates no memory and takes no lock.
+// May be called between vfork and exec: it allocates no memory and takes no lock.
 #pragma once
 
 namespace Pelnar::Engine

@@ -1,6 +1,5 @@
 // CheckBundle.h: checks that an unpacked bundle is the expected one, by the same rules in the helper and in the
 // publisher's tool.
-// Thread: any. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/bundle/BundleInformation.h"

@@ -1,7 +1,7 @@
 // TrustedKeys.h: the public keys with which a bundle verifies archives, deltas and feeds, and the only way to verify
 // with them. A file is mapped: do not verify one in a process that SIGBUS must not end, because a truncated file causes
 // it.
-// Thread: any; the only state is the cryptography library's one-time start. Ownership: callers own their descriptors.
+// Thread: any; the only state is the cryptography library's one-time start.
 #pragma once
 
 #include "Engine/core/bundle/Ed25519Signature.h"

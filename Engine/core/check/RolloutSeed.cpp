@@ -30,7 +30,7 @@ QByteArray Draw()
     return QByteArray(reinterpret_cast<char const*>(numbers.data()), SEED_BYTES);
 }
 
-/// Empty if there is none, or a file that is none.
+/// Empty if the file is missing or has another form.
 QByteArray Read(int folder)
 {
     std::string const bytes = ReadNote(folder, FILE_NAME);

@@ -1,6 +1,5 @@
 // RolloutSeed.h: the group of this installation in staged rollouts: drawn once for each line of versions, and known to
 // this computer only. A file of random bytes in the state folder decides it; nothing of it is sent.
-// Thread: any. Ownership: values only.
 #pragma once
 
 #include <QByteArray>

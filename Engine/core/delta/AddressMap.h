@@ -1,5 +1,5 @@
 // AddressMap.h: where the places of an old program have gone in the new one, by the steps of the patch between them.
-// Thread: any once built. Ownership: values only.
+// Thread: any once built.
 #pragma once
 
 #include "Engine/core/delta/ImageLayout.h"

@@ -1,6 +1,5 @@
 // AlignmentText.h: a program's bytes as they are compared with another version's: what a field says of a place is
 // replaced by what stands at that place, so that code which only moved looks the same.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/ImageLayout.h"

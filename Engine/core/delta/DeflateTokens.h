@@ -1,6 +1,6 @@
 // DeflateTokens.h: the tokens that zlib makes of a text: bytes, and repetitions of the text before.
-// Thread: any; no state. Ownership: values only; a reader refers to its bytes, which outlive it. Any bytes are safe.
-// Finding repetitions is nearly all that packing costs. Where a text equals an old one, its tokens are the old text's.
+// Ownership: values only; a reader refers to its bytes, which outlive it. Any bytes are safe. Finding repetitions is
+// nearly all that packing costs. Where a text equals an old one, its tokens are the old text's.
 #pragma once
 
 #include "Engine/core/delta/DeflateCodes.h"

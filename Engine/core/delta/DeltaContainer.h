@@ -1,5 +1,5 @@
 // DeltaContainer.h: the file that carries a delta: a fixed header, the manifest, the data of its entries in order.
-// Thread: any; no state. Ownership: descriptors stay the caller's. The format is described in docs/formats/delta.md.
+// Ownership: descriptors stay the caller's. The format is described in docs/formats/delta.md.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"

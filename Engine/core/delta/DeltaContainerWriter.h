@@ -1,5 +1,5 @@
 // DeltaContainerWriter.h: packs what a delta container holds.
-// Thread: any; no state. Ownership: values only. Throws std::bad_alloc.
+// Throws std::bad_alloc.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainer.h"

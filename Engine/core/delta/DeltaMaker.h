@@ -1,5 +1,5 @@
 // DeltaMaker.h: compares two versions of a bundle and writes the delta from the first to the second.
-// Thread: any. Ownership: values only. A publisher's work: it reads trees that the publisher trusts.
+// A publisher's work: it reads trees that the publisher trusts.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainerWriter.h"

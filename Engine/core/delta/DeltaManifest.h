@@ -1,5 +1,5 @@
 // DeltaManifest.h: what a delta container says of the new version's tree, as plain values, and its bytes.
-// Thread: any; no state. Ownership: values only. The format is described in docs/formats/delta.md.
+// The format is described in docs/formats/delta.md.
 #pragma once
 
 #include "Engine/core/archive/ArchiveEntryRules.h"

@@ -1,7 +1,6 @@
 // ImageLayout.h: where a program's file keeps addresses: its segments, and the parts whose fields name other places of
 // the program. Programs are ELF files of 64 bits, little-endian, for x86-64 and AArch64.
-// Thread: any; no state. Ownership: values only. What a layout says of a file decides how small a delta is, and never
-// what the delta makes: any bytes are safe.
+// What a layout says of a file decides how small a delta is, and never what the delta makes: any bytes are safe.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"

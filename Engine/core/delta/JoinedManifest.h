@@ -1,5 +1,5 @@
 // JoinedManifest.h: the manifest of the format that joins the files' data in streams, and its rules for units.
-// Thread: any; no state. Ownership: values only. The format is described in docs/formats/delta.md.
+// The format is described in docs/formats/delta.md.
 #pragma once
 
 #include "Engine/core/delta/ManifestBytes.h"

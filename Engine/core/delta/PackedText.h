@@ -1,7 +1,7 @@
 // PackedText.h: files of gzip's kind as the texts in them, and back to the very same bytes.
-// Thread: any; no state. Ownership: values only. Any bytes are safe.
-// Two packed versions of a text have nothing in common behind the first change, their texts nearly everything. What a
-// packer decides beyond the text, where its blocks end and the codes of each, is its recipe, which is small.
+// Any bytes are safe. Two packed versions of a text have nothing in common behind the first change, their texts
+// nearly everything. What a packer decides beyond the text, where its blocks end and the codes of each, is its
+// recipe, which is small.
 #pragma once
 
 #include "Engine/core/delta/DeflateTokens.h"

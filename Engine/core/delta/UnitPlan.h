@@ -1,5 +1,4 @@
 // UnitPlan.h: which old files which new ones are made from.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/delta/BundleReader.h"

@@ -1,6 +1,5 @@
 // DownloadFolder_p.h: the folder with an application's archives. It is opened safely, keeps a share of its disk free,
 // and is cleared of other downloads' files.
-// Thread: any; no state. Ownership: callers own their descriptors.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

@@ -1,6 +1,5 @@
 // EngineError.h: a failure as a plain value: the published code, the cause beneath it with a number of its own, one
 // sentence for a person.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/faults/FaultTable.h"

@@ -1,5 +1,4 @@
 // Result.h: what a step of the host returns that can fail: its value, or the error.
-// Thread: any; plain values.
 #pragma once
 
 #include "Engine/core/faults/EngineError.h"

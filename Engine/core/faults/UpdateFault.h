@@ -1,6 +1,5 @@
 // UpdateFault.h: every reason why an update is not prepared or not installed, and the exception that carries one. The
 // names are part of the helper's report format: the meaning of a name never changes.
-// Thread: any; plain values.
 #pragma once
 
 #include <optional>

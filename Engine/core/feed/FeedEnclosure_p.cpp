@@ -46,7 +46,7 @@ QString* MemberFor(FeedEnclosure& enclosure, QXmlStreamAttribute const& attribut
     return nullptr;
 }
 
-/// A function of its own: attributes that are held over the reader's next step are copied by it.
+/// A separate function: the reader copies attributes that are held during its next step.
 void TakeAttributes(FeedWalker& walker, FeedEnclosure& enclosure)
 {
     QXmlStreamAttributes const attributes = walker.Reader().attributes();
@@ -73,7 +73,7 @@ FeedEnclosure ReadFeedEnclosure(FeedWalker& walker)
     TakeAttributes(walker, enclosure);
     while (walker.EnterChild())
     {
-        // An enclosure has no content of its own; what a feed puts there is kept like any property.
+        // An enclosure has no content of its own. Content in a feed is kept as a property.
         QXmlStreamReader const& reader = walker.Reader();
         QString const name = walker.PropertyName(reader.namespaceUri(), reader.name(), reader.qualifiedName());
         AddFeedProperty(enclosure.attributes, name, ReadFeedElement(walker, FeedTextKind::SingleLine).value);

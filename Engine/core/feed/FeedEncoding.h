@@ -1,5 +1,4 @@
 // FeedEncoding.h: which text a feed's bytes stand for, decided before a tag is looked at.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include <QByteArray>

@@ -116,7 +116,7 @@ QVariant ReadDeltas(FeedWalker& walker, FeedPlatform platform, std::vector<FeedE
         }
         FeedEnclosure enclosure = ReadFeedEnclosure(walker);
         AddFeedProperty(properties, name, enclosure.attributes);
-        // Without the version that it starts from a delta serves nobody.
+        // No client can use a delta that does not name the version it starts from.
         if (!enclosure.deltaFrom.isNull() && IsFor(platform, enclosure))
         {
             deltas.push_back(std::move(enclosure));

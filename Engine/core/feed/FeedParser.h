@@ -1,8 +1,7 @@
 // FeedParser.h: from the bytes of a feed to its items, behind limits.
-// Thread: any; no state. Ownership: values only.
 // Texts: outer blanks of an element's text are dropped. Control characters, line breaks and characters that turn the
-// writing direction become blanks in every text but the description (which keeps its line breaks and tabs), so that no
-// title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
+// writing direction become blanks in every text but the description (which keeps its line breaks and tabs), so that
+// no title, version, address or property can forge a line of a log, drive a terminal or disguise a label.
 #pragma once
 
 #include "Engine/core/faults/Result.h"

@@ -1,5 +1,4 @@
 // FeedPolicyReader_p.h: what the elements of an item that speak of installations say; ReleasePolicy.h judges it.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedItem.h"

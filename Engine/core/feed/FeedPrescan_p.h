@@ -1,6 +1,5 @@
 // FeedPrescan_p.h: one pass over the tags of a feed before the XML reader sees them. The reader takes time quadratic in
 // the attributes of a tag and cannot be stopped inside one, so what it must not meet is found here.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"

@@ -1,5 +1,5 @@
 // FeedProperties_p.h: any element of a feed as a value: text, a map of what it carries, a list of what stands twice.
-// Thread: any, one at a time. Ownership: values only.
+// Thread: any, one at a time.
 #pragma once
 
 #include "Engine/core/feed/FeedText_p.h"

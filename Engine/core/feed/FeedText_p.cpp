@@ -83,7 +83,7 @@ int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
     return size;
 }
 
-/// Longer ones are refused by servers, and serve nobody but who wants to fill a request.
+/// Servers refuse longer addresses.
 constexpr int MAX_ADDRESS_CHARACTERS = 8 * 1024;
 /// A character becomes at most nine when it is encoded.
 constexpr int CERTAINLY_SHORT = MAX_ADDRESS_CHARACTERS / 9;

@@ -1,5 +1,4 @@
 // FeedText_p.h: single values of a feed: cleaned texts, lengths, versions out of file names, addresses.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include <QString>

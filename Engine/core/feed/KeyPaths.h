@@ -1,5 +1,5 @@
-// KeyPaths.h: whose signatures an item bears, and which versions lead an installation to a key that it does not trust
-// yet: docs/formats/item-keys.md. Thread: any; no state. Ownership: values only.
+// KeyPaths.h: whose signatures an item bears, and which versions lead an installation to a key that it does not
+// trust yet: docs/formats/item-keys.md.
 #pragma once
 
 #include "Engine/core/feed/FeedItem.h"

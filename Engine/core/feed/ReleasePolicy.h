@@ -1,6 +1,5 @@
 // ReleasePolicy.h: for which installations an item of a feed is meant. Clients and the publisher's tool ask the same
 // functions; docs/guide/publishing.md tells a publisher what they do.
-// Thread: any; no state. Ownership: values only.
 #pragma once
 
 #include "Engine/core/feed/KeyPaths.h"

@@ -1,5 +1,5 @@
 // SignedFeed.h: where the bytes of a signed feed end and its signature begins; docs/formats/signed-feed.md.
-// Thread: any; no state. Ownership: values only. No byte is looked at as XML.
+// No byte is looked at as XML.
 #pragma once
 
 #include <QByteArray>

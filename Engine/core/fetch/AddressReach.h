@@ -1,6 +1,5 @@
 // AddressReach.h: how near an address is. A feed from the network must not make this computer connect to itself or to
 // its own link, under any name or notation. So the address of the connection is judged, not its name.
-// Thread: any; no state.
 #pragma once
 
 #include <QUrl>

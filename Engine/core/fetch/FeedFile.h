@@ -1,5 +1,5 @@
 // FeedFile.h: the bytes of a feed that is a file of this computer.
-// Thread: any; it waits for the disk. Ownership: values only.
+// Thread: any; it waits for the disk.
 #pragma once
 
 #include "Engine/core/faults/Result.h"

@@ -1,5 +1,5 @@
 // ProxyChoice.h: the proxy of a request: the application's, else the environment's, else the system's.
-// Thread: any. The system's settings may take long to read, so a thread reads them.
+// The system's settings may take long to read, so a thread reads them.
 #pragma once
 
 #include <QByteArray>

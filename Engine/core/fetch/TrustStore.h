@@ -1,6 +1,6 @@
 // TrustStore.h: the authorities that Qt's default configuration trusts, in OpenSSL's form. So a host that adds or
 // removes an authority does this once for both.
-// Thread: any. Making a store reads many files, so a thread does it. Ownership: shared, by count.
+// Making a store reads many files, so a thread does it. Ownership: shared, by count.
 #pragma once
 
 #include <QSslConfiguration>

@@ -1,5 +1,4 @@
 // FolderSafety.h: who besides this user and the administrator may change the content of a folder.
-// Thread: any; no state. Ownership: callers own their descriptors.
 #pragma once
 
 #include <string>

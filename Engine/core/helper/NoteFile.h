@@ -1,7 +1,6 @@
 // NoteFile.h: the small files of an update that outlive the process that wrote them, next to the bundle and next to the
 // downloads.
-// Thread: any, but one at a time for each file; next to a bundle the swap lock ensures this. Ownership: callers own
-// their descriptors.
+// Thread: any, but one at a time for each file; next to a bundle the swap lock ensures this.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

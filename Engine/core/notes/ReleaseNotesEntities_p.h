@@ -1,5 +1,4 @@
 // ReleaseNotesEntities_p.h: the characters that HTML and Markdown name. A constant table.
-// Thread: any.
 #pragma once
 
 #include <cstdint>

@@ -1,6 +1,6 @@
 // HelperLaunch_p.h: starts the helper's process from bytes that nobody can change any more. The process gets only what
 // is listed here from the host.
-// Thread: any. Ownership: the objects own the descriptors; the caller waits for the child process.
+// Ownership: the objects own the descriptors; the caller waits for the child process.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

@@ -1,5 +1,5 @@
 // InstallTarget.h: the installed bundle that an update will replace, opened once, and whether it can be replaced.
-// Thread: any. Ownership: the object owns the descriptors; all code that updates the bundle uses only them.
+// Ownership: the object owns the descriptors; all code that updates the bundle uses only them.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

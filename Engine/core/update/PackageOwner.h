@@ -1,5 +1,4 @@
 // PackageOwner.h: whether a package manager keeps an application up to date, and how a person uses it.
-// Thread: any.
 #pragma once
 
 #include <QString>

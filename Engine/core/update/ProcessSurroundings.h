@@ -1,5 +1,4 @@
 // ProcessSurroundings.h: properties that a program started by this process would inherit. The helper sets them later.
-// Thread: any.
 #pragma once
 
 #include <cstdint>

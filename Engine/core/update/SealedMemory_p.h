@@ -1,6 +1,6 @@
 // SealedMemory_p.h: files in memory that nobody can change after they are sealed.
-// Thread: any. Ownership: the caller's. Each function throws UpdateRefusal if the system refuses: HelperUnusable, or
-// SealedMemoryUnavailable if it has no such files.
+// Each function throws UpdateRefusal if the system refuses: HelperUnusable, or SealedMemoryUnavailable if it has no
+// such files.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

@@ -1,7 +1,7 @@
 // SealedProgram.h: a copy of the helper's program in memory that nobody can change. It is made at the first use and
 // kept. A disk that is busy with an update may be slow to read the program again, and a process must continue with the
 // helper that it started with, even after an installation.
-// Thread: any. Ownership: the object owns the copy; a started program keeps it.
+// Ownership: the object owns the copy; a started program keeps it.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

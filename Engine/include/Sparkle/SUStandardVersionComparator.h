@@ -1,5 +1,5 @@
 // SUStandardVersionComparator.h: the engine's own order of version texts, used if the delegate has no comparator.
-// Thread: any. Ownership: the shared comparator lives as long as the process.
+// Ownership: the shared comparator lives as long as the process.
 #pragma once
 
 #import <Foundation/Foundation.h>

@@ -1,5 +1,5 @@
 // ArchiveServer.h: answers for an archive on a LoopbackServer: whole, in ranges, cut, changed, wrong.
-// Thread: the test's. Ownership: values.
+// Thread: the test's.
 #pragma once
 
 #include "tests/support/LoopbackServer.h"

@@ -1,5 +1,5 @@
 // DownloadHarness.h: runs one download to its end and looks at what it left. Plain C++.
-// Thread: main, with an application object. Ownership: values.
+// Thread: main, with an application object.
 #pragma once
 
 #include "Engine/core/download/ArchiveDownload.h"

@@ -1,5 +1,5 @@
 // FetchHarness.h: runs one fetch to its end. Plain C++.
-// Thread: main, with an application object. Ownership: values.
+// Thread: main, with an application object.
 #pragma once
 
 #include "Engine/core/fetch/FeedFetcher.h"

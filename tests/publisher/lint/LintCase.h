@@ -1,5 +1,5 @@
 // LintCase.h: one feed and the one finding that it must have.
-// Thread: constants. Ownership: values only.
+// Thread: constants.
 #pragma once
 
 #include <QByteArray>

@@ -1,5 +1,5 @@
 // AppcastTool.h: one run of the publisher's tool, inside the test or as the program that is installed.
-// Thread: the test's main thread. Ownership: values only.
+// Thread: the test's main thread.
 #pragma once
 
 #include <QByteArray>

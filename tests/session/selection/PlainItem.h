@@ -1,5 +1,5 @@
 // PlainItem.h: a feed item of plain values, as tests write it, and the subject that it is judged against.
-// Thread: the test's. Ownership: values.
+// Thread: the test's.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/AppcastJudgement.h"

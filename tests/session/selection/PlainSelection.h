@@ -1,7 +1,7 @@
 // PlainSelection.h: the rules of the appcast selection written down one after the other: every property is read from
 // the item, through UTF-8, each time that a rule asks. What the session's fast way is held against, in answers and in
 // records, and what it is timed against. Objective-C++ only.
-// Thread: the Qt main thread. Ownership: none.
+// Thread: the Qt main thread.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager_p.h"

@@ -1,6 +1,5 @@
 // VersionText.h: versions from the texts of a feed, for callers that expect malformed text. Plain C++, private to the
 // session.
-// Thread: any.
 #pragma once
 
 #include "HostFramework/Version.h"

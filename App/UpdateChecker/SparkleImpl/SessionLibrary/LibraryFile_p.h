@@ -1,5 +1,5 @@
 // LibraryFile_p.h: checks that a shared library and the libraries that it needs from its own folder are whole files.
-// Thread: any. Linux only.
+// Linux only.
 #pragma once
 
 #include <optional>

@@ -1,5 +1,5 @@
 // UpdateTraces_p.h: whether an update may have left files next to the running bundle, found without the engine.
-// Thread: any. Linux only.
+// Linux only.
 #pragma once
 
 namespace Pelnar::App

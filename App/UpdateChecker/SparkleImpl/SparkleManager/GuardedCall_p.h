@@ -1,5 +1,4 @@
 // GuardedCall_p.h: the session's only catch-all. Plain C++, private to the session.
-// Thread: any.
 #pragma once
 
 #include <functional>

@@ -293,7 +293,6 @@ TEST_F(CheckContract, WithoutABundleVersionTheChoiceStands)
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 0.1"}));
 }
 
-// The portal of a hotel.
 TEST_F(CheckContract, EmptyFeedIsAnErrorOfItsOwn)
 {
     for (char const* const body : {"", " \r\n"})
@@ -308,6 +307,7 @@ TEST_F(CheckContract, EmptyFeedIsAnErrorOfItsOwn)
     }
 }
 
+// The portal of a hotel.
 TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
 {
     LoopbackServer server(Answering(OkAnswer("<!DOCTYPE html><html><head><title>Login</title></head><body/></html>")));

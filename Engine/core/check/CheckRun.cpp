@@ -140,10 +140,6 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
 
 Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
 {
-    if (outcome.bytes.trimmed().isEmpty())
-    {
-        return Failure(ErrorCause::FeedEmpty);
-    }
     QDateTime const now = m_now();
     auto believed = BelieveKeys(
         outcome.bytes,
@@ -165,6 +161,10 @@ Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
             return Failure(verified.error());
         }
         content = *std::move(verified);
+    }
+    if (content.trimmed().isEmpty())
+    {
+        return Failure(ErrorCause::FeedEmpty);
     }
     FeedParseResult result = ParseFeed(content, outcome.url, {m_settings.platform, m_settings.machine},
                                        m_settings.feedLimits, m_settings.languages);

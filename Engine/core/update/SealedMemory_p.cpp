@@ -3,6 +3,8 @@
 #include "Engine/core/faults/UpdateFault.h"
 
 #include <cerrno>
+#include <chrono>
+#include <thread>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -13,6 +15,8 @@ namespace
 {
 
 constexpr unsigned NOT_EXECUTABLE_MEMORY = 0x8; // MFD_NOEXEC_SEAL, which the oldest supported headers do not define
+constexpr std::chrono::seconds LONGEST_WAIT_FOR_PAGES{5};
+constexpr std::chrono::milliseconds PAUSE{5};
 constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
 [[noreturn]] void Fail()
@@ -55,9 +59,15 @@ void AppendToMemory(UniqueFd const& file, Bytes bytes)
 
 void SealMemory(UniqueFd const& file)
 {
-    if (::fcntl(file.Get(), F_ADD_SEALS, SEALS) != 0)
+    auto const end = std::chrono::steady_clock::now() + LONGEST_WAIT_FOR_PAGES;
+    while (::fcntl(file.Get(), F_ADD_SEALS, SEALS) != 0)
     {
-        Fail();
+        // A busy system holds pages of the file for a moment: its own writing, or the move of a page.
+        if (errno != EBUSY || std::chrono::steady_clock::now() > end)
+        {
+            Fail();
+        }
+        std::this_thread::sleep_for(PAUSE);
     }
 }
 

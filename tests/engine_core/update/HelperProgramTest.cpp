@@ -4,20 +4,26 @@
 #include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/update/HelperLaunch_p.h"
 #include "Engine/core/update/HelperProcess.h"
+#include "Engine/core/update/SealedMemory_p.h"
 #include "tests/engine_core/update/HelperProcesses.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
 #include "tests/support/TestApplication.h"
+#include "tests/support/ThreadState.h"
 
 #include <QCoreApplication>
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include <fcntl.h>
 #include <signal.h>
+#include <sys/mman.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -49,6 +55,30 @@ TEST_F(HelperProcesses, ProgramSwappedAfterItWasReadIsNotRun)
     EXPECT_LT(::pwrite(program.Descriptor(), "x", 1, 0), 0);
     EXPECT_EQ(errno, EPERM);
     EXPECT_LT(::ftruncate(program.Descriptor(), 0), 0);
+}
+
+TEST(SealedMemory, IsSealedOnceTheSystemLetsGoOfItsPages)
+{
+    UniqueFd const file = MakeMemoryFile("job", 0);
+    std::array<std::uint8_t, 1> const byte{7};
+    AppendToMemory(file, Bytes(byte.data(), byte.size()));
+    // A mapping that may be written is refused as pages are that the system holds.
+    void* const held = ::mmap(nullptr, 1, PROT_READ | PROT_WRITE, MAP_SHARED, file.Get(), 0);
+    ASSERT_NE(held, MAP_FAILED);
+    ASSERT_NE(::fcntl(file.Get(), F_ADD_SEALS, F_SEAL_WRITE), 0);
+    ASSERT_EQ(errno, EBUSY);
+    std::thread system(
+        [held, sealing = RunningThread()]
+        {
+            while (!IsAsleep(sealing))
+            {
+                std::this_thread::yield();
+            }
+            ::munmap(held, 1);
+        });
+    EXPECT_NO_THROW(SealMemory(file));
+    system.join();
+    EXPECT_NE(::fcntl(file.Get(), F_GET_SEALS) & F_SEAL_WRITE, 0);
 }
 
 struct ProgramRow

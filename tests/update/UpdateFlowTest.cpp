@@ -101,7 +101,7 @@ TEST_F(UpdateFlowTest, FoundUpdateIsOfferedAndPutOff)
     EXPECT_EQ(windows.open, "");
 }
 
-TEST_F(UpdateFlowTest, TheSmallerArchiveIsDownloaded)
+TEST_F(UpdateFlowTest, TheSmallerArchiveIsDownloadedAndTheOtherWhenThatFails)
 {
     settings.automaticDownload = AutomaticDownload::On;
     Publish(FeedWith(Signed(ItemOf("5.1", "<p:recompressed xmlns:p=\"https://pelnar.example/xml-namespaces/appcast\" "
@@ -111,6 +111,10 @@ TEST_F(UpdateFlowTest, TheSmallerArchiveIsDownloaded)
     ASSERT_EQ(parts.requests.size(), 1u);
     EXPECT_EQ(parts.requests[0].url.fileName(), QStringLiteral("Pelnar-5.1.tar.zst"));
     EXPECT_EQ(parts.requests[0].declaredBytes, 600u);
+    parts.FailDownload(ErrorCause::HttpStatus);
+    ASSERT_EQ(parts.requests.size(), 2u);
+    EXPECT_EQ(parts.requests[1].url.fileName(), QStringLiteral("Pelnar-5.1.zip"));
+    EXPECT_EQ(parts.requests[1].declaredBytes, 1000u);
 }
 
 TEST_F(UpdateFlowTest, UnaskedUpdateIsOfferedQuietly)

@@ -77,18 +77,19 @@ void UpdateFlow::FeedLoaded(std::vector<FeedItem> const& items)
     m_host.FeedLoaded(items);
 }
 
-UpdateCandidate UpdateFlow::CandidateAt(ItemIndex const& place) const
+void UpdateFlow::AddCandidates(ItemIndex const& place)
 {
     FeedItem const& item = m_items->at(static_cast<size_t>(place.item));
-    UpdateCandidate candidate{place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item, place};
-    candidate.item.deltas.clear();
-    for (FeedItem const& recompressed : std::exchange(candidate.item.recompressed, {}))
+    UpdateCandidate whole{place.delta ? item.deltas.at(static_cast<size_t>(*place.delta)) : item, place};
+    whole.item.deltas.clear();
+    for (FeedItem const& recompressed : std::exchange(whole.item.recompressed, {}))
     {
-        candidate.item.fileUrl = recompressed.fileUrl;
-        candidate.item.contentLength = recompressed.contentLength;
-        candidate.item.edSignature = recompressed.edSignature;
+        UpdateCandidate& smaller = m_candidates.emplace_back(whole);
+        smaller.item.fileUrl = recompressed.fileUrl;
+        smaller.item.contentLength = recompressed.contentLength;
+        smaller.item.edSignature = recompressed.edSignature;
     }
-    return candidate;
+    m_candidates.push_back(std::move(whole));
 }
 
 void UpdateFlow::TellFound(FoundUpdate const& found)
@@ -96,10 +97,10 @@ void UpdateFlow::TellFound(FoundUpdate const& found)
     m_host.TellFound(found);
     m_settings.feedReach = found.feedReach;
     m_settings.bundle.publicKeys = found.publicKeys;
-    m_candidates.push_back(CandidateAt(found.place));
+    AddCandidates(found.place);
     if (found.fallback)
     {
-        m_candidates.push_back(CandidateAt(*found.fallback));
+        AddCandidates(*found.fallback);
     }
 }
 

@@ -42,7 +42,8 @@ private:
 
     /// Fails if this check does not run at all.
     Result<void> JudgeStart() const;
-    UpdateCandidate CandidateAt(ItemIndex const& place) const;
+    /// Of an item with a smaller archive that archive first.
+    void AddCandidates(ItemIndex const& place);
     void CloseChecking();
     void CancelCheck();
     void EndUpdate(UpdateEnd const& end);

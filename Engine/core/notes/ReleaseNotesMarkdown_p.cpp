@@ -36,7 +36,7 @@ std::string_view EndOfOpenMarkup(std::string_view html)
         {
             last = std::move(token);
         }
-        if (last && last->kind == NotesToken::Kind::Text && last->text.back() == AFTER)
+        if (last && last->kind == NotesToken::Kind::Text && !last->text.empty() && last->text.back() == AFTER)
         {
             return end;
         }

@@ -15,6 +15,7 @@ namespace
 {
 
 using namespace Pelnar::Testing;
+
 TEST_F(CheckContract, ItemOfAnotherFeedIsRefused)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));

@@ -11,25 +11,6 @@ namespace
 {
 
 using namespace Pelnar::Testing;
-TEST_F(CheckContract, ItemOfAnotherFeedIsRefused)
-{
-    LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1")))));
-    int checks = 0;
-    DelegateScript script;
-    script.compare = &CompareNumbers;
-    script.choose = [&checks](int, std::vector<QString> const&) {
-        return ScriptedChoice{checks == 0 ? ScriptedChoice::Kind::Item : ScriptedChoice::Kind::Foreign, 0, {}};
-    };
-    UpdaterDriver driver(script);
-    driver.SetFeed(server.Url());
-    driver.Probe();
-    ASSERT_TRUE(driver.WaitForEnd());
-    ++checks; // now the delegate answers with what it kept of the first feed
-    driver.Probe();
-    ASSERT_TRUE(driver.WaitForEnd());
-    EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1", "asked", "aborted 1002"}));
-    EXPECT_EQ(driver.Errors()[0].underlyingCode, 800);
-}
 
 struct Skipping
 {

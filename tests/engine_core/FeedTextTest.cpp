@@ -35,7 +35,7 @@ TEST(FeedVersion, StandsInTheEnclosureElseInTheElementElseInTheFileName)
         {"empty attribute decides",
          R"(<sparkle:version>1</sparkle:version><enclosure url="A_3.zip" sparkle:version=""/>)", ""},
         {"empty element decides", R"(<sparkle:version/><enclosure url="A_3.zip"/>)", ""},
-        {"display version is none", "<sparkle:shortVersionString>7</sparkle:shortVersionString>", ""},
+        {"display version does not count", "<sparkle:shortVersionString>7</sparkle:shortVersionString>", ""},
         {"attribute without namespace", R"(<enclosure url="App.zip" version="2"/>)", ""},
         {"encoded control character in the file name", R"(<enclosure url="A_1%1B6.zip"/>)", "1 6"},
     };

@@ -48,6 +48,28 @@ void PutLargeVersions(PublisherFolder const& folder)
     }
 }
 
+/// The environment of a run that works in \a temporary.
+QProcessEnvironment EnvironmentIn(QTemporaryDir const& temporary)
+{
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
+    return environment;
+}
+
+/// Starts a run, and returns once it works in \a temporary or has ended.
+void StartAtWork(QProcess& process, PublisherFolder const& folder, QTemporaryDir const& temporary)
+{
+    process.setProcessEnvironment(EnvironmentIn(temporary));
+    process.start(AppcastProgram(), Arguments(folder));
+    QElapsedTimer waiting;
+    waiting.start();
+    while (QDir(temporary.path()).isEmpty() && process.state() != QProcess::NotRunning &&
+           waiting.elapsed() < PATIENCE_MS)
+    {
+        process.waitForFinished(1);
+    }
+}
+
 class InterruptedRun : public ::testing::TestWithParam<int>
 {
 };
@@ -61,21 +83,11 @@ TEST_P(InterruptedRun, LeavesNothingBehind)
     PutLargeVersions(folder);
     std::vector<std::string> const before = folder.Names();
     QTemporaryDir temporary;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
     int interrupted = 0;
     for (int delayMs : {0, 30, 120, 400})
     {
         QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(AppcastProgram(), Arguments(folder));
-        QElapsedTimer waiting;
-        waiting.start();
-        while (QDir(temporary.path()).isEmpty() && process.state() != QProcess::NotRunning &&
-               waiting.elapsed() < PATIENCE_MS)
-        {
-            process.waitForFinished(1);
-        }
+        StartAtWork(process, folder, temporary);
         bool const isDone = process.waitForFinished(delayMs); // or is at another step of its work by then
         if (isDone || process.state() == QProcess::NotRunning || ::kill(pid_t(process.processId()), GetParam()) != 0)
         {
@@ -102,21 +114,11 @@ TEST(KilledRun, LeavesNothingInTheFolderAndTheNextRunClearsTheTemporaryOne)
     PutLargeVersions(folder);
     std::vector<std::string> const before = folder.Names();
     QTemporaryDir temporary;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
     int killed = 0;
     for (int delayMs : {0, 30, 120, 400, 800})
     {
         QProcess process;
-        process.setProcessEnvironment(environment);
-        process.start(AppcastProgram(), Arguments(folder));
-        QElapsedTimer waiting;
-        waiting.start();
-        while (QDir(temporary.path()).isEmpty() && process.state() != QProcess::NotRunning &&
-               waiting.elapsed() < PATIENCE_MS)
-        {
-            process.waitForFinished(1);
-        }
+        StartAtWork(process, folder, temporary);
         if (process.waitForFinished(delayMs))
         {
             break;
@@ -127,7 +129,7 @@ TEST(KilledRun, LeavesNothingInTheFolderAndTheNextRunClearsTheTemporaryOne)
         EXPECT_EQ(folder.Names(), before) << delayMs;
     }
     EXPECT_GE(killed, 1);
-    ToolRun const run = RunAppcastProgram(Arguments(folder), {}, environment);
+    ToolRun const run = RunAppcastProgram(Arguments(folder), {}, EnvironmentIn(temporary));
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_TRUE(QDir(temporary.path()).isEmpty())
         << QDir(temporary.path()).entryList().join(QLatin1Char(' ')).toStdString();
@@ -138,16 +140,14 @@ TEST(KilledRun, FolderOfARunThatWorksIsLeftToIt)
     PublisherFolder const folder;
     PutLargeVersions(folder);
     QTemporaryDir temporary;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TMPDIR"), temporary.path());
     QProcess process;
-    process.setProcessEnvironment(environment);
+    process.setProcessEnvironment(EnvironmentIn(temporary));
     process.start(AppcastProgram(), Arguments(folder));
     for (int i = 0; i < 10; ++i)
     {
         PublisherFolder const other;
         other.PutVersion("1.0");
-        EXPECT_EQ(RunAppcastProgram(Arguments(other), {}, environment).status, 0);
+        EXPECT_EQ(RunAppcastProgram(Arguments(other), {}, EnvironmentIn(temporary)).status, 0);
     }
     ASSERT_TRUE(process.waitForFinished(PATIENCE_MS));
     EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();

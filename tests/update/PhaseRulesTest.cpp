@@ -3,6 +3,7 @@
 #include "Engine/core/update/PhaseRules.h"
 #include "tests/update/UpdateRunFixture.h"
 
+#include <iterator>
 #include <ostream>
 #include <sstream>
 
@@ -12,121 +13,30 @@ namespace
 using namespace Pelnar::Testing;
 using namespace Pelnar::Engine;
 
+constexpr char const* PHASES[] = {
+#define PELNAR_PHASE(name, steps) #name,
+#include "Engine/core/update/PhaseRules.def"
+};
+
+constexpr char const* EVENTS[] = {
+#define PELNAR_EVENT(name) #name,
+#include "Engine/core/update/PhaseRules.def"
+};
+
 std::string NameOf(RunPhase phase)
 {
-    switch (phase)
-    {
-    case RunPhase::Starting:
-        return "Starting";
-    case RunPhase::Asking:
-        return "Asking";
-    case RunPhase::Downloading:
-        return "Downloading";
-    case RunPhase::Preparing:
-        return "Preparing";
-    case RunPhase::Ready:
-        return "Ready";
-    case RunPhase::Deciding:
-        return "Deciding";
-    case RunPhase::Armed:
-        return "Armed";
-    case RunPhase::Relaunching:
-        return "Relaunching";
-    case RunPhase::Dropping:
-        return "Dropping";
-    case RunPhase::Ended:
-        return "Ended";
-    }
-    return {};
-}
-
-std::string NameOf(RunEvent event)
-{
-    switch (event)
-    {
-    case RunEvent::Started:
-        return "Started";
-    case RunEvent::PageOffered:
-        return "PageOffered";
-    case RunEvent::TargetOpened:
-        return "TargetOpened";
-    case RunEvent::Refused:
-        return "Refused";
-    case RunEvent::Skipped:
-        return "Skipped";
-    case RunEvent::PutOff:
-        return "PutOff";
-    case RunEvent::Agreed:
-        return "Agreed";
-    case RunEvent::Downloaded:
-        return "Downloaded";
-    case RunEvent::Prepared:
-        return "Prepared";
-    case RunEvent::CandidateFailed:
-        return "CandidateFailed";
-    case RunEvent::LastCandidateFailed:
-        return "LastCandidateFailed";
-    case RunEvent::Offered:
-        return "Offered";
-    case RunEvent::InstallNow:
-        return "InstallNow";
-    case RunEvent::InstallAllowed:
-        return "InstallAllowed";
-    case RunEvent::RelaunchAllowed:
-        return "RelaunchAllowed";
-    case RunEvent::PathGiven:
-        return "PathGiven";
-    case RunEvent::Declined:
-        return "Declined";
-    case RunEvent::Dropped:
-        return "Dropped";
-    case RunEvent::HelperWaits:
-        return "HelperWaits";
-    case RunEvent::HelperFailed:
-        return "HelperFailed";
-    case RunEvent::ApplicationQuits:
-        return "ApplicationQuits";
-    case RunEvent::SessionEnds:
-        return "SessionEnds";
-    case RunEvent::Cancelled:
-        return "Cancelled";
-    case RunEvent::HostRaised:
-        return "HostRaised";
-    }
-    return {};
-}
-
-/// All values of an enum that NameOf knows.
-template <typename Value>
-std::vector<Value> All()
-{
-    std::vector<Value> all;
-    while (!NameOf(static_cast<Value>(all.size())).empty())
-    {
-        all.push_back(static_cast<Value>(all.size()));
-    }
-    return all;
+    return PHASES[static_cast<int>(phase)];
 }
 
 /// Says which step was called.
 struct StepName final : IUpdateSteps
 {
-    void OpenTarget() override { name = "OpenTarget"; }
-    void Ask() override { name = "Ask"; }
-    void Skip() override { name = "Skip"; }
-    void Download() override { name = "Download"; }
-    void Prepare() override { name = "Prepare"; }
-    void DownloadNext() override { name = "DownloadNext"; }
-    void AskToInstall() override { name = "AskToInstall"; }
-    void OfferOnQuit() override { name = "OfferOnQuit"; }
-    void AskHost() override { name = "AskHost"; }
-    void AskForPath() override { name = "AskForPath"; }
-    void Arm() override { name = "Arm"; }
-    void Relaunch() override { name = "Relaunch"; }
-    void TellRelaunch() override { name = "TellRelaunch"; }
-    void Drop() override { name = "Drop"; }
-    void Finish() override { name = "Finish"; }
-    void End() override { name = "End"; }
+#define PELNAR_STEP(step)                                                                                              \
+    void step() override                                                                                               \
+    {                                                                                                                  \
+        name = #step;                                                                                                  \
+    }
+#include "Engine/core/update/PhaseRules.def"
 
     std::string name;
 };
@@ -135,15 +45,15 @@ struct StepName final : IUpdateSteps
 std::string Table(UpdateMode mode)
 {
     std::ostringstream text;
-    for (RunPhase const phase : All<RunPhase>())
+    for (int phase = 0; phase < int(std::size(PHASES)); ++phase)
     {
-        for (RunEvent const event : All<RunEvent>())
+        for (int event = 0; event < int(std::size(EVENTS)); ++event)
         {
-            if (auto const transition = TransitionAt(phase, event, mode))
+            if (auto const transition = TransitionAt(static_cast<RunPhase>(phase), static_cast<RunEvent>(event), mode))
             {
                 StepName step;
                 (step.*transition->step)();
-                text << NameOf(phase) << " " << NameOf(event) << ": " << step.name << ", " << NameOf(transition->next)
+                text << PHASES[phase] << " " << EVENTS[event] << ": " << step.name << ", " << NameOf(transition->next)
                      << "\n";
             }
         }

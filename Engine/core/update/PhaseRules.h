@@ -1,5 +1,5 @@
-// PhaseRules.h: the phases of an update, and the step that follows each event in each phase. An event without a row
-// does nothing. Pure.
+// PhaseRules.h: the phases of an update, and the step that follows each event in each phase. Pure. PhaseRules.def is
+// the table.
 #pragma once
 
 #include "Engine/core/update/UpdateRules.h"
@@ -11,67 +11,22 @@ namespace Pelnar::Engine
 
 enum class RunPhase
 {
-    Starting,
-    Asking,
-    Downloading,
-    Preparing,
-    Ready,       ///< prepared; a person or the application is being asked
-    Deciding,    ///< the application decides about an immediate installation
-    Armed,       ///< a helper waits for the application's end, to install without a relaunch
-    Relaunching, ///< a helper waits for the application's end, to install and restart it
-    Dropping,    ///< the application hears that nothing is installed
-    Ended,
+#define PELNAR_PHASE(name, steps) name,
+#include "Engine/core/update/PhaseRules.def"
 };
 
 enum class RunEvent
 {
-    Started,
-    PageOffered, ///< the item is a page to read
-    TargetOpened,
-    Refused, ///< no update is possible here
-    Skipped,
-    PutOff,
-    Agreed, ///< a person wants the update
-    Downloaded,
-    Prepared,
-    CandidateFailed,     ///< another one is left
-    LastCandidateFailed, ///< no other one is left
-    Offered,             ///< the application has heard of the installation on quit
-    InstallNow,
-    InstallAllowed,
-    RelaunchAllowed,
-    PathGiven, ///< the application has said what to start
-    Declined,  ///< by the application, or by the end of the desktop session
-    Dropped,
-    HelperWaits, ///< for the application's end
-    HelperFailed,
-    ApplicationQuits,
-    SessionEnds, ///< the desktop's
-    Cancelled,   ///< by a person
-    HostRaised,  ///< an exception of the application
+#define PELNAR_EVENT(name) name,
+#include "Engine/core/update/PhaseRules.def"
 };
 
-/// What an update does at a transition, in the new phase. A step ends in an event, or waits for one.
 class IUpdateSteps
 {
 public:
     virtual ~IUpdateSteps() = default;
-    virtual void OpenTarget() = 0;
-    virtual void Ask() = 0;
-    virtual void Skip() = 0;
-    virtual void Download() = 0;
-    virtual void Prepare() = 0;
-    virtual void DownloadNext() = 0;
-    virtual void AskToInstall() = 0;
-    virtual void OfferOnQuit() = 0;
-    virtual void AskHost() = 0;
-    virtual void AskForPath() = 0;
-    virtual void Arm() = 0;
-    virtual void Relaunch() = 0;
-    virtual void TellRelaunch() = 0;
-    virtual void Drop() = 0;
-    virtual void Finish() = 0; ///< closes the window, then as End
-    virtual void End() = 0;
+#define PELNAR_STEP(name) virtual void name() = 0;
+#include "Engine/core/update/PhaseRules.def"
 };
 
 struct RunTransition
@@ -79,6 +34,7 @@ struct RunTransition
     void (IUpdateSteps::*step)();
     RunPhase next;
 };
+/// Empty if the event does nothing in that phase.
 [[nodiscard]] std::optional<RunTransition> TransitionAt(RunPhase phase, RunEvent event, UpdateMode mode);
 
 } // namespace Pelnar::Engine

@@ -48,23 +48,6 @@ public:
     void GiveUpInstallation();
 
 private:
-    void OpenTarget() override;
-    void Ask() override;
-    void Skip() override;
-    void Download() override;
-    void Prepare() override;
-    void DownloadNext() override;
-    void AskToInstall() override;
-    void OfferOnQuit() override;
-    void AskHost() override;
-    void AskForPath() override;
-    void Arm() override;
-    void Relaunch() override;
-    void TellRelaunch() override;
-    void Drop() override;
-    void End() override;
-    void Finish() override;
-
     /// Goes to the next phase and does its step, which may destroy this object.
     void Take(RunEvent event);
     /// The same; \a error is told if the update ends.
@@ -113,6 +96,9 @@ private:
     std::unique_ptr<InstallHandover> m_handover;
     RelaunchWish m_wish = RelaunchWish::StayClosed;
     QString m_relaunchPath; ///< the application's answer
+
+#define PELNAR_STEP(name) void name() override;
+#include "Engine/core/update/PhaseRules.def"
 };
 
 } // namespace Pelnar::Engine

@@ -2,7 +2,7 @@
 // Ownership: the values are the verb's and outlive its command line.
 #pragma once
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 
 #include <QJsonObject>
 

@@ -2,7 +2,7 @@
 // same answer.
 
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/choice/FeedChoice.h"
 
 #include <QByteArray>

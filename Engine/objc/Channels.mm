@@ -1,6 +1,6 @@
 #include <Pelnar/HostRequests_p.h>
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/objc/BundleSettings_p.h"
 
 #include <glog/logging.h>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "HostFramework/Version.h"
 
 #include <vector>

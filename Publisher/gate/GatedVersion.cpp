@@ -4,7 +4,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/check/KeyStatement.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/keys/KeyId.h"

@@ -3,7 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/bundle/CheckBundle.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/delta/DeltaFile.h"

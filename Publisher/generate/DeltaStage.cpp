@@ -1,6 +1,6 @@
 #include "Publisher/generate/DeltaStage.h"
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/generate/RecompressStage.h"

@@ -1,7 +1,7 @@
 // DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
 
 #include "Engine/core/bundle/Ed25519Signature.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"

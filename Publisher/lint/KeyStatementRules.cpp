@@ -2,7 +2,7 @@
 
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/KeyStatement.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/SignatureRules.h"

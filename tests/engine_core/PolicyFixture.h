@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // CheckRules.h: whether the chosen item is offered. Pure functions.
 #pragma once
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "Engine/core/check/RolloutSeed.h"
 
 #include "Engine/core/faults/UpdateFault.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/helper/NoteFile.h"
 
 #include <QCryptographicHash>

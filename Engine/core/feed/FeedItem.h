@@ -26,7 +26,7 @@ namespace Pelnar::Engine
     return inherited;
 }
 
-/// What an item says of the installations that it is meant for: ReleasePolicy.h. A delta has its parent's.
+/// What an item says of the installations that it is meant for: ReleaseRules.h. A delta has its parent's.
 struct ItemPolicy
 {
     QString channel;              ///< empty: for all

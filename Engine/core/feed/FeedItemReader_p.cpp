@@ -4,7 +4,7 @@
 #include "Engine/core/feed/FeedEnclosure_p.h"
 #include "Engine/core/feed/FeedPolicyReader_p.h"
 #include "Engine/core/feed/FeedProperties_p.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 
 #include <limits>
 

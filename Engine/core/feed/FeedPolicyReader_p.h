@@ -1,4 +1,4 @@
-// FeedPolicyReader_p.h: what the elements of an item that speak of installations say; ReleasePolicy.h judges it.
+// FeedPolicyReader_p.h: what the elements of an item that speak of installations say; ReleaseRules.h judges it.
 #pragma once
 
 #include "Engine/core/feed/FeedItem.h"

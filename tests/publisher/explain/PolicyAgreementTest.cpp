@@ -6,7 +6,7 @@
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/VersionOrder_p.h"
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/FeedParser.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
 #include "HostFramework/VersionText.h"
 #include "Publisher/diff/FeedDiff.h"

@@ -1,7 +1,7 @@
 // AccidentTest.cpp: what a publisher does by accident, and "generate" must not publish: each with the file, the entry
 // and the mend in its error, exit status 1, and nothing changed in the folder.
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/gate/AccidentFixture.h"
 
 #include <elf.h>

@@ -1,7 +1,7 @@
 // KeyAccidentTest.cpp: accidents with keys, which would leave clients without updates: "generate" publishes none.
 
 #include "Engine/core/bundle/TrustedKeys.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/gate/AccidentFixture.h"
 
 #include <sys/stat.h>

@@ -1,7 +1,7 @@
 // KeyAgreementTest.cpp: random releases by changing keys: what the gate lets through, every client takes, step by step
 // up to the newest version; what it refuses for the newest version, some client never gets.
 
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 

@@ -1,7 +1,7 @@
 // GenerateDeltasTest.cpp: which deltas "generate" makes and takes, and which it leaves out.
 
 #include "Engine/core/delta/DeltaContainer.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>

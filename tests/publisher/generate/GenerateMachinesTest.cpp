@@ -1,7 +1,7 @@
 // GenerateMachinesTest.cpp: the verb "generate" with programs for several machines.
 
 #include "Engine/core/delta/DeltaContainer.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 // GenerateTest.cpp: the verb "generate": what a feed says of a folder, and that what is published stays.
 
 #include "Engine/core/delta/DeltaContainer.h"
-#include "Engine/core/feed/ReleasePolicy.h"
+#include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// ReleasePolicyTest.cpp: for which installations an item is meant: what a feed says, the verdict, and its name.
+// ReleaseRulesTest.cpp: for which installations an item is meant: what a feed says, the verdict, and its name.
 
 #include "tests/engine_core/PolicyFixture.h"
 
@@ -124,7 +124,7 @@ INSTANTIATE_TEST_SUITE_P(
             "", Client(), ""}),
     [](auto const& info) { return std::string(info.param.name); });
 
-TEST(ReleasePolicy, OfSeveralEnclosuresTheFirstForTheMachineIsTaken)
+TEST(ReleaseRules, OfSeveralEnclosuresTheFirstForTheMachineIsTaken)
 {
     QByteArray const others = "<enclosure url='b.zip' length='2' sparkle:version='6.0' pelnar:machine='aarch64'/>"
                               "<enclosure url='c.zip' length='3' sparkle:version='6.0' pelnar:machine='x86_64'/>";
@@ -140,7 +140,7 @@ TEST(ReleasePolicy, OfSeveralEnclosuresTheFirstForTheMachineIsTaken)
     EXPECT_EQ(nameFor(""), "b.zip");
 }
 
-TEST(ReleasePolicy, GroupIsAskedForTheVersionOfTheItem)
+TEST(ReleaseRules, GroupIsAskedForTheVersionOfTheItem)
 {
     Installation installation = InGroup(0, "2030-01-07T10:00:00Z");
     QString asked;
@@ -156,14 +156,14 @@ TEST(ReleasePolicy, GroupIsAskedForTheVersionOfTheItem)
               "group 4 of 7 gets it at 2030-01-10T10:00:00Z");
 }
 
-TEST(ReleasePolicy, ItemWithoutADateIsNotStaged)
+TEST(ReleaseRules, ItemWithoutADateIsNotStaged)
 {
     FeedItem item = ItemWith(DAILY);
     item.dateString = QStringLiteral("soon");
     EXPECT_EQ(Engine::JudgePolicy(item, InGroup(6, "2030-01-07T10:00:00Z"), OrderOf), PolicyVerdict::Plain);
 }
 
-TEST(ReleasePolicy, WhatIsLeftOutGoesWithItsDeltas)
+TEST(ReleaseRules, WhatIsLeftOutGoesWithItsDeltas)
 {
     QByteArray const deltas = "<sparkle:deltas>"
                               "<enclosure url='d1' length='1' sparkle:version='6.0' sparkle:deltaFrom='5.0' "
@@ -177,7 +177,7 @@ TEST(ReleasePolicy, WhatIsLeftOutGoesWithItsDeltas)
     EXPECT_EQ(items[0].deltas[0].fileUrl.fileName().toStdString(), "d2");
 }
 
-TEST(ReleasePolicy, CriticalIsSettledForTheInstalledVersion)
+TEST(ReleaseRules, CriticalIsSettledForTheInstalledVersion)
 {
     std::vector<FeedItem> items{ItemWith("<sparkle:criticalUpdate sparkle:version='5.1'/>"),
                                 ItemWith("<sparkle:criticalUpdate sparkle:version='5.0'/>"),
@@ -192,7 +192,7 @@ TEST(ReleasePolicy, CriticalIsSettledForTheInstalledVersion)
     EXPECT_FALSE(items[4].isCritical);
 }
 
-TEST(ReleasePolicy, FeedWithoutItIsTheSameAndAsksForNoOrder)
+TEST(ReleaseRules, FeedWithoutItIsTheSameAndAsksForNoOrder)
 {
     std::vector<FeedItem> items{ItemWith("<sparkle:criticalUpdate/>"), ItemWith("")};
     Engine::LeaveOut(items, Client(),
@@ -200,14 +200,14 @@ TEST(ReleasePolicy, FeedWithoutItIsTheSameAndAsksForNoOrder)
     EXPECT_EQ(items.size(), 2u);
 }
 
-TEST(ReleasePolicy, LineOfAVersionIsItsFirstTwoNumbers)
+TEST(ReleaseRules, LineOfAVersionIsItsFirstTwoNumbers)
 {
     EXPECT_EQ(Engine::VersionLine(QStringLiteral("5.10.3")).toStdString(), "5.10");
     EXPECT_EQ(Engine::VersionLine(QStringLiteral("5.10")).toStdString(), "5.10");
     EXPECT_EQ(Engine::VersionLine(QStringLiteral("5")).toStdString(), "5");
 }
 
-TEST(ReleasePolicy, ReasonSaysWhatTheItemAsksForAndWhatIsThere)
+TEST(ReleaseRules, ReasonSaysWhatTheItemAsksForAndWhatIsThere)
 {
     struct
     {
@@ -241,7 +241,7 @@ TEST(ReleasePolicy, ReasonSaysWhatTheItemAsksForAndWhatIsThere)
               "channel beta, listed: alpha, nightly");
 }
 
-TEST(ReleasePolicy, WhatIsToBeAskedIsSettledForTheInstalledVersion)
+TEST(ReleaseRules, WhatIsToBeAskedIsSettledForTheInstalledVersion)
 {
     auto const settled = [](char const* elements, char const* version = "5.0")
     {
@@ -263,7 +263,7 @@ TEST(ReleasePolicy, WhatIsToBeAskedIsSettledForTheInstalledVersion)
     EXPECT_EQ(settled(automatic, ""), "");
 }
 
-TEST(ReleasePolicy, ChannelHasANameThatAListCanHold)
+TEST(ReleaseRules, ChannelHasANameThatAListCanHold)
 {
     for (char const* const name : {"beta", "b", "release-candidate_2", "\xC3\xA9t\xC3\xA9"})
     {

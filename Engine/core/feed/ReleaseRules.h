@@ -1,4 +1,4 @@
-// ReleasePolicy.h: for which installations an item of a feed is meant. Clients and the publisher's tool ask the same
+// ReleaseRules.h: for which installations an item of a feed is meant. Clients and the publisher's tool ask the same
 // functions; docs/guide/publishing.md tells a publisher what they do.
 #pragma once
 

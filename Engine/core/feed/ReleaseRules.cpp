@@ -1,5 +1,5 @@
-// ReleasePolicy.cpp: for which installations an item of a feed is meant.
-#include "Engine/core/feed/ReleasePolicy.h"
+// ReleaseRules.cpp: for which installations an item of a feed is meant.
+#include "Engine/core/feed/ReleaseRules.h"
 
 #include "Engine/core/faults/EngineError.h"
 

@@ -2,10 +2,12 @@
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/delta/PackedFiles.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -28,27 +30,59 @@ ContentHash TreeOf(std::string const& path)
     return folder ? Engine::DigestTree(folder.Get()) : ContentHash{};
 }
 
+std::vector<ForgedEntry> MakeBundleForDeltas(std::string const& version)
+{
+    std::string const resources = std::string(APP) + "/Resources/";
+    std::vector<ForgedEntry> entries = MakeBundle(version);
+    std::string blob = Noise(1, 20000);
+    blob.replace(5000, 3, version);
+    std::string words = WordsOf(1, 9000);
+    words.replace(500, 3, version);
+    entries.push_back({resources + "blob", 'f', blob});
+    entries.push_back({resources + "same", 'f', Noise(2, 500)});
+    entries.push_back({resources + "moved-" + version, 'f', Noise(3, 700)});
+    entries.push_back({resources + "words.gz", 'f', GzipOf(words)});
+    return entries;
+}
+
 std::string DeltaToTheNextVersion()
 {
     Workspace const old;
     Workspace const fresh;
-    old.Put(MakeBundle("1.0"));
-    fresh.Put(MakeBundle("2.0"));
+    old.Put(MakeBundleForDeltas("1.0"));
+    fresh.Put(MakeBundleForDeltas("2.0"));
     std::string const path = old.Path() + "/delta";
     UniqueFd const container(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
     Engine::DeltaReport const report =
         Engine::MakeDelta(old.Path() + '/' + APP, "1.0", fresh.Path() + '/' + APP, "2.0", container.Get());
     EXPECT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_GE(report.keptFiles, 2u);
+    EXPECT_GE(report.patchedFiles, 2u);
+    EXPECT_GT(report.wholeFiles, 0u);
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-Versions::Versions()
+UpdateScene& WithBase(UpdateScene& scene)
+{
+    std::filesystem::remove_all(scene.Place().Path() + '/' + APP);
+    scene.Place().Put(MakeBundleForDeltas("1.0"));
+    return scene;
+}
+
+Engine::PrepareJob DeltaJob(UpdateScene const& scene)
+{
+    Engine::PrepareJob job = scene.MakePrepareJob();
+    job.kind = Engine::PayloadKind::Delta;
+    return job;
+}
+
+Versions::Versions(std::vector<ForgedEntry> const& before, std::vector<ForgedEntry> const& after)
 {
     Workspace const place;
-    place.Put(MakeBundle("1.0"));
+    place.Put(before);
     previous = TreeOf(place.Path() + '/' + APP);
-    UpdateScene scene;
+    UpdateScene scene(MakeArchive(Container::Zip, after));
     scene.PrepareForInstall();
     next = TreeOf(scene.StagingPath() + '/' + APP);
 }

@@ -15,13 +15,24 @@ bool IsEveryPlaceWanted();
 /// The hash of the tree of the folder at \a path; of nothing when there is none.
 Engine::ContentHash TreeOf(std::string const& path);
 
-/// The delta from the installed version to the next one.
+/// A bundle of which a delta keeps a file, keeps one under another name, patches one, and packs one again.
+std::vector<ForgedEntry> MakeBundleForDeltas(std::string const& version);
+
+/// The delta from 1.0 to 2.0 of that bundle.
 std::string DeltaToTheNextVersion();
+
+/// Puts 1.0 of that bundle in the place of the installed one.
+UpdateScene& WithBase(UpdateScene& scene);
+
+/// Prepares the update by a delta.
+Engine::PrepareJob DeltaJob(UpdateScene const& scene);
 
 /// The trees of both versions, as they are when whole.
 struct Versions
 {
-    Versions();
+    explicit Versions(std::vector<ForgedEntry> const& before = MakeBundle("1.0"),
+                      std::vector<ForgedEntry> const& after = MakeBundle("2.0"));
+    static Versions ForDeltas() { return Versions(MakeBundleForDeltas("1.0"), MakeBundleForDeltas("2.0")); }
     Engine::ContentHash previous;
     Engine::ContentHash next;
 };

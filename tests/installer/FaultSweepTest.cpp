@@ -72,24 +72,18 @@ void KillAtEach(std::vector<Place> const& places, std::vector<std::string> const
     EXPECT_GE(met * 10, places.size() * 9) << "too few of the places were met";
 }
 
-PrepareJob JobOf(UpdateScene const& scene, PayloadKind kind)
+void SweepPreparation(std::string const& archive, Versions const& versions,
+                      PrepareJob (*prepareScene)(UpdateScene& scene))
 {
-    PrepareJob job = scene.MakePrepareJob();
-    job.kind = kind;
-    return job;
-}
-
-void SweepPreparation(std::string const& archive, PayloadKind kind)
-{
-    Versions const versions;
     UpdateScene traced(archive);
-    std::vector<Place> const places = PlacesOf(
-        {}, [&](HelperStart const& start) { EXPECT_EQ(traced.Prepare(JobOf(traced, kind), start).exitStatus, 0); });
+    PrepareJob const job = prepareScene(traced);
+    std::vector<Place> const places =
+        PlacesOf({}, [&](HelperStart const& start) { EXPECT_EQ(traced.Prepare(job, start).exitStatus, 0); });
     KillAtEach(places, {},
                [&](Traced const& killed)
                {
                    UpdateScene scene(archive);
-                   HelperOutcome const outcome = scene.Prepare(JobOf(scene, kind), killed.Start());
+                   HelperOutcome const outcome = scene.Prepare(prepareScene(scene), killed.Start());
                    EXPECT_EQ(outcome.signal, killed.Kills() > 0 ? SIGKILL : 0);
                    EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
                    ExpectRecovered(scene, versions);
@@ -98,12 +92,14 @@ void SweepPreparation(std::string const& archive, PayloadKind kind)
 
 TEST(Faults, PreparationKilledAnywhereHarmsNothing)
 {
-    SweepPreparation(MakeArchive(Container::Zip, MakeBundle("2.0")), PayloadKind::WholeBundle);
+    SweepPreparation(MakeArchive(Container::Zip, MakeBundle("2.0")), Versions(),
+                     [](UpdateScene& scene) { return scene.MakePrepareJob(); });
 }
 
 TEST(Faults, PreparationByADeltaKilledAnywhereHarmsNothing)
 {
-    SweepPreparation(DeltaToTheNextVersion(), PayloadKind::Delta);
+    SweepPreparation(DeltaToTheNextVersion(), Versions::ForDeltas(),
+                     [](UpdateScene& scene) { return DeltaJob(WithBase(scene)); });
 }
 
 void SweepInstallation(std::vector<std::string> const& options)

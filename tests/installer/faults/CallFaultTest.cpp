@@ -122,7 +122,8 @@ protected:
     {
         EXPECT_EQ(outcome.signal, 0);
         EXPECT_TRUE(outcome.exitStatus == 0 || outcome.exitStatus == 1) << outcome.exitStatus;
-        if (outcome.exitStatus == 0 && GetParam() == Step::Preparation)
+        bool const isPreparation = GetParam() == Step::Preparation || GetParam() == Step::PreparationByADelta;
+        if (outcome.exitStatus == 0 && isPreparation)
         {
             EXPECT_TRUE(TreeOf(subject.scene.StagingPath() + '/' + APP) == versions.next);
         }
@@ -133,7 +134,7 @@ protected:
         }
     }
 
-    Versions const versions;
+    Versions const versions = GetParam() == Step::PreparationByADelta ? Versions::ForDeltas() : Versions();
 };
 
 TEST_P(EveryCall, FailsCleanly)
@@ -272,8 +273,8 @@ TEST_P(EveryCall, IsWhereTheSessionEnds)
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, EveryCall,
-                         testing::Values(Step::Preparation, Step::Installation, Step::InstallationWithoutExchange,
-                                         Step::Recovery),
+                         testing::Values(Step::Preparation, Step::PreparationByADelta, Step::Installation,
+                                         Step::InstallationWithoutExchange, Step::Recovery),
                          [](testing::TestParamInfo<Step> const& info) { return StepName(info.param); });
 
 } // namespace

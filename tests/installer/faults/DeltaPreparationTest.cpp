@@ -29,7 +29,7 @@ TEST_P(RightDeltas, ArePreparedAndInstalled)
     HelperOutcome const prepared = WithBase(scene).Prepare(DeltaJob(scene));
     ASSERT_EQ(prepared.exitStatus, 0) << FaultName(prepared.Fault());
     Workspace const fresh;
-    fresh.Put(BundleWithBlob("2.0"));
+    fresh.Put(MakeBundleForDeltas("2.0"));
     ContentHash const expected = TreeOf(fresh.Path() + '/' + APP);
     EXPECT_TRUE(prepared.Find<PreparedReport>()->digest == expected);
     InstallJob const job = scene.MakeInstallJob(expected);
@@ -39,7 +39,7 @@ TEST_P(RightDeltas, ArePreparedAndInstalled)
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
 }
 
-INSTANTIATE_TEST_SUITE_P(Formats, RightDeltas, testing::Values(&RightDelta, &RightSeparateDelta),
+INSTANTIATE_TEST_SUITE_P(Formats, RightDeltas, testing::Values(&DeltaToTheNextVersion, &RightSeparateDelta),
                          [](testing::TestParamInfo<std::string (*)()> const& info)
                          { return info.index == 0 ? "Joined" : "Separate"; });
 

@@ -3,6 +3,7 @@
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/delta/PackedFiles.h"
 #include "tests/delta/SeparateDelta.h"
 #include "tests/installer/EvilArchives.h"
 #include "tests/installer/FaultChecks.h"
@@ -42,7 +43,7 @@ std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data)
 
 std::string JoinedDeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
 {
-    return Changed(RightDelta(), change);
+    return Changed(DeltaToTheNextVersion(), change);
 }
 
 DeltaEntry& EntryOf(DeltaManifest& manifest, DeltaEntryKind kind)
@@ -181,23 +182,23 @@ TEST_P(EvilDelta, IsRefusedAndTheInstalledVersionStays)
 INSTANTIATE_TEST_SUITE_P(
     Rows, EvilDelta,
     testing::Values(
-        Row{"BaseOfAnotherVersion", &RightDelta,
+        Row{"BaseOfAnotherVersion", &DeltaToTheNextVersion,
             [](UpdateScene const& scene)
             {
                 std::filesystem::remove_all(AppIn(scene));
-                scene.Place().Put(BundleWithBlob("1.5"));
+                scene.Place().Put(MakeBundleForDeltas("1.5"));
             },
             UpdateFault::DeltaBaseDiffers},
-        Row{"BaseEditedByTheUser", &RightDelta,
+        Row{"BaseEditedByTheUser", &DeltaToTheNextVersion,
             [](UpdateScene const& scene) { std::ofstream(scene.Place().Path() + '/' + BLOB, std::ios::app) << "x"; },
             UpdateFault::DeltaBaseDiffers},
-        Row{"KeptFileEditedByTheUser", &RightDelta,
-            [](UpdateScene const& scene) { std::ofstream(AppIn(scene) + "/Resources/same") << Noise(499) << "x"; },
+        Row{"KeptFileEditedByTheUser", &DeltaToTheNextVersion,
+            [](UpdateScene const& scene) { std::ofstream(AppIn(scene) + "/Resources/same") << Noise(2, 499) << "x"; },
             UpdateFault::DeltaBaseDiffers},
-        Row{"BaseFileMissing", &RightDelta,
+        Row{"BaseFileMissing", &DeltaToTheNextVersion,
             [](UpdateScene const& scene) { std::filesystem::remove(scene.Place().Path() + '/' + BLOB); },
             UpdateFault::DeltaBaseDiffers},
-        Row{"LinkInABaseFilesPlace", &RightDelta,
+        Row{"LinkInABaseFilesPlace", &DeltaToTheNextVersion,
             [](UpdateScene const& scene)
             {
                 std::string const path = scene.Place().Path() + '/' + BLOB;
@@ -205,7 +206,7 @@ INSTANTIATE_TEST_SUITE_P(
                 std::filesystem::create_symlink(path + "-away", path);
             },
             UpdateFault::DeltaBaseDiffers},
-        Row{"LinkInABaseFoldersPlace", &RightDelta,
+        Row{"LinkInABaseFoldersPlace", &DeltaToTheNextVersion,
             [](UpdateScene const& scene)
             {
                 std::string const path = AppIn(scene) + "/Resources";
@@ -213,7 +214,7 @@ INSTANTIATE_TEST_SUITE_P(
                 std::filesystem::create_directory_symlink("Resources-away", path);
             },
             UpdateFault::DeltaBaseDiffers},
-        Row{"FifoInABaseFilesPlace", &RightDelta,
+        Row{"FifoInABaseFilesPlace", &DeltaToTheNextVersion,
             [](UpdateScene const& scene)
             {
                 std::string const path = scene.Place().Path() + '/' + BLOB;
@@ -225,7 +226,7 @@ INSTANTIATE_TEST_SUITE_P(
             [](UpdateScene const& scene)
             { std::ofstream(AppIn(scene) + "/Resources/blob", std::ios::in | std::ios::out).seekp(100) << "edited"; },
             UpdateFault::DeltaBaseDiffers},
-        Row{"BytesOfTheBaseEditedByTheUser", &RightDelta,
+        Row{"BytesOfTheBaseEditedByTheUser", &DeltaToTheNextVersion,
             [](UpdateScene const& scene)
             { std::ofstream(AppIn(scene) + "/Resources/blob", std::ios::in | std::ios::out).seekp(100) << "edited"; },
             UpdateFault::DeltaBaseDiffers},
@@ -372,9 +373,9 @@ INSTANTIATE_TEST_SUITE_P(
                     });
             },
             &LeaveAlone, UpdateFault::ContainerDamaged},
-        Row{"DataTooShort", [] { return RightDelta().substr(0, RightDelta().size() - 1); }, &LeaveAlone,
-            UpdateFault::ContainerDamaged},
-        Row{"DataTooLong", [] { return RightDelta() + "x"; }, &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"DataTooShort", [] { return DeltaToTheNextVersion().substr(0, DeltaToTheNextVersion().size() - 1); },
+            &LeaveAlone, UpdateFault::ContainerDamaged},
+        Row{"DataTooLong", [] { return DeltaToTheNextVersion() + "x"; }, &LeaveAlone, UpdateFault::ContainerDamaged},
         Row{"ArchiveInstead", [] { return MakeArchive(Container::Zip, MakeBundle("2.0")); }, &LeaveAlone,
             UpdateFault::ContainerUnknown}),
     [](testing::TestParamInfo<Row> const& info) { return info.param.name; });

@@ -18,6 +18,7 @@ namespace Pelnar::Testing
 enum class Step
 {
     Preparation,
+    PreparationByADelta,
     Installation,
     InstallationWithoutExchange,
     Recovery,
@@ -29,6 +30,8 @@ inline std::string StepName(Step step)
     {
     case Step::Preparation:
         return "Preparation";
+    case Step::PreparationByADelta:
+        return "PreparationByADelta";
     case Step::Installation:
         return "Installation";
     case Step::InstallationWithoutExchange:
@@ -54,9 +57,13 @@ enum class InstallOutcome
 class Subject
 {
 public:
-    explicit Subject(Step step, InstallOutcome outcome = InstallOutcome::Kept) : m_step(step)
+    explicit Subject(Step step, InstallOutcome outcome = InstallOutcome::Kept) : scene(ArchiveFor(step)), m_step(step)
     {
-        if (step != Step::Preparation)
+        if (step == Step::PreparationByADelta)
+        {
+            WithBase(scene);
+        }
+        else if (step != Step::Preparation)
         {
             m_job = scene.PrepareForInstall();
             if (outcome == InstallOutcome::Kept)
@@ -86,6 +93,8 @@ public:
         {
         case Step::Preparation:
             return scene.Prepare(scene.MakePrepareJob(), start);
+        case Step::PreparationByADelta:
+            return scene.Prepare(DeltaJob(scene), start);
         case Step::InstallationWithoutExchange:
             start.atEveryCall = [visitor = start.atEveryCall](CallStop const& stop)
             {
@@ -105,6 +114,12 @@ public:
     UpdateScene scene;
 
 private:
+    static std::string ArchiveFor(Step step)
+    {
+        static std::string const delta = DeltaToTheNextVersion();
+        return step == Step::PreparationByADelta ? delta : MakeArchive(Container::Zip, MakeBundle("2.0"));
+    }
+
     Step m_step;
     Engine::InstallJob m_job;
 };

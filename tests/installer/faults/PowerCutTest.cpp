@@ -106,7 +106,7 @@ protected:
         EXPECT_TRUE(isTold);
         return tree;
     }
-    Versions const versions;
+    Versions versions;
     std::string archive = MakeArchive(Container::Zip, MakeBundle("2.0"));
 
     /// The bundle may be missing until the helper has recovered it.
@@ -216,13 +216,9 @@ TEST_P(PowerCut, AnywhereInThePreparationHarmsNothing)
 TEST_P(PowerCut, AnywhereInThePreparationByADeltaHarmsNothing)
 {
     archive = DeltaToTheNextVersion();
-    CutEverywhere([](UpdateScene&) {},
-                  [](UpdateScene& scene, HelperStart const& start)
-                  {
-                      PrepareJob job = scene.MakePrepareJob();
-                      job.kind = PayloadKind::Delta;
-                      EXPECT_EQ(scene.Prepare(job, start).exitStatus, 0);
-                  });
+    versions = Versions::ForDeltas();
+    CutEverywhere([](UpdateScene& scene) { WithBase(scene); }, [](UpdateScene& scene, HelperStart const& start)
+                  { EXPECT_EQ(scene.Prepare(DeltaJob(scene), start).exitStatus, 0); });
 }
 
 TEST_P(PowerCut, AnywhereInTheInstallationLeavesOneOfTheVersions)

@@ -9,6 +9,8 @@
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/StreamUnpacker.h"
 #include "tests/delta/ForgedProgram.h"
+#include "tests/delta/ManifestEquality.h"
+#include "tests/delta/SeparateDelta.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -37,8 +39,8 @@ void CheckSeparateManifest(Bytes bytes)
     if (DecodeDeltaManifest(bytes, {}, manifest).error == DeltaManifestError::None)
     {
         // It is the one form of what it says.
-        ByteBuffer const again = EncodeDeltaManifest(manifest);
-        Require(Bytes(again.data(), again.size()) == bytes);
+        ByteBuffer const again = Pelnar::Testing::EncodeManifest(manifest);
+        Require(View(again) == bytes);
     }
 }
 
@@ -53,7 +55,7 @@ void CheckJoinedManifest(Bytes bytes)
     ByteBuffer const again = EncodeDeltaManifest(manifest);
     DeltaManifest second;
     second.format = DeltaFormat::Joined;
-    Require(DecodeDeltaManifest(Bytes(again.data(), again.size()), {}, second).error == DeltaManifestError::None);
+    Require(DecodeDeltaManifest(View(again), {}, second).error == DeltaManifestError::None);
     Require(second.entries == manifest.entries && second.units == manifest.units &&
             second.streams == manifest.streams && second.targetHash == manifest.targetHash);
 }
@@ -86,7 +88,7 @@ void CheckPatch(Bytes bytes)
 {
     ByteBuffer const oldBytes(1000, 7);
     std::uint64_t made = 0;
-    PatchVerdict const verdict = ApplyBinaryPatch(Bytes(oldBytes.data(), oldBytes.size()), SourcesOf(bytes), NEW_BYTES,
+    PatchVerdict const verdict = ApplyBinaryPatch(View(oldBytes), SourcesOf(bytes), NEW_BYTES,
                                                   [&made](Bytes piece)
                                                   {
                                                       made += piece.size();
@@ -153,19 +155,17 @@ void CheckPackedText(Bytes bytes)
     static constexpr std::uint8_t OPENING[] = {10, 0x1F, 0x8B, 8, 0, 0, 0, 0, 0, 2, 3, 9, 8};
     if (std::optional<ByteBuffer> const text = UnpackText(bytes))
     {
-        std::optional<ByteBuffer> const recipe = FindRecipe(bytes, Bytes(text->data(), text->size()));
-        std::optional<ByteBuffer> const made = recipe
-                                                   ? PackByRecipe(Bytes(recipe->data(), recipe->size()),
-                                                                  Bytes(text->data(), text->size()), bytes.size(), {})
-                                                   : std::nullopt;
-        Require(!recipe || (made && Bytes(made->data(), made->size()) == bytes));
+        std::optional<ByteBuffer> const recipe = FindRecipe(bytes, View(*text));
+        std::optional<ByteBuffer> const made =
+            recipe ? PackByRecipe(View(*recipe), View(*text), bytes.size(), {}) : std::nullopt;
+        Require(!recipe || (made && View(*made) == bytes));
     }
     ByteBuffer recipe(std::begin(OPENING), std::end(OPENING));
     recipe.insert(recipe.end(), bytes.begin(), bytes.end());
     ByteBuffer const text(500, 7);
-    for (Bytes const tried : {bytes, Bytes(recipe.data(), recipe.size())})
+    for (Bytes const tried : {bytes, View(recipe)})
     {
-        std::optional<ByteBuffer> const made = PackByRecipe(tried, Bytes(text.data(), text.size()), MOST_BYTES, {});
+        std::optional<ByteBuffer> const made = PackByRecipe(tried, View(text), MOST_BYTES, {});
         Require(!made || made->size() <= MOST_BYTES);
     }
     // The input as the packed data of a text that is equal to the new one.
@@ -205,7 +205,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         ByteBuffer program = SmallProgram(processor);
         std::size_t const at = size < 2 ? 0 : (data[0] << 8 | data[1]) % program.size();
         std::copy_n(data, std::min(size, program.size() - at), program.begin() + static_cast<std::ptrdiff_t>(at));
-        CheckProgram(Bytes(program.data(), program.size()), bytes);
+        CheckProgram(View(program), bytes);
     }
     return 0;
 }

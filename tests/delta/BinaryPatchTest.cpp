@@ -1,4 +1,5 @@
 #include "Engine/core/delta/BinaryPatch.h"
+#include "tests/delta/SeparateDelta.h"
 
 #include <gtest/gtest.h>
 
@@ -11,11 +12,7 @@ namespace
 {
 
 using namespace Pelnar::Engine;
-
-Bytes View(ByteBuffer const& buffer)
-{
-    return {buffer.data(), buffer.size()};
-}
+using Pelnar::Testing::MakeBinaryPatch;
 
 ByteBuffer FromText(char const* text)
 {

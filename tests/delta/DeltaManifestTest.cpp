@@ -4,6 +4,8 @@
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Engine/core/delta/DeltaMaker.h"
+#include "tests/delta/ManifestEquality.h"
+#include "tests/delta/SeparateDelta.h"
 
 #include <gtest/gtest.h>
 
@@ -64,9 +66,9 @@ TEST_P(ManifestRule, Holds)
     manifest.baseVersion = "1";
     manifest.targetVersion = "2";
     manifest.entries = GetParam().entries;
-    ByteBuffer const bytes = EncodeDeltaManifest(manifest);
+    ByteBuffer const bytes = Pelnar::Testing::EncodeManifest(manifest);
     DeltaManifest decoded;
-    DeltaManifestVerdict const verdict = DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded);
+    DeltaManifestVerdict const verdict = DecodeDeltaManifest(View(bytes), {}, decoded);
     EXPECT_EQ(verdict.error, GetParam().error);
     EXPECT_EQ(FaultName(verdict.fault), FaultName(GetParam().fault));
     EXPECT_EQ(CheckDeltaManifest(manifest, {}).error, GetParam().error);

@@ -6,6 +6,7 @@
 #include "Engine/core/delta/DeltaMaker.h"
 #include "Engine/core/delta/StreamUnpacker.h"
 #include "tests/delta/ForgedProgram.h"
+#include "tests/delta/ManifestEquality.h"
 #include "tests/delta/PackedFiles.h"
 #include "tests/delta/SeparateDelta.h"
 
@@ -67,7 +68,7 @@ TEST_P(UnitRule, Holds)
     ByteBuffer const bytes = EncodeDeltaManifest(manifest);
     DeltaManifest decoded;
     decoded.format = DeltaFormat::Joined;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, GetParam().error);
+    EXPECT_EQ(DecodeDeltaManifest(View(bytes), {}, decoded).error, GetParam().error);
     if (GetParam().error == DeltaManifestError::None)
     {
         EXPECT_EQ(decoded.entries, manifest.entries);
@@ -148,7 +149,7 @@ TEST(JoinedManifest, PathsThatShareTooMuchAreRefusedBeforeTheyFillTheMemory)
     EXPECT_LT(bytes.size(), 100000u);
     DeltaManifest decoded;
     decoded.format = DeltaFormat::Joined;
-    EXPECT_EQ(DecodeDeltaManifest(Bytes(bytes.data(), bytes.size()), {}, decoded).error, Error::TextTooLong);
+    EXPECT_EQ(DecodeDeltaManifest(View(bytes), {}, decoded).error, Error::TextTooLong);
 }
 
 // Streams.

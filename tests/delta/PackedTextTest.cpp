@@ -15,16 +15,12 @@ namespace
 {
 
 using namespace Pelnar::Engine;
+using Pelnar::Engine::View;
 using namespace Pelnar::Testing;
 
 Bytes View(std::string const& text)
 {
     return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
-}
-
-Bytes View(ByteBuffer const& bytes)
-{
-    return {bytes.data(), bytes.size()};
 }
 
 std::string Text(ByteBuffer const& bytes)

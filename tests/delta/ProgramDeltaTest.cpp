@@ -6,6 +6,7 @@
 #include "Engine/core/delta/PatchWriter.h"
 #include "Engine/core/delta/StepFinder.h"
 #include "tests/delta/ForgedProgram.h"
+#include "tests/delta/SeparateDelta.h"
 
 #include <gtest/gtest.h>
 
@@ -17,11 +18,6 @@ namespace
 
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
-
-Bytes View(ByteBuffer const& buffer)
-{
-    return {buffer.data(), buffer.size()};
-}
 
 PatchSources Readers(BinaryPatch const& patch)
 {

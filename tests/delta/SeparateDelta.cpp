@@ -2,6 +2,9 @@
 
 #include "Engine/core/delta/BundleReader.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
+#include "Engine/core/delta/ManifestBytes.h"
+#include "Engine/core/delta/PatchWriter.h"
+#include "Engine/core/delta/StepFinder.h"
 
 namespace Pelnar::Testing
 {
@@ -9,6 +12,51 @@ namespace
 {
 
 using namespace Engine;
+using namespace Engine::ManifestBytes;
+
+void AppendEntry(ByteBuffer& bytes, DeltaEntry const& entry)
+{
+    AppendText(bytes, entry.path);
+    bytes.push_back(static_cast<std::uint8_t>(entry.kind));
+    switch (entry.kind)
+    {
+    case DeltaEntryKind::Directory:
+        return;
+    case DeltaEntryKind::SymbolicLink:
+        AppendText(bytes, entry.linkTarget);
+        return;
+    case DeltaEntryKind::Kept:
+    case DeltaEntryKind::Patched:
+    case DeltaEntryKind::Whole:
+        break;
+    }
+    bytes.push_back(entry.isExecutable ? 1 : 0);
+    AppendNumber(bytes, entry.size);
+    AppendHash(bytes, entry.hash);
+    if (entry.kind == DeltaEntryKind::Whole)
+    {
+        AppendNumber(bytes, entry.wholeStored);
+        return;
+    }
+    AppendText(bytes, entry.sourcePath);
+    if (entry.kind == DeltaEntryKind::Patched)
+    {
+        AppendNumber(bytes, entry.sourceSize);
+        AppendHash(bytes, entry.sourceHash);
+        for (std::uint64_t const stored : entry.streamsStored)
+        {
+            AppendNumber(bytes, stored);
+        }
+    }
+}
+
+void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
+{
+    for (int shift = 0; shift < 64; shift += 8)
+    {
+        bytes.push_back(static_cast<std::uint8_t>(number >> shift));
+    }
+}
 
 void Append(ByteBuffer& data, ByteBuffer const& stored)
 {
@@ -24,13 +72,61 @@ void AddPatch(DeltaEntry& entry, Bytes oldBytes, Bytes newBytes, ByteBuffer& dat
     entry.sourceHash = HashOf(oldBytes, HashKind::Blake2b);
     for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
     {
-        ByteBuffer const stored = CompressForDelta(Bytes(patch.streams[i].data(), patch.streams[i].size()));
+        ByteBuffer const stored = CompressForDelta(View(patch.streams[i]));
         entry.streamsStored[i] = stored.size();
         Append(data, stored);
     }
 }
 
 } // namespace
+
+std::optional<BinaryPatch> MakeBinaryPatch(Bytes oldBytes, Bytes newBytes)
+{
+    SuffixIndex index;
+    if (!index.Build(oldBytes))
+    {
+        return std::nullopt;
+    }
+    PatchWriter writer;
+    PlainText old({oldBytes});
+    std::uint64_t position = 0;
+    writer.Add(old, FindSteps(index, newBytes, position), newBytes);
+    return writer.Finish();
+}
+
+ByteBuffer EncodeManifest(DeltaManifest const& manifest)
+{
+    if (manifest.format == DeltaFormat::Joined)
+    {
+        return EncodeDeltaManifest(manifest);
+    }
+    ByteBuffer bytes;
+    AppendText(bytes, manifest.baseVersion);
+    AppendText(bytes, manifest.targetVersion);
+    AppendNumber(bytes, manifest.entries.size());
+    for (DeltaEntry const& entry : manifest.entries)
+    {
+        AppendEntry(bytes, entry);
+    }
+    return bytes;
+}
+
+ByteBuffer EncodeOpening(DeltaManifest const& manifest)
+{
+    if (manifest.format == DeltaFormat::Joined)
+    {
+        return EncodeDeltaOpening(manifest);
+    }
+    ByteBuffer const plain = EncodeManifest(manifest);
+    ByteBuffer const stored = CompressForDelta(View(plain));
+    ByteBuffer opening(DELTA_MAGIC.begin(), DELTA_MAGIC.end());
+    for (std::uint64_t const number : {std::uint64_t(manifest.format), stored.size(), plain.size()})
+    {
+        AppendFixed(opening, number);
+    }
+    Append(opening, stored);
+    return opening;
+}
 
 std::string MakeSeparateDelta(std::filesystem::path const& oldFolder, std::filesystem::path const& newFolder)
 {
@@ -61,7 +157,7 @@ std::string MakeSeparateDelta(std::filesystem::path const& oldFolder, std::files
         entry.wholeStored = stored.size();
         Append(data, stored);
     }
-    ByteBuffer container = EncodeDeltaOpening(manifest);
+    ByteBuffer container = EncodeOpening(manifest);
     Append(container, data);
     return {container.begin(), container.end()};
 }

@@ -2,6 +2,7 @@
 
 #include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
+#include "tests/delta/SeparateDelta.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <algorithm>
@@ -136,7 +137,7 @@ std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string
             unit.targets.push_back(static_cast<std::uint32_t>(i));
             all += files[i];
             Engine::ContentHash const hash = Engine::HashOf(BytesOf(files[i]));
-            hashes.Add(Engine::Bytes(hash.data(), hash.size()));
+            hashes.Add(Engine::View(hash));
         }
     }
     Engine::PackedStream const packed = Engine::PackStream(BytesOf(all), Engine::EXTRA_WINDOW_LOG);
@@ -301,7 +302,7 @@ std::string MakeWholeDelta(std::vector<ForgedEntry> tree, Engine::DeltaFormat fo
     }
     std::string const data =
         format == Engine::DeltaFormat::Joined ? StoreJoined(manifest, files) : StoreSeparately(manifest, files);
-    Engine::ByteBuffer const opening = Engine::EncodeDeltaOpening(manifest);
+    Engine::ByteBuffer const opening = EncodeOpening(manifest);
     return std::string(opening.begin(), opening.end()) + data;
 }
 

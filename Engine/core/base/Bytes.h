@@ -1,6 +1,8 @@
 // Bytes.h: a view of bytes, and bytes of one's own.
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 #include <vector>
@@ -10,5 +12,16 @@ namespace Pelnar::Engine
 
 using Bytes = std::basic_string_view<std::uint8_t>;
 using ByteBuffer = std::vector<std::uint8_t>;
+
+template <std::size_t Size>
+Bytes View(std::array<std::uint8_t, Size> const& bytes)
+{
+    return {bytes.data(), bytes.size()};
+}
+
+inline Bytes View(ByteBuffer const& bytes)
+{
+    return {bytes.data(), bytes.size()};
+}
 
 } // namespace Pelnar::Engine

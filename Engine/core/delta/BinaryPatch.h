@@ -43,21 +43,30 @@ struct PatchStep
 {
     std::uint64_t likeBytes = 0;
     std::uint64_t extraBytes = 0;
-    std::uint64_t move = 0; ///< twice its distance, less one when it goes back
+    std::uint64_t move = 0; ///< by FoldSign
 };
+
+/// Appends a variable-length number.
+inline void AppendNumber(ByteBuffer& bytes, std::uint64_t number)
+{
+    for (; number >= 0x80; number >>= 7)
+    {
+        bytes.push_back(static_cast<std::uint8_t>(number | 0x80));
+    }
+    bytes.push_back(static_cast<std::uint8_t>(number));
+}
+
+/// A signed number as an unsigned one: twice its distance from 0, minus one if it is negative.
+constexpr std::uint64_t FoldSign(std::int64_t number)
+{
+    return static_cast<std::uint64_t>(number) << 1 ^ static_cast<std::uint64_t>(number >> 63);
+}
 
 /// The position in the old file after \a move.
 constexpr std::uint64_t MovedBy(std::uint64_t position, std::uint64_t move)
 {
     return move % 2 != 0 ? position - (move / 2 + 1) : position + move / 2;
 }
-
-/// The largest old file that MakeBinaryPatch takes.
-constexpr std::size_t MAX_PATCH_SOURCE_BYTES = 0x7FFFFFFE;
-
-/// The patch that turns \a oldBytes into \a newBytes; nothing when \a oldBytes is larger than MAX_PATCH_SOURCE_BYTES or
-/// memory for its index (five times its size) cannot be had.
-[[nodiscard]] std::optional<BinaryPatch> MakeBinaryPatch(Bytes oldBytes, Bytes newBytes);
 
 /// Where the applier takes the next bytes of one stream from: fills \a size bytes at \a target and answers their
 /// number, which is smaller only where the stream ends or cannot be read.

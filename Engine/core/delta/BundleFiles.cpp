@@ -86,32 +86,20 @@ DeltaOutcome BundleFiles::Keep(DeltaEntry const& entry, ContentHasher& hasher)
     }
     // A clone shares the blocks and costs no copy; file systems without it answer at once.
     bool const isCloned = ioctl(target.Get(), FICLONE, source.Get()) == 0;
-    return isCloned ? Hash(target.Get(), hasher) : Copy(source.Get(), target.Get(), hasher);
+    return isCloned ? Hash(target.Get(), entry.size, hasher) : Copy(source.Get(), target.Get(), entry.size, hasher);
 }
 
-DeltaOutcome BundleFiles::Hash(int fd, ContentHasher& hasher)
+DeltaOutcome BundleFiles::Hash(int fd, std::uint64_t size, ContentHasher& hasher)
 {
-    for (std::uint64_t offset = 0;;)
-    {
-        ssize_t const got = pread(fd, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));
-        if (got < 0 && errno == EINTR)
-        {
-            continue;
-        }
-        if (got <= 0)
-        {
-            return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
-        }
-        hasher.Add(Bytes(m_piece.data(), static_cast<std::size_t>(got)));
-        offset += static_cast<std::uint64_t>(got);
-    }
+    return Copy(fd, -1, size, hasher);
 }
 
-DeltaOutcome BundleFiles::Copy(int source, int target, ContentHasher& hasher)
+DeltaOutcome BundleFiles::Copy(int source, int target, std::uint64_t size, ContentHasher& hasher)
 {
-    for (;;)
+    // A file that grows while it is read must not be read forever.
+    for (std::uint64_t offset = 0; offset <= size;)
     {
-        ssize_t const got = read(source, m_piece.data(), m_piece.size());
+        ssize_t const got = pread(source, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));
         if (got < 0 && errno == EINTR)
         {
             continue;
@@ -122,11 +110,13 @@ DeltaOutcome BundleFiles::Copy(int source, int target, ContentHasher& hasher)
         }
         Bytes const bytes(m_piece.data(), static_cast<std::size_t>(got));
         hasher.Add(bytes);
-        if (!WriteAll(target, bytes))
+        if (target >= 0 && !WriteAll(target, bytes))
         {
             return WriteFailure();
         }
+        offset += bytes.size();
     }
+    return {DeltaError::BaseDiffers, {}, 0};
 }
 
 } // namespace Pelnar::Engine

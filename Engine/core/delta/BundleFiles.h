@@ -26,14 +26,15 @@ public:
     /// kinds.
     [[nodiscard]] DeltaOutcome Make(DeltaEntry const& entry, ContentHasher& hasher);
     [[nodiscard]] DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd& file);
-    /// Adds what \a fd holds to \a hasher.
-    [[nodiscard]] DeltaOutcome Hash(int fd, ContentHasher& hasher);
+    /// Adds the bytes of the file open at \a fd to \a hasher. Refuses a file of more than \a size bytes.
+    [[nodiscard]] DeltaOutcome Hash(int fd, std::uint64_t size, ContentHasher& hasher);
 
 private:
     /// Clones or copies the old file.
     DeltaOutcome Keep(DeltaEntry const& entry, ContentHasher& hasher);
     DeltaOutcome Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const;
-    DeltaOutcome Copy(int source, int target, ContentHasher& hasher);
+    /// Without a target if \a target is negative.
+    DeltaOutcome Copy(int source, int target, std::uint64_t size, ContentHasher& hasher);
 
     TreeAccess m_old;
     TreeAccess m_staging;

@@ -98,7 +98,7 @@ public:
     [[nodiscard]] bool AddRest()
     {
         ByteBuffer const packed = Deflate(m_text, m_made, m_text.size(), m_manner);
-        TokenReader tokens(Bytes(packed.data(), packed.size()));
+        TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < m_text.size() && tokens.Next(token);)
         {
             Add(token);
@@ -120,7 +120,7 @@ private:
         std::size_t const first = run.begin + WINDOW_BYTES;
         std::size_t const last = first + MEETING_BYTES;
         ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_manner);
-        TokenReader tokens(Bytes(packed.data(), packed.size()));
+        TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < last && tokens.Next(token);)
         {
             Add(token);

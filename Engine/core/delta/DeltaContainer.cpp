@@ -191,7 +191,7 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     {
         return ReadFailure();
     }
-    DeltaOutcome const outcome = OutcomeOf(DecodeDeltaManifest(Bytes(plain.data(), plain.size()), limits, manifest));
+    DeltaOutcome const outcome = OutcomeOf(DecodeDeltaManifest(View(plain), limits, manifest));
     if (!outcome.HasSucceeded())
     {
         return outcome;

@@ -115,10 +115,8 @@ PackedStream PackStream(Bytes bytes, int windowLog, DeltaEffort effort)
 ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest)
 {
     ByteBuffer const plain = EncodeDeltaManifest(manifest);
-    Bytes const bytes(plain.data(), plain.size());
-    int const windowLog = ManifestWindowLogOf(manifest.format);
-    std::uint8_t const packing = ManifestPackingOf(manifest.format);
-    ByteBuffer const stored = packing == 0 ? CompressForDelta(bytes, windowLog) : PackByLzma(bytes, packing, windowLog);
+    ByteBuffer const stored =
+        PackByLzma(View(plain), ManifestPackingOf(manifest.format), ManifestWindowLogOf(manifest.format));
     ByteBuffer opening(DELTA_MAGIC.begin(), DELTA_MAGIC.end());
     AppendFixed(opening, static_cast<std::uint64_t>(manifest.format));
     AppendFixed(opening, stored.size());

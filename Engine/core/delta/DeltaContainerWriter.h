@@ -7,7 +7,7 @@
 namespace Pelnar::Engine
 {
 
-/// The header and the compressed manifest that open a container.
+/// The header and the compressed manifest that open a container of the joined format.
 [[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
 
 /// How long packing may take, and unpacking.

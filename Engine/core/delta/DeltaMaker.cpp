@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <deque>
 #include <system_error>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -23,29 +24,23 @@ namespace fs = std::filesystem;
 class Maker
 {
 public:
-    struct Manner
-    {
-        DeltaMakerProgress const& progress;
-        DeltaEffort effort;
-    };
-
-    Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, Manner manner)
-        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_mode(manner)
+    Maker(fs::path newFolder, OldVersion const& old, DeltaManifest& manifest, DeltaMakerProgress const& progress,
+          DeltaEffort effort)
+        : m_newFolder(std::move(newFolder)), m_old(old), m_manifest(manifest), m_progress(progress), m_effort(effort)
     {
     }
 
-    /// Completes the manifest, and answers the data that go with it.
+    /// Completes the manifest and returns the container's data.
     ByteBuffer Make()
     {
-        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_mode.effort);
-        std::vector<UnitSteps> steps =
-            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_mode.progress);
-        SearchPlainly(units, steps);
+        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_effort);
+        std::vector<UnitSteps> const steps =
+            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
         AddKeptFiles();
         DeltaUnit whole;
         for (std::size_t i = 0; i < units.size(); ++i)
         {
-            AddUnit(units[i], steps[i], whole);
+            AddUnit(std::move(units[i]), steps[i], whole);
         }
         AddWholeFiles(whole);
         m_manifest.baseHash = m_baseHashes.Finish();
@@ -54,10 +49,7 @@ public:
     }
 
 private:
-    OpenedFile OpenOld(std::string const& path) const { return OpenedFile(m_old.folder / path); }
     OpenedFile OpenNew(std::string const& path) const { return OpenedFile(m_newFolder / path); }
-
-    static void AddTo(ContentHasher& hashes, ContentHash const& hash) { hashes.Add(Bytes(hash.data(), hash.size())); }
 
     void AddKeptFiles()
     {
@@ -65,27 +57,23 @@ private:
         {
             if (entry.kind == DeltaEntryKind::Kept)
             {
-                AddTo(m_baseHashes, entry.hash);
-                AddTo(m_targetHashes, entry.hash);
+                m_baseHashes.Add(View(entry.hash));
+                m_targetHashes.Add(View(entry.hash));
             }
         }
     }
 
-    static bool UsesOld(std::vector<PatchStep> const& steps)
-    {
-        return std::any_of(steps.begin(), steps.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
-    }
-
-    /// What has nothing of the old files goes to \a whole.
+    /// Files that use no old bytes go to \a whole.
     void AddUnit(DeltaUnit unit, UnitSteps const& steps, DeltaUnit& whole)
     {
-        std::vector<std::uint32_t> const targets = std::move(unit.targets);
+        std::vector<std::uint32_t> const targets = std::exchange(unit.targets, {});
         std::vector<std::size_t> made;
-        unit.targets.clear();
         for (std::size_t i = 0; i < targets.size(); ++i)
         {
-            bool const isTooMuch = unit.textBytes > 0 && steps[i].size() > MAX_MAPPED_STEPS;
-            bool const isMade = UsesOld(steps[i]) && !isTooMuch;
+            bool const usesOld =
+                std::any_of(steps[i].begin(), steps[i].end(), [](PatchStep const& step) { return step.likeBytes > 0; });
+            bool const isTooLong = unit.textBytes > 0 && steps[i].size() > MAX_MAPPED_STEPS;
+            bool const isMade = usesOld && !isTooLong;
             (isMade ? unit : whole).targets.push_back(targets[i]);
             made.insert(made.end(), isMade ? 1 : 0, i);
         }
@@ -98,7 +86,11 @@ private:
         for (DeltaSource const& source : unit.sources)
         {
             texts.push_back(sources.emplace_back(m_old.folder / source.path).Content());
-            AddTo(m_baseHashes, m_old.files.at(source.path).hash);
+            m_baseHashes.Add(View(m_old.files.at(source.path).hash));
+        }
+        if (steps.front().size() > MAX_MAPPED_STEPS)
+        {
+            unit.spanChanges.clear(); // the steps are right for the plain bytes too
         }
         m_writer.StartText();
         PlainText plain(texts);
@@ -107,49 +99,12 @@ private:
             DeltaEntry& entry = m_manifest.entries[targets[number]];
             entry.kind = DeltaEntryKind::Patched;
             OpenedFile const file = OpenNew(entry.path);
-            AddTo(m_targetHashes, entry.hash);
+            m_targetHashes.Add(View(entry.hash));
             unit.textBytes > 0         ? AddPacked(texts.front(), steps[number], file.Content())
             : unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
                                        : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
         m_manifest.units.push_back(std::move(unit));
-    }
-
-    /// False for a program whose fields are other than they look: a packed one, for example.
-    bool IsWorthForetelling(DeltaUnit const& unit, std::vector<PatchStep> const& steps) const
-    {
-        if (steps.size() > MAX_MAPPED_STEPS)
-        {
-            return false;
-        }
-        OpenedFile const source = OpenOld(unit.sources.front().path);
-        OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()].path);
-        ImageLayout const layout = *ReadImageLayout(source.Content());
-        ProgramText changed(source.Content(), layout, ChangedSpans(layout, unit.spanChanges), steps);
-        PlainText plain({source.Content()});
-        return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
-    }
-
-    /// Searches once more, as for any file, where a program's addresses are not worth it.
-    void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps) const
-    {
-        std::vector<std::size_t> numbers;
-        std::vector<DeltaUnit> plain;
-        for (std::size_t i = 0; i < units.size(); ++i)
-        {
-            if (!units[i].spanChanges.empty() && !IsWorthForetelling(units[i], steps[i].front()))
-            {
-                units[i].spanChanges.clear();
-                numbers.push_back(i);
-                plain.push_back(units[i]);
-            }
-        }
-        std::vector<UnitSteps> const found =
-            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_mode.progress);
-        for (std::size_t i = 0; i < numbers.size(); ++i)
-        {
-            steps[numbers[i]] = found[i];
-        }
     }
 
     void AddProgram(Bytes program, std::vector<SpanChange> const& changes, std::vector<PatchStep> const& steps,
@@ -164,12 +119,12 @@ private:
     {
         ByteBuffer const oldText = UnpackText(oldFile).value();
         ByteBuffer const newText = UnpackText(newFile).value();
-        Bytes const text(newText.data(), newText.size());
-        PackedBase const base{Bytes(oldText.data(), oldText.size()), PackedDataOf(oldFile), steps};
-        ByteBuffer const recipe = FasterRecipe(FindRecipe(newFile, text).value(), newFile, text, base);
+        PackedBase const base{View(oldText), PackedDataOf(oldFile), steps};
+        ByteBuffer const recipe =
+            FasterRecipe(FindRecipe(newFile, View(newText)).value(), newFile, View(newText), base);
         PlainText old({base.text});
-        m_writer.AddRecord(Bytes(recipe.data(), recipe.size()));
-        m_writer.Add(old, steps, text);
+        m_writer.AddRecord(View(recipe));
+        m_writer.Add(old, steps, View(newText));
     }
 
     void AddWholeFiles(DeltaUnit const& whole)
@@ -177,7 +132,7 @@ private:
         for (std::uint32_t const target : whole.targets)
         {
             DeltaEntry const& entry = m_manifest.entries[target];
-            AddTo(m_targetHashes, entry.hash);
+            m_targetHashes.Add(View(entry.hash));
             m_writer.AddWhole(OpenNew(entry.path).Content());
         }
         if (!whole.targets.empty())
@@ -193,11 +148,10 @@ private:
             PATCH_STREAMS,
             [this, &packed, &patch](std::size_t i)
             {
-                // The last is the largest as a rule.
+                // The last stream is usually the largest, so it starts first.
                 std::size_t const number = PATCH_STREAMS - 1 - i;
-                ByteBuffer const& plain = patch.streams[number];
-                packed[number] = PackStream(Bytes(plain.data(), plain.size()),
-                                            WindowLogOf(static_cast<PatchStream>(number)), m_mode.effort);
+                packed[number] =
+                    PackStream(View(patch.streams[number]), WindowLogOf(static_cast<PatchStream>(number)), m_effort);
             },
             [] {});
         ByteBuffer data;
@@ -212,23 +166,17 @@ private:
     fs::path m_newFolder;
     OldVersion const& m_old;
     DeltaManifest& m_manifest;
-    Manner m_mode;
+    DeltaMakerProgress const& m_progress;
+    DeltaEffort m_effort;
     PatchWriter m_writer;
     ContentHasher m_baseHashes;
     ContentHasher m_targetHashes;
 };
 
-void Count(DeltaManifest const& manifest, DeltaReport& report)
+std::uint64_t CountOf(DeltaManifest const& manifest, DeltaEntryKind kind)
 {
-    auto const count = [&manifest](DeltaEntryKind kind)
-    {
-        return static_cast<std::uint64_t>(std::count_if(manifest.entries.begin(), manifest.entries.end(),
-                                                        [kind](DeltaEntry const& entry)
-                                                        { return entry.kind == kind; }));
-    };
-    report.keptFiles = count(DeltaEntryKind::Kept);
-    report.patchedFiles = count(DeltaEntryKind::Patched);
-    report.wholeFiles = count(DeltaEntryKind::Whole);
+    return static_cast<std::uint64_t>(std::count_if(manifest.entries.begin(), manifest.entries.end(),
+                                                    [kind](DeltaEntry const& entry) { return entry.kind == kind; }));
 }
 
 } // namespace
@@ -247,7 +195,7 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
     {
         OldVersion const old = ReadOldVersion(oldBundle);
         manifest.entries = ReadNewVersion(newBundle, old);
-        data = Maker(newBundle, old, manifest, {progress, effort}).Make();
+        data = Maker(newBundle, old, manifest, progress, effort).Make();
     }
     catch (fs::filesystem_error const& error)
     {
@@ -260,14 +208,15 @@ DeltaReport MakeDelta(fs::path const& oldBundle, std::string const& baseVersion,
         return report;
     }
     ByteBuffer const opening = EncodeDeltaOpening(manifest);
-    if (!WriteAll(containerFd, Bytes(opening.data(), opening.size())) ||
-        !WriteAll(containerFd, Bytes(data.data(), data.size())))
+    if (!WriteAll(containerFd, View(opening)) || !WriteAll(containerFd, View(data)))
     {
         report.outcome = {DeltaError::CannotWrite, {}, errno};
         return report;
     }
     report.containerBytes = opening.size() + data.size();
-    Count(manifest, report);
+    report.keptFiles = CountOf(manifest, DeltaEntryKind::Kept);
+    report.patchedFiles = CountOf(manifest, DeltaEntryKind::Patched);
+    report.wholeFiles = CountOf(manifest, DeltaEntryKind::Whole);
     return report;
 }
 

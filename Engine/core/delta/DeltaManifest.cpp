@@ -18,42 +18,6 @@ constexpr char ROOT[] = "x.app";
 
 using namespace ManifestBytes;
 
-void AppendEntry(ByteBuffer& bytes, DeltaEntry const& entry)
-{
-    AppendText(bytes, entry.path);
-    bytes.push_back(static_cast<std::uint8_t>(entry.kind));
-    switch (entry.kind)
-    {
-    case DeltaEntryKind::Directory:
-        return;
-    case DeltaEntryKind::SymbolicLink:
-        AppendText(bytes, entry.linkTarget);
-        return;
-    case DeltaEntryKind::Kept:
-    case DeltaEntryKind::Patched:
-    case DeltaEntryKind::Whole:
-        break;
-    }
-    bytes.push_back(entry.isExecutable ? EXECUTABLE_FLAG : 0);
-    AppendNumber(bytes, entry.size);
-    AppendHash(bytes, entry.hash);
-    if (entry.kind == DeltaEntryKind::Whole)
-    {
-        AppendNumber(bytes, entry.wholeStored);
-        return;
-    }
-    AppendText(bytes, entry.sourcePath);
-    if (entry.kind == DeltaEntryKind::Patched)
-    {
-        AppendNumber(bytes, entry.sourceSize);
-        AppendHash(bytes, entry.sourceHash);
-        for (std::uint64_t const stored : entry.streamsStored)
-        {
-            AppendNumber(bytes, stored);
-        }
-    }
-}
-
 DeltaEntry ReadEntry(Reader& reader)
 {
     DeltaEntry entry;
@@ -159,54 +123,9 @@ std::string ParentOf(std::string const& path)
 
 } // namespace
 
-bool operator==(DeltaEntry const& a, DeltaEntry const& b)
-{
-    return a.path == b.path && a.kind == b.kind && a.linkTarget == b.linkTarget && a.isExecutable == b.isExecutable &&
-           a.size == b.size && a.hash == b.hash && a.sourcePath == b.sourcePath && a.sourceSize == b.sourceSize &&
-           a.sourceHash == b.sourceHash && a.streamsStored == b.streamsStored && a.wholeStored == b.wholeStored;
-}
-
-bool operator==(DeltaSource const& a, DeltaSource const& b)
-{
-    return a.path == b.path && a.size == b.size;
-}
-
-bool operator==(SpanChange const& a, SpanChange const& b)
-{
-    return a.offset == b.offset && a.size == b.size && a.address == b.address;
-}
-
-bool operator==(DeltaUnit const& a, DeltaUnit const& b)
-{
-    return a.sources == b.sources && a.targets == b.targets && a.spanChanges == b.spanChanges &&
-           a.textBytes == b.textBytes;
-}
-
-bool operator==(StoredStream const& a, StoredStream const& b)
-{
-    return a.packing == b.packing && a.size == b.size;
-}
-
 std::uint64_t DeltaEntry::StoredBytes() const
 {
     return std::accumulate(streamsStored.begin(), streamsStored.end(), wholeStored);
-}
-
-ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest)
-{
-    if (manifest.format == DeltaFormat::Joined)
-    {
-        return EncodeJoinedManifest(manifest);
-    }
-    ByteBuffer bytes;
-    AppendText(bytes, manifest.baseVersion);
-    AppendText(bytes, manifest.targetVersion);
-    AppendNumber(bytes, manifest.entries.size());
-    for (DeltaEntry const& entry : manifest.entries)
-    {
-        AppendEntry(bytes, entry);
-    }
-    return bytes;
 }
 
 DeltaManifestVerdict DecodeDeltaManifest(Bytes bytes, DeltaLimits const& limits, DeltaManifest& manifest)

@@ -49,16 +49,12 @@ struct DeltaEntry
     std::uint64_t StoredBytes() const;
 };
 
-bool operator==(DeltaEntry const& a, DeltaEntry const& b);
-
 /// A file of the old version that others are made from.
 struct DeltaSource
 {
     std::string path;
     std::uint64_t size = 0;
 };
-
-bool operator==(DeltaSource const& a, DeltaSource const& b);
 
 /// How much a segment of a program differs from the old program's.
 struct SpanChange
@@ -67,8 +63,6 @@ struct SpanChange
     std::int64_t size = 0;
     std::int64_t address = 0;
 };
-
-bool operator==(SpanChange const& a, SpanChange const& b);
 
 /// Files that are made of the same old ones.
 struct DeltaUnit
@@ -79,16 +73,12 @@ struct DeltaUnit
     std::uint64_t textBytes = 0; ///< of the text in the one target, when it is made from the text in the one source
 };
 
-bool operator==(DeltaUnit const& a, DeltaUnit const& b);
-
 /// How one stream stands in the container.
 struct StoredStream
 {
     std::uint8_t packing = 0; ///< 0 for zstd, else one more than the properties of LZMA
     std::uint64_t size = 0;
 };
-
-bool operator==(StoredStream const& a, StoredStream const& b);
 
 /// The version of the container's format.
 enum class DeltaFormat : std::uint8_t
@@ -143,7 +133,7 @@ struct DeltaManifestVerdict
     std::string path;                      ///< of the entry that breaks a rule, where it is one
 };
 
-/// REQUIRES: a manifest that CheckDeltaManifest accepts.
+/// In the joined format. REQUIRES: a manifest that CheckDeltaManifest accepts.
 ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest);
 /// Reads all \a bytes, which are of manifest.format, and applies every rule. Use \a manifest only if the verdict has no
 /// error.

@@ -37,11 +37,6 @@ PatchSources SourcesOf(std::vector<DeltaStream>& streams)
     return sources;
 }
 
-Bytes View(ByteBuffer const& bytes)
-{
-    return {bytes.data(), bytes.size()};
-}
-
 /// The old files of a unit.
 struct UnitBase
 {
@@ -120,14 +115,14 @@ private:
         {
             if (entry.kind == DeltaEntryKind::Kept)
             {
-                AddTo(hashes, entry.hash);
+                hashes.Add(View(entry.hash));
             }
         }
         for (DeltaUnit const& unit : m_manifest.units)
         {
             for (std::uint32_t const target : unit.targets)
             {
-                AddTo(hashes, m_manifest.entries[target].hash);
+                hashes.Add(View(m_manifest.entries[target].hash));
             }
         }
         return hashes.Finish();
@@ -186,8 +181,6 @@ private:
         }
         return {};
     }
-
-    static void AddTo(ContentHasher& hashes, ContentHash const& hash) { hashes.Add(Bytes(hash.data(), hash.size())); }
 
     DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd const& file, IOldText& old)
     {
@@ -269,9 +262,9 @@ private:
         {
             UniqueFd file;
             ContentHasher hasher;
-            bool const isRead =
-                m_files.OpenOld(path, size, file).HasSucceeded() && m_files.Hash(file.Get(), hasher).HasSucceeded();
-            AddTo(hashes, hasher.Finish());
+            bool const isRead = m_files.OpenOld(path, size, file).HasSucceeded() &&
+                                m_files.Hash(file.Get(), size, hasher).HasSucceeded();
+            hashes.Add(View(hasher.Finish()));
             return isRead;
         };
         bool isReadable = true;

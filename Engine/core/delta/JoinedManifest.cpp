@@ -152,7 +152,7 @@ void AppendSource(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPat
         AppendText(bytes, source.path);
     }
     std::uint64_t const likely = same == indices.end() ? 0 : manifest.entries[same->second].size;
-    AppendSigned(bytes, static_cast<std::int64_t>(source.size - likely));
+    AppendNumber(bytes, FoldSign(static_cast<std::int64_t>(source.size - likely)));
 }
 
 DeltaSource ReadSource(Reader& reader, DeltaManifest const& manifest)
@@ -176,7 +176,7 @@ void AppendUnit(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath 
     std::int64_t next = 0;
     for (std::uint32_t const target : unit.targets)
     {
-        AppendSigned(bytes, std::int64_t(target) - next);
+        AppendNumber(bytes, FoldSign(std::int64_t(target) - next));
         next = std::int64_t(target) + 1;
     }
     if (unit.textBytes > 0)
@@ -188,9 +188,10 @@ void AppendUnit(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath 
     AppendNumber(bytes, unit.spanChanges.size());
     for (SpanChange const& change : unit.spanChanges)
     {
-        AppendSigned(bytes, change.offset);
-        AppendSigned(bytes, change.size);
-        AppendSigned(bytes, change.address);
+        for (std::int64_t const number : {change.offset, change.size, change.address})
+        {
+            AppendNumber(bytes, FoldSign(number));
+        }
     }
 }
 
@@ -258,7 +259,7 @@ DeltaManifestVerdict CheckSources(DeltaUnit const& unit, DeltaLimits const& limi
 
 } // namespace
 
-ByteBuffer EncodeJoinedManifest(DeltaManifest const& manifest)
+ByteBuffer EncodeDeltaManifest(DeltaManifest const& manifest)
 {
     ByteBuffer bytes;
     AppendText(bytes, manifest.baseVersion);

@@ -7,7 +7,6 @@
 namespace Pelnar::Engine
 {
 
-[[nodiscard]] ByteBuffer EncodeJoinedManifest(DeltaManifest const& manifest);
 /// Reads what follows the two versions' texts.
 void ReadJoinedManifest(ManifestBytes::Reader& reader, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules for units and streams, for a manifest whose tree is accepted.

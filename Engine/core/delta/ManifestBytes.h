@@ -14,15 +14,6 @@ namespace Pelnar::Engine::ManifestBytes
 constexpr std::uint64_t MAX_VERSION_BYTES = 256;
 constexpr std::uint64_t MAX_PATH_BYTES = 65536; // more than the rules allow, so that it is they who refuse
 
-inline void AppendNumber(ByteBuffer& bytes, std::uint64_t number)
-{
-    for (; number >= 0x80; number >>= 7)
-    {
-        bytes.push_back(static_cast<std::uint8_t>(number | 0x80));
-    }
-    bytes.push_back(static_cast<std::uint8_t>(number));
-}
-
 inline void AppendText(ByteBuffer& bytes, std::string const& text)
 {
     AppendNumber(bytes, text.size());
@@ -32,12 +23,6 @@ inline void AppendText(ByteBuffer& bytes, std::string const& text)
 inline void AppendHash(ByteBuffer& bytes, ContentHash const& hash)
 {
     bytes.insert(bytes.end(), hash.begin(), hash.end());
-}
-
-/// A number with its sign as lowest bit.
-inline void AppendSigned(ByteBuffer& bytes, std::int64_t number)
-{
-    AppendNumber(bytes, static_cast<std::uint64_t>(number) << 1 ^ static_cast<std::uint64_t>(number >> 63));
 }
 
 class Reader

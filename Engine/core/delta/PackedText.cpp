@@ -51,10 +51,10 @@ void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes
                  std::size_t end)
 {
     recipe.push_back(static_cast<std::uint8_t>(kind));
-    ManifestBytes::AppendNumber(recipe, tokens);
+    AppendNumber(recipe, tokens);
     if (kind == BlockKind::Dynamic)
     {
-        ManifestBytes::AppendNumber(recipe, end - begin);
+        AppendNumber(recipe, end - begin);
         BitReader bits(data);
         bits.Skip(static_cast<unsigned>(begin));
         BitWriter copy;
@@ -95,7 +95,7 @@ bool AppendBlocks(ByteBuffer& recipe, Bytes data, std::size_t& dataBytes)
         AppendBlock(blocks, reader.Kind(), tokens - 1, data, begin, end);
         ++count;
     } while (!reader.IsLastBlock());
-    ManifestBytes::AppendNumber(recipe, count);
+    AppendNumber(recipe, count);
     recipe.insert(recipe.end(), blocks.begin(), blocks.end());
     dataBytes = (reader.Bits().Position() + 7) / 8;
     return true;
@@ -103,7 +103,7 @@ bool AppendBlocks(ByteBuffer& recipe, Bytes data, std::size_t& dataBytes)
 
 void AppendBytes(ByteBuffer& recipe, Bytes bytes)
 {
-    ManifestBytes::AppendNumber(recipe, bytes.size());
+    AppendNumber(recipe, bytes.size());
     recipe.insert(recipe.end(), bytes.begin(), bytes.end());
 }
 
@@ -210,8 +210,8 @@ private:
 
 bool IsRecipe(ByteBuffer const& recipe, Bytes text, Bytes file, PackedBase const& base)
 {
-    std::optional<ByteBuffer> const made = PackByRecipe(Bytes(recipe.data(), recipe.size()), text, file.size(), base);
-    return made && Bytes(made->data(), made->size()) == file;
+    std::optional<ByteBuffer> const made = PackByRecipe(View(recipe), text, file.size(), base);
+    return made && View(*made) == file;
 }
 
 } // namespace
@@ -288,7 +288,7 @@ std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
 ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base)
 {
     ByteBuffer faster = recipe;
-    ManifestBytes::Reader reader(Bytes(recipe.data(), recipe.size()));
+    ManifestBytes::Reader reader(View(recipe));
     std::uint64_t const opening = reader.Number();
     static_cast<void>(reader.Raw(opening));
     faster[recipe.size() - reader.Left()] |= LIKE_BASE;

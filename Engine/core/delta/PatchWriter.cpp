@@ -4,62 +4,9 @@
 
 namespace Pelnar::Engine
 {
-namespace
-{
-
-void AppendNumber(ByteBuffer& stream, std::uint64_t number)
-{
-    for (; number >= 0x80; number >>= 7)
-    {
-        stream.push_back(static_cast<std::uint8_t>(number | 0x80));
-    }
-    stream.push_back(static_cast<std::uint8_t>(number));
-}
-
-/// Calls \a visit with the old and the new bytes of each run of like ones.
-template <class Visit>
-void ForEachLikePiece(IOldText& old, std::uint64_t position, std::vector<PatchStep> const& steps, Bytes newBytes,
-                      Visit const& visit)
-{
-    std::size_t made = 0;
-    for (PatchStep const& step : steps)
-    {
-        if (step.likeBytes > 0)
-        {
-            old.Start(position, made, step.likeBytes);
-        }
-        for (std::uint64_t left = step.likeBytes; left > 0;)
-        {
-            Bytes const piece = old.Next();
-            visit(piece, newBytes.substr(made, piece.size()));
-            made += piece.size();
-            left -= piece.size();
-        }
-        made += static_cast<std::size_t>(step.extraBytes);
-        position = MovedBy(position + step.likeBytes, step.move);
-    }
-}
-
-} // namespace
-
-std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes)
-{
-    std::uint64_t changed = 0;
-    ForEachLikePiece(old, 0, steps, newBytes,
-                     [&changed](Bytes oldPiece, Bytes newPiece)
-                     {
-                         for (std::size_t i = 0; i < oldPiece.size(); ++i)
-                         {
-                             changed += oldPiece[i] != newPiece[i] ? 1 : 0;
-                         }
-                     });
-    return changed;
-}
 
 void PatchWriter::Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes)
 {
-    ForEachLikePiece(old, m_position, steps, newBytes,
-                     [this](Bytes oldPiece, Bytes newPiece) { AddLike(oldPiece, newPiece); });
     std::size_t made = 0;
     for (PatchStep const& step : steps)
     {
@@ -67,7 +14,17 @@ void PatchWriter::Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes 
         {
             AppendNumber(m_patch[PatchStream::Steps], number);
         }
-        made += static_cast<std::size_t>(step.likeBytes);
+        if (step.likeBytes > 0)
+        {
+            old.Start(m_position, made, step.likeBytes);
+        }
+        for (std::uint64_t left = step.likeBytes; left > 0;)
+        {
+            Bytes const piece = old.Next();
+            AddLike(piece, newBytes.substr(made, piece.size()));
+            made += piece.size();
+            left -= piece.size();
+        }
         AddWhole(newBytes.substr(made, static_cast<std::size_t>(step.extraBytes)));
         made += static_cast<std::size_t>(step.extraBytes);
         m_position = MovedBy(m_position + step.likeBytes, step.move);

@@ -1,5 +1,5 @@
-// PatchWriter.h: writes the streams of patches from their steps, for one file after the other.
-// Thread: one at a time. Ownership: the streams are the writer's until they are taken.
+// PatchWriter.h: writes the streams of patches, for one file after the other, from their steps.
+// Thread: one at a time. Ownership: the writer has the streams until Finish.
 #pragma once
 
 #include "Engine/core/delta/OldText.h"
@@ -9,19 +9,17 @@
 namespace Pelnar::Engine
 {
 
-/// How many of \a newBytes are like old ones by \a steps, which begin at the start of \a old, but differ from them.
-[[nodiscard]] std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes);
-
 class PatchWriter
 {
 public:
-    /// What is written next starts from the beginning of an old text.
+    /// The next file starts at the beginning of an old text.
     void StartText() { m_position = 0; }
-    /// Writes what makes \a newBytes of \a old by \a steps, from where the last file has left the position in \a old.
+    /// Writes the patch that makes \a newBytes from \a old by \a steps. It starts at the position in \a old where the
+    /// last file ended.
     void Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes);
     void AddRecord(Bytes record);
     void AddWhole(Bytes newBytes);
-    /// Everything that has been written; call it once, last.
+    /// All streams. Call it once, last.
     [[nodiscard]] BinaryPatch Finish();
 
 private:

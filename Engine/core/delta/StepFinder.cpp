@@ -13,11 +13,6 @@ namespace
 // A new alignment must explain this many bytes more than the current one to be worth a step.
 constexpr std::int64_t MIN_GAIN_BYTES = 14;
 
-std::uint64_t WithSignAsLowestBit(std::int64_t number)
-{
-    return number < 0 ? static_cast<std::uint64_t>(-number) * 2 - 1 : static_cast<std::uint64_t>(number) * 2;
-}
-
 std::size_t CommonLength(Bytes a, Bytes b)
 {
     std::size_t const limit = std::min(a.size(), b.size());
@@ -53,7 +48,7 @@ private:
     {
         if (!m_steps.empty())
         {
-            m_steps.back().move = WithSignAsLowestBit(m_move);
+            m_steps.back().move = FoldSign(m_move);
         }
         m_move = 0;
     }
@@ -222,7 +217,7 @@ private:
 
 bool SuffixIndex::Build(Bytes text)
 {
-    if (text.size() > MAX_PATCH_SOURCE_BYTES)
+    if (text.size() > MAX_INDEXED_BYTES)
     {
         return false;
     }

@@ -17,11 +17,14 @@ struct TextMatch
     std::int64_t length = 0;
 };
 
-/// All suffixes of a text in order, for finding the longest piece of it that another text begins with.
+/// The largest text that an index takes.
+constexpr std::size_t MAX_INDEXED_BYTES = 0x7FFFFFFE;
+
+/// All suffixes of a text in order. Finds the longest piece of the text that another text begins with.
 class SuffixIndex
 {
 public:
-    /// False when the index cannot be built: the text is larger than MAX_PATCH_SOURCE_BYTES, or memory is lacking.
+    /// False when the index cannot be built: the text is larger than MAX_INDEXED_BYTES, or memory is lacking.
     [[nodiscard]] bool Build(Bytes text);
     Bytes Text() const { return m_text; }
     /// The longest piece that \a wanted begins with; of several as long the one at \a expected, if it is one of them.

@@ -5,38 +5,26 @@
 
 #include <algorithm>
 #include <cctype>
+#include <map>
 #include <set>
-#include <tuple>
+#include <utility>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-// What is searched at once takes five times this in memory, and a unit's files are open together.
+// A search takes five times this in memory, and the files of a unit are open together.
 constexpr std::uint64_t MAX_UNIT_BYTES = 128u << 20;
 constexpr std::size_t MAX_UNIT_FILES = 10000;
 
-std::string NameOf(std::string const& path)
-{
-    return path.substr(path.rfind('/') + 1);
-}
-
-/// The path without its numbers, which often are a version's.
+/// The path without its numbers: they often tell the version.
 std::string PlainPath(std::string const& path)
 {
     std::string plain;
     std::copy_if(path.begin(), path.end(), std::back_inserter(plain),
                  [](unsigned char c) { return !std::isdigit(c) && c != '.'; });
     return plain;
-}
-
-/// Files in this order have their like beside them.
-std::tuple<std::string, std::string, std::string> OrderOf(std::string const& path)
-{
-    std::string const name = NameOf(path);
-    std::size_t const dot = name.rfind('.');
-    return {dot == std::string::npos ? std::string() : name.substr(dot), PlainPath(path), path};
 }
 
 SpanChange ChangeOf(ImageSpan const& from, ImageSpan const& to)
@@ -129,7 +117,7 @@ private:
         std::optional<ByteBuffer> const from = UnpackText(OpenedFile(m_old.folder / source).Content());
         OpenedFile const file(m_newFolder / m_entries[target].path);
         std::optional<ByteBuffer> const to = from ? UnpackText(file.Content()) : std::nullopt;
-        bool const hasRecipe = to && !to->empty() && FindRecipe(file.Content(), Bytes(to->data(), to->size()));
+        bool const hasRecipe = to && !to->empty() && FindRecipe(file.Content(), View(*to));
         if (!hasRecipe)
         {
             return false;
@@ -140,50 +128,40 @@ private:
         return true;
     }
 
-    /// Everything else in one order, old and new files together, cut where it gets too much to be searched at once.
+    /// All other files, old and new together, in the order of their paths. A unit ends where it gets too large for one
+    /// search.
     void AddOthers(std::vector<std::uint32_t> const& targets)
     {
-        struct Item
-        {
-            std::string path;
-            std::uint64_t size;
-            bool isSource;
-            std::uint32_t target;
-        };
-        std::vector<Item> items;
+        std::map<std::pair<std::string, bool>, std::uint32_t> items; ///< an old file comes before the new one
         for (auto const& [path, file] : m_old.files)
         {
             if (m_usedPaths.count(path) == 0)
             {
-                items.push_back({path, file.size, true, 0});
+                items.emplace(std::make_pair(path, false), 0);
             }
         }
         for (std::uint32_t const target : targets)
         {
-            items.push_back({m_entries[target].path, m_entries[target].size, false, target});
+            items.emplace(std::make_pair(m_entries[target].path, true), target);
         }
-        std::sort(
-            items.begin(), items.end(),
-            [](Item const& a, Item const& b)
-            { return std::make_pair(OrderOf(a.path), !a.isSource) < std::make_pair(OrderOf(b.path), !b.isSource); });
         DeltaUnit unit;
         std::uint64_t bytes = 0;
-        for (Item const& item : items)
+        for (auto const& [item, target] : items)
         {
-            if (item.isSource && (bytes + item.size > MAX_UNIT_BYTES || unit.sources.size() == MAX_UNIT_FILES))
+            auto const& [path, isTarget] = item;
+            if (isTarget)
+            {
+                unit.targets.push_back(target);
+                continue;
+            }
+            std::uint64_t const size = m_old.files.at(path).size;
+            if (bytes + size > MAX_UNIT_BYTES || unit.sources.size() == MAX_UNIT_FILES)
             {
                 bytes = 0;
                 m_units.push_back(std::exchange(unit, {}));
             }
-            if (item.isSource)
-            {
-                unit.sources.push_back({item.path, item.size});
-                bytes += item.size;
-            }
-            else
-            {
-                unit.targets.push_back(item.target);
-            }
+            unit.sources.push_back({path, size});
+            bytes += size;
         }
         m_units.push_back(unit);
     }
@@ -193,7 +171,7 @@ private:
     std::vector<DeltaEntry> const& m_entries;
     DeltaEffort m_effort;
     std::multimap<std::string, std::string> m_pathsByPlainPath;
-    std::set<std::string> m_usedPaths; ///< of old files that are kept or are programs' sources
+    std::set<std::string> m_usedPaths; ///< of old files that are kept or have a unit of their own
     std::vector<DeltaUnit> m_units;
 };
 

@@ -1,4 +1,4 @@
-// UnitPlan.h: which old files which new ones are made from.
+// UnitPlan.h: decides from which old files each new file is made. Reads the files of both versions.
 #pragma once
 
 #include "Engine/core/delta/BundleReader.h"
@@ -10,10 +10,9 @@
 namespace Pelnar::Engine
 {
 
-/// A unit for each program that has an old version, under its path or one that differs in numbers only, with the
-/// changes of its segments; a unit for each packed text, except for low effort: packing takes clients ten times as long
-/// as the rest; units for all other files that are not kept, of the old files that have changed or gone. In every unit
-/// like files stand together.
+/// A program gets a unit with the changes of its segments. A packed text gets a unit, but not for low effort: clients
+/// need ten times as long to pack it. The old file of both has the same path, or one that differs in numbers only. The
+/// other files that are not kept are made from the old files that changed or are gone.
 [[nodiscard]] std::vector<DeltaUnit> PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
                                                std::vector<DeltaEntry> const& entries, DeltaEffort effort);
 

@@ -40,7 +40,7 @@ public:
         {
             m_text = AlignmentTextOf(plain, *layout);
         }
-        if (!m_index.Build(Bytes(m_text.data(), m_text.size())))
+        if (!m_index.Build(View(m_text)))
         {
             throw std::bad_alloc();
         }
@@ -115,7 +115,7 @@ public:
     {
         Piece& piece = m_pieces[number];
         OpenedFile const file(m_newFolder / m_entries[m_unit.targets[piece.target]].path);
-        Bytes const text = m_changed.empty() ? file.Content() : Bytes(m_changed.data(), m_changed.size());
+        Bytes const text = m_changed.empty() ? file.Content() : View(m_changed);
         piece.end = piece.start;
         piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
     }
@@ -132,11 +132,6 @@ public:
     }
 
 private:
-    static std::uint64_t MoveFor(std::uint64_t from, std::uint64_t to)
-    {
-        return to < from ? (from - to) * 2 - 1 : (to - from) * 2;
-    }
-
     /// Leads from where the last piece has ended to where this one starts.
     static void Append(std::vector<PatchStep>& steps, Piece const& piece, std::uint64_t& position)
     {
@@ -158,11 +153,12 @@ private:
         }
         if (start != position && steps.empty())
         {
-            steps.push_back({0, 0, MoveFor(position, start)});
+            steps.push_back({0, 0, FoldSign(static_cast<std::int64_t>(start - position))});
         }
         else if (start != position)
         {
-            steps.back().move = MoveFor(position, start); // the last step of a piece moves nowhere
+            steps.back().move =
+                FoldSign(static_cast<std::int64_t>(start - position)); // the last step of a piece moves nowhere
         }
         steps.insert(steps.end(), next.begin(), next.end());
         position = usesOld ? piece.end : position;

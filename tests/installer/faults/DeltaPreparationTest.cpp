@@ -11,7 +11,12 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <tuple>
+
+#include <sys/stat.h>
+#include <sys/syscall.h>
 
 namespace
 {
@@ -94,6 +99,91 @@ TEST(Delta, TreeWithoutEvilIsMadeByTheSameForge)
     auto const* prepared = outcome.Find<PreparedReport>();
     ASSERT_NE(prepared, nullptr);
     EXPECT_TRUE(prepared->digest == TreeOf(fresh.Path() + '/' + APP));
+}
+
+struct KeptFileRow
+{
+    char const* name;
+    void (*change)(std::string const& path);
+};
+
+class KeptFileThatChanges : public testing::TestWithParam<KeptFileRow>
+{
+};
+
+/// The helper checks the sizes of kept files first and copies the files later.
+TEST_P(KeptFileThatChanges, BetweenCheckAndUseIsRefused)
+{
+    UpdateScene scene(DeltaToTheNextVersion());
+    std::string const path = AppIn(WithBase(scene)) + "/Resources/same";
+    int opened = 0;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        bool const isOpened = stop.call == SYS_openat2 && PathArgument(stop, 1) == "Resources/same";
+        opened += isOpened ? 1 : 0;
+        if (isOpened && opened == 2)
+        {
+            GetParam().change(path);
+        }
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = scene.Prepare(DeltaJob(scene), start);
+    EXPECT_GE(opened, 2);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::DeltaBaseDiffers);
+    EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+    EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
+    scene.Host().End();
+    scene.ReleaseStaging();
+    EXPECT_EQ(scene.Recover("1.0").exitStatus, 0);
+    EXPECT_EQ(scene.Place().Names(), std::vector<std::string>{APP});
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, KeptFileThatChanges,
+    testing::Values(KeptFileRow{"OtherBytes", [](std::string const& path)
+                                { std::ofstream(path, std::ios::in | std::ios::out).seekp(100) << "edited"; }},
+                    KeptFileRow{"Longer", [](std::string const& path) { std::ofstream(path, std::ios::app) << "x"; }},
+                    KeptFileRow{"Shorter", [](std::string const& path) { std::filesystem::resize_file(path, 499); }},
+                    KeptFileRow{"Removed", [](std::string const& path) { std::filesystem::remove(path); }},
+                    KeptFileRow{"LinkToTheSameBytes",
+                                [](std::string const& path)
+                                {
+                                    std::filesystem::rename(path, path + "-away");
+                                    std::filesystem::create_symlink("same-away", path);
+                                }},
+                    KeptFileRow{"Fifo",
+                                [](std::string const& path)
+                                {
+                                    std::filesystem::remove(path);
+                                    EXPECT_EQ(::mkfifo(path.c_str(), 0644), 0);
+                                }},
+                    KeptFileRow{"Folder",
+                                [](std::string const& path)
+                                {
+                                    std::filesystem::remove(path);
+                                    std::filesystem::create_directory(path);
+                                }}),
+    [](testing::TestParamInfo<KeptFileRow> const& info) { return info.param.name; });
+
+TEST(Delta, KeptFileThatGrowsWhileItIsCopiedIsNotCopiedForever)
+{
+    constexpr int MOST_READS = 200;
+    UpdateScene scene(DeltaToTheNextVersion());
+    std::string const path = AppIn(WithBase(scene)) + "/Resources/same";
+    int reads = 0;
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        bool const isRead = (stop.call == SYS_read || stop.call == SYS_pread64) && DescriptorPath(stop) == path;
+        if (isRead && ++reads < MOST_READS)
+        {
+            std::ofstream(path, std::ios::app) << std::string(1000, 'x');
+        }
+        return CallVerdict::GoOn();
+    };
+    EXPECT_EQ(scene.Prepare(DeltaJob(scene), start).Fault(), UpdateFault::DeltaBaseDiffers);
+    EXPECT_LT(reads, MOST_READS);
 }
 
 } // namespace

@@ -33,7 +33,7 @@ std::string Changed(std::string const& whole, void (*change)(DeltaManifest& mani
     EXPECT_TRUE(ReadDeltaManifest(container.Get(), {}, manifest, dataOffset).HasSucceeded());
     std::string data = whole.substr(dataOffset);
     change(manifest, data);
-    return TextOf(EncodeDeltaOpening(manifest)) + data;
+    return TextOf(EncodeOpening(manifest)) + data;
 }
 
 std::string DeltaWith(void (*change)(DeltaManifest& manifest, std::string& data))
@@ -90,7 +90,7 @@ ByteBuffer DescriptorMap(std::vector<std::uint64_t> const& numbers)
 void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint64_t> const& numbers)
 {
     ByteBuffer const steps = DescriptorMap(numbers);
-    ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()));
+    ByteBuffer const stored = CompressForDelta(View(steps));
     std::size_t const offset = OffsetOf(manifest, DeltaEntryKind::Patched);
     DeltaEntry& entry = EntryOf(manifest, DeltaEntryKind::Patched);
     data.replace(offset, entry.streamsStored[0], TextOf(stored));
@@ -140,7 +140,7 @@ std::string DeltaWithSteps(std::vector<std::uint64_t> const& numbers)
     return JoinedDeltaWith(
         [](DeltaManifest& manifest, std::string& data)
         {
-            ByteBuffer const stored = CompressForDelta(Bytes(steps.data(), steps.size()), NUMBERS_WINDOW_LOG);
+            ByteBuffer const stored = CompressForDelta(View(steps), NUMBERS_WINDOW_LOG);
             data.replace(0, manifest.streams[0].size, TextOf(stored));
             manifest.streams[0] = {0, stored.size()};
         });

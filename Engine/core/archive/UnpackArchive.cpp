@@ -2,6 +2,7 @@
 
 #include "Engine/core/archive/Archive.h"
 #include "Engine/core/archive/TreeManifest.h"
+#include "Engine/core/base/TaskThread.h"
 #include "Engine/core/base/TreeAccess.h"
 
 #include <cerrno>
@@ -17,6 +18,8 @@ namespace
 {
 
 constexpr std::uint64_t LARGE_FILE_BYTES = 128 << 10;
+constexpr std::size_t PORTION_BYTES = 128 << 10; ///< more only in one piece of the reader's
+constexpr std::size_t PORTIONS_AHEAD = 32;
 
 void RefuseUnlessNone(UpdateFault fault, std::string const& entry)
 {
@@ -59,36 +62,47 @@ std::uint64_t JudgeEntries(int archiveFd, ArchiveContainer const& container)
     return total;
 }
 
-/// The second pass.
+/// What is written at once: an entry, or a part of a file.
+struct Portion
+{
+    ArchiveEntry entry;
+    std::string path;
+    std::uint32_t mode = 0;
+    std::optional<timespec> time; ///< of a file
+    ByteBuffer bytes;             ///< of a file
+    bool isFirst = true;
+    bool isLast = true;
+};
+
+/// Writes what the second pass reads, in a thread of its own: while the next file is decompressed, the system makes
+/// this one.
 class BundleWriter
 {
 public:
-    BundleWriter(int stagingFd, std::uint64_t totalBytes, UnpackProgress const& progress)
-        : m_tree(stagingFd), m_totalBytes(totalBytes), m_progress(progress)
-    {
-    }
+    explicit BundleWriter(int stagingFd) : m_tree(stagingFd) {}
 
-    void Write(Archive& archive, ArchiveEntry const& entry, std::string const& path, std::uint32_t mode)
+    void Write(Portion const& portion)
     {
+        std::string const& path = portion.path;
         std::size_t const slash = path.rfind('/');
         if (slash != std::string::npos)
         {
             MakeFolder(path.substr(0, slash));
         }
-        switch (entry.type)
+        switch (portion.entry.type)
         {
         case ArchiveEntryType::Folder:
             MakeFolder(path);
             return;
         case ArchiveEntryType::File:
-            WriteFile(archive, entry, path, mode);
+            WriteFile(portion);
             return;
         case ArchiveEntryType::SymbolicLink:
-            if (!m_tree.MakeLink(path, entry.linkTarget))
+            if (!m_tree.MakeLink(path, portion.entry.linkTarget))
             {
                 ThrowErrno(errno);
             }
-            m_manifest.AddLink(Below(path), entry.linkTarget);
+            m_manifest.AddLink(Below(path), portion.entry.linkTarget);
             return;
         case ArchiveEntryType::HardLink:
         case ArchiveEntryType::Other:
@@ -126,50 +140,76 @@ private:
         m_lastFolder = path;
     }
 
-    void WriteFile(Archive& archive, ArchiveEntry const& entry, std::string const& path, std::uint32_t mode)
+    void WriteFile(Portion const& portion)
     {
-        UniqueFd const file = m_tree.MakeFile(path, mode == 0755);
-        if (!file)
+        if (portion.isFirst)
+        {
+            m_file = m_tree.MakeFile(portion.path, portion.mode == 0755);
+        }
+        Bytes const bytes(portion.bytes.data(), portion.bytes.size());
+        if (!m_file || !WriteAll(m_file.Get(), bytes))
         {
             ThrowErrno(errno);
         }
-        ContentHasher hasher;
-        archive.ReadContents(entry.size,
-                             [&](Bytes piece)
-                             {
-                                 if (!WriteAll(file.Get(), piece))
-                                 {
-                                     ThrowErrno(errno);
-                                 }
-                                 hasher.Add(piece);
-                                 m_doneBytes += piece.size();
-                                 m_progress(m_doneBytes, m_totalBytes);
-                             });
-        if (auto const time = archive.ModificationTime())
+        m_hasher.Add(bytes);
+        if (portion.isLast)
         {
-            timespec const times[] = {{0, UTIME_OMIT}, *time};
-            if (::futimens(file.Get(), times) != 0)
+            EndFile(portion);
+        }
+    }
+
+    void EndFile(Portion const& portion)
+    {
+        if (portion.time)
+        {
+            timespec const times[] = {{0, UTIME_OMIT}, *portion.time};
+            if (::futimens(m_file.Get(), times) != 0)
             {
                 ThrowErrno(errno);
             }
         }
-        if (entry.size >= LARGE_FILE_BYTES)
+        if (portion.entry.size >= LARGE_FILE_BYTES)
         {
             // The disk begins to write while the next file is unpacked. This shortens the sync at the end, and only
             // that sync counts.
-            static_cast<void>(::sync_file_range(file.Get(), 0, 0, SYNC_FILE_RANGE_WRITE));
+            static_cast<void>(::sync_file_range(m_file.Get(), 0, 0, SYNC_FILE_RANGE_WRITE));
         }
-        m_manifest.AddFile(Below(path), mode, entry.size, hasher.Finish());
+        m_manifest.AddFile(Below(portion.path), portion.mode, portion.entry.size, m_hasher.Finish());
+        m_file = UniqueFd();
     }
 
     TreeAccess m_tree;
     TreeManifest m_manifest;
-    std::uint64_t m_totalBytes;
-    std::uint64_t m_doneBytes = 0;
-    UnpackProgress const& m_progress;
+    UniqueFd m_file; ///< of which portions are still to come
+    ContentHasher m_hasher;
     std::unordered_set<std::string> m_folders;
     std::string m_lastFolder;
 };
+
+/// Passes the entry to \a post in portions. \a tell is called after each piece with its size.
+void ReadPortions(Archive& archive, Portion portion, std::function<void(Portion)> const& post,
+                  std::function<void(std::size_t)> const& tell)
+{
+    if (portion.entry.type == ArchiveEntryType::File)
+    {
+        portion.time = archive.ModificationTime();
+        archive.ReadContents(portion.entry.size,
+                             [&](Bytes piece)
+                             {
+                                 if (!portion.bytes.empty() && portion.bytes.size() + piece.size() > PORTION_BYTES)
+                                 {
+                                     portion.isLast = false;
+                                     post(portion);
+                                     portion.bytes.clear();
+                                     portion.isFirst = false;
+                                     portion.isLast = true;
+                                 }
+                                 portion.bytes.insert(portion.bytes.end(), piece.begin(), piece.end());
+                                 tell(piece.size());
+                             });
+    }
+    post(std::move(portion));
+}
 
 } // namespace
 
@@ -182,16 +222,22 @@ UnpackedBundle UnpackArchive(int archiveFd, int stagingFd, UnpackProgress const&
     // Judged again when read again: the only information from the first pass is that it succeeded.
     ArchiveEntryRules policy(ArchiveLimits::ForArchiveOf(SizeOf(archiveFd)));
     Archive archive(archiveFd, container);
-    BundleWriter writer(stagingFd, total, progress);
+    BundleWriter writer(stagingFd);
+    TaskThread tasks(PORTIONS_AHEAD); // last, as its thread uses the writer
+    auto const post = [&tasks, &writer](Portion portion)
+    { tasks.Post([&writer, portion = std::move(portion)] { writer.Write(portion); }); };
+    std::uint64_t done = 0;
+    auto const tell = [&done, total, &progress](std::size_t size) { progress(done += size, total); };
     while (auto const entry = archive.Next())
     {
         EntryAdmission const admission = policy.Admit(*entry);
         RefuseUnlessNone(admission.fault, entry->path);
         if (!admission.path.empty())
         {
-            writer.Write(archive, *entry, admission.path, admission.mode);
+            ReadPortions(archive, {*entry, admission.path, admission.mode, {}, {}}, post, tell);
         }
     }
+    tasks.Finish();
     RefuseUnlessWhole(policy);
     return {policy.BundleName(), writer.Digest()};
 }

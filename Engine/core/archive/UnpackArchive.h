@@ -21,7 +21,7 @@ struct UnpackedBundle
     ContentHash digest; ///< of the tree as written
 };
 
-/// Called after each piece: bytes written so far, and in total.
+/// Called after each piece: bytes unpacked so far, and in total.
 using UnpackProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t totalBytes)>;
 
 /// Unpacks the archive open at \a archiveFd into the empty folder open at \a stagingFd. Throws UpdateRefusal; the

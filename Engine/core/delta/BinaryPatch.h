@@ -73,9 +73,11 @@ constexpr std::uint64_t MovedBy(std::uint64_t position, std::uint64_t move)
 using ByteSource = std::function<std::size_t(std::uint8_t* target, std::size_t size)>;
 using PatchSources = std::array<ByteSource, PATCH_STREAMS>;
 /// The pieces in which new bytes come are no larger.
-constexpr std::size_t PATCH_PIECE_BYTES = 128 * 1024;
-/// Takes the next bytes of the new file, which stay as they are until the next call returns; false when they cannot be
-/// written.
+constexpr std::size_t PATCH_PIECE_BYTES = 64 * 1024;
+/// So many pieces behind the next one stay as they are.
+constexpr std::size_t PIECES_AHEAD = 7;
+/// Takes the next bytes of the new file, which stay as they are until PIECES_AHEAD more calls have returned; false when
+/// they cannot be written.
 using ByteSink = std::function<bool(Bytes bytes)>;
 
 enum class PatchVerdict

@@ -87,7 +87,7 @@ private:
     std::uint64_t m_sameLeft = 0;
     std::uint64_t m_changedLeft = 0;
     bool m_isChangedNext = false;
-    std::array<std::array<std::uint8_t, PATCH_PIECE_BYTES>, 2> m_pieces; ///< filled in turn
+    std::array<std::array<std::uint8_t, PATCH_PIECE_BYTES>, PIECES_AHEAD + 1> m_pieces; ///< filled in turn
     std::size_t m_current = 0;
     std::size_t m_filled = 0; ///< bytes of the current piece
 };

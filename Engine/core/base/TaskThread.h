@@ -1,0 +1,46 @@
+// TaskThread.h: does tasks one after the other in a thread of its own, while the caller prepares the next.
+// Thread: one at a time uses it. Ownership: its thread, which ends with the object.
+#pragma once
+
+#include <condition_variable>
+#include <deque>
+#include <exception>
+#include <functional>
+#include <mutex>
+#include <thread>
+
+namespace Pelnar::Engine
+{
+
+class TaskThread
+{
+public:
+    explicit TaskThread(std::size_t mostWaiting) : m_mostWaiting(mostWaiting) {}
+    /// Waits for the task at hand. Tasks that have not begun are dropped.
+    ~TaskThread();
+    TaskThread(TaskThread const&) = delete;
+    TaskThread& operator=(TaskThread const&) = delete;
+
+    /// Does \a task after all others; in the caller's thread if the system has no other. Returns once at most
+    /// mostWaiting tasks are left, \a task and the one at hand included. Throws what a task has thrown; no task begins
+    /// after that one.
+    void Post(std::function<void()> task);
+    /// Waits until all tasks are done. Throws what a task has thrown.
+    void Finish() { WaitFor(0); }
+
+private:
+    bool IsRunning();
+    void Work();
+    void WaitFor(std::size_t most);
+
+    std::size_t const m_mostWaiting;
+    std::mutex m_mutex;
+    std::condition_variable m_posted;
+    std::condition_variable m_done;
+    std::deque<std::function<void()>> m_tasks; ///< the first is at hand
+    std::exception_ptr m_failure;
+    bool m_isEnding = false;
+    std::thread m_thread; ///< from the first task on
+};
+
+} // namespace Pelnar::Engine

@@ -1,0 +1,117 @@
+#include "Engine/core/base/TaskThread.h"
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <numeric>
+#include <stdexcept>
+#include <thread>
+#include <vector>
+
+#include <pthread.h>
+
+namespace
+{
+
+using namespace Pelnar::Engine;
+
+constexpr std::size_t AHEAD = 4;
+
+/// Work that others overtake.
+void Dawdle(int rounds)
+{
+    for (int i = 0; i < rounds; ++i)
+    {
+        std::this_thread::yield();
+    }
+}
+
+TEST(TaskThread, DoesAllTasksInTheirOrderInAnotherThread)
+{
+    TaskThread tasks(AHEAD);
+    std::vector<int> done;
+    std::thread::id thread;
+    for (int i = 0; i < 1000; ++i)
+    {
+        tasks.Post(
+            [&done, &thread, i]
+            {
+                thread = std::this_thread::get_id();
+                done.push_back(i);
+            });
+    }
+    tasks.Finish();
+    std::vector<int> expected(1000);
+    std::iota(expected.begin(), expected.end(), 0);
+    EXPECT_EQ(done, expected);
+    EXPECT_NE(thread, std::this_thread::get_id());
+}
+
+TEST(TaskThread, LetsOnlySoManyTasksWait)
+{
+    TaskThread tasks(AHEAD);
+    std::atomic<std::size_t> done = 0;
+    for (std::size_t posted = 1; posted <= 100; ++posted)
+    {
+        tasks.Post(
+            [&done]
+            {
+                Dawdle(10);
+                ++done;
+            });
+        EXPECT_GE(done + AHEAD, posted);
+    }
+}
+
+TEST(TaskThread, ThrowsWhatATaskHasThrownAndDoesNoMore)
+{
+    TaskThread tasks(AHEAD);
+    bool isNextDone = false;
+    auto const post = [&tasks, &isNextDone]
+    {
+        tasks.Post([] { throw std::runtime_error("no"); });
+        tasks.Post([&isNextDone] { isNextDone = true; });
+        tasks.Finish();
+    };
+    EXPECT_THROW(post(), std::runtime_error);
+    EXPECT_THROW(tasks.Finish(), std::runtime_error);
+    EXPECT_FALSE(isNextDone);
+}
+
+TEST(TaskThread, DropsWhatHasNotBegunWhenItEnds)
+{
+    constexpr int MANY = 1000; // which would take seconds
+    int done = 0;
+    {
+        TaskThread tasks(MANY);
+        for (int i = 0; i < MANY; ++i)
+        {
+            tasks.Post(
+                [&done]
+                {
+                    Dawdle(10000);
+                    ++done;
+                });
+        }
+    }
+    EXPECT_LT(done, MANY);
+}
+
+TEST(TaskThread, DoesThemInTheCallersThreadIfTheSystemHasNoOther)
+{
+    // Stacks of new threads are larger than all memory.
+    pthread_attr_t usual;
+    pthread_attr_t huge;
+    ASSERT_EQ(::pthread_getattr_default_np(&usual), 0);
+    ASSERT_EQ(::pthread_getattr_default_np(&huge), 0);
+    ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t(1) << 50), 0);
+    ASSERT_EQ(::pthread_setattr_default_np(&huge), 0);
+    TaskThread tasks(AHEAD);
+    std::thread::id thread;
+    tasks.Post([&thread] { thread = std::this_thread::get_id(); });
+    tasks.Finish();
+    EXPECT_EQ(::pthread_setattr_default_np(&usual), 0);
+    EXPECT_EQ(thread, std::this_thread::get_id());
+}
+
+} // namespace

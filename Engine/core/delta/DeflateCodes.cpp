@@ -50,13 +50,27 @@ constexpr std::array<Range, DISTANCE_SYMBOLS> MakeDistances()
 constexpr std::array<Range, 29> LENGTHS = MakeLengths();
 constexpr std::array<Range, DISTANCE_SYMBOLS> DISTANCES = MakeDistances();
 
-/// The last range that begins at \a number or before.
-template <std::size_t Count>
-std::uint32_t SymbolOf(std::array<Range, Count> const& ranges, std::uint16_t number)
+/// A range for each number of two bits, and from the second pair on half of the numbers of one bit more each.
+template <unsigned SharesBits>
+constexpr std::uint32_t SymbolOf(std::uint32_t offset)
 {
-    auto const behind = std::upper_bound(ranges.begin(), ranges.end(), number,
-                                         [](std::uint16_t value, Range range) { return value < range.base; });
-    return static_cast<std::uint32_t>(behind - ranges.begin()) - 1;
+    constexpr std::uint32_t SHARES = 1u << SharesBits;
+    if (offset < 2 * SHARES)
+    {
+        return offset;
+    }
+    unsigned const bits = 31u - static_cast<unsigned>(__builtin_clz(offset)) - SharesBits;
+    return SHARES * bits + (offset >> bits);
+}
+
+std::uint32_t LengthSymbolOf(std::uint16_t length)
+{
+    return length == MAX_LENGTH ? 28 : SymbolOf<2>(length - 3u);
+}
+
+std::uint32_t DistanceSymbolOf(std::uint16_t distance)
+{
+    return SymbolOf<1>(distance - 1u);
 }
 
 } // namespace
@@ -112,32 +126,45 @@ bool DeflateCode::Build(std::uint8_t const* lengths, std::size_t count)
             return false;
         }
     }
-    m_table.fill(0);
+    m_hasTable = false;
+    m_longest = 0;
     for (std::size_t symbol = 0; symbol < count; ++symbol)
     {
         unsigned const bits = m_lengths[symbol];
-        if (bits == 0)
-        {
-            continue;
-        }
-        std::uint32_t const code = next[bits]++;
+        std::uint32_t const code = bits == 0 ? 0 : next[bits]++;
         std::uint32_t reversed = 0;
         for (unsigned i = 0; i < bits; ++i)
         {
             reversed |= (code >> i & 1) << (bits - 1 - i);
         }
         m_codes[symbol] = static_cast<std::uint16_t>(reversed);
-        for (std::size_t i = reversed; i < m_table.size(); i += std::size_t(1) << bits)
-        {
-            m_table[i] = static_cast<std::uint16_t>(symbol << 4 | bits);
-        }
+        m_longest = std::max(m_longest, bits);
     }
     return true;
 }
 
-bool DeflateCode::Read(BitReader& bits, std::uint32_t& symbol) const
+void DeflateCode::MakeTable()
 {
-    std::uint16_t const found = m_table[bits.Peek(MAX_CODE_BITS)];
+    std::size_t const size = std::size_t(1) << m_longest;
+    std::fill_n(m_table.begin(), size, std::uint16_t(0));
+    for (std::size_t symbol = 0; symbol < m_lengths.size(); ++symbol)
+    {
+        unsigned const bits = m_lengths[symbol];
+        for (std::size_t i = m_codes[symbol]; bits > 0 && i < size; i += std::size_t(1) << bits)
+        {
+            m_table[i] = static_cast<std::uint16_t>(symbol << 4 | bits);
+        }
+    }
+    m_hasTable = true;
+}
+
+bool DeflateCode::Read(BitReader& bits, std::uint32_t& symbol)
+{
+    if (!m_hasTable)
+    {
+        MakeTable();
+    }
+    std::uint16_t const found = m_table[bits.Peek(m_longest)];
     bits.Skip(found & 15u);
     symbol = found >> 4;
     return found != 0 && !bits.IsOverrun();
@@ -205,7 +232,7 @@ bool BlockCodes::ReadDynamic(BitReader& bits)
            m_distances.Build(all.data() + lengths, distances);
 }
 
-bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
+bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd)
 {
     std::uint32_t symbol = 0;
     if (!m_lengths.Read(bits, symbol))
@@ -239,8 +266,8 @@ bool BlockCodes::Write(BitWriter& bits, DeflateToken token) const
     {
         return m_lengths.Write(bits, token.value);
     }
-    std::uint32_t const length = SymbolOf(LENGTHS, token.length);
-    std::uint32_t const distance = SymbolOf(DISTANCES, token.value);
+    std::uint32_t const length = LengthSymbolOf(token.length);
+    std::uint32_t const distance = DistanceSymbolOf(token.value);
     bool const hasLength = m_lengths.Write(bits, END_OF_BLOCK + 1 + length);
     bits.Put(token.length - std::uint32_t(LENGTHS[length].base), LENGTHS[length].bits);
     bool const hasDistance = m_distances.Write(bits, distance);

@@ -56,15 +56,19 @@ public:
     /// False when the lengths make no code.
     [[nodiscard]] bool Build(std::uint8_t const* lengths, std::size_t count);
     /// False when no symbol has the next bits.
-    [[nodiscard]] bool Read(BitReader& bits, std::uint32_t& symbol) const;
+    [[nodiscard]] bool Read(BitReader& bits, std::uint32_t& symbol);
     /// False when \a symbol has no code.
     [[nodiscard]] bool Write(BitWriter& bits, std::uint32_t symbol) const;
 
 private:
+    void MakeTable();
+
     std::array<std::uint8_t, MAX_SYMBOLS> m_lengths{};
     std::array<std::uint16_t, MAX_SYMBOLS> m_codes{}; ///< as they are written
+    unsigned m_longest = 0;                           ///< bits of the longest code
+    bool m_hasTable = false;                          ///< only what is read needs it
     std::array<std::uint16_t, std::size_t(1) << MAX_CODE_BITS>
-        m_table; ///< 16 times the symbol and the bits; 0 for none
+        m_table; ///< by the next m_longest bits: 16 times the symbol and the bits; 0 for none
 };
 
 enum class BlockKind : std::uint8_t
@@ -89,7 +93,7 @@ public:
     /// Reads what stands before a dynamic block's tokens.
     [[nodiscard]] bool ReadDynamic(BitReader& bits);
     /// The next token; \a isEnd instead at the end of the block. False when it is broken.
-    [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd) const;
+    [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd);
     [[nodiscard]] bool Write(BitWriter& bits, DeflateToken token) const;
     [[nodiscard]] bool WriteEnd(BitWriter& bits) const;
 

@@ -42,21 +42,21 @@ QString TextOf(Problem const& problem)
     QString text;
     if (!problem.file.isEmpty())
     {
-        text += problem.file + QLatin1Char(':');
+        text += problem.file + u':';
         if (problem.line > 0)
         {
-            text += QString::number(problem.line) + QLatin1Char(':');
+            text += QString::number(problem.line) + u':';
             if (problem.column > 0)
             {
-                text += QString::number(problem.column) + QLatin1Char(':');
+                text += QString::number(problem.column) + u':';
             }
         }
-        text += QLatin1Char(' ');
+        text += u' ';
     }
     text += problem.what;
     if (!problem.mend.isEmpty())
     {
-        text += QStringLiteral("; ") + problem.mend;
+        text += u"; "_s + problem.mend;
     }
     return Printable(text);
 }
@@ -69,7 +69,7 @@ std::string Output::Styled(Emphasis emphasis, QString const& text) const
 
 ExitStatus Console::Refuse(Problem const& problem) const
 {
-    err.stream << err.Styled(Emphasis::Bad, QStringLiteral("error: ")) << TextOf(problem).toStdString() << '\n';
+    err.stream << err.Styled(Emphasis::Bad, u"error: "_s) << TextOf(problem).toStdString() << '\n';
     return ExitStatus::Unusable;
 }
 
@@ -92,12 +92,12 @@ bool ShowsColour(int fileDescriptor)
 
 QString Printable(QString const& text)
 {
-    return Engine::WithoutHidden(text, QLatin1Char('?'));
+    return Engine::WithoutHidden(text, u'?');
 }
 
 QString CountOf(std::size_t count, QString const& singular)
 {
-    return QStringLiteral("%1 %2%3").arg(count).arg(singular, count == 1 ? QString() : QStringLiteral("s"));
+    return u"%1 %2%3"_s.arg(count).arg(singular, count == 1 ? QString() : u"s"_s);
 }
 
 std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes)

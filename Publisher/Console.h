@@ -2,6 +2,8 @@
 // Ownership: streams belong to the caller, which outlives the verb.
 #pragma once
 
+#include "common/TextLiterals.h"
+
 #include <QByteArray>
 #include <QJsonObject>
 #include <QString>
@@ -26,6 +28,15 @@ enum class ExitStatus : std::int32_t
 /// left out.
 struct Problem
 {
+    Problem(QString what, QString mend) : what(std::move(what)), mend(std::move(mend)) {}
+    Problem(QString file, QString what, QString mend) : Problem(std::move(file), 0, 0, std::move(what), std::move(mend))
+    {
+    }
+    Problem(QString file, int line, int column, QString what, QString mend)
+        : file(std::move(file)), line(line), column(column), what(std::move(what)), mend(std::move(mend))
+    {
+    }
+
     QString file; ///< as the person typed it
     int line = 0; ///< from 1
     int column = 0;

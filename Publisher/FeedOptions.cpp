@@ -17,7 +17,7 @@ constexpr char const* ANY_MACHINE = "any";
 QStringList ChannelsOf(InstallationOptions const& options)
 {
     QStringList channels;
-    for (QString const& channel : QString::fromStdString(options.channels).split(QLatin1Char(',')))
+    for (QString const& channel : QString::fromStdString(options.channels).split(u','))
     {
         if (!channel.trimmed().isEmpty())
         {
@@ -70,8 +70,7 @@ Engine::Installation InstallationOf(InstallationOptions const& options)
         installation.now = QDateTime::fromString(moment, Qt::ISODate);
         if (!installation.now.isValid())
         {
-            throw Refusal({QString(), 0, 0, QStringLiteral("--at: \"%1\" is no moment").arg(moment),
-                           QStringLiteral("write it as 2030-01-31T12:00:00Z")});
+            throw Refusal({u"--at: \"%1\" is no moment"_s.arg(moment), u"write it as 2030-01-31T12:00:00Z"_s});
         }
     }
     if (options.rolloutGroup > 0)
@@ -88,9 +87,9 @@ Engine::Installation InstallationOf(InstallationOptions const& options)
 
 void AddInstallation(QJsonObject& object, InstallationOptions const& options)
 {
-    object.insert(QStringLiteral("machine"), QString::fromStdString(options.machine));
-    object.insert(QStringLiteral("channels"), QJsonArray::fromStringList(ChannelsOf(options)));
-    object.insert(QStringLiteral("rolloutGroup"),
+    object.insert(u"machine"_s, QString::fromStdString(options.machine));
+    object.insert(u"channels"_s, QJsonArray::fromStringList(ChannelsOf(options)));
+    object.insert(u"rolloutGroup"_s,
                   options.rolloutGroup > 0 ? QJsonValue(options.rolloutGroup) : QJsonValue(QJsonValue::Null));
 }
 

@@ -28,11 +28,10 @@ std::variant<FeedBytes, Problem> ReadStandardInput(Console const& console)
     std::optional<QByteArray> bytes = ReadWhole(console.in, Engine::FetchLimits().maxBodyBytes);
     if (!bytes)
     {
-        return Problem{QStringLiteral("<stdin>"), 0, 0, QStringLiteral("the feed is larger than a client accepts"),
-                       QStringLiteral("drop old items until it is below 4 MiB")};
+        return Problem{u"<stdin>"_s, u"the feed is larger than a client accepts"_s,
+                       u"drop old items until it is below 4 MiB"_s};
     }
-    return FeedBytes{QStringLiteral("<stdin>"), QUrl::fromLocalFile(QDir::currentPath() + QLatin1Char('/')),
-                     std::move(*bytes)};
+    return FeedBytes{u"<stdin>"_s, QUrl::fromLocalFile(QDir::currentPath() + u'/'), std::move(*bytes)};
 }
 
 QString MendOf(int httpStatus)
@@ -41,12 +40,12 @@ QString MendOf(int httpStatus)
     {
     case 401:
     case 403:
-        return QStringLiteral("let everybody read the feed; clients have no password");
+        return u"let everybody read the feed; clients have no password"_s;
     case 404:
     case 410:
-        return QStringLiteral("check the address, and upload the feed there");
+        return u"check the address, and upload the feed there"_s;
     }
-    return QStringLiteral("look at the server's own log, and try again");
+    return u"look at the server's own log, and try again"_s;
 }
 
 std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
@@ -58,17 +57,16 @@ std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
     }
     if (outcome.error->cause == Engine::ErrorCause::HttpStatus)
     {
-        return Problem{name, 0, 0, QStringLiteral("the server answered with status %1").arg(outcome.error->httpStatus),
+        return Problem{name, u"the server answered with status %1"_s.arg(outcome.error->httpStatus),
                        MendOf(outcome.error->httpStatus)};
     }
     QString const& detail = outcome.error->detail;
-    return Problem{name, 0, 0, outcome.error->sentence.English(),
-                   detail.isEmpty() ? QString() : QStringLiteral("detail: ") + detail};
+    return Problem{name, outcome.error->sentence.English(), detail.isEmpty() ? QString() : u"detail: "_s + detail};
 }
 
 std::variant<FeedBytes, Problem> ReadNamed(QString const& name, Console const& console)
 {
-    if (name == QLatin1String("-"))
+    if (name == "-"_l)
     {
         return ReadStandardInput(console);
     }
@@ -104,9 +102,8 @@ std::variant<FeedBytes, Problem> ReadFeed(QString const& name, QString const& pu
     QUrl const address(publishedAt);
     if (!publishedAt.isEmpty() && (!address.isValid() || address.isRelative()))
     {
-        return Problem{
-            QString(), 0, 0, QStringLiteral("--published-at: \"%1\" is no address").arg(publishedAt),
-            QStringLiteral("give the feed's whole address, such as https://updates.example.com/appcast.xml")};
+        return Problem{u"--published-at: \"%1\" is no address"_s.arg(publishedAt),
+                       u"give the feed's whole address, such as https://updates.example.com/appcast.xml"_s};
     }
     std::variant<FeedBytes, Problem> result = ReadNamed(name, console);
     if (auto* const feed = std::get_if<FeedBytes>(&result); feed && !publishedAt.isEmpty())

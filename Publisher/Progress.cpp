@@ -32,8 +32,7 @@ void Progress::Show(qint64 done, qint64 total)
     if (!m_output.isTerminal && total > 0 && m_sinceLine.elapsed() >= m_lineInterval.count())
     {
         m_sinceLine.start();
-        m_output.stream << QStringLiteral("%1: %2 %")
-                               .arg(m_label)
+        m_output.stream << u"%1: %2 %"_s.arg(m_label)
                                .arg(int(double(std::clamp<qint64>(done, 0, total)) / double(total) * 100))
                                .toStdString()
                         << std::endl;
@@ -46,10 +45,8 @@ void Progress::Show(qint64 done, qint64 total)
     m_sinceDrawn.start();
     qint64 const share = std::clamp<qint64>(done, 0, total);
     int const filled = int(double(share) / double(total) * BAR_WIDTH);
-    QString const bar =
-        QStringLiteral("%1 [%2%3] %4 %")
-            .arg(m_label, QString(filled, QLatin1Char('#')), QString(BAR_WIDTH - filled, QLatin1Char('.')))
-            .arg(int(double(share) / double(total) * 100));
+    QString const bar = u"%1 [%2%3] %4 %"_s.arg(m_label, QString(filled, u'#'), QString(BAR_WIDTH - filled, u'.'))
+                            .arg(int(double(share) / double(total) * 100));
     m_drawnWidth = std::max(m_drawnWidth, bar.size());
     m_output.stream << '\r' << bar.toStdString() << std::flush;
 }

@@ -63,7 +63,7 @@ void RefusalList::ThrowIfAny() const
 
 void RefuseFile(QString const& file, QString const& what, int errorNumber, QString const& mend)
 {
-    throw Refusal({file, 0, 0, what + QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errorNumber)), mend});
+    throw Refusal({file, what + u": "_s + QString::fromLocal8Bit(std::strerror(errorNumber)), mend});
 }
 
 namespace
@@ -112,7 +112,7 @@ void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> w
             }
             catch (std::exception const& error)
             {
-                context.status = context.console.Refuse({QString(), 0, 0, QString::fromLocal8Bit(error.what()), {}});
+                context.status = context.console.Refuse({QString::fromLocal8Bit(error.what()), {}});
             }
         });
 }

@@ -78,8 +78,8 @@ ExitStatus AnswerParseError(CLI::App const& program, CLI::ParseError const& erro
         console.out.stream << Wrapped(text.str(), WidthOf(console.out));
         return ExitStatus::Clean;
     }
-    return console.Refuse({QString(), 0, 0, QString::fromStdString(error.what()),
-                           QString::fromStdString("see " + UnderstoodPart(program) + " --help")});
+    return console.Refuse(
+        {QString::fromStdString(error.what()), QString::fromStdString("see " + UnderstoodPart(program) + " --help")});
 }
 
 /// An empty value usually comes from an unset variable of a script, so no verb accepts one.
@@ -136,8 +136,8 @@ ExitStatus RunProgram(std::vector<std::string> const& arguments, Console& consol
     console.out.stream.flush();
     if (!console.out.stream)
     {
-        console.Refuse({QStringLiteral("<stdout>"), 0, 0, QStringLiteral("cannot be written"),
-                        QStringLiteral("check the space on the disk, and who reads the output")});
+        console.Refuse(
+            {u"<stdout>"_s, u"cannot be written"_s, u"check the space on the disk, and who reads the output"_s});
         return ExitStatus::Findings;
     }
     return context.status;

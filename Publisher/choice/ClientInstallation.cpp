@@ -12,7 +12,7 @@ using App::Session::VersionFromStringNoexcept;
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation)
 {
     installation.version =
-        Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
+        Util::VersionToString(client.localVersion, Util::VersionToStringDetail::PresentComponents, u"."_s);
     return installation;
 }
 

@@ -10,8 +10,8 @@ NamedVersion ParseLocalVersion(QString const& option, QString const& text)
     Core::Version const version = App::Session::VersionFromStringNoexcept(text);
     if (!version.IsValid())
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("%1: \"%2\" is no version").arg(option, text),
-                       QStringLiteral("give one to four numbers with dots between them, such as 5.1.2")});
+        throw Refusal({u"%1: \"%2\" is no version"_s.arg(option, text),
+                       u"give one to four numbers with dots between them, such as 5.1.2"_s});
     }
     return {text, version};
 }
@@ -26,7 +26,7 @@ std::vector<NamedVersion> ParseVersionList(QString const& option, QString const&
                                            NamedVersion (*parse)(QString const&, QString const&))
 {
     std::vector<NamedVersion> versions;
-    QStringList const entries = text.split(QLatin1Char(','));
+    QStringList const entries = text.split(u',');
     for (QString const& entry : entries)
     {
         versions.push_back(parse(option, entry.trimmed()));
@@ -41,12 +41,12 @@ std::vector<std::string> PlatformNames()
 
 Engine::FeedPlatform PlatformFromName(QString const& name)
 {
-    return name == QLatin1String("macos") ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux;
+    return name == "macos"_l ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux;
 }
 
 QString OwnPlatformName()
 {
-    return QStringLiteral("linux");
+    return u"linux"_s;
 }
 
 ParsedFeed ReadItems(QString const& name, QString const& publishedAt, Engine::FeedTarget const& target,
@@ -57,10 +57,9 @@ ParsedFeed ReadItems(QString const& name, QString const& publishedAt, Engine::Fe
     if (!parsed)
     {
         QString const& detail = parsed.error().detail;
-        throw Refusal(
-            {feed.source.name, parsed.error().line, parsed.error().column,
-             parsed.error().sentence.English() + (detail.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(detail)),
-             QStringLiteral("pelnar-appcast lint says what to mend")});
+        throw Refusal({feed.source.name, parsed.error().line, parsed.error().column,
+                       parsed.error().sentence.English() + (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
+                       u"pelnar-appcast lint says what to mend"_s});
     }
     feed.items = std::move(parsed->items);
     return feed;

@@ -16,28 +16,18 @@ void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformatio
 {
     if (before.version.empty() || after.version.empty())
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("a bundle does not tell its version"),
-                       QStringLiteral("write CFBundleVersion into its information file")});
+        throw Refusal({u"a bundle does not tell its version"_s, u"write CFBundleVersion into its information file"_s});
     }
     if (before.identifier != after.identifier)
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("the bundles are of two products, %1 and %2")
-                           .arg(QString::fromStdString(before.identifier), QString::fromStdString(after.identifier)),
-                       QStringLiteral("give two versions of one")});
+        throw Refusal({u"the bundles are of two products, %1 and %2"_s.arg(QString::fromStdString(before.identifier),
+                                                                           QString::fromStdString(after.identifier)),
+                       u"give two versions of one"_s});
     }
     if (before.version == after.version)
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("both bundles are of version %1").arg(QString::fromStdString(before.version)),
-                       QStringLiteral("give two versions")});
+        throw Refusal(
+            {u"both bundles are of version %1"_s.arg(QString::fromStdString(before.version)), u"give two versions"_s});
     }
 }
 
@@ -45,7 +35,7 @@ void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformatio
 Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd,
                           Output const& progressOutput)
 {
-    Progress bar(progressOutput, QStringLiteral("Applying"));
+    Progress bar(progressOutput, u"Applying"_s);
     // Deliberate: no signature is required. The container is checked against its own hashes, and the result is only
     // read, never run.
     Engine::ContentHash digest{};
@@ -71,7 +61,7 @@ Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& new
     CheckPair(oldBundle.Information(), newBundle.Information());
     Engine::DeltaReport report;
     {
-        Progress bar(manner.progressOutput, QStringLiteral("Comparing"));
+        Progress bar(manner.progressOutput, u"Comparing"_s);
         report = Engine::MakeDelta(oldBundle.Path(), oldBundle.Information().version, newBundle.Path(),
                                    newBundle.Information().version, file.Descriptor(), {}, BarFor(bar), manner.effort);
     }
@@ -119,8 +109,8 @@ void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree 
         Apply(delta.descriptor.Get(), delta.name, oldBundle, made.Descriptor(), progressOutput);
     if (digest != Engine::DigestTree(newBundle.Descriptor()))
     {
-        throw Refusal({delta.name, 0, 0, QStringLiteral("makes another bundle than the archive of that version holds"),
-                       QStringLiteral("remove the delta; it is made again where it is wanted")});
+        throw Refusal({delta.name, u"makes another bundle than the archive of that version holds"_s,
+                       u"remove the delta; it is made again where it is wanted"_s});
     }
 }
 

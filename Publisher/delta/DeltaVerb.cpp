@@ -25,7 +25,7 @@ constexpr char const* HIGH_EFFORT = "high";
 BundleTree OpenBundle(Console const& console, std::string const& path)
 {
     QString const name = QString::fromStdString(path);
-    Progress bar(console.err, QStringLiteral("Unpacking"));
+    Progress bar(console.err, u"Unpacking"_s);
     return BundleTree::Open(name, BarFor(bar));
 }
 
@@ -46,16 +46,16 @@ ExitStatus Create(Console const& console, CreateOptions const& options)
     BundleTree const after = OpenBundle(console, options.newBundle);
     Engine::DeltaReport const report = MakeDeltaFile(before, after, output, {console.err, EffortOf(options.effort)});
     QString const baseVersion = QString::fromStdString(before.Information().version);
-    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole")
+    console.Print(u"%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole"_s
                       .arg(output, baseVersion, QString::fromStdString(after.Information().version))
                       .arg(report.containerBytes)
-                      .arg(CountOf(report.keptFiles, QStringLiteral("file")))
+                      .arg(CountOf(report.keptFiles, u"file"_s))
                       .arg(report.patchedFiles)
                       .arg(report.wholeFiles));
     if (signer)
     {
-        console.Print(QStringLiteral("sparkle:deltaFrom=\"%1\" %2")
-                          .arg(baseVersion.toHtmlEscaped(), AttributesOf(signer->Sign(OpenInputFile(output)))));
+        console.Print(u"sparkle:deltaFrom=\"%1\" %2"_s.arg(baseVersion.toHtmlEscaped(),
+                                                           AttributesOf(signer->Sign(OpenInputFile(output)))));
     }
     return ExitStatus::Clean;
 }
@@ -90,7 +90,7 @@ ExitStatus Apply(Console const& console, ApplyOptions const& options)
     NewFolder folder(output);
     ApplyDeltaFile(delta, before, folder.Descriptor(), console.err);
     folder.Commit();
-    console.Print(QStringLiteral("%1: version %2").arg(output, QString::fromStdString(manifest.targetVersion)));
+    console.Print(u"%1: version %2"_s.arg(output, QString::fromStdString(manifest.targetVersion)));
     return ExitStatus::Clean;
 }
 
@@ -130,8 +130,7 @@ constexpr char const* STREAM_NAMES[Engine::PATCH_STREAMS] = {"steps", "same", "c
 QString OriginOf(Engine::DeltaEntry const& entry)
 {
     bool const isElsewhere = !entry.sourcePath.empty() && entry.sourcePath != entry.path;
-    return isElsewhere ? QStringLiteral(" (from %1)").arg(Printable(QString::fromStdString(entry.sourcePath)))
-                       : QString();
+    return isElsewhere ? u" (from %1)"_s.arg(Printable(QString::fromStdString(entry.sourcePath))) : QString();
 }
 
 /// The joined format does not store the sizes of kept files.
@@ -150,28 +149,27 @@ void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
         {
             stored += entry.StoredBytes();
         }
-        console.Print(QStringLiteral("%1 bytes of data").arg(stored));
+        console.Print(u"%1 bytes of data"_s.arg(stored));
         return;
     }
     QStringList parts;
     for (std::size_t i = 0; i < Engine::PATCH_STREAMS; ++i)
     {
-        parts << QStringLiteral("%1 of %2").arg(manifest.streams[i].size).arg(QLatin1String(STREAM_NAMES[i]));
+        parts << u"%1 of %2"_s.arg(manifest.streams[i].size).arg(QLatin1String(STREAM_NAMES[i]));
     }
-    console.Print(QStringLiteral("bytes of data: %1").arg(parts.join(QStringLiteral(", "))));
+    console.Print(u"bytes of data: %1"_s.arg(parts.join(u", "_s)));
 }
 
 void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
 {
-    console.Print(QStringLiteral("%1: %2 to %3, %4 bytes")
+    console.Print(u"%1: %2 to %3, %4 bytes"_s
                       .arg(delta.name, Printable(QString::fromStdString(manifest.baseVersion)),
                            Printable(QString::fromStdString(manifest.targetVersion)))
                       .arg(delta.size));
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
-        console.Print(QStringLiteral("%1 %2  %3%4")
-                          .arg(QLatin1String(KindName(entry.kind)), -8)
-                          .arg(TellsSize(manifest, entry) ? QStringLiteral("%1 bytes").arg(entry.size) : QString(), 16)
+        console.Print(u"%1 %2  %3%4"_s.arg(QLatin1String(KindName(entry.kind)), -8)
+                          .arg(TellsSize(manifest, entry) ? u"%1 bytes"_s.arg(entry.size) : QString(), 16)
                           .arg(Printable(QString::fromStdString(entry.path)), OriginOf(entry)));
     }
     for (Engine::DeltaEntryKind const kind :
@@ -179,9 +177,7 @@ void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManif
     {
         auto const count = std::count_if(manifest.entries.begin(), manifest.entries.end(),
                                          [kind](Engine::DeltaEntry const& entry) { return entry.kind == kind; });
-        console.Print(QStringLiteral("%1 %2")
-                          .arg(QLatin1String(KindName(kind)), -8)
-                          .arg(CountOf(std::size_t(count), QStringLiteral("file"))));
+        console.Print(u"%1 %2"_s.arg(QLatin1String(KindName(kind)), -8).arg(CountOf(std::size_t(count), u"file"_s)));
     }
     ShowStored(console, manifest);
 }
@@ -202,30 +198,30 @@ void ShowJson(Console const& console, InputFile const& delta, Engine::DeltaManif
     QJsonArray entries;
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
-        QJsonObject object{{QStringLiteral("path"), QString::fromStdString(entry.path)},
-                           {QStringLiteral("kind"), QLatin1String(KindName(entry.kind))}};
+        QJsonObject object{{u"path"_s, QString::fromStdString(entry.path)},
+                           {u"kind"_s, QLatin1String(KindName(entry.kind))}};
         if (TellsSize(manifest, entry))
         {
-            object.insert(QStringLiteral("size"), qint64(entry.size));
+            object.insert(u"size"_s, qint64(entry.size));
         }
         if (!isJoined)
         {
-            object.insert(QStringLiteral("stored"), qint64(entry.StoredBytes()));
+            object.insert(u"stored"_s, qint64(entry.StoredBytes()));
         }
         if (!entry.sourcePath.empty())
         {
-            object.insert(QStringLiteral("source"), QString::fromStdString(entry.sourcePath));
+            object.insert(u"source"_s, QString::fromStdString(entry.sourcePath));
         }
         entries.append(object);
     }
-    QJsonObject answer{{QStringLiteral("delta"), delta.name},
-                       {QStringLiteral("baseVersion"), QString::fromStdString(manifest.baseVersion)},
-                       {QStringLiteral("targetVersion"), QString::fromStdString(manifest.targetVersion)},
-                       {QStringLiteral("size"), qint64(delta.size)},
-                       {QStringLiteral("entries"), entries}};
+    QJsonObject answer{{u"delta"_s, delta.name},
+                       {u"baseVersion"_s, QString::fromStdString(manifest.baseVersion)},
+                       {u"targetVersion"_s, QString::fromStdString(manifest.targetVersion)},
+                       {u"size"_s, qint64(delta.size)},
+                       {u"entries"_s, entries}};
     if (isJoined)
     {
-        answer.insert(QStringLiteral("streams"), StreamsJson(manifest));
+        answer.insert(u"streams"_s, StreamsJson(manifest));
     }
     console.PrintJson(answer);
 }

@@ -29,7 +29,7 @@ std::vector<NamedVersion> VersionsOfBoth(std::vector<Engine::FeedItem> const& ol
     std::vector<Engine::FeedItem> items = oldItems;
     items.insert(items.end(), newItems.begin(), newItems.end());
     std::vector<NamedVersion> versions = VersionsOfFeed(items);
-    versions.insert(versions.begin(), NamedVersion{QStringLiteral("0"), Core::Version(0)});
+    versions.insert(versions.begin(), NamedVersion{u"0"_s, Core::Version(0)});
     return versions;
 }
 
@@ -39,15 +39,12 @@ QJsonObject JsonOf(std::vector<OutcomeChange> const& changes, QString const& old
     QJsonArray list;
     for (OutcomeChange const& change : changes)
     {
-        list.append(QJsonObject{{QStringLiteral("localVersion"), change.localVersion},
-                                {QStringLiteral("systems"), TextOf(change.systems)},
-                                {QStringLiteral("before"), JsonOf(change.before)},
-                                {QStringLiteral("after"), JsonOf(change.after)}});
+        list.append(QJsonObject{{u"localVersion"_s, change.localVersion},
+                                {u"systems"_s, TextOf(change.systems)},
+                                {u"before"_s, JsonOf(change.before)},
+                                {u"after"_s, JsonOf(change.after)}});
     }
-    return {{QStringLiteral("old"), oldName},
-            {QStringLiteral("new"), newName},
-            {QStringLiteral("platform"), platform},
-            {QStringLiteral("changes"), list}};
+    return {{u"old"_s, oldName}, {u"new"_s, newName}, {u"platform"_s, platform}, {u"changes"_s, list}};
 }
 
 QJsonArray JsonOf(std::vector<ItemChange> const& changes)
@@ -55,10 +52,10 @@ QJsonArray JsonOf(std::vector<ItemChange> const& changes)
     QJsonArray list;
     for (ItemChange const& change : changes)
     {
-        list.append(QJsonObject{{QStringLiteral("version"), change.version},
-                                {QStringLiteral("what"), QLatin1String(change.what)},
-                                {QStringLiteral("before"), change.before},
-                                {QStringLiteral("after"), change.after}});
+        list.append(QJsonObject{{u"version"_s, change.version},
+                                {u"what"_s, QLatin1String(change.what)},
+                                {u"before"_s, change.before},
+                                {u"after"_s, change.after}});
     }
     return list;
 }
@@ -72,16 +69,16 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
     ParsedFeed const before = ReadItems(QString::fromStdString(options.oldFeed), publishedAt, target, console);
     ParsedFeed const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
     std::vector<NamedVersion> const versions =
-        options.versions.empty() ? VersionsOfBoth(before.items, after.items)
-                                 : ParseVersionList(QStringLiteral("--versions"),
-                                                    QString::fromStdString(options.versions), ParseLocalVersion);
+        options.versions.empty()
+            ? VersionsOfBoth(before.items, after.items)
+            : ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
     std::vector<OutcomeChange> const changes = DiffFeeds(before.items, after.items, versions, installation);
     std::vector<ItemChange> const itemChanges = DiffItems(before.items, after.items);
     bool const isSame = changes.empty() && itemChanges.empty();
     if (options.isJson)
     {
         QJsonObject json = JsonOf(changes, before.source.name, after.source.name, platform);
-        json.insert(QStringLiteral("items"), JsonOf(itemChanges));
+        json.insert(u"items"_s, JsonOf(itemChanges));
         AddInstallation(json, options.installation);
         console.PrintJson(json);
         return isSame ? ExitStatus::Clean : ExitStatus::Findings;
@@ -92,7 +89,7 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
     }
     if (changes.empty())
     {
-        console.Print(QStringLiteral("no client gets anything else"));
+        console.Print(u"no client gets anything else"_s);
     }
     return isSame ? ExitStatus::Clean : ExitStatus::Findings;
 }

@@ -50,15 +50,13 @@ void AddBorders(std::vector<Engine::FeedItem> const& items, std::vector<Border>&
         QString const& maximum = item.maximumSystemVersion;
         if (Core::Version const version = VersionFromStringNoexcept(minimum); version.IsValid())
         {
-            borders.push_back(
-                {version, QStringLiteral("from %1").arg(minimum), QStringLiteral("below %1").arg(minimum)});
+            borders.push_back({version, u"from %1"_s.arg(minimum), u"below %1"_s.arg(minimum)});
         }
         Core::Version const version = VersionFromStringNoexcept(maximum);
         Core::Version const above = version.IsValid() ? RightAbove(version) : version;
         if (above.IsValid())
         {
-            borders.push_back(
-                {above, QStringLiteral("above %1").arg(maximum), QStringLiteral("up to %1").arg(maximum)});
+            borders.push_back({above, u"above %1"_s.arg(maximum), u"up to %1"_s.arg(maximum)});
         }
     }
 }
@@ -77,9 +75,8 @@ bool IsSame(FeedChoice const& a, FeedChoice const& b)
 
 QString LongTextOf(Outcome const& outcome)
 {
-    return outcome.IsUpdate()
-               ? QStringLiteral("%1 (%2 bytes, %3)").arg(TextOf(outcome)).arg(outcome.length).arg(outcome.url)
-               : TextOf(outcome);
+    return outcome.IsUpdate() ? u"%1 (%2 bytes, %3)"_s.arg(TextOf(outcome)).arg(outcome.length).arg(outcome.url)
+                              : TextOf(outcome);
 }
 
 /// " on all systems: 5.1 BUNDLE -> 5.2 DELTA from 5.0"
@@ -88,9 +85,8 @@ QString EffectOf(OutcomeChange const& change)
     QString const before = TextOf(change.before);
     QString const after = TextOf(change.after);
     bool const isOtherDownload = before == after;
-    return QStringLiteral(" on %1: %2 -> %3")
-        .arg(TextOf(change.systems), isOtherDownload ? LongTextOf(change.before) : before,
-             isOtherDownload ? LongTextOf(change.after) : after);
+    return u" on %1: %2 -> %3"_s.arg(TextOf(change.systems), isOtherDownload ? LongTextOf(change.before) : before,
+                                     isOtherDownload ? LongTextOf(change.after) : after);
 }
 
 /// "5.0 to 5.2, 5.4": \a changed, where three or more follow each other among \a versions the first and the last. Both
@@ -101,7 +97,7 @@ QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& vers
     QStringList run;
     auto const endRun = [&]
     {
-        runs += run.size() < 3 ? run : QStringList(run.first() + QStringLiteral(" to ") + run.last());
+        runs += run.size() < 3 ? run : QStringList(run.first() + u" to "_s + run.last());
         run.clear();
     };
     auto next = changed.begin();
@@ -117,12 +113,12 @@ QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& vers
         }
     }
     endRun();
-    return runs.join(QStringLiteral(", "));
+    return runs.join(u", "_s);
 }
 
 QString OrNone(QString const& text)
 {
-    return text.isEmpty() ? QStringLiteral("none") : text;
+    return text.isEmpty() ? u"none"_s : text;
 }
 
 QString InformationalText(Engine::FeedItem const& item)
@@ -130,16 +126,16 @@ QString InformationalText(Engine::FeedItem const& item)
     QStringList versions = item.policy.informationalFor;
     if (!item.policy.informationalBelow.isEmpty())
     {
-        versions.append(QStringLiteral("below ") + item.policy.informationalBelow);
+        versions.append(u"below "_s + item.policy.informationalBelow);
     }
-    QString const whom = versions.isEmpty() ? QStringLiteral("yes") : versions.join(QStringLiteral(", "));
+    QString const whom = versions.isEmpty() ? u"yes"_s : versions.join(u", "_s);
     return OrNone(item.policy.isInformational ? whom : QString());
 }
 
 QString CriticalText(Engine::FeedItem const& item)
 {
     QString const& bound = item.policy.criticalBelow;
-    QString const whom = bound.isEmpty() ? QStringLiteral("yes") : QStringLiteral("below ") + bound;
+    QString const whom = bound.isEmpty() ? u"yes"_s : u"below "_s + bound;
     return OrNone(item.isCritical ? whom : QString());
 }
 
@@ -168,11 +164,11 @@ QString TextOf(SystemRange const& range)
 {
     if (range.from.isEmpty() && range.to.isEmpty())
     {
-        return QStringLiteral("all systems");
+        return u"all systems"_s;
     }
-    QStringList words{QStringLiteral("systems"), range.from, range.to};
+    QStringList words{u"systems"_s, range.from, range.to};
     words.removeAll(QString());
-    return words.join(QLatin1Char(' '));
+    return words.join(u' ');
 }
 
 std::vector<SystemRange> SystemRanges(std::vector<Engine::FeedItem> const& oldItems,
@@ -274,8 +270,8 @@ QStringList TextOf(std::vector<ItemChange> const& changes)
     QStringList lines;
     for (ItemChange const& change : changes)
     {
-        lines.append(QStringLiteral("item %1: %2 %3 -> %4")
-                         .arg(change.version, QLatin1String(change.what), change.before, change.after));
+        lines.append(
+            u"item %1: %2 %3 -> %4"_s.arg(change.version, QLatin1String(change.what), change.before, change.after));
     }
     return lines;
 }

@@ -55,22 +55,21 @@ void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigne
         Store(name, edited);
         if (wasSigned)
         {
-            console.Print(QStringLiteral("%1: its signature does not fit any more; sign it again with "
-                                         "pelnar-appcast sign-feed --accept-changes")
-                              .arg(name));
+            console.Print(u"%1: its signature does not fit any more; sign it again with "
+                          "pelnar-appcast sign-feed --accept-changes"_s.arg(name));
         }
         return;
     }
     SignedFeedBytes const feed = SignFeed(name, edited, *signer, {{}, validDays, QDateTime::currentDateTimeUtc()});
     Store(name, feed.bytes);
-    console.Print(QStringLiteral("%1: %2").arg(name, TextOf(feed.terms)));
+    console.Print(u"%1: %2"_s.arg(name, TextOf(feed.terms)));
 }
 
 ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
 {
     QString const name = QString::fromStdString(options.feed);
     FolderLock const lock(QFileInfo(name).absolutePath(), console);
-    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
+    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"drop old items"_s);
     bool const wasSigned = HasSignature(bytes);
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     if (signer)
@@ -85,13 +84,13 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     }
     if (!feed.HasChanges())
     {
-        console.Print(QStringLiteral("%1: nothing to change").arg(name));
+        console.Print(u"%1: nothing to change"_s.arg(name));
         return ExitStatus::Clean;
     }
     FeedEdit const proof(name, feed.Bytes());
     if (options.isDryRun)
     {
-        console.Print(QStringLiteral("%1: not written, as this is a dry run").arg(name));
+        console.Print(u"%1: not written, as this is a dry run"_s.arg(name));
         return ExitStatus::Clean;
     }
     Store(name, feed.Bytes(), wasSigned, signer.get(), options.validDays, console);
@@ -135,27 +134,26 @@ void AddEdits(CLI::App& program, VerbContext& context)
                *withdrawal);
 
     auto const notes = std::make_shared<EditOptions>();
-    CLI::App& editNotes =
-        AddVerb(program, context, notes, "edit-notes", "Replaces the release notes that a version has in the feed",
-                [](FeedEdit& feed, EditOptions const& options)
-                {
-                    QFileInfo const file(QString::fromStdString(options.notes));
-                    std::vector<ReleaseNotes> const fresh = ReadReleaseNotes(file.path(), file.completeBaseName());
-                    bool const isRead =
-                        std::any_of(fresh.begin(), fresh.end(),
-                                    [&file](ReleaseNotes const& each) { return each.fileName == file.fileName(); });
-                    if (!file.exists())
-                    {
-                        throw Refusal({file.filePath(), 0, 0, QStringLiteral("does not exist"),
-                                       QStringLiteral("check the name of the file of release notes")});
-                    }
-                    if (!isRead)
-                    {
-                        throw Refusal({file.filePath(), 0, 0, QStringLiteral("is no file of release notes"),
-                                       QStringLiteral("give a file that ends in .html, .md or .txt")});
-                    }
-                    EditNotes(feed, QString::fromStdString(options.version), fresh);
-                });
+    CLI::App& editNotes = AddVerb(
+        program, context, notes, "edit-notes", "Replaces the release notes that a version has in the feed",
+        [](FeedEdit& feed, EditOptions const& options)
+        {
+            QFileInfo const file(QString::fromStdString(options.notes));
+            std::vector<ReleaseNotes> const fresh = ReadReleaseNotes(file.path(), file.completeBaseName());
+            bool const isRead =
+                std::any_of(fresh.begin(), fresh.end(),
+                            [&file](ReleaseNotes const& each) { return each.fileName == file.fileName(); });
+            if (!file.exists())
+            {
+                throw Refusal({file.filePath(), u"does not exist"_s, u"check the name of the file of release notes"_s});
+            }
+            if (!isRead)
+            {
+                throw Refusal({file.filePath(), u"is no file of release notes"_s,
+                               u"give a file that ends in .html, .md or .txt"_s});
+            }
+            EditNotes(feed, QString::fromStdString(options.version), fresh);
+        });
     AddVersion(editNotes, *notes);
     editNotes
         .add_option("NOTES", notes->notes,

@@ -37,7 +37,7 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
         if (!feed)
         {
             throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                           QStringLiteral("mend the feed first")});
+                           u"mend the feed first"_s});
         }
         for (Engine::FeedItem const& item : feed->items)
         {
@@ -53,8 +53,8 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
     }
     if (Bytes() != bytes)
     {
-        throw Refusal({m_name, 1, 0, QStringLiteral("is not UTF-8, and only such feeds are changed"),
-                       QStringLiteral("convert the feed to UTF-8")});
+        throw Refusal(
+            {m_name, 1, 0, u"is not UTF-8, and only such feeds are changed"_s, u"convert the feed to UTF-8"_s});
     }
 }
 
@@ -70,8 +70,8 @@ void FeedEdit::TakePlaces()
         if (token == QXmlStreamReader::StartElement)
         {
             ++depth;
-            int const start = m_text.lastIndexOf(QLatin1Char('<'), offset - 1);
-            if (itemDepth == 0 && reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("item"))
+            int const start = m_text.lastIndexOf(u'<', offset - 1);
+            if (itemDepth == 0 && reader.namespaceUri().isEmpty() && reader.name() == "item"_l)
             {
                 itemDepth = depth;
                 EditedItem& item = m_items.emplace_back();
@@ -114,38 +114,37 @@ std::vector<EditedItem const*> FeedEdit::ItemsOf(QString const& version) const
     }
     if (items.empty())
     {
-        throw Refusal({m_name, 0, 0, QStringLiteral("has no item of version \"%1\"").arg(version),
-                       QStringLiteral("pelnar-appcast matrix shows the versions of a feed")});
+        throw Refusal({m_name, u"has no item of version \"%1\""_s.arg(version),
+                       u"pelnar-appcast matrix shows the versions of a feed"_s});
     }
     return items;
 }
 
 int FeedEdit::FirstPlaceIn(EditedItem const& item) const
 {
-    return item.children.empty() ? m_text.lastIndexOf(QLatin1String("</"), item.range.end - 1)
-                                 : item.children.front().range.start;
+    return item.children.empty() ? m_text.lastIndexOf("</"_l, item.range.end - 1) : item.children.front().range.start;
 }
 
 void FeedEdit::InsertLine(int place, QString const& line)
 {
-    int const lineStart = m_text.lastIndexOf(QLatin1Char('\n'), place - 1) + 1;
+    int const lineStart = m_text.lastIndexOf(u'\n', place - 1) + 1;
     QString const before = m_text.mid(lineStart, place - lineStart);
     bool const isBlank = std::all_of(before.begin(), before.end(), [](QChar c) { return c.isSpace(); });
-    QString const lineEnd = m_text.contains(QLatin1String("\r\n")) ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    QString const lineEnd = m_text.contains("\r\n"_l) ? u"\r\n"_s : u"\n"_s;
     m_changes.push_back({{place, place}, isBlank ? line + lineEnd + before : line});
 }
 
 void FeedEdit::Remove(TextRange const& range)
 {
     int start = range.start;
-    while (start > 0 && (m_text.at(start - 1) == QLatin1Char(' ') || m_text.at(start - 1) == QLatin1Char('\t')))
+    while (start > 0 && (m_text.at(start - 1) == u' ' || m_text.at(start - 1) == u'\t'))
     {
         --start;
     }
-    bool const isLine = start > 0 && m_text.at(start - 1) == QLatin1Char('\n');
+    bool const isLine = start > 0 && m_text.at(start - 1) == u'\n';
     if (isLine)
     {
-        start -= start > 1 && m_text.at(start - 2) == QLatin1Char('\r') ? 2 : 1;
+        start -= start > 1 && m_text.at(start - 2) == u'\r' ? 2 : 1;
     }
     m_changes.push_back({{isLine ? start : range.start, range.end}, QString()});
 }
@@ -174,7 +173,7 @@ QStringList FeedEdit::Differences() const
         QString const gone = m_text.mid(change.range.start, change.range.end - change.range.start).trimmed();
         for (auto const& [mark, text] : {std::pair("- ", gone), std::pair("+ ", change.text.trimmed())})
         {
-            for (QString const& line : text.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+            for (QString const& line : text.split(u'\n', Qt::SkipEmptyParts))
             {
                 lines.append(QLatin1String(mark) + line.trimmed());
             }

@@ -12,31 +12,30 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 
 bool IsChannel(EditedChild const& child)
 {
-    return child.namespaceUri == FEED_NAMESPACE && child.name == QLatin1String("channel");
+    return child.namespaceUri == FEED_NAMESPACE && child.name == "channel"_l;
 }
 
 bool IsDescription(EditedChild const& child)
 {
-    return child.namespaceUri.isEmpty() && child.name == QLatin1String("description");
+    return child.namespaceUri.isEmpty() && child.name == "description"_l;
 }
 
 QString ChannelText(QString const& channel)
 {
-    return QStringLiteral("<sparkle:channel xmlns:sparkle=\"%1\">%2</sparkle:channel>")
-        .arg(FEED_NAMESPACE, channel.toHtmlEscaped());
+    return u"<sparkle:channel xmlns:sparkle=\"%1\">%2</sparkle:channel>"_s.arg(FEED_NAMESPACE, channel.toHtmlEscaped());
 }
 
 QString DescriptionText(ReleaseNotes const& notes)
 {
     QString html = notes.html;
-    html.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>"));
+    html.replace("]]>"_l, "]]]]><![CDATA[>"_l);
     QString const language =
-        notes.language.isEmpty() ? QString() : QStringLiteral(" xml:lang=\"%1\"").arg(notes.language.toHtmlEscaped());
-    return QStringLiteral("<description%1><![CDATA[%2]]></description>").arg(language, html);
+        notes.language.isEmpty() ? QString() : u" xml:lang=\"%1\""_s.arg(notes.language.toHtmlEscaped());
+    return u"<description%1><![CDATA[%2]]></description>"_s.arg(language, html);
 }
 
 /// The readable versions of the items, newest first.
@@ -69,7 +68,7 @@ void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArr
         std::vector<Engine::FeedItem> const fresh =
             Engine::ParseFeed(after, QUrl(), platform).value_or(Engine::FeedContent()).items;
         std::vector<NamedVersion> versions = VersionsOfFeed(old);
-        versions.insert(versions.begin(), NamedVersion{QStringLiteral("0"), Core::Version(0)});
+        versions.insert(versions.begin(), NamedVersion{u"0"_s, Core::Version(0)});
         Engine::Installation everywhere;
         for (Engine::FeedItem const& item : old)
         {
@@ -80,8 +79,8 @@ void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArr
             QStringList const changes = TextOf(DiffFeeds(old, fresh, versions, installation), versions);
             if (!changes.isEmpty())
             {
-                throw Refusal({name, 0, 0, QStringLiteral("a client would get something else: %1").arg(changes.first()),
-                               QStringLiteral("keep more versions")});
+                throw Refusal(
+                    {name, u"a client would get something else: %1"_s.arg(changes.first()), u"keep more versions"_s});
             }
         }
     }
@@ -95,8 +94,8 @@ void Withdraw(FeedEdit& feed, QString const& version)
     {
         if (!item->item.policy.isWithdrawn)
         {
-            feed.InsertLine(feed.FirstPlaceIn(*item), QStringLiteral("<pelnar:withdrawn xmlns:pelnar=\"%1\"/>")
-                                                          .arg(QLatin1String(Engine::OWN_FEED_NAMESPACE)));
+            feed.InsertLine(feed.FirstPlaceIn(*item), u"<pelnar:withdrawn xmlns:pelnar=\"%1\"/>"_s.arg(
+                                                          QLatin1String(Engine::OWN_FEED_NAMESPACE)));
         }
     }
 }
@@ -105,8 +104,7 @@ void Promote(FeedEdit& feed, QString const& version, QString const& channel)
 {
     if (!channel.isEmpty() && !Engine::IsChannelName(channel))
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("--to: \"%1\" is no channel").arg(channel),
-                       QStringLiteral("give a name without blanks and commas")});
+        throw Refusal({u"--to: \"%1\" is no channel"_s.arg(channel), u"give a name without blanks and commas"_s});
     }
     for (EditedItem const* const item : feed.ItemsOf(version))
     {

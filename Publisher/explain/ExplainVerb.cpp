@@ -27,10 +27,9 @@ struct ExplainOptions
 
 ExitStatus Explain(ExplainOptions const& options, Console const& console)
 {
-    NamedVersion const local =
-        ParseLocalVersion(QStringLiteral("--local-version"), QString::fromStdString(options.localVersion));
+    NamedVersion const local = ParseLocalVersion(u"--local-version"_s, QString::fromStdString(options.localVersion));
     NamedVersion const system =
-        ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion));
+        ParseSystemVersion(u"--system-version"_s, QString::fromStdString(options.systemVersion));
     Engine::Installation const installation = InstallationOf(options.installation);
     QString const platform = QString::fromStdString(options.platform);
     ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
@@ -42,7 +41,7 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
     {
         QJsonObject json = JsonOf(explanation, question);
         AddInstallation(json, options.installation);
-        json.insert(QStringLiteral("trustedKeys"), QJsonArray::fromStringList(installation.trustedKeys));
+        json.insert(u"trustedKeys"_s, QJsonArray::fromStringList(installation.trustedKeys));
         console.PrintJson(json);
     }
     else

@@ -16,12 +16,12 @@ using Engine::FeedItem;
 
 QString TextOf(Core::Version const& version)
 {
-    return Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, QStringLiteral("."));
+    return Util::VersionToString(version, Util::VersionToStringDetail::PresentComponents, u"."_s);
 }
 
 QString Quoted(QString const& text)
 {
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    return u'"' + text + u'"';
 }
 
 QString FailedTest(FeedItem const& item, Judgement judgement, Client const& client)
@@ -29,23 +29,23 @@ QString FailedTest(FeedItem const& item, Judgement judgement, Client const& clie
     switch (judgement)
     {
     case Judgement::SYSTEM_TOO_OLD:
-        return QStringLiteral("system %1 < minimum %2").arg(TextOf(client.systemVersion), item.minimumSystemVersion);
+        return u"system %1 < minimum %2"_s.arg(TextOf(client.systemVersion), item.minimumSystemVersion);
     case Judgement::SYSTEM_TOO_NEW:
-        return QStringLiteral("system %1 > maximum %2").arg(TextOf(client.systemVersion), item.maximumSystemVersion);
+        return u"system %1 > maximum %2"_s.arg(TextOf(client.systemVersion), item.maximumSystemVersion);
     case Judgement::VERSION_UNREADABLE:
         return item.versionString.isEmpty()
-                   ? QStringLiteral("no version")
-                   : QStringLiteral("version %1 is not one to four numbers with dots").arg(Quoted(item.versionString));
+                   ? u"no version"_s
+                   : u"version %1 is not one to four numbers with dots"_s.arg(Quoted(item.versionString));
     case Judgement::VERSION_OLDER:
-        return QStringLiteral("version %1 < installed %2").arg(item.versionString, TextOf(client.localVersion));
+        return u"version %1 < installed %2"_s.arg(item.versionString, TextOf(client.localVersion));
     case Judgement::VERSION_EQUAL:
-        return QStringLiteral("version %1 = installed %2").arg(item.versionString, TextOf(client.localVersion));
+        return u"version %1 = installed %2"_s.arg(item.versionString, TextOf(client.localVersion));
     case Judgement::URL_INVALID:
-        return QStringLiteral("no enclosure with a valid address");
+        return u"no enclosure with a valid address"_s;
     case Judgement::DATE_REFUSED:
-        return QStringLiteral("date %1 is in the text form that is refused").arg(Quoted(item.dateString));
+        return u"date %1 is in the text form that is refused"_s.arg(Quoted(item.dateString));
     case Judgement::LENGTH_ZERO:
-        return QStringLiteral("length is 0, missing or no number");
+        return u"length is 0, missing or no number"_s;
     case Judgement::VALID:
         return {};
     }
@@ -109,16 +109,16 @@ private:
         else if (&item == m_choice.chosen)
         {
             result.standing = Standing::Chosen;
-            result.detail = QStringLiteral("chosen") + OtherAnswers(item);
+            result.detail = u"chosen"_s + OtherAnswers(item);
             if (result.policy != Engine::PolicyVerdict::Plain)
             {
-                result.detail += QStringLiteral(": ") + Engine::ReasonOf(result.policy, item, m_installation);
+                result.detail += u": "_s + Engine::ReasonOf(result.policy, item, m_installation);
             }
         }
         else if (std::count(m_choice.rivals.begin(), m_choice.rivals.end(), &item) != 0)
         {
             result.standing = Standing::Rival;
-            result.detail = QStringLiteral("may be chosen") + OtherAnswers(item);
+            result.detail = u"may be chosen"_s + OtherAnswers(item);
         }
         else
         {
@@ -138,28 +138,27 @@ private:
         QString reason;
         if (&parent != m_choice.full)
         {
-            reason = QStringLiteral("not looked at: item is not the best full one");
+            reason = u"not looked at: item is not the best full one"_s;
         }
         else if (m_client.previousAnswer == PreviousAnswer::DELTA)
         {
-            reason = QStringLiteral("not looked at: the previous answer was a delta");
+            reason = u"not looked at: the previous answer was a delta"_s;
         }
         else if (!ServesClient(*delta.item, m_client))
         {
-            reason = QStringLiteral("not looked at: starts from %1, installed is %2")
-                         .arg(delta.item->deltaFrom.isEmpty() ? Quoted(QString()) : delta.item->deltaFrom,
-                              TextOf(m_client.localVersion));
+            reason = u"not looked at: starts from %1, installed is %2"_s.arg(
+                delta.item->deltaFrom.isEmpty() ? Quoted(QString()) : delta.item->deltaFrom,
+                TextOf(m_client.localVersion));
         }
         else if (delta.standing == Standing::Lost && delta.detail.isEmpty())
         {
-            reason = QStringLiteral("not looked at: a later delta starts from %1 too").arg(delta.item->deltaFrom);
+            reason = u"not looked at: a later delta starts from %1 too"_s.arg(delta.item->deltaFrom);
         }
         if (!reason.isEmpty())
         {
             delta.standing = Standing::NotAsked;
-            delta.detail = delta.detail.isEmpty() || delta.verdict == Judgement::VALID
-                               ? reason
-                               : reason + QStringLiteral("; ") + delta.detail;
+            delta.detail =
+                delta.detail.isEmpty() || delta.verdict == Judgement::VALID ? reason : reason + u"; "_s + delta.detail;
         }
     }
 
@@ -172,17 +171,16 @@ private:
             others.append(NameOf(other == &item ? *m_choice.chosen : *other));
         }
         return others.isEmpty() ? QString()
-                                : QStringLiteral(", or %1: no rule defines the order of these deltas")
-                                      .arg(others.join(QStringLiteral(", or ")));
+                                : u", or %1: no rule defines the order of these deltas"_s.arg(others.join(u", or "_s));
     }
 
     QString NameOf(FeedItem const& item) const
     {
         if (item.isDelta)
         {
-            return QStringLiteral("the delta from %1").arg(item.deltaFrom);
+            return u"the delta from %1"_s.arg(item.deltaFrom);
         }
-        return QStringLiteral("item %1").arg(&item - m_items.data());
+        return u"item %1"_s.arg(&item - m_items.data());
     }
 
     /// Empty if \a item was compared with no other item.
@@ -194,7 +192,7 @@ private:
         {
             return {};
         }
-        return QStringLiteral("lost to %1: %2").arg(NameOf(*duel->winner), Reason(*duel));
+        return u"lost to %1: %2"_s.arg(NameOf(*duel->winner), Reason(*duel));
     }
 
     QString Reason(Duel const& duel) const
@@ -204,19 +202,17 @@ private:
         switch (duel.rule)
         {
         case PreferenceRule::NEWER_VERSION:
-            return QStringLiteral("newer version, %1 > %2").arg(winner.versionString, loser.versionString);
+            return u"newer version, %1 > %2"_s.arg(winner.versionString, loser.versionString);
         case PreferenceRule::WANTED_TYPE:
-            return QStringLiteral("kind, %1 is wanted before %2").arg(KindOf(winner), KindOf(loser));
+            return u"kind, %1 is wanted before %2"_s.arg(KindOf(winner), KindOf(loser));
         case PreferenceRule::SAME_ADDRESS:
-            return QStringLiteral("same address, and it comes first");
+            return u"same address, and it comes first"_s;
         case PreferenceRule::LATER_DATE:
-            return QStringLiteral("later date, %1 > %2").arg(winner.dateString, loser.dateString);
+            return u"later date, %1 > %2"_s.arg(winner.dateString, loser.dateString);
         case PreferenceRule::SMALLER_LENGTH:
             return winner.contentLength == loser.contentLength
-                       ? QStringLiteral("same size of %1 bytes, and it comes first").arg(winner.contentLength)
-                       : QStringLiteral("smaller size, %1 < %2 bytes")
-                             .arg(winner.contentLength)
-                             .arg(loser.contentLength);
+                       ? u"same size of %1 bytes, and it comes first"_s.arg(winner.contentLength)
+                       : u"smaller size, %1 < %2 bytes"_s.arg(winner.contentLength).arg(loser.contentLength);
         }
         return {};
     }

@@ -38,19 +38,19 @@ QJsonObject JsonOfItem(ItemExplanation const& explained)
 {
     FeedItem const& item = *explained.item;
     QJsonObject result{
-        {QStringLiteral("index"), explained.index},
-        {QStringLiteral("title"), item.title},
-        {QStringLiteral("version"), item.versionString},
-        {QStringLiteral("url"), AddressOf(item)},
-        {QStringLiteral("length"), double(item.contentLength)},
-        {QStringLiteral("updateType"), TypeName(explained.updateType)},
-        {QStringLiteral("verdict"), QLatin1String(explained.VerdictName())},
-        {QStringLiteral("detail"), explained.detail},
-        {QStringLiteral("extensions"), JsonOfExtensions(explained.extensions)},
+        {u"index"_s, explained.index},
+        {u"title"_s, item.title},
+        {u"version"_s, item.versionString},
+        {u"url"_s, AddressOf(item)},
+        {u"length"_s, double(item.contentLength)},
+        {u"updateType"_s, TypeName(explained.updateType)},
+        {u"verdict"_s, QLatin1String(explained.VerdictName())},
+        {u"detail"_s, explained.detail},
+        {u"extensions"_s, JsonOfExtensions(explained.extensions)},
     };
     if (item.isDelta)
     {
-        result.insert(QStringLiteral("deltaFrom"), item.deltaFrom);
+        result.insert(u"deltaFrom"_s, item.deltaFrom);
         return result;
     }
     QJsonArray deltas;
@@ -58,7 +58,7 @@ QJsonObject JsonOfItem(ItemExplanation const& explained)
     {
         deltas.append(JsonOfItem(delta));
     }
-    result.insert(QStringLiteral("deltas"), deltas);
+    result.insert(u"deltas"_s, deltas);
     return result;
 }
 
@@ -83,30 +83,30 @@ Emphasis EmphasisOf(Standing standing)
 
 QString SizeOf(FeedItem const& item)
 {
-    return QStringLiteral("%1 bytes").arg(item.contentLength);
+    return u"%1 bytes"_s.arg(item.contentLength);
 }
 
 QString HeadOf(ItemExplanation const& explained)
 {
     FeedItem const& item = *explained.item;
-    QString const version = item.versionString.isEmpty() ? QStringLiteral("no version") : item.versionString;
-    QString const name = item.isDelta ? QStringLiteral("delta %1, from %2").arg(explained.index).arg(item.deltaFrom)
-                                      : QStringLiteral("item %1").arg(explained.index);
-    QString const title = item.isDelta || item.title.isEmpty() ? QString() : QStringLiteral("  ") + item.title;
-    return QStringLiteral("%1: %2  %3  %4%5").arg(name, version, TypeName(explained.updateType), SizeOf(item), title);
+    QString const version = item.versionString.isEmpty() ? u"no version"_s : item.versionString;
+    QString const name = item.isDelta ? u"delta %1, from %2"_s.arg(explained.index).arg(item.deltaFrom)
+                                      : u"item %1"_s.arg(explained.index);
+    QString const title = item.isDelta || item.title.isEmpty() ? QString() : u"  "_s + item.title;
+    return u"%1: %2  %3  %4%5"_s.arg(name, version, TypeName(explained.updateType), SizeOf(item), title);
 }
 
 void PrintItem(ItemExplanation const& explained, QString const& indent, Console const& console)
 {
     FeedItem const& item = *explained.item;
-    QString const inner = indent + QStringLiteral("  ");
+    QString const inner = indent + u"  "_s;
     std::ostream& stream = console.out.stream;
     stream << indent.toStdString()
            << console.out.Styled(explained.standing == Standing::Chosen ? Emphasis::Bold : Emphasis::None,
                                  Printable(HeadOf(explained)))
            << '\n';
     QString const verdict = QLatin1String(explained.VerdictName());
-    QString const detail = explained.detail.isEmpty() ? QString() : QStringLiteral(": ") + Printable(explained.detail);
+    QString const detail = explained.detail.isEmpty() ? QString() : u": "_s + Printable(explained.detail);
     stream << inner.toStdString() << console.out.Styled(EmphasisOf(explained.standing), verdict + detail) << '\n';
     if (!item.fileUrl.isEmpty())
     {
@@ -114,9 +114,8 @@ void PrintItem(ItemExplanation const& explained, QString const& indent, Console 
     }
     for (auto extension = explained.extensions.cbegin(); extension != explained.extensions.cend(); ++extension)
     {
-        QString const value =
-            extension.value().isValid() ? extension.value().toString() : QStringLiteral("<NOT A STRING>");
-        console.Print(Printable(inner + extension.key() + QStringLiteral(" = ") + value));
+        QString const value = extension.value().isValid() ? extension.value().toString() : u"<NOT A STRING>"_s;
+        console.Print(Printable(inner + extension.key() + u" = "_s + value));
     }
     for (ItemExplanation const& delta : explained.deltas)
     {
@@ -128,24 +127,23 @@ QString AnswerOf(Explanation const& explanation)
 {
     if (!explanation.choice.chosen)
     {
-        return QStringLiteral("no update");
+        return u"no update"_s;
     }
     FeedItem const& chosen = *explanation.choice.chosen;
-    QString const place = QStringLiteral("item %1").arg(explanation.chosenIndex);
+    QString const place = u"item %1"_s.arg(explanation.chosenIndex);
     QString download = place;
     if (chosen.isDelta)
     {
-        download = QStringLiteral("the delta from %1").arg(chosen.deltaFrom);
+        download = u"the delta from %1"_s.arg(chosen.deltaFrom);
         for (FeedItem const* const rival : explanation.choice.rivals)
         {
-            download += QStringLiteral(" or from %1").arg(rival->deltaFrom);
+            download += u" or from %1"_s.arg(rival->deltaFrom);
         }
-        download += QStringLiteral(" of ") + place;
+        download += u" of "_s + place;
     }
-    return QStringLiteral("%1 as %2, %3, %4")
-        .arg(chosen.versionString, TypeName(UpdateTypeOf(chosen)), download,
-             explanation.choice.rivals.empty() ? SizeOf(chosen)
-                                               : QStringLiteral("as their order decides, which no rule defines"));
+    return u"%1 as %2, %3, %4"_s.arg(
+        chosen.versionString, TypeName(UpdateTypeOf(chosen)), download,
+        explanation.choice.rivals.empty() ? SizeOf(chosen) : u"as their order decides, which no rule defines"_s);
 }
 
 } // namespace
@@ -153,17 +151,14 @@ QString AnswerOf(Explanation const& explanation)
 void PrintExplanation(Explanation const& explanation, ExplainQuestion const& question, Console const& console)
 {
     console.Print(Printable(
-        QStringLiteral("%1: %2 for %3")
-            .arg(question.feed, CountOf(explanation.items.size(), QStringLiteral("item")), question.platform)));
+        u"%1: %2 for %3"_s.arg(question.feed, CountOf(explanation.items.size(), u"item"_s), question.platform)));
     for (ItemExplanation const& item : explanation.items)
     {
         PrintItem(item, QString(), console);
     }
-    QString const asked =
-        QStringLiteral("%1 on system %2%3 is offered: ")
-            .arg(question.localVersion, question.systemVersion,
-                 question.previousAnswer == PreviousAnswer::DELTA ? QStringLiteral(", after a delta answer,")
-                                                                  : QString());
+    QString const asked = u"%1 on system %2%3 is offered: "_s.arg(
+        question.localVersion, question.systemVersion,
+        question.previousAnswer == PreviousAnswer::DELTA ? u", after a delta answer,"_s : QString());
     console.out.stream << asked.toStdString()
                        << console.out.Styled(explanation.choice.chosen ? Emphasis::Good : Emphasis::Warning,
                                              Printable(AnswerOf(explanation)))
@@ -176,7 +171,7 @@ QJsonObject JsonOf(Explanation const& explanation, ExplainQuestion const& questi
     if (chosen.isObject())
     {
         QJsonObject answer = chosen.toObject();
-        answer.insert(QStringLiteral("index"), explanation.chosenIndex);
+        answer.insert(u"index"_s, explanation.chosenIndex);
         chosen = answer;
     }
     QJsonArray items;
@@ -185,12 +180,12 @@ QJsonObject JsonOf(Explanation const& explanation, ExplainQuestion const& questi
         items.append(JsonOfItem(item));
     }
     return {
-        {QStringLiteral("feed"), question.feed},
-        {QStringLiteral("localVersion"), question.localVersion},
-        {QStringLiteral("systemVersion"), question.systemVersion},
-        {QStringLiteral("platform"), question.platform},
-        {QStringLiteral("chosen"), chosen},
-        {QStringLiteral("items"), items},
+        {u"feed"_s, question.feed},
+        {u"localVersion"_s, question.localVersion},
+        {u"systemVersion"_s, question.systemVersion},
+        {u"platform"_s, question.platform},
+        {u"chosen"_s, chosen},
+        {u"items"_s, items},
     };
 }
 

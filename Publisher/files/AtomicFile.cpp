@@ -19,7 +19,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const MEND = QStringLiteral("check that the folder is there, who may write to it, and the space on the disk");
+QString const MEND = u"check that the folder is there, who may write to it, and the space on the disk"_s;
 
 /// The permissions that the user gives to new files.
 mode_t NewFileMode()
@@ -31,7 +31,7 @@ mode_t NewFileMode()
 
 [[noreturn]] void RefuseName(QString const& path)
 {
-    throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("name another, or remove it")});
+    throw Refusal({path, u"is there already"_s, u"name another, or remove it"_s});
 }
 
 /// Gives what is called \a hiddenName in the open folder its place at \a path, which is in the same folder.
@@ -47,7 +47,7 @@ void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path
     {
         RefuseName(path);
     }
-    RefuseFile(path, QStringLiteral("cannot be given its name"), errno, MEND);
+    RefuseFile(path, u"cannot be given its name"_s, errno, MEND);
 }
 
 } // namespace
@@ -67,7 +67,7 @@ AtomicFile::AtomicFile(QString const& path) : m_path(path)
     }
     if (!m_descriptor)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
+        RefuseFile(m_path, u"cannot be made"_s, errno, MEND);
     }
 }
 
@@ -87,7 +87,7 @@ void AtomicFile::MakeHidden(QByteArray const& folder)
     m_hiddenName = hidden.mid(folder.size() + 1);
     if (::fchmod(m_descriptor.Get(), NewFileMode()) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
+        RefuseFile(m_path, u"cannot be given its permissions"_s, errno, MEND);
     }
 }
 
@@ -104,7 +104,7 @@ void AtomicFile::Write(QByteArray const& bytes)
     auto const* const data = reinterpret_cast<std::uint8_t const*>(bytes.constData());
     if (!Engine::WriteAll(Descriptor(), Engine::Bytes(data, static_cast<std::size_t>(bytes.size()))))
     {
-        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+        RefuseFile(m_path, u"cannot be written"_s, errno, MEND);
     }
 }
 
@@ -114,7 +114,7 @@ InputFile AtomicFile::ForReading() const
     struct stat status;
     if (!copy || ::fstat(Descriptor(), &status) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be read"), errno, MEND);
+        RefuseFile(m_path, u"cannot be read"_s, errno, MEND);
     }
     return {std::move(copy), m_path, static_cast<std::uint64_t>(status.st_size)};
 }
@@ -132,7 +132,7 @@ void AtomicFile::LinkHidden()
     m_leftover.emplace(QFile::encodeName(target.absolutePath()).toStdString() + '/' + hidden.toStdString());
     if (::linkat(AT_FDCWD, self.c_str(), m_folder.Get(), hidden.constData(), AT_SYMLINK_FOLLOW) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be given its name"), errno, MEND);
+        RefuseFile(m_path, u"cannot be given its name"_s, errno, MEND);
     }
     m_hiddenName = hidden;
 }
@@ -141,7 +141,7 @@ void AtomicFile::Sync() const
 {
     if (::fsync(Descriptor()) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+        RefuseFile(m_path, u"cannot be written"_s, errno, MEND);
     }
 }
 
@@ -149,7 +149,7 @@ void AtomicFile::SyncFolder() const
 {
     if (::fsync(m_folder.Get()) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be written"), errno, MEND);
+        RefuseFile(m_path, u"cannot be written"_s, errno, MEND);
     }
 }
 
@@ -226,7 +226,7 @@ NewFolder::NewFolder(QString const& path) : m_path(path)
         {
             if (!m_parent || !::mkdtemp(hidden.data()))
             {
-                RefuseFile(m_path, QStringLiteral("cannot be made"), errno, MEND);
+                RefuseFile(m_path, u"cannot be made"_s, errno, MEND);
             }
             return hidden.toStdString();
         });
@@ -234,7 +234,7 @@ NewFolder::NewFolder(QString const& path) : m_path(path)
     m_folder = Engine::UniqueFd(::openat(m_parent.Get(), m_hiddenName.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!m_folder)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be opened"), errno, MEND);
+        RefuseFile(m_path, u"cannot be opened"_s, errno, MEND);
     }
 }
 
@@ -250,7 +250,7 @@ void NewFolder::Commit()
 {
     if (::fchmod(m_folder.Get(), 0755) != 0)
     {
-        RefuseFile(m_path, QStringLiteral("cannot be given its permissions"), errno, MEND);
+        RefuseFile(m_path, u"cannot be given its permissions"_s, errno, MEND);
     }
     NameFinally(m_parent.Get(), m_hiddenName, m_path, ExistingFile::Keep);
     m_isCommitted = true;

@@ -50,8 +50,7 @@ void RemoveAbandoned()
     constexpr int YOUNG_SECONDS = 60;
     QDir const place(QDir::tempPath());
     QStringList const names = place.entryList(
-        {QLatin1String(TEMPORARY_PREFIX) + QLatin1Char('*'), QLatin1String(UNHELD_PREFIX) + QLatin1Char('*')},
-        QDir::Dirs | QDir::NoSymLinks);
+        {QLatin1String(TEMPORARY_PREFIX) + u'*', QLatin1String(UNHELD_PREFIX) + u'*'}, QDir::Dirs | QDir::NoSymLinks);
     Engine::UniqueFd const parent = OpenFolder(QFile::encodeName(place.path()).toStdString());
     for (QString const& name : names)
     {
@@ -59,8 +58,7 @@ void RemoveAbandoned()
                                                O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
         struct stat status;
         bool const isOwn = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid();
-        bool const isHeldSoon = name.startsWith(QLatin1String(UNHELD_PREFIX)) &&
-                                IsRunning(name.section(QLatin1Char('-'), 2, 2)) &&
+        bool const isHeldSoon = name.startsWith(QLatin1String(UNHELD_PREFIX)) && IsRunning(name.section(u'-', 2, 2)) &&
                                 ::time(nullptr) - status.st_ctime <= YOUNG_SECONDS;
         if (isOwn && !isHeldSoon && ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0)
         {
@@ -92,7 +90,7 @@ std::vector<Problem> ProblemsOf(Engine::UpdateRefusal const& refusal, InputFile 
     if (refusal.Fault() == Engine::UpdateFault::BundleNotAlone)
     {
         problems.front().mend +=
-            QStringLiteral("; \"__MACOSX\" and \"._\" files of macOS stay out with COPYFILE_DISABLE=1 tar and zip -X");
+            u"; \"__MACOSX\" and \"._\" files of macOS stay out with COPYFILE_DISABLE=1 tar and zip -X"_s;
     }
     return problems;
 }
@@ -117,8 +115,8 @@ TemporaryFolder::TemporaryFolder()
             }
             if (!isMade)
             {
-                RefuseFile(QDir::tempPath(), QStringLiteral("no folder for temporary files can be made there"), errno,
-                           QStringLiteral("name another folder in TMPDIR"));
+                RefuseFile(QDir::tempPath(), u"no folder for temporary files can be made there"_s, errno,
+                           u"name another folder in TMPDIR"_s);
             }
             m_path = path.toStdString();
             return path.toStdString();
@@ -163,7 +161,7 @@ BundleTree::BundleTree(std::unique_ptr<TemporaryFolder> temporary, fs::path path
 {
     if (!m_folder)
     {
-        RefuseFile(shownName, QStringLiteral("cannot be read"), errno, {});
+        RefuseFile(shownName, u"cannot be read"_s, errno, {});
     }
     ReadInformation(shownName);
 }
@@ -184,10 +182,9 @@ void BundleTree::ReadInformation(QString const& shownName)
     {
         throw Refusal(ProblemOf(Engine::UpdateFault::InformationMissing, 0, shownName), RefusalCause::Content);
     }
-    QString const shownPath = shownName + QLatin1Char('/') + QLatin1String(path);
+    QString const shownPath = shownName + u'/' + QLatin1String(path);
     InputFile const input{std::move(file), shownPath, static_cast<std::uint64_t>(status.st_size)};
-    QByteArray const text =
-        ReadInputFile(input, Engine::PROPERTY_LIST_MAX_BYTES, QStringLiteral("keep it below 1 MiB"));
+    QByteArray const text = ReadInputFile(input, Engine::PROPERTY_LIST_MAX_BYTES, u"keep it below 1 MiB"_s);
     try
     {
         m_information =

@@ -56,9 +56,9 @@ Problem ProblemWith(Words const& words, int errorNumber, QString const& name)
     QString what = QString::fromUtf8(words.what);
     if (errorNumber != 0)
     {
-        what += QStringLiteral(": ") + QString::fromLocal8Bit(std::strerror(errorNumber));
+        what += u": "_s + QString::fromLocal8Bit(std::strerror(errorNumber));
     }
-    return {name, 0, 0, what, QString::fromUtf8(words.mend)};
+    return {name, what, QString::fromUtf8(words.mend)};
 }
 
 } // namespace
@@ -74,7 +74,7 @@ Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name)
     Problem problem = ProblemOf(refusal.Fault(), refusal.ErrorNumber(), name);
     if (!refusal.Entry().empty())
     {
-        problem.what += QStringLiteral(": \"%1\"").arg(Printable(QString::fromStdString(refusal.Entry())));
+        problem.what += u": \"%1\""_s.arg(Printable(QString::fromStdString(refusal.Entry())));
     }
     return problem;
 }
@@ -86,8 +86,7 @@ RefusalCause CauseOf(UpdateFault fault)
 
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)
 {
-    QString const file =
-        outcome.path.empty() ? name : name + QLatin1Char('/') + Printable(QString::fromStdString(outcome.path));
+    QString const file = outcome.path.empty() ? name : name + u'/' + Printable(QString::fromStdString(outcome.path));
     return outcome.error == DeltaError::TreeRefused ? ProblemOf(outcome.fault, outcome.systemError, file)
                                                     : ProblemWith(WordsFor(outcome.error), outcome.systemError, file);
 }

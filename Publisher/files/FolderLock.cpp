@@ -19,15 +19,13 @@ FolderLock::FolderLock(QString const& folder, Console const& console)
 {
     if (!m_folder)
     {
-        RefuseFile(folder, QStringLiteral("cannot be read"), errno, QStringLiteral("name a folder that is there"));
+        RefuseFile(folder, u"cannot be read"_s, errno, u"name a folder that is there"_s);
     }
     if (::flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
     {
         return;
     }
-    console.err.stream << TextOf({folder, 0, 0, QStringLiteral("another run works here"),
-                                  QStringLiteral("waiting until it has ended")})
-                              .toStdString()
+    console.err.stream << TextOf({folder, u"another run works here"_s, u"waiting until it has ended"_s}).toStdString()
                        << std::endl;
     while (::flock(m_folder.Get(), LOCK_EX) != 0 && errno == EINTR)
     {

@@ -22,12 +22,11 @@ InputFile OpenInputFile(QString const& path)
     struct stat status;
     if (!descriptor || ::fstat(descriptor.Get(), &status) != 0)
     {
-        RefuseFile(path, QStringLiteral("cannot be read"), errno,
-                   QStringLiteral("check the name and who may read the file"));
+        RefuseFile(path, u"cannot be read"_s, errno, u"check the name and who may read the file"_s);
     }
     if (!S_ISREG(status.st_mode))
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is no plain file"), QStringLiteral("name a file")});
+        throw Refusal({path, u"is no plain file"_s, u"name a file"_s});
     }
     return {std::move(descriptor), path, static_cast<std::uint64_t>(status.st_size)};
 }
@@ -36,15 +35,14 @@ QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString 
 {
     if (file.size > maxBytes)
     {
-        throw Refusal({file.name, 0, 0,
-                       QStringLiteral("is of %1 bytes, where at most %2 are read").arg(file.size).arg(maxBytes), mend});
+        throw Refusal({file.name, u"is of %1 bytes, where at most %2 are read"_s.arg(file.size).arg(maxBytes), mend});
     }
     QByteArray bytes(static_cast<int>(file.size), '\0');
     ssize_t const count = Engine::ReadUpTo(file.descriptor.Get(), 0, bytes.data(), std::size_t(bytes.size()));
     if (count != bytes.size())
     {
-        RefuseFile(file.name, QStringLiteral("cannot be read to its end"), count < 0 ? errno : EIO,
-                   QStringLiteral("check the disk, and that nobody changes the file meanwhile"));
+        RefuseFile(file.name, u"cannot be read to its end"_s, count < 0 ? errno : EIO,
+                   u"check the disk, and that nobody changes the file meanwhile"_s);
     }
     return bytes;
 }

@@ -66,9 +66,8 @@ void CheckPublicKeys(std::vector<std::string> const& keys)
         Engine::Ed25519Key key;
         if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
         {
-            throw Refusal({QString(), 0, 0,
-                           QStringLiteral("--public-key: \"%1\" is no Ed25519 key").arg(QString::fromStdString(text)),
-                           QStringLiteral("give the 32 bytes in base64 that pelnar-appcast keys show prints")});
+            throw Refusal({u"--public-key: \"%1\" is no Ed25519 key"_s.arg(QString::fromStdString(text)),
+                           u"give the 32 bytes in base64 that pelnar-appcast keys show prints"_s});
         }
     }
 }

@@ -71,12 +71,12 @@ Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path)
         if (KeyIdOf(text).isEmpty())
         {
             throw Refusal(
-                {path, 0, 0,
-                 QStringLiteral("%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
-                                "could never be updated again")
-                     .arg(QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
-                          Printable(QString::fromStdString(text).left(60))),
-                 QStringLiteral("write the entry that \"keys show\" prints")},
+                {path,
+                 u"%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
+                 "could never be updated again"_s.arg(
+                     QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
+                     Printable(QString::fromStdString(text).left(60))),
+                 u"write the entry that \"keys show\" prints"_s},
                 RefusalCause::Content);
         }
     }
@@ -102,13 +102,12 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     }
     else if (KeyIdOf(information.rootPublicKey).isEmpty())
     {
-        throw Refusal(
-            {path, 0, 0,
-             QStringLiteral("PelnarRootPublicEDKey \"%1\" in the bundle's information file is no Ed25519 key; "
-                            "its clients would refuse every feed")
-                 .arg(Printable(QString::fromStdString(information.rootPublicKey).left(60))),
-             QStringLiteral("write the public key that \"keys show\" prints for the root key")},
-            RefusalCause::Content);
+        throw Refusal({path,
+                       u"PelnarRootPublicEDKey \"%1\" in the bundle's information file is no Ed25519 key; "
+                       "its clients would refuse every feed"_s.arg(
+                           Printable(QString::fromStdString(information.rootPublicKey).left(60))),
+                       u"write the public key that \"keys show\" prints for the root key"_s},
+                      RefusalCause::Content);
     }
     return version;
 }
@@ -120,11 +119,11 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
                                               QDateTime::currentDateTimeUtc());
     if (!believed)
     {
-        throw Refusal({version.path, 0, 0,
-                       QStringLiteral("its clients would refuse the feed, whose key statement they ask for: %1")
-                           .arg(believed.error().sentence.English()),
-                       QStringLiteral("make one with \"keys state\", and put it into the feed with the option "
-                                      "--key-statement of generate or sign-feed")},
+        throw Refusal({version.path,
+                       u"its clients would refuse the feed, whose key statement they ask for: %1"_s.arg(
+                           believed.error().sentence.English()),
+                       u"make one with \"keys state\", and put it into the feed with the option "
+                       "--key-statement of generate or sign-feed"_s},
                       RefusalCause::Content);
     }
     Engine::TrustedKeys const& keys = believed->keys;
@@ -136,7 +135,7 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)
 {
     GatedVersion version;
-    version.path = QStringLiteral("%1:%2").arg(feedName).arg(item.line);
+    version.path = u"%1:%2"_s.arg(feedName).arg(item.line);
     version.versionText = item.versionString;
     version.version = WholeVersion(item.versionString);
     version.platform = platform;

@@ -108,8 +108,8 @@ private:
         std::optional<InputFile> const file = m_files.Open(item);
         if (!file)
         {
-            m_console.Print(QStringLiteral("%1: version %2 is not judged: %3 is not in the folder")
-                                .arg(version.path, item.versionString, item.fileUrl.fileName()));
+            m_console.Print(u"%1: version %2 is not judged: %3 is not in the folder"_s.arg(
+                version.path, item.versionString, item.fileUrl.fileName()));
             return;
         }
         CheckLength(*file, item);
@@ -133,11 +133,9 @@ private:
                 m_refusals.Try([&] { CheckDelta(delta, items, *bundle); });
             }
         }
-        m_console.Print(QStringLiteral("%1: version %2, signed by the key %3%4")
-                            .arg(file->name, item.versionString, version.signerIds.join(QLatin1Char(' ')),
-                                 version.trustedIds.isEmpty()
-                                     ? QString()
-                                     : QStringLiteral(", trusts ") + version.trustedIds.join(QLatin1Char(' '))));
+        m_console.Print(u"%1: version %2, signed by the key %3%4"_s.arg(
+            file->name, item.versionString, version.signerIds.join(u' '),
+            version.trustedIds.isEmpty() ? QString() : u", trusts "_s + version.trustedIds.join(u' ')));
     }
 
     Engine::Machine MachineFor(FeedItem const& item) const
@@ -167,7 +165,7 @@ private:
 
     BundleTree Unpack(InputFile const& file) const
     {
-        Progress bar(m_console.err, QStringLiteral("Unpacking ") + file.name);
+        Progress bar(m_console.err, u"Unpacking "_s + file.name);
         return BundleTree::Unpack(file, BarFor(bar));
     }
 
@@ -175,14 +173,12 @@ private:
     {
         if (file.size != item.contentLength)
         {
-            throw Refusal(
-                {file.name, 0, 0,
-                 QStringLiteral("is of %1 bytes, but is published with %2 (line %3 of the feed)")
-                     .arg(file.size)
-                     .arg(item.contentLength)
-                     .arg(item.line),
-                 QStringLiteral("put the published file back, and give a changed one a new version and name")},
-                RefusalCause::Content);
+            throw Refusal({file.name,
+                           u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
+                               .arg(item.contentLength)
+                               .arg(item.line),
+                           u"put the published file back, and give a changed one a new version and name"_s},
+                          RefusalCause::Content);
         }
     }
 
@@ -201,11 +197,10 @@ private:
             if (key != m_keys.end() && !SignerOf(file, each.signature, {*key}))
             {
                 throw Refusal(
-                    {file.name, 0, 0,
-                     QStringLiteral("does not bear the published signature of the key %1 (line %2 of the feed)")
-                         .arg(each.keyId)
+                    {file.name,
+                     u"does not bear the published signature of the key %1 (line %2 of the feed)"_s.arg(each.keyId)
                          .arg(item.line),
-                     QStringLiteral("put the published file back, or sign it again by that key")},
+                     u"put the published file back, or sign it again by that key"_s},
                     RefusalCause::Content);
             }
             ids.append(each.keyId);
@@ -220,25 +215,22 @@ private:
         QString const& said = item.signerKey;
         if (!signer)
         {
-            throw Refusal(
-                {file.name, 0, 0,
-                 QStringLiteral("does not bear the published signature (line %1 of the feed) by any key that a "
-                                "bundle at hand trusts")
-                     .arg(item.line),
-                 said.isEmpty()
-                     ? QStringLiteral("put the published file back, or give the key that signed it with --public-key")
-                     : QStringLiteral("put the published file back, or give the key %1 with --public-key").arg(said)},
-                RefusalCause::Content);
+            throw Refusal({file.name,
+                           u"does not bear the published signature (line %1 of the feed) by any key that a "
+                           "bundle at hand trusts"_s.arg(item.line),
+                           said.isEmpty()
+                               ? u"put the published file back, or give the key that signed it with --public-key"_s
+                               : u"put the published file back, or give the key %1 with --public-key"_s.arg(said)},
+                          RefusalCause::Content);
         }
         QString const id = KeyIdOf(*signer);
         if (!said.isEmpty() && said != id)
         {
-            throw Refusal({file.name, 0, 0,
-                           QStringLiteral("is signed by the key %1, but the feed says %2 (line %3); clients that trust "
-                                          "the first would leave it out")
-                               .arg(id, said)
+            throw Refusal({file.name,
+                           u"is signed by the key %1, but the feed says %2 (line %3); clients that trust "
+                           "the first would leave it out"_s.arg(id, said)
                                .arg(item.line),
-                           QStringLiteral("write signer=\"%1\" into the item's pelnar:keys").arg(id)},
+                           u"write signer=\"%1\" into the item's pelnar:keys"_s.arg(id)},
                           RefusalCause::Content);
         }
         return id;
@@ -257,11 +249,11 @@ private:
         if (bundle.Name() != target.Name() ||
             Engine::DigestTree(bundle.Descriptor()) != Engine::DigestTree(target.Descriptor()))
         {
-            throw Refusal({file->name, 0, 0,
-                           QStringLiteral("holds another bundle than the archive of the item (line %1 of the feed)")
-                               .arg(recompressed.line),
-                           QStringLiteral("remove the element pelnar:recompressed, or pack the archive's bundle")},
-                          RefusalCause::Content);
+            throw Refusal(
+                {file->name,
+                 u"holds another bundle than the archive of the item (line %1 of the feed)"_s.arg(recompressed.line),
+                 u"remove the element pelnar:recompressed, or pack the archive's bundle"_s},
+                RefusalCause::Content);
         }
     }
 
@@ -331,8 +323,8 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
     refusals.ThrowIfAny();
     if (linuxItems.empty() && macItems.empty() && errors.empty())
     {
-        throw Refusal({request.feedName, 0, 0, QStringLiteral("offers nothing that could be judged"),
-                       QStringLiteral("name the feed that is published")});
+        throw Refusal(
+            {request.feedName, u"offers nothing that could be judged"_s, u"name the feed that is published"_s});
     }
     return errors.empty() ? ExitStatus::Clean : ExitStatus::Findings;
 }

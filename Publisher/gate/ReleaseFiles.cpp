@@ -26,7 +26,7 @@ Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString cons
     // Deliberate: http addresses are allowed here, because another rule reports them.
     request.feedReach = Engine::AddressReach::ThisComputer;
     request.insecureHttp = Engine::InsecureHttp::Anywhere;
-    Progress progress(console.err, QStringLiteral("Fetching ") + item.fileUrl.fileName());
+    Progress progress(console.err, u"Fetching "_s + item.fileUrl.fileName());
     return LoadLatePart().download(request, [&](Engine::DownloadProgress const& now)
                                    { progress.Show(qint64(now.doneBytes), qint64(now.totalBytes)); });
 }
@@ -64,15 +64,15 @@ InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
     if (!outcome)
     {
         QString sentence = outcome.error().sentence.English();
-        sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
-        throw Refusal({name, 0, 0, QStringLiteral("cannot be fetched as the feed says it is: ") + sentence,
-                       QStringLiteral("upload the very file that was signed, before the feed")},
+        sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
+        throw Refusal({name, u"cannot be fetched as the feed says it is: "_s + sentence,
+                       u"upload the very file that was signed, before the feed"_s},
                       RefusalCause::Content);
     }
     struct stat status;
     if (::fstat(outcome->Get(), &status) != 0)
     {
-        RefuseFile(name, QStringLiteral("cannot be read"), errno, {});
+        RefuseFile(name, u"cannot be read"_s, errno, {});
     }
     return {*std::move(outcome), name, static_cast<std::uint64_t>(status.st_size)};
 }

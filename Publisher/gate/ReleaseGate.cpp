@@ -61,7 +61,7 @@ ProgramKind KindOf(BundleTree const& bundle, std::string const& path)
 
 QString EntryText(BundleTree const& bundle, std::string const& path)
 {
-    return QStringLiteral(": \"%1\"").arg(Printable(QString::fromStdString(bundle.Name() + '/' + path)));
+    return u": \"%1\""_s.arg(Printable(QString::fromStdString(bundle.Name() + '/' + path)));
 }
 
 /// Programs for macOS cannot run here. Only this is checked: the program exists, and it is not one for Linux.
@@ -73,12 +73,12 @@ void CheckMacProgram(BundleTree const& bundle, QString const& path, RefusalList&
     {
         if (KindOf(bundle, place) == ProgramKind::Linux)
         {
-            refusals.Add({path, 0, 0,
-                          QStringLiteral("the bundle is laid out for macOS (Contents/Info.plist), but its program is "
-                                         "for Linux") +
+            refusals.Add({path,
+                          u"the bundle is laid out for macOS (Contents/Info.plist), but its program is "
+                          "for Linux"_s +
                               EntryText(bundle, place),
-                          QStringLiteral("put the information file at Resources/Info-gnustep.plist and the program "
-                                         "directly into the bundle's folder")});
+                          u"put the information file at Resources/Info-gnustep.plist and the program "
+                          "directly into the bundle's folder"_s});
             return;
         }
     }
@@ -119,9 +119,7 @@ QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& 
     struct stat status;
     if (::fstatat(bundle.Descriptor(), information.executable.c_str(), &status, AT_SYMLINK_NOFOLLOW) == 0)
     {
-        text += S_ISLNK(status.st_mode)   ? QStringLiteral(" is a link")
-                : S_ISDIR(status.st_mode) ? QStringLiteral(" is a folder")
-                                          : QString();
+        text += S_ISLNK(status.st_mode) ? u" is a link"_s : S_ISDIR(status.st_mode) ? u" is a folder"_s : QString();
     }
     return text;
 }
@@ -186,7 +184,7 @@ private:
         problem.what += entry;
         if (!installedVersion.isEmpty())
         {
-            problem.what += QStringLiteral(" (seen by clients of version %1)").arg(installedVersion);
+            problem.what += u" (seen by clients of version %1)"_s.arg(installedVersion);
         }
         m_refusals.Add(std::move(problem), CauseOf(fault));
     }
@@ -205,7 +203,7 @@ bool HasCommon(QStringList const& a, QStringList const& b)
 
 QString KeyText(QStringList const& ids)
 {
-    return ids.join(QStringLiteral(" and "));
+    return ids.join(u" and "_s);
 }
 
 void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& all, RefusalList& refusals)
@@ -227,20 +225,19 @@ void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& a
     }
     if (followsRoot)
     {
-        refusals.Add({version.path, 0, 0,
-                      QStringLiteral("version %1 is signed by the key %2, but by the feed's key statement its clients "
-                                     "trust %3")
-                          .arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
-                      QStringLiteral("sign it by a valid key, or name the key in a new statement, which \"keys state\" "
-                                     "makes")});
+        refusals.Add({version.path,
+                      u"version %1 is signed by the key %2, but by the feed's key statement its clients "
+                      "trust %3"_s.arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
+                      u"sign it by a valid key, or name the key in a new statement, which \"keys state\" "
+                      "makes"_s});
         return;
     }
-    refusals.Add({version.path, 0, 0,
-                  QStringLiteral("version %1 is signed by the key %2, but its bundle trusts another key, %3; its "
-                                 "clients would refuse the next update by the same key")
-                      .arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
-                  QStringLiteral("write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; when "
-                                 "the key is being changed, the new one as PelnarNextPublicEDKey")});
+    refusals.Add({version.path,
+                  u"version %1 is signed by the key %2, but its bundle trusts another key, %3; its "
+                  "clients would refuse the next update by the same key"_s.arg(
+                      version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
+                  u"write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; when "
+                  "the key is being changed, the new one as PelnarNextPublicEDKey"_s});
 }
 
 /// Whether clients of \a older get to \a version or beyond it, at once or by versions between that bring its key.
@@ -274,7 +271,7 @@ QStringList StrandedBy(GatedVersion const& version, std::vector<GatedVersion> co
     QStringList texts;
     for (GatedVersion const* const each : stranded)
     {
-        texts.append(QStringLiteral("%1 (%2)").arg(each->versionText, each->path));
+        texts.append(u"%1 (%2)"_s.arg(each->versionText, each->path));
     }
     return texts;
 }
@@ -312,14 +309,13 @@ void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
         QStringList const stranded = version.signerIds.isEmpty() ? QStringList() : StrandedBy(version, all);
         if (!stranded.isEmpty())
         {
-            refusals.Add(
-                {version.path, 0, 0,
-                 QStringLiteral("version %1 is signed by the key %2, which strands installed versions: they do "
-                                "not trust it, and no version before it brings it to them: %3")
-                     .arg(version.versionText, KeyText(version.signerIds), stranded.join(QStringLiteral(", "))),
-                 QStringLiteral("publish a version before it, signed by the key that they trust, whose bundle "
-                                "trusts both keys; or sign this one by both; or, to give these versions up, "
-                                "remove their items and archives")});
+            refusals.Add({version.path,
+                          u"version %1 is signed by the key %2, which strands installed versions: they do "
+                          "not trust it, and no version before it brings it to them: %3"_s.arg(
+                              version.versionText, KeyText(version.signerIds), stranded.join(u", "_s)),
+                          u"publish a version before it, signed by the key that they trust, whose bundle "
+                          "trusts both keys; or sign this one by both; or, to give these versions up, "
+                          "remove their items and archives"_s});
         }
     }
 }

@@ -63,9 +63,8 @@ void CheckMacInstaller(InputFile const& file)
     bool const isSame = std::equal(std::begin(mark), std::end(mark), isImage ? IMAGE_MARK : PACKAGE_MARK);
     if (file.size > 0 && !(isRead && isSame)) // an empty file is told of when it is signed
     {
-        throw ContentRefusal({file.name, 0, 0,
-                              isImage ? QStringLiteral("is no disk image") : QStringLiteral("is no installer package"),
-                              QStringLiteral("give it the ending of what it is")});
+        throw ContentRefusal({file.name, isImage ? u"is no disk image"_s : u"is no installer package"_s,
+                              u"give it the ending of what it is"_s});
     }
 }
 
@@ -76,14 +75,13 @@ void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePu
         return;
     }
     bool const isBundle = purpose == Engine::BundlePurpose::Application;
-    throw ContentRefusal(
-        {path, 0, 0,
-         isBundle ? QStringLiteral("its name is a bundle's, but the PelnarPayloadKind inside is another")
-                  : QStringLiteral("its name is an installer's, but inside it is not said to be one"),
-         isBundle ? QStringLiteral("remove PelnarPayloadKind from the bundle's information file, or mark the "
-                                   "name of an installer with .sparkle_guided. or .sparkle_interactive.")
-                  : QStringLiteral("write PelnarPayloadKind = installer into the information file of a bundle "
-                                   "that installs the new version, or remove the mark from the name")});
+    throw ContentRefusal({path,
+                          isBundle ? u"its name is a bundle's, but the PelnarPayloadKind inside is another"_s
+                                   : u"its name is an installer's, but inside it is not said to be one"_s,
+                          isBundle ? u"remove PelnarPayloadKind from the bundle's information file, or mark the "
+                                     "name of an installer with .sparkle_guided. or .sparkle_interactive."_s
+                                   : u"write PelnarPayloadKind = installer into the information file of a bundle "
+                                     "that installs the new version, or remove the mark from the name"_s});
 }
 
 } // namespace
@@ -206,16 +204,15 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     NewItem item;
     item.platform = bundle.Platform();
     QString const bundleName = QString::fromStdString(bundle.Name());
-    item.productName = Printable(bundleName.left(bundleName.lastIndexOf(QLatin1Char('.'))));
+    item.productName = Printable(bundleName.left(bundleName.lastIndexOf(u'.')));
     item.versionText = QString::fromStdString(information.version);
     item.displayVersion = Printable(QString::fromStdString(information.displayVersion));
     item.minimumSystemVersion = QString::fromStdString(information.minimumSystemVersion);
     if (!item.minimumSystemVersion.isEmpty() && !WholeVersion(item.minimumSystemVersion).IsValid())
     {
         throw ContentRefusal(
-            {path, 0, 0,
-             QStringLiteral("the bundle's LSMinimumSystemVersion \"%1\" is no version").arg(item.minimumSystemVersion),
-             QStringLiteral("write one to four numbers with dots between them")});
+            {path, u"the bundle's LSMinimumSystemVersion \"%1\" is no version"_s.arg(item.minimumSystemVersion),
+             u"write one to four numbers with dots between them"_s});
     }
     Complete(item, archive);
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
@@ -238,9 +235,9 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
     if (newer != m_versions.end())
     {
         m_workplace.Warn(version.path,
-                         QStringLiteral("is of version %1, and %2 is published already, which clients take instead")
-                             .arg(version.versionText, newer->versionText),
-                         QStringLiteral("give it a greater version, unless it is for those who cannot take the newer"));
+                         u"is of version %1, and %2 is published already, which clients take instead"_s.arg(
+                             version.versionText, newer->versionText),
+                         u"give it a greater version, unless it is for those who cannot take the newer"_s);
     }
     auto const rooted =
         std::find_if(m_versions.begin(), m_versions.end(),
@@ -249,10 +246,9 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
     if (rooted != m_versions.end() && version.bundle->rootKey.empty())
     {
         m_workplace.Warn(version.path,
-                         QStringLiteral("names no root key, as version %1 does; no statement can save its clients from "
-                                        "a stolen key")
-                             .arg(rooted->versionText),
-                         QStringLiteral("write PelnarRootPublicEDKey into the bundle's information file"));
+                         u"names no root key, as version %1 does; no statement can save its clients from "
+                         "a stolen key"_s.arg(rooted->versionText),
+                         u"write PelnarRootPublicEDKey into the bundle's information file"_s);
     }
 }
 
@@ -260,17 +256,16 @@ void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, Q
 {
     if (information.identifier.empty())
     {
-        throw ContentRefusal({path, 0, 0,
-                              QStringLiteral("the bundle has no CFBundleIdentifier, so that clients refuse it"),
-                              QStringLiteral("write it into the bundle's information file")});
+        throw ContentRefusal({path, u"the bundle has no CFBundleIdentifier, so that clients refuse it"_s,
+                              u"write it into the bundle's information file"_s});
     }
     if (!m_identifier.empty() && m_identifier != information.identifier)
     {
-        throw ContentRefusal({path, 0, 0,
-                              QStringLiteral("is of the product %1, while %2 is of %3")
-                                  .arg(QString::fromStdString(information.identifier), m_identifierSource,
-                                       QString::fromStdString(m_identifier)),
-                              QStringLiteral("give each product a folder of its own")});
+        throw ContentRefusal(
+            {path,
+             u"is of the product %1, while %2 is of %3"_s.arg(QString::fromStdString(information.identifier),
+                                                              m_identifierSource, QString::fromStdString(m_identifier)),
+             u"give each product a folder of its own"_s});
     }
     m_identifier = information.identifier;
     m_identifierSource = path;
@@ -279,15 +274,14 @@ void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, Q
 NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive, RefusalList& refusals)
 {
     NewItem item;
-    int const underscore = archive.stem.lastIndexOf(QLatin1Char('_'));
+    int const underscore = archive.stem.lastIndexOf(u'_');
     bool const isForMac = HasMacEnding(archive.fileName);
     if (!isForMac && !archive.isNamedAsContainer)
     {
-        throw ContentRefusal(
-            {m_workplace.PathOf(archive.fileName), 0, 0,
-             QStringLiteral("is no installer that clients of any system take"),
-             QStringLiteral("end its name with .pkg, .mpkg or .dmg for macOS; for Linux pack the bundle whose "
-                            "program installs the new version as a zip or a tar")});
+        throw ContentRefusal({m_workplace.PathOf(archive.fileName),
+                              u"is no installer that clients of any system take"_s,
+                              u"end its name with .pkg, .mpkg or .dmg for macOS; for Linux pack the bundle whose "
+                              "program installs the new version as a zip or a tar"_s});
     }
     item.kind = archive.kind;
     item.platform = isForMac ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux;
@@ -306,18 +300,17 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     Engine::BundleInformation const& information = bundle.Information();
     if (bundle.Platform() != Engine::FeedPlatform::Linux)
     {
-        throw ContentRefusal({path, 0, 0,
-                              QStringLiteral("holds a bundle for macOS, where installers are packages and images"),
-                              QStringLiteral("publish a .pkg, .mpkg or .dmg for macOS")});
+        throw ContentRefusal({path, u"holds a bundle for macOS, where installers are packages and images"_s,
+                              u"publish a .pkg, .mpkg or .dmg for macOS"_s});
     }
     CheckPurpose(information, Engine::BundlePurpose::InstallerProgram, path);
     CheckProduct(information, path);
     if (information.version != item.versionText.toStdString())
     {
-        throw ContentRefusal({path, 0, 0,
-                              QStringLiteral("is named after version %1, but installs \"%2\"")
-                                  .arg(item.versionText, Printable(QString::fromStdString(information.version))),
-                              QStringLiteral("name it after the CFBundleVersion in its information file")});
+        throw ContentRefusal({path,
+                              u"is named after version %1, but installs \"%2\""_s.arg(
+                                  item.versionText, Printable(QString::fromStdString(information.version))),
+                              u"name it after the CFBundleVersion in its information file"_s});
     }
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::Installer);
     version.signerIds = m_workplace.KeyIds();
@@ -334,12 +327,11 @@ void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)
     if (!item.version.IsValid())
     {
         bool const isBundle = item.kind == ArchiveKind::Bundle;
-        throw ContentRefusal({path, 0, 0, QStringLiteral("\"%1\" is no version").arg(item.versionText),
-                              isBundle
-                                  ? QStringLiteral("write one to four numbers with dots between them into the bundle's "
-                                                   "CFBundleVersion")
-                                  : QStringLiteral("name an installer NAME_VERSION.sparkle_guided.ENDING, the version "
-                                                   "being one to four numbers with dots between them")});
+        throw ContentRefusal({path, u"\"%1\" is no version"_s.arg(item.versionText),
+                              isBundle ? u"write one to four numbers with dots between them into the bundle's "
+                                         "CFBundleVersion"_s
+                                       : u"name an installer NAME_VERSION.sparkle_guided.ENDING, the version "
+                                         "being one to four numbers with dots between them"_s});
     }
     item.publishedAt = m_workplace.publishedAt;
     item.notes = ReadReleaseNotes(m_workplace.folder, archive.stem);
@@ -347,26 +339,24 @@ void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)
 
 void ArchiveIntake::CheckClash(NewItem const& item) const
 {
-    QString const mend = QStringLiteral("give one of them a newer version, or take it out of the folder");
+    QString const mend = u"give one of them a newer version, or take it out of the folder"_s;
     for (NewItem const& other : m_items)
     {
         if (Clashes(item, other))
         {
-            throw ContentRefusal(
-                {m_workplace.PathOf(item.fileName), 0, 0,
-                 QStringLiteral("is of version %1, and so is %2").arg(item.versionText, other.fileName), mend});
+            throw ContentRefusal({m_workplace.PathOf(item.fileName),
+                                  u"is of version %1, and so is %2"_s.arg(item.versionText, other.fileName), mend});
         }
     }
     for (PublishedItem const& published : m_feed.Items())
     {
         if (Clashes(item, published))
         {
-            throw ContentRefusal(
-                {m_workplace.PathOf(item.fileName), 0, 0,
-                 QStringLiteral("is of version %1, which is published already as %2 (line %3 of the feed)")
-                     .arg(item.versionText, published.item.fileUrl.toString())
-                     .arg(published.item.line),
-                 mend});
+            throw ContentRefusal({m_workplace.PathOf(item.fileName),
+                                  u"is of version %1, which is published already as %2 (line %3 of the feed)"_s
+                                      .arg(item.versionText, published.item.fileUrl.toString())
+                                      .arg(published.item.line),
+                                  mend});
         }
     }
 }

@@ -19,22 +19,22 @@ constexpr int MAX_BYTES = 1 << 20;
 
 [[noreturn]] void RefuseLine(QString const& name, int line, QString const& what)
 {
-    throw Refusal({name, line, 0, what, QStringLiteral("write a version and its share, such as: 1.4.2 0.35")});
+    throw Refusal({name, line, 0, what, u"write a version and its share, such as: 1.4.2 0.35"_s});
 }
 
 } // namespace
 
 std::vector<ClientShare> ReadClientShares(QString const& name)
 {
-    static QRegularExpression const BLANKS(QStringLiteral("\\s+"));
-    QByteArray const bytes = ReadInputFile(OpenInputFile(name), MAX_BYTES, QStringLiteral("keep it below 1 MiB"));
+    static QRegularExpression const BLANKS(u"\\s+"_s);
+    QByteArray const bytes = ReadInputFile(OpenInputFile(name), MAX_BYTES, u"keep it below 1 MiB"_s);
     std::vector<ClientShare> clients;
     int number = 0;
-    for (QString const& text : QString::fromUtf8(bytes).split(QLatin1Char('\n')))
+    for (QString const& text : QString::fromUtf8(bytes).split(u'\n'))
     {
         ++number;
         QString const line = text.trimmed();
-        if (line.isEmpty() || line.startsWith(QLatin1Char('#')))
+        if (line.isEmpty() || line.startsWith(u'#'))
         {
             continue;
         }
@@ -43,14 +43,14 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
         ClientShare const client{WholeVersion(words.front()), words.size() == 2 ? words.back().toDouble(&isNumber) : 0};
         if (!client.version.IsValid() || !isNumber || !std::isfinite(client.share) || !(client.share > 0))
         {
-            RefuseLine(name, number, QStringLiteral("\"%1\" is not a version and a share").arg(Printable(line)));
+            RefuseLine(name, number, u"\"%1\" is not a version and a share"_s.arg(Printable(line)));
         }
         bool const isKnown =
             std::any_of(clients.begin(), clients.end(),
                         [&client](ClientShare const& other) { return other.version == client.version; });
         if (isKnown)
         {
-            RefuseLine(name, number, QStringLiteral("version %1 stands there twice").arg(Printable(words.front())));
+            RefuseLine(name, number, u"version %1 stands there twice"_s.arg(Printable(words.front())));
         }
         clients.push_back(client);
     }

@@ -157,13 +157,12 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         if (!isTaken)
         {
             refusals.ThrowIfAny();
-            m_workplace.Warn(
-                path,
-                hasTarget ? QStringLiteral("left out: starts from version %1, whose archive is not in the folder")
-                                .arg(Printable(start))
-                          : QStringLiteral("left out: makes version %1, which gets no new item").arg(Printable(target)),
-                hasTarget ? QStringLiteral("put that archive into the folder, so that the delta can be proved")
-                          : QStringLiteral("remove it; deltas are published together with the version they make"));
+            m_workplace.Warn(path,
+                             hasTarget ? u"left out: starts from version %1, whose archive is not in the folder"_s.arg(
+                                             Printable(start))
+                                       : u"left out: makes version %1, which gets no new item"_s.arg(Printable(target)),
+                             hasTarget ? u"put that archive into the folder, so that the delta can be proved"_s
+                                       : u"remove it; deltas are published together with the version they make"_s);
         }
     }
 }
@@ -176,15 +175,14 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
         { ProveDelta(OpenInputFile(path), m_workplace.Unpack(base.fileName), TreeOf(item), m_workplace.console.err); });
     if (HasDeltaFrom(item, base.versionText))
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("is a second delta from %1 to %2").arg(base.versionText, item.versionText),
-                       QStringLiteral("keep one of them")});
+        throw Refusal({path, u"is a second delta from %1 to %2"_s.arg(base.versionText, item.versionText),
+                       u"keep one of them"_s});
     }
     ArchiveSignature const signature = m_workplace.Sign(fileName);
     if (!SavesEnough(signature.length, item.LeastBytes()))
     {
-        m_workplace.Warn(path, QStringLiteral("left out: saves less than a tenth of the whole archive"),
-                         QStringLiteral("remove it; clients of that version take the archive"));
+        m_workplace.Warn(path, u"left out: saves less than a tenth of the whole archive"_s,
+                         u"remove it; clients of that version take the archive"_s);
         return;
     }
     item.deltas.push_back({fileName, base.versionText, signature});
@@ -202,7 +200,7 @@ BundleTree const& DeltaStage::TreeOf(NewItem const& item)
 
 QString DeltaStage::DeltaName(NewItem const& item, Base const& base) const
 {
-    QString const name = QStringLiteral("%1-%2-%3").arg(item.productName, base.versionText, item.versionText);
+    QString const name = u"%1-%2-%3"_s.arg(item.productName, base.versionText, item.versionText);
     bool const isForSome =
         std::any_of(m_bases.begin(), m_bases.end(),
                     [&item](Base const& other) {
@@ -213,7 +211,7 @@ QString DeltaStage::DeltaName(NewItem const& item, Base const& base) const
                         return other.version == item.version &&
                                !Engine::ShareMachine(other.item.policy.machines, item.machines);
                     });
-    return (isForSome ? name + QLatin1Char('-') + item.machines.first() : name) + QStringLiteral(".delta");
+    return (isForSome ? name + u'-' + item.machines.first() : name) + u".delta"_s;
 }
 
 void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effort)
@@ -222,25 +220,24 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
     BundleTree const before = m_workplace.Unpack(base.fileName);
     if (WholeVersion(QString::fromStdString(before.Information().version)) != base.version)
     {
-        throw Refusal({m_workplace.PathOf(base.fileName), 0, 0,
-                       QStringLiteral("holds version %1, but is published as %2")
-                           .arg(QString::fromStdString(before.Information().version), base.versionText),
-                       QStringLiteral("put the published archive back")},
+        throw Refusal({m_workplace.PathOf(base.fileName),
+                       u"holds version %1, but is published as %2"_s.arg(
+                           QString::fromStdString(before.Information().version), base.versionText),
+                       u"put the published archive back"_s},
                       RefusalCause::Content);
     }
     QString const path = m_workplace.PathOf(fileName);
     if (QFileInfo::exists(path))
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("remove it")});
+        throw Refusal({path, u"is there already"_s, u"remove it"_s});
     }
     auto file = std::make_unique<AtomicFile>(path);
     MakeDelta(before, TreeOf(item), *file, path, {m_workplace.console.err, effort});
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.LeastBytes()))
     {
-        m_workplace.Warn(
-            path, QStringLiteral("not published: saves less than a tenth of the whole archive"),
-            QStringLiteral("nothing is to be done; clients of version %1 take the archive").arg(base.versionText));
+        m_workplace.Warn(path, u"not published: saves less than a tenth of the whole archive"_s,
+                         u"nothing is to be done; clients of version %1 take the archive"_s.arg(base.versionText));
         return;
     }
     item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(made)});

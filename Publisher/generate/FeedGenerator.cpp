@@ -28,8 +28,8 @@ namespace
 {
 
 constexpr char FEED_FILE[] = "appcast.xml";
-QString const FEED_PREFIX = QStringLiteral("sparkle");
-QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_PREFIX = u"sparkle"_s;
+QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 
 /// The moment of a build that must come out the same wherever it is made, else now. Never a time of the archive: a
 /// checkout or a copy gives files another. Throws Refusal.
@@ -41,9 +41,8 @@ std::int64_t MomentOfPublication()
     constexpr qint64 LAST_MOMENT = 253402300799; // of the year 9999: no date has more digits
     if (!text.isEmpty() && (!isNumber || seconds < 0 || seconds > LAST_MOMENT))
     {
-        throw Refusal({QString(), 0, 0,
-                       QStringLiteral("SOURCE_DATE_EPOCH is \"%1\"").arg(Printable(QString::fromLocal8Bit(text))),
-                       QStringLiteral("give the seconds since 1970, or unset it")});
+        throw Refusal({u"SOURCE_DATE_EPOCH is \"%1\""_s.arg(Printable(QString::fromLocal8Bit(text))),
+                       u"give the seconds since 1970, or unset it"_s});
     }
     return text.isEmpty() ? QDateTime::currentSecsSinceEpoch() : seconds;
 }
@@ -52,8 +51,8 @@ DownloadAddress AddressOf(GenerateRequest const& request)
 {
     if (request.urlTemplate.empty() && request.urlPrefix.empty())
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("--url-prefix is required"),
-                       QStringLiteral("give it, or --url-template; see pelnar-appcast generate --help")});
+        throw Refusal(
+            {u"--url-prefix is required"_s, u"give it, or --url-template; see pelnar-appcast generate --help"_s});
     }
     return request.urlTemplate.empty() ? DownloadAddress::UnderPrefix(QString::fromStdString(request.urlPrefix))
                                        : DownloadAddress::ByPattern(QString::fromStdString(request.urlTemplate));
@@ -72,7 +71,7 @@ FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
     {
         return {};
     }
-    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, QStringLiteral("drop old items"));
+    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, u"drop old items"_s);
     return ReadFeedContent(feedFile, bytes, key, ChangedFeed::Refused);
 }
 
@@ -86,7 +85,7 @@ std::vector<Addition> AdditionsOf(std::vector<NewItem> const& items, PublishedFe
         QString text = ItemText(item, address, prefix, feed.Indentation());
         if (feed.FeedPrefix().isEmpty())
         {
-            text.insert(QStringLiteral("<item").size(), QStringLiteral(" xmlns:%1=\"%2\"").arg(prefix, FEED_NAMESPACE));
+            text.insert(u"<item"_s.size(), u" xmlns:%1=\"%2\""_s.arg(prefix, FEED_NAMESPACE));
         }
         additions.push_back({item.version, text});
     }
@@ -97,24 +96,20 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
 {
     for (NewItem const& item : items)
     {
-        console.Print(QStringLiteral("added %1, version %2, %3 bytes")
-                          .arg(item.fileName, item.versionText)
-                          .arg(item.signature.length));
+        console.Print(
+            u"added %1, version %2, %3 bytes"_s.arg(item.fileName, item.versionText).arg(item.signature.length));
         if (item.recompressed)
         {
-            console.Print(QStringLiteral("  and as %1, %2 bytes")
-                              .arg(item.recompressed->fileName)
-                              .arg(item.recompressed->signature.length));
+            console.Print(
+                u"  and as %1, %2 bytes"_s.arg(item.recompressed->fileName).arg(item.recompressed->signature.length));
         }
         for (NewDelta const& delta : item.deltas)
         {
-            console.Print(QStringLiteral("  with %1, from version %2, %3 bytes")
-                              .arg(delta.fileName, delta.baseVersion)
+            console.Print(u"  with %1, from version %2, %3 bytes"_s.arg(delta.fileName, delta.baseVersion)
                               .arg(delta.signature.length));
         }
     }
-    console.Print(
-        QStringLiteral("%1: %2 added, %3 kept").arg(feedFile, CountOf(items.size(), QStringLiteral("item"))).arg(kept));
+    console.Print(u"%1: %2 added, %3 kept"_s.arg(feedFile, CountOf(items.size(), u"item"_s)).arg(kept));
 }
 
 /// With \a made, which the feed names.
@@ -130,8 +125,8 @@ void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& add
 /// What a finding says, without the lines that move when items are added.
 std::pair<LintRule, QString> KindOf(LintFinding const& finding)
 {
-    static QRegularExpression const LINE(QStringLiteral("line [0-9]+"));
-    return {finding.rule, QString(finding.what).replace(LINE, QStringLiteral("line"))};
+    static QRegularExpression const LINE(u"line [0-9]+"_s);
+    return {finding.rule, QString(finding.what).replace(LINE, u"line"_s)};
 }
 
 /// Throws Refusal for errors that the feed did not have before.
@@ -150,8 +145,7 @@ void RefuseNewErrors(QString const& feedFile, std::vector<LintFinding> const& be
         if (entry.severity == Severity::Error && known.count(KindOf(finding)) == 0)
         {
             refusals.Add({feedFile, finding.place.line, finding.place.column,
-                          QStringLiteral("%1: %2").arg(QLatin1String(entry.name), finding.what),
-                          QString::fromLatin1(entry.mend)});
+                          u"%1: %2"_s.arg(QLatin1String(entry.name), finding.what), QString::fromLatin1(entry.mend)});
         }
     }
     refusals.ThrowIfAny();
@@ -200,12 +194,11 @@ public:
         if (items.empty() && m_isNew)
         {
             QStringList const ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
-            throw Refusal({m_workplace.folder, 0, 0,
-                           ignored.isEmpty() ? QStringLiteral("holds no archive")
-                                             : QStringLiteral("holds no archive, only ") +
-                                                   Printable(ignored.join(QStringLiteral(", "))),
-                           QStringLiteral("put zip or tar archives of bundles there, or installers whose names are "
-                                          "marked .sparkle_guided. or .sparkle_interactive.")});
+            throw Refusal({m_workplace.folder,
+                           ignored.isEmpty() ? u"holds no archive"_s
+                                             : u"holds no archive, only "_s + Printable(ignored.join(u", "_s)),
+                           u"put zip or tar archives of bundles there, or installers whose names are "
+                           "marked .sparkle_guided. or .sparkle_interactive."_s});
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
@@ -248,7 +241,7 @@ private:
     QString LinkOfFiles() const
     {
         return m_request.urlTemplate.empty() ? QString::fromStdString(m_request.urlPrefix)
-                                             : m_address.resolved(QUrl(QStringLiteral("."))).toString();
+                                             : m_address.resolved(QUrl(u"."_s)).toString();
     }
 
     std::vector<NewItem> TakeNew(PublishedFeed const& feed, std::vector<FolderArchive> const& archives) const
@@ -301,8 +294,7 @@ private:
         }
         if (!ignored.isEmpty())
         {
-            m_console.Print(Printable(QStringLiteral("ignored, as neither archives nor notes of one: ") +
-                                      ignored.join(QStringLiteral(", "))));
+            m_console.Print(Printable(u"ignored, as neither archives nor notes of one: "_s + ignored.join(u", "_s)));
         }
     }
 
@@ -321,16 +313,15 @@ private:
                 continue;
             }
             QString text = EmptyFeedText({}, {});
-            text.insert(text.indexOf(QLatin1String("</channel>")),
-                        ItemText(written, m_workplace.address, FEED_PREFIX, {}));
+            text.insert(text.indexOf("</channel>"_l), ItemText(written, m_workplace.address, FEED_PREFIX, {}));
             std::vector<Engine::FeedItem> const read =
                 Engine::ParseFeed(text.toUtf8(), m_address, written.platform).value_or(Engine::FeedContent()).items;
             if (!read.empty() && read.front().description != item->description)
             {
                 m_workplace.Warn(m_workplace.PathOf(archive.fileName),
-                                 QStringLiteral("the notes beside it are not those that version %1 has in the feed")
-                                     .arg(Printable(item->versionString)),
-                                 QStringLiteral("put them into the feed with \"edit-notes\", or leave it so"));
+                                 u"the notes beside it are not those that version %1 has in the feed"_s.arg(
+                                     Printable(item->versionString)),
+                                 u"put them into the feed with \"edit-notes\", or leave it so"_s);
             }
         }
     }
@@ -345,9 +336,9 @@ private:
         QStringList const unreadable = UnreadableForOthers(m_workplace.folder, names);
         if (!unreadable.isEmpty())
         {
-            m_workplace.Warn(unreadable.join(QStringLiteral(", ")),
-                             QStringLiteral("may not be read by every user, so perhaps not by the web server"),
-                             QStringLiteral("chmod 644 what is uploaded, and set the umask to 022"));
+            m_workplace.Warn(unreadable.join(u", "_s),
+                             u"may not be read by every user, so perhaps not by the web server"_s,
+                             u"chmod 644 what is uploaded, and set the umask to 022"_s);
         }
     }
 
@@ -356,7 +347,7 @@ private:
     {
         if (m_terms)
         {
-            m_console.Print(QStringLiteral("%1: %2").arg(m_feedFile, TextOf(*m_terms)));
+            m_console.Print(u"%1: %2"_s.arg(m_feedFile, TextOf(*m_terms)));
         }
         if (!findings.empty())
         {
@@ -386,8 +377,7 @@ std::unique_ptr<ISigner> LoadSecondKey(GenerateRequest const& request, ISigner c
     std::unique_ptr<ISigner> second = LoadSigner(request.secondSigner);
     if (second->PublicKeyText() == first.PublicKeyText())
     {
-        throw Refusal({QStringLiteral("--second-key"), 0, 0, QStringLiteral("is the key that signs anyway"),
-                       QStringLiteral("name another key, or none")});
+        throw Refusal({u"--second-key"_s, u"is the key that signs anyway"_s, u"name another key, or none"_s});
     }
     return second;
 }

@@ -99,25 +99,25 @@ QString WhyRefused(Engine::ReleaseNotesRefusal refusal)
     {
     case Engine::ReleaseNotesRefusal::None:
     case Engine::ReleaseNotesRefusal::TooLong:
-        return QStringLiteral("they are too long");
+        return u"they are too long"_s;
     case Engine::ReleaseNotesRefusal::TooDeep:
-        return QStringLiteral("elements are nested too deep");
+        return u"elements are nested too deep"_s;
     case Engine::ReleaseNotesRefusal::TablesTooDeep:
-        return QStringLiteral("tables are nested too deep");
+        return u"tables are nested too deep"_s;
     case Engine::ReleaseNotesRefusal::TooManyElements:
-        return QStringLiteral("there are too many elements");
+        return u"there are too many elements"_s;
     case Engine::ReleaseNotesRefusal::TooManyListItems:
-        return QStringLiteral("there are too many list items");
+        return u"there are too many list items"_s;
     case Engine::ReleaseNotesRefusal::TooMuchPreformatted:
-        return QStringLiteral("there is too much preformatted text");
+        return u"there is too much preformatted text"_s;
     case Engine::ReleaseNotesRefusal::TooManyCells:
-        return QStringLiteral("a table has too many cells");
+        return u"a table has too many cells"_s;
     case Engine::ReleaseNotesRefusal::TooMuchTableText:
-        return QStringLiteral("there is too much text in tables");
+        return u"there is too much text in tables"_s;
     case Engine::ReleaseNotesRefusal::BlockTooLong:
-        return QStringLiteral("a paragraph is too long");
+        return u"a paragraph is too long"_s;
     }
-    return QStringLiteral("they are over a limit");
+    return u"they are over a limit"_s;
 }
 
 QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
@@ -125,24 +125,22 @@ QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
     Engine::ReleaseNotesLimits const limits;
     QByteArray const bytes =
         ReadInputFile(OpenInputFile(path), limits.maxBytes,
-                      QStringLiteral("shorten the notes: clients show no longer ones, and fetch them with every feed"));
+                      u"shorten the notes: clients show no longer ones, and fetch them with every feed"_s);
     QString const text = QString::fromUtf8(bytes.constData(), bytes.size()); // a NUL does not end it
     int const badLine = LineOfBadCharacter(text);
     if (text.toUtf8() != bytes && QByteArray("\xEF\xBB\xBF" + text.toUtf8()) != bytes)
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is not UTF-8"), QStringLiteral("save the notes as UTF-8")});
+        throw Refusal({path, u"is not UTF-8"_s, u"save the notes as UTF-8"_s});
     }
     if (badLine > 0)
     {
-        throw Refusal({path, badLine, 0, QStringLiteral("has a control character, which a feed cannot hold"),
-                       QStringLiteral("remove it")});
+        throw Refusal({path, badLine, 0, u"has a control character, which a feed cannot hold"_s, u"remove it"_s});
     }
     Engine::FilteredReleaseNotes const shown = Engine::FilterReleaseNotes(text.toStdString(), format, limits);
     if (shown.refusal != Engine::ReleaseNotesRefusal::None)
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("clients would show these notes as plain text: ") + WhyRefused(shown.refusal),
-                       QStringLiteral("make the notes simpler")});
+        throw Refusal({path, u"clients would show these notes as plain text: "_s + WhyRefused(shown.refusal),
+                       u"make the notes simpler"_s});
     }
     return format == Engine::ReleaseNotesFormat::Html ? text : QString::fromStdString(shown.html);
 }
@@ -157,10 +155,9 @@ struct NotesFile
 /// "de" and "pt_BR" as xml:lang writes them; nothing for a text that names no language.
 std::optional<QString> LanguageOf(QString const& text)
 {
-    static QRegularExpression const FORM(QStringLiteral("^[A-Za-z]{2,3}([-_][A-Za-z0-9]{2,8})*$"));
-    bool const isLanguage = FORM.match(text).hasMatch() &&
-                            QLocale(QString(text).replace(QLatin1Char('-'), QLatin1Char('_'))) != QLocale::c();
-    return isLanguage ? QString(text).replace(QLatin1Char('_'), QLatin1Char('-')) : std::optional<QString>();
+    static QRegularExpression const FORM(u"^[A-Za-z]{2,3}([-_][A-Za-z0-9]{2,8})*$"_s);
+    bool const isLanguage = FORM.match(text).hasMatch() && QLocale(QString(text).replace(u'-', u'_')) != QLocale::c();
+    return isLanguage ? QString(text).replace(u'_', u'-') : std::optional<QString>();
 }
 
 /// The notes that the file \a name is for the archive with that stem; nothing if it is not one of its notes.
@@ -173,7 +170,7 @@ std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
         {
             return NotesFile{name, {}, ending.format};
         }
-        if (front && front->startsWith(stem + QLatin1Char('.')))
+        if (front && front->startsWith(stem + u'.'))
         {
             if (std::optional<QString> const language = LanguageOf(front->mid(stem.size() + 1)))
             {
@@ -188,8 +185,8 @@ void RefuseLink(QString const& path)
 {
     if (QFileInfo(path).isSymLink())
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is a link, which a web server may not follow"),
-                       QStringLiteral("put the file itself into the folder")});
+        throw Refusal(
+            {path, u"is a link, which a web server may not follow"_s, u"put the file itself into the folder"_s});
     }
 }
 
@@ -205,8 +202,8 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
     QDir const entries(folder);
     if (!entries.exists() || !QFileInfo(folder).isReadable())
     {
-        RefuseFile(folder, QStringLiteral("cannot be read"), entries.exists() ? EACCES : ENOENT,
-                   QStringLiteral("name the folder of the archives"));
+        RefuseFile(folder, u"cannot be read"_s, entries.exists() ? EACCES : ENOENT,
+                   u"name the folder of the archives"_s);
     }
     // System files among them: a link that leads nowhere is one.
     QStringList names = entries.entryList(QDir::Files | QDir::System, QDir::NoSort);
@@ -239,9 +236,8 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
         auto const [known, isNew] = byLanguage.emplace(notes->language, *notes);
         if (!isNew)
         {
-            throw Refusal({PathIn(folder, name), 0, 0,
-                           QStringLiteral("there are notes in %1 as well").arg(known->second.fileName),
-                           QStringLiteral("keep one of the two")});
+            throw Refusal({PathIn(folder, name), u"there are notes in %1 as well"_s.arg(known->second.fileName),
+                           u"keep one of the two"_s});
         }
     }
     std::vector<ReleaseNotes> result;
@@ -261,12 +257,12 @@ QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const
     {
         QString const name = QFile::decodeName(entry.path().filename().c_str());
         bool const isKnown =
-            name.startsWith(QLatin1Char('.')) || QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
+            name.startsWith(u'.') || QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
             std::any_of(archives.begin(), archives.end(),
                         [&](FolderArchive const& each) { return each.fileName == name || NotesOf(name, each.stem); });
         if (!isKnown)
         {
-            ignored.append(entry.is_directory(error) ? name + QLatin1Char('/') : name);
+            ignored.append(entry.is_directory(error) ? name + u'/' : name);
         }
     }
     ignored.sort();

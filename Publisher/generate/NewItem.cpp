@@ -12,10 +12,10 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 
-QString const FILE_PLACE = QStringLiteral("{file}");
-QString const VERSION_PLACE = QStringLiteral("{version}");
+QString const FILE_PLACE = u"{file}"_s;
+QString const VERSION_PLACE = u"{version}"_s;
 
 char const* PlatformName(Engine::FeedPlatform platform)
 {
@@ -48,24 +48,23 @@ char const* InstallationType(ArchiveKind kind)
 QString DateText(std::int64_t seconds)
 {
     QDateTime const time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    return QLocale::c().toString(time, QStringLiteral("ddd, dd MMM yyyy hh:mm:ss '+0000'"));
+    return QLocale::c().toString(time, u"ddd, dd MMM yyyy hh:mm:ss '+0000'"_s);
 }
 
 QString Attribute(QString const& name, QString const& value)
 {
-    return QStringLiteral(" %1=\"%2\"").arg(name, value.toHtmlEscaped());
+    return u" %1=\"%2\""_s.arg(name, value.toHtmlEscaped());
 }
 
 QString Element(QString const& name, QString const& text)
 {
-    return QStringLiteral("<%1>%2</%1>").arg(name, text.toHtmlEscaped());
+    return u"<%1>%2</%1>"_s.arg(name, text.toHtmlEscaped());
 }
 
 /// A section that holds \a text, no matter what stands in it.
 QString CharacterData(QString text)
 {
-    return QStringLiteral("<![CDATA[") + text.replace(QLatin1String("]]>"), QLatin1String("]]]]><![CDATA[>")) +
-           QStringLiteral("]]>");
+    return u"<![CDATA["_s + text.replace("]]>"_l, "]]]]><![CDATA[>"_l) + u"]]>"_s;
 }
 
 /// The lines of one item.
@@ -73,56 +72,52 @@ class ItemWriter
 {
 public:
     ItemWriter(NewItem const& item, DownloadAddress const& address, QString feedPrefix)
-        : m_item(item), m_address(address), m_feed(std::move(feedPrefix) + QLatin1Char(':'))
+        : m_item(item), m_address(address), m_feed(std::move(feedPrefix) + u':')
     {
     }
 
     QStringList Lines() const
     {
         QString const& shown = m_item.displayVersion.isEmpty() ? m_item.versionText : m_item.displayVersion;
-        QStringList lines{QStringLiteral("<item>"),
-                          Inner(Element(QStringLiteral("title"), m_item.productName + QLatin1Char(' ') + shown)),
-                          Inner(Element(QStringLiteral("pubDate"), DateText(m_item.publishedAt)))};
+        QStringList lines{u"<item>"_s, Inner(Element(u"title"_s, m_item.productName + u' ' + shown)),
+                          Inner(Element(u"pubDate"_s, DateText(m_item.publishedAt)))};
         if (!m_item.minimumSystemVersion.isEmpty())
         {
-            lines << Inner(Element(m_feed + QStringLiteral("minimumSystemVersion"), m_item.minimumSystemVersion));
+            lines << Inner(Element(m_feed + u"minimumSystemVersion"_s, m_item.minimumSystemVersion));
         }
         for (ReleaseNotes const& notes : m_item.notes)
         {
-            QString const language =
-                notes.language.isEmpty() ? QString() : Attribute(QStringLiteral("xml:lang"), notes.language);
-            lines << Inner(QStringLiteral("<description%1>%2</description>").arg(language, CharacterData(notes.html)));
+            QString const language = notes.language.isEmpty() ? QString() : Attribute(u"xml:lang"_s, notes.language);
+            lines << Inner(u"<description%1>%2</description>"_s.arg(language, CharacterData(notes.html)));
         }
         lines << Inner(EnclosureText());
         if (m_item.recompressed)
         {
-            lines << Inner(Enclosure(QStringLiteral("pelnar:recompressed"), m_item.recompressed->fileName, {},
-                                     m_item.recompressed->signature));
+            lines << Inner(
+                Enclosure(u"pelnar:recompressed"_s, m_item.recompressed->fileName, {}, m_item.recompressed->signature));
         }
         if (!m_item.deltas.empty())
         {
-            lines << Inner(QStringLiteral("<%1deltas>").arg(m_feed));
+            lines << Inner(u"<%1deltas>"_s.arg(m_feed));
             for (NewDelta const& delta : m_item.deltas)
             {
                 lines << Inner(Inner(DeltaText(delta)));
             }
-            lines << Inner(QStringLiteral("</%1deltas>").arg(m_feed));
+            lines << Inner(u"</%1deltas>"_s.arg(m_feed));
         }
         lines << Inner(KeysText());
-        return lines << QStringLiteral("</item>");
+        return lines << u"</item>"_s;
     }
 
 private:
-    static QString Inner(QString const& line) { return QStringLiteral("  ") + line; }
+    static QString Inner(QString const& line) { return u"  "_s + line; }
 
     QString KeysText() const
     {
-        QString const trusted = m_item.trustedIds.isEmpty()
-                                    ? QString()
-                                    : Attribute(QStringLiteral("trusted"), m_item.trustedIds.join(QLatin1Char(' ')));
-        return QStringLiteral("<pelnar:keys xmlns:pelnar=\"%1\"%2%3/>")
-            .arg(QLatin1String(Engine::OWN_FEED_NAMESPACE), Attribute(QStringLiteral("signer"), m_item.signerId),
-                 trusted);
+        QString const trusted =
+            m_item.trustedIds.isEmpty() ? QString() : Attribute(u"trusted"_s, m_item.trustedIds.join(u' '));
+        return u"<pelnar:keys xmlns:pelnar=\"%1\"%2%3/>"_s.arg(QLatin1String(Engine::OWN_FEED_NAMESPACE),
+                                                               Attribute(u"signer"_s, m_item.signerId), trusted);
     }
 
     QString EnclosureText() const
@@ -130,45 +125,40 @@ private:
         QString more;
         if (!m_item.displayVersion.isEmpty())
         {
-            more += Attribute(m_feed + QStringLiteral("shortVersionString"), m_item.displayVersion);
+            more += Attribute(m_feed + u"shortVersionString"_s, m_item.displayVersion);
         }
         if (char const* const type = InstallationType(m_item.kind))
         {
-            more += Attribute(m_feed + QStringLiteral("installationType"), QLatin1String(type));
+            more += Attribute(m_feed + u"installationType"_s, QLatin1String(type));
         }
-        return Enclosure(QStringLiteral("enclosure"), m_item.fileName, more, m_item.signature);
+        return Enclosure(u"enclosure"_s, m_item.fileName, more, m_item.signature);
     }
 
     QString DeltaText(NewDelta const& delta) const
     {
-        return Enclosure(QStringLiteral("enclosure"), delta.fileName,
-                         Attribute(m_feed + QStringLiteral("deltaFrom"), delta.baseVersion), delta.signature);
+        return Enclosure(u"enclosure"_s, delta.fileName, Attribute(m_feed + u"deltaFrom"_s, delta.baseVersion),
+                         delta.signature);
     }
 
     QString Enclosure(QString const& element, QString const& fileName, QString const& more,
                       ArchiveSignature const& signature) const
     {
-        QString const platform = Attribute(m_feed + QStringLiteral("os"), QLatin1String(PlatformName(m_item.platform)));
-        QString const machine = m_item.machines.isEmpty() ? QString()
-                                                          : Attribute(QStringLiteral("pelnar:machine"),
-                                                                      m_item.machines.join(QLatin1Char(' ')));
-        bool const isOwn = element != QLatin1String("enclosure") || !machine.isEmpty() || !signature.all.empty();
-        QString const own =
-            isOwn ? Attribute(QStringLiteral("xmlns:pelnar"), QLatin1String(Engine::OWN_FEED_NAMESPACE)) : QString();
-        return QStringLiteral("<") + element +
-               Attribute(QStringLiteral("url"),
-                         m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +
-               Attribute(m_feed + QStringLiteral("version"), m_item.versionText) + more + platform + own + machine +
-               Attribute(QStringLiteral("length"), QString::number(signature.length)) +
-               Attribute(QStringLiteral("type"), QStringLiteral("application/octet-stream")) +
-               Attribute(m_feed + QStringLiteral("edSignature"), signature.signature) + MoreSignatures(signature) +
-               QStringLiteral("/>");
+        QString const platform = Attribute(m_feed + u"os"_s, QLatin1String(PlatformName(m_item.platform)));
+        QString const machine =
+            m_item.machines.isEmpty() ? QString() : Attribute(u"pelnar:machine"_s, m_item.machines.join(u' '));
+        bool const isOwn = element != "enclosure"_l || !machine.isEmpty() || !signature.all.empty();
+        QString const own = isOwn ? Attribute(u"xmlns:pelnar"_s, QLatin1String(Engine::OWN_FEED_NAMESPACE)) : QString();
+        return u"<"_s + element +
+               Attribute(u"url"_s, m_address.Of(fileName, m_item.versionText).toString(QUrl::FullyEncoded)) +
+               Attribute(m_feed + u"version"_s, m_item.versionText) + more + platform + own + machine +
+               Attribute(u"length"_s, QString::number(signature.length)) +
+               Attribute(u"type"_s, u"application/octet-stream"_s) +
+               Attribute(m_feed + u"edSignature"_s, signature.signature) + MoreSignatures(signature) + u"/>"_s;
     }
 
     static QString MoreSignatures(ArchiveSignature const& signature)
     {
-        return signature.all.empty() ? QString()
-                                     : Attribute(QStringLiteral("pelnar:signatures"), TextOf(signature.all));
+        return signature.all.empty() ? QString() : Attribute(u"pelnar:signatures"_s, TextOf(signature.all));
     }
 
     NewItem const& m_item;
@@ -180,34 +170,29 @@ private:
 
 DownloadAddress DownloadAddress::UnderPrefix(QString const& prefix)
 {
-    bool const hasBraces = prefix.contains(QLatin1Char('{'));
-    QString const slash = prefix.endsWith(QLatin1Char('/')) ? QString() : QStringLiteral("/");
-    return DownloadAddress(QStringLiteral("--url-prefix: \"%1\"").arg(prefix),
-                           hasBraces ? QString() : prefix + slash + FILE_PLACE);
+    bool const hasBraces = prefix.contains(u'{');
+    QString const slash = prefix.endsWith(u'/') ? QString() : u"/"_s;
+    return DownloadAddress(u"--url-prefix: \"%1\""_s.arg(prefix), hasBraces ? QString() : prefix + slash + FILE_PLACE);
 }
 
 DownloadAddress DownloadAddress::ByPattern(QString const& pattern)
 {
-    return DownloadAddress(QStringLiteral("--url-template: \"%1\"").arg(pattern), pattern);
+    return DownloadAddress(u"--url-template: \"%1\""_s.arg(pattern), pattern);
 }
 
 DownloadAddress::DownloadAddress(QString option, QString pattern) : m_pattern(std::move(pattern))
 {
-    QUrl const url = Of(QStringLiteral("file"), QStringLiteral("1"));
-    bool const isSecure = url.scheme() == QLatin1String("https");
-    bool const isForDryRun = url.scheme() == QLatin1String("http") && Engine::IsLoopback(url);
+    QUrl const url = Of(u"file"_s, u"1"_s);
+    bool const isSecure = url.scheme() == "https"_l;
+    bool const isForDryRun = url.scheme() == "http"_l && Engine::IsLoopback(url);
     bool const isPlain = url.userInfo().isEmpty() && !url.hasQuery() && !url.hasFragment();
     bool const isComplete = m_pattern.count(FILE_PLACE) == 1 && m_pattern.endsWith(FILE_PLACE) &&
-                            !url.toString().contains(QLatin1Char('{')) &&
-                            !url.toString().contains(QLatin1String("%7B"));
+                            !url.toString().contains(u'{') && !url.toString().contains("%7B"_l);
     if (!url.isValid() || url.host().isEmpty() || !isPlain || !isComplete || !(isSecure || isForDryRun))
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       option + QStringLiteral(" is no place that clients download from"),
-                       QStringLiteral("give an address such as https://updates.example.com/app/ (http only for this "
-                                      "computer), or as a template https://updates.example.com/{version}/{file}")});
+        throw Refusal({option + u" is no place that clients download from"_s,
+                       u"give an address such as https://updates.example.com/app/ (http only for this "
+                       "computer), or as a template https://updates.example.com/{version}/{file}"_s});
     }
 }
 
@@ -222,21 +207,21 @@ QUrl DownloadAddress::Of(QString const& fileName, QString const& version) const
 QUrl DownloadAddress::OfFeed(QString const& fileName) const
 {
     bool const isFolder = !m_pattern.contains(VERSION_PLACE);
-    return isFolder ? Of(fileName, {}) : Of({}, {}).resolved(QUrl(QLatin1Char('/') + fileName));
+    return isFolder ? Of(fileName, {}) : Of({}, {}).resolved(QUrl(u'/' + fileName));
 }
 
 QString ItemText(NewItem const& item, DownloadAddress const& address, QString const& feedPrefix,
                  QString const& indentation)
 {
-    return ItemWriter(item, address, feedPrefix).Lines().join(QLatin1Char('\n') + indentation);
+    return ItemWriter(item, address, feedPrefix).Lines().join(u'\n' + indentation);
 }
 
 QString EmptyFeedText(QString const& title, QString const& link)
 {
-    return QStringLiteral("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<rss version=\"2.0\" xmlns:sparkle=\"%1\">\n"
-                          "  <channel>\n    %2\n    %3\n    %4\n  </channel>\n</rss>\n")
-        .arg(FEED_NAMESPACE, Element(QStringLiteral("title"), title), Element(QStringLiteral("link"), link),
-             Element(QStringLiteral("description"), QStringLiteral("Updates of ") + title));
+    return u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<rss version=\"2.0\" xmlns:sparkle=\"%1\">\n"
+           "  <channel>\n    %2\n    %3\n    %4\n  </channel>\n</rss>\n"_s.arg(
+               FEED_NAMESPACE, Element(u"title"_s, title), Element(u"link"_s, link),
+               Element(u"description"_s, u"Updates of "_s + title));
 }
 
 } // namespace Pelnar::Publisher

@@ -36,18 +36,17 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     Engine::FeedItem const& item = *published.item;
     QString const path = m_workplace.PathOf(published.archive.fileName);
     InputFile const file = OpenInputFile(path);
-    QString const mend = QStringLiteral("put the published file back, and give a changed one a new version and name");
+    QString const mend = u"put the published file back, and give a changed one a new version and name"_s;
     if (file.size != item.contentLength)
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("is of %1 bytes, but is published with %2 (line %3 of the feed)")
-                           .arg(file.size)
+        throw Refusal({path,
+                       u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
                            .arg(item.contentLength)
                            .arg(item.line),
                        mend},
                       RefusalCause::Content);
     }
-    Progress bar(m_workplace.console.err, QStringLiteral("Verifying"));
+    Progress bar(m_workplace.console.err, u"Verifying"_s);
     bar.Show(0, 1); // the verdict comes at once
     std::vector<std::string> keys = m_workplace.publicKeys;
     keys.insert(keys.begin(), m_workplace.key.PublicKeyText().toStdString());
@@ -58,11 +57,10 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     }
     if (!signer)
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("does not bear the published signature (line %1 of the feed) by this key or by "
-                                      "any that a bundle at hand trusts")
-                           .arg(item.line),
-                       mend + QStringLiteral("; what another key signed needs that key as --public-key")},
+        throw Refusal({path,
+                       u"does not bear the published signature (line %1 of the feed) by this key or by "
+                       "any that a bundle at hand trusts"_s.arg(item.line),
+                       mend + u"; what another key signed needs that key as --public-key"_s},
                       RefusalCause::Content);
     }
     m_signerIds[published.archive.fileName] = KeyIdOf(*signer);

@@ -13,7 +13,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 constexpr char BYTE_ORDER_MARK[] = "\xEF\xBB\xBF";
 constexpr Engine::FeedPlatform PLATFORMS[] = {Engine::FeedPlatform::MacOS, Engine::FeedPlatform::Linux};
 
@@ -38,8 +38,8 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
     }
     if ((m_hasMark ? BYTE_ORDER_MARK + m_text.toUtf8() : m_text.toUtf8()) != m_bytes)
     {
-        throw Refusal({m_name, 1, 0, QStringLiteral("is not UTF-8, and only such feeds are added to"),
-                       QStringLiteral("convert the feed to UTF-8")});
+        throw Refusal(
+            {m_name, 1, 0, u"is not UTF-8, and only such feeds are added to"_s, u"convert the feed to UTF-8"_s});
     }
     FindItems();
 }
@@ -50,7 +50,7 @@ void PublishedFeed::TakeItems(Engine::FeedTarget const& target, QUrl const& addr
     if (!feed)
     {
         throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                       QStringLiteral("mend the feed, or move it away to begin a new one")});
+                       u"mend the feed, or move it away to begin a new one"_s});
     }
     for (Engine::FeedItem const& item : feed->items)
     {
@@ -90,9 +90,9 @@ void PublishedFeed::FindItems()
                     m_feedPrefix = declaration.prefix().toString();
                 }
             }
-            if (path.size() == 3 && path.last() == QLatin1String("item"))
+            if (path.size() == 3 && path.last() == "item"_l)
             {
-                int const start = m_text.lastIndexOf(QLatin1Char('<'), offset - 1);
+                int const start = m_text.lastIndexOf(u'<', offset - 1);
                 for (PublishedItem& item : m_items)
                 {
                     bool const isThis = item.item.line == int(reader.lineNumber()) &&
@@ -104,21 +104,21 @@ void PublishedFeed::FindItems()
         }
         else if (token == QXmlStreamReader::EndElement)
         {
-            if (path.size() == 3 && path.last() == QLatin1String("item"))
+            if (path.size() == 3 && path.last() == "item"_l)
             {
                 m_itemsEnd = offset;
             }
-            else if (path.size() == 2 && path.last() == QLatin1String("channel"))
+            else if (path.size() == 2 && path.last() == "channel"_l)
             {
-                channelEnd = m_text.lastIndexOf(QLatin1Char('<'), offset - 1);
+                channelEnd = m_text.lastIndexOf(u'<', offset - 1);
             }
             path.removeLast();
         }
     }
-    if (channelEnd < 0 || m_text.midRef(channelEnd, 2) != QLatin1String("</"))
+    if (channelEnd < 0 || m_text.midRef(channelEnd, 2) != "</"_l)
     {
-        throw Refusal({m_name, 1, 0, QStringLiteral("has no channel that items could be added to"),
-                       QStringLiteral("write <rss><channel> and </channel></rss> around the items")});
+        throw Refusal({m_name, 1, 0, u"has no channel that items could be added to"_s,
+                       u"write <rss><channel> and </channel></rss> around the items"_s});
     }
     if (m_firstItem < 0)
     {
@@ -133,10 +133,10 @@ void PublishedFeed::FindItems()
 
 QString PublishedFeed::Indentation() const
 {
-    int const lineStart = m_text.lastIndexOf(QLatin1Char('\n'), m_firstItem) + 1;
+    int const lineStart = m_text.lastIndexOf(u'\n', m_firstItem) + 1;
     QString const before = m_firstItem < 0 ? QString() : m_text.mid(lineStart, m_firstItem - lineStart);
     bool const isBlank = std::all_of(before.begin(), before.end(), [](QChar c) { return c.isSpace(); });
-    return m_firstItem >= 0 && isBlank ? before : QStringLiteral("    ");
+    return m_firstItem >= 0 && isBlank ? before : u"    "_s;
 }
 
 int PublishedFeed::PlaceFor(Core::Version const& version) const
@@ -159,13 +159,13 @@ QByteArray PublishedFeed::With(std::vector<Addition> const& additions) const
     {
         return m_bytes;
     }
-    QString const lineEnd = m_text.contains(QLatin1String("\r\n")) ? QStringLiteral("\r\n") : QStringLiteral("\n");
+    QString const lineEnd = m_text.contains("\r\n"_l) ? u"\r\n"_s : u"\n"_s;
     QString const between = lineEnd + Indentation();
     std::vector<std::pair<int, QString>> pieces; // by place; those of one place in their order
     for (Addition const& addition : additions)
     {
         QString text = addition.text;
-        text.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(QLatin1String("\n"), lineEnd);
+        text.replace("\r\n"_l, "\n"_l).replace("\n"_l, lineEnd);
         int const place = PlaceFor(addition.version);
         pieces.emplace_back(place < 0 ? m_itemsEnd : place, place < 0 ? between + text : text + between);
     }

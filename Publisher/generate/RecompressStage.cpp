@@ -45,19 +45,19 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     QString const path = m_workplace.PathOf(fileName);
     if (QFileInfo::exists(path))
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is there already"), QStringLiteral("remove it")});
+        throw Refusal({path, u"is there already"_s, u"remove it"_s});
     }
     BundleTree const bundle = m_workplace.Unpack(item.fileName);
     auto file = std::make_unique<AtomicFile>(path);
     {
-        Progress bar(m_workplace.console.err, QStringLiteral("Packing ") + fileName);
+        Progress bar(m_workplace.console.err, u"Packing "_s + fileName);
         LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));
     }
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.signature.length))
     {
-        m_workplace.Warn(path, QStringLiteral("not published: saves less than a tenth of the archive"),
-                         QStringLiteral("nothing is to be done; clients take the archive"));
+        m_workplace.Warn(path, u"not published: saves less than a tenth of the archive"_s,
+                         u"nothing is to be done; clients take the archive"_s);
         return;
     }
     // Clients must get the very bundle that was judged.
@@ -65,8 +65,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     if (again.Name() != bundle.Name() ||
         Engine::DigestTree(again.Descriptor()) != Engine::DigestTree(bundle.Descriptor()))
     {
-        throw Refusal({path, 0, 0, QStringLiteral("holds another bundle than %1").arg(item.fileName),
-                       QStringLiteral("leave out --recompress")});
+        throw Refusal({path, u"holds another bundle than %1"_s.arg(item.fileName), u"leave out --recompress"_s});
     }
     item.recompressed = NewArchive{fileName, m_workplace.Sign(made)};
     m_made.push_back(std::move(file));

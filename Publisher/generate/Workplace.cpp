@@ -24,13 +24,13 @@ bool IsSameFile(QUrl const& a, QUrl const& b)
 
 BundleTree Workplace::Unpack(QString const& fileName) const
 {
-    Progress bar(console.err, QStringLiteral("Unpacking ") + fileName);
+    Progress bar(console.err, u"Unpacking "_s + fileName);
     return BundleTree::Unpack(OpenInputFile(PathOf(fileName)), BarFor(bar));
 }
 
 ArchiveSignature Workplace::Sign(QString const& fileName) const
 {
-    Progress bar(console.err, QStringLiteral("Signing ") + fileName);
+    Progress bar(console.err, u"Signing "_s + fileName);
     bar.Show(0, 1); // the signature is made at once
     return Sign(OpenInputFile(PathOf(fileName)));
 }
@@ -47,8 +47,8 @@ ArchiveSignature Workplace::Sign(InputFile const& archive) const
 
 void Workplace::Warn(QString const& path, QString const& what, QString const& mend) const
 {
-    console.err.stream << console.err.Styled(Emphasis::Warning, QStringLiteral("warning: "))
-                       << TextOf({path, 0, 0, what, mend}).toStdString() << '\n';
+    console.err.stream << console.err.Styled(Emphasis::Warning, u"warning: "_s)
+                       << TextOf({path, what, mend}).toStdString() << '\n';
 }
 
 QString Workplace::KeyId() const

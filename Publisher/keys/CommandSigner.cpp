@@ -24,7 +24,7 @@ constexpr int MOST_OUTPUT_BYTES = 4096;
 
 [[noreturn]] void RefuseSigner(QString const& what, QString const& mend)
 {
-    throw Refusal({QStringLiteral("--signer"), 0, 0, what, mend});
+    throw Refusal({u"--signer"_s, what, mend});
 }
 
 /// The words of \a command, as a shell splits it; no command is run to make them.
@@ -35,8 +35,8 @@ QStringList WordsOf(QString const& command)
     std::unique_ptr<wordexp_t, void (*)(wordexp_t*)> const owner(&words, &::wordfree);
     if (fault != 0)
     {
-        RefuseSigner(QStringLiteral("\"%1\" is not the line of one command").arg(Printable(command.left(200))),
-                     QStringLiteral("close every quote, set every variable, and put what has pipes into a script"));
+        RefuseSigner(u"\"%1\" is not the line of one command"_s.arg(Printable(command.left(200))),
+                     u"close every quote, set every variable, and put what has pipes into a script"_s);
     }
     QStringList texts;
     for (std::size_t i = 0; i < words.we_wordc; ++i)
@@ -54,11 +54,10 @@ std::string SignatureIn(QByteArray const& output)
     Engine::Ed25519SignatureBytes signature;
     if (Engine::ParseSignature(text.toStdString(), signature) != Engine::UpdateFault::None)
     {
-        RefuseSigner(output.isEmpty()
-                         ? QStringLiteral("the program printed nothing")
-                         : QStringLiteral("the program printed %1 bytes that are no signature").arg(output.size()),
-                     QStringLiteral("let it write the 64 bytes of the Ed25519 signature, or their base64, to standard "
-                                    "output, and everything else to standard error"));
+        RefuseSigner(output.isEmpty() ? u"the program printed nothing"_s
+                                      : u"the program printed %1 bytes that are no signature"_s.arg(output.size()),
+                     u"let it write the 64 bytes of the Ed25519 signature, or their base64, to standard "
+                     "output, and everything else to standard error"_s);
     }
     return text.toStdString();
 }
@@ -68,9 +67,8 @@ QByteArray OutputOf(QProcess& process)
 {
     if (!process.waitForStarted())
     {
-        RefuseSigner(
-            QStringLiteral("the program \"%1\" cannot be started: %2").arg(process.program(), process.errorString()),
-            QStringLiteral("give the command as you type it, with the path of its program"));
+        RefuseSigner(u"the program \"%1\" cannot be started: %2"_s.arg(process.program(), process.errorString()),
+                     u"give the command as you type it, with the path of its program"_s);
     }
     QByteArray output;
     auto const end = std::chrono::steady_clock::now() + LONGEST_RUN;
@@ -81,10 +79,9 @@ QByteArray OutputOf(QProcess& process)
         {
             process.kill();
             process.waitForFinished();
-            RefuseSigner(output.size() > MOST_OUTPUT_BYTES
-                             ? QStringLiteral("the program printed more than a signature")
-                             : QStringLiteral("the program did not end within ten minutes"),
-                         QStringLiteral("let it write the signature and end"));
+            RefuseSigner(output.size() > MOST_OUTPUT_BYTES ? u"the program printed more than a signature"_s
+                                                           : u"the program did not end within ten minutes"_s,
+                         u"let it write the signature and end"_s);
         }
     };
     while (process.state() != QProcess::NotRunning)
@@ -103,15 +100,15 @@ CommandSigner::CommandSigner(QString const& command, std::string publicKey)
 {
     if (m_command.isEmpty())
     {
-        RefuseSigner(QStringLiteral("names no program"), QStringLiteral("give the command as you type it"));
+        RefuseSigner(u"names no program"_s, u"give the command as you type it"_s);
     }
     if (KeyIdOf(m_publicKey).isEmpty())
     {
-        throw Refusal({QStringLiteral("--signer-key"), 0, 0,
-                       m_publicKey.empty() ? QStringLiteral("is required with --signer")
-                                           : QStringLiteral("\"%1\" is no Ed25519 key")
-                                                 .arg(Printable(QString::fromStdString(m_publicKey).left(60))),
-                       QStringLiteral("give the public key of the program that signs, 32 bytes in base64")});
+        throw Refusal({u"--signer-key"_s,
+                       m_publicKey.empty()
+                           ? u"is required with --signer"_s
+                           : u"\"%1\" is no Ed25519 key"_s.arg(Printable(QString::fromStdString(m_publicKey).left(60))),
+                       u"give the public key of the program that signs, 32 bytes in base64"_s});
     }
 }
 
@@ -126,25 +123,23 @@ std::string CommandSigner::Run(int descriptor, QString const& name) const
     process.setProgram(m_command.first());
     process.setArguments(m_command.mid(1));
     // Opened once more: the program reads from the beginning, and no other process can put another file there.
-    process.setStandardInputFile(QStringLiteral("/proc/self/fd/%1").arg(descriptor));
+    process.setStandardInputFile(u"/proc/self/fd/%1"_s.arg(descriptor));
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QIODevice::ReadOnly);
     QByteArray const output = OutputOf(process);
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0)
     {
         RefuseSigner(process.exitStatus() != QProcess::NormalExit
-                         ? QStringLiteral("the program was ended by a signal")
-                         : QStringLiteral("the program failed with exit status %1").arg(process.exitCode()),
-                     QStringLiteral("see what it said, and run this again"));
+                         ? u"the program was ended by a signal"_s
+                         : u"the program failed with exit status %1"_s.arg(process.exitCode()),
+                     u"see what it said, and run this again"_s);
     }
     std::string signature = SignatureIn(output);
     if (Engine::VerifyFileSignature(descriptor, signature, {m_publicKey}) != Engine::UpdateFault::None)
     {
-        RefuseSigner(
-            QStringLiteral("what the program printed is no signature of %1 by the key %2")
-                .arg(name, KeyIdOf(m_publicKey)),
-            QStringLiteral("check which key the program signs with, and that it signs the bytes themselves, not "
-                           "their hash"));
+        RefuseSigner(u"what the program printed is no signature of %1 by the key %2"_s.arg(name, KeyIdOf(m_publicKey)),
+                     u"check which key the program signs with, and that it signs the bytes themselves, not "
+                     "their hash"_s);
     }
     return signature;
 }
@@ -162,9 +157,9 @@ std::string CommandSigner::SignatureOf(QByteArray const& message) const
         !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<unsigned char const*>(message.constData()),
                                                     std::size_t(message.size()))))
     {
-        RefuseFile(QStringLiteral("the feed"), QStringLiteral("cannot be handed to the program"), errno, {});
+        RefuseFile(u"the feed"_s, u"cannot be handed to the program"_s, errno, {});
     }
-    return Run(file.Get(), QStringLiteral("the feed"));
+    return Run(file.Get(), u"the feed"_s);
 }
 
 } // namespace Pelnar::Publisher

@@ -26,9 +26,9 @@ QString EntryOf(QString const& publicKey, PublicKeyForm form)
     switch (form)
     {
     case PublicKeyForm::Xml:
-        return QStringLiteral("<key>SUPublicEDKey</key>\n<string>%1</string>").arg(publicKey);
+        return u"<key>SUPublicEDKey</key>\n<string>%1</string>"_s.arg(publicKey);
     case PublicKeyForm::Gnustep:
-        return QStringLiteral("SUPublicEDKey = \"%1\";").arg(publicKey);
+        return u"SUPublicEDKey = \"%1\";"_s.arg(publicKey);
     case PublicKeyForm::Bare:
         break;
     }
@@ -95,11 +95,8 @@ ExitStatus Export(Console const& console, SigningKey const& key, KeyForm form, b
 {
     if (console.out.isTerminal && !isTerminalWanted)
     {
-        return console.Refuse({{},
-                               0,
-                               0,
-                               QStringLiteral("the private key would stand on this terminal"),
-                               QStringLiteral("hand it to another program or a file, or say --to-terminal")});
+        return console.Refuse({u"the private key would stand on this terminal"_s,
+                               u"hand it to another program or a file, or say --to-terminal"_s});
     }
     SecretBytes const text = key.SecretText(form);
     console.out.stream.write(reinterpret_cast<char const*>(text.Data()), std::streamsize(text.Size() - 1));

@@ -65,7 +65,7 @@ RotationState StateOf(ParsedFeed const& feed, Options const& options)
 
 QString NamesOf(QStringList const& versions)
 {
-    return versions.join(QStringLiteral(", "));
+    return versions.join(u", "_s);
 }
 
 class Guide
@@ -78,21 +78,16 @@ public:
         bool const isDone = !doneBy.isEmpty();
         bool const isNext = !isDone && !m_hasNext;
         m_hasNext = m_hasNext || isNext;
-        QString const state = isDone               ? QStringLiteral("done")
-                              : !isNext            ? QStringLiteral("later")
-                              : waitsFor.isEmpty() ? QStringLiteral("now")
-                                                   : QStringLiteral("wait");
-        m_console.Print(QStringLiteral("%1. %2: %3%4")
-                            .arg(++m_count)
-                            .arg(state, what, isDone ? QStringLiteral(" (%1)").arg(NamesOf(doneBy)) : QString()));
+        QString const state = isDone ? u"done"_s : !isNext ? u"later"_s : waitsFor.isEmpty() ? u"now"_s : u"wait"_s;
+        m_console.Print(
+            u"%1. %2: %3%4"_s.arg(++m_count).arg(state, what, isDone ? u" (%1)"_s.arg(NamesOf(doneBy)) : QString()));
         if (!isDone && !waitsFor.isEmpty())
         {
-            m_console.Print(QStringLiteral("   must be gone first, since they trust the old key only: ") +
-                            NamesOf(waitsFor));
+            m_console.Print(u"   must be gone first, since they trust the old key only: "_s + NamesOf(waitsFor));
         }
         if (!isDone && !more.isEmpty())
         {
-            m_console.Print(QStringLiteral("   ") + more);
+            m_console.Print(u"   "_s + more);
         }
     }
 
@@ -105,25 +100,24 @@ private:
 void Print(RotationState const& state, Console const& console)
 {
     Guide guide(console);
-    guide.Step(QStringLiteral("publish a version that is signed by the old key and whose bundle trusts both keys"),
-               state.bridges, {},
-               QStringLiteral("the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"));
+    guide.Step(u"publish a version that is signed by the old key and whose bundle trusts both keys"_s, state.bridges,
+               {}, u"the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"_s);
     guide.Step(
-        QStringLiteral("sign the next version with the new key; its bundle still trusts both keys"), state.byNewKey, {},
-        state.onlyOld.isEmpty() || state.bridges.isEmpty() ? QString()
-                                                           : QStringLiteral("%1 take %2 first, which stays in the feed")
-                                                                 .arg(NamesOf(state.onlyOld), NamesOf(state.bridges)));
+        u"sign the next version with the new key; its bundle still trusts both keys"_s, state.byNewKey, {},
+        state.onlyOld.isEmpty() || state.bridges.isEmpty()
+            ? QString()
+            : u"%1 take %2 first, which stays in the feed"_s.arg(NamesOf(state.onlyOld), NamesOf(state.bridges)));
     if (state.isFeedSigned)
     {
-        guide.Step(QStringLiteral("sign the feed with the new key"),
-                   state.isFeedByNewKey ? QStringList(QStringLiteral("the feed")) : QStringList(), state.onlyOld);
+        guide.Step(u"sign the feed with the new key"_s,
+                   state.isFeedByNewKey ? QStringList(u"the feed"_s) : QStringList(), state.onlyOld);
     }
-    guide.Step(QStringLiteral("publish a version whose bundle trusts the new key only"), state.withoutOld,
+    guide.Step(u"publish a version whose bundle trusts the new key only"_s, state.withoutOld,
                state.isFeedSigned && !state.isFeedByNewKey ? state.onlyOld : QStringList());
-    guide.Step(QStringLiteral("destroy the old private key"), {}, state.onlyOld);
+    guide.Step(u"destroy the old private key"_s, {}, state.onlyOld);
     if (!state.unknown.isEmpty())
     {
-        console.Print(QStringLiteral("The feed does not say which keys these trust; count them as the old key's: ") +
+        console.Print(u"The feed does not say which keys these trust; count them as the old key's: "_s +
                       NamesOf(state.unknown));
     }
 }
@@ -132,8 +126,7 @@ ExitStatus Rotate(Options const& options, Console const& console)
 {
     if (options.oldKey == options.newKey)
     {
-        throw Refusal({QStringLiteral("--to"), 0, 0, QStringLiteral("is the same key as --from"),
-                       QStringLiteral("make a new key with \"keys generate\"")});
+        throw Refusal({u"--to"_s, u"is the same key as --from"_s, u"make a new key with \"keys generate\""_s});
     }
     ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString(),
                                       PlatformFromName(QString::fromStdString(options.platform)), console);

@@ -27,7 +27,7 @@ ExitStatus Verify(Console const& console, QString const& archiveName, std::strin
     Engine::UpdateFault const verdict = Engine::VerifyFileSignature(archive.descriptor.Get(), signature, publicKeys);
     if (verdict == Engine::UpdateFault::None)
     {
-        console.Print(QStringLiteral("%1: signed, %2 bytes").arg(archiveName).arg(archive.size));
+        console.Print(u"%1: signed, %2 bytes"_s.arg(archiveName).arg(archive.size));
         return ExitStatus::Clean;
     }
     if (!IsVerdict(verdict))
@@ -57,7 +57,7 @@ void AddSign(CLI::App& program, VerbContext& context)
             {
                 InputFile const archive = OpenInputFile(QString::fromStdString(options->archive));
                 std::unique_ptr<ISigner> const signer = LoadSigner(options->signer);
-                Progress bar(context.console.err, QStringLiteral("Signing"));
+                Progress bar(context.console.err, u"Signing"_s);
                 bar.Show(0, 1); // the signature is made at once
                 context.console.Print(AttributesOf(signer->Sign(archive)));
                 return ExitStatus::Clean;

@@ -13,24 +13,23 @@ QString TextOf(std::vector<KeyedSignature> const& signatures)
     QStringList texts;
     for (KeyedSignature const& each : signatures)
     {
-        texts.append(each.keyId + QLatin1Char(':') + each.signature);
+        texts.append(each.keyId + u':' + each.signature);
     }
-    return texts.join(QLatin1Char(' '));
+    return texts.join(u' ');
 }
 
 QString AttributesOf(ArchiveSignature const& signature)
 {
-    return QStringLiteral("sparkle:edSignature=\"%1\" length=\"%2\"").arg(signature.signature).arg(signature.length);
+    return u"sparkle:edSignature=\"%1\" length=\"%2\""_s.arg(signature.signature).arg(signature.length);
 }
 
 void CheckArchiveSize(InputFile const& archive)
 {
     if (archive.size == 0 || archive.size > Engine::FeedLimits().maxContentLength)
     {
-        throw Refusal({archive.name, 0, 0,
-                       archive.size == 0 ? QStringLiteral("is empty")
-                                         : QStringLiteral("is larger than the 16 GiB that clients download"),
-                       QStringLiteral("give the archive that is to be published")},
+        throw Refusal({archive.name,
+                       archive.size == 0 ? u"is empty"_s : u"is larger than the 16 GiB that clients download"_s,
+                       u"give the archive that is to be published"_s},
                       RefusalCause::Content);
     }
 }
@@ -54,11 +53,9 @@ std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options)
     {
         QString const key = QLatin1String(options.keyOption);
         QString const command = QLatin1String(options.commandOption);
-        throw Refusal({QString(), 0, 0,
-                       options.keyFile.empty() ? QStringLiteral("%1 is required").arg(key)
-                                               : QStringLiteral("%1 and %2 cannot both sign").arg(key, command),
-                       QStringLiteral("give %1 with the file of the private key, or %2 with a program that signs")
-                           .arg(key, command)});
+        throw Refusal(
+            {options.keyFile.empty() ? u"%1 is required"_s.arg(key) : u"%1 and %2 cannot both sign"_s.arg(key, command),
+             u"give %1 with the file of the private key, or %2 with a program that signs"_s.arg(key, command)});
     }
     if (options.command.empty())
     {

@@ -25,13 +25,13 @@ constexpr std::size_t SEED_BYTES = crypto_sign_ed25519_SEEDBYTES;
 constexpr std::size_t SECRET_BYTES = crypto_sign_ed25519_SECRETKEYBYTES;
 constexpr std::size_t MOST_TEXT_BYTES = 256; ///< of a key's file
 constexpr auto BASE64 = sodium_base64_VARIANT_ORIGINAL;
-QString const STANDARD_INPUT = QStringLiteral("-");
+QString const STANDARD_INPUT = u"-"_s;
 
 void StartLibrary()
 {
     if (::sodium_init() < 0)
     {
-        throw Refusal({{}, 0, 0, QStringLiteral("the cryptography library does not start"), {}});
+        throw Refusal({u"the cryptography library does not start"_s, {}});
     }
 }
 
@@ -47,24 +47,21 @@ void CheckKeyFile(int descriptor, QString const& path)
     struct stat status;
     if (::fstat(descriptor, &status) != 0)
     {
-        RefuseFile(path, QStringLiteral("cannot be read"), errno, {});
+        RefuseFile(path, u"cannot be read"_s, errno, {});
     }
     if (!S_ISREG(status.st_mode))
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is no plain file"),
-                       QStringLiteral("name the private key's own file, or \"-\" for standard input")});
+        throw Refusal({path, u"is no plain file"_s, u"name the private key's own file, or \"-\" for standard input"_s});
     }
     if (status.st_uid != ::geteuid())
     {
-        throw Refusal({path, 0, 0, QStringLiteral("belongs to another user"),
-                       QStringLiteral("make the file yours, and ask who has read it")});
+        throw Refusal({path, u"belongs to another user"_s, u"make the file yours, and ask who has read it"_s});
     }
     if ((status.st_mode & 077) != 0)
     {
-        throw Refusal({path, 0, 0,
-                       QStringLiteral("others may read this private key (mode %1)")
-                           .arg(status.st_mode & 07777, 4, 8, QLatin1Char('0')),
-                       QStringLiteral("chmod 600 the file, and consider whether the key is still a secret")});
+        throw Refusal({path,
+                       u"others may read this private key (mode %1)"_s.arg(status.st_mode & 07777, 4, 8, QChar(u'0')),
+                       u"chmod 600 the file, and consider whether the key is still a secret"_s});
     }
 }
 
@@ -73,24 +70,20 @@ Engine::UniqueFd OpenKeyFile(QString const& path)
     if (LooksLikeKey(path))
     {
         // Deliberate: not printed, it would stand in one more place.
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("a private key is never an argument: every user can list arguments"),
-                       QStringLiteral("put it in a file of mode 0600 or on standard input (\"-\"), and make a new key "
-                                      "if others use this computer")});
+        throw Refusal({u"a private key is never an argument: every user can list arguments"_s,
+                       u"put it in a file of mode 0600 or on standard input (\"-\"), and make a new key "
+                       "if others use this computer"_s});
     }
     int const flags = O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
     Engine::UniqueFd descriptor(::open(QFile::encodeName(path).constData(), flags));
     if (!descriptor && errno == ELOOP)
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is a link, which may lead anywhere tomorrow"),
-                       QStringLiteral("name the private key's own file")});
+        throw Refusal({path, u"is a link, which may lead anywhere tomorrow"_s, u"name the private key's own file"_s});
     }
     if (!descriptor)
     {
-        RefuseFile(path, QStringLiteral("the private key cannot be read"), errno,
-                   QStringLiteral("check the name, or make a key with \"keys generate\""));
+        RefuseFile(path, u"the private key cannot be read"_s, errno,
+                   u"check the name, or make a key with \"keys generate\""_s);
     }
     CheckKeyFile(descriptor.Get(), path);
     return descriptor;
@@ -104,13 +97,12 @@ std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
     {
         if (size == text.Size())
         {
-            throw Refusal({name, 0, 0, QStringLiteral("is too long for a private key"),
-                           QStringLiteral("give a file made by \"keys generate\"")});
+            throw Refusal({name, u"is too long for a private key"_s, u"give a file made by \"keys generate\""_s});
         }
         ssize_t const count = ::read(descriptor, text.Data() + size, text.Size() - size);
         if (count < 0 && errno != EINTR)
         {
-            RefuseFile(name, QStringLiteral("the private key cannot be read"), errno, {});
+            RefuseFile(name, u"the private key cannot be read"_s, errno, {});
         }
         if (count == 0)
         {
@@ -122,8 +114,8 @@ std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
 
 [[noreturn]] void RefuseKeyText(QString const& name)
 {
-    throw Refusal({name, 1, 0, QStringLiteral("is no private key"),
-                   QStringLiteral("a key is one line: 32 or 64 bytes in base64, as \"keys generate\" writes it")});
+    throw Refusal({name, 1, 0, u"is no private key"_s,
+                   u"a key is one line: 32 or 64 bytes in base64, as \"keys generate\" writes it"_s});
 }
 
 std::string SignatureText(SecretBytes const& secret, unsigned char const* bytes, std::size_t size)
@@ -169,8 +161,8 @@ SigningKey SigningKey::Load(QString const& path)
     if (path == STANDARD_INPUT)
     {
         // Past the streams of the program: their buffers are not wiped.
-        std::size_t const size = ReadSecret(STDIN_FILENO, QStringLiteral("<stdin>"), text);
-        return FromText(QStringLiteral("<stdin>"), text, size);
+        std::size_t const size = ReadSecret(STDIN_FILENO, u"<stdin>"_s, text);
+        return FromText(u"<stdin>"_s, text, size);
     }
     Engine::UniqueFd const file = OpenKeyFile(path);
     std::size_t const size = ReadSecret(file.Get(), path, text);
@@ -199,8 +191,8 @@ SigningKey SigningKey::FromText(QString const& name, SecretBytes const& text, st
     ::crypto_sign_ed25519_seed_keypair(publicKey.data(), secret.Data(), given.Data());
     if (givenSize == SECRET_BYTES && ::sodium_memcmp(given.Data(), secret.Data(), SECRET_BYTES) != 0)
     {
-        throw Refusal({name, 1, 0, QStringLiteral("the two halves of the key do not belong together"),
-                       QStringLiteral("fetch the key from its backup")});
+        throw Refusal(
+            {name, 1, 0, u"the two halves of the key do not belong together"_s, u"fetch the key from its backup"_s});
     }
     return SigningKey(std::move(secret));
 }
@@ -228,12 +220,12 @@ void SigningKey::Save(QString const& path) const
     Engine::UniqueFd const file(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!file && errno == EEXIST)
     {
-        throw Refusal({path, 0, 0, QStringLiteral("is there already; a lost private key cannot be made again"),
-                       QStringLiteral("name another file, or move this one away")});
+        throw Refusal({path, u"is there already; a lost private key cannot be made again"_s,
+                       u"name another file, or move this one away"_s});
     }
     if (!file)
     {
-        RefuseFile(path, QStringLiteral("cannot be made"), errno, QStringLiteral("check the folder"));
+        RefuseFile(path, u"cannot be made"_s, errno, u"check the folder"_s);
     }
     SecretBytes const text = SecretText(KeyForm::Seed);
     bool const isWritten = ::fchmod(file.Get(), 0600) == 0 &&
@@ -243,7 +235,7 @@ void SigningKey::Save(QString const& path) const
     {
         int const errorNumber = errno;
         ::unlink(name.constData());
-        RefuseFile(path, QStringLiteral("cannot be written"), errorNumber, QStringLiteral("check the disk"));
+        RefuseFile(path, u"cannot be written"_s, errorNumber, u"check the disk"_s);
     }
 }
 
@@ -253,7 +245,7 @@ ArchiveSignature SigningKey::Sign(InputFile const& archive) const
     Engine::FileMapping const mapping(archive.descriptor.Get(), archive.size);
     if (!mapping.IsValid())
     {
-        RefuseFile(archive.name, QStringLiteral("cannot be read"), errno, {});
+        RefuseFile(archive.name, u"cannot be read"_s, errno, {});
     }
     std::string const text = SignatureText(m_secret, mapping.Content().data(), mapping.Content().size());
     Engine::UpdateFault const verdict =

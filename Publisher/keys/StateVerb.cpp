@@ -34,10 +34,10 @@ std::vector<std::string> IdsOf(std::vector<std::string> const& texts)
         ids.push_back(Engine::IsKeyId(text) ? text : Engine::KeyIdOf(text));
         if (ids.back().empty())
         {
-            throw Refusal({QStringLiteral("--revoke"), 0, 0,
-                           QStringLiteral("\"%1\" is neither a key nor the id of one")
-                               .arg(Printable(QString::fromStdString(text).left(60))),
-                           QStringLiteral("give the public key in base64, or the 16 digits of its id")});
+            throw Refusal(
+                {u"--revoke"_s,
+                 u"\"%1\" is neither a key nor the id of one"_s.arg(Printable(QString::fromStdString(text).left(60))),
+                 u"give the public key in base64, or the 16 digits of its id"_s});
         }
     }
     return ids;
@@ -55,17 +55,14 @@ ExitStatus State(Options const& options, Console const& console)
     std::string const text = Engine::TextOf(statement);
     if (!Engine::ParseKeyStatement(text))
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("clients would not take this statement"),
-                       QStringLiteral("give a serial from 1, one bundle to eight, one or two valid keys, at most 64 "
-                                      "revoked ones, each once, and revoke no valid key")});
+        throw Refusal({u"clients would not take this statement"_s,
+                       u"give a serial from 1, one bundle to eight, one or two valid keys, at most 64 "
+                       "revoked ones, each once, and revoke no valid key"_s});
     }
     if (statement.validKeys.HasId(Engine::KeyIdOf(root->PublicKeyText().toStdString())))
     {
-        throw Refusal({QStringLiteral("--valid"), 0, 0, QStringLiteral("names the root key itself"),
-                       QStringLiteral("sign updates with another key, so that the root key stays offline")});
+        throw Refusal({u"--valid"_s, u"names the root key itself"_s,
+                       u"sign updates with another key, so that the root key stays offline"_s});
     }
     QByteArray const line = Engine::KeyStatementLine(text, root->SignatureOf(QByteArray::fromStdString(text)));
     console.out.stream.write(line.constData(), line.size());

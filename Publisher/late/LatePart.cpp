@@ -13,12 +13,9 @@ namespace
 
 [[noreturn]] void RefuseToLoad(QString const& reason)
 {
-    throw Refusal({{},
-                   0,
-                   0,
-                   QStringLiteral("a part of this program cannot be loaded: ") + reason,
-                   QStringLiteral("install the package pelnar-appcast again, and what it depends on (libcurl4, "
-                                  "libqt5network5, libarchive13)")});
+    throw Refusal({u"a part of this program cannot be loaded: "_s + reason,
+                   u"install the package pelnar-appcast again, and what it depends on (libcurl4, "
+                   "libqt5network5, libarchive13)"_s});
 }
 
 LatePart const& Load()
@@ -33,7 +30,7 @@ LatePart const& Load()
     }
     if (std::strcmp(part->version, PELNAR_VERSION) != 0)
     {
-        RefuseToLoad(QStringLiteral("it is of version ") + QString::fromLatin1(part->version));
+        RefuseToLoad(u"it is of version "_s + QString::fromLatin1(part->version));
     }
     return *part;
 }

@@ -117,7 +117,7 @@ private:
     {
         if (!isGood)
         {
-            RefuseFile(m_name, QStringLiteral("cannot be written"), errno, {});
+            RefuseFile(m_name, u"cannot be written"_s, errno, {});
         }
     }
 
@@ -135,7 +135,7 @@ private:
 
 [[noreturn]] void RefuseReading(fs::path const& path)
 {
-    RefuseFile(QString::fromStdString(path.string()), QStringLiteral("cannot be read"), errno, {});
+    RefuseFile(QString::fromStdString(path.string()), u"cannot be read"_s, errno, {});
 }
 
 void AddContent(TarWriter& tar, fs::path const& path, std::function<void(std::size_t)> const& done)

@@ -47,7 +47,7 @@ bool IsPrivate(Engine::NumericAddress const& address)
 bool IsNear(QUrl const& url)
 {
     QString host = url.host();
-    while (host.endsWith(QLatin1Char('.')))
+    while (host.endsWith(u'.'))
     {
         host.chop(1); // the root of all names
     }
@@ -56,7 +56,7 @@ bool IsNear(QUrl const& url)
         return IsPrivate(*address);
     }
     constexpr char const* ENDINGS[] = {".localhost", ".local", ".internal", ".lan", ".home.arpa"};
-    return (!host.isEmpty() && !host.contains(QLatin1Char('.'))) ||
+    return (!host.isEmpty() && !host.contains(u'.')) ||
            std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
                        [&](char const* ending) { return host.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
 }
@@ -67,8 +67,7 @@ bool IsWebPage(LintDownload const& download)
     QString const path = download.item->fileUrl.path();
     QString const type =
         download.enclosure ? download.enclosure->PlainAttribute("type").value_or(QString()).trimmed() : QString();
-    return path.isEmpty() || path.contains(QLatin1String("/releases/tag/")) ||
-           type.startsWith(QLatin1String("text/html"), Qt::CaseInsensitive) ||
+    return path.isEmpty() || path.contains("/releases/tag/"_l) || type.startsWith("text/html"_l, Qt::CaseInsensitive) ||
            std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
                        [&](char const* ending) { return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
 }
@@ -99,7 +98,7 @@ void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFi
 /// Of texts that hold addresses: the notes' markup and their link.
 void CheckNotesAddresses(LintElement const& item, LintFindings& findings)
 {
-    static QRegularExpression const LINK(QStringLiteral("(?:href|src)\\s*=\\s*[\"']?\\s*(file:[^\"'\\s>]*)"),
+    static QRegularExpression const LINK(u"(?:href|src)\\s*=\\s*[\"']?\\s*(file:[^\"'\\s>]*)"_s,
                                          QRegularExpression::CaseInsensitiveOption);
     for (LintElement const& child : item.children)
     {
@@ -136,8 +135,7 @@ void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& find
         if (version.IsValid() && other.IsValid() && !App::Session::IsSameVersion(version, other))
         {
             findings.Add(LintRule::SharedAddress, item.full.Place(),
-                         QStringLiteral("%1 is the address of %2 in line %3 as well")
-                             .arg(address, NameOf(*first->full.item))
+                         u"%1 is the address of %2 in line %3 as well"_s.arg(address, NameOf(*first->full.item))
                              .arg(first->full.Place().line));
         }
     }
@@ -153,7 +151,7 @@ QString WrittenAddress(LintDownload const& download)
 bool IsOfThisDisk(QString const& text)
 {
     static QRegularExpression const FORM(
-        QStringLiteral("^(file:|[a-z]:[\\\\/]|\\\\\\\\|~/|/(home|Users|root|tmp|mnt|media|Volumes|private|run)/)"),
+        u"^(file:|[a-z]:[\\\\/]|\\\\\\\\|~/|/(home|Users|root|tmp|mnt|media|Volumes|private|run)/)"_s,
         QRegularExpression::CaseInsensitiveOption);
     return FORM.match(text).hasMatch();
 }

@@ -28,8 +28,7 @@ void CheckStarts(LintElement const& item, LintFindings& findings)
         {
             if (enclosure.name.IsPlain("enclosure") && !enclosure.FeedAttribute("deltaFrom"))
             {
-                findings.Add(LintRule::DeltaFromMissing, enclosure.place,
-                             QStringLiteral("the delta has no sparkle:deltaFrom"));
+                findings.Add(LintRule::DeltaFromMissing, enclosure.place, u"the delta has no sparkle:deltaFrom"_s);
             }
         }
     }
@@ -42,8 +41,7 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
     Core::Version const from = VersionFromStringNoexcept(text);
     if (!from.IsValid())
     {
-        findings.Add(LintRule::DeltaFromUnreadable, delta.Place(),
-                     QStringLiteral("sparkle:deltaFrom is \"%1\"").arg(text));
+        findings.Add(LintRule::DeltaFromUnreadable, delta.Place(), u"sparkle:deltaFrom is \"%1\""_s.arg(text));
         return;
     }
     Core::Version const version = VersionFromStringNoexcept(delta.item->versionString);
@@ -51,14 +49,13 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
     Core::Version const whole = VersionFromStringNoexcept(itemVersion);
     if (version.IsValid() && whole.IsValid() && !IsSameVersion(version, whole))
     {
-        findings.Add(
-            LintRule::DeltaVersion, delta.Place(),
-            QStringLiteral("it makes version %1, and its item is of %2").arg(delta.item->versionString, itemVersion));
+        findings.Add(LintRule::DeltaVersion, delta.Place(),
+                     u"it makes version %1, and its item is of %2"_s.arg(delta.item->versionString, itemVersion));
     }
     if (version.IsValid() && !IsOlderVersion(from, version))
     {
         findings.Add(LintRule::DeltaFromNotOlder, delta.Place(),
-                     QStringLiteral("it leads from %1 to %2").arg(text, delta.item->versionString));
+                     u"it leads from %1 to %2"_s.arg(text, delta.item->versionString));
     }
     else if (std::none_of(items.begin(), items.end(),
                           [&](LintItem const& each)
@@ -67,14 +64,12 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
                               return base.IsValid() && IsSameVersion(base, from);
                           }))
     {
-        findings.Add(LintRule::DeltaBaseMissing, delta.Place(), QStringLiteral("no item has the version %1").arg(text));
+        findings.Add(LintRule::DeltaBaseMissing, delta.Place(), u"no item has the version %1"_s.arg(text));
     }
     if (item.full.item->contentLength != 0 && delta.item->contentLength >= item.full.item->contentLength)
     {
         findings.Add(LintRule::DeltaLargerThanFull, delta.Place(),
-                     QStringLiteral("%1 bytes, the whole is %2")
-                         .arg(delta.item->contentLength)
-                         .arg(item.full.item->contentLength));
+                     u"%1 bytes, the whole is %2"_s.arg(delta.item->contentLength).arg(item.full.item->contentLength));
     }
 }
 
@@ -93,8 +88,7 @@ void CheckRepetitions(LintItem const& item, LintFindings& findings)
         if (earlier != later)
         {
             findings.Add(LintRule::DeltaFromRepeated, later->Place(),
-                         QStringLiteral("it starts from %1, as the delta in line %2 does")
-                             .arg(later->item->deltaFrom)
+                         u"it starts from %1, as the delta in line %2 does"_s.arg(later->item->deltaFrom)
                              .arg(earlier->Place().line));
         }
     }

@@ -19,21 +19,21 @@ char const* const INSTALLER_MARKS[] = {".sparkle_guided.", ".sparkle_interactive
 QString Shortened(QString const& text)
 {
     constexpr int MOST = 80;
-    return text.size() <= MOST ? text : text.left(MOST) + QStringLiteral("...");
+    return text.size() <= MOST ? text : text.left(MOST) + u"..."_s;
 }
 
 bool IsLocalFile(QUrl const& url)
 {
-    return url.scheme() == QLatin1String("file");
+    return url.scheme() == "file"_l;
 }
 
 /// For an address that exists.
 void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindings& findings)
 {
     QString const text = Shortened(url.toString(QUrl::FullyEncoded));
-    bool const isHttp = url.scheme() == QLatin1String("http");
+    bool const isHttp = url.scheme() == "http"_l;
     // A feed that is read before it is published has relative addresses of files.
-    if (!isHttp && url.scheme() != QLatin1String("https") && !(IsLocalFile(url) && IsLocalFile(feed)))
+    if (!isHttp && url.scheme() != "https"_l && !(IsLocalFile(url) && IsLocalFile(feed)))
     {
         findings.Add(LintRule::AddressScheme, place, text);
         return;
@@ -48,12 +48,11 @@ void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindin
     }
     if (!url.userInfo().isEmpty())
     {
-        findings.Add(LintRule::AddressCredentials, place, QStringLiteral("the address at %1").arg(url.host()));
+        findings.Add(LintRule::AddressCredentials, place, u"the address at %1"_s.arg(url.host()));
     }
-    if (url.host(QUrl::FullyEncoded).contains(QLatin1String("xn--")))
+    if (url.host(QUrl::FullyEncoded).contains("xn--"_l))
     {
-        findings.Add(LintRule::AddressInternational, place,
-                     QStringLiteral("the host is %1").arg(url.host(QUrl::FullyEncoded)));
+        findings.Add(LintRule::AddressInternational, place, u"the host is %1"_s.arg(url.host(QUrl::FullyEncoded)));
     }
 }
 
@@ -66,8 +65,7 @@ void CheckMissingAddress(LintDownload const& download, QUrl const& feed, LintFin
         findings.Add(LintRule::AddressTooLong, download.Place(), Shortened(text));
         return;
     }
-    findings.Add(LintRule::AddressMissing, download.Place(),
-                 NameOf(*download.item) + QStringLiteral(" has no valid address"));
+    findings.Add(LintRule::AddressMissing, download.Place(), NameOf(*download.item) + u" has no valid address"_s);
 }
 
 void CheckLength(LintDownload const& download, LintFindings& findings)
@@ -80,18 +78,16 @@ void CheckLength(LintDownload const& download, LintFindings& findings)
     QString const text = length.value_or(QString()).trimmed();
     if (text.isEmpty())
     {
-        findings.Add(LintRule::LengthMissing, download.Place(),
-                     NameOf(*download.item) + QStringLiteral(" has no length"));
+        findings.Add(LintRule::LengthMissing, download.Place(), NameOf(*download.item) + u" has no length"_s);
         return;
     }
-    bool const isDecimal = std::all_of(text.begin(), text.end(),
-                                       [](QChar each) { return each >= QLatin1Char('0') && each <= QLatin1Char('9'); });
-    bool const isZero = isDecimal && text.count(QLatin1Char('0')) == text.size();
+    bool const isDecimal =
+        std::all_of(text.begin(), text.end(), [](QChar each) { return each >= u'0' && each <= u'9'; });
+    bool const isZero = isDecimal && text.count(u'0') == text.size();
     findings.Add(!isDecimal ? LintRule::LengthUnreadable
                  : isZero   ? LintRule::LengthZero
                             : LintRule::LengthTooLarge,
-                 download.Place(),
-                 QStringLiteral("the length of %1 is \"%2\"").arg(NameOf(*download.item), Shortened(text)));
+                 download.Place(), u"the length of %1 is \"%2\""_s.arg(NameOf(*download.item), Shortened(text)));
 }
 
 void CheckMarker(LintDownload const& download, LintFindings& findings)
@@ -117,13 +113,12 @@ void CheckSignature(LintDownload const& download, LintFindings& findings)
     if (!signature || signature->isEmpty())
     {
         findings.Add(LintRule::SignatureMissing, download.Place(),
-                     NameOf(*download.item) + QStringLiteral(" has no sparkle:edSignature"));
+                     NameOf(*download.item) + u" has no sparkle:edSignature"_s);
     }
     else if (Engine::ParseSignature(download.item->edSignature.toStdString(), bytes) != Engine::UpdateFault::None)
     {
-        findings.Add(
-            LintRule::SignatureUnreadable, download.Place(),
-            QStringLiteral("the signature of %1 is \"%2\"").arg(NameOf(*download.item), Shortened(*signature)));
+        findings.Add(LintRule::SignatureUnreadable, download.Place(),
+                     u"the signature of %1 is \"%2\""_s.arg(NameOf(*download.item), Shortened(*signature)));
     }
 }
 
@@ -140,11 +135,11 @@ void CheckDate(LintItem const& item, LintFindings& findings)
     LintPlace const place = date == children.end() ? item.full.element->place : date->place;
     if (QDate::fromString(text, Qt::TextDate).isValid())
     {
-        findings.Add(LintRule::DateTextForm, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
+        findings.Add(LintRule::DateTextForm, place, u"the date is \"%1\""_s.arg(Shortened(text)));
     }
     else if (!Engine::FeedTime(text).isValid())
     {
-        findings.Add(LintRule::DateUnusual, place, QStringLiteral("the date is \"%1\"").arg(Shortened(text)));
+        findings.Add(LintRule::DateUnusual, place, u"the date is \"%1\""_s.arg(Shortened(text)));
     }
 }
 
@@ -171,10 +166,10 @@ void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings&
 
 void CheckDownloads(LintSubject const& subject, LintFindings& findings)
 {
-    if (subject.address.scheme() == QLatin1String("http") && !Engine::IsLoopback(subject.address))
+    if (subject.address.scheme() == "http"_l && !Engine::IsLoopback(subject.address))
     {
         findings.Add(LintRule::AddressInsecure, {1, 1},
-                     QStringLiteral("the feed is at %1").arg(Shortened(subject.address.toString(QUrl::FullyEncoded))));
+                     u"the feed is at %1"_s.arg(Shortened(subject.address.toString(QUrl::FullyEncoded))));
     }
     for (LintPlatform const& platform : subject.platforms)
     {

@@ -19,7 +19,7 @@ bool IsExtension(QString const& local)
 /// Names such as "pelnar2_Channel" and "pelnarChannel": they look like extensions, but clients ignore them.
 bool IsAlmostExtension(QString const& local)
 {
-    return local.startsWith(QLatin1String("pelnar"), Qt::CaseInsensitive) && !IsExtension(local);
+    return local.startsWith("pelnar"_l, Qt::CaseInsensitive) && !IsExtension(local);
 }
 
 /// Where in the feed a name stands.
@@ -36,7 +36,7 @@ void CheckName(LintName const& name, NamePlace where, LintPlace place, LintFindi
     if (IsAlmostExtension(name.local))
     {
         findings.Add(LintRule::ExtensionPrefix, place,
-                     QStringLiteral("%1 does not begin with %2").arg(name.qualified, App::Session::Extensions::PREFIX));
+                     u"%1 does not begin with %2"_s.arg(name.qualified, App::Session::Extensions::PREFIX));
     }
     if (!IsExtension(name.local))
     {
@@ -45,11 +45,11 @@ void CheckName(LintName const& name, NamePlace where, LintPlace place, LintFindi
     if (!name.namespaceUri.isEmpty())
     {
         findings.Add(LintRule::ExtensionNamespace, place,
-                     QStringLiteral("%1 is in the namespace \"%2\"").arg(name.qualified, name.namespaceUri));
+                     u"%1 is in the namespace \"%2\""_s.arg(name.qualified, name.namespaceUri));
     }
     else if (where == NamePlace::Elsewhere)
     {
-        findings.Add(LintRule::ExtensionPlace, place, QStringLiteral("%1 is not read here").arg(name.qualified));
+        findings.Add(LintRule::ExtensionPlace, place, u"%1 is not read here"_s.arg(name.qualified));
     }
 }
 
@@ -108,8 +108,7 @@ private:
         if (isRepeated || !extension.attributes.empty() || !extension.children.empty())
         {
             m_findings.Add(LintRule::ExtensionNotText, extension.place,
-                           isRepeated ? QStringLiteral("%1 stands twice").arg(name)
-                                      : QStringLiteral("%1 has attributes or children").arg(name));
+                           isRepeated ? u"%1 stands twice"_s.arg(name) : u"%1 has attributes or children"_s.arg(name));
         }
     }
 
@@ -119,7 +118,7 @@ private:
         auto const [entry, isNew] = nameOfKey.emplace(name.toUpper(), name);
         if (!isNew && entry->second != name)
         {
-            m_findings.Add(LintRule::ExtensionKeyCase, place, QStringLiteral("%1 and %2").arg(entry->second, name));
+            m_findings.Add(LintRule::ExtensionKeyCase, place, u"%1 and %2"_s.arg(entry->second, name));
         }
         return !isNew && entry->second == name;
     }
@@ -130,10 +129,10 @@ private:
 void CheckRelaunchPath(LintDownload const& download, LintFindings& findings)
 {
     QVariant const path = ExtensionsOf(*download.item).value(App::Session::Extensions::KEY_OVERRIDE_PATH_TO_RELAUNCH);
-    if (path.isValid() && !path.toString().startsWith(QLatin1Char('/')))
+    if (path.isValid() && !path.toString().startsWith(u'/'))
     {
         findings.Add(LintRule::RelaunchPathRelative, download.element->place,
-                     QStringLiteral("the path of %1 is \"%2\"").arg(NameOf(*download.item), path.toString()));
+                     u"the path of %1 is \"%2\""_s.arg(NameOf(*download.item), path.toString()));
     }
 }
 

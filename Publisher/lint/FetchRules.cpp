@@ -48,8 +48,8 @@ public:
 private:
     static QString KeyOf(Engine::FeedItem const& item)
     {
-        return QStringLiteral("%1 %2 %3")
-            .arg(item.fileUrl.toString(QUrl::FullyEncoded), QString::number(item.contentLength), item.edSignature);
+        return u"%1 %2 %3"_s.arg(item.fileUrl.toString(QUrl::FullyEncoded), QString::number(item.contentLength),
+                                 item.edSignature);
     }
 
     void CheckFile(LintDownload const& download)
@@ -58,15 +58,12 @@ private:
         QFile file(path);
         if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         {
-            Report(LintRule::ArchiveUnreachable, download, path + QStringLiteral(" cannot be read"));
+            Report(LintRule::ArchiveUnreachable, download, path + u" cannot be read"_s);
         }
         else if (quint64(file.size()) != download.item->contentLength)
         {
             Report(LintRule::ArchiveLength, download,
-                   QStringLiteral("%1 has %2 bytes, the feed says %3")
-                       .arg(path)
-                       .arg(file.size())
-                       .arg(download.item->contentLength));
+                   u"%1 has %2 bytes, the feed says %3"_s.arg(path).arg(file.size()).arg(download.item->contentLength));
         }
         else
         {
@@ -95,10 +92,9 @@ private:
     {
         bool const isLength = error.cause == ErrorCause::DownloadLengthDiffers;
         QString sentence = error.sentence.English();
-        sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
+        sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
-               QStringLiteral("%1, of %2 bytes by the feed: %3")
-                   .arg(download.item->fileUrl.toString(QUrl::FullyEncoded))
+               u"%1, of %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded))
                    .arg(download.item->contentLength)
                    .arg(sentence));
     }
@@ -113,7 +109,7 @@ private:
             UpdateFault::None)
         {
             Report(LintRule::ArchiveSignature, download,
-                   QStringLiteral("%1 was not signed so").arg(download.item->fileUrl.toString(QUrl::FullyEncoded)));
+                   u"%1 was not signed so"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded)));
         }
     }
 
@@ -133,8 +129,8 @@ private:
                 if (inside != download.item->versionString)
                 {
                     Report(LintRule::ArchiveVersion, download,
-                           QStringLiteral("%1 holds version %2, the feed says %3")
-                               .arg(archive.name, Printable(inside), download.item->versionString));
+                           u"%1 holds version %2, the feed says %3"_s.arg(archive.name, Printable(inside),
+                                                                          download.item->versionString));
                 }
             });
     }
@@ -177,9 +173,9 @@ private:
         if (outcome.error)
         {
             QString sentence = outcome.error->sentence.English();
-            sentence.chop(sentence.endsWith(QLatin1Char('.')) ? 1 : 0);
+            sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
             m_findings.Add(LintRule::NotesUnreachable, link.place,
-                           QStringLiteral("%1: %2").arg(address.toString(QUrl::FullyEncoded), sentence));
+                           u"%1: %2"_s.arg(address.toString(QUrl::FullyEncoded), sentence));
         }
     }
 

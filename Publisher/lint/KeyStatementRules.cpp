@@ -33,7 +33,7 @@ std::optional<PlacedStatement> StatementIn(QByteArray const& bytes)
 
 QString TextOf(QStringList const& ids)
 {
-    return ids.join(QStringLiteral(" and "));
+    return ids.join(u" and "_s);
 }
 
 QStringList IdsOf(Engine::TrustedKeys const& keys)
@@ -83,10 +83,9 @@ void CheckItems(LintSubject const& subject, QStringList const& valid, LintFindin
         {
             if (StandingOf(*item.full.item, platform.parsed, valid) == Standing::Lost)
             {
-                findings.Add(
-                    LintRule::KeyNotValid, item.full.Place(),
-                    QStringLiteral("%1 is signed by the key %2; valid is %3")
-                        .arg(NameOf(*item.full.item), TextOf(Engine::SignersOf(*item.full.item)), TextOf(valid)));
+                findings.Add(LintRule::KeyNotValid, item.full.Place(),
+                             u"%1 is signed by the key %2; valid is %3"_s.arg(
+                                 NameOf(*item.full.item), TextOf(Engine::SignersOf(*item.full.item)), TextOf(valid)));
             }
         }
     }
@@ -100,8 +99,7 @@ void CheckFeedSigner(QByteArray const& bytes, Engine::TrustedKeys const& valid, 
         Engine::VerifySignature(content, feed.signature, valid) != Engine::UpdateFault::None)
     {
         findings.Add(LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
-                     QStringLiteral("the feed itself is signed by none of the keys that are valid, %1")
-                         .arg(TextOf(IdsOf(valid))));
+                     u"the feed itself is signed by none of the keys that are valid, %1"_s.arg(TextOf(IdsOf(valid))));
     }
 }
 
@@ -122,14 +120,13 @@ void CheckSerials(QByteArray const& bytes, QByteArray const& before, LintPlace p
     if (serial < pastSerial)
     {
         findings.Add(LintRule::SerialLower, place,
-                     QStringLiteral("the key statement has the serial %1; it had %2").arg(serial).arg(pastSerial));
+                     u"the key statement has the serial %1; it had %2"_s.arg(serial).arg(pastSerial));
     }
     qint64 const pastFeed = FeedSerialOf(before);
     qint64 const feed = FeedSerialOf(bytes);
     if (feed < pastFeed)
     {
-        findings.Add(LintRule::SerialLower, {1, 1},
-                     QStringLiteral("the feed has the serial %1; it had %2").arg(feed).arg(pastFeed));
+        findings.Add(LintRule::SerialLower, {1, 1}, u"the feed has the serial %1; it had %2"_s.arg(feed).arg(pastFeed));
     }
 }
 
@@ -142,8 +139,7 @@ void CheckSignature(Engine::SignedKeyStatement const& line, std::vector<std::str
                     { return Engine::VerifySignature(line.text, line.signature, {key}) == Engine::UpdateFault::None; });
     if (!isSigned && !rootKeys.empty())
     {
-        findings.Add(LintRule::KeyStatementWrong, place,
-                     QStringLiteral("the statement is not signed by a given root key"));
+        findings.Add(LintRule::KeyStatementWrong, place, u"the statement is not signed by a given root key"_s);
     }
 }
 
@@ -163,15 +159,15 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
     }
     if (isMissing && !question.rootKeys.empty())
     {
-        findings.Add(LintRule::KeyStatementMissing, place, QStringLiteral("there is no key statement"));
+        findings.Add(LintRule::KeyStatementMissing, place, u"there is no key statement"_s);
     }
     if (!placed)
     {
         if (!isMissing)
         {
             findings.Add(LintRule::KeyStatementUnreadable, place,
-                         QStringLiteral("the statement is damaged, stands twice, is not alone on its line, or breaks "
-                                        "a rule of its format"));
+                         u"the statement is damaged, stands twice, is not alone on its line, or breaks "
+                         "a rule of its format"_s);
         }
         return findings.Sorted();
     }
@@ -179,12 +175,11 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
     QString const until = placed->statement.expires.toString(Qt::ISODate);
     if (question.now >= placed->statement.expires)
     {
-        findings.Add(LintRule::KeyStatementExpired, place, QStringLiteral("the statement expired at %1").arg(until));
+        findings.Add(LintRule::KeyStatementExpired, place, u"the statement expired at %1"_s.arg(until));
     }
     else if (placed->statement.expires < question.now.addDays(DAYS_LEFT))
     {
-        findings.Add(LintRule::KeyStatementExpiresSoon, place,
-                     QStringLiteral("the statement expires at %1").arg(until));
+        findings.Add(LintRule::KeyStatementExpiresSoon, place, u"the statement expires at %1"_s.arg(until));
     }
     CheckFeedSigner(bytes, placed->statement.validKeys, findings);
     if (subject)
@@ -216,9 +211,8 @@ std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const&
                             [&signers](std::string const& id) { return signers.contains(QString::fromStdString(id)); });
             if (isRevoked && StandingOf(*item.full.item, platform.parsed, valid) == Standing::Superseded)
             {
-                findings.Add(
-                    LintRule::KeyRevoked, item.full.Place(),
-                    QStringLiteral("%1 is signed by the key %2").arg(NameOf(*item.full.item), TextOf(signers)));
+                findings.Add(LintRule::KeyRevoked, item.full.Place(),
+                             u"%1 is signed by the key %2"_s.arg(NameOf(*item.full.item), TextOf(signers)));
             }
         }
     }
@@ -227,7 +221,7 @@ std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const&
         if (!used.isEmpty() && !used.contains(id))
         {
             findings.Add(LintRule::KeyUnused, PlaceOf(bytes, placed->line.offset),
-                         QStringLiteral("no item is signed by the key %1").arg(id));
+                         u"no item is signed by the key %1"_s.arg(id));
         }
     }
     return findings.Sorted();

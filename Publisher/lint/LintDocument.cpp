@@ -56,9 +56,8 @@ public:
         m_starts.push_back(0);
         for (int i = 0; i < text.size(); ++i)
         {
-            bool const isLoneReturn =
-                text.at(i) == QLatin1Char('\r') && (i + 1 == text.size() || text.at(i + 1) != QLatin1Char('\n'));
-            if (text.at(i) == QLatin1Char('\n') || isLoneReturn)
+            bool const isLoneReturn = text.at(i) == u'\r' && (i + 1 == text.size() || text.at(i + 1) != u'\n');
+            if (text.at(i) == u'\n' || isLoneReturn)
             {
                 m_starts.push_back(i + 1);
             }
@@ -69,7 +68,7 @@ public:
     LintPlace TagBefore(int line, int column) const
     {
         int const end = m_starts.at(std::size_t(line) - 1) + column - 1;
-        int const begin = std::max(m_text.lastIndexOf(QLatin1Char('<'), end - 1), 0);
+        int const begin = std::max(m_text.lastIndexOf(u'<', end - 1), 0);
         auto const next = std::upper_bound(m_starts.begin(), m_starts.end(), begin);
         return {int(next - m_starts.begin()), begin - *std::prev(next) + 1};
     }

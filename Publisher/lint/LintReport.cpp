@@ -44,13 +44,13 @@ QString SummaryOf(std::vector<LintFinding> const& findings)
             counts.append(CountOf(count, QLatin1String(SeverityName(severity))));
         }
     }
-    return counts.isEmpty() ? QStringLiteral("clean") : counts.join(QStringLiteral(", "));
+    return counts.isEmpty() ? u"clean"_s : counts.join(u", "_s);
 }
 
 void PrintFinding(QString const& feed, LintFinding const& finding, Console const& console)
 {
     LintRuleEntry const& entry = EntryOf(finding.rule);
-    QString const place = QStringLiteral("%1:%2:%3: ").arg(feed).arg(finding.place.line).arg(finding.place.column);
+    QString const place = u"%1:%2:%3: "_s.arg(feed).arg(finding.place.line).arg(finding.place.column);
     console.out.stream << Printable(place).toStdString()
                        << console.out.Styled(EmphasisOf(entry.severity), QLatin1String(SeverityName(entry.severity)))
                        << ": " << console.out.Styled(Emphasis::Bold, QLatin1String(entry.name)) << ": "
@@ -81,12 +81,10 @@ void PrintGroupedFindings(QString const& feed, std::vector<LintFinding> const& f
         PrintFinding(feed, first, console);
         if (!lines.isEmpty())
         {
-            console.Print(QStringLiteral("    and in %1 %2")
-                              .arg(lines.size() == 1 ? QStringLiteral("line") : QStringLiteral("lines"),
-                                   lines.join(QStringLiteral(", "))));
+            console.Print(u"    and in %1 %2"_s.arg(lines.size() == 1 ? u"line"_s : u"lines"_s, lines.join(u", "_s)));
         }
     }
-    console.Print(Printable(QStringLiteral("%1: %2").arg(feed, SummaryOf(findings))));
+    console.Print(Printable(u"%1: %2"_s.arg(feed, SummaryOf(findings))));
 }
 
 QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> const& feeds)
@@ -94,10 +92,9 @@ QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> co
     QJsonArray rules;
     for (LintRuleEntry const& entry : LintRules())
     {
-        rules.append(QJsonObject{
-            {QStringLiteral("id"), QLatin1String(entry.name)},
-            {QStringLiteral("shortDescription"), QJsonObject{{QStringLiteral("text"), QLatin1String(entry.what)}}},
-            {QStringLiteral("help"), QJsonObject{{QStringLiteral("text"), QLatin1String(entry.mend)}}}});
+        rules.append(QJsonObject{{u"id"_s, QLatin1String(entry.name)},
+                                 {u"shortDescription"_s, QJsonObject{{u"text"_s, QLatin1String(entry.what)}}},
+                                 {u"help"_s, QJsonObject{{u"text"_s, QLatin1String(entry.mend)}}}});
     }
     QJsonArray results;
     for (auto const& [feed, findings] : feeds)
@@ -105,27 +102,23 @@ QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> co
         for (LintFinding const& finding : findings)
         {
             LintRuleEntry const& entry = EntryOf(finding.rule);
-            QJsonObject const region{{QStringLiteral("startLine"), std::max(finding.place.line, 1)},
-                                     {QStringLiteral("startColumn"), std::max(finding.place.column, 1)}};
+            QJsonObject const region{{u"startLine"_s, std::max(finding.place.line, 1)},
+                                     {u"startColumn"_s, std::max(finding.place.column, 1)}};
             QJsonObject const place{
-                {QStringLiteral("physicalLocation"),
-                 QJsonObject{{QStringLiteral("artifactLocation"), QJsonObject{{QStringLiteral("uri"), feed}}},
-                             {QStringLiteral("region"), region}}}};
-            results.append(QJsonObject{{QStringLiteral("ruleId"), QLatin1String(entry.name)},
-                                       {QStringLiteral("level"), QLatin1String(SeverityName(entry.severity))},
-                                       {QStringLiteral("message"),
-                                        QJsonObject{{QStringLiteral("text"),
-                                                     finding.what + QStringLiteral("; ") + QLatin1String(entry.mend)}}},
-                                       {QStringLiteral("locations"), QJsonArray{place}}});
+                {u"physicalLocation"_s,
+                 QJsonObject{{u"artifactLocation"_s, QJsonObject{{u"uri"_s, feed}}}, {u"region"_s, region}}}};
+            results.append(QJsonObject{
+                {u"ruleId"_s, QLatin1String(entry.name)},
+                {u"level"_s, QLatin1String(SeverityName(entry.severity))},
+                {u"message"_s, QJsonObject{{u"text"_s, finding.what + u"; "_s + QLatin1String(entry.mend)}}},
+                {u"locations"_s, QJsonArray{place}}});
         }
     }
-    QJsonObject const driver{{QStringLiteral("name"), QStringLiteral("pelnar-appcast lint")},
-                             {QStringLiteral("rules"), rules}};
-    return {{QStringLiteral("$schema"), QStringLiteral("https://json.schemastore.org/sarif-2.1.0.json")},
-            {QStringLiteral("version"), QStringLiteral("2.1.0")},
-            {QStringLiteral("runs"),
-             QJsonArray{QJsonObject{{QStringLiteral("tool"), QJsonObject{{QStringLiteral("driver"), driver}}},
-                                    {QStringLiteral("results"), results}}}}};
+    QJsonObject const driver{{u"name"_s, u"pelnar-appcast lint"_s}, {u"rules"_s, rules}};
+    return {
+        {u"$schema"_s, u"https://json.schemastore.org/sarif-2.1.0.json"_s},
+        {u"version"_s, u"2.1.0"_s},
+        {u"runs"_s, QJsonArray{QJsonObject{{u"tool"_s, QJsonObject{{u"driver"_s, driver}}}, {u"results"_s, results}}}}};
 }
 
 void PrintFindings(QString const& feed, std::vector<LintFinding> const& findings, Console const& console)
@@ -134,7 +127,7 @@ void PrintFindings(QString const& feed, std::vector<LintFinding> const& findings
     {
         PrintFinding(feed, finding, console);
     }
-    console.Print(Printable(QStringLiteral("%1: %2").arg(feed, SummaryOf(findings))));
+    console.Print(Printable(u"%1: %2"_s.arg(feed, SummaryOf(findings))));
 }
 
 QJsonObject JsonOf(QString const& feed, std::vector<LintFinding> const& findings)
@@ -144,19 +137,19 @@ QJsonObject JsonOf(QString const& feed, std::vector<LintFinding> const& findings
     {
         LintRuleEntry const& entry = EntryOf(finding.rule);
         list.append(QJsonObject{
-            {QStringLiteral("rule"), QLatin1String(entry.name)},
-            {QStringLiteral("severity"), QLatin1String(SeverityName(entry.severity))},
-            {QStringLiteral("line"), finding.place.line},
-            {QStringLiteral("column"), finding.place.column},
-            {QStringLiteral("what"), finding.what},
-            {QStringLiteral("mend"), QLatin1String(entry.mend)},
+            {u"rule"_s, QLatin1String(entry.name)},
+            {u"severity"_s, QLatin1String(SeverityName(entry.severity))},
+            {u"line"_s, finding.place.line},
+            {u"column"_s, finding.place.column},
+            {u"what"_s, finding.what},
+            {u"mend"_s, QLatin1String(entry.mend)},
         });
     }
-    return {{QStringLiteral("feed"), feed},
-            {QStringLiteral("errors"), int(Count(findings, Severity::Error))},
-            {QStringLiteral("warnings"), int(Count(findings, Severity::Warning))},
-            {QStringLiteral("notes"), int(Count(findings, Severity::Note))},
-            {QStringLiteral("findings"), list}};
+    return {{u"feed"_s, feed},
+            {u"errors"_s, int(Count(findings, Severity::Error))},
+            {u"warnings"_s, int(Count(findings, Severity::Warning))},
+            {u"notes"_s, int(Count(findings, Severity::Note))},
+            {u"findings"_s, list}};
 }
 
 ExitStatus StatusOf(std::vector<LintFinding> const& findings, Strictness strictness)

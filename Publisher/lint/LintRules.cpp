@@ -32,20 +32,20 @@ LintRuleEntry const& EntryOf(LintRule rule)
 
 QString LintRulesAsMarkdown()
 {
-    QString text = QStringLiteral(
-        "# The rules of `pelnar-appcast lint`\n\n"
+    QString text =
+        u"# The rules of `pelnar-appcast lint`\n\n"
         "`pelnar-appcast lint --rules` generates this page; do not edit it. An error means that clients refuse or\n"
         "lose something. A warning means that they may do something unintended. A note means that the feed works but\n"
         "could be better. The exit status is 1 if there is an error or a warning; with `--strict`, if there is any\n"
         "finding.\n\n"
         "| Rule | Severity | Finding | Correction |\n"
-        "| --- | --- | --- | --- |\n");
+        "| --- | --- | --- | --- |\n"_s;
     for (LintRuleEntry const& entry : LintRules())
     {
         QString const what = QString::fromLatin1(entry.what);
-        QString const mend = QString::fromLatin1(entry.mend).replace(QLatin1String("<"), QLatin1String("\\<"));
-        text += QStringLiteral("| `%1` | %2 | %3 | %4 |\n")
-                    .arg(QLatin1String(entry.name), QLatin1String(SeverityName(entry.severity)), what, mend);
+        QString const mend = QString::fromLatin1(entry.mend).replace("<"_l, "\\<"_l);
+        text += u"| `%1` | %2 | %3 | %4 |\n"_s.arg(QLatin1String(entry.name),
+                                                   QLatin1String(SeverityName(entry.severity)), what, mend);
     }
     return text;
 }

@@ -2,6 +2,8 @@
 // Thread: constants. The command line, the reports and docs/lint-rules.md are all made from this table.
 #pragma once
 
+#include "common/TextLiterals.h"
+
 #include <QString>
 
 #include <vector>

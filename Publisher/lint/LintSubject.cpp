@@ -32,9 +32,7 @@ LintRule RuleOf(ErrorCause cause)
 LintFinding FindingOf(Engine::FeedParseError const& error)
 {
     QString const what = error.detail.isEmpty() ? error.sentence.English() : error.detail;
-    return {RuleOf(error.cause),
-            {error.line, error.column},
-            what.endsWith(QLatin1Char('.')) ? what.left(what.size() - 1) : what};
+    return {RuleOf(error.cause), {error.line, error.column}, what.endsWith(u'.') ? what.left(what.size() - 1) : what};
 }
 
 char const* SystemName(FeedPlatform platform)
@@ -117,9 +115,8 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform pla
 /// A prefix that is meant for the feed's own namespace and bound to another.
 bool IsWrong(LintNamespace const& declared)
 {
-    bool const isAlmost = declared.uri.contains(QLatin1String("xml-namespaces/sparkle"), Qt::CaseInsensitive);
-    return !IsFeedNamespaceUri(declared.uri) && !declared.uri.isEmpty() &&
-           (isAlmost || declared.prefix == QLatin1String("sparkle"));
+    bool const isAlmost = declared.uri.contains("xml-namespaces/sparkle"_l, Qt::CaseInsensitive);
+    return !IsFeedNamespaceUri(declared.uri) && !declared.uri.isEmpty() && (isAlmost || declared.prefix == "sparkle"_l);
 }
 
 void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, LintFindings& findings)
@@ -129,7 +126,7 @@ void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, Li
         if (IsWrong(declared) && uris.insert(declared.uri).second)
         {
             findings.Add(LintRule::WrongNamespace, element.place,
-                         QStringLiteral("the prefix %1 is bound to \"%2\"").arg(declared.prefix, declared.uri));
+                         u"the prefix %1 is bound to \"%2\""_s.arg(declared.prefix, declared.uri));
         }
     }
     for (LintElement const& child : element.children)
@@ -184,13 +181,13 @@ QString NameOf(Engine::FeedItem const& item)
 {
     if (item.isDelta)
     {
-        return QStringLiteral("the delta from %1").arg(item.deltaFrom);
+        return u"the delta from %1"_s.arg(item.deltaFrom);
     }
     if (!item.versionString.isEmpty())
     {
-        return QStringLiteral("item %1").arg(item.versionString);
+        return u"item %1"_s.arg(item.versionString);
     }
-    return item.title.isEmpty() ? QStringLiteral("an item") : QStringLiteral("item \"%1\"").arg(item.title);
+    return item.title.isEmpty() ? u"an item"_s : u"item \"%1\""_s.arg(item.title);
 }
 
 LintResult LintFeed(QByteArray const& written, QUrl const& address)
@@ -212,7 +209,7 @@ LintResult LintFeed(QByteArray const& written, QUrl const& address)
     {
         LintPlace const place =
             subject->root.children.empty() ? subject->root.place : subject->root.children.front().place;
-        findings.Add(LintRule::NoItems, place, QStringLiteral("the feed has no item"));
+        findings.Add(LintRule::NoItems, place, u"the feed has no item"_s);
     }
     for (auto* const check : {CheckNames, CheckTexts, CheckVersions, CheckSystems, CheckDownloads, CheckAddresses,
                               CheckOffers, CheckDeltas, CheckExtensions, CheckNotes})

@@ -47,14 +47,14 @@ using KnownFindings = std::map<std::tuple<QString, QString, QString>, int>;
 
 void CheckOptions(LintOptions const& options)
 {
-    QString const mend = QStringLiteral("see pelnar-appcast lint --help");
+    QString const mend = u"see pelnar-appcast lint --help"_s;
     if (options.feeds.empty())
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("FEED is required"), mend});
+        throw Refusal({u"FEED is required"_s, mend});
     }
     if (options.feeds.size() > 1 && !(options.publishedAt.empty() && options.previous.empty()))
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("--published-at and --previous are of one feed"), mend});
+        throw Refusal({u"--published-at and --previous are of one feed"_s, mend});
     }
     CheckPublicKeys(options.publicKeys);
     CheckPublicKeys(options.rootKeys);
@@ -69,21 +69,20 @@ KnownFindings ReadBaseline(std::string const& path)
     }
     constexpr std::uint64_t MOST_BYTES = 64 << 20;
     QString const name = QString::fromStdString(path);
-    QString const mend = QStringLiteral("give what an earlier run with --json printed");
+    QString const mend = u"give what an earlier run with --json printed"_s;
     QJsonObject const written = QJsonDocument::fromJson(ReadInputFile(OpenInputFile(name), MOST_BYTES, mend)).object();
-    bool const isOfOne = written.contains(QStringLiteral("findings"));
-    QJsonArray const feeds = isOfOne ? QJsonArray{written} : written.value(QStringLiteral("feeds")).toArray();
-    if (!isOfOne && !written.contains(QStringLiteral("feeds")))
+    bool const isOfOne = written.contains(u"findings"_s);
+    QJsonArray const feeds = isOfOne ? QJsonArray{written} : written.value(u"feeds"_s).toArray();
+    if (!isOfOne && !written.contains(u"feeds"_s))
     {
-        throw Refusal({name, 0, 0, QStringLiteral("is not the JSON of pelnar-appcast lint"), mend});
+        throw Refusal({name, u"is not the JSON of pelnar-appcast lint"_s, mend});
     }
     for (QJsonValue const& feed : feeds)
     {
-        QJsonArray const findings = feed[QStringLiteral("findings")].toArray();
+        QJsonArray const findings = feed[u"findings"_s].toArray();
         for (QJsonValue const& finding : findings)
         {
-            ++known[{feed[QStringLiteral("feed")].toString(), finding[QStringLiteral("rule")].toString(),
-                     finding[QStringLiteral("what")].toString()}];
+            ++known[{feed[u"feed"_s].toString(), finding[u"rule"_s].toString(), finding[u"what"_s].toString()}];
         }
     }
     return known;
@@ -150,7 +149,7 @@ void Print(std::vector<FeedFindings> const& feeds, std::size_t knownCount, LintO
         {
             list.append(JsonOf(name, findings));
         }
-        console.PrintJson(feeds.size() == 1 ? list.first().toObject() : QJsonObject{{QStringLiteral("feeds"), list}});
+        console.PrintJson(feeds.size() == 1 ? list.first().toObject() : QJsonObject{{u"feeds"_s, list}});
         return;
     }
     for (auto const& [name, findings] : feeds)
@@ -159,7 +158,7 @@ void Print(std::vector<FeedFindings> const& feeds, std::size_t knownCount, LintO
     }
     if (knownCount > 0)
     {
-        console.Print(QStringLiteral("%1 known by the baseline").arg(CountOf(knownCount, QStringLiteral("finding"))));
+        console.Print(u"%1 known by the baseline"_s.arg(CountOf(knownCount, u"finding"_s)));
     }
 }
 

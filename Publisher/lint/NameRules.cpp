@@ -100,7 +100,7 @@ private:
         else if (isInItem && element.name.namespaceUri.isEmpty() && IsOneOf(local, FEED_ELEMENTS))
         {
             m_findings.Add(LintRule::NameWithoutNamespace, element.place,
-                           QStringLiteral("<%1> is not in the feed's namespace").arg(element.name.qualified));
+                           u"<%1> is not in the feed's namespace"_s.arg(element.name.qualified));
         }
     }
 
@@ -121,7 +121,7 @@ private:
         else if (name.namespaceUri.isEmpty() && IsOneOf(name.local, FEED_ATTRIBUTES))
         {
             m_findings.Add(LintRule::NameWithoutNamespace, place,
-                           QStringLiteral("the attribute %1 is not in the feed's namespace").arg(name.qualified));
+                           u"the attribute %1 is not in the feed's namespace"_s.arg(name.qualified));
         }
     }
 
@@ -130,14 +130,13 @@ private:
         if (std::optional<QString> const meant = MeantName(name.local))
         {
             m_findings.Add(LintRule::NameMisspelt, place,
-                           QStringLiteral("%1 is not read; %2 may be meant").arg(name.qualified, *meant));
+                           u"%1 is not read; %2 may be meant"_s.arg(name.qualified, *meant));
         }
     }
 
     void ReportCase(LintName const& name, char const* other, LintPlace place)
     {
-        m_findings.Add(LintRule::NameCase, place,
-                       QStringLiteral("%1 is not read, %2 is").arg(name.qualified, QLatin1String(other)));
+        m_findings.Add(LintRule::NameCase, place, u"%1 is not read, %2 is"_s.arg(name.qualified, QLatin1String(other)));
     }
 
     /// Behind the system, whose enclosure it makes another one.
@@ -147,10 +146,10 @@ private:
             std::find_if(enclosure.attributes.begin(), enclosure.attributes.end(),
                          [](LintAttribute const& attribute)
                          {
-                             return attribute.name.local == QLatin1String("machine") &&
+                             return attribute.name.local == "machine"_l &&
                                     attribute.name.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE);
                          });
-        return machine == enclosure.attributes.end() ? QString() : QLatin1Char(' ') + machine->value;
+        return machine == enclosure.attributes.end() ? QString() : u' ' + machine->value;
     }
 
     void CheckRepetitions(LintElement const& item)
@@ -165,13 +164,13 @@ private:
             if (isSingle && !met.insert(child.name.local).second)
             {
                 m_findings.Add(LintRule::RepeatedElement, child.place,
-                               QStringLiteral("another <%1> of the item").arg(child.name.qualified));
+                               u"another <%1> of the item"_s.arg(child.name.qualified));
             }
             if (child.name.IsPlain("enclosure") &&
                 !platforms.insert(child.FeedAttribute("os").value_or(QString()).toLower() + MachineOf(child)).second)
             {
                 m_findings.Add(LintRule::RepeatedEnclosure, child.place,
-                               QStringLiteral("another enclosure of the item for the same platform"));
+                               u"another enclosure of the item for the same platform"_s);
             }
         }
     }
@@ -188,9 +187,7 @@ void CheckText(QString const& text, QString const& name, LintPlace place, LintFi
         if (!isBlank && Engine::IsHidden(character.value))
         {
             findings.Add(LintRule::ControlCharacter, place,
-                         QStringLiteral("%1 has the character U+%2")
-                             .arg(name)
-                             .arg(uint(character.value), 4, 16, QLatin1Char('0')));
+                         u"%1 has the character U+%2"_s.arg(name).arg(uint(character.value), 4, 16, QChar(u'0')));
             return;
         }
         index += character.units;
@@ -199,7 +196,7 @@ void CheckText(QString const& text, QString const& name, LintPlace place, LintFi
 
 void VisitTexts(LintElement const& element, LintFindings& findings)
 {
-    CheckText(element.text, QStringLiteral("<%1>").arg(element.name.qualified), element.place, findings);
+    CheckText(element.text, u"<%1>"_s.arg(element.name.qualified), element.place, findings);
     for (LintAttribute const& attribute : element.attributes)
     {
         CheckText(attribute.value, attribute.name.qualified, element.place, findings);

@@ -60,7 +60,7 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
     {
         findings.Add(LintRule::NotesOverLimits,
                      PlaceOf(*item.full.element, [](LintName const& name) { return name.IsPlain("description"); }),
-                     QStringLiteral("the notes of %1: %2").arg(NameOf(parsed), QLatin1String(ReasonOf(refusal))));
+                     u"the notes of %1: %2"_s.arg(NameOf(parsed), QLatin1String(ReasonOf(refusal))));
     }
 }
 
@@ -68,7 +68,7 @@ void CheckLink(LintItem const& item, LintFindings& findings)
 {
     QUrl const& url = item.full.item->releaseNotesUrl;
     bool const isLocal = url.isLocalFile(); // of a feed that is read before it is published, or another rule's matter
-    if (!url.isEmpty() && url.scheme() != QLatin1String("https") && !isLocal && !Engine::IsLoopback(url))
+    if (!url.isEmpty() && url.scheme() != "https"_l && !isLocal && !Engine::IsLoopback(url))
     {
         findings.Add(LintRule::NotesInsecure,
                      PlaceOf(*item.full.element, [](LintName const& name) { return name.IsFeeds("releaseNotesLink"); }),
@@ -89,15 +89,14 @@ void CheckLanguages(LintElement const& item, LintFindings& findings)
         QString language;
         for (LintAttribute const& attribute : child.attributes)
         {
-            language = attribute.name.qualified == QLatin1String("xml:lang") ? attribute.value.trimmed() : language;
+            language = attribute.name.qualified == "xml:lang"_l ? attribute.value.trimmed() : language;
         }
-        if (!met.insert(child.name.local + QLatin1Char(' ') + language.toLower()).second)
+        if (!met.insert(child.name.local + u' ' + language.toLower()).second)
         {
-            findings.Add(
-                LintRule::NotesRepeated, child.place,
-                language.isEmpty()
-                    ? QStringLiteral("another <%1> without a language").arg(child.name.qualified)
-                    : QStringLiteral("another <%1> of the language \"%2\"").arg(child.name.qualified, language));
+            findings.Add(LintRule::NotesRepeated, child.place,
+                         language.isEmpty()
+                             ? u"another <%1> without a language"_s.arg(child.name.qualified)
+                             : u"another <%1> of the language \"%2\""_s.arg(child.name.qualified, language));
         }
     }
 }

@@ -34,8 +34,8 @@ void CheckPolicies(LintElement const& item, LintFindings& findings)
         {
             QString const text = child.text.trimmed();
             findings.Add(LintRule::PolicyIgnored, child.place,
-                         text.isEmpty() ? QStringLiteral("<%1>").arg(child.name.qualified)
-                                        : QStringLiteral("<%1> is \"%2\"").arg(child.name.qualified, text));
+                         text.isEmpty() ? u"<%1>"_s.arg(child.name.qualified)
+                                        : u"<%1> is \"%2\""_s.arg(child.name.qualified, text));
         }
     }
 }
@@ -61,13 +61,13 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
     auto const add = [&](QString const& what) { findings.Add(LintRule::PolicyUnreadable, place, what); };
     if (!policy.channel.isEmpty() && !Engine::IsChannelName(policy.channel))
     {
-        add(QStringLiteral("no application can list the channel \"%1\"").arg(policy.channel));
+        add(u"no application can list the channel \"%1\""_s.arg(policy.channel));
     }
     for (QString const& machine : policy.machines + policy.hardware)
     {
         if (!IsMachine(machine))
         {
-            add(QStringLiteral("no client is on the machine \"%1\"").arg(machine));
+            add(u"no client is on the machine \"%1\""_s.arg(machine));
         }
     }
     for (QString const& version : QStringList{policy.criticalBelow, policy.informationalBelow,
@@ -76,7 +76,7 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
     {
         if (!IsVersion(version))
         {
-            add(QStringLiteral("\"%1\" is no version, and bounds nothing").arg(version));
+            add(u"\"%1\" is no version, and bounds nothing"_s.arg(version));
         }
     }
 }
@@ -88,9 +88,8 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
     {
         if (child.name.IsFeeds("phasedRolloutInterval") && item.policy.rolloutSeconds == 0)
         {
-            findings.Add(
-                LintRule::PolicyUnreadable, child.place,
-                QStringLiteral("\"%1\" is no number of seconds from 1 to ten years").arg(child.text.trimmed()));
+            findings.Add(LintRule::PolicyUnreadable, child.place,
+                         u"\"%1\" is no number of seconds from 1 to ten years"_s.arg(child.text.trimmed()));
         }
     }
     QDateTime const date = Engine::FeedTime(item.dateString);
@@ -98,7 +97,7 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
     if (item.policy.rolloutSeconds != 0 && (!date.isValid() || isInFuture))
     {
         findings.Add(isInFuture ? LintRule::StagedInFuture : LintRule::StagedWithoutDate, lintItem.full.element->place,
-                     QStringLiteral("the date of %1 is \"%2\"").arg(NameOf(item), item.dateString));
+                     u"the date of %1 is \"%2\""_s.arg(NameOf(item), item.dateString));
     }
     if (item.policy.isInformational && item.infoUrl.isEmpty() && item.releaseNotesUrl.isEmpty())
     {
@@ -161,10 +160,9 @@ void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFinding
         if (!stranded[i].isEmpty())
         {
             findings.Add(LintRule::KeyNotTrusted, items[i].full.Place(),
-                         QStringLiteral("%1 is signed by the key %2, which these do not trust, and no version between "
-                                        "brings it to them: %3")
-                             .arg(NameOf(*items[i].full.item), all[i].signers.join(QStringLiteral(" and ")),
-                                  stranded[i].join(QStringLiteral(", "))));
+                         u"%1 is signed by the key %2, which these do not trust, and no version between "
+                         "brings it to them: %3"_s.arg(NameOf(*items[i].full.item), all[i].signers.join(u" and "_s),
+                                                       stranded[i].join(u", "_s)));
         }
     }
 }
@@ -209,9 +207,9 @@ void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
         if (newer.date < older.date && IsOlderVersion(older.version, newer.version))
         {
             findings.Add(LintRule::DateOrder, newer.item->full.element->place,
-                         QStringLiteral("%1 is of %2, and the older %3 of %4")
-                             .arg(newer.item->full.item->versionString, newer.date.toString(Qt::ISODate),
-                                  older.item->full.item->versionString, older.date.toString(Qt::ISODate)));
+                         u"%1 is of %2, and the older %3 of %4"_s.arg(
+                             newer.item->full.item->versionString, newer.date.toString(Qt::ISODate),
+                             older.item->full.item->versionString, older.date.toString(Qt::ISODate)));
             return;
         }
     }

@@ -24,19 +24,19 @@ QString TextOf(SignedFeedFault fault)
     case SignedFeedFault::Missing:
         break;
     case SignedFeedFault::Repeated:
-        return QStringLiteral("there is more than one signature");
+        return u"there is more than one signature"_s;
     case SignedFeedFault::NotAtEnd:
-        return QStringLiteral("the feed goes on behind its signature");
+        return u"the feed goes on behind its signature"_s;
     case SignedFeedFault::BytesAfter:
-        return QStringLiteral("something stands behind the line of the signature");
+        return u"something stands behind the line of the signature"_s;
     case SignedFeedFault::LineEndsRewritten:
-        return QStringLiteral("the line of the signature ends with a carriage return, as after a transfer as text");
+        return u"the line of the signature ends with a carriage return, as after a transfer as text"_s;
     case SignedFeedFault::AlgorithmUnknown:
-        return QStringLiteral("the signature is of an algorithm that clients do not know");
+        return u"the signature is of an algorithm that clients do not know"_s;
     case SignedFeedFault::Malformed:
-        return QStringLiteral("the signature is damaged or is not alone on its line");
+        return u"the signature is damaged or is not alone on its line"_s;
     }
-    return QStringLiteral("there is no signature");
+    return u"there is no signature"_s;
 }
 
 Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& bytes)
@@ -79,19 +79,19 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
         bool const isSerial = terms.error().cause == Engine::ErrorCause::FeedSerialUnusable;
         findings.Add(isSerial ? LintRule::FeedSerial : LintRule::FeedExpires,
                      PlaceOf(subject, isSerial ? "serial" : "expires"),
-                     isSerial ? QStringLiteral("the serial is missing, stands twice or is no positive number")
-                              : QStringLiteral("the date is missing, stands twice or is of another form"));
+                     isSerial ? u"the serial is missing, stands twice or is no positive number"_s
+                              : u"the date is missing, stands twice or is of another form"_s);
         return;
     }
     if (!Engine::JudgeFeedValidity(*terms, 0, now))
     {
         findings.Add(LintRule::FeedExpired, PlaceOf(subject, "expires"),
-                     QStringLiteral("the feed expired at %1").arg(terms->expires.toString(Qt::ISODate)));
+                     u"the feed expired at %1"_s.arg(terms->expires.toString(Qt::ISODate)));
     }
     else if (terms->expires < now.addDays(DAYS_LEFT))
     {
         findings.Add(LintRule::FeedExpiresSoon, PlaceOf(subject, "expires"),
-                     QStringLiteral("the feed expires at %1").arg(terms->expires.toString(Qt::ISODate)));
+                     u"the feed expires at %1"_s.arg(terms->expires.toString(Qt::ISODate)));
     }
 }
 
@@ -132,7 +132,7 @@ std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject
         if (Engine::VerifySignature(content, feed.signature, question.publicKeys) != Engine::UpdateFault::None)
         {
             findings.Add(LintRule::FeedSignatureWrong, place,
-                         QStringLiteral("the signature is not of these bytes and of a given key"));
+                         u"the signature is not of these bytes and of a given key"_s);
         }
     }
     if (subject)

@@ -25,18 +25,17 @@ void CheckBounds(LintItem const& item, LintFindings& findings)
     {
         if (!text.isEmpty() && !VersionFromStringNoexcept(text).IsValid())
         {
-            findings.Add(LintRule::SystemBoundUnreadable, place,
-                         QStringLiteral("the %1 system version of %2 is \"%3\"")
-                             .arg(QLatin1String(name), NameOf(*item.full.item), text));
+            findings.Add(
+                LintRule::SystemBoundUnreadable, place,
+                u"the %1 system version of %2 is \"%3\""_s.arg(QLatin1String(name), NameOf(*item.full.item), text));
         }
     }
     Core::Version const lowest = VersionFromStringNoexcept(minimum);
     Core::Version const highest = VersionFromStringNoexcept(maximum);
     if (lowest.IsValid() && highest.IsValid() && App::Session::IsOlderVersion(highest, lowest))
     {
-        findings.Add(
-            LintRule::SystemBoundsCrossed, place,
-            QStringLiteral("%1 asks for %2 or later and %3 or earlier").arg(NameOf(*item.full.item), minimum, maximum));
+        findings.Add(LintRule::SystemBoundsCrossed, place,
+                     u"%1 asks for %2 or later and %3 or earlier"_s.arg(NameOf(*item.full.item), minimum, maximum));
     }
 }
 
@@ -49,7 +48,7 @@ void CheckPlatformName(LintElement const& enclosure, LintFindings& findings)
                     [&](char const* each) { return system->compare(QLatin1String(each), Qt::CaseInsensitive) == 0; });
     if (!isKnown)
     {
-        findings.Add(LintRule::PlatformUnknown, enclosure.place, QStringLiteral("sparkle:os is \"%1\"").arg(*system));
+        findings.Add(LintRule::PlatformUnknown, enclosure.place, u"sparkle:os is \"%1\""_s.arg(*system));
     }
 }
 
@@ -76,10 +75,10 @@ void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& find
         }
         else if (marked)
         {
-            findings.Add(LintRule::PlatformFirst, marked->place,
-                         QStringLiteral("an item for %1 stands before the one for all platforms in line %2")
-                             .arg(*marked->FeedAttribute("os"))
-                             .arg(enclosure->place.line));
+            findings.Add(
+                LintRule::PlatformFirst, marked->place,
+                u"an item for %1 stands before the one for all platforms in line %2"_s.arg(*marked->FeedAttribute("os"))
+                    .arg(enclosure->place.line));
             return;
         }
     }

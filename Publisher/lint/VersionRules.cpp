@@ -19,14 +19,13 @@ using App::Session::VersionFromStringNoexcept;
 /// Decimal components with dots between them, of which one is too great.
 bool Overflows(QString const& text)
 {
-    QStringList const components = text.split(QLatin1Char('.'));
+    QStringList const components = text.split(u'.');
     bool isGreat = false;
     for (QString const& component : components)
     {
         bool const isDecimal =
             !component.isEmpty() &&
-            std::all_of(component.begin(), component.end(),
-                        [](QChar each) { return each >= QLatin1Char('0') && each <= QLatin1Char('9'); });
+            std::all_of(component.begin(), component.end(), [](QChar each) { return each >= u'0' && each <= u'9'; });
         if (!isDecimal)
         {
             return false;
@@ -48,20 +47,19 @@ void CheckVersion(LintDownload const& download, LintFindings& findings)
     QString const& text = download.item->versionString;
     if (text.isEmpty())
     {
-        findings.Add(LintRule::VersionMissing, download.Place(),
-                     NameOf(*download.item) + QStringLiteral(" has no version"));
+        findings.Add(LintRule::VersionMissing, download.Place(), NameOf(*download.item) + u" has no version"_s);
         return;
     }
     if (!VersionFromStringNoexcept(text).IsValid())
     {
         findings.Add(Overflows(text) ? LintRule::VersionOverflow : LintRule::VersionUnreadable, download.Place(),
-                     QStringLiteral("the version is \"%1\"").arg(text));
+                     u"the version is \"%1\""_s.arg(text));
         return;
     }
     if (!download.item->isDelta && !HasWrittenVersion(*download.element, download.enclosure))
     {
         findings.Add(LintRule::VersionFromFileName, download.Place(),
-                     QStringLiteral("%1 stands in %2 only").arg(text, download.item->fileUrl.fileName()));
+                     u"%1 stands in %2 only"_s.arg(text, download.item->fileUrl.fileName()));
     }
 }
 
@@ -77,10 +75,9 @@ void CheckSpelling(std::vector<LintItem> const& items, LintFindings& findings)
             Core::Version const otherVersion = VersionFromStringNoexcept(other);
             if (other != text && otherVersion.IsValid() && IsSameVersion(version, otherVersion))
             {
-                findings.Add(LintRule::VersionSpelling, later->full.Place(),
-                             QStringLiteral("%1 is the same version as %2 in line %3")
-                                 .arg(text, other)
-                                 .arg(earlier->full.Place().line));
+                findings.Add(
+                    LintRule::VersionSpelling, later->full.Place(),
+                    u"%1 is the same version as %2 in line %3"_s.arg(text, other).arg(earlier->full.Place().line));
                 break;
             }
         }
@@ -102,9 +99,8 @@ void CheckMixture(std::vector<LintItem> const& items, LintFindings& findings)
         first = first ? first : &item;
         if (single && dotted)
         {
-            findings.Add(
-                LintRule::VersionMixed, item.full.Place(),
-                QStringLiteral("%1 beside %2").arg(single->full.item->versionString, dotted->full.item->versionString));
+            findings.Add(LintRule::VersionMixed, item.full.Place(),
+                         u"%1 beside %2"_s.arg(single->full.item->versionString, dotted->full.item->versionString));
             return;
         }
     }
@@ -143,8 +139,7 @@ void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)
                 UpdateTypeOf(item) == UpdateTypeOf(other) && ShareSystem(item, other) && ShareClients(item, other))
             {
                 findings.Add(LintRule::SamePriority, later->full.Place(),
-                             QStringLiteral("%1 has the version and the kind of the item in line %2")
-                                 .arg(NameOf(item))
+                             u"%1 has the version and the kind of the item in line %2"_s.arg(NameOf(item))
                                  .arg(earlier->full.Place().line));
                 break;
             }

@@ -111,15 +111,14 @@ QStringList StrandedLines(std::vector<Stranded> const& stranded)
     QString systems;
     for (Stranded const& each : stranded)
     {
-        QString const there = each.isEverywhere ? QStringLiteral("on every system")
-                                                : QStringLiteral("on ") + each.systems.join(QStringLiteral(", "));
+        QString const there = each.isEverywhere ? u"on every system"_s : u"on "_s + each.systems.join(u", "_s);
         if (!lines.isEmpty() && there == systems)
         {
-            lines.last() += QStringLiteral(", ") + each.version;
+            lines.last() += u", "_s + each.version;
             continue;
         }
         systems = there;
-        lines.append(QStringLiteral("stranded %1: %2").arg(there, each.version));
+        lines.append(u"stranded %1: %2"_s.arg(there, each.version));
     }
     return lines;
 }
@@ -163,39 +162,38 @@ QJsonObject JsonOf(Matrix const& matrix)
     {
         for (std::size_t column = 0; column < matrix.systems.size(); ++column)
         {
-            cells.append(QJsonObject{{QStringLiteral("localVersion"), matrix.versions[row].text},
-                                     {QStringLiteral("systemVersion"), matrix.systems[column].text},
-                                     {QStringLiteral("offered"), JsonOf(matrix.outcomes[row][column])}});
+            cells.append(QJsonObject{{u"localVersion"_s, matrix.versions[row].text},
+                                     {u"systemVersion"_s, matrix.systems[column].text},
+                                     {u"offered"_s, JsonOf(matrix.outcomes[row][column])}});
         }
     }
     QJsonArray stranded;
     for (Stranded const& each : matrix.stranded)
     {
-        stranded.append(QJsonObject{{QStringLiteral("version"), each.version},
-                                    {QStringLiteral("systems"), QJsonArray::fromStringList(each.systems)},
-                                    {QStringLiteral("everywhere"), each.isEverywhere}});
+        stranded.append(QJsonObject{{u"version"_s, each.version},
+                                    {u"systems"_s, QJsonArray::fromStringList(each.systems)},
+                                    {u"everywhere"_s, each.isEverywhere}});
     }
     QJsonArray withdrawn;
     for (Withdrawn const& each : matrix.withdrawn)
     {
-        withdrawn.append(QJsonObject{{QStringLiteral("version"), each.version},
-                                     {QStringLiteral("next"), QJsonArray::fromStringList(each.next)}});
+        withdrawn.append(QJsonObject{{u"version"_s, each.version}, {u"next"_s, QJsonArray::fromStringList(each.next)}});
     }
-    return {{QStringLiteral("feed"), matrix.feed},
-            {QStringLiteral("platform"), matrix.platform},
-            {QStringLiteral("versions"), TextsOf(matrix.versions)},
-            {QStringLiteral("systems"), TextsOf(matrix.systems)},
-            {QStringLiteral("cells"), cells},
-            {QStringLiteral("stranded"), stranded},
-            {QStringLiteral("withdrawn"), withdrawn}};
+    return {{u"feed"_s, matrix.feed},
+            {u"platform"_s, matrix.platform},
+            {u"versions"_s, TextsOf(matrix.versions)},
+            {u"systems"_s, TextsOf(matrix.systems)},
+            {u"cells"_s, cells},
+            {u"stranded"_s, stranded},
+            {u"withdrawn"_s, withdrawn}};
 }
 
 QStringList TextOf(Matrix const& matrix)
 {
-    QList<QStringList> rows{{QStringLiteral("installed")}};
+    QList<QStringList> rows{{u"installed"_s}};
     for (NamedVersion const& system : matrix.systems)
     {
-        rows.first().append(QStringLiteral("on ") + system.text);
+        rows.first().append(u"on "_s + system.text);
     }
     for (std::size_t row = 0; row < matrix.versions.size(); ++row)
     {
@@ -220,15 +218,14 @@ QStringList TextOf(Matrix const& matrix)
     }
     for (Withdrawn const& each : matrix.withdrawn)
     {
-        lines.append(QStringLiteral("withdrawn %1: those who have it get %2")
-                         .arg(each.version, each.next.join(QStringLiteral(", "))));
+        lines.append(u"withdrawn %1: those who have it get %2"_s.arg(each.version, each.next.join(u", "_s)));
     }
     return lines + StrandedLines(matrix.stranded);
 }
 
 std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const& json)
 {
-    QJsonValue const cells = QJsonDocument::fromJson(json).object().value(QStringLiteral("cells"));
+    QJsonValue const cells = QJsonDocument::fromJson(json).object().value(u"cells"_s);
     QJsonArray const list = cells.toArray();
     bool isGood = cells.isArray();
     std::vector<ExpectedCell> expected;
@@ -241,7 +238,7 @@ std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const
         };
         NamedVersion const local = versionAt("localVersion");
         NamedVersion const system = versionAt("systemVersion");
-        QJsonValue const offered = cell[QStringLiteral("offered")];
+        QJsonValue const offered = cell[u"offered"_s];
         isGood = isGood && local.version.IsValid() &&
                  (system.version.IsValid() || system.text == QLatin1String(UNKNOWN_SYSTEM)) &&
                  (offered.isNull() || offered.isObject());
@@ -249,8 +246,8 @@ std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const
     }
     if (!isGood)
     {
-        throw Refusal({file, 0, 0, QStringLiteral("not the JSON of pelnar-appcast matrix"),
-                       QStringLiteral("write it with pelnar-appcast matrix FEED ... --json")});
+        throw Refusal({file, u"not the JSON of pelnar-appcast matrix"_s,
+                       u"write it with pelnar-appcast matrix FEED ... --json"_s});
     }
     return expected;
 }
@@ -273,12 +270,11 @@ QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& e
             auto const cell = outcomes.find({version, system});
             if (cell == outcomes.end())
             {
-                lines.append(
-                    QStringLiteral("%1 on %2: %3, and nothing was expected of it").arg(version, system, outcome));
+                lines.append(u"%1 on %2: %3, and nothing was expected of it"_s.arg(version, system, outcome));
             }
             else if (cell->second != outcome)
             {
-                lines.append(QStringLiteral("%1 on %2: %3, expected %4").arg(version, system, outcome, cell->second));
+                lines.append(u"%1 on %2: %3, expected %4"_s.arg(version, system, outcome, cell->second));
             }
         }
     }

@@ -39,8 +39,8 @@ std::vector<ExpectedCell> ReadExpectation(MatrixOptions const& options)
     QFile file(name);
     if (!file.open(QIODevice::ReadOnly))
     {
-        throw Refusal({name, 0, 0, QStringLiteral("cannot be read: ") + file.errorString(),
-                       QStringLiteral("give the JSON that an earlier run of matrix wrote")});
+        throw Refusal(
+            {name, u"cannot be read: "_s + file.errorString(), u"give the JSON that an earlier run of matrix wrote"_s});
     }
     return ParseExpectation(name, file.readAll());
 }
@@ -72,7 +72,7 @@ Versions InstalledVersions(MatrixOptions const& options, std::vector<ExpectedCel
     {
         return Of(expected, &ExpectedCell::localVersion);
     }
-    return ParseVersionList(QStringLiteral("--versions"), QString::fromStdString(options.versions), ParseLocalVersion);
+    return ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
 }
 
 Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& expected)
@@ -81,7 +81,7 @@ Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& 
     {
         return Of(expected, &ExpectedCell::systemVersion);
     }
-    return ParseVersionList(QStringLiteral("--systems"), QString::fromStdString(options.systems), ParseSystemVersion);
+    return ParseVersionList(u"--systems"_s, QString::fromStdString(options.systems), ParseSystemVersion);
 }
 
 ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expected, MatrixOptions const& options,
@@ -107,8 +107,8 @@ ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expecte
     QStringList const differences = Differences(matrix, expected);
     for (QString const& line : differences)
     {
-        console.err.stream << console.err.Styled(Emphasis::Bad, QStringLiteral("not as expected: "))
-                           << Printable(line).toStdString() << '\n';
+        console.err.stream << console.err.Styled(Emphasis::Bad, u"not as expected: "_s) << Printable(line).toStdString()
+                           << '\n';
     }
     return differences.isEmpty() ? ExitStatus::Clean : ExitStatus::Findings;
 }
@@ -117,8 +117,8 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
 {
     if (options.expectation.empty() && (options.versions.empty() || options.systems.empty()))
     {
-        throw Refusal({QString(), 0, 0, QStringLiteral("--versions and --systems are required without --expect"),
-                       QStringLiteral("see pelnar-appcast matrix --help")});
+        throw Refusal(
+            {u"--versions and --systems are required without --expect"_s, u"see pelnar-appcast matrix --help"_s});
     }
     std::vector<ExpectedCell> const expected = ReadExpectation(options);
     Engine::Installation const installation = InstallationOf(options.installation);

@@ -30,13 +30,9 @@ Outcome OutcomeOf(FeedChoice const& choice)
 
 Outcome OutcomeOf(QJsonValue const& json)
 {
-    Outcome outcome{json[QStringLiteral("version")].toString(),
-                    json[QStringLiteral("updateType")].toString(),
-                    json[QStringLiteral("deltaFrom")].toString(),
-                    {},
-                    0,
-                    {}};
-    QJsonArray const rivals = json[QStringLiteral("rivals")].toArray();
+    Outcome outcome{
+        json[u"version"_s].toString(), json[u"updateType"_s].toString(), json[u"deltaFrom"_s].toString(), {}, 0, {}};
+    QJsonArray const rivals = json[u"rivals"_s].toArray();
     std::transform(rivals.begin(), rivals.end(), std::back_inserter(outcome.rivals),
                    [](QJsonValue const& rival) { return OutcomeOf(rival); });
     return outcome;
@@ -46,13 +42,13 @@ QString TextOf(Outcome const& outcome)
 {
     if (!outcome.IsUpdate())
     {
-        return QStringLiteral("none");
+        return u"none"_s;
     }
-    QString text = outcome.version + QLatin1Char(' ') + outcome.updateType;
-    text += outcome.deltaFrom.isEmpty() ? QString() : QStringLiteral(" from ") + outcome.deltaFrom;
+    QString text = outcome.version + u' ' + outcome.updateType;
+    text += outcome.deltaFrom.isEmpty() ? QString() : u" from "_s + outcome.deltaFrom;
     for (Outcome const& rival : outcome.rivals)
     {
-        text += QStringLiteral(" or from ") + rival.deltaFrom;
+        text += u" or from "_s + rival.deltaFrom;
     }
     return text;
 }
@@ -64,12 +60,11 @@ QJsonValue JsonOf(Outcome const& outcome)
         return QJsonValue::Null;
     }
     QJsonObject object{
-        {QStringLiteral("version"), outcome.version},
-        {QStringLiteral("updateType"), outcome.updateType},
-        {QStringLiteral("deltaFrom"),
-         outcome.deltaFrom.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(outcome.deltaFrom)},
-        {QStringLiteral("url"), outcome.url},
-        {QStringLiteral("length"), double(outcome.length)},
+        {u"version"_s, outcome.version},
+        {u"updateType"_s, outcome.updateType},
+        {u"deltaFrom"_s, outcome.deltaFrom.isEmpty() ? QJsonValue(QJsonValue::Null) : QJsonValue(outcome.deltaFrom)},
+        {u"url"_s, outcome.url},
+        {u"length"_s, double(outcome.length)},
     };
     QJsonArray rivals;
     for (Outcome const& rival : outcome.rivals)
@@ -78,7 +73,7 @@ QJsonValue JsonOf(Outcome const& outcome)
     }
     if (!rivals.isEmpty())
     {
-        object.insert(QStringLiteral("rivals"), rivals);
+        object.insert(u"rivals"_s, rivals);
     }
     return object;
 }

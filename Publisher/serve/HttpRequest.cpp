@@ -110,8 +110,8 @@ bool HasVersion(HttpRequest const& request, QByteArray const& entityTag, qint64 
                            [&entityTag](QByteArray const& tag)
                            { return tag.trimmed() == "*" || WithoutWeakSign(tag.trimmed()) == entityTag; });
     }
-    QDateTime since = QLocale::c().toDateTime(QString::fromLatin1(request.ifModifiedSince),
-                                              QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'"));
+    QDateTime since =
+        QLocale::c().toDateTime(QString::fromLatin1(request.ifModifiedSince), u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s);
     since.setTimeSpec(Qt::UTC);
     return since.isValid() && changed <= since.toSecsSinceEpoch();
 }

@@ -2,6 +2,7 @@
 
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
+#include "common/TextLiterals.h"
 
 #include <QFile>
 #include <QStringList>
@@ -24,15 +25,14 @@ constexpr std::size_t SIGNING_KEY_BYTES[] = {32, 64};
 
 bool HasDottedName(QString const& path)
 {
-    QStringList const names = path.split(QLatin1Char('/'));
-    return std::any_of(names.begin(), names.end(),
-                       [](QString const& name) { return name.startsWith(QLatin1Char('.')); });
+    QStringList const names = path.split(u'/');
+    return std::any_of(names.begin(), names.end(), [](QString const& name) { return name.startsWith(u'.'); });
 }
 
 /// True if only its owner may enter a folder on the way to \a path.
 bool IsInPrivateFolder(int folderFd, QString const& path)
 {
-    for (int end = path.indexOf(QLatin1Char('/')); end >= 0; end = path.indexOf(QLatin1Char('/'), end + 1))
+    for (int end = path.indexOf(u'/'); end >= 0; end = path.indexOf(u'/', end + 1))
     {
         struct stat status;
         QByteArray const folder = QFile::encodeName(path.left(end));
@@ -125,15 +125,15 @@ ServedFile OpenServedFile(int folderFd, QString const& path)
     }
     if (HasDottedName(path))
     {
-        return {{}, QStringLiteral("its name begins with a dot")};
+        return {{}, u"its name begins with a dot"_s};
     }
     if ((status.st_mode & READ_BY_OTHERS) == 0 || IsInPrivateFolder(folderFd, path))
     {
-        return {{}, QStringLiteral("only its owner may read it")};
+        return {{}, u"only its owner may read it"_s};
     }
     if (HasKeyName(path) || HoldsKey(file.Get(), status.st_size))
     {
-        return {{}, QStringLiteral("it is a private key")};
+        return {{}, u"it is a private key"_s};
     }
     return {std::move(file), {}};
 }

@@ -80,7 +80,7 @@ QByteArray TagOf(struct stat const& status)
 QByteArray HttpDate(qint64 seconds)
 {
     QDateTime const time = QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
-    return QLocale::c().toString(time, QStringLiteral("ddd, dd MMM yyyy hh:mm:ss 'GMT'")).toLatin1();
+    return QLocale::c().toString(time, u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s).toLatin1();
 }
 
 } // namespace
@@ -121,7 +121,7 @@ void ServerConnection::Read()
     if (m_head.isEmpty() && bytes.startsWith(TLS_HANDSHAKE))
     {
         // Otherwise both sides would wait for each other until a time-out.
-        m_log(QStringLiteral("? refused: https is asked for, and this server has no --tls"));
+        m_log(u"? refused: https is asked for, and this server has no --tls"_s);
         Reset();
         return;
     }
@@ -133,7 +133,7 @@ void ServerConnection::Read()
     }
     std::optional<HttpRequest> const request = ParseHttpRequest(m_head.left(std::max(end, 0)));
     m_head = "\r\n\r\n";
-    request ? Answer(*request) : AnswerStatus({"?", QStringLiteral("?"), {}, {}}, 400);
+    request ? Answer(*request) : AnswerStatus({"?", u"?"_s, {}, {}}, 400);
 }
 
 ServerFault const* ServerConnection::FaultFor(QString const& path) const
@@ -161,8 +161,7 @@ void ServerConnection::Answer(HttpRequest const& request)
     if (request.host && !IsAskedByItsName(request))
     {
         AnswerStatus(request, 421, {},
-                     QStringLiteral(" for \"%1\", which --host does not name")
-                         .arg(Printable(QString::fromLatin1(*request.host))));
+                     u" for \"%1\", which --host does not name"_s.arg(Printable(QString::fromLatin1(*request.host))));
         return;
     }
     if (request.method != "GET" && request.method != "HEAD")
@@ -178,7 +177,7 @@ void ServerConnection::Answer(HttpRequest const& request)
     }
     if (m_fault && m_fault->kind == ServerFaultKind::Drop && m_fault->number == 0)
     {
-        m_log(QStringLiteral("%1 /%2 reset").arg(QString::fromLatin1(request.method), Printable(request.path)));
+        m_log(u"%1 /%2 reset"_s.arg(QString::fromLatin1(request.method), Printable(request.path)));
         Reset();
         return;
     }
@@ -186,7 +185,7 @@ void ServerConnection::Answer(HttpRequest const& request)
     if (!found.file)
     {
         AnswerStatus(request, 404, {},
-                     found.hiddenBecause.isEmpty() ? QString() : QStringLiteral(" hidden: ") + found.hiddenBecause);
+                     found.hiddenBecause.isEmpty() ? QString() : u" hidden: "_s + found.hiddenBecause);
         return;
     }
     AnswerFile(request, std::move(found.file));
@@ -227,8 +226,7 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
                        QByteArray::number(m_rest.end - 1) + '/' + QByteArray::number(qint64(status.st_size)) + "\r\n");
     }
     m_socket.write("Connection: close\r\n\r\n");
-    m_log(QStringLiteral("%1 /%2 %3 %4 bytes")
-              .arg(QString::fromLatin1(request.method), Printable(request.path))
+    m_log(u"%1 /%2 %3 %4 bytes"_s.arg(QString::fromLatin1(request.method), Printable(request.path))
               .arg(code)
               .arg(length));
     if (request.method == "HEAD")
@@ -246,7 +244,7 @@ void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByt
     // In a 304 response, the length would be that of the file.
     m_socket.write("HTTP/1.1 " + QByteArray::number(status) + ' ' + ReasonOf(status) + "\r\n" + extraHeaders +
                    (status == 304 ? "" : "Content-Length: 0\r\n") + "Connection: close\r\n\r\n");
-    m_log(QStringLiteral("%1 /%2 ").arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
+    m_log(u"%1 /%2 "_s.arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
           QString::number(status) + remark);
     End();
 }

@@ -25,8 +25,8 @@ constexpr Syntax SYNTAX[] = {
 
 std::optional<ServerFault> ParseServerFault(QString const& text)
 {
-    int const first = text.indexOf(QLatin1Char(':'));
-    int const last = text.lastIndexOf(QLatin1Char(':'));
+    int const first = text.indexOf(u':');
+    int const last = text.lastIndexOf(u':');
     bool isNumber = false;
     qint64 const number = text.mid(last + 1).toLongLong(&isNumber);
     for (Syntax const& syntax : SYNTAX)

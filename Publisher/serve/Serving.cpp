@@ -26,14 +26,14 @@ constexpr std::uint64_t MOST_PEM_BYTES = 1 << 20;
 
 ServerCertificate ReadCertificate(QString const& certificateFile, QString const& keyFile)
 {
-    QString const mend = QStringLiteral("give the files of the server: certificate chain, then key, both PEM");
+    QString const mend = u"give the files of the server: certificate chain, then key, both PEM"_s;
     QByteArray const key = ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend);
     ServerCertificate certificate;
     certificate.chain =
         QSslCertificate::fromData(ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend), QSsl::Pem);
     if (certificate.chain.isEmpty())
     {
-        throw Refusal({certificateFile, 0, 0, QStringLiteral("holds no certificate"), mend});
+        throw Refusal({certificateFile, u"holds no certificate"_s, mend});
     }
     for (QSsl::KeyAlgorithm const algorithm : {QSsl::Rsa, QSsl::Ec})
     {
@@ -43,7 +43,7 @@ ServerCertificate ReadCertificate(QString const& certificateFile, QString const&
             return certificate;
         }
     }
-    throw Refusal({keyFile, 0, 0, QStringLiteral("holds no RSA or EC key without a password"), mend});
+    throw Refusal({keyFile, u"holds no RSA or EC key without a password"_s, mend});
 }
 
 std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
@@ -54,12 +54,9 @@ std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
         std::optional<ServerFault> fault = ParseServerFault(QString::fromStdString(text));
         if (!fault)
         {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--fault: \"%1\" is no fault").arg(QString::fromStdString(text)),
-                           QStringLiteral("say truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or "
-                                          "drop:NAME:BYTES")});
+            throw Refusal({u"--fault: \"%1\" is no fault"_s.arg(QString::fromStdString(text)),
+                           u"say truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or "
+                           "drop:NAME:BYTES"_s});
         }
         faults.push_back(std::move(*fault));
     }
@@ -68,18 +65,15 @@ std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
 
 std::vector<QByteArray> ParseHosts(std::vector<std::string> const& hosts)
 {
-    static QRegularExpression const NAME(QStringLiteral("^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"));
+    static QRegularExpression const NAME(u"^[A-Za-z0-9._-]+$|^[0-9a-fA-F:.]+$"_s);
     std::vector<QByteArray> names;
     for (std::string const& host : hosts)
     {
         QByteArray const name = HostName(QByteArray::fromStdString(host));
         if (name.isEmpty() || !NAME.match(QString::fromLatin1(name)).hasMatch())
         {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--host: \"%1\" is no name").arg(QString::fromStdString(host)),
-                           QStringLiteral("give a name such as updates.example.com")});
+            throw Refusal({u"--host: \"%1\" is no name"_s.arg(QString::fromStdString(host)),
+                           u"give a name such as updates.example.com"_s});
         }
         names.push_back(name);
     }
@@ -110,7 +104,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
     Engine::UniqueFd folder(::open(QFile::encodeName(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
     {
-        RefuseFile(name, QStringLiteral("cannot be served"), errno, QStringLiteral("name the folder of the feed"));
+        RefuseFile(name, u"cannot be served"_s, errno, u"name the folder of the feed"_s);
     }
     std::optional<ServerCertificate> certificate;
     if (!options.tls.empty())
@@ -123,11 +117,8 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
     {
         if (fault.kind != ServerFaultKind::Status && !OpenServedFile(folder.Get(), fault.name).file)
         {
-            throw Refusal({{},
-                           0,
-                           0,
-                           QStringLiteral("--fault: \"%1\" is no file that is served").arg(fault.name),
-                           QStringLiteral("give its path below the folder")});
+            throw Refusal(
+                {u"--fault: \"%1\" is no file that is served"_s.arg(fault.name), u"give its path below the folder"_s});
         }
     }
     manners.hosts = ParseHosts(options.hosts);
@@ -135,11 +126,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
                       [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
     if (!server.Listen(options.port))
     {
-        throw Refusal({{},
-                       0,
-                       0,
-                       QStringLiteral("port %1 cannot be listened on").arg(options.port),
-                       QStringLiteral("leave --port away to get a free one")});
+        throw Refusal({u"port %1 cannot be listened on"_s.arg(options.port), u"leave --port away to get a free one"_s});
     }
     console.Print(server.Address());
     if (!console.out.stream.flush())

@@ -24,7 +24,7 @@ Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
     if (!feed)
     {
         throw Refusal({name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                       QStringLiteral("mend the feed; clients do not read it")});
+                       u"mend the feed; clients do not read it"_s});
     }
     return feed->channel;
 }
@@ -40,23 +40,22 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
     qint64 const published = PublishedSerial(channel);
     if (terms.serial && *terms.serial <= published)
     {
-        throw Refusal({name, 0, 0, QStringLiteral("has the serial %1 already, which must grow").arg(published),
-                       QStringLiteral("give a greater --serial, or none")});
+        throw Refusal({name, u"has the serial %1 already, which must grow"_s.arg(published),
+                       u"give a greater --serial, or none"_s});
     }
     if (!terms.serial && published == std::numeric_limits<qint64>::max())
     {
-        throw Refusal({name, 0, 0, QStringLiteral("has the greatest serial that there is"),
-                       QStringLiteral("publish a feed at another address")});
+        throw Refusal({name, u"has the greatest serial that there is"_s, u"publish a feed at another address"_s});
     }
     // A serial without the option is the time. A clock that was set back makes an expiry that has passed.
     constexpr qint64 A_DAY = 86400;
     constexpr qint64 LAST_TIME = 4102444800; // of 2100; what is above is no time
     if (!terms.serial && published > terms.now.toSecsSinceEpoch() + A_DAY && published < LAST_TIME)
     {
-        throw Refusal({name, 0, 0,
-                       QStringLiteral("was signed at %1 by its serial, but the clock of this computer says %2")
-                           .arg(MomentText(QDateTime::fromSecsSinceEpoch(published, Qt::UTC)), MomentText(terms.now)),
-                       QStringLiteral("set the clock, or give sign-feed a --serial")});
+        throw Refusal({name,
+                       u"was signed at %1 by its serial, but the clock of this computer says %2"_s.arg(
+                           MomentText(QDateTime::fromSecsSinceEpoch(published, Qt::UTC)), MomentText(terms.now)),
+                       u"set the clock, or give sign-feed a --serial"_s});
     }
     // The time, so that a feed that is made from nothing is not below the one that clients have seen.
     return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
@@ -74,15 +73,15 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
     if (feed.fault != Engine::SignedFeedFault::None)
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
-                       QStringLiteral("has a signature that is not alone on the last line, or is damaged"),
-                       QStringLiteral("look at what changed the feed, and remove every line with a signature")});
+                       u"has a signature that is not alone on the last line, or is damaged"_s,
+                       u"look at what changed the feed, and remove every line with a signature"_s});
     }
     bool const isOurs = Engine::VerifyFeed(bytes, {key.PublicKeyText().toStdString()}).has_value();
     if (!isOurs && changed == ChangedFeed::Refused)
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
-                       QStringLiteral("was changed after it was signed, or was signed by another key"),
-                       QStringLiteral("look at what changed, and say sign-feed --accept-changes if it is right")});
+                       u"was changed after it was signed, or was signed by another key"_s,
+                       u"look at what changed, and say sign-feed --accept-changes if it is right"_s});
     }
     return {bytes.left(feed.contentBytes), true};
 }
@@ -91,36 +90,35 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QString con
 {
     constexpr std::uint64_t MOST_LINE_BYTES = 64 * 1024;
     QByteArray const line =
-        ReadInputFile(OpenInputFile(statementFile), MOST_LINE_BYTES, QStringLiteral("give the statement's file"));
+        ReadInputFile(OpenInputFile(statementFile), MOST_LINE_BYTES, u"give the statement's file"_s);
     auto const given = Engine::FindKeyStatement(line);
     auto const statement = given ? Engine::ParseKeyStatement(given->text) : std::nullopt;
-    QString const option = QStringLiteral("--key-statement");
+    QString const option = u"--key-statement"_s;
     if (!statement || given->size != line.size())
     {
-        throw Refusal({option, 0, 0, QStringLiteral("is no key statement"),
-                       QStringLiteral("give the file with the one line that \"keys state\" printed")});
+        throw Refusal(
+            {option, u"is no key statement"_s, u"give the file with the one line that \"keys state\" printed"_s});
     }
     QString const id = QString::fromStdString(Engine::KeyIdOf(key.PublicKeyText().toStdString()));
     if (!statement->validKeys.HasId(id.toStdString()))
     {
-        throw Refusal({option, 0, 0,
-                       QStringLiteral("does not say that the key %1 is valid, which signs the feed").arg(id),
-                       QStringLiteral("sign with a key that is valid by it, or make another statement")});
+        throw Refusal({option, u"does not say that the key %1 is valid, which signs the feed"_s.arg(id),
+                       u"sign with a key that is valid by it, or make another statement"_s});
     }
     auto const published = Engine::FindKeyStatement(content);
     if (!published && published.error().cause == Engine::ErrorCause::KeyStatementMalformed)
     {
-        throw Refusal({name, 0, 0, QStringLiteral("has a key statement that is damaged or stands twice"),
-                       QStringLiteral("remove every line with one")});
+        throw Refusal(
+            {name, u"has a key statement that is damaged or stands twice"_s, u"remove every line with one"_s});
     }
     auto const before = published ? Engine::ParseKeyStatement(published->text) : std::nullopt;
     if (before && before->serial > statement->serial)
     {
-        throw Refusal({option, 0, 0,
-                       QStringLiteral("has the serial %1, and the published one has %2, which clients go on asking for")
-                           .arg(statement->serial)
-                           .arg(before->serial),
-                       QStringLiteral("make a statement with a greater --serial")});
+        throw Refusal(
+            {option,
+             u"has the serial %1, and the published one has %2, which clients go on asking for"_s.arg(statement->serial)
+                 .arg(before->serial),
+             u"make a statement with a greater --serial"_s});
     }
     if (published)
     {
@@ -145,15 +143,15 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
     auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
     if (!verified || !Engine::ReadFeedValidity(ReadChannel(name, *verified)))
     {
-        throw Refusal({name, 0, 0, QStringLiteral("clients would not take the signature"),
-                       QStringLiteral("remove what looks like a signature from the feed's texts")});
+        throw Refusal({name, u"clients would not take the signature"_s,
+                       u"remove what looks like a signature from the feed's texts"_s});
     }
     return result;
 }
 
 QString TextOf(Engine::FeedValidity const& terms)
 {
-    return QStringLiteral("signed with serial %1, expires %2").arg(terms.serial).arg(MomentText(terms.expires));
+    return u"signed with serial %1, expires %2"_s.arg(terms.serial).arg(MomentText(terms.expires));
 }
 
 } // namespace Pelnar::Publisher

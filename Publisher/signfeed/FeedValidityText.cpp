@@ -58,11 +58,11 @@ public:
                 break;
             }
         }
-        bool const hasChannel = m_places.channelStart > 1 && m_text.at(m_places.channelStart - 2) != QLatin1Char('/');
+        bool const hasChannel = m_places.channelStart > 1 && m_text.at(m_places.channelStart - 2) != u'/';
         if (!hasChannel)
         {
-            throw Refusal({m_name, 1, 0, QStringLiteral("has no channel that could hold a serial"),
-                           QStringLiteral("write <rss><channel> and </channel></rss> around the items")});
+            throw Refusal({m_name, 1, 0, u"has no channel that could hold a serial"_s,
+                           u"write <rss><channel> and </channel></rss> around the items"_s});
         }
         return m_places;
     }
@@ -73,28 +73,27 @@ private:
         int const offset = int(m_reader.characterOffset());
         if (m_depth == CHANNEL_DEPTH)
         {
-            bool const isChannel = m_reader.namespaceUri().isEmpty() && m_reader.name() == QLatin1String("channel");
+            bool const isChannel = m_reader.namespaceUri().isEmpty() && m_reader.name() == "channel"_l;
             m_isInChannel = isChannel;
             m_places.channelStart = isChannel && m_places.channelStart < 0 ? offset : m_places.channelStart;
             return;
         }
         if (m_open)
         {
-            throw Refusal({m_name, int(m_reader.lineNumber()), 0,
-                           QStringLiteral("the serial or the expiry has elements in it"),
-                           QStringLiteral("leave nothing but text in the feed's own elements")});
+            throw Refusal({m_name, int(m_reader.lineNumber()), 0, u"the serial or the expiry has elements in it"_s,
+                           u"leave nothing but text in the feed's own elements"_s});
         }
         bool const isOwn = m_isInChannel && m_depth == CHANNEL_DEPTH + 1 &&
                            m_reader.namespaceUri() == QLatin1String(Engine::OWN_FEED_NAMESPACE);
-        Range* const range = !isOwn                                        ? nullptr
-                             : m_reader.name() == QLatin1String("serial")  ? &m_places.serial
-                             : m_reader.name() == QLatin1String("expires") ? &m_places.expires
-                                                                           : nullptr;
-        if (range && (range->start >= 0 || m_text.at(offset - 2) == QLatin1Char('/')))
+        Range* const range = !isOwn                           ? nullptr
+                             : m_reader.name() == "serial"_l  ? &m_places.serial
+                             : m_reader.name() == "expires"_l ? &m_places.expires
+                                                              : nullptr;
+        if (range && (range->start >= 0 || m_text.at(offset - 2) == u'/'))
         {
             throw Refusal({m_name, int(m_reader.lineNumber()), 0,
-                           QStringLiteral("the element \"%1\" stands there twice or is empty").arg(m_reader.name()),
-                           QStringLiteral("remove it")});
+                           u"the element \"%1\" stands there twice or is empty"_s.arg(m_reader.name()),
+                           u"remove it"_s});
         }
         if (range)
         {
@@ -107,7 +106,7 @@ private:
     {
         if (m_open)
         {
-            m_open->end = m_text.lastIndexOf(QLatin1Char('<'), int(m_reader.characterOffset()) - 1);
+            m_open->end = m_text.lastIndexOf(u'<', int(m_reader.characterOffset()) - 1);
             m_open = nullptr;
         }
     }
@@ -130,22 +129,22 @@ QString GapBehind(QString const& text, int offset)
         ++end;
     }
     QString const blanks = text.mid(offset, end - offset);
-    int const lastLine = blanks.lastIndexOf(QLatin1Char('\n'));
-    int const lineEnd = lastLine > 0 && blanks.at(lastLine - 1) == QLatin1Char('\r') ? lastLine - 1 : lastLine;
+    int const lastLine = blanks.lastIndexOf(u'\n');
+    int const lineEnd = lastLine > 0 && blanks.at(lastLine - 1) == u'\r' ? lastLine - 1 : lastLine;
     return lastLine < 0 ? QString() : blanks.mid(lineEnd);
 }
 
 QString ElementOf(char const* name, QString const& value)
 {
-    return QStringLiteral("<pelnar:%1 xmlns:pelnar=\"%2\">%3</pelnar:%1>")
-        .arg(QLatin1String(name), QLatin1String(Engine::OWN_FEED_NAMESPACE), value);
+    return u"<pelnar:%1 xmlns:pelnar=\"%2\">%3</pelnar:%1>"_s.arg(QLatin1String(name),
+                                                                  QLatin1String(Engine::OWN_FEED_NAMESPACE), value);
 }
 
 } // namespace
 
 QString MomentText(QDateTime const& moment)
 {
-    return moment.toUTC().toString(QStringLiteral("yyyy-MM-dd'T'HH:mm:ss'Z'"));
+    return moment.toUTC().toString(u"yyyy-MM-dd'T'HH:mm:ss'Z'"_s);
 }
 
 QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::FeedValidity const& terms)
@@ -154,8 +153,7 @@ QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::Fee
     QString text = QString::fromUtf8(content.constData(), content.size());
     if ((hasMark ? BYTE_ORDER_MARK + text.toUtf8() : text.toUtf8()) != content)
     {
-        throw Refusal({name, 1, 0, QStringLiteral("is not UTF-8, and only such feeds are signed"),
-                       QStringLiteral("convert the feed to UTF-8")});
+        throw Refusal({name, 1, 0, u"is not UTF-8, and only such feeds are signed"_s, u"convert the feed to UTF-8"_s});
     }
     TermsPlaces const places = TermsFinder(name, text).Find();
     QString const gap = GapBehind(text, places.channelStart);

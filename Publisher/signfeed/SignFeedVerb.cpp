@@ -31,7 +31,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     QString const name = QString::fromStdString(options.feed);
     QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
     FolderLock const lock(QFileInfo(output).absolutePath(), console);
-    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, QStringLiteral("drop old items"));
+    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"drop old items"_s);
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
     FeedContent const content = ReadFeedContent(name, bytes, *signer, changed);
@@ -45,7 +45,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     AtomicFile file(output);
     file.Write(feed.bytes);
     file.Commit(ExistingFile::Replace);
-    console.Print(QStringLiteral("%1: %2").arg(output, TextOf(feed.terms)));
+    console.Print(u"%1: %2"_s.arg(output, TextOf(feed.terms)));
     return ExitStatus::Clean;
 }
 

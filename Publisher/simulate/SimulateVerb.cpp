@@ -52,12 +52,12 @@ QJsonObject JsonOf(Simulation const& simulation, SimulateOptions const& options,
         std::copy(simulation.counts[day].begin(), simulation.counts[day].end(), std::back_inserter(counts));
         days.append(counts);
     }
-    return {{QStringLiteral("feed"), feed},
-            {QStringLiteral("platform"), QString::fromStdString(options.platform)},
-            {QStringLiteral("clients"), options.clients},
-            {QStringLiteral("start"), start.toUTC().toString(Qt::ISODate)},
-            {QStringLiteral("versions"), QJsonArray::fromStringList(simulation.versions)},
-            {QStringLiteral("counts"), days}};
+    return {{u"feed"_s, feed},
+            {u"platform"_s, QString::fromStdString(options.platform)},
+            {u"clients"_s, options.clients},
+            {u"start"_s, start.toUTC().toString(Qt::ISODate)},
+            {u"versions"_s, QJsonArray::fromStringList(simulation.versions)},
+            {u"counts"_s, days}};
 }
 
 ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
@@ -65,18 +65,17 @@ ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
     SimulationRequest request;
     request.installation = InstallationOf(options.installation);
     request.systemVersion =
-        ParseSystemVersion(QStringLiteral("--system-version"), QString::fromStdString(options.systemVersion)).version;
+        ParseSystemVersion(u"--system-version"_s, QString::fromStdString(options.systemVersion)).version;
     ParsedFeed const feed =
         ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
                   {PlatformFromName(QString::fromStdString(options.platform)), request.installation.machine}, console);
-    request.startVersions = options.versions.empty()
-                                ? VersionsOfFeed(feed.items)
-                                : ParseVersionList(QStringLiteral("--versions"),
-                                                   QString::fromStdString(options.versions), ParseLocalVersion);
+    request.startVersions =
+        options.versions.empty()
+            ? VersionsOfFeed(feed.items)
+            : ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
     if (request.startVersions.empty())
     {
-        throw Refusal({feed.source.name, 0, 0, QStringLiteral("names no version to begin with"),
-                       QStringLiteral("give --versions")});
+        throw Refusal({feed.source.name, u"names no version to begin with"_s, u"give --versions"_s});
     }
     request.clients = options.clients;
     request.days = options.days;

@@ -193,10 +193,10 @@ QStringList TextOf(Simulation const& simulation, QDateTime const& start)
 {
     constexpr int DATE_WIDTH = 12;
     constexpr int COUNT_WIDTH = 8;
-    QString head = QStringLiteral("day").leftJustified(DATE_WIDTH);
+    QString head = u"day"_s.leftJustified(DATE_WIDTH);
     for (QString const& version : simulation.versions)
     {
-        head += QStringLiteral("  ") + version.rightJustified(COUNT_WIDTH);
+        head += u"  "_s + version.rightJustified(COUNT_WIDTH);
     }
     QStringList lines{head};
     for (std::size_t day = 0; day < simulation.counts.size(); ++day)
@@ -205,7 +205,7 @@ QStringList TextOf(Simulation const& simulation, QDateTime const& start)
         for (std::size_t i = 0; i < simulation.counts[day].size(); ++i)
         {
             int const width = std::max(COUNT_WIDTH, simulation.versions.at(int(i)).size());
-            line += QStringLiteral("  ") + QString::number(simulation.counts[day][i]).rightJustified(width);
+            line += u"  "_s + QString::number(simulation.counts[day][i]).rightJustified(width);
         }
         lines.append(line);
     }

@@ -31,9 +31,8 @@ public:
     QByteArray Draw(QDateTime const& start)
     {
         int const legendHeight = TOP + LINE * m_simulation.versions.size();
-        m_stream << QStringLiteral("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" "
-                                   "font-family=\"sans-serif\" font-size=\"12\">\n")
-                        .arg(LEFT + WIDTH + LEGEND)
+        m_stream << u"<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"%1\" height=\"%2\" "
+                    "font-family=\"sans-serif\" font-size=\"12\">\n"_s.arg(LEFT + WIDTH + LEGEND)
                         .arg(std::max(TOP + HEIGHT + 2 * LINE, legendHeight));
         m_stream << "<rect width=\"100%\" height=\"100%\" fill=\"white\"/>\n";
         for (int version = 0; version < m_simulation.versions.size(); ++version)
@@ -41,7 +40,7 @@ public:
             DrawVersion(version);
         }
         DrawText(LEFT - 8, TOP + 10, "end", QString::number(m_clients));
-        DrawText(LEFT - 8, TOP + HEIGHT, "end", QStringLiteral("0"));
+        DrawText(LEFT - 8, TOP + HEIGHT, "end", u"0"_s);
         DrawText(LEFT, TOP + HEIGHT + LINE, "start", DayText(start, 0));
         DrawText(LEFT + WIDTH, TOP + HEIGHT + LINE, "end", DayText(start, m_days));
         m_stream << "</svg>\n";
@@ -60,8 +59,7 @@ private:
     {
         std::vector<int> const& counts = m_simulation.counts[std::size_t(day)];
         int const below = std::accumulate(counts.begin(), counts.begin() + versions, 0);
-        return QStringLiteral("%1,%2 ")
-            .arg(LEFT + double(WIDTH) * day / std::max(1, m_days), 0, 'f', 1)
+        return u"%1,%2 "_s.arg(LEFT + double(WIDTH) * day / std::max(1, m_days), 0, 'f', 1)
             .arg(TOP + HEIGHT - double(HEIGHT) * below / m_clients, 0, 'f', 1);
     }
 
@@ -78,9 +76,8 @@ private:
         }
         QString const colour = QLatin1String(COLOURS[std::size_t(version) % std::size(COLOURS)]);
         int const y = TOP + LINE * version;
-        m_stream << QStringLiteral("<polygon points=\"%1\" fill=\"%2\"/>\n").arg(points.trimmed(), colour);
-        m_stream << QStringLiteral("<rect x=\"%1\" y=\"%2\" width=\"12\" height=\"12\" fill=\"%3\"/>\n")
-                        .arg(LEFT + WIDTH + 16)
+        m_stream << u"<polygon points=\"%1\" fill=\"%2\"/>\n"_s.arg(points.trimmed(), colour);
+        m_stream << u"<rect x=\"%1\" y=\"%2\" width=\"12\" height=\"12\" fill=\"%3\"/>\n"_s.arg(LEFT + WIDTH + 16)
                         .arg(y)
                         .arg(colour);
         DrawText(LEFT + WIDTH + 34, y + 10, "start", m_simulation.versions.at(version));
@@ -88,10 +85,8 @@ private:
 
     void DrawText(int x, int y, char const* anchor, QString const& text)
     {
-        m_stream << QStringLiteral("<text x=\"%1\" y=\"%2\" text-anchor=\"%3\">%4</text>\n")
-                        .arg(x)
-                        .arg(y)
-                        .arg(QLatin1String(anchor), text.toHtmlEscaped());
+        m_stream << u"<text x=\"%1\" y=\"%2\" text-anchor=\"%3\">%4</text>\n"_s.arg(x).arg(y).arg(QLatin1String(anchor),
+                                                                                                  text.toHtmlEscaped());
     }
 
     Simulation const& m_simulation;

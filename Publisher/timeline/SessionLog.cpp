@@ -24,9 +24,8 @@ std::map<int, Core::LogSite const*> const& SitesByLine()
 /// Severity, date (with or without the year), time, thread, file and line.
 QRegularExpression const& RecordPattern()
 {
-    static QRegularExpression const pattern(
-        QStringLiteral("^[IWEF]\\d{4,8} (?<time>\\d\\d:\\d\\d:\\d\\d(?:\\.\\d+)?)\\s+\\d+ "
-                       "SparkleManager:(?<line>\\d+)\\] ?(?<text>.*)$"));
+    static QRegularExpression const pattern(u"^[IWEF]\\d{4,8} (?<time>\\d\\d:\\d\\d:\\d\\d(?:\\.\\d+)?)\\s+\\d+ "
+                                            "SparkleManager:(?<line>\\d+)\\] ?(?<text>.*)$"_s);
     return pattern;
 }
 
@@ -39,14 +38,14 @@ SessionLog ReadSessionLog(std::istream& log)
     for (int number = 1; std::getline(log, line); ++number)
     {
         QString text = QString::fromStdString(line);
-        text.chop(text.endsWith(QLatin1Char('\r')) ? 1 : 0);
+        text.chop(text.endsWith(u'\r') ? 1 : 0);
         QRegularExpressionMatch const match = RecordPattern().match(text);
         if (!match.hasMatch())
         {
             continue;
         }
-        SessionRecord record{number, match.captured(QStringLiteral("time")), nullptr,
-                             match.captured(QStringLiteral("line")).toInt(), match.captured(QStringLiteral("text"))};
+        SessionRecord record{number, match.captured(u"time"_s), nullptr, match.captured(u"line"_s).toInt(),
+                             match.captured(u"text"_s)};
         auto const site = SitesByLine().find(record.siteLine);
         QString const prefix = site == SitesByLine().end() ? QString() : QString::fromLatin1(site->second->prefix);
         bool const hasPrefix = prefix.isEmpty() || record.text.startsWith(prefix);
@@ -57,7 +56,7 @@ SessionLog ReadSessionLog(std::istream& log)
         }
         record.site = site->second;
         record.text = record.text.mid(prefix.size());
-        if (!prefix.isEmpty() && record.text.startsWith(QLatin1String(": ")))
+        if (!prefix.isEmpty() && record.text.startsWith(": "_l))
         {
             record.text = record.text.mid(2);
         }
@@ -69,13 +68,13 @@ SessionLog ReadSessionLog(std::istream& log)
 QString OperationName(Core::LogSite const& site)
 {
     QString name = QString::fromLatin1(site.prefix);
-    if (name.startsWith(QLatin1String("-[")))
+    if (name.startsWith("-["_l))
     {
         // "-[Class method:part:]"
-        return name.mid(name.indexOf(QLatin1Char(' ')) + 1).chopped(1);
+        return name.mid(name.indexOf(u' ') + 1).chopped(1);
     }
-    name.truncate(name.indexOf(QLatin1Char('(')));
-    return name.mid(name.lastIndexOf(QLatin1Char(':')) + 1);
+    name.truncate(name.indexOf(u'('));
+    return name.mid(name.lastIndexOf(u':') + 1);
 }
 
 } // namespace Pelnar::Publisher

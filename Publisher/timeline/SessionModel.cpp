@@ -33,7 +33,7 @@ std::optional<State> StateFromName(QString const& name)
 
 QString NameOf(std::optional<State> state)
 {
-    return state ? QString::fromLatin1(App::Session::StateName(*state)) : QStringLiteral("unknown");
+    return state ? QString::fromLatin1(App::Session::StateName(*state)) : u"unknown"_s;
 }
 
 bool EndsWithResult(State state)
@@ -156,12 +156,12 @@ void SessionModel::CheckFollowUp(SessionRecord const& record)
 {
     if (m_mustUnlock && record.site != &Sites::UNLOCK)
     {
-        AddWrong(record, QStringLiteral("the lock was to be given back here: its holder had left"));
+        AddWrong(record, u"the lock was to be given back here: its holder had left"_s);
     }
     m_mustUnlock = false;
     if (m_unexplainedIdle && record.site != &Sites::UNLOCK && record.site != &Sites::DESTROY_UPDATER)
     {
-        AddWrong(*m_unexplainedIdle, QStringLiteral("nothing that was going on ends in WAITING here"));
+        AddWrong(*m_unexplainedIdle, u"nothing that was going on ends in WAITING here"_s);
         m_unexplainedIdle.reset();
     }
 }
@@ -172,34 +172,33 @@ void SessionModel::TakeStatedState(SessionRecord const& record)
     std::optional<State> const stated = StateFromName(name);
     if (!stated)
     {
-        AddWrong(record, QStringLiteral("%1 is no state").arg(name));
+        AddWrong(record, u"%1 is no state"_s.arg(name));
         return;
     }
     if (m_state && *m_state != *stated)
     {
-        AddWrong(record, QStringLiteral("the state is %1, and the last switch left %2").arg(name, NameOf(m_state)));
+        AddWrong(record, u"the state is %1, and the last switch left %2"_s.arg(name, NameOf(m_state)));
     }
     m_state = stated;
 }
 
 void SessionModel::TakeSwitch(SessionRecord const& record)
 {
-    QStringList const words = record.text.split(QLatin1Char(' '));
+    QStringList const words = record.text.split(u' ');
     std::optional<State> const from = words.size() == 5 ? StateFromName(words.at(2)) : std::nullopt;
     std::optional<State> const to = words.size() == 5 ? StateFromName(words.at(4)) : std::nullopt;
     if (!from || !to)
     {
-        AddWrong(record, QStringLiteral("no switch between two states: %1").arg(record.text));
+        AddWrong(record, u"no switch between two states: %1"_s.arg(record.text));
         return;
     }
     bool const isFirst = m_previous.site == nullptr;
     if (m_state && *m_state != *from)
     {
-        AddWrong(record,
-                 QStringLiteral("the switch leaves %1, and the state was %2").arg(NameOf(from), NameOf(m_state)));
+        AddWrong(record, u"the switch leaves %1, and the state was %2"_s.arg(NameOf(from), NameOf(m_state)));
     }
     m_state = to;
-    Add(record, EventKind::State, QStringLiteral("%1 -> %2").arg(NameOf(from), NameOf(to)));
+    Add(record, EventKind::State, u"%1 -> %2"_s.arg(NameOf(from), NameOf(to)));
     if (CloseOperationFor(*from, *to) || isFirst)
     {
         return;
@@ -209,7 +208,7 @@ void SessionModel::TakeSwitch(SessionRecord const& record)
         m_unexplainedIdle = record;
         return;
     }
-    AddWrong(record, QStringLiteral("nothing that was going on leads from %1 to %2").arg(NameOf(from), NameOf(to)));
+    AddWrong(record, u"nothing that was going on leads from %1 to %2"_s.arg(NameOf(from), NameOf(to)));
 }
 
 bool SessionModel::CloseOperationFor(State from, State to)
@@ -229,18 +228,18 @@ void SessionModel::TakeLock(SessionRecord const& record)
     if (record.site == &Sites::LOCK_UPDATER_REFUSED)
     {
         Add(record, EventKind::Lock,
-            m_isLocked.value_or(false) ? QStringLiteral("refused: holder %1 has it").arg(m_holder)
-                                       : QStringLiteral("refused: the framework is busy"));
+            m_isLocked.value_or(false) ? u"refused: holder %1 has it"_s.arg(m_holder)
+                                       : u"refused: the framework is busy"_s);
     }
     else if (record.site == &Sites::SET_CONTEXT)
     {
         if (m_isLocked.value_or(false))
         {
-            AddWrong(record, QStringLiteral("the lock is taken while holder %1 has it").arg(m_holder));
+            AddWrong(record, u"the lock is taken while holder %1 has it"_s.arg(m_holder));
         }
         if (m_previous.site && m_previous.site != &Sites::LOCK)
         {
-            AddWrong(record, QStringLiteral("the session is lent without its lock"));
+            AddWrong(record, u"the session is lent without its lock"_s);
         }
         m_isLocked = true;
         m_isUnlockRequested = false;
@@ -248,7 +247,7 @@ void SessionModel::TakeLock(SessionRecord const& record)
     }
     else if (record.site == &Sites::SET_CONTEXT_FEED)
     {
-        Add(record, EventKind::Lock, QStringLiteral("taken by holder %1, %2").arg(m_holder).arg(record.text));
+        Add(record, EventKind::Lock, u"taken by holder %1, %2"_s.arg(m_holder).arg(record.text));
     }
 }
 
@@ -258,8 +257,7 @@ void SessionModel::TakeUnlock(SessionRecord const& record)
     {
         bool const isIdle = m_state == State::WAITING;
         Add(record, EventKind::Lock,
-            isIdle ? QStringLiteral("the holder leaves")
-                   : QStringLiteral("the holder leaves; the lock waits for WAITING"));
+            isIdle ? u"the holder leaves"_s : u"the holder leaves; the lock waits for WAITING"_s);
         m_mustUnlock = isIdle;
         m_isUnlockRequested = isIdle ? m_isUnlockRequested : true;
     }
@@ -274,10 +272,10 @@ void SessionModel::TakeUnlock(SessionRecord const& record)
                               !m_previous.site;
         if (!wasAsked)
         {
-            AddWrong(record, QStringLiteral("the lock is given back, and nobody asked for it"));
+            AddWrong(record, u"the lock is given back, and nobody asked for it"_s);
         }
         Release();
-        Add(record, EventKind::Lock, QStringLiteral("free"));
+        Add(record, EventKind::Lock, u"free"_s);
     }
 }
 
@@ -295,11 +293,11 @@ void SessionModel::TakeCommand(SessionRecord const& record)
         ++m_checks;
         Open(record.site);
         Add(record, EventKind::Command,
-            record.site == &Sites::CHECK ? QStringLiteral("check %1: information only").arg(m_checks)
-                                         : QStringLiteral("check %1: the update dialog").arg(m_checks));
+            record.site == &Sites::CHECK ? u"check %1: information only"_s.arg(m_checks)
+                                         : u"check %1: the update dialog"_s.arg(m_checks));
         if (m_isLocked && !*m_isLocked)
         {
-            AddWrong(record, QStringLiteral("a check begins while nobody holds the lock"));
+            AddWrong(record, u"a check begins while nobody holds the lock"_s);
         }
     }
     else if (record.site == &Sites::CHECK_RAISED || record.site == &Sites::SHOW_DIALOG_RAISED)
@@ -309,7 +307,7 @@ void SessionModel::TakeCommand(SessionRecord const& record)
     }
     else if (record.site == &Sites::REJECT)
     {
-        Add(record, EventKind::Command, QStringLiteral("the update is rejected, a dialog closed"));
+        Add(record, EventKind::Command, u"the update is rejected, a dialog closed"_s);
     }
 }
 
@@ -319,13 +317,13 @@ void SessionModel::TakeCallback(SessionRecord const& record)
     Add(record, EventKind::Callback, OperationName(*record.site));
     if (m_state && !IsExpected(record.site, *m_state))
     {
-        AddWrong(record, QStringLiteral("%1 cannot come in %2").arg(OperationName(*record.site), NameOf(m_state)));
+        AddWrong(record, u"%1 cannot come in %2"_s.arg(OperationName(*record.site), NameOf(m_state)));
     }
 }
 
 void SessionModel::TakeChoice(SessionRecord const& record)
 {
-    QString const value = record.text.mid(record.text.indexOf(QLatin1String(" = ")) + 3);
+    QString const value = record.text.mid(record.text.indexOf(" = "_l) + 3);
     if (record.site == &Sites::BEST_ITEM_DETECTED)
     {
         m_isBestItemNext = true;
@@ -337,7 +335,7 @@ void SessionModel::TakeChoice(SessionRecord const& record)
     else if (record.site == &Sites::DUMP_UPDATE_TYPE && m_isBestItemNext)
     {
         m_isBestItemNext = false;
-        Add(record, EventKind::Choice, QStringLiteral("the best item is %1, %2").arg(m_dumpedVersion, value));
+        Add(record, EventKind::Choice, u"the best item is %1, %2"_s.arg(m_dumpedVersion, value));
     }
     else if (record.site == &Sites::FOUND_UPDATE_TYPE || record.site == &Sites::BEST_ITEM_NOT_DETECTED ||
              record.site == &Sites::RELAUNCH_PATH_ANSWER)
@@ -354,20 +352,20 @@ void SessionModel::TakeRest(SessionRecord const& record)
         m_state = State::WAITING;
         Release();
         m_open.clear();
-        Add(record, EventKind::Process, QStringLiteral("the session begins"));
+        Add(record, EventKind::Process, u"the session begins"_s);
     }
     else if (record.site == &Sites::DESTROY_UPDATER)
     {
         m_unexplainedIdle.reset();
-        Add(record, EventKind::Process, QStringLiteral("the session ends"));
+        Add(record, EventKind::Process, u"the session ends"_s);
     }
     else if (record.site == &Sites::NOTIFY_CHECK_FINISHED)
     {
         if (m_state && *m_state != State::WAITING)
         {
-            AddWrong(record, QStringLiteral("the holder is told before the state is WAITING"));
+            AddWrong(record, u"the holder is told before the state is WAITING"_s);
         }
-        Add(record, EventKind::Told, QStringLiteral("the check is over"));
+        Add(record, EventKind::Told, u"the check is over"_s);
     }
     else if (record.site->severity == Core::LogSeverity::Error && record.site != &Sites::LOCK_UPDATER_REFUSED &&
              record.site != &Sites::CHECK_RAISED && record.site != &Sites::SHOW_DIALOG_RAISED)
@@ -413,7 +411,7 @@ Timeline SessionModel::Finish()
 {
     if (m_unexplainedIdle)
     {
-        AddWrong(*m_unexplainedIdle, QStringLiteral("nothing that was going on ends in WAITING here"));
+        AddWrong(*m_unexplainedIdle, u"nothing that was going on ends in WAITING here"_s);
     }
     return std::move(m_timeline);
 }

@@ -50,9 +50,9 @@ Timeline RebuildTimeline(SessionLog const& log)
     for (SessionRecord const& stranger : log.strangers)
     {
         TimelineEvent event{stranger.logLine, stranger.time, EventKind::Wrong, QString(), 0, 0, std::nullopt};
-        event.text = QStringLiteral("line %1 of the session's source writes no such record in this version: %2")
-                         .arg(stranger.siteLine)
-                         .arg(stranger.text);
+        event.text =
+            u"line %1 of the session's source writes no such record in this version: %2"_s.arg(stranger.siteLine)
+                .arg(stranger.text);
         timeline.events.push_back(event);
     }
     std::stable_sort(timeline.events.begin(), timeline.events.end(),

@@ -44,10 +44,9 @@ Emphasis EmphasisOf(EventKind kind)
 
 void PrintEvent(TimelineEvent const& event, Console const& console)
 {
-    QString const holder = event.holder > 0 ? QStringLiteral("holder %1").arg(event.holder) : QStringLiteral("-");
+    QString const holder = event.holder > 0 ? u"holder %1"_s.arg(event.holder) : u"-"_s;
     QString const head =
-        QStringLiteral("%1:  %2  %3  %4  ")
-            .arg(event.logLine, 5)
+        u"%1:  %2  %3  %4  "_s.arg(event.logLine, 5)
             .arg(event.time, holder.leftJustified(9), QString::fromLatin1(EventKindName(event.kind)).leftJustified(8));
     console.out.stream << head.toStdString() << console.out.Styled(EmphasisOf(event.kind), Printable(event.text))
                        << '\n';
@@ -59,19 +58,16 @@ QJsonObject JsonOf(Timeline const& timeline, QString const& name)
     for (TimelineEvent const& event : timeline.events)
     {
         events.append(QJsonObject{
-            {QStringLiteral("line"), event.logLine},
-            {QStringLiteral("time"), event.time},
-            {QStringLiteral("kind"), QString::fromLatin1(EventKindName(event.kind)).toLower()},
-            {QStringLiteral("text"), event.text},
-            {QStringLiteral("holder"), event.holder},
-            {QStringLiteral("check"), event.check},
-            {QStringLiteral("state"),
-             event.state ? QJsonValue(QLatin1String(App::Session::StateName(*event.state))) : QJsonValue()},
+            {u"line"_s, event.logLine},
+            {u"time"_s, event.time},
+            {u"kind"_s, QString::fromLatin1(EventKindName(event.kind)).toLower()},
+            {u"text"_s, event.text},
+            {u"holder"_s, event.holder},
+            {u"check"_s, event.check},
+            {u"state"_s, event.state ? QJsonValue(QLatin1String(App::Session::StateName(*event.state))) : QJsonValue()},
         });
     }
-    return {{QStringLiteral("log"), name},
-            {QStringLiteral("wrong"), timeline.WrongEvents()},
-            {QStringLiteral("events"), events}};
+    return {{u"log"_s, name}, {u"wrong"_s, timeline.WrongEvents()}, {u"events"_s, events}};
 }
 
 ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& options, Console const& console)
@@ -79,8 +75,8 @@ ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& o
     Timeline const timeline = RebuildTimeline(ReadSessionLog(log));
     if (timeline.events.empty())
     {
-        return console.Refuse({name, 0, 0, QStringLiteral("no record of the update session"),
-                               QStringLiteral("run the application with its log at level 30 (--v=30)")});
+        return console.Refuse(
+            {name, u"no record of the update session"_s, u"run the application with its log at level 30 (--v=30)"_s});
     }
     if (options.isJson)
     {
@@ -93,10 +89,9 @@ ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& o
             PrintEvent(event, console);
         }
         int const wrong = timeline.WrongEvents();
-        console.Print(Printable(name) + QStringLiteral(": ") +
-                      (wrong == 0 ? QStringLiteral("an order that can happen")
-                                  : CountOf(std::size_t(wrong), QStringLiteral("place")) +
-                                        QStringLiteral(" where the order cannot happen")));
+        console.Print(Printable(name) + u": "_s +
+                      (wrong == 0 ? u"an order that can happen"_s
+                                  : CountOf(std::size_t(wrong), u"place"_s) + u" where the order cannot happen"_s));
     }
     return timeline.WrongEvents() == 0 ? ExitStatus::Clean : ExitStatus::Findings;
 }
@@ -105,15 +100,14 @@ ExitStatus ShowTimeline(TimelineOptions const& options, Console const& console)
 {
     if (options.log == "-")
     {
-        return Show(console.in, QStringLiteral("<stdin>"), options, console);
+        return Show(console.in, u"<stdin>"_s, options, console);
     }
     QString const name = QString::fromStdString(options.log);
     std::ifstream file(options.log);
     if (!file)
     {
-        return console.Refuse({name, 0, 0,
-                               QStringLiteral("cannot be read: ") + QString::fromLocal8Bit(std::strerror(errno)),
-                               QStringLiteral("give the path of a log, or - for standard input")});
+        return console.Refuse({name, u"cannot be read: "_s + QString::fromLocal8Bit(std::strerror(errno)),
+                               u"give the path of a log, or - for standard input"_s});
     }
     return Show(file, name, options, console);
 }

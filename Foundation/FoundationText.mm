@@ -39,7 +39,13 @@ NSURL* ToNSURL(QUrl const& url)
     {
         return nil;
     }
-    return [NSURL URLWithString:ToNSString(QString::fromLatin1(url.toEncoded()))];
+    QUrl rooted = url;
+    if (!url.host().isEmpty() && url.path().isEmpty() && (url.hasQuery() || url.hasFragment()))
+    {
+        // The same address. GNUstep refuses it without a path.
+        rooted.setPath(QStringLiteral("/"));
+    }
+    return [NSURL URLWithString:ToNSString(QString::fromLatin1(rooted.toEncoded()))];
 }
 
 } // namespace Pelnar::Foundation

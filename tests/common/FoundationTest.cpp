@@ -37,6 +37,23 @@ TEST(FoundationText, AddressesSurviveTheRoundTrip)
     EXPECT_TRUE(ThroughFoundation(QUrl()).isEmpty());
 }
 
+TEST(FoundationText, AddressThatGoesFromItsHostToItsQueryGetsAPath)
+{
+    struct Row
+    {
+        char const* address;
+        char const* expected;
+    };
+    for (Row const& row : {Row{"https://a.example?product=1", "https://a.example/?product=1"},
+                           Row{"https://u:p@a.example:8443?q", "https://u:p@a.example:8443/?q"},
+                           Row{"https://a.example#f", "https://a.example/#f"},
+                           Row{"https://a.example", "https://a.example"}})
+    {
+        QUrl const url(QString::fromLatin1(row.address));
+        EXPECT_EQ(ThroughFoundation(url).toEncoded().toStdString(), row.expected) << row.address;
+    }
+}
+
 TEST(RaisedException, ReasonIsReported)
 {
     EXPECT_EQ(ReasonRaisedBy([] { Raise(QStringLiteral("no disk")); }), "no disk");

@@ -99,6 +99,25 @@ bool IsExtension(QStringRef text)
     return !text.isEmpty() && (!text.front().isDigit() || text.compare(QLatin1String("7z"), Qt::CaseInsensitive) == 0);
 }
 
+/// The session sees an address through Foundation, the publisher's tool sees it directly; both must see the same one.
+/// GNUstep drops an empty query and an empty fragment, and refuses a query or a fragment without a path.
+QUrl AsFoundationKeepsIt(QUrl address)
+{
+    if (address.query().isEmpty())
+    {
+        address.setQuery(QString());
+    }
+    if (address.fragment().isEmpty())
+    {
+        address.setFragment(QString());
+    }
+    if (!address.host().isEmpty() && address.path().isEmpty() && (address.hasQuery() || address.hasFragment()))
+    {
+        address.setPath(QStringLiteral("/"));
+    }
+    return address;
+}
+
 } // namespace
 
 QString CleanFeedText(QString text, FeedTextKind kind)
@@ -168,13 +187,9 @@ QUrl FeedAddress(QString const& text, QUrl const& base)
     {
         return {};
     }
-    QUrl address(text);
-    if (!address.isValid() || !address.isRelative())
-    {
-        return address.isValid() && !IsTooLong(text, address) ? address : QUrl();
-    }
-    QUrl const resolved = base.resolved(address);
-    return IsTooLong(text, resolved) ? QUrl() : resolved;
+    QUrl const address(text);
+    QUrl const resolved = address.isValid() && address.isRelative() ? base.resolved(address) : address;
+    return resolved.isValid() && !IsTooLong(text, resolved) ? AsFoundationKeepsIt(resolved) : QUrl();
 }
 
 } // namespace Pelnar::Engine

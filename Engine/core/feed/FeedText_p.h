@@ -24,8 +24,8 @@ enum class FeedTextKind
 /// The part of the address's file name after its last underscore, without extensions; empty when there is none.
 [[nodiscard]] QString VersionInFileName(QUrl const& url);
 
-/// \a text resolved against \a base; empty for an empty text, for one that is no address and for one that is longer
-/// than any address.
+/// \a text resolved against \a base, as Foundation keeps it; empty for an empty text, for one that is no address and
+/// for one that is longer than any address.
 [[nodiscard]] QUrl FeedAddress(QString const& text, QUrl const& base);
 
 } // namespace Pelnar::Engine

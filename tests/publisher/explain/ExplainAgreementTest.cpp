@@ -44,8 +44,8 @@ private:
         QByteArray const name =
             QByteArray::number(Number(4)) + OneOf({".zip", ".zip", ".sparkle_guided.pkg", ".sparkle_interactive.zip",
                                                    ".SPARKLE_GUIDED.pkg", "%2Esparkle_guided%2Epkg"});
-        return QByteArray("<enclosure url='") + OneOf({"", "", "https://x.example/", "ftp:", "http://[bad/"}) + name +
-               "' length='" + OneOf({"1", "2", "2", "3", "0", "-1", "1e3"}) + "' s:version='" + version + "'";
+        return QByteArray("<enclosure url='") + OneOf({"", "", "https://x.example/", "https://x.example?", "ftp:", "http://[bad/"}) + name +
+               OneOf({"", "", "", "?", "#", "?v=1"}) + "' length='" + OneOf({"1", "2", "2", "3", "0", "-1", "1e3"}) + "' s:version='" + version + "'";
     }
 
     QByteArray Item()

@@ -195,7 +195,7 @@ std::optional<Failure> CallDelegate(Work const& work, ReportChannel const& repor
     }
     catch (std::exception const&) // out of memory
     {
-        failure = {UpdateFault::DiskError, ENOMEM};
+        failure = {UpdateFault::SystemLimitReached, ENOMEM};
     }
     report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
     return failure;

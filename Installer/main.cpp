@@ -220,7 +220,7 @@ int main(int count, char** arguments)
     }
     catch (std::exception const&) // out of memory
     {
-        report.Send(Engine::RefusedReport{UpdateFault::DiskError, ENOMEM});
+        report.Send(Engine::RefusedReport{UpdateFault::SystemLimitReached, ENOMEM});
     }
     return EXIT_REFUSED;
 }

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>موجز التحديثات فارغ. أعد المحاولة لاحقًا أو اتصل بالناشر.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>يحتاج التحديث إلى ذاكرة أو ملفات أو عمليات أكثر مما يسمح به هذا النظام. أغلق التطبيقات الأخرى وحاول مرة أخرى.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

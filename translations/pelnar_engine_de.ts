@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>Der Update-Feed ist leer. Versuchen Sie es später noch einmal, oder informieren Sie den Herausgeber.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>Das Update benötigt mehr Speicher, Dateien oder Prozesse, als dieses System erlaubt. Schließen Sie andere Anwendungen, und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>El canal de actualizaciones está vacío. Inténtelo más tarde o póngase en contacto con el editor.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>La actualización necesita más memoria, archivos o procesos de los que permite este sistema. Cierre otras aplicaciones e inténtelo de nuevo.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>Le flux de mises à jour est vide. Réessayez plus tard ou contactez l’éditeur.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>La mise à jour a besoin de plus de mémoire, de fichiers ou de processus que ce système n’en autorise. Fermez d’autres applications et réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>ערוץ העדכונים ריק. יש לנסות שוב מאוחר יותר או להודיע ליצרן התוכנה.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>העדכון זקוק ליותר זיכרון, קבצים או תהליכים ממה שהמערכת הזו מאפשרת. יש לסגור יישומים אחרים ולנסות שוב.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

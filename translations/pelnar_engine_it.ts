@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>Il feed degli aggiornamenti è vuoto. Riprovare più tardi o informare il produttore.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>L’aggiornamento richiede più memoria, file o processi di quanti ne consenta questo sistema. Chiuda altre applicazioni e riprovi.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>アップデートフィードが空です。後でもう一度試すか、発行元に連絡してください。</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>更新には、このシステムで許可されている以上のメモリ、ファイル、またはプロセスが必要です。ほかのアプリケーションを終了して、もう一度お試しください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>De updatefeed is leeg. Probeer het later opnieuw of neem contact op met de uitgever.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>De update heeft meer geheugen, bestanden of processen nodig dan dit systeem toestaat. Sluit andere toepassingen en probeer het opnieuw.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>Kanał aktualizacji jest pusty. Spróbuj ponownie później lub powiadom wydawcę.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>Aktualizacja wymaga więcej pamięci, plików lub procesów, niż pozwala ten system. Zamknij inne aplikacje i spróbuj ponownie.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>O feed de atualizações está vazio. Tente novamente mais tarde ou avise o fornecedor.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>A atualização precisa de mais memória, arquivos ou processos do que este sistema permite. Feche outros aplicativos e tente novamente.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

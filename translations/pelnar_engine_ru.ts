@@ -849,6 +849,10 @@
         <source>The update feed is empty. Try again later, or contact the publisher.</source>
         <translation>Лента обновлений пуста. Повторите попытку позже или обратитесь к издателю.</translation>
     </message>
+    <message>
+        <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
+        <translation>Обновлению нужно больше памяти, файлов или процессов, чем разрешает эта система. Закройте другие приложения и попробуйте ещё раз.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

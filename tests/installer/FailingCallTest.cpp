@@ -32,9 +32,10 @@ TEST(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
     for (Row const& row :
          {Row{{"write", "ENOSPC", 9}, UpdateFault::NoSpace}, Row{{"write", "EIO", 9}, UpdateFault::DiskError},
           Row{{"write", "EDQUOT", 9}, UpdateFault::NoSpace}, Row{{"openat2", "ENOSPC", 5}, UpdateFault::NoSpace},
-          Row{{"openat2", "EMFILE", 5}, UpdateFault::DiskError}, Row{{"mkdirat", "ENOSPC", 2}, UpdateFault::NoSpace},
-          Row{{"symlinkat", "EIO", 1}, UpdateFault::DiskError}, Row{{"utimensat", "EIO", 2}, UpdateFault::DiskError},
-          Row{{"syncfs", "EIO", 1}, UpdateFault::SyncFailed}, Row{{"syncfs", "ENOSPC", 1}, UpdateFault::NoSpace},
+          Row{{"openat2", "EMFILE", 5}, UpdateFault::SystemLimitReached},
+          Row{{"mkdirat", "ENOSPC", 2}, UpdateFault::NoSpace}, Row{{"symlinkat", "EIO", 1}, UpdateFault::DiskError},
+          Row{{"utimensat", "EIO", 2}, UpdateFault::DiskError}, Row{{"syncfs", "EIO", 1}, UpdateFault::SyncFailed},
+          Row{{"syncfs", "ENOSPC", 1}, UpdateFault::NoSpace},
           Row{{"landlock_restrict_self", "E2BIG", 1}, UpdateFault::ConfinementFailed}})
     {
         int refused = 0;

@@ -126,8 +126,8 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
     UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenPrivateFolder(folderPath);
     if (!folder)
     {
-        LOG(WARNING) << "What is known of the feed could not be saved in " << path.toStdString()
-                     << ": the folder cannot be used";
+        LOG_IF(WARNING, !path.isEmpty()) << "What is known of the feed could not be saved in " << path.toStdString()
+                                         << ": the folder cannot be used"; // why there is no path is told elsewhere
         return false;
     }
     // Between reading and writing no other process of this user may write; a hanging process cannot block this one.

@@ -68,6 +68,20 @@ UpdateRefusal::UpdateRefusal(UpdateFault fault, int errorNumber, std::string ent
 {
 }
 
+UpdateFault FaultUnlessLimit(int errorNumber, UpdateFault otherwise)
+{
+    switch (errorNumber)
+    {
+    case EAGAIN:
+    case EFBIG:
+    case EMFILE:
+    case ENFILE:
+    case ENOMEM:
+        return UpdateFault::SystemLimitReached;
+    }
+    return otherwise;
+}
+
 void ThrowErrno(int errorNumber, UpdateFault otherwise)
 {
     switch (errorNumber)
@@ -80,7 +94,7 @@ void ThrowErrno(int errorNumber, UpdateFault otherwise)
     case EROFS:
         throw UpdateRefusal(UpdateFault::NotPermitted, errorNumber);
     }
-    throw UpdateRefusal(otherwise, errorNumber);
+    throw UpdateRefusal(FaultUnlessLimit(errorNumber, otherwise), errorNumber);
 }
 
 } // namespace Pelnar::Engine

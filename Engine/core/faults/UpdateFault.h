@@ -39,7 +39,9 @@ private:
     std::string m_entry;
 };
 
-/// Throws the fault for \a errorNumber: NoSpace or NotPermitted, otherwise \a otherwise.
+/// SystemLimitReached if \a errorNumber says that the system allows no more, otherwise \a otherwise.
+UpdateFault FaultUnlessLimit(int errorNumber, UpdateFault otherwise);
+/// Throws the fault for \a errorNumber: NoSpace, NotPermitted or SystemLimitReached, otherwise \a otherwise.
 [[noreturn]] void ThrowErrno(int errorNumber, UpdateFault otherwise = UpdateFault::DiskError);
 
 } // namespace Pelnar::Engine

@@ -30,7 +30,7 @@ constexpr std::size_t STACK_BYTES = std::size_t{256} << 10;
 
 [[noreturn]] void Fail(UpdateFault fault = UpdateFault::HelperUnusable)
 {
-    throw UpdateRefusal(fault, errno);
+    throw UpdateRefusal(FaultUnlessLimit(errno, fault), errno);
 }
 
 UniqueFd SealedJob(std::string const& job)
@@ -125,13 +125,14 @@ void Fork(Launch& launch, LaunchedHelper& helper)
                          &launch, &process);
     if (helper.pid < 0)
     {
-        throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+        Fail();
     }
     helper.process = UniqueFd(process);
     if (launch.error != 0)
     {
         static_cast<void>(Reap(helper.process));
-        throw UpdateRefusal(UpdateFault::HelperUnusable, launch.error);
+        errno = launch.error;
+        Fail();
     }
 }
 
@@ -155,7 +156,8 @@ std::optional<int> Reap(UniqueFd const& process)
 void ThrowNoProcess(int errorNumber)
 {
     bool const isMissing = errorNumber == ENOSYS || errorNumber == EPERM;
-    throw UpdateRefusal(isMissing ? UpdateFault::ProcessHandlesUnavailable : UpdateFault::DescriptorUnusable,
+    throw UpdateRefusal(isMissing ? UpdateFault::ProcessHandlesUnavailable
+                                  : FaultUnlessLimit(errorNumber, UpdateFault::DescriptorUnusable),
                         errorNumber);
 }
 

@@ -71,13 +71,13 @@ UniqueFd KeptArguments::Share()
         {
             int const errorNumber = errno;
             m_file = UniqueFd();
-            throw UpdateRefusal(UpdateFault::HelperUnusable, errorNumber);
+            throw UpdateRefusal(FaultUnlessLimit(errorNumber, UpdateFault::HelperUnusable), errorNumber);
         }
     }
     UniqueFd copy(::fcntl(m_file.Get(), F_DUPFD_CLOEXEC, 0));
     if (!copy)
     {
-        throw UpdateRefusal(UpdateFault::DescriptorUnusable, errno);
+        throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::DescriptorUnusable), errno);
     }
     return copy;
 }

@@ -21,7 +21,7 @@ constexpr int SEALS = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
 [[noreturn]] void Fail()
 {
-    throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+    throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::HelperUnusable), errno);
 }
 
 } // namespace

@@ -30,7 +30,7 @@ void ReadWhole(int fd, Sink const& sink)
         ssize_t const count = ReadUpTo(fd, place, buffer.data(), buffer.size());
         if (count < 0)
         {
-            throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+            throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::HelperUnusable), errno);
         }
         if (count == 0)
         {
@@ -54,7 +54,7 @@ UniqueFd SealedCopyOf(std::string const& path)
     struct stat status;
     if (!source || ::fstat(source.Get(), &status) != 0)
     {
-        throw UpdateRefusal(UpdateFault::HelperUnusable, errno);
+        throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::HelperUnusable), errno);
     }
     if (!S_ISREG(status.st_mode) || !IsSafeByItself(source.Get()))
     {

@@ -56,6 +56,53 @@ TEST_F(HelperProcesses, StartsUnderATightLimitOfDescriptors)
     EXPECT_EQ(scene.Seen(), "prepare variables:none descriptors:0,1,2,3,4,5,6, signals:0");
 }
 
+struct LimitRow
+{
+    char const* name;
+    decltype(RLIMIT_NOFILE) limit;
+    rlim_t (*value)();
+};
+
+class LimitOfTheSystem : public HelperProcesses, public testing::WithParamInterface<LimitRow>
+{
+};
+
+/// Nothing is wrong with the application then, and nobody has to install it again.
+TEST_P(LimitOfTheSystem, IsToldAsOne)
+{
+    ProbeScene scene("describe");
+    rlimit before{};
+    ASSERT_EQ(::getrlimit(GetParam().limit, &before), 0);
+    rlimit const tight{GetParam().value(), before.rlim_max};
+    UpdateFault fault = UpdateFault::None;
+    ASSERT_EQ(::setrlimit(GetParam().limit, &tight), 0);
+    ::signal(SIGXFSZ, SIG_IGN);
+    try
+    {
+        scene.Start();
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        fault = refusal.Fault();
+    }
+    ::setrlimit(GetParam().limit, &before);
+    ::signal(SIGXFSZ, SIG_DFL);
+    EXPECT_EQ(fault, UpdateFault::SystemLimitReached);
+}
+
+rlim_t NextDescriptor(int more)
+{
+    UniqueFd const next(::open("/dev/null", O_RDONLY | O_CLOEXEC));
+    return static_cast<rlim_t>(next.Get() + more);
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, LimitOfTheSystem,
+                         testing::Values(LimitRow{"NoDescriptor", RLIMIT_NOFILE, [] { return NextDescriptor(0); }},
+                                         LimitRow{"OneDescriptor", RLIMIT_NOFILE, [] { return NextDescriptor(1); }},
+                                         LimitRow{"TwoDescriptors", RLIMIT_NOFILE, [] { return NextDescriptor(2); }},
+                                         LimitRow{"ShortFiles", RLIMIT_FSIZE, [] { return rlim_t{1000}; }}),
+                         [](testing::TestParamInfo<LimitRow> const& info) { return info.param.name; });
+
 struct EndRow
 {
     char const* order;

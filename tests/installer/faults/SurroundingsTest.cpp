@@ -91,7 +91,7 @@ TEST(LimitOfFiles, IsAFaultAndNoSuddenEnd)
         UpdateScene scene;
         HelperOutcome const outcome = scene.Prepare(scene.MakePrepareJob(), limited);
         EXPECT_EQ(outcome.exitStatus, 1) << "signal " << outcome.signal;
-        EXPECT_EQ(outcome.Fault(), UpdateFault::DiskError);
+        EXPECT_EQ(outcome.Fault(), UpdateFault::SystemLimitReached);
         ExpectRecovered(scene, versions);
     }
     UpdateScene scene;
@@ -99,7 +99,7 @@ TEST(LimitOfFiles, IsAFaultAndNoSuddenEnd)
     scene.Host().End();
     HelperOutcome const outcome = scene.Install(job, limited);
     EXPECT_EQ(outcome.exitStatus, 1) << "signal " << outcome.signal;
-    EXPECT_EQ(outcome.Fault(), UpdateFault::DiskError);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::SystemLimitReached);
     EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
     EXPECT_NE(outcome.Find<RelaunchedReport>(), nullptr) << "the previous version is started again";
 }

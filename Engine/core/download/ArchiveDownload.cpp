@@ -40,7 +40,7 @@ public:
     {
         m_resumeTimer.setSingleShot(true);
         m_progressTimer.setTimerType(Qt::CoarseTimer);
-        connect(&m_resumeTimer, &QTimer::timeout, this, &Impl::Ask);
+        connect(&m_resumeTimer, &QTimer::timeout, this, [this] { Ask(); });
         connect(&m_checkpointTimer, &QTimer::timeout, this, [this] { m_writer->Checkpoint(Spent()); });
         connect(&m_turnTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadPaused); });
         connect(&m_budgetTimer, &QTimer::timeout, this, [this] { Stop(ErrorCause::DownloadTooLong); });
@@ -147,7 +147,9 @@ private:
     }
 
     /// Requests the missing bytes.
-    void Ask()
+    void Ask() { Ask(RangeFields(m_partial)); }
+
+    void Ask(std::vector<HeaderField> const& rangeFields)
     {
         if (Result<void> const spending = JudgeSpending(Spent(), m_partial.declaredBytes, Missing()); !spending)
         {
@@ -160,7 +162,7 @@ private:
         m_besideBody = 0;
         FetchRequest request = RequestFor(m_request.url, m_request.feedUrl);
         request.nearest = m_request.feedReach;
-        request.rangeFields = RangeFields(m_partial);
+        request.rangeFields = rangeFields;
         Send(request);
     }
 
@@ -340,7 +342,9 @@ private:
         m_writer->Flush();
         if (!m_hasReceived || !IsPassing(error) || m_resumes >= m_request.limits.maxResumes)
         {
-            End(error);
+            bool const mayBeTheRange = error.httpStatus != 0 && !m_sent.rangeFields.empty();
+            // Some servers and proxies fail at the range alone. The bytes stay until a whole answer begins.
+            mayBeTheRange && !std::exchange(m_hasAskedWhole, true) ? Ask({}) : End(error);
             return;
         }
         LOG(INFO) << "The download goes on after a pause: " << error.sentence.English().toStdString();

@@ -132,8 +132,12 @@ Result<UniqueFd> OpenDownloadFolder(std::string const& path)
     }
     if (!folder)
     {
-        bool const isUnsafe = errno == EPERM || errno == ENOTDIR || errno == ELOOP;
-        return Failure(isUnsafe ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath) : OpenError(errno));
+        int const errorNumber = errno;
+        struct stat status;
+        bool const isInTheWay =
+            (errorNumber == ENOTDIR || errorNumber == ELOOP) && ::lstat(path.c_str(), &status) == 0; // else it is above
+        return Failure(errorNumber == EPERM || isInTheWay ? MakeError(ErrorCause::DownloadFolderUnsafe, shownPath)
+                                                          : OpenError(errorNumber));
     }
     return folder;
 }

@@ -141,6 +141,14 @@ TEST_F(PartialFileTest, UnsafeFoldersAreRefused)
     EXPECT_TRUE(QDir(elsewhere).isEmpty());
 }
 
+TEST_F(PartialFileTest, FolderThatCannotBeMadeIsNotCalledUnsafe)
+{
+    ASSERT_TRUE(QFile(place.filePath(QStringLiteral("file"))).open(QIODevice::WriteOnly));
+    PartialPlace below = Place();
+    below.folder = place.filePath(QStringLiteral("file/updates")).toStdString();
+    EXPECT_EQ(CauseOf(PartialFile(below).Open()), ErrorCause::DownloadFolderUnusable) << "nobody could remove it";
+}
+
 TEST_F(PartialFileTest, FolderOfAnotherUserIsRefused)
 {
     ASSERT_TRUE(QDir().mkpath(folder));

@@ -60,6 +60,37 @@ TEST_P(WrongRange, ToARequestForTheWholeIsAnError)
     EXPECT_EQ(server.Requests().size(), 1u);
 }
 
+class RefusedRange : public ArchiveDownloadTest, public ::testing::WithParamInterface<char const*>
+{
+protected:
+    QByteArray const refusal = "HTTP/1.1 " + QByteArray(GetParam()) + "\r\nContent-Length: 0\r\n\r\n";
+};
+
+INSTANTIATE_TEST_SUITE_P(Answers, RefusedRange,
+                         ::testing::Values("403 Forbidden", "400 Bad", "501 Not", "500 Error", "304 Same", "204 None"));
+
+TEST_P(RefusedRange, IsForgottenAndTheWholeIsAskedForOnce)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = [this](QSslSocket& socket, QByteArray const& request, int)
+    { Answering(RangeStart(request) ? refusal : AnswerFor({ARCHIVE}, request))(socket, request, 0); };
+    EXPECT_EQ(Run(OnceOnly(server.Url())).bytes, ARCHIVE);
+    EXPECT_EQ(server.Requests().size(), 3u);
+}
+
+TEST_P(RefusedRange, LosesNothingWhereTheWholeIsRefusedToo)
+{
+    LoopbackServer server(Scripted());
+    script = Serving({ARCHIVE, "\"one\"", {}, 100000});
+    ASSERT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::IncompleteBody);
+    script = Answering(refusal);
+    EXPECT_EQ(Run(OnceOnly(server.Url())).cause, ErrorCause::HttpStatus);
+    EXPECT_EQ(server.Requests().size(), 3u);
+    EXPECT_EQ(PartialBytes(), ARCHIVE.left(100000));
+}
+
 TEST_F(ArchiveDownloadTest, WrongRangesAgainAndAgainEndInAnError)
 {
     LoopbackServer server(

@@ -222,6 +222,43 @@ TEST_F(KeptFeedFlow, FeedThatIsRefusedIsNotKept)
     EXPECT_EQ(feed.unchanged, 0);
 }
 
+class AnswerToACondition : public KeptFeedFlow, public testing::WithParamInterface<char const*>
+{
+protected:
+    LoopbackServer failing{[this](QSslSocket& socket, QByteArray const& request, int number)
+                           {
+                               if (request.contains("If-None-Match"))
+                               {
+                                   ++conditions;
+                                   socket.write("HTTP/1.1 " + QByteArray(GetParam()) + "\r\nContent-Length: 0\r\n\r\n");
+                                   return;
+                               }
+                               feed.Script()(socket, request, number);
+                           }};
+    int conditions = 0;
+};
+
+TEST_P(AnswerToACondition, CostsOneCheck)
+{
+    settings.check.feedUrl = failing.Url();
+    EXPECT_EQ(Check(), found);
+    NewProcess();
+    EXPECT_EQ(Check().back(), "ended");
+    EXPECT_TRUE(host.error);
+    for (int process = 0; process < 2; ++process)
+    {
+        NewProcess();
+        EXPECT_EQ(Check(), found) << process;
+        store->Keep(std::nullopt);
+    }
+    EXPECT_EQ(conditions, 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, AnswerToACondition,
+                         testing::Values("500 Error", "403 Forbidden", "206 Partial Content", "200 OK"),
+                         [](testing::TestParamInfo<char const*> const& info)
+                         { return "Status" + std::string(info.param, 3); });
+
 TEST_F(KeptFeedFlow, NothingIsLeftWhenTheServerWantsNothingKept)
 {
     EXPECT_EQ(Check(), found);

@@ -114,6 +114,12 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
             Fetch(std::nullopt);
             return;
         }
+        bool const hasAnswered = !outcome.error || outcome.error->httpStatus != 0;
+        if (m_hasKeptFeed && hasAnswered)
+        {
+            // Some servers and proxies fail at the condition alone: the next check asks without one.
+            m_settings.feedStore->Keep(std::nullopt);
+        }
         Abort(read.error());
         m_host.CheckEnded();
         return;

@@ -49,16 +49,6 @@ QString NameFor(QLocale const& language)
 
 } // namespace
 
-QStringList TranslationNames()
-{
-    QStringList names;
-    for (Translation const& translation : TRANSLATIONS)
-    {
-        names += QString::fromLatin1(translation.name);
-    }
-    return names;
-}
-
 QString TranslationNameFor(QLocale const& locale)
 {
     for (QString const& language : locale.uiLanguages())

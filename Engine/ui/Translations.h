@@ -6,13 +6,9 @@
 
 #include <QLocale>
 #include <QString>
-#include <QStringList>
 
 namespace Pelnar::Engine
 {
-
-/// The names of all translations, such as "de" or "pt_BR", including "en".
-[[nodiscard]] QStringList TranslationNames();
 
 /// The translation for the first of \a locale's preferred languages that has one; "en" if none has.
 [[nodiscard]] QString TranslationNameFor(QLocale const& locale);

@@ -49,7 +49,7 @@ InstallRecord SomeRecord()
     return record;
 }
 
-/// Every way to write one job is the one way.
+/// A job has exactly one encoding.
 void ExpectRoundTrip(UpdateJob const& job)
 {
     std::string const bytes = EncodeUpdateJob(job);
@@ -91,7 +91,8 @@ TEST(InstallRecord, ComesBackAndNoPieceOfItDoes)
     EXPECT_EQ(EncodeInstallRecord(*decoded), bytes);
     EXPECT_EQ(decoded->fault, UpdateFault::SwapFailed);
     EXPECT_EQ(decoded->errorNumber, 5);
-    EXPECT_EQ(decoded->helper, (ProcessMark{4711, 815}));
+    EXPECT_EQ(decoded->helper.number, 4711u);
+    EXPECT_EQ(decoded->helper.startTime, 815u);
     EXPECT_EQ(decoded->told, FailureTold::Yes);
     for (std::size_t size = 0; size < bytes.size(); ++size)
     {
@@ -161,7 +162,7 @@ TEST(UpdateJob, HostilePrepareJobsAreRefused)
     {
         EXPECT_FALSE(IsTaken(SomePrepareJob(), change));
     }
-    // No key and no signature are for the verification to refuse, by their own names.
+    // The decoder accepts a missing key or signature. The verification refuses it with a fault of its own.
     EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.publicKeys = {}; }));
     EXPECT_TRUE(IsTaken<PrepareJob>(SomePrepareJob(), [](PrepareJob& job) { job.signature.clear(); }));
 }
@@ -344,7 +345,8 @@ TEST(SwapJournal, ComesBackAndNoPieceOfItDoes)
     ASSERT_TRUE(counted.has_value());
     EXPECT_EQ(counted->confirmation, StartConfirmation::ByHost);
     EXPECT_EQ(counted->countedStarts, 1u);
-    EXPECT_EQ(counted->lastStarted, counting.lastStarted);
+    EXPECT_EQ(counted->lastStarted.number, 4711u);
+    EXPECT_EQ(counted->lastStarted.startTime, 99u);
     counting.confirmation = static_cast<StartConfirmation>(2);
     EXPECT_FALSE(DecodeSwapJournal(EncodeSwapJournal(counting)).has_value());
 }
@@ -418,16 +420,16 @@ TEST(SwapJournal, StartsThatTheHostConfirmsAreCountedThenTakenBack)
              Row{true, true, true, 2, RecoveryAction::RolledBack}, Row{true, true, true, 3, RecoveryAction::RolledBack},
              Row{true, true, false, 2, RecoveryAction::ConfirmedNew},
              Row{true, true, false, 0, RecoveryAction::ConfirmedNew},
-             Row{true, false, true, 2, RecoveryAction::KeptPrevious}, // somebody else asks
+             Row{true, false, true, 2, RecoveryAction::KeptPrevious}, // the new version has not started
              Row{false, true, true, 1, RecoveryAction::CountedStart},
-             Row{false, true, true, 2, RecoveryAction::ConfirmedNew}, // there is nothing to go back to
+             Row{false, true, true, 2, RecoveryAction::ConfirmedNew}, // there is no previous version
          })
     {
         EXPECT_EQ(DecideRecovery(
                       {TargetState::New, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost, row.countedStarts}),
                   row.action)
             << row.isPreviousAtHand << row.hasNewStarted << row.awaitsHost << row.countedStarts;
-        // What was counted says nothing of another version.
+        // The count of another version does not matter.
         EXPECT_EQ(DecideRecovery({TargetState::Previous, row.isPreviousAtHand, row.hasNewStarted, row.awaitsHost,
                                   row.countedStarts}),
                   RecoveryAction::DroppedStaged);

@@ -10,8 +10,6 @@ struct ProcessMark
 {
     std::uint64_t number = 0;    ///< 0: none
     std::uint64_t startTime = 0; ///< in the kernel's ticks; 0 if unknown
-
-    bool operator==(ProcessMark const& other) const { return number == other.number && startTime == other.startTime; }
 };
 
 /// The start time of a running process, in the kernel's ticks; 0 if no process with that number runs.

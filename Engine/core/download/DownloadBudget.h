@@ -16,11 +16,6 @@ struct DownloadSpending
     std::uint64_t receivedBytes = 0; ///< body bytes, including discarded ones
     std::uint64_t attempts = 0;      ///< requests for the archive or the rest of it
     std::uint64_t seconds = 0;       ///< during which a download ran
-
-    friend bool operator==(DownloadSpending const& a, DownloadSpending const& b)
-    {
-        return a.receivedBytes == b.receivedBytes && a.attempts == b.attempts && a.seconds == b.seconds;
-    }
 };
 
 /// The highest cost of an archive: twice its length; one attempt for each 64 KiB plus 64; half an hour plus the time

@@ -24,14 +24,6 @@ struct PartialRecord
     std::uint64_t durableBytes = 0; ///< on the disk even after a power failure
     Validators validators;
     DownloadSpending spent = {}; ///< by all downloads of the archive
-
-    friend bool operator==(PartialRecord const& a, PartialRecord const& b)
-    {
-        return a.url == b.url && a.declaredBytes == b.declaredBytes && a.fileNumber == b.fileNumber &&
-               a.systemStart == b.systemStart && a.durableBytes == b.durableBytes &&
-               a.validators.entityTag == b.validators.entityTag &&
-               a.validators.lastModified == b.validators.lastModified && a.spent == b.spent;
-    }
 };
 
 std::string EncodePartialRecord(PartialRecord const& record);

@@ -1,6 +1,7 @@
 // ArchiveWriterTest.cpp: the thread between a download and its disk: room, checkpoints, ends in the middle.
 #include "Engine/core/download/ArchiveWriter.h"
 #include "tests/engine_core/download/ArchiveServer.h"
+#include "tests/engine_core/download/DownloadHarness.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
 
 #include <QDir>
@@ -106,7 +107,7 @@ TEST_F(ArchiveWriterTest, CheckpointCallsDurableWhatWasTakenBeforeIt)
     ASSERT_TRUE(record);
     EXPECT_EQ(record->durableBytes, 300u);
     EXPECT_EQ(record->validators.entityTag, TAG.entityTag);
-    EXPECT_EQ(record->spent, (DownloadSpending{500, 1, 3}));
+    ExpectSpending(record->spent, {500, 1, 3});
 }
 
 TEST_F(ArchiveWriterTest, EndedAtAnyMomentTheFileCanBeOpenedAnewAtOnce)
@@ -141,7 +142,7 @@ TEST_F(ArchiveWriterTest, RemovedFilesAreGoneWhenItSaysSo)
     ASSERT_TRUE(WaitFor([&isDone] { return isDone; }));
     EXPECT_EQ(QDir(folder.filePath(QStringLiteral("updates"))).entryList(QDir::Files).size(), 1);
     ASSERT_TRUE(Record(1000)) << "what it cost is remembered";
-    EXPECT_EQ(Record(1000)->spent, (DownloadSpending{300, 1, 2}));
+    ExpectSpending(Record(1000)->spent, {300, 1, 2});
     EXPECT_EQ(Record(1000)->durableBytes, 0u);
     EXPECT_TRUE(Record(1000)->validators.IsEmpty());
 }

@@ -1,8 +1,9 @@
-// DownloadHarness.h: runs one download to its end and looks at what it left. Plain C++.
+// DownloadHarness.h: runs one download to its end and reads the files that it left. Plain C++.
 // Thread: main, with an application object.
 #pragma once
 
 #include "Engine/core/download/ArchiveDownload.h"
+#include "Engine/core/download/DownloadBudget.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
 
 #include <QDir>
@@ -16,6 +17,13 @@
 
 namespace Pelnar::Testing
 {
+
+inline void ExpectSpending(Engine::DownloadSpending const& spending, Engine::DownloadSpending const& expected)
+{
+    EXPECT_EQ(spending.receivedBytes, expected.receivedBytes);
+    EXPECT_EQ(spending.attempts, expected.attempts);
+    EXPECT_EQ(spending.seconds, expected.seconds);
+}
 
 struct DownloadResult
 {

@@ -1,4 +1,4 @@
-// DownloadRecordsTest.cpp: what is kept of archives between runs, and the numbers of a budget.
+// DownloadRecordsTest.cpp: the records of archives between runs, and the numbers of a budget.
 
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
@@ -105,7 +105,8 @@ TEST(DownloadBudget, GrowsWithTheLengthAndHasAnEnd)
     };
     for (auto const& row : rows)
     {
-        EXPECT_EQ(BudgetOf(row.declaredBytes), row.budget) << row.declaredBytes;
+        SCOPED_TRACE(row.declaredBytes);
+        ExpectSpending(BudgetOf(row.declaredBytes), row.budget);
     }
 }
 

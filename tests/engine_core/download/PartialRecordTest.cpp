@@ -3,6 +3,25 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
+namespace Pelnar::Engine
+{
+
+static auto FieldsOf(PartialRecord const& record)
+{
+    return std::tie(record.url, record.declaredBytes, record.fileNumber, record.systemStart, record.durableBytes,
+                    record.validators.entityTag, record.validators.lastModified, record.spent.receivedBytes,
+                    record.spent.attempts, record.spent.seconds);
+}
+
+static bool operator==(PartialRecord const& a, PartialRecord const& b)
+{
+    return FieldsOf(a) == FieldsOf(b);
+}
+
+} // namespace Pelnar::Engine
+
 namespace
 {
 

@@ -8,12 +8,32 @@
 
 namespace Pelnar::Testing
 {
+namespace
+{
+
+std::uint8_t const NEW_SEED = 9;
+
+/// A version that is signed by the new key and trusts it alone.
+BundleText WithNewKey(std::string const& version)
+{
+    BundleText text = Version(version);
+    text.publicKey = MakeKeyPair(NEW_SEED).publicKey;
+    return text;
+}
+
+/// A version that is signed by the old key and trusts both.
+BundleText WithBothKeys(std::string const& version)
+{
+    BundleText text = Version(version);
+    text.nextKey = MakeKeyPair(NEW_SEED).publicKey;
+    return text;
+}
+
+} // namespace
 
 TEST_F(Accident, BundleTrustsAnotherKeyThanTheOneThatSigns)
 {
-    BundleText text = Version("2.0");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
+    m_folder.PutBundle(WithNewKey("2.0"));
     ExpectRefused(Generate(),
                   {"Test-2.0.zip: version 2.0 is signed by the key ", ", but its bundle trusts another key, ",
                    "; write the entry that \"keys show\" prints", "PelnarNextPublicEDKey"});
@@ -42,11 +62,9 @@ TEST_F(Accident, NewKeyStrandsVersions)
     m_folder.PutVersion("5.9");
     m_folder.PutVersion("5.9.1");
     Publish();
-    BundleText text = Version("5.11");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
+    m_folder.PutBundle(WithNewKey("5.11"));
     Remember();
-    ExpectRefused(m_folder.GenerateWithKey(9),
+    ExpectRefused(m_folder.GenerateWithKey(NEW_SEED),
                   {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands installed versions", "5.9 (",
                    "Test-5.9.zip)", "5.9.1 (", "; publish a version before it, signed by the key that they trust"});
 }
@@ -55,14 +73,10 @@ TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
 {
     m_folder.PutVersion("5.9");
     Publish();
-    BundleText bridge = Version("5.10");
-    bridge.nextKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(bridge);
+    m_folder.PutBundle(WithBothKeys("5.10"));
     Publish();
-    BundleText text = Version("5.11");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
-    ToolRun const run = m_folder.GenerateWithKey(9);
+    m_folder.PutBundle(WithNewKey("5.11"));
+    ToolRun const run = m_folder.GenerateWithKey(NEW_SEED);
     EXPECT_EQ(run.status, 0) << run.err;
     ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
     EXPECT_EQ(check.status, 0) << check.err;
@@ -84,9 +98,7 @@ TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsNone)
     Publish();
     m_folder.Put("second", Base64(std::string(32, '\x9')) + '\n');
     EXPECT_EQ(::chmod(m_folder.PathOf("second").toStdString().c_str(), 0600), 0);
-    BundleText text = Version("5.11");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
+    m_folder.PutBundle(WithNewKey("5.11"));
     ToolRun const run = m_folder.Generate({QStringLiteral("--second-key"), m_folder.PathOf("second")});
     EXPECT_EQ(run.status, 0) << run.err;
     std::vector<Engine::FeedItem> const items = m_folder.Items();
@@ -94,9 +106,9 @@ TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsNone)
     ASSERT_EQ(items[0].signatures.size(), 2u);
     EXPECT_EQ(items[0].signatures[0].signature, items[0].edSignature);
     EXPECT_EQ(items[0].signatures[0].keyId, items[0].signerKey);
-    EXPECT_EQ(items[0].signatures[1].keyId.toStdString(), Engine::KeyIdOf(MakeKeyPair(9).publicKey));
+    EXPECT_EQ(items[0].signatures[1].keyId.toStdString(), Engine::KeyIdOf(MakeKeyPair(NEW_SEED).publicKey));
     EXPECT_EQ(items[0].signatures[1].signature.toStdString(),
-              Base64(Sign(m_folder.ContentOf("Test-5.11.zip"), MakeKeyPair(9))));
+              Base64(Sign(m_folder.ContentOf("Test-5.11.zip"), MakeKeyPair(NEW_SEED))));
     ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
     EXPECT_EQ(check.status, 0) << check.err;
 }
@@ -121,28 +133,22 @@ TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
     m_folder.PutVersion("5.9");
     Publish();
     m_folder.Remove("Test-5.9.zip");
-    BundleText text = Version("5.11");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
+    m_folder.PutBundle(WithNewKey("5.11"));
     Remember();
     // The feed has kept whom 5.9 trusts.
-    ExpectRefused(m_folder.GenerateWithKey(9),
+    ExpectRefused(m_folder.GenerateWithKey(NEW_SEED),
                   {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
 }
 
 TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
 {
-    BundleText both = Version("5.10");
-    both.nextKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(both);
+    m_folder.PutBundle(WithBothKeys("5.10"));
     Publish();
-    BundleText text = Version("5.11");
-    text.publicKey = MakeKeyPair(9).publicKey;
-    m_folder.PutBundle(text);
-    ToolRun const run = m_folder.GenerateWithKey(9);
+    m_folder.PutBundle(WithNewKey("5.11"));
+    ToolRun const run = m_folder.GenerateWithKey(NEW_SEED);
     EXPECT_EQ(run.status, 0) << run.err;
     // What the first key signed is known by the bundle that trusts it.
-    ToolRun const again = m_folder.GenerateWithKey(9);
+    ToolRun const again = m_folder.GenerateWithKey(NEW_SEED);
     EXPECT_EQ(again.status, 0) << again.err;
 }
 
@@ -206,7 +212,7 @@ TEST_F(Accident, RevokedKeySignsANewVersion)
     statement.validSeeds = {9};
     statement.revoked = {Engine::KeyIdOf(MakeKeyPair(7).publicKey)};
     text.version = "2.0";
-    text.publicKey = MakeKeyPair(9).publicKey;
+    text.publicKey = MakeKeyPair(NEW_SEED).publicKey;
     m_folder.PutBundle(text);
     // The new key signs: older versions hear of it by the statement, and what the old key has signed stays.
     ToolRun const run = m_folder.GenerateWithKey(9, {option, PutStatement(statement)});
@@ -221,7 +227,7 @@ TEST_F(Accident, RevokedKeySignsANewVersion)
 TEST_F(Accident, FeedKeepsWhomEachVersionTrusts)
 {
     BundleText text = Version("2.0");
-    text.nextKey = MakeKeyPair(9).publicKey;
+    text.nextKey = MakeKeyPair(NEW_SEED).publicKey;
     m_folder.PutBundle(text);
     m_folder.GeneratedFeed();
     std::vector<Engine::FeedItem> const items = m_folder.Items();

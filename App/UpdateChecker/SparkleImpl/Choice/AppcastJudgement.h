@@ -75,25 +75,6 @@ enum class PreferenceRule : std::int32_t
     SMALLER_LENGTH = 4, ///< the first of the two if the lengths are equal
 };
 
-/// A name for tools and test messages, such as "newer-version"; "unknown" for a value outside the five.
-constexpr char const* PreferenceRuleName(PreferenceRule rule)
-{
-    switch (rule)
-    {
-    case PreferenceRule::NEWER_VERSION:
-        return "newer-version";
-    case PreferenceRule::WANTED_TYPE:
-        return "wanted-type";
-    case PreferenceRule::SAME_ADDRESS:
-        return "same-address";
-    case PreferenceRule::LATER_DATE:
-        return "later-date";
-    case PreferenceRule::SMALLER_LENGTH:
-        return "smaller-length";
-    }
-    return "unknown";
-}
-
 struct Preference
 {
     ItemRecord& item; ///< one of the two arguments

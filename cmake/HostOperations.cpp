@@ -1,5 +1,5 @@
-// HostOperations.cpp: a part of every host framework that asks for each of its operations. The update checker asks for
-// some of them only at the first check; so a program whose framework lacks one is not linked, and the linker names it.
+// HostOperations.cpp: is linked into every host framework and refers to each operation that a framework must define.
+// The update checker calls some of them only at the first check. With this file the linker already names a missing one.
 // Thread: never run.
 
 #include "HostFramework/AlertBox.h"

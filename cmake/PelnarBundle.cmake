@@ -81,7 +81,7 @@ function(pelnar_bundle_make_absolute name)
     set(${name} "${paths}" PARENT_SCOPE)
 endfunction()
 
-# The usual bundle of macOS. Qt and its plugins come in by macdeployqt, and the signature by codesign, after it.
+# The usual bundle of macOS. macdeployqt adds Qt and its plugins; codesign signs the bundle after that.
 function(pelnar_add_macos_bundle target)
     set_target_properties(${target} PROPERTIES
         MACOSX_BUNDLE ON
@@ -110,7 +110,7 @@ function(pelnar_add_macos_bundle target)
         USE_SOURCE_PERMISSIONS COMPONENT ${BUNDLE_COMPONENT} EXCLUDE_FROM_ALL)
 endfunction()
 
-# What the scripts of the bundle read: everything that is known when the build is generated.
+# The settings for the bundle's scripts: all that is known when the build is generated.
 function(pelnar_write_bundle_settings target file)
     set(library_files)
     get_target_property(project_libraries Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
@@ -153,8 +153,8 @@ function(pelnar_write_bundle_settings target file)
     file(GENERATE OUTPUT "${file}" CONTENT "${text}" TARGET ${target})
 endfunction()
 
-# The same sources give the same bundle in every folder: neither the program nor what is built for it looks for libraries by a path
-# of this build, or names its sources by one. Debug builds keep the paths, which debuggers follow.
+# The same sources must give the same bundle in every folder. So the program and its libraries contain no path of this
+# build, neither as a search path nor as the name of a source. Debug builds keep the paths for debuggers.
 function(pelnar_bundle_forget_folders target libraries)
     get_target_property(project_libraries Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
     list(TRANSFORM project_libraries PREPEND Pelnar::)
@@ -201,13 +201,13 @@ function(pelnar_add_linux_bundle target)
     endif()
     pelnar_write_bundle_settings(${target} "${settings}")
 
-    # The libraries of others in the bundle name no folder in which they look for each other. They are found by the
-    # program's DT_RPATH, which holds for all that it loads; DT_RUNPATH does not.
+    # The bundle's third-party libraries have no search path of their own. The program's DT_RPATH finds them, because it
+    # applies to all libraries that the program loads; DT_RUNPATH does not.
     get_target_property(library_folder Pelnar::UpdateChecker PELNAR_LIBRARY_FOLDER)
     target_link_options(${target} PRIVATE "LINKER:--disable-new-dtags")
     set_property(TARGET ${target} APPEND PROPERTY BUILD_RPATH "$ORIGIN/${library_folder}")
 
-    # Last of all: what the program is linked with is known then.
+    # This must come last: only now is it known which libraries the program links.
     cmake_language(EVAL CODE "cmake_language(DEFER DIRECTORY [==[${CMAKE_SOURCE_DIR}]==]
         CALL pelnar_bundle_forget_folders [==[${target}]==] [==[${BUNDLE_LIBRARIES}]==])")
 
@@ -215,7 +215,7 @@ function(pelnar_add_linux_bundle target)
         -P "${PELNAR_BUNDLE_SCRIPTS}/MakeBundle.cmake")
     set(pack "${CMAKE_COMMAND}" --log-level=WARNING "-DSETTINGS=${settings}" "-DDESTINATION=${folder}"
         -P "${PELNAR_BUNDLE_SCRIPTS}/PackBundle.cmake")
-    # Made again each time: the libraries of the system change without the build's knowledge.
+    # Made in every build: the system's libraries may change without the build's knowledge.
     add_custom_target(${target}_bundle COMMAND ${make} COMMENT "Making ${BUNDLE_NAME}.app" VERBATIM)
     get_target_property(needed Pelnar::UpdateChecker PELNAR_RUNTIME_LIBRARIES)
     list(TRANSFORM needed PREPEND Pelnar::)

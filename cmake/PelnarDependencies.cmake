@@ -1,7 +1,7 @@
-# Everything the project takes from outside, found in one place. The matching Debian packages stand in scripts/packages.
+# All external dependencies of the project. scripts/packages lists the Debian packages that provide them.
 
-# pelnar_helper_library(<name> <shared> <static>...): a library that the installer's helper needs as others do. A program
-# with the property PELNAR_STANDS_ALONE gets the static libraries of these names, everything else the shared one.
+# pelnar_helper_library(<name> <shared> <static>...): a library that both the installer's helper and other programs
+# need. A program with the property PELNAR_STANDS_ALONE gets the static libraries, all others the shared one.
 function(pelnar_helper_library name shared)
     add_library(${name} INTERFACE)
     if(NOT PELNAR_STANDALONE_HELPER)
@@ -27,15 +27,16 @@ find_package(glog REQUIRED)
 find_package(Boost REQUIRED)
 find_package(Threads REQUIRED)
 
-# pelnar_objc_runtime: Foundation and the runtime beneath it. pelnar_sparkle_interface: where <Sparkle/Sparkle.h> is read
-# from; it links nothing, so that a test may put doubles in the place of the framework's classes.
+# pelnar_objc_runtime: Foundation and the Objective-C runtime.
+# pelnar_sparkle_interface: the include folder of <Sparkle/Sparkle.h>. It links nothing, so that a test may use doubles
+# of the framework's classes.
 add_library(pelnar_objc_runtime INTERFACE)
 add_library(pelnar_sparkle_interface INTERFACE)
 
 if(APPLE)
     find_library(PELNAR_FOUNDATION Foundation REQUIRED)
     find_library(PELNAR_APPKIT AppKit REQUIRED)
-    # The folder of a framework that is not installed for all users is said with CMAKE_FRAMEWORK_PATH.
+    # CMAKE_FRAMEWORK_PATH names the folder of a framework that is not installed for all users.
     find_library(PELNAR_SPARKLE Sparkle REQUIRED)
     cmake_path(GET PELNAR_SPARKLE PARENT_PATH PELNAR_SPARKLE_FOLDER)
 
@@ -50,7 +51,7 @@ if(APPLE)
         endforeach()
     endif()
 
-    # References are counted by hand; see Foundation/ManualReferences.h.
+    # The code counts references by hand; see Foundation/ManualReferences.h.
     target_compile_options(pelnar_objc_runtime INTERFACE "$<$<COMPILE_LANGUAGE:OBJCXX>:-fno-objc-arc>")
     target_link_libraries(pelnar_objc_runtime INTERFACE ${PELNAR_FOUNDATION})
     target_compile_options(pelnar_sparkle_interface INTERFACE
@@ -59,8 +60,8 @@ else()
     find_package(PkgConfig REQUIRED)
     find_package(Qt5LinguistTools 5.15 REQUIRED)
 
-    # GNUstep's Foundation over GCC's Objective-C runtime, compiled by clang. The runtime's headers and library belong
-    # to GCC, so GCC is asked where they are.
+    # GNUstep's Foundation with GCC's Objective-C runtime, compiled by clang. GCC is asked for the place of the
+    # runtime's headers and library, because they belong to GCC.
     execute_process(COMMAND gcc -print-file-name=include
         OUTPUT_VARIABLE PELNAR_GCC_INCLUDE OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
     execute_process(COMMAND gcc -print-file-name=libobjc.so

@@ -1,6 +1,6 @@
-# pelnar_host_framework(<target>): makes a shared library a host framework in the place of the reference one. It gets the
-# headers of the host interfaces, and the meta-objects of those classes of theirs that Qt asks for.
-# docs/guide/own-host-framework.md tells what the library defines, and how programs are linked with it.
+# pelnar_host_framework(<target>): prepares a shared library to replace the reference host framework. The target gets
+# the headers of the host interfaces, and the meta-objects of those classes that have one.
+# docs/guide/own-host-framework.md says what the library must define, and how to link programs with it.
 
 set_property(GLOBAL PROPERTY PELNAR_HOST_OPERATIONS "${CMAKE_CURRENT_LIST_DIR}/HostOperations.cpp")
 
@@ -10,7 +10,7 @@ function(pelnar_host_framework target)
         message(FATAL_ERROR "pelnar_host_framework(${target}): a host framework is a shared library. The update checker "
             "looks for its operations when the program runs, and would find none in a program or a static library.")
     endif()
-    # Both are other ones in the project and where it is installed.
+    # These paths are different in the project and in an installation.
     get_property(headers GLOBAL PROPERTY PELNAR_HOST_HEADERS)
     get_property(operations GLOBAL PROPERTY PELNAR_HOST_OPERATIONS)
     get_property(interfaces GLOBAL PROPERTY PELNAR_HOST_INTERFACES)
@@ -22,7 +22,7 @@ function(pelnar_host_framework target)
     endforeach()
     target_sources(${target} PRIVATE "${operations}")
     if(APPLE)
-        # There a program finds an operation in the library of the name that it was linked with.
+        # On macOS a program searches for an operation in the library with the name that it was linked with.
         set_target_properties(${target} PROPERTIES OUTPUT_NAME PelnarHostFramework VERSION 1 SOVERSION 1)
     endif()
     target_link_libraries(${target} PUBLIC ${interfaces})

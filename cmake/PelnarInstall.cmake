@@ -1,5 +1,5 @@
-# What `cmake --install` puts where: the shared libraries and the helper, the headers of the update checker and of the host
-# framework, the CMake package with pelnar_add_bundle(), and the pkg-config file.
+# The installed files: the shared libraries and the helper, the headers of the update checker and of the host framework,
+# the CMake package with pelnar_add_bundle(), and the pkg-config file.
 
 include(CMakePackageConfigHelpers)
 
@@ -14,7 +14,7 @@ endforeach()
 list(TRANSFORM PELNAR_INSTALLED_TARGETS PREPEND Pelnar)
 foreach(target IN LISTS PELNAR_INSTALLED_TARGETS)
     target_include_directories(${target} INTERFACE "$<INSTALL_INTERFACE:${PELNAR_INSTALL_INCLUDEDIR}>")
-    # The libraries find each other wherever the whole is put.
+    # The libraries find each other in any folder.
     set_target_properties(${target} PROPERTIES INSTALL_RPATH "${PELNAR_BESIDE_LOADER}")
 endforeach()
 
@@ -31,7 +31,7 @@ endif()
 install(EXPORT PelnarUpdateCheckerTargets NAMESPACE Pelnar:: DESTINATION "${PELNAR_INSTALL_CMAKEDIR}"
     COMPONENT development)
 
-# Headers that are private to a folder (_p.h) or to the project stay here.
+# Private headers (_p.h) and headers for the project only are not installed.
 install(DIRECTORY App common HostFramework DESTINATION "${PELNAR_INSTALL_INCLUDEDIR}" COMPONENT development
     FILES_MATCHING
     PATTERN "*.h"
@@ -65,7 +65,7 @@ install(FILES
 install(DIRECTORY cmake/bundle DESTINATION "${PELNAR_INSTALL_CMAKEDIR}" COMPONENT development)
 install(DIRECTORY "${PELNAR_LICENSES}/" DESTINATION "${PELNAR_INSTALL_LICENSES}" COMPONENT development)
 
-# Hosts link these. The update checker loads the others itself.
+# Hosts link these. The update checker loads the others.
 set(PELNAR_PC_LIBRARIES "-lPelnarUpdateChecker -lPelnarHostFramework")
 configure_file(cmake/PelnarUpdateChecker.pc.in "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" @ONLY)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PelnarUpdateChecker.pc" DESTINATION "${CMAKE_INSTALL_LIBDIR}/pkgconfig"

@@ -1,5 +1,5 @@
-# PELNAR_LICENSES: a folder with the project's licence, and in built-in/ those of what is compiled or linked into its files and so
-# is not beside them. Bundles and installations take it over.
+# PELNAR_LICENSES: a folder with the project's licence, and in built-in/ the licences of the code that is compiled or
+# statically linked into its files. Bundles and installations copy this folder.
 
 include("${CMAKE_CURRENT_LIST_DIR}/bundle/Licenses.cmake")
 

@@ -1,4 +1,4 @@
-# Options a person may set, and the output layout that they share.
+# The options that a person may set, and the folders of the build's output.
 
 option(PELNAR_BUILD_TESTS "Build the tests" ON)
 option(PELNAR_BUILD_BENCHMARKS "Build the benchmarks (they run on request only)" ON)
@@ -21,7 +21,7 @@ set(CMAKE_OBJCXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 
-# Beside the file that is loaded, for libraries that find each other wherever the whole is put.
+# Libraries search in their own folder, so that the whole can be moved.
 if(APPLE)
     set(PELNAR_BESIDE_LOADER "@loader_path")
 else()
@@ -40,7 +40,7 @@ if(PELNAR_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_OBJCXX_COMPILER_LAUNCHER "${PELNAR_CCACHE}")
 endif()
 
-# Nearly every source is linked into several test programs; this linker needs a seventh of the usual one's time.
+# Nearly every source is linked into several test programs. This linker needs a seventh of the default linker's time.
 find_program(PELNAR_LLD ld.lld)
 if(PELNAR_LLD AND NOT APPLE)
     add_link_options(-fuse-ld=lld)
@@ -50,8 +50,8 @@ if(PELNAR_SANITIZE)
     add_compile_options(-fsanitize=${PELNAR_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     add_link_options(-fsanitize=${PELNAR_SANITIZE})
     if(PELNAR_SANITIZE MATCHES "undefined")
-        # Type information of classes hidden in another shared library is not unique there, so `vptr` and
-        # `function` would report calls that are right.
+        # The type information of a hidden class in another shared library is not unique. So `vptr` and `function` would
+        # report correct calls.
         add_compile_options(-fno-sanitize=vptr,function)
         add_link_options(-fno-sanitize=vptr,function)
     endif()

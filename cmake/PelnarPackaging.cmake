@@ -1,5 +1,5 @@
-# Debian packages of what is installed: `cpack -G DEB` in a build folder. The libraries with the helper, what programs are built
-# with, and the publisher's tool; a package names what it needs as dpkg-shlibdeps finds it.
+# Debian packages: `cpack -G DEB` in a build folder. One package has the libraries and the helper, one has what programs
+# are built with, one has the publisher's tool. dpkg-shlibdeps finds the dependencies.
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME pelnar-update-checker)
@@ -34,7 +34,7 @@ set(CPACK_DEBIAN_PUBLISHER_PACKAGE_NAME pelnar-appcast)
 set(CPACK_DEBIAN_PUBLISHER_DESCRIPTION "${PROJECT_DESCRIPTION}: what their publishers use")
 set(CPACK_DEBIAN_PUBLISHER_PACKAGE_SECTION utils)
 
-# Our own libraries belong to no package of this system yet.
+# Our own libraries are not yet in any package of this system.
 foreach(target IN LISTS PELNAR_INSTALLED_TARGETS)
     get_target_property(folder ${target} BINARY_DIR)
     list(APPEND CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${folder}")

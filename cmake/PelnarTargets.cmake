@@ -1,4 +1,4 @@
-# pelnar_target(<name>): what every target of ours is compiled with.
+# pelnar_target(<name>): the compiler options of every target of this project.
 function(pelnar_target name)
     target_include_directories(${name} PUBLIC "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>")
     target_compile_definitions(${name} PRIVATE
@@ -11,14 +11,15 @@ function(pelnar_target name)
     set_target_properties(${name} PROPERTIES AUTOMOC ON)
 endfunction()
 
-# pelnar_precompile_own(<name> <header>...): the target's C++ sources, and those of targets that share with it, find
-# these headers compiled already, in the presets that allow it. No source may count on that: the others compile it bare.
+# pelnar_precompile_own(<name> <header>...): precompiles these headers for the C++ sources of the target, and of the
+# targets that share with it, in the presets that allow it. Each source still includes every header that it needs: other
+# presets compile it without precompiled headers.
 function(pelnar_precompile_own name)
     list(TRANSFORM ARGN REPLACE ".+" "$<$<COMPILE_LANGUAGE:CXX>:<\\0$<ANGLE-R>>")
     target_precompile_headers(${name} PRIVATE ${ARGN})
 endfunction()
 
-# pelnar_precompile_with(<name> <owner>): the target shares the compiled headers of the other.
+# pelnar_precompile_with(<name> <owner>): the target uses the precompiled headers of <owner>.
 function(pelnar_precompile_with name owner)
     get_target_property(objective_sources ${name} SOURCES)
     list(FILTER objective_sources INCLUDE REGEX "\\.mm$")
@@ -26,8 +27,8 @@ function(pelnar_precompile_with name owner)
     target_precompile_headers(${name} REUSE_FROM ${owner})
 endfunction()
 
-# pelnar_uncounted(<name>): a program, or a library put into one, that is confined or starts without an environment. It
-# has nowhere to write coverage counters, and would wait for ever or show what it is not meant to have.
+# pelnar_uncounted(<name>): turns coverage off for a program, or for a library in a program, that is confined or starts
+# without an environment. Such a program cannot write the counters, and could hang.
 function(pelnar_uncounted name)
     if(PELNAR_COVERAGE)
         target_compile_options(${name} PRIVATE -fno-profile-instr-generate -fno-coverage-mapping)
@@ -35,8 +36,8 @@ function(pelnar_uncounted name)
     endif()
 endfunction()
 
-# pelnar_exports(<name>): the shared library shows what <name>.map beside its list names, under the versions that stand there,
-# and nothing else. macOS has no such versions.
+# pelnar_exports(<name>): the shared library exports only the names in <name>.map in the same folder, with the versions
+# given there. macOS has no such versions.
 function(pelnar_exports name)
     if(NOT APPLE)
         set(map "${CMAKE_CURRENT_SOURCE_DIR}/${name}.map")
@@ -45,8 +46,8 @@ function(pelnar_exports name)
     endif()
 endfunction()
 
-# pelnar_describe_types(<name>...): the debugging information of these targets has the whole of every type that they name, also of
-# interfaces that others implement. The kept description of the libraries' binary interface is made of it.
+# pelnar_describe_types(<name>...): gives these targets complete debugging information for every type that they name,
+# including interfaces that others implement. The kept description of the binary interface is made from it.
 function(pelnar_describe_types)
     if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND NOT PELNAR_SANITIZE AND NOT PELNAR_COVERAGE)
         foreach(name IN LISTS ARGN)

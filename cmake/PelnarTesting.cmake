@@ -1,7 +1,7 @@
-# Of every test: what the leak checker lets pass.
+# For every test: the suppressions of the leak checker.
 set(PELNAR_TEST_ENVIRONMENT
     "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/support/lsan.supp:print_suppressions=0")
-# Seconds; only a test that hangs reaches it.
+# In seconds; only a test that hangs takes so long.
 set(PELNAR_TEST_TIMEOUT 120)
 set(PELNAR_LONG_TEST_TIMEOUT 14400)
 if(PELNAR_SANITIZE)

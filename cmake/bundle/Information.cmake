@@ -1,6 +1,6 @@
-# What a bundle says of itself: its information file and its desktop entry.
+# The information file of a bundle and its desktop entry.
 
-# Truth values that OPTIONS may name. A test compares them with what the engine reads.
+# The boolean keys that OPTIONS may name. A test compares them with the keys that the engine reads.
 set(PELNAR_BUNDLE_OPTION_NAMES PelnarAllowsFeedURLInDefaults PelnarAllowsInsecureFeeds PelnarAllowsInstallerPrograms
     PelnarConfirmsGoodStart PelnarRequiresSignedFeed PelnarUpdatesDisabled SUAutomaticallyUpdate)
 
@@ -36,8 +36,8 @@ function(pelnar_property_list_text value result)
     set(${result} "\"${value}\"" PARENT_SCOPE)
 endfunction()
 
-# The text of the key that the argument <name> or <name>_FILE gives: a file with what `pelnar-appcast keys show` prints, or the entry
-# that `keys generate` prints. Empty when neither is given.
+# The key from the argument <name> or <name>_FILE: a file with the output of `pelnar-appcast keys show`, or the entry
+# that `keys generate` prints. Empty if neither argument is given.
 function(pelnar_read_public_key name result)
     set(key "${BUNDLE_${name}}")
     if(key STREQUAL "" AND NOT "${BUNDLE_${name}_FILE}" STREQUAL "")
@@ -101,7 +101,8 @@ function(pelnar_write_information file)
     file(WRITE "${file}" "${text}}\n")
 endfunction()
 
-# The entry starts the application by the name of its link, which a person or a package puts into a folder of PATH.
+# The desktop entry starts the application by the name of its link. A person or a package puts this link into a folder
+# of PATH.
 function(pelnar_write_desktop_entry file)
     if(NOT BUNDLE_DESKTOP_ENTRY STREQUAL "")
         file(COPY_FILE "${BUNDLE_DESKTOP_ENTRY}" "${file}")

@@ -1,11 +1,11 @@
-# licenses/ of a bundle: the text of everything inside, and a list that says which text is for which file. Texts come from
-# the packages of the system that the files belong to.
+# The folder licenses/ of a bundle: the licence texts of all its files, and a list that says which text belongs to which
+# file. The texts come from the system's packages that own the files.
 
 # The package and its version for each file of the system: `<prefix>_<file>` becomes "package version", or stays unset.
 function(pelnar_find_packages prefix)
     set(asked)
     foreach(file IN LISTS ARGN)
-        # Where /lib is a link to /usr/lib, packages name either.
+        # If /lib is a link to /usr/lib, packages may use either name.
         string(REGEX REPLACE "^/usr/lib" "/lib" short "${file}")
         string(REGEX REPLACE "^/lib" "/usr/lib" long "${file}")
         list(APPEND asked "${short}" "${long}")
@@ -34,7 +34,7 @@ function(pelnar_find_packages prefix)
     endforeach()
 endfunction()
 
-# Copies the text of a package into a folder, with the common licences that it refers to.
+# Copies the licence text of a package into a folder, with the common licences that it mentions.
 function(pelnar_copy_package_license package folder)
     set(text "/usr/share/doc/${package}/copyright")
     if(NOT EXISTS "${text}")
@@ -56,8 +56,8 @@ function(pelnar_copy_package_license package folder)
     endforeach()
 endfunction()
 
-# Writes licenses/ for the files in the list `copied`, each "place in the bundle<TAB>where it comes from"; `owner_...` says to
-# which packages those belong.
+# Writes licenses/ for the files in the list `copied`. Each entry is "place in the bundle<TAB>source". `owner_...` names
+# the packages of the sources.
 function(pelnar_write_licenses)
     set(folder "${bundle}/licenses")
     file(MAKE_DIRECTORY "${folder}")

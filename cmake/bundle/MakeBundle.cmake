@@ -9,7 +9,7 @@ set(library_folder "${bundle}/${BUNDLE_LIBRARY_FOLDER}")
 set(helper "${bundle}/${BUNDLE_HELPER_FOLDER}/pelnar-update-installer")
 set(plugin_folder "${bundle}/plugins")
 
-# Patterns of the libraries that stay outside.
+# The libraries that stay outside the bundle, as patterns.
 function(pelnar_read_baseline result)
     set(groups system display)
     if(BUNDLE_QT STREQUAL OUTSIDE)
@@ -27,7 +27,7 @@ function(pelnar_read_baseline result)
     set(${result} "${patterns}" PARENT_SCOPE)
 endfunction()
 
-# The files of the libraries that the given files need and that the baseline does not have.
+# The libraries that the given files need and that are not in the baseline.
 function(pelnar_find_dependencies kind result)
     pelnar_read_baseline(baseline)
     if(NOT BUNDLE_OBJDUMP STREQUAL "")
@@ -50,7 +50,8 @@ function(pelnar_find_dependencies kind result)
     set(${result} "${found}" PARENT_SCOPE)
 endfunction()
 
-# Debugging symbols stay at home. The file is named by no path: some linkers' tools take "%" in a path for a pattern.
+# Removes debugging symbols. The file is given without a path, because some linkers' tools treat "%" in a path as a
+# pattern.
 function(pelnar_strip folder name)
     if(NOT BUNDLE_STRIP_PROGRAM STREQUAL "")
         execute_process(COMMAND "${BUNDLE_STRIP_PROGRAM}" "${name}" WORKING_DIRECTORY "${folder}"
@@ -58,7 +59,7 @@ function(pelnar_strip folder name)
     endif()
 endfunction()
 
-# The libraries of packages are stripped already.
+# Libraries from packages are already stripped.
 function(pelnar_strip_own_libraries)
     foreach(entry IN LISTS copied)
         string(REGEX MATCH "^(.*)/([^/]*)\t(.*)$" entry "${entry}")
@@ -73,7 +74,7 @@ function(pelnar_strip_own_libraries)
     endforeach()
 endfunction()
 
-# Copies a library under the name by which others ask for it. Its place and its source go into the list `copied`.
+# Copies a library under the name by which others load it. Adds its place and its source to the list `copied`.
 function(pelnar_copy_library source folder)
     cmake_path(GET source FILENAME name)
     execute_process(COMMAND "${BUNDLE_OBJDUMP}" -p "${source}" OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
@@ -133,7 +134,7 @@ function(pelnar_copy_libraries)
     set(copied "${copied}" PARENT_SCOPE)
 endfunction()
 
-# The plugins without which a Qt in the bundle shows nothing.
+# The plugins that a Qt in the bundle needs to show anything.
 function(pelnar_copy_qt_plugins)
     if(BUNDLE_QT_PLUGINS STREQUAL "")
         pelnar_bundle_fail("Qt's platform plugins are not known. Call find_package(Qt5 COMPONENTS Gui) before pelnar_add_bundle().")
@@ -155,7 +156,7 @@ function(pelnar_copy_qt_plugins)
     set(copied "${copied}" PARENT_SCOPE)
 endfunction()
 
-# What Qt itself says, such as the texts of the buttons of a message box, for the application's translator to load.
+# The translations of Qt's own texts, such as the buttons of a message box. The application's translator loads them.
 function(pelnar_copy_qt_translations)
     file(GLOB files "${BUNDLE_QT_TRANSLATIONS}/qtbase_*.qm")
     if(NOT files)
@@ -202,6 +203,6 @@ pelnar_find_packages(owner ${sources})
 pelnar_strip_own_libraries()
 pelnar_copy_resources()
 pelnar_write_licenses()
-# Rights do not depend on who makes the bundle.
+# The permissions must not depend on the person who makes the bundle.
 execute_process(COMMAND chmod -R u=rwX,go=rX "${bundle}" COMMAND_ERROR_IS_FATAL ANY)
 pelnar_check_layout("${bundle}")

@@ -1,5 +1,6 @@
-# Packs a bundle as Name-1.2.tar.zst: the same bundle gives the same bytes wherever, whenever and by whomever it is packed.
-# Usage: cmake -DSETTINGS=FILE -DDESTINATION=FOLDER -P PackBundle.cmake; the bundle is in FOLDER, and so is the archive
+# Packs a bundle as Name-1.2.tar.zst. The same bundle always gives the same bytes.
+# Usage: cmake -DSETTINGS=FILE -DDESTINATION=FOLDER -P PackBundle.cmake
+# The bundle is in FOLDER, and the archive is written there.
 
 include("${CMAKE_CURRENT_LIST_DIR}/Settings.cmake")
 

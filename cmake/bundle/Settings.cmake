@@ -1,5 +1,5 @@
-# What the scripts of a bundle share: its settings, and how they end when something is wrong. To change a
-# value, set it before the script runs: `cmake -DBUNDLE_VERSION=1.3 -DSETTINGS=... -P MakeBundle.cmake`.
+# The common part of a bundle's scripts: the settings, and the error messages. To change a setting, set it before the
+# script runs: `cmake -DBUNDLE_VERSION=1.3 -DSETTINGS=... -P MakeBundle.cmake`.
 
 cmake_policy(VERSION 3.25)
 
@@ -10,7 +10,7 @@ function(pelnar_bundle_setting name)
 endfunction()
 
 function(pelnar_bundle_fail)
-    # Not as a list, from which the semicolons of a text would be missing.
+    # Not as a list: a list would lose the semicolons of a text.
     set(text)
     math(EXPR last "${ARGC} - 1")
     foreach(place RANGE ${last})
@@ -30,7 +30,7 @@ function(pelnar_is_elf file result)
     endif()
 endfunction()
 
-# A bundle whose layout is that of macOS, with a program for Linux, is of use to nobody.
+# A bundle with the layout of macOS and a program for Linux is not usable.
 function(pelnar_check_layout bundle)
     if(NOT IS_DIRECTORY "${bundle}/Contents")
         return()

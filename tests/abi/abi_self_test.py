@@ -20,7 +20,7 @@ INTERFACE = "App/UpdateChecker/IUpdateManager.h"
 BODY = "IUpdateManager* UpdateManager::GetCurrentUpdateManager()\n{\n    return s_updateManager;"
 OPENING = "    virtual void OnUpdateDialogOpening() = 0;\n"
 FIELD = "        QObject* parent;"
-# What a program that was built before would miss: for each file a text in it, and what stands there instead.
+# Changes that an older program would miss: for each file, a text in it and its replacement.
 CHANGES = {
     "a virtual function more": {OBSERVER: (OPENING, "    virtual void OnMore() = 0;\n" + OPENING)},
     "a virtual function less": {OBSERVER: (OPENING, "")},
@@ -63,7 +63,7 @@ class ChangedHeader(unittest.TestCase):
         end, first = command.index("-o"), next(i for i, word in enumerate(command) if word.startswith("-I"))
         abi.run(*command[:first], f"-I{folder}", *command[first:end], *flags, "-o", folder / "manager.o", "-c", source)
         script = abi.SOURCE / "App/UpdateChecker/PelnarUpdateChecker.map"
-        # The rest of the manager is missing.
+        # The other members of the manager are missing.
         abi.run("clang++", "-shared", "-fuse-ld=lld", f"-Wl,--version-script={script}", "-Wl,-soname,libmanager.so.1",
                 "-Wl,--noinhibit-exec", folder / "manager.o", "-o", folder / "libmanager.so")
         return folder / "libmanager.so"
@@ -88,7 +88,7 @@ class ChangedHeader(unittest.TestCase):
         self.assertEqual(abi.readable(new), ["Pelnar::App::UpdateManager::GetUpdateManager() of PELNAR_1.0"])
 
     def test_every_public_class_is_described(self):
-        # The session is of its own library, and the keys of the settings are read by it alone.
+        # The session has its own library. Only it reads the keys of the settings.
         self.assertEqual(abi.missing_types(abi.SOURCE / "abi"), ["SettingKey", "SparkleManager"])
 
 

@@ -11,7 +11,7 @@ import sys
 
 LIBRARIES = ("App/UpdateChecker/libPelnarUpdateChecker.so", "App/UpdateChecker/libPelnarUpdateSession.so",
              "HostFramework/Reference/libPelnarHostFramework.so", "Engine/objc/libPelnarUpdateEngine.so")
-# Filled when they are loaded, and never changed.
+# Filled at load time and never changed.
 CONSTANTS = {"Pelnar::App::NagScreen::MajorUpdate", "Pelnar::LINK_KEY_NAMES[abi:cxx11]"}
 
 

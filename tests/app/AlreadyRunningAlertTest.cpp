@@ -181,7 +181,7 @@ TEST_F(AlreadyRunningAlert, ParentMayDieWhileItIsOpen)
     EXPECT_EQ(session.Count("RejectUpdateAndHideDialog"), 1);
 }
 
-/// A check that the user asked for while another updater holds the session: all of it runs inside the entry point.
+/// A check that the user started while another updater holds the session. The whole check runs inside the entry point.
 class CheckWithoutTheSession : public HostTest
 {
 protected:

@@ -1,4 +1,4 @@
-// The outcome of two versions and the relaunch path, on plain values.
+// The result of a check from its two versions, and the relaunch path. Pure values.
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/CheckOutcome_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RelaunchPath_p.h"
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"

@@ -1,4 +1,4 @@
-// Programs whose application object is not the host framework's: a check says so, and touches nothing.
+// Programs whose application object is not of the host framework: a check reports this and changes nothing.
 #include "App/UpdateChecker/UpdateManager.h"
 #include "tests/app/ScriptedSparkleManager.h"
 
@@ -31,7 +31,7 @@ protected:
         }
         return "nothing was thrown";
     }
-    /// More than one check: no manager is left behind by the first.
+    /// More than one check: the first leaves no manager behind.
     void ExpectRefusals() const
     {
         for (int i = 0; i < 3; ++i)

@@ -1,5 +1,5 @@
-// Every place where a check calls its host: what happens when the host destroys the manager there, by way of its Qt
-// parent, when it throws afterwards, and when it calls back.
+// Every place where a check calls its host. In each of them the host destroys the manager through its Qt parent,
+// throws, or calls back.
 #include "tests/app/TestHost.h"
 #include "tests/app/UpdateManagerTestAccess.h"
 
@@ -43,7 +43,7 @@ public:
     void RefusedLock()
     {
         session.grantsLock = false;
-        // Closes the alert, which a check that is cut short does not show.
+        // Closes the alert. An interrupted check does not show it.
         QTimer closer;
         QObject::connect(&closer, &QTimer::timeout, [] { QApplication::closeAllWindows(); });
         closer.start(0);
@@ -97,7 +97,7 @@ public:
     }
 
 protected:
-    /// Runs its action three times, and looks at itself in between: it dies with its last owner.
+    /// Runs its action three times and checks its own state in between: it dies with its last owner.
     class RepeatingGateway : public Pelnar::ExternalStimulus::IGateway
     {
     public:
@@ -134,7 +134,7 @@ protected:
         Q_EMIT application.nagScreenManager->NagAvailable(NagScreen::MajorUpdate, isAvailable);
     }
 
-    /// Runs the route once with \a act at the place \a at; the names of the places that were reached.
+    /// Runs the route once, with \a act at the place \a at. Returns the names of the places that were reached.
     Places Run(std::size_t at, std::function<void()> const& act)
     {
         Places reached;
@@ -163,7 +163,7 @@ protected:
     }
     void ExpectSessionGivenBack()
     {
-        // A session that was granted goes back; one that was not is not given back.
+        // The session is given back only if it was granted.
         EXPECT_EQ(session.Count("UnlockUpdaterWhenPossible"), session.grantsLock ? session.Count("LockUpdater") : 0);
     }
 };
@@ -188,7 +188,7 @@ TEST_P(HostCallback, MayDestroyTheManagersParent)
                                    });
         ASSERT_GT(reached.size(), at);
         EXPECT_EQ(Current(), nullptr);
-        // What was on its way is fetched; nobody is told and nothing is shown.
+        // A running fetch ends, but nobody is notified and nothing is shown.
         for (std::size_t later = at + 1; later < reached.size(); ++later)
         {
             EXPECT_TRUE(IsGetter(reached[later])) << reached[later];
@@ -236,7 +236,7 @@ TEST_P(HostCallback, MayCallBack)
                                        Current()->UnregisterObserver(&second);
                                        Current()->RejectUpdateAndHideDialog();
                                    });
-        // A dialog that was rejected before it was shown is shown all the same.
+        // A dialog that is rejected before it is shown still appears.
         EXPECT_EQ(reached, GetParam().places);
         Turn();
     }
@@ -309,7 +309,7 @@ TEST_F(LastOwner, NagServiceOutlivesTheCallThatDestroysTheManager)
     EXPECT_EQ(Current(), nullptr);
 }
 
-/// Runs what it still holds when it dies.
+/// Runs its pending action when it is destroyed.
 class FlushingGateway : public Pelnar::ExternalStimulus::IGateway
 {
 public:
@@ -332,7 +332,7 @@ TEST_F(LastOwner, GatewayThatRunsItsActionInItsDestructionFindsNobody)
     EXPECT_EQ(session.Count("ShowUpdateDialog"), 0);
 }
 
-/// Announces that its content is gone when it dies.
+/// Announces the end of its content when it is destroyed.
 class LeavingNagScreenManager : public ScriptedNagScreenManager
 {
 public:

@@ -1,6 +1,6 @@
-// ScriptedSparkleManager.h: the session's double: it takes the session's place at link time, records what it is asked
-// and answers as the test says.
-// Thread: the Qt main thread. Ownership: one script for the process; a ScriptedSession resets it while it lives.
+// ScriptedSparkleManager.h: a double of the session. It replaces the session at link time, records its calls and gives
+// the answers of the test's script.
+// Thread: the Qt main thread. Ownership: the process has one script; a ScriptedSession resets it.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
@@ -28,7 +28,7 @@ public:
 
     /// The operations called, by name, in order.
     std::vector<std::string> calls;
-    /// Every context offered, granted or not.
+    /// Every context that was offered, also the refused ones.
     std::vector<std::shared_ptr<App::SparkleUpdateContext>> contexts;
     bool grantsLock = true;
     // Called by the operation of that name, after it was recorded; may throw.

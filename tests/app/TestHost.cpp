@@ -13,7 +13,7 @@ void Reach(std::string const& place)
 {
     if (TheHostHook())
     {
-        // A copy: what the hook does may end with its own removal.
+        // A copy: the hook may remove itself.
         auto const hook = TheHostHook();
         hook(place);
     }
@@ -25,7 +25,7 @@ void Reach(std::string const& place)
 namespace Pelnar::Util
 {
 
-// Stands in front of the host framework's own.
+// Replaces the host framework's own function.
 QWidget* SpontaneousDialog::findParent()
 {
     ++Testing::TheSpontaneousParent().asked;

@@ -1,4 +1,4 @@
-// TestHost.h: a host application whose services answer as the test says, and the fixtures over it.
+// TestHost.h: a host application whose services give scripted answers, and fixtures that use it.
 // Thread: the Qt main thread. Ownership: the fixture owns the application; each service is shared with the checks.
 #pragma once
 
@@ -23,12 +23,12 @@
 namespace Pelnar::Testing
 {
 
-/// What happened, in order, as short texts. Everything in a test writes into the same one.
+/// All events in order, as short texts. Everything in a test writes into one list.
 using Journal = std::vector<std::string>;
 
 std::string ToText(Core::Version const& version);
 
-/// What a test does at every place where the host is called, by the name of the place. Empty: nothing.
+/// The test's action at each place where the host is called, by the name of the place. May be empty.
 std::function<void(std::string const& place)>& TheHostHook();
 
 class ScriptedNagScreenManager : public App::NagScreen::Manager
@@ -113,7 +113,7 @@ private:
     std::string name;
 };
 
-/// Keeps what is proposed; the test runs it when it likes.
+/// Keeps the proposed actions. The test runs them when it wants.
 class DeferringGateway : public ExternalStimulus::IGateway
 {
 public:

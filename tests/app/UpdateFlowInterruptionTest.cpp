@@ -1,4 +1,4 @@
-// What cuts the flow short: exceptions of the host's parts and of the back end, and the end of the manager's Qt parent.
+// Interruptions of the flow: exceptions of the host and of the back end, and the end of the manager's Qt parent.
 #include "tests/app/TestHost.h"
 #include "tests/app/UpdateManagerTestAccess.h"
 
@@ -115,7 +115,7 @@ TEST_F(UpdateFlowInterruption, ExceptionOfAcceptedReachesTheBackEndAndEndsNothin
     EXPECT_NE(Current(), nullptr);
 }
 
-// The manager's end at the hands of its Qt parent.
+// The Qt parent destroys the manager.
 
 TEST_F(UpdateFlowInterruption, ParentDestroyedWhileChecking)
 {

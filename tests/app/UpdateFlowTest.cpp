@@ -185,7 +185,7 @@ TEST_F(UpdateFlow, VersionsAreReadWhenTheDialogRuns)
     Turn();
 }
 
-// The nag.
+// The nag screen.
 
 TEST_F(UpdateFlow, WaitingFlowIgnoresOtherNames)
 {

@@ -1,4 +1,4 @@
-// Construction that throws. No check can follow it in a process, so each of these tests needs one of its own.
+// Construction that throws. No later check is possible in the process, so each of these tests needs its own process.
 #include "tests/app/TestHost.h"
 
 #include <gtest/gtest.h>

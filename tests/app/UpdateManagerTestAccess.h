@@ -1,4 +1,4 @@
-// UpdateManagerTestAccess.h: the way of the tests to a live manager's flow and back end.
+// UpdateManagerTestAccess.h: gives tests access to the flow and the back end of the current manager.
 // Thread: the Qt main thread.
 #pragma once
 
@@ -10,7 +10,7 @@ namespace Pelnar::App
 class UpdateManagerTestAccess
 {
 public:
-    /// REQUIRES: a manager lives.
+    /// REQUIRES: there is a current manager.
     static UpdateManager& Manager() { return dynamic_cast<UpdateManager&>(*UpdateManager::GetCurrentUpdateManager()); }
     static UpdateCheckMode CheckMode() { return Manager().impl->checkMode; }
     static AbstractUpdaterImpl& Updater() { return *Manager().impl->updater; }

@@ -1,4 +1,4 @@
-// The back end over the session, and the context that it lends.
+// The back end with a scripted session, and the context that it lends.
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/UpdaterSparkle.h"
 #include "tests/app/TestHost.h"
 #include "tests/support/LogCapture.h"

@@ -108,6 +108,6 @@ def check_bundle(bundle, program, libraries):
               for path in (bundle / "Contents/Frameworks").rglob("*")}
     for name in sorted({name for image in [program, *libraries] for name in image.libraries}):
         if re.match(r"@rpath/(libPelnar|Sparkle)", name) and name not in inside:
-            # The framework's stub stands for the file that Versions/A holds.
+            # The framework's stub stands for the file in Versions/A.
             if name != SPARKLE or "@rpath/Sparkle.framework" not in inside:
                 yield f"does not hold {name}"

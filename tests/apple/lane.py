@@ -150,7 +150,7 @@ def main(arguments):
         return self_test.run(folder) if wants_self_test else run_lane(folder)
     except sysroot.Unavailable as error:
         is_required = os.environ.get("PELNAR_APPLE_LANE") == "required"
-        # As GoogleTest writes it: scripts/skipped reads the reason.
+        # The format of GoogleTest: scripts/skipped reads the reason.
         say(f"{__file__}:0: {'FAILED' if is_required else 'Skipped'}\n{error}")
         return 1 if is_required else STATUS_SKIPPED
 

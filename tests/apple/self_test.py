@@ -19,7 +19,7 @@ NEEDS_OWN = "int own();\nint main() { return own(); }\n"
 LINUX_CALL = 'extern "C" int gettid();\nint main() { return gettid(); }\n'
 INSTALL_NAME = "-Wl,-install_name,@rpath/libPelnarUpdateChecker.1.dylib"
 
-# What must not compile: name, system, flags, source, what the compiler says.
+# Sources that must not compile: name, system, flags, source, the compiler's message.
 REFUSED = [
     ("an unknown method", "11.0", [], OBJECTIVE + "void f() { [NSString nonesuch]; }\n", "nonesuch"),
     ("an unknown class", "11.0", [], OBJECTIVE + "id f() { return [[NSWindow alloc] init]; }\n", "NSWindow"),

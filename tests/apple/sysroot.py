@@ -48,7 +48,7 @@ def download(packages, folder):
     own_lists = ["-o", f"Dir::State={state}", "-o", f"Dir::Cache={state}", "-o", "Dir::State::status=/var/lib/dpkg/status"]
     attempts = [
         [["apt-get", "download", "-qq", *packages]],
-        # A container may have no package lists: they are fetched for this folder alone.
+        # A container may have no package lists. They are fetched for this folder only.
         [["apt-get", *own_lists, "update", "-qq"], ["apt-get", *own_lists, "download", "-qq", *packages]],
     ]
     said = ""
@@ -80,8 +80,8 @@ def unpack_cxx_library(version, cache):
 def copy_cxx_headers(unpacked, version, sysroot):
     headers = sysroot / "usr/include/c++/v1"
     shutil.copytree(unpacked / f"usr/lib/llvm-{version}/include/c++/v1", headers)
-    # Apple's own build of the library says which of its parts came with which system: using one that the deployment
-    # target has not is an error. Debian's build leaves that out.
+    # Apple's build of the library says which parts came with which system, and using a part that is newer than the
+    # deployment target is an error. Debian's build does not say this.
     site = headers / "__config_site"
     text = site.read_text()
     switch = "#define _LIBCPP_HAS_NO_VENDOR_AVAILABILITY_ANNOTATIONS"
@@ -150,7 +150,7 @@ def write_stubs(tools, unpacked, sysroot):
     for module in ("Core", "Gui", "Widgets", "Network", "Test"):
         write_stub(libraries / f"Qt{module}.tbd", f"@rpath/Qt{module}.framework/Versions/5/Qt{module}",
                    exported_by(tools, qt_libraries / f"libQt5{module}.so.5"))
-    # Names with the C++ library's own types in them differ from Debian's, which is built over the other library.
+    # Names that contain types of the C++ library differ from Debian's, which is built with the other library.
     for name, of_its_own in (("glog", []), ("benchmark", listed("benchmark"))):
         write_stub(libraries / f"{name}.tbd", f"@rpath/lib{name}.dylib",
                    exported_by(tools, qt_libraries / f"lib{name}.so") + ["_" + symbol for symbol in of_its_own])

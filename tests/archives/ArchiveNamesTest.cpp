@@ -1,5 +1,5 @@
-// ArchiveNamesTest.cpp: names beyond ASCII in the archives of every packer: the helper, which has no locale and is
-// confined, and the publisher's tool, in the locale of the one who runs it, make the same tree of them.
+// ArchiveNamesTest.cpp: names beyond ASCII in the archives of every packer. The helper has no locale and is confined;
+// the publisher's tool uses the locale of its user. Both must make the same tree.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/bundle/PayloadKind.h"
@@ -28,7 +28,7 @@ namespace fs = std::filesystem;
 
 constexpr char NEW_APP[] = u8"Größe \u304c \u0439.app";
 
-/// A bundle with names in many scripts: letters with their marks in one, and letters and marks apart.
+/// A bundle with names in many scripts, with composed and with separate accents.
 std::vector<ForgedEntry> BundleOfNames(PackedLongNames longNames)
 {
     std::string const app = NEW_APP;
@@ -133,7 +133,7 @@ QProcessEnvironment EnvironmentWith(Surroundings const& surroundings)
 {
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("SOURCE_DATE_EPOCH"), QStringLiteral("1767268800"));
-    // What the leak checker lets pass in the C library.
+    // The leak checker's suppressions for the C library.
     environment.insert(QStringLiteral("LSAN_OPTIONS"), qEnvironmentVariable("LSAN_OPTIONS"));
     for (std::string const& variable : surroundings.variables)
     {
@@ -144,7 +144,7 @@ QProcessEnvironment EnvironmentWith(Surroundings const& surroundings)
     return environment;
 }
 
-/// The delta that the publisher's program makes in these surroundings from 1.0 to the bundle in \a archive.
+/// The delta from 1.0 to the bundle in \a archive that the publisher's program makes in this environment.
 std::string DeltaMadeIn(Surroundings const& surroundings, std::string const& archive)
 {
     Workspace const place;
@@ -227,7 +227,7 @@ TEST_P(PackedNames, GoThroughADeltaWhereverItIsMade)
     EXPECT_EQ(made.names, m_place.Names(NEW_APP));
 }
 
-/// What "generate" makes, in these surroundings, of a folder with two versions: the names and bytes of all files.
+/// The names and bytes of all files that "generate" makes from a folder with two versions, in this environment.
 std::map<std::string, std::string> GeneratedIn(Surroundings const& surroundings)
 {
     Workspace const place;

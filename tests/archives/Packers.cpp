@@ -137,7 +137,7 @@ std::string Pack(Packer const& packer, std::string const& parent, std::string co
     QProcess process;
     process.setProcessEnvironment(EnvironmentOf(variables));
     process.setWorkingDirectory(QString::fromStdString(parent));
-    // The shell makes the name itself, out of ASCII: an argument would go through the test's locale.
+    // The shell makes the name itself from ASCII. An argument would pass through the test's locale.
     std::string octal;
     for (char const character : name)
     {
@@ -149,7 +149,7 @@ std::string Pack(Packer const& packer, std::string const& parent, std::string co
     process.start(QStringLiteral("/bin/sh"),
                   {QStringLiteral("-c"), QString::fromStdString(script), QStringLiteral("sh"), target});
     EXPECT_TRUE(process.waitForFinished(PATIENCE_MS)) << packer.name;
-    QFile file(target); // some packers warn by their status of names that they have kept
+    QFile file(target); // some packers return a warning status for names that they have kept
     return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
 }
 

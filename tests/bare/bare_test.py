@@ -264,7 +264,7 @@ def in_opt_of_root(computer, server):
     if os.getuid() == 0:
         expect_told(computer, server, "belongs to another user of this computer")
     else:
-        # Nobody else can give a folder to root; what is left is one that its person may not write.
+        # Only root can give a folder to root. For other users the test uses a folder that they may not write.
         folder.chmod(0o555)
         expect_told(computer, server, "You may not change the application's folder")
         folder.chmod(0o755)
@@ -357,10 +357,10 @@ def main():
     roots, published, build = map(pathlib.Path, sys.argv[1:4])
     case = sys.argv[4]
     if reason := why_not():
-        # As GoogleTest writes it: scripts/skipped reads the reason.
+        # The format of GoogleTest: scripts/skipped reads the reason.
         print(f"{__file__}:0: Skipped\nno mount namespace can be made here ({reason})")
         return STATUS_SKIPPED
-    # Beside the systems, so that their files can be linked.
+    # In the same file system, so that their files can be hard links.
     with tempfile.TemporaryDirectory(dir=roots.parent, prefix="work-") as work:
         os.chmod(work, 0o755)
         server = Server(build / "Publisher/pelnar-appcast", published, published / "site")

@@ -9,9 +9,9 @@ import shutil
 import subprocess
 import sys
 
-# Drivers of graphics cards, which a program without a card never loads, bring a compiler of 120 MB.
+# Graphics drivers bring a compiler of 120 MB. A program without a graphics card never loads them.
 LEFT_OUT = {"libgl1-mesa-dri", "libglx-mesa0", "libegl-mesa0"}
-# Part of every system: the locales without a country, the layout of folders.
+# Part of every system: the locales without a country, and the folders.
 ALWAYS = ["libc-bin"]
 UNREAD = ("/usr/share/doc/", "/usr/share/man/", "/usr/share/locale/", "/usr/share/lintian/", "/usr/share/bug/")
 
@@ -63,7 +63,7 @@ def closure(names):
 
 def copy(path, root):
     source, target = pathlib.Path(path), root / path.lstrip("/")
-    # Packages name files by /lib, which is a link to /usr/lib.
+    # Packages name their files with /lib, which is a link to /usr/lib.
     target = root / os.path.relpath(os.path.join(os.path.realpath(source.parent), source.name), "/")
     if source.is_dir() and not source.is_symlink():
         target.mkdir(parents=True, exist_ok=True)

@@ -20,12 +20,12 @@ import baseline
 BASELINE = HERE.parent.parent / "cmake/bundle/Baseline.txt"
 SERVER = os.environ.get("PELNAR_DEBIAN_SERVER", "http://deb.debian.org/debian")
 STATUS_SKIPPED = 77
-# What a system has on which programs are made.
+# The packages of a system on which programs are built.
 WORKSHOP = ("usr/bin/gcc", "usr/bin/clang", "usr/bin/cc", "usr/bin/ld", "usr/include/stdio.h", "usr/include/GNUstep")
 
 
 def skip(reason):
-    # As GoogleTest writes it: scripts/skipped reads the reason.
+    # The format of GoogleTest: scripts/skipped reads the reason.
     print(f"{__file__}:0: Skipped\n{reason}")
     return STATUS_SKIPPED
 
@@ -33,7 +33,7 @@ def skip(reason):
 def install(packages, root, log):
     shutil.rmtree(root, ignore_errors=True)
     with open(log, "w") as file:
-        # What it mounts in there, and leaves when it fails, goes with the namespace.
+        # Its mounts end with the namespace, also when it fails.
         result = subprocess.run(["unshare", "--mount", "debootstrap", "--variant=minbase", f"--include={','.join(packages)}",
                                  "bookworm", root, SERVER], stdout=file, stderr=subprocess.STDOUT)
     if result.returncode != 0:

@@ -51,7 +51,7 @@ std::vector<Handler*> Registered(List& list)
     return handlers;
 }
 
-/// A thread of which it can be told that it waits inside the call that it was given.
+/// A thread that can be checked for waiting inside its call.
 class WaitingThread
 {
 public:
@@ -67,7 +67,7 @@ public:
     }
     ~WaitingThread() { m_thread.join(); }
 
-    /// Returns once the thread sleeps in the kernel (true) or has come to its end (false).
+    /// Returns once the thread sleeps in the kernel (true) or has ended (false).
     [[nodiscard]] bool IsBlocked()
     {
         while (!m_finished)
@@ -278,7 +278,7 @@ TEST(EventHandlerList, WaitingPassHasItsSnapshotAndHoldsUpNoRegistration)
     {
         other = std::make_unique<WaitingThread>([&] { seenByOther = Registered(list); });
         ASSERT_TRUE(other->IsBlocked());
-        // Were the two locks ever held together, these would never return.
+        // If the two locks were ever held together, these calls would never return.
         list.UnregisterEventHandler(&removed);
         list.RegisterEventHandler(&added);
     };
@@ -334,7 +334,7 @@ TEST(EventHandlerList, ExceptionReleasesBothLocks)
     throwing.onEvent = [] { throw std::runtime_error("no"); };
     list.RegisterEventHandler(&throwing);
     EXPECT_THROW(Notify(list), std::runtime_error);
-    // A lock left behind would belong to this thread; so another one asks.
+    // A lock left behind would belong to this thread, so another thread asks.
     std::vector<Handler*> const seen = std::async(std::launch::async,
                                                   [&]
                                                   {

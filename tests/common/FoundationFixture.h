@@ -1,4 +1,4 @@
-// FoundationFixture.h: Objective-C acts for C++ tests of the bridge. Plain C++.
+// FoundationFixture.h: Objective-C actions for C++ tests of the bridge. Plain C++.
 #pragma once
 
 #include <QString>

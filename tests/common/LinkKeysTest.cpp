@@ -13,7 +13,7 @@ using Pelnar::LINK_KEY_NAMES;
 using Pelnar::MakeLinkKeyNames;
 using Pelnar::URLKeys;
 
-/// The numbers stand here once more, by hand: they are part of the interface with the host framework.
+/// The numbers are written again by hand, because they are part of the interface with the host framework.
 struct Row
 {
     int number;

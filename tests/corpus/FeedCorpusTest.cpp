@@ -1,8 +1,8 @@
-// FeedCorpusTest.cpp: feeds that other people published, and what the shipped updater must offer out of each.
-//
-// The folder is that of the environment variable PELNAR_FEED_CORPUS: the feeds, and expected-choices.tsv with the
-// columns file, local, system, outcome, version, delta_from, length, url. The updater asks for the system's version
-// once in a process, so the choices for one system version are made by one child process.
+// FeedCorpusTest.cpp: published feeds of other people, and the choice that the shipped updater must make in each.
+// The environment variable PELNAR_FEED_CORPUS names the folder. It contains the feeds, and expected-choices.tsv with
+// the columns file, local, system, outcome, version, delta_from, length, url.
+// The updater asks for the system's version once in a process, so one child process makes all choices for one system
+// version.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
@@ -25,7 +25,7 @@ namespace
 char const* const FOLDER_VARIABLE = "PELNAR_FEED_CORPUS";
 char const* const SYSTEM_VARIABLE = "PELNAR_FEED_CORPUS_SYSTEM";
 
-char const* const CHOICES_ON_SYSTEM = " choices on system "; ///< in the child's last words, between their number and it
+char const* const CHOICES_ON_SYSTEM = " choices on system "; ///< in the last line of the child, after their number
 
 struct Row
 {

@@ -1,4 +1,4 @@
-// ShippedChoice.h: what the shipped updater offers out of a feed: the engine's parser, its appcast objects and the
+// ShippedChoice.h: the choice of the shipped updater in a feed: the engine's parser, its appcast objects and the
 // session's delegate. Plain C++.
 // Thread: the Qt main thread.
 #pragma once
@@ -24,7 +24,7 @@ struct ShippedChoice
     QVariantMap extensions; ///< as the session would report them with the update
 };
 
-/// The first answer of a check by a client of \a localVersion; nothing stands for no update.
+/// The first answer in a check by a client of \a localVersion; empty for no update.
 std::optional<ShippedChoice> ChooseFromFeed(std::vector<Engine::FeedItem> const& items,
                                             Core::Version const& localVersion);
 

@@ -24,7 +24,7 @@ std::shared_ptr<App::SparkleUpdateContext> MakeContext(Core::Version const& loca
     return context;
 }
 
-/// The version that \a delta starts from, as the item that offers it says.
+/// The version that \a delta starts from, according to its item.
 NSString* StartOfDelta(SUAppcast* appcast, SUAppcastItem* delta)
 {
     for (SUAppcastItem* item in [appcast items])

@@ -1,4 +1,4 @@
-// ShippedChoiceTest.cpp: from the bytes of a feed to the session's answer, through the engine's own objects.
+// ShippedChoiceTest.cpp: from the bytes of a feed to the session's answer, with the engine's own objects.
 
 #include "tests/corpus/ShippedChoice.h"
 #include "Engine/core/feed/FeedParser.h"

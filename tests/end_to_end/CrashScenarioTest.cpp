@@ -1,5 +1,5 @@
-// CrashScenarioTest.cpp: the installed application crashes or is killed in the middle of an update, or runs several
-// times at once. Real processes throughout.
+// CrashScenarioTest.cpp: the installed application crashes or is killed during an update, or runs several times at
+// once. All processes are real.
 #include "Engine/core/base/Descriptor.h"
 #include "tests/end_to_end/UpdateScenario.h"
 
@@ -19,7 +19,7 @@ namespace
 
 constexpr char SLOW_ARCHIVE[] = "slow:PelnarDemo-5.10.tar.zst:400000";
 
-/// When the application crashes: as soon as this window is open or, without one, bytes of the archive are there.
+/// The moment of the crash: when this window opens or, without a window, when bytes of the archive have arrived.
 struct CrashRow
 {
     char const* name;
@@ -38,7 +38,7 @@ std::ostream& operator<<(std::ostream& out, CrashRow const& row)
 class CrashScenario : public UpdateScenario
 {
 protected:
-    /// Makes the clicks that lead to the crash, and waits for one that does not come.
+    /// Makes the clicks that lead to the crash, and waits for a click that does not come.
     void Crash(UpdateServer const& server, CrashRow const& row)
     {
         demo.WriteDefaults(row.defaults);
@@ -90,7 +90,7 @@ TEST_F(CrashScenario, ADownloadGoesOnWhereItWasInterrupted)
     EXPECT_EQ(std::count(answers.begin(), answers.end(), std::string(WHOLE_ARCHIVE) + " 206"), 1);
 }
 
-/// Counts how often something was put under a name.
+/// Counts how often something was renamed to a given name.
 class PutWatch
 {
 public:
@@ -148,7 +148,7 @@ TEST_F(CrashScenario, OfSeveralRunningCopiesExactlyOneInstalls)
         EXPECT_TRUE(output.hasEnded) << output.Text();
         bool const isUpdated = output.RunningVersions() == Names{"5.9", "5.10"};
         updated += isUpdated ? 1 : 0;
-        // The others were told why not, or found the new version in its place.
+        // The others got the reason, or found the new version already installed.
         EXPECT_TRUE(isUpdated || output.RunningVersions() == Names{"5.9"} || output.RunningVersions() == Names{"5.10"})
             << output.Text();
     }

@@ -1,4 +1,4 @@
-// EngineState.h: whether the engine is at work. Plain C++.
+// EngineState.h: whether the engine is busy. Plain C++.
 #pragma once
 
 namespace Pelnar::Testing

@@ -1,5 +1,5 @@
-// HostilePublicationTest.cpp: whole updates by real processes from a server that plays an old feed back, or whose feed
-// and archive try to have more fetched or run than the update.
+// HostilePublicationTest.cpp: whole updates by real processes from a hostile server. It sends an old feed again, or its
+// feed and archive try to make the client fetch or run more than the update.
 #include "tests/end_to_end/UpdateScenario.h"
 
 #include <QDir>
@@ -43,7 +43,7 @@ TEST_F(UpdateScenario, ASignedFeedThatIsPlayedBackIsRefusedAndTheNextOneIsTaken)
     EXPECT_TRUE(Run(server, WHOLE_FEED, Script("user", "answer", {REMIND})).Says(FOUND)) << "no lock was left";
 }
 
-/// A copy of the published site whose new version is full of what other installers would run.
+/// A copy of the published site. Its new version contains many programs that other installers would run.
 class SiteWithHooks
 {
 public:

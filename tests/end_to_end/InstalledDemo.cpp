@@ -50,7 +50,7 @@ Engine::ContentHash TreeOf(QString const& bundle)
     return Engine::DigestTree(folder.Get());
 }
 
-/// A program whose output goes into a pipe that its children inherit.
+/// A program with its output in a pipe that its children inherit.
 class PipedProcess : public QProcess
 {
 public:
@@ -67,7 +67,7 @@ private:
     int m_outputFd;
 };
 
-/// What several processes write, in a pipe.
+/// The output of several processes, in a pipe.
 class OutputPipe
 {
 public:
@@ -81,7 +81,7 @@ public:
 
     int WritingEnd() const { return m_writingEnd.Get(); }
 
-    /// Reads until nobody can write any more; false when somebody still can after all that time.
+    /// Reads until no process can write any more. Returns false if one still can after the time limit.
     [[nodiscard]] bool ReadToEnd(std::string& text)
     {
         m_writingEnd = Engine::UniqueFd();
@@ -261,7 +261,7 @@ InstalledDemo::InstalledDemo()
     {
         EXPECT_TRUE(QDir().mkpath(Path(name)));
     }
-    // Qt asks for it.
+    // Qt asks for this object.
     EXPECT_TRUE(QFile::setPermissions(Path("runtime"), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
     EXPECT_EQ(QProcess::execute(QStringLiteral("cp"),
                                 {QStringLiteral("-a"), Published("old/PelnarDemo.app"), Path("Applications")}),
@@ -379,7 +379,7 @@ bool InstalledDemo::Crash(QString const& feed, QStringList const& arguments, int
     } while (!wasDue && timer.elapsed() < PATIENCE_MS && !process.waitForFinished(LOOK_AGAIN_MS));
     auto const demo = static_cast<pid_t>(process.processId());
     bool const isSent =
-        demo > 0 && ::kill(demo, wasDue ? signal : SIGKILL) == 0; // 0 would be this test and all beside it
+        demo > 0 && ::kill(demo, wasDue ? signal : SIGKILL) == 0; // 0 would mean the whole process group of this test
     std::string text;
     bool const hasEnded = pipe.ReadToEnd(text) && process.waitForFinished();
     return wasDue && isSent && hasEnded;

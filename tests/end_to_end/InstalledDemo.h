@@ -1,5 +1,5 @@
-// InstalledDemo.h: the demo application as a person has it: installed as a bundle, with a home of its own, and a server
-// with its updates. Real processes throughout.
+// InstalledDemo.h: the demo application as a person has it: installed as a bundle, with its own home, and a server with
+// its updates. All processes are real.
 // Thread: one. Ownership: scope objects; folders and processes end with them.
 #pragma once
 
@@ -17,7 +17,7 @@
 namespace Pelnar::Testing
 {
 
-/// What the old version, the helper and the version that it starts have said, to the end of the last of them.
+/// The output of the old version, the helper and the restarted version, until the last of them has ended.
 struct DemoOutput
 {
     bool hasEnded = false;          ///< all of them
@@ -29,11 +29,11 @@ struct DemoOutput
     [[nodiscard]] bool Says(std::string const& line) const;
     /// The lines that contain \a part.
     std::ptrdiff_t Count(std::string const& part) const;
-    /// The lines as they were, for a failing test.
+    /// The unchanged lines, for the message of a failing test.
     std::string Text() const;
 };
 
-/// A copy of the published folder, for a test that publishes something else.
+/// A copy of the published folder, for a test that publishes something different.
 class PublishedSite
 {
 public:
@@ -42,7 +42,7 @@ public:
     QString Path() const { return m_folder.path(); }
     QByteArray Read(char const* name) const;
     void Write(char const* name, QByteArray const& bytes) const;
-    /// The path of \a name in the folder that Demo/publish has made.
+    /// The path of \a name in the folder made by Demo/publish.
     static QString Published(char const* name);
     /// The attributes of the enclosure of an archive in the folder, signed with the publisher's key.
     QByteArray Sign(char const* name) const;
@@ -57,12 +57,12 @@ private:
 class UpdateServer
 {
 public:
-    /// \a faults are what the server is told to do wrong.
+    /// \a faults are the errors that the server makes on purpose.
     explicit UpdateServer(QStringList const& faults = {});
     explicit UpdateServer(PublishedSite const& site);
 
     QString Url(QString const& feed) const { return m_server.Address().toString() + QLatin1Char('/') + feed; }
-    /// Ends the server; the names of the files that it was asked for in requests that it answered with their bytes.
+    /// Ends the server. Returns the names of the files that it has sent.
     std::vector<std::string> EndAndListServedFiles();
     /// Ends the server; its answers, as the file's name, a blank, and the status.
     std::vector<std::string> EndAndListAnswers();
@@ -81,24 +81,23 @@ public:
 
     /// Adds \a entries, of an old-style property list, to the bundle's information file.
     void AddInformation(QByteArray const& entries);
-    /// Gives the folder that holds the bundle another name, of any bytes; a link keeps the one before.
+    /// Renames the folder that holds the bundle; the name may have any bytes. A link keeps the old name.
     void MoveApplications(std::string const& name) const;
-    /// Adds "NAME=value" to what the application finds in its environment.
+    /// Adds "NAME=value" to the application's environment.
     void SetVariables(std::vector<std::string> const& variables) { m_variables = variables; }
     /// Sets the old-style property list \a text as the user defaults of the application.
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.
     QByteArray ReadDefaults() const;
-    /// The file in which versions before this one kept them.
+    /// The file in which earlier versions kept them.
     void WriteEarlierDefaults(QByteArray const& text);
     QByteArray ReadEarlierDefaults() const;
 
-    /// Runs the installed version with \a feed and \a arguments. A version that is started in its place shows itself
-    /// and quits.
+    /// Runs the installed version with \a feed and \a arguments. A restarted version shows its window and quits.
     DemoOutput Run(QString const& feed, QStringList const& arguments) const;
 
-    /// The same, but the version gets \a signal as soon as \a isDue says so. False when that never came; the output
-    /// ends with what it had started.
+    /// The same, but the version gets \a signal as soon as \a isDue returns true. Returns false if this never happened;
+    /// then the output ends with the processes that it had started.
     [[nodiscard]] bool Crash(QString const& feed, QStringList const& arguments, int signal,
                              std::function<bool()> const& isDue) const;
 
@@ -108,9 +107,9 @@ public:
     std::vector<std::string> Neighbours() const;
     /// Whether bytes of an archive have been downloaded.
     [[nodiscard]] bool HasDownloaded() const;
-    /// Where the bundle stands.
+    /// The place of the bundle.
     std::string ApplicationsFolder() const { return Path("Applications").toStdString(); }
-    /// The names of the pictures that were taken of the first version's windows, without their ending.
+    /// The names, without ending, of the pictures of the first version's windows.
     std::vector<std::string> Pictures() const;
 
 private:
@@ -123,7 +122,7 @@ private:
     std::vector<std::string> m_variables;
 };
 
-/// The hashes of the bundles as they were published.
+/// The hashes of the published bundles.
 Engine::ContentHash OldTree();
 Engine::ContentHash NewTree();
 

@@ -1,5 +1,5 @@
-// UpdateCheckTest.cpp: whole checks, from the host's call to its observers, over the real session and engine and a feed
-// that a server on this computer serves.
+// UpdateCheckTest.cpp: whole checks, from the host's call to its observers, with the real session, the real engine and
+// a local server.
 #include "App/UpdateChecker/IUpdateManagerObserver.h"
 #include "App/UpdateChecker/UpdateManager.h"
 #include "HostFramework/Reference/ReferenceApplication.h"
@@ -35,7 +35,7 @@ std::string asText(Pelnar::Core::Version const& version)
         .toStdString();
 }
 
-/// Writes down what a host is told.
+/// Records the notifications to a host.
 class NotingObserver : public Pelnar::App::IUpdateManagerObserver
 {
 public:
@@ -80,7 +80,8 @@ protected:
                                      Pelnar::App::Links{{Pelnar::URLKeys::SPARKLE_APPCAST_URL, url.toString()}})});
     }
 
-    /// Runs one check to the end of its manager, and the engine's own check that its dialog starts.
+    /// Runs one check until its manager ends. Then runs the engine's own check, which the dialog of the first one
+    /// starts.
     Notes Check(UpdateCheckMode mode)
     {
         NotingObserver observer;
@@ -105,8 +106,8 @@ struct ModeRow
 {
     char const* name;
     UpdateCheckMode mode;
-    Notes update;   ///< what is told when 5.1 is there
-    Notes noUpdate; ///< and when nothing newer is
+    Notes update;   ///< the notifications if 5.1 is available
+    Notes noUpdate; ///< and if nothing is newer
 };
 
 void PrintTo(ModeRow const& row, std::ostream* out)

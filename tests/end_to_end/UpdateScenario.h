@@ -1,4 +1,4 @@
-// UpdateScenario.h: what the tests of whole updates share: the installed demo application, its scripts, and what holds
+// UpdateScenario.h: shared by the tests of whole updates: the installed demo application, its scripts, and the checks
 // at the end.
 // Thread: one. Ownership: the fixture's.
 #pragma once

@@ -1,6 +1,5 @@
-// UpdateScenarioTest.cpp: whole updates of an installed application, by real processes: the host, its helper, the
-// server and the version that runs afterwards. The demo application makes the checks, through UpdateManager, and the
-// clicks.
+// UpdateScenarioTest.cpp: whole updates of an installed application by real processes: the host, its helper, the server
+// and the new version. The demo application makes the checks through UpdateManager, and the clicks.
 #include "tests/end_to_end/UpdateScenario.h"
 #include "tests/support/JapaneseLocale.h"
 
@@ -50,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
                                          FolderName{"Of255Bytes", LONGEST_NAME.c_str()}),
                          [](testing::TestParamInfo<FolderName> const& info) { return info.param.name; });
 
-/// The published bundles hold names beyond ASCII, and here the application stands under one.
+/// The published bundles contain names beyond ASCII. Here the application's path has one, too.
 TEST_F(UpdateScenario, AnApplicationOfAnyLocaleIsUpdatedToNamesAsTheyAre)
 {
     std::vector<std::vector<std::string>> locales{{"LC_ALL=C"}, {"LC_ALL=", "LANG=POSIX"}};
@@ -217,7 +216,7 @@ TEST_F(UpdateScenario, AnApplicationThatRequiresItUpdatesByASignedFeedOnly)
     ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
 }
 
-/// How a check was started, and the windows that it leads to.
+/// The start of a check, and the windows that follow.
 struct ModeRow
 {
     char const* name;
@@ -257,7 +256,7 @@ INSTANTIATE_TEST_SUITE_P(
         ModeRow{"Silent", "silent", "check", {}, {"PelnarDemoWindow"}}),
     [](auto const& info) { return std::string(info.param.name); });
 
-/// Ways to say no: nothing is installed, nothing stays behind.
+/// The ways to decline: nothing is installed and nothing stays behind.
 struct Refusal
 {
     char const* name;

@@ -1,5 +1,5 @@
-// BundleKeysTest.cpp: the keys of the information dictionary, in a program that is the executable of a bundle of its
-// own: version 5.0, platform macos, plain http everywhere, feeds of at most 2,000 bytes.
+// BundleKeysTest.cpp: the keys of the information dictionary. The program is the executable of its own bundle: version
+// 5.0, platform macos, plain http everywhere, feeds of at most 2,000 bytes.
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/StoredDefaults.h"
 

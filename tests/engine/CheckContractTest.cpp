@@ -1,5 +1,5 @@
-// CheckContractTest.cpp: what the session may rely on when it uses the engine's updater: how a check is started, how an
-// item is chosen, which outcome is told in which order, when the updater is idle.
+// CheckContractTest.cpp: what the session expects of the engine's updater in a check: how it starts, which item it
+// chooses, the order of the notifications, and when the updater is idle.
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/StoredDefaults.h"
 #include "tests/support/TaggedFeed.h"
@@ -19,8 +19,8 @@ struct Kind
 {
     char const* name;
     Start start;
-    Events notFound;   ///< what is told when the choice is nil
-    Events afterFound; ///< and after an update was found, to a program without a public key
+    Events notFound;   ///< the notifications if the choice is nil
+    Events afterFound; ///< and after an update was found, in a program without a public key
 };
 
 void PrintTo(Kind const& kind, std::ostream* out)
@@ -202,7 +202,7 @@ TEST_P(EveryCheck, DeltaIsAskedAboutOnceMoreAndIsWhatIsFound)
     EXPECT_EQ(driver.Found()->length, 100);
 }
 
-/// Of the engine's errors only.
+/// Only for errors of the engine.
 class BracketTranslator : public QTranslator
 {
 public:

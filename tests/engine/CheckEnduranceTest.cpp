@@ -1,5 +1,5 @@
-// CheckEnduranceTest.cpp: an application that runs for months checks again and again. The default run makes a sample of
-// the checks; with PELNAR_EVERY_PLACE=1 in the environment it makes a thousand.
+// CheckEnduranceTest.cpp: an application that runs for months checks again and again. The default run makes some of the
+// checks; with PELNAR_EVERY_PLACE=1 in the environment it makes a thousand.
 #include "tests/engine/CheckFixture.h"
 #include "tests/support/ProcessFootprint.h"
 #include "tests/support/TaggedFeed.h"
@@ -61,7 +61,7 @@ private:
         NoServer,
     };
 
-    /// What the checks leave to be written is written beside them, and then gets its name.
+    /// A check writes a file of its state with a temporary name, then renames it.
     void WaitForWriters() const
     {
         EXPECT_TRUE(WaitFor(
@@ -80,8 +80,8 @@ private:
             }));
     }
 
-    /// Every way for a check to end takes its turn. A check in the background that fails holds the next ones back:
-    /// those find nothing. With a driver and a server of its own: what these two remember of a round goes with it.
+    /// Each way for a check to end is used in turn. A failed background check delays the next ones: these find nothing.
+    /// Each round has its own driver and server, so that their memory is freed with it.
     void CheckARound()
     {
         Ending ending = Ending::Found;

@@ -1,5 +1,5 @@
-// CheckFailureTest.cpp: what a check does about a delegate that misbehaves, goes away or answers little, about settings
-// of the wrong kind, and about hostile text.
+// CheckFailureTest.cpp: a check whose delegate misbehaves, disappears or implements little; settings of the wrong kind;
+// hostile text.
 
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/StoredDefaults.h"
@@ -29,7 +29,7 @@ TEST_F(CheckContract, ItemOfAnotherFeedIsRefused)
     driver.SetFeed(server.Url());
     driver.Probe();
     ASSERT_TRUE(driver.WaitForEnd());
-    ++checks; // now the delegate answers with what it kept of the first feed
+    ++checks; // now the delegate answers with objects that it kept from the first feed
     driver.Probe();
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1", "asked", "aborted 1002"}));
@@ -283,7 +283,7 @@ TEST_F(CheckContract, NothingIsToldWhenTheApplicationEndsMeanwhile)
     EXPECT_EQ(driver.Events(), Events{});
 }
 
-// As far as the process has a version; the bundle's tests have the rest.
+// Only if the process has a version; the tests of the bundle check the rest.
 TEST_F(CheckContract, WithoutABundleVersionTheChoiceStands)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("0.1")))));
@@ -308,7 +308,7 @@ TEST_F(CheckContract, EmptyFeedIsAnErrorOfItsOwn)
     }
 }
 
-// The portal of a hotel.
+// The login page of a hotel's network.
 TEST_F(CheckContract, WebPageInTheFeedsPlaceIsAnErrorOfItsOwn)
 {
     LoopbackServer server(Answering(OkAnswer("<!DOCTYPE html><html><head><title>Login</title></head><body/></html>")));

@@ -1,4 +1,4 @@
-// CheckSettingsTest.cpp: what a check does with the user defaults, usable or not.
+// CheckSettingsTest.cpp: the effect of the user defaults on a check, valid or not.
 
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/StoredDefaults.h"
@@ -100,7 +100,7 @@ TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
     driver.SetFeed(server.Url());
     QString const defaults = DefaultsFolder();
     ASSERT_FALSE(defaults.isEmpty());
-    // A file where the folder has to be stops root as well.
+    // A file in the place of the folder stops root as well.
     ASSERT_TRUE(QDir().mkpath(QFileInfo(defaults).path()));
     QFile inTheWay(defaults);
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
@@ -127,7 +127,7 @@ TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
         driver.Probe();
         ASSERT_TRUE(driver.WaitForEnd());
         EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"})) << bytes.left(40).toStdString();
-        // What the check leaves to be saved must not undo what the next round spoils.
+        // The check saves its state later. This must not undo the damage that the next round makes.
         EXPECT_TRUE(WaitFor([threadsBefore] { return MeasureFootprint().threads <= threadsBefore; }));
     }
 }

@@ -14,7 +14,7 @@ inline QByteArray FeedWith(QByteArray const& items)
            items + "</channel>\n</rss>\n";
 }
 
-/// \a inside is put into the item after its other elements.
+/// \a inside is added to the item after its other elements.
 inline QByteArray ItemOf(QByteArray const& version, QByteArray const& inside = {})
 {
     return "<item><title>Version " + version + "</title><pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>" +

@@ -1,4 +1,4 @@
-// KeyStatementText.h: key statements for tests, spelt out here once more. Plain C++.
+// KeyStatementText.h: key statements for tests, written independently of the product. Plain C++.
 #pragma once
 
 #include "tests/engine/SignedFeedText.h"

@@ -1,6 +1,5 @@
-// PreferenceHost.cpp: a host with preferences and nothing else. It obeys the lines of its standard input: "get", "on"
-// and "off" are answered with the state of the box, "channels", and "channels" with names behind it, with those that
-// are listed.
+// PreferenceHost.cpp: a host with nothing but preferences. It obeys the lines of its standard input. "get", "on" and
+// "off" print the state of the box. "channels", with or without names after it, prints the listed channels.
 
 #include "HostFramework/Reference/ReferenceApplication.h"
 

@@ -1,4 +1,5 @@
-// PreferenceTest.cpp: the public functions of a preference box, in installed applications of processes of their own.
+// PreferenceTest.cpp: the public functions for a preference box. Each test runs an installed application in its own
+// process.
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@
 namespace
 {
 
-/// One process of the application, with its box.
+/// One process of the application with its preference box.
 class Box
 {
 public:
@@ -29,7 +30,7 @@ public:
         environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), folder.filePath(QStringLiteral("GNUstep.conf")));
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        // By the shell: Qt makes texts of arguments and variables.
+        // Through the shell, because Qt stores arguments and variables as text.
         QByteArray const script = "export ODD=$'" + variable + "'; exec \"$0\" $'" + argument + "'";
         m_process.start(QStringLiteral("/bin/bash"), {QStringLiteral("-c"), QString::fromLatin1(script),
                                                       folder.filePath(QStringLiteral("Notely.app/Notely"))});

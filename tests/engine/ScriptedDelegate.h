@@ -1,5 +1,5 @@
 // ScriptedDelegate.h: drives the engine's updater with a delegate whose answers a test scripts. Plain C++.
-// Thread: main. Ownership: a scope object; the updater is the process's own.
+// Thread: main. Ownership: a scope object; the process owns the updater.
 #pragma once
 
 #include "Engine/core/fetch/FetchRules.h"
@@ -22,7 +22,7 @@ class IUserInterface;
 namespace Pelnar::Testing
 {
 
-/// What the delegate answers when it is asked for the best item.
+/// The delegate's answer to the question for the best item.
 struct ScriptedChoice
 {
     enum class Kind
@@ -31,7 +31,7 @@ struct ScriptedChoice
         Item,    ///< by its position in the appcast
         Delta,   ///< of the item, by the version that it starts from
         Foreign, ///< an item object of an appcast that the engine did not load in this check
-        Dangling ///< an address where no object is
+        Dangling ///< an address without an object
     };
     Kind kind = Kind::None;
     int item = 0;
@@ -46,11 +46,10 @@ struct ToldError
     std::string underlyingDomain;
     int underlyingCode = 0;
     std::string underlyingText;
-    std::string description; ///< what a log shows of it
+    std::string description; ///< the delegate's text in a log
 };
 
-/// The invocation with which an update is installed at once, as the delegate holds it. May be kept and used for as
-/// long as a test likes.
+/// The invocation that installs an update immediately. The test may keep and call it at any time.
 class HeldInvocation
 {
 public:
@@ -68,13 +67,13 @@ struct DelegateScript
 {
     /// Answers question number \a question (from 0) about an appcast with these item versions.
     std::function<ScriptedChoice(int question, std::vector<QString> const& versions)> choose;
-    /// As a version comparator; empty: the delegate hands out none (nil).
+    /// As a version comparator. If empty, the delegate has no comparator (nil).
     std::function<int(QString const&, QString const&)> compare;
     /// Called after each event has been noted.
     std::function<void(std::string const& event)> onEvent;
-    /// Names of the delegate's methods that it does not implement. Calling one is noted as "hidden <name>".
+    /// The methods that the delegate does not implement, by name. A call of one is noted as "hidden <name>".
     std::vector<std::string> hidden;
-    /// Called while the delegate is told that a prepared update is installed on quit.
+    /// Called while the delegate hears that a prepared update will be installed on quit.
     std::function<void(HeldInvocation)> onWillInstall = {};
     bool allowsRelaunch = true;
     QString relaunchPath = {}; ///< nil when empty
@@ -96,7 +95,7 @@ public:
     void SetFeed(QUrl const& url);
     QUrl Feed() const;
     void SetLimits(Engine::FetchLimits const& limits);
-    /// Until this object goes: the server, the helper and the windows of updates are these.
+    /// While this object lives, the updates use this server, this helper and these windows.
     void SetUpdate(Engine::IUpdateEnvironment& parts, Engine::IUserInterface& windows);
     void RemoveDelegate();
 
@@ -112,7 +111,7 @@ public:
     /// "path?", "will relaunch", "cancelled <version>", in order.
     std::vector<std::string> const& Events() const;
     std::vector<ToldError> const& Errors() const;
-    /// What the found item said of itself.
+    /// The properties of the found item.
     struct FoundItem
     {
         QString title;
@@ -124,7 +123,7 @@ public:
     };
     std::optional<FoundItem> const& Found() const;
 
-    /// Runs the event loop until no check is in progress; false when that takes too long.
+    /// Runs the event loop until no check is in progress; false if that takes too long.
     [[nodiscard]] bool WaitForEnd();
 
     struct Impl;

@@ -1,5 +1,5 @@
-// SettingsPlaceTest.cpp: where the engine of an installed application keeps its user defaults, by which name and in
-// which environment it is started.
+// SettingsPlaceTest.cpp: the place of the user defaults of an installed application, for different program names and
+// environments.
 
 #include <gtest/gtest.h>
 
@@ -57,7 +57,7 @@ protected:
 
     bool IsThere(char const* name) const { return QFileInfo::exists(Path(name)); }
 
-    /// What the application says, started by the path \a name and told \a wishes, with blanks between them.
+    /// The application's output when it is started with the path \a name and the words \a wishes.
     std::string Run(char const* wishes, char const* name = "Notely.app/Notely")
     {
         QProcess process;
@@ -69,7 +69,7 @@ protected:
         return process.readAllStandardOutput().toStdString();
     }
 
-    /// The same, when what starts it calls it \a calledName.
+    /// The same, with \a calledName as the program's own name (argv[0]).
     std::string RunAs(char const* calledName, char const* wish)
     {
         QProcess process;

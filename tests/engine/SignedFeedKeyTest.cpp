@@ -1,5 +1,5 @@
-// SignedFeedKeyTest.cpp: which entries of a bundle's information file ask for a signed feed: a real host application in
-// bundles of its own, and a feed that is not signed.
+// SignedFeedKeyTest.cpp: the entries of a bundle's information file that require a signed feed. A real host application
+// runs in bundles of its own with an unsigned feed.
 #include "tests/engine/FeedText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -65,7 +65,7 @@ TEST_P(SignedFeedKey, AsksForASignatureUnlessItIsAPlainNo)
     process.start(QString::fromStdString(bundle + "/Host"), {server.Url().toString(), QStringLiteral("background")});
     ASSERT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
     std::string const events = process.readAllStandardOutput().toStdString();
-    // Without a signing key a found update ends with the code of signatures as well.
+    // Without a signing key a found update ends with the same code.
     EXPECT_EQ(events, GetParam().requiresSignature ? "aborted 3001;" : "asked;found 2.0;aborted 3001;");
 }
 

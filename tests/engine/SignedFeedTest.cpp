@@ -1,5 +1,5 @@
-// SignedFeedTest.cpp: checks by a bundle that requires signed feeds, over a server on this computer and the process's
-// own user defaults.
+// SignedFeedTest.cpp: checks by a bundle that requires signed feeds, with a local server and the process's own user
+// defaults.
 #include "Engine/core/check/FeedRecordFile.h"
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/SignedFeedText.h"
@@ -27,7 +27,7 @@ using Start = void (UpdaterDriver::*)();
 class SignedFeedCheck : public CheckContract
 {
 protected:
-    /// One check of any \a feed that the server has.
+    /// One check of any \a feed on the server.
     Events Check(QByteArray const& feed, Start start = &UpdaterDriver::Probe)
     {
         answer = OkAnswer(feed);
@@ -40,10 +40,10 @@ protected:
 
     static QString RecordPath() { return StateFolder() + QStringLiteral("/updates/feed"); }
 
-    /// What the file says of the feed; it may still be on its way to the disk.
+    /// The stored record of the feed. It may not have reached the disk yet.
     static std::optional<FeedRecord> KeptRecord() { return ReadFeedRecordFile(RecordPath()); }
 
-    /// And for the end of the one who has written it.
+    /// Waits also for the end of the thread that writes it.
     void WaitForSerial(qint64 serial) const
     {
         EXPECT_TRUE(WaitFor([serial] { return KeptRecord() && KeptRecord()->serial == serial; })) << serial;
@@ -58,7 +58,7 @@ protected:
         file.write(bytes);
     }
 
-    /// As another process of the application does.
+    /// As another process of the application would do it.
     void RaiseSerial(qint64 serial) const
     {
         FeedRecord record;
@@ -78,7 +78,7 @@ protected:
         EXPECT_EQ(error.sentence.back(), '.');
     }
 
-    /// User defaults that are a record of the server's feed with these entries.
+    /// User defaults with a record of the server's feed that has these entries.
     QByteArray RecordOf(QByteArray const& entries)
     {
         return "{ PelnarFeedRecord = { address = \"" + server.Url().toEncoded() + "\"; " + entries + " }; }";
@@ -289,7 +289,7 @@ TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
 TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
 {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(RecordPath()).path()));
-    // Anyone who stores waits for this lock.
+    // Every writer waits for this lock.
     QLockFile lock(RecordPath() + QStringLiteral(".lock"));
     ASSERT_TRUE(lock.lock());
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));

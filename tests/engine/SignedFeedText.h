@@ -1,4 +1,4 @@
-// SignedFeedText.h: signed feeds for tests, spelt out here once more. Plain C++.
+// SignedFeedText.h: signed feeds for tests, written independently of the product. Plain C++.
 #pragma once
 
 #include "tests/engine/FeedText.h"
@@ -12,7 +12,7 @@
 namespace Pelnar::Testing
 {
 
-/// What the channel of a signed feed says; a part that is empty is left out.
+/// The statements of a signed feed's channel; an empty part is left out.
 inline QByteArray TermsOf(QByteArray const& serial, QByteArray const& expires)
 {
     QByteArray text;
@@ -53,7 +53,7 @@ inline QByteArray SignedFeedOf(QByteArray const& version, QByteArray const& seri
     return Signed(FeedWith(TermsOf(serial, expires) + ItemOf(version)));
 }
 
-/// A way in which a signed feed is not what it must be.
+/// A defect of a signed feed.
 struct SpoiltFeed
 {
     char const* name;

@@ -1,5 +1,5 @@
-// StartTest.cpp: what becomes of an update at the starts after it: a real host application in a real bundle, which the
-// real helper has installed, or was killed over.
+// StartTest.cpp: the starts after an update. A real host application in a real bundle, which the real helper has
+// installed, or during whose installation the helper was killed.
 #include "Engine/core/update/InstallAttempt.h"
 #include "tests/engine/FeedText.h"
 #include "tests/installer/InstallerFixture.h"
@@ -48,7 +48,7 @@ std::string ArchiveOfHost(std::string const& entries)
 
 std::string const WITH_WORD = "PelnarConfirmsGoodStart = YES;";
 
-/// The host as version 1.0, installed, with an update to 2.0 at hand and in the feed.
+/// The installed host, version 1.0, with an update to 2.0 on the disk and in the feed.
 class Start : public testing::Test
 {
 protected:
@@ -60,7 +60,7 @@ protected:
 
     std::string BundlePath() const { return m_scene.Place().Path() + '/' + APP; }
 
-    /// Installs 2.0 without a relaunch. What was prepared is nobody's any more.
+    /// Installs 2.0 without a relaunch. The prepared update then has no owner.
     HelperOutcome Install(CallVisitor const& visitor = {})
     {
         Pelnar::Engine::InstallJob job = m_scene.PrepareForInstall();
@@ -75,13 +75,13 @@ protected:
 
     QString Cache() const { return QString::fromStdString(m_scene.Downloads().Path() + "/cache"); }
     QString State() const { return QString::fromStdString(m_scene.Downloads().Path() + "/state"); }
-    /// Where the host keeps its downloads, and what it knows of installations.
+    /// The folder for downloads and for the record of installations.
     std::string DownloadFolder() const { return Cache().toStdString() + "/org.pelnar.test/updates"; }
     std::string RecordFolder() const { return State().toStdString() + "/org.pelnar.test/updates"; }
-    /// Where versions before this one kept both.
+    /// The place in earlier versions.
     std::string EarlierFolder() const { return Cache().toStdString() + "/pelnar-updates/org%2Epelnar%2Etest"; }
 
-    /// A person's wish for 2.0, which the injected fault spoils.
+    /// A person asks for 2.0, and the injected fault makes the installation fail.
     void FailToInstall(std::string const& fault) { FailToInstall(fault, DownloadFolder(), RecordFolder()); }
 
     void FailToInstall(std::string const& fault, std::string const& downloads, std::string const& records)
@@ -108,7 +108,7 @@ protected:
         m_scene.ReleaseStaging();
     }
 
-    /// Starts the installed application, and waits for its end; the events of its check.
+    /// Starts the installed application and waits for its end. Returns the events of its check.
     std::string Run(QStringList const& arguments, QStringList const& before = {})
     {
         QStringList words = QStringList(before)
@@ -134,7 +134,7 @@ protected:
 
     std::string RunInBackground() { return Run({QStringLiteral("background")}); }
 
-    /// How many programs a start executes, itself included.
+    /// The number of programs that a start executes, including the host.
     std::ptrdiff_t ProgramsOfAStart()
     {
         std::string const record = m_scene.Downloads().Path() + "/calls";
@@ -168,7 +168,7 @@ private:
                             }};
 };
 
-/// The same, and 2.0 is to tell that it has started well.
+/// The same, but 2.0 must confirm a good start.
 class StartWithAWord : public Start
 {
 protected:
@@ -258,7 +258,7 @@ TEST_F(Start, AfterAHelperThatWasKilledTellsThePersonWhoAsked)
 
 TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)
 {
-    FailToInstall("mkdirat:error=EPERM"); // a call that an installation does not make
+    FailToInstall("mkdirat:error=EPERM"); // an installation does not make this call
     ExpectWhole("2.0");
     EXPECT_EQ(RunInBackground(), "asked;not found;aborted 1001;");
     EXPECT_TRUE(std::filesystem::is_empty(DownloadFolder()));

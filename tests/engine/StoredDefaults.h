@@ -1,5 +1,4 @@
-// StoredDefaults.h: the user defaults of this process, as they stand on the disk. Plain C++.
-// Thread: main.
+// StoredDefaults.h: the user defaults of this process as stored on the disk. Plain C++. Thread: main.
 #pragma once
 
 #include <QByteArray>
@@ -11,20 +10,20 @@ namespace Pelnar::Testing
 /// Sets a user default to a value of the given kind, on the disk.
 void SetTextDefault(char const* key, char const* value);
 void SetListDefault(char const* key);
-/// Where the user defaults are kept.
+/// The place of the user defaults.
 QString DefaultsFolder();
-/// Where the application's state is kept.
+/// The place of the application's state.
 QString StateFolder();
-/// Puts \a bytes in the place of the file with the user defaults.
+/// Replaces the file of the user defaults by \a bytes.
 void SpoilDefaults(QByteArray const& bytes);
-/// Where versions before this one kept them, in a file named after the program.
+/// The file of earlier versions, which is named after the program.
 QString EarlierDefaultsFolder();
 /// Puts \a bytes in the place of that file.
 void WriteEarlierDefaults(QByteArray const& bytes);
 /// A default that the host itself stored through Foundation, or an empty text.
 QString OwnDefault(QString const& key);
 void StoreOwnDefault(QString const& key, QString const& value);
-/// Empty when there is no such default, or it is no text.
+/// Empty if there is no such default, or if it is not text.
 QString TextDefault(char const* key);
 /// True when the default is a date between a minute ago and now.
 [[nodiscard]] bool IsRecentDateDefault(char const* key);

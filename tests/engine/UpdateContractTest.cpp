@@ -1,6 +1,6 @@
-// UpdateContractTest.cpp: what the session may rely on once an update was found: what it is asked and told until the
-// application quits, and when the updater is idle. A server and a helper that the test plays, a real delegate and a
-// real invocation, in a program that is the executable of a bundle of its own.
+// UpdateContractTest.cpp: what the session expects after an update was found: the questions and notifications until the
+// application quits, and when the updater is idle. The test plays the server and the helper. The delegate and the
+// invocation are real, and the program is the executable of its own bundle.
 #include "tests/engine/CheckFixture.h"
 #include "tests/engine/StoredDefaults.h"
 #include "tests/update/ScriptedUpdate.h"
@@ -36,7 +36,7 @@ protected:
         driver->SetFeed(server->Url());
     }
 
-    /// A background check that downloads by itself, to the moment before the delegate hears of it.
+    /// A background check that downloads by itself, up to the moment before the delegate hears of it.
     void RunSilently()
     {
         MakeDriver();

@@ -1,4 +1,5 @@
-// FeedDocumentTest.cpp: which bytes are a feed: encodings, well-formedness, namespaces, characters that do harm.
+// FeedDocumentTest.cpp: the bytes that the parser accepts as a feed: encodings, well-formedness, namespaces, harmful
+// characters.
 #include "Engine/core/feed/FeedEncoding.h"
 #include "tests/engine_core/FeedFixture.h"
 
@@ -112,7 +113,7 @@ TEST(FeedDocument, AnErrorNamesItsPlaceAndQuotesNothing)
 {
     FeedParseResult const result = Parse("<rss>\r\n<item>\n</item>\r\n<item a=\"1\" \xC2\x9B/></rss>");
     EXPECT_EQ(result.error().line, 4);
-    EXPECT_EQ(result.error().column, 15); // the reader looks ahead of the character that it refuses
+    EXPECT_EQ(result.error().column, 15); // the reader looks one character ahead
     EXPECT_EQ(Text(result.error().sentence.English()), "Line 4 of the feed is not well-formed XML.");
     EXPECT_FALSE(result.error().detail.contains(QChar(0x9B)));
     FeedLimits limits;

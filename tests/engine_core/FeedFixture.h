@@ -1,4 +1,4 @@
-// FeedFixture.h: feeds written in a test, parsed with the engine's own limits.
+// FeedFixture.h: feeds written in a test, and their parser with the engine's own limits.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -31,7 +31,8 @@ inline FeedParseResult Parse(QByteArray const& bytes, FeedPlatform platform = Fe
     return ParseFeed(bytes, FeedUrl(), platform, limits, languages);
 }
 
-/// The only item of a feed around \a content; an empty item, and a failure, when it has another number of items.
+/// The only item of a feed with \a content. If the number of items is not one, the test fails and the result is an
+/// empty item.
 FeedItem OnlyItem(QByteArray const& content, FeedPlatform platform = FeedPlatform::MacOS,
                   QStringList const& languages = {});
 

@@ -1,4 +1,4 @@
-// FeedItemTest.cpp: every property of an item, of its deltas and of what a feed adds to it.
+// FeedItemTest.cpp: every property of an item and of its deltas, and the additional elements of a feed.
 #include "Engine/core/fetch/FetchRules.h"
 #include "tests/engine_core/FeedFixture.h"
 #include "tests/support/CauseOf.h"

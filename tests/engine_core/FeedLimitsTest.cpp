@@ -1,4 +1,4 @@
-// FeedLimitsTest.cpp: what a feed may not ask of the parser, each limit from both sides and with its line.
+// FeedLimitsTest.cpp: the parser's limits. Each is tested from both sides, with the line of the error.
 #include "tests/engine_core/FeedFixture.h"
 
 #include <gtest/gtest.h>
@@ -45,7 +45,7 @@ QByteArray Nested(int levels)
     return "<item>" + Repeated(levels - 3, "<a>") + Repeated(levels - 3, "</a>") + "</item>";
 }
 
-/// Whether anything in the folder was opened since it was made.
+/// True if any file in the folder was opened since the object was made.
 class OpenWatch
 {
 public:
@@ -205,7 +205,7 @@ TEST(FeedMarkup, ElementsAndAttributesAreCountedTogether)
 {
     FeedLimits limits;
     limits.maxMarkup = 100;
-    // Around the items stand rss with its version, channel and title.
+    // Around the items there are rss with its version, channel and title.
     int const own = 4;
     auto refusalOf = [&limits](QByteArray const& items) { return Parse(Feed(items), FeedPlatform::MacOS, limits); };
     EXPECT_TRUE(refusalOf(Repeated(100 - own, "<a/>")).has_value());
@@ -229,7 +229,7 @@ TEST(FeedMarkup, AFeedThatIsTagsThroughoutIsRefusedLongBeforeItsEnd)
         EXPECT_EQ(int(result.error().cause), int(ErrorCause::FeedTooMuchMarkup)) << shape.left(20).constData();
         EXPECT_LE(result.error().line, 5 + 100 * 1000) << shape.left(20).constData();
     }
-    // Of the largest tags that are allowed one by one, no more than these are read.
+    // Each of these tags is allowed alone, but only so many of the largest ones are read.
     EXPECT_LE(Parse(Feed(Repeated(size / 2000, "<a" + Attributes(256) + "/>\n"))).error().line, 5 + 100 * 1000 / 257);
 }
 
@@ -300,7 +300,7 @@ TEST(FeedNamespaces, SixtyFourInScopePassAndOneMoreIsRefused)
         }
         return text;
     };
-    // The feed declares one itself.
+    // The feed itself declares one.
     EXPECT_TRUE(
         Parse(Feed("<item" + declarations(63) + "><title/></item><item" + declarations(63) + "/>")).has_value());
     ExpectRefused(Parse(Feed("<item" + declarations(60) + "><a" + declarations(4) + "/></item>")),

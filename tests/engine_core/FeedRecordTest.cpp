@@ -1,4 +1,4 @@
-// FeedRecordTest.cpp: what is remembered of an application's feed, and the file that remembers it.
+// FeedRecordTest.cpp: the record of an application's feed, and its file.
 #include "Engine/core/check/FeedRecordFile.h"
 #include "tests/engine/SignedFeedText.h"
 

@@ -1,4 +1,4 @@
-// FeedTextTest.cpp: versions, lengths and addresses, as the texts of a feed say them.
+// FeedTextTest.cpp: versions, lengths and addresses in the text of a feed.
 #include "Engine/core/fetch/FetchRules.h"
 #include "tests/engine_core/FeedFixture.h"
 #include "tests/support/CauseOf.h"

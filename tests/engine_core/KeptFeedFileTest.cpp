@@ -1,4 +1,4 @@
-// KeptFeedFileTest.cpp: the file of a kept feed, and what may stand in its place or be done to it.
+// KeptFeedFileTest.cpp: the file of a kept feed, damaged files, and other objects in its place.
 #include "Engine/core/check/KeptFeedFile.h"
 #include "tests/installer/OtherUser.h"
 #include "tests/support/LogCapture.h"
@@ -49,7 +49,8 @@ protected:
 
     [[nodiscard]] bool Keep(KeptFeed const& feed = SomeFeed()) const { return WriteKeptFeedFile(folder, feed); }
 
-    /// Keeps a feed, has \a spoil do something to its file, and says whether it is read and whether it can be replaced.
+    /// Keeps a feed and lets \a spoil change its file. Returns whether the file is read then, and whether it can be
+    /// replaced.
     void ExpectNoneAfter(char const* name, std::function<void(std::string const& path)> const& spoil) const
     {
         ASSERT_TRUE(Keep()) << name;
@@ -60,7 +61,7 @@ protected:
         EXPECT_TRUE(Read()) << name;
     }
 
-    /// What stands in the folder.
+    /// The names in the folder.
     QStringList Names() const
     {
         return QDir(folder.path).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
@@ -224,7 +225,7 @@ TEST_F(KeptFeedFileTest, FullDiskGetsItsRoomBack)
     std::string const answer = InChild(
         [this]
         {
-            // From here on no file of this process grows longer.
+            // From here on no file of this process can grow.
             rlimit const limit{1000, 1000};
             ::signal(SIGXFSZ, SIG_IGN);
             bool const isLimited = ::setrlimit(RLIMIT_FSIZE, &limit) == 0;
@@ -242,11 +243,11 @@ TEST_F(KeptFeedFileTest, WhoReadsWhileTwoProcessesWriteGetsAWholeOne)
     std::vector<pid_t> writers;
     for (char const letter : {'a', 'b'})
     {
-        pid_t const writer = ::fork(); // before any thread, whose locks a child would find held for ever
+        pid_t const writer = ::fork(); // before any thread starts: the child would find a thread's locks held for ever
         ASSERT_GE(writer, 0);
         if (writer == 0)
         {
-            // One that does not get the lock in time keeps nothing, and never half of it.
+            // A process that does not get the lock in time keeps nothing. It never keeps half of a feed.
             bool hasKept = false;
             for (int round = 0; round < 20; ++round)
             {

@@ -1,4 +1,4 @@
-// KeyPathsTest.cpp: which signature of an item a bundle verifies, and which versions lead it to another key.
+// KeyPathsTest.cpp: which signature of an item a bundle verifies, and which versions lead the bundle to another key.
 
 #include "tests/engine_core/PolicyFixture.h"
 
@@ -31,7 +31,7 @@ Installation Trusting(QStringList const& keys, char const* version = "5.0")
     return installation;
 }
 
-/// What stays of \a items, with the signatures that are verified.
+/// The remaining items of \a items, with the signatures that the bundle verifies.
 std::string Left(std::vector<FeedItem> items, Installation const& installation)
 {
     Engine::LeaveOut(items, installation, OrderOf);
@@ -43,7 +43,7 @@ std::string Left(std::vector<FeedItem> items, Installation const& installation)
     return texts;
 }
 
-/// The name of the verdict on the last of \a items.
+/// The name of the verdict for the last of \a items.
 std::string Verdict(std::vector<FeedItem> const& items, Installation installation)
 {
     installation.stones = Engine::SteppingStonesOf(items, installation, OrderOf);

@@ -1,4 +1,4 @@
-// KeyStatementTest.cpp: what the root key says of the keys that sign: the text, its line in a feed, and the verdict.
+// KeyStatementTest.cpp: the root key's statement about the signing keys: its text, its line in a feed, and the verdict.
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/check/FeedRecord.h"
 #include "tests/engine/KeyStatementText.h"
@@ -28,7 +28,7 @@ KeyTrust Trust()
     return {{KeyOf(7)}, KeyOf(ROOT_SEED), "com.example.app", 3};
 }
 
-/// The number of the error; 0 for a statement that is believed.
+/// The number of the error; 0 if the statement is accepted.
 int CauseOf(QByteArray const& feed, KeyTrust const& trust = Trust())
 {
     auto const believed = BelieveKeys(feed, trust, Moment("2026-11-22T12:00:00Z"));

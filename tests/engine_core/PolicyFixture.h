@@ -1,4 +1,4 @@
-// PolicyFixture.h: items of a feed and the installations that they are judged for.
+// PolicyFixture.h: items of a feed, and installations for which they are judged.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -13,7 +13,7 @@ using Engine::FeedItem;
 using Engine::Installation;
 using Engine::PolicyVerdict;
 
-/// Versions of one digit after a dot at most.
+/// For versions with one digit at most after each dot.
 inline int OrderOf(QString const& a, QString const& b)
 {
     double const difference = a.toDouble() - b.toDouble();

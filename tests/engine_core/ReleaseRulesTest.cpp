@@ -1,4 +1,4 @@
-// ReleaseRulesTest.cpp: for which installations an item is meant: what a feed says, the verdict, and its name.
+// ReleaseRulesTest.cpp: for which installations an item is meant: the text of the feed, the verdict, and its name.
 
 #include "tests/engine_core/PolicyFixture.h"
 

@@ -1,4 +1,4 @@
-// RolloutSeedTest.cpp: the group of an installation in staged rollouts, and the file that decides it.
+// RolloutSeedTest.cpp: the group of an installation in staged rollouts, and the file that determines it.
 
 #include "Engine/core/check/RolloutSeed.h"
 

@@ -1,4 +1,4 @@
-// SafeTextTest.cpp: which characters are hidden, and that every place that shows others' texts hides them.
+// SafeTextTest.cpp: which characters are made visible, in every place that shows text from outside.
 #include "Engine/core/base/SafeText.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
@@ -15,7 +15,7 @@ using namespace Pelnar::Engine;
 
 QString TextOf(uint codePoint)
 {
-    // fromUcs4() takes a byte order mark for what it says.
+    // fromUcs4() would interpret a byte order mark.
     return codePoint < 0x10000 ? QString(QChar(codePoint)) : QString::fromUcs4(&codePoint, 1);
 }
 
@@ -95,7 +95,7 @@ TEST(SafeText, OrdinaryTextIsSeen)
           0x200AU, 0x2010U, 0x2027U, 0x202FU, 0x205FU,  0x2070U,  0x3042U,  0x4E2DU,  0xAC00U,  0xD7FFU, 0xF900U,
           0xFB1DU, 0xFE10U, 0xFF21U, 0xFFFDU, 0x10000U, 0x110BDU, 0x1F600U, 0x20000U, 0x2FFFDU, 0xDFFFFU})
     {
-        // The last one stands just before the tags, and is no character.
+        // The last one is just before the tag characters and is not assigned.
         EXPECT_EQ(IsHidden(codePoint), codePoint == 0xDFFFFU) << std::hex << codePoint;
     }
 }

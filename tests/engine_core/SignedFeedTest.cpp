@@ -1,4 +1,4 @@
-// SignedFeedTest.cpp: which bytes count as a signed feed, and what such a feed must say of itself.
+// SignedFeedTest.cpp: which bytes are a signed feed, and which statements such a feed needs.
 #include "Engine/core/feed/SignedFeed.h"
 #include "Engine/core/check/FeedTrust.h"
 #include "tests/engine/SignedFeedText.h"
@@ -18,7 +18,7 @@ std::string KeyText(std::uint8_t seedByte = 7)
     return MakeKeyPair(seedByte).publicKey;
 }
 
-/// The number of the error; 0 for a feed that is believed.
+/// The number of the error; 0 if the feed is accepted.
 int CauseOf(QByteArray const& feed, TrustedKeys const& keys = {KeyText()})
 {
     auto const verified = VerifyFeed(feed, keys);

@@ -1,5 +1,4 @@
-// What holds for every window: one answer, keyboard, names for assistive tools, manners towards the person and the
-// host.
+// Rules for every window: one answer, keyboard, names for assistive tools, behaviour towards the person and the host.
 
 #include "tests/engine_ui/WindowsFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -108,7 +107,7 @@ TEST_P(EveryWindow, AnswersItsMnemonicsWhichDiffer)
         QChar const mnemonic = text.at(mark + 1).toUpper();
         EXPECT_TRUE(mnemonics.insert(mnemonic).second) << qPrintable(text);
         QTest::keyClick(window, static_cast<Qt::Key>(mnemonic.unicode()), Qt::AltModifier);
-        // A button that is pressed by its mnemonic shows that for a moment before it tells.
+        // A button that is pressed by its mnemonic looks pressed for a moment before it reports the click.
         ASSERT_TRUE(WaitFor([this, before] { return Answers().size() > before; })) << qPrintable(text);
         EXPECT_EQ(Answers().back(), row.answer);
     }
@@ -175,7 +174,7 @@ TEST_P(EveryWindow, TakesTheFocusOnlyWhenAPersonAsked)
     {
         EXPECT_TRUE(QTest::qWaitForWindowActive(window));
     }
-    // No button that changes anything has the focus in a window nobody asked for.
+    // In a window that opened by itself, no button that changes anything has the focus.
     std::set<QString> const harmless = {QStringLiteral("PelnarEngine_remindButton"),
                                         QStringLiteral("PelnarEngine_laterButton")};
     EXPECT_EQ(!isAsked, harmless.count(window->focusWidget()->objectName()) == 1U)

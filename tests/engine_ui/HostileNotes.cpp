@@ -70,7 +70,7 @@ constexpr std::array SCRIPTS = {
     Named{"xmp_and_plaintext", "<xmp><img src='%PATH%'></xmp><plaintext><img src='%PATH%'>"},
 };
 
-/// Addresses that no click may follow.
+/// Addresses that a click must not follow.
 constexpr std::array LINK_ADDRESSES = {
     Named{"javascript", "javascript:alert(1)"},
     Named{"javascript_mixed_case", "JaVaScRiPt:alert(1)"},

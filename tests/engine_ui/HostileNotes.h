@@ -1,4 +1,4 @@
-// HostileNotes.h: release notes that try to load, to run, to deceive or to exhaust.
+// HostileNotes.h: release notes that try to load files, run code, deceive or exhaust memory.
 #pragma once
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"
@@ -16,8 +16,8 @@ struct HostileNotes
     std::string text;
 };
 
-/// Every document in which something refers to a file or an address names \a canaryPath (an absolute path) or
-/// \a canaryAddress (host and port).
+/// Documents that refer to a file or an address use \a canaryPath (an absolute path) or \a canaryAddress (host and
+/// port).
 [[nodiscard]] std::vector<HostileNotes> AllHostileNotes(std::string const& canaryPath,
                                                         std::string const& canaryAddress);
 

@@ -1,4 +1,4 @@
-// What the filter promises of any markup, held against notes written to break it and against generated ones.
+// The filter's promises for any markup, tested with hostile notes and with generated ones.
 #include "tests/engine_ui/HostileNotes.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "tests/engine_ui/SafeMarkup.h"
@@ -53,7 +53,7 @@ TEST(HostileNotes, LinksThatMustNotBeFollowedAreText)
     }
 }
 
-/// Documents made of pieces that matter to a filter, the same ones at every run.
+/// Documents made of pieces that matter to a filter. Every run makes the same ones.
 class GeneratedNotes
 {
 public:
@@ -154,7 +154,7 @@ TEST(GeneratedNotes, KeepEveryPromiseInEveryFormat)
     for (int i = 0; i < 6000; ++i)
     {
         std::string const notes = generated.Next();
-        // Small limits now and then, so that refusals are met too.
+        // Small limits from time to time, so that there are refusals too.
         limits.maxElements = i % 4 == 0 ? 8 : ReleaseNotesLimits().maxElements;
         limits.maxPlainLines = i % 4 == 0 ? 5 : ReleaseNotesLimits().maxPlainLines;
         for (Format const format : {Format::PlainText, Format::Markdown, Format::Html})

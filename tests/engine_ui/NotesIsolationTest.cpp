@@ -1,4 +1,4 @@
-// Release notes open no file and reach no server, watched from outside the process.
+// Release notes open no file and contact no server. The test traces the process from outside.
 
 #include "tests/support/Sanitizers.h"
 #include "tests/support/TestApplication.h"
@@ -51,7 +51,7 @@ protected:
         QCoreApplication::processEvents();
         QFile file(trace);
         EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        // The command line names the canary too.
+        // The command line contains the canary too.
         QByteArray lines;
         for (QByteArray const& line : file.readAll().split('\n'))
         {

@@ -1,5 +1,5 @@
-// Every window as a picture, light and dark, in both directions. Pictures go to the folder named by PELNAR_PICTURES
-// when it is set; what is asserted is that text stands out from what is behind it.
+// Pictures of every window, light and dark, in both directions. If PELNAR_PICTURES names a folder, they are saved
+// there. The test checks that text has enough contrast with its background.
 
 #include "Engine/ui/Translations.h"
 #include "tests/engine_ui/WindowsFixture.h"
@@ -53,7 +53,7 @@ double Contrast(QColor const& a, QColor const& b)
     return (brighter + 0.05) / (darker + 0.05);
 }
 
-/// The greatest contrast of any pixel of \a image to the one in its corner.
+/// The greatest contrast between any pixel of \a image and the one in its corner.
 double GreatestContrast(QImage const& image)
 {
     QColor const corner = image.pixelColor(1, 1);

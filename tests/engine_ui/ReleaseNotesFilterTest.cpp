@@ -226,7 +226,7 @@ struct LinkRow
 {
     char const* name;
     char const* address;
-    char const* safe; ///< null when it must not be followed
+    char const* safe; ///< null if it must not be followed
 };
 
 void PrintTo(LinkRow const& row, std::ostream* out)
@@ -399,7 +399,7 @@ TEST(ReleaseNotesLimits, LongTitlesAndAddressesWithManyUsesCostLittleTime)
         auto const start = std::chrono::steady_clock::now();
         EXPECT_EQ(FilterReleaseNotes(text, Format::Markdown).refusal, Refusal::TooLong);
         EXPECT_LT(std::chrono::steady_clock::now() - start,
-                  std::chrono::seconds(5)); // some take a minute without limits
+                  std::chrono::seconds(5)); // some would take a minute without limits
     }
 }
 

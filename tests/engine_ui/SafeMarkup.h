@@ -1,4 +1,4 @@
-// SafeMarkup.h: the strict grammar of what the release-notes filter may put out, checked by other means than its own.
+// SafeMarkup.h: the strict grammar of the release-notes filter's output, checked by separate code.
 #pragma once
 
 #include <string>
@@ -7,9 +7,9 @@
 namespace Pelnar::Testing
 {
 
-/// The first promise that \a html breaks, in words, with the text around it; empty when it keeps them all: only known
-/// elements, well nested, attributes "dir" and "href" alone, links of three schemes, text without control characters,
-/// the depth of elements and tables, the number of elements and bytes.
+/// The first rule that \a html breaks, in words, with the text around it; empty if it breaks no rule. The rules: only
+/// known elements, well nested; only the attributes "dir" and "href"; links of three schemes; text without control
+/// characters; limits for the depth of elements and tables and for the number of elements and bytes.
 [[nodiscard]] std::string BrokenPromiseOf(std::string_view html);
 
 } // namespace Pelnar::Testing

@@ -121,7 +121,7 @@ QString FileOf(QString const& name)
     return FOLDER + QStringLiteral("pelnar_engine_") + name + QStringLiteral(".ts");
 }
 
-/// Of every failure, by its English text.
+/// Of every failure, with its English text.
 std::map<QString, Sentence> EverySentence()
 {
     std::vector<Sentence> sentences;
@@ -194,7 +194,7 @@ TEST_P(Languages, HasEveryTextFinishedWithItsPlaceholders)
         }
         EXPECT_TRUE(isNumberSeen || message.translations.isEmpty()) << qPrintable(message.key);
     }
-    // That none is missing is what the comparison with the sources shows.
+    // The comparison with the sources shows that none is missing.
     EXPECT_GE(messages.size(), Name() == QLatin1String("en") ? 3U : 200U);
 }
 

@@ -1,4 +1,4 @@
-// WindowCases.h: every window of the engine in every way it can be shown, as rows for tests.
+// WindowCases.h: every window of the engine in each of its forms, as rows for tests.
 // Thread: the Qt main thread.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace Pelnar::Testing
 struct WindowButton
 {
     char const* objectName;
-    char const* answer; ///< what the recorder hears when it is clicked
+    char const* answer; ///< the recorder's text after a click
 };
 
 struct WindowCase
@@ -22,16 +22,16 @@ struct WindowCase
     char const* name;
     char const* objectName;
     Engine::CheckOrigin origin;
-    /// Shows the window; the recorder hears the answer in words.
+    /// Shows the window. The recorder gets the answer in words.
     std::function<void(Engine::IUserInterface&, std::function<void(std::string)>)> show;
     std::vector<WindowButton> buttons;
     char const* dismissal;     ///< the answer of Esc and of the close button
-    char const* defaultButton; ///< empty when there is none
+    char const* defaultButton; ///< empty if there is none
 };
 
 [[nodiscard]] std::vector<WindowCase> AllWindowCases();
 
-/// An update with everything a window can show of it.
+/// An update with all that a window can show.
 [[nodiscard]] Engine::UpdateOffer FullOffer();
 
 } // namespace Pelnar::Testing

@@ -1,4 +1,4 @@
-// What each window shows, and how the windows follow one another.
+// The content of each window, and the order of the windows.
 
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/ui/NotesBrowser.h"

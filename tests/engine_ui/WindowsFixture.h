@@ -1,4 +1,4 @@
-// WindowsFixture.h: an application without display, a user interface, and what it answered.
+// WindowsFixture.h: an application without a display, a user interface, and its answers.
 // Thread: the Qt main thread. Ownership: the fixture owns the application.
 #pragma once
 
@@ -66,7 +66,7 @@ protected:
         return windows;
     }
 
-    /// The child of that name in the window that is shown; fails the test when there is none.
+    /// The child with that name in the shown window. The test fails if there is none.
     template <typename Widget>
     static Widget* Part(char const* objectName)
     {

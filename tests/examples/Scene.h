@@ -1,4 +1,4 @@
-// Scene.h: what the examples in public headers take for granted: Qt, and a host with a window.
+// Scene.h: what the examples of public headers use without declaring it: Qt, and a host with a window.
 #pragma once
 
 #include <QtWidgets>
@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-/// As within a QObject.
+/// As QObject::tr().
 inline QString tr(char const* text)
 {
     return QCoreApplication::translate("Host", text);

@@ -16,7 +16,7 @@ namespace
 
 using namespace Pelnar::Engine;
 
-/// Every row of the tables as an error: of the causes alone, of those where an archive was fetched, of the faults.
+/// Every row of the tables as an error: the causes, the causes for an archive, the faults.
 std::vector<EngineError> EveryError()
 {
     std::vector<EngineError> errors;
@@ -43,7 +43,7 @@ TEST(EngineError, HasANumberOfItsOwn)
         EngineError const error = MakeError(cause);
         EXPECT_EQ(error.UnderlyingCode(), cause == ErrorCause::HttpStatus ? 0 : static_cast<int>(cause));
         EXPECT_EQ(static_cast<int>(error.cause), EntryOf(cause).number);
-        if (cause != ErrorCause::Fault) // which is what UpdateFault::None adds 0 to
+        if (cause != ErrorCause::Fault) // its number is also that of UpdateFault::None
         {
             EXPECT_TRUE(numbers.insert({error.UnderlyingDomain(), error.UnderlyingCode()}).second)
                 << error.UnderlyingCode();
@@ -59,7 +59,7 @@ TEST(EngineError, HasANumberOfItsOwn)
     }
 }
 
-// Why a feed cannot be read is said in a second sentence, which names the line.
+// A second sentence says why a feed cannot be read, and names the line.
 TEST(EngineError, HasASentenceOfItsOwnUnlessASecondOneFollows)
 {
     std::set<std::string> sentences;

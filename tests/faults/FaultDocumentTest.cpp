@@ -1,4 +1,4 @@
-// docs/faults.md is made here, from the tables, and compared.
+// Generates docs/faults.md from the tables and compares it with the file.
 
 #include "Engine/core/faults/FaultTable.h"
 #include "tests/support/EveryFault.h"

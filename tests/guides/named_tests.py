@@ -8,7 +8,7 @@ import re
 
 NAME = re.compile(r"`(?:(?P<folder>[a-z_]+(?:/[a-z_]+)*): )?(?P<test>[\w./*…]+)`")
 FUZZ = re.compile(r"fuzz targets?((?:(?:,| and)? `[a-z_]+`)+)")
-# Behind the name of a row of a table stands what the row holds.
+# The name of a row is followed by its content.
 CTEST = re.compile(r"^ *add_test\((?:\[=\[)?(?P<name>[^\s\]]+)", re.MULTILINE)
 
 

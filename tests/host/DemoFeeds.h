@@ -8,17 +8,17 @@
 namespace Pelnar::Testing
 {
 
-/// One item: what differs between the feeds.
+/// One item: the properties in which the feeds differ.
 struct DemoItem
 {
     QByteArray version;
-    QByteArray system;               ///< sparkle:os; empty for every platform
+    QByteArray system;               ///< sparkle:os; empty: for every platform
     QByteArray minimumSystemVersion; ///< empty for none
 };
 
 QByteArray FeedOf(std::initializer_list<DemoItem> items);
 
-/// Feeds in files of one folder, which goes with the object.
+/// Feeds in files of one folder, which is removed with the object.
 class FeedFolder
 {
 public:

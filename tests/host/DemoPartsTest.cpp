@@ -1,4 +1,4 @@
-// DemoPartsTest.cpp: the parts of the demo hosts that need no check: command lines, reports, what the log tells.
+// DemoPartsTest.cpp: the parts of the demo hosts that need no check: command lines, reports, the reading of the log.
 
 #include "Demo/CheckFailureLog.h"
 #include "Demo/CheckRun.h"
@@ -237,7 +237,7 @@ TEST(Recorder, PassesEveryNotificationOn)
                                   QStringLiteral("OnUpdateDialogClosed")}));
 }
 
-// --- what the log tells ---
+// --- the reading of the log ---
 
 Core::LogFile const SESSION("App/UpdateChecker/SparkleImpl/SparkleManager");
 Core::LogFile const OTHER("App/UpdateChecker/SparkleImpl/UpdaterSparkle");

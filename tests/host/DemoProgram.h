@@ -12,12 +12,12 @@ namespace Pelnar::Testing
 
 struct ProgramResult
 {
-    int status = -1;                ///< -1 when the program did not start, crashed or did not end
+    int status = -1;                ///< -1 if the program did not start, crashed or did not end
     std::vector<std::string> lines; ///< of standard output, empty ones left out
     std::string errors;
 };
 
-/// Runs the program \a path without a display of its own choice.
+/// Runs the program \a path without choosing a display.
 ProgramResult RunProgram(QString const& path, QStringList const& arguments);
 
 } // namespace Pelnar::Testing

@@ -1,4 +1,4 @@
-// DemoProgramTest.cpp: pelnar-demo run by itself: its notifications and the pictures that it leaves.
+// DemoProgramTest.cpp: pelnar-demo run without a person: its notifications and its pictures.
 
 #include "tests/host/DemoProgram.h"
 #include "tests/host/DemoFeeds.h"
@@ -30,7 +30,7 @@ protected:
                     QStringLiteral("--nag"), QString::fromLatin1(nag)});
     }
 
-    /// The names of the pictures, all of which can be read.
+    /// The names of the pictures. Each of them can be read.
     QStringList Pictures() const
     {
         QDir const folder(m_pictures.path());

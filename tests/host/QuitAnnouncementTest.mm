@@ -1,4 +1,5 @@
-// QuitAnnouncementTest.mm: on macOS the end of the event loop is announced once, as those who install on quit expect.
+// QuitAnnouncementTest.mm: on macOS the end of the event loop is announced exactly once. An installation on quit waits
+// for it.
 
 #include "Foundation/ManualReferences.h"
 #include "HostFramework/Reference/ReferenceApplication.h"
@@ -28,7 +29,7 @@ int AnnouncementsWhile(std::function<void(ReferenceApplication&)> const& leave)
                                                           object:nil
                                                            queue:nil
                                                       usingBlock:^(NSNotification*) {
-                                                        ++announcements;
+                                                          ++announcements;
                                                       }];
     }
     QTimer::singleShot(0, &application, [&application, &leave] { leave(application); });

@@ -1,4 +1,4 @@
-// ReferenceApplicationTest.cpp: lending the services, and quitting with the windows' consent.
+// ReferenceApplicationTest.cpp: the services, and quitting with the consent of the windows.
 
 #include "HostFramework/Reference/ReferenceCustomizationManager.h"
 #include "HostFramework/Reference/ReferenceLinksManager.h"
@@ -44,7 +44,7 @@ private:
 class ReferenceApplicationTest : public testing::Test
 {
 protected:
-    /// Runs the event loop, calls TryToQuit in it and answers whether the loop ended by it.
+    /// Runs the event loop and calls TryToQuit in it. Returns whether this ended the loop.
     bool LoopEndsBy(bool expectedAnswer)
     {
         bool endedByBackstop = false;
@@ -52,8 +52,7 @@ protected:
                            [&]
                            {
                                EXPECT_EQ(App().TryToQuit(), expectedAnswer);
-                               // Runs after everything that TryToQuit may have posted; no effect when the loop has been
-                               // left.
+                               // Runs after all events that TryToQuit may have posted. No effect if the loop has ended.
                                QTimer::singleShot(0, &App(),
                                                   [&]
                                                   {

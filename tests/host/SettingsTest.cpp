@@ -19,7 +19,7 @@ namespace
 class Settings : public testing::Test
 {
 protected:
-    /// A new file each time: QSettings takes a file of the same size and time for the one that it has read.
+    /// A new file each time: QSettings does not read a file again if its size and time are the same.
     QString Write(QByteArray const& content)
     {
         QFile file(m_folder.filePath(QStringLiteral("host%1.ini").arg(++m_files)));

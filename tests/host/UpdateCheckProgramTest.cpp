@@ -182,7 +182,7 @@ TEST(CheckProgramOptions, VerboseWritesTheLogAtLevel30)
 
 TEST(CheckProgramOptions, VerboseLogHoldsNoLineNorEscapeSequenceOfAFeed)
 {
-    // What XML lets through of control characters; an escape character itself makes a feed malformed.
+    // Control characters that XML allows. An escape character itself makes a feed malformed.
     QByteArray const forged = "5.10&#10;E0101 forged&#13;&#x9B;31m&#x85;&#x2028;&#x202E;&#127;";
     FeedFolder const folder;
     QString const feed = folder.Write(
@@ -251,7 +251,7 @@ TEST(CheckProgramOptions, HelpIsNoError)
 }
 
 #if defined(Q_OS_LINUX)
-/// What the program would leave in the user defaults of the person who runs it; null when there is nothing.
+/// The entry that the program would leave in the person's user defaults; null if there is none.
 QByteArray PersonalDefaults()
 {
     QFile file(QString::fromLocal8Bit(getpwuid(getuid())->pw_dir) +
@@ -276,7 +276,7 @@ TEST(CheckProgramOptions, APersonsUserDefaultsAreNotTouched)
 
 // --- over the network ---
 
-/// The program's servers run in threads of their own, which need an application.
+/// The servers of these tests run in threads of their own, which need an application.
 class CheckProgramOverTheNetwork : public ::testing::Test
 {
     int m_argumentCount = 0;

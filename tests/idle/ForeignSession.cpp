@@ -1,4 +1,4 @@
-// ForeignSession.cpp: a library of the session's name, of a build that has nothing in common with ours but the stamp.
+// ForeignSession.cpp: a library with the session's name from another build. Only its stamp is right.
 
 #include <cstdlib>
 

@@ -12,10 +12,10 @@ namespace Pelnar::Testing
 /// The lines that \a program prints, standard output first.
 QStringList LinesOf(QString const& program, QStringList const& words);
 
-/// The names of the libraries that are loaded by the last of \a lines.
+/// The names of the loaded libraries in the last of \a lines.
 QStringList LibrariesIn(QStringList const& lines);
 
-/// A folder from which a host loads the update checker, and which so has to hold the session, too.
+/// A folder with the update checker, for a host. So it must contain the session, too.
 class LibraryPlace
 {
 public:
@@ -28,7 +28,7 @@ public:
     QString Feed() const;
     static void Copy(QString const& from, QString const& to);
 
-    /// Runs the host over this folder; \a libraryPath is how the loader is told of it.
+    /// Runs the host with this folder. \a libraryPath says how the loader learns of it.
     QStringList Run(QStringList const& words) const;
     QStringList RunWith(QString const& libraryPath, QStringList const& words) const;
 

@@ -1,4 +1,4 @@
-// IdleTest.cpp: what a process has loaded before its first check, and after it.
+// IdleTest.cpp: the libraries of a process before its first check and after it.
 #include "tests/idle/IdleProcess.h"
 
 #include <gtest/gtest.h>
@@ -17,7 +17,7 @@ QStringList const ONLY_FOR_CHECKS = {QStringLiteral("libPelnarUpdateSession"), Q
                                      QStringLiteral("libgnustep-base"), QStringLiteral("libcurl"),
                                      QStringLiteral("libsodium")};
 
-/// Those that only a check needs, of the ones that are loaded.
+/// The loaded libraries that only a check needs.
 QStringList ForChecks(QStringList const& libraries)
 {
     QStringList found;
@@ -79,7 +79,7 @@ TEST(CheckedHost, HasEachLibraryOnce)
     {
         EXPECT_FALSE(libraries.filter(beginning).isEmpty()) << qPrintable(beginning);
     }
-    // By the name in front of the version: two versions of one library would be two copies of what it keeps.
+    // By the name without the version: two versions of a library would have two copies of its state.
     QStringList bare =
         libraries.filter(QRegularExpression(QStringLiteral("^lib(Pelnar|glog|gflags|gnustep|objc|Qt5)")));
     bare.replaceInStrings(QRegularExpression(QStringLiteral("[.]so.*")), QString());

@@ -1,5 +1,5 @@
-// LoadingTest.cpp: a check whose session is missing, damaged, unreadable or of another build fails and is told of as
-// every check that fails; the host lives, and the next check finds what was put right.
+// LoadingTest.cpp: a check fails if the session's library is missing, damaged, unreadable or of another build. It is
+// reported like every failed check, the host lives, and the next check finds a repaired library.
 #include "tests/idle/IdleProcess.h"
 
 #include <gtest/gtest.h>
@@ -22,7 +22,7 @@ using namespace Pelnar::Testing;
 
 QString const LOG_BEGINNING = QStringLiteral("The update session cannot be loaded: ");
 
-/// What the log says of the loading, without the path of the library.
+/// The log's text about the loading, without the path of the library.
 QStringList Reasons(QStringList const& lines)
 {
     QStringList reasons;
@@ -74,11 +74,11 @@ void MakePipe(LibraryPlace const& place)
     ASSERT_EQ(::mkfifo(QFile::encodeName(place.SessionPath()).constData(), 0600), 0);
 }
 
-/// Every table of its header says more than the file has.
+/// Each table in its header claims to be longer than the file.
 void BreakHeader(LibraryPlace const& place)
 {
     CopySession(place);
-    Overwrite(place.SessionPath(), 32, QByteArray(8, '\xff')); // where the segments are listed
+    Overwrite(place.SessionPath(), 32, QByteArray(8, '\xff')); // the place of the list of segments
 }
 
 void WriteText(LibraryPlace const& place)
@@ -101,7 +101,7 @@ TEST_P(UnusableSession, FailsEachCheckUntilItIsPutRight)
     QStringList const reasons = Reasons(lines);
     ASSERT_EQ(reasons.size(), 3) << qPrintable(all);
     EXPECT_TRUE(reasons.front().contains(QLatin1String(GetParam().reason))) << qPrintable(all);
-    // The silent check tells nobody. The one that a person asks for ends with a sentence, as every check that fails.
+    // The silent check tells nobody. The check of a person ends with a message, like every failed check.
     EXPECT_EQ(lines.count(QStringLiteral("ended")), 2) << qPrintable(all);
     EXPECT_EQ(lines.count(QStringLiteral("found 5.9 5.9")), 1) << qPrintable(all);
     EXPECT_EQ(lines.filter(QStringLiteral("dialog SparkleUpdater_updaterIsMissingDialog: A part of this application "))
@@ -218,12 +218,12 @@ TEST(Session, IsFoundThoughTheWorkingDirectoryHasChanged)
     EXPECT_EQ(lines.count(QStringLiteral("found 5.9 5.10")), 1) << qPrintable(lines.join(QLatin1Char('\n')));
 }
 
-/// A folder with the session that prints what is asked of it.
+/// A folder with the session that prints each call.
 struct RecordedPlace : LibraryPlace
 {
     RecordedPlace() { Copy(QStringLiteral(PELNAR_RECORDING_SESSION), SessionPath()); }
 
-    /// The lines of the session and of the check's end, in their order.
+    /// The lines of the session and of the check's end, in order.
     QStringList Calls(QStringList const& words) const
     {
         return Run(words).filter(QRegularExpression(QStringLiteral("^(session|found|ended|days|relaunch|dialog)")));

@@ -1,5 +1,5 @@
-// OddProcessTest.cpp: a host whose name, folder, command line or environment is in no encoding checks like any other,
-// and Foundation takes its main thread for the main one, though a thread of the update checker's loads it.
+// OddProcessTest.cpp: a host checks as usual, even if its name, folder, command line or environment is not valid text.
+// Foundation takes its main thread as the main one, although another thread loads Foundation.
 #include "tests/idle/IdleProcess.h"
 
 #include <gtest/gtest.h>

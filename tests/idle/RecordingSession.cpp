@@ -1,4 +1,4 @@
-// RecordingSession.cpp: a session of this build that never lends itself, and prints what is asked of it.
+// RecordingSession.cpp: a session of this build that is always busy, and prints each call.
 
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/ISession.h"
 #include "App/UpdateChecker/SparkleImpl/SessionLibrary/SessionExport_p.h"

@@ -66,7 +66,7 @@ std::string Repeat(std::string const& text, int times)
     return result;
 }
 
-/// A pass over a whole archive: the first fault, of an entry or of the end.
+/// Judges a whole archive. Returns the first fault, of an entry or of the end.
 UpdateFault Judge(std::vector<ArchiveEntry> const& entries, ArchiveLimits const& limits = {})
 {
     ArchiveEntryRules policy(limits);

@@ -184,7 +184,8 @@ std::string Padded(std::string bytes)
     return bytes;
 }
 
-/// "LENGTH KEY=VALUE\n", the length being of all of it.
+/// "LENGTH KEY=VALUE
+/// ". LENGTH counts the whole line.
 std::string PaxRecord(std::string const& key, std::string const& value)
 {
     std::string const rest = ' ' + key + '=' + value + '\n';

@@ -1,4 +1,4 @@
-// ArchiveForge.h: writes zip and tar archives byte by byte, right ones and any kind of wrong ones.
+// ArchiveForge.h: writes zip and tar archives byte by byte, valid and invalid ones.
 #pragma once
 
 #include <cstdint>
@@ -17,7 +17,7 @@ struct ForgedEntry
     std::string content; ///< or the link's target
     std::uint32_t mode = 0644;
 
-    // Zip only: lies and oddities.
+    // Zip only: false statements and oddities.
     std::optional<std::string> localName = {};
     std::optional<std::uint16_t> localMethod = {};
     std::optional<std::uint16_t> localFlags = {};
@@ -30,10 +30,10 @@ struct ForgedEntry
     bool isZip64 = false;
     std::string gapBefore = {};
     std::optional<std::string> unicodeName = {};      ///< the extra field with the name in UTF-8
-    std::optional<std::string> localUnicodeName = {}; ///< of the local header, where it is another
+    std::optional<std::string> localUnicodeName = {}; ///< of the local header, if it is different
 
     // Tar only.
-    bool isPax = false; ///< name and target stand in a pax header
+    bool isPax = false; ///< name and target are in a pax header
     std::vector<std::pair<std::string, std::string>> paxRecords = {};
 };
 

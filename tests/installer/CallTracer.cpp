@@ -75,7 +75,7 @@ public:
     }
 
 private:
-    /// A process whose parent was killed while it made it has not been heard of. It would stand still for ever.
+    /// A process that was just forked is still unknown if its parent has been killed. It would stay stopped for ever.
     static void KillUnheardOf()
     {
         std::string const tracer = "TracerPid:\t" + std::to_string(::gettid()) + '\n';
@@ -84,7 +84,7 @@ private:
             std::string const name = entry.path().filename();
             std::ifstream file(entry.path() / "status");
             std::string status;
-            std::getline(file, status, '\0'); // the whole of it; empty when the process has just ended
+            std::getline(file, status, '\0'); // the whole file; empty if the process has just ended
             if (name.find_first_not_of("0123456789") == std::string::npos && status.find(tracer) != std::string::npos)
             {
                 pid_t const process = std::stoi(name);
@@ -115,7 +115,7 @@ private:
             OnCall(process);
         }
         bool const isSignal = event == 0 && signal != SYSCALL_STOP;
-        // Fails when the process has just been killed, which the next wait tells.
+        // Fails if the process has just been killed. The next wait reports this.
         Trace(PTRACE_SYSCALL, process, 0, isSignal ? static_cast<unsigned long>(signal) : 0);
     }
 
@@ -151,7 +151,7 @@ private:
         case CallVerdict::Kind::Fail:
             if (stop.call == SYS_brk)
             {
-                // This call knows no errors: it says where the memory ends, which is where it did before.
+                // This call has no errors. Asked for address 0, it returns the end of the memory and does not move it.
                 Count(stop.process,
                       ChangeRegisters(stop.process, [](user_regs_struct& registers) { registers.rdi = 0; }) &&
                           stop.arguments[0] != 0);
@@ -173,7 +173,7 @@ private:
         }
     }
 
-    /// Of the call that the process makes.
+    /// Records that the verdict has affected the current call of the process.
     void Count(pid_t process, bool hasChangedSomething)
     {
         if (hasChangedSomething)
@@ -182,7 +182,7 @@ private:
         }
     }
 
-    /// True when a process got it.
+    /// True if at least one process got it.
     bool SignalAll(int signal)
     {
         bool isSent = false;
@@ -231,8 +231,8 @@ private:
     CallVisitor const& m_visitor;
     std::set<pid_t> m_processes;
     std::set<pid_t> m_starting;     // programs that the helper starts, before they are themselves
-    std::map<pid_t, int> m_answers; // that the calls under way are to have
-    std::set<pid_t> m_shortened;    // whose call under way moves one byte
+    std::map<pid_t, int> m_answers; // the faked results of the calls that are being made
+    std::set<pid_t> m_shortened;    // the running call of each moves one byte
     std::map<pid_t, int> m_index;   // of the last call
     TracedEnd m_end;
     bool m_isOwnCode = false;
@@ -302,7 +302,7 @@ std::string PathArgument(CallStop const& stop, std::size_t argument)
     std::string text(PATH_MAX, '\0');
     iovec local{text.data(), text.size()};
     iovec remote{reinterpret_cast<void*>(stop.arguments.at(argument)), text.size()};
-    // Less comes back where the process' memory ends behind the path.
+    // Fewer bytes come back if the process's memory ends after the path.
     ssize_t const count = ::process_vm_readv(stop.process, &local, 1, &remote, 1, 0);
     text.resize(count < 0 ? 0 : static_cast<std::size_t>(count));
     return text.substr(0, text.find('\0'));

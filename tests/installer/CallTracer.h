@@ -1,4 +1,4 @@
-// CallTracer.h: runs a process and all that it forks one system call at a time, and lets a test decide at each of them.
+// CallTracer.h: runs a process and its forks one system call at a time. A test decides about each call.
 // Thread: the one that starts the process; it is the tracer. Linux on x86-64.
 #pragma once
 
@@ -14,7 +14,7 @@
 namespace Pelnar::Testing
 {
 
-/// A system call that is about to be made; the process stands still until the answer.
+/// A system call before it is made. The process stands still until the answer.
 struct CallStop
 {
     int index; ///< of the calls of all processes of the helper, from the first of its own on; from 0
@@ -23,16 +23,16 @@ struct CallStop
     std::array<std::uint64_t, 6> arguments;
 };
 
-/// What becomes of a call.
+/// The fate of a call.
 struct CallVerdict
 {
     enum class Kind
     {
         GoOn,
-        Fail,      ///< it is not made, and answers with an error
+        Fail,      ///< it is not made, and returns an error
         Shorten,   ///< it is made with one byte for its third argument
-        KillAll,   ///< it is not made: every process ends there and then
-        SignalAll, ///< every process but a program that is being started gets a signal, then it is made
+        KillAll,   ///< it is not made: all processes are killed at this moment
+        SignalAll, ///< every process gets a signal, except a program that is being started; then the call is made
     };
 
     Kind kind = Kind::GoOn;
@@ -40,7 +40,7 @@ struct CallVerdict
 
     static CallVerdict GoOn() { return {}; }
     static CallVerdict Fail(int errorNumber) { return {Kind::Fail, errorNumber}; }
-    /// It is not made, and answers as if all had gone well.
+    /// It is not made, and returns as if it had succeeded.
     static CallVerdict Pretend() { return Fail(0); }
     static CallVerdict Shorten() { return {Kind::Shorten, 0}; }
     static CallVerdict KillAll() { return {Kind::KillAll, 0}; }
@@ -55,7 +55,7 @@ std::vector<std::string> StartStopped();
 struct TracedEnd
 {
     int waitStatus = 0;
-    std::set<int> faulted{};             ///< indexes of the calls whose verdict changed what happened
+    std::set<int> faulted{};             ///< indexes of the calls that the verdict has affected
     std::vector<std::int64_t> answers{}; ///< of the calls, by their index; 0 for one that did not return
 };
 
@@ -63,13 +63,13 @@ struct TracedEnd
 /// the program's loader, before its main function changes to the root folder, are not told.
 TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor);
 
-/// True for a call that moves bytes, and moved more than one: Shorten() would have made a difference.
+/// True for a call that moves more than one byte: Shorten() would have an effect.
 bool CanBeShortened(long call, std::int64_t answer);
 /// The call's name, for the calls that the helper makes.
 std::string CallName(long call);
-/// The path that a call names by its \a argument-th argument, as the process wrote it.
+/// The path in the \a argument-th argument of a call, as the process wrote it.
 std::string PathArgument(CallStop const& stop, std::size_t argument);
-/// What the descriptor in the call's first argument stands for.
+/// The file behind the descriptor in the call's first argument.
 std::string DescriptorPath(CallStop const& stop);
 
 } // namespace Pelnar::Testing

@@ -221,7 +221,8 @@ TEST_F(Ed25519Signature, KeysOfSmallOrderAreRefused)
     ASSERT_EQ(points.size(), 8u);
     for (Bytes32 const& point : points)
     {
-        // With such a key a signature of nothing fits one message in eight, and with the first one every message.
+        // With such a key a signature of nothing is valid for one message in eight, and with the first key for every
+        // message.
         std::string const forged = std::string(points[0].begin(), points[0].end()) + std::string(32, '\0');
         EXPECT_EQ(Verify(message, Base64(forged), {Base64(point)}), UpdateFault::KeyMalformed);
     }
@@ -233,7 +234,7 @@ TEST_F(Ed25519Signature, FirstHalvesOfSmallOrderAreRefusedAlthoughTheEquationHol
     std::string const fitting = SignatureWithNeutralR(message, points[0], pair);
     EXPECT_EQ(Verify(message, Base64(fitting), {pair.publicKey}), UpdateFault::SignatureMismatch);
 
-    // The vector is no strawman: S times the base point is h times the key, so only the check of R refuses it.
+    // The test vector is effective: S times the base point is h times the key, so only the check of R refuses it.
     Bytes32 left;
     Bytes32 scalar;
     std::copy(fitting.begin() + 32, fitting.end(), scalar.begin());

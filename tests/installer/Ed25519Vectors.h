@@ -1,5 +1,5 @@
-// Ed25519Vectors.h: makes keys, signatures and the odd points that forgeries are made of. Nothing is a recorded value:
-// the points of small order are found by multiplying points of the whole curve by the prime order.
+// Ed25519Vectors.h: makes keys, signatures and the special points for forgeries. No value is recorded: the points of
+// small order are found by multiplying points of the whole curve by the prime order.
 #pragma once
 
 #include <array>
@@ -28,7 +28,7 @@ std::string Base64(Bytes32 const& bytes);
 
 /// A right signature of \a message, raw.
 std::string Sign(std::string const& message, KeyPair const& pair);
-/// \a signature with the group's order added to its second half: the same equation, another text.
+/// \a signature with the group's order added to its second half: the equation still holds, but the bytes differ.
 std::string Malleable(std::string signature);
 /// R of the given encoding and the S that fits when R is the neutral element: S = h * a.
 std::string SignatureWithNeutralR(std::string const& message, Bytes32 const& encodedR, KeyPair const& pair);

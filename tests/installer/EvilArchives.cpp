@@ -21,7 +21,7 @@ namespace
 
 constexpr std::uint16_t UTF8_FLAG = 0x800;
 
-/// In a zip under the flag for UTF-8, in a tar in a pax header.
+/// In a zip with the flag for UTF-8, in a tar in a pax header.
 ForgedEntry CalledUtf8(ForgedEntry entry)
 {
     entry.flags = UTF8_FLAG;
@@ -29,7 +29,7 @@ ForgedEntry CalledUtf8(ForgedEntry entry)
     return entry;
 }
 
-/// Only a tar can say it: what its readers see ends at the first NUL, and that is what is judged and written.
+/// Only a tar can contain such a name. Its readers stop at the first NUL; the shorter name is judged and written.
 ForgedEntry InPax(ForgedEntry entry)
 {
     entry.isPax = true;
@@ -42,7 +42,7 @@ ForgedEntry WithOtherUnicodeName(ForgedEntry entry, std::string const& name)
     return entry;
 }
 
-/// Links that lead from one to the next, the last to \a target.
+/// Links that each lead to the next; the last leads to \a target.
 std::vector<ForgedEntry> ChainOfLinks(int length, std::string const& target)
 {
     std::vector<ForgedEntry> entries;
@@ -62,7 +62,7 @@ std::vector<ForgedEntry> ThroughAChainOfLinks(int length)
     return entries;
 }
 
-/// The folders that paths in \a tree name, where nothing else of their name is there.
+/// The folders in the paths of \a tree that have no entry of their own.
 void AddImpliedFolders(std::vector<ForgedEntry>& tree)
 {
     std::set<std::string> paths;
@@ -111,7 +111,7 @@ Engine::DeltaEntry EntryOf(ForgedEntry const& forged)
     return entry;
 }
 
-/// Adds what the container brings of \a files, one by one.
+/// Adds the content of \a files to the container, one by one.
 std::string StoreSeparately(Engine::DeltaManifest& manifest, std::vector<std::string> const& files)
 {
     std::string data;
@@ -124,7 +124,7 @@ std::string StoreSeparately(Engine::DeltaManifest& manifest, std::vector<std::st
     return data;
 }
 
-/// And joined in one stream.
+/// The same, but joined in one stream.
 std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string> const& files)
 {
     std::string all;
@@ -149,7 +149,7 @@ std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string
     return {packed.bytes.begin(), packed.bytes.end()};
 }
 
-/// Folders in folders, so that a file in the last lies \a depth names deep.
+/// Nested folders, so that a file in the last one is \a depth names deep.
 std::string DeepPath(int depth)
 {
     std::string path = "My App.app";

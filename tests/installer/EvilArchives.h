@@ -1,4 +1,4 @@
-// EvilArchives.h: entries that no update archive may hold, each with the fault that says why.
+// EvilArchives.h: entries that an update archive must not contain, each with its fault.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
@@ -15,21 +15,21 @@ namespace Pelnar::Testing
 struct Evil
 {
     char const* name;
-    std::vector<ForgedEntry> entries; ///< after a right bundle
+    std::vector<ForgedEntry> entries; ///< after the entries of a valid bundle
     Engine::UpdateFault fault;
-    bool isInZip = true; ///< a zip can say it too
-    bool isInTar = true; ///< a tar can
+    bool isInZip = true; ///< a zip can contain it
+    bool isInTar = true; ///< a tar can contain it
 };
 
 void PrintTo(Evil const& evil, std::ostream* out);
 
 std::vector<Evil> const& EvilArchives();
 
-/// Those of them that a delta can say as well: files, folders and links below the bundle's folder.
+/// Those that a delta can contain too: files, folders and links below the bundle's folder.
 std::vector<Evil> EvilTrees();
-/// A delta to the bundle APP of these entries, every file of which it brings whole.
+/// A delta from nothing to the bundle APP with these entries. It contains every file completely.
 std::string MakeWholeDelta(std::vector<ForgedEntry> tree, Engine::DeltaFormat format = Engine::DeltaFormat::Joined);
-/// One to a right bundle of version 2.0 and the evil entries.
+/// A delta to a valid bundle of version 2.0 with the evil entries.
 std::string MakeEvilDelta(Evil const& evil, Engine::DeltaFormat format = Engine::DeltaFormat::Joined);
 
 } // namespace Pelnar::Testing

@@ -129,7 +129,7 @@ void ExpectUpdated(UpdateScene& scene, HelperStart const& start)
     ASSERT_NE(relaunched, nullptr) << "it was not started again";
     EXPECT_EQ(relaunched->bundle, Engine::RelaunchedBundle::Target);
     std::string const told = "2.0|" + job.targetPath + "/run|0|\n";
-    bool const mayBeSilent = !start.before.empty(); // the helper may have no stream to lend it
+    bool const mayBeSilent = !start.before.empty(); // the helper may have no output stream to pass on
     EXPECT_TRUE(installed.output == told || (mayBeSilent && installed.output.empty())) << installed.output;
     EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
     scene.ReleaseStaging();

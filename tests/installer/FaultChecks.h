@@ -1,4 +1,4 @@
-// FaultChecks.h: what holds after every fault: the bundle is exactly one of the two versions, and starts.
+// FaultChecks.h: checks for every fault: the bundle is exactly one of the two versions, and it starts.
 // Thread: the test's.
 #pragma once
 
@@ -27,7 +27,7 @@ UpdateScene& WithBase(UpdateScene& scene);
 /// Prepares the update by a delta.
 Engine::PrepareJob DeltaJob(UpdateScene const& scene);
 
-/// The trees of both versions, as they are when whole.
+/// The trees of both versions.
 struct Versions
 {
     explicit Versions(std::vector<ForgedEntry> const& before = MakeBundle("1.0"),

@@ -17,7 +17,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// Every place that a run under \a run passes, read from a trace of it; all of them or every seventh.
+/// Every place of a run, read from its trace; all places or every seventh.
 template <typename Run>
 std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& run)
 {
@@ -40,9 +40,8 @@ std::vector<Place> PlacesOf(std::vector<std::string> const& options, Run const& 
     return places;
 }
 
-/// Makes \a attempt with a fresh tracer until a process was killed at \a place; false when no run came so far. A run
-/// may make fewer calls than the one that was traced: a shorter number of a process needs no memory, a thread ends
-/// sooner.
+/// Makes \a attempt with a new tracer until a process is killed at \a place. Returns false if no run reaches it. A run
+/// may make fewer calls than the traced one: a shorter process number needs no memory, or a thread ends sooner.
 template <typename Attempt>
 bool IsKilled(Place const& place, std::vector<std::string> const& options, Attempt const& attempt)
 {
@@ -113,7 +112,7 @@ void SweepInstallation(std::vector<std::string> const& options)
         PlacesOf(options, [&](HelperStart const& start) { EXPECT_EQ(traced.Install(tracedJob, start).exitStatus, 0); });
     if (!options.empty())
     {
-        // The call that fails cannot be the one that is killed too.
+        // The call that fails and the call at which it is killed must differ.
         places.erase(
             std::remove_if(places.begin(), places.end(), [](Place const& place) { return place.call == "renameat2"; }),
             places.end());
@@ -128,7 +127,7 @@ void SweepInstallation(std::vector<std::string> const& options)
                    scene.Install(job, killed.Start());
                    if (options.empty())
                    {
-                       ExpectWhole(scene, versions); // with an exchange, even before any recovery
+                       ExpectWhole(scene, versions); // with an exchange, also before any recovery
                    }
                    ExpectRecovered(scene, versions);
                });
@@ -144,8 +143,8 @@ TEST(Faults, InstallationWithoutExchangeKilledAnywhereLeavesOneOfTheVersions)
     SweepInstallation(NO_EXCHANGE);
 }
 
-/// What a helper leaves of which both processes are killed at once, made by hand: a killed child alone is healed by its
-/// parent.
+/// The files of a helper whose two processes were killed at the same time, made by hand: if only the child is killed,
+/// its parent repairs the bundle.
 void LeaveJournal(UpdateScene const& scene)
 {
     WriteNote(scene.Place().Descriptor(), SwapJournalName(APP),
@@ -173,7 +172,7 @@ void StopBetweenTwoRenames(UpdateScene& scene)
     std::filesystem::rename(scene.Place().Path() + '/' + APP, scene.StagingPath() + '/' + PREVIOUS_BUNDLE_NAME);
 }
 
-/// The recovery that the \a running version asks for ends with the \a left one, wherever it was killed before.
+/// The recovery for the version \a running ends with the version \a left, even after a kill at any place before.
 void SweepRecovery(void (*interruptInstallation)(UpdateScene&), std::string const& running, std::string const& left)
 {
     Versions const versions;

@@ -1,4 +1,4 @@
-// GoodStartScene.h: an installed update whose new version is to tell that it started well.
+// GoodStartScene.h: an installed update whose new version must confirm a good start.
 #pragma once
 
 #include "Engine/core/archive/TreeManifest.h"
@@ -18,7 +18,7 @@ namespace Pelnar::Testing
 
 constexpr char STRACE[] = "/usr/bin/strace";
 
-/// A version 2.0 that is to confirm its start; its program is \a script.
+/// A version 2.0 that must confirm a good start. Its program is \a script.
 inline std::string ArchiveOf(std::string const& script)
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
@@ -62,12 +62,12 @@ public:
     std::vector<std::string> Names() const { return scene.Place().Names(); }
 
     UpdateScene scene;
-    std::string failedVersion; ///< that the last recovery told of
+    std::string failedVersion; ///< reported by the last recovery
 };
 
 inline std::vector<std::string> const ONLY_THE_APP{APP};
 
-/// After some starts without a word the previous version stands there, whole, and nothing else but a note.
+/// After some starts without a confirmation, the previous version is installed again, whole, with one note next to it.
 inline void ExpectPreviousSettles(UpdateScene& scene)
 {
     scene.Host().End();
@@ -75,7 +75,7 @@ inline void ExpectPreviousSettles(UpdateScene& scene)
     for (int start = 0; start < 4 && scene.Place().StartedVersion() != "1.0"; ++start)
     {
         std::string const version = scene.Place().StartedVersion();
-        scene.Recover(version.empty() ? "1.0" : version); // none: a person calls for what they had before
+        scene.Recover(version.empty() ? "1.0" : version); // none: a person asks for the previous version
     }
     EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
     scene.Recover("1.0");

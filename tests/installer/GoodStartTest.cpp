@@ -1,4 +1,4 @@
-// GoodStartTest.cpp: new versions that must tell that they started well, and what becomes of those that do not.
+// GoodStartTest.cpp: new versions that must confirm a good start, and the return to the previous version without it.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/helper/NoteFile.h"
@@ -33,7 +33,7 @@ TEST(GoodStart, ThirdStartWithoutAWordBringsThePreviousVersionBack)
     EXPECT_EQ(installed.Start("2.0"), RecoveryAction::RolledBack);
     EXPECT_EQ(installed.Version(), "1.0");
     EXPECT_EQ(installed.failedVersion, "");
-    // What was taken back still runs from where it lies, until the previous version starts.
+    // The version that was taken back is kept until the previous version starts, because it may still run from there.
     EXPECT_EQ(installed.scene.Place().Names(installed.Names()[0]), ONLY_THE_APP);
 
     for (int start = 0; start < 2; ++start)
@@ -57,7 +57,7 @@ TEST(GoodStart, OneWordKeepsTheNewVersion)
         {
             EXPECT_EQ(installed.Start("2.0"), RecoveryAction::CountedStart);
         }
-        EXPECT_EQ(installed.Confirm("1.0"), RecoveryAction::KeptPrevious); // not the word of this one
+        EXPECT_EQ(installed.Confirm("1.0"), RecoveryAction::KeptPrevious); // the confirmation of another version
         EXPECT_EQ(installed.Confirm("2.0"), RecoveryAction::ConfirmedNew);
         EXPECT_EQ(installed.Names(), ONLY_THE_APP);
         EXPECT_EQ(installed.Confirm("2.0"), RecoveryAction::Nothing);
@@ -90,7 +90,7 @@ TEST(GoodStart, ProcessThatHasEndedIsNotTheOneThatHasItsNumberNow)
         journal.stagingName =
             name.compare(0, UpdateFilePrefix(APP).size(), UpdateFilePrefix(APP)) == 0 ? name : journal.stagingName;
     }
-    journal.lastStarted = {static_cast<std::uint64_t>(::getpid()), 1}; // another time of start
+    journal.lastStarted = {static_cast<std::uint64_t>(::getpid()), 1}; // another start time
     WriteNote(installed.scene.Place().Descriptor(), SwapJournalName(APP), EncodeSwapJournal(journal));
     EXPECT_EQ(installed.Start("2.0"), RecoveryAction::RolledBack);
     EXPECT_EQ(installed.Version(), "1.0");
@@ -111,7 +111,7 @@ TEST(GoodStart, WithoutAnExchangeThePreviousVersionComesBackByTwoRenames)
     EXPECT_EQ(installed.Version(), "1.0");
 }
 
-/// Every rename and every sync of the taking back that fails, by an exchange and by two renames.
+/// Each rename and each sync of the recovery fails, with an exchange and with two renames.
 TEST(GoodStart, RollBackThatFailsAnywhereIsFinishedByALaterStart)
 {
     for (bool const hasExchange : {true, false})
@@ -147,7 +147,7 @@ TEST(GoodStart, RollBackThatFailsAnywhereIsFinishedByALaterStart)
     }
 }
 
-/// Kills the recovery that takes a version back at each of the calls.
+/// Kills the recovery at each of the calls that take a version back.
 void SweepRollBack(std::vector<std::string> const& calls, std::vector<std::string> const& options)
 {
     for (std::string const& call : calls)
@@ -164,7 +164,7 @@ void SweepRollBack(std::vector<std::string> const& calls, std::vector<std::strin
             kills += wasKilled ? 1 : 0;
             EXPECT_TRUE(!options.empty() || !installed.Version().empty()); // with an exchange, at every moment
             ExpectPreviousSettles(installed.scene);
-            EXPECT_EQ(installed.Names().size(), 2u); // it knows which version failed
+            EXPECT_EQ(installed.Names().size(), 2u); // the record of the failed version is there
         }
         EXPECT_FALSE(wasKilled) << call;
         EXPECT_GT(kills, 0) << call;
@@ -178,7 +178,7 @@ TEST(GoodStart, RollBackKilledAnywhereIsFinishedByTheNextStart)
 
 TEST(GoodStart, RollBackWithoutAnExchangeKilledAnywhereIsFinishedByTheNextStart)
 {
-    // The call that fails cannot be the one that is killed too.
+    // The call that fails and the call at which it is killed must differ.
     SweepRollBack({"unlinkat", "fsync", "renameat"}, {"-e", "inject=renameat2:error=EINVAL"});
 }
 

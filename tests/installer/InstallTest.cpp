@@ -25,7 +25,7 @@ using namespace Pelnar::Testing;
 
 std::vector<std::string> const ONLY_THE_APP{APP};
 
-/// After the next start of what is there, nothing of the update is left.
+/// After the next start no file of the update is left.
 void ExpectTidyAfterNextStart(UpdateScene& scene)
 {
     scene.Host().End();
@@ -67,7 +67,7 @@ TEST(Install, NewVersionTakesThePlaceAndStartsOnceTheHostHasEnded)
     EXPECT_EQ(relaunched->bundle, RelaunchedBundle::Target);
     EXPECT_EQ(outcome.output, "2.0|" + scene.Place().Path() + "/" + APP + "/run|0|from the host\n");
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
-    // The previous version waits until the new one has told that it runs.
+    // The previous version is kept until the new one has reported that it runs.
     EXPECT_EQ(scene.Place().Names().size(), 3u);
     EXPECT_EQ(scene.Place().StartedVersion(scene.StagingName() + "/" + APP), "1.0");
     scene.ReleaseStaging();
@@ -109,7 +109,7 @@ TEST(Install, NothingHappensWhileTheHostLives)
     EXPECT_EQ(scene.Place().StartedVersion(), "1.0");
     EXPECT_EQ(scene.Place().StartedVersion(scene.StagingName() + "/" + APP), "2.0");
     scene.Host().End();
-    EXPECT_EQ(scene.Install(job).exitStatus, 0); // what was prepared is still good
+    EXPECT_EQ(scene.Install(job).exitStatus, 0); // the prepared version is still good
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
 }
 
@@ -301,7 +301,7 @@ TEST(Recover, StagingFoldersInUseStayAndAbandonedOnesGo)
     UpdateScene scene;
     scene.PrepareForInstall();
     std::string const other = scene.Place().Path() + "/.pelnar-0000000000000000-0000000000000000";
-    std::filesystem::create_directory(other); // another application's
+    std::filesystem::create_directory(other); // of another application
     EXPECT_EQ(scene.Recover("1.0").Find<RecoveredReport>()->action, RecoveryAction::Nothing);
     EXPECT_TRUE(std::filesystem::exists(scene.StagingPath()));
     scene.Host().End();
@@ -325,7 +325,7 @@ TEST(Recover, TidyingFollowsNoLink)
     scene.ReleaseStaging();
     EXPECT_EQ(scene.Recover("1.0").exitStatus, 0);
     EXPECT_EQ(outside.Names(), std::vector<std::string>{"precious"});
-    EXPECT_TRUE(std::filesystem::is_symlink(decoy)); // not a folder of ours
+    EXPECT_TRUE(std::filesystem::is_symlink(decoy)); // not one of our folders
 }
 
 TEST(Recover, NonsenseInTheJournalsPlaceHarmsNothing)

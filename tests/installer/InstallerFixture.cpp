@@ -24,9 +24,9 @@ namespace
 
 using Engine::UniqueFd;
 
-constexpr int FIRST_FREE_DESCRIPTOR = 100; ///< beyond every number that a helper expects
+constexpr int FIRST_FREE_DESCRIPTOR = 100; ///< larger than every number that a helper expects
 
-/// A copy out of the way of the numbers that a helper's descriptors get.
+/// A copy with a number that no descriptor of the helper gets.
 UniqueFd CopyHigh(int descriptor)
 {
     return UniqueFd(::fcntl(descriptor, F_DUPFD_CLOEXEC, FIRST_FREE_DESCRIPTOR));
@@ -277,7 +277,8 @@ HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::ma
     outcome.signal = WIFSIGNALED(status) ? WTERMSIG(status) : 0;
     if (outcome.signal != 0)
     {
-        lines.resize(lines.rfind('\n') == std::string::npos ? 0 : lines.rfind('\n') + 1); // it may have died in a line
+        // A killed helper may leave half a line.
+        lines.resize(lines.rfind('\n') == std::string::npos ? 0 : lines.rfind('\n') + 1);
     }
     TakeReports(lines, outcome);
     return outcome;

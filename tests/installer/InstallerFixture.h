@@ -25,7 +25,7 @@ std::vector<ForgedEntry> MakeBundle(std::string const& version, std::string cons
 /// The bundle's information file.
 std::string InformationText(std::string const& version, std::string const& identifier = IDENTIFIER);
 
-/// A new folder of this user's only, removed at the end with all that is in it.
+/// A new folder that only this user can access. It is removed at the end with its content.
 class Workspace
 {
 public:
@@ -36,13 +36,13 @@ public:
 
     std::string const& Path() const { return m_path; }
     int Descriptor() const { return m_folder.Get(); }
-    /// Writes the entries as they are below the folder.
+    /// Writes the entries to the folder without any check.
     void Put(std::vector<ForgedEntry> const& entries, std::string const& below = {}) const;
     /// The names in the folder, sorted.
     std::vector<std::string> Names(std::string const& below = {}) const;
-    /// What the program of the bundle in the folder prints; empty when it does not start.
+    /// The output of the bundle's program in the folder; empty if it does not start.
     std::string StartBundle(std::string const& name = APP) const;
-    /// The version that the bundle's program prints; empty when it does not start.
+    /// The version that the bundle's program prints; empty if it does not start.
     std::string StartedVersion(std::string const& name = APP) const;
 
 private:
@@ -55,14 +55,14 @@ Engine::UniqueFd WriteFile(std::string const& path, std::string const& bytes);
 
 struct HelperOutcome
 {
-    int exitStatus = -1; ///< -1 when a signal ended it
+    int exitStatus = -1; ///< -1 if a signal ended it
     int signal = 0;
     std::vector<Engine::HelperReport> reports; ///< without progress
     std::vector<Engine::ProgressReport> progress;
-    std::string output; ///< of what was started from it, to its end
+    std::string output; ///< all output of the programs that the helper started
     TracedEnd traced;   ///< when its calls were visited
 
-    /// The fault of the first refusal; None when there was none.
+    /// The fault of the first refusal; None without a refusal.
     Engine::UpdateFault Fault() const;
     template <typename Report>
     Report const* Find() const
@@ -83,10 +83,10 @@ struct HelperStart
 {
     std::vector<std::string> before = {};      ///< a program, with its arguments, that runs the helper
     std::vector<std::string> environment = {}; ///< none, as a host does it
-    CallVisitor atEveryCall = {};              ///< asked before each of the helper's system calls
+    CallVisitor atEveryCall = {};              ///< called before each of the helper's system calls
 };
 
-/// Runs the helper to its end. \a descriptors are given under their numbers, besides job and report.
+/// Runs the helper to its end. It gets \a descriptors under their numbers, besides job and report.
 HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::map<int, int> const& descriptors,
                         HelperStart const& start = {});
 
@@ -118,11 +118,11 @@ public:
 
     Engine::PrepareJob MakePrepareJob() const;
     HelperOutcome Prepare(Engine::PrepareJob const& job, HelperStart const& start = {});
-    /// Prepares the update by the helper, and fails the test when that fails.
+    /// Prepares the update with the helper. The test fails if that fails.
     Engine::InstallJob PrepareForInstall();
-    /// For the bundle APP of that tree, staged; nothing is started afterwards.
+    /// A job for the bundle APP of that tree. The new version is staged, and no program is started afterwards.
     Engine::InstallJob MakeInstallJob(Engine::ContentHash const& digest) const;
-    /// Has the outcome of \a job, a third attempt, kept as RECORD_NAME beside the archive.
+    /// Makes the helper keep the outcome of \a job, a third attempt, as RECORD_NAME next to the archive.
     static void KeepRecord(Engine::InstallJob& job);
     HelperOutcome Install(Engine::InstallJob const& job, HelperStart const& start = {});
     HelperOutcome Recover(std::string const& runningVersion, HelperStart const& start = {});
@@ -133,14 +133,14 @@ public:
     int StagingDescriptor() const { return m_staging->Descriptor(); }
     std::string const& StagingName() const { return m_staging->Name(); }
     std::string StagingPath() const { return m_place.Path() + '/' + m_staging->Name(); }
-    /// The host's hold on the staging folder ends, as when the host does.
+    /// The host releases the staging folder, as at its end.
     void ReleaseStaging() { m_staging.reset(); }
-    /// The host lets go of the archive, as after every helper.
+    /// The host releases the archive, as after every helper.
     void ReleaseArchive() { m_archiveFile = Engine::UniqueFd(); }
     StubHost& Host() { return m_host; }
     KeyPair const& Keys() const { return m_keys; }
 
-    int argumentsDescriptor = -1; ///< of the file of the new version's arguments; -1: there is none
+    int argumentsDescriptor = -1; ///< of the file with the new version's arguments; -1: none
 
 private:
     Workspace m_place;

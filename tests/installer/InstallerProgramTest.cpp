@@ -1,4 +1,4 @@
-// InstallerProgramTest.cpp: archives that bring a program which installs the new version by itself.
+// InstallerProgramTest.cpp: archives with a program that installs the new version itself.
 
 #include "Engine/core/bundle/PayloadKind.h"
 #include "tests/installer/InstallerFixture.h"
@@ -82,7 +82,7 @@ public:
     UpdateScene scene;
 };
 
-/// Nothing came of it: the previous version is there, was started, and nothing is left of the update.
+/// Checks that nothing was installed: the previous version is there and was started, and no file of the update is left.
 void ExpectUntouched(ProgramScene const& program, HelperOutcome const& outcome)
 {
     EXPECT_EQ(outcome.exitStatus, 1);
@@ -100,7 +100,7 @@ TEST(InstallerProgram, RunsOnceTheHostHasEndedAndItsStatusDecides)
                                    "test \"$(cut -d' ' -f6 /proc/$$/stat)\" = $$ && echo own session\n"
                                    "env | grep -v '^_=\\|^PWD=\\|^OLDPWD=\\|^SHLVL=' | sort\n"));
     InstallJob job = program.PrepareForInstall();
-    EXPECT_FALSE(std::filesystem::exists(program.Target() + "/by-setup")); // nothing of the archive has run
+    EXPECT_FALSE(std::filesystem::exists(program.Target() + "/by-setup")); // no file of the archive has run
     Workspace const other;
     other.Put(MakeBundle("7.0", "Answered.app"));
     job.relaunchPath = other.Path() + "/Answered.app";
@@ -178,7 +178,7 @@ INSTANTIATE_TEST_SUITE_P(
                                UpdateFault::ExecutableMissing}),
     [](testing::TestParamInfo<ArchiveRow> const& info) { return info.param.name; });
 
-/// A bundle that could be started and updated, no matter what it says that it is.
+/// A bundle that could be started and updated. \a line is in its information file.
 std::string BundleThatSays(std::string const& line)
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
@@ -259,7 +259,7 @@ TEST(InstallerProgram, IsNoWholeBundleAndNoBundleIsOneWhenItIsInstalledEither)
     EXPECT_FALSE(std::filesystem::exists(bundle.Target() + "/by-setup"));
 }
 
-/// The helper's calls that start a program, while it prepares an archive whose program would leave a mark.
+/// The helper's calls that start a program, while it prepares an archive whose program would leave a trace.
 int ProgramsStartedWhilePreparing(std::string const& signedText, UpdateFault expected)
 {
     Workspace const place;
@@ -315,7 +315,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(FailureRow{"OtherStatus", "#!/bin/sh\nexit 3\n", UpdateFault::InstallerFailed},
                     FailureRow{"EndedByASignal", "#!/bin/sh\nkill -9 $$\n", UpdateFault::InstallerFailed},
                     FailureRow{"NoInterpreter", "#!/nonexistent/interpreter\n", UpdateFault::InstallerNotStarted},
-                    // That the outcome comes at all shows that the sleeper, which holds the output, is gone too.
+                    // The outcome arrives only if the sleeper, which holds the output open, has ended too.
                     FailureRow{"NeverDone", "#!/bin/sh\nsleep 1000 &\nsleep 1000\n", UpdateFault::InstallerTimedOut}),
     [](testing::TestParamInfo<FailureRow> const& info) { return info.param.name; });
 

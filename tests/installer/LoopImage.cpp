@@ -23,7 +23,7 @@ namespace
 
 using Engine::UniqueFd;
 
-/// A loop device over the file, gone when nothing uses it any more; nothing when there is none to be had.
+/// A loop device for the file, released with its last user. Empty if there is no free one.
 UniqueFd AttachLoop(int imageFd, std::string& path)
 {
     UniqueFd const control(::open("/dev/loop-control", O_RDWR | O_CLOEXEC));
@@ -55,7 +55,7 @@ UniqueFd AttachLoop(int imageFd, std::string& path)
 
 std::vector<FileSystemKind> const& FileSystemKinds()
 {
-    // The makers of xfs want 300 MB, unless they believe that they are being tested.
+    // mkfs.xfs wants 300 MB, except in its test mode.
     static std::vector<FileSystemKind> const kinds{
         {"Ext4Ordered", "mkfs.ext4 -q -F", "ext4", "data=ordered", 16},
         {"Ext4Writeback", "mkfs.ext4 -q -F", "ext4", "data=writeback", 16},

@@ -1,4 +1,4 @@
-// LoopImage.h: file systems in files, to be cut off from power at will: a copy of the file is what a disk would hold.
+// LoopImage.h: file systems in files, for power cuts: a copy of the file at any time is the content of the disk.
 // Thread: the test's. Ownership: scope objects; mounts end with them. Needs root and loop devices.
 #pragma once
 
@@ -20,12 +20,12 @@ struct FileSystemKind
 /// ext4 in two modes, xfs, btrfs.
 std::vector<FileSystemKind> const& FileSystemKinds();
 
-/// Empty when images can be mounted by this process, which then has a mount table of its own; else the reason.
+/// Empty if this process, which then gets its own mount table, can mount images; otherwise the reason.
 std::string WhyImagesCannotBeMounted();
 
-/// A new file system in the file at \a path; false when it cannot be made.
+/// A new file system in the file at \a path; false if it cannot be made.
 [[nodiscard]] bool MakeImage(FileSystemKind const& kind, std::string const& path);
-/// The file's bytes as they are, its holes left out.
+/// The file's bytes at this moment; holes are left out.
 void CopyImage(std::string const& from, std::string const& to);
 
 /// A mounted image.

@@ -32,7 +32,7 @@ std::string InChild(std::function<std::string()> const& act, unsigned seconds)
         ::alarm(seconds);
         std::string const answer = act();
         iovec const text{const_cast<char*>(answer.data()), answer.size()};
-        // Not the call that a filter is most likely to refuse.
+        // Not a call that a filter is likely to refuse.
         ::_exit(::writev(writer.Get(), &text, 1) == static_cast<ssize_t>(answer.size()) ? 0 : 1);
     }
     writer = Engine::UniqueFd();

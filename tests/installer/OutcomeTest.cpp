@@ -1,4 +1,4 @@
-// OutcomeTest.cpp: what is kept of an installation when nobody is there any more to hear of it.
+// OutcomeTest.cpp: the record of an installation whose host has ended.
 
 #include "Engine/core/helper/InstallRecord.h"
 #include "tests/installer/InstallerFixture.h"
@@ -113,7 +113,7 @@ TEST_F(Outcome, OfALockThatSomebodyHoldsIsKeptAndTheOldVersionStartsAgain)
     HelperStart start;
     start.atEveryCall = [](CallStop const& stop)
     {
-        // The minute of patience is over at once.
+        // The minute of waiting has passed at once.
         bool const isLocking = stop.call == SYS_flock && (stop.arguments[1] & LOCK_EX) != 0;
         static_cast<void>(isLocking && ::kill(stop.process, SIGALRM) == 0);
         return CallVerdict::GoOn();
@@ -141,7 +141,7 @@ TEST_F(Outcome, OfASuccessIsKept)
     EXPECT_EQ(status.st_nlink, 1u);
 }
 
-/// What was installed is; why nobody sees it is kept beside that.
+/// The update is installed. The record also says why it did not start.
 TEST_F(Outcome, OfASuccessWhoseNewVersionCannotBeStartedSaysSo)
 {
     InstallJob job = Job();
@@ -228,7 +228,7 @@ TEST_F(Outcome, ThatCannotBeKeptIsToldWhileTheHostStillRuns)
     }
 }
 
-/// Every writing of it: a new file, synced before it has the record's name, and the folder synced behind that.
+/// Every write of the record: a new file, synced before it gets the record's name, then a sync of the folder.
 TEST_F(Outcome, IsSyncedBeforeItHasItsName)
 {
     InstallJob const job = Job();

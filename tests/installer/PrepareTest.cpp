@@ -19,7 +19,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// The bundle with one of its entries changed, in a zip.
+/// A zip of the bundle with one changed entry.
 std::string ZipWith(std::string const& path, std::string const& content, std::uint32_t mode = 0644)
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
@@ -134,7 +134,7 @@ TEST(Prepare, AnyChangeOfTheArchiveIsRefusedAndTheInstalledVersionStays)
     for (std::size_t i = 0; i < changed.size(); ++i)
     {
         UpdateScene scene(changed[i]);
-        PrepareJob job = scene.MakePrepareJob(); // of the changed archive's length
+        PrepareJob job = scene.MakePrepareJob(); // the length is the one of the changed archive
         job.signature = signature;
         HelperOutcome const outcome = scene.Prepare(job);
         EXPECT_EQ(outcome.exitStatus, 1) << i;
@@ -210,7 +210,8 @@ INSTANTIATE_TEST_SUITE_P(
                   UpdateFault::ExecutableForeign}),
     [](testing::TestParamInfo<BundleRow> const& info) { return info.param.name; });
 
-/// A bundle "My App.app" that names no program: the one named after its folder is meant. Its programs are \a programs.
+/// A bundle "My App.app" whose information file names no program: the program named after the folder counts. Its
+/// programs are \a programs.
 std::string ZipWithoutExecutableName(std::vector<std::string> const& programs)
 {
     std::vector<ForgedEntry> entries{
@@ -291,7 +292,7 @@ TEST(Prepare, JobsAreStrictAndModesKnowTheirOwn)
     }
 }
 
-/// What a process that is confined to one folder gets when it tries to do \a act: 0 or an errno.
+/// The result of \a act in a process that is confined to one folder: 0 or an errno.
 int TryConfined(Workspace const& inside, int (*act)(std::string const& inside))
 {
     pid_t const child = ::fork();
@@ -314,7 +315,7 @@ int MakeFileAt(std::string const& path)
 TEST(Confinement, HoldsWithoutTheEntryPolicy)
 {
     Workspace const inside;
-    WriteFile(inside.Path() + "-outside", "x"); // this user's own: no right but the confinement's keeps anybody from it
+    WriteFile(inside.Path() + "-outside", "x"); // this user's own file: only the confinement forbids access
     struct Row
     {
         char const* name;

@@ -21,7 +21,7 @@ std::string Repeat(std::string const& text, int times)
     return result;
 }
 
-/// The text under "k", or why there is none.
+/// The text for "k", or the reason why there is none.
 std::string K(std::string const& list)
 {
     auto const value = ParsePropertyList(list);

@@ -1,5 +1,5 @@
-// What a program is started with after an update: the arguments that the host gave last, from the file of which the
-// helper knows, beside the folder and the environment of the host.
+// How a program is started after an update: with the arguments that the host gave last, which the helper reads from a
+// file, and in the host's folder and environment.
 #include "Engine/core/helper/RelaunchArguments.h"
 #include "tests/installer/InstallerFixture.h"
 
@@ -49,7 +49,7 @@ std::string Printed(Arguments const& arguments)
     return text + '\n';
 }
 
-/// None of these may mean anything to the helper, to a shell or to the loader.
+/// None of these may have a meaning for the helper, a shell or the loader.
 Arguments const ODD{"--open",
                     "/home/a b/caf\xc3\xa9 \"quoted\" $(id) `id` ; & |.txt",
                     "/home/latin1/caf\xe9.txt",
@@ -95,7 +95,7 @@ TEST(RelaunchArguments, LimitsAreMetToTheByte)
           Row{Arguments(1024, std::string(63, 'x')), true}, Row{Arguments(1024, std::string(64, 'x')), false}})
     {
         EXPECT_EQ(FaultOfRelaunchArguments(row.arguments) == nullptr, row.isGood);
-        // The reader holds to the same limits.
+        // The reader has the same limits.
         std::string const bytes = EncodeRelaunchArguments(row.arguments);
         EXPECT_EQ(DecodeRelaunchArguments(bytes).has_value(), row.isGood);
         EXPECT_EQ(ReadRelaunchArguments(FileOf(bytes).Get()), row.isGood ? row.arguments : Arguments());
@@ -106,7 +106,7 @@ TEST(RelaunchArguments, WhatIsNoFileSaysNone)
 {
     Workspace const place;
     int ends[2];
-    ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0); // nobody writes into it: who read it would wait for ever
+    ASSERT_EQ(::pipe2(ends, O_CLOEXEC), 0); // nothing is written to it: a reader would wait for ever
     UniqueFd const reader(ends[0]);
     UniqueFd const writer(ends[1]);
     for (int const descriptor : {-1, place.Descriptor(), reader.Get()})
@@ -178,7 +178,7 @@ TEST(RelaunchedProgram, OfTheVersionThatStaysGetsNone)
     UniqueFd const file = FileOf(EncodeRelaunchArguments({"document"}));
     scene.argumentsDescriptor = file.Get();
     InstallJob job = scene.PrepareForInstall();
-    job.installedVersion = "0.9"; // not the one that stands there
+    job.installedVersion = "0.9"; // not the installed one
     scene.Host().End();
     HelperOutcome const outcome = scene.Install(job);
     EXPECT_EQ(outcome.Fault(), UpdateFault::TargetChanged);

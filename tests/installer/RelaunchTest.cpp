@@ -24,7 +24,7 @@ using namespace Pelnar::Testing;
 struct RelaunchRow
 {
     char const* name;
-    std::string (*answer)(Workspace const& place); ///< given a safe bundle "Other.app" there
+    std::string (*answer)(Workspace const& place); ///< with a safe bundle "Other.app" in the place
     bool isTaken;
 };
 
@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
                                 false}),
     [](testing::TestParamInfo<RelaunchRow> const& info) { return info.param.name; });
 
-/// As umask 002 leaves it.
+/// The permissions under umask 002.
 TEST(Relaunch, ProgramThatTheUsersOwnGroupMayWriteIsStarted)
 {
     Workspace const place;

@@ -1,4 +1,4 @@
-// RightsTest.cpp: who may use the application after an update, and what its program finds when it is started again.
+// RightsTest.cpp: who may use the application after an update, and in which state its program starts again.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "tests/installer/FaultChecks.h"
@@ -143,7 +143,7 @@ TEST(Rights, AccessListOfTheInstalledBundleCarriesOver)
     EXPECT_EQ(ModeOf(scene, "Resources/data"), 0644u) << "the list at the door decides";
 }
 
-/// The folder that holds the application gives every new file a list of its own.
+/// The folder of the application gives every new file an access list.
 TEST(Rights, AccessListOfTheFolderAboveLetsNobodyElseIn)
 {
     Workspace const above;
@@ -199,7 +199,7 @@ TEST(Rights, NextDeltaFitsABundleThatOnlyItsOwnerMayUse)
     EXPECT_NE(DigestTree(opened.Get()), versions.next);
 }
 
-/// A bundle whose program says where it stands and which bits its files lack.
+/// A bundle whose program prints its folder and its umask.
 std::string Curious()
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");

@@ -1,5 +1,5 @@
-// TracedHelper.h: a helper under strace, which makes faults and writes down what it sees.
-// Ownership: a scope object; the trace goes with it.
+// TracedHelper.h: a helper under strace, which injects faults and records calls.
+// Ownership: a scope object; the trace is removed with it.
 #pragma once
 
 #include "Engine/core/helper/NoteFile.h"
@@ -34,7 +34,7 @@ inline std::ostream& operator<<(std::ostream& out, Place const& place)
     return out << place.call << " number " << place.nth;
 }
 
-/// A helper under strace, which writes down what it sees and which faults it has made.
+/// A helper under strace, which records its calls and counts the injected faults.
 class Traced
 {
 public:
@@ -49,7 +49,7 @@ public:
     int Kills() const { return LinesWith("+++ killed by SIGKILL +++"); }
     int Errors() const { return LinesWith("(INJECTED)"); }
 
-    /// How often the process that made a call most often made it, by the call's name.
+    /// For each call's name, the highest count in one process.
     std::map<std::string, int> CallsOfOneProcess() const
     {
         std::map<std::pair<std::string, std::string>, int> counts;
@@ -68,7 +68,7 @@ public:
                 most[name] = std::max(most[name], ++counts[{name, process}]);
             }
         }
-        most.erase("execve"); // the tracer's own: nothing of the helper has run yet
+        most.erase("execve"); // the tracer's own: the helper's program does not run yet
         return most;
     }
 

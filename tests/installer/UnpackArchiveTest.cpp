@@ -22,7 +22,7 @@ constexpr Container CONTAINERS[] = {Container::Zip, Container::TarGzip, Containe
                                     Container::TarZstandard};
 char const* const CONTAINER_NAMES[] = {"Zip", "TarGzip", "TarBzip2", "TarXz", "TarZstandard"};
 
-/// A staging folder with a decoy beside it that no archive may touch.
+/// A staging folder, and a decoy next to it that no archive may change.
 class UnpackScene
 {
 public:
@@ -85,7 +85,7 @@ class HostileArchives : public testing::TestWithParam<std::tuple<int, int>>
 {
 };
 
-/// Each evil in each container that has a way to say it.
+/// Each evil entry in each container that can contain it.
 std::vector<std::tuple<int, int>> EvilsInContainers()
 {
     std::vector<std::tuple<int, int>> pairs;
@@ -183,7 +183,7 @@ TEST_P(EveryContainer, ModesAreMaskedOwnersAreOursTimesStay)
         struct stat status;
         ASSERT_EQ(::lstat(scene.Path(name).c_str(), &status), 0) << name;
         EXPECT_EQ(status.st_mode & 07777u, mode) << name;
-        EXPECT_EQ(status.st_uid, ::geteuid()) << name; // a tar's entries are of user and group 1234
+        EXPECT_EQ(status.st_uid, ::geteuid()) << name; // the tar's entries belong to user and group 1234
         EXPECT_EQ(status.st_gid, ::getegid()) << name;
     };
     for (std::size_t i = 0; i < files.size(); ++i)
@@ -195,7 +195,7 @@ TEST_P(EveryContainer, ModesAreMaskedOwnersAreOursTimesStay)
         expectOurs(folderAt(i), 0755);
     }
     expectOurs(APP, 0755);
-    expectOurs(std::string(APP) + "/Resources/data", 0777); // a link's own
+    expectOurs(std::string(APP) + "/Resources/data", 0777); // for a link itself
     if (CONTAINERS[GetParam()] != Container::Zip)
     {
         struct stat status;
@@ -343,7 +343,7 @@ TEST(UnpackArchive, ChecksumOfAZipEntryCounts)
 
 TEST(UnpackArchive, BombsAreRefusedBeforeTheFirstWrite)
 {
-    // 5 GiB said in one header: more than the limit for any small archive.
+    // A header that claims 5 GiB: more than the limit for a small archive.
     std::string tar = MakeTar(MakeBundle("2.0"));
     tar.resize(tar.size() - 1024);
     std::string bomb = MakeTar({{std::string(APP) + "/bomb", 'f', "x"}});

@@ -1,5 +1,6 @@
-// UnrunArchiveTest.cpp: an archive full of programs that would leave a trace. None of them runs before the archive is
-// verified, the installed bundle has allowed it and the host has ended; then the one runs that the archive names.
+// UnrunArchiveTest.cpp: an archive full of programs that would leave a trace. None of them runs before three things:
+// the archive is verified, the installed bundle permits it, and the host has ended. After that only the program runs
+// that the archive names.
 
 #include "Engine/core/bundle/PayloadKind.h"
 #include "tests/installer/InstallerFixture.h"
@@ -18,7 +19,7 @@ using namespace Pelnar::Testing;
 
 constexpr char SETUP[] = "Setup.app";
 
-/// Programs under the names that something might look for; each puts a file of its name into \a traces.
+/// Programs with names that some other program might search for. Each puts a file with its name into \a traces.
 std::string ArchiveOfTraces(std::string const& traces)
 {
     std::string const folder = std::string(SETUP) + '/';
@@ -42,7 +43,7 @@ class ArchiveOfPrograms : public testing::Test
 protected:
     ArchiveOfPrograms() : scene(ArchiveOfTraces(traces.Path())) {}
 
-    /// Prepares the update; how many programs the helper has started meanwhile.
+    /// Prepares the update. Returns how many programs the helper has started meanwhile.
     int Prepare(PrepareJob const& job, HelperOutcome& outcome)
     {
         int programs = 0;
@@ -103,7 +104,7 @@ TEST_P(UnrunArchive, LeavesNoTrace)
     EXPECT_EQ(outcome.Fault(), GetParam().fault);
     EXPECT_EQ(outcome.Find<PreparedReport>() != nullptr, GetParam().fault == UpdateFault::None);
     EXPECT_TRUE(traces.Names().empty());
-    // Nobody has agreed to an installation: the next starts clear up what was prepared.
+    // Nobody has agreed to an installation: the next starts remove the prepared version.
     scene.Host().End();
     scene.ReleaseStaging();
     for (int start = 0; start < 2; ++start)
@@ -140,7 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
         UnrunRow{"Prepared", YES, [](PrepareJob&, UpdateScene const&) {}, UpdateFault::None}),
     [](testing::TestParamInfo<UnrunRow> const& info) { return info.param.name; });
 
-/// The proof that a program which runs is seen: after the host's end, and not before, it is the one.
+/// The named program runs after the host's end, and not before. So the other tests would notice a program that runs.
 TEST_F(ArchiveOfPrograms, RunsTheNamedProgramOnceTheHostHasEnded)
 {
     Allow(YES);

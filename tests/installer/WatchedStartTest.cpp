@@ -23,7 +23,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-// From here on: the helper that starts the new version, and stands by it.
+// From here on: the helper that starts the new version and watches it.
 
 struct WatchRow
 {
@@ -108,7 +108,8 @@ TEST(WatchedStart, AnotherBundleSaysNothingOfTheInstalledOne)
     EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
 }
 
-/// The helper holds the report, and the output that the new version has let go of: that both end shows its own end.
+/// The helper holds the report open, and the output, which the new version has closed. When both are closed, the helper
+/// has ended.
 TEST(WatchedStart, WordLetsTheHelperGoWhileTheNewVersionRuns)
 {
     Workspace const fifos;
@@ -136,7 +137,7 @@ TEST(WatchedStart, WordLetsTheHelperGoWhileTheNewVersionRuns)
     EXPECT_EQ(scene.Place().Names(), ONLY_THE_APP);
 }
 
-/// From the swap on the session may end at every call: the new version is started all the same.
+/// From the swap on, the session may end at any call. The new version is started nevertheless.
 TEST(WatchedStart, SessionThatEndsBehindTheSwapKeepsNoNewVersionFromItsStart)
 {
     int const step = IsEveryPlaceWanted() ? 1 : 5;

@@ -31,7 +31,7 @@ void PrintTo(Row const& row, std::ostream* out)
     *out << row.name;
 }
 
-/// Two entries, the second of them changed.
+/// Two entries; the second one is changed.
 std::string Zip(void (*change)(ForgedEntry&), ZipOptions const& options = {})
 {
     std::vector<ForgedEntry> entries{{"A.app/x", 'f', "first"}, {"A.app/y", 'f', "second"}};
@@ -122,7 +122,7 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"Nothing", "", AMBIGUOUS}, Row{"Text", "this is no archive at all, only text", AMBIGUOUS}),
     [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
 
-/// An end record that tells of \a count entries, behind \a recordBytes of nothing.
+/// An end record that claims \a count entries, after \a recordBytes of zeros.
 std::string DirectoryOf(std::uint64_t count, std::size_t recordBytes)
 {
     std::string bytes(recordBytes, '\0');
@@ -142,7 +142,7 @@ TEST(ZipStructure, EntriesAreCappedBeforeThereIsMemoryForThem)
     constexpr std::size_t RECORD_BYTES = 46;
     std::size_t const limit = ArchiveLimits().maxEntries;
     EXPECT_EQ(Check(DirectoryOf(limit + 1, (limit + 1) * RECORD_BYTES)), UpdateFault::TooManyEntries);
-    EXPECT_EQ(Check(DirectoryOf(limit, limit * RECORD_BYTES)), UpdateFault::ContainerDamaged); // they are nothing
+    EXPECT_EQ(Check(DirectoryOf(limit, limit * RECORD_BYTES)), UpdateFault::ContainerDamaged); // they are zeros
     EXPECT_EQ(Check(DirectoryOf(UINT64_MAX, 100)), UpdateFault::ContainerDamaged);
     EXPECT_EQ(Check(DirectoryOf(UINT64_MAX / RECORD_BYTES, 100)), UpdateFault::ContainerDamaged);
 }

@@ -1,4 +1,5 @@
-// What a log handler gets, and what it may do meanwhile. The process has initialized glog, as a host that uses it does.
+// The records that a log handler gets, and what it may do during a call. The process has initialized glog, like a host
+// that uses glog.
 #include <Pelnar/LogHandler.h>
 
 #include <glog/logging.h>
@@ -169,12 +170,12 @@ TEST_F(LogHandlerTest, ThatIsReplacedWhileRecordsAreSentIsLeftByEveryThreadWhenT
                 --inside;
             });
         int const before = calls;
-        while (calls == before) // the writers log without end
+        while (calls == before) // the writers log all the time
         {
             std::this_thread::yield();
         }
         SetLogHandler({});
-        alive.reset(); // a handler that still ran would use memory that is gone
+        alive.reset(); // a running handler would use freed memory
     }
     isOver = true;
     for (std::thread& writer : writers)

@@ -1,7 +1,6 @@
-// LogHost.cpp: a host that checks once, against a feed that is not there, and writes what its log handler gets to
-// standard output. Its words say what else it does: "own-glog" initializes glog first, "handler" sets a handler,
-// "replaced" sets another one instead, "removed" takes it back, "refused-arguments" says what no program can be started
-// with.
+// LogHost.cpp: a host that makes one check of a missing feed and writes the records of its log handler to standard
+// output. Its arguments say what else it does: "own-glog" initializes glog first, "handler" sets a handler, "replaced"
+// replaces it, "removed" removes it, "refused-arguments" sets arguments with which no program can be started.
 
 #include "App/UpdateChecker/UpdateManager.h"
 #include "Foundation/IsolatedUserDefaults.h"

@@ -1,4 +1,4 @@
-// Where the records of a host's process go, and that nothing else is said on standard error.
+// The place of a host's log records. Nothing else appears on standard error.
 #include "tests/support/TestApplication.h"
 
 #include <gtest/gtest.h>
@@ -40,7 +40,7 @@ protected:
             EXPECT_FALSE(name.contains(QLatin1String(".log."))) << name.toStdString() << ": a log in a file";
         }
     }
-    /// The session's word of the check that failed, which no host can miss.
+    /// The session's record of the failed check. It must reach every host.
     static QString Failure() { return QStringLiteral("-[PelnarSparkleUpdaterDelegate updater:didAbortWithError:]: "); }
     static QString Warning() { return QStringLiteral("InitGoogleLogging"); }
 

@@ -1,5 +1,5 @@
-// MinimalHost.cpp: a host framework with the operations that the update checker asks for, and no other. Its versions
-// begin with a "v", which no other parser takes.
+// MinimalHost.cpp: a host framework with only the operations that the update checker calls. Its versions begin with a
+// "v", which no other parser accepts.
 #include "tests/minimal_host/MinimalHost.h"
 
 #include "HostFramework/AlertBox.h"

@@ -1,5 +1,4 @@
-// MinimalHost.h: what the test may ask of the minimal host framework beside the framework's own interface.
-// Thread: the Qt main thread.
+// MinimalHost.h: additional functions of the minimal host framework for the test. Thread: the Qt main thread.
 #pragma once
 
 #include "common/Export.h"
@@ -11,7 +10,7 @@
 namespace Pelnar::Testing
 {
 
-/// The texts that the framework's parser was asked for, in order.
+/// The texts given to the framework's parser, in order.
 PELNAR_EXPORT std::vector<QString>& AskedVersions();
 
 } // namespace Pelnar::Testing

@@ -1,5 +1,5 @@
-// A whole check, by the update checker's own objects and the engine, over a host framework that has nothing but the
-// operations that the update checker asks for.
+// A whole check with the update checker's own objects and the engine. The host framework has only the operations that
+// the update checker calls.
 #include "tests/minimal_host/MinimalHost.h"
 #include "App/UpdateChecker/IUpdateManagerObserver.h"
 #include "App/UpdateChecker/UpdateManager.h"
@@ -25,12 +25,12 @@ using namespace Pelnar::Testing;
 using Pelnar::URLKeys;
 using Pelnar::Core::Version;
 
-/// What a test does wherever the host is called.
+/// The test's action at each call of the host.
 std::function<void()> hostHook;
 
 void Reach()
 {
-    // A copy: what the hook does may end with its own removal.
+    // A copy: the hook may remove itself.
     std::function<void()> const hook = hostHook;
     if (hook)
     {
@@ -112,7 +112,7 @@ public:
 class MinimalHost : public ::testing::Test
 {
 protected:
-    /// Runs a silent check over a feed with these two versions, the first of which this system may not have.
+    /// Runs a silent check of a feed with these two versions. The first one needs a newer system than this one may be.
     void Check(std::string const& refused, std::string const& offered)
     {
         UpdateManager::Initializer initializer(&host);

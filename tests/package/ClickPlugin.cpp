@@ -1,6 +1,6 @@
-// ClickPlugin.cpp: plays the person in front of any Qt program: agrees to install an update that is ready. Qt loads it
-// where QT_QPA_GENERIC_PLUGINS names it, so that the program under test needs no code for its test.
-// Thread: the Qt main thread. Ownership: Qt owns what the plugin makes.
+// ClickPlugin.cpp: replaces the person in front of any Qt program: it agrees to install an update that is ready. Qt
+// loads it if QT_QPA_GENERIC_PLUGINS names it, so the program needs no code for the test. Thread: the Qt main thread.
+// Ownership: Qt owns the plugin's objects.
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -143,7 +143,7 @@ def test(work, build, compiler, make_system):
 
 
 def skip(reason):
-    # As GoogleTest writes it: scripts/skipped reads the reason.
+    # The format of GoogleTest: scripts/skipped reads the reason.
     print(f"{__file__}:0: Skipped\n{reason}")
     return STATUS_SKIPPED
 

@@ -17,7 +17,7 @@ import unittest
 
 HERE = pathlib.Path(__file__).resolve().parent
 PATIENCE = 120 # seconds
-# What the update checker asks of a framework. Everything else of the interfaces is inline.
+# The operations that the update checker calls in a framework. All others in the interfaces are inline.
 OPERATIONS = {
     "Pelnar::App::Application::staticMetaObject",
     "Pelnar::App::NagScreen::Manager::NagAvailable(QString const&, bool)",

@@ -25,7 +25,7 @@ int main(int argc, char** argv)
     FLAGS_logtostderr = true;
     google::InitGoogleLogging(argv[0]);
     QApplication const application(argc, argv);
-    // Nothing but the end of the input and the session manager ends this application.
+    // Only the end of the input or the session manager ends this application.
     QApplication::setQuitOnLastWindowClosed(false);
 
     DelegateScript script;

@@ -1,5 +1,5 @@
-// QuitTest.cpp: what becomes of an update that was prepared silently when its host application ends: a real host in a
-// real bundle, the real helper, and, for the end of the desktop's session, a display and a session manager.
+// QuitTest.cpp: a silently prepared update at the end of its host application. A real host in a real bundle, the real
+// helper and, for the end of the desktop session, a display and a session manager.
 #include "tests/engine/FeedText.h"
 #include "tests/installer/InstallerFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -23,7 +23,7 @@ constexpr int PATIENCE_MS = 60000;
 std::string const RESOURCES = std::string(APP) + "/Resources";
 constexpr char PREPARED[] = "is installed when the application ends";
 
-/// A process whose output is kept, and waited for while the event loop runs.
+/// A process whose output is recorded. The test waits for it in the event loop.
 class Program
 {
 public:
@@ -57,7 +57,7 @@ public:
         return WaitFor([this, what, times] { return m_output.count(what) + m_errors.count(what) >= times; },
                        PATIENCE_MS);
     }
-    /// What it has said so far.
+    /// Its output so far.
     QByteArray const& Output() const { return m_output; }
     QByteArray const& Errors() const { return m_errors; }
 
@@ -118,7 +118,7 @@ protected:
                      QStringList{m_server.Url().toString()} + arguments, variables);
     }
 
-    /// The helper goes on after its host. What it keeps of the old version goes at the start of a host.
+    /// The helper continues after its host. The next start of a host removes the old version's files.
     void ExpectBecomesTheNewVersion() const
     {
         std::vector<std::string> const whole{"Info-gnustep.plist", "data", "data-2.0"};
@@ -126,14 +126,14 @@ protected:
         EXPECT_EQ(m_place.StartedVersion(), "2.0");
     }
 
-    /// The update is gone, and nobody works on it any more.
+    /// The update is removed, and no process works on it any more.
     void ExpectStaysTheOldVersion() const
     {
         EXPECT_TRUE(WaitFor([this] { return IsAlone(); }, PATIENCE_MS));
         EXPECT_EQ(m_place.Names(RESOURCES), (std::vector<std::string>{"Info-gnustep.plist", "data", "data-1.0"}));
     }
 
-    /// A host that is killed may not come to remove what was prepared.
+    /// A killed host may not have removed the prepared files.
     void RecoverAsTheNextStartDoes() const
     {
         HelperOutcome const outcome = RunHelper("recover", Engine::EncodeUpdateJob(Engine::RecoverJob{APP, "1.0"}),
@@ -192,7 +192,7 @@ TEST_F(Quit, OfAHostThatIsKilledAfterAPersonsYesInstallsWhatWasPrepared)
     ExpectBecomesTheNewVersion();
 }
 
-/// The same on a display, in a session of a desktop.
+/// The same with a display, in a desktop session.
 class SessionEnd : public Quit
 {
 protected:

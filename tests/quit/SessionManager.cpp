@@ -33,7 +33,7 @@ void Tell(char const* what)
     std::fflush(stdout);
 }
 
-/// Deliberate: everybody. The socket is this user's and lives as long as a test.
+/// Deliberate: everybody. The socket belongs to this user and exists during one test.
 Bool Welcome(char*)
 {
     return True;
@@ -45,7 +45,7 @@ Status Register(SmsConn application, SmPointer, char* previousId)
     char* const id = SmsGenerateClientID(application);
     SmsRegisterClientReply(application, id);
     std::free(id);
-    // The protocol asks for it: a new application saves itself once.
+    // The protocol requires it: a new application saves itself once.
     SmsSaveYourself(application, SmSaveLocal, False, SmInteractStyleNone, False);
     return 1;
 }
@@ -201,7 +201,7 @@ bool Serve(std::vector<IceListenObj> const& listeners)
 int main()
 {
     _IceTransNoListen("tcp");
-    IceSetIOErrorHandler([](IceConn) {}); // the library's own would end this process
+    IceSetIOErrorHandler([](IceConn) {}); // the library's own handler would end this process
     IceAddConnectionWatch(&Watch, nullptr);
     char error[256] = {};
     int count = 0;
@@ -223,6 +223,6 @@ int main()
     while (Serve(all))
     {
     }
-    IceFreeListenObjs(count, listeners); // their sockets go from /tmp
+    IceFreeListenObjs(count, listeners); // removes their sockets from /tmp
     return EXIT_SUCCESS;
 }

@@ -16,7 +16,7 @@ import log_lines # noqa: E402
 
 SOURCE_ENDINGS = {".cpp", ".h", ".mm"}
 
-# What a folder may include from the project, besides itself. A longer path wins over a shorter one.
+# The folders of the project that a folder may include, besides itself. A longer path has priority over a shorter one.
 LAYERS = {
     "common": set(),
     "HostFramework": {"common"},
@@ -24,7 +24,7 @@ LAYERS = {
     "Foundation": set(),
     "Settings": {"Engine/core", "Foundation", "common"},
     "Engine/include": set(),
-    # The rooms of the engine's core: each knows those above it in this list that it names.
+    # The rooms of the engine's core: each may include the rooms before it in this list that its entry names.
     "Engine/core/base": set(),
     "Engine/core/faults": {"Engine/core/base"},
     "Engine/core/notes": {"Engine/core/base"},
@@ -90,20 +90,20 @@ LAYERS = {
         "common",
     },
 }
-# The record lent to the session and the box of both are the headers of its neighbour that the session may know.
+# The headers of neighbours that the session may include: the lent record, and the box that it shares with the back end.
 SESSION = "App/UpdateChecker/SparkleImpl/SparkleManager"
 LENT_RECORD = "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"
 SHARED_BOX = "App/UpdateChecker/SparkleImpl/UpdaterSparkle/RunningBox.h"
-# Of the front, the back end knows the interface that it implements.
+# The back end includes only the interface from the front.
 BACK_END = "App/UpdateChecker/SparkleImpl/UpdaterSparkle"
 BACK_END_INTERFACE = {
     "App/UpdateChecker/AbstractUpdaterImpl.h",
     "App/UpdateChecker/UpdateCheckResult.h",
 }
-# Of the engine's windows, the update checker has the translations, for what it says without the engine.
+# Of the engine's windows, the update checker uses only the translations, for messages without the engine.
 SESSION_LIBRARY = "App/UpdateChecker/SparkleImpl/SessionLibrary"
 TRANSLATIONS = "Engine/ui/Translations.h"
-# An error's header brings sentences along, and no parser.
+# The header of an error includes the sentences, but no parser.
 FAULTS = "Engine/core/faults/"
 BELOW_FAULTS = {"Engine/core/base/SafeText.h", "Engine/core/faults/Sentence.h"}
 FRAMEWORK_READERS = (SESSION, "Engine/")
@@ -153,7 +153,7 @@ def check_include(path, header, root):
 
 
 LINE_RULES = [
-    # name, paths it applies to, pattern, what to say
+    # name, paths it applies to, pattern, message
     (
         "catch-in-objective-c++",
         lambda p: p.endswith(".mm"),

@@ -1,4 +1,4 @@
-// The name that the ready-to-install dialog shows, in programs laid out as bundles: the bundle's own when it has one.
+// The name in the ready-to-install dialog, in programs laid out as bundles: the bundle's own name if it has one.
 
 #include "tests/session/SessionFixture.h"
 #include "tests/support/DialogDriver.h"
@@ -31,7 +31,7 @@ TEST_F(BundleName, RunningBundleIsRelaunchedByDefault)
     LendWithRemote(State::SILENT_INSTALLING);
     QString const path = Callbacks::PathToRelaunch();
     EXPECT_TRUE(path.endsWith(QStringLiteral(".app")));
-    // The executable stands in the bundle itself or, on macOS, in Contents/MacOS.
+    // The executable is in the bundle itself or, on macOS, in Contents/MacOS.
     QString const programs = QCoreApplication::applicationDirPath();
     EXPECT_TRUE(programs == path || programs == path + QStringLiteral("/Contents/MacOS")) << qPrintable(path);
 }

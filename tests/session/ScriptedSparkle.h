@@ -1,5 +1,5 @@
-// ScriptedSparkle.h: the update framework as tests script it: what it answers, what it was asked, and the callbacks
-// that it sends to its delegate. Plain C++ over Objective-C doubles of the framework's classes.
+// ScriptedSparkle.h: a scripted update framework: its answers, its recorded calls, and the callbacks to its delegate.
+// Plain C++ with Objective-C doubles of the framework's classes.
 // Thread: the Qt main thread. Ownership: all objects made here live as long as the process; one test is one process.
 #pragma once
 
@@ -20,7 +20,7 @@ namespace Pelnar::Testing
 /// Raises an NSException; a null \a reason is a nil one.
 [[noreturn]] void RaiseException(QString const& reason);
 
-/// What the shared updater answers and what it was asked.
+/// The shared updater's answers and recorded calls.
 struct UpdaterScript
 {
     /// The selectors received, in order, with a plain argument where there is one: "setFeedURL:",
@@ -41,7 +41,7 @@ struct UpdaterScript
 };
 UpdaterScript& Updater();
 
-/// What the framework's own comparator answers and what it was asked.
+/// The answers and recorded calls of the framework's own comparator.
 struct StandardComparatorScript
 {
     int answer = 0;
@@ -63,7 +63,7 @@ struct ItemProperties
     QString versionString;
     quint64 contentLength = 0;
     bool isDelta = false;
-    /// From the version that a delta starts from to the delta; none at all is a nil dictionary.
+    /// From the version that a delta starts from to the delta. Without a value, the dictionary is nil.
     std::vector<std::pair<QString, ScriptedItem>> deltas;
     /// Attributes: text becomes an NSString, a number an NSNumber. Empty is an empty dictionary.
     std::map<QString, QVariant> properties;
@@ -73,16 +73,17 @@ struct ItemProperties
     std::map<std::string, int> reads;
 };
 
-/// A reference to one item of a feed; copies name the same item.
+/// A reference to one item of a feed. Copies refer to the same item.
 class ScriptedItem
 {
 public:
     explicit ScriptedItem(ItemProperties properties = {});
     ItemProperties& Properties() const;
 
-    /// The references to the item: this one, and those of anyone else who keeps it.
+    /// The number of references to the item: this one, and all others.
     int References() const;
-    /// The framework drops its reference; nothing but References and IsGone may be asked then, unless others keep it.
+    /// The framework releases its reference. After that only References and IsGone may be called, unless others hold
+    /// one.
     void LetGo() const;
     bool IsGone() const;
 
@@ -95,10 +96,10 @@ private:
     Object* m_object;
 };
 
-/// The items of a loaded feed; nothing is a nil list.
+/// The items of a loaded feed; without a value, a nil list.
 using ScriptedAppcast = std::optional<std::vector<ScriptedItem>>;
 
-/// A real NSInvocation of an installing call whose two BOOL arguments stand at index 2 and 3.
+/// A real NSInvocation of an installing call with two BOOL arguments at index 2 and 3.
 class ScriptedInvocation
 {
 public:
@@ -110,7 +111,7 @@ public:
     void OnInvoke(std::function<void()> action) const;
 
     int References() const;
-    /// The framework drops its reference: only those who took one of their own may still call.
+    /// The framework releases its reference: after that only holders of their own reference may call.
     void LetGo() const;
 
     struct Object;
@@ -127,10 +128,10 @@ struct ScriptedError
     int code = 2001;
     QString localizedDescription;
 };
-/// The text that Foundation gives as the error's description.
+/// Foundation's text for the error's description.
 std::string DescriptionOf(ScriptedError const& error);
 
-/// The framework calling its delegate. REQUIRES: a delegate is set.
+/// The framework calls its delegate. REQUIRES: a delegate is set.
 struct Callbacks
 {
     static void DidFind(ScriptedItem const& item);
@@ -142,17 +143,17 @@ struct Callbacks
     static void DidCancelInstall(ScriptedItem const& item);
     static QString PathToRelaunch();
     static std::optional<ScriptedItem> BestValidUpdate(ScriptedAppcast const& appcast);
-    /// Through the comparator that the delegate hands out; null texts are nil.
+    /// Through the delegate's comparator; null texts are nil.
     static int CompareVersions(QString const& versionA, QString const& versionB);
 };
 
 // The process's own Foundation objects.
 QString MainBundlePath();
-/// Nothing when the key has no value.
+/// Empty if the key has no value.
 std::optional<QString> UserDefault(QString const& key);
 /// The value that another process would read: from the file, not from memory.
 std::optional<QString> StoredUserDefault(QString const& key);
-/// Whether Foundation keeps the user defaults of this process where nobody else's are.
+/// True if the user defaults of this process are in a place of their own.
 bool HasUserDefaultsOfItsOwn();
 
 } // namespace Pelnar::Testing

@@ -11,8 +11,8 @@ using Pelnar::Foundation::ToNSString;
 using Pelnar::Foundation::ToQString;
 using Pelnar::Foundation::ToUtf8;
 
-// The older Objective-C runtime lays fields out in the class's own declaration only, so the doubles' fields stand in
-// subclasses, which are what is made.
+// The older Objective-C runtime allows fields only in the class's own declaration. So the doubles have their fields in
+// subclasses, and the tests make objects of these.
 @interface ScriptedItemObject : SUAppcastItem
 {
   @public
@@ -60,7 +60,7 @@ struct ScriptedInvocation::Object
 namespace
 {
 
-/// Keeps what it is given as long as the process.
+/// Keeps its arguments as long as the process lives.
 template <class T> T* Keep(std::unique_ptr<T> object)
 {
     static auto* const kept = new std::vector<std::unique_ptr<T>>();

@@ -1,4 +1,4 @@
-// The framework's classes, each doing what the script says and keeping what it was asked.
+// The framework's classes. Each follows the script and records its calls.
 #include "Foundation/FoundationText.h"
 #include "tests/session/ScriptedSparkle.h"
 #include "tests/session/ScriptedSparkleObjects.h"

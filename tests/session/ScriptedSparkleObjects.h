@@ -1,4 +1,4 @@
-// ScriptedSparkleObjects.h: the Objective-C objects behind the scripted framework, for fixtures that call the session's
+// ScriptedSparkleObjects.h: the Objective-C objects of the scripted framework, for fixtures that call the session's
 // Objective-C++ members. Objective-C++ only.
 #pragma once
 
@@ -14,9 +14,9 @@ namespace Pelnar::Testing
 {
 
 SUAppcastItem* ObjectOf(ScriptedItem const& item);
-/// The item behind \a object; nothing for nil. REQUIRES: \a object came from a ScriptedItem.
+/// The item of \a object; null for nil. REQUIRES: \a object came from a ScriptedItem.
 std::optional<ScriptedItem> ItemOf(SUAppcastItem* object);
-/// What the getter of that name reads, after it was counted and its action was run.
+/// The value of the getter with that name, after it was counted and its action was run.
 ItemProperties& ReadProperties(SUAppcastItem* item, char const* getter);
 ScriptedAppcast const& ItemsOf(SUAppcast* appcast);
 /// Nil for a null text. Autoreleased.

@@ -17,7 +17,7 @@ struct SparkleUpdateContext;
 namespace Pelnar::Testing
 {
 
-/// The fields; writing them records nothing.
+/// The fields. Writing them logs nothing.
 struct SessionFields
 {
     std::shared_ptr<App::SparkleUpdateContext> context;

@@ -23,7 +23,7 @@ LogRecord const BAD_REMOTE =
 class SessionCommand : public SessionTest
 {
 protected:
-    /// Leftovers of an earlier update, which a new check clears.
+    /// Values of an earlier update, which a new check clears.
     void LeaveLeftovers()
     {
         SessionFields fields = GetFields();

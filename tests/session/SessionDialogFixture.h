@@ -1,4 +1,4 @@
-// SessionDialogFixture.h: the session's two dialogs, opened and dealt with.
+// SessionDialogFixture.h: opens the session's two dialogs and answers them.
 #pragma once
 
 #include "tests/session/SessionFixture.h"
@@ -21,7 +21,7 @@ inline QString const READY = QStringLiteral("SparkleUpdater_updateIsReadyToInsta
 inline QString const FAILED = QStringLiteral("SparkleUpdater_updateErrorDialog");
 inline QString const SKIPPED_KEY = QStringLiteral("SUSkippedVersion");
 
-/// Keeps a picture of \a box in the folder that PELNAR_PICTURES names, if any.
+/// Saves a picture of \a box in the folder that PELNAR_PICTURES names, if it is set.
 inline void Picture(QWidget* box, QString const& name)
 {
     QString const folder = qEnvironmentVariable("PELNAR_PICTURES");
@@ -34,7 +34,7 @@ inline void Picture(QWidget* box, QString const& name)
 class SessionDialog : public SessionTest
 {
 protected:
-    /// Offers version 6.1.2 and lets \a act deal with the dialog.
+    /// Offers version 6.1.2. \a act answers the dialog.
     void OfferAnd(std::function<void(QMessageBox*)> act)
     {
         LendWithRemote(State::SILENT_DOWNLOADING, Version(6, 1, 2));

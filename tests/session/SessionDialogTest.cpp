@@ -1,4 +1,4 @@
-// The session's two dialogs: what they show, what each way out of them does, and how they are closed from elsewhere.
+// The session's two dialogs: their content, the effect of each answer, and closing them from other code.
 
 #include "tests/session/SessionDialogFixture.h"
 #include "tests/session/SessionFixture.h"
@@ -46,7 +46,7 @@ TEST_F(SessionDialog, ReadyToInstallShowsItsTextsAndButtons)
             EXPECT_EQ(added, (QStringList{QStringLiteral("Install and Relaunch%1").arg(QMessageBox::AcceptRole),
                                           QStringLiteral("Remind Me Later%1").arg(QMessageBox::RejectRole),
                                           QStringLiteral("Skip This Version%1").arg(QMessageBox::DestructiveRole)}));
-            // The order in which they were added: the order of the children.
+            // In the order of the children.
             QStringList order;
             for (QPushButton* const button : box->findChildren<QPushButton*>())
             {

@@ -173,7 +173,7 @@ TEST_F(SessionDialog, ErrorThatCannotBeShownLocksNobodyOut)
 {
     LendIn(State::SILENT_INSTALLING);
     Session().UnlockUpdaterWhenPossible();
-    // What a host's own dialog may do when it is shown.
+    // The actions of a host's own dialog while it is shown.
     class Refusing : public QObject
     {
     public:

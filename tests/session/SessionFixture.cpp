@@ -86,7 +86,7 @@ SessionTest::SessionTest() : m_application(MakeApplication()), m_session(App::Sp
 
 SessionTest::~SessionTest()
 {
-    // The context outlives the test in the session; its callback would count into a fixture that is gone.
+    // The session keeps the context after the test. Its callback must not use the destroyed fixture.
     SetFields({});
 }
 

@@ -1,5 +1,5 @@
-// SessionFixture.h: a session over the scripted framework, a context to lend to it and an application object.
-// Plain C++. Thread: the Qt main thread. Every test starts with an idle, unlocked session without context.
+// SessionFixture.h: a session with the scripted framework, a context for it and an application object. Plain C++.
+// Thread: the Qt main thread. Every test starts with an idle, unlocked session without a context.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/SparkleManager/SparkleManager.h"
@@ -20,7 +20,7 @@ using App::Session::State;
 using App::Session::UpdateType;
 using Core::Version;
 
-/// The six states and one outside, with the names that records print.
+/// The six states and one invalid value, with their names in records.
 struct NamedState
 {
     State state;
@@ -36,9 +36,9 @@ constexpr std::array<NamedState, 7> ALL_STATES{{
     {static_cast<State>(17), "Unknown State"},
 }};
 std::string NameOf(State state);
-/// How test listings print a parameter.
+/// The form of a parameter in test listings.
 void PrintTo(NamedState const& named, std::ostream* out);
-/// The name as it may stand in a test's own name.
+/// The name, without characters that a test's name must not have.
 std::string TestNameOf(State state);
 
 // Records of the session's file.
@@ -46,7 +46,7 @@ LogRecord Progress(int line, std::string const& text);
 LogRecord Error(int line, std::string const& text);
 /// The record of a state switch.
 LogRecord Switch(State from, State to);
-/// The records of a deferred unlock that was asked for, in WAITING.
+/// The records of a deferred unlock in WAITING.
 std::vector<LogRecord> RequestedUnlock();
 
 class TestApplication : public App::Application
@@ -90,12 +90,12 @@ protected:
     LogCapture& Log() { return m_log; }
     TestApplication& Host() { return *m_application; }
 
-    /// Lends the context and puts the session into \a state; what was recorded until then is forgotten.
+    /// Lends the context and puts the session into \a state. Earlier records are forgotten.
     void LendIn(State state);
-    /// As LendIn, with a version that an installation can be offered for.
+    /// As LendIn, with a version for which an installation can be offered.
     void LendWithRemote(State state, Version const& remote = Version(6, 1));
 
-    /// A bundle that passes as an update to \a version.
+    /// A bundle that is accepted as an update to \a version.
     static ScriptedItem MakeItem(QString const& version);
 
 private:

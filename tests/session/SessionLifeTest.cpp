@@ -1,4 +1,4 @@
-// The session's beginning and its end at process exit, each in a process of its own.
+// The start of the session and its end at process exit. Each test has a process of its own.
 
 #include "tests/session/SessionFixture.h"
 
@@ -18,7 +18,7 @@ std::string const CREATE = "void Pelnar::App::SparkleManager::Impl::CreateUpdate
 LogCapture* exitLog = nullptr;
 std::weak_ptr<Pelnar::App::SparkleUpdateContext>* exitContext = nullptr;
 
-/// Runs after the session is gone: it was registered before the session was made.
+/// Runs after the session's end, because it was registered before the session was created.
 void ReportEnd()
 {
     for (LogRecord const& record : exitLog->Records())
@@ -35,7 +35,7 @@ void ReportEnd()
 
 [[noreturn]] void UseTheSessionAndExit(State state)
 {
-    // Deliberate: neither is freed, they are read after everything else is gone.
+    // Deliberate: neither is freed. They are read after all other objects are destroyed.
     exitLog = new LogCapture();
     exitContext = new std::weak_ptr<Pelnar::App::SparkleUpdateContext>();
     (void)Updater();

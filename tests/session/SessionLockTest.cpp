@@ -137,7 +137,7 @@ TEST_F(SessionLock, DeferredUnlockFreesTheSessionOfAHolderThatIsGone)
     ASSERT_TRUE(Session().LockUpdater(SharedContext()));
     Session().ShowUpdateDialog();
     Updater().updateInProgress = true;
-    // What an updater object does when it dies.
+    // As the destructor of an updater object does.
     Session().UnlockUpdaterWhenPossible();
     Context().checkFinishedCallback = nullptr;
 

@@ -1,4 +1,4 @@
-// Every record of the session's own work, word for word with severity, file and line, each provoked in its own test.
+// Every log record of the session: its text, severity, file and line. Each test causes one of them.
 
 #include "tests/session/SessionFixture.h"
 

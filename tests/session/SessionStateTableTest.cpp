@@ -1,4 +1,4 @@
-// Every callback and every command in every state, and in one outside: the state after, the records, the lock and the
+// Every callback and every command in every state and in an invalid one: the next state, the records, the lock and the
 // notifications.
 
 #include "tests/session/SessionFixture.h"
@@ -20,7 +20,7 @@ constexpr State OUTSIDE = static_cast<State>(17);
 
 enum class Ends
 {
-    Nothing,      // the request goes on, or nothing happens
+    Nothing,      // the request continues, or nothing happens
     Idle,         // WAITING, and the deferred unlock
     IdleNotified, // WAITING, the notification, and the deferred unlock
     Achtung,      // the error record only
@@ -164,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(AllStates, OutcomeTable, ::testing::ValuesIn(OUTCOME_RO
                          [](auto const& info)
                          { return std::string(info.param.callback) + "_" + TestNameOf(info.param.state); });
 
-// The callbacks and commands that leave the state alone or set it no matter what it was.
+// The callbacks and commands that keep the state, or set it independently of its old value.
 
 class InState : public SessionTest, public ::testing::WithParamInterface<NamedState>
 {

@@ -10,7 +10,7 @@ namespace Pelnar::App
 class SparkleManagerTestAccess
 {
 public:
-    /// The process's session; made, and GetInstance recorded, by the first call only.
+    /// The process's session. Only the first call creates it, and logs GetInstance.
     static SparkleManager::Impl& GetImpl()
     {
         static SparkleManager& session = SparkleManager::GetInstance();

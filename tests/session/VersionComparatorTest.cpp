@@ -25,7 +25,7 @@ protected:
         StandardComparator() = {};
         StandardComparator().answer = 1;
     }
-    /// The first is the diagnostic, whose wording is the diagnostic facility's own.
+    /// The first is the diagnostic; its text comes from the library.
     void ExpectTwoErrors(std::string const& diagnosticPart, std::string const& versions)
     {
         Records const errors = Log().Of(google::GLOG_ERROR);

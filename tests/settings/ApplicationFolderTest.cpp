@@ -27,7 +27,7 @@ protected:
         return OpenApplicationFolder(FolderOf(BaseFolder::Config, QStringLiteral("org.example.app")), missing);
     }
 
-    /// Why the folder at this path is refused once it has been spoiled.
+    /// The reason why the folder at this path is refused after it was damaged.
     std::string ReasonAfter(std::function<void(char const*)> const& spoil)
     {
         EXPECT_TRUE(Open(MissingFolder::Make).folder);

@@ -1,4 +1,4 @@
-// DefaultsTextTest.cpp: user defaults as text, and what their values mean.
+// DefaultsTextTest.cpp: user defaults as text, and the meaning of their values.
 #include "Settings/DefaultsText.h"
 
 #include <gtest/gtest.h>

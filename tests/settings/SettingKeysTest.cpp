@@ -1,4 +1,4 @@
-// SettingKeysTest.cpp: the table of all settings is whole, and the page about them is made from it.
+// SettingKeysTest.cpp: the table of all settings is complete, and their page is generated from it.
 #include "common/SettingKeys.h"
 #include "Settings/SettingsDocument.h"
 
@@ -18,11 +18,11 @@ namespace
 using namespace Pelnar;
 namespace fs = std::filesystem;
 
-/// Names in quotes that look like a setting's, and are something else.
+/// Names in quotes that look like the name of a setting.
 std::set<std::string> const OTHER_NAMES = {"SUSparkleErrorDomain",        "PelnarUpdateCheckErrorDomain",
                                            "PelnarHTTPStatusErrorDomain", "PelnarEnglishDescription",
                                            "PelnarUpdateEngine",          "PelnarDemoWindow",
-                                           "PelnarIsolationProbe",     "PelnarUpdateChecker"};
+                                           "PelnarIsolationProbe",        "PelnarUpdateChecker"};
 
 std::string TextOf(fs::path const& path)
 {

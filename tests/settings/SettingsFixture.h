@@ -1,5 +1,5 @@
-// SettingsFixture.h: a home of a test's own, with what stands in it.
-// Thread: main. Ownership: the folder goes with the fixture.
+// SettingsFixture.h: a home folder for a test, and the files in it.
+// Thread: main. Ownership: the folder is removed with the fixture.
 #pragma once
 
 #include "Settings/UpdateDefaults.h"
@@ -46,7 +46,7 @@ protected:
         return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
     }
 
-    /// The same with one blank for each run of blanks and line ends.
+    /// The same, with one blank for each run of blanks and line ends.
     static std::string ReadSimplified(QString const& path)
     {
         return QByteArray::fromStdString(Read(path)).simplified().toStdString();

@@ -1,4 +1,4 @@
-// UpdateDefaultsTest.cpp: user defaults on the disk: one file, many processes, other places before it.
+// UpdateDefaultsTest.cpp: user defaults on the disk: one file, many processes, the places of earlier versions.
 #include "Settings/DefaultsFile.h"
 #include "tests/settings/SettingsFixture.h"
 #include "tests/support/LogCapture.h"
@@ -124,7 +124,7 @@ TEST_F(UserDefaults, ManyProcessesLoseNothing)
     }
 }
 
-// --- what stood elsewhere before ---
+// --- the places of earlier versions ---
 
 class EarlierDefaults : public UserDefaults
 {
@@ -190,7 +190,7 @@ TEST_F(EarlierDefaults, BrokenOnesAreInTheLog)
                                     earlier[0].toStdString() + ": it is not a property list"));
 }
 
-// --- what is wrong with the place ---
+// --- a wrong object in the place ---
 
 TEST_F(UserDefaults, BrokenFileIsKeptAside)
 {

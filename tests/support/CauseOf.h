@@ -1,4 +1,4 @@
-// CauseOf.h: why a step of the host failed, for tests that compare it.
+// CauseOf.h: the cause of a failed step of the host, for comparisons in tests.
 #pragma once
 
 #include "Engine/core/faults/Result.h"

@@ -24,7 +24,7 @@ namespace
 
 constexpr int KINDS = CLONE_NEWPID | CLONE_NEWNS;
 constexpr int EXIT_NOT_PERMITTED = 77;
-constexpr int EXIT_UNUSABLE = 78; // not for the lack of a right
+constexpr int EXIT_UNUSABLE = 78; // not because of a missing permission
 
 [[nodiscard]] bool WriteOnce(char const* path, std::string const& text)
 {
@@ -46,7 +46,7 @@ constexpr int EXIT_UNUSABLE = 78; // not for the lack of a right
            WriteOnce("/proc/self/gid_map", group + ' ' + group + " 1");
 }
 
-/// What stands in the machine's root folder is in the new one at \a root.
+/// Puts each object of the machine's root folder into the new root folder at \a root.
 [[nodiscard]] bool MountTheMachine(std::string const& root)
 {
     for (auto const& entry : std::filesystem::directory_iterator("/"))
@@ -63,7 +63,7 @@ constexpr int EXIT_UNUSABLE = 78; // not for the lack of a right
             return false;
         }
     }
-    // Itself, in the folder for temporary files, is not wanted.
+    // The new root folder is in the folder for temporary files. It must not contain itself.
     return ::umount2((root + root).c_str(), MNT_DETACH) == 0;
 }
 
@@ -78,7 +78,7 @@ constexpr int EXIT_UNUSABLE = 78; // not for the lack of a right
     bool const isEntered = ::mount("none", root.c_str(), "tmpfs", 0, "mode=0755") == 0 && MountTheMachine(root) &&
                            ::mkdir(before.c_str(), 0755) == 0 &&
                            ::syscall(SYS_pivot_root, root.c_str(), before.c_str()) == 0 && ::chdir("/") == 0;
-    // The machine's own root folder is not needed any more, nor is the folder that the new one was mounted at.
+    // The machine's own root folder is no longer needed, nor is the mount point of the new one.
     return ::rmdir((isEntered ? "/before" + root : root).c_str()) == 0 && isEntered &&
            ::umount2("/before", MNT_DETACH) == 0 && ::rmdir("/before") == 0;
 }
@@ -114,7 +114,7 @@ bool RunInContainer(std::function<void()> const& piece)
             std::cerr << "no container can be made: " << std::strerror(errno) << '\n';
             ::_exit(EXIT_UNUSABLE);
         }
-        pid_t const first = ::fork(); // a namespace of processes begins with the next child
+        pid_t const first = ::fork(); // a process namespace begins with the next child
         if (first == 0)
         {
             RunFirstProcess(piece);

@@ -1,5 +1,5 @@
-// DialogDriver.h: acts on a dialog that runs a nested event loop, once it is shown, found by its object name.
-// Thread: the Qt main thread. Ownership: a scope object; what it was still waiting for when it dies is a test failure.
+// DialogDriver.h: waits for a dialog that runs a nested event loop, finds it by its object name, and acts on it.
+// Thread: the Qt main thread. Ownership: a scope object. If it still waits at its end, the test fails.
 #pragma once
 
 #include <QPointer>
@@ -15,8 +15,8 @@ namespace Pelnar::Testing
 class DialogDriver
 {
 public:
-    /// Calls \a act with the visible top-level widget named \a objectName from the first pass of the event loop that
-    /// finds it; fails the test and closes every top-level widget when none is found in time.
+    /// Calls \a act with the visible top-level widget named \a objectName, in the first pass of the event loop that
+    /// finds it. If none is found in time, the test fails and all top-level widgets are closed.
     DialogDriver(QString const& objectName, std::function<void(QWidget*)> act);
     ~DialogDriver();
 
@@ -32,10 +32,10 @@ private:
     bool m_acted = false;
 };
 
-/// Clicks the button of \a box whose text (without mnemonic mark) is \a text; a test failure when there is none.
+/// Clicks the button of \a box with the text \a text (without mnemonic mark). The test fails if there is none.
 void ClickButton(QWidget* box, QString const& text);
 
-/// Runs the event loop until \a condition holds or \a timeoutMs is over; true when it holds.
+/// Runs the event loop until \a condition is true or \a timeoutMs have passed. Returns the last value of \a condition.
 [[nodiscard]] bool WaitFor(std::function<bool()> const& condition, int timeoutMs = 10000);
 
 } // namespace Pelnar::Testing

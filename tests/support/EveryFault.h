@@ -1,4 +1,4 @@
-// EveryFault.h: every row of the tables of faults, for tests that hold for all of them.
+// EveryFault.h: every row of the tables of faults, for tests of all of them.
 #pragma once
 
 #include "Engine/core/faults/ErrorCause.h"

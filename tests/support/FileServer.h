@@ -1,5 +1,5 @@
-// FileServer.h: a server that behaves, with the files of a folder: a program, over http or https.
-// Thread: the test's; making one waits until it listens. Ownership: a scope object; the program ends with it.
+// FileServer.h: a correct server for the files of a folder, over http or https. It is a program.
+// Thread: the test's; the constructor waits until it listens. Ownership: a scope object; the program ends with it.
 #pragma once
 
 #include <QProcess>
@@ -20,21 +20,21 @@ public:
         QString keyFile;
     };
 
-    /// `pelnar-appcast serve`, which speaks HTTP/1.1: the folder, then its options.
+    /// `pelnar-appcast serve`, which speaks HTTP/1.1. The arguments: the folder, then options.
     explicit FileServer(QStringList const& arguments);
-    /// nghttpd, which speaks HTTP/2 and nothing else.
+    /// nghttpd, which speaks only HTTP/2.
     FileServer(QString const& folder, Identity const& identity);
     ~FileServer();
     FileServer(FileServer const&) = delete;
     FileServer& operator=(FileServer const&) = delete;
 
-    /// False where the program is missing or does not listen.
+    /// False if the program is missing or does not listen.
     [[nodiscard]] bool IsThere() const { return !m_address.isEmpty(); }
     QUrl const& Address() const { return m_address; }
     QUrl Url(QString const& path) const;
     /// Ends the server. Returns its exit status.
     int End();
-    /// Ends the server. Returns what it told of its answers.
+    /// Ends the server. Returns its report about its answers.
     QByteArray Log();
 
 private:

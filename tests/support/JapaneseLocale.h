@@ -1,5 +1,5 @@
 // JapaneseLocale.h: a locale in which file names are not UTF-8, made for this process.
-// Thread: one. Ownership: values only; the locale's files are gone with the process.
+// Thread: one. Ownership: the locale's files are removed at the end of the process.
 #pragma once
 
 #include <string>
@@ -8,7 +8,8 @@
 namespace Pelnar::Testing
 {
 
-/// Variables under which programs find the locale ja_JP.eucJP; nothing where the system has no sources of locales.
+/// The environment variables with which programs find the locale ja_JP.eucJP; empty if the system has no sources of
+/// locales.
 std::vector<std::string> JapaneseVariables();
 
 } // namespace Pelnar::Testing

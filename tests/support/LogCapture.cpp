@@ -9,7 +9,7 @@ namespace Pelnar::Testing
 namespace
 {
 
-/// Threads write records while a test waits for one. One for all: few captures live at a time.
+/// Threads write records while a test waits for one. All captures share one: few of them live at a time.
 std::mutex& Mutex()
 {
     static std::mutex mutex;
@@ -29,8 +29,7 @@ std::ostream& operator<<(std::ostream& out, LogRecord const& record)
                << record.text;
 }
 
-LogCapture::LogCapture(Verbosity verbosity)
-    : m_previousVerbosity(FLAGS_v)
+LogCapture::LogCapture(Verbosity verbosity) : m_previousVerbosity(FLAGS_v)
 {
     FLAGS_v = verbosity == Verbosity::Verbose ? 30 : 0;
     google::AddLogSink(this);

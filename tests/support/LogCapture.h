@@ -40,7 +40,7 @@ public:
     std::vector<std::string> Texts() const;
     /// The records of \a severity only, in order.
     std::vector<LogRecord> Of(google::LogSeverity severity) const;
-    /// True when a record with exactly this severity, file, line and text was written.
+    /// True if a record with exactly this severity, file, line and text was written.
     [[nodiscard]] bool Has(LogRecord const& record) const;
     void Clear() { m_records.clear(); }
 

@@ -86,8 +86,8 @@ LoopbackServer::Script AnsweringThenReset(QByteArray const& bytes)
         while (socket.bytesToWrite() > 0 && socket.waitForBytesWritten(1000))
         {
         }
-        // A close that does not linger at all sends a reset. What is still in the other side's buffer stays readable
-        // there on Linux only until the reset arrives, so a test does not rely on how much was seen.
+        // Closing without lingering sends a reset. On Linux the other side can read its buffer only until the reset
+        // arrives, so a test must not depend on how much was read.
         linger const none{1, 0};
         setsockopt(static_cast<int>(socket.socketDescriptor()), SOL_SOCKET, SO_LINGER, &none, sizeof none);
         socket.abort();

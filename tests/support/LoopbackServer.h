@@ -1,4 +1,4 @@
-// LoopbackServer.h: a server on this computer whose answers a test scripts byte by byte, over TCP or TLS.
+// LoopbackServer.h: a local server whose answers a test scripts byte by byte, over TCP or TLS.
 // Thread: the test's, in its event loop. Ownership: a scope object; it owns its connections.
 #pragma once
 
@@ -16,7 +16,7 @@
 namespace Pelnar::Testing
 {
 
-/// What a TLS server shows: its certificate, the authority's after it, and the key of the first.
+/// The identity of a TLS server: its certificate, the authority's, and the key of the first.
 struct ServerIdentity
 {
     QList<QSslCertificate> chain;
@@ -26,12 +26,12 @@ struct ServerIdentity
 class LoopbackServer : private QTcpServer
 {
 public:
-    /// Called when the head of a request is there. \a number counts requests from 0.
+    /// Called when the head of a request has arrived. \a number counts requests from 0.
     using Script = std::function<void(QSslSocket& socket, QByteArray const& request, int number)>;
 
     explicit LoopbackServer(Script script, std::optional<ServerIdentity> identity = std::nullopt);
 
-    /// http, or https with an identity, by the name "127.0.0.1" or \a host.
+    /// http, or https with an identity, with the host name "127.0.0.1" or \a host.
     QUrl Url(QString const& path = QStringLiteral("/feed.xml"),
              QString const& host = QStringLiteral("127.0.0.1")) const;
 
@@ -51,14 +51,14 @@ private:
 
 /// "HTTP/1.1 200 OK" with a length, closed after \a body.
 QByteArray OkAnswer(QByteArray const& body);
-/// An answer with \a status that leads to \a location.
+/// An answer with \a status that redirects to \a location.
 QByteArray RedirectAnswer(int status, QByteArray const& location);
 
 /// Sends \a bytes to every request and closes.
 LoopbackServer::Script Answering(QByteArray const& bytes);
 /// Sends \a bytes and resets the connection instead of closing it.
 LoopbackServer::Script AnsweringThenReset(QByteArray const& bytes);
-/// Sends \a head, then \a piece again and again for as long as the other side listens.
+/// Sends \a head, then \a piece repeatedly for as long as the other side reads.
 LoopbackServer::Script AnsweringWithoutEnd(QByteArray const& head, QByteArray const& piece);
 /// Sends \a head at once, then one byte of \a body every \a intervalMs.
 LoopbackServer::Script Dripping(QByteArray const& head, QByteArray const& body, int intervalMs);

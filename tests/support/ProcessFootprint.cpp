@@ -17,7 +17,7 @@ namespace Pelnar::Testing
 namespace
 {
 
-/// A pipe's or a socket's number is another every time.
+/// The number of a pipe or a socket is different each time.
 std::string KindOf(std::string const& target)
 {
     std::size_t const colon = target.find(":[");
@@ -41,7 +41,7 @@ ProcessFootprint MeasureFootprint()
     std::sort(footprint.descriptors.begin(), footprint.descriptors.end());
     footprint.threads = static_cast<int>(std::distance(std::filesystem::directory_iterator("/proc/self/task"), {}));
     ::malloc_trim(0);
-    // Counted page by page: the short way to ask is a rough one.
+    // Counted page by page, because the simple number is only approximate.
     std::ifstream pages("/proc/self/smaps_rollup");
     for (std::string word; pages >> word;)
     {
@@ -62,7 +62,7 @@ ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before)
         return after.threads <= before.threads && std::includes(before.descriptors.begin(), before.descriptors.end(),
                                                                 after.descriptors.begin(), after.descriptors.end());
     };
-    // A thread that has done its work is not gone yet.
+    // The kernel removes a thread some time after its end.
     EXPECT_TRUE(WaitFor(hasNoMore)) << after.threads << " threads instead of " << before.threads << ", descriptors "
                                     << testing::PrintToString(after.descriptors) << " instead of "
                                     << testing::PrintToString(before.descriptors);

@@ -1,4 +1,4 @@
-// ProcessFootprint.h: what this process holds of the system, for tests of what must not grow.
+// ProcessFootprint.h: the resources of this process, for tests that they do not grow.
 #pragma once
 
 #include <string>
@@ -9,15 +9,15 @@ namespace Pelnar::Testing
 
 struct ProcessFootprint
 {
-    std::vector<std::string> descriptors; ///< what the open ones stand for, sorted; without the one that looks
+    std::vector<std::string> descriptors; ///< the open files, sorted, without the one used for reading them
     int threads = 0;
     long residentKibibytes = 0; ///< after the allocator has given back what it can
 };
 
 ProcessFootprint MeasureFootprint();
 
-/// Fails unless this process soon holds no more than \a before, but for one hundredth of the memory. Sanitizers keep
-/// freed blocks: under them the memory does not count. Answers what it holds now.
+/// Fails unless this process soon holds no more than \a before, except for one hundredth of the memory. With sanitizers
+/// the memory does not count, because they keep freed blocks. Returns the resources then.
 ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before);
 
 } // namespace Pelnar::Testing

@@ -1,5 +1,5 @@
-// ProgramOutput.h: what a program of the tests prints when it runs, perhaps under a tracer.
-// Thread: main, with Qt's event loop, which goes on meanwhile: the test may be the program's server.
+// ProgramOutput.h: the output of a program that a test runs, possibly under a tracer.
+// Thread: main. Qt's event loop runs meanwhile, so the test may be the program's server.
 #pragma once
 
 #include <QString>
@@ -8,8 +8,8 @@
 namespace Pelnar::Testing
 {
 
-/// Runs \a words, the program first, to its end; its standard output, then its standard error. Leaks are not searched
-/// for, which does not work in a process that is traced.
+/// Runs \a words, the program first, to its end. Returns its standard output, then its standard error. The search for
+/// leaks is off, because it does not work in a traced process.
 QString OutputOf(QStringList words);
 
 } // namespace Pelnar::Testing

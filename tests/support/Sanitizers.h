@@ -1,4 +1,4 @@
-// Sanitizers.h: whether this build is watched by the address sanitizer, for tests whose work must then be less.
+// Sanitizers.h: says whether this build uses the address sanitizer, for tests that must do less work then.
 #pragma once
 
 namespace Pelnar::Testing

@@ -1,6 +1,6 @@
-// ServerThread.h: a LoopbackServer in a thread of its own, for tests that block while another process uses it.
-// Needs an application object.
-// Thread: the test's makes and destroys it; the script runs in the server's. Ownership: a scope object.
+// ServerThread.h: a LoopbackServer in its own thread, for tests that block while another process uses it. Needs an
+// application object.
+// Thread: the test's creates and destroys it; the script runs in the server's. Ownership: a scope object.
 #pragma once
 
 #include "tests/support/LoopbackServer.h"

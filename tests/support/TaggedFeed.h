@@ -1,4 +1,5 @@
-// TaggedFeed.h: what a server says that knows versions of its feed: the whole of another one, a few words of the same.
+// TaggedFeed.h: the answers of a server that knows versions of its feed: a new one is sent whole, for the same one the
+// server only says so.
 // Thread: the test's. Ownership: outlives its server.
 #pragma once
 
@@ -16,7 +17,7 @@ struct TaggedFeed
     int wholes = 0;       ///< answers with the feed
     int unchanged = 0;    ///< answers without it
 
-    /// Keeps the connection.
+    /// Keeps the connection open.
     LoopbackServer::Script Script()
     {
         return [this](QSslSocket& socket, QByteArray const& request, int) { Answer(socket, request); };

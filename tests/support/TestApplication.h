@@ -1,5 +1,5 @@
-// TestApplication.h: the application object that a test's event loop needs, with the command line that it keeps.
-// Thread: main. Ownership: a member of a fixture, before everything that needs an event loop.
+// TestApplication.h: the application object for a test's event loop, and its command line.
+// Thread: main. Ownership: a member of a fixture, before all members that need an event loop.
 #pragma once
 
 #include <QCoreApplication>

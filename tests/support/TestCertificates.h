@@ -1,5 +1,5 @@
-// TestCertificates.h: certificates of a throw-away authority, made by the openssl program when a test wants them.
-// Thread: main. Ownership: files live in a temporary folder as long as the object.
+// TestCertificates.h: certificates of a temporary authority, made with the openssl program.
+// Thread: main. Ownership: the object owns the files, which are in a temporary folder.
 #pragma once
 
 #include "tests/support/LoopbackServer.h"
@@ -14,10 +14,10 @@ namespace Pelnar::Testing
 class TestCertificates
 {
 public:
-    /// Makes an authority that nobody trusts until told so.
+    /// Makes an authority. Nobody trusts it yet.
     TestCertificates();
 
-    /// The authority's certificate, also as the file AuthorityFile().
+    /// The authority's certificate. AuthorityFile() is the same as a file.
     QSslCertificate Authority() const;
     QString AuthorityFile() const { return m_folder.filePath(QStringLiteral("authority.pem")); }
 
@@ -25,12 +25,12 @@ public:
     ServerIdentity Signed(QByteArray const& name, QDateTime const& from, QDateTime const& until);
     /// The same, valid since yesterday and for a year.
     ServerIdentity Signed(QByteArray const& name);
-    /// One whose subject is \a subject, while \a alternatives ("DNS:a,IP:1.2.3.4") is its list of names; without a
-    /// list where that is empty.
+    /// The same for the subject \a subject, with the list of names \a alternatives ("DNS:a,IP:1.2.3.4"). If it is
+    /// empty, there is no list.
     ServerIdentity SignedWithNames(QByteArray const& subject, QByteArray const& alternatives);
-    /// A certificate that only its own key signs.
+    /// A certificate that is signed by its own key.
     ServerIdentity SelfSigned(QByteArray const& name);
-    /// The files of the identity made last, for another program.
+    /// The files of the last identity, for another program.
     QString CertificateFile() const { return m_folder.filePath(QStringLiteral("server.pem")); }
     QString KeyFile() const { return m_folder.filePath(QStringLiteral("server.key")); }
 
@@ -44,7 +44,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Makes the process trust \a authority and nobody else while it lives.
+/// Makes the process trust only \a authority while it lives.
 class TrustedAuthority
 {
 public:

@@ -1,6 +1,6 @@
-// TestMain.cpp: the main function of every test program: no display, user defaults of its own, the log on standard
-// error. Tests make the application object that they need themselves. A run of no tests is a failed one, and one
-// of skipped tests alone says so by its status.
+// TestMain.cpp: the main function of every test program: no display, its own user defaults, the log on standard error.
+// A test that needs an application object makes it itself. A run without tests fails. A run with only skipped tests has
+// its own exit status.
 
 #include "Foundation/IsolatedUserDefaults.h"
 
@@ -14,12 +14,12 @@
 
 #include <sys/stat.h>
 
-constexpr int EXIT_SKIPPED = 77; // as tests/CMakeLists.txt has it
+constexpr int EXIT_SKIPPED = 77; // the number in tests/CMakeLists.txt
 
 int main(int argc, char** argv)
 {
-    ::umask(S_IWGRP | S_IWOTH);  // files that others may change are not trusted; tests of them make their own
-    qunsetenv("XDG_CACHE_HOME"); // of the person who runs the tests
+    ::umask(S_IWGRP | S_IWOTH);  // files that others may change are not trusted; tests of this create their own
+    qunsetenv("XDG_CACHE_HOME"); // not the one of the person who runs the tests
     Pelnar::Foundation::IsolatedUserDefaults const defaults;
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
     {

@@ -16,7 +16,7 @@ constexpr char METHOD_REFUSED = char(0xff);
 constexpr char REPLY_NOT_ALLOWED = 2;
 constexpr char NAME_AS_ADDRESS = 3;
 
-/// Where in the talk a client of SOCKS is.
+/// The state of the conversation with a SOCKS client.
 enum SocksStep
 {
     Greeting,

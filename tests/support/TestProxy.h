@@ -1,5 +1,5 @@
-// TestProxy.h: a proxy on this computer that speaks HTTP (tunnels and forwarding) or SOCKS 5, with or without a
-// password. For any name that it is asked for, it connects to one server of the test's.
+// TestProxy.h: a local proxy that speaks HTTP (tunnels and forwarding) or SOCKS 5, with or without a password. For
+// every name it connects to the same server of the test.
 // Thread: the test's, in its event loop. Ownership: a scope object; it owns its connections.
 #pragma once
 
@@ -22,13 +22,13 @@ public:
         Socks5,
     };
 
-    /// Connects to \a serverPort. With a user it asks for both of \a user and \a password.
+    /// Connects to \a serverPort. If \a user is set, it requires the user and the password.
     TestProxy(Kind kind, quint16 serverPort, QByteArray user = {}, QByteArray password = {});
 
     quint16 Port() const { return serverPort(); }
-    /// What it was asked for, in order: "CONNECT name:port", "GET http://name:port/…", "name:port".
+    /// The requests, in order: "CONNECT name:port", "GET http://name:port/…", "name:port".
     std::vector<QByteArray> const& Asked() const { return m_asked; }
-    /// Answers everything from now on with \a status (HTTP) or a reply that means "not allowed" (SOCKS).
+    /// From now on it answers with \a status (HTTP) or a reply that means "not allowed" (SOCKS).
     void RefuseWith(QByteArray const& status) { m_refusal = status; }
 
 private:

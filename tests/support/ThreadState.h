@@ -1,5 +1,5 @@
-// ThreadState.h: whether a thread of this process sleeps in the kernel, for tests of what waits.
-// Ownership: values; a number is good as long as its thread runs.
+// ThreadState.h: says whether a thread of this process sleeps in the kernel, for tests of waiting.
+// A number is valid as long as its thread runs.
 #pragma once
 
 #include <cstdint>

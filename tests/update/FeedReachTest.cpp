@@ -1,4 +1,4 @@
-// FeedReachTest.cpp: what a feed may name depends on where the feed itself came from.
+// FeedReachTest.cpp: the addresses that a feed may name depend on the address of the feed.
 #include "Engine/core/update/UpdateFlow.h"
 #include "Engine/core/update/UpdateRules.h"
 #include "tests/engine/FeedText.h"
@@ -30,7 +30,7 @@ protected:
     }
     ~FeedReach() override { QNetworkProxy::setApplicationProxy(QNetworkProxy(QNetworkProxy::NoProxy)); }
 
-    /// A person checks, and installs what is offered.
+    /// A person starts a check and installs the offered version.
     DownloadRequest DownloadAfter(QUrl const& feed)
     {
         settings.check.feedUrl = feed;

@@ -1,4 +1,4 @@
-// FeedTrustFlowTest.cpp: what becomes of feeds, signed and not, as the clock goes on and as others are played back.
+// FeedTrustFlowTest.cpp: signed and unsigned feeds as time passes, and when old feeds are sent again.
 #include "Engine/core/update/UpdateFlow.h"
 #include "tests/engine/KeyStatementText.h"
 #include "tests/support/DialogDriver.h"
@@ -18,7 +18,7 @@ class FeedTrustFlow : public UpdateFixture
 protected:
     FeedTrustFlow() { settings.check.publicKeys = {MakeKeyPair(7).publicKey}; }
 
-    /// A probe of \a feed, with what the last one stored.
+    /// A probe of \a feed with the stored state of the last probe.
     Notes Check(QByteArray const& feed, QString const& fileName = QStringLiteral("feed.xml"),
                 QString const& fragment = {})
     {
@@ -172,7 +172,7 @@ TEST_F(FeedTrustFlow, WhatCannotBeRememberedKeepsNoUpdateAway)
     EXPECT_EQ(Check(FeedWith(ItemOf("5.1"))), found);
 }
 
-/// What each known attack on an update system meets here. The attacks on a download stand beside its own tests.
+/// The result of each known attack on an update system. The attacks on a download are in its own tests.
 TEST_F(FeedTrustFlow, KnownAttacksOnAFeed)
 {
     settings.check.feedSigning = FeedSigning::Required;
@@ -184,15 +184,15 @@ TEST_F(FeedTrustFlow, KnownAttacksOnAFeed)
         EXPECT_EQ(Check(feed).front().substr(0, 7), "aborted") << cause;
         ExpectRefused(cause);
     };
-    // Arbitrary software: a feed of the attacker's own.
+    // Arbitrary software: a feed made by the attacker.
     expect(Signed(FeedWith(TermsOf("8", FAR_AHEAD) + ItemOf("9.9")), 99), 757);
     // Rollback: an older feed of the publisher's.
     expect(SignedFeedOf("5.0", "6", "2030-01-01T00:00:00Z"), 762);
-    // Malicious mirror: one byte of the feed is another one.
+    // Malicious mirror: one byte of the feed is changed.
     QByteArray changed = good;
     changed.replace("5.1", "5.2");
     expect(changed, 757);
-    // Mix and match: an item of one feed beside the terms of another.
+    // Mix and match: an item of one feed with the validity of another.
     QByteArray mixed = SignedFeedOf("5.1", "8", "2030-01-01T00:00:00Z");
     mixed.replace(mixed.indexOf("<item>"), 0, ItemOf("5.3"));
     expect(mixed, 757);
@@ -200,9 +200,9 @@ TEST_F(FeedTrustFlow, KnownAttacksOnAFeed)
     settings.check.fetchLimits.maxBodyBytes = 1000;
     expect(good + QByteArray(1000, ' '), 602);
     settings.check.fetchLimits.maxBodyBytes = 1 << 20;
-    // Rollback in a feed that is believed: an older version is no update.
+    // Rollback in an accepted feed: an older version is not an update.
     EXPECT_EQ(Check(SignedFeedOf("4.0", "8", "2030-01-01T00:00:00Z")).front(), "not found");
-    // Indefinite freeze: the same feed for ever.
+    // Indefinite freeze: always the same feed.
     parts.now = QDateTime::fromString(QStringLiteral("2030-01-01T00:00:00Z"), Qt::ISODate);
     expect(SignedFeedOf("5.1", "9", "2030-01-01T00:00:00Z"), 763);
 }

@@ -1,4 +1,4 @@
-// InstallMemoryTest.cpp: what one start of an application leaves of an installation for the next.
+// InstallMemoryTest.cpp: the record of an installation from one start of an application to the next.
 #include "Engine/core/update/InstallMemory.h"
 
 #include "Engine/core/helper/NoteFile.h"
@@ -39,7 +39,7 @@ protected:
         return UniqueFd(::open(QFile::encodeName(m_records).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     }
 
-    /// As the helper does it, at the end of an attempt to install 2.0 over 1.0.
+    /// What the helper does at the end of an attempt to install 2.0 over 1.0.
     InstallRecord Attempt(InstallWish wish, InstallState state)
     {
         InstallAttempt const attempt(m_records, m_bundle);
@@ -58,7 +58,7 @@ protected:
         return *job.record;
     }
 
-    /// What the start of that version finds, and leaves on the disk.
+    /// The record that the start of that version finds, and the one that it leaves on the disk.
     std::optional<InstallRecord> Start(char const* version)
     {
         InstallMemory const memory(m_records, m_downloads, m_bundle, QString::fromLatin1(version));
@@ -127,7 +127,7 @@ TEST_F(InstallMemoryTest, AttemptThatIsTakenBackLeavesWhatWasThere)
 TEST_F(InstallMemoryTest, FailureIsToldOnceToAPersonWhoAsked)
 {
     Attempt(InstallWish::Person, InstallState::Failed);
-    for (int start = 0; start < 2; ++start) // nobody has heard of it
+    for (int start = 0; start < 2; ++start) // nobody has heard of it yet
     {
         auto const failure = Start("1.0");
         ASSERT_TRUE(failure);

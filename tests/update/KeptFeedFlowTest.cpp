@@ -1,5 +1,5 @@
-// KeptFeedFlowTest.cpp: checks of one feed after another over a server that knows versions: what they cost, and that a
-// feed which is not sent again is judged as if it were.
+// KeptFeedFlowTest.cpp: repeated checks of one feed on a server that knows versions: their cost. A feed that is not
+// sent again is judged as if it had been.
 #include "Engine/core/update/FeedStore.h"
 #include "Engine/core/update/UpdateFlow.h"
 #include "tests/engine/SignedFeedText.h"
@@ -28,7 +28,7 @@ protected:
         NewProcess();
     }
 
-    /// As the next process of the application begins: what is remembered comes from the disk.
+    /// Like the next process of the application: the state comes from the disk.
     void NewProcess()
     {
         store.reset();
@@ -160,7 +160,7 @@ TEST_F(KeptFeedFlow, SignedFeedExpiresHoweverOftenItIsCalledUnchanged)
     EXPECT_EQ(Check(), (Notes{"aborted 3002", "check ended", "ended"}));
     EXPECT_EQ(CauseOfEnd(), 763);
     EXPECT_EQ(feed.wholes, 2) << "the server may have had another one, and was asked";
-    // Signed again, by a server that names versions badly.
+    // Signed again, on a server that gives new content an old version.
     feed.body = SignedFeedOf("5.1", "8", "2027-01-20T08:00:00Z");
     EXPECT_EQ(Check(), found);
 }
@@ -297,7 +297,7 @@ TEST_F(KeptFeedFlow, SmallerLimitThanTheKeptFeedHoldsAtOnce)
     EXPECT_EQ(feed.unchanged, 0);
 }
 
-/// A disk that hangs: it answers when the test says so, if it does.
+/// A slow disk: it answers when the test says so, or never.
 class HangingStore : public IFeedStore
 {
 public:
@@ -329,7 +329,7 @@ TEST_F(KeptFeedFlow, DiskThatHangsHoldsTheCheckUpForAMomentOnly)
     EXPECT_EQ(Check(), found);
     ASSERT_TRUE(hanging.kept);
     EXPECT_EQ(feed.wholes, 1);
-    // Its answer comes while the feed does.
+    // Its answer arrives while the feed is being fetched.
     KeptFeed const kept = *hanging.kept;
     LoopbackServer late(
         [&](QSslSocket& socket, QByteArray const& request, int)

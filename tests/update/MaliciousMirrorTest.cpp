@@ -1,5 +1,4 @@
-// MaliciousMirrorTest.cpp: an application that checks every hour, for ten days, against a server that never gives it
-// anything of use.
+// MaliciousMirrorTest.cpp: an application checks every hour for ten days. The server never gives it a usable update.
 #include "Engine/core/update/UpdateFlow.h"
 #include "tests/engine/FeedText.h"
 #include "tests/support/DialogDriver.h"
@@ -28,7 +27,7 @@ protected:
         settings.check.feedUrl = server.Url();
     }
 
-    /// A check in the background at each hour; the hours at which the server was asked for the feed.
+    /// A background check every hour. Returns the hours at which the server was asked for the feed.
     std::vector<int> CheckEveryHour()
     {
         std::vector<int> hours;
@@ -87,11 +86,11 @@ protected:
                               beforeAnswer();
                               Answering(answer)(socket, request, number);
                           }};
-    std::vector<int> causes; ///< of the failures that were told, without those of checks that were held back
+    std::vector<int> causes; ///< of the reported failures, without checks that were held back
     std::ptrdiff_t aborts = 0;
 };
 
-/// How often the log spoke of more than bad luck.
+/// The number of log records about repeated failures.
 std::ptrdiff_t Warnings(LogCapture const& log)
 {
     std::vector<LogRecord> const records = log.Of(google::GLOG_WARNING);

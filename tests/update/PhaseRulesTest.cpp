@@ -1,4 +1,4 @@
-// PhaseRulesTest.cpp: each event in each phase of an update: by the table, and by a whole update for those events that
+// PhaseRulesTest.cpp: each event in each phase of an update: in the table, and in a whole update for the events that
 // can come at any time.
 #include "Engine/core/update/PhaseRules.h"
 #include "tests/update/UpdateRunFixture.h"
@@ -28,7 +28,7 @@ std::string NameOf(RunPhase phase)
     return PHASES[static_cast<int>(phase)];
 }
 
-/// Says which step was called.
+/// Records the name of the called step.
 struct StepName final : IUpdateSteps
 {
 #define PELNAR_STEP(step)                                                                                              \
@@ -41,7 +41,7 @@ struct StepName final : IUpdateSteps
     std::string name;
 };
 
-/// A line for each pair of phase and event with a row: with windows and silently.
+/// One line for each pair of phase and event that has a step.
 std::string Table(UpdateMode mode)
 {
     std::ostringstream text;
@@ -61,7 +61,7 @@ std::string Table(UpdateMode mode)
     return text.str();
 }
 
-/// What follows in each phase. A pair that is missing here does nothing.
+/// The expected table. A pair that is missing here does nothing.
 std::string Expected(char const* targetOpened, char const* prepared)
 {
     return std::string("Starting Started: OpenTarget, Starting\n"
@@ -119,8 +119,8 @@ TEST(PhaseRules, SayWhatEachEventDoesInEachPhaseOfASilentUpdate)
     EXPECT_EQ(Table(UpdateMode::Silent), Expected("Download, Downloading", "OfferOnQuit"));
 }
 
-/// How a silent update comes to a phase, and what it does there when an event comes that no phase excludes. In the
-/// phases in which the application is being asked, the event comes from within its answer.
+/// A phase of a silent update, and the notes that follow if an event comes there. These events can come in any phase.
+/// While the application is being asked, the event comes from within its answer.
 struct AnyTime
 {
     RunPhase phase;
@@ -142,7 +142,7 @@ class InPhase : public UpdateRunTest, public ::testing::WithParamInterface<AnyTi
 protected:
     void SetUp() override { parts.isTargetHeld = true; }
 
-    /// Runs a whole silent update and sends \a event in the phase of the row. Returns the notes from there on.
+    /// Runs a whole silent update and sends \a event in the phase of the row. Returns the notes after that.
     Notes Send(std::function<void()> const& event)
     {
         RunPhase const phase = GetParam().phase;

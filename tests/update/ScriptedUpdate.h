@@ -1,5 +1,5 @@
-// ScriptedUpdate.h: an update whose delegate, windows, server and helper are played by the test. Only the folders are
-// real. Everything that is done, asked or told is noted in one list, in order.
+// ScriptedUpdate.h: an update whose delegate, windows, server and helper the test plays. Only the folders are real. All
+// actions, questions and notifications are noted in one list, in order.
 // Thread: main. Ownership: scope objects of the fixture.
 #pragma once
 
@@ -24,7 +24,7 @@ namespace Pelnar::Testing
 
 using Notes = std::vector<std::string>;
 
-/// A usable key and a signature of the right form; what they mean is the helper's affair.
+/// A valid key, and a signature of the right form. Only the helper verifies it.
 extern char const* const GOOD_KEY;
 extern char const* const GOOD_SIGNATURE;
 
@@ -47,7 +47,7 @@ public:
     QString PathToRelaunch() override;
     void TellWillRelaunch() override { Note("will relaunch"); }
     void SkipVersion(QString const& version) override { Note("skip " + version.toStdString()); }
-    /// Deliberate: not noted; every feed that can be read is remembered.
+    /// Deliberate: not noted, because every readable feed is stored.
     void StoreFeedRecord(Engine::FeedRecord const& record) override;
     void StoreBackOff(Engine::BackOffState const& state) override;
     void UpdateEnded() override;
@@ -70,7 +70,7 @@ public:
     std::function<void()> onEnded;
     std::size_t itemCount = 0;
     std::optional<Engine::FeedRecord> feedRecord;
-    std::optional<Engine::BackOffState> backOff; ///< as it was stored last
+    std::optional<Engine::BackOffState> backOff; ///< the stored value
 
 private:
     void Note(std::string const& note);
@@ -98,12 +98,12 @@ public:
     void BringToFront() override { m_notes.push_back("bring to front"); }
     void Close() override;
 
-    /// The person's answers; a failure of the test when no such window is open.
+    /// The person's answers. The test fails if no such window is open.
     void Choose(Engine::UpdateChoice choice);
     void Choose(Engine::ReadyChoice choice);
     void Cancel();
 
-    std::string open; ///< the name of the window that is open
+    std::string open; ///< the name of the open window
     std::optional<Engine::UpdateOffer> offer;
     std::vector<Engine::UpdateProgress> progresses;
 
@@ -121,7 +121,7 @@ class ScriptedHelper;
 class ScriptedParts final : public Engine::IUpdateEnvironment
 {
 public:
-    /// Installed bundles are folders of \a applications.
+    /// Installed bundles are in the folder \a applications.
     ScriptedParts(Notes& notes, QString applications) : m_notes(notes), m_applications(std::move(applications)) {}
 
     void OpenTarget(QString const& bundlePath, quint64 bytes,
@@ -138,10 +138,10 @@ public:
     /// The archive has arrived.
     void FinishDownload();
     void FailDownload(Engine::ErrorCause cause);
-    /// The helper that was started last says \a report, or ends.
+    /// The last started helper sends \a report, or ends.
     void Report(Engine::HelperReport const& report);
     void EndHelper(Engine::HelperEnd end);
-    /// It has put a bundle into the staging folder, says so and ends.
+    /// It has put a bundle into the staging folder, reports this and ends.
     void FinishPreparation();
     void RefusePreparation(Engine::UpdateFault fault);
 
@@ -152,7 +152,7 @@ public:
     std::vector<Engine::DownloadRequest> requests;
     QStringList cleared; ///< folders
     std::vector<Engine::UpdateJob> jobs;
-    Engine::UniqueFd arguments; ///< the file of the new version's, which the helper that was started last has inherited
+    Engine::UniqueFd arguments; ///< the file with the new version's arguments, inherited by the last started helper
     QDateTime now = QDateTime::fromSecsSinceEpoch(1000000, Qt::UTC);
 
 private:
@@ -167,7 +167,7 @@ private:
     ScriptedHelper* m_helper = nullptr;
 };
 
-/// "App.app" of version 5.0 is installed in a folder of its own.
+/// "App.app" of version 5.0 is installed in its own folder.
 class UpdateFixture : public ::testing::Test
 {
 protected:
@@ -175,7 +175,7 @@ protected:
 
     Engine::FeedItem Item(char const* version) const;
     Engine::FeedItem Delta(char const* version) const;
-    /// The names of what stands in the folder of the bundle.
+    /// The names in the folder of the bundle.
     std::vector<std::string> Installed() const;
 
     TestApplication<> application;

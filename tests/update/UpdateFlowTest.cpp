@@ -1,4 +1,4 @@
-// UpdateFlowTest.cpp: a check with its windows, from the feed to the update that it leads to or the word that ends it.
+// UpdateFlowTest.cpp: a check with its windows, from the feed to the update or to the final message.
 #include "Engine/core/update/UpdateFlow.h"
 #include "tests/engine/FeedText.h"
 #include "tests/support/DialogDriver.h"

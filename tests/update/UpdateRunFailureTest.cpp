@@ -1,5 +1,4 @@
-// UpdateRunFailureTest.cpp: what an update does about everything that can go wrong on its way, and about being
-// destroyed.
+// UpdateRunFailureTest.cpp: an update with every failure on its way, and its destruction.
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/faults/EngineError.h"
 #include "tests/update/UpdateRunFixture.h"
@@ -115,7 +114,7 @@ struct Verdict
     bool isDiscarded;
 };
 
-// What is fetched again next time, and what is not.
+// The downloads that are repeated the next time, and those that are not.
 TEST_F(UpdateRunTest, ArchiveIsDiscardedWhenItIsToBlame)
 {
     for (Verdict const& row : {Verdict{UpdateFault::SignatureMismatch, true},
@@ -134,7 +133,7 @@ TEST_F(UpdateRunTest, ArchiveIsDiscardedWhenItIsToBlame)
     }
 }
 
-/// The room was there before the download, and is not any more.
+/// The space was there before the download, but no longer.
 TEST_F(UpdateRunTest, LackOfRoomWhileItIsUnpackedIsToldInNumbers)
 {
     FeedItem item = Item("5.1");
@@ -157,7 +156,7 @@ TEST_F(UpdateRunTest, CrashedHelperIsAnErrorOfItsOwn)
         StartInteractive();
         Agree();
         parts.FinishDownload();
-        parts.EndHelper(how); // without a word of what it did
+        parts.EndHelper(how); // without a report about its work
         EXPECT_EQ(end->error->cause, ErrorCause::HelperFailed);
         EXPECT_EQ(Installed(), Notes{"App.app"});
     }

@@ -39,7 +39,7 @@ protected:
         Start(kind, {{Delta("5.1"), {0, 0}}, {Item("5.1"), {0, std::nullopt}}});
     }
 
-    /// To the question whether it should be installed, or to the helper that waits for the application's end.
+    /// Until the question whether it should be installed, or until the helper waits for the application's end.
     void PrepareUpdate()
     {
         parts.FinishDownload();
@@ -48,7 +48,7 @@ protected:
 
     void Agree() { windows.Choose(Engine::UpdateChoice::InstallUpdate); }
 
-    /// What was noted since the last call.
+    /// The notes since the last call.
     Notes Since()
     {
         Notes const since(notes.begin() + static_cast<std::ptrdiff_t>(seen), notes.end());

@@ -1,4 +1,4 @@
-// UpdateRunTest.cpp: the course of an update that goes well, or that somebody decides against.
+// UpdateRunTest.cpp: an update that succeeds, or that a person or the application declines.
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/update/KeptArguments.h"
@@ -299,7 +299,7 @@ TEST_F(UpdateRunTest, InstallationAtOnceHappensOnce)
         host.installNow(RelaunchWish::Relaunch);
         host.installNow(RelaunchWish::Relaunch);
     };
-    // From within the application's own answer, too.
+    // Also from within the application's own answer.
     host.onNote = [this](std::string const& note)
     {
         if (note == "should relaunch?")
@@ -324,7 +324,7 @@ TEST_F(UpdateRunTest, ArgumentsOfTheNextStartAreThoseThatWereSaidLast)
     windows.Choose(ReadyChoice::InstallAndRelaunch);
     EXPECT_EQ(ReadRelaunchArguments(parts.arguments.Get()), Arguments{"early"});
     ASSERT_TRUE(KeptArguments::OfProcess().Keep({"late"}));
-    run.reset(); // as at the end of the process
+    run.reset(); // like at the end of the process
     EXPECT_EQ(ReadRelaunchArguments(parts.arguments.Get()), Arguments{"late"});
 }
 

@@ -1,4 +1,4 @@
-// ArchiveDownloadFixture.h: downloads of one archive from a server that does what a script says.
+// ArchiveDownloadFixture.h: downloads of one archive from a scripted server.
 #pragma once
 
 #include "tests/engine_core/download/ArchiveServer.h"
@@ -13,7 +13,7 @@ inline QByteArray const ARCHIVE = MakeArchive(SIZE);
 class ArchiveDownloadTest : public DownloadTest
 {
 protected:
-    /// A request that does not go on by itself.
+    /// A request that does not resume by itself.
     Engine::DownloadRequest OnceOnly(QUrl const& url, int declaredBytes = SIZE)
     {
         Engine::DownloadRequest request = RequestFor(url, declaredBytes);
@@ -21,7 +21,7 @@ protected:
         return request;
     }
 
-    /// Serves what \a script says at an address that stays the same for the whole test.
+    /// Serves the answers of \a script at an address that stays the same for the whole test.
     LoopbackServer::Script Scripted()
     {
         return [this](QSslSocket& socket, QByteArray const& request, int number) { script(socket, request, number); };

@@ -44,7 +44,7 @@ TEST_F(ArchiveDownloadTest, BringsItOverHttp2)
     TestCertificates certificates;
     TrustedAuthority const trusted(certificates.Authority());
     (void)certificates.Signed("127.0.0.1");
-    // More than all buffers hold, so that the transfer has to wait for the disk now and then.
+    // More than all buffers hold. So the transfer sometimes has to wait for the disk.
     QByteArray const large = MakeArchive(48 * 1024 * 1024);
     QTemporaryDir served;
     QFile file(served.filePath(QStringLiteral("file")));

@@ -11,7 +11,7 @@
 namespace Pelnar::Testing
 {
 
-/// \a size bytes in which every place differs from its neighbours' places.
+/// \a size bytes; each is different from its neighbours.
 QByteArray MakeArchive(int size);
 
 struct ServedArchive
@@ -19,15 +19,15 @@ struct ServedArchive
     QByteArray bytes;
     QByteArray entityTag = "\"one\""; ///< with its quotes; empty for none
     QByteArray lastModified = {};     ///< empty for none
-    int cutAfter = -1;                ///< bytes of a body after which the connection is closed; none when negative
+    int cutAfter = -1;                ///< bytes of a body after which the connection is closed; negative: no limit
 };
 
-/// What \a request asks to begin at; nothing when it asks for the whole.
+/// The start of the range in \a request; empty if it asks for the whole archive.
 std::optional<int> RangeStart(QByteArray const& request);
-/// The value of a request's field; empty when it is not there.
+/// The value of a request's field; empty without the field.
 QByteArray FieldOf(QByteArray const& request, QByteArray const& name);
 
-/// The answer of a server that knows ranges and conditions on them.
+/// The answer of a server that supports ranges and conditional ranges.
 QByteArray AnswerFor(ServedArchive const& archive, QByteArray const& request);
 
 /// Serves \a archive; closes after each answer.

@@ -1,4 +1,4 @@
-// DownloadBudgetFixture.h: what downloads left in the folder, and their records.
+// DownloadBudgetFixture.h: the files and the records that downloads leave in the folder.
 #pragma once
 
 #include "Engine/core/download/PartialFile.h"
@@ -39,10 +39,11 @@ protected:
     std::optional<Engine::PartialRecord> RecordOf(Engine::DownloadRequest const& request) const
     {
         QFile file(RecordPath(request));
-        return file.open(QIODevice::ReadOnly) ? Engine::DecodePartialRecord(file.readAll().toStdString()) : std::nullopt;
+        return file.open(QIODevice::ReadOnly) ? Engine::DecodePartialRecord(file.readAll().toStdString())
+                                              : std::nullopt;
     }
 
-    /// Has the record of \a request say that so much was spent.
+    /// Changes the record of \a request to this spending.
     void Spend(Engine::DownloadRequest const& request, Engine::DownloadSpending const& spent)
     {
         std::optional<Engine::PartialRecord> record = RecordOf(request);
@@ -53,7 +54,7 @@ protected:
         file.write(QByteArray::fromStdString(EncodePartialRecord(*record)));
     }
 
-    /// A download of \a archive that breaks after \a bytes and does not go on.
+    /// A download of \a archive that breaks after \a bytes and does not resume.
     Engine::DownloadRequest LeavePart(LoopbackServer& server, int declaredBytes)
     {
         Engine::DownloadRequest request = RequestFor(server.Url(), declaredBytes);

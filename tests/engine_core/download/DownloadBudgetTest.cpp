@@ -1,4 +1,4 @@
-// DownloadBudgetTest.cpp: what one archive may cost: bytes, time, attempts, disk; counted over all runs.
+// DownloadBudgetTest.cpp: the limits for one archive over all runs: bytes, time, attempts, disk.
 
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
@@ -24,7 +24,7 @@ TEST_F(DownloadBudgetTest, ServerThatBeginsAgainAndAgainSendsTwiceTheArchiveAtMo
     LoopbackServer server(
         [&](QSslSocket& socket, QByteArray const&, int)
         {
-            // The whole is promised each time, and a little more than a mebibyte comes.
+            // The server announces the whole archive each time and sends a little more than a mebibyte.
             QByteArray const answer = AnswerFor({archive, {}, {}, MEBIBYTE + 10}, {});
             sent += MEBIBYTE + 10;
             socket.write(answer);
@@ -83,7 +83,7 @@ TEST_F(DownloadBudgetTest, HonestSlowLineGetsItsArchiveInManyRuns)
     EXPECT_EQ(PartialBytes(), archive);
 }
 
-/// What makes an archive go whose cost must not be forgotten.
+/// Events that remove an archive. Its spending must not be forgotten.
 struct WayOfLosing
 {
     char const* name;
@@ -137,7 +137,7 @@ TEST_F(DownloadBudgetTest, AnswersOfAnotherLengthAreCounted)
     EXPECT_EQ(server.Requests().size(), 2u);
 }
 
-/// A server that sends the piece behind the head again and again, for as long as somebody listens.
+/// A server that repeats the piece after the head for as long as the client reads.
 struct EndlessServer
 {
     EndlessServer(QByteArray const& head, QByteArray const& piece)
@@ -203,7 +203,7 @@ TEST_F(DownloadBudgetTest, HeadsAreNoWayRoundItEither)
     LoopbackServer server(
         [&](QSslSocket& socket, QByteArray const& request, int number)
         {
-            // Nine redirects with heads as long as they may be, then a few bytes of the archive.
+            // Nine redirects with heads of the largest allowed size, then a few bytes of the archive.
             QByteArray answer = number % 10 == 9 ? AnswerFor({archive, "\"one\"", {}, 10}, request)
                                                  : RedirectAnswer(302, "/" + QByteArray::number(number));
             answer.replace("\r\n\r\n", "\r\nX-Filler: " + QByteArray(60000, 'x') + "\r\n\r\n");
@@ -363,7 +363,7 @@ TEST_F(DownloadBudgetTest, PausesBetweenAttemptsDouble)
     ASSERT_EQ(times.size(), 5u);
     for (std::size_t number = 1; number < times.size(); ++number)
     {
-        // Qt's coarse timers may be a twentieth early.
+        // Qt's coarse timers may fire a twentieth too early.
         EXPECT_GE(times[number] - times[number - 1], 95 * (1 << (number - 1))) << number;
     }
 }

@@ -1,5 +1,5 @@
-// DownloadFaultTest.cpp: kills and failing system calls at every call that a download makes of the disk. The default
-// run takes a sample; with PELNAR_EVERY_PLACE=1 in the environment it takes every call.
+// DownloadFaultTest.cpp: kills and failing system calls at every disk call of a download. The default run takes a
+// sample; with PELNAR_EVERY_PLACE=1 in the environment it takes every call.
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
@@ -32,7 +32,8 @@ constexpr int SIZE = 1000000;
 QByteArray const ARCHIVE = MakeArchive(SIZE);
 constexpr int DEFAULT_STRIDE = 5;
 
-/// True for a call that names a file, or has one that is not another thread's bell in its first argument.
+/// True for a call with a file name, or with a file in its first argument. The event descriptors between threads do not
+/// count.
 bool IsAboutFiles(CallStop const& stop)
 {
     constexpr long BY_NAME[] = {SYS_openat, SYS_newfstatat, SYS_renameat, SYS_renameat2, SYS_unlinkat, SYS_mkdir};
@@ -44,16 +45,16 @@ bool IsAboutFiles(CallStop const& stop)
     return isByName || (isByDescriptor && DescriptorPath(stop).rfind('/', 0) == 0);
 }
 
-/// What the probe ended with.
+/// The end of the probe.
 struct End
 {
-    int cause = -1; ///< -1 when it did not come to print one
+    int cause = -1; ///< -1 if it did not print one
     std::string all;
-    std::size_t faults = 0;              ///< verdicts that changed what happened
-    std::vector<std::int64_t> answers{}; ///< of the calls that were visited
+    std::size_t faults = 0;              ///< verdicts that had an effect
+    std::vector<std::int64_t> answers{}; ///< of the calls so far
 };
 
-/// The nth call of its kind about files: the disk's thread may make a few more or fewer of others in another run.
+/// The nth file call of its kind. Other calls may be a few more or fewer in another run of the disk's thread.
 struct Place
 {
     long call;
@@ -93,7 +94,7 @@ protected:
         }
     }
 
-    /// Runs the probe with \a visitor deciding at each call about files that its disk thread makes, counted from 0.
+    /// Runs the probe. \a visitor decides at each file call of its disk thread, counted from 0.
     End Probe(std::vector<std::string> arguments, CallVisitor const& visitor)
     {
         std::string const output = place.filePath(QStringLiteral("output")).toStdString();
@@ -151,7 +152,7 @@ protected:
         return Probe({m_server.Url().toString().toStdString(), std::to_string(SIZE), Folder().toStdString()}, visitor);
     }
 
-    /// The folder as a download leaves it that was cut in its middle, or, every second time, none.
+    /// The folder of an interrupted download; every second time, an empty folder.
     void Prepare(int round)
     {
         RemoveFolder();
@@ -175,8 +176,8 @@ protected:
         EXPECT_TRUE(result.bytes == ARCHIVE) << what;
     }
 
-    /// Downloads with \a verdict at every place that \a canFail, or at a sample of them, among the calls of a download
-    /// that begins and of one that goes on; \a check is told how each ended.
+    /// Makes downloads with \a verdict at all places that \a canFail, or at a sample of them: in a new download and in
+    /// a resumed one. \a check gets the end of each.
     template <typename VerdictAt, typename Check>
     void Sweep(bool (*canFail)(Place const&), VerdictAt const& verdictAt, Check const& check)
     {
@@ -235,7 +236,7 @@ protected:
                         { return stop.call == place.call && ++count == place.nth ? verdict : CallVerdict::GoOn(); });
     }
 
-    /// Has every second round begin with a part of another version than the server's.
+    /// In every second round the partial file belongs to another version than the server's.
     void LeavePartsOfAnotherVersion()
     {
         m_part = MakeArchive(SIZE + 5).right(SIZE / 2);
@@ -262,7 +263,7 @@ TEST_F(DownloadFaultTest, KilledAtAnyCallTheNextRunBringsTheArchive)
 TEST_F(DownloadFaultTest, KilledAnywhereBetweenTwoVersionsNoFileIsMadeOfBoth)
 {
     LeavePartsOfAnotherVersion();
-    // One call is the one that matters, so that no sample will do.
+    // Only one call matters here, so a sample is not enough.
     SweepRound(1, 1, &AnyPlace, &KillAt,
                [this](Place const&, End const&, std::string const& where) { ExpectNextRunBringsTheArchive(where); });
 }
@@ -361,14 +362,14 @@ TEST_F(DownloadFaultTest, ShortWritesAreGoneOnWith)
         });
 }
 
-/// What a download that makes checkpoints has written and synced, by its calls.
+/// The writes and syncs of a download with checkpoints, read from its calls.
 struct Checkpoints
 {
     qint64 written = 0;
     qint64 synced = 0;
     std::optional<qint64> syncing;
     bool isRecordSynced = false;
-    std::vector<bool> renames; ///< whether the record had been synced
+    std::vector<bool> renames; ///< whether the record had been synced before
     int syncs = 0;
 
     void See(CallStop const& stop)
@@ -409,7 +410,7 @@ TEST_F(DownloadFaultTest, NoRecordCallsBytesDurableThatWereNotSynced)
                               [&](CallStop const& stop)
                               {
                                   seenCalls = stop.index + 1;
-                                  // The call before has been made by now.
+                                  // The call before this one has now been made.
                                   seen.synced = std::exchange(seen.syncing, std::nullopt).value_or(seen.synced);
                                   if (stop.index == killAt && killAt > 0)
                                   {

@@ -1,5 +1,5 @@
-// DownloadMemoryTest.cpp: an allocation of a download fails, or all do from one on, in a process of its own. The
-// default run takes a sample of them; with PELNAR_EVERY_PLACE=1 in the environment it takes many more.
+// DownloadMemoryTest.cpp: one allocation of a download fails, or all after one of them, in a process of its own. The
+// default run takes a sample; with PELNAR_EVERY_PLACE=1 in the environment it takes many more.
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
 #include "tests/installer/faults/FailingAllocator.h"
@@ -25,11 +25,11 @@ constexpr std::uint64_t NONE = std::numeric_limits<std::uint64_t>::max();
 constexpr std::uint64_t SAMPLE = 24;
 constexpr std::uint64_t LARGE_SAMPLE = 1000;
 
-/// How the probe ended.
+/// The end of the probe.
 struct End
 {
     int status = -1; ///< minus one for a signal
-    int cause = -1;  ///< of the error that it told; 0 for none, minus one when it told nothing
+    int cause = -1;  ///< of the reported error; 0 for none, -1 if it printed nothing
     std::uint64_t asked = 0;
     std::uint64_t refused = 0;
 };
@@ -98,7 +98,7 @@ TEST_P(ScarceMemory, EndsADownloadWithoutALieAndTheNextRunBringsTheArchive)
         End const end = Download(number);
         refused += end.refused > 0 ? 1 : 0;
         spoilt += end.cause != 0 ? 1 : 0;
-        // A program that gets no memory may end; what it has told by then is true.
+        // A program without memory may end. Its output until then must be true.
         EXPECT_TRUE(end.cause <= 0 || (end.cause >= 200 && end.cause < 1000)) << end.cause;
         if (end.cause == 0)
         {

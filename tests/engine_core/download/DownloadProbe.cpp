@@ -27,7 +27,7 @@ long PeakKibibytes()
     return usage.ru_maxrss;
 }
 
-/// Hands one piece over and has it made durable.
+/// Passes one piece on and makes it durable.
 void Put(ArchiveWriter& writer, DownloadSpending const& spent)
 {
     BodyBuffer const room = writer.Buffer();
@@ -69,7 +69,7 @@ int main(int argc, char** argv)
 {
     QCoreApplication application(argc, argv);
     QStringList const arguments = QCoreApplication::arguments();
-    // Anyone who traces the calls of this program waits for this one.
+    // The tracer of this program waits for this call.
     if (chdir("/") != 0)
     {
         return 1;

@@ -1,5 +1,5 @@
-// DownloadProcessTest.cpp: downloads in processes of their own that are killed, that find the disk full, that meet one
-// another.
+// DownloadProcessTest.cpp: downloads in processes of their own that are killed, find the disk full, or run at the same
+// time.
 #include "Engine/core/download/PartialRecord.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
@@ -36,7 +36,7 @@ protected:
         return {url.toString(), QString::number(declaredBytes), Folder()};
     }
 
-    /// Runs \a wrapper (which may be empty) around the probe and reads what the probe printed.
+    /// Runs \a wrapper (may be empty) with the probe, and reads the output of the probe.
     static Report Probe(QStringList const& wrapper, QStringList const& arguments)
     {
         Report report;
@@ -70,7 +70,7 @@ TEST_F(DownloadProcessTest, KilledAgainAndAgainItLosesNothingThatArrived)
             int const start = RangeStart(request).value_or(0);
             EXPECT_EQ(start, given) << "a byte that had arrived is asked for again";
             given = number < points ? start + STEP : archive.size();
-            // The connection stays open: nothing but the kill ends the process.
+            // The connection stays open: only the kill ends the process.
             socket.write(answer.left(headBytes + given - start));
         });
     for (int point = 1; point <= points; ++point)
@@ -112,7 +112,7 @@ TEST_F(DownloadProcessTest, KilledInFullFlightItGoesOnFromTheEndOfTheFile)
         ASSERT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
         if (PartialSize() == archive.size())
         {
-            break; // the process was faster than the kill
+            break; // the process ended before the kill
         }
         std::size_t const asked = starts.size();
         QByteArray const part = PartialBytes();
@@ -166,7 +166,7 @@ TEST_F(DownloadProcessTest, MemoryDoesNotGrowWithTheArchive)
         LoopbackServer server(AnsweringWithoutEnd(
             "HTTP/1.1 200 OK\r\nContent-Length: " + QByteArray::number(bytes) + "\r\n\r\n", QByteArray(1 << 20, 'x')));
         Report const report = Probe({}, Arguments(server.Url(), bytes));
-        // The server goes on behind the end, which is seen or not, as the bytes come.
+        // The server sends more than the length. The client may see this or not, depending on the timing.
         EXPECT_TRUE(report.cause == 0 || report.cause == static_cast<int>(ErrorCause::SurplusBody))
             << report.all.toStdString();
         grown[row++] = report.grownKibibytes;
@@ -182,7 +182,8 @@ protected:
     LoopbackServer server{Serving({archive})};
 };
 
-/// The words that run a program, named behind them, with a disk of \a mebibytes at \a disk, and then list its folder.
+/// The words that run a program with a disk of \a mebibytes at \a disk and then list its folder. The program is
+/// appended.
 QStringList OnSmallDisk(int mebibytes, QString const& disk)
 {
     QString const script = QStringLiteral("mount -t tmpfs -o size=%1M none \"$0\" && { \"$@\"; "
@@ -214,7 +215,7 @@ TEST_F(FullDisk, OfAnySizeIsToldInNumbersAndLeftAsItWas)
         std::size_t const requests = server.Requests().size();
         Report const report = Probe(OnSmallDisk(mebibytes, disk), arguments);
         hasFitted = report.cause == 0;
-        // A quarter of so small a disk stays free.
+        // A quarter of such a small disk stays free.
         EXPECT_EQ(hasFitted, mebibytes >= 5 || (mebibytes == 4 && hasFitted)) << report.all.toStdString();
         if (hasFitted)
         {

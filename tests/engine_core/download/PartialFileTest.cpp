@@ -1,4 +1,4 @@
-// PartialFileTest.cpp: the file of a partial archive on a real disk: what may stand in its place, its lock, its record.
+// PartialFileTest.cpp: the file of a partial archive on a real disk: other objects in its place, its lock, its record.
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
 
@@ -42,7 +42,7 @@ protected:
 
     static ErrorCause CauseOf(Result<void> const& done) { return done ? ErrorCause::NoUpdate : done.error().cause; }
 
-    /// The steps that tell the disk what is known, without those that make bytes durable.
+    /// The steps that update the record. Those that make bytes durable come before.
     static Result<void> Record(PartialFile& file)
     {
         for (auto const step : {&PartialFile::StageRecord, &PartialFile::SyncRecord, &PartialFile::PublishRecord,
@@ -62,7 +62,7 @@ protected:
         ASSERT_EQ(CauseOf(Record(file)), ErrorCause::NoUpdate);
     }
 
-    /// Leaves a file with \a text of the version TAG, as a program that was killed does.
+    /// Leaves a file with \a text of the version TAG, as a killed program does.
     void LeavePart(QByteArray const& text)
     {
         PartialFile file(Place());
@@ -71,7 +71,7 @@ protected:
         ASSERT_EQ(CauseOf(file.Append(BytesOf(text))), ErrorCause::NoUpdate);
     }
 
-    /// Opens the place again and tells how much is found.
+    /// Opens the place again and returns how much was found.
     quint64 FoundBytes()
     {
         PartialFile file(Place());
@@ -159,7 +159,7 @@ TEST_F(PartialFileTest, FolderOfAnotherUserIsRefused)
     EXPECT_EQ(CauseOf(PartialFile(Place()).Open()), ErrorCause::DownloadFolderUnsafe);
 }
 
-/// Puts something in the place of the partial file, beside the record of the part that stood there.
+/// Puts another object in the place of the partial file, next to the record of the old one.
 struct Intruder
 {
     char const* name;
@@ -205,7 +205,8 @@ INSTANTIATE_TEST_SUITE_P(
             Intruder{"Socket",
                      [](std::string const& path, std::string const&)
                      {
-                         // A name of a socket has room for a short path only: made here, moved there.
+                         // The name of a socket has space for a short path only, so the socket is made elsewhere and
+                         // moved.
                          UniqueFd const socketFd(socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0));
                          std::string const shortPath = "/tmp/pelnar-" + std::to_string(getpid());
                          sockaddr_un address{};
@@ -251,7 +252,7 @@ TEST_P(ReplacedFile, GivesWayToANewOneAndNothingElseIsTouched)
 {
     LeavePart("part");
     std::string const elsewhere = place.filePath(QStringLiteral("elsewhere")).toStdString();
-    // Another file first, so that the intruder does not get the number of the file that goes.
+    // Another file first, so that the intruder does not get the inode number of the removed file.
     WriteText(place.filePath(QStringLiteral("spare")).toStdString(), "spare");
     ASSERT_EQ(rename(ArchivePath().c_str(), (place.path().toStdString() + "/old").c_str()), 0);
     GetParam().put(ArchivePath(), elsewhere);
@@ -279,7 +280,7 @@ TEST_P(ReplacedFile, GivesWayToANewOneAndNothingElseIsTouched)
     }
 }
 
-/// Again and again, and under each of the names that a download uses.
+/// Repeatedly, and for each name that a download uses.
 TEST_F(PartialFileTest, FoldersUnderItsNamesAreSetAsideAsOftenAsTheyCome)
 {
     LeavePart("first");

@@ -1,4 +1,4 @@
-// PartialRecordTest.cpp: the record beside a partial archive: its bytes, and what is believed of the file.
+// PartialRecordTest.cpp: the record of a partial archive: its bytes, and how much of the file is trusted.
 #include "Engine/core/download/PartialRecord.h"
 
 #include <gtest/gtest.h>

@@ -1,4 +1,4 @@
-// ResumeRulesTest.cpp: what becomes of a partial archive, answer by answer.
+// ResumeRulesTest.cpp: the decision about a partial archive for each answer of a server.
 #include "Engine/core/download/ResumeRules.h"
 
 #include <gtest/gtest.h>

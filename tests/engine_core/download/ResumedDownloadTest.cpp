@@ -1,4 +1,4 @@
-// ResumedDownloadTest.cpp: downloads that were cut and go on, and archives that changed meanwhile.
+// ResumedDownloadTest.cpp: interrupted downloads that resume, and archives that changed meanwhile.
 
 #include "tests/engine_core/download/ArchiveDownloadFixture.h"
 #include "tests/engine_core/download/ArchiveServer.h"
@@ -231,7 +231,7 @@ TEST_F(ArchiveDownloadTest, ResetConnectionIsGoneOnWith)
                        : Serving({ARCHIVE})(socket, request, 0);
         });
     DownloadResult const result = Run(RequestFor(server.Url(), SIZE));
-    // A reset may overtake everything that was sent before it, the head included; then nothing was received yet.
+    // A reset may arrive before all that was sent earlier, including the head. Then nothing was received.
     EXPECT_TRUE(result.bytes == ARCHIVE || result.cause == ErrorCause::IncompleteHead);
 }
 

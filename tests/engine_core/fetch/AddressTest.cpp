@@ -1,4 +1,4 @@
-// AddressTest.cpp: how near an address lies, and which proxy the settings name, on plain values.
+// AddressTest.cpp: the reach of an address, and the proxy in the settings. Pure values.
 #include "Engine/core/fetch/AddressReach.h"
 #include "Engine/core/fetch/ProxyChoice.h"
 

@@ -1,5 +1,5 @@
-// ConditionalFetchTest.cpp: fetches of a feed that is here already: an unchanged one is not sent again, and nothing but
-// the server that it came from decides that.
+// ConditionalFetchTest.cpp: fetches of a kept feed. Its server does not send an unchanged feed again, and only its own
+// server decides this.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/TaggedFeed.h"
 #include "tests/support/TestCertificates.h"
@@ -22,7 +22,7 @@ protected:
         return Fetch(url, ShortLimits(), InsecureHttp::LoopbackOnly, kept);
     }
 
-    /// What a fetch of \a url leaves to be kept.
+    /// The feed that a fetch of \a url would keep.
     KeptFeed KeptFrom(QUrl const& url)
     {
         FetchOutcome const first = FetchWith(url, std::nullopt);
@@ -30,7 +30,7 @@ protected:
         return first.keepable.value_or(KeptFeed());
     }
 
-    /// Has the server answer \a first to a condition, and the whole of another feed to the next request.
+    /// The server answers a conditional request with \a first, and the next request with another whole feed.
     LoopbackServer::Script OddThenWhole(QByteArray const& first)
     {
         return [this, first](QSslSocket& socket, QByteArray const& request, int)
@@ -243,7 +243,7 @@ TEST_F(ConditionalFetch, RedirectPassesTheConditionToNobodyElse)
     EXPECT_EQ(FetchWith(first.Url(), kept).bytes, OTHER_BODY);
     ASSERT_EQ(other.Requests().size(), 1u);
     EXPECT_FALSE(other.Requests()[0].contains("\r\nIf-"));
-    // The address that answered leads on, and what it leads to is another feed.
+    // The address that answered redirects, and another feed is there.
     KeptFeed direct = kept;
     direct.place = PlaceOf(first.Url(), first.Url());
     EXPECT_EQ(FetchWith(first.Url(), direct).bytes, OTHER_BODY);

@@ -174,7 +174,7 @@ TEST_F(FeedFetcherTest, NameThatDoesNotExistIsAnErrorOfItsOwn)
 
 TEST_F(FeedFetcherTest, BlackHoleEndsAtTheConnectDeadline)
 {
-    // A listener whose queue is full answers nothing to the next one who asks.
+    // A listener with a full queue does not answer the next client.
     int const listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
     sockaddr_in address{};
     address.sin_family = AF_INET;
@@ -213,7 +213,7 @@ TEST_F(FeedFetcherTest, ResetAfterEachKibibyteIsIncompleteAndNoPrefixIsGiven)
     {
         LoopbackServer server(AnsweringThenReset(answer.left(headBytes + kept)));
         ErrorCause const cause = CauseOf(Fetch(server.Url()));
-        // A reset may overtake what was sent before it, the head included.
+        // A reset may arrive before all that was sent earlier, including the head.
         EXPECT_TRUE(cause == ErrorCause::IncompleteBody || cause == ErrorCause::IncompleteHead) << kept;
     }
 }
@@ -425,7 +425,7 @@ TEST_F(FeedFile, WhatIsNotAReadableFileIsRefused)
     EXPECT_EQ(CauseOf(Fetch(QUrl::fromLocalFile(pipe))), ErrorCause::FileNotRegular)
         << "opening it would wait for ever";
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("file://server/share/feed.xml")))), ErrorCause::FileOnOtherHost);
-    // A file that opens and fails to be read, no matter who asks.
+    // A file that can be opened but not read, even by root.
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("file:///proc/self/mem")))), ErrorCause::FileUnreadable);
 }
 

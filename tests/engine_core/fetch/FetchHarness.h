@@ -54,7 +54,7 @@ inline Engine::FetchOutcome Fetch(QUrl const& url, Engine::FetchLimits const& li
     return outcome.value_or(Engine::FetchOutcome());
 }
 
-/// What went wrong; NoUpdate when nothing did.
+/// The cause of the failure; NoUpdate if there was none.
 inline Engine::ErrorCause CauseOf(Engine::FetchOutcome const& outcome)
 {
     EXPECT_TRUE(outcome.bytes.isEmpty() || !outcome.error) << "no bytes come with an error";

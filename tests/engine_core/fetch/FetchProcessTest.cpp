@@ -1,5 +1,5 @@
-// FetchProcessTest.cpp: a fetch seen from outside its process: which calls it makes of the system, how much memory it
-// takes, what a wrong clock or a missing network does to it.
+// FetchProcessTest.cpp: a fetch seen from outside its process: its system calls and its memory, with a wrong clock,
+// with a missing network.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/FileServer.h"
 #include "tests/support/LoopbackServer.h"
@@ -30,7 +30,7 @@ struct Report
     QString all;
 };
 
-/// Runs \a wrapper (which may be empty) around the probe and reads what the probe printed.
+/// Runs \a wrapper (may be empty) with the probe, and reads the output of the probe.
 Report probe(QStringList const& wrapper, QStringList const& arguments)
 {
     Report report;
@@ -73,7 +73,7 @@ protected:
                 folder.filePath(QStringLiteral("trace"))};
     }
 
-    /// The words that run others in a network of their own, as \a script makes it.
+    /// The words that run the appended words in their own network, which \a script sets up.
     QStringList InOwnNetwork(char const* script) const
     {
         return {QStringLiteral("unshare"),   QStringLiteral("--map-root-user"),
@@ -166,8 +166,8 @@ TEST_F(FetchProcessTest, NoRouteIsAnErrorOfItsOwn)
     EXPECT_EQ(report.cause, static_cast<int>(ErrorCause::NetworkUnreachable)) << report.all.toStdString();
 }
 
-/// A network of one's own, in which "two.example" has two addresses: one of IPv6 that swallows every packet, and one
-/// that answers. Words that follow are run there.
+/// A network in which "two.example" has two addresses: the IPv6 address loses every packet, the other one answers. The
+/// appended words run in it.
 char const TWO_ADDRESSES[] = "set -e\n"
                              "ip link set lo up\n"
                              "ip link add near type veth peer name far\n"
@@ -203,7 +203,7 @@ TEST_F(FetchProcessTest, AddressThatSwallowsPacketsCostsLessThanASecond)
     EXPECT_LT(report.milliseconds, 1000);
 }
 
-/// A network of one's own in which every packet to 198.51.100.9, the name server too, is swallowed.
+/// A network that loses every packet to 198.51.100.9, including the name server's.
 char const BLACK_HOLE[] = "set -e\n"
                           "ip link set lo up\n"
                           "ip link add near type veth peer name far\n"
@@ -238,7 +238,7 @@ TEST_P(Unreachable, IsGivenUpAtTheDeadlineForConnecting)
     EXPECT_LT(clock.elapsed(), report.milliseconds + 5000) << "the process does not wait for the name server";
 }
 
-/// An OpenSSL that permits every protocol and cipher that it knows.
+/// An OpenSSL configuration that permits every protocol and cipher.
 class PermissiveConfiguration : public FetchProcessTest, public ::testing::WithParamInterface<char const*>
 {
 protected:
@@ -259,7 +259,7 @@ protected:
         server.waitForFinished();
     }
 
-    /// The address of a server that offers \a words only.
+    /// The address of a server that offers only \a words.
     QString Serve(QString const& words)
     {
         server.start(QStringLiteral("openssl"),
@@ -323,7 +323,7 @@ protected:
         }
     }
 
-    /// Serves \a bytes, changed at \a time, at the address that is returned.
+    /// Serves \a bytes, last changed at \a time. Returns their address.
     QUrl Serve(QByteArray const& bytes, QDateTime const& time = QDateTime::currentDateTime())
     {
         QFile file(served.filePath(QStringLiteral("file")));
@@ -370,7 +370,8 @@ TEST_F(Http2, FeedThatIsTooLargeOrMissingIsRefused)
 class EndlessAnswer : public FetchProcessTest
 {
 protected:
-    /// The cause is judged always, the memory where no sanitizer keeps freed blocks.
+    /// The cause is always checked. The memory is checked only without a sanitizer, because sanitizers keep freed
+    /// blocks.
     void ExpectCheap(Report const& report, ErrorCause cause)
     {
         EXPECT_EQ(report.cause, static_cast<int>(cause)) << report.all.toStdString();

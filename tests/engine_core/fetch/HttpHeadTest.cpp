@@ -1,4 +1,4 @@
-// HttpHeadTest.cpp: heads line by line: what is refused, and how many bytes there may be.
+// HttpHeadTest.cpp: heads line by line: which lines are refused, and the limit of bytes.
 #include "Engine/core/fetch/HttpHead.h"
 
 #include <gtest/gtest.h>
@@ -11,7 +11,7 @@ namespace
 using namespace Pelnar::Engine;
 using Progress = HttpHeadReader::Progress;
 
-/// The progress at the last of \a lines, or at the first that fails.
+/// The result for the last of \a lines, or for the first that fails.
 Progress Read(HttpHeadReader& reader, std::vector<QByteArray> const& lines)
 {
     Progress progress = Progress::NeedsMore;

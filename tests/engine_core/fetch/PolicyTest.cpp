@@ -1,4 +1,4 @@
-// PolicyTest.cpp: offering an item, ordering version texts: the engine's other decisions on plain values.
+// PolicyTest.cpp: whether an item is offered, and the order of version texts. Pure values.
 #include "Engine/core/check/CheckRules.h"
 #include "Engine/core/check/StandardVersionComparison.h"
 

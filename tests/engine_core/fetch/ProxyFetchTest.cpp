@@ -1,4 +1,4 @@
-// ProxyFetchTest.cpp: fetches through proxies, which the application or the environment names.
+// ProxyFetchTest.cpp: fetches through proxies from the application or the environment.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/TestCertificates.h"
@@ -26,7 +26,7 @@ struct Row
     TestProxy::Kind kind;
     QNetworkProxy::ProxyType type;
     bool isSecure;
-    char const* asked; ///< of the proxy, with %1 for the port
+    char const* asked; ///< the proxy's requests, with %1 for the port
 };
 
 void PrintTo(Row const& row, std::ostream* out)
@@ -34,7 +34,7 @@ void PrintTo(Row const& row, std::ostream* out)
     *out << row.name;
 }
 
-/// Who names the proxy.
+/// The source of the proxy.
 enum class Teller
 {
     Application,
@@ -181,7 +181,7 @@ TEST_P(EveryProxy, ThatRefusesIsAnErrorOfItsOwn)
     proxy.RefuseWith("403 Forbidden");
     Use(proxy.Port());
     FetchOutcome const outcome = FetchAnywhere(Url());
-    // What a proxy says in place of a server that it forwards to, cannot be told from what the server says.
+    // A forwarding proxy's own answer looks like an answer of the server.
     bool const isForwarded = Proxy().type == QNetworkProxy::HttpCachingProxy;
     EXPECT_EQ(CauseOf(outcome), isForwarded ? ErrorCause::HttpStatus : ErrorCause::ProxyRefused);
     EXPECT_TRUE(Server().Requests().empty());
@@ -272,7 +272,7 @@ TEST_F(EnvironmentProxyFetch, OneThatIsNotSpokenHereIsAnErrorAndNoWayRound)
 
 TEST_F(EnvironmentProxyFetch, SystemsSettingsCountWhereNobodyElseNamesOne)
 {
-    // Qt's rule for the system's settings, and not curl's: the proxy for http serves https as well.
+    // Qt's rule for the system's settings, which differs from curl's: the proxy for http serves https as well.
     TestProxy proxy(TestProxy::Kind::Http, static_cast<quint16>(secure.Url().port()));
     Set("http_proxy", "http://127.0.0.1:" + QByteArray::number(proxy.Port()));
     EXPECT_EQ(FetchAnywhere(secure.Url(QStringLiteral("/feed.xml"), NAME)).bytes, BODY);

@@ -1,5 +1,5 @@
-// ReachTest.cpp: what came from elsewhere makes nobody connect to this computer or its link: not by an address, not by
-// a name, not by a redirect, not over a connection that is there already.
+// ReachTest.cpp: data from another computer must not lead to a connection to this computer or its link: not by an
+// address, a name, a redirect or an open connection.
 #include "Engine/core/fetch/HttpTransfer.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
@@ -20,7 +20,7 @@ QByteArray const BODY = "<rss/>";
 class ReachTest : public FetchTest
 {
 protected:
-    /// What becomes of a request for \a url that may lead to \a nearest; NoUpdate for an answer.
+    /// The result of a request for \a url that may lead to \a nearest; NoUpdate for an answer.
     static ErrorCause Transfer(QUrl const& url, AddressReach nearest)
     {
         FetchRequest request = RequestFor(url);
@@ -96,7 +96,7 @@ TEST_F(ReachTest, FeedFromHereMayLeadHere)
     EXPECT_EQ(outcome.reach, AddressReach::ThisComputer);
 }
 
-/// A server whose name is known to a proxy alone, which is far away as far as the engine can tell.
+/// A server whose name only a proxy knows. For the engine the server is far away.
 class FarServer
 {
 public:

@@ -1,5 +1,5 @@
-// SecureFetchTest.cpp: what the certificate and the handshake of a server must be, and what an https address may lead
-// to.
+// SecureFetchTest.cpp: the requirements for a server's certificate and handshake, and the redirects from an https
+// address.
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
 #include "tests/support/TestCertificates.h"
@@ -147,7 +147,7 @@ TEST_P(HostNames, CountFromTheListAlone)
     EXPECT_EQ(server.Requests().size(), row.isRight ? 1u : 0u);
 }
 
-/// Answers and lets the connection go without the closing words that TLS has for that.
+/// Answers and closes the connection without the closing message of TLS.
 LoopbackServer::Script AnsweringWithoutGoodbye(QByteArray const& bytes)
 {
     return [bytes](QSslSocket& socket, QByteArray const&, int)

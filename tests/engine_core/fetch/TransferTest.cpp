@@ -1,4 +1,4 @@
-// TransferTest.cpp: one transfer and a sink that has little room, or none for a while; and libcurl's ends in our words.
+// TransferTest.cpp: one transfer and a sink with little space, or none for some time; and libcurl's errors as ours.
 #include "Engine/core/fetch/HttpTransfer.h"
 #include "tests/engine_core/fetch/FetchHarness.h"
 #include "tests/support/LoopbackServer.h"
@@ -51,7 +51,7 @@ protected:
         transfer->Open();
     }
 
-    /// Lets the sink take everything.
+    /// Lets the sink take all bytes.
     void OpenSink()
     {
         sink.closesAt = 0;
@@ -120,7 +120,7 @@ TEST_F(TransferTest, WhatHasComeGoesToTheSinkBeforeTheFailureIsTold)
 
 TEST_F(TransferTest, SinkThatOpensBeforeTheConnectionBreaksIsNotWaitedForOnceMore)
 {
-    QByteArray const part = Numbers(2000); // few enough to come at once
+    QByteArray const part = Numbers(2000); // few enough to arrive together
     QPointer<QSslSocket> connection;
     LoopbackServer server(
         [&](QSslSocket& socket, QByteArray const&, int)

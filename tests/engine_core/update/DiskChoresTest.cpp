@@ -28,7 +28,7 @@ TEST(DiskChores, RunWhileTheirCallerGoesOn)
             go.get_future().wait();
             ran.set_value(std::this_thread::get_id());
         });
-    go.set_value(); // would not be reached by a caller that waits
+    go.set_value(); // a caller that waits would not reach this
     EXPECT_NE(ran.get_future().get(), std::this_thread::get_id());
 }
 
@@ -86,7 +86,7 @@ TEST(DiskChores, RunWithNoSignalOfTheHostsAndChangeNoneOfItsOwn)
 #if !defined(__SANITIZE_ADDRESS__) && !(defined(__has_feature) && __has_feature(address_sanitizer))
 TEST(DiskChores, RunHereWhenThereIsNoThreadToBeHad)
 {
-    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process without the stack of a thread that has ended
+    GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process that has no stack of an ended thread
     auto const run = []
     {
         rlimit const none{1, 1}; // no stack can be mapped

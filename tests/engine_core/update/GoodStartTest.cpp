@@ -1,4 +1,4 @@
-// GoodStartTest.cpp: what an application that has just been started asks of the helper, from within it.
+// GoodStartTest.cpp: the questions of a newly started application to the helper, from within the application.
 
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/helper/NoteFile.h"
@@ -18,7 +18,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// The running version 2.0, installed, which is to tell that it started well.
+/// The running version 2.0, installed, which must confirm a good start.
 class GoodStarts : public testing::Test
 {
 protected:

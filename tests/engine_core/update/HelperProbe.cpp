@@ -1,4 +1,4 @@
-// A helper that does what its job names: the new version's name is the order. It is started like the real one.
+// A helper whose order is in its job: the name of the new version. It is started like the real one.
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/helper/HelperReport.h"
@@ -16,7 +16,7 @@
 #include <unistd.h>
 
 #if __has_feature(address_sanitizer)
-/// Signals that are not as the host left them are counted here; the sanitizer's own must not be among them.
+/// The probe counts signals whose handling is not the default. The sanitizer must not change any.
 extern "C" char const* __asan_default_options()
 {
     return "handle_segv=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0";
@@ -104,7 +104,7 @@ int Obey(std::string const& order, int count, char** arguments)
         {
             Say(EncodeHelperReport(ProgressReport{HelperPhase::Unpacking, done, 20000}));
         }
-        Say("installed"); // the line's end never comes
+        Say("installed"); // without the end of the line
         return 0;
     }
     if (order == "nonsense")

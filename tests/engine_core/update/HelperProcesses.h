@@ -1,4 +1,4 @@
-// HelperProcesses.h: helpers that are started by this process, or by a program that stands for one.
+// HelperProcesses.h: helpers that this process, or a program in its place, starts.
 #pragma once
 
 #include "Engine/core/faults/UpdateFault.h"
@@ -28,8 +28,8 @@ namespace Pelnar::Testing
 
 constexpr int HIGH_DESCRIPTOR = 50;
 
-/// An event loop, which helpers are heard through, and no child of an earlier test. What a test changes of this process
-/// is as it was afterwards.
+/// An event loop, which is needed to hear helpers, and no child of an earlier test. At the end it restores what a test
+/// has changed in this process.
 class HelperProcesses : public testing::Test
 {
 protected:
@@ -37,7 +37,7 @@ protected:
     {
         ::getrlimit(RLIMIT_NOFILE, &m_descriptors);
         ::sigprocmask(SIG_BLOCK, nullptr, &m_blocked);
-        while (::waitpid(-1, nullptr, 0) > 0) // released ones are nobody's to wait for
+        while (::waitpid(-1, nullptr, 0) > 0) // this test does not wait for released ones
         {
         }
     }
@@ -65,7 +65,7 @@ inline std::string ReadFile(std::string const& path)
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
-/// The probe, about to obey one order, with a staging folder and a connection in the archive's place.
+/// The probe before it obeys one order, with a staging folder, and a connection in the archive's place.
 class ProbeScene
 {
 public:
@@ -95,7 +95,7 @@ public:
                 }
             },
             [this](Engine::HelperEnd end) { ends.push_back(end); });
-        m_far = Engine::UniqueFd(); // the helper's copy is the only one left
+        m_far = Engine::UniqueFd(); // only the helper's copy is left
     }
 
     Engine::HelperEnd RunToEnd()
@@ -110,7 +110,7 @@ public:
         return WaitFor([this] { return !reports.empty(); });
     }
 
-    /// Waits for the helper to end when it was told to; false at once when it lives on.
+    /// Waits until the helper has ended. With MSG_DONTWAIT it returns false at once if the helper still runs.
     bool HasEnded(int flags = 0) const
     {
         char byte = 0;

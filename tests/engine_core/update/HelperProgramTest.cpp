@@ -1,4 +1,4 @@
-// HelperProgramTest.cpp: which program is started as the helper, and a whole update through it.
+// HelperProgramTest.cpp: which program is started as the helper, and a whole update by it.
 
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/helper/FolderSafety.h"
@@ -62,7 +62,7 @@ TEST(SealedMemory, IsSealedOnceTheSystemLetsGoOfItsPages)
     UniqueFd const file = MakeMemoryFile("job", 0);
     std::array<std::uint8_t, 1> const byte{7};
     AppendToMemory(file, Bytes(byte.data(), byte.size()));
-    // A mapping that may be written is refused as pages are that the system holds.
+    // A writable mapping is refused in the same way as pages that the system holds.
     void* const held = ::mmap(nullptr, 1, PROT_READ | PROT_WRITE, MAP_SHARED, file.Get(), 0);
     ASSERT_NE(held, MAP_FAILED);
     ASSERT_NE(::fcntl(file.Get(), F_ADD_SEALS, F_SEAL_WRITE), 0);
@@ -84,7 +84,7 @@ TEST(SealedMemory, IsSealedOnceTheSystemLetsGoOfItsPages)
 struct ProgramRow
 {
     char const* name;
-    void (*change)(std::string const& path); ///< given a good program there
+    void (*change)(std::string const& path); ///< the argument is a good program
 };
 
 class UnusableHelper : public HelperProcesses, public testing::WithParamInterface<ProgramRow>
@@ -145,7 +145,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ProgramRow{"Empty", [](std::string const& p) { std::ofstream(p).flush(); }}),
     [](testing::TestParamInfo<ProgramRow> const& info) { return info.param.name; });
 
-/// As umask 002 leaves it.
+/// The permissions under umask 002.
 TEST_F(HelperProcesses, ProgramThatTheUsersOwnGroupMayWriteIsStarted)
 {
     Workspace const place;
@@ -184,7 +184,7 @@ TEST_F(HelperProcesses, MissingDescriptorIsRefusedBeforeAnythingStarts)
         UpdateRefusal);
 }
 
-/// The real helper, from an archive to the new version in the old one's place.
+/// The real helper, from the archive until the new version is in the place of the old one.
 TEST_F(HelperProcesses, DrivesAWholeUpdate)
 {
     auto const program = std::make_shared<SealedProgram>(PELNAR_INSTALLER_PROGRAM);

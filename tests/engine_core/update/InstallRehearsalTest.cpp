@@ -1,5 +1,5 @@
-// InstallRehearsalTest.cpp: what this system refuses is found out before a download, by the helper's own calls. System
-// calls are made to fail by a filter, in processes of their own.
+// InstallRehearsalTest.cpp: a refusal by this system is found before a download, with the helper's own calls. A filter
+// makes system calls fail, in processes of their own.
 
 #include "Engine/core/update/InstallRehearsal.h"
 #include "Engine/core/base/CloseDescriptors.h"
@@ -34,7 +34,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// The whole way to the download: what is told, with its number; "ready" when nothing is.
+/// All steps up to the download. Returns the reported error with its number, or "ready".
 std::string Told(std::string const& bundlePath, std::string const& helper = PELNAR_INSTALLER_PROGRAM)
 {
     PackageSources sources;
@@ -64,7 +64,7 @@ std::string ToldToBeOfALayer(std::string const& bundle)
            "there.";
 }
 
-/// An installed bundle alone in its folder, which it is after every rehearsal.
+/// An installed bundle, alone in its folder also after every rehearsal.
 class RehearsalScene
 {
 public:
@@ -181,7 +181,7 @@ TEST(InstallRehearsal, BundleOnAnotherFileSystemThanItsFolderIsToldWithItsPath)
     EXPECT_EQ(scene.ToldWithout(SYS_renameat2, EXDEV), ToldToBeOfALayer(scene.Bundle()));
 }
 
-/// Where locks are refused the answer comes at once, says where the application stands, and leaves nothing behind.
+/// If the system refuses locks, the answer comes immediately, names the place of the application, and no file is left.
 TEST(InstallRehearsal, LocksThatCannotBeHadAreTold)
 {
     for (int const errorNumber : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF, EPERM})
@@ -193,7 +193,7 @@ TEST(InstallRehearsal, LocksThatCannotBeHadAreTold)
     }
 }
 
-/// As a neighbour that takes every new folder for an abandoned one.
+/// A neighbour that removes every new folder as if it were abandoned.
 TEST(InstallRehearsal, FoldersThatAlwaysGoAreNotMadeForEver)
 {
     RehearsalScene const scene;
@@ -206,7 +206,7 @@ TEST(InstallRehearsal, FileSystemWithoutPermissionsIsTold)
     std::string const told = InChild(
         [&scene]
         {
-            ::umask(0777); // a new folder has no rights then, as if the file system kept none
+            ::umask(0777); // a new folder has no permissions then, as on a file system that does not store them
             return Told(scene.Bundle());
         });
     EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
@@ -230,7 +230,7 @@ TEST(InstallRehearsal, InstallationOfAnotherIsToldAndNotWaitedForLong)
     EXPECT_EQ(place.Names(), (std::vector<std::string>{LockFileName(APP), APP}));
 }
 
-/// In namespaces of its own, with this option set there.
+/// In its own namespaces, with this mount option.
 std::string InOwnSystem(std::function<std::string()> const& act)
 {
     return InChild(
@@ -266,7 +266,7 @@ TEST(InstallRehearsal, SystemThatRunsNothingFromMemoryIsNoObstacle)
     EXPECT_EQ(told, "ready");
 }
 
-/// What is told, where the bundle is as it was afterwards.
+/// The reported error, if the bundle is unchanged.
 std::string ToldWithoutAChange(std::string const& bundle)
 {
     ContentHash const before = TreeOf(bundle);
@@ -277,14 +277,14 @@ std::string ToldWithoutAChange(std::string const& bundle)
 struct OverlayRow
 {
     char const* name;
-    char const* mountCommand; ///< the options and the place are added
+    char const* mountCommand; ///< the options and the place are appended
 };
 
 class OverlayTest : public testing::TestWithParam<OverlayRow>
 {
 };
 
-/// The layers of an overlay: the application below, or above where this run of the system has written it.
+/// The layers of an overlay: the application is in the lower layer, or in the upper one if this run has written it.
 TEST_P(OverlayTest, LowerLayerIsTold)
 {
     for (bool const isBelow : {true, false})
@@ -332,7 +332,7 @@ INSTANTIATE_TEST_SUITE_P(InstallRehearsal, OverlayTest,
                                          OverlayRow{"OfAProgram", "fuse-overlayfs"}),
                          [](testing::TestParamInfo<OverlayRow> const& info) { return info.param.name; });
 
-/// A folder that gives its project to what is made in it takes no folder of another project.
+/// A folder that passes its project on to new files takes no folder of another project.
 TEST(InstallRehearsal, BundleOfAnotherProjectThanItsFolderIsTold)
 {
     if (std::string const reason = WhyImagesCannotBeMounted(); !reason.empty())
@@ -368,7 +368,7 @@ TEST(InstallRehearsal, FileThatTakesNothingIsNotWrittenToForEver)
                   [&scene]
                   {
                       UniqueFd const file(::open((scene.Bundle() + "/run").c_str(), O_WRONLY | O_CLOEXEC));
-                      FailCall(SYS_write, 0); // it answers that no byte was written
+                      FailCall(SYS_write, 0); // the call returns that no byte was written
                       std::uint8_t const byte = 'x';
                       bool const isWritten = WriteAll(file.Get(), Bytes(&byte, 1));
                       return std::string(isWritten ? "written" : errno == EIO ? "told" : "refused");

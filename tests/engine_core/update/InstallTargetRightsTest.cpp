@@ -1,4 +1,4 @@
-// InstallTargetRightsTest.cpp: bundles and folders that belong to others, or that others may change.
+// InstallTargetRightsTest.cpp: bundles and folders that belong to other users, or that others may change.
 
 #include "Engine/core/base/PathText.h"
 #include "Engine/core/helper/FolderSafety.h"
@@ -31,7 +31,7 @@ TEST(InstallTarget, AnotherUsersBundleIsRefused)
     TargetScene const scene;
     ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
     {
-        AsUser const nobody(NOBODY); // the bundle is the administrator's
+        AsUser const nobody(NOBODY); // the bundle belongs to the administrator
         scene.ExpectError(ErrorCause::BundleOfAnotherUser);
     }
     GiveTo(SOMEBODY, scene.Parent());
@@ -55,7 +55,7 @@ TEST(InstallTarget, AnotherUsersFolderInTheBundleIsRefused)
         scene.ExpectError(ErrorCause::BundleOfAnotherUser);
     }
     GiveTo(NOBODY, scene.Bundle() + "/Resources");
-    GiveTo(SOMEBODY, scene.Bundle() + "/run"); // a file goes with its folder
+    GiveTo(SOMEBODY, scene.Bundle() + "/run"); // the owner of the folder can remove this file too
     AsUser const nobody(NOBODY);
     EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
@@ -67,7 +67,7 @@ TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
     ASSERT_EQ(::chmod(scene.Above().c_str(), 0755), 0);
     GiveTo(NOBODY, scene.Bundle());
     {
-        AsUser const nobody(NOBODY); // the bundle is theirs, the folder is not
+        AsUser const nobody(NOBODY); // the bundle belongs to them, the folder does not
         scene.ExpectError(ErrorCause::BundleNotWritable);
     }
     GiveTo(NOBODY, scene.Parent());
@@ -82,10 +82,10 @@ TEST(InstallTarget, FoldersThatMayNotBeChangedAreRefused)
     }
     ASSERT_EQ(::chmod(scene.Above().c_str(), 0700), 0);
     AsUser const nobody(NOBODY);
-    scene.ExpectError(ErrorCause::BundleNotWritable); // it cannot even be seen
+    scene.ExpectError(ErrorCause::BundleNotWritable); // the bundle is not even visible
 }
 
-/// A user namespace in which this user is root, and the machine's root is nobody.
+/// A user namespace in which this user is root and the machine's root is nobody.
 std::string InUserNamespace(std::function<std::string()> const& act)
 {
     std::string const map = "0 " + std::to_string(::geteuid()) + " 1";
@@ -93,7 +93,7 @@ std::string InUserNamespace(std::function<std::string()> const& act)
     {
         return "not permitted";
     }
-    // After a change of users the kernel gives this process' files in /proc to root.
+    // After a change of the user the kernel gives this process's files in /proc to root.
     ::prctl(PR_SET_DUMPABLE, 1, 0, 0, 0);
     UniqueFd const file(::open("/proc/self/uid_map", O_WRONLY | O_CLOEXEC));
     bool const isMapped = ::write(file.Get(), map.data(), map.size()) == static_cast<ssize_t>(map.size());
@@ -155,15 +155,15 @@ TEST(InstallTarget, FolderThatAllMayWriteToHoldsNoApplicationEvenWhereNamesAreSa
             << error.sentence.English().toStdString();
         ASSERT_EQ(::chmod(path.c_str(), 0755), 0);
     }
-    ASSERT_EQ(::chmod(scene.Above().c_str(), 01777), 0); // as /tmp: what stands in it belongs to its owner
+    ASSERT_EQ(::chmod(scene.Above().c_str(), 01777), 0); // like /tmp: each object belongs to its owner
     EXPECT_TRUE(scene.Open(scene.Bundle()).has_value());
 }
 
 struct GroupRow
 {
     char const* name;
-    char const* users;  ///< lines of the users' list
-    char const* groups; ///< lines of the groups' list
+    char const* users;  ///< lines of the user database
+    char const* groups; ///< lines of the group database
     bool isPrivate;
 };
 
@@ -171,7 +171,7 @@ class GroupsFolder : public testing::TestWithParam<GroupRow>
 {
 };
 
-/// The folder belongs to the user "me" and to the group 12345, which may write there.
+/// The folder belongs to the user "me" and to the group 12345, which may write to it.
 TEST_P(GroupsFolder, IsTheUsersOwnOrToldWithTheCommandThatMendsIt)
 {
     REQUIRE_ADMINISTRATOR();

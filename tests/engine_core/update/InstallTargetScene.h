@@ -1,4 +1,4 @@
-// InstallTargetScene.h: an installed bundle, and other users, disks and mounts around it.
+// InstallTargetScene.h: an installed bundle, with other users, disks and mounts.
 #pragma once
 
 #include "Engine/core/base/PathText.h"
@@ -23,7 +23,7 @@ namespace Pelnar::Testing
 constexpr uid_t NOBODY = 65534;
 constexpr uid_t SOMEBODY = 12345;
 
-/// An installed bundle, and nothing of this machine's packages.
+/// An installed bundle. The scene uses no packages of this machine.
 class TargetScene
 {
 public:
@@ -44,7 +44,7 @@ public:
         return OpenInstallTarget(Engine::PathText(path), neededBytes, m_sources);
     }
 
-    /// Fails unless opening answers the cause; the error.
+    /// Fails unless opening gives this cause. Returns the error.
     Engine::EngineError ExpectError(Engine::ErrorCause cause, std::string const& path = {},
                                     quint64 neededBytes = 1) const
     {
@@ -63,7 +63,7 @@ public:
     Engine::PackageSources& Sources() { return m_sources; }
 
 private:
-    /// The cause, found out by a process that would die if it started a program: nobody is asked for more rights.
+    /// The cause, found in a process that would die if it started a program. So no one is asked for more permissions.
     std::string CauseWithoutPrograms(std::string const& path, quint64 neededBytes) const
     {
         return InChild(

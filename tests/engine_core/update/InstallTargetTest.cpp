@@ -52,7 +52,7 @@ TEST(InstallTarget, LinkAboveItIsFollowedOnce)
     EXPECT_EQ(answer.value().path.toStdString(), scene.Bundle());
 }
 
-/// What was opened through a link is what is updated, wherever the link leads by then.
+/// The bundle that was opened through a link is updated, even if the link has changed since.
 TEST(InstallTarget, LinkAboveItThatIsTurnedLaterLeadsNowhereElse)
 {
     UpdateScene scene;
@@ -189,7 +189,7 @@ TEST(InstallTarget, LackOfRoomIsToldInNumbers)
             TargetScene const scene("/");
             Mount const small("tmpfs", "none", scene.Parent(), 0, "size=1m,mode=0755");
             ASSERT_EQ(::mkdir(scene.Bundle().c_str(), 0755), 0);
-            // A quarter of so small a disk stays free, as in a download.
+            // A quarter of such a small disk stays free, as in a download.
             EXPECT_TRUE(scene.Open(scene.Bundle(), quint64{3} << 18).has_value());
             scene.ExpectError(ErrorCause::NoRoomForUpdate, scene.Bundle(), (quint64{3} << 18) + 1);
             EngineError const error =

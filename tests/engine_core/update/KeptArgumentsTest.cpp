@@ -1,4 +1,4 @@
-// The arguments for the next start: what was said last counts, for a helper that waits already as well.
+// The arguments for the next start: the last call counts, also if a helper already waits.
 #include "Engine/core/update/KeptArguments.h"
 #include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/update/HelperProcess.h"

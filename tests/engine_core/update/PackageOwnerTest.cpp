@@ -9,7 +9,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// A system of four kinds of package, of which none is the machine's own.
+/// A system with four package managers. Their databases belong to the scene, not to this machine.
 class PackageScene
 {
 public:
@@ -48,7 +48,7 @@ struct OwnerRow
     char const* name;
     char const* bundlePath;
     void (*arrange)(PackageScene& scene);
-    char const* package; ///< nothing: nobody's
+    char const* package; ///< empty: no package owns it
     PackageManager manager;
     char const* command;
 };

@@ -1,5 +1,5 @@
-// UpdateEnduranceTest.cpp: one process has a version installed and taken back again and again. The default run makes a
-// sample of the rounds; with PELNAR_EVERY_PLACE=1 in the environment it makes a hundred.
+// UpdateEnduranceTest.cpp: one process installs a version and takes it back, again and again. The default run makes
+// some rounds; with PELNAR_EVERY_PLACE=1 in the environment it makes a hundred.
 #include "Engine/core/update/HelperProcess.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/DialogDriver.h"
@@ -16,7 +16,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// A version that must say that it has started well.
+/// A version that must confirm a good start.
 std::vector<ForgedEntry> UncertainBundle()
 {
     std::vector<ForgedEntry> bundle = MakeBundle("2.0");
@@ -68,7 +68,7 @@ private:
         return recovered ? recovered->action : RecoveryAction::Nothing;
     }
 
-    /// Runs a helper to its end; what it reported of this kind.
+    /// Runs a helper to its end. Returns its report of this kind.
     template <typename Report, typename Job, typename Descriptors>
     std::optional<Report> Run(Job const& job, Descriptors const& own)
     {

@@ -31,7 +31,7 @@ protected:
                           [this](OpenedTarget told) { opened = std::move(told); });
     }
 
-    /// The answer to Open, which does not come before the event loop runs.
+    /// The answer to Open. It comes only when the event loop runs.
     OpenedTarget Answer()
     {
         EXPECT_FALSE(opened);
@@ -91,7 +91,7 @@ TEST_F(UpdateEnvironmentTest, NobodyIsToldOnceThePartsAreGone)
     EXPECT_FALSE(opened);
 }
 
-/// A process that is updated meanwhile goes on with the helper that it began with.
+/// A process that is updated meanwhile still uses the helper from its start.
 TEST_F(UpdateEnvironmentTest, HelperIsTheOneThatWasThereWhenTheTargetWasOpened)
 {
     std::string const program = other.Path() + "/helper";
@@ -149,7 +149,7 @@ TEST_F(UpdateEnvironmentTest, DiscardedDownloadHasNoNameAtOnceAndNoRoomWithThePa
         EXPECT_EQ(std::filesystem::read_symlink(entry.path(), gone).string().find(archive.name), std::string::npos);
     }
     parts = std::make_unique<UpdateEnvironment>(QStringLiteral(PELNAR_INSTALLER_PROGRAM));
-    parts->DiscardDownload(request); // nothing is there any more
+    parts->DiscardDownload(request); // it no longer exists
 }
 
 TEST_F(UpdateEnvironmentTest, ClearedDownloadsAreGoneWithTheParts)

@@ -1,5 +1,5 @@
-// ArchiveRaceTest.cpp: somebody changes the archive while the helper works with it. The default run takes a sample of
-// the places; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+// ArchiveRaceTest.cpp: another process changes the archive while the helper reads it. The default run takes a sample of
+// the places; with PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
@@ -64,7 +64,7 @@ TEST(Race, ArchiveWrittenBehindTheReportChangesNothing)
         if (isTold && !isWritten)
         {
             isWritten = true;
-            // Breaks a lease without waiting for its holder to let go.
+            // Breaks a lease without waiting for its holder.
             UniqueFd const writer(::open(ArchivePath(scene).c_str(), O_WRONLY | O_NONBLOCK | O_CLOEXEC));
         }
         isTold = isTold || (stop.call == SYS_write && stop.arguments[0] == HelperDescriptors::REPORT &&
@@ -88,8 +88,8 @@ class ChangedArchive : public testing::TestWithParam<Change>
 {
 };
 
-/// Opening a file to change it waits until the helper lets go of it, and the helper ends rather than to read on: so the
-/// change comes from a thread.
+/// Opening a file for a change waits until the helper releases it, and then the helper ends without reading on. So a
+/// thread makes the change.
 TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOne)
 {
     Versions const versions;
@@ -120,7 +120,7 @@ TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOne)
     EXPECT_GT(stopped, 0);
 }
 
-/// A kernel without leases, on which somebody does \a act right before the helper's call number \a place.
+/// A kernel without leases. Another process does \a act right before the helper's call number \a place.
 HelperStart ActWithoutLeasesAt(int place, std::function<void()> const& act, int error = EINVAL)
 {
     HelperStart start;

@@ -1,6 +1,6 @@
-// CallFaultTest.cpp: every system call of the helper fails, is cut short, is answered late by a signal, or is the last
-// before all of its processes are killed at once. The default run takes a sample of the places; with
-// PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+// CallFaultTest.cpp: every system call of the helper fails, moves one byte, is interrupted by a signal, or is the last
+// one before all its processes are killed together. The default run takes a sample of the places; with
+// PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
@@ -26,8 +26,8 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// A place in a step: the nth call of its kind, of all processes. Those side by side do not always take turns alike, so
-/// that a call's index says less.
+/// A place in a step: the nth call of its kind, in all processes. Parallel processes do not always take turns in the
+/// same way, so the index of a call is less reliable.
 struct Place
 {
     long call;
@@ -59,7 +59,7 @@ std::vector<Place> PlacesOf(Step step)
     return places;
 }
 
-/// Runs the step with \a verdict in the place of one call. \a wasMet is true when the verdict took effect.
+/// Runs the step with \a verdict for one call. \a wasMet is true if the verdict had an effect.
 HelperOutcome RunWith(Subject& subject, Place const& place, CallVerdict const& verdict, bool& wasMet)
 {
     int count = 0;
@@ -75,7 +75,7 @@ HelperOutcome RunWith(Subject& subject, Place const& place, CallVerdict const& v
     return outcome;
 }
 
-/// Calls whose failure a sanitizer's runtime does not survive.
+/// Failed calls that end a sanitizer's runtime.
 bool IsTheSanitizersOwn(long call)
 {
     std::set<long> const calls{SYS_mmap,        SYS_munmap,       SYS_mprotect,       SYS_madvise, SYS_brk,
@@ -86,8 +86,8 @@ bool IsTheSanitizersOwn(long call)
 class EveryCall : public testing::TestWithParam<Step>
 {
 protected:
-    /// Calls \a check with the places that \a canFail, each with every row; without PELNAR_EVERY_PLACE with so many
-    /// pairs of them. It says whether it was able to do there what it wanted to.
+    /// Calls \a check with each place that \a canFail and each row; without PELNAR_EVERY_PLACE, with that many pairs.
+    /// \a check returns whether the fault took place.
     template <typename CanFail, typename Check>
     void Sweep(std::size_t rows, std::size_t sample, CanFail const& canFail, Check const& check)
     {
@@ -95,7 +95,7 @@ protected:
         places.erase(std::remove_if(places.begin(), places.end(), [&](Place const& place) { return !canFail(place); }),
                      places.end());
         std::size_t const pairs = places.size() * rows;
-        // Without a divisor in common with the rows, so that each row is met.
+        // No common divisor with the number of rows, so that each row is used.
         std::size_t stride = IsEveryPlaceWanted() ? 1 : std::max<std::size_t>(pairs / sample, 1);
         while (std::gcd(stride, rows) != 1)
         {
@@ -117,7 +117,7 @@ protected:
         EXPECT_GE(met * 10, runs * 9) << "of so many runs too few met their place";
     }
 
-    /// A helper that says that all went well has told the truth; one that says nothing has not crashed.
+    /// If a helper reports success, this is true. If it reports nothing, it has not crashed.
     void ExpectHonest(HelperOutcome const& outcome, Subject const& subject) const
     {
         EXPECT_EQ(outcome.signal, 0);
@@ -140,9 +140,8 @@ protected:
 TEST_P(EveryCall, FailsCleanly)
 {
     constexpr int ERRORS[] = {ENOSPC, EIO, EDQUOT, EMFILE, ENOMEM, EACCES, EROFS};
-    // There is no life after the first. The libraries end the process when the next three fail, which no disk or limit
-    // makes them do (brk has no errors at all). After the last the helper says by its status alone that it was called
-    // wrongly.
+    // exit_group cannot fail. If the next three failed, the libraries would end the process, but no disk or limit makes
+    // them fail (brk has no errors). If chdir fails, only the exit status says that the helper was called wrongly.
     std::set<long> const beyondFailing{SYS_exit_group, SYS_futex, SYS_getrandom, SYS_brk, SYS_chdir};
     Sweep(
         std::size(ERRORS), 40,
@@ -202,7 +201,7 @@ TEST_P(EveryCall, IsWhereMemoryMayRunOut)
     }
     int refused = 0;
     bool hasEnough = false;
-    // From a helper that does not even start to one that has enough.
+    // From limits with which a helper does not even start to sufficient ones.
     for (int kibibytes = 3000; !hasEnough; kibibytes += IsEveryPlaceWanted() ? 16 : 256)
     {
         SCOPED_TRACE(kibibytes);
@@ -237,7 +236,7 @@ TEST_P(EveryCall, IsWhereAllProcessesAreKilledAtOnce)
         });
 }
 
-/// A session that ends sends these; an installation that has begun is not held up by them.
+/// The end of a session sends these signals. They do not interrupt an installation that has begun.
 TEST_P(EveryCall, IsWhereTheSessionEnds)
 {
     constexpr int SIGNALS[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};

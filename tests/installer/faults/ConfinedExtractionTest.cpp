@@ -1,5 +1,5 @@
-// ConfinedExtractionTest.cpp: hostile archives meet one line of defence at a time: an extractor without any rules in
-// the helper's confinement, and the helper's rules on a kernel that cannot confine.
+// ConfinedExtractionTest.cpp: hostile archives against one line of defence at a time: an extractor without rules in the
+// helper's confinement, and the helper's rules on a kernel that cannot confine.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Installer/Confinement.h"
@@ -38,7 +38,7 @@ std::string ArchiveOf(Evil const& evil)
     return MakeArchive(evil.isInTar ? Container::TarGzip : Container::Zip, entries);
 }
 
-/// Extracts every entry as it says, in the working folder.
+/// Extracts every entry unchanged to the working folder.
 void ExtractWithoutRules(std::string const& bytes)
 {
     archive* const reader = archive_read_new();
@@ -78,8 +78,8 @@ TEST_P(EvilArchive, ExtractedWithoutRulesStaysInTheConfinement)
     EXPECT_FALSE(std::filesystem::exists("/tmp/pelnar-evil"));
 }
 
-/// Prepares the scene's archive; how often the helper has made something on the disk. \a atConfinement is the answer to
-/// the call by which the confinement begins.
+/// Prepares the scene's archive. Returns how often the helper has created something on the disk. \a atConfinement is
+/// the fate of the call that starts the confinement.
 int PrepareAndCountWrites(UpdateScene& scene, CallVerdict const& atConfinement, HelperOutcome& outcome)
 {
     std::set<long> const making{SYS_mkdirat, SYS_symlinkat, SYS_linkat, SYS_mknodat, SYS_renameat, SYS_renameat2};
@@ -94,7 +94,7 @@ int PrepareAndCountWrites(UpdateScene& scene, CallVerdict const& atConfinement, 
     return writes;
 }
 
-/// Its bundle's folder comes first in each of the archives.
+/// The bundle's folder is the first entry of each archive.
 void ExpectRefusedBeforeTheFirstWrite(Evil const& evil, CallVerdict const& atConfinement)
 {
     Versions const versions;

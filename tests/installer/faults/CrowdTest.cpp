@@ -20,7 +20,7 @@ struct Contender
     HelperOutcome outcome;
 };
 
-/// Runs so many helpers at once over as many copies of a prepared update.
+/// Runs this number of helpers at the same time, each with its own copy of a prepared update.
 void Contend(int count, Versions const& versions)
 {
     UpdateScene scene;

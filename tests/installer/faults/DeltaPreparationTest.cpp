@@ -1,5 +1,5 @@
-// DeltaPreparationTest.cpp: deltas, right ones and every kind of wrong one, through the helper's real process: what
-// comes out is exactly the new version, or nothing.
+// DeltaPreparationTest.cpp: valid deltas and every kind of invalid one, with the helper's real process. The result is
+// exactly the new version, or nothing.
 
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
@@ -58,7 +58,7 @@ TEST_P(EvilTreeOfADelta, IsRefusedAsItIsInAnArchive)
     UpdateScene scene(MakeEvilDelta(evil, std::get<1>(GetParam())));
     HelperOutcome const outcome = scene.Prepare(DeltaJob(scene));
     EXPECT_EQ(outcome.exitStatus, 1);
-    // In a delta the link comes before what lies below it.
+    // In a delta the link comes before the entries below it.
     bool const isOrdered = evil.name == std::string("ImpliedFolderThenLink");
     EXPECT_EQ(outcome.Fault(), isOrdered ? UpdateFault::EntryUnderNoFolder : evil.fault);
     EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);

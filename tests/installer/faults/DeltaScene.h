@@ -1,4 +1,4 @@
-// DeltaScene.h: what the tests of wrong deltas share.
+// DeltaScene.h: shared by the tests of invalid deltas.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainerWriter.h"

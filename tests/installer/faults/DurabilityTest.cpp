@@ -1,4 +1,4 @@
-// DurabilityTest.cpp: what is on the disk before the helper tells of it.
+// DurabilityTest.cpp: the files that are on the disk before the helper reports them.
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
@@ -54,7 +54,7 @@ TEST(Durability, SwapIsToldOnlyWhenBothFoldersAreOnTheDisk)
     EXPECT_EQ(DurabilityOrder(Step::Installation),
               (std::vector<std::string>{"sync file", "renameat", "sync bundle's folder", "renameat2", "sync staging",
                                         "sync bundle's folder", "told"}));
-    // Nothing stands between the two renames, during which the bundle is missing.
+    // No call is between the two renames, because the bundle is missing then.
     EXPECT_EQ(DurabilityOrder(Step::InstallationWithoutExchange),
               (std::vector<std::string>{"sync file", "renameat", "sync bundle's folder", "renameat2", "renameat",
                                         "renameat", "sync staging", "sync bundle's folder", "told"}));
@@ -102,7 +102,7 @@ TEST_P(UnsyncedSwap, IsUndoneAndTheStagedBundleThrownAway)
 INSTANTIATE_TEST_SUITE_P(Steps, UnsyncedSwap, testing::Values(Step::Installation, Step::InstallationWithoutExchange),
                          [](testing::TestParamInfo<Step> const& info) { return StepName(info.param); });
 
-/// The undoing is what does it, and not the recovery that follows: that one finds nothing to put back.
+/// The undo does this, not the recovery after it: the recovery finds nothing to restore.
 TEST(Durability, TwoRenamesThatCouldNotBeSyncedAreUndoneByTwoRenames)
 {
     Versions const versions;
@@ -128,8 +128,8 @@ TEST(Durability, TwoRenamesThatCouldNotBeSyncedAreUndoneByTwoRenames)
     }
 }
 
-/// What a program that the helper started, or became, could gain by a bit in its file's mode is gone before a byte of
-/// the archive is unpacked.
+/// Before the first byte of the archive is unpacked, no program that the helper starts can gain privileges through the
+/// mode of its file (setuid).
 TEST(Confinement, GivesUpNewPrivilegesBeforeTheArchiveIsRead)
 {
     Subject subject(Step::Preparation);

@@ -1,4 +1,4 @@
-// EvilDeltaTest.cpp: every kind of wrong delta, through the helper's real process: nothing comes out.
+// EvilDeltaTest.cpp: every kind of invalid delta, with the helper's real process: nothing is prepared.
 
 #include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
@@ -23,7 +23,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// The right delta \a whole with its manifest, and the data behind it, changed.
+/// The valid delta \a whole with a changed manifest, and changed data after it.
 std::string Changed(std::string const& whole, void (*change)(DeltaManifest& manifest, std::string& data))
 {
     Workspace const place;
@@ -57,7 +57,7 @@ void ChangeHashOf(DeltaManifest& manifest, DeltaEntryKind kind)
     EntryOf(manifest, kind).hash[0] ^= 1;
 }
 
-/// Where the data of the first entry of that kind begins.
+/// The start of the data of the first entry of that kind.
 std::size_t OffsetOf(DeltaManifest const& manifest, DeltaEntryKind kind)
 {
     std::size_t offset = 0;
@@ -97,7 +97,8 @@ void UseSteps(DeltaManifest& manifest, std::string& data, std::vector<std::uint6
     entry.streamsStored[0] = stored.size();
 }
 
-/// The right delta with bytes between the end of one of the patch's frames and where its place in the container ends.
+/// The valid delta with extra bytes between the end of one of the patch's frames and the end of its place in the
+/// container.
 template <std::size_t STREAM>
 std::string DeltaWithBytesBehindAFrame()
 {
@@ -115,7 +116,7 @@ std::string DeltaWithBytesBehindAFrame()
         });
 }
 
-/// A joined one with bytes between the end of a stream and where its place in the container ends.
+/// A joined delta with extra bytes between the end of a stream and the end of its place in the container.
 template <std::size_t STREAM>
 std::string DeltaWithBytesBehindAStream()
 {
@@ -132,7 +133,7 @@ std::string DeltaWithBytesBehindAStream()
         });
 }
 
-/// A joined one whose stream of steps is another.
+/// A joined delta with another stream of steps.
 std::string DeltaWithSteps(std::vector<std::uint64_t> const& numbers)
 {
     static ByteBuffer steps;

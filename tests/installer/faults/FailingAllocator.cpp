@@ -1,5 +1,5 @@
-// FailingAllocator.cpp: a library for the loader's --preload that refuses memory as the test asks for, by what stands
-// in a file that the program inherits.
+// FailingAllocator.cpp: a library for the loader's --preload that refuses memory as the test says, in a file that the
+// program inherits.
 
 #include "tests/installer/faults/FailingAllocator.h"
 
@@ -23,7 +23,7 @@ using Pelnar::Testing::AllocationPlan;
 
 AllocationPlan* g_plan = nullptr;
 
-/// Counts one more allocation, of all processes that share the plan; true when it is to fail.
+/// Counts one more allocation of all processes that share the plan. Returns true if it must fail.
 bool IsRefused()
 {
     if (!g_plan)
@@ -41,7 +41,7 @@ bool IsRefused()
     return isRefused;
 }
 
-/// Before the program's main function, which closes what it does not know.
+/// Before the program's main function, which closes unknown descriptors.
 __attribute__((constructor)) void TakePlan()
 {
     void* const memory = ::mmap(nullptr, sizeof(AllocationPlan), PROT_READ | PROT_WRITE, MAP_SHARED,

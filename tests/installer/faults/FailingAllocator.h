@@ -1,6 +1,6 @@
-// FailingAllocator.h: what a test and the allocator that it puts under a program share: which allocations fail, and how
+// FailingAllocator.h: the memory that a test shares with the allocator in a program: which allocations fail, and how
 // many there were.
-// Thread: any; the counters are atomic, also between processes. Ownership: a file's mapping on both sides.
+// Thread: any; the counters are atomic, also between processes. Ownership: both sides map the file.
 #pragma once
 
 #include <atomic>
@@ -9,7 +9,7 @@
 namespace Pelnar::Testing
 {
 
-/// Under this number the program inherits the file with the plan. Of one digit, for the shell that opens it.
+/// The number of the inherited file with the plan. One digit, because the shell can open only these.
 constexpr int ALLOCATION_PLAN_DESCRIPTOR = 9;
 
 struct AllocationPlan

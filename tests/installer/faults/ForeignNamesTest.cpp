@@ -1,4 +1,4 @@
-// ForeignNamesTest.cpp: locks and names of another user that are in the way of an update.
+// ForeignNamesTest.cpp: locks and files of another user that hinder an update.
 
 #include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/helper/SwapJournal.h"
@@ -25,8 +25,8 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// Locks everything below the folder that the attacker may open, until the other end of the pipe closes; how much that
-/// was.
+/// Locks every file below the folder that the attacker can open, until the other end of the pipe closes. Returns their
+/// number.
 class LockHolder
 {
 public:
@@ -100,7 +100,7 @@ TEST(ForeignLocks, HoldNobodyUp)
     REQUIRE_ADMINISTRATOR_FOR_USERS();
     VictimScene victim;
     InstallJob const job = victim.Prepare();
-    // As a killed helper leaves it: there is something to hold.
+    // The files of a killed helper, so that there is something to lock.
     PutBytes(victim.Path(LockFileName(APP)), {}, 0600);
     GiveTo(VICTIM, victim.Path(LockFileName(APP)));
     LockHolder const holder(victim.Folder());
@@ -127,7 +127,7 @@ class ForeignNames : public testing::TestWithParam<SquatRow>
 {
 };
 
-/// The attacker put a name there while the folder was shared; the owner has closed it since.
+/// The attacker created the name while the folder was shared. The owner has closed the folder since.
 TEST_P(ForeignNames, BlockNoUpdate)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
@@ -173,8 +173,8 @@ INSTANTIATE_TEST_SUITE_P(Table, ForeignNames,
                                          SquatRow{"LockFolder", &LockFileName, "", true}),
                          [](testing::TestParamInfo<SquatRow> const& info) { return info.param.name; });
 
-/// Another user foresees every name that the helper is about to make, while it may still write to the folder. Wherever
-/// that is, the folder is not used: none of it is the other user's to give.
+/// Another user guesses every name that the helper is about to create, while they can still write to the folder. The
+/// folder is then not used, because the other user owns these files.
 TEST(StagingNames, TakenByAnotherUserBeforehandAreLeftAlone)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
@@ -208,7 +208,7 @@ TEST(StagingNames, TakenByAnotherUserBeforehandAreLeftAlone)
         EXPECT_EQ(scene.Place().Names(name), std::vector<std::string>{APP}) << "nothing was put there or taken";
         EXPECT_TRUE(std::filesystem::exists(scene.Place().Path() + '/' + name + '/' + APP + "/run"));
     }
-    // Nor is any of them tidied away, or believed, later.
+    // They are also not removed or trusted later.
     scene.ReleaseStaging();
     EXPECT_EQ(scene.Recover("1.0").exitStatus, 0);
     EXPECT_EQ(scene.Place().Names().size(), taken.size() + 1);

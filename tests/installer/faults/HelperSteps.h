@@ -1,4 +1,4 @@
-// HelperSteps.h: the steps of an update that the helper does, each ready to be run with a fault.
+// HelperSteps.h: the steps of an update in the helper, each ready to run with a fault.
 #pragma once
 
 #include "Engine/core/helper/SwapJournal.h"

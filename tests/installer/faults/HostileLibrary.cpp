@@ -1,4 +1,4 @@
-// HostileLibrary.cpp: a library for LD_PRELOAD in which everything that an update needs fails.
+// HostileLibrary.cpp: a library for LD_PRELOAD in which every function that an update needs fails.
 
 #include <cerrno>
 #include <cstddef>

@@ -1,5 +1,5 @@
-// LockTest.cpp: who holds a lock is the kernel's knowledge alone: it ends with its holder, however that ends, and
-// neither that a file is there nor the number of a process stands for it.
+// LockTest.cpp: only the kernel knows who holds a lock. A lock ends with its holder's process. Neither an existing file
+// nor a process number counts as a lock.
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
@@ -26,7 +26,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// Takes and leaves the lock of what stands there; false when somebody has it.
+/// Takes and releases the lock of the file; false if another process holds it.
 [[nodiscard]] bool CanLock(std::string const& path)
 {
     UniqueFd const descriptor(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
@@ -39,7 +39,8 @@ using namespace Pelnar::Testing;
     return isLocked;
 }
 
-/// At the first call after a helper has got the lock of the bundle's folder: \a act, whose answer is the call's.
+/// Calls \a act at the first call after a helper has locked the bundle's folder. Its result is the verdict on this
+/// call.
 HelperStart WhenLocked(std::function<CallVerdict()> const& act)
 {
     HelperStart start;
@@ -91,7 +92,7 @@ TEST(Lock, FilesThatLookLikeOneAreNone)
     UpdateScene scene;
     InstallJob const job = scene.PrepareForInstall();
     scene.Host().End();
-    // What a lock file might be called, with a process that lives and is not going to end.
+    // Possible names of lock files, each with a living process.
     std::string const living = std::to_string(::getpid()) + "\n";
     std::string const name = SwapJournalName(APP);
     std::vector<ForgedEntry> decoys;
@@ -122,8 +123,8 @@ TEST(Lock, FilesThatLookLikeOneAreNone)
     }
 }
 
-/// A process of this number, which waits for the end of \a lifelineFd's other end; -1 when the kernel does not let one
-/// choose, or somebody else has the number.
+/// A process with this number, which waits until the other end of \a lifelineFd is closed; -1 if the kernel does not
+/// let a process choose, or the number is in use.
 pid_t ForkAs(pid_t number, int lifelineFd)
 {
     pid_t wanted[] = {number};
@@ -174,7 +175,7 @@ void InstallWhileAnotherHasTheHostsNumber()
     ExpectRecovered(scene, versions);
 }
 
-/// In a container, where anyone who made it may choose the numbers of processes.
+/// In a container whose owner may choose the numbers of processes.
 TEST(Lock, ProcessWithTheNumberOfTheHostThatEndedIsNotWaitedFor)
 {
     if (!RunInContainer(&InstallWhileAnotherHasTheHostsNumber))
@@ -183,7 +184,7 @@ TEST(Lock, ProcessWithTheNumberOfTheHostThatEndedIsNotWaitedFor)
     }
 }
 
-/// What may stand under the name of the lock's file.
+/// Objects with the name of the lock's file.
 struct SquatterRow
 {
     char const* name;
@@ -202,7 +203,7 @@ TEST_P(LockSquatter, HoldsNobodyUp)
     scene.Host().End();
     std::string const path = scene.Place().Path() + '/' + LockFileName(APP);
     GetParam().put(path);
-    // Anyone who could open it holds its lock, and does not let go.
+    // Another process that could open it holds its lock for ever.
     UniqueFd const squatter(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     EXPECT_TRUE(!squatter || ::flock(squatter.Get(), LOCK_EX | LOCK_NB) == 0);
     HelperOutcome const outcome = scene.Install(job);
@@ -245,7 +246,7 @@ INSTANTIATE_TEST_SUITE_P(Table, LockSquatter,
                                                      }}),
                          [](testing::TestParamInfo<SquatterRow> const& info) { return info.param.name; });
 
-/// Another name of the file is none by which others could open it: it must not split those who wait.
+/// A second name of the file does not let others open it. It stays the same lock for all who wait.
 TEST(Lock, FileWithASecondNameIsTheSameLock)
 {
     UpdateScene scene;
@@ -259,7 +260,7 @@ TEST(Lock, FileWithASecondNameIsTheSameLock)
     HelperStart start;
     start.atEveryCall = [&](CallStop const& stop)
     {
-        // The helper would wait for its turn here; it must not get it.
+        // The helper would wait here for its turn. It must not get it.
         waited += stop.call == SYS_flock ? 1 : 0;
         return stop.call == SYS_flock ? CallVerdict::Fail(ENOLCK) : CallVerdict::GoOn();
     };

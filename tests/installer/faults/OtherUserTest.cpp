@@ -1,5 +1,5 @@
-// OtherUserTest.cpp: what another user of the machine can do to an update: put names into a folder that is shared, or
-// was, hold locks, and lend files. Both users are real ones.
+// OtherUserTest.cpp: how another user of the machine can interfere with an update: with files in a folder that is or
+// was shared, with locks, and with lent files. Both users are real.
 
 #include "tests/installer/OtherUser.h"
 #include "Engine/core/helper/NoteFile.h"
@@ -30,7 +30,7 @@ struct TrustRow
     mode_t stagingMode;
     uid_t noteOwner;
     mode_t noteMode;
-    bool isNoteLinked; ///< the note has another name elsewhere
+    bool isNoteLinked; ///< the note has a hard link elsewhere
     mode_t folderMode;
     bool isBelieved;
 };
@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
                     TrustRow{"InAStickyFolderForAGroup", VICTIM, 0700, VICTIM, 0600, false, 01775, false}),
     [](testing::TestParamInfo<TrustRow> const& info) { return info.param.name; });
 
-/// The other note: it names a version that is never offered again.
+/// The other note: it names a version that is not offered again.
 TEST(Trust, NoteOfAFailedVersionIsBelievedUnderTheSameRules)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
@@ -126,14 +126,14 @@ TEST(SharedFolder, IsNotInstalledInto)
         EXPECT_EQ(outcome.exitStatus, 1);
         EXPECT_EQ(outcome.Fault(), UpdateFault::FolderUnsafe);
         EXPECT_EQ(victim.scene.Place().StartedVersion(), "1.0");
-        // Nothing is lost: the owner sets it right, and the update goes in.
+        // Nothing is lost: the owner corrects the permissions, and the update is installed.
         ASSERT_EQ(::chmod(victim.Folder().c_str(), 0755), 0);
         EXPECT_EQ(victim.scene.Install(job, victim.asVictim).exitStatus, 0);
         EXPECT_EQ(victim.scene.Place().StartedVersion(), "2.0");
     }
 }
 
-/// Many systems give each user a group of the same name, and new folders to it with all rights.
+/// Many systems give each user a group with the same name, and this group all permissions for new folders.
 TEST(SharedFolder, OfTheUsersOwnGroupIsNobodyElses)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
@@ -166,7 +166,7 @@ TEST(SharedFolder, OfTheUsersOwnGroupIsNobodyElses)
     }
 }
 
-/// The previous version goes whole, as its owner may give themselves the rights to its folders.
+/// The previous version is removed completely, because its owner can give themselves the permissions for its folders.
 TEST(ClosedFolders, OfThePreviousVersionAreNotLeftBehind)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();

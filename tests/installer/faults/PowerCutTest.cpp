@@ -1,7 +1,6 @@
-// PowerCutTest.cpp: the power goes at any call by which the helper changes the disk. The disk is an image's file; its
-// copy, taken while the helper stands still, is mounted as after the next start of the machine. The default run takes a
-// sample of the places, with all that give a file another name; with PELNAR_EVERY_PLACE=1 in the environment it takes
-// them all.
+// PowerCutTest.cpp: a power cut at any disk call of the helper. The disk is an image in a file. While the helper stands
+// still, the file is copied, and the copy is mounted like the disk after the next start of the machine. The default run
+// takes a sample of the places, with all renames; with PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/LoopImage.h"
@@ -35,7 +34,7 @@ bool IsRename(CallStop const& stop)
     return stop.call == SYS_renameat || stop.call == SYS_renameat2;
 }
 
-/// The kernel writes to the disk when it is asked to, and at any other time it likes.
+/// The kernel writes to the disk when it is asked, and also at any other time.
 enum class Writeback
 {
     AsLateAsAllowed,
@@ -66,8 +65,8 @@ protected:
         ASSERT_TRUE(MakeImage(GetParam().kind, m_files.Path() + "/empty")) << GetParam().kind.makeCommand;
     }
 
-    /// Runs \a act, which calls the helper with what it is given, on a new file system, and cuts the power at places of
-    /// it. \a prepareScene comes before, and is not cut.
+    /// Runs \a act, which calls the helper with the given start, on a new file system, and cuts the power at several
+    /// places. \a prepareScene comes before, without power cuts.
     template <typename Prepare, typename Act>
     void CutEverywhere(Prepare const& prepareScene, Act const& act)
     {
@@ -80,7 +79,7 @@ protected:
         RecordProperty("missing_until_recovered", m_missing);
     }
 
-    /// The tree of the bundle on the disk as it is when the helper says that the new version is installed.
+    /// The bundle's tree on the disk at the moment when the helper reports the new version as installed.
     ContentHash TreeWhenToldInstalled(bool areSyncsDone)
     {
         ContentHash tree{};
@@ -131,7 +130,7 @@ private:
         HelperStart start;
         start.atEveryCall = [&](CallStop const& stop)
         {
-            // Between two renames too, of which the disk may have the first alone.
+            // Also between two renames; the disk may have only the first one.
             if (GetParam().writeback == Writeback::AtAnyTime && (IsRename(stop) || m_random() % 3 == 0))
             {
                 ::syncfs(scene->Place().Descriptor());
@@ -270,7 +269,7 @@ TEST_P(PowerCut, AnywhereInTheRecoveryOfAMissingBundleLeavesWhatRecovers)
         {
             InstallJob const job = scene.PrepareForInstall();
             scene.Host().End();
-            // Both processes end between the two renames of a file system without exchange.
+            // Both processes end between the two renames on a file system without exchange.
             int renames = 0;
             HelperStart start;
             start.atEveryCall = [&renames](CallStop const& stop)
@@ -296,7 +295,7 @@ TEST_P(PowerCut, FindsTheNewVersionOnceItIsToldInstalled)
     }
 }
 
-/// A sample has each file system once.
+/// A sample contains each file system once.
 std::vector<Cut> Cuts()
 {
     if (!IsEveryPlaceWanted())

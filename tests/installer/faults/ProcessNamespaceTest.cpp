@@ -1,5 +1,5 @@
-// ProcessNamespaceTest.cpp: host and helper in a namespace of processes of their own, as in a container: their numbers
-// are small, and the first of them is everybody's parent.
+// ProcessNamespaceTest.cpp: host and helper in their own process namespace, as in a container: the process numbers are
+// small, and number 1 becomes the parent of orphans.
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Container.h"

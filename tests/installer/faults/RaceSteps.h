@@ -1,4 +1,4 @@
-// RaceSteps.h: acts of somebody else at a place of the helper's life.
+// RaceSteps.h: actions of another process at a place in the helper's life.
 #pragma once
 
 #include "Engine/core/helper/SwapJournal.h"
@@ -27,7 +27,7 @@ inline int CallsOf(UpdateScene& scene, HelperOutcome (*run)(UpdateScene&, Helper
     return calls;
 }
 
-/// The helper does \a act right before its call number \a place.
+/// Does \a act right before the helper's call number \a place.
 inline HelperStart ActAt(int place, std::function<void()> const& act)
 {
     HelperStart start;

@@ -1,6 +1,5 @@
-// RaceTest.cpp: somebody changes files while the helper works with them: at each of its calls in turn, and from a
-// thread that runs beside it. The default run takes a sample of the places; with PELNAR_EVERY_PLACE=1 in the
-// environment it takes them all.
+// RaceTest.cpp: another process changes files while the helper works: at each of its calls in turn, and from a parallel
+// thread. The default run takes a sample of the places; with PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "Engine/core/helper/SwapJournal.h"
 #include "tests/installer/FaultChecks.h"
@@ -90,7 +89,7 @@ TEST(Race, StagedBundleEditedBeforeItIsCheckedIsRefused)
         }
         else
         {
-            // An edit as late as this is one of the installed version.
+            // A change this late is a change of the installed version.
             wasAccepted = true;
             EXPECT_EQ(outcome.exitStatus, 0);
             EXPECT_EQ(scene.Place().StartedVersion(), "2.0");
@@ -99,7 +98,7 @@ TEST(Race, StagedBundleEditedBeforeItIsCheckedIsRefused)
     EXPECT_GT(refused, 0);
 }
 
-/// Until the journal is on the disk may take long. Nothing but the check lies between that and the swap.
+/// Writing the journal may take long. After that only the check comes before the swap.
 TEST(Race, StagedBundleEditedWhileTheJournalIsWrittenIsRefused)
 {
     Versions const versions;
@@ -198,11 +197,12 @@ TEST(Race, FilesThatOthersDropBesideTheBundleStay)
     EXPECT_EQ(scene.Downloads().Names(), (std::vector<std::string>{"My App.app", "update"}));
 }
 
-/// Changes names beside the bundle, and turns the staged one round and round, as fast as it can.
+/// Renames files next to the bundle, and the staged one back and forth, as fast as it can.
 class Meddler
 {
 public:
-    /// The archive's name is another file's already then: taking it away while it is verified is a reason to refuse.
+    /// Gives the archive's name to another file at once: a rename of the archive during its verification would be a
+    /// reason to refuse.
     explicit Meddler(UpdateScene const& scene)
         : m_thread(
               [this, place = scene.Place().Path(), archive = ArchivePath(scene)]
@@ -228,7 +228,7 @@ public:
     Meddler(Meddler const&) = delete;
     Meddler& operator=(Meddler const&) = delete;
 
-    /// How often it has changed what stands beside the bundle.
+    /// How often it has changed names next to the bundle.
     int End()
     {
         m_isOver = true;
@@ -240,7 +240,7 @@ public:
     }
 
 private:
-    int m_changes = 0; ///< the thread's, until it has ended
+    int m_changes = 0; ///< used by the thread until it has ended
     std::atomic<bool> m_isOver{false};
     std::promise<void> m_hasBegun;
     std::thread m_thread;

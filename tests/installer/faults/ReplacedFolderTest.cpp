@@ -1,5 +1,5 @@
-// ReplacedFolderTest.cpp: the folder that holds the bundle is moved away, and a link stands in its place, at each call
-// of an installation. The default run takes a sample of the calls; with PELNAR_EVERY_PLACE=1 in the environment all.
+// ReplacedFolderTest.cpp: at each call of an installation, the folder of the bundle is moved away and replaced by a
+// link. The default run takes a sample of the calls; with PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "tests/installer/FaultChecks.h"
 
@@ -15,7 +15,7 @@ using namespace Pelnar::Testing;
 
 constexpr int SAMPLE_OF = 11;
 
-/// An update whose host has ended, in a folder that others can take away.
+/// An update whose host has ended, in a folder that others can rename.
 class FolderScene
 {
 public:
@@ -34,7 +34,7 @@ public:
         return m_scene.Install(m_job, start);
     }
 
-    /// The folder is under another name from here on, and under its own is a link to another one.
+    /// From here on the folder has another name, and its old name is a link to another folder.
     void ReplaceFolder()
     {
         std::filesystem::rename(m_scene.Place().Path(), Moved());

@@ -1,5 +1,5 @@
-// ScarceMemoryTest.cpp: an allocation of the helper fails, in whichever of its processes, or all do from one on. The
-// default run takes a sample of them; with PELNAR_EVERY_PLACE=1 in the environment it takes them all.
+// ScarceMemoryTest.cpp: one allocation of the helper fails, in any of its processes, or all allocations after one of
+// them. The default run takes a sample; with PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/faults/FailingAllocator.h"
@@ -44,7 +44,7 @@ public:
 
     AllocationPlan const& Counts() const { return *m_plan; }
 
-    /// The loader takes the allocator by its own argument: the helper would drop the variable that names it.
+    /// The allocator is an argument of the loader, because the helper would remove the environment variable.
     HelperStart Start() const
     {
         return {
@@ -116,8 +116,8 @@ protected:
 
     void ExpectHonest(UpdateScene const& scene, HelperOutcome const& outcome) const
     {
-        // Some libraries end the process rather than go without; so does the language where it cannot even say so. The
-        // status tells the host as much.
+        // Some libraries end the process without memory. The language does so if it cannot even throw. The exit status
+        // says enough to the host.
         bool const isDeath = outcome.signal == SIGABRT || outcome.signal == SIGSEGV;
         EXPECT_TRUE(outcome.exitStatus == 0 || outcome.exitStatus == 1 || isDeath)
             << outcome.exitStatus << ", signal " << outcome.signal;
@@ -157,7 +157,7 @@ TEST_P(ScarceMemory, EndsInOneOfTheVersionsAndNeverInALie)
         UpdateScene scene;
         SharedPlan const plan(GetParam().mode, place);
         HelperOutcome const outcome = Run(scene, plan);
-        // A run may ask for less than the one before: a process with a shorter number has a shorter path.
+        // A run may allocate less than the one before: a shorter process number gives a shorter path.
         EXPECT_EQ(plan.Counts().refused > 0, plan.Counts().asked >= place);
         ++runs;
         met += plan.Counts().refused > 0 ? 1 : 0;

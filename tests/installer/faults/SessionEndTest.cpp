@@ -1,5 +1,5 @@
-// SessionEndTest.cpp: the session ends, by each of its signals, at each call that moves the bundles or puts them on the
-// disk. The sample of EveryCall.IsWhereTheSessionEnds has any call; these are the ones that must not be left half done.
+// SessionEndTest.cpp: the session ends, with each of its signals, at each call that moves the bundles or makes them
+// durable. EveryCall.IsWhereTheSessionEnds takes a sample of all calls; these calls must not be left half done.
 
 #include "tests/installer/FaultChecks.h"
 
@@ -32,7 +32,7 @@ class ReadyScene
 public:
     ReadyScene() : m_job(scene.PrepareForInstall()) { scene.Host().End(); }
 
-    /// Installs it, with \a visitor deciding what becomes of each call.
+    /// Installs it. \a visitor decides about each call.
     HelperOutcome Install(Exchange exchange, CallVisitor const& visitor)
     {
         HelperStart start;
@@ -51,7 +51,7 @@ private:
     InstallJob m_job;
 };
 
-/// The renames and syncs of an installation that succeed, each with its number among its kind.
+/// The successful renames and syncs of an installation, each with its number among its kind.
 std::vector<std::pair<long, int>> CriticalCalls(Exchange exchange)
 {
     std::set<long> const critical{SYS_renameat, SYS_renameat2, SYS_fsync};
@@ -70,7 +70,7 @@ std::vector<std::pair<long, int>> CriticalCalls(Exchange exchange)
                                                     return CallVerdict::GoOn();
                                                 });
     EXPECT_EQ(outcome.exitStatus, 0);
-    // The journal's, and the bundle's by one or by two.
+    // One rename for the journal, and one or two for the bundle.
     EXPECT_EQ(counts[SYS_renameat] + counts[SYS_renameat2], exchange == Exchange::Possible ? 2 : 3);
     EXPECT_EQ(counts[SYS_fsync], 4);
     return calls;
@@ -112,7 +112,7 @@ INSTANTIATE_TEST_SUITE_P(Exchanges, SessionEnd, testing::Values(Exchange::Possib
                          [](testing::TestParamInfo<Exchange> const& info)
                          { return info.param == Exchange::Possible ? "Possible" : "Refused"; });
 
-/// What ends a terminal, or a session with all of its processes, does not reach the helper.
+/// Signals to a terminal's or a session's processes do not reach the helper.
 TEST(Session, IsTheHelpersOwn)
 {
     std::set<pid_t> sessions;

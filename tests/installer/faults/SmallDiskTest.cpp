@@ -1,5 +1,5 @@
-// SmallDiskTest.cpp: a disk of every size between one that has no room for an update and one that has enough. It is
-// full at another moment each time: in the middle of a file, at a folder, at the journal.
+// SmallDiskTest.cpp: disks of every size from too small for an update to large enough. Each becomes full at another
+// moment: in the middle of a file, at a folder, at the journal.
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/support/Container.h"
@@ -19,7 +19,7 @@ using namespace Pelnar::Testing;
 
 constexpr int LARGEST_KIBIBYTES = 4096;
 
-/// A new version of many small files, so that there are many moments at which there is no more room.
+/// A new version of many small files, so that the disk can become full at many moments.
 std::string ManyFiles()
 {
     std::vector<ForgedEntry> entries = MakeBundle("2.0");
@@ -47,7 +47,7 @@ struct Ending
     UpdateFault installation = UpdateFault::None;
 };
 
-/// Prepares and installs the update on the disk whose folder is \a point.
+/// Prepares and installs the update on the disk mounted at \a point.
 Ending UpdateOn(std::string const& point, std::string const& archive, Versions const& versions)
 {
     UpdateScene scene(archive, point);
@@ -79,7 +79,7 @@ void UpdateOnDisksOfEverySize()
     int preparations = 0;
     int installations = 0;
     bool hasRoom = false;
-    // From hardly more room than the installed version needs.
+    // Starts with little more space than the installed version needs.
     for (int kibibytes = 24; !hasRoom && kibibytes <= LARGEST_KIBIBYTES; kibibytes += 4)
     {
         SCOPED_TRACE(testing::Message() << kibibytes << " KiB");

@@ -1,4 +1,4 @@
-// VictimScene.h: the application of one user, and what another user leaves beside it.
+// VictimScene.h: the application of one user, and another user's files next to it.
 #pragma once
 
 #include "Engine/core/helper/NoteFile.h"
@@ -17,9 +17,9 @@
 namespace Pelnar::Testing
 {
 
-constexpr std::chrono::seconds LONGEST_WAIT{25}; ///< of a helper that is held up by nobody, on a busy machine
+constexpr std::chrono::seconds LONGEST_WAIT{25}; ///< for a helper that nobody delays, on a busy machine
 
-/// The victim's application, and an update of it that is ready; both helpers run as the victim.
+/// The victim's application and a prepared update; both helpers run as the victim.
 class VictimScene
 {
 public:
@@ -66,7 +66,7 @@ inline void PutBytes(std::string const& path, std::string const& bytes, mode_t m
     ASSERT_EQ(::chmod(path.c_str(), mode), 0);
 }
 
-/// What the attacker would have run as the victim: a bundle that calls itself the previous version.
+/// The bundle that the attacker wants the victim to run. It claims to be the previous version.
 inline void PutEvilStaging(std::string const& path)
 {
     ASSERT_EQ(::mkdir(path.c_str(), 0755), 0);
@@ -83,7 +83,7 @@ inline std::string EvilName()
     return Engine::UpdateFilePrefix(APP) + EVIL_STAGING;
 }
 
-/// A journal that asks for the bundle's exchange with the previous version in the folder.
+/// A journal that requests the exchange of the bundle with the previous version in the folder.
 inline std::string JournalOf(std::string const& stagingName)
 {
     return Engine::EncodeSwapJournal(

@@ -1,4 +1,4 @@
-// spoken.cpp: says where Qt looks for its translations, and a word of Qt's in German.
+// spoken.cpp: prints where Qt searches for its translations, and one of Qt's words in German.
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -10,7 +10,8 @@ int main(int argc, char** argv)
     QCoreApplication const application(argc, argv);
     QString const folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
     QTranslator translator;
-    bool const isLoaded = translator.load(QLocale(QLocale::German), QStringLiteral("qtbase"), QStringLiteral("_"), folder);
+    bool const isLoaded =
+        translator.load(QLocale(QLocale::German), QStringLiteral("qtbase"), QStringLiteral("_"), folder);
     QCoreApplication::installTranslator(&translator);
     QTextStream out(stdout);
     out.setCodec("UTF-8");

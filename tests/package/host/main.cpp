@@ -1,5 +1,5 @@
-// main.cpp: a host that checks once, against a feed file given as argument or the feed that its
-// bundle names, and says what it was told.
+// main.cpp: a host that makes one check, of the feed file in its argument or the feed that its bundle names, and prints
+// the notifications.
 
 #include "App/UpdateChecker/IUpdateManagerObserver.h"
 #include "App/UpdateChecker/UpdateManager.h"

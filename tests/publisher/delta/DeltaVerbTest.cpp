@@ -21,7 +21,7 @@ namespace Pelnar::Testing
 namespace
 {
 
-/// A bundle of that version with one file that is kept, one that changes a little and one that is new.
+/// A bundle of that version with one unchanged file, one that changes a little and one that is new.
 std::vector<ForgedEntry> MakeGrowingBundle(std::string const& version)
 {
     std::vector<ForgedEntry> entries = MakeBundle(version);

@@ -1,4 +1,4 @@
-// DescriptionTest.cpp: help text, manual page and completion say one thing of every verb and option.
+// DescriptionTest.cpp: help text, manual page and completion describe every verb and option in the same way.
 
 #include "Publisher/Verb.h"
 #include "Publisher/description/CommandDescription.h"
@@ -40,7 +40,7 @@ std::string SourceFile(char const* path)
     return file.readAll().toStdString();
 }
 
-/// Text without any blank, and without what only the formatter of manual pages sees.
+/// Text without blanks and without the marks for the formatter of manual pages.
 std::string Squeezed(std::string text)
 {
     for (char const* const mark : {"\\fB", "\\fI", "\\fR", "\\&"})
@@ -104,7 +104,7 @@ TEST(CommandDescription, EveryOptionIsDescribed)
     }
 }
 
-/// What bash offers for the last of \a words.
+/// The words that bash offers for the last of \a words.
 QStringList Completions(QStringList const& words)
 {
     QProcess bash;

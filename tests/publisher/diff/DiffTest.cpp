@@ -1,4 +1,4 @@
-// DiffTest.cpp: `pelnar-appcast diff`: two feeds by their effect.
+// DiffTest.cpp: `pelnar-appcast diff`: the different effects of two feeds.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "Publisher/diff/FeedDiff.h"
@@ -241,7 +241,7 @@ TEST(SystemRanges, WithinARangeEverySystemHasTheSameOutcome)
         for (int probe = 0; probe < 40; ++probe)
         {
             Core::Version const system(number(7), number(4), number(2));
-            // The last range that begins at or below the system holds it.
+            // The last range that begins at or below the system contains it.
             Publisher::SystemRange const* holder = nullptr;
             for (Publisher::SystemRange const& range : ranges)
             {

@@ -1,4 +1,4 @@
-// EditTest.cpp: single items of a published feed are changed, and every other byte stays.
+// EditTest.cpp: the verbs that change one item of a published feed. Every other byte stays.
 
 #include "tests/publisher/support/AppcastTool.h"
 

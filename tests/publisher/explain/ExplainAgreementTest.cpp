@@ -1,5 +1,5 @@
-// ExplainAgreementTest.cpp: the tool and the shipped updater, side by side over feeds that a generator makes out of
-// the values at which the rules turn.
+// ExplainAgreementTest.cpp: the tool and the shipped updater must agree on random feeds. The generator prefers values
+// at the limits of the rules.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
@@ -61,7 +61,7 @@ private:
                 "</s:maximumSystemVersion>";
         item += QByteArray("<pelnar1_") + OneOf({"A", "b", "OverridePathToRelaunch"}) + OneOf({"", " x='y'"}) + "/>";
         item += "<s:deltas>";
-        // No two deltas start from one version: the order in which they are met is not defined.
+        // Each delta starts from another version: the order among deltas of one version is not defined.
         if (Number(2) == 0)
         {
             item += Enclosure(version) + " s:deltaFrom='" + OneOf({"5.0", "5.0.0.0", "5"}) + "' pelnar1_A='d'/>";
@@ -117,7 +117,7 @@ TEST(ExplainAgreement, TheToolChoosesWhatTheShippedUpdaterChooses)
             deltas += choice.chosen->isDelta ? 1 : 0;
         }
     }
-    // The generator reaches every kind of answer.
+    // The generator produces every kind of answer.
     EXPECT_GT(chosen, FEEDS / 10);
     EXPECT_LT(chosen, FEEDS);
     EXPECT_GT(deltas, FEEDS / 100);

@@ -1,8 +1,7 @@
-// ExplainCorpusTest.cpp: feeds that other people published, through the verb as it is typed: every answer is the
-// expected one.
-//
-// The folder is that of the environment variable PELNAR_FEED_CORPUS: the feeds, and expected-choices.tsv with the
-// columns file, local, system, outcome, version, delta_from, length, url.
+// ExplainCorpusTest.cpp: published feeds of other people, judged by the built program. Every answer is the expected
+// one.
+// The environment variable PELNAR_FEED_CORPUS names the folder. It contains the feeds, and expected-choices.tsv with
+// the columns file, local, system, outcome, version, delta_from, length, url.
 
 #include "tests/publisher/support/AppcastTool.h"
 
@@ -26,7 +25,7 @@ ToolRun Explain(QString const& file, QString const& localVersion, QString const&
                     QStringLiteral("--local-version"), localVersion, QStringLiteral("--system-version"), systemVersion,
                     QStringLiteral("--platform"), QStringLiteral("macos"), QStringLiteral("--published-at"),
                     QStringLiteral("https://feeds.example.com/appcast.xml"), QStringLiteral("--json"),
-                    // The table knows the choice among all items of a feed.
+                    // The table contains the choice among all items of a feed.
                     QStringLiteral("--machine"), QStringLiteral("any"), QStringLiteral("--channels"),
                     QStringLiteral("beta,prerelease")});
 }

@@ -1,4 +1,4 @@
-// ExplainOutputTest.cpp: `pelnar-appcast explain` as a person types and reads it, and its JSON.
+// ExplainOutputTest.cpp: `pelnar-appcast explain` from the command line: its text and its JSON.
 
 #include "tests/publisher/support/AppcastTool.h"
 
@@ -92,7 +92,7 @@ item 0: 5.2  BUNDLE  2000 bytes
 
 TEST(ExplainOutput, AsksWhatAClientTakesThatTrustsTheseKeys)
 {
-    // Points of the curve that are short to write.
+    // Points of the curve with a short encoding.
     QString const one = QString::fromLatin1(QByteArray(32, 6).toBase64());
     QString const two = QString::fromLatin1(QByteArray(32, 25).toBase64());
     QStringList const both = Line({QStringLiteral("--public-key"), one, QStringLiteral("--public-key"), two});

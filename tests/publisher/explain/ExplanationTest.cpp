@@ -108,7 +108,7 @@ struct LossRow
     char const* name;
     QByteArray winner;
     QByteArray loser;
-    char const* said; ///< of the loser when the winner comes first
+    char const* said; ///< about the loser if the winner comes first
 };
 
 class LostItem : public ::testing::TestWithParam<LossRow>
@@ -232,7 +232,7 @@ class PolicyOfAnItem : public ::testing::TestWithParam<PolicyRow>
 {
 };
 
-/// Automatic checks of the second group, right after the item's date.
+/// Automatic checks of the second group at the time of the item's date.
 Engine::Installation StagedInstallation()
 {
     Engine::Installation installation;

@@ -1,5 +1,6 @@
-// PolicyAgreementTest.cpp: random feeds with policies, keys, signatures and key statements: what a client takes, after
-// its engine has left out what is meant for others, is what explain, matrix, diff and simulate say.
+// PolicyAgreementTest.cpp: random feeds with policies, keys, signatures and key statements. A client takes an item
+// after its engine has left out those for other installations. explain, matrix, diff and simulate must name the same
+// item.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -49,12 +50,12 @@ std::string KeyOf(int seed)
     return keys[std::size_t(seed)];
 }
 
-/// How a client comes to its keys.
+/// The source of a client's keys.
 enum class KeySource
 {
-    Feed,      ///< the tool is not told, and the feed says what the version trusts
-    Bundle,    ///< the bundle's own, which the tool is told
-    Statement, ///< of a root key, in the feed
+    Feed,      ///< the tool does not know them; the feed says which keys the version trusts
+    Bundle,    ///< the bundle's own; the tool knows them
+    Statement, ///< from a root key's statement in the feed
 };
 
 class PolicyGenerator
@@ -84,7 +85,7 @@ public:
         return ids;
     }
 
-    /// Most are for this client and hold.
+    /// Most of them suit this client and are valid.
     QByteArray Statement()
     {
         StatementText statement;
@@ -114,7 +115,7 @@ private:
     int Number(int below) { return std::uniform_int_distribution<int>(0, below - 1)(m_engine); }
     char const* OneOf(std::initializer_list<char const*> values) { return values.begin()[Number(int(values.size()))]; }
 
-    /// Most of the time nothing.
+    /// Empty most of the time.
     QByteArray Sometimes(QByteArray const& text) { return Number(4) == 0 ? text : QByteArray(); }
     QString Id() { return QString::fromStdString(Engine::KeyIdOf(KeyOf(Number(KEY_SEEDS)))); }
 
@@ -184,7 +185,7 @@ std::string Text(QString const& version, QString const& deltaFrom, QString const
     return (version + QLatin1Char('|') + deltaFrom + QLatin1Char('|') + url).toStdString();
 }
 
-/// All that a client may take, where no rule defines the order of deltas.
+/// All items that a client may take if no rule defines the order of deltas.
 using Answers = std::set<std::string>;
 
 Answers AnswersOf(Publisher::Explanation const& explanation)
@@ -239,7 +240,7 @@ struct Case
     }
 
     KeySource source;
-    bool isRefused = false; ///< the client refuses the statement, and so the feed
+    bool isRefused = false; ///< the client refuses the statement and so the feed
     QByteArray bytes;
     Engine::Installation installation;
     QString localText;
@@ -247,7 +248,7 @@ struct Case
     std::vector<FeedItem> items;
 };
 
-/// The keys of the bundle: what the feed says of its version, where the tool is not told.
+/// The keys of the bundle. If the tool does not know them: those in the feed for its version.
 QStringList KeysOf(Case const& each)
 {
     auto const isOwn = [&each](FeedItem const& item)
@@ -260,7 +261,7 @@ QStringList KeysOf(Case const& each)
     return own == each.items.end() ? each.installation.trustedKeys : own->trustedKeys;
 }
 
-/// What the engine lets through.
+/// The items that the engine keeps.
 std::vector<FeedItem> Kept(Case const& each)
 {
     std::vector<FeedItem> kept = each.items;
@@ -316,7 +317,7 @@ Answers ByMatrix(Case const& each)
                          .front());
 }
 
-/// No bound of a system stands in these feeds, so that there is one change at most.
+/// These feeds have no system bounds, so there is one change at most.
 Answers ByDiff(Case const& each)
 {
     std::vector<Publisher::OutcomeChange> const changes =
@@ -324,7 +325,7 @@ Answers ByDiff(Case const& each)
     return AnswersOf(changes.empty() ? Publisher::Outcome() : changes.front().after);
 }
 
-/// Whether a staged item reaches its groups at different times of these days.
+/// True if a staged item reaches its groups at different times of these days.
 bool DividesGroups(Case const& each)
 {
     return std::any_of(each.items.begin(), each.items.end(),
@@ -352,7 +353,7 @@ QString BySimulation(Case const& each)
     return {};
 }
 
-/// Whether \a choice, one of \a items or of their deltas, is a page.
+/// True if \a choice, one of \a items or of their deltas, is informational.
 bool IsPage(ShippedChoice const& choice, std::vector<FeedItem> const& items)
 {
     return std::any_of(items.begin(), items.end(),
@@ -365,7 +366,7 @@ bool IsPage(ShippedChoice const& choice, std::vector<FeedItem> const& items)
                        });
 }
 
-/// The version that the client has after the check of a day.
+/// The client's version after the check of a day.
 QString NextVersion(Case const& each)
 {
     std::vector<FeedItem> const kept = Kept(each);
@@ -414,7 +415,7 @@ TEST(PolicyAgreement, EveryVerbSaysWhatTheClientTakes)
                                    [](Publisher::ItemExplanation const& item)
                                    { return item.policy == PolicyVerdict::KeyNotTrusted; });
     }
-    // The generator reaches every kind of answer.
+    // The generator produces every kind of answer.
     EXPECT_GT(updates, FeedCount() / 5);
     EXPECT_LT(updates, FeedCount());
     EXPECT_GT(leftOut, FeedCount() / 2);

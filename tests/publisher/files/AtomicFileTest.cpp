@@ -1,5 +1,5 @@
-// AtomicFileTest.cpp: in which order a published file reaches the disk and gets its name. This program's own fsync and
-// renameat2 stand before the C library's, keep what they are asked for, and pass it on.
+// AtomicFileTest.cpp: the order in which a published file reaches the disk and gets its name. The program's own fsync
+// and renameat2 replace those of the C library, record each call, and pass it on.
 
 #include "Publisher/files/AtomicFile.h"
 
@@ -31,7 +31,7 @@ std::string KindOf(int fd)
     return ::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode) ? "folder" : "file";
 }
 
-/// Keeps the call; true, with errno, when the test wants it to fail.
+/// Records the call. Returns true, with errno, if the test wants it to fail.
 bool Fails(std::string const& call)
 {
     calls.push_back(call);
@@ -119,7 +119,7 @@ INSTANTIATE_TEST_SUITE_P(Every, AtomicFiles, ::testing::Values(ExistingFile::Rep
 class FilesTogether : public AtomicFiles
 {
 protected:
-    /// Two files, and a feed that takes another's place.
+    /// Two new files, and a feed that replaces an old one.
     void Publish(std::vector<std::string> const& names = {"a.delta", "b.delta"})
     {
         std::vector<std::unique_ptr<AtomicFile>> files;
@@ -156,7 +156,7 @@ TEST_P(FilesTogether, GoAgainWhenOneOfThemOrTheFeedGetsNoName)
     EXPECT_EQ(Content(), "old");
     EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"appcast.xml", "b.delta"}));
     EXPECT_TRUE(QFile::remove(Path()));
-    ASSERT_EQ(::mkdir(Path().toStdString().c_str(), 0755), 0); // no file takes its place
+    ASSERT_EQ(::mkdir(Path().toStdString().c_str(), 0755), 0); // a file cannot replace it
     EXPECT_THROW(Publish({"c.delta"}), Publisher::Refusal);
     EXPECT_EQ(m_folder.Names(), (std::vector<std::string>{"appcast.xml", "b.delta"}));
 }

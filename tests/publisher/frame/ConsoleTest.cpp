@@ -1,4 +1,4 @@
-// ConsoleTest.cpp: what a person reads, and how a problem is said.
+// ConsoleTest.cpp: the output for people, and the form of a reported problem.
 
 #include "Publisher/Console.h"
 

@@ -1,4 +1,4 @@
-// FeedSourceTest.cpp: a feed by path, by address and from standard input.
+// FeedSourceTest.cpp: a feed from a path, an address and standard input.
 
 #include "Publisher/FeedSource.h"
 #include "tests/support/LoopbackServer.h"

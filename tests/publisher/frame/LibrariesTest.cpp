@@ -1,4 +1,4 @@
-// LibrariesTest.cpp: what the loader brings for a run of the tool, as the loader itself tells it.
+// LibrariesTest.cpp: the libraries that a run of the tool loads, as the loader reports them.
 
 #include "tests/publisher/support/AppcastTool.h"
 #include "tests/support/LoopbackServer.h"
@@ -19,7 +19,7 @@ namespace
 {
 
 constexpr int MOST_LIBRARIES = 25;
-/// The loader, and the page that the kernel brings: every program has them, and the loader does not list them.
+/// The loader and the kernel's page. Every program has them, and the loader does not list them.
 constexpr int ALWAYS_THERE = 2;
 
 QByteArray const FEED =
@@ -41,7 +41,7 @@ protected:
     QString FeedPath() const { return m_folder.filePath(QStringLiteral("appcast.xml")); }
     QString FolderPath() const { return m_folder.path(); }
 
-    /// The names of all libraries that a run has loaded by its end.
+    /// The names of all libraries that a run has loaded.
     QStringList LoadedBy(QStringList const& arguments)
     {
         ToolRun const run = RunAppcastProgram(arguments, {}, m_environment);
@@ -109,7 +109,7 @@ TEST_F(AppcastLibraries, ThatAreMissingAreNamedWithWhatToInstall)
     m_environment.insert(QStringLiteral("LD_LIBRARY_PATH"), FolderPath());
     for (QString const& name : {QStringLiteral("libcurl.so.4"), QStringLiteral("pelnar-appcast-late.so")})
     {
-        // The loader takes the first file of the name; it goes no further than to see that this is no library.
+        // The loader takes the first file with the name, and stops when it sees that this is not a library.
         QFile library(QDir(FolderPath()).filePath(name));
         ASSERT_TRUE(library.open(QIODevice::WriteOnly));
         library.close();

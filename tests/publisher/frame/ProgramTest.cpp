@@ -1,4 +1,4 @@
-// ProgramTest.cpp: the command line as a person types it: help, and what is not understood.
+// ProgramTest.cpp: the command line: help, and what it does not understand.
 
 #include "Publisher/Verb.h"
 #include "tests/publisher/support/AppcastTool.h"
@@ -16,7 +16,7 @@ namespace Pelnar::Testing
 namespace
 {
 
-/// Calls \a use with each option of \a app and its verbs that takes a value, and with the verbs that lead to it.
+/// Calls \a use with each option of \a app and its verbs that takes a value, and with the verbs before it.
 void ForEachValue(CLI::App& app, QStringList const& verbs,
                   std::function<void(QStringList const&, CLI::Option const&)> const& use)
 {

@@ -1,4 +1,4 @@
-// ProgressTest.cpp: the bar of long work.
+// ProgressTest.cpp: the progress bar.
 
 #include "Publisher/Progress.h"
 

@@ -1,4 +1,4 @@
-// AccidentFixture.h: a publisher's folder, and what "generate" says of an accident in it.
+// AccidentFixture.h: a publisher's folder, and the error of "generate" for an accident in it.
 #pragma once
 
 #include "tests/engine/KeyStatementText.h"
@@ -42,7 +42,7 @@ protected:
         EXPECT_EQ(m_folder.Names().size() > 1 ? FeedOrNothing() : "", m_feed);
     }
 
-    /// Publishes what is there so far.
+    /// Publishes the archives that are there.
     void Publish()
     {
         m_folder.GeneratedFeed();

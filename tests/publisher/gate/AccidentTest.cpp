@@ -1,5 +1,5 @@
-// AccidentTest.cpp: what a publisher does by accident, and "generate" must not publish: each with the file, the entry
-// and the mend in its error, exit status 1, and nothing changed in the folder.
+// AccidentTest.cpp: accidents of a publisher that "generate" must not publish. Each error names the file, the entry and
+// the mend. The exit status is 1, and nothing changes in the folder.
 
 #include "Engine/core/feed/ReleaseRules.h"
 #include "tests/publisher/gate/AccidentFixture.h"
@@ -22,7 +22,7 @@ TEST_F(Accident, ProgramIsNamedAfterAnotherFolder)
     m_folder.PutVersion("1.0");
     Publish();
     m_folder.Put("New.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("2.0"), "Other.app")));
-    // Installed, the bundle keeps the folder's name that it has, and its program is looked for under that.
+    // An installed bundle keeps its folder's name, and its program is searched by that name.
     ExpectRefused(Generate(),
                   {"New.zip: the bundle has no program: \"Other.app/Test\" (seen by clients of version 1.0)"});
 }
@@ -77,7 +77,7 @@ TEST_F(Accident, ProgramOfANewVersionIsForAnotherMachineAlone)
     ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
                                "\"Test.app/Test\"",
                                "build it for that machine"});
-    // In the company of the same version for this machine it is meant.
+    // Together with the same version for this machine it is intended.
     text.program = ElfProgram(isIntel ? EM_X86_64 : EM_AARCH64);
     m_folder.Put("Test-2.0-this.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
     EXPECT_EQ(m_folder.Generate().status, 0);

@@ -1,4 +1,4 @@
-// CheckReleaseTest.cpp: "check-release" over a folder and over a server: what is published as clients will judge it.
+// CheckReleaseTest.cpp: "check-release" for a folder and for a server: judges what is published as clients will.
 
 #include "tests/engine/KeyStatementText.h"
 #include "tests/publisher/generate/PublisherFolder.h"
@@ -25,7 +25,7 @@ BundleText Version(std::string const& version)
     return text;
 }
 
-/// A feed of a person's own hand: whatever "generate" would refuse can stand in it.
+/// A feed written by a person. It can contain all that "generate" would refuse.
 class HandMadeRelease
 {
 public:
@@ -44,7 +44,7 @@ public:
                    Base64(Sign(archive, MakeKeyPair(signerSeed))) + "\"/></item>\n";
     }
 
-    /// Behind the feed's root element.
+    /// After the feed's root element.
     void Append(std::string const& text) { m_end += text; }
 
     ToolRun Check(QStringList const& more = {}) const
@@ -138,7 +138,7 @@ TEST_F(CheckRelease, BundleWithARootKeyAsksForAStatementInTheFeed)
     text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
     release.Add(text, 8);
     ExpectSaid(release.Check(), {"Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for"});
-    // The statement counts in the place of the bundle's own key.
+    // The statement replaces the bundle's own key.
     StatementText statement;
     statement.bundles = {text.identifier};
     statement.validSeeds = {8};

@@ -1,4 +1,5 @@
-// InterruptedRunTest.cpp: runs of "generate" that a signal ends, and two at once: nothing is left, nothing is lost.
+// InterruptedRunTest.cpp: runs of "generate" that a signal ends, and two runs at once: no file is left over and none is
+// lost.
 
 #include "tests/publisher/generate/PublisherFolder.h"
 
@@ -28,7 +29,7 @@ QStringList Arguments(PublisherFolder const& folder)
             QStringLiteral("--url-prefix"), QStringLiteral("https://updates.example.com/")};
 }
 
-/// Archives that take a moment.
+/// Archives that take some time.
 void PutLargeVersions(PublisherFolder const& folder)
 {
     for (char const* const version : {"1.0", "2.0"})
@@ -48,7 +49,7 @@ void PutLargeVersions(PublisherFolder const& folder)
     }
 }
 
-/// The environment of a run that works in \a temporary.
+/// The environment of a run whose temporary folder is \a temporary.
 QProcessEnvironment EnvironmentIn(QTemporaryDir const& temporary)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -56,7 +57,7 @@ QProcessEnvironment EnvironmentIn(QTemporaryDir const& temporary)
     return environment;
 }
 
-/// Starts a run, and returns once it works in \a temporary or has ended.
+/// Starts a run. Returns when it works in \a temporary or has ended.
 void StartAtWork(QProcess& process, PublisherFolder const& folder, QTemporaryDir const& temporary)
 {
     process.setProcessEnvironment(EnvironmentIn(temporary));
@@ -78,7 +79,8 @@ class InterruptedRun : public ::testing::TestWithParam<int>
 
 TEST_P(InterruptedRun, LeavesNothingBehind)
 {
-    ASSERT_NE(std::signal(GetParam(), SIG_DFL), SIG_ERR); // under nohup, say, it is ignored, by what is started too
+    // Under nohup, for example, the signal is ignored, also by started programs.
+    ASSERT_NE(std::signal(GetParam(), SIG_DFL), SIG_ERR);
     PublisherFolder const folder;
     PutLargeVersions(folder);
     std::vector<std::string> const before = folder.Names();
@@ -88,7 +90,7 @@ TEST_P(InterruptedRun, LeavesNothingBehind)
     {
         QProcess process;
         StartAtWork(process, folder, temporary);
-        bool const isDone = process.waitForFinished(delayMs); // or is at another step of its work by then
+        bool const isDone = process.waitForFinished(delayMs); // or it has reached another step by then
         if (isDone || process.state() == QProcess::NotRunning || ::kill(pid_t(process.processId()), GetParam()) != 0)
         {
             break;
@@ -96,7 +98,7 @@ TEST_P(InterruptedRun, LeavesNothingBehind)
         ASSERT_TRUE(process.waitForFinished(PATIENCE_MS));
         if (process.exitStatus() == QProcess::NormalExit)
         {
-            break; // it had done its work
+            break; // it was already finished
         }
         ++interrupted;
         EXPECT_EQ(folder.Names(), before) << delayMs;

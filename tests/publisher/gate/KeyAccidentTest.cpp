@@ -1,4 +1,5 @@
-// KeyAccidentTest.cpp: accidents with keys, which would leave clients without updates: "generate" publishes none.
+// KeyAccidentTest.cpp: accidents with keys, which would leave clients without updates. "generate" publishes none of
+// these.
 
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/feed/ReleaseRules.h"
@@ -80,7 +81,7 @@ TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
     EXPECT_EQ(run.status, 0) << run.err;
     ToolRun const check = RunTool({QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())});
     EXPECT_EQ(check.status, 0) << check.err;
-    // The old version's clients take the one between, and its clients the new one.
+    // Clients of the old version take the version between, and then the new one.
     auto const explained = [this](char const* version)
     {
         return RunTool({QStringLiteral("explain"), m_folder.PathOf("appcast.xml"), QStringLiteral("--local-version"),
@@ -135,7 +136,7 @@ TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
     m_folder.Remove("Test-5.9.zip");
     m_folder.PutBundle(WithNewKey("5.11"));
     Remember();
-    // The feed has kept whom 5.9 trusts.
+    // The feed still says which keys 5.9 trusts.
     ExpectRefused(m_folder.GenerateWithKey(NEW_SEED),
                   {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
 }
@@ -147,7 +148,7 @@ TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
     m_folder.PutBundle(WithNewKey("5.11"));
     ToolRun const run = m_folder.GenerateWithKey(NEW_SEED);
     EXPECT_EQ(run.status, 0) << run.err;
-    // What the first key signed is known by the bundle that trusts it.
+    // The bundle that trusts the first key shows which key has signed the old archives.
     ToolRun const again = m_folder.GenerateWithKey(NEW_SEED);
     EXPECT_EQ(again.status, 0) << again.err;
 }
@@ -214,7 +215,7 @@ TEST_F(Accident, RevokedKeySignsANewVersion)
     text.version = "2.0";
     text.publicKey = MakeKeyPair(NEW_SEED).publicKey;
     m_folder.PutBundle(text);
-    // The new key signs: older versions hear of it by the statement, and what the old key has signed stays.
+    // The new key signs. Older versions learn of it from the statement, and the old key's signatures stay.
     ToolRun const run = m_folder.GenerateWithKey(9, {option, PutStatement(statement)});
     EXPECT_EQ(run.status, 0) << run.out << run.err;
     Remember();

@@ -1,5 +1,5 @@
-// KeyAgreementTest.cpp: random releases by changing keys: what the gate lets through, every client takes, step by step
-// up to the newest version; what it refuses for the newest version, some client never gets.
+// KeyAgreementTest.cpp: random releases with changing keys. If the gate accepts the newest version, every client
+// reaches it step by step. If the gate refuses it, some client never reaches it.
 
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/choice/FeedChoice.h"
@@ -78,7 +78,7 @@ private:
         return version;
     }
 
-    /// Each signature is the name of the key that made it.
+    /// Each signature is the name of its key.
     static Engine::FeedItem Item(GatedVersion const& version)
     {
         Engine::FeedItem item;
@@ -98,8 +98,8 @@ private:
     std::mt19937 m_random;
 };
 
-/// Where a client that begins at \a start ends, by the engine's rules. A download whose signature it cannot verify
-/// would end it there.
+/// The last version of a client that starts with \a start, by the engine's rules. It stops at a download whose
+/// signature it cannot verify.
 std::size_t EndOf(Release const& release, std::size_t start)
 {
     for (std::size_t at = start;;)

@@ -1,4 +1,4 @@
-// FolderScanTest.cpp: what the names in a publisher's folder mean.
+// FolderScanTest.cpp: the meaning of the names in a publisher's folder.
 
 #include "Publisher/generate/FolderScan.h"
 

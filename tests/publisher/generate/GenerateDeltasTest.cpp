@@ -1,4 +1,4 @@
-// GenerateDeltasTest.cpp: which deltas "generate" makes and takes, and which it leaves out.
+// GenerateDeltasTest.cpp: the deltas that "generate" makes or takes, and those that it leaves out.
 
 #include "Engine/core/delta/DeltaContainer.h"
 #include "Engine/core/feed/ReleaseRules.h"
@@ -151,7 +151,7 @@ std::string Noise(std::size_t size, unsigned seed)
     return bytes;
 }
 
-/// \a archive with a comment in its gzip header that makes it \a size bytes long; it must be shorter yet.
+/// \a archive with a comment in its gzip header that makes it \a size bytes long. REQUIRES: it is shorter.
 std::string PaddedTo(std::size_t size, std::string const& archive)
 {
     constexpr std::size_t HEADER_BYTES = 10;
@@ -162,8 +162,8 @@ std::string PaddedTo(std::size_t size, std::string const& archive)
     return header + std::string(size - archive.size() - 1, ' ') + '\0' + archive.substr(HEADER_BYTES);
 }
 
-/// Puts two versions there that share nothing, and a delta between them. The archive of the second is \a larger bytes
-/// longer than one of which the delta saves a tenth.
+/// Creates two versions that have nothing in common, and a delta between them. A delta must save a tenth of the
+/// archive. The second archive is \a larger bytes longer than the one for which it just does.
 void PutVersionsThatShareNothing(PublisherFolder const& folder, int larger)
 {
     std::string archive;

@@ -1,4 +1,4 @@
-// GenerateRefusalTest.cpp: folders of which "generate" makes no feed, and what it says; a feed that is there stays.
+// GenerateRefusalTest.cpp: folders that "generate" refuses, and its messages; an existing feed stays.
 
 #include "tests/publisher/generate/PublisherFolder.h"
 
@@ -45,7 +45,7 @@ BundleText Kind(std::string const& version, std::string const& payloadKind)
     return text;
 }
 
-/// Puts an archive with one thing in its information file changed.
+/// Adds an archive with one changed entry in its information file.
 std::function<void(PublisherFolder const&)> Bundle(std::function<void(BundleText&)> const& change)
 {
     return [change](PublisherFolder const& folder)
@@ -281,7 +281,7 @@ TEST(GenerateRefusal, NotesThatMayNotBeRead)
     folder.PutVersion("2.0");
     folder.Put("Test-2.0.txt", "notes");
     ASSERT_EQ(::chmod(folder.PathOf("Test-2.0.txt").toStdString().c_str(), 0), 0);
-    // The administrator may read every file, and so becomes somebody else for the run.
+    // The administrator may read every file, so the run uses another user.
     bool const isAdministrator = ::geteuid() == 0;
     if (isAdministrator)
     {

@@ -1,4 +1,4 @@
-// GenerateTest.cpp: the verb "generate": what a feed says of a folder, and that what is published stays.
+// GenerateTest.cpp: the verb "generate": the feed of a folder; published items stay unchanged.
 
 #include "Engine/core/delta/DeltaContainer.h"
 #include "Engine/core/feed/ReleaseRules.h"
@@ -273,7 +273,7 @@ TEST(Generate, TemplateGivesEachReleaseAPlaceOfItsOwn)
         QStringLiteral("generate"),       QString::fromStdString(folder.Path()),
         QStringLiteral("--key"),          folder.KeyFile(),
         QStringLiteral("--url-template"), QStringLiteral("https://cdn.example.com/v{version}/{file}")};
-    // Old versions stay where they were published.
+    // Old versions keep their published addresses.
     ToolRun const run = RunTool(arguments);
     EXPECT_EQ(run.status, 0) << run.err;
     std::vector<Engine::FeedItem> const items = folder.Items();
@@ -354,7 +354,7 @@ TEST(Generate, PublishedItemsStayToTheByteWhenNewOnesCome)
     std::string const before = folder.GeneratedFeed();
     std::string const item = before.substr(before.find("<item>"), before.find("</item>") - before.find("<item>"));
     folder.PutVersion("2.0");
-    folder.Remove("Test-1.0.zip"); // an archive that has gone keeps its item
+    folder.Remove("Test-1.0.zip"); // the item of a removed archive stays
     std::string const after = folder.GeneratedFeed();
     EXPECT_NE(after.find(item), std::string::npos) << after;
     EXPECT_LT(after.find("Test-2.0.zip"), after.find("Test-1.0.zip"));

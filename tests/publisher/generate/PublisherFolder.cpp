@@ -43,7 +43,7 @@ std::string PropertyListOf(BundleText const& text)
     return list + "</dict></plist>\n";
 }
 
-/// Of a bundle that names none.
+/// Of a bundle that names no minimum system.
 std::string ProgramOf(std::string const& bundleName)
 {
     return bundleName.substr(0, bundleName.rfind('.'));

@@ -1,4 +1,5 @@
-// PublisherFolder.h: a publisher's folder with a key, archives of a product's versions, and runs of "generate" over it.
+// PublisherFolder.h: a publisher's folder with a key and archives of a product's versions, and runs of "generate" for
+// it.
 // Thread: the test's. Ownership: a scope object.
 #pragma once
 
@@ -14,7 +15,7 @@
 namespace Pelnar::Testing
 {
 
-/// What the information file of a bundle in the folder says.
+/// The entries of the information file of a bundle in the folder.
 struct BundleText
 {
     std::string version = {};
@@ -25,16 +26,16 @@ struct BundleText
     std::string payloadKind = {};
     std::string nextKey = {};
     std::string rootKey = {};
-    std::string executable = {}; ///< what NSExecutable says; empty for nothing
+    std::string executable = {}; ///< NSExecutable; empty: without the entry
     std::string allowsInstallers = {};
-    std::string program = {}; ///< empty for a script; the bytes of the program else
+    std::string program = {}; ///< the program's bytes; empty: a script
     std::uint32_t programMode = 0755;
 };
 
-/// The header of a program for that machine, of the ELF numbers; a program as far as anybody looks.
+/// The start of a program for that machine (an ELF number). No test reads more of it.
 std::string ElfProgram(std::uint16_t machine);
 
-/// A bundle for Linux with a file that grows a little from version to version.
+/// A bundle for Linux with a file that grows a little with every version.
 std::vector<ForgedEntry> MakePublishedBundle(BundleText const& text, std::string const& name = "Test.app");
 /// The same for macOS.
 std::vector<ForgedEntry> MakeMacBundle(BundleText const& text, std::string const& name = "Test.app");
@@ -46,14 +47,14 @@ public:
     PublisherFolder();
 
     QString PathOf(std::string const& name) const;
-    /// Writes a file that changed at noon of a day in January 2026, which nothing may be concluded from.
+    /// Writes a file with a time of change of noon of a day in January 2026. The result must not depend on it.
     void Put(std::string const& name, std::string const& bytes, int day = 1) const;
-    /// A zip of the bundle of that version, "Test-VERSION.zip".
+    /// Adds the bundle of that version as the zip "Test-VERSION.zip".
     void PutVersion(std::string const& version, int day = 1) const;
-    /// A zip of that bundle, "Test-VERSION.zip".
+    /// Adds that bundle as the zip "Test-VERSION.zip".
     void PutBundle(BundleText const& text) const;
     void Remove(std::string const& name) const;
-    /// Makes \a user the owner of everything, the key included.
+    /// Gives all files, including the key, to \a user.
     void GiveTo(unsigned user) const;
     std::string ContentOf(std::string const& name) const;
     std::vector<std::string> Names() const { return m_folder.Names(); }
@@ -63,9 +64,9 @@ public:
     ToolRun Generate(QStringList const& more = {}) const;
     /// Signs with the key of \a seed instead.
     ToolRun GenerateWithKey(char seed, QStringList const& more = {}) const;
-    /// Runs it, expects that it is done, and reads the feed.
+    /// Runs it and expects success. Returns the feed.
     std::string GeneratedFeed(QStringList const& more = {}) const;
-    /// The items of the feed as a client reads them.
+    /// The items of the feed, as a client reads them.
     std::vector<Engine::FeedItem> Items(Engine::FeedPlatform platform = Engine::FeedPlatform::Linux) const;
     KeyPair const& Keys() const { return m_pair; }
 
@@ -75,7 +76,7 @@ private:
     KeyPair m_pair;
 };
 
-/// A delta of the person's own between two archives of the folder.
+/// Makes a delta between two archives of the folder, as a person would.
 ToolRun MakeGivenDelta(PublisherFolder const& folder, char const* from, char const* to);
 
 } // namespace Pelnar::Testing

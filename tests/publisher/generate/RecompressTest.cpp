@@ -1,4 +1,4 @@
-// RecompressTest.cpp: "generate --recompress": a second archive of the same bundle, for clients that know it.
+// RecompressTest.cpp: "generate --recompress": a second archive of the same bundle, for clients that support it.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Publisher/files/BundleTree.h"
@@ -29,7 +29,7 @@ std::string Noise(std::size_t size)
     return noise;
 }
 
-/// Bundles repeat more than the 32 KiB that a zip looks back.
+/// The bundles repeat content over longer distances than the 32 KiB of a zip.
 enum class Repetition
 {
     Much,

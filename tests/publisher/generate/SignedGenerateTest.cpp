@@ -1,4 +1,4 @@
-// SignedGenerateTest.cpp: the verb "generate" over feeds that are signed themselves.
+// SignedGenerateTest.cpp: the verb "generate" for signed feeds.
 
 #include "Engine/core/check/FeedTrust.h"
 #include "tests/publisher/generate/PublisherFolder.h"

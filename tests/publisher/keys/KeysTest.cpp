@@ -1,5 +1,4 @@
-// KeysTest.cpp: the verb "keys": how a private key is made, read, shown and handed out, and which files are no place
-// for one.
+// KeysTest.cpp: the verb "keys": a private key is made, read, shown and exported. Some files are refused as its place.
 
 #include "Publisher/Verb.h"
 #include "Publisher/keys/SigningKey.h"
@@ -49,7 +48,7 @@ protected:
         return RunTool(
             {QStringLiteral("keys"), QStringLiteral("show"), path, QStringLiteral("--format"), QLatin1String(form)});
     }
-    /// The seed whose 32 bytes are 7, as a file holds it, and its public key.
+    /// The seed whose 32 bytes are 7, as in a file, and its public key.
     QByteArray const m_seed = QByteArray::fromStdString(Base64(std::string(32, '\7')));
     KeyPair const m_pair = MakeKeyPair(7);
 

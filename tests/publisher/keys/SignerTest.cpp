@@ -1,4 +1,4 @@
-// SignerTest.cpp: "--signer": a program of the publisher's makes the signature, and what it makes is looked at.
+// SignerTest.cpp: "--signer": a program of the publisher makes the signature, and the tool checks it.
 
 #include "tests/installer/InstallerFixture.h"
 #include "tests/publisher/support/AppcastTool.h"
@@ -31,7 +31,7 @@ protected:
         return file.readAll().toStdString();
     }
 
-    /// Signs the archive by a shell script.
+    /// Signs the archive with a shell script.
     ToolRun SignBy(std::string const& script, std::uint8_t keySeed = 7) const
     {
         return RunTool({QStringLiteral("sign"), Put("a.zip", m_archive), QStringLiteral("--signer"),

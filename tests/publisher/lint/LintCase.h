@@ -24,7 +24,7 @@ inline void PrintTo(LintCase const& row, std::ostream* out)
     *out << row.name;
 }
 
-/// At least one row for every rule that needs no server, and feeds beside each rule that it must let pass.
+/// At least one row for every rule that needs no server, and for each rule similar feeds that it must accept.
 std::vector<LintCase> const& LintCases();
 
 /// A feed around \a items, which begin in line 2.

@@ -1,4 +1,4 @@
-// LintDocumentTest.cpp: the tree that the rules walk has the places that a person finds in an editor.
+// LintDocumentTest.cpp: the places in the tree of a document are those that an editor shows.
 
 #include "Publisher/lint/LintDocument.h"
 

@@ -1,4 +1,4 @@
-// LintFetchTest.cpp: what the server has, beside what the feed says: size, reachability, signature.
+// LintFetchTest.cpp: the files on the server compared with the feed: size, reachability, signature.
 
 #include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/LoopbackServer.h"

@@ -1,4 +1,4 @@
-// LintKeyStatementTest.cpp: what lint finds about the root key's statement in a feed.
+// LintKeyStatementTest.cpp: the findings about the root key's statement in a feed.
 
 #include "Publisher/lint/KeyStatementRules.h"
 #include "tests/engine/KeyStatementText.h"
@@ -23,7 +23,7 @@ std::string IdOf(std::uint8_t seed)
     return Engine::KeyIdOf(MakeKeyPair(seed).publicKey);
 }
 
-/// An item of that version in line \a after the feed's first, signed by the key with that seed as far as the feed says.
+/// An item of that version in line \a after the feed's first line. The feed names the key with that seed as its signer.
 QByteArray Item(char const* version, std::uint8_t signer, QByteArray const& more = {})
 {
     QByteArray const id = QByteArray::fromStdString(IdOf(signer));

@@ -1,4 +1,4 @@
-// LintOutputTest.cpp: `pelnar-appcast lint` as a person types and reads it, its JSON and its exit status.
+// LintOutputTest.cpp: `pelnar-appcast lint` from the command line: its text, its JSON and its exit status.
 
 #include "tests/installer/Ed25519Vectors.h"
 #include "tests/publisher/lint/LintCase.h"

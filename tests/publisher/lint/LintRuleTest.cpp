@@ -1,4 +1,4 @@
-// LintRuleTest.cpp: each rule finds what it should, where it stands, and nothing else; the document lists every rule.
+// LintRuleTest.cpp: each rule finds its fault at the right place, and nothing else. The document lists every rule.
 
 #include "Publisher/lint/LintSubject.h"
 #include "tests/publisher/lint/LintCase.h"
@@ -42,7 +42,7 @@ TEST_P(LintRules, FindsThisAndNothingElse)
         found += TextOf(finding) + "\n";
     }
     ASSERT_EQ(findings.size(), GetParam().finding.empty() ? 0u : 1u) << found;
-    // Words of the parser or of the notes' filter may follow.
+    // The parser or the filter of the notes may add words.
     EXPECT_EQ(found.substr(0, GetParam().finding.size()), GetParam().finding);
 }
 

@@ -1,4 +1,4 @@
-// LintSignatureTest.cpp: what lint finds about the signature of a feed itself.
+// LintSignatureTest.cpp: the findings about the signature of a feed.
 
 #include "Publisher/lint/SignatureRules.h"
 #include "tests/engine/SignedFeedText.h"

@@ -1,4 +1,5 @@
-// MatrixTest.cpp: `pelnar-appcast matrix`: who gets what, who cannot leave, and the gate in a publisher's CI.
+// MatrixTest.cpp: `pelnar-appcast matrix`: which client gets which version, which clients get no update, and the exit
+// status for a publisher's CI.
 
 #include "tests/publisher/support/AppcastTool.h"
 
@@ -37,7 +38,7 @@ QStringList Of(char const* versions, char const* systems)
 class MatrixGate : public ::testing::Test
 {
 protected:
-    /// Writes what the tool says now.
+    /// Saves the current output of the tool.
     QString Expectation(QByteArray const& feed)
     {
         ToolRun const run = RunTool(Of("5.0,5.1", "11,12") + QStringList(QStringLiteral("--json")), feed);
@@ -78,7 +79,7 @@ TEST(Matrix, NamesVersionsThatNobodyCanLeave)
 {
     ToolRun const run = RunTool(Of("5.1,5.2", "10,11"), FEED);
     EXPECT_NE(run.out.find("stranded on every system: 5.1\n"), std::string::npos) << run.out;
-    // The newest version has nowhere to go.
+    // The newest version has no update.
     EXPECT_EQ(run.out.find("5.2\n"), std::string::npos) << run.out;
 }
 

@@ -1,4 +1,4 @@
-// HttpRequestTest.cpp: requests, ranges and faults as texts.
+// HttpRequestTest.cpp: the text form of requests, ranges and faults.
 
 #include "Publisher/serve/HttpRequest.h"
 #include "Publisher/serve/ServerFault.h"

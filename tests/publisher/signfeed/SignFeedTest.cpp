@@ -1,4 +1,5 @@
-// SignFeedTest.cpp: the verb "sign-feed": what it writes into a feed, what it leaves, and what it does not sign.
+// SignFeedTest.cpp: the verb "sign-feed": the parts of a feed that it writes, those that it keeps, and the feeds that
+// it refuses.
 
 #include "Engine/core/check/FeedTrust.h"
 #include "tests/engine/SignedFeedText.h"
@@ -27,7 +28,7 @@ QString Regular(char const* text)
     return QString::fromLatin1(text);
 }
 
-/// A feed that clients believe.
+/// A feed that clients accept.
 struct BelievedFeed
 {
     QByteArray content;
@@ -60,7 +61,7 @@ protected:
                        more);
     }
 
-    /// Signs the feed and answers it.
+    /// Signs the feed and returns it.
     QByteArray SignedContent(QStringList const& more = {}) const
     {
         ToolRun const run = Run(more);
@@ -176,7 +177,7 @@ TEST_F(SignFeedTest, SerialThatWouldNotGrowIsRefused)
     ExpectRefused(Run(), "has the greatest serial", last);
 }
 
-/// A feed as somebody writes it.
+/// A feed as a person writes it.
 struct WrittenFeed
 {
     char const* name;
@@ -212,7 +213,7 @@ INSTANTIATE_TEST_SUITE_P(
         WrittenFeed{"BlankLinesAtTheEnd", QByteArray(PLAIN) + "\n\n"}),
     [](auto const& row) { return std::string(row.param.name); });
 
-/// \a feed without what a signature brings into it, and the elements' own texts.
+/// \a feed without the elements of the signature; these elements' texts.
 QByteArray WithoutTerms(QByteArray const& feed)
 {
     QString text = QString::fromUtf8(feed);

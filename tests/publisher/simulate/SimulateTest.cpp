@@ -1,4 +1,4 @@
-// SimulateTest.cpp: who has which version when.
+// SimulateTest.cpp: how many clients have which version at which time.
 
 #include "tests/publisher/support/AppcastTool.h"
 
@@ -32,7 +32,7 @@ QByteArray FeedWith(QByteArray const& items)
 
 QByteArray const STAGED = "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>";
 
-/// The counts of 7000 clients that begin with 5.0, by day.
+/// The counts for each day of 7000 clients that start with 5.0.
 QJsonObject Counts(QByteArray const& feed, int days, QStringList const& more = {})
 {
     return RunTool(QStringList{QStringLiteral("simulate"), QStringLiteral("-"), QStringLiteral("--clients"),

@@ -1,4 +1,4 @@
-// AppcastTool.h: one run of the publisher's tool, inside the test or as the program that is installed.
+// AppcastTool.h: one run of the publisher's tool, inside the test or as the installed program.
 // Thread: the test's main thread.
 #pragma once
 
@@ -16,11 +16,11 @@ namespace Pelnar::Testing
 
 struct ToolRun
 {
-    int status = -1; ///< -1 when the program did not start, crashed or did not end
+    int status = -1; ///< -1 if the program did not start, crashed or did not end
     std::string out;
     std::string err;
 
-    /// Its standard output as JSON text; a failure of the test when it is none.
+    /// Its standard output as JSON text. The test fails if it is not JSON.
     QJsonObject Json() const;
 };
 

@@ -1,4 +1,4 @@
-// TimelineOfProgramTest.cpp: the log of a real check is rebuilt whole, and nothing in it is wrong.
+// TimelineOfProgramTest.cpp: the timeline of a real check's log is complete and has no wrong event.
 
 #include "tests/publisher/support/AppcastTool.h"
 

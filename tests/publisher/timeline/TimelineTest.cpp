@@ -1,5 +1,5 @@
-// TimelineTest.cpp: what a session did, out of its records; and every order that cannot happen is flagged.
-// The records are made from the session's own table of sites, so that a log here is a log of this version.
+// TimelineTest.cpp: the events of a session, read from its records. Every impossible order is flagged. The records are
+// made with the session's own table of sites, so each log here fits this version.
 
 #include "Publisher/timeline/Timeline.h"
 #include "tests/publisher/support/AppcastTool.h"
@@ -102,7 +102,7 @@ struct Row
 {
     char const* name;
     std::string log;
-    char const* wrong; ///< the one event that cannot happen; null for an order that can
+    char const* wrong; ///< the impossible event; null for a possible order
 };
 
 void PrintTo(Row const& row, std::ostream* out)

@@ -1,4 +1,4 @@
-// ItemDateTest.cpp: the shortcut around QDate answers as QDate does, over random texts.
+// ItemDateTest.cpp: the shortcut for QDate gives the same answers as QDate, for random texts.
 
 #include "tests/session/selection/PlainItem.h"
 #include "tests/support/Sanitizers.h"
@@ -16,7 +16,7 @@ using namespace Pelnar::App::Session;
 
 constexpr int ROUNDS = Pelnar::Testing::IS_SANITIZED ? 20000 : 300000;
 
-/// Joins up to \a greatestCount random parts, so that texts come close to the limits of what is certain.
+/// Joins up to \a greatestCount random parts. Many texts are close to the limits of the shortcut.
 class TextMaker
 {
 public:

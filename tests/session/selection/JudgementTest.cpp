@@ -17,7 +17,7 @@ QString Text(char const* text)
     return QString::fromLatin1(text);
 }
 
-/// Only the given properties differ from a valid 5.1 judged by 5.0 on system 12.3.
+/// A valid 5.1, judged by 5.0 on system 12.3. Only the given properties differ.
 struct JudgementRow
 {
     char const* rule;

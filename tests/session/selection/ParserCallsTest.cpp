@@ -1,4 +1,4 @@
-// ParserCallsTest.cpp: stands in for the host's parser, so that its calls can be counted.
+// ParserCallsTest.cpp: replaces the host's parser to count its calls.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"
@@ -19,7 +19,7 @@ std::vector<std::pair<QString, QString>> parserCalls;
 namespace Pelnar::Util
 {
 
-// The program's own definition comes before the shared library's.
+// The program's own definition has priority over the shared library's.
 Core::Version VersionFromString(QString const& text, QString const& separator)
 {
     parserCalls.emplace_back(text, separator);

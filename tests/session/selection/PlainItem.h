@@ -1,4 +1,4 @@
-// PlainItem.h: a feed item of plain values, as tests write it, and the subject that it is judged against.
+// PlainItem.h: a feed item of plain values, and the installation for which it is judged.
 // Thread: the test's.
 #pragma once
 

@@ -1,6 +1,6 @@
-// PlainSelection.h: the rules of the appcast selection written down one after the other: every property is read from
-// the item, through UTF-8, each time that a rule asks. What the session's fast way is held against, in answers and in
-// records, and what it is timed against. Objective-C++ only.
+// PlainSelection.h: the plain implementation of the selection's rules: each rule reads its properties from the item,
+// through UTF-8. Tests compare the session's fast implementation with it, in answers and in records, and a benchmark
+// compares their times. Objective-C++ only.
 // Thread: the Qt main thread.
 #pragma once
 

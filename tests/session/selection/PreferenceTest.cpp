@@ -35,7 +35,7 @@ struct Offer
     std::uint64_t length = 1000;
 };
 
-/// Of the two offers, the local version being 5.0: which wins and by which rule.
+/// Two valid items for the local version 5.0: the winner, and the rule.
 struct PreferenceRow
 {
     char const* rule;

@@ -1,4 +1,4 @@
-// SelectionChoiceTest.cpp: which of two items, and which of a whole feed, the session chooses.
+// SelectionChoiceTest.cpp: the session's choice between two items, and in a whole feed.
 
 #include "Foundation/RaisedException.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
@@ -41,7 +41,7 @@ protected:
         session.SetContext(context);
     }
 
-    /// The records of the dumps, first lines only, and nothing else of level 30.
+    /// The first lines of the dumps, and no other record of level 30.
     std::vector<std::string> Dumped() const
     {
         std::vector<std::string> texts;
@@ -214,7 +214,7 @@ TEST_F(SelectionOfAFeed, NewestItemIsChosenWhereverItStands)
 struct TiedRow
 {
     char const* name;
-    std::vector<std::uint64_t> lengths; ///< of bundles of one version at addresses of their own, in the feed's order
+    std::vector<std::uint64_t> lengths; ///< of bundles of one version at different addresses, in the feed's order
     std::size_t chosen;
 };
 
@@ -274,7 +274,7 @@ TEST_F(SelectionOfAFeed, DeltaFromTheLocalVersionWinsOverItsBundle)
 TEST_F(SelectionOfAFeed, DeltaThatOnlyItsDictionaryKeepsOutlivesTheAnswer)
 {
     ScriptedItem const delta(DeltaOf("5.1"));
-    // Read when the dictionary holds it already.
+    // Read after the dictionary contains it.
     delta.Properties().onRead["versionString"] = [&delta] { delta.LetGo(); };
     ItemProperties full = OfferOf("5.1");
     full.deltas = {{Latin1("5.0"), delta}};
@@ -340,7 +340,7 @@ TEST_F(SelectionOfAFeed, DeltasOfTheBestItemOnlyAreLookedAt)
 
 TEST_F(SelectionOfAFeed, LaterDeltaCanReplaceAnEarlierOne)
 {
-    // Two spellings of the local version; the smaller download wins in any order that the dictionary has.
+    // Two spellings of the local version. The smaller download wins in each order of the dictionary.
     ScriptedItem const large(DeltaOf("5.1", 20));
     ItemProperties other = DeltaOf("5.1", 10);
     other.fileUrl = Latin1("https://b.example/App.delta");
@@ -389,7 +389,7 @@ TEST_F(SelectionOfAFeed, ItemThatIsADeltaItselfIsRememberedAsOne)
 
 TEST_F(SelectionOfAFeed, EveryItemIsReadAndJudgedOnceHoweverLongTheFeed)
 {
-    LogCapture const quiet(LogCapture::Verbosity::Normal); // the dump reads for itself
+    LogCapture const quiet(LogCapture::Verbosity::Normal); // the dump reads the properties itself
     int comparisons = 0;
     context->versionEqual = [&comparisons](Version const& a, Version const& b)
     {

@@ -1,5 +1,5 @@
-// SelectionFastAndPlainTest.cpp: over random feeds and contexts the session's way and the plain rules give the same
-// answer, write the same records and let the same exceptions out.
+// SelectionFastAndPlainTest.cpp: for random feeds and contexts, the session's fast implementation and the plain one
+// give the same answer, write the same records and throw the same exceptions.
 
 #include "Foundation/RaisedException.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"
@@ -46,7 +46,7 @@ public:
         return OneIn(6) ? std::nullopt : SelectionFixture::Item(MakeItem(true));
     }
 
-    /// Null once in a while; most are as an updater makes them.
+    /// Sometimes null; most are as an updater makes them.
     std::shared_ptr<SparkleUpdateContext> MakeRandomContext()
     {
         if (OneIn(30))
@@ -85,7 +85,7 @@ public:
 private:
     int Number(int end) { return std::uniform_int_distribution<int>(0, end - 1)(m_random); }
 
-    /// Null stands for a property that is nil.
+    /// Null for a property that is nil.
     QString OneOf(std::initializer_list<char const*> texts)
     {
         char const* const text = texts.begin()[Number(static_cast<int>(texts.size()))];
@@ -130,7 +130,7 @@ private:
     std::mt19937 m_random;
 };
 
-/// What came of a question: the text of an exception, or nothing when it was answered.
+/// The result of a question: the text of an exception; empty if there was none.
 std::string ExceptionOf(std::function<void()> const& question)
 {
     try

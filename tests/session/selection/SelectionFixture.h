@@ -1,5 +1,5 @@
-// SelectionFixture.h: a session of a test's own, asked for its appcast selection; by its own way, and by the plain
-// rules. Plain C++.
+// SelectionFixture.h: a session that answers the appcast selection, and the plain implementation for comparison. Plain
+// C++.
 // Thread: the Qt main thread. Ownership: the fixture owns its session and shares the context.
 #pragma once
 
@@ -21,7 +21,7 @@ namespace Pelnar::Testing
 class SelectionFixture
 {
 public:
-    using Item = std::optional<ScriptedItem>; ///< nothing stands for nil
+    using Item = std::optional<ScriptedItem>; ///< without a value: nil
 
     SelectionFixture();
     ~SelectionFixture();
@@ -41,7 +41,7 @@ public:
     bool Validate(Item const& item) const;
     Item SelectBest(Item const& a, Item const& b) const;
     Item SelectBestOfAppcast(ScriptedAppcast const& appcast);
-    /// Whether the answer is \a expected and still there when the caller gets it.
+    /// True if the answer is \a expected and still alive when the caller gets it.
     bool AnswersWithALivingItem(ScriptedAppcast const& appcast, ScriptedItem const& expected);
 
     bool ValidatePlainly(Item const& item) const;

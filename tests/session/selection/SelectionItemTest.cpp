@@ -1,4 +1,4 @@
-// SelectionItemTest.cpp: what the session says about one item: its kind, its extensions, its dump, whether it is valid.
+// SelectionItemTest.cpp: the session's answers about one item: its kind, its extensions, its dump, whether it is valid.
 
 #include "Foundation/RaisedException.h"
 #include "HostFramework/Reference/ReferenceOSVersion.h"

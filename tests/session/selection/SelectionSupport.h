@@ -1,5 +1,5 @@
-// SelectionSupport.h: the items, contexts and records that the tests of the appcast selection share. Plain C++.
-// Thread: the test's. Ownership: values; scripted items live as long as the process.
+// SelectionSupport.h: shared items, contexts and records of the tests of the appcast selection. Plain C++.
+// Thread: the test's. Ownership: scripted items live as long as the process.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/UpdaterSparkle/SparkleUpdateContext.h"

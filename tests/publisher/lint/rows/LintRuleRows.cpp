@@ -1,4 +1,4 @@
-// LintRuleRows.cpp: the rows of the rules' test. Every feed is clean but for the one finding.
+// LintRuleRows.cpp: the rows of the test of the rules. Every feed has exactly one finding.
 
 #include "tests/publisher/lint/LintCase.h"
 
@@ -7,11 +7,11 @@ namespace Pelnar::Testing
 namespace
 {
 
-// 64 bytes in base64; whether they sign anything is not a matter of the text.
+// 64 bytes in base64. The rules read the form only, so they need not be a valid signature.
 char const* const SIGNATURE =
     "AAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAAA==";
 
-/// The attributes of a good enclosure behind the address.
+/// The attributes of a good enclosure after the address.
 QByteArray Good(QByteArray const& version, QByteArray const& length = "9")
 {
     return " length='" + length + "' sparkle:version='" + version + "' sparkle:edSignature='" + SIGNATURE + "'";
@@ -55,7 +55,7 @@ QByteArray Os(QByteArray const& name, QByteArray const& system)
            "'/></item>";
 }
 
-/// An item of that version with the keys of signer and trust.
+/// An item of that version with the given signer and trusted keys.
 QByteArray Keyed(QByteArray const& version, QByteArray const& signer, QByteArray const& trusted)
 {
     return Item(version, "<pelnar:keys xmlns:pelnar='https://pelnar.example/xml-namespaces/appcast' signer='" + signer +

@@ -1,4 +1,4 @@
-// The older names of what Availability.h says.
+// The older names of the macros in Availability.h.
 #pragma once
 
 #include <Availability.h>

@@ -1,4 +1,4 @@
-// Which of Apple's systems is compiled for: macOS.
+// Names the system of Apple that the compiler builds for: macOS.
 #pragma once
 
 #define TARGET_OS_MAC 1

@@ -1,4 +1,4 @@
-// Included again, it follows NDEBUG as it stands then.
+// Without an include guard: each inclusion follows the current value of NDEBUG.
 #include <sys/cdefs.h>
 
 __BEGIN_DECLS

@@ -1,4 +1,4 @@
-// Threads, as far as the C++ library asks for them: the objects are opaque, with the sizes of 64-bit systems.
+// The threads that the C++ library needs. The objects are opaque and have the sizes of 64-bit systems.
 #pragma once
 
 #include <mach/mach.h>

@@ -1,4 +1,4 @@
-// What the C++ library asks of a locale that is given along.
+// The functions with a locale argument that the C++ library calls.
 #pragma once
 
 #include <locale.h>

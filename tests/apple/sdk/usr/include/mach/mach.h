@@ -1,4 +1,4 @@
-// Tasks and threads, as far as their number and a thread's state are asked for.
+// Tasks and threads: their number, and a thread's state.
 #pragma once
 
 #include <sys/types.h>

@@ -1,4 +1,4 @@
-// What every header here opens and closes with.
+// The macros at the beginning and the end of every header here.
 #pragma once
 
 #ifdef __cplusplus

@@ -1,4 +1,4 @@
-// What the project uses of AppKit: the application object and the notification of its end.
+// The part of AppKit that the project uses: the application object and the notification of its end.
 #pragma once
 
 #import <Foundation/Foundation.h>

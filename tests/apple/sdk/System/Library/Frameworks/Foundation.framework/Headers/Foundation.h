@@ -1,5 +1,5 @@
-// The classes and methods of Foundation that the project uses, with the types and nullability that Apple's
-// documentation gives them. A method that is missing here is unknown to the lane: look it up, then add it.
+// The classes and methods of Foundation that the project uses, with the types and nullability of Apple's documentation.
+// If a method is missing here, look it up and add it.
 #pragma once
 
 #include <objc/objc.h>

@@ -1,4 +1,4 @@
-// FeedEnclosure_p.h: what one <enclosure> of a feed says: a download of an item, or a delta.
+// FeedEnclosure_p.h: one <enclosure> of a feed: a download of an item, or a delta.
 #pragma once
 
 #include "Engine/core/feed/FeedWalker.h"

@@ -1,4 +1,4 @@
-// FeedEncoding.cpp: which text a feed's bytes stand for.
+// FeedEncoding.cpp: decodes the bytes of a feed.
 #include "Engine/core/feed/FeedEncoding.h"
 
 #include <QTextCodec>
@@ -14,7 +14,7 @@ namespace
 
 constexpr int LONGEST_DECLARATION = 1024;
 
-/// The name of a Unicode encoding that shows in the first bytes, else an empty one.
+/// The name of the Unicode encoding that the first bytes show; empty if they show none.
 QByteArray EncodingByFirstBytes(QByteArray const& bytes)
 {
     auto startsWith = [&](char const* first, int size)
@@ -46,8 +46,8 @@ QByteArray EncodingByFirstBytes(QByteArray const& bytes)
     return {};
 }
 
-/// The value of encoding="…" in the XML declaration, as written; empty when there is none. An odd declaration may be
-/// read otherwise here than by the reader, so the reader's own answer is compared later.
+/// The value of encoding="…" in the XML declaration, as written; empty if there is none. The reader may understand an
+/// odd declaration differently, so its result is compared later.
 QByteArray DeclaredEncoding(QByteArray const& bytes)
 {
     std::string_view declaration(bytes.constData(), static_cast<size_t>(qMin(bytes.size(), LONGEST_DECLARATION)));
@@ -73,7 +73,7 @@ QByteArray DeclaredEncoding(QByteArray const& bytes)
     return QByteArray(declaration.data() + opening + 1, static_cast<int>(closing - opening - 1));
 }
 
-/// The offset of the next byte that is not ASCII; \a size when there is none.
+/// The offset of the next byte that is not ASCII; \a size if there is none.
 int SkipAscii(uchar const* data, int at, int size)
 {
     quint64 blocks[4];
@@ -98,7 +98,7 @@ bool IsContinuation(uchar byte)
     return (byte & 0xC0) == 0x80;
 }
 
-/// The length of the sequence of two bytes or more that starts at \a at, of which \a left bytes are there; 0 when it is
+/// The length of the sequence of two or more bytes that starts at \a at, of which \a left bytes are there; 0 if it is
 /// not UTF-8.
 int SequenceLength(uchar const* at, int left)
 {
@@ -168,7 +168,7 @@ FeedDocument DecodeFeed(QByteArray const& bytes)
     }
     QTextCodec::ConverterState state;
     document.text = codec->toUnicode(bytes.constData(), bytes.size(), &state);
-    // The codecs let a lone half of a surrogate pair pass.
+    // The codecs accept a lone half of a surrogate pair.
     document.isDecodable = state.invalidChars == 0 && state.remainingChars == 0 && document.text.isValidUtf16();
     document.utf8 = document.text.toUtf8();
     return document;

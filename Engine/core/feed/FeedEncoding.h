@@ -1,4 +1,4 @@
-// FeedEncoding.h: which text a feed's bytes stand for, decided before a tag is looked at.
+// FeedEncoding.h: decodes the bytes of a feed, before any tag is read.
 #pragma once
 
 #include <QByteArray>
@@ -10,18 +10,18 @@ namespace Pelnar::Engine
 /// A feed ready to be scanned and read. UTF-8 is not copied.
 struct FeedDocument
 {
-    bool isDecodable = false; ///< false: the encoding is unknown or the bytes are not of it
-    int badOffset = 0;        ///< of UTF-8 that is not decodable: the first wrong byte
+    bool isDecodable = false; ///< false if the encoding is unknown or the bytes do not fit it
+    int badOffset = 0;        ///< of the first wrong byte, if the feed is UTF-8 that cannot be decoded
     QByteArray utf8;
-    QString text; ///< of a feed in another encoding, else null; the declaration in it then names an encoding that no
-                  ///< longer counts
+    QString text; ///< of a feed in another encoding, otherwise null. Ignore the encoding in its declaration.
 };
 
-/// By byte order mark, else by zero bytes beside the first "<", else by the declaration, else UTF-8.
+/// From the byte order mark; otherwise from zero bytes next to the first "<"; otherwise from the declaration; otherwise
+/// UTF-8.
 [[nodiscard]] FeedDocument DecodeFeed(QByteArray const& bytes);
 
-/// The offset of the first byte that is not UTF-8 (overlong forms, surrogates and values past U+10FFFF are not); the
-/// size of \a bytes when there is none.
+/// The offset of the first byte that is not UTF-8; the size of \a bytes if there is none. Overlong forms, surrogates
+/// and values above U+10FFFF are not UTF-8.
 [[nodiscard]] int FirstBadUtf8(QByteArray const& bytes);
 
 } // namespace Pelnar::Engine

@@ -14,12 +14,12 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// The best so far of a text that may stand in several languages.
+/// The best value so far of a text that may be given in several languages.
 struct LocalizedText
 {
     QString text;
     QString format;
-    int rank = std::numeric_limits<int>::max(); ///< lower is better; the first of equals stays
+    int rank = std::numeric_limits<int>::max(); ///< lower is better; the first of equal ones stays
 };
 
 struct ItemDraft
@@ -44,7 +44,8 @@ bool IsBetterFor(QString const& machine, FeedEnclosure const& enclosure, FeedEnc
     return !SuitsMachine(WordsOf(best.machines), machine) && SuitsMachine(WordsOf(enclosure.machines), machine);
 }
 
-/// 0 for the most wanted language; behind the wanted ones a text without a language, then one in another.
+/// 0 for the most wanted language. After the wanted ones come a text without a language, then a text in another
+/// language.
 int LanguageRank(QStringRef language, QStringList const& wanted)
 {
     if (language.isEmpty())
@@ -54,7 +55,7 @@ int LanguageRank(QStringRef language, QStringList const& wanted)
     for (int i = 0; i < wanted.size(); ++i)
     {
         QString const tag = QString(wanted.at(i)).replace(QLatin1Char('_'), QLatin1Char('-'));
-        // "de" serves one who wants "de-AT", and "de-AT" one who wants "de".
+        // "de" matches the wish "de-AT", and "de-AT" matches the wish "de".
         bool const isPrefix =
             tag.startsWith(language, Qt::CaseInsensitive) || language.startsWith(tag, Qt::CaseInsensitive);
         int const shorter = qMin(tag.size(), language.size());
@@ -134,7 +135,7 @@ void TakeIfBetter(LocalizedText& best, int rank, QString&& text)
     }
 }
 
-/// The first of several stays.
+/// The first one counts.
 void TakeIfFirst(QString& value, QString&& text)
 {
     if (value.isNull())
@@ -143,7 +144,7 @@ void TakeIfFirst(QString& value, QString&& text)
     }
 }
 
-/// Where the text of the feed's own element \a name goes, or null.
+/// The place for the text of the feed's own element \a name, or null.
 QString* FeedTextPlace(ItemDraft& draft, QStringRef name)
 {
     ItemPolicy& policy = draft.item.policy;
@@ -175,7 +176,7 @@ QVariant ReadFeedChild(FeedWalker& walker, FeedItemContext const& context, ItemD
     {
         return ReadDeltas(walker, context.platform, draft.deltas);
     }
-    // Decided before the element is read: the name does not outlive the reader's next step.
+    // Decided before the element is read, because the name is valid only until the reader's next step.
     QString* const place = FeedTextPlace(draft, name);
     bool const isTags = IsNamed(name, QLatin1String("tags"));
     bool const isCritical = IsNamed(name, QLatin1String("criticalUpdate"));
@@ -217,7 +218,7 @@ QVariant ReadRecompressed(FeedWalker& walker, FeedItemContext const& context,
     return value;
 }
 
-/// An element of this system's own: docs/formats/item-keys.md, item-archives.md. Of several the first counts.
+/// One of our own elements: docs/formats/item-keys.md, item-archives.md. The first one counts.
 QVariant ReadOwnChild(FeedWalker& walker, FeedItemContext const& context, ItemDraft& draft)
 {
     if (IsNamed(walker.Reader().name(), QLatin1String("recompressed")))
@@ -298,7 +299,7 @@ void ApplyEnclosure(FeedItem& item, FeedEnclosure const& enclosure, FeedItemCont
     item.signatures = SignaturesIn(enclosure);
 }
 
-/// Nothing if it cannot be downloaded and verified.
+/// Empty if it cannot be downloaded and verified.
 std::vector<FeedItem> MakeRecompressed(FeedItem const& parent, FeedEnclosure const& enclosure,
                                        FeedItemContext const& context)
 {

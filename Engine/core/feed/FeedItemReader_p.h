@@ -1,5 +1,5 @@
-// FeedItemReader_p.h: one <item> of a feed with its deltas.
-// Thread: any, one at a time. Ownership: values only; the walker and the context outlive the call.
+// FeedItemReader_p.h: one <item> of a feed with its deltas. Thread: any, one at a time. Ownership: the walker and the
+// context outlive the call.
 #pragma once
 
 #include "Engine/core/feed/FeedWalker.h"
@@ -9,7 +9,7 @@
 namespace Pelnar::Engine
 {
 
-/// What every item of one feed is read with.
+/// The same for every item of one feed.
 struct FeedItemContext
 {
     QUrl const& feedUrl;
@@ -19,7 +19,7 @@ struct FeedItemContext
     QStringList const& languages;
 };
 
-/// Reads the item just entered, to its end. Nothing when its enclosures all name other platforms.
+/// Reads the current item to its end. Empty if all its enclosures name other platforms.
 [[nodiscard]] std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& context);
 
 } // namespace Pelnar::Engine

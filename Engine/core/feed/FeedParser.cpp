@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// An error at a byte of \a utf8. Lines end as XML says: at a line feed, or at a carriage return without one.
+/// An error at a byte of \a utf8. As in XML, a line ends at a line feed, or at a carriage return without one.
 FeedParseError ErrorAt(ErrorCause cause, QByteArray const& utf8, int offset, int limit)
 {
     int line = 1;
@@ -40,8 +40,8 @@ bool IsItem(QXmlStreamReader const& reader)
     return reader.namespaceUri().isEmpty() && reader.name() == QLatin1String("item");
 }
 
-/// Reads the channel's own elements beside the items, without a step of its own: what stands inside them is read as if
-/// they were not there.
+/// Reads the channel's own elements between the items. It takes no steps of its own: the content of these elements is
+/// read as if they were not there.
 class ChannelReader
 {
 public:
@@ -112,7 +112,7 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
         {
             walker.Refuse(ErrorCause::FeedIsWebPage);
         }
-        // Deliberate: an item counts wherever it stands; published feeds leave the channel out.
+        // Deliberate: an item counts at any place, because some published feeds have no channel.
         else if (IsItem(walker.Reader()))
         {
             if (++met > context.limits.maxItems)

@@ -1,4 +1,4 @@
-// FeedPolicyReader_p.cpp: what the elements of an item that speak of installations say.
+// FeedPolicyReader_p.cpp: the elements of an item that say for which installations it is meant.
 #include "Engine/core/feed/FeedPolicyReader_p.h"
 
 namespace Pelnar::Engine
@@ -6,7 +6,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// The texts of the children \a name in \a element, which stands once or several times.
+/// The texts of the children \a name in \a element. There may be one or several.
 QStringList ChildTexts(QVariant const& element, QString const& name)
 {
     QVariant const child = element.toMap().value(name);

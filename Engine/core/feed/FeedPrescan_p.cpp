@@ -21,10 +21,10 @@ bool StartsWith(std::string_view text, std::string_view start)
 
 constexpr int SHORTEST_ATTRIBUTE = 4; ///< bytes: a name, "=" and two quotes
 
-/// The offset behind \a end, searched from \a from on; the size of \a text when it is missing.
+/// The offset after \a end, searched from \a from; the size of \a text if it is missing.
 size_t Behind(std::string_view text, size_t from, std::string_view end)
 {
-    // One byte is searched for and the rest compared: std::string_view::find would do the same with a slower start.
+    // Searches for one byte and compares the others: faster to start than std::string_view::find.
     while (from < text.size())
     {
         void const* const found = std::memchr(text.data() + from, end.front(), text.size() - from);
@@ -50,7 +50,7 @@ size_t NextOpening(std::string_view text, size_t from)
 
 struct Tag
 {
-    size_t end = 0; ///< behind the ">", or where the search was given up
+    size_t end = 0; ///< after the ">", or where the search ended
     int attributes = 0;
     bool isTooLong = false;
 };
@@ -65,7 +65,7 @@ constexpr std::array<bool, 256> MakeTagMarks()
     return marks;
 }
 
-/// The bytes of a tag that mean something outside of quotes.
+/// The bytes that have a meaning in a tag outside quotes.
 constexpr std::array<bool, 256> TAG_MARKS = MakeTagMarks();
 
 /// The offset of the next mark, or \a last.
@@ -125,8 +125,8 @@ Tag ScanTag(std::string_view text, size_t start, FeedLimits const& limits)
 FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
 {
     std::string_view const text(utf8.constData(), static_cast<size_t>(utf8.size()));
-    // No "<" stands inside a well-formed tag, so a tag ends before the next one; and what is shorter
-    // than its attributes would be cannot have too many of them.
+    // A well-formed tag contains no "<", so a tag ends before the next one. A tag that is shorter than its attributes
+    // would be cannot have too many of them.
     size_t const harmless =
         static_cast<size_t>(std::min(std::max(limits.maxAttributes, 0), limits.maxTagBytes / SHORTEST_ATTRIBUTE)) *
         SHORTEST_ATTRIBUTE;
@@ -147,7 +147,7 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
         }
         else if (StartsWith(rest, "<!"sv))
         {
-            // Any other declaration is one of a document type, or not well-formed.
+            // Any other declaration is a document type, or not well-formed.
             bool const isDocumentType = StartsWith(rest, "<!DOCTYPE"sv);
             return isDocumentType ? FeedPrescanFinding{ErrorCause::FeedDocumentType, static_cast<int>(at), 0}
                                   : FeedPrescanFinding();

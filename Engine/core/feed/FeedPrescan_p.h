@@ -1,5 +1,5 @@
-// FeedPrescan_p.h: one pass over the tags of a feed before the XML reader sees them. The reader takes time quadratic in
-// the attributes of a tag and cannot be stopped inside one, so what it must not meet is found here.
+// FeedPrescan_p.h: one pass over the tags of a feed before the XML reader sees them. The reader needs time quadratic in
+// the attributes of a tag and cannot be stopped inside a tag. This pass refuses such tags before.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -11,13 +11,13 @@ namespace Pelnar::Engine
 
 struct FeedPrescanFinding
 {
-    std::optional<ErrorCause> cause; ///< FeedDocumentType, FeedTooManyAttributes, FeedTagTooLong or nothing
+    std::optional<ErrorCause> cause; ///< FeedDocumentType, FeedTooManyAttributes, FeedTagTooLong, or empty
     int offset = 0;                  ///< of the "<"
-    int limit = 0;                   ///< that is exceeded
+    int limit = 0;                   ///< the exceeded limit
 };
 
-/// The first refusal in \a utf8. Knows tags, comments, CDATA sections and processing instructions; what is not
-/// well-formed is left to the reader, which stops at it.
+/// The first refusal in \a utf8. Knows tags, comments, CDATA sections and processing instructions. The reader stops at
+/// other text that is not well-formed.
 [[nodiscard]] FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits);
 
 } // namespace Pelnar::Engine

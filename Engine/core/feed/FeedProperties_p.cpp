@@ -40,8 +40,8 @@ void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant valu
         return;
     }
     QVariant& place = *found;
-    // A value of the feed is a text or a map, so a list is one that was begun here. It leaves the map while it grows:
-    // a shared list would be copied at every step.
+    // A value of the feed is a text or a map, so a list was begun here. It leaves the map while it grows: a shared list
+    // would be copied at each step.
     QVariantList list;
     if (place.type() == QVariant::List)
     {

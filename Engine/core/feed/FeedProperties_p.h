@@ -1,5 +1,5 @@
-// FeedProperties_p.h: any element of a feed as a value: text, a map of what it carries, a list of what stands twice.
-// Thread: any, one at a time.
+// FeedProperties_p.h: any element of a feed as a value: text, a map of its attributes and children, a list of repeated
+// names. Thread: any, one at a time.
 #pragma once
 
 #include "Engine/core/feed/FeedText_p.h"
@@ -10,21 +10,21 @@
 namespace Pelnar::Engine
 {
 
-/// What an element turned out to hold.
+/// The content of an element.
 struct FeedElement
 {
     QString text;                       ///< directly inside it, cleaned
-    QVariant value;                     ///< the text, or a map when it has attributes or children
+    QVariant value;                     ///< the text, or a map if it has attributes or children
     bool hasFeedCriticalUpdate = false; ///< one of its children is the feed's criticalUpdate
 };
 
-/// Reads the element just entered, to its end.
+/// Reads the current element to its end.
 [[nodiscard]] FeedElement ReadFeedElement(FeedWalker& walker, FeedTextKind kind);
 
-/// The attributes of the tag just entered.
+/// The attributes of the current tag.
 [[nodiscard]] QVariantMap ReadFeedAttributes(FeedWalker& walker);
 
-/// Adds \a value under \a name; values of one name become a list.
+/// Adds \a value under \a name. Values with the same name become a list.
 void AddFeedProperty(QVariantMap& properties, QString const& name, QVariant value);
 
 } // namespace Pelnar::Engine

@@ -22,11 +22,11 @@ bool IsDropped(char32_t codePoint, FeedTextKind kind)
     return IsHidden(codePoint) && (kind == FeedTextKind::SingleLine || !IsLineBreakOrTab(codePoint));
 }
 
-/// How many characters are looked at together: a number that the compiler turns into a few vector instructions.
+/// How many characters are tested together. The compiler turns this number into a few vector instructions.
 constexpr int MANY_UNITS = 32;
 constexpr int FEW_UNITS = 4;
 
-/// True when all of \a COUNT characters are ordinary: ASCII, and no control character but those that \a kind keeps.
+/// True if all of \a COUNT characters are ordinary: ASCII, and no control character except those that \a kind keeps.
 template <int COUNT>
 inline bool AreOrdinary(ushort const* units, FeedTextKind kind)
 {
@@ -49,8 +49,8 @@ inline bool AreOrdinary(ushort const* units, FeedTextKind kind)
     return found == 0;
 }
 
-/// The index behind the ordinary characters that are found from \a from on, in steps of \a COUNT; the last few are
-/// looked at together with the ones before them.
+/// The index after the ordinary characters from \a from on, in steps of \a COUNT. The last few are tested together with
+/// those before them.
 template <int COUNT>
 inline int SkipOrdinary(ushort const* units, int from, int size, FeedTextKind kind)
 {
@@ -62,7 +62,7 @@ inline int SkipOrdinary(ushort const* units, int from, int size, FeedTextKind ki
     return isTail && AreOrdinary<COUNT>(units + size - COUNT, kind) ? size : from;
 }
 
-/// The index of the first character at or behind \a from that is dropped; \a size when there is none.
+/// The index of the first character from \a from on that is dropped; \a size if there is none.
 int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
 {
     int i = from;
@@ -99,8 +99,8 @@ bool IsExtension(QStringRef text)
     return !text.isEmpty() && (!text.front().isDigit() || text.compare(QLatin1String("7z"), Qt::CaseInsensitive) == 0);
 }
 
-/// The session sees an address through Foundation, the publisher's tool sees it directly; both must see the same one.
-/// GNUstep drops an empty query and an empty fragment, and refuses a query or a fragment without a path.
+/// The session sees an address through Foundation, the publisher's tool directly. Both must see the same one. GNUstep
+/// drops an empty query and an empty fragment, and refuses a query or a fragment without a path.
 QUrl AsFoundationKeepsIt(QUrl address)
 {
     if (address.query().isEmpty())

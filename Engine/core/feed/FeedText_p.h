@@ -1,4 +1,4 @@
-// FeedText_p.h: single values of a feed: cleaned texts, lengths, versions out of file names, addresses.
+// FeedText_p.h: single values of a feed: cleaned texts, lengths, versions from file names, addresses.
 #pragma once
 
 #include <QString>
@@ -14,18 +14,18 @@ enum class FeedTextKind
     Block,      ///< as written, line breaks and tabs kept
 };
 
-/// \a text without hidden characters (SafeText.h), which could forge a log line, drive a terminal or turn the writing
-/// direction: each of them becomes a blank, so that no two parts of a version grow together.
+/// \a text without hidden characters (SafeText.h), which could forge a log line, control a terminal or change the
+/// writing direction. Each becomes a blank, so that two parts of a version are not joined.
 [[nodiscard]] QString CleanFeedText(QString text, FeedTextKind kind);
 
-/// The number of bytes that \a text gives; 0 for anything but decimal digits and for more than \a most.
+/// The number of bytes in \a text; 0 if it is not decimal digits or is more than \a most.
 [[nodiscard]] quint64 FeedLength(QStringRef text, quint64 most);
 
-/// The part of the address's file name after its last underscore, without extensions; empty when there is none.
+/// The part of the address's file name after its last underscore, without extensions; empty if there is none.
 [[nodiscard]] QString VersionInFileName(QUrl const& url);
 
-/// \a text resolved against \a base, as Foundation keeps it; empty for an empty text, for one that is no address and
-/// for one that is longer than any address.
+/// \a text relative to \a base, as Foundation keeps it. Empty for an empty text, an invalid address or one that is too
+/// long.
 [[nodiscard]] QUrl FeedAddress(QString const& text, QUrl const& base);
 
 } // namespace Pelnar::Engine

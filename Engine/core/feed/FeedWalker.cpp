@@ -1,4 +1,4 @@
-// FeedWalker.cpp: the XML reader behind the feed's limits.
+// FeedWalker.cpp: the XML reader with the feed's limits.
 #include "Engine/core/feed/FeedWalker.h"
 
 #include "Engine/core/feed/FeedText_p.h"
@@ -15,7 +15,7 @@ QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-
 QLatin1String const FEED_PREFIX("sparkle:");
 constexpr size_t MOST_KNOWN_NAMES = 32;
 
-/// Inline, as this runs for every name of a feed.
+/// Inline, because this runs for every name of a feed.
 bool IsEqual(QString const& a, QStringRef b)
 {
     return a.size() == b.size() &&
@@ -76,7 +76,7 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
         if (reader.hasError())
         {
             Refuse(ErrorCause::FeedMalformed);
-            // The reader quotes the character that it met.
+            // The reader's message contains the character that it found.
             error->detail = CleanFeedText(reader.errorString(), FeedTextKind::SingleLine);
         }
         break;
@@ -99,7 +99,7 @@ QXmlStreamReader::TokenType FeedWalker::Advance()
         if (isUtf8 && !reader.documentEncoding().isEmpty() &&
             reader.documentEncoding().compare(QLatin1String("UTF-8"), Qt::CaseInsensitive) != 0)
         {
-            // What the reader would see from here on is not what was scanned.
+            // The reader would see other text than the scan from here on.
             Refuse(ErrorCause::FeedMalformed);
             error->detail = QStringLiteral("The XML declaration is ambiguous.");
         }
@@ -157,8 +157,8 @@ bool FeedWalker::EnterChild(QString* text)
         case QXmlStreamReader::Characters:
             if (text != nullptr && text->isNull())
             {
-                // A copy of just this text. Appending would reserve room for more, which seldom comes, and toString()
-                // may share the reader's own buffer with all the room that it has.
+                // A copy of just this text. Appending would reserve memory that is seldom used, and toString() may
+                // share the reader's whole buffer.
                 *text = QString(reader.text().constData(), reader.text().size());
             }
             else if (text != nullptr)
@@ -184,7 +184,7 @@ void FeedWalker::Refuse(ErrorCause cause, int limit)
 
 QString const& FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
 {
-    // Items are alike: the name that came next last time most often comes next again.
+    // Items are similar: the name that came next last time usually comes next again.
     for (size_t tried = 0; tried < knownNames.size(); ++tried)
     {
         expectedName = expectedName + 1 < knownNames.size() ? expectedName + 1 : 0;
@@ -199,7 +199,7 @@ QString const& FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name
     {
         return otherName;
     }
-    // Most names need one text only: they are shown as written, in no namespace or in the feed's.
+    // Most names need one text only: names without a namespace and the feed's own are shown as written.
     knownNames.push_back({IsEqual(otherName, qualifiedName) ? otherName : qualifiedName.toString(),
                           IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), otherName});
     return knownNames.back().propertyName;

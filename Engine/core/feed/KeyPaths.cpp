@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// What the feed says of the plain signature; empty for what is no id.
+/// The feed's key id for the plain signature; empty if it is not an id.
 QString PlainSigner(FeedItem const& item)
 {
     return IsKeyId(item.signerKey.toStdString()) && !item.edSignature.isEmpty() ? item.signerKey : QString();

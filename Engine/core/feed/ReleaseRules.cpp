@@ -224,7 +224,7 @@ std::vector<KeyedVersion> SteppingStonesOf(std::vector<FeedItem> const& items, I
     }
     Installation withoutKeys = installation;
     withoutKeys.trustedKeys.clear();
-    withoutKeys.rolloutGroup = nullptr; // what is staged comes in time
+    withoutKeys.rolloutGroup = nullptr; // a staged item comes later
     std::vector<KeyedVersion> versions;
     for (FeedItem const& item : items)
     {

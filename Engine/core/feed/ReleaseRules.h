@@ -1,5 +1,5 @@
-// ReleaseRules.h: for which installations an item of a feed is meant. Clients and the publisher's tool ask the same
-// functions; docs/guide/publishing.md tells a publisher what they do.
+// ReleaseRules.h: for which installations an item of a feed is meant. Clients and the publisher's tool call the same
+// functions. docs/guide/publishing.md describes the rules for a publisher.
 #pragma once
 
 #include "Engine/core/feed/KeyPaths.h"
@@ -12,24 +12,25 @@
 namespace Pelnar::Engine
 {
 
-/// The groups of a staged rollout; the first gets an item at once, and each of the others one interval later.
+/// The groups of a staged rollout. The first gets an item immediately, each other one an interval after the group
+/// before.
 constexpr int ROLLOUT_GROUPS = 7;
 
-/// What is known of the application that asks.
+/// The known properties of the installation that asks.
 struct Installation
 {
-    QString version;      ///< empty when it is not known: no item is left out for it
-    QString machine;      ///< as OwnMachineName(); empty when it does not count
+    QString version;      ///< empty if not known: no item is left out because of it
+    QString machine;      ///< as OwnMachineName(); empty if it does not count
     QStringList channels; ///< that it lists
     /// The group, from 0, in which it gets an item of that version. Empty for a person who asks: staged items are
     /// theirs at once.
     std::function<int(QString const& version)> rolloutGroup;
     QDateTime now;
-    QStringList trustedKeys;          ///< ids; empty when they are not known: no item is left out for them
-    std::vector<KeyedVersion> stones; ///< that it takes one after the other; see SteppingStonesOf
+    QStringList trustedKeys;          ///< ids; empty if not known: no item is left out because of them
+    std::vector<KeyedVersion> stones; ///< that it installs one after another; see SteppingStonesOf
 };
 
-/// The first reason why an item is not like any other for an installation, in the order of the tests.
+/// The first reason why an installation does not get an item like any other, in the order of the tests.
 enum class PolicyVerdict
 {
     Withdrawn,
@@ -38,11 +39,11 @@ enum class PolicyVerdict
     KeyNotTrusted, ///< and no version of the feed leads to the key
     NeedsAnotherVersionFirst,
     NotYetRolledOut,
-    Informational, ///< offered as a link only: everything before it is not offered at all
+    Informational, ///< offered as a link only; with all verdicts before this one the item is not offered
     Plain,
 };
 
-/// A name that stays, such as "other-channel"; empty for Plain.
+/// A permanent name, such as "other-channel"; empty for Plain.
 [[nodiscard]] char const* NameOf(PolicyVerdict verdict);
 
 [[nodiscard]] constexpr bool IsLeftOut(PolicyVerdict verdict)
@@ -50,49 +51,49 @@ enum class PolicyVerdict
     return verdict < PolicyVerdict::Informational;
 }
 
-/// The verdict on \a item, or a delta. Lets exceptions of \a order through, which is asked only about versions that the
-/// item names.
+/// The verdict on \a item, or a delta. Passes exceptions of \a order on. It is called only for versions that the item
+/// names.
 [[nodiscard]] PolicyVerdict JudgePolicy(FeedItem const& item, Installation const& installation,
                                         VersionOrder const& order);
 
-/// Why \a verdict was given, for a log or a publisher: what the item says and what the installation is.
+/// The reason of \a verdict, for a log or a publisher: the item's value and the installation's.
 [[nodiscard]] QString ReasonOf(PolicyVerdict verdict, FeedItem const& item, Installation const& installation);
 
-/// The versions of \a items that \a installation takes one after the other, where one of them bears no signature that
-/// it can verify; else none. Lets exceptions of \a order through.
+/// The versions of \a items that \a installation installs one after another, if one of \a items has no signature that
+/// it can verify; otherwise none. Passes exceptions of \a order on.
 [[nodiscard]] std::vector<KeyedVersion> SteppingStonesOf(std::vector<FeedItem> const& items,
                                                          Installation const& installation, VersionOrder const& order);
 
-/// Whether \a item is critical for the installed version. Lets exceptions of \a order through.
+/// True if \a item is critical for the installed version. Passes exceptions of \a order on.
 [[nodiscard]] bool IsCriticalFor(FeedItem const& item, Installation const& installation, VersionOrder const& order);
 
-/// Whether the verdict on \a item may depend on the installed version.
+/// True if the verdict on \a item may depend on the installed version.
 [[nodiscard]] bool DependsOnVersion(FeedItem const& item);
 
-/// Removes what is not meant for \a installation from \a items and their deltas, each with a record in the log, and
-/// settles what is critical, informational and to be asked for there, and which signature it verifies. Lets exceptions
-/// of \a order through.
+/// Removes the items and deltas that are not meant for \a installation, each with a log record. For the others it
+/// decides whether they are critical, informational or to be asked for, and which signature is verified. Passes
+/// exceptions of \a order on.
 void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order);
 
-/// Whether a setting can list a channel of that name, and a feed name it.
+/// True if \a name can be a channel of a feed and of the setting.
 [[nodiscard]] bool IsChannelName(QString const& name);
 
-/// The machine that this program was built for, as feeds name it: "x86_64", "aarch64".
+/// The machine for which this program was built, as feeds name it: "x86_64", "aarch64".
 [[nodiscard]] QString OwnMachineName();
 
-/// Whether a program for one of \a machines runs on \a machine. True when there are none, or it is empty.
+/// True if a program for one of \a machines runs on \a machine. Also true if either is empty.
 [[nodiscard]] bool SuitsMachine(QStringList const& machines, QString const& machine);
 
-/// Whether some machine takes what is for \a a and what is for \a b.
+/// True if a machine takes programs for \a a and programs for \a b.
 [[nodiscard]] bool ShareMachine(QStringList const& a, QStringList const& b);
 
-/// The part of a version that its rollout groups belong to: its first two components.
+/// The part of a version that determines its rollout groups: its first two components.
 [[nodiscard]] QString VersionLine(QString const& version);
 
-/// The moment of a date as RSS writes it; invalid for any other text.
+/// A date as RSS writes it; invalid for any other text.
 [[nodiscard]] QDateTime FeedTime(QString text);
 
-/// When an item that is staged reaches the group; invalid when it is not staged, or has no date that can be read.
+/// When a staged item reaches the group; invalid if it is not staged, or has no readable date.
 [[nodiscard]] QDateTime RolloutTime(FeedItem const& item, int group);
 
 } // namespace Pelnar::Engine

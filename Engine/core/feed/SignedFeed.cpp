@@ -13,7 +13,7 @@ QByteArray const BLOCK_START = QByteArrayLiteral("<!-- pelnar-signature: ");
 QByteArray const ALGORITHM = QByteArrayLiteral("ed25519");
 QByteArray const COMMENT_END = QByteArrayLiteral(" -->");
 
-/// What stands behind the block's comment must be the end of its line and of the feed.
+/// After the block's comment only the end of its line and of the feed may follow.
 SignedFeedFault JudgeTail(QByteArray const& tail)
 {
     if (tail == "\n")

@@ -1,5 +1,5 @@
-// SignedFeed.h: where the bytes of a signed feed end and its signature begins; docs/formats/signed-feed.md.
-// No byte is looked at as XML.
+// SignedFeed.h: separates the bytes of a signed feed from its signature; docs/formats/signed-feed.md. The bytes are not
+// read as XML.
 #pragma once
 
 #include <QByteArray>
@@ -9,7 +9,7 @@
 namespace Pelnar::Engine
 {
 
-/// Why a feed's bytes are not content and one signature block behind it.
+/// Why the bytes are not a content followed by one signature block.
 enum class SignedFeedFault
 {
     None,
@@ -19,22 +19,22 @@ enum class SignedFeedFault
     BytesAfter,        ///< something else follows
     LineEndsRewritten, ///< the block's line ends with a carriage return
     AlgorithmUnknown,
-    Malformed, ///< not alone on its line, without its line's end, or not of the right form
+    Malformed, ///< not alone on its line, without the end of the line, or not of the right form
 };
 
 struct SignedFeed
 {
     SignedFeedFault fault = SignedFeedFault::None;
-    int contentBytes = 0;  ///< from the first byte; with None, what is signed
+    int contentBytes = 0;  ///< from the first byte; without a fault these bytes are signed
     int blockOffset = -1;  ///< of the block, or of the last one; -1 without one
     std::string signature; ///< base64 of 64 bytes; empty unless fault is None
 };
 
-/// Whether the signature fits is VerifySignature's matter. Every byte belongs to the content or to the block: with
-/// None, \a bytes are the content and what SignatureBlock makes of the signature.
+/// VerifySignature says whether the signature fits. Every byte belongs to the content or to the block: without a fault,
+/// \a bytes are the content followed by SignatureBlock(signature).
 [[nodiscard]] SignedFeed SplitSignedFeed(QByteArray const& bytes);
 
-/// The line behind the content, its end included. REQUIRES: \a signature is base64 of 64 bytes.
+/// The line after the content, including its end. REQUIRES: \a signature is base64 of 64 bytes.
 [[nodiscard]] QByteArray SignatureBlock(std::string const& signature);
 
 } // namespace Pelnar::Engine

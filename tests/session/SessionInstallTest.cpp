@@ -150,6 +150,8 @@ INSTANTIATE_TEST_SUITE_P(
         PathRow{"InstallerByRule", UpdateType::INSTALLER, {}, true, RULE},
         PathRow{"InstallerByAbsoluteOverride", UpdateType::INSTALLER,
                 Override(QStringLiteral("/opt/Studio \u00e9.app")), true, "/opt/Studio \u00e9.app"},
+        PathRow{"InstallerByOverrideThatQtCallsAbsolute", UpdateType::INSTALLER,
+                Override(QStringLiteral(":/Studio.app")), true, ":/Studio.app"},
         PathRow{"InstallerIgnoresRelativeOverride", UpdateType::INSTALLER, Override(QStringLiteral("Studio.app")), true,
                 RULE},
         PathRow{"InstallerIgnoresDottedOverride", UpdateType::INSTALLER, Override(QStringLiteral("../Studio.app")),

@@ -200,12 +200,14 @@ TEST_F(SessionOutcome, ExtensionsAreRecordedInKeyOrder)
     ScriptedItem const item = MakeItem(QStringLiteral("6.0"));
     item.Properties().properties = {{QStringLiteral("pelnar1_zeta"), QStringLiteral("%1 \"z\"")},
                                     {QStringLiteral("pelnar1_Alpha"), 7},
+                                    {QStringLiteral("pelnar1_%2"), QStringLiteral("a mark in the name")},
                                     {QStringLiteral("title"), QStringLiteral("no extension")}};
     Callbacks::DidFind(item);
     EXPECT_EQ(Log().Of(google::GLOG_INFO),
               (Records{Progress(727, FOUND + "Current state = SILENT_DOWNLOADING"),
                        Progress(730, FOUND + "SUAppcastItem contains update with UpdateType = BUNDLE"),
-                       Progress(735, "Extensions:"), Progress(738, "  * PELNAR1_ALPHA = \"<NOT A STRING>\""),
+                       Progress(735, "Extensions:"), Progress(738, "  * PELNAR1_%2 = \"a mark in the name\""),
+                       Progress(738, "  * PELNAR1_ALPHA = \"<NOT A STRING>\""),
                        Progress(738, "  * PELNAR1_ZETA = \"%1 \"z\"\"")}));
 }
 

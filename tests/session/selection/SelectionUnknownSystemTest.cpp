@@ -27,4 +27,21 @@ TEST(SelectionOnAnUnknownSystem, BoundsAreNeitherObeyedNorReadForTheLifeOfThePro
     EXPECT_TRUE(session.Validate(item));
 }
 
+TEST(SelectionOnAnUnknownSystem, VersionIsAskedForByTheFirstJudgementAlsoWithoutAContext)
+{
+    Pelnar::Util::SetOSVersion(Latin1("rolling"));
+    SelectionFixture session;
+    ScriptedItem const item(
+        []
+        {
+            ItemProperties properties = OfferOf("5.1");
+            properties.minimumSystemVersion = Latin1("99");
+            return properties;
+        }());
+    EXPECT_FALSE(session.Validate(item));
+    Pelnar::Util::SetOSVersion(Latin1("12.3"));
+    session.SetContext(MakeContext());
+    EXPECT_TRUE(session.Validate(item));
+}
+
 } // namespace

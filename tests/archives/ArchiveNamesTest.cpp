@@ -216,7 +216,7 @@ TEST_P(PackedNames, OfAForeignLocaleAreJudgedAlike)
     EXPECT_EQ(helper.names, publisher.names);
 }
 
-TEST_P(PackedNames, GoThroughADeltaWhereverItIsMade)
+TEST_P(PackedNames, GoThroughADeltaFromEveryEnvironment)
 {
     std::string const archive = Packed({"Utf8", {"LC_ALL=C.UTF-8"}}, Container::TarXz);
     std::string const delta = DeltaMadeIn(Locales().front(), archive);

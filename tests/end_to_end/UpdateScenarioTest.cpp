@@ -121,7 +121,7 @@ TEST_F(UpdateScenario, ASilentDeltaIsInstalledAsWell)
     EXPECT_EQ(std::count(served.begin(), served.end(), WHOLE_ARCHIVE), 0);
 }
 
-TEST_F(UpdateScenario, ADeltaThatCannotBeHadGivesWayToTheWholeWithoutAWord)
+TEST_F(UpdateScenario, DeltaThatCannotBeFetchedIsReplacedByTheWholeSilently)
 {
     UpdateServer server({QStringLiteral("status:PelnarDemo-5.9-5.10.delta:404")});
     ExpectUpdated(Run(server, DELTA_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
@@ -290,7 +290,7 @@ INSTANTIATE_TEST_SUITE_P(Table, RefusedUpdate,
                                          Refusal{"SilentThenSkipped", "automatic", DOWNLOADS_SILENTLY, {SESSION_SKIP}}),
                          [](auto const& info) { return std::string(info.param.name); });
 
-TEST_F(UpdateScenario, AnArchiveThatIsNotThereIsSaidInOneWindow)
+TEST_F(UpdateScenario, MissingArchiveIsReportedInOneWindow)
 {
     UpdateServer server({QStringLiteral("status:PelnarDemo-5.10.tar.zst:404")});
     ExpectUntouched(Run(server, WHOLE_FEED, Script("user", "answer", {INSTALL, CLOSE_ERROR})));

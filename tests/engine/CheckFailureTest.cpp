@@ -75,7 +75,7 @@ INSTANTIATE_TEST_SUITE_P(
         Fallback{"Nothing", {ScriptedChoice::Kind::Dangling, 0, {}}, {"asked", "asked", "aborted 1002"}}),
     [](auto const& row) { return row.param.name; });
 
-TEST_P(DeltaFallback, IsAskedForOnceWhateverTheAnswer)
+TEST_P(DeltaFallback, IsAskedForOnceForEveryAnswer)
 {
     LoopbackServer server(Answering(OkAnswer(FeedWith(ItemOf("5.1", DeltaOf("5.1", "5.0"))))));
     DelegateScript script;

@@ -112,7 +112,7 @@ TEST_F(CheckContract, DefaultsThatCannotBeSavedAreAWarning)
         [&log] { return HasLog(log, google::GLOG_WARNING, "settings of the update checker could not be saved"); }));
 }
 
-TEST_F(CheckContract, DefaultsThatCannotBeReadAreNone)
+TEST_F(CheckContract, UnreadableDefaultsCountAsEmpty)
 {
     int const threadsBefore = MeasureFootprint().threads;
     for (QByteArray const& bytes :

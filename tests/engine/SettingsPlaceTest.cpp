@@ -129,7 +129,7 @@ TEST_F(SettingsPlace, WhatStoodInTheOldPlaceIsTakenOverOnce)
     EXPECT_EQ(Run("get"), "off") << "once";
 }
 
-TEST_F(SettingsPlace, WhatIsTakenOverIsTheProgramsOwnWhateverItIsCalled)
+TEST_F(SettingsPlace, OldDefaultsAreThoseOfTheProgramForEveryName)
 {
     Write(EARLIER, "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<!DOCTYPE plist PUBLIC \"-//Apple//DTD PLIST 1.0//EN\" "
                    "\"http://www.apple.com/DTDs/PropertyList-1.0.dtd\">\n<plist version=\"1.0\">\n<dict>\n"
@@ -141,7 +141,7 @@ TEST_F(SettingsPlace, WhatIsTakenOverIsTheProgramsOwnWhateverItIsCalled)
     EXPECT_NE(Read(IN_HOME).find("SUSkippedVersion = 5.1;"), std::string::npos) << "skipped under the other name";
 }
 
-TEST_F(SettingsPlace, BrokenOldFileIsLeftAndSaid)
+TEST_F(SettingsPlace, BrokenOldFileIsKeptAndReported)
 {
     Write(EARLIER, "{ SUAutomaticallyUpdate = YES;");
     EXPECT_EQ(Run("get"), "off");

@@ -218,7 +218,7 @@ TEST_F(SignedFeedCheck, NeitherAnotherAddressNorAFragmentLowersTheFloor)
     }
 }
 
-TEST_F(SignedFeedCheck, FloorOfTheDefaultsIsTakenOverOnceWhateverItsAddress)
+TEST_F(SignedFeedCheck, LowestSerialOfTheDefaultsIsCopiedOnceForEveryAddress)
 {
     WriteEarlierDefaults("{ PelnarFeedRecord = { address = \"https://a.example/\"; serial = <*I8>; }; }");
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), Events{"aborted 3002"});
@@ -259,7 +259,7 @@ TEST_F(SignedFeedCheck, FloorIsNotLookedForThroughALink)
     EXPECT_EQ(ReadFeedRecordFile(elsewhere.filePath(QStringLiteral("updates/feed")))->serial, 8);
 }
 
-TEST_F(SignedFeedCheck, FloorThatCannotBeReadCountsAsNone)
+TEST_F(SignedFeedCheck, UnreadableLowestSerialCountsAsNone)
 {
     for (QByteArray const& record :
          {QByteArray("serial = eight;"), QByteArray("serial = \"8\";"), QByteArray("serial = (<*I8>);"),

@@ -140,7 +140,7 @@ TEST(FeedDocument, WithoutItemsIsAnEmptyFeed)
     }
 }
 
-TEST(FeedDocument, AWebPageIsNoFeed)
+TEST(FeedDocument, WebPageIsNotAFeed)
 {
     for (char const* bytes : {"<html/>", "\n<HTML><body><item/></body></HTML>",
                               "<?xml version='1.0'?><html xmlns='http://www.w3.org/1999/xhtml'/>",
@@ -223,7 +223,7 @@ TEST(FeedEncoding, OneThatIsWrongOrUnknownIsAnError)
     }
 }
 
-TEST(FeedEncoding, BadUtf8IsRefusedWhereverItStands)
+TEST(FeedEncoding, BadUtf8IsRefusedAtEveryPlace)
 {
     struct Row
     {
@@ -275,7 +275,7 @@ TEST(FeedEncoding, FindsTheFirstBadByteAsQtDoes)
     }
 }
 
-TEST(FeedNamespace, OnlyTheUriCountsWhateverThePrefix)
+TEST(FeedNamespace, OnlyTheUriCountsForAnyPrefix)
 {
     FeedParseResult const renamed = Parse(R"(<rss xmlns:x="http://www.andymatuschak.org/xml-namespaces/sparkle"><item>
         <x:version>1</x:version><enclosure url="a" x:edSignature="s" edSignature="t"/></item></rss>)");

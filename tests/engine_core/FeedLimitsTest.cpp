@@ -192,7 +192,7 @@ TEST(FeedAttributes, FortyThousandInOneTagAreRefused)
     EXPECT_EQ(int(Parse(Feed("<item" + Attributes(40000))).error().cause), int(ErrorCause::FeedTooManyAttributes));
 }
 
-TEST(FeedAttributes, EqualSignsOutsideOfTagsAreNone)
+TEST(FeedAttributes, EqualSignsOutsideTagsAreNotCounted)
 {
     QByteArray const signs(1000, '=');
     FeedParseResult const result =

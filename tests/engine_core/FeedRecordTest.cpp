@@ -120,7 +120,7 @@ TEST_F(FeedRecordFileTest, KeepsWhatItKnowsOfKeys)
     EXPECT_EQ(ReadFeedRecordFile(path)->keySerial, 12) << "no process lowers it";
 }
 
-TEST_F(FeedRecordFileTest, EachBundleHasItsOwnWhateverItIsCalled)
+TEST_F(FeedRecordFileTest, EachBundleHasItsOwnForEveryName)
 {
     std::set<QString> paths;
     for (char const* const identifier : {"example.app", "example.app2", "", "..", "../x", "a/b", "\xC3\xA4", "%2e"})

@@ -274,7 +274,7 @@ TEST_F(KeptFeedFileTest, WhoReadsWhileTwoProcessesWriteGetsAWholeOne)
     EXPECT_EQ(Names(), QStringList(QStringLiteral("kept.feed")));
 }
 
-TEST_F(KeptFeedFileTest, LockThatSomebodyHoldsHoldsNobodyUp)
+TEST_F(KeptFeedFileTest, LockOfAnotherProcessDelaysNobody)
 {
     ASSERT_TRUE(Keep());
     QLockFile lock(folder.path + QStringLiteral("/kept.feed.lock"));

@@ -40,7 +40,7 @@ TEST_F(RolloutSeedTest, IsDrawnOnceAndKeptForTheUserAlone)
     EXPECT_NE(RolloutSeed(m_folder.filePath(QStringLiteral("another"))), first);
 }
 
-TEST_F(RolloutSeedTest, FileThatIsNoneIsDrawnAgain)
+TEST_F(RolloutSeedTest, InvalidFileIsReplacedByANewSeed)
 {
     QByteArray const first = RolloutSeed(Folder());
     QFile file(File());

@@ -338,7 +338,7 @@ TEST(ReleaseNotesLimits, HoldToTheElement)
     }
 }
 
-TEST(ReleaseNotesLimits, LongWordsMayBeBrokenWhereverTheyAreCut)
+TEST(ReleaseNotesLimits, LongWordsMayBeBrokenAtEveryCut)
 {
     ReleaseNotesLimits limits;
     limits.maxWordBytes = 4;

@@ -48,7 +48,7 @@ TEST_F(AlertBoxTest, TakesTitleTextButtonsParentAndFlags)
     EXPECT_EQ(box.windowFlags() & FLAGS, FLAGS);
 }
 
-TEST_F(AlertBoxTest, TextIsPlainWhateverItContains)
+TEST_F(AlertBoxTest, TextIsAlwaysPlain)
 {
     AlertBox const box(AlertBox::Critical, QString(), QStringLiteral("<b>bold</b> & <img src='file:/x'>"),
                        QMessageBox::Ok, nullptr, FLAGS);

@@ -91,7 +91,7 @@ TEST_F(NagScreenTest, ContentLoadedLaterEndsTheUnknownStateWithTheSignal)
     EXPECT_EQ(m_signals, (Signals{{MajorUpdate, true}}));
 }
 
-TEST_F(NagScreenTest, TheAnswerThatThereIsNoneEndsTheUnknownStateToo)
+TEST_F(NagScreenTest, UnavailableContentEndsTheUnknownStateToo)
 {
     m_manager.ExpectContent(MajorUpdate);
     m_manager.SetUnavailable(MajorUpdate);

@@ -101,7 +101,7 @@ TEST(InstallRecord, ComesBackAndNoPieceOfItDoes)
     EXPECT_FALSE(DecodeInstallRecord(bytes + '\0'));
 }
 
-TEST(InstallRecord, ThatContradictsItselfIsNone)
+TEST(InstallRecord, ThatContradictsItselfIsInvalid)
 {
     using Change = void (*)(InstallRecord&);
     for (Change const change :
@@ -273,7 +273,7 @@ TEST(HelperReport, LinesAreAsDocumentedAndComeBack)
     }
 }
 
-TEST(HelperReport, OtherLinesAreNone)
+TEST(HelperReport, OtherLinesAreNotReports)
 {
     std::string const digest(64, 'a');
     for (std::string const& line : {

@@ -22,7 +22,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-TEST(GoodStart, ThirdStartWithoutAWordBringsThePreviousVersionBack)
+TEST(GoodStart, ThirdStartWithoutAConfirmationBringsThePreviousVersionBack)
 {
     InstalledScene installed;
     EXPECT_EQ(installed.Version(), "2.0");

@@ -296,7 +296,7 @@ TEST(UnpackArchive, ZipThatTellsANameTwiceAlikeComesOut)
     EXPECT_TRUE(std::filesystem::exists(scene.Path(name)));
 }
 
-TEST(UnpackArchive, OtherContainersAreRefusedWhateverTheirNames)
+TEST(UnpackArchive, OtherContainersAreRefusedUnderAnyName)
 {
     std::string const tar = MakeTar(MakeBundle("2.0"));
     struct Row

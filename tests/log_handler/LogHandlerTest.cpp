@@ -69,7 +69,7 @@ TEST_F(LogHandlerTest, RecordSaysWhatWasLoggedWhereAndWhen)
     EXPECT_EQ(kept[3].text, std::string(5000, 'x'));
 }
 
-TEST_F(LogHandlerTest, ThatThrowsIsCalledForTheNextRecordAllTheSame)
+TEST_F(LogHandlerTest, ThatThrowsIsStillCalledForTheNextRecord)
 {
     int calls = 0;
     SetLogHandler(

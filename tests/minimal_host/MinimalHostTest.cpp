@@ -183,7 +183,7 @@ TEST_F(MinimalHost, WhatOnlyAnotherParserTakesIsNoVersion)
     EXPECT_TRUE(std::count(AskedVersions().begin(), AskedVersions().end(), QStringLiteral("5.11"))) << "it was asked";
 }
 
-TEST_F(MinimalHost, ParentThatGoesWhereverTheHostIsCalledLeavesTheNextCheckItsTurn)
+TEST_F(MinimalHost, ParentThatGoesInAnyCallOfTheHostLeavesTheNextCheckPossible)
 {
     int places = 0;
     for (bool isReached = true; isReached; ++places)

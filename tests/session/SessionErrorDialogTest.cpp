@@ -169,7 +169,7 @@ TEST_F(SessionDialog, ErrorShowsItsTextAndOneButton)
     EXPECT_TRUE(GetFields().locked);
 }
 
-TEST_F(SessionDialog, ErrorThatCannotBeShownLocksNobodyOut)
+TEST_F(SessionDialog, ErrorThatCannotBeShownLeavesTheSessionUnlocked)
 {
     LendIn(State::SILENT_INSTALLING);
     Session().UnlockUpdaterWhenPossible();

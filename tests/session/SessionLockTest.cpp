@@ -285,7 +285,7 @@ TEST_F(SessionLock, WhatTheCallbackThrowsLeavesTheNotification)
     EXPECT_EQ(GetFields().state, State::WAITING) << "set before the notification";
 }
 
-TEST_F(SessionLock, FeedThatTheFrameworkRefusesLocksNobodyOut)
+TEST_F(SessionLock, FeedThatTheFrameworkRefusesLeavesTheSessionUnlocked)
 {
     LentContext previous;
     SetFields({previous.context, false, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
@@ -303,7 +303,7 @@ TEST_F(SessionLock, FeedThatTheFrameworkRefusesLocksNobodyOut)
     EXPECT_EQ(GetFields().context, SharedContext());
 }
 
-TEST_F(SessionLock, UpdaterThatDoesNotSayWhetherItIsBusyLocksNobodyOut)
+TEST_F(SessionLock, UpdaterThatDoesNotSayWhetherItIsBusyLeavesTheSessionUnlocked)
 {
     LentContext previous;
     SetFields({previous.context, false, false, State::WAITING, UpdateType::UNKNOWN, {}, false});
@@ -319,7 +319,7 @@ TEST_F(SessionLock, UpdaterThatDoesNotSayWhetherItIsBusyLocksNobodyOut)
     EXPECT_TRUE(Session().LockUpdater(SharedContext()));
 }
 
-TEST_F(SessionLock, OtherExceptionOfTheFeedPropagatesAndLocksNobodyOut)
+TEST_F(SessionLock, OtherExceptionOfTheFeedPropagatesAndLeavesTheSessionUnlocked)
 {
     Updater().onSetFeedUrl = [] { throw std::out_of_range("other"); };
     EXPECT_THROW((void)Session().LockUpdater(SharedContext()), std::out_of_range);

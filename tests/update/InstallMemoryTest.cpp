@@ -151,7 +151,7 @@ TEST_F(InstallMemoryTest, AutomaticFailureIsToldToNobody)
     EXPECT_FALSE(m_isToBeTold);
 }
 
-TEST_F(InstallMemoryTest, HelperThatEndedWithoutAWordHasFailed)
+TEST_F(InstallMemoryTest, HelperThatEndedWithoutAReportHasFailed)
 {
     for (InstallState const state : {InstallState::Waiting, InstallState::Installing})
     {

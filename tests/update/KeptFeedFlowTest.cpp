@@ -119,7 +119,7 @@ TEST_F(KeptFeedFlow, WithoutAFolderTheProcessRemembersItself)
     EXPECT_EQ(feed.wholes, 2);
 }
 
-TEST_F(KeptFeedFlow, DamagedFileIsFetchedAnew)
+TEST_F(KeptFeedFlow, DamagedFileIsFetchedAgain)
 {
     EXPECT_EQ(Check(), found);
     NewProcess();
@@ -135,7 +135,7 @@ TEST_F(KeptFeedFlow, DamagedFileIsFetchedAnew)
     EXPECT_EQ(feed.wholes, 2) << "it was kept again";
 }
 
-TEST_F(KeptFeedFlow, FeedThatNeverChangesGrowsOldAllTheSame)
+TEST_F(KeptFeedFlow, FeedThatNeverChangesGrowsOld)
 {
     QDateTime const begin = parts.now;
     for (int const days : {0, 10, 29, 40, 190})
@@ -177,7 +177,7 @@ TEST_F(KeptFeedFlow, ServerThatKeepsItsTagForAFeedSignedAgainIsAskedForIt)
     EXPECT_EQ(feed.wholes, 2);
 }
 
-TEST_F(KeptFeedFlow, KeptFeedIsVerifiedAnew)
+TEST_F(KeptFeedFlow, KeptFeedIsVerifiedAgain)
 {
     RequireSigned(FAR_AHEAD);
     EXPECT_EQ(Check(), found);
@@ -197,7 +197,7 @@ TEST_F(KeptFeedFlow, KeptFeedWithAnOlderSerialThanAnotherProcessSawIsRefused)
     EXPECT_EQ(feed.wholes, 2);
 }
 
-TEST_F(KeptFeedFlow, FeedThatANewerEngineRefusesIsFetchedAnew)
+TEST_F(KeptFeedFlow, FeedThatANewerEngineRefusesIsFetchedAgain)
 {
     EXPECT_EQ(Check(), found);
     settings.check.feedLimits.maxItems = 0;

@@ -306,7 +306,7 @@ TEST_F(UpdateFlowTest, OnlyTheSameVersionCanTakeADeltasPlace)
         EXPECT_TRUE(hasEnded) << second.name;
     }
 }
-TEST_F(UpdateFlowTest, FailuresInARowHoldTheBackgroundBackAndNobodyElse)
+TEST_F(UpdateFlowTest, FailuresInARowDelayOnlyBackgroundChecks)
 {
     Publish(FeedWith(Signed(ItemOf("5.1"))));
     settings.backOff = {1, parts.now};
@@ -340,7 +340,7 @@ TEST_F(UpdateFlowTest, FailuresAreCountedToldAndForgotten)
     EXPECT_EQ(Run(CheckKind::Background), (Notes{"not found", "aborted 1001", "check ended", "failures 0", "ended"}));
 }
 
-TEST_F(UpdateFlowTest, SwitchedOffNothingIsFetchedWhateverTheCheck)
+TEST_F(UpdateFlowTest, SwitchedOffNothingIsFetchedByAnyCheck)
 {
     settings.updates = UpdateSwitch::Off;
     settings.check.feedUrl = QUrl(QStringLiteral("http://127.0.0.1:1/feed.xml"));

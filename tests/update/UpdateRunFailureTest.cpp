@@ -221,7 +221,7 @@ TEST_F(UpdateRunTest, HelperThatWaitsForTheQuitAndDiesIsAnError)
     EXPECT_EQ(end->error->fault, UpdateFault::JobMalformed);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
-TEST_F(UpdateRunTest, DeltaThatFailsIsReplacedByTheWholeOnceAndNobodyIsTroubled)
+TEST_F(UpdateRunTest, DeltaThatFailsIsReplacedByTheWholeOnceSilently)
 {
     StartWithDelta(CheckKind::Interactive);
     Agree();
@@ -327,7 +327,7 @@ TEST_P(DelegateThatFails, EndsTheUpdateAndNothingIsInstalled)
     EXPECT_EQ(std::count(notes.begin(), notes.end(), "helper install"), 0);
 }
 
-TEST_F(UpdateRunTest, DelegateThatFailsWhenItIsToldToQuitIsUpdatedAllTheSame)
+TEST_F(UpdateRunTest, FailureOfTheDelegateAtTheRelaunchDoesNotStopTheUpdate)
 {
     host.throwsIn = "will relaunch";
     StartInteractive();

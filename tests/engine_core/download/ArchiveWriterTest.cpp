@@ -110,7 +110,7 @@ TEST_F(ArchiveWriterTest, CheckpointCallsDurableWhatWasTakenBeforeIt)
     ExpectSpending(record->spent, {500, 1, 3});
 }
 
-TEST_F(ArchiveWriterTest, EndedAtAnyMomentTheFileCanBeOpenedAnewAtOnce)
+TEST_F(ArchiveWriterTest, FileCanBeOpenedAgainAfterAnEndAtAnyMoment)
 {
     QByteArray const bytes = MakeArchive(4 * 1024 * 1024);
     for (int round = 0; round < 20; ++round)

@@ -13,7 +13,7 @@ using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 using std::chrono::milliseconds;
 
-TEST_F(ArchiveDownloadTest, WholeAnswerToARequestForTheRestBeginsAnew)
+TEST_F(ArchiveDownloadTest, WholeAnswerToARangeRequestStartsTheDownloadAgain)
 {
     LoopbackServer server(Scripted());
     script = Serving({ARCHIVE, "\"one\"", {}, 100000});
@@ -170,7 +170,7 @@ TEST_F(ArchiveDownloadTest, WholeFileIsHandedOverWithoutAsking)
     EXPECT_EQ(fcntl(again.archive.Get(), F_SETLEASE, F_RDLCK), 0);
 }
 
-TEST_F(ArchiveDownloadTest, RangeThatIsNotThereBeginsAnew)
+TEST_F(ArchiveDownloadTest, MissingRangeStartsTheDownloadAgain)
 {
     LoopbackServer server(Scripted());
     script = Serving({ARCHIVE, "\"one\"", {}, 100000});

@@ -67,7 +67,7 @@ TEST_F(FeedFetcherTest, HttpToAnotherComputerIsRefused)
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("http://feeds.example.com/feed.xml")))), ErrorCause::InsecureAddress);
 }
 
-TEST_F(FeedFetcherTest, AddressesThatAreNoneAreRefused)
+TEST_F(FeedFetcherTest, InvalidAddressesAreRefused)
 {
     EXPECT_EQ(CauseOf(Fetch(QUrl())), ErrorCause::NoFeedAddress);
     EXPECT_EQ(CauseOf(Fetch(QUrl(QStringLiteral("feed.xml")))), ErrorCause::InvalidAddress);

@@ -84,7 +84,7 @@ TEST(DiskChores, RunWithNoSignalOfTheHostsAndChangeNoneOfItsOwn)
 }
 
 #if !defined(__SANITIZE_ADDRESS__) && !(defined(__has_feature) && __has_feature(address_sanitizer))
-TEST(DiskChores, RunHereWhenThereIsNoThreadToBeHad)
+TEST(DiskChores, RunInTheCallersThreadIfNoOtherCanStart)
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe"); // in a process that has no stack of an ended thread
     auto const run = []

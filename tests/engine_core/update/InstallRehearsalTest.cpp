@@ -182,7 +182,7 @@ TEST(InstallRehearsal, BundleOnAnotherFileSystemThanItsFolderIsToldWithItsPath)
 }
 
 /// If the system refuses locks, the answer comes immediately, names the place of the application, and no file is left.
-TEST(InstallRehearsal, LocksThatCannotBeHadAreTold)
+TEST(InstallRehearsal, MissingLocksAreReported)
 {
     for (int const errorNumber : {ENOLCK, EOPNOTSUPP, ENOSYS, EINVAL, EBADF, EPERM})
     {

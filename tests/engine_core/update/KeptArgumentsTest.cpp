@@ -33,7 +33,7 @@ protected:
     KeptArguments& kept = KeptArguments::OfProcess();
 };
 
-TEST_F(KeptArgumentsTest, FileSaysWhatWasSaidLast)
+TEST_F(KeptArgumentsTest, FileHoldsTheLastArguments)
 {
     ASSERT_TRUE(kept.Keep({"before", "it was shared"}));
     UniqueFd const file = kept.Share();

@@ -182,7 +182,7 @@ TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOneWhereThereAreNoLeases)
     EXPECT_GT(prepared, 0) << "changed when it had been read";
 }
 
-TEST(Race, ArchiveIsPreparedWithoutALeaseWhateverRefusesIt)
+TEST(Race, ArchiveIsPreparedWithoutALeaseForEveryRefusal)
 {
     Versions const versions;
     for (int const error : {EINVAL, EACCES, EPERM, ENOLCK, EOPNOTSUPP, ENOSYS})

@@ -95,7 +95,7 @@ private:
     UniqueFd m_end;
 };
 
-TEST(ForeignLocks, HoldNobodyUp)
+TEST(ForeignLocks, DelayNobody)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
     VictimScene victim;

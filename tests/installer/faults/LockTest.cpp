@@ -86,7 +86,7 @@ TEST(Lock, OfAKilledHelperIsFreeAtOnce)
     }
 }
 
-TEST(Lock, FilesThatLookLikeOneAreNone)
+TEST(Lock, SimilarFilesDoNotCount)
 {
     Versions const versions;
     UpdateScene scene;
@@ -195,7 +195,7 @@ class LockSquatter : public testing::TestWithParam<SquatterRow>
 {
 };
 
-TEST_P(LockSquatter, HoldsNobodyUp)
+TEST_P(LockSquatter, DelaysNobody)
 {
     Versions const versions;
     UpdateScene scene;

@@ -144,7 +144,7 @@ class WithoutCall : public testing::TestWithParam<MissingCall>
 };
 
 /// The whole update on a system that does not have the call, or does not let it be made.
-TEST_P(WithoutCall, UpdatesAreInstalledAllTheSame)
+TEST_P(WithoutCall, UpdatesAreStillInstalled)
 {
     std::string const answer = InChild(
         []
@@ -158,7 +158,7 @@ TEST_P(WithoutCall, UpdatesAreInstalledAllTheSame)
 }
 
 /// Its rights carry over, which changes files that are on the disk already.
-TEST_P(WithoutCall, BundleThatOthersMayNotEnterIsUpdatedAllTheSame)
+TEST_P(WithoutCall, BundleThatOthersMayNotEnterIsUpdatedToo)
 {
     std::string const answer = InChild(
         []

@@ -211,7 +211,7 @@ TEST_F(EditTest, PruningThatTakesAnUpdateAwayIsRefused)
     EXPECT_EQ(Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")}).status, 0);
 }
 
-TEST_F(EditTest, SignedFeedIsSignedAgainOrSaidToNeedIt)
+TEST_F(EditTest, SignedFeedIsSignedAgainOrReportedToNeedIt)
 {
     Write("appcast.xml", FeedWith(Item("5.2") + Item("5.1")));
     ASSERT_EQ(RunTool({QStringLiteral("keys"), QStringLiteral("generate"), Path("key")}).status, 0);

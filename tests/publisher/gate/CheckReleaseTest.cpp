@@ -176,7 +176,7 @@ TEST_F(CheckRelease, AddressesOfThisDiskAreNamed)
     }
 }
 
-TEST_F(CheckRelease, ArchiveThatIsNotInTheFolderIsSaidToBeUnjudged)
+TEST_F(CheckRelease, ArchiveOutsideTheFolderIsReportedAsNotJudged)
 {
     HandMadeRelease release;
     release.Add(Version("1.0"));

@@ -70,7 +70,7 @@ TEST_F(Accident, NewKeyStrandsVersions)
                    "Test-5.9.zip)", "5.9.1 (", "; publish a version before it, signed by the key that they trust"});
 }
 
-TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
+TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsAccepted)
 {
     m_folder.PutVersion("5.9");
     Publish();
@@ -93,7 +93,7 @@ TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsNone)
     EXPECT_EQ(explained("5.10").find("needs-another-version-first"), std::string::npos) << explained("5.10");
 }
 
-TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsNone)
+TEST_F(Accident, NewKeyThatSignsBesideTheOldOneIsAccepted)
 {
     m_folder.PutVersion("5.9");
     Publish();
@@ -141,7 +141,7 @@ TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
                   {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
 }
 
-TEST_F(Accident, NewKeyThatEveryVersionTrustsIsNone)
+TEST_F(Accident, NewKeyThatEveryVersionTrustsIsAccepted)
 {
     m_folder.PutBundle(WithBothKeys("5.10"));
     Publish();

@@ -246,7 +246,7 @@ TEST(Generate, DeltaThatMakesAnotherBundleIsRefused)
     EXPECT_FALSE(QFile::exists(folder.PathOf("appcast.xml")));
 }
 
-TEST(Generate, DeltaWithoutItsBaseOrItemIsLeftOutWithAWord)
+TEST(Generate, DeltaWithoutItsBaseOrItemIsLeftOutAndReported)
 {
     PublisherFolder const folder;
     folder.PutVersion("1.0");

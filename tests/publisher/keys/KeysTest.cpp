@@ -56,7 +56,7 @@ private:
     Workspace m_folder;
 };
 
-TEST_F(Keys, GenerateMakesAFileForItsOwnerOnlyWhateverTheMask)
+TEST_F(Keys, GenerateMakesAFileForItsOwnerOnlyUnderEveryMask)
 {
     mode_t const previous = ::umask(0);
     ToolRun const run = RunTool({QStringLiteral("keys"), QStringLiteral("generate"), PathOf("key")});

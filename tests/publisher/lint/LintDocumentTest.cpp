@@ -32,7 +32,7 @@ TEST(LintDocument, AnElementStandsWhereItsTagBegins)
     EXPECT_FALSE(rss.FeedAttribute("a").has_value());
 }
 
-TEST(LintDocument, ItemsAreFoundWhereverTheyStand)
+TEST(LintDocument, ItemsAreFoundAtEveryPlace)
 {
     LintElement const document =
         ReadLintDocument("<rss><item/><channel><item/><x><item/></x></channel><y:item xmlns:y='urn:y'/></rss>");

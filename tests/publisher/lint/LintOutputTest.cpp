@@ -46,7 +46,7 @@ TEST(LintOutput, AFindingIsOneLineWithPlaceRuleAndMend)
               "as length\n<stdin>: 1 error\n");
 }
 
-TEST(LintOutput, ACleanFeedIsSaidToBe)
+TEST(LintOutput, CleanFeedIsReportedAsClean)
 {
     ToolRun const run = RunAppcastProgram(Line(), FeedOfCase("ADeltaPasses"));
     EXPECT_EQ(run.status, 0);

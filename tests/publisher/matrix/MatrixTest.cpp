@@ -142,7 +142,7 @@ TEST(Matrix, TheJsonHasTheDocumentedMembers)
         }));
 }
 
-TEST_F(MatrixGate, PassesWhatIsAsExpectedWhateverTheAddress)
+TEST_F(MatrixGate, PassesTheExpectedMatrixForAnyAddress)
 {
     QString const expectation = Expectation(FEED);
     QByteArray moved = FEED;

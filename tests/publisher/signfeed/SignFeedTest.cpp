@@ -331,7 +331,7 @@ TEST_F(SignFeedTest, KeyComesFromAFileOrStandardInputAndNeverFromAnArgument)
     Believe(Content());
 }
 
-TEST_F(SignFeedTest, FileThatIsNotThereIsSaid)
+TEST_F(SignFeedTest, MissingFileIsReported)
 {
     ToolRun const run = Run();
     EXPECT_EQ(run.status, 2);

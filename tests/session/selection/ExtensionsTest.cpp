@@ -23,7 +23,7 @@ TEST(Extensions, KeyIsTheNameInUpperCase)
     EXPECT_EQ(ExtensionKey(QStringLiteral("pelnar1_stra\u00dfe")), QStringLiteral("PELNAR1_STRASSE"));
 }
 
-TEST(Extensions, OtherNamesAreNone)
+TEST(Extensions, OtherNamesAreNotExtensions)
 {
     for (char const* name : {"", "pelnarFoo", "pelnar2_Foo", "x_pelnar1_Foo", " pelnar1_Foo", "pelnar1", "pelnar1-Foo"})
     {

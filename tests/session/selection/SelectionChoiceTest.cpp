@@ -175,7 +175,7 @@ TEST_F(SelectionOfAFeed, EveryGuardGivesUpInItsOrder)
     EXPECT_TRUE(items[0].Properties().reads.empty());
 }
 
-TEST_F(SelectionOfAFeed, StateIsOnRecordWhateverItIs)
+TEST_F(SelectionOfAFeed, EveryStateIsLogged)
 {
     for (auto const& [state, name] : {std::make_pair(State::FETCHING_INFO, "FETCHING_INFO"),
                                       std::make_pair(State::SILENT_ABORTING, "SILENT_ABORTING"),
@@ -200,7 +200,7 @@ TEST_F(SelectionOfAFeed, NoValidItemIsNoBestItem)
                                                   "  * versionString = 5.0"}));
 }
 
-TEST_F(SelectionOfAFeed, NewestItemIsChosenWhereverItStands)
+TEST_F(SelectionOfAFeed, NewestItemIsChosenAtEveryPlace)
 {
     ScriptedItem const newest(OfferOf("5.3"));
     for (int position = 0; position < 3; ++position)

@@ -138,7 +138,7 @@ TEST_F(UpdateFlowInterruption, ParentDestroyedInsideTheDialog)
     };
     Start(UpdateCheckMode::Automatic);
     Report(UpdateCheckResult::UpdateAvailable);
-    EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "opening", "dialog"})) << "nobody is left to hear of the closing";
+    EXPECT_EQ(journal, (Journal{"found 5.9 6.0", "opening", "dialog"})) << "no listener is left";
     Turn();
     EXPECT_EQ(Current(), nullptr);
 }

@@ -34,7 +34,7 @@ protected:
     {
         auto const callsSoFar = session.calls;
         auto const askedSoFar = application.askedServices;
-        EXPECT_NE(Current(), nullptr) << "deliberate: what was set stays set";
+        EXPECT_NE(Current(), nullptr) << "deliberate: a value that was set stays";
         Start(UpdateCheckMode::Automatic);
         UpdateManager::CheckForUpdates(parent.get(), false, nullptr, {});
         EXPECT_EQ(session.calls, callsSoFar);

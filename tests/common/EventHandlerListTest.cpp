@@ -146,7 +146,7 @@ TEST(EventHandlerList, WorksThroughItsPublisherInterface)
 TEST(EventHandlerList, PassOverAnEmptyListCallsNothing)
 {
     List list;
-    list.PerformForEachEventHandler([](Handler*) { FAIL() << "there is nobody to call"; });
+    list.PerformForEachEventHandler([](Handler*) { FAIL() << "there is no callback"; });
 }
 
 TEST(EventHandlerList, HandlersAreCalledInTheOrderOfAdditionOnTheNotifyingThread)
@@ -234,7 +234,7 @@ TEST(EventHandlerList, NestedPassRunsInsideTheHandlerOverTheListAsItIsThen)
         {
             list.RegisterEventHandler(&added);
             Notify(list);
-            EXPECT_EQ(added.calls, 1) << "the nested pass took a snapshot of its own";
+            EXPECT_EQ(added.calls, 1) << "the nested pass has its own snapshot";
         }
     };
     list.RegisterEventHandler(&outer);

@@ -44,10 +44,10 @@ TEST(FoundationText, AddressThatGoesFromItsHostToItsQueryGetsAPath)
         char const* address;
         char const* expected;
     };
-    for (Row const& row : {Row{"https://a.example?product=1", "https://a.example/?product=1"},
-                           Row{"https://u:p@a.example:8443?q", "https://u:p@a.example:8443/?q"},
-                           Row{"https://a.example#f", "https://a.example/#f"},
-                           Row{"https://a.example", "https://a.example"}})
+    for (Row const& row :
+         {Row{"https://a.example?product=1", "https://a.example/?product=1"},
+          Row{"https://u:p@a.example:8443?q", "https://u:p@a.example:8443/?q"},
+          Row{"https://a.example#f", "https://a.example/#f"}, Row{"https://a.example", "https://a.example"}})
     {
         QUrl const url(QString::fromLatin1(row.address));
         EXPECT_EQ(ThroughFoundation(url).toEncoded().toStdString(), row.expected) << row.address;
@@ -58,7 +58,7 @@ TEST(RaisedException, ReasonIsReported)
 {
     EXPECT_EQ(ReasonRaisedBy([] { Raise(QStringLiteral("no disk")); }), "no disk");
     EXPECT_EQ(ReasonRaisedBy([] { Raise(QStringLiteral("")); }), "");
-    EXPECT_EQ(ReasonRaisedBy([] { Raise(QString()); }), "") << "not what GNUstep puts for nil";
+    EXPECT_EQ(ReasonRaisedBy([] { Raise(QString()); }), "") << "not GNUstep's placeholder for nil";
     EXPECT_EQ(ReasonRaisedBy([] {}), std::nullopt);
 }
 

@@ -245,7 +245,7 @@ TEST(AddressMap, PlacesGoWithTheirRun)
     EXPECT_EQ(map.Find(0x1000 + 99), 0x1000u + 99);
     EXPECT_EQ(map.Find(0x1000 + 100), 0x1000u + 150);
     EXPECT_EQ(map.Find(0x1000 + 199), 0x1000u + 249);
-    EXPECT_EQ(map.Find(0x1000 + 210), 0x1000u + 260) << "what is gone is as far as the run before it";
+    EXPECT_EQ(map.Find(0x1000 + 210), 0x1000u + 260) << "removed bytes map like the run before them";
     EXPECT_EQ(map.Find(0x1000 + 220), 0x1000u + 250);
     EXPECT_EQ(map.Find(0x1000 + 1050), 0x1000u + 1080) << "behind the file the segment's end counts";
 }

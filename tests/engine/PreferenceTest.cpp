@@ -94,7 +94,7 @@ TEST_F(Preference, IsOffUntilThePersonOrTheBundleSaysOtherwise)
     SetBundle("SUAutomaticallyUpdate = YES; ");
     EXPECT_EQ(Ask("get"), "on");
     EXPECT_EQ(Ask("off"), "off");
-    EXPECT_EQ(Ask("get"), "off") << "what the person says counts, in the next process too";
+    EXPECT_EQ(Ask("get"), "off") << "the person's choice counts, also in the next process";
     SetBundle("SUAutomaticallyUpdate = NO; ");
     EXPECT_EQ(Ask("on"), "on");
     EXPECT_EQ(Ask("get"), "on");

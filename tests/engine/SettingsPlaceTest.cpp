@@ -123,7 +123,7 @@ TEST_F(SettingsPlace, WhatStoodInTheOldPlaceIsTakenOverOnce)
     EXPECT_EQ(Run("get"), "on");
     EXPECT_EQ(Run("off"), "off");
     EXPECT_NE(Read(IN_HOME).find("SUSkippedVersion = 5.1;"), std::string::npos) << Read(IN_HOME);
-    EXPECT_EQ(Read(IN_HOME).find("Recent"), std::string::npos) << "what is the host's stays the host's";
+    EXPECT_EQ(Read(IN_HOME).find("Recent"), std::string::npos) << "the host's files stay";
     EXPECT_EQ(Read(EARLIER), "{ SUAutomaticallyUpdate = YES; SUSkippedVersion = 5.1; Recent = (a); }");
     Write(IN_HOME, "{ PelnarEarlierDefaultsTaken = YES; }");
     EXPECT_EQ(Run("get"), "off") << "once";
@@ -165,7 +165,7 @@ TEST_F(SettingsPlace, HostThatUsesFoundationKeepsItsOwnDefaults)
 TEST_F(SettingsPlace, CommandLineAndSharedDefaultsStillCount)
 {
     Write("Defaults/NSGlobalDomain.plist", "{ SUAutomaticallyUpdate = YES; }");
-    EXPECT_EQ(Run("get"), "on") << "what all applications of the person share";
+    EXPECT_EQ(Run("get"), "on") << "the settings that all applications share";
     EXPECT_EQ(Run("off"), "off");
     QProcess process;
     process.setProcessEnvironment(environment);

@@ -294,7 +294,7 @@ TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
     ASSERT_TRUE(lock.lock());
     EXPECT_EQ(Check(SignedFeedOf("5.1", "7")), (Events{"asked", "found 5.1"}));
     EXPECT_FALSE(KeptRecord()) << "the check has ended, and nothing is stored yet";
-    EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), Events{"aborted 3002"}) << "it is remembered all the same";
+    EXPECT_EQ(Check(SignedFeedOf("5.1", "6")), Events{"aborted 3002"}) << "it is still stored";
     lock.unlock();
     WaitForSerial(7);
 }

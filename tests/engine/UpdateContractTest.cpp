@@ -160,7 +160,7 @@ TEST_F(UpdateContract, InvocationMayBeKeptAndInvokedLaterOnce)
     EXPECT_EQ(driver->Events().size(), count);
     application.reset();
     kept->Invoke();
-    EXPECT_EQ(driver->Events().size(), count) << "what it was for has gone";
+    EXPECT_EQ(driver->Events().size(), count) << "its purpose no longer exists";
 }
 
 TEST_F(UpdateContract, MethodsOfAnUpdateThatTheDelegateLacksAreNotCalled)

@@ -80,7 +80,7 @@ TEST(FeedItem, ASmallerArchiveOfTheBundleStandsBesideTheOneForAllClients)
         EXPECT_TRUE(OnlyItem((enclosure + recompressed(unusable)).constData()).recompressed.empty()) << unusable;
     }
     EXPECT_TRUE(OnlyItem(recompressed("length='60' sparkle:edSignature='eh=='").constData()).recompressed.empty())
-        << "beside nothing";
+        << "with no other file";
 }
 
 TEST(FeedItem, TakesEveryPropertyOfAFullItem)

@@ -101,7 +101,7 @@ TEST_F(FeedRecordFileTest, IsReadAsItWasWritten)
     QFile::Permissions const othersAndGroup =
         QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     EXPECT_FALSE(QFileInfo(path).permissions() & othersAndGroup);
-    EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup) << "nobody else holds its lock";
+    EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup) << "other users cannot hold its lock";
 }
 
 TEST_F(FeedRecordFileTest, KeepsWhatItKnowsOfKeys)

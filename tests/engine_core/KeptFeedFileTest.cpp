@@ -283,7 +283,7 @@ TEST_F(KeptFeedFileTest, LockOfAnotherProcessDelaysNobody)
     EXPECT_FALSE(Keep(SomeFeed("other")));
     EXPECT_EQ(log.Of(google::GLOG_WARNING).size(), 1u);
     ASSERT_TRUE(Read());
-    EXPECT_TRUE(*Read() == SomeFeed()) << "what is there stays";
+    EXPECT_TRUE(*Read() == SomeFeed()) << "existing files stay";
 }
 
 } // namespace

@@ -82,14 +82,14 @@ TEST(KeyPaths, ABundleVerifiesTheSignatureOfAKeyThatItTrusts)
     EXPECT_EQ(Left({item}, Trusting({KEY_C, KEY_B})), "6.0:second ");
     EXPECT_EQ(Left({item}, Trusting({KEY_C})), "");
     item.signerKey.clear();
-    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "nobody says whose it is: the download will show it";
+    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "the key is not named: the download is verified";
     item.signerKey = QStringLiteral("a key");
-    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "no id says nothing";
+    EXPECT_EQ(Left({item}, Trusting({KEY_C})), "6.0:plain ") << "an empty id has no meaning";
     item.edSignature.clear();
     item.signerKey = KEY_A;
     EXPECT_EQ(Left({item}, Trusting({KEY_A})), "") << "there is no signature of that key";
     item.signatures.clear();
-    EXPECT_EQ(Left({item}, Trusting({KEY_A})), "6.0: ") << "without any signature it is refused by its own name";
+    EXPECT_EQ(Left({item}, Trusting({KEY_A})), "6.0: ") << "without a signature it has a fault of its own";
 }
 
 TEST(KeyPaths, DeltaOfAnotherKeyIsLeftOutAlone)
@@ -119,7 +119,7 @@ TEST(KeyPaths, AVersionThatBringsTheKeyComesFirst)
     EXPECT_EQ(Verdict({Keyed("7.0", KEY_A, {KEY_A, KEY_B}), next}, Trusting({KEY_A})), "key-not-trusted")
         << "the other one is newer";
     EXPECT_EQ(Verdict({Keyed("4.0", KEY_A, {KEY_A, KEY_B}), next}, Trusting({KEY_A})), "key-not-trusted")
-        << "the other one is older than what runs";
+        << "the other one is older than the running version";
     FeedItem withdrawn = bridge;
     withdrawn.policy.isWithdrawn = true;
     EXPECT_EQ(Verdict({withdrawn, next}, Trusting({KEY_A})), "key-not-trusted");

@@ -214,6 +214,6 @@ TEST(FeedRecordUnderKeys, ASerialThatARevokedKeySignedCountsNoMore)
     FeedRecord const dropped = UnderKeys(record, {{}, 5, {"21fe31dfa154a261"}});
     EXPECT_EQ(dropped.serial, 0);
     EXPECT_EQ(dropped.serialSigner, "");
-    EXPECT_EQ(FeedRecordToKeep(record, dropped).serial, 0) << "what was stored before the key was revoked";
+    EXPECT_EQ(FeedRecordToKeep(record, dropped).serial, 0) << "stored before the key was revoked";
     EXPECT_EQ(FeedRecordToKeep(dropped, record).serial, 0) << "another process that still believes the key";
 }

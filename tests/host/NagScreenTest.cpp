@@ -70,7 +70,7 @@ TEST_F(NagScreenTest, ContentThatIsExpectedIsUnknownUntilItIsThere)
     m_manager.SetContent(MajorUpdate, CONTENT);
     EXPECT_EQ(m_signals, (Signals{{MajorUpdate, true}}));
     m_manager.ExpectContent(MajorUpdate);
-    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 2) << "what is there stays";
+    EXPECT_EQ(m_manager.GetContentState(MajorUpdate), 2) << "existing files stay";
 }
 
 TEST_F(NagScreenTest, ContentThatWasTakenAwayMayBeExpected)

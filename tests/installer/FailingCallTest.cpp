@@ -162,7 +162,7 @@ TEST(Faults, ParentThatCanNeverAskAfterItsChildEndsAndLeavesOneOfTheVersions)
     HelperStart start = trace.Start();
     start.before.insert(start.before.begin(), {"/usr/bin/timeout", "-s", "KILL", "60"});
     HelperOutcome const outcome = scene.Install(job, start);
-    EXPECT_EQ(outcome.signal, 0) << "it asked for ever";
+    EXPECT_EQ(outcome.signal, 0) << "it never stopped asking";
     EXPECT_GT(trace.Errors(), 1);
     ExpectWhole(scene, versions);
     ExpectRecovered(scene, versions);

@@ -195,7 +195,7 @@ TEST(Rights, NextDeltaFitsABundleThatOnlyItsOwnerMayUse)
     Update(scene);
     UniqueFd const opened(::open(bundle.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     Versions const versions;
-    EXPECT_EQ(DigestTree(opened.Get(), 0700), versions.next) << "but for the bits that the folder takes away";
+    EXPECT_EQ(DigestTree(opened.Get(), 0700), versions.next) << "apart from the bits that the folder removes";
     EXPECT_NE(DigestTree(opened.Get()), versions.next);
 }
 

@@ -183,7 +183,7 @@ TEST_F(SessionLock, HolderMayUnlockWithinItsOwnNotification)
     {
         Session().UnlockUpdaterWhenPossible();
         Context().checkFinishedCallback = nullptr;
-        EXPECT_EQ(*held, 0) << "what the running callback holds is alive";
+        EXPECT_EQ(*held, 0) << "the running callback's data is alive";
         EXPECT_FALSE(destroyed);
     };
     Callbacks::DidNotFind();

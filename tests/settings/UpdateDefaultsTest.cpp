@@ -83,7 +83,7 @@ TEST_F(UserDefaults, RememberedValuesCountAtOnce)
     EXPECT_TRUE(Defaults().Save());
     EXPECT_TRUE(Read(File()).find("SUSkippedVersion") != std::string::npos);
     Write(File(), "{ SUSkippedVersion = 6.0; }");
-    EXPECT_EQ(Defaults().Value(Setting::SkippedVersion), QVariant(QStringLiteral("6.0"))) << "another process's word";
+    EXPECT_EQ(Defaults().Value(Setting::SkippedVersion), QVariant(QStringLiteral("6.0"))) << "set by another process";
 }
 
 TEST_F(UserDefaults, ManyProcessesLoseNothing)
@@ -219,7 +219,7 @@ TEST_F(UserDefaults, LinkInTheFilesPlaceIsNotFollowed)
     EXPECT_FALSE(QFileInfo(File()).isSymLink());
     ASSERT_EQ(::mkfifo(QFile::encodeName(Path("fifo")).constData(), 0600), 0);
     ASSERT_EQ(::rename(QFile::encodeName(Path("fifo")).constData(), QFile::encodeName(File()).constData()), 0);
-    EXPECT_FALSE(Defaults().Value(Setting::FailedChecks).isValid()) << "a FIFO holds nobody up";
+    EXPECT_FALSE(Defaults().Value(Setting::FailedChecks).isValid()) << "a FIFO must not block the process";
 }
 
 TEST_F(UserDefaults, WhatOthersMayChangeDoesNotCount)
@@ -251,7 +251,7 @@ TEST_F(UserDefaults, ProcessThatHangsHoldsNobodyForLong)
     EXPECT_FALSE(Save(Setting::SkippedVersion, QStringLiteral("5.2")));
     EXPECT_TRUE(HasWarning(log, "updates.plist: another process is saving its own"));
     EXPECT_EQ(Defaults().Value(Setting::SkippedVersion), QVariant(QStringLiteral("5.2")));
-    EXPECT_EQ(ReadSimplified(File()), "{ SUSkippedVersion = 5.1; }") << "nobody writes without the lock";
+    EXPECT_EQ(ReadSimplified(File()), "{ SUSkippedVersion = 5.1; }") << "no write without the lock";
     ::close(held);
     EXPECT_TRUE(Defaults().Save());
     EXPECT_EQ(ReadSimplified(File()), "{ SUSkippedVersion = 5.2; }");

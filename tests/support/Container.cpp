@@ -122,7 +122,7 @@ bool RunInContainer(std::function<void()> const& piece)
         ::_exit(WaitFor(first));
     }
     int const status = WaitFor(outer);
-    EXPECT_TRUE(status == EXIT_SUCCESS || status == EXIT_NOT_PERMITTED) << "what failed in the container stands above";
+    EXPECT_TRUE(status == EXIT_SUCCESS || status == EXIT_NOT_PERMITTED) << "see the failures in the container above";
     return status != EXIT_NOT_PERMITTED;
 }
 

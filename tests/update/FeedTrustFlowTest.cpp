@@ -234,7 +234,7 @@ TEST_F(FeedTrustFlow, ItemsThatTheBundlesKeysCannotVerifyAreLeftOut)
     EXPECT_EQ(host.itemCount, 2u);
     settings.check.publicKeys = {};
     EXPECT_EQ(Check(FeedWith(next + bridge)), found);
-    EXPECT_EQ(host.itemCount, 2u) << "a bundle without keys is told so later";
+    EXPECT_EQ(host.itemCount, 2u) << "a bundle without keys is reported later";
 }
 
 /// A signed feed with a key statement.

@@ -181,7 +181,7 @@ TEST_F(UpdateRunTest, HelperThatDisappearsBetweenPreparationAndInstallationIsAnE
     Since();
     windows.Choose(ReadyChoice::InstallAndRelaunch);
     EXPECT_EQ(Since(), (Notes{"should relaunch?", "path?", "attempt taken back", "end"}))
-        << "will relaunch is not told";
+        << "the relaunch is not announced";
     EXPECT_EQ(end->error->fault, UpdateFault::DescriptorUnusable);
     EXPECT_EQ(Installed(), Notes{"App.app"});
 }
@@ -232,7 +232,7 @@ TEST_F(UpdateRunTest, DeltaThatFailsIsReplacedByTheWholeOnceSilently)
     PrepareUpdate();
     EXPECT_EQ(Since(), (Notes{"helper prepare", "window ready"}));
     EXPECT_EQ(std::get<PrepareJob>(parts.jobs[1]).kind, PayloadKind::WholeBundle);
-    EXPECT_EQ(Installed(), (Notes{"staging", "App.app"})) << "what the delta left is gone";
+    EXPECT_EQ(Installed(), (Notes{"staging", "App.app"})) << "the delta's leftovers are removed";
 }
 
 TEST_F(UpdateRunTest, EveryFailureOfADeltaLeadsToTheWhole)

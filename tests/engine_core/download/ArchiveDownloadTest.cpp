@@ -155,7 +155,7 @@ TEST_F(ArchiveDownloadTest, PasswordOfTheFeedsAddressGoesToItsOwnOriginOnly)
     request.url.setUserInfo(QStringLiteral("you:other"));
     EXPECT_EQ(Run(request).bytes, ARCHIVE);
     EXPECT_TRUE(server.Requests().back().contains("Basic " + QByteArray("you:other").toBase64()));
-    EXPECT_FALSE(server.Requests().back().contains(field)) << "the archive's own address says who asks";
+    EXPECT_FALSE(server.Requests().back().contains(field)) << "the archive's address identifies the client";
 }
 
 TEST_F(ArchiveDownloadTest, PasswordOfTheFeedsAddressFollowsNoRedirectToAnotherOrigin)

@@ -141,7 +141,7 @@ TEST_F(ArchiveWriterTest, RemovedFilesAreGoneWhenItSaysSo)
     writer->Remove({300, 1, 2}, [&isDone] { isDone = true; });
     ASSERT_TRUE(WaitFor([&isDone] { return isDone; }));
     EXPECT_EQ(QDir(folder.filePath(QStringLiteral("updates"))).entryList(QDir::Files).size(), 1);
-    ASSERT_TRUE(Record(1000)) << "what it cost is remembered";
+    ASSERT_TRUE(Record(1000)) << "its cost is stored";
     ExpectSpending(Record(1000)->spent, {300, 1, 2});
     EXPECT_EQ(Record(1000)->durableBytes, 0u);
     EXPECT_TRUE(Record(1000)->validators.IsEmpty());

@@ -53,7 +53,7 @@ TEST_F(DownloadBudgetTest, SmallestUselessAnswersEndAsWell)
     EXPECT_EQ(server.Requests().size(), most);
     EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooOften);
     EXPECT_EQ(server.Requests().size(), most) << "not one packet more";
-    EXPECT_EQ(PartialBytes(), archive.left(680)) << "what has come stays";
+    EXPECT_EQ(PartialBytes(), archive.left(680)) << "the received bytes stay";
 }
 
 TEST_F(DownloadBudgetTest, MebibytesThatArriveDoNotMakeTheAttemptsForgotten)
@@ -171,7 +171,7 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
         DownloadResult const result = Run(request);
         EXPECT_EQ(result.cause, ErrorCause::DownloadLengthDiffers);
         EXPECT_TRUE(WaitFor([&endless] { return endless.hasBeenLeft; }));
-        EXPECT_LT(endless.sent, 16 * MEBIBYTE) << "what fits into the buffers of the system between the two";
+        EXPECT_LT(endless.sent, 16 * MEBIBYTE) << "the size of the system's buffers between the two";
         EXPECT_EQ(endless.server.Requests().size(), 1u);
         for (DownloadProgress const& progress : result.progress)
         {
@@ -180,7 +180,7 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
         EXPECT_EQ(ArchiveBytes(), 0);
         ASSERT_TRUE(RecordOf(request));
         EXPECT_GE(RecordOf(request)->spent.receivedBytes, 300000u);
-        EXPECT_LT(RecordOf(request)->spent.receivedBytes, 600000u) << "and what came with the last of it";
+        EXPECT_LT(RecordOf(request)->spent.receivedBytes, 600000u) << "and the bytes that came with the last part";
     }
 }
 
@@ -245,7 +245,7 @@ TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)
     EXPECT_EQ(Run(request).cause, ErrorCause::DownloadTooLong);
     EXPECT_EQ(server.Requests().size(), requests) << "not one packet more";
     EXPECT_TRUE(archive.startsWith(PartialBytes()));
-    EXPECT_GT(PartialBytes().size(), 2000) << "what has come stays";
+    EXPECT_GT(PartialBytes().size(), 2000) << "the received bytes stay";
 }
 
 TEST_F(DownloadBudgetTest, UnwatchedOnePausesAndTheNextGoesOn)

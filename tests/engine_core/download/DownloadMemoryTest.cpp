@@ -41,7 +41,7 @@ protected:
     {
         if (IS_SANITIZED)
         {
-            GTEST_SKIP() << "a sanitizer's allocator stands in the place of this one";
+            GTEST_SKIP() << "a sanitizer replaces this allocator";
         }
     }
 

@@ -88,7 +88,7 @@ TEST_F(DownloadProcessTest, KilledAgainAndAgainItLosesNothingThatArrived)
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     std::optional<PartialRecord> const record = DecodePartialRecord(file.readAll().toStdString());
     ASSERT_TRUE(record);
-    EXPECT_EQ(record->spent.attempts, static_cast<std::uint64_t>(points) + 1) << "a kill makes none forgotten";
+    EXPECT_EQ(record->spent.attempts, static_cast<std::uint64_t>(points) + 1) << "a kill does not lose the count";
     EXPECT_EQ(record->spent.receivedBytes, static_cast<std::uint64_t>(archive.size()));
 }
 

@@ -301,7 +301,7 @@ TEST_F(PartialFileTest, FoldersUnderItsNamesAreSetAsideAsOftenAsTheyCome)
     {
         precious += QFile::exists(folder + QLatin1Char('/') + name + QStringLiteral("/file")) ? 1 : 0;
     }
-    EXPECT_EQ(precious, 9) << "what is in them is not ours to remove";
+    EXPECT_EQ(precious, 9) << "their content does not belong to us";
 }
 
 TEST_F(PartialFileTest, RecordThatIsALinkIsNotRead)
@@ -345,7 +345,7 @@ TEST_F(PartialFileTest, AfterARestartOfTheSystemOnlyDurableBytesAreTrusted)
     file.write(QByteArray::fromStdString(EncodePartialRecord(*record)));
     file.close();
     EXPECT_EQ(FoundBytes(), 7u);
-    EXPECT_EQ(ArchiveText(), "durable") << "what cannot be trusted is cut off";
+    EXPECT_EQ(ArchiveText(), "durable") << "untrusted bytes are cut off";
 }
 
 TEST_F(PartialFileTest, SecondUserOfTheFileIsToldSo)
@@ -410,7 +410,7 @@ TEST_F(PartialFileTest, OtherArchivesGoUnlessTheyAreInUse)
     QDir const left(folder);
     EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("used").name)));
     EXPECT_FALSE(left.exists(QString::fromStdString(placeOf("other").name)));
-    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("other").name + ".record"))) << "which tells what it cost";
+    EXPECT_TRUE(left.exists(QString::fromStdString(placeOf("other").name + ".record"))) << "it contains the cost";
     EXPECT_TRUE(left.exists(QStringLiteral("document")));
     EXPECT_TRUE(left.exists(QStringLiteral("x.archive")));
     EXPECT_TRUE(left.exists(QString(64, QLatin1Char('b')) + QStringLiteral(".archive"))) << "somebody's folder";

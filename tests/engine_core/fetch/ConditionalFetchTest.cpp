@@ -297,7 +297,7 @@ TEST(KeepableFeeds, AreThoseThatCanBeAskedForAgain)
     EXPECT_TRUE(MayKeep({{"etag", "W/\"\""}}));
     EXPECT_TRUE(MayKeep({DATE, MODIFIED}));
     EXPECT_FALSE(MayKeep({}));
-    EXPECT_FALSE(MayKeep({MODIFIED})) << "nobody knows whether that second was over";
+    EXPECT_FALSE(MayKeep({MODIFIED})) << "that second may not be over yet";
     EXPECT_FALSE(MayKeep({DATE, {"last-modified", DATE.value}}));
     EXPECT_FALSE(MayKeep({DATE, {"last-modified", "Tue, 08 Nov 2016 08:49:37 GMT"}})) << "not yet";
     EXPECT_FALSE(MayKeep({DATE, {"last-modified", "yesterday"}}));

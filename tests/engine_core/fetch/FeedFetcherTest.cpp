@@ -196,7 +196,7 @@ TEST_F(FeedFetcherTest, BlackHoleEndsAtTheConnectDeadline)
     QElapsedTimer clock;
     clock.start();
     EXPECT_EQ(CauseOf(Fetch(url, limits)), ErrorCause::ConnectTimeout);
-    EXPECT_GE(clock.elapsed(), 150) << "a coarse timer is a twentieth early, no more";
+    EXPECT_GE(clock.elapsed(), 150) << "a coarse timer fires at most a twentieth too early";
     EXPECT_LT(clock.elapsed(), 2000) << "at its own deadline, and not at another one";
     for (int const descriptor : waiting)
     {

@@ -72,7 +72,7 @@ TEST_F(ReachTest, NameThatStandsForThisComputerIsJudgedByWhatItStandsFor)
         GTEST_SKIP() << "the name of this computer, " << name.toStdString() << ", does not stand for it here";
     }
     QUrl const url = server.Url(QStringLiteral("/feed.xml"), name);
-    ASSERT_EQ(ReachOf(url), AddressReach::Network) << "nobody can tell by the name";
+    ASSERT_EQ(ReachOf(url), AddressReach::Network) << "the name does not show it";
     EXPECT_EQ(Transfer(url, AddressReach::Network), ErrorCause::AddressNotPublic);
     EXPECT_EQ(server.Connections(), 0);
 }

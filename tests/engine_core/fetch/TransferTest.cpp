@@ -111,7 +111,7 @@ TEST_F(TransferTest, WhatHasComeGoesToTheSinkBeforeTheFailureIsTold)
     sink.closesAt = 100;
     Open(server.Url());
     ASSERT_TRUE(WaitFor([this] { return !sink.isOpen; }));
-    EXPECT_FALSE(WaitFor([this] { return cause.has_value(); }, 300)) << "there is something that waits";
+    EXPECT_FALSE(WaitFor([this] { return cause.has_value(); }, 300)) << "an action is waiting";
     OpenSink();
     EXPECT_TRUE(WaitFor([this] { return cause.has_value(); }));
     EXPECT_EQ(cause, ErrorCause::IncompleteBody);
@@ -132,7 +132,7 @@ TEST_F(TransferTest, SinkThatOpensBeforeTheConnectionBreaksIsNotWaitedForOnceMor
     Open(server.Url());
     ASSERT_TRUE(WaitFor([this] { return !sink.isOpen; }));
     OpenSink();
-    EXPECT_TRUE(WaitFor([&] { return sink.taken == part; })) << "what waits goes when there is room";
+    EXPECT_TRUE(WaitFor([&] { return sink.taken == part; })) << "waiting data goes on when there is space";
     ASSERT_TRUE(connection);
     connection->disconnectFromHost();
     EXPECT_TRUE(WaitFor([this] { return cause.has_value(); }));

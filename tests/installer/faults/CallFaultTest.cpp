@@ -262,7 +262,7 @@ TEST_P(EveryCall, IsWhereTheSessionEnds)
             else if (isInstallation && outcome.output.substr(0, 3) != "2.0")
             {
                 EXPECT_EQ(outcome.Find<InstalledReport>(), nullptr);
-                EXPECT_EQ(ExpectWhole(subject.scene, versions), "1.0") << "installed, and nobody has started it";
+                EXPECT_EQ(ExpectWhole(subject.scene, versions), "1.0") << "installed, but not started yet";
             }
             ExpectRecovered(subject.scene, versions);
             return wasMet;

@@ -82,7 +82,7 @@ TEST(Lock, OfAKilledHelperIsFreeAtOnce)
         HelperOutcome const next = scene.Install(job);
         EXPECT_EQ(next.exitStatus, 0) << FaultName(next.Fault());
         EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
-        EXPECT_FALSE(std::filesystem::exists(file)) << "the file goes with the lock";
+        EXPECT_FALSE(std::filesystem::exists(file)) << "the file is removed with the lock";
     }
 }
 

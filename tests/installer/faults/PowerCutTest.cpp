@@ -291,7 +291,7 @@ TEST_P(PowerCut, FindsTheNewVersionOnceItIsToldInstalled)
     EXPECT_EQ(TreeWhenToldInstalled(true), versions.next);
     if (GetParam().writeback == Writeback::AsLateAsAllowed)
     {
-        EXPECT_NE(TreeWhenToldInstalled(false), versions.next) << "a cut does not see what was never synced";
+        EXPECT_NE(TreeWhenToldInstalled(false), versions.next) << "a power cut does not show unsynced data";
     }
 }
 

@@ -81,7 +81,7 @@ TEST(Race, StagedBundleEditedBeforeItIsCheckedIsRefused)
         HelperOutcome const outcome = scene.Install(job, ActAt(place, [&] { std::ofstream(added) << "x"; }));
         bool const isRefused = outcome.Fault() == UpdateFault::StagedTreeChanged;
         refused += isRefused ? 1 : 0;
-        EXPECT_FALSE(isRefused && wasAccepted) << "the check is one pass: what comes later comes too late";
+        EXPECT_FALSE(isRefused && wasAccepted) << "the check is one pass: a later change is too late";
         if (isRefused)
         {
             EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
@@ -262,7 +262,7 @@ TEST(Race, MeddlingBesideTheBundleDoesNotReachIt)
         }
         EXPECT_EQ(ExpectWhole(scene, versions), "2.0");
     }
-    EXPECT_GT(changes, 10) << "nobody meddled";
+    EXPECT_GT(changes, 10) << "no change took place";
 }
 
 } // namespace

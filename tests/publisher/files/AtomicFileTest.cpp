@@ -109,7 +109,7 @@ TEST_P(AtomicFiles, TellWhenTheirNameMayNotSurvive)
 {
     failingCall = "sync folder";
     EXPECT_THROW(Publish("<rss/>"), Publisher::Refusal);
-    EXPECT_EQ(Content(), "<rss/>") << "it has its name all the same";
+    EXPECT_EQ(Content(), "<rss/>") << "it still has its name";
 }
 
 INSTANTIATE_TEST_SUITE_P(Every, AtomicFiles, ::testing::Values(ExistingFile::Replace, ExistingFile::Keep),

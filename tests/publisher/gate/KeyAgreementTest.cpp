@@ -116,7 +116,8 @@ std::size_t EndOf(Release const& release, std::size_t start)
             {
                 next = release.versions[i].versionText == item.versionString ? i : next;
             }
-            EXPECT_TRUE(installation.trustedKeys.contains(item.edSignature)) << "it is offered what it refuses";
+            EXPECT_TRUE(installation.trustedKeys.contains(item.edSignature))
+                << "it is offered an update that it refuses";
         }
         if (next == at)
         {

@@ -85,7 +85,7 @@ TEST_F(Recompress, FeedNamesBothArchivesOfOneBundle)
     EXPECT_EQ(DigestOf(folder.PathOf("Test-2.0.tar.zst")), DigestOf(folder.PathOf("Test-2.0.zip")));
     std::vector<Engine::FeedItem> const items = folder.Items();
     ASSERT_EQ(items.size(), 1u);
-    EXPECT_EQ(items[0].fileUrl.fileName(), QStringLiteral("Test-2.0.zip")) << "what older clients read";
+    EXPECT_EQ(items[0].fileUrl.fileName(), QStringLiteral("Test-2.0.zip")) << "the form for older clients";
     ASSERT_EQ(items[0].recompressed.size(), 1u) << folder.ContentOf("appcast.xml");
     Engine::FeedItem const& recompressed = items[0].recompressed[0];
     EXPECT_EQ(recompressed.fileUrl.fileName(), QStringLiteral("Test-2.0.tar.zst"));

@@ -94,7 +94,7 @@ TEST(LintSignatureOutput, OptionsReachTheRules)
     EXPECT_FALSE(says(feed, otherKey + key, "feed-")) << "one of two";
     EXPECT_TRUE(says(feed, otherKey, "feed-signature-wrong"));
     EXPECT_TRUE(says("<rss><channel/></rss>", mustBeSigned, "feed-unsigned"));
-    EXPECT_TRUE(says("<rss>", mustBeSigned, "feed-unsigned")) << "what cannot be read as well";
+    EXPECT_TRUE(says("<rss>", mustBeSigned, "feed-unsigned")) << "also one that cannot be read";
     EXPECT_TRUE(says(Signed(Content("7", "2020-01-01T00:00:00Z")), {}, "feed-expired"));
 }
 

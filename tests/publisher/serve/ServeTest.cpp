@@ -287,7 +287,7 @@ TEST_F(Serve, ForeignHostIsRefused)
                   "<rss/>")
             << host;
     }
-    EXPECT_EQ(Ask(server.Address(), "GET /appcast.xml HTTP/1.0\r\n\r\n").body, "<rss/>") << "none is named";
+    EXPECT_EQ(Ask(server.Address(), "GET /appcast.xml HTTP/1.0\r\n\r\n").body, "<rss/>") << "no name is given";
     for (char const* const host :
          {"evil.example", "evil.example:80", "localhost.evil.example", "127.0.0.1.evil.example", "evil-localhost",
           "10.0.0.1", "0.0.0.0", "[::2]", "localhost evil.example", "localhost@evil.example", "localhost,evil.example",

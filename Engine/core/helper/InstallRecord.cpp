@@ -10,35 +10,22 @@ namespace
 constexpr std::string_view MAGIC = "PELNARI1";
 constexpr std::uint64_t MAX_ERROR_NUMBER = 4095; // the kernel's largest
 
-/// Reads one number from \a reader as an enumerator up to \a last.
-template <typename Enum>
-Enum ReadEnum(FieldReader& reader, Enum last)
+template <class Codec>
+void Visit(Codec& codec, InstallRecord& record, std::string& fault, std::uint64_t& errorNumber)
 {
-    std::uint64_t const number = reader.Number();
-    if (number > static_cast<std::uint64_t>(last))
-    {
-        reader.Refuse();
-        return last;
-    }
-    return static_cast<Enum>(number);
+    codec.Fields(record.fromVersion, record.toVersion, Limited{record.wish, InstallWish::Person}, record.attempts,
+                 Limited{record.state, InstallState::Installed}, record.secondsSinceEpoch, record.helper.number,
+                 record.helper.startTime, fault, errorNumber, Limited{record.told, FailureTold::Yes});
 }
 
 } // namespace
 
-std::string EncodeInstallRecord(InstallRecord const& record)
+std::string EncodeInstallRecord(InstallRecord record)
 {
     FieldWriter writer(MAGIC);
-    writer.Text(record.fromVersion);
-    writer.Text(record.toVersion);
-    writer.Number(static_cast<std::uint64_t>(record.wish));
-    writer.Number(record.attempts);
-    writer.Number(static_cast<std::uint64_t>(record.state));
-    writer.Number(record.secondsSinceEpoch);
-    writer.Number(record.helper.number);
-    writer.Number(record.helper.startTime);
-    writer.Text(FaultName(record.fault));
-    writer.Number(static_cast<std::uint64_t>(record.errorNumber));
-    writer.Number(static_cast<std::uint64_t>(record.told));
+    std::string fault(FaultName(record.fault));
+    auto errorNumber = static_cast<std::uint64_t>(record.errorNumber);
+    Visit(writer, record, fault, errorNumber);
     return writer.Finish();
 }
 
@@ -50,17 +37,10 @@ std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes)
     }
     FieldReader reader(bytes, MAGIC);
     InstallRecord record;
-    record.fromVersion = reader.Text();
-    record.toVersion = reader.Text();
-    record.wish = ReadEnum(reader, InstallWish::Person);
-    record.attempts = reader.Number();
-    record.state = ReadEnum(reader, InstallState::Installed);
-    record.secondsSinceEpoch = reader.Number();
-    record.helper.number = reader.Number();
-    record.helper.startTime = reader.Number();
-    auto const fault = FaultFromName(reader.Text());
-    std::uint64_t const errorNumber = reader.Number();
-    record.told = ReadEnum(reader, FailureTold::Yes);
+    std::string faultName;
+    std::uint64_t errorNumber = 0;
+    Visit(reader, record, faultName, errorNumber);
+    auto const fault = FaultFromName(faultName);
     // An installed version may have a fault too: it could not be started.
     bool const mayHaveFault = record.state == InstallState::Failed || record.state == InstallState::Installed;
     bool const needsFault = record.state == InstallState::Failed;

@@ -51,7 +51,7 @@ struct InstallRecord
 
 constexpr std::size_t INSTALL_RECORD_MAX_BYTES = 4096;
 
-std::string EncodeInstallRecord(InstallRecord const& record);
+std::string EncodeInstallRecord(InstallRecord record);
 /// Empty if \a bytes are not a record.
 std::optional<InstallRecord> DecodeInstallRecord(std::string_view bytes);
 

@@ -10,24 +10,20 @@ namespace
 constexpr std::string_view MAGIC = "PELNARS1";
 constexpr std::string_view FAILED_MAGIC = "PELNARF1";
 
-bool IsName(std::string const& text)
+template <class Codec>
+void Visit(Codec& codec, SwapJournal& journal)
 {
-    return !text.empty() && text != "." && text != ".." && text.find('/') == std::string::npos;
+    codec.Fields(journal.stagingName, journal.stagedName, journal.fromVersion, journal.toVersion,
+                 Limited{journal.confirmation, StartConfirmation::ByHost}, journal.countedStarts,
+                 journal.lastStarted.number, journal.lastStarted.startTime);
 }
 
 } // namespace
 
-std::string EncodeSwapJournal(SwapJournal const& journal)
+std::string EncodeSwapJournal(SwapJournal journal)
 {
     FieldWriter writer(MAGIC);
-    writer.Text(journal.stagingName);
-    writer.Text(journal.stagedName);
-    writer.Text(journal.fromVersion);
-    writer.Text(journal.toVersion);
-    writer.Number(static_cast<std::uint64_t>(journal.confirmation));
-    writer.Number(journal.countedStarts);
-    writer.Number(journal.lastStarted.number);
-    writer.Number(journal.lastStarted.startTime);
+    Visit(writer, journal);
     return writer.Finish();
 }
 
@@ -35,18 +31,10 @@ std::optional<SwapJournal> DecodeSwapJournal(std::string_view bytes)
 {
     FieldReader reader(bytes, MAGIC);
     SwapJournal journal;
-    journal.stagingName = reader.Text();
-    journal.stagedName = reader.Text();
-    journal.fromVersion = reader.Text();
-    journal.toVersion = reader.Text();
-    std::uint64_t const confirmation = reader.Number();
-    journal.confirmation = static_cast<StartConfirmation>(confirmation);
-    journal.countedStarts = reader.Number();
-    journal.lastStarted.number = reader.Number();
-    journal.lastStarted.startTime = reader.Number();
-    bool const isGood = reader.IsWhole() && confirmation <= static_cast<std::uint64_t>(StartConfirmation::ByHost) &&
-                        IsName(journal.stagingName) && IsName(journal.stagedName) && !journal.fromVersion.empty() &&
-                        !journal.toVersion.empty() && journal.fromVersion != journal.toVersion;
+    Visit(reader, journal);
+    bool const isGood = reader.IsWhole() && IsFileName(journal.stagingName) && IsFileName(journal.stagedName) &&
+                        !journal.fromVersion.empty() && !journal.toVersion.empty() &&
+                        journal.fromVersion != journal.toVersion;
     return isGood ? std::optional(journal) : std::nullopt;
 }
 
@@ -78,8 +66,7 @@ RecoveryAction DecideRecovery(SwapSight const& sight)
 std::string EncodeFailedVersion(FailedVersion const& failed)
 {
     FieldWriter writer(FAILED_MAGIC);
-    writer.Text(failed.fromVersion);
-    writer.Text(failed.toVersion);
+    writer.Fields(failed.fromVersion, failed.toVersion);
     return writer.Finish();
 }
 
@@ -87,8 +74,7 @@ std::optional<FailedVersion> DecodeFailedVersion(std::string_view bytes)
 {
     FieldReader reader(bytes, FAILED_MAGIC);
     FailedVersion failed;
-    failed.fromVersion = reader.Text();
-    failed.toVersion = reader.Text();
+    reader.Fields(failed.fromVersion, failed.toVersion);
     bool const isGood = reader.IsWhole() && !failed.fromVersion.empty() && !failed.toVersion.empty();
     return isGood ? std::optional(failed) : std::nullopt;
 }

@@ -36,7 +36,7 @@ constexpr char PREVIOUS_BUNDLE_NAME[] = "previous";
 /// The new version may start this often without a confirmation.
 constexpr std::uint64_t MAX_UNCONFIRMED_STARTS = 2;
 
-std::string EncodeSwapJournal(SwapJournal const& journal);
+std::string EncodeSwapJournal(SwapJournal journal);
 /// Empty if \a bytes are not a journal.
 std::optional<SwapJournal> DecodeSwapJournal(std::string_view bytes);
 

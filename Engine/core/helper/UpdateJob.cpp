@@ -3,6 +3,7 @@
 #include "Engine/core/base/FieldCodec.h"
 
 #include <algorithm>
+#include <array>
 
 namespace Pelnar::Engine
 {
@@ -12,69 +13,55 @@ namespace
 constexpr std::string_view MAGIC = "PELNARJ2";
 constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
 constexpr std::uint64_t MAX_CREATION_MASK = 0777;
-constexpr auto LAST_PAYLOAD_KIND = static_cast<std::uint64_t>(PayloadKind::Installer);
+constexpr auto LAST_PAYLOAD_KIND = PayloadKind::Installer;
 
-enum class JobKind : std::uint64_t
+/// The fields of each kind of job, after its number. What has no text of its own is given as one.
+template <class Codec>
+void Visit(Codec& codec, PrepareJob& job, std::vector<std::string>& publicKeys)
 {
-    Prepare = 1,
-    Install = 2,
-    Recover = 3,
-    Rehearse = 4,
-};
-
-void Write(FieldWriter& writer, PrepareJob const& job)
-{
-    writer.Number(static_cast<std::uint64_t>(JobKind::Prepare));
-    writer.Number(static_cast<std::uint64_t>(job.kind));
-    writer.Number(job.archiveBytes);
-    writer.Text(job.signature);
-    writer.Texts(job.publicKeys.Texts());
-    writer.Text(job.bundleName);
-    writer.Text(job.bundleIdentifier);
-    writer.Text(job.expectedVersion);
-    writer.Text(job.installedVersion);
+    codec.Fields(Limited{job.kind, LAST_PAYLOAD_KIND}, job.archiveBytes, job.signature, publicKeys, job.bundleName,
+                 job.bundleIdentifier, job.expectedVersion, job.installedVersion);
 }
 
-void Write(FieldWriter& writer, InstallJob const& job)
+template <class Codec>
+void Visit(Codec& codec, InstallJob& job, RawBytes& digest, RawBytes& record)
 {
-    writer.Number(static_cast<std::uint64_t>(JobKind::Install));
-    writer.Number(static_cast<std::uint64_t>(job.kind));
-    writer.Text(job.targetName);
-    writer.Text(job.stagingName);
-    writer.Text(job.stagedName);
-    writer.Text(std::string_view(reinterpret_cast<char const*>(job.digest.data()), job.digest.size()));
-    writer.Text(job.bundleIdentifier);
-    writer.Text(job.expectedVersion);
-    writer.Text(job.installedVersion);
-    writer.Number(job.waitSeconds);
-    writer.Number(job.installerSeconds);
-    writer.Text(job.targetPath);
-    writer.Text(job.relaunchPath);
-    writer.Texts(job.environment);
-    writer.Text(job.workingFolder);
-    writer.Number(job.creationMask);
-    writer.Text(job.recordName);
-    writer.Text(job.record ? EncodeInstallRecord(*job.record) : std::string());
+    codec.Fields(Limited{job.kind, LAST_PAYLOAD_KIND}, job.targetName, job.stagingName, job.stagedName, digest,
+                 job.bundleIdentifier, job.expectedVersion, job.installedVersion, job.waitSeconds, job.installerSeconds,
+                 job.targetPath, job.relaunchPath, job.environment, job.workingFolder, job.creationMask, job.recordName,
+                 record);
 }
 
-void Write(FieldWriter& writer, RecoverJob const& job)
+template <class Codec>
+void Visit(Codec& codec, RecoverJob& job)
 {
-    writer.Number(static_cast<std::uint64_t>(JobKind::Recover));
-    writer.Text(job.targetName);
-    writer.Text(job.runningVersion);
-    writer.Number(static_cast<std::uint64_t>(job.purpose));
-    writer.Number(job.hostProcess);
+    codec.Fields(job.targetName, job.runningVersion, Limited{job.purpose, RecoverPurpose::Confirmation},
+                 job.hostProcess);
 }
 
-void Write(FieldWriter& writer, RehearseJob const& job)
+template <class Codec>
+void Visit(Codec& codec, RehearseJob& job)
 {
-    writer.Number(static_cast<std::uint64_t>(JobKind::Rehearse));
-    writer.Text(job.targetName);
+    codec.Fields(job.targetName);
 }
 
-bool IsName(std::string const& text)
+void Write(FieldWriter& writer, PrepareJob job)
 {
-    return !text.empty() && text != "." && text != ".." && text.find('/') == std::string::npos;
+    std::vector<std::string> keys = job.publicKeys.Texts();
+    Visit(writer, job, keys);
+}
+
+void Write(FieldWriter& writer, InstallJob job)
+{
+    RawBytes digest{std::string(job.digest.begin(), job.digest.end())};
+    RawBytes record{job.record ? EncodeInstallRecord(*job.record) : std::string()};
+    Visit(writer, job, digest, record);
+}
+
+template <class Job>
+void Write(FieldWriter& writer, Job job)
+{
+    Visit(writer, job);
 }
 
 bool IsAbsoluteOrEmpty(std::string const& path)
@@ -82,106 +69,69 @@ bool IsAbsoluteOrEmpty(std::string const& path)
     return path.empty() || path.front() == '/';
 }
 
-PrepareJob ReadPrepare(FieldReader& reader)
+void Read(FieldReader& reader, PrepareJob& job)
 {
-    PrepareJob job;
-    std::uint64_t const kind = reader.Number();
-    job.kind = static_cast<PayloadKind>(kind);
-    job.archiveBytes = reader.Number();
-    job.signature = reader.Text();
-    std::vector<std::string> const keys = reader.Texts();
-    job.publicKeys = keys.size() <= TrustedKeys::MOST_KEYS ? TrustedKeys(keys) : TrustedKeys();
-    job.bundleName = reader.Text();
-    job.bundleIdentifier = reader.Text();
-    job.expectedVersion = reader.Text();
-    job.installedVersion = reader.Text();
-    if (kind > LAST_PAYLOAD_KIND || keys.size() > TrustedKeys::MOST_KEYS || !IsName(job.bundleName) ||
-        job.bundleIdentifier.empty() || job.expectedVersion.empty() || job.installedVersion.empty())
+    std::vector<std::string> keys;
+    Visit(reader, job, keys);
+    if (keys.size() > TrustedKeys::MOST_KEYS || !IsFileName(job.bundleName) || job.bundleIdentifier.empty() ||
+        job.expectedVersion.empty() || job.installedVersion.empty())
     {
         reader.Refuse();
+        return;
     }
-    return job;
+    job.publicKeys = TrustedKeys(keys);
 }
 
-/// The fields about the program to start and the record to keep.
-void ReadAfterwards(FieldReader& reader, InstallJob& job)
+/// True if what is said about the program to start and the record to keep is usable.
+bool IsUsableAfterwards(InstallJob const& job, RawBytes const& record)
 {
-    job.targetPath = reader.Text();
-    job.relaunchPath = reader.Text();
-    job.environment = reader.Texts();
-    job.workingFolder = reader.Text();
-    job.creationMask = reader.Number();
-    job.recordName = reader.Text();
-    std::string const record = reader.Blob();
-    job.record = DecodeInstallRecord(record);
     bool const isVariable = std::all_of(job.environment.begin(), job.environment.end(),
                                         [](std::string const& text)
                                         {
                                             std::size_t const place = text.find('=');
                                             return place != std::string::npos && place != 0;
                                         });
-    bool const isKept = IsName(job.recordName) && job.record;
-    bool const isNotKept = job.recordName.empty() && record.empty();
-    if (!isVariable || !IsAbsoluteOrEmpty(job.targetPath) || !IsAbsoluteOrEmpty(job.relaunchPath) ||
-        (job.targetPath.empty() && !job.relaunchPath.empty()) || !IsAbsoluteOrEmpty(job.workingFolder) ||
-        job.creationMask > MAX_CREATION_MASK || !(isKept || isNotKept))
-    {
-        reader.Refuse();
-    }
+    bool const isKept = IsFileName(job.recordName) && job.record;
+    bool const isNotKept = job.recordName.empty() && record.bytes.empty();
+    return isVariable && IsAbsoluteOrEmpty(job.targetPath) && IsAbsoluteOrEmpty(job.relaunchPath) &&
+           !(job.targetPath.empty() && !job.relaunchPath.empty()) && IsAbsoluteOrEmpty(job.workingFolder) &&
+           job.creationMask <= MAX_CREATION_MASK && (isKept || isNotKept);
 }
 
-InstallJob ReadInstall(FieldReader& reader)
+void Read(FieldReader& reader, InstallJob& job)
 {
-    InstallJob job;
-    std::uint64_t const kind = reader.Number();
-    job.kind = static_cast<PayloadKind>(kind);
-    job.targetName = reader.Text();
-    job.stagingName = reader.Text();
-    job.stagedName = reader.Text();
-    std::string const digest = reader.Blob();
-    job.bundleIdentifier = reader.Text();
-    job.expectedVersion = reader.Text();
-    job.installedVersion = reader.Text();
-    job.waitSeconds = reader.Number();
-    job.installerSeconds = reader.Number();
-    ReadAfterwards(reader, job);
+    RawBytes digest;
+    RawBytes record;
+    Visit(reader, job, digest, record);
+    job.record = DecodeInstallRecord(record.bytes);
     bool const isInTime =
         job.waitSeconds <= MAX_WAIT_SECONDS && job.installerSeconds > 0 && job.installerSeconds <= MAX_WAIT_SECONDS;
-    if (kind > LAST_PAYLOAD_KIND || !isInTime || digest.size() != job.digest.size() || !IsName(job.targetName) ||
-        !IsName(job.stagingName) || !IsName(job.stagedName) || job.bundleIdentifier.empty() ||
-        job.expectedVersion.empty() || job.installedVersion.empty())
+    if (!isInTime || digest.bytes.size() != job.digest.size() || !IsFileName(job.targetName) ||
+        !IsFileName(job.stagingName) || !IsFileName(job.stagedName) || job.bundleIdentifier.empty() ||
+        job.expectedVersion.empty() || job.installedVersion.empty() || !IsUsableAfterwards(job, record))
     {
         reader.Refuse();
-        return job;
+        return;
     }
-    std::copy(digest.begin(), digest.end(), job.digest.begin());
-    return job;
+    std::copy(digest.bytes.begin(), digest.bytes.end(), job.digest.begin());
 }
 
-RecoverJob ReadRecover(FieldReader& reader)
+void Read(FieldReader& reader, RecoverJob& job)
 {
-    RecoverJob job;
-    job.targetName = reader.Text();
-    job.runningVersion = reader.Text();
-    std::uint64_t const purpose = reader.Number();
-    job.purpose = static_cast<RecoverPurpose>(purpose);
-    job.hostProcess = reader.Number();
-    if (!IsName(job.targetName) || job.runningVersion.empty() ||
-        purpose > static_cast<std::uint64_t>(RecoverPurpose::Confirmation))
+    Visit(reader, job);
+    if (!IsFileName(job.targetName) || job.runningVersion.empty())
     {
         reader.Refuse();
     }
-    return job;
 }
 
-RehearseJob ReadRehearse(FieldReader& reader)
+void Read(FieldReader& reader, RehearseJob& job)
 {
-    RehearseJob job{reader.Text()};
-    if (!IsName(job.targetName))
+    Visit(reader, job);
+    if (!IsFileName(job.targetName))
     {
         reader.Refuse();
     }
-    return job;
 }
 
 } // namespace
@@ -189,6 +139,7 @@ RehearseJob ReadRehearse(FieldReader& reader)
 std::string EncodeUpdateJob(UpdateJob const& job)
 {
     FieldWriter writer(MAGIC);
+    writer.Number(job.index() + 1);
     std::visit([&writer](auto const& kind) { Write(writer, kind); }, job);
     return writer.Finish();
 }
@@ -200,23 +151,16 @@ std::optional<UpdateJob> DecodeUpdateJob(std::string_view bytes)
         return std::nullopt;
     }
     FieldReader reader(bytes, MAGIC);
-    std::optional<UpdateJob> job;
-    switch (static_cast<JobKind>(reader.Number()))
+    std::array<UpdateJob, std::variant_size_v<UpdateJob>> kinds{PrepareJob(), InstallJob(), RecoverJob(),
+                                                                RehearseJob()};
+    std::uint64_t const number = reader.Number();
+    if (number < 1 || number > kinds.size())
     {
-    case JobKind::Prepare:
-        job = ReadPrepare(reader);
-        break;
-    case JobKind::Install:
-        job = ReadInstall(reader);
-        break;
-    case JobKind::Recover:
-        job = ReadRecover(reader);
-        break;
-    case JobKind::Rehearse:
-        job = ReadRehearse(reader);
-        break;
+        return std::nullopt;
     }
-    return job && reader.IsWhole() ? job : std::nullopt;
+    UpdateJob& job = kinds[number - 1];
+    std::visit([&reader](auto& kind) { Read(reader, kind); }, job);
+    return reader.IsWhole() ? std::optional(std::move(job)) : std::nullopt;
 }
 
 } // namespace Pelnar::Engine

@@ -116,6 +116,7 @@ struct RehearseDescriptors
     int host = -1;
 };
 
+/// In the order of their numbers in the bytes, from 1.
 using UpdateJob = std::variant<PrepareJob, InstallJob, RecoverJob, RehearseJob>;
 
 /// Enough for the kernel's maximum of environment variables, six mebibytes, and everything else.

@@ -1,34 +1,17 @@
 #include "Engine/core/base/PathText.h"
 
-#include <algorithm>
+#include <cstdint>
+
+#include <unistr.h>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-constexpr std::size_t MAX_CHARACTER_BYTES = 4;
 constexpr ushort FIRST_SURROGATE = 0xDC80; ///< for the byte 0x80
 constexpr ushort LAST_SURROGATE = 0xDCFF;
 constexpr int FIRST_BYTE = 0x80;
-
-/// The one character at the start of the text, and its number of bytes; empty if the text starts with an invalid byte.
-QString FirstCharacter(std::string const& bytes, std::size_t begin, std::size_t& size)
-{
-    std::size_t const most = std::min(MAX_CHARACTER_BYTES, bytes.size() - begin);
-    for (size = 1; size <= most; ++size)
-    {
-        QByteArray const piece(bytes.data() + begin, static_cast<int>(size));
-        // A text that begins with a byte order mark loses it. A letter in front prevents this.
-        QString const text = QString::fromUtf8('x' + piece).mid(1);
-        if (text.toUtf8() == piece)
-        {
-            return text;
-        }
-    }
-    size = 1;
-    return {};
-}
 
 bool IsByte(QString const& text, int place)
 {
@@ -41,17 +24,20 @@ bool IsByte(QString const& text, int place)
 QString PathText(std::string const& bytes)
 {
     QString text;
-    std::size_t size = 0;
-    for (std::size_t begin = 0; begin < bytes.size(); begin += size)
+    auto const* rest = reinterpret_cast<std::uint8_t const*>(bytes.data());
+    auto const* const end = rest + bytes.size();
+    while (rest != end)
     {
-        QString const character = FirstCharacter(bytes, begin, size);
-        if (!character.isEmpty())
+        std::uint8_t const* const bad = ::u8_check(rest, static_cast<std::size_t>(end - rest));
+        QByteArray const good(reinterpret_cast<char const*>(rest), static_cast<int>((bad ? bad : end) - rest));
+        // A text that begins with a byte order mark loses it. A letter in front prevents this.
+        text += QString::fromUtf8('x' + good).midRef(1);
+        if (!bad)
         {
-            text += character;
-            continue;
+            break;
         }
-        int const byte = static_cast<unsigned char>(bytes[begin]);
-        text += QChar(static_cast<ushort>(FIRST_SURROGATE + byte - FIRST_BYTE));
+        text += QChar(static_cast<ushort>(FIRST_SURROGATE + *bad - FIRST_BYTE));
+        rest = bad + 1;
     }
     return text;
 }

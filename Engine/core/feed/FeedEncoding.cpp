@@ -6,6 +6,8 @@
 #include <cstring>
 #include <string_view>
 
+#include <unistr.h>
+
 namespace Pelnar::Engine
 {
 
@@ -73,77 +75,13 @@ QByteArray DeclaredEncoding(QByteArray const& bytes)
     return QByteArray(declaration.data() + opening + 1, static_cast<int>(closing - opening - 1));
 }
 
-/// The offset of the next byte that is not ASCII; \a size if there is none.
-int SkipAscii(uchar const* data, int at, int size)
-{
-    quint64 blocks[4];
-    while (size - at >= int(sizeof blocks))
-    {
-        std::memcpy(blocks, data + at, sizeof blocks);
-        if (((blocks[0] | blocks[1] | blocks[2] | blocks[3]) & Q_UINT64_C(0x8080808080808080)) != 0)
-        {
-            break;
-        }
-        at += int(sizeof blocks);
-    }
-    while (at < size && data[at] < 0x80)
-    {
-        ++at;
-    }
-    return at;
-}
-
-bool IsContinuation(uchar byte)
-{
-    return (byte & 0xC0) == 0x80;
-}
-
-/// The length of the sequence of two or more bytes that starts at \a at, of which \a left bytes are there; 0 if it is
-/// not UTF-8.
-int SequenceLength(uchar const* at, int left)
-{
-    uchar const lead = at[0];
-    if (lead >= 0xC2 && lead <= 0xDF)
-    {
-        return left >= 2 && IsContinuation(at[1]) ? 2 : 0;
-    }
-    if ((lead & 0xF0) == 0xE0)
-    {
-        uchar const least = lead == 0xE0 ? 0xA0 : 0x80;
-        uchar const most = lead == 0xED ? 0x9F : 0xBF;
-        return left >= 3 && at[1] >= least && at[1] <= most && IsContinuation(at[2]) ? 3 : 0;
-    }
-    if (lead >= 0xF0 && lead <= 0xF4)
-    {
-        uchar const least = lead == 0xF0 ? 0x90 : 0x80;
-        uchar const most = lead == 0xF4 ? 0x8F : 0xBF;
-        return left >= 4 && at[1] >= least && at[1] <= most && IsContinuation(at[2]) && IsContinuation(at[3]) ? 4 : 0;
-    }
-    return 0;
-}
-
 } // namespace
 
 int FirstBadUtf8(QByteArray const& bytes)
 {
-    auto const* const data = reinterpret_cast<uchar const*>(bytes.constData());
-    int const size = bytes.size();
-    int at = 0;
-    while (at < size)
-    {
-        at = SkipAscii(data, at, size);
-        if (at == size)
-        {
-            break;
-        }
-        int const length = SequenceLength(data + at, size - at);
-        if (length == 0)
-        {
-            return at;
-        }
-        at += length;
-    }
-    return size;
+    auto const* const data = reinterpret_cast<std::uint8_t const*>(bytes.constData());
+    std::uint8_t const* const bad = ::u8_check(data, static_cast<std::size_t>(bytes.size()));
+    return bad ? static_cast<int>(bad - data) : bytes.size();
 }
 
 FeedDocument DecodeFeed(QByteArray const& bytes)

@@ -8,6 +8,8 @@
 #include <array>
 #include <cstdint>
 
+#include <unistr.h>
+
 namespace Pelnar::Engine
 {
 namespace
@@ -19,31 +21,12 @@ constexpr std::string_view NO_BREAK_SPACE = "\xC2\xA0";
 
 constexpr std::size_t MAX_ENTITY_BYTES = 10; // "&#x10FFFF;" and every name above
 
+/// REQUIRES: a code point that UTF-8 can write.
 void AppendUtf8(std::string& out, std::uint32_t codePoint)
 {
-    auto const push = [&out](std::uint32_t byte) { out.push_back(static_cast<char>(byte)); };
-    if (codePoint < 0x80)
-    {
-        push(codePoint);
-    }
-    else if (codePoint < 0x800)
-    {
-        push(0xC0 | (codePoint >> 6));
-        push(0x80 | (codePoint & 0x3F));
-    }
-    else if (codePoint < 0x10000)
-    {
-        push(0xE0 | (codePoint >> 12));
-        push(0x80 | ((codePoint >> 6) & 0x3F));
-        push(0x80 | (codePoint & 0x3F));
-    }
-    else
-    {
-        push(0xF0 | (codePoint >> 18));
-        push(0x80 | ((codePoint >> 12) & 0x3F));
-        push(0x80 | ((codePoint >> 6) & 0x3F));
-        push(0x80 | (codePoint & 0x3F));
-    }
+    std::array<std::uint8_t, 4> bytes;
+    int const size = ::u8_uctomb(bytes.data(), codePoint, bytes.size());
+    out.append(bytes.begin(), bytes.begin() + size);
 }
 
 struct Decoded
@@ -60,30 +43,9 @@ bool IsContinuation(char c)
 /// The character at the start of \a text, which is not empty; each wrong byte becomes one U+FFFD.
 Decoded DecodeUtf8(std::string_view text)
 {
-    auto const first = static_cast<unsigned char>(text.front());
-    if (first < 0x80)
-    {
-        return {first, 1};
-    }
-    std::size_t const length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
-    bool const isLead = first >= 0xC2 && first <= 0xF4;
-    if (!isLead || text.size() < length ||
-        !std::all_of(text.begin() + 1, text.begin() + static_cast<std::ptrdiff_t>(length), IsContinuation))
-    {
-        return {REPLACEMENT, 1};
-    }
-    std::uint32_t codePoint = first & (0xFFU >> (length + 1));
-    for (std::size_t i = 1; i < length; ++i)
-    {
-        codePoint = (codePoint << 6) | (static_cast<unsigned char>(text[i]) & 0x3FU);
-    }
-    constexpr std::array<std::uint32_t, 5> SMALLEST = {0, 0, 0x80, 0x800, 0x10000};
-    bool const isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (codePoint < SMALLEST[length] || codePoint > 0x10FFFF || isSurrogate)
-    {
-        return {REPLACEMENT, 1};
-    }
-    return {codePoint, length};
+    ucs4_t codePoint;
+    int const length = ::u8_mbtoucr(&codePoint, reinterpret_cast<std::uint8_t const*>(text.data()), text.size());
+    return length > 0 ? Decoded{codePoint, static_cast<std::size_t>(length)} : Decoded{REPLACEMENT, 1};
 }
 
 /// The code point to show for \a codePoint, or NO_CHARACTER to remove it.

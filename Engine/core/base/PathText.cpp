@@ -29,9 +29,10 @@ QString PathText(std::string const& bytes)
     while (rest != end)
     {
         std::uint8_t const* const bad = ::u8_check(rest, static_cast<std::size_t>(end - rest));
-        QByteArray const good(reinterpret_cast<char const*>(rest), static_cast<int>((bad ? bad : end) - rest));
         // A text that begins with a byte order mark loses it. A letter in front prevents this.
-        text += QString::fromUtf8('x' + good).midRef(1);
+        QByteArray const good =
+            'x' + QByteArray(reinterpret_cast<char const*>(rest), static_cast<int>((bad ? bad : end) - rest));
+        text += QString::fromUtf8(good.constData(), good.size()).midRef(1);
         if (!bad)
         {
             break;

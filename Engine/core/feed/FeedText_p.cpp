@@ -146,21 +146,12 @@ QString CleanFeedText(QString text, FeedTextKind kind)
 
 quint64 FeedLength(QStringRef text, quint64 most)
 {
-    quint64 length = 0;
-    for (QChar const character : text)
-    {
-        if (character < QLatin1Char('0') || character > QLatin1Char('9'))
-        {
-            return 0;
-        }
-        quint64 const digit = character.unicode() - '0';
-        if (digit > most || length > (most - digit) / 10)
-        {
-            return 0;
-        }
-        length = length * 10 + digit;
-    }
-    return length;
+    // Qt accepts signs and blanks too.
+    bool const isDigits =
+        std::all_of(text.begin(), text.end(),
+                    [](QChar character) { return character >= QLatin1Char('0') && character <= QLatin1Char('9'); });
+    quint64 const length = isDigits ? text.toULongLong() : 0;
+    return length <= most ? length : 0;
 }
 
 QString VersionInFileName(QUrl const& url)

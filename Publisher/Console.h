@@ -8,8 +8,10 @@
 #include <QJsonObject>
 #include <QString>
 
+#include <algorithm>
 #include <cstdint>
 #include <iosfwd>
+#include <iterator>
 #include <optional>
 #include <string>
 
@@ -90,6 +92,14 @@ struct Console
 
 /// \a text on one line: hidden characters (SafeText.h) become "?".
 QString Printable(QString const& text);
+
+/// True if \a text ends with one of \a endings, in any case.
+template <std::size_t N>
+[[nodiscard]] bool EndsWithOneOf(QString const& text, char const* const (&endings)[N])
+{
+    return std::any_of(std::begin(endings), std::end(endings),
+                       [&](char const* ending) { return text.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+}
 
 /// "1 item", "2 items".
 QString CountOf(std::size_t count, QString const& singular);

@@ -4,6 +4,7 @@
 #include "Publisher/Verb.h"
 
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <utility>
 #include <variant>
@@ -72,6 +73,24 @@ private:
 
 /// Makes \a verb run \a work. A Refusal or any other exception is printed, and the status is then ExitStatus::Unusable.
 void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> work);
+
+/// A new verb, and the options that its command line fills. They live as long as the verb.
+template <class Options>
+struct NewVerb
+{
+    CLI::App& app;
+    Options& options;
+};
+
+/// Adds a verb that runs \a work with its options and the console. A Refusal is treated as in SetWork.
+template <class Options, class Work>
+NewVerb<Options> AddVerb(CLI::App& parent, VerbContext& context, char const* name, char const* description, Work work)
+{
+    auto const options = std::make_shared<Options>();
+    CLI::App& verb = *parent.add_subcommand(name, description);
+    SetWork(verb, context, [options, &context, work] { return work(std::as_const(*options), context.console); });
+    return {verb, *options};
+}
 
 /// Runs \a work of a verb that judges a release. A Refusal with the cause Content gives ExitStatus::Findings.
 ExitStatus JudgeRelease(Console const& console, std::function<ExitStatus()> const& work);

@@ -38,7 +38,7 @@ struct CreateOptions
     std::string effort = USUAL_EFFORT;
 };
 
-ExitStatus Create(Console const& console, CreateOptions const& options)
+ExitStatus Create(CreateOptions const& options, Console const& console)
 {
     QString const output = QString::fromStdString(options.output);
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
@@ -62,15 +62,13 @@ ExitStatus Create(Console const& console, CreateOptions const& options)
 
 void AddCreate(CLI::App& delta, VerbContext& context)
 {
-    auto const options = std::make_shared<CreateOptions>();
-    CLI::App& verb =
-        *delta.add_subcommand("create", "Make the delta from one version of a bundle to another and prove it");
-    verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
-    verb.add_option("NEW", options->newBundle, "Bundle, or archive of it, that the delta makes")->required();
-    verb.add_option("-o,--output", options->output, "New file for the delta")->required()->type_name("FILE");
-    AddSignerOptions(verb, options->signer, ": sign the delta and print the attributes of its enclosure");
-    AddEffortOption(verb, options->effort);
-    SetWork(verb, context, [&context, options] { return Create(context.console, *options); });
+    auto const [verb, options] = AddVerb<CreateOptions>(
+        delta, context, "create", "Make the delta from one version of a bundle to another and prove it", Create);
+    verb.add_option("OLD", options.oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
+    verb.add_option("NEW", options.newBundle, "Bundle, or archive of it, that the delta makes")->required();
+    verb.add_option("-o,--output", options.output, "New file for the delta")->required()->type_name("FILE");
+    AddSignerOptions(verb, options.signer, ": sign the delta and print the attributes of its enclosure");
+    AddEffortOption(verb, options.effort);
 }
 
 struct ApplyOptions
@@ -81,7 +79,7 @@ struct ApplyOptions
 };
 
 /// Makes the new bundle under a hidden name first, so that a bundle with the final name is always complete.
-ExitStatus Apply(Console const& console, ApplyOptions const& options)
+ExitStatus Apply(ApplyOptions const& options, Console const& console)
 {
     QString const output = QString::fromStdString(options.output);
     InputFile const delta = OpenInputFile(QString::fromStdString(options.delta));
@@ -96,14 +94,13 @@ ExitStatus Apply(Console const& console, ApplyOptions const& options)
 
 void AddApply(CLI::App& delta, VerbContext& context)
 {
-    auto const options = std::make_shared<ApplyOptions>();
-    CLI::App& verb = *delta.add_subcommand("apply", "Make the new version of a bundle, as clients do");
-    verb.add_option("DELTA", options->delta, "Delta to apply")->required();
-    verb.add_option("OLD", options->oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
-    verb.add_option("-o,--output", options->output, "New folder for the bundle, such as Name.app")
+    auto const [verb, options] =
+        AddVerb<ApplyOptions>(delta, context, "apply", "Make the new version of a bundle, as clients do", Apply);
+    verb.add_option("DELTA", options.delta, "Delta to apply")->required();
+    verb.add_option("OLD", options.oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
+    verb.add_option("-o,--output", options.output, "New folder for the bundle, such as Name.app")
         ->required()
         ->type_name("FOLDER");
-    SetWork(verb, context, [&context, options] { return Apply(context.console, *options); });
 }
 
 char const* KindName(Engine::DeltaEntryKind kind)
@@ -226,26 +223,26 @@ void ShowJson(Console const& console, InputFile const& delta, Engine::DeltaManif
     console.PrintJson(answer);
 }
 
+struct ShowOptions
+{
+    std::string delta;
+    bool isJson = false;
+};
+
+ExitStatus Show(ShowOptions const& options, Console const& console)
+{
+    InputFile const delta = OpenInputFile(QString::fromStdString(options.delta));
+    Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
+    options.isJson ? ShowJson(console, delta, manifest) : ShowText(console, delta, manifest);
+    return ExitStatus::Clean;
+}
+
 void AddShow(CLI::App& delta, VerbContext& context)
 {
-    struct Options
-    {
-        std::string delta;
-        bool isJson = false;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *delta.add_subcommand("show", "Tell what a delta keeps, patches and brings whole");
-    verb.add_option("DELTA", options->delta, "Delta to look at")->required();
-    verb.add_flag("--json", options->isJson, "Print one JSON object instead of text");
-    SetWork(verb, context,
-            [&context, options]
-            {
-                InputFile const delta = OpenInputFile(QString::fromStdString(options->delta));
-                Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
-                options->isJson ? ShowJson(context.console, delta, manifest)
-                                : ShowText(context.console, delta, manifest);
-                return ExitStatus::Clean;
-            });
+    auto const [verb, options] =
+        AddVerb<ShowOptions>(delta, context, "show", "Tell what a delta keeps, patches and brings whole", Show);
+    verb.add_option("DELTA", options.delta, "Delta to look at")->required();
+    verb.add_flag("--json", options.isJson, "Print one JSON object instead of text");
 }
 
 } // namespace

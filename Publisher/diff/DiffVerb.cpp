@@ -98,21 +98,20 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
 
 void AddDiff(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<DiffOptions>();
-    CLI::App* const verb = program.add_subcommand(
-        "diff", "Compares two feeds by effect: which installed versions on which systems get something else");
-    verb->add_option("OLD", options->oldFeed, "Path or address of the feed as it was")->required();
-    verb->add_option("NEW", options->newFeed, "Path or address of the feed as it will be, or - for standard input")
+    auto const [verb, options] = AddVerb<DiffOptions>(
+        program, context, "diff",
+        "Compares two feeds by effect: which installed versions on which systems get something else", Diff);
+    verb.add_option("OLD", options.oldFeed, "Path or address of the feed as it was")->required();
+    verb.add_option("NEW", options.newFeed, "Path or address of the feed as it will be, or - for standard input")
         ->required();
-    verb->add_option("--versions", options->versions,
-                     "Installed versions with commas between them; default: all that either feed names, and 0")
+    verb.add_option("--versions", options.versions,
+                    "Installed versions with commas between them; default: all that either feed names, and 0")
         ->type_name("LIST");
-    AddPlatformOption(*verb, options->platform);
-    AddInstallationOptions(*verb, options->installation);
-    AddRolloutGroupOption(*verb, options->installation);
-    AddPublishedAtOption(*verb, options->publishedAt);
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    SetWork(*verb, context, [options, &context] { return Diff(*options, context.console); });
+    AddPlatformOption(verb, options.platform);
+    AddInstallationOptions(verb, options.installation);
+    AddRolloutGroupOption(verb, options.installation);
+    AddPublishedAtOption(verb, options.publishedAt);
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

@@ -97,45 +97,41 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     return ExitStatus::Clean;
 }
 
-CLI::App& AddVerb(CLI::App& program, VerbContext& context, std::shared_ptr<EditOptions> const& options,
-                  char const* name, char const* what, Edit edit)
+NewVerb<EditOptions> AddEdit(CLI::App& program, VerbContext& context, char const* name, char const* what, Edit edit)
 {
-    CLI::App& verb = *program.add_subcommand(name, what);
-    verb.add_option("FEED", options->feed, "File of the feed; every byte that is not meant stays as it is")->required();
-    verb.add_flag("--dry-run", options->isDryRun, "Show what would be changed, and write nothing");
-    AddSignerOptions(verb, options->signer, ": sign the changed feed. Without it a signed feed must be signed again");
-    AddValidForOption(verb, options->validDays);
-    SetWork(verb, context, [options, edit, &context] { return Run(edit, *options, context.console); });
-    return verb;
+    auto const [verb, options] = AddVerb<EditOptions>(program, context, name, what,
+                                                      [edit](EditOptions const& given, Console const& console)
+                                                      { return Run(edit, given, console); });
+    verb.add_option("FEED", options.feed, "File of the feed; every byte that is not meant stays as it is")->required();
+    verb.add_flag("--dry-run", options.isDryRun, "Show what would be changed, and write nothing");
+    AddSignerOptions(verb, options.signer, ": sign the changed feed. Without it a signed feed must be signed again");
+    AddValidForOption(verb, options.validDays);
+    return {verb, options};
 }
 
-void AddVersion(CLI::App& verb, EditOptions& options)
+void AddVersion(NewVerb<EditOptions> const& edit)
 {
-    verb.add_option("VERSION", options.version, "Version of the items")->required();
+    edit.app.add_option("VERSION", edit.options.version, "Version of the items")->required();
 }
 
 } // namespace
 
 void AddEdits(CLI::App& program, VerbContext& context)
 {
-    auto const promotion = std::make_shared<EditOptions>();
-    CLI::App& promote = AddVerb(
-        program, context, promotion, "promote", "Takes a version out of its channel, so that everybody is offered it",
-        [](FeedEdit& feed, EditOptions const& options)
-        { Promote(feed, QString::fromStdString(options.version), QString::fromStdString(options.channel)); });
-    AddVersion(promote, *promotion);
-    promote.add_option("--to", promotion->channel, "Put it into this channel instead")->type_name("CHANNEL");
+    auto const promote =
+        AddEdit(program, context, "promote", "Takes a version out of its channel, so that everybody is offered it",
+                [](FeedEdit& feed, EditOptions const& options)
+                { Promote(feed, QString::fromStdString(options.version), QString::fromStdString(options.channel)); });
+    AddVersion(promote);
+    promote.app.add_option("--to", promote.options.channel, "Put it into this channel instead")->type_name("CHANNEL");
 
-    auto const withdrawal = std::make_shared<EditOptions>();
-    AddVersion(AddVerb(program, context, withdrawal, "withdraw",
+    AddVersion(AddEdit(program, context, "withdraw",
                        "Marks a version as withdrawn: it is offered to nobody, and its archive is not published again",
                        [](FeedEdit& feed, EditOptions const& options)
-                       { Withdraw(feed, QString::fromStdString(options.version)); }),
-               *withdrawal);
+                       { Withdraw(feed, QString::fromStdString(options.version)); }));
 
-    auto const notes = std::make_shared<EditOptions>();
-    CLI::App& editNotes = AddVerb(
-        program, context, notes, "edit-notes", "Replaces the release notes that a version has in the feed",
+    auto const editNotes = AddEdit(
+        program, context, "edit-notes", "Replaces the release notes that a version has in the feed",
         [](FeedEdit& feed, EditOptions const& options)
         {
             QFileInfo const file(QString::fromStdString(options.notes));
@@ -154,17 +150,18 @@ void AddEdits(CLI::App& program, VerbContext& context)
             }
             EditNotes(feed, QString::fromStdString(options.version), fresh);
         });
-    AddVersion(editNotes, *notes);
-    editNotes
-        .add_option("NOTES", notes->notes,
+    AddVersion(editNotes);
+    editNotes.app
+        .add_option("NOTES", editNotes.options.notes,
                     "File of the notes: NAME.html, .md or .txt; those in a language, NAME.de.html, come with it")
         ->required();
 
-    auto const pruning = std::make_shared<EditOptions>();
-    AddVerb(program, context, pruning, "prune",
-            "Removes old items from a feed; refuses when a client would be offered something else then",
-            [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); })
-        .add_option("--keep", pruning->keptVersions, "How many versions stay; withdrawn ones stay beside them")
+    auto const prune =
+        AddEdit(program, context, "prune",
+                "Removes old items from a feed; refuses when a client would be offered something else then",
+                [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); });
+    prune.app
+        .add_option("--keep", prune.options.keptVersions, "How many versions stay; withdrawn ones stay beside them")
         ->required()
         ->type_name("N")
         ->check(CLI::Range(1, 2000));

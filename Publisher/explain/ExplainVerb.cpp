@@ -55,28 +55,26 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
 
 void AddExplain(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<ExplainOptions>();
-    CLI::App* const verb =
-        program.add_subcommand("explain", "Says which item a client takes, and why not each of the others");
-    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
-    verb->add_option("--local-version", options->localVersion, "Installed version of the application")
+    auto const [verb, options] = AddVerb<ExplainOptions>(
+        program, context, "explain", "Says which item a client takes, and why not each of the others", Explain);
+    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    verb.add_option("--local-version", options.localVersion, "Installed version of the application")
         ->required()
         ->type_name("V");
-    verb->add_option("--system-version", options->systemVersion,
-                     "Version of the client's operating system, or \"unknown\"")
+    verb.add_option("--system-version", options.systemVersion,
+                    "Version of the client's operating system, or \"unknown\"")
         ->required()
         ->type_name("V");
-    AddPlatformOption(*verb, options->platform);
-    AddInstallationOptions(*verb, options->installation);
-    AddRolloutGroupOption(*verb, options->installation);
-    AddPublicKeysOption(*verb, options->installation.publicKeys,
+    AddPlatformOption(verb, options.platform);
+    AddInstallationOptions(verb, options.installation);
+    AddRolloutGroupOption(verb, options.installation);
+    AddPublicKeysOption(verb, options.installation.publicKeys,
                         "Key that the client trusts, in base64; may be given again; default: those that the feed says "
                         "its version trusts");
-    AddPublishedAtOption(*verb, options->publishedAt);
-    verb->add_flag("--after-delta", options->isAfterDelta,
-                   "Answer as when the client has been given a delta and asks for a full item to fall back on");
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    SetWork(*verb, context, [options, &context] { return Explain(*options, context.console); });
+    AddPublishedAtOption(verb, options.publishedAt);
+    verb.add_flag("--after-delta", options.isAfterDelta,
+                  "Answer as when the client has been given a delta and asks for a full item to fall back on");
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

@@ -9,8 +9,6 @@
 #include <QDir>
 #include <QFileInfo>
 
-#include <memory>
-
 namespace Pelnar::Publisher
 {
 namespace
@@ -74,22 +72,20 @@ void CheckPublicKeys(std::vector<std::string> const& keys)
 
 void AddCheckRelease(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *program.add_subcommand(
-        "check-release",
+    auto const [verb, options] = AddVerb<Options>(
+        program, context, "check-release",
         "Judge what is published, or lies ready to be, as the clients of every version will: each archive is unpacked "
         "and checked by the code that installs it, with the keys that the older bundles trust; exit status 1 when a "
-        "client would refuse something");
-    verb.add_option("RELEASE", options->release,
+        "client would refuse something",
+        [](Options const& given, Console const& console)
+        { return JudgeRelease(console, [&] { return Check(given, console); }); });
+    verb.add_option("RELEASE", options.release,
                     "Folder with appcast.xml and its archives, the feed's file, or the address of the published feed, "
                     "whose downloads are fetched then")
         ->required();
-    AddMachineOption(verb, options->machines, "it is this one, and every other that the feed names");
-    AddPublicKeysOption(verb, options->publicKeys,
+    AddMachineOption(verb, options.machines, "it is this one, and every other that the feed names");
+    AddPublicKeysOption(verb, options.publicKeys,
                         "A key that signed and that no bundle at hand trusts, in base64; may be given again");
-    SetWork(verb, context,
-            [&context, options]
-            { return JudgeRelease(context.console, [&] { return Check(*options, context.console); }); });
 }
 
 } // namespace Pelnar::Publisher

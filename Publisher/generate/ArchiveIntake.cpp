@@ -45,9 +45,7 @@ constexpr char MAC_IMAGE_ENDING[] = ".dmg";
 bool HasMacEnding(QString const& fileName)
 {
     return fileName.endsWith(QLatin1String(MAC_IMAGE_ENDING), Qt::CaseInsensitive) ||
-           std::any_of(std::begin(MAC_PACKAGE_ENDINGS), std::end(MAC_PACKAGE_ENDINGS),
-                       [&fileName](char const* ending)
-                       { return fileName.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+           EndsWithOneOf(fileName, MAC_PACKAGE_ENDINGS);
 }
 
 /// The bytes of an installer for macOS must match its name: a package has a mark at its start, an image at its end.

@@ -4,7 +4,6 @@
 #include "Publisher/keys/SigningKey.h"
 
 #include <map>
-#include <memory>
 
 namespace Pelnar::Publisher
 {
@@ -36,95 +35,86 @@ QString EntryOf(QString const& publicKey, PublicKeyForm form)
 }
 
 /// Adds the option that says how the public key is printed.
-void AddFormOption(CLI::App& verb, std::shared_ptr<PublicKeyForm> const& form)
+void AddFormOption(CLI::App& verb, PublicKeyForm& form)
 {
     static std::map<std::string, PublicKeyForm> const FORMS = {
         {"xml", PublicKeyForm::Xml}, {"gnustep", PublicKeyForm::Gnustep}, {"bare", PublicKeyForm::Bare}};
     verb.add_option_function<std::string>(
-            "--format", [form](std::string const& name) { *form = FORMS.at(name); },
+            "--format", [&form](std::string const& name) { form = FORMS.at(name); },
             "How the public key is printed: as an entry of an XML information file, as one of a GNUstep file, or bare")
         ->check(CLI::IsMember({"xml", "gnustep", "bare"}))
         ->default_str("xml");
 }
 
+struct KeyOptions
+{
+    std::string file;
+    PublicKeyForm form = PublicKeyForm::Xml;
+};
+
+ExitStatus Generate(KeyOptions const& options, Console const& console)
+{
+    SigningKey const key = SigningKey::Generate();
+    key.Save(QString::fromStdString(options.file));
+    console.Print(EntryOf(key.PublicKeyText(), options.form));
+    return ExitStatus::Clean;
+}
+
 void AddGenerateKey(CLI::App& keys, VerbContext& context)
 {
-    struct Options
-    {
-        std::string file;
-        std::shared_ptr<PublicKeyForm> form = std::make_shared<PublicKeyForm>(PublicKeyForm::Xml);
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb =
-        *keys.add_subcommand("generate", "Make a key, write the private half to a new file that only you may read, and "
-                                         "print the public half as the entry for the bundle's information file");
-    verb.add_option("FILE", options->file, "New file for the private key")->required();
-    AddFormOption(verb, options->form);
-    SetWork(verb, context,
-            [&context, options]
-            {
-                SigningKey const key = SigningKey::Generate();
-                key.Save(QString::fromStdString(options->file));
-                context.console.Print(EntryOf(key.PublicKeyText(), *options->form));
-                return ExitStatus::Clean;
-            });
+    auto const [verb, options] =
+        AddVerb<KeyOptions>(keys, context, "generate",
+                            "Make a key, write the private half to a new file that only you may read, and "
+                            "print the public half as the entry for the bundle's information file",
+                            Generate);
+    verb.add_option("FILE", options.file, "New file for the private key")->required();
+    AddFormOption(verb, options.form);
+}
+
+ExitStatus Show(KeyOptions const& options, Console const& console)
+{
+    SigningKey const key = SigningKey::Load(QString::fromStdString(options.file));
+    console.Print(EntryOf(key.PublicKeyText(), options.form));
+    return ExitStatus::Clean;
 }
 
 void AddShow(CLI::App& keys, VerbContext& context)
 {
-    struct Options
-    {
-        std::string file;
-        std::shared_ptr<PublicKeyForm> form = std::make_shared<PublicKeyForm>(PublicKeyForm::Xml);
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb =
-        *keys.add_subcommand("show", "Print the public half of a key as the entry for the bundle's information file");
-    verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
-    AddFormOption(verb, options->form);
-    SetWork(verb, context,
-            [&context, options]
-            {
-                SigningKey const key = SigningKey::Load(QString::fromStdString(options->file));
-                context.console.Print(EntryOf(key.PublicKeyText(), *options->form));
-                return ExitStatus::Clean;
-            });
+    auto const [verb, options] = AddVerb<KeyOptions>(
+        keys, context, "show", "Print the public half of a key as the entry for the bundle's information file", Show);
+    verb.add_option("FILE", options.file, KEY_FILE_HELP)->required();
+    AddFormOption(verb, options.form);
 }
 
-ExitStatus Export(Console const& console, SigningKey const& key, KeyForm form, bool isTerminalWanted)
+struct ExportOptions
 {
-    if (console.out.isTerminal && !isTerminalWanted)
+    std::string file;
+    std::string form = "seed";
+    bool isTerminalWanted = false;
+};
+
+ExitStatus Export(ExportOptions const& options, Console const& console)
+{
+    SigningKey const key = SigningKey::Load(QString::fromStdString(options.file));
+    if (console.out.isTerminal && !options.isTerminalWanted)
     {
         return console.Refuse({u"the private key would stand on this terminal"_s,
                                u"hand it to another program or a file, or say --to-terminal"_s});
     }
-    SecretBytes const text = key.SecretText(form);
+    SecretBytes const text = key.SecretText(options.form == "seed" ? KeyForm::Seed : KeyForm::SecretKey);
     console.out.stream.write(reinterpret_cast<char const*>(text.Data()), std::streamsize(text.Size() - 1));
     return ExitStatus::Clean;
 }
 
 void AddExport(CLI::App& keys, VerbContext& context)
 {
-    struct Options
-    {
-        std::string file;
-        std::string form = "seed";
-        bool isTerminalWanted = false;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *keys.add_subcommand("export", "Print the private key, for a backup or another program");
-    verb.add_option("FILE", options->file, KEY_FILE_HELP)->required();
-    verb.add_option("--form", options->form, "32 bytes (seed) or, with the public half, 64 (secret-key), in base64")
+    auto const [verb, options] = AddVerb<ExportOptions>(
+        keys, context, "export", "Print the private key, for a backup or another program", Export);
+    verb.add_option("FILE", options.file, KEY_FILE_HELP)->required();
+    verb.add_option("--form", options.form, "32 bytes (seed) or, with the public half, 64 (secret-key), in base64")
         ->check(CLI::IsMember({"seed", "secret-key"}))
         ->capture_default_str();
-    verb.add_flag("--to-terminal", options->isTerminalWanted, "Print it even when standard output is a terminal");
-    SetWork(verb, context,
-            [&context, options]
-            {
-                SigningKey const key = SigningKey::Load(QString::fromStdString(options->file));
-                return Export(context.console, key, options->form == "seed" ? KeyForm::Seed : KeyForm::SecretKey,
-                              options->isTerminalWanted);
-            });
+    verb.add_flag("--to-terminal", options.isTerminalWanted, "Print it even when standard output is a terminal");
 }
 
 } // namespace

@@ -6,8 +6,6 @@
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
-#include <memory>
-
 namespace Pelnar::Publisher
 {
 namespace
@@ -138,24 +136,23 @@ ExitStatus Rotate(Options const& options, Console const& console)
 
 void AddRotate(CLI::App& keys, VerbContext& context)
 {
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *keys.add_subcommand(
-        "rotate",
+    auto const [verb, options] = AddVerb<Options>(
+        keys, context, "rotate",
         "Say how far a feed is in the change from one signing key to another, what the next step is, and which "
-        "installed versions must be gone before it");
-    verb.add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
+        "installed versions must be gone before it",
+        Rotate);
+    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
     auto const isKey = [](std::string const& text)
     { return Engine::KeyIdOf(text).empty() ? text + " is no Ed25519 key" : std::string(); };
-    verb.add_option("--from", options->oldKey, "The public key that signs until now, in base64")
+    verb.add_option("--from", options.oldKey, "The public key that signs until now, in base64")
         ->required()
         ->type_name("KEY")
         ->check(isKey);
-    verb.add_option("--to", options->newKey, "The public key that is to sign, in base64")
+    verb.add_option("--to", options.newKey, "The public key that is to sign, in base64")
         ->required()
         ->type_name("KEY")
         ->check(isKey);
-    AddPlatformOption(verb, options->platform);
-    SetWork(verb, context, [&context, options] { return Rotate(*options, context.console); });
+    AddPlatformOption(verb, options.platform);
 }
 
 } // namespace Pelnar::Publisher

@@ -20,11 +20,35 @@ bool IsVerdict(Engine::UpdateFault fault)
     return fault == Engine::UpdateFault::SignatureMismatch || fault == Engine::UpdateFault::ArchiveEmpty;
 }
 
-ExitStatus Verify(Console const& console, QString const& archiveName, std::string const& signature,
-                  std::vector<std::string> const& publicKeys)
+struct SignOptions
 {
+    std::string archive;
+    SignerOptions signer;
+};
+
+ExitStatus Sign(SignOptions const& options, Console const& console)
+{
+    InputFile const archive = OpenInputFile(QString::fromStdString(options.archive));
+    std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
+    Progress bar(console.err, u"Signing"_s);
+    bar.Show(0, 1); // the signature is made at once
+    console.Print(AttributesOf(signer->Sign(archive)));
+    return ExitStatus::Clean;
+}
+
+struct VerifyOptions
+{
+    std::string archive;
+    std::string signature;
+    std::vector<std::string> publicKeys;
+};
+
+ExitStatus Verify(VerifyOptions const& options, Console const& console)
+{
+    QString const archiveName = QString::fromStdString(options.archive);
     InputFile const archive = OpenInputFile(archiveName);
-    Engine::UpdateFault const verdict = Engine::VerifyFileSignature(archive.descriptor.Get(), signature, publicKeys);
+    Engine::UpdateFault const verdict =
+        Engine::VerifyFileSignature(archive.descriptor.Get(), options.signature, options.publicKeys);
     if (verdict == Engine::UpdateFault::None)
     {
         console.Print(u"%1: signed, %2 bytes"_s.arg(archiveName).arg(archive.size));
@@ -42,54 +66,27 @@ ExitStatus Verify(Console const& console, QString const& archiveName, std::strin
 
 void AddSign(CLI::App& program, VerbContext& context)
 {
-    struct Options
-    {
-        std::string archive;
-        SignerOptions signer;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb =
-        *program.add_subcommand("sign", "Sign an archive and print the attributes for its enclosure in the feed");
-    verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta to sign")->required();
-    AddSignerOptions(verb, options->signer);
-    SetWork(verb, context,
-            [&context, options]
-            {
-                InputFile const archive = OpenInputFile(QString::fromStdString(options->archive));
-                std::unique_ptr<ISigner> const signer = LoadSigner(options->signer);
-                Progress bar(context.console.err, u"Signing"_s);
-                bar.Show(0, 1); // the signature is made at once
-                context.console.Print(AttributesOf(signer->Sign(archive)));
-                return ExitStatus::Clean;
-            });
+    auto const [verb, options] = AddVerb<SignOptions>(
+        program, context, "sign", "Sign an archive and print the attributes for its enclosure in the feed", Sign);
+    verb.add_option("ARCHIVE", options.archive, "Archive, installer or delta to sign")->required();
+    AddSignerOptions(verb, options.signer);
 }
 
 void AddVerify(CLI::App& program, VerbContext& context)
 {
-    struct Options
-    {
-        std::string archive;
-        std::string signature;
-        std::vector<std::string> publicKeys;
-    };
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *program.add_subcommand(
-        "verify", "Judge an archive's signature as clients do; exit status 1 when they would refuse the archive");
-    verb.add_option("ARCHIVE", options->archive, "Archive, installer or delta")->required();
-    verb.add_option("--signature", options->signature, "The feed's sparkle:edSignature")
+    auto const [verb, options] = AddVerb<VerifyOptions>(
+        program, context, "verify",
+        "Judge an archive's signature as clients do; exit status 1 when they would refuse the archive", Verify);
+    verb.add_option("ARCHIVE", options.archive, "Archive, installer or delta")->required();
+    verb.add_option("--signature", options.signature, "The feed's sparkle:edSignature")
         ->required()
         ->type_name("SIGNATURE");
-    verb.add_option("--public-key", options->publicKeys,
+    verb.add_option("--public-key", options.publicKeys,
                     "The bundle's SUPublicEDKey; give it twice for a bundle that trusts two")
         ->required()
         ->expected(1, 2)
         ->allow_extra_args(false)
         ->type_name("KEY");
-    SetWork(verb, context,
-            [&context, options] {
-                return Verify(context.console, QString::fromStdString(options->archive), options->signature,
-                              options->publicKeys);
-            });
 }
 
 } // namespace Pelnar::Publisher

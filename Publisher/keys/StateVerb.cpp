@@ -73,31 +73,31 @@ ExitStatus State(Options const& options, Console const& console)
 
 void AddState(CLI::App& keys, VerbContext& context)
 {
-    auto const options = std::make_shared<Options>();
-    CLI::App& verb = *keys.add_subcommand(
-        "state", "Say with the root key which signing keys are valid and which are revoked, and print the line for the "
-                 "feed; needs no network");
-    AddSignerOptions(verb, options->root, ", of the root key");
-    verb.add_option("--serial", options->serial, "Number of the statement, above that of the last one")
+    auto const [verb, options] = AddVerb<Options>(
+        keys, context, "state",
+        "Say with the root key which signing keys are valid and which are revoked, and print the line for the "
+        "feed; needs no network",
+        State);
+    AddSignerOptions(verb, options.root, ", of the root key");
+    verb.add_option("--serial", options.serial, "Number of the statement, above that of the last one")
         ->required()
         ->type_name("NUMBER");
-    verb.add_option("--bundle", options->bundles, "Identifier of the bundle that it is for; may be given again")
+    verb.add_option("--bundle", options.bundles, "Identifier of the bundle that it is for; may be given again")
         ->required()
         ->allow_extra_args(false)
         ->type_name("IDENTIFIER");
-    verb.add_option("--valid", options->validKeys, "Public key that is valid, in base64; may be given twice")
+    verb.add_option("--valid", options.validKeys, "Public key that is valid, in base64; may be given twice")
         ->required()
         ->allow_extra_args(false)
         ->type_name("KEY");
-    verb.add_option("--revoke", options->revoked,
+    verb.add_option("--revoke", options.revoked,
                     "Public key, or its id, that must never count again; may be given again")
         ->allow_extra_args(false)
         ->type_name("KEY");
-    verb.add_option("--valid-for", options->validDays, "Days until the statement counts no more")
+    verb.add_option("--valid-for", options.validDays, "Days until the statement counts no more")
         ->type_name("DAYS")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();
-    SetWork(verb, context, [&context, options] { return State(*options, context.console); });
 }
 
 } // namespace Pelnar::Publisher

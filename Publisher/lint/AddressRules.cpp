@@ -1,8 +1,8 @@
 // AddressRules.cpp: addresses that only the publisher can reach, that lead to no update, or that two versions share.
 
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/fetch/AddressReach.h"
+#include "Publisher/Console.h"
+#include "Publisher/choice/ClientInstallation.h"
 #include "Publisher/lint/AddressForms.h"
 #include "Publisher/lint/LintSubject.h"
 
@@ -16,8 +16,6 @@ namespace Pelnar::Publisher
 {
 namespace
 {
-
-using App::Session::VersionFromStringNoexcept;
 
 /// An address of this computer, of its link, or of a network that others cannot see.
 bool IsPrivate(Engine::NumericAddress const& address)
@@ -56,9 +54,7 @@ bool IsNear(QUrl const& url)
         return IsPrivate(*address);
     }
     constexpr char const* ENDINGS[] = {".localhost", ".local", ".internal", ".lan", ".home.arpa"};
-    return (!host.isEmpty() && !host.contains(u'.')) ||
-           std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
-                       [&](char const* ending) { return host.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+    return (!host.isEmpty() && !host.contains(u'.')) || EndsWithOneOf(host, ENDINGS);
 }
 
 bool IsWebPage(LintDownload const& download)
@@ -68,8 +64,7 @@ bool IsWebPage(LintDownload const& download)
     QString const type =
         download.enclosure ? download.enclosure->PlainAttribute("type").value_or(QString()).trimmed() : QString();
     return path.isEmpty() || path.contains("/releases/tag/"_l) || type.startsWith("text/html"_l, Qt::CaseInsensitive) ||
-           std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
-                       [&](char const* ending) { return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+           EndsWithOneOf(path, ENDINGS);
 }
 
 void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFindings& findings)
@@ -130,9 +125,7 @@ void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& find
         }
         LintItem const*& first = firstAt[address];
         first = first ? first : &item;
-        Core::Version const version = VersionFromStringNoexcept(item.full.item->versionString);
-        Core::Version const other = VersionFromStringNoexcept(first->full.item->versionString);
-        if (version.IsValid() && other.IsValid() && !App::Session::IsSameVersion(version, other))
+        if (OrderOfTexts(item.full.item->versionString, first->full.item->versionString) != 0)
         {
             findings.Add(LintRule::SharedAddress, item.full.Place(),
                          u"%1 is the address of %2 in line %3 as well"_s.arg(address, NameOf(*first->full.item))

@@ -2,6 +2,7 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Publisher/choice/ClientInstallation.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>
@@ -12,8 +13,14 @@ namespace
 {
 
 using App::Session::IsOlderVersion;
-using App::Session::IsSameVersion;
 using App::Session::VersionFromStringNoexcept;
+
+bool IsSame(QString const& textA, QString const& textB)
+{
+    Core::Version const a = VersionFromStringNoexcept(textA);
+    Core::Version const b = VersionFromStringNoexcept(textB);
+    return a.IsValid() && b.IsValid() && App::Session::IsSameVersion(a, b);
+}
 
 /// The parser leaves such a delta out.
 void CheckStarts(LintElement const& item, LintFindings& findings)
@@ -46,8 +53,7 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
     }
     Core::Version const version = VersionFromStringNoexcept(delta.item->versionString);
     QString const& itemVersion = item.full.item->versionString;
-    Core::Version const whole = VersionFromStringNoexcept(itemVersion);
-    if (version.IsValid() && whole.IsValid() && !IsSameVersion(version, whole))
+    if (OrderOfTexts(delta.item->versionString, itemVersion) != 0)
     {
         findings.Add(LintRule::DeltaVersion, delta.Place(),
                      u"it makes version %1, and its item is of %2"_s.arg(delta.item->versionString, itemVersion));
@@ -58,11 +64,7 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
                      u"it leads from %1 to %2"_s.arg(text, delta.item->versionString));
     }
     else if (std::none_of(items.begin(), items.end(),
-                          [&](LintItem const& each)
-                          {
-                              Core::Version const base = VersionFromStringNoexcept(each.full.item->versionString);
-                              return base.IsValid() && IsSameVersion(base, from);
-                          }))
+                          [&](LintItem const& each) { return IsSame(each.full.item->versionString, text); }))
     {
         findings.Add(LintRule::DeltaBaseMissing, delta.Place(), u"no item has the version %1"_s.arg(text));
     }
@@ -77,14 +79,9 @@ void CheckRepetitions(LintItem const& item, LintFindings& findings)
 {
     for (auto later = item.deltas.begin(); later != item.deltas.end(); ++later)
     {
-        Core::Version const from = VersionFromStringNoexcept(later->item->deltaFrom);
         auto const earlier = std::find_if(item.deltas.begin(), later,
                                           [&](LintDownload const& each)
-                                          {
-                                              Core::Version const other =
-                                                  VersionFromStringNoexcept(each.item->deltaFrom);
-                                              return from.IsValid() && other.IsValid() && IsSameVersion(other, from);
-                                          });
+                                          { return IsSame(each.item->deltaFrom, later->item->deltaFrom); });
         if (earlier != later)
         {
             findings.Add(LintRule::DeltaFromRepeated, later->Place(),

@@ -190,35 +190,32 @@ ExitStatus Lint(LintOptions const& options, Console const& console)
 
 void AddLint(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<LintOptions>();
-    CLI::App* const verb =
-        program.add_subcommand("lint", "Finds what clients would refuse or misread, with place and mend");
-    verb->add_option("FEED", options->feeds, "Paths or addresses of feeds, or - for standard input");
-    AddPublishedAtOption(*verb, options->publishedAt);
-    verb->add_flag("--fetch", options->isFetching, "Fetch every download and check its size and its signature");
-    verb->add_flag("--signed", options->isSignatureAsked,
-                   "The feed must be signed itself, as for clients that require it");
-    AddPublicKeysOption(*verb, options->publicKeys,
+    auto const [verb, options] = AddVerb<LintOptions>(
+        program, context, "lint", "Finds what clients would refuse or misread, with place and mend", Lint);
+    verb.add_option("FEED", options.feeds, "Paths or addresses of feeds, or - for standard input");
+    AddPublishedAtOption(verb, options.publishedAt);
+    verb.add_flag("--fetch", options.isFetching, "Fetch every download and check its size and its signature");
+    verb.add_flag("--signed", options.isSignatureAsked,
+                  "The feed must be signed itself, as for clients that require it");
+    AddPublicKeysOption(verb, options.publicKeys,
                         "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may "
                         "be given again");
-    verb->add_option(
-            "--root-public-key", options->rootKeys,
-            "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement by it; may be "
-            "given again")
+    verb.add_option("--root-public-key", options.rootKeys,
+                    "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement by it; may be "
+                    "given again")
         ->allow_extra_args(false)
         ->type_name("KEY");
-    verb->add_option("--previous", options->previous,
-                     "The feed that was published before: no serial may be lower than there")
+    verb.add_option("--previous", options.previous,
+                    "The feed that was published before: no serial may be lower than there")
         ->type_name("FEED");
-    verb->add_option("--baseline", options->baseline,
-                     "What an earlier run with --json printed: its findings are known, and not told again")
+    verb.add_option("--baseline", options.baseline,
+                    "What an earlier run with --json printed: its findings are known, and not told again")
         ->type_name("FILE");
-    verb->add_flag("--strict", options->isStrict, "Exit with 1 for notes as well");
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    verb->add_flag("--sarif", options->isSarif, "Print one SARIF log, for code hosts and editors");
-    verb->add_flag("--each", options->isEach, "Print every finding on a line of its own, not grouped by rule");
-    verb->add_flag("--rules", options->isListingRules, "Print the table of all rules, in Markdown, and nothing else");
-    SetWork(*verb, context, [options, &context] { return Lint(*options, context.console); });
+    verb.add_flag("--strict", options.isStrict, "Exit with 1 for notes as well");
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
+    verb.add_flag("--sarif", options.isSarif, "Print one SARIF log, for code hosts and editors");
+    verb.add_flag("--each", options.isEach, "Print every finding on a line of its own, not grouped by rule");
+    verb.add_flag("--rules", options.isListingRules, "Print the table of all rules, in Markdown, and nothing else");
 }
 
 } // namespace Pelnar::Publisher

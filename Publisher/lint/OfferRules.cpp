@@ -4,6 +4,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleaseRules.h"
+#include "Publisher/Console.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/lint/LintSubject.h"
 
@@ -111,10 +112,7 @@ void CheckPackage(LintItem const& item, LintFindings& findings)
     constexpr char const* ENDINGS[] = {".dmg", ".pkg", ".mpkg", ".exe",      ".msi", ".msix",    ".apk", ".ipa",
                                        ".deb", ".rpm", ".snap", ".appimage", ".run", ".flatpak", ".7z",  ".rar"};
     QString const name = item.full.item->fileUrl.fileName();
-    bool const isForeign =
-        std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
-                    [&](char const* ending) { return name.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
-    if (isForeign)
+    if (EndsWithOneOf(name, ENDINGS))
     {
         findings.Add(LintRule::ForeignPackage, item.full.Place(), name);
     }

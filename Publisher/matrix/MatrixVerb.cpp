@@ -136,26 +136,24 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
 
 void AddMatrix(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<MatrixOptions>();
-    CLI::App* const verb =
-        program.add_subcommand("matrix", "Says who gets what: every installed version on every system");
-    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
-    verb->add_option("--versions", options->versions,
-                     "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
+    auto const [verb, options] = AddVerb<MatrixOptions>(
+        program, context, "matrix", "Says who gets what: every installed version on every system", ShowMatrix);
+    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    verb.add_option("--versions", options.versions,
+                    "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
         ->type_name("LIST");
-    verb->add_option("--systems", options->systems,
-                     "Versions of the operating system with commas between them; \"unknown\" may be one")
+    verb.add_option("--systems", options.systems,
+                    "Versions of the operating system with commas between them; \"unknown\" may be one")
         ->type_name("LIST");
-    AddPlatformOption(*verb, options->platform);
-    AddInstallationOptions(*verb, options->installation);
-    AddRolloutGroupOption(*verb, options->installation);
-    AddPublishedAtOption(*verb, options->publishedAt);
-    verb->add_option("--expect", options->expectation,
-                     "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
-                     "defaults")
+    AddPlatformOption(verb, options.platform);
+    AddInstallationOptions(verb, options.installation);
+    AddRolloutGroupOption(verb, options.installation);
+    AddPublishedAtOption(verb, options.publishedAt);
+    verb.add_option("--expect", options.expectation,
+                    "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
+                    "defaults")
         ->type_name("FILE");
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    SetWork(*verb, context, [options, &context] { return ShowMatrix(*options, context.console); });
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

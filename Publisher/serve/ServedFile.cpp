@@ -2,7 +2,7 @@
 
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
-#include "common/TextLiterals.h"
+#include "Publisher/Console.h"
 
 #include <QFile>
 #include <QStringList>
@@ -48,9 +48,7 @@ bool IsInPrivateFolder(int folderFd, QString const& path)
 bool HasKeyName(QString const& path)
 {
     constexpr char const* ENDINGS[] = {".key", ".p8", ".p12", ".pfx", ".jks"};
-    return std::any_of(std::begin(ENDINGS), std::end(ENDINGS),
-                       [&path](char const* ending)
-                       { return path.endsWith(QLatin1String(ending), Qt::CaseInsensitive); });
+    return EndsWithOneOf(path, ENDINGS);
 }
 
 bool IsPemKey(QByteArray const& content)

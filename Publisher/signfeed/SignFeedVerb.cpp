@@ -68,17 +68,19 @@ void AddValidForOption(CLI::App& verb, int& days)
 
 void AddSignFeed(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<SignFeedOptions>();
-    CLI::App& verb = *program.add_subcommand(
-        "sign-feed", "Sign a feed, or sign it again before its signature expires: it gets a new serial and a new date, "
-                     "and keeps every other byte; a feed that was changed since is not signed again");
-    verb.add_option("FEED", options->feed, "File of the feed")->required();
-    AddSignerOptions(verb, options->signer);
-    AddValidForOption(verb, options->validDays);
+    auto const [verb, options] = AddVerb<SignFeedOptions>(
+        program, context, "sign-feed",
+        "Sign a feed, or sign it again before its signature expires: it gets a new serial and a new date, "
+        "and keeps every other byte; a feed that was changed since is not signed again",
+        SignFeedFile);
+    verb.add_option("FEED", options.feed, "File of the feed")->required();
+    AddSignerOptions(verb, options.signer);
+    AddValidForOption(verb, options.validDays);
     // As text: the number would be cut to the greatest one that fits.
     verb.add_option_function<std::string>(
             "--serial",
-            [options](std::string const& text) { options->serial = Engine::FeedSerial(QString::fromStdString(text)); },
+            [&serial = options.serial](std::string const& text)
+            { serial = Engine::FeedSerial(QString::fromStdString(text)); },
             "Number above that of the published feed; without this the next one, or the seconds since 1970 "
             "when they are more")
         ->type_name("NUMBER")
@@ -88,11 +90,10 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
                 bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
                 return isSerial ? std::string() : text + " is no number from 1 to 9223372036854775807";
             });
-    AddKeyStatementOption(verb, options->keyStatement);
-    verb.add_flag("--accept-changes", options->isAcceptingChanges,
+    AddKeyStatementOption(verb, options.keyStatement);
+    verb.add_flag("--accept-changes", options.isAcceptingChanges,
                   "Sign a feed as well that was changed after it was signed, or was signed by another key");
-    verb.add_option("-o,--output", options->output, "File to write; without this FEED itself")->type_name("FILE");
-    SetWork(verb, context, [&context, options] { return SignFeedFile(*options, context.console); });
+    verb.add_option("-o,--output", options.output, "File to write; without this FEED itself")->type_name("FILE");
 }
 
 } // namespace Pelnar::Publisher

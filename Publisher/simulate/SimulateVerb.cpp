@@ -104,34 +104,34 @@ ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
 
 void AddSimulate(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<SimulateOptions>();
-    CLI::App* const verb = program.add_subcommand(
-        "simulate", "Draws who has which version when: clients that check once a day and take what they are offered");
-    verb->add_option("FEED", options->feed, "Path or address of the feed, or - for standard input")->required();
-    verb->add_option("--clients", options->clients, "How many clients")
+    auto const [verb, options] = AddVerb<SimulateOptions>(
+        program, context, "simulate",
+        "Draws who has which version when: clients that check once a day and take what they are offered",
+        RunSimulation);
+    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    verb.add_option("--clients", options.clients, "How many clients")
         ->type_name("N")
         ->check(CLI::Range(1, 1000000))
         ->capture_default_str();
-    verb->add_option("--days", options->days, "For how many days")
+    verb.add_option("--days", options.days, "For how many days")
         ->type_name("D")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();
-    verb->add_option("--versions", options->versions,
-                     "Versions that the clients begin with in turn, with commas between them; default: all that the "
-                     "feed names")
+    verb.add_option("--versions", options.versions,
+                    "Versions that the clients begin with in turn, with commas between them; default: all that the "
+                    "feed names")
         ->type_name("LIST");
-    verb->add_option("--system-version", options->systemVersion, "Version of the clients' operating system")
+    verb.add_option("--system-version", options.systemVersion, "Version of the clients' operating system")
         ->type_name("V")
         ->capture_default_str();
-    verb->add_option("--seed", options->seed, "Another number gives the clients other hours and other groups")
+    verb.add_option("--seed", options.seed, "Another number gives the clients other hours and other groups")
         ->type_name("NUMBER")
         ->capture_default_str();
-    verb->add_option("--svg", options->picture, "Write a picture as well")->type_name("FILE");
-    AddPlatformOption(*verb, options->platform);
-    AddInstallationOptions(*verb, options->installation);
-    AddPublishedAtOption(*verb, options->publishedAt);
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    SetWork(*verb, context, [options, &context] { return RunSimulation(*options, context.console); });
+    verb.add_option("--svg", options.picture, "Write a picture as well")->type_name("FILE");
+    AddPlatformOption(verb, options.platform);
+    AddInstallationOptions(verb, options.installation);
+    AddPublishedAtOption(verb, options.publishedAt);
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

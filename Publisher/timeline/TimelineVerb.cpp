@@ -116,12 +116,11 @@ ExitStatus ShowTimeline(TimelineOptions const& options, Console const& console)
 
 void AddTimeline(CLI::App& program, VerbContext& context)
 {
-    auto const options = std::make_shared<TimelineOptions>();
-    CLI::App* const verb = program.add_subcommand(
-        "timeline", "Rebuilds from an application's log what its update session did, and flags what cannot happen");
-    verb->add_option("LOG", options->log, "Path of the log, or - for standard input")->required();
-    verb->add_flag("--json", options->isJson, "Print one JSON object");
-    SetWork(*verb, context, [options, &context] { return ShowTimeline(*options, context.console); });
+    auto const [verb, options] = AddVerb<TimelineOptions>(
+        program, context, "timeline",
+        "Rebuilds from an application's log what its update session did, and flags what cannot happen", ShowTimeline);
+    verb.add_option("LOG", options.log, "Path of the log, or - for standard input")->required();
+    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

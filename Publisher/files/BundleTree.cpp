@@ -29,7 +29,8 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr char TEMPORARY_PREFIX[] = "pelnar-appcast-";
-constexpr char UNHELD_PREFIX[] = "pelnar-appcast.new-"; ///< of one that its process, by its number, does not hold yet
+/// Of a folder that its process, whose number is in the name, has not locked yet.
+constexpr char UNHELD_PREFIX[] = "pelnar-appcast.new-";
 constexpr char MAC_INFORMATION_PATH[] = "Contents/Info.plist";
 
 Engine::UniqueFd OpenFolder(fs::path const& path)
@@ -37,14 +38,14 @@ Engine::UniqueFd OpenFolder(fs::path const& path)
     return Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
 }
 
-/// Whether there is a process with that number.
+/// True if there is a process with that number.
 bool IsRunning(QString const& number)
 {
     return ::kill(pid_t(number.toInt()), 0) == 0 || errno != ESRCH;
 }
 
-/// Removes the folders of runs that were killed: those of this user without a lock. One that was made a moment ago and
-/// is about to be held stays.
+/// Removes the folders of killed runs: this user's folders without a lock. A folder that was just created and is about
+/// to be locked stays.
 void RemoveAbandoned()
 {
     constexpr int YOUNG_SECONDS = 60;
@@ -110,7 +111,7 @@ TemporaryFolder::TemporaryFolder()
             if (isMade)
             {
                 m_folder = OpenFolder(unheld.toStdString());
-                static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks nobody removes it
+                static_cast<void>(::flock(m_folder.Get(), LOCK_EX | LOCK_NB)); // without locks no run removes it
                 isMade = ::rename(unheld.constData(), path.constData()) == 0;
             }
             if (!isMade)
@@ -126,7 +127,7 @@ TemporaryFolder::TemporaryFolder()
 
 TemporaryFolder::~TemporaryFolder()
 {
-    // What cannot be removed stays in the system's folder for temporary files, where it is found.
+    // If it cannot be removed, it stays in the system's folder for temporary files.
     static_cast<void>(Engine::RemoveTree(m_parent.Get(), m_path.filename().string()));
 }
 

@@ -1,5 +1,5 @@
-// BundleTree.h: a bundle on disk, given as its folder or taken out of an archive by the rules by which clients unpack.
-// Ownership: a scope object; what it unpacked is removed with it.
+// BundleTree.h: a bundle on disk: a given folder, or unpacked from an archive by the rules of clients.
+// Ownership: a scope object; it removes what it unpacked.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -17,11 +17,11 @@
 namespace Pelnar::Publisher
 {
 
-/// A folder for temporary files of this user's only.
+/// A temporary folder that only this user can access.
 class TemporaryFolder
 {
 public:
-    /// Removes what killed runs have left there, first. Throws Refusal.
+    /// Removes the folders of killed runs first. Throws Refusal.
     TemporaryFolder();
     ~TemporaryFolder();
     TemporaryFolder(TemporaryFolder const&) = delete;
@@ -34,10 +34,10 @@ private:
     std::filesystem::path m_path;
     std::optional<Leftover> m_leftover;
     Engine::UniqueFd m_parent;
-    Engine::UniqueFd m_folder; ///< held, so that no later run takes the folder for one that was left behind
+    Engine::UniqueFd m_folder; ///< locked, so that no later run removes the folder
 };
 
-/// Told after each piece: bytes done so far, and in all.
+/// Called after each piece: bytes done so far, and in all.
 using ByteProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t totalBytes)>;
 
 class BundleTree
@@ -45,7 +45,7 @@ class BundleTree
 public:
     /// The bundle whose folder is \a path, or the one in the archive \a path. Throws Refusal.
     static BundleTree Open(QString const& path, ByteProgress const& progress);
-    /// The bundle in \a archive. Throws Refusal for what a client would refuse.
+    /// The bundle in \a archive. Throws Refusal if a client would refuse it.
     static BundleTree Unpack(InputFile const& archive, ByteProgress const& progress);
 
     /// The bundle's folder.
@@ -54,14 +54,14 @@ public:
     /// The folder's name, "Name.app".
     std::string Name() const { return m_path.filename().string(); }
     Engine::BundleInformation const& Information() const { return m_information; }
-    /// The system that the bundle's layout is of.
+    /// The system for which the bundle is laid out.
     Engine::FeedPlatform Platform() const { return m_platform; }
 
 private:
     BundleTree(std::unique_ptr<TemporaryFolder> temporary, std::filesystem::path path, QString const& shownName);
     void ReadInformation(QString const& shownName);
 
-    std::unique_ptr<TemporaryFolder> m_temporary; ///< null for a folder that was given
+    std::unique_ptr<TemporaryFolder> m_temporary; ///< null for a given folder
     std::filesystem::path m_path;
     Engine::UniqueFd m_folder;
     Engine::BundleInformation m_information;

@@ -20,7 +20,7 @@ struct Words
     char const* mend;
 };
 
-/// By fault. Empty for those that only an installation meets.
+/// For each fault. Empty for those that occur only in an installation.
 constexpr std::array WORDS = {
 #define PELNAR_FAULT(name, number, code, blame, sentence, what, mend) Words{what, mend},
 #include "Engine/core/faults/UpdateFaults.def"
@@ -31,7 +31,7 @@ Words WordsFor(DeltaError error)
     switch (error)
     {
     case DeltaError::None:
-    case DeltaError::TreeRefused: // the rule that is broken says more
+    case DeltaError::TreeRefused: // the broken rule says more
         break;
     case DeltaError::NotADelta:
         return {"is no delta of this format", "make one with \"delta create\""};

@@ -1,5 +1,5 @@
-// FolderLock.h: one run at a time writes into a folder.
-// Ownership: a scope object; the lock ends with it and with the process.
+// FolderLock.h: lets one run at a time write to a folder. Ownership: a scope object; the lock ends with it and with the
+// process.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -11,11 +11,11 @@ namespace Pelnar::Publisher
 class FolderLock
 {
 public:
-    /// Waits while another run holds \a folder, and says so first. A file system without locks is not waited for.
-    /// Throws Refusal for a folder that cannot be opened.
+    /// Waits while another run holds \a folder, and prints a message first. Does not wait on a file system without
+    /// locks. Throws Refusal if the folder cannot be opened.
     FolderLock(QString const& folder, Console const& console);
 
-    /// Whether \a folder is the one that is held.
+    /// True if \a folder is the locked one.
     [[nodiscard]] bool Holds(QString const& folder) const;
 
 private:

@@ -17,7 +17,7 @@ namespace Pelnar::Publisher
 
 InputFile OpenInputFile(QString const& path)
 {
-    // Without waiting for somebody to write into a FIFO.
+    // Does not block on a FIFO.
     Engine::UniqueFd descriptor(::open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
     struct stat status;
     if (!descriptor || ::fstat(descriptor.Get(), &status) != 0)

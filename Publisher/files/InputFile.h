@@ -19,10 +19,10 @@ struct InputFile
     std::uint64_t size = 0;
 };
 
-/// Throws Refusal unless \a path is a plain file that can be read. A link to one may stand in its place.
+/// Throws Refusal unless \a path is a plain file that can be read, or a link to one.
 InputFile OpenInputFile(QString const& path);
 
-/// The bytes of \a file. Throws Refusal, which says \a mend, when they are more than \a maxBytes.
+/// The bytes of \a file. Throws Refusal with \a mend if there are more than \a maxBytes.
 QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString const& mend);
 
 } // namespace Pelnar::Publisher

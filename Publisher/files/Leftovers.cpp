@@ -21,7 +21,7 @@ struct LeftoverList
     std::multiset<std::string> paths;
 };
 
-/// Never destroyed: the waiting thread may ask for it while the process ends.
+/// Never destroyed: the waiting thread may use it while the process ends.
 LeftoverList& Leftovers()
 {
     static auto& list = *new LeftoverList;
@@ -41,8 +41,8 @@ sigset_t EndingSignals()
 
 void RemoveAll()
 {
-    // The working thread goes on meanwhile: what it adds to a folder between two steps goes in the next round.
-    // Deliberate: the lock is kept, so that no thread makes another or ends the process first.
+    // The working thread continues meanwhile. A file that it adds to a folder between two steps is removed in the next
+    // round. Deliberate: the lock is kept, so that no thread adds another or ends the process first.
     constexpr int MOST_ROUNDS = 100;
     Leftovers().mutex.lock();
     for (std::string const& path : Leftovers().paths)

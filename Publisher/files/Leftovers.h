@@ -1,4 +1,4 @@
-// Leftovers.h: what a run must not leave behind when it is interrupted: hidden files, folders for temporary files.
+// Leftovers.h: removes files and folders of an interrupted run: hidden files, temporary folders.
 // Ownership: a scope object for each name; the process has one list of them.
 #pragma once
 
@@ -8,14 +8,14 @@
 namespace Pelnar::Publisher
 {
 
-/// While it lives, the file or folder of that path goes when a signal ends the process.
+/// While it lives, a signal that ends the process also removes the file or folder of that path.
 class Leftover
 {
 public:
-    /// \a path: absolute. Empty for nothing.
+    /// \a path: absolute; may be empty.
     explicit Leftover(std::string path);
-    /// Calls \a make, which makes the file or folder and returns its absolute path, or makes nothing and returns an
-    /// empty one. No signal ends the process between the two. What \a make throws is passed on.
+    /// Calls \a make, which creates the file or folder and returns its absolute path, or an empty path if it created
+    /// none. No signal ends the process between the two. Exceptions of \a make propagate.
     explicit Leftover(std::function<std::string()> const& make);
     ~Leftover();
     Leftover(Leftover const&) = delete;
@@ -27,8 +27,8 @@ private:
     std::string m_path;
 };
 
-/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and end the process then as they always do.
-/// REQUIRES: called once, by the only thread, before another is started.
+/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and then end the process as usual. REQUIRES: called
+/// once, by the only thread, before another is started.
 void RemoveLeftoversWhenInterrupted();
 
 } // namespace Pelnar::Publisher

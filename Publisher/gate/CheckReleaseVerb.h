@@ -1,4 +1,4 @@
-// CheckReleaseVerb.h: the verb "check-release": what is published, judged as installed clients judge it.
+// CheckReleaseVerb.h: the verb "check-release": judges a published release as installed clients do.
 #pragma once
 
 #include "Publisher/Verb.h"
@@ -6,11 +6,11 @@
 namespace Pelnar::Publisher
 {
 
-/// "--machine", which may be given again; \a otherwise says what happens without it.
+/// "--machine", which may be repeated; \a otherwise describes the effect without it.
 void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise);
-/// "--public-key", which may be given again.
+/// "--public-key", which may be repeated.
 void AddPublicKeysOption(CLI::App& verb, std::vector<std::string>& keys, std::string const& description);
-/// Throws Refusal for a text that is no key.
+/// Throws Refusal for a text that is not a key.
 void CheckPublicKeys(std::vector<std::string> const& keys);
 
 } // namespace Pelnar::Publisher

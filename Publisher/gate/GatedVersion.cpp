@@ -19,8 +19,8 @@ Core::Version WholeVersion(QString const& text)
     return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
 }
 
-/// The machine that the header of the program in \a bundle names. None for another system, for a script, and for a
-/// program that the gate refuses.
+/// The machine in the header of the program in \a bundle. Empty for another system, a script, and a program that the
+/// gate refuses.
 QStringList MachinesOf(BundleTree const& bundle)
 {
     QStringList machines;

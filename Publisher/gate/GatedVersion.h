@@ -1,4 +1,4 @@
-// GatedVersion.h: one version as the gate sees it: an update for installed clients, and later a client itself.
+// GatedVersion.h: one version in the gate: an update for installed clients, and later a client itself.
 #pragma once
 
 #include "Engine/core/feed/KeyPaths.h"
@@ -14,15 +14,15 @@
 namespace Pelnar::Publisher
 {
 
-/// What the gate needs of a bundle when it is at hand.
+/// The bundle's properties for the gate, if the bundle is available.
 struct GatedBundle
 {
     std::string identifier;
     std::string name; ///< of its folder
     Engine::TrustedKeys publicKeys;
     bool allowsInstallerPrograms = false;
-    std::string rootKey = {};                ///< empty when the bundle names none
-    std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement says are valid
+    std::string rootKey = {};                ///< empty if the bundle has none
+    std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement declares valid
 };
 
 struct GatedVersion
@@ -32,32 +32,32 @@ struct GatedVersion
     Core::Version version; ///< all four components present
     Engine::FeedPlatform platform = Engine::FeedPlatform::Linux;
     Engine::PayloadKind kind = Engine::PayloadKind::WholeBundle;
-    QStringList machines = {}; ///< that its program is for; empty for every one
-    QStringList signerIds;     ///< of the keys that signed its download; empty while unknown
-    QStringList trustedIds;    ///< of the keys that its clients trust; empty while unknown, and with a root key
+    QStringList machines = {}; ///< of its program; empty for every machine
+    QStringList signerIds;     ///< of the keys that signed its download; empty if unknown
+    QStringList trustedIds;    ///< of the keys that its clients trust; empty if unknown, and with a root key
     std::optional<GatedBundle> bundle;
 
-    /// Whether people run this version: an installer program is never installed itself.
+    /// True if people run this version: an installer program is not installed itself.
     [[nodiscard]] bool HasClients() const { return kind == Engine::PayloadKind::WholeBundle; }
 };
 
-/// Its keys, for the paths from one version to another.
+/// Its keys, for the search of paths between versions.
 [[nodiscard]] Engine::KeyedVersion KeysOf(GatedVersion const& version);
 
-/// Whether clients of \a older are offered \a newer.
+/// True if clients of \a older are offered \a newer.
 [[nodiscard]] bool IsOffered(GatedVersion const& newer, GatedVersion const& older);
 
-/// The keys that \a bundle trusts. Throws Refusal for a text that is no key: every key must be usable.
+/// The keys that \a bundle trusts. Throws Refusal if one is malformed: every key must be usable.
 Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path);
 
-/// What \a bundle, from the archive \a path, is to the gate. Throws Refusal when a key is malformed.
+/// The version of \a bundle, from the archive \a path. Throws Refusal if a key is malformed.
 GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::PayloadKind kind);
 
-/// Gives \a version, when its bundle names a root key, the keys that the key statement in \a feed says are valid.
-/// Throws Refusal when its clients would not believe that, and so refuse the feed.
+/// If the bundle of \a version has a root key: adds the keys that the key statement in \a feed declares valid. Throws
+/// Refusal if its clients would refuse the statement and so the feed.
 void BelieveStatement(GatedVersion& version, QByteArray const& feed);
 
-/// What the feed \a feedName says of \a item. The version is invalid when the item's cannot be read.
+/// The version of \a item in the feed \a feedName. It is invalid if the item's version cannot be read.
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);
 
 } // namespace Pelnar::Publisher

@@ -24,7 +24,7 @@ namespace
 using Engine::FeedItem;
 using Engine::FeedPlatform;
 
-/// Those that are judged. What names no machine is judged for the first.
+/// The machines to judge. An item without machines is judged for the first one.
 std::vector<std::string> MachinesOf(ReleaseCheckRequest const& request)
 {
     std::vector<std::string> names = request.machines;
@@ -36,7 +36,7 @@ std::vector<std::string> MachinesOf(ReleaseCheckRequest const& request)
     return names;
 }
 
-/// Lint has told of the others.
+/// Lint reports the others.
 bool CanBeJudged(FeedItem const& item)
 {
     return !item.fileUrl.isEmpty() && item.contentLength != 0 &&
@@ -73,7 +73,8 @@ std::vector<FeedItem> ItemsOf(ReleaseCheckRequest const& request, FeedPlatform p
 bool IsContainer(FeedItem const& item, FeedPlatform platform)
 {
     bool const isInstaller = UpdateTypeOf(item) == App::Session::UpdateType::INSTALLER;
-    return platform == FeedPlatform::Linux || !isInstaller; // macOS has packages and images, which nothing reads here
+    // macOS has packages and images, which this tool cannot read.
+    return platform == FeedPlatform::Linux || !isInstaller;
 }
 
 class PlatformCheck
@@ -182,7 +183,8 @@ private:
         }
     }
 
-    /// The ids of the keys that signed. What the feed says of them must be so: clients choose the signature by it.
+    /// The ids of the keys that signed. The feed must name them correctly, because clients choose the signature by
+    /// them.
     QStringList CheckSignatures(InputFile const& file, FeedItem const& item) const
     {
         QStringList ids;
@@ -286,7 +288,7 @@ private:
     ReleaseFiles& m_files;
     Console const& m_console;
     RefusalList& m_refusals;
-    std::vector<std::string> m_keys; ///< those that were given, and those of the bundles so far
+    std::vector<std::string> m_keys; ///< the given ones, and those of the bundles so far
     std::vector<GatedVersion> m_versions;
 };
 

@@ -1,5 +1,5 @@
-// ReleaseCheck.h: everything that a published feed offers, judged as the installed clients of its versions judge it.
-// Thread: the main thread, with Qt's event loop.
+// ReleaseCheck.h: judges all items of a published feed as the installed clients of its versions do. Thread: the main
+// thread, with Qt's event loop.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -18,12 +18,12 @@ struct ReleaseCheckRequest
     QString feedName;
     QUrl feedAddress;
     QByteArray feed;
-    QString folder; ///< of the downloads; empty when they are fetched
+    QString folder; ///< of the downloads; empty if they are fetched
     std::vector<std::string> publicKeys;
-    std::vector<std::string> machines; ///< names; empty for this one, and all that the feed names
+    std::vector<std::string> machines; ///< names; empty: this machine, and all that the feed names
 };
 
-/// Prints what was judged, and throws one Refusal for everything that a client would refuse.
+/// Prints the judged items, and throws one Refusal for all that a client would refuse.
 ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& console);
 
 } // namespace Pelnar::Publisher

@@ -18,18 +18,17 @@ namespace Pelnar::Publisher
 /// Fetches the download of \a item into \a folder, as clients do, but from any address.
 Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString const& folder, Console const& console);
 
-/// The key among \a publicKeys that made \a signature of \a file; nothing when none did. Texts that are no key are
-/// passed over.
+/// The key among \a publicKeys that made \a signature of \a file; empty if none did. Malformed keys are ignored.
 std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,
                                     std::vector<std::string> const& publicKeys);
 
 class ReleaseFiles
 {
 public:
-    /// \a folder is empty for a release that is read from its server.
+    /// \a folder is empty for a release on its server.
     ReleaseFiles(QString folder, Console const& console);
 
-    /// The file of \a item, or of a delta; nothing when the folder does not have it. Throws Refusal for what cannot be
+    /// The file of \a item, or of a delta; empty if the folder does not have it. Throws Refusal if it cannot be
     /// fetched.
     std::optional<InputFile> Open(Engine::FeedItem const& item);
 

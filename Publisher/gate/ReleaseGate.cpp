@@ -19,11 +19,11 @@ namespace
 
 using Engine::UpdateFault;
 
-/// What the beginning of a program says that it runs on.
+/// The system and machine that the start of a program names.
 enum class ProgramKind
 {
     Missing,
-    NotRunnable, ///< no plain file, or without the right to execute
+    NotRunnable, ///< not a plain file, or not executable
     Linux,
     MacOS,
     Script,
@@ -104,7 +104,7 @@ void CheckMacProgram(BundleTree const& bundle, QString const& path, RefusalList&
     refusals.Add(std::move(problem));
 }
 
-/// The part of the bundle that a fault is about.
+/// The part of the bundle that has the fault.
 QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& nameWhenInstalled)
 {
     bool const isProgram = fault == UpdateFault::ExecutableMissing || fault == UpdateFault::ExecutableNotRunnable ||
@@ -113,7 +113,7 @@ QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& 
     {
         return EntryText(bundle, Engine::INFORMATION_PATH);
     }
-    // A bundle that names no program runs the one with the name of its folder.
+    // If a bundle names no program, the program with the name of its folder runs.
     Engine::BundleInformation const information = Engine::ReadBundleInformation(bundle.Descriptor(), nameWhenInstalled);
     QString text = EntryText(bundle, information.executable);
     struct stat status;
@@ -124,7 +124,7 @@ QString EntryOf(UpdateFault fault, BundleTree const& bundle, std::string const& 
     return text;
 }
 
-/// The check of one client; reports a fault once, whichever client meets it first.
+/// The check of one client. A fault is reported once, for the first client that has it.
 class ClientCheck
 {
 public:
@@ -213,7 +213,7 @@ void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& a
     {
         return;
     }
-    // What a root key has said since counts for those who have the version as well.
+    // Newer statements of a root key apply to those who already have the version, too.
     bool const followsRoot = version.bundle && !version.bundle->rootKey.empty();
     bool const goesOn =
         std::any_of(all.begin(), all.end(),
@@ -240,7 +240,8 @@ void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& a
                   "the key is being changed, the new one as PelnarNextPublicEDKey"_s});
 }
 
-/// Whether clients of \a older get to \a version or beyond it, at once or by versions between that bring its key.
+/// True if clients of \a older reach \a version or a newer one, directly or through versions between them that bring
+/// its key.
 bool IsReachedFrom(GatedVersion const& older, GatedVersion const& version, std::vector<GatedVersion> const& all)
 {
     std::vector<Engine::KeyedVersion> offered;
@@ -255,7 +256,7 @@ bool IsReachedFrom(GatedVersion const& older, GatedVersion const& version, std::
     return IsReached(KeysOf(version), steps, OrderOfTexts);
 }
 
-/// The versions whose clients never get to \a version, oldest first.
+/// The versions whose clients never reach \a version, oldest first.
 QStringList StrandedBy(GatedVersion const& version, std::vector<GatedVersion> const& all)
 {
     std::vector<GatedVersion const*> stranded;

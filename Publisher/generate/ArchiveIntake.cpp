@@ -24,7 +24,7 @@ bool IsInstaller(ArchiveKind kind)
     return kind == ArchiveKind::GuidedInstaller || kind == ArchiveKind::InteractiveInstaller;
 }
 
-/// Whether \a published competes with \a item: one version, one way to update, a system in common.
+/// True if \a published competes with \a item: the same version, the same kind of update, a common system.
 bool Clashes(NewItem const& item, PublishedItem const& published)
 {
     bool const isInstaller = UpdateTypeOf(published.item) == App::Session::UpdateType::INSTALLER;
@@ -59,7 +59,7 @@ void CheckMacInstaller(InputFile const& file)
     char mark[4] = {};
     bool const isRead = Engine::ReadUpTo(file.descriptor.Get(), offset, mark, sizeof mark) == sizeof mark;
     bool const isSame = std::equal(std::begin(mark), std::end(mark), isImage ? IMAGE_MARK : PACKAGE_MARK);
-    if (file.size > 0 && !(isRead && isSame)) // an empty file is told of when it is signed
+    if (file.size > 0 && !(isRead && isSame)) // an empty file is reported when it is signed
     {
         throw ContentRefusal({file.name, isImage ? u"is no disk image"_s : u"is no installer package"_s,
                               u"give it the ending of what it is"_s});
@@ -135,7 +135,7 @@ void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
                     [&](GatedVersion const& version) { return version.bundle->name == fresh.front().bundle->name; });
     if ((isOneName && !hasInstaller) || !refusals.IsEmpty())
     {
-        return; // what clients compare besides the folder's name was compared
+        return; // all that clients compare, except the name of the folder, is already compared
     }
     for (GatedVersion const& version : fresh)
     {
@@ -143,7 +143,7 @@ void ArchiveIntake::CheckAmongEachOther(RefusalList& refusals)
     }
 }
 
-/// A program for a machine that the release is not for.
+/// A program for a machine for which the release is not made.
 void ArchiveIntake::CheckMachines(RefusalList& refusals)
 {
     for (GatedVersion const& version : m_versions)
@@ -224,7 +224,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     return item;
 }
 
-/// Of what clients take, and the publisher hardly means.
+/// Accepted by clients, but probably not intended by the publisher.
 void ArchiveIntake::WarnOf(GatedVersion const& version) const
 {
     auto const newer =

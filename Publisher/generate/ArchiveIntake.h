@@ -1,4 +1,4 @@
-// ArchiveIntake.h: from archives that are not published yet to the items that a feed gets for them.
+// ArchiveIntake.h: makes the items of a feed from archives that are not published yet.
 // Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
@@ -19,8 +19,8 @@ public:
     {
     }
 
-    /// Reads and judges the bundles and installers among \a archives. \a refusals gets what clients would refuse or
-    /// confuse. The items are signed only if it stays empty.
+    /// Reads and judges the bundles and installers among \a archives. Adds to \a refusals what clients would refuse or
+    /// confuse. The items are signed only if \a refusals stays empty.
     std::vector<NewItem> Take(std::vector<FolderArchive> const& archives, RefusalList& refusals);
 
 private:
@@ -33,7 +33,7 @@ private:
     void CheckClash(NewItem const& item) const;
     void CheckMachines(RefusalList& refusals);
     void CheckAmongEachOther(RefusalList& refusals);
-    /// Unpacks the archive of \a version once more.
+    /// Unpacks the archive of \a version again.
     static void JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
                            Engine::Machine const& machine, RefusalList& refusals);
     [[nodiscard]] bool IsNew(GatedVersion const& version) const;
@@ -44,7 +44,7 @@ private:
     PublishedFeed const& m_feed;
     std::vector<GatedVersion> m_versions; ///< published ones, and new ones after them
     std::vector<NewItem> m_items;
-    std::string m_identifier; ///< of the product, once a bundle told it
+    std::string m_identifier; ///< of the product, once a bundle has named it
     QString m_identifierSource;
 };
 

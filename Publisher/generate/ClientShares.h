@@ -1,4 +1,4 @@
-// ClientShares.h: the versions that clients run, as their publisher counts them.
+// ClientShares.h: the versions that clients run, as counted by their publisher.
 #pragma once
 
 #include "HostFramework/Version.h"
@@ -16,9 +16,9 @@ struct ClientShare
     double share = 0;
 };
 
-/// What the file \a name lists, the largest share first. A line has a version and its share, any number above 0; empty
-/// lines and lines that begin with "#" are left out. Throws Refusal for another line, and for a version that stands
-/// there twice.
+/// The list in the file \a name, the largest share first. A line has a version and its share, a number above 0. Empty
+/// lines and lines that begin with "#" are ignored. Throws Refusal for any other line, and for a version that is listed
+/// twice.
 std::vector<ClientShare> ReadClientShares(QString const& name);
 
 } // namespace Pelnar::Publisher

@@ -17,7 +17,7 @@ namespace
 
 bool IsBundleForLinux(NewItem const& item)
 {
-    // The container is this engine's own: no client on another system reads it.
+    // The container is this engine's own: clients on other systems cannot read it.
     return item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
 }
 
@@ -45,7 +45,7 @@ void DeltaStage::AddTo(std::vector<NewItem>& items, DeltaChoice const& choice)
             }
         }
     }
-    // Newest base first, no matter in which order they came.
+    // Newest base first, in any order of addition.
     for (NewItem& item : items)
     {
         std::stable_sort(item.deltas.begin(), item.deltas.end(),
@@ -138,7 +138,7 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         QString const start = QString::fromStdString(manifest.baseVersion);
         bool hasTarget = false;
         bool isTaken = false;
-        RefusalList refusals; // of one version there may be bundles for several machines; the delta is of one
+        RefusalList refusals; // a version may have bundles for several machines, and the delta is for one of them
         for (NewItem& item : items)
         {
             bool const isTarget = IsBundleForLinux(item) && item.versionText == target;

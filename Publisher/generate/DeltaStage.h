@@ -1,4 +1,4 @@
-// DeltaStage.h: the deltas of a feed's new items: those that lie in the folder, proved, and those that are made.
+// DeltaStage.h: the deltas of a feed's new items: those in the folder, which are verified, and those that are made.
 // Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
@@ -13,18 +13,18 @@
 namespace Pelnar::Publisher
 {
 
-/// Which versions before the newest get a delta to it, and how it is made.
+/// Which versions before the newest get a delta to it, and how the delta is made.
 struct DeltaChoice
 {
     int count = 0;                    ///< at most
-    std::vector<ClientShare> clients; ///< empty: the newest; else those with the largest shares
+    std::vector<ClientShare> clients; ///< empty: the newest versions; otherwise those with the largest shares
     Engine::DeltaEffort effort = Engine::DeltaEffort::Usual;
 };
 
 class DeltaStage
 {
 public:
-    /// \a archives: everything in the folder.
+    /// \a archives: all archives in the folder.
     DeltaStage(Workplace const& workplace, PublishedFeed const& feed, std::vector<FolderArchive> const& archives)
         : m_workplace(workplace), m_feed(feed), m_archives(archives)
     {
@@ -36,17 +36,17 @@ public:
     /// folder before the feed is there. Throws Refusal.
     void AddTo(std::vector<NewItem>& items, DeltaChoice const& choice);
 
-    /// The files that were made, which have no names yet.
+    /// The created files, which have no names yet.
     std::vector<std::unique_ptr<AtomicFile>>& Made() { return m_made; }
 
 private:
-    /// A bundle for Linux whose archive lies in the folder.
+    /// A bundle for Linux whose archive is in the folder.
     struct Base
     {
         QString fileName;
         QString versionText;
         Core::Version version;
-        QStringList machines; ///< empty for every one
+        QStringList machines; ///< empty for every machine
     };
 
     std::vector<Base> FindBases(std::vector<NewItem> const& items) const;
@@ -54,9 +54,9 @@ private:
     std::vector<Base> BasesFor(NewItem const& newest, DeltaChoice const& choice) const;
     void TakeGiven(std::vector<NewItem>& items);
     void TakeGiven(NewItem& item, Base const& base, QString const& fileName);
-    /// Whether clients of its machine are offered nothing newer.
+    /// True if clients of its machine are offered nothing newer.
     [[nodiscard]] bool IsNewest(NewItem const& item, std::vector<NewItem> const& items) const;
-    /// The name of the delta to \a item. Tells the machine when the same version has a bundle for another.
+    /// The name of the delta to \a item. It contains the machine if the same version has a bundle for another one.
     QString DeltaName(NewItem const& item, Base const& base) const;
     BundleTree const& TreeOf(NewItem const& item);
     void Make(NewItem& item, Base const& base, Engine::DeltaEffort effort);

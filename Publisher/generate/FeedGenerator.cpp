@@ -31,8 +31,8 @@ constexpr char FEED_FILE[] = "appcast.xml";
 QString const FEED_PREFIX = u"sparkle"_s;
 QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 
-/// The moment of a build that must come out the same wherever it is made, else now. Never a time of the archive: a
-/// checkout or a copy gives files another. Throws Refusal.
+/// The time of a reproducible build, otherwise now. Never the time of an archive, because a checkout or a copy changes
+/// it. Throws Refusal.
 std::int64_t MomentOfPublication()
 {
     QByteArray const text = qgetenv("SOURCE_DATE_EPOCH");
@@ -64,7 +64,7 @@ std::vector<ClientShare> ClientsOf(GenerateRequest const& request)
                                        : ReadClientShares(QString::fromStdString(request.clientsFile));
 }
 
-/// The feed that is published, or an empty one.
+/// The published feed, or an empty one.
 FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
 {
     if (!QFileInfo::exists(feedFile))
@@ -112,7 +112,7 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
     console.Print(u"%1: %2 added, %3 kept"_s.arg(feedFile, CountOf(items.size(), u"item"_s)).arg(kept));
 }
 
-/// With \a made, which the feed names.
+/// With \a made, the archives that the feed names.
 void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& address,
                std::vector<std::unique_ptr<AtomicFile>> const& made)
 {
@@ -122,7 +122,7 @@ void WriteFeed(QString const& feedFile, QByteArray const& bytes, QUrl const& add
     AtomicFile::CommitTogether(made, file);
 }
 
-/// What a finding says, without the lines that move when items are added.
+/// The text of a finding, without the lines that move when items are added.
 std::pair<LintRule, QString> KindOf(LintFinding const& finding)
 {
     static QRegularExpression const LINE(u"line [0-9]+"_s);
@@ -151,7 +151,7 @@ void RefuseNewErrors(QString const& feedFile, std::vector<LintFinding> const& be
     refusals.ThrowIfAny();
 }
 
-/// One run over a folder that it has for itself.
+/// One run for a folder that it has locked.
 class FeedRun
 {
 public:
@@ -262,12 +262,12 @@ private:
         return items;
     }
 
-    /// The feed with \a items, signed when it is to be.
+    /// The feed with \a items, signed if needed.
     QByteArray FeedWith(std::vector<NewItem> const& items, PublishedFeed& feed)
     {
         if (m_request.title.empty() && !items.empty())
         {
-            feed = OpenFeed(items.front().productName); // only now is the product's name known
+            feed = OpenFeed(items.front().productName); // the product's name is known only now
         }
         QByteArray const bytes = feed.With(AdditionsOf(items, feed, m_workplace.address));
         bool const isNewlySigned = m_request.isFeedSigned && !m_published.isSigned;
@@ -298,14 +298,14 @@ private:
         }
     }
 
-    /// What is published keeps its notes: those that lie beside its archive may be others by now.
+    /// Published items keep their notes: the files next to their archives may have changed since.
     void TellOtherNotes(PublishedFeed const& feed, std::vector<FolderArchive> const& archives) const
     {
         for (FolderArchive const& archive : archives)
         {
             Engine::FeedItem const* const item = m_workplace.FindPublished(feed, archive.fileName);
             NewItem written;
-            RefusalList passedOver; // what cannot be read is of no release that is made now
+            RefusalList passedOver; // an unreadable archive does not belong to the release that is made now
             bool const isRead =
                 passedOver.Try([&] { written.notes = ReadReleaseNotes(m_workplace.folder, archive.stem); });
             if (!item || item->isDelta || !item->releaseNotesUrl.isEmpty() || !isRead || written.notes.empty())
@@ -342,7 +342,7 @@ private:
         }
     }
 
-    /// What lint says of the whole feed, for what was published before may need mending as well.
+    /// The findings of lint for the whole feed, because published items may need a mend as well.
     ExitStatus Judge(std::vector<LintFinding> const& findings) const
     {
         if (m_terms)
@@ -364,7 +364,7 @@ private:
     QUrl const m_address;
     bool const m_isNew;
     FeedContent m_published;
-    std::optional<Engine::FeedValidity> m_terms; ///< of the signature that was made
+    std::optional<Engine::FeedValidity> m_terms; ///< of the new signature
 };
 
 /// Null without one.
@@ -390,7 +390,7 @@ ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console)
     std::unique_ptr<ISigner> const signer = LoadSigner(request.signer);
     std::unique_ptr<ISigner> const second = LoadSecondKey(request, *signer);
     FeedRun const preview(request, *signer, second.get(),
-                          console); // bad options are told before another run is waited for
+                          console); // bad options are reported before waiting for another run
     QString const folder = QString::fromStdString(request.folder);
     FolderLock const lock(folder, console);
     QString const feedFolder = QFileInfo(preview.FeedFile()).absolutePath();

@@ -19,23 +19,22 @@ struct GenerateRequest
     SignerOptions secondSigner{"--second-key", "--second-signer"}; ///< of archives as well, if it is given
     std::string urlPrefix;                                         ///< where the folder's files are published
     std::string urlTemplate;             ///< the same with "{file}" and "{version}" in it; one of the two is empty
-    std::vector<std::string> machines;   ///< that the programs for Linux are for; empty: see Workplace
-    std::vector<std::string> publicKeys; ///< by which something was published, besides the one that signs now
+    std::vector<std::string> machines;   ///< for which the programs for Linux are made; empty: see Workplace
+    std::vector<std::string> publicKeys; ///< that have signed published archives, besides the current one
     std::string feedFile;                ///< empty for appcast.xml in the folder
     std::string title;                   ///< of a new feed; empty for the product's name
     std::string link;                    ///< of a new feed; empty for the address of the files
     int deltaCount = 3;                  ///< how many versions before the newest get a delta to it
-    std::string clientsFile;             ///< of the shares by which these are chosen; empty for the newest ones
+    std::string clientsFile;             ///< with the shares for the choice of these; empty for the newest ones
     std::string deltaEffort = "usual";   ///< a name that EffortOf knows
-    std::string keyStatementFile;        ///< of the line that is put into the feed; empty for none
+    std::string keyStatementFile;        ///< of the line that is added to the feed; empty for none
     bool isRecompressed = false;         ///< new bundles are packed a second time
-    bool isFeedSigned = false;           ///< a feed that has a signature is signed again in any case
+    bool isFeedSigned = false;           ///< a feed that has a signature is always signed again
     int validDays = 30;                  ///< until the feed's signature expires
 };
 
-/// Writes the feed if something is new, and prints what the strictest lint finds in it; a finding gives
-/// ExitStatus::Findings. Throws one Refusal for everything in the folder that clients would refuse, and has then
-/// changed nothing.
+/// Writes the feed if there is a new item, and prints the findings of the strictest lint; a finding gives
+/// ExitStatus::Findings. Throws one Refusal for all files that clients would refuse, and has then changed nothing.
 ExitStatus GenerateFeed(GenerateRequest const& request, Console const& console);
 
 } // namespace Pelnar::Publisher

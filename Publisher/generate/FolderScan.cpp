@@ -38,14 +38,14 @@ constexpr NotesEnding NOTES_ENDINGS[] = {
     {".txt", Engine::ReleaseNotesFormat::PlainText},
 };
 
-/// \a name without the first of \a endings that it has; nothing when it has none.
+/// \a name without the first matching one of \a endings; empty if none matches.
 std::optional<QString> StemOf(QString const& name, char const* ending)
 {
     bool const hasEnding = name.endsWith(QLatin1String(ending), Qt::CaseInsensitive);
     return hasEnding ? name.chopped(int(qstrlen(ending))) : std::optional<QString>();
 }
 
-/// \a name without the ending of a zip or a tar; nothing when it has none.
+/// \a name without the ending of a zip or a tar; empty if it has none.
 std::optional<QString> StemOfContainer(QString const& name)
 {
     for (char const* const ending : BUNDLE_ENDINGS)
@@ -76,7 +76,7 @@ std::optional<FolderArchive> Classify(QString const& name)
                          : std::optional<FolderArchive>();
 }
 
-/// The line of the first character of \a text that XML does not allow; 0 when there is none.
+/// The line of the first character of \a text that XML does not allow; 0 if there is none.
 int LineOfBadCharacter(QString const& text)
 {
     int line = 1;
@@ -152,7 +152,7 @@ struct NotesFile
     Engine::ReleaseNotesFormat format;
 };
 
-/// "de" and "pt_BR" as xml:lang writes them; nothing for a text that names no language.
+/// "de" and "pt_BR" as xml:lang writes them; empty for a text that names no language.
 std::optional<QString> LanguageOf(QString const& text)
 {
     static QRegularExpression const FORM(u"^[A-Za-z]{2,3}([-_][A-Za-z0-9]{2,8})*$"_s);
@@ -160,7 +160,7 @@ std::optional<QString> LanguageOf(QString const& text)
     return isLanguage ? QString(text).replace(u'_', u'-') : std::optional<QString>();
 }
 
-/// The notes that the file \a name is for the archive with that stem; nothing if it is not one of its notes.
+/// The notes in the file \a name for the archive with that stem; empty if it is not one of its notes.
 std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
 {
     for (NotesEnding const& ending : NOTES_ENDINGS)
@@ -205,7 +205,7 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
         RefuseFile(folder, u"cannot be read"_s, entries.exists() ? EACCES : ENOENT,
                    u"name the folder of the archives"_s);
     }
-    // System files among them: a link that leads nowhere is one.
+    // System files are included: a broken link is one.
     QStringList names = entries.entryList(QDir::Files | QDir::System, QDir::NoSort);
     std::sort(names.begin(), names.end());
     std::vector<FolderArchive> archives;
@@ -252,7 +252,7 @@ QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const
 {
     QStringList ignored;
     std::error_code error;
-    // Deliberate: not by QDir, which leaves names out that cannot be decoded.
+    // Deliberate: not with QDir, which omits names that cannot be decoded.
     for (auto const& entry : std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), error))
     {
         QString const name = QFile::decodeName(entry.path().filename().c_str());

@@ -24,36 +24,36 @@ enum class ArchiveKind
 struct FolderArchive
 {
     QString fileName;
-    QString stem; ///< the name that notes beside it share: without endings and marks
+    QString stem; ///< the common part of the archive's and its notes' names, without endings and marks
     ArchiveKind kind = ArchiveKind::Bundle;
-    bool isNamedAsContainer = false; ///< ends as a zip or a tar does, no matter what its kind is
+    bool isNamedAsContainer = false; ///< has the ending of a zip or a tar, for any kind
 };
 
-/// The archives of \a folder in ascending order of their names; hidden files are left alone. Throws Refusal: for a
-/// folder that cannot be read, and for a link with the name of an archive.
+/// The archives of \a folder, sorted by name; hidden files are ignored. Throws Refusal for a folder that cannot be
+/// read, and for a link with the name of an archive.
 std::vector<FolderArchive> ScanFolder(QString const& folder);
 
-/// Notes as the text of an item's description: HTML that every client shows alike.
+/// Notes as the text of an item's description: HTML that every client shows in the same way.
 struct ReleaseNotes
 {
-    QString language; ///< as xml:lang writes it; empty for those that are for everybody else
+    QString language; ///< as xml:lang writes it; empty for those for all other languages
     QString html;
     QString fileName; ///< in their folder
 };
 
-/// The notes beside an archive, those without a language first. Notes are STEM.html, .htm, .md, .markdown or .txt, and
-/// in a language STEM.LANGUAGE.html and so on. Throws Refusal: for several of one language, for notes that cannot be
-/// read, are not UTF-8, or are over the limits with which clients show them.
+/// The notes next to an archive, those without a language first. Notes are STEM.html, .htm, .md, .markdown or .txt, and
+/// for a language STEM.LANGUAGE.html and so on. Throws Refusal for several notes of one language, and for notes that
+/// cannot be read, are not UTF-8, or exceed the limits of clients.
 std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem);
 
-/// What \a folder has besides \a archives, notes of one, and \a feedFile; folders end in "/". Hidden files are left
-/// out, those whose names cannot be decoded are not.
+/// The other names in \a folder: not \a archives, their notes or \a feedFile. Folders end in "/". Hidden files are left
+/// out; names that cannot be decoded are included.
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile);
 
-/// Those of \a names, files of \a folder, that only some users may read: a web server is another user.
+/// Those of \a names, files of \a folder, that only some users may read. A web server runs as another user.
 QStringList UnreadableForOthers(QString const& folder, QStringList const& names);
 
-/// The path of \a fileName in \a folder, as it is shown as well.
+/// The path of \a fileName in \a folder, also for messages.
 QString PathIn(QString const& folder, QString const& fileName);
 
 } // namespace Pelnar::Publisher

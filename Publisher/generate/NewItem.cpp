@@ -29,7 +29,7 @@ char const* PlatformName(Engine::FeedPlatform platform)
     return "";
 }
 
-/// What an item says of the way in which it is installed; null for a bundle, which says nothing.
+/// The item's kind of installation; null for a bundle, which has none.
 char const* InstallationType(ArchiveKind kind)
 {
     switch (kind)
@@ -61,7 +61,7 @@ QString Element(QString const& name, QString const& text)
     return u"<%1>%2</%1>"_s.arg(name, text.toHtmlEscaped());
 }
 
-/// A section that holds \a text, no matter what stands in it.
+/// A CDATA section with \a text, for any text.
 QString CharacterData(QString text)
 {
     return u"<![CDATA["_s + text.replace("]]>"_l, "]]]]><![CDATA[>"_l) + u"]]>"_s;

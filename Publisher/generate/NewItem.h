@@ -1,4 +1,4 @@
-// NewItem.h: an item that a feed is to get, and its text in the feed.
+// NewItem.h: a new item of a feed, and its text in the feed.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -35,9 +35,9 @@ struct NewItem
     QString productName;
     QString versionText;
     Core::Version version;        ///< of versionText, all four components present
-    QString displayVersion;       ///< empty when the bundle gives none
-    QString minimumSystemVersion; ///< empty when the bundle gives none
-    QStringList machines;         ///< that its program is for; empty for every one
+    QString displayVersion;       ///< empty if the bundle has none
+    QString minimumSystemVersion; ///< empty if the bundle has none
+    QStringList machines;         ///< for which its program is made; empty for every one
     std::int64_t publishedAt = 0; ///< in seconds since 1970
     std::vector<ReleaseNotes> notes;
     ArchiveSignature signature;
@@ -46,21 +46,21 @@ struct NewItem
     std::optional<NewArchive> recompressed; ///< the same bundle in a smaller archive
     std::vector<NewDelta> deltas;
 
-    /// Bytes that a client downloads without a delta.
+    /// The bytes of a download without a delta.
     std::uint64_t LeastBytes() const { return recompressed ? recompressed->signature.length : signature.length; }
 };
 
-/// Where the files of the feed's folder are published.
+/// The place where the files of the feed's folder are published.
 class DownloadAddress
 {
 public:
-    /// Of a folder. Throws Refusal unless \a prefix is the address of one that clients download from.
+    /// From a folder's address. Throws Refusal unless clients can download from \a prefix.
     static DownloadAddress UnderPrefix(QString const& prefix);
-    /// \a pattern has "{file}" in it once, and "{version}" where the item's version stands. Throws Refusal.
+    /// \a pattern contains "{file}" once, and "{version}" in the place of the item's version. Throws Refusal.
     static DownloadAddress ByPattern(QString const& pattern);
 
     QUrl Of(QString const& fileName, QString const& version) const;
-    /// Where a feed of that name lies, as far as the pattern tells: relative addresses begin there.
+    /// The address of a feed with that name, as far as the pattern says. Relative addresses are relative to it.
     QUrl OfFeed(QString const& fileName) const;
 
 private:
@@ -69,8 +69,8 @@ private:
     QString m_pattern;
 };
 
-/// The item's text, without blanks before it and after it, its lines indented below \a indentation. \a feedPrefix is
-/// bound to the feed's namespace where the item will stand.
+/// The item's text, without outer blanks. Its lines are indented below \a indentation. \a feedPrefix is bound to the
+/// feed's namespace at the item's place.
 QString ItemText(NewItem const& item, DownloadAddress const& address, QString const& feedPrefix,
                  QString const& indentation);
 

@@ -47,7 +47,7 @@ void PublishedArchives::CheckUnchanged(Published const& published)
                       RefusalCause::Content);
     }
     Progress bar(m_workplace.console.err, u"Verifying"_s);
-    bar.Show(0, 1); // the verdict comes at once
+    bar.Show(0, 1); // the verdict comes immediately
     std::vector<std::string> keys = m_workplace.publicKeys;
     keys.insert(keys.begin(), m_workplace.key.PublicKeyText().toStdString());
     std::optional<std::string> signer = SignerOf(file, item.edSignature, keys);
@@ -69,7 +69,7 @@ void PublishedArchives::CheckUnchanged(Published const& published)
 std::vector<std::string> PublishedArchives::KeysAtHand()
 {
     std::vector<std::string> keys;
-    RefusalList passedOver; // told of when the versions are asked for
+    RefusalList passedOver; // reported when the versions are asked for
     for (Published const& published : m_published)
     {
         if (std::optional<GatedVersion> const& version = BundleOf(published, passedOver))

@@ -1,4 +1,5 @@
-// PublishedArchives.h: the archives of a folder that a feed offers already: unchanged, and clients of what is new.
+// PublishedArchives.h: the archives of a folder that a feed already offers. They must be unchanged, and their clients
+// get the new items.
 // Ownership: refers to the workplace and the feed, which outlive it.
 #pragma once
 
@@ -16,11 +17,11 @@ class PublishedArchives
 public:
     PublishedArchives(Workplace const& workplace, PublishedFeed const& feed) : m_workplace(workplace), m_feed(feed) {}
 
-    /// Those of \a archives that are not in the feed. The others must be the very files that were published.
+    /// Those of \a archives that are not in the feed. The others must be the same files that were published.
     std::vector<FolderArchive> FindNew(std::vector<FolderArchive> const& archives, RefusalList& refusals);
 
-    /// Every version of the feed, with its bundle where the archive lies in the folder. Throws nothing: a bundle that
-    /// cannot be read is told of in \a refusals.
+    /// Every version of the feed, with its bundle if the archive is in the folder. Throws nothing: an unreadable bundle
+    /// is added to \a refusals.
     std::vector<GatedVersion> Versions(RefusalList& refusals);
 
 private:
@@ -38,7 +39,7 @@ private:
     PublishedFeed const& m_feed;
     std::vector<Published> m_published;                       ///< in the folder
     std::map<QString, QString> m_signerIds;                   ///< by file name
-    std::map<QString, std::optional<GatedVersion>> m_bundles; ///< by file name; those that were looked into
+    std::map<QString, std::optional<GatedVersion>> m_bundles; ///< by file name; those that were unpacked
 };
 
 } // namespace Pelnar::Publisher

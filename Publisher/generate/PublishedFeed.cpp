@@ -25,7 +25,7 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
     , m_text(QString::fromUtf8(m_bytes.constData(), m_bytes.size()))
     , m_hasMark(m_bytes.startsWith(BYTE_ORDER_MARK))
 {
-    // Read as clients read it first: what they refuse must not be added to.
+    // Read as clients do first: no item may be added to a feed that they refuse.
     for (Engine::FeedPlatform const platform : PLATFORMS)
     {
         TakeItems({platform}, address);
@@ -122,7 +122,7 @@ void PublishedFeed::FindItems()
     }
     if (m_firstItem < 0)
     {
-        // Behind the last child, before the blanks that indent the end tag.
+        // After the last child, before the blanks that indent the end tag.
         m_itemsEnd = channelEnd;
         while (m_itemsEnd > 0 && m_text.at(m_itemsEnd - 1).isSpace())
         {
@@ -161,7 +161,7 @@ QByteArray PublishedFeed::With(std::vector<Addition> const& additions) const
     }
     QString const lineEnd = m_text.contains("\r\n"_l) ? u"\r\n"_s : u"\n"_s;
     QString const between = lineEnd + Indentation();
-    std::vector<std::pair<int, QString>> pieces; // by place; those of one place in their order
+    std::vector<std::pair<int, QString>> pieces; // by place; those with the same place in their order
     for (Addition const& addition : additions)
     {
         QString text = addition.text;

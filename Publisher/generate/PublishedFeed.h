@@ -1,4 +1,4 @@
-// PublishedFeed.h: a feed as it is published, to which items are added without a change to anything else.
+// PublishedFeed.h: a published feed, to which items are added without any other change.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -18,32 +18,32 @@ struct PublishedItem
 {
     Engine::FeedItem item;
     std::set<Engine::FeedPlatform> platforms; ///< that take the item
-    Core::Version version;                    ///< all four components present; invalid when the item's cannot be read
-    int start = -1; ///< of its text, in characters; -1 for one that stands outside of the channel
+    Core::Version version; ///< all four components present; invalid if the item's version cannot be read
+    int start = -1;        ///< of its text, in characters; -1 for an item outside the channel
 };
 
-/// An item's text to add and the version that decides where.
+/// The text of a new item, and the version that decides its place.
 struct Addition
 {
     Core::Version version;
-    QString text; ///< its lines indented for the place that PublishedFeed::Indentation tells
+    QString text; ///< its lines are indented as PublishedFeed::Indentation says
 };
 
 class PublishedFeed
 {
 public:
-    /// Reads \a bytes; \a name is shown, \a address is what relative addresses resolve against. Throws Refusal: for
-    /// what clients cannot read, and for a feed that cannot be added to (not UTF-8, without a channel).
+    /// Reads \a bytes. \a name is for messages, \a address for relative addresses. Throws Refusal if clients cannot
+    /// read the feed or nothing can be added to it (not UTF-8, no channel).
     PublishedFeed(QString name, QByteArray bytes, QUrl const& address);
 
     QString const& Name() const { return m_name; }
     std::vector<PublishedItem> const& Items() const { return m_items; }
-    /// The prefix that is bound to the feed's namespace wherever an item may stand; empty when there is none.
+    /// The prefix that is bound to the feed's namespace at every place for an item; empty if there is none.
     QString const& FeedPrefix() const { return m_feedPrefix; }
     /// The blanks before the tags of items.
     QString Indentation() const;
-    /// The feed with \a additions, newest first, each before the first item that is older. Without additions the very
-    /// bytes that were read.
+    /// The feed with \a additions, newest first, each before the first older item. Without additions the same bytes
+    /// that were read.
     QByteArray With(std::vector<Addition> const& additions) const;
 
 private:
@@ -57,8 +57,8 @@ private:
     bool m_hasMark = false; ///< of the byte order, before the text
     QString m_feedPrefix;
     std::vector<PublishedItem> m_items;
-    int m_firstItem = -1; ///< where its tag begins; -1 without items
-    int m_itemsEnd = 0;   ///< behind the last item, or without items behind the channel's last child
+    int m_firstItem = -1; ///< the start of its tag; -1 without items
+    int m_itemsEnd = 0;   ///< after the last item; without items after the channel's last child
 };
 
 } // namespace Pelnar::Publisher

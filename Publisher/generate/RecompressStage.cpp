@@ -60,7 +60,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
                          u"nothing is to be done; clients take the archive"_s);
         return;
     }
-    // Clients must get the very bundle that was judged.
+    // Clients must get exactly the bundle that was judged.
     BundleTree const again = BundleTree::Unpack(made, [](std::uint64_t, std::uint64_t) {});
     if (again.Name() != bundle.Name() ||
         Engine::DigestTree(again.Descriptor()) != Engine::DigestTree(bundle.Descriptor()))

@@ -17,17 +17,17 @@ namespace Pelnar::Publisher
 class RecompressStage
 {
 public:
-    /// \a archives: everything in the folder.
+    /// \a archives: all archives in the folder.
     RecompressStage(Workplace const& workplace, std::vector<FolderArchive> const& archives)
         : m_workplace(workplace), m_archives(archives)
     {
     }
 
-    /// Gives each bundle for Linux among \a items a tar of the same bundle, packed by zstd, if that saves a tenth.
-    /// Files appear in the folder only with the feed. Throws Refusal.
+    /// Adds a tar of the same bundle, packed by zstd, to each bundle for Linux among \a items, if that saves a tenth.
+    /// The files appear in the folder only with the feed. Throws Refusal.
     void AddTo(std::vector<NewItem>& items);
 
-    /// The files that were made, which have no names yet.
+    /// The created files, which have no names yet.
     std::vector<std::unique_ptr<AtomicFile>>& Made() { return m_made; }
 
 private:

@@ -31,7 +31,7 @@ BundleTree Workplace::Unpack(QString const& fileName) const
 ArchiveSignature Workplace::Sign(QString const& fileName) const
 {
     Progress bar(console.err, u"Signing "_s + fileName);
-    bar.Show(0, 1); // the signature is made at once
+    bar.Show(0, 1); // the signature is made immediately
     return Sign(OpenInputFile(PathOf(fileName)));
 }
 

@@ -1,4 +1,4 @@
-// Workplace.h: what every step of making a feed works with: the folder, the key, the console.
+// Workplace.h: shared by all steps that make a feed: the folder, the key, the console.
 // Ownership: refers to the key and the console, which outlive it.
 #pragma once
 
@@ -16,14 +16,15 @@ struct Workplace
     QString folder;
     DownloadAddress address;
     ISigner const& key;
-    ISigner const* secondKey; ///< that signs as well; null without one
+    ISigner const* secondKey; ///< makes a second signature; null without one
     Console const& console;
 
-    /// Names of those that programs for Linux are for. Empty: this one, and any other that a version has an archive for
-    /// beside this one's: a program for another machine alone is built for it by accident.
+    /// The machines for which programs for Linux are made. Empty: this machine, and each other one for which a version
+    /// has an archive besides its archive for this machine. A program for another machine alone is probably an
+    /// accident.
     std::vector<std::string> machines;
     std::int64_t publishedAt = 0;        ///< of new items, in seconds since 1970
-    std::vector<std::string> publicKeys; ///< of keys, besides the one that signs, by which something was published
+    std::vector<std::string> publicKeys; ///< of other keys that have signed published archives
 
     QString PathOf(QString const& fileName) const { return PathIn(folder, fileName); }
     /// Of the key that signs.
@@ -33,14 +34,14 @@ struct Workplace
     BundleTree Unpack(QString const& fileName) const;
     ArchiveSignature Sign(QString const& fileName) const;
     ArchiveSignature Sign(InputFile const& archive) const;
-    /// Tells of what does not keep the feed from being made.
+    /// Prints a problem that does not prevent the feed.
     void Warn(QString const& path, QString const& what, QString const& mend) const;
-    /// The item, or the delta, of \a feed that \a fileName is the download of, at its address or, for files that were
-    /// published elsewhere, by its name; null for a file that is not published.
+    /// The item, or the delta, of \a feed whose download is \a fileName: by its address or, for files that were
+    /// published elsewhere, by its name. Null for a file that is not published.
     Engine::FeedItem const* FindPublished(PublishedFeed const& feed, QString const& fileName) const;
 };
 
-/// The version that the session sees in \a text, all four components present; invalid when it sees none.
+/// The version that the session reads in \a text, all four components present; invalid if it reads none.
 Core::Version WholeVersion(QString const& text);
 
 } // namespace Pelnar::Publisher

@@ -27,7 +27,7 @@ constexpr int MOST_OUTPUT_BYTES = 4096;
     throw Refusal({u"--signer"_s, what, mend});
 }
 
-/// The words of \a command, as a shell splits it; no command is run to make them.
+/// The words of \a command, split as a shell does; no command is run for this.
 QStringList WordsOf(QString const& command)
 {
     wordexp_t words{};
@@ -46,7 +46,7 @@ QStringList WordsOf(QString const& command)
     return texts;
 }
 
-/// Base64 of the signature that a program printed: as it is, or as bytes.
+/// Base64 of the signature that a program printed as base64 or as bytes.
 std::string SignatureIn(QByteArray const& output)
 {
     QByteArray const text =
@@ -62,7 +62,7 @@ std::string SignatureIn(QByteArray const& output)
     return text.toStdString();
 }
 
-/// What \a process prints until it ends.
+/// The output of \a process until it ends.
 QByteArray OutputOf(QProcess& process)
 {
     if (!process.waitForStarted())
@@ -122,7 +122,7 @@ std::string CommandSigner::Run(int descriptor, QString const& name) const
     QProcess process;
     process.setProgram(m_command.first());
     process.setArguments(m_command.mid(1));
-    // Opened once more: the program reads from the beginning, and no other process can put another file there.
+    // Opened again: the program reads from the beginning, and no other process can replace the file.
     process.setStandardInputFile(u"/proc/self/fd/%1"_s.arg(descriptor));
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.start(QIODevice::ReadOnly);

@@ -1,5 +1,5 @@
-// CommandSigner.h: signs by a program of the publisher's: a hardware token, a key service.
-// Thread: the main thread, which waits for the program.
+// CommandSigner.h: signs with a program of the publisher: for a hardware token or a key service. Thread: the main
+// thread, which waits for the program.
 #pragma once
 
 #include "Publisher/keys/Signer.h"
@@ -9,12 +9,12 @@
 namespace Pelnar::Publisher
 {
 
-/// The program is started once for each signature; its line is split as a shell does it. What it says on standard error
-/// is shown. Every signature is verified at once.
+/// Starts the program once for each signature, with a command line that is split as a shell does. Its standard error is
+/// shown. Every signature is verified immediately.
 class CommandSigner final : public ISigner
 {
 public:
-    /// Throws Refusal: for a command without a program, and for a text that is no key.
+    /// Throws Refusal for a command without a program, and for a text that is not a key.
     CommandSigner(QString const& command, std::string publicKey);
 
     QString PublicKeyText() const override;
@@ -22,7 +22,7 @@ public:
     std::string SignatureOf(QByteArray const& message) const override;
 
 private:
-    /// The signature of the file behind \a descriptor, which \a name is.
+    /// The signature of the file behind \a descriptor, whose name is \a name.
     std::string Run(int descriptor, QString const& name) const;
 
     QStringList m_command;

@@ -1,4 +1,4 @@
-// KeyId.h: the short name of a public key, by which a feed says who signed and whom a version trusts. See
+// KeyId.h: the short name of a public key. A feed uses it to say who signed, and whom a version trusts. See
 // docs/formats/item-keys.md.
 #pragma once
 
@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// Engine::KeyIdOf as the publisher's texts have it.
+/// Engine::KeyIdOf for the publisher's strings.
 QString KeyIdOf(std::string const& publicKey);
 
 } // namespace Pelnar::Publisher

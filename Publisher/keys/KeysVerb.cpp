@@ -1,4 +1,4 @@
-// KeysVerb.cpp: "keys": makes, shows and exports the key with which archives are signed.
+// KeysVerb.cpp: "keys": makes, shows and exports the key that signs archives.
 
 #include "Publisher/Refusal.h"
 #include "Publisher/keys/SigningKey.h"
@@ -34,7 +34,7 @@ QString EntryOf(QString const& publicKey, PublicKeyForm form)
     return publicKey;
 }
 
-/// Adds the option that says how the public key is printed.
+/// Adds the option for the form of the public key.
 void AddFormOption(CLI::App& verb, PublicKeyForm& form)
 {
     static std::map<std::string, PublicKeyForm> const FORMS = {

@@ -1,4 +1,4 @@
-// RotateVerb.cpp: "keys rotate": how far a feed is in the change from one signing key to another, and what comes next.
+// RotateVerb.cpp: "keys rotate": the progress of a feed from one signing key to another, and the next step.
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
@@ -19,14 +19,14 @@ struct Options
     std::string platform = OwnPlatformName().toStdString();
 };
 
-/// The versions of a feed by what they have to do with the two keys, in the order of the feed.
+/// The versions of a feed by their relation to the two keys, in the order of the feed.
 struct RotationState
 {
     QStringList bridges;    ///< signed by the old key, trust both
     QStringList byNewKey;   ///< signed by the new key
     QStringList onlyOld;    ///< trust the old key and not the new one
     QStringList withoutOld; ///< trust the new key and not the old one
-    QStringList unknown;    ///< of which the feed does not say what they trust
+    QStringList unknown;    ///< the feed does not say what they trust
     bool isFeedSigned = false;
     bool isFeedByNewKey = false;
 };

@@ -1,5 +1,4 @@
-// SignVerbs.cpp: "sign" and "verify": the signature of an archive, made, and judged by the code that clients judge
-// with.
+// SignVerbs.cpp: "sign" and "verify": makes the signature of an archive, and verifies one with the code of clients.
 
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Publisher/Progress.h"
@@ -14,7 +13,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// Whether it is the archive that is wrong, or what it was to be judged by.
+/// Whether the fault is in the archive, or in the key or signature.
 bool IsVerdict(Engine::UpdateFault fault)
 {
     return fault == Engine::UpdateFault::SignatureMismatch || fault == Engine::UpdateFault::ArchiveEmpty;
@@ -31,7 +30,7 @@ ExitStatus Sign(SignOptions const& options, Console const& console)
     InputFile const archive = OpenInputFile(QString::fromStdString(options.archive));
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     Progress bar(console.err, u"Signing"_s);
-    bar.Show(0, 1); // the signature is made at once
+    bar.Show(0, 1); // the signature is made immediately
     console.Print(AttributesOf(signer->Sign(archive)));
     return ExitStatus::Clean;
 }

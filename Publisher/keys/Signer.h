@@ -1,5 +1,5 @@
-// Signer.h: what signs archives and feeds: a private key at hand, or a program of the publisher's that has one.
-// Ownership: a signer is its caller's.
+// Signer.h: signs archives and feeds: with a private key, or with a program of the publisher that has one. Ownership:
+// the caller owns a signer.
 #pragma once
 
 #include "Engine/core/bundle/TrustedKeys.h"
@@ -16,7 +16,7 @@
 namespace Pelnar::Publisher
 {
 
-/// A signature beside the one that every client reads.
+/// A signature in addition to the one that every client reads.
 struct KeyedSignature
 {
     QString keyId;
@@ -27,7 +27,7 @@ struct ArchiveSignature
 {
     QString signature; ///< base64
     quint64 length = 0;
-    std::vector<KeyedSignature> all = {}; ///< of every key that signed, when more than one did
+    std::vector<KeyedSignature> all = {}; ///< of every key that signed, if there are several
 };
 
 /// The attributes for the archive's enclosure in a feed.
@@ -43,17 +43,17 @@ public:
 
     /// Base64 of 32 bytes.
     [[nodiscard]] virtual QString PublicKeyText() const = 0;
-    /// Throws Refusal: for an archive that is empty or longer than a feed may promise, and when the check that clients
-    /// make does not accept the signature.
+    /// Throws Refusal if the archive is empty or longer than a feed allows, and if the check of clients does not accept
+    /// the signature.
     [[nodiscard]] virtual ArchiveSignature Sign(InputFile const& archive) const = 0;
     /// Base64 of the signature of \a message. Throws Refusal.
     [[nodiscard]] virtual std::string SignatureOf(QByteArray const& message) const = 0;
 };
 
-/// Throws Refusal for an archive that no feed may promise.
+/// Throws Refusal for an archive that no feed may offer.
 void CheckArchiveSize(InputFile const& archive);
 
-/// How a command line names what signs.
+/// The signer that a command line names.
 struct SignerOptions
 {
     char const* keyOption = "--key";

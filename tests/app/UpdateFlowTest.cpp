@@ -255,6 +255,17 @@ TEST_F(UpdateFlow, EachAnnouncementBeforeTheDeletionIsFollowed)
     EXPECT_EQ(Current(), nullptr) << "scheduling the deletion twice is harmless";
 }
 
+TEST_F(UpdateFlow, EachResultOfAMajorUpdateWaitsForTheNagOnItsOwn)
+{
+    WaitForNag(AUTOMATIC);
+    Report(MAJOR);
+    journal.clear();
+    Announce("major_update", true);
+    EXPECT_EQ(journal, (Journal{"show major_update", "show major_update"}));
+    Turn();
+    EXPECT_EQ(Current(), nullptr);
+}
+
 TEST_F(UpdateFlow, AnnouncementAfterTheManagerIsGoneDoesNothing)
 {
     WaitForNag(AUTOMATIC);

@@ -41,6 +41,21 @@ void CheckPolicies(LintElement const& item, LintFindings& findings)
     }
 }
 
+/// An empty variable of a publisher's script.
+void CheckEmptyPolicies(LintElement const& item, LintFindings& findings)
+{
+    for (LintElement const& child : item.children)
+    {
+        bool const isBound = child.name.IsFeeds("channel") || child.name.IsFeeds("hardwareRequirements") ||
+                             child.name.IsFeeds("minimumUpdateVersion");
+        if (isBound && child.text.trimmed().isEmpty())
+        {
+            findings.Add(LintRule::PolicyUnreadable, child.place,
+                         u"<%1> is empty, so everybody gets the item"_s.arg(child.name.qualified));
+        }
+    }
+}
+
 bool IsVersion(QString const& text)
 {
     return text.isEmpty() || VersionFromStringNoexcept(text).IsValid();
@@ -56,6 +71,7 @@ bool IsMachine(QString const& name)
 /// What \a item says of the installations that it is meant for, as far as it can be read from single values.
 void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
 {
+    CheckEmptyPolicies(*lintItem.full.element, findings);
     Engine::FeedItem const& item = *lintItem.full.item;
     Engine::ItemPolicy const& policy = item.policy;
     LintPlace const place = lintItem.full.element->place;

@@ -45,7 +45,9 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
     }
     if (!terms.serial && published == std::numeric_limits<qint64>::max())
     {
-        throw Refusal({name, u"has the greatest serial that there is"_s, u"publish a feed at another address"_s});
+        throw Refusal(
+            {name, u"has the greatest serial that there is"_s,
+             u"clients accept another feed only once a key statement revokes the key that signed this one"_s});
     }
     // A serial without the option is the time. A clock that was set back makes an expiry that has passed.
     constexpr qint64 A_DAY = 86400;

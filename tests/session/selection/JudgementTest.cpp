@@ -87,6 +87,7 @@ std::vector<JudgementRow> const JUDGEMENT_ROWS = {
          item.version = Text("5.0");
          item.address = QString();
      }},
+    {"RelativeAddress", Judgement::VALID, [](PlainItem& item, PlainSubject&) { item.address = Text("App.zip"); }},
     {"NoAddress", Judgement::URL_INVALID, [](PlainItem& item, PlainSubject&) { item.address = QString(); }},
     {"InvalidAddress", Judgement::URL_INVALID,
      [](PlainItem& item, PlainSubject&) { item.address = Text("https://a.example:port/x"); }},

@@ -102,6 +102,11 @@ std::vector<PreferenceRow> const PREFERENCE_ROWS = {
      {"5.1", OTHER_BUNDLE, false, LATER_FEED_DATE, 2},
      'a',
      PreferenceRule::SMALLER_LENGTH},
+    {"AddressesThatDifferInTheQueryByLength",
+     {"5.1", "https://a.example/get?v=1"},
+     {"5.1", "https://a.example/get?v=2", false, FEED_DATE, 1},
+     'b',
+     PreferenceRule::SMALLER_LENGTH},
     {"SmallerSecond", {}, {"5.1", OTHER_BUNDLE, false, FEED_DATE, 999}, 'b', PreferenceRule::SMALLER_LENGTH},
     {"SmallerFirst", {}, {"5.1", OTHER_BUNDLE, false, FEED_DATE, 1001}, 'a', PreferenceRule::SMALLER_LENGTH},
     {"EqualLengthsKeepTheFirst", {}, {"5.1", OTHER_BUNDLE}, 'a', PreferenceRule::SMALLER_LENGTH},
@@ -184,6 +189,27 @@ TEST(Preference, MissingOrderThrows)
     ItemRecord a(item);
     ItemRecord b(item);
     EXPECT_THROW((void)PreferByVersionAndType(a, b, subject.View()), std::bad_function_call);
+}
+
+TEST(DeltaStart, IsAVersionThatEqualsTheLocalOne)
+{
+    PlainSubject subject;
+    for (char const* start : {"5", "5.0", "05.0.0.0"})
+    {
+        EXPECT_TRUE(StartsFromRunningVersion(Text(start), subject.View())) << start;
+    }
+    for (char const* start : {"5.1", "4.9", "", "five"})
+    {
+        EXPECT_FALSE(StartsFromRunningVersion(Text(start), subject.View())) << start;
+    }
+}
+
+TEST(DeltaStart, ThatDoesNotParseIsNotCompared)
+{
+    PlainSubject subject;
+    subject.versionEqual = [](Version const&, Version const&) { return true; };
+    EXPECT_FALSE(StartsFromRunningVersion(Text("five"), subject.View()));
+    EXPECT_TRUE(StartsFromRunningVersion(Text("4"), subject.View()));
 }
 
 } // namespace

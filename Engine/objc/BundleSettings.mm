@@ -240,6 +240,13 @@ BackOffState ReadBackOff()
     return state;
 }
 
+/// A root key that is there protects: an empty one, and one that is no text, counts as damaged.
+std::string ReadRootKey()
+{
+    std::string const text = SettingText(Setting::RootPublicKey).toStdString();
+    return text.empty() && SettingObject(Setting::RootPublicKey) ? "damaged" : text;
+}
+
 } // namespace
 
 UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
@@ -248,7 +255,7 @@ UpdateSettings ReadUpdateSettings(QUrl const& feedUrl)
     settings.check = ReadCheckSettings(feedUrl);
     settings.bundle = ReadRunningBundle();
     settings.check.publicKeys = settings.bundle.publicKeys;
-    settings.check.rootPublicKey = SettingText(Setting::RootPublicKey).toStdString();
+    settings.check.rootPublicKey = ReadRootKey();
     settings.check.bundleIdentifier = settings.bundle.identifier.toStdString();
     settings.automaticDownload = ReadAutomaticDownload();
     // Either place can disable updates: a user default must not undo an administrator's decision.

@@ -33,6 +33,22 @@ std::ostream& operator<<(std::ostream& out, Entry const& row)
 class SignedFeedKey : public testing::TestWithParam<Entry>
 {
 protected:
+    /// What a background check says in a bundle with \a entry.
+    std::string EventsWith(std::string const& entry)
+    {
+        std::string const bundle = folder.Path() + "/Host.app";
+        std::filesystem::create_directories(bundle + "/Resources");
+        std::filesystem::copy_file(PELNAR_START_HOST, bundle + "/Host");
+        WriteFile(bundle + "/Resources/Info-gnustep.plist",
+                  "{ CFBundleVersion = \"1.0\"; NSExecutable = Host; " + entry + " }");
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QString::fromStdString(bundle + "/Host"),
+                      {server.Url().toString(), QStringLiteral("background")});
+        EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
+        return process.readAllStandardOutput().toStdString();
+    }
+
     TestApplication<> application;
     Workspace folder;
     LoopbackServer server{Answering(OkAnswer(FeedWith(ItemOf("2.0"))))};
@@ -55,18 +71,24 @@ INSTANTIATE_TEST_SUITE_P(Entries, SignedFeedKey,
 
 TEST_P(SignedFeedKey, AsksForASignatureUnlessItIsAPlainNo)
 {
-    std::string const bundle = folder.Path() + "/Host.app";
-    std::filesystem::create_directories(bundle + "/Resources");
-    std::filesystem::copy_file(PELNAR_START_HOST, bundle + "/Host");
-    WriteFile(bundle + "/Resources/Info-gnustep.plist",
-              std::string("{ CFBundleVersion = \"1.0\"; NSExecutable = Host; ") + GetParam().text + " }");
-    QProcess process;
-    process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QString::fromStdString(bundle + "/Host"), {server.Url().toString(), QStringLiteral("background")});
-    ASSERT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
-    std::string const events = process.readAllStandardOutput().toStdString();
-    // Without a signing key a found update ends with the same code.
-    EXPECT_EQ(events, GetParam().requiresSignature ? "aborted 3001;" : "asked;found 2.0;aborted 3001;");
+    // Without a signing key a found update ends with the code of signatures as well.
+    EXPECT_EQ(EventsWith(GetParam().text),
+              GetParam().requiresSignature ? "aborted 3001;" : "asked;found 2.0;aborted 3001;");
+}
+
+class UnusableRootKey : public SignedFeedKey
+{
+};
+
+INSTANTIATE_TEST_SUITE_P(Entries, UnusableRootKey,
+                         testing::Values(Entry{"Empty", "PelnarRootPublicEDKey = \"\";", true},
+                                         Entry{"List", "PelnarRootPublicEDKey = (a);", true},
+                                         Entry{"NoKey", "PelnarRootPublicEDKey = a;", true}),
+                         [](auto const& row) { return std::string(row.param.name); });
+
+TEST_P(UnusableRootKey, IsNoAbsentOne)
+{
+    EXPECT_EQ(EventsWith(GetParam().text), "aborted 3002;");
 }
 
 } // namespace

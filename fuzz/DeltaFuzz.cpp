@@ -88,12 +88,12 @@ void CheckPatch(Bytes bytes)
 {
     ByteBuffer const oldBytes(1000, 7);
     std::uint64_t made = 0;
-    PatchVerdict const verdict = ApplyBinaryPatch(View(oldBytes), SourcesOf(bytes), NEW_BYTES,
-                                                  [&made](Bytes piece)
-                                                  {
-                                                      made += piece.size();
-                                                      return true;
-                                                  });
+    PatchVerdict const verdict = Pelnar::Testing::ApplyBinaryPatch(View(oldBytes), SourcesOf(bytes), NEW_BYTES,
+                                                                   [&made](Bytes piece)
+                                                                   {
+                                                                       made += piece.size();
+                                                                       return true;
+                                                                   });
     Require(made <= NEW_BYTES && (verdict != PatchVerdict::Applied || made == NEW_BYTES));
 }
 

@@ -6,6 +6,8 @@
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 #include <iterator>
 
@@ -186,16 +188,17 @@ Engine::Machine ArchiveIntake::MachineFor(GatedVersion const& version) const
 }
 
 void ArchiveIntake::JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
-                               Engine::Machine const& machine, RefusalList& refusals)
+                               Engine::Machine const& machine, RefusalList& refusals) const
 {
-    BundleTree const bundle = BundleTree::Unpack(OpenInputFile(version.path), [](std::uint64_t, std::uint64_t) {});
-    CheckBundleForClients(bundle, version, clients, machine, refusals);
+    std::shared_ptr<BundleTree const> const bundle = m_workplace.Unpack(QFileInfo(version.path).fileName());
+    CheckBundleForClients(*bundle, version, clients, machine, refusals);
 }
 
 NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& refusals)
 {
     QString const path = m_workplace.PathOf(archive.fileName);
-    BundleTree const bundle = m_workplace.Unpack(archive.fileName);
+    std::shared_ptr<BundleTree const> const unpacked = m_workplace.Unpack(archive.fileName);
+    BundleTree const& bundle = *unpacked;
     Engine::BundleInformation const& information = bundle.Information();
     CheckPurpose(information, Engine::BundlePurpose::Application, path);
     CheckProduct(information, path);
@@ -294,7 +297,8 @@ NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive, RefusalList& 
 void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals)
 {
     QString const path = m_workplace.PathOf(archive.fileName);
-    BundleTree const bundle = m_workplace.Unpack(archive.fileName);
+    std::shared_ptr<BundleTree const> const unpacked = m_workplace.Unpack(archive.fileName);
+    BundleTree const& bundle = *unpacked;
     Engine::BundleInformation const& information = bundle.Information();
     if (bundle.Platform() != Engine::FeedPlatform::Linux)
     {

@@ -33,9 +33,8 @@ private:
     void CheckClash(NewItem const& item) const;
     void CheckMachines(RefusalList& refusals);
     void CheckAmongEachOther(RefusalList& refusals);
-    /// Unpacks the archive of \a version again.
-    static void JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
-                           Engine::Machine const& machine, RefusalList& refusals);
+    void JudgeAgain(GatedVersion const& version, std::vector<GatedVersion> const& clients,
+                    Engine::Machine const& machine, RefusalList& refusals) const;
     [[nodiscard]] bool IsNew(GatedVersion const& version) const;
     Engine::Machine MainMachine() const;
     Engine::Machine MachineFor(GatedVersion const& version) const;

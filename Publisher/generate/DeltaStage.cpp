@@ -5,8 +5,6 @@
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/generate/RecompressStage.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <iterator>
 
@@ -14,12 +12,6 @@ namespace Pelnar::Publisher
 {
 namespace
 {
-
-bool IsBundleForLinux(NewItem const& item)
-{
-    // The container is this engine's own: clients on other systems cannot read it.
-    return item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
-}
 
 bool HasDeltaFrom(NewItem const& item, QString const& baseVersion)
 {
@@ -172,7 +164,10 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
     QString const path = m_workplace.PathOf(fileName);
     AsContent(
         [&]
-        { ProveDelta(OpenInputFile(path), m_workplace.Unpack(base.fileName), TreeOf(item), m_workplace.console.err); });
+        {
+            ProveDelta(OpenInputFile(path), *m_workplace.Unpack(base.fileName), *m_workplace.Unpack(item.fileName),
+                       m_workplace.console.err);
+        });
     if (HasDeltaFrom(item, base.versionText))
     {
         throw Refusal({path, u"is a second delta from %1 to %2"_s.arg(base.versionText, item.versionText),
@@ -186,16 +181,6 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
         return;
     }
     item.deltas.push_back({fileName, base.versionText, signature});
-}
-
-BundleTree const& DeltaStage::TreeOf(NewItem const& item)
-{
-    if (m_treeName != item.fileName)
-    {
-        m_tree.emplace(m_workplace.Unpack(item.fileName));
-        m_treeName = item.fileName;
-    }
-    return *m_tree;
 }
 
 QString DeltaStage::DeltaName(NewItem const& item, Base const& base) const
@@ -217,22 +202,18 @@ QString DeltaStage::DeltaName(NewItem const& item, Base const& base) const
 void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effort)
 {
     QString const fileName = DeltaName(item, base);
-    BundleTree const before = m_workplace.Unpack(base.fileName);
-    if (WholeVersion(QString::fromStdString(before.Information().version)) != base.version)
+    std::shared_ptr<BundleTree const> const before = m_workplace.Unpack(base.fileName);
+    QString const inside = QString::fromStdString(before->Information().version);
+    if (WholeVersion(inside) != base.version)
     {
         throw Refusal({m_workplace.PathOf(base.fileName),
-                       u"holds version %1, but is published as %2"_s.arg(
-                           QString::fromStdString(before.Information().version), base.versionText),
+                       u"holds version %1, but is published as %2"_s.arg(inside, base.versionText),
                        u"put the published archive back"_s},
                       RefusalCause::Content);
     }
     QString const path = m_workplace.PathOf(fileName);
-    if (QFileInfo::exists(path))
-    {
-        throw Refusal({path, u"is there already"_s, u"remove it"_s});
-    }
-    auto file = std::make_unique<AtomicFile>(path);
-    MakeDelta(before, TreeOf(item), *file, path, {m_workplace.console.err, effort});
+    std::unique_ptr<AtomicFile> file = m_workplace.MakeFile(fileName);
+    MakeDelta(*before, *m_workplace.Unpack(item.fileName), *file, path, {m_workplace.console.err, effort});
     InputFile const made = file->ForReading();
     if (!SavesEnough(made.size, item.LeastBytes()))
     {

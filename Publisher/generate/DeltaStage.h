@@ -8,7 +8,6 @@
 #include "Publisher/generate/Workplace.h"
 
 #include <memory>
-#include <optional>
 
 namespace Pelnar::Publisher
 {
@@ -58,16 +57,12 @@ private:
     [[nodiscard]] bool IsNewest(NewItem const& item, std::vector<NewItem> const& items) const;
     /// The name of the delta to \a item. It contains the machine if the same version has a bundle for another one.
     QString DeltaName(NewItem const& item, Base const& base) const;
-    BundleTree const& TreeOf(NewItem const& item);
     void Make(NewItem& item, Base const& base, Engine::DeltaEffort effort);
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;
     std::vector<FolderArchive> const& m_archives;
     std::vector<Base> m_bases; ///< newest first
-    // The bundle that was unpacked last: all deltas to it are made one after the other.
-    QString m_treeName;
-    std::optional<BundleTree> m_tree;
     std::vector<std::unique_ptr<AtomicFile>> m_made;
 };
 

@@ -50,6 +50,12 @@ struct NewItem
     std::uint64_t LeastBytes() const { return recompressed ? recompressed->signature.length : signature.length; }
 };
 
+/// Only these clients read deltas and archives packed by zstd.
+inline bool IsBundleForLinux(NewItem const& item)
+{
+    return item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
+}
+
 /// The place where the files of the feed's folder are published.
 class DownloadAddress
 {

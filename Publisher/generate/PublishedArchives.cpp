@@ -96,7 +96,7 @@ std::optional<GatedVersion> const& PublishedArchives::BundleOf(Published const& 
             [&]
             {
                 version =
-                    VersionOf(m_workplace.Unpack(name), m_workplace.PathOf(name), Engine::PayloadKind::WholeBundle);
+                    VersionOf(*m_workplace.Unpack(name), m_workplace.PathOf(name), Engine::PayloadKind::WholeBundle);
                 BelieveStatement(*version, m_feed.With({}));
             });
         if (!isRead)
@@ -116,13 +116,15 @@ std::vector<GatedVersion> PublishedArchives::Versions(RefusalList& refusals)
         for (Engine::FeedPlatform const platform : published.platforms)
         {
             GatedVersion version = VersionOf(published.item, platform, m_feed.Name());
-            auto const atHand =
-                std::find_if(m_published.begin(), m_published.end(),
-                             [&](Published const& each)
-                             {
-                                 auto const& more = published.item.recompressed;
-                                 return each.item == &published.item || (!more.empty() && each.item == &more.front());
-                             });
+            // Deltas start from the item's own archive, so that is unpacked anyway.
+            auto const find = [&](Engine::FeedItem const* wanted)
+            {
+                return std::find_if(m_published.begin(), m_published.end(),
+                                    [wanted](Published const& each) { return each.item == wanted; });
+            };
+            auto const& more = published.item.recompressed;
+            auto atHand = find(&published.item);
+            atHand = atHand == m_published.end() && !more.empty() ? find(&more.front()) : atHand;
             if (atHand != m_published.end())
             {
                 QString const plainId = m_signerIds[atHand->archive.fileName];

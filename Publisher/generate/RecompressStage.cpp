@@ -6,8 +6,6 @@
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/late/LatePart.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 
 namespace Pelnar::Publisher
@@ -31,8 +29,7 @@ void RecompressStage::AddTo(std::vector<NewItem>& items)
         auto const archive =
             std::find_if(m_archives.begin(), m_archives.end(),
                          [&item](FolderArchive const& each) { return each.fileName == item.fileName; });
-        bool const isBundleForLinux = item.kind == ArchiveKind::Bundle && item.platform == Engine::FeedPlatform::Linux;
-        if (isBundleForLinux && archive != m_archives.end() && !item.fileName.endsWith(QLatin1String(ENDING)))
+        if (IsBundleForLinux(item) && archive != m_archives.end() && !item.fileName.endsWith(QLatin1String(ENDING)))
         {
             Pack(item, archive->stem);
         }
@@ -43,12 +40,9 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
 {
     QString const fileName = stem + QLatin1String(ENDING);
     QString const path = m_workplace.PathOf(fileName);
-    if (QFileInfo::exists(path))
-    {
-        throw Refusal({path, u"is there already"_s, u"remove it"_s});
-    }
-    BundleTree const bundle = m_workplace.Unpack(item.fileName);
-    auto file = std::make_unique<AtomicFile>(path);
+    std::unique_ptr<AtomicFile> file = m_workplace.MakeFile(fileName);
+    std::shared_ptr<BundleTree const> const unpacked = m_workplace.Unpack(item.fileName);
+    BundleTree const& bundle = *unpacked;
     {
         Progress bar(m_workplace.console.err, u"Packing "_s + fileName);
         LoadLatePart().writeZstdTar(bundle, item.publishedAt, file->Descriptor(), path, BarFor(bar));

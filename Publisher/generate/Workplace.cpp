@@ -2,8 +2,11 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Progress.h"
+#include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/keys/KeyId.h"
+
+#include <QFileInfo>
 
 #include <algorithm>
 #include <iterator>
@@ -14,6 +17,9 @@ namespace Pelnar::Publisher
 namespace
 {
 
+/// A new version, and as many before it as get a delta to it by default, with one more.
+constexpr std::size_t MOST_UNPACKED = 5;
+
 bool IsSameFile(QUrl const& a, QUrl const& b)
 {
     return a.scheme() == b.scheme() && a.host() == b.host() && a.port() == b.port() &&
@@ -22,10 +28,29 @@ bool IsSameFile(QUrl const& a, QUrl const& b)
 
 } // namespace
 
-BundleTree Workplace::Unpack(QString const& fileName) const
+std::shared_ptr<BundleTree const> Workplace::Unpack(QString const& fileName) const
 {
+    auto const known =
+        std::find_if(unpacked.begin(), unpacked.end(), [&](auto const& each) { return each.first == fileName; });
+    if (known != unpacked.end())
+    {
+        std::rotate(unpacked.begin(), known, known + 1);
+        return unpacked.front().second;
+    }
     Progress bar(console.err, u"Unpacking "_s + fileName);
-    return BundleTree::Unpack(OpenInputFile(PathOf(fileName)), BarFor(bar));
+    unpacked.emplace_front(
+        fileName, std::make_shared<BundleTree const>(BundleTree::Unpack(OpenInputFile(PathOf(fileName)), BarFor(bar))));
+    unpacked.resize(std::min(unpacked.size(), MOST_UNPACKED));
+    return unpacked.front().second;
+}
+
+std::unique_ptr<AtomicFile> Workplace::MakeFile(QString const& fileName) const
+{
+    if (QFileInfo::exists(PathOf(fileName)))
+    {
+        throw Refusal({PathOf(fileName), u"is there already"_s, u"remove it"_s});
+    }
+    return std::make_unique<AtomicFile>(PathOf(fileName));
 }
 
 ArchiveSignature Workplace::Sign(QString const& fileName) const

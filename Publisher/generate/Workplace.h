@@ -3,10 +3,15 @@
 #pragma once
 
 #include "Publisher/Console.h"
+#include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/generate/FolderScan.h"
 #include "Publisher/generate/NewItem.h"
 #include "Publisher/generate/PublishedFeed.h"
+
+#include <deque>
+#include <memory>
+#include <utility>
 
 namespace Pelnar::Publisher
 {
@@ -31,7 +36,10 @@ struct Workplace
     QString KeyId() const;
     /// Of every key that signs.
     QStringList KeyIds() const;
-    BundleTree Unpack(QString const& fileName) const;
+    /// The bundle in an archive of the folder. The last few stay unpacked: several steps need the same ones.
+    std::shared_ptr<BundleTree const> Unpack(QString const& fileName) const;
+    /// A file that gets the name \a fileName later. Throws Refusal if there is one.
+    std::unique_ptr<AtomicFile> MakeFile(QString const& fileName) const;
     ArchiveSignature Sign(QString const& fileName) const;
     ArchiveSignature Sign(InputFile const& archive) const;
     /// Prints a problem that does not prevent the feed.
@@ -39,6 +47,8 @@ struct Workplace
     /// The item, or the delta, of \a feed whose download is \a fileName: by its address or, for files that were
     /// published elsewhere, by its name. Null for a file that is not published.
     Engine::FeedItem const* FindPublished(PublishedFeed const& feed, QString const& fileName) const;
+
+    mutable std::deque<std::pair<QString, std::shared_ptr<BundleTree const>>> unpacked = {}; ///< the newest first
 };
 
 /// The version that the session reads in \a text, all four components present; invalid if it reads none.

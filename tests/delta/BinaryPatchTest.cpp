@@ -12,6 +12,7 @@ namespace
 {
 
 using namespace Pelnar::Engine;
+using Pelnar::Testing::ApplyBinaryPatch;
 using Pelnar::Testing::MakeBinaryPatch;
 
 ByteBuffer FromText(char const* text)

@@ -3,6 +3,7 @@
 #include "Engine/core/delta/BundleReader.h"
 #include "Engine/core/delta/DeltaContainerWriter.h"
 #include "Engine/core/delta/ManifestBytes.h"
+#include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/PatchWriter.h"
 #include "Engine/core/delta/StepFinder.h"
 
@@ -92,6 +93,14 @@ std::optional<BinaryPatch> MakeBinaryPatch(Bytes oldBytes, Bytes newBytes)
     std::uint64_t position = 0;
     writer.Add(old, FindSteps(index, newBytes, position), newBytes);
     return writer.Finish();
+}
+
+PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)
+{
+    PlainText old({oldBytes});
+    PatchApplier applier(sources);
+    PatchVerdict const verdict = applier.Make(old, newSize, sink);
+    return verdict == PatchVerdict::Applied && !applier.IsUsedUp() ? PatchVerdict::WrongSize : verdict;
 }
 
 ByteBuffer EncodeManifest(DeltaManifest const& manifest)

@@ -13,6 +13,10 @@ namespace Pelnar::Testing
 /// The patch that turns \a oldBytes into \a newBytes; nothing if the old bytes are too many for an index.
 std::optional<Engine::BinaryPatch> MakeBinaryPatch(Engine::Bytes oldBytes, Engine::Bytes newBytes);
 
+/// Makes the \a newSize bytes of the new file from the five streams alone.
+Engine::PatchVerdict ApplyBinaryPatch(Engine::Bytes oldBytes, Engine::PatchSources const& sources,
+                                      std::uint64_t newSize, Engine::ByteSink const& sink);
+
 /// The bytes of \a manifest in its format.
 Engine::ByteBuffer EncodeManifest(Engine::DeltaManifest const& manifest);
 /// The header and the compressed manifest of a container in the format of \a manifest.

@@ -48,6 +48,21 @@ std::uint32_t BaseRegister(std::uint32_t word)
     return word >> 5 & 31;
 }
 
+/// How a table of words of eight bytes is made.
+struct WordRecord
+{
+    unsigned words;     ///< of a record
+    unsigned addresses; ///< a bit for each word of a record that may be an address
+};
+
+WordRecord WordRecordOf(RegionKind kind)
+{
+    return kind == RegionKind::Dynamic       ? WordRecord{2, 0b10}
+           : kind == RegionKind::Relocations ? WordRecord{3, 0b101}
+           : kind == RegionKind::Symbols     ? WordRecord{3, 0b010}
+                                             : WordRecord{1, 1};
+}
+
 using SixteenBytes = std::uint8_t __attribute__((vector_size(16)));
 
 SixteenBytes Load(std::uint8_t const* bytes)
@@ -141,9 +156,8 @@ bool FieldScanner::NextInRegion(AddressField& field)
     case RegionKind::Words:
     case RegionKind::Dynamic:
     case RegionKind::Relocations:
-        return NextWord(field);
     case RegionKind::Symbols:
-        return NextSymbol(field);
+        return NextWord(field);
     case RegionKind::Offsets:
         return NextOffset(field);
     case RegionKind::Frames:
@@ -254,20 +268,23 @@ bool FieldScanner::FindPageBefore(std::size_t position, std::uint32_t reg, std::
 bool FieldScanner::NextWord(AddressField& field)
 {
     ImageRegion const& region = m_layout.regions[m_region];
-    field.form = FieldForm::Word64;
-    for (; m_position + 8 <= m_regionEnd; m_position += 8)
+    WordRecord const record = WordRecordOf(region.kind);
+    bool const hasNames = region.kind == RegionKind::Symbols && region.base != 0;
+    field.base = region.base;
+    for (; m_position + 4 <= m_regionEnd; m_position += 8)
     {
         std::size_t const word = (m_position - region.begin + 7) / 8;
+        bool const isName = hasNames && word % record.words == 0;
+        bool const isAddress = (record.addresses >> word % record.words & 1) != 0;
         field.position = region.begin + word * 8;
-        bool const isAddress = region.kind == RegionKind::Words ||
-                               (region.kind == RegionKind::Dynamic && word % 2 == 1) ||
-                               (region.kind == RegionKind::Relocations && word % 3 != 1);
-        if (!isAddress || field.position + 8 > m_regionEnd)
+        field.form = isName ? FieldForm::FromBase32 : FieldForm::Word64;
+        if (!(isName || isAddress) || field.position + field.Width() > m_regionEnd)
         {
             continue;
         }
-        field.target = Word64(field.position);
-        if (field.target != 0 && m_layout.IsInImage(field.target))
+        std::uint64_t const value = isName ? Word32(field.position) : Word64(field.position);
+        field.target = isName ? region.base + value : value;
+        if (value != 0 && m_layout.IsInImage(field.target))
         {
             m_position = field.position + 8;
             return true;
@@ -289,31 +306,6 @@ bool FieldScanner::NextOffset(AddressField& field)
         m_position += 4;
         if (m_layout.IsInImage(field.target))
         {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool FieldScanner::NextSymbol(AddressField& field)
-{
-    ImageRegion const& region = m_layout.regions[m_region];
-    for (; m_position + 4 <= m_regionEnd; m_position += 8)
-    {
-        std::size_t const word = (m_position - region.begin + 7) / 8;
-        field.position = region.begin + word * 8;
-        bool const isName = word % 3 == 0 && region.base != 0;
-        field.form = isName ? FieldForm::FromBase32 : FieldForm::Word64;
-        if (word % 3 == 2 || field.position + field.Width() > m_regionEnd)
-        {
-            continue;
-        }
-        std::uint64_t const value = isName ? Word32(field.position) : Word64(field.position);
-        field.base = region.base;
-        field.target = isName ? region.base + value : value;
-        if ((isName || word % 3 == 1) && value != 0 && m_layout.IsInImage(field.target))
-        {
-            m_position = field.position + 8;
             return true;
         }
     }

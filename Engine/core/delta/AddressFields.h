@@ -62,7 +62,6 @@ private:
     bool NextInArm64Code(AddressField& field);
     bool NextWord(AddressField& field);
     bool NextOffset(AddressField& field);
-    bool NextSymbol(AddressField& field);
     bool NextFrame(AddressField& field);
     bool IsArm64Field(AddressField& field) const;
     bool FindPagePartner(std::size_t position, std::uint32_t reg, std::uint64_t& target) const;

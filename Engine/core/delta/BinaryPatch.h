@@ -91,9 +91,4 @@ enum class PatchVerdict
     SinkRefused,  ///< the new bytes could not be written
 };
 
-/// Makes the \a newSize bytes of the new file in pieces of at most PATCH_PIECE_BYTES. Constant memory; any bytes are
-/// safe.
-[[nodiscard]] PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize,
-                                            ByteSink const& sink);
-
 } // namespace Pelnar::Engine

@@ -1,6 +1,7 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
 #include "Engine/core/base/Descriptor.h"
+#include "Engine/core/delta/BundleFiles.h"
 #include "Engine/core/delta/StreamUnpacker.h"
 
 #include <sys/stat.h>
@@ -32,11 +33,6 @@ bool ReadAt(int fd, std::uint64_t offset, std::uint8_t* target, std::size_t size
     bool const isShort = got >= 0 && static_cast<std::size_t>(got) < size;
     errno = isShort ? 0 : errno;
     return got >= 0 && !isShort;
-}
-
-DeltaOutcome ReadFailure()
-{
-    return errno == 0 ? DeltaOutcome{DeltaError::Damaged, {}, 0} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
 }
 
 /// True when the entries' data fill the rest of a file of \a fileSize bytes exactly.
@@ -162,7 +158,7 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     }
     if (!ReadAt(containerFd, 0, header.data(), header.size()))
     {
-        return errno == 0 ? DeltaOutcome{DeltaError::NotADelta, {}, 0} : ReadFailure();
+        return errno == 0 ? DeltaOutcome{DeltaError::NotADelta, {}, 0} : SourceFailure();
     }
     std::uint64_t const format = ReadFixed(&header[8]);
     bool const isKnown = format == static_cast<std::uint64_t>(DeltaFormat::Separate) ||
@@ -189,7 +185,7 @@ DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, Delta
     errno = 0;
     if (stream.Read(plain.data(), plain.size()) != plain.size() || !stream.IsAtEnd())
     {
-        return ReadFailure();
+        return SourceFailure();
     }
     DeltaOutcome const outcome = OutcomeOf(DecodeDeltaManifest(View(plain), limits, manifest));
     if (!outcome.HasSucceeded())

@@ -28,15 +28,6 @@ std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const&
     return streams;
 }
 
-PatchSources SourcesOf(std::vector<DeltaStream>& streams)
-{
-    PatchSources sources;
-    std::transform(streams.begin(), streams.end(), sources.begin(),
-                   [](DeltaStream& stream)
-                   { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
-    return sources;
-}
-
 /// The old files of a unit.
 struct UnitBase
 {
@@ -77,9 +68,7 @@ public:
         {
             return outcome;
         }
-        bool const isUsedUp = m_patches.IsUsedUp() && std::all_of(m_streams.begin(), m_streams.end(),
-                                                                  [](DeltaStream& stream) { return stream.IsAtEnd(); });
-        if (!isUsedUp)
+        if (!m_patches.IsUsedUp() || !AreAtEnd(m_streams))
         {
             return {DeltaError::Damaged, {}, 0};
         }

@@ -46,6 +46,16 @@ std::size_t OpeningBytes(Bytes file)
     return end < file.size() ? end : 0;
 }
 
+void CopyBits(BitReader& from, BitWriter& to, std::uint64_t count)
+{
+    for (std::uint64_t left = count; left > 0;)
+    {
+        auto const now = static_cast<unsigned>(std::min<std::uint64_t>(left, 8));
+        to.Put(from.Take(now), now);
+        left -= now;
+    }
+}
+
 /// What is told of a block, and the bits that stand before its tokens.
 void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes data, std::size_t begin,
                  std::size_t end)
@@ -58,12 +68,7 @@ void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes
         BitReader bits(data);
         bits.Skip(static_cast<unsigned>(begin));
         BitWriter copy;
-        for (std::size_t left = end - begin; left > 0;)
-        {
-            auto const now = static_cast<unsigned>(std::min<std::size_t>(left, 8));
-            copy.Put(bits.Take(now), now);
-            left -= now;
-        }
+        CopyBits(bits, copy, end - begin);
         copy.EndByte();
         recipe.insert(recipe.end(), copy.Buffer().begin(), copy.Buffer().end());
     }
@@ -189,12 +194,7 @@ private:
             return false;
         }
         BitReader bits(bytes);
-        for (std::uint64_t left = count; left > 0;)
-        {
-            auto const now = static_cast<unsigned>(std::min<std::uint64_t>(left, 8));
-            m_bits.Put(bits.Take(now), now);
-            left -= now;
-        }
+        CopyBits(bits, m_bits, count);
         return true;
     }
 

@@ -311,12 +311,4 @@ bool PatchApplier::Flush()
     return count == 0 || (*m_sink)(piece);
 }
 
-PatchVerdict ApplyBinaryPatch(Bytes oldBytes, PatchSources const& sources, std::uint64_t newSize, ByteSink const& sink)
-{
-    PlainText old({oldBytes});
-    PatchApplier applier(sources);
-    PatchVerdict const verdict = applier.Make(old, newSize, sink);
-    return verdict == PatchVerdict::Applied && !applier.IsUsedUp() ? PatchVerdict::WrongSize : verdict;
-}
-
 } // namespace Pelnar::Engine

@@ -1,44 +1,30 @@
 #include "Engine/core/delta/SeparateApplier.h"
 
 #include "Engine/core/delta/BundleFiles.h"
+#include "Engine/core/delta/PatchApplier.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <vector>
+#include <memory>
 
 namespace Pelnar::Engine
 {
 namespace
 {
 
-constexpr std::size_t PIECE_BYTES = 64 * 1024;
-
 class Applier
 {
 public:
-    Applier(int containerFd, int oldBundleFd, int stagingFd, std::uint64_t dataOffset)
-        : m_containerFd(containerFd), m_files(oldBundleFd, stagingFd), m_dataOffset(dataOffset)
+    explicit Applier(DeltaWork const& work)
+        : m_containerFd(work.containerFd), m_files(work.oldBundleFd, work.stagingFd), m_dataOffset(work.dataOffset)
     {
     }
 
     DeltaOutcome Make(DeltaEntry const& entry)
     {
-        DeltaOutcome outcome;
-        switch (entry.kind)
-        {
-        case DeltaEntryKind::Directory:
-        case DeltaEntryKind::SymbolicLink:
-        case DeltaEntryKind::Kept:
-            outcome = MakeWithoutData(entry);
-            break;
-        case DeltaEntryKind::Patched:
-            outcome = Patch(entry);
-            break;
-        case DeltaEntryKind::Whole:
-            outcome = TakeWhole(entry);
-            break;
-        }
+        bool const hasData = entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
+        DeltaOutcome outcome = hasData ? MakeFromData(entry) : MakeWithoutData(entry);
         m_dataOffset += entry.StoredBytes();
         return outcome;
     }
@@ -53,8 +39,12 @@ private:
         return differs ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0} : outcome;
     }
 
-    DeltaOutcome Patch(DeltaEntry const& entry)
+    DeltaOutcome MakeFromData(DeltaEntry const& entry)
     {
+        if (entry.kind == DeltaEntryKind::Whole)
+        {
+            return MakeFile(entry, {});
+        }
         UniqueFd source;
         if (DeltaOutcome opened = m_files.OpenOld(entry.sourcePath, entry.sourceSize, source); !opened.HasSucceeded())
         {
@@ -65,87 +55,72 @@ private:
         {
             return {DeltaError::CannotRead, {}, errno};
         }
-        UniqueFd target;
-        if (DeltaOutcome made = m_files.MakeFile(entry, target); !made.HasSucceeded())
-        {
-            return made;
-        }
-        std::vector<DeltaStream> streams;
-        PatchSources sources;
-        std::uint64_t offset = m_dataOffset;
-        for (std::uint64_t const stored : entry.streamsStored)
-        {
-            streams.emplace_back(m_containerFd, offset, StoredStream{0, stored});
-            offset += stored;
-        }
-        std::transform(streams.begin(), streams.end(), sources.begin(),
-                       [](DeltaStream& stream)
-                       { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
-        ContentHasher hasher(HashKind::Blake2b);
-        errno = 0;
-        PatchVerdict const verdict = ApplyBinaryPatch(old.Content(), sources, entry.size,
-                                                      [&hasher, &target](Bytes bytes)
-                                                      {
-                                                          hasher.Add(bytes);
-                                                          return WriteAll(target.Get(), bytes);
-                                                      });
-        DeltaOutcome outcome = OutcomeOf(verdict);
-        if (outcome.HasSucceeded() &&
-            !std::all_of(streams.begin(), streams.end(), [](auto& each) { return each.IsAtEnd(); }))
-        {
-            outcome.error = DeltaError::Damaged;
-        }
-        else if (outcome.HasSucceeded() && hasher.Finish() != entry.hash)
-        {
-            outcome.error = DeltaError::ResultDiffers;
-        }
-        // No matter what the old file is, a patch reads and writes in bounds, and what comes out must have the new
-        // one's hash. The old one's only tells why it has not.
+        DeltaOutcome outcome = MakeFile(entry, old.Content());
+        // With any old file a patch reads and writes in bounds, and its result must have the new file's hash. The old
+        // file's hash only tells the cause.
         bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
         return mayBeTheBase && HashOf(old.Content(), HashKind::Blake2b) != entry.sourceHash
                    ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
                    : outcome;
     }
 
-    DeltaOutcome TakeWhole(DeltaEntry const& entry)
+    DeltaOutcome MakeFile(DeltaEntry const& entry, Bytes oldBytes)
     {
         UniqueFd target;
         if (DeltaOutcome made = m_files.MakeFile(entry, target); !made.HasSucceeded())
         {
             return made;
         }
-        DeltaStream whole(m_containerFd, m_dataOffset, {0, entry.wholeStored});
+        bool const isWhole = entry.kind == DeltaEntryKind::Whole;
+        std::array<std::uint64_t, PATCH_STREAMS> stored = entry.streamsStored;
+        stored.back() += entry.wholeStored; // a whole file is its extra stream
+        std::vector<DeltaStream> streams;
+        std::uint64_t offset = m_dataOffset;
+        for (std::uint64_t const size : stored)
+        {
+            streams.emplace_back(m_containerFd, offset, StoredStream{0, size});
+            offset += size;
+        }
+        PatchSources const sources = SourcesOf(streams);
         ContentHasher hasher(HashKind::Blake2b);
-        errno = 0;
-        for (std::uint64_t missing = entry.size; missing > 0;)
+        ByteSink const sink = [&hasher, &target](Bytes bytes)
         {
-            auto const piece = static_cast<std::size_t>(std::min<std::uint64_t>(missing, m_piece.size()));
-            if (whole.Read(m_piece.data(), piece) != piece)
-            {
-                return SourceFailure();
-            }
-            Bytes const bytes(m_piece.data(), piece);
             hasher.Add(bytes);
-            if (!WriteAll(target.Get(), bytes))
-            {
-                return WriteFailure();
-            }
-            missing -= piece;
-        }
-        if (!whole.IsAtEnd())
+            return WriteAll(target.Get(), bytes);
+        };
+        errno = 0;
+        auto const patches = std::make_unique<PatchApplier>(sources);
+        PlainText old({oldBytes});
+        DeltaOutcome outcome =
+            OutcomeOf(isWhole ? patches->MakeWhole(entry.size, sink) : patches->Make(old, entry.size, sink));
+        bool const isUsedUp = patches->IsUsedUp() && AreAtEnd(streams);
+        if (outcome.HasSucceeded() && !(isUsedUp && hasher.Finish() == entry.hash))
         {
-            return {DeltaError::Damaged, {}, 0};
+            outcome.error = isUsedUp ? DeltaError::ResultDiffers : DeltaError::Damaged;
         }
-        return hasher.Finish() == entry.hash ? DeltaOutcome{} : DeltaOutcome{DeltaError::ResultDiffers, {}, 0};
+        return outcome;
     }
 
     int m_containerFd;
     BundleFiles m_files;
     std::uint64_t m_dataOffset; ///< of the next entry's data
-    std::array<std::uint8_t, PIECE_BYTES> m_piece;
 };
 
 } // namespace
+
+PatchSources SourcesOf(std::vector<DeltaStream>& streams)
+{
+    PatchSources sources;
+    std::transform(streams.begin(), streams.end(), sources.begin(),
+                   [](DeltaStream& stream)
+                   { return [&stream](std::uint8_t* to, std::size_t size) { return stream.Read(to, size); }; });
+    return sources;
+}
+
+bool AreAtEnd(std::vector<DeltaStream>& streams)
+{
+    return std::all_of(streams.begin(), streams.end(), [](DeltaStream& stream) { return stream.IsAtEnd(); });
+}
 
 DeltaOutcome OutcomeOf(PatchVerdict verdict)
 {
@@ -169,7 +144,7 @@ DeltaOutcome OutcomeOf(PatchVerdict verdict)
 
 DeltaOutcome ApplySeparateDelta(DeltaWork const& work, DeltaManifest const& manifest, EntryDone const& done)
 {
-    Applier applier(work.containerFd, work.oldBundleFd, work.stagingFd, work.dataOffset);
+    Applier applier(work);
     for (DeltaEntry const& entry : manifest.entries)
     {
         DeltaOutcome outcome = applier.Make(entry);

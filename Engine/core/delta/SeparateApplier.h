@@ -6,6 +6,7 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
 #include <functional>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -24,7 +25,11 @@ using EntryDone = std::function<void(DeltaEntry const& entry)>;
 [[nodiscard]] DeltaOutcome ApplySeparateDelta(DeltaWork const& work, DeltaManifest const& manifest,
                                               EntryDone const& done);
 
-/// What a patch that cannot be applied means for its container; errno is asked.
+/// The streams as an applier of patches reads them.
+[[nodiscard]] PatchSources SourcesOf(std::vector<DeltaStream>& streams);
+[[nodiscard]] bool AreAtEnd(std::vector<DeltaStream>& streams);
+
+/// What a patch that cannot be applied means for its container. Reads errno.
 [[nodiscard]] DeltaOutcome OutcomeOf(PatchVerdict verdict);
 
 } // namespace Pelnar::Engine

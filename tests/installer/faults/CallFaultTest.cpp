@@ -140,9 +140,9 @@ protected:
 TEST_P(EveryCall, FailsCleanly)
 {
     constexpr int ERRORS[] = {ENOSPC, EIO, EDQUOT, EMFILE, ENOMEM, EACCES, EROFS};
-    // exit_group cannot fail. If the next three failed, the libraries would end the process, but no disk or limit makes
+    // exit_group cannot fail. If the next four failed, the libraries would end the process, but no disk or limit makes
     // them fail (brk has no errors). If chdir fails, only the exit status says that the helper was called wrongly.
-    std::set<long> const beyondFailing{SYS_exit_group, SYS_futex, SYS_getrandom, SYS_brk, SYS_chdir};
+    std::set<long> const beyondFailing{SYS_exit_group, SYS_futex, SYS_getrandom, SYS_brk, SYS_rseq, SYS_chdir};
     Sweep(
         std::size(ERRORS), 40,
         [&](Place const& place) { return beyondFailing.count(place.call) == 0 && !IsTheSanitizersOwn(place.call); },

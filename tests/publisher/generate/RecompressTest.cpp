@@ -13,6 +13,9 @@
 
 #include <random>
 
+#include <sys/inotify.h>
+#include <unistd.h>
+
 namespace Pelnar::Testing
 {
 namespace
@@ -110,6 +113,54 @@ TEST_F(Recompress, SameBundleMakesTheSameBytesAndRunningAgainChangesNothing)
     PutZip(folder, "3.0");
     EXPECT_EQ(folder.Generate(RECOMPRESS).status, 0);
     EXPECT_EQ(folder.Items().front().deltas.size(), 1u) << "an item with two archives is one base";
+}
+
+/// Counts the folders that are made in a folder.
+class FolderCounter
+{
+public:
+    explicit FolderCounter(std::string const& folder) : m_events(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+    {
+        EXPECT_GE(::inotify_add_watch(m_events.Get(), folder.c_str(), IN_CREATE), 0);
+    }
+
+    /// Since the last call.
+    int Count()
+    {
+        int count = 0;
+        alignas(inotify_event) char buffer[16 * 1024];
+        for (ssize_t size = 0; (size = ::read(m_events.Get(), buffer, sizeof buffer)) > 0;)
+        {
+            for (ssize_t at = 0; at < size;)
+            {
+                auto const* const event = reinterpret_cast<inotify_event const*>(buffer + at);
+                count += (event->mask & IN_ISDIR) != 0 ? 1 : 0;
+                at += static_cast<ssize_t>(sizeof *event + event->len);
+            }
+        }
+        return count;
+    }
+
+private:
+    Engine::UniqueFd m_events;
+};
+
+TEST_F(Recompress, EachArchiveIsUnpackedOnceForAllThatIsMadeFromIt)
+{
+    Workspace const place;
+    ::setenv("TMPDIR", place.Path().c_str(), 1);
+    FolderCounter folders(place.Path());
+    for (char const* const version : {"1.0", "1.1", "1.2"})
+    {
+        PutZip(folder, version);
+    }
+    ASSERT_EQ(folder.Generate(RECOMPRESS + QStringList{QStringLiteral("--deltas"), QStringLiteral("0")}).status, 0);
+    EXPECT_EQ(folders.Count(), 3 + 3) << "each archive, and the proof of each new one";
+    PutZip(folder, "2.0");
+    ASSERT_EQ(folder.Generate(RECOMPRESS + QStringList{QStringLiteral("--deltas"), QStringLiteral("3")}).status, 0);
+    ASSERT_EQ(folder.Items().front().deltas.size(), 3u);
+    EXPECT_EQ(folders.Count(), 4 + 1 + 3) << "each archive, and the proofs of the new archive and of the deltas";
+    ::unsetenv("TMPDIR");
 }
 
 TEST_F(Recompress, ArchiveThatSavesLessThanATenthIsNotPublished)

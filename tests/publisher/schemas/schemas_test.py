@@ -1,4 +1,4 @@
-"""What every verb prints with --json follows its schema, which names every member.
+"""What every verb prints with --json follows its schema, which names every member, as does its page in docs/formats.
 
 Usage: schemas_test.py PUBLISHER-FOLDER PROGRAM"""
 import copy
@@ -99,6 +99,9 @@ def main():
         for schema_name, path in schemas.items():
             schema = json.loads(path.read_text())
             jsonschema.Draft202012Validator.check_schema(schema)
+            page = (publisher.parent / f"docs/formats/{schema_name}-json.md").read_text()
+            failures += [f"{schema_name}: its page does not name {word}"
+                         for word in (path.name, *(f"`{key}`" for key in schema.get("properties", {}))) if word not in page]
             validator = jsonschema.Draft202012Validator(closed(schema))
             for arguments in questions.get(schema_name, []):
                 document = json.loads(run(*arguments, "--json") or "{}")

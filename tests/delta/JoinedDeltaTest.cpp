@@ -16,6 +16,7 @@
 
 #include <fcntl.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -229,6 +230,26 @@ TEST_F(JoinedDelta, ProgramWhoseCodeMovesAndKeepsItsNumbersIsMadeExactly)
     DeltaReport const report = Make();
     ASSERT_TRUE(report.outcome.HasSucceeded());
     EXPECT_LT(report.containerBytes, 1000u);
+    ExpectTheNewVersion();
+}
+
+TEST_F(JoinedDelta, LargeProgramWhoseFieldsAreNotAddressesIsMadeOfPlainBytes)
+{
+    ProgramShape shape;
+    shape.functions = 4000;
+    ByteBuffer program = ForgeProgram(shape);
+    WriteFile(Old() / "Program", Text(program));
+    std::mt19937 random(5);
+    for (std::ptrdiff_t at = 0x1000; at < 0x60000; at += 0x2000)
+    {
+        ByteBuffer fresh(4 + random() % 200);
+        std::generate(fresh.begin(), fresh.end(), random);
+        program.insert(program.begin() + at, fresh.begin(), fresh.end());
+    }
+    WriteFile(New() / "Program", Text(program));
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_LT(report.containerBytes, 10000u);
     ExpectTheNewVersion();
 }
 

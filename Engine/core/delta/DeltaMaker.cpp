@@ -11,6 +11,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <deque>
+#include <functional>
+#include <numeric>
 #include <system_error>
 #include <utility>
 
@@ -20,6 +22,33 @@ namespace
 {
 
 namespace fs = std::filesystem;
+
+/// How many bytes of the old text differ from the new ones that the steps make of them.
+std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes)
+{
+    std::uint64_t changed = 0;
+    std::uint64_t position = 0;
+    std::size_t made = 0;
+    for (PatchStep const& step : steps)
+    {
+        std::uint64_t left = step.likeBytes;
+        if (left > 0)
+        {
+            old.Start(position, made, left);
+        }
+        while (left > 0)
+        {
+            Bytes const piece = old.Next();
+            changed += std::inner_product(piece.begin(), piece.end(), newBytes.begin() + made, std::uint64_t(0),
+                                          std::plus<>(), std::not_equal_to<>());
+            made += piece.size();
+            left -= piece.size();
+        }
+        made += static_cast<std::size_t>(step.extraBytes);
+        position = MovedBy(position + step.likeBytes, step.move);
+    }
+    return changed;
+}
 
 class Maker
 {
@@ -34,8 +63,8 @@ public:
     ByteBuffer Make()
     {
         std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_effort);
-        std::vector<UnitSteps> const steps =
-            SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        std::vector<UnitSteps> steps = SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        SearchPlainly(units, steps);
         AddKeptFiles();
         DeltaUnit whole;
         for (std::size_t i = 0; i < units.size(); ++i)
@@ -50,6 +79,43 @@ public:
 
 private:
     OpenedFile OpenNew(std::string const& path) const { return OpenedFile(m_newFolder / path); }
+
+    /// False for a program whose fields are not addresses, for example a packed one.
+    bool IsWorthForetelling(DeltaUnit const& unit, std::vector<PatchStep> const& steps) const
+    {
+        if (steps.size() > MAX_MAPPED_STEPS)
+        {
+            return false;
+        }
+        OpenedFile const source(m_old.folder / unit.sources.front().path);
+        OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()].path);
+        ImageLayout const layout = *ReadImageLayout(source.Content());
+        ProgramText changed(source.Content(), layout, ChangedSpans(layout, unit.spanChanges), steps);
+        PlainText plain({source.Content()});
+        return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
+    }
+
+    /// Searches a second time, as for any file, where a program's addresses make the difference larger.
+    void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps) const
+    {
+        std::vector<std::size_t> numbers;
+        std::vector<DeltaUnit> plain;
+        for (std::size_t i = 0; i < units.size(); ++i)
+        {
+            if (!units[i].spanChanges.empty() && !IsWorthForetelling(units[i], steps[i].front()))
+            {
+                units[i].spanChanges.clear();
+                numbers.push_back(i);
+                plain.push_back(units[i]);
+            }
+        }
+        std::vector<UnitSteps> const found =
+            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        for (std::size_t i = 0; i < numbers.size(); ++i)
+        {
+            steps[numbers[i]] = found[i];
+        }
+    }
 
     void AddKeptFiles()
     {
@@ -87,10 +153,6 @@ private:
         {
             texts.push_back(sources.emplace_back(m_old.folder / source.path).Content());
             m_baseHashes.Add(View(m_old.files.at(source.path).hash));
-        }
-        if (steps.front().size() > MAX_MAPPED_STEPS)
-        {
-            unit.spanChanges.clear(); // the steps are right for the plain bytes too
         }
         m_writer.StartText();
         PlainText plain(texts);

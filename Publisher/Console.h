@@ -1,5 +1,5 @@
-// Console.h: what a verb of the publisher's tool reads, prints and answers with.
-// Ownership: streams belong to the caller, which outlives the verb.
+// Console.h: the input, output and exit status of a verb of the publisher's tool. Ownership: streams belong to the
+// caller, which outlives the verb.
 #pragma once
 
 #include "common/TextLiterals.h"
@@ -18,7 +18,7 @@
 namespace Pelnar::Publisher
 {
 
-/// The program's exit status, and what a script may conclude from it.
+/// The program's exit status, and its meaning for a script.
 enum class ExitStatus : std::int32_t
 {
     Clean = 0,    ///< done, no problem found
@@ -26,8 +26,7 @@ enum class ExitStatus : std::int32_t
     Unusable = 2, ///< not done: bad arguments or unreadable input
 };
 
-/// Why a verb cannot do what it was asked. Printed as "FILE:LINE:COLUMN: what; mend"; parts that are empty or 0 are
-/// left out.
+/// Why a verb cannot do its work. Printed as "FILE:LINE:COLUMN: what; mend"; empty parts and 0 are left out.
 struct Problem
 {
     Problem(QString what, QString mend) : what(std::move(what)), mend(std::move(mend)) {}
@@ -42,14 +41,14 @@ struct Problem
     QString file; ///< as the person typed it
     int line = 0; ///< from 1
     int column = 0;
-    QString what; ///< what is wrong, without a full stop
-    QString mend; ///< what to do about it, without a full stop
+    QString what; ///< the fault, without a full stop
+    QString mend; ///< the way to correct it, without a full stop
 };
 
-/// One line, without the line's end and without colour.
+/// One line, without its end and without colour.
 QString TextOf(Problem const& problem);
 
-/// How a piece of text stands out on a terminal that shows colours.
+/// The emphasis of a piece of text on a terminal with colours.
 enum class Emphasis
 {
     None,
@@ -67,11 +66,11 @@ struct Output
     bool isTerminal = false;
     bool hasColour = false;
 
-    /// \a text for this stream: as it is, or between the codes of \a emphasis.
+    /// \a text for this stream: unchanged, or between the codes of \a emphasis.
     std::string Styled(Emphasis emphasis, QString const& text) const;
 };
 
-/// Everything that a verb may touch besides files and servers.
+/// All that a verb may use besides files and servers.
 struct Console
 {
     std::istream& in;
@@ -86,8 +85,8 @@ struct Console
     void PrintJson(QJsonObject const& object) const;
 };
 
-/// Whether text on the file descriptor \a fileDescriptor is coloured: it is a terminal that shows colours, and NO_COLOR
-/// is unset or empty.
+/// True if text on the file descriptor \a fileDescriptor is coloured: it is a terminal with colours, and NO_COLOR is
+/// unset or empty.
 [[nodiscard]] bool ShowsColour(int fileDescriptor);
 
 /// \a text on one line: hidden characters (SafeText.h) become "?".
@@ -104,7 +103,7 @@ template <std::size_t N>
 /// "1 item", "2 items".
 QString CountOf(std::size_t count, QString const& singular);
 
-/// The whole of \a stream; nothing if it has more than \a maxBytes.
+/// The whole of \a stream; empty if it has more than \a maxBytes.
 std::optional<QByteArray> ReadWhole(std::istream& stream, qint64 maxBytes);
 
 } // namespace Pelnar::Publisher

@@ -1,5 +1,5 @@
-// FeedOptions.h: the options of a command line that several verbs about feeds share.
-// Ownership: the values are the verb's and outlive its command line.
+// FeedOptions.h: command-line options that several verbs for feeds share. Ownership: the verb owns the values, which
+// outlive its command line.
 #pragma once
 
 #include "Engine/core/feed/ReleaseRules.h"
@@ -14,16 +14,16 @@
 namespace Pelnar::Publisher
 {
 
-/// "--platform"; the value that \a platform has is the default.
+/// "--platform"; the default is the current value of \a platform.
 void AddPlatformOption(CLI::App& verb, std::string& platform);
-/// What a command line says of the installations that it asks about, beside their versions and systems.
+/// The installations of a command line, without their versions and systems.
 struct InstallationOptions
 {
     std::string machine;
     std::string channels;
     int rolloutGroup = 0; ///< from 1; 0 for a person who asks
     std::string moment;
-    std::vector<std::string> publicKeys; ///< empty: what the feed says that a version trusts
+    std::vector<std::string> publicKeys; ///< empty: those that the feed names for a version
 };
 
 /// "--machine", "--channels" and "--at".
@@ -32,7 +32,7 @@ void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
 /// Throws Refusal.
 [[nodiscard]] Engine::Installation InstallationOf(InstallationOptions const& options);
-/// The members "machine", "channels" and "rolloutGroup" that the JSON of several verbs has.
+/// The members "machine", "channels" and "rolloutGroup" in the JSON of several verbs.
 void AddInstallation(QJsonObject& object, InstallationOptions const& options);
 
 /// "--published-at".

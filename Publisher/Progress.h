@@ -1,4 +1,4 @@
-// Progress.h: shows how far long work is: a bar on a terminal, and a line every few seconds anywhere else. Ownership:
+// Progress.h: shows the progress of long work: a bar on a terminal, otherwise a line every few seconds. Ownership:
 // refers to the output, which outlives it.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace Pelnar::Publisher
 class Progress
 {
 public:
-    /// \a output is the stream that no program reads: the error stream.
+    /// \a output is the stream that programs do not read: the error stream.
     Progress(Output const& output, QString label, std::chrono::milliseconds lineInterval = std::chrono::seconds(3));
     /// Wipes the bar.
     ~Progress();

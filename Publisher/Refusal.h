@@ -1,4 +1,4 @@
-// Refusal.h: how code deep inside a verb stops it, and where that is caught.
+// Refusal.h: stops a verb from any depth of its code, and catches the refusal in one place.
 #pragma once
 
 #include "Publisher/Verb.h"
@@ -13,14 +13,14 @@
 namespace Pelnar::Publisher
 {
 
-/// What is to blame for a refusal.
+/// The cause of a refusal.
 enum class RefusalCause
 {
-    Input,   ///< what was asked for, or a file that cannot be read or written
-    Content, ///< what is to be published: clients would refuse it
+    Input,   ///< the command line, or a file that cannot be read or written
+    Content, ///< the release: clients would refuse it
 };
 
-/// Thrown where a verb cannot go on; carries what the person is told.
+/// Thrown if a verb cannot continue; contains the message for the person.
 class Refusal : public std::runtime_error
 {
 public:
@@ -68,7 +68,7 @@ private:
     RefusalCause m_cause = RefusalCause::Input;
 };
 
-/// Throws a Refusal about \a file for which a system call answered \a errorNumber.
+/// Throws a Refusal about \a file for a system call that failed with \a errorNumber.
 [[noreturn]] void RefuseFile(QString const& file, QString const& what, int errorNumber, QString const& mend);
 
 /// Makes \a verb run \a work. A Refusal or any other exception is printed, and the status is then ExitStatus::Unusable.

@@ -1,5 +1,5 @@
-// Verb.h: how the verbs of the publisher's tool join its command line.
-// Ownership: the program owns its verbs; the console outlives it.
+// Verb.h: adds the verbs of the publisher's tool to its command line. Ownership: the program owns its verbs; the
+// console outlives it.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -13,15 +13,15 @@
 namespace Pelnar::Publisher
 {
 
-/// What every verb is given. The verb that was named sets the status.
+/// The arguments of every verb. The verb sets the status.
 struct VerbContext
 {
     Console& console;
     ExitStatus status = ExitStatus::Clean;
 };
 
-// A verb lives in a folder of its own. Each of these functions adds one verb, or a verb with verbs of its own, and the
-// callback that does its work. If other folders need more of a verb, its folder has a header for them.
+// Each verb has its own folder. Each of these functions adds one verb, or a verb with verbs below it, and the callback
+// for its work. If other folders need more of a verb, its folder has a header for them.
 void AddExplain(CLI::App& program, VerbContext& context);
 void AddLint(CLI::App& program, VerbContext& context);
 void AddMatrix(CLI::App& program, VerbContext& context);
@@ -45,7 +45,7 @@ void AddServe(CLI::App& program, VerbContext& context);
 /// Calls \a use with the program's whole command line, to run or to describe it.
 void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use);
 
-/// Runs the program with \a arguments, its name left out.
+/// Runs the program with \a arguments, which do not include its name.
 ExitStatus RunProgram(std::vector<std::string> const& arguments, Console& console);
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,4 @@
-// ClientOptions.h: the versions and platforms by which a command line describes clients.
+// ClientOptions.h: the versions and platforms of clients on a command line.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -15,7 +15,7 @@
 namespace Pelnar::Publisher
 {
 
-/// What stands for a system whose version the client cannot read; it ignores the bounds of items.
+/// Names a system whose version the client cannot read. Such a client ignores the bounds of items.
 constexpr char const* UNKNOWN_SYSTEM = "unknown";
 
 /// A version as text and as the client reads it.
@@ -25,11 +25,12 @@ struct NamedVersion
     Core::Version version;
 };
 
-/// Throws Refusal for a text that is no version. \a option is the name that it mentions.
+/// Throws Refusal for a text that is not a version. \a option is named in the message.
 [[nodiscard]] NamedVersion ParseLocalVersion(QString const& option, QString const& text);
 /// As ParseLocalVersion; "unknown" is the invalid version.
 [[nodiscard]] NamedVersion ParseSystemVersion(QString const& option, QString const& text);
-/// A list with commas between its entries, each read by one of the two above; an empty entry is refused.
+/// A list of entries with commas between them, each read by one of the two functions above. Throws Refusal for an empty
+/// entry.
 [[nodiscard]] std::vector<NamedVersion> ParseVersionList(QString const& option, QString const& text,
                                                          NamedVersion (*parse)(QString const&, QString const&));
 

@@ -35,7 +35,7 @@ Core::Version WholeVersionOf(Core::Version const& version)
     return Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT);
 }
 
-/// As the version of a client: compares as older than every version of an item.
+/// The version of a client that is older than every version of an item.
 Core::Version const OLDER_THAN_ALL;
 
 /// An item as the rules see it.
@@ -62,7 +62,7 @@ FeedItem const& ItemOf(ItemRecord const& record)
     return static_cast<Candidate const&>(record).item;
 }
 
-/// A full item, with what the policies of many clients read of it.
+/// A full item, with the parts of its policy that are read for many clients.
 struct FullItem
 {
     FullItem(FeedItem const& item, Engine::Installation const& installation)
@@ -81,7 +81,7 @@ struct FullItem
         }
     }
 
-    /// A part of the policy that costs a hundredth of the whole.
+    /// A cheap part of the policy: a hundredth of the cost of the whole.
     bool IsCertainlyLeftOut(Core::Version const& version) const
     {
         bool const mayBeCritical =
@@ -93,13 +93,13 @@ struct FullItem
     Core::Version const minimumUpdate; ///< invalid: every version can be updated
     Core::Version const criticalBelow;
     bool const dependsOnVersion;
-    bool isStaged = false;                  ///< and this group has to wait
+    bool isStaged = false;                  ///< and this group must wait
     std::vector<Core::Version> deltaStarts; ///< of each of the item's deltas
 };
 
 using FullItems = std::vector<FullItem*>;
 
-/// The engine's verdicts for one client. The installation is made when it is first needed, which is seldom.
+/// The engine's verdicts for one client. The installation is made only when it is needed, which is rare.
 class ClientPolicy
 {
 public:
@@ -179,7 +179,7 @@ public:
     }
 
 private:
-    /// A delta that is preferred to each of the others, first or second, is chosen in every order.
+    /// A delta that is preferred to each other one, in both orders, is chosen in every order.
     void FindRivals(ItemRecord& best)
     {
         bool isDefinite = true;
@@ -204,7 +204,7 @@ private:
         }
     }
 
-    /// Those that start from this version; of several with the same text the last.
+    /// Those that start from this version. Of several with the same text, the last one.
     std::vector<FeedItem const*> MetDeltas()
     {
         FullItem const& full =
@@ -237,16 +237,16 @@ private:
 
 struct FeedChooser::Data
 {
-    /// Those who run this system and trust the keys with these ids.
+    /// The clients that run this system and trust the keys with these ids.
     using Clients = std::pair<Core::Version, QStringList>;
 
     QStringList const& TrustedBy(Core::Version const& version) const;
     FullItems const& WithinReach(Clients const& clients);
 
     Engine::Installation const installation;
-    std::deque<FullItem> items; ///< but for those that are left out for every version
+    std::deque<FullItem> items; ///< without those that are left out for every version
     FullItems newestFirst;
-    std::map<Core::Version, QStringList> trusted; ///< ids of keys, by the versions that trust them
+    std::map<Core::Version, QStringList> trusted; ///< ids of the keys that each version trusts
     std::map<Clients, FullItems> withinReach;
     std::pair<Clients const, FullItems> const* lastReach = nullptr;
 };
@@ -282,8 +282,8 @@ QStringList const& FeedChooser::Data::TrustedBy(Core::Version const& version) co
     return known != trusted.end() ? known->second : installation.trustedKeys;
 }
 
-/// What some of \a clients may be offered, the newest first, down to the first version that is left out for none of
-/// them. Nothing older can win, because the newer version is preferred before anything else is compared.
+/// The items that some of \a clients may be offered, newest first, down to the first version that none of them leaves
+/// out. No older item can win, because newer versions are preferred first.
 FullItems const& FeedChooser::Data::WithinReach(Clients const& clients)
 {
     if (lastReach && lastReach->first == clients)

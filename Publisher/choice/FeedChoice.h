@@ -1,6 +1,5 @@
-// FeedChoice.h: which item of a feed a client takes, and how each of the others loses. The rules are the session's own;
-// only the items come from the parser without Foundation between them.
-// Ownership: a choice points into the items that it was made from.
+// FeedChoice.h: the item of a feed that a client takes, and why each other item loses. The rules are those of the
+// session; the items come directly from the parser. Ownership: a choice points to the items from which it was made.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
@@ -25,19 +24,19 @@ struct Duel
 
 struct FeedChoice
 {
-    Engine::FeedItem const* chosen = nullptr; ///< an item or a delta; null when there is nothing to offer
+    Engine::FeedItem const* chosen = nullptr; ///< an item or a delta; null if there is nothing to offer
     Engine::FeedItem const* full = nullptr;   ///< the best full item, whose deltas were looked at
     /// Other deltas that may be chosen instead. Deltas of one start have no defined order when their texts differ, such
     /// as 5 and 5.0. They are sorted by that text, and chosen is the first of all.
     std::vector<Engine::FeedItem const*> rivals;
-    std::vector<Duel> duels; ///< in the order in which they were decided
+    std::vector<Duel> duels; ///< in the order of the decisions
 };
 
-/// A feed that many clients choose from. What the rules read of an item is kept for the next client.
+/// A feed for the choices of many clients. It keeps what the rules have read of an item.
 class FeedChooser
 {
 public:
-    /// \a items must outlive it. \a installation is what all clients have in common; its version is each client's.
+    /// \a items must outlive it. \a installation is common to all clients, except its version.
     explicit FeedChooser(std::vector<Engine::FeedItem> const& items, Engine::Installation installation = {});
     ~FeedChooser();
     FeedChooser(FeedChooser const&) = delete;
@@ -45,7 +44,7 @@ public:
 
     FeedChoice Choose(Client const& client);
 
-    /// As Choose, but tells only of duels between items that may win, and is fast for many clients.
+    /// Like Choose, but reports only duels between items that may win, and is fast for many clients.
     FeedChoice Answer(Client const& client);
 
 private:
@@ -62,10 +61,10 @@ App::Session::Judgement JudgeFeedItem(Engine::FeedItem const& item, Client const
 
 App::Session::UpdateType UpdateTypeOf(Engine::FeedItem const& item);
 
-/// Whether \a delta, of the best full item, is looked at for \a client.
+/// True if \a client considers \a delta, of the best full item.
 [[nodiscard]] bool ServesClient(Engine::FeedItem const& delta, Client const& client);
 
-/// The extensions that the host is handed with \a item; a value that is no text is an invalid variant.
+/// The extensions of \a item for the host; a value that is not text is an invalid variant.
 QVariantMap ExtensionsOf(Engine::FeedItem const& item);
 
 } // namespace Pelnar::Publisher

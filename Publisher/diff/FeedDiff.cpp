@@ -16,15 +16,15 @@ namespace
 
 using App::Session::VersionFromStringNoexcept;
 
-/// Where outcomes may begin to differ: at a minimum, and right above a maximum.
+/// Where outcomes may change: at a minimum, and right above a maximum.
 struct Border
 {
-    Core::Version first; ///< system above the border, by all four components
+    Core::Version first; ///< the first system above the border, with all four components
     QString from;
     QString to;
 };
 
-/// The system right above \a version; invalid when there is none.
+/// The system right above \a version; invalid if there is none.
 Core::Version RightAbove(Core::Version const& version)
 {
     std::array<std::int32_t, Core::Version::COMPONENT_COUNT> parts =
@@ -89,8 +89,8 @@ QString EffectOf(OutcomeChange const& change)
                                      isOtherDownload ? LongTextOf(change.after) : after);
 }
 
-/// "5.0 to 5.2, 5.4": \a changed, where three or more follow each other among \a versions the first and the last. Both
-/// are in the same order.
+/// "5.0 to 5.2, 5.4": the versions \a changed. Three or more neighbours in \a versions become a range. Both lists have
+/// the same order.
 QString RunsOf(QStringList const& changed, std::vector<NamedVersion> const& versions)
 {
     QStringList runs;
@@ -206,7 +206,7 @@ std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldIte
     std::vector<SystemRange> const ranges = SystemRanges(oldItems, newItems);
     FeedChooser oldFeed(oldItems, installation);
     FeedChooser newFeed(newItems, installation);
-    // A system's items are looked at once, so that systems come before versions.
+    // Items are read once for each system, so systems are the outer loop.
     std::vector<std::vector<OutcomeChange>> changesOf(versions.size());
     std::vector<std::pair<FeedChoice, FeedChoice>> last(versions.size());
     for (SystemRange const& range : ranges)

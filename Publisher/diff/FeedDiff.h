@@ -1,4 +1,4 @@
-// FeedDiff.h: two feeds by their effect: which clients get something else from the second.
+// FeedDiff.h: the different effects of two feeds: which clients get another item from the second one.
 #pragma once
 
 #include "Publisher/matrix/Outcome.h"
@@ -11,10 +11,10 @@
 namespace Pelnar::Publisher
 {
 
-/// Systems between two bounds of the feeds; a client's outcome is the same on all of them.
+/// The systems between two bounds of the feeds. A client's outcome is the same on all of them.
 struct SystemRange
 {
-    Core::Version first; ///< stands for the range
+    Core::Version first; ///< represents the range
     QString from;        ///< "from 10.13" or "above 12"; empty for the lowest
     QString to;          ///< "below 11" or "up to 12"; empty for the highest
 };
@@ -22,7 +22,7 @@ struct SystemRange
 /// "all systems", "systems from 10.13 up to 12".
 QString TextOf(SystemRange const& range);
 
-/// Every range that the bounds of the items of both feeds tell apart, lowest first; together they hold all systems.
+/// All ranges between the bounds of the items of both feeds, lowest first. Together they contain all systems.
 std::vector<SystemRange> SystemRanges(std::vector<Engine::FeedItem> const& oldItems,
                                       std::vector<Engine::FeedItem> const& newItems);
 
@@ -34,22 +34,23 @@ struct OutcomeChange
     Outcome after;
 };
 
-/// The changes for \a versions, ranges with the same change joined.
+/// The changes for \a versions; ranges with the same change are joined.
 std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldItems,
                                      std::vector<Engine::FeedItem> const& newItems,
                                      std::vector<NamedVersion> const& versions,
                                      Engine::Installation const& installation = {});
 
-/// A change of what an item says of the installations that it is meant for.
+/// A change of an item's policy: for which installations it is meant.
 struct ItemChange
 {
     QString version;
-    char const* what = ""; ///< a name that stays, such as "channel" or "withdrawn"
+    char const* what = ""; ///< a permanent name, such as "channel" or "withdrawn"
     QString before;        ///< "none", "yes", "beta", "below 5.1"
     QString after;
 };
 
-/// The changes of the items that both feeds have: those of one version and kind, in their order.
+/// The changes of the items that are in both feeds. Items are the same if they have the same version and kind; their
+/// order decides among several.
 std::vector<ItemChange> DiffItems(std::vector<Engine::FeedItem> const& oldItems,
                                   std::vector<Engine::FeedItem> const& newItems);
 

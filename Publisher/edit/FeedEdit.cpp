@@ -62,7 +62,7 @@ void FeedEdit::TakePlaces()
 {
     QXmlStreamReader reader(m_text);
     int depth = 0;
-    int itemDepth = 0; // of the item that is open; 0 outside of items
+    int itemDepth = 0; // of the current item; 0 outside items
     while (!reader.atEnd())
     {
         QXmlStreamReader::TokenType const token = reader.readNext();

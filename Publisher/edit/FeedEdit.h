@@ -1,4 +1,4 @@
-// FeedEdit.h: a published feed whose items are changed at single places, with every other byte as it was.
+// FeedEdit.h: changes single places of a published feed and keeps every other byte.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -11,7 +11,7 @@
 namespace Pelnar::Publisher
 {
 
-/// A piece of the text, from its first character to the one behind it.
+/// A piece of the text, from its first character to the one after it.
 struct TextRange
 {
     int start = 0;
@@ -27,16 +27,16 @@ struct EditedChild
 
 struct EditedItem
 {
-    Engine::FeedItem item; ///< as the first platform that takes it reads it
+    Engine::FeedItem item; ///< as the first platform with this item reads it
     TextRange range;       ///< with its tags
-    int contentStart = 0;  ///< behind its start tag
+    int contentStart = 0;  ///< after its start tag
     std::vector<EditedChild> children;
 };
 
 class FeedEdit
 {
 public:
-    /// Throws Refusal for what clients cannot read, for what is not UTF-8, and for items that have no end tag.
+    /// Throws Refusal if clients cannot read it, if it is not UTF-8, and if an item has no end tag.
     FeedEdit(QString name, QByteArray bytes);
 
     QString const& Name() const { return m_name; }
@@ -44,16 +44,16 @@ public:
     /// The items of \a version, in any spelling of it. Throws Refusal if there are none.
     std::vector<EditedItem const*> ItemsOf(QString const& version) const;
 
-    /// Puts \a line on a line of its own before the text at \a place, indented like it.
+    /// Adds \a line as a new line before the text at \a place, with the same indentation.
     void InsertLine(int place, QString const& line);
-    /// Takes \a range out, with the blanks before it and the end of the line before.
+    /// Removes \a range, the blanks before it, and the end of the line before.
     void Remove(TextRange const& range);
     void Replace(TextRange const& range, QString const& text);
-    /// Where the first child stands, or the end tag.
+    /// The place of the first child, or of the end tag.
     int FirstPlaceIn(EditedItem const& item) const;
 
     [[nodiscard]] bool HasChanges() const { return !m_changes.empty(); }
-    /// "-" and what goes, "+" and what comes, in the order of the feed.
+    /// Removed lines with "-" and added lines with "+", in the order of the feed.
     QStringList Differences() const;
     QByteArray Bytes() const;
 

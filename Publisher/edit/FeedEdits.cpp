@@ -58,7 +58,7 @@ std::vector<Core::Version> VersionsOf(FeedEdit const& feed)
     return versions;
 }
 
-/// Throws Refusal when a client that lists all channels or none, of any system, gets something else from \a after.
+/// Throws Refusal if a client of any system that lists all channels, or none, gets another item from \a after.
 void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArray const& after)
 {
     for (Engine::FeedPlatform const platform : {Engine::FeedPlatform::Linux, Engine::FeedPlatform::MacOS})

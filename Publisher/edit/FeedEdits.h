@@ -1,5 +1,5 @@
-// FeedEdits.h: what a publisher does to the items of a published feed. All of them throw Refusal and have changed
-// nothing then.
+// FeedEdits.h: the changes of a publisher to items of a published feed. If one of them throws Refusal, it has changed
+// nothing.
 #pragma once
 
 #include "Publisher/edit/FeedEdit.h"
@@ -8,17 +8,17 @@
 namespace Pelnar::Publisher
 {
 
-/// Marks the items of \a version as withdrawn. What is marked already stays.
+/// Marks the items of \a version as withdrawn. Marked items stay unchanged.
 void Withdraw(FeedEdit& feed, QString const& version);
 
-/// Puts the items of \a version into \a channel, or, when that is empty, offers them to everybody.
+/// Moves the items of \a version to \a channel. If it is empty, offers them to all clients.
 void Promote(FeedEdit& feed, QString const& version, QString const& channel);
 
-/// Puts \a notes in the place of the descriptions of the items of \a version.
+/// Replaces the descriptions of the items of \a version by \a notes.
 void EditNotes(FeedEdit& feed, QString const& version, std::vector<ReleaseNotes> const& notes);
 
-/// Removes the items of all but the newest \a keptVersions versions. Withdrawn items stay, since they keep their
-/// archives from being published again. Refuses when a client would be offered something else afterwards.
+/// Removes the items of all versions except the newest \a keptVersions. Withdrawn items stay, because they prevent that
+/// their archives are published again. Throws Refusal if a client would be offered another item afterwards.
 void Prune(FeedEdit& feed, int keptVersions);
 
 } // namespace Pelnar::Publisher

@@ -128,7 +128,7 @@ private:
         return result;
     }
 
-    /// A delta that the client never looks at keeps its verdict; the detail says why it does not count.
+    /// A delta that the client does not consider keeps its verdict. The detail says why it does not count.
     void LookAtDelta(ItemExplanation& delta, FeedItem const& parent) const
     {
         if (delta.standing == Standing::LeftOut)
@@ -162,7 +162,7 @@ private:
         }
     }
 
-    /// Empty when the answer is definite.
+    /// Empty if the answer is definite.
     QString OtherAnswers(FeedItem const& item) const
     {
         QStringList others;

@@ -1,5 +1,5 @@
-// Explanation.h: what a client makes of every item and delta of a feed, and why.
-// Ownership: an explanation points into the items that it was made from.
+// Explanation.h: a client's verdict on every item and delta of a feed, and the reason. Ownership: an explanation points
+// to the items from which it was made.
 #pragma once
 
 #include "Publisher/choice/FeedChoice.h"
@@ -12,15 +12,15 @@
 namespace Pelnar::Publisher
 {
 
-/// The standing of an item or a delta in the client's choice.
+/// The state of an item or a delta in the client's choice.
 enum class Standing
 {
     Chosen,
     Rival,    ///< a delta that may be chosen instead: see FeedChoice
-    Lost,     ///< valid, and another was preferred
+    Lost,     ///< valid, but another one was preferred
     Refused,  ///< fails a test
     LeftOut,  ///< by the engine: the session does not see it
-    NotAsked, ///< a delta that the client does not look at
+    NotAsked, ///< a delta that the client does not consider
 };
 
 struct ItemExplanation
@@ -28,10 +28,10 @@ struct ItemExplanation
     Engine::FeedItem const* item = nullptr;
     int index = 0; ///< in the feed, or among the deltas of the item; from 0
     App::Session::UpdateType updateType = App::Session::UpdateType::UNKNOWN;
-    App::Session::Judgement verdict = App::Session::Judgement::VALID; ///< of a delta that is not asked for, too
+    App::Session::Judgement verdict = App::Session::Judgement::VALID; ///< also of a delta that is not considered
     Engine::PolicyVerdict policy = Engine::PolicyVerdict::Plain;
     Standing standing = Standing::Refused;
-    QString detail; ///< the test with the two values that it compared, or how the item lost
+    QString detail; ///< the test with its two values, or how the item lost
     QVariantMap extensions;
     std::vector<ItemExplanation> deltas;
 
@@ -42,7 +42,7 @@ struct ItemExplanation
 struct Explanation
 {
     FeedChoice choice;
-    int chosenIndex = 0; ///< of the item that was chosen or whose delta was
+    int chosenIndex = 0; ///< of the chosen item, or of the item of the chosen delta
     std::vector<ItemExplanation> items;
 };
 

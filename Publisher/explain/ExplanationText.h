@@ -1,4 +1,4 @@
-// ExplanationText.h: an explanation as text for a person, and as JSON. docs/formats/explain-json.md holds the schema.
+// ExplanationText.h: an explanation as text for a person, and as JSON. docs/formats/explain-json.md describes the JSON.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// What the explanation answers, as the person asked it.
+/// The person's question that the explanation answers.
 struct ExplainQuestion
 {
     QString feed;

@@ -21,7 +21,7 @@ namespace
 
 QString const MEND = u"check that the folder is there, who may write to it, and the space on the disk"_s;
 
-/// The permissions that the user gives to new files.
+/// The permissions of new files of this user.
 mode_t NewFileMode()
 {
     mode_t const mask = ::umask(0);
@@ -34,7 +34,7 @@ mode_t NewFileMode()
     throw Refusal({path, u"is there already"_s, u"name another, or remove it"_s});
 }
 
-/// Gives what is called \a hiddenName in the open folder its place at \a path, which is in the same folder.
+/// Renames \a hiddenName in the open folder to \a path, which is in the same folder.
 void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path, ExistingFile existing)
 {
     QByteArray const name = QFile::encodeName(QFileInfo(path).fileName());
@@ -125,7 +125,7 @@ void AtomicFile::LinkHidden()
     {
         return;
     }
-    // A link replaces nothing, so that the file comes to its name by a rename, as one that had a hidden name all along.
+    // A link cannot replace a file. So the file gets a hidden name first, and then its name by a rename.
     std::string const self = "/proc/self/fd/" + std::to_string(Descriptor());
     QFileInfo const target(m_path);
     QByteArray const hidden = '.' + QFile::encodeName(target.fileName()) + '.' + QByteArray::number(qint64(::getpid()));
@@ -169,7 +169,7 @@ void AtomicFile::NameForNow()
 
 void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last)
 {
-    // What takes its time comes first: between the first name and the last there is little left to be interrupted in.
+    // The slow steps come first, so that little time is left for an interruption between the first name and the last.
     last.Sync();
     last.LinkHidden();
     for (std::unique_ptr<AtomicFile> const& file : files)

@@ -1,5 +1,5 @@
-// AtomicFile.h: a new file or folder that is seen under its name only when it is complete.
-// Ownership: a scope object; what was not committed is gone when it goes.
+// AtomicFile.h: a new file or folder that gets its name only when it is complete. Ownership: a scope object; without a
+// commit it removes the file.
 #pragma once
 
 #include "Publisher/files/InputFile.h"
@@ -15,7 +15,7 @@
 namespace Pelnar::Publisher
 {
 
-/// What becomes of a file that already has the name.
+/// What happens to an existing file with the name.
 enum class ExistingFile
 {
     Replace,
@@ -25,15 +25,15 @@ enum class ExistingFile
 class AtomicFile
 {
 public:
-    /// Opens a file without a name, or where there are none a hidden one, in the folder of \a path, of the permissions
-    /// that a new file has. Throws Refusal.
+    /// Opens a file without a name, or a hidden one if the file system has none without names. It is in the folder of
+    /// \a path and has the permissions of a new file. Throws Refusal.
     explicit AtomicFile(QString const& path);
     ~AtomicFile();
     AtomicFile(AtomicFile const&) = delete;
     AtomicFile& operator=(AtomicFile const&) = delete;
 
     int Descriptor() const { return m_descriptor.Get(); }
-    /// What was written so far, under the name that it will have. Throws Refusal.
+    /// The bytes written so far, with the final name for messages. Throws Refusal.
     InputFile ForReading() const;
     void Write(QByteArray const& bytes);
     /// Writes everything to the disk and gives the file its name. Throws Refusal.

@@ -2,7 +2,7 @@
 // caller, which outlives the verb.
 #pragma once
 
-#include "common/TextLiterals.h"
+#include "Publisher/TextLiterals.h"
 
 #include <QByteArray>
 #include <QJsonObject>

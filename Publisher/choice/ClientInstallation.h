@@ -4,7 +4,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/Contest.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "HostFramework/Version.h"
-#include "common/TextLiterals.h"
+#include "Publisher/TextLiterals.h"
 
 #include <vector>
 

@@ -2,7 +2,7 @@
 // Thread: constants. The command line, the reports and docs/lint-rules.md are all made from this table.
 #pragma once
 
-#include "common/TextLiterals.h"
+#include "Publisher/TextLiterals.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 // HttpRequest.h: what the test server understands of a request, and the range of a file that it asks for.
 #pragma once
 
-#include "common/TextLiterals.h"
+#include "Publisher/TextLiterals.h"
 
 #include <QByteArray>
 #include <QString>

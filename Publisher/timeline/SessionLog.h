@@ -3,7 +3,7 @@
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
-#include "common/TextLiterals.h"
+#include "Publisher/TextLiterals.h"
 
 #include <QString>
 

@@ -80,8 +80,9 @@ void AddCheckRelease(CLI::App& program, VerbContext& context)
         [](Options const& given, Console const& console)
         { return JudgeRelease(console, [&] { return Check(given, console); }); });
     verb.add_option("RELEASE", options.release,
-                    "Folder with appcast.xml and its archives, the feed's file, or the address of the published feed, "
-                    "whose downloads are fetched then")
+                    "Folder with appcast.xml and its archives, the feed's file in it, or the address of the published "
+                    "feed, whose downloads are fetched then. The folder must have each download that clients take; "
+                    "one of an older version may be missing, and is not judged")
         ->required();
     AddMachineOption(verb, options.machines, "it is this one, and every other that the feed names");
     AddPublicKeysOption(verb, options.publicKeys,

@@ -77,6 +77,38 @@ bool IsContainer(FeedItem const& item, FeedPlatform platform)
     return platform == FeedPlatform::Linux || !isInstaller;
 }
 
+/// True if all that \a newer names hold for what \a older names too. An empty list is unbounded.
+bool Covers(QStringList const& newer, QStringList const& older)
+{
+    return newer.isEmpty() || (!older.isEmpty() && std::all_of(older.begin(), older.end(),
+                                                               [&newer](QString const& machine)
+                                                               { return Engine::SuitsMachine(newer, machine); }));
+}
+
+bool IsRolledOut(FeedItem const& item)
+{
+    QDateTime const last = Engine::RolloutTime(item, Engine::ROLLOUT_GROUPS - 1);
+    return !last.isValid() || last <= QDateTime::currentDateTimeUtc();
+}
+
+/// True if every client that could take \a older is offered \a newer.
+bool IsSuccessor(FeedItem const& newer, FeedItem const& older, FeedPlatform platform)
+{
+    QStringList const newKeys = Engine::SignersOf(newer);
+    QStringList const oldKeys = Engine::SignersOf(older);
+    auto const isNoTighter = [&](auto const& valueOf)
+    { return valueOf(newer).isEmpty() || valueOf(newer) == valueOf(older); };
+    return VersionOf(older, platform, {}).version < VersionOf(newer, platform, {}).version &&
+           !newer.policy.isWithdrawn && newer.policy.channel == older.policy.channel && IsRolledOut(newer) &&
+           Covers(newer.policy.machines, older.policy.machines) &&
+           Covers(newer.policy.hardware, older.policy.hardware) &&
+           isNoTighter([](FeedItem const& item) { return item.minimumSystemVersion; }) &&
+           isNoTighter([](FeedItem const& item) { return item.maximumSystemVersion; }) &&
+           isNoTighter([](FeedItem const& item) { return item.policy.minimumUpdateVersion; }) &&
+           (newKeys.isEmpty() || std::all_of(oldKeys.begin(), oldKeys.end(),
+                                             [&newKeys](QString const& key) { return newKeys.contains(key); }));
+}
+
 class PlatformCheck
 {
 public:
@@ -91,9 +123,11 @@ public:
     {
     }
 
-    /// \a items: oldest first, so that the clients of an item are known when it is judged.
-    void Check(std::vector<FeedItem> const& items)
+    /// \a items: oldest first, so that the clients of an item are known when it is judged. \a offered: all of the
+    /// platform.
+    void Check(std::vector<FeedItem> const& items, std::vector<FeedItem> const& offered)
     {
+        m_offered = &offered;
         for (FeedItem const& item : items)
         {
             GatedVersion version = VersionOf(item, m_platform, m_request.feedName);
@@ -104,13 +138,40 @@ public:
     }
 
 private:
-    void CheckItem(FeedItem const& item, std::vector<FeedItem> const& items, GatedVersion& version)
+    bool IsTaken(FeedItem const& item) const
     {
-        std::optional<InputFile> const file = m_files.Open(item);
+        return !item.policy.isWithdrawn &&
+               std::none_of(m_offered->begin(), m_offered->end(),
+                            [&](FeedItem const& other) { return IsSuccessor(other, item, m_platform); });
+    }
+
+    /// The file of \a download, which is that of \a item or another one of it. The publisher may have removed those
+    /// that clients take no longer.
+    std::optional<InputFile> Open(FeedItem const& download, FeedItem const& item) const
+    {
+        std::optional<InputFile> file = m_files.Open(download);
         if (!file)
         {
-            m_console.Print(u"%1: version %2 is not judged: %3 is not in the folder"_s.arg(
-                version.path, item.versionString, item.fileUrl.fileName()));
+            QString const name = VersionOf(item, m_platform, m_request.feedName).path;
+            QString const missing = u"%1 is not in the folder"_s.arg(download.fileUrl.fileName());
+            if (IsTaken(item))
+            {
+                m_refusals.Add({name, u"version %1 cannot be judged: %2"_s.arg(item.versionString, missing),
+                                u"put the published file back; prune removes versions that no client takes"_s});
+            }
+            else
+            {
+                m_console.Print(u"%1: version %2 is not judged: %3"_s.arg(name, item.versionString, missing));
+            }
+        }
+        return file;
+    }
+
+    void CheckItem(FeedItem const& item, std::vector<FeedItem> const& items, GatedVersion& version)
+    {
+        std::optional<InputFile> const file = Open(item, item);
+        if (!file)
+        {
             return;
         }
         CheckLength(*file, item);
@@ -127,11 +188,11 @@ private:
             CheckBundleForClients(*bundle, version, m_versions, MachineFor(item), m_refusals);
             for (FeedItem const& recompressed : item.recompressed)
             {
-                m_refusals.Try([&] { CheckRecompressed(recompressed, *bundle); });
+                m_refusals.Try([&] { CheckRecompressed(recompressed, item, *bundle); });
             }
             for (FeedItem const& delta : item.deltas)
             {
-                m_refusals.Try([&] { CheckDelta(delta, items, *bundle); });
+                m_refusals.Try([&] { CheckDelta(delta, item, items, *bundle); });
             }
         }
         m_console.Print(u"%1: version %2, signed by the key %3%4"_s.arg(
@@ -238,9 +299,9 @@ private:
         return id;
     }
 
-    void CheckRecompressed(FeedItem const& recompressed, BundleTree const& target) const
+    void CheckRecompressed(FeedItem const& recompressed, FeedItem const& item, BundleTree const& target) const
     {
-        std::optional<InputFile> const file = m_files.Open(recompressed);
+        std::optional<InputFile> const file = Open(recompressed, item);
         if (!file)
         {
             return;
@@ -259,9 +320,10 @@ private:
         }
     }
 
-    void CheckDelta(FeedItem const& delta, std::vector<FeedItem> const& items, BundleTree const& target) const
+    void CheckDelta(FeedItem const& delta, FeedItem const& item, std::vector<FeedItem> const& items,
+                    BundleTree const& target) const
     {
-        std::optional<InputFile> const file = m_files.Open(delta);
+        std::optional<InputFile> const file = Open(delta, item);
         if (!file || delta.contentLength == 0 || (delta.edSignature.isEmpty() && delta.signatures.empty()))
         {
             return;
@@ -285,6 +347,7 @@ private:
 
     ReleaseCheckRequest const& m_request;
     FeedPlatform const m_platform;
+    std::vector<FeedItem> const* m_offered = nullptr;
     ReleaseFiles& m_files;
     Console const& m_console;
     RefusalList& m_refusals;
@@ -310,7 +373,8 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
     RefusalList refusals;
     ReleaseFiles files(request.folder, console);
     std::vector<FeedItem> const linuxItems = ItemsOf(request, FeedPlatform::Linux);
-    std::vector<FeedItem> macItems = ItemsOf(request, FeedPlatform::MacOS);
+    std::vector<FeedItem> const allMacItems = ItemsOf(request, FeedPlatform::MacOS);
+    std::vector<FeedItem> macItems = allMacItems;
     // Items for both platforms were already checked as items for Linux.
     macItems.erase(std::remove_if(macItems.begin(), macItems.end(),
                                   [&linuxItems](FeedItem const& item)
@@ -320,8 +384,8 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
                                                          { return other.fileUrl == item.fileUrl; });
                                   }),
                    macItems.end());
-    PlatformCheck(request, FeedPlatform::Linux, files, console, refusals).Check(linuxItems);
-    PlatformCheck(request, FeedPlatform::MacOS, files, console, refusals).Check(macItems);
+    PlatformCheck(request, FeedPlatform::Linux, files, console, refusals).Check(linuxItems, linuxItems);
+    PlatformCheck(request, FeedPlatform::MacOS, files, console, refusals).Check(macItems, allMacItems);
     refusals.ThrowIfAny();
     if (linuxItems.empty() && macItems.empty() && errors.empty())
     {

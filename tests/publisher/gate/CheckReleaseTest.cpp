@@ -1,5 +1,6 @@
 // CheckReleaseTest.cpp: "check-release" for a folder and for a server: judges what is published as clients will.
 
+#include "Publisher/keys/KeyId.h"
 #include "tests/engine/KeyStatementText.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/LoopbackServer.h"
@@ -29,17 +30,19 @@ BundleText Version(std::string const& version)
 class HandMadeRelease
 {
 public:
-    void Add(BundleText const& text, char signerSeed = 7, std::vector<ForgedEntry> const& entries = {})
+    void Add(BundleText const& text, char signerSeed = 7, std::vector<ForgedEntry> const& entries = {},
+             std::string const& elements = {})
     {
         std::string const name = "Test-" + text.version + ".zip";
         std::string const archive = MakeArchive(Container::Zip, entries.empty() ? MakePublishedBundle(text) : entries);
         m_folder.Put(name, archive);
-        AddItem(text.version, "https://updates.example.com/" + name, archive, signerSeed);
+        AddItem(text.version, "https://updates.example.com/" + name, archive, signerSeed, elements);
     }
 
-    void AddItem(std::string const& version, std::string const& url, std::string const& archive, char signerSeed = 7)
+    void AddItem(std::string const& version, std::string const& url, std::string const& archive, char signerSeed = 7,
+                 std::string const& elements = {})
     {
-        m_items += "<item>\n<enclosure url=\"" + url + "\" sparkle:version=\"" + version +
+        m_items += "<item>" + elements + "\n<enclosure url=\"" + url + "\" sparkle:version=\"" + version +
                    "\" sparkle:os=\"linux\" length=\"" + std::to_string(archive.size()) + "\" sparkle:edSignature=\"" +
                    Base64(Sign(archive, MakeKeyPair(signerSeed))) + "\"/></item>\n";
     }
@@ -186,6 +189,49 @@ TEST_F(CheckRelease, ArchiveOutsideTheFolderIsReportedAsNotJudged)
     EXPECT_EQ(run.status, 0) << run.err;
     EXPECT_NE(run.out.find("version 1.0 is not judged: Test-1.0.zip is not in the folder"), std::string::npos)
         << run.out;
+}
+
+TEST_F(CheckRelease, NewestArchiveThatIsMissingIsAnError)
+{
+    HandMadeRelease release;
+    release.Add(Version("1.0"));
+    release.Add(Version("2.0"));
+    release.Folder().Remove("Test-2.0.zip");
+    ExpectSaid(release.Check(), {"version 2.0 cannot be judged: Test-2.0.zip is not in the folder"});
+}
+
+TEST_F(CheckRelease, ArchiveThatSomeClientsStillTakeMustBeThere)
+{
+    std::string const own = " xmlns:p=\"https://pelnar.example/xml-namespaces/appcast\"";
+    std::string const keys =
+        "<p:keys" + own + " signer=\"" + Publisher::KeyIdOf(MakeKeyPair(7).publicKey).toStdString() + "\"/>";
+    for (std::string const& elements :
+         std::vector<std::string>{"<sparkle:channel>beta</sparkle:channel>",
+                                  "<sparkle:minimumSystemVersion>99</sparkle:minimumSystemVersion>",
+                                  "<sparkle:maximumSystemVersion>99</sparkle:maximumSystemVersion>",
+                                  "<sparkle:minimumUpdateVersion>1.5</sparkle:minimumUpdateVersion>",
+                                  "<sparkle:hardwareRequirements>aarch64</sparkle:hardwareRequirements>",
+                                  "<pubDate>Mon, 07 Jan 2999 10:00:00 +0000</pubDate>"
+                                  "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>",
+                                  "<p:withdrawn" + own + "/>", "<p:keys" + own + " signer=\"0011223344556677\"/>"})
+    {
+        HandMadeRelease release;
+        release.Add(Version("1.0"), 7, {}, keys);
+        release.Add(Version("2.0"), 7, {}, elements);
+        release.Folder().Remove("Test-1.0.zip");
+        ExpectSaid(release.Check(), {"version 1.0 cannot be judged: Test-1.0.zip is not in the folder"});
+    }
+}
+
+TEST_F(CheckRelease, OtherDownloadsOfTheNewestVersionMustBeThere)
+{
+    PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    folder.PutVersion("2.0");
+    folder.GeneratedFeed();
+    folder.Remove("Test-1.0-2.0.delta");
+    ExpectSaid(RunTool({QStringLiteral("check-release"), QString::fromStdString(folder.Path())}),
+               {"version 2.0 cannot be judged: Test-1.0-2.0.delta is not in the folder"});
 }
 
 TEST_F(CheckRelease, DeltaThatMakesAnotherBundleIsNamed)

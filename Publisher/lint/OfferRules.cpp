@@ -41,18 +41,48 @@ void CheckPolicies(LintElement const& item, LintFindings& findings)
     }
 }
 
-/// An empty variable of a publisher's script.
-void CheckEmptyPolicies(LintElement const& item, LintFindings& findings)
+/// Elements that bound who gets an item.
+constexpr char const* BOUNDS[] = {"channel", "hardwareRequirements", "minimumUpdateVersion", "minimumSystemVersion",
+                                  "maximumSystemVersion"};
+
+/// What follows if \a child of \a parent is empty. No text if it is no bound.
+QString EffectOfEmpty(LintElement const& parent, LintElement const& child)
 {
-    for (LintElement const& child : item.children)
+    bool const isOffer =
+        std::any_of(std::begin(BOUNDS), std::end(BOUNDS), [&](char const* name) { return child.name.IsFeeds(name); });
+    bool const isVersion = child.name.IsFeeds("minimumAutoupdateVersion") || child.name.IsFeeds("belowVersion") ||
+                           (child.name.IsFeeds("version") && parent.name.IsFeeds("informationalUpdate"));
+    return isOffer ? u"so everybody gets the item"_s : isVersion ? u"and bounds nothing"_s : QString();
+}
+
+QString EffectOfEmpty(LintElement const& element, LintName const& attribute)
+{
+    bool const isMachine =
+        attribute.local == "machine"_l && attribute.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE);
+    bool const isVersion = element.name.IsFeeds("criticalUpdate") && attribute.IsFeeds("version");
+    return isMachine ? u"so everybody gets the item"_s : isVersion ? u"and bounds nothing"_s : QString();
+}
+
+/// Empty variables of a publisher's script, in \a parent.
+void CheckEmptyPolicies(LintElement const& parent, LintFindings& findings)
+{
+    for (LintElement const& child : parent.children)
     {
-        bool const isBound = child.name.IsFeeds("channel") || child.name.IsFeeds("hardwareRequirements") ||
-                             child.name.IsFeeds("minimumUpdateVersion");
-        if (isBound && child.text.trimmed().isEmpty())
+        auto const check = [&](QString const& text, QString const& name, QString const& effect)
         {
-            findings.Add(LintRule::PolicyUnreadable, child.place,
-                         u"<%1> is empty, so everybody gets the item"_s.arg(child.name.qualified));
+            if (text.trimmed().isEmpty() && !effect.isEmpty())
+            {
+                findings.Add(LintRule::PolicyUnreadable, child.place, u"%1 is empty, %2"_s.arg(name, effect));
+            }
+        };
+        QString const name = u'<' + child.name.qualified + u'>';
+        check(child.text, name, EffectOfEmpty(parent, child));
+        for (LintAttribute const& attribute : child.attributes)
+        {
+            check(attribute.value, u"%1 of %2"_s.arg(attribute.name.qualified, name),
+                  EffectOfEmpty(child, attribute.name));
         }
+        CheckEmptyPolicies(child, findings);
     }
 }
 

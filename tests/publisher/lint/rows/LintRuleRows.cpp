@@ -291,6 +291,22 @@ void AddPolicyCases(std::vector<LintCase>& cases)
               "policy-unreadable 2:7 <sparkle:hardwareRequirements> is empty, so everybody gets the item"},
           Row{"PolicyMinimumOfAnEmptyVariable", "<sparkle:minimumUpdateVersion></sparkle:minimumUpdateVersion>",
               "policy-unreadable 2:7 <sparkle:minimumUpdateVersion> is empty, so everybody gets the item"},
+          Row{"PolicyAutomaticMinimumOfAnEmptyVariable", "<sparkle:minimumAutoupdateVersion/>",
+              "policy-unreadable 2:7 <sparkle:minimumAutoupdateVersion> is empty, and bounds nothing"},
+          Row{"SystemMinimumOfAnEmptyVariable", "<sparkle:minimumSystemVersion/>",
+              "policy-unreadable 2:7 <sparkle:minimumSystemVersion> is empty, so everybody gets the item"},
+          Row{"SystemMaximumOfAnEmptyVariable", "<sparkle:maximumSystemVersion> </sparkle:maximumSystemVersion>",
+              "policy-unreadable 2:7 <sparkle:maximumSystemVersion> is empty, so everybody gets the item"},
+          Row{"PolicyCriticalBoundOfAnEmptyVariable", "<sparkle:criticalUpdate sparkle:version=' '/>",
+              "policy-unreadable 2:7 sparkle:version of <sparkle:criticalUpdate> is empty, and bounds nothing"},
+          Row{"PolicyInformationalVersionOfAnEmptyVariable",
+              "<sparkle:informationalUpdate><sparkle:version/></sparkle:informationalUpdate>"
+              "<link>https://a.example/5.1</link>",
+              "policy-unreadable 2:36 <sparkle:version> is empty, and bounds nothing"},
+          Row{"PolicyInformationalBoundOfAnEmptyVariable",
+              "<sparkle:informationalUpdate><sparkle:belowVersion/></sparkle:informationalUpdate>"
+              "<link>https://a.example/5.1</link>",
+              "policy-unreadable 2:36 <sparkle:belowVersion> is empty, and bounds nothing"},
           Row{"PolicyHardwarePasses", "<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>", ""},
           Row{"PolicyHardwareOfNobody", "<sparkle:hardwareRequirements>abacus</sparkle:hardwareRequirements>",
               "policy-unreadable 2:1 no client is on the machine \"abacus\""},
@@ -317,6 +333,10 @@ void AddPolicyCases(std::vector<LintCase>& cases)
     {
         cases.push_back({row.name, FeedOf(Item("5.1", QByteArray::fromStdString(row.elements))), row.found});
     }
+}
+
+void AddMachineCases(std::vector<LintCase>& cases)
+{
     QByteArray const own = " xmlns:p='https://pelnar.example/xml-namespaces/appcast'";
     cases.push_back({"OneVersionForTwoMachinesPasses",
                      FeedOf("<item>" + Enclosure("5.1", own + " p:machine='x86_64'") + "</item><item>" +
@@ -328,6 +348,9 @@ void AddPolicyCases(std::vector<LintCase>& cases)
                      ""});
     cases.push_back({"MachineOfNobody", FeedOf("<item>" + Enclosure("5.1", own + " p:machine='abacus'") + "</item>"),
                      "policy-unreadable 2:1 no client is on the machine \"abacus\""});
+    cases.push_back({"MachineOfAnEmptyVariable",
+                     FeedOf("<item>" + Enclosure("5.1", own + " p:machine=' '") + "</item>"),
+                     "policy-unreadable 2:7 p:machine of <enclosure> is empty, so everybody gets the item"});
     cases.push_back({"WithdrawnItemBesideItsSuccessorPasses",
                      FeedOf("<item><p:withdrawn" + own + "/>" + Enclosure("5.1") + "</item>" + Item("5.1")), ""});
 }
@@ -530,8 +553,8 @@ std::vector<LintCase> const& LintCases()
     {
         std::vector<LintCase> made;
         for (auto* const add :
-             {AddDocumentCases, AddNameCases, AddVersionCases, AddOfferCases, AddPolicyCases, AddAddressCases,
-              AddSystemCases, AddDownloadCases, AddDeltaCases, AddExtensionCases, AddNotesCases})
+             {AddDocumentCases, AddNameCases, AddVersionCases, AddOfferCases, AddPolicyCases, AddMachineCases,
+              AddAddressCases, AddSystemCases, AddDownloadCases, AddDeltaCases, AddExtensionCases, AddNotesCases})
         {
             add(made);
         }

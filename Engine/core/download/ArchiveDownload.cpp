@@ -288,12 +288,7 @@ private:
         }
         Result<FetchRequest> const next = JudgeRedirect(m_sent, answeredFrom, head.Values("location"), ++m_redirects,
                                                         m_request.insecureHttp, m_request.limits);
-        if (!next)
-        {
-            End(AsDownloadError(next.error()));
-            return;
-        }
-        Send(*next);
+        next ? Send(*next) : TakeFailure(next.error());
     }
 
     void TakeBodyEnd(HttpHead const& head)
@@ -342,9 +337,9 @@ private:
         m_writer->Flush();
         if (!m_hasReceived || !IsPassing(error) || m_resumes >= m_request.limits.maxResumes)
         {
-            bool const mayBeTheRange = error.httpStatus != 0 && !m_sent.rangeFields.empty();
             // Some servers and proxies fail at the range alone. The bytes stay until a whole answer begins.
-            mayBeTheRange && !std::exchange(m_hasAskedWhole, true) ? Ask({}) : End(error);
+            !m_sent.rangeFields.empty() && IsAnswersFault(error) && !std::exchange(m_hasAskedWhole, true) ? Ask({})
+                                                                                                          : End(error);
             return;
         }
         LOG(INFO) << "The download goes on after a pause: " << error.sentence.English().toStdString();

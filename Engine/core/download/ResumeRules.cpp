@@ -99,6 +99,12 @@ bool IsPassing(EngineError const& error)
            std::find(STATUSES.begin(), STATUSES.end(), error.httpStatus) != STATUSES.end();
 }
 
+bool IsAnswersFault(EngineError const& error)
+{
+    return error.httpStatus != 0 ||
+           (!IsPassing(error) && !IsAboutTheArchive(error.cause) && BlameOf(error) != Blame::Network);
+}
+
 bool IsAboutTheArchive(ErrorCause cause)
 {
     return cause == ErrorCause::DownloadLengthDiffers || cause == ErrorCause::SurplusBody;

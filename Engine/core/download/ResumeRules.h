@@ -43,6 +43,9 @@ struct ResumeRules
 /// True for a failure that may disappear soon.
 [[nodiscard]] bool IsPassing(EngineError const& error);
 
+/// True if the server's answer was refused, though the archive may be the right one.
+[[nodiscard]] bool IsAnswersFault(EngineError const& error);
+
 /// True if the server's archive cannot be the archive of the feed, so that no part of it is worth keeping.
 [[nodiscard]] bool IsAboutTheArchive(ErrorCause cause);
 

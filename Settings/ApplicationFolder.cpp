@@ -175,7 +175,7 @@ OpenedFolder OpenApplicationFolder(ApplicationFolder const& place, MissingFolder
     }
     if (missing == MissingFolder::Make)
     {
-        ::mkdirat(above.Get(), place.name.c_str(), S_IRWXU);
+        static_cast<void>(Engine::MakePrivateFolder(above.Get(), place.name)); // it may exist
     }
     return OpenIn(above, place);
 }

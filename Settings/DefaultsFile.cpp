@@ -172,6 +172,7 @@ public:
             m_failure = std::strerror(errno);
             return;
         }
+        Engine::LetOwnerWrite(m_file.Get());
         auto const end = std::chrono::steady_clock::now() + LONGEST_WAIT;
         while (::flock(m_file.Get(), LOCK_EX | LOCK_NB) != 0)
         {

@@ -33,6 +33,10 @@ UniqueFd OpenAt(int folder, std::string const& name, int flags)
     {
         descriptor = openat(folder, name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
     } while (descriptor < 0 && errno == EINTR);
+    if (descriptor >= 0 && (flags & O_CREAT) != 0)
+    {
+        LetOwnerWrite(descriptor);
+    }
     return UniqueFd(descriptor);
 }
 

@@ -30,19 +30,51 @@ void SyncOrThrow(int descriptor)
     }
 }
 
+/// For a folder that a umask has closed to its owner. The name may lead to another folder by now.
+void OpenToOwner(int parentFd, std::string const& name)
+{
+    UniqueFd const folder(::openat(parentFd, name.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    struct stat status;
+    if (folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
+        (status.st_mode & FOLDER_MODE) != FOLDER_MODE)
+    {
+        static_cast<void>(::chmod(("/proc/self/fd/" + std::to_string(folder.Get())).c_str(), FOLDER_MODE));
+    }
+}
+
 } // namespace
+
+bool MakePrivateFolder(int parentFd, std::string const& name)
+{
+    if (::mkdirat(parentFd, name.c_str(), FOLDER_MODE) != 0)
+    {
+        return false;
+    }
+    OpenToOwner(parentFd, name);
+    return true;
+}
+
+void LetOwnerWrite(int fd)
+{
+    struct stat status;
+    if (::fstat(fd, &status) == 0 && S_ISREG(status.st_mode) && status.st_uid == ::geteuid() &&
+        (status.st_mode & ALL_BITS & ~NOTE_MODE) == 0 && (status.st_mode & NOTE_MODE) != NOTE_MODE)
+    {
+        static_cast<void>(::fchmod(fd, NOTE_MODE));
+    }
+}
 
 void MakeFoldersAbove(std::string const& path)
 {
     for (std::size_t end = path.find('/', 1); end != std::string::npos; end = path.find('/', end + 1))
     {
-        static_cast<void>(::mkdir(path.substr(0, end).c_str(), FOLDER_MODE));
+        static_cast<void>(MakePrivateFolder(AT_FDCWD, path.substr(0, end)));
     }
 }
 
 UniqueFd OpenPrivateFolder(std::string const& path)
 {
-    static_cast<void>(::mkdir(path.c_str(), FOLDER_MODE));
+    static_cast<void>(MakePrivateFolder(AT_FDCWD, path)); // the folder may exist
     UniqueFd folder;
     do
     {
@@ -120,6 +152,10 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
     FreeName(folderFd, newName);
     UniqueFd const file(
         ::openat(folderFd, newName.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, NOTE_MODE));
+    if (file)
+    {
+        LetOwnerWrite(file.Get());
+    }
     if (!file || !WriteAll(file.Get(), Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
     {
         ThrowErrno(errno);

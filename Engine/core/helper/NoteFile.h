@@ -11,6 +11,12 @@
 namespace Pelnar::Engine
 {
 
+/// Creates a folder for this user alone, no matter what the umask is. Returns false and sets errno if it cannot.
+[[nodiscard]] bool MakePrivateFolder(int parentFd, std::string const& name);
+
+/// Lets this user read and write a file that was just created, no matter what the umask is.
+void LetOwnerWrite(int fd);
+
 /// Creates the missing folders above \a path, for this user alone. Failures appear when the folders are used.
 void MakeFoldersAbove(std::string const& path);
 

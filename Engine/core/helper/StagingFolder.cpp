@@ -2,6 +2,7 @@
 
 #include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/faults/UpdateFault.h"
+#include "Engine/core/helper/NoteFile.h"
 #include "common/UpdateFiles.h"
 
 #include <cerrno>
@@ -134,7 +135,7 @@ StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
     for (int attempt = 0; attempt < MAX_ATTEMPTS; ++attempt)
     {
         std::string name = UpdateFilePrefix(targetName) + RandomText();
-        if (::mkdirat(parentFd, name.c_str(), PRIVATE_MODE) != 0)
+        if (!MakePrivateFolder(parentFd, name))
         {
             if (errno == EEXIST)
             {

@@ -21,14 +21,13 @@ namespace
 {
 
 constexpr int NAME_BYTES = 16;
-constexpr mode_t FOLDER_MODE = 0700;
 constexpr mode_t OTHERS_CAN_WRITE = 0022;
 
 UniqueFd MakeRecordFolder(QString const& path)
 {
     std::string const name = QFile::encodeName(path).toStdString();
     MakeFoldersAbove(name);
-    static_cast<void>(::mkdir(name.c_str(), FOLDER_MODE)); // the folder may exist
+    static_cast<void>(MakePrivateFolder(AT_FDCWD, name)); // the folder may exist
     UniqueFd folder = OpenRecordFolder(path);
     if (!folder)
     {

@@ -102,16 +102,22 @@ TEST_F(PartialFileTest, PlaceDiffersByAddressLengthAndSignatureAndKeepsNoPasswor
 
 TEST_F(PartialFileTest, FolderAndFileAreTheUsersAlone)
 {
-    LeavePart("part");
-    struct stat status
+    for (mode_t const mask : {022U, 0777U})
     {
-    };
-    ASSERT_EQ(stat(Place().folder.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777, 0700u);
-    for (std::string const& path : {ArchivePath(), RecordPath()})
-    {
-        ASSERT_EQ(stat(path.c_str(), &status), 0);
-        EXPECT_EQ(status.st_mode & 07777, 0600u) << path;
+        folder = place.filePath(QString::number(mask) + QStringLiteral("/b/updates"));
+        mode_t const before = ::umask(mask);
+        LeavePart("part");
+        ::umask(before);
+        struct stat status
+        {
+        };
+        ASSERT_EQ(stat(Place().folder.c_str(), &status), 0);
+        EXPECT_EQ(status.st_mode & 07777, 0700u) << mask;
+        for (std::string const& path : {ArchivePath(), RecordPath()})
+        {
+            ASSERT_EQ(stat(path.c_str(), &status), 0);
+            EXPECT_EQ(status.st_mode & 07777, 0600u) << path;
+        }
     }
 }
 

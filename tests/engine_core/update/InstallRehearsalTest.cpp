@@ -4,6 +4,7 @@
 #include "Engine/core/update/InstallRehearsal.h"
 #include "Engine/core/base/CloseDescriptors.h"
 #include "Engine/core/base/PathText.h"
+#include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/helper/StagingFolder.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/LoopImage.h"
@@ -207,9 +208,43 @@ TEST(InstallRehearsal, FileSystemWithoutPermissionsIsTold)
         [&scene]
         {
             ::umask(0777); // a new folder has no permissions then, as on a file system that does not store them
+            FailCall(SYS_chmod, EPERM);
             return Told(scene.Bundle());
         });
     EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
+}
+
+TEST(InstallRehearsal, MaskOfTheHostIsNoHindrance)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    for (mode_t const mask : {0777U, 0700U, 0400U, 0200U, 0100U})
+    {
+        RehearsalScene const scene;
+        auto const told = [&]
+        {
+            ::umask(mask);
+            return Told(scene.Bundle());
+        };
+        EXPECT_EQ(InChild(told), "ready") << mask;
+        GiveTo(VICTIM, scene.Folder());
+        EXPECT_EQ(AsOtherUser(VICTIM, told), "ready") << mask;
+    }
+}
+
+TEST(InstallRehearsal, MaskOfTheHostIsNotThatOfItsRecords)
+{
+    REQUIRE_ADMINISTRATOR_FOR_USERS();
+    Workspace const place;
+    GiveTo(VICTIM, place.Path());
+    auto const written = [folder = place.Path() + "/a/b/c"]
+    {
+        ::umask(0777);
+        MakeFoldersAbove(folder);
+        UniqueFd const opened = OpenPrivateFolder(folder);
+        WriteNote(opened.Get(), "note", "text");
+        return ReadNote(opened.Get(), "note");
+    };
+    EXPECT_EQ(AsOtherUser(VICTIM, written), "text");
 }
 
 TEST(InstallRehearsal, HelperThatSaysNothingIsTold)

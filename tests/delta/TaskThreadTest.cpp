@@ -49,8 +49,8 @@ TEST(TaskThread, DoesAllTasksInTheirOrderInAnotherThread)
 
 TEST(TaskThread, LetsOnlySoManyTasksWait)
 {
-    TaskThread tasks(AHEAD);
     std::atomic<std::size_t> done = 0;
+    TaskThread tasks(AHEAD); // last, as its thread uses the counter
     for (std::size_t posted = 1; posted <= 100; ++posted)
     {
         tasks.Post(

@@ -46,12 +46,10 @@ ExitStatus Create(CreateOptions const& options, Console const& console)
     BundleTree const after = OpenBundle(console, options.newBundle);
     Engine::DeltaReport const report = MakeDeltaFile(before, after, output, {console.err, EffortOf(options.effort)});
     QString const baseVersion = QString::fromStdString(before.Information().version);
-    console.Print(u"%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole"_s
-                      .arg(output, baseVersion, QString::fromStdString(after.Information().version))
-                      .arg(report.containerBytes)
-                      .arg(CountOf(report.keptFiles, u"file"_s))
-                      .arg(report.patchedFiles)
-                      .arg(report.wholeFiles));
+    console.Print(u"%1: %2 to %3, %4 bytes: %5 kept, %6 patched, %7 whole"_s.arg(
+        output, baseVersion, QString::fromStdString(after.Information().version),
+        QString::number(report.containerBytes), CountOf(report.keptFiles, u"file"_s),
+        QString::number(report.patchedFiles), QString::number(report.wholeFiles)));
     if (signer)
     {
         console.Print(u"sparkle:deltaFrom=\"%1\" %2"_s.arg(baseVersion.toHtmlEscaped(),
@@ -159,10 +157,9 @@ void ShowStored(Console const& console, Engine::DeltaManifest const& manifest)
 
 void ShowText(Console const& console, InputFile const& delta, Engine::DeltaManifest const& manifest)
 {
-    console.Print(u"%1: %2 to %3, %4 bytes"_s
-                      .arg(delta.name, Printable(QString::fromStdString(manifest.baseVersion)),
-                           Printable(QString::fromStdString(manifest.targetVersion)))
-                      .arg(delta.size));
+    console.Print(u"%1: %2 to %3, %4 bytes"_s.arg(delta.name, Printable(QString::fromStdString(manifest.baseVersion)),
+                                                  Printable(QString::fromStdString(manifest.targetVersion)),
+                                                  QString::number(delta.size)));
     for (Engine::DeltaEntry const& entry : manifest.entries)
     {
         console.Print(u"%1 %2  %3%4"_s.arg(QLatin1String(KindName(entry.kind)), -8)

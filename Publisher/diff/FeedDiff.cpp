@@ -75,8 +75,9 @@ bool IsSame(FeedChoice const& a, FeedChoice const& b)
 
 QString LongTextOf(Outcome const& outcome)
 {
-    return outcome.IsUpdate() ? u"%1 (%2 bytes, %3)"_s.arg(TextOf(outcome)).arg(outcome.length).arg(outcome.url)
-                              : TextOf(outcome);
+    return outcome.IsUpdate()
+               ? u"%1 (%2 bytes, %3)"_s.arg(TextOf(outcome), QString::number(outcome.length), outcome.url)
+               : TextOf(outcome);
 }
 
 /// " on all systems: 5.1 BUNDLE -> 5.2 DELTA from 5.0"

@@ -135,7 +135,7 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)
 {
     GatedVersion version;
-    version.path = u"%1:%2"_s.arg(feedName).arg(item.line);
+    version.path = u"%1:%2"_s.arg(feedName, QString::number(item.line));
     version.versionText = item.versionString;
     version.version = WholeVersion(item.versionString);
     version.platform = platform;

@@ -259,12 +259,11 @@ private:
                                           [&](std::string const& text) { return KeyIdOf(text) == each.keyId; });
             if (key != m_keys.end() && !SignerOf(file, each.signature, {*key}))
             {
-                throw Refusal(
-                    {file.name,
-                     u"does not bear the published signature of the key %1 (line %2 of the feed)"_s.arg(each.keyId)
-                         .arg(item.line),
-                     u"put the published file back, or sign it again by that key"_s},
-                    RefusalCause::Content);
+                throw Refusal({file.name,
+                               u"does not bear the published signature of the key %1 (line %2 of the feed)"_s.arg(
+                                   each.keyId, QString::number(item.line)),
+                               u"put the published file back, or sign it again by that key"_s},
+                              RefusalCause::Content);
             }
             ids.append(each.keyId);
         }
@@ -291,8 +290,7 @@ private:
         {
             throw Refusal({file.name,
                            u"is signed by the key %1, but the feed says %2 (line %3); clients that trust "
-                           "the first would leave it out"_s.arg(id, said)
-                               .arg(item.line),
+                           "the first would leave it out"_s.arg(id, said, QString::number(item.line)),
                            u"write signer=\"%1\" into the item's pelnar:keys"_s.arg(id)},
                           RefusalCause::Content);
         }

@@ -354,11 +354,11 @@ void ArchiveIntake::CheckClash(NewItem const& item) const
     {
         if (Clashes(item, published))
         {
-            throw ContentRefusal({m_workplace.PathOf(item.fileName),
-                                  u"is of version %1, which is published already as %2 (line %3 of the feed)"_s
-                                      .arg(item.versionText, published.item.fileUrl.toString())
-                                      .arg(published.item.line),
-                                  mend});
+            throw ContentRefusal(
+                {m_workplace.PathOf(item.fileName),
+                 u"is of version %1, which is published already as %2 (line %3 of the feed)"_s.arg(
+                     item.versionText, published.item.fileUrl.toString(), QString::number(published.item.line)),
+                 mend});
         }
     }
 }

@@ -96,20 +96,20 @@ void Report(Console const& console, QString const& feedFile, std::vector<NewItem
 {
     for (NewItem const& item : items)
     {
-        console.Print(
-            u"added %1, version %2, %3 bytes"_s.arg(item.fileName, item.versionText).arg(item.signature.length));
+        console.Print(u"added %1, version %2, %3 bytes"_s.arg(item.fileName, item.versionText,
+                                                              QString::number(item.signature.length)));
         if (item.recompressed)
         {
-            console.Print(
-                u"  and as %1, %2 bytes"_s.arg(item.recompressed->fileName).arg(item.recompressed->signature.length));
+            console.Print(u"  and as %1, %2 bytes"_s.arg(item.recompressed->fileName,
+                                                         QString::number(item.recompressed->signature.length)));
         }
         for (NewDelta const& delta : item.deltas)
         {
-            console.Print(u"  with %1, from version %2, %3 bytes"_s.arg(delta.fileName, delta.baseVersion)
-                              .arg(delta.signature.length));
+            console.Print(u"  with %1, from version %2, %3 bytes"_s.arg(delta.fileName, delta.baseVersion,
+                                                                        QString::number(delta.signature.length)));
         }
     }
-    console.Print(u"%1: %2 added, %3 kept"_s.arg(feedFile, CountOf(items.size(), u"item"_s)).arg(kept));
+    console.Print(u"%1: %2 added, %3 kept"_s.arg(feedFile, CountOf(items.size(), u"item"_s), QString::number(kept)));
 }
 
 /// With \a made, the archives that the feed names.

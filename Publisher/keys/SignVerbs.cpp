@@ -50,7 +50,7 @@ ExitStatus Verify(VerifyOptions const& options, Console const& console)
         Engine::VerifyFileSignature(archive.descriptor.Get(), options.signature, options.publicKeys);
     if (verdict == Engine::UpdateFault::None)
     {
-        console.Print(u"%1: signed, %2 bytes"_s.arg(archiveName).arg(archive.size));
+        console.Print(u"%1: signed, %2 bytes"_s.arg(archiveName, QString::number(archive.size)));
         return ExitStatus::Clean;
     }
     if (!IsVerdict(verdict))

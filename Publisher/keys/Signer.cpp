@@ -20,7 +20,7 @@ QString TextOf(std::vector<KeyedSignature> const& signatures)
 
 QString AttributesOf(ArchiveSignature const& signature)
 {
-    return u"sparkle:edSignature=\"%1\" length=\"%2\""_s.arg(signature.signature).arg(signature.length);
+    return u"sparkle:edSignature=\"%1\" length=\"%2\""_s.arg(signature.signature, QString::number(signature.length));
 }
 
 void CheckArchiveSize(InputFile const& archive)

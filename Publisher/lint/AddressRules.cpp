@@ -128,8 +128,8 @@ void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& find
         if (OrderOfTexts(item.full.item->versionString, first->full.item->versionString) != 0)
         {
             findings.Add(LintRule::SharedAddress, item.full.Place(),
-                         u"%1 is the address of %2 in line %3 as well"_s.arg(address, NameOf(*first->full.item))
-                             .arg(first->full.Place().line));
+                         u"%1 is the address of %2 in line %3 as well"_s.arg(
+                             address, NameOf(*first->full.item), QString::number(first->full.Place().line)));
         }
     }
 }

@@ -85,8 +85,8 @@ void CheckRepetitions(LintItem const& item, LintFindings& findings)
         if (earlier != later)
         {
             findings.Add(LintRule::DeltaFromRepeated, later->Place(),
-                         u"it starts from %1, as the delta in line %2 does"_s.arg(later->item->deltaFrom)
-                             .arg(earlier->Place().line));
+                         u"it starts from %1, as the delta in line %2 does"_s.arg(
+                             later->item->deltaFrom, QString::number(earlier->Place().line)));
         }
     }
 }

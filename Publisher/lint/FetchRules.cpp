@@ -63,7 +63,8 @@ private:
         else if (quint64(file.size()) != download.item->contentLength)
         {
             Report(LintRule::ArchiveLength, download,
-                   u"%1 has %2 bytes, the feed says %3"_s.arg(path).arg(file.size()).arg(download.item->contentLength));
+                   u"%1 has %2 bytes, the feed says %3"_s.arg(path, QString::number(file.size()),
+                                                              QString::number(download.item->contentLength)));
         }
         else
         {
@@ -94,9 +95,8 @@ private:
         QString sentence = error.sentence.English();
         sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
-               u"%1, of %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded))
-                   .arg(download.item->contentLength)
-                   .arg(sentence));
+               u"%1, of %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded),
+                                                        QString::number(download.item->contentLength), sentence));
     }
 
     void CheckSignature(LintDownload const& download, int descriptor)

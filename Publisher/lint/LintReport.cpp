@@ -50,7 +50,8 @@ QString SummaryOf(std::vector<LintFinding> const& findings)
 void PrintFinding(QString const& feed, LintFinding const& finding, Console const& console)
 {
     LintRuleEntry const& entry = EntryOf(finding.rule);
-    QString const place = u"%1:%2:%3: "_s.arg(feed).arg(finding.place.line).arg(finding.place.column);
+    QString const place =
+        u"%1:%2:%3: "_s.arg(feed, QString::number(finding.place.line), QString::number(finding.place.column));
     console.out.stream << Printable(place).toStdString()
                        << console.out.Styled(EmphasisOf(entry.severity), QLatin1String(SeverityName(entry.severity)))
                        << ": " << console.out.Styled(Emphasis::Bold, QLatin1String(entry.name)) << ": "

@@ -186,8 +186,9 @@ void CheckText(QString const& text, QString const& name, LintPlace place, LintFi
         bool const isBlank = character.value == '\t' || character.value == '\n' || character.value == '\r';
         if (!isBlank && Engine::IsHidden(character.value))
         {
-            findings.Add(LintRule::ControlCharacter, place,
-                         u"%1 has the character U+%2"_s.arg(name).arg(uint(character.value), 4, 16, QChar(u'0')));
+            findings.Add(
+                LintRule::ControlCharacter, place,
+                u"%1 has the character U+%2"_s.arg(name, QString::number(character.value, 16).rightJustified(4, u'0')));
             return;
         }
         index += character.units;

@@ -75,10 +75,9 @@ void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& find
         }
         else if (marked)
         {
-            findings.Add(
-                LintRule::PlatformFirst, marked->place,
-                u"an item for %1 stands before the one for all platforms in line %2"_s.arg(*marked->FeedAttribute("os"))
-                    .arg(enclosure->place.line));
+            findings.Add(LintRule::PlatformFirst, marked->place,
+                         u"an item for %1 stands before the one for all platforms in line %2"_s.arg(
+                             *marked->FeedAttribute("os"), QString::number(enclosure->place.line)));
             return;
         }
     }

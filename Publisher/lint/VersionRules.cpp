@@ -75,9 +75,9 @@ void CheckSpelling(std::vector<LintItem> const& items, LintFindings& findings)
             Core::Version const otherVersion = VersionFromStringNoexcept(other);
             if (other != text && otherVersion.IsValid() && IsSameVersion(version, otherVersion))
             {
-                findings.Add(
-                    LintRule::VersionSpelling, later->full.Place(),
-                    u"%1 is the same version as %2 in line %3"_s.arg(text, other).arg(earlier->full.Place().line));
+                findings.Add(LintRule::VersionSpelling, later->full.Place(),
+                             u"%1 is the same version as %2 in line %3"_s.arg(
+                                 text, other, QString::number(earlier->full.Place().line)));
                 break;
             }
         }
@@ -139,8 +139,8 @@ void CheckPriorities(std::vector<LintItem> const& items, LintFindings& findings)
                 UpdateTypeOf(item) == UpdateTypeOf(other) && ShareSystem(item, other) && ShareClients(item, other))
             {
                 findings.Add(LintRule::SamePriority, later->full.Place(),
-                             u"%1 has the version and the kind of the item in line %2"_s.arg(NameOf(item))
-                                 .arg(earlier->full.Place().line));
+                             u"%1 has the version and the kind of the item in line %2"_s.arg(
+                                 NameOf(item), QString::number(earlier->full.Place().line)));
                 break;
             }
         }

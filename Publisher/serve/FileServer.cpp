@@ -21,7 +21,7 @@ bool FileServer::Listen(quint16 port)
 
 QString FileServer::Address() const
 {
-    return u"%1://127.0.0.1:%2"_s.arg(m_certificate ? u"https"_s : u"http"_s).arg(serverPort());
+    return u"%1://127.0.0.1:%2"_s.arg(m_certificate ? u"https"_s : u"http"_s, QString::number(serverPort()));
 }
 
 void FileServer::incomingConnection(qintptr descriptor)

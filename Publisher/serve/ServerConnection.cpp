@@ -226,9 +226,8 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
                        QByteArray::number(m_rest.end - 1) + '/' + QByteArray::number(qint64(status.st_size)) + "\r\n");
     }
     m_socket.write("Connection: close\r\n\r\n");
-    m_log(u"%1 /%2 %3 %4 bytes"_s.arg(QString::fromLatin1(request.method), Printable(request.path))
-              .arg(code)
-              .arg(length));
+    m_log(u"%1 /%2 %3 %4 bytes"_s.arg(QString::fromLatin1(request.method), Printable(request.path),
+                                      QString::number(code), QString::number(length)));
     if (request.method == "HEAD")
     {
         End();

@@ -99,6 +99,16 @@ TEST(Generate, EveryContainerOfABundleIsRead)
     }
 }
 
+TEST(Generate, NameThatLooksLikeAPlaceholderIsSaidAsItIs)
+{
+    PublisherFolder const folder;
+    BundleText text;
+    text.version = "1.0";
+    folder.Put("Test%2%3.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
+    ToolRun const run = folder.Generate();
+    EXPECT_NE(run.out.find("added Test%2%3.zip, version "), std::string::npos) << run.out << run.err;
+}
+
 TEST(Generate, BundlesOfBothSystemsGetItemsOfTheirOwn)
 {
     PublisherFolder const folder;

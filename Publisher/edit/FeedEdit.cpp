@@ -51,7 +51,8 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
             }
         }
     }
-    if (Bytes() != bytes)
+    // UTF-16 without a mark could be UTF-8 too, but XML has no zero.
+    if (Bytes() != bytes || bytes.contains('\0'))
     {
         throw Refusal(
             {m_name, 1, 0, u"is not UTF-8, and only such feeds are changed"_s, u"convert the feed to UTF-8"_s});

@@ -151,7 +151,7 @@ QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::Fee
 {
     bool const hasMark = content.startsWith(BYTE_ORDER_MARK);
     QString text = QString::fromUtf8(content.constData(), content.size());
-    if ((hasMark ? BYTE_ORDER_MARK + text.toUtf8() : text.toUtf8()) != content)
+    if ((hasMark ? BYTE_ORDER_MARK + text.toUtf8() : text.toUtf8()) != content || content.contains('\0'))
     {
         throw Refusal({name, 1, 0, u"is not UTF-8, and only such feeds are signed"_s, u"convert the feed to UTF-8"_s});
     }

@@ -64,6 +64,25 @@ private:
 
 } // namespace
 
+TEST_F(EditTest, FeedOfAnotherEncodingIsToldAndStays)
+{
+    // Without a mark, each byte of this encoding could be UTF-8 too.
+    QByteArray feed;
+    for (char const each : FeedWith(Item("5.2", BETA) + Item("5.1")))
+    {
+        feed += '\0';
+        feed += each;
+    }
+    Write("appcast.xml", feed);
+    for (ToolRun const& run :
+         {Run("promote", {QStringLiteral("5.2")}), Run("prune", {QStringLiteral("--keep"), QStringLiteral("1")})})
+    {
+        EXPECT_NE(run.status, 0);
+        EXPECT_NE(run.err.find("is not UTF-8"), std::string::npos) << run.out << run.err;
+    }
+    EXPECT_EQ(Feed(), feed.toStdString());
+}
+
 TEST_F(EditTest, PromotionTakesTheChannelOut)
 {
     Write("appcast.xml", FeedWith(Item("5.2", BETA) + Item("5.1")));

@@ -24,19 +24,19 @@ using namespace Pelnar::Testing;
 TEST(Race, ArchiveReplacedUnderItsNameIsStillTheOneThatWasOpenedOrIsRefused)
 {
     Versions const versions;
-    UpdateScene traced;
-    for (int const place : Places(CallsOf(traced, &PrepareIn)))
-    {
-        SCOPED_TRACE(place);
-        UpdateScene scene;
-        HelperOutcome const outcome =
-            PrepareIn(scene, ActAt(place, [&scene] { ReplaceBy(ArchivePath(scene), "something else"); }));
-        bool const isRefused = outcome.Fault() == UpdateFault::ArchiveInUse;
-        EXPECT_EQ(outcome.exitStatus, isRefused ? 1 : 0);
-        EXPECT_TRUE(isRefused || TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
-        EXPECT_EQ(std::filesystem::file_size(ArchivePath(scene)), std::string("something else").size());
-        ExpectRecovered(scene, versions);
-    }
+    AtPlacesOfAPreparation(
+        &PrepareIn,
+        [&](int place)
+        {
+            UpdateScene scene;
+            HelperOutcome const outcome =
+                PrepareIn(scene, ActAt(place, [&scene] { ReplaceBy(ArchivePath(scene), "something else"); }));
+            bool const isRefused = outcome.Fault() == UpdateFault::ArchiveInUse;
+            EXPECT_EQ(outcome.exitStatus, isRefused ? 1 : 0);
+            EXPECT_TRUE(isRefused || TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+            ExpectRecovered(scene, versions);
+            return std::filesystem::file_size(ArchivePath(scene)) == std::string("something else").size();
+        });
 }
 
 TEST(Race, ArchiveCanBeWrittenAtOnceWhenTheHelperHasEnded)
@@ -93,30 +93,35 @@ class ChangedArchive : public testing::TestWithParam<Change>
 TEST_P(ChangedArchive, IsNeverTakenForTheVerifiedOne)
 {
     Versions const versions;
-    UpdateScene traced;
     int stopped = 0;
-    for (int const place : Places(CallsOf(traced, &PrepareIn)))
-    {
-        SCOPED_TRACE(place);
-        UpdateScene scene;
-        std::thread writer;
-        HelperOutcome const outcome =
-            PrepareIn(scene, ActAt(place, [&] { writer = std::thread([&] { GetParam().act(ArchivePath(scene)); }); }));
-        scene.Host().End(); // it has the archive open too
-        scene.ReleaseArchive();
-        writer.join();
-        EXPECT_NE(outcome.signal, SIGBUS);
-        if (outcome.exitStatus == 0)
+    AtPlacesOfAPreparation(
+        &PrepareIn,
+        [&](int place)
         {
-            EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
-        }
-        else
-        {
-            ++stopped;
-            EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
-        }
-        ExpectRecovered(scene, versions);
-    }
+            UpdateScene scene;
+            std::thread writer;
+            HelperOutcome const outcome = PrepareIn(
+                scene, ActAt(place, [&] { writer = std::thread([&] { GetParam().act(ArchivePath(scene)); }); }));
+            bool const isMet = writer.joinable();
+            scene.Host().End(); // it has the archive open too
+            scene.ReleaseArchive();
+            if (isMet)
+            {
+                writer.join();
+            }
+            EXPECT_NE(outcome.signal, SIGBUS);
+            if (outcome.exitStatus == 0)
+            {
+                EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+            }
+            else
+            {
+                ++stopped;
+                EXPECT_EQ(outcome.Find<PreparedReport>(), nullptr);
+            }
+            ExpectRecovered(scene, versions);
+            return isMet;
+        });
     EXPECT_GT(stopped, 0);
 }
 

@@ -52,6 +52,22 @@ inline std::vector<int> Places(int calls)
     return places;
 }
 
+/// Calls \a run for each place of a preparation. It returns false if the run ended before that place: its threads make
+/// fewer calls when they wait less.
+template <typename Run>
+void AtPlacesOfAPreparation(HelperOutcome (*prepare)(UpdateScene&, HelperStart const&), Run const& run)
+{
+    UpdateScene traced;
+    std::vector<int> const places = Places(CallsOf(traced, prepare));
+    std::size_t met = 0;
+    for (int const place : places)
+    {
+        SCOPED_TRACE(place);
+        met += run(place) ? 1 : 0;
+    }
+    EXPECT_GE(met * 3, places.size() * 2) << "too few of the places were met";
+}
+
 inline HelperOutcome PrepareIn(UpdateScene& scene, HelperStart const& start)
 {
     return scene.Prepare(scene.MakePrepareJob(), start);

@@ -28,27 +28,28 @@ using namespace Pelnar::Testing;
 TEST(Race, StagingFolderReplacedByALinkIsNotWrittenThrough)
 {
     Versions const versions;
-    UpdateScene traced;
-    for (int const place : Places(CallsOf(traced, &PrepareIn)))
-    {
-        SCOPED_TRACE(place);
-        UpdateScene scene;
-        Workspace const outside;
-        HelperOutcome const outcome =
-            PrepareIn(scene, ActAt(place,
-                                   [&]
-                                   {
-                                       std::filesystem::rename(scene.StagingPath(), scene.StagingPath() + "-away");
-                                       std::filesystem::create_directory_symlink(outside.Path(), scene.StagingPath());
-                                   }));
-        EXPECT_EQ(outcome.exitStatus, 0) << "the folder is known by its descriptor";
-        EXPECT_TRUE(outside.Names().empty());
-        InstallJob const job = scene.MakeInstallJob(versions.next);
-        scene.Host().End();
-        EXPECT_EQ(scene.Install(job).Fault(), UpdateFault::StagedTreeChanged);
-        EXPECT_TRUE(outside.Names().empty());
-        EXPECT_EQ(ExpectWhole(scene, versions), "1.0");
-    }
+    AtPlacesOfAPreparation(
+        &PrepareIn,
+        [&](int place)
+        {
+            UpdateScene scene;
+            Workspace const outside;
+            bool isReplaced = false;
+            auto const replace = [&]
+            {
+                std::filesystem::rename(scene.StagingPath(), scene.StagingPath() + "-away");
+                std::filesystem::create_directory_symlink(outside.Path(), scene.StagingPath());
+                isReplaced = true;
+            };
+            EXPECT_EQ(PrepareIn(scene, ActAt(place, replace)).exitStatus, 0) << "the folder is known by its descriptor";
+            EXPECT_TRUE(outside.Names().empty());
+            InstallJob const job = scene.MakeInstallJob(versions.next);
+            scene.Host().End();
+            EXPECT_EQ(scene.Install(job).Fault(), isReplaced ? UpdateFault::StagedTreeChanged : UpdateFault::None);
+            EXPECT_TRUE(outside.Names().empty());
+            EXPECT_EQ(ExpectWhole(scene, versions), isReplaced ? "1.0" : "2.0");
+            return isReplaced;
+        });
 }
 
 InstallJob QuietJob(UpdateScene& scene)

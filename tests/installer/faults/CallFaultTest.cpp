@@ -78,8 +78,9 @@ HelperOutcome RunWith(Subject& subject, Place const& place, CallVerdict const& v
 /// Failed calls that end a sanitizer's runtime.
 bool IsTheSanitizersOwn(long call)
 {
-    std::set<long> const calls{SYS_mmap,        SYS_munmap,       SYS_mprotect,       SYS_madvise, SYS_brk,
-                               SYS_sigaltstack, SYS_rt_sigaction, SYS_rt_sigprocmask, SYS_clone};
+    std::set<long> const calls{SYS_mmap,  SYS_munmap,           SYS_mprotect,     SYS_madvise,
+                               SYS_brk,   SYS_sigaltstack,      SYS_rt_sigaction, SYS_rt_sigprocmask,
+                               SYS_clone, SYS_sched_getaffinity};
     return IS_SANITIZED && calls.count(call) != 0;
 }
 

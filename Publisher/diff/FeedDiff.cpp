@@ -24,7 +24,7 @@ struct Border
     QString to;
 };
 
-/// The system right above \a version; invalid if there is none.
+/// The system right above \a version; invalid if \a version is the highest.
 Core::Version RightAbove(Core::Version const& version)
 {
     std::array<std::int32_t, Core::Version::COMPONENT_COUNT> parts =

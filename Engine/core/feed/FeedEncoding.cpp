@@ -49,7 +49,7 @@ QByteArray EncodingByFirstBytes(QByteArray const& bytes)
     return {};
 }
 
-/// The value of encoding="…" in the XML declaration, as written; empty if there is none. The reader may understand an
+/// The value of encoding="…" in the XML declaration, as written; empty without a value. The reader may understand an
 /// odd declaration differently, so its result is compared later.
 QByteArray DeclaredEncoding(QByteArray const& bytes)
 {

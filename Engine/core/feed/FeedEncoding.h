@@ -20,7 +20,7 @@ struct FeedDocument
 /// UTF-8.
 [[nodiscard]] FeedDocument DecodeFeed(QByteArray const& bytes);
 
-/// The offset of the first byte that is not UTF-8; the size of \a bytes if there is none. Overlong forms, surrogates
+/// The offset of the first byte that is not UTF-8; the size of \a bytes if all are UTF-8. Overlong forms, surrogates
 /// and values above U+10FFFF are not UTF-8.
 [[nodiscard]] int FirstBadUtf8(QByteArray const& bytes);
 

@@ -62,7 +62,7 @@ inline int SkipOrdinary(ushort const* units, int from, int size, FeedTextKind ki
     return isTail && AreOrdinary<COUNT>(units + size - COUNT, kind) ? size : from;
 }
 
-/// The index of the first character from \a from on that is dropped; \a size if there is none.
+/// The index of the first dropped character at or after \a from; \a size if no character is dropped.
 int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
 {
     int i = from;

@@ -21,7 +21,7 @@ enum class FeedTextKind
 /// The number of bytes in \a text; 0 if it is not decimal digits or is more than \a most.
 [[nodiscard]] quint64 FeedLength(QStringRef text, quint64 most);
 
-/// The part of the address's file name after its last underscore, without extensions; empty if there is none.
+/// The part of the address's file name after its last underscore, without extensions; empty without an underscore.
 [[nodiscard]] QString VersionInFileName(QUrl const& url);
 
 /// \a text relative to \a base, as Foundation keeps it. Empty for an empty text, an invalid address or one that is too

@@ -20,7 +20,7 @@ public:
 
     /// Steps to the next token. After the end of the document or a refusal the token is always Invalid.
     QXmlStreamReader::TokenType Advance();
-    /// Steps into the next child of the current element. If there is none, steps past the element's end and returns
+    /// Steps into the next child of the current element. After the last child, steps past the element's end and returns
     /// false. Text directly inside is appended to \a text, if it is not null.
     [[nodiscard]] bool EnterChild(QString* text = nullptr);
     /// Refuses the document at this place because it exceeds \a limit.

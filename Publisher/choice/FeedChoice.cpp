@@ -240,6 +240,7 @@ struct FeedChooser::Data
     /// The clients that run this system and trust the keys with these ids.
     using Clients = std::pair<Core::Version, QStringList>;
 
+    void TakeKeys(FeedItem const& item);
     QStringList const& TrustedBy(Core::Version const& version) const;
     FullItems const& WithinReach(Clients const& clients);
 
@@ -251,7 +252,8 @@ struct FeedChooser::Data
     std::pair<Clients const, FullItems> const* lastReach = nullptr;
 };
 
-FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation)
+FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installation installation,
+                         std::vector<FeedItem> const& otherItems)
     : m_data(new Data{std::move(installation), {}, {}, {}, {}})
 {
     Engine::Installation withoutKeys = m_data->installation;
@@ -262,19 +264,25 @@ FeedChooser::FeedChooser(std::vector<FeedItem> const& items, Engine::Installatio
         {
             m_data->newestFirst.push_back(&m_data->items.emplace_back(item, m_data->installation));
         }
-        Core::Version const version =
-            item.trustedKeys.isEmpty() ? Core::Version() : VersionFromStringNoexcept(item.versionString);
-        if (version.IsValid())
-        {
-            m_data->trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
-        }
+        m_data->TakeKeys(item);
     }
+    std::for_each(otherItems.begin(), otherItems.end(), [this](FeedItem const& item) { m_data->TakeKeys(item); });
     std::stable_sort(m_data->newestFirst.begin(), m_data->newestFirst.end(),
                      [](FullItem* a, FullItem* b)
                      { return IsOlderVersion(b->candidate.Version(), a->candidate.Version()); });
 }
 
 FeedChooser::~FeedChooser() = default;
+
+void FeedChooser::Data::TakeKeys(FeedItem const& item)
+{
+    Core::Version const version =
+        item.trustedKeys.isEmpty() ? Core::Version() : VersionFromStringNoexcept(item.versionString);
+    if (version.IsValid())
+    {
+        trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
+    }
+}
 
 QStringList const& FeedChooser::Data::TrustedBy(Core::Version const& version) const
 {

@@ -36,8 +36,10 @@ struct FeedChoice
 class FeedChooser
 {
 public:
-    /// \a items must outlive it. \a installation is common to all clients, except its version.
-    explicit FeedChooser(std::vector<Engine::FeedItem> const& items, Engine::Installation installation = {});
+    /// \a items must outlive it. \a installation is common to all clients, except its version. \a otherItems are not
+    /// offered, but name the keys of versions that \a items do not name.
+    explicit FeedChooser(std::vector<Engine::FeedItem> const& items, Engine::Installation installation = {},
+                         std::vector<Engine::FeedItem> const& otherItems = {});
     ~FeedChooser();
     FeedChooser(FeedChooser const&) = delete;
     FeedChooser& operator=(FeedChooser const&) = delete;

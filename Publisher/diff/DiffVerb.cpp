@@ -22,17 +22,6 @@ struct DiffOptions
     bool isJson = false;
 };
 
-/// All versions that either feed names, and one before them all.
-std::vector<NamedVersion> VersionsOfBoth(std::vector<Engine::FeedItem> const& oldItems,
-                                         std::vector<Engine::FeedItem> const& newItems)
-{
-    std::vector<Engine::FeedItem> items = oldItems;
-    items.insert(items.end(), newItems.begin(), newItems.end());
-    std::vector<NamedVersion> versions = VersionsOfFeed(items);
-    versions.insert(versions.begin(), NamedVersion{u"0"_s, Core::Version(0)});
-    return versions;
-}
-
 QJsonObject JsonOf(std::vector<OutcomeChange> const& changes, QString const& oldName, QString const& newName,
                    QString const& platform)
 {
@@ -70,7 +59,7 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
     ParsedFeed const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
     std::vector<NamedVersion> const versions =
         options.versions.empty()
-            ? VersionsOfBoth(before.items, after.items)
+            ? ClientVersions(before.items, after.items)
             : ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
     std::vector<OutcomeChange> const changes = DiffFeeds(before.items, after.items, versions, installation);
     std::vector<ItemChange> const itemChanges = DiffItems(before.items, after.items);

@@ -199,14 +199,33 @@ std::vector<SystemRange> SystemRanges(std::vector<Engine::FeedItem> const& oldIt
     return ranges;
 }
 
+std::vector<NamedVersion> ClientVersions(std::vector<Engine::FeedItem> const& oldItems,
+                                         std::vector<Engine::FeedItem> const& newItems)
+{
+    std::vector<Engine::FeedItem> items = oldItems;
+    items.insert(items.end(), newItems.begin(), newItems.end());
+    std::size_t const count = items.size();
+    for (std::size_t i = 0; i < count; ++i)
+    {
+        for (QString const& bound : {items[i].policy.minimumUpdateVersion, items[i].policy.criticalBelow})
+        {
+            items.emplace_back().versionString = bound;
+        }
+    }
+    std::vector<NamedVersion> versions = VersionsOfFeed(items);
+    versions.insert(versions.begin(), NamedVersion{u"0"_s, Core::Version(0)});
+    return versions;
+}
+
 std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldItems,
                                      std::vector<Engine::FeedItem> const& newItems,
                                      std::vector<NamedVersion> const& versions,
                                      Engine::Installation const& installation)
 {
     std::vector<SystemRange> const ranges = SystemRanges(oldItems, newItems);
-    FeedChooser oldFeed(oldItems, installation);
-    FeedChooser newFeed(newItems, installation);
+    // What a version trusts does not change when its item goes.
+    FeedChooser oldFeed(oldItems, installation, newItems);
+    FeedChooser newFeed(newItems, installation, oldItems);
     // Items are read once for each system, so systems are the outer loop.
     std::vector<std::vector<OutcomeChange>> changesOf(versions.size());
     std::vector<std::pair<FeedChoice, FeedChoice>> last(versions.size());

@@ -34,6 +34,11 @@ struct OutcomeChange
     Outcome after;
 };
 
+/// The versions between which the outcomes of clients can differ: all that either feed names, the bounds of its items
+/// included, and one before them all.
+std::vector<NamedVersion> ClientVersions(std::vector<Engine::FeedItem> const& oldItems,
+                                         std::vector<Engine::FeedItem> const& newItems);
+
 /// The changes for \a versions; ranges with the same change are joined.
 std::vector<OutcomeChange> DiffFeeds(std::vector<Engine::FeedItem> const& oldItems,
                                      std::vector<Engine::FeedItem> const& newItems,

@@ -2,6 +2,7 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
+#include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/diff/FeedDiff.h"
 
@@ -58,30 +59,64 @@ std::vector<Core::Version> VersionsOf(FeedEdit const& feed)
     return versions;
 }
 
-/// Throws Refusal if a client of any system that lists all channels, or none, gets another item from \a after.
-void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArray const& after)
+/// Clients that an item may be meant for, apart from their versions and systems.
+struct ClientKind
 {
-    for (Engine::FeedPlatform const platform : {Engine::FeedPlatform::Linux, Engine::FeedPlatform::MacOS})
+    QString name;
+    Engine::Installation installation;
+};
+
+/// On \a machine: with no channel and with each one alone, people who ask and automatic checks. The latter are in the
+/// last group for every version that stays, and in the first one for every other: nobody waits for longer.
+std::vector<ClientKind> KindsOfClients(QString const& machine, std::vector<Engine::FeedItem> const& old,
+                                       std::vector<Engine::FeedItem> const& fresh)
+{
+    QStringList channels{QString()};
+    QStringList staged;
+    for (Engine::FeedItem const& item : old)
     {
-        std::vector<Engine::FeedItem> const old =
-            Engine::ParseFeed(before, QUrl(), platform).value_or(Engine::FeedContent()).items;
-        std::vector<Engine::FeedItem> const fresh =
-            Engine::ParseFeed(after, QUrl(), platform).value_or(Engine::FeedContent()).items;
-        std::vector<NamedVersion> versions = VersionsOfFeed(old);
-        versions.insert(versions.begin(), NamedVersion{u"0"_s, Core::Version(0)});
-        Engine::Installation everywhere;
-        for (Engine::FeedItem const& item : old)
+        channels.append(item.policy.channel);
+    }
+    channels.removeDuplicates();
+    for (Engine::FeedItem const& item : fresh)
+    {
+        staged.append(item.policy.rolloutSeconds != 0 ? QStringList(item.versionString) : QStringList());
+    }
+    std::vector<ClientKind> kinds;
+    for (QString const& channel : channels)
+    {
+        ClientKind& kind = kinds.emplace_back();
+        kind.name = u"a client"_s + (machine.isEmpty() ? QString() : u" on "_s + machine) +
+                    (channel.isEmpty() ? QString() : u" of the channel "_s + channel);
+        kind.installation.machine = machine;
+        kind.installation.channels = QStringList(channel);
+        kind.installation.now = QDateTime::currentDateTimeUtc();
+        if (!staged.isEmpty())
         {
-            everywhere.channels.append(item.policy.channel);
+            ClientKind waiting = kind;
+            waiting.name += u" that waits for a staged version"_s;
+            waiting.installation.rolloutGroup = [staged](QString const& version)
+            { return staged.contains(version) ? Engine::ROLLOUT_GROUPS - 1 : 0; };
+            kinds.push_back(std::move(waiting));
         }
-        for (Engine::Installation const& installation : {Engine::Installation(), everywhere})
+    }
+    return kinds;
+}
+
+/// Throws Refusal if a client on \a target would get another item from \a after.
+void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArray const& after,
+                         Engine::FeedTarget const& target)
+{
+    auto const old = Engine::ParseFeed(before, QUrl(), target).value_or(Engine::FeedContent()).items;
+    auto const fresh = Engine::ParseFeed(after, QUrl(), target).value_or(Engine::FeedContent()).items;
+    std::vector<NamedVersion> const versions = ClientVersions(old, fresh);
+    for (ClientKind const& kind : KindsOfClients(target.machine, old, fresh))
+    {
+        QStringList const changes = TextOf(DiffFeeds(old, fresh, versions, kind.installation), versions);
+        if (!changes.isEmpty())
         {
-            QStringList const changes = TextOf(DiffFeeds(old, fresh, versions, installation), versions);
-            if (!changes.isEmpty())
-            {
-                throw Refusal(
-                    {name, u"a client would get something else: %1"_s.arg(changes.first()), u"keep more versions"_s});
-            }
+            throw Refusal(
+                {name, u"%1 would get something else: %2"_s.arg(kind.name, changes.first()), u"keep more versions"_s});
         }
     }
 }
@@ -183,7 +218,15 @@ void Prune(FeedEdit& feed, int keptVersions)
             feed.Remove(item.range);
         }
     }
-    RefuseOtherOutcomes(feed.Name(), before, feed.Bytes());
+    std::vector<std::string> machines = Engine::MachineNames();
+    machines.insert(machines.begin(), std::string()); // any
+    for (Engine::FeedPlatform const platform : {Engine::FeedPlatform::Linux, Engine::FeedPlatform::MacOS})
+    {
+        for (std::string const& machine : machines)
+        {
+            RefuseOtherOutcomes(feed.Name(), before, feed.Bytes(), {platform, QString::fromStdString(machine)});
+        }
+    }
 }
 
 } // namespace Pelnar::Publisher

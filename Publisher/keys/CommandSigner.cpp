@@ -10,6 +10,7 @@
 #include <chrono>
 #include <memory>
 
+#include <signal.h>
 #include <sys/mman.h>
 #include <wordexp.h>
 
@@ -61,6 +62,18 @@ std::string SignatureIn(QByteArray const& output)
     }
     return text.toStdString();
 }
+
+/// A program that a person can interrupt: this process blocks the signals for that, and its children would too.
+class SignerProcess final : public QProcess
+{
+private:
+    void setupChildProcess() override
+    {
+        sigset_t none;
+        ::sigemptyset(&none);
+        ::sigprocmask(SIG_SETMASK, &none, nullptr);
+    }
+};
 
 /// The output of \a process until it ends.
 QByteArray OutputOf(QProcess& process)
@@ -119,7 +132,7 @@ QString CommandSigner::PublicKeyText() const
 
 std::string CommandSigner::Run(int descriptor, QString const& name) const
 {
-    QProcess process;
+    SignerProcess process;
     process.setProgram(m_command.first());
     process.setArguments(m_command.mid(1));
     // Opened again: the program reads from the beginning, and no other process can replace the file.

@@ -73,6 +73,28 @@ private:
 
 } // namespace
 
+TEST_F(Diff, VersionKeepsItsKeysWhenItsItemGoes)
+{
+    auto const keyed = [](QByteArray const& version, QByteArray const& signer, QByteArray const& trusted)
+    {
+        return Item(version, "<p:keys signer='" + signer + "' trusted='" + trusted + "'/>")
+            .replace("<enclosure ", "<enclosure sparkle:edSignature='x' ");
+    };
+    QByteArray const oldKey = "0123456789abcdef";
+    QByteArray const newKey = "fedcba9876543210";
+    QByteArray const kept = keyed("5.2", newKey, newKey) + keyed("5.1", oldKey, oldKey + ' ' + newKey);
+    ToolRun const run = Run(kept + keyed("5.0", oldKey, oldKey), kept);
+    EXPECT_EQ(run.out, "no client gets anything else\n");
+}
+
+TEST_F(Diff, ClientsBetweenTheBoundsOfItemsAreCompared)
+{
+    auto const bounded = [](QByteArray const& version, QByteArray const& minimum)
+    { return Item(version, "<sparkle:minimumUpdateVersion>" + minimum + "</sparkle:minimumUpdateVersion>"); };
+    ToolRun const run = Run(bounded("5.2", "4.5") + bounded("5.1", "4.0"), bounded("5.2", "4.5"));
+    EXPECT_EQ(run.out, "4.0 on all systems: 5.1 BUNDLE -> none\n");
+}
+
 TEST_F(Diff, FeedsWithTheSameEffectAreEqualHoweverTheyAreWritten)
 {
     ToolRun const run = Run(Item("5.1") + Item("5.0"), Item("5.0", "<title>Other words</title>") + Item("5.1"));

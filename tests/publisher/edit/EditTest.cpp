@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
+#include <QDateTime>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -228,6 +229,89 @@ TEST_F(EditTest, PruningThatTakesAnUpdateAwayIsRefused)
         << run.err;
     EXPECT_EQ(Feed(), feed.toStdString());
     EXPECT_EQ(Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")}).status, 0);
+}
+
+namespace
+{
+
+struct LostUpdate
+{
+    char const* name;
+    QByteArray items; ///< of which "prune --keep 1" would take an update from somebody
+    char const* told;
+};
+
+std::ostream& operator<<(std::ostream& stream, LostUpdate const& row)
+{
+    return stream << row.name;
+}
+
+QByteArray For(QByteArray const& machine, QByteArray item)
+{
+    return item.replace("<enclosure ",
+                        "<enclosure xmlns:p='https://pelnar.example/xml-namespaces/appcast' p:machine='" + machine +
+                            "' ");
+}
+
+QByteArray Element(QByteArray const& name, QByteArray const& text)
+{
+    return "      <sparkle:" + name + '>' + text + "</sparkle:" + name + ">\n";
+}
+
+QByteArray StagedNow()
+{
+    return "      <pubDate>" + QDateTime::currentDateTimeUtc().toString(Qt::RFC2822Date).toLatin1() + "</pubDate>\n" +
+           Element("phasedRolloutInterval", "86400");
+}
+
+class LostUpdates : public EditTest, public ::testing::WithParamInterface<LostUpdate>
+{
+};
+
+} // namespace
+
+TEST_P(LostUpdates, AreRefused)
+{
+    QByteArray const feed = FeedWith(GetParam().items);
+    Write("appcast.xml", feed);
+    ToolRun const run = Run("prune", {QStringLiteral("--keep"), QStringLiteral("1")});
+    EXPECT_EQ(run.status, 2) << run.out;
+    EXPECT_NE(run.err.find(GetParam().told), std::string::npos) << run.err;
+    EXPECT_EQ(Feed(), feed.toStdString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Prune, LostUpdates,
+    ::testing::Values(LostUpdate{"MachineOfAnOlderItem", For("x86_64", Item("5.2")) + For("aarch64", Item("5.1")),
+                                 "5.1 BUNDLE -> none"},
+                      LostUpdate{"MachineThatNoItemNames", For("x86_64", Item("5.2")) + Item("5.1"),
+                                 "5.1 BUNDLE -> none"},
+                      LostUpdate{"Hardware", Item("5.2", Element("hardwareRequirements", "arm64")) + Item("5.1"),
+                                 "5.1 BUNDLE -> none"},
+                      LostUpdate{"OneChannelAlone", Item("5.2", Element("channel", "nightly")) + Item("5.1", BETA),
+                                 "5.1 BUNDLE -> none"},
+                      LostUpdate{"StageThatIsNotReached", Item("5.2", StagedNow()) + Item("5.1"), "5.1 BUNDLE -> none"},
+                      LostUpdate{"VersionBetweenThoseOfTheFeed",
+                                 Item("5.2", Element("minimumUpdateVersion", "4.5")) +
+                                     Item("5.1", Element("minimumUpdateVersion", "4.0")),
+                                 "5.1 BUNDLE -> none"}),
+    [](::testing::TestParamInfo<LostUpdate> const& info) { return std::string(info.param.name); });
+
+TEST_F(EditTest, PruningKnowsTheKeysOfWhatItTakesOut)
+{
+    auto const keyed = [](QByteArray const& version, QByteArray const& signer, QByteArray const& trusted)
+    {
+        return Item(version, "      <p:keys xmlns:p='https://pelnar.example/xml-namespaces/appcast' signer='" + signer +
+                                 "' trusted='" + trusted + "'/>\n");
+    };
+    QByteArray const oldKey = "0123456789abcdef";
+    QByteArray const newKey = "fedcba9876543210";
+    QByteArray const kept = keyed("5.2", newKey, newKey) + keyed("5.1", oldKey, oldKey + ' ' + newKey);
+    Write("appcast.xml", FeedWith(kept + keyed("5.0", oldKey, oldKey)));
+    // Clients of 5.0 take 5.1 before and after.
+    ToolRun const run = Run("prune", {QStringLiteral("--keep"), QStringLiteral("2")});
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_EQ(Feed(), FeedWith(kept).toStdString());
 }
 
 TEST_F(EditTest, SignedFeedIsSignedAgainOrReportedToNeedIt)

@@ -8,6 +8,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <signal.h>
+
 namespace Pelnar::Testing
 {
 namespace
@@ -99,6 +101,24 @@ TEST_F(ProgramThatSigns, IsGivenAsAShellSplitsIt)
         EXPECT_EQ(run.status, 2) << command;
         EXPECT_NE(run.err.find("is not the line of one command"), std::string::npos) << command << run.err;
     }
+}
+
+TEST_F(ProgramThatSigns, CanBeInterrupted)
+{
+    // As the tool does, which waits for these signals in a thread.
+    sigset_t waited;
+    sigset_t before;
+    ::sigemptyset(&waited);
+    for (int const signal : {SIGINT, SIGTERM, SIGHUP})
+    {
+        ::sigaddset(&waited, signal);
+    }
+    ::pthread_sigmask(SIG_BLOCK, &waited, &before);
+    for (char const* const signal : {"INT", "TERM", "HUP"})
+    {
+        ExpectRefused(std::string("kill -") + signal + " $$\necho '" + m_signature + "'\n", "ended by a signal");
+    }
+    ::pthread_sigmask(SIG_SETMASK, &before, nullptr);
 }
 
 TEST_F(ProgramThatSigns, EachFailureIsTold)

@@ -140,13 +140,13 @@ std::string StoreJoined(Engine::DeltaManifest& manifest, std::vector<std::string
             hashes.Add(Engine::View(hash));
         }
     }
-    Engine::PackedStream const packed = Engine::PackStream(BytesOf(all), Engine::EXTRA_WINDOW_LOG);
+    Engine::ByteBuffer const packed = Engine::CompressForDelta(BytesOf(all), Engine::EXTRA_WINDOW_LOG);
     manifest.format = Engine::DeltaFormat::Joined;
     manifest.units.push_back(unit);
     manifest.targetHash = hashes.Finish();
     manifest.baseHash = Engine::HashOf({});
-    manifest.streams[4] = {packed.packing, packed.bytes.size()};
-    return {packed.bytes.begin(), packed.bytes.end()};
+    manifest.streams[4] = {0, packed.size()};
+    return {packed.begin(), packed.end()};
 }
 
 /// Nested folders, so that a file in the last one is \a depth names deep.

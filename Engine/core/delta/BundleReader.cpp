@@ -1,5 +1,7 @@
 #include "Engine/core/delta/BundleReader.h"
 
+#include "Engine/core/delta/WorkCrew.h"
+
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -21,9 +23,10 @@ namespace fs = std::filesystem;
 std::vector<std::string> PathsBelow(fs::path const& folder)
 {
     std::vector<std::string> paths;
+    std::size_t const opening = (folder / "").native().size();
     for (fs::directory_entry const& entry : fs::recursive_directory_iterator(folder))
     {
-        paths.push_back(entry.path().lexically_relative(folder).generic_string());
+        paths.push_back(entry.path().native().substr(opening));
     }
     std::sort(paths.begin(), paths.end());
     return paths;
@@ -94,27 +97,33 @@ OldVersion ReadOldVersion(fs::path const& folder)
 {
     OldVersion old;
     old.folder = folder;
-    for (std::string const& path : PathsBelow(folder))
+    std::vector<std::string> const paths = PathsBelow(folder);
+    std::vector<std::optional<OldFile>> files(paths.size());
+    DoAll(paths.size(),
+          [&folder, &paths, &files](std::size_t i)
+          {
+              if (fs::is_regular_file(fs::symlink_status(folder / paths[i])))
+              {
+                  OpenedFile const opened(folder / paths[i]);
+                  files[i] = {opened.Content().size(), HashOf(opened.Content())};
+              }
+          });
+    for (std::size_t i = 0; i < paths.size(); ++i)
     {
-        if (!fs::is_regular_file(fs::symlink_status(folder / path)))
+        if (files[i])
         {
-            continue;
+            old.files.emplace(paths[i], *files[i]);
+            old.pathsByHash.emplace(files[i]->hash, paths[i]);
         }
-        OpenedFile const opened(folder / path);
-        ContentHash const hash = HashOf(opened.Content());
-        old.files.emplace(path, OldFile{opened.Content().size(), hash});
-        old.pathsByHash.emplace(hash, path);
     }
     return old;
 }
 
 std::vector<DeltaEntry> ReadNewVersion(fs::path const& folder, OldVersion const& old)
 {
-    std::vector<DeltaEntry> entries;
-    for (std::string const& path : PathsBelow(folder))
-    {
-        entries.push_back(ReadEntry(folder, path, old));
-    }
+    std::vector<std::string> const paths = PathsBelow(folder);
+    std::vector<DeltaEntry> entries(paths.size());
+    DoAll(paths.size(), [&](std::size_t i) { entries[i] = ReadEntry(folder, paths[i], old); });
     return entries;
 }
 

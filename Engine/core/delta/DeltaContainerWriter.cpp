@@ -1,11 +1,16 @@
 #include "Engine/core/delta/DeltaContainerWriter.h"
 
+#include "Engine/core/delta/WorkCrew.h"
+
 #include <lzma.h>
 #include <zstd.h>
 
 #include <algorithm>
 #include <memory>
 #include <new>
+#include <tuple>
+#include <utility>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -30,6 +35,29 @@ int LevelOf(DeltaEffort effort)
 constexpr std::uint8_t PACKINGS[] = {4, 1, 5};
 /// Larger streams are packed in one way: each costs a second for two megabytes.
 constexpr std::size_t MOST_BYTES_TO_TRY = 4u << 20;
+
+/// zstd first.
+std::vector<std::uint8_t> PackingsFor(std::size_t bytes, DeltaEffort effort)
+{
+    std::vector<std::uint8_t> packings{0};
+    bool const hasAll = effort == DeltaEffort::High && bytes <= MOST_BYTES_TO_TRY;
+    std::size_t const count = effort == DeltaEffort::Low ? 0 : hasAll ? std::size(PACKINGS) : 1;
+    packings.insert(packings.end(), PACKINGS, PACKINGS + count);
+    return packings;
+}
+
+/// The smallest. For usual effort LZMA's must save a tenth.
+PackedStream BestOf(std::vector<PackedStream> const& answers, DeltaEffort effort)
+{
+    PackedStream const* best = &answers.front();
+    std::size_t const size = best->bytes.size();
+    std::size_t const worthwhile = effort == DeltaEffort::High ? size : size - size / 10;
+    for (PackedStream const& answer : answers)
+    {
+        best = answer.bytes.size() < std::min(worthwhile, best->bytes.size()) ? &answer : best;
+    }
+    return *best;
+}
 
 void AppendFixed(ByteBuffer& bytes, std::uint64_t number)
 {
@@ -74,7 +102,9 @@ ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
     lzma_options_lzma options{};
     std::uint8_t const properties = static_cast<std::uint8_t>(packing - 1);
     lzma_lzma_preset(&options, 9 | LZMA_PRESET_EXTREME);
-    options.dict_size = std::uint32_t(1) << windowLog;
+    // No larger than the bytes: the encoder's tables grow with it.
+    options.dict_size = std::clamp(std::uint32_t(std::min<std::size_t>(bytes.size(), UINT32_MAX)),
+                                   std::uint32_t(LZMA_DICT_SIZE_MIN), std::uint32_t(1) << windowLog);
     options.lc = properties % 9;
     options.lp = properties / 9 % 5;
     options.pb = properties / 45;
@@ -91,23 +121,39 @@ ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
     return packed;
 }
 
-PackedStream PackStream(Bytes bytes, int windowLog, DeltaEffort effort)
+std::array<PackedStream, PATCH_STREAMS> PackStreams(BinaryPatch const& patch, DeltaEffort effort)
 {
-    PackedStream best{0, CompressForDelta(bytes, windowLog, effort)};
-    if (effort == DeltaEffort::Low)
+    std::array<std::vector<PackedStream>, PATCH_STREAMS> answers;
+    std::vector<std::pair<std::size_t, std::size_t>> tasks;
+    for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
     {
-        return best;
-    }
-    bool const isHigh = effort == DeltaEffort::High;
-    std::size_t const worthwhile = isHigh ? best.bytes.size() : best.bytes.size() - best.bytes.size() / 10;
-    std::size_t const tries = isHigh && bytes.size() <= MOST_BYTES_TO_TRY ? std::size(PACKINGS) : 1;
-    for (std::size_t i = 0; i < tries; ++i)
-    {
-        ByteBuffer packed = PackByLzma(bytes, PACKINGS[i], windowLog);
-        if (packed.size() < std::min(worthwhile, best.bytes.size()))
+        for (std::uint8_t const packing : PackingsFor(patch.streams[i].size(), effort))
         {
-            best = {PACKINGS[i], std::move(packed)};
+            tasks.emplace_back(i, answers[i].size());
+            answers[i].push_back({packing, {}});
         }
+    }
+    // The longest work starts first: that of the largest stream, and of that LZMA's.
+    std::sort(tasks.begin(), tasks.end(),
+              [&patch](auto const& a, auto const& b)
+              {
+                  return std::make_tuple(patch.streams[a.first].size(), a.second) >
+                         std::make_tuple(patch.streams[b.first].size(), b.second);
+              });
+    DoAll(tasks.size(),
+          [&](std::size_t i)
+          {
+              auto const [number, attempt] = tasks[i];
+              PackedStream& answer = answers[number][attempt];
+              Bytes const bytes = View(patch.streams[number]);
+              int const windowLog = WindowLogOf(static_cast<PatchStream>(number));
+              answer.bytes = answer.packing == 0 ? CompressForDelta(bytes, windowLog, effort)
+                                                 : PackByLzma(bytes, answer.packing, windowLog);
+          });
+    std::array<PackedStream, PATCH_STREAMS> best;
+    for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
+    {
+        best[i] = BestOf(answers[i], effort);
     }
     return best;
 }

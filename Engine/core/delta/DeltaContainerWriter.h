@@ -31,7 +31,7 @@ struct PackedStream
     ByteBuffer bytes;
 };
 
-/// The best answer for \a effort.
-[[nodiscard]] PackedStream PackStream(Bytes bytes, int windowLog, DeltaEffort effort = DeltaEffort::Usual);
+/// The best answer for \a effort of each stream, with all processors.
+[[nodiscard]] std::array<PackedStream, PATCH_STREAMS> PackStreams(BinaryPatch const& patch, DeltaEffort effort);
 
 } // namespace Pelnar::Engine

@@ -12,6 +12,7 @@
 #include <cerrno>
 #include <deque>
 #include <functional>
+#include <map>
 #include <numeric>
 #include <system_error>
 #include <utility>
@@ -62,9 +63,11 @@ public:
     /// Completes the manifest and returns the container's data.
     ByteBuffer Make()
     {
-        std::vector<DeltaUnit> units = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_effort);
+        UnitPlan plan = PlanUnits(m_old, m_newFolder, m_manifest.entries, m_effort);
+        m_recipes = std::move(plan.recipes);
+        std::vector<DeltaUnit>& units = plan.units;
         std::vector<UnitSteps> steps = SearchUnits(units, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
-        SearchPlainly(units, steps);
+        SearchPlainly(units, steps, ProgramsWithoutAddresses(units, steps));
         AddKeptFiles();
         DeltaUnit whole;
         for (std::size_t i = 0; i < units.size(); ++i)
@@ -95,25 +98,53 @@ private:
         return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
     }
 
-    /// Searches a second time, as for any file, where a program's addresses make the difference larger.
-    void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps) const
+    /// The numbers of the units whose addresses make the difference larger. Makes the recipes of packed texts faster.
+    std::vector<std::size_t> ProgramsWithoutAddresses(std::vector<DeltaUnit> const& units,
+                                                      std::vector<UnitSteps> const& steps)
     {
+        std::vector<char> isWithout(units.size());
+        DoAll(units.size(),
+              [&](std::size_t i)
+              {
+                  isWithout[i] = !units[i].spanChanges.empty() && !IsWorthForetelling(units[i], steps[i].front());
+                  if (units[i].textBytes > 0)
+                  {
+                      MakeRecipeFaster(units[i], steps[i].front());
+                  }
+              });
         std::vector<std::size_t> numbers;
-        std::vector<DeltaUnit> plain;
         for (std::size_t i = 0; i < units.size(); ++i)
         {
-            if (!units[i].spanChanges.empty() && !IsWorthForetelling(units[i], steps[i].front()))
-            {
-                units[i].spanChanges.clear();
-                numbers.push_back(i);
-                plain.push_back(units[i]);
-            }
+            numbers.insert(numbers.end(), isWithout[i], i);
         }
-        std::vector<UnitSteps> const found =
-            SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
+        return numbers;
+    }
+
+    void MakeRecipeFaster(DeltaUnit const& unit, std::vector<PatchStep> const& steps)
+    {
+        OpenedFile const oldFile(m_old.folder / unit.sources.front().path);
+        OpenedFile const newFile = OpenNew(m_manifest.entries[unit.targets.front()].path);
+        ByteBuffer const oldText = UnpackText(oldFile.Content()).value();
+        ByteBuffer const newText = UnpackText(newFile.Content()).value();
+        ByteBuffer& recipe = m_recipes.at(unit.targets.front());
+        PackedBase const base{View(oldText), PackedDataOf(oldFile.Content()), steps};
+        recipe = FasterRecipe(recipe, newFile.Content(), View(newText), base);
+    }
+
+    /// Searches the units \a numbers a second time, as if they were no programs.
+    void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps,
+                       std::vector<std::size_t> const& numbers) const
+    {
+        std::vector<DeltaUnit> plain;
+        for (std::size_t const number : numbers)
+        {
+            units[number].spanChanges.clear();
+            plain.push_back(units[number]);
+        }
+        std::vector<UnitSteps> found = SearchUnits(plain, m_old.folder, m_newFolder, m_manifest.entries, m_progress);
         for (std::size_t i = 0; i < numbers.size(); ++i)
         {
-            steps[numbers[i]] = found[i];
+            steps[numbers[i]] = std::move(found[i]);
         }
     }
 
@@ -162,7 +193,7 @@ private:
             entry.kind = DeltaEntryKind::Patched;
             OpenedFile const file = OpenNew(entry.path);
             m_targetHashes.Add(View(entry.hash));
-            unit.textBytes > 0         ? AddPacked(texts.front(), steps[number], file.Content())
+            unit.textBytes > 0 ? AddPacked(m_recipes.at(targets[number]), texts.front(), steps[number], file.Content())
             : unit.spanChanges.empty() ? m_writer.Add(plain, steps[number], file.Content())
                                        : AddProgram(texts.front(), unit.spanChanges, steps[number], file.Content());
         }
@@ -177,14 +208,11 @@ private:
         m_writer.Add(old, steps, newBytes);
     }
 
-    void AddPacked(Bytes oldFile, std::vector<PatchStep> const& steps, Bytes newFile)
+    void AddPacked(ByteBuffer const& recipe, Bytes oldFile, std::vector<PatchStep> const& steps, Bytes newFile)
     {
         ByteBuffer const oldText = UnpackText(oldFile).value();
         ByteBuffer const newText = UnpackText(newFile).value();
-        PackedBase const base{View(oldText), PackedDataOf(oldFile), steps};
-        ByteBuffer const recipe =
-            FasterRecipe(FindRecipe(newFile, View(newText)).value(), newFile, View(newText), base);
-        PlainText old({base.text});
+        PlainText old({View(oldText)});
         m_writer.AddRecord(View(recipe));
         m_writer.Add(old, steps, View(newText));
     }
@@ -205,17 +233,7 @@ private:
 
     ByteBuffer Pack(BinaryPatch const& patch)
     {
-        std::array<PackedStream, PATCH_STREAMS> packed;
-        DoAll(
-            PATCH_STREAMS,
-            [this, &packed, &patch](std::size_t i)
-            {
-                // The last stream is usually the largest, so it starts first.
-                std::size_t const number = PATCH_STREAMS - 1 - i;
-                packed[number] =
-                    PackStream(View(patch.streams[number]), WindowLogOf(static_cast<PatchStream>(number)), m_effort);
-            },
-            [] {});
+        std::array<PackedStream, PATCH_STREAMS> const packed = PackStreams(patch, m_effort);
         ByteBuffer data;
         for (std::size_t i = 0; i < PATCH_STREAMS; ++i)
         {
@@ -230,6 +248,7 @@ private:
     DeltaManifest& m_manifest;
     DeltaMakerProgress const& m_progress;
     DeltaEffort m_effort;
+    std::map<std::uint32_t, ByteBuffer> m_recipes; ///< of the targets that are packed texts
     PatchWriter m_writer;
     ContentHasher m_baseHashes;
     ContentHasher m_targetHashes;

@@ -2,6 +2,7 @@
 
 #include "Engine/core/delta/ImageLayout.h"
 #include "Engine/core/delta/PackedText.h"
+#include "Engine/core/delta/WorkCrew.h"
 
 #include <algorithm>
 #include <cctype>
@@ -43,6 +44,13 @@ std::vector<SpanChange> ChangesOf(ImageLayout const& from, ImageLayout const& to
     return changes;
 }
 
+/// A unit for one file, and the recipe of one that is a packed text.
+struct Candidate
+{
+    DeltaUnit unit;
+    ByteBuffer recipe;
+};
+
 class Planner
 {
 public:
@@ -63,18 +71,33 @@ public:
         }
     }
 
-    std::vector<DeltaUnit> Plan()
+    UnitPlan Plan()
     {
-        std::vector<std::uint32_t> others;
+        std::vector<std::uint32_t> changed;
         for (std::uint32_t i = 0; i < m_entries.size(); ++i)
         {
-            if (m_entries[i].kind == DeltaEntryKind::Whole && !AddProgram(i) && !AddPacked(i))
+            changed.insert(changed.end(), m_entries[i].kind == DeltaEntryKind::Whole ? 1 : 0, i);
+        }
+        std::vector<Candidate> candidates(changed.size());
+        DoAll(changed.size(), [&](std::size_t i) { candidates[i] = CandidateFor(changed[i]); });
+        std::vector<std::uint32_t> others;
+        for (std::size_t i = 0; i < changed.size(); ++i)
+        {
+            DeltaUnit& unit = candidates[i].unit;
+            if (unit.sources.empty())
             {
-                others.push_back(i);
+                others.push_back(changed[i]);
+                continue;
             }
+            m_usedPaths.insert(unit.sources.front().path);
+            if (unit.textBytes > 0)
+            {
+                m_plan.recipes.emplace(changed[i], std::move(candidates[i].recipe));
+            }
+            m_plan.units.push_back(std::move(unit));
         }
         AddOthers(others);
-        return std::move(m_units);
+        return std::move(m_plan);
     }
 
 private:
@@ -85,47 +108,41 @@ private:
         return isThere || similar == m_pathsByPlainPath.end() ? path : similar->second;
     }
 
-    bool AddProgram(std::uint32_t target)
+    /// A unit without sources if the file gets none of its own.
+    Candidate CandidateFor(std::uint32_t target) const
     {
-        std::string const source = SourceFor(m_entries[target].path);
-        auto const found = m_old.files.find(source);
+        auto const found = m_old.files.find(SourceFor(m_entries[target].path));
         if (found == m_old.files.end())
         {
-            return false;
+            return {};
         }
-        std::optional<ImageLayout> const from = ReadImageLayout(OpenedFile(m_old.folder / source).Content());
-        std::optional<ImageLayout> const to =
-            from ? ReadImageLayout(OpenedFile(m_newFolder / m_entries[target].path).Content()) : std::nullopt;
-        if (!to)
-        {
-            return false;
-        }
-        m_units.push_back({{{source, found->second.size}}, {target}, ChangesOf(*from, *to), 0});
-        m_usedPaths.insert(source);
-        return true;
+        OpenedFile const source(m_old.folder / found->first);
+        OpenedFile const file(m_newFolder / m_entries[target].path);
+        Candidate candidate{{{{found->first, found->second.size}}, {target}, {}, 0}, {}};
+        bool const isOne = IsProgram(source.Content(), file.Content(), candidate) ||
+                           (m_effort != DeltaEffort::Low && IsPackedText(source.Content(), file.Content(), candidate));
+        return isOne ? candidate : Candidate();
     }
 
-    bool AddPacked(std::uint32_t target)
+    static bool IsProgram(Bytes source, Bytes file, Candidate& candidate)
     {
-        std::string const source = SourceFor(m_entries[target].path);
-        auto const found = m_old.files.find(source);
-        if (m_effort == DeltaEffort::Low || found == m_old.files.end() || found->second.size > MAX_PACKED_TEXT_BYTES ||
-            m_entries[target].size > MAX_PACKED_TEXT_BYTES)
+        std::optional<ImageLayout> const from = ReadImageLayout(source);
+        std::optional<ImageLayout> const to = from ? ReadImageLayout(file) : std::nullopt;
+        candidate.unit.spanChanges = to ? ChangesOf(*from, *to) : std::vector<SpanChange>();
+        return to.has_value();
+    }
+
+    static bool IsPackedText(Bytes source, Bytes file, Candidate& candidate)
+    {
+        if (source.size() > MAX_PACKED_TEXT_BYTES || !UnpackText(source))
         {
             return false;
         }
-        std::optional<ByteBuffer> const from = UnpackText(OpenedFile(m_old.folder / source).Content());
-        OpenedFile const file(m_newFolder / m_entries[target].path);
-        std::optional<ByteBuffer> const to = from ? UnpackText(file.Content()) : std::nullopt;
-        bool const hasRecipe = to && !to->empty() && FindRecipe(file.Content(), View(*to));
-        if (!hasRecipe)
-        {
-            return false;
-        }
-        DeltaUnit unit{{{source, found->second.size}}, {target}, {}, to->size()};
-        m_units.push_back(std::move(unit));
-        m_usedPaths.insert(source);
-        return true;
+        std::optional<ByteBuffer> const text = UnpackText(file);
+        std::optional<ByteBuffer> recipe = text && !text->empty() ? FindRecipe(file, View(*text)) : std::nullopt;
+        candidate.unit.textBytes = recipe ? text->size() : 0;
+        candidate.recipe = std::move(recipe).value_or(ByteBuffer());
+        return candidate.unit.textBytes > 0;
     }
 
     /// All other files, old and new together, in the order of their paths. A unit ends where it gets too large for one
@@ -158,12 +175,12 @@ private:
             if (bytes + size > MAX_UNIT_BYTES || unit.sources.size() == MAX_UNIT_FILES)
             {
                 bytes = 0;
-                m_units.push_back(std::exchange(unit, {}));
+                m_plan.units.push_back(std::exchange(unit, {}));
             }
             unit.sources.push_back({path, size});
             bytes += size;
         }
-        m_units.push_back(unit);
+        m_plan.units.push_back(unit);
     }
 
     OldVersion const& m_old;
@@ -172,13 +189,13 @@ private:
     DeltaEffort m_effort;
     std::multimap<std::string, std::string> m_pathsByPlainPath;
     std::set<std::string> m_usedPaths; ///< of old files that are kept or have a unit of their own
-    std::vector<DeltaUnit> m_units;
+    UnitPlan m_plan;
 };
 
 } // namespace
 
-std::vector<DeltaUnit> PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
-                                 std::vector<DeltaEntry> const& entries, DeltaEffort effort)
+UnitPlan PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
+                   std::vector<DeltaEntry> const& entries, DeltaEffort effort)
 {
     return Planner(old, newFolder, entries, effort).Plan();
 }

@@ -5,15 +5,22 @@
 #include "Engine/core/delta/DeltaContainerWriter.h"
 
 #include <filesystem>
+#include <map>
 #include <vector>
 
 namespace Pelnar::Engine
 {
 
+struct UnitPlan
+{
+    std::vector<DeltaUnit> units;
+    std::map<std::uint32_t, ByteBuffer> recipes; ///< of the targets that are packed texts
+};
+
 /// A program gets a unit with the changes of its segments. A packed text gets a unit, but not for low effort: clients
 /// need ten times as long to pack it. The old file of both has the same path, or one that differs in numbers only. The
 /// other files that are not kept are made from the old files that changed or are gone.
-[[nodiscard]] std::vector<DeltaUnit> PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
-                                               std::vector<DeltaEntry> const& entries, DeltaEffort effort);
+[[nodiscard]] UnitPlan PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
+                                 std::vector<DeltaEntry> const& entries, DeltaEffort effort);
 
 } // namespace Pelnar::Engine

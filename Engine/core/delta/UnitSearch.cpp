@@ -72,11 +72,10 @@ public:
         : m_unit(unit), m_oldFolder(oldFolder), m_newFolder(newFolder), m_entries(entries)
     {
         std::map<std::string, std::uint64_t> starts;
-        std::uint64_t start = 0;
         for (DeltaSource const& source : unit.sources)
         {
-            starts.emplace(source.path, start);
-            start += source.size;
+            starts.emplace(source.path, m_oldBytes);
+            m_oldBytes += source.size;
         }
         for (std::size_t i = 0; i < unit.targets.size(); ++i)
         {
@@ -89,12 +88,13 @@ public:
             for (std::uint64_t at = 0; at < bytes; at += PIECE_BYTES)
             {
                 auto const size = static_cast<std::size_t>(std::min<std::uint64_t>(PIECE_BYTES, bytes - at));
-                m_pieces.push_back({i, static_cast<std::size_t>(at), size, std::min(begin + at, start), 0, {}});
+                m_pieces.push_back({i, static_cast<std::size_t>(at), size, std::min(begin + at, m_oldBytes), 0, {}});
             }
         }
     }
 
     std::size_t PieceCount() const { return m_pieces.size(); }
+    std::uint64_t OldBytes() const { return m_oldBytes; }
 
     void BuildIndex()
     {
@@ -120,6 +120,7 @@ public:
         piece.steps = FindSteps(m_index->Index(), text.substr(piece.begin, piece.size), piece.end);
     }
 
+    /// Drops the index.
     UnitSteps Finish()
     {
         UnitSteps steps(m_unit.targets.size());
@@ -128,6 +129,9 @@ public:
         {
             Append(steps[piece.target], piece, position);
         }
+        m_pieces = {};
+        m_index.reset();
+        m_changed = {};
         return steps;
     }
 
@@ -168,6 +172,7 @@ private:
     std::filesystem::path const& m_oldFolder;
     std::filesystem::path const& m_newFolder;
     std::vector<DeltaEntry> const& m_entries;
+    std::uint64_t m_oldBytes = 0;
     std::vector<Piece> m_pieces;
     std::optional<OldIndex> m_index;
     ByteBuffer m_changed; ///< the target as it is compared, when that is not as it is
@@ -179,37 +184,36 @@ std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units, std::fil
                                    std::filesystem::path const& newFolder, std::vector<DeltaEntry> const& entries,
                                    SearchProgress const& progress)
 {
+    std::deque<UnitWork> works;
     std::uint64_t total = 0;
     for (DeltaUnit const& unit : units)
     {
-        total += UnitWork(unit, oldFolder, newFolder, entries).PieceCount() + 1;
+        total += works.emplace_back(unit, oldFolder, newFolder, entries).PieceCount() + 1;
     }
     std::uint64_t done = 0;
     auto const told = [&done, total, &progress] { progress ? progress(++done, total) : void(); };
     std::vector<UnitSteps> answer;
-    for (std::size_t first = 0; first < units.size();)
+    while (answer.size() < units.size())
     {
-        std::deque<UnitWork> wave;
+        std::size_t const first = answer.size();
+        std::size_t end = first;
         std::vector<std::pair<std::size_t, std::size_t>> pieces;
-        std::uint64_t bytes = 0;
-        for (; first < units.size() && (wave.empty() || bytes < WAVE_BYTES); ++first)
+        for (std::uint64_t bytes = 0; end < units.size() && (end == first || bytes < WAVE_BYTES); ++end)
         {
-            UnitWork const& work = wave.emplace_back(units[first], oldFolder, newFolder, entries);
-            for (std::size_t i = 0; i < work.PieceCount(); ++i)
+            for (std::size_t i = 0; i < works[end].PieceCount(); ++i)
             {
-                pieces.emplace_back(wave.size() - 1, i);
+                pieces.emplace_back(end, i);
             }
-            for (DeltaSource const& source : units[first].sources)
-            {
-                bytes += source.size;
-            }
+            bytes += works[end].OldBytes();
         }
         DoAll(
-            wave.size(), [&wave](std::size_t i) { wave[i].BuildIndex(); }, told);
+            end - first, [&works, first](std::size_t i) { works[first + i].BuildIndex(); }, told);
         DoAll(
-            pieces.size(), [&wave, &pieces](std::size_t i) { wave[pieces[i].first].Search(pieces[i].second); }, told);
-        std::transform(wave.begin(), wave.end(), std::back_inserter(answer),
-                       [](UnitWork& work) { return work.Finish(); });
+            pieces.size(), [&works, &pieces](std::size_t i) { works[pieces[i].first].Search(pieces[i].second); }, told);
+        for (std::size_t i = first; i < end; ++i)
+        {
+            answer.push_back(works[i].Finish());
+        }
     }
     return answer;
 }

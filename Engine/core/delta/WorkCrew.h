@@ -9,8 +9,9 @@
 namespace Pelnar::Engine
 {
 
-/// Calls \a work with each number below \a count, of which it starts the lowest first, and \a told after each that is
-/// done, in the calling thread. An exception of any is thrown once the others have ended.
-void DoAll(std::size_t count, std::function<void(std::size_t)> const& work, std::function<void()> const& told);
+/// Calls \a work with each number below \a count, of which it starts the lowest first, and \a told once for each that
+/// is done, soon after it, in the calling thread. An exception of any is thrown once the others have ended. If the
+/// system has no further thread, the calling one does the work.
+void DoAll(std::size_t count, std::function<void(std::size_t)> const& work, std::function<void()> const& told = {});
 
 } // namespace Pelnar::Engine

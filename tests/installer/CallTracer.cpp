@@ -46,13 +46,12 @@ public:
 
     TracedEnd Run()
     {
-        int status = 0;
-        EXPECT_EQ(::waitpid(m_root, &status, WUNTRACED), m_root);
         EXPECT_EQ(Trace(PTRACE_SEIZE, m_root, 0, OPTIONS), 0) << errno;
-        ::kill(m_root, SIGCONT);
+        EXPECT_EQ(Trace(PTRACE_INTERRUPT, m_root, 0, 0), 0) << errno;
         m_processes.insert(m_root);
         while (!m_processes.empty())
         {
+            int status = 0;
             pid_t const process = ::waitpid(-1, &status, __WALL);
             if (process < 0)
             {
@@ -240,9 +239,16 @@ private:
 
 } // namespace
 
-std::vector<std::string> StartStopped()
+std::vector<std::string> StartWhenTraced()
 {
-    return {"/bin/sh", "-c", "kill -STOP $$; exec \"$@\"", "sh"};
+    // It must not stop: a shell that ends leaves an orphaned process group, and the kernel ends such a group with
+    // SIGHUP if one of its processes is stopped.
+    return {"/bin/sh", "-c",
+            "tracer=0; while [ \"$tracer\" = 0 ]; do"
+            " while read -r key value; do [ \"$key\" != TracerPid: ] || tracer=$value; done </proc/$$/status || exit "
+            "126; done;"
+            " exec \"$@\"",
+            "sh"};
 }
 
 TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor)

@@ -49,8 +49,8 @@ struct CallVerdict
 
 using CallVisitor = std::function<CallVerdict(CallStop const&)>;
 
-/// The words that start a program stopped, for TraceToTheEnd to let go.
-std::vector<std::string> StartStopped();
+/// The words that start a program as soon as TraceToTheEnd() traces them.
+std::vector<std::string> StartWhenTraced();
 /// How a traced process ended.
 struct TracedEnd
 {
@@ -59,8 +59,8 @@ struct TracedEnd
     std::vector<std::int64_t> answers{}; ///< of the calls, by their index; 0 for one that did not return
 };
 
-/// Traces \a process, which StartStopped() has stopped, to its end. What it starts by execve is left alone. Calls of
-/// the program's loader, before its main function changes to the root folder, are not told.
+/// Traces \a process, which began with the words of StartWhenTraced(), to its end. What it starts by execve is left
+/// alone. Calls of the program's loader, before its main function changes to the root folder, are not told.
 TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor);
 
 /// True for a call that moves more than one byte: Shorten() would have an effect.

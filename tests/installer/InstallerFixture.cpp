@@ -253,7 +253,7 @@ HelperOutcome RunHelper(std::string const& mode, std::string const& job, std::ma
     std::vector<std::string> words = start.before;
     if (start.atEveryCall)
     {
-        words = StartStopped();
+        words = StartWhenTraced();
         words.insert(words.end(), start.before.begin(), start.before.end());
     }
     words.insert(words.end(), {PELNAR_INSTALLER_PROGRAM, mode});

@@ -98,7 +98,7 @@ protected:
     End Probe(std::vector<std::string> arguments, CallVisitor const& visitor)
     {
         std::string const output = place.filePath(QStringLiteral("output")).toStdString();
-        std::vector<std::string> words = StartStopped();
+        std::vector<std::string> words = StartWhenTraced();
         words.push_back(PELNAR_DOWNLOAD_PROBE);
         words.insert(words.end(), arguments.begin(), arguments.end());
         pid_t const process = fork();

@@ -139,6 +139,11 @@ bool LintName::IsFeeds(char const* name) const
     return local == QLatin1String(name) && IsFeedNamespaceUri(namespaceUri);
 }
 
+bool LintName::IsOwn(char const* name) const
+{
+    return namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE) && local == QLatin1String(name);
+}
+
 std::optional<QString> LintElement::PlainAttribute(char const* local) const
 {
     return ValueOf(attributes, &LintName::IsPlain, local);
@@ -147,6 +152,11 @@ std::optional<QString> LintElement::PlainAttribute(char const* local) const
 std::optional<QString> LintElement::FeedAttribute(char const* local) const
 {
     return ValueOf(attributes, &LintName::IsFeeds, local);
+}
+
+std::optional<QString> LintElement::OwnAttribute(char const* local) const
+{
+    return ValueOf(attributes, &LintName::IsOwn, local);
 }
 
 LintElement ReadLintDocument(QByteArray const& bytes)

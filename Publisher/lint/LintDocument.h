@@ -30,6 +30,8 @@ struct LintName
     [[nodiscard]] bool IsPlain(char const* name) const;
     /// In the feed's own namespace and with this local name.
     [[nodiscard]] bool IsFeeds(char const* name) const;
+    /// In our own namespace and with this local name.
+    [[nodiscard]] bool IsOwn(char const* name) const;
 };
 
 struct LintAttribute
@@ -58,6 +60,7 @@ struct LintElement
     /// The attribute's value; nothing when it is absent.
     std::optional<QString> PlainAttribute(char const* local) const;
     std::optional<QString> FeedAttribute(char const* local) const;
+    std::optional<QString> OwnAttribute(char const* local) const;
 };
 
 /// Whether a namespace is the feed's own.

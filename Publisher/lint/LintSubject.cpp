@@ -1,5 +1,8 @@
 #include "Publisher/lint/LintSubject.h"
 
+#include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/feed/ReleaseRules.h"
+
 #include <algorithm>
 #include <set>
 #include <tuple>
@@ -47,18 +50,46 @@ char const* SystemName(FeedPlatform platform)
     return "";
 }
 
-LintElement const* EnclosureFor(FeedPlatform platform, LintElement const& item)
+QStringList MachinesOf(LintElement const& enclosure)
 {
+    return enclosure.OwnAttribute("machine").value_or(QString()).simplified().split(u' ', Qt::SkipEmptyParts);
+}
+
+/// The one that the parser takes.
+LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement const& item)
+{
+    LintElement const* best = nullptr;
     for (LintElement const& child : item.children)
     {
         std::optional<QString> const system = child.FeedAttribute("os");
-        if (child.name.IsPlain("enclosure") &&
-            (!system || system->trimmed().compare(QLatin1String(SystemName(platform)), Qt::CaseInsensitive) == 0))
+        bool const isForPlatform = child.name.IsPlain("enclosure") &&
+                                   (!system || system->trimmed().compare(QLatin1String(SystemName(target.platform)),
+                                                                         Qt::CaseInsensitive) == 0);
+        bool const isBetter = !best || (!Engine::SuitsMachine(MachinesOf(*best), target.machine) &&
+                                        Engine::SuitsMachine(MachinesOf(child), target.machine));
+        best = isForPlatform && isBetter ? &child : best;
+    }
+    return best;
+}
+
+/// Empty for all of them, and each one that the downloads of an item name.
+QStringList MachinesIn(std::vector<LintElement const*> const& items)
+{
+    QStringList named;
+    for (LintElement const* const item : items)
+    {
+        for (LintElement const& child : item->children)
         {
-            return &child;
+            named += MachinesOf(child);
         }
     }
-    return nullptr;
+    QStringList machines{QString()};
+    for (std::string const& name : Engine::MachineNames())
+    {
+        QString const machine = QString::fromStdString(name);
+        machines += !named.isEmpty() && Engine::SuitsMachine(named, machine) ? QStringList(machine) : QStringList();
+    }
+    return machines;
 }
 
 /// The element below \a element that the parser places where \a item is.
@@ -78,10 +109,10 @@ LintElement const* FindElement(LintElement const& element, Engine::FeedItem cons
     return nullptr;
 }
 
-LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, FeedPlatform platform)
+LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, Engine::FeedTarget const& target)
 {
     LintItem linked;
-    linked.full = {&item, &element, EnclosureFor(platform, element)};
+    linked.full = {&item, &element, EnclosureFor(target, element)};
     for (Engine::FeedItem const& delta : item.deltas)
     {
         if (LintElement const* const enclosure = FindElement(element, delta))
@@ -92,11 +123,11 @@ LintItem LinkItem(Engine::FeedItem const& item, LintElement const& element, Feed
     return linked;
 }
 
-void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform platform)
+void AddPlatform(LintSubject& subject, QByteArray const& bytes, Engine::FeedTarget const& target)
 {
     LintPlatform& added = subject.platforms.emplace_back();
-    added.system = platform;
-    added.parsed = Engine::ParseFeed(bytes, subject.address, platform).value_or(Engine::FeedContent()).items;
+    added.system = target.platform;
+    added.parsed = Engine::ParseFeed(bytes, subject.address, target).value_or(Engine::FeedContent()).items;
     auto element = subject.itemElements.begin();
     for (Engine::FeedItem const& item : added.parsed)
     {
@@ -108,7 +139,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, FeedPlatform pla
         {
             return;
         }
-        added.items.push_back(LinkItem(item, **element, platform));
+        added.items.push_back(LinkItem(item, **element, target));
     }
 }
 
@@ -203,8 +234,11 @@ LintResult LintFeed(QByteArray const& written, QUrl const& address)
     subject->address = address;
     subject->root = ReadLintDocument(bytes);
     subject->itemElements = ItemElements(subject->root);
-    AddPlatform(*subject, bytes, FeedPlatform::MacOS);
-    AddPlatform(*subject, bytes, FeedPlatform::Linux);
+    for (QString const& machine : MachinesIn(subject->itemElements))
+    {
+        AddPlatform(*subject, bytes, {FeedPlatform::MacOS, machine});
+        AddPlatform(*subject, bytes, {FeedPlatform::Linux, machine});
+    }
     if (subject->itemElements.empty())
     {
         LintPlace const place =

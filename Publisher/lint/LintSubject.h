@@ -54,7 +54,7 @@ struct LintItem
     std::vector<LintDownload> deltas;
 };
 
-/// The feed as one platform's clients see it.
+/// The feed as the clients of one platform see it: those of one machine, or those for which no machine counts.
 struct LintPlatform
 {
     Engine::FeedPlatform system = Engine::FeedPlatform::Linux;

@@ -1,11 +1,9 @@
 // NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
 
 #include "Engine/core/base/SafeText.h"
-#include "Engine/core/feed/FeedParser.h"
 #include "Publisher/lint/LintSubject.h"
 #include "Publisher/lint/LintVocabulary.h"
 
-#include <algorithm>
 #include <set>
 
 namespace Pelnar::Publisher
@@ -139,19 +137,6 @@ private:
         m_findings.Add(LintRule::NameCase, place, u"%1 is not read, %2 is"_s.arg(name.qualified, QLatin1String(other)));
     }
 
-    /// Behind the system, whose enclosure it makes another one.
-    static QString MachineOf(LintElement const& enclosure)
-    {
-        auto const machine =
-            std::find_if(enclosure.attributes.begin(), enclosure.attributes.end(),
-                         [](LintAttribute const& attribute)
-                         {
-                             return attribute.name.local == "machine"_l &&
-                                    attribute.name.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE);
-                         });
-        return machine == enclosure.attributes.end() ? QString() : u' ' + machine->value;
-    }
-
     void CheckRepetitions(LintElement const& item)
     {
         std::set<QString> met;
@@ -166,8 +151,9 @@ private:
                 m_findings.Add(LintRule::RepeatedElement, child.place,
                                u"another <%1> of the item"_s.arg(child.name.qualified));
             }
-            if (child.name.IsPlain("enclosure") &&
-                !platforms.insert(child.FeedAttribute("os").value_or(QString()).toLower() + MachineOf(child)).second)
+            QString const platform = child.FeedAttribute("os").value_or(QString()).toLower() + u' ' +
+                                     child.OwnAttribute("machine").value_or(QString());
+            if (child.name.IsPlain("enclosure") && !platforms.insert(platform).second)
             {
                 m_findings.Add(LintRule::RepeatedEnclosure, child.place,
                                u"another enclosure of the item for the same platform"_s);

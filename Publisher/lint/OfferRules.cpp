@@ -57,8 +57,7 @@ QString EffectOfEmpty(LintElement const& parent, LintElement const& child)
 
 QString EffectOfEmpty(LintElement const& element, LintName const& attribute)
 {
-    bool const isMachine =
-        attribute.local == "machine"_l && attribute.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE);
+    bool const isMachine = attribute.IsOwn("machine");
     bool const isVersion = element.name.IsFeeds("criticalUpdate") && attribute.IsFeeds("version");
     return isMachine ? u"so everybody gets the item"_s : isVersion ? u"and bounds nothing"_s : QString();
 }

@@ -55,13 +55,8 @@ LintPlace PlaceOf(LintSubject const& subject, char const* name)
         for (LintElement const& channel : top.children)
         {
             place = channel.name.IsPlain("channel") ? channel.place : place;
-            auto const own =
-                std::find_if(channel.children.begin(), channel.children.end(),
-                             [name](LintElement const& child)
-                             {
-                                 return child.name.namespaceUri == QLatin1String(Engine::OWN_FEED_NAMESPACE) &&
-                                        child.name.local == QLatin1String(name);
-                             });
+            auto const own = std::find_if(channel.children.begin(), channel.children.end(),
+                                          [name](LintElement const& child) { return child.name.IsOwn(name); });
             if (own != channel.children.end())
             {
                 return own->place;

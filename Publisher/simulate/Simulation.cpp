@@ -27,8 +27,9 @@ struct SimulatedClient
 class ReachedFeed
 {
 public:
-    ReachedFeed(std::vector<Engine::FeedItem> items, Engine::Installation const& installation)
-        : m_items(std::move(items)), m_chooser(m_items, installation)
+    ReachedFeed(std::vector<Engine::FeedItem> items, Engine::Installation const& installation,
+                std::vector<Engine::FeedItem> const& allItems)
+        : m_items(std::move(items)), m_chooser(m_items, installation, allItems)
     {
     }
 
@@ -81,7 +82,7 @@ public:
                     reached.push_back(m_items[i]);
                 }
             }
-            feed = std::make_unique<ReachedFeed>(std::move(reached), m_request.installation);
+            feed = std::make_unique<ReachedFeed>(std::move(reached), m_request.installation, m_items);
         }
         client.version = feed->Next(client.version, m_request.systemVersion, m_request.installation);
     }

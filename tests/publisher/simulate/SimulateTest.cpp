@@ -92,6 +92,17 @@ TEST(Simulate, StepsOverAVersionThatMustComeFirst)
     EXPECT_EQ(CountOn(simulation, 2, 2), 7000);
 }
 
+TEST(Simulate, WhoHasAStagedVersionEarlyTrustsItsKeys)
+{
+    auto const keyed = [](QByteArray const& version, QByteArray const& key, QByteArray const& more)
+    {
+        return Item(version, "<p:keys signer='" + key + "' trusted='" + key + "'/>" + more)
+            .replace("<enclosure ", "<enclosure sparkle:edSignature='x' ");
+    };
+    QByteArray const items = keyed("6.0", "fedcba9876543210", {}) + keyed("5.0", "0123456789abcdef", STAGED);
+    EXPECT_EQ(CountOn(Counts(FeedWith(items), 1), 1, 0), 7000);
+}
+
 TEST(Simulate, ChannelIsForThoseWhoListIt)
 {
     QByteArray const feed = FeedWith(Item("5.1", "<sparkle:channel>beta</sparkle:channel>") + Item("5.0"));

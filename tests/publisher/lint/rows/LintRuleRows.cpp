@@ -346,6 +346,19 @@ void AddMachineCases(std::vector<LintCase>& cases)
                      FeedOf("<item>" + Enclosure("5.1", own + " p:machine='x86_64'") +
                             Enclosure("5.1", own + " p:machine='aarch64'") + "</item>"),
                      ""});
+    for (char const* const machine : {"aarch64", "arm64", "riscv64 aarch64"})
+    {
+        QByteArray const second = QByteArray(own + " p:machine='") + machine + '\'';
+        cases.push_back({QByteArray("SecondEnclosure").append(QByteArray(machine).replace(' ', "And")).toStdString(),
+                         FeedOf("<item>" + Enclosure("5.1", own + " p:machine='x86_64'") + "\n<enclosure url='http" +
+                                "://a.example/a.zip'" + Good("5.1") + second + "/></item>"),
+                         "address-insecure 3:1 http://a.example/a.zip"});
+    }
+    cases.push_back({"SecondEnclosureBehindOneForAll",
+                     FeedOf("<item>" + Enclosure("5.1") + "\n<enclosure url='https://a.example/a.zip' length='0'" +
+                            "  sparkle:version='5.1' sparkle:edSignature='" + SIGNATURE + "'" + own +
+                            " p:machine='aarch64'/></item>"),
+                     ""});
     cases.push_back({"MachineOfNobody", FeedOf("<item>" + Enclosure("5.1", own + " p:machine='abacus'") + "</item>"),
                      "policy-unreadable 2:1 no client is on the machine \"abacus\""});
     cases.push_back({"MachineOfAnEmptyVariable",

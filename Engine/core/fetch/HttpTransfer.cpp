@@ -84,7 +84,8 @@ HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limit
 {
     m_connectTimer.setSingleShot(true);
     m_restTimer.setSingleShot(true);
-    connect(&m_connectTimer, &QTimer::timeout, this, [this] { Fail(MakeError(ErrorCause::ConnectTimeout)); });
+    connect(&m_connectTimer, &QTimer::timeout, this,
+            [this] { Fail(m_curl ? ErrorAt(CURLE_OPERATION_TIMEDOUT) : MakeError(ErrorCause::ConnectTimeout)); });
     connect(&m_rateTimer, &QTimer::timeout, this, &HttpTransfer::SampleRate);
     connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Idle(); });
 }

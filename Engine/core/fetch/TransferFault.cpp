@@ -12,6 +12,8 @@ namespace Pelnar::Engine
 namespace
 {
 
+constexpr long STATUS_TUNNEL = 200;
+constexpr long STATUS_NO_TUNNEL = 300;
 constexpr long STATUS_PROXY_ASKS = 407;
 
 struct CertificateRule
@@ -45,7 +47,6 @@ constexpr std::array CODE_RULES = {
     CodeRule{CURLE_COULDNT_RESOLVE_HOST, ErrorCause::HostNotFound},
     CodeRule{CURLE_COULDNT_RESOLVE_PROXY, ErrorCause::ProxyFailed},
     CodeRule{CURLE_OPERATION_TIMEDOUT, ErrorCause::ConnectTimeout},
-    CodeRule{CURLE_SSL_CONNECT_ERROR, ErrorCause::HandshakeRefused},
     CodeRule{CURLE_SSL_CIPHER, ErrorCause::HandshakeRefused},
     CodeRule{CURLE_UNSUPPORTED_PROTOCOL, ErrorCause::MalformedHead}, // the bytes are not an answer of HTTP/1 or later
     CodeRule{CURLE_WEIRD_SERVER_REPLY, ErrorCause::MalformedHead},
@@ -53,6 +54,9 @@ constexpr std::array CODE_RULES = {
     CodeRule{CURLE_OUT_OF_MEMORY, ErrorCause::HeadTooLarge}, // also for a line that does not end
     CodeRule{CURLE_GOT_NOTHING, ErrorCause::IncompleteHead},
 };
+
+/// How libcurl and OpenSSL say that the connection ended in the middle of a handshake.
+constexpr std::array BROKEN_HANDSHAKES = {"SSL_ERROR_SYSCALL", "unexpected eof", "Recv failure", "Send failure"};
 
 constexpr std::array BREAKS = {CURLE_RECV_ERROR, CURLE_SEND_ERROR, CURLE_PARTIAL_FILE, CURLE_HTTP2, CURLE_HTTP2_STREAM};
 
@@ -96,6 +100,14 @@ ErrorCause CauseOfProxy(long error)
                            : ErrorCause::ProxyFailed;
 }
 
+/// libcurl has one code for a handshake that was refused and one that broke. Only the text distinguishes them.
+ErrorCause CauseOfHandshake(TransferEnd const& end)
+{
+    bool const isBroken = std::any_of(BROKEN_HANDSHAKES.begin(), BROKEN_HANDSHAKES.end(),
+                                      [&end](char const* text) { return end.text.contains(QLatin1String(text)); });
+    return isBroken ? ErrorCause::IncompleteHead : ErrorCause::HandshakeRefused;
+}
+
 /// The cause if an established connection breaks.
 ErrorCause CauseOfBreak(TransferEnd const& end)
 {
@@ -115,7 +127,7 @@ ErrorCause CauseOfBreak(TransferEnd const& end)
 
 ErrorCause CauseOf(TransferEnd const& end)
 {
-    if (end.stage == TransferStage::Connecting && end.proxyStatus >= 300)
+    if (end.stage == TransferStage::Connecting && end.proxyStatus >= STATUS_NO_TUNNEL)
     {
         return end.proxyStatus == STATUS_PROXY_ASKS ? ErrorCause::ProxyAsksForPassword : ErrorCause::ProxyRefused;
     }
@@ -126,6 +138,15 @@ ErrorCause CauseOf(TransferEnd const& end)
     if (end.code == CURLE_PEER_FAILED_VERIFICATION)
     {
         return CauseOfCertificate(end.certificateError);
+    }
+    if (end.code == CURLE_SSL_CONNECT_ERROR)
+    {
+        return CauseOfHandshake(end);
+    }
+    bool const waitsForProxy = end.hasProxy && end.proxyStatus < STATUS_TUNNEL;
+    if (end.code == CURLE_OPERATION_TIMEDOUT && end.stage == TransferStage::Connecting && waitsForProxy)
+    {
+        return ErrorCause::ProxyFailed;
     }
     if (end.code == CURLE_COULDNT_CONNECT)
     {

@@ -5,6 +5,7 @@
 #include "tests/support/TestProxy.h"
 
 #include <QNetworkProxy>
+#include <QTcpServer>
 
 #include <array>
 #include <set>
@@ -196,6 +197,20 @@ TEST_P(EveryProxy, ThatIsNotThereIsAnErrorOfItsOwn)
     }
     Use(port);
     EXPECT_EQ(CauseOf(FetchAnywhere(Url())), ErrorCause::ProxyFailed);
+    EXPECT_EQ(Server().Connections(), 0);
+}
+
+TEST_P(EveryProxy, ThatNeverAnswersIsNotTakenForTheServer)
+{
+    QTcpServer silent;
+    ASSERT_TRUE(silent.listen(QHostAddress::LocalHost));
+    Use(silent.serverPort());
+    FetchLimits limits = ShortLimits();
+    limits.connectTimeout = limits.rateWindow = std::chrono::milliseconds(500);
+    // Without a tunnel, the silence of a proxy looks like the silence of the server.
+    bool const isForwarded = Proxy().type == QNetworkProxy::HttpCachingProxy;
+    EXPECT_EQ(CauseOf(Fetch(Url(), limits, InsecureHttp::Anywhere)),
+              isForwarded ? ErrorCause::TooSlow : ErrorCause::ProxyFailed);
     EXPECT_EQ(Server().Connections(), 0);
 }
 

@@ -6,6 +6,8 @@
 
 #include <QProcess>
 #include <QRegularExpression>
+#include <QTcpServer>
+#include <QTcpSocket>
 
 #include <optional>
 
@@ -258,6 +260,26 @@ TEST_F(SecureFetchTest, ServerThatSpeaksNoTlsIsRefused)
     ErrorCause const cause = CauseOf(Fetch(url, limits));
     // The plain server waits for the end of a request that never comes.
     EXPECT_EQ(cause, ErrorCause::ConnectTimeout);
+}
+
+TEST_F(SecureFetchTest, HandshakeThatBreaksSaysNothingOfTheServersTls)
+{
+    for (bool const isReset : {false, true})
+    {
+        QTcpServer server;
+        QObject::connect(&server, &QTcpServer::newConnection,
+                         [&server, isReset]
+                         {
+                             QTcpSocket* const client = server.nextPendingConnection();
+                             QObject::connect(client, &QTcpSocket::readyRead,
+                                              [client, isReset]
+                                              { isReset ? client->abort() : client->disconnectFromHost(); });
+                         });
+        ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+        QUrl url(QStringLiteral("https://127.0.0.1/"));
+        url.setPort(server.serverPort());
+        EXPECT_EQ(CauseOf(Fetch(url)), ErrorCause::IncompleteHead) << isReset;
+    }
 }
 
 class WeakHandshake : public SecureFetchTest, public ::testing::WithParamInterface<char const*>

@@ -195,6 +195,13 @@ TransferEnd Certificate(long error)
     return end;
 }
 
+TransferEnd Handshake(char const* text)
+{
+    TransferEnd end = End(CURLE_SSL_CONNECT_ERROR, TransferStage::Connecting);
+    end.text = QString::fromLatin1(text);
+    return end;
+}
+
 TransferEnd Proxy(CURLcode code, long error, long status)
 {
     TransferEnd end = End(code, TransferStage::Connecting, ECONNREFUSED);
@@ -229,6 +236,15 @@ INSTANTIATE_TEST_SUITE_P(
         EndRow{"OtherConnect", End(CURLE_COULDNT_CONNECT, CONNECTING, EPERM), ErrorCause::ConnectionFailed},
         EndRow{"Time", End(CURLE_OPERATION_TIMEDOUT, CONNECTING), ErrorCause::ConnectTimeout},
         EndRow{"Handshake", End(CURLE_SSL_CONNECT_ERROR, CONNECTING), ErrorCause::HandshakeRefused},
+        EndRow{"HandshakeAlert", Handshake("OpenSSL/3.0.19: error:0A00042E:SSL routines::tlsv1 alert protocol version"),
+               ErrorCause::HandshakeRefused},
+        EndRow{"HandshakeClosed",
+               Handshake("OpenSSL SSL_connect: SSL_ERROR_SYSCALL in connection to updates.example.com:443"),
+               ErrorCause::IncompleteHead},
+        EndRow{"HandshakeEnded", Handshake("OpenSSL/3.0.19: error:0A000126:SSL routines::unexpected eof while reading"),
+               ErrorCause::IncompleteHead},
+        EndRow{"HandshakeReset", Handshake("Recv failure: Connection reset by peer"), ErrorCause::IncompleteHead},
+        EndRow{"HandshakeUnsent", Handshake("Send failure: Broken pipe"), ErrorCause::IncompleteHead},
         EndRow{"Expired", Certificate(X509_V_ERR_CERT_HAS_EXPIRED), ErrorCause::CertificateExpired},
         EndRow{"Untrusted", Certificate(X509_V_ERR_CERT_UNTRUSTED), ErrorCause::CertificateAuthorityUnknown},
         EndRow{"Name60", Certificate(X509_V_ERR_UNSPECIFIED), ErrorCause::CertificateWrongName},
@@ -241,6 +257,8 @@ INSTANTIATE_TEST_SUITE_P(
         EndRow{"Unknown", End(CURLE_FTP_WEIRD_PASV_REPLY, WAITING), ErrorCause::ConnectionFailed},
         EndRow{"NoProxy", Proxy(CURLE_COULDNT_CONNECT, 0, 0), ErrorCause::ProxyFailed},
         EndRow{"ProxysName", Proxy(CURLE_COULDNT_RESOLVE_PROXY, 0, 0), ErrorCause::ProxyFailed},
+        EndRow{"ProxysTime", Proxy(CURLE_OPERATION_TIMEDOUT, 0, 0), ErrorCause::ProxyFailed},
+        EndRow{"TimeBehindATunnel", Proxy(CURLE_OPERATION_TIMEDOUT, 0, 200), ErrorCause::ConnectTimeout},
         EndRow{"ProxyAsks", Proxy(CURLE_RECV_ERROR, 0, 407), ErrorCause::ProxyAsksForPassword},
         EndRow{"ProxyForbids", Proxy(CURLE_RECV_ERROR, 0, 403), ErrorCause::ProxyRefused},
         EndRow{"SocksPassword", Proxy(CURLE_PROXY, CURLPX_USER_REJECTED, 0), ErrorCause::ProxyAsksForPassword},

@@ -7,9 +7,12 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <random>
+#include <utility>
 
 namespace
 {
@@ -77,6 +80,24 @@ TEST(PackedText, WhatTheProgramGzipMakesHasARecipe)
         SCOPED_TRACE(options);
         std::string const file = GzipProgramsOf(text, options);
         EXPECT_LT(ExpectTheWayBack(file, text).size(), file.size() / 20);
+    }
+}
+
+TEST(PackedText, CodesOfEveryLengthHaveARecipe)
+{
+    // Each character is as frequent as the two before it together: so the rare ones have the longest codes.
+    std::string text;
+    std::size_t before = 1;
+    for (std::size_t i = 0, count = 1; i < 20; ++i)
+    {
+        text.append(count, static_cast<char>('a' + i));
+        count = std::exchange(before, count + before);
+    }
+    std::shuffle(text.begin(), text.end(), std::mt19937(7));
+    for (int const level : {1, 4, 9})
+    {
+        SCOPED_TRACE(level);
+        ExpectTheWayBack(GzipOf(text, level), text);
     }
 }
 

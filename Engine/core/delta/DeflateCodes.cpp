@@ -1,7 +1,7 @@
 #include "Engine/core/delta/DeflateCodes.h"
 
 #include <algorithm>
-#include <cstring>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -11,9 +11,9 @@ namespace
 constexpr std::uint32_t END_OF_BLOCK = 256;
 constexpr std::size_t LENGTH_SYMBOLS = 286;
 constexpr std::size_t DISTANCE_SYMBOLS = 30;
-constexpr std::size_t MAX_LENGTH = 258;
+constexpr std::uint16_t LONGEST_REPETITION = 258;
 
-/// The least number that a symbol stands for, and the bits behind it that tell how much more it is.
+/// The numbers of one symbol: the least of them, and how many bits follow the symbol's code.
 struct Range
 {
     std::uint16_t base;
@@ -30,7 +30,7 @@ constexpr std::array<Range, 29> MakeLengths()
         ranges[i] = {static_cast<std::uint16_t>(base), static_cast<std::uint8_t>(bits)};
         base += 1u << bits;
     }
-    ranges[28] = {MAX_LENGTH, 0};
+    ranges[28] = {LONGEST_REPETITION, 0};
     return ranges;
 }
 
@@ -65,7 +65,7 @@ constexpr std::uint32_t SymbolOf(std::uint32_t offset)
 
 std::uint32_t LengthSymbolOf(std::uint16_t length)
 {
-    return length == MAX_LENGTH ? 28 : SymbolOf<2>(length - 3u);
+    return length == LONGEST_REPETITION ? 28 : SymbolOf<2>(length - 3u);
 }
 
 std::uint32_t DistanceSymbolOf(std::uint16_t distance)
@@ -75,59 +75,52 @@ std::uint32_t DistanceSymbolOf(std::uint16_t distance)
 
 } // namespace
 
-std::uint32_t BitReader::Peek(unsigned count) const
+void BitReader::RefillAtEnd()
 {
-    std::size_t const first = m_position / 8;
-    std::uint32_t word = 0;
-    if (first + sizeof word <= m_bytes.size())
+    for (; m_count <= 56; m_count += 8, ++m_next)
     {
-        std::memcpy(&word, m_bytes.data() + first, sizeof word);
+        m_bits &= ~(~std::uint64_t(0) << m_count);
+        m_bits |= m_next < m_bytes.size() ? std::uint64_t(m_bytes[m_next]) << m_count : 0;
     }
-    for (std::size_t i = first; i < m_bytes.size() && first + sizeof word > m_bytes.size(); ++i)
-    {
-        word |= std::uint32_t(m_bytes[i]) << (8 * (i - first));
-    }
-    return word >> (m_position % 8) & ((1u << count) - 1);
 }
 
-std::uint32_t BitReader::Take(unsigned count)
+void BitWriter::Append(Bytes bytes)
 {
-    std::uint32_t const bits = Peek(count);
-    Skip(count);
-    return bits;
+    m_count = (m_count + 7) & ~7u;
+    Flush();
+    m_bytes.resize(m_size);
+    m_bytes.insert(m_bytes.end(), bytes.begin(), bytes.end());
+    m_size = m_bytes.size();
 }
 
-void BitWriter::Put(std::uint32_t bits, unsigned count)
+ByteBuffer BitWriter::Take()
 {
-    m_bits |= (bits & ((std::uint64_t(1) << count) - 1)) << m_count;
-    for (m_count += count; m_count >= 8; m_count -= 8)
-    {
-        m_bytes.push_back(static_cast<std::uint8_t>(m_bits));
-        m_bits >>= 8;
-    }
+    Append({});
+    m_size = 0;
+    return std::exchange(m_bytes, {});
 }
 
 bool DeflateCode::Build(std::uint8_t const* lengths, std::size_t count)
 {
-    std::array<std::uint32_t, MAX_CODE_BITS + 1> counts{};
     m_lengths.fill(0);
     std::copy_n(lengths, count, m_lengths.begin());
+    m_counts.fill(0);
     for (std::size_t i = 0; i < count; ++i)
     {
-        ++counts[m_lengths[i]];
+        ++m_counts[m_lengths[i]];
     }
-    counts[0] = 0;
+    m_counts[0] = 0;
     std::array<std::uint32_t, MAX_CODE_BITS + 1> next{};
+    std::array<std::uint32_t, MAX_CODE_BITS + 1> place{};
     for (unsigned bits = 1; bits <= MAX_CODE_BITS; ++bits)
     {
-        next[bits] = (next[bits - 1] + counts[bits - 1]) << 1;
-        if (next[bits] + counts[bits] > 1u << bits)
+        next[bits] = (next[bits - 1] + m_counts[bits - 1]) << 1;
+        place[bits] = place[bits - 1] + m_counts[bits - 1];
+        if (next[bits] + m_counts[bits] > 1u << bits)
         {
             return false;
         }
     }
-    m_hasTable = false;
-    m_longest = 0;
     for (std::size_t symbol = 0; symbol < count; ++symbol)
     {
         unsigned const bits = m_lengths[symbol];
@@ -138,42 +131,46 @@ bool DeflateCode::Build(std::uint8_t const* lengths, std::size_t count)
             reversed |= (code >> i & 1) << (bits - 1 - i);
         }
         m_codes[symbol] = static_cast<std::uint16_t>(reversed);
-        m_longest = std::max(m_longest, bits);
+        if (bits > 0)
+        {
+            m_sorted[place[bits]++] = static_cast<std::uint16_t>(symbol);
+        }
     }
     return true;
 }
 
 void DeflateCode::MakeTable()
 {
-    std::size_t const size = std::size_t(1) << m_longest;
-    std::fill_n(m_table.begin(), size, std::uint16_t(0));
+    m_table.fill(0);
     for (std::size_t symbol = 0; symbol < m_lengths.size(); ++symbol)
     {
         unsigned const bits = m_lengths[symbol];
-        for (std::size_t i = m_codes[symbol]; bits > 0 && i < size; i += std::size_t(1) << bits)
+        for (std::size_t i = m_codes[symbol]; bits > 0 && bits <= TABLE_BITS && i < m_table.size();
+             i += std::size_t(1) << bits)
         {
             m_table[i] = static_cast<std::uint16_t>(symbol << 4 | bits);
         }
     }
-    m_hasTable = true;
 }
 
-bool DeflateCode::Read(BitReader& bits, std::uint32_t& symbol)
+/// The codes of one length are numbers in ascending order, and follow those of the lengths before.
+std::uint32_t DeflateCode::ReadLong(BitReader& bits) const
 {
-    if (!m_hasTable)
+    std::uint32_t code = 0;
+    std::uint32_t first = 0;
+    std::uint32_t place = 0;
+    for (unsigned length = 1; length <= MAX_CODE_BITS; ++length)
     {
-        MakeTable();
+        code = code << 1 | (bits.Peek() >> (length - 1) & 1);
+        if (code - first < m_counts[length])
+        {
+            bits.Skip(length);
+            return m_sorted[place + (code - first)];
+        }
+        first = (first + m_counts[length]) << 1;
+        place += m_counts[length];
     }
-    std::uint16_t const found = m_table[bits.Peek(m_longest)];
-    bits.Skip(found & 15u);
-    symbol = found >> 4;
-    return found != 0 && !bits.IsOverrun();
-}
-
-bool DeflateCode::Write(BitWriter& bits, std::uint32_t symbol) const
-{
-    bits.Put(m_codes[symbol], m_lengths[symbol]);
-    return m_lengths[symbol] != 0;
+    return MAX_SYMBOLS;
 }
 
 bool BlockCodes::SetFixed()
@@ -204,12 +201,14 @@ bool BlockCodes::ReadDynamic(BitReader& bits)
     {
         return false;
     }
+    code.MakeTable();
     std::array<std::uint8_t, LENGTH_SYMBOLS + DISTANCE_SYMBOLS> all{};
     std::size_t const total = lengths + distances;
     for (std::size_t i = 0; i < total;)
     {
-        std::uint32_t symbol = 0;
-        if (!code.Read(bits, symbol))
+        bits.Refill();
+        std::uint32_t const symbol = code.Read(bits);
+        if (symbol == DeflateCode::MAX_SYMBOLS || bits.IsOverrun())
         {
             return false;
         }
@@ -232,52 +231,75 @@ bool BlockCodes::ReadDynamic(BitReader& bits)
            m_distances.Build(all.data() + lengths, distances);
 }
 
-bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd)
+void BlockCodes::StartReading()
 {
-    std::uint32_t symbol = 0;
-    if (!m_lengths.Read(bits, symbol))
-    {
-        return false;
-    }
+    m_lengths.MakeTable();
+    m_distances.MakeTable();
+}
+
+bool BlockCodes::Read(BitReader& bits, DeflateToken& token, bool& isEnd) const
+{
+    bits.Refill(); // a token has at most 48 bits
+    std::uint32_t const symbol = m_lengths.Read(bits);
     isEnd = symbol == END_OF_BLOCK;
     if (symbol <= END_OF_BLOCK)
     {
         token = {0, static_cast<std::uint16_t>(symbol)};
-        return true;
+        return !bits.IsOverrun();
     }
-    std::uint32_t distance = 0;
     std::size_t const number = symbol - END_OF_BLOCK - 1;
     if (number >= LENGTHS.size())
     {
         return false;
     }
-    token.length = static_cast<std::uint16_t>(LENGTHS[number].base + bits.Take(LENGTHS[number].bits));
-    if (!m_distances.Read(bits, distance) || distance >= DISTANCES.size())
+    std::uint32_t const length = LENGTHS[number].base + bits.TakeReady(LENGTHS[number].bits);
+    std::uint32_t const distance = m_distances.Read(bits);
+    if (distance >= DISTANCES.size())
     {
         return false;
     }
-    token.value = static_cast<std::uint16_t>(DISTANCES[distance].base + bits.Take(DISTANCES[distance].bits));
+    token.length = static_cast<std::uint16_t>(length);
+    token.value = static_cast<std::uint16_t>(DISTANCES[distance].base + bits.TakeReady(DISTANCES[distance].bits));
     return !bits.IsOverrun();
+}
+
+void BlockCodes::StartWriting()
+{
+    for (std::uint16_t length = LENGTHS[0].base; length < m_codedLengths.size(); ++length)
+    {
+        std::uint32_t const symbol = LengthSymbolOf(length);
+        CodedBits coded = m_lengths.Coded(END_OF_BLOCK + 1 + symbol);
+        if (coded.count > 0)
+        {
+            coded.bits |= (length - std::uint32_t(LENGTHS[symbol].base)) << coded.count;
+            coded.count += LENGTHS[symbol].bits;
+        }
+        m_codedLengths[length] = coded;
+    }
 }
 
 bool BlockCodes::Write(BitWriter& bits, DeflateToken token) const
 {
     if (token.length == 0)
     {
-        return m_lengths.Write(bits, token.value);
+        CodedBits const coded = m_lengths.Coded(token.value);
+        bits.Put(coded);
+        return coded.count > 0;
     }
-    std::uint32_t const length = LengthSymbolOf(token.length);
-    std::uint32_t const distance = DistanceSymbolOf(token.value);
-    bool const hasLength = m_lengths.Write(bits, END_OF_BLOCK + 1 + length);
-    bits.Put(token.length - std::uint32_t(LENGTHS[length].base), LENGTHS[length].bits);
-    bool const hasDistance = m_distances.Write(bits, distance);
-    bits.Put(token.value - std::uint32_t(DISTANCES[distance].base), DISTANCES[distance].bits);
-    return hasLength && hasDistance;
+    std::uint32_t const symbol = DistanceSymbolOf(token.value);
+    CodedBits const length = m_codedLengths[token.length];
+    CodedBits const distance = m_distances.Coded(symbol);
+    std::uint32_t const offset = token.value - std::uint32_t(DISTANCES[symbol].base);
+    bits.Put(length);
+    bits.Put(distance.bits | offset << distance.count, distance.count + DISTANCES[symbol].bits);
+    return length.count > 0 && distance.count > 0;
 }
 
 bool BlockCodes::WriteEnd(BitWriter& bits) const
 {
-    return m_lengths.Write(bits, END_OF_BLOCK);
+    CodedBits const coded = m_lengths.Coded(END_OF_BLOCK);
+    bits.Put(coded);
+    return coded.count > 0;
 }
 
 } // namespace Pelnar::Engine

@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 
 namespace Pelnar::Engine
 {
@@ -15,60 +16,141 @@ namespace Pelnar::Engine
 class BitReader
 {
 public:
-    explicit BitReader(Bytes bytes) : m_bytes(bytes) {}
+    /// Starts at the bit \a position.
+    explicit BitReader(Bytes bytes, std::size_t position = 0) : m_bytes(bytes), m_next(position / 8)
+    {
+        Take(position % 8);
+    }
 
-    /// At most 16.
-    std::uint32_t Peek(unsigned count) const;
-    void Skip(unsigned count) { m_position += count; }
-    std::uint32_t Take(unsigned count);
-    std::size_t Position() const { return m_position; }
-    bool IsOverrun() const { return m_position > m_bytes.size() * 8; }
+    /// Makes at least 56 bits ready for Peek and Skip.
+    void Refill()
+    {
+        if (m_next + sizeof m_bits <= m_bytes.size())
+        {
+            std::uint64_t word;
+            std::memcpy(&word, m_bytes.data() + m_next, sizeof word);
+            m_bits |= word << m_count;
+            m_next += (63 - m_count) / 8;
+            m_count |= 56;
+            return;
+        }
+        RefillAtEnd();
+    }
+    /// The next 16 bits at least; the ones behind them have no meaning. REQUIRES: they are ready.
+    std::uint32_t Peek() const { return static_cast<std::uint32_t>(m_bits); }
+    /// REQUIRES: the bits are ready.
+    void Skip(std::size_t count)
+    {
+        m_bits >>= count;
+        m_count -= static_cast<unsigned>(count);
+    }
+    /// REQUIRES: at most 16 bits, and they are ready.
+    std::uint32_t TakeReady(std::size_t count)
+    {
+        std::uint32_t const bits = Peek() & ((1u << count) - 1);
+        Skip(count);
+        return bits;
+    }
+    /// At most 16 bits.
+    std::uint32_t Take(std::size_t count)
+    {
+        Refill();
+        return TakeReady(count);
+    }
+    std::size_t Position() const { return m_next * 8 - m_count; }
+    bool IsOverrun() const { return Position() > m_bytes.size() * 8; }
 
 private:
+    void RefillAtEnd();
+
     Bytes m_bytes;
-    std::size_t m_position = 0;
+    std::size_t m_next;       ///< the first byte that is not in m_bits; past the end if there are zeros in it
+    std::uint64_t m_bits = 0; ///< the next bits. Above the ready ones are bits of the byte at m_next, or zeros
+    unsigned m_count = 0;     ///< of the ready bits
+};
+
+/// Bits with their number, ready to be written.
+struct CodedBits
+{
+    std::uint32_t bits = 0;
+    std::uint32_t count = 0; ///< 0 for something that has no code
 };
 
 class BitWriter
 {
 public:
-    /// The lowest \a count of \a bits, at most 16.
-    void Put(std::uint32_t bits, unsigned count);
-    /// The full bytes.
-    ByteBuffer& Buffer() { return m_bytes; }
-    /// Fills the last byte with zeros.
-    void EndByte() { Put(0, (8 - m_count) % 8); }
+    /// At most 28 bits. Those of \a bits above \a count are 0.
+    void Put(std::uint32_t bits, unsigned count)
+    {
+        m_bits |= std::uint64_t(bits) << m_count;
+        m_count += count;
+        if (m_count >= 32)
+        {
+            Flush();
+        }
+    }
+    void Put(CodedBits coded) { Put(coded.bits, coded.count); }
+    /// Fills the last byte with zeros and adds \a bytes.
+    void Append(Bytes bytes);
+    /// Bytes that are written, but for the last few.
+    std::size_t Size() const { return m_size; }
+    /// Fills the last byte with zeros and gives all bytes away.
+    ByteBuffer Take();
 
 private:
+    void Flush()
+    {
+        if (m_size + sizeof m_bits > m_bytes.size())
+        {
+            m_bytes.resize(2 * m_bytes.size() + 4096);
+        }
+        std::memcpy(m_bytes.data() + m_size, &m_bits, sizeof m_bits);
+        std::size_t const bytes = m_count / 8;
+        m_size += bytes;
+        m_bits >>= bytes * 8;
+        m_count %= 8;
+    }
+
     ByteBuffer m_bytes;
+    std::size_t m_size = 0; ///< of m_bytes that are written
     std::uint64_t m_bits = 0;
-    unsigned m_count = 0; ///< of the bits that fill no byte yet
+    unsigned m_count = 0; ///< of the bits in m_bits; at most 31 between calls
 };
 
 constexpr unsigned MAX_CODE_BITS = 15;
 
-/// A Huffman code by its lengths.
+/// A Huffman code, made from the lengths of its symbols' codes.
 class DeflateCode
 {
 public:
     static constexpr std::size_t MAX_SYMBOLS = 288;
 
-    /// False when the lengths make no code.
+    /// False if the lengths make no code.
     [[nodiscard]] bool Build(std::uint8_t const* lengths, std::size_t count);
-    /// False when no symbol has the next bits.
-    [[nodiscard]] bool Read(BitReader& bits, std::uint32_t& symbol);
-    /// False when \a symbol has no code.
-    [[nodiscard]] bool Write(BitWriter& bits, std::uint32_t symbol) const;
+    /// REQUIRES: before the first Read after Build.
+    void MakeTable();
+    /// Answers a symbol and skips its bits; MAX_SYMBOLS if no symbol has the next bits. REQUIRES: MAX_CODE_BITS are
+    /// ready.
+    std::uint32_t Read(BitReader& bits) const
+    {
+        std::uint16_t const found = m_table[bits.Peek() % m_table.size()];
+        bits.Skip(found & 15u);
+        return found != 0 ? found >> 4 : ReadLong(bits);
+    }
+    CodedBits Coded(std::uint32_t symbol) const { return {m_codes[symbol], m_lengths[symbol]}; }
 
 private:
-    void MakeTable();
+    static constexpr unsigned TABLE_BITS = 10;
+
+    std::uint32_t ReadLong(BitReader& bits) const;
 
     std::array<std::uint8_t, MAX_SYMBOLS> m_lengths{};
-    std::array<std::uint16_t, MAX_SYMBOLS> m_codes{}; ///< as they are written
-    unsigned m_longest = 0;                           ///< bits of the longest code
-    bool m_hasTable = false;                          ///< only what is read needs it
-    std::array<std::uint16_t, std::size_t(1) << MAX_CODE_BITS>
-        m_table; ///< by the next m_longest bits: 16 times the symbol and the bits; 0 for none
+    std::array<std::uint16_t, MAX_SYMBOLS> m_codes{};        ///< with the first bit lowest, as they are written
+    std::array<std::uint16_t, MAX_CODE_BITS + 1> m_counts{}; ///< symbols of each length
+    std::array<std::uint16_t, MAX_SYMBOLS> m_sorted{};       ///< symbols in the order of their codes
+    std::array<std::uint16_t, std::size_t(1) << TABLE_BITS>
+        m_table; ///< by the next bits: 16 times the symbol, and the
+                 ///< bits of its code; 0 for none and for longer ones
 };
 
 enum class BlockKind : std::uint8_t
@@ -90,16 +172,24 @@ class BlockCodes
 {
 public:
     [[nodiscard]] bool SetFixed();
-    /// Reads what stands before a dynamic block's tokens.
+    /// Reads what comes before the tokens of a dynamic block.
     [[nodiscard]] bool ReadDynamic(BitReader& bits);
-    /// The next token; \a isEnd instead at the end of the block. False when it is broken.
-    [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd);
+    /// REQUIRES: before the first Read after the codes have changed.
+    void StartReading();
+    /// The next token, or \a isEnd at the end of the block. False for damaged bits.
+    [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd) const;
+    /// REQUIRES: before the first Write after the codes have changed.
+    void StartWriting();
+    /// False for a token that has no code.
     [[nodiscard]] bool Write(BitWriter& bits, DeflateToken token) const;
     [[nodiscard]] bool WriteEnd(BitWriter& bits) const;
 
 private:
+    static constexpr std::size_t MAX_LENGTH = 258;
+
     DeflateCode m_lengths;
     DeflateCode m_distances;
+    std::array<CodedBits, MAX_LENGTH + 1> m_codedLengths; ///< with the bits behind the code
 };
 
 } // namespace Pelnar::Engine

@@ -178,9 +178,14 @@ bool TokenReader::StartBlock()
 {
     m_isLast = m_bits.Take(1) != 0;
     m_kind = static_cast<BlockKind>(m_bits.Take(2));
-    return m_kind == BlockKind::Fixed     ? m_codes->SetFixed()
-           : m_kind == BlockKind::Dynamic ? m_codes->ReadDynamic(m_bits)
-                                          : false;
+    bool const hasCodes = m_kind == BlockKind::Fixed     ? m_codes->SetFixed()
+                          : m_kind == BlockKind::Dynamic ? m_codes->ReadDynamic(m_bits)
+                                                         : false;
+    if (hasCodes)
+    {
+        m_codes->StartReading();
+    }
+    return hasCodes;
 }
 
 bool TokenReader::Next(DeflateToken& token)

@@ -65,12 +65,11 @@ void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes
     if (kind == BlockKind::Dynamic)
     {
         AppendNumber(recipe, end - begin);
-        BitReader bits(data);
-        bits.Skip(static_cast<unsigned>(begin));
-        BitWriter copy;
-        CopyBits(bits, copy, end - begin);
-        copy.EndByte();
-        recipe.insert(recipe.end(), copy.Buffer().begin(), copy.Buffer().end());
+        BitReader bits(data, begin);
+        BitWriter writer;
+        CopyBits(bits, writer, end - begin);
+        ByteBuffer const copy = writer.Take();
+        recipe.insert(recipe.end(), copy.begin(), copy.end());
     }
 }
 
@@ -123,8 +122,7 @@ public:
 
     std::optional<ByteBuffer> Pack()
     {
-        Bytes const opening = TakeBytes();
-        m_bits.Buffer().assign(opening.begin(), opening.end());
+        m_bits.Append(TakeBytes());
         if (!FindTokens())
         {
             return std::nullopt;
@@ -137,12 +135,9 @@ public:
                 return std::nullopt;
             }
         }
-        m_bits.EndByte();
-        Bytes const closing = TakeBytes();
-        ByteBuffer& file = m_bits.Buffer();
-        file.insert(file.end(), closing.begin(), closing.end());
+        m_bits.Append(TakeBytes());
         bool const isWhole = m_recipe.Error() == DeltaManifestError::None && m_recipe.IsAtEnd();
-        return isWhole && file.size() <= m_maxSize ? std::optional<ByteBuffer>(std::move(file)) : std::nullopt;
+        return isWhole && m_bits.Size() <= m_maxSize ? std::optional<ByteBuffer>(m_bits.Take()) : std::nullopt;
     }
 
 private:
@@ -173,10 +168,11 @@ private:
         {
             return false;
         }
+        m_codes->StartWriting();
         for (std::uint64_t i = 0; i < count; ++i)
         {
             bool const isWritten = m_next < m_tokens.size() && m_codes->Write(m_bits, m_tokens[m_next++]);
-            if (!isWritten || m_bits.Buffer().size() > m_maxSize)
+            if (!isWritten || m_bits.Size() > m_maxSize)
             {
                 return false;
             }

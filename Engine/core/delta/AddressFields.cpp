@@ -1,13 +1,11 @@
 #include "Engine/core/delta/AddressFields.h"
 
+#include "Engine/core/delta/SixteenBytes.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
 #include <utility>
-
-#ifdef __SSE2__
-#include <emmintrin.h>
-#endif
 
 namespace Pelnar::Engine
 {
@@ -63,30 +61,6 @@ WordRecord WordRecordOf(RegionKind kind)
                                              : WordRecord{1, 1};
 }
 
-using SixteenBytes = std::uint8_t __attribute__((vector_size(16)));
-
-SixteenBytes Load(std::uint8_t const* bytes)
-{
-    SixteenBytes loaded;
-    std::memcpy(&loaded, bytes, sizeof loaded);
-    return loaded;
-}
-
-/// A bit for each byte of \a mask whose highest bit is set.
-std::uint32_t BitsOf(SixteenBytes mask)
-{
-#ifdef __SSE2__
-    return static_cast<std::uint32_t>(_mm_movemask_epi8(reinterpret_cast<__m128i>(mask)));
-#else
-    std::uint32_t bits = 0;
-    for (unsigned i = 0; i < 16; ++i)
-    {
-        bits |= std::uint32_t(mask[i] >> 7) << i;
-    }
-    return bits;
-#endif
-}
-
 /// A bit for each of 16 \a bytes behind which a field may stand. The highest byte of a field's distance tells of most
 /// distances that they lead out of the program: it is at most \a reach from 0.
 std::uint32_t OpeningsAmong(std::uint8_t const* bytes, std::uint8_t reach)
@@ -107,6 +81,8 @@ FieldScanner::FieldScanner(Bytes file, ImageLayout const& layout)
     : m_file(file)
     , m_layout(layout)
     , m_reach(static_cast<unsigned>(std::min<std::uint64_t>((layout.end - layout.lowest) >> 24, 127)) + 1)
+    , m_code{layout.lowestCode, layout.endOfCode > layout.lowestCode ? layout.endOfCode - layout.lowestCode : 0}
+    , m_image{layout.lowest, layout.end > layout.lowest ? layout.end - layout.lowest : 0}
 {
 }
 
@@ -166,20 +142,24 @@ bool FieldScanner::NextInRegion(AddressField& field)
     return false;
 }
 
-/// Looks at the 16 bytes from m_position on. Without a jump for each: one byte of ten is an opening, and none can be
-/// foretold.
+/// Looks at the 64 bytes from m_position on, without a branch for each: one byte of ten is an opening, and none can be
+/// predicted.
 void FieldScanner::FindX86Openings()
 {
-    constexpr std::size_t AHEAD = 16 + 4;
-    std::array<std::uint8_t, AHEAD> last{};
+    constexpr std::size_t READ_BYTES = OPENINGS_BYTES + 4;
+    std::array<std::uint8_t, READ_BYTES> last{};
     std::uint8_t const* bytes = m_file.data() + m_position;
-    if (m_file.size() - m_position < AHEAD)
+    if (m_file.size() - m_position < READ_BYTES)
     {
         std::copy_n(bytes, m_file.size() - m_position, last.data());
         bytes = last.data();
     }
-    m_openings = OpeningsAmong(bytes, static_cast<std::uint8_t>(m_reach));
-    m_openingsEnd = m_position + 16;
+    m_openings = 0;
+    for (unsigned i = 0; i < OPENINGS_BYTES; i += 16)
+    {
+        m_openings |= std::uint64_t(OpeningsAmong(bytes + i, static_cast<std::uint8_t>(m_reach))) << i;
+    }
+    m_openingsEnd = m_position + OPENINGS_BYTES;
 }
 
 bool FieldScanner::NextInArm64Code(AddressField& field)
@@ -271,22 +251,24 @@ bool FieldScanner::NextWord(AddressField& field)
     WordRecord const record = WordRecordOf(region.kind);
     bool const hasNames = region.kind == RegionKind::Symbols && region.base != 0;
     field.base = region.base;
-    for (; m_position + 4 <= m_regionEnd; m_position += 8)
+    std::size_t const first = (m_position - region.begin + 7) / 8;
+    unsigned inRecord = static_cast<unsigned>(first % record.words);
+    for (std::size_t at = region.begin + first * 8; at + 4 <= m_regionEnd; at += 8)
     {
-        std::size_t const word = (m_position - region.begin + 7) / 8;
-        bool const isName = hasNames && word % record.words == 0;
-        bool const isAddress = (record.addresses >> word % record.words & 1) != 0;
-        field.position = region.begin + word * 8;
-        field.form = isName ? FieldForm::FromBase32 : FieldForm::Word64;
-        if (!(isName || isAddress) || field.position + field.Width() > m_regionEnd)
+        bool const isName = hasNames && inRecord == 0;
+        bool const isAddress = (record.addresses >> inRecord & 1) != 0;
+        inRecord = inRecord + 1 == record.words ? 0 : inRecord + 1;
+        if (!isName && (!isAddress || at + 8 > m_regionEnd))
         {
             continue;
         }
-        std::uint64_t const value = isName ? Word32(field.position) : Word64(field.position);
+        std::uint64_t const value = isName ? Word32(at) : Word64(at);
         field.target = isName ? region.base + value : value;
         if (value != 0 && m_layout.IsInImage(field.target))
         {
-            m_position = field.position + 8;
+            field.form = isName ? FieldForm::FromBase32 : FieldForm::Word64;
+            field.position = at;
+            m_position = at + 8;
             return true;
         }
     }

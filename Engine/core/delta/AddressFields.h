@@ -76,15 +76,27 @@ private:
         return word;
     }
     std::uint64_t Address(std::size_t position) const { return position + m_shift; }
+
+    /// Addresses from the lowest on.
+    struct AddressRange
+    {
+        std::uint64_t lowest;
+        std::uint64_t size;
+    };
+
+    static constexpr std::size_t OPENINGS_BYTES = 64; ///< that are looked at together
+
     Bytes m_file;
     ImageLayout const& m_layout;
     unsigned m_reach; ///< how far the highest byte of a distance of 32 bits within the image is from 0
+    AddressRange m_code;
+    AddressRange m_image;
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
     std::size_t m_region = 0;      ///< the one that is entered, or the next
     std::size_t m_position = 0;    ///< in the region that is entered
     std::size_t m_regionEnd = 0;   ///< or the end of what is looked at
-    std::uint32_t m_openings = 0;  ///< a bit for each of the 16 bytes before m_openingsEnd: a field may stand behind it
+    std::uint64_t m_openings = 0;  ///< a bit for each of the 64 bytes before m_openingsEnd: a field may be behind it
     std::size_t m_openingsEnd = 0; ///< 0 when no bytes have been looked at
     std::uint64_t m_shift = 0;     ///< of the region's addresses from its positions
     bool m_isInRegion = false;
@@ -110,14 +122,16 @@ inline bool FieldScanner::NextInX86Code(AddressField& field)
 {
     while (m_position + 5 <= m_regionEnd)
     {
-        m_openings &= m_position < m_openingsEnd ? ~0u << (m_position + 16 - m_openingsEnd) : 0;
+        m_openings &=
+            m_position < m_openingsEnd ? ~std::uint64_t(0) << (m_position + OPENINGS_BYTES - m_openingsEnd) : 0;
         if (m_openings == 0)
         {
             m_position = std::max(m_position, m_openingsEnd);
             FindX86Openings();
             continue;
         }
-        std::size_t const position = m_openingsEnd - 16 + static_cast<std::size_t>(__builtin_ctz(m_openings));
+        std::size_t const position =
+            m_openingsEnd - OPENINGS_BYTES + static_cast<std::size_t>(__builtin_ctzll(m_openings));
         m_openings &= m_openings - 1;
         std::uint8_t const opening = m_file[position];
         std::size_t const at = position + (opening == 0x0F ? 2 : 1);
@@ -127,7 +141,8 @@ inline bool FieldScanner::NextInX86Code(AddressField& field)
         }
         bool const isMemory = (opening & 0xC7) == 0x05;
         std::uint64_t const target = Address(at) + 4 + SignExtended(Word32(at), 32);
-        if (isMemory ? m_layout.IsInImage(target) : m_layout.IsInCode(target))
+        AddressRange const& range = isMemory ? m_image : m_code;
+        if (target - range.lowest < range.size)
         {
             field.form = FieldForm::Relative32;
             field.position = at;

@@ -1,5 +1,7 @@
 #include "Engine/core/delta/ImageLayout.h"
 
+#include "Engine/core/delta/SixteenBytes.h"
+
 #include <elf.h>
 
 #include <algorithm>
@@ -15,6 +17,9 @@ constexpr std::uint64_t MAX_IMAGE_REACH = 0xFFFFFFFF;
 constexpr std::size_t MAX_SECTIONS = 1024;
 constexpr std::uint64_t FRAME_INDEX_HEADER_BYTES = 12;
 constexpr std::uint8_t LEA = 0x8D;
+constexpr std::ptrdiff_t LEA_BYTES = 6; ///< with the distance
+constexpr std::uint8_t RELATIVE_MASK = 0xC7;
+constexpr std::uint8_t RELATIVE = 0x05; ///< what LEA's second byte says under the mask if a distance follows
 
 template <class Record>
 bool ReadRecord(Bytes file, std::uint64_t offset, Record& record)
@@ -215,21 +220,35 @@ private:
         std::optional<std::uint64_t> const address = AddressAt(m_layout.spans, region.begin);
         std::uint8_t const* const end = m_file.data() + region.end;
         std::uint8_t const* at = m_file.data() + region.begin;
-        while (address && end - at >= 6)
+        if (!address)
         {
-            at = static_cast<std::uint8_t const*>(std::memchr(at, LEA, static_cast<std::size_t>(end - at - 5)));
-            if (!at)
-            {
-                return;
-            }
-            bool const isRelative = (at[1] & 0xC7) == 0x05;
+            return;
+        }
+        std::uint64_t const shift = *address - region.begin;
+        auto const take = [&](std::uint8_t const* lea)
+        {
             std::int32_t distance;
-            std::memcpy(&distance, at + 2, sizeof distance);
-            std::uint64_t const next = *address + static_cast<std::uint64_t>(at + 6 - m_file.data()) - region.begin;
-            ++at;
-            if (isRelative && !m_layout.IsInCode(next + static_cast<std::uint64_t>(std::int64_t(distance))))
+            std::memcpy(&distance, lea + 2, sizeof distance);
+            auto const next = static_cast<std::uint64_t>(lea + LEA_BYTES - m_file.data()) + shift;
+            std::uint64_t const target = next + static_cast<std::uint64_t>(std::int64_t(distance));
+            if (!m_layout.IsInCode(target))
             {
-                AddIfTable(next + static_cast<std::uint64_t>(std::int64_t(distance)), begins);
+                AddIfTable(target, begins);
+            }
+        };
+        for (; end - at >= 16 + LEA_BYTES; at += 16)
+        {
+            auto const isRelative = (Load(at) == LEA) & ((Load(at + 1) & RELATIVE_MASK) == RELATIVE);
+            for (std::uint32_t bits = BitsOf(reinterpret_cast<SixteenBytes>(isRelative)); bits != 0; bits &= bits - 1)
+            {
+                take(at + __builtin_ctz(bits));
+            }
+        }
+        for (; end - at >= LEA_BYTES; ++at)
+        {
+            if (at[0] == LEA && (at[1] & RELATIVE_MASK) == RELATIVE)
+            {
+                take(at);
             }
         }
     }

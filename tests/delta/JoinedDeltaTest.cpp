@@ -17,6 +17,7 @@
 #include <fcntl.h>
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -180,6 +181,28 @@ TEST_F(JoinedDelta, ManyPackedTextsAndOthersComeOutAsTheyAre)
     ExpectTheNewVersion();
 }
 
+TEST_F(JoinedDelta, TextsThatAreLargerThanWhatMayWaitForThePackingComeOutAsTheyAre)
+{
+    // The first three may wait together. The fourth is too large to wait with them, the last to wait at all.
+    std::array<unsigned, 5> const repetitions{5, 5, 5, 19, 30};
+    std::string const words = WordsOf(1, 80000);
+    for (unsigned i = 0; i < repetitions.size(); ++i)
+    {
+        std::string text;
+        for (unsigned j = 0; j < repetitions[i]; ++j)
+        {
+            text += words;
+        }
+        std::string const name = "text" + std::to_string(i) + ".gz";
+        WriteFile(Old() / name, GzipOf(text, 9, 9));
+        WriteFile(New() / name, GzipOf("One more line.\n" + text, 9, 9));
+    }
+    WriteFile(Old() / "words", WordsOf(7, 300000));
+    WriteFile(New() / "words", "One more line.\n" + WordsOf(7, 300000));
+    ASSERT_TRUE(Make().outcome.HasSucceeded());
+    ExpectTheNewVersion();
+}
+
 TEST_F(JoinedDelta, TellsThatThePackedTextOfTheOldVersionIsAnother)
 {
     std::string const text = WordsOf(1, 50000);
@@ -193,7 +216,9 @@ TEST_F(JoinedDelta, TellsThatThePackedTextOfTheOldVersionIsAnother)
         ASSERT_GE(other.size(), file.size());
         other.resize(file.size());
         WriteFile(Old() / "changes.gz", other);
-        EXPECT_EQ(Apply().error, DeltaError::BaseDiffers);
+        DeltaOutcome const outcome = Apply();
+        EXPECT_EQ(outcome.error, DeltaError::BaseDiffers);
+        EXPECT_EQ(outcome.path, "changes.gz");
     }
     // Another text in a right file.
     std::string changed = text;

@@ -7,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <string>
+#include <vector>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -37,67 +38,113 @@ Bytes View(std::string const& text)
     return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
 }
 
-TEST(PieceWriter, WritesLargeAndSmallPiecesInTheirOrder)
+DeltaEntry EntryOf(std::string const& path)
 {
+    DeltaEntry entry;
+    entry.path = path;
+    return entry;
+}
+
+/// A second descriptor: the writer closes its own.
+UniqueFd CopyOf(UniqueFd const& file)
+{
+    return UniqueFd(::fcntl(file.Get(), F_DUPFD_CLOEXEC, 0));
+}
+
+TEST(PieceWriter, WritesLargeAndSmallPiecesOfManyFilesInTheirOrder)
+{
+    constexpr std::size_t FILES = 40;
     PieceWriter writer;
-    for (int round = 0; round < 20; ++round)
+    std::vector<DeltaEntry> entries(FILES);
+    std::vector<UniqueFd> files;
+    std::vector<std::string> contents;
+    // Buffers in turn, as the contract allows.
+    std::array<std::string, PIECES_AHEAD + 1> pieces;
+    std::size_t next = 0;
+    for (DeltaEntry& entry : entries)
     {
-        UniqueFd const file = NewFile();
-        std::string whole;
-        // Buffers in turn, as the contract allows.
-        std::array<std::string, PIECES_AHEAD + 1> pieces;
-        for (std::size_t i = 0; i < 3 * pieces.size(); ++i)
+        std::string& whole = contents.emplace_back();
+        writer.Start(CopyOf(files.emplace_back(NewFile())), entry);
+        for (std::size_t i = 0; i < contents.size() % 25; ++i)
         {
-            std::string& piece = pieces[i % pieces.size()];
-            piece.assign(i % 3 == 2 ? SMALL : LARGE, static_cast<char>('a' + i + static_cast<std::size_t>(round)));
+            std::string& piece = pieces[next++ % pieces.size()];
+            piece.assign(i % 3 == 2 ? SMALL : LARGE, static_cast<char>('a' + next % 26));
             whole += piece;
-            ASSERT_TRUE(writer.Add(file.Get(), View(piece)));
+            ASSERT_TRUE(writer.Add(View(piece)));
         }
-        ContentHash hash;
-        ASSERT_TRUE(writer.Finish(hash));
-        EXPECT_EQ(ContentOf(file.Get()), whole);
-        EXPECT_EQ(hash, HashOf(View(whole)));
+        if (contents.size() % 4 == 0)
+        {
+            std::string const owned(LARGE + contents.size(), 'o');
+            whole += owned;
+            ASSERT_TRUE(writer.Add(ByteBuffer(owned.begin(), owned.end())));
+        }
+        writer.End();
+    }
+    ASSERT_TRUE(writer.Finish().HasSucceeded());
+    for (std::size_t i = 0; i < FILES; ++i)
+    {
+        EXPECT_EQ(ContentOf(files[i].Get()), contents[i]) << i;
+        EXPECT_EQ(entries[i].hash, HashOf(View(contents[i]))) << i;
     }
 }
 
-TEST(PieceWriter, TellsOfAFileThatCannotBeWrittenAndGoesOnWithTheNext)
+TEST(PieceWriter, NamesTheFileThatCannotBeWrittenAlsoWhenOthersFollow)
 {
     PieceWriter writer;
-    UniqueFd const full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
-    ASSERT_TRUE(full);
     std::string const piece(LARGE, 'x');
-    static_cast<void>(writer.Add(full.Get(), View(piece))); // which does not know yet, as a rule
-    ContentHash hash;
-    errno = 0;
-    EXPECT_FALSE(writer.Finish(hash));
-    EXPECT_EQ(errno, ENOSPC);
+    DeltaEntry good = EntryOf("before");
+    writer.Start(NewFile(), good);
+    EXPECT_TRUE(writer.Add(View(piece)));
+    writer.End();
 
-    UniqueFd const file = NewFile();
-    EXPECT_TRUE(writer.Add(file.Get(), View(piece)));
-    EXPECT_TRUE(writer.Finish(hash));
-    EXPECT_EQ(ContentOf(file.Get()), piece);
+    DeltaEntry bad = EntryOf("full");
+    writer.Start(UniqueFd(::open("/dev/full", O_WRONLY | O_CLOEXEC)), bad);
+    static_cast<void>(writer.Add(View(piece))); // which may not know yet
+    writer.End();
+
+    DeltaEntry next = EntryOf("after");
+    writer.Start(NewFile(), next);
+    static_cast<void>(writer.Add(View(piece)));
+    writer.End();
+
+    DeltaOutcome const outcome = writer.Finish();
+    EXPECT_EQ(outcome.error, DeltaError::CannotWrite);
+    EXPECT_EQ(outcome.path, "full");
+    EXPECT_EQ(outcome.systemError, ENOSPC);
 }
 
-TEST(PieceWriter, TakesNoMoreOfAFileOnceAPieceIsLost)
+TEST(PieceWriter, TakesNoMorePiecesOnceOneIsLost)
 {
     PieceWriter writer;
-    UniqueFd const full(::open("/dev/full", O_WRONLY | O_CLOEXEC));
+    DeltaEntry bad = EntryOf("full");
+    writer.Start(UniqueFd(::open("/dev/full", O_WRONLY | O_CLOEXEC)), bad);
     std::string const piece(LARGE, 'x');
     for (std::size_t i = 0; i <= PIECES_AHEAD; ++i)
     {
-        static_cast<void>(writer.Add(full.Get(), View(piece)));
+        static_cast<void>(writer.Add(View(piece)));
     }
     errno = 0;
-    EXPECT_FALSE(writer.Add(full.Get(), View(piece)));
+    EXPECT_FALSE(writer.Add(View(piece)));
     EXPECT_EQ(errno, ENOSPC);
+    writer.End();
+
+    UniqueFd const after = NewFile();
+    DeltaEntry next = EntryOf("after");
+    writer.Start(CopyOf(after), next);
+    EXPECT_FALSE(writer.Add(View(piece)));
+    writer.End();
+    EXPECT_EQ(writer.Finish().path, "full");
+    EXPECT_EQ(ContentOf(after.Get()), "") << "nothing is written after it";
 }
 
 TEST(PieceWriter, AnEmptyFileHasTheHashOfNothing)
 {
     PieceWriter writer;
-    ContentHash hash;
-    ASSERT_TRUE(writer.Finish(hash));
-    EXPECT_EQ(hash, HashOf({}));
+    DeltaEntry entry = EntryOf("empty");
+    writer.Start(NewFile(), entry);
+    writer.End();
+    ASSERT_TRUE(writer.Finish().HasSucceeded());
+    EXPECT_EQ(entry.hash, HashOf({}));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <future>
 #include <numeric>
 #include <stdexcept>
 #include <thread>
@@ -61,6 +62,20 @@ TEST(TaskThread, LetsOnlySoManyTasksWait)
             });
         EXPECT_GE(done + AHEAD, posted);
     }
+}
+
+TEST(TaskThread, CountsTheTasksThatAreNotDone)
+{
+    TaskThread tasks(AHEAD);
+    EXPECT_EQ(tasks.Waiting(), 0u);
+    std::promise<void> gate;
+    std::shared_future<void> const opened = gate.get_future().share();
+    tasks.Post([opened] { opened.wait(); });
+    tasks.Post([] {});
+    EXPECT_EQ(tasks.Waiting(), 2u);
+    gate.set_value();
+    tasks.Finish();
+    EXPECT_EQ(tasks.Waiting(), 0u);
 }
 
 TEST(TaskThread, ThrowsWhatATaskHasThrownAndDoesNoMore)

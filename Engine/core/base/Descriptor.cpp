@@ -40,11 +40,16 @@ FileMapping::~FileMapping()
     }
 }
 
-bool WriteAll(int fd, Bytes bytes)
+namespace
+{
+
+/// Calls \a write with what is left until nothing is.
+template <class Write>
+bool WriteInParts(Bytes bytes, Write write)
 {
     while (!bytes.empty())
     {
-        ssize_t const written = write(fd, bytes.data(), bytes.size());
+        ssize_t const written = write(bytes);
         if (written == 0)
         {
             errno = EIO; // a file that takes nothing and says nothing would be written to for ever
@@ -56,6 +61,20 @@ bool WriteAll(int fd, Bytes bytes)
         bytes.remove_prefix(written < 0 ? 0 : static_cast<std::size_t>(written));
     }
     return true;
+}
+
+} // namespace
+
+bool WriteAll(int fd, Bytes bytes)
+{
+    return WriteInParts(bytes, [fd](Bytes left) { return write(fd, left.data(), left.size()); });
+}
+
+bool WriteAllAt(int fd, std::uint64_t offset, Bytes bytes)
+{
+    std::uint64_t const end = offset + bytes.size();
+    return WriteInParts(bytes, [fd, end](Bytes left)
+                        { return pwrite(fd, left.data(), left.size(), static_cast<off_t>(end - left.size())); });
 }
 
 ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size)

@@ -55,6 +55,8 @@ private:
 
 /// False, with errno, when not every byte could be written.
 [[nodiscard]] bool WriteAll(int fd, Bytes bytes);
+/// The same, from \a offset on and without the descriptor's position.
+[[nodiscard]] bool WriteAllAt(int fd, std::uint64_t offset, Bytes bytes);
 
 /// Bytes of the file from \a offset on, fewer than \a size only where it ends; their number, or -1 with errno.
 [[nodiscard]] ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size);

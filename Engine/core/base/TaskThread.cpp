@@ -34,6 +34,12 @@ void TaskThread::Post(std::function<void()> task)
     WaitFor(m_mostWaiting);
 }
 
+std::size_t TaskThread::Waiting() const
+{
+    std::lock_guard const lock(m_mutex);
+    return m_tasks.size();
+}
+
 bool TaskThread::IsRunning()
 {
     try
@@ -70,14 +76,21 @@ void TaskThread::Work()
         lock.lock();
         m_failure = failure;
         m_tasks.pop_front();
-        m_done.notify_one();
+        if (m_failure || m_tasks.size() <= m_wanted)
+        {
+            m_done.notify_one();
+        }
     }
 }
 
 void TaskThread::WaitFor(std::size_t most)
 {
     std::unique_lock lock(m_mutex);
-    m_done.wait(lock, [this, most] { return m_failure || m_tasks.size() <= most; });
+    if (m_tasks.size() > most)
+    {
+        m_wanted = most / 2; // waking a thread costs as much as a small task: it wakes for several
+        m_done.wait(lock, [this] { return m_failure || m_tasks.size() <= m_wanted; });
+    }
     if (m_failure)
     {
         std::rethrow_exception(m_failure);

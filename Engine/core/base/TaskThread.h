@@ -25,6 +25,8 @@ public:
     /// mostWaiting tasks are left, \a task and the one at hand included. Throws what a task has thrown; no task begins
     /// after that one.
     void Post(std::function<void()> task);
+    /// The number of tasks that are not done.
+    std::size_t Waiting() const;
     /// Waits until all tasks are done. Throws what a task has thrown.
     void Finish() { WaitFor(0); }
 
@@ -34,10 +36,11 @@ private:
     void WaitFor(std::size_t most);
 
     std::size_t const m_mostWaiting;
-    std::mutex m_mutex;
+    mutable std::mutex m_mutex;
     std::condition_variable m_posted;
     std::condition_variable m_done;
     std::deque<std::function<void()>> m_tasks; ///< the first is at hand
+    std::size_t m_wanted = 0;                  ///< the number of tasks that the caller waits for
     std::exception_ptr m_failure;
     bool m_isEnding = false;
     std::thread m_thread; ///< from the first task on

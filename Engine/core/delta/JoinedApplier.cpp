@@ -2,18 +2,22 @@
 
 #include "Engine/core/delta/BundleFiles.h"
 #include "Engine/core/delta/KeptFiles.h"
-#include "Engine/core/delta/PackedText.h"
+#include "Engine/core/delta/PackingThread.h"
 #include "Engine/core/delta/PatchApplier.h"
 #include "Engine/core/delta/PieceWriter.h"
 
 #include <algorithm>
 #include <cerrno>
-#include <deque>
+#include <memory>
+#include <utility>
 
 namespace Pelnar::Engine
 {
 namespace
 {
+
+/// Texts that wait for their packing have at most as many bytes.
+constexpr std::size_t MAX_PACKING_BYTES = std::size_t{4} << 20;
 
 /// The container's streams, open from the beginning to the end of the work.
 std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const& manifest)
@@ -27,13 +31,6 @@ std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const&
     }
     return streams;
 }
-
-/// The old files of a unit.
-struct UnitBase
-{
-    std::deque<FileMapping> mappings; ///< which cannot be moved
-    std::vector<Bytes> files;
-};
 
 class Applier
 {
@@ -61,8 +58,13 @@ public:
         for (auto unit = m_manifest.units.begin(); outcome.HasSucceeded() && unit != m_manifest.units.end(); ++unit)
         {
             outcome = MakeUnit(*unit);
+            outcome = outcome.HasSucceeded() ? WritePacked() : outcome;
             m_kept.Report(m_done);
         }
+        outcome = outcome.HasSucceeded() ? WriteAllPacked() : outcome;
+        // A file that could not be written is why the work has ended.
+        DeltaOutcome const written = m_writer.Finish();
+        outcome = written.HasSucceeded() ? outcome : written;
         outcome = outcome.HasSucceeded() ? m_kept.Finish(m_done) : outcome;
         if (!outcome.HasSucceeded())
         {
@@ -117,130 +119,162 @@ private:
         return hashes.Finish();
     }
 
-    DeltaOutcome OpenBase(DeltaUnit const& unit, UnitBase& base) const
+    DeltaOutcome Map(DeltaSource const& source, std::unique_ptr<FileMapping>& mapping) const
     {
-        for (DeltaSource const& source : unit.sources)
+        UniqueFd file;
+        DeltaOutcome outcome = m_files.OpenOld(source.path, source.size, file);
+        if (outcome.HasSucceeded())
         {
-            UniqueFd file;
-            DeltaOutcome outcome = m_files.OpenOld(source.path, source.size, file);
-            if (outcome.HasSucceeded())
-            {
-                FileMapping const& mapping =
-                    base.mappings.emplace_back(file.Get(), static_cast<std::size_t>(source.size));
-                base.files.push_back(mapping.Content());
-                outcome = mapping.IsValid() ? outcome : DeltaOutcome{DeltaError::CannotRead, {}, errno};
-            }
-            if (!outcome.HasSucceeded())
-            {
-                outcome.path = source.path;
-                return outcome;
-            }
+            mapping = std::make_unique<FileMapping>(file.Get(), static_cast<std::size_t>(source.size));
+            outcome = mapping->IsValid() ? outcome : DeltaOutcome{DeltaError::CannotRead, {}, errno};
         }
-        return {};
+        outcome.path = outcome.HasSucceeded() ? std::string() : source.path;
+        return outcome;
     }
 
     DeltaOutcome MakeUnit(DeltaUnit const& unit)
     {
-        UnitBase base;
-        if (DeltaOutcome outcome = OpenBase(unit, base); !outcome.HasSucceeded())
+        std::vector<std::unique_ptr<FileMapping>> mappings(unit.sources.size());
+        std::vector<Bytes> files;
+        for (std::size_t i = 0; i < mappings.size(); ++i)
         {
-            return outcome;
+            if (DeltaOutcome outcome = Map(unit.sources[i], mappings[i]); !outcome.HasSucceeded())
+            {
+                return outcome;
+            }
+            files.push_back(mappings[i]->Content());
         }
         m_patches.StartText();
-        PlainText old(base.files);
+        PlainText old(files);
         for (std::uint32_t const target : unit.targets)
         {
             DeltaEntry& entry = m_manifest.entries[target];
-            UniqueFd file;
-            DeltaOutcome outcome = m_files.MakeFile(entry, file);
-            if (outcome.HasSucceeded())
-            {
-                outcome = unit.textBytes > 0         ? MakePacked(entry, file, base.files.front(), unit.textBytes)
-                          : unit.spanChanges.empty() ? MakeFile(entry, file, old)
-                                                     : MakeProgram(entry, file, base.files.front(), unit.spanChanges);
-            }
-            bool const isWritten = m_writer.Finish(entry.hash);
-            outcome = outcome.HasSucceeded() && !isWritten ? WriteFailure() : outcome;
+            DeltaOutcome outcome = unit.textBytes > 0 ? MakeText(entry, std::move(mappings.front()), unit.textBytes)
+                                   : unit.spanChanges.empty() ? MakeFile(entry, old)
+                                                              : MakeProgram(entry, files.front(), unit.spanChanges);
             if (!outcome.HasSucceeded())
             {
                 outcome.path = entry.path;
                 return outcome;
             }
-            m_done(entry);
         }
         return {};
     }
 
-    DeltaOutcome MakeFile(DeltaEntry const& entry, UniqueFd const& file, IOldText& old)
+    DeltaOutcome StartFile(DeltaEntry& entry)
     {
+        UniqueFd file;
+        DeltaOutcome const outcome = m_files.MakeFile(entry, file);
+        m_writer.Start(std::move(file), entry);
         errno = 0;
-        ByteSink const sink = SinkOf(file);
-        return OutcomeOf(entry.kind == DeltaEntryKind::Whole ? m_patches.MakeWhole(entry.size, sink)
-                                                             : m_patches.Make(old, entry.size, sink));
+        return outcome;
     }
 
-    DeltaOutcome MakeProgram(DeltaEntry const& entry, UniqueFd const& file, Bytes program,
-                             std::vector<SpanChange> const& changes)
+    DeltaOutcome EndFile(DeltaEntry const& entry, PatchVerdict verdict)
+    {
+        DeltaOutcome const outcome = OutcomeOf(verdict);
+        m_writer.End();
+        if (outcome.HasSucceeded())
+        {
+            m_done(entry);
+        }
+        return outcome;
+    }
+
+    DeltaOutcome MakeFile(DeltaEntry& entry, IOldText& old)
+    {
+        if (DeltaOutcome outcome = StartFile(entry); !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
+        return EndFile(entry, entry.kind == DeltaEntryKind::Whole ? m_patches.MakeWhole(entry.size, m_sink)
+                                                                  : m_patches.Make(old, entry.size, m_sink));
+    }
+
+    DeltaOutcome MakeProgram(DeltaEntry& entry, Bytes program, std::vector<SpanChange> const& changes)
     {
         std::optional<ImageLayout> const layout = ReadImageLayout(program);
         if (!layout)
         {
             return {DeltaError::BaseDiffers, {}, 0};
         }
-        errno = 0;
+        if (DeltaOutcome outcome = StartFile(entry); !outcome.HasSucceeded())
+        {
+            return outcome;
+        }
         std::vector<PatchStep> steps;
         PatchVerdict verdict = m_patches.TakeSteps(program.size(), entry.size, MAX_MAPPED_STEPS, steps);
         if (verdict == PatchVerdict::Applied)
         {
             ProgramText old(program, *layout, ChangedSpans(*layout, changes), steps);
-            verdict = m_patches.MakeBySteps(old, steps, entry.size, SinkOf(file));
+            verdict = m_patches.MakeBySteps(old, steps, entry.size, m_sink);
         }
-        return OutcomeOf(verdict);
+        return EndFile(entry, verdict);
     }
 
-    DeltaOutcome MakePacked(DeltaEntry const& entry, UniqueFd const& file, Bytes oldFile, std::uint64_t textBytes)
+    /// The file is written when its text is packed.
+    DeltaOutcome MakeText(DeltaEntry& entry, std::unique_ptr<FileMapping> oldFile, std::uint64_t textBytes)
     {
-        std::optional<ByteBuffer> const oldText = UnpackText(oldFile);
+        std::optional<ByteBuffer> oldText = UnpackText(oldFile->Content());
         if (!oldText)
         {
             return {DeltaError::BaseDiffers, {}, 0};
         }
         errno = 0;
-        ByteBuffer recipe;
-        ByteBuffer text;
-        text.reserve(static_cast<std::size_t>(textBytes));
-        auto const append = [&text](Bytes piece)
+        std::unique_ptr<PackedFile> file(new PackedFile{entry, std::move(oldFile), std::move(*oldText), {}, {}, {}});
+        file->text.reserve(static_cast<std::size_t>(textBytes));
+        auto const append = [&text = file->text](Bytes piece)
         {
             text.insert(text.end(), piece.begin(), piece.end());
             return true;
         };
-        PackedBase base{View(*oldText), PackedDataOf(oldFile), {}};
-        PatchVerdict verdict = m_patches.TakeRecord(entry.size, recipe);
+        PatchVerdict verdict = m_patches.TakeRecord(entry.size, file->recipe);
         verdict = verdict == PatchVerdict::Applied
-                      ? m_patches.TakeSteps(base.text.size(), textBytes, MAX_MAPPED_STEPS, base.steps)
+                      ? m_patches.TakeSteps(file->oldText.size(), textBytes, MAX_MAPPED_STEPS, file->steps)
                       : verdict;
         if (verdict == PatchVerdict::Applied)
         {
-            PlainText old({base.text});
-            verdict = m_patches.MakeBySteps(old, base.steps, textBytes, append);
+            PlainText old({View(file->oldText)});
+            verdict = m_patches.MakeBySteps(old, file->steps, textBytes, append);
         }
-        if (verdict != PatchVerdict::Applied)
+        DeltaOutcome outcome = OutcomeOf(verdict);
+        if (outcome.HasSucceeded() && m_packing.Bytes() + file->Bytes() > MAX_PACKING_BYTES)
         {
-            return OutcomeOf(verdict);
+            outcome = WriteAllPacked();
         }
-        std::optional<ByteBuffer> packed =
-            PackByRecipe(View(recipe), View(text), static_cast<std::size_t>(entry.size), base);
-        if (!packed || packed->size() != entry.size)
+        if (outcome.HasSucceeded())
         {
-            return Culprit();
+            m_packing.Post(std::move(file));
         }
-        m_packed = std::move(*packed);
-        return m_writer.Add(file.Get(), View(m_packed)) ? DeltaOutcome{} : WriteFailure();
+        // A large text has the memory for itself.
+        bool const isLarge = m_packing.Bytes() > MAX_PACKING_BYTES;
+        return outcome.HasSucceeded() && isLarge ? WriteAllPacked() : outcome;
     }
 
-    ByteSink SinkOf(UniqueFd const& file)
+    DeltaOutcome WriteAllPacked()
     {
-        return [this, &file](Bytes bytes) { return m_writer.Add(file.Get(), bytes); };
+        m_packing.Finish();
+        return WritePacked();
+    }
+
+    /// Writes the files whose texts are packed.
+    DeltaOutcome WritePacked()
+    {
+        while (std::unique_ptr<PackedFile> const file = m_packing.TakeDone())
+        {
+            DeltaOutcome outcome = file->packed ? StartFile(file->entry) : Culprit();
+            if (outcome.HasSucceeded())
+            {
+                bool const isWritten = m_writer.Add(std::move(*file->packed));
+                outcome = EndFile(file->entry, isWritten ? PatchVerdict::Applied : PatchVerdict::SinkRefused);
+            }
+            if (!outcome.HasSucceeded())
+            {
+                outcome.path = file->entry.path;
+                return outcome;
+            }
+        }
+        return {};
     }
 
     /// Why the new files have another hash: the old ones have, too, or it is the delta's own fault.
@@ -278,7 +312,8 @@ private:
     PatchSources m_sources;
     PatchApplier m_patches;
     KeptFiles m_kept;
-    ByteBuffer m_packed;  ///< the file that is written
+    PackingThread m_packing;
+    ByteSink const m_sink = [this](Bytes piece) { return m_writer.Add(piece); };
     PieceWriter m_writer; ///< last, as it may still read what the others hold
 };
 

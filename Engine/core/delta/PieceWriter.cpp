@@ -1,43 +1,93 @@
 #include "Engine/core/delta/PieceWriter.h"
 
-#include "Engine/core/base/Descriptor.h"
-
 #include <cerrno>
+#include <utility>
 
 namespace Pelnar::Engine
 {
-
-bool PieceWriter::Add(int fd, Bytes piece)
+namespace
 {
-    // Waking the thread costs more than writing less than a whole piece.
-    if (piece.size() < PATCH_PIECE_BYTES)
+
+constexpr std::size_t MANY_PIECES = 2; ///< so many that wait make the caller write
+
+} // namespace
+
+void PieceWriter::Start(UniqueFd file, DeltaEntry& entry)
+{
+    m_file = std::make_shared<File>(File{std::move(file), entry, 0});
+}
+
+bool PieceWriter::Add(Bytes piece)
+{
+    std::uint64_t const place = m_file->bytes;
+    m_file->bytes += piece.size();
+    std::size_t const waiting = m_tasks.Waiting();
+    if (waiting == 0 && piece.size() < PATCH_PIECE_BYTES)
     {
-        m_tasks.Finish();
-        Take(fd, piece);
+        // Waking the thread costs more than writing less than a whole piece.
+        Write(*m_file, place, piece);
+        m_hasher.Add(piece);
+    }
+    else if (waiting >= MANY_PIECES)
+    {
+        Write(*m_file, place, piece);
+        m_tasks.Post([this, piece] { m_hasher.Add(piece); });
     }
     else
     {
-        m_tasks.Post([this, fd, piece] { Take(fd, piece); });
+        m_tasks.Post(
+            [this, file = m_file, place, piece]
+            {
+                Write(*file, place, piece);
+                m_hasher.Add(piece);
+            });
     }
     return IsGood();
 }
 
-bool PieceWriter::Finish(ContentHash& hash)
+bool PieceWriter::Add(ByteBuffer piece)
 {
-    m_tasks.Finish();
-    hash = m_hasher.Finish();
-    bool const isWritten = IsGood();
-    m_error = 0;
-    return isWritten;
+    std::uint64_t const place = m_file->bytes;
+    m_file->bytes += piece.size();
+    auto const owned = std::make_shared<ByteBuffer const>(std::move(piece));
+    m_tasks.Post(
+        [this, file = m_file, place, owned]
+        {
+            Write(*file, place, View(*owned));
+            m_hasher.Add(View(*owned));
+        });
+    return IsGood();
 }
 
-void PieceWriter::Take(int fd, Bytes piece)
+void PieceWriter::End()
 {
-    m_hasher.Add(piece);
-    if (m_error == 0 && !WriteAll(fd, piece))
+    std::shared_ptr<File> const file = std::exchange(m_file, nullptr);
+    if (m_tasks.Waiting() == 0)
     {
-        m_error = errno;
+        EndFile(*file);
+        return;
     }
+    m_tasks.Post([this, file] { EndFile(*file); });
+}
+
+DeltaOutcome PieceWriter::Finish()
+{
+    m_tasks.Finish();
+    return m_failed ? DeltaOutcome{DeltaError::CannotWrite, m_failed->path, m_error} : DeltaOutcome{};
+}
+
+void PieceWriter::Write(File const& file, std::uint64_t place, Bytes piece)
+{
+    int none = 0;
+    if (m_error == 0 && !WriteAllAt(file.fd.Get(), place, piece) && m_error.compare_exchange_strong(none, errno))
+    {
+        m_failed = &file.entry;
+    }
+}
+
+void PieceWriter::EndFile(File& file)
+{
+    file.entry.hash = m_hasher.Finish();
 }
 
 bool PieceWriter::IsGood() const

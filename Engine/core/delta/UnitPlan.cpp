@@ -97,6 +97,9 @@ public:
             m_plan.units.push_back(std::move(unit));
         }
         AddOthers(others);
+        // Packing a text takes long. The applier packs while it makes what comes later.
+        std::stable_partition(m_plan.units.begin(), m_plan.units.end(),
+                              [](DeltaUnit const& unit) { return unit.textBytes > 0; });
         return std::move(m_plan);
     }
 

@@ -163,7 +163,8 @@ TEST_P(EveryCall, FailsCleanly)
 
 TEST_P(EveryCall, MayBeInterrupted)
 {
-    std::set<long> const interruptible{SYS_read, SYS_pread64, SYS_write, SYS_openat2, SYS_flock, SYS_poll, SYS_wait4};
+    std::set<long> const interruptible{SYS_read,    SYS_pread64, SYS_write, SYS_pwrite64,
+                                       SYS_openat2, SYS_flock,   SYS_poll,  SYS_wait4};
     Sweep(
         1, 30, [&](Place const& place) { return interruptible.count(place.call) != 0; },
         [&](Place const& place, std::size_t)

@@ -24,9 +24,9 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-std::set<long> const DISK_CALLS{SYS_write,    SYS_openat,    SYS_openat2,   SYS_mkdirat,   SYS_symlinkat,
-                                SYS_fchmod,   SYS_fchmodat,  SYS_utimensat, SYS_fsync,     SYS_syncfs,
-                                SYS_renameat, SYS_renameat2, SYS_unlinkat,  SYS_exit_group};
+std::set<long> const DISK_CALLS{SYS_write,     SYS_pwrite64, SYS_openat,    SYS_openat2,   SYS_mkdirat,
+                                SYS_symlinkat, SYS_fchmod,   SYS_fchmodat,  SYS_utimensat, SYS_fsync,
+                                SYS_syncfs,    SYS_renameat, SYS_renameat2, SYS_unlinkat,  SYS_exit_group};
 constexpr unsigned SAMPLE_OF = 8; ///< one place in so many
 
 bool IsRename(CallStop const& stop)

@@ -1,0 +1,42 @@
+#include "Engine/core/delta/PackingThread.h"
+
+#include <utility>
+
+namespace Pelnar::Engine
+{
+
+void PackedFile::Pack()
+{
+    PackedBase const base{View(oldText), PackedDataOf(oldFile->Content()), std::move(steps)};
+    packed = PackByRecipe(View(recipe), View(text), static_cast<std::size_t>(entry.size), base);
+    if (packed && packed->size() != entry.size)
+    {
+        packed.reset();
+    }
+}
+
+void PackingThread::Post(std::unique_ptr<PackedFile> file)
+{
+    PackedFile& posted = *m_files.emplace_back(std::move(file));
+    m_bytes += posted.Bytes();
+    m_tasks.Post(
+        [&posted]
+        {
+            posted.Pack();
+            posted.isDone = true;
+        });
+}
+
+std::unique_ptr<PackedFile> PackingThread::TakeDone()
+{
+    if (m_files.empty() || !m_files.front()->isDone)
+    {
+        return nullptr;
+    }
+    std::unique_ptr<PackedFile> file = std::move(m_files.front());
+    m_files.pop_front();
+    m_bytes -= file->Bytes();
+    return file;
+}
+
+} // namespace Pelnar::Engine

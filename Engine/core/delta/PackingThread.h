@@ -1,0 +1,52 @@
+// PackingThread.h: packs texts in a thread of its own, while other files are made.
+// Thread: one at a time uses it. Ownership: its thread and the texts; entries stay the caller's.
+#pragma once
+
+#include "Engine/core/base/Descriptor.h"
+#include "Engine/core/base/TaskThread.h"
+#include "Engine/core/delta/DeltaManifest.h"
+#include "Engine/core/delta/PackedText.h"
+
+#include <atomic>
+#include <deque>
+#include <memory>
+#include <optional>
+
+namespace Pelnar::Engine
+{
+
+/// A packed file from its text.
+struct PackedFile
+{
+    DeltaEntry& entry;
+    std::unique_ptr<FileMapping> oldFile;
+    ByteBuffer oldText;
+    std::vector<PatchStep> steps; ///< from the old text to the text
+    ByteBuffer recipe;
+    ByteBuffer text;
+    std::optional<ByteBuffer> packed =
+        {}; ///< the result; nothing if the recipe does not make a file of the entry's size
+    std::atomic<bool> isDone = false;
+
+    std::size_t Bytes() const { return oldText.size() + text.size(); }
+    void Pack();
+};
+
+class PackingThread
+{
+public:
+    void Post(std::unique_ptr<PackedFile> file);
+    /// The next file in the order of the calls of Post; null if it is not done yet.
+    [[nodiscard]] std::unique_ptr<PackedFile> TakeDone();
+    /// Bytes of the texts that were posted and not taken.
+    std::size_t Bytes() const { return m_bytes; }
+    /// Waits until all are done.
+    void Finish() { m_tasks.Finish(); }
+
+private:
+    std::deque<std::unique_ptr<PackedFile>> m_files; ///< in the order of the calls of Post
+    std::size_t m_bytes = 0;
+    TaskThread m_tasks{static_cast<std::size_t>(-1)}; ///< last, as its thread uses the files
+};
+
+} // namespace Pelnar::Engine

@@ -10,6 +10,7 @@ namespace Pelnar::Installer
 
 using Engine::InstallState;
 using Engine::UpdateFault;
+using Engine::UpdateRefusal;
 
 OutcomeNote::OutcomeNote(Engine::InstallJob const& job, int recordsFd)
     : m_job(job), m_recordsFd(recordsFd), m_record(job.record.value_or(Engine::InstallRecord()))
@@ -19,7 +20,18 @@ OutcomeNote::OutcomeNote(Engine::InstallJob const& job, int recordsFd)
 void OutcomeNote::Begin()
 {
     m_record.helper = Engine::MarkOfThisProcess();
-    Write(InstallState::Waiting);
+    try
+    {
+        Write(InstallState::Waiting);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        if (refusal.Fault() == UpdateFault::NotPermitted) // whose sentence is about the application's folder
+        {
+            throw UpdateRefusal(UpdateFault::RecordFolderUnusable, refusal.ErrorNumber());
+        }
+        throw;
+    }
 }
 
 void OutcomeNote::EnterInstallation()

@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>يحتاج التحديث إلى ذاكرة أو ملفات أو عمليات أكثر مما يسمح به هذا النظام. أغلق التطبيقات الأخرى وحاول مرة أخرى.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>لا يمكن استخدام المجلد المخصص لسجلات التحديثات. تحقق من أذوناته ومن قرصه.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

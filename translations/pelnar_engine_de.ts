@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>Das Update benötigt mehr Speicher, Dateien oder Prozesse, als dieses System erlaubt. Schließen Sie andere Anwendungen, und versuchen Sie es erneut.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>Der Ordner für Aufzeichnungen über Updates kann nicht verwendet werden. Prüfen Sie seine Zugriffsrechte und seinen Datenträger.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

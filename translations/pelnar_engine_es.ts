@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>La actualización necesita más memoria, archivos o procesos de los que permite este sistema. Cierre otras aplicaciones e inténtelo de nuevo.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>No se puede usar la carpeta para los registros de actualizaciones. Compruebe sus permisos y su disco.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>La mise à jour a besoin de plus de mémoire, de fichiers ou de processus que ce système n’en autorise. Fermez d’autres applications et réessayez.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>Le dossier des enregistrements de mises à jour est inutilisable. Vérifiez ses droits d’accès et son disque.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

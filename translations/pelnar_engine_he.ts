@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>העדכון זקוק ליותר זיכרון, קבצים או תהליכים ממה שהמערכת הזו מאפשרת. יש לסגור יישומים אחרים ולנסות שוב.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>אי אפשר להשתמש בתיקייה של רישומי העדכונים. יש לבדוק את ההרשאות שלה ואת הכונן.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

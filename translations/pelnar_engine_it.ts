@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>L’aggiornamento richiede più memoria, file o processi di quanti ne consenta questo sistema. Chiuda altre applicazioni e riprovi.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>La cartella per le registrazioni degli aggiornamenti non è utilizzabile. Controllarne i permessi e il disco.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

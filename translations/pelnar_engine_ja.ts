@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>更新には、このシステムで許可されている以上のメモリ、ファイル、またはプロセスが必要です。ほかのアプリケーションを終了して、もう一度お試しください。</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>アップデートの記録用のフォルダーを使用できません。アクセス権とディスクを確認してください。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>De update heeft meer geheugen, bestanden of processen nodig dan dit systeem toestaat. Sluit andere toepassingen en probeer het opnieuw.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>De map voor gegevens over updates kan niet worden gebruikt. Controleer de toegangsrechten en de schijf.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

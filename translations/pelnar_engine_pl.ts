@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>Aktualizacja wymaga więcej pamięci, plików lub procesów, niż pozwala ten system. Zamknij inne aplikacje i spróbuj ponownie.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>Nie można użyć folderu na zapisy o aktualizacjach. Sprawdź jego uprawnienia i dysk.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>A atualização precisa de mais memória, arquivos ou processos do que este sistema permite. Feche outros aplicativos e tente novamente.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>Não é possível usar a pasta para os registros de atualizações. Verifique suas permissões e seu disco.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

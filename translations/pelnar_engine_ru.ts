@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>Обновлению нужно больше памяти, файлов или процессов, чем разрешает эта система. Закройте другие приложения и попробуйте ещё раз.</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>Папку для записей об обновлениях нельзя использовать. Проверьте права доступа к ней и её диск.</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

@@ -853,6 +853,10 @@
         <source>The update needs more memory, files or processes than this system allows. Close other applications and try again.</source>
         <translation>更新所需的内存、文件或进程超出了此系统允许的数量。请关闭其他应用程序，然后重试。</translation>
     </message>
+    <message>
+        <source>The folder for records of updates cannot be used. Check its permissions and its disk.</source>
+        <translation>无法使用存放更新记录的文件夹。请检查其权限和磁盘。</translation>
+    </message>
 </context>
 <context>
     <name>PelnarEngine_ProgressWindow</name>

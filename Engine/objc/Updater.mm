@@ -153,7 +153,10 @@ void Updater::TellFailedInstallation()
     EngineError const error = MakeFaultError(failure.fault, failure.errorNumber);
     if (m_memory->IsToBeTold())
     {
-        PrepareForCheck();
+        @autoreleasepool
+        {
+            PrepareForCheck();
+        }
         m_memory->SetTold();
         Windows().ShowError(error.sentence, [] {});
     }
@@ -172,10 +175,13 @@ void Updater::ConfirmStart()
         return;
     }
     AttachToApplication();
-    std::optional<StartedApplication> const application = ReadStartedApplication();
-    if (application && HasUnfinishedUpdate(application->bundlePath))
+    @autoreleasepool
     {
-        Engine::ConfirmGoodStart(*application, *m_startOwner, [](StartOutcome const&) {});
+        std::optional<StartedApplication> const application = ReadStartedApplication();
+        if (application && HasUnfinishedUpdate(application->bundlePath))
+        {
+            Engine::ConfirmGoodStart(*application, *m_startOwner, [](StartOutcome const&) {});
+        }
     }
 }
 

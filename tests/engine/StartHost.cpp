@@ -1,6 +1,6 @@
-// StartHost.cpp: a small host application: one start with one check, whose events it prints in a line.
-// Usage: run FEED background|interactive [confirm] [listen]
-// With "listen" it stays until it hears a third event.
+// StartHost.cpp: a small host application: one start, with one check or none, whose events it prints in a line.
+// Usage: run FEED background|interactive|unchecked [confirm] [listen]
+// With "listen" it stays until it hears a third event; without a check, a first one.
 
 #include "Foundation/IsolatedUserDefaults.h"
 #include "tests/engine/ScriptedDelegate.h"
@@ -31,11 +31,12 @@ int main(int argc, char** argv)
     script.choose = [](int, std::vector<QString> const&) { return ScriptedChoice{ScriptedChoice::Kind::Item, 0, {}}; };
     UpdaterDriver driver(script);
     driver.SetFeed(QUrl(arguments.at(1)));
+    bool const isUnchecked = arguments.at(2) == QLatin1String("unchecked");
     if (arguments.at(2) == QLatin1String("interactive"))
     {
         driver.CheckInteractively();
     }
-    else
+    else if (!isUnchecked)
     {
         driver.CheckInBackground();
     }
@@ -43,10 +44,10 @@ int main(int argc, char** argv)
     {
         Pelnar::Engine::ConfirmStart();
     }
-    bool hasEnded = driver.WaitForEnd();
+    bool hasEnded = isUnchecked || driver.WaitForEnd();
     if (arguments.contains(QStringLiteral("listen")))
     {
-        hasEnded = hasEnded && WaitFor([&driver] { return driver.Events().size() > 2; });
+        hasEnded = hasEnded && WaitFor([&] { return driver.Events().size() > (isUnchecked ? 0 : 2); });
     }
     for (std::string const& event : driver.Events())
     {

@@ -15,6 +15,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <sstream>
 
 #include <fcntl.h>
@@ -114,7 +115,6 @@ protected:
         QStringList words = QStringList(before)
                             << QString::fromStdString(BundlePath() + "/run") << m_server.Url().toString() << arguments;
         QProcess process;
-        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(QStringLiteral("XDG_CACHE_HOME"), Cache());
         environment.insert(QStringLiteral("XDG_STATE_HOME"), State());
@@ -129,6 +129,9 @@ protected:
         EXPECT_TRUE(WaitFor([&process] { return process.state() == QProcess::NotRunning; }));
         EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
         EXPECT_EQ(process.exitCode(), EXIT_SUCCESS);
+        QByteArray const errors = process.readAllStandardError();
+        EXPECT_FALSE(errors.contains("without pool")) << "what is not in a pool is never released";
+        std::cerr << errors.toStdString();
         return process.readAllStandardOutput().toStdString();
     }
 
@@ -228,6 +231,13 @@ TEST_F(Start, AfterAnInstallationThatFailedTellsThePersonWhoAskedOnceAndWaitsWit
     EXPECT_EQ(Run({QStringLiteral("interactive")}).rfind("asked;found 2.0;", 0), 0u) << "a person may try again";
     ExpectWhole("1.0");
     EXPECT_TRUE(std::filesystem::exists(DownloadFolder() + "/" + ARCHIVE)) << "the next attempt need not download it";
+}
+
+TEST_F(Start, AfterAnInstallationThatFailedTellsItWithoutACheckToo)
+{
+    FailToInstall("renameat2:error=EPERM");
+    QStringList const listening{QStringLiteral("unchecked"), QStringLiteral("confirm"), QStringLiteral("listen")};
+    EXPECT_EQ(Run(listening), "aborted 4012;");
 }
 
 TEST_F(Start, TakesOverWhatEarlierVersionsKnewOfAnInstallation)

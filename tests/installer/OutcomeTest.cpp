@@ -229,6 +229,19 @@ TEST_F(Outcome, ThatCannotBeKeptIsToldWhileTheHostStillRuns)
     }
 }
 
+TEST_F(Outcome, InAFolderThatMayNotBeChangedIsNotBlamedOnTheApplicationsFolder)
+{
+    for (char const* const error : {"EACCES", "EPERM", "EROFS"})
+    {
+        SCOPED_TRACE(error);
+        InstallJob const job = Job();
+        HelperOutcome const outcome = scene.Install(job, Injecting(std::string("renameat:error=") + error));
+        EXPECT_EQ(outcome.Fault(), UpdateFault::RecordFolderUnusable);
+        EXPECT_TRUE(outcome.progress.empty()) << "it does not say that it waits";
+        std::filesystem::remove_all(scene.StagingPath() + '/' + APP);
+    }
+}
+
 /// Every write of the record: a new file, synced before it gets the record's name, then a sync of the folder.
 TEST_F(Outcome, IsSyncedBeforeItHasItsName)
 {

@@ -3,7 +3,12 @@
 #include "Engine/core/faults/EngineError.h"
 #include "tests/update/UpdateRunFixture.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <ostream>
+
+#include <sys/stat.h>
 
 namespace
 {
@@ -54,7 +59,26 @@ INSTANTIATE_TEST_SUITE_P(
                       Refusal{"TargetNotWritable",
                               [](auto&, auto&, auto& parts)
                               { parts.targetError = MakeFaultError(UpdateFault::NotPermitted); },
-                              ErrorCause::Fault, UpdateFault::NotPermitted}),
+                              ErrorCause::Fault, UpdateFault::NotPermitted},
+                      Refusal{"RecordsBelowAFile",
+                              [](auto& settings, auto&, auto&)
+                              {
+                                  QFile file(settings.stateFolder);
+                                  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+                                  settings.stateFolder += QStringLiteral("/org.example/updates");
+                              },
+                              ErrorCause::Fault, UpdateFault::RecordFolderUnusable},
+                      Refusal{"RecordsBehindALink",
+                              [](auto& settings, auto&, auto&)
+                              { ASSERT_TRUE(QFile::link(QStringLiteral("/tmp"), settings.stateFolder)); },
+                              ErrorCause::Fault, UpdateFault::RecordFolderUnusable},
+                      Refusal{"RecordsOpenToOthers",
+                              [](auto& settings, auto&, auto&)
+                              {
+                                  ASSERT_TRUE(QDir().mkpath(settings.stateFolder));
+                                  ASSERT_EQ(::chmod(QFile::encodeName(settings.stateFolder).constData(), 0777), 0);
+                              },
+                              ErrorCause::Fault, UpdateFault::RecordFolderUnusable}),
     [](auto const& row) { return row.param.name; });
 
 TEST_P(RefusedBeforehand, NothingIsShownAndNothingFetched)

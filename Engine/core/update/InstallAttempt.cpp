@@ -28,10 +28,11 @@ UniqueFd MakeRecordFolder(QString const& path)
     std::string const name = QFile::encodeName(path).toStdString();
     MakeFoldersAbove(name);
     static_cast<void>(MakePrivateFolder(AT_FDCWD, name)); // the folder may exist
+    errno = 0;
     UniqueFd folder = OpenRecordFolder(path);
-    if (!folder)
+    if (!folder || ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
     {
-        throw UpdateRefusal(UpdateFault::NotPermitted, errno);
+        throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::RecordFolderUnusable), errno);
     }
     return folder;
 }
@@ -71,6 +72,18 @@ InstallAttempt::InstallAttempt(QString const& folder, QString const& bundlePath)
     , m_name(InstallRecordName(bundlePath))
     , m_before(ReadInstallRecord(m_folder.Get(), m_name))
 {
+}
+
+Result<std::unique_ptr<InstallAttempt>> InstallAttempt::Make(QString const& folder, QString const& bundlePath)
+{
+    try
+    {
+        return std::make_unique<InstallAttempt>(folder, bundlePath);
+    }
+    catch (UpdateRefusal const& refusal)
+    {
+        return Failure(refusal);
+    }
 }
 
 void InstallAttempt::Describe(InstallJob& job, InstallWish wish) const

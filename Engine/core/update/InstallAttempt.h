@@ -4,10 +4,12 @@
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
+#include "Engine/core/faults/Result.h"
 #include "Engine/core/helper/UpdateJob.h"
 
 #include <QString>
 
+#include <memory>
 #include <string>
 
 namespace Pelnar::Engine
@@ -26,6 +28,8 @@ class InstallAttempt
 public:
     /// \a folder holds the records and is created if it is missing. Throws UpdateRefusal.
     InstallAttempt(QString const& folder, QString const& bundlePath);
+    /// The same, for callers that throw nothing.
+    static Result<std::unique_ptr<InstallAttempt>> Make(QString const& folder, QString const& bundlePath);
 
     int Folder() const { return m_folder.Get(); }
     /// Makes the helper write the outcome of \a job.

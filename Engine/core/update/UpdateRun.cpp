@@ -113,6 +113,12 @@ void UpdateRun::TakeTarget(OpenedTarget target)
         return;
     }
     m_target = *std::move(target);
+    // Without a record the helper installs nothing. The reason is told before the download.
+    if (auto const attempt = InstallAttempt::Make(m_settings.stateFolder, m_target->path); !attempt)
+    {
+        Fail(RunEvent::Refused, attempt.error());
+        return;
+    }
     Take(RunEvent::TargetOpened);
 }
 
@@ -331,17 +337,15 @@ void UpdateRun::DropPrepared()
 
 bool UpdateRun::HandOver(InstallJob job, InstallWish wish)
 {
-    try
+    if (!m_attempt)
     {
-        if (!m_attempt)
+        auto attempt = InstallAttempt::Make(m_settings.stateFolder, m_target->path);
+        if (!attempt)
         {
-            m_attempt = std::make_unique<InstallAttempt>(m_settings.stateFolder, m_target->path);
+            Fail(RunEvent::HelperFailed, attempt.error());
+            return false;
         }
-    }
-    catch (UpdateRefusal const& refusal)
-    {
-        Fail(RunEvent::HelperFailed, Failure(refusal).value());
-        return false;
+        m_attempt = *std::move(attempt);
     }
     m_attempt->Describe(job, wish);
     m_handover = std::make_unique<InstallHandover>(m_parts);

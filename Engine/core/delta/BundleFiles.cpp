@@ -115,6 +115,11 @@ DeltaOutcome BundleFiles::Copy(int source, int target, std::uint64_t size, Conte
             return WriteFailure();
         }
         offset += bytes.size();
+        // Fewer bytes than asked for are the last ones: small files are read by one call.
+        if (offset == size && bytes.size() < m_piece.size())
+        {
+            return {};
+        }
     }
     return {DeltaError::BaseDiffers, {}, 0};
 }

@@ -1,4 +1,5 @@
-// KeptFiles.h: makes the files that a delta keeps in a thread of its own, while the units are made.
+// KeptFiles.h: makes the files that a delta keeps in a thread of its own, while the units are made; the caller helps at
+// the end.
 // Thread: one at a time uses it, and it calls back there. Ownership: its thread; the entries outlive it.
 #pragma once
 
@@ -23,18 +24,20 @@ public:
 
     /// REQUIRES: all folders exist.
     void Start();
-    /// Calls \a done for each file that is made and was not reported before.
+    /// Calls \a done, in the order of the entries, for files that are made and were not reported before.
     void Report(EntryDone const& done);
-    /// Waits until all are made. The hash of each is in its entry then.
+    /// Makes what is left, together with the thread. The hash of each file is in its entry then.
     [[nodiscard]] DeltaOutcome Finish(EntryDone const& done);
 
 private:
-    DeltaOutcome Make();
+    /// Makes files until all are begun, or one fails. Calls \a madeOne after each.
+    DeltaOutcome Make(std::function<void()> const& madeOne);
 
-    std::unique_ptr<BundleFiles> m_files;
+    DeltaWork m_work;
     std::vector<DeltaEntry>& m_entries;
-    ContentHasher m_hasher;
-    std::atomic<std::size_t> m_passed = 0; ///< entries that the thread is done with
+    std::vector<std::uint32_t> m_kept;        ///< indices of the kept entries
+    std::vector<std::atomic<bool>> m_areMade; ///< of m_kept
+    std::atomic<std::size_t> m_next = 0;      ///< of m_kept, that nobody has begun
     std::atomic<bool> m_isGivenUp = false;
     std::size_t m_reported = 0;
     std::future<DeltaOutcome> m_outcome; ///< last: its destructor waits for the thread

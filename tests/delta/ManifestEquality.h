@@ -4,39 +4,41 @@
 #include "Engine/core/delta/DeltaManifest.h"
 
 #include <tuple>
+#include <utility>
 
 namespace Pelnar::Engine
 {
 
-inline bool operator==(DeltaEntry const& a, DeltaEntry const& b)
+inline auto FieldsOf(DeltaEntry const& entry)
 {
-    auto const fields = [](DeltaEntry const& entry)
-    {
-        return std::tie(entry.path, entry.kind, entry.linkTarget, entry.isExecutable, entry.size, entry.hash,
-                        entry.sourcePath, entry.sourceSize, entry.sourceHash, entry.streamsStored, entry.wholeStored);
-    };
-    return fields(a) == fields(b);
+    return std::tie(entry.path, entry.kind, entry.linkTarget, entry.isExecutable, entry.size, entry.hash,
+                    entry.sourcePath, entry.sourceSize, entry.sourceHash, entry.streamsStored, entry.wholeStored);
 }
 
-inline bool operator==(DeltaSource const& a, DeltaSource const& b)
+inline auto FieldsOf(DeltaSource const& source)
 {
-    return a.path == b.path && a.size == b.size;
+    return std::tie(source.path, source.size);
 }
 
-inline bool operator==(SpanChange const& a, SpanChange const& b)
+inline auto FieldsOf(SpanChange const& change)
 {
-    return a.offset == b.offset && a.size == b.size && a.address == b.address;
+    return std::tie(change.offset, change.size, change.address);
 }
 
-inline bool operator==(DeltaUnit const& a, DeltaUnit const& b)
+inline auto FieldsOf(DeltaUnit const& unit)
 {
-    return std::tie(a.sources, a.targets, a.spanChanges, a.textBytes) ==
-           std::tie(b.sources, b.targets, b.spanChanges, b.textBytes);
+    return std::tie(unit.sources, unit.targets, unit.spanChanges, unit.textBytes);
 }
 
-inline bool operator==(StoredStream const& a, StoredStream const& b)
+inline auto FieldsOf(StoredStream const& stream)
 {
-    return a.packing == b.packing && a.size == b.size;
+    return std::tie(stream.packing, stream.size);
+}
+
+template <class Value, class = decltype(FieldsOf(std::declval<Value const&>()))>
+bool operator==(Value const& a, Value const& b)
+{
+    return FieldsOf(a) == FieldsOf(b);
 }
 
 } // namespace Pelnar::Engine

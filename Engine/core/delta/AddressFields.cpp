@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t ARM64_LOOK_AROUND = 8; ///< instructions between an ADRP and what adds to its page
+constexpr std::size_t ARM64_LOOK_AROUND = 8; ///< instructions between an ADRP and the one that adds to its page
 
 bool IsPageAddress(std::uint32_t word)
 {
@@ -25,7 +25,7 @@ std::uint64_t PageOf(std::uint32_t word, std::uint64_t address)
     return (address & ~std::uint64_t(0xFFF)) + (SignExtended(immediate, 21) << 12);
 }
 
-/// The bits by which the 12 bits of an addition, load or store count more than bytes; -1 for another instruction.
+/// How many bits the immediate of 12 bits of an addition, load or store is shifted; -1 for another instruction.
 int InPageScale(std::uint32_t word)
 {
     if ((word & 0xFFC00000) == 0x91000000)
@@ -46,7 +46,7 @@ std::uint32_t BaseRegister(std::uint32_t word)
     return word >> 5 & 31;
 }
 
-/// How a table of words of eight bytes is made.
+/// The records of a table of words of eight bytes.
 struct WordRecord
 {
     unsigned words;     ///< of a record
@@ -61,8 +61,8 @@ WordRecord WordRecordOf(RegionKind kind)
                                              : WordRecord{1, 1};
 }
 
-/// A bit for each of 16 \a bytes behind which a field may stand. The highest byte of a field's distance tells of most
-/// distances that they lead out of the program: it is at most \a reach from 0.
+/// A bit for each of 16 \a bytes after which a field may be. The highest byte of a distance is enough to rule out most
+/// distances that lead out of the program: it must be at most \a reach from 0.
 std::uint32_t OpeningsAmong(std::uint8_t const* bytes, std::uint8_t reach)
 {
     SixteenBytes const first = Load(bytes);
@@ -104,7 +104,7 @@ bool FieldScanner::EnterRegion()
     for (; m_region < m_layout.regions.size() && m_layout.regions[m_region].begin < m_end; ++m_region)
     {
         ImageRegion const& region = m_layout.regions[m_region];
-        // What is not loaded has no address: none of its fields is told from the field.
+        // A region that is not loaded has no address. None of its fields depends on the field's own address.
         std::optional<std::uint64_t> const address = AddressAt(m_layout.spans, region.begin);
         m_shift = address.value_or(region.begin) - region.begin;
         m_position = std::max<std::size_t>(region.begin, m_begin);
@@ -212,7 +212,7 @@ bool FieldScanner::IsArm64Field(AddressField& field) const
     return m_layout.IsInImage(field.target);
 }
 
-/// The whole target of the ADRP at \a position, by the first instruction that adds to its page. Without one it stays.
+/// Completes the target of the ADRP at \a position by the first instruction that adds to its page, if there is one.
 bool FieldScanner::FindPagePartner(std::size_t position, std::uint32_t reg, std::uint64_t& target) const
 {
     std::size_t const end =
@@ -294,8 +294,8 @@ bool FieldScanner::NextOffset(AddressField& field)
     return false;
 }
 
-/// A record is its length, the distance back to what it shares with others, and the distance of its code; or its
-/// length, 0, and what others share.
+/// A record is its length, the distance back to the shared record, and the distance of its code; a shared record is
+/// its length, 0, and its content.
 bool FieldScanner::NextFrame(AddressField& field)
 {
     if (m_frame != 0)

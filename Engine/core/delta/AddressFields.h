@@ -1,5 +1,5 @@
-// AddressFields.h: finds the fields of a program that name other places of it: in code by the look of the instructions,
-// in tables by their form.
+// AddressFields.h: finds the fields of a program that refer to other places of it: operands of instructions, and
+// words of tables.
 // Thread: one at a time. Ownership: refers to the file's bytes and its layout, which outlive it. Any bytes are safe.
 #pragma once
 
@@ -15,15 +15,15 @@ namespace Pelnar::Engine
 
 enum class FieldForm : std::uint8_t
 {
-    Relative32,      ///< the distance of the target from the byte behind the field
-    FromField32,     ///< and from the field itself
-    BackFromField32, ///< the same, the other way
-    FromBase32,      ///< and from the region's base
-    Word64,          ///< the target
+    Relative32,      ///< the target minus the address of the byte after the field
+    FromField32,     ///< the target minus the field's address
+    BackFromField32, ///< the field's address minus the target
+    FromBase32,      ///< the target minus the region's base
+    Word64,          ///< the target's address
     Branch26,        ///< AArch64: B and BL
     Branch19,        ///< conditional branches, literals
     Page21,          ///< ADRP
-    InPage12,        ///< what is added to an ADRP's page; by an addition, a load or a store
+    InPage12,        ///< an addition, load or store: what it adds to the page of an ADRP
 };
 
 struct AddressField
@@ -35,22 +35,21 @@ struct AddressField
     std::size_t Width() const { return form == FieldForm::Word64 ? 8 : 4; }
 };
 
-/// The number of \a bits with its sign.
+/// The lowest \a bits of \a value as a signed number.
 inline std::uint64_t SignExtended(std::uint64_t value, unsigned bits)
 {
     std::uint64_t const sign = std::uint64_t(1) << (bits - 1);
     return ((value & ((sign << 1) - 1)) ^ sign) - sign;
 }
 
-// Defined here as far as each byte of code or each of its fields needs it, of which a program has hundreds of
-// thousands.
+// What runs for each byte or field of code is inline: a program has hundreds of thousands of fields.
 class FieldScanner
 {
 public:
     FieldScanner(Bytes file, ImageLayout const& layout);
 
-    /// From here on Next() answers the fields that stand whole between \a begin and \a end, in ascending order, none
-    /// in another.
+    /// From now on Next() returns the fields that are completely between \a begin and \a end, in ascending order and
+    /// without overlaps.
     void Start(std::size_t begin, std::size_t end);
     [[nodiscard]] bool Next(AddressField& field);
 
@@ -93,15 +92,15 @@ private:
     AddressRange m_image;
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
-    std::size_t m_region = 0;      ///< the one that is entered, or the next
-    std::size_t m_position = 0;    ///< in the region that is entered
-    std::size_t m_regionEnd = 0;   ///< or the end of what is looked at
+    std::size_t m_region = 0;      ///< the current region, or the next one
+    std::size_t m_position = 0;    ///< in the current region
+    std::size_t m_regionEnd = 0;   ///< its end, or m_end if that is before
     std::uint64_t m_openings = 0;  ///< a bit for each of the 64 bytes before m_openingsEnd: a field may be behind it
     std::size_t m_openingsEnd = 0; ///< 0 when no bytes have been looked at
-    std::uint64_t m_shift = 0;     ///< of the region's addresses from its positions
+    std::uint64_t m_shift = 0;     ///< the region's addresses minus its positions
     bool m_isInRegion = false;
     bool m_isInX86Code = false;
-    std::size_t m_frame = 0; ///< where the code is named in the record whose shared part has been answered; 0 for none
+    std::size_t m_frame = 0; ///< the second field of the frame record whose first one was returned last; 0 for none
 };
 
 inline bool FieldScanner::Next(AddressField& field)
@@ -162,8 +161,8 @@ inline void Store32(std::uint32_t value, std::uint8_t* bytes)
     std::memcpy(bytes, &value, sizeof value);
 }
 
-/// Writes \a field as it is in a file where it stands at \a address and its target at \a target. \a bytes are the
-/// field's own from the old file. \a base is where the region's base has gone.
+/// Changes \a bytes, which are the field's in the old file, to what they are when the field is at \a address, its
+/// target at \a target, and the region's base at \a base.
 inline void StoreField(AddressField const& field, std::uint64_t address, std::uint64_t target, std::uint64_t base,
                        std::uint8_t* bytes)
 {

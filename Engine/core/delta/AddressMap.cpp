@@ -24,7 +24,7 @@ std::vector<AddressMap::Run> AddressMap::RunsOf(ImageLayout const& oldLayout, st
         runs.push_back({begin, static_cast<std::uint32_t>(begin + std::min<std::uint64_t>(size, ~begin)),
                         static_cast<std::uint32_t>(newAddress - oldAddress)});
     };
-    // What stands in memory only follows its segment's end.
+    // Bytes that are only in memory move with the end of their segment.
     for (std::size_t i = 0; i < std::min(newSpans.size(), oldLayout.spans.size()); ++i)
     {
         ImageSpan const& from = oldLayout.spans[i];
@@ -34,7 +34,7 @@ std::vector<AddressMap::Run> AddressMap::RunsOf(ImageLayout const& oldLayout, st
     std::uint64_t newPosition = 0;
     for (PatchStep const& step : steps)
     {
-        // A run over several segments is one for each.
+        // A run over several segments counts as one run for each.
         for (ImageSpan const& span : oldLayout.spans)
         {
             std::uint64_t const begin = std::max<std::uint64_t>(span.offset, oldPosition);
@@ -94,7 +94,7 @@ void AddressMap::TakeRuns(std::vector<Run> const& runs)
         {
             take(reached, runs[active.top()].shift);
         }
-        // Until a longer one begins, or this one ends, nothing changes.
+        // Nothing changes until another run begins or this one ends.
         if (next < order.size() && (isIdle || runs[order[next]].begin < runs[active.top()].end))
         {
             reached = std::max(reached, runs[order[next]].begin);
@@ -123,7 +123,7 @@ void AddressMap::MakeIndex()
         {
             ++point;
         }
-        // The first point stands at 0, so there is one before.
+        // The first point is at 0, so every page has a point before it.
         m_pages[page] = {static_cast<std::uint32_t>(point), m_points[point - 1].shift};
     }
 }

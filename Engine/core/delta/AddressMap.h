@@ -1,5 +1,5 @@
-// AddressMap.h: where the places of an old program have gone in the new one, by the steps of the patch between them.
-// Thread: any once built.
+// AddressMap.h: maps addresses of an old program to the new one, by the steps of the patch between them.
+// Thread: any, after its constructor.
 #pragma once
 
 #include "Engine/core/delta/ImageLayout.h"
@@ -12,7 +12,7 @@
 namespace Pelnar::Engine
 {
 
-/// More steps than a program's patch has; their map takes 20 MiB.
+/// More steps than the patch of a real program has. Their map takes 20 MiB.
 constexpr std::size_t MAX_MAPPED_STEPS = 1u << 19;
 
 class AddressMap
@@ -22,18 +22,18 @@ public:
     AddressMap(ImageLayout const& oldLayout, std::vector<ImageSpan> const& newSpans,
                std::vector<PatchStep> const& steps);
 
-    /// The new address of what had \a address: where the longest run of bytes that holds it has gone; between runs, as
-    /// far as behind the run before it. REQUIRES: an address within the old image.
+    /// The new address of what was at \a address. It moves with the longest run of bytes that contains it, or else with
+    /// the run before it. REQUIRES: an address within the old image.
     std::uint64_t Find(std::uint64_t address) const;
-    /// True when every place has the address that it had.
+    /// True if every address stays as it is.
     bool IsUnchanged() const { return m_points.size() == 1 && m_points.front().shift == 0; }
 
 private:
     struct Run
     {
-        std::uint32_t begin; ///< in the old image, from its lowest address on
+        std::uint32_t begin; ///< counted from the old image's lowest address
         std::uint32_t end;
-        std::uint32_t shift; ///< how much further it stands in the new one, without carry
+        std::uint32_t shift; ///< the new address minus the old one, modulo 2^32
     };
     struct Point
     {
@@ -44,7 +44,7 @@ private:
     static constexpr unsigned PAGE_BITS = 12;
     struct Page
     {
-        std::uint32_t firstPoint; ///< behind its begin
+        std::uint32_t firstPoint; ///< after its begin
         std::uint32_t shift;      ///< at its begin
     };
 
@@ -54,8 +54,8 @@ private:
     void MakeIndex();
 
     std::uint64_t m_lowest;
-    std::vector<Point> m_points; ///< in ascending order; the first stands at 0
-    std::vector<Page> m_pages;   ///< of the image as far as there are points, and one more
+    std::vector<Point> m_points; ///< in ascending order; the first is at 0
+    std::vector<Page> m_pages;   ///< up to the page of the last point, and one more
 };
 
 inline std::uint64_t AddressMap::Find(std::uint64_t address) const

@@ -74,9 +74,9 @@ using ByteSource = std::function<std::size_t(std::uint8_t* target, std::size_t s
 using PatchSources = std::array<ByteSource, PATCH_STREAMS>;
 /// The pieces in which new bytes come are no larger.
 constexpr std::size_t PATCH_PIECE_BYTES = 64 * 1024;
-/// So many pieces behind the next one stay as they are.
+/// The number of pieces before the current one that stay unchanged.
 constexpr std::size_t PIECES_AHEAD = 7;
-/// Takes the next bytes of the new file, which stay as they are until PIECES_AHEAD more calls have returned; false when
+/// Takes the next bytes of the new file, which stay unchanged until PIECES_AHEAD more calls have returned. False if
 /// they cannot be written.
 using ByteSink = std::function<bool(Bytes bytes)>;
 

@@ -12,11 +12,11 @@ namespace
 
 constexpr int WINDOW_BITS = -15; ///< without a header
 constexpr std::size_t WINDOW_BYTES = 32768;
-constexpr std::size_t MEETING_BYTES = 8192; ///< in which the tokens of old and new text end at one place
-constexpr std::size_t TAIL_BYTES = 1024;    ///< at the end of its input zlib finds other tokens
+constexpr std::size_t MEETING_BYTES = 8192; ///< in which a repetition must end at the same place in both texts
+constexpr std::size_t TAIL_BYTES = 1024;    ///< near the end of its input zlib finds other tokens
 constexpr std::size_t LEAST_RUN_BYTES = WINDOW_BYTES + MEETING_BYTES + 2 * TAIL_BYTES;
 
-/// Equal bytes of two texts.
+/// A run of bytes that is in both texts.
 struct EqualRun
 {
     std::size_t oldBegin;
@@ -29,11 +29,11 @@ std::size_t BytesOf(DeflateToken token)
     return std::max<std::size_t>(token.length, 1);
 }
 
-/// What zlib makes of \a text from \a begin to \a end, when it has already deflated what is before.
-ByteBuffer Deflate(Bytes text, std::size_t begin, std::size_t end, DeflateManner manner)
+/// What zlib makes of \a text from \a begin to \a end, with the bytes before as its dictionary.
+ByteBuffer Deflate(Bytes text, std::size_t begin, std::size_t end, DeflateParameters parameters)
 {
     z_stream stream{};
-    if (deflateInit2(&stream, manner.level, Z_DEFLATED, WINDOW_BITS, manner.memory, Z_DEFAULT_STRATEGY) != Z_OK)
+    if (deflateInit2(&stream, parameters.level, Z_DEFLATED, WINDOW_BITS, parameters.memory, Z_DEFAULT_STRATEGY) != Z_OK)
     {
         throw std::bad_alloc();
     }
@@ -47,7 +47,7 @@ ByteBuffer Deflate(Bytes text, std::size_t begin, std::size_t end, DeflateManner
     stream.avail_in = static_cast<uInt>(end - begin);
     stream.next_out = packed.data();
     stream.avail_out = static_cast<uInt>(packed.size());
-    static_cast<void>(deflate(&stream, Z_FINISH)); // there is room for all
+    static_cast<void>(deflate(&stream, Z_FINISH)); // the buffer is large enough for all
     packed.resize(stream.total_out);
     deflateEnd(&stream);
     return packed;
@@ -62,7 +62,7 @@ void AppendEqualRuns(PackedBase const& base, Bytes text, std::size_t oldBegin, s
         auto const old = base.text.begin() + static_cast<std::ptrdiff_t>(oldBegin + at);
         auto const equal = static_cast<std::size_t>(
             std::mismatch(from, from + static_cast<std::ptrdiff_t>(size - at), old).first - from);
-        // The old tokens are read once, from the beginning to the end.
+        // The old tokens are read once and in order.
         bool const isBehind = runs.empty() || runs.back().oldBegin + runs.back().size <= oldBegin + at;
         if (equal >= LEAST_RUN_BYTES && isBehind)
         {
@@ -87,17 +87,20 @@ std::vector<EqualRun> EqualRunsOf(PackedBase const& base, Bytes text)
     return runs;
 }
 
-/// After a repetition zlib remembers nothing but the text of its window. So where a repetition ends both in the old
-/// text and in the new one, and the windows and what follows are equal, the next tokens are equal.
+/// After a repetition, what zlib does depends only on its window and on the following text. So if a repetition ends at
+/// the same place in both texts, and windows and following texts are equal, the next tokens are equal, too.
 class TokenCopier
 {
 public:
-    TokenCopier(Bytes oldData, Bytes text, DeflateManner manner) : m_old(oldData), m_text(text), m_manner(manner) {}
+    TokenCopier(Bytes oldData, Bytes text, DeflateParameters parameters)
+        : m_old(oldData), m_text(text), m_parameters(parameters)
+    {
+    }
 
     [[nodiscard]] bool Copy(EqualRun const& run) { return Meet(run) && CopyOldTokens(run); }
     [[nodiscard]] bool AddRest()
     {
-        ByteBuffer const packed = Deflate(m_text, m_made, m_text.size(), m_manner);
+        ByteBuffer const packed = Deflate(m_text, m_made, m_text.size(), m_parameters);
         TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < m_text.size() && tokens.Next(token);)
         {
@@ -114,12 +117,12 @@ private:
         m_made += BytesOf(token);
     }
 
-    /// Finds tokens up to a place in \a run where a repetition ends in both texts.
+    /// Lets zlib find tokens, up to a place in \a run where a repetition ends in both texts.
     bool Meet(EqualRun const& run)
     {
         std::size_t const first = run.begin + WINDOW_BYTES;
         std::size_t const last = first + MEETING_BYTES;
-        ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_manner);
+        ByteBuffer const packed = Deflate(m_text, m_made, last + TAIL_BYTES, m_parameters);
         TokenReader tokens(View(packed));
         for (DeflateToken token; m_made < last && tokens.Next(token);)
         {
@@ -142,7 +145,7 @@ private:
         return m_oldMade == position && m_oldToken.length > 0;
     }
 
-    /// Ends behind a repetition, so that zlib can go on.
+    /// Ends after a repetition, so that zlib can continue.
     bool CopyOldTokens(EqualRun const& run)
     {
         std::size_t const end = run.oldBegin + run.size - TAIL_BYTES;
@@ -167,7 +170,7 @@ private:
     DeflateToken m_oldToken;
     std::size_t m_oldMade = 0; ///< bytes of the old text whose tokens are read
     Bytes m_text;
-    DeflateManner m_manner;
+    DeflateParameters m_parameters;
     DeflateTokens m_tokens;
     std::size_t m_made = 0; ///< bytes of the text that the tokens make
 };
@@ -209,16 +212,16 @@ bool TokenReader::Next(DeflateToken& token)
     }
 }
 
-std::optional<DeflateTokens> TokensOf(Bytes text, DeflateManner manner)
+std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters)
 {
-    TokenCopier copier({}, text, manner);
+    TokenCopier copier({}, text, parameters);
     return copier.AddRest() ? std::optional<DeflateTokens>(copier.Take()) : std::nullopt;
 }
 
-std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateManner manner)
+std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters)
 {
     std::vector<EqualRun> const runs = EqualRunsOf(base, text);
-    TokenCopier copier(base.data, text, manner);
+    TokenCopier copier(base.data, text, parameters);
     bool const isCopied =
         !runs.empty() && std::all_of(runs.begin(), runs.end(), [&copier](EqualRun run) { return copier.Copy(run); });
     return isCopied && copier.AddRest() ? std::optional<DeflateTokens>(copier.Take()) : std::nullopt;

@@ -1,6 +1,6 @@
-// DeflateTokens.h: the tokens that zlib makes of a text: bytes, and repetitions of the text before.
-// Ownership: values only; a reader refers to its bytes, which outlive it. Any bytes are safe. Finding repetitions is
-// nearly all that packing costs. Where a text equals an old one, its tokens are the old text's.
+// DeflateTokens.h: the tokens that zlib makes of a text: bytes, and repetitions of earlier bytes.
+// Thread: one at a time. Ownership: values only; a reader refers to its bytes, which outlive it. Any bytes are safe.
+// Finding repetitions takes most of the time of packing. So the tokens of equal texts are copied.
 #pragma once
 
 #include "Engine/core/delta/DeflateCodes.h"
@@ -24,7 +24,7 @@ public:
 
     /// False for a stored block and for a damaged one.
     [[nodiscard]] bool StartBlock();
-    /// The next token of the block; \a isEnd instead at its end. False for damaged data.
+    /// The next token of the block, or \a isEnd at its end. False for damaged data.
     [[nodiscard]] bool Next(DeflateToken& token, bool& isEnd) { return m_codes->Read(m_bits, token, isEnd); }
     /// The next token of all blocks. False at their end and for damaged data.
     [[nodiscard]] bool Next(DeflateToken& token);
@@ -37,14 +37,14 @@ private:
     bool m_isInBlock = false;
 };
 
-/// The parameters of zlib that decide which tokens it makes.
-struct DeflateManner
+/// The parameters of zlib that its tokens depend on.
+struct DeflateParameters
 {
     int level;
     int memory;
 };
 
-/// A packed text, and the steps that make another text of it.
+/// An old packed text, and the steps that make the new text from it.
 struct PackedBase
 {
     Bytes text;
@@ -54,11 +54,11 @@ struct PackedBase
 
 using DeflateTokens = std::vector<DeflateToken>;
 
-/// The tokens of \a text; nothing if zlib stores a part of it. Throws std::bad_alloc.
-[[nodiscard]] std::optional<DeflateTokens> TokensOf(Bytes text, DeflateManner manner);
+/// The tokens of \a text; nothing if zlib leaves a part of it unpacked. Throws std::bad_alloc.
+[[nodiscard]] std::optional<DeflateTokens> TokensOf(Bytes text, DeflateParameters parameters);
 
-/// The same tokens, if \a base was deflated in the same manner: copied from it as far as the texts are equal, found by
-/// zlib elsewhere. If it was not, the tokens may be others. Nothing if no part can be copied. Throws std::bad_alloc.
-[[nodiscard]] std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateManner manner);
+/// The same tokens if \a base was deflated with the same parameters, otherwise other ones. They are copied from \a base
+/// where the texts are equal, and zlib finds the others. Nothing if no part can be copied. Throws std::bad_alloc.
+[[nodiscard]] std::optional<DeflateTokens> TokensLike(PackedBase const& base, Bytes text, DeflateParameters parameters);
 
 } // namespace Pelnar::Engine

@@ -112,7 +112,7 @@ std::size_t DeltaStream::Read(std::uint8_t* target, std::size_t size)
 
 bool DeltaStream::IsAtEnd()
 {
-    // The end of the stream may stand in bytes that no output needed: ask for one byte that must not come.
+    // The bytes at the end of a stream may make no output. Asking for one byte more reads them.
     std::uint8_t byte = 0;
     if (!m_state->isDone && Read(&byte, 1) > 0)
     {

@@ -17,11 +17,11 @@ enum class DeltaError
 {
     None,
     NotADelta,     ///< another file, or another version of the format
-    Damaged,       ///< the container contradicts itself or ends early
+    Damaged,       ///< the container is inconsistent or ends early
     OverLimits,    ///< asks for more than the limits allow
-    TreeRefused,   ///< makes something that no archive may hold either
+    TreeRefused,   ///< makes a tree that an archive may not hold either
     BaseDiffers,   ///< a file of the old version is missing or is not the one that the delta starts from
-    ResultDiffers, ///< a file came out with another hash than the manifest's
+    ResultDiffers, ///< a new file has another hash than the manifest says
     CannotRead,    ///< the container or the old version cannot be read
     CannotWrite,   ///< the new version or the container cannot be written
 };
@@ -40,17 +40,17 @@ constexpr std::array<std::uint8_t, 8> DELTA_MAGIC{'P', 'E', 'L', 'D', 'E', 'L', 
 constexpr std::size_t DELTA_HEADER_BYTES = 32;
 /// No stream of a container in the separate format needs more than this to be decompressed.
 constexpr int DELTA_WINDOW_LOG = 27;
-/// And none of one in the joined format: all five are open at once.
+/// The limits for the joined format, in which all five streams are open at once.
 constexpr int NUMBERS_WINDOW_LOG = 22;
 constexpr int EXTRA_WINDOW_LOG = 24;
 
-/// What the stream may need in the joined format.
+/// The limit for \a stream in the joined format.
 constexpr int WindowLogOf(PatchStream stream)
 {
     return stream == PatchStream::Extra ? EXTRA_WINDOW_LOG : NUMBERS_WINDOW_LOG;
 }
 
-/// The joined format's is packed by LZMA with the properties 3.
+/// In the joined format the manifest is packed by LZMA with the properties 3.
 constexpr std::uint8_t ManifestPackingOf(DeltaFormat format)
 {
     return format == DeltaFormat::Joined ? 4 : 0;
@@ -66,10 +66,10 @@ constexpr int ManifestWindowLogOf(DeltaFormat format)
 [[nodiscard]] DeltaOutcome ReadDeltaManifest(int containerFd, DeltaLimits const& limits, DeltaManifest& manifest,
                                              std::uint64_t& dataOffset);
 
-/// What a manifest that breaks a rule means for its container.
+/// The outcome for a container with a manifest of this verdict.
 [[nodiscard]] DeltaOutcome OutcomeOf(DeltaManifestVerdict const& verdict);
 
-/// One compressed stream of a container, decompressed piece by piece. One of no bytes is an empty stream.
+/// A compressed stream of a container, decompressed piece by piece. A stream of no bytes is empty.
 class DeltaStream
 {
 public:

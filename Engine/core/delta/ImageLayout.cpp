@@ -164,7 +164,7 @@ private:
         }
     }
 
-    /// In a program that may be loaded anywhere the addresses stand in its relocations; small numbers look like them.
+    /// A program that may be loaded anywhere has its addresses in relocations, so its other words are numbers.
     bool HoldsWords(Elf64_Shdr const& section, std::string_view name) const
     {
         bool const isTable = section.sh_type == SHT_INIT_ARRAY || section.sh_type == SHT_FINI_ARRAY || name == ".got" ||
@@ -172,7 +172,7 @@ private:
         return isTable || (m_header.e_type == ET_EXEC && section.sh_type == SHT_PROGBITS);
     }
 
-    /// 0 when the names are not loaded with the program.
+    /// 0 if the names are not loaded with the program.
     std::uint64_t NamesAddress(Elf64_Shdr const& symbols) const
     {
         Elf64_Shdr names{};
@@ -187,7 +187,7 @@ private:
                                     static_cast<std::uint32_t>(section.sh_offset + section.sh_size), base});
     }
 
-    /// Tables of jumps: code takes their addresses, and each of their words is the distance of code from the table.
+    /// Finds jump tables: code takes their addresses, and each of their words is the distance of code from the table.
     void FindTables()
     {
         std::vector<std::uint32_t> begins;

@@ -1,6 +1,6 @@
-// ImageLayout.h: where a program's file keeps addresses: its segments, and the parts whose fields name other places of
-// the program. Programs are ELF files of 64 bits, little-endian, for x86-64 and AArch64.
-// What a layout says of a file decides how small a delta is, and never what the delta makes: any bytes are safe.
+// ImageLayout.h: the segments of a program's file, and the regions of it whose fields refer to other places of the
+// program. Programs are 64-bit little-endian ELF files for x86-64 or AArch64.
+// Thread: any; no shared state. Any bytes are safe. A wrong layout makes a delta larger, or its result is refused.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -12,7 +12,7 @@
 namespace Pelnar::Engine
 {
 
-/// A piece of the file, and where it stands in the program's memory.
+/// A loaded segment: its bytes in the file, and its address in memory.
 struct ImageSpan
 {
     std::uint32_t offset = 0;
@@ -31,10 +31,10 @@ enum class RegionKind : std::uint8_t
     Arm64Code,
     Words,       ///< words of 8 bytes that may be addresses
     Dynamic,     ///< pairs of words, the second of which may be an address
-    Relocations, ///< triples of words: an address, what to do there, what may be another address
-    Symbols, ///< records of 24 bytes: the distance of a name from the region's base, and in the second word an address
-    Offsets, ///< words of 4 bytes, each the distance of an address from the region's base
-    Frames,  ///< records of call frames, each of which names its code by the distance from the name
+    Relocations, ///< triples of words: an address, what to do there, and a word that may be an address
+    Symbols,     ///< records of 24 bytes: the distance of a name from the region's base; the second word is an address
+    Offsets,     ///< words of 4 bytes, each the distance of an address from the region's base
+    Frames,      ///< records of call frames; each has the distance of its code
 };
 
 struct ImageRegion
@@ -48,9 +48,9 @@ struct ImageRegion
 struct ImageLayout
 {
     std::vector<ImageSpan> spans;     ///< in ascending order of their offsets
-    std::vector<ImageRegion> regions; ///< in ascending order, none in another
-    std::uint64_t lowest = 0;         ///< the image's addresses are from here on
-    std::uint64_t end = 0;            ///< and before this one, at most 4 GiB further
+    std::vector<ImageRegion> regions; ///< in ascending order, without overlaps
+    std::uint64_t lowest = 0;         ///< the image's first address
+    std::uint64_t end = 0;            ///< the address after its last one, at most 4 GiB after the first
     std::uint64_t lowestCode = 0;
     std::uint64_t endOfCode = 0;
 
@@ -58,16 +58,16 @@ struct ImageLayout
     bool IsInCode(std::uint64_t place) const { return place >= lowestCode && place < endOfCode; }
 };
 
-/// A program has few spans; a file with more is not treated as a program.
+/// A file with more spans is not treated as a program.
 constexpr std::size_t MAX_IMAGE_SPANS = 16;
 constexpr std::size_t MAX_IMAGE_BYTES = 0x7FFFFFFE;
 
-/// Nothing for a file that is no such program.
+/// Nothing for a file that is not such a program.
 [[nodiscard]] std::optional<ImageLayout> ReadImageLayout(Bytes file);
 
-/// The address of the byte at \a offset of a file with these \a spans; nothing when it has none.
+/// The address of the byte at \a offset of a file with these \a spans; nothing if it is not loaded.
 [[nodiscard]] std::optional<std::uint64_t> AddressAt(std::vector<ImageSpan> const& spans, std::uint64_t offset);
-/// The other way round.
+/// The offset of the byte at \a address; nothing if the file does not have it.
 [[nodiscard]] std::optional<std::uint64_t> OffsetOf(std::vector<ImageSpan> const& spans, std::uint64_t address);
 
 } // namespace Pelnar::Engine

@@ -10,10 +10,10 @@
 namespace Pelnar::Engine
 {
 
-/// Notes the hash of each file in \a manifest.
+/// Sets the hash of each file in \a manifest.
 [[nodiscard]] DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest& manifest, EntryDone const& done);
 
-/// The segments of a program whose old version has those of \a layout.
+/// The segments of a program from those of its old version, \a layout, and their \a changes.
 [[nodiscard]] std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanChange> const& changes);
 
 } // namespace Pelnar::Engine

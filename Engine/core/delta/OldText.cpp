@@ -52,7 +52,7 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
     m_position = position;
     m_left = size;
     m_shift = newPosition - position;
-    if (IsAsItIs())
+    if (IsUnchanged())
     {
         return;
     }
@@ -63,7 +63,7 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
 Bytes ProgramText::Next()
 {
     std::uint64_t const begin = m_position;
-    if (IsAsItIs())
+    if (IsUnchanged())
     {
         m_position += m_left;
         return m_program.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(std::exchange(m_left, 0)));
@@ -72,7 +72,7 @@ Bytes ProgramText::Next()
     std::copy_n(m_program.data() + begin, end - begin, m_piece.data());
     while (m_hasField && m_field.position < end)
     {
-        // A field over the piece's end is the next piece's.
+        // A field that crosses the end of the piece belongs to the next piece.
         if (m_field.position + m_field.Width() > end)
         {
             end = m_field.position;
@@ -91,10 +91,10 @@ void ProgramText::Change(AddressField const& field, std::uint8_t* bytes)
     std::uint64_t const position = field.position + m_shift;
     if (position < m_newSpan.offset || position - m_newSpan.offset >= m_newSpan.size)
     {
-        auto const isThere = [position](ImageSpan const& span)
+        auto const holdsField = [position](ImageSpan const& span)
         { return position >= span.offset && position - span.offset < span.size; };
-        auto const found = std::find_if(m_newSpans.begin(), m_newSpans.end(), isThere);
-        // What is not loaded has no address: it is taken as standing where it stands in the file.
+        auto const found = std::find_if(m_newSpans.begin(), m_newSpans.end(), holdsField);
+        // A place that is not loaded has no address: its position in the file counts instead.
         m_newSpan = found == m_newSpans.end() ? ImageSpan{static_cast<std::uint32_t>(position), 1, position} : *found;
     }
     std::uint64_t const address = m_newSpan.address + (position - m_newSpan.offset);

@@ -1,4 +1,4 @@
-// OldText.h: the bytes that a patch starts from, as it reads them: run by run.
+// OldText.h: the old bytes that a patch reads, run by run.
 // Thread: one at a time. Ownership: refers to the files' bytes, which outlive it.
 #pragma once
 
@@ -18,14 +18,14 @@ public:
     virtual ~IOldText() = default;
 
     virtual std::uint64_t Size() const = 0;
-    /// From here on Next() answers the \a size bytes from \a position on, which are to stand from \a newPosition on in
-    /// the new file. REQUIRES: a run within the text.
+    /// From now on Next() returns the \a size bytes from \a position on. In the new file they begin at \a newPosition.
+    /// REQUIRES: a run within the text.
     virtual void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) = 0;
-    /// The next piece; never empty before the run's end. It is good until the next call.
+    /// The next piece of the run; empty only at its end. It is valid until the next call.
     virtual Bytes Next() = 0;
 };
 
-/// Files one after the other, as they are.
+/// Files, one after the other, unchanged.
 class PlainText : public IOldText
 {
 public:
@@ -42,11 +42,11 @@ private:
     std::uint64_t m_left = 0;
 };
 
-/// A program whose addresses are changed to what they are in the new one as far as the patch's steps tell.
+/// A program. Its addresses are changed to those of the new program, as far as the patch's steps tell them.
 class ProgramText : public IOldText
 {
 public:
-    /// \a steps: of the whole patch, from the start of both files on. \a layout outlives this object.
+    /// \a steps are those of the whole patch. \a layout outlives this object.
     ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
                 std::vector<PatchStep> const& steps);
 
@@ -56,8 +56,8 @@ public:
 
 private:
     void Change(AddressField const& field, std::uint8_t* bytes);
-    /// True for a run of a program of which nothing has moved, at its old place.
-    bool IsAsItIs() const { return m_isUnmoved && m_shift == 0; }
+    /// True if no address of the run changes: nothing in the program has moved, and the run keeps its place.
+    bool IsUnchanged() const { return m_isUnmoved && m_shift == 0; }
 
     Bytes m_program;
     std::vector<ImageSpan> m_newSpans;
@@ -68,8 +68,8 @@ private:
     bool m_hasField = false;
     std::uint64_t m_position = 0;
     std::uint64_t m_left = 0;
-    std::uint64_t m_shift = 0; ///< of new positions from old ones, without carry
-    ImageSpan m_newSpan;       ///< the one that the last field stands in
+    std::uint64_t m_shift = 0; ///< the new position minus the old one, modulo 2^64
+    ImageSpan m_newSpan;       ///< the one with the last field
     std::array<std::uint8_t, 16 * 1024> m_piece;
 };
 

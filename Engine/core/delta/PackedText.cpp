@@ -12,37 +12,38 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t FIXED_OPENING_BYTES = 10;
-constexpr std::size_t CLOSING_BYTES = 8;
-constexpr int WINDOW_BITS = -15; ///< deflated data by themselves
+constexpr std::size_t FIXED_HEADER_BYTES = 10;
+constexpr std::size_t TRAILER_BYTES = 8;
+constexpr int WINDOW_BITS = -15; ///< deflated data without a header
 constexpr std::uint64_t MAX_BLOCKS = 1u << 16;
-constexpr std::uint8_t MOST_LEVEL = 9;
-constexpr std::uint8_t MOST_MEMORY = 9;
+constexpr std::uint8_t MAX_LEVEL = 9;
+constexpr std::uint8_t MAX_MEMORY = 9;
 constexpr std::uint8_t USUAL_MEMORY = 8;
-constexpr std::uint8_t LIKE_BASE = 16; ///< what the level is more if tokens are copied from the old text
-constexpr std::uint8_t TOLD_EXTRA = 4;
-constexpr std::uint8_t TOLD_NAME = 8;
-constexpr std::uint8_t TOLD_REMARK = 16;
-constexpr std::uint8_t TOLD_CHECK = 2;
+constexpr std::uint8_t COPIES_TOKENS = 16; ///< added to the level if tokens are copied from the old text
+// Bits of the header's flags.
+constexpr std::uint8_t HAS_EXTRA = 4;
+constexpr std::uint8_t HAS_NAME = 8;
+constexpr std::uint8_t HAS_COMMENT = 16;
+constexpr std::uint8_t HAS_HEADER_HASH = 2;
 
-/// Where the deflated data begin; 0 for a file of another kind.
-std::size_t OpeningBytes(Bytes file)
+/// The size of a gzip file's header; 0 for another file.
+std::size_t HeaderBytes(Bytes file)
 {
-    constexpr std::uint8_t KNOWN = TOLD_EXTRA | TOLD_NAME | TOLD_REMARK | TOLD_CHECK | 1;
-    bool const isPacked = file.size() > FIXED_OPENING_BYTES + CLOSING_BYTES && file[0] == 0x1F && file[1] == 0x8B &&
+    constexpr std::uint8_t KNOWN = HAS_EXTRA | HAS_NAME | HAS_COMMENT | HAS_HEADER_HASH | 1;
+    bool const isPacked = file.size() > FIXED_HEADER_BYTES + TRAILER_BYTES && file[0] == 0x1F && file[1] == 0x8B &&
                           file[2] == 8 && (file[3] & ~KNOWN) == 0;
     if (!isPacked)
     {
         return 0;
     }
-    std::size_t end = FIXED_OPENING_BYTES;
-    end += (file[3] & TOLD_EXTRA) != 0 ? 2 + file[end] + 256u * file[end + 1] : 0;
-    for (std::uint8_t const text : {TOLD_NAME, TOLD_REMARK})
+    std::size_t end = FIXED_HEADER_BYTES;
+    end += (file[3] & HAS_EXTRA) != 0 ? 2 + file[end] + 256u * file[end + 1] : 0;
+    for (std::uint8_t const text : {HAS_NAME, HAS_COMMENT})
     {
         std::size_t const zero = (file[3] & text) != 0 ? file.find(std::uint8_t(0), end) : end;
         end = zero == Bytes::npos ? file.size() : (file[3] & text) != 0 ? zero + 1 : end;
     }
-    end += (file[3] & TOLD_CHECK) != 0 ? 2 : 0;
+    end += (file[3] & HAS_HEADER_HASH) != 0 ? 2 : 0;
     return end < file.size() ? end : 0;
 }
 
@@ -56,7 +57,7 @@ void CopyBits(BitReader& from, BitWriter& to, std::uint64_t count)
     }
 }
 
-/// What is told of a block, and the bits that stand before its tokens.
+/// Appends a block's kind, the number of its tokens, and its code lengths.
 void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes data, std::size_t begin,
                  std::size_t end)
 {
@@ -73,7 +74,7 @@ void AppendBlock(ByteBuffer& recipe, BlockKind kind, std::uint64_t tokens, Bytes
     }
 }
 
-/// The blocks of a file; false when they are not packed as they are to be.
+/// Appends the blocks of \a data; false if one is stored or damaged.
 bool AppendBlocks(ByteBuffer& recipe, Bytes data, std::size_t& dataBytes)
 {
     TokenReader reader(data);
@@ -146,13 +147,13 @@ private:
     bool FindTokens()
     {
         std::uint8_t const level = m_recipe.Byte();
-        DeflateManner const manner{level & ~LIKE_BASE, m_recipe.Byte()};
-        bool const isKnown =
-            manner.level >= 1 && manner.level <= MOST_LEVEL && manner.memory >= 1 && manner.memory <= MOST_MEMORY;
+        DeflateParameters const parameters{level & ~COPIES_TOKENS, m_recipe.Byte()};
+        bool const isKnown = parameters.level >= 1 && parameters.level <= MAX_LEVEL && parameters.memory >= 1 &&
+                             parameters.memory <= MAX_MEMORY;
         std::optional<DeflateTokens> tokens;
         if (isKnown)
         {
-            tokens = level == manner.level ? TokensOf(m_text, manner) : TokensLike(m_base, m_text, manner);
+            tokens = level == parameters.level ? TokensOf(m_text, parameters) : TokensLike(m_base, m_text, parameters);
         }
         m_tokens = std::move(tokens).value_or(DeflateTokens());
         return tokens.has_value();
@@ -214,8 +215,8 @@ bool IsRecipe(ByteBuffer const& recipe, Bytes text, Bytes file, PackedBase const
 
 std::optional<ByteBuffer> UnpackText(Bytes file)
 {
-    std::size_t const opening = OpeningBytes(file);
-    if (opening == 0 || file.size() > MAX_PACKED_TEXT_BYTES)
+    std::size_t const header = HeaderBytes(file);
+    if (header == 0 || file.size() > MAX_PACKED_TEXT_BYTES)
     {
         return std::nullopt;
     }
@@ -225,8 +226,8 @@ std::optional<ByteBuffer> UnpackText(Bytes file)
         throw std::bad_alloc();
     }
     ByteBuffer text;
-    stream.next_in = const_cast<Bytef*>(file.data() + opening);
-    stream.avail_in = static_cast<uInt>(file.size() - opening);
+    stream.next_in = const_cast<Bytef*>(file.data() + header);
+    stream.avail_in = static_cast<uInt>(file.size() - header);
     int answer = Z_OK;
     while (answer == Z_OK && text.size() < MAX_PACKED_TEXT_BYTES)
     {
@@ -236,15 +237,15 @@ std::optional<ByteBuffer> UnpackText(Bytes file)
         answer = inflate(&stream, Z_NO_FLUSH);
     }
     text.resize(stream.total_out);
-    bool const isOne = answer == Z_STREAM_END && stream.avail_in == CLOSING_BYTES;
+    bool const isOne = answer == Z_STREAM_END && stream.avail_in == TRAILER_BYTES;
     inflateEnd(&stream);
     return isOne ? std::optional<ByteBuffer>(std::move(text)) : std::nullopt;
 }
 
 Bytes PackedDataOf(Bytes file)
 {
-    std::size_t const opening = OpeningBytes(file);
-    return opening == 0 ? Bytes() : file.substr(opening);
+    std::size_t const header = HeaderBytes(file);
+    return header == 0 ? Bytes() : file.substr(header);
 }
 
 std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize, PackedBase const& base)
@@ -261,10 +262,10 @@ std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text)
     {
         return std::nullopt;
     }
-    // Most files come from the strongest level or the usual one; the memory is that of gzip, or of zlib by default.
+    // Most files are made with level 9 or 6, and with the memory level of gzip or the default one of zlib.
     for (std::uint8_t const level : {9, 6, 8, 7, 5, 4, 3, 2, 1})
     {
-        for (std::uint8_t const memory : {MOST_MEMORY, USUAL_MEMORY})
+        for (std::uint8_t const memory : {MAX_MEMORY, USUAL_MEMORY})
         {
             ByteBuffer recipe;
             AppendBytes(recipe, file.substr(0, file.size() - data.size()));
@@ -285,9 +286,9 @@ ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, Packed
 {
     ByteBuffer faster = recipe;
     ManifestBytes::Reader reader(View(recipe));
-    std::uint64_t const opening = reader.Number();
-    static_cast<void>(reader.Raw(opening));
-    faster[recipe.size() - reader.Left()] |= LIKE_BASE;
+    std::uint64_t const header = reader.Number();
+    static_cast<void>(reader.Raw(header));
+    faster[recipe.size() - reader.Left()] |= COPIES_TOKENS;
     return IsRecipe(faster, text, file, base) ? faster : recipe;
 }
 

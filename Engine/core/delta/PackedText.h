@@ -1,7 +1,7 @@
-// PackedText.h: files of gzip's kind as the texts in them, and back to the very same bytes.
-// Any bytes are safe. Two packed versions of a text have nothing in common behind the first change, their texts
-// nearly everything. What a packer decides beyond the text, where its blocks end and the codes of each, is its
-// recipe, which is small.
+// PackedText.h: unpacks gzip files, and packs their texts again to exactly the same bytes.
+// Thread: any; no shared state. Any bytes are safe. Two versions of a packed text have no bytes in common after the
+// first change, so a delta is made from the texts. A small recipe has what the text does not tell: the parameters of
+// zlib, the ends of the blocks, and their codes.
 #pragma once
 
 #include "Engine/core/delta/DeflateTokens.h"
@@ -11,24 +11,24 @@
 namespace Pelnar::Engine
 {
 
-/// Text and file are in memory: longer ones stay as they are.
+/// Texts and files are in memory. Larger ones are not unpacked.
 constexpr std::size_t MAX_PACKED_TEXT_BYTES = 4u << 20;
 
-/// The text in a file of one gzip member; nothing for another file and for a longer text.
+/// The text in a gzip file of one member; nothing for another file or a longer text.
 [[nodiscard]] std::optional<ByteBuffer> UnpackText(Bytes file);
 
-/// The packed data of a file that UnpackText accepts, and the bytes behind them.
+/// The deflated data of a file that UnpackText accepts, and the bytes after them.
 [[nodiscard]] Bytes PackedDataOf(Bytes file);
 
-/// Packs \a text as \a recipe says; nothing if the recipe is damaged or makes more than \a maxSize bytes. \a base is
-/// what the text was made from.
+/// Packs \a text by \a recipe; nothing if the recipe is damaged or makes more than \a maxSize bytes. \a base is the old
+/// text from which the text was made.
 [[nodiscard]] std::optional<ByteBuffer> PackByRecipe(Bytes recipe, Bytes text, std::size_t maxSize,
                                                      PackedBase const& base);
 
-/// The recipe that packs \a text to \a file again, from any base; nothing if another packer than zlib made the file.
+/// The recipe that makes \a file from \a text and needs no base; nothing if a packer without zlib made the file.
 [[nodiscard]] std::optional<ByteBuffer> FindRecipe(Bytes file, Bytes text);
 
-/// The recipe that copies tokens from \a base, if it packs \a text to \a file again, else \a recipe.
+/// The recipe that copies tokens from \a base, if it makes \a file from \a text, otherwise \a recipe.
 [[nodiscard]] ByteBuffer FasterRecipe(ByteBuffer const& recipe, Bytes file, Bytes text, PackedBase const& base);
 
 } // namespace Pelnar::Engine

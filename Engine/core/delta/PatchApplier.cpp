@@ -119,7 +119,7 @@ PatchVerdict PatchApplier::TakeRecord(std::uint64_t maxBytes, ByteBuffer& record
     {
         return PatchVerdict::WrongSize;
     }
-    // Its room comes with its bytes: a size is soon said.
+    // Memory grows with the bytes that come: a damaged size may be large.
     record.clear();
     for (std::uint64_t left = size; left > 0;)
     {
@@ -154,7 +154,7 @@ PatchVerdict PatchApplier::TakeStep(StepRange& range, PatchStep& step)
             return verdict;
         }
     }
-    // Only the first may do nothing but move: any number of such would be an endless loop.
+    // Only the first step may make no bytes: a file of such steps would never end.
     if (step.likeBytes == 0 && step.extraBytes == 0 && !range.isFirst)
     {
         return PatchVerdict::BadNumber;
@@ -201,7 +201,7 @@ PatchVerdict PatchApplier::Make(IOldText& old, std::uint64_t newSize, ByteSink c
     return Flush() ? PatchVerdict::Applied : PatchVerdict::SinkRefused;
 }
 
-/// The next run, once the last is used up: they go on across steps.
+/// Takes the next run. A run may continue from one step to the next.
 PatchVerdict PatchApplier::TakeRun()
 {
     PatchVerdict verdict = PatchVerdict::Applied;
@@ -249,7 +249,7 @@ PatchVerdict PatchApplier::TakeLike(Bytes old)
             continue;
         }
         std::uint64_t& left = m_sameLeft > 0 ? m_sameLeft : m_changedLeft;
-        std::size_t const count = Room(std::min<std::uint64_t>(old.size(), left));
+        std::size_t const count = FittingBytes(std::min<std::uint64_t>(old.size(), left));
         std::uint8_t* const target = m_pieces[m_current].data() + m_filled;
         if (&left == &m_sameLeft)
         {
@@ -278,7 +278,7 @@ PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)
 {
     while (size > 0)
     {
-        std::size_t const count = Room(size);
+        std::size_t const count = FittingBytes(size);
         if (!m_extra.Take(m_pieces[m_current].data() + m_filled, count))
         {
             return PatchVerdict::SourceEnded;
@@ -292,7 +292,7 @@ PatchVerdict PatchApplier::TakeExtra(std::uint64_t size)
     return PatchVerdict::Applied;
 }
 
-std::size_t PatchApplier::Room(std::uint64_t size) const
+std::size_t PatchApplier::FittingBytes(std::uint64_t size) const
 {
     return static_cast<std::size_t>(std::min<std::uint64_t>(size, PATCH_PIECE_BYTES - m_filled));
 }

@@ -12,7 +12,7 @@
 namespace Pelnar::Engine
 {
 
-/// A stream read ahead: the numbers and most runs are a byte or two.
+/// Reads a stream ahead, because numbers and most runs have a byte or two.
 class PatchStreamReader
 {
 public:
@@ -38,30 +38,30 @@ class PatchApplier
 public:
     explicit PatchApplier(PatchSources const& sources);
 
-    /// What is made next starts from the beginning of an old text.
+    /// The next file starts at the beginning of an old text.
     void StartText() { m_position = 0; }
-    /// Makes the next file, of \a newSize bytes, from where the last one has left the position in \a old.
+    /// Makes the next file, of \a newSize bytes. It starts at the position in \a old where the last one ended.
     [[nodiscard]] PatchVerdict Make(IOldText& old, std::uint64_t newSize, ByteSink const& sink);
-    /// The steps of the next file, at most \a maxSteps, all within the old text, for a text that is made of them.
+    /// Takes the steps of the next file, at most \a maxSteps, all within the old text.
     [[nodiscard]] PatchVerdict TakeSteps(std::uint64_t oldSize, std::uint64_t newSize, std::size_t maxSteps,
                                          std::vector<PatchStep>& steps);
-    /// Makes the file whose \a steps have been taken.
+    /// Makes the file whose \a steps were taken.
     [[nodiscard]] PatchVerdict MakeBySteps(IOldText& old, std::vector<PatchStep> const& steps, std::uint64_t newSize,
                                            ByteSink const& sink);
     /// Makes the next file from the extra stream alone.
     [[nodiscard]] PatchVerdict MakeWhole(std::uint64_t size, ByteSink const& sink);
     /// The next record of the extra stream, of at most \a maxBytes.
     [[nodiscard]] PatchVerdict TakeRecord(std::uint64_t maxBytes, ByteBuffer& record);
-    /// True when nothing of any stream is left.
+    /// True if all streams are at their ends.
     [[nodiscard]] bool IsUsedUp();
 
 private:
-    /// What the steps of one file may still do.
+    /// What is left to the steps of one file.
     struct StepRange
     {
         std::uint64_t oldSize;
-        std::uint64_t position; ///< in the old text; never past its end
-        std::uint64_t missing;  ///< bytes that no step has announced yet
+        std::uint64_t position; ///< in the old text, not after its end
+        std::uint64_t missing;  ///< bytes of the new file that no step makes yet
         bool isFirst;
     };
 
@@ -73,7 +73,8 @@ private:
     PatchVerdict TakeLike(IOldText& old, std::uint64_t newPosition, std::uint64_t size);
     PatchVerdict TakeLike(Bytes old);
     PatchVerdict TakeExtra(std::uint64_t size);
-    std::size_t Room(std::uint64_t size) const;
+    /// How many of \a size bytes fit into the current piece.
+    std::size_t FittingBytes(std::uint64_t size) const;
     [[nodiscard]] bool Advance(std::size_t count);
     [[nodiscard]] bool Flush();
 
@@ -82,7 +83,7 @@ private:
     PatchStreamReader m_changed;
     PatchStreamReader m_difference;
     PatchStreamReader m_extra;
-    ByteSink const* m_sink = nullptr; ///< of the file at hand
+    ByteSink const* m_sink = nullptr; ///< of the current file
     std::uint64_t m_position = 0;     ///< in the old text
     std::uint64_t m_sameLeft = 0;
     std::uint64_t m_changedLeft = 0;

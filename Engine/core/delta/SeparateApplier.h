@@ -1,4 +1,4 @@
-// SeparateApplier.h: makes a tree from a container in which every file's data stand by themselves.
+// SeparateApplier.h: makes a tree from a container in which each file's data are separate.
 // Thread: as for DeltaApplier.h. Ownership: descriptors stay the caller's.
 #pragma once
 
@@ -19,7 +19,7 @@ struct DeltaWork
     std::uint64_t dataOffset;
 };
 
-/// Told after each entry that is made.
+/// Called after each entry that is made.
 using EntryDone = std::function<void(DeltaEntry const& entry)>;
 
 [[nodiscard]] DeltaOutcome ApplySeparateDelta(DeltaWork const& work, DeltaManifest const& manifest,
@@ -29,7 +29,7 @@ using EntryDone = std::function<void(DeltaEntry const& entry)>;
 [[nodiscard]] PatchSources SourcesOf(std::vector<DeltaStream>& streams);
 [[nodiscard]] bool AreAtEnd(std::vector<DeltaStream>& streams);
 
-/// What a patch that cannot be applied means for its container. Reads errno.
+/// The outcome of a patch. Reads errno.
 [[nodiscard]] DeltaOutcome OutcomeOf(PatchVerdict verdict);
 
 } // namespace Pelnar::Engine

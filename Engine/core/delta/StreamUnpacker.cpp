@@ -71,7 +71,7 @@ public:
         m_stream.avail_out = size;
         lzma_ret const answer = lzma_code(&m_stream, LZMA_RUN);
         input.remove_prefix(input.size() - m_stream.avail_in);
-        // Without input and output there is no progress, which is for the caller to see.
+        // The caller notices if there is no progress.
         bool const isGoing = answer == LZMA_OK || answer == LZMA_BUF_ERROR;
         State const state = answer == LZMA_STREAM_END ? State::Ended : isGoing ? State::Going : State::Damaged;
         return {size - m_stream.avail_out, state};

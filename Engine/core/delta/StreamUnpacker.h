@@ -1,5 +1,5 @@
 // StreamUnpacker.h: decompresses one stream of a container piece by piece: by zstd or by LZMA.
-// Thread: one at a time. Ownership: its own state. Any bytes are safe; memory is the window's and a little more.
+// Thread: one at a time. Ownership: its own state. Any bytes are safe. It needs little more memory than the window.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -27,11 +27,12 @@ public:
     };
 
     virtual ~IUnpacker() = default;
-    /// Fills \a target as far as \a input reaches, and takes from its beginning what is used up.
+    /// Fills \a target as far as \a input allows, and removes the used bytes from \a input.
     virtual Step Unpack(Bytes& input, std::uint8_t* target, std::size_t size) = 0;
 };
 
-/// \a packing: 0 for zstd, else one more than the properties of LZMA, which ends with a mark. Throws std::bad_alloc.
+/// \a packing is 0 for zstd, otherwise one more than the properties of LZMA. LZMA has an end mark. Throws
+/// std::bad_alloc.
 [[nodiscard]] std::unique_ptr<IUnpacker> MakeUnpacker(std::uint8_t packing, int windowLog);
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,6 @@
 #include "Publisher/files/BundleTree.h"
 
+#include "Engine/core/archive/Archive.h"
 #include "Engine/core/archive/UnpackArchive.h"
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/base/TreeWalk.h"
@@ -7,6 +8,7 @@
 #include "Engine/core/faults/UpdateFault.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/files/FaultText.h"
+#include "Publisher/files/GzipCheck.h"
 
 #include <QDir>
 #include <QFile>
@@ -148,6 +150,11 @@ BundleTree BundleTree::Unpack(InputFile const& archive, ByteProgress const& prog
     {
         Engine::UnpackedBundle const bundle =
             Engine::UnpackArchive(archive.descriptor.Get(), folder->Descriptor(), progress);
+        int const descriptor = archive.descriptor.Get();
+        if (Engine::InspectContainer(descriptor).kind == Engine::ContainerKind::TarGzip && !IsIntactGzip(descriptor))
+        {
+            throw Engine::UpdateRefusal(Engine::UpdateFault::ContainerDamaged);
+        }
         fs::path const path = folder->Path() / bundle.name;
         return BundleTree(std::move(folder), path, archive.name);
     }

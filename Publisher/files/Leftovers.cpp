@@ -105,17 +105,23 @@ void RemoveLeftoversWhenInterrupted()
 {
     sigset_t const set = EndingSignals();
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
-    std::thread(
-        [set]
+    auto const wait = [set]
+    {
+        int number = 0;
+        if (::sigwait(&set, &number) == 0)
         {
-            int number = 0;
-            if (::sigwait(&set, &number) == 0)
-            {
-                RemoveAll();
-                EndBy(number);
-            }
-        })
-        .detach();
+            RemoveAll();
+            EndBy(number);
+        }
+    };
+    try
+    {
+        std::thread(wait).detach();
+    }
+    catch (std::system_error const&)
+    {
+        ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr); // the next run then removes what this one leaves
+    }
 }
 
 } // namespace Pelnar::Publisher

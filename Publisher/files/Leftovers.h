@@ -27,7 +27,8 @@ private:
     std::string m_path;
 };
 
-/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and then end the process as usual. REQUIRES: called
+/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and then end the process as usual. If the system has
+/// no further thread, they only end the process. REQUIRES: called
 /// once, by the only thread, before another is started.
 void RemoveLeftoversWhenInterrupted();
 

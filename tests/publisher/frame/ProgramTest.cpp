@@ -146,4 +146,26 @@ TEST(AppcastProgram, OutputThatCannotBeWrittenIsAFailureOfEveryVerb)
     }
 }
 
+TEST(AppcastProgram, NeedsNoThreadOfItsOwn)
+{
+    QString const strace = QStringLiteral("/usr/bin/strace");
+    if (!QFile::exists(strace))
+    {
+        GTEST_SKIP() << "system calls cannot be traced here";
+    }
+    QTemporaryDir folder;
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0")); // it traces, too
+    process.setProcessEnvironment(environment);
+    process.start(strace,
+                  {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-o"), QStringLiteral("/dev/null"),
+                   QStringLiteral("-e"), QStringLiteral("inject=clone,clone3:error=EAGAIN"), AppcastProgram(),
+                   QStringLiteral("keys"), QStringLiteral("generate"), folder.filePath(QStringLiteral("key"))});
+    ASSERT_TRUE(process.waitForFinished(30000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    EXPECT_TRUE(QFile::exists(folder.filePath(QStringLiteral("key"))));
+}
+
 } // namespace Pelnar::Testing

@@ -170,6 +170,20 @@ TEST_F(Accident, EveryLinkThatLeadsAstrayIsNamed)
     ExpectRefused(Generate(), {"\"Test.app/c\"", "a link leads out of the bundle: \"Test.app/b\""});
 }
 
+TEST_F(Accident, ArchiveUnderGzipWasDamagedBeforeItIsSigned)
+{
+    std::string const whole = MakeArchive(Container::TarGzip, MakePublishedBundle(Version("2.0")));
+    for (std::size_t const fromEnd : {std::size_t{1}, std::size_t{8}, whole.size() / 2})
+    {
+        std::string damaged = whole;
+        damaged[damaged.size() - fromEnd] = static_cast<char>(damaged[damaged.size() - fromEnd] ^ 1);
+        m_folder.Put("Test-2.0.tar.gz", damaged);
+        ExpectRefused(Generate(), {"Test-2.0.tar.gz: is damaged or ends early; pack it again"});
+    }
+    m_folder.Put("Test-2.0.tar.gz", whole + "bytes that gunzip ignores");
+    Publish();
+}
+
 TEST_F(Accident, EncryptedEntryIsNamed)
 {
     std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));

@@ -77,6 +77,13 @@ void EngineWindow::BringToFront()
     activateWindow();
 }
 
+void EngineWindow::Dismiss()
+{
+    m_isAnswered = true;
+    hide();
+    deleteLater();
+}
+
 void EngineWindow::reject()
 {
     Answer(m_onDismissed);
@@ -151,6 +158,14 @@ void EngineWindow::AddOnlyAnswer(std::function<void()> const& onGiven)
                   QCoreApplication::translate("PelnarEngine_EngineWindow", "&OK"), ButtonPlace::End, onGiven);
     SetDefaultAnswer(button, button);
     SetDismissal(onGiven);
+}
+
+void EngineWindow::AddCancelAnswer(std::function<void()> const& onCancelled)
+{
+    AddAnswer(QStringLiteral("PelnarEngine_cancelButton"),
+              QCoreApplication::translate("PelnarEngine_EngineWindow", "&Cancel"), ButtonPlace::End, onCancelled)
+        ->setFocus();
+    SetDismissal(onCancelled);
 }
 
 void EngineWindow::SetDismissal(std::function<void()> onDismissed)

@@ -25,14 +25,6 @@ class EngineWindow : public QDialog
     Q_OBJECT
 
 public:
-    /// Shows the window: in front and with the focus if a person requested the check, otherwise without both.
-    void Present();
-    void BringToFront();
-
-    /// Esc and the close button are an answer too: each window defines which.
-    void reject() override;
-
-protected:
     enum class ButtonPlace
     {
         Start, ///< separate from the answers that continue
@@ -40,6 +32,15 @@ protected:
     };
 
     EngineWindow(QString const& objectName, CheckOrigin origin);
+
+    /// Shows the window: in front and with the focus if a person requested the check, otherwise without both.
+    void Present();
+    void BringToFront();
+    /// Closes the window without an answer. The event loop deletes it.
+    void Dismiss();
+
+    /// Esc and the close button are an answer too: each window defines which.
+    void reject() override;
 
     QLabel* AddHeading(QString const& objectName, QString const& text);
     QLabel* AddText(QString const& objectName, QString const& text);
@@ -54,6 +55,8 @@ protected:
                            std::function<void()> onClicked);
     /// "OK", for a window with one choice; Enter, Esc and the close button give it too.
     void AddOnlyAnswer(std::function<void()> const& onGiven);
+    /// "Cancel", which Esc and the close button give too. Enter does not cancel: no person intends that.
+    void AddCancelAnswer(std::function<void()> const& onCancelled);
     /// The answer of Esc and of the close button.
     void SetDismissal(std::function<void()> onDismissed);
     /// The button that Enter presses in a window that a person requested; in other windows \a quiet has the focus.

@@ -20,7 +20,7 @@ QString JoinedByDash(QString const& first, QString const& second)
 
 } // namespace
 
-ProgressWindow::ProgressWindow(NamedVersion const& update)
+ProgressWindow::ProgressWindow(NamedVersion const& update, std::function<void()> const& onCancelled)
     : EngineWindow(QStringLiteral("PelnarEngine_progressWindow"), CheckOrigin::User)
 {
     QString const name = ShownName(update.applicationName);
@@ -31,7 +31,6 @@ ProgressWindow::ProgressWindow(NamedVersion const& update)
     m_preparingText = QCoreApplication::translate("PelnarEngine_ProgressWindow", "Verifying and unpacking %1 %2…",
                                                   "%1 is the application's name, %2 the new version")
                           .arg(name, version);
-    auto const cancel = [this] { Q_EMIT Cancelled(); };
     m_heading = AddHeading(QStringLiteral("PelnarEngine_heading"), m_downloadingText);
     m_bar = AddProgressBar(QStringLiteral("PelnarEngine_progressBar"),
                            QCoreApplication::translate("PelnarEngine_ProgressWindow", "Progress of the update"));
@@ -44,11 +43,7 @@ ProgressWindow::ProgressWindow(NamedVersion const& update)
         label->setWordWrap(false);
         label->setMinimumWidth(0);
     }
-    // Enter does not cancel: no person intends that.
-    AddAnswer(QStringLiteral("PelnarEngine_cancelButton"),
-              QCoreApplication::translate("PelnarEngine_EngineWindow", "&Cancel"), ButtonPlace::End, cancel)
-        ->setFocus();
-    SetDismissal(cancel);
+    AddCancelAnswer(onCancelled);
 }
 
 void ProgressWindow::SetProgress(UpdateProgress const& progress)

@@ -12,12 +12,9 @@ class ProgressWindow : public EngineWindow
     Q_OBJECT
 
 public:
-    explicit ProgressWindow(NamedVersion const& update);
+    ProgressWindow(NamedVersion const& update, std::function<void()> const& onCancelled);
 
     void SetProgress(UpdateProgress const& progress);
-
-Q_SIGNALS:
-    void Cancelled();
 
 private:
     QString m_downloadingText;

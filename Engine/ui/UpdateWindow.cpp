@@ -19,8 +19,11 @@ constexpr int NOTES_HEIGHT = 240;
 
 } // namespace
 
-UpdateWindow::UpdateWindow(UpdateOffer const& offer, CheckOrigin origin)
+UpdateWindow::UpdateWindow(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen,
+                           std::function<void(QUrl const&)> openLink)
     : EngineWindow(QStringLiteral("PelnarEngine_updateWindow"), origin)
+    , m_onChosen(std::move(onChosen))
+    , m_openLink(std::move(openLink))
 {
     AddTexts(offer);
     AddNotes(offer.notes);
@@ -73,13 +76,13 @@ void UpdateWindow::AddNotes(ReleaseNotes const& notes)
     m_notes->setObjectName(QStringLiteral("PelnarEngine_releaseNotes"));
     m_notes->setAccessibleName(name);
     m_notes->setMinimumSize(NOTES_WIDTH, NOTES_HEIGHT);
-    connect(m_notes, &NotesBrowser::LinkActivated, this, &UpdateWindow::LinkActivated);
+    connect(m_notes, &NotesBrowser::LinkActivated, this, m_openLink);
     AddContent(m_notes);
     m_linkButton = new QPushButton(
         QCoreApplication::translate("PelnarEngine_UpdateWindow", "Show Release &Notes in Browser"), this);
     m_linkButton->setObjectName(QStringLiteral("PelnarEngine_showNotesButton"));
     m_linkButton->setAutoDefault(false);
-    connect(m_linkButton, &QPushButton::clicked, this, [this] { Q_EMIT LinkActivated(m_notesAddress); });
+    connect(m_linkButton, &QPushButton::clicked, this, [this] { m_openLink(m_notesAddress); });
     AddContent(m_linkButton);
     SetReleaseNotes(notes);
 }
@@ -90,7 +93,7 @@ QPushButton* UpdateWindow::AddAgreement(UpdateOffer const& offer)
     {
         return AddAnswer(QStringLiteral("PelnarEngine_installButton"),
                          QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Install Update"), ButtonPlace::End,
-                         [this] { Q_EMIT Chosen(UpdateChoice::InstallUpdate); });
+                         [this] { m_onChosen(UpdateChoice::InstallUpdate); });
     }
     QUrl const page = SafeUrl(offer.page);
     if (page.isEmpty())
@@ -102,8 +105,8 @@ QPushButton* UpdateWindow::AddAgreement(UpdateOffer const& offer)
                   QCoreApplication::translate("PelnarEngine_UpdateWindow", "&Open Its Page"), ButtonPlace::End,
                   [this, page]
                   {
-                      Q_EMIT LinkActivated(page);
-                      Q_EMIT Chosen(UpdateChoice::RemindMeLater);
+                      m_openLink(page);
+                      m_onChosen(UpdateChoice::RemindMeLater);
                   });
     button->setToolTip(QString::fromLatin1(page.toEncoded()));
     return button;
@@ -111,7 +114,7 @@ QPushButton* UpdateWindow::AddAgreement(UpdateOffer const& offer)
 
 void UpdateWindow::AddAnswers(UpdateOffer const& offer)
 {
-    auto const choose = [this](UpdateChoice choice) { return [this, choice] { Q_EMIT Chosen(choice); }; };
+    auto const choose = [this](UpdateChoice choice) { return [this, choice] { m_onChosen(choice); }; };
     if (offer.importance != UpdateImportance::Critical)
     {
         AddAnswer(QStringLiteral("PelnarEngine_skipButton"),

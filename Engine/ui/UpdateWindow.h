@@ -16,15 +16,12 @@ class UpdateWindow : public EngineWindow
     Q_OBJECT
 
 public:
-    UpdateWindow(UpdateOffer const& offer, CheckOrigin origin);
+    /// \a openLink gets an address that a person clicked and that may be followed.
+    UpdateWindow(UpdateOffer const& offer, CheckOrigin origin, std::function<void(UpdateChoice)> onChosen,
+                 std::function<void(QUrl const&)> openLink);
 
     /// Shows \a notes in place of the previous ones. For notes at a link it shows a button.
     void SetReleaseNotes(ReleaseNotes const& notes);
-
-Q_SIGNALS:
-    void Chosen(Pelnar::Engine::UpdateChoice choice);
-    /// A person clicked a link that may be followed.
-    void LinkActivated(QUrl const& address);
 
 private:
     void AddTexts(UpdateOffer const& offer);
@@ -32,6 +29,8 @@ private:
     void AddAnswers(UpdateOffer const& offer);
     QPushButton* AddAgreement(UpdateOffer const& offer);
 
+    std::function<void(UpdateChoice)> m_onChosen;
+    std::function<void(QUrl const&)> m_openLink;
     NotesBrowser* m_notes = nullptr;
     QPushButton* m_linkButton = nullptr;
     QUrl m_notesAddress;

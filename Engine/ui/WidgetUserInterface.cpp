@@ -1,10 +1,7 @@
 #include "Engine/ui/WidgetUserInterface.h"
 
-#include "Engine/ui/CheckingWindow.h"
-#include "Engine/ui/ErrorWindow.h"
+#include "Engine/ui/PlainWindows.h"
 #include "Engine/ui/ProgressWindow.h"
-#include "Engine/ui/ReadyWindow.h"
-#include "Engine/ui/UpToDateWindow.h"
 #include "Engine/ui/UpdateWindow.h"
 
 #include <utility>
@@ -14,47 +11,45 @@ namespace Pelnar::Engine
 
 void WidgetUserInterface::DeleteLater::operator()(EngineWindow* window) const
 {
-    window->disconnect();
-    window->hide();
-    window->deleteLater();
+    window->Dismiss();
 }
 
 WidgetUserInterface::WidgetUserInterface(std::function<void(QUrl const&)> openLink) : m_openLink(std::move(openLink)) {}
 
 WidgetUserInterface::~WidgetUserInterface() = default;
 
-template <typename Window, typename Signal, typename Callback>
-void WidgetUserInterface::Show(Window* window, Signal answered, Callback callback)
+void WidgetUserInterface::Show(std::unique_ptr<EngineWindow> window)
 {
-    m_window.reset(window);
-    QObject::connect(window, answered, window,
-                     [this, callback](auto... answer)
-                     {
-                         // Both are copied: the callback may show the next window or destroy this object.
-                         Callback const kept = callback;
-                         m_window.reset();
-                         kept(answer...);
-                     });
-    window->Present();
+    m_window.reset(window.release());
+    m_window->Present();
+}
+
+template <typename... Answer>
+std::function<void(Answer...)> WidgetUserInterface::Ending(std::function<void(Answer...)> callback)
+{
+    return [this, callback = std::move(callback)](Answer... answer)
+    {
+        // Both are copied: the callback may show the next window or destroy this object.
+        std::function<void(Answer...)> const kept = callback;
+        m_window.reset();
+        kept(answer...);
+    };
 }
 
 void WidgetUserInterface::ShowChecking(std::function<void()> onCancelled)
 {
-    Show(new CheckingWindow, &CheckingWindow::Cancelled, std::move(onCancelled));
+    Show(MakeCheckingWindow(Ending(std::move(onCancelled))));
 }
 
 void WidgetUserInterface::ShowUpToDate(NamedVersion const& installed, std::function<void()> onClosed)
 {
-    Show(new UpToDateWindow(installed), &UpToDateWindow::Closed, std::move(onClosed));
+    Show(MakeUpToDateWindow(installed, Ending(std::move(onClosed))));
 }
 
 void WidgetUserInterface::ShowUpdate(UpdateOffer const& offer, CheckOrigin origin,
                                      std::function<void(UpdateChoice)> onChosen)
 {
-    auto* const window = new UpdateWindow(offer, origin);
-    QObject::connect(window, &UpdateWindow::LinkActivated, window,
-                     [openLink = m_openLink](QUrl const& address) { openLink(address); });
-    Show(window, &UpdateWindow::Chosen, std::move(onChosen));
+    Show(std::make_unique<UpdateWindow>(offer, origin, Ending(std::move(onChosen)), m_openLink));
 }
 
 void WidgetUserInterface::ReplaceReleaseNotes(ReleaseNotes const& notes)
@@ -67,7 +62,7 @@ void WidgetUserInterface::ReplaceReleaseNotes(ReleaseNotes const& notes)
 
 void WidgetUserInterface::ShowDownload(NamedVersion const& update, std::function<void()> onCancelled)
 {
-    Show(new ProgressWindow(update), &ProgressWindow::Cancelled, std::move(onCancelled));
+    Show(std::make_unique<ProgressWindow>(update, Ending(std::move(onCancelled))));
 }
 
 void WidgetUserInterface::SetProgress(UpdateProgress const& progress)
@@ -81,12 +76,12 @@ void WidgetUserInterface::SetProgress(UpdateProgress const& progress)
 void WidgetUserInterface::ShowReadyToInstall(NamedVersion const& update, CheckOrigin origin,
                                              std::function<void(ReadyChoice)> onChosen)
 {
-    Show(new ReadyWindow(update, origin), &ReadyWindow::Chosen, std::move(onChosen));
+    Show(MakeReadyWindow(update, origin, Ending(std::move(onChosen))));
 }
 
 void WidgetUserInterface::ShowError(Sentence const& sentence, std::function<void()> onClosed)
 {
-    Show(new ErrorWindow(sentence), &ErrorWindow::Closed, std::move(onClosed));
+    Show(MakeErrorWindow(sentence, Ending(std::move(onClosed))));
 }
 
 void WidgetUserInterface::BringToFront()

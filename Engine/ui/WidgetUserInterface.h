@@ -42,9 +42,11 @@ private:
         void operator()(EngineWindow* window) const;
     };
 
-    /// Replaces the open window with \a window. The window's signal \a answered ends it and calls \a callback.
-    template <typename Window, typename Signal, typename Callback>
-    void Show(Window* window, Signal answered, Callback callback);
+    /// Replaces the open window with \a window.
+    void Show(std::unique_ptr<EngineWindow> window);
+    /// Ends the open window and calls \a callback.
+    template <typename... Answer>
+    std::function<void(Answer...)> Ending(std::function<void(Answer...)> callback);
 
     std::function<void(QUrl const&)> m_openLink;
     std::unique_ptr<EngineWindow, DeleteLater> m_window;

@@ -4,8 +4,6 @@
 #include "Engine/objc/Updater_p.h"
 #include "Foundation/FoundationText.h"
 
-#include <Pelnar/HostRequests_p.h>
-
 using namespace Pelnar::Engine;
 using namespace Pelnar::Foundation;
 
@@ -141,5 +139,3 @@ using namespace Pelnar::Foundation;
 }
 
 @end
-
-void Pelnar::Engine::ConfirmStart() { [[SUUpdater sharedUpdater] confirmGoodStart]; }

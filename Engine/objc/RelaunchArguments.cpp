@@ -1,8 +1,0 @@
-#include <Pelnar/HostRequests_p.h>
-
-#include "Engine/core/update/KeptArguments.h"
-
-bool Pelnar::Engine::KeepRelaunchArguments(std::vector<std::string> const& arguments)
-{
-    return KeptArguments::OfProcess().Keep(arguments);
-}

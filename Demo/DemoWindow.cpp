@@ -3,7 +3,6 @@
 #include "Demo/CheckRun.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QFont>
 #include <QHBoxLayout>

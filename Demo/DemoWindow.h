@@ -8,8 +8,6 @@
 
 #include <QMainWindow>
 
-#include <functional>
-
 QT_BEGIN_NAMESPACE
 class QAction;
 class QComboBox;

@@ -2,7 +2,6 @@
 // Thread: the Qt main thread. Ownership: observes the application while it lives.
 #pragma once
 
-#include <QDir>
 #include <QObject>
 
 QT_BEGIN_NAMESPACE

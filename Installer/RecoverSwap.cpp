@@ -4,7 +4,6 @@
 #include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/helper/StagingFolder.h"
 #include "Engine/core/helper/SwapJournal.h"
-#include "Installer/ChildProcess.h"
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>

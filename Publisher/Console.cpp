@@ -4,9 +4,9 @@
 
 #include <QJsonDocument>
 
-#include <algorithm>
 #include <array>
-#include <iostream>
+#include <istream>
+#include <ostream>
 
 #include <unistd.h>
 
@@ -93,6 +93,12 @@ bool ShowsColour(int fileDescriptor)
 QString Printable(QString const& text)
 {
     return Engine::WithoutHidden(text, u'?');
+}
+
+QString WithoutFullStop(QString sentence)
+{
+    sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
+    return sentence;
 }
 
 QString CountOf(std::size_t count, QString const& singular)

@@ -92,6 +92,9 @@ struct Console
 /// \a text on one line: hidden characters (SafeText.h) become "?".
 QString Printable(QString const& text);
 
+/// \a sentence as the part of another one.
+QString WithoutFullStop(QString sentence);
+
 /// True if \a text ends with one of \a endings, in any case.
 template <std::size_t N>
 [[nodiscard]] bool EndsWithOneOf(QString const& text, char const* const (&endings)[N])

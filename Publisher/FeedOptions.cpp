@@ -1,7 +1,7 @@
 #include "Publisher/FeedOptions.h"
 
+#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/choice/ClientOptions.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
 #include "Publisher/keys/KeyId.h"
 
@@ -27,15 +27,6 @@ QStringList ChannelsOf(InstallationOptions const& options)
     return channels;
 }
 
-} // namespace
-
-void AddPlatformOption(CLI::App& verb, std::string& platform)
-{
-    verb.add_option("--platform", platform, "Whose items count")
-        ->capture_default_str()
-        ->check(CLI::IsMember(PlatformNames()));
-}
-
 void AddInstallationOptions(CLI::App& verb, InstallationOptions& options)
 {
     options.machine = Engine::OwnMachineName().toStdString();
@@ -47,6 +38,20 @@ void AddInstallationOptions(CLI::App& verb, InstallationOptions& options)
     verb.add_option("--at", options.moment,
                     "Moment of the check for a staged rollout, as 2030-01-31T12:00:00Z; default: now")
         ->type_name("TIME");
+}
+
+} // namespace
+
+void AddFeedOption(CLI::App& verb, std::string& feed)
+{
+    verb.add_option("FEED", feed, "Path or address of the feed, or - for standard input")->required();
+}
+
+void AddPlatformOption(CLI::App& verb, std::string& platform)
+{
+    verb.add_option("--platform", platform, "Whose items count")
+        ->capture_default_str()
+        ->check(CLI::IsMember({"macos", "linux"}));
 }
 
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
@@ -98,6 +103,63 @@ void AddPublishedAtOption(CLI::App& verb, std::string& address)
     verb.add_option("--published-at", address,
                     "Address of the published feed, for its relative addresses; default: where it is read")
         ->type_name("URL");
+}
+
+void AddClientOptions(CLI::App& verb, FeedQuestion& question)
+{
+    AddPlatformOption(verb, question.platform);
+    AddInstallationOptions(verb, question.installation);
+    AddPublishedAtOption(verb, question.publishedAt);
+    verb.add_flag("--json", question.isJson, "Print one JSON object");
+}
+
+NamedVersion ParseLocalVersion(QString const& option, QString const& text)
+{
+    Core::Version const version = App::Session::VersionFromStringNoexcept(text);
+    if (!version.IsValid())
+    {
+        throw Refusal({u"%1: \"%2\" is no version"_s.arg(option, text),
+                       u"give one to four numbers with dots between them, such as 5.1.2"_s});
+    }
+    return {text, version};
+}
+
+NamedVersion ParseSystemVersion(QString const& option, QString const& text)
+{
+    return text == QLatin1String(UNKNOWN_SYSTEM) ? NamedVersion{text, Core::Version()}
+                                                 : ParseLocalVersion(option, text);
+}
+
+std::vector<NamedVersion> ParseVersionList(QString const& option, std::string const& text,
+                                           NamedVersion (*parse)(QString const&, QString const&))
+{
+    std::vector<NamedVersion> versions;
+    QStringList const entries = QString::fromStdString(text).split(u',');
+    for (QString const& entry : entries)
+    {
+        versions.push_back(parse(option, entry.trimmed()));
+    }
+    return versions;
+}
+
+ParsedFeed ReadItems(FeedQuestion const& question, std::string const& feedName, QString const& machine,
+                     Console const& console)
+{
+    bool const isMac = question.platform == Engine::NameOf(Engine::FeedPlatform::MacOS).toStdString();
+    ParsedFeed feed{
+        Need(ReadFeed(QString::fromStdString(feedName), QString::fromStdString(question.publishedAt), console)), {}};
+    Engine::FeedParseResult parsed =
+        Engine::ParseFeed(feed.source.bytes, feed.source.address,
+                          {isMac ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux, machine});
+    if (!parsed)
+    {
+        QString const& detail = parsed.error().detail;
+        throw Refusal({feed.source.name, parsed.error().line, parsed.error().column,
+                       parsed.error().sentence.English() + (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
+                       u"pelnar-appcast lint says what to mend"_s});
+    }
+    feed.items = std::move(parsed->items);
+    return feed;
 }
 
 } // namespace Pelnar::Publisher

@@ -1,8 +1,11 @@
-// FeedOptions.h: command-line options that several verbs for feeds share. Ownership: the verb owns the values, which
-// outlive its command line.
+// FeedOptions.h: command-line options that several verbs for feeds share, and what they mean. Ownership: the verb owns
+// the values, which outlive its command line.
 #pragma once
 
+#include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/feed/ReleaseRules.h"
+#include "Publisher/FeedSource.h"
+#include "Publisher/choice/ClientInstallation.h"
 
 #include <QJsonObject>
 
@@ -14,8 +17,6 @@
 namespace Pelnar::Publisher
 {
 
-/// "--platform"; the default is the current value of \a platform.
-void AddPlatformOption(CLI::App& verb, std::string& platform);
 /// The installations of a command line, without their versions and systems.
 struct InstallationOptions
 {
@@ -26,16 +27,49 @@ struct InstallationOptions
     std::vector<std::string> publicKeys; ///< empty: those that the feed names for a version
 };
 
-/// "--machine", "--channels" and "--at".
-void AddInstallationOptions(CLI::App& verb, InstallationOptions& options);
+/// A feed, and the clients about which a verb is asked.
+struct FeedQuestion
+{
+    std::string feed;
+    std::string publishedAt;
+    std::string platform = Engine::NameOf(Engine::FeedPlatform::Linux).toStdString(); ///< of this program
+    InstallationOptions installation;
+    bool isJson = false;
+};
+
+/// "FEED".
+void AddFeedOption(CLI::App& verb, std::string& feed);
+/// "--platform"; the default is the current value of \a platform.
+void AddPlatformOption(CLI::App& verb, std::string& platform);
+/// "--published-at".
+void AddPublishedAtOption(CLI::App& verb, std::string& address);
+/// "--platform", "--machine", "--channels", "--at", "--published-at" and "--json".
+void AddClientOptions(CLI::App& verb, FeedQuestion& question);
 /// "--rollout-group".
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options);
+
 /// Throws Refusal.
 [[nodiscard]] Engine::Installation InstallationOf(InstallationOptions const& options);
 /// The members "machine", "channels" and "rolloutGroup" in the JSON of several verbs.
 void AddInstallation(QJsonObject& object, InstallationOptions const& options);
 
-/// "--published-at".
-void AddPublishedAtOption(CLI::App& verb, std::string& address);
+/// Throws Refusal for a text that is not a version. \a option is named in the message.
+[[nodiscard]] NamedVersion ParseLocalVersion(QString const& option, QString const& text);
+/// As ParseLocalVersion; "unknown" is the invalid version.
+[[nodiscard]] NamedVersion ParseSystemVersion(QString const& option, QString const& text);
+/// A list of entries with commas between them, each read by one of the two functions above. Throws Refusal for an empty
+/// entry.
+[[nodiscard]] std::vector<NamedVersion> ParseVersionList(QString const& option, std::string const& text,
+                                                         NamedVersion (*parse)(QString const&, QString const&));
+
+struct ParsedFeed
+{
+    FeedBytes source;
+    std::vector<Engine::FeedItem> items;
+};
+
+/// Reads and parses \a feed, that of \a question or another one, as clients on \a machine do. Throws Refusal.
+[[nodiscard]] ParsedFeed ReadItems(FeedQuestion const& question, std::string const& feed, QString const& machine,
+                                   Console const& console);
 
 } // namespace Pelnar::Publisher

@@ -8,8 +8,6 @@
 #include <QStringList>
 
 #include <functional>
-#include <optional>
-#include <string>
 
 namespace Pelnar::Settings
 {

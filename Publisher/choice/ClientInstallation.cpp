@@ -9,6 +9,11 @@ namespace Pelnar::Publisher
 
 using App::Session::VersionFromStringNoexcept;
 
+Core::Version WholeVersion(QString const& text)
+{
+    return Core::Util::ShrinkVersion(VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
+}
+
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation)
 {
     installation.version =

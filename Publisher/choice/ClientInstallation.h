@@ -21,6 +21,19 @@ struct Client
     PreviousAnswer previousAnswer = PreviousAnswer::NONE;
 };
 
+/// Names a system whose version the client cannot read. Such a client ignores the bounds of items.
+constexpr char const* UNKNOWN_SYSTEM = "unknown";
+
+/// A version as text and as the client reads it.
+struct NamedVersion
+{
+    QString text;
+    Core::Version version;
+};
+
+/// The version that the session reads in \a text, all four components present; invalid if it reads none.
+Core::Version WholeVersion(QString const& text);
+
 /// \a installation with the version of \a client.
 Engine::Installation InstallationOf(Client const& client, Engine::Installation installation);
 /// \a installation with the version of \a client. Also adds the keys that \a items name for this version, unless it

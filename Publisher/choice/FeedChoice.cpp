@@ -77,7 +77,7 @@ struct FullItem
         isStaged = time.isValid() && installation.now < time;
         for (FeedItem const& delta : item.deltas)
         {
-            deltaStarts.push_back(WholeVersionOf(VersionFromStringNoexcept(delta.deltaFrom)));
+            deltaStarts.push_back(WholeVersion(delta.deltaFrom));
         }
     }
 
@@ -276,11 +276,10 @@ FeedChooser::~FeedChooser() = default;
 
 void FeedChooser::Data::TakeKeys(FeedItem const& item)
 {
-    Core::Version const version =
-        item.trustedKeys.isEmpty() ? Core::Version() : VersionFromStringNoexcept(item.versionString);
+    Core::Version const version = item.trustedKeys.isEmpty() ? Core::Version() : WholeVersion(item.versionString);
     if (version.IsValid())
     {
-        trusted.try_emplace(WholeVersionOf(version), item.trustedKeys);
+        trusted.try_emplace(version, item.trustedKeys);
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QVariantMap>
 
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace Pelnar::Publisher

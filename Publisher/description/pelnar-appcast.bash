@@ -51,10 +51,10 @@ _pelnar_appcast()
     if [ -z "$words" ]; then
         case "$verb" in
             "") words="explain lint matrix diff simulate timeline keys sign verify generate check-release sign-feed promote withdraw edit-notes prune delta serve -h --help --version" ;;
-            "explain") words="-h --help --local-version --system-version --platform --machine --channels --at --rollout-group --public-key --published-at --after-delta --json" ;;
+            "explain") words="-h --help --local-version --system-version --platform --machine --channels --at --published-at --json --rollout-group --public-key --after-delta" ;;
             "lint") words="-h --help --published-at --fetch --signed --public-key --root-public-key --previous --baseline --strict --json --sarif --each --rules" ;;
-            "matrix") words="-h --help --versions --systems --platform --machine --channels --at --rollout-group --published-at --expect --json" ;;
-            "diff") words="-h --help --versions --platform --machine --channels --at --rollout-group --published-at --json" ;;
+            "matrix") words="-h --help --versions --systems --platform --machine --channels --at --published-at --json --rollout-group --expect" ;;
+            "diff") words="-h --help --versions --platform --machine --channels --at --published-at --json --rollout-group" ;;
             "simulate") words="-h --help --clients --days --versions --system-version --seed --svg --platform --machine --channels --at --published-at --json" ;;
             "timeline") words="-h --help --json" ;;
             "keys") words="generate show export state rotate -h --help" ;;

@@ -11,15 +11,11 @@ namespace Pelnar::Publisher
 namespace
 {
 
-struct DiffOptions
+/// Its feed is the old one.
+struct DiffOptions : FeedQuestion
 {
-    std::string oldFeed;
     std::string newFeed;
-    std::string publishedAt;
-    std::string platform = OwnPlatformName().toStdString();
-    InstallationOptions installation;
     std::string versions;
-    bool isJson = false;
 };
 
 QJsonObject JsonOf(std::vector<OutcomeChange> const& changes, QString const& oldName, QString const& newName,
@@ -51,22 +47,19 @@ QJsonArray JsonOf(std::vector<ItemChange> const& changes)
 
 ExitStatus Diff(DiffOptions const& options, Console const& console)
 {
-    QString const platform = QString::fromStdString(options.platform);
-    QString const publishedAt = QString::fromStdString(options.publishedAt);
     Engine::Installation const installation = InstallationOf(options.installation);
-    Engine::FeedTarget const target(PlatformFromName(platform), installation.machine);
-    ParsedFeed const before = ReadItems(QString::fromStdString(options.oldFeed), publishedAt, target, console);
-    ParsedFeed const after = ReadItems(QString::fromStdString(options.newFeed), publishedAt, target, console);
+    ParsedFeed const before = ReadItems(options, options.feed, installation.machine, console);
+    ParsedFeed const after = ReadItems(options, options.newFeed, installation.machine, console);
     std::vector<NamedVersion> const versions =
-        options.versions.empty()
-            ? ClientVersions(before.items, after.items)
-            : ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
+        options.versions.empty() ? ClientVersions(before.items, after.items)
+                                 : ParseVersionList(u"--versions"_s, options.versions, ParseLocalVersion);
     std::vector<OutcomeChange> const changes = DiffFeeds(before.items, after.items, versions, installation);
     std::vector<ItemChange> const itemChanges = DiffItems(before.items, after.items);
     bool const isSame = changes.empty() && itemChanges.empty();
     if (options.isJson)
     {
-        QJsonObject json = JsonOf(changes, before.source.name, after.source.name, platform);
+        QJsonObject json =
+            JsonOf(changes, before.source.name, after.source.name, QString::fromStdString(options.platform));
         json.insert(u"items"_s, JsonOf(itemChanges));
         AddInstallation(json, options.installation);
         console.PrintJson(json);
@@ -90,17 +83,14 @@ void AddDiff(CLI::App& program, VerbContext& context)
     auto const [verb, options] = AddVerb<DiffOptions>(
         program, context, "diff",
         "Compares two feeds by effect: which installed versions on which systems get something else", Diff);
-    verb.add_option("OLD", options.oldFeed, "Path or address of the feed as it was")->required();
+    verb.add_option("OLD", options.feed, "Path or address of the feed as it was")->required();
     verb.add_option("NEW", options.newFeed, "Path or address of the feed as it will be, or - for standard input")
         ->required();
     verb.add_option("--versions", options.versions,
                     "Installed versions with commas between them; default: all that either feed names, and 0")
         ->type_name("LIST");
-    AddPlatformOption(verb, options.platform);
-    AddInstallationOptions(verb, options.installation);
+    AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
-    AddPublishedAtOption(verb, options.publishedAt);
-    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

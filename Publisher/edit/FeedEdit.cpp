@@ -1,8 +1,7 @@
 #include "Publisher/edit/FeedEdit.h"
 
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/choice/ClientInstallation.h"
 
 #include <QXmlStreamReader>
 
@@ -18,9 +17,8 @@ constexpr Engine::FeedPlatform PLATFORMS[] = {Engine::FeedPlatform::Linux, Engin
 
 bool IsSame(QString const& a, QString const& b)
 {
-    Core::Version const first = App::Session::VersionFromStringNoexcept(a);
-    Core::Version const second = App::Session::VersionFromStringNoexcept(b);
-    return first.IsValid() && second.IsValid() ? App::Session::IsSameVersion(first, second) : a == b;
+    Core::Version const version = WholeVersion(a);
+    return version.IsValid() ? version == WholeVersion(b) : a == b;
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/diff/FeedDiff.h"
+#include "Publisher/generate/NewItem.h"
 
 #include <algorithm>
 
@@ -13,11 +14,9 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
-
 bool IsChannel(EditedChild const& child)
 {
-    return child.namespaceUri == FEED_NAMESPACE && child.name == "channel"_l;
+    return child.namespaceUri == QLatin1String(Engine::FEED_NAMESPACE) && child.name == "channel"_l;
 }
 
 bool IsDescription(EditedChild const& child)
@@ -27,16 +26,8 @@ bool IsDescription(EditedChild const& child)
 
 QString ChannelText(QString const& channel)
 {
-    return u"<sparkle:channel xmlns:sparkle=\"%1\">%2</sparkle:channel>"_s.arg(FEED_NAMESPACE, channel.toHtmlEscaped());
-}
-
-QString DescriptionText(ReleaseNotes const& notes)
-{
-    QString html = notes.html;
-    html.replace("]]>"_l, "]]]]><![CDATA[>"_l);
-    QString const language =
-        notes.language.isEmpty() ? QString() : u" xml:lang=\"%1\""_s.arg(notes.language.toHtmlEscaped());
-    return u"<description%1><![CDATA[%2]]></description>"_s.arg(language, html);
+    return u"<sparkle:channel xmlns:sparkle=\"%1\">%2</sparkle:channel>"_s.arg(QLatin1String(Engine::FEED_NAMESPACE),
+                                                                               channel.toHtmlEscaped());
 }
 
 /// The readable versions of the items, newest first.

@@ -2,7 +2,6 @@
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/choice/ClientOptions.h"
 #include "Publisher/explain/ExplanationText.h"
 #include "Publisher/gate/CheckReleaseVerb.h"
 
@@ -13,16 +12,11 @@ namespace Pelnar::Publisher
 namespace
 {
 
-struct ExplainOptions
+struct ExplainOptions : FeedQuestion
 {
-    std::string feed;
-    std::string publishedAt;
     std::string localVersion;
     std::string systemVersion;
-    std::string platform = OwnPlatformName().toStdString();
-    InstallationOptions installation;
     bool isAfterDelta = false;
-    bool isJson = false;
 };
 
 ExitStatus Explain(ExplainOptions const& options, Console const& console)
@@ -31,12 +25,11 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
     NamedVersion const system =
         ParseSystemVersion(u"--system-version"_s, QString::fromStdString(options.systemVersion));
     Engine::Installation const installation = InstallationOf(options.installation);
-    QString const platform = QString::fromStdString(options.platform);
-    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                                      {PlatformFromName(platform), installation.machine}, console);
+    ParsedFeed const feed = ReadItems(options, options.feed, installation.machine, console);
     PreviousAnswer const previous = options.isAfterDelta ? PreviousAnswer::DELTA : PreviousAnswer::NONE;
     Explanation const explanation = ExplainFeed(feed.items, {local.version, system.version, previous}, installation);
-    ExplainQuestion const question{feed.source.name, local.text, system.text, platform, previous};
+    ExplainQuestion const question{feed.source.name, local.text, system.text, QString::fromStdString(options.platform),
+                                   previous};
     if (options.isJson)
     {
         QJsonObject json = JsonOf(explanation, question);
@@ -57,7 +50,7 @@ void AddExplain(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<ExplainOptions>(
         program, context, "explain", "Says which item a client takes, and why not each of the others", Explain);
-    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    AddFeedOption(verb, options.feed);
     verb.add_option("--local-version", options.localVersion, "Installed version of the application")
         ->required()
         ->type_name("V");
@@ -65,16 +58,13 @@ void AddExplain(CLI::App& program, VerbContext& context)
                     "Version of the client's operating system, or \"unknown\"")
         ->required()
         ->type_name("V");
-    AddPlatformOption(verb, options.platform);
-    AddInstallationOptions(verb, options.installation);
+    AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
     AddPublicKeysOption(verb, options.installation.publicKeys,
                         "Key that the client trusts, in base64; may be given again; default: those that the feed says "
                         "its version trusts");
-    AddPublishedAtOption(verb, options.publishedAt);
     verb.add_flag("--after-delta", options.isAfterDelta,
                   "Answer as when the client has been given a delta and asks for a full item to fall back on");
-    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

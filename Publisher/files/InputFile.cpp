@@ -5,7 +5,6 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>

@@ -1,7 +1,6 @@
 #include "Publisher/gate/GatedVersion.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/check/KeyStatement.h"
 #include "Engine/core/feed/ReleaseRules.h"
@@ -13,11 +12,6 @@ namespace Pelnar::Publisher
 {
 namespace
 {
-
-Core::Version WholeVersion(QString const& text)
-{
-    return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
-}
 
 /// The machine in the header of the program in \a bundle. Empty for another system, a script, and a program that the
 /// gate refuses.
@@ -37,16 +31,6 @@ QStringList MachinesOf(BundleTree const& bundle)
         }
     }
     return bundle.Platform() == Engine::FeedPlatform::Linux && machines.size() == 1 ? machines : QStringList();
-}
-
-QStringList TextsOf(std::vector<std::string> const& ids)
-{
-    QStringList texts;
-    for (std::string const& id : ids)
-    {
-        texts.append(QString::fromStdString(id));
-    }
-    return texts;
 }
 
 } // namespace
@@ -98,7 +82,7 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     // With a root key, the feed's key statement says which keys clients trust, and it can change.
     if (information.rootPublicKey.empty())
     {
-        version.trustedIds = TextsOf(version.bundle->publicKeys.Ids());
+        version.trustedIds = KeyIdsOf(version.bundle->publicKeys);
     }
     else if (KeyIdOf(information.rootPublicKey).isEmpty())
     {
@@ -129,7 +113,7 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
     Engine::TrustedKeys const& keys = believed->keys;
     bundle.knownKeys = bundle.publicKeys.Texts();
     bundle.knownKeys.insert(bundle.knownKeys.end(), keys.Texts().begin(), keys.Texts().end());
-    version.trustedIds = TextsOf(keys.Ids());
+    version.trustedIds = KeyIdsOf(keys);
 }
 
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)

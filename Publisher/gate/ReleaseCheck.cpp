@@ -231,19 +231,6 @@ private:
         return BundleTree::Unpack(file, BarFor(bar));
     }
 
-    static void CheckLength(InputFile const& file, FeedItem const& item)
-    {
-        if (file.size != item.contentLength)
-        {
-            throw Refusal({file.name,
-                           u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
-                               .arg(item.contentLength)
-                               .arg(item.line),
-                           u"put the published file back, and give a changed one a new version and name"_s},
-                          RefusalCause::Content);
-        }
-    }
-
     /// The ids of the keys that signed. The feed must name them correctly, because clients choose the signature by
     /// them.
     QStringList CheckSignatures(InputFile const& file, FeedItem const& item) const

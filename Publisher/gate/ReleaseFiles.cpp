@@ -44,6 +44,19 @@ std::optional<std::string> SignerOf(InputFile const& file, QString const& signat
     return signer == publicKeys.end() ? std::optional<std::string>() : *signer;
 }
 
+void CheckLength(InputFile const& file, Engine::FeedItem const& item)
+{
+    if (file.size != item.contentLength)
+    {
+        throw Refusal({file.name,
+                       u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
+                           .arg(item.contentLength)
+                           .arg(item.line),
+                       u"put the published file back, and give a changed one a new version and name"_s},
+                      RefusalCause::Content);
+    }
+}
+
 ReleaseFiles::ReleaseFiles(QString folder, Console const& console) : m_folder(std::move(folder)), m_console(console) {}
 
 std::optional<InputFile> ReleaseFiles::Open(Engine::FeedItem const& item)
@@ -63,11 +76,11 @@ InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
     Engine::DownloadOutcome outcome = FetchDownload(item, QFile::decodeName(m_fetched.Path().c_str()), m_console);
     if (!outcome)
     {
-        QString sentence = outcome.error().sentence.English();
-        sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
-        throw Refusal({name, u"cannot be fetched as the feed says it is: "_s + sentence,
-                       u"upload the very file that was signed, before the feed"_s},
-                      RefusalCause::Content);
+        throw Refusal(
+            {name,
+             u"cannot be fetched as the feed says it is: "_s + WithoutFullStop(outcome.error().sentence.English()),
+             u"upload the very file that was signed, before the feed"_s},
+            RefusalCause::Content);
     }
     struct stat status;
     if (::fstat(outcome->Get(), &status) != 0)

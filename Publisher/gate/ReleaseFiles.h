@@ -22,6 +22,9 @@ Engine::DownloadOutcome FetchDownload(Engine::FeedItem const& item, QString cons
 std::optional<std::string> SignerOf(InputFile const& file, QString const& signature,
                                     std::vector<std::string> const& publicKeys);
 
+/// Throws Refusal unless \a file, the download of \a item, is as long as the feed says.
+void CheckLength(InputFile const& file, Engine::FeedItem const& item);
+
 class ReleaseFiles
 {
 public:

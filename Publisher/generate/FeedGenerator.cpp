@@ -29,7 +29,6 @@ namespace
 
 constexpr char FEED_FILE[] = "appcast.xml";
 QString const FEED_PREFIX = u"sparkle"_s;
-QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 
 /// The time of a reproducible build, otherwise now. Never the time of an archive, because a checkout or a copy changes
 /// it. Throws Refusal.
@@ -85,7 +84,7 @@ std::vector<Addition> AdditionsOf(std::vector<NewItem> const& items, PublishedFe
         QString text = ItemText(item, address, prefix, feed.Indentation());
         if (feed.FeedPrefix().isEmpty())
         {
-            text.insert(u"<item"_s.size(), u" xmlns:%1=\"%2\""_s.arg(prefix, FEED_NAMESPACE));
+            text.insert(u"<item"_s.size(), u" xmlns:%1=\"%2\""_s.arg(prefix, QLatin1String(Engine::FEED_NAMESPACE)));
         }
         additions.push_back({item.version, text});
     }

@@ -12,22 +12,8 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
-
 QString const FILE_PLACE = u"{file}"_s;
 QString const VERSION_PLACE = u"{version}"_s;
-
-char const* PlatformName(Engine::FeedPlatform platform)
-{
-    switch (platform)
-    {
-    case Engine::FeedPlatform::MacOS:
-        return "macos";
-    case Engine::FeedPlatform::Linux:
-        return "linux";
-    }
-    return "";
-}
 
 /// The item's kind of installation; null for a bundle, which has none.
 char const* InstallationType(ArchiveKind kind)
@@ -61,12 +47,6 @@ QString Element(QString const& name, QString const& text)
     return u"<%1>%2</%1>"_s.arg(name, text.toHtmlEscaped());
 }
 
-/// A CDATA section with \a text, for any text.
-QString CharacterData(QString text)
-{
-    return u"<![CDATA["_s + text.replace("]]>"_l, "]]]]><![CDATA[>"_l) + u"]]>"_s;
-}
-
 /// The lines of one item.
 class ItemWriter
 {
@@ -87,8 +67,7 @@ public:
         }
         for (ReleaseNotes const& notes : m_item.notes)
         {
-            QString const language = notes.language.isEmpty() ? QString() : Attribute(u"xml:lang"_s, notes.language);
-            lines << Inner(u"<description%1>%2</description>"_s.arg(language, CharacterData(notes.html)));
+            lines << Inner(DescriptionText(notes));
         }
         lines << Inner(EnclosureText());
         if (m_item.recompressed)
@@ -143,7 +122,7 @@ private:
     QString Enclosure(QString const& element, QString const& fileName, QString const& more,
                       ArchiveSignature const& signature) const
     {
-        QString const platform = Attribute(m_feed + u"os"_s, QLatin1String(PlatformName(m_item.platform)));
+        QString const platform = Attribute(m_feed + u"os"_s, Engine::NameOf(m_item.platform));
         QString const machine =
             m_item.machines.isEmpty() ? QString() : Attribute(u"pelnar:machine"_s, m_item.machines.join(u' '));
         bool const isOwn = element != "enclosure"_l || !machine.isEmpty() || !signature.all.empty();
@@ -210,6 +189,14 @@ QUrl DownloadAddress::OfFeed(QString const& fileName) const
     return isFolder ? Of(fileName, {}) : Of({}, {}).resolved(QUrl(u'/' + fileName));
 }
 
+QString DescriptionText(ReleaseNotes const& notes)
+{
+    QString html = notes.html;
+    html.replace("]]>"_l, "]]]]><![CDATA[>"_l);
+    QString const language = notes.language.isEmpty() ? QString() : Attribute(u"xml:lang"_s, notes.language);
+    return u"<description%1><![CDATA[%2]]></description>"_s.arg(language, html);
+}
+
 QString ItemText(NewItem const& item, DownloadAddress const& address, QString const& feedPrefix,
                  QString const& indentation)
 {
@@ -220,7 +207,7 @@ QString EmptyFeedText(QString const& title, QString const& link)
 {
     return u"<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<rss version=\"2.0\" xmlns:sparkle=\"%1\">\n"
            "  <channel>\n    %2\n    %3\n    %4\n  </channel>\n</rss>\n"_s.arg(
-               FEED_NAMESPACE, Element(u"title"_s, title), Element(u"link"_s, link),
+               QLatin1String(Engine::FEED_NAMESPACE), Element(u"title"_s, title), Element(u"link"_s, link),
                Element(u"description"_s, u"Updates of "_s + title));
 }
 

@@ -75,6 +75,9 @@ private:
     QString m_pattern;
 };
 
+/// The element for \a notes.
+QString DescriptionText(ReleaseNotes const& notes);
+
 /// The item's text, without outer blanks. Its lines are indented below \a indentation. \a feedPrefix is bound to the
 /// feed's namespace at the item's place.
 QString ItemText(NewItem const& item, DownloadAddress const& address, QString const& feedPrefix,

@@ -36,16 +36,7 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     Engine::FeedItem const& item = *published.item;
     QString const path = m_workplace.PathOf(published.archive.fileName);
     InputFile const file = OpenInputFile(path);
-    QString const mend = u"put the published file back, and give a changed one a new version and name"_s;
-    if (file.size != item.contentLength)
-    {
-        throw Refusal({path,
-                       u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
-                           .arg(item.contentLength)
-                           .arg(item.line),
-                       mend},
-                      RefusalCause::Content);
-    }
+    CheckLength(file, item);
     Progress bar(m_workplace.console.err, u"Verifying"_s);
     bar.Show(0, 1); // the verdict comes immediately
     std::vector<std::string> keys = m_workplace.publicKeys;
@@ -57,11 +48,12 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     }
     if (!signer)
     {
-        throw Refusal({path,
-                       u"does not bear the published signature (line %1 of the feed) by this key or by "
-                       "any that a bundle at hand trusts"_s.arg(item.line),
-                       mend + u"; what another key signed needs that key as --public-key"_s},
-                      RefusalCause::Content);
+        throw Refusal(
+            {path,
+             u"does not bear the published signature (line %1 of the feed) by this key or by "
+             "any that a bundle at hand trusts"_s.arg(item.line),
+             u"put the published file back, and give a changed one a new version and name; what another key signed needs that key as --public-key"_s},
+            RefusalCause::Content);
     }
     m_signerIds[published.archive.fileName] = KeyIdOf(*signer);
 }

@@ -1,8 +1,8 @@
 #include "Publisher/generate/PublishedFeed.h"
 
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/choice/ClientInstallation.h"
 
 #include <QXmlStreamReader>
 
@@ -13,7 +13,6 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const FEED_NAMESPACE = u"http://www.andymatuschak.org/xml-namespaces/sparkle"_s;
 constexpr char BYTE_ORDER_MARK[] = "\xEF\xBB\xBF";
 constexpr Engine::FeedPlatform PLATFORMS[] = {Engine::FeedPlatform::MacOS, Engine::FeedPlatform::Linux};
 
@@ -64,9 +63,7 @@ void PublishedFeed::TakeItems(Engine::FeedTarget const& target, QUrl const& addr
             known->platforms.insert(target.platform);
             continue;
         }
-        Core::Version const version = App::Session::VersionFromStringNoexcept(item.versionString);
-        m_items.push_back(
-            {item, {target.platform}, Core::Util::ShrinkVersion(version, Core::Version::COMPONENT_COUNT), -1});
+        m_items.push_back({item, {target.platform}, WholeVersion(item.versionString), -1});
     }
 }
 
@@ -85,7 +82,7 @@ void PublishedFeed::FindItems()
             for (QXmlStreamNamespaceDeclaration const& declaration : reader.namespaceDeclarations())
             {
                 bool const holdsItems = path.size() <= 2 && !declaration.prefix().isEmpty();
-                if (holdsItems && declaration.namespaceUri() == FEED_NAMESPACE)
+                if (holdsItems && declaration.namespaceUri() == QLatin1String(Engine::FEED_NAMESPACE))
                 {
                     m_feedPrefix = declaration.prefix().toString();
                 }

@@ -1,6 +1,5 @@
 #include "Publisher/generate/Workplace.h"
 
-#include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
@@ -114,11 +113,6 @@ Engine::FeedItem const* Workplace::FindPublished(PublishedFeed const& feed, QStr
         }
     }
     return sameName;
-}
-
-Core::Version WholeVersion(QString const& text)
-{
-    return Core::Util::ShrinkVersion(App::Session::VersionFromStringNoexcept(text), Core::Version::COMPONENT_COUNT);
 }
 
 } // namespace Pelnar::Publisher

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Publisher/Console.h"
+#include "Publisher/choice/ClientInstallation.h"
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/BundleTree.h"
 #include "Publisher/generate/FolderScan.h"
@@ -50,8 +51,5 @@ struct Workplace
 
     mutable std::deque<std::pair<QString, std::shared_ptr<BundleTree const>>> unpacked = {}; ///< the newest first
 };
-
-/// The version that the session reads in \a text, all four components present; invalid if it reads none.
-Core::Version WholeVersion(QString const& text);
 
 } // namespace Pelnar::Publisher

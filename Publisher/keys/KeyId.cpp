@@ -1,13 +1,21 @@
 #include "Publisher/keys/KeyId.h"
 
-#include "Engine/core/bundle/TrustedKeys.h"
-
 namespace Pelnar::Publisher
 {
 
 QString KeyIdOf(std::string const& publicKey)
 {
     return QString::fromStdString(Engine::KeyIdOf(publicKey));
+}
+
+QStringList KeyIdsOf(Engine::TrustedKeys const& keys)
+{
+    QStringList ids;
+    for (std::string const& id : keys.Ids())
+    {
+        ids.append(QString::fromStdString(id));
+    }
+    return ids;
 }
 
 } // namespace Pelnar::Publisher

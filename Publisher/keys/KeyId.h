@@ -2,7 +2,9 @@
 // docs/formats/item-keys.md.
 #pragma once
 
-#include <QString>
+#include "Engine/core/bundle/TrustedKeys.h"
+
+#include <QStringList>
 
 #include <string>
 
@@ -11,5 +13,7 @@ namespace Pelnar::Publisher
 
 /// Engine::KeyIdOf for the publisher's strings.
 QString KeyIdOf(std::string const& publicKey);
+/// The ids of \a keys.
+QStringList KeyIdsOf(Engine::TrustedKeys const& keys);
 
 } // namespace Pelnar::Publisher

@@ -2,8 +2,8 @@
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
-#include "Publisher/choice/ClientOptions.h"
 #include "Publisher/choice/FeedChoice.h"
+#include "Publisher/keys/KeyId.h"
 #include "Publisher/signfeed/FeedSigner.h"
 
 namespace Pelnar::Publisher
@@ -11,12 +11,10 @@ namespace Pelnar::Publisher
 namespace
 {
 
-struct Options
+struct Options : FeedQuestion
 {
-    std::string feed;
     std::string oldKey;
     std::string newKey;
-    std::string platform = OwnPlatformName().toStdString();
 };
 
 /// The versions of a feed by their relation to the two keys, in the order of the feed.
@@ -33,8 +31,8 @@ struct RotationState
 
 RotationState StateOf(ParsedFeed const& feed, Options const& options)
 {
-    QString const oldId = QString::fromStdString(Engine::KeyIdOf(options.oldKey));
-    QString const newId = QString::fromStdString(Engine::KeyIdOf(options.newKey));
+    QString const oldId = KeyIdOf(options.oldKey);
+    QString const newId = KeyIdOf(options.newKey);
     RotationState state;
     for (Engine::FeedItem const& item : feed.items)
     {
@@ -126,9 +124,7 @@ ExitStatus Rotate(Options const& options, Console const& console)
     {
         throw Refusal({u"--to"_s, u"is the same key as --from"_s, u"make a new key with \"keys generate\""_s});
     }
-    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString(),
-                                      PlatformFromName(QString::fromStdString(options.platform)), console);
-    Print(StateOf(feed, options), console);
+    Print(StateOf(ReadItems(options, options.feed, {}, console), options), console);
     return ExitStatus::Clean;
 }
 
@@ -141,7 +137,7 @@ void AddRotate(CLI::App& keys, VerbContext& context)
         "Say how far a feed is in the change from one signing key to another, what the next step is, and which "
         "installed versions must be gone before it",
         Rotate);
-    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    AddFeedOption(verb, options.feed);
     auto const isKey = [](std::string const& text)
     { return Engine::KeyIdOf(text).empty() ? text + " is no Ed25519 key" : std::string(); };
     verb.add_option("--from", options.oldKey, "The public key that signs until now, in base64")

@@ -17,9 +17,8 @@ using App::Session::VersionFromStringNoexcept;
 
 bool IsSame(QString const& textA, QString const& textB)
 {
-    Core::Version const a = VersionFromStringNoexcept(textA);
-    Core::Version const b = VersionFromStringNoexcept(textB);
-    return a.IsValid() && b.IsValid() && App::Session::IsSameVersion(a, b);
+    Core::Version const version = WholeVersion(textA);
+    return version.IsValid() && version == WholeVersion(textB);
 }
 
 /// The parser leaves such a delta out.

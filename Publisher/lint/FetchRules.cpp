@@ -92,11 +92,10 @@ private:
     void ReportError(LintDownload const& download, Engine::EngineError const& error)
     {
         bool const isLength = error.cause == ErrorCause::DownloadLengthDiffers;
-        QString sentence = error.sentence.English();
-        sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
                u"%1, of %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded),
-                                                        QString::number(download.item->contentLength), sentence));
+                                                        QString::number(download.item->contentLength),
+                                                        WithoutFullStop(error.sentence.English())));
     }
 
     void CheckSignature(LintDownload const& download, int descriptor)
@@ -172,10 +171,9 @@ private:
         Engine::FetchOutcome const outcome = FetchAddress(address);
         if (outcome.error)
         {
-            QString sentence = outcome.error->sentence.English();
-            sentence.chop(sentence.endsWith(u'.') ? 1 : 0);
             m_findings.Add(LintRule::NotesUnreachable, link.place,
-                           u"%1: %2"_s.arg(address.toString(QUrl::FullyEncoded), sentence));
+                           u"%1: %2"_s.arg(address.toString(QUrl::FullyEncoded),
+                                           WithoutFullStop(outcome.error->sentence.English())));
         }
     }
 

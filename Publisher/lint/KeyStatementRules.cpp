@@ -5,6 +5,7 @@
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/feed/SignedFeed.h"
 #include "Publisher/choice/FeedChoice.h"
+#include "Publisher/keys/KeyId.h"
 #include "Publisher/lint/SignatureRules.h"
 
 #include <algorithm>
@@ -34,16 +35,6 @@ std::optional<PlacedStatement> StatementIn(QByteArray const& bytes)
 QString TextOf(QStringList const& ids)
 {
     return ids.join(u" and "_s);
-}
-
-QStringList IdsOf(Engine::TrustedKeys const& keys)
-{
-    QStringList ids;
-    for (std::string const& id : keys.Ids())
-    {
-        ids.append(QString::fromStdString(id));
-    }
-    return ids;
 }
 
 /// Whether clients of \a other, and of everything older, are as well off without \a item.
@@ -98,8 +89,9 @@ void CheckFeedSigner(QByteArray const& bytes, Engine::TrustedKeys const& valid, 
     if (feed.fault == Engine::SignedFeedFault::None &&
         Engine::VerifySignature(content, feed.signature, valid) != Engine::UpdateFault::None)
     {
-        findings.Add(LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
-                     u"the feed itself is signed by none of the keys that are valid, %1"_s.arg(TextOf(IdsOf(valid))));
+        findings.Add(
+            LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
+            u"the feed itself is signed by none of the keys that are valid, %1"_s.arg(TextOf(KeyIdsOf(valid))));
     }
 }
 
@@ -184,7 +176,7 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
     CheckFeedSigner(bytes, placed->statement.validKeys, findings);
     if (subject)
     {
-        CheckItems(*subject, IdsOf(placed->statement.validKeys), findings);
+        CheckItems(*subject, KeyIdsOf(placed->statement.validKeys), findings);
     }
     return findings.Sorted();
 }
@@ -197,7 +189,7 @@ std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const&
     {
         return {};
     }
-    QStringList const valid = IdsOf(placed->statement.validKeys);
+    QStringList const valid = KeyIdsOf(placed->statement.validKeys);
     std::vector<std::string> const& revoked = placed->statement.revoked;
     QStringList used;
     for (LintPlatform const& platform : subject.platforms)

@@ -2,6 +2,7 @@
 
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleaseRules.h"
+#include "Publisher/Console.h"
 
 #include <algorithm>
 #include <set>
@@ -35,19 +36,7 @@ LintRule RuleOf(ErrorCause cause)
 LintFinding FindingOf(Engine::FeedParseError const& error)
 {
     QString const what = error.detail.isEmpty() ? error.sentence.English() : error.detail;
-    return {RuleOf(error.cause), {error.line, error.column}, what.endsWith(u'.') ? what.left(what.size() - 1) : what};
-}
-
-char const* SystemName(FeedPlatform platform)
-{
-    switch (platform)
-    {
-    case FeedPlatform::MacOS:
-        return "macos";
-    case FeedPlatform::Linux:
-        return "linux";
-    }
-    return "";
+    return {RuleOf(error.cause), {error.line, error.column}, WithoutFullStop(what)};
 }
 
 QStringList MachinesOf(LintElement const& enclosure)
@@ -62,9 +51,9 @@ LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement co
     for (LintElement const& child : item.children)
     {
         std::optional<QString> const system = child.FeedAttribute("os");
-        bool const isForPlatform = child.name.IsPlain("enclosure") &&
-                                   (!system || system->trimmed().compare(QLatin1String(SystemName(target.platform)),
-                                                                         Qt::CaseInsensitive) == 0);
+        bool const isForPlatform =
+            child.name.IsPlain("enclosure") &&
+            (!system || system->trimmed().compare(Engine::NameOf(target.platform), Qt::CaseInsensitive) == 0);
         bool const isBetter = !best || (!Engine::SuitsMachine(MachinesOf(*best), target.machine) &&
                                         Engine::SuitsMachine(MachinesOf(child), target.machine));
         best = isForPlatform && isBetter ? &child : best;
@@ -176,7 +165,7 @@ QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
     }
     std::set<QString> uris;
     FindWrongNamespaces(ReadLintDocument(bytes), uris, findings);
-    QByteArray const right = "http://www.andymatuschak.org/xml-namespaces/sparkle";
+    QByteArray const right = Engine::FEED_NAMESPACE;
     for (QString const& uri : uris)
     {
         for (char const quote : {'"', '\''})

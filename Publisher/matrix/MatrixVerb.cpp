@@ -15,16 +15,11 @@ namespace
 
 constexpr char const* FROM_FEED = "from-feed";
 
-struct MatrixOptions
+struct MatrixOptions : FeedQuestion
 {
-    std::string feed;
-    std::string publishedAt;
-    std::string platform = OwnPlatformName().toStdString();
-    InstallationOptions installation;
     std::string versions;
     std::string systems;
     std::string expectation;
-    bool isJson = false;
 };
 
 using Versions = std::vector<NamedVersion>;
@@ -72,7 +67,7 @@ Versions InstalledVersions(MatrixOptions const& options, std::vector<ExpectedCel
     {
         return Of(expected, &ExpectedCell::localVersion);
     }
-    return ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
+    return ParseVersionList(u"--versions"_s, options.versions, ParseLocalVersion);
 }
 
 Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& expected)
@@ -81,7 +76,7 @@ Versions Systems(MatrixOptions const& options, std::vector<ExpectedCell> const& 
     {
         return Of(expected, &ExpectedCell::systemVersion);
     }
-    return ParseVersionList(u"--systems"_s, QString::fromStdString(options.systems), ParseSystemVersion);
+    return ParseVersionList(u"--systems"_s, options.systems, ParseSystemVersion);
 }
 
 ExitStatus Answer(Matrix const& matrix, std::vector<ExpectedCell> const& expected, MatrixOptions const& options,
@@ -122,13 +117,11 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
     }
     std::vector<ExpectedCell> const expected = ReadExpectation(options);
     Engine::Installation const installation = InstallationOf(options.installation);
-    QString const platform = QString::fromStdString(options.platform);
-    ParsedFeed const feed = ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                                      {PlatformFromName(platform), installation.machine}, console);
+    ParsedFeed const feed = ReadItems(options, options.feed, installation.machine, console);
     Matrix matrix = MakeMatrix(feed.items, InstalledVersions(options, expected, feed.items), Systems(options, expected),
                                installation);
     matrix.feed = feed.source.name;
-    matrix.platform = platform;
+    matrix.platform = QString::fromStdString(options.platform);
     return Answer(matrix, expected, options, console);
 }
 
@@ -138,22 +131,19 @@ void AddMatrix(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<MatrixOptions>(
         program, context, "matrix", "Says who gets what: every installed version on every system", ShowMatrix);
-    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    AddFeedOption(verb, options.feed);
     verb.add_option("--versions", options.versions,
                     "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
         ->type_name("LIST");
     verb.add_option("--systems", options.systems,
                     "Versions of the operating system with commas between them; \"unknown\" may be one")
         ->type_name("LIST");
-    AddPlatformOption(verb, options.platform);
-    AddInstallationOptions(verb, options.installation);
+    AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
-    AddPublishedAtOption(verb, options.publishedAt);
     verb.add_option("--expect", options.expectation,
                     "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
                     "defaults")
         ->type_name("FILE");
-    verb.add_flag("--json", options.isJson, "Print one JSON object");
 }
 
 } // namespace Pelnar::Publisher

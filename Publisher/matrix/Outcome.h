@@ -1,7 +1,6 @@
 // Outcome.h: what one client takes from a feed, as a value that can be compared with another feed's.
 #pragma once
 
-#include "Publisher/choice/ClientOptions.h"
 #include "Publisher/choice/FeedChoice.h"
 
 #include <QJsonObject>

@@ -15,19 +15,14 @@ namespace Pelnar::Publisher
 namespace
 {
 
-struct SimulateOptions
+struct SimulateOptions : FeedQuestion
 {
-    std::string feed;
-    std::string publishedAt;
-    std::string platform = OwnPlatformName().toStdString();
-    InstallationOptions installation;
     std::string versions;
     std::string systemVersion = UNKNOWN_SYSTEM;
     std::string picture;
     int clients = 1000;
     int days = 10;
     std::uint32_t seed = 1;
-    bool isJson = false;
 };
 
 /// The moment of the command line, else that of the newest item whose date can be read, else now.
@@ -66,13 +61,10 @@ ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
     request.installation = InstallationOf(options.installation);
     request.systemVersion =
         ParseSystemVersion(u"--system-version"_s, QString::fromStdString(options.systemVersion)).version;
-    ParsedFeed const feed =
-        ReadItems(QString::fromStdString(options.feed), QString::fromStdString(options.publishedAt),
-                  {PlatformFromName(QString::fromStdString(options.platform)), request.installation.machine}, console);
-    request.startVersions =
-        options.versions.empty()
-            ? VersionsOfFeed(feed.items)
-            : ParseVersionList(u"--versions"_s, QString::fromStdString(options.versions), ParseLocalVersion);
+    ParsedFeed const feed = ReadItems(options, options.feed, request.installation.machine, console);
+    request.startVersions = options.versions.empty()
+                                ? VersionsOfFeed(feed.items)
+                                : ParseVersionList(u"--versions"_s, options.versions, ParseLocalVersion);
     if (request.startVersions.empty())
     {
         throw Refusal({feed.source.name, u"names no version to begin with"_s, u"give --versions"_s});
@@ -108,7 +100,7 @@ void AddSimulate(CLI::App& program, VerbContext& context)
         program, context, "simulate",
         "Draws who has which version when: clients that check once a day and take what they are offered",
         RunSimulation);
-    verb.add_option("FEED", options.feed, "Path or address of the feed, or - for standard input")->required();
+    AddFeedOption(verb, options.feed);
     verb.add_option("--clients", options.clients, "How many clients")
         ->type_name("N")
         ->check(CLI::Range(1, 1000000))
@@ -128,10 +120,7 @@ void AddSimulate(CLI::App& program, VerbContext& context)
         ->type_name("NUMBER")
         ->capture_default_str();
     verb.add_option("--svg", options.picture, "Write a picture as well")->type_name("FILE");
-    AddPlatformOption(verb, options.platform);
-    AddInstallationOptions(verb, options.installation);
-    AddPublishedAtOption(verb, options.publishedAt);
-    verb.add_flag("--json", options.isJson, "Print one JSON object");
+    AddClientOptions(verb, options);
 }
 
 } // namespace Pelnar::Publisher

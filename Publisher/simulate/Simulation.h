@@ -1,7 +1,6 @@
 // Simulation.h: who has which version when: clients that check a feed once a day and take what they are offered.
 #pragma once
 
-#include "Publisher/choice/ClientOptions.h"
 #include "Publisher/choice/FeedChoice.h"
 
 #include <QDateTime>

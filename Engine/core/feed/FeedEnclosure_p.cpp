@@ -81,21 +81,15 @@ FeedEnclosure ReadFeedEnclosure(FeedWalker& walker)
     return enclosure;
 }
 
+QString NameOf(FeedPlatform platform)
+{
+    return platform == FeedPlatform::MacOS ? QStringLiteral("macos") : QStringLiteral("linux");
+}
+
 bool IsFor(FeedPlatform platform, FeedEnclosure const& enclosure)
 {
     QString const& operatingSystem = enclosure.operatingSystem;
-    if (operatingSystem.isNull())
-    {
-        return true;
-    }
-    switch (platform)
-    {
-    case FeedPlatform::MacOS:
-        return operatingSystem.compare(QLatin1String("macos"), Qt::CaseInsensitive) == 0;
-    case FeedPlatform::Linux:
-        return operatingSystem.compare(QLatin1String("linux"), Qt::CaseInsensitive) == 0;
-    }
-    return false;
+    return operatingSystem.isNull() || operatingSystem.compare(NameOf(platform), Qt::CaseInsensitive) == 0;
 }
 
 std::vector<FeedSignature> SignaturesIn(FeedEnclosure const& enclosure)

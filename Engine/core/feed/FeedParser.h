@@ -25,6 +25,9 @@ enum class FeedPlatform
     Linux,
 };
 
+/// As sparkle:os names it: "macos", "linux".
+[[nodiscard]] QString NameOf(FeedPlatform platform);
+
 /// Selects an item's enclosure.
 struct FeedTarget
 {
@@ -68,6 +71,8 @@ struct FeedChannel
     QStringList expirations;
 };
 
+/// The namespace of the feed's own names.
+constexpr char FEED_NAMESPACE[] = "http://www.andymatuschak.org/xml-namespaces/sparkle";
 /// The statements in our own elements.
 constexpr char OWN_FEED_NAMESPACE[] = "https://pelnar.example/xml-namespaces/appcast";
 

@@ -11,7 +11,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-QString const FEED_NAMESPACE = QStringLiteral("http://www.andymatuschak.org/xml-namespaces/sparkle");
+QString const FEED_NAMESPACE_TEXT = QLatin1String(FEED_NAMESPACE);
 QLatin1String const FEED_PREFIX("sparkle:");
 constexpr size_t MOST_KNOWN_NAMES = 32;
 
@@ -39,7 +39,7 @@ QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qu
 
 bool IsFeedNamespace(QStringRef namespaceUri)
 {
-    return IsEqual(FEED_NAMESPACE, namespaceUri);
+    return IsEqual(FEED_NAMESPACE_TEXT, namespaceUri);
 }
 
 FeedParseError MakeParseError(ErrorCause cause, int line, int column, int limit)
@@ -201,7 +201,7 @@ QString const& FeedWalker::PropertyName(QStringRef namespaceUri, QStringRef name
     }
     // Most names need one text only: names without a namespace and the feed's own are shown as written.
     knownNames.push_back({IsEqual(otherName, qualifiedName) ? otherName : qualifiedName.toString(),
-                          IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE : namespaceUri.toString(), otherName});
+                          IsFeedNamespace(namespaceUri) ? FEED_NAMESPACE_TEXT : namespaceUri.toString(), otherName});
     return knownNames.back().propertyName;
 }
 

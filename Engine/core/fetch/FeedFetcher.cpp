@@ -4,7 +4,6 @@
 #include "Engine/core/fetch/HttpTransfer.h"
 
 #include <utility>
-#include <variant>
 
 namespace Pelnar::Engine
 {

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
-#include <optional>
 
 #include <openssl/x509_vfy.h>
 

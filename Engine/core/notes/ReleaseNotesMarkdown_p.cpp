@@ -3,7 +3,6 @@
 #include "Engine/core/notes/ReleaseNotesText_p.h"
 #include "Engine/core/notes/ReleaseNotesTokenizer_p.h"
 
-#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>

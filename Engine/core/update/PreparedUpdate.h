@@ -9,7 +9,6 @@
 #include "Engine/core/update/InstallTarget.h"
 
 #include <memory>
-#include <string>
 
 namespace Pelnar::Engine
 {

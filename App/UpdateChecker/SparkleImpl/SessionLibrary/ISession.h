@@ -4,8 +4,6 @@
 
 #include "common/NotNull.h"
 
-#include <memory>
-
 namespace Pelnar::App
 {
 

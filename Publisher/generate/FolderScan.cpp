@@ -181,6 +181,30 @@ std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
     return std::nullopt;
 }
 
+/// The names in \a folder, sorted, without hidden ones and without those that are not UTF-8. Deliberate: not with QDir,
+/// which takes a folder that cannot be read to its end for a smaller one.
+QStringList NamesIn(QString const& folder)
+{
+    QStringList names;
+    std::error_code error;
+    std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
+    for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
+    {
+        QByteArray const bytes = QByteArray::fromStdString(entry->path().filename().string());
+        QString const name = QFile::decodeName(bytes);
+        if (!bytes.startsWith('.') && QFile::encodeName(name) == bytes)
+        {
+            names.append(name);
+        }
+    }
+    if (error)
+    {
+        RefuseFile(folder, u"cannot be read"_s, error.value(), u"check its permissions and its disk"_s);
+    }
+    names.sort();
+    return names;
+}
+
 void RefuseLink(QString const& path)
 {
     if (QFileInfo(path).isSymLink())
@@ -205,13 +229,11 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
         RefuseFile(folder, u"cannot be read"_s, entries.exists() ? EACCES : ENOENT,
                    u"name the folder of the archives"_s);
     }
-    // System files are included: a broken link is one.
-    QStringList names = entries.entryList(QDir::Files | QDir::System, QDir::NoSort);
-    std::sort(names.begin(), names.end());
     std::vector<FolderArchive> archives;
-    for (QString const& name : names)
+    for (QString const& name : NamesIn(folder))
     {
-        if (std::optional<FolderArchive> archive = Classify(name))
+        std::optional<FolderArchive> archive = Classify(name);
+        if (archive && !QFileInfo(PathIn(folder, name)).isDir())
         {
             RefuseLink(PathIn(folder, name));
             archives.push_back(std::move(*archive));
@@ -223,9 +245,7 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
 std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const& stem)
 {
     std::map<QString, NotesFile> byLanguage;
-    QDir const entries(folder);
-    QStringList const names = entries.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot, QDir::Name);
-    for (QString const& name : names)
+    for (QString const& name : NamesIn(folder))
     {
         std::optional<NotesFile> const notes = NotesOf(name, stem);
         if (!notes)

@@ -2,9 +2,12 @@
 
 #include "Publisher/generate/FolderScan.h"
 
-#include "tests/installer/InstallerFixture.h"
+#include "tests/publisher/generate/PublisherFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <QFile>
+#include <QProcess>
 
 namespace Pelnar::Publisher
 {
@@ -59,6 +62,30 @@ TEST(FolderScan, ArchivesComeInTheOrderOfTheirNames)
     ASSERT_EQ(archives.size(), 3u);
     EXPECT_EQ(archives[0].fileName, QStringLiteral("C.zip"));
     EXPECT_EQ(archives[2].fileName, QStringLiteral("b.zip"));
+}
+
+TEST(FolderScan, FolderThatCannotBeReadToItsEndIsNoSmallerOne)
+{
+    QString const strace = QStringLiteral("/usr/bin/strace");
+    if (!QFile::exists(strace))
+    {
+        GTEST_SKIP() << "system calls cannot be traced here";
+    }
+    Testing::PublisherFolder const folder;
+    folder.PutVersion("1.0");
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("ASAN_OPTIONS"), QStringLiteral("detect_leaks=0")); // it traces, too
+    process.setProcessEnvironment(environment);
+    process.start(strace, {QStringLiteral("-f"), QStringLiteral("-qq"), QStringLiteral("-o"),
+                           QStringLiteral("/dev/null"), QStringLiteral("-e"),
+                           QStringLiteral("inject=getdents64:error=EIO:when=1"), Testing::AppcastProgram(),
+                           QStringLiteral("generate"), QString::fromStdString(folder.Path()), QStringLiteral("--key"),
+                           folder.KeyFile(), QStringLiteral("--url-prefix"), QStringLiteral("https://a.example/")});
+    ASSERT_TRUE(process.waitForFinished(30000));
+    std::string const errors = process.readAllStandardError().toStdString();
+    EXPECT_EQ(process.exitCode(), 2) << errors;
+    EXPECT_NE(errors.find("cannot be read: Input/output error"), std::string::npos) << errors;
 }
 
 } // namespace

@@ -2,9 +2,8 @@
 
 #include "Publisher/FeedOptions.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
 #include "Publisher/matrix/Matrix.h"
-
-#include <QFile>
 
 #include <algorithm>
 
@@ -31,13 +30,9 @@ std::vector<ExpectedCell> ReadExpectation(MatrixOptions const& options)
         return {};
     }
     QString const name = QString::fromStdString(options.expectation);
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-    {
-        throw Refusal(
-            {name, u"cannot be read: "_s + file.errorString(), u"give the JSON that an earlier run of matrix wrote"_s});
-    }
-    return ParseExpectation(name, file.readAll());
+    constexpr std::uint64_t MOST_BYTES = 64u << 20;
+    QString const mend = u"give the JSON that an earlier run of matrix wrote"_s;
+    return ParseExpectation(name, ReadInputFile(OpenInputFile(name), MOST_BYTES, mend));
 }
 
 /// The versions of \a cells, each once and in their order.

@@ -13,6 +13,9 @@ namespace
 
 namespace Sites = App::Session::Sites;
 
+constexpr std::size_t MAX_LINE_BYTES = 1u << 20;
+constexpr int MAX_LINES = 10000000;
+
 std::map<int, Core::LogSite const*> const& SitesByLine()
 {
 #define PELNAR_SITE_ENTRY(name, severity, line, prefix) {line, &Sites::name},
@@ -34,10 +37,11 @@ QRegularExpression const& RecordPattern()
 SessionLog ReadSessionLog(std::istream& log)
 {
     SessionLog result;
-    std::string line;
-    for (int number = 1; std::getline(log, line); ++number)
+    std::string line(MAX_LINE_BYTES, '\0');
+    for (int number = 1; number <= MAX_LINES && log.getline(line.data(), std::streamsize(line.size())); ++number)
     {
-        QString text = QString::fromStdString(line);
+        std::streamsize const length = log.gcount() - (log.eof() ? 0 : 1); // without the line's end
+        QString text = QString::fromUtf8(line.data(), int(length));
         text.chop(text.endsWith(u'\r') ? 1 : 0);
         QRegularExpressionMatch const match = RecordPattern().match(text);
         if (!match.hasMatch())

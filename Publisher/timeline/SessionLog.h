@@ -30,7 +30,8 @@ struct SessionLog
     std::vector<SessionRecord> strangers;
 };
 
-/// Reads the lines of a log as the application's logging writes them; all other lines are passed over.
+/// Reads the lines of a log as the application's logging writes them; all other lines are passed over. It stops before
+/// the end of \a log at a line of a mebibyte, and after ten million lines: no log has them.
 SessionLog ReadSessionLog(std::istream& log);
 
 /// The part of a signature that names the operation: "Lock", "updater:didFindValidUpdate:".

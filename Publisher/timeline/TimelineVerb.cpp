@@ -1,6 +1,7 @@
 #include "Publisher/Verb.h"
 
 #include "Publisher/Refusal.h"
+#include "Publisher/files/InputFile.h"
 #include "Publisher/timeline/Timeline.h"
 
 #include <QJsonArray>
@@ -73,6 +74,13 @@ QJsonObject JsonOf(Timeline const& timeline, QString const& name)
 ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& options, Console const& console)
 {
     Timeline const timeline = RebuildTimeline(ReadSessionLog(log));
+    if (!log.eof())
+    {
+        return console.Refuse(
+            {name,
+             log.bad() ? u"cannot be read to its end"_s : u"has a line of more than a mebibyte, or too many lines"_s,
+             u"give the log of an application"_s});
+    }
     if (timeline.events.empty())
     {
         return console.Refuse(
@@ -103,6 +111,7 @@ ExitStatus ShowTimeline(TimelineOptions const& options, Console const& console)
         return Show(console.in, u"<stdin>"_s, options, console);
     }
     QString const name = QString::fromStdString(options.log);
+    static_cast<void>(OpenInputFile(name)); // a device has no end, and a folder no lines
     std::ifstream file(options.log);
     if (!file)
     {

@@ -212,4 +212,14 @@ TEST_F(MatrixGate, NamesEveryDeltaThatMayBeTaken)
         << other.err;
 }
 
+TEST(Matrix, ExpectationThatIsNoPlainFileIsRefused)
+{
+    for (char const* const name : {"/dev/zero", "/proc/version", "/"})
+    {
+        ToolRun const run = RunTool(Line({QStringLiteral("--expect"), QString::fromLatin1(name)}), FEED);
+        EXPECT_EQ(run.status, 2) << name;
+        EXPECT_NE(run.err.find(std::string("error: ") + name + ": "), std::string::npos) << run.err;
+    }
+}
+
 } // namespace Pelnar::Testing

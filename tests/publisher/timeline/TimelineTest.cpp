@@ -300,4 +300,27 @@ TEST(TimelineVerb, ALogWithoutTheSessionIsRefused)
     EXPECT_EQ(RunTool({QStringLiteral("timeline"), QStringLiteral("/nowhere.log")}).status, 2);
 }
 
+class UnusableLog : public ::testing::TestWithParam<char const*>
+{
+};
+
+TEST_P(UnusableLog, IsRefusedAtOnce)
+{
+    ToolRun const run = RunTool({QStringLiteral("timeline"), QString::fromLatin1(GetParam())});
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find(GetParam()), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("; "), std::string::npos) << run.err;
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, UnusableLog,
+                         ::testing::Values("/dev/zero", "/dev/full", "/dev/tty", "/proc/self/mem", "/"));
+
+TEST(EndlessLog, IsRefusedAtItsFirstLine)
+{
+    ToolRun const run = RunTool({QStringLiteral("timeline"), QStringLiteral("-")}, QByteArray(2 << 20, '\0'));
+    EXPECT_EQ(run.status, 2);
+    EXPECT_EQ(run.err, "error: <stdin>: has a line of more than a mebibyte, or too many lines; give the log of an "
+                       "application\n");
+}
+
 } // namespace Pelnar::Testing

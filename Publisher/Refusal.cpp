@@ -1,6 +1,7 @@
 #include "Publisher/Refusal.h"
 
 #include <cstring>
+#include <new>
 #include <utility>
 
 namespace Pelnar::Publisher
@@ -109,6 +110,11 @@ void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> w
             catch (Refusal const& refusal)
             {
                 context.status = PrintReasons(context.console, refusal);
+            }
+            catch (std::bad_alloc const&)
+            {
+                context.status = context.console.Refuse(
+                    {{}, u"there is too little memory"_s, u"close other programs, or raise this process' limit"_s});
             }
             catch (std::exception const& error)
             {

@@ -9,6 +9,7 @@
 #include <QTextCodec>
 
 #include <clocale>
+#include <csignal>
 #include <iostream>
 
 #include <unistd.h>
@@ -40,6 +41,7 @@ void UseOwnWords()
 
 int main(int argc, char** argv)
 {
+    std::signal(SIGXFSZ, SIG_IGN); // a write past the limit of a file's size fails instead
     Pelnar::Publisher::RemoveLeftoversWhenInterrupted();
     KeepLibrariesQuiet(argv[0]);
     // Qt gets the program's name only: it would take some options for its own.
@@ -50,5 +52,7 @@ int main(int argc, char** argv)
         std::cin,
         {std::cout, ::isatty(STDOUT_FILENO) == 1, Pelnar::Publisher::ShowsColour(STDOUT_FILENO)},
         {std::cerr, ::isatty(STDERR_FILENO) == 1, Pelnar::Publisher::ShowsColour(STDERR_FILENO)}};
-    return int(Pelnar::Publisher::RunProgram(std::vector<std::string>(argv + 1, argv + argc), console));
+    auto const status = Pelnar::Publisher::RunProgram(std::vector<std::string>(argv + 1, argv + argc), console);
+    Pelnar::Publisher::RemoveLeftovers();
+    return int(status);
 }

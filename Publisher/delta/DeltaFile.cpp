@@ -7,6 +7,11 @@
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FaultText.h"
 
+#include <QFile>
+
+#include <optional>
+#include <vector>
+
 namespace Pelnar::Publisher
 {
 namespace
@@ -31,9 +36,26 @@ void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformatio
     }
 }
 
-/// The digest of the bundle that was made.
+/// The problem of a delta that is made or applied: with the file that cannot be written or read, as the person knows
+/// it. \a target is where the new version is written.
+Problem ProblemWith(Engine::DeltaOutcome outcome, QString const& name, std::vector<BundleTree const*> const& bundles,
+                    QString const& target)
+{
+    QString file = outcome.error == Engine::DeltaError::CannotWrite ? target : name;
+    for (BundleTree const* const bundle : bundles)
+    {
+        if (std::optional<QString> const shown = bundle->ShownPath(outcome.path))
+        {
+            file = *shown;
+            outcome.path.clear();
+        }
+    }
+    return ProblemOf(outcome, file);
+}
+
+/// The digest of the bundle that was made. \a target is the name of the folder \a targetFd.
 Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd,
-                          Output const& progressOutput)
+                          QString const& target, Output const& progressOutput)
 {
     Progress bar(progressOutput, u"Applying"_s);
     // Deliberate: no signature is required. The container is checked against its own hashes, and the result is only
@@ -43,9 +65,16 @@ Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& ol
         Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);
     if (!outcome.HasSucceeded())
     {
-        throw Refusal(ProblemOf(outcome, name));
+        throw Refusal(ProblemWith(outcome, name, {}, target));
     }
     return digest;
+}
+
+/// Applies it to a temporary folder.
+Engine::ContentHash Try(int deltaFd, QString const& name, BundleTree const& oldBundle, Output const& progressOutput)
+{
+    TemporaryFolder const made;
+    return Apply(deltaFd, name, oldBundle, made.Descriptor(), QFile::decodeName(made.Path().c_str()), progressOutput);
 }
 
 } // namespace
@@ -67,10 +96,9 @@ Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& new
     }
     if (!report.outcome.HasSucceeded())
     {
-        throw Refusal(ProblemOf(report.outcome, path));
+        throw Refusal(ProblemWith(report.outcome, path, {&oldBundle, &newBundle}, path));
     }
-    TemporaryFolder const made;
-    Apply(file.Descriptor(), path, oldBundle, made.Descriptor(), manner.progressOutput);
+    Try(file.Descriptor(), path, oldBundle, manner.progressOutput);
     return report;
 }
 
@@ -96,17 +124,16 @@ Engine::DeltaManifest ReadDeltaFile(InputFile const& delta)
     return manifest;
 }
 
-void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, Output const& progressOutput)
+void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, QString const& target,
+                    Output const& progressOutput)
 {
-    Apply(delta.descriptor.Get(), delta.name, oldBundle, targetFd, progressOutput);
+    Apply(delta.descriptor.Get(), delta.name, oldBundle, targetFd, target, progressOutput);
 }
 
 void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree const& newBundle,
                 Output const& progressOutput)
 {
-    TemporaryFolder const made;
-    Engine::ContentHash const digest =
-        Apply(delta.descriptor.Get(), delta.name, oldBundle, made.Descriptor(), progressOutput);
+    Engine::ContentHash const digest = Try(delta.descriptor.Get(), delta.name, oldBundle, progressOutput);
     if (digest != Engine::DigestTree(newBundle.Descriptor()))
     {
         throw Refusal({delta.name, u"makes another bundle than the archive of that version holds"_s,

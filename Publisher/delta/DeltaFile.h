@@ -27,8 +27,10 @@ Engine::DeltaReport MakeDelta(BundleTree const& oldBundle, BundleTree const& new
 /// The statements in the delta. Throws Refusal.
 Engine::DeltaManifest ReadDeltaFile(InputFile const& delta);
 
-/// Applies \a delta to \a oldBundle within the empty folder \a target. Throws Refusal.
-void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, Output const& progressOutput);
+/// Applies \a delta to \a oldBundle within the empty folder \a targetFd, which the person calls \a target. Throws
+/// Refusal.
+void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, QString const& target,
+                    Output const& progressOutput);
 
 /// Throws Refusal unless \a delta turns \a oldBundle into exactly \a newBundle, which came from an archive.
 void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree const& newBundle,

@@ -84,7 +84,7 @@ ExitStatus Apply(ApplyOptions const& options, Console const& console)
     Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
     BundleTree const before = OpenBundle(console, options.oldBundle);
     NewFolder folder(output);
-    ApplyDeltaFile(delta, before, folder.Descriptor(), console.err);
+    ApplyDeltaFile(delta, before, folder.Descriptor(), output, console.err);
     folder.Commit();
     console.Print(u"%1: version %2"_s.arg(output, QString::fromStdString(manifest.targetVersion)));
     return ExitStatus::Clean;

@@ -118,7 +118,9 @@ TemporaryFolder::TemporaryFolder()
             }
             if (!isMade)
             {
-                RefuseFile(QDir::tempPath(), u"no folder for temporary files can be made there"_s, errno,
+                int const errorNumber = errno;
+                ::rmdir(unheld.constData());
+                RefuseFile(QDir::tempPath(), u"no folder for temporary files can be made there"_s, errorNumber,
                            u"name another folder in TMPDIR"_s);
             }
             m_path = path.toStdString();
@@ -129,8 +131,10 @@ TemporaryFolder::TemporaryFolder()
 
 TemporaryFolder::~TemporaryFolder()
 {
-    // If it cannot be removed, it stays in the system's folder for temporary files.
-    static_cast<void>(Engine::RemoveTree(m_parent.Get(), m_path.filename().string()));
+    if (!Engine::RemoveTree(m_parent.Get(), m_path.filename().string()))
+    {
+        m_leftover->LeaveToTheEnd();
+    }
 }
 
 BundleTree BundleTree::Open(QString const& path, ByteProgress const& progress)
@@ -165,32 +169,46 @@ BundleTree BundleTree::Unpack(InputFile const& archive, ByteProgress const& prog
 }
 
 BundleTree::BundleTree(std::unique_ptr<TemporaryFolder> temporary, fs::path path, QString const& shownName)
-    : m_temporary(std::move(temporary)), m_path(std::move(path)), m_folder(OpenFolder(m_path))
+    : m_temporary(std::move(temporary)), m_path(std::move(path)), m_shownName(shownName), m_folder(OpenFolder(m_path))
 {
     if (!m_folder)
     {
-        RefuseFile(shownName, u"cannot be read"_s, errno, {});
+        RefuseFile(shownName, u"cannot be read"_s, errno, u"close other programs, and check the disk"_s);
     }
-    ReadInformation(shownName);
+    ReadInformation();
 }
 
-void BundleTree::ReadInformation(QString const& shownName)
+std::optional<QString> BundleTree::ShownPath(std::string const& path) const
+{
+    std::string const& folder = m_path.native();
+    bool const isInside = path.compare(0, folder.size(), folder) == 0;
+    return isInside ? m_shownName + QFile::decodeName(path.c_str() + folder.size()) : std::optional<QString>();
+}
+
+void BundleTree::ReadInformation()
 {
     Engine::TreeAccess const tree(Descriptor());
     Engine::UniqueFd file = tree.OpenFile(Engine::INFORMATION_PATH);
     char const* path = Engine::INFORMATION_PATH;
-    if (!file)
+    auto const isMissing = [&file] { return !file && (errno == ENOENT || errno == ENOTDIR || errno == ELOOP); };
+    if (isMissing())
     {
         path = MAC_INFORMATION_PATH;
         file = tree.OpenFile(path);
         m_platform = Engine::FeedPlatform::MacOS;
     }
     struct stat status;
-    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
+    bool const isAbsent = isMissing();
+    if (!isAbsent && (!file || ::fstat(file.Get(), &status) != 0))
     {
-        throw Refusal(ProblemOf(Engine::UpdateFault::InformationMissing, 0, shownName), RefusalCause::Content);
+        RefuseFile(m_shownName + u'/' + QLatin1String(path), u"cannot be read"_s, errno,
+                   u"close other programs, and check the disk"_s);
     }
-    QString const shownPath = shownName + u'/' + QLatin1String(path);
+    if (isAbsent || !S_ISREG(status.st_mode))
+    {
+        throw Refusal(ProblemOf(Engine::UpdateFault::InformationMissing, 0, m_shownName), RefusalCause::Content);
+    }
+    QString const shownPath = m_shownName + u'/' + QLatin1String(path);
     InputFile const input{std::move(file), shownPath, static_cast<std::uint64_t>(status.st_size)};
     QByteArray const text = ReadInputFile(input, Engine::PROPERTY_LIST_MAX_BYTES, u"keep it below 1 MiB"_s);
     try

@@ -51,6 +51,8 @@ public:
     /// The bundle's folder.
     std::filesystem::path const& Path() const { return m_path; }
     int Descriptor() const { return m_folder.Get(); }
+    /// \a path in the bundle's folder, as the person knows it: the archive's name stands for the temporary folder.
+    std::optional<QString> ShownPath(std::string const& path) const;
     /// The folder's name, "Name.app".
     std::string Name() const { return m_path.filename().string(); }
     Engine::BundleInformation const& Information() const { return m_information; }
@@ -59,10 +61,11 @@ public:
 
 private:
     BundleTree(std::unique_ptr<TemporaryFolder> temporary, std::filesystem::path path, QString const& shownName);
-    void ReadInformation(QString const& shownName);
+    void ReadInformation();
 
     std::unique_ptr<TemporaryFolder> m_temporary; ///< null for a given folder
     std::filesystem::path m_path;
+    QString m_shownName;
     Engine::UniqueFd m_folder;
     Engine::BundleInformation m_information;
     Engine::FeedPlatform m_platform = Engine::FeedPlatform::Linux;

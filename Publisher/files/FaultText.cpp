@@ -4,6 +4,7 @@
 #include "Publisher/Console.h"
 
 #include <array>
+#include <cerrno>
 #include <cstring>
 
 namespace Pelnar::Publisher
@@ -26,9 +27,22 @@ constexpr std::array WORDS = {
 #include "Engine/core/faults/UpdateFaults.def"
 };
 
-Words WordsFor(DeltaError error)
+char const* MendOfReading(int errorNumber)
 {
-    switch (error)
+    switch (errorNumber)
+    {
+    case EINVAL:
+        return "check the files of both versions: plain files, folders and links only";
+    case EACCES:
+    case EPERM:
+        return "check who may read it";
+    }
+    return "check the disk, and that nobody changes the files meanwhile";
+}
+
+Words WordsFor(Engine::DeltaOutcome const& outcome)
+{
+    switch (outcome.error)
     {
     case DeltaError::None:
     case DeltaError::TreeRefused: // the broken rule says more
@@ -44,7 +58,7 @@ Words WordsFor(DeltaError error)
     case DeltaError::ResultDiffers:
         return {"the delta does not make what it promises", "make it again with \"delta create\""};
     case DeltaError::CannotRead:
-        return {"cannot be read", "check the files of both versions: plain files, folders and links only"};
+        return {"cannot be read", MendOfReading(outcome.systemError)};
     case DeltaError::CannotWrite:
         return {"cannot be written", "check the folder and the space on the disk"};
     }
@@ -87,8 +101,13 @@ RefusalCause CauseOf(UpdateFault fault)
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)
 {
     QString const file = outcome.path.empty() ? name : name + u'/' + Printable(QString::fromStdString(outcome.path));
-    return outcome.error == DeltaError::TreeRefused ? ProblemOf(outcome.fault, outcome.systemError, file)
-                                                    : ProblemWith(WordsFor(outcome.error), outcome.systemError, file);
+    bool const isLimit = Engine::FaultUnlessLimit(outcome.systemError, UpdateFault::None) != UpdateFault::None;
+    if (outcome.error == DeltaError::TreeRefused || isLimit)
+    {
+        UpdateFault const fault = isLimit ? UpdateFault::SystemLimitReached : outcome.fault;
+        return ProblemOf(fault, outcome.systemError, file);
+    }
+    return ProblemWith(WordsFor(outcome), outcome.systemError, file);
 }
 
 } // namespace Pelnar::Publisher

@@ -27,7 +27,9 @@ InputFile OpenInputFile(QString const& path)
     {
         throw Refusal({path, u"is no plain file"_s, u"name a file"_s});
     }
-    return {std::move(descriptor), path, static_cast<std::uint64_t>(status.st_size)};
+    auto const size = static_cast<std::uint64_t>(status.st_size);
+    return {std::move(descriptor), path, size,
+            FileMark{status.st_dev, status.st_ino, size, status.st_ctim.tv_sec, status.st_ctim.tv_nsec}};
 }
 
 QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString const& mend)
@@ -38,9 +40,12 @@ QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString 
     }
     QByteArray bytes(static_cast<int>(file.size), '\0');
     ssize_t const count = Engine::ReadUpTo(file.descriptor.Get(), 0, bytes.data(), std::size_t(bytes.size()));
-    if (count != bytes.size())
+    char next = 0;
+    ssize_t const more =
+        count == bytes.size() ? Engine::ReadUpTo(file.descriptor.Get(), file.size, &next, sizeof next) : 0;
+    if (count != bytes.size() || more != 0)
     {
-        RefuseFile(file.name, u"cannot be read to its end"_s, count < 0 ? errno : EIO,
+        RefuseFile(file.name, u"cannot be read to its end"_s, count < 0 || more < 0 ? errno : EIO,
                    u"check the disk, and that nobody changes the file meanwhile"_s);
     }
     return bytes;

@@ -12,17 +12,35 @@
 namespace Pelnar::Publisher
 {
 
+/// What changes when somebody writes to a file or puts another in its place.
+struct FileMark
+{
+    std::uint64_t device = 0;
+    std::uint64_t number = 0;
+    std::uint64_t size = 0;
+    std::int64_t changeSeconds = 0;
+    std::int64_t changeNanoseconds = 0;
+
+    friend bool operator==(FileMark const& a, FileMark const& b)
+    {
+        return a.device == b.device && a.number == b.number && a.size == b.size && a.changeSeconds == b.changeSeconds &&
+               a.changeNanoseconds == b.changeNanoseconds;
+    }
+};
+
 struct InputFile
 {
     Engine::UniqueFd descriptor;
     QString name; ///< as the person typed it
     std::uint64_t size = 0;
+    FileMark mark = {}; ///< when it was opened
 };
 
 /// Throws Refusal unless \a path is a plain file that can be read, or a link to one.
 InputFile OpenInputFile(QString const& path);
 
-/// The bytes of \a file. Throws Refusal with \a mend if there are more than \a maxBytes.
+/// The bytes of \a file. Throws Refusal with \a mend if there are more than \a maxBytes, and for a file that has not
+/// as many bytes as the system says.
 QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString const& mend);
 
 } // namespace Pelnar::Publisher

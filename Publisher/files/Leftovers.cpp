@@ -1,9 +1,17 @@
 #include "Publisher/files/Leftovers.h"
 
+#include "Publisher/Console.h"
+
+#include <QFile>
+
+#include <atomic>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
+#include <iostream>
 #include <mutex>
 #include <set>
+#include <sstream>
 #include <system_error>
 #include <thread>
 
@@ -60,6 +68,50 @@ void RemoveAll()
     }
 }
 
+/// Of the byte that is no longer in its mapped file; 0 without one.
+std::atomic<std::uintptr_t> missingByte = 0;
+
+/// The thread that reads the byte stops here. The waiting thread tells of it and ends the process.
+void StopAtMissingByte(int, siginfo_t* info, void*)
+{
+    missingByte = reinterpret_cast<std::uintptr_t>(info->si_addr);
+    ::kill(::getpid(), SIGTERM);
+    for (;;)
+    {
+        ::pause();
+    }
+}
+
+/// The mapped file with that address.
+QString FileAt(std::uintptr_t address)
+{
+    std::ifstream maps("/proc/self/maps");
+    for (std::string line; std::getline(maps, line);)
+    {
+        std::istringstream fields(line);
+        std::uintptr_t begin = 0;
+        std::uintptr_t end = 0;
+        char dash = 0;
+        fields >> std::hex >> begin >> dash >> end;
+        std::size_t const path = line.find('/');
+        if (begin <= address && address < end && path != std::string::npos)
+        {
+            return QFile::decodeName(line.substr(path).c_str());
+        }
+    }
+    return QStringLiteral("<file>");
+}
+
+[[noreturn]] void EndAtMissingByte()
+{
+    std::cerr << "error: "
+              << TextOf({FileAt(missingByte), QStringLiteral("was cut short while it was read"),
+                         QStringLiteral("run this again when the file is complete")})
+                     .toStdString()
+              << std::endl;
+    ::_exit(int(ExitStatus::Unusable));
+}
+
 [[noreturn]] void EndBy(int number)
 {
     std::signal(number, SIG_DFL);
@@ -101,27 +153,44 @@ Leftover::~Leftover()
     }
 }
 
+void RemoveLeftovers()
+{
+    std::lock_guard<std::mutex> const lock(Leftovers().mutex);
+    for (std::string const& path : Leftovers().paths)
+    {
+        std::error_code error; // what cannot be removed stays
+        std::filesystem::remove_all(path, error);
+    }
+    Leftovers().paths.clear();
+}
+
 void RemoveLeftoversWhenInterrupted()
 {
     sigset_t const set = EndingSignals();
     ::pthread_sigmask(SIG_BLOCK, &set, nullptr);
-    auto const wait = [set]
-    {
-        int number = 0;
-        if (::sigwait(&set, &number) == 0)
-        {
-            RemoveAll();
-            EndBy(number);
-        }
-    };
     try
     {
-        std::thread(wait).detach();
+        std::thread(
+            [set]
+            {
+                int number = 0;
+                if (::sigwait(&set, &number) == 0)
+                {
+                    RemoveAll();
+                    missingByte == 0 ? EndBy(number) : EndAtMissingByte();
+                }
+            })
+            .detach();
     }
     catch (std::system_error const&)
     {
         ::pthread_sigmask(SIG_UNBLOCK, &set, nullptr); // the next run then removes what this one leaves
+        return;
     }
+    struct sigaction action = {};
+    action.sa_sigaction = StopAtMissingByte;
+    action.sa_flags = SA_SIGINFO;
+    ::sigaction(SIGBUS, &action, nullptr);
 }
 
 } // namespace Pelnar::Publisher

@@ -22,14 +22,19 @@ public:
     Leftover& operator=(Leftover const&) = delete;
 
     std::string const& Path() const { return m_path; }
+    /// For what cannot be removed now: RemoveLeftovers() does it, or a signal.
+    void LeaveToTheEnd() { m_path.clear(); }
 
 private:
     std::string m_path;
 };
 
-/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and then end the process as usual. If the system has
-/// no further thread, they only end the process. REQUIRES: called
-/// once, by the only thread, before another is started.
+/// Removes what still is in the list. Once no file is open any more, also what a limit of open files has kept.
+void RemoveLeftovers();
+
+/// From here on SIGINT, SIGTERM and SIGHUP remove every Leftover and then end the process as usual. A mapped file that
+/// is cut short while it is read ends the process too: with a sentence and ExitStatus::Unusable. Without a thread for
+/// this work, signals end the process at once. REQUIRES: called once, by the only thread, before another is started.
 void RemoveLeftoversWhenInterrupted();
 
 } // namespace Pelnar::Publisher

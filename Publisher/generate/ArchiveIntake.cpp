@@ -289,8 +289,7 @@ NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive, RefusalList& 
     item.productName = Printable(archive.stem.left(underscore));
     item.versionText = underscore < 0 ? QString() : archive.stem.mid(underscore + 1);
     Complete(item, archive);
-    isForMac ? CheckMacInstaller(OpenInputFile(m_workplace.PathOf(archive.fileName)))
-             : TakeInstallerProgram(archive, item, refusals);
+    isForMac ? CheckMacInstaller(m_workplace.Open(archive.fileName)) : TakeInstallerProgram(archive, item, refusals);
     return item;
 }
 

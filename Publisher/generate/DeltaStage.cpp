@@ -125,7 +125,7 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         }
         QString const path = m_workplace.PathOf(archive.fileName);
         Engine::DeltaManifest manifest;
-        AsContent([&] { manifest = ReadDeltaFile(OpenInputFile(path)); });
+        AsContent([&] { manifest = ReadDeltaFile(m_workplace.Open(archive.fileName)); });
         QString const target = QString::fromStdString(manifest.targetVersion);
         QString const start = QString::fromStdString(manifest.baseVersion);
         bool hasTarget = false;
@@ -165,8 +165,8 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
     AsContent(
         [&]
         {
-            ProveDelta(OpenInputFile(path), *m_workplace.Unpack(base.fileName), *m_workplace.Unpack(item.fileName),
-                       m_workplace.console.err);
+            ProveDelta(m_workplace.Open(fileName), *m_workplace.Unpack(base.fileName),
+                       *m_workplace.Unpack(item.fileName), m_workplace.console.err);
         });
     if (HasDeltaFrom(item, base.versionText))
     {

@@ -203,6 +203,7 @@ public:
         QByteArray const bytes = FeedWith(items, feed);
         std::vector<LintFinding> const findings = FindingsOf(bytes);
         RefuseNewErrors(m_feedFile, m_isNew ? std::vector<LintFinding>() : FindingsOf(m_published.bytes), findings);
+        m_workplace.RefuseChangedFiles();
         if (m_terms || bytes != m_published.bytes)
         {
             std::vector<std::unique_ptr<AtomicFile>> made = std::move(recompressed.Made());

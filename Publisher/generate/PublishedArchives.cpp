@@ -35,7 +35,7 @@ void PublishedArchives::CheckUnchanged(Published const& published)
 {
     Engine::FeedItem const& item = *published.item;
     QString const path = m_workplace.PathOf(published.archive.fileName);
-    InputFile const file = OpenInputFile(path);
+    InputFile const file = m_workplace.Open(published.archive.fileName);
     CheckLength(file, item);
     Progress bar(m_workplace.console.err, u"Verifying"_s);
     bar.Show(0, 1); // the verdict comes immediately

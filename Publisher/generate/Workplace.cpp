@@ -27,6 +27,26 @@ bool IsSameFile(QUrl const& a, QUrl const& b)
 
 } // namespace
 
+InputFile Workplace::Open(QString const& fileName) const
+{
+    InputFile file = OpenInputFile(PathOf(fileName));
+    auto const [known, isNew] = marks.emplace(fileName, file.mark);
+    if (!(known->second == file.mark))
+    {
+        throw Refusal(
+            {file.name, u"has changed while this run worked"_s, u"run this again when nobody changes the file"_s});
+    }
+    return file;
+}
+
+void Workplace::RefuseChangedFiles() const
+{
+    for (auto const& [fileName, mark] : marks)
+    {
+        static_cast<void>(Open(fileName));
+    }
+}
+
 std::shared_ptr<BundleTree const> Workplace::Unpack(QString const& fileName) const
 {
     auto const known =
@@ -37,8 +57,8 @@ std::shared_ptr<BundleTree const> Workplace::Unpack(QString const& fileName) con
         return unpacked.front().second;
     }
     Progress bar(console.err, u"Unpacking "_s + fileName);
-    unpacked.emplace_front(
-        fileName, std::make_shared<BundleTree const>(BundleTree::Unpack(OpenInputFile(PathOf(fileName)), BarFor(bar))));
+    unpacked.emplace_front(fileName,
+                           std::make_shared<BundleTree const>(BundleTree::Unpack(Open(fileName), BarFor(bar))));
     unpacked.resize(std::min(unpacked.size(), MOST_UNPACKED));
     return unpacked.front().second;
 }
@@ -56,7 +76,7 @@ ArchiveSignature Workplace::Sign(QString const& fileName) const
 {
     Progress bar(console.err, u"Signing "_s + fileName);
     bar.Show(0, 1); // the signature is made immediately
-    return Sign(OpenInputFile(PathOf(fileName)));
+    return Sign(Open(fileName));
 }
 
 ArchiveSignature Workplace::Sign(InputFile const& archive) const

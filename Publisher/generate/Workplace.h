@@ -11,6 +11,7 @@
 #include "Publisher/generate/PublishedFeed.h"
 
 #include <deque>
+#include <map>
 #include <memory>
 #include <utility>
 
@@ -37,6 +38,10 @@ struct Workplace
     QString KeyId() const;
     /// Of every key that signs.
     QStringList KeyIds() const;
+    /// Throws Refusal if it is not the file any more that this run has opened before.
+    InputFile Open(QString const& fileName) const;
+    /// Throws Refusal if one of the files that this run has opened has changed.
+    void RefuseChangedFiles() const;
     /// The bundle in an archive of the folder. The last few stay unpacked: several steps need the same ones.
     std::shared_ptr<BundleTree const> Unpack(QString const& fileName) const;
     /// A file that gets the name \a fileName later. Throws Refusal if there is one.
@@ -50,6 +55,7 @@ struct Workplace
     Engine::FeedItem const* FindPublished(PublishedFeed const& feed, QString const& fileName) const;
 
     mutable std::deque<std::pair<QString, std::shared_ptr<BundleTree const>>> unpacked = {}; ///< the newest first
+    mutable std::map<QString, FileMark> marks = {}; ///< of the files that were opened
 };
 
 } // namespace Pelnar::Publisher

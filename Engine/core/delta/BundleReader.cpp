@@ -65,7 +65,7 @@ DeltaEntry ReadEntry(fs::path const& folder, std::string const& path, OldVersion
     }
     if (!fs::is_regular_file(status))
     {
-        Fail(path, EINVAL);
+        Fail(file, EINVAL);
     }
     OpenedFile const opened(file);
     entry.kind = DeltaEntryKind::Whole;

@@ -1,9 +1,10 @@
-// AtomicFileTest.cpp: the order in which a published file reaches the disk and gets its name. The program's own fsync
-// and renameat2 replace those of the C library, record each call, and pass it on.
+// AtomicFileTest.cpp: the order in which a published file reaches the disk and gets its name, and calls of the tool's
+// files that fail. The program's own functions replace those of the C library, record each call, and pass it on.
 
 #include "Publisher/files/AtomicFile.h"
 
 #include "Publisher/Refusal.h"
+#include "Publisher/files/BundleTree.h"
 #include "tests/installer/InstallerFixture.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <QFile>
 
 #include <cerrno>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -31,12 +33,18 @@ std::string KindOf(int fd)
     return ::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode) ? "folder" : "file";
 }
 
-/// Records the call. Returns true, with errno, if the test wants it to fail.
+/// Returns true, with errno, if the test wants the call to fail.
+bool IsRefused(std::string const& call)
+{
+    errno = call == failingCall ? EIO : errno;
+    return call == failingCall;
+}
+
+/// The same, and records the call.
 bool Fails(std::string const& call)
 {
     calls.push_back(call);
-    errno = EIO;
-    return call == failingCall;
+    return IsRefused(call);
 }
 
 } // namespace
@@ -50,6 +58,11 @@ extern "C" int renameat2(int oldFolder, char const* oldName, int newFolder, char
                          unsigned flags) noexcept
 {
     return Fails("rename") ? -1 : int(::syscall(SYS_renameat2, oldFolder, oldName, newFolder, newName, flags));
+}
+
+extern "C" int rename(char const* oldName, char const* newName) noexcept
+{
+    return IsRefused("rename by path") ? -1 : int(::syscall(SYS_rename, oldName, newName));
 }
 
 namespace Pelnar::Testing
@@ -166,6 +179,33 @@ TEST_P(FilesTogether, StayWhenOnlyTheFeedsNameMayNotSurvive)
     failingCall = "sync folder";
     EXPECT_THROW(Publish({}), Publisher::Refusal);
     EXPECT_EQ(Content(), "new");
+}
+
+/// What the person is told when \a work cannot be done.
+std::string RefusalOf(std::function<void()> const& work)
+{
+    try
+    {
+        work();
+    }
+    catch (Publisher::Refusal const& refusal)
+    {
+        return refusal.what();
+    }
+    return "none";
+}
+
+TEST(TemporaryFolders, GoAgainWhenTheyGetNoName)
+{
+    Workspace const place;
+    qputenv("TMPDIR", QByteArray::fromStdString(place.Path()));
+    failingCall = "rename by path";
+    std::string const told = RefusalOf([] { Publisher::TemporaryFolder const folder; });
+    EXPECT_EQ(told, place.Path() + ": no folder for temporary files can be made there: Input/output error; name "
+                                   "another folder in TMPDIR");
+    EXPECT_TRUE(place.Names().empty());
+    failingCall.clear();
+    qunsetenv("TMPDIR");
 }
 
 } // namespace

@@ -285,6 +285,7 @@ std::string CallName(long call)
         {SYS_munmap, "munmap"},
         {SYS_brk, "brk"},
         {SYS_pread64, "pread64"},
+        {SYS_pwrite64, "pwrite64"},
         {SYS_fstat, "fstat"},
         {SYS_newfstatat, "fstatat"},
         {SYS_getdents64, "getdents"},

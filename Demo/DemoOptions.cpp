@@ -26,13 +26,13 @@ struct Options
     QCommandLineOption feed{QStringLiteral("feed"), QStringLiteral("Address or path of the feed."),
                             QStringLiteral("URL-or-path")};
     QCommandLineOption local{QStringLiteral("local-version"),
-                             QStringLiteral("Version that this application pretends to have; default: 5.9."),
+                             QStringLiteral("Version that this application reports; default: 5.9."),
                              QStringLiteral("V")};
     QCommandLineOption system{QStringLiteral("system-version"),
-                              QStringLiteral("Version of the operating system; default: the running one's."),
+                              QStringLiteral("Version of the operating system; default: that of the running system."),
                               QStringLiteral("V")};
     QCommandLineOption platform{QStringLiteral("platform"),
-                                QStringLiteral("Whose items of the feed count; default: this system's."),
+                                QStringLiteral("Platform whose items are offered; default: this system's."),
                                 QStringLiteral("macos|linux")};
     QCommandLineOption mode{QStringLiteral("mode"), QStringLiteral("How checks are started; default: user."),
                             QStringLiteral("user|automatic|silent"), QStringLiteral("user")};
@@ -40,16 +40,16 @@ struct Options
                            QStringLiteral("available|none|later"), QStringLiteral("available")};
     QCommandLineOption scenario{
         QStringLiteral("scenario"),
-        QStringLiteral("Runs by itself and quits: \"check\" makes one check, \"dialogs\" shows every dialog, \"start\" "
-                       "only starts, \"answer\" makes a check and the clicks, \"update\" the same and waits for the "
-                       "update to end the program."),
+        QStringLiteral("Runs without a person and quits: \"check\" makes one check, \"dialogs\" shows every dialog, "
+                       "\"start\" only starts, \"answer\" makes a check and the clicks, \"update\" does the same and "
+                       "waits until the update ends the program."),
         QStringLiteral("check|dialogs|start|answer|update")};
     QCommandLineOption click{QStringLiteral("click"),
-                             QStringLiteral("A click to make when its window opens, once for each, in this order; by "
-                                            "object names, or by the button's text."),
+                             QStringLiteral("A click to make when its window opens, as WINDOW/BUTTON; may be repeated, "
+                                            "in this order. The button is named by its object name or its text."),
                              QStringLiteral("window/button")};
     QCommandLineOption screenshots{QStringLiteral("screenshot-dir"),
-                                   QStringLiteral("Leaves a picture of every window that opens in this folder."),
+                                   QStringLiteral("Saves a picture of every window that opens in this folder."),
                                    QStringLiteral("folder")};
 };
 
@@ -190,7 +190,7 @@ DemoOptions ParseDemoOptions(QStringList const& arguments, App::Customization co
     bool const isAnswering = result.script == Script::Answer || result.script == Script::Update;
     if (isAnswering == result.clicks.empty())
     {
-        throw std::runtime_error("--click goes with --scenario answer or update, and they with it");
+        throw std::runtime_error("--click requires --scenario answer or update, and these require --click");
     }
     result.screenshotFolder = parser.value(options.screenshots);
     return result;

@@ -38,16 +38,16 @@ struct Options
                             QStringLiteral("URL-or-path")};
     QCommandLineOption local{QStringLiteral("local-version"),
                              QStringLiteral("Version of the application that asks; required."), QStringLiteral("V")};
-    QCommandLineOption runningSystem{QStringLiteral("system-version"),
-                                     QStringLiteral("Version of the operating system; default: the running one's."),
-                                     QStringLiteral("V")};
+    QCommandLineOption runningSystem{
+        QStringLiteral("system-version"),
+        QStringLiteral("Version of the operating system; default: that of the running system."), QStringLiteral("V")};
     QCommandLineOption platform{QStringLiteral("platform"),
-                                QStringLiteral("Whose items of the feed count; default: this system's."),
+                                QStringLiteral("Platform whose items are offered; default: this system's."),
                                 QStringLiteral("macos|linux")};
     QCommandLineOption mode{QStringLiteral("mode"), QStringLiteral("How the check is started; default: user."),
                             QStringLiteral("user|automatic|silent"), QStringLiteral("user")};
     QCommandLineOption timeout{QStringLiteral("timeout"),
-                               QStringLiteral("Give up after so many seconds; default: 120."),
+                               QStringLiteral("Give up after this many seconds; default: 120."),
                                QStringLiteral("seconds"), QStringLiteral("120")};
     QCommandLineOption json{QStringLiteral("json"), QStringLiteral("Print one JSON object at the end.")};
     QCommandLineOption verbose{QStringLiteral("verbose"),
@@ -112,8 +112,8 @@ Parsed ParseUpdateCheckOptions(QStringList const& arguments)
     Options const options;
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Runs one check for updates and prints what its observers are told.\n"
-                       "Exit status: 0 the check was completed, 1 it could not be, 2 bad arguments."));
+        QStringLiteral("Runs one check for updates and prints the notifications of its observers.\nExit status: 0 "
+                       "check completed, 1 check not completed, 2 bad arguments."));
     parser.addOptions({options.feed, options.local, options.runningSystem, options.platform, options.mode,
                        options.timeout, options.json, options.verbose, options.exitCode});
     QCommandLineOption const help = parser.addHelpOption();

@@ -31,12 +31,12 @@ void AddInstallationOptions(CLI::App& verb, InstallationOptions& options)
 {
     options.machine = Engine::OwnMachineName().toStdString();
     verb.add_option("--machine", options.machine,
-                    "Machine of the clients, such as x86_64 or aarch64, or \"any\"; default: this one")
+                    "Machine of the clients, such as x86_64 or aarch64, or \"any\"; default: this machine")
         ->type_name("NAME");
-    verb.add_option("--channels", options.channels, "Channels that the clients list, with commas between them")
+    verb.add_option("--channels", options.channels, "Channels that the clients have enabled, separated by commas")
         ->type_name("LIST");
     verb.add_option("--at", options.moment,
-                    "Moment of the check for a staged rollout, as 2030-01-31T12:00:00Z; default: now")
+                    "Time of the check for a staged rollout, such as 2030-01-31T12:00:00Z; default: now")
         ->type_name("TIME");
 }
 
@@ -49,16 +49,16 @@ void AddFeedOption(CLI::App& verb, std::string& feed)
 
 void AddPlatformOption(CLI::App& verb, std::string& platform)
 {
-    verb.add_option("--platform", platform, "Whose items count")
+    verb.add_option("--platform", platform, "Platform of the clients")
         ->capture_default_str()
         ->check(CLI::IsMember({"macos", "linux"}));
 }
 
 void AddRolloutGroupOption(CLI::App& verb, InstallationOptions& options)
 {
-    verb.add_option(
-            "--rollout-group", options.rolloutGroup,
-            "Answer as for automatic checks in this group of a staged rollout; default: as for a person who asks")
+    verb.add_option("--rollout-group", options.rolloutGroup,
+                    "Answer for an automatic check in this group of a staged rollout; default: for a check that a "
+                    "person started")
         ->check(CLI::Range(1, Engine::ROLLOUT_GROUPS))
         ->type_name("N");
 }
@@ -75,7 +75,7 @@ Engine::Installation InstallationOf(InstallationOptions const& options)
         installation.now = QDateTime::fromString(moment, Qt::ISODate);
         if (!installation.now.isValid())
         {
-            throw Refusal({u"--at: \"%1\" is no moment"_s.arg(moment), u"write it as 2030-01-31T12:00:00Z"_s});
+            throw Refusal({u"--at: \"%1\" is not a time"_s.arg(moment), u"write it like 2030-01-31T12:00:00Z"_s});
         }
     }
     if (options.rolloutGroup > 0)
@@ -101,7 +101,7 @@ void AddInstallation(QJsonObject& object, InstallationOptions const& options)
 void AddPublishedAtOption(CLI::App& verb, std::string& address)
 {
     verb.add_option("--published-at", address,
-                    "Address of the published feed, for its relative addresses; default: where it is read")
+                    "Address at which the feed is published, for its relative addresses; default: where it is read")
         ->type_name("URL");
 }
 
@@ -118,8 +118,8 @@ NamedVersion ParseLocalVersion(QString const& option, QString const& text)
     Core::Version const version = App::Session::VersionFromStringNoexcept(text);
     if (!version.IsValid())
     {
-        throw Refusal({u"%1: \"%2\" is no version"_s.arg(option, text),
-                       u"give one to four numbers with dots between them, such as 5.1.2"_s});
+        throw Refusal({u"%1: \"%2\" is not a version"_s.arg(option, text),
+                       u"give one to four numbers separated by dots, such as 5.1.2"_s});
     }
     return {text, version};
 }
@@ -156,7 +156,7 @@ ParsedFeed ReadItems(FeedQuestion const& question, std::string const& feedName, 
         QString const& detail = parsed.error().detail;
         throw Refusal({feed.source.name, parsed.error().line, parsed.error().column,
                        parsed.error().sentence.English() + (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
-                       u"pelnar-appcast lint says what to mend"_s});
+                       u"pelnar-appcast lint says how to correct the feed"_s});
     }
     feed.items = std::move(parsed->items);
     return feed;

@@ -29,7 +29,7 @@ std::variant<FeedBytes, Problem> ReadStandardInput(Console const& console)
     if (!bytes)
     {
         return Problem{u"<stdin>"_s, u"the feed is larger than a client accepts"_s,
-                       u"drop old items until it is below 4 MiB"_s};
+                       u"remove old items until it is below 4 MiB"_s};
     }
     return FeedBytes{u"<stdin>"_s, QUrl::fromLocalFile(QDir::currentPath() + u'/'), std::move(*bytes)};
 }
@@ -45,7 +45,7 @@ QString MendOf(int httpStatus)
     case 410:
         return u"check the address, and upload the feed there"_s;
     }
-    return u"look at the server's own log, and try again"_s;
+    return u"check the server's log and try again"_s;
 }
 
 std::variant<FeedBytes, Problem> Fetch(QString const& name, QUrl const& url)
@@ -102,7 +102,7 @@ std::variant<FeedBytes, Problem> ReadFeed(QString const& name, QString const& pu
     QUrl const address(publishedAt);
     if (!publishedAt.isEmpty() && (!address.isValid() || address.isRelative()))
     {
-        return Problem{u"--published-at: \"%1\" is no address"_s.arg(publishedAt),
+        return Problem{u"--published-at: \"%1\" is not an address"_s.arg(publishedAt),
                        u"give the feed's whole address, such as https://updates.example.com/appcast.xml"_s};
     }
     std::variant<FeedBytes, Problem> result = ReadNamed(name, console);

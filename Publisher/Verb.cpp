@@ -103,8 +103,8 @@ void RefuseEmptyValues(CLI::App& app)
 
 void WithProgram(VerbContext& context, std::function<void(CLI::App&)> const& use)
 {
-    CLI::App program("Explains, checks, signs and makes the feeds that applications update from.\n"
-                     "Exit status: 0 clean, 1 findings, 2 bad arguments or unreadable input.",
+    CLI::App program("Makes, signs, checks and explains the feeds that applications update from.\nExit status: 0 no "
+                     "problem, 1 problems found, 2 bad arguments or unreadable input.",
                      PROGRAM_NAME);
     program.require_subcommand(1);
     program.set_version_flag("--version", std::string(PROGRAM_NAME) + " " + PELNAR_VERSION,
@@ -136,8 +136,8 @@ ExitStatus RunProgram(std::vector<std::string> const& arguments, Console& consol
     console.out.stream.flush();
     if (!console.out.stream)
     {
-        console.Refuse(
-            {u"<stdout>"_s, u"cannot be written"_s, u"check the space on the disk, and who reads the output"_s});
+        console.Refuse({u"<stdout>"_s, u"cannot be written"_s,
+                        u"check the space on the disk, and the program that reads the output"_s});
         return ExitStatus::Findings;
     }
     return context.status;

@@ -17,7 +17,7 @@
 namespace
 {
 
-/// What the libraries have to say is for their developers: the program's own lines stand alone.
+/// Messages of libraries are for developers and are dropped, so that only the program's own lines appear.
 void KeepLibrariesQuiet(char const* programName)
 {
     google::InitGoogleLogging(programName);
@@ -29,8 +29,7 @@ void KeepLibrariesQuiet(char const* programName)
     qInstallMessageHandler([](QtMsgType, QMessageLogContext const&, QString const&) {});
 }
 
-/// The tool writes English, and takes names of files for UTF-8, in every locale: a feed is the same wherever it is
-/// made.
+/// The tool writes English and reads file names as UTF-8 in every locale, so that it makes the same feed everywhere.
 void UseOwnWords()
 {
     std::setlocale(LC_ALL, "C");
@@ -44,7 +43,7 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN); // a write past the limit of a file's size fails instead
     Pelnar::Publisher::RemoveLeftoversWhenInterrupted();
     KeepLibrariesQuiet(argv[0]);
-    // Qt gets the program's name only: it would take some options for its own.
+    // Qt gets only the program's name, because it would interpret some options itself.
     int qtArgumentCount = 1;
     QCoreApplication const application(qtArgumentCount, argv);
     UseOwnWords();

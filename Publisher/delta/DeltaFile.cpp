@@ -21,18 +21,18 @@ void CheckPair(Engine::BundleInformation const& before, Engine::BundleInformatio
 {
     if (before.version.empty() || after.version.empty())
     {
-        throw Refusal({u"a bundle does not tell its version"_s, u"write CFBundleVersion into its information file"_s});
+        throw Refusal({u"a bundle does not state its version"_s, u"write CFBundleVersion into its information file"_s});
     }
     if (before.identifier != after.identifier)
     {
-        throw Refusal({u"the bundles are of two products, %1 and %2"_s.arg(QString::fromStdString(before.identifier),
-                                                                           QString::fromStdString(after.identifier)),
-                       u"give two versions of one"_s});
+        throw Refusal({u"the bundles belong to two products, %1 and %2"_s.arg(QString::fromStdString(before.identifier),
+                                                                              QString::fromStdString(after.identifier)),
+                       u"give two versions of one product"_s});
     }
     if (before.version == after.version)
     {
-        throw Refusal(
-            {u"both bundles are of version %1"_s.arg(QString::fromStdString(before.version)), u"give two versions"_s});
+        throw Refusal({u"both bundles have the version %1"_s.arg(QString::fromStdString(before.version)),
+                       u"give two versions"_s});
     }
 }
 
@@ -136,8 +136,8 @@ void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree 
     Engine::ContentHash const digest = Try(delta.descriptor.Get(), delta.name, oldBundle, progressOutput);
     if (digest != Engine::DigestTree(newBundle.Descriptor()))
     {
-        throw Refusal({delta.name, u"makes another bundle than the archive of that version holds"_s,
-                       u"remove the delta; it is made again where it is wanted"_s});
+        throw Refusal({delta.name, u"does not make the bundle in the archive of that version"_s,
+                       u"remove the delta; generate makes it again if it is needed"_s});
     }
 }
 

@@ -61,9 +61,9 @@ ExitStatus Create(CreateOptions const& options, Console const& console)
 void AddCreate(CLI::App& delta, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<CreateOptions>(
-        delta, context, "create", "Make the delta from one version of a bundle to another and prove it", Create);
-    verb.add_option("OLD", options.oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
-    verb.add_option("NEW", options.newBundle, "Bundle, or archive of it, that the delta makes")->required();
+        delta, context, "create", "Make the delta from one version of a bundle to another, and verify it", Create);
+    verb.add_option("OLD", options.oldBundle, "Old bundle, or its archive, that the delta starts from")->required();
+    verb.add_option("NEW", options.newBundle, "New bundle, or its archive, that the delta makes")->required();
     verb.add_option("-o,--output", options.output, "New file for the delta")->required()->type_name("FILE");
     AddSignerOptions(verb, options.signer, ": sign the delta and print the attributes of its enclosure");
     AddEffortOption(verb, options.effort);
@@ -95,7 +95,7 @@ void AddApply(CLI::App& delta, VerbContext& context)
     auto const [verb, options] =
         AddVerb<ApplyOptions>(delta, context, "apply", "Make the new version of a bundle, as clients do", Apply);
     verb.add_option("DELTA", options.delta, "Delta to apply")->required();
-    verb.add_option("OLD", options.oldBundle, "Bundle, or archive of it, that the delta starts from")->required();
+    verb.add_option("OLD", options.oldBundle, "Old bundle, or its archive, that the delta starts from")->required();
     verb.add_option("-o,--output", options.output, "New folder for the bundle, such as Name.app")
         ->required()
         ->type_name("FOLDER");
@@ -230,15 +230,22 @@ ExitStatus Show(ShowOptions const& options, Console const& console)
 {
     InputFile const delta = OpenInputFile(QString::fromStdString(options.delta));
     Engine::DeltaManifest const manifest = ReadDeltaFile(delta);
-    options.isJson ? ShowJson(console, delta, manifest) : ShowText(console, delta, manifest);
+    if (options.isJson)
+    {
+        ShowJson(console, delta, manifest);
+    }
+    else
+    {
+        ShowText(console, delta, manifest);
+    }
     return ExitStatus::Clean;
 }
 
 void AddShow(CLI::App& delta, VerbContext& context)
 {
-    auto const [verb, options] =
-        AddVerb<ShowOptions>(delta, context, "show", "Tell what a delta keeps, patches and brings whole", Show);
-    verb.add_option("DELTA", options.delta, "Delta to look at")->required();
+    auto const [verb, options] = AddVerb<ShowOptions>(
+        delta, context, "show", "Show which files a delta keeps, patches and contains whole", Show);
+    verb.add_option("DELTA", options.delta, "Delta to show")->required();
     verb.add_flag("--json", options.isJson, "Print one JSON object instead of text");
 }
 
@@ -256,11 +263,10 @@ void AddDelta(CLI::App& program, VerbContext& context)
 
 void AddEffortOption(CLI::App& verb, std::string& effort)
 {
-    verb.add_option(
-            "--effort", effort,
-            "How hard deltas are packed. \"low\" takes up to a quarter less time; deltas are 4 to 7 % larger, much "
-            "larger where gzip files change, and clients apply them fastest. \"high\" takes up to a half longer "
-            "and saves 3 to 5 %; clients need up to a half longer")
+    verb.add_option("--effort", effort,
+                    "Effort to make deltas small. \"low\" takes up to a quarter less time. Deltas are 4 to 7 % larger, "
+                    "or much larger if gzip files change, and clients apply them fastest. \"high\" takes up to half as "
+                    "long again and saves 3 to 5 %. Clients need up to half as long again")
         ->type_name("NAME")
         ->capture_default_str()
         ->check(CLI::IsMember({LOW_EFFORT, USUAL_EFFORT, HIGH_EFFORT}));

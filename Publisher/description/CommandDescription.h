@@ -1,5 +1,5 @@
-// CommandDescription.h: the command line of the publisher's tool as a manual page and as completions for shells, made
-// from the same definition that parses it and prints its help.
+// CommandDescription.h: describes the command line of the publisher's tool as a manual page and as completions for
+// shells. Both are made from the definition that parses the command line and prints its help.
 #pragma once
 
 #include <CLI/CLI.hpp>
@@ -11,11 +11,11 @@ namespace Pelnar::Publisher
 
 /// In roff, for section 1.
 std::string ManualPage(CLI::App const& program);
-/// To be sourced by bash.
+/// Bash sources it.
 std::string BashCompletion(CLI::App const& program);
 /// A function file for zsh's fpath.
 std::string ZshCompletion(CLI::App const& program);
-/// To be read by fish.
+/// fish reads it.
 std::string FishCompletion(CLI::App const& program);
 
 } // namespace Pelnar::Publisher

@@ -11,11 +11,11 @@ namespace Pelnar::Publisher
 
 struct DescribedOption
 {
-    std::vector<std::string> names;   ///< "-o", "--output"; of a positional argument its name alone
-    std::string placeholder;          ///< of its value, "TEXT"; empty for a flag
+    std::vector<std::string> names;   ///< "-o", "--output"; for a positional argument only its name
+    std::string placeholder;          ///< of its value, such as "TEXT"; empty for a flag
     std::string description;          ///< without the full stop
-    std::vector<std::string> choices; ///< the values that it takes; empty for any
-    std::string defaultText;          ///< empty when there is none
+    std::vector<std::string> choices; ///< the allowed values; empty if any value is allowed
+    std::string defaultText;          ///< empty if the option has no default
     bool isRequired = false;
     bool isPositional = false;
 };
@@ -25,10 +25,10 @@ struct DescribedCommand
     std::string path; ///< "keys show"; empty for the program itself
     std::string description;
     std::vector<DescribedOption> options; ///< positional arguments first
-    std::vector<std::string> verbs;       ///< the names of those below it
+    std::vector<std::string> verbs;       ///< the names of the verbs below it
 };
 
-/// The program, and every verb before those below it, in the order of the help text.
+/// The program and all its verbs, in the order of the help text. A verb comes before the verbs below it.
 std::vector<DescribedCommand> DescribeCommands(CLI::App const& program);
 
 } // namespace Pelnar::Publisher

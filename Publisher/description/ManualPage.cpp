@@ -53,7 +53,7 @@ pelnar\-appcast serve releases \-\-fault truncate:App\-5.1.zip:100000
 .fi
 )";
 
-/// \a text where nothing is a command of the formatter.
+/// \a text with the formatter's commands escaped.
 std::string Roff(std::string const& text)
 {
     std::string result;
@@ -80,7 +80,7 @@ std::string Roff(std::string const& text)
     return result;
 }
 
-/// A sentence that ends.
+/// A sentence with a full stop.
 std::string Sentence(std::string const& text)
 {
     bool const hasEnd = !text.empty() && (text.back() == '.' || text.back() == '?' || text.back() == ')');

@@ -11,13 +11,13 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// The first sentence or part of one, which fits beside a word.
+/// The first sentence, or a part of it, that fits next to a word.
 std::string Short(std::string const& text)
 {
     return text.substr(0, std::min(text.find_first_of(";:(,\n"), text.size()));
 }
 
-/// \a text between single quotes, of which shells read everything as it is.
+/// \a text in single quotes, in which shells interpret nothing.
 std::string Quoted(std::string const& text)
 {
     std::string quoted = "'";
@@ -30,10 +30,10 @@ std::string Quoted(std::string const& text)
 
 std::string LastWord(std::string const& path)
 {
-    return path.substr(path.rfind(' ') + 1); // of one word the whole
+    return path.substr(path.rfind(' ') + 1); // a single word stays whole
 }
 
-/// The words that may follow, each as 'word:description'.
+/// The possible next words, each as 'word:description'.
 std::string ZshWords(DescribedCommand const& command, std::vector<DescribedCommand> const& all)
 {
     std::string words;

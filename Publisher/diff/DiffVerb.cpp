@@ -71,7 +71,7 @@ ExitStatus Diff(DiffOptions const& options, Console const& console)
     }
     if (changes.empty())
     {
-        console.Print(u"no client gets anything else"_s);
+        console.Print(u"every client gets the same as before"_s);
     }
     return isSame ? ExitStatus::Clean : ExitStatus::Findings;
 }
@@ -82,12 +82,12 @@ void AddDiff(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<DiffOptions>(
         program, context, "diff",
-        "Compares two feeds by effect: which installed versions on which systems get something else", Diff);
-    verb.add_option("OLD", options.feed, "Path or address of the feed as it was")->required();
-    verb.add_option("NEW", options.newFeed, "Path or address of the feed as it will be, or - for standard input")
+        "Compare the effects of two feeds: which installed versions on which systems get another update", Diff);
+    verb.add_option("OLD", options.feed, "Path or address of the old feed")->required();
+    verb.add_option("NEW", options.newFeed, "Path or address of the new feed, or - for standard input")
         ->required();
     verb.add_option("--versions", options.versions,
-                    "Installed versions with commas between them; default: all that either feed names, and 0")
+                    "Installed versions, separated by commas; default: all that either feed names, and 0")
         ->type_name("LIST");
     AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);

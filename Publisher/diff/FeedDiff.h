@@ -34,8 +34,8 @@ struct OutcomeChange
     Outcome after;
 };
 
-/// The versions between which the outcomes of clients can differ: all that either feed names, the bounds of its items
-/// included, and one before them all.
+/// The versions for which the outcomes may differ: all that either feed names, including the bounds of its items, and
+/// one before all of them.
 std::vector<NamedVersion> ClientVersions(std::vector<Engine::FeedItem> const& oldItems,
                                          std::vector<Engine::FeedItem> const& newItems);
 

@@ -55,8 +55,9 @@ void Store(QString const& name, QByteArray const& edited, bool wasSigned, ISigne
         Store(name, edited);
         if (wasSigned)
         {
-            console.Print(u"%1: its signature does not fit any more; sign it again with "
-                          "pelnar-appcast sign-feed --accept-changes"_s.arg(name));
+            console.Print(
+                u"%1: the signature no longer matches the feed; sign it again with pelnar-appcast sign-feed --accept-changes"_s
+                    .arg(name));
         }
         return;
     }
@@ -69,7 +70,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
 {
     QString const name = QString::fromStdString(options.feed);
     FolderLock const lock(QFileInfo(name).absolutePath(), console);
-    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"drop old items"_s);
+    QByteArray bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"remove old items"_s);
     bool const wasSigned = HasSignature(bytes);
     std::unique_ptr<ISigner> const signer = options.signer.IsGiven() ? LoadSigner(options.signer) : nullptr;
     if (signer)
@@ -90,7 +91,7 @@ ExitStatus Run(Edit edit, EditOptions const& options, Console const& console)
     FeedEdit const proof(name, feed.Bytes());
     if (options.isDryRun)
     {
-        console.Print(u"%1: not written, as this is a dry run"_s.arg(name));
+        console.Print(u"%1: not written, because this is a dry run"_s.arg(name));
         return ExitStatus::Clean;
     }
     Store(name, feed.Bytes(), wasSigned, signer.get(), options.validDays, console);
@@ -102,16 +103,17 @@ NewVerb<EditOptions> AddEdit(CLI::App& program, VerbContext& context, char const
     auto const [verb, options] = AddVerb<EditOptions>(program, context, name, what,
                                                       [edit](EditOptions const& given, Console const& console)
                                                       { return Run(edit, given, console); });
-    verb.add_option("FEED", options.feed, "File of the feed; every byte that is not meant stays as it is")->required();
-    verb.add_flag("--dry-run", options.isDryRun, "Show what would be changed, and write nothing");
-    AddSignerOptions(verb, options.signer, ": sign the changed feed. Without it a signed feed must be signed again");
+    verb.add_option("FEED", options.feed, "File of the feed; all other bytes stay unchanged")->required();
+    verb.add_flag("--dry-run", options.isDryRun, "Show the changes, and write nothing");
+    AddSignerOptions(verb, options.signer,
+                     ": sign the changed feed. Without it a signed feed must be signed again afterwards");
     AddValidForOption(verb, options.validDays);
     return {verb, options};
 }
 
 void AddVersion(NewVerb<EditOptions> const& edit)
 {
-    edit.app.add_option("VERSION", edit.options.version, "Version of the items")->required();
+    edit.app.add_option("VERSION", edit.options.version, "Version of the items to change")->required();
 }
 
 } // namespace
@@ -119,19 +121,19 @@ void AddVersion(NewVerb<EditOptions> const& edit)
 void AddEdits(CLI::App& program, VerbContext& context)
 {
     auto const promote =
-        AddEdit(program, context, "promote", "Takes a version out of its channel, so that everybody is offered it",
+        AddEdit(program, context, "promote", "Take a version out of its channel, so that all clients are offered it",
                 [](FeedEdit& feed, EditOptions const& options)
                 { Promote(feed, QString::fromStdString(options.version), QString::fromStdString(options.channel)); });
     AddVersion(promote);
     promote.app.add_option("--to", promote.options.channel, "Put it into this channel instead")->type_name("CHANNEL");
 
     AddVersion(AddEdit(program, context, "withdraw",
-                       "Marks a version as withdrawn: it is offered to nobody, and its archive is not published again",
+                       "Mark a version as withdrawn: no client is offered it, and its archive is not published again",
                        [](FeedEdit& feed, EditOptions const& options)
                        { Withdraw(feed, QString::fromStdString(options.version)); }));
 
     auto const editNotes = AddEdit(
-        program, context, "edit-notes", "Replaces the release notes that a version has in the feed",
+        program, context, "edit-notes", "Replace the release notes of a version in the feed",
         [](FeedEdit& feed, EditOptions const& options)
         {
             QFileInfo const file(QString::fromStdString(options.notes));
@@ -145,23 +147,24 @@ void AddEdits(CLI::App& program, VerbContext& context)
             }
             if (!isRead)
             {
-                throw Refusal({file.filePath(), u"is no file of release notes"_s,
+                throw Refusal({file.filePath(), u"is not a file of release notes"_s,
                                u"give a file that ends in .html, .md or .txt"_s});
             }
             EditNotes(feed, QString::fromStdString(options.version), fresh);
         });
     AddVersion(editNotes);
     editNotes.app
-        .add_option("NOTES", editNotes.options.notes,
-                    "File of the notes: NAME.html, .md or .txt; those in a language, NAME.de.html, come with it")
+        .add_option(
+            "NOTES", editNotes.options.notes,
+            "File of the notes: NAME.html, .md or .txt. Files for a language, such as NAME.de.html, are included")
         ->required();
 
-    auto const prune =
-        AddEdit(program, context, "prune",
-                "Removes old items from a feed; refuses when a client would be offered something else then",
-                [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); });
+    auto const prune = AddEdit(program, context, "prune",
+                               "Remove old items from a feed. Refused if a client would then be offered another update",
+                               [](FeedEdit& feed, EditOptions const& options) { Prune(feed, options.keptVersions); });
     prune.app
-        .add_option("--keep", prune.options.keptVersions, "How many versions stay; withdrawn ones stay beside them")
+        .add_option("--keep", prune.options.keptVersions,
+                    "Number of versions to keep; withdrawn versions are kept in addition")
         ->required()
         ->type_name("N")
         ->check(CLI::Range(1, 2000));

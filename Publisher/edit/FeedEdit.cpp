@@ -35,7 +35,7 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
         if (!feed)
         {
             throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                           u"mend the feed first"_s});
+                           u"correct the feed first"_s});
         }
         for (Engine::FeedItem const& item : feed->items)
         {
@@ -53,7 +53,7 @@ FeedEdit::FeedEdit(QString name, QByteArray bytes)
     if (Bytes() != bytes || bytes.contains('\0'))
     {
         throw Refusal(
-            {m_name, 1, 0, u"is not UTF-8, and only such feeds are changed"_s, u"convert the feed to UTF-8"_s});
+            {m_name, 1, 0, u"is not UTF-8; only UTF-8 feeds can be changed"_s, u"convert the feed to UTF-8"_s});
     }
 }
 
@@ -113,7 +113,7 @@ std::vector<EditedItem const*> FeedEdit::ItemsOf(QString const& version) const
     }
     if (items.empty())
     {
-        throw Refusal({m_name, u"has no item of version \"%1\""_s.arg(version),
+        throw Refusal({m_name, u"has no item with the version \"%1\""_s.arg(version),
                        u"pelnar-appcast matrix shows the versions of a feed"_s});
     }
     return items;

@@ -57,8 +57,9 @@ struct ClientKind
     Engine::Installation installation;
 };
 
-/// On \a machine: with no channel and with each one alone, people who ask and automatic checks. The latter are in the
-/// last group for every version that stays, and in the first one for every other: nobody waits for longer.
+/// The clients on \a machine: without a channel and with each channel, in checks that a person starts and in automatic
+/// checks. Automatic checks are in the last rollout group for versions that stay, and in the first one for all others:
+/// no client waits longer.
 std::vector<ClientKind> KindsOfClients(QString const& machine, std::vector<Engine::FeedItem> const& old,
                                        std::vector<Engine::FeedItem> const& fresh)
 {
@@ -107,7 +108,7 @@ void RefuseOtherOutcomes(QString const& name, QByteArray const& before, QByteArr
         if (!changes.isEmpty())
         {
             throw Refusal(
-                {name, u"%1 would get something else: %2"_s.arg(kind.name, changes.first()), u"keep more versions"_s});
+                {name, u"%1 would get another update: %2"_s.arg(kind.name, changes.first()), u"keep more versions"_s});
         }
     }
 }
@@ -130,7 +131,7 @@ void Promote(FeedEdit& feed, QString const& version, QString const& channel)
 {
     if (!channel.isEmpty() && !Engine::IsChannelName(channel))
     {
-        throw Refusal({u"--to: \"%1\" is no channel"_s.arg(channel), u"give a name without blanks and commas"_s});
+        throw Refusal({u"--to: \"%1\" is not a channel"_s.arg(channel), u"give a name without blanks or commas"_s});
     }
     for (EditedItem const* const item : feed.ItemsOf(version))
     {

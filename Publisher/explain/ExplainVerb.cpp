@@ -49,7 +49,7 @@ ExitStatus Explain(ExplainOptions const& options, Console const& console)
 void AddExplain(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<ExplainOptions>(
-        program, context, "explain", "Says which item a client takes, and why not each of the others", Explain);
+        program, context, "explain", "Show which item a client takes, and why it does not take the others", Explain);
     AddFeedOption(verb, options.feed);
     verb.add_option("--local-version", options.localVersion, "Installed version of the application")
         ->required()
@@ -61,10 +61,10 @@ void AddExplain(CLI::App& program, VerbContext& context)
     AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
     AddPublicKeysOption(verb, options.installation.publicKeys,
-                        "Key that the client trusts, in base64; may be given again; default: those that the feed says "
-                        "its version trusts");
+                        "Public key that the client trusts, in base64; may be repeated; default: the keys that the "
+                        "feed names for its version");
     verb.add_flag("--after-delta", options.isAfterDelta,
-                  "Answer as when the client has been given a delta and asks for a full item to fall back on");
+                  "Answer for a client that was offered a delta and now asks for a full item as the fallback");
 }
 
 } // namespace Pelnar::Publisher

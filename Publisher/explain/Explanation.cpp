@@ -35,7 +35,7 @@ QString FailedTest(FeedItem const& item, Judgement judgement, Client const& clie
     case Judgement::VERSION_UNREADABLE:
         return item.versionString.isEmpty()
                    ? u"no version"_s
-                   : u"version %1 is not one to four numbers with dots"_s.arg(Quoted(item.versionString));
+                   : u"version %1 is not one to four numbers separated by dots"_s.arg(Quoted(item.versionString));
     case Judgement::VERSION_OLDER:
         return u"version %1 < installed %2"_s.arg(item.versionString, TextOf(client.localVersion));
     case Judgement::VERSION_EQUAL:
@@ -45,7 +45,7 @@ QString FailedTest(FeedItem const& item, Judgement judgement, Client const& clie
     case Judgement::DATE_REFUSED:
         return u"date %1 is in the text form that is refused"_s.arg(Quoted(item.dateString));
     case Judgement::LENGTH_ZERO:
-        return u"length is 0, missing or no number"_s;
+        return u"length is 0, missing or not a number"_s;
     case Judgement::VALID:
         return {};
     }
@@ -138,21 +138,21 @@ private:
         QString reason;
         if (&parent != m_choice.full)
         {
-            reason = u"not looked at: item is not the best full one"_s;
+            reason = u"not considered: item is not the best full one"_s;
         }
         else if (m_client.previousAnswer == PreviousAnswer::DELTA)
         {
-            reason = u"not looked at: the previous answer was a delta"_s;
+            reason = u"not considered: the previous answer was a delta"_s;
         }
         else if (!ServesClient(*delta.item, m_client))
         {
-            reason = u"not looked at: starts from %1, installed is %2"_s.arg(
+            reason = u"not considered: starts from %1, installed is %2"_s.arg(
                 delta.item->deltaFrom.isEmpty() ? Quoted(QString()) : delta.item->deltaFrom,
                 TextOf(m_client.localVersion));
         }
         else if (delta.standing == Standing::Lost && delta.detail.isEmpty())
         {
-            reason = u"not looked at: a later delta starts from %1 too"_s.arg(delta.item->deltaFrom);
+            reason = u"not considered: a later delta starts from %1 too"_s.arg(delta.item->deltaFrom);
         }
         if (!reason.isEmpty())
         {
@@ -204,7 +204,7 @@ private:
         case PreferenceRule::NEWER_VERSION:
             return u"newer version, %1 > %2"_s.arg(winner.versionString, loser.versionString);
         case PreferenceRule::WANTED_TYPE:
-            return u"kind, %1 is wanted before %2"_s.arg(KindOf(winner), KindOf(loser));
+            return u"kind, %1 is preferred to %2"_s.arg(KindOf(winner), KindOf(loser));
         case PreferenceRule::SAME_ADDRESS:
             return u"same address, and it comes first"_s;
         case PreferenceRule::LATER_DATE:

@@ -19,7 +19,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-QString const MEND = u"check that the folder is there, who may write to it, and the space on the disk"_s;
+QString const MEND = u"check that the folder exists, that you may write to it, and the space on the disk"_s;
 
 /// The permissions of new files of this user.
 mode_t NewFileMode()
@@ -31,7 +31,7 @@ mode_t NewFileMode()
 
 [[noreturn]] void RefuseName(QString const& path)
 {
-    throw Refusal({path, u"is there already"_s, u"name another, or remove it"_s});
+    throw Refusal({path, u"exists already"_s, u"give another name, or remove it"_s});
 }
 
 /// Renames \a hiddenName in the open folder to \a path, which is in the same folder.
@@ -47,7 +47,7 @@ void NameFinally(int folderFd, QByteArray const& hiddenName, QString const& path
     {
         RefuseName(path);
     }
-    RefuseFile(path, u"cannot be given its name"_s, errno, MEND);
+    RefuseFile(path, u"cannot be renamed to its final name"_s, errno, MEND);
 }
 
 } // namespace
@@ -63,7 +63,7 @@ AtomicFile::AtomicFile(QString const& path) : m_path(path)
     }
     if (!m_descriptor && m_folder)
     {
-        MakeHidden(folder); // this file system has no files without names
+        MakeHidden(folder); // this file system has no unnamed files
     }
     if (!m_descriptor)
     {
@@ -132,7 +132,7 @@ void AtomicFile::LinkHidden()
     m_leftover.emplace(QFile::encodeName(target.absolutePath()).toStdString() + '/' + hidden.toStdString());
     if (::linkat(AT_FDCWD, self.c_str(), m_folder.Get(), hidden.constData(), AT_SYMLINK_FOLLOW) != 0)
     {
-        RefuseFile(m_path, u"cannot be given its name"_s, errno, MEND);
+        RefuseFile(m_path, u"cannot be renamed to its final name"_s, errno, MEND);
     }
     m_hiddenName = hidden;
 }
@@ -186,7 +186,7 @@ void AtomicFile::CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& 
     }
     for (std::unique_ptr<AtomicFile> const& file : files)
     {
-        file->m_named.reset(); // or a signal would take it from under the last one
+        file->m_named.reset(); // otherwise a signal would remove it under the last name
     }
     last.Name(ExistingFile::Replace);
     for (std::unique_ptr<AtomicFile> const& file : files)

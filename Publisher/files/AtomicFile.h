@@ -25,8 +25,8 @@ enum class ExistingFile
 class AtomicFile
 {
 public:
-    /// Opens a file without a name, or a hidden one if the file system has none without names. It is in the folder of
-    /// \a path and has the permissions of a new file. Throws Refusal.
+    /// Opens a file without a name, or a hidden one if the file system cannot do that. The file is in the folder of \a
+    /// path and has the permissions of a new file. Throws Refusal.
     explicit AtomicFile(QString const& path);
     ~AtomicFile();
     AtomicFile(AtomicFile const&) = delete;
@@ -38,8 +38,8 @@ public:
     void Write(QByteArray const& bytes);
     /// Writes everything to the disk and gives the file its name. Throws Refusal.
     void Commit(ExistingFile existing);
-    /// Gives \a files, of one folder, their names, which must be free, and then \a last its own, which may be in use.
-    /// When one cannot be named or the process is told to end, those that are named already go. Throws Refusal.
+    /// Gives \a files, which are in one folder, their names, which must be free, and then \a last its name, which may
+    /// exist. If one cannot be named, or if the process must end, the names given so far are removed. Throws Refusal.
     static void CommitTogether(std::vector<std::unique_ptr<AtomicFile>> const& files, AtomicFile& last);
 
 private:
@@ -51,19 +51,19 @@ private:
     void NameForNow();
 
     QString m_path;
-    QByteArray m_hiddenName; ///< empty while the file has no name at all
+    QByteArray m_hiddenName; ///< empty while the file has no name
     std::optional<Leftover> m_leftover;
-    std::optional<Leftover> m_named; ///< its final name, while that may still go
+    std::optional<Leftover> m_named; ///< its final name, while it may still be removed
     Engine::UniqueFd m_folder;
     Engine::UniqueFd m_descriptor;
     bool m_isCommitted = false;
 };
 
-/// The same for a folder, which takes no name that is in use.
+/// The same for a folder. Its name must be free.
 class NewFolder
 {
 public:
-    /// Makes a hidden folder beside \a path. Throws Refusal, when something has that name as well.
+    /// Makes a hidden folder next to \a path. Throws Refusal, also if \a path exists.
     explicit NewFolder(QString const& path);
     ~NewFolder();
     NewFolder(NewFolder const&) = delete;

@@ -93,7 +93,7 @@ std::vector<Problem> ProblemsOf(Engine::UpdateRefusal const& refusal, InputFile 
     if (refusal.Fault() == Engine::UpdateFault::BundleNotAlone)
     {
         problems.front().mend +=
-            u"; \"__MACOSX\" and \"._\" files of macOS stay out with COPYFILE_DISABLE=1 tar and zip -X"_s;
+            u"; to omit the \"__MACOSX\" and \"._\" files of macOS, use COPYFILE_DISABLE=1 tar, or zip -X"_s;
     }
     return problems;
 }

@@ -48,7 +48,7 @@ Words WordsFor(Engine::DeltaOutcome const& outcome)
     case DeltaError::TreeRefused: // the broken rule says more
         break;
     case DeltaError::NotADelta:
-        return {"is no delta of this format", "make one with \"delta create\""};
+        return {"is not a delta in a known format", "make one with \"delta create\""};
     case DeltaError::Damaged:
         return {"is a damaged delta", "make it again with \"delta create\""};
     case DeltaError::OverLimits:
@@ -56,7 +56,7 @@ Words WordsFor(Engine::DeltaOutcome const& outcome)
     case DeltaError::BaseDiffers:
         return {"the old version is not the one that the delta starts from", "give the bundle that it was made from"};
     case DeltaError::ResultDiffers:
-        return {"the delta does not make what it promises", "make it again with \"delta create\""};
+        return {"the delta makes another bundle than it states", "make it again with \"delta create\""};
     case DeltaError::CannotRead:
         return {"cannot be read", MendOfReading(outcome.systemError)};
     case DeltaError::CannotWrite:

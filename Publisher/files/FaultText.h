@@ -8,7 +8,7 @@
 namespace Pelnar::Publisher
 {
 
-/// The sentence and the mend for \a fault of the file \a name; \a errorNumber is 0 if no system call failed.
+/// The sentence and the correction for \a fault of the file \a name; \a errorNumber is 0 if no system call failed.
 Problem ProblemOf(Engine::UpdateFault fault, int errorNumber, QString const& name);
 Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name);
 /// Whether the cause is this computer or the content of the file.

@@ -19,14 +19,15 @@ FolderLock::FolderLock(QString const& folder, Console const& console)
 {
     if (!m_folder)
     {
-        RefuseFile(folder, u"cannot be read"_s, errno, u"name a folder that is there"_s);
+        RefuseFile(folder, u"cannot be read"_s, errno, u"give an existing folder"_s);
     }
     if (::flock(m_folder.Get(), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
     {
         return;
     }
-    console.err.stream << TextOf({folder, u"another run works here"_s, u"waiting until it has ended"_s}).toStdString()
-                       << std::endl;
+    console.err.stream
+        << TextOf({folder, u"another run is using this folder"_s, u"waiting for it to end"_s}).toStdString()
+        << std::endl;
     while (::flock(m_folder.Get(), LOCK_EX) != 0 && errno == EINTR)
     {
     }

@@ -21,11 +21,11 @@ InputFile OpenInputFile(QString const& path)
     struct stat status;
     if (!descriptor || ::fstat(descriptor.Get(), &status) != 0)
     {
-        RefuseFile(path, u"cannot be read"_s, errno, u"check the name and who may read the file"_s);
+        RefuseFile(path, u"cannot be read"_s, errno, u"check the name and the file's permissions"_s);
     }
     if (!S_ISREG(status.st_mode))
     {
-        throw Refusal({path, u"is no plain file"_s, u"name a file"_s});
+        throw Refusal({path, u"is not a plain file"_s, u"name a file"_s});
     }
     auto const size = static_cast<std::uint64_t>(status.st_size);
     return {std::move(descriptor), path, size,
@@ -36,7 +36,7 @@ QByteArray ReadInputFile(InputFile const& file, std::uint64_t maxBytes, QString 
 {
     if (file.size > maxBytes)
     {
-        throw Refusal({file.name, u"is of %1 bytes, where at most %2 are read"_s.arg(file.size).arg(maxBytes), mend});
+        throw Refusal({file.name, u"has %1 bytes, but at most %2 are allowed"_s.arg(file.size).arg(maxBytes), mend});
     }
     QByteArray bytes(static_cast<int>(file.size), '\0');
     ssize_t const count = Engine::ReadUpTo(file.descriptor.Get(), 0, bytes.data(), std::size_t(bytes.size()));

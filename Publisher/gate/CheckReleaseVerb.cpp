@@ -45,7 +45,7 @@ ExitStatus Check(Options const& options, Console const& console)
 void AddMachineOption(CLI::App& verb, std::vector<std::string>& names, std::string const& otherwise)
 {
     verb.add_option("--machine", names,
-                    "Machine that the programs in bundles for Linux are for; may be given again; without this " +
+                    "Machine that the programs in bundles for Linux are built for; may be repeated; default: " +
                         otherwise)
         ->type_name("NAME")
         ->allow_extra_args(false)
@@ -64,7 +64,7 @@ void CheckPublicKeys(std::vector<std::string> const& keys)
         Engine::Ed25519Key key;
         if (Engine::ParsePublicKey(text, key) != Engine::UpdateFault::None)
         {
-            throw Refusal({u"--public-key: \"%1\" is no Ed25519 key"_s.arg(QString::fromStdString(text)),
+            throw Refusal({u"--public-key: \"%1\" is not an Ed25519 key"_s.arg(QString::fromStdString(text)),
                            u"give the 32 bytes in base64 that pelnar-appcast keys show prints"_s});
         }
     }
@@ -72,21 +72,22 @@ void CheckPublicKeys(std::vector<std::string> const& keys)
 
 void AddCheckRelease(CLI::App& program, VerbContext& context)
 {
-    auto const [verb, options] = AddVerb<Options>(
-        program, context, "check-release",
-        "Judge what is published, or lies ready to be, as the clients of every version will: each archive is unpacked "
-        "and checked by the code that installs it, with the keys that the older bundles trust; exit status 1 when a "
-        "client would refuse something",
-        [](Options const& given, Console const& console)
-        { return JudgeRelease(console, [&] { return Check(given, console); }); });
+    auto const [verb, options] =
+        AddVerb<Options>(program, context, "check-release",
+                         "Check a release as the clients of every version will: each archive is unpacked and checked "
+                         "by the code that installs it, with the keys that the older bundles trust. The exit status is "
+                         "1 if a client would refuse anything",
+                         [](Options const& given, Console const& console)
+                         { return JudgeRelease(console, [&] { return Check(given, console); }); });
     verb.add_option("RELEASE", options.release,
-                    "Folder with appcast.xml and its archives, the feed's file in it, or the address of the published "
-                    "feed, whose downloads are fetched then. The folder must have each download that clients take; "
-                    "one of an older version may be missing, and is not judged")
+                    "Folder with appcast.xml and its archives, the feed file in it, or the address of a published "
+                    "feed, whose downloads are then fetched. The folder must contain every download that clients take; "
+                    "downloads of older versions may be missing and are then not checked")
         ->required();
-    AddMachineOption(verb, options.machines, "it is this one, and every other that the feed names");
-    AddPublicKeysOption(verb, options.publicKeys,
-                        "A key that signed and that no bundle at hand trusts, in base64; may be given again");
+    AddMachineOption(verb, options.machines, "this machine, and all machines that the feed names");
+    AddPublicKeysOption(
+        verb, options.publicKeys,
+        "Public key that signed a download and that no available bundle trusts, in base64; may be repeated");
 }
 
 } // namespace Pelnar::Publisher

@@ -56,10 +56,9 @@ Engine::TrustedKeys KeysOf(BundleTree const& bundle, QString const& path)
         {
             throw Refusal(
                 {path,
-                 u"%1 \"%2\" in the bundle's information file is no Ed25519 key; its clients "
-                 "could never be updated again"_s.arg(
-                     QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
-                     Printable(QString::fromStdString(text).left(60))),
+                 u"%1 \"%2\" in the bundle's information file is not an Ed25519 key; its clients could never be updated again"_s
+                     .arg(QLatin1String(&text == &keys.Texts().front() ? "SUPublicEDKey" : "PelnarNextPublicEDKey"),
+                          Printable(QString::fromStdString(text).left(60))),
                  u"write the entry that \"keys show\" prints"_s},
                 RefusalCause::Content);
         }
@@ -86,12 +85,12 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     }
     else if (KeyIdOf(information.rootPublicKey).isEmpty())
     {
-        throw Refusal({path,
-                       u"PelnarRootPublicEDKey \"%1\" in the bundle's information file is no Ed25519 key; "
-                       "its clients would refuse every feed"_s.arg(
-                           Printable(QString::fromStdString(information.rootPublicKey).left(60))),
-                       u"write the public key that \"keys show\" prints for the root key"_s},
-                      RefusalCause::Content);
+        throw Refusal(
+            {path,
+             u"PelnarRootPublicEDKey \"%1\" in the bundle's information file is not an Ed25519 key; its clients would refuse every feed"_s
+                 .arg(Printable(QString::fromStdString(information.rootPublicKey).left(60))),
+             u"write the public key that \"keys show\" prints for the root key"_s},
+            RefusalCause::Content);
     }
     return version;
 }
@@ -104,7 +103,7 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
     if (!believed)
     {
         throw Refusal({version.path,
-                       u"its clients would refuse the feed, whose key statement they ask for: %1"_s.arg(
+                       u"its clients require a key statement and would refuse the feed: %1"_s.arg(
                            believed.error().sentence.English()),
                        u"make one with \"keys state\", and put it into the feed with the option "
                        "--key-statement of generate or sign-feed"_s},

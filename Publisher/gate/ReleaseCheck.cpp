@@ -156,12 +156,12 @@ private:
             QString const missing = u"%1 is not in the folder"_s.arg(download.fileUrl.fileName());
             if (IsTaken(item))
             {
-                m_refusals.Add({name, u"version %1 cannot be judged: %2"_s.arg(item.versionString, missing),
+                m_refusals.Add({name, u"version %1 cannot be checked: %2"_s.arg(item.versionString, missing),
                                 u"put the published file back; prune removes versions that no client takes"_s});
             }
             else
             {
-                m_console.Print(u"%1: version %2 is not judged: %3"_s.arg(name, item.versionString, missing));
+                m_console.Print(u"%1: version %2 is not checked: %3"_s.arg(name, item.versionString, missing));
             }
         }
         return file;
@@ -247,9 +247,9 @@ private:
             if (key != m_keys.end() && !SignerOf(file, each.signature, {*key}))
             {
                 throw Refusal({file.name,
-                               u"does not bear the published signature of the key %1 (line %2 of the feed)"_s.arg(
+                               u"does not match the published signature of the key %1 (line %2 of the feed)"_s.arg(
                                    each.keyId, QString::number(item.line)),
-                               u"put the published file back, or sign it again by that key"_s},
+                               u"put the published file back, or sign it again with that key"_s},
                               RefusalCause::Content);
             }
             ids.append(each.keyId);
@@ -264,22 +264,23 @@ private:
         QString const& said = item.signerKey;
         if (!signer)
         {
-            throw Refusal({file.name,
-                           u"does not bear the published signature (line %1 of the feed) by any key that a "
-                           "bundle at hand trusts"_s.arg(item.line),
-                           said.isEmpty()
-                               ? u"put the published file back, or give the key that signed it with --public-key"_s
-                               : u"put the published file back, or give the key %1 with --public-key"_s.arg(said)},
-                          RefusalCause::Content);
+            throw Refusal(
+                {file.name,
+                 u"does not match the published signature (line %1 of the feed) with any key that an available bundle trusts"_s
+                     .arg(item.line),
+                 said.isEmpty() ? u"put the published file back, or give the key that signed it with --public-key"_s
+                                : u"put the published file back, or give the key %1 with --public-key"_s.arg(said)},
+                RefusalCause::Content);
         }
         QString const id = KeyIdOf(*signer);
         if (!said.isEmpty() && said != id)
         {
-            throw Refusal({file.name,
-                           u"is signed by the key %1, but the feed says %2 (line %3); clients that trust "
-                           "the first would leave it out"_s.arg(id, said, QString::number(item.line)),
-                           u"write signer=\"%1\" into the item's pelnar:keys"_s.arg(id)},
-                          RefusalCause::Content);
+            throw Refusal(
+                {file.name,
+                 u"is signed by the key %1, but the feed says %2 (line %3); clients that trust the first would ignore it"_s
+                     .arg(id, said, QString::number(item.line)),
+                 u"write signer=\"%1\" into the item's pelnar:keys"_s.arg(id)},
+                RefusalCause::Content);
         }
         return id;
     }
@@ -299,7 +300,7 @@ private:
         {
             throw Refusal(
                 {file->name,
-                 u"holds another bundle than the archive of the item (line %1 of the feed)"_s.arg(recompressed.line),
+                 u"contains another bundle than the archive of the item (line %1 of the feed)"_s.arg(recompressed.line),
                  u"remove the element pelnar:recompressed, or pack the archive's bundle"_s},
                 RefusalCause::Content);
         }
@@ -375,7 +376,7 @@ ExitStatus CheckRelease(ReleaseCheckRequest const& request, Console const& conso
     if (linuxItems.empty() && macItems.empty() && errors.empty())
     {
         throw Refusal(
-            {request.feedName, u"offers nothing that could be judged"_s, u"name the feed that is published"_s});
+            {request.feedName, u"offers nothing that can be checked"_s, u"give the feed that is published"_s});
     }
     return errors.empty() ? ExitStatus::Clean : ExitStatus::Findings;
 }

@@ -49,7 +49,7 @@ void CheckLength(InputFile const& file, Engine::FeedItem const& item)
     if (file.size != item.contentLength)
     {
         throw Refusal({file.name,
-                       u"is of %1 bytes, but is published with %2 (line %3 of the feed)"_s.arg(file.size)
+                       u"has %1 bytes, but the feed says %2 (line %3)"_s.arg(file.size)
                            .arg(item.contentLength)
                            .arg(item.line),
                        u"put the published file back, and give a changed one a new version and name"_s},
@@ -78,8 +78,8 @@ InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
     {
         throw Refusal(
             {name,
-             u"cannot be fetched as the feed says it is: "_s + WithoutFullStop(outcome.error().sentence.English()),
-             u"upload the very file that was signed, before the feed"_s},
+             u"cannot be fetched as the feed describes it: "_s + WithoutFullStop(outcome.error().sentence.English()),
+             u"upload exactly the file that was signed, before the feed"_s},
             RefusalCause::Content);
     }
     struct stat status;

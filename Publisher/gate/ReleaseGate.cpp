@@ -225,19 +225,18 @@ void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& a
     }
     if (followsRoot)
     {
-        refusals.Add({version.path,
-                      u"version %1 is signed by the key %2, but by the feed's key statement its clients "
-                      "trust %3"_s.arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
-                      u"sign it by a valid key, or name the key in a new statement, which \"keys state\" "
-                      "makes"_s});
+        refusals.Add(
+            {version.path,
+             u"version %1 is signed by the key %2, but with the feed's key statement its clients trust %3"_s.arg(
+                 version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
+             u"sign it with a valid key, or make a new statement with \"keys state\" that names the key"_s});
         return;
     }
-    refusals.Add({version.path,
-                  u"version %1 is signed by the key %2, but its bundle trusts another key, %3; its "
-                  "clients would refuse the next update by the same key"_s.arg(
-                      version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
-                  u"write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; when "
-                  "the key is being changed, the new one as PelnarNextPublicEDKey"_s});
+    refusals.Add(
+        {version.path,
+         u"version %1 is signed by the key %2, but its bundle trusts another key, %3; its clients would refuse the next update with the same key"_s
+             .arg(version.versionText, KeyText(version.signerIds), KeyText(version.trustedIds)),
+         u"write the entry that \"keys show\" prints for the signing key as SUPublicEDKey; during a change of keys, write the new key as PelnarNextPublicEDKey"_s});
 }
 
 /// True if clients of \a older reach \a version or a newer one, directly or through versions between them that bring
@@ -310,13 +309,11 @@ void CheckTrust(std::vector<GatedVersion> const& all, RefusalList& refusals)
         QStringList const stranded = version.signerIds.isEmpty() ? QStringList() : StrandedBy(version, all);
         if (!stranded.isEmpty())
         {
-            refusals.Add({version.path,
-                          u"version %1 is signed by the key %2, which strands installed versions: they do "
-                          "not trust it, and no version before it brings it to them: %3"_s.arg(
-                              version.versionText, KeyText(version.signerIds), stranded.join(u", "_s)),
-                          u"publish a version before it, signed by the key that they trust, whose bundle "
-                          "trusts both keys; or sign this one by both; or, to give these versions up, "
-                          "remove their items and archives"_s});
+            refusals.Add(
+                {version.path,
+                 u"version %1 is signed by the key %2, which strands these installed versions, because they do not trust it and no version between brings it: %3"_s
+                     .arg(version.versionText, KeyText(version.signerIds), stranded.join(u", "_s)),
+                 u"first publish a version that is signed by the key they trust and whose bundle trusts both keys; or sign this one with both keys; or give these versions up and remove their items and archives"_s});
         }
     }
 }

@@ -63,8 +63,8 @@ void CheckMacInstaller(InputFile const& file)
     bool const isSame = std::equal(std::begin(mark), std::end(mark), isImage ? IMAGE_MARK : PACKAGE_MARK);
     if (file.size > 0 && !(isRead && isSame)) // an empty file is reported when it is signed
     {
-        throw ContentRefusal({file.name, isImage ? u"is no disk image"_s : u"is no installer package"_s,
-                              u"give it the ending of what it is"_s});
+        throw ContentRefusal({file.name, isImage ? u"is not a disk image"_s : u"is not an installer package"_s,
+                              u"give it the file name ending of its real type"_s});
     }
 }
 
@@ -76,8 +76,8 @@ void CheckPurpose(Engine::BundleInformation const& information, Engine::BundlePu
     }
     bool const isBundle = purpose == Engine::BundlePurpose::Application;
     throw ContentRefusal({path,
-                          isBundle ? u"its name is a bundle's, but the PelnarPayloadKind inside is another"_s
-                                   : u"its name is an installer's, but inside it is not said to be one"_s,
+                          isBundle ? u"it is named as a bundle, but its PelnarPayloadKind is another"_s
+                                   : u"it is named as an installer, but its information file does not say so"_s,
                           isBundle ? u"remove PelnarPayloadKind from the bundle's information file, or mark the "
                                      "name of an installer with .sparkle_guided. or .sparkle_interactive."_s
                                    : u"write PelnarPayloadKind = installer into the information file of a bundle "
@@ -212,8 +212,8 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     if (!item.minimumSystemVersion.isEmpty() && !WholeVersion(item.minimumSystemVersion).IsValid())
     {
         throw ContentRefusal(
-            {path, u"the bundle's LSMinimumSystemVersion \"%1\" is no version"_s.arg(item.minimumSystemVersion),
-             u"write one to four numbers with dots between them"_s});
+            {path, u"the bundle's LSMinimumSystemVersion \"%1\" is not a version"_s.arg(item.minimumSystemVersion),
+             u"write one to four numbers separated by dots"_s});
     }
     Complete(item, archive);
     GatedVersion version = VersionOf(bundle, path, Engine::PayloadKind::WholeBundle);
@@ -236,9 +236,9 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
     if (newer != m_versions.end())
     {
         m_workplace.Warn(version.path,
-                         u"is of version %1, and %2 is published already, which clients take instead"_s.arg(
+                         u"has the version %1, but clients take the published version %2 instead"_s.arg(
                              version.versionText, newer->versionText),
-                         u"give it a greater version, unless it is for those who cannot take the newer"_s);
+                         u"give it a greater version, unless it is for clients that cannot take the newer one"_s);
     }
     auto const rooted =
         std::find_if(m_versions.begin(), m_versions.end(),
@@ -246,10 +246,11 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
                      { return other.bundle && !other.bundle->rootKey.empty() && IsOffered(version, other); });
     if (rooted != m_versions.end() && version.bundle->rootKey.empty())
     {
-        m_workplace.Warn(version.path,
-                         u"names no root key, as version %1 does; no statement can save its clients from "
-                         "a stolen key"_s.arg(rooted->versionText),
-                         u"write PelnarRootPublicEDKey into the bundle's information file"_s);
+        m_workplace.Warn(
+            version.path,
+            u"has no root key, although version %1 has one; no key statement can protect its clients from a stolen key"_s
+                .arg(rooted->versionText),
+            u"write PelnarRootPublicEDKey into the bundle's information file"_s);
     }
 }
 
@@ -257,16 +258,16 @@ void ArchiveIntake::CheckProduct(Engine::BundleInformation const& information, Q
 {
     if (information.identifier.empty())
     {
-        throw ContentRefusal({path, u"the bundle has no CFBundleIdentifier, so that clients refuse it"_s,
+        throw ContentRefusal({path, u"the bundle has no CFBundleIdentifier, so clients refuse it"_s,
                               u"write it into the bundle's information file"_s});
     }
     if (!m_identifier.empty() && m_identifier != information.identifier)
     {
-        throw ContentRefusal(
-            {path,
-             u"is of the product %1, while %2 is of %3"_s.arg(QString::fromStdString(information.identifier),
-                                                              m_identifierSource, QString::fromStdString(m_identifier)),
-             u"give each product a folder of its own"_s});
+        throw ContentRefusal({path,
+                              u"belongs to the product %1, but %2 belongs to %3"_s.arg(
+                                  QString::fromStdString(information.identifier), m_identifierSource,
+                                  QString::fromStdString(m_identifier)),
+                              u"give each product a folder of its own"_s});
     }
     m_identifier = information.identifier;
     m_identifierSource = path;
@@ -279,10 +280,9 @@ NewItem ArchiveIntake::TakeInstaller(FolderArchive const& archive, RefusalList& 
     bool const isForMac = HasMacEnding(archive.fileName);
     if (!isForMac && !archive.isNamedAsContainer)
     {
-        throw ContentRefusal({m_workplace.PathOf(archive.fileName),
-                              u"is no installer that clients of any system take"_s,
-                              u"end its name with .pkg, .mpkg or .dmg for macOS; for Linux pack the bundle whose "
-                              "program installs the new version as a zip or a tar"_s});
+        throw ContentRefusal(
+            {m_workplace.PathOf(archive.fileName), u"is not an installer that clients of any system take"_s,
+             u"for macOS give it a name that ends in .pkg, .mpkg or .dmg; for Linux pack the bundle whose program installs the new version as a zip or a tar"_s});
     }
     item.kind = archive.kind;
     item.platform = isForMac ? Engine::FeedPlatform::MacOS : Engine::FeedPlatform::Linux;
@@ -301,7 +301,7 @@ void ArchiveIntake::TakeInstallerProgram(FolderArchive const& archive, NewItem& 
     Engine::BundleInformation const& information = bundle.Information();
     if (bundle.Platform() != Engine::FeedPlatform::Linux)
     {
-        throw ContentRefusal({path, u"holds a bundle for macOS, where installers are packages and images"_s,
+        throw ContentRefusal({path, u"contains a bundle for macOS, where installers are packages and images"_s,
                               u"publish a .pkg, .mpkg or .dmg for macOS"_s});
     }
     CheckPurpose(information, Engine::BundlePurpose::InstallerProgram, path);
@@ -328,11 +328,11 @@ void ArchiveIntake::Complete(NewItem& item, FolderArchive const& archive)
     if (!item.version.IsValid())
     {
         bool const isBundle = item.kind == ArchiveKind::Bundle;
-        throw ContentRefusal({path, u"\"%1\" is no version"_s.arg(item.versionText),
-                              isBundle ? u"write one to four numbers with dots between them into the bundle's "
-                                         "CFBundleVersion"_s
-                                       : u"name an installer NAME_VERSION.sparkle_guided.ENDING, the version "
-                                         "being one to four numbers with dots between them"_s});
+        throw ContentRefusal(
+            {path, u"\"%1\" is not a version"_s.arg(item.versionText),
+             isBundle
+                 ? u"write one to four numbers separated by dots into the bundle's CFBundleVersion"_s
+                 : u"name an installer NAME_VERSION.sparkle_guided.ENDING, where the version is one to four numbers separated by dots"_s});
     }
     item.publishedAt = m_workplace.publishedAt;
     item.notes = ReadReleaseNotes(m_workplace.folder, archive.stem);
@@ -346,7 +346,7 @@ void ArchiveIntake::CheckClash(NewItem const& item) const
         if (Clashes(item, other))
         {
             throw ContentRefusal({m_workplace.PathOf(item.fileName),
-                                  u"is of version %1, and so is %2"_s.arg(item.versionText, other.fileName), mend});
+                                  u"has the version %1, and so has %2"_s.arg(item.versionText, other.fileName), mend});
         }
     }
     for (PublishedItem const& published : m_feed.Items())
@@ -355,7 +355,7 @@ void ArchiveIntake::CheckClash(NewItem const& item) const
         {
             throw ContentRefusal(
                 {m_workplace.PathOf(item.fileName),
-                 u"is of version %1, which is published already as %2 (line %3 of the feed)"_s.arg(
+                 u"has the version %1, which is already published as %2 (line %3 of the feed)"_s.arg(
                      item.versionText, published.item.fileUrl.toString(), QString::number(published.item.line)),
                  mend});
         }

@@ -50,7 +50,7 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
                         [&client](ClientShare const& other) { return other.version == client.version; });
         if (isKnown)
         {
-            RefuseLine(name, number, u"version %1 stands there twice"_s.arg(Printable(words.front())));
+            RefuseLine(name, number, u"version %1 appears twice"_s.arg(Printable(words.front())));
         }
         clients.push_back(client);
     }

@@ -150,11 +150,11 @@ void DeltaStage::TakeGiven(std::vector<NewItem>& items)
         {
             refusals.ThrowIfAny();
             m_workplace.Warn(path,
-                             hasTarget ? u"left out: starts from version %1, whose archive is not in the folder"_s.arg(
+                             hasTarget ? u"ignored: starts from version %1, whose archive is not in the folder"_s.arg(
                                              Printable(start))
-                                       : u"left out: makes version %1, which gets no new item"_s.arg(Printable(target)),
-                             hasTarget ? u"put that archive into the folder, so that the delta can be proved"_s
-                                       : u"remove it; deltas are published together with the version they make"_s);
+                                       : u"ignored: makes version %1, which gets no new item"_s.arg(Printable(target)),
+                             hasTarget ? u"put that archive into the folder, so that the delta can be verified"_s
+                                       : u"remove it; a delta is published together with the version that it makes"_s);
         }
     }
 }
@@ -176,8 +176,8 @@ void DeltaStage::TakeGiven(NewItem& item, Base const& base, QString const& fileN
     ArchiveSignature const signature = m_workplace.Sign(fileName);
     if (!SavesEnough(signature.length, item.LeastBytes()))
     {
-        m_workplace.Warn(path, u"left out: saves less than a tenth of the whole archive"_s,
-                         u"remove it; clients of that version take the archive"_s);
+        m_workplace.Warn(path, u"ignored: saves less than a tenth of the whole archive"_s,
+                         u"remove it; clients of that version download the archive"_s);
         return;
     }
     item.deltas.push_back({fileName, base.versionText, signature});
@@ -207,7 +207,7 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
     if (WholeVersion(inside) != base.version)
     {
         throw Refusal({m_workplace.PathOf(base.fileName),
-                       u"holds version %1, but is published as %2"_s.arg(inside, base.versionText),
+                       u"contains version %1, but is published as %2"_s.arg(inside, base.versionText),
                        u"put the published archive back"_s},
                       RefusalCause::Content);
     }
@@ -218,7 +218,7 @@ void DeltaStage::Make(NewItem& item, Base const& base, Engine::DeltaEffort effor
     if (!SavesEnough(made.size, item.LeastBytes()))
     {
         m_workplace.Warn(path, u"not published: saves less than a tenth of the whole archive"_s,
-                         u"nothing is to be done; clients of version %1 take the archive"_s.arg(base.versionText));
+                         u"no action is needed; clients of version %1 download the archive"_s.arg(base.versionText));
         return;
     }
     item.deltas.push_back({fileName, base.versionText, m_workplace.Sign(made)});

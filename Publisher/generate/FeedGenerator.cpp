@@ -70,7 +70,7 @@ FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
     {
         return {};
     }
-    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, u"drop old items"_s);
+    QByteArray const bytes = ReadInputFile(OpenInputFile(feedFile), INT_MAX, u"remove old items"_s);
     return ReadFeedContent(feedFile, bytes, key, ChangedFeed::Refused);
 }
 
@@ -193,11 +193,11 @@ public:
         if (items.empty() && m_isNew)
         {
             QStringList const ignored = IgnoredFiles(m_workplace.folder, archives, m_feedFile);
-            throw Refusal({m_workplace.folder,
-                           ignored.isEmpty() ? u"holds no archive"_s
-                                             : u"holds no archive, only "_s + Printable(ignored.join(u", "_s)),
-                           u"put zip or tar archives of bundles there, or installers whose names are "
-                           "marked .sparkle_guided. or .sparkle_interactive."_s});
+            throw Refusal(
+                {m_workplace.folder,
+                 ignored.isEmpty() ? u"contains no archive"_s
+                                   : u"contains no archive, only "_s + Printable(ignored.join(u", "_s)),
+                 u"put zip or tar archives of bundles there, or installers with .sparkle_guided. or .sparkle_interactive. in their names"_s});
         }
         std::size_t const kept = feed.Items().size();
         QByteArray const bytes = FeedWith(items, feed);
@@ -294,7 +294,8 @@ private:
         }
         if (!ignored.isEmpty())
         {
-            m_console.Print(Printable(u"ignored, as neither archives nor notes of one: "_s + ignored.join(u", "_s)));
+            m_console.Print(Printable(u"ignored, because they are neither archives nor release notes of one: "_s +
+                                      ignored.join(u", "_s)));
         }
     }
 
@@ -319,9 +320,9 @@ private:
             if (!read.empty() && read.front().description != item->description)
             {
                 m_workplace.Warn(m_workplace.PathOf(archive.fileName),
-                                 u"the notes beside it are not those that version %1 has in the feed"_s.arg(
+                                 u"the notes next to it differ from those of version %1 in the feed"_s.arg(
                                      Printable(item->versionString)),
-                                 u"put them into the feed with \"edit-notes\", or leave it so"_s);
+                                 u"put them into the feed with \"edit-notes\", or ignore this"_s);
             }
         }
     }
@@ -337,12 +338,12 @@ private:
         if (!unreadable.isEmpty())
         {
             m_workplace.Warn(unreadable.join(u", "_s),
-                             u"may not be read by every user, so perhaps not by the web server"_s,
-                             u"chmod 644 what is uploaded, and set the umask to 022"_s);
+                             u"cannot be read by all users, so perhaps not by the web server"_s,
+                             u"use chmod 644 on the files to upload, and set the umask to 022"_s);
         }
     }
 
-    /// The findings of lint for the whole feed, because published items may need a mend as well.
+    /// The findings of lint for the whole feed, because published items may need a correction too.
     ExitStatus Judge(std::vector<LintFinding> const& findings) const
     {
         if (m_terms)
@@ -377,7 +378,8 @@ std::unique_ptr<ISigner> LoadSecondKey(GenerateRequest const& request, ISigner c
     std::unique_ptr<ISigner> second = LoadSigner(request.secondSigner);
     if (second->PublicKeyText() == first.PublicKeyText())
     {
-        throw Refusal({u"--second-key"_s, u"is the key that signs anyway"_s, u"name another key, or none"_s});
+        throw Refusal(
+            {u"--second-key"_s, u"is the same key as the first"_s, u"give another key, or leave the option out"_s});
     }
     return second;
 }

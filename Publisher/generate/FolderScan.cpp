@@ -101,9 +101,9 @@ QString WhyRefused(Engine::ReleaseNotesRefusal refusal)
     case Engine::ReleaseNotesRefusal::TooLong:
         return u"they are too long"_s;
     case Engine::ReleaseNotesRefusal::TooDeep:
-        return u"elements are nested too deep"_s;
+        return u"elements are nested too deeply"_s;
     case Engine::ReleaseNotesRefusal::TablesTooDeep:
-        return u"tables are nested too deep"_s;
+        return u"tables are nested too deeply"_s;
     case Engine::ReleaseNotesRefusal::TooManyElements:
         return u"there are too many elements"_s;
     case Engine::ReleaseNotesRefusal::TooManyListItems:
@@ -125,7 +125,7 @@ QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
     Engine::ReleaseNotesLimits const limits;
     QByteArray const bytes =
         ReadInputFile(OpenInputFile(path), limits.maxBytes,
-                      u"shorten the notes: clients show no longer ones, and fetch them with every feed"_s);
+                      u"shorten the notes: clients do not show longer ones, and fetch them with every feed"_s);
     QString const text = QString::fromUtf8(bytes.constData(), bytes.size()); // a NUL does not end it
     int const badLine = LineOfBadCharacter(text);
     if (text.toUtf8() != bytes && QByteArray("\xEF\xBB\xBF" + text.toUtf8()) != bytes)
@@ -134,7 +134,7 @@ QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
     }
     if (badLine > 0)
     {
-        throw Refusal({path, badLine, 0, u"has a control character, which a feed cannot hold"_s, u"remove it"_s});
+        throw Refusal({path, badLine, 0, u"has a control character, which a feed cannot contain"_s, u"remove it"_s});
     }
     Engine::FilteredReleaseNotes const shown = Engine::FilterReleaseNotes(text.toStdString(), format, limits);
     if (shown.refusal != Engine::ReleaseNotesRefusal::None)
@@ -227,7 +227,7 @@ std::vector<FolderArchive> ScanFolder(QString const& folder)
     if (!entries.exists() || !QFileInfo(folder).isReadable())
     {
         RefuseFile(folder, u"cannot be read"_s, entries.exists() ? EACCES : ENOENT,
-                   u"name the folder of the archives"_s);
+                   u"give the folder of the archives"_s);
     }
     std::vector<FolderArchive> archives;
     for (QString const& name : NamesIn(folder))
@@ -256,7 +256,7 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
         auto const [known, isNew] = byLanguage.emplace(notes->language, *notes);
         if (!isNew)
         {
-            throw Refusal({PathIn(folder, name), u"there are notes in %1 as well"_s.arg(known->second.fileName),
+            throw Refusal({PathIn(folder, name), u"%1 has release notes too"_s.arg(known->second.fileName),
                            u"keep one of the two"_s});
         }
     }

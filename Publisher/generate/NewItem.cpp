@@ -169,7 +169,7 @@ DownloadAddress::DownloadAddress(QString option, QString pattern) : m_pattern(st
                             !url.toString().contains(u'{') && !url.toString().contains("%7B"_l);
     if (!url.isValid() || url.host().isEmpty() || !isPlain || !isComplete || !(isSecure || isForDryRun))
     {
-        throw Refusal({option + u" is no place that clients download from"_s,
+        throw Refusal({option + u" is not an address that clients download from"_s,
                        u"give an address such as https://updates.example.com/app/ (http only for this "
                        "computer), or as a template https://updates.example.com/{version}/{file}"_s});
     }

@@ -50,9 +50,9 @@ void PublishedArchives::CheckUnchanged(Published const& published)
     {
         throw Refusal(
             {path,
-             u"does not bear the published signature (line %1 of the feed) by this key or by "
-             "any that a bundle at hand trusts"_s.arg(item.line),
-             u"put the published file back, and give a changed one a new version and name; what another key signed needs that key as --public-key"_s},
+             u"does not match the published signature (line %1 of the feed) with this key or any key that an available bundle trusts"_s
+                 .arg(item.line),
+             u"put the published file back, and give a changed one a new version and name; if another key signed it, give that key with --public-key"_s},
             RefusalCause::Content);
     }
     m_signerIds[published.archive.fileName] = KeyIdOf(*signer);

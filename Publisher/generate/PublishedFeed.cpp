@@ -38,7 +38,7 @@ PublishedFeed::PublishedFeed(QString name, QByteArray bytes, QUrl const& address
     if ((m_hasMark ? BYTE_ORDER_MARK + m_text.toUtf8() : m_text.toUtf8()) != m_bytes)
     {
         throw Refusal(
-            {m_name, 1, 0, u"is not UTF-8, and only such feeds are added to"_s, u"convert the feed to UTF-8"_s});
+            {m_name, 1, 0, u"is not UTF-8; items can be added to UTF-8 feeds only"_s, u"convert the feed to UTF-8"_s});
     }
     FindItems();
 }
@@ -49,7 +49,7 @@ void PublishedFeed::TakeItems(Engine::FeedTarget const& target, QUrl const& addr
     if (!feed)
     {
         throw Refusal({m_name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                       u"mend the feed, or move it away to begin a new one"_s});
+                       u"correct the feed, or move it away to start a new one"_s});
     }
     for (Engine::FeedItem const& item : feed->items)
     {
@@ -114,7 +114,7 @@ void PublishedFeed::FindItems()
     }
     if (channelEnd < 0 || m_text.midRef(channelEnd, 2) != "</"_l)
     {
-        throw Refusal({m_name, 1, 0, u"has no channel that items could be added to"_s,
+        throw Refusal({m_name, 1, 0, u"has no channel for new items"_s,
                        u"write <rss><channel> and </channel></rss> around the items"_s});
     }
     if (m_firstItem < 0)

@@ -51,7 +51,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     if (!SavesEnough(made.size, item.signature.length))
     {
         m_workplace.Warn(path, u"not published: saves less than a tenth of the archive"_s,
-                         u"nothing is to be done; clients take the archive"_s);
+                         u"no action is needed; clients download the archive"_s);
         return;
     }
     // Clients must get exactly the bundle that was judged.
@@ -59,7 +59,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     if (again.Name() != bundle.Name() ||
         Engine::DigestTree(again.Descriptor()) != Engine::DigestTree(bundle.Descriptor()))
     {
-        throw Refusal({path, u"holds another bundle than %1"_s.arg(item.fileName), u"leave out --recompress"_s});
+        throw Refusal({path, u"contains another bundle than %1"_s.arg(item.fileName), u"leave out --recompress"_s});
     }
     item.recompressed = NewArchive{fileName, m_workplace.Sign(made)};
     m_made.push_back(std::move(file));

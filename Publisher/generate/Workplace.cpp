@@ -67,7 +67,7 @@ std::unique_ptr<AtomicFile> Workplace::MakeFile(QString const& fileName) const
 {
     if (QFileInfo::exists(PathOf(fileName)))
     {
-        throw Refusal({PathOf(fileName), u"is there already"_s, u"remove it"_s});
+        throw Refusal({PathOf(fileName), u"exists already"_s, u"remove it"_s});
     }
     return std::make_unique<AtomicFile>(PathOf(fileName));
 }

@@ -36,8 +36,8 @@ QStringList WordsOf(QString const& command)
     std::unique_ptr<wordexp_t, void (*)(wordexp_t*)> const owner(&words, &::wordfree);
     if (fault != 0)
     {
-        RefuseSigner(u"\"%1\" is not the line of one command"_s.arg(Printable(command.left(200))),
-                     u"close every quote, set every variable, and put what has pipes into a script"_s);
+        RefuseSigner(u"\"%1\" is not a single command"_s.arg(Printable(command.left(200))),
+                     u"close every quote, set every variable, and put pipes into a script"_s);
     }
     QStringList texts;
     for (std::size_t i = 0; i < words.we_wordc; ++i)
@@ -56,7 +56,7 @@ std::string SignatureIn(QByteArray const& output)
     if (Engine::ParseSignature(text.toStdString(), signature) != Engine::UpdateFault::None)
     {
         RefuseSigner(output.isEmpty() ? u"the program printed nothing"_s
-                                      : u"the program printed %1 bytes that are no signature"_s.arg(output.size()),
+                                      : u"the program printed %1 bytes that are not a signature"_s.arg(output.size()),
                      u"let it write the 64 bytes of the Ed25519 signature, or their base64, to standard "
                      "output, and everything else to standard error"_s);
     }
@@ -81,7 +81,7 @@ QByteArray OutputOf(QProcess& process)
     if (!process.waitForStarted())
     {
         RefuseSigner(u"the program \"%1\" cannot be started: %2"_s.arg(process.program(), process.errorString()),
-                     u"give the command as you type it, with the path of its program"_s);
+                     u"give the command as you would type it, with the path of its program"_s);
     }
     QByteArray output;
     auto const end = std::chrono::steady_clock::now() + LONGEST_RUN;
@@ -94,7 +94,7 @@ QByteArray OutputOf(QProcess& process)
             process.waitForFinished();
             RefuseSigner(output.size() > MOST_OUTPUT_BYTES ? u"the program printed more than a signature"_s
                                                            : u"the program did not end within ten minutes"_s,
-                         u"let it write the signature and end"_s);
+                         u"the program must write the signature and exit"_s);
         }
     };
     while (process.state() != QProcess::NotRunning)
@@ -113,14 +113,14 @@ CommandSigner::CommandSigner(QString const& command, std::string publicKey)
 {
     if (m_command.isEmpty())
     {
-        RefuseSigner(u"names no program"_s, u"give the command as you type it"_s);
+        RefuseSigner(u"does not name a program"_s, u"give the command as you would type it"_s);
     }
     if (KeyIdOf(m_publicKey).isEmpty())
     {
         throw Refusal({u"--signer-key"_s,
-                       m_publicKey.empty()
-                           ? u"is required with --signer"_s
-                           : u"\"%1\" is no Ed25519 key"_s.arg(Printable(QString::fromStdString(m_publicKey).left(60))),
+                       m_publicKey.empty() ? u"is required with --signer"_s
+                                           : u"\"%1\" is not an Ed25519 key"_s.arg(
+                                                 Printable(QString::fromStdString(m_publicKey).left(60))),
                        u"give the public key of the program that signs, 32 bytes in base64"_s});
     }
 }
@@ -145,14 +145,13 @@ std::string CommandSigner::Run(int descriptor, QString const& name) const
         RefuseSigner(process.exitStatus() != QProcess::NormalExit
                          ? u"the program was ended by a signal"_s
                          : u"the program failed with exit status %1"_s.arg(process.exitCode()),
-                     u"see what it said, and run this again"_s);
+                     u"read its messages and try again"_s);
     }
     std::string signature = SignatureIn(output);
     if (Engine::VerifyFileSignature(descriptor, signature, {m_publicKey}) != Engine::UpdateFault::None)
     {
-        RefuseSigner(u"what the program printed is no signature of %1 by the key %2"_s.arg(name, KeyIdOf(m_publicKey)),
-                     u"check which key the program signs with, and that it signs the bytes themselves, not "
-                     "their hash"_s);
+        RefuseSigner(u"the program's output is not a signature of %1 by the key %2"_s.arg(name, KeyIdOf(m_publicKey)),
+                     u"check which key the program uses, and that it signs the bytes themselves and not their hash"_s);
     }
     return signature;
 }
@@ -170,7 +169,7 @@ std::string CommandSigner::SignatureOf(QByteArray const& message) const
         !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<unsigned char const*>(message.constData()),
                                                     std::size_t(message.size()))))
     {
-        RefuseFile(u"the feed"_s, u"cannot be handed to the program"_s, errno, {});
+        RefuseFile(u"the feed"_s, u"cannot be passed to the program"_s, errno, {});
     }
     return Run(file.Get(), u"the feed"_s);
 }

@@ -41,7 +41,8 @@ void AddFormOption(CLI::App& verb, PublicKeyForm& form)
         {"xml", PublicKeyForm::Xml}, {"gnustep", PublicKeyForm::Gnustep}, {"bare", PublicKeyForm::Bare}};
     verb.add_option_function<std::string>(
             "--format", [&form](std::string const& name) { form = FORMS.at(name); },
-            "How the public key is printed: as an entry of an XML information file, as one of a GNUstep file, or bare")
+            "Form of the public key: an entry for an XML information file, an entry for a GNUstep file, or the key "
+            "alone")
         ->check(CLI::IsMember({"xml", "gnustep", "bare"}))
         ->default_str("xml");
 }
@@ -64,8 +65,8 @@ void AddGenerateKey(CLI::App& keys, VerbContext& context)
 {
     auto const [verb, options] =
         AddVerb<KeyOptions>(keys, context, "generate",
-                            "Make a key, write the private half to a new file that only you may read, and "
-                            "print the public half as the entry for the bundle's information file",
+                            "Make a key pair. Write the private key to a new file that only you may read, and print "
+                            "the public key as the entry for the bundle's information file",
                             Generate);
     verb.add_option("FILE", options.file, "New file for the private key")->required();
     AddFormOption(verb, options.form);
@@ -81,7 +82,7 @@ ExitStatus Show(KeyOptions const& options, Console const& console)
 void AddShow(CLI::App& keys, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<KeyOptions>(
-        keys, context, "show", "Print the public half of a key as the entry for the bundle's information file", Show);
+        keys, context, "show", "Print the public key as the entry for the bundle's information file", Show);
     verb.add_option("FILE", options.file, KEY_FILE_HELP)->required();
     AddFormOption(verb, options.form);
 }
@@ -98,8 +99,8 @@ ExitStatus Export(ExportOptions const& options, Console const& console)
     SigningKey const key = SigningKey::Load(QString::fromStdString(options.file));
     if (console.out.isTerminal && !options.isTerminalWanted)
     {
-        return console.Refuse({u"the private key would stand on this terminal"_s,
-                               u"hand it to another program or a file, or say --to-terminal"_s});
+        return console.Refuse({u"the private key would be visible on this terminal"_s,
+                               u"send the output to another program or a file, or add --to-terminal"_s});
     }
     SecretBytes const text = key.SecretText(options.form == "seed" ? KeyForm::Seed : KeyForm::SecretKey);
     console.out.stream.write(reinterpret_cast<char const*>(text.Data()), std::streamsize(text.Size() - 1));
@@ -111,17 +112,18 @@ void AddExport(CLI::App& keys, VerbContext& context)
     auto const [verb, options] = AddVerb<ExportOptions>(
         keys, context, "export", "Print the private key, for a backup or another program", Export);
     verb.add_option("FILE", options.file, KEY_FILE_HELP)->required();
-    verb.add_option("--form", options.form, "32 bytes (seed) or, with the public half, 64 (secret-key), in base64")
+    verb.add_option("--form", options.form,
+                    "Form of the private key: 32 bytes (seed), or 64 bytes with the public key (secret-key), in base64")
         ->check(CLI::IsMember({"seed", "secret-key"}))
         ->capture_default_str();
-    verb.add_flag("--to-terminal", options.isTerminalWanted, "Print it even when standard output is a terminal");
+    verb.add_flag("--to-terminal", options.isTerminalWanted, "Print it even if standard output is a terminal");
 }
 
 } // namespace
 
 void AddKeys(CLI::App& program, VerbContext& context)
 {
-    CLI::App& keys = *program.add_subcommand("keys", "Make, show and change the keys with which archives are signed");
+    CLI::App& keys = *program.add_subcommand("keys", "Make, show and change the keys that sign archives and feeds");
     keys.require_subcommand(1);
     AddGenerateKey(keys, context);
     AddShow(keys, context);

@@ -79,7 +79,8 @@ public:
             u"%1. %2: %3%4"_s.arg(++m_count).arg(state, what, isDone ? u" (%1)"_s.arg(NamesOf(doneBy)) : QString()));
         if (!isDone && !waitsFor.isEmpty())
         {
-            m_console.Print(u"   must be gone first, since they trust the old key only: "_s + NamesOf(waitsFor));
+            m_console.Print(u"   these versions must be gone first, because they trust only the old key: "_s +
+                            NamesOf(waitsFor));
         }
         if (!isDone && !more.isEmpty())
         {
@@ -96,7 +97,7 @@ private:
 void Print(RotationState const& state, Console const& console)
 {
     Guide guide(console);
-    guide.Step(u"publish a version that is signed by the old key and whose bundle trusts both keys"_s, state.bridges,
+    guide.Step(u"publish a version that is signed with the old key and whose bundle trusts both keys"_s, state.bridges,
                {}, u"the old key is its SUPublicEDKey, the new one its PelnarNextPublicEDKey"_s);
     guide.Step(
         u"sign the next version with the new key; its bundle still trusts both keys"_s, state.byNewKey, {},
@@ -113,8 +114,9 @@ void Print(RotationState const& state, Console const& console)
     guide.Step(u"destroy the old private key"_s, {}, state.onlyOld);
     if (!state.unknown.isEmpty())
     {
-        console.Print(u"The feed does not say which keys these trust; count them as the old key's: "_s +
-                      NamesOf(state.unknown));
+        console.Print(
+            u"The feed does not say which keys these versions trust. Assume that they trust only the old key: "_s +
+            NamesOf(state.unknown));
     }
 }
 
@@ -134,17 +136,17 @@ void AddRotate(CLI::App& keys, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<Options>(
         keys, context, "rotate",
-        "Say how far a feed is in the change from one signing key to another, what the next step is, and which "
-        "installed versions must be gone before it",
+        "Show the progress of a feed from one signing key to another: the next step, and the installed versions that "
+        "must be gone before it",
         Rotate);
     AddFeedOption(verb, options.feed);
     auto const isKey = [](std::string const& text)
-    { return Engine::KeyIdOf(text).empty() ? text + " is no Ed25519 key" : std::string(); };
-    verb.add_option("--from", options.oldKey, "The public key that signs until now, in base64")
+    { return Engine::KeyIdOf(text).empty() ? text + " is not an Ed25519 key" : std::string(); };
+    verb.add_option("--from", options.oldKey, "The old public key, which signs until now, in base64")
         ->required()
         ->type_name("KEY")
         ->check(isKey);
-    verb.add_option("--to", options.newKey, "The public key that is to sign, in base64")
+    verb.add_option("--to", options.newKey, "The new public key, in base64")
         ->required()
         ->type_name("KEY")
         ->check(isKey);

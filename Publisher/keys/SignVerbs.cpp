@@ -75,13 +75,13 @@ void AddVerify(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<VerifyOptions>(
         program, context, "verify",
-        "Judge an archive's signature as clients do; exit status 1 when they would refuse the archive", Verify);
+        "Verify an archive's signature as clients do. The exit status is 1 if they would refuse the archive", Verify);
     verb.add_option("ARCHIVE", options.archive, "Archive, installer or delta")->required();
     verb.add_option("--signature", options.signature, "The feed's sparkle:edSignature")
         ->required()
         ->type_name("SIGNATURE");
     verb.add_option("--public-key", options.publicKeys,
-                    "The bundle's SUPublicEDKey; give it twice for a bundle that trusts two")
+                    "The bundle's SUPublicEDKey; give the option twice if the bundle trusts two keys")
         ->required()
         ->expected(1, 2)
         ->allow_extra_args(false)

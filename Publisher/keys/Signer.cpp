@@ -41,10 +41,11 @@ void AddSignerOptions(CLI::App& verb, SignerOptions& options, std::string const&
                     "File of the private key, or \"-\" for standard input" + purpose)
         ->type_name("FILE");
     verb.add_option(command, options.command,
-                    "Instead of a private key, a program that signs: what is to be signed is its standard input, and "
-                    "the signature, 64 bytes or their base64, its standard output")
+                    "Instead of a private key: a program that reads the data from standard input and writes the "
+                    "signature, 64 bytes or their base64, to standard output")
         ->type_name("COMMAND");
-    verb.add_option(command + "-key", options.publicKey, "The public key of that program, in base64")->type_name("KEY");
+    verb.add_option(command + "-key", options.publicKey, "The public key that this program signs with, in base64")
+        ->type_name("KEY");
 }
 
 std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options)

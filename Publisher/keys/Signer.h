@@ -62,15 +62,15 @@ struct SignerOptions
     std::string command = {};   ///< of the publisher's program
     std::string publicKey = {}; ///< of that program
 
-    /// Whether the command line names something that signs, even if it does so in a wrong way.
+    /// True if the command line names a signer, even in a wrong way.
     [[nodiscard]] bool IsGiven() const { return !keyFile.empty() || !command.empty() || !publicKey.empty(); }
 };
 
-/// The two options that \a options name, and "--signer-key" or what it is called there. \a purpose says what is signed
-/// by the key in the file.
+/// Adds the two options whose names are in \a options, and "--signer-key" or its counterpart there. \a purpose says
+/// what the key in the file signs.
 void AddSignerOptions(CLI::App& verb, SignerOptions& options, std::string const& purpose = {});
 
-/// What \a options name. Throws Refusal: unless they name one of the two, and for what cannot sign.
+/// The signer that \a options name. Throws Refusal unless they name exactly one of the two, and if it cannot sign.
 std::unique_ptr<ISigner> LoadSigner(SignerOptions const& options);
 
 } // namespace Pelnar::Publisher

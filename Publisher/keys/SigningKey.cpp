@@ -22,7 +22,7 @@ namespace
 
 constexpr std::size_t SEED_BYTES = crypto_sign_ed25519_SEEDBYTES;
 constexpr std::size_t SECRET_BYTES = crypto_sign_ed25519_SECRETKEYBYTES;
-constexpr std::size_t MOST_TEXT_BYTES = 256; ///< of a key's file
+constexpr std::size_t MOST_TEXT_BYTES = 256; ///< of a key file
 constexpr auto BASE64 = sodium_base64_VARIANT_ORIGINAL;
 QString const STANDARD_INPUT = u"-"_s;
 
@@ -50,17 +50,18 @@ void CheckKeyFile(int descriptor, QString const& path)
     }
     if (!S_ISREG(status.st_mode))
     {
-        throw Refusal({path, u"is no plain file"_s, u"name the private key's own file, or \"-\" for standard input"_s});
+        throw Refusal(
+            {path, u"is not a plain file"_s, u"give the private key's own file, or \"-\" for standard input"_s});
     }
     if (status.st_uid != ::geteuid())
     {
-        throw Refusal({path, u"belongs to another user"_s, u"make the file yours, and ask who has read it"_s});
+        throw Refusal({path, u"belongs to another user"_s, u"become its owner, and find out who has read it"_s});
     }
     if ((status.st_mode & 077) != 0)
     {
-        throw Refusal({path,
-                       u"others may read this private key (mode %1)"_s.arg(status.st_mode & 07777, 4, 8, QChar(u'0')),
-                       u"chmod 600 the file, and consider whether the key is still a secret"_s});
+        throw Refusal(
+            {path, u"other users may read this private key (mode %1)"_s.arg(status.st_mode & 07777, 4, 8, QChar(u'0')),
+             u"chmod 600 the file, and consider whether the key is still a secret"_s});
     }
 }
 
@@ -68,8 +69,8 @@ Engine::UniqueFd OpenKeyFile(QString const& path)
 {
     if (LooksLikeKey(path))
     {
-        // Deliberate: not printed, it would stand in one more place.
-        throw Refusal({u"a private key is never an argument: every user can list arguments"_s,
+        // Deliberate: the text is not printed. It would be in one more place then.
+        throw Refusal({u"a private key must not be an argument, because all users can list arguments"_s,
                        u"put it in a file of mode 0600 or on standard input (\"-\"), and make a new key "
                        "if others use this computer"_s});
     }
@@ -77,7 +78,7 @@ Engine::UniqueFd OpenKeyFile(QString const& path)
     Engine::UniqueFd descriptor(::open(QFile::encodeName(path).constData(), flags));
     if (!descriptor && errno == ELOOP)
     {
-        throw Refusal({path, u"is a link, which may lead anywhere tomorrow"_s, u"name the private key's own file"_s});
+        throw Refusal({path, u"is a link, whose target may change"_s, u"give the private key's own file"_s});
     }
     if (!descriptor)
     {
@@ -88,7 +89,7 @@ Engine::UniqueFd OpenKeyFile(QString const& path)
     return descriptor;
 }
 
-/// Reads \a descriptor to its end into \a text; answers how many bytes that were.
+/// Reads \a descriptor to its end into \a text; returns the number of bytes.
 std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
 {
     std::size_t size = 0;
@@ -113,7 +114,7 @@ std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
 
 [[noreturn]] void RefuseKeyText(QString const& name)
 {
-    throw Refusal({name, 1, 0, u"is no private key"_s,
+    throw Refusal({name, 1, 0, u"is not a private key"_s,
                    u"a key is one line: 32 or 64 bytes in base64, as \"keys generate\" writes it"_s});
 }
 
@@ -159,7 +160,7 @@ SigningKey SigningKey::Load(QString const& path)
     SecretBytes text(MOST_TEXT_BYTES);
     if (path == STANDARD_INPUT)
     {
-        // Past the streams of the program: their buffers are not wiped.
+        // Not through the program's streams, because their buffers are not wiped.
         std::size_t const size = ReadSecret(STDIN_FILENO, u"<stdin>"_s, text);
         return FromText(u"<stdin>"_s, text, size);
     }
@@ -191,7 +192,7 @@ SigningKey SigningKey::FromText(QString const& name, SecretBytes const& text, st
     if (givenSize == SECRET_BYTES && ::sodium_memcmp(given.Data(), secret.Data(), SECRET_BYTES) != 0)
     {
         throw Refusal(
-            {name, 1, 0, u"the two halves of the key do not belong together"_s, u"fetch the key from its backup"_s});
+            {name, 1, 0, u"the two halves of the key do not belong together"_s, u"restore the key from its backup"_s});
     }
     return SigningKey(std::move(secret));
 }
@@ -219,8 +220,8 @@ void SigningKey::Save(QString const& path) const
     Engine::UniqueFd const file(::open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!file && errno == EEXIST)
     {
-        throw Refusal({path, u"is there already; a lost private key cannot be made again"_s,
-                       u"name another file, or move this one away"_s});
+        throw Refusal({path, u"exists already; a lost private key cannot be made again"_s,
+                       u"give another name, or move this file away"_s});
     }
     if (!file)
     {

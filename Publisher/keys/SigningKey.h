@@ -38,7 +38,7 @@ private:
 /// The ways to write a private key.
 enum class KeyForm
 {
-    Seed,      ///< base64 of the 32 bytes that everything follows from
+    Seed,      ///< base64 of the 32 bytes that the key pair is derived from
     SecretKey, ///< base64 of 64 bytes: the seed and the public key
 };
 
@@ -46,14 +46,14 @@ class SigningKey final : public ISigner
 {
 public:
     static SigningKey Generate();
-    /// The key in the file \a path, or on standard input when it is "-". Throws Refusal: for a file that others may
-    /// read, a link, a file of another user, and for what is no key.
+    /// The key in the file \a path, or on standard input if it is "-". Throws Refusal for a file that others may read,
+    /// a link, a file of another user, and text that is not a key.
     static SigningKey Load(QString const& path);
 
     QString PublicKeyText() const override;
-    /// The private key in that form and the line's end. Ends in a NUL.
+    /// The private key in that form and a line feed. Ends with a NUL.
     SecretBytes SecretText(KeyForm form) const;
-    /// Writes the seed to a new file that only its owner may read. Throws Refusal, when there is a file as well.
+    /// Writes the seed to a new file that only its owner may read. Throws Refusal, also if the file exists.
     void Save(QString const& path) const;
     ArchiveSignature Sign(InputFile const& archive) const override;
     std::string SignatureOf(QByteArray const& message) const override;

@@ -1,4 +1,4 @@
-// StateVerb.cpp: "keys state": the root key says which signing keys are valid.
+// StateVerb.cpp: "keys state": declares with the root key which signing keys are valid.
 
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/check/KeyStatement.h"
@@ -25,7 +25,7 @@ struct Options
     int validDays = USUAL_DAYS;
 };
 
-/// The ids of keys that are given by id or as a whole.
+/// The ids of keys that are given as an id or in full.
 std::vector<std::string> IdsOf(std::vector<std::string> const& texts)
 {
     std::vector<std::string> ids;
@@ -55,9 +55,9 @@ ExitStatus State(Options const& options, Console const& console)
     std::string const text = Engine::TextOf(statement);
     if (!Engine::ParseKeyStatement(text))
     {
-        throw Refusal({u"clients would not take this statement"_s,
-                       u"give a serial from 1, one bundle to eight, one or two valid keys, at most 64 "
-                       "revoked ones, each once, and revoke no valid key"_s});
+        throw Refusal(
+            {u"clients would not accept this statement"_s,
+             u"give a serial from 1, one to eight bundles, one or two valid keys and at most 64 revoked keys, each only once; a key cannot be both valid and revoked"_s});
     }
     if (statement.validKeys.HasId(Engine::KeyIdOf(root->PublicKeyText().toStdString())))
     {
@@ -73,16 +73,15 @@ ExitStatus State(Options const& options, Console const& console)
 
 void AddState(CLI::App& keys, VerbContext& context)
 {
-    auto const [verb, options] = AddVerb<Options>(
-        keys, context, "state",
-        "Say with the root key which signing keys are valid and which are revoked, and print the line for the "
-        "feed; needs no network",
-        State);
+    auto const [verb, options] = AddVerb<Options>(keys, context, "state",
+                                                  "Declare with the root key which signing keys are valid and which "
+                                                  "are revoked. Prints the line for the feed; needs no network",
+                                                  State);
     AddSignerOptions(verb, options.root, ", of the root key");
-    verb.add_option("--serial", options.serial, "Number of the statement, above that of the last one")
+    verb.add_option("--serial", options.serial, "Serial number of the statement, greater than that of the last one")
         ->required()
         ->type_name("NUMBER");
-    verb.add_option("--bundle", options.bundles, "Identifier of the bundle that it is for; may be given again")
+    verb.add_option("--bundle", options.bundles, "Identifier of a bundle that it is for; may be repeated")
         ->required()
         ->allow_extra_args(false)
         ->type_name("IDENTIFIER");
@@ -90,11 +89,10 @@ void AddState(CLI::App& keys, VerbContext& context)
         ->required()
         ->allow_extra_args(false)
         ->type_name("KEY");
-    verb.add_option("--revoke", options.revoked,
-                    "Public key, or its id, that must never count again; may be given again")
+    verb.add_option("--revoke", options.revoked, "Public key that is revoked forever, or its id; may be repeated")
         ->allow_extra_args(false)
         ->type_name("KEY");
-    verb.add_option("--valid-for", options.validDays, "Days until the statement counts no more")
+    verb.add_option("--valid-for", options.validDays, "Days until the statement expires")
         ->type_name("DAYS")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();

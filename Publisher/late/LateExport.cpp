@@ -1,4 +1,4 @@
-// LateExport.cpp: what the library that is loaded late offers to the tool.
+// LateExport.cpp: the functions that the late library offers to the tool.
 
 #include "Publisher/late/LatePart.h"
 #include "Publisher/late/ZstdTar.h"
@@ -15,7 +15,7 @@ namespace
 
 Engine::FetchOutcome FetchFeed(QUrl const& address)
 {
-    // Deliberate: plain http is read here and reported by lint; the publisher harms nobody but the feed's clients.
+    // Deliberate: plain http is allowed here, because lint reports it. Only the feed's clients would be at risk.
     Engine::FeedFetcher fetcher(Engine::FetchLimits(), Engine::InsecureHttp::Anywhere);
     Engine::FetchOutcome outcome;
     QEventLoop loop;

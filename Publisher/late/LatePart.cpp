@@ -13,14 +13,14 @@ namespace
 
 [[noreturn]] void RefuseToLoad(QString const& reason)
 {
-    throw Refusal({u"a part of this program cannot be loaded: "_s + reason,
-                   u"install the package pelnar-appcast again, and what it depends on (libcurl4, "
-                   "libqt5network5, libarchive13)"_s});
+    throw Refusal(
+        {u"a part of this program cannot be loaded: "_s + reason,
+         u"reinstall the package pelnar-appcast and its dependencies (libcurl4, libqt5network5, libarchive13)"_s});
 }
 
 LatePart const& Load()
 {
-    // Deliberate: a bare name, which the loader looks for where this program says that its libraries are.
+    // Deliberate: a bare name. The loader searches the folders in this program's run path.
     void* const library = ::dlopen(PELNAR_LATE_LIBRARY, RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
     auto const* const part = library ? static_cast<LatePart const*>(::dlsym(library, "pelnarAppcastLate")) : nullptr;
     if (!part)
@@ -30,7 +30,7 @@ LatePart const& Load()
     }
     if (std::strcmp(part->version, PELNAR_VERSION) != 0)
     {
-        RefuseToLoad(u"it is of version "_s + QString::fromLatin1(part->version));
+        RefuseToLoad(u"it has the version "_s + QString::fromLatin1(part->version));
     }
     return *part;
 }

@@ -1,5 +1,6 @@
-// LatePart.h: what most runs of the tool do without: servers, being one, and writing archives. It is a library of its
-// own, which is loaded when a verb needs it first: libcurl, OpenSSL, Qt Network and libarchive bring fifty libraries.
+// LatePart.h: the functions that few runs of the tool need: fetching from servers, serving, and writing archives. They
+// are in a library of their own, which is loaded when a verb first needs it, because libcurl, OpenSSL, Qt Network and
+// libarchive bring fifty libraries.
 // Thread: the main thread, with Qt's event loop. Ownership: the library's, which stays loaded.
 #pragma once
 
@@ -16,7 +17,7 @@ namespace Pelnar::Publisher
 
 struct LatePart
 {
-    /// Of the build that made the library. It stays the first field: it is read before the meaning of the others is
+    /// The build that made the library. This stays the first field: it is read before the meaning of the others is
     /// known.
     char const* version;
     /// Fetches a feed, or another small page, from any address.
@@ -30,7 +31,7 @@ struct LatePart
                          ByteProgress const& progress);
 };
 
-/// Loads the library at the first call. Throws Refusal if it, or a library that it needs, cannot be loaded.
+/// Loads the library at the first call. Throws Refusal if the library, or another one that it needs, cannot be loaded.
 [[nodiscard]] LatePart const& LoadLatePart();
 
 } // namespace Pelnar::Publisher

@@ -28,7 +28,7 @@ constexpr int LEVEL = 19;
 constexpr int WINDOW_LOG = 25; ///< a client needs 32 MiB to unpack it
 constexpr std::size_t PIECE_BYTES = std::size_t(1) << 20;
 
-/// Packs what comes and writes it.
+/// Compresses its input and writes it.
 class ZstdFile
 {
 public:
@@ -42,9 +42,9 @@ public:
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_windowLog, WINDOW_LOG);
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_enableLongDistanceMatching, 1);
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_checksumFlag, 1);
-        // Without this a thread takes four windows, and a bundle is packed by one.
+        // zstd would otherwise give each thread four windows, and one thread would compress a whole bundle.
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_jobSize, 1 << WINDOW_LOG);
-        // The number of threads does not change the bytes, unless it is 0. A library without threads refuses it.
+        // Any number of threads except 0 makes the same bytes. A zstd built without threads refuses this setting.
         ZSTD_CCtx_setParameter(m_context.get(), ZSTD_c_nbWorkers,
                                static_cast<int>(std::max(1u, std::thread::hardware_concurrency())));
     }
@@ -60,7 +60,7 @@ public:
             left = ZSTD_compressStream2(m_context.get(), &out, &in, directive);
             if (ZSTD_isError(left))
             {
-                errno = ENOMEM; // nothing else can fail here
+                errno = ENOMEM; // no other error is possible here
                 return false;
             }
             if (!Engine::WriteAll(m_fd, Engine::Bytes(m_packed.data(), out.pos)))
@@ -77,7 +77,7 @@ private:
     std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> m_context;
 };
 
-/// The tar format of GNU keeps the bytes of names as they are, in any locale.
+/// GNU tar keeps the bytes of names unchanged in any locale.
 class TarWriter
 {
 public:

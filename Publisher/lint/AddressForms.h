@@ -1,4 +1,4 @@
-// AddressForms.h: what an address in a feed looks like as it is written.
+// AddressForms.h: forms of addresses as a feed writes them.
 #pragma once
 
 #include "Publisher/lint/LintSubject.h"
@@ -6,10 +6,10 @@
 namespace Pelnar::Publisher
 {
 
-/// The url attribute, without blanks around it; empty when there is none.
+/// The url attribute without the blanks around it; empty if it is absent.
 QString WrittenAddress(LintDownload const& download);
 
-/// "file:///a", "/home/me/a", "C:\a": an address that means something on the publisher's computer only.
+/// True for an address that only the publisher's computer can resolve, such as "file:///a", "/home/me/a" or "C:\a".
 [[nodiscard]] bool IsOfThisDisk(QString const& text);
 
 } // namespace Pelnar::Publisher

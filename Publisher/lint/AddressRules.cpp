@@ -1,4 +1,4 @@
-// AddressRules.cpp: addresses that only the publisher can reach, that lead to no update, or that two versions share.
+// AddressRules.cpp: addresses that only the publisher can reach, that are no download, or that two versions share.
 
 #include "Engine/core/fetch/AddressReach.h"
 #include "Publisher/Console.h"
@@ -17,7 +17,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// An address of this computer, of its link, or of a network that others cannot see.
+/// True for an address of this computer, of its network link, or of a private network.
 bool IsPrivate(Engine::NumericAddress const& address)
 {
     struct Subnet
@@ -41,7 +41,7 @@ bool IsPrivate(Engine::NumericAddress const& address)
     return (address[0] & 0xfe) == 0xfc || (address[0] == 0xfe && (address[1] & 0xc0) == 0x80);
 }
 
-/// Of no place that a client on another network reaches.
+/// True if no client on another network can reach the host.
 bool IsNear(QUrl const& url)
 {
     QString host = url.host();
@@ -90,7 +90,7 @@ void CheckDownloadAddress(LintDownload const& download, QUrl const& feed, LintFi
     }
 }
 
-/// Of texts that hold addresses: the notes' markup and their link.
+/// Addresses in texts: in the markup of the notes, and in their link.
 void CheckNotesAddresses(LintElement const& item, LintFindings& findings)
 {
     static QRegularExpression const LINK(u"(?:href|src)\\s*=\\s*[\"']?\\s*(file:[^\"'\\s>]*)"_s,
@@ -128,8 +128,8 @@ void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& find
         if (OrderOfTexts(item.full.item->versionString, first->full.item->versionString) != 0)
         {
             findings.Add(LintRule::SharedAddress, item.full.Place(),
-                         u"%1 is the address of %2 in line %3 as well"_s.arg(
-                             address, NameOf(*first->full.item), QString::number(first->full.Place().line)));
+                         u"%1 is also the address of %2 in line %3"_s.arg(address, NameOf(*first->full.item),
+                                                                          QString::number(first->full.Place().line)));
         }
     }
 }

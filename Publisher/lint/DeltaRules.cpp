@@ -1,4 +1,4 @@
-// DeltaRules.cpp: deltas that no client takes, or that only chance decides between.
+// DeltaRules.cpp: deltas that no client takes, and deltas whose order is undefined.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -21,7 +21,7 @@ bool IsSame(QString const& textA, QString const& textB)
     return version.IsValid() && version == WholeVersion(textB);
 }
 
-/// The parser leaves such a delta out.
+/// The parser omits such a delta.
 void CheckStarts(LintElement const& item, LintFindings& findings)
 {
     for (LintElement const& deltas : item.children)
@@ -54,13 +54,14 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
     QString const& itemVersion = item.full.item->versionString;
     if (OrderOfTexts(delta.item->versionString, itemVersion) != 0)
     {
-        findings.Add(LintRule::DeltaVersion, delta.Place(),
-                     u"it makes version %1, and its item is of %2"_s.arg(delta.item->versionString, itemVersion));
+        findings.Add(
+            LintRule::DeltaVersion, delta.Place(),
+            u"it makes version %1, but its item has the version %2"_s.arg(delta.item->versionString, itemVersion));
     }
     if (version.IsValid() && !IsOlderVersion(from, version))
     {
         findings.Add(LintRule::DeltaFromNotOlder, delta.Place(),
-                     u"it leads from %1 to %2"_s.arg(text, delta.item->versionString));
+                     u"it goes from %1 to %2"_s.arg(text, delta.item->versionString));
     }
     else if (std::none_of(items.begin(), items.end(),
                           [&](LintItem const& each) { return IsSame(each.full.item->versionString, text); }))
@@ -69,8 +70,9 @@ void CheckDelta(LintDownload const& delta, LintItem const& item, std::vector<Lin
     }
     if (item.full.item->contentLength != 0 && delta.item->contentLength >= item.full.item->contentLength)
     {
-        findings.Add(LintRule::DeltaLargerThanFull, delta.Place(),
-                     u"%1 bytes, the whole is %2"_s.arg(delta.item->contentLength).arg(item.full.item->contentLength));
+        findings.Add(
+            LintRule::DeltaLargerThanFull, delta.Place(),
+            u"%1 bytes, the full download has %2"_s.arg(delta.item->contentLength).arg(item.full.item->contentLength));
     }
 }
 

@@ -27,7 +27,7 @@ bool IsLocalFile(QUrl const& url)
     return url.scheme() == "file"_l;
 }
 
-/// For an address that exists.
+/// For an address that is present.
 void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindings& findings)
 {
     QString const text = Shortened(url.toString(QUrl::FullyEncoded));
@@ -148,7 +148,7 @@ void CheckDownload(LintDownload const& download, QUrl const& feed, LintFindings&
     QUrl const& url = download.item->fileUrl;
     if (IsOfThisDisk(WrittenAddress(download)))
     {
-        // A rule of its own says so.
+        // Another rule reports this.
     }
     else if (url.isEmpty())
     {

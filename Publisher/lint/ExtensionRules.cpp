@@ -1,4 +1,4 @@
-// ExtensionRules.cpp: extensions that never reach the host, or not with the value that was meant.
+// ExtensionRules.cpp: extensions that do not reach the host, or reach it with another value.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/Extensions.h"
 #include "Publisher/choice/FeedChoice.h"
@@ -22,7 +22,7 @@ bool IsAlmostExtension(QString const& local)
     return local.startsWith("pelnar"_l, Qt::CaseInsensitive) && !IsExtension(local);
 }
 
-/// Where in the feed a name stands.
+/// The place of a name in the feed.
 enum class NamePlace
 {
     ItemChild,
@@ -49,7 +49,7 @@ void CheckName(LintName const& name, NamePlace where, LintPlace place, LintFindi
     }
     else if (where == NamePlace::Elsewhere)
     {
-        findings.Add(LintRule::ExtensionPlace, place, u"%1 is not read here"_s.arg(name.qualified));
+        findings.Add(LintRule::ExtensionPlace, place, u"clients do not read %1 here"_s.arg(name.qualified));
     }
 }
 
@@ -112,7 +112,7 @@ private:
         }
     }
 
-    /// \return whether the very name was met before
+    /// \return whether the same name was seen before
     bool CheckKey(QString const& name, LintPlace place, std::map<QString, QString>& nameOfKey)
     {
         auto const [entry, isNew] = nameOfKey.emplace(name.toUpper(), name);
@@ -152,7 +152,7 @@ void CheckExtensions(LintSubject const& subject, LintFindings& findings)
             CheckRelaunchPath(item.full, findings);
             for (LintDownload const& delta : item.deltas)
             {
-                // What it inherits was looked at with its item.
+                // Inherited extensions were checked with the item.
                 if (ExtensionsOf(*delta.item) != ExtensionsOf(*item.full.item))
                 {
                     CheckRelaunchPath(delta, findings);

@@ -30,7 +30,7 @@ public:
     void Check(LintDownload const& download)
     {
         Engine::FeedItem const& item = *download.item;
-        // What has no address or length was reported by its own rule.
+        // Another rule reports a missing address or length.
         if (item.fileUrl.isEmpty() || item.contentLength == 0 || !m_checked.insert(KeyOf(item)).second)
         {
             return;
@@ -63,8 +63,8 @@ private:
         else if (quint64(file.size()) != download.item->contentLength)
         {
             Report(LintRule::ArchiveLength, download,
-                   u"%1 has %2 bytes, the feed says %3"_s.arg(path, QString::number(file.size()),
-                                                              QString::number(download.item->contentLength)));
+                   u"%1 has %2 bytes, but the feed says %3"_s.arg(path, QString::number(file.size()),
+                                                                  QString::number(download.item->contentLength)));
         }
         else
         {
@@ -93,7 +93,7 @@ private:
     {
         bool const isLength = error.cause == ErrorCause::DownloadLengthDiffers;
         Report(isLength ? LintRule::ArchiveLength : LintRule::ArchiveUnreachable, download,
-               u"%1, of %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded),
+               u"%1, with %2 bytes by the feed: %3"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded),
                                                         QString::number(download.item->contentLength),
                                                         WithoutFullStop(error.sentence.English())));
     }
@@ -108,11 +108,11 @@ private:
             UpdateFault::None)
         {
             Report(LintRule::ArchiveSignature, download,
-                   u"%1 was not signed so"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded)));
+                   u"the signature of %1 does not match"_s.arg(download.item->fileUrl.toString(QUrl::FullyEncoded)));
         }
     }
 
-    /// Of a bundle. What cannot be unpacked is check-release's matter.
+    /// Of a bundle. If an archive cannot be unpacked, check-release reports it.
     void CheckVersion(LintDownload const& download, InputFile const& archive)
     {
         if (download.item->isDelta)
@@ -128,8 +128,8 @@ private:
                 if (inside != download.item->versionString)
                 {
                     Report(LintRule::ArchiveVersion, download,
-                           u"%1 holds version %2, the feed says %3"_s.arg(archive.name, Printable(inside),
-                                                                          download.item->versionString));
+                           u"%1 contains version %2, but the feed says %3"_s.arg(archive.name, Printable(inside),
+                                                                                 download.item->versionString));
                 }
             });
     }
@@ -167,7 +167,7 @@ public:
 private:
     void Fetch(LintElement const& link, QUrl const& address)
     {
-        // Deliberate: any address may be asked, and any page may come; whether one comes is the question.
+        // Deliberate: any address and any page is accepted. The only question is whether a page arrives.
         Engine::FetchOutcome const outcome = FetchAddress(address);
         if (outcome.error)
         {

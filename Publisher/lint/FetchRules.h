@@ -1,5 +1,4 @@
-// FetchRules.h: what the servers have, beside what the feed says of it.
-// Thread: the main thread, with Qt's event loop.
+// FetchRules.h: compares the files on the servers with the feed. Thread: the main thread, with Qt's event loop.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -11,8 +10,8 @@
 namespace Pelnar::Publisher
 {
 
-/// Fetches every download that has an address and a length, each once, into a folder that is removed again.
-/// \a publicKeys: the keys of the client; with none signatures are not checked.
+/// Fetches every download that has an address and a length, each once, into a temporary folder. \a publicKeys: the keys
+/// of the client; if there are none, signatures are not checked.
 std::vector<LintFinding> CheckArchives(LintSubject const& subject, std::vector<std::string> const& publicKeys,
                                        Console const& console);
 

@@ -15,10 +15,10 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// The root key is offline, so that the next statement takes its time.
+/// The root key is offline, so a new statement takes time.
 constexpr int DAYS_LEFT = 30;
 
-/// A statement that follows its rules, and where its line is.
+/// A well-formed statement and the place of its line.
 struct PlacedStatement
 {
     Engine::KeyStatement statement;
@@ -37,7 +37,7 @@ QString TextOf(QStringList const& ids)
     return ids.join(u" and "_s);
 }
 
-/// Whether clients of \a other, and of everything older, are as well off without \a item.
+/// True if clients of \a other, and of all older versions, lose nothing without \a item.
 bool Supersedes(Engine::FeedItem const& other, Engine::FeedItem const& item)
 {
     return &other != &item && !other.policy.isWithdrawn && OrderOfTexts(other.versionString, item.versionString) >= 0 &&
@@ -48,7 +48,7 @@ bool Supersedes(Engine::FeedItem const& other, Engine::FeedItem const& item)
 enum class Standing
 {
     Usable,
-    Superseded, ///< by an item that is usable
+    Superseded, ///< because a usable item replaces it
     Lost,
 };
 
@@ -75,7 +75,7 @@ void CheckItems(LintSubject const& subject, QStringList const& valid, LintFindin
             if (StandingOf(*item.full.item, platform.parsed, valid) == Standing::Lost)
             {
                 findings.Add(LintRule::KeyNotValid, item.full.Place(),
-                             u"%1 is signed by the key %2; valid is %3"_s.arg(
+                             u"%1 is signed by the key %2; valid keys: %3"_s.arg(
                                  NameOf(*item.full.item), TextOf(Engine::SignersOf(*item.full.item)), TextOf(valid)));
             }
         }
@@ -91,7 +91,7 @@ void CheckFeedSigner(QByteArray const& bytes, Engine::TrustedKeys const& valid, 
     {
         findings.Add(
             LintRule::KeyNotValid, PlaceOf(bytes, feed.blockOffset),
-            u"the feed itself is signed by none of the keys that are valid, %1"_s.arg(TextOf(KeyIdsOf(valid))));
+            u"no valid key signed the feed itself; valid keys: %1"_s.arg(TextOf(KeyIdsOf(valid))));
     }
 }
 
@@ -102,7 +102,7 @@ qint64 FeedSerialOf(QByteArray const& bytes)
     return validity ? validity->serial : 0;
 }
 
-/// What clients remember of \a before they ask of this feed.
+/// What clients of the feed \a before remember when they read this feed.
 void CheckSerials(QByteArray const& bytes, QByteArray const& before, LintPlace place, LintFindings& findings)
 {
     std::optional<PlacedStatement> const past = StatementIn(before);
@@ -112,13 +112,14 @@ void CheckSerials(QByteArray const& bytes, QByteArray const& before, LintPlace p
     if (serial < pastSerial)
     {
         findings.Add(LintRule::SerialLower, place,
-                     u"the key statement has the serial %1; it had %2"_s.arg(serial).arg(pastSerial));
+                     u"the key statement has the serial %1; the previous one had %2"_s.arg(serial).arg(pastSerial));
     }
     qint64 const pastFeed = FeedSerialOf(before);
     qint64 const feed = FeedSerialOf(bytes);
     if (feed < pastFeed)
     {
-        findings.Add(LintRule::SerialLower, {1, 1}, u"the feed has the serial %1; it had %2"_s.arg(feed).arg(pastFeed));
+        findings.Add(LintRule::SerialLower, {1, 1},
+                     u"the feed has the serial %1; the previous one had %2"_s.arg(feed).arg(pastFeed));
     }
 }
 
@@ -157,9 +158,9 @@ std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject 
     {
         if (!isMissing)
         {
-            findings.Add(LintRule::KeyStatementUnreadable, place,
-                         u"the statement is damaged, stands twice, is not alone on its line, or breaks "
-                         "a rule of its format"_s);
+            findings.Add(
+                LintRule::KeyStatementUnreadable, place,
+                u"the statement is damaged, appears twice, is not alone on its line, or breaks a rule of its format"_s);
         }
         return findings.Sorted();
     }

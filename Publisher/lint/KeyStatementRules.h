@@ -1,5 +1,5 @@
-// KeyStatementRules.h: what is wrong with the root key's statement in a feed, and with what the feed is signed by
-// after it; docs/formats/key-statement.md.
+// KeyStatementRules.h: checks the root key's statement in a feed, and the signatures of the feed and its items against
+// it. See docs/formats/key-statement.md.
 #pragma once
 
 #include "Publisher/lint/LintSubject.h"
@@ -11,16 +11,17 @@ namespace Pelnar::Publisher
 
 struct KeyStatementQuestion
 {
-    std::vector<std::string> rootKeys; ///< base64; empty: whose statement it is is not asked
-    QByteArray previousFeed;           ///< that was published before this one; empty: nothing is compared
+    std::vector<std::string> rootKeys; ///< base64; empty: the statement's signature is not checked
+    QByteArray previousFeed;           ///< the feed that was published before this one; empty: no comparison
     QDateTime now;                     ///< in UTC
 };
 
-/// What clients with a root key would refuse. \a subject is null when clients refuse the document.
+/// The faults for which clients with a root key would refuse the feed. \a subject is null if clients refuse the
+/// document.
 std::vector<LintFinding> CheckKeyStatement(QByteArray const& bytes, LintSubject const* subject,
                                            KeyStatementQuestion const& question);
 
-/// What is right for a feed that is being changed to other keys, and else an oversight.
+/// Findings that are correct during a change of keys and are mistakes otherwise.
 std::vector<LintFinding> CheckKeyUse(QByteArray const& bytes, LintSubject const& subject);
 
 } // namespace Pelnar::Publisher

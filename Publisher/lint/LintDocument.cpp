@@ -47,7 +47,7 @@ LintElement StartElement(Engine::FeedWalker const& walker, LintPlace place)
     return element;
 }
 
-/// The feed's text by lines, which end as the XML reader sees them.
+/// The feed's text by lines. Lines end where the XML reader sees their end.
 class Lines
 {
 public:
@@ -64,7 +64,7 @@ public:
         }
     }
 
-    /// Where the tag begins that ends at a place: no "<" stands inside a tag.
+    /// The start of the tag that ends at a place. A tag contains no other "<".
     LintPlace TagBefore(int line, int column) const
     {
         int const end = m_starts.at(std::size_t(line) - 1) + column - 1;
@@ -78,7 +78,7 @@ private:
     std::vector<int> m_starts;
 };
 
-/// Reads what stands in \a parent, to its end. The parser's limit on depth bounds the recursion.
+/// Reads the content of \a parent. The parser's depth limit bounds the recursion.
 void ReadChildren(Engine::FeedWalker& walker, Lines const& lines, LintElement& parent)
 {
     for (;;)

@@ -1,5 +1,5 @@
-// LintDocument.h: a feed as it is written, element by element, with places; what the parser drops is still here.
-// Ownership: a tree of values; pointers into it live as long as it does.
+// LintDocument.h: a feed as it is written: every element with its place, including elements that the parser ignores.
+// Ownership: a tree of values. Pointers into it are valid as long as the tree exists.
 #pragma once
 
 #include "Engine/core/feed/FeedParser.h"
@@ -26,9 +26,9 @@ struct LintName
     QString local;
     QString qualified; ///< as written
 
-    /// Without a namespace and with this local name.
+    /// True if it has no namespace and this local name.
     [[nodiscard]] bool IsPlain(char const* name) const;
-    /// In the feed's own namespace and with this local name.
+    /// True if it is in the feed's namespace and has this local name.
     [[nodiscard]] bool IsFeeds(char const* name) const;
     /// In our own namespace and with this local name.
     [[nodiscard]] bool IsOwn(char const* name) const;
@@ -51,25 +51,25 @@ struct LintElement
     LintName name;
     LintPlace place; ///< of the tag's "<"
     int parserLine = 0;
-    int parserColumn = 0; ///< where the parser sees the element: at the end of its tag
+    int parserColumn = 0; ///< the parser's place for the element: the end of its start tag
     std::vector<LintAttribute> attributes;
     std::vector<LintNamespace> namespaces; ///< declared here
     QString text;                          ///< directly inside
     std::vector<LintElement> children;
 
-    /// The attribute's value; nothing when it is absent.
+    /// The attribute's value; nothing if it is absent.
     std::optional<QString> PlainAttribute(char const* local) const;
     std::optional<QString> FeedAttribute(char const* local) const;
     std::optional<QString> OwnAttribute(char const* local) const;
 };
 
-/// Whether a namespace is the feed's own.
+/// True if a namespace is the feed's own.
 [[nodiscard]] bool IsFeedNamespaceUri(QString const& uri);
 
 /// REQUIRES: the parser accepts \a bytes.
 LintElement ReadLintDocument(QByteArray const& bytes);
 
-/// Every item below \a root, in the order of the feed, wherever it stands.
+/// Every item below \a root, at any depth, in the order of the feed.
 std::vector<LintElement const*> ItemElements(LintElement const& root);
 
 } // namespace Pelnar::Publisher

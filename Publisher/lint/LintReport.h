@@ -1,4 +1,4 @@
-// LintReport.h: findings as text for a person, and as JSON. docs/formats/lint-json.md holds the schema.
+// LintReport.h: findings as text for a person, as JSON (docs/formats/lint-json.md) and as SARIF.
 #pragma once
 
 #include "Publisher/Console.h"
@@ -9,7 +9,7 @@
 namespace Pelnar::Publisher
 {
 
-/// Which findings make the exit status 1.
+/// The findings that cause the exit status 1.
 enum class Strictness
 {
     ErrorsAndWarnings,
@@ -18,10 +18,10 @@ enum class Strictness
 
 void PrintFindings(QString const& feed, std::vector<LintFinding> const& findings, Console const& console);
 
-/// The same with one line for each rule: its first finding, and where the others are.
+/// The same with one line for each rule: its first finding and the lines of the others.
 void PrintGroupedFindings(QString const& feed, std::vector<LintFinding> const& findings, Console const& console);
 
-/// All \a feeds, with their findings, in the format SARIF 2.1.0 that code hosts show beside the lines.
+/// The findings of all \a feeds in the format SARIF 2.1.0, which code hosts show next to the lines.
 QJsonObject SarifOf(std::vector<std::pair<QString, std::vector<LintFinding>>> const& feeds);
 
 QJsonObject JsonOf(QString const& feed, std::vector<LintFinding> const& findings);

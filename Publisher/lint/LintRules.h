@@ -1,5 +1,5 @@
-// LintRules.h: every rule of `pelnar-appcast lint`, once: its name, how much it matters, what it finds and the mend.
-// Thread: constants. The command line, the reports and docs/lint-rules.md are all made from this table.
+// LintRules.h: the table of all rules of `pelnar-appcast lint`: name, severity, finding and correction. Constants. The
+// command line, the reports and docs/lint-rules.md are made from this table.
 #pragma once
 
 #include "Publisher/TextLiterals.h"
@@ -14,8 +14,8 @@ namespace Pelnar::Publisher
 enum class Severity
 {
     Error,   ///< clients refuse or lose something
-    Warning, ///< clients may do something else than was meant
-    Note,    ///< works, and could be better
+    Warning, ///< clients may do something unintended
+    Note,    ///< works, but could be better
 };
 
 /// "error", "warning" or "note".
@@ -24,7 +24,7 @@ char const* SeverityName(Severity severity);
 // clang-format off
 #define PELNAR_LINT_RULES(RULE) \
     /* The document. */ \
-    RULE(MalformedXml, "malformed-xml", Error, "The feed is not well-formed XML, or its bytes do not match its encoding.", "mend the XML at this place; no client reads any item") \
+    RULE(MalformedXml, "malformed-xml", Error, "The feed is not well-formed XML, or its bytes do not match its encoding.", "correct the XML at this place; clients cannot read any item") \
     RULE(DocumentType, "document-type", Error, "The feed has a document type declaration, which clients refuse.", "remove the <!DOCTYPE ...> declaration") \
     RULE(TooDeep, "too-deep", Error, "Elements are nested deeper than clients follow.", "nest at most 64 elements") \
     RULE(TooManyAttributes, "too-many-attributes", Error, "A tag has more attributes than clients read.", "give at most 256 attributes to one tag") \
@@ -57,17 +57,17 @@ char const* SeverityName(Severity severity);
     RULE(PlatformFirst, "platform-first", Warning, "Another platform's items come before those without sparkle:os; a client that does not know sparkle:os takes them.", "put the items without sparkle:os first, or publish a feed for each platform") \
     RULE(ForeignPackage, "foreign-package", Warning, "A package of another system or format is offered to clients for Linux, which cannot open it.", "give the enclosure the sparkle:os of its system, such as sparkle:os=\"macos\"; for Linux publish a zip or a tar of a bundle") \
     RULE(PolicyIgnored, "policy-ignored", Warning, "An item states in the feed's namespace who may get it, but clients do not know that name: they offer the item to everybody.", "publish the item in a separate feed for these people, or remove the element") \
-    RULE(PolicyUnreadable, "policy-unreadable", Warning, "An element that says who gets an item has a value that clients do not read as it is meant.", "write the value in the form that docs/formats/item-policy.md tells") \
-    RULE(StagedWithoutDate, "staged-without-date", Warning, "A staged item has no date that clients read, so that everybody is offered it at once.", "give the item a pubDate as in Mon, 07 Jan 2019 10:00:00 +0000") \
-    RULE(StagedInFuture, "staged-in-future", Note, "A staged item has a date in the future; until then only people who ask are offered it.", "correct the date, unless the item is to wait") \
-    RULE(InformationalWithoutPage, "informational-without-page", Warning, "An informational item has neither a link nor release notes at a link, so that its window leads nowhere.", "give the item a <link> to the page that says how to get the version") \
-    RULE(KeyNotTrusted, "key-not-trusted", Error, "An item is signed by a key that an older version in the feed does not trust, and no version between the two brings that key: its clients never get the item.", "sign the item with the key that the older version trusts as well, or publish a version between that trusts both") \
+    RULE(PolicyUnreadable, "policy-unreadable", Warning, "An element that restricts who gets an item has a value that clients do not understand.", "write the value in the form that docs/formats/item-policy.md describes") \
+    RULE(StagedWithoutDate, "staged-without-date", Warning, "A staged item has no date that clients can read, so all clients are offered it at once.", "give the item a pubDate as in Mon, 07 Jan 2019 10:00:00 +0000") \
+    RULE(StagedInFuture, "staged-in-future", Note, "A staged item has a date in the future; until then it is offered only in checks that a person starts.", "correct the date, unless the item is to wait") \
+    RULE(InformationalWithoutPage, "informational-without-page", Warning, "An informational item has neither a link nor linked release notes, so its window leads nowhere.", "give the item a <link> to a page that explains how to get the version") \
+    RULE(KeyNotTrusted, "key-not-trusted", Error, "An item is signed by a key that an older version in the feed does not trust, and no version between the two brings that key: its clients never get the item.", "also sign the item with the key that the older version trusts, or publish a version between them that trusts both") \
     /* Downloads. */ \
     RULE(AddressMissing, "address-missing", Error, "An item has no enclosure with a valid address.", "give the enclosure a url") \
     RULE(AddressScheme, "address-scheme", Error, "A download's address is neither https nor http.", "serve the file over https") \
     RULE(LocalAddress, "local-address", Error, "An address points to a file on the publisher's computer.", "publish the file, and write its https address") \
     RULE(NearAddress, "near-address", Warning, "An address points to this computer or to a private network, which other people's computers cannot reach.", "write the public https address") \
-    RULE(WebPageDownload, "web-page-download", Warning, "A download is a web page, which no client installs.", "give the archive's own address as url, and the page's as link") \
+    RULE(WebPageDownload, "web-page-download", Warning, "A download is a web page, which no client installs.", "give the archive's own address as url, and the page's address as link") \
     RULE(SharedAddress, "shared-address", Warning, "Two versions have the same address, so one of them offers the wrong file.", "give each version's file its own name") \
     RULE(AddressInsecure, "address-insecure", Error, "An address uses http, which clients refuse.", "serve it over https") \
     RULE(AddressHost, "address-host", Error, "An address has no host.", "write the whole address, such as https://dl.example.com/app.zip") \
@@ -106,7 +106,7 @@ char const* SeverityName(Severity severity);
     /* The feed's own signature. */ \
     RULE(FeedUnsigned, "feed-unsigned", Error, "The feed has no signature (with --signed).", "sign it with pelnar-appcast sign-feed") \
     RULE(FeedSignatureUnreadable, "feed-signature-unreadable", Error, "The feed's signature is not alone on the last line or has a wrong form; clients that require a signature refuse the feed.", "remove every line with a signature and sign the feed again") \
-    RULE(FeedSignatureWrong, "feed-signature-wrong", Error, "The feed does not have the signature of a given key (with --public-key).", "publish the feed as signed, or sign it again") \
+    RULE(FeedSignatureWrong, "feed-signature-wrong", Error, "The feed is not signed by a given key (with --public-key).", "publish the feed exactly as it was signed, or sign it again") \
     RULE(FeedSerial, "feed-serial", Error, "A signed feed does not have exactly one serial that is a positive number; clients that require a signature refuse it.", "sign it with pelnar-appcast sign-feed") \
     RULE(FeedExpires, "feed-expires", Error, "A signed feed does not have exactly one expiry date, such as 2027-01-31T12:00:00Z; clients that require a signature refuse it.", "sign it with pelnar-appcast sign-feed") \
     RULE(FeedExpiresSoon, "feed-expires-soon", Warning, "A signed feed expires within seven days; after that, clients that require a signature refuse it.", "sign it again with pelnar-appcast sign-feed, best with a timed job") \
@@ -114,17 +114,17 @@ char const* SeverityName(Severity severity);
     RULE(SerialLower, "serial-lower", Error, "The serial of the feed or of its key statement is lower than in the feed published before (with --previous); clients that know the higher one refuse the feed.", "sign the feed again, with a greater --serial, and put the latest key statement into it") \
     /* The root key's statement. */ \
     RULE(KeyStatementMissing, "key-statement-missing", Error, "The feed has no key statement (with --root-public-key); clients with a root key refuse it.", "make a statement with pelnar-appcast keys state, and put it into the feed with sign-feed --key-statement") \
-    RULE(KeyStatementUnreadable, "key-statement-unreadable", Error, "The key statement is not exactly one whole line of the right form; clients with a root key refuse the feed.", "remove every line with a statement, and put the one into the feed that pelnar-appcast keys state printed") \
-    RULE(KeyStatementWrong, "key-statement-wrong", Error, "The key statement is not signed by a given root key (with --root-public-key).", "make the statement with the root key that the bundles name") \
+    RULE(KeyStatementUnreadable, "key-statement-unreadable", Error, "The key statement is not exactly one whole line of the right form; clients with a root key refuse the feed.", "remove every line with a statement, and add the line that pelnar-appcast keys state printed") \
+    RULE(KeyStatementWrong, "key-statement-wrong", Error, "The key statement is not signed by a given root key (with --root-public-key).", "make the statement with the root key that the bundles contain") \
     RULE(KeyStatementExpired, "key-statement-expired", Error, "The key statement has expired; clients with a root key refuse the feed.", "make a statement with the next serial, and put it into the feed with sign-feed --key-statement") \
     RULE(KeyStatementExpiresSoon, "key-statement-expires-soon", Warning, "The key statement expires within thirty days; after that, clients with a root key refuse the feed.", "make a statement with the next serial, and put it into the feed with sign-feed --key-statement") \
-    RULE(KeyNotValid, "key-not-valid", Error, "The feed, or the newest item for somebody, is signed by a key that is not valid by the key statement; clients with a root key refuse it.", "sign it by a valid key, or make a statement that names the key") \
-    RULE(KeyRevoked, "key-revoked", Note, "An older item is signed by a revoked key; clients with a root key never take it.", "nothing, if a newer version is for the same people; prune removes old items") \
-    RULE(KeyUnused, "key-unused", Note, "A key is valid by the key statement, but signed nothing.", "check that the key is the one that is meant, unless it is kept in reserve") \
+    RULE(KeyNotValid, "key-not-valid", Error, "The feed, or the newest item for some clients, is signed by a key that the key statement does not list as valid; clients with a root key refuse it.", "sign it with a valid key, or make a statement that names the key") \
+    RULE(KeyRevoked, "key-revoked", Note, "An older item is signed by a revoked key; clients with a root key never take it.", "no action is needed if the same clients get a newer version; prune removes old items") \
+    RULE(KeyUnused, "key-unused", Note, "The key statement lists a key as valid that has signed nothing.", "check that it is the right key, unless it is kept in reserve") \
     /* What the server has, with --fetch. */ \
     RULE(ArchiveUnreachable, "archive-unreachable", Error, "A download cannot be fetched (with --fetch).", "publish the file at this address before the feed") \
     RULE(ArchiveLength, "archive-length", Error, "The size of a download differs from the feed (with --fetch).", "write the file's size as length, or publish the right file") \
-    RULE(ArchiveSignature, "archive-signature", Error, "A download does not have the feed's signature by the given key (with --fetch).", "sign the published file again, or publish the file that was signed") \
+    RULE(ArchiveSignature, "archive-signature", Error, "A download does not match the feed's signature with the given key (with --fetch).", "sign the published file again, or publish the file that was signed") \
     RULE(ArchiveVersion, "archive-version", Error, "The bundle in a download has another version than the feed says (with --fetch).", "publish the archive of that version, or write the bundle's CFBundleVersion as sparkle:version") \
     RULE(NotesUnreachable, "notes-unreachable", Warning, "Release notes cannot be fetched (with --fetch).", "publish the notes at this address, or remove the link")
 // clang-format on

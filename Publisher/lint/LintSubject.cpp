@@ -44,7 +44,7 @@ QStringList MachinesOf(LintElement const& enclosure)
     return enclosure.OwnAttribute("machine").value_or(QString()).simplified().split(u' ', Qt::SkipEmptyParts);
 }
 
-/// The one that the parser takes.
+/// The item that the parser takes.
 LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement const& item)
 {
     LintElement const* best = nullptr;
@@ -61,7 +61,7 @@ LintElement const* EnclosureFor(Engine::FeedTarget const& target, LintElement co
     return best;
 }
 
-/// Empty for all of them, and each one that the downloads of an item name.
+/// Empty for the parsing without a machine; then each machine that the downloads of an item name.
 QStringList MachinesIn(std::vector<LintElement const*> const& items)
 {
     QStringList named;
@@ -81,7 +81,7 @@ QStringList MachinesIn(std::vector<LintElement const*> const& items)
     return machines;
 }
 
-/// The element below \a element that the parser places where \a item is.
+/// The element below \a element whose place the parser reports for \a item.
 LintElement const* FindElement(LintElement const& element, Engine::FeedItem const& item)
 {
     for (LintElement const& child : element.children)
@@ -120,7 +120,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, Engine::FeedTarg
     auto element = subject.itemElements.begin();
     for (Engine::FeedItem const& item : added.parsed)
     {
-        // Both lists are in the order of the feed; the parser leaves items of other platforms out.
+        // Both lists are in the order of the feed. The parser omits items of other platforms.
         element = std::find_if(element, subject.itemElements.end(),
                                [&](LintElement const* each)
                                { return each->parserLine == item.line && each->parserColumn == item.column; });
@@ -132,7 +132,7 @@ void AddPlatform(LintSubject& subject, QByteArray const& bytes, Engine::FeedTarg
     }
 }
 
-/// A prefix that is meant for the feed's own namespace and bound to another.
+/// A prefix that should be bound to the feed's namespace but is bound to another one.
 bool IsWrong(LintNamespace const& declared)
 {
     bool const isAlmost = declared.uri.contains("xml-namespaces/sparkle"_l, Qt::CaseInsensitive);
@@ -155,8 +155,8 @@ void FindWrongNamespaces(LintElement const& element, std::set<QString>& uris, Li
     }
 }
 
-/// \a bytes as they are meant: what follows from a wrong declaration is not told, only the declaration. A feed of
-/// another encoding than UTF-8 stays as it is.
+/// \a bytes with the declaration corrected, so that only the wrong declaration is reported and not its consequences. A
+/// feed in another encoding than UTF-8 is unchanged.
 QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
 {
     if (!Engine::ParseFeed(bytes, QUrl(), FeedPlatform::Linux))
@@ -180,7 +180,7 @@ QByteArray WithRightNamespace(QByteArray bytes, LintFindings& findings)
 
 void LintFindings::Add(LintRule rule, LintPlace place, QString const& what)
 {
-    // The items that all platforms take are looked at once for each of them.
+    // Items for all platforms appear once for each platform, but are checked once.
     if (m_known.emplace(rule, place.line, place.column, what).second)
     {
         m_findings.push_back({rule, place, what});

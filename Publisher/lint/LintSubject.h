@@ -1,5 +1,5 @@
-// LintSubject.h: what the rules look at, and where they write what they find.
-// Ownership: a subject owns its document and items; findings are values.
+// LintSubject.h: the input of the rules, and the list of their findings. Ownership: a subject owns its document and
+// items; findings are values.
 #pragma once
 
 #include "Publisher/lint/LintDocument.h"
@@ -19,16 +19,16 @@ struct LintFinding
 {
     LintRule rule;
     LintPlace place;
-    QString what; ///< what was found here, without a full stop
+    QString what; ///< without a full stop
 };
 
-/// The findings of a feed, each once.
+/// The findings of a feed, without duplicates.
 class LintFindings
 {
 public:
     void Add(LintRule rule, LintPlace place, QString const& what);
 
-    /// In the order of the feed; at one place in the order of the rules.
+    /// In the order of the feed; findings at the same place are in the order of the rules.
     std::vector<LintFinding> Sorted() const;
 
 private:
@@ -36,14 +36,14 @@ private:
     std::set<std::tuple<LintRule, int, int, QString>> m_known;
 };
 
-/// An item or a delta, as the parser reads it and as it is written.
+/// An item or a delta, as the parser reads it and as the feed writes it.
 struct LintDownload
 {
     Engine::FeedItem const* item = nullptr;
-    LintElement const* element = nullptr;   ///< of the item; of a delta its own enclosure
-    LintElement const* enclosure = nullptr; ///< of the item for this platform, or null; of a delta its own
+    LintElement const* element = nullptr;   ///< of the item; for a delta, its own enclosure
+    LintElement const* enclosure = nullptr; ///< of the item for this platform, or null; for a delta, its own
 
-    /// Where what is wrong with the download is shown.
+    /// The place that findings about the download name.
     LintPlace Place() const { return enclosure ? enclosure->place : element->place; }
 };
 
@@ -54,7 +54,7 @@ struct LintItem
     std::vector<LintDownload> deltas;
 };
 
-/// The feed as the clients of one platform see it: those of one machine, or those for which no machine counts.
+/// The feed as the clients of one platform read it: those on one machine, or without regard to machines.
 struct LintPlatform
 {
     Engine::FeedPlatform system = Engine::FeedPlatform::Linux;
@@ -74,10 +74,10 @@ struct LintSubject
     std::vector<LintPlatform> platforms;
 };
 
-/// "item 5.1", "the delta from 5.0", for the beginning of a finding.
+/// "item 5.1", "the delta from 5.0": the start of a finding.
 QString NameOf(Engine::FeedItem const& item);
 
-// The groups of rules. None needs another to have run.
+// The groups of rules. They are independent of each other.
 void CheckNames(LintSubject const& subject, LintFindings& findings);
 void CheckTexts(LintSubject const& subject, LintFindings& findings);
 void CheckVersions(LintSubject const& subject, LintFindings& findings);
@@ -89,11 +89,11 @@ void CheckDeltas(LintSubject const& subject, LintFindings& findings);
 void CheckExtensions(LintSubject const& subject, LintFindings& findings);
 void CheckNotes(LintSubject const& subject, LintFindings& findings);
 
-/// What clients make of the whole document, and all groups when they can read it.
+/// Checks the whole document as clients read it. Runs all groups if clients can read it.
 struct LintResult
 {
     std::vector<LintFinding> findings;
-    std::unique_ptr<LintSubject const> subject; ///< null when clients refuse the document
+    std::unique_ptr<LintSubject const> subject; ///< null if clients refuse the document
 };
 LintResult LintFeed(QByteArray const& bytes, QUrl const& address);
 

@@ -42,7 +42,7 @@ struct LintOptions
 
 using FeedFindings = std::pair<QString, std::vector<LintFinding>>;
 
-/// How often a feed has had a finding: lines move, what is found stays.
+/// How often each finding occurs in a feed. Line numbers do not count, because they change when the feed is edited.
 using KnownFindings = std::map<std::tuple<QString, QString, QString>, int>;
 
 void CheckOptions(LintOptions const& options)
@@ -54,7 +54,7 @@ void CheckOptions(LintOptions const& options)
     }
     if (options.feeds.size() > 1 && !(options.publishedAt.empty() && options.previous.empty()))
     {
-        throw Refusal({u"--published-at and --previous are of one feed"_s, mend});
+        throw Refusal({u"--published-at and --previous need exactly one feed"_s, mend});
     }
     CheckPublicKeys(options.publicKeys);
     CheckPublicKeys(options.rootKeys);
@@ -69,7 +69,7 @@ KnownFindings ReadBaseline(std::string const& path)
     }
     constexpr std::uint64_t MOST_BYTES = 64 << 20;
     QString const name = QString::fromStdString(path);
-    QString const mend = u"give what an earlier run with --json printed"_s;
+    QString const mend = u"give the output of an earlier run with --json"_s;
     QJsonObject const written = QJsonDocument::fromJson(ReadInputFile(OpenInputFile(name), MOST_BYTES, mend)).object();
     bool const isOfOne = written.contains(u"findings"_s);
     QJsonArray const feeds = isOfOne ? QJsonArray{written} : written.value(u"feeds"_s).toArray();
@@ -88,7 +88,7 @@ KnownFindings ReadBaseline(std::string const& path)
     return known;
 }
 
-/// Takes the known findings out; answers how many they were.
+/// Removes the known findings; returns their number.
 std::size_t TakeOutKnown(FeedFindings& feed, KnownFindings& known)
 {
     std::vector<LintFinding>& findings = feed.second;
@@ -154,11 +154,18 @@ void Print(std::vector<FeedFindings> const& feeds, std::size_t knownCount, LintO
     }
     for (auto const& [name, findings] : feeds)
     {
-        options.isEach ? PrintFindings(name, findings, console) : PrintGroupedFindings(name, findings, console);
+        if (options.isEach)
+        {
+            PrintFindings(name, findings, console);
+        }
+        else
+        {
+            PrintGroupedFindings(name, findings, console);
+        }
     }
     if (knownCount > 0)
     {
-        console.Print(u"%1 known by the baseline"_s.arg(CountOf(knownCount, u"finding"_s)));
+        console.Print(u"%1 known from the baseline"_s.arg(CountOf(knownCount, u"finding"_s)));
     }
 }
 
@@ -191,30 +198,29 @@ ExitStatus Lint(LintOptions const& options, Console const& console)
 void AddLint(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<LintOptions>(
-        program, context, "lint", "Finds what clients would refuse or misread, with place and mend", Lint);
+        program, context, "lint", "Find what clients would refuse or misread, with the place and the correction", Lint);
     verb.add_option("FEED", options.feeds, "Paths or addresses of feeds, or - for standard input");
     AddPublishedAtOption(verb, options.publishedAt);
-    verb.add_flag("--fetch", options.isFetching, "Fetch every download and check its size and its signature");
-    verb.add_flag("--signed", options.isSignatureAsked,
-                  "The feed must be signed itself, as for clients that require it");
-    AddPublicKeysOption(verb, options.publicKeys,
-                        "Key that the signatures of the feed and of fetched downloads are checked by, in base64; may "
-                        "be given again");
+    verb.add_flag("--fetch", options.isFetching, "Fetch every download, and check its size and signature");
+    verb.add_flag("--signed", options.isSignatureAsked, "Require a signature of the feed itself, as some clients do");
+    AddPublicKeysOption(
+        verb, options.publicKeys,
+        "Public key that verifies the signatures of the feed and of fetched downloads, in base64; may be repeated");
     verb.add_option("--root-public-key", options.rootKeys,
-                    "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement by it; may be "
-                    "given again")
+                    "PelnarRootPublicEDKey of the bundles, in base64: the feed must have a key statement signed by it; "
+                    "may be repeated")
         ->allow_extra_args(false)
         ->type_name("KEY");
     verb.add_option("--previous", options.previous,
-                    "The feed that was published before: no serial may be lower than there")
+                    "The feed that was published before: no serial may be lower than in it")
         ->type_name("FEED");
     verb.add_option("--baseline", options.baseline,
-                    "What an earlier run with --json printed: its findings are known, and not told again")
+                    "Output of an earlier run with --json: its findings are known and not reported again")
         ->type_name("FILE");
-    verb.add_flag("--strict", options.isStrict, "Exit with 1 for notes as well");
+    verb.add_flag("--strict", options.isStrict, "Exit with 1 for notes too");
     verb.add_flag("--json", options.isJson, "Print one JSON object");
     verb.add_flag("--sarif", options.isSarif, "Print one SARIF log, for code hosts and editors");
-    verb.add_flag("--each", options.isEach, "Print every finding on a line of its own, not grouped by rule");
+    verb.add_flag("--each", options.isEach, "Print every finding on its own line, not grouped by rule");
     verb.add_flag("--rules", options.isListingRules, "Print the table of all rules, in Markdown, and nothing else");
 }
 

@@ -38,7 +38,7 @@ constexpr char const* NAMES[] = {"version",
                                  "md5",
                                  "md5Sum"};
 
-/// How many letters must be added, dropped, changed or exchanged with their neighbour.
+/// The number of letters that must be added, removed, changed or exchanged with a neighbour.
 int Distance(QString const& a, QString const& b)
 {
     std::vector<std::vector<int>> rows(std::size_t(a.size()) + 1, std::vector<int>(std::size_t(b.size()) + 1));
@@ -81,7 +81,7 @@ std::optional<QString> MeantName(QString const& local)
         QString const known = QLatin1String(name);
         if (known.compare(local, Qt::CaseInsensitive) == 0)
         {
-            return std::nullopt; // its case is another rule's matter
+            return std::nullopt; // another rule reports the case
         }
         int const distance = known.size() < FEWEST_LETTERS ? least : Distance(local, known);
         if (distance < least && distance < known.size() / 2)

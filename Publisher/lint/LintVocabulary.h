@@ -1,4 +1,4 @@
-// LintVocabulary.h: the names of the feed's namespace, and which of them somebody may have meant.
+// LintVocabulary.h: the names of the feed's namespace, and the correction of misspelled ones.
 #pragma once
 
 #include <QString>
@@ -8,7 +8,7 @@
 namespace Pelnar::Publisher
 {
 
-/// The name that \a local was meant to be, when it is none of the feed's namespace and one or two letters from one.
+/// The known name that differs from \a local by one or two letters; empty if \a local is known or differs more.
 std::optional<QString> MeantName(QString const& local);
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,4 @@
-// NameRules.cpp: names and namespaces by which clients miss what was meant, and characters that they drop.
+// NameRules.cpp: wrong names and namespaces that clients ignore, and characters that they replace.
 
 #include "Engine/core/base/SafeText.h"
 #include "Publisher/lint/LintSubject.h"
@@ -18,7 +18,7 @@ char const* const FEED_ELEMENTS[] = {
 char const* const PLAIN_ATTRIBUTES[] = {"url", "length", "type"};
 char const* const FEED_ATTRIBUTES[] = {"version", "shortVersionString", "edSignature", "installationType",
                                        "os",      "deltaFrom"};
-/// Of these the first in an item counts.
+/// If an item has several of these elements, the first counts.
 char const* const SINGLE_PLAIN_ELEMENTS[] = {"pubDate", "link"};
 char const* const SINGLE_FEED_ELEMENTS[] = {"version", "shortVersionString", "minimumSystemVersion",
                                             "maximumSystemVersion"};
@@ -69,7 +69,7 @@ public:
         {
             CheckRepetitions(element);
         }
-        // What stands in a description is the notes' own affair.
+        // Another rule checks the elements inside a description.
         if (!element.name.IsPlain("description"))
         {
             for (LintElement const& child : element.children)
@@ -128,13 +128,14 @@ private:
         if (std::optional<QString> const meant = MeantName(name.local))
         {
             m_findings.Add(LintRule::NameMisspelt, place,
-                           u"%1 is not read; %2 may be meant"_s.arg(name.qualified, *meant));
+                           u"clients do not read %1; %2 may be meant"_s.arg(name.qualified, *meant));
         }
     }
 
     void ReportCase(LintName const& name, char const* other, LintPlace place)
     {
-        m_findings.Add(LintRule::NameCase, place, u"%1 is not read, %2 is"_s.arg(name.qualified, QLatin1String(other)));
+        m_findings.Add(LintRule::NameCase, place,
+                       u"clients read %2, but not %1"_s.arg(name.qualified, QLatin1String(other)));
     }
 
     void CheckRepetitions(LintElement const& item)

@@ -1,4 +1,4 @@
-// NotesRules.cpp: release notes as clients lay them out.
+// NotesRules.cpp: release notes that clients cannot lay out, duplicate notes, and the addresses of notes.
 
 #include "Engine/core/fetch/FetchRules.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
@@ -67,7 +67,8 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
 void CheckLink(LintItem const& item, LintFindings& findings)
 {
     QUrl const& url = item.full.item->releaseNotesUrl;
-    bool const isLocal = url.isLocalFile(); // of a feed that is read before it is published, or another rule's matter
+    bool const isLocal = url.isLocalFile(); // a relative address in a feed that is not published yet, or reported by
+                                            // another rule
     if (!url.isEmpty() && url.scheme() != "https"_l && !isLocal && !Engine::IsLoopback(url))
     {
         findings.Add(LintRule::NotesInsecure,
@@ -76,7 +77,7 @@ void CheckLink(LintItem const& item, LintFindings& findings)
     }
 }
 
-/// Clients take the first of two for one language.
+/// If two notes have the same language, clients take the first.
 void CheckLanguages(LintElement const& item, LintFindings& findings)
 {
     std::set<QString> met;

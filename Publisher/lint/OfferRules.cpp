@@ -1,4 +1,4 @@
-// OfferRules.cpp: to whom items are offered that were meant for others, and who cannot take what is offered.
+// OfferRules.cpp: items that are offered to the wrong clients, and items that the clients cannot install.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -22,7 +22,7 @@ namespace
 using App::Session::IsOlderVersion;
 using App::Session::VersionFromStringNoexcept;
 
-/// Elements that say who gets an item, and that clients do not know.
+/// Elements that restrict who gets an item, but that clients do not know.
 constexpr char const* POLICIES[] = {"ignoreSkippedUpgradesBelowVersion"};
 
 void CheckPolicies(LintElement const& item, LintFindings& findings)
@@ -41,28 +41,28 @@ void CheckPolicies(LintElement const& item, LintFindings& findings)
     }
 }
 
-/// Elements that bound who gets an item.
+/// Elements that restrict who gets an item.
 constexpr char const* BOUNDS[] = {"channel", "hardwareRequirements", "minimumUpdateVersion", "minimumSystemVersion",
                                   "maximumSystemVersion"};
 
-/// What follows if \a child of \a parent is empty. No text if it is no bound.
+/// The consequence of an empty \a child of \a parent. Empty if \a child is not a restriction.
 QString EffectOfEmpty(LintElement const& parent, LintElement const& child)
 {
     bool const isOffer =
         std::any_of(std::begin(BOUNDS), std::end(BOUNDS), [&](char const* name) { return child.name.IsFeeds(name); });
     bool const isVersion = child.name.IsFeeds("minimumAutoupdateVersion") || child.name.IsFeeds("belowVersion") ||
                            (child.name.IsFeeds("version") && parent.name.IsFeeds("informationalUpdate"));
-    return isOffer ? u"so everybody gets the item"_s : isVersion ? u"and bounds nothing"_s : QString();
+    return isOffer ? u"so everybody gets the item"_s : isVersion ? u"and has no effect"_s : QString();
 }
 
 QString EffectOfEmpty(LintElement const& element, LintName const& attribute)
 {
     bool const isMachine = attribute.IsOwn("machine");
     bool const isVersion = element.name.IsFeeds("criticalUpdate") && attribute.IsFeeds("version");
-    return isMachine ? u"so everybody gets the item"_s : isVersion ? u"and bounds nothing"_s : QString();
+    return isMachine ? u"so everybody gets the item"_s : isVersion ? u"and has no effect"_s : QString();
 }
 
-/// Empty variables of a publisher's script, in \a parent.
+/// Empty restrictions in \a parent, probably from an unset variable of a script.
 void CheckEmptyPolicies(LintElement const& parent, LintFindings& findings)
 {
     for (LintElement const& child : parent.children)
@@ -97,7 +97,7 @@ bool IsMachine(QString const& name)
     return std::find(names.begin(), names.end(), name.toLower().toStdString()) != names.end();
 }
 
-/// What \a item says of the installations that it is meant for, as far as it can be read from single values.
+/// Checks each single value in \a item that restricts its clients.
 void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
 {
     CheckEmptyPolicies(*lintItem.full.element, findings);
@@ -107,13 +107,13 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
     auto const add = [&](QString const& what) { findings.Add(LintRule::PolicyUnreadable, place, what); };
     if (!policy.channel.isEmpty() && !Engine::IsChannelName(policy.channel))
     {
-        add(u"no application can list the channel \"%1\""_s.arg(policy.channel));
+        add(u"no application can enable the channel \"%1\""_s.arg(policy.channel));
     }
     for (QString const& machine : policy.machines + policy.hardware)
     {
         if (!IsMachine(machine))
         {
-            add(u"no client is on the machine \"%1\""_s.arg(machine));
+            add(u"no client runs on the machine \"%1\""_s.arg(machine));
         }
     }
     for (QString const& version : QStringList{policy.criticalBelow, policy.informationalBelow,
@@ -122,7 +122,7 @@ void CheckPolicyValues(LintItem const& lintItem, LintFindings& findings)
     {
         if (!IsVersion(version))
         {
-            add(u"\"%1\" is no version, and bounds nothing"_s.arg(version));
+            add(u"\"%1\" is not a version and has no effect"_s.arg(version));
         }
     }
 }
@@ -135,7 +135,7 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
         if (child.name.IsFeeds("phasedRolloutInterval") && item.policy.rolloutSeconds == 0)
         {
             findings.Add(LintRule::PolicyUnreadable, child.place,
-                         u"\"%1\" is no number of seconds from 1 to ten years"_s.arg(child.text.trimmed()));
+                         u"\"%1\" is not a number of seconds from 1 to ten years"_s.arg(child.text.trimmed()));
         }
     }
     QDateTime const date = Engine::FeedTime(item.dateString);
@@ -151,7 +151,7 @@ void CheckStaging(LintItem const& lintItem, LintFindings& findings)
     }
 }
 
-/// Packages of other systems, and of other formats, that clients for Linux are offered.
+/// Packages of other systems and formats that are offered to clients for Linux.
 void CheckPackage(LintItem const& item, LintFindings& findings)
 {
     constexpr char const* ENDINGS[] = {".dmg", ".pkg", ".mpkg", ".exe",      ".msi", ".msix",    ".apk", ".ipa",
@@ -168,7 +168,7 @@ Engine::KeyedVersion KeysOf(Engine::FeedItem const& item)
     return {item.versionString, Engine::SignersOf(item), item.trustedKeys};
 }
 
-/// \a machine: only the items for it lead from one to another.
+/// \a machine: only items for this machine lead from one version to another.
 void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFindings& findings)
 {
     items.erase(std::remove_if(items.begin(), items.end(),
@@ -202,15 +202,15 @@ void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFinding
     {
         if (!stranded[i].isEmpty())
         {
-            findings.Add(LintRule::KeyNotTrusted, items[i].full.Place(),
-                         u"%1 is signed by the key %2, which these do not trust, and no version between "
-                         "brings it to them: %3"_s.arg(NameOf(*items[i].full.item), all[i].signers.join(u" and "_s),
-                                                       stranded[i].join(u", "_s)));
+            findings.Add(
+                LintRule::KeyNotTrusted, items[i].full.Place(),
+                u"%1 is signed by the key %2. These versions do not trust it, and no version between brings it: %3"_s
+                    .arg(NameOf(*items[i].full.item), all[i].signers.join(u" and "_s), stranded[i].join(u", "_s)));
         }
     }
 }
 
-/// Those that \a items name; without one any.
+/// The machines that \a items name; one empty name, for any machine, if they name none.
 QStringList MachinesOf(std::vector<LintItem> const& items)
 {
     QStringList machines;
@@ -222,7 +222,7 @@ QStringList MachinesOf(std::vector<LintItem> const& items)
     return machines.isEmpty() ? QStringList{QString()} : machines;
 }
 
-/// Told once: in a feed with several lines of versions it may be meant.
+/// Reported once: a feed with several lines of versions may do this deliberately.
 void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
 {
     struct Dated
@@ -250,7 +250,7 @@ void CheckDates(std::vector<LintItem> const& items, LintFindings& findings)
         if (newer.date < older.date && IsOlderVersion(older.version, newer.version))
         {
             findings.Add(LintRule::DateOrder, newer.item->full.element->place,
-                         u"%1 is of %2, and the older %3 of %4"_s.arg(
+                         u"%1 has the date %2, but the older %3 has %4"_s.arg(
                              newer.item->full.item->versionString, newer.date.toString(Qt::ISODate),
                              older.item->full.item->versionString, older.date.toString(Qt::ISODate)));
             return;

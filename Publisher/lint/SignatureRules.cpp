@@ -13,7 +13,7 @@ namespace
 
 using Engine::SignedFeedFault;
 
-/// A feed that is signed every week has more of its time left.
+/// A feed that is signed every week has more time left than this.
 constexpr int DAYS_LEFT = 7;
 
 QString TextOf(SignedFeedFault fault)
@@ -26,13 +26,13 @@ QString TextOf(SignedFeedFault fault)
     case SignedFeedFault::Repeated:
         return u"there is more than one signature"_s;
     case SignedFeedFault::NotAtEnd:
-        return u"the feed goes on behind its signature"_s;
+        return u"the feed continues after its signature"_s;
     case SignedFeedFault::BytesAfter:
-        return u"something stands behind the line of the signature"_s;
+        return u"there is text after the line of the signature"_s;
     case SignedFeedFault::LineEndsRewritten:
-        return u"the line of the signature ends with a carriage return, as after a transfer as text"_s;
+        return u"the line of the signature ends with a carriage return, probably from a transfer as text"_s;
     case SignedFeedFault::AlgorithmUnknown:
-        return u"the signature is of an algorithm that clients do not know"_s;
+        return u"the signature uses an algorithm that clients do not know"_s;
     case SignedFeedFault::Malformed:
         return u"the signature is damaged or is not alone on its line"_s;
     }
@@ -46,7 +46,7 @@ Engine::FeedChannel ChannelOf(LintSubject const& subject, QByteArray const& byte
         .channel;
 }
 
-/// Of the element of the channel that has this name, or of the channel, or of the document.
+/// The place of the channel's element with this name; otherwise of the channel, otherwise of the document.
 LintPlace PlaceOf(LintSubject const& subject, char const* name)
 {
     LintPlace place{1, 1};
@@ -74,8 +74,8 @@ void CheckTerms(LintSubject const& subject, QByteArray const& bytes, QDateTime c
         bool const isSerial = terms.error().cause == Engine::ErrorCause::FeedSerialUnusable;
         findings.Add(isSerial ? LintRule::FeedSerial : LintRule::FeedExpires,
                      PlaceOf(subject, isSerial ? "serial" : "expires"),
-                     isSerial ? u"the serial is missing, stands twice or is no positive number"_s
-                              : u"the date is missing, stands twice or is of another form"_s);
+                     isSerial ? u"the serial is missing, appears twice or is not a positive number"_s
+                              : u"the date is missing, appears twice or has another form"_s);
         return;
     }
     if (!Engine::JudgeFeedValidity(*terms, 0, now))
@@ -127,7 +127,7 @@ std::vector<LintFinding> CheckFeedSignature(QByteArray const& bytes, LintSubject
         if (Engine::VerifySignature(content, feed.signature, question.publicKeys) != Engine::UpdateFault::None)
         {
             findings.Add(LintRule::FeedSignatureWrong, place,
-                         u"the signature is not of these bytes and of a given key"_s);
+                         u"the signature does not match these bytes with any given key"_s);
         }
     }
     if (subject)

@@ -1,4 +1,4 @@
-// SystemRules.cpp: which systems and platforms an item is for.
+// SystemRules.cpp: the systems and platforms of items.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -13,7 +13,7 @@ namespace
 
 using App::Session::VersionFromStringNoexcept;
 
-/// Windows is no platform of ours, but clients of other families read the same feeds.
+/// This update checker does not run on Windows, but clients of other families read the same feeds.
 char const* const PLATFORMS[] = {"macos", "linux", "windows"};
 
 void CheckBounds(LintItem const& item, LintFindings& findings)
@@ -35,7 +35,7 @@ void CheckBounds(LintItem const& item, LintFindings& findings)
     if (lowest.IsValid() && highest.IsValid() && App::Session::IsOlderVersion(highest, lowest))
     {
         findings.Add(LintRule::SystemBoundsCrossed, place,
-                     u"%1 asks for %2 or later and %3 or earlier"_s.arg(NameOf(*item.full.item), minimum, maximum));
+                     u"%1 requires %2 or later and %3 or earlier"_s.arg(NameOf(*item.full.item), minimum, maximum));
     }
 }
 
@@ -76,7 +76,7 @@ void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& find
         else if (marked)
         {
             findings.Add(LintRule::PlatformFirst, marked->place,
-                         u"an item for %1 stands before the one for all platforms in line %2"_s.arg(
+                         u"an item for %1 comes before the one for all platforms in line %2"_s.arg(
                              *marked->FeedAttribute("os"), QString::number(enclosure->place.line)));
             return;
         }

@@ -1,4 +1,4 @@
-// VersionRules.cpp: versions that clients cannot read or tell apart, and items that only chance decides between.
+// VersionRules.cpp: versions that clients cannot read or tell apart, and items whose order is undefined.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionOperators.h"
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
@@ -16,7 +16,7 @@ using App::Session::IsOlderVersion;
 using App::Session::IsSameVersion;
 using App::Session::VersionFromStringNoexcept;
 
-/// Decimal components with dots between them, of which one is too great.
+/// True for decimal components separated by dots, one of which is too large.
 bool Overflows(QString const& text)
 {
     QStringList const components = text.split(u'.');
@@ -59,7 +59,7 @@ void CheckVersion(LintDownload const& download, LintFindings& findings)
     if (!download.item->isDelta && !HasWrittenVersion(*download.element, download.enclosure))
     {
         findings.Add(LintRule::VersionFromFileName, download.Place(),
-                     u"%1 stands in %2 only"_s.arg(text, download.item->fileUrl.fileName()));
+                     u"%1 is only in %2"_s.arg(text, download.item->fileUrl.fileName()));
     }
 }
 
@@ -106,7 +106,7 @@ void CheckMixture(std::vector<LintItem> const& items, LintFindings& findings)
     }
 }
 
-/// Whether some system takes both.
+/// True if some system takes both.
 bool ShareSystem(Engine::FeedItem const& a, Engine::FeedItem const& b)
 {
     auto const isBelow = [](QString const& maximum, QString const& minimum)
@@ -119,7 +119,7 @@ bool ShareSystem(Engine::FeedItem const& a, Engine::FeedItem const& b)
            !isBelow(b.maximumSystemVersion, a.minimumSystemVersion);
 }
 
-/// Whether some machine takes both, and neither is withdrawn.
+/// True if some machine takes both and neither is withdrawn.
 bool ShareClients(Engine::FeedItem const& a, Engine::FeedItem const& b)
 {
     return Engine::ShareMachine(a.policy.machines, b.policy.machines) && !a.policy.isWithdrawn && !b.policy.isWithdrawn;

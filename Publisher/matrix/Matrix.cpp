@@ -15,7 +15,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-/// Of what is meant for such installations of some version. The invalid version when no item has a readable one.
+/// The newest version among the items for such installations. Invalid if no item has a readable version.
 Core::Version NewestVersion(std::vector<Engine::FeedItem> const& items, Engine::Installation installation)
 {
     installation.version.clear();
@@ -104,7 +104,7 @@ QString Row(QStringList const& cells, std::vector<int> const& widths)
     return line.trimmed();
 }
 
-/// One line for all versions that the same systems hold.
+/// One line for all versions that have this on the same systems.
 QStringList StrandedLines(std::vector<Stranded> const& stranded)
 {
     QStringList lines;
@@ -218,7 +218,7 @@ QStringList TextOf(Matrix const& matrix)
     }
     for (Withdrawn const& each : matrix.withdrawn)
     {
-        lines.append(u"withdrawn %1: those who have it get %2"_s.arg(each.version, each.next.join(u", "_s)));
+        lines.append(u"withdrawn %1: clients that have it get %2"_s.arg(each.version, each.next.join(u", "_s)));
     }
     return lines + StrandedLines(matrix.stranded);
 }
@@ -246,8 +246,8 @@ std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const
     }
     if (!isGood)
     {
-        throw Refusal({file, u"not the JSON of pelnar-appcast matrix"_s,
-                       u"write it with pelnar-appcast matrix FEED ... --json"_s});
+        throw Refusal({file, u"is not the JSON of pelnar-appcast matrix"_s,
+                       u"make it with pelnar-appcast matrix FEED ... --json"_s});
     }
     return expected;
 }
@@ -270,7 +270,7 @@ QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& e
             auto const cell = outcomes.find({version, system});
             if (cell == outcomes.end())
             {
-                lines.append(u"%1 on %2: %3, and nothing was expected of it"_s.arg(version, system, outcome));
+                lines.append(u"%1 on %2: %3, but the expectation has no such cell"_s.arg(version, system, outcome));
             }
             else if (cell->second != outcome)
             {

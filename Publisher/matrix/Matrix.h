@@ -1,5 +1,5 @@
-// Matrix.h: who gets what: every installed version on every system.
-// docs/formats/matrix-json.md holds the schema of the JSON.
+// Matrix.h: the update that every installed version gets on every system. docs/formats/matrix-json.md describes the
+// JSON.
 #pragma once
 
 #include "Publisher/matrix/Outcome.h"
@@ -13,7 +13,7 @@
 namespace Pelnar::Publisher
 {
 
-/// A version that is not the newest of the feed, and to which nothing is offered on these systems.
+/// A version that is not the newest in the feed and gets no update on these systems.
 struct Stranded
 {
     QString version;
@@ -21,11 +21,11 @@ struct Stranded
     bool isEverywhere = false; ///< on all systems of the matrix: clients of this version never get an update
 };
 
-/// A version that was withdrawn, for those who have it already.
+/// A withdrawn version, for the clients that already have it.
 struct Withdrawn
 {
     QString version;
-    QStringList next; ///< what they are offered on some system, each once; "none" among them
+    QStringList next; ///< their offers on the systems, each once; may include "none"
 };
 
 struct Matrix
@@ -44,21 +44,21 @@ Matrix MakeMatrix(std::vector<Engine::FeedItem> const& items, std::vector<NamedV
                   std::vector<NamedVersion> const& systems, Engine::Installation const& installation = {});
 
 QJsonObject JsonOf(Matrix const& matrix);
-/// Lines for a person: a table, and what is stranded.
+/// Lines for a person: a table, and the stranded versions.
 QStringList TextOf(Matrix const& matrix);
 
-/// What a publisher expects, as an earlier run wrote it.
+/// An expected outcome, from the JSON of an earlier run.
 struct ExpectedCell
 {
     NamedVersion localVersion;
     NamedVersion systemVersion;
-    QString outcome; ///< as TextOf says it
+    QString outcome; ///< in the form of TextOf
 };
 
-/// Reads the JSON of an earlier run. Throws Refusal, which names \a file.
+/// Reads the JSON of an earlier run. Throws Refusal; its message names \a file.
 [[nodiscard]] std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const& json);
 
-/// One line for every cell that is not as expected; addresses and sizes may change.
+/// One line for every cell that differs from the expectation. Addresses and sizes are not compared.
 QStringList Differences(Matrix const& matrix, std::vector<ExpectedCell> const& expected);
 
 } // namespace Pelnar::Publisher

@@ -35,7 +35,7 @@ std::vector<ExpectedCell> ReadExpectation(MatrixOptions const& options)
     return ParseExpectation(name, ReadInputFile(OpenInputFile(name), MOST_BYTES, mend));
 }
 
-/// The versions of \a cells, each once and in their order.
+/// The versions of \a cells without duplicates, in their order.
 std::vector<NamedVersion> Of(std::vector<ExpectedCell> const& cells, NamedVersion ExpectedCell::*member)
 {
     std::vector<NamedVersion> versions;
@@ -125,18 +125,18 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
 void AddMatrix(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<MatrixOptions>(
-        program, context, "matrix", "Says who gets what: every installed version on every system", ShowMatrix);
+        program, context, "matrix", "Show the update that every installed version gets on every system", ShowMatrix);
     AddFeedOption(verb, options.feed);
     verb.add_option("--versions", options.versions,
-                    "Installed versions with commas between them, or \"from-feed\" for all that the feed names")
+                    "Installed versions, separated by commas, or \"from-feed\" for all that the feed names")
         ->type_name("LIST");
     verb.add_option("--systems", options.systems,
-                    "Versions of the operating system with commas between them; \"unknown\" may be one")
+                    "Versions of the operating system, separated by commas; \"unknown\" is allowed")
         ->type_name("LIST");
     AddClientOptions(verb, options);
     AddRolloutGroupOption(verb, options.installation);
     verb.add_option("--expect", options.expectation,
-                    "JSON of an earlier run: exit with 1 when an outcome differs; its versions and systems are the "
+                    "JSON of an earlier run: exit with 1 if an outcome differs. Its versions and systems are the "
                     "defaults")
         ->type_name("FILE");
 }

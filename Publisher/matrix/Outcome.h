@@ -1,4 +1,4 @@
-// Outcome.h: what one client takes from a feed, as a value that can be compared with another feed's.
+// Outcome.h: the item that one client takes from a feed, as a value that can be compared with that of another feed.
 #pragma once
 
 #include "Publisher/choice/FeedChoice.h"
@@ -11,7 +11,7 @@
 namespace Pelnar::Publisher
 {
 
-/// Empty texts stand for no update.
+/// Empty texts mean no update.
 struct Outcome
 {
     QString version;
@@ -19,21 +19,21 @@ struct Outcome
     QString deltaFrom; ///< empty for a full item
     QString url;
     quint64 length = 0;
-    std::vector<Outcome> rivals; ///< of which the client may take one instead: see FeedChoice
+    std::vector<Outcome> rivals; ///< the client may take one of these instead: see FeedChoice
 
     [[nodiscard]] bool IsUpdate() const { return !version.isEmpty(); }
 };
 
 Outcome OutcomeOf(FeedChoice const& choice);
-/// What JsonOf wrote; addresses and lengths are left out.
+/// Reads the output of JsonOf, without addresses and lengths.
 Outcome OutcomeOf(QJsonValue const& json);
 
 /// "5.2 DELTA from 5.1", "5.2 DELTA from 5.1 or from 5.1.0", or "none".
 QString TextOf(Outcome const& outcome);
-/// Null for none.
+/// JSON null for no update.
 QJsonValue JsonOf(Outcome const& outcome);
 
-/// Every version that the items name, as their own or as the start of a delta: each once, oldest first.
+/// All versions that the items name, as their own or as the start of a delta: each once, oldest first.
 std::vector<NamedVersion> VersionsOfFeed(std::vector<Engine::FeedItem> const& items);
 
 } // namespace Pelnar::Publisher

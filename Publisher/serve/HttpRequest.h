@@ -1,4 +1,4 @@
-// HttpRequest.h: what the test server understands of a request, and the range of a file that it asks for.
+// HttpRequest.h: the request headers that the test server reads, and the requested byte range.
 #pragma once
 
 #include "Publisher/TextLiterals.h"
@@ -14,26 +14,26 @@ namespace Pelnar::Publisher
 struct HttpRequest
 {
     QByteArray method;
-    QString path; ///< below the served folder, decoded, without query; empty for what cannot be one
+    QString path; ///< below the served folder, decoded, without query; empty if the target is not valid
     QByteArray range;
     QByteArray ifRange;
     QByteArray ifNoneMatch = {};
     QByteArray ifModifiedSince = {};
-    std::optional<QByteArray> host = {}; ///< as the header has it
-    bool isHostClear = true;             ///< said once, or left away in HTTP/1.0
+    std::optional<QByteArray> host = {}; ///< as in the header
+    bool isHostClear = true;             ///< the header appears once, or is absent in HTTP/1.0
 };
 
-/// Reads the head of a request, up to the empty line; nothing for what is no HTTP/1 request.
+/// Reads the head of a request, up to the empty line; nothing if it is not an HTTP/1 request.
 std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head);
 
-/// The name in a header Host, in lower case and without port; empty for what has no such form.
+/// The name in a Host header, in lower case and without port; empty if the header is malformed.
 QByteArray HostName(QByteArray const& header);
 
-/// True when the client has the version of a file that is called \a entityTag and was changed at \a changed, which is
+/// True if the client already has the version of a file with this \a entityTag and the modification time \a changed, in
 /// whole seconds since 1970.
 [[nodiscard]] bool HasVersion(HttpRequest const& request, QByteArray const& entityTag, qint64 changed);
 
-/// Bytes of a file, from \a first up to and without \a end.
+/// The bytes of a file from \a first up to but not including \a end.
 struct ByteRange
 {
     qint64 first = 0;
@@ -42,13 +42,13 @@ struct ByteRange
 
 enum class RangeKind
 {
-    Whole,         ///< no range is asked for, or one of a form that is not served
-    Part,          ///< one part
-    Unsatisfiable, ///< a part that the file does not have
+    Whole,         ///< no range, or one in a form that is not supported
+    Part,          ///< one range
+    Unsatisfiable, ///< a range that lies outside the file
 };
 
-/// Reads the header Range for a file of \a size bytes; \a range is what is to be sent unless unsatisfiable. Several
-/// ranges at once are answered with the whole file, as a server may.
+/// Reads the Range header for a file of \a size bytes. \a range is the range to send, unless it is unsatisfiable. A
+/// request for several ranges gets the whole file, which HTTP allows.
 RangeKind RangeOf(QByteArray const& header, qint64 size, ByteRange& range);
 
 } // namespace Pelnar::Publisher

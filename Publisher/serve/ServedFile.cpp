@@ -18,9 +18,9 @@ namespace
 {
 
 constexpr mode_t READ_BY_OTHERS = S_IRGRP | S_IROTH;
-/// A larger file is no private key but an archive.
+/// A larger file is an archive and not a private key.
 constexpr qint64 MOST_KEY_BYTES = 64 * 1024;
-/// The lengths of a signing key: its seed, and the seed with the public key.
+/// The lengths of a signing key: the seed, or the seed with the public key.
 constexpr std::size_t SIGNING_KEY_BYTES[] = {32, 64};
 
 bool HasDottedName(QString const& path)
@@ -29,7 +29,7 @@ bool HasDottedName(QString const& path)
     return std::any_of(names.begin(), names.end(), [](QString const& name) { return name.startsWith(u'.'); });
 }
 
-/// True if only its owner may enter a folder on the way to \a path.
+/// True if a folder on the way to \a path can be entered by its owner only.
 bool IsInPrivateFolder(int folderFd, QString const& path)
 {
     for (int end = path.indexOf(u'/'); end >= 0; end = path.indexOf(u'/', end + 1))
@@ -59,14 +59,14 @@ bool IsPemKey(QByteArray const& content)
                        { return line.startsWith("-----BEGIN ") && line.contains("PRIVATE KEY"); });
 }
 
-/// As programs of others mark their private keys in text.
+/// The marks of private keys in PEM and similar text formats.
 bool IsMarkedKey(QByteArray const& content)
 {
     return content.contains("AGE-SECRET-KEY-") || content.startsWith("PuTTY-User-Key-File-") ||
            (content.startsWith("untrusted comment:") && content.left(content.indexOf('\n')).contains("secret key"));
 }
 
-/// PKCS #8, RSA or EC in DER: a sequence that begins with the version of a private key.
+/// PKCS #8, RSA or EC in DER: a sequence that begins with a private key's version number.
 bool IsDerKey(QByteArray const& content)
 {
     constexpr int MOST_HEADER_BYTES = 4;
@@ -82,8 +82,8 @@ bool HasKeyLength(std::size_t size)
     return std::find(std::begin(SIGNING_KEY_BYTES), std::end(SIGNING_KEY_BYTES), size) != std::end(SIGNING_KEY_BYTES);
 }
 
-/// As many bytes as a signing key has, in base64 or as they are. A public key or a signature alone looks the same;
-/// clients need neither from a file of its own.
+/// As many bytes as a signing key has, in base64 or raw. A file with only a public key or a signature looks the same;
+/// clients do not need such a file.
 bool IsSigningKey(QByteArray const& content)
 {
     auto const bytes = Engine::DecodeBase64(content.trimmed().toStdString());
@@ -104,7 +104,7 @@ bool HoldsKey(int file, qint64 size)
     ssize_t const count = Engine::ReadUpTo(file, 0, content.data(), std::size_t(size));
     if (count < 0)
     {
-        return true; // what cannot be read is not served
+        return true; // an unreadable file is not served
     }
     content.truncate(int(count));
     return IsPemKey(content) || IsMarkedKey(content) || IsDerKey(content) || IsSigningKey(content);

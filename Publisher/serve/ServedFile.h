@@ -1,5 +1,5 @@
-// ServedFile.h: which files of a folder are served, and which are hidden. Ownership: the folder's descriptor stays the
-// caller's.
+// ServedFile.h: decides which files of a folder are served and which are hidden. Ownership: the caller keeps the
+// folder's descriptor.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -13,11 +13,11 @@ namespace Pelnar::Publisher
 struct ServedFile
 {
     Engine::UniqueFd file;
-    QString hiddenBecause; ///< empty for a file that is served, and for one that is not there
+    QString hiddenBecause; ///< empty if the file is served or does not exist
 };
 
-/// The plain file \a path below the folder open at \a folderFd. Hidden are names that begin with a dot, what only its
-/// owner may read, and private keys, by name or by content; so is what stands in a folder that is hidden.
+/// Opens the plain file \a path below the folder open at \a folderFd. Hidden are: names that begin with a dot, files
+/// that only their owner may read, private keys (by name or content), and everything in a hidden folder.
 ServedFile OpenServedFile(int folderFd, QString const& path);
 
 } // namespace Pelnar::Publisher

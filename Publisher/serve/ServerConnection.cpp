@@ -69,7 +69,7 @@ QByteArray TypeOf(QString const& path)
     return "application/octet-stream";
 }
 
-/// Changes whenever the file does.
+/// Changes whenever the file changes.
 QByteArray TagOf(struct stat const& status)
 {
     return '"' + QByteArray::number(qint64(status.st_size), 16) + '-' +
@@ -115,13 +115,13 @@ void ServerConnection::Read()
     QByteArray const bytes = m_socket.readAll();
     if (isAnswered)
     {
-        return; // one request a connection
+        return; // one request per connection
     }
     constexpr char TLS_HANDSHAKE = 0x16;
     if (m_head.isEmpty() && bytes.startsWith(TLS_HANDSHAKE))
     {
-        // Otherwise both sides would wait for each other until a time-out.
-        m_log(u"? refused: https is asked for, and this server has no --tls"_s);
+        // Without this both sides would wait for each other until a timeout.
+        m_log(u"? refused: the request uses https, but the server has no --tls"_s);
         Reset();
         return;
     }
@@ -133,7 +133,14 @@ void ServerConnection::Read()
     }
     std::optional<HttpRequest> const request = ParseHttpRequest(m_head.left(std::max(end, 0)));
     m_head = "\r\n\r\n";
-    request ? Answer(*request) : AnswerStatus({"?", u"?"_s, {}, {}}, 400);
+    if (request)
+    {
+        Answer(*request);
+    }
+    else
+    {
+        AnswerStatus({"?", u"?"_s, {}, {}}, 400);
+    }
 }
 
 ServerFault const* ServerConnection::FaultFor(QString const& path) const
@@ -161,7 +168,7 @@ void ServerConnection::Answer(HttpRequest const& request)
     if (request.host && !IsAskedByItsName(request))
     {
         AnswerStatus(request, 421, {},
-                     u" for \"%1\", which --host does not name"_s.arg(Printable(QString::fromLatin1(*request.host))));
+                     u" for \"%1\", which no --host names"_s.arg(Printable(QString::fromLatin1(*request.host))));
         return;
     }
     if (request.method != "GET" && request.method != "HEAD")
@@ -202,7 +209,7 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
     QByteArray const tag = TagOf(status);
     QByteArray const changed = HttpDate(status.st_mtim.tv_sec);
     QByteArray const version = "ETag: " + tag + "\r\nLast-Modified: " + changed + "\r\n";
-    // A fault that was asked for must show.
+    // A requested fault must have a visible effect.
     if (!m_fault && HasVersion(request, tag, status.st_mtim.tv_sec))
     {
         AnswerStatus(request, 304, version);
@@ -240,7 +247,7 @@ void ServerConnection::AnswerFile(HttpRequest const& request, Engine::UniqueFd f
 void ServerConnection::AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders,
                                     QString const& remark)
 {
-    // In a 304 response, the length would be that of the file.
+    // In a 304 response, the length would be the file's length.
     m_socket.write("HTTP/1.1 " + QByteArray::number(status) + ' ' + ReasonOf(status) + "\r\n" + extraHeaders +
                    (status == 304 ? "" : "Content-Length: 0\r\n") + "Connection: close\r\n\r\n");
     m_log(u"%1 /%2 "_s.arg(Printable(QString::fromLatin1(request.method)), Printable(request.path)) +
@@ -308,7 +315,7 @@ void ServerConnection::Reset()
 {
     m_pace.stop();
     m_file = Engine::UniqueFd();
-    // Sends what was promised so far. Then closing resets the connection instead of ending it.
+    // Sends the announced bytes so far. After that, closing resets the connection instead of ending it normally.
     m_socket.flush();
     linger const now{1, 0};
     ::setsockopt(int(m_socket.socketDescriptor()), SOL_SOCKET, SO_LINGER, &now, sizeof now);

@@ -1,5 +1,5 @@
-// ServerConnection.h: one connection of the test server: a request, its answer, the fault that was asked for.
-// Ownership: deletes itself when the connection ends; the folder outlives it.
+// ServerConnection.h: one connection of the test server: one request, its response, and the requested fault. Ownership:
+// deletes itself when the connection ends. The folder outlives it.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -19,14 +19,14 @@ class ServerConnection : public QObject
 public:
     ServerConnection(int folderFd, ServerManners const& manners, ServerLog const& log, QObject* parent);
 
-    /// Takes over the connection \a descriptor, under TLS with a certificate.
+    /// Takes ownership of the connection \a descriptor; uses TLS if there is a certificate.
     void Start(qintptr descriptor, std::optional<ServerCertificate> const& certificate);
 
 private:
     void Read();
     void Answer(HttpRequest const& request);
     void AnswerFile(HttpRequest const& request, Engine::UniqueFd file);
-    /// \a remark stands in the log alone.
+    /// \a remark appears only in the log.
     void AnswerStatus(HttpRequest const& request, int status, QByteArray const& extraHeaders = {},
                       QString const& remark = {});
     [[nodiscard]] bool IsAskedByItsName(HttpRequest const& request) const;
@@ -45,7 +45,7 @@ private:
     Engine::UniqueFd m_file;
     ByteRange m_rest;
     ServerFault const* m_fault = nullptr;
-    qint64 m_untilFault = -1; ///< bytes of the body until the connection ends; -1 for no such fault
+    qint64 m_untilFault = -1; ///< bytes of the body before the connection ends; -1 without such a fault
 };
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,4 @@
-// ServerFault.h: what the test server does wrong on demand, and the text in which it is asked for.
+// ServerFault.h: the faults that the test server can make, and their text on the command line.
 #pragma once
 
 #include <QString>
@@ -10,10 +10,10 @@ namespace Pelnar::Publisher
 
 enum class ServerFaultKind
 {
-    Truncate, ///< the answer ends after so many bytes of its body
-    Slow,     ///< so many bytes of the body a second
+    Truncate, ///< the response ends after this many bytes of its body
+    Slow,     ///< this many bytes of the body per second
     Status,   ///< this status and no body
-    Drop,     ///< the connection is reset after so many bytes of the body; before any answer when that is 0
+    Drop,     ///< the connection is reset after this many bytes of the body; with 0 before any response
 };
 
 struct ServerFault
@@ -23,8 +23,8 @@ struct ServerFault
     qint64 number = 0;
 };
 
-/// "truncate:NAME:BYTES", "slow:NAME:BYTES-PER-SECOND", "status:NAME:CODE", "drop:NAME:BYTES"; nothing for any other
-/// text.
+/// Reads "truncate:NAME:BYTES", "slow:NAME:BYTES-PER-SECOND", "status:NAME:CODE" or "drop:NAME:BYTES"; nothing for any
+/// other text.
 std::optional<ServerFault> ParseServerFault(QString const& text);
 
 } // namespace Pelnar::Publisher

@@ -26,14 +26,14 @@ constexpr std::uint64_t MOST_PEM_BYTES = 1 << 20;
 
 ServerCertificate ReadCertificate(QString const& certificateFile, QString const& keyFile)
 {
-    QString const mend = u"give the files of the server: certificate chain, then key, both PEM"_s;
+    QString const mend = u"give two PEM files: the server's certificate chain, then its key"_s;
     QByteArray const key = ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend);
     ServerCertificate certificate;
     certificate.chain =
         QSslCertificate::fromData(ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend), QSsl::Pem);
     if (certificate.chain.isEmpty())
     {
-        throw Refusal({certificateFile, u"holds no certificate"_s, mend});
+        throw Refusal({certificateFile, u"contains no certificate"_s, mend});
     }
     for (QSsl::KeyAlgorithm const algorithm : {QSsl::Rsa, QSsl::Ec})
     {
@@ -43,7 +43,7 @@ ServerCertificate ReadCertificate(QString const& certificateFile, QString const&
             return certificate;
         }
     }
-    throw Refusal({keyFile, u"holds no RSA or EC key without a password"_s, mend});
+    throw Refusal({keyFile, u"contains no RSA or EC key without a password"_s, mend});
 }
 
 std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
@@ -54,9 +54,9 @@ std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
         std::optional<ServerFault> fault = ParseServerFault(QString::fromStdString(text));
         if (!fault)
         {
-            throw Refusal({u"--fault: \"%1\" is no fault"_s.arg(QString::fromStdString(text)),
-                           u"say truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or "
-                           "drop:NAME:BYTES"_s});
+            throw Refusal(
+                {u"--fault: \"%1\" is not a fault"_s.arg(QString::fromStdString(text)),
+                 u"write truncate:NAME:BYTES, slow:NAME:BYTES-PER-SECOND, status:NAME:CODE or drop:NAME:BYTES"_s});
         }
         faults.push_back(std::move(*fault));
     }
@@ -72,7 +72,7 @@ std::vector<QByteArray> ParseHosts(std::vector<std::string> const& hosts)
         QByteArray const name = HostName(QByteArray::fromStdString(host));
         if (name.isEmpty() || !NAME.match(QString::fromLatin1(name)).hasMatch())
         {
-            throw Refusal({u"--host: \"%1\" is no name"_s.arg(QString::fromStdString(host)),
+            throw Refusal({u"--host: \"%1\" is not a host name"_s.arg(QString::fromStdString(host)),
                            u"give a name such as updates.example.com"_s});
         }
         names.push_back(name);
@@ -80,7 +80,7 @@ std::vector<QByteArray> ParseHosts(std::vector<std::string> const& hosts)
     return names;
 }
 
-/// Ends the loop when standard input does.
+/// Ends the loop when standard input ends.
 void EndWithInput(QSocketNotifier& notifier, QEventLoop& loop)
 {
     QObject::connect(&notifier, &QSocketNotifier::activated, &loop,
@@ -104,7 +104,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
     Engine::UniqueFd folder(::open(QFile::encodeName(name).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
     {
-        RefuseFile(name, u"cannot be served"_s, errno, u"name the folder of the feed"_s);
+        RefuseFile(name, u"cannot be served"_s, errno, u"give the folder of the feed"_s);
     }
     std::optional<ServerCertificate> certificate;
     if (!options.tls.empty())
@@ -118,7 +118,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
         if (fault.kind != ServerFaultKind::Status && !OpenServedFile(folder.Get(), fault.name).file)
         {
             throw Refusal(
-                {u"--fault: \"%1\" is no file that is served"_s.arg(fault.name), u"give its path below the folder"_s});
+                {u"--fault: \"%1\" is not a served file"_s.arg(fault.name), u"give its path below the folder"_s});
         }
     }
     manners.hosts = ParseHosts(options.hosts);
@@ -126,12 +126,12 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
                       [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
     if (!server.Listen(options.port))
     {
-        throw Refusal({u"port %1 cannot be listened on"_s.arg(options.port), u"leave --port away to get a free one"_s});
+        throw Refusal({u"cannot listen on port %1"_s.arg(options.port), u"leave --port out to get a free port"_s});
     }
     console.Print(server.Address());
     if (!console.out.stream.flush())
     {
-        return ExitStatus::Findings; // nobody learns the address; told where the program ends
+        return ExitStatus::Findings; // nobody would learn the address; the program reports the failure at its end
     }
     QEventLoop loop;
     std::optional<QSocketNotifier> notifier;

@@ -7,7 +7,7 @@
 namespace Pelnar::Publisher
 {
 
-/// Prints the server's address and serves until it is interrupted, or until standard input ends. Throws Refusal.
+/// Prints the server's address, then serves until a signal arrives or standard input ends. Throws Refusal.
 ExitStatus Serve(Console const& console, ServeOptions const& options);
 
 } // namespace Pelnar::Publisher

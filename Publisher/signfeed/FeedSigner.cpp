@@ -24,12 +24,12 @@ Engine::FeedChannel ReadChannel(QString const& name, QByteArray const& content)
     if (!feed)
     {
         throw Refusal({name, feed.error().line, feed.error().column, feed.error().sentence.English(),
-                       u"mend the feed; clients do not read it"_s});
+                       u"correct the feed; clients cannot read it"_s});
     }
     return feed->channel;
 }
 
-/// What the feed's serial must be above.
+/// The serial that the new one must exceed.
 qint64 PublishedSerial(Engine::FeedChannel const& channel)
 {
     return channel.serials.size() == 1 ? Engine::FeedSerial(channel.serials.front()) : 0;
@@ -40,26 +40,28 @@ qint64 NextSerial(QString const& name, Engine::FeedChannel const& channel, Signi
     qint64 const published = PublishedSerial(channel);
     if (terms.serial && *terms.serial <= published)
     {
-        throw Refusal({name, u"has the serial %1 already, which must grow"_s.arg(published),
-                       u"give a greater --serial, or none"_s});
+        throw Refusal({name, u"already has the serial %1, and the new one must be greater"_s.arg(published),
+                       u"give a greater --serial, or leave the option out"_s});
     }
     if (!terms.serial && published == std::numeric_limits<qint64>::max())
     {
         throw Refusal(
-            {name, u"has the greatest serial that there is"_s,
+            {name, u"has the greatest possible serial"_s,
              u"clients accept another feed only once a key statement revokes the key that signed this one"_s});
     }
-    // A serial without the option is the time. A clock that was set back makes an expiry that has passed.
+    // Without the option, a serial is the current time. If the clock was set back, the expiry would already have
+    // passed.
     constexpr qint64 A_DAY = 86400;
-    constexpr qint64 LAST_TIME = 4102444800; // of 2100; what is above is no time
+    constexpr qint64 LAST_TIME = 4102444800; // of the year 2100; a greater number is not a time
     if (!terms.serial && published > terms.now.toSecsSinceEpoch() + A_DAY && published < LAST_TIME)
     {
         throw Refusal({name,
-                       u"was signed at %1 by its serial, but the clock of this computer says %2"_s.arg(
+                       u"was signed at %1 according to its serial, but this computer's clock says %2"_s.arg(
                            MomentText(QDateTime::fromSecsSinceEpoch(published, Qt::UTC)), MomentText(terms.now)),
                        u"set the clock, or give sign-feed a --serial"_s});
     }
-    // The time, so that a feed that is made from nothing is not below the one that clients have seen.
+    // At least the current time, so that a feed that is made again from nothing has a higher serial than the published
+    // one.
     return terms.serial ? *terms.serial : std::max(published + 1, terms.now.toSecsSinceEpoch());
 }
 
@@ -76,14 +78,14 @@ FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigne
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
                        u"has a signature that is not alone on the last line, or is damaged"_s,
-                       u"look at what changed the feed, and remove every line with a signature"_s});
+                       u"find out what changed the feed, and remove every line with a signature"_s});
     }
     bool const isOurs = Engine::VerifyFeed(bytes, {key.PublicKeyText().toStdString()}).has_value();
     if (!isOurs && changed == ChangedFeed::Refused)
     {
         throw Refusal({name, LineOf(bytes, feed.blockOffset), 0,
                        u"was changed after it was signed, or was signed by another key"_s,
-                       u"look at what changed, and say sign-feed --accept-changes if it is right"_s});
+                       u"check the changes, and use sign-feed --accept-changes if they are right"_s});
     }
     return {bytes.left(feed.contentBytes), true};
 }
@@ -99,26 +101,26 @@ QByteArray WithKeyStatement(QString const& name, QByteArray content, QString con
     if (!statement || given->size != line.size())
     {
         throw Refusal(
-            {option, u"is no key statement"_s, u"give the file with the one line that \"keys state\" printed"_s});
+            {option, u"is not a key statement"_s, u"give the file with the one line that \"keys state\" printed"_s});
     }
     QString const id = QString::fromStdString(Engine::KeyIdOf(key.PublicKeyText().toStdString()));
     if (!statement->validKeys.HasId(id.toStdString()))
     {
-        throw Refusal({option, u"does not say that the key %1 is valid, which signs the feed"_s.arg(id),
-                       u"sign with a key that is valid by it, or make another statement"_s});
+        throw Refusal({option, u"does not list the key %1, which signs the feed, as valid"_s.arg(id),
+                       u"sign with a key that it lists as valid, or make another statement"_s});
     }
     auto const published = Engine::FindKeyStatement(content);
     if (!published && published.error().cause == Engine::ErrorCause::KeyStatementMalformed)
     {
         throw Refusal(
-            {name, u"has a key statement that is damaged or stands twice"_s, u"remove every line with one"_s});
+            {name, u"has a key statement that is damaged or appears twice"_s, u"remove every line with a statement"_s});
     }
     auto const before = published ? Engine::ParseKeyStatement(published->text) : std::nullopt;
     if (before && before->serial > statement->serial)
     {
         throw Refusal(
             {option,
-             u"has the serial %1, and the published one has %2, which clients go on asking for"_s.arg(statement->serial)
+             u"has the serial %1, but the published one has %2, and clients refuse a lower one"_s.arg(statement->serial)
                  .arg(before->serial),
              u"make a statement with a greater --serial"_s});
     }
@@ -141,12 +143,12 @@ SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner
     }
     result.bytes += Engine::SignatureBlock(key.SignatureOf(result.bytes));
 
-    // As a client will.
+    // With the code of clients.
     auto const verified = Engine::VerifyFeed(result.bytes, {key.PublicKeyText().toStdString()});
     if (!verified || !Engine::ReadFeedValidity(ReadChannel(name, *verified)))
     {
-        throw Refusal({name, u"clients would not take the signature"_s,
-                       u"remove what looks like a signature from the feed's texts"_s});
+        throw Refusal({name, u"clients would not accept the signature"_s,
+                       u"remove text that looks like a signature from the feed"_s});
     }
     return result;
 }

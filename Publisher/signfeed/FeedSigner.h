@@ -1,5 +1,5 @@
-// FeedSigner.h: gives a feed a serial, an expiry and a signature, and changes no other byte. The format stands in
-// docs/formats/signed-feed.md.
+// FeedSigner.h: writes a serial, an expiry and a signature into a feed, and changes no other byte.
+// docs/formats/signed-feed.md describes the format.
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"
@@ -17,7 +17,7 @@ enum class ChangedFeed
     Accepted,
 };
 
-/// A feed as it was found, without its signature.
+/// A feed as it was read, without its signature.
 struct FeedContent
 {
     QByteArray bytes;
@@ -26,7 +26,7 @@ struct FeedContent
 
 struct SigningTerms
 {
-    std::optional<qint64> serial; ///< greater than the one that is there; without this one that certainly is
+    std::optional<qint64> serial; ///< greater than the present one; without it, one that is certainly greater
     int validDays = 30;
     QDateTime now; ///< in UTC
 };
@@ -37,18 +37,18 @@ struct SignedFeedBytes
     Engine::FeedValidity terms;
 };
 
-/// Takes \a bytes apart; \a name is shown. Throws Refusal: for a signature that is not where and how it must be, and,
-/// unless \a changed accepts it, for one that does not fit: anyone who signs by a timetable must not sign what somebody
-/// else has written into the feed.
+/// Splits \a bytes into content and signature. Messages call the feed \a name. Throws Refusal if the signature is
+/// malformed or misplaced. Also throws if it does not match, unless \a changed accepts this: a timed job must not sign
+/// changes that somebody else made.
 FeedContent ReadFeedContent(QString const& name, QByteArray const& bytes, ISigner const& key, ChangedFeed changed);
 
-/// \a content with the key statement in the file \a statementFile, as "keys state" prints it, in the place of the one
-/// that is there or at the end. Throws Refusal: for what is no such line, for a serial below the published one, and
-/// when \a key is not valid by it.
+/// Returns \a content with the key statement from the file \a statementFile, as "keys state" prints it. It replaces the
+/// present statement or is added at the end. Throws Refusal if the file has no valid line, if its serial is lower than
+/// the published one, and if \a key is not valid by it.
 QByteArray WithKeyStatement(QString const& name, QByteArray content, QString const& statementFile, ISigner const& key);
 
-/// Writes the terms into \a content and signs it. Throws Refusal: for what clients cannot read, for what is not UTF-8
-/// or has no channel, and for a serial that would not grow.
+/// Writes the serial and the expiry into \a content and signs it. Throws Refusal if clients cannot read the feed, if it
+/// is not UTF-8 or has no channel, and if the serial would not grow.
 SignedFeedBytes SignFeed(QString const& name, QByteArray const& content, ISigner const& key, SigningTerms const& terms);
 
 /// "signed with serial 8, expires 2026-12-20T08:00:00Z"

@@ -13,7 +13,7 @@ namespace
 constexpr char BYTE_ORDER_MARK[] = "\xEF\xBB\xBF";
 constexpr int CHANNEL_DEPTH = 2;
 
-/// A part of the text, in characters; start is -1 for one that is not there.
+/// A part of the text, in characters; start is -1 if it is absent.
 struct Range
 {
     int start = -1;
@@ -22,7 +22,7 @@ struct Range
 
 struct TermsPlaces
 {
-    int channelStart = -1; ///< behind the channel's start tag
+    int channelStart = -1; ///< after the channel's start tag
     Range serial;          ///< between the tags
     Range expires;
 };
@@ -61,7 +61,7 @@ public:
         bool const hasChannel = m_places.channelStart > 1 && m_text.at(m_places.channelStart - 2) != u'/';
         if (!hasChannel)
         {
-            throw Refusal({m_name, 1, 0, u"has no channel that could hold a serial"_s,
+            throw Refusal({m_name, 1, 0, u"has no channel for a serial"_s,
                            u"write <rss><channel> and </channel></rss> around the items"_s});
         }
         return m_places;
@@ -80,8 +80,8 @@ private:
         }
         if (m_open)
         {
-            throw Refusal({m_name, int(m_reader.lineNumber()), 0, u"the serial or the expiry has elements in it"_s,
-                           u"leave nothing but text in the feed's own elements"_s});
+            throw Refusal({m_name, int(m_reader.lineNumber()), 0, u"the serial or the expiry contains elements"_s,
+                           u"leave only text in these elements"_s});
         }
         bool const isOwn = m_isInChannel && m_depth == CHANNEL_DEPTH + 1 &&
                            m_reader.namespaceUri() == QLatin1String(Engine::OWN_FEED_NAMESPACE);
@@ -92,8 +92,7 @@ private:
         if (range && (range->start >= 0 || m_text.at(offset - 2) == u'/'))
         {
             throw Refusal({m_name, int(m_reader.lineNumber()), 0,
-                           u"the element \"%1\" stands there twice or is empty"_s.arg(m_reader.name()),
-                           u"remove it"_s});
+                           u"the element \"%1\" appears twice or is empty"_s.arg(m_reader.name()), u"remove it"_s});
         }
         if (range)
         {
@@ -117,10 +116,10 @@ private:
     TermsPlaces m_places;
     int m_depth = 0;
     bool m_isInChannel = false;
-    Range* m_open = nullptr; ///< that is being read
+    Range* m_open = nullptr; ///< the element that is being read
 };
 
-/// What separates two children of the channel: a line's end and the blanks before the first child, or nothing.
+/// The text between two children of the channel: a line feed and the blanks before the first child, or nothing.
 QString GapBehind(QString const& text, int offset)
 {
     int end = offset;
@@ -153,13 +152,13 @@ QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::Fee
     QString text = QString::fromUtf8(content.constData(), content.size());
     if ((hasMark ? BYTE_ORDER_MARK + text.toUtf8() : text.toUtf8()) != content || content.contains('\0'))
     {
-        throw Refusal({name, 1, 0, u"is not UTF-8, and only such feeds are signed"_s, u"convert the feed to UTF-8"_s});
+        throw Refusal({name, 1, 0, u"is not UTF-8; only UTF-8 feeds can be signed"_s, u"convert the feed to UTF-8"_s});
     }
     TermsPlaces const places = TermsFinder(name, text).Find();
     QString const gap = GapBehind(text, places.channelStart);
     QString const serial = QString::number(terms.serial);
     QString const expires = MomentText(terms.expires);
-    // From the end of the text, so that the places before stay where they are.
+    // From the end of the text, so that earlier places stay valid.
     auto const replace = [&text](Range range, QString const& value)
     { text.replace(range.start, range.end - range.start, value); };
     bool const isSerialLast = places.serial.start > places.expires.start;

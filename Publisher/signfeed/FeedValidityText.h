@@ -1,4 +1,4 @@
-// FeedValidityText.h: where a feed's text says its serial and its expiry, and other values in their place.
+// FeedValidityText.h: finds and replaces the serial and the expiry in a feed's text.
 #pragma once
 
 #include "Engine/core/check/FeedTrust.h"
@@ -9,12 +9,12 @@
 namespace Pelnar::Publisher
 {
 
-/// \a content with the terms in its channel: in the elements that are there, or in new ones at the channel's start. No
-/// other byte differs. \a name is shown. Throws Refusal: for what is not UTF-8 or has no channel, and for an element
-/// that stands twice or holds more than text.
+/// Returns \a content with these values in its channel: in the existing elements, or in new ones at the channel's
+/// start. No other byte changes. Messages call the feed \a name. Throws Refusal if the feed is not UTF-8 or has no
+/// channel, and if an element appears twice or contains more than text.
 QByteArray WithTerms(QString const& name, QByteArray const& content, Engine::FeedValidity const& terms);
 
-/// A moment in the form that clients read.
+/// A time in the form that clients read.
 QString MomentText(QDateTime const& moment);
 
 } // namespace Pelnar::Publisher

@@ -31,7 +31,7 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
     QString const name = QString::fromStdString(options.feed);
     QString const output = options.output.empty() ? name : QString::fromStdString(options.output);
     FolderLock const lock(QFileInfo(output).absolutePath(), console);
-    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"drop old items"_s);
+    QByteArray const bytes = ReadInputFile(OpenInputFile(name), INT_MAX, u"remove old items"_s);
     std::unique_ptr<ISigner> const signer = LoadSigner(options.signer);
     ChangedFeed const changed = options.isAcceptingChanges ? ChangedFeed::Accepted : ChangedFeed::Refused;
     FeedContent const content = ReadFeedContent(name, bytes, *signer, changed);
@@ -54,13 +54,13 @@ ExitStatus SignFeedFile(SignFeedOptions const& options, Console const& console)
 void AddKeyStatementOption(CLI::App& verb, std::string& file)
 {
     verb.add_option("--key-statement", file,
-                    "File with the line that \"keys state\" printed: it takes the place of the feed's key statement")
+                    "File with the line that \"keys state\" printed. It replaces the feed's key statement")
         ->type_name("FILE");
 }
 
 void AddValidForOption(CLI::App& verb, int& days)
 {
-    verb.add_option("--valid-for", days, "Days until the signature expires, by when the feed must be signed again")
+    verb.add_option("--valid-for", days, "Days until the signature expires; sign the feed again before that")
         ->type_name("DAYS")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();
@@ -70,30 +70,30 @@ void AddSignFeed(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<SignFeedOptions>(
         program, context, "sign-feed",
-        "Sign a feed, or sign it again before its signature expires: it gets a new serial and a new date, "
-        "and keeps every other byte; a feed that was changed since is not signed again",
+        "Sign a feed, or sign it again before its signature expires. The feed gets a new serial and a new date; all "
+        "other bytes stay unchanged. A feed that was changed since the last signature is refused",
         SignFeedFile);
     verb.add_option("FEED", options.feed, "File of the feed")->required();
     AddSignerOptions(verb, options.signer);
     AddValidForOption(verb, options.validDays);
-    // As text: the number would be cut to the greatest one that fits.
+    // As text: CLI11 would reduce the number to the greatest one that fits.
     verb.add_option_function<std::string>(
             "--serial",
             [&serial = options.serial](std::string const& text)
             { serial = Engine::FeedSerial(QString::fromStdString(text)); },
-            "Number above that of the published feed; without this the next one, or the seconds since 1970 "
-            "when they are more")
+            "Serial number, greater than that of the published feed; default: the next one, or the seconds since 1970 "
+            "if that is greater")
         ->type_name("NUMBER")
         ->check(
             [](std::string const& text)
             {
                 bool const isSerial = Engine::FeedSerial(QString::fromStdString(text)) > 0;
-                return isSerial ? std::string() : text + " is no number from 1 to 9223372036854775807";
+                return isSerial ? std::string() : text + " is not a number from 1 to 9223372036854775807";
             });
     AddKeyStatementOption(verb, options.keyStatement);
     verb.add_flag("--accept-changes", options.isAcceptingChanges,
-                  "Sign a feed as well that was changed after it was signed, or was signed by another key");
-    verb.add_option("-o,--output", options.output, "File to write; without this FEED itself")->type_name("FILE");
+                  "Also sign a feed that was changed after it was signed, or that another key signed");
+    verb.add_option("-o,--output", options.output, "File to write; default: FEED itself")->type_name("FILE");
 }
 
 } // namespace Pelnar::Publisher

@@ -1,4 +1,4 @@
-// SignFeedVerb.h: the verb "sign-feed", and the options that say how a feed is signed.
+// SignFeedVerb.h: the verb "sign-feed", and the options for signing a feed.
 #pragma once
 
 #include "Publisher/Verb.h"
@@ -9,7 +9,7 @@ namespace Pelnar::Publisher
 /// "--key-statement", the name of a file.
 void AddKeyStatementOption(CLI::App& verb, std::string& file);
 
-/// "--valid-for"; \a days is what it is without the option.
+/// "--valid-for"; \a days contains the default.
 void AddValidForOption(CLI::App& verb, int& days);
 
 } // namespace Pelnar::Publisher

@@ -25,7 +25,7 @@ struct SimulateOptions : FeedQuestion
     std::uint32_t seed = 1;
 };
 
-/// The moment of the command line, else that of the newest item whose date can be read, else now.
+/// The time from the command line; otherwise the newest item's readable date, otherwise now.
 QDateTime StartOf(std::vector<Engine::FeedItem> const& items, SimulateOptions const& options, QDateTime const& given)
 {
     QDateTime newest;
@@ -67,7 +67,7 @@ ExitStatus RunSimulation(SimulateOptions const& options, Console const& console)
                                 : ParseVersionList(u"--versions"_s, options.versions, ParseLocalVersion);
     if (request.startVersions.empty())
     {
-        throw Refusal({feed.source.name, u"names no version to begin with"_s, u"give --versions"_s});
+        throw Refusal({feed.source.name, u"names no version to start with"_s, u"give --versions"_s});
     }
     request.clients = options.clients;
     request.days = options.days;
@@ -98,28 +98,28 @@ void AddSimulate(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<SimulateOptions>(
         program, context, "simulate",
-        "Draws who has which version when: clients that check once a day and take what they are offered",
+        "Simulate how clients move to new versions, if they check once a day and take every update",
         RunSimulation);
     AddFeedOption(verb, options.feed);
-    verb.add_option("--clients", options.clients, "How many clients")
+    verb.add_option("--clients", options.clients, "Number of clients")
         ->type_name("N")
         ->check(CLI::Range(1, 1000000))
         ->capture_default_str();
-    verb.add_option("--days", options.days, "For how many days")
+    verb.add_option("--days", options.days, "Number of days")
         ->type_name("D")
         ->check(CLI::Range(1, 3650))
         ->capture_default_str();
-    verb.add_option("--versions", options.versions,
-                    "Versions that the clients begin with in turn, with commas between them; default: all that the "
-                    "feed names")
+    verb.add_option(
+            "--versions", options.versions,
+            "Versions that the clients start with in turn, separated by commas; default: all that the feed names")
         ->type_name("LIST");
     verb.add_option("--system-version", options.systemVersion, "Version of the clients' operating system")
         ->type_name("V")
         ->capture_default_str();
-    verb.add_option("--seed", options.seed, "Another number gives the clients other hours and other groups")
+    verb.add_option("--seed", options.seed, "Another number gives the clients other check times and rollout groups")
         ->type_name("NUMBER")
         ->capture_default_str();
-    verb.add_option("--svg", options.picture, "Write a picture as well")->type_name("FILE");
+    verb.add_option("--svg", options.picture, "Also write a picture")->type_name("FILE");
     AddClientOptions(verb, options);
 }
 

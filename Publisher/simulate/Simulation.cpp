@@ -23,7 +23,7 @@ struct SimulatedClient
     int secondOfDay = 0;
 };
 
-/// A feed without the staged items that a client has to wait for.
+/// The feed for a client whose group must still wait for some staged items.
 class ReachedFeed
 {
 public:
@@ -33,7 +33,7 @@ public:
     {
     }
 
-    /// What a client of \a version is offered; its own version when that is nothing, or a page.
+    /// The version that a client of \a version is offered; its own version if there is no offer or only a web page.
     NamedVersion const& Next(NamedVersion const& version, Core::Version const& systemVersion,
                              Engine::Installation const& installation)
     {
@@ -106,7 +106,8 @@ private:
 
     std::vector<Engine::FeedItem> const& m_items;
     SimulationRequest m_request;
-    std::map<std::vector<bool>, std::unique_ptr<ReachedFeed>> m_feeds; ///< by the items that are waited for
+    std::map<std::vector<bool>, std::unique_ptr<ReachedFeed>> m_feeds; ///< by the staged items that have not reached
+                                                                       ///< the client yet
 };
 
 std::vector<SimulatedClient> MakeClients(SimulationRequest const& request)
@@ -124,7 +125,7 @@ std::vector<SimulatedClient> MakeClients(SimulationRequest const& request)
     return clients;
 }
 
-/// Two spellings of one version are one version.
+/// Two spellings of one version count as one version.
 void Count(std::vector<SimulatedClient> const& clients, std::vector<NamedVersion>& versions, std::vector<int>& counts)
 {
     counts.assign(versions.size(), 0);

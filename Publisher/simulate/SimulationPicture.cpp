@@ -54,7 +54,7 @@ private:
         return start.addDays(day).toUTC().date().toString(Qt::ISODate);
     }
 
-    /// Of the top of the first \a versions on \a day.
+    /// The top of the first \a versions on \a day.
     QString Point(int day, int versions) const
     {
         std::vector<int> const& counts = m_simulation.counts[std::size_t(day)];

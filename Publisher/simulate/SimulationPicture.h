@@ -1,4 +1,4 @@
-// SimulationPicture.h: a simulation as a picture: how many clients have each version, from day to day.
+// SimulationPicture.h: a simulation as a picture: the number of clients of each version from day to day.
 #pragma once
 
 #include "Publisher/simulate/Simulation.h"
@@ -8,7 +8,7 @@
 namespace Pelnar::Publisher
 {
 
-/// SVG: the versions lie on each other, the oldest below. REQUIRES: there is a client.
+/// SVG: stacked areas, the oldest version at the bottom. REQUIRES: there is a client.
 QByteArray PictureOf(Simulation const& simulation, QDateTime const& start);
 
 } // namespace Pelnar::Publisher

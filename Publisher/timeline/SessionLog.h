@@ -1,5 +1,5 @@
-// SessionLog.h: the session's records out of a log: each known by its file and line.
-// Ownership: values; sites are of static duration.
+// SessionLog.h: finds the session's records in a log, by their file and line. Ownership: values; sites have static
+// duration.
 #pragma once
 
 #include "App/UpdateChecker/SparkleImpl/Choice/LogSites.h"
@@ -16,8 +16,8 @@ namespace Pelnar::Publisher
 struct SessionRecord
 {
     int logLine = 0; ///< from 1
-    QString time;    ///< as the log gives it: "06:41:22.123456"
-    /// Of Session::Sites; null for a line number of the session's file that this version does not know.
+    QString time;    ///< as in the log: "06:41:22.123456"
+    /// The site in Session::Sites; null if this version has no record with this line number of the session's file.
     Core::LogSite const* site = nullptr;
     int siteLine = 0;
     QString text; ///< without the writing function's signature
@@ -26,15 +26,16 @@ struct SessionRecord
 struct SessionLog
 {
     std::vector<SessionRecord> records;
-    /// Records whose text does not begin with the signature of their line: the application is another version's.
+    /// Records whose text does not begin with the signature of their line: another version of the application wrote
+    /// them.
     std::vector<SessionRecord> strangers;
 };
 
-/// Reads the lines of a log as the application's logging writes them; all other lines are passed over. It stops before
+/// Reads the lines of a log as the application's logging writes them and ignores all others. It stops before
 /// the end of \a log at a line of a mebibyte, and after ten million lines: no log has them.
 SessionLog ReadSessionLog(std::istream& log);
 
-/// The part of a signature that names the operation: "Lock", "updater:didFindValidUpdate:".
+/// The operation's name in a signature: "Lock", "updater:didFindValidUpdate:".
 QString OperationName(Core::LogSite const& site);
 
 } // namespace Pelnar::Publisher

@@ -48,7 +48,7 @@ bool EndsWithAbort(State state)
     return reaction != AbortReaction::Nothing && reaction != AbortReaction::Unspecified;
 }
 
-/// Whether the operation may switch from the one state to the other: the session's own table.
+/// True if the operation may change the first state to the second, by the session's own table.
 bool MaySwitch(Core::LogSite const* site, State from, State to)
 {
     if (site == &Sites::CHECK)
@@ -76,7 +76,7 @@ bool MaySwitch(Core::LogSite const* site, State from, State to)
            (site == &Sites::DID_CANCEL && App::Session::IsCancelledInstallExpected(from));
 }
 
-/// Whether the session has a behaviour for the callback in the state.
+/// True if the session handles the callback in this state.
 bool IsExpected(Core::LogSite const* site, State state)
 {
     if (site == &Sites::FOUND || site == &Sites::NOT_FOUND)
@@ -97,7 +97,7 @@ bool IsExpected(Core::LogSite const* site, State state)
     }
     if (site == &Sites::BEST_ITEM)
     {
-        // Asked within a request only, and every request has a state of its own.
+        // Asked only during a request, and every request has its own state.
         return state != State::WAITING;
     }
     return true;
@@ -113,12 +113,12 @@ Core::LogSite const* const CALLBACKS[] = {&Sites::FOUND,        &Sites::NOT_FOUN
                                           &Sites::WILL_INSTALL, &Sites::SHOULD_RELAUNCH, &Sites::WILL_RELAUNCH,
                                           &Sites::DID_CANCEL,   &Sites::RELAUNCH_PATH,   &Sites::BEST_ITEM};
 
-/// Callbacks that switch to WAITING from some states.
+/// Callbacks that change some states to WAITING.
 Core::LogSite const* const OUTCOMES[] = {&Sites::FOUND, &Sites::NOT_FOUND, &Sites::ABORTED, &Sites::DID_CANCEL};
-/// Operations that switch from every state.
+/// Operations that change the state from every state.
 Core::LogSite const* const SWITCHING[] = {&Sites::CHECK, &Sites::CHECK_RAISED, &Sites::SHOW_DIALOG,
                                           &Sites::SHOW_DIALOG_RAISED, &Sites::WILL_INSTALL};
-/// Operations that give up when a guard fails, and the guards.
+/// Operations that end early if a guard fails, with their guards.
 Core::LogSite const* const GUARDED[] = {&Sites::CHECK, &Sites::SHOW_DIALOG, &Sites::FOUND, &Sites::NOT_FOUND};
 Core::LogSite const* const GUARDS[] = {&Sites::ENSURE_CONTEXT, &Sites::ENSURE_CALLBACK, &Sites::ENSURE_LOCAL_VERSION,
                                        &Sites::ENSURE_REMOTE_VERSION};
@@ -151,17 +151,17 @@ void SessionModel::Take(SessionRecord const& record)
     m_previous = record;
 }
 
-/// Some records must follow others at once.
+/// Some records must follow others immediately.
 void SessionModel::CheckFollowUp(SessionRecord const& record)
 {
     if (m_mustUnlock && record.site != &Sites::UNLOCK)
     {
-        AddWrong(record, u"the lock was to be given back here: its holder had left"_s);
+        AddWrong(record, u"the lock should have been released here, because its holder had left"_s);
     }
     m_mustUnlock = false;
     if (m_unexplainedIdle && record.site != &Sites::UNLOCK && record.site != &Sites::DESTROY_UPDATER)
     {
-        AddWrong(*m_unexplainedIdle, u"nothing that was going on ends in WAITING here"_s);
+        AddWrong(*m_unexplainedIdle, u"no running operation ends in WAITING here"_s);
         m_unexplainedIdle.reset();
     }
 }
@@ -172,12 +172,12 @@ void SessionModel::TakeStatedState(SessionRecord const& record)
     std::optional<State> const stated = StateFromName(name);
     if (!stated)
     {
-        AddWrong(record, u"%1 is no state"_s.arg(name));
+        AddWrong(record, u"%1 is not a state"_s.arg(name));
         return;
     }
     if (m_state && *m_state != *stated)
     {
-        AddWrong(record, u"the state is %1, and the last switch left %2"_s.arg(name, NameOf(m_state)));
+        AddWrong(record, u"the state is %1, but the last change led to %2"_s.arg(name, NameOf(m_state)));
     }
     m_state = stated;
 }
@@ -189,13 +189,13 @@ void SessionModel::TakeSwitch(SessionRecord const& record)
     std::optional<State> const to = words.size() == 5 ? StateFromName(words.at(4)) : std::nullopt;
     if (!from || !to)
     {
-        AddWrong(record, u"no switch between two states: %1"_s.arg(record.text));
+        AddWrong(record, u"not a change between two states: %1"_s.arg(record.text));
         return;
     }
     bool const isFirst = m_previous.site == nullptr;
     if (m_state && *m_state != *from)
     {
-        AddWrong(record, u"the switch leaves %1, and the state was %2"_s.arg(NameOf(from), NameOf(m_state)));
+        AddWrong(record, u"the change starts from %1, but the state was %2"_s.arg(NameOf(from), NameOf(m_state)));
     }
     m_state = to;
     Add(record, EventKind::State, u"%1 -> %2"_s.arg(NameOf(from), NameOf(to)));
@@ -208,7 +208,7 @@ void SessionModel::TakeSwitch(SessionRecord const& record)
         m_unexplainedIdle = record;
         return;
     }
-    AddWrong(record, u"nothing that was going on leads from %1 to %2"_s.arg(NameOf(from), NameOf(to)));
+    AddWrong(record, u"no running operation leads from %1 to %2"_s.arg(NameOf(from), NameOf(to)));
 }
 
 bool SessionModel::CloseOperationFor(State from, State to)
@@ -239,7 +239,7 @@ void SessionModel::TakeLock(SessionRecord const& record)
         }
         if (m_previous.site && m_previous.site != &Sites::LOCK)
         {
-            AddWrong(record, u"the session is lent without its lock"_s);
+            AddWrong(record, u"the session is used without its lock"_s);
         }
         m_isLocked = true;
         m_isUnlockRequested = false;
@@ -272,7 +272,7 @@ void SessionModel::TakeUnlock(SessionRecord const& record)
                               !m_previous.site;
         if (!wasAsked)
         {
-            AddWrong(record, u"the lock is given back, and nobody asked for it"_s);
+            AddWrong(record, u"the lock is released without a request"_s);
         }
         Release();
         Add(record, EventKind::Lock, u"free"_s);
@@ -297,7 +297,7 @@ void SessionModel::TakeCommand(SessionRecord const& record)
                                          : u"check %1: the update dialog"_s.arg(m_checks));
         if (m_isLocked && !*m_isLocked)
         {
-            AddWrong(record, u"a check begins while nobody holds the lock"_s);
+            AddWrong(record, u"a check starts while nobody holds the lock"_s);
         }
     }
     else if (record.site == &Sites::CHECK_RAISED || record.site == &Sites::SHOW_DIALOG_RAISED)
@@ -307,7 +307,7 @@ void SessionModel::TakeCommand(SessionRecord const& record)
     }
     else if (record.site == &Sites::REJECT)
     {
-        Add(record, EventKind::Command, u"the update is rejected, a dialog closed"_s);
+        Add(record, EventKind::Command, u"the update is rejected and the dialog is closed"_s);
     }
 }
 
@@ -317,7 +317,7 @@ void SessionModel::TakeCallback(SessionRecord const& record)
     Add(record, EventKind::Callback, OperationName(*record.site));
     if (m_state && !IsExpected(record.site, *m_state))
     {
-        AddWrong(record, u"%1 cannot come in %2"_s.arg(OperationName(*record.site), NameOf(m_state)));
+        AddWrong(record, u"%1 cannot occur in %2"_s.arg(OperationName(*record.site), NameOf(m_state)));
     }
 }
 
@@ -348,11 +348,11 @@ void SessionModel::TakeRest(SessionRecord const& record)
 {
     if (record.site == &Sites::CREATE_UPDATER)
     {
-        // A new process; what was before it in the log is over.
+        // A new process: the events of the previous one are complete.
         m_state = State::WAITING;
         Release();
         m_open.clear();
-        Add(record, EventKind::Process, u"the session begins"_s);
+        Add(record, EventKind::Process, u"the session starts"_s);
     }
     else if (record.site == &Sites::DESTROY_UPDATER)
     {
@@ -363,7 +363,7 @@ void SessionModel::TakeRest(SessionRecord const& record)
     {
         if (m_state && *m_state != State::WAITING)
         {
-            AddWrong(record, u"the holder is told before the state is WAITING"_s);
+            AddWrong(record, u"the holder is notified before the state is WAITING"_s);
         }
         Add(record, EventKind::Told, u"the check is over"_s);
     }
@@ -411,7 +411,7 @@ Timeline SessionModel::Finish()
 {
     if (m_unexplainedIdle)
     {
-        AddWrong(*m_unexplainedIdle, u"nothing that was going on ends in WAITING here"_s);
+        AddWrong(*m_unexplainedIdle, u"no running operation ends in WAITING here"_s);
     }
     return std::move(m_timeline);
 }

@@ -1,5 +1,5 @@
-// SessionModel.h: follows a session record by record: its state, and what may come next. Thread: one at a time.
-// Ownership: its own events.
+// SessionModel.h: follows a session record by record: its current state and the records that may come next. Thread: one
+// at a time. Ownership: owns its events.
 #pragma once
 
 #include "Publisher/timeline/Timeline.h"
@@ -13,7 +13,7 @@ class SessionModel
 {
 public:
     void Take(SessionRecord const& record);
-    /// The events, once all records were taken.
+    /// The events, after all records have been added.
     Timeline Finish();
 
 private:
@@ -27,9 +27,9 @@ private:
     void TakeChoice(SessionRecord const& record);
     void TakeRest(SessionRecord const& record);
     void Release();
-    /// Notes that the operation will switch the state, if it is one that does so from here.
+    /// Notes that the operation will change the state, if it does so in the current state.
     void Open(Core::LogSite const* site);
-    /// A guard failed: the operation that asked it gives up.
+    /// A guard failed: the operation that called it ends early.
     void GiveUp();
     [[nodiscard]] bool CloseOperationFor(App::Session::State from, App::Session::State to);
     void Add(SessionRecord const& record, EventKind kind, QString const& text);
@@ -39,13 +39,14 @@ private:
     std::optional<App::Session::State> m_state;
     std::optional<bool> m_isLocked;
     std::optional<bool> m_isUnlockRequested;
-    /// What was begun and will switch the state, the latest last: dialogs let others in between.
+    /// Operations that have begun and will change the state, the latest last. Others can run inside them while a dialog
+    /// is open.
     std::vector<Core::LogSite const*> m_open;
-    /// A switch to WAITING that nothing explains but the end of the session, which shows by the next two records.
+    /// A change to WAITING that only the end of the session explains. The next two records confirm it.
     std::optional<SessionRecord> m_unexplainedIdle;
     SessionRecord m_previous;
     bool m_mustUnlock = false;
-    bool m_isBestItemNext = false; ///< the item that is dumped next was chosen
+    bool m_isBestItemNext = false; ///< the next item in the log is the chosen one
     QString m_dumpedVersion;
     int m_holders = 0;
     int m_holder = 0;

@@ -51,7 +51,7 @@ Timeline RebuildTimeline(SessionLog const& log)
     {
         TimelineEvent event{stranger.logLine, stranger.time, EventKind::Wrong, QString(), 0, 0, std::nullopt};
         event.text =
-            u"line %1 of the session's source writes no such record in this version: %2"_s.arg(stranger.siteLine)
+            u"line %1 of the session's source does not write this record in this version: %2"_s.arg(stranger.siteLine)
                 .arg(stranger.text);
         timeline.events.push_back(event);
     }

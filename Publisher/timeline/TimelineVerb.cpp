@@ -84,7 +84,7 @@ ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& o
     if (timeline.events.empty())
     {
         return console.Refuse(
-            {name, u"no record of the update session"_s, u"run the application with its log at level 30 (--v=30)"_s});
+            {name, u"contains no record of the update session"_s, u"run the application with log level 30 (--v=30)"_s});
     }
     if (options.isJson)
     {
@@ -98,8 +98,8 @@ ExitStatus Show(std::istream& log, QString const& name, TimelineOptions const& o
         }
         int const wrong = timeline.WrongEvents();
         console.Print(Printable(name) + u": "_s +
-                      (wrong == 0 ? u"an order that can happen"_s
-                                  : CountOf(std::size_t(wrong), u"place"_s) + u" where the order cannot happen"_s));
+                      (wrong == 0 ? u"every sequence is possible"_s
+                                  : CountOf(std::size_t(wrong), u"place"_s) + u" with an impossible sequence"_s));
     }
     return timeline.WrongEvents() == 0 ? ExitStatus::Clean : ExitStatus::Findings;
 }
@@ -127,7 +127,7 @@ void AddTimeline(CLI::App& program, VerbContext& context)
 {
     auto const [verb, options] = AddVerb<TimelineOptions>(
         program, context, "timeline",
-        "Rebuilds from an application's log what its update session did, and flags what cannot happen", ShowTimeline);
+        "Show from an application's log what its update session did, and mark impossible sequences", ShowTimeline);
     verb.add_option("LOG", options.log, "Path of the log, or - for standard input")->required();
     verb.add_flag("--json", options.isJson, "Print one JSON object");
 }

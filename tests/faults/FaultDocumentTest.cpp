@@ -58,22 +58,24 @@ std::string Faults()
 {
     std::ostringstream text;
     text << "# Faults\n\n"
-            "Made from `Engine/core/faults/ErrorCauses.def` and `Engine/core/faults/UpdateFaults.def`; do not edit. "
-            "The code\n"
-            "of an error is the published one; its number is the code of the underlying error in\n"
-            "`PelnarUpdateCheckErrorDomain`. Numbers and names never change their meaning.\n\n"
+            "This page is generated from `Engine/core/faults/ErrorCauses.def` and `UpdateFaults.def`; do not edit it. "
+            "The code of an\n"
+            "error is the published one. Its number is the code of the underlying error in "
+            "`PelnarUpdateCheckErrorDomain`.\n"
+            "Numbers and names never change their meaning.\n\n"
             "## Checks, downloads and the application's own part\n\n"
-            "| Number | Name | Code | Who has to mend it | What a person reads |\n"
+            "| Number | Name | Code | Who must correct it | Sentence for a person |\n"
             "| --- | --- | --- | --- | --- |\n";
     for (ErrorCause const cause : EveryCause())
     {
         text << Start(EntryOf(cause)) << " |\n";
     }
     text << "\n## Archives and installations\n\n"
-            "The name is what the helper [reports](formats/helper-report.md). The last two columns are what "
-            "`pelnar-appcast` says of an\n"
+            "The helper [reports](formats/helper-report.md) the name. The last two columns are the messages of "
+            "`pelnar-appcast` about an\n"
             "archive.\n\n"
-            "| Number | Name | Code | Who has to mend it | What a person reads | What the publisher reads | Mend |\n"
+            "| Number | Name | Code | Who must correct it | Sentence for a person | Finding for the publisher | "
+            "Correction |\n"
             "| --- | --- | --- | --- | --- | --- | --- |\n";
     auto const row = [&text](UpdateFault fault, std::string const& what, std::string const& mend)
     { text << Start(EntryOf(fault)) << " | " << what << " | " << mend << " |\n"; };

@@ -409,7 +409,7 @@ TEST(DemoLine, BadOnesAreRefusedWithASentence)
     EXPECT_EQ(DemoFailure(Words("--scenario update --click x/")), "--click: \"x/\" is not window/button");
     for (char const* const line : {"--scenario update", "--scenario start --click a/b", "--click a/b"})
     {
-        EXPECT_EQ(DemoFailure(Words(line)), "--click goes with --scenario answer or update, and they with it");
+        EXPECT_EQ(DemoFailure(Words(line)), "--click requires --scenario answer or update, and these require --click");
     }
     EXPECT_EQ(DemoFailure(Words("more")), "unexpected argument \"more\"");
     EXPECT_EQ(DemoFailure(Words("--none")), "Unknown option 'none'.");

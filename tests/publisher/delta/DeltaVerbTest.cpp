@@ -204,9 +204,9 @@ TEST_F(DeltaVerb, NothingIsMadeOfBundlesThatDoNotBelongTogether)
         char const* said;
     };
     Row const rows[] = {{"other.zip", "two products"},
-                        {"same.zip", "both bundles are of version 1.0"},
+                        {"same.zip", "both bundles have the version 1.0"},
                         {"cut.tar.xz", "cut.tar.xz: is damaged or ends early"},
-                        {"text.zip", "text.zip: is neither a zip nor a tar"},
+                        {"text.zip", "text.zip: is not a zip, or a tar"},
                         {"absent.zip", "absent.zip: cannot be read"}};
     std::vector<std::string> const before = Names();
     for (Row const& row : rows)
@@ -223,7 +223,7 @@ TEST_F(DeltaVerb, FilesThatAreThereStay)
     Put("d.delta", "mine");
     ToolRun const run = Create("old.zip", "new.tar.xz");
     EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("is there already"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("exists already"), std::string::npos) << run.err;
     EXPECT_EQ(ContentOf("d.delta"), "mine");
 }
 

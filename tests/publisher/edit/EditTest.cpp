@@ -145,7 +145,7 @@ TEST_F(EditTest, VersionThatIsNotThereIsRefused)
     {
         ToolRun const run = Run(verb, {QStringLiteral("5.3")});
         EXPECT_EQ(run.status, 2);
-        EXPECT_NE(run.err.find("has no item of version \"5.3\""), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("has no item with the version \"5.3\""), std::string::npos) << run.err;
     }
     EXPECT_EQ(Feed(), feed.toStdString());
 }
@@ -195,7 +195,8 @@ TEST_F(EditTest, NotesAreReadFromTheFileThatIsNamed)
     Write("notes.pdf", "%PDF");
     for (auto const& [name, reason] :
          {std::pair("notes.html", "notes.html: does not exist; check the name of the file of release notes"),
-          std::pair("notes.pdf", "notes.pdf: is no file of release notes; give a file that ends in .html, .md or .txt"),
+          std::pair("notes.pdf",
+                    "notes.pdf: is not a file of release notes; give a file that ends in .html, .md or .txt"),
           std::pair("notes", "notes: does not exist")})
     {
         ToolRun const run = Run("edit-notes", {QStringLiteral("5.2"), Path(name)});
@@ -224,7 +225,7 @@ TEST_F(EditTest, PruningThatTakesAnUpdateAwayIsRefused)
     Write("appcast.xml", feed);
     ToolRun const run = Run("prune", {QStringLiteral("--keep"), QStringLiteral("1")});
     EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("a client would get something else: 0, 5.0 on systems below 12: 5.1 BUNDLE -> none"),
+    EXPECT_NE(run.err.find("a client would get another update: 0, 5.0 on systems below 12: 5.1 BUNDLE -> none"),
               std::string::npos)
         << run.err;
     EXPECT_EQ(Feed(), feed.toStdString());

@@ -39,7 +39,7 @@ TEST(ExplainOutput, ReadsAsOneParagraphAnItemAndTheAnswerAtTheEnd)
     EXPECT_EQ(run.err, "");
     EXPECT_EQ(run.out, R"(<stdin>: 2 items for macos
 item 0: 5.2  BUNDLE  2000 bytes  Pelnar 5.2
-  valid: lost to the delta from 5.1: kind, DELTA is wanted before BUNDLE
+  valid: lost to the delta from 5.1: kind, DELTA is preferred to BUNDLE
   https://dl.example.com/5.2.zip
   PELNAR1_CHANNEL = stable
   delta 0, from 5.1: 5.2  DELTA  300 bytes
@@ -70,7 +70,7 @@ TEST(ExplainOutput, SaysThatNoRuleDefinesTheOrderOfDeltasOfOneStart)
     ToolRun const run = RunTool(Line({}), feed);
     EXPECT_EQ(run.out, R"(<stdin>: 1 item for macos
 item 0: 5.2  BUNDLE  2000 bytes
-  valid: lost to the delta from 5.1.0: kind, DELTA is wanted before BUNDLE
+  valid: lost to the delta from 5.1.0: kind, DELTA is preferred to BUNDLE
   https://dl.example.com/5.2.zip
   delta 0, from 5.1.0: 5.2  DELTA  300 bytes
     valid: may be chosen, or the delta from 5.1: no rule defines the order of these deltas
@@ -115,7 +115,7 @@ TEST(ExplainOutput, AsksWhatAClientTakesThatTrustsTheseKeys)
     EXPECT_NE(other.out.find("is offered: no update"), std::string::npos);
     ToolRun const bad = RunTool(Line({QStringLiteral("--public-key"), QStringLiteral("garbage")}), FEED);
     EXPECT_EQ(bad.status, 2);
-    EXPECT_NE(bad.err.find("--public-key: \"garbage\" is no Ed25519 key"), std::string::npos) << bad.err;
+    EXPECT_NE(bad.err.find("--public-key: \"garbage\" is not an Ed25519 key"), std::string::npos) << bad.err;
 }
 
 TEST(ExplainOutput, AnswersAfterADelta)
@@ -189,8 +189,9 @@ TEST(ExplainOutput, BadArgumentsAreRefusedWithTheirMend)
     EXPECT_EQ(missing.err, "error: --local-version is required; see pelnar-appcast explain --help\n");
     ToolRun const text = RunTool({QStringLiteral("explain"), QStringLiteral("-"), QStringLiteral("--local-version"),
                                   QStringLiteral("5.x"), QStringLiteral("--system-version"), QStringLiteral("1")});
-    EXPECT_EQ(text.err, "error: --local-version: \"5.x\" is no version; give one to four numbers with dots between "
-                        "them, such as 5.1.2\n");
+    EXPECT_EQ(text.err,
+              "error: --local-version: \"5.x\" is not a version; give one to four numbers separated by dots, such "
+              "as 5.1.2\n");
 }
 
 } // namespace Pelnar::Testing

@@ -81,7 +81,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "system-too-new: system 12.3 > maximum 12.2.9"},
         FailureRow{"NoVersion", "<item><enclosure url='a' length='1'/></item>", "version-unreadable: no version"},
         FailureRow{"BadVersion", "<item><enclosure url='a' length='1' s:version='6b'/></item>",
-                   "version-unreadable: version \"6b\" is not one to four numbers with dots"},
+                   "version-unreadable: version \"6b\" is not one to four numbers separated by dots"},
         FailureRow{"Older", "<item><enclosure url='a' length='1' s:version='4.9'/></item>",
                    "version-older: version 4.9 < installed 5.0"},
         FailureRow{"Equal", "<item><enclosure url='a' length='1' s:version='5'/></item>",
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "<item><pubDate>Mon Jan 7 2019</pubDate><enclosure url='a' length='1' s:version='6'/></item>",
                    "date-refused: date \"Mon Jan 7 2019\" is in the text form that is refused"},
         FailureRow{"NoLength", "<item><enclosure url='a' s:version='6'/></item>",
-                   "length-zero: length is 0, missing or no number"}),
+                   "length-zero: length is 0, missing or not a number"}),
     [](auto const& row) { return std::string(row.param.name); });
 
 TEST(Explanation, AnUnknownSystemIgnoresBounds)
@@ -129,9 +129,9 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         LossRow{"NewerVersion", Full("5.2", "a.zip", "1"), Full("5.1", "b.zip", "1"), "newer version, 5.2 > 5.1"},
         LossRow{"MinorWantsBundle", Full("5.1", "a.zip", "9"), Full("5.1", "b.sparkle_guided.pkg", "1"),
-                "kind, BUNDLE is wanted before INSTALLER"},
+                "kind, BUNDLE is preferred to INSTALLER"},
         LossRow{"MajorWantsInstaller", Full("6", "a.sparkle_guided.pkg", "9"), Full("6", "b.zip", "1"),
-                "kind, INSTALLER is wanted before BUNDLE"},
+                "kind, INSTALLER is preferred to BUNDLE"},
         LossRow{"SameAddress", Full("6", "a.zip", "9"), Full("6.0", "a.zip", "1"), "same address, and it comes first"},
         LossRow{"Smaller", Full("6", "a.zip", "8"), Full("6", "b.zip", "9"), "smaller size, 8 < 9 bytes"},
         LossRow{"SameSize", Full("6", "a.zip", "9"), Full("6", "b.zip", "9"),
@@ -165,8 +165,8 @@ QByteArray ItemWithDeltas(QByteArray const& deltas)
 TEST(ExplainedDelta, OfTheInstalledVersionIsChosen)
 {
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("4.9", "1") + DeltaFrom("5.0.0", "1")));
-    EXPECT_EQ(Said(feed.Item(0)), "valid: lost to the delta from 5.0.0: kind, DELTA is wanted before BUNDLE");
-    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: starts from 4.9, installed is 5.0");
+    EXPECT_EQ(Said(feed.Item(0)), "valid: lost to the delta from 5.0.0: kind, DELTA is preferred to BUNDLE");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not considered: starts from 4.9, installed is 5.0");
     EXPECT_EQ(feed.Delta(0, 0).standing, Standing::NotAsked);
     EXPECT_EQ(Said(feed.Delta(0, 1)), "valid: chosen");
     EXPECT_EQ(feed.Get().choice.chosen, feed.Delta(0, 1).item);
@@ -178,20 +178,20 @@ TEST(ExplainedDelta, DoesNotCountAfterADeltaAnswer)
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1")),
                              {Core::Version(5, 0), Core::Version(12, 3), PreviousAnswer::DELTA});
     EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
-    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: the previous answer was a delta");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not considered: the previous answer was a delta");
 }
 
 TEST(ExplainedDelta, OfALesserItemDoesNotCount)
 {
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1")) + Full("5.2", "b.zip", "1"));
-    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: item is not the best full one");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not considered: item is not the best full one");
     EXPECT_EQ(feed.Get().chosenIndex, 1);
 }
 
 TEST(ExplainedDelta, IsHiddenByALaterOneFromTheSameVersion)
 {
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "1") + DeltaFrom("5.0", "2")));
-    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not looked at: a later delta starts from 5.0 too");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "valid: not considered: a later delta starts from 5.0 too");
     EXPECT_EQ(Said(feed.Delta(0, 1)), "valid: chosen");
 }
 
@@ -199,9 +199,9 @@ TEST(ExplainedDelta, WithoutALengthIsRefused)
 {
     ExplainedFeed const feed(ItemWithDeltas(DeltaFrom("5.0", "0") + DeltaFrom("4.0", "0")));
     EXPECT_EQ(Said(feed.Item(0)), "valid: chosen");
-    EXPECT_EQ(Said(feed.Delta(0, 0)), "length-zero: length is 0, missing or no number");
-    EXPECT_EQ(Said(feed.Delta(0, 1)), "length-zero: not looked at: starts from 4.0, installed is 5.0; "
-                                      "length is 0, missing or no number");
+    EXPECT_EQ(Said(feed.Delta(0, 0)), "length-zero: length is 0, missing or not a number");
+    EXPECT_EQ(Said(feed.Delta(0, 1)), "length-zero: not considered: starts from 4.0, installed is 5.0; "
+                                      "length is 0, missing or not a number");
 }
 
 TEST(Explanation, GivesTheExtensionsThatTheHostIsHanded)

@@ -124,7 +124,7 @@ TEST_F(AppcastLibraries, ThatAreMissingAreNamedWithWhatToInstall)
             EXPECT_EQ(run.out, "");
             EXPECT_EQ(run.err.find("error: a part of this program cannot be loaded: "), 0u) << run.err;
             EXPECT_NE(run.err.find(name.toStdString()), std::string::npos) << run.err;
-            EXPECT_NE(run.err.find("; install the package pelnar-appcast again"), std::string::npos) << run.err;
+            EXPECT_NE(run.err.find("; reinstall the package pelnar-appcast"), std::string::npos) << run.err;
         }
         ASSERT_TRUE(library.remove());
     }

@@ -32,7 +32,8 @@ TEST_F(Accident, ProgramMayNotBeExecuted)
     BundleText text = Version("2.0");
     text.programMode = 0644;
     m_folder.PutBundle(text);
-    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program may not be executed: \"Test.app/Test\"; chmod 755"});
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: the bundle's program is not executable: \"Test.app/Test\"; use chmod 755"});
 }
 
 TEST_F(Accident, ProgramIsALinkOrAFolder)
@@ -59,7 +60,7 @@ TEST_F(Accident, ProgramIsForAnotherMachine)
     text.program = ElfProgram(EM_AARCH64);
     m_folder.PutBundle(text);
     ExpectRefused(Generate({QStringLiteral("--machine"), QStringLiteral("x86_64")}),
-                  {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
+                  {"Test-2.0.zip: the bundle's program is not built for the release's machine: "
                    "\"Test.app/Test\"; build it for that machine"});
     EXPECT_EQ(m_folder.Generate({QStringLiteral("--machine"), QStringLiteral("aarch64")}).status, 0);
 }
@@ -74,7 +75,7 @@ TEST_F(Accident, ProgramOfANewVersionIsForAnotherMachineAlone)
     text = Version("2.0");
     text.program = ElfProgram(isIntel ? EM_AARCH64 : EM_X86_64);
     m_folder.PutBundle(text);
-    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program is not for the machine that the release is for: "
+    ExpectRefused(Generate(), {"Test-2.0.zip: the bundle's program is not built for the release's machine: "
                                "\"Test.app/Test\"",
                                "build it for that machine"});
     // Together with the same version for this machine it is intended.
@@ -99,8 +100,9 @@ TEST_F(Accident, ArchiveIsReplacedByOneOfTheSameSize)
     std::string changed = m_folder.ContentOf("Test-1.0.zip");
     changed[changed.size() / 2] = char(changed[changed.size() / 2] ^ 1);
     m_folder.Put("Test-1.0.zip", changed);
-    ExpectRefused(Generate(), {"Test-1.0.zip: does not bear the published signature (line ", "; put the published file "
-                                                                                             "back"});
+    ExpectRefused(Generate(),
+                  {"Test-1.0.zip: does not match the published signature (line ", "; put the published file "
+                                                                                  "back"});
 }
 
 TEST_F(Accident, ArchiveIsReplacedByOneOfAnotherSize)
@@ -109,8 +111,7 @@ TEST_F(Accident, ArchiveIsReplacedByOneOfAnotherSize)
     Publish();
     m_folder.PutVersion("2.0");
     m_folder.Put("Test-1.0.zip", m_folder.ContentOf("Test-1.0.zip") + "x");
-    ExpectRefused(Generate(),
-                  {"Test-1.0.zip: is of ", " bytes, but is published with ", "; put the published file back"});
+    ExpectRefused(Generate(), {"Test-1.0.zip: has ", " bytes, but the feed says ", "; put the published file back"});
 }
 
 TEST_F(Accident, ArchiveIsReplacedByTheNextVersionUnderTheSameName)
@@ -118,7 +119,7 @@ TEST_F(Accident, ArchiveIsReplacedByTheNextVersionUnderTheSameName)
     m_folder.Put("Test.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("1.0"))));
     Publish();
     m_folder.Put("Test.zip", MakeArchive(Container::Zip, MakePublishedBundle(Version("2.0"))));
-    ExpectRefused(Generate(), {"Test.zip: does not bear the published signature", "a new version and name"});
+    ExpectRefused(Generate(), {"Test.zip: does not match the published signature", "a new version and name"});
 }
 
 TEST_F(Accident, LayoutOfMacOSWithAProgramForLinux)
@@ -151,7 +152,7 @@ TEST_F(Accident, EveryNameThatTheRulesRefuseIsNamed)
     m_folder.Put("Test-2.0.tar.gz", MakeArchive(Container::TarGzip, entries));
     ExpectRefused(Generate(),
                   {"Test-2.0.tar.gz: an entry has a name that clients refuse: \"Test.app/Datei \"",
-                   "Test-2.0.tar.gz: an entry lies outside the folder that it is unpacked to: "
+                   "Test-2.0.tar.gz: an entry would be unpacked outside the target folder: "
                    "\"Test.app/../../escaped\"",
                    "an entry has a name that clients refuse: \"Test.app/dir./file\"",
                    "two entries differ only in case or in how their letters are encoded: \"Test.app/DATA\""});
@@ -197,7 +198,7 @@ TEST_F(Accident, EntryBesideTheBundleIsNamed)
     std::vector<ForgedEntry> entries = MakePublishedBundle(Version("2.0"));
     entries.push_back({"README", 'f', "x"});
     m_folder.Put("Test-2.0.zip", MakeZip(entries));
-    ExpectRefused(Generate(), {"Test-2.0.zip: does not hold one bundle alone: \"README\""});
+    ExpectRefused(Generate(), {"Test-2.0.zip: does not contain exactly one bundle: \"README\""});
 }
 
 TEST_F(Accident, FilesThatMacOSPutsBesideTheBundleAreNamedWithTheirMend)
@@ -206,12 +207,13 @@ TEST_F(Accident, FilesThatMacOSPutsBesideTheBundleAreNamedWithTheirMend)
     entries.push_back({"__MACOSX", 'd', {}, 0755});
     entries.push_back({"__MACOSX/._Test.app", 'f', "x"});
     m_folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, entries));
-    ExpectRefused(Generate(), {"Test-2.0.zip: does not hold one bundle alone: \"__MACOSX\"", "COPYFILE_DISABLE=1"});
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: does not contain exactly one bundle: \"__MACOSX\"", "COPYFILE_DISABLE=1"});
     m_folder.Remove("Test-2.0.zip");
     entries = MakePublishedBundle(Version("2.0"));
     entries.insert(entries.begin(), {"._Test.app", 'f', "x"});
     m_folder.Put("Test-2.0.tar.xz", MakeArchive(Container::TarXz, entries));
-    ExpectRefused(Generate(), {"Test-2.0.tar.xz: does not hold one bundle alone", "COPYFILE_DISABLE=1"});
+    ExpectRefused(Generate(), {"Test-2.0.tar.xz: does not contain exactly one bundle", "COPYFILE_DISABLE=1"});
 }
 
 TEST_F(Accident, WhatIsWrongWithSeveralArchivesIsToldAtOnce)

@@ -118,11 +118,11 @@ TEST_F(CheckRelease, EachThingThatAClientRefusesIsNamed)
     release.Add(Version("1.4"), 9);
     ToolRun const run =
         release.Check({QStringLiteral("--public-key"), QString::fromStdString(MakeKeyPair(9).publicKey)});
-    ExpectSaid(run, {"Test-1.1.zip: the bundle is of another product than the installed one: "
-                     "\"Test.app/Resources/Info-gnustep.plist\" (seen by clients of version 1.0)",
-                     "Test-1.2.zip: the bundle's program is not for the machine",
-                     "Test-1.3.zip: the bundle has no SUPublicEDKey", "Test-1.4.zip: version 1.4 is signed by the key ",
-                     "strands installed versions", "1.0 ("});
+    ExpectSaid(run,
+               {"Test-1.1.zip: the bundle belongs to another product than the installed one: "
+                "\"Test.app/Resources/Info-gnustep.plist\" (seen by clients of version 1.0)",
+                "Test-1.2.zip: the bundle's program is not built for", "Test-1.3.zip: the bundle has no SUPublicEDKey",
+                "Test-1.4.zip: version 1.4 is signed by the key ", "strands these installed versions", "1.0 ("});
 }
 
 TEST_F(CheckRelease, VersionInsideMustBeTheFeeds)
@@ -131,7 +131,7 @@ TEST_F(CheckRelease, VersionInsideMustBeTheFeeds)
     std::string const archive = MakeArchive(Container::Zip, MakePublishedBundle(Version("2.0")));
     release.Folder().Put("Test.zip", archive);
     release.AddItem("2.1", "https://updates.example.com/Test.zip", archive);
-    ExpectSaid(release.Check(), {"Test.zip: the bundle is of another version than the feed says", "CFBundleVersion"});
+    ExpectSaid(release.Check(), {"Test.zip: the bundle has another version than the feed says", "CFBundleVersion"});
 }
 
 TEST_F(CheckRelease, BundleWithARootKeyAsksForAStatementInTheFeed)
@@ -140,7 +140,7 @@ TEST_F(CheckRelease, BundleWithARootKeyAsksForAStatementInTheFeed)
     BundleText text = Version("1.0");
     text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
     release.Add(text, 8);
-    ExpectSaid(release.Check(), {"Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for"});
+    ExpectSaid(release.Check(), {"Test-1.0.zip: its clients require a key statement and would refuse the feed"});
     // The statement replaces the bundle's own key.
     StatementText statement;
     statement.bundles = {text.identifier};
@@ -163,7 +163,7 @@ TEST_F(CheckRelease, ArchiveThatWasReplacedIsNamed)
     release.Folder().Put("Test-1.0.zip", changed);
     ExpectSaid(release.Check(), {"Test-1.0.zip: "});
     release.Folder().Put("Test-1.0.zip", changed + "x");
-    ExpectSaid(release.Check(), {"Test-1.0.zip: is of ", " bytes, but is published with "});
+    ExpectSaid(release.Check(), {"Test-1.0.zip: has ", " bytes, but the feed says "});
 }
 
 TEST_F(CheckRelease, AddressesOfThisDiskAreNamed)
@@ -187,7 +187,7 @@ TEST_F(CheckRelease, ArchiveOutsideTheFolderIsReportedAsNotJudged)
     release.Folder().Remove("Test-1.0.zip");
     ToolRun const run = release.Check();
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.out.find("version 1.0 is not judged: Test-1.0.zip is not in the folder"), std::string::npos)
+    EXPECT_NE(run.out.find("version 1.0 is not checked: Test-1.0.zip is not in the folder"), std::string::npos)
         << run.out;
 }
 
@@ -197,7 +197,7 @@ TEST_F(CheckRelease, NewestArchiveThatIsMissingIsAnError)
     release.Add(Version("1.0"));
     release.Add(Version("2.0"));
     release.Folder().Remove("Test-2.0.zip");
-    ExpectSaid(release.Check(), {"version 2.0 cannot be judged: Test-2.0.zip is not in the folder"});
+    ExpectSaid(release.Check(), {"version 2.0 cannot be checked: Test-2.0.zip is not in the folder"});
 }
 
 TEST_F(CheckRelease, ArchiveThatSomeClientsStillTakeMustBeThere)
@@ -219,7 +219,7 @@ TEST_F(CheckRelease, ArchiveThatSomeClientsStillTakeMustBeThere)
         release.Add(Version("1.0"), 7, {}, keys);
         release.Add(Version("2.0"), 7, {}, elements);
         release.Folder().Remove("Test-1.0.zip");
-        ExpectSaid(release.Check(), {"version 1.0 cannot be judged: Test-1.0.zip is not in the folder"});
+        ExpectSaid(release.Check(), {"version 1.0 cannot be checked: Test-1.0.zip is not in the folder"});
     }
 }
 
@@ -231,7 +231,7 @@ TEST_F(CheckRelease, OtherDownloadsOfTheNewestVersionMustBeThere)
     folder.GeneratedFeed();
     folder.Remove("Test-1.0-2.0.delta");
     ExpectSaid(RunTool({QStringLiteral("check-release"), QString::fromStdString(folder.Path())}),
-               {"version 2.0 cannot be judged: Test-1.0-2.0.delta is not in the folder"});
+               {"version 2.0 cannot be checked: Test-1.0-2.0.delta is not in the folder"});
 }
 
 TEST_F(CheckRelease, DeltaThatMakesAnotherBundleIsNamed)

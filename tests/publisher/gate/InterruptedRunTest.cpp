@@ -167,7 +167,7 @@ TEST(TwoRuns, SecondSaysThatItWaitsAndGoesOn)
     ASSERT_TRUE(process.waitForReadyRead(1) || process.waitForStarted(PATIENCE_MS));
     process.setReadChannel(QProcess::StandardError);
     ASSERT_TRUE(process.waitForReadyRead(PATIENCE_MS));
-    EXPECT_TRUE(process.readAllStandardError().contains("another run works here; waiting until it has ended"));
+    EXPECT_TRUE(process.readAllStandardError().contains("another run is using this folder; waiting for it to end"));
     EXPECT_EQ(folder.Names(), std::vector<std::string>{"Test-1.0.zip"});
     {
         Engine::UniqueFd const released = std::move(held);

@@ -45,9 +45,10 @@ TEST_F(Accident, KeyOfTheBundleIsGarbage)
     BundleText text = Version("2.0");
     text.publicKey = "garbage";
     m_folder.PutBundle(text);
-    ExpectRefused(Generate(), {"Test-2.0.zip: SUPublicEDKey \"garbage\" in the bundle's information file is no Ed25519 "
-                               "key",
-                               "; write the entry"});
+    ExpectRefused(Generate(),
+                  {"Test-2.0.zip: SUPublicEDKey \"garbage\" in the bundle's information file is not an Ed25519 "
+                   "key",
+                   "; write the entry"});
 }
 
 TEST_F(Accident, SecondKeyOfTheBundleIsGarbage)
@@ -66,8 +67,9 @@ TEST_F(Accident, NewKeyStrandsVersions)
     m_folder.PutBundle(WithNewKey("5.11"));
     Remember();
     ExpectRefused(m_folder.GenerateWithKey(NEW_SEED),
-                  {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands installed versions", "5.9 (",
-                   "Test-5.9.zip)", "5.9.1 (", "; publish a version before it, signed by the key that they trust"});
+                  {"Test-5.11.zip: version 5.11 is signed by the key ", ", which strands these installed versions",
+                   "5.9 (", "Test-5.9.zip)", "5.9.1 (",
+                   "; first publish a version that is signed by the key they trust"});
 }
 
 TEST_F(Accident, NewKeyThatAVersionBetweenBringsIsAccepted)
@@ -138,7 +140,7 @@ TEST_F(Accident, NewKeyStrandsVersionsWhoseArchivesAreGone)
     Remember();
     // The feed still says which keys 5.9 trusts.
     ExpectRefused(m_folder.GenerateWithKey(NEW_SEED),
-                  {"Test-5.11.zip: ", "strands installed versions", "5.9 (", "appcast.xml:"});
+                  {"Test-5.11.zip: ", "strands these installed versions", "5.9 (", "appcast.xml:"});
 }
 
 TEST_F(Accident, NewKeyThatEveryVersionTrustsIsAccepted)
@@ -158,7 +160,7 @@ TEST_F(Accident, RootKeyWithoutAStatementOrWithOneThatClientsRefuse)
     BundleText text = Version("1.0");
     text.rootKey = MakeKeyPair(ROOT_SEED).publicKey;
     m_folder.PutBundle(text);
-    std::string const refusal = "Test-1.0.zip: its clients would refuse the feed, whose key statement they ask for: ";
+    std::string const refusal = "Test-1.0.zip: its clients require a key statement and would refuse the feed: ";
     ExpectRefused(Generate(), {refusal, "--key-statement of generate or sign-feed"});
     StatementText statement;
     statement.bundles = {text.identifier};
@@ -192,11 +194,12 @@ TEST_F(Accident, NewVersionForgetsTheRootKeyOrIsOlder)
     m_folder.PutVersion("2.0");
     ToolRun run = m_folder.Generate();
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.err.find("Test-2.0.zip: names no root key, as version 1.0 does"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: has no root key, although version 1.0 has one"), std::string::npos)
+        << run.err;
     m_folder.PutVersion("0.9");
     run = m_folder.Generate();
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.err.find("Test-0.9.zip: is of version 0.9, and "), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("Test-0.9.zip: has the version 0.9, but "), std::string::npos) << run.err;
     EXPECT_EQ(run.err.find("root key"), std::string::npos) << run.err;
 }
 
@@ -222,7 +225,7 @@ TEST_F(Accident, RevokedKeySignsANewVersion)
     text.version = "3.0";
     m_folder.PutBundle(text);
     ExpectRefused(Generate(), {"Test-3.0.zip: version 3.0 is signed by the key ",
-                               "but by the feed's key statement its clients trust ", "sign it by a valid key"});
+                               "but with the feed's key statement its clients trust ", "sign it with a valid key"});
 }
 
 TEST_F(Accident, FeedKeepsWhomEachVersionTrusts)

@@ -108,7 +108,7 @@ TEST(Generate, SecondMachineMayComeLaterAndTwiceOneMachineIsRefused)
     folder.Put("again.zip", MakeArchive(Container::Zip, MakePublishedBundle(text)));
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find("again.zip: is of version 1.0, which is published already as "), std::string::npos)
+    EXPECT_NE(run.err.find("again.zip: has the version 1.0, which is already published as "), std::string::npos)
         << run.err;
 }
 

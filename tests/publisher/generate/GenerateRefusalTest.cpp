@@ -59,8 +59,8 @@ std::function<void(PublisherFolder const&)> Bundle(std::function<void(BundleText
 std::vector<RefusalRow> RefusedArchives()
 {
     return {
-        {"nothing", [](auto const&) {}, "holds no archive", 2},
-        {"only notes", [](auto const& folder) { folder.Put("Test.html", "x"); }, "holds no archive", 2},
+        {"nothing", [](auto const&) {}, "contains no archive", 2},
+        {"only notes", [](auto const& folder) { folder.Put("Test.html", "x"); }, "contains no archive", 2},
         {"truncated zip",
          [](auto const& folder)
          {
@@ -75,10 +75,9 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("Test.tar.xz", tar.substr(0, tar.size() / 2));
          },
          "Test.tar.xz: is damaged or ends early"},
-        {"empty archive", [](auto const& folder) { folder.Put("Test.zip", ""); },
-         "Test.zip: is neither a zip nor a tar"},
+        {"empty archive", [](auto const& folder) { folder.Put("Test.zip", ""); }, "Test.zip: is not a zip, or a tar"},
         {"zip with another name", [](auto const& folder) { folder.Put("Test.tar.gz", "plain text"); },
-         "Test.tar.gz: is neither a zip nor a tar"},
+         "Test.tar.gz: is not a zip, or a tar"},
         {"entry that escapes",
          [](auto const& folder)
          {
@@ -86,7 +85,7 @@ std::vector<RefusalRow> RefusedArchives()
              entries.push_back({"../escaped", 'f', "x"});
              folder.Put("Test.zip", MakeArchive(Container::Zip, entries));
          },
-         "an entry lies outside the folder"},
+         "an entry would be unpacked outside the target folder"},
         {"two bundles in one archive",
          [](auto const& folder)
          {
@@ -95,7 +94,7 @@ std::vector<RefusalRow> RefusedArchives()
              entries.insert(entries.end(), more.begin(), more.end());
              folder.Put("Test.zip", MakeArchive(Container::Zip, entries));
          },
-         "does not hold one bundle alone"},
+         "does not contain exactly one bundle"},
         {"no information file",
          [](auto const& folder) {
              folder.Put("Test.zip", MakeArchive(Container::Zip, {{"Test.app/Test", 'f', "x", 0755}}));
@@ -106,20 +105,21 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("Test.zip", MakeArchive(Container::Zip, {{"Test.app/Contents/Info.plist", 'f', "bplist00"}}));
          },
          "Contents/Info.plist: the bundle's information file is not a property list in text form"},
-        {"version that is none", Bundle([](BundleText& text) { text.version = "2.0b1"; }), "\"2.0b1\" is no version"},
-        {"version that overflows", Bundle([](BundleText& text) { text.version = "2147483648"; }), "is no version"},
-        {"no version", Bundle([](BundleText& text) { text.version.clear(); }), "\"\" is no version"},
+        {"version that is none", Bundle([](BundleText& text) { text.version = "2.0b1"; }),
+         "\"2.0b1\" is not a version"},
+        {"version that overflows", Bundle([](BundleText& text) { text.version = "2147483648"; }), "is not a version"},
+        {"no version", Bundle([](BundleText& text) { text.version.clear(); }), "\"\" is not a version"},
         {"no identifier", Bundle([](BundleText& text) { text.identifier.clear(); }), "has no CFBundleIdentifier"},
         {"no key", Bundle([](BundleText& text) { text.publicKey.clear(); }), "has no SUPublicEDKey"},
         {"minimum system that is none", Bundle([](BundleText& text) { text.minimumSystem = "eleven"; }),
-         "LSMinimumSystemVersion \"eleven\" is no version"},
+         "LSMinimumSystemVersion \"eleven\" is not a version"},
         {"two archives of one version",
          [](auto const& folder)
          {
              folder.Put("a.zip", ZipOf(Version("2.0")));
              folder.Put("b.tar.gz", MakeArchive(Container::TarGzip, MakePublishedBundle(Version("2.0.0"))));
          },
-         "b.tar.gz: is of version 2.0.0, and so is a.zip"},
+         "b.tar.gz: has the version 2.0.0, and so has a.zip"},
         {"two products",
          [](auto const& folder)
          {
@@ -128,7 +128,7 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("a.zip", ZipOf(Version("2.0")));
              folder.Put("b.zip", ZipOf(other));
          },
-         "is of the product org.pelnar.other, while"},
+         "belongs to the product org.pelnar.other, but "},
         {"link to an archive",
          [](auto const& folder) { ASSERT_EQ(::symlink("/etc/hostname", (folder.Path() + "/Test.zip").c_str()), 0); },
          "Test.zip: is a link", 2},
@@ -137,28 +137,28 @@ std::vector<RefusalRow> RefusedArchives()
          "Test.zip: is a link", 2},
         {"FIFO with an archive's name",
          [](auto const& folder) { ASSERT_EQ(::mkfifo((folder.Path() + "/Test.zip").c_str(), 0600), 0); },
-         "Test.zip: is no plain file", 2},
+         "Test.zip: is not a plain file", 2},
         {"installer without a version", [](auto const& folder) { folder.Put("Test.sparkle_guided.pkg", "x"); },
-         "is no version"},
+         "is not a version"},
         {"installer that no client takes", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.run", "x"); },
-         "Test_2.0.sparkle_guided.run: is no installer that clients of any system take"},
+         "Test_2.0.sparkle_guided.run: is not an installer that clients of any system take"},
         {"installer that is no archive", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.zip", "x"); },
-         "Test_2.0.sparkle_guided.zip: is neither a zip nor a tar"},
+         "Test_2.0.sparkle_guided.zip: is not a zip, or a tar"},
         {"installer that says nothing of itself",
          [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.zip", ZipOf(Version("2.0"))); },
-         "its name is an installer's, but inside it is not said to be one"},
+         "it is named as an installer, but its information file does not say so"},
         {"installer that calls itself an application",
          [](auto const& folder) { folder.Put("Test_2.0.sparkle_interactive.zip", ZipOf(Kind("2.0", "application"))); },
-         "its name is an installer's, but inside it is not said to be one"},
+         "it is named as an installer, but its information file does not say so"},
         {"installer under the name of a bundle",
          [](auto const& folder) { folder.Put("Test-2.0.zip", ZipOf(Kind("2.0", "installer"))); },
-         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+         "it is named as a bundle, but its PelnarPayloadKind is another"},
         {"bundle of an unknown kind", [](auto const& folder) { folder.Put("Test-2.0.zip", ZipOf(Kind("2.0", "x"))); },
-         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+         "it is named as a bundle, but its PelnarPayloadKind is another"},
         {"bundle for macOS that calls itself an installer",
          [](auto const& folder)
          { folder.Put("Mac.zip", MakeArchive(Container::Zip, MakeMacBundle(Kind("2.0", "installer")))); },
-         "its name is a bundle's, but the PelnarPayloadKind inside is another"},
+         "it is named as a bundle, but its PelnarPayloadKind is another"},
         {"installer of another version than its name's",
          [](auto const& folder) { folder.Put("Test_3.0.sparkle_guided.zip", ZipOf(Kind("2.0", "installer"))); },
          "is named after version 3.0, but installs \"2.0\""},
@@ -170,19 +170,19 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("A.zip", ZipOf(Version("2.0")));
              folder.Put("Test_2.0.sparkle_guided.zip", ZipOf(other));
          },
-         "is of the product org.pelnar.other, while"},
+         "belongs to the product org.pelnar.other, but "},
         {"bundle for macOS as an installer in a zip",
          [](auto const& folder) {
              folder.Put("Test_2.0.sparkle_guided.zip",
                         MakeArchive(Container::Zip, MakeMacBundle(Kind("2.0", "installer"))));
          },
-         "holds a bundle for macOS, where installers are packages and images"},
+         "contains a bundle for macOS, where installers are packages and images"},
         {"archive under the name of a package",
          [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.pkg", ZipOf(Version("2.0"))); },
-         "Test_2.0.sparkle_guided.pkg: is no installer package"},
+         "Test_2.0.sparkle_guided.pkg: is not an installer package"},
         {"archive under the name of an image",
          [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.dmg", ZipOf(Version("2.0"))); },
-         "Test_2.0.sparkle_guided.dmg: is no disk image"},
+         "Test_2.0.sparkle_guided.dmg: is not a disk image"},
         {"empty installer", [](auto const& folder) { folder.Put("Test_2.0.sparkle_guided.pkg", ""); },
          "Test_2.0.sparkle_guided.pkg: is empty"},
         {"damaged delta",
@@ -191,7 +191,7 @@ std::vector<RefusalRow> RefusedArchives()
              folder.PutVersion("2.0");
              folder.Put("x.delta", "no delta");
          },
-         "x.delta: is no delta of this format"},
+         "x.delta: is not a delta in a known format"},
     };
 }
 
@@ -207,7 +207,7 @@ std::vector<RefusalRow> RefusedNotes()
     };
     return {
         {"huge notes", notes("Test-2.0.html", std::string(256 * 1024 + 1, 'x')),
-         "Test-2.0.html: is of 262145 bytes, where at most 262144 are read", 2},
+         "Test-2.0.html: has 262145 bytes, but at most 262144 are allowed", 2},
         {"notes that are not UTF-8", notes("Test-2.0.txt", "caf\xE9"), "Test-2.0.txt: is not UTF-8", 2},
         {"notes with a control character", notes("Test-2.0.txt", "one\ntwo\x1b[31m"),
          "Test-2.0.txt:2: has a control character", 2},
@@ -224,7 +224,7 @@ std::vector<RefusalRow> RefusedNotes()
                    }
                    return html + "x";
                }()),
-         "clients would show these notes as plain text: elements are nested too deep", 2},
+         "clients would show these notes as plain text: elements are nested too deeply", 2},
         {"two files of notes",
          [](auto const& folder)
          {
@@ -232,7 +232,7 @@ std::vector<RefusalRow> RefusedNotes()
              folder.Put("Test-2.0.html", "a");
              folder.Put("Test-2.0.md", "b");
          },
-         "Test-2.0.md: there are notes in Test-2.0.html as well", 2},
+         "Test-2.0.md: Test-2.0.html has release notes too", 2},
         {"notes that are a link",
          [](auto const& folder)
          {
@@ -246,7 +246,7 @@ std::vector<RefusalRow> RefusedNotes()
              folder.PutVersion("2.0");
              ASSERT_EQ(::mkdir((folder.Path() + "/Test-2.0.txt").c_str(), 0700), 0);
          },
-         "Test-2.0.txt: is no plain file", 2},
+         "Test-2.0.txt: is not a plain file", 2},
     };
 }
 
@@ -304,7 +304,7 @@ TEST(GenerateRefusal, PublishedArchiveOfAnotherSizeKeepsTheFeed)
     folder.Put("Test-1.0.zip", archive + "x");
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find("but is published with"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("but the feed says"), std::string::npos) << run.err;
     EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
 }
 
@@ -316,7 +316,7 @@ TEST(GenerateRefusal, VersionThatIsPublishedUnderAnotherName)
     folder.Put("Again.zip", folder.ContentOf("Test-1.0.zip"));
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.err.find("is of version 1.0, which is published already"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("has the version 1.0, which is already published"), std::string::npos) << run.err;
     EXPECT_EQ(folder.ContentOf("appcast.xml"), feed);
 }
 

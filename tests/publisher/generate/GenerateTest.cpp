@@ -192,7 +192,8 @@ TEST(Generate, NotesInALanguageBecomeADescriptionInIt)
     folder.Put("Test-1.1.backup.md", "no language");
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 0) << run.err;
-    EXPECT_NE(run.out.find("ignored, as neither archives nor notes of one: Test-1.1.backup.md\n"), std::string::npos)
+    EXPECT_NE(run.out.find("ignored, because they are neither archives nor release notes of one: Test-1.1.backup.md\n"),
+              std::string::npos)
         << run.out;
     QByteArray const feed = QByteArray::fromStdString(folder.ContentOf("appcast.xml"));
     auto const shown = [&](char const* language)
@@ -218,7 +219,7 @@ TEST(Generate, NotesThatChangedSinceAreToldAndNotTaken)
     folder.Put("Test-1.0.txt", "other");
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.err.find("Test-1.0.zip: the notes beside it are not those that version 1.0 has in the feed; put them "
+    EXPECT_NE(run.err.find("Test-1.0.zip: the notes next to it differ from those of version 1.0 in the feed; put them "
                            "into the feed with \"edit-notes\""),
               std::string::npos)
         << run.err;
@@ -239,7 +240,7 @@ TEST(Generate, EverythingThatIsIgnoredIsListed)
     EXPECT_NE(run.out.find("old/"), std::string::npos) << run.out;
     folder.Remove("Test-1.0.zip");
     folder.Remove("appcast.xml");
-    EXPECT_NE(folder.Generate().err.find(": holds no archive, only Test-1.1.7z"), std::string::npos);
+    EXPECT_NE(folder.Generate().err.find(": contains no archive, only Test-1.1.7z"), std::string::npos);
 }
 
 TEST(Generate, FilesThatAWebServerMayNotReadAreTold)
@@ -251,7 +252,7 @@ TEST(Generate, FilesThatAWebServerMayNotReadAreTold)
     ASSERT_EQ(::chmod(folder.PathOf("Test-1.0.zip").toStdString().c_str(), 0640), 0);
     ToolRun const run = folder.Generate();
     EXPECT_EQ(run.status, 0);
-    EXPECT_NE(run.err.find("Test-1.0.zip: may not be read by every user"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("Test-1.0.zip: cannot be read by all users"), std::string::npos) << run.err;
     EXPECT_EQ(run.err.find("Test-2.0.zip"), std::string::npos) << run.err;
 }
 

@@ -215,7 +215,7 @@ TEST_F(Recompress, CheckReleaseRefusesAnotherBundleInIt)
     folder.Put("appcast.xml", feed.toStdString());
     ToolRun const gate = RunTool({QStringLiteral("check-release"), folder.PathOf("appcast.xml")});
     EXPECT_NE(gate.status, 0);
-    EXPECT_NE(gate.err.find("holds another bundle than the archive of the item"), std::string::npos)
+    EXPECT_NE(gate.err.find("contains another bundle than the archive of the item"), std::string::npos)
         << gate.out << gate.err;
 }
 

@@ -87,7 +87,7 @@ TEST_F(Keys, GenerateNeverOverwritesAndFollowsNoLink)
         ToolRun const run = RunTool({QStringLiteral("keys"), QStringLiteral("generate"), path});
         EXPECT_EQ(run.status, 2);
         EXPECT_EQ(run.out, "");
-        EXPECT_NE(run.err.find("is there already"), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("exists already"), std::string::npos) << run.err;
     }
     EXPECT_EQ(ContentOf(old), "precious");
     EXPECT_FALSE(QFile::exists(PathOf("elsewhere")));
@@ -124,7 +124,7 @@ TEST_F(Keys, FileThatOthersMayReadIsRefused)
         ToolRun const run = Show(Put("key", m_seed, mode));
         EXPECT_EQ(run.status, 2) << mode;
         EXPECT_EQ(run.out, "");
-        EXPECT_NE(run.err.find("others may read this private key"), std::string::npos) << run.err;
+        EXPECT_NE(run.err.find("other users may read this private key"), std::string::npos) << run.err;
         EXPECT_NE(run.err.find("chmod 600"), std::string::npos) << run.err;
     }
     EXPECT_EQ(Show(Put("key", m_seed, 0400)).status, 0);
@@ -142,8 +142,8 @@ TEST_F(Keys, LinksFoldersPipesAndFilesOfOthersAreRefused)
     };
     Row const rows[] = {
         {PathOf("link"), "is a link"},
-        {PathOf("pipe"), "is no plain file"},
-        {PathOf(""), "is no plain file"},
+        {PathOf("pipe"), "is not a plain file"},
+        {PathOf(""), "is not a plain file"},
         {PathOf("absent"), "cannot be read: No such file"},
     };
     for (Row const& row : rows)
@@ -185,7 +185,7 @@ TEST_F(Keys, KeyAsAnArgumentIsRefusedWithoutBeingRepeated)
 {
     ToolRun const run = Show(QString::fromLatin1(m_seed));
     EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("never an argument"), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("must not be an argument"), std::string::npos) << run.err;
     EXPECT_EQ(run.err.find(m_seed.toStdString()), std::string::npos);
 }
 

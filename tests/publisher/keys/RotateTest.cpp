@@ -148,19 +148,21 @@ TEST_F(KeyChange, StatementStandsInTheSignedFeedOnce)
     EXPECT_EQ(CauseOf(ContentOf("appcast.xml")), 0);
     EXPECT_EQ(ContentOf("appcast.xml").count("pelnar-keys:"), 1);
     QByteArray const published = ContentOf("appcast.xml");
-    EXPECT_NE(SignFeed(8, State({QStringLiteral("--valid"), Text(KeyOf(8))}, "3").out).err.find("has the serial 3"),
+    EXPECT_NE(SignFeed(8, State({QStringLiteral("--valid"), Text(KeyOf(8))}, "3").out)
+                  .err.find("has the serial 3, but the published one has "),
               std::string::npos);
     EXPECT_NE(
-        SignFeed(7, State({QStringLiteral("--valid"), Text(KeyOf(8))}, "6").out).err.find("does not say that the key"),
+        SignFeed(7, State({QStringLiteral("--valid"), Text(KeyOf(8))}, "6").out).err.find("does not list the key"),
         std::string::npos);
-    EXPECT_NE(SignFeed(8, "x\n").err.find("is no key statement"), std::string::npos);
+    EXPECT_NE(SignFeed(8, "x\n").err.find("is not a key statement"), std::string::npos);
     EXPECT_EQ(ContentOf("appcast.xml"), published);
 }
 
 TEST_F(KeyChange, GuideSaysWhatComesNextAndWhoMustBeGone)
 {
     PutFeed(Item("5.9", 7, {7}));
-    EXPECT_NE(Rotate().find("1. now: publish a version that is signed by the old key"), std::string::npos) << Rotate();
+    EXPECT_NE(Rotate().find("1. now: publish a version that is signed with the old key"), std::string::npos)
+        << Rotate();
     PutFeed(Item("5.10", 7, {7, 8}) + Item("5.9", 7, {7}));
     std::string text = Rotate();
     EXPECT_NE(text.find("1. done: "), std::string::npos) << text;
@@ -169,9 +171,10 @@ TEST_F(KeyChange, GuideSaysWhatComesNextAndWhoMustBeGone)
     EXPECT_NE(text.find("5.9 take 5.10 first, which stays in the feed"), std::string::npos) << text;
     PutFeed(Item("5.11", 8, {8}) + Item("5.10", 7, {7, 8}) + Item("5.9", 7, {7}));
     text = Rotate();
-    EXPECT_NE(text.find("4. wait: destroy the old private key\n   must be gone first, since they trust the old key "
-                        "only: 5.9\n"),
-              std::string::npos)
+    EXPECT_NE(
+        text.find("4. wait: destroy the old private key\n   these versions must be gone first, because they trust only "
+                  "the old key: 5.9\n"),
+        std::string::npos)
         << text;
     PutFeed(Item("5.11", 8, {8}) + Item("5.10", 7, {7, 8}));
     EXPECT_NE(Rotate().find("4. now: destroy the old private key"), std::string::npos) << Rotate();
@@ -182,9 +185,11 @@ TEST_F(KeyChange, SignedFeedChangesItsKeyWhenTheOldVersionsAreGone)
     PutFeed(Item("5.11", 8, {7, 8}) + Item("5.10", 7, {7, 8}) + Item("5.9", 7, {7}));
     EXPECT_EQ(SignFeed(7, State({QStringLiteral("--valid"), Text(KeyOf(7))}).out).status, 0);
     std::string const text = Rotate();
-    EXPECT_NE(text.find("3. wait: sign the feed with the new key\n   must be gone first, since they trust the old key "
-                        "only: 5.9\n"),
-              std::string::npos)
+    EXPECT_NE(
+        text.find(
+            "3. wait: sign the feed with the new key\n   these versions must be gone first, because they trust only "
+            "the old key: 5.9\n"),
+        std::string::npos)
         << text;
     EXPECT_NE(text.find("4. later: "), std::string::npos) << text;
 }

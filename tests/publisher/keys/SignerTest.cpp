@@ -99,7 +99,7 @@ TEST_F(ProgramThatSigns, IsGivenAsAShellSplitsIt)
             RunTool({QStringLiteral("sign"), archive, QStringLiteral("--signer"), QString::fromLatin1(command),
                      QStringLiteral("--signer-key"), QString::fromStdString(MakeKeyPair(7).publicKey)});
         EXPECT_EQ(run.status, 2) << command;
-        EXPECT_NE(run.err.find("is not the line of one command"), std::string::npos) << command << run.err;
+        EXPECT_NE(run.err.find("is not a single command"), std::string::npos) << command << run.err;
     }
 }
 
@@ -127,17 +127,17 @@ TEST_F(ProgramThatSigns, EachFailureIsTold)
     ExpectRefused("echo '" + m_signature + "'\nexit 1\n", "the program failed with exit status 1");
     ExpectRefused("kill -9 $$\n", "the program was ended by a signal");
     ExpectRefused("", "the program printed nothing");
-    ExpectRefused("echo signed\n", "the program printed 7 bytes that are no signature");
-    ExpectRefused("echo '" + m_signature + " " + m_signature + "'\n", "that are no signature");
+    ExpectRefused("echo signed\n", "the program printed 7 bytes that are not a signature");
+    ExpectRefused("echo '" + m_signature + " " + m_signature + "'\n", "that are not a signature");
     ExpectRefused("yes\n", "the program printed more than a signature");
-    ExpectRefused("echo '" + Base64(Sign("other", MakeKeyPair(7))) + "'\n", "is no signature of ");
+    ExpectRefused("echo '" + Base64(Sign("other", MakeKeyPair(7))) + "'\n", "is not a signature of ");
 }
 
 TEST_F(ProgramThatSigns, SignatureOfAnotherKeyIsRefused)
 {
     ToolRun const run = SignBy("echo '" + m_signature + "'\n", 8);
     EXPECT_EQ(run.status, 2);
-    EXPECT_NE(run.err.find("is no signature of "), std::string::npos) << run.err;
+    EXPECT_NE(run.err.find("is not a signature of "), std::string::npos) << run.err;
 }
 
 TEST_F(ProgramThatSigns, IsNamedWithItsKeyAndInsteadOfAPrivateKey)
@@ -156,14 +156,14 @@ TEST_F(ProgramThatSigns, IsNamedWithItsKeyAndInsteadOfAPrivateKey)
                   .find("--key and --signer cannot both sign"),
               std::string::npos);
     EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral(" "), QStringLiteral("--signer-key"), key})
-                  .find("names no program"),
+                  .find("does not name a program"),
               std::string::npos);
     EXPECT_NE(refusal({QStringLiteral("--signer"), PathOf("missing"), QStringLiteral("--signer-key"), key})
                   .find("cannot be started"),
               std::string::npos);
     EXPECT_NE(refusal({QStringLiteral("--signer"), QStringLiteral("true"), QStringLiteral("--signer-key"),
                        QStringLiteral("garbage")})
-                  .find("is no Ed25519 key"),
+                  .find("is not an Ed25519 key"),
               std::string::npos);
 }
 

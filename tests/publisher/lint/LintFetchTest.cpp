@@ -126,7 +126,7 @@ TEST_F(LintFetch, AnotherVersionInsideIsAFinding)
     LoopbackServer server(Answering(OkAnswer(archive)));
     ToolRun const run = Lint(Feed(server.Url().toEncoded(), archive.size(), m_key.Sign(archive)));
     EXPECT_NE(run.out.find("archive-version: "), std::string::npos) << run.out;
-    EXPECT_NE(run.out.find("holds version 5.0, the feed says 5.1"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("contains version 5.0, but the feed says 5.1"), std::string::npos) << run.out;
 }
 
 TEST_F(LintFetch, AFeedBesideItsFilesIsCheckedBeforeItIsPublished)

@@ -64,7 +64,7 @@ TEST(LintOutput, AMalformedFeedIsAFindingWithItsPlace)
 {
     ToolRun const run = RunTool(Line(), "<rss>\n<item></rss>");
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.out.find("<stdin>:2:13: error: malformed-xml: Opening and ending tag mismatch; mend the XML"), 0u)
+    EXPECT_EQ(run.out.find("<stdin>:2:13: error: malformed-xml: Opening and ending tag mismatch; correct the XML"), 0u)
         << run.out;
 }
 
@@ -104,7 +104,7 @@ TEST(LintOutput, BadArgumentsAreRefused)
         RunTool(Line({QStringLiteral("--fetch"), QStringLiteral("--public-key"), QStringLiteral("AAAA")}));
     EXPECT_EQ(key.status, 2);
     EXPECT_EQ(key.err,
-              "error: --public-key: \"AAAA\" is no Ed25519 key; give the 32 bytes in base64 that pelnar-appcast "
+              "error: --public-key: \"AAAA\" is not an Ed25519 key; give the 32 bytes in base64 that pelnar-appcast "
               "keys show prints\n");
     EXPECT_EQ(RunTool(Line({QStringLiteral("--public-key"), QStringLiteral("AAAA")})).status, 2);
 }
@@ -163,7 +163,7 @@ TEST(LintOutput, BaselineTakesOutWhatIsKnownAndNoMore)
     QStringList const line = Line({QStringLiteral("--baseline"), baseline.fileName()});
     ToolRun const known = RunTool(line, "\n" + FeedOfCase("LengthZero"));
     EXPECT_EQ(known.status, 0) << "in another line" << known.out;
-    EXPECT_EQ(known.out, "<stdin>: clean\n1 finding known by the baseline\n");
+    EXPECT_EQ(known.out, "<stdin>: clean\n1 finding known from the baseline\n");
     EXPECT_EQ(RunTool(line, FeedOfCase("LengthMissing")).status, 1);
     QFile other(folder.filePath(QStringLiteral("other.json")));
     ASSERT_TRUE(other.open(QIODevice::WriteOnly));

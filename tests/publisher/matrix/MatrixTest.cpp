@@ -93,7 +93,7 @@ TEST(Matrix, WithdrawnVersionSaysWhereItsPeopleGo)
         "<item><p:withdrawn/><enclosure url='https://a.example/2.zip' length='3' sparkle:version='5.2'/></item>"
         "<item><enclosure url='https://a.example/1.zip' length='3' sparkle:version='5.1'/></item></rss>";
     ToolRun const run = RunTool(Of("from-feed", "11,12"), feed);
-    EXPECT_NE(run.out.find("withdrawn 5.2: those who have it get none, 5.3 BUNDLE\n"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("withdrawn 5.2: clients that have it get none, 5.3 BUNDLE\n"), std::string::npos) << run.out;
     EXPECT_NE(run.out.find("5.1        none   5.3 BUNDLE"), std::string::npos) << run.out;
     QJsonArray const withdrawn = RunTool(Of("from-feed", "11,12") + QStringList(QStringLiteral("--json")), feed)
                                      .Json()[QStringLiteral("withdrawn")]
@@ -167,7 +167,7 @@ TEST_F(MatrixGate, FailsWhereNothingWasExpected)
 {
     ToolRun const run = RunTool(Of("5.0", "10") + QStringList{QStringLiteral("--expect"), Expectation(FEED)}, FEED);
     EXPECT_EQ(run.status, 1);
-    EXPECT_EQ(run.err, "not as expected: 5.0 on 10: 5.1 BUNDLE, and nothing was expected of it\n");
+    EXPECT_EQ(run.err, "not as expected: 5.0 on 10: 5.1 BUNDLE, but the expectation has no such cell\n");
 }
 
 TEST_F(MatrixGate, RefusesAFileOfAnotherKind)
@@ -192,7 +192,7 @@ TEST(Matrix, BadArgumentsAreRefused)
               "error: --versions and --systems are required without --expect; see pelnar-appcast matrix --help\n");
     EXPECT_EQ(RunTool(Of("5.0,,5.1", "12"), FEED).status, 2);
     EXPECT_EQ(RunTool(Of("5.0", "twelve"), FEED).err,
-              "error: --systems: \"twelve\" is no version; give one to four numbers with dots between them, such as "
+              "error: --systems: \"twelve\" is not a version; give one to four numbers separated by dots, such as "
               "5.1.2\n");
 }
 

@@ -305,7 +305,7 @@ TEST_F(Serve, ForeignHostIsRefused)
         EXPECT_NE(answer.Status(), "HTTP/1.1 200 OK") << headers;
         EXPECT_EQ(answer.body, "") << headers;
     }
-    EXPECT_NE(server.Log().find("GET /appcast.xml 421 for \"evil.example\", which --host does not name\n"),
+    EXPECT_NE(server.Log().find("GET /appcast.xml 421 for \"evil.example\", which no --host names\n"),
               std::string::npos);
 }
 
@@ -417,11 +417,11 @@ TEST_F(Serve, WhatCannotBeServedIsRefused)
     Row const rows[] = {
         {{Folder() + QStringLiteral("/absent")}, "cannot be served: No such file"},
         {{text}, "cannot be served: Not a directory"},
-        {With("burn:x:1"), "--fault: \"burn:x:1\" is no fault"},
-        {{Folder(), QStringLiteral("--tls"), text, text}, "holds no certificate"},
+        {With("burn:x:1"), "--fault: \"burn:x:1\" is not a fault"},
+        {{Folder(), QStringLiteral("--tls"), text, text}, "contains no certificate"},
         {{Folder(), QStringLiteral("--port"), QStringLiteral("70000")}, "--port"},
         {{Folder(), QStringLiteral("--host"), QStringLiteral("")}, "--host"},
-        {{Folder(), QStringLiteral("--host"), QStringLiteral("a:b")}, "--host: \"a:b\" is no name"},
+        {{Folder(), QStringLiteral("--host"), QStringLiteral("a:b")}, "--host: \"a:b\" is not a host name"},
     };
     for (Row const& row : rows)
     {

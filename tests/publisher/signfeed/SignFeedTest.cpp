@@ -157,7 +157,7 @@ TEST_F(SignFeedTest, ClockThatWasSetBackIsTold)
     Put(PLAIN);
     QByteArray const feed =
         SignedContent({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 100000)});
-    ExpectRefused(Run(), "by its serial, but the clock of this computer says ", feed);
+    ExpectRefused(Run(), "according to its serial, but this computer's clock says ", feed);
     EXPECT_EQ(Run({Regular("--serial"), QString::number(QDateTime::currentSecsSinceEpoch() + 200000)}).status, 0);
 }
 
@@ -167,14 +167,14 @@ TEST_F(SignFeedTest, SerialThatWouldNotGrowIsRefused)
     QByteArray const feed = SignedContent({QStringLiteral("--serial"), QStringLiteral("12")});
     for (char const* const serial : {"12", "11"})
     {
-        ExpectRefused(Run({QStringLiteral("--serial"), Regular(serial)}), "has the serial 12 already", feed);
+        ExpectRefused(Run({QStringLiteral("--serial"), Regular(serial)}), "already has the serial 12", feed);
     }
     for (char const* const serial : {"0", "-1", "x", "9223372036854775808"})
     {
         ExpectRefused(Run({QStringLiteral("--serial"), Regular(serial)}), "--serial", feed);
     }
     QByteArray const last = SignedContent({QStringLiteral("--serial"), QStringLiteral("9223372036854775807")});
-    ExpectRefused(Run(), "has the greatest serial", last);
+    ExpectRefused(Run(), "has the greatest possible serial", last);
 }
 
 /// A feed as a person writes it.
@@ -297,11 +297,11 @@ TEST_F(SignFeedTest, WhatClientsCouldNotReadIsNotSigned)
           Row{"<rss></rss>\n", "has no channel"}, Row{"<rss><channel/></rss>\n", "has no channel"},
           Row{"<rss><channel xmlns='urn:x'></channel></rss>\n", "has no channel"},
           Row{"<?xml version='1.0' encoding='iso-8859-1'?><rss><channel>\xE4</channel></rss>\n", "is not UTF-8"},
-          Row{FeedWith(TermsOf("7", "") + TermsOf("8", "")), "stands there twice"},
+          Row{FeedWith(TermsOf("7", "") + TermsOf("8", "")), "appears twice"},
           Row{FeedWith("<serial " + own + "/>"), "or is empty"},
-          Row{FeedWith("<serial " + own + "><b>7</b></serial>"), "has elements in it"},
+          Row{FeedWith("<serial " + own + "><b>7</b></serial>"), "contains elements"},
           Row{"<rss><channel></channel><channel>" + TermsOf("7", "") + TermsOf("7", "") + "</channel></rss>",
-              "stands there twice"}})
+              "appears twice"}})
     {
         Put(row.feed);
         ExpectRefused(Run(), row.said, row.feed);
@@ -322,7 +322,7 @@ TEST_F(SignFeedTest, KeyComesFromAFileOrStandardInputAndNeverFromAnArgument)
     Put(PLAIN);
     QString const feed = QString::fromStdString(Path("feed.xml"));
     QString const key = QString::fromStdString(Base64(std::string(32, '\7')));
-    ExpectRefused(RunTool({QStringLiteral("sign-feed"), feed, QStringLiteral("--key"), key}), "never an argument",
+    ExpectRefused(RunTool({QStringLiteral("sign-feed"), feed, QStringLiteral("--key"), key}), "must not be an argument",
                   PLAIN);
     ExpectRefused(RunTool({QStringLiteral("sign-feed"), feed}), "--key", PLAIN);
     ToolRun const run = RunAppcastProgram(

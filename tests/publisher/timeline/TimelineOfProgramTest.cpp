@@ -44,10 +44,10 @@ TEST(TimelineOfProgram, AFoundUpdateIsToldFromTheLockToTheAnswer)
 {
     std::string const text = TimelineOf(LogOfCheck({QStringLiteral("5.1")}));
     std::size_t position = 0;
-    for (char const* step : {"the session begins", "taken by holder 1, FeedURL = file:///", "check 1: information only",
+    for (char const* step : {"the session starts", "taken by holder 1, FeedURL = file:///", "check 1: information only",
                              "WAITING -> FETCHING_INFO", "bestValidUpdateInAppcast:forUpdater:",
                              "the best item is 5.2, BUNDLE", "updater:didFindValidUpdate:", "UpdateType = BUNDLE",
-                             "FETCHING_INFO -> WAITING", "the check is over", "an order that can happen"})
+                             "FETCHING_INFO -> WAITING", "the check is over", "every sequence is possible"})
     {
         position = text.find(step, position);
         ASSERT_NE(position, std::string::npos) << step << " is missing in\n" << text;

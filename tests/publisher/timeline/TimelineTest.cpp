@@ -158,50 +158,49 @@ std::vector<Row> ImpossibleRows()
 {
     return {
         {"CallbackWithoutRequest", Begin() + In(Sites::FOUND, "WAITING"),
-         "updater:didFindValidUpdate: cannot come in WAITING"},
+         "updater:didFindValidUpdate: cannot occur in WAITING"},
         {"OutcomeTwice", Begin() + Check() + Found() + In(Sites::NOT_FOUND, "WAITING"),
-         "updaterDidNotFindUpdate: cannot come in WAITING"},
+         "updaterDidNotFindUpdate: cannot occur in WAITING"},
         {"ChoiceWithoutRequest", Begin() + In(Sites::BEST_ITEM, "WAITING"),
-         "bestValidUpdateInAppcast:forUpdater: cannot come in WAITING"},
+         "bestValidUpdateInAppcast:forUpdater: cannot occur in WAITING"},
         {"RelaunchOfARunningCheck", Begin() + Check() + In(Sites::SHOULD_RELAUNCH, "FETCHING_INFO"),
-         "updaterShouldRelaunchApplication: cannot come in FETCHING_INFO"},
+         "updaterShouldRelaunchApplication: cannot occur in FETCHING_INFO"},
         {"CancelOfNoInstallation", Begin() + In(Sites::DID_CANCEL, "WAITING"),
-         "updater:didCancelInstallUpdateOnQuit: cannot come in WAITING"},
+         "updater:didCancelInstallUpdateOnQuit: cannot occur in WAITING"},
         {"StateThatWasNotLeft", Begin() + Check() + In(Sites::ABORTED, "SILENT_DOWNLOADING"),
-         "the state is SILENT_DOWNLOADING, and the last switch left FETCHING_INFO"},
+         "the state is SILENT_DOWNLOADING, but the last change led to FETCHING_INFO"},
         {"SwitchFromAnotherState", Begin() + In(Sites::CHECK, "WAITING") + Switch("SILENT_ABORTING", "FETCHING_INFO"),
-         "the switch leaves SILENT_ABORTING, and the state was WAITING"},
+         "the change starts from SILENT_ABORTING, but the state was WAITING"},
         {"SwitchWithoutCause", Begin() + Switch("WAITING", "SILENT_INSTALLING"),
-         "nothing that was going on leads from WAITING to SILENT_INSTALLING"},
+         "no running operation leads from WAITING to SILENT_INSTALLING"},
         {"IdleWithoutCause", Begin() + Check() + Switch("FETCHING_INFO", "WAITING") + In(Sites::REJECT, "WAITING"),
-         "nothing that was going on ends in WAITING here"},
+         "no running operation ends in WAITING here"},
         {"IdleWithoutCauseAtTheEnd", Begin() + Check() + Switch("FETCHING_INFO", "WAITING"),
-         "nothing that was going on ends in WAITING here"},
+         "no running operation ends in WAITING here"},
         {"SwitchAfterAFailedGuard",
          Begin() + In(Sites::CHECK, "WAITING") + Line(Sites::ENSURE_CONTEXT, "Update context is NULL") +
              Switch("WAITING", "FETCHING_INFO"),
-         "nothing that was going on leads from WAITING to FETCHING_INFO"},
+         "no running operation leads from WAITING to FETCHING_INFO"},
         {"DownloadThatFoundEnds",
          Begin() + SilentDownload() + In(Sites::FOUND, "SILENT_DOWNLOADING") + Switch("SILENT_DOWNLOADING", "WAITING"),
-         "nothing that was going on ends in WAITING here"},
+         "no running operation ends in WAITING here"},
         {"LockTakenTwice", Begin() + Lock(), "the lock is taken while holder 1 has it"},
         {"ContextWithoutLock", Begin() + Leave() + In(Sites::SET_CONTEXT, "WAITING"),
-         "the session is lent without its lock"},
-        {"CheckWithoutLock", Begin() + Leave() + Check(), "a check begins while nobody holds the lock"},
+         "the session is used without its lock"},
+        {"CheckWithoutLock", Begin() + Leave() + Check(), "a check starts while nobody holds the lock"},
         {"LeaverKeepsTheLock", Begin() + In(Sites::UNLOCK_WHEN_POSSIBLE, "WAITING") + In(Sites::REJECT, "WAITING"),
-         "the lock was to be given back here: its holder had left"},
+         "the lock should have been released here, because its holder had left"},
         {"DeferredUnlockThatIsMissing",
          Begin() + Check() + In(Sites::UNLOCK_WHEN_POSSIBLE, "FETCHING_INFO") + Found() + In(Sites::REJECT, "WAITING"),
-         "the lock was to be given back here: its holder had left"},
-        {"UnlockThatNobodyAskedFor", Begin() + In(Sites::UNLOCK, "WAITING"),
-         "the lock is given back, and nobody asked for it"},
+         "the lock should have been released here, because its holder had left"},
+        {"UnlockThatNobodyAskedFor", Begin() + In(Sites::UNLOCK, "WAITING"), "the lock is released without a request"},
         {"ToldTooEarly", Begin() + Check() + In(Sites::NOTIFY_CHECK_FINISHED, "FETCHING_INFO"),
-         "the holder is told before the state is WAITING"},
-        {"UnknownState", Begin() + In(Sites::REJECT, "Unknown State"), "Unknown State is no state"},
+         "the holder is notified before the state is WAITING"},
+        {"UnknownState", Begin() + In(Sites::REJECT, "Unknown State"), "Unknown State is not a state"},
         {"BrokenSwitch", Begin() + Line(Sites::SET_STATE, "Switch from WAITING"),
-         "no switch between two states: Switch from WAITING"},
+         "not a change between two states: Switch from WAITING"},
         {"RecordOfAnotherVersion", Begin() + "I1121 06:41:22 777 SparkleManager:318] something else\n",
-         "line 318 of the session's source writes no such record in this version: something else"},
+         "line 318 of the session's source does not write this record in this version: something else"},
     };
 }
 
@@ -231,7 +230,7 @@ TEST(Timeline, TellsStatesHolderAndCallbacksOfACheck)
     EXPECT_EQ(Of(timeline, EventKind::Choice), (Texts{"SUAppcastItem contains update with UpdateType = BUNDLE"}));
     EXPECT_EQ(Of(timeline, EventKind::Lock), (Texts{"taken by holder 1, FeedURL = https://a.example/appcast.xml",
                                                     "the holder leaves", "free", "free"}));
-    EXPECT_EQ(Of(timeline, EventKind::Process), (Texts{"the session begins", "the session ends"}));
+    EXPECT_EQ(Of(timeline, EventKind::Process), (Texts{"the session starts", "the session ends"}));
     for (Publisher::TimelineEvent const& event : timeline.events)
     {
         bool const isCallback = event.kind == EventKind::Callback;
@@ -267,11 +266,11 @@ TEST(TimelineVerb, ReadsAsOneLineAnEvent)
     EXPECT_EQ(run.status, 0);
     EXPECT_EQ(
         run.out,
-        "    2:  06:41:22.123456  -          process   the session begins\n"
+        "    2:  06:41:22.123456  -          process   the session starts\n"
         "    6:  06:41:22.123456  holder 1   lock      taken by holder 1, FeedURL = https://a.example/appcast.xml\n"
         "    7:  06:41:22.123456  holder 1   command   check 1: information only\n"
         "    8:  06:41:22.123456  holder 1   state     WAITING -> FETCHING_INFO\n"
-        "<stdin>: an order that can happen\n");
+        "<stdin>: every sequence is possible\n");
 }
 
 TEST(TimelineVerb, AnOrderThatCannotHappenIsAFinding)
@@ -279,9 +278,9 @@ TEST(TimelineVerb, AnOrderThatCannotHappenIsAFinding)
     QByteArray const log = QByteArray::fromStdString(Begin() + In(Sites::FOUND, "WAITING"));
     ToolRun const run = RunTool({QStringLiteral("timeline"), QStringLiteral("-")}, log);
     EXPECT_EQ(run.status, 1);
-    EXPECT_NE(run.out.find("WRONG     updater:didFindValidUpdate: cannot come in WAITING\n"), std::string::npos)
+    EXPECT_NE(run.out.find("WRONG     updater:didFindValidUpdate: cannot occur in WAITING\n"), std::string::npos)
         << run.out;
-    EXPECT_NE(run.out.find("<stdin>: 1 place where the order cannot happen\n"), std::string::npos) << run.out;
+    EXPECT_NE(run.out.find("<stdin>: 1 place with an impossible sequence\n"), std::string::npos) << run.out;
     QJsonObject const object =
         RunTool({QStringLiteral("timeline"), QStringLiteral("-"), QStringLiteral("--json")}, log).Json();
     EXPECT_EQ(object[QStringLiteral("wrong")], 1);
@@ -295,7 +294,8 @@ TEST(TimelineVerb, ALogWithoutTheSessionIsRefused)
 {
     ToolRun const run = RunTool({QStringLiteral("timeline"), QStringLiteral("-")}, "nothing\n");
     EXPECT_EQ(run.status, 2);
-    EXPECT_EQ(run.err, "error: <stdin>: no record of the update session; run the application with its log at level 30 "
+    EXPECT_EQ(run.err, "error: <stdin>: contains no record of the update session; run the application with "
+                       "log level 30 "
                        "(--v=30)\n");
     EXPECT_EQ(RunTool({QStringLiteral("timeline"), QStringLiteral("/nowhere.log")}).status, 2);
 }

@@ -136,17 +136,17 @@ void AddNameCases(std::vector<LintCase>& cases)
                      ""});
     cases.push_back({"NameCaseOfFeedElement",
                      FeedOf(Item("5.1", "\n<sparkle:minimumsystemversion>1</sparkle:minimumsystemversion>")),
-                     "name-case 3:1 sparkle:minimumsystemversion is not read, minimumSystemVersion is"});
+                     "name-case 3:1 clients read minimumSystemVersion, but not sparkle:minimumsystemversion"});
     cases.push_back({"NameCaseOfPlainElement", FeedOf(Item("5.1", "\n<pubdate/>")),
-                     "name-case 3:1 pubdate is not read, pubDate is"});
+                     "name-case 3:1 clients read pubDate, but not pubdate"});
     cases.push_back({"NameCaseOfAttribute", FeedOf("<item>" + Enclosure("5.1", " sparkle:OS='linux'") + "</item>"),
-                     "name-case 2:7 sparkle:OS is not read, os is"});
-    cases.push_back({"NameMisspeltElement",
-                     FeedOf(Item("5.1", "\n<sparkle:minimumSystemVerison>1</sparkle:minimumSystemVerison>")),
-                     "name-misspelt 3:1 sparkle:minimumSystemVerison is not read; minimumSystemVersion may be meant"});
+                     "name-case 2:7 clients read os, but not sparkle:OS"});
+    cases.push_back(
+        {"NameMisspeltElement", FeedOf(Item("5.1", "\n<sparkle:minimumSystemVerison>1</sparkle:minimumSystemVerison>")),
+         "name-misspelt 3:1 clients do not read sparkle:minimumSystemVerison; minimumSystemVersion may be meant"});
     cases.push_back({"NameMisspeltAttribute",
                      FeedOf("<item>" + Enclosure("5.1", " sparkle:edSignatur='x'") + "</item>"),
-                     "name-misspelt 2:7 sparkle:edSignatur is not read; edSignature may be meant"});
+                     "name-misspelt 2:7 clients do not read sparkle:edSignatur; edSignature may be meant"});
     cases.push_back({"UnknownNamePasses", FeedOf(Item("5.1", "<sparkle:whatever/>")), ""});
     cases.push_back(
         {"WrongNamespaceWithoutItsConsequences",
@@ -182,7 +182,7 @@ void AddVersionCases(std::vector<LintCase>& cases)
         {"VersionOverflow", FeedOf(Item("5.2147483648")), "version-overflow 2:7 the version is \"5.2147483648\""});
     cases.push_back({"GreatestNumberPasses", FeedOf(Item("5.2147483647")), ""});
     cases.push_back({"VersionFromFileName", FeedOf("<item><enclosure url='https://a.example/App_5.1.zip'" + noVersion),
-                     "version-from-file-name 2:7 5.1 stands in App_5.1.zip only"});
+                     "version-from-file-name 2:7 5.1 is only in App_5.1.zip"});
     cases.push_back({"VersionMixed", FeedOf(Item("100") + Item("5.9")), "version-mixed 3:7 100 beside 5.9"});
     cases.push_back(
         {"VersionSpelling",
@@ -262,10 +262,11 @@ void AddOfferCases(std::vector<LintCase>& cases)
          "key-not-trusted 2:"});
     cases.push_back({"KeyOfAnotherMachinePasses",
                      FeedOf(onMachine(Keyed("5.2", b, b), "x86_64") + onMachine(Keyed("5.0", a, a), "aarch64")), ""});
-    cases.push_back({"DateOrder",
-                     FeedOf(Item("5.2", "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>") +
-                            Item("5.1", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>")),
-                     "date-order 2:1 5.2 is of 2019-01-07T10:00:00Z, and the older 5.1 of 2019-01-08T10:00:00Z"});
+    cases.push_back(
+        {"DateOrder",
+         FeedOf(Item("5.2", "<pubDate>Mon, 07 Jan 2019 10:00:00 +0000</pubDate>") +
+                Item("5.1", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>")),
+         "date-order 2:1 5.2 has the date 2019-01-07T10:00:00Z, but the older 5.1 has 2019-01-08T10:00:00Z"});
     cases.push_back({"DatesInTheOrderOfVersionsPass",
                      FeedOf(Item("5.2", "<pubDate>Tue, 08 Jan 2019 10:00:00 +0000</pubDate>") +
                             Item("5.1", "<pubDate>Tue, 08 Jan 2019 12:00:00 +0200</pubDate>")),
@@ -284,7 +285,7 @@ void AddPolicyCases(std::vector<LintCase>& cases)
     for (Row const& row :
          {Row{"PolicyChannelPasses", "<sparkle:channel>beta</sparkle:channel>", ""},
           Row{"PolicyChannelOfTwoWords", "<sparkle:channel>beta 2</sparkle:channel>",
-              "policy-unreadable 2:1 no application can list the channel \"beta 2\""},
+              "policy-unreadable 2:1 no application can enable the channel \"beta 2\""},
           Row{"PolicyChannelOfAnEmptyVariable", "<sparkle:channel> </sparkle:channel>",
               "policy-unreadable 2:7 <sparkle:channel> is empty, so everybody gets the item"},
           Row{"PolicyHardwareOfAnEmptyVariable", "<sparkle:hardwareRequirements/>",
@@ -292,35 +293,35 @@ void AddPolicyCases(std::vector<LintCase>& cases)
           Row{"PolicyMinimumOfAnEmptyVariable", "<sparkle:minimumUpdateVersion></sparkle:minimumUpdateVersion>",
               "policy-unreadable 2:7 <sparkle:minimumUpdateVersion> is empty, so everybody gets the item"},
           Row{"PolicyAutomaticMinimumOfAnEmptyVariable", "<sparkle:minimumAutoupdateVersion/>",
-              "policy-unreadable 2:7 <sparkle:minimumAutoupdateVersion> is empty, and bounds nothing"},
+              "policy-unreadable 2:7 <sparkle:minimumAutoupdateVersion> is empty, and has no effect"},
           Row{"SystemMinimumOfAnEmptyVariable", "<sparkle:minimumSystemVersion/>",
               "policy-unreadable 2:7 <sparkle:minimumSystemVersion> is empty, so everybody gets the item"},
           Row{"SystemMaximumOfAnEmptyVariable", "<sparkle:maximumSystemVersion> </sparkle:maximumSystemVersion>",
               "policy-unreadable 2:7 <sparkle:maximumSystemVersion> is empty, so everybody gets the item"},
           Row{"PolicyCriticalBoundOfAnEmptyVariable", "<sparkle:criticalUpdate sparkle:version=' '/>",
-              "policy-unreadable 2:7 sparkle:version of <sparkle:criticalUpdate> is empty, and bounds nothing"},
+              "policy-unreadable 2:7 sparkle:version of <sparkle:criticalUpdate> is empty, and has no effect"},
           Row{"PolicyInformationalVersionOfAnEmptyVariable",
               "<sparkle:informationalUpdate><sparkle:version/></sparkle:informationalUpdate>"
               "<link>https://a.example/5.1</link>",
-              "policy-unreadable 2:36 <sparkle:version> is empty, and bounds nothing"},
+              "policy-unreadable 2:36 <sparkle:version> is empty, and has no effect"},
           Row{"PolicyInformationalBoundOfAnEmptyVariable",
               "<sparkle:informationalUpdate><sparkle:belowVersion/></sparkle:informationalUpdate>"
               "<link>https://a.example/5.1</link>",
-              "policy-unreadable 2:36 <sparkle:belowVersion> is empty, and bounds nothing"},
+              "policy-unreadable 2:36 <sparkle:belowVersion> is empty, and has no effect"},
           Row{"PolicyHardwarePasses", "<sparkle:hardwareRequirements>arm64</sparkle:hardwareRequirements>", ""},
           Row{"PolicyHardwareOfNobody", "<sparkle:hardwareRequirements>abacus</sparkle:hardwareRequirements>",
-              "policy-unreadable 2:1 no client is on the machine \"abacus\""},
+              "policy-unreadable 2:1 no client runs on the machine \"abacus\""},
           Row{"PolicyMinimumPasses", "<sparkle:minimumUpdateVersion>5.0</sparkle:minimumUpdateVersion>", ""},
           Row{"PolicyMinimumOfNoVersion", "<sparkle:minimumUpdateVersion>five</sparkle:minimumUpdateVersion>",
-              "policy-unreadable 2:1 \"five\" is no version, and bounds nothing"},
+              "policy-unreadable 2:1 \"five\" is not a version and has no effect"},
           Row{"PolicyAutomaticMinimumOfNoVersion",
               "<sparkle:minimumAutoupdateVersion>five</sparkle:minimumAutoupdateVersion>",
-              "policy-unreadable 2:1 \"five\" is no version, and bounds nothing"},
+              "policy-unreadable 2:1 \"five\" is not a version and has no effect"},
           Row{"PolicyCriticalForNoVersion", "<sparkle:criticalUpdate sparkle:version='x'/>",
-              "policy-unreadable 2:1 \"x\" is no version, and bounds nothing"},
+              "policy-unreadable 2:1 \"x\" is not a version and has no effect"},
           Row{"StagedPasses", date + "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>", ""},
           Row{"StagedInNoNumber", date + "\n<sparkle:phasedRolloutInterval>day</sparkle:phasedRolloutInterval>",
-              "policy-unreadable 3:1 \"day\" is no number of seconds from 1 to ten years"},
+              "policy-unreadable 3:1 \"day\" is not a number of seconds from 1 to ten years"},
           Row{"StagedWithoutDate", "<sparkle:phasedRolloutInterval>86400</sparkle:phasedRolloutInterval>",
               "staged-without-date 2:1 the date of item 5.1 is \"\""},
           Row{"StagedInFuture",
@@ -360,7 +361,7 @@ void AddMachineCases(std::vector<LintCase>& cases)
                             " p:machine='aarch64'/></item>"),
                      ""});
     cases.push_back({"MachineOfNobody", FeedOf("<item>" + Enclosure("5.1", own + " p:machine='abacus'") + "</item>"),
-                     "policy-unreadable 2:1 no client is on the machine \"abacus\""});
+                     "policy-unreadable 2:1 no client runs on the machine \"abacus\""});
     cases.push_back({"MachineOfAnEmptyVariable",
                      FeedOf("<item>" + Enclosure("5.1", own + " p:machine=' '") + "</item>"),
                      "policy-unreadable 2:7 p:machine of <enclosure> is empty, so everybody gets the item"});
@@ -411,7 +412,7 @@ void AddAddressCases(std::vector<LintCase>& cases)
     cases.push_back({"SharedAddress",
                      FeedOf("<item><enclosure url='https://a.example/a.zip'" + Good("5.2") +
                             "/></item>\n<item><enclosure url='https://a.example/a.zip'" + Good("5.1") + "/></item>"),
-                     "shared-address 3:7 https://a.example/a.zip is the address of item 5.2 in line 2 as well"});
+                     "shared-address 3:7 https://a.example/a.zip is also the address of item 5.2 in line 2"});
 }
 
 void AddSystemCases(std::vector<LintCase>& cases)
@@ -422,14 +423,14 @@ void AddSystemCases(std::vector<LintCase>& cases)
     cases.push_back({"SystemBoundsCrossed",
                      FeedOf(Item("5.1", "<sparkle:minimumSystemVersion>12</sparkle:minimumSystemVersion>"
                                         "<sparkle:maximumSystemVersion>11</sparkle:maximumSystemVersion>")),
-                     "system-bounds-crossed 2:1 item 5.1 asks for 12 or later and 11 or earlier"});
+                     "system-bounds-crossed 2:1 item 5.1 requires 12 or later and 11 or earlier"});
     cases.push_back({"PlatformUnknown", FeedOf("<item>" + Enclosure("5.1", " sparkle:os='mac'") + "</item>"),
                      "platform-unknown 2:7 sparkle:os is \"mac\""});
     cases.push_back(
         {"PlatformOfOthersPasses", FeedOf("<item>" + Enclosure("5.1", " sparkle:os='Windows'") + "</item>"), ""});
     cases.push_back({"PlatformFirst",
                      FeedOf("<item>" + Enclosure("5.1", " sparkle:os='windows'") + "</item>\n" + Item("5.2")),
-                     "platform-first 2:7 an item for windows stands before the one for all platforms in line 3"});
+                     "platform-first 2:7 an item for windows comes before the one for all platforms in line 3"});
     cases.push_back({"PlatformLastPasses",
                      FeedOf(Item("5.2") + "<item>" + Enclosure("5.1", " sparkle:os='windows'") + "</item>"), ""});
 }
@@ -487,14 +488,14 @@ void AddDeltaCases(std::vector<LintCase>& cases)
     cases.push_back({"DeltaFromRepeated", FeedOf(WithDeltas(Delta("5.0") + "\n" + Delta("5.0.0"))),
                      "delta-from-repeated 4:1 it starts from 5.0.0, as the delta in line 3 does"});
     cases.push_back({"DeltaFromNotOlder", FeedOf(WithDeltas(Delta("5.1.0"))),
-                     "delta-from-not-older 3:17 it leads from 5.1.0 to 5.1"});
+                     "delta-from-not-older 3:17 it goes from 5.1.0 to 5.1"});
     cases.push_back({"DeltaVersion",
                      FeedOf(WithDeltas(QByteArray(Delta("5.0")).replace("/>", " sparkle:version='5.0.5'/>"))),
-                     "delta-version 3:17 it makes version 5.0.5, and its item is of 5.1"});
+                     "delta-version 3:17 it makes version 5.0.5, but its item has the version 5.1"});
     cases.push_back(
         {"DeltaBaseMissing", FeedOf(WithDeltas(Delta("4.9"))), "delta-base-missing 3:17 no item has the version 4.9"});
     cases.push_back({"DeltaLargerThanFull", FeedOf(WithDeltas(Delta("5.0", "9"))),
-                     "delta-larger-than-full 3:17 9 bytes, the whole is 9"});
+                     "delta-larger-than-full 3:17 9 bytes, the full download has 9"});
 }
 
 void AddExtensionCases(std::vector<LintCase>& cases)
@@ -506,13 +507,13 @@ void AddExtensionCases(std::vector<LintCase>& cases)
                      "extension-namespace 3:1 sparkle:pelnar1_A is in the namespace "
                      "\"http://www.andymatuschak.org/xml-namespaces/sparkle\""});
     cases.push_back({"ExtensionOnEnclosure", FeedOf("<item>" + Enclosure("5.1", " pelnar1_A='x'") + "</item>"),
-                     "extension-place 2:7 pelnar1_A is not read here"});
+                     "extension-place 2:7 clients do not read pelnar1_A here"});
     cases.push_back({"ExtensionInEnclosure",
                      FeedOf("<item><enclosure url='https://a.example/a'" + Good("5.1") +
                             ">\n<pelnar1_A>x</pelnar1_A></enclosure></item>"),
-                     "extension-place 3:1 pelnar1_A is not read here"});
+                     "extension-place 3:1 clients do not read pelnar1_A here"});
     cases.push_back({"ExtensionOfChannel", FeedOf("<pelnar1_A>x</pelnar1_A>" + Item("5.1")),
-                     "extension-place 2:1 pelnar1_A is not read here"});
+                     "extension-place 2:1 clients do not read pelnar1_A here"});
     cases.push_back({"ExtensionKeyCase", FeedOf(Item("5.1", "<pelnar1_A>x</pelnar1_A>\n<pelnar1_a>y</pelnar1_a>")),
                      "extension-key-case 3:1 pelnar1_A and pelnar1_a"});
     cases.push_back({"ExtensionWithAttribute", FeedOf(Item("5.1", "<pelnar1_A b='c'>x</pelnar1_A>")),

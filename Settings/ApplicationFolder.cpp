@@ -77,7 +77,7 @@ OpenedFolder OpenIn(UniqueFd const& base, ApplicationFolder const& place)
     if (!folder)
     {
         bool const isOther = errno == ENOTDIR || errno == ELOOP;
-        return isOther ? Refused(errno, path, "is a link or no folder at all") : Failed(errno, path);
+        return isOther ? Refused(errno, path, "is a link, or not a folder") : Failed(errno, path);
     }
     struct stat status;
     if (::fstat(folder.Get(), &status) != 0)
@@ -90,7 +90,7 @@ OpenedFolder OpenIn(UniqueFd const& base, ApplicationFolder const& place)
     }
     if (IsOpenToOthers(folder.Get(), status))
     {
-        return Refused(EPERM, path, "can be changed by other users; take their right to write away");
+        return Refused(EPERM, path, "can be changed by other users; remove their write permission");
     }
     return {std::move(folder), 0, {}};
 }

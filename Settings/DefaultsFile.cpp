@@ -133,7 +133,7 @@ bool IsTaken(DefaultsEntries const& entries)
         if (!file.reason.empty())
         {
             isComplete = false;
-            WarnOnce("The settings of an earlier version are not taken over from " + name + ": " + file.reason);
+            WarnOnce("The settings of an earlier version could not be copied from " + name + ": " + file.reason);
         }
         for (Core::SettingKey const& key : Core::SETTING_KEYS)
         {
@@ -200,7 +200,7 @@ private:
         m_named = std::make_unique<QLockFile>(QFile::decodeName((folder + '/' + LOCK_FILE + ".name").c_str()));
         if (!m_named->tryLock(static_cast<int>(LONGEST_WAIT.count())))
         {
-            m_failure = "the file system has no lock to give";
+            m_failure = "the file system does not support locks";
         }
     }
 

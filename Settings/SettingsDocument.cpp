@@ -15,9 +15,9 @@ using Core::SettingType;
 
 constexpr std::string_view INTRODUCTION = R"(# Settings
 
-This page is made from the table in `common/SettingKeys.h`; the target `settings_document` writes it.
+This page is generated from the table in `common/SettingKeys.h`; the target `settings_document` writes it.
 
-A setting stands in one of two places:
+A setting is in one of two places:
 
 - **The information dictionary** is part of the application. The publisher writes it: `Resources/Info-gnustep.plist` in the
   bundle on Linux, `Contents/Info.plist` on macOS.
@@ -25,11 +25,11 @@ A setting stands in one of two places:
   `$XDG_CONFIG_HOME/<bundle identifier>/updates.plist`. Without `XDG_CONFIG_HOME` that is
   `~/.config/<bundle identifier>/updates.plist`. On macOS they are the application's user defaults.
 
-Where a setting may stand in both, the user default counts.
+If a setting is allowed in both places, the user default has priority.
 
 ## The file on Linux
 
-The file is a property list as text. A person may change it while the application does not run:
+The file is a property list as text. A person may change it while the application is not running:
 
 ```
 {
@@ -38,31 +38,31 @@ The file is a property list as text. A person may change it while the applicatio
 }
 ```
 
-- `~` is `$HOME`, or the home of the password database without it. A relative `XDG_CONFIG_HOME` is ignored.
+- `~` is `$HOME`, or without it the home folder in the password database. A relative `XDG_CONFIG_HOME` is ignored.
 - The name of the program and the link that starts it make no difference.
-- Characters of an identifier that a file name may not have are written as `%` and two digits. An application without an
+- Characters of an identifier that a file name cannot contain are written as `%` and two digits. An application without an
   identifier has the folder `unidentified.<program>`.
-- The folder must belong to the person, and nobody else may write there. A link in the place of the folder or of the file
-  is not followed. The log says what is refused, and the settings then count as absent.
-- A file that is no property list is renamed to `updates.plist.unreadable` at the next change.
-- What cannot be saved counts until the process ends. The log says why.
-- A value on the command line (`-SUAutomaticallyUpdate YES`) counts before the file. GNUstep's global domain and the values
-  that the host registers count after it.
+- The folder must belong to the person, and no other user may write there. A link in the place of the folder or of the file
+  is not followed. If something is refused, the log says why, and the settings count as absent.
+- A file that is not a property list is renamed to `updates.plist.unreadable` at the next change.
+- A value that cannot be saved is valid until the process ends. The log says why.
+- A value on the command line (`-SUAutomaticallyUpdate YES`) has priority over the file. GNUstep's global domain and the
+  values that the host registers have a lower priority.
 
-Earlier versions kept the user defaults in `~/GNUstep/Defaults/<program>.plist`. The first change takes over what stands
-there and sets `PelnarEarlierDefaultsTaken`. The old file stays as it is, and the host's own defaults stay in it. An old file
-that cannot be read is in the log, and is tried again at the next start.
+Earlier versions stored the user defaults in `~/GNUstep/Defaults/<program>.plist`. The first change copies these values and
+sets `PelnarEarlierDefaultsTaken`. The old file is not changed and keeps the host's own defaults. If it cannot be read, the
+log says so, and the next start tries again.
 
 ## Other files on Linux
 
-| Folder | What stands there |
+| Folder | Content |
 | --- | --- |
-| `$XDG_CACHE_HOME/<bundle identifier>/updates`, else below `~/.cache` | [archives](../formats/partial-download.md) and the [last feed](../formats/kept-feed.md), which can be had again |
-| `$XDG_STATE_HOME/<bundle identifier>/updates`, else below `~/.local/state` | what is known of [feeds](../formats/signed-feed.md) and of [installations](../formats/install-record.md) |
+| `$XDG_CACHE_HOME/<bundle identifier>/updates`, otherwise below `~/.cache` | [archives](../formats/partial-download.md) and the [last feed](../formats/kept-feed.md), which can be downloaded again |
+| `$XDG_STATE_HOME/<bundle identifier>/updates`, otherwise below `~/.local/state` | the records of [feeds](../formats/signed-feed.md) and of [installations](../formats/install-record.md) |
 
-Both have mode 0700. What earlier versions kept in `$XDG_CACHE_HOME/pelnar-updates` and in GNUstep's folder is taken over.
+Both have mode 0700. The files of earlier versions in `$XDG_CACHE_HOME/pelnar-updates` and in GNUstep's folder are moved there.
 
-[Why the settings live there](../decisions/0008-settings-in-xdg-folders.md).
+[Why the settings are there](../decisions/0008-settings-in-xdg-folders.md).
 )";
 
 std::string_view NameOf(SettingType type)

@@ -17,14 +17,14 @@ inline char const* FaultOfRelaunchArguments(std::vector<std::string> const& argu
 {
     if (arguments.size() > RELAUNCH_ARGUMENTS_MAX_COUNT)
     {
-        return "they are more than 1024";
+        return "there are more than 1024";
     }
     std::size_t bytes = 0;
     for (std::string const& argument : arguments)
     {
         if (argument.find('\0') != std::string::npos)
         {
-            return "one of them holds a NUL";
+            return "one of them contains a NUL";
         }
         bytes += argument.size() + 1;
     }

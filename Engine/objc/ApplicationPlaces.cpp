@@ -57,7 +57,7 @@ void MoveRecord(int from, int to, std::string const& name)
     }
     catch (UpdateRefusal const& refusal)
     {
-        LOG(WARNING) << "The record of the last installation is not taken over: " << refusal.what();
+        LOG(WARNING) << "The record of the last installation could not be moved: " << refusal.what();
     }
 }
 
@@ -75,7 +75,7 @@ void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString c
     std::string const path = PathIn(BaseFolder::Cache, bundleIdentifier);
     MakeFoldersAbove(path);
     bool const isMoved = ::renameat2(AT_FDCWD, earlierPath.c_str(), AT_FDCWD, path.c_str(), RENAME_NOREPLACE) == 0;
-    PLOG_IF(WARNING, !isMoved && errno != EEXIST) << "The downloads in " << earlierPath << " are not taken over";
+    PLOG_IF(WARNING, !isMoved && errno != EEXIST) << "The downloads in " << earlierPath << " could not be moved";
     // The parent folder is empty if this was the last application.
     static_cast<void>(::rmdir(earlierPath.substr(0, earlierPath.rfind('/')).c_str()));
 }
@@ -105,7 +105,7 @@ QString FeedRecordFileOf(QString const& bundleIdentifier)
         Settings::FolderOf(BaseFolder::State, bundleIdentifier), Settings::MissingFolder::Leave);
     if (!above.folder && above.errorNumber != ENOENT)
     {
-        LOG(WARNING) << "What is known of the feed is neither read nor saved: " << above.reason;
+        LOG(WARNING) << "The record of the feed is neither read nor saved: " << above.reason;
         return {};
     }
     return StateFolderOf(bundleIdentifier) + QStringLiteral("/feed");

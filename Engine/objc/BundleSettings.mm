@@ -316,7 +316,7 @@ QStringList ReadChannels()
         }
         else if (!channel.isEmpty())
         {
-            WarnOfType(Setting::Channels, "a list of names with commas between them");
+            WarnOfType(Setting::Channels, "a list of names separated by commas");
         }
     }
     return channels;

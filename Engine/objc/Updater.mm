@@ -54,7 +54,7 @@ void Updater::StartCheck(CheckKind kind)
 {
     if (IsInProgress())
     {
-        LOG(WARNING) << "A check for updates is running already; the new one is ignored";
+        LOG(WARNING) << "A check for updates is already running; the new one is ignored";
         if (kind == CheckKind::Interactive && m_flow)
         {
             m_flow->BringToFront();

@@ -158,7 +158,7 @@ TEST_P(EveryCheck, SecondCheckWhileOneRunsIsIgnoredWithALogLine)
     driver.Probe();
     LogCapture log;
     (driver.*GetParam().start)();
-    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "A check for updates is running already; the new one is ignored"));
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "A check for updates is already running; the new one is ignored"));
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "found 5.1"}));
     EXPECT_EQ(server.Requests().size(), 1u);

@@ -144,7 +144,7 @@ TEST_P(FailingDelegate, ChoiceThatFailsAbortsAndTheNextCheckRuns)
     ASSERT_TRUE(driver.WaitForEnd());
     EXPECT_EQ(driver.Events(), (Events{"asked", "aborted 1002"}));
     ExpectReason(driver);
-    EXPECT_TRUE(HasLog(log, google::GLOG_ERROR, std::string("in the choice of an update: ") + GetParam().reason));
+    EXPECT_TRUE(HasLog(log, google::GLOG_ERROR, std::string("in choosing an update: ") + GetParam().reason));
     fails = false;
     driver.Probe();
     ASSERT_TRUE(driver.WaitForEnd());

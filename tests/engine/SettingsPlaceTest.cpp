@@ -117,7 +117,7 @@ TEST_F(SettingsPlace, FollowsTheEnvironment)
     EXPECT_EQ(Run("get"), "on");
 }
 
-TEST_F(SettingsPlace, WhatStoodInTheOldPlaceIsTakenOverOnce)
+TEST_F(SettingsPlace, SettingsInTheOldPlaceAreCopiedOnce)
 {
     Write(EARLIER, "{ SUAutomaticallyUpdate = YES; SUSkippedVersion = 5.1; Recent = (a); }");
     EXPECT_EQ(Run("get"), "on");
@@ -145,7 +145,7 @@ TEST_F(SettingsPlace, BrokenOldFileIsKeptAndReported)
 {
     Write(EARLIER, "{ SUAutomaticallyUpdate = YES;");
     EXPECT_EQ(Run("get"), "off");
-    EXPECT_NE(log.find("are not taken over from"), std::string::npos) << log;
+    EXPECT_NE(log.find("could not be copied from"), std::string::npos) << log;
     EXPECT_EQ(Run("on"), "on");
     EXPECT_EQ(Run("get"), "on");
     EXPECT_EQ(Read(EARLIER), "{ SUAutomaticallyUpdate = YES;");

@@ -247,7 +247,7 @@ TEST_F(UpdateContract, CheckOfAPersonWhileAWindowWaitsBringsItToTheFront)
     EXPECT_EQ(notes.back(), "window update");
     driver->CheckInteractively();
     EXPECT_EQ(notes.back(), "bring to front");
-    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "A check for updates is running already; the new one is ignored"));
+    EXPECT_TRUE(HasLog(log, google::GLOG_WARNING, "A check for updates is already running; the new one is ignored"));
     EXPECT_EQ(server->Requests().size(), 1u);
 }
 

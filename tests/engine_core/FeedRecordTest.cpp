@@ -104,7 +104,7 @@ TEST_F(FeedRecordFileTest, IsReadAsItWasWritten)
     EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup) << "other users cannot hold its lock";
 }
 
-TEST_F(FeedRecordFileTest, KeepsWhatItKnowsOfKeys)
+TEST_F(FeedRecordFileTest, KeepsItsFieldsAboutKeys)
 {
     FeedRecord withKeys = record;
     withKeys.keySerial = 12;
@@ -131,7 +131,7 @@ TEST_F(FeedRecordFileTest, EachBundleHasItsOwnForEveryName)
     }
 }
 
-TEST_F(FeedRecordFileTest, WhatWasRememberedElsewhereIsTakenOverOnce)
+TEST_F(FeedRecordFileTest, RecordFromAnotherPlaceIsCopiedOnce)
 {
     FeedRecord earlier = record;
     earlier.serial = 90;
@@ -151,7 +151,7 @@ TEST_F(FeedRecordFileTest, NoProcessLowersTheSerialOfAnother)
     EXPECT_EQ(ReadFeedRecordFile(path)->serial, 9);
 }
 
-TEST_F(FeedRecordFileTest, WhatIsNoRecordCountsAsNone)
+TEST_F(FeedRecordFileTest, InvalidRecordIsIgnored)
 {
     QByteArray const whole = QByteArray::fromStdString(EncodeFeedRecord(record));
     FeedRecord negative = record;

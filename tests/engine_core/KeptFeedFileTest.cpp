@@ -103,7 +103,7 @@ TEST_F(KeptFeedFileTest, NobodyReadsAPasswordOrAnAddressOutOfIt)
     EXPECT_FALSE(bytes.contains("feeds.example.com"));
 }
 
-TEST_F(KeptFeedFileTest, NoneIsLeftWhenNoneIsToBeKept)
+TEST_F(KeptFeedFileTest, NoFileIsLeftIfNoFeedIsKept)
 {
     ASSERT_TRUE(Keep());
     EXPECT_TRUE(WriteKeptFeedFile(folder, std::nullopt));
@@ -111,7 +111,7 @@ TEST_F(KeptFeedFileTest, NoneIsLeftWhenNoneIsToBeKept)
     EXPECT_TRUE(WriteKeptFeedFile(folder, std::nullopt));
 }
 
-TEST_F(KeptFeedFileTest, WhatSomebodyElseMayHaveWrittenCountsAsNone)
+TEST_F(KeptFeedFileTest, FileThatOthersMayHaveWrittenIsIgnored)
 {
     std::string const aside = place.filePath(QStringLiteral("aside")).toStdString();
     ExpectNoneAfter("Readable", [](std::string const& file) { ASSERT_EQ(::chmod(file.c_str(), 0644), 0); });
@@ -138,7 +138,7 @@ TEST_F(KeptFeedFileTest, WhatSomebodyElseMayHaveWrittenCountsAsNone)
                     });
 }
 
-TEST_F(KeptFeedFileTest, OfAnotherUserCountsAsNone)
+TEST_F(KeptFeedFileTest, FileOfAnotherUserIsIgnored)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
     ExpectNoneAfter("File", [](std::string const& file) { ASSERT_EQ(::chown(file.c_str(), ATTACKER, 0), 0); });
@@ -174,14 +174,14 @@ TEST_F(KeptFeedFileTest, WithoutAFolderTheLogSaysIt)
     EXPECT_EQ(log.Of(google::GLOG_WARNING).size(), 1u);
 }
 
-TEST_F(KeptFeedFileTest, OfAnotherBundleCountsAsNone)
+TEST_F(KeptFeedFileTest, FileOfAnotherBundleIsIgnored)
 {
     ASSERT_TRUE(Keep());
     EXPECT_FALSE(ReadKeptFeedFile({folder.path, QStringLiteral("example.app2")}, MAX_BYTES));
     EXPECT_FALSE(ReadKeptFeedFile({folder.path, QString()}, MAX_BYTES));
 }
 
-TEST_F(KeptFeedFileTest, LargerOneThanAFeedMayBeCountsAsNone)
+TEST_F(KeptFeedFileTest, FileLargerThanAFeedMayBeIsIgnored)
 {
     ASSERT_TRUE(Keep(SomeFeed(QByteArray(1000, 'x'))));
     EXPECT_TRUE(Read(1000));
@@ -203,7 +203,7 @@ TEST_F(KeptFeedFileTest, EveryByteCounts)
     EXPECT_FALSE(DecodeKeptFeed(whole + 'x', BUNDLE, MAX_BYTES));
 }
 
-TEST_F(KeptFeedFileTest, ValidatorsThatNoServerCanHaveSaidCountAsNone)
+TEST_F(KeptFeedFileTest, ImpossibleValidatorsAreIgnored)
 {
     for (Validators const& validators :
          {Validators{}, Validators{"one", {}}, Validators{"\"o\r\nX: y\"", {}}, Validators{{}, "yesterday"},
@@ -219,7 +219,7 @@ TEST_F(KeptFeedFileTest, ValidatorsThatNoServerCanHaveSaidCountAsNone)
     EXPECT_FALSE(DecodeKeptFeed(EncodeKeptFeed(late, BUNDLE), BUNDLE, MAX_BYTES));
 }
 
-TEST_F(KeptFeedFileTest, FullDiskGetsItsRoomBack)
+TEST_F(KeptFeedFileTest, FullDiskGetsItsSpaceBack)
 {
     ASSERT_TRUE(Keep());
     std::string const answer = InChild(
@@ -237,7 +237,7 @@ TEST_F(KeptFeedFileTest, FullDiskGetsItsRoomBack)
     EXPECT_TRUE(Keep());
 }
 
-TEST_F(KeptFeedFileTest, WhoReadsWhileTwoProcessesWriteGetsAWholeOne)
+TEST_F(KeptFeedFileTest, ReaderGetsAWholeFileWhileTwoProcessesWrite)
 {
     ASSERT_TRUE(Keep(SomeFeed(QByteArray(100000, 'a'))));
     std::vector<pid_t> writers;

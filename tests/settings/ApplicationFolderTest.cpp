@@ -117,7 +117,7 @@ TEST_F(ApplicationFolderPlace, WhatIsNoFolderOfThisUsersAloneIsRefused)
                       ASSERT_EQ(::rmdir(path), 0);
                       ASSERT_EQ(::symlink(home.path().toLocal8Bit().constData(), path), 0);
                   })
-                  .find("is a link or no folder at all"),
+                  .find("is a link, or not a folder"),
               std::string::npos);
     ASSERT_EQ(::unlink(Path(".config/org.example.app").toLocal8Bit().constData()), 0);
     EXPECT_NE(ReasonAfter([](char const* path) { ASSERT_EQ(::chmod(path, 0777), 0); }).find("by other users"),

@@ -132,7 +132,7 @@ protected:
     QStringList const earlier{Path("GNUstep/Defaults/First.plist"), Path("GNUstep/Defaults/Second.plist")};
 };
 
-TEST_F(EarlierDefaults, AreTakenOverOnceAndLeftAsTheyAre)
+TEST_F(EarlierDefaults, AreCopiedOnceAndLeftUnchanged)
 {
     QByteArray const old = "{ SUSkippedVersion = 5.1; SUAutomaticallyUpdate = <*BY>; Others = 1; "
                            "PelnarAllowsInsecureFeeds = YES; PelnarFeedRecord = {}; }";
@@ -186,7 +186,7 @@ TEST_F(EarlierDefaults, BrokenOnesAreInTheLog)
     Write(earlier[0], "{");
     LogCapture log;
     EXPECT_TRUE(Save(Setting::FeedUrl, QStringLiteral("x"), earlier));
-    EXPECT_TRUE(HasWarning(log, "The settings of an earlier version are not taken over from " +
+    EXPECT_TRUE(HasWarning(log, "The settings of an earlier version could not be copied from " +
                                     earlier[0].toStdString() + ": it is not a property list"));
 }
 

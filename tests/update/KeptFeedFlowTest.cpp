@@ -204,7 +204,7 @@ TEST_F(KeptFeedFlow, FeedThatANewerEngineRefusesIsFetchedAgain)
     LogCapture log;
     EXPECT_EQ(Check().front(), "aborted 1000");
     ASSERT_EQ(log.Of(google::GLOG_WARNING).size(), 1u);
-    EXPECT_NE(log.Of(google::GLOG_WARNING).front().text.find("is refused and removed"), std::string::npos);
+    EXPECT_NE(log.Of(google::GLOG_WARNING).front().text.find("was refused and removed"), std::string::npos);
     EXPECT_EQ(feed.unchanged, 1);
     EXPECT_EQ(feed.wholes, 2);
     NewProcess();

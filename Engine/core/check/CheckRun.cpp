@@ -28,9 +28,9 @@ char const* NameOf(OfferVerdict verdict)
     case OfferVerdict::Skipped:
         return "skipped by the user";
     case OfferVerdict::Failed:
-        return "one that did not start well here";
+        return "rolled back here because it did not start well";
     case OfferVerdict::HeldBack:
-        return "held back, since its installation has failed";
+        return "held back because its installation failed";
     }
     return "Unknown OfferVerdict";
 }
@@ -107,7 +107,7 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
         if (outcome.isUnchanged)
         {
             // The server may have another feed with the same tag.
-            LOG(WARNING) << "The kept update feed is refused and removed, and the whole one is asked for: "
+            LOG(WARNING) << "The kept update feed was refused and removed; the whole feed is requested: "
                          << read.error().sentence.English().toStdString();
             m_settings.feedStore->Keep(std::nullopt);
             m_fetcher.release()->deleteLater(); // it is on the stack below this call
@@ -126,7 +126,7 @@ void CheckRun::TakeFeed(FetchOutcome const& outcome)
     }
 
     Result<std::optional<FoundUpdate>> found;
-    Result<void> const called = CallDelegate("the choice of an update",
+    Result<void> const called = CallDelegate("choosing an update",
                                              [this, &found]
                                              {
                                                  ApplyPolicy();
@@ -195,7 +195,7 @@ Result<void> CheckRun::ReadFeed(FetchOutcome const& outcome)
     {
         DropNearerLinks(item, m_feedReach);
     }
-    LOG_IF(INFO, outcome.isUnchanged) << "The server says that the update feed is the one that is kept here";
+    LOG_IF(INFO, outcome.isUnchanged) << "The update feed has not changed since it was last fetched";
     Remember(outcome.bytes, terms, now);
     KeepFeed(outcome);
     return {};
@@ -237,11 +237,10 @@ void CheckRun::Remember(QByteArray const& bytes, std::optional<FeedValidity> con
 {
     FeedRecord const record = AfterFeed(m_settings.feedRecord, m_settings.feedUrl, bytes, terms, now);
     int const days = UnchangedDays(record);
-    LOG_IF(WARNING, days >= STALE_FEED_DAYS)
-        << "The update feed has not changed for " << days
-        << " days: unless nothing was published, newer ones do not get through to this computer";
+    LOG_IF(WARNING, days >= STALE_FEED_DAYS) << "The update feed has not changed for " << days
+                                             << " days. If a newer one was published, it does not reach this computer";
     // A failure to store this must not prevent an update.
-    (void)CallDelegate("the storing of what is known of the feed", [&] { m_host.StoreFeedRecord(record); });
+    (void)CallDelegate("storing the feed's record", [&] { m_host.StoreFeedRecord(record); });
 }
 
 void CheckRun::ApplyPolicy()

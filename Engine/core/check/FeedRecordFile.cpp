@@ -126,14 +126,14 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
     UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenPrivateFolder(folderPath);
     if (!folder)
     {
-        LOG_IF(WARNING, !path.isEmpty()) << "What is known of the feed could not be saved in " << path.toStdString()
+        LOG_IF(WARNING, !path.isEmpty()) << "The record of the feed could not be saved in " << path.toStdString()
                                          << ": the folder cannot be used"; // why there is no path is told elsewhere
         return false;
     }
-    // Between reading and writing no other process of this user may write; a hanging process cannot block this one.
+    // No other process of this user may write between reading and writing. A hanging process cannot block this one.
     QLockFile lock(path + QStringLiteral(".lock"));
     LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
-        << "What is known of the feed is stored without the lock that keeps other processes from doing so";
+        << "The record of the feed is stored without its lock; another process may overwrite it";
     FeedRecord const stored = ReadFeedRecordFile(path).value_or(earlier);
     try
     {
@@ -142,7 +142,7 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
     }
     catch (UpdateRefusal const& refusal)
     {
-        LOG(WARNING) << "What is known of the feed could not be saved in " << path.toStdString() << ": "
+        LOG(WARNING) << "The record of the feed could not be saved in " << path.toStdString() << ": "
                      << MakeFaultError(refusal.Fault(), refusal.ErrorNumber()).detail.toStdString();
         return false;
     }

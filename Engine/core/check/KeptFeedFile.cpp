@@ -142,13 +142,14 @@ bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& 
     UniqueFd const descriptor = OpenFolder(folder);
     if (!descriptor)
     {
-        PLOG(WARNING) << "The feed is not kept for the next check, since the folder " << shownPath << " cannot be used";
+        PLOG(WARNING) << "The feed is not kept for the next check, because the folder " << shownPath
+                      << " cannot be used";
         return false;
     }
     QLockFile lock(folder.path + QLatin1Char('/') + QLatin1String(NAME) + QStringLiteral(".lock"));
     if (!lock.tryLock(LONGEST_WAIT_MS))
     {
-        LOG(WARNING) << "The feed is not kept for the next check, since it cannot be locked in " << shownPath;
+        LOG(WARNING) << "The feed is not kept for the next check, because it cannot be locked in " << shownPath;
         return false;
     }
     try

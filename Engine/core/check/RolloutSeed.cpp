@@ -44,7 +44,7 @@ QByteArray ReadOrDraw(int folder, QString const& path)
     {
         return seed;
     }
-    // Two processes must not draw one each and believe in their own.
+    // Otherwise two processes could draw different groups at the same time.
     QLockFile lock(path + QStringLiteral("/rollout-seed.lock"));
     (void)lock.tryLock(LONGEST_WAIT_MS);
     seed = Read(folder);
@@ -76,7 +76,7 @@ QByteArray RolloutSeed(QString const& folder)
         seed.clear();
     }
     LOG_IF(WARNING, seed.isEmpty()) << "The group for staged updates cannot be stored in " << folder.toStdString()
-                                    << "; they are taken with the last group";
+                                    << "; this installation counts as the last group";
     return seed;
 }
 

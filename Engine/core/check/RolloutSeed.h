@@ -1,5 +1,5 @@
-// RolloutSeed.h: the group of this installation in staged rollouts: drawn once for each line of versions, and known to
-// this computer only. A file of random bytes in the state folder decides it; nothing of it is sent.
+// RolloutSeed.h: the group of this installation in staged rollouts. It is drawn once for each line of versions. A file
+// of random bytes in the state folder determines it; it is never sent.
 #pragma once
 
 #include <QByteArray>
@@ -12,8 +12,8 @@ namespace Pelnar::Engine
 /// Empty, with a line in the log, if they cannot be stored.
 [[nodiscard]] QByteArray RolloutSeed(QString const& folder);
 
-/// The group, from 0, for an item of the version \a version. The versions of one line have the same group, and each
-/// line has a group of its own, so that nobody is always the first. Without a seed it is the last group.
+/// The group, from 0, for an item with the version \a version. All versions of one line have the same group. Each line
+/// has its own group, so that no person is always the first. Without a seed it is the last group.
 [[nodiscard]] int RolloutGroup(QByteArray const& seed, QString const& version);
 
 } // namespace Pelnar::Engine

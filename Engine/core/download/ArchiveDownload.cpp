@@ -288,7 +288,11 @@ private:
         }
         Result<FetchRequest> const next = JudgeRedirect(m_sent, answeredFrom, head.Values("location"), ++m_redirects,
                                                         m_request.insecureHttp, m_request.limits);
-        next ? Send(*next) : TakeFailure(next.error());
+        if (!next)
+        {
+            return TakeFailure(next.error());
+        }
+        Send(*next);
     }
 
     void TakeBodyEnd(HttpHead const& head)
@@ -342,7 +346,7 @@ private:
                                                                                                           : End(error);
             return;
         }
-        LOG(INFO) << "The download goes on after a pause: " << error.sentence.English().toStdString();
+        LOG(INFO) << "The download continues after a pause: " << error.sentence.English().toStdString();
         m_resumeTimer.start(m_request.limits.firstResumePause * (1 << m_resumes));
         ++m_resumes;
         m_sinceResume = 0;
@@ -360,7 +364,11 @@ private:
     {
         StopTimers();
         auto const done = [this, error] { Finish(Failure(error)); };
-        IsAboutTheArchive(error.cause) ? m_writer->Remove(Spent(), done) : m_writer->Close(Spent(), done);
+        if (IsAboutTheArchive(error.cause))
+        {
+            return m_writer->Remove(Spent(), done);
+        }
+        m_writer->Close(Spent(), done);
     }
 
     void StopTimers()

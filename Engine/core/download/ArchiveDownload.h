@@ -21,8 +21,8 @@ namespace Pelnar::Engine
 /// For whom an archive is downloaded.
 enum class DownloadFor
 {
-    Nobody, ///< it ends after a while, so that it blocks no check for longer; the next one continues it
-    Person, ///< who watches it, and may spend a second budget after the first one
+    Nobody, ///< an automatic download ends after a while, so that it does not block checks; the next one continues it
+    Person, ///< a person watches it, and may spend a second budget after the first
 };
 
 struct DownloadRequest

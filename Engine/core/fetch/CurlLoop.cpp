@@ -27,7 +27,7 @@ namespace
 /// Long enough for the second fetch of a check, short enough for every server.
 constexpr std::chrono::seconds IDLE_TIME{30};
 constexpr long MOST_IDLE_CONNECTIONS = 4;
-/// Bytes may be read for this long before the event loop has its turn again.
+/// Bytes may be read for this long before the event loop runs again.
 constexpr qint64 TURN_MS = 2;
 
 } // namespace
@@ -222,8 +222,8 @@ bool CurlLoop::HasUnreadBytes(CURL* transfer) const
 
 void CurlLoop::Drive(curl_socket_t socket, int events)
 {
-    // A call brings one record of a secure connection. While there are more, Qt's loop gets no turn between two of
-    // them.
+    // One call delivers one record of a secure connection. While more are available, Qt's loop does not run between two
+    // of them.
     QElapsedTimer clock;
     clock.start();
     do

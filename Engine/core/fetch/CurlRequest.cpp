@@ -12,7 +12,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Read in one pass before the event loop has its turn again.
+/// Bytes read in one pass before the event loop runs again.
 constexpr long PASS_BYTES = 256 * 1024;
 /// OpenSSL's level: keys and signatures of at least 112 bits of security.
 constexpr int LEAST_SECURITY_LEVEL = 2;

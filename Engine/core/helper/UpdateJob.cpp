@@ -15,7 +15,7 @@ constexpr std::uint64_t MAX_WAIT_SECONDS = 24 * 60 * 60;
 constexpr std::uint64_t MAX_CREATION_MASK = 0777;
 constexpr auto LAST_PAYLOAD_KIND = PayloadKind::Installer;
 
-/// The fields of each kind of job, after its number. What has no text of its own is given as one.
+/// The fields of each kind of job, after its number.
 template <class Codec>
 void Visit(Codec& codec, PrepareJob& job, std::vector<std::string>& publicKeys)
 {
@@ -82,7 +82,7 @@ void Read(FieldReader& reader, PrepareJob& job)
     job.publicKeys = TrustedKeys(keys);
 }
 
-/// True if what is said about the program to start and the record to keep is usable.
+/// True if the fields for the relaunch and for the record are usable.
 bool IsUsableAfterwards(InstallJob const& job, RawBytes const& record)
 {
     bool const isVariable = std::all_of(job.environment.begin(), job.environment.end(),

@@ -220,7 +220,14 @@ void HtmlWriter::AddText(MD_TEXTTYPE type, std::string_view text)
     switch (type)
     {
     case MD_TEXT_CODE:
-        m_isInTable ? AppendCellCode(text) : AppendEscaped(m_html, text);
+        if (m_isInTable)
+        {
+            AppendCellCode(text);
+        }
+        else
+        {
+            AppendEscaped(m_html, text);
+        }
         return;
     case MD_TEXT_NORMAL:
     case MD_TEXT_LATEXMATH:

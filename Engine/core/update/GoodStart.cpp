@@ -64,9 +64,9 @@ private:
 
     void Finish(HelperEnd end)
     {
-        LOG_IF(WARNING, end == HelperEnd::Crashed) << "The recovery of an update has crashed";
+        LOG_IF(WARNING, end == HelperEnd::Crashed) << "The recovery of an update crashed";
         LOG_IF(WARNING, m_outcome.action == RecoveryAction::RolledBack)
-            << "This version was started too often without a confirmation; the previous one is back in its place";
+            << "This version was started too often without a confirmation; the previous one was restored";
         deleteLater();
         auto const done = std::move(m_done);
         done(m_outcome); // may destroy this object's owner

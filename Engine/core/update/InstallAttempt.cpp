@@ -62,7 +62,7 @@ std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& 
     }
     catch (UpdateRefusal const& refusal)
     {
-        LOG(WARNING) << "What is known of the last installation cannot be read: " << refusal.what();
+        LOG(WARNING) << "The record of the last installation cannot be read: " << refusal.what();
         return std::nullopt;
     }
 }
@@ -115,7 +115,7 @@ void InstallAttempt::TakeBack()
     }
     catch (UpdateRefusal const& refusal)
     {
-        LOG(WARNING) << "The record of an installation that was called off stays: " << refusal.what();
+        LOG(WARNING) << "The record of a cancelled installation could not be removed: " << refusal.what();
     }
 }
 

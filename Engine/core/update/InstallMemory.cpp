@@ -128,7 +128,7 @@ void InstallMemory::Forget()
             }
             catch (UpdateRefusal const& refusal)
             {
-                LOG(WARNING) << "The record of an installation that is over stays: " << refusal.what();
+                LOG(WARNING) << "The record of a completed installation could not be removed: " << refusal.what();
             }
         });
 }

@@ -45,7 +45,7 @@ bool KeptArguments::Keep(std::vector<std::string> const& arguments)
 {
     if (char const* const fault = FaultOfRelaunchArguments(arguments))
     {
-        LOG(ERROR) << "The arguments for the next start are refused, since " << fault;
+        LOG(ERROR) << "The arguments for the next start are refused, because " << fault;
         return false;
     }
     m_arguments = arguments;

@@ -9,7 +9,7 @@ namespace Pelnar::Engine
 
 void NoWindows::ShowUpdate(UpdateOffer const&, CheckOrigin, std::function<void(UpdateChoice)> onChosen)
 {
-    LOG(INFO) << "An update was found, and this program has no windows to offer it in";
+    LOG(INFO) << "An update was found, but this program has no windows to offer it";
     QTimer::singleShot(0, &m_context, [onChosen] { onChosen(UpdateChoice::RemindMeLater); });
 }
 

@@ -32,7 +32,7 @@ PreparedUpdate::~PreparedUpdate()
 {
     // A folder that cannot be removed now is abandoned, and the next recovery removes it.
     bool const isGone = m_isOwnedByHelper || RemoveTree(m_parent.Get(), m_staging.Name());
-    LOG_IF(WARNING, !isGone) << "The prepared update could not be removed; it goes when the application starts again";
+    LOG_IF(WARNING, !isGone) << "The prepared update could not be removed; the next start removes it";
 }
 
 void PreparedUpdate::Describe(InstallJob& job) const

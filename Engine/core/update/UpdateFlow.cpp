@@ -136,7 +136,7 @@ void UpdateFlow::CheckEnded()
         m_kind == CheckKind::Background && m_settings.automaticDownload == AutomaticDownload::On;
     if (isSilentRequest && m_candidates.front().item.policy.isToBeAsked)
     {
-        // The application waits for a silent download, which does not come: what follows is the windows' affair.
+        // The application waits for a silent download that will not come; the windows continue from here.
         (void)CallDelegate("updater:didAbortWithError:",
                            [this] { m_host.TellAborted(MakeError(ErrorCause::Cancelled)); });
     }
@@ -202,7 +202,7 @@ void UpdateFlow::RememberOutcome()
     }
     if (state != m_settings.backOff)
     {
-        (void)CallDelegate("the storing of a failure", [this, &state] { m_host.StoreBackOff(state); });
+        (void)CallDelegate("storing a failure", [this, &state] { m_host.StoreBackOff(state); });
     }
 }
 

@@ -147,7 +147,7 @@ void UpdateRun::TakeChoice(UpdateChoice choice)
 
 void UpdateRun::Skip()
 {
-    if (NotifyHostOrFinish("the skipping of a version", [this] { m_host.SkipVersion(Current().item.versionString); }))
+    if (NotifyHostOrFinish("skipping a version", [this] { m_host.SkipVersion(Current().item.versionString); }))
     {
         Take(RunEvent::PutOff);
     }
@@ -233,8 +233,8 @@ void UpdateRun::FailCandidate(EngineError const& error)
 void UpdateRun::DownloadNext()
 {
     EngineError const error = *std::exchange(m_error, std::nullopt);
-    LOG(WARNING) << "The small update failed, and the whole one is fetched: " << error.sentence.English().toStdString()
-                 << " " << error.detail.toStdString();
+    LOG(WARNING) << "The delta failed; the whole update is fetched: " << error.sentence.English().toStdString() << " "
+                 << error.detail.toStdString();
     m_candidates.erase(m_candidates.begin());
     Download();
 }
@@ -272,7 +272,7 @@ void UpdateRun::InstallNow(RelaunchWish wish)
 {
     if (!TransitionAt(m_phase, RunEvent::InstallNow, m_mode))
     {
-        LOG(WARNING) << "The update is being installed already, or has ended; the installation at once is ignored";
+        LOG(WARNING) << "The update is already being installed or has ended; the immediate installation is ignored";
         return;
     }
     m_wish = wish;

@@ -1,5 +1,5 @@
 // UpdateRun.h: one update, from the offered item to the helper that installs it: ask, download, prepare, ask again,
-// hand over. PhaseRules.h says which step follows what; here the steps are carried out.
+// hand over. PhaseRules.h names the step for each event; this class carries the steps out.
 // Thread: the Qt main thread. Ownership: its maker owns it; host, windows and parts outlive it. Destroying it before
 // its end removes the prepared files and notifies nobody. A helper that already has the update continues.
 #pragma once
@@ -50,7 +50,7 @@ public:
 private:
     /// Goes to the next phase and does its step, which may destroy this object.
     void Take(RunEvent event);
-    /// The same; \a error is told if the update ends.
+    /// The same; \a error is reported if the update ends.
     void Fail(RunEvent event, EngineError error);
     void FailCandidate(EngineError const& error);
     void TakeTarget(OpenedTarget target);
@@ -64,7 +64,7 @@ private:
     void DropPrepared();
 
     UpdateCandidate const& Current() const { return m_candidates.front(); }
-    /// False if the update ended, since no helper could take it.
+    /// False if the update ended because no helper could take it.
     [[nodiscard]] bool HandOver(InstallJob job, InstallWish wish);
     NamedVersion NamedUpdate() const;
     bool HasWindows() const { return m_mode == UpdateMode::Windows; }

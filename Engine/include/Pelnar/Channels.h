@@ -21,7 +21,7 @@ namespace Pelnar
 {
 
 #ifdef __APPLE__
-// The framework of this system knows no channels.
+// The framework of this system has no channels.
 inline std::vector<std::string> Channels()
 {
     return {};

@@ -57,9 +57,9 @@ TEST_F(KeptArgumentsTest, RefusedOnesChangeNothingAndAreLogged)
     EXPECT_FALSE(kept.Keep({"a\0b"s}));
     EXPECT_FALSE(kept.Keep({std::string(64 << 10, 'x')}));
     EXPECT_EQ(ReadRelaunchArguments(file.Get()), Arguments{"good"});
-    std::string const begin = "The arguments for the next start are refused, since ";
+    std::string const begin = "The arguments for the next start are refused, because ";
     EXPECT_EQ(log.Texts(),
-              (std::vector<std::string>{begin + "they are more than 1024", begin + "one of them holds a NUL",
+              (std::vector<std::string>{begin + "there are more than 1024", begin + "one of them contains a NUL",
                                         begin + "they are longer than 64 KiB"}));
 }
 

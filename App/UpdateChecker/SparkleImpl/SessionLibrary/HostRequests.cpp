@@ -72,7 +72,7 @@ bool Pelnar::SetRelaunchArguments(std::vector<std::string> const& arguments)
     if (char const* const fault = Engine::FaultOfRelaunchArguments(arguments))
     {
         (void)Core::ReadyLog();
-        Core::Write(ARGUMENTS_REFUSED, std::string("The arguments for the next start are refused, since ") + fault);
+        Core::Write(ARGUMENTS_REFUSED, std::string("The arguments for the next start are refused, because ") + fault);
         return false;
     }
     SessionLibrary& library = SessionLibrary::Instance();

@@ -1,4 +1,4 @@
-// Bytes.h: a view of bytes, and bytes of one's own.
+// Bytes.h: types for bytes: a view and an owned buffer.
 #pragma once
 
 #include <array>

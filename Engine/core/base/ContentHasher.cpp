@@ -22,7 +22,7 @@ ContentHasher::ContentHasher(HashKind kind) : m_state(std::make_unique<State>())
         return;
     }
     auto& state = m_state->hash.emplace<crypto_generichash_blake2b_state>();
-    // The first call chooses the code for this processor: without it the hash is right, and half as fast.
+    // The first call selects the code for this processor. Without it the hash is correct, but takes twice as long.
     bool const isReady = sodium_init() >= 0;
     if (!isReady || crypto_generichash_blake2b_init(&state, nullptr, 0, ContentHash().size()) != 0)
     {
@@ -48,7 +48,7 @@ ContentHash ContentHasher::Finish()
     ContentHash hash{};
     if (auto* const sha = std::get_if<sha256_ctx>(&m_state->hash))
     {
-        sha256_digest(sha, hash.size(), hash.data()); // which also begins again
+        sha256_digest(sha, hash.size(), hash.data()); // also restarts the hash
         return hash;
     }
     auto& state = std::get<crypto_generichash_blake2b_state>(m_state->hash);

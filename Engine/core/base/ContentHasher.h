@@ -1,5 +1,4 @@
-// ContentHasher.h: the hash of bytes that come in pieces.
-// Thread: one at a time. Ownership: its own state.
+// ContentHasher.h: computes the hash of bytes that arrive in pieces. Thread: one at a time. Ownership: its own state.
 #pragma once
 
 #include "Engine/core/base/Bytes.h"
@@ -13,8 +12,8 @@ namespace Pelnar::Engine
 
 enum class HashKind
 {
-    Sha256,  ///< processors have instructions for it: more than twice as fast as the other
-    Blake2b, ///< with 32 bytes of output: of names on disks and of deltas in the separate format
+    Sha256,  ///< many processors have instructions for it, which make it more than twice as fast as BLAKE2b
+    Blake2b, ///< with 32 bytes of output; for names of files on disks and for deltas in the separate format
 };
 
 using ContentHash = std::array<std::uint8_t, 32>;
@@ -22,12 +21,12 @@ using ContentHash = std::array<std::uint8_t, 32>;
 class ContentHasher
 {
 public:
-    /// Throws std::bad_alloc when the library cannot make a state.
+    /// Throws std::bad_alloc if the library cannot allocate a state.
     explicit ContentHasher(HashKind kind = HashKind::Sha256);
     ~ContentHasher();
 
     void Add(Bytes bytes);
-    /// The hash of everything added since the beginning or the last call. REQUIRES: for BLAKE2b, the first call.
+    /// The hash of all bytes since the start or the last call. REQUIRES: for BLAKE2b, the first call.
     [[nodiscard]] ContentHash Finish();
 
 private:

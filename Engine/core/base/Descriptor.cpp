@@ -20,7 +20,7 @@ FileMapping::FileMapping(int fd, std::size_t size)
 {
     if (size == 0)
     {
-        // The system maps no empty range.
+        // The system does not map an empty range.
         m_isValid = true;
         return;
     }
@@ -52,7 +52,7 @@ bool WriteInParts(Bytes bytes, Write write)
         ssize_t const written = write(bytes);
         if (written == 0)
         {
-            errno = EIO; // a file that takes nothing and says nothing would be written to for ever
+            errno = EIO; // a file that accepts no byte and reports no error would cause an endless loop
         }
         if (written == 0 || (written < 0 && errno != EINTR))
         {

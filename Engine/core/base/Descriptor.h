@@ -1,4 +1,4 @@
-// Descriptor.h: open files: closed with their scope, mapped, read and written whole.
+// Descriptor.h: owns file descriptors, maps files, and reads and writes them completely.
 #pragma once
 
 #include "Engine/core/base/Bytes.h"
@@ -14,7 +14,7 @@
 namespace Pelnar::Engine
 {
 
-/// Closes a descriptor on every way out of a scope.
+/// Closes a descriptor at every exit from a scope.
 class UniqueFd
 {
 public:
@@ -35,7 +35,7 @@ private:
     int m_fd = -1;
 };
 
-/// A file's bytes, mapped to be read.
+/// A file that is mapped for reading.
 class FileMapping
 {
 public:
@@ -53,15 +53,16 @@ private:
     Bytes m_content;
 };
 
-/// False, with errno, when not every byte could be written.
+/// Returns false and sets errno if not every byte could be written.
 [[nodiscard]] bool WriteAll(int fd, Bytes bytes);
 /// The same, from \a offset on and without the descriptor's position.
 [[nodiscard]] bool WriteAllAt(int fd, std::uint64_t offset, Bytes bytes);
 
-/// Bytes of the file from \a offset on, fewer than \a size only where it ends; their number, or -1 with errno.
+/// Reads from \a offset on. Returns the number of bytes, which is less than \a size only at the end of the file, or -1
+/// with errno.
 [[nodiscard]] ssize_t ReadUpTo(int fd, std::uint64_t offset, void* target, std::size_t size);
 
-/// The first bytes of the file, at most \a maxBytes; empty, with errno, when they cannot be read.
+/// The first bytes of the file, at most \a maxBytes; empty, with errno set, if they cannot be read.
 [[nodiscard]] std::optional<std::string> ReadStart(int fd, std::size_t maxBytes);
 
 } // namespace Pelnar::Engine

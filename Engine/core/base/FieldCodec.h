@@ -63,7 +63,7 @@ private:
     std::string m_bytes;
 };
 
-/// Every read returns a value. IsWhole() tells once, at the end, whether all of them were present.
+/// Every read returns a value. IsWhole() tells at the end whether all of them were present.
 class FieldReader
 {
 public:

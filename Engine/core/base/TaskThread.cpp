@@ -21,7 +21,7 @@ TaskThread::~TaskThread()
 
 void TaskThread::Post(std::function<void()> task)
 {
-    if (!IsRunning())
+    if (!StartThread())
     {
         task();
         return;
@@ -40,7 +40,7 @@ std::size_t TaskThread::Waiting() const
     return m_tasks.size();
 }
 
-bool TaskThread::IsRunning()
+bool TaskThread::StartThread()
 {
     try
     {
@@ -88,7 +88,7 @@ void TaskThread::WaitFor(std::size_t most)
     std::unique_lock lock(m_mutex);
     if (m_tasks.size() > most)
     {
-        m_wanted = most / 2; // waking a thread costs as much as a small task: it wakes for several
+        m_wanted = most / 2; // waking a thread takes as long as a small task, so several tasks share one wake-up
         m_done.wait(lock, [this] { return m_failure || m_tasks.size() <= m_wanted; });
     }
     if (m_failure)

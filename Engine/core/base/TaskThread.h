@@ -1,5 +1,5 @@
-// TaskThread.h: does tasks one after the other in a thread of its own, while the caller prepares the next.
-// Thread: one at a time uses it. Ownership: its thread, which ends with the object.
+// TaskThread.h: runs tasks one after the other in its own thread, while the caller prepares the next. Thread: one at a
+// time. Ownership: its thread, which ends with the object.
 #pragma once
 
 #include <condition_variable>
@@ -16,22 +16,22 @@ class TaskThread
 {
 public:
     explicit TaskThread(std::size_t mostWaiting) : m_mostWaiting(mostWaiting) {}
-    /// Waits for the task at hand. Tasks that have not begun are dropped.
+    /// Waits for the running task. Tasks that have not begun are dropped.
     ~TaskThread();
     TaskThread(TaskThread const&) = delete;
     TaskThread& operator=(TaskThread const&) = delete;
 
-    /// Does \a task after all others; in the caller's thread if the system has no other. Returns once at most
-    /// mostWaiting tasks are left, \a task and the one at hand included. Throws what a task has thrown; no task begins
-    /// after that one.
+    /// Runs \a task after all others; in the caller's thread if the system has no other. Returns when at most
+    /// mostWaiting tasks remain, including \a task and the running one. Throws the exception of a task; no later task
+    /// runs.
     void Post(std::function<void()> task);
     /// The number of tasks that are not done.
     std::size_t Waiting() const;
-    /// Waits until all tasks are done. Throws what a task has thrown.
+    /// Waits until all tasks are done. Throws the exception of a task.
     void Finish() { WaitFor(0); }
 
 private:
-    bool IsRunning();
+    bool StartThread();
     void Work();
     void WaitFor(std::size_t most);
 
@@ -39,11 +39,11 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_posted;
     std::condition_variable m_done;
-    std::deque<std::function<void()>> m_tasks; ///< the first is at hand
+    std::deque<std::function<void()>> m_tasks; ///< the first is running
     std::size_t m_wanted = 0;                  ///< the number of tasks that the caller waits for
     std::exception_ptr m_failure;
     bool m_isEnding = false;
-    std::thread m_thread; ///< from the first task on
+    std::thread m_thread; ///< set with the first task
 };
 
 } // namespace Pelnar::Engine

@@ -15,9 +15,9 @@ namespace
 
 constexpr mode_t PLAIN_MODE = 0644;
 constexpr mode_t EXECUTABLE_MODE = 0755;
-constexpr int MAX_ATTEMPTS = 16; ///< while others move folders about
+constexpr int MAX_ATTEMPTS = 16; ///< if other processes move folders meanwhile
 
-/// Opens the path name by name, for a system that does not let one ask for all at once.
+/// Opens the path name by name, for a system without openat2.
 UniqueFd OpenNameByName(int folderFd, std::string const& path, int flags, unsigned mode)
 {
     UniqueFd folder(openat(folderFd, ".", O_PATH | O_DIRECTORY | O_CLOEXEC));
@@ -29,7 +29,7 @@ UniqueFd OpenNameByName(int folderFd, std::string const& path, int flags, unsign
         bool const isPlain = !name.empty() && name != ".." && (name != "." || path == ".");
         if (!isPlain)
         {
-            errno = EXDEV; // as the kernel says of what leaves the folder
+            errno = EXDEV; // as the kernel's error for a path that leaves the folder
             return {};
         }
         int const stepFlags = isLast ? flags : O_PATH | O_DIRECTORY;
@@ -59,7 +59,7 @@ UniqueFd TreeAccess::OpenBeneath(std::string const& path, int flags, unsigned mo
         {
             return file;
         }
-        if (errno == ENOSYS || errno == EPERM) // an old kernel, or a filter of system calls that is older than the call
+        if (errno == ENOSYS || errno == EPERM) // an old kernel, or a system call filter that is older than the call
         {
             break;
         }
@@ -76,7 +76,7 @@ UniqueFd TreeAccess::OpenParent(std::string const& path, std::string& name) cons
 
 UniqueFd TreeAccess::OpenFile(std::string const& path) const
 {
-    // A FIFO in the file's place must not hold the process up.
+    // A FIFO in the file's place must not block the process.
     return OpenBeneath(path, O_RDONLY | O_NONBLOCK, 0);
 }
 

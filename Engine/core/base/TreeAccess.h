@@ -1,5 +1,5 @@
-// TreeAccess.h: files, folders and links below one open folder, never outside it, no matter which links stand there.
-// Thread: one at a time. Ownership: the folder's descriptor stays the caller's.
+// TreeAccess.h: opens and creates files, folders and links below one open folder. It never leaves that folder, whatever
+// links are in it. Thread: one at a time. Ownership: the caller keeps the folder's descriptor.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -9,15 +9,15 @@
 namespace Pelnar::Engine
 {
 
-/// Every failure leaves errno set. Paths are relative, with "/" between components.
+/// Every failure sets errno. Paths are relative, with "/" between components.
 class TreeAccess
 {
 public:
     explicit TreeAccess(int folderFd) : m_folderFd(folderFd) {}
 
-    /// An existing file, to be read; a link as any component is refused.
+    /// Opens an existing file for reading. A link as any component is refused.
     UniqueFd OpenFile(std::string const& path) const;
-    /// A new file, to be written and read, with mode 0755 when \a isExecutable, else 0644, no matter what the umask is.
+    /// Creates a file for writing and reading, with mode 0755 if \a isExecutable, else 0644. The umask has no effect.
     UniqueFd MakeFile(std::string const& path, bool isExecutable);
     [[nodiscard]] bool MakeFolder(std::string const& path);
     [[nodiscard]] bool MakeLink(std::string const& path, std::string const& target);

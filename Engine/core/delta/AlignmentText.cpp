@@ -11,7 +11,7 @@ namespace
 
 constexpr std::size_t LABEL_SAMPLE_BYTES = 16;
 
-/// A few bits for the bytes at \a offset.
+/// A few bits that represent the bytes at \a offset.
 std::uint64_t LabelAt(ByteBuffer const& bytes, std::uint64_t offset)
 {
     std::uint64_t label = 0xCBF29CE484222325;
@@ -23,7 +23,7 @@ std::uint64_t LabelAt(ByteBuffer const& bytes, std::uint64_t offset)
     return label ^ label >> 29;
 }
 
-/// The field with nothing in it but \a label, as far as it has room.
+/// The field with only \a label, as far as it fits.
 void StoreLabel(AddressField const& field, std::uint64_t label, std::uint8_t* bytes)
 {
     std::uint64_t const few = label & 0xFFFFFF;
@@ -44,7 +44,7 @@ ByteBuffer AlignmentTextOf(Bytes program, ImageLayout const& layout)
     {
         StoreLabel(field, 0, text.data() + field.position);
     }
-    // What the fields lead to is sampled without the fields there, which say where things are.
+    // Targets are sampled with their own fields blanked, because fields depend on addresses.
     ByteBuffer const plain = text;
     for (scanner.Start(0, program.size()); scanner.Next(field);)
     {

@@ -1,5 +1,5 @@
-// AlignmentText.h: a program's bytes as they are compared with another version's: what a field says of a place is
-// replaced by what stands at that place, so that code which only moved looks the same.
+// AlignmentText.h: the bytes of a program in the form in which versions are compared. Each address field is replaced by
+// a label of the bytes at its target. So code that only moved looks the same.
 #pragma once
 
 #include "Engine/core/delta/ImageLayout.h"

@@ -84,7 +84,7 @@ DeltaOutcome BundleFiles::Keep(DeltaEntry const& entry, ContentHasher& hasher)
     {
         return outcome;
     }
-    // A clone shares the blocks and costs no copy; file systems without it answer at once.
+    // A clone shares the blocks and copies no data. File systems without clones fail at once.
     bool const isCloned = ioctl(target.Get(), FICLONE, source.Get()) == 0;
     return isCloned ? Hash(target.Get(), entry.size, hasher) : Copy(source.Get(), target.Get(), entry.size, hasher);
 }
@@ -96,7 +96,7 @@ DeltaOutcome BundleFiles::Hash(int fd, std::uint64_t size, ContentHasher& hasher
 
 DeltaOutcome BundleFiles::Copy(int source, int target, std::uint64_t size, ContentHasher& hasher)
 {
-    // A file that grows while it is read must not be read forever.
+    // The limit ends the loop even if the file grows while it is read.
     for (std::uint64_t offset = 0; offset <= size;)
     {
         ssize_t const got = pread(source, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));

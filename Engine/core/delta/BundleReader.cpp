@@ -32,7 +32,7 @@ std::vector<std::string> PathsBelow(fs::path const& folder)
     return paths;
 }
 
-/// The old file with the same content, the one in the same place first.
+/// The old file with the same content; the one with the same path has priority.
 void KeepOldFile(DeltaEntry& entry, OldVersion const& old)
 {
     auto const same = old.files.find(entry.path);

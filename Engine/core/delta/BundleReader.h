@@ -1,6 +1,5 @@
-// BundleReader.h: a version of a bundle as the maker of a delta reads it.
-// Thread: any; no shared state. Ownership: an opened file owns its mapping. A publisher's work: it reads trees that the
-// publisher trusts.
+// BundleReader.h: reads a version of a bundle for the maker of a delta. It runs only on the publisher's computer and
+// trusts the trees. Thread: any; no shared state. Ownership: an opened file owns its mapping.
 #pragma once
 
 #include "Engine/core/base/ContentHasher.h"
@@ -20,7 +19,7 @@ namespace Pelnar::Engine
 class OpenedFile
 {
 public:
-    /// Throws std::filesystem::filesystem_error for a file that cannot be read.
+    /// Throws std::filesystem::filesystem_error if the file cannot be read.
     explicit OpenedFile(std::filesystem::path const& path);
     Bytes Content() const { return m_mapping->Content(); }
 
@@ -38,14 +37,14 @@ struct OldVersion
 {
     std::filesystem::path folder;
     std::map<std::string, OldFile> files;
-    std::map<ContentHash, std::string> pathsByHash; ///< the first path of each content
+    std::map<ContentHash, std::string> pathsByHash; ///< the first path with each content
 };
 
 /// Reads every plain file. Throws std::filesystem::filesystem_error.
 [[nodiscard]] OldVersion ReadOldVersion(std::filesystem::path const& folder);
 
-/// Every folder, link and file of the new version, in the order of their paths: kept ones with their source, all other
-/// files as whole. Throws std::filesystem::filesystem_error, also for any other kind of entry.
+/// Every folder, link and file of the new version, in the order of their paths. Kept files have their source; all other
+/// files are whole. Throws std::filesystem::filesystem_error, also for any other kind of entry.
 [[nodiscard]] std::vector<DeltaEntry> ReadNewVersion(std::filesystem::path const& folder, OldVersion const& old);
 
 } // namespace Pelnar::Engine

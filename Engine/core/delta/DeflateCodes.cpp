@@ -13,7 +13,7 @@ constexpr std::size_t LENGTH_SYMBOLS = 286;
 constexpr std::size_t DISTANCE_SYMBOLS = 30;
 constexpr std::uint16_t LONGEST_REPETITION = 258;
 
-/// The numbers of one symbol: the least of them, and how many bits follow the symbol's code.
+/// The range of numbers of one symbol: the smallest number, and the count of extra bits after the symbol's code.
 struct Range
 {
     std::uint16_t base;
@@ -50,7 +50,8 @@ constexpr std::array<Range, DISTANCE_SYMBOLS> MakeDistances()
 constexpr std::array<Range, 29> LENGTHS = MakeLengths();
 constexpr std::array<Range, DISTANCE_SYMBOLS> DISTANCES = MakeDistances();
 
-/// A range for each number of two bits, and from the second pair on half of the numbers of one bit more each.
+/// The range of a number, counted from the smallest one. Each of the first 2 * SHARES numbers is a range. After these,
+/// each interval between powers of two is divided into SHARES ranges.
 template <unsigned SharesBits>
 constexpr std::uint32_t SymbolOf(std::uint32_t offset)
 {
@@ -153,7 +154,7 @@ void DeflateCode::MakeTable()
     }
 }
 
-/// The codes of one length are numbers in ascending order, and follow those of the lengths before.
+/// The codes of one length are consecutive numbers, and follow those of shorter lengths.
 std::uint32_t DeflateCode::ReadLong(BitReader& bits) const
 {
     std::uint32_t code = 0;

@@ -1,5 +1,5 @@
-// DeflateCodes.h: the bits of deflated data: read token by token, and written with the codes of given blocks.
-// Thread: one at a time. Ownership: refers to the bytes that are read, which outlive it. Any bytes are safe.
+// DeflateCodes.h: reads deflated data token by token, and writes tokens with the codes of given blocks. Thread: one at
+// a time. Ownership: refers to the input bytes, which outlive it. Any bytes are safe.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -12,7 +12,7 @@
 namespace Pelnar::Engine
 {
 
-/// Takes bits, the lowest of each byte first. Behind the end there are zeros.
+/// Reads bits, the lowest of each byte first. After the end it reads zeros.
 class BitReader
 {
 public:
@@ -36,7 +36,7 @@ public:
         }
         RefillAtEnd();
     }
-    /// The next 16 bits at least; the ones behind them have no meaning. REQUIRES: they are ready.
+    /// At least the next 16 bits; higher bits have no meaning. REQUIRES: they are ready.
     std::uint32_t Peek() const { return static_cast<std::uint32_t>(m_bits); }
     /// REQUIRES: the bits are ready.
     void Skip(std::size_t count)
@@ -64,22 +64,22 @@ private:
     void RefillAtEnd();
 
     Bytes m_bytes;
-    std::size_t m_next;       ///< the first byte that is not in m_bits; past the end if there are zeros in it
-    std::uint64_t m_bits = 0; ///< the next bits. Above the ready ones are bits of the byte at m_next, or zeros
+    std::size_t m_next;       ///< the first byte that is not in m_bits; past the end if m_bits contains padding zeros
+    std::uint64_t m_bits = 0; ///< the next bits. Above the ready bits are bits of the byte at m_next, or zeros
     unsigned m_count = 0;     ///< of the ready bits
 };
 
-/// Bits with their number, ready to be written.
+/// Bits and their count, for writing.
 struct CodedBits
 {
     std::uint32_t bits = 0;
-    std::uint32_t count = 0; ///< 0 for something that has no code
+    std::uint32_t count = 0; ///< 0 for a symbol without a code
 };
 
 class BitWriter
 {
 public:
-    /// At most 28 bits. Those of \a bits above \a count are 0.
+    /// At most 28 bits. The bits of \a bits above \a count are 0.
     void Put(std::uint32_t bits, unsigned count)
     {
         m_bits |= std::uint64_t(bits) << m_count;
@@ -92,9 +92,9 @@ public:
     void Put(CodedBits coded) { Put(coded.bits, coded.count); }
     /// Fills the last byte with zeros and adds \a bytes.
     void Append(Bytes bytes);
-    /// Bytes that are written, but for the last few.
+    /// The bytes so far, without the last few.
     std::size_t Size() const { return m_size; }
-    /// Fills the last byte with zeros and gives all bytes away.
+    /// Fills the last byte with zeros and returns all bytes.
     ByteBuffer Take();
 
 private:
@@ -112,24 +112,24 @@ private:
     }
 
     ByteBuffer m_bytes;
-    std::size_t m_size = 0; ///< of m_bytes that are written
+    std::size_t m_size = 0; ///< the written part of m_bytes
     std::uint64_t m_bits = 0;
     unsigned m_count = 0; ///< of the bits in m_bits; at most 31 between calls
 };
 
 constexpr unsigned MAX_CODE_BITS = 15;
 
-/// A Huffman code, made from the lengths of its symbols' codes.
+/// A Huffman code, defined by the lengths of its symbols' codes.
 class DeflateCode
 {
 public:
     static constexpr std::size_t MAX_SYMBOLS = 288;
 
-    /// False if the lengths make no code.
+    /// False if the lengths do not form a code.
     [[nodiscard]] bool Build(std::uint8_t const* lengths, std::size_t count);
     /// REQUIRES: before the first Read after Build.
     void MakeTable();
-    /// Answers a symbol and skips its bits; MAX_SYMBOLS if no symbol has the next bits. REQUIRES: MAX_CODE_BITS are
+    /// Returns a symbol and skips its bits; MAX_SYMBOLS if the next bits are no symbol's. REQUIRES: MAX_CODE_BITS are
     /// ready.
     std::uint32_t Read(BitReader& bits) const
     {
@@ -149,8 +149,8 @@ private:
     std::array<std::uint16_t, MAX_CODE_BITS + 1> m_counts{}; ///< symbols of each length
     std::array<std::uint16_t, MAX_SYMBOLS> m_sorted{};       ///< symbols in the order of their codes
     std::array<std::uint16_t, std::size_t(1) << TABLE_BITS>
-        m_table; ///< by the next bits: 16 times the symbol, and the
-                 ///< bits of its code; 0 for none and for longer ones
+        m_table; ///< indexed by the next bits: 16 times the symbol, plus the number of its bits; 0 for no symbol or a
+                 ///< longer code
 };
 
 enum class BlockKind : std::uint8_t
@@ -160,11 +160,11 @@ enum class BlockKind : std::uint8_t
     Dynamic = 2,
 };
 
-/// A byte as it is, or a piece of the text before.
+/// A literal byte, or a copy of earlier text.
 struct DeflateToken
 {
-    std::uint16_t length = 0; ///< 0 for a byte
-    std::uint16_t value = 0;  ///< the byte, or the distance
+    std::uint16_t length = 0; ///< 0 for a literal
+    std::uint16_t value = 0;  ///< the literal byte, or the distance
 };
 
 /// The two codes of a block.
@@ -176,11 +176,11 @@ public:
     [[nodiscard]] bool ReadDynamic(BitReader& bits);
     /// REQUIRES: before the first Read after the codes have changed.
     void StartReading();
-    /// The next token, or \a isEnd at the end of the block. False for damaged bits.
+    /// Reads the next token, or sets \a isEnd at the end of the block. Returns false for damaged data.
     [[nodiscard]] bool Read(BitReader& bits, DeflateToken& token, bool& isEnd) const;
     /// REQUIRES: before the first Write after the codes have changed.
     void StartWriting();
-    /// False for a token that has no code.
+    /// Returns false for a token without a code.
     [[nodiscard]] bool Write(BitWriter& bits, DeflateToken token) const;
     [[nodiscard]] bool WriteEnd(BitWriter& bits) const;
 
@@ -189,7 +189,7 @@ private:
 
     DeflateCode m_lengths;
     DeflateCode m_distances;
-    std::array<CodedBits, MAX_LENGTH + 1> m_codedLengths; ///< with the bits behind the code
+    std::array<CodedBits, MAX_LENGTH + 1> m_codedLengths; ///< including the extra bits
 };
 
 } // namespace Pelnar::Engine

@@ -12,8 +12,8 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// In the joined format only the old version tells the sizes of kept files. With them the tree is judged once more,
-/// before anything of it is made.
+/// In the joined format, only the old version has the sizes of kept files. With these sizes the tree is judged again
+/// before anything is made.
 DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaManifest& manifest)
 {
     if (manifest.format != DeltaFormat::Joined)
@@ -37,7 +37,7 @@ DeltaOutcome FindKeptSizes(int oldBundleFd, DeltaLimits const& limits, DeltaMani
     return OutcomeOf(CheckDeltaManifest(manifest, limits));
 }
 
-/// By the hashes of what was written.
+/// From the hashes of the written files.
 ContentHash DigestOf(std::vector<DeltaEntry> const& entries)
 {
     TreeManifest tree;
@@ -94,7 +94,7 @@ DeltaOutcome ApplyDelta(int containerFd, int oldBundleFd, int stagingFd, DeltaLi
         isJoined ? ApplyJoinedDelta(work, manifest, entryDone) : ApplySeparateDelta(work, manifest, entryDone);
     if (outcome.HasSucceeded())
     {
-        // The separate format's hashes are of another kind.
+        // The separate format has another kind of hash.
         digest = isJoined ? DigestOf(manifest.entries) : DigestTree(stagingFd);
     }
     return outcome;

@@ -31,9 +31,9 @@ int LevelOf(DeltaEffort effort)
     return 0;
 }
 
-/// One more than the properties of LZMA: 3, 0 and 4 bits of the byte before; nothing of the position.
+/// One more than the properties of LZMA: 3, 0 and 4 bits of the previous byte; none of the position.
 constexpr std::uint8_t PACKINGS[] = {4, 1, 5};
-/// Larger streams are packed in one way: each costs a second for two megabytes.
+/// Larger streams are packed in one way only, because each way takes a second for two megabytes.
 constexpr std::size_t MOST_BYTES_TO_TRY = 4u << 20;
 
 /// zstd first.
@@ -46,7 +46,7 @@ std::vector<std::uint8_t> PackingsFor(std::size_t bytes, DeltaEffort effort)
     return packings;
 }
 
-/// The smallest. For usual effort LZMA's must save a tenth.
+/// The smallest. With usual effort, LZMA must save a tenth.
 PackedStream BestOf(std::vector<PackedStream> const& answers, DeltaEffort effort)
 {
     PackedStream const* best = &answers.front();
@@ -102,14 +102,14 @@ ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog)
     lzma_options_lzma options{};
     std::uint8_t const properties = static_cast<std::uint8_t>(packing - 1);
     lzma_lzma_preset(&options, 9 | LZMA_PRESET_EXTREME);
-    // No larger than the bytes: the encoder's tables grow with it.
+    // No larger than the data, because the encoder's tables grow with it.
     options.dict_size = std::clamp(std::uint32_t(std::min<std::size_t>(bytes.size(), UINT32_MAX)),
                                    std::uint32_t(LZMA_DICT_SIZE_MIN), std::uint32_t(1) << windowLog);
     options.lc = properties % 9;
     options.lp = properties / 9 % 5;
     options.pb = properties / 45;
     lzma_filter const filters[] = {{LZMA_FILTER_LZMA1, &options}, {LZMA_VLI_UNKNOWN, nullptr}};
-    // What cannot be compressed grows by less than this.
+    // Data that cannot be compressed grows by less than this.
     ByteBuffer packed(bytes.size() + bytes.size() / 8 + 1024);
     std::size_t size = 0;
     if (lzma_raw_buffer_encode(filters, nullptr, bytes.data(), bytes.size(), packed.data(), &size, packed.size()) !=
@@ -133,7 +133,7 @@ std::array<PackedStream, PATCH_STREAMS> PackStreams(BinaryPatch const& patch, De
             answers[i].push_back({packing, {}});
         }
     }
-    // The longest work starts first: that of the largest stream, and of that LZMA's.
+    // The longest work starts first: the largest stream, and for it LZMA.
     std::sort(tasks.begin(), tasks.end(),
               [&patch](auto const& a, auto const& b)
               {

@@ -1,5 +1,4 @@
-// DeltaContainerWriter.h: packs what a delta container holds.
-// Throws std::bad_alloc.
+// DeltaContainerWriter.h: packs the parts of a delta container. Throws std::bad_alloc.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainer.h"
@@ -7,22 +6,22 @@
 namespace Pelnar::Engine
 {
 
-/// The header and the compressed manifest that open a container of the joined format.
+/// The header and the compressed manifest at the start of a container in the joined format.
 [[nodiscard]] ByteBuffer EncodeDeltaOpening(DeltaManifest const& manifest);
 
-/// How long packing may take, and unpacking.
+/// The effort of packing, which also affects the time to unpack.
 enum class DeltaEffort
 {
     Low,   ///< zstd at a low level; packed texts stay packed
-    Usual, ///< zstd at a high level, or LZMA where that saves a tenth: it takes several times as long to unpack
-    High,  ///< zstd at its highest level and LZMA in several ways: the smallest counts
+    Usual, ///< zstd at a high level, or LZMA if that saves a tenth, because it takes several times as long to unpack
+    High,  ///< zstd at its highest level and several settings of LZMA: the smallest counts
 };
 
-/// zstd's answer; nothing for nothing.
+/// zstd's output; empty for empty input.
 [[nodiscard]] ByteBuffer CompressForDelta(Bytes bytes, int windowLog = DELTA_WINDOW_LOG,
                                           DeltaEffort effort = DeltaEffort::Usual);
 
-/// LZMA's answer for one less than \a packing as its properties; nothing for nothing.
+/// LZMA's output with the properties \a packing minus one; empty for empty input.
 [[nodiscard]] ByteBuffer PackByLzma(Bytes bytes, std::uint8_t packing, int windowLog);
 
 struct PackedStream
@@ -31,7 +30,7 @@ struct PackedStream
     ByteBuffer bytes;
 };
 
-/// The best answer for \a effort of each stream, with all processors.
+/// The best output for each stream with this \a effort. Uses all processors.
 [[nodiscard]] std::array<PackedStream, PATCH_STREAMS> PackStreams(BinaryPatch const& patch, DeltaEffort effort);
 
 } // namespace Pelnar::Engine

@@ -24,7 +24,7 @@ namespace
 
 namespace fs = std::filesystem;
 
-/// How many bytes of the old text differ from the new ones that the steps make of them.
+/// The number of old bytes that differ from the new bytes that the steps make of them.
 std::uint64_t CountChangedBytes(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes)
 {
     std::uint64_t changed = 0;
@@ -98,7 +98,8 @@ private:
         return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
     }
 
-    /// The numbers of the units whose addresses make the difference larger. Makes the recipes of packed texts faster.
+    /// The numbers of the units whose addresses make the difference larger. Also makes the recipes of packed texts
+    /// faster.
     std::vector<std::size_t> ProgramsWithoutAddresses(std::vector<DeltaUnit> const& units,
                                                       std::vector<UnitSteps> const& steps)
     {
@@ -131,7 +132,7 @@ private:
         recipe = FasterRecipe(recipe, newFile.Content(), View(newText), base);
     }
 
-    /// Searches the units \a numbers a second time, as if they were no programs.
+    /// Searches the units \a numbers again, and treats them as ordinary files.
     void SearchPlainly(std::vector<DeltaUnit>& units, std::vector<UnitSteps>& steps,
                        std::vector<std::size_t> const& numbers) const
     {
@@ -160,7 +161,7 @@ private:
         }
     }
 
-    /// Files that use no old bytes go to \a whole.
+    /// Files that use no old bytes are added to \a whole.
     void AddUnit(DeltaUnit unit, UnitSteps const& steps, DeltaUnit& whole)
     {
         std::vector<std::uint32_t> const targets = std::exchange(unit.targets, {});

@@ -1,5 +1,5 @@
-// DeltaMaker.h: compares two versions of a bundle and writes the delta from the first to the second.
-// A publisher's work: it reads trees that the publisher trusts.
+// DeltaMaker.h: compares two versions of a bundle and writes the delta from the first to the second. It runs only on
+// the publisher's computer and trusts the trees.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainerWriter.h"
@@ -20,7 +20,7 @@ struct DeltaReport
     std::uint64_t containerBytes = 0;
 };
 
-/// Told in the calling thread after each piece of the work: pieces done, and in all.
+/// Called in the calling thread after each piece of the work: pieces done, and in total.
 using DeltaMakerProgress = std::function<void(std::uint64_t donePieces, std::uint64_t totalPieces)>;
 
 /// Writes the delta from the folder \a oldBundle to the folder \a newBundle into the file open at \a containerFd, which

@@ -13,7 +13,7 @@ namespace
 {
 
 constexpr std::uint8_t EXECUTABLE_FLAG = 1;
-/// Stands for the bundle's folder, which has another name on every computer: the shortest that a bundle can have.
+/// Replaces the bundle's folder name, which differs from computer to computer. It is the shortest possible name.
 constexpr char ROOT[] = "x.app";
 
 using namespace ManifestBytes;
@@ -77,7 +77,7 @@ bool HasSource(DeltaEntry const& entry, DeltaFormat format)
            (entry.kind == DeltaEntryKind::Patched && format == DeltaFormat::Separate);
 }
 
-/// True when sizes that are added up later come nowhere near the end of their type.
+/// True if sums of such sizes cannot overflow.
 bool AreStoredSizesSane(DeltaEntry const& entry, std::uint64_t maxBytes)
 {
     auto const isSane = [maxBytes](std::uint64_t size) { return size <= maxBytes; };
@@ -101,7 +101,7 @@ ArchiveEntryType TypeOf(DeltaEntryKind kind)
     return ArchiveEntryType::Other;
 }
 
-/// Judges \a entry as an archive's, below ROOT.
+/// Judges \a entry by the rules for archives, below ROOT.
 UpdateFault Admit(ArchiveEntryRules& policy, DeltaEntry const& entry)
 {
     ArchiveEntry admitted;
@@ -110,7 +110,7 @@ UpdateFault Admit(ArchiveEntryRules& policy, DeltaEntry const& entry)
     admitted.linkTarget = entry.linkTarget;
     admitted.size = entry.size;
     EntryAdmission const admission = policy.Admit(admitted);
-    // An archive may write a path in several ways, a delta in one: it is used as it is.
+    // An archive may write a path in several ways, a delta only in one, because the path is used unchanged.
     bool const isPlain = admission.fault != UpdateFault::None || admission.path == admitted.path;
     return isPlain ? admission.fault : UpdateFault::EntryNameInvalid;
 }
@@ -178,7 +178,7 @@ DeltaManifestVerdict CheckDeltaManifest(DeltaManifest const& manifest, DeltaLimi
         {
             return {DeltaManifestError::TooManyBytes, UpdateFault::None, entry.path};
         }
-        // Folders are entries, so that nothing is ever made below a link or a file.
+        // Folders are entries, so nothing is ever created below a link or a file.
         if ((previous && *previous >= entry.path) || folders.count(ParentOf(entry.path)) == 0)
         {
             return {DeltaManifestError::NotInOrder, UpdateFault::None, entry.path};

@@ -16,10 +16,10 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Texts that wait for their packing have at most as many bytes.
+/// The limit of bytes in texts that wait to be packed.
 constexpr std::size_t MAX_PACKING_BYTES = std::size_t{4} << 20;
 
-/// The container's streams, open from the beginning to the end of the work.
+/// The container's streams, open during the whole work.
 std::vector<DeltaStream> OpenStreams(DeltaWork const& work, DeltaManifest const& manifest)
 {
     std::vector<DeltaStream> streams;
@@ -62,7 +62,7 @@ public:
             m_kept.Report(m_done);
         }
         outcome = outcome.HasSucceeded() ? WriteAllPacked() : outcome;
-        // A file that could not be written is why the work has ended.
+        // A file that could not be written ended the work.
         DeltaOutcome const written = m_writer.Finish();
         outcome = written.HasSucceeded() ? outcome : written;
         outcome = outcome.HasSucceeded() ? m_kept.Finish(m_done) : outcome;
@@ -78,7 +78,7 @@ public:
     }
 
 private:
-    /// Folders come before their content, so nothing is ever made below a link or a file.
+    /// Folders come before their content, so nothing is ever created below a link or a file.
     DeltaOutcome MakeFoldersAndLinks()
     {
         for (DeltaEntry const& entry : m_manifest.entries)
@@ -246,7 +246,7 @@ private:
         {
             m_packing.Post(std::move(file));
         }
-        // A large text has the memory for itself.
+        // A large text is packed alone, to limit the memory.
         bool const isLarge = m_packing.Bytes() > MAX_PACKING_BYTES;
         return outcome.HasSucceeded() && isLarge ? WriteAllPacked() : outcome;
     }
@@ -277,7 +277,7 @@ private:
         return {};
     }
 
-    /// Why the new files have another hash: the old ones have, too, or it is the delta's own fault.
+    /// The reason for a wrong hash of the new files: the old files are wrong too, or the delta is.
     DeltaOutcome Culprit()
     {
         ContentHasher hashes;
@@ -314,7 +314,7 @@ private:
     KeptFiles m_kept;
     PackingThread m_packing;
     ByteSink const m_sink = [this](Bytes piece) { return m_writer.Add(piece); };
-    PieceWriter m_writer; ///< last, as it may still read what the others hold
+    PieceWriter m_writer; ///< last, because it may still read the others' data
 };
 
 } // namespace
@@ -335,7 +335,7 @@ std::vector<ImageSpan> ChangedSpans(ImageLayout const& layout, std::vector<SpanC
 
 DeltaOutcome ApplyJoinedDelta(DeltaWork const& work, DeltaManifest& manifest, EntryDone const& done)
 {
-    // Its buffers are large for a stack.
+    // Its buffers are too large for the stack.
     auto const applier = std::make_unique<Applier>(work, manifest, done);
     return applier->Apply();
 }

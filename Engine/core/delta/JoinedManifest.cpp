@@ -13,11 +13,11 @@ namespace
 
 using namespace ManifestBytes;
 
-constexpr std::uint8_t EXECUTABLE_KIND = 0x10;             ///< what an executable file's kind is more
+constexpr std::uint8_t EXECUTABLE_KIND = 0x10;             ///< added to a file's kind if it is executable
 constexpr std::uint64_t PACKED_TEXT = MAX_IMAGE_SPANS + 1; ///< in the place of a number of segments
 constexpr std::uint8_t MOST_PACKINGS = 225;                ///< properties of LZMA are below this
 
-/// A kept file's size is the old one's, which both ends can look up.
+/// A kept file has the size of the old file, which both sides can look up.
 bool HasSize(DeltaEntry const& entry)
 {
     return entry.kind == DeltaEntryKind::Patched || entry.kind == DeltaEntryKind::Whole;
@@ -35,8 +35,8 @@ std::size_t SharedBytes(std::string const& a, std::string const& b)
         std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(limit), b.begin()).first - a.begin());
 }
 
-// Like stands beside like, which compresses better: first what all paths share with the one before, then their rests,
-// then the kinds, and so on.
+// Values of one kind are next to each other, which compresses better: first the shared prefix lengths of all paths,
+// then the rests, then the kinds, and so on.
 void AppendEntries(ByteBuffer& bytes, std::vector<DeltaEntry> const& entries)
 {
     AppendNumber(bytes, entries.size());
@@ -123,7 +123,7 @@ void ReadEntries(Reader& reader, DeltaLimits const& limits, std::vector<DeltaEnt
         entries[i].path = previous ? previous->substr(0, static_cast<std::size_t>(shared[i])) : std::string();
         entries[i].path += reader.Text(MAX_PATH_BYTES);
         previous = &entries[i].path;
-        // What is shared costs nothing in the manifest, but memory.
+        // Shared prefixes cost no bytes in the manifest, but memory.
         bytes += previous->size();
         if (bytes > limits.maxManifestBytes)
         {
@@ -141,7 +141,7 @@ void ReadEntries(Reader& reader, DeltaLimits const& limits, std::vector<DeltaEnt
 
 using IndicesByPath = std::map<std::string, std::uint64_t>;
 
-/// A source with the path of an entry is named by the entry.
+/// If a source has the path of an entry, it refers to the entry.
 void AppendSource(ByteBuffer& bytes, DeltaManifest const& manifest, IndicesByPath const& indices,
                   DeltaSource const& source)
 {

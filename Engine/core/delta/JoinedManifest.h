@@ -1,5 +1,5 @@
-// JoinedManifest.h: the manifest of the format that joins the files' data in streams, and its rules for units.
-// The format is described in docs/formats/delta.md.
+// JoinedManifest.h: the manifest of the joined format, and the rules for units. docs/formats/delta.md describes the
+// format.
 #pragma once
 
 #include "Engine/core/delta/ManifestBytes.h"
@@ -7,7 +7,7 @@
 namespace Pelnar::Engine
 {
 
-/// Reads what follows the two versions' texts.
+/// Reads the part after the two version texts.
 void ReadJoinedManifest(ManifestBytes::Reader& reader, DeltaLimits const& limits, DeltaManifest& manifest);
 /// The rules for units and streams, for a manifest whose tree is accepted.
 [[nodiscard]] DeltaManifestVerdict CheckUnits(DeltaManifest const& manifest, DeltaLimits const& limits);

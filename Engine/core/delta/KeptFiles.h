@@ -17,7 +17,7 @@ class KeptFiles
 {
 public:
     KeptFiles(DeltaWork const& work, std::vector<DeltaEntry>& entries);
-    /// Waits until the file at hand is made.
+    /// Waits until the current file is made.
     ~KeptFiles();
     KeptFiles(KeptFiles const&) = delete;
     KeptFiles& operator=(KeptFiles const&) = delete;

@@ -1,5 +1,5 @@
-// ManifestBytes.h: the values of which a manifest is made, written and read.
-// Thread: any; no shared state. Ownership: a reader refers to the bytes, which outlive it.
+// ManifestBytes.h: writes and reads the values of a manifest. Thread: any; no shared state. Ownership: a reader refers
+// to the bytes, which outlive it.
 #pragma once
 
 #include "Engine/core/delta/DeltaManifest.h"
@@ -12,7 +12,7 @@ namespace Pelnar::Engine::ManifestBytes
 {
 
 constexpr std::uint64_t MAX_VERSION_BYTES = 256;
-constexpr std::uint64_t MAX_PATH_BYTES = 65536; // more than the rules allow, so that it is they who refuse
+constexpr std::uint64_t MAX_PATH_BYTES = 65536; // more than the rules allow, so that the rules refuse it
 
 inline void AppendText(ByteBuffer& bytes, std::string const& text)
 {
@@ -69,7 +69,7 @@ public:
         }
     }
 
-    /// A number of things of which at most \a most may be.
+    /// A count of at most \a most.
     std::uint64_t Count(std::uint64_t most)
     {
         std::uint64_t const count = Number();
@@ -144,7 +144,7 @@ private:
     DeltaManifestError m_error = DeltaManifestError::None;
 };
 
-/// Calls \a visit with each component between slashes; false when one of the calls answers false.
+/// Calls \a visit with each component between slashes; returns false if one of the calls does.
 template <class Visit>
 bool ForEachComponent(std::string_view path, Visit visit)
 {
@@ -163,7 +163,7 @@ bool ForEachComponent(std::string_view path, Visit visit)
     }
 }
 
-/// True for a path that can only be below the folder that it is read from.
+/// True for a path that cannot lead out of its base folder.
 inline bool IsBelow(std::string const& path)
 {
     return path.find('\0') == std::string::npos &&

@@ -1,5 +1,5 @@
-// PackingThread.h: packs texts in a thread of its own, while other files are made.
-// Thread: one at a time uses it. Ownership: its thread and the texts; entries stay the caller's.
+// PackingThread.h: packs texts in its own thread, while other files are made. Thread: one at a time. Ownership: its
+// thread and the texts; the caller keeps the entries.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
@@ -15,7 +15,7 @@
 namespace Pelnar::Engine
 {
 
-/// A packed file from its text.
+/// A file that is packed from its text.
 struct PackedFile
 {
     DeltaEntry& entry;
@@ -24,8 +24,7 @@ struct PackedFile
     std::vector<PatchStep> steps; ///< from the old text to the text
     ByteBuffer recipe;
     ByteBuffer text;
-    std::optional<ByteBuffer> packed =
-        {}; ///< the result; nothing if the recipe does not make a file of the entry's size
+    std::optional<ByteBuffer> packed = {}; ///< the result; empty if the recipe does not make a file of the entry's size
     std::atomic<bool> isDone = false;
 
     std::size_t Bytes() const { return oldText.size() + text.size(); }
@@ -36,17 +35,17 @@ class PackingThread
 {
 public:
     void Post(std::unique_ptr<PackedFile> file);
-    /// The next file in the order of the calls of Post; null if it is not done yet.
+    /// Returns the next file in the order of Post; null if it is not done yet.
     [[nodiscard]] std::unique_ptr<PackedFile> TakeDone();
-    /// Bytes of the texts that were posted and not taken.
+    /// The bytes of all posted texts that have not been taken.
     std::size_t Bytes() const { return m_bytes; }
     /// Waits until all are done.
     void Finish() { m_tasks.Finish(); }
 
 private:
-    std::deque<std::unique_ptr<PackedFile>> m_files; ///< in the order of the calls of Post
+    std::deque<std::unique_ptr<PackedFile>> m_files; ///< in the order of Post
     std::size_t m_bytes = 0;
-    TaskThread m_tasks{static_cast<std::size_t>(-1)}; ///< last, as its thread uses the files
+    TaskThread m_tasks{static_cast<std::size_t>(-1)}; ///< last, because its thread uses the files
 };
 
 } // namespace Pelnar::Engine

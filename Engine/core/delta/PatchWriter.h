@@ -1,5 +1,5 @@
-// PatchWriter.h: writes the streams of patches, for one file after the other, from their steps.
-// Thread: one at a time. Ownership: the writer has the streams until Finish.
+// PatchWriter.h: writes the streams of patches from their steps, for one file after the other. Thread: one at a time.
+// Ownership: the writer owns the streams until Finish.
 #pragma once
 
 #include "Engine/core/delta/OldText.h"
@@ -19,7 +19,7 @@ public:
     void Add(IOldText& old, std::vector<PatchStep> const& steps, Bytes newBytes);
     void AddRecord(Bytes record);
     void AddWhole(Bytes newBytes);
-    /// All streams. Call it once, last.
+    /// Returns all streams. Call it once, last.
     [[nodiscard]] BinaryPatch Finish();
 
 private:

@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t MANY_PIECES = 2; ///< so many that wait make the caller write
+constexpr std::size_t MANY_PIECES = 2; ///< with this many waiting pieces, the caller writes
 
 } // namespace
 
@@ -24,7 +24,7 @@ bool PieceWriter::Add(Bytes piece)
     std::size_t const waiting = m_tasks.Waiting();
     if (waiting == 0 && piece.size() < PATCH_PIECE_BYTES)
     {
-        // Waking the thread costs more than writing less than a whole piece.
+        // Waking the thread takes longer than writing less than a whole piece.
         Write(*m_file, place, piece);
         m_hasher.Add(piece);
     }

@@ -1,6 +1,6 @@
-// PieceWriter.h: hashes and writes files in a thread of its own, while the next pieces are made.
-// Thread: one at a time uses it. Ownership: its thread, and the descriptors; pieces and entries stay the caller's.
-// If its thread falls behind, the caller writes and the thread only hashes.
+// PieceWriter.h: hashes and writes files in its own thread, while the next pieces are made. If the thread falls behind,
+// the caller writes and the thread only hashes. Thread: one at a time. Ownership: its thread and the descriptors; the
+// caller keeps pieces and entries.
 #pragma once
 
 #include "Engine/core/base/ContentHasher.h"
@@ -17,16 +17,16 @@ namespace Pelnar::Engine
 class PieceWriter
 {
 public:
-    /// Begins a file. Its hash is in \a entry once Finish has returned.
+    /// Begins a file. \a entry gets its hash before Finish returns.
     void Start(UniqueFd file, DeltaEntry& entry);
-    /// Takes the file's next piece, which stays unchanged until PIECES_AHEAD more calls of Add, or one of Finish, have
-    /// returned. False, with errno, if a piece of any file is known to be lost.
+    /// Takes the file's next piece. The caller must not change it until PIECES_AHEAD more calls of Add, or one of
+    /// Finish, have returned. Returns false and sets errno if a piece of any file could not be written.
     [[nodiscard]] bool Add(Bytes piece);
-    /// The same for a piece that it owns.
+    /// The same for a piece that the writer then owns.
     [[nodiscard]] bool Add(ByteBuffer piece);
-    /// The file has all its pieces.
+    /// Ends the file: it has all its pieces.
     void End();
-    /// Waits until everything is written. The outcome names the first file that is not.
+    /// Waits until everything is written. The outcome names the first file that could not be written.
     [[nodiscard]] DeltaOutcome Finish();
 
 private:
@@ -41,11 +41,11 @@ private:
     void EndFile(File& file);
     [[nodiscard]] bool IsGood() const;
 
-    std::shared_ptr<File> m_file;         ///< that gets pieces
+    std::shared_ptr<File> m_file;         ///< the current file
     std::atomic<int> m_error = 0;         ///< errno of the first piece that cannot be written
-    DeltaEntry const* m_failed = nullptr; ///< its file's; set by the thread that has set m_error
+    DeltaEntry const* m_failed = nullptr; ///< the path of its file; set by the thread that has set m_error
     ContentHasher m_hasher;
-    TaskThread m_tasks{PIECES_AHEAD}; ///< last, as its thread uses the others
+    TaskThread m_tasks{PIECES_AHEAD}; ///< last, because its thread uses the others
 };
 
 } // namespace Pelnar::Engine

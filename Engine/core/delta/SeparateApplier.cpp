@@ -56,8 +56,8 @@ private:
             return {DeltaError::CannotRead, {}, errno};
         }
         DeltaOutcome outcome = MakeFile(entry, old.Content());
-        // With any old file a patch reads and writes in bounds, and its result must have the new file's hash. The old
-        // file's hash only tells the cause.
+        // With any old file, a patch reads and writes within bounds, and its result must have the new file's hash. The
+        // old file's hash only shows the cause of a failure.
         bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
         return mayBeTheBase && HashOf(old.Content(), HashKind::Blake2b) != entry.sourceHash
                    ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}

@@ -1,5 +1,4 @@
-// SixteenBytes.h: looks at 16 bytes of a program at once.
-// Thread: any; no shared state.
+// SixteenBytes.h: operations on 16 bytes at once. Thread: any; no shared state.
 #pragma once
 
 #include <cstddef>
@@ -22,7 +21,7 @@ inline SixteenBytes Load(std::uint8_t const* bytes)
     return loaded;
 }
 
-/// A bit for each byte of \a mask whose highest bit is set.
+/// A bit for each byte of \a mask, set if the byte's highest bit is set.
 inline std::uint32_t BitsOf(SixteenBytes mask)
 {
 #ifdef __SSE2__

@@ -10,7 +10,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-// A new alignment must explain this many bytes more than the current one to be worth a step.
+// A new alignment must explain this many more bytes than the current one to be worth a step.
 constexpr std::int64_t MIN_GAIN_BYTES = 14;
 
 std::size_t CommonLength(Bytes a, Bytes b)
@@ -20,13 +20,13 @@ std::size_t CommonLength(Bytes a, Bytes b)
         std::mismatch(a.begin(), a.begin() + static_cast<std::ptrdiff_t>(limit), b.begin()).first - a.begin());
 }
 
-/// The steps as they come.
+/// The steps found so far.
 class StepList
 {
 public:
     void Add(std::int64_t likeBytes, std::int64_t extraBytes, std::int64_t move)
     {
-        // A step that makes nothing is part of the one before it.
+        // A step that makes nothing is merged into the previous one.
         bool const isIdle = likeBytes == 0 && extraBytes == 0;
         if (!isIdle || m_steps.empty())
         {
@@ -36,7 +36,7 @@ public:
         m_move += move;
     }
 
-    /// The last step moves nowhere.
+    /// The last step does not move.
     std::vector<PatchStep> Finish()
     {
         m_move = 0;
@@ -92,8 +92,8 @@ private:
                m_old[static_cast<std::size_t>(oldPosition)] == m_new[static_cast<std::size_t>(newPosition)];
     }
 
-    /// Moves on through the new file to the next place that the old file explains clearly better than the current
-    /// alignment does. Answers how many bytes of that match the current alignment explains as well.
+    /// Advances in the new file to the next position where another part of the old file matches clearly better than the
+    /// current alignment. Returns how many bytes of that match the current alignment explains too.
     std::int64_t FindNextAlignment()
     {
         std::int64_t explained = 0;
@@ -114,7 +114,7 @@ private:
         return explained;
     }
 
-    /// How far the last alignment reaches forward while more than half of its bytes agree.
+    /// How far the last alignment can be extended forward while more than half of its bytes match.
     std::int64_t ForwardReach() const
     {
         std::int64_t reach = 0;
@@ -133,7 +133,7 @@ private:
         return reach;
     }
 
-    /// How far the new alignment reaches back in the same sense.
+    /// How far the new alignment can be extended backward in the same way.
     std::int64_t BackwardReach() const
     {
         if (m_scan == m_newSize)
@@ -155,7 +155,7 @@ private:
         return reach;
     }
 
-    /// Splits bytes that both alignments reach where the two together explain most.
+    /// Splits the bytes that both alignments reach at the point where the two together explain most.
     void SplitOverlap(std::int64_t& forward, std::int64_t& backward) const
     {
         std::int64_t const overlap = (m_lastScan + forward) - (m_scan - backward);
@@ -204,12 +204,12 @@ private:
     std::int64_t m_oldSize;
     std::int64_t m_newSize;
 
-    std::int64_t m_scan = 0; ///< the place in the new file that is looked at
-    TextMatch m_match;       ///< what the old file has for it
+    std::int64_t m_scan = 0; ///< the current position in the new file
+    TextMatch m_match;       ///< the matching piece of the old file
     std::int64_t m_lastScan = 0;
     std::int64_t m_lastPosition;
-    std::int64_t m_offset;  ///< of the current alignment: old position less new position
-    std::int64_t m_end = 0; ///< in the old text, behind what the last step is like
+    std::int64_t m_offset;  ///< of the current alignment: old position minus new position
+    std::int64_t m_end = 0; ///< in the old text, after the similar bytes of the last step
     StepList m_steps;
 };
 

@@ -1,6 +1,6 @@
-// StepFinder.h: finds the steps of a patch: which pieces of a new text are like which pieces of an old one.
-// Thread: an index may be used by several threads once it is built. Ownership: the texts are the caller's and outlive
-// the index. A publisher's work: memory is five times the old text's size.
+// StepFinder.h: finds the steps of a patch: which pieces of a new text are similar to which pieces of an old one. It
+// runs only on the publisher's computer; its memory is five times the old text's size. Thread: several threads may use
+// an index once it is built. Ownership: the caller owns the texts, which outlive the index.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -17,17 +17,18 @@ struct TextMatch
     std::int64_t length = 0;
 };
 
-/// The largest text that an index takes.
+/// The maximum size of an indexed text.
 constexpr std::size_t MAX_INDEXED_BYTES = 0x7FFFFFFE;
 
-/// All suffixes of a text in order. Finds the longest piece of the text that another text begins with.
+/// A suffix array. It finds the longest piece of the text that is a prefix of another text.
 class SuffixIndex
 {
 public:
-    /// False when the index cannot be built: the text is larger than MAX_INDEXED_BYTES, or memory is lacking.
+    /// False if the index cannot be built: the text is larger than MAX_INDEXED_BYTES, or memory is short.
     [[nodiscard]] bool Build(Bytes text);
     Bytes Text() const { return m_text; }
-    /// The longest piece that \a wanted begins with; of several as long the one at \a expected, if it is one of them.
+    /// The longest piece that is a prefix of \a wanted; among pieces of the same length the one at \a expected, if it
+    /// is one of them.
     TextMatch Longest(Bytes wanted, std::int64_t expected) const;
 
 private:
@@ -35,7 +36,7 @@ private:
     std::vector<std::int32_t> m_order;
 };
 
-/// The steps that make \a newText. \a position: where they start in the old text, and then where they have ended.
+/// The steps that make \a newText. \a position: the start in the old text, and afterwards the end.
 [[nodiscard]] std::vector<PatchStep> FindSteps(SuffixIndex const& index, Bytes newText, std::uint64_t& position);
 
 } // namespace Pelnar::Engine

@@ -15,11 +15,11 @@ namespace Pelnar::Engine
 namespace
 {
 
-// A search takes five times this in memory, and the files of a unit are open together.
+// A search takes five times this in memory, and all files of a unit are open at once.
 constexpr std::uint64_t MAX_UNIT_BYTES = 128u << 20;
 constexpr std::size_t MAX_UNIT_FILES = 10000;
 
-/// The path without its numbers: they often tell the version.
+/// The path without its numbers, which are often the version.
 std::string PlainPath(std::string const& path)
 {
     std::string plain;
@@ -44,7 +44,7 @@ std::vector<SpanChange> ChangesOf(ImageLayout const& from, ImageLayout const& to
     return changes;
 }
 
-/// A unit for one file, and the recipe of one that is a packed text.
+/// A unit for one file; for a packed text also its recipe.
 struct Candidate
 {
     DeltaUnit unit;
@@ -97,7 +97,7 @@ public:
             m_plan.units.push_back(std::move(unit));
         }
         AddOthers(others);
-        // Packing a text takes long. The applier packs while it makes what comes later.
+        // Packing a text takes long, and the applier packs while it makes later files.
         std::stable_partition(m_plan.units.begin(), m_plan.units.end(),
                               [](DeltaUnit const& unit) { return unit.textBytes > 0; });
         return std::move(m_plan);
@@ -111,7 +111,7 @@ private:
         return isThere || similar == m_pathsByPlainPath.end() ? path : similar->second;
     }
 
-    /// A unit without sources if the file gets none of its own.
+    /// A unit without sources if the file does not get its own unit.
     Candidate CandidateFor(std::uint32_t target) const
     {
         auto const found = m_old.files.find(SourceFor(m_entries[target].path));
@@ -148,11 +148,11 @@ private:
         return candidate.unit.textBytes > 0;
     }
 
-    /// All other files, old and new together, in the order of their paths. A unit ends where it gets too large for one
+    /// All other files, old and new together, in the order of their paths. A unit ends before it is too large for one
     /// search.
     void AddOthers(std::vector<std::uint32_t> const& targets)
     {
-        std::map<std::pair<std::string, bool>, std::uint32_t> items; ///< an old file comes before the new one
+        std::map<std::pair<std::string, bool>, std::uint32_t> items; ///< the old file comes before the new one
         for (auto const& [path, file] : m_old.files)
         {
             if (m_usedPaths.count(path) == 0)
@@ -191,7 +191,7 @@ private:
     std::vector<DeltaEntry> const& m_entries;
     DeltaEffort m_effort;
     std::multimap<std::string, std::string> m_pathsByPlainPath;
-    std::set<std::string> m_usedPaths; ///< of old files that are kept or have a unit of their own
+    std::set<std::string> m_usedPaths; ///< of old files that are kept or have their own unit
     UnitPlan m_plan;
 };
 

@@ -1,4 +1,4 @@
-// UnitPlan.h: decides from which old files each new file is made. Reads the files of both versions.
+// UnitPlan.h: decides from which old files each new file is made. It reads the files of both versions.
 #pragma once
 
 #include "Engine/core/delta/BundleReader.h"
@@ -17,9 +17,9 @@ struct UnitPlan
     std::map<std::uint32_t, ByteBuffer> recipes; ///< of the targets that are packed texts
 };
 
-/// A program gets a unit with the changes of its segments. A packed text gets a unit, but not for low effort: clients
-/// need ten times as long to pack it. The old file of both has the same path, or one that differs in numbers only. The
-/// other files that are not kept are made from the old files that changed or are gone.
+/// A program gets a unit with the changes of its segments. A packed text gets a unit, except with low effort, because
+/// clients need ten times as long to pack it. In both cases the old file has the same path, or one that differs only in
+/// numbers. All other files that are not kept are made from the old files that changed or were removed.
 [[nodiscard]] UnitPlan PlanUnits(OldVersion const& old, std::filesystem::path const& newFolder,
                                  std::vector<DeltaEntry> const& entries, DeltaEffort effort);
 

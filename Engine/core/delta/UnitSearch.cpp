@@ -15,12 +15,12 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// Large files are searched piece by piece, so that all processors have work.
+/// Large files are searched in pieces, so that all processors have work.
 constexpr std::size_t PIECE_BYTES = 8u << 20;
-/// Texts of which the indices are in memory together.
+/// The maximum total size of texts whose indices are in memory at once.
 constexpr std::uint64_t WAVE_BYTES = 128u << 20;
 
-/// The old files of one unit, as one text.
+/// The old files of one unit, joined to one text.
 class OldIndex
 {
 public:
@@ -53,7 +53,7 @@ private:
     SuffixIndex m_index;
 };
 
-/// A piece of a target's text: where it starts in the old text, and what it comes to.
+/// A piece of a target's text: its start in the old text, and its steps.
 struct Piece
 {
     std::size_t target;
@@ -80,7 +80,7 @@ public:
         for (std::size_t i = 0; i < unit.targets.size(); ++i)
         {
             DeltaEntry const& entry = entries[unit.targets[i]];
-            // Likely it starts where the old file of its path does, or else where the one before has.
+            // It probably starts where the old file with its path starts, or else where the previous piece did.
             auto const same = starts.find(entry.path);
             std::uint64_t const before = m_pieces.empty() ? 0 : m_pieces.back().start;
             std::uint64_t const begin = same == starts.end() ? before : same->second;
@@ -136,7 +136,7 @@ public:
     }
 
 private:
-    /// Leads from where the last piece has ended to where this one starts.
+    /// Moves from the end of the previous piece to the start of this one.
     static void Append(std::vector<PatchStep>& steps, Piece const& piece, std::uint64_t& position)
     {
         std::vector<PatchStep> next = piece.steps;
@@ -151,7 +151,7 @@ private:
             std::any_of(next.begin(), next.end(), [](PatchStep const& step) { return step.likeBytes > 0; });
         if (!usesOld)
         {
-            // Of a piece that has nothing of the old text no position is kept.
+            // A piece without old bytes leaves the position unchanged.
             next.assign(1, PatchStep{0, piece.size, 0});
             start = position;
         }
@@ -162,7 +162,7 @@ private:
         else if (start != position)
         {
             steps.back().move =
-                FoldSign(static_cast<std::int64_t>(start - position)); // the last step of a piece moves nowhere
+                FoldSign(static_cast<std::int64_t>(start - position)); // the last step of a piece does not move
         }
         steps.insert(steps.end(), next.begin(), next.end());
         position = usesOld ? piece.end : position;
@@ -175,7 +175,7 @@ private:
     std::uint64_t m_oldBytes = 0;
     std::vector<Piece> m_pieces;
     std::optional<OldIndex> m_index;
-    ByteBuffer m_changed; ///< the target as it is compared, when that is not as it is
+    ByteBuffer m_changed; ///< the form of the target in which it is compared, if that differs
 };
 
 } // namespace

@@ -1,5 +1,5 @@
-// UnitSearch.h: finds the steps of the files of units, with all processors.
-// Thread: DoAll's. Ownership: the texts are the search's own, and gone when it returns.
+// UnitSearch.h: finds the steps for the files of units, with all processors. Thread: as in DoAll. Ownership: it owns
+// the texts during the call.
 #pragma once
 
 #include "Engine/core/delta/BundleReader.h"
@@ -11,13 +11,13 @@
 namespace Pelnar::Engine
 {
 
-/// The steps of each target of a unit, in their order.
+/// The steps of each target of a unit, in the order of the targets.
 using UnitSteps = std::vector<std::vector<PatchStep>>;
 
-/// Told after each piece of the work: what is done, and in all.
+/// Called after each piece of the work: pieces done, and in total.
 using SearchProgress = std::function<void(std::uint64_t done, std::uint64_t total)>;
 
-/// The answer depends on the files alone, and on nothing of the machine. Throws std::filesystem::filesystem_error, and
+/// The result depends only on the files, not on the machine. Throws std::filesystem::filesystem_error, and
 /// std::bad_alloc: an old text takes six times its size in memory.
 [[nodiscard]] std::vector<UnitSteps> SearchUnits(std::vector<DeltaUnit> const& units,
                                                  std::filesystem::path const& oldFolder,

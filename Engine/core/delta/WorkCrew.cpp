@@ -14,7 +14,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-/// To wake the caller after each small piece would cost more than the piece.
+/// Waking the caller after each small piece would take longer than the piece.
 constexpr std::chrono::milliseconds TELLING_INTERVAL{20};
 
 class Crew
@@ -33,7 +33,7 @@ public:
         }
         catch (std::system_error const&)
         {
-            // The threads that could be started do all.
+            // The threads that could be started do all the work.
         }
     }
     ~Crew()

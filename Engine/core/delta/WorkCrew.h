@@ -1,6 +1,5 @@
-// WorkCrew.h: does many pieces of work with all processors.
-// Thread: one caller at a time; the work is done in threads of the call, which have ended when it returns, and is told
-// of in the caller's.
+// WorkCrew.h: does many pieces of work with all processors. Thread: one caller at a time. The call starts its own
+// threads and ends them before it returns; callbacks run in the calling thread.
 #pragma once
 
 #include <cstddef>
@@ -9,9 +8,9 @@
 namespace Pelnar::Engine
 {
 
-/// Calls \a work with each number below \a count, of which it starts the lowest first, and \a told once for each that
-/// is done, soon after it, in the calling thread. An exception of any is thrown once the others have ended. If the
-/// system has no further thread, the calling one does the work.
+/// Calls \a work with each number below \a count, lowest first. Calls \a told in the calling thread, once for each
+/// completed piece and soon after it. If a piece throws, the exception is thrown after all threads have ended. If the
+/// system can create no thread, the calling one does the work.
 void DoAll(std::size_t count, std::function<void(std::size_t)> const& work, std::function<void()> const& told = {});
 
 } // namespace Pelnar::Engine

@@ -1,5 +1,5 @@
-// ChoosingBench.cpp: the best of a feed's items, beside the plain rules, which read both items through UTF-8, QUrl and
-// QDate at every step.
+// ChoosingBench.cpp: the choice among a feed's items, compared with the plain rules, which read both items through
+// UTF-8, QUrl and QDate at every step.
 
 #include "HostFramework/Reference/ReferenceOSVersion.h"
 #include "bench/ChoosingFixture.h"

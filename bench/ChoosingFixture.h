@@ -1,6 +1,5 @@
-// ChoosingFixture.h: a loaded feed whose items hold their texts as Foundation strings, and a session that chooses.
-// Plain C++.
-// Thread: main. Ownership: the fixture owns its session and its items.
+// ChoosingFixture.h: a loaded feed whose items store their texts as Foundation strings, and a session that chooses.
+// Plain C++. Thread: main. Ownership: the fixture owns its session and its items.
 #pragma once
 
 #include <memory>
@@ -17,7 +16,7 @@ public:
     ChoosingFixture(ChoosingFixture const&) = delete;
     ChoosingFixture& operator=(ChoosingFixture const&) = delete;
 
-    // The index of the chosen item; -1 for none.
+    // The index of the chosen item; -1 if no item was chosen.
     int Choose();
     int ChoosePlainly();
 

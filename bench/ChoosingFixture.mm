@@ -11,7 +11,7 @@
 using Pelnar::Foundation::Retained;
 using Pelnar::Foundation::ToNSString;
 
-/// Answers the messages that the selection sends to an item, from fields, as the framework's own items do.
+/// Implements the messages that the selection sends to an item. It returns fields, as the framework's own items do.
 @interface StoredItem : NSObject
 {
   @public
@@ -77,7 +77,7 @@ using Pelnar::Foundation::ToNSString;
 
 @end
 
-/// Answers the message that the selection sends to a loaded feed.
+/// Implements the message that the selection sends to a loaded feed.
 @interface StoredFeed : NSObject
 {
   @public

@@ -1,6 +1,7 @@
-// DeltaBench.cpp: a delta applied, beside bspatch with patches of the same files one by one, and the sizes of both. The
-// versions are the two folders that PELNAR_BENCH_VERSIONS names ("OLD:NEW"; the script debian-versions makes such), or
-// this process' libraries and a made-up next version of them.
+// DeltaBench.cpp: the time to apply a delta, compared with bspatch on patches of the same files, and the sizes of both.
+// The environment variable PELNAR_BENCH_VERSIONS names the folders of the two versions ("OLD:NEW"; the script
+// debian-versions makes such folders). Without it, the versions are the shared libraries of this process and an
+// artificial next version of them.
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
@@ -27,7 +28,7 @@ using namespace Pelnar::Engine;
 constexpr std::uintmax_t LARGEST_LIBRARY = 6u << 20;
 constexpr double MOST_OF_PATCHES = 1.02;
 
-/// The shared libraries of this process, all but the largest.
+/// The shared libraries of this process except the largest.
 std::vector<std::string> Libraries()
 {
     std::vector<std::string> paths;
@@ -45,7 +46,7 @@ std::vector<std::string> Libraries()
     return paths;
 }
 
-/// Two versions, the delta between them, and the peer's patches.
+/// Two versions, the delta between them, and the patches for comparison.
 struct Material
 {
     Material()
@@ -61,7 +62,7 @@ struct Material
         report = MakeDelta(old, "1", next, "2", container.Get());
     }
 
-    /// The files that both versions have and that differ, as they are.
+    /// The files that are in both versions and differ.
     void TakeFilesOf(std::string const& versions)
     {
         std::size_t const colon = versions.find(':');

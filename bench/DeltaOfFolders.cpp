@@ -1,5 +1,5 @@
-// DeltaOfFolders.cpp: makes the delta between two folders, or applies it, and prints the seconds that it takes.
-// Usage: delta_of_folders make OLD NEW DELTA; delta_of_folders apply DELTA OLD EMPTY-FOLDER
+// DeltaOfFolders.cpp: makes or applies the delta between two folders and prints the time in seconds. Usage:
+// delta_of_folders make OLD NEW DELTA; delta_of_folders apply DELTA OLD EMPTY-FOLDER
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"

@@ -1,6 +1,6 @@
-// DownloadBench.cpp: an archive from a server of this computer to a file, beside the program curl, which does the same
-// with the same server; and how much memory it takes. Wall-clock times. The files stay in memory where the system has a
-// folder for that, so that no disk is timed; TMPDIR names another folder.
+// DownloadBench.cpp: the time to download an archive from a server on this computer to a file, compared with the
+// program curl and the same server, and the memory that it takes. The times are wall-clock times. The files are in
+// memory if the system has a folder for that, so that no disk is measured. TMPDIR names another folder.
 
 #include "Engine/core/download/ArchiveDownload.h"
 #include "bench/MeteredApplication.h"
@@ -46,7 +46,7 @@ QString FolderForFiles()
     return !qEnvironmentVariableIsSet("TMPDIR") && QFileInfo(memory).isWritable() ? memory : QDir::tempPath();
 }
 
-/// A file with bytes that do not repeat soon.
+/// A file whose bytes do not repeat early.
 void MakeArchive(QString const& path)
 {
     QFile file(path);
@@ -65,7 +65,7 @@ void MakeArchive(QString const& path)
     }
 }
 
-/// One for the whole run, with everything that the measured parts need.
+/// One server for the whole run, with all that the measured parts need.
 struct Scene
 {
     Scene()
@@ -127,7 +127,8 @@ DownloadOutcome RunDownload(DownloadRequest const& request)
     return outcome;
 }
 
-/// An application that downloads has fetched the feed before: what the first connection loads is no part of a download.
+/// An application that downloads has already fetched the feed. So libraries that the first connection loads do not
+/// count.
 void ConnectOnce(DownloadRequest request)
 {
     request.declaredBytes = 1;

@@ -1,5 +1,6 @@
-// FeedParsingBench.cpp: parsing a feed beside a bare QXmlStreamReader loop that keeps the same fields and checks
-// nothing: no limits, no namespaces by address, no clean-up of texts. And the feeds that cost most, by the clock.
+// FeedParsingBench.cpp: the time to parse a feed, compared with a bare QXmlStreamReader loop that stores the same
+// fields and checks nothing: no limits, no namespaces by address, no cleaned texts. It also measures the most expensive
+// feeds.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "bench/Ratios.h"
@@ -161,7 +162,7 @@ bool IsSame(std::vector<FeedItem> const& a, std::vector<FeedItem> const& b)
                       });
 }
 
-/// Made once for each number of items and kept: the largest takes longer to make than to parse.
+/// Made once for each number of items and kept, because making the largest feed takes longer than parsing it.
 QByteArray const& FeedOf(std::int64_t items)
 {
     static std::map<std::int64_t, QByteArray> feeds;
@@ -206,7 +207,7 @@ BENCHMARK(FeedParsingBare)->Arg(10)->Arg(1000)->Arg(100000)->Unit(benchmark::kMi
 constexpr int MOST_FEED_BYTES = 4 << 20;
 constexpr double MOST_HOSTILE_MILLISECONDS = 200;
 
-/// As much of \a piece as a feed may hold beside what every one has, in items of \a piecesPerItem.
+/// As many copies of \a piece as a feed may contain, in items of \a piecesPerItem.
 QByteArray MakeHostileFeed(QByteArray const& piece, int piecesPerItem)
 {
     QByteArray const item = "<item>" + piece.repeated(piecesPerItem) + "</item>";
@@ -226,18 +227,18 @@ QByteArray ManyAttributes(int count)
     return tag + "/>";
 }
 
-/// What costs most of what a feed may be; those that go beyond a limit are refused, and cost what comes before that.
+/// The most expensive feeds that are allowed, and feeds that exceed a limit only at their end.
 QByteArray HostileFeed(std::int64_t kind)
 {
     switch (kind)
     {
-    case 0: // 100,000 elements, each with a text, as many as are read
+    case 0: // 100,000 elements, each with a text: the limit
         return MakeHostileFeed("<e>" + QByteArray(36, 't') + "</e>", 50);
     case 1: // tags of 256 attributes
         return MakeHostileFeed(ManyAttributes(255), 4);
-    case 2: // beyond the limit of elements, in one item
+    case 2: // exceeds the limit of elements, in one item
         return MakeHostileFeed("<e/>", 200 * 1000);
-    case 3: // texts that are nothing but references
+    case 3: // texts that consist of references only
         return MakeHostileFeed("<description>" + QByteArray("&#38;").repeated(420) + "</description>", 1);
     }
     QByteArray const delta =
@@ -268,7 +269,7 @@ std::array<Pelnar::Bench::StatedTime, 5> const HOSTILE_TIMES = {{
     {"HostileFeedParsing/4", MOST_HOSTILE_MILLISECONDS},
 }};
 
-// Nine tenths of the peer's speed.
+// Nine tenths of the other parser's speed.
 constexpr double MOST_TIME = 1 / 0.9;
 Pelnar::Bench::StatedRatio const SHORT_RATIO("FeedParsing/10", "FeedParsingBare/10", MOST_TIME);
 Pelnar::Bench::StatedRatio const LONG_RATIO("FeedParsing/1000", "FeedParsingBare/1000", MOST_TIME);

@@ -1,5 +1,5 @@
-// IdleBench.cpp: what a Qt program pays for the update checker before its first check, beside the same program without
-// it, and for how long its first check, which loads the engine, holds up its event loop.
+// IdleBench.cpp: the cost of the update checker in a Qt program before its first check, compared with the same program
+// without it; and how long the first check, which loads the engine, blocks the event loop.
 
 #include <benchmark/benchmark.h>
 
@@ -22,7 +22,7 @@ constexpr double MOST_MILLISECONDS = 3;
 constexpr double MOST_MEBIBYTES = 3;
 constexpr double LONGEST_STALL_MILLISECONDS = 50;
 
-/// What a host prints, in its order.
+/// The values that a host prints, in this order.
 enum Figure
 {
     LIBRARIES,
@@ -64,7 +64,7 @@ double MedianOf(std::vector<Figures> const& runs, Figure figure)
     return values[values.size() / 2];
 }
 
-/// The feed of the first check, in a folder that goes with this.
+/// The feed of the first check, in a temporary folder.
 class Feed
 {
 public:
@@ -81,7 +81,7 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// Pairs of runs, one after the other, so that both meet the same minutes of the machine.
+/// Pairs of runs one after the other, so that both run under the same load of the machine.
 void IdleHost(benchmark::State& state)
 {
     std::vector<Figures> with;

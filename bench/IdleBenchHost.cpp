@@ -1,7 +1,7 @@
-// IdleBenchHost.cpp: a Qt program that says what it costs when it is idle: how many shared libraries it has loaded,
-// their size in MiB, its processor time in milliseconds and its memory in MiB. With a feed's address as argument it
-// then checks once, and says what the longest event of its event loop took, in milliseconds, and whether it found an
-// update. Built with PELNAR_PLAIN_HOST it is the same program without the update checker.
+// IdleBenchHost.cpp: a Qt program that prints its idle cost: the number of loaded shared libraries, their size in MiB,
+// its processor time in milliseconds and its memory in MiB. With a feed's address as its argument it then makes one
+// check. It prints the longest event of its event loop in milliseconds, and whether it found an update. Built with
+// PELNAR_PLAIN_HOST, it is the same program without the update checker.
 
 #include "bench/ProcessMemory.h"
 
@@ -80,7 +80,7 @@ App::ReferenceServices ServicesFor(QString const& feed)
     return services;
 }
 
-/// The call is an event, too.
+/// The call itself counts as an event.
 void CheckOnce(HostApplication& application)
 {
     FindingObserver observer;

@@ -19,7 +19,7 @@ double NanosecondsOf(clockid_t clock)
     return static_cast<double>(now.tv_sec) * 1e9 + static_cast<double>(now.tv_nsec);
 }
 
-/// How long this thread was ready and had no processor; 0 where the kernel does not count it.
+/// How long this thread was ready but had no processor; 0 if the kernel does not count it.
 double NanosecondsWithoutProcessor()
 {
     static int const file = ::open("/proc/thread-self/schedstat", O_RDONLY | O_CLOEXEC);
@@ -43,7 +43,7 @@ Moment::Moment()
 
 double StallBetween(Moment const& begin, Moment const& end)
 {
-    // Without a wait the rest of the time is what the machine's other guests took.
+    // If the thread did not wait, other guests of the machine took the rest of the time.
     return end.waits == begin.waits ? end.computing - begin.computing
                                     : end.wall - begin.wall - (end.withoutProcessor - begin.withoutProcessor);
 }

@@ -1,5 +1,5 @@
-// MeteredApplication.h: how long an event loop is kept from coming round.
-// Thread: main. Ownership: as the application object that it is made of.
+// MeteredApplication.h: measures how long each event blocks the event loop. Thread: main. Ownership: that of an
+// application object.
 #pragma once
 
 #include <QCoreApplication>
@@ -20,11 +20,11 @@ struct Moment
     long waits = 0;
 };
 
-/// What this thread computed, and what it waited for a disk, a lock or another process; in nanoseconds. Not the time in
-/// which it was ready and other programs, or the machine's other guests, had the processor.
+/// The thread's computing time, and its time waiting for a disk, a lock or another process, in nanoseconds. Time in
+/// which it was ready while other programs or guests of the machine ran is not included.
 double StallBetween(Moment const& begin, Moment const& end);
 
-/// Takes the time of each event.
+/// Measures the time of each event.
 template <class Application>
 class Metered : public Application
 {
@@ -45,7 +45,7 @@ public:
         return answer;
     }
 
-    /// The longest event since the start, or since the last call of Restart.
+    /// The longest event since the start or the last call of Restart.
     double LongestStallMilliseconds() const { return m_longest / 1e6; }
     void Restart() { m_longest = 0; }
 

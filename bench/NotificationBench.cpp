@@ -1,4 +1,5 @@
-// NotificationBench.cpp: one pass over the observers of the list, beside one emission of a Qt signal to as many slots.
+// NotificationBench.cpp: one pass over the observers of the list, compared with one emission of a Qt signal to the same
+// number of slots.
 
 #include "bench/NotificationBench.h"
 #include "bench/Ratios.h"
@@ -24,7 +25,7 @@ std::vector<std::unique_ptr<Listener>> MakeListeners(benchmark::State const& sta
     return listeners;
 }
 
-/// Fails the benchmark when a listener missed an event.
+/// Fails the benchmark if a listener missed an event.
 void RequireAllHeard(benchmark::State& state, std::vector<std::unique_ptr<Listener>> const& listeners)
 {
     for (auto const& listener : listeners)
@@ -72,7 +73,7 @@ void NotifyByQtSignal(benchmark::State& state)
 }
 BENCHMARK(NotifyByQtSignal)->Arg(1)->Arg(4)->Arg(64);
 
-// A single observer is not held to a limit that anybody could notice.
+// No limit for a single observer: nobody would notice the difference.
 StatedRatio const ONE_OBSERVER_RATIO("Notify/1", "NotifyByQtSignal/1", 2.5);
 StatedRatio const FOUR_OBSERVERS_RATIO("Notify/4", "NotifyByQtSignal/4", 1.3);
 StatedRatio const MANY_OBSERVERS_RATIO("Notify/64", "NotifyByQtSignal/64", 0.5);

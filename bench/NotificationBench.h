@@ -27,7 +27,7 @@ Q_SIGNALS:
     void Event(int a, int b);
 };
 
-/// Hears both.
+/// Receives both kinds of event.
 class Listener : public QObject, public IObserver
 {
     Q_OBJECT

@@ -1,5 +1,5 @@
-// PayloadBench.cpp: an archive's signature verified, beside the library's bare call; a zip unpacked and on the disk,
-// beside bsdtar, which leaves what it wrote to the kernel.
+// PayloadBench.cpp: the verification of an archive's signature, compared with the library's bare call; and unpacking a
+// zip durably, compared with bsdtar, which does not sync its files.
 
 #include "Engine/core/archive/UnpackArchive.h"
 #include "Engine/core/base/Descriptor.h"
@@ -120,7 +120,7 @@ std::uintmax_t FilesIn(std::string const& folder)
     return files;
 }
 
-/// Each round unpacks into a folder of its own, with nothing else waiting to be written.
+/// Each round unpacks into its own folder, after all earlier writes have reached the disk.
 template <typename UnpackInto>
 void TimeUnpacking(benchmark::State& state, UnpackInto const& unpackInto)
 {

@@ -102,21 +102,21 @@ std::string NextVersionOf(std::string const& program, std::uint32_t seed)
 {
     std::mt19937 random(seed);
     std::string next;
-    std::uint32_t moved = 0; // bytes that new code has pushed what follows
+    std::uint32_t moved = 0; // bytes by which new code has moved the following code
     for (std::size_t at = 0; at < program.size(); at += BLOCK_BYTES)
     {
         std::string block = program.substr(at, BLOCK_BYTES);
         if (random() % 6 == 0)
         {
             std::size_t const from = random() % (program.size() - BLOCK_BYTES);
-            std::string const added = program.substr(from, 16 * (1 + random() % 20)); // as all code looks
+            std::string const added = program.substr(from, 16 * (1 + random() % 20)); // typical code
             moved += static_cast<std::uint32_t>(added.size());
             next += added;
         }
         for (std::size_t i = 0; i + CALL_BYTES <= block.size(); ++i)
         {
             bool const isNearCall = block[i] == '\xe8' && (block[i + 4] == '\0' || block[i + 4] == '\xff');
-            if (isNearCall && random() % 4 != 0) // one that leads over some of the new code
+            if (isNearCall && random() % 4 != 0) // a call across some of the new code
             {
                 std::uint32_t distance = 0;
                 std::memcpy(&distance, &block[i + 1], sizeof distance);

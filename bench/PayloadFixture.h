@@ -1,5 +1,5 @@
-// PayloadFixture.h: what the benchmarks of an update's payload work on: a folder for it, bundles like real ones, peers'
-// programs. Thread: main. Ownership: scope objects; what stands on the disk goes with the process.
+// PayloadFixture.h: the data of the payload benchmarks: a folder, realistic bundles, and the programs for comparison.
+// Thread: main. Ownership: scope objects. Files on the disk are removed when the process ends.
 #pragma once
 
 #include <cstdint>
@@ -12,23 +12,23 @@ namespace Pelnar::Bench
 
 /// A folder below PELNAR_BENCH_FOLDER, or below /tmp.
 std::string const& PayloadFolder();
-/// A name below it that was not given before. Nothing is removed between rounds: on some file systems making files
-/// soon after removing others costs more than all the rest.
+/// A new name below it. Nothing is removed between rounds: on some file systems, creating files soon after removing
+/// others takes longer than everything else.
 std::string FreshPath(std::string const& name);
 
 void WriteFile(std::string const& path, std::string const& bytes);
 std::string ReadFile(std::string const& path);
 
-/// Text and code as they are in programs: words that come again, tables, and a share of noise.
+/// Text and code as in programs: repeated words, tables, and some noise.
 std::string ContentLikeCode(std::uint32_t seed, std::size_t size);
-/// A program as a build of its next version leaves it: new code here and there, and calls that lead over it.
+/// A program as the build of its next version leaves it: some new code, and calls across it.
 std::string NextVersionOf(std::string const& program, std::uint32_t seed);
 
-/// Runs a program to its end; false when it fails.
+/// Runs a program to its end; returns false if it fails.
 [[nodiscard]] bool Run(std::vector<std::string> const& words);
-/// Writes everything that is waiting to be written to the folder's file system.
+/// Writes all pending data of the folder's file system to the disk.
 void Settle();
-/// How long \a act takes, in seconds.
+/// The time that \a act takes, in seconds.
 double SecondsOf(std::function<void()> const& act);
 
 } // namespace Pelnar::Bench

@@ -1,10 +1,11 @@
-// ProcessMemory.h: what the running process has in memory.
+// ProcessMemory.h: the memory of the running process.
 #pragma once
 
 namespace Pelnar::Bench
 {
 
-/// A line of the process' status, "VmRSS:" (now) or "VmHWM:" (at most, since ForgetPeak or the start); 0 when unknown.
+/// A line of the process's status: "VmRSS:" (current) or "VmHWM:" (maximum since ForgetPeak or the start); 0 if
+/// unknown.
 long KibibytesOf(char const* field);
 void ForgetPeak();
 

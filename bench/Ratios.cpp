@@ -57,7 +57,7 @@ public:
             }
             else if (run.run_type == Run::RT_Iteration)
             {
-                // A benchmark that times itself waits for a disk or for other processes.
+                // A benchmark that measures its own time waits for a disk or for other processes.
                 bool const isTimedByItself = run.run_name.time_type == "manual_time";
                 double const seconds = isTimedByItself ? run.real_accumulated_time : run.cpu_accumulated_time;
                 m_nanoseconds[run.run_name.str()].push_back(1e9 * seconds / static_cast<double>(run.iterations));
@@ -72,7 +72,7 @@ public:
 
     bool HasFailed() const { return m_hasFailed; }
 
-    /// Below zero when no benchmark of that name ran.
+    /// Negative if no benchmark with that name ran.
     double Median(std::string const& name) const
     {
         auto const found = m_nanoseconds.find(name);
@@ -91,7 +91,7 @@ private:
     bool m_hasFailed = false;
 };
 
-/// True when every ratio whose two benchmarks ran is within its limit.
+/// True if every ratio whose two benchmarks ran is within its limit.
 bool PrintRatios(TimeKeeper const& times)
 {
     bool isWithin = true;
@@ -112,7 +112,7 @@ bool PrintRatios(TimeKeeper const& times)
     return isWithin;
 }
 
-/// The same of every time.
+/// The same for every time.
 bool PrintTimes(TimeKeeper const& times)
 {
     bool isWithin = true;
@@ -147,8 +147,8 @@ StatedTime::StatedTime(std::string subject, double mostMilliseconds)
 
 int main(int argc, char** argv)
 {
-    // The repetitions of subject and peer alternate, so that a slower minute of the machine meets both. Options on the
-    // command line come later and win.
+    // The repetitions of subject and peer alternate, so that a slower minute of the machine affects both. Command-line
+    // options come later and have priority.
     std::vector<std::string> arguments{argv[0], "--benchmark_enable_random_interleaving=true",
                                        "--benchmark_repetitions=15", "--benchmark_min_time=0.05"};
     arguments.insert(arguments.end(), argv + 1, argv + argc);

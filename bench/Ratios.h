@@ -1,5 +1,5 @@
-// Ratios.h: a benchmark's figures as ratios to its peer's of the same run, which is what stays when the machine
-// changes. Thread: main.
+// Ratios.h: compares a benchmark with its peer in the same run. The ratio stays the same when the machine changes.
+// Thread: main.
 #pragma once
 
 #include <string>
@@ -7,10 +7,10 @@
 namespace Pelnar::Bench
 {
 
-/// States, at load time, that the benchmark \a subject takes at most \a limit times the processor time of the
-/// benchmark \a peer; where the two time themselves (UseManualTime), that time. Both are named as the benchmark library
-/// names them, arguments included ("Choose/1000"). The main function prints the ratio of the medians of interleaved
-/// repetitions and answers with 1 when a limit is missed.
+/// Declares, at load time, that the benchmark \a subject takes at most \a limit times the processor time of the
+/// benchmark \a peer; if both measure their own time (UseManualTime), that time. The names are those of the benchmark
+/// library, including arguments ("Choose/1000"). The main function prints the ratio of the medians of interleaved
+/// repetitions, and returns 1 if a limit is exceeded.
 class StatedRatio
 {
 public:

@@ -1,7 +1,6 @@
-// UpdateBench.cpp: a whole update, from the start of its download to the first line of the new version, beside the sum
-// of what its parts may take by their own limits: 1.05 of curl's time, 1.05 of the bare verification and 1.3 of
-// bsdtar's time. And how much memory a host takes for an update of 1 GiB, and how long its event loop is held up
-// meanwhile.
+// UpdateBench.cpp: a whole update, from the start of its download to the first line of the new version, compared with
+// the sum of the limits of its parts: 1.05 of curl's time, 1.05 of the bare verification and 1.3 of bsdtar's time. It
+// also measures the memory that a host takes for an update of 1 GiB, and how long its event loop is blocked.
 
 #include "Engine/core/base/Descriptor.h"
 #include "bench/PayloadFixture.h"
@@ -33,11 +32,11 @@ constexpr double MOST_OF_CURLS_TIME = 1.05;
 constexpr double MOST_OF_VERIFICATION = 1.05;
 constexpr double MOST_OF_BSDTARS_TIME = 1.3;
 
-/// The next version, signed, at a server.
+/// The next version, signed, on a server.
 class Release
 {
 public:
-    /// \a sizes are those of the files in the bundle beside what every bundle has, \a compression as bsdtar names it.
+    /// \a sizes are those of the additional files in the bundle; \a compression is a name for bsdtar.
     Release(std::vector<std::size_t> const& sizes, std::string const& compression)
     {
         std::string const root = FreshPath("release");
@@ -94,7 +93,7 @@ struct UpdateResult
     bool isStarted = false;
 };
 
-/// Installs version 1.0 somewhere, updates it, and waits for the new version's line.
+/// Installs version 1.0 in a new folder, updates it, and waits for the new version's line.
 UpdateResult UpdateBy(Release const& release)
 {
     std::string const root = FreshPath("installed");
@@ -112,7 +111,7 @@ UpdateResult UpdateBy(Release const& release)
     result.seconds = Bench::SecondsOf(
         [&]
         {
-            // The new version inherits the host's standard output: its end is the end of both.
+            // The new version inherits the host's standard output, so the end of the output is the end of both.
             FILE* const output = ::popen(command.c_str(), "r");
             char piece[256];
             while (output && std::fgets(piece, sizeof piece, output))
@@ -187,7 +186,7 @@ void UpdateFloors(benchmark::State& state)
 }
 BENCHMARK(UpdateFloors)->Unit(benchmark::kMillisecond)->UseManualTime()->Iterations(1);
 
-/// Nothing but the memory and the event loop is of interest.
+/// Only the memory and the event loop are of interest here.
 void UpdateOf1GiB(benchmark::State& state)
 {
     static Release const release(std::vector<std::size_t>(33, std::size_t{32} << 20), "store");

@@ -1,7 +1,7 @@
-// UpdateHost.cpp: a host that downloads one update, has it prepared, and ends when the helper waits for that. Prints
-// how much memory it took above what it has when it is idle, in KiB, and the longest event of its event loop, in
-// milliseconds. Arguments: the archive's address, length and signature, the public key, the installed bundle, its
-// identifier, a folder for downloads.
+// UpdateHost.cpp: a host that downloads and prepares one update, and ends when the helper waits for that. It prints the
+// memory that it took in addition to its idle memory, in KiB, and the longest event of its event loop, in milliseconds.
+// Arguments: the archive's address, length and signature, the public key, the installed bundle, its identifier, a
+// folder for downloads.
 
 #include "Engine/core/update/InstallAttempt.h"
 #include "Engine/core/update/InstallHandover.h"

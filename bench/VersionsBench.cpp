@@ -1,4 +1,4 @@
-// VersionsBench.cpp: two versions of four components parsed and compared, beside Qt's own version class.
+// VersionsBench.cpp: parsing and comparing two versions of four components, compared with Qt's own version class.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "bench/Ratios.h"
@@ -18,7 +18,7 @@ namespace
 using Pelnar::Core::Version;
 using Pelnar::Core::Util::ShrinkVersion;
 
-/// As feeds have them: neighbours that differ in one of the later components.
+/// As in feeds: neighbours that differ in one of the later components.
 std::vector<std::pair<QString, QString>> const& Pairs()
 {
     static std::vector<std::pair<QString, QString>> const pairs = []
@@ -36,7 +36,7 @@ std::vector<std::pair<QString, QString>> const& Pairs()
 
 void Versions(benchmark::State& state)
 {
-    // The order that the updater lends.
+    // The order that the updater gives to the session.
     std::function<bool(Version const&, Version const&)> const less = [](Version const& a, Version const& b)
     { return ShrinkVersion(a, 4) < ShrinkVersion(b, 4); };
     std::size_t i = 0;

@@ -1,6 +1,6 @@
-// ArchivePolicyFuzz.cpp: any list of entries before the archive policy, beside a model of what a file system would make
-// of those that it admits: nothing is ever made outside the bundle's folder, through a link, or twice, and in an
-// archive that is accepted every link leads to something inside.
+// ArchivePolicyFuzz.cpp: any list of entries for the archive policy, checked against a model of the file system.
+// Admitted entries create nothing outside the bundle's folder, nothing through a link, and nothing twice. In an
+// accepted archive every link points to something inside.
 
 #include "Engine/core/archive/ArchiveEntryRules.h"
 
@@ -16,7 +16,7 @@ namespace
 
 using namespace Pelnar::Engine;
 
-/// Values from the fuzzer's bytes; zeros at their end.
+/// Values from the fuzzer's bytes; zeros after their end.
 class Input
 {
 public:
@@ -32,7 +32,7 @@ public:
         --m_size;
         return *m_data++;
     }
-    /// A text that is made of pieces which matter to paths, or of any bytes.
+    /// A text made of pieces that matter in paths, or of any bytes.
     std::string Path()
     {
         static char const* const pieces[] = {"A.app", "a",  "b",  "c",        "/",         "/",      "..", ".",
@@ -72,7 +72,7 @@ void Require(bool holds)
     }
 }
 
-/// What a file system without any rules holds.
+/// The content of a file system without any rules.
 class Model
 {
 public:
@@ -125,7 +125,7 @@ private:
         std::string linkTarget;
     };
 
-    /// Follows \a path as a kernel does.
+    /// Resolves \a path as a kernel does.
     void RequireInside(std::string const& bundleName, std::string const& path) const
     {
         std::vector<std::string> done;
@@ -143,7 +143,7 @@ private:
             {
                 Require(!done.empty());
                 done.pop_back();
-                Require(!done.empty()); // the bundle's own folder is as high as it goes
+                Require(!done.empty()); // the bundle's own folder is the highest
                 continue;
             }
             done.push_back(name);

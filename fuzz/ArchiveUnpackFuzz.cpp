@@ -1,7 +1,6 @@
-// ArchiveUnpackFuzz.cpp: any bytes as an archive, unpacked for real into a folder in memory: no matter what the verdict
-// is, nothing stands outside that folder, and an archive that is accepted gives exactly the tree that was reported. The
-// first byte says whether the rest is an archive as it is or a tar that is put under gzip first, so that mutations
-// reach the entries.
+// ArchiveUnpackFuzz.cpp: unpacks any bytes as an archive into a folder in memory. Nothing is created outside that
+// folder, whatever the verdict is. An accepted archive gives exactly the reported tree. If the first byte says so, the
+// rest is a tar that is compressed with gzip first, so that mutations reach the entries.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/archive/UnpackArchive.h"
@@ -35,7 +34,7 @@ void Require(bool holds)
     }
 }
 
-/// A folder of this process' own, gone at its end, that holds the staging folder and a decoy.
+/// This process's own folder, removed at its end, with the staging folder and a decoy.
 class Place
 {
 public:
@@ -89,7 +88,7 @@ UniqueFd FileOf(std::uint8_t const* data, std::size_t size)
     return file;
 }
 
-/// Thrown for what is allowed but would fill this machine's memory.
+/// Thrown for content that is allowed but would fill this machine's memory.
 struct TooLarge
 {
 };

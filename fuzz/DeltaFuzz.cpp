@@ -1,7 +1,6 @@
-// DeltaFuzz.cpp: any bytes as what a delta brings, in both formats: as a manifest, as the numbers of a patch, as packed
-// streams, as a packed text and its recipe, as a program that is changed and as the steps that change it. An accepted
-// manifest says the same when it is written and read again, no patch makes more bytes than it may, and nothing reads
-// outside what it is given.
+// DeltaFuzz.cpp: any bytes as each part of a delta, in both formats: a manifest, the numbers of a patch, packed
+// streams, a packed text and its recipe, a program and the steps that change it. An accepted manifest is unchanged
+// after it is written and read again. No patch makes more bytes than allowed, and nothing is read outside the input.
 
 #include "Engine/core/delta/BinaryPatch.h"
 #include "Engine/core/delta/DeltaManifest.h"
@@ -38,7 +37,7 @@ void CheckSeparateManifest(Bytes bytes)
     DeltaManifest manifest;
     if (DecodeDeltaManifest(bytes, {}, manifest).error == DeltaManifestError::None)
     {
-        // It is the one form of what it says.
+        // Its encoding is unique.
         ByteBuffer const again = Pelnar::Testing::EncodeManifest(manifest);
         Require(View(again) == bytes);
     }
@@ -71,7 +70,7 @@ ByteSource SourceOf(Bytes all)
     };
 }
 
-/// The first byte says where the steps end and the runs begin.
+/// The first byte decides where the steps end and the runs begin.
 PatchSources SourcesOf(Bytes bytes)
 {
     std::size_t const split = bytes.empty() ? 0 : std::min<std::size_t>(bytes.front(), bytes.size());
@@ -97,7 +96,7 @@ void CheckPatch(Bytes bytes)
     Require(made <= NEW_BYTES && (verdict != PatchVerdict::Applied || made == NEW_BYTES));
 }
 
-/// \a program, if it is one, changed by steps and to segments that \a bytes say.
+/// Changes \a program, if it is one, by the steps and to the segments that \a bytes describe.
 void CheckProgram(Bytes program, Bytes bytes)
 {
     std::optional<ImageLayout> const layout = ReadImageLayout(program);
@@ -132,7 +131,7 @@ void CheckStream(Bytes bytes)
     {
         return;
     }
-    // A small window: its memory is had again for each input.
+    // A small window, because its memory is allocated for each input.
     auto const unpacker = MakeUnpacker(bytes.front(), 12);
     Bytes input = bytes.substr(1);
     ByteBuffer made(2000);
@@ -148,7 +147,7 @@ void CheckStream(Bytes bytes)
     }
 }
 
-/// The input as a file of gzip's kind, as a recipe, and as what stands behind the beginning of a right one.
+/// The input as a gzip file, as a recipe, and as the data after the start of a valid one.
 void CheckPackedText(Bytes bytes)
 {
     constexpr std::size_t MOST_BYTES = 4096;
@@ -168,7 +167,7 @@ void CheckPackedText(Bytes bytes)
         std::optional<ByteBuffer> const made = PackByRecipe(tried, View(text), MOST_BYTES, {});
         Require(!made || made->size() <= MOST_BYTES);
     }
-    // The input as the packed data of a text that is equal to the new one.
+    // The input as packed data of a text that equals the new one.
     static ByteBuffer const longText(100000, 7);
     Bytes const view(longText.data(), longText.size());
     std::optional<DeflateTokens> const tokens = TokensLike({view, bytes, {{view.size(), 0, 0}}}, view, {6, 8});
@@ -201,7 +200,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     CheckProgram(bytes, bytes.substr(bytes.size() - std::min<std::size_t>(bytes.size(), 64)));
     for (auto const processor : {Pelnar::Testing::Processor::X86, Pelnar::Testing::Processor::Arm64})
     {
-        // A right program with the input over a place of its own.
+        // A valid program with the input written over a part of it.
         ByteBuffer program = SmallProgram(processor);
         std::size_t const at = size < 2 ? 0 : (data[0] << 8 | data[1]) % program.size();
         std::copy_n(data, std::min(size, program.size() - at), program.begin() + static_cast<std::ptrdiff_t>(at));

@@ -1,5 +1,5 @@
-// FeedFuzz.cpp: the bytes of a feed, its items and the choice among them: the limits hold, and the same bytes give the
-// same answer.
+// FeedFuzz.cpp: any bytes as a feed, its items and the choice among them. The limits hold, and the same bytes give the
+// same result.
 
 #include "Engine/core/feed/FeedParser.h"
 #include "Engine/core/feed/ReleaseRules.h"
@@ -28,7 +28,7 @@ void Require(bool holds, char const* promise)
     }
 }
 
-/// By Qt's tables, and not by the rule that is tried: these six format characters are seen.
+/// By Qt's tables and not by the tested rule. These six format characters are visible.
 bool IsSeen(uint codePoint)
 {
     return (codePoint >= 0x600 && codePoint <= 0x605) || codePoint == 0x6DD || codePoint == 0x70F ||
@@ -136,7 +136,7 @@ void RequireHonestChoice(std::vector<FeedItem> const& items)
     Require(choice == nullptr || (choice->contentLength > 0 && choice->fileUrl.isValid()), "a choice can be fetched");
 }
 
-/// What a client leaves out before it chooses, once it trusts a key, lists a channel and waits for its group.
+/// The items that a client removes before the choice, if it trusts a key, lists a channel and waits for its group.
 void RequireHonestPolicy(std::vector<FeedItem> const& items)
 {
     auto const group = [](QString const&) { return 3; };

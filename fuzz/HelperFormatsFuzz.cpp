@@ -1,5 +1,5 @@
-// HelperFormatsFuzz.cpp: any bytes as a job, as a program's arguments, as a swap's journal, as an installation's record
-// and as a line of the helper's report: what is accepted is the one form of what it says.
+// HelperFormatsFuzz.cpp: any bytes as a job, as a program's arguments, as a swap journal, as an installation record and
+// as a line of the helper's report. Every accepted value has exactly one encoding.
 
 #include "Engine/core/helper/HelperReport.h"
 #include "Engine/core/helper/InstallRecord.h"

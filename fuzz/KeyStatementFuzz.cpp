@@ -1,5 +1,5 @@
-// KeyStatementFuzz.cpp: any bytes as a key statement and as a feed with one: what is read has one spelling and keeps
-// the bounds, the line that is found is found again, and nothing is believed that the root key has not signed.
+// KeyStatementFuzz.cpp: any bytes as a key statement and as a feed with one. An accepted statement has one spelling and
+// is within the limits. A written line is found again. No statement is accepted that the root key has not signed.
 
 #include "Engine/core/check/KeyStatement.h"
 
@@ -65,7 +65,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     QByteArray const bytes(reinterpret_cast<char const*>(data), static_cast<int>(size));
     RequireStatement(bytes.toStdString());
     RequireLine(bytes);
-    // No mutation makes a signature, but it makes the text that is signed.
+    // No mutation produces a signature, but it produces the text that is signed.
     QByteArray const line = KeyStatementLine(bytes.toStdString(), std::string(86, 'A') + "==");
     RequireLine(line);
     bool const isReadable = size <= KeyStatement::MOST_BYTES;

@@ -1,5 +1,5 @@
-// PropertyListFuzz.cpp: any bytes as a property list: the limits hold, and a value that is accepted, written in the old
-// style, reads as the same value.
+// PropertyListFuzz.cpp: any bytes as a property list. The limits hold. An accepted value, written in the old style,
+// reads as the same value.
 
 #include "Engine/core/bundle/PropertyList.h"
 
@@ -78,7 +78,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     }
     Require(size <= PROPERTY_LIST_MAX_BYTES);
     std::string const written = Written(*value, 0);
-    if (written.size() <= PROPERTY_LIST_MAX_BYTES) // quotes may take it over the limit
+    if (written.size() <= PROPERTY_LIST_MAX_BYTES) // quotes may push it over the limit
     {
         auto const again = ParsePropertyList(written);
         Require(again && IsSame(*value, *again));

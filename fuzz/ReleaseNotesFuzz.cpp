@@ -1,5 +1,5 @@
-// ReleaseNotesFuzz.cpp: the first byte names the format, the rest are release notes: what the filter puts out keeps its
-// promises and comes out of it unchanged.
+// ReleaseNotesFuzz.cpp: the first byte selects the format, the rest are release notes. The filter's output is safe, and
+// filtering it again changes nothing.
 
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "tests/engine_ui/SafeMarkup.h"

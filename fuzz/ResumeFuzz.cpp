@@ -1,7 +1,6 @@
-// ResumeFuzz.cpp: any bytes as the record of a partial archive, and as the answer to a request for the rest of one:
-// what is appended has the validator and the range that were asked for, and no head is taken that two readers might
-// read differently.
-// Input: how much there is, how much there is to be, which validators are known (a byte each), then the answer.
+// ResumeFuzz.cpp: any bytes as the record of a partial archive, and as the answer to a request for its rest. Appended
+// bytes have the requested validator and range. A head that two readers could read differently is refused. Input: the
+// present and the total number of bytes and the known validators (a byte each), then the answer.
 
 #include "Engine/core/download/PartialRecord.h"
 #include "Engine/core/download/ResumeRules.h"
@@ -38,7 +37,7 @@ void CheckRecord(std::string_view bytes)
     }
     FoundFile const file{record->declaredBytes, record->fileNumber, record->systemStart};
     Require(TrustedBytes(*record, file, record->url, record->declaredBytes) <= record->declaredBytes);
-    // What may be asked for never leads beyond the budget.
+    // No request exceeds the budget.
     DownloadSpending const budget = BudgetOf(record->declaredBytes);
     if (JudgeSpending(record->spent, record->declaredBytes, record->declaredBytes))
     {

@@ -1,5 +1,5 @@
-// SeedRunner.cpp: the main function of a fuzz target as an ordinary test: passes every seed of a folder through it.
-// Exit status 0 when all passed, 1 when the folder has no seed or one cannot be read; a broken promise aborts.
+// SeedRunner.cpp: the main function that makes an ordinary test of a fuzz target: it passes every seed of a folder to
+// the target. Exit status 0 if all passed, 1 if the folder has no seed or one cannot be read. A failed check aborts.
 
 #include <QDir>
 #include <QFile>
@@ -28,7 +28,7 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "cannot read %s\n", path.constData());
             return 1;
         }
-        // Before the target runs, so that an abort is preceded by the name of its seed.
+        // Printed before the target runs, so that the name of the seed precedes an abort.
         std::fprintf(stderr, "%s\n", path.constData());
         QByteArray const content = file.readAll();
         LLVMFuzzerTestOneInput(reinterpret_cast<std::uint8_t const*>(content.constData()),

@@ -1,6 +1,6 @@
-// SignedFeedFuzz.cpp: any bytes as a signed feed: every byte is signed or is the signature's own line, nothing that
-// looks like a signature is part of what is believed, and a signature that is added to any bytes is found again. The
-// same bytes as the record of a feed, and as a kept feed with its digest and without.
+// SignedFeedFuzz.cpp: any bytes as a signed feed. Every byte is signed or belongs to the signature's line. No text that
+// looks like a signature is part of the accepted content. A signature that is added to any bytes is found again. The
+// same bytes are also read as the record of a feed, and as a kept feed with and without its digest.
 
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/check/FeedRecordFile.h"
@@ -110,7 +110,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     RequireRecord(bytes);
     std::string const plain = bytes.toStdString();
     RequireKept(plain);
-    // No mutation finds a digest.
+    // No mutation finds a matching digest.
     RequireKept(plain + QCryptographicHash::hash(bytes, QCryptographicHash::Sha256).toStdString());
     return 0;
 }

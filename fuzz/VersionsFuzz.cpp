@@ -1,5 +1,5 @@
-// VersionsFuzz.cpp: three versions, one a line of UTF-8: parsing keeps its promises, and the order of versions shrunk
-// to four components is an order.
+// VersionsFuzz.cpp: three versions, one per line of UTF-8. Both parsers agree, and the versions, shrunk to four
+// components, have a total order.
 
 #include "App/UpdateChecker/SparkleImpl/Choice/VersionText.h"
 #include "HostFramework/VersionText.h"

@@ -65,7 +65,7 @@ ByteBuffer RandomBytes(std::mt19937& random, std::size_t size, int alphabet)
     return bytes;
 }
 
-/// What a new build does to a file: pieces move, are replaced, inserted and dropped.
+/// The effect of a new build on a file: pieces are moved, replaced, inserted and removed.
 ByteBuffer Edited(std::mt19937& random, ByteBuffer bytes)
 {
     for (int edit = 0; edit < 6; ++edit)

@@ -14,7 +14,7 @@ Bytes View(std::string const& text)
     return {reinterpret_cast<std::uint8_t const*>(text.data()), text.size()};
 }
 
-/// What `sha256sum` prints for "abc".
+/// The output of `sha256sum` for "abc".
 TEST(ContentHasher, IsSha256)
 {
     constexpr ContentHash OF_ABC{0xba, 0x78, 0x16, 0xbf, 0x8f, 0x01, 0xcf, 0xea, 0x41, 0x41, 0x40,
@@ -23,7 +23,7 @@ TEST(ContentHasher, IsSha256)
     EXPECT_EQ(HashOf(View("abc")), OF_ABC);
 }
 
-/// What `b2sum -l 256` prints for "abc": names on disks and older deltas have it.
+/// The output of `b2sum -l 256` for "abc". It is used for names on disks and in older deltas.
 TEST(ContentHasher, IsBlake2bWith32BytesOfOutputWhereItIsAskedFor)
 {
     constexpr ContentHash OF_ABC{0xbd, 0xdd, 0x81, 0x3c, 0x63, 0x42, 0x39, 0x72, 0x31, 0x71, 0xef,

@@ -1,4 +1,4 @@
-// DeltaManifestTest.cpp: which manifests of a delta are right, and which bytes are one.
+// DeltaManifestTest.cpp: which manifests of a delta are valid, and which bytes are a manifest.
 
 #include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/base/Descriptor.h"

@@ -1,5 +1,5 @@
-// JoinedDeltaTest.cpp: containers whose files' data are joined: what they make of whole trees, the rules for units, and
-// that the format before is still applied.
+// JoinedDeltaTest.cpp: containers of the joined format: the resulting trees, the rules for units, and that the previous
+// format can still be applied.
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"
@@ -173,7 +173,7 @@ TEST_F(JoinedDelta, ManyPackedTextsAndOthersComeOutAsTheyAre)
         WriteFile(New() / ("plain" + std::to_string(i)), "a beginning" + text);
     }
     WriteFile(Old() / "other.gz", GzipOf(WordsOf(20, 9000)));
-    WriteFile(New() / "other.gz", GzipOf(Noise(21, 9000))); // has nothing of the old text
+    WriteFile(New() / "other.gz", GzipOf(Noise(21, 9000))); // contains nothing of the old text
     WriteFile(Old() / "stored.gz", GzipOf(WordsOf(22, 9000), 0));
     WriteFile(New() / "stored.gz", GzipOf(WordsOf(22, 8000), 0)); // has no recipe
     WriteFile(New() / "new.gz", GzipOf(WordsOf(23, 9000)));
@@ -210,7 +210,7 @@ TEST_F(JoinedDelta, TellsThatThePackedTextOfTheOldVersionIsAnother)
     WriteFile(Old() / "changes.gz", file);
     WriteFile(New() / "changes.gz", GzipOf("One more line.\n" + text));
     ASSERT_TRUE(Make().outcome.HasSucceeded());
-    // Of the same size, which is asked first.
+    // The size is equal, because it is checked first.
     for (std::string other : {GzipOf(WordsOf(2, 60000)), Noise(3, file.size())})
     {
         ASSERT_GE(other.size(), file.size());
@@ -220,7 +220,7 @@ TEST_F(JoinedDelta, TellsThatThePackedTextOfTheOldVersionIsAnother)
         EXPECT_EQ(outcome.error, DeltaError::BaseDiffers);
         EXPECT_EQ(outcome.path, "changes.gz");
     }
-    // Another text in a right file.
+    // A valid file with another text.
     std::string changed = text;
     std::swap(changed[20000], changed[20001]);
     WriteFile(Old() / "changes.gz", GzipOf(text, 0));

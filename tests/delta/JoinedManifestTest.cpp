@@ -1,4 +1,4 @@
-// JoinedManifestTest.cpp: the rules for the units of a joined delta, and its damaged streams.
+// JoinedManifestTest.cpp: the rules for the units of a joined delta, and damaged streams.
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/delta/DeltaApplier.h"

@@ -1,4 +1,4 @@
-// PackedFiles.h: texts, and files of gzip's kind with them.
+// PackedFiles.h: texts, and gzip files of them.
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
@@ -8,13 +8,13 @@
 namespace Pelnar::Testing
 {
 
-/// Some \a size bytes of words and numbers, others for each \a seed.
+/// \a size bytes of words and numbers, different for each \a seed.
 std::string WordsOf(unsigned seed, std::size_t size);
 
-/// \a text as zlib packs it.
+/// \a text as zlib compresses it.
 std::string GzipOf(std::string const& text, int level = 9, int memory = 8);
 
-/// Some \a size bytes that no packer makes smaller, others for each \a seed.
+/// \a size bytes that cannot be compressed, different for each \a seed.
 std::string Noise(unsigned seed, std::size_t size);
 
 } // namespace Pelnar::Testing

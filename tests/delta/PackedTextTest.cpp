@@ -1,4 +1,4 @@
-// PackedTextTest.cpp: files of gzip's kind as texts and recipes, and back to the very bytes.
+// PackedTextTest.cpp: gzip files are split into texts and recipes, and restored byte for byte.
 
 #include "Engine/core/delta/PackedText.h"
 #include "tests/delta/PackedFiles.h"
@@ -31,7 +31,7 @@ std::string Text(ByteBuffer const& bytes)
     return {bytes.begin(), bytes.end()};
 }
 
-/// Expects that \a file comes apart and together again; answers its recipe.
+/// Splits \a file and expects that it is restored. Returns its recipe.
 ByteBuffer ExpectTheWayBack(std::string const& file, std::string const& text)
 {
     std::optional<ByteBuffer> const unpacked = UnpackText(View(file));
@@ -44,7 +44,7 @@ ByteBuffer ExpectTheWayBack(std::string const& file, std::string const& text)
     return recipe.value_or(ByteBuffer());
 }
 
-/// What the program gzip makes of \a text. It ends blocks elsewhere than zlib.
+/// The output of the program gzip for \a text. Its blocks end at other places than zlib's.
 std::string GzipProgramsOf(std::string const& text, std::string const& options)
 {
     QTemporaryDir const folder;
@@ -114,11 +114,11 @@ TEST(PackedText, OtherFilesAreNoTexts)
 
 TEST(PackedText, AnUnknownPackerHasNoRecipe)
 {
-    // Some other text's tokens.
+    // The tokens of another text.
     std::string const text = WordsOf(5, 5000);
     std::string const file = GzipOf(text);
     EXPECT_FALSE(FindRecipe(View(file), View(WordsOf(6, 5000))));
-    // Blocks that are stored as they are.
+    // Stored blocks.
     EXPECT_FALSE(FindRecipe(View(GzipOf(text, 0)), View(text)));
 }
 
@@ -144,7 +144,7 @@ TEST(PackedText, BrokenRecipesMakeNothingLargerThanAllowed)
     }
 }
 
-/// A text, and another one with something new before it and in it.
+/// A text, and another one with new parts at its start and inside.
 struct TwoTexts
 {
     std::string const before = WordsOf(8, 400000);

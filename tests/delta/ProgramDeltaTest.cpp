@@ -1,5 +1,5 @@
-// ProgramDeltaTest.cpp: programs whose code only moved make small deltas, and no matter what a file says of itself,
-// what comes out is the new file or nothing.
+// ProgramDeltaTest.cpp: programs whose code only moved give small deltas. Any content of a file gives either the new
+// file or nothing.
 
 #include "Engine/core/delta/AlignmentText.h"
 #include "Engine/core/delta/PatchApplier.h"
@@ -36,7 +36,7 @@ PatchSources Readers(BinaryPatch const& patch)
     return sources;
 }
 
-/// A patch of programs: how many bytes differ from what is foretold, or are new, and what it makes.
+/// A patch of programs: the number of bytes that differ from the prediction or are new, and its result.
 struct ProgramPatch
 {
     std::size_t changedBytes = 0;
@@ -109,7 +109,7 @@ TEST_P(MovedProgram, DiffersInLittleMoreThanWhatIsNew)
     ProgramPatch const patch = PatchProgram(before, after);
     EXPECT_EQ(patch.verdict, PatchVerdict::Applied);
     EXPECT_EQ(patch.made, after);
-    // The headers and what is new; without a look at addresses there are thousands.
+    // The headers and the new parts. Without the prediction of addresses there would be thousands.
     EXPECT_LT(patch.changedBytes, 1100u);
     BinaryPatch const plain = MakeBinaryPatch(View(before), View(after)).value();
     EXPECT_GT(plain[PatchStream::Difference].size() + plain[PatchStream::Extra].size(), 2 * patch.changedBytes);
@@ -145,7 +145,7 @@ TEST(ProgramDelta, EditedProgramsSurviveTheRoundTrip)
             ByteBuffer after = ForgeProgram(shape);
             for (int edit = 0; edit < 30; ++edit)
             {
-                // Not in the headers at the beginning, so that it is still taken for a program.
+                // Not in the headers at the start, so that the file still counts as a program.
                 before[300 + random() % (before.size() - 300)] = static_cast<std::uint8_t>(random());
                 after[300 + random() % (after.size() - 300)] = static_cast<std::uint8_t>(random());
             }
@@ -239,7 +239,7 @@ std::uint64_t Forward(std::uint64_t distance)
 
 TEST(AddressMap, PlacesGoWithTheirRun)
 {
-    // 100 bytes stay, 50 are new, 100 more stay, 20 are gone, the rest stays.
+    // 100 bytes stay, 50 are new, 100 more stay, 20 are removed, the rest stays.
     AddressMap const map(LayoutOf(1000), {{0, 1030, 0x1000}}, {{100, 50, 0}, {100, 0, Forward(20)}, {780, 0, 0}});
     EXPECT_EQ(map.Find(0x1000), 0x1000u);
     EXPECT_EQ(map.Find(0x1000 + 99), 0x1000u + 99);
@@ -252,7 +252,7 @@ TEST(AddressMap, PlacesGoWithTheirRun)
 
 TEST(AddressMap, LongestRunCountsWhereSeveralOverlap)
 {
-    // All 1000 bytes stay, then 10 from the middle are there once more, then all but the first once more.
+    // All 1000 bytes stay. Then 10 from the middle are repeated, then all except the first one are repeated.
     std::uint64_t const back = 2 * 500 - 1;
     AddressMap const map(LayoutOf(1000), {{0, 2500, 0x1000}}, {{1000, 0, back}, {10, 0, 2 * 509 - 1}, {999, 0, 0}});
     EXPECT_EQ(map.Find(0x1000 + 505), 0x1000u + 505);

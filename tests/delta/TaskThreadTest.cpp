@@ -18,7 +18,7 @@ using namespace Pelnar::Engine;
 
 constexpr std::size_t AHEAD = 4;
 
-/// Work that others overtake.
+/// Takes a moment, so that later tasks could overtake it.
 void Dawdle(int rounds)
 {
     for (int i = 0; i < rounds; ++i)
@@ -95,7 +95,7 @@ TEST(TaskThread, ThrowsWhatATaskHasThrownAndDoesNoMore)
 
 TEST(TaskThread, DropsWhatHasNotBegunWhenItEnds)
 {
-    constexpr int MANY = 1000; // which would take seconds
+    constexpr int MANY = 1000; // would take seconds
     int done = 0;
     {
         TaskThread tasks(MANY);

@@ -85,7 +85,7 @@ TEST_F(UpdateScenario, ASilentDownloadEndsInTheDialogAndTheNewVersionRuns)
         << "no window of the engine";
 }
 
-TEST_F(UpdateScenario, ASettingOfAnEarlierVersionIsTakenOver)
+TEST_F(UpdateScenario, ASettingOfAnEarlierVersionIsCopied)
 {
     UpdateServer server;
     demo.WriteEarlierDefaults(DOWNLOADS_SILENTLY);
@@ -150,7 +150,7 @@ TEST_F(UpdateScenario, ATamperedArchiveIsRefusedAndTheOldVersionStarts)
     EXPECT_EQ(std::count(pictures.begin(), pictures.end(), "PelnarEngine_errorWindow"), 1);
 }
 
-TEST_F(UpdateScenario, AVersionThatFailsToStartTwiceIsTakenBackAndOfferedOnlyToAPersonWhoAsks)
+TEST_F(UpdateScenario, AVersionThatFailsToStartTwiceIsRolledBackAndOfferedOnlyToAPersonWhoAsks)
 {
     UpdateServer server;
     DemoOutput const output = Run(server, BROKEN_FEED, Script("user", "update", {INSTALL, RELAUNCH}));
@@ -174,7 +174,7 @@ TEST_F(UpdateScenario, AnUpdateThatIsInstalledIsNotOfferedAgain)
     EXPECT_EQ(output.RunningVersions(), Names{"5.10"}) << output.Text();
 }
 
-TEST_F(UpdateScenario, AVersionThatWasOfferedAndRefusedMovesNoFloor)
+TEST_F(UpdateScenario, AVersionThatWasOfferedAndRefusedDoesNotBlockTheNext)
 {
     PublishedSite const site;
     QByteArray feed = site.Read(TAMPERED_FEED);

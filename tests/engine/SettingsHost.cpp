@@ -1,6 +1,6 @@
-// SettingsHost.cpp: a host application that has the engine read or change one user default, and says it.
-// Usage: Notely get | on | off [OWN]   with OWN, it also stores that text in its own defaults, before and after, and
-//                                      says what it reads there
+// SettingsHost.cpp: a host application that lets the engine read or change one user default, and prints it.
+// Usage: Notely get | on | off [OWN]
+// With OWN, it also stores that text in its own defaults, before and after, and prints what it reads there.
 
 #include "tests/engine/ScriptedDelegate.h"
 #include "tests/engine/StoredDefaults.h"

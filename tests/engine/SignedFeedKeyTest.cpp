@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(Entries, UnusableRootKey,
                                          Entry{"NoKey", "PelnarRootPublicEDKey = a;", true}),
                          [](auto const& row) { return std::string(row.param.name); });
 
-TEST_P(UnusableRootKey, IsNoAbsentOne)
+TEST_P(UnusableRootKey, IsNotTreatedAsAbsent)
 {
     EXPECT_EQ(EventsWith(GetParam().text), "aborted 3002;");
 }

@@ -168,7 +168,7 @@ TEST_F(SignedFeedCheck, OlderFeedThanTheLastIsRefusedByTheNextProcessAsWell)
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9007199254740993")), Events{"aborted 3002"});
 }
 
-TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedMeanwhileIsNotLowered)
+TEST_F(SignedFeedCheck, LowestSerialThatAnotherProcessRaisedMeanwhileIsNotLowered)
 {
     answer = OkAnswer(SignedFeedOf("5.1", "5"));
     driver.emplace(DelegateScript{&ChooseFirst, &CompareNumbers, {}, {}});
@@ -183,7 +183,7 @@ TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedMeanwhileIsNotLowered)
     EXPECT_EQ(Check(SignedFeedOf("5.2", "9")), (Events{"asked", "found 5.2"}));
 }
 
-TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedBetweenChecksHolds)
+TEST_F(SignedFeedCheck, LowestSerialThatAnotherProcessRaisedBetweenChecksHolds)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.1", "5")), (Events{"asked", "found 5.1"}));
     WaitForSerial(5);
@@ -192,7 +192,7 @@ TEST_F(SignedFeedCheck, FloorThatAnotherProcessRaisedBetweenChecksHolds)
     ExpectRefused(3002, 762);
 }
 
-TEST_F(SignedFeedCheck, RefusedFeedsMoveNoFloor)
+TEST_F(SignedFeedCheck, RefusedFeedsDoNotRaiseTheLowestSerial)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.1", "2")), (Events{"asked", "found 5.1"}));
     QByteArray forward = SignedFeedOf("5.9", "9000");
@@ -202,7 +202,7 @@ TEST_F(SignedFeedCheck, RefusedFeedsMoveNoFloor)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "3")), (Events{"asked", "found 5.1"}));
 }
 
-TEST_F(SignedFeedCheck, NeitherAnotherAddressNorAFragmentLowersTheFloor)
+TEST_F(SignedFeedCheck, NeitherAnotherAddressNorAFragmentLowersTheSerial)
 {
     EXPECT_EQ(Check(SignedFeedOf("5.1", "9")), (Events{"asked", "found 5.1"}));
     QUrl withFragment = server.Url();
@@ -229,7 +229,7 @@ TEST_F(SignedFeedCheck, LowestSerialOfTheDefaultsIsCopiedOnceForEveryAddress)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
-TEST_F(SignedFeedCheck, FloorOfTheEarlierFileIsTakenOverOnce)
+TEST_F(SignedFeedCheck, LowestSerialOfTheEarlierFileIsCopiedOnce)
 {
     QString const earlier = FeedRecordPath(EarlierDefaultsFolder(), {});
     FeedRecord record;
@@ -244,7 +244,7 @@ TEST_F(SignedFeedCheck, FloorOfTheEarlierFileIsTakenOverOnce)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "10")), (Events{"asked", "found 5.1"})) << "once";
 }
 
-TEST_F(SignedFeedCheck, FloorIsNotLookedForThroughALink)
+TEST_F(SignedFeedCheck, LowestSerialIsNotReadThroughALink)
 {
     QTemporaryDir const elsewhere;
     ASSERT_TRUE(QDir().mkpath(QFileInfo(StateFolder()).path()));
@@ -259,7 +259,7 @@ TEST_F(SignedFeedCheck, FloorIsNotLookedForThroughALink)
     EXPECT_EQ(ReadFeedRecordFile(elsewhere.filePath(QStringLiteral("updates/feed")))->serial, 8);
 }
 
-TEST_F(SignedFeedCheck, UnreadableLowestSerialCountsAsNone)
+TEST_F(SignedFeedCheck, UnreadableLowestSerialIsIgnored)
 {
     for (QByteArray const& record :
          {QByteArray("serial = eight;"), QByteArray("serial = \"8\";"), QByteArray("serial = (<*I8>);"),
@@ -286,7 +286,7 @@ TEST_F(SignedFeedCheck, UnreadableLowestSerialCountsAsNone)
     }
 }
 
-TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
+TEST_F(SignedFeedCheck, StoringItDoesNotBlockTheEventLoop)
 {
     ASSERT_TRUE(QDir().mkpath(QFileInfo(RecordPath()).path()));
     // Every writer waits for this lock.
@@ -299,7 +299,7 @@ TEST_F(SignedFeedCheck, ItsStorageHoldsNoEventLoopUp)
     WaitForSerial(7);
 }
 
-TEST_F(SignedFeedCheck, FloorThatNoDiskKeepsHoldsAsLongAsTheProcess)
+TEST_F(SignedFeedCheck, LowestSerialThatCannotBeSavedHoldsUntilTheProcessEnds)
 {
     ASSERT_TRUE(QDir().mkpath(StateFolder()));
     QFile inTheWay(QFileInfo(RecordPath()).path());

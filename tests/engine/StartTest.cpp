@@ -172,10 +172,10 @@ private:
 };
 
 /// The same, but 2.0 must confirm a good start.
-class StartWithAWord : public Start
+class StartToConfirm : public Start
 {
 protected:
-    StartWithAWord() : Start(WITH_WORD) {}
+    StartToConfirm() : Start(WITH_WORD) {}
 };
 
 bool IsExchange(CallStop const& stop)
@@ -240,7 +240,7 @@ TEST_F(Start, AfterAnInstallationThatFailedTellsItWithoutACheckToo)
     EXPECT_EQ(Run(listening), "aborted 4012;");
 }
 
-TEST_F(Start, TakesOverWhatEarlierVersionsKnewOfAnInstallation)
+TEST_F(Start, CopiesTheRecordsOfEarlierVersions)
 {
     FailToInstall("renameat2:error=EPERM", EarlierFolder(), EarlierFolder());
     EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4012;");
@@ -276,7 +276,7 @@ TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)
               QStringList());
 }
 
-TEST_F(StartWithAWord, KeepsANewVersionThatConfirms)
+TEST_F(StartToConfirm, KeepsANewVersionThatConfirms)
 {
     ASSERT_EQ(Install().exitStatus, 0);
     Run({QStringLiteral("background"), QStringLiteral("confirm")});
@@ -289,7 +289,7 @@ TEST_F(StartWithAWord, KeepsANewVersionThatConfirms)
     ExpectWhole("2.0");
 }
 
-TEST_F(StartWithAWord, TakesBackAVersionThatNeverConfirmsAndOffersItAgainOnlyToAPersonWhoAsks)
+TEST_F(StartToConfirm, RollsBackAVersionThatNeverConfirmsAndOffersItAgainOnlyToAPersonWhoAsks)
 {
     ASSERT_EQ(Install().exitStatus, 0);
     for (int start = 0; start < 2; ++start)

@@ -64,7 +64,7 @@ TEST_P(HiddenCharacters, AreHidden)
     }
 }
 
-TEST_P(HiddenCharacters, AreSeenInNoPlace)
+TEST_P(HiddenCharacters, AreShownInNoPlace)
 {
     for (uint const codePoint : GetParam().codePoints)
     {

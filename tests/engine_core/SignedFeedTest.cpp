@@ -191,7 +191,7 @@ QDateTime At(qint64 seconds)
     return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC);
 }
 
-TEST(FeedValidityTest, SerialMayStayAndGrowAndNeverFall)
+TEST(FeedValidityTest, SerialMayStayOrGrowButNotDecrease)
 {
     FeedValidity const terms{7, At(1000)};
     for (auto const& [floor, cause] : {std::pair<qint64, int>(0, 0), {6, 0}, {7, 0}, {8, 762}})

@@ -9,7 +9,7 @@
 namespace Pelnar::Testing
 {
 
-/// The lines that \a program prints, standard output first.
+/// The output lines of \a program, standard output first.
 QStringList LinesOf(QString const& program, QStringList const& words);
 
 /// The names of the loaded libraries in the last of \a lines.
@@ -28,7 +28,7 @@ public:
     QString Feed() const;
     static void Copy(QString const& from, QString const& to);
 
-    /// Runs the host with this folder. \a libraryPath says how the loader learns of it.
+    /// Runs the host with this folder. \a libraryPath says how the loader finds it.
     QStringList Run(QStringList const& words) const;
     QStringList RunWith(QString const& libraryPath, QStringList const& words) const;
 

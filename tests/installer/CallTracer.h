@@ -14,10 +14,10 @@
 namespace Pelnar::Testing
 {
 
-/// A system call before it is made. The process stands still until the answer.
+/// A system call before it is made. The process is stopped until the answer.
 struct CallStop
 {
-    int index; ///< of the calls of all processes of the helper, from the first of its own on; from 0
+    int index; ///< among the calls of all processes of the helper; its own first call has number 0
     long call; ///< the kernel's number
     pid_t process;
     std::array<std::uint64_t, 6> arguments;
@@ -59,8 +59,9 @@ struct TracedEnd
     std::vector<std::int64_t> answers{}; ///< of the calls, by their index; 0 for one that did not return
 };
 
-/// Traces \a process, which began with the words of StartWhenTraced(), to its end. What it starts by execve is left
-/// alone. Calls of the program's loader, before its main function changes to the root folder, are not told.
+/// Traces \a process, which began with the words of StartWhenTraced(), to its end. Programs that it starts by execve
+/// are not traced. Calls of the program's loader, before its main function changes to the root folder, are not
+/// reported.
 TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor);
 
 /// True for a call that moves more than one byte: Shorten() would have an effect.

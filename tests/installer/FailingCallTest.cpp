@@ -1,4 +1,4 @@
-// FailingCallTest.cpp: system calls of the helper that fail, under the system's own tracer.
+// FailingCallTest.cpp: failing system calls of the helper, injected by strace.
 
 #include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/helper/SwapJournal.h"
@@ -18,7 +18,7 @@ struct FailingCall
 {
     char const* call;
     char const* error;
-    int most; ///< as many of them as are tried
+    int most; ///< this many of them are tried
 };
 
 TEST(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
@@ -51,7 +51,7 @@ TEST(Faults, FailingCallsOfThePreparationAreRefusedCleanly)
                 EXPECT_EQ(outcome.exitStatus, 0) << "it makes fewer such calls";
                 break;
             }
-            // Some writes are reports, whose loss is the reader's.
+            // Some writes are reports; only the reader loses something.
             EXPECT_TRUE(outcome.Fault() == row.fault || outcome.exitStatus == 0) << FaultName(outcome.Fault());
             refused += outcome.Fault() == row.fault ? 1 : 0;
             ExpectRecovered(scene, versions);
@@ -120,7 +120,7 @@ TEST(Faults, FileSystemsWithoutExchangeGetTwoRenames)
 TEST(Faults, FailingRenamesAreUndone)
 {
     Versions const versions;
-    // Of the plain renames the first is the journal's, the next two are the swap's.
+    // The first plain rename is the journal's, the next two belong to the swap.
     for (int nth = 1; nth <= 3; ++nth)
     {
         SCOPED_TRACE(nth);
@@ -137,7 +137,7 @@ TEST(Faults, FailingRenamesAreUndone)
     }
 }
 
-TEST(Faults, ParentThatCannotAskAfterItsChildWaitsOn)
+TEST(Faults, ParentThatCannotWaitForItsChildTriesAgain)
 {
     Versions const versions;
     UpdateScene scene;
@@ -152,7 +152,7 @@ TEST(Faults, ParentThatCannotAskAfterItsChildWaitsOn)
     ExpectRecovered(scene, versions);
 }
 
-TEST(Faults, ParentThatCanNeverAskAfterItsChildEndsAndLeavesOneOfTheVersions)
+TEST(Faults, ParentThatCanNeverWaitForItsChildLeavesOneOfTheVersions)
 {
     Versions const versions;
     UpdateScene scene;
@@ -168,7 +168,7 @@ TEST(Faults, ParentThatCanNeverAskAfterItsChildEndsAndLeavesOneOfTheVersions)
     ExpectRecovered(scene, versions);
 }
 
-TEST(Faults, ChildKilledBetweenTheRenamesIsHealedByItsParentAtOnce)
+TEST(Faults, ChildKilledBetweenTheRenamesIsRepairedByItsParent)
 {
     Versions const versions;
     UpdateScene scene;

@@ -9,13 +9,13 @@
 namespace Pelnar::Testing
 {
 
-/// True when the environment asks for faults at every place, instead of a sample of the places.
+/// True if the environment requests faults at every place instead of a sample.
 bool IsEveryPlaceWanted();
 
-/// The hash of the tree of the folder at \a path; of nothing when there is none.
+/// The hash of the tree of the folder at \a path, or of an empty tree if the folder does not exist.
 Engine::ContentHash TreeOf(std::string const& path);
 
-/// A bundle of which a delta keeps a file, keeps one under another name, patches one, and packs one again.
+/// A bundle for a delta that keeps one file, keeps one under another name, patches one, and packs one again.
 std::vector<ForgedEntry> MakeBundleForDeltas(std::string const& version);
 
 /// The delta from 1.0 to 2.0 of that bundle.
@@ -37,14 +37,14 @@ struct Versions
     Engine::ContentHash next;
 };
 
-/// Fails unless the bundle is exactly one of the versions and starts as it; that version.
+/// Fails unless the bundle is exactly one of the versions and starts as it. Returns that version.
 std::string ExpectWhole(Workspace const& place, Versions const& versions);
 std::string ExpectWhole(UpdateScene const& scene, Versions const& versions);
 
-/// The next start, and the one after it, leave a whole bundle and nothing else.
+/// The next two starts leave a whole bundle and no other files.
 void ExpectRecovered(UpdateScene& scene, Versions const& versions);
 
-/// Prepares, installs, starts and confirms the new version, by helpers that are started like this.
+/// Prepares, installs, starts and confirms the new version with helpers that are started in this way.
 void ExpectUpdated(UpdateScene& scene, HelperStart const& start = {});
 
 } // namespace Pelnar::Testing

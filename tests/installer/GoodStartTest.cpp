@@ -48,7 +48,7 @@ TEST(GoodStart, ThirdStartWithoutAConfirmationBringsThePreviousVersionBack)
     EXPECT_EQ(installed.Names(), ONLY_THE_APP);
 }
 
-TEST(GoodStart, OneWordKeepsTheNewVersion)
+TEST(GoodStart, OneConfirmationKeepsTheNewVersion)
 {
     for (int starts = 0; starts <= 2; ++starts)
     {
@@ -182,7 +182,7 @@ TEST(GoodStart, RollBackWithoutAnExchangeKilledAnywhereIsFinishedByTheNextStart)
     SweepRollBack({"unlinkat", "fsync", "renameat"}, {"-e", "inject=renameat2:error=EINVAL"});
 }
 
-TEST(GoodStart, NextUpdateOfAVersionThatNeverToldIsWordEnough)
+TEST(GoodStart, NextUpdateOfAnUnconfirmedVersionConfirmsIt)
 {
     InstalledScene installed;
     EXPECT_EQ(installed.Start("2.0"), RecoveryAction::CountedStart);

@@ -1,6 +1,5 @@
-// OtherUser.h: parts of a test that run as another user of this machine, or with a filter of system calls, each in a
-// process of its own.
-// Thread: one.
+// OtherUser.h: runs parts of a test as another user of this machine, or with a filter of system calls, each in a
+// separate process. Thread: one.
 #pragma once
 
 #include <functional>
@@ -16,7 +15,7 @@ namespace Pelnar::Testing
 constexpr uid_t VICTIM = 12345;
 constexpr uid_t ATTACKER = 23456;
 
-/// The result of \a act in a process of its own; "killed by signal N" if it does not return, with SIGALRM after \a
+/// The result of \a act in a separate process; "killed by signal N" if it does not return, with SIGALRM after \a
 /// seconds.
 std::string InChild(std::function<std::string()> const& act, unsigned seconds = 60);
 /// The same as \a user, with only the group of the same number. REQUIRES: the administrator.
@@ -27,7 +26,7 @@ std::vector<std::string> WordsAs(uid_t user);
 /// Gives the object at the path to \a user; folders with their content.
 void GiveTo(uid_t user, std::string const& path);
 
-/// From now on the system call of this process, and of all programs that it starts, fails. For processes that end soon.
+/// From now on the system call fails in this process and in all programs that it starts. For processes that end soon.
 void FailCall(long call, int errorNumber);
 
 /// The same, but the caller is killed by SIGSYS.

@@ -210,7 +210,7 @@ INSTANTIATE_TEST_SUITE_P(
                   UpdateFault::ExecutableForeign}),
     [](testing::TestParamInfo<BundleRow> const& info) { return info.param.name; });
 
-/// A bundle "My App.app" whose information file names no program: the program named after the folder counts. Its
+/// A bundle "My App.app" whose information file does not name a program: the program named after the folder counts. Its
 /// programs are \a programs.
 std::string ZipWithoutExecutableName(std::vector<std::string> const& programs)
 {

@@ -68,7 +68,7 @@ public:
                 most[name] = std::max(most[name], ++counts[{name, process}]);
             }
         }
-        most.erase("execve"); // the tracer's own: the helper's program does not run yet
+        most.erase("execve"); // the tracer's own program: the helper does not run yet
         return most;
     }
 

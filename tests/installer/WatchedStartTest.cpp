@@ -37,7 +37,7 @@ class WatchedStart : public testing::TestWithParam<WatchRow>
 {
 };
 
-TEST_P(WatchedStart, IsRepeatedOnceAndThenTakenBack)
+TEST_P(WatchedStart, IsRepeatedOnceAndThenRolledBack)
 {
     UpdateScene scene(ArchiveOf(GetParam().script));
     InstallJob const job = scene.PrepareForInstall();
@@ -110,7 +110,7 @@ TEST(WatchedStart, AnotherBundleSaysNothingOfTheInstalledOne)
 
 /// The helper holds the report open, and the output, which the new version has closed. When both are closed, the helper
 /// has ended.
-TEST(WatchedStart, WordLetsTheHelperGoWhileTheNewVersionRuns)
+TEST(WatchedStart, ConfirmationEndsTheHelperWhileTheNewVersionRuns)
 {
     Workspace const fifos;
     std::string const up = fifos.Path() + "/up";

@@ -115,7 +115,7 @@ TEST_F(LogHandlerTest, ThatReplacesItselfIsNotDestroyedInItsOwnCall)
     EXPECT_EQ(texts, (Texts{std::string(100, 'd') + "one7", "two"}));
 }
 
-TEST_F(LogHandlerTest, ThatTakesItselfBackGetsNothingMore)
+TEST_F(LogHandlerTest, ThatRemovesItselfGetsNothingMore)
 {
     SetLogHandler(
         [this](LogRecord const& record)

@@ -1,7 +1,6 @@
-// QuitHost.cpp: a host application with windows that prepares an update silently and keeps it for its end. It prints
-// what the engine tells it, a line each, and quits at the end of its input.
-// Usage: run FEED [approve]
-// approve: the update is to be installed at once, but the application does not quit for it.
+// QuitHost.cpp: a host application with windows. It prepares an update silently and keeps it until it quits. It prints
+// each notification of the engine on a line, and quits at the end of its input. Usage: run FEED [approve]
+// approve: the update is installed immediately, but the application does not quit for it.
 
 #include "Foundation/IsolatedUserDefaults.h"
 #include "tests/engine/ScriptedDelegate.h"

@@ -109,7 +109,7 @@ TEST_F(FeedTrustFlow, SignedFeedHoldsUntilItExpires)
     EXPECT_EQ(Check(SignedFeedOf("5.1", "8", "2027-01-20T08:00:00Z")), found) << "signed again in time";
 }
 
-TEST_F(FeedTrustFlow, SerialNeverFalls)
+TEST_F(FeedTrustFlow, SerialNeverDecreases)
 {
     settings.check.feedSigning = FeedSigning::Required;
     for (auto const& [serial, cause] : {std::pair("5", 0), {"5", 0}, {"4", 762}, {"90", 0}, {"89", 762}, {"91", 0}})

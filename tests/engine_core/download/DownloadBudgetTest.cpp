@@ -37,7 +37,7 @@ TEST_F(DownloadBudgetTest, ServerThatBeginsAgainAndAgainSendsTwiceTheArchiveAtMo
     }
 }
 
-TEST_F(DownloadBudgetTest, SmallestUselessAnswersEndAsWell)
+TEST_F(DownloadBudgetTest, SmallestUselessAnswersEndToo)
 {
     QByteArray const archive = MakeArchive(300000);
     LoopbackServer server(Serving({archive, "\"one\"", {}, 10}));
@@ -56,7 +56,7 @@ TEST_F(DownloadBudgetTest, SmallestUselessAnswersEndAsWell)
     EXPECT_EQ(PartialBytes(), archive.left(680)) << "the received bytes stay";
 }
 
-TEST_F(DownloadBudgetTest, MebibytesThatArriveDoNotMakeTheAttemptsForgotten)
+TEST_F(DownloadBudgetTest, AttemptsCountEvenIfMebibytesArrive)
 {
     QByteArray const archive = MakeArchive(3 * MEBIBYTE);
     LoopbackServer server(Serving({archive, "\"one\"", {}, MEBIBYTE}));
@@ -90,7 +90,7 @@ struct WayOfLosing
     std::function<void(DownloadRequest const& request)> lose;
 };
 
-TEST_F(DownloadBudgetTest, CostIsRememberedThoughTheBytesGo)
+TEST_F(DownloadBudgetTest, CostIsRememberedAfterTheBytesAreRemoved)
 {
     QByteArray const archive = MakeArchive(300000);
     auto const other = [this](DownloadRequest request)
@@ -184,7 +184,7 @@ TEST_F(DownloadBudgetTest, EndlessArchiveIsLeftAtItsLength)
     }
 }
 
-TEST_F(DownloadBudgetTest, FramesOfChunksAreNoWayRoundIt)
+TEST_F(DownloadBudgetTest, FramesOfChunksCountToo)
 {
     // Four kilobytes for each byte of the archive.
     QByteArray const chunk = "1;" + QByteArray(4000, 'x') + "\r\ny\r\n";
@@ -196,7 +196,7 @@ TEST_F(DownloadBudgetTest, FramesOfChunksAreNoWayRoundIt)
     EXPECT_LT(endless.sent, 128 * MEBIBYTE) << "of more than a gigabyte";
 }
 
-TEST_F(DownloadBudgetTest, HeadsAreNoWayRoundItEither)
+TEST_F(DownloadBudgetTest, HeadsCountToo)
 {
     QByteArray const archive = MakeArchive(300000);
     qint64 sent = 0;
@@ -248,7 +248,7 @@ TEST_F(DownloadBudgetTest, TimeIsCountedOverAllRunsAndEndsTheLastOne)
     EXPECT_GT(PartialBytes().size(), 2000) << "the received bytes stay";
 }
 
-TEST_F(DownloadBudgetTest, UnwatchedOnePausesAndTheNextGoesOn)
+TEST_F(DownloadBudgetTest, UnwatchedDownloadPausesAndTheNextOneContinues)
 {
     QByteArray const archive = MakeArchive(300000);
     bool isStuck = true;
@@ -268,7 +268,7 @@ TEST_F(DownloadBudgetTest, UnwatchedOnePausesAndTheNextGoesOn)
     EXPECT_EQ(RangeStart(server.Requests()[1]), 100000);
 }
 
-TEST_F(DownloadBudgetTest, UnwatchedOneThatCannotEndInTimeEndsAtOnceAndAPersonsGoesOn)
+TEST_F(DownloadBudgetTest, UnwatchedDownloadThatCannotEndInTimeEndsAtOnceAndAPersonsContinues)
 {
     // A kilobyte a second: a gibibyte would take twelve days.
     constexpr quint64 HUGE_BYTES = quint64{1} << 30;
@@ -294,7 +294,7 @@ TEST_F(DownloadBudgetTest, UnwatchedOneThatCannotEndInTimeEndsAtOnceAndAPersonsG
     EXPECT_GT(done, 0u);
 }
 
-TEST_F(DownloadBudgetTest, UnwatchedOneThatComesWellIsLetBe)
+TEST_F(DownloadBudgetTest, UnwatchedDownloadThatIsFastEnoughContinues)
 {
     QByteArray const archive = MakeArchive(300000);
     LoopbackServer server(Dripping(AnswerFor({archive, "\"one\"", {}, 299000}, {}), archive.mid(299000), 2));
@@ -333,7 +333,7 @@ TEST_F(DownloadBudgetTest, PersonMaySpendAnotherBudgetAndGoesOnWithWhatIsThere)
     EXPECT_EQ(RecordOf(request)->spent.attempts, 1u);
 }
 
-TEST_F(DownloadBudgetTest, WholeArchiveIsHandedOverThoughNothingMayBeSpent)
+TEST_F(DownloadBudgetTest, WholeArchiveIsHandedOverAlthoughTheBudgetIsSpent)
 {
     QByteArray const archive = MakeArchive(300000);
     LoopbackServer server(Serving({archive}));

@@ -83,7 +83,7 @@ INSTANTIATE_TEST_SUITE_P(Refusals, ScarceMemory,
                          [](auto const& row)
                          { return row.param == AllocationPlan::Mode::One ? "WithoutOne" : "WithoutAnyMore"; });
 
-TEST_P(ScarceMemory, EndsADownloadWithoutALieAndTheNextRunBringsTheArchive)
+TEST_P(ScarceMemory, ReportsNoFalseResultAndTheNextRunBringsTheArchive)
 {
     End const whole = Download(NONE);
     ASSERT_EQ(whole.cause, 0);

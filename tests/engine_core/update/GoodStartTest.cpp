@@ -69,7 +69,7 @@ TEST_F(GoodStarts, OneStartIsCountedOnceHoweverOftenItsProcessAsks)
     EXPECT_EQ(m_scene.Place().StartedVersion(), "2.0");
 }
 
-TEST_F(GoodStarts, WordDropsThePreviousVersion)
+TEST_F(GoodStarts, ConfirmationRemovesThePreviousVersion)
 {
     EXPECT_EQ(Run(&RecoverAtStart, Application()).action, RecoveryAction::CountedStart);
     EXPECT_EQ(Run(&ConfirmGoodStart, Application()).action, RecoveryAction::ConfirmedNew);
@@ -78,7 +78,7 @@ TEST_F(GoodStarts, WordDropsThePreviousVersion)
     EXPECT_EQ(m_scene.Place().StartedVersion(), "2.0");
 }
 
-TEST_F(GoodStarts, WordMayComeBeforeTheStartIsCounted)
+TEST_F(GoodStarts, ConfirmationMayComeBeforeTheStartIsCounted)
 {
     std::vector<RecoveryAction> actions;
     RecoverAtStart(Application(), m_owner, [&actions](StartOutcome const& o) { actions.push_back(o.action); });
@@ -88,7 +88,7 @@ TEST_F(GoodStarts, WordMayComeBeforeTheStartIsCounted)
     EXPECT_EQ(m_scene.Place().StartedVersion(), "2.0");
 }
 
-TEST_F(GoodStarts, VersionThatWasTakenBackIsToldToTheOneThatCameBack)
+TEST_F(GoodStarts, RestoredVersionIsToldWhichVersionWasRolledBack)
 {
     m_scene.Recover("2.0");
     m_scene.Recover("2.0");

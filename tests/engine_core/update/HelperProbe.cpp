@@ -1,4 +1,4 @@
-// A helper whose order is in its job: the name of the new version. It is started like the real one.
+// A helper that gets its instruction from its job: the name of the new version. It is started like the real one.
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/helper/HelperReport.h"

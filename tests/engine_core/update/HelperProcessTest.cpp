@@ -25,7 +25,7 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-TEST_F(HelperProcesses, HasItsWordItsDescriptorsAndNothingElseOfTheHosts)
+TEST_F(HelperProcesses, GetsItsArgumentAndDescriptorsAndNothingElseFromTheHost)
 {
     ::setenv("LD_PRELOAD", "/nonexistent.so", 1);
     ::setenv("PATH", "/tmp", 1);
@@ -67,8 +67,8 @@ class LimitOfTheSystem : public HelperProcesses, public testing::WithParamInterf
 {
 };
 
-/// Nothing is wrong with the application then, and nobody has to install it again.
-TEST_P(LimitOfTheSystem, IsToldAsOne)
+/// The application is not at fault, so the person must not be told to reinstall it.
+TEST_P(LimitOfTheSystem, IsReportedAsALimit)
 {
     ProbeScene scene("describe");
     rlimit before{};
@@ -127,7 +127,7 @@ INSTANTIATE_TEST_SUITE_P(Table, HelperEnds,
                          testing::Values(EndRow{"0", HelperEnd::Done, 0}, EndRow{"1", HelperEnd::Refused, 0},
                                          EndRow{"2", HelperEnd::Crashed, 0}, EndRow{"77", HelperEnd::Crashed, 0},
                                          EndRow{"crash", HelperEnd::Crashed, 0},
-                                         // What is said after a line that is none counts for nothing.
+                                         // Lines after an invalid line are ignored.
                                          EndRow{"nonsense", HelperEnd::Crashed, 1},
                                          EndRow{"endless", HelperEnd::Crashed, 0},
                                          EndRow{"many", HelperEnd::Done, 20000}),
@@ -217,7 +217,7 @@ struct ReaperRow
     int flags;
 };
 
-/// Hosts that take the ends of children for themselves.
+/// Hosts that reap every child.
 class HostThatReaps : public HelperProcesses, public testing::WithParamInterface<ReaperRow>
 {
 protected:
@@ -254,7 +254,7 @@ TEST_P(HostThatReaps, IsTheSameToAHelper)
     EXPECT_EQ(end, HelperEnd::Done);
 
     end.reset();
-    HelperProcess again(program); // the staging folder is not empty any more
+    HelperProcess again(program); // the staging folder is no longer empty
     again.Start(prepareJob, numbers, report, ended);
     EXPECT_TRUE(WaitFor([&end] { return end.has_value(); }));
     EXPECT_EQ(end, HelperEnd::Refused);

@@ -214,7 +214,7 @@ TEST(InstallRehearsal, FileSystemWithoutPermissionsIsTold)
     EXPECT_EQ(told, ::geteuid() == 0 ? "PermissionsUnavailable" : "NotPermitted");
 }
 
-TEST(InstallRehearsal, MaskOfTheHostIsNoHindrance)
+TEST(InstallRehearsal, UmaskOfTheHostIsNoObstacle)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
     for (mode_t const mask : {0777U, 0700U, 0400U, 0200U, 0100U})
@@ -231,7 +231,7 @@ TEST(InstallRehearsal, MaskOfTheHostIsNoHindrance)
     }
 }
 
-TEST(InstallRehearsal, MaskOfTheHostIsNotThatOfItsRecords)
+TEST(InstallRehearsal, UmaskOfTheHostDoesNotApplyToRecords)
 {
     REQUIRE_ADMINISTRATOR_FOR_USERS();
     Workspace const place;

@@ -93,7 +93,7 @@ private:
     TestApplication<> m_application;
 };
 
-TEST_F(UpdateEndurance, HundredVersionsInstalledAndTakenBackLeaveNothingBehind)
+TEST_F(UpdateEndurance, HundredVersionsInstalledAndRolledBackLeaveNothingBehind)
 {
     for (int round = 0; round < 5; ++round)
     {

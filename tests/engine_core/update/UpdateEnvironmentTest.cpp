@@ -132,7 +132,7 @@ TEST_F(UpdateEnvironmentTest, DiscardedUpdateIsGoneWithTheParts)
     EXPECT_EQ(place.Names(), std::vector<std::string>{APP});
 }
 
-TEST_F(UpdateEnvironmentTest, DiscardedDownloadHasNoNameAtOnceAndNoRoomWithTheParts)
+TEST_F(UpdateEnvironmentTest, DiscardedDownloadLosesItsNameAtOnceAndItsSpaceWithTheParts)
 {
     DownloadRequest request;
     request.url = QUrl(QStringLiteral("https://a.example/update.zip"));

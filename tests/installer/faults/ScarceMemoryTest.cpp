@@ -136,7 +136,7 @@ protected:
     Versions const versions;
 };
 
-TEST_P(ScarceMemory, EndsInOneOfTheVersionsAndNeverInALie)
+TEST_P(ScarceMemory, LeavesOneOfTheVersionsAndReportsNoFalseResult)
 {
     std::uint64_t count = 0;
     {

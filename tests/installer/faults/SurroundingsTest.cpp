@@ -1,5 +1,5 @@
-// SurroundingsTest.cpp: the helper does the same no matter what the process that starts it looks like, and wherever the
-// bundle stands.
+// SurroundingsTest.cpp: the helper behaves the same for every state of the process that starts it, and for every path
+// of the bundle.
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/OtherUser.h"
@@ -31,7 +31,7 @@ void PrintTo(Surroundings const& surroundings, std::ostream* out)
     *out << surroundings.name;
 }
 
-/// The shell sets the scene, then becomes the helper.
+/// The shell sets up the surroundings, then becomes the helper.
 std::vector<std::string> After(std::string const& commands)
 {
     return {"/bin/sh", "-c", commands + "; exec \"$@\"", "sh"};
@@ -78,8 +78,8 @@ INSTANTIATE_TEST_SUITE_P(
         Surroundings{"HostileAllocator", {}, {"GLIBC_TUNABLES=glibc.malloc.check=3", "MALLOC_PERTURB_=255"}}),
     [](testing::TestParamInfo<Surroundings> const& info) { return info.param.name; });
 
-/// The system ends a process that writes more than its limit, unless it wants to hear of it.
-TEST(LimitOfFiles, IsAFaultAndNoSuddenEnd)
+/// The system kills a process that exceeds the file-size limit, unless the process ignores the signal.
+TEST(LimitOfFiles, IsReportedAndDoesNotKillTheHelper)
 {
     if (IS_SANITIZED)
     {
@@ -143,7 +143,7 @@ class WithoutCall : public testing::TestWithParam<MissingCall>
 {
 };
 
-/// The whole update on a system that does not have the call, or does not let it be made.
+/// The whole update on a system that lacks the call or refuses it.
 TEST_P(WithoutCall, UpdatesAreStillInstalled)
 {
     std::string const answer = InChild(
@@ -157,7 +157,7 @@ TEST_P(WithoutCall, UpdatesAreStillInstalled)
     EXPECT_EQ(answer, "updated");
 }
 
-/// Its rights carry over, which changes files that are on the disk already.
+/// The bundle's rights are copied, which changes files that are already on the disk.
 TEST_P(WithoutCall, BundleThatOthersMayNotEnterIsUpdatedToo)
 {
     std::string const answer = InChild(

@@ -52,7 +52,7 @@ bool ListChannels(std::vector<std::string> const& names)
         QString const channel = QString::fromStdString(name);
         if (!IsChannelName(channel))
         {
-            LOG(ERROR) << "The channels are not changed, since a name is empty or has blanks, commas or control "
+            LOG(ERROR) << "The channels are not changed, because a name is empty or has blanks, commas or control "
                           "characters";
             return false;
         }

@@ -88,8 +88,8 @@ TEST(ChangedArchive, IsRefusedWhileTheRunWorks)
             told = refusal.what();
         }
         EXPECT_EQ(told,
-                  path + (name == "gone" ? ": cannot be read: No such file or directory; check the name and who may "
-                                           "read the file"
+                  path + (name == "gone" ? ": cannot be read: No such file or directory; check the name and the "
+                                           "file's permissions"
                                          : ": has changed while this run worked; run this again when nobody "
                                            "changes the file"));
         EXPECT_THROW(place.RefuseChangedFiles(), Publisher::Refusal);

@@ -43,9 +43,9 @@ class Documents(unittest.TestCase):
             self.assertTrue(named(row)[0], row)
         self.expect_names(path, 30)
 
-    def test_every_promise_names_a_test(self):
+    def test_every_guarantee_names_a_test(self):
         page = (SOURCE / "docs/guide/security.md").read_text(encoding="utf-8")
-        table = page.split("\n## What is promised", 1)[1].split("\n## ", 1)[0]
+        table = page.split("\n## What is guaranteed", 1)[1].split("\n## ", 1)[0]
         rows = [row for row in table.splitlines() if row.startswith("| ")][2:]
         for row in rows:
             if not row.startswith("| **"):

@@ -3,6 +3,7 @@
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/helper/FolderSafety.h"
 #include "Engine/core/helper/RelaunchArguments.h"
 #include "Engine/core/helper/StagingFolder.h"
 #include "Installer/BundleRights.h"
@@ -86,6 +87,11 @@ UniqueFd CheckTarget(InstallJob const& job, Engine::InstallDescriptors const& de
     if (!target)
     {
         throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
+    }
+    // The new version would get the same rights.
+    if (!Engine::IsSafeByItself(target.Get()))
+    {
+        throw UpdateRefusal(UpdateFault::FolderUnsafe);
     }
     Engine::BundleInformation const information = Engine::ReadBundleInformation(target.Get(), job.targetName);
     if (information.identifier != job.bundleIdentifier || information.version != job.installedVersion)
@@ -293,10 +299,28 @@ void TidyUp(InstallJob const& job, Engine::InstallDescriptors const& descriptors
     }
 }
 
+/// Where the installed version may be started after a failure: in its place, otherwise where \a bundleFd, the bundle
+/// that the host ran from, has been moved.
+std::vector<std::string> PlacesAfterFailure(InstallJob const& job, int parentFd, int bundleFd)
+{
+    std::vector<std::string> places{InstalledPath(job, parentFd)};
+    std::string const moved = Engine::RealPathOf(bundleFd);
+    // Another update may have replaced it: staging folders are removed.
+    bool const isReplaced = moved.find('/' + Engine::UpdateFilePrefix(job.targetName)) != std::string::npos;
+    if (moved != places.front() && !isReplaced && IsSameFolder(bundleFd, AT_FDCWD, moved))
+    {
+        places.push_back(moved);
+    }
+    return places;
+}
+
 } // namespace
 
 bool InstallUpdate(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report)
 {
+    // While the host still runs. Without the descriptor, a bundle that is moved is not found again.
+    UniqueFd const bundle(
+        ::openat(descriptors.parent, job.targetName.c_str(), O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
     OutcomeNote note(job, descriptors.records);
     note.Begin();
     report.SendProgress(HelperPhase::Waiting, 0, 0);
@@ -336,7 +360,9 @@ bool InstallUpdate(InstallJob const& job, Engine::InstallDescriptors const& desc
         return StartAndWatch(job, arguments, descriptors.parent, report, note);
     }
     // The arguments are for the new version.
-    StartResult const started = StartAgain(job, failure ? Arguments() : arguments, report);
+    StartResult const started =
+        failure ? StartAgain(job, {}, PlacesAfterFailure(job, descriptors.parent, bundle.Get()), report)
+                : StartAgain(job, arguments, {InstalledPath(job, descriptors.parent)}, report);
     auto const* const refusal = std::get_if<UpdateRefusal>(&started);
     if (refusal && !failure)
     {

@@ -104,7 +104,7 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
 
 StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parentFd, ReportChannel const& report)
 {
-    StartResult const result = StartAgain(job, arguments, report);
+    StartResult const result = StartAgain(job, arguments, {InstalledPath(job, parentFd)}, report);
     auto const* const started = std::get_if<StartedBundle>(&result);
     if (!started)
     {
@@ -117,7 +117,14 @@ StartEnd StartOnce(InstallJob const& job, Arguments const& arguments, int parent
 
 } // namespace
 
-StartResult StartAgain(InstallJob const& job, Arguments const& arguments, ReportChannel const& report)
+std::string InstalledPath(InstallJob const& job, int parentFd)
+{
+    std::string const path = Engine::RealPathOf(parentFd, job.targetName);
+    return path.empty() ? job.targetPath : path;
+}
+
+StartResult StartAgain(InstallJob const& job, Arguments const& arguments, std::vector<std::string> const& places,
+                       ReportChannel const& report)
 {
     struct Choice
     {
@@ -125,15 +132,18 @@ StartResult StartAgain(InstallJob const& job, Arguments const& arguments, Report
         RelaunchedBundle name;
     };
     bool const isAnswered = !job.relaunchPath.empty();
-    UpdateRefusal last(UpdateFault::RelaunchFailed);
-    for (Choice const& choice :
-         {Choice{job.relaunchPath, RelaunchedBundle::Answered},
-          Choice{job.targetPath, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target}})
+    std::vector<Choice> choices;
+    if (isAnswered)
     {
-        if (choice.path.empty())
-        {
-            continue;
-        }
+        choices.push_back({job.relaunchPath, RelaunchedBundle::Answered});
+    }
+    for (std::string const& place : places)
+    {
+        choices.push_back({place, isAnswered ? RelaunchedBundle::TargetInstead : RelaunchedBundle::Target});
+    }
+    UpdateRefusal last(UpdateFault::RelaunchFailed);
+    for (Choice const& choice : choices)
+    {
         try
         {
             RelaunchTarget const target = FindRelaunchTarget(choice.path);
@@ -186,7 +196,7 @@ bool StartAndWatch(InstallJob const& job, Arguments const& arguments, int parent
         return true; // another process has handled it
     }
     note.Fail(Engine::UpdateFault::NewVersionFailed, 0);
-    static_cast<void>(StartAgain(job, {}, report));
+    static_cast<void>(StartAgain(job, {}, {InstalledPath(job, parentFd)}, report));
     return false;
 }
 

@@ -25,9 +25,13 @@ struct StartedBundle
 
 using StartResult = std::variant<StartedBundle, Engine::UpdateRefusal>;
 
-/// Starts the answered path if possible, otherwise the installed bundle, with \a arguments, and reports it. The result
-/// says why neither started.
-StartResult StartAgain(Engine::InstallJob const& job, Arguments const& arguments, ReportChannel const& report);
+/// The installed bundle's path in the folder \a parentFd, which may have been moved.
+std::string InstalledPath(Engine::InstallJob const& job, int parentFd);
+
+/// Starts the answered path if possible, otherwise the first possible one of \a places, where the installed bundle may
+/// be, with \a arguments, and reports it. The result says why none started.
+StartResult StartAgain(Engine::InstallJob const& job, Arguments const& arguments,
+                       std::vector<std::string> const& places, ReportChannel const& report);
 
 /// True if the update of \a job is installed and the host must confirm its start, as far as this can be read.
 [[nodiscard]] bool AwaitsConfirmation(Engine::InstallJob const& job, int parentFd);

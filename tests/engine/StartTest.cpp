@@ -266,6 +266,18 @@ TEST_F(Start, AfterAHelperThatWasKilledTellsThePersonWhoAsked)
     EXPECT_EQ(Run({QStringLiteral("background"), QStringLiteral("listen")}), "asked;aborted 1002;aborted 4005;");
 }
 
+/// While the helper waited, the bundle was renamed, and a link to it took its name.
+TEST_F(Start, ThroughALinkInThePlaceOfTheBundleTellsWhyNothingWasInstalled)
+{
+    std::string const moved = BundlePath() + ".away";
+    std::filesystem::rename(BundlePath(), moved);
+    std::filesystem::create_directory_symlink(moved, BundlePath());
+    FailToInstall("mkdirat:error=EPERM"); // an installation does not make this call
+    QStringList const listening{QStringLiteral("unchecked"), QStringLiteral("confirm"), QStringLiteral("listen")};
+    EXPECT_EQ(Run(listening), "aborted 4005;");
+    EXPECT_EQ(RunInBackground().rfind("asked;found 2.0;", 0), 0u) << "it is told once, and the next check offers it";
+}
+
 TEST_F(Start, OfTheNewVersionForgetsTheInstallationAndItsArchive)
 {
     FailToInstall("mkdirat:error=EPERM"); // an installation does not make this call

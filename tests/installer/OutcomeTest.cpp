@@ -1,7 +1,6 @@
 // OutcomeTest.cpp: the record of an installation whose host has ended.
 
-#include "Engine/core/helper/InstallRecord.h"
-#include "tests/installer/InstallerFixture.h"
+#include "tests/installer/OutcomeScene.h"
 
 #include <gtest/gtest.h>
 
@@ -23,30 +22,6 @@ using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
 constexpr char STRACE[] = "/usr/bin/strace";
-
-class Outcome : public testing::Test
-{
-protected:
-    explicit Outcome(std::string const& archive = MakeArchive(Container::Zip, MakeBundle("2.0"))) : scene(archive) {}
-
-    /// A job whose outcome is kept.
-    InstallJob Job()
-    {
-        InstallJob job = scene.PrepareForInstall();
-        scene.KeepRecord(job);
-        return job;
-    }
-
-    std::string RecordPath() const { return scene.Downloads().Path() + '/' + RECORD_NAME; }
-
-    std::optional<InstallRecord> Record() const
-    {
-        std::ifstream file(RecordPath(), std::ios::binary);
-        return DecodeInstallRecord(std::string(std::istreambuf_iterator<char>(file), {}));
-    }
-
-    UpdateScene scene;
-};
 
 HelperStart Injecting(std::string const& fault)
 {

@@ -239,6 +239,51 @@ TEST_F(InstallMemoryTest, RecordsOfOthersAndNonsenseSayNothing)
     EXPECT_FALSE(Start("1.0"));
 }
 
+/// The bundle was moved while the helper waited, so the application starts from another place.
+TEST_F(InstallMemoryTest, FailureOfABundleThatLeftItsPlaceIsToldOnceFromAnyPlace)
+{
+    for (UpdateFault const fault : {UpdateFault::TargetMissing, UpdateFault::TargetChanged})
+    {
+        SCOPED_TRACE(FaultName(fault));
+        InstallRecord record = Attempt(InstallWish::Person, InstallState::Failed);
+        record.fault = fault;
+        WriteNote(Records().Get(), Name(), EncodeInstallRecord(record));
+        for (QString const& place :
+             {m_folder.filePath(QStringLiteral("Other.app")), QStringLiteral("/nowhere/App.app")})
+        {
+            QDir(m_folder.path()).mkpath(QStringLiteral("Other.app"));
+            InstallMemory const memory(m_records, m_downloads, place, QStringLiteral("1.0"));
+            ASSERT_TRUE(memory.Failure()) << place.toStdString();
+            EXPECT_EQ(memory.Failure()->fault, fault);
+            EXPECT_TRUE(memory.IsToBeTold());
+        }
+        {
+            InstallMemory const other(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
+                                      QStringLiteral("1.1"));
+            EXPECT_FALSE(other.Failure()) << "another version has not asked";
+        }
+        {
+            InstallMemory memory(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
+                                 QStringLiteral("1.0"));
+            memory.SetTold();
+        }
+        InstallMemory const again(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
+                                  QStringLiteral("1.0"));
+        EXPECT_FALSE(again.IsToBeTold());
+        EXPECT_FALSE(OnDisk()) << "no later start needs it";
+    }
+}
+
+TEST_F(InstallMemoryTest, OtherFailuresBelongToTheirOwnPlace)
+{
+    Attempt(InstallWish::Person, InstallState::Failed);
+    QDir(m_folder.path()).mkpath(QStringLiteral("Other.app"));
+    InstallMemory const memory(m_records, m_downloads, m_folder.filePath(QStringLiteral("Other.app")),
+                               QStringLiteral("1.0"));
+    EXPECT_FALSE(memory.Failure());
+    EXPECT_TRUE(OnDisk());
+}
+
 TEST_F(InstallMemoryTest, EveryBundleHasARecordOfItsOwn)
 {
     EXPECT_NE(InstallRecordName(QStringLiteral("/a/App.app")), InstallRecordName(QStringLiteral("/b/App.app")));

@@ -11,6 +11,7 @@ namespace Pelnar::Engine
 Result<void> InstallHandover::Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd, InstallJob job,
                                     std::function<void()> waiting, std::function<void(EngineError const&)> failed)
 {
+    m_target = &target;
     m_waiting = std::move(waiting);
     m_failed = std::move(failed);
     update.Describe(job);
@@ -55,8 +56,16 @@ void InstallHandover::Take(HelperReport const& report)
     auto const* const progress = std::get_if<ProgressReport>(&report);
     if (progress && progress->phase == HelperPhase::Waiting && m_waiting)
     {
-        // The call may destroy this object.
+        // The calls may destroy this object.
         auto const tell = std::exchange(m_waiting, nullptr);
+        // The last moment at which a person can be told while the application runs.
+        if (Result<void> const verdict = JudgeAgain(*m_target); !verdict)
+        {
+            Cancel();
+            auto const fail = std::move(m_failed);
+            fail(verdict.error());
+            return;
+        }
         tell();
     }
 }

@@ -20,9 +20,9 @@ public:
 
     /// Starts the helper with \a job. \a update completes the job and then belongs to the helper. The job's record is
     /// in the folder \a recordsFd. Fails if this is impossible; then no callback follows and \a update stays
-    /// the caller's. Otherwise \a waiting comes once the helper waits for the end of this process, and \a failed, once
-    /// and last, if the helper ends before this process. Either may destroy this object. REQUIRES: called once; \a
-    /// update outlives this object.
+    /// the caller's. Otherwise \a waiting comes once the helper waits for the end of this process and the bundle is
+    /// still in its place, and \a failed, once and last, if the bundle has changed or the helper ends before this
+    /// process. Either may destroy this object. REQUIRES: called once; \a target and \a update outlive this object.
     [[nodiscard]] Result<void> Start(InstallTarget const& target, PreparedUpdate& update, int recordsFd, InstallJob job,
                                      std::function<void()> waiting, std::function<void(EngineError const&)> failed);
 
@@ -35,6 +35,7 @@ private:
     void End();
 
     IUpdateEnvironment& m_parts;
+    InstallTarget const* m_target = nullptr;
     PreparedUpdate* m_update = nullptr;
     std::function<void()> m_waiting;
     std::function<void(EngineError const&)> m_failed;

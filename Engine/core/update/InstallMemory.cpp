@@ -1,5 +1,6 @@
 #include "Engine/core/update/InstallMemory.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/check/BackOff.h"
 #include "Engine/core/download/ArchiveDownload.h"
 #include "Engine/core/faults/EngineError.h"
@@ -8,6 +9,8 @@
 #include "Engine/core/update/InstallTarget.h"
 
 #include <glog/logging.h>
+
+#include <QDir>
 
 #include <algorithm>
 #include <limits>
@@ -21,6 +24,14 @@ namespace
 QDateTime TimeOf(InstallRecord const& record)
 {
     return QDateTime::fromSecsSinceEpoch(static_cast<qint64>(record.secondsSinceEpoch), Qt::UTC);
+}
+
+/// True if a person has not seen it, and the bundle was no longer in its place.
+bool IsToBeToldElsewhere(InstallRecord const& record)
+{
+    bool const hasLeft = record.fault == UpdateFault::TargetMissing || record.fault == UpdateFault::TargetChanged;
+    return hasLeft && record.state == InstallState::Failed && record.wish == InstallWish::Person &&
+           record.told == FailureTold::No;
 }
 
 void SetInterrupted(InstallRecord& record)
@@ -52,16 +63,30 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
         return;
     }
     OpenedTarget const target = OpenInstalledBundle(bundlePath);
-    if (!target)
+    m_name = target ? InstallRecordName(target->path) : std::string();
+    auto record = target ? ReadInstallRecord(opened.Get(), m_name) : std::nullopt;
+    if (!record)
     {
+        FindMoved(opened.Get(), version.toStdString());
         return;
     }
-    m_name = InstallRecordName(target->path);
-    if (auto record = ReadInstallRecord(opened.Get(), m_name))
+    auto const life = IsRunning(record->helper) ? HelperLife::Runs : HelperLife::Ended;
+    PastInstallation const meaning = JudgePastInstallation(*record, version.toStdString(), life);
+    Settle(*std::move(record), meaning);
+}
+
+void InstallMemory::FindMoved(int recordsFd, std::string const& version)
+{
+    for (QString const& name : QDir(m_folder).entryList({QStringLiteral("*.installation")}, QDir::Files))
     {
-        auto const life = IsRunning(record->helper) ? HelperLife::Runs : HelperLife::Ended;
-        PastInstallation const meaning = JudgePastInstallation(*record, version.toStdString(), life);
-        Settle(*std::move(record), meaning);
+        auto record = ReadInstallRecord(recordsFd, PathBytes(name));
+        if (record && record->fromVersion == version && IsToBeToldElsewhere(*record))
+        {
+            m_name = PathBytes(name);
+            m_isOfMoved = true;
+            Settle(*std::move(record), PastInstallation::Failed);
+            return;
+        }
     }
 }
 
@@ -113,7 +138,8 @@ void InstallMemory::SetTold()
     if (m_failure)
     {
         m_failure->told = FailureTold::Yes;
-        Keep(*m_failure);
+        // An installation from this place has its own record, which would not replace that of the other place.
+        m_isOfMoved ? Forget() : Keep(*m_failure);
     }
 }
 

@@ -25,7 +25,7 @@ class InstallMemory
 {
 public:
     /// \a folder holds the records, \a downloads the archives. \a bundlePath is the running bundle's path, \a version
-    /// the running version. Reads one file.
+    /// the running version. Reads the record of this place. Without it, reads those of places that the bundle has left.
     InstallMemory(QString const& folder, QString const& downloads, QString const& bundlePath, QString const& version);
 
     /// The failure of the last installation that left this version in place; empty otherwise.
@@ -36,6 +36,8 @@ public:
 
 private:
     void Settle(InstallRecord record, PastInstallation meaning);
+    /// Looks for a failure that is to be told, of a bundle of this application that was no longer in its place.
+    void FindMoved(int recordsFd, std::string const& version);
     void Forget();
     void Keep(InstallRecord const& record);
 
@@ -43,6 +45,7 @@ private:
     QString m_downloads;
     std::string m_name;
     std::optional<InstallRecord> m_failure;
+    bool m_isOfMoved = false; ///< the record belongs to another place
     DiskChores m_chores;
 };
 

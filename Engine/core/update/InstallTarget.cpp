@@ -123,6 +123,7 @@ bool IsWritable(UniqueFd const& folder)
     return ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) == 0 || errno == EPERM;
 }
 
+/// Finds an obstacle at the bundle's folder and the folder that holds it.
 std::optional<ErrorCause> Obstacle(InstallTarget const& target)
 {
     if (IsReadOnly(target.parent) || IsReadOnly(target.bundle))
@@ -148,7 +149,7 @@ std::optional<ErrorCause> Obstacle(InstallTarget const& target)
     {
         return ErrorCause::BundleNotWritable;
     }
-    return ObstacleWithin(target.bundle);
+    return std::nullopt;
 }
 
 /// \a text as one word for a shell.
@@ -283,12 +284,38 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
     {
         return Failure(ErrorOf(*owner, path));
     }
-    if (auto const cause = Obstacle(*opened))
+    auto const outside = Obstacle(*opened);
+    if (auto const cause = outside ? outside : ObstacleWithin(opened->bundle))
     {
         return Failure(Error(*cause, path));
     }
     Result<void> const verdict = JudgeFolders(*opened, path).and_then([&] { return JudgeRoom(*opened, neededBytes); });
     return verdict ? std::move(opened) : Failure(verdict.error());
+}
+
+Result<void> JudgeAgain(InstallTarget const& target)
+{
+    std::string const path = PathBytes(target.path);
+    struct stat open;
+    struct stat named;
+    if (::fstatat(target.parent.Get(), target.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) != 0)
+    {
+        return errno == EACCES ? Failure(Error(ErrorCause::BundleNotWritable, path))
+                               : Failure(MakeFaultError(UpdateFault::TargetMissing, errno));
+    }
+    if (RealPathOf(target.parent.Get(), target.name) != path)
+    {
+        return Failure(MakeFaultError(UpdateFault::TargetMissing, 0)); // the folder that holds it was moved
+    }
+    if (::fstat(target.bundle.Get(), &open) != 0 || open.st_dev != named.st_dev || open.st_ino != named.st_ino)
+    {
+        return Failure(MakeFaultError(UpdateFault::TargetChanged, 0));
+    }
+    if (auto const cause = Obstacle(target))
+    {
+        return Failure(Error(*cause, path));
+    }
+    return JudgeFolders(target, path);
 }
 
 } // namespace Pelnar::Engine

@@ -32,6 +32,10 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath);
 /// package manager's lists, which may take long.
 OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, PackageSources const& sources);
 
+/// Fails if the bundle is no longer in its place, or may no longer be replaced. Reads only the folders themselves, so
+/// it is quick.
+[[nodiscard]] Result<void> JudgeAgain(InstallTarget const& target);
+
 /// The error for a fault before the download, with the place where the application is installed.
 EngineError MakeTargetError(InstallTarget const& target, UpdateFault fault, int errorNumber);
 

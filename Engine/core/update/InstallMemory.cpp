@@ -135,12 +135,17 @@ bool InstallMemory::IsToBeTold() const
 
 void InstallMemory::SetTold()
 {
-    if (m_failure)
+    if (!m_failure)
     {
-        m_failure->told = FailureTold::Yes;
-        // An installation from this place has its own record, which would not replace that of the other place.
-        m_isOfMoved ? Forget() : Keep(*m_failure);
+        return;
     }
+    m_failure->told = FailureTold::Yes;
+    if (m_isOfMoved)
+    {
+        Forget(); // the attempts from this place have their own record
+        return;
+    }
+    Keep(*m_failure);
 }
 
 void InstallMemory::Forget()

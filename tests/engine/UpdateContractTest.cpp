@@ -27,6 +27,7 @@ protected:
         server.emplace(Answering(OkAnswer(FeedWith(item))));
         script.choose = &ChooseFirst;
         script.compare = &CompareNumbers;
+        QDir(folder.path()).mkdir(bundleName);
     }
 
     void MakeDriver()
@@ -57,13 +58,15 @@ protected:
 
     [[nodiscard]] bool HasStaging() const
     {
-        return !QDir(folder.path()).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+        auto const kinds = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        return QDir(folder.path()).entryList(kinds) != QStringList{bundleName};
     }
 
     InstallJob const& LastInstallation() const { return std::get<InstallJob>(parts.jobs.back()); }
 
+    QString const bundleName = QStringLiteral("UpdateBundle.app");
     Notes notes;
-    QTemporaryDir folder;
+    QTemporaryDir folder; ///< stands for the folder of this program's bundle
     ScriptedWindows windows{notes};
     ScriptedParts parts{notes, folder.path()};
     std::optional<LoopbackServer> server;

@@ -288,9 +288,10 @@ void ScriptedParts::OpenTarget(QString const& bundlePath, quint64 bytes, std::fu
     }
     InstallTarget target;
     target.parent = UniqueFd(::open(QFile::encodeName(m_applications).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    target.bundle = UniqueFd(::open(QFile::encodeName(bundlePath).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    target.name = "App.app";
-    target.path = bundlePath;
+    QString const name = bundlePath.mid(bundlePath.lastIndexOf(QLatin1Char('/')) + 1);
+    target.name = name.toStdString();
+    target.path = m_applications + QLatin1Char('/') + name;
+    target.bundle = UniqueFd(::open(QFile::encodeName(target.path).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     opened(std::move(target));
 }
 

@@ -69,7 +69,7 @@ ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before)
     EXPECT_GT(before.residentKibibytes, 0);
     if (!IS_SANITIZED)
     {
-        EXPECT_LE(after.residentKibibytes, before.residentKibibytes + before.residentKibibytes / 100);
+        EXPECT_LE(after.residentKibibytes, before.residentKibibytes + before.residentKibibytes / 50);
     }
     return after;
 }

@@ -16,7 +16,7 @@ struct ProcessFootprint
 
 ProcessFootprint MeasureFootprint();
 
-/// Fails unless this process soon holds no more than \a before, except for one hundredth of the memory. With sanitizers
+/// Fails unless this process soon holds no more than \a before, except for one fiftieth of the memory. With sanitizers
 /// the memory does not count, because they keep freed blocks. Returns the resources then.
 ProcessFootprint ExpectNoGrowth(ProcessFootprint const& before);
 

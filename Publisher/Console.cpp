@@ -53,11 +53,7 @@ QString TextOf(Problem const& problem)
         }
         text += u' ';
     }
-    text += problem.what;
-    if (!problem.mend.isEmpty())
-    {
-        text += u"; "_s + problem.mend;
-    }
+    text += problem.mend.isEmpty() ? problem.what : WithoutFullStop(problem.what) + u"; "_s + problem.mend;
     return Printable(text);
 }
 

@@ -41,7 +41,7 @@ struct Problem
     QString file; ///< as the person typed it
     int line = 0; ///< from 1
     int column = 0;
-    QString what; ///< the fault, without a full stop
+    QString what; ///< the fault; a full stop before the advice is not printed
     QString mend; ///< the way to correct it, without a full stop
 };
 

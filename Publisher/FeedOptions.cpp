@@ -155,7 +155,8 @@ ParsedFeed ReadItems(FeedQuestion const& question, std::string const& feedName, 
     {
         QString const& detail = parsed.error().detail;
         throw Refusal({feed.source.name, parsed.error().line, parsed.error().column,
-                       parsed.error().sentence.English() + (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
+                       WithoutFullStop(parsed.error().sentence.English()) +
+                           (detail.isEmpty() ? QString() : u" (%1)"_s.arg(detail)),
                        u"pelnar-appcast lint says how to correct the feed"_s});
     }
     feed.items = std::move(parsed->items);

@@ -27,6 +27,14 @@ TEST(ProblemText, NamesThePlaceTheFaultAndTheMend)
     EXPECT_EQ(Said({{}, 0, 0, QStringLiteral("bad"), QStringLiteral("mend it")}), "bad; mend it");
 }
 
+TEST(ProblemText, SentenceLosesItsFullStopBeforeTheAdvice)
+{
+    QString const sentence = QStringLiteral("The feed ends early.");
+    EXPECT_EQ(Said({QStringLiteral("a.xml"), sentence, QStringLiteral("mend it")}),
+              "a.xml: The feed ends early; mend it");
+    EXPECT_EQ(Said({QStringLiteral("a.xml"), sentence, {}}), "a.xml: The feed ends early.");
+}
+
 TEST(ProblemText, IsOneLineThatDrivesNoTerminal)
 {
     EXPECT_EQ(Said({QStringLiteral("a\033[2J.xml"), 0, 0, QString::fromUtf8("x\ny\u202Ez\u2028"), {}}),

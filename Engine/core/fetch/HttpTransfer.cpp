@@ -321,8 +321,7 @@ void HttpTransfer::ReadOn()
         TakeEnd(*m_end);
         return;
     }
-    CURLcode const code = curl_easy_pause(m_curl->Handle(), CURLPAUSE_CONT);
-    if (code != CURLE_OK)
+    if (CURLcode const code = curl_easy_pause(m_curl->Handle(), CURLPAUSE_CONT); code != CURLE_OK)
     {
         TakeEnd(code);
     }

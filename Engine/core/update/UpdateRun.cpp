@@ -1,7 +1,6 @@
 #include "Engine/core/update/UpdateRun.h"
 
 #include "Engine/core/base/PathText.h"
-#include "Engine/core/bundle/PayloadKind.h"
 #include "Engine/core/check/DelegateCall.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/update/KeptArguments.h"
@@ -14,8 +13,6 @@
 
 #include <algorithm>
 #include <utility>
-
-#include <unistd.h>
 
 namespace Pelnar::Engine
 {

@@ -1,6 +1,6 @@
 // ArchiveUnpackFuzz.cpp: unpacks any bytes as an archive into a folder in memory. Nothing is created outside that
-// folder, whatever the verdict is. An accepted archive gives exactly the reported tree. If the first byte says so, the
-// rest is a tar that is compressed with gzip first, so that mutations reach the entries.
+// folder, even by a refused archive. An accepted archive gives exactly the reported tree. If the first byte says so,
+// the rest is a tar that is compressed with gzip first, so that mutations reach the entries.
 
 #include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/archive/UnpackArchive.h"

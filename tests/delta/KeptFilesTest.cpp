@@ -1,6 +1,7 @@
 // KeptFilesTest.cpp: files that a delta keeps, made by two threads or by one.
 
 #include "Engine/core/delta/KeptFiles.h"
+#include "tests/support/NoFurtherThread.h"
 
 #include <gtest/gtest.h>
 
@@ -13,7 +14,6 @@
 #include <vector>
 
 #include <fcntl.h>
-#include <pthread.h>
 
 namespace
 {
@@ -101,19 +101,12 @@ TEST_F(KeptFilesTest, AreMadeAndReportedInTheirOrder)
 
 TEST_F(KeptFilesTest, AreMadeByTheCallerIfTheSystemHasNoFurtherThread)
 {
-    // Stacks of new threads are larger than all memory.
-    pthread_attr_t usual;
-    pthread_attr_t huge;
-    ASSERT_EQ(::pthread_getattr_default_np(&usual), 0);
-    ASSERT_EQ(::pthread_getattr_default_np(&huge), 0);
-    ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t(1) << 50), 0);
-    ASSERT_EQ(::pthread_setattr_default_np(&huge), 0);
+    Pelnar::Testing::NoFurtherThread const noThread;
     std::vector<std::string> reported;
     EntryDone const done = [&reported](DeltaEntry const& entry) { reported.push_back(entry.path); };
     KeptFiles kept(Work(), m_entries);
     kept.Start();
     DeltaOutcome const outcome = kept.Finish(done);
-    EXPECT_EQ(::pthread_setattr_default_np(&usual), 0);
     EXPECT_TRUE(outcome.HasSucceeded()) << outcome.path;
     ExpectAllFiles(reported);
 }

@@ -1,4 +1,5 @@
 #include "Engine/core/base/TaskThread.h"
+#include "tests/support/NoFurtherThread.h"
 
 #include <gtest/gtest.h>
 
@@ -8,8 +9,6 @@
 #include <stdexcept>
 #include <thread>
 #include <vector>
-
-#include <pthread.h>
 
 namespace
 {
@@ -114,18 +113,11 @@ TEST(TaskThread, DropsWhatHasNotBegunWhenItEnds)
 
 TEST(TaskThread, DoesThemInTheCallersThreadIfTheSystemHasNoOther)
 {
-    // Stacks of new threads are larger than all memory.
-    pthread_attr_t usual;
-    pthread_attr_t huge;
-    ASSERT_EQ(::pthread_getattr_default_np(&usual), 0);
-    ASSERT_EQ(::pthread_getattr_default_np(&huge), 0);
-    ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t(1) << 50), 0);
-    ASSERT_EQ(::pthread_setattr_default_np(&huge), 0);
+    Pelnar::Testing::NoFurtherThread const noThread;
     TaskThread tasks(AHEAD);
     std::thread::id thread;
     tasks.Post([&thread] { thread = std::this_thread::get_id(); });
     tasks.Finish();
-    EXPECT_EQ(::pthread_setattr_default_np(&usual), 0);
     EXPECT_EQ(thread, std::this_thread::get_id());
 }
 

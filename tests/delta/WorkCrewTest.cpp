@@ -1,4 +1,5 @@
 #include "Engine/core/delta/WorkCrew.h"
+#include "tests/support/NoFurtherThread.h"
 
 #include <gtest/gtest.h>
 
@@ -6,8 +7,6 @@
 #include <stdexcept>
 #include <thread>
 #include <vector>
-
-#include <pthread.h>
 
 namespace
 {
@@ -55,18 +54,11 @@ TEST(WorkCrew, ThrowsWhatAPieceHasThrownAndStartsNoMore)
 
 TEST(WorkCrew, DoesAllInTheCallersThreadIfTheSystemHasNoOther)
 {
-    // Stacks of new threads are larger than all memory.
-    pthread_attr_t usual;
-    pthread_attr_t huge;
-    ASSERT_EQ(::pthread_getattr_default_np(&usual), 0);
-    ASSERT_EQ(::pthread_getattr_default_np(&huge), 0);
-    ASSERT_EQ(::pthread_attr_setstacksize(&huge, std::size_t(1) << 50), 0);
-    ASSERT_EQ(::pthread_setattr_default_np(&huge), 0);
+    Pelnar::Testing::NoFurtherThread const noThread;
     std::vector<std::thread::id> threads;
     std::size_t told = 0;
     DoAll(
         10, [&threads](std::size_t) { threads.push_back(std::this_thread::get_id()); }, [&told] { ++told; });
-    EXPECT_EQ(::pthread_setattr_default_np(&usual), 0);
     EXPECT_EQ(threads, std::vector<std::thread::id>(10, std::this_thread::get_id()));
     EXPECT_EQ(told, 10u);
 }

@@ -1,5 +1,5 @@
-// TreeAccess.h: opens and creates files, folders and links below one open folder. It never leaves that folder, whatever
-// links are in it. Thread: one at a time. Ownership: the caller keeps the folder's descriptor.
+// TreeAccess.h: opens and creates files, folders and links below one open folder. Links in it never lead
+// out of that folder. Thread: one at a time. Ownership: the caller keeps the folder's descriptor.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"

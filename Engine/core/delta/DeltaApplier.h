@@ -15,7 +15,7 @@ namespace Pelnar::Engine
 using DeltaProgress = std::function<void(std::uint64_t doneBytes, std::uint64_t totalBytes)>;
 
 /// Fills the empty folder open at \a stagingFd with the new version. \a oldBundleFd is the old version's folder. It
-/// accesses nothing outside these two folders, whatever links they contain. Files get mode 0644 or 0755, folders 0755.
+/// accesses nothing outside these two folders, even if they contain links. Files get mode 0644 or 0755, folders 0755.
 /// On success, every written file has been compared with the manifest's hash, and \a digest is the hash that DigestTree
 /// computes for the tree. After a failure the caller removes the result. REQUIRES: the container's signature has been
 /// verified over this very descriptor.

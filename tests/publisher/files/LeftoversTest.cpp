@@ -4,6 +4,7 @@
 
 #include "Engine/core/base/Descriptor.h"
 #include "tests/installer/InstallerFixture.h"
+#include "tests/support/NoFurtherThread.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +12,6 @@
 #include <cstdlib>
 
 #include <fcntl.h>
-#include <pthread.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -45,10 +45,7 @@ void ReadPastTheCut(std::string const& path, std::string const& leftover)
 
 void EndBySignal()
 {
-    pthread_attr_t huge; // stacks of new threads are larger than all memory
-    ::pthread_getattr_default_np(&huge);
-    ::pthread_attr_setstacksize(&huge, std::size_t(1) << 50);
-    ::pthread_setattr_default_np(&huge);
+    NoFurtherThread const noThread;
     Publisher::RemoveLeftoversWhenInterrupted();
     ::raise(SIGTERM);
     std::exit(0);

@@ -105,8 +105,7 @@ std::vector<RefusalRow> RefusedArchives()
              folder.Put("Test.zip", MakeArchive(Container::Zip, {{"Test.app/Contents/Info.plist", 'f', "bplist00"}}));
          },
          "Contents/Info.plist: the bundle's information file is not a property list in text form"},
-        {"version that is none", Bundle([](BundleText& text) { text.version = "2.0b1"; }),
-         "\"2.0b1\" is not a version"},
+        {"malformed version", Bundle([](BundleText& text) { text.version = "2.0b1"; }), "\"2.0b1\" is not a version"},
         {"version that overflows", Bundle([](BundleText& text) { text.version = "2147483648"; }), "is not a version"},
         {"no version", Bundle([](BundleText& text) { text.version.clear(); }), "\"\" is not a version"},
         {"no identifier", Bundle([](BundleText& text) { text.identifier.clear(); }), "has no CFBundleIdentifier"},

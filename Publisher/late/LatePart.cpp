@@ -13,9 +13,9 @@ namespace
 
 [[noreturn]] void RefuseToLoad(QString const& reason)
 {
-    throw Refusal(
-        {u"a part of this program cannot be loaded: "_s + reason,
-         u"reinstall the package pelnar-appcast and its dependencies (libcurl4, libqt5network5, libarchive13)"_s});
+    throw Refusal({u"a part of this program cannot be loaded: "_s + reason,
+                   u"reinstall the package pelnar-appcast and its dependencies (libcurl4, libqt5network5, "
+                   u"libarchive13, libmicrohttpd12)"_s});
 }
 
 LatePart const& Load()

@@ -1,29 +1,31 @@
 // FileServer.h: serves the files of a folder over HTTP or HTTPS on this computer only. It is a server for dry runs:
 // GET, HEAD and byte ranges, one request per connection, and faults on demand.
-// Thread: the main thread, in its event loop. Ownership: it owns its connections.
+// Thread: each connection has its own. Ownership: it owns its connections, and ends them with itself.
 #pragma once
 
 #include "Engine/core/base/Descriptor.h"
 #include "Publisher/serve/ServerFault.h"
 
-#include <QSslCertificate>
-#include <QSslKey>
-#include <QTcpServer>
+#include <QByteArray>
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <vector>
+
+struct MHD_Daemon;
 
 namespace Pelnar::Publisher
 {
 
+/// PEM texts.
 struct ServerCertificate
 {
-    QList<QSslCertificate> chain; ///< the server's own certificate first
-    QSslKey key;
+    QByteArray chain; ///< the server's own certificate first
+    QByteArray key;
 };
 
-/// Called after each response with one line: "GET /appcast.xml 200 1234 bytes".
+/// Called before each response with one line: "GET /appcast.xml 200 1234 bytes". Thread: any.
 using ServerLog = std::function<void(QString const& line)>;
 
 /// The options of a server.
@@ -33,28 +35,28 @@ struct ServerManners
     /// Additional host names for requests. Other names are refused, so that a web page cannot read the folder under its
     /// own name (DNS rebinding).
     std::vector<QByteArray> hosts;
+    std::optional<ServerCertificate> certificate;
 };
 
-class FileServer : private QTcpServer
+class FileServer
 {
 public:
     /// \a folder is an open folder. The server serves nothing outside it, no link in it, and no file that
     /// OpenServedFile hides.
-    FileServer(Engine::UniqueFd folder, ServerManners manners, std::optional<ServerCertificate> certificate,
-               ServerLog log);
+    FileServer(Engine::UniqueFd folder, ServerManners manners, ServerLog log);
 
-    /// Listens on the loopback address; 0 means any free port. Returns false if the port is in use.
-    [[nodiscard]] bool Listen(quint16 port);
+    /// Listens on the loopback address; 0 means any free port. Throws Refusal.
+    void Listen(quint16 port);
     /// "http://127.0.0.1:PORT", or https.
     QString Address() const;
 
 private:
-    void incomingConnection(qintptr descriptor) override;
+    friend class ServerAnswer;
 
     Engine::UniqueFd m_folder;
     ServerManners m_manners;
-    std::optional<ServerCertificate> m_certificate;
     ServerLog m_log;
+    std::unique_ptr<MHD_Daemon, void (*)(MHD_Daemon*)> m_daemon;
 };
 
 } // namespace Pelnar::Publisher

@@ -3,15 +3,14 @@
 #include "Publisher/Refusal.h"
 #include "Publisher/files/InputFile.h"
 #include "Publisher/serve/FileServer.h"
-#include "Publisher/serve/HttpRequest.h"
+#include "Publisher/serve/RequestRules.h"
 #include "Publisher/serve/ServedFile.h"
 
-#include <QEventLoop>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSocketNotifier>
 
 #include <cerrno>
+#include <mutex>
 #include <ostream>
 
 #include <fcntl.h>
@@ -27,23 +26,13 @@ constexpr std::uint64_t MOST_PEM_BYTES = 1 << 20;
 ServerCertificate ReadCertificate(QString const& certificateFile, QString const& keyFile)
 {
     QString const mend = u"give two PEM files: the server's certificate chain, then its key"_s;
-    QByteArray const key = ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend);
-    ServerCertificate certificate;
-    certificate.chain =
-        QSslCertificate::fromData(ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend), QSsl::Pem);
-    if (certificate.chain.isEmpty())
+    ServerCertificate certificate{ReadInputFile(OpenInputFile(certificateFile), MOST_PEM_BYTES, mend),
+                                  ReadInputFile(OpenInputFile(keyFile), MOST_PEM_BYTES, mend)};
+    if (!certificate.chain.contains("-----BEGIN CERTIFICATE-----"))
     {
         throw Refusal({certificateFile, u"contains no certificate"_s, mend});
     }
-    for (QSsl::KeyAlgorithm const algorithm : {QSsl::Rsa, QSsl::Ec})
-    {
-        certificate.key = QSslKey(key, algorithm);
-        if (!certificate.key.isNull())
-        {
-            return certificate;
-        }
-    }
-    throw Refusal({keyFile, u"contains no RSA or EC key without a password"_s, mend});
+    return certificate;
 }
 
 std::vector<ServerFault> ParseFaults(std::vector<std::string> const& texts)
@@ -80,20 +69,14 @@ std::vector<QByteArray> ParseHosts(std::vector<std::string> const& hosts)
     return names;
 }
 
-/// Ends the loop when standard input ends.
-void EndWithInput(QSocketNotifier& notifier, QEventLoop& loop)
+void WaitForEndOfInput()
 {
-    QObject::connect(&notifier, &QSocketNotifier::activated, &loop,
-                     [&notifier, &loop]
-                     {
-                         char bytes[256];
-                         ssize_t const count = ::read(STDIN_FILENO, bytes, sizeof bytes);
-                         if (count == 0 || (count < 0 && errno != EINTR && errno != EAGAIN))
-                         {
-                             notifier.setEnabled(false);
-                             loop.quit();
-                         }
-                     });
+    char bytes[256];
+    ssize_t count = 0;
+    do
+    {
+        count = ::read(STDIN_FILENO, bytes, sizeof bytes);
+    } while (count > 0 || (count < 0 && errno == EINTR));
 }
 
 } // namespace
@@ -106,13 +89,7 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
     {
         RefuseFile(name, u"cannot be served"_s, errno, u"give the folder of the feed"_s);
     }
-    std::optional<ServerCertificate> certificate;
-    if (!options.tls.empty())
-    {
-        certificate =
-            ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
-    }
-    ServerManners manners{ParseFaults(options.faults), {}};
+    ServerManners manners{ParseFaults(options.faults), ParseHosts(options.hosts), {}};
     for (ServerFault const& fault : manners.faults)
     {
         if (fault.kind != ServerFaultKind::Status && !OpenServedFile(folder.Get(), fault.name).file)
@@ -121,26 +98,29 @@ ExitStatus Serve(Console const& console, ServeOptions const& options)
                 {u"--fault: \"%1\" is not a served file"_s.arg(fault.name), u"give its path below the folder"_s});
         }
     }
-    manners.hosts = ParseHosts(options.hosts);
-    FileServer server(std::move(folder), std::move(manners), std::move(certificate),
-                      [&console](QString const& line) { console.err.stream << line.toStdString() << std::endl; });
-    if (!server.Listen(options.port))
+    if (!options.tls.empty())
     {
-        throw Refusal({u"cannot listen on port %1"_s.arg(options.port), u"leave --port out to get a free port"_s});
+        manners.certificate =
+            ReadCertificate(QString::fromStdString(options.tls.at(0)), QString::fromStdString(options.tls.at(1)));
     }
+    std::mutex logging;
+    FileServer server(std::move(folder), std::move(manners),
+                      [&](QString const& line)
+                      {
+                          std::lock_guard const guard(logging);
+                          console.err.stream << line.toStdString() << std::endl;
+                      });
+    server.Listen(options.port);
     console.Print(server.Address());
     if (!console.out.stream.flush())
     {
         return ExitStatus::Findings; // nobody would learn the address; the program reports the failure at its end
     }
-    QEventLoop loop;
-    std::optional<QSocketNotifier> notifier;
-    if (options.endsWithInput)
+    while (!options.endsWithInput)
     {
-        notifier.emplace(STDIN_FILENO, QSocketNotifier::Read);
-        EndWithInput(*notifier, loop);
+        ::pause(); // until a signal ends the program
     }
-    loop.exec();
+    WaitForEndOfInput();
     return ExitStatus::Clean;
 }
 

@@ -1,5 +1,5 @@
 // Serving.h: the work of the verb "serve".
-// Thread: the main thread, with Qt's event loop.
+// Thread: the main thread.
 #pragma once
 
 #include "Publisher/serve/ServeVerb.h"

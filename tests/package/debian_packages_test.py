@@ -60,7 +60,7 @@ def check_contents(packages):
     for needed in ("libc6", "libcurl4", "libqt5widgets5", "libgnustep-base1.28"):
         expect(needed in library, f"the libraries' package does not depend on {needed}")
     tool = depends(packages["pelnar-appcast"])
-    for needed in ("libc6", "libqt5core5a", "libcurl4", "libqt5network5", "libarchive13"):
+    for needed in ("libc6", "libqt5core5a", "libcurl4", "libqt5network5", "libarchive13", "libmicrohttpd12"):
         expect(needed in tool, f"the tool's package does not depend on {needed}")
     expect(not {"libqt5widgets5", "libqt5gui5", "libpelnar-update-checker1"} & set(tool), f"the tool's package depends on {tool}")
 

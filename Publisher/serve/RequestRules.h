@@ -1,37 +1,26 @@
-// HttpRequest.h: the request headers that the test server reads, and the requested byte range.
+// RequestRules.h: the headers of a request that decide how the test server answers. Pure functions.
 #pragma once
 
 #include "Publisher/TextLiterals.h"
 
 #include <QByteArray>
-#include <QString>
-
-#include <optional>
 
 namespace Pelnar::Publisher
 {
 
-struct HttpRequest
-{
-    QByteArray method;
-    QString path; ///< below the served folder, decoded, without query; empty if the target is not valid
-    QByteArray range;
-    QByteArray ifRange;
-    QByteArray ifNoneMatch = {};
-    QByteArray ifModifiedSince = {};
-    std::optional<QByteArray> host = {}; ///< as in the header
-    bool isHostClear = true;             ///< the header appears once, or is absent in HTTP/1.0
-};
-
-/// Reads the head of a request, up to the empty line; nothing if it is not an HTTP/1 request.
-std::optional<HttpRequest> ParseHttpRequest(QByteArray const& head);
-
 /// The name in a Host header, in lower case and without port; empty if the header is malformed.
 QByteArray HostName(QByteArray const& header);
 
+/// The conditions of a request: the values of If-None-Match and If-Modified-Since, empty if absent.
+struct Conditions
+{
+    QByteArray noneMatch;
+    QByteArray modifiedSince;
+};
+
 /// True if the client already has the version of a file with this \a entityTag and the modification time \a changed, in
 /// whole seconds since 1970.
-[[nodiscard]] bool HasVersion(HttpRequest const& request, QByteArray const& entityTag, qint64 changed);
+[[nodiscard]] bool HasVersion(Conditions const& conditions, QByteArray const& entityTag, qint64 changed);
 
 /// The bytes of a file from \a first up to but not including \a end.
 struct ByteRange

@@ -1,6 +1,6 @@
-// HttpRequestTest.cpp: the text form of requests, ranges and faults.
+// RequestRulesTest.cpp: the text form of ranges, host names and faults.
 
-#include "Publisher/serve/HttpRequest.h"
+#include "Publisher/serve/RequestRules.h"
 #include "Publisher/serve/ServerFault.h"
 
 #include <gtest/gtest.h>
@@ -10,34 +10,7 @@ namespace Pelnar::Publisher
 namespace
 {
 
-TEST(HttpRequest, PathIsDecodedAndWithoutQuery)
-{
-    struct Row
-    {
-        char const* head;
-        char const* path;
-    };
-    Row const rows[] = {
-        {"GET /appcast.xml HTTP/1.1\r\nHost: x", "appcast.xml"},
-        {"GET /My%20App_1.0.zip?a=b%20c HTTP/1.1", "My App_1.0.zip"},
-        {"GET / HTTP/1.1", ""},
-        {"GET appcast.xml HTTP/1.1", ""},
-        {"GET /a%00b HTTP/1.1", ""},
-        {"GET /%2e%2e/secret HTTP/1.1", "../secret"},
-    };
-    for (Row const& row : rows)
-    {
-        std::optional<HttpRequest> const request = ParseHttpRequest(row.head);
-        ASSERT_TRUE(request) << row.head;
-        EXPECT_EQ(request->path.toStdString(), row.path) << row.head;
-    }
-    for (char const* const head : {"", "GET", "GET /x", "GET /x SPDY/1", "\r\n"})
-    {
-        EXPECT_FALSE(ParseHttpRequest(head)) << head;
-    }
-}
-
-TEST(HttpRequest, RangeOfAFileOfAHundredBytes)
+TEST(RequestRules, RangeOfAFileOfAHundredBytes)
 {
     struct Row
     {
@@ -60,6 +33,10 @@ TEST(HttpRequest, RangeOfAFileOfAHundredBytes)
         {"bytes=-0", RangeKind::Whole, 0, 100},
         {"bytes=1-2,3-4", RangeKind::Whole, 0, 100},
         {"bytes=+1-2", RangeKind::Whole, 0, 100},
+        {"bytes=1", RangeKind::Whole, 0, 100},
+        {"bytes=1-2 ", RangeKind::Whole, 0, 100},
+        {"bytes=0-9223372036854775807", RangeKind::Part, 0, 100},
+        {"bytes=1-99999999999999999999", RangeKind::Whole, 0, 100},
         {"bytes=99999999999999999999-", RangeKind::Whole, 0, 100},
         {"lines=1-2", RangeKind::Whole, 0, 100},
     };

@@ -20,6 +20,22 @@ struct IsolatedUserDefaults::Impl
 namespace
 {
 
+/// Those of \a texts that Foundation can read: it ends the process at any other. Both lists end with a null pointer.
+std::vector<char*> ReadableTexts(char* const* texts)
+{
+    std::vector<char*> readable;
+    for (; *texts; ++texts)
+    {
+        QByteArray const bytes = QByteArray::fromRawData(*texts, static_cast<int>(qstrlen(*texts)));
+        if (QString::fromUtf8(bytes).toUtf8() == bytes)
+        {
+            readable.push_back(*texts);
+        }
+    }
+    readable.push_back(nullptr);
+    return readable;
+}
+
 /// GNUstep copies the environment when it is loaded; for a linked library this is before main. If GNUstep is loaded,
 /// this makes it copy again. The function is looked up by name, because programs without Foundation use this file too.
 void RefreshFoundationsEnvironment()
@@ -36,14 +52,15 @@ void RefreshFoundationsEnvironment()
         qFatal("cannot read %s", qPrintable(commandLine.fileName()));
     }
     QByteArray words = commandLine.readAll();
-    std::vector<char*> arguments;
+    std::vector<char*> allArguments;
     for (int start = 0; start < words.size(); start += static_cast<int>(qstrlen(words.data() + start)) + 1)
     {
-        arguments.push_back(words.data() + start);
+        allArguments.push_back(words.data() + start);
     }
-    int const count = static_cast<int>(arguments.size());
-    arguments.push_back(nullptr);
-    initialize(count, arguments.data(), environ);
+    allArguments.push_back(nullptr);
+    std::vector<char*> arguments = ReadableTexts(allArguments.data());
+    std::vector<char*> variables = ReadableTexts(environ);
+    initialize(static_cast<int>(arguments.size()) - 1, arguments.data(), variables.data());
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <ostream>
 
 namespace Pelnar::Testing
@@ -48,6 +49,27 @@ INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
                                          FolderName{"BeyondAscii", "\xc3\xa4\xe2\x82\xac"},
                                          FolderName{"Of255Bytes", LONGEST_NAME.c_str()}),
                          [](testing::TestParamInfo<FolderName> const& info) { return info.param.name; });
+
+/// A text in no encoding, in the environment of this process and its children.
+class OddVariable
+{
+public:
+    explicit OddVariable(char const* name) : m_name(name) { ::setenv(name, "caf\xe9\xff", 1); }
+    ~OddVariable() { ::unsetenv(m_name); }
+    OddVariable(OddVariable const&) = delete;
+    OddVariable& operator=(OddVariable const&) = delete;
+
+private:
+    char const* m_name;
+};
+
+TEST_F(UpdateScenario, AnEnvironmentThatIsNotUtf8ChangesNothing)
+{
+    OddVariable const value("ODD");
+    OddVariable const name("ODD\xff");
+    UpdateServer server;
+    ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+}
 
 /// The published bundles contain names beyond ASCII. Here the application's path has one, too.
 TEST_F(UpdateScenario, AnApplicationOfAnyLocaleIsUpdatedToNamesAsTheyAre)

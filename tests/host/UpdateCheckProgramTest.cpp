@@ -100,6 +100,29 @@ class CheckProgram : public testing::TestWithParam<CheckRow>
 {
 };
 
+/// A command line or an environment with texts in no encoding.
+class OddTexts : public testing::TestWithParam<char const*>
+{
+};
+
+TEST_P(OddTexts, ChangeNothing)
+{
+    FeedFolder const folder;
+    ProgramResult const result = RunProgram(
+        QStringLiteral("/bin/bash"),
+        {QStringLiteral("-c"), QStringLiteral("odd=$(printf 'caf\\351'); ") + QString::fromLatin1(GetParam()), PROGRAM,
+         QStringLiteral("--local-version=5.9"), QStringLiteral("--mode=automatic"), QStringLiteral("--feed"),
+         Write(folder, Feed::Newer)});
+    EXPECT_EQ(result.status, 0) << result.errors;
+    EXPECT_EQ(std::count(result.lines.begin(), result.lines.end(), "OnUpdateFound current=5.9 remote=5.10"), 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, OddTexts,
+                         testing::Values("export ODD=\"$odd\"; exec \"$0\" \"$@\"", "exec env \"$odd=1\" \"$0\" \"$@\"",
+                                         "exec -a \"$odd\" \"$0\" \"$@\"",
+                                         "exec \"$0\" \"$@\" --local-version=\"$odd\" --local-version=5.9",
+                                         "export HOME=\"/tmp/$odd\"; exec \"$0\" \"$@\""));
+
 TEST_P(CheckProgram, PrintsTheNotificationsAndTheOutcome)
 {
     FeedFolder const folder;

@@ -1,7 +1,7 @@
-// ProcessTexts.mm: lets Foundation accept a command line and an environment with texts outside its encoding. At its
-// first use Foundation makes strings of all these texts, and ends the process at the first one that it cannot convert,
-// such as a document's path that is not UTF-8.
-// Thread: the one that loads the library.
+// ProcessTextsGnustep.mm: lets Foundation accept a command line and an environment with texts outside its encoding. At
+// its first use Foundation makes strings of all these texts, and ends the process at the first one that it cannot
+// convert, such as a document's path that is not UTF-8. The first program or library of a process that has this class
+// does so. Thread: the one that loads the program or the library.
 
 #import <Foundation/Foundation.h>
 

@@ -8,6 +8,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <time.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -20,6 +21,22 @@ using Engine::UpdateRefusal;
 
 constexpr std::size_t PIECE_BYTES = std::size_t{1} << 20;
 constexpr char COPY_NAME[] = ".archive";
+
+constexpr int LEASE_ATTEMPTS = 100;
+constexpr timespec BETWEEN_ATTEMPTS{0, 50 * 1000 * 1000};
+
+/// A child that the host has just forked still has the host's descriptors, also the one that wrote the archive. Its
+/// next program does not inherit them.
+bool TakeLease(int archiveFd)
+{
+    bool isHeld = ::fcntl(archiveFd, F_SETLEASE, F_RDLCK) == 0;
+    for (int attempt = 1; !isHeld && errno == EAGAIN && attempt < LEASE_ATTEMPTS; ++attempt)
+    {
+        ::nanosleep(&BETWEEN_ATTEMPTS, nullptr);
+        isHeld = ::fcntl(archiveFd, F_SETLEASE, F_RDLCK) == 0;
+    }
+    return isHeld;
+}
 
 /// A new file that has already lost its name.
 Engine::UniqueFd MakeNameless(int folderFd)
@@ -70,8 +87,7 @@ void Copy(int archiveFd, std::uint64_t archiveBytes, int copyFd)
 
 } // namespace
 
-SteadyArchive::Lease::Lease(int descriptor)
-    : archiveFd(descriptor), isHeld(::fcntl(descriptor, F_SETLEASE, F_RDLCK) == 0)
+SteadyArchive::Lease::Lease(int descriptor) : archiveFd(descriptor), isHeld(TakeLease(descriptor))
 {
     if (!isHeld && errno == EAGAIN)
     {

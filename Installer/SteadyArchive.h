@@ -15,7 +15,7 @@ class SteadyArchive
 {
 public:
     /// Needs the right to create and remove a file in the folder open at \a stagingFd. Throws UpdateRefusal:
-    /// ArchiveInUse if a process has the file open for writing, ArchiveLengthDiffers unless it is a regular file of \a
+    /// ArchiveInUse if a process has the file open for writing for five seconds, ArchiveLengthDiffers unless it is a regular file of \a
     /// archiveBytes, ArchiveUnreadable, or the error that prevents a copy.
     SteadyArchive(int archiveFd, std::uint64_t archiveBytes, int stagingFd);
 

@@ -52,6 +52,28 @@ TEST(Race, ArchiveCanBeWrittenAtOnceWhenTheHelperHasEnded)
     }
 }
 
+/// As a child that the host forks, until it starts its own program.
+TEST(Race, ArchiveThatIsOpenForWritingForAMomentIsUsed)
+{
+    Versions const versions;
+    UpdateScene scene;
+    UniqueFd writer(::open(ArchivePath(scene).c_str(), O_WRONLY | O_CLOEXEC));
+    HelperStart start;
+    start.atEveryCall = [&writer](CallStop const& stop)
+    {
+        if (stop.call == SYS_nanosleep || stop.call == SYS_clock_nanosleep)
+        {
+            writer = UniqueFd();
+        }
+        return CallVerdict::GoOn();
+    };
+    HelperOutcome const outcome = PrepareIn(scene, start);
+    EXPECT_FALSE(writer) << "the helper has waited";
+    EXPECT_EQ(outcome.exitStatus, 0) << FaultName(outcome.Fault());
+    EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
+    ExpectRecovered(scene, versions);
+}
+
 TEST(Race, ArchiveWrittenBehindTheReportChangesNothing)
 {
     Versions const versions;

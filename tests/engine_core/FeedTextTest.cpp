@@ -156,6 +156,11 @@ TEST(FeedAddress, ResolvesAgainstTheFeedAndKeepsAbsoluteOnesAsTheyAre)
         {"  ", ""},
         {"https://x.example:99999/App.zip", ""},
         {"https://[bad/App.zip", ""},
+        {"https://[2001:db8::1]/App.zip", "https://[2001:db8::1]/App.zip"},
+        {"https://[fe80::1%25eth0]/App.zip", ""},
+        {"https://[fe80::1%eth0]:8443/App.zip", ""},
+        {"//[fe80::1%25eth0]/App.zip", ""},
+        {"https://[v1.a:b]/App.zip", ""},
     };
     for (Row const& row : rows)
     {

@@ -93,6 +93,14 @@ bool IsTooLong(QString const& text, QUrl const& address)
     return text.size() > CERTAINLY_SHORT && address.toEncoded().size() > MAX_ADDRESS_CHARACTERS;
 }
 
+/// A zone, as in fe80::1%eth0, names a network interface of one computer, so it has no meaning in a feed. Foundation
+/// refuses it, and also the form for IP addresses of later versions.
+bool HasUnusableHost(QUrl const& address)
+{
+    QString const host = address.host();
+    return host.contains(QLatin1Char('%')) || (host.startsWith(QLatin1Char('v')) && host.contains(QLatin1Char(':')));
+}
+
 /// "zip", "dmg" and "gz", but not the "1" of "App_1.1" nor the "0b2" of "App_1.0b2".
 bool IsExtension(QStringRef text)
 {
@@ -180,7 +188,8 @@ QUrl FeedAddress(QString const& text, QUrl const& base)
     }
     QUrl const address(text);
     QUrl const resolved = address.isValid() && address.isRelative() ? base.resolved(address) : address;
-    return resolved.isValid() && !IsTooLong(text, resolved) ? AsFoundationKeepsIt(resolved) : QUrl();
+    bool const isUsable = resolved.isValid() && !IsTooLong(text, resolved) && !HasUnusableHost(resolved);
+    return isUsable ? AsFoundationKeepsIt(resolved) : QUrl();
 }
 
 } // namespace Pelnar::Engine

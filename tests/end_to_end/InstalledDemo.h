@@ -5,6 +5,7 @@
 
 #include "Engine/core/base/ContentHasher.h"
 #include "tests/support/FileServer.h"
+#include "tests/support/OddNameFolder.h"
 
 #include <QProcess>
 #include <QStringList>
@@ -118,7 +119,7 @@ private:
     void Start(QProcess& process, QString const& feed, QStringList const& arguments) const;
     QString Path(char const* name) const { return m_folder.filePath(QString::fromLatin1(name)); }
 
-    QTemporaryDir m_folder;
+    OddNameFolder m_folder;
     std::vector<std::string> m_variables;
 };
 

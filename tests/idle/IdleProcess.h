@@ -2,9 +2,10 @@
 // Thread: main, with Qt's event loop. Ownership: the place owns its folder.
 #pragma once
 
+#include "tests/support/OddNameFolder.h"
+
 #include <QString>
 #include <QStringList>
-#include <QTemporaryDir>
 
 namespace Pelnar::Testing
 {
@@ -33,7 +34,7 @@ public:
     QStringList RunWith(QString const& libraryPath, QStringList const& words) const;
 
 private:
-    QTemporaryDir m_folder;
+    OddNameFolder m_folder;
 };
 
 } // namespace Pelnar::Testing

@@ -1,5 +1,6 @@
 #include "Installer/BundleRights.h"
 
+#include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/faults/UpdateFault.h"
 
@@ -49,7 +50,7 @@ bool IsGroupOfUse(BundleRights const& rights)
 /// Removes an access list that a new file inherited from its parent folder.
 void RemoveAccessList(int folderFd, std::string const& name)
 {
-    std::string const path = "/proc/self/fd/" + std::to_string(folderFd) + '/' + name;
+    std::string const path = Engine::DescriptorPath(folderFd) + '/' + name;
     if (::lremovexattr(path.c_str(), ACCESS_LIST) != 0 && errno != ENODATA && errno != EOPNOTSUPP)
     {
         Fail();

@@ -6,14 +6,13 @@
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/bundle/TrustedKeys.h"
 #include "Engine/core/delta/DeltaApplier.h"
+#include "Engine/core/helper/StagingFolder.h"
 #include "Installer/Confinement.h"
 #include "Installer/SteadyArchive.h"
 
 #include <cerrno>
 #include <optional>
 #include <utility>
-
-#include <fcntl.h>
 
 namespace Pelnar::Installer
 {
@@ -51,16 +50,6 @@ UpdateFault FaultOf(Engine::DeltaOutcome const& outcome)
     return UpdateFault::ContainerDamaged;
 }
 
-Engine::UniqueFd OpenBundle(int stagingFd, std::string const& name)
-{
-    Engine::UniqueFd bundle(::openat(stagingFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    if (!bundle)
-    {
-        Engine::ThrowErrno(errno);
-    }
-    return bundle;
-}
-
 Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, Engine::PrepareDescriptors const& descriptors,
                                          int archiveFd, Engine::DeltaProgress const& progress)
 {
@@ -68,7 +57,7 @@ Engine::UnpackedBundle ApplyDeltaArchive(Engine::PrepareJob const& job, Engine::
     {
         Engine::ThrowErrno(errno);
     }
-    Engine::UniqueFd const bundle = OpenBundle(descriptors.staging, job.bundleName);
+    Engine::UniqueFd const bundle = Engine::OpenFolderOrThrow(descriptors.staging, job.bundleName);
     Engine::ContentHash digest{};
     Engine::DeltaOutcome const outcome =
         Engine::ApplyDelta(archiveFd, descriptors.target, bundle.Get(), Engine::DeltaLimits(), progress, digest);
@@ -118,7 +107,7 @@ void PrepareUpdate(Engine::PrepareJob const& job, Engine::PrepareDescriptors con
     archive.reset(); // changes to it no longer matter
     // An installer program is started from where it was unpacked, a bundle from the installed bundle's place.
     std::string const& name = job.kind == PayloadKind::Installer ? bundle.name : job.bundleName;
-    Engine::CheckNewBundle(OpenBundle(descriptors.staging, bundle.name).Get(), name,
+    Engine::CheckNewBundle(Engine::OpenFolderOrThrow(descriptors.staging, bundle.name).Get(), name,
                            {job.kind, job.bundleIdentifier, job.expectedVersion, job.installedVersion});
     if (!Engine::SyncTree(descriptors.staging))
     {

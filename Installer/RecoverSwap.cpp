@@ -7,10 +7,7 @@
 #include "Installer/SwapBundle.h"
 
 #include <cerrno>
-#include <memory>
-#include <vector>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <stdio.h>
 #include <sys/file.h>
@@ -27,8 +24,6 @@ using Engine::StartConfirmation;
 using Engine::SwapJournal;
 using Engine::TargetState;
 using Engine::UniqueFd;
-
-constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 bool HasName(int folderFd, std::string const& name)
 {
@@ -70,14 +65,14 @@ std::string FindPrevious(UniqueFd const& staging, SwapJournal const& journal)
 UniqueFd OpenStaging(int parentFd, std::string const& targetName, std::string const& name)
 {
     std::string const prefix = Engine::UpdateFilePrefix(targetName);
-    UniqueFd folder(name.compare(0, prefix.size(), prefix) == 0 ? ::openat(parentFd, name.c_str(), FOLDER_FLAGS) : -1);
+    UniqueFd folder = name.compare(0, prefix.size(), prefix) == 0 ? Engine::OpenFolder(parentFd, name) : UniqueFd();
     return folder && Engine::IsPrivateFolder(folder.Get()) ? std::move(folder) : UniqueFd();
 }
 
 /// A staging folder named \a name without a lock: returns an open descriptor with its lock, otherwise an empty one.
 UniqueFd OpenAbandoned(int parentFd, std::string const& name)
 {
-    UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
+    UniqueFd folder = Engine::OpenFolder(parentFd, name);
     struct stat status;
     bool const isOurs = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
                         ::flock(folder.Get(), LOCK_EX | LOCK_NB) == 0;
@@ -86,25 +81,16 @@ UniqueFd OpenAbandoned(int parentFd, std::string const& name)
 
 void RemoveAbandonedFolders(int parentFd, std::string const& targetName, std::string const& exceptName)
 {
-    int const copy = ::openat(parentFd, ".", FOLDER_FLAGS);
-    std::unique_ptr<DIR, decltype(&::closedir)> const stream(copy < 0 ? nullptr : ::fdopendir(copy), &::closedir);
-    if (!stream)
+    auto const names = Engine::ListFolder(parentFd);
+    if (!names)
     {
         Engine::ThrowErrno(errno);
     }
     std::string const prefix = Engine::UpdateFilePrefix(targetName);
-    std::vector<std::string> names;
-    while (dirent const* const entry = ::readdir(stream.get()))
+    for (std::string const& name : *names)
     {
-        std::string const name = entry->d_name;
-        if (name.compare(0, prefix.size(), prefix) == 0 && name != exceptName)
-        {
-            names.push_back(name);
-        }
-    }
-    for (std::string const& name : names)
-    {
-        if (UniqueFd const folder = OpenAbandoned(parentFd, name))
+        bool const mayBeRemoved = name.compare(0, prefix.size(), prefix) == 0 && name != exceptName;
+        if (UniqueFd const folder = mayBeRemoved ? OpenAbandoned(parentFd, name) : UniqueFd())
         {
             // The next start tries to remove what is left.
             static_cast<void>(Engine::RemoveTree(parentFd, name));
@@ -128,8 +114,7 @@ void RollBack(int parentFd, std::string const& targetName, UniqueFd const& stagi
     SwapBack(parentFd, targetName, staging.Get(), previousName, journal);
 }
 
-RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal const& journal,
-                        std::uint64_t countedStarts)
+RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal const& journal)
 {
     UniqueFd const staging = OpenStaging(parentFd, job.targetName, journal.stagingName);
     std::string const previousName = FindPrevious(staging, journal);
@@ -142,7 +127,7 @@ RecoveryAction CarryOut(int parentFd, Engine::RecoverJob const& job, SwapJournal
     bool const awaitsHost =
         journal.confirmation == StartConfirmation::ByHost && job.purpose != Engine::RecoverPurpose::Confirmation;
     RecoveryAction const decided = Engine::DecideRecovery(
-        {target, !previousName.empty(), job.runningVersion == journal.toVersion, awaitsHost, countedStarts});
+        {target, !previousName.empty(), job.runningVersion == journal.toVersion, awaitsHost, journal.countedStarts});
     bool const isOneMoreStart = decided == RecoveryAction::CountedStart || decided == RecoveryAction::RolledBack;
     // While the process of the last counted start runs, the request comes from this process, or from another instance
     // that runs in parallel.
@@ -210,7 +195,7 @@ Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
     std::string keptName;
     if (auto const journal = ReadSwapJournal(parentFd, job.targetName))
     {
-        recovery.action = CarryOut(parentFd, job, *journal, journal->countedStarts);
+        recovery.action = CarryOut(parentFd, job, *journal);
         keptName = IsStagingKept(recovery.action) ? journal->stagingName : std::string();
     }
     else if (HasName(parentFd, job.targetName))
@@ -228,9 +213,13 @@ Recovery RecoverSwap(int parentFd, Engine::RecoverJob const& job)
 
 RecoveryAction RollBackSwap(int parentFd, std::string const& targetName)
 {
-    auto const journal = ReadSwapJournal(parentFd, targetName);
-    return journal ? CarryOut(parentFd, {targetName, journal->toVersion}, *journal, Engine::MAX_UNCONFIRMED_STARTS)
-                   : RecoveryAction::Nothing;
+    auto journal = ReadSwapJournal(parentFd, targetName);
+    if (!journal)
+    {
+        return RecoveryAction::Nothing;
+    }
+    journal->countedStarts = Engine::MAX_UNCONFIRMED_STARTS;
+    return CarryOut(parentFd, {targetName, journal->toVersion}, *journal);
 }
 
 } // namespace Pelnar::Installer

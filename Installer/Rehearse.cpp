@@ -13,7 +13,6 @@
 #include <sys/stat.h>
 #include <sys/syscall.h>
 
-#include <fcntl.h>
 #include <stdio.h>
 #include <unistd.h>
 
@@ -22,6 +21,7 @@ namespace Pelnar::Installer
 namespace
 {
 
+using Engine::OpenFolderOrThrow;
 using Engine::StagingFolder;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
@@ -58,23 +58,13 @@ void MakeFolder(int parentFd, char const* name)
     }
 }
 
-Engine::UniqueFd OpenFolder(int parentFd, std::string const& name)
-{
-    Engine::UniqueFd folder(::openat(parentFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    if (!folder)
-    {
-        Engine::ThrowErrno(errno);
-    }
-    return folder;
-}
-
 /// Exchanges a folder that has the bundle's rights with one next to the bundle, and syncs as the update does.
 void RehearseSwap(Engine::RehearseDescriptors const& descriptors, std::string const& targetName)
 {
     Standin const standin(descriptors.parent, targetName);
     MakeFolder(descriptors.staging, NEW_NAME);
-    static_cast<void>(GiveRights(OpenFolder(descriptors.staging, NEW_NAME).Get(),
-                                 RightsOf(OpenFolder(descriptors.parent, targetName).Get())));
+    static_cast<void>(GiveRights(OpenFolderOrThrow(descriptors.staging, NEW_NAME).Get(),
+                                 RightsOf(OpenFolderOrThrow(descriptors.parent, targetName).Get())));
     Engine::WriteNote(descriptors.staging, "note", "rehearsed");
     SwapBundle(descriptors.parent, standin.Name(), descriptors.staging, {{}, NEW_NAME, {}, {}});
 }

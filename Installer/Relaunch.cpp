@@ -50,7 +50,7 @@ RelaunchTarget FindRelaunchTarget(std::string const& bundlePath)
     {
         throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe);
     }
-    UniqueFd const bundle(::open(bundlePath.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    UniqueFd const bundle = Engine::OpenFolder(AT_FDCWD, bundlePath);
     if (!bundle || !Engine::IsSafeUpToTheRoot(bundle.Get()))
     {
         throw UpdateRefusal(UpdateFault::RelaunchPathUnsafe, bundle ? 0 : errno);

@@ -13,9 +13,7 @@ constexpr std::uint64_t PROGRESS_STEP_BYTES = std::uint64_t{4} << 20;
 
 void ReportChannel::Send(Engine::HelperReport const& report) const
 {
-    std::string const line = Engine::EncodeHelperReport(report);
-    static_cast<void>(
-        Engine::WriteAll(m_descriptor, Engine::Bytes(reinterpret_cast<std::uint8_t const*>(line.data()), line.size())));
+    static_cast<void>(Engine::WriteAll(m_descriptor, Engine::View(Engine::EncodeHelperReport(report))));
 }
 
 void ReportChannel::SendProgress(Engine::HelperPhase phase, std::uint64_t doneBytes, std::uint64_t totalBytes)

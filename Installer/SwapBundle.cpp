@@ -21,7 +21,6 @@ using Engine::UniqueFd;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
-constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 bool Rename(int fromFd, std::string const& from, int toFd, std::string const& to)
 {
     return ::renameat(fromFd, from.c_str(), toFd, to.c_str()) == 0;
@@ -66,7 +65,7 @@ void MoveInTurn(int parentFd, std::string const& targetName, int stagingFd, std:
 
 std::optional<std::string> VersionOf(int folderFd, std::string const& name)
 {
-    UniqueFd const bundle(::openat(folderFd, name.c_str(), FOLDER_FLAGS));
+    UniqueFd const bundle = Engine::OpenFolder(folderFd, name);
     if (!bundle)
     {
         return std::nullopt;

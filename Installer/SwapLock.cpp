@@ -143,11 +143,7 @@ SwapLock::~SwapLock()
 
 bool SwapLock::IsNamed() const
 {
-    struct stat open;
-    struct stat named;
-    return ::fstat(m_file.Get(), &open) == 0 &&
-           ::fstatat(m_parentFd, m_name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && open.st_dev == named.st_dev &&
-           open.st_ino == named.st_ino;
+    return Engine::IsAt(m_file.Get(), m_parentFd, m_name);
 }
 
 } // namespace Pelnar::Installer

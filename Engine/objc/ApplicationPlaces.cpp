@@ -41,13 +41,6 @@ std::string EarlierDownloadFolder(QString const& bundleIdentifier)
                         : base + "/pelnar-updates/" + QUrl::toPercentEncoding(bundleIdentifier, {}, ".").toStdString();
 }
 
-/// The engine's folder inside the application's folder; created for this user alone.
-UniqueFd OpenOwnFolder(BaseFolder base, QString const& bundleIdentifier)
-{
-    MakeFoldersAbove(PathIn(base, bundleIdentifier));
-    return OpenPrivateFolder(PathIn(base, bundleIdentifier));
-}
-
 void MoveRecord(int from, int to, std::string const& name)
 {
     try
@@ -65,7 +58,8 @@ void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString c
 {
     QStringList const records =
         QDir(QFile::decodeName(earlierPath.c_str())).entryList({QStringLiteral("*.installation")}, QDir::Files);
-    if (UniqueFd const state = records.isEmpty() ? UniqueFd() : OpenOwnFolder(BaseFolder::State, bundleIdentifier))
+    if (UniqueFd const state =
+            records.isEmpty() ? UniqueFd() : OpenPrivateFolder(PathIn(BaseFolder::State, bundleIdentifier)))
     {
         for (QString const& name : records)
         {
@@ -85,7 +79,7 @@ void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString c
 QString DownloadFolderOf(QString const& bundleIdentifier)
 {
     std::string const earlierPath = EarlierDownloadFolder(bundleIdentifier);
-    UniqueFd const earlier(::open(earlierPath.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    UniqueFd const earlier = OpenFolder(AT_FDCWD, earlierPath);
     struct stat status;
     if (earlier && ::fstat(earlier.Get(), &status) == 0 && status.st_uid == ::geteuid())
     {

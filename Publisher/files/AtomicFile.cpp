@@ -126,7 +126,7 @@ void AtomicFile::LinkHidden()
         return;
     }
     // A link cannot replace a file. So the file gets a hidden name first, and then its name by a rename.
-    std::string const self = "/proc/self/fd/" + std::to_string(Descriptor());
+    std::string const self = Engine::DescriptorPath(Descriptor());
     QFileInfo const target(m_path);
     QByteArray const hidden = '.' + QFile::encodeName(target.fileName()) + '.' + QByteArray::number(qint64(::getpid()));
     m_leftover.emplace(QFile::encodeName(target.absolutePath()).toStdString() + '/' + hidden.toStdString());

@@ -58,7 +58,7 @@ std::string ReadLink(int parentFd, std::string const& name)
 
 void AddText(ContentHasher& hasher, std::string const& text)
 {
-    hasher.Add(Bytes(reinterpret_cast<std::uint8_t const*>(text.data()), text.size()));
+    hasher.Add(View(text));
 }
 
 } // namespace

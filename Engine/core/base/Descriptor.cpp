@@ -2,7 +2,9 @@
 
 #include <cerrno>
 
+#include <fcntl.h>
 #include <sys/mman.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
@@ -14,6 +16,29 @@ UniqueFd::~UniqueFd()
     {
         close(m_fd);
     }
+}
+
+UniqueFd OpenFolder(int parentFd, std::string const& name)
+{
+    int folder = -1;
+    do
+    {
+        folder = ::openat(parentFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    } while (folder < 0 && errno == EINTR);
+    return UniqueFd(folder);
+}
+
+std::string DescriptorPath(int fd)
+{
+    return "/proc/self/fd/" + std::to_string(fd);
+}
+
+bool IsAt(int fd, int parentFd, std::string const& name)
+{
+    struct stat open;
+    struct stat named;
+    return ::fstat(fd, &open) == 0 && ::fstatat(parentFd, name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
+           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
 }
 
 FileMapping::FileMapping(int fd, std::size_t size)

@@ -1,4 +1,4 @@
-// Descriptor.h: owns file descriptors, maps files, and reads and writes them completely.
+// Descriptor.h: owns file descriptors, opens folders, maps files, and reads and writes them completely.
 #pragma once
 
 #include "Engine/core/base/Bytes.h"
@@ -34,6 +34,14 @@ public:
 private:
     int m_fd = -1;
 };
+
+/// Opens the folder \a name in \a parentFd for reading. A link is refused. Empty, with errno set, if it cannot be
+/// opened.
+UniqueFd OpenFolder(int parentFd, std::string const& name);
+/// A path that leads to the open object, as long as it is open.
+std::string DescriptorPath(int fd);
+/// True if \a name in the folder \a parentFd is the object that is open at \a fd, and not a link to it.
+[[nodiscard]] bool IsAt(int fd, int parentFd, std::string const& name);
 
 /// A file that is mapped for reading.
 class FileMapping

@@ -18,42 +18,16 @@ namespace
 
 /// The folder of \a path below \a folderFd, opened name by name, so that no link is followed and a path may have any
 /// length.
-UniqueFd OpenFolder(int folderFd, std::string const& path)
+UniqueFd OpenFolderBelow(int folderFd, std::string const& path)
 {
-    constexpr int FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-    UniqueFd folder(::openat(folderFd, ".", FLAGS));
+    UniqueFd folder = OpenFolder(folderFd, ".");
     for (std::size_t begin = 0; folder && begin < path.size();)
     {
         std::size_t const end = std::min(path.find('/', begin), path.size());
-        folder = UniqueFd(::openat(folder.Get(), path.substr(begin, end - begin).c_str(), FLAGS));
+        folder = OpenFolder(folder.Get(), path.substr(begin, end - begin));
         begin = end + 1;
     }
     return folder;
-}
-
-/// The names in an open folder, in any order; false, with errno, if they cannot be read.
-bool ListFolder(UniqueFd const& folder, std::vector<std::string>& names)
-{
-    int const copy = ::fcntl(folder.Get(), F_DUPFD_CLOEXEC, 0);
-    std::unique_ptr<DIR, decltype(&::closedir)> const stream(copy < 0 ? nullptr : ::fdopendir(copy), &::closedir);
-    if (!stream)
-    {
-        return false;
-    }
-    for (;;)
-    {
-        errno = 0;
-        dirent const* const entry = ::readdir(stream.get());
-        if (!entry)
-        {
-            return errno == 0;
-        }
-        std::string const name = entry->d_name;
-        if (name != "." && name != "..")
-        {
-            names.push_back(name);
-        }
-    }
 }
 
 /// Gives this user the rights to a folder that will be removed. A failure appears when the folder cannot be removed.
@@ -67,6 +41,32 @@ void UnlockFolder(int parentFd, std::string const& name, struct stat const& stat
 
 } // namespace
 
+std::optional<std::vector<std::string>> ListFolder(int folderFd)
+{
+    // Opened anew, because a copy of the descriptor would share its position.
+    int const own = ::openat(folderFd, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    std::unique_ptr<DIR, decltype(&::closedir)> const stream(own < 0 ? nullptr : ::fdopendir(own), &::closedir);
+    if (!stream)
+    {
+        return std::nullopt;
+    }
+    std::vector<std::string> names;
+    for (;;)
+    {
+        errno = 0;
+        dirent const* const entry = ::readdir(stream.get());
+        if (!entry)
+        {
+            return errno == 0 ? std::optional(std::move(names)) : std::nullopt;
+        }
+        std::string const name = entry->d_name;
+        if (name != "." && name != "..")
+        {
+            names.push_back(name);
+        }
+    }
+}
+
 bool WalkTree(int folderFd, TreeVisit const& visit)
 {
     std::vector<std::string> pending{{}};
@@ -74,13 +74,13 @@ bool WalkTree(int folderFd, TreeVisit const& visit)
     {
         std::string const path = std::move(pending.back());
         pending.pop_back();
-        UniqueFd const folder = OpenFolder(folderFd, path);
-        std::vector<std::string> names;
-        if (!folder || !ListFolder(folder, names))
+        UniqueFd const folder = OpenFolderBelow(folderFd, path);
+        auto const names = folder ? ListFolder(folder.Get()) : std::nullopt;
+        if (!names)
         {
             return false;
         }
-        for (std::string const& name : names)
+        for (std::string const& name : *names)
         {
             struct stat status;
             if (::fstatat(folder.Get(), name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0)
@@ -145,7 +145,7 @@ bool RemoveTree(int parentFd, std::string const& name)
         return ::unlinkat(parentFd, name.c_str(), 0) == 0;
     }
     UnlockFolder(parentFd, name, status);
-    UniqueFd const root(::openat(parentFd, name.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
+    UniqueFd const root = OpenFolder(parentFd, name);
     if (!root)
     {
         return false;
@@ -171,7 +171,7 @@ bool RemoveTree(int parentFd, std::string const& name)
     for (auto path = folders.rbegin(); path != folders.rend(); ++path)
     {
         std::size_t const slash = path->rfind('/');
-        UniqueFd const parent = OpenFolder(root.Get(), slash == std::string::npos ? "" : path->substr(0, slash));
+        UniqueFd const parent = OpenFolderBelow(root.Get(), slash == std::string::npos ? "" : path->substr(0, slash));
         std::string const last = slash == std::string::npos ? *path : path->substr(slash + 1);
         static_cast<void>(::unlinkat(parent.Get(), last.c_str(), AT_REMOVEDIR));
     }

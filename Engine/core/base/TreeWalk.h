@@ -1,14 +1,19 @@
-// TreeWalk.h: all entries below a folder: visited, written to the disk, removed.
+// TreeWalk.h: the entries of a folder: listed, visited, written to the disk, removed.
 // Descriptors stay the caller's.
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 #include <sys/stat.h>
 
 namespace Pelnar::Engine
 {
+
+/// The names in an open folder, in any order; empty, with errno set, if they cannot be read.
+[[nodiscard]] std::optional<std::vector<std::string>> ListFolder(int folderFd);
 
 /// Removes the entry \a name of the folder \a parentFd with all its content. It follows no link, and leaves objects on
 /// another file system. Returns true if nothing with that name is left.

@@ -1,5 +1,6 @@
 #include "Engine/core/bundle/TrustedKeys.h"
 
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/base/Descriptor.h"
 
 #include <sodium.h>
@@ -36,11 +37,8 @@ UpdateFault Judge(TrustedKeys const& keys, Ed25519SignatureBytes const& signatur
 
 std::string IdOf(Ed25519Key const& key)
 {
-    unsigned char hash[crypto_hash_sha256_BYTES];
-    ::crypto_hash_sha256(hash, key.data(), key.size());
-    char text[2 * ID_BYTES + 1];
-    ::sodium_bin2hex(text, sizeof text, hash, ID_BYTES);
-    return text;
+    ContentHash const hash = HashOf(View(key));
+    return Hexadecimal(View(hash).substr(0, ID_BYTES));
 }
 
 } // namespace

@@ -14,11 +14,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <utility>
-
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace Pelnar::Engine
 {
@@ -43,14 +38,9 @@ QDateTime TimeOf(std::uint64_t seconds)
                                             : QDateTime::fromSecsSinceEpoch(static_cast<qint64>(seconds), Qt::UTC);
 }
 
-UniqueFd OpenFolderOf(QString const& path)
+std::string FolderOf(QString const& path)
 {
-    UniqueFd folder(
-        ::open(QFile::encodeName(QFileInfo(path).path()).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    struct stat status;
-    bool const isOurs = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
-                        (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
-    return isOurs ? std::move(folder) : UniqueFd();
+    return QFile::encodeName(QFileInfo(path).path()).toStdString();
 }
 
 std::string NameOf(QString const& path)
@@ -110,7 +100,7 @@ std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
 {
     try
     {
-        UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenFolderOf(path);
+        UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenOwnFolder(FolderOf(path));
         return folder ? DecodeFeedRecord(ReadNote(folder.Get(), NameOf(path))) : std::nullopt;
     }
     catch (UpdateRefusal const&)
@@ -121,9 +111,7 @@ std::optional<FeedRecord> ReadFeedRecordFile(QString const& path)
 
 bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedRecord const& ours)
 {
-    std::string const folderPath = QFile::encodeName(QFileInfo(path).path()).toStdString();
-    MakeFoldersAbove(folderPath);
-    UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenPrivateFolder(folderPath);
+    UniqueFd const folder = path.isEmpty() ? UniqueFd() : OpenPrivateFolder(FolderOf(path));
     if (!folder)
     {
         LOG_IF(WARNING, !path.isEmpty()) << "The record of the feed could not be saved in " << path.toStdString()

@@ -49,11 +49,6 @@ std::optional<AddressReach> ReachFrom(std::uint64_t number)
     return std::nullopt;
 }
 
-UniqueFd OpenFolder(FeedFolder const& folder)
-{
-    return OpenPrivateFolder(QFile::encodeName(folder.path).toStdString());
-}
-
 /// Throws UpdateRefusal.
 void Write(FeedFolder const& place, UniqueFd const& folder, std::optional<KeptFeed> const& feed)
 {
@@ -123,7 +118,7 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
 {
     try
     {
-        UniqueFd const descriptor = OpenFolder(folder);
+        UniqueFd const descriptor = OpenOwnFolder(QFile::encodeName(folder.path).toStdString());
         // Reads one byte more than allowed, to detect a longer file.
         auto const most = static_cast<std::size_t>(maxBytes + MAX_OTHER_BYTES + 1);
         return descriptor ? DecodeKeptFeed(ReadNote(descriptor.Get(), NAME, most), folder.bundleIdentifier, maxBytes)
@@ -137,9 +132,8 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
 
 bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& feed)
 {
-    MakeFoldersAbove(QFile::encodeName(folder.path).toStdString());
     std::string const shownPath = folder.path.toStdString();
-    UniqueFd const descriptor = OpenFolder(folder);
+    UniqueFd const descriptor = OpenPrivateFolder(QFile::encodeName(folder.path).toStdString());
     if (!descriptor)
     {
         PLOG(WARNING) << "The feed is not kept for the next check, because the folder " << shownPath

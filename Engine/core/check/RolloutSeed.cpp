@@ -66,7 +66,6 @@ QByteArray RolloutSeed(QString const& folder)
     {
         if (!path.empty())
         {
-            MakeFoldersAbove(path);
             UniqueFd const opened = OpenPrivateFolder(path);
             seed = opened ? ReadOrDraw(opened.Get(), folder) : QByteArray();
         }

@@ -4,7 +4,6 @@
 
 #include "Engine/core/faults/Result.h"
 
-#include <chrono>
 #include <cstdint>
 
 namespace Pelnar::Engine

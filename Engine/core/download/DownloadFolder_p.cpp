@@ -1,14 +1,14 @@
 #include "Engine/core/download/DownloadFolder_p.h"
 
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/helper/NoteFile.h"
 
-#include <QDir>
 #include <QFile>
 
-#include <algorithm>
 #include <cstring>
 #include <map>
+#include <set>
 #include <vector>
 
 #include <fcntl.h>
@@ -26,20 +26,6 @@ constexpr mode_t OTHERS_CAN_WRITE = 0022;
 constexpr std::size_t HASH_CHARACTERS = 64;
 constexpr std::size_t MAX_OTHER_RECORDS = 16;
 
-UniqueFd OpenAt(int folder, std::string const& name, int flags)
-{
-    int descriptor = -1;
-    do
-    {
-        descriptor = openat(folder, name.c_str(), flags | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
-    } while (descriptor < 0 && errno == EINTR);
-    if (descriptor >= 0 && (flags & O_CREAT) != 0)
-    {
-        LetOwnerWrite(descriptor);
-    }
-    return UniqueFd(descriptor);
-}
-
 /// The archive to which the file \a name belongs; empty for a file that no download created.
 std::string ArchiveNameOf(std::string const& name)
 {
@@ -50,18 +36,14 @@ std::string ArchiveNameOf(std::string const& name)
     return isOfDownload ? name.substr(0, HASH_CHARACTERS) + archive : std::string();
 }
 
-std::vector<std::string> ArchiveNames(std::string const& path)
+std::set<std::string> ArchiveNames(UniqueFd const& folder)
 {
-    std::vector<std::string> names;
-    QDir const folder(QFile::decodeName(path.c_str()));
-    for (QString const& entry : folder.entryList(QDir::Files | QDir::Hidden | QDir::System))
+    std::set<std::string> names;
+    for (std::string const& entry : ListFolder(folder.Get()).value_or(std::vector<std::string>()))
     {
-        std::string const name = ArchiveNameOf(QFile::encodeName(entry).toStdString());
-        if (!name.empty() && std::find(names.begin(), names.end(), name) == names.end())
-        {
-            names.push_back(name);
-        }
+        names.insert(ArchiveNameOf(entry));
     }
+    names.erase(std::string());
     return names;
 }
 
@@ -109,31 +91,25 @@ bool IsOurs(struct stat const& status)
            (status.st_mode & OTHERS_CAN_WRITE) == 0;
 }
 
-bool IsSameFile(struct stat const& a, struct stat const& b)
-{
-    return a.st_dev == b.st_dev && a.st_ino == b.st_ino;
-}
-
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
 {
-    // A FIFO in the file's place must not block the process.
-    return OpenAt(folder.Get(), name, flags | O_NONBLOCK);
-}
-
-UniqueFd OpenFolderNamed(std::string const& path)
-{
-    return OpenAt(AT_FDCWD, path, O_RDONLY | O_DIRECTORY);
+    int descriptor = -1;
+    do
+    {
+        // A FIFO in the file's place must not block the process.
+        descriptor = openat(folder.Get(), name.c_str(), flags | O_NONBLOCK | O_NOFOLLOW | O_CLOEXEC, FILE_MODE);
+    } while (descriptor < 0 && errno == EINTR);
+    if (descriptor >= 0 && (flags & O_CREAT) != 0)
+    {
+        LetOwnerWrite(descriptor);
+    }
+    return UniqueFd(descriptor);
 }
 
 Result<UniqueFd> OpenDownloadFolder(std::string const& path)
 {
     QString const shownPath = QFile::decodeName(path.c_str());
     UniqueFd folder = OpenPrivateFolder(path);
-    if (!folder && errno == ENOENT)
-    {
-        MakeFoldersAbove(path);
-        folder = OpenPrivateFolder(path);
-    }
     if (!folder)
     {
         int const errorNumber = errno;
@@ -169,10 +145,10 @@ void RemoveArchive(UniqueFd const& folder, std::string const& name, ArchiveRecor
     unlinkat(folder.Get(), name.c_str(), 0);
 }
 
-void RemoveOtherArchives(UniqueFd const& folder, std::string const& path, std::string const& keptName)
+void RemoveOtherArchives(UniqueFd const& folder, std::string const& keptName)
 {
     std::multimap<std::time_t, std::string, std::greater<>> recordsByTime;
-    for (std::string const& name : ArchiveNames(path))
+    for (std::string const& name : ArchiveNames(folder))
     {
         struct stat record
         {
@@ -194,9 +170,9 @@ void RemoveOtherArchives(UniqueFd const& folder, std::string const& path, std::s
     }
 }
 
-void RemoveAllArchives(UniqueFd const& folder, std::string const& path)
+void RemoveAllArchives(UniqueFd const& folder)
 {
-    for (std::string const& name : ArchiveNames(path))
+    for (std::string const& name : ArchiveNames(folder))
     {
         (void)HasRemoved(folder, name, ArchiveRecord::Removed);
     }

@@ -37,11 +37,9 @@ EngineError OpenError(int errorNumber);
 
 /// A regular file of this user with one name that no other user can write.
 [[nodiscard]] bool IsOurs(struct stat const& status);
-[[nodiscard]] bool IsSameFile(struct stat const& a, struct stat const& b);
 
 /// Follows no links, and does not block on an object in the file's place.
 UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags);
-UniqueFd OpenFolderNamed(std::string const& path);
 /// Creates the folder if it is missing. Refuses a folder that other users can write.
 [[nodiscard]] Result<UniqueFd> OpenDownloadFolder(std::string const& path);
 
@@ -64,8 +62,8 @@ enum class ArchiveRecord
 void RemoveArchive(UniqueFd const& folder, std::string const& name, ArchiveRecord record);
 
 /// Removes all archives except \a keptName and those in use. Some of their records are kept for a while.
-void RemoveOtherArchives(UniqueFd const& folder, std::string const& path, std::string const& keptName);
+void RemoveOtherArchives(UniqueFd const& folder, std::string const& keptName);
 /// Removes all archives and records that are not in use.
-void RemoveAllArchives(UniqueFd const& folder, std::string const& path);
+void RemoveAllArchives(UniqueFd const& folder);
 
 } // namespace Pelnar::Engine

@@ -76,7 +76,7 @@ Result<void> PartialFile::Open()
         TakeRecord(*record, file);
     }
     m_written = m_found.bytes;
-    RemoveOtherArchives(m_folder, m_place.folder, m_place.name);
+    RemoveOtherArchives(m_folder, m_place.name);
     if (m_found.bytes == m_place.declaredBytes)
     {
         return {}; // no further write
@@ -179,15 +179,7 @@ Result<void> PartialFile::Lock()
                 return Failure(OpenError(errno));
             }
         }
-        struct stat locked
-        {
-        };
-        struct stat named
-        {
-        };
-        if (fstat(m_reader.Get(), &locked) == 0 &&
-            fstatat(m_folder.Get(), m_place.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
-            IsSameFile(locked, named))
+        if (IsAt(m_reader.Get(), m_folder.Get(), m_place.name))
         {
             return {};
         }
@@ -208,7 +200,8 @@ Result<void> PartialFile::OpenWriter()
     {
         return Failure(OpenError(errno));
     }
-    return IsSameFile(reader, writer) ? Result<void>() : Failure(MakeError(ErrorCause::DownloadBusy));
+    bool const isSame = reader.st_dev == writer.st_dev && reader.st_ino == writer.st_ino;
+    return isSame ? Result<void>() : Failure(ErrorCause::DownloadBusy);
 }
 
 Result<void> PartialFile::CheckRoom() const
@@ -254,17 +247,11 @@ Result<void> PartialFile::Append(Bytes bytes)
     {
         return Failure(FailedWrite(ENOSPC));
     }
-    while (!bytes.empty())
+    if (!WriteAllAt(m_writer.Get(), m_written, bytes))
     {
-        ssize_t const count = pwrite(m_writer.Get(), bytes.data(), bytes.size(), static_cast<off_t>(m_written));
-        if (count == 0 || (count < 0 && errno != EINTR))
-        {
-            return Failure(FailedWrite(count == 0 ? EIO : errno)); // otherwise the loop would never end
-        }
-        std::size_t const written = count < 0 ? 0 : static_cast<std::size_t>(count);
-        bytes.remove_prefix(written);
-        m_written += written;
+        return Failure(FailedWrite(errno));
     }
+    m_written += bytes.size();
     return {};
 }
 
@@ -288,8 +275,7 @@ Result<void> PartialFile::StageRecord()
     }
     m_staged = OpenFileAt(m_folder, name, O_WRONLY | O_CREAT | O_EXCL);
     std::string const bytes = EncodePartialRecord(m_record);
-    Bytes const all(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size());
-    return m_staged && WriteAll(m_staged.Get(), all) ? Result<void>() : Failure(FailedWrite(errno));
+    return m_staged && WriteAll(m_staged.Get(), View(bytes)) ? Result<void>() : Failure(FailedWrite(errno));
 }
 
 Result<void> PartialFile::SyncRecord()
@@ -384,7 +370,7 @@ EngineError PartialFile::FailedWrite(int errorNumber)
 
 UniqueFd RemovePartialFile(PartialPlace const& place)
 {
-    UniqueFd const folder = OpenFolderNamed(place.folder);
+    UniqueFd const folder = OpenFolder(AT_FDCWD, place.folder);
     UniqueFd file = folder ? OpenFileAt(folder, place.name, O_RDONLY) : UniqueFd();
     if (folder)
     {
@@ -395,10 +381,9 @@ UniqueFd RemovePartialFile(PartialPlace const& place)
 
 void ClearDownloadFolder(QString const& path)
 {
-    std::string const name = QFile::encodeName(path).toStdString();
-    if (UniqueFd const folder = OpenFolderNamed(name))
+    if (UniqueFd const folder = Engine::OpenFolder(AT_FDCWD, QFile::encodeName(path).toStdString()))
     {
-        RemoveAllArchives(folder, name);
+        RemoveAllArchives(folder);
     }
 }
 

@@ -11,21 +11,21 @@ namespace
 
 constexpr std::string_view MAGIC = "PELNARD2";
 
+template <class Codec>
+void Visit(Codec& codec, PartialRecord& record, std::string& entityTag, std::string& lastModified)
+{
+    codec.Fields(record.url, record.declaredBytes, record.fileNumber, record.systemStart, record.durableBytes,
+                 entityTag, lastModified, record.spent.receivedBytes, record.spent.attempts, record.spent.seconds);
+}
+
 } // namespace
 
-std::string EncodePartialRecord(PartialRecord const& record)
+std::string EncodePartialRecord(PartialRecord record)
 {
     FieldWriter writer(MAGIC);
-    writer.Text(record.url);
-    writer.Number(record.declaredBytes);
-    writer.Number(record.fileNumber);
-    writer.Text(record.systemStart);
-    writer.Number(record.durableBytes);
-    writer.Text(record.validators.entityTag.toStdString());
-    writer.Text(record.validators.lastModified.toStdString());
-    writer.Number(record.spent.receivedBytes);
-    writer.Number(record.spent.attempts);
-    writer.Number(record.spent.seconds);
+    std::string entityTag = record.validators.entityTag.toStdString();
+    std::string lastModified = record.validators.lastModified.toStdString();
+    Visit(writer, record, entityTag, lastModified);
     return writer.Finish();
 }
 
@@ -37,16 +37,10 @@ std::optional<PartialRecord> DecodePartialRecord(std::string_view bytes)
     }
     FieldReader reader(bytes, MAGIC);
     PartialRecord record;
-    record.url = reader.Text();
-    record.declaredBytes = reader.Number();
-    record.fileNumber = reader.Number();
-    record.systemStart = reader.Text();
-    record.durableBytes = reader.Number();
-    record.validators.entityTag = QByteArray::fromStdString(reader.Text());
-    record.validators.lastModified = QByteArray::fromStdString(reader.Text());
-    record.spent.receivedBytes = reader.Number();
-    record.spent.attempts = reader.Number();
-    record.spent.seconds = reader.Number();
+    std::string entityTag;
+    std::string lastModified;
+    Visit(reader, record, entityTag, lastModified);
+    record.validators = {QByteArray::fromStdString(entityTag), QByteArray::fromStdString(lastModified)};
     if (!reader.IsWhole() || record.durableBytes > record.declaredBytes || !AreUsable(record.validators))
     {
         return std::nullopt;

@@ -26,7 +26,7 @@ struct PartialRecord
     DownloadSpending spent = {}; ///< by all downloads of the archive
 };
 
-std::string EncodePartialRecord(PartialRecord const& record);
+std::string EncodePartialRecord(PartialRecord record);
 /// Empty for bytes that are not a record.
 std::optional<PartialRecord> DecodePartialRecord(std::string_view bytes);
 

@@ -27,8 +27,7 @@ constexpr std::size_t DATABASE_BYTES = std::size_t{64} << 10; ///< for one entry
 /// True if there is an access list. The mode's group bits then apply to more than the group.
 bool HasAccessList(int fd)
 {
-    std::string const path = "/proc/self/fd/" + std::to_string(fd);
-    ssize_t const size = ::getxattr(path.c_str(), "system.posix_acl_access", nullptr, 0);
+    ssize_t const size = ::getxattr(DescriptorPath(fd).c_str(), "system.posix_acl_access", nullptr, 0);
     return size > 0 || (size < 0 && errno != ENODATA && errno != EOPNOTSUPP);
 }
 

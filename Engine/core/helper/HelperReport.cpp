@@ -28,19 +28,6 @@ bool ValueOf(std::string_view const (&names)[COUNT], std::string_view name, Enum
     return found != std::end(names);
 }
 
-std::string ToHexadecimal(std::string_view bytes)
-{
-    constexpr char DIGITS[] = "0123456789abcdef";
-    std::string text;
-    for (char const character : bytes)
-    {
-        auto const byte = static_cast<std::uint8_t>(character);
-        text += DIGITS[byte >> 4];
-        text += DIGITS[byte & 15];
-    }
-    return text;
-}
-
 template <typename Number>
 bool ReadNumber(std::string_view text, Number& number)
 {
@@ -66,7 +53,7 @@ bool FromHexadecimal(std::string_view text, std::string& bytes)
         }
         bytes += static_cast<char>(byte);
     }
-    return ToHexadecimal(bytes) == text;
+    return Hexadecimal(View(bytes)) == text;
 }
 
 std::string Line(ProgressReport const& report)
@@ -77,8 +64,7 @@ std::string Line(ProgressReport const& report)
 
 std::string Line(PreparedReport const& report)
 {
-    std::string_view const digest(reinterpret_cast<char const*>(report.digest.data()), report.digest.size());
-    return "prepared " + ToHexadecimal(digest) + ' ' + ToHexadecimal(report.stagedName);
+    return "prepared " + Hexadecimal(View(report.digest)) + ' ' + Hexadecimal(View(report.stagedName));
 }
 
 std::string Line(InstalledReport const&)
@@ -93,7 +79,7 @@ std::string Line(RecoveredReport const& report)
 
 std::string Line(FailedVersionReport const& report)
 {
-    return "failed-version " + ToHexadecimal(report.version);
+    return "failed-version " + Hexadecimal(View(report.version));
 }
 
 std::string Line(RelaunchedReport const& report)

@@ -38,7 +38,7 @@ void OpenToOwner(int parentFd, std::string const& name)
     if (folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
         (status.st_mode & FOLDER_MODE) != FOLDER_MODE)
     {
-        static_cast<void>(::chmod(("/proc/self/fd/" + std::to_string(folder.Get())).c_str(), FOLDER_MODE));
+        static_cast<void>(::chmod(DescriptorPath(folder.Get()).c_str(), FOLDER_MODE));
     }
 }
 
@@ -74,12 +74,17 @@ void MakeFoldersAbove(std::string const& path)
 
 UniqueFd OpenPrivateFolder(std::string const& path)
 {
-    static_cast<void>(MakePrivateFolder(AT_FDCWD, path)); // the folder may exist
-    UniqueFd folder;
-    do
+    if (!MakePrivateFolder(AT_FDCWD, path) && errno == ENOENT)
     {
-        folder = UniqueFd(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    } while (!folder && errno == EINTR);
+        MakeFoldersAbove(path);
+        static_cast<void>(MakePrivateFolder(AT_FDCWD, path)); // a failure appears below
+    }
+    return OpenOwnFolder(path);
+}
+
+UniqueFd OpenOwnFolder(std::string const& path)
+{
+    UniqueFd folder = OpenFolder(AT_FDCWD, path);
     struct stat status;
     if (!folder || ::fstat(folder.Get(), &status) != 0)
     {
@@ -156,7 +161,7 @@ void WriteNote(int folderFd, std::string const& name, std::string_view bytes)
     {
         LetOwnerWrite(file.Get());
     }
-    if (!file || !WriteAll(file.Get(), Bytes(reinterpret_cast<std::uint8_t const*>(bytes.data()), bytes.size())))
+    if (!file || !WriteAll(file.Get(), View(bytes)))
     {
         ThrowErrno(errno);
     }

@@ -20,8 +20,10 @@ void LetOwnerWrite(int fd);
 /// Creates the missing folders above \a path, for this user alone. Failures appear when the folders are used.
 void MakeFoldersAbove(std::string const& path);
 
-/// Opens the folder \a path, or creates it. The descriptor is empty, and errno is set, if others can write there or the
-/// folder belongs to another user (EPERM), and if the path is not a folder (ENOTDIR, ELOOP).
+/// Opens the folder \a path. The descriptor is empty, and errno is set, if others can write there or the folder belongs
+/// to another user (EPERM), and if the path is not a folder (ENOTDIR, ELOOP).
+UniqueFd OpenOwnFolder(std::string const& path);
+/// The same. A missing folder is created, and those above it.
 UniqueFd OpenPrivateFolder(std::string const& path);
 
 /// True for a regular file of this user that no other user may open.

@@ -1,15 +1,15 @@
 #include "Engine/core/helper/StagingFolder.h"
 
 #include "Engine/core/base/ContentHasher.h"
+#include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/helper/NoteFile.h"
 #include "common/UpdateFiles.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
-#include <memory>
 
-#include <dirent.h>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <sys/random.h>
@@ -27,24 +27,10 @@ constexpr mode_t PRIVATE_MODE = 0700;
 constexpr mode_t ALL_RIGHTS = 0777; ///< a folder may inherit the group of its parent, and a bit shows this
 /// A new folder that others have removed is created again, but only this often.
 constexpr int MAX_ATTEMPTS = 20;
-constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
-
-std::string Hexadecimal(Bytes bytes)
-{
-    constexpr char DIGITS[] = "0123456789abcdef";
-    std::string text;
-    for (std::uint8_t const byte : bytes)
-    {
-        text += DIGITS[byte >> 4];
-        text += DIGITS[byte & 15];
-    }
-    return text;
-}
 
 std::string NameFor(std::string_view targetName)
 {
-    ContentHash const hash =
-        HashOf(Bytes(reinterpret_cast<std::uint8_t const*>(targetName.data()), targetName.size()), HashKind::Blake2b);
+    ContentHash const hash = HashOf(View(targetName), HashKind::Blake2b);
     return std::string(UPDATE_FILES_BEGIN) + Hexadecimal(Bytes(hash.data(), TARGET_HASH_BYTES));
 }
 
@@ -62,7 +48,7 @@ std::string RandomText()
 /// its locking it looks abandoned.
 UniqueFd LockNew(int parentFd, std::string const& name)
 {
-    UniqueFd folder(::openat(parentFd, name.c_str(), FOLDER_FLAGS));
+    UniqueFd folder = OpenFolder(parentFd, name);
     if (!folder)
     {
         return errno == ENOENT ? UniqueFd() : (ThrowErrno(errno), UniqueFd());
@@ -113,17 +99,11 @@ std::string AsideName()
 
 bool HasUpdateFiles(int folderFd, std::string_view targetName)
 {
-    int const copy = ::openat(folderFd, ".", FOLDER_FLAGS);
-    std::unique_ptr<DIR, decltype(&::closedir)> const stream(copy < 0 ? nullptr : ::fdopendir(copy), &::closedir);
+    auto const names = ListFolder(folderFd);
     std::string const prefix = NameFor(targetName);
-    while (dirent const* const entry = stream ? ::readdir(stream.get()) : nullptr)
-    {
-        if (std::string_view(entry->d_name).substr(0, prefix.size()) == prefix)
-        {
-            return true;
-        }
-    }
-    return !stream;
+    return !names ||
+           std::any_of(names->begin(), names->end(),
+                       [&prefix](std::string const& name) { return name.compare(0, prefix.size(), prefix) == 0; });
 }
 
 StagingFolder::StagingFolder(UniqueFd folder, std::string name) : m_folder(std::move(folder)), m_name(std::move(name))
@@ -160,6 +140,16 @@ StagingFolder StagingFolder::Create(int parentFd, std::string_view targetName)
     throw UpdateRefusal(UpdateFault::LocksUnavailable, EWOULDBLOCK);
 }
 
+UniqueFd OpenFolderOrThrow(int parentFd, std::string const& name)
+{
+    UniqueFd folder = OpenFolder(parentFd, name);
+    if (!folder)
+    {
+        ThrowErrno(errno);
+    }
+    return folder;
+}
+
 bool IsPrivateFolder(int folderFd)
 {
     struct stat status;
@@ -170,7 +160,7 @@ bool IsPrivateFolder(int folderFd)
 std::string RealPathOf(int folderFd)
 {
     std::string path(PATH_MAX, '\0');
-    ssize_t const size = ::readlink(("/proc/self/fd/" + std::to_string(folderFd)).c_str(), path.data(), path.size());
+    ssize_t const size = ::readlink(DescriptorPath(folderFd).c_str(), path.data(), path.size());
     bool const isWhole = size > 0 && static_cast<std::size_t>(size) < path.size() && path.front() == '/';
     path.resize(isWhole ? static_cast<std::size_t>(size) : 0);
     return path;

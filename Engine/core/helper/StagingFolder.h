@@ -42,6 +42,9 @@ std::string LockFileName(std::string_view targetName);
 /// A new name for another user's object that is in the way. It belongs to no bundle.
 std::string AsideName();
 
+/// OpenFolder, but throws UpdateRefusal if the folder cannot be opened.
+UniqueFd OpenFolderOrThrow(int parentFd, std::string const& name);
+
 /// True for a folder of this user that no other user may enter.
 [[nodiscard]] bool IsPrivateFolder(int folderFd);
 

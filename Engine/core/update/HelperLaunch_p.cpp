@@ -36,7 +36,7 @@ constexpr std::size_t STACK_BYTES = std::size_t{256} << 10;
 UniqueFd SealedJob(std::string const& job)
 {
     UniqueFd file = MakeMemoryFile("job", 0);
-    AppendToMemory(file, Bytes(reinterpret_cast<std::uint8_t const*>(job.data()), job.size()));
+    AppendToMemory(file, View(job));
     SealMemory(file);
     if (::lseek(file.Get(), 0, SEEK_SET) != 0)
     {
@@ -138,6 +138,11 @@ void Fork(Launch& launch, LaunchedHelper& helper)
 
 } // namespace
 
+void KillHelper(UniqueFd const& process)
+{
+    ::syscall(SYS_pidfd_send_signal, process.Get(), SIGKILL, nullptr, 0);
+}
+
 std::optional<int> Reap(UniqueFd const& process)
 {
     siginfo_t status{};
@@ -192,7 +197,7 @@ LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::strin
     }
     UniqueFd const programCopy = CopyHigh(program.Descriptor());
     launch.program = programCopy.Get();
-    launch.programPath = "/proc/self/fd/" + std::to_string(launch.program);
+    launch.programPath = DescriptorPath(launch.program);
     Fork(launch, helper);
     return helper;
 }

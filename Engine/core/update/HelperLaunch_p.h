@@ -33,6 +33,8 @@ struct LaunchedHelper
 LaunchedHelper LaunchHelper(SealedProgram& program, char const* mode, std::string const& job,
                             std::map<int, int> const& inherited);
 
+void KillHelper(UniqueFd const& process);
+
 /// Waits for the end of a child. Returns its exit status, or a negated signal number. Empty if it is unknown: a host
 /// that reaps every child, or ignores the ends of children, has removed the status.
 std::optional<int> Reap(UniqueFd const& process);

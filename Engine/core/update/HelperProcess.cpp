@@ -11,8 +11,6 @@
 #include <utility>
 #include <variant>
 
-#include <poll.h>
-#include <signal.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -34,14 +32,6 @@ char const* ModeOf(UpdateJob const& job)
 HelperEnd EndOf(int status)
 {
     return status == 0 ? HelperEnd::Done : status == EXIT_REFUSED ? HelperEnd::Refused : HelperEnd::Crashed;
-}
-
-void WaitForEnd(UniqueFd const& process)
-{
-    pollfd ended{process.Get(), POLLIN, 0};
-    while (::poll(&ended, 1, -1) < 0 && errno == EINTR)
-    {
-    }
 }
 
 /// The end that a helper announces by its last report: each mode has one.
@@ -146,8 +136,7 @@ void HelperProcess::Impl::Kill()
 {
     if (m_process)
     {
-        ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
-        WaitForEnd(m_process);
+        KillHelper(m_process);
         static_cast<void>(Reap(m_process));
         m_process = UniqueFd();
     }
@@ -218,7 +207,7 @@ void HelperProcess::Impl::Distrust()
     m_isDistrusted = true;
     m_line.clear();
     m_reportNotifier->setEnabled(false);
-    ::syscall(SYS_pidfd_send_signal, m_process.Get(), SIGKILL, nullptr, 0);
+    KillHelper(m_process);
 }
 
 void HelperProcess::Impl::Finish()

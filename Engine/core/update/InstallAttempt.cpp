@@ -12,7 +12,6 @@
 #include <utility>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
@@ -21,15 +20,10 @@ namespace
 {
 
 constexpr int NAME_BYTES = 16;
-constexpr mode_t OTHERS_CAN_WRITE = 0022;
 
 UniqueFd MakeRecordFolder(QString const& path)
 {
-    std::string const name = QFile::encodeName(path).toStdString();
-    MakeFoldersAbove(name);
-    static_cast<void>(MakePrivateFolder(AT_FDCWD, name)); // the folder may exist
-    errno = 0;
-    UniqueFd folder = OpenRecordFolder(path);
+    UniqueFd folder = OpenPrivateFolder(QFile::encodeName(path).toStdString());
     if (!folder || ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
     {
         throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::RecordFolderUnusable), errno);
@@ -47,11 +41,7 @@ std::string InstallRecordName(QString const& bundlePath)
 
 UniqueFd OpenRecordFolder(QString const& path)
 {
-    UniqueFd folder(::open(QFile::encodeName(path).constData(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
-    struct stat status;
-    bool const isOurs = folder && ::fstat(folder.Get(), &status) == 0 && status.st_uid == ::geteuid() &&
-                        (status.st_mode & OTHERS_CAN_WRITE) == 0;
-    return isOurs ? std::move(folder) : UniqueFd();
+    return OpenOwnFolder(QFile::encodeName(path).toStdString());
 }
 
 std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name)

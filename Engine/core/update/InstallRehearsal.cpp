@@ -12,8 +12,6 @@
 #include <string>
 
 #include <poll.h>
-#include <signal.h>
-#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
@@ -49,14 +47,6 @@ std::string ReadReports(UniqueFd const& reports)
     return text;
 }
 
-/// Ends the helper if it has not ended by itself. Its report says more than its status, which a host that reaps every
-/// child removes.
-void End(LaunchedHelper const& helper)
-{
-    ::syscall(SYS_pidfd_send_signal, helper.process.Get(), SIGKILL, nullptr, 0);
-    static_cast<void>(Reap(helper.process));
-}
-
 Result<void> Judge(InstallTarget const& target, std::string const& reports)
 {
     for (std::size_t begin = 0, end = 0; (end = reports.find('\n', begin)) != std::string::npos; begin = end + 1)
@@ -87,7 +77,9 @@ Result<void> RehearseInstallation(InstallTarget const& target, SealedProgram& he
             LaunchHelper(helper, "rehearse", EncodeUpdateJob(job),
                          DescriptorMap(job, {folder->Descriptor(), target.parent.Get(), host.Get()}));
         std::string const reports = ReadReports(launched.reports);
-        End(launched);
+        KillHelper(launched.process); // unless it has ended by itself
+        // Its report says more than its status, which a host that reaps every child removes.
+        static_cast<void>(Reap(launched.process));
         return Judge(target, reports);
     }
     catch (UpdateRefusal const& refusal)

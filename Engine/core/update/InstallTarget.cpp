@@ -262,7 +262,7 @@ OpenedTarget OpenInstalledBundle(QString const& bundlePath)
     {
         return Failure(Error(ErrorCause::BundleIsLink, path));
     }
-    target.bundle = UniqueFd(::openat(target.parent.Get(), name.c_str(), FOLDER_FLAGS | O_NOFOLLOW));
+    target.bundle = OpenFolder(target.parent.Get(), name);
     std::string const realPath = target.bundle ? RealPathOf(target.parent.Get(), name) : std::string();
     if (realPath.empty())
     {
@@ -296,7 +296,6 @@ OpenedTarget OpenInstallTarget(QString const& bundlePath, quint64 neededBytes, P
 Result<void> JudgeAgain(InstallTarget const& target)
 {
     std::string const path = PathBytes(target.path);
-    struct stat open;
     struct stat named;
     if (::fstatat(target.parent.Get(), target.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) != 0)
     {
@@ -307,7 +306,7 @@ Result<void> JudgeAgain(InstallTarget const& target)
     {
         return Failure(MakeFaultError(UpdateFault::TargetMissing, 0)); // the folder that holds it was moved
     }
-    if (::fstat(target.bundle.Get(), &open) != 0 || open.st_dev != named.st_dev || open.st_ino != named.st_ino)
+    if (!IsAt(target.bundle.Get(), target.parent.Get(), target.name))
     {
         return Failure(MakeFaultError(UpdateFault::TargetChanged, 0));
     }

@@ -8,32 +8,12 @@
 
 #include <cerrno>
 #include <cstring>
-#include <string_view>
 
 #include <fcntl.h>
 #include <unistd.h>
 
 namespace Pelnar::Engine
 {
-namespace
-{
-
-bool WriteAt(int fd, std::string_view bytes, std::size_t place)
-{
-    while (!bytes.empty())
-    {
-        ssize_t const count = ::pwrite(fd, bytes.data(), bytes.size(), static_cast<off_t>(place));
-        if (count <= 0 && !(count < 0 && errno == EINTR))
-        {
-            return false;
-        }
-        bytes.remove_prefix(count < 0 ? 0 : static_cast<std::size_t>(count));
-        place += count < 0 ? 0 : static_cast<std::size_t>(count);
-    }
-    return true;
-}
-
-} // namespace
 
 KeptArguments& KeptArguments::OfProcess()
 {
@@ -87,8 +67,8 @@ bool KeptArguments::Write() const
     std::string const bytes = EncodeRelaunchArguments(m_arguments);
     std::size_t const begin = RELAUNCH_ARGUMENTS_MAGIC.size();
     // The first bytes are written last: a process killed in between leaves an incomplete file, which counts as empty.
-    return ::ftruncate(m_file.Get(), 0) == 0 && WriteAt(m_file.Get(), std::string_view(bytes).substr(begin), begin) &&
-           WriteAt(m_file.Get(), RELAUNCH_ARGUMENTS_MAGIC, 0);
+    return ::ftruncate(m_file.Get(), 0) == 0 && WriteAllAt(m_file.Get(), begin, View(bytes).substr(begin)) &&
+           WriteAllAt(m_file.Get(), 0, View(RELAUNCH_ARGUMENTS_MAGIC));
 }
 
 } // namespace Pelnar::Engine

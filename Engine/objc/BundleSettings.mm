@@ -1,5 +1,6 @@
 #include "Engine/objc/BundleSettings_p.h"
 
+#include "Engine/core/base/LatestWriter.h"
 #include "Engine/core/base/PathText.h"
 #include "Engine/core/check/FeedRecordFile.h"
 #include "Engine/core/check/RolloutSeed.h"
@@ -16,8 +17,6 @@
 #include <glog/logging.h>
 
 #include <algorithm>
-#include <mutex>
-#include <utility>
 
 #include <fcntl.h>
 
@@ -33,19 +32,11 @@ namespace
 
 constexpr long long MAX_FEED_BYTES = 1LL << 30;
 
-/// A record that is being written to the disk. A check that begins meanwhile must see it.
-struct WaitingRecord
+/// A check that begins while a record is being written must see it.
+LatestWriter<FeedRecord>& RecordWriter()
 {
-    std::mutex mutex;
-    std::optional<FeedRecord> record;
-    bool isNew = false; ///< the writing thread has not taken it
-    bool isBeingWritten = false;
-};
-
-WaitingRecord& Waiting()
-{
-    static WaitingRecord waiting;
-    return waiting;
+    static LatestWriter<FeedRecord> writer;
+    return writer;
 }
 
 FeedSigning ReadFeedSigning()
@@ -188,27 +179,6 @@ FeedRecord ReadFeedRecordOfDefaults()
     }
     record.serial = std::max(0LL, [EntryOf(entries, @"serial", [NSNumber class]) longLongValue]);
     return record;
-}
-
-/// Writes one record after the other until no new one waits, so that a slow disk never has several writers.
-void WriteWaitingRecords(QString const& path, FeedRecord const& earlier)
-{
-    WaitingRecord& waiting = Waiting();
-    std::unique_lock lock(waiting.mutex);
-    bool isKept = false;
-    while (std::exchange(waiting.isNew, false))
-    {
-        FeedRecord const record = *waiting.record;
-        lock.unlock();
-        isKept = KeepFeedRecordFile(path, earlier, record);
-        lock.lock();
-    }
-    waiting.isBeingWritten = false;
-    // A record that cannot be written stays in memory until the process ends.
-    if (isKept)
-    {
-        waiting.record.reset();
-    }
 }
 
 QString RecordPath() { return FeedRecordFileOf(SettingText(Setting::BundleIdentifier)); }
@@ -354,25 +324,18 @@ FeedFolder ReadFeedFolder()
 
 FeedRecord ReadFeedRecord()
 {
-    WaitingRecord& waiting = Waiting();
-    std::lock_guard const lock(waiting.mutex);
+    // Before the file is read: without a waiting record, the file has it.
+    std::optional<FeedRecord> const unwritten = RecordWriter().Waiting();
     FeedRecord const stored = ReadFeedRecordFile(RecordPath()).value_or(ReadEarlierFeedRecord());
-    return waiting.record ? FeedRecordToKeep(stored, *waiting.record) : stored;
+    return unwritten ? FeedRecordToKeep(stored, *unwritten) : stored;
 }
 
 void KeepFeedRecord(FeedRecord const& ours, DiskChores& chores)
 {
-    WaitingRecord& waiting = Waiting();
-    {
-        std::lock_guard const lock(waiting.mutex);
-        waiting.record = waiting.record ? FeedRecordToKeep(*waiting.record, ours) : ours;
-        waiting.isNew = true;
-        if (std::exchange(waiting.isBeingWritten, true))
-        {
-            return; // the writing thread takes this record next
-        }
-    }
-    chores.Run([path = RecordPath(), earlier = ReadEarlierFeedRecord()] { WriteWaitingRecords(path, earlier); });
+    std::optional<FeedRecord> const unwritten = RecordWriter().Waiting();
+    RecordWriter().Put(unwritten ? FeedRecordToKeep(*unwritten, ours) : ours, chores,
+                       [path = RecordPath(), earlier = ReadEarlierFeedRecord()](FeedRecord const& latest)
+                       { return KeepFeedRecordFile(path, earlier, latest); });
 }
 
 } // namespace Pelnar::Engine

@@ -3,8 +3,8 @@
 // Thread: main.
 #pragma once
 
+#include "Engine/core/base/DiskChores.h"
 #include "Engine/core/check/KeptFeedFile.h"
-#include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/UpdateSettings.h"
 

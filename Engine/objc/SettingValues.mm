@@ -1,11 +1,11 @@
 #include "Engine/objc/SettingValues_p.h"
 
+#include "Engine/core/base/LatestWriter.h"
 #include "Foundation/FoundationText.h"
 #include "Settings/ApplicationFolder.h"
 
 #include <glog/logging.h>
 
-#include <mutex>
 #include <utility>
 
 using namespace Pelnar::Foundation;
@@ -93,33 +93,6 @@ id ObjectIn(SettingPlace place, Setting setting)
                : [[[NSBundle mainBundle] infoDictionary] objectForKey:NameOfSetting(setting)];
 }
 
-/// One writer at a time, so that a slow disk never has several writers that wait for one lock.
-struct Saving
-{
-    std::mutex mutex;
-    bool isAskedFor = false; ///< since the last save began
-    bool isUnderWay = false;
-};
-
-Saving& ThisProcessSaves()
-{
-    static Saving saving;
-    return saving;
-}
-
-void SaveUntilNothingIsNew(Settings::UpdateDefaults& defaults)
-{
-    Saving& saving = ThisProcessSaves();
-    std::unique_lock lock(saving.mutex);
-    while (std::exchange(saving.isAskedFor, false))
-    {
-        lock.unlock();
-        (void)defaults.Save(); // the log has the failure
-        lock.lock();
-    }
-    saving.isUnderWay = false;
-}
-
 } // namespace
 
 NSString* NameOfSetting(Setting setting)
@@ -184,18 +157,11 @@ void SaveSettings(Settings::UpdateDefaults::Changes const& changes)
 
 void SaveSettingsLater(Settings::UpdateDefaults::Changes const& changes, DiskChores& chores)
 {
+    static LatestWriter<Settings::UpdateDefaults> writer;
     Settings::UpdateDefaults defaults = Defaults();
     defaults.Remember(changes);
-    Saving& saving = ThisProcessSaves();
-    {
-        std::lock_guard const lock(saving.mutex);
-        saving.isAskedFor = true;
-        if (std::exchange(saving.isUnderWay, true))
-        {
-            return; // the saving thread takes this value next
-        }
-    }
-    chores.Run([defaults]() mutable { SaveUntilNothingIsNew(defaults); });
+    // Each save writes all remembered values.
+    writer.Put(defaults, chores, [](Settings::UpdateDefaults latest) { return latest.Save(); });
 }
 
 } // namespace Pelnar::Engine

@@ -3,7 +3,7 @@
 // Thread: main. Ownership: returned Foundation objects are autoreleased, so the caller needs a pool.
 #pragma once
 
-#include "Engine/core/update/DiskChores.h"
+#include "Engine/core/base/DiskChores.h"
 #include "Settings/UpdateDefaults.h"
 #include "common/SettingKeys.h"
 

@@ -5,7 +5,7 @@
 
 #import <Sparkle/Sparkle.h>
 
-#include "Engine/core/update/DiskChores.h"
+#include "Engine/core/base/DiskChores.h"
 #include "Engine/core/update/FeedStore.h"
 #include "Engine/core/update/GoodStart.h"
 #include "Engine/core/update/InstallMemory.h"

@@ -1,6 +1,5 @@
 #include "Engine/core/fetch/CurlLoop.h"
 
-#include "Engine/core/base/SignalBlock.h"
 #include "Engine/core/fetch/AddressReach.h"
 
 #include <QCoreApplication>
@@ -11,7 +10,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
-#include <system_error>
 #include <utility>
 
 #include <linux/tcp.h>
@@ -54,7 +52,6 @@ CurlLoop::CurlLoop(QObject* parent) : QObject(parent)
 
 CurlLoop::~CurlLoop()
 {
-    m_asking.clear();
     for (auto const& [transfer, done] : m_running)
     {
         curl_multi_remove_handle(m_multi, transfer);
@@ -111,18 +108,7 @@ void CurlLoop::AskSettings(QUrl const& url, QObject* receiver, std::function<voi
         QMetaObject::invokeMethod(
             this, [tell, settings] { tell(settings); }, Qt::QueuedConnection);
     };
-    auto const isDone = [](std::future<void> const& asking)
-    { return asking.wait_for(std::chrono::seconds(0)) == std::future_status::ready; };
-    m_asking.erase(std::remove_if(m_asking.begin(), m_asking.end(), isDone), m_asking.end());
-    try
-    {
-        SignalBlock const block;
-        m_asking.push_back(std::async(std::launch::async, ask));
-    }
-    catch (std::system_error const&)
-    {
-        ask();
-    }
+    m_asking.Run(std::move(ask));
 }
 
 void CurlLoop::MindTrust(QSslConfiguration const& configuration)

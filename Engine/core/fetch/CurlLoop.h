@@ -4,6 +4,7 @@
 // them.
 #pragma once
 
+#include "Engine/core/base/DiskChores.h"
 #include "Engine/core/fetch/ProxyChoice.h"
 #include "Engine/core/fetch/TrustStore.h"
 
@@ -12,11 +13,8 @@
 #include <QTimer>
 
 #include <functional>
-#include <future>
 #include <map>
-#include <memory>
 #include <optional>
-#include <vector>
 
 #include <curl/curl.h>
 
@@ -88,7 +86,7 @@ private:
     bool m_hasBytes = false;
     QTimer m_timer;
     QTimer m_idleTimer;
-    std::vector<std::future<void>> m_asking; ///< destroying one waits for its end
+    DiskChores m_asking; ///< destroyed first
 };
 
 } // namespace Pelnar::Engine

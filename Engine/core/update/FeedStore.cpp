@@ -19,14 +19,12 @@ void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::
             answer(feed && feed->bytes.size() <= maxBytes ? feed : std::nullopt);
         }
     };
-    std::unique_lock lock(m_mutex);
-    std::optional<Wish> const wish = m_wish;
-    lock.unlock();
+    auto const unwritten = m_writer.Waiting();
     // A hanging disk gets no second reader.
-    if (wish || m_isReading)
+    if (unwritten || m_isReading)
     {
         QMetaObject::invokeMethod(
-            this, [tell, feed = wish ? wish->feed : std::nullopt] { tell(feed); }, Qt::QueuedConnection);
+            this, [tell, feed = unwritten.value_or(std::nullopt)] { tell(feed); }, Qt::QueuedConnection);
         return;
     }
     m_isReading = true;
@@ -44,34 +42,8 @@ void FeedStore::Ask(qint64 maxBytes, QObject* receiver, std::function<void(std::
 
 void FeedStore::Keep(std::optional<KeptFeed> feed)
 {
-    {
-        std::lock_guard const lock(m_mutex);
-        m_wish = Wish{std::move(feed)};
-        m_isWishNew = true;
-        if (std::exchange(m_isWriting, true))
-        {
-            return; // the writing thread takes this wish next
-        }
-    }
-    m_chores.Run([this] { WriteWishes(); });
-}
-
-void FeedStore::WriteWishes()
-{
-    std::unique_lock lock(m_mutex);
-    bool isDone = false;
-    while (std::exchange(m_isWishNew, false))
-    {
-        Wish const wish = *m_wish;
-        lock.unlock();
-        isDone = WriteKeptFeedFile(m_folder, wish.feed);
-        lock.lock();
-    }
-    m_isWriting = false;
-    if (isDone)
-    {
-        m_wish.reset();
-    }
+    m_writer.Put(std::move(feed), m_chores,
+                 [this](std::optional<KeptFeed> const& latest) { return WriteKeptFeedFile(m_folder, latest); });
 }
 
 } // namespace Pelnar::Engine

@@ -3,13 +3,11 @@
 // destructor waits for these threads.
 #pragma once
 
+#include "Engine/core/base/LatestWriter.h"
 #include "Engine/core/check/IFeedStore.h"
 #include "Engine/core/check/KeptFeedFile.h"
-#include "Engine/core/update/DiskChores.h"
 
 #include <QObject>
-
-#include <mutex>
 
 namespace Pelnar::Engine
 {
@@ -24,20 +22,9 @@ public:
     void Keep(std::optional<KeptFeed> feed) override;
 
 private:
-    /// The content that the disk should have.
-    struct Wish
-    {
-        std::optional<KeptFeed> feed;
-    };
-
-    void WriteWishes();
-
     FeedFolder const m_folder;
     bool m_isReading = false;
-    std::mutex m_mutex;
-    std::optional<Wish> m_wish; ///< until it is on the disk, or until the process ends if it cannot be written
-    bool m_isWishNew = false;   ///< no thread has begun to write it
-    bool m_isWriting = false;
+    LatestWriter<std::optional<KeptFeed>> m_writer;
     DiskChores m_chores; ///< destroyed first
 };
 

@@ -3,8 +3,8 @@
 // Thread: its maker's. Ownership: its destructor waits for its pending writes and removals.
 #pragma once
 
+#include "Engine/core/base/DiskChores.h"
 #include "Engine/core/helper/InstallRecord.h"
-#include "Engine/core/update/DiskChores.h"
 
 #include <QDateTime>
 #include <QString>

@@ -2,8 +2,8 @@
 // Thread: the Qt main thread. Ownership: outlives the updates that use it; the caller owns the created objects.
 #pragma once
 
+#include "Engine/core/base/DiskChores.h"
 #include "Engine/core/base/PathText.h"
-#include "Engine/core/update/DiskChores.h"
 #include "Engine/core/update/IUpdateEnvironment.h"
 
 #include <QObject>

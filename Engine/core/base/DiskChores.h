@@ -1,4 +1,4 @@
-// DiskChores.h: runs slow disk work in threads, so that it does not block an event loop.
+// DiskChores.h: runs slow work, mostly of the disk, in threads, so that it does not block an event loop.
 // Thread: its maker's. Ownership: its destructor waits for every chore.
 #pragma once
 

@@ -1,4 +1,4 @@
-#include "Engine/core/update/DiskChores.h"
+#include "Engine/core/base/DiskChores.h"
 
 #include "Engine/core/base/SignalBlock.h"
 

@@ -196,11 +196,6 @@ private:
     std::set<UpdateFault> m_reported;
 };
 
-bool HasCommon(QStringList const& a, QStringList const& b)
-{
-    return std::any_of(a.begin(), a.end(), [&b](QString const& id) { return b.contains(id); });
-}
-
 QString KeyText(QStringList const& ids)
 {
     return ids.join(u" and "_s);
@@ -209,7 +204,7 @@ QString KeyText(QStringList const& ids)
 void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& all, RefusalList& refusals)
 {
     if (!version.HasClients() || version.signerIds.isEmpty() || version.trustedIds.isEmpty() ||
-        HasCommon(version.trustedIds, version.signerIds))
+        Engine::HasCommon(version.trustedIds, version.signerIds))
     {
         return;
     }
@@ -218,7 +213,7 @@ void CheckOwnKey(GatedVersion const& version, std::vector<GatedVersion> const& a
     bool const goesOn =
         std::any_of(all.begin(), all.end(),
                     [&version](GatedVersion const& newer)
-                    { return IsOffered(newer, version) && HasCommon(version.trustedIds, newer.signerIds); });
+                    { return IsOffered(newer, version) && Engine::HasCommon(version.trustedIds, newer.signerIds); });
     if (followsRoot && goesOn)
     {
         return;

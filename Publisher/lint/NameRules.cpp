@@ -4,6 +4,7 @@
 #include "Publisher/lint/LintSubject.h"
 #include "Publisher/lint/LintVocabulary.h"
 
+#include <optional>
 #include <set>
 
 namespace Pelnar::Publisher
@@ -56,12 +57,12 @@ public:
 
     void Visit(LintElement const& element, bool isInItem)
     {
-        CheckElementName(element, isInItem);
+        CheckName(element.name, element.place, FEED_ELEMENTS, PLAIN_ELEMENTS, isInItem ? u"<%1>"_s : QString());
         for (LintAttribute const& attribute : element.attributes)
         {
             if (element.name.IsPlain("enclosure"))
             {
-                CheckAttributeName(attribute.name, element.place);
+                CheckName(attribute.name, element.place, FEED_ATTRIBUTES, PLAIN_ATTRIBUTES, u"the attribute %1"_s);
             }
         }
         bool const isItem = element.name.IsPlain("item");
@@ -80,62 +81,32 @@ public:
     }
 
 private:
-    void CheckElementName(LintElement const& element, bool isInItem)
-    {
-        QString const& local = element.name.local;
-        bool const isFeeds = IsFeedNamespaceUri(element.name.namespaceUri);
-        char const* const other = isFeeds                               ? OtherCaseOf(local, FEED_ELEMENTS)
-                                  : element.name.namespaceUri.isEmpty() ? OtherCaseOf(local, PLAIN_ELEMENTS)
-                                                                        : nullptr;
-        if (other)
-        {
-            ReportCase(element.name, other, element.place);
-        }
-        else if (isFeeds)
-        {
-            ReportMeant(element.name, element.place);
-        }
-        else if (isInItem && element.name.namespaceUri.isEmpty() && IsOneOf(local, FEED_ELEMENTS))
-        {
-            m_findings.Add(LintRule::NameWithoutNamespace, element.place,
-                           u"<%1> is not in the feed's namespace"_s.arg(element.name.qualified));
-        }
-    }
-
-    void CheckAttributeName(LintName const& name, LintPlace place)
+    /// \a form: how a name is shown that should be in the feed's namespace; empty where it may have no namespace.
+    template <std::size_t F, std::size_t P>
+    void CheckName(LintName const& name, LintPlace place, char const* const (&feeds)[F], char const* const (&plain)[P],
+                   QString const& form)
     {
         bool const isFeeds = IsFeedNamespaceUri(name.namespaceUri);
-        char const* const other = isFeeds                       ? OtherCaseOf(name.local, FEED_ATTRIBUTES)
-                                  : name.namespaceUri.isEmpty() ? OtherCaseOf(name.local, PLAIN_ATTRIBUTES)
-                                                                : nullptr;
+        bool const isPlain = name.namespaceUri.isEmpty();
+        char const* const other = isFeeds   ? OtherCaseOf(name.local, feeds)
+                                  : isPlain ? OtherCaseOf(name.local, plain)
+                                            : nullptr;
+        std::optional<QString> const meant = isFeeds && !other ? MeantName(name.local) : std::nullopt;
         if (other)
         {
-            ReportCase(name, other, place);
+            m_findings.Add(LintRule::NameCase, place,
+                           u"clients read %2, but not %1"_s.arg(name.qualified, QLatin1String(other)));
         }
-        else if (isFeeds)
-        {
-            ReportMeant(name, place);
-        }
-        else if (name.namespaceUri.isEmpty() && IsOneOf(name.local, FEED_ATTRIBUTES))
-        {
-            m_findings.Add(LintRule::NameWithoutNamespace, place,
-                           u"the attribute %1 is not in the feed's namespace"_s.arg(name.qualified));
-        }
-    }
-
-    void ReportMeant(LintName const& name, LintPlace place)
-    {
-        if (std::optional<QString> const meant = MeantName(name.local))
+        else if (meant)
         {
             m_findings.Add(LintRule::NameMisspelt, place,
                            u"clients do not read %1; %2 may be meant"_s.arg(name.qualified, *meant));
         }
-    }
-
-    void ReportCase(LintName const& name, char const* other, LintPlace place)
-    {
-        m_findings.Add(LintRule::NameCase, place,
-                       u"clients read %2, but not %1"_s.arg(name.qualified, QLatin1String(other)));
+        else if (isPlain && !form.isEmpty() && IsOneOf(name.local, feeds))
+        {
+            m_findings.Add(LintRule::NameWithoutNamespace, place,
+                           form.arg(name.qualified) + u" is not in the feed's namespace"_s);
+        }
     }
 
     void CheckRepetitions(LintElement const& item)

@@ -163,11 +163,6 @@ void CheckPackage(LintItem const& item, LintFindings& findings)
     }
 }
 
-Engine::KeyedVersion KeysOf(Engine::FeedItem const& item)
-{
-    return {item.versionString, Engine::SignersOf(item), item.trustedKeys};
-}
-
 /// \a machine: only items for this machine lead from one version to another.
 void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFindings& findings)
 {
@@ -178,7 +173,7 @@ void CheckTrust(std::vector<LintItem> items, QString const& machine, LintFinding
     std::vector<Engine::KeyedVersion> all;
     for (LintItem const& item : items)
     {
-        all.push_back(KeysOf(*item.full.item));
+        all.push_back(Engine::KeysOf(*item.full.item));
     }
     std::vector<QStringList> stranded(items.size());
     for (Engine::KeyedVersion const& older : all)

@@ -15,17 +15,17 @@ QString PlainSigner(FeedItem const& item)
     return IsKeyId(item.signerKey.toStdString()) && !item.edSignature.isEmpty() ? item.signerKey : QString();
 }
 
-bool HasCommon(QStringList const& a, QStringList const& b)
-{
-    return std::any_of(a.begin(), a.end(), [&b](QString const& id) { return b.contains(id); });
-}
-
 bool LeadsTo(KeyedVersion const& from, KeyedVersion const& to, VersionOrder const& order)
 {
     return HasCommon(from.trusted, to.signers) && order(from.version, to.version) < 0;
 }
 
 } // namespace
+
+bool HasCommon(QStringList const& a, QStringList const& b)
+{
+    return std::any_of(a.begin(), a.end(), [&b](QString const& id) { return b.contains(id); });
+}
 
 QStringList SignersOf(FeedItem const& item)
 {
@@ -60,6 +60,11 @@ std::optional<QString> SignatureFor(FeedItem const& item, QStringList const& tru
     }
     bool const isPlainOfAnother = !plainSigner.isEmpty() || (item.edSignature.isEmpty() && !item.signatures.empty());
     return trusted.isEmpty() || !isPlainOfAnother ? std::optional(item.edSignature) : std::nullopt;
+}
+
+KeyedVersion KeysOf(FeedItem const& item)
+{
+    return {item.versionString, SignersOf(item), item.trustedKeys};
 }
 
 std::vector<KeyedVersion> SteppingStonesFrom(KeyedVersion const& from, std::vector<KeyedVersion> const& all,

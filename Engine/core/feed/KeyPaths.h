@@ -16,6 +16,9 @@ namespace Pelnar::Engine
 /// Negative if the first version is older than the second, positive if it is newer. May throw.
 using VersionOrder = std::function<int(QString const&, QString const&)>;
 
+/// True if an id is in both lists.
+[[nodiscard]] bool HasCommon(QStringList const& a, QStringList const& b);
+
 /// The ids of the keys that signed \a item, according to the feed.
 [[nodiscard]] QStringList SignersOf(FeedItem const& item);
 
@@ -31,6 +34,9 @@ struct KeyedVersion
     QStringList signers; ///< empty if not known
     QStringList trusted; ///< by its bundle; empty if not known, or if it is not installed itself
 };
+
+/// The version of \a item and its keys, according to the feed.
+[[nodiscard]] KeyedVersion KeysOf(FeedItem const& item);
 
 /// The limit of steps, so that a hostile feed costs no more.
 constexpr std::size_t MOST_STEPPING_STONES = 16;

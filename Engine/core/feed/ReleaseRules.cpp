@@ -37,10 +37,10 @@ bool IsOtherChannel(FeedItem const& item, Installation const& installation)
     return !item.policy.channel.isEmpty() && !installation.channels.contains(item.policy.channel);
 }
 
-bool NeedsAnother(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+/// True if both versions are known, and the installed one is older than \a bound.
+bool IsBefore(QString const& bound, Installation const& installation, VersionOrder const& order)
 {
-    QString const& minimum = item.policy.minimumUpdateVersion;
-    return !minimum.isEmpty() && !installation.version.isEmpty() && order(installation.version, minimum) < 0;
+    return !bound.isEmpty() && !installation.version.isEmpty() && order(installation.version, bound) < 0;
 }
 
 bool IsToWait(FeedItem const& item, Installation const& installation, VersionOrder const& order)
@@ -66,24 +66,12 @@ bool IsInformational(FeedItem const& item, Installation const& installation, Ver
     }
     bool const isNamed = std::any_of(policy.informationalFor.begin(), policy.informationalFor.end(),
                                      [&](QString const& version) { return order(installation.version, version) == 0; });
-    return isNamed ||
-           (!policy.informationalBelow.isEmpty() && order(installation.version, policy.informationalBelow) < 0);
-}
-
-KeyedVersion KeysOf(FeedItem const& item)
-{
-    return {item.versionString, SignersOf(item), item.trustedKeys};
+    return isNamed || IsBefore(policy.informationalBelow, installation, order);
 }
 
 bool HasTrustedSignature(FeedItem const& item, Installation const& installation)
 {
     return SignatureFor(item, installation.trustedKeys).has_value();
-}
-
-bool IsTooOldForAutomatic(FeedItem const& item, Installation const& installation, VersionOrder const& order)
-{
-    QString const& minimum = item.policy.minimumAutoupdateVersion;
-    return !minimum.isEmpty() && !installation.version.isEmpty() && order(installation.version, minimum) < 0;
 }
 
 QString NamesOf(QStringList const& names)
@@ -147,7 +135,7 @@ PolicyVerdict JudgePolicy(FeedItem const& item, Installation const& installation
         return IsBehindStone(KeysOf(item), installation.stones, order) ? PolicyVerdict::NeedsAnotherVersionFirst
                                                                        : PolicyVerdict::KeyNotTrusted;
     }
-    if (NeedsAnother(item, installation, order))
+    if (IsBefore(item.policy.minimumUpdateVersion, installation, order))
     {
         return PolicyVerdict::NeedsAnotherVersionFirst;
     }
@@ -247,7 +235,8 @@ void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installatio
     {
         item.isCritical = IsCriticalFor(item, installation, order);
         item.policy.isInformational = IsInformational(item, installation, order);
-        item.policy.isToBeAsked = item.policy.isInformational || IsTooOldForAutomatic(item, installation, order);
+        item.policy.isToBeAsked =
+            item.policy.isInformational || IsBefore(item.policy.minimumAutoupdateVersion, installation, order);
         item.edSignature = SignatureFor(item, installation.trustedKeys).value_or(item.edSignature);
         for (FeedItem& recompressed : item.recompressed)
         {

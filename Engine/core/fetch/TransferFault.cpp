@@ -15,11 +15,23 @@ constexpr long STATUS_TUNNEL = 200;
 constexpr long STATUS_NO_TUNNEL = 300;
 constexpr long STATUS_PROXY_ASKS = 407;
 
-struct CertificateRule
+template <typename Number>
+struct Rule
 {
-    long error;
+    Number number;
     ErrorCause cause;
 };
+using CertificateRule = Rule<long>;
+using CodeRule = Rule<CURLcode>;
+using SystemRule = Rule<int>;
+
+template <typename Rules, typename Number>
+ErrorCause CauseIn(Rules const& rules, Number number, ErrorCause otherwise)
+{
+    auto const rule = std::find_if(rules.begin(), rules.end(),
+                                   [number](auto const& candidate) { return candidate.number == number; });
+    return rule == rules.end() ? otherwise : rule->cause;
+}
 
 constexpr std::array CERTIFICATE_RULES = {
     CertificateRule{X509_V_ERR_DEPTH_ZERO_SELF_SIGNED_CERT, ErrorCause::CertificateSelfSigned},
@@ -34,12 +46,6 @@ constexpr std::array CERTIFICATE_RULES = {
     CertificateRule{X509_V_ERR_IP_ADDRESS_MISMATCH, ErrorCause::CertificateWrongName},
     // libcurl compares the names again, and has no number for a mismatch.
     CertificateRule{X509_V_ERR_UNSPECIFIED, ErrorCause::CertificateWrongName},
-};
-
-struct CodeRule
-{
-    CURLcode code;
-    ErrorCause cause;
 };
 
 constexpr std::array CODE_RULES = {
@@ -59,24 +65,11 @@ constexpr std::array BROKEN_HANDSHAKES = {"SSL_ERROR_SYSCALL", "unexpected eof",
 
 constexpr std::array BREAKS = {CURLE_RECV_ERROR, CURLE_SEND_ERROR, CURLE_PARTIAL_FILE, CURLE_HTTP2, CURLE_HTTP2_STREAM};
 
-struct SystemRule
-{
-    int error;
-    ErrorCause cause;
-};
-
 constexpr std::array SYSTEM_RULES = {
     SystemRule{ECONNREFUSED, ErrorCause::ConnectionRefused},  SystemRule{ENETUNREACH, ErrorCause::NetworkUnreachable},
     SystemRule{EHOSTUNREACH, ErrorCause::NetworkUnreachable}, SystemRule{ENETDOWN, ErrorCause::NetworkUnreachable},
     SystemRule{ETIMEDOUT, ErrorCause::ConnectTimeout},
 };
-
-ErrorCause CauseOfCertificate(long error)
-{
-    auto const rule = std::find_if(CERTIFICATE_RULES.begin(), CERTIFICATE_RULES.end(),
-                                   [error](CertificateRule const& candidate) { return candidate.error == error; });
-    return rule == CERTIFICATE_RULES.end() ? ErrorCause::CertificateInvalid : rule->cause;
-}
 
 ErrorCause CauseOfConnecting(TransferEnd const& end)
 {
@@ -84,9 +77,7 @@ ErrorCause CauseOfConnecting(TransferEnd const& end)
     {
         return ErrorCause::ProxyFailed;
     }
-    auto const rule = std::find_if(SYSTEM_RULES.begin(), SYSTEM_RULES.end(),
-                                   [&end](SystemRule const& candidate) { return candidate.error == end.systemError; });
-    return rule == SYSTEM_RULES.end() ? ErrorCause::ConnectionFailed : rule->cause;
+    return CauseIn(SYSTEM_RULES, end.systemError, ErrorCause::ConnectionFailed);
 }
 
 ErrorCause CauseOfProxy(long error)
@@ -136,7 +127,7 @@ ErrorCause CauseOf(TransferEnd const& end)
     }
     if (end.code == CURLE_PEER_FAILED_VERIFICATION)
     {
-        return CauseOfCertificate(end.certificateError);
+        return CauseIn(CERTIFICATE_RULES, end.certificateError, ErrorCause::CertificateInvalid);
     }
     if (end.code == CURLE_SSL_CONNECT_ERROR)
     {
@@ -155,9 +146,7 @@ ErrorCause CauseOf(TransferEnd const& end)
     {
         return CauseOfBreak(end);
     }
-    auto const rule = std::find_if(CODE_RULES.begin(), CODE_RULES.end(),
-                                   [&end](CodeRule const& candidate) { return candidate.code == end.code; });
-    return rule == CODE_RULES.end() ? ErrorCause::ConnectionFailed : rule->cause;
+    return CauseIn(CODE_RULES, end.code, ErrorCause::ConnectionFailed);
 }
 
 } // namespace

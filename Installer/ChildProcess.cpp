@@ -4,13 +4,14 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <climits>
 
 #include <poll.h>
 #include <signal.h>
 #include <spawn.h>
 #include <sys/stat.h>
-#include <time.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -20,6 +21,11 @@ namespace
 
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
+using Clock = std::chrono::steady_clock;
+using std::chrono::milliseconds;
+
+constexpr int MAX_REFUSALS = 20;
+constexpr int REFUSAL_PAUSE_MS = 100;
 
 std::vector<char*> Pointers(std::vector<std::string>& texts)
 {
@@ -30,13 +36,6 @@ std::vector<char*> Pointers(std::vector<std::string>& texts)
     }
     pointers.push_back(nullptr);
     return pointers;
-}
-
-std::int64_t NowInMilliseconds()
-{
-    timespec now{};
-    ::clock_gettime(CLOCK_MONOTONIC, &now);
-    return static_cast<std::int64_t>(now.tv_sec) * 1000 + now.tv_nsec / 1000000;
 }
 
 } // namespace
@@ -65,14 +64,38 @@ pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, in
     return error == 0 ? process : -1;
 }
 
+std::optional<int> StatusOf(pid_t child)
+{
+    int status = 0;
+    for (int refusals = 0; ::waitpid(child, &status, 0) < 0;)
+    {
+        if (errno == EINTR)
+        {
+            continue;
+        }
+        if (errno == ECHILD || ++refusals > MAX_REFUSALS)
+        {
+            return std::nullopt;
+        }
+        ::poll(nullptr, 0, REFUSAL_PAUSE_MS);
+    }
+    return status;
+}
+
+bool HasSucceeded(std::optional<int> status)
+{
+    return status && WIFEXITED(*status) && WEXITSTATUS(*status) == 0;
+}
+
 bool WaitForEnd(int processFd, std::uint64_t seconds)
 {
-    std::int64_t const end = NowInMilliseconds() + static_cast<std::int64_t>(seconds) * 1000;
+    Clock::time_point const end = Clock::now() + std::chrono::seconds(seconds);
     for (;;)
     {
         pollfd ended{processFd, POLLIN, 0};
-        std::int64_t const left = std::clamp<std::int64_t>(end - NowInMilliseconds(), 0, INT_MAX);
-        int const count = ::poll(&ended, 1, seconds == 0 ? -1 : static_cast<int>(left));
+        std::int64_t const left = std::chrono::ceil<milliseconds>(end - Clock::now()).count();
+        int const count =
+            ::poll(&ended, 1, seconds == 0 ? -1 : static_cast<int>(std::clamp<std::int64_t>(left, 0, INT_MAX)));
         if (count > 0 && (ended.revents & POLLIN) != 0)
         {
             return true;

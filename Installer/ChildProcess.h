@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -23,6 +24,12 @@ struct Surroundings
 /// no signal blocked. Returns -1 and sets \a error to an errno if it does not start. REQUIRES: this thread is the only
 /// one of the process, and its working folder is the root.
 pid_t StartProgram(std::vector<std::string> words, Surroundings surroundings, int& error);
+
+/// The wait status of this process's child, which ends soon or has ended. If the system gives no answer, it is asked
+/// again a limited number of times; empty if the status stays unknown.
+std::optional<int> StatusOf(pid_t child);
+/// True if the program returned 0.
+[[nodiscard]] bool HasSucceeded(std::optional<int> status);
 
 /// Waits until the process behind a pidfd has ended, at most \a seconds; 0 means no limit. Returns false if it has not
 /// ended. Throws UpdateRefusal: DescriptorUnusable.

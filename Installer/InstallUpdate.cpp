@@ -18,13 +18,11 @@
 #include <cerrno>
 #include <exception>
 #include <optional>
+#include <type_traits>
 
 #include <fcntl.h>
-#include <poll.h>
 #include <signal.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -39,10 +37,7 @@ using Engine::UniqueFd;
 using Engine::UpdateFault;
 using Engine::UpdateRefusal;
 
-constexpr int FOLDER_FLAGS = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr int EXIT_REFUSED = 1;
-constexpr int MAX_REFUSALS = 20;
-constexpr int REFUSAL_PAUSE_MS = 100;
 constexpr mode_t PACKED_BITS = 0777;
 
 /// No signal may end the process once it no longer waits.
@@ -71,19 +66,11 @@ void WaitForHost(int hostFd, std::uint64_t waitSeconds)
     }
 }
 
-bool IsSameFolder(int folderFd, int parentFd, std::string const& name)
-{
-    struct stat open;
-    struct stat named;
-    return ::fstat(folderFd, &open) == 0 && ::fstatat(parentFd, name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 &&
-           open.st_dev == named.st_dev && open.st_ino == named.st_ino;
-}
-
 /// Checks that the installed bundle is still the one that the update was prepared for, and that it allows an installer
 /// program.
 UniqueFd CheckTarget(InstallJob const& job, Engine::InstallDescriptors const& descriptors)
 {
-    UniqueFd target(::openat(descriptors.parent, job.targetName.c_str(), FOLDER_FLAGS));
+    UniqueFd target = Engine::OpenFolder(descriptors.parent, job.targetName);
     if (!target)
     {
         throw UpdateRefusal(errno == ENOENT ? UpdateFault::TargetMissing : UpdateFault::TargetChanged, errno);
@@ -108,7 +95,7 @@ UniqueFd CheckTarget(InstallJob const& job, Engine::InstallDescriptors const& de
 /// The staged bundle. CheckStaged() checks that it is still the prepared one.
 UniqueFd OpenStaged(InstallJob const& job, Engine::InstallDescriptors const& descriptors)
 {
-    UniqueFd staged(::openat(descriptors.staging, job.stagedName.c_str(), FOLDER_FLAGS));
+    UniqueFd staged = Engine::OpenFolder(descriptors.staging, job.stagedName);
     if (!staged)
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged, errno);
@@ -119,8 +106,8 @@ UniqueFd OpenStaged(InstallJob const& job, Engine::InstallDescriptors const& des
 void CheckStaged(InstallJob const& job, Engine::InstallDescriptors const& descriptors, int stagedFd, mode_t bitsWithin)
 {
     bool const isInPlace = Engine::IsPrivateFolder(descriptors.staging) &&
-                           IsSameFolder(stagedFd, descriptors.staging, job.stagedName) &&
-                           IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName);
+                           Engine::IsAt(stagedFd, descriptors.staging, job.stagedName) &&
+                           Engine::IsAt(descriptors.staging, descriptors.parent, job.stagingName);
     if (!isInPlace || Engine::DigestTree(stagedFd, bitsWithin) != job.digest)
     {
         throw UpdateRefusal(UpdateFault::StagedTreeChanged);
@@ -178,40 +165,39 @@ void InstallLocked(InstallJob const& job, Engine::InstallDescriptors const& desc
     report.Send(Engine::InstalledReport{});
 }
 
-/// Why nothing was installed.
-struct Failure
-{
-    UpdateFault fault = UpdateFault::InstallationInterrupted;
-    int errorNumber = 0;
-};
+/// Why nothing was installed, as it is reported. The child writes it to its parent as it is in memory.
+using Failure = Engine::RefusedReport;
+static_assert(std::is_trivially_copyable_v<Failure>);
 
-/// Runs \a work and returns its failure.
-template <typename Work>
-std::optional<Failure> CallDelegate(Work const& work, ReportChannel const& report)
+Failure Reported(Failure const& failure, ReportChannel const& report)
 {
-    Failure failure;
+    report.Send(failure);
+    return failure;
+}
+
+std::optional<Failure> FailureOf(InstallJob const& job, Engine::InstallDescriptors const& descriptors,
+                                 ReportChannel& report)
+{
     try
     {
-        work();
+        InstallLocked(job, descriptors, report);
         return std::nullopt;
     }
     catch (UpdateRefusal const& refusal)
     {
-        failure = {refusal.Fault(), refusal.ErrorNumber()};
+        return Reported({refusal.Fault(), refusal.ErrorNumber()}, report);
     }
     catch (std::exception const&) // out of memory
     {
-        failure = {UpdateFault::SystemLimitReached, ENOMEM};
+        return Reported({UpdateFault::SystemLimitReached, ENOMEM}, report);
     }
-    report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
-    return failure;
 }
 
 /// The whole work of the child; returns its exit status.
 int RunInstallation(InstallJob const& job, Engine::InstallDescriptors const& descriptors, ReportChannel& report,
                     int failureFd)
 {
-    auto const failure = CallDelegate([&] { InstallLocked(job, descriptors, report); }, report);
+    auto const failure = FailureOf(job, descriptors, report);
     if (!failure)
     {
         return 0;
@@ -221,26 +207,6 @@ int RunInstallation(InstallJob const& job, Engine::InstallDescriptors const& des
     return EXIT_REFUSED;
 }
 
-/// True if the child ended well. If the system gives no answer, it is asked again a limited number of times. After that
-/// the swap lock, which the child holds while it works, keeps the two apart.
-bool WaitForChild(pid_t child)
-{
-    int status = 0;
-    for (int refusals = 0; ::waitpid(child, &status, 0) < 0;)
-    {
-        if (errno == EINTR)
-        {
-            continue;
-        }
-        if (errno == ECHILD || ++refusals > MAX_REFUSALS)
-        {
-            return false;
-        }
-        ::poll(nullptr, 0, REFUSAL_PAUSE_MS);
-    }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
-}
-
 /// Lets a child install the update. Empty if it is installed.
 std::optional<Failure> InstallInChild(InstallJob const& job, Engine::InstallDescriptors const& descriptors,
                                       ReportChannel& report)
@@ -248,9 +214,7 @@ std::optional<Failure> InstallInChild(InstallJob const& job, Engine::InstallDesc
     int ends[2];
     if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
     {
-        Failure const failure{UpdateFault::SwapFailed, errno};
-        report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
-        return failure;
+        return Reported({UpdateFault::SwapFailed, errno}, report);
     }
     UniqueFd const reader(ends[0]);
     UniqueFd const writer(ends[1]);
@@ -261,17 +225,16 @@ std::optional<Failure> InstallInChild(InstallJob const& job, Engine::InstallDesc
     }
     if (child < 0)
     {
-        Failure const failure{UpdateFault::SwapFailed, errno};
-        report.Send(Engine::RefusedReport{failure.fault, failure.errorNumber});
-        return failure;
+        return Reported({UpdateFault::SwapFailed, errno}, report);
     }
-    if (WaitForChild(child))
+    // If the status stays unknown, the swap lock, which the child holds while it works, keeps the two apart.
+    if (HasSucceeded(StatusOf(child)))
     {
         return std::nullopt;
     }
-    Failure failure;
+    Failure failure{};
     bool const isTold = ::read(reader.Get(), &failure, sizeof failure) == sizeof failure;
-    return isTold ? failure : Failure();
+    return isTold ? failure : Failure{UpdateFault::InstallationInterrupted, 0};
 }
 
 /// After a failure: repairs the target, and removes the prepared files unless the target came from them.
@@ -288,7 +251,7 @@ void TidyUp(InstallJob const& job, Engine::InstallDescriptors const& descriptors
         // An existing journal protects one folder: this update's, or an earlier one's.
         auto const journal = ReadSwapJournal(descriptors.parent, job.targetName);
         bool const isKept = journal && journal->stagingName == job.stagingName;
-        if (!isKept && IsSameFolder(descriptors.staging, descriptors.parent, job.stagingName))
+        if (!isKept && Engine::IsAt(descriptors.staging, descriptors.parent, job.stagingName))
         {
             static_cast<void>(Engine::RemoveTree(descriptors.parent, job.stagingName));
         }
@@ -307,7 +270,7 @@ std::vector<std::string> PlacesAfterFailure(InstallJob const& job, int parentFd,
     std::string const moved = Engine::RealPathOf(bundleFd);
     // Another update may have replaced it: staging folders are removed.
     bool const isReplaced = moved.find('/' + Engine::UpdateFilePrefix(job.targetName)) != std::string::npos;
-    if (moved != places.front() && !isReplaced && IsSameFolder(bundleFd, AT_FDCWD, moved))
+    if (moved != places.front() && !isReplaced && Engine::IsAt(bundleFd, AT_FDCWD, moved))
     {
         places.push_back(moved);
     }

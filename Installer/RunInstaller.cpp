@@ -9,11 +9,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <iterator>
+#include <optional>
 #include <string_view>
 
 #include <signal.h>
 #include <sys/syscall.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 namespace Pelnar::Installer
@@ -58,15 +58,6 @@ std::vector<std::string> EnvironmentOf(std::vector<std::string> const& variables
     return environment;
 }
 
-int Reap(pid_t process)
-{
-    int status = 0;
-    while (::waitpid(process, &status, 0) < 0 && errno == EINTR)
-    {
-    }
-    return status;
-}
-
 } // namespace
 
 void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const& targetPath)
@@ -90,12 +81,12 @@ void RunInstaller(Engine::InstallJob const& job, int stagedFd, std::string const
     {
         ::kill(-process, SIGKILL); // the process group of the session's first process has the same number
     }
-    int const status = Reap(process);
+    std::optional<int> const status = StatusOf(process);
     if (!isInTime)
     {
         throw UpdateRefusal(UpdateFault::InstallerTimedOut);
     }
-    if (!WIFEXITED(status) || WEXITSTATUS(status) != 0)
+    if (!HasSucceeded(status))
     {
         throw UpdateRefusal(UpdateFault::InstallerFailed);
     }

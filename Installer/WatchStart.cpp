@@ -9,6 +9,7 @@
 #include "Installer/SwapLock.h"
 
 #include <cerrno>
+#include <optional>
 
 #include <poll.h>
 #include <signal.h>
@@ -49,7 +50,7 @@ bool IsEndedOnPurpose(int status)
 UniqueFd WatchFolder(int folderFd)
 {
     UniqueFd watch(::inotify_init1(IN_CLOEXEC | IN_NONBLOCK));
-    std::string const path = "/proc/self/fd/" + std::to_string(folderFd);
+    std::string const path = Engine::DescriptorPath(folderFd);
     if (watch && ::inotify_add_watch(watch.Get(), path.c_str(), IN_DELETE | IN_MOVED_FROM | IN_ONLYDIR) < 0)
     {
         return {};
@@ -92,10 +93,9 @@ StartEnd WaitForStart(InstallJob const& job, int parentFd, pid_t process)
         Drain(watch);
         if ((waiting[0].revents & POLLIN) != 0)
         {
-            int status = 0;
-            bool const isReaped = ::waitpid(process, &status, 0) == process;
+            std::optional<int> const status = StatusOf(process);
             SwapLock const lock(parentFd, job.targetName); // waits for a confirmation in progress
-            bool const isSettled = !isReaped || IsEndedOnPurpose(status) || !AwaitsConfirmation(job, parentFd);
+            bool const isSettled = !status || IsEndedOnPurpose(*status) || !AwaitsConfirmation(job, parentFd);
             return isSettled ? StartEnd::Settled : StartEnd::Failed;
         }
     }

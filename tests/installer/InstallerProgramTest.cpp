@@ -119,6 +119,40 @@ TEST(InstallerProgram, RunsOnceTheHostHasEndedAndItsStatusDecides)
     EXPECT_EQ(program.scene.Place().Names(), std::vector<std::string>{APP});
 }
 
+/// The scene's installation, in which the process that runs the installer program cannot wait for it \a failures times.
+HelperOutcome InstallWithoutWaiting(ProgramScene& program, int failures)
+{
+    InstallJob const job = program.PrepareForInstall();
+    program.scene.Host().End();
+    pid_t waiting = -1; // the helper's first process, which waits for the other one
+    HelperStart start;
+    start.atEveryCall = [&](CallStop const& stop)
+    {
+        waiting = waiting < 0 ? stop.process : waiting;
+        bool const fails = stop.call == SYS_wait4 && stop.process != waiting && failures-- > 0;
+        return fails ? CallVerdict::Fail(EIO) : CallVerdict::GoOn();
+    };
+    return program.scene.Install(job, start);
+}
+
+TEST(InstallerProgram, WhoseStatusStaysUnknownHasNotSucceeded)
+{
+    ProgramScene program(ArchiveOf("#!/bin/sh\nexit 0\n"));
+    HelperOutcome const outcome = InstallWithoutWaiting(program, 1000);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::InstallerFailed);
+    ExpectUntouched(program, outcome);
+}
+
+TEST(InstallerProgram, IsAskedAgainForItsStatus)
+{
+    ProgramScene failing(ArchiveOf("#!/bin/sh\nexit 3\n"));
+    EXPECT_EQ(InstallWithoutWaiting(failing, 3).Fault(), UpdateFault::InstallerFailed);
+    ProgramScene succeeding(ArchiveOf("#!/bin/sh\nexit 0\n"));
+    HelperOutcome const outcome = InstallWithoutWaiting(succeeding, 3);
+    EXPECT_EQ(outcome.Fault(), UpdateFault::None);
+    EXPECT_NE(outcome.Find<InstalledReport>(), nullptr);
+}
+
 TEST(InstallerProgram, DoesNotRunWhileTheHostLives)
 {
     ProgramScene program(ArchiveOf("#!/bin/sh\ntouch \"$1/by-setup\"\n"));

@@ -74,23 +74,19 @@ void SparkleManager::Impl::WillInstallOnQuit(SUAppcastItem* item, NSInvocation* 
                 answer = Session::AskReadyToInstall(name, version, DialogParent(), closeDialog);
             }
         });
-    switch (answer)
+    if (answer == ReadyToInstallAnswer::InstallAndRelaunch)
     {
-    case ReadyToInstallAnswer::SkipThisVersion:
-        SetState(State::SILENT_ABORTING);
-        // Before the invocation: it may end the process.
-        RecordFailure([item] { StoreSkippedVersion([item versionString]); });
-        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
-        return;
-    case ReadyToInstallAnswer::InstallAndRelaunch:
         SetState(State::SILENT_INSTALLING);
         InvokeWith(invocation, USER_INTERFACE_ARGUMENT, YES);
         return;
-    case ReadyToInstallAnswer::RemindLater:
-        SetState(State::SILENT_ABORTING);
-        InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
-        return;
     }
+    SetState(State::SILENT_ABORTING);
+    if (answer == ReadyToInstallAnswer::SkipThisVersion)
+    {
+        // Before the invocation: it may end the process.
+        RecordFailure([item] { StoreSkippedVersion([item versionString]); });
+    }
+    InvokeWith(invocation, RELAUNCH_ARGUMENT, NO);
 }
 
 bool SparkleManager::Impl::IsInstallable() const

@@ -24,24 +24,31 @@ void SparkleManager::Impl::DidFindValidUpdate(SUAppcastItem* item)
                 std::string("SUAppcastItem contains update with UpdateType = ") + Session::UpdateTypeName(updateType));
     extensions = DetectExtensions(item);
     WriteExtensions();
+    if (!TakeResult([this, item] { ReportFoundVersion(item); }))
+    {
+        Session::WriteUnspecifiedState(Session::Sites::FOUND_UNSPECIFIED, state);
+    }
+}
 
+bool SparkleManager::Impl::TakeResult(std::function<void()> const& report)
+{
     switch (Session::ReactionToResult(state))
     {
     case CheckReaction::Nothing:
-        return;
+        return true;
     case CheckReaction::Idle:
         SwitchToIdle();
-        return;
+        return true;
     case CheckReaction::ReportAndIdle:
         if (EnsureContext() && EnsureCheckFinishedCallback())
         {
-            ReportFoundVersion(item);
+            report();
         }
-        return;
+        return true;
     case CheckReaction::Unspecified:
         break;
     }
-    Session::WriteUnspecifiedState(Session::Sites::FOUND_UNSPECIFIED, state);
+    return false;
 }
 
 void SparkleManager::Impl::WriteExtensions() const
@@ -86,23 +93,10 @@ void SparkleManager::Impl::ReportFoundVersion(SUAppcastItem* item)
 void SparkleManager::Impl::DidNotFindUpdate()
 {
     Session::WriteCurrentState(Session::Sites::NOT_FOUND, state);
-    switch (Session::ReactionToResult(state))
+    if (!TakeResult([this] { ReportNoNewerVersion(); }))
     {
-    case CheckReaction::Nothing:
-        return;
-    case CheckReaction::Idle:
-        SwitchToIdle();
-        return;
-    case CheckReaction::ReportAndIdle:
-        if (EnsureContext() && EnsureCheckFinishedCallback())
-        {
-            ReportNoNewerVersion();
-        }
-        return;
-    case CheckReaction::Unspecified:
-        break;
+        Session::WriteUnspecifiedState(Session::Sites::NOT_FOUND_UNSPECIFIED, state);
     }
-    Session::WriteUnspecifiedState(Session::Sites::NOT_FOUND_UNSPECIFIED, state);
 }
 
 void SparkleManager::Impl::DidAbort(NSError* error)

@@ -105,6 +105,9 @@ public:
 private:
   /// REQUIRES: an open pool, which may be the only owner of the answer.
   SUAppcastItem* ChooseFromAppcast(SUAppcast* appcast);
+  /// Does what the result of a check means in this state; \a report tells it to the context. False in a state for which
+  /// it means nothing.
+  [[nodiscard]] bool TakeResult(std::function<void()> const& report);
   void ReportFoundVersion(SUAppcastItem* item);
   void WriteExtensions() const;
   /// The result of the context's getter; null without a getter, and if it fails, which is logged. The getter may

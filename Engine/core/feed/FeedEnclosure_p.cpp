@@ -18,15 +18,12 @@ QString* MemberFor(FeedEnclosure& enclosure, QXmlStreamAttribute const& attribut
                : IsNamed(name, QLatin1String("length")) ? &enclosure.length
                                                         : nullptr;
     }
-    if (attribute.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE))
-    {
-        return IsNamed(name, QLatin1String("machine"))      ? &enclosure.machines
-               : IsNamed(name, QLatin1String("signatures")) ? &enclosure.signatures
-                                                            : nullptr;
-    }
     if (!IsFeedNamespace(attribute.namespaceUri()))
     {
-        return nullptr;
+        bool const isOwn = IsNamed(attribute.namespaceUri(), QLatin1String(OWN_FEED_NAMESPACE));
+        return isOwn && IsNamed(name, QLatin1String("machine"))      ? &enclosure.machines
+               : isOwn && IsNamed(name, QLatin1String("signatures")) ? &enclosure.signatures
+                                                                     : nullptr;
     }
     static std::pair<QLatin1String, QString FeedEnclosure::*> const MEMBERS[] = {
         {QLatin1String("version"), &FeedEnclosure::version},

@@ -24,19 +24,19 @@ struct LocalizedText
 
 struct ItemDraft
 {
-    FeedItem item;
-    LocalizedText title;
-    LocalizedText description;
-    LocalizedText releaseNotes;
-    QString link;
-    QString versionElement;
-    QString displayVersionElement;
-    QString hardware;
-    QString rolloutInterval;
-    std::optional<FeedEnclosure> enclosure; ///< the first for the platform, for its machine if there is one
+    FeedItem& item;
+    LocalizedText title = {};
+    LocalizedText description = {};
+    LocalizedText releaseNotes = {};
+    QString link = {};
+    QString versionElement = {};
+    QString displayVersionElement = {};
+    QString hardware = {};
+    QString rolloutInterval = {};
+    std::optional<FeedEnclosure> enclosure = {}; ///< the first for the platform, for its machine if there is one
     bool hasForeignEnclosure = false;
-    std::vector<FeedEnclosure> deltas;
-    std::optional<FeedEnclosure> recompressed; ///< the first for the platform and the machine
+    std::vector<FeedEnclosure> deltas = {};
+    std::optional<FeedEnclosure> recompressed = {}; ///< the first for the platform and the machine
 };
 
 bool IsBetterFor(QString const& machine, FeedEnclosure const& enclosure, FeedEnclosure const& best)
@@ -347,7 +347,7 @@ FeedItem MakeDelta(FeedItem const& parent, FeedEnclosure const& enclosure, FeedI
     return delta;
 }
 
-FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
+void Finish(ItemDraft& draft, FeedItemContext const& context)
 {
     FeedItem& item = draft.item;
     item.title = std::move(draft.title.text);
@@ -384,16 +384,15 @@ FeedItem Finish(ItemDraft&& draft, FeedItemContext const& context)
     {
         item.deltas.push_back(MakeDelta(item, delta, context));
     }
-    return std::move(item);
 }
 
 } // namespace
 
-std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& context)
+bool ReadFeedItem(FeedWalker& walker, FeedItemContext const& context, FeedItem& item)
 {
-    ItemDraft draft;
-    draft.item.line = walker.Line();
-    draft.item.column = walker.Column();
+    ItemDraft draft{item};
+    item.line = walker.Line();
+    item.column = walker.Column();
     QVariantMap const attributes = ReadFeedAttributes(walker);
     while (walker.EnterChild())
     {
@@ -404,20 +403,21 @@ std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& 
                          : reader.namespaceUri() == QLatin1String(OWN_FEED_NAMESPACE)
                              ? ReadOwnChild(walker, context, draft)
                              : ReadFeedElement(walker, FeedTextKind::SingleLine).value;
-        AddFeedProperty(draft.item.properties, name, std::move(value));
+        AddFeedProperty(item.properties, name, std::move(value));
     }
     for (auto attribute = attributes.cbegin(); attribute != attributes.cend(); ++attribute)
     {
-        if (!draft.item.properties.contains(attribute.key()))
+        if (!item.properties.contains(attribute.key()))
         {
-            draft.item.properties.insert(attribute.key(), attribute.value());
+            item.properties.insert(attribute.key(), attribute.value());
         }
     }
     if (draft.hasForeignEnclosure && !draft.enclosure)
     {
-        return std::nullopt;
+        return false;
     }
-    return Finish(std::move(draft), context);
+    Finish(draft, context);
+    return true;
 }
 
 } // namespace Pelnar::Engine

@@ -4,8 +4,6 @@
 
 #include "Engine/core/feed/FeedWalker.h"
 
-#include <optional>
-
 namespace Pelnar::Engine
 {
 
@@ -19,7 +17,7 @@ struct FeedItemContext
     QStringList const& languages;
 };
 
-/// Reads the current item to its end. Empty if all its enclosures name other platforms.
-[[nodiscard]] std::optional<FeedItem> ReadFeedItem(FeedWalker& walker, FeedItemContext const& context);
+/// Reads the current item to its end into \a item, which is new. False if all its enclosures name other platforms.
+[[nodiscard]] bool ReadFeedItem(FeedWalker& walker, FeedItemContext const& context, FeedItem& item);
 
 } // namespace Pelnar::Engine

@@ -30,6 +30,8 @@ FeedParseError ErrorAt(ErrorCause cause, QByteArray const& utf8, int offset, int
     return MakeParseError(cause, line, column, limit);
 }
 
+constexpr std::size_t USUAL_ITEMS = 16;
+
 bool IsWebPage(QXmlStreamReader const& reader)
 {
     return reader.name().compare(QLatin1String("html"), Qt::CaseInsensitive) == 0;
@@ -94,6 +96,7 @@ private:
 std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& context, FeedChannel& channel)
 {
     std::vector<FeedItem> items;
+    items.reserve(USUAL_ITEMS);
     ChannelReader channelReader(channel);
     int met = 0;
     for (;;)
@@ -119,9 +122,9 @@ std::vector<FeedItem> ReadItems(FeedWalker& walker, FeedItemContext const& conte
             {
                 walker.Refuse(ErrorCause::FeedTooManyItems, context.limits.maxItems);
             }
-            else if (std::optional<FeedItem> item = ReadFeedItem(walker, context))
+            else if (!ReadFeedItem(walker, context, items.emplace_back()))
             {
-                items.push_back(std::move(*item));
+                items.pop_back();
             }
         }
     }

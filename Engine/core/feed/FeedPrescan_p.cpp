@@ -130,20 +130,20 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
     size_t const harmless =
         static_cast<size_t>(std::min(std::max(limits.maxAttributes, 0), limits.maxTagBytes / SHORTEST_ATTRIBUTE)) *
         SHORTEST_ATTRIBUTE;
-    for (size_t at = NextOpening(text, 0); at < text.size(); at = NextOpening(text, at))
+    for (size_t at = NextOpening(text, 0); at < text.size();)
     {
         std::string_view const rest = text.substr(at);
         if (StartsWith(rest, "<!--"sv))
         {
-            at = Behind(text, at + 4, "-->"sv);
+            at = NextOpening(text, Behind(text, at + 4, "-->"sv));
         }
         else if (StartsWith(rest, "<![CDATA["sv))
         {
-            at = Behind(text, at + 9, "]]>"sv);
+            at = NextOpening(text, Behind(text, at + 9, "]]>"sv));
         }
         else if (StartsWith(rest, "<?"sv))
         {
-            at = Behind(text, at + 2, "?>"sv);
+            at = NextOpening(text, Behind(text, at + 2, "?>"sv));
         }
         else if (StartsWith(rest, "<!"sv))
         {
@@ -169,7 +169,7 @@ FeedPrescanFinding PrescanFeed(QByteArray const& utf8, FeedLimits const& limits)
             {
                 return {ErrorCause::FeedTagTooLong, static_cast<int>(at), limits.maxTagBytes};
             }
-            at = tag.end;
+            at = NextOpening(text, tag.end);
         }
     }
     return {};

@@ -72,6 +72,11 @@ int NextDropped(ushort const* units, int from, int size, FeedTextKind kind)
         i = SkipOrdinary<FEW_UNITS>(units, i, size, kind);
         for (int const end = std::min(i + MANY_UNITS, size); i < end;)
         {
+            if (AreOrdinary<1>(units + i, kind))
+            {
+                ++i;
+                continue;
+            }
             CodePoint const character = CodePointAt(units, i, size);
             if (IsDropped(character.value, kind))
             {
@@ -111,15 +116,15 @@ bool IsExtension(QStringRef text)
 /// drops an empty query and an empty fragment, and refuses a query or a fragment without a path.
 QUrl AsFoundationKeepsIt(QUrl address)
 {
-    if (address.query().isEmpty())
+    if (address.hasQuery() && address.query().isEmpty())
     {
         address.setQuery(QString());
     }
-    if (address.fragment().isEmpty())
+    if (address.hasFragment() && address.fragment().isEmpty())
     {
         address.setFragment(QString());
     }
-    if (!address.host().isEmpty() && address.path().isEmpty() && (address.hasQuery() || address.hasFragment()))
+    if ((address.hasQuery() || address.hasFragment()) && !address.host().isEmpty() && address.path().isEmpty())
     {
         address.setPath(QStringLiteral("/"));
     }
@@ -186,10 +191,13 @@ QUrl FeedAddress(QString const& text, QUrl const& base)
     {
         return {};
     }
-    QUrl const address(text);
-    QUrl const resolved = address.isValid() && address.isRelative() ? base.resolved(address) : address;
-    bool const isUsable = resolved.isValid() && !IsTooLong(text, resolved) && !HasUnusableHost(resolved);
-    return isUsable ? AsFoundationKeepsIt(resolved) : QUrl();
+    QUrl address(text);
+    if (address.isRelative() && address.isValid())
+    {
+        address = base.resolved(address);
+    }
+    bool const isUsable = address.isValid() && !IsTooLong(text, address) && !HasUnusableHost(address);
+    return isUsable ? AsFoundationKeepsIt(std::move(address)) : QUrl();
 }
 
 } // namespace Pelnar::Engine

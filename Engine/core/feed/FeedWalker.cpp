@@ -24,11 +24,12 @@ bool IsEqual(QString const& a, QStringRef b)
 
 QString MakePropertyName(QStringRef namespaceUri, QStringRef name, QStringRef qualifiedName)
 {
-    if (IsFeedNamespace(namespaceUri))
+    bool const hasFeedPrefix = qualifiedName.startsWith(FEED_PREFIX);
+    if (IsFeedNamespace(namespaceUri) && !hasFeedPrefix)
     {
         return FEED_PREFIX + name;
     }
-    if (qualifiedName.startsWith(FEED_PREFIX))
+    if (!IsFeedNamespace(namespaceUri) && hasFeedPrefix)
     {
         return QLatin1Char('{') + namespaceUri + QLatin1Char('}') + name;
     }
@@ -50,17 +51,11 @@ FeedParseError MakeParseError(ErrorCause cause, int line, int column, int limit)
 }
 
 FeedWalker::FeedWalker(QByteArray const& utf8, QString const& text, FeedLimits const& documentLimits)
-    : limits(documentLimits), isUtf8(text.isNull())
+    : reader(text.isNull() ? QXmlStreamReader(utf8) : QXmlStreamReader(text))
+    , limits(documentLimits)
+    , isUtf8(text.isNull())
 {
     knownNames.reserve(MOST_KNOWN_NAMES);
-    if (isUtf8)
-    {
-        reader.addData(utf8);
-    }
-    else
-    {
-        reader.addData(text);
-    }
 }
 
 QXmlStreamReader::TokenType FeedWalker::Advance()

@@ -1,11 +1,11 @@
 #include "Engine/objc/ApplicationPlaces_p.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/helper/NoteFile.h"
 #include "Settings/ApplicationFolder.h"
 
 #include <QDir>
-#include <QFile>
 #include <QUrl>
 
 #include <glog/logging.h>
@@ -57,13 +57,13 @@ void MoveRecord(int from, int to, std::string const& name)
 void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString const& bundleIdentifier)
 {
     QStringList const records =
-        QDir(QFile::decodeName(earlierPath.c_str())).entryList({QStringLiteral("*.installation")}, QDir::Files);
+        QDir(PathForQt(earlier.Get(), PathText(earlierPath))).entryList({QStringLiteral("*.installation")}, QDir::Files);
     if (UniqueFd const state =
             records.isEmpty() ? UniqueFd() : OpenPrivateFolder(PathIn(BaseFolder::State, bundleIdentifier)))
     {
         for (QString const& name : records)
         {
-            MoveRecord(earlier.Get(), state.Get(), QFile::encodeName(name).toStdString());
+            MoveRecord(earlier.Get(), state.Get(), name.toStdString());
         }
     }
     std::string const path = PathIn(BaseFolder::Cache, bundleIdentifier);
@@ -85,12 +85,12 @@ QString DownloadFolderOf(QString const& bundleIdentifier)
     {
         TakeOver(earlier, earlierPath, bundleIdentifier);
     }
-    return QFile::decodeName(PathIn(BaseFolder::Cache, bundleIdentifier).c_str());
+    return PathText(PathIn(BaseFolder::Cache, bundleIdentifier));
 }
 
 QString StateFolderOf(QString const& bundleIdentifier)
 {
-    return QFile::decodeName(PathIn(BaseFolder::State, bundleIdentifier).c_str());
+    return PathText(PathIn(BaseFolder::State, bundleIdentifier));
 }
 
 QString FeedRecordFileOf(QString const& bundleIdentifier)

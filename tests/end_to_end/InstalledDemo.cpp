@@ -328,9 +328,12 @@ void InstalledDemo::Start(QProcess& process, QString const& feed, QStringList co
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("GNUSTEP_CONFIG_FILE"), Path("GNUstep.conf"));
     environment.insert(QStringLiteral("HOME"), Path("home"));
-    environment.insert(QStringLiteral("XDG_CACHE_HOME"), Path("home/cache"));
-    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("home/config"));
-    environment.insert(QStringLiteral("XDG_STATE_HOME"), Path("home/state"));
+    if (m_hasOwnHome)
+    {
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"), Path("home/cache"));
+        environment.insert(QStringLiteral("XDG_CONFIG_HOME"), Path("home/config"));
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), Path("home/state"));
+    }
     environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), Path("runtime"));
     environment.insert(QStringLiteral("SSL_CERT_FILE"), Published("authority.pem"));
     environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));

@@ -86,6 +86,8 @@ public:
     void MoveApplications(std::string const& name) const;
     /// Adds "NAME=value" to the application's environment.
     void SetVariables(std::vector<std::string> const& variables) { m_variables = variables; }
+    /// Gives the application the XDG folders in the environment of this process, which may have any bytes.
+    void UseHomeOfThisProcess() { m_hasOwnHome = false; }
     /// Sets the old-style property list \a text as the user defaults of the application.
     void WriteDefaults(QByteArray const& text);
     /// The text of the file of the user defaults; empty when there is none.
@@ -121,6 +123,7 @@ private:
 
     OddNameFolder m_folder;
     std::vector<std::string> m_variables;
+    bool m_hasOwnHome = true;
 };
 
 /// The hashes of the published bundles.

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <ostream>
 
 namespace Pelnar::Testing
@@ -54,7 +55,10 @@ INSTANTIATE_TEST_SUITE_P(Table, FolderOfAnyName,
 class OddVariable
 {
 public:
-    explicit OddVariable(char const* name) : m_name(name) { ::setenv(name, "caf\xe9\xff", 1); }
+    explicit OddVariable(char const* name, std::string const& value = "caf\xe9\xff") : m_name(name)
+    {
+        ::setenv(name, value.c_str(), 1);
+    }
     ~OddVariable() { ::unsetenv(m_name); }
     OddVariable(OddVariable const&) = delete;
     OddVariable& operator=(OddVariable const&) = delete;
@@ -70,6 +74,43 @@ TEST_F(UpdateScenario, AnEnvironmentThatIsNotUtf8ChangesNothing)
     UpdateServer server;
     ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
 }
+
+struct HomeName
+{
+    char const* name;
+    char const* bytes;
+    char const* locale;
+};
+
+class HomeOfAnyName : public UpdateScenario, public testing::WithParamInterface<HomeName>
+{
+};
+
+TEST_P(HomeOfAnyName, HoldsAllFilesOfAnUpdate)
+{
+    QTemporaryDir const above;
+    std::filesystem::path const home = above.path().toStdString() + '/' + GetParam().bytes;
+    std::filesystem::create_directory(home);
+    {
+        OddVariable const cache("XDG_CACHE_HOME", home / "cache");
+        OddVariable const config("XDG_CONFIG_HOME", home / "config");
+        OddVariable const state("XDG_STATE_HOME", home / "state");
+        demo.UseHomeOfThisProcess();
+        demo.SetVariables({GetParam().locale});
+        UpdateServer server;
+        ExpectUpdated(Run(server, WHOLE_FEED, Script("user", "update", {INSTALL, RELAUNCH})));
+    }
+    EXPECT_TRUE(std::filesystem::exists(home / "state/com.example.pelnar-demo/updates/feed"));
+    EXPECT_TRUE(std::filesystem::exists(home / "cache/com.example.pelnar-demo/updates"));
+    std::filesystem::remove_all(home);
+    EXPECT_TRUE(std::filesystem::is_empty(above.path().toStdString())) << "files in another folder";
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, HomeOfAnyName,
+                         testing::Values(HomeName{"NoUtf8", "caf\xe9", "LC_ALL=C.UTF-8"},
+                                         HomeName{"NoUtf8WithoutALocale", "caf\xe9", "LC_ALL=C"},
+                                         HomeName{"BeyondAsciiWithoutALocale", "caf\xc3\xa9", "LC_ALL=C"}),
+                         [](testing::TestParamInfo<HomeName> const& info) { return info.param.name; });
 
 /// The published bundles contain names beyond ASCII. Here the application's path has one, too.
 TEST_F(UpdateScenario, AnApplicationOfAnyLocaleIsUpdatedToNamesAsTheyAre)

@@ -1,5 +1,7 @@
 // FeedRecordTest.cpp: the record of an application's feed, and its file.
 #include "Engine/core/check/FeedRecordFile.h"
+
+#include "Engine/core/base/PathText.h"
 #include "tests/engine/SignedFeedText.h"
 
 #include <gtest/gtest.h>
@@ -9,6 +11,7 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
+#include <filesystem>
 #include <set>
 
 namespace
@@ -101,7 +104,18 @@ TEST_F(FeedRecordFileTest, IsReadAsItWasWritten)
     QFile::Permissions const othersAndGroup =
         QFile::ReadGroup | QFile::WriteGroup | QFile::ExeGroup | QFile::ReadOther | QFile::WriteOther | QFile::ExeOther;
     EXPECT_FALSE(QFileInfo(path).permissions() & othersAndGroup);
-    EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup) << "other users cannot hold its lock";
+    EXPECT_FALSE(QFileInfo(QFileInfo(path).path()).permissions() & othersAndGroup)
+        << "other users cannot hold its lock";
+}
+
+TEST_F(FeedRecordFileTest, FolderMayHaveAnyBytes)
+{
+    std::string const bytes = folder.path().toStdString() + "/caf\xe9";
+    QString const odd = PathText(bytes) + QStringLiteral("/feed");
+    EXPECT_TRUE(KeepFeedRecordFile(odd, {}, record));
+    EXPECT_TRUE(ReadFeedRecordFile(odd).has_value());
+    EXPECT_TRUE(std::filesystem::exists(bytes + "/feed"));
+    std::filesystem::remove_all(bytes);
 }
 
 TEST_F(FeedRecordFileTest, KeepsItsFieldsAboutKeys)

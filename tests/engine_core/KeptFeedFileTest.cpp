@@ -1,5 +1,7 @@
 // KeptFeedFileTest.cpp: the file of a kept feed, damaged files, and other objects in its place.
 #include "Engine/core/check/KeptFeedFile.h"
+
+#include "Engine/core/base/PathText.h"
 #include "tests/installer/OtherUser.h"
 #include "tests/support/LogCapture.h"
 
@@ -12,6 +14,7 @@
 #include <QTemporaryDir>
 
 #include <csignal>
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -90,6 +93,16 @@ TEST_F(KeptFeedFileTest, IsReadAsItWasWrittenByThisUserAlone)
     ASSERT_EQ(::stat(folder.path.toStdString().c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777, 0700u);
     EXPECT_EQ(Names(), QStringList(QStringLiteral("kept.feed"))) << "no lock and no half file are left";
+}
+
+TEST_F(KeptFeedFileTest, FolderMayHaveAnyBytes)
+{
+    std::string const bytes = place.path().toStdString() + "/caf\xe9";
+    FeedFolder const odd{PathText(bytes), BUNDLE};
+    EXPECT_TRUE(WriteKeptFeedFile(odd, SomeFeed()));
+    EXPECT_TRUE(ReadKeptFeedFile(odd, MAX_BYTES).has_value());
+    EXPECT_TRUE(std::filesystem::is_directory(bytes));
+    std::filesystem::remove_all(bytes);
 }
 
 TEST_F(KeptFeedFileTest, NobodyReadsAPasswordOrAnAddressOutOfIt)

@@ -2,6 +2,8 @@
 
 #include "Engine/core/check/RolloutSeed.h"
 
+#include "Engine/core/base/PathText.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -10,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <array>
+#include <filesystem>
 #include <thread>
 #include <vector>
 
@@ -68,6 +71,16 @@ TEST_F(RolloutSeedTest, ProcessesThatDrawAtOnceAgree)
     {
         EXPECT_EQ(seed, RolloutSeed(Folder()));
     }
+}
+
+TEST_F(RolloutSeedTest, FolderMayHaveAnyBytes)
+{
+    std::string const folder = m_folder.path().toStdString() + "/caf\xe9";
+    QByteArray const first = RolloutSeed(PathText(folder));
+    EXPECT_FALSE(first.isEmpty());
+    EXPECT_EQ(RolloutSeed(PathText(folder)), first);
+    EXPECT_TRUE(std::filesystem::exists(folder + "/rollout-seed"));
+    std::filesystem::remove_all(folder);
 }
 
 TEST_F(RolloutSeedTest, WhatCannotBeStoredIsTheLastGroup)

@@ -1,6 +1,7 @@
 // InstallMemoryTest.cpp: the record of an installation from one start of an application to the next.
 #include "Engine/core/update/InstallMemory.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/helper/NoteFile.h"
 #include "Engine/core/update/InstallAttempt.h"
 #include "tests/support/LogCapture.h"
@@ -287,6 +288,7 @@ TEST_F(InstallMemoryTest, OtherFailuresBelongToTheirOwnPlace)
 TEST_F(InstallMemoryTest, EveryBundleHasARecordOfItsOwn)
 {
     EXPECT_NE(InstallRecordName(QStringLiteral("/a/App.app")), InstallRecordName(QStringLiteral("/b/App.app")));
+    EXPECT_NE(InstallRecordName(PathText("/\xfe/App.app")), InstallRecordName(PathText("/\xff/App.app")));
 }
 
 TEST(InstallBackOff, GrowsWithTheAttemptsAndEndsWithAPersonsWish)

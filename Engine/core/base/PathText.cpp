@@ -1,5 +1,7 @@
 #include "Engine/core/base/PathText.h"
 
+#include <QFile>
+
 #include <cstdint>
 
 #include <unistr.h>
@@ -57,6 +59,12 @@ std::string PathBytes(QString const& text)
         }
     }
     return bytes + text.mid(begin).toStdString();
+}
+
+QString PathForQt(int folderFd, QString const& path)
+{
+    bool const isFound = QFile::encodeName(path).toStdString() == PathBytes(path);
+    return isFound ? path : QStringLiteral("/proc/self/fd/%1").arg(folderFd);
 }
 
 } // namespace Pelnar::Engine

@@ -13,4 +13,8 @@ QString PathText(std::string const& bytes);
 /// The bytes from which PathText made the text; for any other text its UTF-8.
 std::string PathBytes(QString const& text);
 
+/// A path under which Qt's file classes find the folder \a path, which is open at \a folderFd. They find only folders
+/// whose path is text in the locale's encoding.
+QString PathForQt(int folderFd, QString const& path);
+
 } // namespace Pelnar::Engine

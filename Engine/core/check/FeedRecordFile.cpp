@@ -2,10 +2,10 @@
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/FieldCodec.h"
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/helper/NoteFile.h"
 
-#include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
 #include <QUrl>
@@ -40,12 +40,12 @@ QDateTime TimeOf(std::uint64_t seconds)
 
 std::string FolderOf(QString const& path)
 {
-    return QFile::encodeName(QFileInfo(path).path()).toStdString();
+    return PathBytes(QFileInfo(path).path());
 }
 
 std::string NameOf(QString const& path)
 {
-    return QFile::encodeName(QFileInfo(path).fileName()).toStdString();
+    return PathBytes(QFileInfo(path).fileName());
 }
 
 } // namespace
@@ -119,7 +119,8 @@ bool KeepFeedRecordFile(QString const& path, FeedRecord const& earlier, FeedReco
         return false;
     }
     // No other process of this user may write between reading and writing. A hanging process cannot block this one.
-    QLockFile lock(path + QStringLiteral(".lock"));
+    QFileInfo const file(path);
+    QLockFile lock(PathForQt(folder.Get(), file.path()) + QLatin1Char('/') + file.fileName() + QStringLiteral(".lock"));
     LOG_IF(WARNING, !lock.tryLock(LONGEST_WAIT_MS))
         << "The record of the feed is stored without its lock; another process may overwrite it";
     FeedRecord const stored = ReadFeedRecordFile(path).value_or(earlier);

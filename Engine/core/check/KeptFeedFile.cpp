@@ -2,11 +2,11 @@
 
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/base/FieldCodec.h"
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/faults/EngineError.h"
 #include "Engine/core/helper/NoteFile.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QLockFile>
 
 #include <glog/logging.h>
@@ -118,7 +118,7 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
 {
     try
     {
-        UniqueFd const descriptor = OpenOwnFolder(QFile::encodeName(folder.path).toStdString());
+        UniqueFd const descriptor = OpenOwnFolder(PathBytes(folder.path));
         // Reads one byte more than allowed, to detect a longer file.
         auto const most = static_cast<std::size_t>(maxBytes + MAX_OTHER_BYTES + 1);
         return descriptor ? DecodeKeptFeed(ReadNote(descriptor.Get(), NAME, most), folder.bundleIdentifier, maxBytes)
@@ -133,14 +133,15 @@ std::optional<KeptFeed> ReadKeptFeedFile(FeedFolder const& folder, qint64 maxByt
 bool WriteKeptFeedFile(FeedFolder const& folder, std::optional<KeptFeed> const& feed)
 {
     std::string const shownPath = folder.path.toStdString();
-    UniqueFd const descriptor = OpenPrivateFolder(QFile::encodeName(folder.path).toStdString());
+    UniqueFd const descriptor = OpenPrivateFolder(PathBytes(folder.path));
     if (!descriptor)
     {
         PLOG(WARNING) << "The feed is not kept for the next check, because the folder " << shownPath
                       << " cannot be used";
         return false;
     }
-    QLockFile lock(folder.path + QLatin1Char('/') + QLatin1String(NAME) + QStringLiteral(".lock"));
+    QLockFile lock(PathForQt(descriptor.Get(), folder.path) + QLatin1Char('/') + QLatin1String(NAME) +
+                   QStringLiteral(".lock"));
     if (!lock.tryLock(LONGEST_WAIT_MS))
     {
         LOG(WARNING) << "The feed is not kept for the next check, because it cannot be locked in " << shownPath;

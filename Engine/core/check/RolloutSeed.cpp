@@ -1,11 +1,11 @@
 #include "Engine/core/check/RolloutSeed.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/helper/NoteFile.h"
 
 #include <QCryptographicHash>
-#include <QFile>
 #include <QLockFile>
 #include <QRandomGenerator>
 
@@ -45,7 +45,7 @@ QByteArray ReadOrDraw(int folder, QString const& path)
         return seed;
     }
     // Otherwise two processes could draw different groups at the same time.
-    QLockFile lock(path + QStringLiteral("/rollout-seed.lock"));
+    QLockFile lock(PathForQt(folder, path) + QStringLiteral("/rollout-seed.lock"));
     (void)lock.tryLock(LONGEST_WAIT_MS);
     seed = Read(folder);
     if (seed.isEmpty())
@@ -60,7 +60,7 @@ QByteArray ReadOrDraw(int folder, QString const& path)
 
 QByteArray RolloutSeed(QString const& folder)
 {
-    std::string const path = QFile::encodeName(folder).toStdString();
+    std::string const path = PathBytes(folder);
     QByteArray seed;
     try
     {

@@ -1,10 +1,9 @@
 #include "Engine/core/download/DownloadFolder_p.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/base/TreeWalk.h"
 #include "Engine/core/download/DownloadBudget.h"
 #include "Engine/core/helper/NoteFile.h"
-
-#include <QFile>
 
 #include <cstring>
 #include <map>
@@ -108,7 +107,7 @@ UniqueFd OpenFileAt(UniqueFd const& folder, std::string const& name, int flags)
 
 Result<UniqueFd> OpenDownloadFolder(std::string const& path)
 {
-    QString const shownPath = QFile::decodeName(path.c_str());
+    QString const shownPath = PathText(path);
     UniqueFd folder = OpenPrivateFolder(path);
     if (!folder)
     {

@@ -1,5 +1,6 @@
 #include "Engine/core/download/PartialFile.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/download/DownloadFolder_p.h"
 #include "Engine/core/faults/UpdateFault.h"
 #include "Engine/core/helper/NoteFile.h"
@@ -50,7 +51,7 @@ PartialPlace PlaceOf(QString const& folder, QUrl const& url, std::uint64_t decla
     // Addresses and numbers contain no line feed, so two different triples never give the same text.
     QByteArray const text = address + '\n' + QByteArray::number(quint64{declaredBytes}) + '\n' + signature.toUtf8();
     QByteArray const name = QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex() + ARCHIVE_ENDING;
-    return {QFile::encodeName(folder).toStdString(), name.toStdString(), address.toStdString(), declaredBytes};
+    return {PathBytes(folder), name.toStdString(), address.toStdString(), declaredBytes};
 }
 
 PartialFile::PartialFile(PartialPlace place) : m_place(std::move(place)) {}
@@ -381,7 +382,7 @@ UniqueFd RemovePartialFile(PartialPlace const& place)
 
 void ClearDownloadFolder(QString const& path)
 {
-    if (UniqueFd const folder = Engine::OpenFolder(AT_FDCWD, QFile::encodeName(path).toStdString()))
+    if (UniqueFd const folder = Engine::OpenFolder(AT_FDCWD, PathBytes(path)))
     {
         RemoveAllArchives(folder);
     }

@@ -1,11 +1,11 @@
 #include "Engine/core/update/InstallAttempt.h"
 
+#include "Engine/core/base/PathText.h"
 #include "Engine/core/helper/NoteFile.h"
 
 #include <glog/logging.h>
 
 #include <QCryptographicHash>
-#include <QFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,7 +23,7 @@ constexpr int NAME_BYTES = 16;
 
 UniqueFd MakeRecordFolder(QString const& path)
 {
-    UniqueFd folder = OpenPrivateFolder(QFile::encodeName(path).toStdString());
+    UniqueFd folder = OpenPrivateFolder(PathBytes(path));
     if (!folder || ::faccessat(folder.Get(), ".", W_OK | X_OK, AT_EACCESS) != 0)
     {
         throw UpdateRefusal(FaultUnlessLimit(errno, UpdateFault::RecordFolderUnusable), errno);
@@ -35,13 +35,14 @@ UniqueFd MakeRecordFolder(QString const& path)
 
 std::string InstallRecordName(QString const& bundlePath)
 {
-    QByteArray const hash = QCryptographicHash::hash(QFile::encodeName(bundlePath), QCryptographicHash::Sha256);
+    QByteArray const hash =
+        QCryptographicHash::hash(QByteArray::fromStdString(PathBytes(bundlePath)), QCryptographicHash::Sha256);
     return hash.left(NAME_BYTES).toHex().toStdString() + ".installation";
 }
 
 UniqueFd OpenRecordFolder(QString const& path)
 {
-    return OpenOwnFolder(QFile::encodeName(path).toStdString());
+    return OpenOwnFolder(PathBytes(path));
 }
 
 std::optional<InstallRecord> ReadInstallRecord(int folderFd, std::string const& name)

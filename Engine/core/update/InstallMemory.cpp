@@ -77,7 +77,8 @@ InstallMemory::InstallMemory(QString const& folder, QString const& downloads, QS
 
 void InstallMemory::FindMoved(int recordsFd, std::string const& version)
 {
-    for (QString const& name : QDir(m_folder).entryList({QStringLiteral("*.installation")}, QDir::Files))
+    for (QString const& name :
+         QDir(PathForQt(recordsFd, m_folder)).entryList({QStringLiteral("*.installation")}, QDir::Files))
     {
         auto record = ReadInstallRecord(recordsFd, PathBytes(name));
         if (record && record->fromVersion == version && IsToBeToldElsewhere(*record))

@@ -106,6 +106,10 @@ std::optional<ErrorCause> ObstacleWithin(UniqueFd const& bundle)
         {
             cause = ErrorCause::BundleImmutable;
         }
+        else if (isKnown && (more.stx_attributes & STATX_ATTR_MOUNT_ROOT) != 0)
+        {
+            cause = ErrorCause::BundleIsMountPoint;
+        }
         else if (S_ISDIR(status.st_mode) && status.st_uid != user && user != 0) // the administrator can empty any
                                                                                 // folder
         {

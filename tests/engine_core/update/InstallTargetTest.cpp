@@ -181,6 +181,20 @@ TEST(InstallTarget, BundleThatIsADiskOfItsOwnIsRefused)
         });
 }
 
+TEST(InstallTarget, DiskInsideTheBundleIsRefused)
+{
+    for (char const* const path : {"/Resources", "/Resources/Info-gnustep.plist"})
+    {
+        IN_CONTAINER(
+            [path]
+            {
+                TargetScene const scene("/");
+                Mount const bind("none", scene.Bundle() + path, scene.Bundle() + path, MS_BIND);
+                scene.ExpectError(ErrorCause::BundleIsMountPoint);
+            });
+    }
+}
+
 TEST(InstallTarget, LackOfRoomIsToldInNumbers)
 {
     IN_CONTAINER(

@@ -56,8 +56,8 @@ void MoveRecord(int from, int to, std::string const& name)
 
 void TakeOver(UniqueFd const& earlier, std::string const& earlierPath, QString const& bundleIdentifier)
 {
-    QStringList const records =
-        QDir(PathForQt(earlier.Get(), PathText(earlierPath))).entryList({QStringLiteral("*.installation")}, QDir::Files);
+    QStringList const records = QDir(PathForQt(earlier.Get(), PathText(earlierPath)))
+                                    .entryList({QStringLiteral("*.installation")}, QDir::Files);
     if (UniqueFd const state =
             records.isEmpty() ? UniqueFd() : OpenPrivateFolder(PathIn(BaseFolder::State, bundleIdentifier)))
     {

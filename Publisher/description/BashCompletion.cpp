@@ -4,6 +4,8 @@
 
 #include "Publisher/description/DescribedCommand.h"
 
+#include <boost/algorithm/string/join.hpp>
+
 namespace Pelnar::Publisher
 {
 namespace
@@ -43,16 +45,6 @@ constexpr char CLOSING[] = R"(            *)
 complete -o filenames -F _pelnar_appcast pelnar-appcast
 )";
 
-std::string Joined(std::vector<std::string> const& words, char const* separator)
-{
-    std::string text;
-    for (std::string const& word : words)
-    {
-        text += (text.empty() ? "" : separator) + word;
-    }
-    return text;
-}
-
 std::vector<std::string> WordsOf(DescribedCommand const& command)
 {
     std::vector<std::string> words = command.verbs;
@@ -81,7 +73,8 @@ std::string ChoiceLines(DescribedCommand const& command)
         {
             patterns.push_back('"' + command.path + ' ' + name + '"');
         }
-        lines += "        " + Joined(patterns, " | ") + ") words=\"" + Joined(option.choices, " ") + "\" ;;\n";
+        lines +=
+            "        " + boost::join(patterns, " | ") + ") words=\"" + boost::join(option.choices, " ") + "\" ;;\n";
     }
     return lines;
 }
@@ -105,10 +98,10 @@ std::string BashCompletion(CLI::App const& program)
             holders.push_back('"' + command.path + '"');
         }
         choices += ChoiceLines(command);
-        words += "            \"" + command.path + "\") words=\"" + Joined(WordsOf(command), " ") + "\" ;;\n";
+        words += "            \"" + command.path + "\") words=\"" + boost::join(WordsOf(command), " ") + "\" ;;\n";
     }
-    return OPENING + ("            " + Joined(steps, " | \\\n            ")) + ")\n" + AFTER_VERBS + choices +
-           AFTER_CHOICES + words + ENDING + "            " + Joined(holders, " | ") + ") ;;\n" + CLOSING;
+    return OPENING + ("            " + boost::join(steps, " | \\\n            ")) + ")\n" + AFTER_VERBS + choices +
+           AFTER_CHOICES + words + ENDING + "            " + boost::join(holders, " | ") + ") ;;\n" + CLOSING;
 }
 
 } // namespace Pelnar::Publisher

@@ -1,7 +1,9 @@
 #include "Publisher/description/DescribedCommand.h"
 
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/split.hpp>
+
 #include <algorithm>
-#include <sstream>
 
 namespace Pelnar::Publisher
 {
@@ -14,14 +16,9 @@ std::vector<std::string> ChoicesIn(std::string const& typeName)
     std::vector<std::string> choices;
     std::size_t const open = typeName.find(":{");
     std::size_t const close = typeName.find('}', open);
-    if (open == std::string::npos || close == std::string::npos)
+    if (open != std::string::npos && close != std::string::npos)
     {
-        return choices;
-    }
-    std::istringstream values(typeName.substr(open + 2, close - open - 2));
-    for (std::string value; std::getline(values, value, ',');)
-    {
-        choices.push_back(value);
+        boost::split(choices, typeName.substr(open + 2, close - open - 2), boost::is_any_of(","));
     }
     return choices;
 }

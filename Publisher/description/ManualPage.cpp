@@ -4,6 +4,8 @@
 
 #include "Publisher/description/DescribedCommand.h"
 
+#include <boost/algorithm/string/join.hpp>
+
 namespace Pelnar::Publisher
 {
 namespace
@@ -134,12 +136,7 @@ std::string OptionText(DescribedOption const& option)
     text += Sentence(option.description) + '\n';
     if (!option.choices.empty())
     {
-        std::string choices;
-        for (std::string const& choice : option.choices)
-        {
-            choices += (choices.empty() ? "" : ", ") + Roff(choice);
-        }
-        text += "One of: " + choices + ".\n";
+        text += "One of: " + Roff(boost::join(option.choices, ", ")) + ".\n";
     }
     return option.defaultText.empty() ? text : text + "Default: " + Roff(option.defaultText) + ".\n";
 }

@@ -4,6 +4,9 @@
 
 #include "Publisher/description/DescribedCommand.h"
 
+#include <boost/algorithm/string/join.hpp>
+#include <boost/algorithm/string/replace.hpp>
+
 #include <algorithm>
 
 namespace Pelnar::Publisher
@@ -20,12 +23,7 @@ std::string Short(std::string const& text)
 /// \a text in single quotes, in which shells interpret nothing.
 std::string Quoted(std::string const& text)
 {
-    std::string quoted = "'";
-    for (char const character : text)
-    {
-        quoted += character == '\'' ? std::string("'\\''") : std::string(1, character);
-    }
-    return quoted + '\'';
+    return "'" + boost::replace_all_copy(text, "'", "'\\''") + "'";
 }
 
 std::string LastWord(std::string const& path)
@@ -76,12 +74,7 @@ std::string FishOption(DescribedOption const& option, std::string const& conditi
     line += option.placeholder.empty() ? "" : " -r";
     if (!option.choices.empty())
     {
-        std::string choices;
-        for (std::string const& choice : option.choices)
-        {
-            choices += (choices.empty() ? "" : " ") + choice;
-        }
-        line += " -f -a " + Quoted(choices);
+        line += " -f -a " + Quoted(boost::join(option.choices, " "));
     }
     return line + " -d " + Quoted(Short(option.description)) + '\n';
 }

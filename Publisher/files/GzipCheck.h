@@ -6,7 +6,7 @@ namespace Pelnar::Publisher
 {
 
 /// True if every gzip member of the file has the checksum and the length that it states. Bytes after the last member
-/// are ignored, as in gunzip.
+/// are ignored, as in gunzip. Leaves the descriptor at the file's start.
 [[nodiscard]] bool IsIntactGzip(int descriptor);
 
 } // namespace Pelnar::Publisher

@@ -181,6 +181,8 @@ TEST_F(Accident, ArchiveUnderGzipWasDamagedBeforeItIsSigned)
         m_folder.Put("Test-2.0.tar.gz", damaged);
         ExpectRefused(Generate(), {"Test-2.0.tar.gz: is damaged or ends early; pack it again"});
     }
+    m_folder.Put("Test-2.0.tar.gz", whole.substr(0, whole.size() - 4));
+    ExpectRefused(Generate(), {"Test-2.0.tar.gz: is damaged or ends early; pack it again"});
     m_folder.Put("Test-2.0.tar.gz", whole + "bytes that gunzip ignores");
     Publish();
 }

@@ -302,8 +302,8 @@
         <translation>التطبيق موجود على قرص لا يمكن الكتابة عليه. انسخه إلى مجلد آخر وشغّله من هناك.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>مجلد التطبيق قرص مستقل، فلا يمكن استبداله. انسخه إلى مجلد آخر وشغّل التطبيق من هناك.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>مجلد التطبيق قرص مستقل أو يحتوي على قرص مستقل، فلا يمكن استبداله. انسخه إلى مجلد آخر وشغّل التطبيق من هناك.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

@@ -302,8 +302,8 @@
         <translation>Die Anwendung liegt auf einem Datenträger, der nicht beschrieben werden kann. Kopieren Sie sie in einen anderen Ordner, und starten Sie sie dort.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>Der Ordner der Anwendung ist ein eigener Datenträger und kann deshalb nicht ersetzt werden. Kopieren Sie ihn in einen anderen Ordner, und starten Sie die Anwendung dort.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>Der Ordner der Anwendung ist ein eigener Datenträger oder enthält einen und kann deshalb nicht ersetzt werden. Kopieren Sie ihn in einen anderen Ordner, und starten Sie die Anwendung dort.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

@@ -302,8 +302,8 @@
         <translation>La aplicación está en un disco en el que no se puede escribir. Cópiela a otra carpeta y ábrala allí.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>La carpeta de la aplicación es un disco independiente, así que no se puede sustituir. Cópiela a otra carpeta y abra la aplicación allí.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>La carpeta de la aplicación es un disco independiente o contiene uno, así que no se puede sustituir. Cópiela a otra carpeta y abra la aplicación allí.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

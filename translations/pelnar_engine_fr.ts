@@ -302,8 +302,8 @@
         <translation>L’application se trouve sur un disque en lecture seule. Copiez-la dans un autre dossier et ouvrez-la à cet endroit.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>Le dossier de l’application est un disque à part entière et ne peut donc pas être remplacé. Copiez-le dans un autre dossier et ouvrez l’application à cet endroit.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>Le dossier de l’application est un disque à part entière ou en contient un et ne peut donc pas être remplacé. Copiez-le dans un autre dossier et ouvrez l’application à cet endroit.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

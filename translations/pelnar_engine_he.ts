@@ -302,8 +302,8 @@
         <translation>היישום נמצא בכונן שאי אפשר לכתוב בו. יש להעתיק אותו לתיקייה אחרת ולהפעיל אותו משם.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>תיקיית היישום היא כונן בפני עצמו, ולכן אי אפשר להחליף אותה. יש להעתיק אותה לתיקייה אחרת ולהפעיל את היישום משם.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>תיקיית היישום היא כונן בפני עצמו או מכילה כונן כזה, ולכן אי אפשר להחליף אותה. יש להעתיק אותה לתיקייה אחרת ולהפעיל את היישום משם.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

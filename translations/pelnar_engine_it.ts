@@ -302,8 +302,8 @@
         <translation>L’applicazione si trova su un disco di sola lettura. Copiarla in un’altra cartella e aprirla da lì.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>La cartella dell’applicazione è un disco a sé, quindi non può essere sostituita. Copiarla in un’altra cartella e aprire l’applicazione da lì.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>La cartella dell’applicazione è un disco a sé o ne contiene uno, quindi non può essere sostituita. Copiarla in un’altra cartella e aprire l’applicazione da lì.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

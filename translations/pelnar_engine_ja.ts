@@ -302,8 +302,8 @@
         <translation>アプリケーションは書き込みできないディスクにあります。別のフォルダーにコピーして、そこから起動してください。</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>アプリケーションのフォルダーは独立したディスクのため、置き換えられません。別のフォルダーにコピーして、そこから起動してください。</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>アプリケーションのフォルダーが独立したディスクであるか、そのようなディスクを含むため、置き換えられません。別のフォルダーにコピーして、そこから起動してください。</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

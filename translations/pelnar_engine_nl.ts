@@ -302,8 +302,8 @@
         <translation>De app staat op een schijf waarop niet kan worden geschreven. Kopieer hem naar een andere map en open hem daar.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>De map van de app is een schijf op zich, dus hij kan niet worden vervangen. Kopieer hem naar een andere map en open de app daar.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>De map van de app is een schijf op zich of bevat er een, dus hij kan niet worden vervangen. Kopieer hem naar een andere map en open de app daar.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

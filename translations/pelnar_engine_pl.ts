@@ -302,8 +302,8 @@
         <translation>Aplikacja znajduje się na dysku, na którym nie można zapisywać. Skopiuj ją do innego folderu i tam uruchom.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>Folder aplikacji jest osobnym dyskiem, więc nie można go zastąpić. Skopiuj go do innego folderu i tam uruchom aplikację.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>Folder aplikacji jest osobnym dyskiem lub zawiera taki dysk, więc nie można go zastąpić. Skopiuj go do innego folderu i tam uruchom aplikację.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

@@ -302,8 +302,8 @@
         <translation>O aplicativo está em um disco que não permite gravação. Copie-o para outra pasta e abra-o lá.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>A pasta do aplicativo é um disco próprio, portanto não pode ser substituída. Copie-a para outra pasta e abra o aplicativo lá.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>A pasta do aplicativo é um disco próprio ou contém um, portanto não pode ser substituída. Copie-a para outra pasta e abra o aplicativo lá.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

@@ -302,8 +302,8 @@
         <translation>Программа находится на диске, недоступном для записи. Скопируйте её в другую папку и запустите оттуда.</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>Папка программы — отдельный диск, поэтому заменить её нельзя. Скопируйте её в другую папку и запустите программу оттуда.</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>Папка программы является отдельным диском или содержит его, поэтому заменить её нельзя. Скопируйте её в другую папку и запустите программу оттуда.</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

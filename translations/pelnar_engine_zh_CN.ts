@@ -302,8 +302,8 @@
         <translation>应用程序位于无法写入的磁盘上。请将其复制到其他文件夹并从那里启动。</translation>
     </message>
     <message>
-        <source>The application&apos;s folder is a disk of its own, so it cannot be replaced. Copy it to another folder and start the application there.</source>
-        <translation>应用程序的文件夹是一个独立的磁盘，无法替换。请将其复制到其他文件夹并从那里启动应用程序。</translation>
+        <source>The application&apos;s folder is a disk of its own or contains one, so it cannot be replaced. Copy it to another folder and start the application there.</source>
+        <translation>应用程序的文件夹是独立的磁盘或包含独立的磁盘，无法替换。请将其复制到其他文件夹并从那里启动应用程序。</translation>
     </message>
     <message>
         <source>The application is protected against changes. Ask the person who protected it to remove the file attribute &quot;immutable&quot; or &quot;append only&quot;.</source>

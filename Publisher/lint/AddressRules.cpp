@@ -113,6 +113,31 @@ void CheckNotesAddresses(LintElement const& item, LintFindings& findings)
     }
 }
 
+/// Equal for addresses that are one name for a server or a disk that ignores case or composes letters.
+QString Likeness(QUrl const& url)
+{
+    QString const path = url.path(QUrl::FullyDecoded).normalized(QString::NormalizationForm_C).toCaseFolded();
+    return url.adjusted(QUrl::RemovePath | QUrl::RemoveFragment).toString(QUrl::FullyEncoded) + u' ' + path;
+}
+
+void CheckSimilarAddresses(std::vector<LintItem> const& items, LintFindings& findings)
+{
+    QHash<QString, LintItem const*> firstLike;
+    for (LintItem const& item : items)
+    {
+        QUrl const& url = item.full.item->fileUrl;
+        LintItem const*& first = firstLike[Likeness(url)];
+        first = first ? first : &item;
+        if (url != first->full.item->fileUrl)
+        {
+            findings.Add(LintRule::SimilarAddress, item.full.Place(),
+                         u"%1 is similar to the address of %2 in line %3"_s.arg(
+                             url.toString(QUrl::FullyEncoded), NameOf(*first->full.item),
+                             QString::number(first->full.Place().line)));
+        }
+    }
+}
+
 void CheckSharedAddresses(std::vector<LintItem> const& items, LintFindings& findings)
 {
     QHash<QString, LintItem const*> firstAt;
@@ -166,6 +191,7 @@ void CheckAddresses(LintSubject const& subject, LintFindings& findings)
             }
         }
         CheckSharedAddresses(platform.items, findings);
+        CheckSimilarAddresses(platform.items, findings);
     }
 }
 

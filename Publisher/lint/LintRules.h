@@ -46,6 +46,7 @@ char const* SeverityName(Severity severity);
     RULE(VersionMissing, "version-missing", Error, "An item has no version.", "give sparkle:version to the enclosure or to the item") \
     RULE(VersionUnreadable, "version-unreadable", Error, "A version is not one to four decimal numbers separated by dots.", "write a version such as 5.1.2; other text belongs in sparkle:shortVersionString") \
     RULE(VersionOverflow, "version-overflow", Error, "A number of a version is greater than 2147483647.", "split the number by dots, such as 2026.1.24.1414 for 202601241414; each part must be below 2147483648") \
+    RULE(VersionContradiction, "version-contradiction", Warning, "An item and its enclosure have different versions; clients use that of the enclosure.", "correct one of the two, or keep only that of the enclosure") \
     RULE(VersionFromFileName, "version-from-file-name", Warning, "An item's version is only in its file's name.", "give sparkle:version to the enclosure") \
     RULE(VersionSpelling, "version-spelling", Warning, "Two versions have different spellings but are equal: missing numbers count as 0.", "use one spelling for each version") \
     RULE(VersionMixed, "version-mixed", Warning, "Some versions are one number and some have dots; 100 is newer than 5.9.", "use one scheme for all items") \
@@ -69,6 +70,7 @@ char const* SeverityName(Severity severity);
     RULE(NearAddress, "near-address", Warning, "An address points to this computer or to a private network, which other people's computers cannot reach.", "write the public https address") \
     RULE(WebPageDownload, "web-page-download", Warning, "A download is a web page, which no client installs.", "give the archive's own address as url, and the page's address as link") \
     RULE(SharedAddress, "shared-address", Warning, "Two versions have the same address, so one of them offers the wrong file.", "give each version's file its own name") \
+    RULE(SimilarAddress, "similar-address", Warning, "Two versions have addresses that differ only in the case or the spelling of letters; a server or a disk that ignores this keeps one of the two files.", "give each version's file its own name") \
     RULE(AddressInsecure, "address-insecure", Error, "An address uses http, which clients refuse.", "serve it over https") \
     RULE(AddressHost, "address-host", Error, "An address has no host.", "write the whole address, such as https://dl.example.com/app.zip") \
     RULE(AddressCredentials, "address-credentials", Warning, "An address contains a user name or a password.", "remove them; everybody can read the feed") \

@@ -42,6 +42,20 @@ bool HasWrittenVersion(LintElement const& element, LintElement const* enclosure)
     return hasElement || (enclosure && enclosure->FeedAttribute("version"));
 }
 
+/// The item's own version, which the enclosure's replaces.
+void CheckVersionElement(LintDownload const& download, LintFindings& findings)
+{
+    QString const& text = download.item->versionString;
+    auto const& children = download.element->children;
+    auto const own = std::find_if(children.begin(), children.end(),
+                                  [](LintElement const& child) { return child.name.IsFeeds("version"); });
+    if (!download.item->isDelta && own != children.end() && OrderOfTexts(own->text.trimmed(), text) != 0)
+    {
+        findings.Add(LintRule::VersionContradiction, own->place,
+                     u"%1, but the enclosure says %2"_s.arg(own->text.trimmed(), text));
+    }
+}
+
 void CheckVersion(LintDownload const& download, LintFindings& findings)
 {
     QString const& text = download.item->versionString;
@@ -56,6 +70,7 @@ void CheckVersion(LintDownload const& download, LintFindings& findings)
                      u"the version is \"%1\""_s.arg(text));
         return;
     }
+    CheckVersionElement(download, findings);
     if (!download.item->isDelta && !HasWrittenVersion(*download.element, download.enclosure))
     {
         findings.Add(LintRule::VersionFromFileName, download.Place(),

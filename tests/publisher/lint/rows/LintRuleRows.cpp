@@ -183,6 +183,9 @@ void AddVersionCases(std::vector<LintCase>& cases)
     cases.push_back({"GreatestNumberPasses", FeedOf(Item("5.2147483647")), ""});
     cases.push_back({"VersionFromFileName", FeedOf("<item><enclosure url='https://a.example/App_5.1.zip'" + noVersion),
                      "version-from-file-name 2:7 5.1 is only in App_5.1.zip"});
+    cases.push_back({"VersionContradiction", FeedOf("\n" + Item("5.1", "\n<sparkle:version>5.2</sparkle:version>")),
+                     "version-contradiction 4:1 5.2, but the enclosure says 5.1"});
+    cases.push_back({"VersionWrittenTwicePasses", FeedOf(Item("5.1", "<sparkle:version>5.1.0</sparkle:version>")), ""});
     cases.push_back({"VersionMixed", FeedOf(Item("100") + Item("5.9")), "version-mixed 3:7 100 beside 5.9"});
     cases.push_back(
         {"VersionSpelling",
@@ -413,6 +416,27 @@ void AddAddressCases(std::vector<LintCase>& cases)
                      FeedOf("<item><enclosure url='https://a.example/a.zip'" + Good("5.2") +
                             "/></item>\n<item><enclosure url='https://a.example/a.zip'" + Good("5.1") + "/></item>"),
                      "shared-address 3:7 https://a.example/a.zip is also the address of item 5.2 in line 2"});
+    struct Twin
+    {
+        char const* name;
+        char const* first;
+        char const* second;
+        char const* finding;
+    };
+    for (Twin const& twin :
+         {Twin{"AddressesThatDifferInCase", "/App.zip", "/app.zip",
+               "similar-address 3:7 https://a.example/app.zip is similar to the address of item 5.2 in line 2"},
+          Twin{"AddressesThatDifferInCaseBeyondAscii", "/%C3%84.zip", "/%C3%A4.zip", "similar-address 3:7 "},
+          Twin{"AddressesThatDifferInComposition", "/%C3%A4.zip", "/a%CC%88.zip", "similar-address 3:7 "},
+          Twin{"QueriesThatDifferInCasePass", "/get?id=Aa", "/get?id=aA", ""}})
+    {
+        auto const enclosure = [](char const* path)
+        { return QByteArray("<item><enclosure url='https://a.example") + path + "'"; };
+        cases.push_back({twin.name,
+                         FeedOf(enclosure(twin.first) + Good("5.2") + "/></item>\n" + enclosure(twin.second) +
+                                Good("5.1") + "/></item>"),
+                         twin.finding});
+    }
 }
 
 void AddSystemCases(std::vector<LintCase>& cases)

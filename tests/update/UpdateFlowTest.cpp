@@ -203,6 +203,26 @@ TEST_F(UpdateFlowTest, ItemOfAnotherChannelHidesNoOtherOne)
     EXPECT_EQ(host.itemCount, 2u);
 }
 
+/// A feed that was edited by hand.
+TEST_F(UpdateFlowTest, NewerItemThatNoClientCanTakeIsLogged)
+{
+    QByteArray const item = Signed(ItemOf("5.1"));
+    ASSERT_TRUE(item.contains("length=") && item.contains("url="));
+    Publish(FeedWith(QByteArray(item).replace("length=", "size=") + QByteArray(item).replace("url=", "href=") +
+                     Signed(ItemOf("1.0")).replace("length=", "size=")));
+    LogCapture const log;
+    Run(CheckKind::Probe);
+    std::vector<std::string> warnings;
+    for (LogRecord const& record : log.Of(google::GLOG_WARNING))
+    {
+        warnings.push_back(record.text);
+    }
+    EXPECT_EQ(warnings, (std::vector<std::string>{
+                            "The feed's item 5.1 cannot be offered, because it has no valid length",
+                            "The feed's item 5.1 cannot be offered, because it has no valid download address"}))
+        << "nobody misses older items";
+}
+
 TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
 {
     Publish(FeedWith(ItemOf("5.1")));

@@ -35,6 +35,17 @@ char const* NameOf(OfferVerdict verdict)
     return "Unknown OfferVerdict";
 }
 
+/// Why no client can take the download of \a item; null if this is not known.
+char const* DefectOf(FeedItem const& item)
+{
+    bool const mayInform = item.policy.isInformational || !item.policy.informationalFor.isEmpty() ||
+                           !item.policy.informationalBelow.isEmpty();
+    return mayInform                 ? nullptr
+           : item.fileUrl.isEmpty()  ? "it has no valid download address"
+           : item.contentLength == 0 ? "it has no valid length"
+                                     : nullptr;
+}
+
 /// A feed from another computer must not give a person a link into this computer.
 void DropNearerLinks(FeedItem& item, AddressReach feedReach)
 {
@@ -257,8 +268,15 @@ void CheckRun::ApplyPolicy()
     {
         installation.rolloutGroup = m_settings.rolloutGroup;
     }
-    LeaveOut(m_items, installation,
-             [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); });
+    VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
+    LeaveOut(m_items, installation, order);
+    for (FeedItem const& item : m_items)
+    {
+        char const* const defect = DefectOf(item);
+        LOG_IF(WARNING, defect && order(item.versionString, m_settings.bundleVersion) > 0)
+            << "The feed's item " << EscapedRemoteText(item.versionString).toStdString()
+            << " cannot be offered, because " << defect;
+    }
 }
 
 Result<std::optional<FoundUpdate>> CheckRun::Choose()

@@ -13,6 +13,7 @@ namespace
 {
 
 using Engine::DeltaError;
+using Engine::ReleaseNotesRefusal;
 using Engine::UpdateFault;
 
 struct Words
@@ -108,6 +109,33 @@ Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name)
         return ProblemOf(fault, outcome.systemError, file);
     }
     return ProblemWith(WordsFor(outcome), outcome.systemError, file);
+}
+
+QString ReasonOf(ReleaseNotesRefusal refusal)
+{
+    switch (refusal)
+    {
+    case ReleaseNotesRefusal::None:
+    case ReleaseNotesRefusal::TooLong:
+        return u"they are too long"_s;
+    case ReleaseNotesRefusal::TooDeep:
+        return u"elements are nested too deeply"_s;
+    case ReleaseNotesRefusal::TablesTooDeep:
+        return u"tables are nested too deeply"_s;
+    case ReleaseNotesRefusal::TooManyElements:
+        return u"there are too many elements"_s;
+    case ReleaseNotesRefusal::TooManyListItems:
+        return u"there are too many list items"_s;
+    case ReleaseNotesRefusal::TooMuchPreformatted:
+        return u"there is too much preformatted text"_s;
+    case ReleaseNotesRefusal::TooManyCells:
+        return u"a table has too many cells"_s;
+    case ReleaseNotesRefusal::TooMuchTableText:
+        return u"there is too much text in tables"_s;
+    case ReleaseNotesRefusal::BlockTooLong:
+        return u"a paragraph is too long"_s;
+    }
+    return u"they are over a limit"_s;
 }
 
 } // namespace Pelnar::Publisher

@@ -1,8 +1,9 @@
-// FaultText.h: the messages for a publisher about an archive that clients would refuse.
+// FaultText.h: the messages for a publisher about an archive or release notes that clients would refuse.
 #pragma once
 
 #include "Engine/core/delta/DeltaContainer.h"
 #include "Engine/core/faults/UpdateFault.h"
+#include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Publisher/Refusal.h"
 
 namespace Pelnar::Publisher
@@ -15,5 +16,7 @@ Problem ProblemOf(Engine::UpdateRefusal const& refusal, QString const& name);
 RefusalCause CauseOf(Engine::UpdateFault fault);
 /// The same for a delta that cannot be made, read or applied.
 Problem ProblemOf(Engine::DeltaOutcome const& outcome, QString const& name);
+/// Why clients would show release notes as plain text.
+QString ReasonOf(Engine::ReleaseNotesRefusal refusal);
 
 } // namespace Pelnar::Publisher

@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
 #include "Publisher/Refusal.h"
+#include "Publisher/files/FaultText.h"
 
 #include <QDir>
 #include <QFile>
@@ -93,33 +94,6 @@ int LineOfBadCharacter(QString const& text)
     return 0;
 }
 
-QString WhyRefused(Engine::ReleaseNotesRefusal refusal)
-{
-    switch (refusal)
-    {
-    case Engine::ReleaseNotesRefusal::None:
-    case Engine::ReleaseNotesRefusal::TooLong:
-        return u"they are too long"_s;
-    case Engine::ReleaseNotesRefusal::TooDeep:
-        return u"elements are nested too deeply"_s;
-    case Engine::ReleaseNotesRefusal::TablesTooDeep:
-        return u"tables are nested too deeply"_s;
-    case Engine::ReleaseNotesRefusal::TooManyElements:
-        return u"there are too many elements"_s;
-    case Engine::ReleaseNotesRefusal::TooManyListItems:
-        return u"there are too many list items"_s;
-    case Engine::ReleaseNotesRefusal::TooMuchPreformatted:
-        return u"there is too much preformatted text"_s;
-    case Engine::ReleaseNotesRefusal::TooManyCells:
-        return u"a table has too many cells"_s;
-    case Engine::ReleaseNotesRefusal::TooMuchTableText:
-        return u"there is too much text in tables"_s;
-    case Engine::ReleaseNotesRefusal::BlockTooLong:
-        return u"a paragraph is too long"_s;
-    }
-    return u"they are over a limit"_s;
-}
-
 QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
 {
     Engine::ReleaseNotesLimits const limits;
@@ -139,7 +113,7 @@ QString ReadNotesFile(QString const& path, Engine::ReleaseNotesFormat format)
     Engine::FilteredReleaseNotes const shown = Engine::FilterReleaseNotes(text.toStdString(), format, limits);
     if (shown.refusal != Engine::ReleaseNotesRefusal::None)
     {
-        throw Refusal({path, u"clients would show these notes as plain text: "_s + WhyRefused(shown.refusal),
+        throw Refusal({path, u"clients would show these notes as plain text: "_s + ReasonOf(shown.refusal),
                        u"make the notes simpler"_s});
     }
     return format == Engine::ReleaseNotesFormat::Html ? text : QString::fromStdString(shown.html);

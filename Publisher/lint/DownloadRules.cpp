@@ -33,7 +33,7 @@ void CheckAddress(QUrl const& url, LintPlace place, QUrl const& feed, LintFindin
     QString const text = Shortened(url.toString(QUrl::FullyEncoded));
     bool const isHttp = url.scheme() == "http"_l;
     // A feed that is read before it is published has relative addresses of files.
-    if (!isHttp && url.scheme() != "https"_l && !(IsLocalFile(url) && IsLocalFile(feed)))
+    if (!isHttp && !Engine::IsHttps(url) && !(IsLocalFile(url) && IsLocalFile(feed)))
     {
         findings.Add(LintRule::AddressScheme, place, text);
         return;

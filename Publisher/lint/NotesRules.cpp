@@ -2,6 +2,7 @@
 
 #include "Engine/core/fetch/FetchRules.h"
 #include "Engine/core/notes/ReleaseNotesFilter.h"
+#include "Publisher/files/FaultText.h"
 #include "Publisher/lint/LintSubject.h"
 
 #include <algorithm>
@@ -13,34 +14,6 @@ namespace
 {
 
 using Engine::ReleaseNotesRefusal;
-
-char const* ReasonOf(ReleaseNotesRefusal refusal)
-{
-    switch (refusal)
-    {
-    case ReleaseNotesRefusal::None:
-        return "";
-    case ReleaseNotesRefusal::TooLong:
-        return "too long";
-    case ReleaseNotesRefusal::TooDeep:
-        return "nested too deeply";
-    case ReleaseNotesRefusal::TablesTooDeep:
-        return "tables nested too deeply";
-    case ReleaseNotesRefusal::TooManyElements:
-        return "too many elements";
-    case ReleaseNotesRefusal::TooManyListItems:
-        return "too many list items";
-    case ReleaseNotesRefusal::TooMuchPreformatted:
-        return "too much preformatted text";
-    case ReleaseNotesRefusal::TooManyCells:
-        return "too many table cells";
-    case ReleaseNotesRefusal::TooMuchTableText:
-        return "too much text in tables";
-    case ReleaseNotesRefusal::BlockTooLong:
-        return "a paragraph is too long";
-    }
-    return "";
-}
 
 LintPlace PlaceOf(LintElement const& item, bool (*matches)(LintName const&))
 {
@@ -60,7 +33,7 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
     {
         findings.Add(LintRule::NotesOverLimits,
                      PlaceOf(*item.full.element, [](LintName const& name) { return name.IsPlain("description"); }),
-                     u"the notes of %1: %2"_s.arg(NameOf(parsed), QLatin1String(ReasonOf(refusal))));
+                     u"the notes of %1: %2"_s.arg(NameOf(parsed), ReasonOf(refusal)));
     }
 }
 
@@ -69,7 +42,7 @@ void CheckLink(LintItem const& item, LintFindings& findings)
     QUrl const& url = item.full.item->releaseNotesUrl;
     bool const isLocal = url.isLocalFile(); // a relative address in a feed that is not published yet, or reported by
                                             // another rule
-    if (!url.isEmpty() && url.scheme() != "https"_l && !isLocal && !Engine::IsLoopback(url))
+    if (!url.isEmpty() && !Engine::IsHttps(url) && !isLocal && !Engine::IsLoopback(url))
     {
         findings.Add(LintRule::NotesInsecure,
                      PlaceOf(*item.full.element, [](LintName const& name) { return name.IsFeeds("releaseNotesLink"); }),

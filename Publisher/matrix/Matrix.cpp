@@ -227,7 +227,7 @@ std::vector<ExpectedCell> ParseExpectation(QString const& file, QByteArray const
 {
     QJsonValue const cells = QJsonDocument::fromJson(json).object().value(u"cells"_s);
     QJsonArray const list = cells.toArray();
-    bool isGood = cells.isArray();
+    bool isGood = !list.isEmpty(); // a comparison with nothing would find nothing
     std::vector<ExpectedCell> expected;
     for (QJsonValue const& cell : list)
     {

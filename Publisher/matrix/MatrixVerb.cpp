@@ -113,8 +113,12 @@ ExitStatus ShowMatrix(MatrixOptions const& options, Console const& console)
     std::vector<ExpectedCell> const expected = ReadExpectation(options);
     Engine::Installation const installation = InstallationOf(options.installation);
     ParsedFeed const feed = ReadItems(options, options.feed, installation.machine, console);
-    Matrix matrix = MakeMatrix(feed.items, InstalledVersions(options, expected, feed.items), Systems(options, expected),
-                               installation);
+    Versions const versions = InstalledVersions(options, expected, feed.items);
+    if (versions.empty())
+    {
+        throw Refusal({feed.source.name, u"names no version to start with"_s, u"list them in --versions"_s});
+    }
+    Matrix matrix = MakeMatrix(feed.items, versions, Systems(options, expected), installation);
     matrix.feed = feed.source.name;
     matrix.platform = QString::fromStdString(options.platform);
     return Answer(matrix, expected, options, console);

@@ -7,32 +7,6 @@
 namespace Pelnar::Publisher
 {
 
-char const* EventKindName(EventKind kind)
-{
-    switch (kind)
-    {
-    case EventKind::Process:
-        return "process";
-    case EventKind::Lock:
-        return "lock";
-    case EventKind::Command:
-        return "command";
-    case EventKind::State:
-        return "state";
-    case EventKind::Callback:
-        return "callback";
-    case EventKind::Told:
-        return "told";
-    case EventKind::Choice:
-        return "choice";
-    case EventKind::Error:
-        return "error";
-    case EventKind::Wrong:
-        return "WRONG";
-    }
-    return "unknown";
-}
-
 int Timeline::WrongEvents() const
 {
     return int(std::count_if(events.begin(), events.end(),

@@ -26,9 +26,6 @@ enum class EventKind
     Wrong,    ///< a sequence that is impossible
 };
 
-/// "lock", "state", and so on.
-char const* EventKindName(EventKind kind);
-
 struct TimelineEvent
 {
     int logLine = 0;

@@ -9,6 +9,7 @@
 #include <cerrno>
 #include <cstring>
 #include <fstream>
+#include <iterator>
 #include <ostream>
 
 namespace Pelnar::Publisher
@@ -22,25 +23,27 @@ struct TimelineOptions
     bool isJson = false;
 };
 
-Emphasis EmphasisOf(EventKind kind)
+struct EventLook
 {
-    switch (kind)
-    {
-    case EventKind::Command:
-        return Emphasis::Bold;
-    case EventKind::Error:
-        return Emphasis::Warning;
-    case EventKind::Wrong:
-        return Emphasis::Bad;
-    case EventKind::Process:
-    case EventKind::Lock:
-    case EventKind::State:
-    case EventKind::Callback:
-    case EventKind::Told:
-    case EventKind::Choice:
-        return Emphasis::None;
-    }
-    return Emphasis::None;
+    char const* name;
+    Emphasis emphasis = Emphasis::None;
+};
+
+/// In the order of EventKind.
+constexpr EventLook LOOKS[] = {{"process"},
+                               {"lock"},
+                               {"command", Emphasis::Bold},
+                               {"state"},
+                               {"callback"},
+                               {"told"},
+                               {"choice"},
+                               {"error", Emphasis::Warning},
+                               {"WRONG", Emphasis::Bad}};
+static_assert(std::size(LOOKS) == std::size_t(EventKind::Wrong) + 1);
+
+EventLook const& LookOf(TimelineEvent const& event)
+{
+    return LOOKS[std::size_t(event.kind)];
 }
 
 void PrintEvent(TimelineEvent const& event, Console const& console)
@@ -48,8 +51,8 @@ void PrintEvent(TimelineEvent const& event, Console const& console)
     QString const holder = event.holder > 0 ? u"holder %1"_s.arg(event.holder) : u"-"_s;
     QString const head =
         u"%1:  %2  %3  %4  "_s.arg(event.logLine, 5)
-            .arg(event.time, holder.leftJustified(9), QString::fromLatin1(EventKindName(event.kind)).leftJustified(8));
-    console.out.stream << head.toStdString() << console.out.Styled(EmphasisOf(event.kind), Printable(event.text))
+            .arg(event.time, holder.leftJustified(9), QString::fromLatin1(LookOf(event).name).leftJustified(8));
+    console.out.stream << head.toStdString() << console.out.Styled(LookOf(event).emphasis, Printable(event.text))
                        << '\n';
 }
 
@@ -61,7 +64,7 @@ QJsonObject JsonOf(Timeline const& timeline, QString const& name)
         events.append(QJsonObject{
             {u"line"_s, event.logLine},
             {u"time"_s, event.time},
-            {u"kind"_s, QString::fromLatin1(EventKindName(event.kind)).toLower()},
+            {u"kind"_s, QString::fromLatin1(LookOf(event).name).toLower()},
             {u"text"_s, event.text},
             {u"holder"_s, event.holder},
             {u"check"_s, event.check},

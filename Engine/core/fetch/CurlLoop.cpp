@@ -1,6 +1,7 @@
 #include "Engine/core/fetch/CurlLoop.h"
 
 #include "Engine/core/fetch/AddressReach.h"
+#include "Engine/core/fetch/FetchRules.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -77,7 +78,7 @@ void CurlLoop::AskSettings(QUrl const& url, QObject* receiver, std::function<voi
     QSslConfiguration const configuration = QSslConfiguration::defaultConfiguration();
     MindTrust(configuration);
     settings.trust = m_trust;
-    bool const needsTrust = !m_trust && url.scheme() == QLatin1String("https");
+    bool const needsTrust = !m_trust && IsHttps(url);
     if (proxy && !needsTrust)
     {
         ready(settings);

@@ -80,7 +80,7 @@ CurlRequest::CurlRequest(FetchRequest const& request, FetchLimits const& limits,
     SetFields();
     SetSafety(limits);
     SetProxy();
-    if (m_request.url.scheme() == QLatin1String("https"))
+    if (IsHttps(m_request.url))
     {
         SetSecurity();
     }

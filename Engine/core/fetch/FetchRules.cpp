@@ -15,11 +15,6 @@ bool IsHttp(QUrl const& url)
     return url.scheme() == QLatin1String("http");
 }
 
-bool IsHttps(QUrl const& url)
-{
-    return url.scheme() == QLatin1String("https");
-}
-
 int PortOf(QUrl const& url)
 {
     return url.port(IsHttps(url) ? 443 : 80);
@@ -45,6 +40,11 @@ Result<void> JudgeNetworkAddress(QUrl const& url, InsecureHttp insecureHttp)
 }
 
 } // namespace
+
+bool IsHttps(QUrl const& url)
+{
+    return url.scheme() == QLatin1String("https");
+}
 
 bool IsSameOrigin(QUrl const& a, QUrl const& b)
 {

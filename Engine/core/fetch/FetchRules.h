@@ -53,6 +53,8 @@ struct FetchRequest
     AddressReach nearest = AddressReach::ThisComputer; ///< no connection goes to a nearer address
 };
 
+[[nodiscard]] bool IsHttps(QUrl const& url);
+
 /// Same scheme, host and port, including default ports.
 [[nodiscard]] bool IsSameOrigin(QUrl const& a, QUrl const& b);
 

@@ -90,11 +90,6 @@ HttpTransfer::HttpTransfer(FetchRequest const& request, FetchLimits const& limit
     connect(&m_restTimer, &QTimer::timeout, this, [this] { m_sink->Idle(); });
 }
 
-bool HttpTransfer::IsSecure() const
-{
-    return m_request.url.scheme() == QLatin1String("https");
-}
-
 HttpTransfer::~HttpTransfer()
 {
     Close();
@@ -205,7 +200,7 @@ HttpTransfer::Verdict HttpTransfer::TakeHead()
     }
     m_refusal.reset();
     m_stage = TransferStage::Body;
-    if (IsSecure())
+    if (IsHttps(m_request.url))
     {
         m_curl->WatchSecureConnection();
     }
@@ -301,7 +296,7 @@ bool HttpTransfer::DeliverHeld()
 
 bool HttpTransfer::HasSurplus() const
 {
-    return IsSecure() ? m_curl->HasSecureBytes() : m_loop->HasUnreadBytes(m_curl->Handle());
+    return IsHttps(m_request.url) ? m_curl->HasSecureBytes() : m_loop->HasUnreadBytes(m_curl->Handle());
 }
 
 HttpTransfer::Verdict HttpTransfer::Refuse(ErrorCause cause)
@@ -365,7 +360,7 @@ bool HttpTransfer::IsCut() const
     bool const endsWithConnection =
         m_plan.kind == BodyPlan::Kind::UntilClose && m_curl->Number(CURLINFO_HTTP_VERSION) < CURL_HTTP_VERSION_2_0;
     // libcurl takes the end of a secure connection for the end of the body, even if an attacker ended it.
-    return endsWithConnection && IsSecure() && !m_curl->HasSaidGoodbye();
+    return endsWithConnection && IsHttps(m_request.url) && !m_curl->HasSaidGoodbye();
 }
 
 void HttpTransfer::TakeWhole()

@@ -67,7 +67,6 @@ private:
     /// True if all held bytes are delivered.
     [[nodiscard]] bool DeliverHeld();
     [[nodiscard]] bool HasSurplus() const;
-    [[nodiscard]] bool IsSecure() const;
     Verdict Refuse(ErrorCause cause);
 
     void TakeEnd(CURLcode code);

@@ -32,7 +32,7 @@ bool HasWord(HttpHead const& head, QByteArray const& lowerCaseName, QByteArray c
 /// stay.
 bool IsFromWhoItSays(QUrl const& answered, AddressReach reach)
 {
-    return answered.scheme() == QLatin1String("https") || reach == AddressReach::ThisComputer;
+    return IsHttps(answered) || reach == AddressReach::ThisComputer;
 }
 
 } // namespace

@@ -186,6 +186,24 @@ TEST_F(MatrixGate, RefusesAFileOfAnotherKind)
     }
 }
 
+TEST_F(MatrixGate, ThatComparesNothingIsRefused)
+{
+    QByteArray const empty = "<rss><channel></channel></rss>";
+    ToolRun const ofNothing =
+        RunTool(Of("from-feed", "11,12") + QStringList{QStringLiteral("--expect"), Expectation(FEED)}, empty);
+    EXPECT_EQ(ofNothing.status, 2);
+    EXPECT_NE(ofNothing.err.find("names no version"), std::string::npos) << ofNothing.err;
+
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("expected.json")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("{\"cells\": []}");
+    file.close();
+    ToolRun const byNothing = RunTool(Line({QStringLiteral("--expect"), file.fileName()}), FEED);
+    EXPECT_EQ(byNothing.status, 2);
+    EXPECT_EQ(byNothing.err.find("error: " + file.fileName().toStdString() + ": "), 0u) << byNothing.err;
+}
+
 TEST(Matrix, BadArgumentsAreRefused)
 {
     EXPECT_EQ(RunTool(Line({}), FEED).err,

@@ -1,5 +1,6 @@
 // DownloadRules.cpp: addresses, lengths, dates, file names and signatures of downloads.
 
+#include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/bundle/Ed25519Signature.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Engine/core/fetch/FetchRules.h"
@@ -13,8 +14,9 @@ namespace Pelnar::Publisher
 namespace
 {
 
+using App::Session::DetectUpdateType;
+
 constexpr int MAX_ADDRESS_CHARACTERS = 8192;
-char const* const INSTALLER_MARKS[] = {".sparkle_guided.", ".sparkle_interactive."};
 
 QString Shortened(QString const& text)
 {
@@ -93,12 +95,9 @@ void CheckLength(LintDownload const& download, LintFindings& findings)
 void CheckMarker(LintDownload const& download, LintFindings& findings)
 {
     QString const name = download.item->fileUrl.fileName(QUrl::FullyDecoded);
-    for (char const* mark : INSTALLER_MARKS)
+    if (DetectUpdateType(false, name) != DetectUpdateType(false, name.toLower()))
     {
-        if (name.contains(QLatin1String(mark), Qt::CaseInsensitive) && !name.contains(QLatin1String(mark)))
-        {
-            findings.Add(LintRule::MarkerCase, download.Place(), name);
-        }
+        findings.Add(LintRule::MarkerCase, download.Place(), name);
     }
 }
 
@@ -129,10 +128,8 @@ void CheckDate(LintItem const& item, LintFindings& findings)
     {
         return;
     }
-    auto const& children = item.full.element->children;
-    auto const date = std::find_if(children.begin(), children.end(),
-                                   [](LintElement const& child) { return child.name.IsPlain("pubDate"); });
-    LintPlace const place = date == children.end() ? item.full.element->place : date->place;
+    LintElement const* const date = item.full.element->PlainChild("pubDate");
+    LintPlace const place = date ? date->place : item.full.element->place;
     if (QDate::fromString(text, Qt::TextDate).isValid())
     {
         findings.Add(LintRule::DateTextForm, place, u"the date is \"%1\""_s.arg(Shortened(text)));

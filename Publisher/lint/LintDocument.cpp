@@ -24,6 +24,13 @@ std::optional<QString> ValueOf(std::vector<LintAttribute> const& attributes,
     return std::nullopt;
 }
 
+LintElement const* ChildOf(LintElement const& parent, bool (LintName::*matches)(char const*) const, char const* local)
+{
+    auto const found = std::find_if(parent.children.begin(), parent.children.end(),
+                                    [&](LintElement const& child) { return (child.name.*matches)(local); });
+    return found == parent.children.end() ? nullptr : &*found;
+}
+
 LintElement StartElement(Engine::FeedWalker const& walker, LintPlace place)
 {
     QXmlStreamReader const& reader = walker.Reader();
@@ -157,6 +164,21 @@ std::optional<QString> LintElement::FeedAttribute(char const* local) const
 std::optional<QString> LintElement::OwnAttribute(char const* local) const
 {
     return ValueOf(attributes, &LintName::IsOwn, local);
+}
+
+LintElement const* LintElement::PlainChild(char const* local) const
+{
+    return ChildOf(*this, &LintName::IsPlain, local);
+}
+
+LintElement const* LintElement::FeedChild(char const* local) const
+{
+    return ChildOf(*this, &LintName::IsFeeds, local);
+}
+
+LintElement const* LintElement::OwnChild(char const* local) const
+{
+    return ChildOf(*this, &LintName::IsOwn, local);
 }
 
 LintElement ReadLintDocument(QByteArray const& bytes)

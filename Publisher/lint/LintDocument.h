@@ -61,6 +61,11 @@ struct LintElement
     std::optional<QString> PlainAttribute(char const* local) const;
     std::optional<QString> FeedAttribute(char const* local) const;
     std::optional<QString> OwnAttribute(char const* local) const;
+
+    /// The first such child; null if there is none.
+    LintElement const* PlainChild(char const* local) const;
+    LintElement const* FeedChild(char const* local) const;
+    LintElement const* OwnChild(char const* local) const;
 };
 
 /// True if a namespace is the feed's own.

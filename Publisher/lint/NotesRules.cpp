@@ -5,7 +5,6 @@
 #include "Publisher/files/FaultText.h"
 #include "Publisher/lint/LintSubject.h"
 
-#include <algorithm>
 #include <set>
 
 namespace Pelnar::Publisher
@@ -14,13 +13,6 @@ namespace
 {
 
 using Engine::ReleaseNotesRefusal;
-
-LintPlace PlaceOf(LintElement const& item, bool (*matches)(LintName const&))
-{
-    auto const found = std::find_if(item.children.begin(), item.children.end(),
-                                    [&](LintElement const& child) { return matches(child.name); });
-    return found == item.children.end() ? item.place : found->place;
-}
 
 void CheckDescription(LintItem const& item, LintFindings& findings)
 {
@@ -31,8 +23,8 @@ void CheckDescription(LintItem const& item, LintFindings& findings)
             .refusal;
     if (refusal != ReleaseNotesRefusal::None)
     {
-        findings.Add(LintRule::NotesOverLimits,
-                     PlaceOf(*item.full.element, [](LintName const& name) { return name.IsPlain("description"); }),
+        LintElement const* const notes = item.full.element->PlainChild("description");
+        findings.Add(LintRule::NotesOverLimits, notes ? notes->place : item.full.element->place,
                      u"the notes of %1: %2"_s.arg(NameOf(parsed), ReasonOf(refusal)));
     }
 }
@@ -44,8 +36,8 @@ void CheckLink(LintItem const& item, LintFindings& findings)
                                             // another rule
     if (!url.isEmpty() && !Engine::IsHttps(url) && !isLocal && !Engine::IsLoopback(url))
     {
-        findings.Add(LintRule::NotesInsecure,
-                     PlaceOf(*item.full.element, [](LintName const& name) { return name.IsFeeds("releaseNotesLink"); }),
+        LintElement const* const link = item.full.element->FeedChild("releaseNotesLink");
+        findings.Add(LintRule::NotesInsecure, link ? link->place : item.full.element->place,
                      url.toString(QUrl::FullyEncoded));
     }
 }

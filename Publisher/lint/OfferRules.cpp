@@ -23,15 +23,11 @@ using App::Session::IsOlderVersion;
 using App::Session::VersionFromStringNoexcept;
 
 /// Elements that restrict who gets an item, but that clients do not know.
-constexpr char const* POLICIES[] = {"ignoreSkippedUpgradesBelowVersion"};
-
 void CheckPolicies(LintElement const& item, LintFindings& findings)
 {
     for (LintElement const& child : item.children)
     {
-        bool const isPolicy = std::any_of(std::begin(POLICIES), std::end(POLICIES),
-                                          [&](char const* name) { return child.name.IsFeeds(name); });
-        if (isPolicy)
+        if (child.name.IsFeeds("ignoreSkippedUpgradesBelowVersion"))
         {
             QString const text = child.text.trimmed();
             findings.Add(LintRule::PolicyIgnored, child.place,

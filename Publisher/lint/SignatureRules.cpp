@@ -4,8 +4,6 @@
 #include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/SignedFeed.h"
 
-#include <algorithm>
-
 namespace Pelnar::Publisher
 {
 namespace
@@ -55,9 +53,7 @@ LintPlace PlaceOf(LintSubject const& subject, char const* name)
         for (LintElement const& channel : top.children)
         {
             place = channel.name.IsPlain("channel") ? channel.place : place;
-            auto const own = std::find_if(channel.children.begin(), channel.children.end(),
-                                          [name](LintElement const& child) { return child.name.IsOwn(name); });
-            if (own != channel.children.end())
+            if (LintElement const* const own = channel.OwnChild(name))
             {
                 return own->place;
             }

@@ -52,19 +52,12 @@ void CheckPlatformName(LintElement const& enclosure, LintFindings& findings)
     }
 }
 
-LintElement const* FirstEnclosure(LintElement const& item)
-{
-    auto const found = std::find_if(item.children.begin(), item.children.end(),
-                                    [](LintElement const& child) { return child.name.IsPlain("enclosure"); });
-    return found == item.children.end() ? nullptr : &*found;
-}
-
 void CheckOrder(std::vector<LintElement const*> const& items, LintFindings& findings)
 {
     LintElement const* marked = nullptr;
     for (LintElement const* item : items)
     {
-        LintElement const* const enclosure = FirstEnclosure(*item);
+        LintElement const* const enclosure = item->PlainChild("enclosure");
         if (!enclosure)
         {
             continue;

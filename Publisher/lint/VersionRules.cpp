@@ -35,21 +35,12 @@ bool Overflows(QString const& text)
     return isGreat && components.size() <= Core::Version::COMPONENT_COUNT;
 }
 
-bool HasWrittenVersion(LintElement const& element, LintElement const* enclosure)
-{
-    bool const hasElement = std::any_of(element.children.begin(), element.children.end(),
-                                        [](LintElement const& child) { return child.name.IsFeeds("version"); });
-    return hasElement || (enclosure && enclosure->FeedAttribute("version"));
-}
-
 /// The item's own version, which the enclosure's replaces.
 void CheckVersionElement(LintDownload const& download, LintFindings& findings)
 {
     QString const& text = download.item->versionString;
-    auto const& children = download.element->children;
-    auto const own = std::find_if(children.begin(), children.end(),
-                                  [](LintElement const& child) { return child.name.IsFeeds("version"); });
-    if (!download.item->isDelta && own != children.end() && OrderOfTexts(own->text.trimmed(), text) != 0)
+    LintElement const* const own = download.element->FeedChild("version");
+    if (!download.item->isDelta && own && OrderOfTexts(own->text.trimmed(), text) != 0)
     {
         findings.Add(LintRule::VersionContradiction, own->place,
                      u"%1, but the enclosure says %2"_s.arg(own->text.trimmed(), text));
@@ -71,7 +62,9 @@ void CheckVersion(LintDownload const& download, LintFindings& findings)
         return;
     }
     CheckVersionElement(download, findings);
-    if (!download.item->isDelta && !HasWrittenVersion(*download.element, download.enclosure))
+    bool const isWritten =
+        download.element->FeedChild("version") || (download.enclosure && download.enclosure->FeedAttribute("version"));
+    if (!download.item->isDelta && !isWritten)
     {
         findings.Add(LintRule::VersionFromFileName, download.Place(),
                      u"%1 is only in %2"_s.arg(text, download.item->fileUrl.fileName()));

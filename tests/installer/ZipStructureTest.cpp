@@ -117,6 +117,21 @@ INSTANTIATE_TEST_SUITE_P(
                 e.localUnicodeName = "A.app/z";
             }),
             AMBIGUOUS},
+        Row{"FolderWithData", Zip([](ForgedEntry& e) { e.path = "A.app/y/"; }), AMBIGUOUS},
+        Row{"FolderByItsKindWithData", Zip([](ForgedEntry& e) { e.type = 'd'; }), AMBIGUOUS},
+        Row{"LinkWithTheNameOfAFolder",
+            Zip([](ForgedEntry& e) {
+                e.type = 'l';
+                e.path = "A.app/y/";
+            }),
+            AMBIGUOUS},
+        Row{"EmptyFolder",
+            Zip([](ForgedEntry& e) {
+                e.type = 'd';
+                e.path = "A.app/y/";
+                e.content.clear();
+            }),
+            UpdateFault::None},
         Row{"Fifo", Zip([](ForgedEntry& e) { e.type = 'p'; }), UpdateFault::EntryTypeRefused},
         Row{"EmptyName", Zip([](ForgedEntry& e) { e.path = ""; }), UpdateFault::ContainerDamaged},
         Row{"Nothing", "", AMBIGUOUS}, Row{"Text", "this is no archive at all, only text", AMBIGUOUS}),

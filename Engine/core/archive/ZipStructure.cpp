@@ -173,16 +173,26 @@ UpdateFault ReadDirectory(Bytes archive, Directory& directory)
     return isRightBefore ? UpdateFault::None : UpdateFault::ContainerAmbiguous;
 }
 
-/// Checks the kind of file that \a record declares, if it declares one: readers differ in how they treat odd kinds.
-UpdateFault CheckFileType(Bytes record)
+/// The kind of file that \a record declares; 0 if it declares none.
+std::uint32_t FileTypeIn(Bytes record)
 {
     constexpr std::uint8_t MADE_BY_UNIX = 3;
     constexpr std::uint8_t MADE_BY_DARWIN = 19;
     std::uint8_t const madeBy = record[5];
-    std::uint32_t const type = ReadAt<std::uint32_t>(record, 38) >> 16 & S_IFMT;
-    bool const isTold = (madeBy == MADE_BY_UNIX || madeBy == MADE_BY_DARWIN) && type != 0;
-    bool const isUsual = type == S_IFREG || type == S_IFDIR || type == S_IFLNK;
-    return !isTold || isUsual ? UpdateFault::None : UpdateFault::EntryTypeRefused;
+    bool const isTold = madeBy == MADE_BY_UNIX || madeBy == MADE_BY_DARWIN;
+    return isTold ? ReadAt<std::uint32_t>(record, 38) >> 16 & S_IFMT : 0;
+}
+
+/// Checks the kind of file that the entry's record declares: readers differ in how they treat odd kinds.
+UpdateFault CheckFileType(std::uint32_t type, Entry const& entry)
+{
+    if (type != 0 && type != S_IFREG && type != S_IFDIR && type != S_IFLNK)
+    {
+        return UpdateFault::EntryTypeRefused;
+    }
+    // It is a folder for a reader of its name, or for a reader of its kind; another reads a file or a link.
+    bool const mayBeFolder = entry.name.back() == '/' || type == S_IFDIR;
+    return mayBeFolder && entry.sizes.plain != 0 ? UpdateFault::ContainerAmbiguous : UpdateFault::None;
 }
 
 /// Reads the central record at the front of \a rest and removes it.
@@ -215,7 +225,7 @@ UpdateFault ReadCentral(Bytes& rest, Entry& entry)
     {
         return UpdateFault::ContainerDamaged;
     }
-    UpdateFault const typeFault = CheckFileType(rest);
+    UpdateFault const typeFault = CheckFileType(FileTypeIn(rest), entry);
     rest.remove_prefix(recordBytes);
     if (typeFault != UpdateFault::None)
     {

@@ -30,7 +30,7 @@ std::vector<ClientShare> ReadClientShares(QString const& name)
     QByteArray const bytes = ReadInputFile(OpenInputFile(name), MAX_BYTES, u"keep it below 1 MiB"_s);
     std::vector<ClientShare> clients;
     int number = 0;
-    for (QString const& text : QString::fromUtf8(bytes).split(u'\n'))
+    for (QString const& text : QString::fromUtf8(bytes.constData(), bytes.size()).split(u'\n')) // a NUL does not end it
     {
         ++number;
         QString const line = text.trimmed();

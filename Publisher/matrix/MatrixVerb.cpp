@@ -51,12 +51,27 @@ std::vector<NamedVersion> Of(std::vector<ExpectedCell> const& cells, NamedVersio
     return versions;
 }
 
+/// The versions of the feed, and the expected ones: an item may be gone, but not the clients with its version.
+Versions VersionsOfFeedAnd(std::vector<ExpectedCell> const& expected, std::vector<Engine::FeedItem> const& items)
+{
+    Versions versions = VersionsOfFeed(items);
+    for (NamedVersion const& version : versions.empty() ? Versions() : Of(expected, &ExpectedCell::localVersion))
+    {
+        if (std::none_of(versions.begin(), versions.end(),
+                         [&](NamedVersion const& each) { return each.text == version.text; }))
+        {
+            versions.push_back(version);
+        }
+    }
+    return versions;
+}
+
 Versions InstalledVersions(MatrixOptions const& options, std::vector<ExpectedCell> const& expected,
                            std::vector<Engine::FeedItem> const& items)
 {
     if (options.versions == FROM_FEED)
     {
-        return VersionsOfFeed(items);
+        return VersionsOfFeedAnd(expected, items);
     }
     if (options.versions.empty() && !options.expectation.empty())
     {
@@ -141,7 +156,7 @@ void AddMatrix(CLI::App& program, VerbContext& context)
     AddRolloutGroupOption(verb, options.installation);
     verb.add_option("--expect", options.expectation,
                     "JSON of an earlier run: exit with 1 if an outcome differs. Its versions and systems are the "
-                    "defaults")
+                    "defaults; its versions are added to those of \"from-feed\"")
         ->type_name("FILE");
 }
 

@@ -47,10 +47,12 @@ TEST(Generate, AListOfClientsThatSaysNothingIsRefused)
     PublisherFolder const folder;
     folder.PutVersion("1.0");
     QTemporaryDir const place;
-    for (char const* const text :
-         {"1.0\n", "1.0 many\n", "1.0 0\n", "1.0 -1\n", "one 5\n", "1.0 5 7\n", "1.0 inf\n", "1.0 5\n1.0.0 6\n"})
+    for (QByteArray const& text :
+         {QByteArray("1.0\n"), QByteArray("1.0 many\n"), QByteArray("1.0 0\n"), QByteArray("1.0 -1\n"),
+          QByteArray("one 5\n"), QByteArray("1.0 5 7\n"), QByteArray("1.0 inf\n"), QByteArray("1.0 5\n1.0.0 6\n"),
+          QByteArray("1.0 5\n\0\nnone", 12)})
     {
-        SCOPED_TRACE(text);
+        SCOPED_TRACE(text.toStdString());
         QString const clients = place.filePath(QStringLiteral("clients"));
         QFile file(clients);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly));

@@ -163,6 +163,18 @@ TEST_F(MatrixGate, FailsWhereAnOutcomeDiffers)
     EXPECT_EQ(run.err, "not as expected: 5.1 on 12: 5.2 BUNDLE, expected 5.2 DELTA from 5.1\n");
 }
 
+/// The clients of a version that is gone from the feed still exist.
+TEST_F(MatrixGate, ExpectedVersionsThatTheFeedNoLongerNamesAreCompared)
+{
+    QString const expectation = Expectation(FEED);
+    QByteArray changed = FEED;
+    changed.replace("<sparkle:maximumSystemVersion>11", "<sparkle:maximumSystemVersion>10");
+    ToolRun const run =
+        RunTool(Of("from-feed", "11,12") + QStringList{QStringLiteral("--expect"), expectation}, changed);
+    EXPECT_EQ(run.status, 1);
+    EXPECT_NE(run.err.find("5.0 on 11: none, expected 5.1 BUNDLE\n"), std::string::npos) << run.err;
+}
+
 TEST_F(MatrixGate, FailsWhereNothingWasExpected)
 {
     ToolRun const run = RunTool(Of("5.0", "10") + QStringList{QStringLiteral("--expect"), Expectation(FEED)}, FEED);

@@ -88,6 +88,37 @@ TEST(PieceWriter, WritesLargeAndSmallPiecesOfManyFilesInTheirOrder)
     }
 }
 
+TEST(PieceWriter, PiecesMayChangeOnceSoManyMoreAreTaken)
+{
+    constexpr int FILES = 2000;
+    PieceWriter writer;
+    std::array<std::string, PIECES_AHEAD + 1> pieces;
+    std::vector<DeltaEntry> entries(FILES);
+    std::vector<UniqueFd> files;
+    std::vector<std::string> contents(FILES);
+    std::size_t next = 0;
+    for (int i = 0; i < FILES; ++i)
+    {
+        files.push_back(NewFile());
+        writer.Start(CopyOf(files.back()), entries[static_cast<std::size_t>(i)]);
+        // A few large pieces and many small ones, as in a tree with a library and its texts.
+        for (int number = 0; number < 3 + i % 20; ++number)
+        {
+            std::string& piece = pieces[next++ % pieces.size()];
+            piece.assign(number < i % 4 ? PATCH_PIECE_BYTES : SMALL, static_cast<char>(next));
+            contents[static_cast<std::size_t>(i)] += piece;
+            ASSERT_TRUE(writer.Add(View(piece)));
+        }
+        writer.End();
+    }
+    ASSERT_TRUE(writer.Finish().HasSucceeded());
+    for (std::size_t i = 0; i < contents.size(); ++i)
+    {
+        EXPECT_TRUE(ContentOf(files[i].Get()) == contents[i]) << i;
+        EXPECT_EQ(entries[i].hash, HashOf(View(contents[i]))) << i;
+    }
+}
+
 TEST(PieceWriter, NamesTheFileThatCannotBeWrittenAlsoWhenOthersFollow)
 {
     PieceWriter writer;

@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t MANY_PIECES = 2; ///< with this many waiting pieces, the caller writes
+constexpr std::size_t MANY_PIECES = 2; ///< with this many unwritten pieces, the caller writes
 
 } // namespace
 
@@ -21,26 +21,17 @@ bool PieceWriter::Add(Bytes piece)
 {
     std::uint64_t const place = m_file->bytes;
     m_file->bytes += piece.size();
-    std::size_t const waiting = m_tasks.Waiting();
-    if (waiting == 0 && piece.size() < PATCH_PIECE_BYTES)
+    if (m_tasks.Waiting() == 0 && piece.size() < PATCH_PIECE_BYTES)
     {
-        // Waking the thread takes longer than writing less than a whole piece.
+        // Waking the thread takes longer than writing less than a whole piece. Earlier pieces may be unwritten, and the
+        // caller will soon change them.
+        WriteUntil(0);
         Write(*m_file, place, piece);
         m_hasher.Add(piece);
     }
-    else if (waiting >= MANY_PIECES)
-    {
-        Write(*m_file, place, piece);
-        m_tasks.Post([this, piece] { m_hasher.Add(piece); });
-    }
     else
     {
-        m_tasks.Post(
-            [this, file = m_file, place, piece]
-            {
-                Write(*file, place, piece);
-                m_hasher.Add(piece);
-            });
+        Post({m_file, place, piece, nullptr});
     }
     return IsGood();
 }
@@ -50,13 +41,64 @@ bool PieceWriter::Add(ByteBuffer piece)
     std::uint64_t const place = m_file->bytes;
     m_file->bytes += piece.size();
     auto const owned = std::make_shared<ByteBuffer const>(std::move(piece));
-    m_tasks.Post(
-        [this, file = m_file, place, owned]
-        {
-            Write(*file, place, View(*owned));
-            m_hasher.Add(View(*owned));
-        });
+    Post({m_file, place, View(*owned), owned});
     return IsGood();
+}
+
+void PieceWriter::Post(Piece const& piece)
+{
+    {
+        std::lock_guard const lock(m_mutex);
+        m_unwritten.push_back(piece);
+    }
+    m_tasks.Post([this, bytes = piece.bytes, owned = piece.owned] { HashAndWrite(bytes); });
+    if (std::unique_lock const writing(m_writing, std::try_to_lock); writing && Unwritten() >= MANY_PIECES)
+    {
+        WriteFirst(writing);
+    }
+    WriteUntil(PIECES_AHEAD);
+}
+
+void PieceWriter::HashAndWrite(Bytes piece)
+{
+    m_hasher.Add(piece);
+    while (m_tasks.Waiting() <= 1)
+    {
+        std::unique_lock const writing(m_writing, std::try_to_lock);
+        if (!writing || Unwritten() == 0)
+        {
+            break;
+        }
+        WriteFirst(writing);
+    }
+}
+
+void PieceWriter::WriteFirst(std::unique_lock<std::mutex> const&)
+{
+    std::unique_lock lock(m_mutex);
+    Piece const piece = m_unwritten.front();
+    lock.unlock();
+    Write(*piece.file, piece.place, piece.bytes);
+    lock.lock();
+    m_unwritten.pop_front();
+}
+
+void PieceWriter::WriteUntil(std::size_t most)
+{
+    while (Unwritten() > most)
+    {
+        std::unique_lock const writing(m_writing);
+        if (Unwritten() > most)
+        {
+            WriteFirst(writing);
+        }
+    }
+}
+
+std::size_t PieceWriter::Unwritten() const
+{
+    std::lock_guard const lock(m_mutex);
+    return m_unwritten.size();
 }
 
 void PieceWriter::End()
@@ -72,6 +114,7 @@ void PieceWriter::End()
 
 DeltaOutcome PieceWriter::Finish()
 {
+    WriteUntil(0);
     m_tasks.Finish();
     return m_failed ? DeltaOutcome{DeltaError::CannotWrite, m_failed->path, m_error} : DeltaOutcome{};
 }

@@ -1,6 +1,5 @@
-// PieceWriter.h: hashes and writes files in its own thread, while the next pieces are made. If the thread falls behind,
-// the caller writes and the thread only hashes. Thread: one at a time. Ownership: its thread and the descriptors; the
-// caller keeps pieces and entries.
+// PieceWriter.h: hashes files in its own thread, while the next pieces are made. The thread and the caller share the
+// writing. Thread: one at a time. Ownership: its thread and the descriptors; the caller keeps pieces and entries.
 #pragma once
 
 #include "Engine/core/base/ContentHasher.h"
@@ -9,7 +8,9 @@
 #include "Engine/core/delta/DeltaContainer.h"
 
 #include <atomic>
+#include <deque>
 #include <memory>
+#include <mutex>
 
 namespace Pelnar::Engine
 {
@@ -37,11 +38,31 @@ private:
         std::uint64_t bytes; ///< of the pieces so far
     };
 
+    struct Piece
+    {
+        std::shared_ptr<File> file;
+        std::uint64_t place;
+        Bytes bytes;
+        std::shared_ptr<ByteBuffer const> owned; ///< null if the caller keeps the bytes
+    };
+
+    void Post(Piece const& piece);
+    /// Hashes a piece in the thread, and writes if no other pieces wait for their hash.
+    void HashAndWrite(Bytes piece);
+    /// Writes the first piece of those that are not written. \a writing is the lock of m_writing.
+    void WriteFirst(std::unique_lock<std::mutex> const& writing);
+    /// Writes until at most \a most pieces are not written.
+    void WriteUntil(std::size_t most);
+    std::size_t Unwritten() const;
     void Write(File const& file, std::uint64_t place, Bytes piece);
     void EndFile(File& file);
     [[nodiscard]] bool IsGood() const;
 
-    std::shared_ptr<File> m_file;         ///< the current file
+    std::shared_ptr<File> m_file; ///< the current file
+    // Two threads that write to one file at a time wait for each other in the kernel, and keep their processors busy.
+    std::mutex m_writing;
+    mutable std::mutex m_mutex;           ///< for m_unwritten
+    std::deque<Piece> m_unwritten;        ///< a piece stays here until it is written
     std::atomic<int> m_error = 0;         ///< errno of the first piece that cannot be written
     DeltaEntry const* m_failed = nullptr; ///< the path of its file; set by the thread that has set m_error
     ContentHasher m_hasher;

@@ -7,6 +7,7 @@
 
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -23,8 +24,17 @@ namespace fs = std::filesystem;
 
 constexpr std::size_t FILES = 300;
 
+constexpr std::size_t LARGE_FILE = 99; ///< that another thread hashes
+
 std::string ContentOf(std::size_t file)
 {
+    if (file == LARGE_FILE)
+    {
+        std::string content(3000001, '\0');
+        std::generate(content.begin(), content.end(),
+                      [next = 0]() mutable { return static_cast<char>(++next / 1000); });
+        return content;
+    }
     return std::string(file % 7 == 0 ? 150000 : file, static_cast<char>('a' + file % 26));
 }
 

@@ -1,15 +1,26 @@
 #include "Engine/core/delta/BundleFiles.h"
 
+#include "Engine/core/base/TaskThread.h"
+
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <stdexcept>
 
 namespace Pelnar::Engine
 {
+namespace
+{
+
+/// Another thread hashes a file of at least this size. For smaller files, the start of the thread takes too long.
+constexpr std::uint64_t LARGE_FILE_BYTES = std::uint64_t{1} << 20;
+constexpr std::size_t HASHED_PIECES = 7; ///< that wait for their hash
+
+} // namespace
 
 DeltaOutcome WriteFailure()
 {
@@ -96,10 +107,28 @@ DeltaOutcome BundleFiles::Hash(int fd, std::uint64_t size, ContentHasher& hasher
 
 DeltaOutcome BundleFiles::Copy(int source, int target, std::uint64_t size, ContentHasher& hasher)
 {
+    if (size < LARGE_FILE_BYTES)
+    {
+        return CopyPieces(source, target, size, 1, [&hasher](Bytes piece) { hasher.Add(piece); });
+    }
+    TaskThread hashing(HASHED_PIECES);
+    DeltaOutcome const outcome =
+        CopyPieces(source, target, size, HASHED_PIECES + 1,
+                   [&hasher, &hashing](Bytes piece) { hashing.Post([&hasher, piece] { hasher.Add(piece); }); });
+    hashing.Finish();
+    return outcome;
+}
+
+DeltaOutcome BundleFiles::CopyPieces(int source, int target, std::uint64_t size, std::size_t pieces,
+                                     std::function<void(Bytes)> const& add)
+{
+    m_pieces.resize(std::max(pieces, m_pieces.size()));
+    std::size_t next = 0;
     // The limit ends the loop even if the file grows while it is read.
     for (std::uint64_t offset = 0; offset <= size;)
     {
-        ssize_t const got = pread(source, m_piece.data(), m_piece.size(), static_cast<off_t>(offset));
+        auto& piece = m_pieces[next];
+        ssize_t const got = pread(source, piece.data(), piece.size(), static_cast<off_t>(offset));
         if (got < 0 && errno == EINTR)
         {
             continue;
@@ -108,15 +137,16 @@ DeltaOutcome BundleFiles::Copy(int source, int target, std::uint64_t size, Conte
         {
             return got == 0 ? DeltaOutcome{} : DeltaOutcome{DeltaError::CannotRead, {}, errno};
         }
-        Bytes const bytes(m_piece.data(), static_cast<std::size_t>(got));
-        hasher.Add(bytes);
+        Bytes const bytes(piece.data(), static_cast<std::size_t>(got));
+        next = (next + 1) % pieces;
+        add(bytes);
         if (target >= 0 && !WriteAll(target, bytes))
         {
             return WriteFailure();
         }
         offset += bytes.size();
         // Fewer bytes than asked for are the last ones: small files are read by one call.
-        if (offset == size && bytes.size() < m_piece.size())
+        if (offset == size && bytes.size() < piece.size())
         {
             return {};
         }

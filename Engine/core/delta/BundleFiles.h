@@ -8,7 +8,9 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 namespace Pelnar::Engine
 {
@@ -35,10 +37,13 @@ private:
     DeltaOutcome Open(std::string const& path, UniqueFd& file, std::uint64_t& size) const;
     /// Only hashes if \a target is negative.
     DeltaOutcome Copy(int source, int target, std::uint64_t size, ContentHasher& hasher);
+    /// Reads into \a pieces in turn, and passes each piece to \a add.
+    DeltaOutcome CopyPieces(int source, int target, std::uint64_t size, std::size_t pieces,
+                            std::function<void(Bytes)> const& add);
 
     TreeAccess m_old;
     TreeAccess m_staging;
-    std::array<std::uint8_t, 64 * 1024> m_piece;
+    std::vector<std::array<std::uint8_t, 64 * 1024>> m_pieces;
 };
 
 /// The outcome for a file that cannot be written, by errno.

@@ -142,6 +142,24 @@ TEST_F(JoinedDelta, APackedTextCostsWhatIsNewInTheText)
     ExpectTheNewVersion();
 }
 
+TEST_F(JoinedDelta, AFileWhosePackedDataAreEqualIsNotPackedAgain)
+{
+    constexpr std::size_t TIME = 4;
+    std::string file = GzipOf(WordsOf(1, 100000));
+    WriteFile(Old() / "words.gz", file);
+    file.replace(TIME, 3, "now");
+    WriteFile(New() / "words.gz", file);
+    DeltaReport const report = Make();
+    ASSERT_TRUE(report.outcome.HasSucceeded());
+    EXPECT_EQ(report.patchedFiles, 1u);
+    EXPECT_LT(report.containerBytes, 300u);
+    std::uint64_t dataOffset = 0;
+    DeltaManifest const manifest = Manifest(dataOffset);
+    ASSERT_EQ(manifest.units.size(), 1u);
+    EXPECT_EQ(manifest.units.front().textBytes, 0u);
+    ExpectTheNewVersion();
+}
+
 TEST_F(JoinedDelta, EveryEffortMakesTheNewVersionAndMoreMakesItSmaller)
 {
     std::string const text = WordsOf(1, 60000);

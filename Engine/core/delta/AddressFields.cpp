@@ -77,9 +77,10 @@ std::uint32_t OpeningsAmong(std::uint8_t const* bytes, std::uint8_t reach)
 
 } // namespace
 
-FieldScanner::FieldScanner(Bytes file, ImageLayout const& layout)
+FieldScanner::FieldScanner(Bytes file, ImageLayout const& layout, ResidentPages& pages)
     : m_file(file)
     , m_layout(layout)
+    , m_pages(pages)
     , m_reach(static_cast<unsigned>(std::min<std::uint64_t>((layout.end - layout.lowest) >> 24, 127)) + 1)
     , m_code{layout.lowestCode, layout.endOfCode > layout.lowestCode ? layout.endOfCode - layout.lowestCode : 0}
     , m_image{layout.lowest, layout.end > layout.lowest ? layout.end - layout.lowest : 0}
@@ -90,6 +91,7 @@ void FieldScanner::Start(std::size_t begin, std::size_t end)
 {
     m_begin = begin;
     m_end = end;
+    m_reachedEnd = begin;
     auto const& regions = m_layout.regions;
     m_region = static_cast<std::size_t>(std::partition_point(regions.begin(), regions.end(),
                                                              [begin](ImageRegion const& region)
@@ -97,6 +99,12 @@ void FieldScanner::Start(std::size_t begin, std::size_t end)
                                         regions.begin());
     m_isInRegion = false;
     m_frame = 0;
+}
+
+void FieldScanner::ReachPart(std::size_t position)
+{
+    m_reachedEnd = position + std::min(RESIDENT_PART_BYTES, std::max(m_end, position) - position);
+    m_pages.Touch(0, position, m_reachedEnd - position);
 }
 
 bool FieldScanner::EnterRegion()
@@ -146,6 +154,7 @@ bool FieldScanner::NextInRegion(AddressField& field)
 /// predicted.
 void FieldScanner::FindX86Openings()
 {
+    Reach(m_position);
     constexpr std::size_t READ_BYTES = OPENINGS_BYTES + 4;
     std::array<std::uint8_t, READ_BYTES> last{};
     std::uint8_t const* bytes = m_file.data() + m_position;
@@ -167,6 +176,7 @@ bool FieldScanner::NextInArm64Code(AddressField& field)
     m_position = (m_position + 3) & ~std::size_t(3);
     while (m_position + 4 <= m_regionEnd)
     {
+        Reach(m_position);
         field.position = m_position;
         m_position += 4;
         if (IsArm64Field(field))
@@ -253,8 +263,14 @@ bool FieldScanner::NextWord(AddressField& field)
     field.base = region.base;
     std::size_t const first = (m_position - region.begin + 7) / 8;
     unsigned inRecord = static_cast<unsigned>(first % record.words);
+    std::size_t reachedEnd = m_reachedEnd;
     for (std::size_t at = region.begin + first * 8; at + 4 <= m_regionEnd; at += 8)
     {
+        if (at >= reachedEnd)
+        {
+            ReachPart(at);
+            reachedEnd = m_reachedEnd;
+        }
         bool const isName = hasNames && inRecord == 0;
         bool const isAddress = (record.addresses >> inRecord & 1) != 0;
         inRecord = inRecord + 1 == record.words ? 0 : inRecord + 1;
@@ -283,6 +299,7 @@ bool FieldScanner::NextOffset(AddressField& field)
     m_position = region.begin + (m_position - region.begin + 3) / 4 * 4;
     while (m_position + 4 <= m_regionEnd)
     {
+        Reach(m_position);
         field.position = m_position;
         field.target = region.base + SignExtended(Word32(m_position), 32);
         m_position += 4;
@@ -309,6 +326,7 @@ bool FieldScanner::NextFrame(AddressField& field)
     m_position = (m_position + 3) & ~std::size_t(3);
     while (m_position + 12 <= m_regionEnd)
     {
+        Reach(m_position);
         std::uint32_t const length = Word32(m_position);
         std::uint32_t const shared = Word32(m_position + 4);
         std::size_t const code = m_position + 8;

@@ -1,6 +1,7 @@
 // AddressFields.h: finds the fields of a program that refer to other places of it: operands of instructions, and
 // words of tables.
-// Thread: one at a time. Ownership: refers to the file's bytes and its layout, which outlive it. Any bytes are safe.
+// Thread: one at a time. Ownership: refers to the file's bytes, its layout and its pages, which outlive it. Any bytes
+// are safe.
 #pragma once
 
 #include "Engine/core/delta/ImageLayout.h"
@@ -46,7 +47,8 @@ inline std::uint64_t SignExtended(std::uint64_t value, unsigned bits)
 class FieldScanner
 {
 public:
-    FieldScanner(Bytes file, ImageLayout const& layout);
+    /// \a pages are those of the file.
+    FieldScanner(Bytes file, ImageLayout const& layout, ResidentPages& pages);
 
     /// From now on Next() returns the fields that are completely between \a begin and \a end, in ascending order and
     /// without overlaps.
@@ -65,6 +67,15 @@ private:
     bool IsArm64Field(AddressField& field) const;
     bool FindPagePartner(std::size_t position, std::uint32_t reg, std::uint64_t& target) const;
     bool FindPageBefore(std::size_t position, std::uint32_t reg, std::uint64_t& page) const;
+    /// Call it before \a position is read. Fields may be far apart.
+    void Reach(std::size_t position)
+    {
+        if (position >= m_reachedEnd)
+        {
+            ReachPart(position);
+        }
+    }
+    [[gnu::cold]] void ReachPart(std::size_t position);
     std::uint32_t Word32(std::size_t position) const { return Word<std::uint32_t>(position); }
     std::uint64_t Word64(std::size_t position) const { return Word<std::uint64_t>(position); }
     template <class Number>
@@ -87,11 +98,13 @@ private:
 
     Bytes m_file;
     ImageLayout const& m_layout;
+    ResidentPages& m_pages;
     unsigned m_reach; ///< how far the highest byte of a distance of 32 bits within the image is from 0
     AddressRange m_code;
     AddressRange m_image;
     std::size_t m_begin = 0;
     std::size_t m_end = 0;
+    std::size_t m_reachedEnd = 0;  ///< of what m_pages know
     std::size_t m_region = 0;      ///< the current region, or the next one
     std::size_t m_position = 0;    ///< in the current region
     std::size_t m_regionEnd = 0;   ///< its end, or m_end if that is before

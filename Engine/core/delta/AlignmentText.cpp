@@ -38,7 +38,8 @@ void StoreLabel(AddressField const& field, std::uint64_t label, std::uint8_t* by
 ByteBuffer AlignmentTextOf(Bytes program, ImageLayout const& layout)
 {
     ByteBuffer text(program.begin(), program.end());
-    FieldScanner scanner(program, layout);
+    ResidentPages pages;
+    FieldScanner scanner(program, layout, pages);
     AddressField field;
     for (scanner.Start(0, program.size()); scanner.Next(field);)
     {

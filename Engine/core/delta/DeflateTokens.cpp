@@ -95,6 +95,8 @@ public:
     TokenCopier(Bytes oldData, Bytes text, DeflateParameters parameters)
         : m_old(oldData), m_text(text), m_parameters(parameters)
     {
+        // Pages without tokens take no memory. A vector that grows would need the tokens twice.
+        m_tokens.reserve(text.size());
     }
 
     [[nodiscard]] bool Copy(EqualRun const& run) { return Meet(run) && CopyOldTokens(run); }

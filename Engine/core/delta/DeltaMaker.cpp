@@ -92,7 +92,7 @@ private:
         }
         OpenedFile const source(m_old.folder / unit.sources.front().path);
         OpenedFile const target = OpenNew(m_manifest.entries[unit.targets.front()].path);
-        ImageLayout const layout = *ReadImageLayout(source.Content());
+        ImageLayout const layout = *ReadImageSpans(source.Content());
         ProgramText changed(source.Content(), layout, ChangedSpans(layout, unit.spanChanges), steps);
         PlainText plain({source.Content()});
         return CountChangedBytes(changed, steps, target.Content()) <= CountChangedBytes(plain, steps, target.Content());
@@ -204,7 +204,7 @@ private:
     void AddProgram(Bytes program, std::vector<SpanChange> const& changes, std::vector<PatchStep> const& steps,
                     Bytes newBytes)
     {
-        ImageLayout const layout = *ReadImageLayout(program);
+        ImageLayout const layout = *ReadImageSpans(program);
         ProgramText old(program, layout, ChangedSpans(layout, changes), steps);
         m_writer.Add(old, steps, newBytes);
     }

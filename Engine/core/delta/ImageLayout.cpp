@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstring>
 #include <string_view>
+#include <utility>
 
 namespace Pelnar::Engine
 {
@@ -35,18 +36,21 @@ bool ReadRecord(Bytes file, std::uint64_t offset, Record& record)
 class LayoutReader
 {
 public:
-    explicit LayoutReader(Bytes file) : m_file(file) {}
-
-    std::optional<ImageLayout> Read()
+    LayoutReader(Bytes file, ImageLayout& layout, ResidentPages& pages) : m_file(file), m_layout(layout), m_pages(pages)
     {
-        if (!ReadHeader() || !ReadSegments())
+    }
+
+    [[nodiscard]] bool ReadSpans() { return ReadHeader() && ReadSegments(); }
+
+    void ReadRegions()
+    {
+        m_layout.regions.clear();
+        if (ReadHeader())
         {
-            return std::nullopt;
+            ReadSections();
+            FindTables();
+            KeepSeparateRegions();
         }
-        ReadSections();
-        FindTables();
-        KeepSeparateRegions();
-        return std::move(m_layout);
     }
 
 private:
@@ -236,12 +240,18 @@ private:
                 AddIfTable(target, begins);
             }
         };
-        for (; end - at >= 16 + LEA_BYTES; at += 16)
+        while (end - at >= 16 + LEA_BYTES)
         {
-            auto const isRelative = (Load(at) == LEA) & ((Load(at + 1) & RELATIVE_MASK) == RELATIVE);
-            for (std::uint32_t bits = BitsOf(reinterpret_cast<SixteenBytes>(isRelative)); bits != 0; bits &= bits - 1)
+            auto const part = std::min<std::ptrdiff_t>(end - at, RESIDENT_PART_BYTES);
+            m_pages.Touch(0, static_cast<std::size_t>(at - m_file.data()), static_cast<std::size_t>(part));
+            for (std::uint8_t const* const partEnd = at + part; partEnd - at >= 16 + LEA_BYTES; at += 16)
             {
-                take(at + __builtin_ctz(bits));
+                auto const isRelative = (Load(at) == LEA) & ((Load(at + 1) & RELATIVE_MASK) == RELATIVE);
+                for (std::uint32_t bits = BitsOf(reinterpret_cast<SixteenBytes>(isRelative)); bits != 0;
+                     bits &= bits - 1)
+                {
+                    take(at + __builtin_ctz(bits));
+                }
             }
         }
         for (; end - at >= LEA_BYTES; ++at)
@@ -266,6 +276,7 @@ private:
 
     bool IsCodeFrom(std::uint64_t base, std::uint64_t offset) const
     {
+        m_pages.Touch(0, offset, sizeof(std::int32_t));
         std::int32_t distance;
         return ReadRecord(m_file, offset, distance) &&
                m_layout.IsInCode(base + static_cast<std::uint64_t>(std::int64_t(distance)));
@@ -288,14 +299,33 @@ private:
 
     Bytes m_file;
     Elf64_Ehdr m_header{};
-    ImageLayout m_layout;
+    ImageLayout& m_layout;
+    ResidentPages& m_pages;
 };
 
 } // namespace
 
+std::optional<ImageLayout> ReadImageSpans(Bytes file)
+{
+    ImageLayout layout;
+    ResidentPages pages;
+    return LayoutReader(file, layout, pages).ReadSpans() ? std::optional<ImageLayout>(std::move(layout)) : std::nullopt;
+}
+
+void ReadImageRegions(Bytes file, ImageLayout& layout, ResidentPages& pages)
+{
+    LayoutReader(file, layout, pages).ReadRegions();
+}
+
 std::optional<ImageLayout> ReadImageLayout(Bytes file)
 {
-    return LayoutReader(file).Read();
+    std::optional<ImageLayout> layout = ReadImageSpans(file);
+    if (layout)
+    {
+        ResidentPages pages;
+        ReadImageRegions(file, *layout, pages);
+    }
+    return layout;
 }
 
 std::optional<std::uint64_t> AddressAt(std::vector<ImageSpan> const& spans, std::uint64_t offset)

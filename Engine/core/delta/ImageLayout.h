@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Engine/core/delta/BinaryPatch.h"
+#include "Engine/core/delta/ResidentPages.h"
 
 #include <cstdint>
 #include <optional>
@@ -48,7 +49,7 @@ struct ImageRegion
 struct ImageLayout
 {
     std::vector<ImageSpan> spans;     ///< in ascending order of their offsets
-    std::vector<ImageRegion> regions; ///< in ascending order, without overlaps
+    std::vector<ImageRegion> regions; ///< in ascending order, without overlaps; empty until they are read
     std::uint64_t lowest = 0;         ///< the image's first address
     std::uint64_t end = 0;            ///< the address after its last one, at most 4 GiB after the first
     std::uint64_t lowestCode = 0;
@@ -62,7 +63,11 @@ struct ImageLayout
 constexpr std::size_t MAX_IMAGE_SPANS = 16;
 constexpr std::size_t MAX_IMAGE_BYTES = 0x7FFFFFFE;
 
-/// Nothing for a file that is not such a program.
+/// The layout without its regions: to find them takes long. Nothing for a file that is not such a program.
+[[nodiscard]] std::optional<ImageLayout> ReadImageSpans(Bytes file);
+/// Finds the regions. REQUIRES: the layout is that of \a file, whose pages are the first of \a pages.
+void ReadImageRegions(Bytes file, ImageLayout& layout, ResidentPages& pages);
+/// Spans and regions.
 [[nodiscard]] std::optional<ImageLayout> ReadImageLayout(Bytes file);
 
 /// The address of the byte at \a offset of a file with these \a spans; nothing if it is not loaded.

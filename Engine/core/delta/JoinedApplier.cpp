@@ -145,7 +145,7 @@ private:
             files.push_back(mappings[i]->Content());
         }
         m_patches.StartText();
-        PlainText old(files);
+        PlainText old(files, ResidentPages(files));
         for (std::uint32_t const target : unit.targets)
         {
             DeltaEntry& entry = m_manifest.entries[target];
@@ -193,7 +193,7 @@ private:
 
     DeltaOutcome MakeProgram(DeltaEntry& entry, Bytes program, std::vector<SpanChange> const& changes)
     {
-        std::optional<ImageLayout> const layout = ReadImageLayout(program);
+        std::optional<ImageLayout> layout = ReadImageSpans(program);
         if (!layout)
         {
             return {DeltaError::BaseDiffers, {}, 0};
@@ -202,11 +202,12 @@ private:
         {
             return outcome;
         }
+        std::vector<ImageSpan> spans = ChangedSpans(*layout, changes);
         std::vector<PatchStep> steps;
         PatchVerdict verdict = m_patches.TakeSteps(program.size(), entry.size, MAX_MAPPED_STEPS, steps);
         if (verdict == PatchVerdict::Applied)
         {
-            ProgramText old(program, *layout, ChangedSpans(*layout, changes), steps);
+            ProgramText old(program, std::move(*layout), std::move(spans), steps, ResidentPages({program}));
             verdict = m_patches.MakeBySteps(old, steps, entry.size, m_sink);
         }
         return EndFile(entry, verdict);

@@ -6,7 +6,8 @@
 namespace Pelnar::Engine
 {
 
-PlainText::PlainText(std::vector<Bytes> files) : m_files(std::move(files))
+PlainText::PlainText(std::vector<Bytes> files, ResidentPages pages)
+    : m_files(std::move(files)), m_pages(std::move(pages))
 {
     std::uint64_t end = 0;
     for (Bytes const file : m_files)
@@ -31,19 +32,22 @@ Bytes PlainText::Next()
     auto const end = std::upper_bound(m_ends.begin(), m_ends.end(), m_position);
     Bytes const file = m_files[static_cast<std::size_t>(end - m_ends.begin())];
     std::uint64_t const offset = m_position - (*end - file.size());
-    Bytes const piece = file.substr(static_cast<std::size_t>(offset), static_cast<std::size_t>(m_left));
+    auto const size = static_cast<std::size_t>(std::min<std::uint64_t>(m_left, RESIDENT_PART_BYTES));
+    Bytes const piece = file.substr(static_cast<std::size_t>(offset), size);
+    m_pages.Touch(static_cast<std::size_t>(end - m_ends.begin()), static_cast<std::size_t>(offset), piece.size());
     m_position += piece.size();
     m_left -= piece.size();
     return piece;
 }
 
-ProgramText::ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
-                         std::vector<PatchStep> const& steps)
+ProgramText::ProgramText(Bytes program, ImageLayout layout, std::vector<ImageSpan> newSpans,
+                         std::vector<PatchStep> const& steps, ResidentPages pages)
     : m_program(program)
+    , m_pages(std::move(pages))
     , m_newSpans(std::move(newSpans))
-    , m_map(layout, m_newSpans, steps)
-    , m_scanner(program, layout)
-    , m_isUnmoved(m_map.IsUnchanged() && m_newSpans == layout.spans)
+    , m_layout(std::move(layout))
+    , m_map(m_layout, m_newSpans, steps)
+    , m_isUnmoved(m_map.IsUnchanged() && m_newSpans == m_layout.spans)
 {
 }
 
@@ -56,19 +60,26 @@ void ProgramText::Start(std::uint64_t position, std::uint64_t newPosition, std::
     {
         return;
     }
-    m_scanner.Start(static_cast<std::size_t>(position), static_cast<std::size_t>(position + size));
-    m_hasField = m_scanner.Next(m_field);
+    if (!m_scanner)
+    {
+        ReadImageRegions(m_program, m_layout, m_pages);
+        m_scanner.emplace(m_program, m_layout, m_pages);
+    }
+    m_scanner->Start(static_cast<std::size_t>(position), static_cast<std::size_t>(position + size));
+    m_hasField = m_scanner->Next(m_field);
 }
 
 Bytes ProgramText::Next()
 {
     std::uint64_t const begin = m_position;
+    std::uint64_t end = begin + std::min<std::uint64_t>(m_left, IsUnchanged() ? RESIDENT_PART_BYTES : m_piece.size());
+    m_pages.Touch(0, static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
     if (IsUnchanged())
     {
-        m_position += m_left;
-        return m_program.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(std::exchange(m_left, 0)));
+        m_left -= end - begin;
+        m_position = end;
+        return m_program.substr(static_cast<std::size_t>(begin), static_cast<std::size_t>(end - begin));
     }
-    std::uint64_t end = begin + std::min<std::uint64_t>(m_left, m_piece.size());
     std::copy_n(m_program.data() + begin, end - begin, m_piece.data());
     while (m_hasField && m_field.position < end)
     {
@@ -79,7 +90,7 @@ Bytes ProgramText::Next()
             break;
         }
         Change(m_field, m_piece.data() + (m_field.position - begin));
-        m_hasField = m_scanner.Next(m_field);
+        m_hasField = m_scanner->Next(m_field);
     }
     m_left -= end - begin;
     m_position = end;

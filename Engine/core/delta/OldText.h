@@ -7,6 +7,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 namespace Pelnar::Engine
@@ -29,7 +30,7 @@ public:
 class PlainText : public IOldText
 {
 public:
-    explicit PlainText(std::vector<Bytes> files);
+    explicit PlainText(std::vector<Bytes> files, ResidentPages pages = {});
 
     std::uint64_t Size() const override { return m_ends.empty() ? 0 : m_ends.back(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
@@ -38,6 +39,7 @@ public:
 private:
     std::vector<Bytes> m_files;
     std::vector<std::uint64_t> m_ends; ///< of each file in the text
+    ResidentPages m_pages;             ///< of the files
     std::uint64_t m_position = 0;
     std::uint64_t m_left = 0;
 };
@@ -46,9 +48,11 @@ private:
 class ProgramText : public IOldText
 {
 public:
-    /// \a steps are those of the whole patch. \a layout outlives this object.
-    ProgramText(Bytes program, ImageLayout const& layout, std::vector<ImageSpan> newSpans,
-                std::vector<PatchStep> const& steps);
+    /// \a steps are those of the whole patch. \a layout needs no regions: they are read when an address changes.
+    ProgramText(Bytes program, ImageLayout layout, std::vector<ImageSpan> newSpans, std::vector<PatchStep> const& steps,
+                ResidentPages pages = {});
+    ProgramText(ProgramText const&) = delete;
+    ProgramText& operator=(ProgramText const&) = delete;
 
     std::uint64_t Size() const override { return m_program.size(); }
     void Start(std::uint64_t position, std::uint64_t newPosition, std::uint64_t size) override;
@@ -60,9 +64,11 @@ private:
     bool IsUnchanged() const { return m_isUnmoved && m_shift == 0; }
 
     Bytes m_program;
+    ResidentPages m_pages; ///< of the program
     std::vector<ImageSpan> m_newSpans;
+    ImageLayout m_layout;
     AddressMap m_map;
-    FieldScanner m_scanner;
+    std::optional<FieldScanner> m_scanner; ///< empty until it is needed
     bool m_isUnmoved;
     AddressField m_field; ///< the next one
     bool m_hasField = false;

@@ -59,9 +59,13 @@ private:
         // With any old file, a patch reads and writes within bounds, and its result must have the new file's hash. The
         // old file's hash only shows the cause of a failure.
         bool const mayBeTheBase = outcome.error == DeltaError::Damaged || outcome.error == DeltaError::ResultDiffers;
-        return mayBeTheBase && HashOf(old.Content(), HashKind::Blake2b) != entry.sourceHash
-                   ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0}
-                   : outcome;
+        return mayBeTheBase && !IsTheBase(entry, source.Get()) ? DeltaOutcome{DeltaError::BaseDiffers, {}, 0} : outcome;
+    }
+
+    bool IsTheBase(DeltaEntry const& entry, int fd)
+    {
+        ContentHasher hasher(HashKind::Blake2b);
+        return m_files.Hash(fd, entry.sourceSize, hasher).HasSucceeded() && hasher.Finish() == entry.sourceHash;
     }
 
     DeltaOutcome MakeFile(DeltaEntry const& entry, Bytes oldBytes)
@@ -90,7 +94,7 @@ private:
         };
         errno = 0;
         auto const patches = std::make_unique<PatchApplier>(sources);
-        PlainText old({oldBytes});
+        PlainText old({oldBytes}, ResidentPages({oldBytes}));
         DeltaOutcome outcome =
             OutcomeOf(isWhole ? patches->MakeWhole(entry.size, sink) : patches->Make(old, entry.size, sink));
         bool const isUsedUp = patches->IsUsedUp() && AreAtEnd(streams);

@@ -129,15 +129,17 @@ private:
 
     static bool IsProgram(Bytes source, Bytes file, Candidate& candidate)
     {
-        std::optional<ImageLayout> const from = ReadImageLayout(source);
-        std::optional<ImageLayout> const to = from ? ReadImageLayout(file) : std::nullopt;
+        std::optional<ImageLayout> const from = ReadImageSpans(source);
+        std::optional<ImageLayout> const to = from ? ReadImageSpans(file) : std::nullopt;
         candidate.unit.spanChanges = to ? ChangesOf(*from, *to) : std::vector<SpanChange>();
         return to.has_value();
     }
 
     static bool IsPackedText(Bytes source, Bytes file, Candidate& candidate)
     {
-        if (source.size() > MAX_PACKED_TEXT_BYTES || !UnpackText(source))
+        // Files that differ only before their packed data, for example in the time, need not be packed again.
+        bool const isEquallyPacked = PackedDataOf(source) == PackedDataOf(file);
+        if (isEquallyPacked || source.size() > MAX_PACKED_TEXT_BYTES || !UnpackText(source))
         {
             return false;
         }

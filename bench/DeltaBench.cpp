@@ -11,8 +11,12 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <filesystem>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -24,6 +28,7 @@ namespace
 
 using namespace Pelnar::Bench;
 using namespace Pelnar::Engine;
+namespace fs = std::filesystem;
 
 constexpr std::uintmax_t LARGEST_LIBRARY = 6u << 20;
 constexpr double MOST_OF_PATCHES = 1.02;
@@ -46,6 +51,27 @@ std::vector<std::string> Libraries()
     return paths;
 }
 
+/// The paths of the plain files below \a folder.
+std::set<std::string> FilesOf(fs::path const& folder)
+{
+    std::set<std::string> paths;
+    for (auto const& entry : fs::recursive_directory_iterator(folder))
+    {
+        if (fs::is_regular_file(entry.symlink_status()))
+        {
+            paths.insert(entry.path().lexically_relative(folder).string());
+        }
+    }
+    return paths;
+}
+
+std::string WithoutNumbers(std::string text)
+{
+    text.erase(std::remove_if(text.begin(), text.end(), [](unsigned char c) { return std::isdigit(c) != 0; }),
+               text.end());
+    return text;
+}
+
 /// Two versions, the delta between them, and the patches for comparison.
 struct Material
 {
@@ -62,22 +88,32 @@ struct Material
         report = MakeDelta(old, "1", next, "2", container.Get());
     }
 
-    /// The files that are in both versions and differ.
+    /// The files that are in both versions and differ. A file whose name differs only in numbers is the same file.
     void TakeFilesOf(std::string const& versions)
     {
         std::size_t const colon = versions.find(':');
-        std::filesystem::path const folder = versions.substr(0, colon);
-        std::filesystem::path const nextFolder = versions.substr(colon + 1);
-        for (auto const& entry : std::filesystem::recursive_directory_iterator(folder))
+        fs::path const folder = versions.substr(0, colon);
+        fs::path const nextFolder = versions.substr(colon + 1);
+        std::set<std::string> const before = FilesOf(folder);
+        std::set<std::string> const after = FilesOf(nextFolder);
+        std::map<std::string, std::string> renamed; // new paths by their text without numbers
+        for (std::string const& path : after)
         {
-            std::filesystem::path const path = entry.path().lexically_relative(folder);
-            bool const isFile = std::filesystem::is_regular_file(entry.symlink_status()) &&
-                                std::filesystem::is_regular_file(std::filesystem::symlink_status(nextFolder / path));
-            if (isFile && ReadFile(entry.path()) != ReadFile(nextFolder / path))
+            if (before.count(path) == 0)
             {
-                names.push_back(std::to_string(names.size()) + '-' + path.filename().string());
-                WriteFile(old + '/' + names.back(), ReadFile(entry.path()));
-                WriteFile(next + '/' + names.back(), ReadFile(nextFolder / path));
+                renamed.emplace(WithoutNumbers(path), path);
+            }
+        }
+        for (std::string const& path : before)
+        {
+            auto const found = renamed.find(WithoutNumbers(path));
+            bool const isRenamed = after.count(path) == 0 && found != renamed.end();
+            std::string const nextPath = isRenamed ? found->second : path;
+            if ((isRenamed || after.count(path) != 0) && ReadFile(folder / path) != ReadFile(nextFolder / nextPath))
+            {
+                names.push_back(std::to_string(names.size()) + '-' + fs::path(path).filename().string());
+                WriteFile(old + '/' + names.back(), ReadFile(folder / path));
+                WriteFile(next + '/' + names.back(), ReadFile(nextFolder / nextPath));
             }
         }
     }

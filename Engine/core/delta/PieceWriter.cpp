@@ -8,7 +8,7 @@ namespace Pelnar::Engine
 namespace
 {
 
-constexpr std::size_t MANY_PIECES = 2; ///< with this many unwritten pieces, the caller writes
+constexpr std::size_t MANY_PIECES = 5; ///< with this many pieces without hash or unwritten, the caller writes
 
 } // namespace
 
@@ -52,7 +52,9 @@ void PieceWriter::Post(Piece const& piece)
         m_unwritten.push_back(piece);
     }
     m_tasks.Post([this, bytes = piece.bytes, owned = piece.owned] { HashAndWrite(bytes); });
-    if (std::unique_lock const writing(m_writing, std::try_to_lock); writing && Unwritten() >= MANY_PIECES)
+    // The thread writes what is left while the caller prepares the next file.
+    bool const isBehind = m_tasks.Waiting() >= MANY_PIECES || Unwritten() >= MANY_PIECES;
+    if (std::unique_lock const writing(m_writing, std::try_to_lock); isBehind && writing && Unwritten() > 1)
     {
         WriteFirst(writing);
     }

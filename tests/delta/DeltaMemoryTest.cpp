@@ -16,7 +16,6 @@
 #include <algorithm>
 #include <array>
 #include <atomic>
-#include <chrono>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -75,7 +74,7 @@ private:
         while (!m_isEnding)
         {
             m_peak = std::max(m_peak, MappedKibibytes());
-            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            std::this_thread::yield();
         }
     }
 

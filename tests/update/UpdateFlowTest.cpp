@@ -223,6 +223,29 @@ TEST_F(UpdateFlowTest, NewerItemThatNoClientCanTakeIsLogged)
         << "nobody misses older items";
 }
 
+TEST_F(UpdateFlowTest, FeedCannotFillTheLog)
+{
+    QByteArray items;
+    for (int i = 0; i < 300; ++i)
+    {
+        items += Signed(ItemOf("5.2", "<sparkle:channel>beta</sparkle:channel>")) +
+                 Signed(ItemOf("5.1")).replace("length=", "size=");
+    }
+    Publish(FeedWith(items));
+    LogCapture const log;
+    Run(CheckKind::Probe);
+    std::vector<std::string> more;
+    int named = 0;
+    for (std::string const& text : log.Texts())
+    {
+        named += text.rfind("The feed's item", 0) == 0 ? 1 : 0;
+        more.insert(more.end(), text.rfind("The feed has", 0) == 0 ? 1 : 0, text);
+    }
+    EXPECT_EQ(named, 40);
+    EXPECT_EQ(more, (std::vector<std::string>{"The feed has 280 more items that are left out",
+                                              "The feed has 280 more items that cannot be offered"}));
+}
+
 TEST_F(UpdateFlowTest, CheckCanBeCancelledByThePersonWhoAsked)
 {
     Publish(FeedWith(ItemOf("5.1")));

@@ -270,13 +270,17 @@ void CheckRun::ApplyPolicy()
     }
     VersionOrder const order = [this](QString const& a, QString const& b) { return m_host.CompareVersions(a, b); };
     LeaveOut(m_items, installation, order);
+    int defects = 0;
     for (FeedItem const& item : m_items)
     {
         char const* const defect = DefectOf(item);
-        LOG_IF(WARNING, defect && order(item.versionString, m_settings.bundleVersion) > 0)
+        bool const isMissed = defect && order(item.versionString, m_settings.bundleVersion) > 0;
+        LOG_IF(WARNING, isMissed && ++defects <= MAX_LOGGED_ITEMS)
             << "The feed's item " << EscapedRemoteText(item.versionString).toStdString()
             << " cannot be offered, because " << defect;
     }
+    LOG_IF(WARNING, defects > MAX_LOGGED_ITEMS)
+        << "The feed has " << defects - MAX_LOGGED_ITEMS << " more items that cannot be offered";
 }
 
 Result<std::optional<FoundUpdate>> CheckRun::Choose()

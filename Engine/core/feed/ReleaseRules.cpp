@@ -79,14 +79,11 @@ QString NamesOf(QStringList const& names)
     return names.isEmpty() ? QStringLiteral("none") : names.join(QStringLiteral(", "));
 }
 
-bool IsKept(FeedItem const& item, Installation const& installation, VersionOrder const& order)
+void LogLeftOut(FeedItem const& item, PolicyVerdict verdict, Installation const& installation)
 {
-    PolicyVerdict const verdict = JudgePolicy(item, installation, order);
-    LOG_IF(INFO, IsLeftOut(verdict)) << "The feed's " << (item.isDelta ? "delta to " : "item ")
-                                     << EscapedRemoteText(item.versionString).toStdString() << " is left out ("
-                                     << NameOf(verdict)
-                                     << "): " << EscapedRemoteText(ReasonOf(verdict, item, installation)).toStdString();
-    return !IsLeftOut(verdict);
+    LOG(INFO) << "The feed's " << (item.isDelta ? "delta to " : "item ")
+              << EscapedRemoteText(item.versionString).toStdString() << " is left out (" << NameOf(verdict)
+              << "): " << EscapedRemoteText(ReasonOf(verdict, item, installation)).toStdString();
 }
 
 } // namespace
@@ -227,9 +224,19 @@ std::vector<KeyedVersion> SteppingStonesOf(std::vector<FeedItem> const& items, I
 namespace
 {
 
-void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order)
+/// Adds the number of removed items and deltas to \a leftOut.
+void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order,
+                   int& leftOut)
 {
-    auto const isLeftOut = [&](FeedItem const& item) { return !IsKept(item, installation, order); };
+    auto const isLeftOut = [&](FeedItem const& item)
+    {
+        PolicyVerdict const verdict = JudgePolicy(item, installation, order);
+        if (IsLeftOut(verdict) && ++leftOut <= MAX_LOGGED_ITEMS)
+        {
+            LogLeftOut(item, verdict, installation);
+        }
+        return IsLeftOut(verdict);
+    };
     items.erase(std::remove_if(items.begin(), items.end(), isLeftOut), items.end());
     for (FeedItem& item : items)
     {
@@ -243,7 +250,7 @@ void LeaveOutAmong(std::vector<FeedItem>& items, Installation const& installatio
             recompressed.edSignature =
                 SignatureFor(recompressed, installation.trustedKeys).value_or(recompressed.edSignature);
         }
-        LeaveOutAmong(item.deltas, installation, order);
+        LeaveOutAmong(item.deltas, installation, order, leftOut);
     }
 }
 
@@ -253,7 +260,10 @@ void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, Ve
 {
     Installation here = installation;
     here.stones = SteppingStonesOf(items, installation, order);
-    LeaveOutAmong(items, here, order);
+    int leftOut = 0;
+    LeaveOutAmong(items, here, order, leftOut);
+    LOG_IF(INFO, leftOut > MAX_LOGGED_ITEMS)
+        << "The feed has " << leftOut - MAX_LOGGED_ITEMS << " more items that are left out";
 }
 
 bool IsChannelName(QString const& name)

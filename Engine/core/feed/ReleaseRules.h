@@ -70,9 +70,12 @@ enum class PolicyVerdict
 /// True if the verdict on \a item may depend on the installed version.
 [[nodiscard]] bool DependsOnVersion(FeedItem const& item);
 
-/// Removes the items and deltas that are not meant for \a installation, each with a log record. For the others it
-/// decides whether they are critical, informational or to be asked for, and which signature is verified. Passes
-/// exceptions of \a order on.
+/// At most so many items of one feed get log records of their own: a feed must not fill the log.
+constexpr int MAX_LOGGED_ITEMS = 20;
+
+/// Removes the items and deltas that are not meant for \a installation, and logs why. For the others it decides whether
+/// they are critical, informational or to be asked for, and which signature is verified. Passes exceptions of \a order
+/// on.
 void LeaveOut(std::vector<FeedItem>& items, Installation const& installation, VersionOrder const& order);
 
 /// True if \a name can be a channel of a feed and of the setting.

@@ -10,8 +10,10 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <memory>
 
 #include <fcntl.h>
+#include <zstd.h>
 
 namespace Pelnar::Testing
 {
@@ -61,6 +63,23 @@ std::string DeltaToTheNextVersion()
     EXPECT_GT(report.wholeFiles, 0u);
     std::ifstream in(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(in), {}};
+}
+
+std::string MakeRecompressedArchive(std::vector<ForgedEntry> const& entries)
+{
+    constexpr int WINDOW_LOG = 25;
+    std::string const tar = MakeTar(entries);
+    std::string packed(ZSTD_compressBound(tar.size()), '\0');
+    std::unique_ptr<ZSTD_CCtx, std::size_t (*)(ZSTD_CCtx*)> const context(ZSTD_createCCtx(), ZSTD_freeCCtx);
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_windowLog, WINDOW_LOG);
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_checksumFlag, 1);
+    // With a size, the frame would need only a window of that size.
+    ZSTD_CCtx_setParameter(context.get(), ZSTD_c_contentSizeFlag, 0);
+    ZSTD_inBuffer in{tar.data(), tar.size(), 0};
+    ZSTD_outBuffer out{packed.data(), packed.size(), 0};
+    EXPECT_FALSE(ZSTD_isError(ZSTD_compressStream2(context.get(), &out, &in, ZSTD_e_continue)));
+    EXPECT_EQ(ZSTD_compressStream2(context.get(), &out, &in, ZSTD_e_end), 0u);
+    return packed.substr(0, out.pos);
 }
 
 UpdateScene& WithBase(UpdateScene& scene)

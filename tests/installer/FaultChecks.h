@@ -21,6 +21,9 @@ std::vector<ForgedEntry> MakeBundleForDeltas(std::string const& version);
 /// The delta from 1.0 to 2.0 of that bundle.
 std::string DeltaToTheNextVersion();
 
+/// The archive of \a entries that a publisher makes from a zip: a tar under zstd whose window is 32 MiB.
+std::string MakeRecompressedArchive(std::vector<ForgedEntry> const& entries);
+
 /// Puts 1.0 of that bundle in the place of the installed one.
 UpdateScene& WithBase(UpdateScene& scene);
 

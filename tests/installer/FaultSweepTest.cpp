@@ -101,6 +101,12 @@ TEST(Faults, PreparationByADeltaKilledAnywhereHarmsNothing)
                      [](UpdateScene& scene) { return DeltaJob(WithBase(scene)); });
 }
 
+TEST(Faults, PreparationFromATarKilledAnywhereHarmsNothing)
+{
+    SweepPreparation(MakeRecompressedArchive(MakeBundle("2.0")), Versions(),
+                     [](UpdateScene& scene) { return scene.MakePrepareJob(); });
+}
+
 void SweepInstallation(std::vector<std::string> const& options)
 {
     Versions const versions;

@@ -123,19 +123,17 @@ protected:
     {
         EXPECT_EQ(outcome.signal, 0);
         EXPECT_TRUE(outcome.exitStatus == 0 || outcome.exitStatus == 1) << outcome.exitStatus;
-        bool const isPreparation = GetParam() == Step::Preparation || GetParam() == Step::PreparationByADelta;
-        if (outcome.exitStatus == 0 && isPreparation)
+        if (outcome.exitStatus == 0 && IsPreparation(GetParam()))
         {
             EXPECT_TRUE(TreeOf(subject.scene.StagingPath() + '/' + APP) == versions.next);
         }
-        bool const isInstallation = GetParam() == Step::Installation || GetParam() == Step::InstallationWithoutExchange;
-        if (outcome.exitStatus == 0 && isInstallation)
+        if (outcome.exitStatus == 0 && IsInstallation(GetParam()))
         {
             EXPECT_EQ(ExpectWhole(subject.scene, versions), "2.0");
         }
     }
 
-    Versions const versions = GetParam() == Step::PreparationByADelta ? Versions::ForDeltas() : Versions();
+    Versions const versions = VersionsOf(GetParam());
 };
 
 TEST_P(EveryCall, FailsCleanly)
@@ -242,7 +240,7 @@ TEST_P(EveryCall, IsWhereAllProcessesAreKilledAtOnce)
 TEST_P(EveryCall, IsWhereTheSessionEnds)
 {
     constexpr int SIGNALS[] = {SIGTERM, SIGHUP, SIGINT, SIGQUIT};
-    bool const isInstallation = GetParam() == Step::Installation || GetParam() == Step::InstallationWithoutExchange;
+    bool const isInstallation = IsInstallation(GetParam());
     int finished = 0;
     int ended = 0;
     Sweep(
@@ -274,8 +272,8 @@ TEST_P(EveryCall, IsWhereTheSessionEnds)
 }
 
 INSTANTIATE_TEST_SUITE_P(Steps, EveryCall,
-                         testing::Values(Step::Preparation, Step::PreparationByADelta, Step::Installation,
-                                         Step::InstallationWithoutExchange, Step::Recovery),
+                         testing::Values(Step::Preparation, Step::PreparationByADelta, Step::PreparationFromATar,
+                                         Step::Installation, Step::InstallationWithoutExchange, Step::Recovery),
                          [](testing::TestParamInfo<Step> const& info) { return StepName(info.param); });
 
 } // namespace

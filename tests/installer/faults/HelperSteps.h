@@ -19,6 +19,7 @@ enum class Step
 {
     Preparation,
     PreparationByADelta,
+    PreparationFromATar,
     Installation,
     InstallationWithoutExchange,
     Recovery,
@@ -32,6 +33,8 @@ inline std::string StepName(Step step)
         return "Preparation";
     case Step::PreparationByADelta:
         return "PreparationByADelta";
+    case Step::PreparationFromATar:
+        return "PreparationFromATar";
     case Step::Installation:
         return "Installation";
     case Step::InstallationWithoutExchange:
@@ -45,6 +48,22 @@ inline std::string StepName(Step step)
 inline void PrintTo(Step step, std::ostream* out)
 {
     *out << StepName(step);
+}
+
+inline bool IsPreparation(Step step)
+{
+    return step == Step::Preparation || step == Step::PreparationByADelta || step == Step::PreparationFromATar;
+}
+
+inline bool IsInstallation(Step step)
+{
+    return step == Step::Installation || step == Step::InstallationWithoutExchange;
+}
+
+/// The versions between which the step leads.
+inline Versions VersionsOf(Step step)
+{
+    return step == Step::PreparationByADelta ? Versions::ForDeltas() : Versions();
 }
 
 enum class InstallOutcome
@@ -63,7 +82,7 @@ public:
         {
             WithBase(scene);
         }
-        else if (step != Step::Preparation)
+        else if (!IsPreparation(step))
         {
             m_job = scene.PrepareForInstall();
             if (outcome == InstallOutcome::Kept)
@@ -92,6 +111,7 @@ public:
         switch (m_step)
         {
         case Step::Preparation:
+        case Step::PreparationFromATar:
             return scene.Prepare(scene.MakePrepareJob(), start);
         case Step::PreparationByADelta:
             return scene.Prepare(DeltaJob(scene), start);
@@ -117,7 +137,9 @@ private:
     static std::string ArchiveFor(Step step)
     {
         static std::string const delta = DeltaToTheNextVersion();
-        return step == Step::PreparationByADelta ? delta : MakeArchive(Container::Zip, MakeBundle("2.0"));
+        return step == Step::PreparationByADelta   ? delta
+               : step == Step::PreparationFromATar ? MakeRecompressedArchive(MakeBundle("2.0"))
+                                                   : MakeArchive(Container::Zip, MakeBundle("2.0"));
     }
 
     Step m_step;

@@ -220,6 +220,13 @@ TEST_P(PowerCut, AnywhereInThePreparationByADeltaHarmsNothing)
                   { EXPECT_EQ(scene.Prepare(DeltaJob(scene), start).exitStatus, 0); });
 }
 
+TEST_P(PowerCut, AnywhereInThePreparationFromATarHarmsNothing)
+{
+    archive = MakeRecompressedArchive(MakeBundle("2.0"));
+    CutEverywhere([](UpdateScene&) {}, [](UpdateScene& scene, HelperStart const& start)
+                  { EXPECT_EQ(scene.Prepare(scene.MakePrepareJob(), start).exitStatus, 0); });
+}
+
 TEST_P(PowerCut, AnywhereInTheInstallationLeavesOneOfTheVersions)
 {
     InstallJob job;

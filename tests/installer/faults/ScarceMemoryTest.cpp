@@ -3,12 +3,14 @@
 
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/faults/FailingAllocator.h"
+#include "tests/installer/faults/HelperSteps.h"
 #include "tests/support/Sanitizers.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <limits>
+#include <tuple>
 
 #include <fcntl.h>
 #include <sys/mman.h>
@@ -61,24 +63,7 @@ private:
     AllocationPlan* m_plan = nullptr;
 };
 
-enum class Step
-{
-    Preparation,
-    Installation,
-    Recovery,
-};
-
-struct Row
-{
-    char const* name;
-    Step step;
-    AllocationPlan::Mode mode;
-};
-
-void PrintTo(Row const& row, std::ostream* out)
-{
-    *out << row.name;
-}
+using Row = std::tuple<Step, AllocationPlan::Mode>;
 
 class ScarceMemory : public testing::TestWithParam<Row>
 {
@@ -91,29 +76,6 @@ protected:
         }
     }
 
-    HelperOutcome Run(UpdateScene& scene, SharedPlan const& plan) const
-    {
-        InstallJob job;
-        if (GetParam().step != Step::Preparation)
-        {
-            job = scene.PrepareForInstall();
-            scene.Host().End();
-        }
-        switch (GetParam().step)
-        {
-        case Step::Preparation:
-            return scene.Prepare(scene.MakePrepareJob(), plan.Start());
-        case Step::Installation:
-            return scene.Install(job, plan.Start());
-        case Step::Recovery:
-            job.targetPath.clear();
-            EXPECT_EQ(scene.Install(job).exitStatus, 0);
-            scene.ReleaseStaging();
-            return scene.Recover("2.0", plan.Start());
-        }
-        return {};
-    }
-
     void ExpectHonest(UpdateScene const& scene, HelperOutcome const& outcome) const
     {
         // Some libraries end the process without memory. The language does so if it cannot even throw. The exit status
@@ -123,26 +85,28 @@ protected:
             << outcome.exitStatus << ", signal " << outcome.signal;
         EXPECT_TRUE(outcome.exitStatus == 0 || outcome.Find<PreparedReport>() == nullptr);
         std::string const version = ExpectWhole(scene, versions);
-        if (outcome.exitStatus == 0 && GetParam().step == Step::Installation)
+        if (outcome.exitStatus == 0 && IsInstallation(step))
         {
             EXPECT_EQ(version, "2.0");
         }
-        if (outcome.exitStatus == 0 && GetParam().step == Step::Preparation)
+        if (outcome.exitStatus == 0 && IsPreparation(step))
         {
             EXPECT_TRUE(TreeOf(scene.StagingPath() + '/' + APP) == versions.next);
         }
     }
 
-    Versions const versions;
+    Step const step = std::get<Step>(GetParam());
+    AllocationPlan::Mode const mode = std::get<AllocationPlan::Mode>(GetParam());
+    Versions const versions = VersionsOf(step);
 };
 
 TEST_P(ScarceMemory, LeavesOneOfTheVersionsAndReportsNoFalseResult)
 {
     std::uint64_t count = 0;
     {
-        UpdateScene scene;
+        Subject subject(step, InstallOutcome::NotKept);
         SharedPlan const plan(AllocationPlan::Mode::One, NONE);
-        ASSERT_EQ(Run(scene, plan).exitStatus, 0);
+        ASSERT_EQ(subject.Run(plan.Start()).exitStatus, 0);
         count = plan.Counts().asked;
         ASSERT_GT(count, 20u) << "the allocator is not under the helper";
     }
@@ -154,33 +118,34 @@ TEST_P(ScarceMemory, LeavesOneOfTheVersionsAndReportsNoFalseResult)
     for (std::uint64_t place = 1; place <= count; place += stride)
     {
         SCOPED_TRACE(testing::Message() << "allocation " << place << " of " << count);
-        UpdateScene scene;
-        SharedPlan const plan(GetParam().mode, place);
-        HelperOutcome const outcome = Run(scene, plan);
+        Subject subject(step, InstallOutcome::NotKept);
+        SharedPlan const plan(mode, place);
+        HelperOutcome const outcome = subject.Run(plan.Start());
         // A run may allocate less than the one before: a shorter process number gives a shorter path.
         EXPECT_EQ(plan.Counts().refused > 0, plan.Counts().asked >= place);
         ++runs;
         met += plan.Counts().refused > 0 ? 1 : 0;
-        ExpectHonest(scene, outcome);
+        ExpectHonest(subject.scene, outcome);
         refused += outcome.Fault() == UpdateFault::SystemLimitReached ? 1 : 0;
         died += outcome.signal != 0 ? 1 : 0;
-        ExpectRecovered(scene, versions);
+        ExpectRecovered(subject.scene, versions);
     }
     EXPECT_GE(met * 10, runs * 9) << "too few of the places were met";
-    EXPECT_GT(GetParam().mode == AllocationPlan::Mode::One ? refused : died, 0);
+    EXPECT_GT(mode == AllocationPlan::Mode::One ? refused : died, 0);
     RecordProperty("allocations", std::to_string(count));
     RecordProperty("refused", refused);
     RecordProperty("died", died);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Steps, ScarceMemory,
-    testing::Values(Row{"PreparationWithoutOne", Step::Preparation, AllocationPlan::Mode::One},
-                    Row{"PreparationWithoutAnyMore", Step::Preparation, AllocationPlan::Mode::AllFrom},
-                    Row{"InstallationWithoutOne", Step::Installation, AllocationPlan::Mode::One},
-                    Row{"InstallationWithoutAnyMore", Step::Installation, AllocationPlan::Mode::AllFrom},
-                    Row{"RecoveryWithoutOne", Step::Recovery, AllocationPlan::Mode::One},
-                    Row{"RecoveryWithoutAnyMore", Step::Recovery, AllocationPlan::Mode::AllFrom}),
-    [](testing::TestParamInfo<Row> const& info) { return info.param.name; });
+INSTANTIATE_TEST_SUITE_P(Steps, ScarceMemory,
+                         testing::Combine(testing::Values(Step::Preparation, Step::PreparationByADelta,
+                                                          Step::PreparationFromATar, Step::Installation,
+                                                          Step::Recovery),
+                                          testing::Values(AllocationPlan::Mode::One, AllocationPlan::Mode::AllFrom)),
+                         [](testing::TestParamInfo<Row> const& info)
+                         {
+                             bool const isOne = std::get<AllocationPlan::Mode>(info.param) == AllocationPlan::Mode::One;
+                             return StepName(std::get<Step>(info.param)) + (isOne ? "WithoutOne" : "WithoutAnyMore");
+                         });
 
 } // namespace

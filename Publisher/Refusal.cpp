@@ -67,6 +67,16 @@ void RefuseFile(QString const& file, QString const& what, int errorNumber, QStri
     throw Refusal({file, what + u": "_s + QString::fromLocal8Bit(std::strerror(errorNumber)), mend});
 }
 
+void RefuseReading(QString const& file, int errorNumber)
+{
+    RefuseFile(file, u"cannot be read"_s, errorNumber, u"check the disk, and that nobody changes the file meanwhile"_s);
+}
+
+void RefuseChanged(QString const& file)
+{
+    throw Refusal({file, u"has changed while this run worked"_s, u"run this again when nobody changes the file"_s});
+}
+
 namespace
 {
 

@@ -70,6 +70,10 @@ private:
 
 /// Throws a Refusal about \a file for a system call that failed with \a errorNumber.
 [[noreturn]] void RefuseFile(QString const& file, QString const& what, int errorNumber, QString const& mend);
+/// The same for a file that is open or listed, so that it is there and may be read.
+[[noreturn]] void RefuseReading(QString const& file, int errorNumber);
+/// Throws a Refusal about \a file, which another program has changed since this run began.
+[[noreturn]] void RefuseChanged(QString const& file);
 
 /// Makes \a verb run \a work. A Refusal or any other exception is printed, and the status is then ExitStatus::Unusable.
 void SetWork(CLI::App& verb, VerbContext& context, std::function<ExitStatus()> work);

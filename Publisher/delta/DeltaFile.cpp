@@ -7,7 +7,7 @@
 #include "Publisher/files/AtomicFile.h"
 #include "Publisher/files/FaultText.h"
 
-#include <QFile>
+#include <QDir>
 
 #include <optional>
 #include <vector>
@@ -53,28 +53,31 @@ Problem ProblemWith(Engine::DeltaOutcome outcome, QString const& name, std::vect
     return ProblemOf(outcome, file);
 }
 
-/// The digest of the bundle that was made. \a target is the name of the folder \a targetFd.
-Engine::ContentHash Apply(int deltaFd, QString const& name, BundleTree const& oldBundle, int targetFd,
-                          QString const& target, Output const& progressOutput)
+/// Writes the new version to the folder \a targetFd, and the digest of its bundle to \a digest.
+Engine::DeltaOutcome Apply(int deltaFd, BundleTree const& oldBundle, int targetFd, Output const& progressOutput,
+                           Engine::ContentHash& digest)
 {
     Progress bar(progressOutput, u"Applying"_s);
     // Deliberate: no signature is required. The container is checked against its own hashes, and the result is only
     // read, never run.
-    Engine::ContentHash digest{};
-    Engine::DeltaOutcome const outcome =
-        Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);
-    if (!outcome.HasSucceeded())
-    {
-        throw Refusal(ProblemWith(outcome, name, {}, target));
-    }
-    return digest;
+    return Engine::ApplyDelta(deltaFd, oldBundle.Descriptor(), targetFd, Engine::DeltaLimits(), BarFor(bar), digest);
 }
 
-/// Applies it to a temporary folder.
+/// Applies it to a temporary folder. Returns the digest of the bundle that was made.
 Engine::ContentHash Try(int deltaFd, QString const& name, BundleTree const& oldBundle, Output const& progressOutput)
 {
     TemporaryFolder const made;
-    return Apply(deltaFd, name, oldBundle, made.Descriptor(), QFile::decodeName(made.Path().c_str()), progressOutput);
+    Engine::ContentHash digest{};
+    Engine::DeltaOutcome outcome = Apply(deltaFd, oldBundle, made.Descriptor(), progressOutput, digest);
+    if (!outcome.HasSucceeded())
+    {
+        if (outcome.error == Engine::DeltaError::CannotWrite)
+        {
+            outcome.path.clear(); // the temporary folder will be gone
+        }
+        throw Refusal(ProblemWith(outcome, name, {}, QDir::tempPath()));
+    }
+    return digest;
 }
 
 } // namespace
@@ -127,7 +130,12 @@ Engine::DeltaManifest ReadDeltaFile(InputFile const& delta)
 void ApplyDeltaFile(InputFile const& delta, BundleTree const& oldBundle, int targetFd, QString const& target,
                     Output const& progressOutput)
 {
-    Apply(delta.descriptor.Get(), delta.name, oldBundle, targetFd, target, progressOutput);
+    Engine::ContentHash digest{};
+    Engine::DeltaOutcome const outcome = Apply(delta.descriptor.Get(), oldBundle, targetFd, progressOutput, digest);
+    if (!outcome.HasSucceeded())
+    {
+        throw Refusal(ProblemWith(outcome, delta.name, {}, target));
+    }
 }
 
 void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree const& newBundle,

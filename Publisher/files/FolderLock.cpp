@@ -37,8 +37,12 @@ bool FolderLock::Holds(QString const& folder) const
 {
     struct stat held;
     struct stat asked;
-    return ::fstat(m_folder.Get(), &held) == 0 && ::stat(QFile::encodeName(folder).constData(), &asked) == 0 &&
-           held.st_dev == asked.st_dev && held.st_ino == asked.st_ino;
+    // An error must not look like another folder: a second lock of this one would wait for ever.
+    if (::fstat(m_folder.Get(), &held) != 0 || ::stat(QFile::encodeName(folder).constData(), &asked) != 0)
+    {
+        RefuseFile(folder, u"cannot be read"_s, errno, u"give an existing folder"_s);
+    }
+    return held.st_dev == asked.st_dev && held.st_ino == asked.st_ino;
 }
 
 } // namespace Pelnar::Publisher

@@ -14,6 +14,20 @@
 namespace Pelnar::Publisher
 {
 
+bool Exists(QString const& path)
+{
+    struct stat status;
+    if (::stat(QFile::encodeName(path).constData(), &status) == 0)
+    {
+        return true;
+    }
+    if (errno != ENOENT && errno != ENOTDIR)
+    {
+        RefuseFile(path, u"cannot be read"_s, errno, u"check the name and the file's permissions"_s);
+    }
+    return false;
+}
+
 InputFile OpenInputFile(QString const& path)
 {
     // Does not block on a FIFO.

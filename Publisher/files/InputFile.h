@@ -36,6 +36,9 @@ struct InputFile
     FileMark mark = {}; ///< when it was opened
 };
 
+/// True if there is a file or a folder at \a path, or behind the link there. Throws Refusal if the system cannot say.
+[[nodiscard]] bool Exists(QString const& path);
+
 /// Throws Refusal unless \a path is a plain file that can be read, or a link to one.
 InputFile OpenInputFile(QString const& path);
 

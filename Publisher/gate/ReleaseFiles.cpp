@@ -7,7 +7,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -48,12 +47,11 @@ void CheckLength(InputFile const& file, Engine::FeedItem const& item)
 {
     if (file.size != item.contentLength)
     {
-        throw Refusal({file.name,
-                       u"has %1 bytes, but the feed says %2 (line %3)"_s.arg(file.size)
-                           .arg(item.contentLength)
-                           .arg(item.line),
-                       u"put the published file back, and give a changed one a new version and name"_s},
-                      RefusalCause::Content);
+        throw Refusal(
+            {file.name,
+             u"has %1 bytes, but the feed says %2 (line %3)"_s.arg(file.size).arg(item.contentLength).arg(item.line),
+             u"put the published file back, and give a changed one a new version and name"_s},
+            RefusalCause::Content);
     }
 }
 
@@ -66,8 +64,7 @@ std::optional<InputFile> ReleaseFiles::Open(Engine::FeedItem const& item)
         return Fetch(item);
     }
     QString const path = QDir(m_folder).filePath(item.fileUrl.fileName(QUrl::FullyDecoded));
-    return QFileInfo::exists(path) && !item.fileUrl.fileName().isEmpty() ? OpenInputFile(path)
-                                                                         : std::optional<InputFile>();
+    return Exists(path) && !item.fileUrl.fileName().isEmpty() ? OpenInputFile(path) : std::optional<InputFile>();
 }
 
 InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
@@ -85,7 +82,7 @@ InputFile ReleaseFiles::Fetch(Engine::FeedItem const& item)
     struct stat status;
     if (::fstat(outcome->Get(), &status) != 0)
     {
-        RefuseFile(name, u"cannot be read"_s, errno, {});
+        RefuseReading(name, errno);
     }
     return {*std::move(outcome), name, static_cast<std::uint64_t>(status.st_size)};
 }

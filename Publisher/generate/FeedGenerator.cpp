@@ -66,7 +66,7 @@ std::vector<ClientShare> ClientsOf(GenerateRequest const& request)
 /// The published feed, or an empty one.
 FeedContent ReadFeedFile(QString const& feedFile, ISigner const& key)
 {
-    if (!QFileInfo::exists(feedFile))
+    if (!Exists(feedFile))
     {
         return {};
     }
@@ -169,7 +169,7 @@ public:
         , m_feedFile(request.feedFile.empty() ? m_workplace.PathOf(QLatin1String(FEED_FILE))
                                               : QString::fromStdString(request.feedFile))
         , m_address(m_workplace.address.OfFeed(QFileInfo(m_feedFile).fileName()))
-        , m_isNew(!QFileInfo::exists(m_feedFile))
+        , m_isNew(!Exists(m_feedFile))
     {
     }
 

@@ -5,8 +5,6 @@
 #include "Publisher/delta/DeltaFile.h"
 #include "Publisher/keys/KeyId.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <iterator>
 #include <ostream>
@@ -33,8 +31,7 @@ InputFile Workplace::Open(QString const& fileName) const
     auto const [known, isNew] = marks.emplace(fileName, file.mark);
     if (!(known->second == file.mark))
     {
-        throw Refusal(
-            {file.name, u"has changed while this run worked"_s, u"run this again when nobody changes the file"_s});
+        RefuseChanged(file.name);
     }
     return file;
 }
@@ -65,7 +62,7 @@ std::shared_ptr<BundleTree const> Workplace::Unpack(QString const& fileName) con
 
 std::unique_ptr<AtomicFile> Workplace::MakeFile(QString const& fileName) const
 {
-    if (QFileInfo::exists(PathOf(fileName)))
+    if (Exists(PathOf(fileName)))
     {
         throw Refusal({PathOf(fileName), u"exists already"_s, u"remove it"_s});
     }

@@ -169,7 +169,8 @@ std::string CommandSigner::SignatureOf(QByteArray const& message) const
         !Engine::WriteAll(file.Get(), Engine::Bytes(reinterpret_cast<unsigned char const*>(message.constData()),
                                                     std::size_t(message.size()))))
     {
-        RefuseFile(u"the feed"_s, u"cannot be passed to the program"_s, errno, {});
+        RefuseFile(u"the feed"_s, u"cannot be passed to the program"_s, errno,
+                   u"close other programs, and run this again"_s);
     }
     return Run(file.Get(), u"the feed"_s);
 }

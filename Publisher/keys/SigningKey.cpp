@@ -46,7 +46,7 @@ void CheckKeyFile(int descriptor, QString const& path)
     struct stat status;
     if (::fstat(descriptor, &status) != 0)
     {
-        RefuseFile(path, u"cannot be read"_s, errno, {});
+        RefuseReading(path, errno);
     }
     if (!S_ISREG(status.st_mode))
     {
@@ -102,7 +102,7 @@ std::size_t ReadSecret(int descriptor, QString const& name, SecretBytes& text)
         ssize_t const count = ::read(descriptor, text.Data() + size, text.Size() - size);
         if (count < 0 && errno != EINTR)
         {
-            RefuseFile(name, u"the private key cannot be read"_s, errno, {});
+            RefuseReading(name, errno);
         }
         if (count == 0)
         {
@@ -245,7 +245,7 @@ ArchiveSignature SigningKey::Sign(InputFile const& archive) const
     Engine::FileMapping const mapping(archive.descriptor.Get(), archive.size);
     if (!mapping.IsValid())
     {
-        RefuseFile(archive.name, u"cannot be read"_s, errno, {});
+        RefuseReading(archive.name, errno);
     }
     std::string const text = SignatureText(m_secret, mapping.Content().data(), mapping.Content().size());
     Engine::UpdateFault const verdict =

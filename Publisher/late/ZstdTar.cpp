@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <system_error>
 #include <thread>
 #include <vector>
 
@@ -117,7 +118,7 @@ private:
     {
         if (!isGood)
         {
-            RefuseFile(m_name, u"cannot be written"_s, errno, {});
+            RefuseFile(m_name, u"cannot be written"_s, errno, u"check the space on the disk"_s);
         }
     }
 
@@ -133,27 +134,52 @@ private:
     std::unique_ptr<archive, int (*)(archive*)> m_archive;
 };
 
-[[noreturn]] void RefuseReading(fs::path const& path)
+/// The name of a file of the bundle in messages.
+QString NameOf(BundleTree const& bundle, fs::path const& path)
 {
-    RefuseFile(QString::fromStdString(path.string()), u"cannot be read"_s, errno, {});
+    return bundle.ShownPath(path.native()).value_or(QString::fromStdString(path.native()));
 }
 
-void AddContent(TarWriter& tar, fs::path const& path, std::function<void(std::size_t)> const& done)
+/// A plain file that is open, with the size that its header states.
+struct OpenedFile
 {
-    Engine::UniqueFd const file(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC));
-    if (!file)
+    Engine::UniqueFd descriptor;
+    std::uint64_t size;
+    QString name;
+};
+
+/// Opens the plain file at \a path, and puts its state at that moment into \a status.
+OpenedFile OpenFile(fs::path const& path, struct stat& status, QString const& name)
+{
+    OpenedFile file{Engine::UniqueFd(::open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC)), 0, name};
+    if (!file.descriptor || ::fstat(file.descriptor.Get(), &status) != 0)
     {
-        RefuseReading(path);
+        RefuseReading(name, errno);
     }
+    if (!S_ISREG(status.st_mode))
+    {
+        RefuseChanged(name);
+    }
+    file.size = static_cast<std::uint64_t>(status.st_size);
+    return file;
+}
+
+void AddContent(TarWriter& tar, OpenedFile const& file, std::function<void(std::size_t)> const& done)
+{
     std::vector<std::uint8_t> piece(PIECE_BYTES);
     for (std::uint64_t offset = 0;;)
     {
-        ssize_t const got = Engine::ReadUpTo(file.Get(), offset, piece.data(), piece.size());
+        ssize_t const got = Engine::ReadUpTo(file.descriptor.Get(), offset, piece.data(), piece.size());
         if (got < 0)
         {
-            RefuseReading(path);
+            RefuseReading(file.name, errno);
         }
         auto const count = static_cast<std::size_t>(got);
+        // The tar would fill a shorter file with zeros.
+        if (count > file.size - offset || (count == 0 && offset != file.size))
+        {
+            RefuseChanged(file.name);
+        }
         if (count == 0)
         {
             return;
@@ -164,16 +190,36 @@ void AddContent(TarWriter& tar, fs::path const& path, std::function<void(std::si
     }
 }
 
+/// The folder and all that is in it, sorted. Adds the sizes of its files to \a bytes.
 std::vector<fs::path> PathsOf(BundleTree const& bundle, std::uint64_t& bytes)
 {
     std::vector<fs::path> paths{bundle.Path()};
-    for (fs::directory_entry const& entry : fs::recursive_directory_iterator(bundle.Path()))
+    std::error_code error;
+    fs::recursive_directory_iterator entry(bundle.Path(), error);
+    for (; !error && entry != fs::recursive_directory_iterator(); entry.increment(error))
     {
-        paths.push_back(entry.path());
-        bytes += !entry.is_symlink() && entry.is_regular_file() ? entry.file_size() : 0;
+        paths.push_back(entry->path());
+        struct stat status;
+        bool const isFile = ::lstat(entry->path().c_str(), &status) == 0 && S_ISREG(status.st_mode);
+        bytes += isFile ? static_cast<std::uint64_t>(status.st_size) : 0;
+    }
+    if (error)
+    {
+        RefuseReading(NameOf(bundle, bundle.Path()), error.value());
     }
     std::sort(paths.begin(), paths.end());
     return paths;
+}
+
+std::string TargetOf(fs::path const& link, QString const& name)
+{
+    std::error_code error;
+    fs::path const target = fs::read_symlink(link, error);
+    if (error)
+    {
+        RefuseReading(name, error.value());
+    }
+    return target.string();
 }
 
 } // namespace
@@ -186,27 +232,27 @@ void WriteZstdTar(BundleTree const& bundle, std::int64_t time, int fd, QString c
     std::uint64_t done = 0;
     for (fs::path const& path : PathsOf(bundle, total))
     {
+        QString const shown = NameOf(bundle, path);
+        std::string const within = path.lexically_relative(bundle.Path().parent_path()).string();
         struct stat status;
         if (::lstat(path.c_str(), &status) != 0)
         {
-            RefuseReading(path);
+            RefuseReading(shown, errno);
         }
-        bool const isFile = S_ISREG(status.st_mode);
-        if (!isFile)
+        if (!S_ISREG(status.st_mode))
         {
             status.st_mtim = {time, 0};
+            tar.AddHeader(within, status, S_ISLNK(status.st_mode) ? TargetOf(path, shown) : std::string());
+            continue;
         }
-        std::string const target = S_ISLNK(status.st_mode) ? fs::read_symlink(path).string() : std::string();
-        tar.AddHeader(path.lexically_relative(bundle.Path().parent_path()).string(), status, target);
-        if (isFile)
-        {
-            AddContent(tar, path,
-                       [&](std::size_t count)
-                       {
-                           done += count;
-                           progress(done, total);
-                       });
-        }
+        OpenedFile const file = OpenFile(path, status, shown);
+        tar.AddHeader(within, status, {});
+        AddContent(tar, file,
+                   [&](std::size_t count)
+                   {
+                       done += count;
+                       progress(done, total);
+                   });
     }
     tar.Finish();
 }

@@ -12,6 +12,7 @@
 #include <set>
 #include <string>
 
+#include <fcntl.h>
 #include <linux/ptrace.h>
 #include <sys/syscall.h>
 #include <sys/uio.h>
@@ -42,7 +43,10 @@ unsigned long AddressOf(Value& value)
 class Tracer
 {
 public:
-    Tracer(pid_t root, CallVisitor const& visitor) : m_root(root), m_visitor(visitor) {}
+    Tracer(pid_t root, CallVisitor const& visitor, IsFirstCall isFirst)
+        : m_root(root), m_visitor(visitor), m_isFirst(isFirst)
+    {
+    }
 
     TracedEnd Run()
     {
@@ -132,7 +136,7 @@ private:
         }
         CallStop stop{static_cast<int>(m_end.answers.size()), static_cast<long>(info.entry.nr), process, {}};
         std::copy(std::begin(info.entry.args), std::end(info.entry.args), stop.arguments.begin());
-        m_isOwnCode = m_isOwnCode || stop.call == SYS_chdir;
+        m_isOwnCode = m_isOwnCode || m_isFirst(stop);
         if (m_isOwnCode)
         {
             m_index[process] = stop.index;
@@ -228,6 +232,7 @@ private:
 
     pid_t m_root;
     CallVisitor const& m_visitor;
+    IsFirstCall m_isFirst;
     std::set<pid_t> m_processes;
     std::set<pid_t> m_starting;     // programs that the helper starts, before they are themselves
     std::map<pid_t, int> m_answers; // the faked results of the calls that are being made
@@ -251,9 +256,42 @@ std::vector<std::string> StartWhenTraced()
             "sh"};
 }
 
-TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor)
+bool IsChangeOfFolder(CallStop const& stop)
 {
-    return Tracer(process, visitor).Run();
+    return stop.call == SYS_chdir;
+}
+
+TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor, IsFirstCall isFirst)
+{
+    return Tracer(process, visitor, isFirst).Run();
+}
+
+TracedEnd TraceProgram(std::vector<std::string> words, std::string const& output, CallVisitor const& visitor,
+                       IsFirstCall isFirst)
+{
+    std::vector<std::string> all = StartWhenTraced();
+    all.insert(all.end(), words.begin(), words.end());
+    std::vector<char*> pointers;
+    for (std::string& word : all)
+    {
+        pointers.push_back(word.data());
+    }
+    pointers.push_back(nullptr);
+    pid_t const process = ::fork();
+    if (process == 0)
+    {
+        int const file = ::open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+        ::dup2(file, STDOUT_FILENO);
+        ::dup2(file, STDERR_FILENO);
+        ::execv(pointers[0], pointers.data());
+        ::_exit(127);
+    }
+    if (process < 0)
+    {
+        ADD_FAILURE() << "no process can be made: " << errno;
+        return {};
+    }
+    return TraceToTheEnd(process, visitor, isFirst);
 }
 
 bool CanBeShortened(long call, std::int64_t answer)
@@ -315,14 +353,75 @@ std::string PathArgument(CallStop const& stop, std::size_t argument)
     return text.substr(0, text.find('\0'));
 }
 
-std::string DescriptorPath(CallStop const& stop)
+namespace
 {
-    std::string const link =
-        "/proc/" + std::to_string(stop.process) + "/fd/" + std::to_string(static_cast<int>(stop.arguments[0]));
+
+/// The target of a link below the folder of the call's process.
+std::string LinkOfProcess(CallStop const& stop, std::string const& name)
+{
+    std::string const link = "/proc/" + std::to_string(stop.process) + '/' + name;
     std::string path(PATH_MAX, '\0');
     ssize_t const size = ::readlink(link.c_str(), path.data(), path.size());
     path.resize(size < 0 ? 0 : static_cast<std::size_t>(size));
     return path;
+}
+
+std::string DescriptorPath(CallStop const& stop, std::size_t argument)
+{
+    int const number = static_cast<int>(stop.arguments.at(argument));
+    return LinkOfProcess(stop, number == AT_FDCWD ? "cwd" : "fd/" + std::to_string(number));
+}
+
+/// The argument that has the path of a call; the folder that the path is relative to is in the one before, unless the
+/// path is the first. -1 for a call without a path.
+int ArgumentOfPath(long call)
+{
+    static std::map<long, int> const arguments{
+        {SYS_open, 0},       {SYS_stat, 0},     {SYS_lstat, 0},     {SYS_access, 0},     {SYS_mkdir, 0},
+        {SYS_rmdir, 0},      {SYS_unlink, 0},   {SYS_rename, 0},    {SYS_readlink, 0},   {SYS_chmod, 0},
+        {SYS_statfs, 0},     {SYS_openat, 1},   {SYS_openat2, 1},   {SYS_newfstatat, 1}, {SYS_statx, 1},
+        {SYS_faccessat, 1},  {SYS_mkdirat, 1},  {SYS_unlinkat, 1},  {SYS_renameat, 1},   {SYS_renameat2, 1},
+        {SYS_readlinkat, 1}, {SYS_fchmodat, 1}, {SYS_utimensat, 1}, {SYS_symlinkat, 2},  {SYS_linkat, 3},
+    };
+    auto const found = arguments.find(call);
+    return found == arguments.end() ? -1 : found->second;
+}
+
+bool HasDescriptorFirst(long call)
+{
+    static std::set<long> const calls{
+        SYS_read,   SYS_pread64,    SYS_write,           SYS_pwrite64,  SYS_fstat,          SYS_close,  SYS_flock,
+        SYS_lseek,  SYS_fcntl,      SYS_ftruncate,       SYS_fsync,     SYS_fdatasync,      SYS_syncfs, SYS_fstatfs,
+        SYS_fchmod, SYS_getdents64, SYS_sync_file_range, SYS_fallocate, SYS_copy_file_range};
+    return calls.count(call) != 0;
+}
+
+} // namespace
+
+std::string DescriptorPath(CallStop const& stop)
+{
+    return DescriptorPath(stop, 0);
+}
+
+std::string FileOf(CallStop const& stop)
+{
+    int const argument = ArgumentOfPath(stop.call);
+    std::string path = argument < 0 ? std::string() : PathArgument(stop, static_cast<std::size_t>(argument));
+    if (argument < 0)
+    {
+        constexpr std::size_t MAPPED = 4;
+        path = HasDescriptorFirst(stop.call) ? DescriptorPath(stop, 0)
+               : stop.call == SYS_mmap       ? DescriptorPath(stop, MAPPED)
+                                             : std::string();
+    }
+    else if (path.empty() || path[0] != '/')
+    {
+        std::string const folder =
+            argument == 0 ? LinkOfProcess(stop, "cwd") : DescriptorPath(stop, static_cast<std::size_t>(argument - 1));
+        path = path.empty() ? folder : folder + '/' + path;
+    }
+    // Pipes and the like have other names.
+    return path.rfind('/', 0) == 0 ? path : std::string();
 }
 
 } // namespace Pelnar::Testing

@@ -59,10 +59,17 @@ struct TracedEnd
     std::vector<std::int64_t> answers{}; ///< of the calls, by their index; 0 for one that did not return
 };
 
+/// True for the call that a program's main function begins with. Calls of its loader come before.
+using IsFirstCall = bool (*)(CallStop const&);
+/// Helpers and probes begin so.
+bool IsChangeOfFolder(CallStop const& stop);
+
 /// Traces \a process, which began with the words of StartWhenTraced(), to its end. Programs that it starts by execve
-/// are not traced. Calls of the program's loader, before its main function changes to the root folder, are not
-/// reported.
-TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor);
+/// are not traced. Calls before \a isFirst are not reported.
+TracedEnd TraceToTheEnd(pid_t process, CallVisitor const& visitor, IsFirstCall isFirst = &IsChangeOfFolder);
+/// Starts \a words with their standard output and error in the file \a output, and traces them to their end.
+TracedEnd TraceProgram(std::vector<std::string> words, std::string const& output, CallVisitor const& visitor,
+                       IsFirstCall isFirst = &IsChangeOfFolder);
 
 /// True for a call that moves more than one byte: Shorten() would have an effect.
 bool CanBeShortened(long call, std::int64_t answer);
@@ -72,5 +79,8 @@ std::string CallName(long call);
 std::string PathArgument(CallStop const& stop, std::size_t argument);
 /// The file behind the descriptor in the call's first argument.
 std::string DescriptorPath(CallStop const& stop);
+/// The path of the file that the call is about: the first that it names, or that behind its descriptor. Empty for a
+/// call about something else.
+std::string FileOf(CallStop const& stop);
 
 } // namespace Pelnar::Testing

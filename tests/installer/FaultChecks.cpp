@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -20,11 +19,6 @@ namespace Pelnar::Testing
 
 using Engine::ContentHash;
 using Engine::UniqueFd;
-
-bool IsEveryPlaceWanted()
-{
-    return std::getenv("PELNAR_EVERY_PLACE") != nullptr;
-}
 
 ContentHash TreeOf(std::string const& path)
 {

@@ -3,14 +3,12 @@
 #pragma once
 
 #include "tests/installer/InstallerFixture.h"
+#include "tests/support/EveryPlace.h"
 
 #include <string>
 
 namespace Pelnar::Testing
 {
-
-/// True if the environment requests faults at every place instead of a sample.
-bool IsEveryPlaceWanted();
 
 /// The hash of the tree of the folder at \a path, or of an empty tree if the folder does not exist.
 Engine::ContentHash TreeOf(std::string const& path);

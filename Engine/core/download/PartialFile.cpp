@@ -261,7 +261,10 @@ Result<void> PartialFile::SyncBytes()
     std::uint64_t const written = m_written;
     if (Retried([this] { return fdatasync(m_writer.Get()); }) != 0)
     {
-        return Failure(FailedWrite(errno));
+        // After any failure the kernel may take pages for written that never reached the disk.
+        int const errorNumber = errno;
+        Remove();
+        return Failure(MakeSystemError(errorNumber));
     }
     m_record.durableBytes = written;
     return {};
@@ -332,12 +335,28 @@ void PartialFile::RemoveArchive()
 
 void PartialFile::Remove()
 {
-    // An open file keeps its blocks even without names.
-    if (m_writer && ftruncate(m_writer.Get(), 0) != 0)
+    if (!HoldsItsName())
     {
-        return; // a disk that refuses even this frees no space
+        return;
     }
+    // An open file keeps its blocks even without names. A failing disk may refuse this and still remove the names.
+    static_cast<void>(!m_writer || ftruncate(m_writer.Get(), 0) == 0);
     Engine::RemoveArchive(m_folder, m_place.name, ArchiveRecord::Removed);
+}
+
+bool PartialFile::HoldsItsName() const
+{
+    // Fails only if it was unlocked and another process or another download has the file now.
+    bool const isTaken =
+        Retried([this] { return flock(m_reader.Get(), LOCK_EX | LOCK_NB); }) != 0 && errno == EWOULDBLOCK;
+    struct stat open
+    {
+    };
+    struct stat named
+    {
+    };
+    return !isTaken && fstat(m_reader.Get(), &open) == 0 &&
+           fstatat(m_folder.Get(), m_place.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && IsSameFile(open, named);
 }
 
 EngineError PartialFile::RoomError(int errorNumber) const
@@ -347,7 +366,7 @@ EngineError PartialFile::RoomError(int errorNumber) const
     return MakeRoomError(cause, m_place.declaredBytes + room.reservedBytes, room.freeBytes);
 }
 
-EngineError PartialFile::FailedWrite(int errorNumber)
+EngineError PartialFile::MakeSystemError(int errorNumber) const
 {
     switch (errorNumber)
     {
@@ -355,11 +374,6 @@ EngineError PartialFile::FailedWrite(int errorNumber)
     case ENFILE:
     case ENOMEM:
         return MakeError(ErrorCause::DownloadSystemBusy, Described(errorNumber));
-    }
-    // A full disk gets its space back, and the content of a failing disk is not reliable.
-    Remove();
-    switch (errorNumber)
-    {
     case ENOSPC:
     case EDQUOT:
         return RoomError(errorNumber);
@@ -367,6 +381,16 @@ EngineError PartialFile::FailedWrite(int errorNumber)
         return MakeError(ErrorCause::DownloadFileTooLarge);
     }
     return MakeError(ErrorCause::DownloadDiskFailed, Described(errorNumber));
+}
+
+EngineError PartialFile::FailedWrite(int errorNumber)
+{
+    // A full disk gets its space back, and the content of a failing disk is not reliable.
+    if (errorNumber != EMFILE && errorNumber != ENFILE && errorNumber != ENOMEM)
+    {
+        Remove();
+    }
+    return MakeSystemError(errorNumber);
 }
 
 UniqueFd RemovePartialFile(PartialPlace const& place)

@@ -48,7 +48,8 @@ public:
     Result<void> Append(Bytes bytes);
 
     /// The steps that make the written bytes durable and then record this, in this order. Steps that sync may take
-    /// long. They change nothing, so the file can be opened again without waiting for them. Without the first step, the
+    /// long. They change nothing unless they fail, so the file can be opened again without waiting for them. If they
+    /// fail, they remove the file, unless it has another user by then. Without the first step, the
     /// others record the remaining values.
     Result<void> SyncBytes();
     Result<void> StageRecord();
@@ -73,8 +74,11 @@ private:
     Result<void> CheckRoom() const;
     std::optional<PartialRecord> ReadRecord() const;
     void TakeRecord(PartialRecord const& record, FoundFile const& file);
-    /// Removes the file and the record, and frees the disk's blocks.
+    /// Removes the file and the record, and frees the disk's blocks. Does nothing if the file has another user now.
     void Remove();
+    /// True if the file is still under its name, and nobody else has locked it.
+    [[nodiscard]] bool HoldsItsName() const;
+    EngineError MakeSystemError(int errorNumber) const;
     EngineError RoomError(int errorNumber) const;
     /// The error for \a errorNumber, of a call that changes the file or the record. On a full or failing disk it
     /// removes all files.

@@ -3,13 +3,14 @@
 #include "Engine/core/download/PartialFile.h"
 #include "tests/engine_core/download/ArchiveServer.h"
 #include "tests/engine_core/download/DownloadHarness.h"
-#include "tests/installer/CallTracer.h"
+#include "tests/installer/CallPlaces.h"
 #include "tests/support/Sanitizers.h"
 #include "tests/support/ServerThread.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <map>
 #include <optional>
 #include <string>
@@ -32,19 +33,6 @@ constexpr int SIZE = 1000000;
 QByteArray const ARCHIVE = MakeArchive(SIZE);
 constexpr int DEFAULT_STRIDE = 5;
 
-/// True for a call with a file name, or with a file in its first argument. The event descriptors between threads do not
-/// count.
-bool IsAboutFiles(CallStop const& stop)
-{
-    constexpr long BY_NAME[] = {SYS_openat, SYS_newfstatat, SYS_renameat, SYS_renameat2, SYS_unlinkat, SYS_mkdir};
-    constexpr long BY_DESCRIPTOR[] = {SYS_read,  SYS_write, SYS_pwrite64,  SYS_fstat, SYS_close,   SYS_flock,
-                                      SYS_lseek, SYS_fcntl, SYS_ftruncate, SYS_fsync, SYS_fstatfs, SYS_fdatasync};
-    bool const isByName = std::find(std::begin(BY_NAME), std::end(BY_NAME), stop.call) != std::end(BY_NAME);
-    bool const isByDescriptor =
-        std::find(std::begin(BY_DESCRIPTOR), std::end(BY_DESCRIPTOR), stop.call) != std::end(BY_DESCRIPTOR);
-    return isByName || (isByDescriptor && DescriptorPath(stop).rfind('/', 0) == 0);
-}
-
 /// The end of the probe.
 struct End
 {
@@ -54,13 +42,8 @@ struct End
     std::vector<std::int64_t> answers{}; ///< of the calls so far
 };
 
-/// The nth file call of its kind. Other calls may be a few more or fewer in another run of the disk's thread.
-struct Place
-{
-    long call;
-    int nth; ///< from 1
-    std::int64_t answer;
-};
+/// Other calls of a kind may be a few more or fewer in another run of the disk's thread.
+using Place = CallPlace;
 
 bool AnyPlace(Place const&)
 {
@@ -98,41 +81,22 @@ protected:
     End Probe(std::vector<std::string> arguments, CallVisitor const& visitor)
     {
         std::string const output = place.filePath(QStringLiteral("output")).toStdString();
-        std::vector<std::string> words = StartWhenTraced();
-        words.push_back(PELNAR_DOWNLOAD_PROBE);
+        std::vector<std::string> words{PELNAR_DOWNLOAD_PROBE};
         words.insert(words.end(), arguments.begin(), arguments.end());
-        pid_t const process = fork();
-        if (process == 0)
-        {
-            int const file = open(output.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
-            dup2(file, STDOUT_FILENO);
-            dup2(file, STDERR_FILENO);
-            std::vector<char*> pointers;
-            for (std::string& word : words)
-            {
-                pointers.push_back(word.data());
-            }
-            pointers.push_back(nullptr);
-            execv(pointers[0], pointers.data());
-            _exit(127);
-        }
-        if (process < 0)
-        {
-            ADD_FAILURE() << "no process can be made: " << errno;
-            return {};
-        }
+        pid_t main = 0;
         std::vector<int> visited;
-        TracedEnd const traced = TraceToTheEnd(process,
-                                               [&](CallStop stop)
-                                               {
-                                                   if (stop.process == process || !IsAboutFiles(stop))
-                                                   {
-                                                       return CallVerdict::GoOn();
-                                                   }
-                                                   visited.push_back(stop.index);
-                                                   stop.index = static_cast<int>(visited.size()) - 1;
-                                                   return visitor(stop);
-                                               });
+        TracedEnd const traced = TraceProgram(words, output,
+                                              [&](CallStop stop)
+                                              {
+                                                  main = main == 0 ? stop.process : main;
+                                                  if (stop.process == main || FileOf(stop).empty())
+                                                  {
+                                                      return CallVerdict::GoOn();
+                                                  }
+                                                  visited.push_back(stop.index);
+                                                  stop.index = static_cast<int>(visited.size()) - 1;
+                                                  return visitor(stop);
+                                              });
         End end;
         end.faults = traced.faulted.size();
         for (int const index : visited)
@@ -181,7 +145,7 @@ protected:
     template <typename VerdictAt, typename Check>
     void Sweep(bool (*canFail)(Place const&), VerdictAt const& verdictAt, Check const& check)
     {
-        int const stride = std::getenv("PELNAR_EVERY_PLACE") ? 1 : DEFAULT_STRIDE;
+        int const stride = IsEveryPlaceWanted() ? 1 : DEFAULT_STRIDE;
         SweepRound(0, stride, canFail, verdictAt, check);
         SweepRound(1, stride, canFail, verdictAt, check);
     }
@@ -213,14 +177,8 @@ protected:
     std::vector<Place> PlacesOf(int round)
     {
         std::vector<Place> places;
-        std::map<long, int> counts;
         Prepare(round);
-        End const end = Download(
-            [&](CallStop const& stop)
-            {
-                places.push_back({stop.call, ++counts[stop.call], 0});
-                return CallVerdict::GoOn();
-            });
+        End const end = Download(RecordPlaces(places));
         EXPECT_EQ(end.cause, 0) << end.all;
         for (std::size_t i = 0; i < places.size(); ++i)
         {
@@ -229,12 +187,7 @@ protected:
         return places;
     }
 
-    End DownloadWith(CallVerdict verdict, Place const& place)
-    {
-        int count = 0;
-        return Download([&](CallStop const& stop)
-                        { return stop.call == place.call && ++count == place.nth ? verdict : CallVerdict::GoOn(); });
-    }
+    End DownloadWith(CallVerdict verdict, Place const& place) { return Download(VerdictAt(place, verdict)); }
 
     /// In every second round the partial file belongs to another version than the server's.
     void LeavePartsOfAnotherVersion()
@@ -318,6 +271,46 @@ TEST_F(DownloadFaultTest, DiskThatIsFullAtAnyWriteIsToldInNumbersAndLeftAsItWas)
     SweepRound(1, 1, &FillsTheDisk, verdictAt, check);
 }
 
+bool IsArchive(CallStop const& stop)
+{
+    std::string const path = DescriptorPath(stop);
+    return path.size() > 8 && path.compare(path.size() - 8, 8, ".archive") == 0;
+}
+
+/// After a failed sync the kernel may take pages for written that never reached the disk.
+TEST_F(DownloadFaultTest, BytesThatCouldNotBeSyncedAreNeverResumed)
+{
+    std::map<int, ErrorCause> const causes{{EIO, ErrorCause::DownloadDiskFailed},
+                                           {EROFS, ErrorCause::DownloadDiskFailed},
+                                           {ENOSPC, ErrorCause::DownloadNoRoom},
+                                           {EDQUOT, ErrorCause::DownloadQuotaReached},
+                                           {ENOMEM, ErrorCause::DownloadSystemBusy}};
+    for (auto const& [error, cause] : causes)
+    {
+        for (int nth = 1; nth <= 3; ++nth)
+        {
+            SCOPED_TRACE(testing::Message() << std::strerror(error) << " at sync " << nth);
+            RemoveFolder();
+            int syncs = 0;
+            End const end = Probe({"--checkpoints", Folder().toStdString()},
+                                  [&, error = error](CallStop const& stop)
+                                  {
+                                      bool const isSync = stop.call == SYS_fdatasync && IsArchive(stop);
+                                      syncs += isSync ? 1 : 0;
+                                      bool const isCut = stop.call == SYS_ftruncate && syncs == nth;
+                                      return isSync && syncs == nth ? CallVerdict::Fail(error)
+                                             : isCut                ? CallVerdict::Fail(EIO)
+                                                                    : CallVerdict::GoOn();
+                                  });
+            EXPECT_EQ(end.faults, 2u) << "the sync, and the attempt to free the disk";
+            EXPECT_EQ(end.cause, static_cast<int>(cause)) << end.all;
+            EXPECT_TRUE(error == ENOSPC || error == EDQUOT || end.all.find(std::strerror(error)) != std::string::npos)
+                << end.all;
+            EXPECT_EQ(Files(), QStringList());
+        }
+    }
+}
+
 TEST_F(DownloadFaultTest, FileThatTakesNothingIsNotWrittenToForEver)
 {
     Prepare(0);
@@ -375,7 +368,7 @@ struct Checkpoints
     void See(CallStop const& stop)
     {
         std::string const path = stop.call == SYS_openat ? std::string() : DescriptorPath(stop);
-        bool const isArchive = path.size() > 8 && path.compare(path.size() - 8, 8, ".archive") == 0;
+        bool const isArchive = stop.call != SYS_openat && IsArchive(stop);
         bool const isRecord = path.size() > 11 && path.compare(path.size() - 11, 11, ".record.new") == 0;
         isRecordSynced =
             isRecord ? stop.call == SYS_fdatasync || (isRecordSynced && stop.call != SYS_write) : isRecordSynced;

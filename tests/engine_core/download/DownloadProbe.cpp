@@ -27,6 +27,13 @@ long PeakKibibytes()
     return usage.ru_maxrss;
 }
 
+void Print(EngineError const* error, long grownKibibytes)
+{
+    std::printf("cause=%d grown=%ld sentence=%s detail=%s\n", error ? static_cast<int>(error->cause) : 0,
+                grownKibibytes, error ? qPrintable(error->sentence.English()) : "",
+                error ? qPrintable(error->detail) : "");
+}
+
 /// Passes one piece on and makes it durable.
 void Put(ArchiveWriter& writer, DownloadSpending const& spent)
 {
@@ -47,7 +54,11 @@ int WriteWithCheckpoints(QString const& folder)
     };
     events.roomMade = [] {};
     events.finished = [](UniqueFd) {};
-    events.failed = [](EngineError const&) { QCoreApplication::exit(1); };
+    events.failed = [](EngineError const& error)
+    {
+        Print(&error, 0);
+        QCoreApplication::exit(1);
+    };
     ArchiveWriter writer(PlaceOf(folder, QUrl(), 3 * PIECE_BYTES, QString()), std::move(events));
     writer.Open();
     if (QCoreApplication::exec() != 0 || !isOpen)
@@ -89,9 +100,7 @@ int main(int argc, char** argv)
     download.Start([](DownloadProgress const&) {},
                    [before](DownloadOutcome const& outcome)
                    {
-                       std::printf("cause=%d grown=%ld sentence=%s\n",
-                                   outcome ? 0 : static_cast<int>(outcome.error().cause), PeakKibibytes() - before,
-                                   outcome ? "" : qPrintable(outcome.error().sentence.English()));
+                       Print(outcome ? nullptr : &outcome.error(), PeakKibibytes() - before);
                        QCoreApplication::quit();
                    });
     return QCoreApplication::exec();

@@ -3,6 +3,7 @@
 // PELNAR_EVERY_PLACE=1 in the environment it takes all.
 
 #include "Engine/core/helper/SwapJournal.h"
+#include "tests/installer/CallPlaces.h"
 #include "tests/installer/FaultChecks.h"
 #include "tests/installer/faults/HelperSteps.h"
 #include "tests/support/Sanitizers.h"
@@ -14,8 +15,6 @@
 #include <csignal>
 #include <cstring>
 #include <iterator>
-#include <map>
-#include <numeric>
 #include <set>
 
 #include <sys/syscall.h>
@@ -26,31 +25,11 @@ namespace
 using namespace Pelnar::Engine;
 using namespace Pelnar::Testing;
 
-/// A place in a step: the nth call of its kind, in all processes. Parallel processes do not always take turns in the
-/// same way, so the index of a call is less reliable.
-struct Place
+std::vector<CallPlace> PlacesOf(Step step)
 {
-    long call;
-    int nth; ///< from 1
-    std::int64_t answer;
-};
-
-std::ostream& operator<<(std::ostream& out, Place const& place)
-{
-    return out << CallName(place.call) << " number " << place.nth;
-}
-
-std::vector<Place> PlacesOf(Step step)
-{
-    std::vector<Place> places;
-    std::map<long, int> counts;
+    std::vector<CallPlace> places;
     Subject subject(step);
-    HelperOutcome const outcome = subject.Run(
-        [&](CallStop const& stop)
-        {
-            places.push_back({stop.call, ++counts[stop.call], 0});
-            return CallVerdict::GoOn();
-        });
+    HelperOutcome const outcome = subject.Run(RecordPlaces(places));
     EXPECT_EQ(outcome.exitStatus, 0);
     for (std::size_t i = 0; i < places.size(); ++i)
     {
@@ -60,17 +39,11 @@ std::vector<Place> PlacesOf(Step step)
 }
 
 /// Runs the step with \a verdict for one call. \a wasMet is true if the verdict had an effect.
-HelperOutcome RunWith(Subject& subject, Place const& place, CallVerdict const& verdict, bool& wasMet)
+HelperOutcome RunWith(Subject& subject, CallPlace const& place, CallVerdict const& verdict, bool& wasMet)
 {
-    int count = 0;
     int index = -1;
-    HelperOutcome outcome = subject.Run(
-        [&](CallStop const& stop)
-        {
-            bool const isDue = stop.call == place.call && ++count == place.nth;
-            index = isDue ? stop.index : index;
-            return isDue ? verdict : CallVerdict::GoOn();
-        });
+    HelperOutcome outcome =
+        subject.Run(VerdictAt(place, verdict, [&index](CallStop const& stop) { index = stop.index; }));
     wasMet = outcome.traced.faulted.count(index) != 0;
     return outcome;
 }
@@ -87,35 +60,15 @@ bool IsTheSanitizersOwn(long call)
 class EveryCall : public testing::TestWithParam<Step>
 {
 protected:
-    /// Calls \a check with each place that \a canFail and each row; without PELNAR_EVERY_PLACE, with that many pairs.
-    /// \a check returns whether the fault took place.
+    /// SweepPlaces() for the places that \a canFail.
     template <typename CanFail, typename Check>
     void Sweep(std::size_t rows, std::size_t sample, CanFail const& canFail, Check const& check)
     {
-        std::vector<Place> places = PlacesOf(GetParam());
-        places.erase(std::remove_if(places.begin(), places.end(), [&](Place const& place) { return !canFail(place); }),
-                     places.end());
-        std::size_t const pairs = places.size() * rows;
-        // No common divisor with the number of rows, so that each row is used.
-        std::size_t stride = IsEveryPlaceWanted() ? 1 : std::max<std::size_t>(pairs / sample, 1);
-        while (std::gcd(stride, rows) != 1)
-        {
-            ++stride;
-        }
-        int runs = 0;
-        int met = 0;
-        for (std::size_t pair = stride / 2; pair < pairs; pair += stride)
-        {
-            Place const& place = places[pair / rows];
-            SCOPED_TRACE(testing::Message() << place << ", row " << pair % rows);
-            ++runs;
-            met += check(place, pair % rows) ? 1 : 0;
-        }
-        RecordProperty("places", static_cast<int>(places.size()));
-        RecordProperty("runs", runs);
-        RecordProperty("met", met);
-        EXPECT_GT(met, 0) << "nothing was done to " << places.size() << " places";
-        EXPECT_GE(met * 10, runs * 9) << "of so many runs too few met their place";
+        std::vector<CallPlace> places = PlacesOf(GetParam());
+        places.erase(
+            std::remove_if(places.begin(), places.end(), [&](CallPlace const& place) { return !canFail(place); }),
+            places.end());
+        SweepPlaces(places, rows, sample, check);
     }
 
     /// If a helper reports success, this is true. If it reports nothing, it has not crashed.
@@ -144,8 +97,8 @@ TEST_P(EveryCall, FailsCleanly)
     std::set<long> const beyondFailing{SYS_exit_group, SYS_futex, SYS_getrandom, SYS_brk, SYS_rseq, SYS_chdir};
     Sweep(
         std::size(ERRORS), 40,
-        [&](Place const& place) { return beyondFailing.count(place.call) == 0 && !IsTheSanitizersOwn(place.call); },
-        [&](Place const& place, std::size_t row)
+        [&](CallPlace const& place) { return beyondFailing.count(place.call) == 0 && !IsTheSanitizersOwn(place.call); },
+        [&](CallPlace const& place, std::size_t row)
         {
             SCOPED_TRACE(std::strerror(ERRORS[row]));
             Subject subject(GetParam());
@@ -164,8 +117,8 @@ TEST_P(EveryCall, MayBeInterrupted)
     std::set<long> const interruptible{SYS_read,    SYS_pread64, SYS_write, SYS_pwrite64,
                                        SYS_openat2, SYS_flock,   SYS_poll,  SYS_wait4};
     Sweep(
-        1, 30, [&](Place const& place) { return interruptible.count(place.call) != 0; },
-        [&](Place const& place, std::size_t)
+        1, 30, [&](CallPlace const& place) { return interruptible.count(place.call) != 0; },
+        [&](CallPlace const& place, std::size_t)
         {
             Subject subject(GetParam());
             bool wasMet = false;
@@ -180,8 +133,8 @@ TEST_P(EveryCall, MayBeInterrupted)
 TEST_P(EveryCall, MayReadOrWriteLessThanWasAsked)
 {
     Sweep(
-        1, 30, [](Place const& place) { return CanBeShortened(place.call, place.answer); },
-        [&](Place const& place, std::size_t)
+        1, 30, [](CallPlace const& place) { return CanBeShortened(place.call, place.answer); },
+        [&](CallPlace const& place, std::size_t)
         {
             Subject subject(GetParam());
             bool wasMet = false;
@@ -225,8 +178,8 @@ TEST_P(EveryCall, IsWhereMemoryMayRunOut)
 TEST_P(EveryCall, IsWhereAllProcessesAreKilledAtOnce)
 {
     Sweep(
-        1, 30, [](Place const&) { return true; },
-        [&](Place const& place, std::size_t)
+        1, 30, [](CallPlace const&) { return true; },
+        [&](CallPlace const& place, std::size_t)
         {
             Subject subject(GetParam());
             bool wasMet = false;
@@ -244,8 +197,8 @@ TEST_P(EveryCall, IsWhereTheSessionEnds)
     int finished = 0;
     int ended = 0;
     Sweep(
-        std::size(SIGNALS), 60, [](Place const&) { return true; },
-        [&](Place const& place, std::size_t row)
+        std::size(SIGNALS), 60, [](CallPlace const&) { return true; },
+        [&](CallPlace const& place, std::size_t row)
         {
             SCOPED_TRACE(::strsignal(SIGNALS[row]));
             Subject subject(GetParam());

@@ -1,7 +1,7 @@
 // LimitedRunTest.cpp: runs of "generate" under limits of the system: every run ends with a whole new release, or with a
 // sentence and the folder as it was.
 
-#include "tests/publisher/generate/PublisherFolder.h"
+#include "tests/publisher/gate/UnpublishedVersion.h"
 #include "tests/support/Sanitizers.h"
 
 #include <gtest/gtest.h>
@@ -10,46 +10,12 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include <map>
 #include <string>
 
 namespace Pelnar::Testing
 {
 namespace
 {
-
-using Files = std::map<std::string, std::string>;
-
-Files FilesOf(PublisherFolder const& folder)
-{
-    Files files;
-    for (std::string const& name : folder.Names())
-    {
-        files.emplace(name, folder.ContentOf(name));
-    }
-    return files;
-}
-
-/// A folder with a feed of two versions, and a third that is not published yet.
-struct UnpublishedVersion
-{
-    UnpublishedVersion()
-    {
-        folder.PutVersion("1.0");
-        folder.PutVersion("2.0");
-        folder.GeneratedFeed();
-        folder.PutVersion("3.0");
-    }
-
-    QStringList Arguments() const
-    {
-        return {QStringLiteral("generate"),     QString::fromStdString(folder.Path()),
-                QStringLiteral("--key"),        folder.KeyFile(),
-                QStringLiteral("--url-prefix"), QStringLiteral("https://updates.example.com/")};
-    }
-
-    PublisherFolder folder;
-};
 
 /// How a run ends under "ulimit -\a limit".
 struct LimitedEnd

@@ -1,7 +1,9 @@
 // RecompressTest.cpp: "generate --recompress": a second archive of the same bundle, for clients that support it.
 
 #include "Engine/core/archive/TreeManifest.h"
+#include "Publisher/Refusal.h"
 #include "Publisher/files/BundleTree.h"
+#include "Publisher/late/LatePart.h"
 #include "tests/publisher/generate/PublisherFolder.h"
 #include "tests/support/TestApplication.h"
 
@@ -11,9 +13,12 @@
 
 #include <QFile>
 
+#include <filesystem>
+#include <functional>
 #include <random>
 
 #include <sys/inotify.h>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace Pelnar::Testing
@@ -173,6 +178,50 @@ TEST_F(Recompress, ArchiveThatSavesLessThanATenthIsNotPublished)
         << run.err;
     EXPECT_TRUE(folder.Items().front().recompressed.empty());
     EXPECT_FALSE(QFile::exists(folder.PathOf("Test-2.0.tar.zst")));
+}
+
+/// Packs a bundle whose large file is changed when its first piece has been read. Returns the refusal.
+std::string PackedWhile(PublisherFolder const& folder, std::function<void(std::filesystem::path const&)> const& change)
+{
+    BundleText text;
+    text.version = "2.0";
+    std::vector<ForgedEntry> entries = MakePublishedBundle(text);
+    entries.push_back({"Test.app/large", 'f', Noise(3 << 20)});
+    folder.Put("Test-2.0.zip", MakeArchive(Container::Zip, entries));
+    Publisher::BundleTree const bundle =
+        Publisher::BundleTree::Open(folder.PathOf("Test-2.0.zip"), [](std::uint64_t, std::uint64_t) {});
+    Engine::UniqueFd const made(::memfd_create("tar", MFD_CLOEXEC));
+    std::uint64_t smallFiles = 0;
+    try
+    {
+        Publisher::LoadLatePart().writeZstdTar(bundle, 0, made.Get(), QStringLiteral("Test-2.0.tar.zst"),
+                                               [&](std::uint64_t done, std::uint64_t)
+                                               {
+                                                   smallFiles = done < (1 << 20) ? done : smallFiles;
+                                                   if (done == smallFiles + (1 << 20))
+                                                   {
+                                                       change(bundle.Path() / "large");
+                                                   }
+                                               });
+    }
+    catch (Publisher::Refusal const& refusal)
+    {
+        return refusal.what();
+    }
+    return "packed";
+}
+
+TEST_F(Recompress, FileThatChangesWhileItIsPackedIsNamed)
+{
+    std::string const changed =
+        folder.PathOf("Test-2.0.zip").toStdString() +
+        "/large: has changed while this run worked; run this again when nobody changes the file";
+    auto const resize = [](std::uintmax_t size)
+    { return [size](std::filesystem::path const& path) { std::filesystem::resize_file(path, size); }; };
+    EXPECT_EQ(PackedWhile(folder, resize(1 << 20)), changed) << "it ends at a piece";
+    EXPECT_EQ(PackedWhile(folder, resize((2 << 20) + 7)), changed) << "it ends in a piece";
+    EXPECT_EQ(PackedWhile(folder, resize((3 << 20) + 1)), changed);
+    EXPECT_EQ(PackedWhile(folder, [](std::filesystem::path const&) {}), "packed");
 }
 
 TEST_F(Recompress, FileOfThatNameIsNotReplaced)

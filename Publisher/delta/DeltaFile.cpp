@@ -1,6 +1,5 @@
 #include "Publisher/delta/DeltaFile.h"
 
-#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/delta/DeltaApplier.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
@@ -142,7 +141,7 @@ void ProveDelta(InputFile const& delta, BundleTree const& oldBundle, BundleTree 
                 Output const& progressOutput)
 {
     Engine::ContentHash const digest = Try(delta.descriptor.Get(), delta.name, oldBundle, progressOutput);
-    if (digest != Engine::DigestTree(newBundle.Descriptor()))
+    if (digest != newBundle.Digest())
     {
         throw Refusal({delta.name, u"does not make the bundle in the archive of that version"_s,
                        u"remove the delta; generate makes it again if it is needed"_s});

@@ -1,6 +1,7 @@
 #include "Publisher/files/BundleTree.h"
 
 #include "Engine/core/archive/Archive.h"
+#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/archive/UnpackArchive.h"
 #include "Engine/core/base/TreeAccess.h"
 #include "Engine/core/base/TreeWalk.h"
@@ -183,6 +184,18 @@ std::optional<QString> BundleTree::ShownPath(std::string const& path) const
     std::string const& folder = m_path.native();
     bool const isInside = path.compare(0, folder.size(), folder) == 0;
     return isInside ? m_shownName + QFile::decodeName(path.c_str() + folder.size()) : std::optional<QString>();
+}
+
+Engine::ContentHash BundleTree::Digest() const
+{
+    try
+    {
+        return Engine::DigestTree(Descriptor());
+    }
+    catch (Engine::UpdateRefusal const& refusal)
+    {
+        RefuseReading(m_shownName, refusal.ErrorNumber());
+    }
 }
 
 void BundleTree::ReadInformation()

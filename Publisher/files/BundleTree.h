@@ -2,6 +2,7 @@
 // Ownership: a scope object; it removes what it unpacked.
 #pragma once
 
+#include "Engine/core/base/ContentHasher.h"
 #include "Engine/core/base/Descriptor.h"
 #include "Engine/core/bundle/BundleInformation.h"
 #include "Engine/core/feed/FeedParser.h"
@@ -53,6 +54,8 @@ public:
     int Descriptor() const { return m_folder.Get(); }
     /// \a path in the bundle's folder, as the person knows it: the archive's name stands for the temporary folder.
     std::optional<QString> ShownPath(std::string const& path) const;
+    /// The hash of all its files. Throws Refusal.
+    [[nodiscard]] Engine::ContentHash Digest() const;
     /// The folder's name, "Name.app".
     std::string Name() const { return m_path.filename().string(); }
     Engine::BundleInformation const& Information() const { return m_information; }

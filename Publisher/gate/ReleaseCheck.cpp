@@ -1,7 +1,6 @@
 #include "Publisher/gate/ReleaseCheck.h"
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
-#include "Engine/core/archive/TreeManifest.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Progress.h"
@@ -295,8 +294,7 @@ private:
         CheckLength(*file, recompressed);
         static_cast<void>(CheckSignatures(*file, recompressed));
         BundleTree const bundle = Unpack(*file);
-        if (bundle.Name() != target.Name() ||
-            Engine::DigestTree(bundle.Descriptor()) != Engine::DigestTree(target.Descriptor()))
+        if (bundle.Name() != target.Name() || bundle.Digest() != target.Digest())
         {
             throw Refusal(
                 {file->name,

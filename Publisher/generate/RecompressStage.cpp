@@ -1,6 +1,5 @@
 #include "Publisher/generate/RecompressStage.h"
 
-#include "Engine/core/archive/TreeManifest.h"
 #include "Publisher/Progress.h"
 #include "Publisher/Refusal.h"
 #include "Publisher/delta/DeltaFile.h"
@@ -56,8 +55,7 @@ void RecompressStage::Pack(NewItem& item, QString const& stem)
     }
     // Clients must get exactly the bundle that was judged.
     BundleTree const again = BundleTree::Unpack(made, [](std::uint64_t, std::uint64_t) {});
-    if (again.Name() != bundle.Name() ||
-        Engine::DigestTree(again.Descriptor()) != Engine::DigestTree(bundle.Descriptor()))
+    if (again.Name() != bundle.Name() || again.Digest() != bundle.Digest())
     {
         throw Refusal({path, u"contains another bundle than %1"_s.arg(item.fileName), u"leave out --recompress"_s});
     }

@@ -349,14 +349,7 @@ bool PartialFile::HoldsItsName() const
     // Fails only if it was unlocked and another process or another download has the file now.
     bool const isTaken =
         Retried([this] { return flock(m_reader.Get(), LOCK_EX | LOCK_NB); }) != 0 && errno == EWOULDBLOCK;
-    struct stat open
-    {
-    };
-    struct stat named
-    {
-    };
-    return !isTaken && fstat(m_reader.Get(), &open) == 0 &&
-           fstatat(m_folder.Get(), m_place.name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && IsSameFile(open, named);
+    return !isTaken && IsAt(m_reader.Get(), m_folder.Get(), m_place.name);
 }
 
 EngineError PartialFile::RoomError(int errorNumber) const

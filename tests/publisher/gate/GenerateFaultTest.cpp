@@ -13,6 +13,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -154,6 +155,20 @@ TEST_F(GenerateFault, EndsWithTheOldReleaseOrTheNewOneAndSaysWhy)
                 });
     RecordProperty("refused", refused);
     EXPECT_GT(refused, 0);
+}
+
+TEST(UnknownFeed, IsNotTakenForAMissingOne)
+{
+    UnpublishedVersion const scene;
+    scene.folder.Remove("appcast.xml");
+    std::filesystem::create_symlink("appcast.xml", scene.folder.Path() + "/appcast.xml");
+    ToolRun const run = scene.folder.Generate();
+    EXPECT_EQ(run.status, 2);
+    EXPECT_NE(run.err.find("/appcast.xml: cannot be read: Too many levels of symbolic links; check the name and the "
+                           "file's permissions"),
+              std::string::npos)
+        << run.err;
+    EXPECT_TRUE(std::filesystem::is_symlink(scene.folder.Path() + "/appcast.xml"));
 }
 
 } // namespace

@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <filesystem>
+#include <functional>
 #include <iterator>
 #include <map>
 
@@ -155,26 +156,36 @@ std::optional<NotesFile> NotesOf(QString const& name, QString const& stem)
     return std::nullopt;
 }
 
-/// The names in \a folder, sorted, without hidden ones and without those that are not UTF-8. Deliberate: not with QDir,
-/// which takes a folder that cannot be read to its end for a smaller one.
-QStringList NamesIn(QString const& folder)
+/// Calls \a visit with each entry of \a folder. Deliberate: not with QDir, which takes a folder that cannot be read to
+/// its end for a smaller one, and omits names that cannot be decoded.
+void VisitEntries(QString const& folder, std::function<void(std::filesystem::directory_entry const&)> const& visit)
 {
-    QStringList names;
     std::error_code error;
     std::filesystem::directory_iterator entry(QFile::encodeName(folder).toStdString(), error);
     for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error))
     {
-        QByteArray const bytes = QByteArray::fromStdString(entry->path().filename().string());
-        QString const name = QFile::decodeName(bytes);
-        if (!bytes.startsWith('.') && QFile::encodeName(name) == bytes)
-        {
-            names.append(name);
-        }
+        visit(*entry);
     }
     if (error)
     {
         RefuseFile(folder, u"cannot be read"_s, error.value(), u"check its permissions and its disk"_s);
     }
+}
+
+/// The names in \a folder, sorted, without hidden ones and without those that are not UTF-8.
+QStringList NamesIn(QString const& folder)
+{
+    QStringList names;
+    VisitEntries(folder,
+                 [&names](std::filesystem::directory_entry const& entry)
+                 {
+                     QByteArray const bytes = QByteArray::fromStdString(entry.path().filename().string());
+                     QString const name = QFile::decodeName(bytes);
+                     if (!bytes.startsWith('.') && QFile::encodeName(name) == bytes)
+                     {
+                         names.append(name);
+                     }
+                 });
     names.sort();
     return names;
 }
@@ -245,20 +256,21 @@ std::vector<ReleaseNotes> ReadReleaseNotes(QString const& folder, QString const&
 QStringList IgnoredFiles(QString const& folder, std::vector<FolderArchive> const& archives, QString const& feedFile)
 {
     QStringList ignored;
-    std::error_code error;
-    // Deliberate: not with QDir, which omits names that cannot be decoded.
-    for (auto const& entry : std::filesystem::directory_iterator(QFile::encodeName(folder).toStdString(), error))
-    {
-        QString const name = QFile::decodeName(entry.path().filename().c_str());
-        bool const isKnown =
-            name.startsWith(u'.') || QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
-            std::any_of(archives.begin(), archives.end(),
-                        [&](FolderArchive const& each) { return each.fileName == name || NotesOf(name, each.stem); });
-        if (!isKnown)
-        {
-            ignored.append(entry.is_directory(error) ? name + u'/' : name);
-        }
-    }
+    VisitEntries(folder,
+                 [&](std::filesystem::directory_entry const& entry)
+                 {
+                     QString const name = QFile::decodeName(entry.path().filename().c_str());
+                     bool const isKnown = name.startsWith(u'.') ||
+                                          QFileInfo(PathIn(folder, name)) == QFileInfo(feedFile) ||
+                                          std::any_of(archives.begin(), archives.end(),
+                                                      [&](FolderArchive const& each)
+                                                      { return each.fileName == name || NotesOf(name, each.stem); });
+                     std::error_code error; // an entry whose kind is unknown is listed as a file
+                     if (!isKnown)
+                     {
+                         ignored.append(entry.is_directory(error) ? name + u'/' : name);
+                     }
+                 });
     ignored.sort();
     return ignored;
 }

@@ -20,6 +20,8 @@ namespace
 {
 
 constexpr int PATIENCE_MS = 60000;
+constexpr int DISPLAY_PATIENCE_MS = 15000;
+constexpr int DISPLAY_TRIES = 3;
 std::string const RESOURCES = std::string(APP) + "/Resources";
 constexpr char PREPARED[] = "is installed when the application ends";
 
@@ -35,11 +37,7 @@ public:
                          [this] { m_errors += m_process.readAllStandardError(); });
     }
 
-    ~Program()
-    {
-        m_process.kill();
-        m_process.waitForFinished();
-    }
+    ~Program() { Stop(); }
 
     void Start(QString const& path, QStringList const& arguments, QMap<QString, QString> const& variables = {})
     {
@@ -63,13 +61,23 @@ public:
 
     QString FirstLine() const
     {
-        EXPECT_TRUE(WaitFor([this] { return m_output.contains('\n'); }, PATIENCE_MS));
+        EXPECT_TRUE(WaitFor([this] { return m_output.contains('\n'); }, PATIENCE_MS)) << m_errors.constData();
         return QString::fromLocal8Bit(m_output.left(m_output.indexOf('\n')));
     }
 
     void Tell(QByteArray const& line) { m_process.write(line + '\n'); }
     void EndInput() { m_process.closeWriteChannel(); }
     void Kill() { m_process.kill(); }
+    /// A display server removes its socket only if it is asked to end.
+    void Stop()
+    {
+        m_process.terminate();
+        if (!m_process.waitForFinished(DISPLAY_PATIENCE_MS))
+        {
+            m_process.kill();
+            m_process.waitForFinished();
+        }
+    }
     [[nodiscard]] bool HasEnded() const
     {
         return WaitFor([this] { return m_process.state() == QProcess::NotRunning; }, PATIENCE_MS);
@@ -198,11 +206,22 @@ class SessionEnd : public Quit
 protected:
     SessionEnd()
     {
-        m_display.Start(QStringLiteral("/usr/bin/Xvfb"),
-                        {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
-                         QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"),
-                         QStringLiteral("640x480x24")});
+        StartDisplay();
         m_manager.Start(QStringLiteral(PELNAR_SESSION_MANAGER), {});
+    }
+
+    /// Servers that start at the same time look for the same free number, and one of them may never find its own.
+    void StartDisplay()
+    {
+        for (int tries = 0; tries < DISPLAY_TRIES && !m_display.Output().contains('\n'); ++tries)
+        {
+            m_display.Stop();
+            m_display.Start(QStringLiteral("/usr/bin/Xvfb"),
+                            {QStringLiteral("-displayfd"), QStringLiteral("1"), QStringLiteral("-nolisten"),
+                             QStringLiteral("tcp"), QStringLiteral("-screen"), QStringLiteral("0"),
+                             QStringLiteral("640x480x24")});
+            (void)WaitFor([this] { return m_display.Output().contains('\n'); }, DISPLAY_PATIENCE_MS);
+        }
     }
 
     void PrepareInSession()

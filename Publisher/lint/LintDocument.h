@@ -62,7 +62,7 @@ struct LintElement
     std::optional<QString> FeedAttribute(char const* local) const;
     std::optional<QString> OwnAttribute(char const* local) const;
 
-    /// The first such child; null if there is none.
+    /// Returns the first child with this name, or null.
     LintElement const* PlainChild(char const* local) const;
     LintElement const* FeedChild(char const* local) const;
     LintElement const* OwnChild(char const* local) const;

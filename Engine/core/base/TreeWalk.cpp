@@ -43,7 +43,7 @@ void UnlockFolder(int parentFd, std::string const& name, struct stat const& stat
 
 std::optional<std::vector<std::string>> ListFolder(int folderFd)
 {
-    // Opened anew, because a copy of the descriptor would share its position.
+    // A copy of the descriptor would share its position, so the folder is opened a second time.
     int const own = ::openat(folderFd, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     std::unique_ptr<DIR, decltype(&::closedir)> const stream(own < 0 ? nullptr : ::fdopendir(own), &::closedir);
     if (!stream)

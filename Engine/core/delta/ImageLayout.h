@@ -63,7 +63,8 @@ struct ImageLayout
 constexpr std::size_t MAX_IMAGE_SPANS = 16;
 constexpr std::size_t MAX_IMAGE_BYTES = 0x7FFFFFFE;
 
-/// The layout without its regions: to find them takes long. Nothing for a file that is not such a program.
+/// Reads the layout without its regions, because the search for regions takes long. Empty if the file is not such a
+/// program.
 [[nodiscard]] std::optional<ImageLayout> ReadImageSpans(Bytes file);
 /// Finds the regions. REQUIRES: the layout is that of \a file, whose pages are the first of \a pages.
 void ReadImageRegions(Bytes file, ImageLayout& layout, ResidentPages& pages);

@@ -78,6 +78,9 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
     version.machines = MachinesOf(bundle);
     version.bundle = GatedBundle{information.identifier, bundle.Name(), KeysOf(bundle, path),
                                  information.allowsInstallerPrograms, information.rootPublicKey};
+    // On macOS another framework fetches the feed.
+    version.bundle->requiresSignedFeed =
+        information.requiresSignedFeed && version.HasClients() && version.platform == Engine::FeedPlatform::Linux;
     // With a root key, the feed's key statement says which keys clients trust, and it can change.
     if (information.rootPublicKey.empty())
     {
@@ -113,6 +116,17 @@ void BelieveStatement(GatedVersion& version, QByteArray const& feed)
     bundle.knownKeys = bundle.publicKeys.Texts();
     bundle.knownKeys.insert(bundle.knownKeys.end(), keys.Texts().begin(), keys.Texts().end());
     version.trustedIds = KeyIdsOf(keys);
+    bundle.clientKeys = keys;
+}
+
+void CheckFeedSignature(GatedVersion const& version, FeedSignature signature)
+{
+    if (version.bundle && version.bundle->requiresSignedFeed && signature == FeedSignature::Missing)
+    {
+        throw Refusal({version.path, u"its clients require a signed feed and would refuse this one"_s,
+                       u"sign the feed with a key that they trust: use generate --sign-feed, or sign-feed"_s},
+                      RefusalCause::Content);
+    }
 }
 
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName)

@@ -23,6 +23,8 @@ struct GatedBundle
     bool allowsInstallerPrograms = false;
     std::string rootKey = {};                ///< empty if the bundle has none
     std::vector<std::string> knownKeys = {}; ///< its own, and those that the key statement declares valid
+    Engine::TrustedKeys clientKeys = {};     ///< those that its clients believe
+    bool requiresSignedFeed = false;
 };
 
 struct GatedVersion
@@ -56,6 +58,16 @@ GatedVersion VersionOf(BundleTree const& bundle, QString const& path, Engine::Pa
 /// If the bundle of \a version has a root key: adds the keys that the key statement in \a feed declares valid. Throws
 /// Refusal if its clients would refuse the statement and so the feed.
 void BelieveStatement(GatedVersion& version, QByteArray const& feed);
+
+/// Whether a feed has a signature that clients accept.
+enum class FeedSignature
+{
+    Missing,
+    Present,
+};
+
+/// Throws Refusal if the clients of \a version require a signed feed, and \a signature is missing.
+void CheckFeedSignature(GatedVersion const& version, FeedSignature signature);
 
 /// The version of \a item in the feed \a feedName. It is invalid if the item's version cannot be read.
 GatedVersion VersionOf(Engine::FeedItem const& item, Engine::FeedPlatform platform, QString const& feedName);

@@ -2,6 +2,7 @@
 
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/bundle/CheckBundle.h"
+#include "Engine/core/check/FeedTrust.h"
 #include "Engine/core/feed/ReleaseRules.h"
 #include "Publisher/Progress.h"
 #include "Publisher/choice/FeedChoice.h"
@@ -213,6 +214,9 @@ private:
     {
         GatedVersion inside = VersionOf(bundle, file.name, version.kind);
         BelieveStatement(inside, m_request.feed);
+        CheckFeedSignature(inside, Engine::VerifyFeed(m_request.feed, inside.bundle->clientKeys)
+                                       ? FeedSignature::Present
+                                       : FeedSignature::Missing);
         version.bundle = inside.bundle;
         version.trustedIds = inside.trustedIds;
         for (std::string const& key : inside.bundle->knownKeys)

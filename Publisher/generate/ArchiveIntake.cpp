@@ -3,6 +3,7 @@
 #include "App/UpdateChecker/SparkleImpl/Choice/UpdateType.h"
 #include "Engine/core/bundle/CheckBundle.h"
 #include "Engine/core/feed/ReleaseRules.h"
+#include "Engine/core/fetch/FetchRules.h"
 #include "Publisher/choice/FeedChoice.h"
 #include "Publisher/gate/ReleaseGate.h"
 
@@ -106,6 +107,10 @@ std::vector<NewItem> ArchiveIntake::Take(std::vector<FolderArchive> const& archi
     CheckMachines(refusals);
     CheckAmongEachOther(refusals);
     CheckTrust(m_versions, refusals);
+    for (GatedVersion const& version : m_versions)
+    {
+        refusals.Try([&] { CheckFeedSignature(version, m_signature); });
+    }
     if (!refusals.IsEmpty())
     {
         return {};
@@ -222,6 +227,7 @@ NewItem ArchiveIntake::TakeBundle(FolderArchive const& archive, RefusalList& ref
     BelieveStatement(version, m_feed.With({}));
     CheckBundleForClients(bundle, version, m_versions, MachineFor(version), refusals);
     WarnOf(version);
+    WarnOfSettings(information, version);
     item.machines = version.machines;
     m_versions.push_back(std::move(version));
     return item;
@@ -251,6 +257,33 @@ void ArchiveIntake::WarnOf(GatedVersion const& version) const
             u"has no root key, although version %1 has one; no key statement can protect its clients from a stolen key"_s
                 .arg(rooted->versionText),
             u"write PelnarRootPublicEDKey into the bundle's information file"_s);
+    }
+}
+
+/// Settings with which clients never get another update. A host may give another address, or disable updates on
+/// purpose.
+void ArchiveIntake::WarnOfSettings(Engine::BundleInformation const& information, GatedVersion const& version) const
+{
+    if (version.platform != Engine::FeedPlatform::Linux)
+    {
+        return;
+    }
+    QUrl const address(QString::fromStdString(information.feedUrl));
+    bool const isUsable =
+        Engine::JudgeFeedAddress(address, information.allowsInsecureFeeds ? Engine::InsecureHttp::Anywhere
+                                                                          : Engine::InsecureHttp::LoopbackOnly)
+            .has_value();
+    if (!information.feedUrl.empty() && !isUsable)
+    {
+        m_workplace.Warn(version.path,
+                         u"has the feed address %1, which its clients refuse"_s.arg(
+                             Printable(QString::fromStdString(information.feedUrl))),
+                         u"write an https address as SUFeedURL into the bundle's information file"_s);
+    }
+    if (information.disablesUpdates)
+    {
+        m_workplace.Warn(version.path, u"has PelnarUpdatesDisabled, so its clients never get another update"_s,
+                         u"remove it from the bundle's information file, unless that is intended"_s);
     }
 }
 

@@ -13,9 +13,10 @@ namespace Pelnar::Publisher
 class ArchiveIntake
 {
 public:
-    /// \a published: the versions that clients have.
-    ArchiveIntake(Workplace const& workplace, PublishedFeed const& feed, std::vector<GatedVersion> published)
-        : m_workplace(workplace), m_feed(feed), m_versions(std::move(published))
+    /// \a published: the versions that clients have. \a signature: of the feed that will be written.
+    ArchiveIntake(Workplace const& workplace, PublishedFeed const& feed, FeedSignature signature,
+                  std::vector<GatedVersion> published)
+        : m_workplace(workplace), m_feed(feed), m_signature(signature), m_versions(std::move(published))
     {
     }
 
@@ -29,6 +30,7 @@ private:
     void TakeInstallerProgram(FolderArchive const& archive, NewItem& item, RefusalList& refusals);
     void CheckProduct(Engine::BundleInformation const& information, QString const& path);
     void WarnOf(GatedVersion const& version) const;
+    void WarnOfSettings(Engine::BundleInformation const& information, GatedVersion const& version) const;
     void Complete(NewItem& item, FolderArchive const& archive);
     void CheckClash(NewItem const& item) const;
     void CheckMachines(RefusalList& refusals);
@@ -41,6 +43,7 @@ private:
 
     Workplace const& m_workplace;
     PublishedFeed const& m_feed;
+    FeedSignature const m_signature;
     std::vector<GatedVersion> m_versions; ///< published ones, and new ones after them
     std::vector<NewItem> m_items;
     std::string m_identifier; ///< of the product, once a bundle has named it

@@ -255,7 +255,9 @@ private:
         std::vector<NewItem> items;
         if (hasNewVersion)
         {
-            ArchiveIntake intake(m_workplace, feed, published.Versions(refusals));
+            bool const isSigned = m_request.isFeedSigned || m_published.isSigned;
+            ArchiveIntake intake(m_workplace, feed, isSigned ? FeedSignature::Present : FeedSignature::Missing,
+                                 published.Versions(refusals));
             items = intake.Take(fresh, refusals);
         }
         refusals.ThrowIfAny();

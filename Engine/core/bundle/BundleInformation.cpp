@@ -46,6 +46,21 @@ bool IsTrue(std::optional<std::string> const& text)
     return text && (*text == "YES" || *text == "yes" || *text == "true" || *text == "1");
 }
 
+bool RequiresSignedFeed(PropertyListValue const& list)
+{
+    auto const entry = std::find_if(list.properties.begin(), list.properties.end(),
+                                    [](auto const& property) { return property.first == "PelnarRequiresSignedFeed"; });
+    if (entry == list.properties.end())
+    {
+        return false;
+    }
+    std::string text = entry->second.text;
+    std::transform(text.begin(), text.end(), text.begin(),
+                   [](char letter) { return letter >= 'A' && letter <= 'Z' ? char(letter - 'A' + 'a') : letter; });
+    bool const isText = entry->second.kind == PropertyListValue::Kind::Text;
+    return !isText || (text != "no" && text != "false" && text != "0");
+}
+
 } // namespace
 
 BundleInformation ParseBundleInformation(std::string_view text, std::string const& bundleName)
@@ -69,8 +84,12 @@ BundleInformation ParseBundleInformation(std::string_view text, std::string cons
         information.publicKeys = {*first, list->TextOf("PelnarNextPublicEDKey").value_or("")};
     }
     information.rootPublicKey = list->TextOf("PelnarRootPublicEDKey").value_or("");
+    information.feedUrl = list->TextOf("SUFeedURL").value_or("");
     information.purpose = PurposeOf(*list);
     information.allowsInstallerPrograms = IsTrue(list->TextOf("PelnarAllowsInstallerPrograms"));
+    information.allowsInsecureFeeds = IsTrue(list->TextOf("PelnarAllowsInsecureFeeds"));
+    information.requiresSignedFeed = RequiresSignedFeed(*list);
+    information.disablesUpdates = IsTrue(list->TextOf("PelnarUpdatesDisabled"));
     information.confirmsGoodStart = IsTrue(list->TextOf("PelnarConfirmsGoodStart"));
     information.executable = ExecutableName(*list, bundleName);
     std::string const& executable = information.executable;

@@ -28,9 +28,13 @@ struct BundleInformation
     std::string minimumSystemVersion; ///< empty if the bundle has none
     TrustedKeys publicKeys;           ///< from SUPublicEDKey and PelnarNextPublicEDKey; none without the first
     std::string rootPublicKey;        ///< from PelnarRootPublicEDKey; empty if the bundle has none
+    std::string feedUrl;              ///< from SUFeedURL; empty if the bundle has none
     std::string executable;           ///< the file's name in the bundle's folder
     BundlePurpose purpose = BundlePurpose::Application;
     bool allowsInstallerPrograms = false;
+    bool allowsInsecureFeeds = false;
+    bool requiresSignedFeed = false; ///< any value except NO counts as YES
+    bool disablesUpdates = false;
     bool confirmsGoodStart = false; ///< it confirms a good start, and is rolled back otherwise
 };
 

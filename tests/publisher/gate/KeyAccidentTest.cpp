@@ -183,6 +183,72 @@ TEST_F(Accident, RootKeyWithoutAStatementOrWithOneThatClientsRefuse)
     EXPECT_EQ(check.status, 0) << check.out << check.err;
 }
 
+TEST_F(Accident, FeedIsUnsignedAlthoughClientsOfAVersionRequireASignature)
+{
+    BundleText text = Version("1.0");
+    // Any value except NO counts as YES for clients.
+    for (char const* const value : {"YES", "JES"})
+    {
+        text.requiresSignedFeed = value;
+        m_folder.PutBundle(text);
+        ExpectRefused(Generate(),
+                      {"Test-1.0.zip: its clients require a signed feed and would refuse this one; ", "--sign-feed"});
+    }
+    ToolRun run = m_folder.Generate({QStringLiteral("--sign-feed")});
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    // A signed feed stays signed.
+    text.version = "2.0";
+    m_folder.PutBundle(text);
+    run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+    QStringList const check{QStringLiteral("check-release"), QString::fromStdString(m_folder.Path())};
+    EXPECT_EQ(RunTool(check).status, 0);
+    std::string const feed = m_folder.ContentOf("appcast.xml");
+    m_folder.Put("appcast.xml", feed.substr(0, feed.rfind("<!--")));
+    run = RunTool(check);
+    EXPECT_EQ(run.status, 1) << run.out;
+    EXPECT_NE(run.err.find("Test-2.0.zip: its clients require a signed feed and would refuse this one"),
+              std::string::npos)
+        << run.err;
+    // Also the clients of a version that was published before.
+    m_folder.PutVersion("3.0");
+    ExpectRefused(Generate(), {"Test-2.0.zip: its clients require a signed feed"});
+}
+
+TEST_F(Accident, NoSignatureIsAskedForByNoOrByABundleForMacOS)
+{
+    BundleText text = Version("1.0");
+    text.requiresSignedFeed = "No";
+    m_folder.PutBundle(text);
+    text.requiresSignedFeed = "YES";
+    m_folder.Put("Mac.zip", MakeArchive(Container::Zip, MakeMacBundle(text)));
+    ToolRun const run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.out << run.err;
+}
+
+TEST_F(Accident, BundleWhoseClientsNeverCheckAgainIsTold)
+{
+    BundleText text = Version("1.0");
+    text.feedUrl = "http://updates.example.com/appcast.xml";
+    m_folder.PutBundle(text);
+    ToolRun run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-1.0.zip: has the feed address http://updates.example.com/appcast.xml, which its "
+                           "clients refuse"),
+              std::string::npos)
+        << run.err;
+    text = Version("2.0");
+    text.feedUrl = "https://updates.example.com/appcast.xml";
+    text.disablesUpdates = "YES";
+    m_folder.PutBundle(text);
+    run = m_folder.Generate();
+    EXPECT_EQ(run.status, 0) << run.err;
+    EXPECT_NE(run.err.find("Test-2.0.zip: has PelnarUpdatesDisabled, so its clients never get another update"),
+              std::string::npos)
+        << run.err;
+    EXPECT_EQ(run.err.find("feed address"), std::string::npos) << run.err;
+}
+
 TEST_F(Accident, NewVersionForgetsTheRootKeyOrIsOlder)
 {
     BundleText text = Version("1.0");

@@ -40,6 +40,9 @@ std::string PropertyListOf(BundleText const& text)
     add("PelnarRootPublicEDKey", text.rootKey);
     add("NSExecutable", text.executable);
     add("PelnarAllowsInstallerPrograms", text.allowsInstallers);
+    add("PelnarRequiresSignedFeed", text.requiresSignedFeed);
+    add("SUFeedURL", text.feedUrl);
+    add("PelnarUpdatesDisabled", text.disablesUpdates);
     return list + "</dict></plist>\n";
 }
 

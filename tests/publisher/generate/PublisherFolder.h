@@ -28,6 +28,9 @@ struct BundleText
     std::string rootKey = {};
     std::string executable = {}; ///< NSExecutable; empty: without the entry
     std::string allowsInstallers = {};
+    std::string requiresSignedFeed = {};
+    std::string feedUrl = {};
+    std::string disablesUpdates = {};
     std::string program = {}; ///< the program's bytes; empty: a script
     std::uint32_t programMode = 0755;
 };
